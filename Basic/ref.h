@@ -1,0 +1,49 @@
+#pragma once
+// Object variables: shared, or Nothing.
+#include "Basic/runtime_error.h"
+#include <concepts>
+#include <memory>
+
+namespace basic {
+
+/// An object variable. Empty means Nothing, and using Nothing is error 91. What it names stays alive while
+/// one of its members runs, so an object may be let go of inside its own call.
+template <class T>
+class Ref {
+public:
+    Ref() = default;
+    Ref(std::nullptr_t) {}
+    template <class U>
+        requires std::convertible_to<std::shared_ptr<U>, std::shared_ptr<T>>
+    Ref(std::shared_ptr<U> p) : p_(std::move(p)) {}
+    template <class U>
+        requires std::convertible_to<std::shared_ptr<U>, std::shared_ptr<T>>
+    Ref(const Ref<U>& r) : p_(r.shared()) {}
+
+    /// By value, so that the object is held to the end of the full expression.
+    std::shared_ptr<T> operator->() const {
+        if (!p_) throw RuntimeError(kObjectVariableNotSet);
+        return p_;
+    }
+    explicit operator bool() const { return p_ != nullptr; }
+    const std::shared_ptr<T>& shared() const { return p_; }
+
+    /// VB's Is: the same object, or both Nothing.
+    friend bool operator==(const Ref& a, const Ref& b) { return a.p_ == b.p_; }
+
+private:
+    std::shared_ptr<T> p_;
+};
+
+template <class T, class... A>
+Ref<T> make(A&&... a) {
+    return std::make_shared<T>(std::forward<A>(a)...);
+}
+
+/// The object behind a Ref as another of its types, or Nothing where it is not one.
+template <class T, class U>
+Ref<T> cast(const Ref<U>& r) {
+    return std::dynamic_pointer_cast<T>(r.shared());
+}
+
+} // namespace basic

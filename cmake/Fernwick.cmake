@@ -1,0 +1,47 @@
+# What every folder's CMakeLists.txt uses: one library a folder, one test program a folder of tests.
+
+option(FERNWICK_TESTS "Build the tests" ON)
+option(FERNWICK_BENCH "Build the benchmarks" OFF)
+option(FERNWICK_FUZZ "Build the fuzz targets (clang)" OFF)
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+add_compile_options(-Wall -Wextra -Wpedantic -Wnon-virtual-dtor -Woverloaded-virtual -Werror)
+include_directories(${PROJECT_SOURCE_DIR})
+
+# fernwick_library(NAME [LINK ...] [PRIVATE_LINK ...]): a static library of all .cpp files in this folder,
+# sub-folders with a CMakeLists.txt of their own excepted. A folder without a .cpp is an interface library.
+function(fernwick_library name)
+  cmake_parse_arguments(arg "" "" "LINK;PRIVATE_LINK;FOLDERS" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS *.cpp)
+  foreach(folder IN LISTS arg_FOLDERS)
+    file(GLOB more CONFIGURE_DEPENDS ${folder}/*.cpp)
+    list(APPEND sources ${more})
+  endforeach()
+  if(sources)
+    add_library(${name} STATIC ${sources})
+    target_link_libraries(${name} PUBLIC ${arg_LINK} PRIVATE ${arg_PRIVATE_LINK})
+    target_precompile_headers(${name} PRIVATE <algorithm> <functional> <map> <memory> <optional> <string> <string_view> <vector>)
+  else()
+    add_library(${name} INTERFACE)
+    target_link_libraries(${name} INTERFACE ${arg_LINK})
+  endif()
+endfunction()
+
+# fernwick_test(NAME LINK ...): a test program of all *_test.cpp files in this folder.
+function(fernwick_test name)
+  cmake_parse_arguments(arg "" "" "LINK" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS *_test.cpp)
+  if(NOT sources)
+    return()
+  endif()
+  add_executable(${name} ${sources})
+  target_link_libraries(${name} PRIVATE ${arg_LINK} GTest::gtest GTest::gmock GTest::gtest_main)
+  target_precompile_headers(${name} PRIVATE <gtest/gtest.h> <gmock/gmock.h> <string> <vector>)
+  target_compile_definitions(${name} PRIVATE FERNWICK_SOURCE_DIR="${PROJECT_SOURCE_DIR}" FERNWICK_BINARY_DIR="${PROJECT_BINARY_DIR}")
+  add_test(NAME ${name} COMMAND ${name} --gtest_brief=1)
+  set_tests_properties(${name} PROPERTIES TIMEOUT 300)
+endfunction()
