@@ -8,12 +8,13 @@
 
 namespace designtargetaccess {
 
-/// What ValidateReference answers.
+/// What ValidateReference answers of one reference.
 struct ReferenceValidity {
-    /// The target's projects may carry the reference.
+    /// The target's projects may carry it.
     bool accepted = false;
-    /// It is one that the target's projects must carry.
+    /// The target's projects must carry it.
     bool required = false;
+    bool known() const { return accepted || required; }
 };
 
 /// One device platform. Numbers come as text.
@@ -41,15 +42,14 @@ public:
     /// GUID texts from 0.
     virtual void GetSupportedReferences(std::vector<std::string>& guids) const = 0;
     virtual std::int32_t NumSupportedReferences() const = 0;
-    /// By the reference's name or, where `guid` is given, by its library.
-    virtual ReferenceValidity ValidateReference(const std::string& name, const std::string& guid) const = 0;
-    /// The second look-up: whether the target's devices have the module of a library. GUID text, braces optional.
-    virtual bool ValidateModule(const std::string& guid) const = 0;
-    /// Whether controls of this class ("QLButton") are placed with TabStop off.
-    virtual bool IsTabStopOff(const std::string& className) const = 0;
-    /// Two parallel lists from 0: "QLButton.FontSize", and "#" with a number or a plain text.
-    virtual void GetControlDefaults(std::vector<std::string>& names, std::vector<std::string>& values) const = 0;
-    virtual std::int32_t NumControlDefaults() const = 0;
+    /// `reference` is a library's GUID in braces or the name of the library.
+    virtual ReferenceValidity ValidateReference(const std::string& reference) const = 0;
+    /// The second look-up: whether the target knows a module by its identifier (a GUID in braces).
+    virtual bool FindModule(const std::string& moduleId) const = 0;
+    /// Two parallel lists from 0 of what new controls take: "Control.Property", and a number behind "#" or a
+    /// plain text.
+    virtual void GetPropertyDefaults(std::vector<std::string>& names, std::vector<std::string>& values) const = 0;
+    virtual std::int32_t NumPropertyDefaults() const = 0;
     /// Paths of the target's templates; "" for none.
     virtual std::string VBPTemplate() const = 0;
     virtual std::string FormTemplate() const = 0;

@@ -1,0 +1,139 @@
+#pragma once
+// The controls that forms are made of.
+#include "Add-in/platform/form.h"
+
+namespace fernwick {
+
+class CommandButton : public Control {
+public:
+    template <class F>
+    CommandButton(F* form, std::string name, std::string caption, void (F::*click)())
+        : Control(form, std::move(name)), Caption(this, std::move(caption)) {
+        own_ = Click.connect([form, click] { (form->*click)(); });
+    }
+    Property<std::string> Caption;
+    /// Return presses it; Escape presses it.
+    bool Default = false, Cancel = false;
+    Event<> Click;
+    /// What a user does: nothing while it is hidden or disabled.
+    void press() {
+        if (Visible() && Enabled()) Click.raise();
+    }
+
+private:
+    Subscription own_;
+};
+
+/// Value is 0 (clear), 1 (ticked) or 2 (grey). Setting another value raises Click whoever sets it.
+class CheckBox : public Control {
+public:
+    CheckBox(Form* form, std::string name, std::string caption = {})
+        : Control(form, std::move(name)), Caption(this, std::move(caption)) {
+        own_ = Value.watch([this](int) { Click.raise(); });
+    }
+    Property<std::string> Caption;
+    Property<int> Value{this, 0};
+    Event<> Click;
+
+private:
+    Subscription own_;
+};
+
+class Label : public Control {
+public:
+    Label(Form* form, std::string name, std::string caption = {})
+        : Control(form, std::move(name)), Caption(this, std::move(caption)) {}
+    Property<std::string> Caption;
+};
+
+/// Percent, 0 to 100.
+class ProgressBar : public Control {
+public:
+    using Control::Control;
+    Property<float> Value{this, 0.0F};
+};
+
+/// In simple-text mode. Setting an equal text tells nobody, so Refresh says that a text was set.
+class StatusBar : public Control {
+public:
+    using Control::Control;
+    Property<std::string> SimpleText{this};
+    Event<> Refreshed;
+    void Refresh() { Refreshed.raise(); }
+};
+
+class PictureBox : public Control {
+public:
+    PictureBox(Form* form, std::string name, std::string picture = {}, bool visible = true)
+        : Control(form, std::move(name)), Picture(this, std::move(picture)) {
+        Visible.design(visible);
+    }
+    /// Name of the picture that the front end draws.
+    Property<std::string> Picture;
+};
+
+/// MSComCtl2.Animation.
+class Animation : public Control {
+public:
+    Animation(Form* form, std::string name, bool visible = false) : Control(form, std::move(name)) {
+        Visible.design(visible);
+    }
+    /// The file that was opened; "" for none.
+    Property<std::string> FileName{this};
+    /// How often it plays: 0 not at all, -1 for ever.
+    Property<int> Playing{this, 0};
+
+    void Open(const std::string& path) { FileName(path); }
+    void Play(int repeat) { Playing(repeat); }
+    void Stop() { Playing(0); }
+};
+
+/// Rows with data and one selected row. Setting ListIndex raises Click whoever sets it.
+class ListBox : public Control {
+public:
+    struct Row {
+        std::string text;
+        long data = 0;
+        bool ticked = false;
+    };
+    struct Change {
+        enum Kind { Reset, Inserted, Removed, Altered } kind;
+        int row;
+    };
+
+    using Control::Control;
+    template <class F>
+    ListBox(F* form, std::string name, void (F::*click)(), void (F::*dblClick)() = nullptr)
+        : Control(form, std::move(name)) {
+        click_ = Click.connect([form, click] { (form->*click)(); });
+        if (dblClick) dblClick_ = DblClick.connect([form, dblClick] { (form->*dblClick)(); });
+    }
+    Event<Change> changed;
+    Event<> Click, DblClick;
+
+    int ListCount() const { return int(rows_.size()); }
+    const std::string& List(int i) const { return row(i).text; }
+    long ItemData(int i) const { return row(i).data; }
+    void ItemData(int i, long data) { row(i).data = data; }
+    bool Selected(int i) const { return row(i).ticked; }
+    void Selected(int i, bool ticked);
+    int NewIndex() const { return newIndex_; }
+    void AddItem(std::string text);
+    /// Raises no Click, as VB raises none.
+    void RemoveItem(int i);
+    void Clear();
+    int ListIndex() const { return listIndex_; }
+    /// -1 for none; error 380 outside of the list.
+    void ListIndex(int i);
+
+private:
+    /// Error 381 outside of the list.
+    const Row& row(int i) const;
+    Row& row(int i) { return const_cast<Row&>(std::as_const(*this).row(i)); }
+
+    std::vector<Row> rows_;
+    int listIndex_ = -1, newIndex_ = -1;
+    Subscription click_, dblClick_;
+};
+
+} // namespace fernwick

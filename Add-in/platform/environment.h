@@ -1,0 +1,15 @@
+#pragma once
+#include <string>
+
+namespace fernwick {
+
+/// The environment of the process, which the add-ins and controls in it share.
+class Environment {
+public:
+    virtual ~Environment() = default;
+    /// "" for a variable that is not set.
+    virtual std::string GetEnvironmentVariable(const std::string& name) const = 0;
+    virtual void SetEnvironmentVariable(const std::string& name, const std::string& value) = 0;
+};
+
+} // namespace fernwick

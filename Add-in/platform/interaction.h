@@ -1,0 +1,55 @@
+#pragma once
+// What shows forms and asks the user. Front ends implement it.
+#include <string>
+
+namespace fernwick {
+
+class Form;
+
+enum VbMsgBoxResult : int { vbOK = 1, vbCancel = 2, vbYes = 6, vbNo = 7 };
+
+/// Buttons and icon of a box, added up.
+enum VbMsgBoxStyle : int {
+    vbOKOnly = 0,
+    vbOKCancel = 1,
+    vbYesNoCancel = 3,
+    vbYesNo = 4,
+    vbCritical = 16,
+    vbQuestion = 32,
+    vbExclamation = 48,
+    vbInformation = 64,
+};
+
+enum MousePointerShape : int { vbDefault = 0, vbArrow = 1, vbHourglass = 11 };
+
+inline constexpr int kCancelWasSelected = 32755;
+
+/// MSComDlg.CommonDialog, as far as it is used.
+struct CommonDialog {
+    bool CancelError = false;
+    std::string DialogTitle;
+    std::string InitDir;
+    std::string FileName;
+    std::string DefaultExt;
+    /// Pairs of description and pattern, all separated by "|".
+    std::string Filter;
+    int FilterIndex = 1;
+};
+
+class Interaction {
+public:
+    virtual ~Interaction() = default;
+
+    /// Runs the form's first Activate and returns when the form is hidden or unloaded. An error that a handler
+    /// lets out ends the form and comes out here; it never travels through a window system's event loop.
+    virtual void showModal(Form& form) = 0;
+    /// `buttons` is a sum of VbMsgBoxStyle.
+    virtual int MsgBox(const std::string& text, int buttons, const std::string& title) = 0;
+    /// FileName becomes the chosen path. With CancelError, Cancel is error 32755.
+    virtual void ShowSave(CommonDialog& dialog) = 0;
+    virtual void MessageBeep(int type) = 0;
+    /// The cursor outside of forms: LoadCursor and SetCursor.
+    virtual void SetCursor(MousePointerShape shape) = 0;
+};
+
+} // namespace fernwick

@@ -1,0 +1,41 @@
+#pragma once
+// All that the add-in is given of the world.
+#include "Add-in/platform/classes.h"
+#include "Add-in/platform/clipboard.h"
+#include "Add-in/platform/clock.h"
+#include "Add-in/platform/environment.h"
+#include "Add-in/platform/event_loop.h"
+#include "Add-in/platform/files.h"
+#include "Add-in/platform/interaction.h"
+#include "Add-in/platform/processes.h"
+#include "Add-in/platform/registry.h"
+#include "Add-in/platform/screen.h"
+#include "Add-in/platform/shell.h"
+
+namespace fernwick {
+
+/// The App object of the add-in's project, and what the maker supplies with the installation.
+struct App {
+    std::string Title = "QLVBAddIn";
+    /// Folder of the add-in's own program.
+    std::string Path;
+    std::string SupportWebAddress;
+    std::string WebAddress;
+};
+
+struct Platform {
+    Interaction& interaction;
+    EventLoop& loop;
+    Registry& registry;
+    FileSystemObject& files;
+    Processes& processes;
+    Classes& classes;
+    Environment& environment;
+    Clipboard& clipboard;
+    Shell& shell;
+    Screen& screen;
+    Clock& clock;
+    App app;
+};
+
+} // namespace fernwick

@@ -1,0 +1,24 @@
+#pragma once
+// Starting programs and waiting for them.
+#include <cstdint>
+#include <string>
+
+namespace fernwick {
+
+enum ShowWindow : int { SW_SHOWMINIMIZED = 2 };
+
+class Processes {
+public:
+    virtual ~Processes() = default;
+
+    /// `commandLine` is split by the quoting rules of Windows command lines; there is no shell. False when the
+    /// program could not be started, or may not be. `process` is then 0.
+    virtual bool CreateProcess(const std::string& commandLine, const std::string& workingFolder, int showWindow,
+                               std::uint32_t& process) = 0;
+    /// Waits for the end without a limit. 0 when it has ended.
+    virtual std::uint32_t WaitForSingleObject(std::uint32_t process) = 0;
+    virtual bool GetExitCodeProcess(std::uint32_t process, std::int32_t& code) = 0;
+    virtual void CloseHandle(std::uint32_t process) = 0;
+};
+
+} // namespace fernwick
