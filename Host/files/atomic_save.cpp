@@ -1,0 +1,147 @@
+#include "Host/files/atomic_save.h"
+#include "Host/files/system_error.h"
+#include <cerrno>
+#include <climits>
+#include <cstdio>
+#include <cstdlib>
+#include <fcntl.h>
+#include <fmt/format.h>
+#include <random>
+#include <sys/stat.h>
+#include <sys/statvfs.h>
+#include <unistd.h>
+#include <utility>
+
+namespace host {
+namespace {
+
+std::string folderOfPath(const std::string& path) {
+    const auto slash = path.rfind('/');
+    if (slash == std::string::npos) return ".";
+    return slash == 0 ? "/" : path.substr(0, slash);
+}
+
+std::string readLink(const std::string& path) {
+    std::string target(PATH_MAX, '\0');
+    const auto size = ::readlink(path.c_str(), target.data(), target.size());
+    target.resize(size < 0 ? 0 : std::size_t(size));
+    return target;
+}
+
+/// The file that a save to `path` replaces: where a chain of links ends, also when nothing stands there yet.
+std::string throughLinks(std::string path) {
+    constexpr int kMostLinks = 40;
+    for (int followed = 0; followed < kMostLinks; ++followed) {
+        const auto target = readLink(path);
+        if (target.empty()) return path;
+        path = target.front() == '/' ? target : folderOfPath(path) + "/" + target;
+    }
+    throw systemError(ELOOP, "cannot be saved", path);
+}
+
+/// The new file while it is being written; gone with this object unless it took the old one's place.
+class SavingFile {
+public:
+    SavingFile(const std::string& target, mode_t mode) : target_(target) {
+        std::random_device random;
+        for (int tries = 0; descriptor_ < 0 && tries < 100; ++tries) {
+            path_ = fmt::format("{}/.fernwick-{:08x}", folderOfPath(target), random());
+            descriptor_ = ::open(path_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, mode);
+            if (descriptor_ < 0 && errno != EEXIST) break;
+        }
+        if (descriptor_ < 0) fail(errno == ENOENT ? ENOTDIR : errno);
+    }
+    SavingFile(const SavingFile&) = delete;
+    SavingFile& operator=(const SavingFile&) = delete;
+    ~SavingFile() {
+        if (descriptor_ >= 0) ::close(descriptor_);
+        if (!path_.empty()) ::unlink(path_.c_str());
+    }
+
+    void keepModeAndOwner(const struct stat& old) {
+        // Where the owner can't be kept (somebody else's file in a shared folder) the file is still saved.
+        if (::fchown(descriptor_, old.st_uid, old.st_gid) != 0 && errno != EPERM) fail(errno);
+        if (::fchmod(descriptor_, old.st_mode & 07777) != 0) fail(errno);
+    }
+
+    void write(std::string_view bytes) {
+        while (!bytes.empty()) {
+            const auto written = ::write(descriptor_, bytes.data(), bytes.size());
+            if (written < 0 && errno == EINTR) continue;
+            if (written < 0) fail(errno);
+            bytes.remove_prefix(std::size_t(written));
+        }
+    }
+
+    struct stat finish() {
+        struct stat state {};
+        if (::fsync(descriptor_) != 0 || ::fstat(descriptor_, &state) != 0) fail(errno);
+        if (::close(std::exchange(descriptor_, -1)) != 0) fail(errno);
+        if (::rename(path_.c_str(), target_.c_str()) != 0) fail(errno);
+        path_.clear();
+        return state;
+    }
+
+private:
+    [[noreturn]] void fail(int error) { throw systemError(error, "cannot be saved", target_); }
+
+    std::string target_, path_;
+    int descriptor_ = -1;
+};
+
+void syncFolder(const std::string& folder) {
+    const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (descriptor < 0) return; // a folder that may be written but not read: the rename itself has succeeded
+    ::fsync(descriptor);
+    ::close(descriptor);
+}
+
+bool onReadOnlySystem(const std::string& path) {
+    struct statvfs system {};
+    return ::statvfs(path.c_str(), &system) == 0 && (system.f_flag & ST_RDONLY);
+}
+
+[[noreturn]] void refuseChangedFile(const std::string& path) {
+    throw hostError(basic::kPathFileAccessError,
+                    fmt::format("{}: was changed by another program since it was read; it is not overwritten", path));
+}
+
+FileStamp replaceFile(const std::string& path, std::string_view bytes, const struct stat* old) {
+    constexpr mode_t kNewFile = 0666, kPrivateWhileWritten = 0600;
+    SavingFile saving(path, old ? kPrivateWhileWritten : kNewFile);
+    saving.write(bytes);
+    if (old) saving.keepModeAndOwner(*old);
+    const auto state = saving.finish();
+    syncFolder(folderOfPath(path));
+    return stampOf(state, bytes);
+}
+
+} // namespace
+
+bool isReadOnly(const std::string& path) {
+    struct stat state {};
+    if (::stat(path.c_str(), &state) != 0) return errno == EACCES;
+    constexpr mode_t kAnyWriteBit = S_IWUSR | S_IWGRP | S_IWOTH;
+    return !(state.st_mode & kAnyWriteBit) || onReadOnlySystem(path) || ::access(path.c_str(), W_OK) != 0;
+}
+
+FileStamp atomicSave(const std::string& path, std::string_view bytes, const std::optional<FileStamp>& asRead) {
+    const auto target = throughLinks(path);
+    struct stat old {};
+    if (::stat(target.c_str(), &old) != 0) {
+        if (errno != ENOENT) throw systemError(errno, "cannot be saved", path);
+        return replaceFile(target, bytes, nullptr);
+    }
+    if (!S_ISREG(old.st_mode)) throw systemError(EISDIR, "cannot be saved", path);
+    if (isReadOnly(target)) throw systemError(EACCES, "is read-only", path);
+    const bool sameSize = std::uint64_t(old.st_size) == bytes.size();
+    const bool written = asRead && !stampOf(old, {}).sameFileState(*asRead);
+    if (written || sameSize) {
+        const auto now = readFile(target);
+        if (now.bytes == bytes) return now.stamp;
+        if (written && now.stamp.digest != asRead->digest) refuseChangedFile(path);
+    }
+    return replaceFile(target, bytes, &old);
+}
+
+} // namespace host

@@ -1,0 +1,25 @@
+#include "Host/files/group_file.h"
+#include "Host/files/encoding.h"
+#include "Host/files/fold.h"
+
+namespace host {
+
+GroupFile::GroupFile(std::string_view bytes, const basic::CodePage& codePage) : lines_(splitLines(bytes)) {
+    for (std::size_t i = 0; i < lines_.size(); ++i) {
+        const std::string_view line = lines_[i].text;
+        const auto equals = line.find('=');
+        if (equals == std::string_view::npos) continue;
+        const auto key = trimBlanks(line.substr(0, equals));
+        const bool startUp = equalAsciiFolded(key, "StartupProject");
+        if (!startUp && !equalAsciiFolded(key, "Project")) continue;
+        entries_.push_back({codePage.decode(trimBlanks(line.substr(equals + 1))), startUp, i + 1});
+    }
+}
+
+bool GroupFile::looksLikeGroup(std::string_view bytes) noexcept {
+    if (bytes.substr(0, kByteOrderMark.size()) == kByteOrderMark) bytes.remove_prefix(kByteOrderMark.size());
+    constexpr std::string_view kHead = "VBGROUP";
+    return equalAsciiFolded(trimBlanks(bytes.substr(0, kHead.size())), kHead);
+}
+
+} // namespace host

@@ -1,0 +1,33 @@
+#pragma once
+// A project group (.vbg): the projects that are open together.
+#include "Basic/code_page.h"
+#include "Host/files/text_file.h"
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace host {
+
+struct GroupEntry {
+    std::string path; ///< relative to the group's folder, with "\" as it is written
+    bool startUp = false;
+    std::size_t line = 0; ///< from 1
+};
+
+class GroupFile {
+public:
+    /// Takes any bytes; lines that list no project are kept.
+    GroupFile(std::string_view bytes, const basic::CodePage& codePage);
+
+    /// True when the bytes begin as a group does.
+    static bool looksLikeGroup(std::string_view bytes) noexcept;
+
+    std::string bytes() const { return joinLines(lines_); }
+    const std::vector<GroupEntry>& entries() const { return entries_; }
+
+private:
+    std::vector<TextLine> lines_;
+    std::vector<GroupEntry> entries_;
+};
+
+} // namespace host

@@ -1,0 +1,69 @@
+#include "Host/files/path_lookup.h"
+#include "Host/files/fold.h"
+#include <algorithm>
+#include <filesystem>
+#include <system_error>
+#include <unistd.h>
+
+namespace host {
+namespace {
+
+bool isSeparator(char c) noexcept { return c == '\\' || c == '/'; }
+
+std::string joinPath(const std::string& folder, std::string_view name) {
+    std::string path = folder;
+    if (path.empty() || path.back() != '/') path += '/';
+    return path.append(name);
+}
+
+std::string parentOf(const std::string& folder) {
+    const auto slash = folder.rfind('/');
+    return slash == std::string::npos || slash == 0 ? "/" : folder.substr(0, slash);
+}
+
+bool isThere(const std::string& path) noexcept { return ::access(path.c_str(), F_OK) == 0; }
+
+} // namespace
+
+std::string PathLookup::find(const std::string& folder, std::string_view written) {
+    std::string path = folder;
+    if (!written.empty() && isSeparator(written.front())) path = "/";
+    while (!written.empty()) {
+        const auto end = std::find_if(written.begin(), written.end(), isSeparator);
+        const auto name = written.substr(0, std::size_t(end - written.begin()));
+        written.remove_prefix(std::min(written.size(), name.size() + 1));
+        if (name.empty() || name == ".") continue;
+        path = name == ".." ? parentOf(path) : childOf(path, name);
+    }
+    return path;
+}
+
+std::string PathLookup::childOf(const std::string& folder, std::string_view name) {
+    const auto exact = joinPath(folder, name);
+    if (isThere(exact)) return exact;
+    const auto& names = namesIn(folder);
+    const auto found = names.find(foldCase(name));
+    return found == names.end() ? exact : joinPath(folder, found->second);
+}
+
+const PathLookup::Names& PathLookup::namesIn(const std::string& folder) {
+    const auto [entry, isNew] = listed_.try_emplace(folder);
+    if (!isNew) return entry->second;
+    std::error_code error;
+    for (std::filesystem::directory_iterator file(folder, error), end; !error && file != end; file.increment(error)) {
+        const auto name = file->path().filename().string();
+        auto& kept = entry->second[foldCase(name)];
+        if (kept.empty() || name < kept) kept = name; // one and the same of several, whatever order the folder gives
+    }
+    return entry->second;
+}
+
+std::string writtenPath(const std::string& folder, const std::string& path) {
+    const std::filesystem::path base(folder), target(path);
+    auto relative = target.lexically_relative(base).string();
+    if (relative.empty()) relative = path;
+    std::replace(relative.begin(), relative.end(), '/', '\\');
+    return relative;
+}
+
+} // namespace host
