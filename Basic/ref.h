@@ -14,25 +14,25 @@ public:
     Ref() = default;
     Ref(std::nullptr_t) {}
     template <class U>
-        requires std::convertible_to<std::shared_ptr<U>, std::shared_ptr<T>>
-    Ref(std::shared_ptr<U> p) : p_(std::move(p)) {}
-    template <class U>
-        requires std::convertible_to<std::shared_ptr<U>, std::shared_ptr<T>>
-    Ref(const Ref<U>& r) : p_(r.shared()) {}
+        requires std::convertible_to<std::shared_ptr<U>, std::shared_ptr<T>> Ref(std::shared_ptr<U> p)
+            : p_(std::move(p)) {}
+        template <class U>
+            requires std::convertible_to<std::shared_ptr<U>, std::shared_ptr<T>> Ref(const Ref<U>& r)
+                : p_(r.shared()) {}
 
-    /// By value, so that the object is held to the end of the full expression.
-    std::shared_ptr<T> operator->() const {
-        if (!p_) throw RuntimeError(kObjectVariableNotSet);
-        return p_;
-    }
-    explicit operator bool() const { return p_ != nullptr; }
-    const std::shared_ptr<T>& shared() const { return p_; }
+            /// By value, so that the object is held to the end of the full expression.
+            std::shared_ptr<T> operator->() const {
+                if (!p_) throw RuntimeError(kObjectVariableNotSet);
+                return p_;
+            }
+            explicit operator bool() const { return p_ != nullptr; }
+            const std::shared_ptr<T>& shared() const { return p_; }
 
-    /// VB's Is: the same object, or both Nothing.
-    friend bool operator==(const Ref& a, const Ref& b) { return a.p_ == b.p_; }
+            /// VB's Is: the same object, or both Nothing.
+            friend bool operator==(const Ref& a, const Ref& b) { return a.p_ == b.p_; }
 
-private:
-    std::shared_ptr<T> p_;
+        private:
+            std::shared_ptr<T> p_;
 };
 
 template <class T, class... A>
