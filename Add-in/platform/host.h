@@ -46,9 +46,8 @@ public:
 class Windows : public Object {
 public:
     /// Creates the document object of `progId` and a dockable window around it, hidden at first.
-    virtual Ref<Window> CreateToolWindow(const Ref<AddIn>& addIn, const std::string& progId,
-                                         const std::string& caption, const std::string& guidPosition,
-                                         Ref<Object>& document) = 0;
+    virtual Ref<Window> CreateToolWindow(const Ref<AddIn>& addIn, const std::string& progId, const std::string& caption,
+                                         const std::string& guidPosition, Ref<Object>& document) = 0;
     virtual std::vector<Ref<Window>> items() const = 0;
 };
 

@@ -14,8 +14,7 @@ VariantCases(F...) -> VariantCases<F...>;
 
 std::int32_t asLong(const Variant& value) {
     return std::visit(VariantCases{[](std::monostate) { return std::int32_t{0}; },
-                                   [](bool b) { return std::int32_t{b ? -1 : 0}; },
-                                   [](std::int32_t n) { return n; },
+                                   [](bool b) { return std::int32_t{b ? -1 : 0}; }, [](std::int32_t n) { return n; },
                                    [](double d) { return basic::CLng(d); },
                                    [](const std::string& text) { return basic::CLng(text); }},
                       value);

@@ -1,0 +1,170 @@
+#include "Add-in/platform/controls.h"
+#include <gtest/gtest.h>
+
+using namespace fernwick;
+
+namespace {
+
+class frmQuestion : public Form {
+public:
+    using Form::Form;
+    const char* typeName() const override { return "frmQuestion"; }
+    Label lblText{this, "lblText", "as designed"};
+    CheckBox chkAgain{this, "chkAgain", "Again"};
+    ListBox lstRows{this, "lstRows", &frmQuestion::lstRows_Click};
+    CommandButton btnOK{this, "btnOK", "OK", &frmQuestion::btnOK_Click};
+    PictureBox failedImg{this, "failedImg", "failed", false};
+    int Result = 0, activations = 0, clicks = 0, unloads = 0;
+    bool fail = false;
+
+private:
+    void Form_Load() override { lstRows.AddItem("first"); }
+    void Form_Activate() override {
+        ++activations;
+        if (fail) throw basic::RuntimeError(5, "from Activate");
+    }
+    void Form_Unload() override { ++unloads; }
+    void btnOK_Click() {
+        Result = 1;
+        Unload();
+    }
+    void lstRows_Click() {
+        ++clicks;
+        if (lstRows.ListIndex() == 2) lstRows.RemoveItem(2);
+    }
+};
+
+struct Presser : Interaction {
+    std::function<void(Form&)> act = [](Form& form) { dynamic_cast<CommandButton&>(form.control("btnOK")).press(); };
+    void showModal(Form& form) override {
+        form.activate();
+        act(form);
+    }
+    int MsgBox(const std::string&, int, const std::string&) override { return vbOK; }
+    void ShowSave(CommonDialog&) override {}
+    void MessageBeep(int) override {}
+    void SetCursor(MousePointerShape) override {}
+};
+
+} // namespace
+
+TEST(Form, FieldsOutliveUnloadAndControlsComeBackAsDesigned) {
+    Presser user;
+    frmQuestion form{user};
+    form.Load();
+    form.lblText.Caption("asked");
+    form.lblText.Caption("asked again");
+    form.failedImg.Visible(true);
+    form.ShowModal();
+    EXPECT_EQ(form.Result, 1);
+    EXPECT_FALSE(form.isLoaded());
+    EXPECT_FALSE(form.Visible());
+    EXPECT_EQ(form.unloads, 1);
+    form.Load();
+    EXPECT_EQ(form.lblText.Caption(), "as designed");
+    EXPECT_FALSE(form.failedImg.Visible());
+    EXPECT_EQ(form.Result, 1);
+}
+
+TEST(Form, ShowingAShownFormIsError400) {
+    Presser user;
+    frmQuestion form{user};
+    int number = 0;
+    user.act = [&](Form& shown) {
+        number = basic::attempt([&] { shown.ShowModal(); }).Number;
+        shown.activate();
+        shown.Unload();
+    };
+    form.ShowModal();
+    EXPECT_EQ(number, 400);
+    EXPECT_EQ(form.activations, 2);
+}
+
+TEST(Form, AnErrorLetOutEndsTheFormAndComesOut) {
+    Presser user;
+    frmQuestion form{user};
+    form.fail = true;
+    EXPECT_EQ(basic::attempt([&] { form.ShowModal(); }).Description, "from Activate");
+    EXPECT_FALSE(form.isLoaded());
+    EXPECT_FALSE(form.Visible());
+}
+
+TEST(Form, UnknownControlIsError730) {
+    Presser user;
+    frmQuestion form{user};
+    EXPECT_EQ(basic::attempt([&] { form.control("btnNone"); }).Number, 730);
+    EXPECT_EQ(&form.control("chkAgain"), &form.chkAgain);
+}
+
+TEST(CommandButton, DisabledOrHiddenIsNotPressed) {
+    Presser user;
+    frmQuestion form{user};
+    form.Load();
+    form.btnOK.Enabled(false);
+    form.btnOK.press();
+    form.btnOK.Enabled(true);
+    form.btnOK.Visible(false);
+    form.btnOK.press();
+    EXPECT_EQ(form.Result, 0);
+    form.btnOK.Visible(true);
+    form.btnOK.press();
+    EXPECT_EQ(form.Result, 1);
+}
+
+TEST(CheckBox, SettingAnotherValueClicks) {
+    Presser user;
+    frmQuestion form{user};
+    int clicks = 0;
+    const auto watch = form.chkAgain.Click.connect([&] { ++clicks; });
+    form.chkAgain.Value(1);
+    form.chkAgain.Value(1);
+    EXPECT_EQ(clicks, 1);
+}
+
+TEST(ListBox, SelectsClicksAndRemoves) {
+    Presser user;
+    frmQuestion form{user};
+    form.Load();
+    for (const auto* text : {"second", "third"}) form.lstRows.AddItem(text);
+    EXPECT_EQ(form.lstRows.NewIndex(), 2);
+    form.lstRows.ListIndex(1);
+    form.lstRows.ListIndex(2); // its handler removes the row that was clicked
+    EXPECT_EQ(form.clicks, 2);
+    EXPECT_EQ(form.lstRows.ListIndex(), -1);
+    EXPECT_EQ(form.lstRows.ListCount(), 2);
+    EXPECT_EQ(basic::attempt([&] { form.lstRows.ListIndex(2); }).Number, 380);
+    EXPECT_EQ(basic::attempt([&] { form.lstRows.List(2); }).Number, 381);
+    form.lstRows.ListIndex(1);
+    form.lstRows.RemoveItem(0);
+    EXPECT_EQ(form.lstRows.ListIndex(), 0);
+}
+
+TEST(Property, WatcherMayEndItselfSetAgainOrDestroyTheProperty) {
+    auto property = std::make_unique<Property<int>>(1);
+    std::vector<int> told;
+    Subscription self;
+    self = property->watch([&](int v) {
+        told.push_back(v);
+        self.reset();
+    });
+    const auto again = property->watch([&](int v) {
+        told.push_back(v);
+        if (v == 2) (*property)(3);
+    });
+    const auto kill = property->watch([&](int v) {
+        told.push_back(-v);
+        if (v == 3) property.reset();
+    });
+    (*property)(2);
+    EXPECT_FALSE(property);
+    EXPECT_EQ(told, (std::vector<int>{2, 2, 3, -3})); // the outer -2 is not told: the property died within
+}
+
+TEST(Property, EqualValuesTellNobody) {
+    Property<std::string> property{"a"};
+    int told = 0;
+    const auto watch = property.watch([&](const std::string&) { ++told; });
+    property("a");
+    property("b");
+    EXPECT_EQ(told, 1);
+}
