@@ -1,0 +1,69 @@
+#pragma once
+// A form or class file: .frm .ctl .pag .dsr .dob, and the smaller head of .cls and .bas.
+#include "Host/files/form_block.h"
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace host {
+
+/// What is wrong with a line of the head. The rest of the file stays usable.
+struct FormProblem {
+    std::size_t line = 0; ///< physical line, from 1
+    std::string text;
+};
+
+/// An `Object =` line of a form: "{guid}#version#lcid" and the file, or "*\Aproject" with no second text.
+struct ObjectLine {
+    std::string library, file;
+};
+
+/// The head of the file as a tree over its lines, and the code behind it as text. What was read is written
+/// back byte for byte, whatever is wrong with it. The head is: the VERSION line, Object lines, one balanced
+/// Begin/End block, and the run of lines that begin with "Attribute " in the first column; line 1 of the code
+/// window is the next line. All parts of the head may be missing.
+class FormFile {
+public:
+    /// Blocks nested deeper than this are kept as plain lines, with a problem.
+    static constexpr std::size_t kDeepest = 200;
+    /// Problems beyond this number are not listed.
+    static constexpr std::size_t kMostProblems = 1000;
+
+    /// `text` is the whole file in UTF-8. Never fails, and takes time in proportion to the text's length.
+    static FormFile parse(std::string_view text);
+
+    /// The whole file again.
+    std::string text() const { return head() + code_; }
+    std::string head() const;
+
+    const std::string& code() const { return code_; }
+    void code(std::string text) { code_ = std::move(text); }
+    /// The physical line, from 1, of line 1 of the code window.
+    std::size_t firstCodeLine() const;
+
+    /// The text behind "VERSION", "" without such a line: "5.00", or "1.0 CLASS".
+    std::string version() const;
+    std::vector<ObjectLine> objects() const;
+    /// The form itself; null where the file has no Begin.
+    const std::shared_ptr<FormBlock>& root() const { return root_; }
+
+    /// The literal of a file attribute such as "VB_Name".
+    std::optional<std::string> attribute(std::string_view name) const;
+    /// Writes it in its line, or as a new line behind the others. True when the text changed.
+    bool attribute(std::string_view name, std::string_view literal);
+
+    const std::vector<FormProblem>& problems() const { return problems_; }
+
+private:
+    friend class FormReader;
+    std::vector<std::string> before_; // VERSION, Object and unknown lines
+    std::shared_ptr<FormBlock> root_;
+    std::vector<std::string> between_; // what an End too many leaves over
+    std::vector<std::string> attributes_;
+    std::string code_;
+    std::vector<FormProblem> problems_;
+};
+
+} // namespace host
