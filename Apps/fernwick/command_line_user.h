@@ -1,0 +1,65 @@
+#pragma once
+// The add-in's user at the command line.
+#include "Add-in/platform/controls.h"
+#include "Apps/fernwick/answers.h"
+#include "Apps/fernwick/console.h"
+#include <functional>
+#include <vector>
+
+namespace cli {
+
+/// A box or question as it was shown, with the answer that it got.
+struct ShownBox {
+    std::string title;
+    std::string text;
+    std::string answer;
+    bool critical = false;
+};
+
+/// What a question may want to know of the run.
+struct UserContext {
+    /// Whether something in the host is not saved yet.
+    std::function<bool()> hostHasUnsaved = [] { return true; };
+    /// The design target of --device; "" for none.
+    std::string device;
+    /// The row of a device list that shows this design target, -1 for none.
+    std::function<int(const std::string& device)> deviceRow = [](const std::string&) { return -1; };
+};
+
+/// Shows progress forms as a bar and boxes as lines, and answers from the options, at the terminal, or from the
+/// table of answers. Nothing ever blocks a script, and no question is answered for ever: one that keeps coming
+/// back ends the run.
+class CommandLineUser : public fernwick::Interaction {
+public:
+    CommandLineUser(Console& console, Answers answers, UserContext context)
+        : console_(console), answers_(std::move(answers)), context_(std::move(context)) {}
+
+    void showModal(fernwick::Form& form) override;
+    int MsgBox(const std::string& text, int buttons, const std::string& title) override;
+    /// The command line chooses no files: Cancel.
+    void ShowSave(fernwick::CommonDialog& dialog) override;
+    void MessageBeep(int) override {}
+    void SetCursor(fernwick::MousePointerShape) override {}
+
+    UserContext& context() { return context_; }
+    const std::vector<ShownBox>& shown() const { return shown_; }
+    /// Whether a device had to be chosen and could not be.
+    bool deviceWasMissing() const { return deviceWasMissing_; }
+
+private:
+    void answerForm(fernwick::Form& form);
+    void chooseDevice(fernwick::Form& form);
+    Reply replyTo(const Question* question, Reply otherwise, const std::string& prompt, bool canBeYes);
+    void show(const std::string& title, const std::string& text, int buttons);
+    void guardAgainstRepeats(const std::string& what, Reply& reply, Reply harmless);
+
+    Console& console_;
+    Answers answers_;
+    UserContext context_;
+    std::vector<ShownBox> shown_;
+    std::string lastQuestion_;
+    int repeats_ = 0;
+    bool deviceWasMissing_ = false;
+};
+
+} // namespace cli
