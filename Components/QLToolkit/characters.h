@@ -1,0 +1,26 @@
+#pragma once
+// The classes of characters, by byte.
+#include <array>
+#include <cstdint>
+
+namespace compiler {
+
+enum CharClass : std::uint8_t { kBlank = 1, kNameStart = 2, kNamePart = 4, kDigit = 8, kHexDigit = 16, kForeign = 32 };
+
+inline constexpr auto kCharClasses = [] {
+    std::array<std::uint8_t, 256> table{};
+    for (const unsigned c : {' ', '\t', '\v', '\f', '\x1A'}) table[c] |= kBlank;
+    for (unsigned c = '0'; c <= '9'; ++c) table[c] |= kDigit | kNamePart | kHexDigit;
+    for (unsigned c = 'a'; c <= 'z'; ++c) table[c] |= kNameStart | kNamePart;
+    for (unsigned c = 'A'; c <= 'Z'; ++c) table[c] |= kNameStart | kNamePart;
+    for (unsigned c = 'a'; c <= 'f'; ++c) table[c] |= kHexDigit;
+    for (unsigned c = 'A'; c <= 'F'; ++c) table[c] |= kHexDigit;
+    table['_'] |= kNamePart;
+    for (unsigned c = 128; c < 256; ++c) table[c] |= kNameStart | kForeign;
+    return table;
+}();
+
+inline bool charIs(char c, unsigned classes) { return (kCharClasses[static_cast<unsigned char>(c)] & classes) != 0; }
+inline bool isLineEnd(char c) { return c == '\r' || c == '\n'; }
+
+} // namespace compiler
