@@ -46,6 +46,8 @@ public:
     virtual ReferenceValidity ValidateReference(const std::string& reference) const = 0;
     /// The second look-up: whether the target knows a module by its identifier (a GUID in braces).
     virtual bool FindModule(const std::string& moduleId) const = 0;
+    /// Whether new controls of this class ("QLButton") take TabStop off.
+    virtual bool IsTabStopOff(const std::string& className) const = 0;
     /// Two parallel lists from 0 of what new controls take: "Control.Property", and a number behind "#" or a
     /// plain text.
     virtual void GetPropertyDefaults(std::vector<std::string>& names, std::vector<std::string>& values) const = 0;

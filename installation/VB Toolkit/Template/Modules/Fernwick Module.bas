@@ -1,0 +1,3 @@
+Attribute VB_Name = "Module1"
+Option Explicit
+
