@@ -1,0 +1,188 @@
+#include "Apps/fernwick/options.h"
+#include "Apps/fernwick/exit_status.h"
+#include "Apps/fernwick/version.h"
+#include <CLI/CLI.hpp>
+#include <fmt/format.h>
+
+namespace cli {
+
+namespace {
+
+/// What CLI11 fills before it becomes Options.
+struct Raw {
+    Options options;
+    std::string format = "text";
+    std::vector<std::string> answers;
+    bool yes = false, no = false, quiet = false, verbose = false;
+};
+
+constexpr const char* kExitText = "Exit status: 0 good, 1 errors in the project, 2 wrong use, 3 trouble with the "
+                                  "installation or the machine, 130 interrupted.";
+
+void addCommon(CLI::App& verb, Raw& raw) {
+    verb.add_option("--format", raw.format, "How the result is written: text, json or sarif")
+        ->check(CLI::IsMember({"text", "json", "sarif"}))
+        ->type_name("FORMAT");
+    verb.add_flag("-q,--quiet", raw.quiet, "Only errors and data");
+    verb.add_flag("-v,--verbose", raw.verbose, "Say more of what is done");
+}
+
+void addAnswers(CLI::App& verb, Raw& raw) {
+    verb.add_flag("-y,--yes", raw.yes, "Answer every question with yes");
+    verb.add_flag("--no", raw.no, "Answer every question with no")->excludes("--yes");
+    verb.add_option("--answer", raw.answers, "Answer one question: NAME=yes|no|cancel|ok (names: fernwick help answers)")
+        ->type_name("NAME=REPLY");
+}
+
+void addProject(CLI::App& verb, Raw& raw) {
+    verb.add_option("PROJECT", raw.options.project, "Project file; may be left out where the folder holds one .vbp");
+}
+
+CLI::App& addVerb(CLI::App& app, Raw& raw, const char* name, const char* description, const std::string& example) {
+    auto* verb = app.add_subcommand(name, description);
+    verb->footer(fmt::format("Example:\n  {}\n\n{}", example, kExitText));
+    verb->callback([&raw, name] { raw.options.verb = name; });
+    addCommon(*verb, raw);
+    return *verb;
+}
+
+void defineBuild(CLI::App& app, Raw& raw) {
+    auto& build = addVerb(app, raw, "build", "Compile a project for its device",
+                          "fernwick build AddressBook.vbp --depfile AddressBook.d");
+    addProject(build, raw);
+    addAnswers(build, raw);
+    build.add_option("--device", raw.options.device, "Design target for a project that has none")->type_name("KEY");
+    build.add_option("--depfile", raw.options.depfile, "Write what the image was made from in make's format")
+        ->type_name("FILE");
+    build.add_flag("-n,--dry-run", raw.options.dryRun, "Say what would be compiled and run, and write nothing");
+    build.add_flag("--trust-steps", raw.options.trustSteps, "Run the project's compile steps without asking");
+    build.add_flag("--no-steps", raw.options.noSteps, "Run none of the project's compile steps")->excludes("--trust-steps");
+}
+
+void defineReaders(CLI::App& app, Raw& raw) {
+    auto& check = addVerb(app, raw, "check", "Parse source files or whole projects and report every error",
+                          "fernwick check Form1.frm Module1.bas");
+    check.add_option("FILE", raw.options.operands, ".bas, .cls, .frm, .ctl or .vbp files");
+
+    auto& info = addVerb(app, raw, "info", "Tell what a project holds", "fernwick info AddressBook.vbp --verify");
+    addProject(info, raw);
+    info.add_flag("--verify", raw.options.verify, "Tell for each file whether writing it back would change a byte");
+
+    auto& messages = addVerb(app, raw, "messages", "Print the messages that the last build stored in the project",
+                             "fernwick messages AddressBook.vbp --format json");
+    addProject(messages, raw);
+
+    addVerb(app, raw, "targets", "List the design targets that are installed", "fernwick targets");
+    addVerb(app, raw, "version", "Print the version", "fernwick version");
+}
+
+void defineSettings(CLI::App& app, Raw& raw) {
+    auto& settings = addVerb(app, raw, "settings", "List, get, set or reset the stored settings of a project",
+                             "fernwick settings set AddressBook.vbp TargetDevice PalmOS-DragonBall");
+    settings.add_option("ACTION", raw.options.action, "list, get, set or reset")
+        ->required()
+        ->check(CLI::IsMember({"list", "get", "set", "reset"}));
+    settings.add_option("OPERANDS", raw.options.operands, "[PROJECT] [NAME [VALUE]]");
+    settings.add_flag("-n,--dry-run", raw.options.dryRun, "Say what would change, and write nothing");
+    addAnswers(settings, raw);
+}
+
+void defineRegistry(CLI::App& app, Raw& raw) {
+    auto& registry = addVerb(app, raw, "registry", "Read and write the registry store",
+                             "fernwick registry get 'HKEY_CURRENT_USER\\SOFTWARE\\Quinloft\\AddinPrefs' ZoomWinState");
+    registry.add_option("ACTION", raw.options.action, "get, set, export or import")
+        ->required()
+        ->check(CLI::IsMember({"get", "set", "export", "import"}));
+    registry.add_option("OPERANDS", raw.options.operands,
+                        "get KEY [NAME] | set KEY NAME VALUE | export KEY | import FILE")
+        ->required();
+    registry.add_flag("-n,--dry-run", raw.options.dryRun, "Say what would change, and write nothing");
+}
+
+std::string answersHelp() {
+    return "Questions, the answers that a script gets, and what they are about:\n\n" + describeQuestions() +
+           "\nA form that is not listed is cancelled, a box answered with no or cancel.\n"
+           "--yes and --no answer all of them, --answer NAME=REPLY one.\n";
+}
+
+Parsed finish(Raw& raw) {
+    Parsed parsed;
+    auto& options = raw.options;
+    options.format = raw.format == "json" ? Format::Json : raw.format == "sarif" ? Format::Sarif : Format::Text;
+    options.verbosity = raw.quiet ? Verbosity::Quiet : raw.verbose ? Verbosity::Verbose : Verbosity::Normal;
+    if (raw.yes) options.answers.everything(Reply::Yes);
+    if (raw.no) options.answers.everything(Reply::No);
+    for (const auto& answer : raw.answers) {
+        if (options.answers.add(answer)) continue;
+        parsed.status = kWrongUse;
+        parsed.error = fmt::format("fernwick: --answer {}: no such question or reply; see fernwick help answers", answer);
+        return parsed;
+    }
+    parsed.options = std::move(options);
+    parsed.run = true;
+    return parsed;
+}
+
+Parsed ended(CLI::App& app, const CLI::ParseError& error) {
+    Parsed parsed;
+    if (error.get_exit_code() == int(CLI::ExitCodes::Success)) {
+        const CLI::App* asked = &app;
+        for (const auto* verb : app.get_subcommands()) asked = verb;
+        parsed.output = asked->help();
+        return parsed;
+    }
+    parsed.status = kWrongUse;
+    parsed.error = fmt::format("fernwick: {}\nSee fernwick --help.", error.what());
+    return parsed;
+}
+
+Parsed helpOn(CLI::App& app, const std::string& topic) {
+    Parsed parsed;
+    if (topic.empty()) {
+        parsed.output = app.help();
+        return parsed;
+    }
+    if (topic == "answers") {
+        parsed.output = answersHelp();
+        return parsed;
+    }
+    for (const auto* verb : app.get_subcommands([&](const CLI::App* a) { return a->get_name() == topic; })) {
+        parsed.output = verb->help();
+        return parsed;
+    }
+    parsed.status = kWrongUse;
+    parsed.error = fmt::format("fernwick: no help on {}; see fernwick --help", topic);
+    return parsed;
+}
+
+} // namespace
+
+Parsed parseCommandLine(int argc, const char* const* argv) {
+    Raw raw;
+    std::string topic;
+    CLI::App app{"Turns Visual Basic projects into applications for handheld devices.", "fernwick"};
+    app.footer(kExitText);
+    app.require_subcommand(1);
+    app.set_version_flag("--version", versionLine());
+    defineBuild(app, raw);
+    defineReaders(app, raw);
+    defineSettings(app, raw);
+    defineRegistry(app, raw);
+    auto* help = app.add_subcommand("help", "Print help on a verb, or on answers");
+    help->add_option("TOPIC", topic, "A verb, or answers");
+    help->callback([&raw] { raw.options.verb = "help"; });
+
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::CallForVersion&) {
+        Parsed parsed;
+        parsed.output = versionLine() + "\n";
+        return parsed;
+    } catch (const CLI::ParseError& error) {
+        return ended(app, error);
+    }
+    if (raw.options.verb == "help") return helpOn(app, topic);
+    return finish(raw);
+}
+
+} // namespace cli
