@@ -62,6 +62,10 @@ public:
     virtual basic::Ref<TextStream> CreateTextFile(const std::string& path, bool overwrite) = 0;
     /// The whole file as it is.
     virtual std::string ReadBytes(const std::string& path) const = 0;
+    /// Replaces the file as a whole or not at all.
+    virtual void WriteBytes(const std::string& path, const std::string& bytes) = 0;
+    /// Nanoseconds since 1970, as GetDateLastModified gives them.
+    virtual void SetDateLastModified(const std::string& path, std::int64_t time) = 0;
     /// Replaces the destination as a whole or not at all.
     virtual void CopyFile(const std::string& from, const std::string& to, bool overwrite) = 0;
     /// `force` deletes read-only files too.
