@@ -27,7 +27,6 @@ public:
     bool append(std::string& bytes, char32_t character) const;
 
 private:
-    // The two stand in this order: a converter's lead bytes are those that are no character alone.
     std::vector<char16_t> ones_ = std::vector<char16_t>(0x80); // by byte - 80; 0 = no character
     std::vector<char16_t> twos_;                               // by (lead - 80) * 100 + trail; empty = none
     std::vector<std::uint16_t> bytesOf_ = std::vector<std::uint16_t>(0x10000); // by character; 0 = lacking

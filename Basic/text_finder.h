@@ -1,0 +1,42 @@
+#pragma once
+// Finding all occurrences of a text, in time that grows with the texts' lengths only. For text_search.cpp.
+#include "Basic/case_folding.h"
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace basic {
+
+/// A stretch of a text's bytes, [first, last).
+struct ByteRange {
+    std::size_t first, last;
+};
+
+/// Looks for one text in another. Both must outlive it; what is looked for must not be empty.
+class TextFinder {
+public:
+    TextFinder(std::string_view text, std::string_view what, VbCompareMethod compare);
+    TextFinder(const TextFinder&) = delete;
+    TextFinder& operator=(const TextFinder&) = delete;
+
+    /// The first occurrence at or behind byte `from`.
+    std::optional<ByteRange> next(std::size_t from) const;
+
+    /// The last occurrence.
+    std::optional<ByteRange> last() const;
+
+private:
+    void foldText(std::string_view text);
+    std::size_t find(std::size_t from) const;
+    std::size_t findLast() const;
+    ByteRange original(std::size_t found) const;
+
+    std::string foldedText_, foldedWhat_;
+    std::string_view text_, what_;
+    std::vector<std::size_t> origins_; // of each folded byte the byte that it comes from; empty when that is its own
+    std::vector<std::size_t> borders_; // of each beginning of a long what_; empty for a short one
+};
+
+} // namespace basic
