@@ -13,7 +13,7 @@
 namespace host {
 
 /// A source file cut behind its header: VERSION line, Object lines, one balanced Begin block, then the run of lines that
-/// start with "Attribute ". A file without these has an empty header.
+/// start with "Attribute ". A file without these has an empty header. The parts are views of the bytes.
 struct SourceParts {
     std::string_view designer;   ///< VERSION, Object lines and the Begin block
     std::string_view attributes; ///< the run of Attribute lines

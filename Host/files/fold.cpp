@@ -50,7 +50,7 @@ std::string foldCase(std::string_view text) {
 
 std::string_view trimBlanks(std::string_view text) noexcept {
     const auto first = text.find_first_not_of(" \t");
-    if (first == std::string_view::npos) return {};
+    if (first == std::string_view::npos) return text.substr(0, 0);
     return text.substr(first, text.find_last_not_of(" \t") - first + 1);
 }
 

@@ -36,6 +36,12 @@ char delimiterOf(std::string_view value) noexcept {
     return value.front() == '"' || value.front() == '!' ? value.front() : char(0);
 }
 
+std::string delimited(std::string_view value, char delimiter) {
+    std::string text(value);
+    if (delimiter) text.insert(0, 1, delimiter).push_back(delimiter);
+    return text;
+}
+
 void refuseLineBreak(std::string_view text) {
     if (text.find_first_of("\r\n") != std::string_view::npos)
         throw hostError(basic::kInvalidProcedureCall, "A value of a project file cannot hold a line break");
@@ -123,26 +129,28 @@ std::optional<std::string> ProjectFile::setting(std::string_view key) const {
 }
 
 void ProjectFile::setSetting(std::string_view key, std::string_view value) {
+    const auto order = placeOfSetting(key);
+    const char usual = order && kSettingOrder[*order].quoted ? '"' : char(0);
     const auto found = settings_.find(foldCase(key));
     if (found == settings_.end()) {
-        const auto order = placeOfSetting(key);
-        const bool quoted = order && kSettingOrder[*order].quoted;
-        auto line = lineOf(key, quoted ? fmt::format("\"{}\"", value) : std::string(value));
-        const auto before = lineBefore(order.value_or(kSettingOrder.size()));
-        const auto place = insertAfter(before, std::move(line));
-        settings_.emplace(foldCase(key), place);
-        if (!lastSetting_ || before == lastSetting_) lastSetting_ = place;
-        known_ = known_ || order.has_value();
+        addSetting(order.value_or(kSettingOrder.size()), key, delimited(value, usual));
         return;
     }
     refuseLineBreak(value);
     auto& text = found->second->text;
     const auto old = trimBlanks(valueOf(*found->second));
-    const auto delimiter = delimiterOf(old);
-    auto written = codePage_.encode(value);
-    if (delimiter) written = delimiter + written + delimiter;
-    if (written == old) return;
+    const auto stands = delimiterOf(old);
+    const auto written = codePage_.encode(delimited(value, stands ? stands : usual));
     text.replace(std::size_t(old.data() - text.data()), old.size(), written);
+}
+
+void ProjectFile::addSetting(std::size_t order, std::string_view key, std::string_view value) {
+    auto line = lineOf(key, value);
+    const auto before = lineBefore(order);
+    const auto place = insertAfter(before, std::move(line));
+    settings_.emplace(foldCase(key), place);
+    if (!lastSetting_ || before == lastSetting_) lastSetting_ = place;
+    known_ = true;
 }
 
 /// The line behind which an absent setting of this order goes: its nearest predecessor, else the last member, else the type.

@@ -78,6 +78,7 @@ private:
     void indexLine(Place line, Section*& current);
     void indexKeyLine(Place line, Section* current);
     std::string lineOf(std::string_view key, std::string_view value) const;
+    void addSetting(std::size_t order, std::string_view key, std::string_view value);
     Place insertAfter(std::optional<Place> line, std::string text);
     std::optional<Place> lineBefore(std::size_t order) const;
     std::optional<Place> typeLine() const;

@@ -17,7 +17,8 @@ int fileErrorNumber(int error) noexcept {
     case EBUSY: return basic::kPermissionDenied;
     case EEXIST: return basic::kFileAlreadyExists;
     case ENOSPC:
-    case EDQUOT: return basic::kDiskFull;
+    case EDQUOT:
+    case EFBIG: return basic::kDiskFull;
     case ENOMEM: return basic::kOutOfMemory;
     case ENAMETOOLONG:
     case ELOOP: return basic::kPathFileAccessError;

@@ -1,0 +1,138 @@
+#include "Host/files/atomic_save.h"
+#include "tests/support/errors.h"
+#include "tests/support/temp_folder.h"
+#include <csignal>
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+using host::atomicSave;
+using host::readFile;
+using test::errorOf;
+using test::TempFolder;
+
+namespace {
+
+struct stat stateOfFile(const std::string& path) {
+    struct stat state {};
+    ::stat(path.c_str(), &state);
+    return state;
+}
+
+/// While it lives, no file of this process grows beyond `bytes`: a disk that is full.
+class FullDisk {
+public:
+    explicit FullDisk(rlim_t bytes) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
+        ::getrlimit(RLIMIT_FSIZE, &old_);
+        const rlimit small{bytes, old_.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &small);
+    }
+    ~FullDisk() {
+        ::setrlimit(RLIMIT_FSIZE, &old_);
+        std::signal(SIGXFSZ, handler_);
+    }
+
+private:
+    rlimit old_{};
+    void (*handler_)(int);
+};
+
+} // namespace
+
+TEST(AtomicSave, WritesANewFileAndReplacesAnOldOne) {
+    const TempFolder folder;
+    atomicSave(folder / "a.bas", "one");
+    EXPECT_EQ(folder.read("a.bas"), "one");
+    atomicSave(folder / "a.bas", "two");
+    EXPECT_EQ(folder.read("a.bas"), "two");
+    EXPECT_EQ(folder.count(), 1u);
+}
+
+TEST(AtomicSave, DoesNotTouchAFileThatHoldsTheseBytes) {
+    const TempFolder folder;
+    const auto path = folder.write("a.bas", "same");
+    const auto before = stateOfFile(path);
+    atomicSave(path, "same");
+    const auto after = stateOfFile(path);
+    EXPECT_EQ(before.st_ino, after.st_ino);
+    EXPECT_EQ(before.st_mtim.tv_nsec, after.st_mtim.tv_nsec);
+}
+
+TEST(AtomicSave, KeepsTheMode) {
+    const TempFolder folder;
+    const auto path = folder.write("a.bas", "one");
+    ::chmod(path.c_str(), 0640);
+    atomicSave(path, "two");
+    EXPECT_EQ(stateOfFile(path).st_mode & 07777, 0640u);
+}
+
+TEST(AtomicSave, SavesThroughALinkAndLeavesIt) {
+    const TempFolder folder;
+    folder.write("real/a.bas", "one");
+    std::filesystem::create_symlink("real/a.bas", folder / "link.bas");
+    std::filesystem::create_symlink("real/new.bas", folder / "dangling.bas");
+    atomicSave(folder / "link.bas", "two");
+    atomicSave(folder / "dangling.bas", "new");
+    EXPECT_EQ(folder.read("real/a.bas"), "two");
+    EXPECT_EQ(folder.read("real/new.bas"), "new");
+    EXPECT_TRUE(std::filesystem::is_symlink(folder / "link.bas"));
+}
+
+TEST(AtomicSave, EndsInACircleOfLinks) {
+    const TempFolder folder;
+    std::filesystem::create_symlink("b", folder / "a");
+    std::filesystem::create_symlink("a", folder / "b");
+    EXPECT_EQ(errorOf([&] { atomicSave(folder / "a", "x"); }), 75);
+}
+
+TEST(AtomicSave, RefusesAReadOnlyFileForTheSuperuserToo) {
+    const TempFolder folder;
+    const auto path = folder.write("a.bas", "one");
+    ::chmod(path.c_str(), 0444);
+    EXPECT_TRUE(host::isReadOnly(path));
+    EXPECT_EQ(errorOf([&] { atomicSave(path, "two"); }), 75);
+    EXPECT_EQ(folder.read("a.bas"), "one");
+    EXPECT_EQ(folder.count(), 1u);
+    ::chmod(path.c_str(), 0644);
+    EXPECT_FALSE(host::isReadOnly(path));
+    EXPECT_FALSE(host::isReadOnly(folder / "missing"));
+}
+
+TEST(AtomicSave, LeavesTheOldFileAndNothingBesideItWhenTheDiskIsFull) {
+    const TempFolder folder;
+    const auto path = folder.write("a.bas", "one");
+    {
+        const FullDisk full(10);
+        EXPECT_EQ(errorOf([&] { atomicSave(path, std::string(100, 'x')); }), 61);
+        EXPECT_EQ(errorOf([&] { atomicSave(folder / "new.bas", std::string(100, 'x')); }), 61);
+    }
+    EXPECT_EQ(folder.read("a.bas"), "one");
+    EXPECT_EQ(folder.count(), 1u);
+}
+
+TEST(AtomicSave, RefusesAFolderAndAMissingFolder) {
+    const TempFolder folder;
+    EXPECT_EQ(errorOf([&] { atomicSave(folder.path(), "x"); }), 75);
+    EXPECT_EQ(errorOf([&] { atomicSave(folder / "no/a.bas", "x"); }), 76);
+}
+
+TEST(AtomicSave, DoesNotOverwriteWhatSomebodyElseWrote) {
+    const TempFolder folder;
+    const auto path = folder.write("a.bas", "one");
+    const auto asRead = readFile(path).stamp;
+    folder.write("a.bas", "other");
+    const auto error = basic::attempt([&] { atomicSave(path, "mine", asRead); });
+    EXPECT_EQ(error.Number, 75);
+    EXPECT_NE(error.Description.find("changed by another program"), std::string::npos);
+    EXPECT_EQ(folder.read("a.bas"), "other");
+}
+
+TEST(AtomicSave, TakesAFileThatWasOnlyTouchedForUnchanged) {
+    const TempFolder folder;
+    const auto path = folder.write("a.bas", "one");
+    const auto asRead = readFile(path).stamp;
+    std::filesystem::last_write_time(path, std::filesystem::file_time_type::clock::now() + std::chrono::seconds(5));
+    const auto saved = atomicSave(path, "mine", asRead);
+    EXPECT_EQ(folder.read("a.bas"), "mine");
+    atomicSave(path, "again", saved);
+    EXPECT_EQ(folder.read("a.bas"), "again");
+}
