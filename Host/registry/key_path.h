@@ -1,0 +1,37 @@
+#pragma once
+// Where a key lies below its root: the names as spelled, and one identity for all spellings.
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace host {
+
+/// A key's path below its root. The root itself is the empty path.
+class KeyPath {
+public:
+    KeyPath() = default;
+
+    /// This path with `subkey` behind it; backslashes separate names, and empty names between them don't count.
+    /// RegFailure BadPathname for one that begins with a backslash, InvalidParameter for a name that is longer than
+    /// 255 characters or holds a control character, or for a path of more than 512 names.
+    KeyPath operator/(std::string_view subkey) const;
+
+    const std::vector<std::string>& names() const { return names_; }
+    /// The identity of the key: equal for every spelling.
+    const std::string& folded() const { return folded_; }
+    KeyPath parent() const;
+    /// The names with backslashes between them.
+    std::string text() const;
+
+private:
+    void append(std::string_view name);
+
+    std::vector<std::string> names_;
+    std::string folded_;
+};
+
+/// RegFailure InvalidParameter for a value's name that no registry file could carry: longer than 16383 characters,
+/// with a control character, or not UTF-8.
+void requireValueName(std::string_view name);
+
+} // namespace host
