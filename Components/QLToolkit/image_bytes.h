@@ -1,0 +1,60 @@
+#pragma once
+// Little-endian numbers and texts of the image container.
+#include "Basic/runtime_error.h"
+#include <array>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+namespace compiler {
+
+inline constexpr int kInvalidFileFormat = 321;
+
+[[noreturn]] void imageIsDamaged(const std::string& reason);
+
+/// CRC-32 as zip and PNG have it (polynomial 0xEDB88320, inverted).
+std::uint32_t crc32(std::string_view bytes);
+
+class ImageWriter {
+public:
+    void u8(std::uint8_t value) { bytes_ += char(value); }
+    void u16(std::uint16_t value);
+    void u32(std::uint32_t value);
+    void raw(std::string_view bytes) { bytes_ += bytes; }
+    const std::string& bytes() const { return bytes_; }
+
+private:
+    std::string bytes_;
+};
+
+/// Reads within its bytes; running over their end is a damaged image.
+class ImageReader {
+public:
+    explicit ImageReader(std::string_view bytes) : rest_(bytes) {}
+    std::uint8_t u8();
+    std::uint16_t u16();
+    std::uint32_t u32();
+    std::string_view raw(std::size_t length);
+    /// A count of things that take at least `smallest` bytes each: one that cannot be is damage, so nobody
+    /// allocates by it.
+    std::uint32_t count(std::size_t smallest);
+    bool atEnd() const { return rest_.empty(); }
+
+private:
+    std::string_view rest_;
+};
+
+/// Each text once; a text is known by its number.
+class ImageStrings {
+public:
+    std::uint32_t numberOf(const std::string& text);
+    void write(ImageWriter& writer) const;
+
+private:
+    std::unordered_map<std::string, std::uint32_t> numbers_;
+    std::vector<std::string> texts_;
+};
+
+} // namespace compiler
