@@ -1,6 +1,7 @@
 #include "Host/files/code_file.h"
+#include "Basic/case_folding.h"
 #include "Host/files/encoding.h"
-#include "Host/files/fold.h"
+#include "Host/files/trim.h"
 #include <algorithm>
 
 namespace host {
@@ -36,13 +37,13 @@ std::string_view firstWordOf(std::string_view line) noexcept {
 bool isVersionLine(std::string_view line) noexcept {
     if (line.substr(0, kByteOrderMark.size()) == kByteOrderMark) line.remove_prefix(kByteOrderMark.size());
     const auto word = firstWordOf(line);
-    if (!equalAsciiFolded(word, "VERSION")) return false;
+    if (!basic::equalNoCase(word, "VERSION")) return false;
     const auto number = trimBlanks(trimBlanks(line).substr(word.size()));
     return !number.empty() && number.front() >= '0' && number.front() <= '9';
 }
 
 bool isObjectLine(std::string_view line) noexcept {
-    if (!equalAsciiFolded(line.substr(0, 6), "Object")) return false;
+    if (!basic::equalNoCase(line.substr(0, 6), "Object")) return false;
     line = trimBlanks(line.substr(6));
     return !line.empty() && line.front() == '=';
 }
@@ -53,9 +54,9 @@ bool skipBeginBlock(LineWalker& lines) noexcept {
     while (!lines.atEnd()) {
         const auto line = lines.peek();
         lines.skip();
-        if (equalAsciiFolded(firstWordOf(line), "Begin"))
+        if (basic::equalNoCase(firstWordOf(line), "Begin"))
             ++depth;
-        else if (equalAsciiFolded(trimBlanks(line), "End") && --depth == 0)
+        else if (basic::equalNoCase(trimBlanks(line), "End") && --depth == 0)
             return true;
     }
     return false;
@@ -79,7 +80,7 @@ SourceParts splitSource(std::string_view bytes) {
     if (isVersionLine(lines.peek())) {
         lines.skip();
         while (!lines.atEnd() && isObjectLine(lines.peek())) lines.skip();
-        if (!lines.atEnd() && equalAsciiFolded(firstWordOf(lines.peek()), "Begin"))
+        if (!lines.atEnd() && basic::equalNoCase(firstWordOf(lines.peek()), "Begin"))
             parts.balanced = skipBeginBlock(lines);
     }
     const auto designer = lines.taken();
@@ -97,7 +98,7 @@ std::optional<std::string_view> attributeValue(std::string_view attributes, std:
         if (!isAttributeLine(line)) continue;
         line.remove_prefix(kAttribute.size());
         const auto equals = line.find('=');
-        if (equals == std::string_view::npos || !equalAsciiFolded(trimBlanks(line.substr(0, equals)), name)) continue;
+        if (equals == std::string_view::npos || !basic::equalNoCase(trimBlanks(line.substr(0, equals)), name)) continue;
         auto value = trimBlanks(line.substr(equals + 1));
         if (value.size() >= 2 && value.front() == '"' && value.back() == '"') value = value.substr(1, value.size() - 2);
         return value;

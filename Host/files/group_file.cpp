@@ -1,6 +1,7 @@
 #include "Host/files/group_file.h"
+#include "Basic/case_folding.h"
 #include "Host/files/encoding.h"
-#include "Host/files/fold.h"
+#include "Host/files/trim.h"
 
 namespace host {
 
@@ -10,8 +11,8 @@ GroupFile::GroupFile(std::string_view bytes, const basic::CodePage& codePage) : 
         const auto equals = line.find('=');
         if (equals == std::string_view::npos) continue;
         const auto key = trimBlanks(line.substr(0, equals));
-        const bool startUp = equalAsciiFolded(key, "StartupProject");
-        if (!startUp && !equalAsciiFolded(key, "Project")) continue;
+        const bool startUp = basic::equalNoCase(key, "StartupProject");
+        if (!startUp && !basic::equalNoCase(key, "Project")) continue;
         entries_.push_back({codePage.decode(trimBlanks(line.substr(equals + 1))), startUp, i + 1});
     }
 }
@@ -19,7 +20,7 @@ GroupFile::GroupFile(std::string_view bytes, const basic::CodePage& codePage) : 
 bool GroupFile::looksLikeGroup(std::string_view bytes) noexcept {
     if (bytes.substr(0, kByteOrderMark.size()) == kByteOrderMark) bytes.remove_prefix(kByteOrderMark.size());
     constexpr std::string_view kHead = "VBGROUP";
-    return equalAsciiFolded(trimBlanks(bytes.substr(0, kHead.size())), kHead);
+    return basic::equalNoCase(trimBlanks(bytes.substr(0, kHead.size())), kHead);
 }
 
 } // namespace host

@@ -1,5 +1,6 @@
 #include "Host/files/library_reference.h"
-#include "Host/files/fold.h"
+#include "Basic/case_folding.h"
+#include "Host/files/trim.h"
 #include <algorithm>
 #include <cctype>
 #include <charconv>
@@ -11,7 +12,7 @@ namespace {
 using RefKind = LibraryReference::Kind;
 
 bool takePrefix(std::string_view& text, std::string_view prefix) noexcept {
-    if (!equalAsciiFolded(text.substr(0, prefix.size()), prefix)) return false;
+    if (!basic::equalNoCase(text.substr(0, prefix.size()), prefix)) return false;
     text.remove_prefix(prefix.size());
     return true;
 }

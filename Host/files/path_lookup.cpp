@@ -1,5 +1,5 @@
 #include "Host/files/path_lookup.h"
-#include "Host/files/fold.h"
+#include "Basic/case_folding.h"
 #include <algorithm>
 #include <filesystem>
 #include <system_error>
@@ -42,7 +42,7 @@ std::string PathLookup::childOf(const std::string& folder, std::string_view name
     const auto exact = joinPath(folder, name);
     if (isThere(exact)) return exact;
     const auto& names = namesIn(folder);
-    const auto found = names.find(foldCase(name));
+    const auto found = names.find(basic::foldCase(name));
     return found == names.end() ? exact : joinPath(folder, found->second);
 }
 
@@ -52,7 +52,7 @@ const PathLookup::Names& PathLookup::namesIn(const std::string& folder) {
     std::error_code error;
     for (std::filesystem::directory_iterator file(folder, error), end; !error && file != end; file.increment(error)) {
         const auto name = file->path().filename().string();
-        auto& kept = entry->second[foldCase(name)];
+        auto& kept = entry->second[basic::foldCase(name)];
         if (kept.empty() || name < kept) kept = name; // one and the same of several, whatever order the folder gives
     }
     return entry->second;

@@ -1,7 +1,8 @@
 #include "Host/files/project_file.h"
+#include "Basic/case_folding.h"
 #include "Host/files/encoding.h"
-#include "Host/files/fold.h"
 #include "Host/files/system_error.h"
+#include "Host/files/trim.h"
 #include <fmt/format.h>
 
 namespace host {
@@ -99,7 +100,7 @@ void ProjectFile::indexKeyLine(Place line, Section* current) {
     known_ = known_ || placeOfSetting(parts->key).has_value();
 }
 
-std::string ProjectFile::folded(std::string_view bytes) const { return foldCase(codePage_.decode(bytes)); }
+std::string ProjectFile::folded(std::string_view bytes) const { return basic::foldCase(codePage_.decode(bytes)); }
 
 std::string ProjectFile::bytes() const {
     std::string all;
@@ -121,7 +122,7 @@ ProjectFile::Place ProjectFile::insertAfter(std::optional<Place> line, std::stri
 // ---- settings ----------------------------------------------------------------------------------------------------------
 
 std::optional<std::string> ProjectFile::setting(std::string_view key) const {
-    const auto found = settings_.find(foldCase(key));
+    const auto found = settings_.find(basic::foldCase(key));
     if (found == settings_.end()) return {};
     auto value = trimBlanks(valueOf(*found->second));
     if (delimiterOf(value)) value = value.substr(1, value.size() - 2);
@@ -131,7 +132,7 @@ std::optional<std::string> ProjectFile::setting(std::string_view key) const {
 void ProjectFile::setSetting(std::string_view key, std::string_view value) {
     const auto order = placeOfSetting(key);
     const char usual = order && kSettingOrder[*order].quoted ? '"' : char(0);
-    const auto found = settings_.find(foldCase(key));
+    const auto found = settings_.find(basic::foldCase(key));
     if (found == settings_.end()) {
         addSetting(order.value_or(kSettingOrder.size()), key, delimited(value, usual));
         return;
@@ -148,7 +149,7 @@ void ProjectFile::addSetting(std::size_t order, std::string_view key, std::strin
     auto line = lineOf(key, value);
     const auto before = lineBefore(order);
     const auto place = insertAfter(before, std::move(line));
-    settings_.emplace(foldCase(key), place);
+    settings_.emplace(basic::foldCase(key), place);
     if (!lastSetting_ || before == lastSetting_) lastSetting_ = place;
     known_ = true;
 }
@@ -157,7 +158,7 @@ void ProjectFile::addSetting(std::size_t order, std::string_view key, std::strin
 std::optional<ProjectFile::Place> ProjectFile::lineBefore(std::size_t order) const {
     if (order == kSettingOrder.size() && lastSetting_) return lastSetting_;
     for (auto before = order; before-- > 1;)
-        if (const auto found = settings_.find(foldCase(kSettingOrder[before].key)); found != settings_.end())
+        if (const auto found = settings_.find(basic::foldCase(kSettingOrder[before].key)); found != settings_.end())
             return found->second;
     if (order == 0) return {};
     return lastMember_ ? lastMember_ : typeLine();
@@ -218,8 +219,8 @@ void ProjectFile::removeMember(Place member) {
 // ---- sections ----------------------------------------------------------------------------------------------------------
 
 std::string ProjectFile::readProperty(std::string_view section, std::string_view key) const {
-    if (const auto found = sections_.find(foldCase(trimBlanks(section))); found != sections_.end())
-        if (const auto value = found->second.values.find(foldCase(trimBlanks(key)));
+    if (const auto found = sections_.find(basic::foldCase(trimBlanks(section))); found != sections_.end())
+        if (const auto value = found->second.values.find(basic::foldCase(trimBlanks(key)));
             value != found->second.values.end())
             return codePage_.decode(valueOf(*value->second));
     throw hostError(basic::kInvalidProcedureCall);
@@ -230,13 +231,13 @@ bool ProjectFile::writeProperty(std::string_view section, std::string_view key, 
     refuseUnreadableName(section, key);
     auto line = lineOf(key, value);
     const auto head = codePage_.encode(fmt::format("[{}]", section));
-    auto found = sections_.find(foldCase(trimBlanks(section)));
+    auto found = sections_.find(basic::foldCase(trimBlanks(section)));
     if (found == sections_.end()) {
         const auto place = appendSection(head);
-        found = sections_.emplace(foldCase(trimBlanks(section)), Section{place, {}}).first;
+        found = sections_.emplace(basic::foldCase(trimBlanks(section)), Section{place, {}}).first;
     }
     auto& [last, values] = found->second;
-    if (const auto old = values.find(foldCase(trimBlanks(key))); old != values.end()) {
+    if (const auto old = values.find(basic::foldCase(trimBlanks(key))); old != values.end()) {
         auto& text = old->second->text;
         const auto written = line.substr(line.find('=') + 1);
         if (valueOf(*old->second) == written) return false;
@@ -244,7 +245,7 @@ bool ProjectFile::writeProperty(std::string_view section, std::string_view key, 
         return true;
     }
     last = insertAfter(last, std::move(line));
-    values.emplace(foldCase(trimBlanks(key)), last);
+    values.emplace(basic::foldCase(trimBlanks(key)), last);
     return true;
 }
 

@@ -1,5 +1,5 @@
 #include "Host/files/project_keys.h"
-#include "Host/files/fold.h"
+#include "Basic/case_folding.h"
 #include <algorithm>
 
 namespace host {
@@ -66,7 +66,7 @@ const std::array<SettingKey, 49> kSettingOrder = {{
 
 std::optional<MemberKind> memberKindOfKey(std::string_view key) noexcept {
     for (std::size_t i = 0; i < kMemberKeys.size(); ++i)
-        if (equalAsciiFolded(key, kMemberKeys[i])) return MemberKind(i);
+        if (basic::equalNoCase(key, kMemberKeys[i])) return MemberKind(i);
     return {};
 }
 
@@ -80,7 +80,7 @@ bool isComponentKind(MemberKind kind) noexcept {
 
 std::optional<std::size_t> placeOfSetting(std::string_view key) noexcept {
     const auto found = std::find_if(kSettingOrder.begin(), kSettingOrder.end(),
-                                    [&](const SettingKey& s) { return equalAsciiFolded(s.key, key); });
+                                    [&](const SettingKey& s) { return basic::equalNoCase(s.key, key); });
     if (found == kSettingOrder.end()) return {};
     return std::size_t(found - kSettingOrder.begin());
 }

@@ -1,5 +1,5 @@
 #include "Host/files/workspace_file.h"
-#include "Host/files/fold.h"
+#include "Host/files/trim.h"
 #include <charconv>
 
 namespace host {
