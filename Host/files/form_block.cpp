@@ -1,5 +1,5 @@
 #include "Host/files/form_block.h"
-#include "Host/files/fold.h"
+#include "Basic/case_folding.h"
 #include "Host/files/form_line.h"
 #include <algorithm>
 #include <fmt/core.h>
@@ -62,7 +62,7 @@ FormBlock::Item* FormBlock::find(std::string_view key) const {
             if (!item->key.empty()) index_[item->key] = item.get();
         indexed_ = true;
     }
-    const auto found = index_.find(foldCase(key));
+    const auto found = index_.find(basic::foldCase(key));
     return found == index_.end() ? nullptr : found->second;
 }
 
@@ -83,7 +83,7 @@ bool FormBlock::set(std::string_view key, std::string_view literal, std::string_
     }
     auto added = std::make_unique<Item>();
     added->line = newLine(propertyText(key, literal, comment));
-    added->key = foldCase(key);
+    added->key = basic::foldCase(key);
     added->added = true;
     const auto at = placeFor(added->key);
     insert(at, std::move(added));
@@ -120,7 +120,7 @@ std::shared_ptr<FormBlock> FormBlock::addProperties(std::string_view name, std::
     auto block = std::make_shared<FormBlock>(Kind::Properties, newLine(blockText("BeginProperty", name, guid)));
     block->close(newLine("EndProperty"));
     auto item = std::make_unique<Item>();
-    item->key = foldCase(name);
+    item->key = basic::foldCase(name);
     item->block = block;
     item->added = true;
     const auto at = placeFor(item->key);
@@ -199,13 +199,13 @@ void FormBlock::appendLine(std::string_view line) {
     auto item = std::make_unique<Item>();
     item->line = line;
     if (const auto parts = parseFormLine(line); parts.kind == FormLine::Kind::Property)
-        item->key = foldCase(parts.name);
+        item->key = basic::foldCase(parts.name);
     append(std::move(item));
 }
 
 void FormBlock::appendBlock(std::shared_ptr<FormBlock> block) {
     auto item = std::make_unique<Item>();
-    if (block->kind() == Kind::Properties) item->key = foldCase(block->name());
+    if (block->kind() == Kind::Properties) item->key = basic::foldCase(block->name());
     item->block = std::move(block);
     append(std::move(item));
 }

@@ -1,5 +1,5 @@
 #include "Host/files/form_file.h"
-#include "Host/files/fold.h"
+#include "Basic/case_folding.h"
 #include "Host/files/form_line.h"
 #include "Host/files/property_value.h"
 #include "Host/files/text_file.h"
@@ -62,7 +62,7 @@ private:
             if (line_ == 0 && line.substr(0, 3) == kByteOrderMark) line.remove_prefix(3);
             const auto parts = parseFormLine(line);
             const bool version = beginsWithWord(line, "VERSION");
-            const bool object = parts.kind == LineKind::Property && equalAsciiFolded(parts.name, "Object");
+            const bool object = parts.kind == LineKind::Property && basic::equalNoCase(parts.name, "Object");
             const bool filler = parts.kind == LineKind::Blank || parts.kind == LineKind::Comment;
             versionSeen = versionSeen || version;
             if (parts.kind == LineKind::Begin) {
@@ -208,7 +208,7 @@ std::vector<ObjectLine> FormFile::objects() const {
 
 std::optional<std::string> FormFile::attribute(std::string_view name) const {
     for (const auto& line : attributes_)
-        if (const auto parts = attributeParts(line); equalAsciiFolded(parts.name, name))
+        if (const auto parts = attributeParts(line); basic::equalNoCase(parts.name, name))
             return std::string(parts.value);
     return std::nullopt;
 }
@@ -216,7 +216,7 @@ std::optional<std::string> FormFile::attribute(std::string_view name) const {
 bool FormFile::attribute(std::string_view name, std::string_view literal) {
     for (auto& line : attributes_) {
         const auto parts = attributeParts(line);
-        if (!equalAsciiFolded(parts.name, name)) continue;
+        if (!basic::equalNoCase(parts.name, name)) continue;
         if (parts.value == literal) return false;
         const auto from = std::size_t(parts.value.data() - line.data());
         line.replace(from, parts.value.size(), literal);

@@ -1,5 +1,5 @@
 #include "Host/files/form_line.h"
-#include "Host/files/fold.h"
+#include "Basic/case_folding.h"
 #include "Host/files/property_value.h"
 #include "Host/files/text_file.h"
 
@@ -32,17 +32,17 @@ bool parseKeyword(FormLine& line, std::string_view body) {
     const auto word = takeWord(rest);
     rest = rightTrimmed(rest);
     if (rest.substr(0, 1) == "=") return false; // a property may be named like a keyword
-    if (equalAsciiFolded(word, "Begin")) {
+    if (basic::equalNoCase(word, "Begin")) {
         line.kind = Kind::Begin;
         line.type = takeWord(rest);
         line.name = rest;
-    } else if (equalAsciiFolded(word, "BeginProperty")) {
+    } else if (basic::equalNoCase(word, "BeginProperty")) {
         line.kind = Kind::BeginProperty;
         line.name = takeWord(rest);
         line.type = rest;
-    } else if (equalAsciiFolded(word, "End") && rest.empty()) {
+    } else if (basic::equalNoCase(word, "End") && rest.empty()) {
         line.kind = Kind::End;
-    } else if (equalAsciiFolded(word, "EndProperty") && rest.empty()) {
+    } else if (basic::equalNoCase(word, "EndProperty") && rest.empty()) {
         line.kind = Kind::EndProperty;
     } else {
         return false;
@@ -94,7 +94,7 @@ FormLine parseFormLine(std::string_view whole) {
 }
 
 bool beginsWithWord(std::string_view line, std::string_view word) {
-    return line.size() > word.size() && equalAsciiFolded(line.substr(0, word.size()), word) &&
+    return line.size() > word.size() && basic::equalNoCase(line.substr(0, word.size()), word) &&
            kBlanks.find(line[word.size()]) != std::string_view::npos;
 }
 
