@@ -1,5 +1,5 @@
 #include "Apps/fernwick/answers.h"
-#include "Basic/text.h"
+#include "Basic/case_folding.h"
 #include <array>
 #include <fmt/format.h>
 

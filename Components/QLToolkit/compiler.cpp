@@ -1,0 +1,176 @@
+#include "Components/QLToolkit/compiler.h"
+#include "Basic/case_folding.h"
+#include "Basic/text_search.h"
+#include "Components/QLToolkit/form_header.h"
+#include "Components/QLToolkit/module_image.h"
+#include <set>
+
+namespace compiler {
+
+namespace {
+
+/// Sources are most of the work; the rest is the image.
+constexpr std::size_t kPercentOfSources = 90;
+
+ConditionalConstants conditionalConstants(const std::vector<std::pair<std::string, std::int32_t>>& given) {
+    ConditionalConstants constants;
+    for (const auto& [name, value] : given) constants.emplace_back(name, value);
+    return constants;
+}
+
+/// The text of a string literal; nothing for a literal of another kind.
+std::optional<std::string> stringLiteral(const std::string& literal) {
+    if (literal.size() < 2 || literal.front() != '"' || literal.back() != '"') return std::nullopt;
+    return basic::Replace(literal.substr(1, literal.size() - 2), "\"\"", "\"");
+}
+
+bool usesLibrary(const ImageControl& control, const std::string& prefix) {
+    if (basic::startsWithNoCase(control.className, prefix)) return true;
+    return std::any_of(control.children.begin(), control.children.end(),
+                       [&](const ImageControl& child) { return usesLibrary(child, prefix); });
+}
+
+} // namespace
+
+bool ProjectCompiler::Build() {
+    *services_.record = {};
+    errors_ = 0;
+    BuildStarted.raise();
+    const bool good = compile();
+    BuildFinished.raise(good);
+    return good;
+}
+
+bool ProjectCompiler::compile() {
+    Image image;
+    image.compilerVersion = kCompilerVersion;
+    image.projectName = services_.files.GetFileName(input_.outputPath);
+    image.startup = input_.startup;
+    image.info = input_.info;
+    image.constants = input_.constants;
+
+    SymbolTable symbols;
+    compileSources(image, symbols);
+    const auto libraries = findLibraries();
+    for (const auto& library : libraries) image.libraries.push_back(services_.files.GetFileName(library.path));
+    checkNames(image);
+    if (errors_ > 0) return false;
+
+    reportDependencies(image, libraries);
+    if (!writeImage(image)) return false;
+    BuildStatus.raise("100% completed");
+    return true;
+}
+
+void ProjectCompiler::compileSources(Image& image, SymbolTable& symbols) {
+    std::vector<std::string> sources;
+    for (const auto& file : input_.files)
+        if (file.kind == qltoolkit::SourceFile) sources.push_back(file.path);
+    for (std::size_t i = 0; i < sources.size(); ++i) {
+        BuildStatus.raise("Compiling " + services_.files.GetFileName(sources[i]));
+        compileSource(sources[i], image, symbols);
+        BuildStatus.raise(std::to_string((i + 1) * kPercentOfSources / sources.size()) + "% completed");
+    }
+}
+
+void ProjectCompiler::compileSource(const std::string& path, Image& image, SymbolTable& symbols) {
+    std::string bytes;
+    const auto err = basic::attempt([&] { bytes = services_.files.ReadBytes(path); });
+    if (err.Number != 0) {
+        const auto message = err.Number == basic::kFileNotFound ? Message::FileMissing : Message::FileUnreadable;
+        return report(fileDiagnostic(message, path, err.Description));
+    }
+    services_.record->inputs.push_back(path);
+    const SourceFile source{path, std::move(bytes)};
+    const auto parsed = parseModule(source, symbols, conditionalConstants(input_.constants));
+    services_.record->lines += source.lineCount();
+    for (const auto& diagnostic : parsed.diagnostics) report(diagnostic);
+    if (!parsed.module || parsed.errors > 0) return;
+    image.modules.push_back(imageOf(*parsed.module, symbols));
+    if (source.kind() != FileKind::Form) return;
+    if (auto form = readFormHeader(source)) image.forms.push_back(std::move(*form));
+}
+
+void ProjectCompiler::checkNames(const Image& image) {
+    std::set<std::string> names;
+    bool startFound = input_.startup.empty();
+    const bool startsWithMain = input_.startup == "Sub Main";
+    for (const auto& module : image.modules) {
+        if (!names.insert(basic::foldCase(module.name)).second)
+            report(fileDiagnostic(Message::ModuleNameTwice, module.file, module.name));
+        if (basic::equalNoCase(module.name, input_.startup)) startFound = true;
+        if (startsWithMain && module.kind == ImageModuleKind::Module)
+            for (const auto& member : module.members)
+                if (member.kind == ImageMemberKind::Sub && basic::equalNoCase(member.name, "Main")) startFound = true;
+    }
+    if (!startFound && errors_ == 0) report(fileDiagnostic(Message::StartupMissing, "", input_.startup));
+}
+
+std::vector<ProjectCompiler::Library> ProjectCompiler::findLibraries() {
+    std::vector<Library> libraries;
+    for (const auto& file : input_.files) {
+        if (file.kind == qltoolkit::SourceFile) continue;
+        if (auto library = findLibrary(file))
+            libraries.push_back(std::move(*library));
+        else
+            report(fileDiagnostic(Message::LibraryMissing, "", services_.files.GetFileName(file.path)));
+    }
+    return libraries;
+}
+
+std::optional<ProjectCompiler::Library> ProjectCompiler::findLibrary(const BuildFile& file) {
+    const auto& files = services_.files;
+    const std::string folder = files.GetParentFolderName(file.path);
+    const std::string stem = files.BuildPath(folder, files.GetBaseName(file.path));
+    // a project names the library that stood on its author's machine: the extension may be another here
+    for (const auto& path : {file.path, stem + ".dll", stem + ".ocx", stem + ".tlb"}) {
+        const auto info = services_.classes.TypeLibInfoFromFile(path);
+        if (info) return Library{path, info->Name, info->Guid, file.kind};
+    }
+    return std::nullopt;
+}
+
+void ProjectCompiler::reportDependencies(const Image& image, const std::vector<Library>& libraries) {
+    for (const auto& library : libraries) {
+        // a referenced library's constants need no qualifier, so it counts as in use; one of controls only when a
+        // form has one of them
+        const bool inUse = library.kind == qltoolkit::ReferencedLibrary ||
+                           std::any_of(image.forms.begin(), image.forms.end(), [&](const ImageControl& form) {
+                               return usesLibrary(form, library.name + "Ctl.");
+                           });
+        if (inUse) AddDependency.raise(library.guid, qltoolkit::ComponentDependency);
+    }
+    const std::string folder = services_.files.GetParentFolderName(input_.outputPath);
+    for (const auto& form : image.forms) reportFilesOf(form, folder);
+}
+
+void ProjectCompiler::reportFilesOf(const ImageControl& control, const std::string& folder) {
+    const auto& files = services_.files;
+    for (const auto& property : control.properties) {
+        const auto name = stringLiteral(property.value);
+        if (!name || name->empty() || files.IsAbsolute(*name) || files.GetExtensionName(*name).empty()) continue;
+        if (files.FileExists(files.BuildPath(folder, *name))) AddDependency.raise(*name, qltoolkit::FileDependency);
+    }
+    for (const auto& child : control.children) reportFilesOf(child, folder);
+}
+
+void ProjectCompiler::report(const Diagnostic& diagnostic) {
+    services_.record->diagnostics.push_back(diagnostic);
+    const bool isError = diagnostic.severity == Severity::Error;
+    if (isError) ++errors_;
+    const auto& event = isError ? BuildError : BuildWarning;
+    event.raise(diagnostic.text, diagnostic.file, std::int32_t(diagnostic.line), diagnostic.number);
+}
+
+bool ProjectCompiler::writeImage(const Image& image) {
+    const std::string path = input_.outputPath + kImageSuffix;
+    const auto err = basic::attempt([&] { services_.files.WriteBytes(path, encodeImage(image)); });
+    if (err.Number != 0) {
+        report(fileDiagnostic(Message::ImageNotWritten, path, err.Description));
+        return false;
+    }
+    services_.record->image = path;
+    return true;
+}
+
+} // namespace compiler

@@ -1,0 +1,113 @@
+#include "Components/QLToolkit/module_image.h"
+#include "Components/QLToolkit/ast_walk.h"
+#include <unordered_set>
+
+namespace compiler {
+
+namespace {
+
+ImageModuleKind imageKindOf(FileKind kind) {
+    switch (kind) {
+    case FileKind::Module: return ImageModuleKind::Module;
+    case FileKind::Class: return ImageModuleKind::Class;
+    default: return ImageModuleKind::Form;
+    }
+}
+
+ImageMemberKind imageKindOf(ProcedureKind kind) {
+    switch (kind) {
+    case ProcedureKind::Sub: return ImageMemberKind::Sub;
+    case ProcedureKind::Function: return ImageMemberKind::Function;
+    case ProcedureKind::PropertyGet: return ImageMemberKind::PropertyGet;
+    case ProcedureKind::PropertyLet: return ImageMemberKind::PropertyLet;
+    case ProcedureKind::PropertySet: break;
+    }
+    return ImageMemberKind::PropertySet;
+}
+
+/// The first byte behind the last separator of either kind.
+std::string fileTitle(const std::string& path) {
+    const auto slash = path.find_last_of("/\\");
+    return slash == path.npos ? path : path.substr(slash + 1);
+}
+
+class MemberList {
+public:
+    MemberList(const Module& module, const SymbolTable& symbols) : module_(module), symbols_(symbols) {}
+
+    std::vector<ImageMember> take() {
+        for (const auto* decl = module_.declarations; decl; decl = decl->next) add(*decl);
+        return std::move(members_);
+    }
+
+private:
+    void add(const Decl& decl) {
+        switch (decl.kind) {
+        case DeclKind::Procedure: {
+            const auto& signature = as<ProcedureDecl>(decl).signature;
+            add(decl, imageKindOf(signature.kind), signature.name, signature.parameters.size());
+            break;
+        }
+        case DeclKind::Declare: {
+            const auto& signature = as<DeclareDecl>(decl).signature;
+            add(decl, ImageMemberKind::Declare, signature.name, signature.parameters.size());
+            break;
+        }
+        case DeclKind::Event:
+            add(decl, ImageMemberKind::Event, as<EventDecl>(decl).name, as<EventDecl>(decl).parameters.size());
+            break;
+        default: break;
+        }
+    }
+
+    void add(const Decl& decl, ImageMemberKind kind, Symbol name, std::uint32_t parameters) {
+        members_.push_back({kind, decl.visibility != Visibility::Private, std::string(symbols_.spelling(name)),
+                            module_.source.lineOf(decl.pos), parameters});
+    }
+
+    const Module& module_;
+    const SymbolTable& symbols_;
+    std::vector<ImageMember> members_;
+};
+
+std::vector<std::string> stringsOf(const Module& module) {
+    std::vector<const Expr*> literals;
+    forEachExpression(module, [&](const Expr& expr) {
+        if (expr.kind == ExprKind::String) literals.push_back(&expr);
+    });
+    std::sort(literals.begin(), literals.end(), [](const Expr* a, const Expr* b) { return a->pos < b->pos; });
+    std::vector<std::string> texts;
+    std::unordered_set<std::string> seen;
+    for (const auto* literal : literals) {
+        auto text = stringValue(module.source, as<StringExpr>(*literal));
+        if (seen.insert(text).second) texts.push_back(std::move(text));
+    }
+    return texts;
+}
+
+} // namespace
+
+std::string moduleName(const Module& module, const SymbolTable& symbols) {
+    for (const auto* decl = module.declarations; decl; decl = decl->next) {
+        if (decl->kind != DeclKind::Attribute) continue;
+        const auto& attribute = as<AttributeDecl>(*decl);
+        if (!attribute.path.empty() || attribute.values.empty() || symbols.spelling(attribute.name) != "VB_Name")
+            continue;
+        const Expr* value = attribute.values[0];
+        if (value && value->kind == ExprKind::String) return stringValue(module.source, as<StringExpr>(*value));
+    }
+    return {};
+}
+
+ImageModule imageOf(const Module& module, const SymbolTable& symbols) {
+    ImageModule image;
+    image.kind = imageKindOf(module.source.kind());
+    image.name = moduleName(module, symbols);
+    image.file = fileTitle(module.source.name());
+    image.lines = module.source.lineCount();
+    image.members = MemberList{module, symbols}.take();
+    image.strings = stringsOf(module);
+    return image;
+}
+
+} // namespace compiler

@@ -1,0 +1,13 @@
+#pragma once
+// What an image holds of a module.
+#include "Components/QLToolkit/ast.h"
+#include "Components/QLToolkit/image.h"
+
+namespace compiler {
+
+/// The VB_Name of a module; "" where it has none.
+std::string moduleName(const Module& module, const SymbolTable& symbols);
+
+ImageModule imageOf(const Module& module, const SymbolTable& symbols);
+
+} // namespace compiler
