@@ -1,0 +1,37 @@
+#pragma once
+// Which component of a project has a file, remembered within a run.
+#include "Add-in/platform/files.h"
+#include "Add-in/platform/host_project.h"
+#include <map>
+#include <string>
+#include <vector>
+
+namespace fernwick {
+
+class Procedure;
+
+/// A run brings thousands of messages for few files, so the walk over the components is kept: it goes on where
+/// the last one stopped, and a remembered component is asked again whether the file is still its own.
+class FileTitles {
+public:
+    explicit FileTitles(const FileSystemObject& files) : files_(files) {}
+
+    /// A run begins: the components may have changed.
+    void forget() { project_ = nullptr; }
+    /// Name of the first component whose file has this name, letter case ignored; "" for none.
+    std::string find(Procedure& here, const basic::Ref<vbide::VBProject>& project, const std::string& fileName);
+
+private:
+    std::string fileNameOf(const basic::Ref<vbide::VBComponent>& component) const;
+    bool stillHas(const basic::Ref<vbide::VBComponent>& component, const std::string& name) const;
+    void startOver(Procedure& here, const basic::Ref<vbide::VBProject>& project);
+    std::string walkOn(Procedure& here, const std::string& name);
+
+    const FileSystemObject& files_;
+    basic::Ref<vbide::VBProject> project_;
+    std::vector<basic::Ref<vbide::VBComponent>> components_;
+    std::size_t walked_ = 0;
+    std::map<std::string, basic::Ref<vbide::VBComponent>> byFile_;
+};
+
+} // namespace fernwick

@@ -1,0 +1,80 @@
+#pragma once
+// The messages of a project: stored in the project, and shown in the tool window.
+#include "Add-in/build/compile_messages.h"
+#include "Add-in/build/file_titles.h"
+#include "Add-in/core/AddIn.h"
+#include "Add-in/core/procedure.h"
+#include "Add-in/platform/platform.h"
+
+namespace fernwick {
+
+/// Every compile error, validation finding and deployment error of a project goes through here. The stored list
+/// survives the closing of the project; the window shows the list of the current project.
+class modCompileErrorManagement {
+public:
+    using Project = basic::Ref<vbide::VBProject>;
+
+    modCompileErrorManagement(AddIn& addIn, ErrorReport& errors, const Platform& platform)
+        : addIn_(addIn), errors_(errors), app_(platform.app), titles_(platform.files) {}
+
+    /// Shows the message at the top of the window's list and stores it. `line` is the code window's, 0 for none.
+    void AddProjectCompileError(const Project& project, const std::string& message, const std::string& fileName,
+                                std::int32_t line, std::int32_t errorNumber);
+    /// Shows the message at the end of the window's list and stores it.
+    void AddProjectCompileWarning(const Project& project, const std::string& message, const std::string& fileName,
+                                  std::int32_t line, std::int32_t errorNumber);
+    /// Stores only. Failures are silent: a project may be read-only.
+    void AddProjectError(const Project& project, const std::string& message, const std::string& fileName,
+                         std::int32_t line, int type, std::int32_t errorNumber);
+    /// Empties the window and the stored list.
+    void ClearProjectCompileErrors(const Project& project);
+    /// How many messages are stored, warnings included; 0 when that cannot be read.
+    std::int32_t NumProjectCompileErrors(const Project& project);
+    void ShowProjectCompileErrors(const Project& project, bool onlyIfAny);
+    void HideProjectCompileErrors() { hideToolWindow(); }
+    /// Selects the first message with a source line and opens it.
+    void ShowFirstProjectError();
+    /// Refills the window from the stored list.
+    void ReadProjectErrors(const Project& project);
+
+    /// Stores whether the window is showing. Writes only on a change, so that the project is not marked changed.
+    void SaveCompileErrorWindowState(const Project& project);
+    bool GetCompileErrorWindowState(const Project& project);
+
+    /// Name of the component that has this file; "" for none.
+    std::string FindFileTitle(const Project& project, const std::string& fileName);
+    /// Sets the status by the counts of the messages shown, and fills the numbers into the text that is used.
+    void ProjectStatusText(std::string& successText, std::string& warningText, std::string& failureText);
+    /// The message as it is stored: on one line, without "|" and quotation marks.
+    static std::string FilterCompileMessage(const std::string& text);
+
+    void createToolWindow();
+    void showToolWindow();
+    void hideToolWindow();
+    void clearToolWindow();
+    void killToolWindow();
+    bool isToolWindowShowing();
+    void addToToolWindow(const std::string& fileName, const std::string& title, std::int32_t line,
+                         const std::string& message, int type, std::int32_t errorNumber, bool addToTop);
+
+    /// Errors in the window.
+    std::int32_t errorCount() const { return errorCount_; }
+    /// Warnings in the window that came before the first error.
+    std::int32_t warningCount() const { return warningCount_; }
+
+private:
+    void addMessage(const Project& project, const std::string& message, const std::string& fileName, std::int32_t line,
+                    int type, std::int32_t errorNumber);
+    void showStored(const Project& project, const std::string& value, int& type);
+
+    AddIn& addIn_;
+    ErrorReport& errors_;
+    const App& app_;
+    FileTitles titles_;
+    basic::Ref<CompileMessages> messages_;
+    basic::Ref<vbide::Window> window_;
+    std::int32_t errorCount_ = 0;
+    std::int32_t warningCount_ = 0;
+};
+
+} // namespace fernwick

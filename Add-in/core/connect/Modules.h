@@ -1,0 +1,67 @@
+#pragma once
+// The whole add-in, put together.
+#include "Add-in/build/frmCompile.h"
+#include "Add-in/build/frmCompileWarning.h"
+#include "Add-in/build/udocCompileMsgs.h"
+#include "Add-in/core/connect/Connect.h"
+#include "Add-in/core/connect/HostCommands.h"
+#include "Add-in/core/modAddInErrorManagement.h"
+#include "Add-in/project/frmSaveWarning.h"
+
+namespace fernwick {
+
+/// One instance of each module and form, in the order of the house: a member may use only those above it, so that
+/// the compiler forbids a cycle. Two add-ins may live in one process.
+struct Modules {
+    /// `platform` outlives the add-in.
+    explicit Modules(Platform& platform);
+    Modules(const Modules&) = delete;
+    ~Modules();
+
+    Platform& platform;
+    // core
+    modAddInErrorManagement errors{platform.interaction, platform.app};
+    modRegistry2 registry{platform.registry};
+    modQLInstallInfo install{registry, platform.files};
+    modAddinPrefsManagement prefs{registry, errors};
+    AddIn addIn{registry, errors, platform.environment};
+    modReferencesManagement references{registry, platform.classes, errors};
+    // devices
+    modDeviceManagement devices{platform.classes, errors};
+    DeviceServices deviceServices{errors, platform.interaction, platform.classes, registry, prefs, references, devices};
+    // commands
+    CommandItems items;
+    HostCommands commands{addIn};
+    // project
+    modProjectTemplates templates{addIn, install, platform.files, platform.interaction, errors};
+    ProjectServices projectServices{errors, platform, install, addIn, devices, templates};
+    modProjectHandler projects{projectServices};
+    modSaveProject save{projectServices, projects};
+    frmSaveProjectFiles saveFiles{platform.interaction, addIn};
+    frmSaveWarning saveWarning{platform.interaction, addIn};
+    // build
+    modCompileErrorManagement messages{addIn, errors, platform};
+    modProcessControl processes{errors, platform};
+    frmCompileWarning compileWarning{platform.interaction, prefs, errors};
+    frmCompile compile{{platform, errors, registry, install, projects, messages, processes, saveFiles, commands}};
+    // lifecycle
+    frmProjectRemoval removal{platform.interaction, platform.loop, addIn, projects, commands, errors};
+    frmDesignTargetNormal chooseTarget{deviceServices};
+    ProjectSetup setup{
+        {addIn, platform.loop, deviceServices, projects, save, messages, chooseTarget, removal, commands}};
+    // on top
+    Connect connect{
+        {platform, errors, prefs, addIn, references, devices, items, projects, messages, removal, setup, commands}};
+
+private:
+    basic::Ref<Object> newCompileMsgs();
+
+    /// What the host made for its tool windows, which stay with it.
+    std::vector<std::weak_ptr<udocCompileMsgs>> documents_;
+    std::shared_ptr<void> compileMsgsClass_;
+};
+
+/// The add-in as the host holds it: the modules live as long as the answer does.
+basic::Ref<vbide::IDTExtensibility> asAddIn(const std::shared_ptr<Modules>& modules);
+
+} // namespace fernwick

@@ -1,0 +1,21 @@
+#pragma once
+// What users read while the add-in starts and projects are loaded.
+
+namespace fernwick::connect_texts {
+
+inline constexpr char kTitle[] = "Fernwick";
+inline constexpr char kNoMenu[] = "Could not add Fernwick Tools menu;";
+inline constexpr char kNoToolbar[] = "Could not add Fernwick Toolbar;";
+inline constexpr char kNoSupportToolbar[] = "Could not add Quinloft Converters and Viewers Toolbar;";
+/// Around the step that failed.
+inline constexpr char kFailedStepBefore[] = "ERROR!\r\n\r\n";
+inline constexpr char kFailedStepAfter[] = "\r\nFailing to install Fernwick Add-In";
+
+inline constexpr char kOldProjectTitle[] = "Warning: Pre Quinloft Fernwick 3.5 Project";
+inline constexpr char kOldProject[] =
+    "This project was created with an older version of Quinloft Fernwick and will not work with this version. The "
+    "project must be converted before it can be run safely in this version of Fernwick. After any additional error "
+    "dialogs are dismissed, Fernwick will start the Project Converter. Follow the Project Converter instructions to "
+    "make this a valid Fernwick 3.5 project.";
+
+} // namespace fernwick::connect_texts

@@ -1,0 +1,47 @@
+#pragma once
+// What happens when a project becomes the active one, and when it makes way for the project manager.
+#include "Add-in/build/modCompileErrorManagement.h"
+#include "Add-in/lifecycle/frmDesignTargetNormal.h"
+#include "Add-in/lifecycle/frmProjectRemoval.h"
+#include "Add-in/project/modSaveProject.h"
+
+namespace fernwick {
+
+/// What the set-up of projects stands on.
+struct SetupServices {
+    AddIn& addIn;
+    EventLoop& loop;
+    DeviceServices devices;
+    modProjectHandler& projects;
+    modSaveProject& save;
+    modCompileErrorManagement& messages;
+    frmDesignTargetNormal& chooseTarget;
+    frmProjectRemoval& removal;
+    IdeCommands& commands;
+};
+
+class ProjectSetup {
+public:
+    explicit ProjectSetup(const SetupServices& services) : use_(services) {}
+
+    /// Makes the project the active one: gives it a device where it has none, and switches the interface and the
+    /// messages to it.
+    void SetupProject(const basic::Ref<clsQLProject>& project);
+    /// Closes the current project and shows the project manager; not when saving fails or is cancelled.
+    void StartProjectManager();
+
+private:
+    void leaveActiveProject(Procedure& here);
+    void chooseDevice(Procedure& here, const basic::Ref<clsQLProject>& project);
+    void takeOnlyTarget(Procedure& here, const basic::Ref<clsQLProject>& project, const std::string& key);
+    void askForTarget(Procedure& here, const basic::Ref<clsQLProject>& project);
+    void prepareForDevice(Procedure& here, const basic::Ref<clsQLProject>& project);
+    void switchOn(Procedure& here, const basic::Ref<clsQLProject>& project);
+    void switchOff(Procedure& here);
+    void closeActiveProject(Procedure& here);
+    bool hasDevice(const basic::Ref<clsQLProject>& project);
+
+    SetupServices use_;
+};
+
+} // namespace fernwick

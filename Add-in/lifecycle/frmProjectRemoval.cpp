@@ -1,0 +1,99 @@
+#include "Add-in/lifecycle/frmProjectRemoval.h"
+
+namespace fernwick {
+
+void frmProjectRemoval::RemoveProject(const Project& project, bool replaceIt, const std::string& newProject) {
+    Procedure here{errors_, "frmProjectRemoval.RemoveProject"};
+    removalList_.push_back(project);
+    if (replaceIt) projectToOpen_ = newProject;
+    here([&] { Timer1.Enabled(true); });
+}
+
+void frmProjectRemoval::LoadExclusiveProject(const Project& project, const std::string& path, bool componentsOnly) {
+    Procedure here{errors_, "frmProjectRemoval.LoadExclusiveProject"};
+    componentsOnly_ = componentsOnly;
+    removalList_.push_back(project);
+    projectToLoad_ = path;
+    here([&] { Timer1.Enabled(true); });
+}
+
+void frmProjectRemoval::RemoveComponent(const Project& project, const basic::Ref<vbide::VBComponent>& component) {
+    Procedure here{errors_, "frmProjectRemoval.RemoveComponent"};
+    if (project) componentsProject_ = project;
+    if (component) componentToRemove_ = component;
+    if (componentsProject_ && componentToRemove_) here([&] { Timer2.Enabled(true); });
+}
+
+/// Opening and closing let events in, and their handlers may ask for more: that is served in this same tick.
+void frmProjectRemoval::Timer1_Timer() {
+    Procedure here{errors_, "frmProjectRemoval.Timer1_Timer"};
+    for (std::size_t i = 0; i < removalList_.size(); ++i) {
+        const Project project = removalList_[i];
+        serve(here, project);
+    }
+    removalList_.clear();
+    here([&] { Timer1.Enabled(false); });
+}
+
+void frmProjectRemoval::serve(Procedure& here, const Project& project) {
+    const auto qlProject = projects_.GetQLProject(project);
+    if (!qlProject || !qlProject->IsQuinloftProject()) return;
+    const bool oldFormat = qlProject->ProjectVersion() == "1.0";
+
+    if (projectToOpen_.empty()) {
+        activate(here, project);
+        if (here.test([&] { return bool(addIn_.gVBInstance->ActiveVBProject()); })) removeActive(here);
+    }
+    if (oldFormat) {
+        const auto importer = here.value([&] { return commands_.FindConverterMenuItem(); });
+        if (importer) here([&] { importer->Execute(); });
+    } else if (componentsOnly_) {
+        projects_.RemoveProjectComponents(qlProject);
+    } else if (!projectToOpen_.empty()) {
+        replace(here, project, std::exchange(projectToOpen_, {})); // what the opening asks for keeps its own path
+    } else if (!projectToLoad_.empty()) {
+        openFile(here, std::exchange(projectToLoad_, {}), true);
+    }
+}
+
+/// The IDE is never left without a project when others are open.
+void frmProjectRemoval::replace(Procedure& here, const Project& project, const std::string& path) {
+    const bool onlyOne = here.test([&] { return addIn_.gVBInstance->VBProjects()->Count() < 2; });
+    if (!onlyOne) openFile(here, path, false);
+    here([&] { project->IsDirty(false); });
+    activate(here, project);
+    removeActive(here);
+    here([&] { loop_.DoEvents(); });
+    if (onlyOne) openFile(here, path, true);
+}
+
+void frmProjectRemoval::activate(Procedure& here, const Project& project) {
+    here([&] { addIn_.gVBInstance->ActiveVBProject(project); });
+    here([&] { loop_.DoEvents(); });
+}
+
+void frmProjectRemoval::removeActive(Procedure& here) {
+    here([&] { commands_.gFileFourthItem()->Execute(); });
+}
+
+void frmProjectRemoval::openFile(Procedure& here, const std::string& path, bool exclusive) {
+    here([&] { addIn_.gVBInstance->VBProjects()->AddFromFile(path, exclusive); });
+}
+
+void frmProjectRemoval::Timer2_Timer() {
+    Procedure here{errors_, "frmProjectRemoval.Timer2_Timer"};
+    const auto project = componentsProject_;
+    const auto component = componentToRemove_;
+    if (project && component) here([&] { project->VBComponents()->Remove(component); });
+    here([&] { Timer2.Enabled(false); });
+}
+
+void frmProjectRemoval::Form_Unload() {
+    Timer1.Enabled(false);
+    Timer2.Enabled(false);
+    removalList_.clear();
+    componentsProject_ = nullptr;
+    componentToRemove_ = nullptr;
+}
+
+} // namespace fernwick

@@ -1,0 +1,12 @@
+#pragma once
+// What users read while projects are set up, replaced and removed.
+
+namespace fernwick::lifecycle_texts {
+
+inline constexpr char kTitle[] = "Fernwick";
+/// The device's key stands before it.
+inline constexpr char kDeviceNotInstalled[] = " support is not installed or registered. Please select a valid device.";
+inline constexpr char kSaveBeforeManager[] = "Save project before opening Fernwick project manager?";
+inline constexpr char kManagerWillNotOpen[] = "Project failed to save, Fernwick project manager will not open.";
+
+} // namespace fernwick::lifecycle_texts
