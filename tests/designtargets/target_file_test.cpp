@@ -79,6 +79,11 @@ TEST(TargetFile, NamesTheLineWhereTheTextIsNoToml) {
     EXPECT_EQ(problemOf("order = 1\norder = 2\n").substr(0, 9), "t.toml:2:");
 }
 
+TEST(TargetFile, NamesTheLineOfATableWithoutAName) {
+    EXPECT_EQ(problemOf("order = 1\n[+font]\n").substr(0, 9), "t.toml:2:");
+    EXPECT_EQ(problemOf("order = 1\n[]\n").substr(0, 9), "t.toml:2:");
+}
+
 TEST(TargetFile, SurvivesDeepNesting) { EXPECT_NE(problemOf("a = " + std::string(100000, '[')), ""); }
 
 TEST(TargetFile, TakesTheLeastThatMakesATarget) { EXPECT_EQ(problemOf(TargetFolder::target("Some", 1)), ""); }
