@@ -153,14 +153,15 @@ int CommandLineUser::MsgBox(const std::string& text, int buttons, const std::str
 void CommandLineUser::ShowSave(fernwick::CommonDialog& dialog) {
     show(dialog.DialogTitle, dialog.FileName, 0);
     shown_.back().answer = replyName(Reply::Cancel);
-    if (dialog.CancelError) throw basic::RuntimeError(fernwick::kCancelWasSelected, "Cancel was selected.", "CommonDialog");
+    if (dialog.CancelError)
+        throw basic::RuntimeError(fernwick::kCancelWasSelected, "Cancel was selected.", "CommonDialog");
 }
 
 Reply CommandLineUser::replyTo(const Question* question, Reply otherwise, const std::string& text, bool canBeYes) {
     if (const auto given = answers_.given(question)) return *given;
     if (!console_.canAsk() || !canBeYes) return otherwise;
-    const std::string typed = console_.ask(fmt::format("{}{}[yes/no/cancel, Return for {}] ", text, text.empty() ? "" : " ",
-                                                       replyName(otherwise)));
+    const std::string typed = console_.ask(
+        fmt::format("{}{}[yes/no/cancel, Return for {}] ", text, text.empty() ? "" : " ", replyName(otherwise)));
     return replyNamed(typed).value_or(otherwise);
 }
 

@@ -49,7 +49,9 @@ const char* colourOf(Tone tone) {
 } // namespace
 
 Console::Console(Verbosity verbosity)
-    : verbosity_(verbosity), errIsTerminal_(isatty(STDERR_FILENO) == 1), colour_(errIsTerminal_ && !noColorWanted()),
+    : verbosity_(verbosity),
+      errIsTerminal_(isatty(STDERR_FILENO) == 1),
+      colour_(errIsTerminal_ && !noColorWanted()),
       canAsk_(errIsTerminal_ && isatty(STDIN_FILENO) == 1) {}
 
 Console::~Console() { endProgress(); }

@@ -30,7 +30,8 @@ void addCommon(CLI::App& verb, Raw& raw) {
 void addAnswers(CLI::App& verb, Raw& raw) {
     verb.add_flag("-y,--yes", raw.yes, "Answer every question with yes");
     verb.add_flag("--no", raw.no, "Answer every question with no")->excludes("--yes");
-    verb.add_option("--answer", raw.answers, "Answer one question: NAME=yes|no|cancel|ok (names: fernwick help answers)")
+    verb.add_option("--answer", raw.answers,
+                    "Answer one question: NAME=yes|no|cancel|ok (names: fernwick help answers)")
         ->type_name("NAME=REPLY");
 }
 
@@ -56,13 +57,16 @@ void defineBuild(CLI::App& app, Raw& raw) {
         ->type_name("FILE");
     build.add_flag("-n,--dry-run", raw.options.dryRun, "Say what would be compiled and run, and write nothing");
     build.add_flag("--trust-steps", raw.options.trustSteps, "Run the project's compile steps without asking");
-    build.add_flag("--no-steps", raw.options.noSteps, "Run none of the project's compile steps")->excludes("--trust-steps");
+    build.add_flag("--no-steps", raw.options.noSteps, "Run none of the project's compile steps")
+        ->excludes("--trust-steps");
 }
 
 void defineReaders(CLI::App& app, Raw& raw) {
     auto& check = addVerb(app, raw, "check", "Parse source files or whole projects and report every error",
                           "fernwick check Form1.frm Module1.bas");
-    check.add_option("FILE", raw.options.operands, ".bas, .cls, .frm, .ctl or .vbp files");
+    check.add_option("FILE", raw.options.operands, ".bas, .cls, .frm, .ctl, .vbp or .vbg files");
+    check.add_option("--code-page", raw.options.codePage, "Code page of files that are not UTF-8 (1252)")
+        ->type_name("N");
 
     auto& info = addVerb(app, raw, "info", "Tell what a project holds", "fernwick info AddressBook.vbp --verify");
     addProject(info, raw);
@@ -93,8 +97,8 @@ void defineRegistry(CLI::App& app, Raw& raw) {
     registry.add_option("ACTION", raw.options.action, "get, set, export or import")
         ->required()
         ->check(CLI::IsMember({"get", "set", "export", "import"}));
-    registry.add_option("OPERANDS", raw.options.operands,
-                        "get KEY [NAME] | set KEY NAME VALUE | export KEY | import FILE")
+    registry
+        .add_option("OPERANDS", raw.options.operands, "get KEY [NAME] | set KEY NAME VALUE | export KEY | import FILE")
         ->required();
     registry.add_flag("-n,--dry-run", raw.options.dryRun, "Say what would change, and write nothing");
 }
@@ -115,7 +119,8 @@ Parsed finish(Raw& raw) {
     for (const auto& answer : raw.answers) {
         if (options.answers.add(answer)) continue;
         parsed.status = kWrongUse;
-        parsed.error = fmt::format("fernwick: --answer {}: no such question or reply; see fernwick help answers", answer);
+        parsed.error =
+            fmt::format("fernwick: --answer {}: no such question or reply; see fernwick help answers", answer);
         return parsed;
     }
     parsed.options = std::move(options);
@@ -178,9 +183,7 @@ Parsed parseCommandLine(int argc, const char* const* argv) {
         Parsed parsed;
         parsed.output = versionLine() + "\n";
         return parsed;
-    } catch (const CLI::ParseError& error) {
-        return ended(app, error);
-    }
+    } catch (const CLI::ParseError& error) { return ended(app, error); }
     if (raw.options.verb == "help") return helpOn(app, topic);
     return finish(raw);
 }

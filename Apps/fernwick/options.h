@@ -27,7 +27,8 @@ struct Options {
     bool trustSteps = false;
     bool noSteps = false;
     bool verify = false;
-    bool machine = false;
+    /// Code page of source files that are not UTF-8.
+    int codePage = 1252;
 };
 
 /// What parsing came to: either options to run with, or a text to print and a status to end with.

@@ -1,19 +1,11 @@
 #include "Apps/fernwick/report.h"
+#include "Apps/fernwick/json_output.h"
 #include "Apps/fernwick/version.h"
 #include <fmt/format.h>
-#include <nlohmann/json.hpp>
 
 namespace cli {
 
 namespace {
-
-constexpr int kSchemaVersion = 1;
-using Json = nlohmann::ordered_json;
-
-/// What is no UTF-8 becomes U+FFFD: the output is always valid JSON.
-std::string dump(const Json& json) {
-    return json.dump(2, ' ', false, nlohmann::json::error_handler_t::replace) + "\n";
-}
 
 Json jsonOfMessage(const Message& message) {
     Json json{{"severity", message.isError ? "error" : "warning"}, {"number", message.number}, {"text", message.text}};
@@ -66,7 +58,7 @@ std::string jsonOf(const Report& report) {
     json["boxes"] = Json::array();
     for (const auto& box : report.boxes)
         json["boxes"].push_back({{"title", box.title}, {"text", box.text}, {"answer", box.answer}});
-    return dump(json);
+    return dumpJson(json);
 }
 
 std::string sarifOf(const Report& report) {
@@ -83,9 +75,9 @@ std::string sarifOf(const Report& report) {
     const Json run{{"tool", {{"driver", {{"name", "fernwick"}, {"version", FERNWICK_VERSION}}}}},
                    {"invocations", Json::array({invocation})},
                    {"results", results}};
-    return dump({{"$schema", "https://json.schemastore.org/sarif-2.1.0.json"},
-                 {"version", "2.1.0"},
-                 {"runs", Json::array({run})}});
+    return dumpJson({{"$schema", "https://json.schemastore.org/sarif-2.1.0.json"},
+                     {"version", "2.1.0"},
+                     {"runs", Json::array({run})}});
 }
 
 } // namespace cli

@@ -1,0 +1,63 @@
+#include "Apps/fernwick/exit_status.h"
+#include "Apps/fernwick/interruption.h"
+#include "Apps/fernwick/verbs/verbs.h"
+#include "Apps/fernwick/version.h"
+#include "Basic/runtime_error.h"
+#include <array>
+#include <cstdio>
+#include <cstring>
+#include <fmt/format.h>
+
+namespace {
+
+struct Verb {
+    std::string_view name;
+    int (*run)(const cli::Options&, cli::Console&);
+};
+
+constexpr std::array kVerbs{
+    Verb{"build", cli::runBuild},       Verb{"check", cli::runCheck},       Verb{"info", cli::runInfo},
+    Verb{"messages", cli::runMessages}, Verb{"registry", cli::runRegistry}, Verb{"settings", cli::runSettings},
+    Verb{"targets", cli::runTargets},   Verb{"version", cli::runVersion},
+};
+
+int runVerb(const cli::Options& options, cli::Console& console) {
+    for (const auto& verb : kVerbs)
+        if (verb.name == options.verb) return verb.run(options, console);
+    return cli::kWrongUse;
+}
+
+int guarded(const cli::Options& options, cli::Console& console) {
+    try {
+        return runVerb(options, console);
+    } catch (const cli::Interrupted&) {
+        console.err("fernwick: interrupted; nothing was left half-written", cli::Tone::Warning);
+        return cli::kInterrupted;
+    } catch (const basic::RuntimeError& error) {
+        console.err(fmt::format("fernwick: {} (error {} of {})", error.Description, error.Number, error.Source),
+                    cli::Tone::Error);
+    } catch (const std::exception& error) { console.err(fmt::format("fernwick: {}", error.what()), cli::Tone::Error); }
+    return cli::kMachineTrouble;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    // asked by every script that looks for the tool: answered before anything else is set up
+    if (argc == 2 && std::strcmp(argv[1], "--version") == 0) return std::puts(cli::versionLine().c_str()) < 0 ? 3 : 0;
+
+    const auto parsed = cli::parseCommandLine(argc, argv);
+    if (!parsed.error.empty()) std::fprintf(stderr, "%s\n", parsed.error.c_str());
+    if (!parsed.output.empty() && std::fputs(parsed.output.c_str(), stdout) < 0) return cli::kMachineTrouble;
+    if (!parsed.run) return parsed.status;
+
+    cli::watchForInterrupt();
+    cli::Console console{parsed.options.verbosity};
+    int status = guarded(parsed.options, console);
+    if (cli::wasInterrupted()) status = cli::kInterrupted;
+    if (!console.flush()) {
+        console.err("fernwick: standard output could not be written", cli::Tone::Error);
+        if (status == cli::kGood) status = cli::kMachineTrouble;
+    }
+    return status;
+}

@@ -1,0 +1,92 @@
+#include "Apps/fernwick/exit_status.h"
+#include "Apps/fernwick/interruption.h"
+#include "Apps/fernwick/project_argument.h"
+#include "Apps/fernwick/report.h"
+#include "Apps/fernwick/verbs/source_list.h"
+#include "Apps/fernwick/verbs/verbs.h"
+#include "Basic/runtime_error.h"
+#include "Host/files/encoding.h"
+#include "Host/files/text_file.h"
+#include <chrono>
+#include <fmt/format.h>
+
+namespace cli {
+
+namespace {
+
+struct CheckTotals {
+    std::size_t files = 0, errors = 0;
+    std::uint64_t lines = 0;
+};
+
+Message messageOf(const compiler::Diagnostic& diagnostic) {
+    Message message;
+    message.isError = diagnostic.severity == compiler::Severity::Error;
+    message.number = diagnostic.number;
+    message.text = diagnostic.text;
+    message.file = diagnostic.file;
+    message.line = int(diagnostic.line);
+    message.column = int(diagnostic.column);
+    return message;
+}
+
+compiler::CheckResult checkOne(const SourceToCheck& source, const basic::CodePage& usual) {
+    host::FileContent content;
+    const auto err = basic::attempt([&] { content = host::readFile(source.path); });
+    if (err.Number != 0) return compiler::checkFile(source.path, source.constants, usual); // says what is wrong with it
+    const auto page = host::codePageOf(content.bytes, usual);
+    return compiler::checkSource(source.path, std::move(content.bytes), source.constants, page);
+}
+
+CheckTotals checkAll(const SourceList& list, const basic::CodePage& usual, const Options& options, Console& console,
+                     Report& report) {
+    CheckTotals totals;
+    for (const auto& source : list.sources) {
+        checkInterrupt();
+        const auto result = checkOne(source, usual);
+        ++totals.files;
+        totals.lines += result.lines;
+        totals.errors += result.errors;
+        for (const auto& diagnostic : result.diagnostics) {
+            const auto message = messageOf(diagnostic);
+            if (options.format == Format::Text)
+                console.err(textOf(message, ""), message.isError ? Tone::Error : Tone::Warning);
+            else
+                report.messages.push_back(message);
+        }
+    }
+    return totals;
+}
+
+std::string plural(std::uint64_t count, std::string_view one) {
+    return fmt::format("{} {}{}", count, one, count == 1 ? "" : "s");
+}
+
+} // namespace
+
+int runCheck(const Options& options, Console& console) {
+    const auto begin = std::chrono::steady_clock::now();
+    auto operands = options.operands;
+    if (operands.empty()) operands.push_back(projectArgument(""));
+    const basic::CodePage usual{options.codePage};
+    const auto list = listSources(operands, usual);
+
+    Report report;
+    report.verb = "check";
+    for (const auto& problem : list.problems) {
+        report.failure += (report.failure.empty() ? "" : "\n") + problem;
+        console.err("fernwick: " + problem, Tone::Error);
+    }
+    const auto totals = checkAll(list, usual, options, console, report);
+    report.exitStatus = totals.errors > 0 || !list.problems.empty() ? kProjectErrors : kGood;
+    const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - begin;
+    report.statusText = fmt::format("{}, {}, {}", plural(totals.files, "file"), plural(totals.lines, "line"),
+                                    plural(totals.errors, "error"));
+    if (options.format == Format::Json) console.out(jsonOf(report));
+    if (options.format == Format::Sarif) console.out(sarifOf(report));
+    if (options.format == Format::Text && options.verbosity != Verbosity::Quiet)
+        console.out(fmt::format("{} in {:.2f} s\n", report.statusText, taken.count()));
+    return report.exitStatus;
+}
+
+} // namespace cli

@@ -1,0 +1,76 @@
+#include "Apps/fernwick/verbs/source_list.h"
+#include "Basic/case_folding.h"
+#include "Basic/runtime_error.h"
+#include "Host/files/encoding.h"
+#include "Host/files/group_file.h"
+#include "Host/files/path_lookup.h"
+#include "Host/files/project_file.h"
+#include <filesystem>
+#include <fmt/format.h>
+
+namespace cli {
+
+namespace {
+
+bool hasExtension(const std::string& path, std::string_view extension) {
+    return basic::equalNoCase(std::filesystem::path(path).extension().string(), extension);
+}
+
+std::string folderOf(const std::string& path) {
+    return std::filesystem::absolute(path).parent_path().lexically_normal().string();
+}
+
+class SourceCollector {
+public:
+    explicit SourceCollector(const basic::CodePage& usual) : usual_(usual) {}
+
+    void add(const std::string& path) {
+        const auto err = basic::attempt([&] {
+            if (hasExtension(path, ".vbp"))
+                addProject(path);
+            else if (hasExtension(path, ".vbg"))
+                addGroup(path);
+            else
+                list_.sources.push_back({path, {}});
+        });
+        if (err.Number != 0) list_.problems.push_back(fmt::format("{}: {}", path, err.Description));
+    }
+
+    SourceList take() { return std::move(list_); }
+
+private:
+    void addProject(const std::string& path) {
+        const auto content = host::readFile(path);
+        const auto page = host::codePageOf(content.bytes, usual_);
+        host::ProjectFile project{content.bytes, page};
+        if (!project.looksLikeProject())
+            throw basic::RuntimeError(basic::kInvalidProcedureCall, "not a Visual Basic project");
+        const auto constants = compiler::parseConditionalConstants(project.setting("CondComp").value_or(""));
+        host::PathLookup lookup;
+        for (const auto& member : project.members())
+            if (host::isComponentKind(member.content.kind))
+                list_.sources.push_back({lookup.find(folderOf(path), member.content.value), constants});
+    }
+
+    void addGroup(const std::string& path) {
+        const auto content = host::readFile(path);
+        if (!host::GroupFile::looksLikeGroup(content.bytes))
+            throw basic::RuntimeError(basic::kInvalidProcedureCall, "not a Visual Basic project group");
+        const host::GroupFile group{content.bytes, host::codePageOf(content.bytes, usual_)};
+        host::PathLookup lookup;
+        for (const auto& entry : group.entries()) add(lookup.find(folderOf(path), entry.path));
+    }
+
+    const basic::CodePage& usual_;
+    SourceList list_;
+};
+
+} // namespace
+
+SourceList listSources(const std::vector<std::string>& operands, const basic::CodePage& usual) {
+    SourceCollector collector{usual};
+    for (const auto& operand : operands) collector.add(operand);
+    return collector.take();
+}
+
+} // namespace cli

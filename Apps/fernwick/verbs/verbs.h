@@ -1,0 +1,17 @@
+#pragma once
+// The verbs of the command line. Each writes its result through the console and answers its exit status.
+#include "Apps/fernwick/console.h"
+#include "Apps/fernwick/options.h"
+
+namespace cli {
+
+int runBuild(const Options& options, Console& console);
+int runCheck(const Options& options, Console& console);
+int runInfo(const Options& options, Console& console);
+int runMessages(const Options& options, Console& console);
+int runRegistry(const Options& options, Console& console);
+int runSettings(const Options& options, Console& console);
+int runTargets(const Options& options, Console& console);
+int runVersion(const Options& options, Console& console);
+
+} // namespace cli
