@@ -1,37 +1,180 @@
 #include "Basic/error_numbers.h"
+#include <algorithm>
+#include <iterator>
 
 namespace basic {
 
+namespace {
+
+struct StandardError {
+    int number;
+    std::string_view description;
+};
+
+/// In the order of the numbers.
+constexpr StandardError kStandardErrors[] = {
+    {kReturnWithoutGoSub, "Return without GoSub"},
+    {kInvalidProcedureCall, "Invalid procedure call or argument"},
+    {kOverflow, "Overflow"},
+    {kOutOfMemory, "Out of memory"},
+    {kSubscriptOutOfRange, "Subscript out of range"},
+    {kArrayFixedOrLocked, "This array is fixed or temporarily locked"},
+    {kDivisionByZero, "Division by zero"},
+    {kTypeMismatch, "Type mismatch"},
+    {kOutOfStringSpace, "Out of string space"},
+    {kExpressionTooComplex, "Expression too complex"},
+    {kCantPerformOperation, "Can't perform requested operation"},
+    {kUserInterrupt, "User interrupt occurred"},
+    {kResumeWithoutError, "Resume without error"},
+    {kOutOfStackSpace, "Out of stack space"},
+    {kProcedureNotDefined, "Sub or Function not defined"},
+    {kTooManyDllClients, "Too many DLL application clients"},
+    {kErrorLoadingDll, "Error in loading DLL"},
+    {kBadDllCallingConvention, "Bad DLL calling convention"},
+    {kInternalError, "Internal error"},
+    {kBadFileNameOrNumber, "Bad file name or number"},
+    {kFileNotFound, "File not found"},
+    {kBadFileMode, "Bad file mode"},
+    {kFileAlreadyOpen, "File already open"},
+    {kDeviceIOError, "Device I/O error"},
+    {kFileAlreadyExists, "File already exists"},
+    {kBadRecordLength, "Bad record length"},
+    {kDiskFull, "Disk full"},
+    {kInputPastEndOfFile, "Input past end of file"},
+    {kBadRecordNumber, "Bad record number"},
+    {kTooManyFiles, "Too many files"},
+    {kDeviceUnavailable, "Device unavailable"},
+    {kPermissionDenied, "Permission denied"},
+    {kDiskNotReady, "Disk not ready"},
+    {kCantRenameWithDifferentDrive, "Can't rename with different drive"},
+    {kPathFileAccessError, "Path/File access error"},
+    {kPathNotFound, "Path not found"},
+    {kObjectVariableNotSet, "Object variable or With block variable not set"},
+    {kForLoopNotInitialized, "For loop not initialized"},
+    {kInvalidPatternString, "Invalid pattern string"},
+    {kInvalidUseOfNull, "Invalid use of Null"},
+    {kTooManyEventSinks, "Unable to sink events of object because the object is already firing events to the maximum "
+                         "number of event receivers that it supports"},
+    {kCantCallFriend, "Can not call friend function on object which is not an instance of defining class"},
+    {kPrivateObjectInCall, "A property or method call cannot include a reference to a private object, either as an "
+                           "argument or as a return value"},
+    {kInvalidFileFormat, "Invalid file format"},
+    {kCantCreateTemporaryFile, "Can't create necessary temporary file"},
+    {kInvalidFormatInResourceFile, "Invalid format in resource file"},
+    {kDataValueNotFound, "Data value named was not found"},
+    {kCantWriteArrays, "Illegal parameter; can't write arrays"},
+    {kCantAccessRegistry, "Could not access system registry"},
+    {kComponentNotRegistered, "ActiveX component not correctly registered"},
+    {kComponentNotFound, "ActiveX component not found"},
+    {kComponentDidNotRun, "ActiveX component did not correctly run"},
+    {kControlElementMissing, "Control array element does not exist"},
+    {kInvalidControlIndex, "Invalid control array index"},
+    {kNoRoomForControlArray, "Not enough room to allocate control array"},
+    {kObjectNotArray, "Object not an array"},
+    {kControlIndexRequired, "Must specify index for object array"},
+    {kControlLimitReached, "Reached limit: cannot create any more controls on this form"},
+    {kObjectAlreadyLoaded, "Object already loaded"},
+    {kCantLoadOrUnload, "Can't load or unload this object"},
+    {kCantUnloadDesignedControl, "Can't unload controls created at design time"},
+    {kCustomControlNotFound, "Custom control not found"},
+    {kObjectWasUnloaded, "Object was unloaded"},
+    {kUnableToUnload, "Unable to unload within this context"},
+    {kNoMdiFormToLoad, "No MDI form available to load"},
+    {kFileOutOfDate, "The specified file is out of date. This program requires a later version"},
+    {kCantBeOwnerForm, "The specified object can't be used as an owner form for Show"},
+    {kInvalidPropertyValue, "Invalid property value"},
+    {kInvalidPropertyArrayIndex, "Invalid property array index"},
+    {kPropertyNotSettableAtRunTime, "Property set can't be executed at run time"},
+    {kPropertyReadOnly, "Property set can't be used with a read-only property"},
+    {kPropertyIndexRequired, "Need property-array index"},
+    {kPropertySetNotPermitted, "Property set not permitted"},
+    {kCantSetVisibleInMenu, "Can't set Visible property from a parent menu"},
+    {kInvalidKey, "Invalid key"},
+    {kNoDefinedValue, "No defined value"},
+    {kNameNotAvailable, "Name not available"},
+    {kMdiChildCantBeHidden, "MDI child forms cannot be hidden"},
+    {kPropertyNotReadableAtRunTime, "Property get can't be executed at run time"},
+    {kPropertyWriteOnly, "Property get can't be executed on write-only property"},
+    {kCantUseSeparatorAsMenuName, "Can't use separator bar as menu name for this control"},
+    {kPropertyNotSettableInPage, "Property cannot be set within a page"},
+    {kMdiParentMenuVisible, "Can't load, unload, or set Visible property for top level menus while they are merged"},
+    {kClientSiteNotAvailable, "Client Site not available"},
+    {kFormAlreadyDisplayed, "Form already displayed; can't show modally"},
+    {kModalFormDisplayed, "Can't show non-modal form when modal form is displayed"},
+    {kCloseTopmostFormFirst, "Must close or hide topmost modal form first"},
+    {kMdiFormNotModal, "MDI forms cannot be shown modally"},
+    {kMdiChildNotModal, "MDI child forms cannot be shown modally"},
+    {kUnableToShowModal, "Unable to show modal form within this context"},
+    {kNonModalNotAllowed, "Non-modal forms cannot be displayed in this host application from an ActiveX DLL, ActiveX "
+                          "Control, or Property Page"},
+    {kPermissionToUseObjectDenied, "Permission to use object denied"},
+    {kPropertyNotFound, "Property not found"},
+    {kPropertyOrMethodNotFound, "Property or method not found"},
+    {kObjectRequired, "Object required"},
+    {kInvalidObjectUse, "Invalid object use"},
+    {kOnlyOneMdiForm, "Only one MDI Form allowed"},
+    {kMenuControlRequired, "Invalid object type; Menu control required"},
+    {kPopupNeedsSubmenu, "Popup menu must have at least one submenu"},
+    {kCantCreateObject, "ActiveX component can't create object"},
+    {kAutomationNotSupported, "Class does not support Automation or does not support expected interface"},
+    {kAutomationNameNotFound, "File name or class name not found during Automation operation"},
+    {kPropertyOrMethodNotSupported, "Object doesn't support this property or method"},
+    {kAutomationError, "Automation error"},
+    {kTypeLibraryConnectionLost, "Connection to type library or object library for remote process has been lost. Press "
+                                 "OK for dialog to remove reference"},
+    {kNoDefaultValue, "Automation object does not have a default value"},
+    {kMethodNotApplicable, "Method not applicable in this context"},
+    {kActionNotSupported, "Object doesn't support this action"},
+    {kNamedArgumentsNotSupported, "Object doesn't support named arguments"},
+    {kLocaleNotSupported, "Object doesn't support current locale setting"},
+    {kNamedArgumentNotFound, "Named argument not found"},
+    {kArgumentNotOptional, "Argument not optional"},
+    {kWrongNumberOfArguments, "Wrong number of arguments or invalid property assignment"},
+    {kPropertyLetNotDefined, "Property let procedure not defined and property get procedure did not return an object"},
+    {kInvalidOrdinal, "Invalid ordinal"},
+    {kDllFunctionNotFound, "Specified DLL function not found"},
+    {kCodeResourceNotFound, "Code resource not found"},
+    {kCodeResourceLockError, "Code resource lock error"},
+    {kKeyAlreadyAssociated, "This key is already associated with an element of this collection"},
+    {kTypeNotSupported, "Variable uses an Automation type not supported in Visual Basic"},
+    {kEventsNotSupported, "Object or class does not support the set of events"},
+    {kInvalidClipboardFormat, "Invalid clipboard format"},
+    {kMethodOrDataMemberNotFound, "Method or data member not found"},
+    {kServerUnavailable, "The remote server machine does not exist or is unavailable"},
+    {kClassNotRegistered, "Class not registered on local machine"},
+    {kCantCreateAutoRedrawImage, "Can't create AutoRedraw image"},
+    {kInvalidPicture, "Invalid picture"},
+    {kPrinterError, "Printer error"},
+    {kPrinterPropertyNotSupported, "Printer driver does not support specified property"},
+    {kPrinterInformationUnavailable,
+     "Problem getting printer information from the system. Make sure the printer is set up correctly"},
+    {kInvalidPictureType, "Invalid picture type"},
+    {kCantPrintFormImage, "Can't print form image to this type of printer"},
+    {kCantEmptyClipboard, "Can't empty Clipboard"},
+    {kCantOpenClipboard, "Can't open Clipboard"},
+    {kControlNotFound, "Control not found"},
+    {kCantSaveFileToTemp, "Can't save file to TEMP"},
+    {kSearchTextNotFound, "Search text not found"},
+    {kReplacementsTooLong, "Replacements too long"},
+    {kOutOfMemoryInOle, "Out of memory"},
+    {kNoOleObject, "No object"},
+    {kOleClassNotSet, "Class is not set"},
+    {kUnableToActivateObject, "Unable to activate object"},
+    {kUnableToCreateEmbeddedObject, "Unable to create embedded object"},
+    {kErrorSavingToFile, "Error saving to file"},
+    {kErrorLoadingFromFile, "Error loading from file"},
+};
+
+constexpr bool lower(const StandardError& a, const StandardError& b) { return a.number < b.number; }
+static_assert(std::is_sorted(std::begin(kStandardErrors), std::end(kStandardErrors), lower));
+
+} // namespace
+
 std::string_view standardDescription(int number) noexcept {
-    switch (number) {
-    case kReturnWithoutGoSub: return "Return without GoSub";
-    case kInvalidProcedureCall: return "Invalid procedure call or argument";
-    case kOverflow: return "Overflow";
-    case kOutOfMemory: return "Out of memory";
-    case kSubscriptOutOfRange: return "Subscript out of range";
-    case kDivisionByZero: return "Division by zero";
-    case kTypeMismatch: return "Type mismatch";
-    case kFileNotFound: return "File not found";
-    case kFileAlreadyOpen: return "File already open";
-    case kDeviceIOError: return "Device I/O error";
-    case kFileAlreadyExists: return "File already exists";
-    case kDiskFull: return "Disk full";
-    case kInputPastEndOfFile: return "Input past end of file";
-    case kPermissionDenied: return "Permission denied";
-    case kPathFileAccessError: return "Path/File access error";
-    case kPathNotFound: return "Path not found";
-    case kObjectVariableNotSet: return "Object variable or With block variable not set";
-    case kInvalidPropertyValue: return "Invalid property value";
-    case kInvalidPropertyArrayIndex: return "Invalid property array index";
-    case kFormAlreadyDisplayed: return "Form already displayed; can't show modally";
-    case kObjectRequired: return "Object required";
-    case kCantCreateObject: return "ActiveX component can't create object";
-    case kPropertyOrMethodNotSupported: return "Object doesn't support this property or method";
-    case kAutomationError: return "Automation error";
-    case kKeyAlreadyAssociated: return "This key is already associated with an element of this collection";
-    case kControlNotFound: return "Control not found";
-    default: return "Application-defined or object-defined error";
-    }
+    const auto* const found =
+        std::lower_bound(std::begin(kStandardErrors), std::end(kStandardErrors), StandardError{number, {}}, lower);
+    if (found != std::end(kStandardErrors) && found->number == number) return found->description;
+    return "Application-defined or object-defined error";
 }
 
 } // namespace basic
