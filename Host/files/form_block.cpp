@@ -1,6 +1,7 @@
 #include "Host/files/form_block.h"
 #include "Basic/case_folding.h"
 #include "Host/files/form_line.h"
+#include "Host/files/property_value.h"
 #include <algorithm>
 #include <fmt/core.h>
 
@@ -72,6 +73,11 @@ std::optional<std::string> FormBlock::literal(std::string_view key) const {
     return std::string(parseFormLine(item->line).value);
 }
 
+std::string FormBlock::comment(std::string_view key) const {
+    const Item* item = find(key);
+    return item && !item->block ? std::string(parseFormLine(item->line).comment) : std::string();
+}
+
 bool FormBlock::set(std::string_view key, std::string_view literal, std::string_view comment) {
     Item* item = find(key);
     if (item && item->block) return false;
@@ -109,6 +115,37 @@ void FormBlock::eachProperty(const std::function<void(std::string_view, std::str
         const auto parts = parseFormLine(item->line);
         see(parts.name, parts.value);
     }
+}
+
+void FormBlock::eachPropertyWithin(const SeeLine& see, std::size_t& line) const {
+    ++line;
+    for (const auto& item : items_) {
+        if (item->block) {
+            item->block->eachPropertyWithin(see, line);
+            continue;
+        }
+        if (!item->key.empty()) {
+            const auto parts = parseFormLine(item->line);
+            see(*this, parts.name, parts.value, line);
+        }
+        ++line;
+    }
+    if (!lastLine_.empty()) ++line;
+}
+
+bool FormBlock::renameResources(std::string_view oldFile, std::string_view newFile) {
+    bool changed = false;
+    for (const auto& item : items_) {
+        if (item->block) changed = item->block->renameResources(oldFile, newFile) || changed;
+        if (item->block || item->key.empty()) continue;
+        const auto parts = parseFormLine(item->line);
+        auto value = parsePropertyValue(parts.value);
+        if (value.kind != PropertyValue::Kind::Resource || !basic::equalNoCase(value.resource.file, oldFile)) continue;
+        value.resource.file = newFile;
+        item->line = rewritten(item->line, parts, resourceLiteral(value.resource), parts.comment);
+        changed = true;
+    }
+    return changed;
 }
 
 std::shared_ptr<FormBlock> FormBlock::properties(std::string_view name) const {

@@ -30,6 +30,8 @@ public:
 
     /// The literal of a property as it stands in the file.
     std::optional<std::string> literal(std::string_view key) const;
+    /// The word behind the "'" of a property's line, "" for none.
+    std::string comment(std::string_view key) const;
     /// Writes a literal and its comment (the word behind "'", empty for none). A property that is there keeps
     /// its spelling, its layout and, with the same literal, its comment. A new one gets a line in the
     /// designer's layout: in an Object in the alphabet's order, else at the end. True when the text changed.
@@ -39,6 +41,16 @@ public:
     /// True when the property was put there by `set`, not read from the file.
     bool wasAdded(std::string_view key) const;
     void eachProperty(const std::function<void(std::string_view key, std::string_view literal)>& see) const;
+
+    /// Each property of this block and of all within it, with its line; `line` is that of the block's first line and
+    /// then of the one behind its last.
+    using SeeLine =
+        std::function<void(const FormBlock& owner, std::string_view key, std::string_view literal, std::size_t)>;
+    void eachPropertyWithin(const SeeLine& see, std::size_t& line) const;
+
+    /// In this block and all within it, references to the resource file of one name become references to another.
+    /// True when the text changed.
+    bool renameResources(std::string_view oldFile, std::string_view newFile);
 
     /// The nested Properties block of a name, or null.
     std::shared_ptr<FormBlock> properties(std::string_view name) const;

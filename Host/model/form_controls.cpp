@@ -1,0 +1,151 @@
+#include "Host/model/form_controls.h"
+#include "Basic/case_folding.h"
+#include "Host/files/property_value.h"
+#include "Host/files/system_error.h"
+#include "Host/model/block_properties.h"
+#include "Host/model/form_geometry.h"
+#include <algorithm>
+
+namespace host {
+namespace {
+
+constexpr int kNewWidth = 1215, kNewHeight = 495; // twips
+
+std::string classPart(std::string_view type) {
+    const auto point = type.rfind('.');
+    return std::string(point == std::string_view::npos ? type : type.substr(point + 1));
+}
+
+/// What the names of new controls begin with: some of the language's own classes have a shorter one.
+std::string nameStem(const std::string& className) {
+    static constexpr std::pair<std::string_view, std::string_view> kShort[] = {
+        {"CommandButton", "Command"}, {"TextBox", "Text"},       {"CheckBox", "Check"},     {"OptionButton", "Option"},
+        {"ComboBox", "Combo"},        {"ListBox", "List"},       {"PictureBox", "Picture"}, {"HScrollBar", "HScroll"},
+        {"VScrollBar", "VScroll"},    {"DriveListBox", "Drive"}, {"DirListBox", "Dir"},     {"FileListBox", "File"}};
+    for (const auto& [whole, stem] : kShort)
+        if (className == whole) return std::string(stem);
+    return className;
+}
+
+std::string freeName(DesignerState& state, const std::string& stem) {
+    for (int number = 1;; ++number) {
+        auto name = stem + std::to_string(number);
+        if (!state.controlNamed(name) && !basic::equalNoCase(name, state.root().name())) return name;
+    }
+}
+
+std::vector<basic::Ref<vbide::VBControl>> controlsIn(DesignerState& state, const FormBlock& container) {
+    std::vector<basic::Ref<vbide::VBControl>> out;
+    for (const auto& block : container.objects()) out.push_back(state.controlOf(*block));
+    return out;
+}
+
+/// The container of a block, which is the form or a control on it.
+FormBlock* containerOf(FormBlock& root, const FormBlock& block) {
+    const auto inner = root.objects();
+    if (std::any_of(inner.begin(), inner.end(), [&](const auto& b) { return b.get() == &block; })) return &root;
+    for (const auto& candidate : inner)
+        if (auto* found = containerOf(*candidate, block)) return found;
+    return nullptr;
+}
+
+long nextTabIndex(DesignerState& state) {
+    long next = 0;
+    for (const auto& control : state.controls()) {
+        const auto literal = static_cast<const ControlModel&>(*control.shared()).block()->literal("TabIndex");
+        const auto value = parsePropertyValue(literal.value_or(""));
+        if (value.kind == PropertyValue::Kind::Integer && value.number < 1e6)
+            next = std::max(next, long(value.number) + 1);
+    }
+    return next;
+}
+
+} // namespace
+
+ControlModel::ControlModel(std::weak_ptr<DesignerState> state, std::shared_ptr<FormBlock> block)
+    : state_(std::move(state)), block_(std::move(block)) {}
+
+std::shared_ptr<DesignerState> ControlModel::live() const {
+    auto state = liveDesigner(state_);
+    if (!state->holds(*block_)) throw hostError(basic::kAutomationError, "The control has been removed.");
+    return state;
+}
+
+std::string ControlModel::ClassName() const {
+    live();
+    return classPart(block_->type());
+}
+
+std::string ControlModel::ProgId() const {
+    live();
+    return std::string(block_->type());
+}
+
+basic::Ref<vbide::Properties> ControlModel::Properties() const {
+    live();
+    return propertiesOf(std::make_shared<BlockProperties>(state_, block_));
+}
+
+std::vector<basic::Ref<vbide::VBControl>> ControlModel::ContainedVBControls() const {
+    return controlsIn(*live(), *block_);
+}
+
+int ControlsModel::Count() const { return int(liveDesigner(state_)->controls().size()); }
+
+basic::Ref<vbide::VBControl> ControlsModel::Item(int index) const {
+    const auto state = liveDesigner(state_);
+    if (index < 1 || std::size_t(index) > state->controls().size()) throw hostError(basic::kSubscriptOutOfRange);
+    return state->controls()[std::size_t(index) - 1];
+}
+
+basic::Ref<vbide::VBControl> ControlsModel::Item(const std::string& name) const {
+    auto control = liveDesigner(state_)->controlNamed(name);
+    if (!control) throw hostError(basic::kSubscriptOutOfRange, "There is no control \"" + name + "\".");
+    return control;
+}
+
+std::vector<basic::Ref<vbide::VBControl>> ControlsModel::items() const { return liveDesigner(state_)->controls(); }
+
+basic::Ref<vbide::VBControl> ControlsModel::Add(const std::string& progId) {
+    const auto state = liveDesigner(state_);
+    const auto type = state->hooks.classOfProgId ? state->hooks.classOfProgId(progId) : progId;
+    if (type.find('.') == std::string::npos || type.find_first_of(" \t\r\n") != std::string::npos)
+        throw hostError(basic::kCantCreateObject);
+    state->checkText(type);
+    const auto block = state->root().addObject(type, freeName(*state, nameStem(classPart(type))));
+    const auto scale = FormGeometry(*state).scale();
+    const auto tabIndex = nextTabIndex(*state);
+    block->set("Height", singleLiteral(kNewHeight / scale.y));
+    block->set("Left", "0");
+    block->set("TabIndex", integerLiteral(tabIndex));
+    block->set("Top", "0");
+    block->set("Width", singleLiteral(kNewWidth / scale.x));
+    state->controlsChanged();
+    state->tellChanged();
+    auto control = state->controlOf(*block);
+    if (state->hooks.controlAdded) state->hooks.controlAdded(control);
+    return control;
+}
+
+void ControlsModel::Remove(const basic::Ref<vbide::VBControl>& control) {
+    const auto state = liveDesigner(state_);
+    const auto model = basic::cast<ControlModel>(control);
+    auto* container = model ? containerOf(state->root(), *model->block()) : nullptr;
+    if (!container) throw hostError(basic::kInvalidProcedureCall, "The control is not on this form.");
+    container->removeObject(*model->block());
+    state->controlsChanged();
+    state->tellChanged();
+    if (state->hooks.controlRemoved) state->hooks.controlRemoved(control);
+}
+
+basic::Ref<vbide::VBControls> FormModel::VBControls() const {
+    liveDesigner(state_);
+    return basic::make<ControlsModel>(state_);
+}
+
+std::vector<basic::Ref<vbide::VBControl>> FormModel::ContainedVBControls() const {
+    const auto state = liveDesigner(state_);
+    return controlsIn(*state, state->root());
+}
+
+} // namespace host
