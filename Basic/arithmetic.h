@@ -1,0 +1,81 @@
+#pragma once
+// VB's arithmetic on Byte, Integer and Long: a result beyond the type's range is error 6, a division by 0 error 11.
+#include "Basic/runtime_error.h"
+#include "Basic/types.h"
+#include <concepts>
+#include <limits>
+#include <type_traits>
+
+namespace basic {
+
+template <class T>
+concept WholeNumber = std::same_as<T, Byte> || std::same_as<T, Integer> || std::same_as<T, Long>;
+
+template <WholeNumber T>
+T Add(T a, std::type_identity_t<T> b) {
+    T sum;
+    if (__builtin_add_overflow(a, b, &sum)) throw RuntimeError(kOverflow);
+    return sum;
+}
+
+template <WholeNumber T>
+T Subtract(T a, std::type_identity_t<T> b) {
+    T difference;
+    if (__builtin_sub_overflow(a, b, &difference)) throw RuntimeError(kOverflow);
+    return difference;
+}
+
+template <WholeNumber T>
+T Multiply(T a, std::type_identity_t<T> b) {
+    T product;
+    if (__builtin_mul_overflow(a, b, &product)) throw RuntimeError(kOverflow);
+    return product;
+}
+
+/// -a, for a Byte an Integer, as it has no negative numbers.
+template <WholeNumber T>
+auto Negate(T a) {
+    using Result = std::conditional_t<std::same_as<T, Byte>, Integer, T>;
+    return Subtract<Result>(0, a);
+}
+
+/// VB's \: the quotient without its decimals.
+template <WholeNumber T>
+T IntegerDivide(T a, std::type_identity_t<T> b) {
+    if (b == 0) throw RuntimeError(kDivisionByZero);
+    if constexpr (std::is_signed_v<T>) {
+        if (a == std::numeric_limits<T>::min() && b == -1) throw RuntimeError(kOverflow);
+    }
+    return static_cast<T>(a / b);
+}
+
+/// VB's Mod: what \ leaves, with the sign of `a`.
+template <WholeNumber T>
+T Mod(T a, std::type_identity_t<T> b) {
+    if (b == 0) throw RuntimeError(kDivisionByZero);
+    if constexpr (std::is_signed_v<T>) {
+        if (b == -1) return 0;
+    }
+    return static_cast<T>(a % b);
+}
+
+/// VB's ^, whose result is always a Double. Error 5 for a negative base with an exponent that has decimals and for 0
+/// with a negative exponent; 6 for a result too large.
+Double Power(Double base, Double exponent);
+
+/// VB's /, whose result is a Double. Error 11 for a divisor of 0, but 6 for 0 / 0; 6 for a result too large.
+Double Divide(Double a, Double b);
+
+template <WholeNumber T>
+constexpr T Eqv(T a, std::type_identity_t<T> b) noexcept {
+    return static_cast<T>(~(a ^ b));
+}
+constexpr bool Eqv(bool a, bool b) noexcept { return a == b; }
+
+template <WholeNumber T>
+constexpr T Imp(T a, std::type_identity_t<T> b) noexcept {
+    return static_cast<T>(~a | b);
+}
+constexpr bool Imp(bool a, bool b) noexcept { return !a || b; }
+
+} // namespace basic

@@ -1,0 +1,161 @@
+#include "Basic/decimal.h"
+#include "Basic/runtime_error.h"
+#include <algorithm>
+#include <charconv>
+#include <cstdlib>
+
+namespace basic {
+
+namespace {
+
+constexpr Long kExponentLimit = 100'000'000;
+
+bool isDigit(char c) { return c >= '0' && c <= '9'; }
+bool isWhite(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
+char smallLetter(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; }
+
+bool take(std::string_view& text, char wanted) {
+    if (text.empty() || smallLetter(text.front()) != wanted) return false;
+    text.remove_prefix(1);
+    return true;
+}
+
+/// The exponent behind a mantissa, 0 and nothing taken when none stands there.
+Long readExponent(std::string_view& text) {
+    std::string_view rest = text;
+    if (!take(rest, 'e') && !take(rest, 'd')) return 0;
+    const bool negative = take(rest, '-');
+    if (!negative) take(rest, '+');
+    if (rest.empty() || !isDigit(rest.front())) return 0;
+    Long exponent = 0;
+    for (; !rest.empty() && isDigit(rest.front()); rest.remove_prefix(1))
+        exponent = std::min(exponent * 10 + (rest.front() - '0'), kExponentLimit);
+    text = rest;
+    return negative ? -exponent : exponent;
+}
+
+int digitValue(char c) {
+    c = smallLetter(c);
+    if (isDigit(c)) return c - '0';
+    return c >= 'a' && c <= 'f' ? c - 'a' + 10 : 16;
+}
+
+/// What may stand around a number, each once.
+struct Surroundings {
+    bool sign = false, negative = false, currency = false, open = false, closed = false;
+
+    /// Takes one thing; false when something else stands there.
+    bool takeFrom(std::string_view& text, bool before) {
+        if (text.empty()) return false;
+        const char c = text.front();
+        const bool good = isWhite(c) || (c == '$' && once(currency)) || ((c == '+' || c == '-') && takeSign(c)) ||
+                          (before && c == '(' && !sign && once(open)) || (!before && c == ')' && open && once(closed));
+        if (good) text.remove_prefix(1);
+        return good;
+    }
+
+private:
+    static bool once(bool& flag) { return !std::exchange(flag, true); }
+    bool takeSign(char c) {
+        negative = negative || c == '-';
+        return !open && once(sign);
+    }
+};
+
+Decimal decimalOf(Long number) {
+    return {number < 0, number == 0 ? "" : std::to_string(std::abs(static_cast<long long>(number))), 0};
+}
+
+/// Whether the digits from `at` on are more than a half (1), a half (0) or less (-1) of the digit before.
+int compareWithHalf(std::string_view digits, std::size_t at) {
+    if (digits[at] != '5') return digits[at] > '5' ? 1 : -1;
+    return digits.find_first_not_of('0', at + 1) == digits.npos ? 0 : 1;
+}
+
+} // namespace
+
+std::optional<Decimal> readUnsigned(std::string_view& text, bool grouped) {
+    Decimal number;
+    bool any = false, behindPoint = false;
+    Long behind = 0;
+    for (; !text.empty(); text.remove_prefix(1)) {
+        const char c = text.front();
+        if (isDigit(c)) {
+            if (c != '0' || !number.digits.empty()) number.digits += c;
+            behind += behindPoint;
+            any = true;
+        } else if (c == '.' && !behindPoint)
+            behindPoint = true;
+        else if (!(c == ',' && grouped && any && !behindPoint))
+            break;
+    }
+    if (!any) return std::nullopt;
+    number.exponent = readExponent(text) - std::min(behind, kExponentLimit);
+    return number;
+}
+
+std::optional<Long> hexadecimalOrOctal(std::string_view& text) {
+    std::string_view rest = text;
+    const bool hexadecimal = take(rest, 'h');
+    if (!hexadecimal && !take(rest, 'o')) return std::nullopt;
+    const int base = hexadecimal ? 16 : 8;
+    std::uint64_t value = 0;
+    const std::size_t before = rest.size();
+    for (; !rest.empty() && digitValue(rest.front()) < base; rest.remove_prefix(1)) {
+        value = value * static_cast<unsigned>(base) + static_cast<unsigned>(digitValue(rest.front()));
+        if (value > 0xFFFFFFFF) throw RuntimeError(kOverflow);
+    }
+    if (rest.size() == before) return std::nullopt;
+    const bool isLong = take(rest, '&') || value > 0xFFFF;
+    text = rest;
+    return isLong ? static_cast<Long>(value) : static_cast<Integer>(value);
+}
+
+std::optional<Decimal> readNumber(std::string_view text) {
+    Surroundings around;
+    while (around.takeFrom(text, true)) {}
+    std::optional<Decimal> number;
+    if (take(text, '&')) {
+        const auto value = hexadecimalOrOctal(text);
+        if (value) number = decimalOf(*value);
+    } else
+        number = readUnsigned(text, true);
+    while (around.takeFrom(text, false)) {}
+    if (!number || !text.empty() || around.open != around.closed) return std::nullopt;
+    if (around.negative || around.open) number->negative = !number->negative;
+    return number;
+}
+
+Double toDouble(const Decimal& number) {
+    if (number.digits.empty()) return 0;
+    const std::string text = number.digits + 'e' + std::to_string(number.exponent);
+    Double value = 0;
+    const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (result.ec == std::errc::result_out_of_range) {
+        if (static_cast<std::int64_t>(number.digits.size()) + number.exponent > 0) throw RuntimeError(kOverflow);
+        return 0;
+    }
+    return number.negative ? -value : value;
+}
+
+Currency toCurrency(const Decimal& number) {
+    constexpr std::int64_t kDecimals = 4, kMostDigits = 19;
+    const std::string& digits = number.digits;
+    const auto size = static_cast<std::int64_t>(digits.size());
+    const std::int64_t whole = size + number.exponent + kDecimals; // of the digits those that Currency holds
+    if (digits.empty() || whole < 0) return {};
+    if (whole > kMostDigits) throw RuntimeError(kOverflow);
+    std::uint64_t magnitude = 0;
+    for (std::int64_t i = 0; i < whole; ++i)
+        magnitude =
+            magnitude * 10 + static_cast<std::uint64_t>(i < size ? digits[static_cast<std::size_t>(i)] - '0' : 0);
+    if (whole < size) {
+        const int half = compareWithHalf(digits, static_cast<std::size_t>(whole));
+        magnitude += half > 0 || (half == 0 && magnitude % 2 == 1);
+    }
+    constexpr auto kMost = static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max());
+    if (magnitude > kMost + number.negative) throw RuntimeError(kOverflow);
+    return {static_cast<std::int64_t>(number.negative ? 0 - magnitude : magnitude)};
+}
+
+} // namespace basic
