@@ -1,0 +1,31 @@
+#pragma once
+// The host that the add-in runs in, and the preference that comes with it.
+#include "Add-in/core/modRegistry2.h"
+#include "Add-in/core/procedure.h"
+#include "Add-in/platform/environment.h"
+#include "Add-in/platform/host.h"
+
+namespace fernwick {
+
+class AddIn {
+public:
+    AddIn(modRegistry2& registry, ErrorReport& errors, Environment& environment)
+        : registry_(registry), errors_(errors), environment_(environment) {}
+
+    /// The host, kept from the connection on.
+    basic::Ref<vbide::VBE> gVBInstance;
+    /// Keeps the host and publishes its address for the sibling add-ins of the process. No trap.
+    void SaveVBinstPointer(const basic::Ref<vbide::VBE>& VBInst);
+
+    /// Whether to warn that an unsaved project must be saved.
+    bool GetQuinloftSaveWarning();
+    /// True is stored as -1.
+    void SetQuinloftSaveWarning(bool value);
+
+private:
+    modRegistry2& registry_;
+    ErrorReport& errors_;
+    Environment& environment_;
+};
+
+} // namespace fernwick

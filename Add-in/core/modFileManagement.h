@@ -1,0 +1,12 @@
+#pragma once
+// Names of files relative to a folder.
+#include "Add-in/platform/files.h"
+
+namespace fernwick {
+
+/// The path as seen from a folder: what stands behind the folder where the path begins with it (letter case
+/// ignored), else the way over "..\", else the path as it is. `base` ends in a separator. The answer has "\"
+/// for its separators, as it is stored in projects.
+std::string GetRelativePath(const FileSystemObject& files, const std::string& base, const std::string& path);
+
+} // namespace fernwick

@@ -1,0 +1,30 @@
+#pragma once
+// Where things are installed.
+#include "Add-in/core/modRegistry2.h"
+#include "Add-in/platform/files.h"
+
+namespace fernwick {
+
+class modQLInstallInfo {
+public:
+    modQLInstallInfo(modRegistry2& registry, const FileSystemObject& files) : registry_(registry), files_(files) {}
+
+    /// Root directory of the installation; "" when it is not known.
+    std::string GetQuinloftRootDir() const;
+    /// Below the root; "" without one.
+    std::string GetQuinloftFontsDir() const;
+    std::string GetQuinloftSamplesDir() const;
+    /// Directory of the host IDE; "" when it is not known.
+    std::string GetVBProductDir() const;
+
+    /// A file or folder that the installation lays down, by its name below the root in any letter case.
+    std::string installed(const std::string& name) const;
+
+private:
+    std::string below(const std::string& name) const;
+
+    modRegistry2& registry_;
+    const FileSystemObject& files_;
+};
+
+} // namespace fernwick

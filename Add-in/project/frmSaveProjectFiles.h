@@ -1,0 +1,31 @@
+#pragma once
+// Asks whether to save before a compile.
+#include "Add-in/core/AddIn.h"
+#include "Add-in/platform/controls.h"
+
+namespace fernwick {
+
+class frmSaveProjectFiles final : public Form {
+public:
+    frmSaveProjectFiles(Interaction& user, AddIn& addIn);
+    const char* typeName() const override { return "frmSaveProjectFiles"; }
+
+    /// Shows the question; True for Yes. The caller reads the tick of chkWarning and unloads the form. Errors of
+    /// the form come out of it.
+    bool AskForProjectSave(const std::string& question);
+
+    Label lblWarning{this, "lblWarning"};
+    CommandButton btnYes{this, "btnYes", "&Yes", &frmSaveProjectFiles::btnYes_Click};
+    CommandButton btnNo{this, "btnNo", "&No", &frmSaveProjectFiles::btnNo_Click};
+    CheckBox chkWarning;
+
+private:
+    void btnYes_Click();
+    void btnNo_Click();
+    void answer(bool yes);
+
+    AddIn& addIn_;
+    bool yes_ = false;
+};
+
+} // namespace fernwick
