@@ -87,7 +87,8 @@ TEST(Samples, HandleEventsOfTheirOwnControls) {
             for (const std::string& procedure : installed::textsAfter(text, "\nPrivate Sub ", "(")) {
                 const auto event = procedure.find('_');
                 if (event == std::string::npos || procedure.starts_with("Form_")) continue;
-                EXPECT_NE(text.find(" " + procedure.substr(0, event) + " \r\n"), std::string::npos) << procedure;
+                const std::string control = std::string{" "}.append(procedure, 0, event).append(" \r\n");
+                EXPECT_NE(text.find(control), std::string::npos) << procedure;
             }
         }
 }
