@@ -1,6 +1,7 @@
 #pragma once
 // GUIDs: the names of classes, type libraries and projects.
 #include <array>
+#include <compare>
 #include <cstdint>
 #include <optional>
 #include <string>
