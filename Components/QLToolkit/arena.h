@@ -54,7 +54,8 @@ public:
 private:
     void* take(std::size_t size, std::size_t alignment) {
         std::uintptr_t at = (next_ + alignment - 1) & ~(alignment - 1);
-        if (at + size > end_) [[unlikely]] at = grow(size, alignment);
+        if (at + size > end_) [[unlikely]]
+            at = grow(size, alignment);
         next_ = at + size;
         return reinterpret_cast<void*>(at);
     }

@@ -21,7 +21,17 @@ using TypeSuffix = char;
 // ---------------------------------------------------------------- types
 
 enum class TypeKind : std::uint8_t {
-    Boolean, Byte, Integer, Long, Single, Double, Currency, Date, String, Variant, Object,
+    Boolean,
+    Byte,
+    Integer,
+    Long,
+    Single,
+    Double,
+    Currency,
+    Date,
+    String,
+    Variant,
+    Object,
     Any,         ///< parameters of Declare only
     FixedString, ///< String * length
     Named        ///< a class, a Type or an Enum, with or without its library
@@ -30,25 +40,68 @@ enum class TypeKind : std::uint8_t {
 /// What stands behind As. Null where nothing does: then the suffix, DefType or Variant decides.
 struct TypeRef {
     TypeKind kind;
-    bool isNew = false;        ///< As New
-    bool isArray = false;      ///< the result of a function: As Long()
+    bool isNew = false;   ///< As New
+    bool isArray = false; ///< the result of a function: As Long()
     Pos pos;
     Symbol library = Symbol::None;
-    Symbol name = Symbol::None; ///< Named only
+    Symbol name = Symbol::None;   ///< Named only
     const Expr* length = nullptr; ///< FixedString only
 };
 
 // ---------------------------------------------------------------- expressions
 
 enum class ExprKind : std::uint8_t {
-    Integer, Long, Currency, Single, Double, Date, String, Boolean, Empty, Null, Nothing, Me,
-    Name, Member, Bang, Index, Paren, Unary, Binary, New, TypeOf, AddressOf, Coordinates
+    Integer,
+    Long,
+    Currency,
+    Single,
+    Double,
+    Date,
+    String,
+    Boolean,
+    Empty,
+    Null,
+    Nothing,
+    Me,
+    Name,
+    Member,
+    Bang,
+    Index,
+    Paren,
+    Unary,
+    Binary,
+    New,
+    TypeOf,
+    AddressOf,
+    Coordinates,
+    Range ///< the bounds of ReDim on their way through the parser; no finished tree has one
 };
 
 enum class Operator : std::uint8_t {
-    Power, Negate, Plus, Multiply, Divide, IntDivide, Mod, Add, Subtract, Concat,
-    Equal, NotEqual, Less, LessEqual, Greater, GreaterEqual, Like, Is,
-    Not, And, Or, Xor, Eqv, Imp
+    Power,
+    Negate,
+    Plus,
+    Multiply,
+    Divide,
+    IntDivide,
+    Mod,
+    Add,
+    Subtract,
+    Concat,
+    Equal,
+    NotEqual,
+    Less,
+    LessEqual,
+    Greater,
+    GreaterEqual,
+    Like,
+    Is,
+    Not,
+    And,
+    Or,
+    Xor,
+    Eqv,
+    Imp
 };
 
 struct Expr {
@@ -61,14 +114,25 @@ struct Expr {
 };
 
 /// Integer and Long: the value. Currency: the value times 10,000.
-struct IntegerExpr : Expr { std::int64_t value; };
+struct IntegerExpr : Expr {
+    std::int64_t value;
+};
 /// Single, Double, and Date as days since 30 December 1899.
-struct FloatExpr : Expr { double value; };
+struct FloatExpr : Expr {
+    double value;
+};
 /// The text between the quotes at pos: `length` bytes from pos + 1. detail is 1 when a quote in it is doubled.
-struct StringExpr : Expr { Pos length; };
-struct NameExpr : Expr { Symbol name; };
+struct StringExpr : Expr {
+    Pos length;
+};
+struct NameExpr : Expr {
+    Symbol name;
+};
 /// base.name; base!name for Bang. A null base is the object of the innermost With.
-struct MemberExpr : Expr { Symbol name; const Expr* base; };
+struct MemberExpr : Expr {
+    Symbol name;
+    const Expr* base;
+};
 
 /// One argument of a call or one index. Omitted: `f(, 1)` has a null value.
 struct Argument {
@@ -77,26 +141,86 @@ struct Argument {
     bool byVal = false;         ///< ByVal value, for parameters declared As Any
 };
 /// callee(arguments): a call or an element of an array; only the names tell which.
-struct IndexExpr : Expr { const Expr* callee; Span<Argument> arguments; };
+struct IndexExpr : Expr {
+    const Expr* callee;
+    Span<Argument> arguments;
+};
 /// Paren, Unary, AddressOf.
-struct UnaryExpr : Expr { const Expr* operand; };
-struct BinaryExpr : Expr { const Expr* left; const Expr* right; };
-struct NewExpr : Expr { const TypeRef* type; };
-struct TypeOfExpr : Expr { const Expr* operand; const TypeRef* type; };
+struct UnaryExpr : Expr {
+    const Expr* operand;
+};
+struct BinaryExpr : Expr {
+    const Expr* left;
+    const Expr* right;
+};
+struct NewExpr : Expr {
+    const TypeRef* type;
+};
+struct TypeOfExpr : Expr {
+    const Expr* operand;
+    const TypeRef* type;
+};
 /// `[Step] (x, y) [- [Step] (x, y)]`: an argument of Line, Circle, PSet, Scale and Point. Absent points are null.
-struct CoordinatesExpr : Expr { bool step1, step2; const Expr *x1, *y1, *x2, *y2; };
+struct CoordinatesExpr : Expr {
+    bool step1, step2;
+    const Expr *x1, *y1, *x2, *y2;
+};
 
 // ---------------------------------------------------------------- statements
 
 enum class StmtKind : std::uint8_t {
-    Label, LineNumber,
-    Let, Set, LSet, RSet, MidAssign, Call,
-    Local, LocalConst, ReDim, Erase,
-    If, Select, For, ForEach, Do, While, With,
-    GoTo, GoSub, Return, OnGoTo, OnGoSub, OnErrorGoTo, OnErrorResumeNext, OnErrorOff, OnErrorClear,
-    Resume, ResumeNext, ExitSub, ExitFunction, ExitProperty, ExitDo, ExitFor, End, Stop,
-    RaiseEvent, Print,
-    Open, Close, Get, Put, Seek, Lock, Unlock, PrintFile, WriteFile, InputFile, LineInput, Width, NameAs
+    Label,
+    LineNumber,
+    Let,
+    Set,
+    LSet,
+    RSet,
+    MidAssign,
+    Call,
+    Local,
+    LocalConst,
+    ReDim,
+    Erase,
+    If,
+    Select,
+    For,
+    ForEach,
+    Do,
+    While,
+    With,
+    GoTo,
+    GoSub,
+    Return,
+    OnGoTo,
+    OnGoSub,
+    OnErrorGoTo,
+    OnErrorResumeNext,
+    OnErrorOff,
+    OnErrorClear,
+    Resume,
+    ResumeNext,
+    ExitSub,
+    ExitFunction,
+    ExitProperty,
+    ExitDo,
+    ExitFor,
+    End,
+    Stop,
+    RaiseEvent,
+    Print,
+    Open,
+    Close,
+    Get,
+    Put,
+    Seek,
+    Lock,
+    Unlock,
+    PrintFile,
+    WriteFile,
+    InputFile,
+    LineInput,
+    Width,
+    NameAs
 };
 
 /// Every statement. Return, Stop, End, the Exit family, ResumeNext, OnErrorResumeNext, OnErrorOff (GoTo 0) and
@@ -108,7 +232,9 @@ struct Stmt {
 };
 
 /// Statements in a row, linked by next.
-struct Block { const Stmt* first = nullptr; };
+struct Block {
+    const Stmt* first = nullptr;
+};
 
 /// Where a jump goes: a label, or a line number when name is None.
 struct Target {
@@ -118,15 +244,30 @@ struct Target {
 };
 
 /// Label, LineNumber, GoTo, GoSub, OnErrorGoTo, Resume (number 0 and no name: a plain Resume).
-struct TargetStmt : Stmt { Target target; };
+struct TargetStmt : Stmt {
+    Target target;
+};
 /// Let, Set, LSet, RSet. explicitLet when the word Let stands there.
-struct AssignStmt : Stmt { const Expr* target; const Expr* value; bool explicitLet = false; };
+struct AssignStmt : Stmt {
+    const Expr* target;
+    const Expr* value;
+    bool explicitLet = false;
+};
 /// Mid(target, start, length) = value; MidB, Mid$ and MidB$ alike.
-struct MidAssignStmt : Stmt { bool bytes; const Expr *target, *start, *length, *value; };
+struct MidAssignStmt : Stmt {
+    bool bytes;
+    const Expr *target, *start, *length, *value;
+};
 /// Call x, or x alone. `x a, b` and `Call x(a, b)` both have an IndexExpr here.
-struct CallStmt : Stmt { const Expr* call; bool explicitCall = false; };
+struct CallStmt : Stmt {
+    const Expr* call;
+    bool explicitCall = false;
+};
 
-struct Bound { const Expr* lower; const Expr* upper; }; ///< lower is null where `To` is absent
+struct Bound {
+    const Expr* lower;
+    const Expr* upper;
+}; ///< lower is null where `To` is absent
 
 /// A variable of Dim, Private, Static, ..., a member of a Type, an element of ReDim by name.
 struct Variable {
@@ -134,7 +275,7 @@ struct Variable {
     Pos pos;
     TypeSuffix suffix = 0;
     bool withEvents = false;
-    bool isArray = false;      ///< without bounds: a dynamic array
+    bool isArray = false; ///< without bounds: a dynamic array
     const TypeRef* type = nullptr;
     Span<Bound> bounds;
 };
@@ -145,35 +286,92 @@ struct Constant {
     const TypeRef* type = nullptr;
     const Expr* value = nullptr;
 };
-struct LocalStmt : Stmt { bool isStatic; Span<Variable> variables; };
-struct LocalConstStmt : Stmt { Span<Constant> constants; };
-struct ReDimItem { const Expr* target; Span<Bound> bounds; const TypeRef* type; };
-struct ReDimStmt : Stmt { bool preserve; Span<ReDimItem> items; };
+struct LocalStmt : Stmt {
+    bool isStatic;
+    Span<Variable> variables;
+};
+struct LocalConstStmt : Stmt {
+    Span<Constant> constants;
+};
+struct ReDimItem {
+    const Expr* target;
+    Span<Bound> bounds;
+    const TypeRef* type;
+};
+struct ReDimStmt : Stmt {
+    bool preserve;
+    Span<ReDimItem> items;
+};
 /// Erase, Close (numbers; empty closes all), InputFile (the number first, then the variables).
-struct ListStmt : Stmt { Span<const Expr*> items; };
+struct ListStmt : Stmt {
+    Span<const Expr*> items;
+};
 
-struct IfBranch { const Expr* condition; Block body; Pos pos; }; ///< condition is null in Else
-struct IfStmt : Stmt { bool singleLine; Span<IfBranch> branches; };
+struct IfBranch {
+    const Expr* condition;
+    Block body;
+    Pos pos;
+}; ///< condition is null in Else
+struct IfStmt : Stmt {
+    bool singleLine;
+    Span<IfBranch> branches;
+};
 
 enum class CaseTest : std::uint8_t { Equal, NotEqual, Less, LessEqual, Greater, GreaterEqual, Range };
-struct CaseItem { CaseTest test; const Expr* value; const Expr* to; }; ///< to: Range only
-struct CaseBranch { Span<CaseItem> items; Block body; Pos pos; };      ///< no items: Case Else
-struct SelectStmt : Stmt { const Expr* value; Span<CaseBranch> branches; };
+struct CaseItem {
+    CaseTest test;
+    const Expr* value;
+    const Expr* to;
+}; ///< to: Range only
+struct CaseBranch {
+    Span<CaseItem> items;
+    Block body;
+    Pos pos;
+}; ///< no items: Case Else
+struct SelectStmt : Stmt {
+    const Expr* value;
+    Span<CaseBranch> branches;
+};
 
-struct ForStmt : Stmt { const Expr *variable, *from, *to, *step; Block body; }; ///< step is null for 1
-struct ForEachStmt : Stmt { const Expr *variable, *in; Block body; };
+struct ForStmt : Stmt {
+    const Expr *variable, *from, *to, *step;
+    Block body;
+}; ///< step is null for 1
+struct ForEachStmt : Stmt {
+    const Expr *variable, *in;
+    Block body;
+};
 enum class LoopTest : std::uint8_t { None, While, Until };
-struct DoStmt : Stmt { LoopTest head, foot; const Expr* condition; Block body; };
+struct DoStmt : Stmt {
+    LoopTest head, foot;
+    const Expr* condition;
+    Block body;
+};
 /// While and With.
-struct BodyStmt : Stmt { const Expr* value; Block body; };
+struct BodyStmt : Stmt {
+    const Expr* value;
+    Block body;
+};
 
-struct OnJumpStmt : Stmt { const Expr* value; Span<Target> targets; };
-struct RaiseEventStmt : Stmt { Symbol name; Span<Argument> arguments; };
+struct OnJumpStmt : Stmt {
+    const Expr* value;
+    Span<Target> targets;
+};
+struct RaiseEventStmt : Stmt {
+    Symbol name;
+    Span<Argument> arguments;
+};
 
 enum class PrintSeparator : std::uint8_t { None, Semicolon, Comma };
-struct PrintItem { const Expr* value; PrintSeparator separator; }; ///< value is null before a bare separator
+struct PrintItem {
+    const Expr* value;
+    PrintSeparator separator;
+}; ///< value is null before a bare separator
 /// Print (target = the method as a MemberExpr or NameExpr), PrintFile and WriteFile (target = the file number).
-struct PrintStmt : Stmt { const Expr* target; Span<PrintItem> items; };
+struct PrintStmt : Stmt {
+    const Expr* target;
+    Span<PrintItem> items;
+};
 
 enum class OpenMode : std::uint8_t { Random, Input, Output, Append, Binary };
 enum class OpenAccess : std::uint8_t { Default, Read, Write, ReadWrite };
@@ -186,15 +384,31 @@ struct OpenStmt : Stmt {
 };
 /// Get, Put (number, record, variable), Seek (number, position), Lock and Unlock (number, from, to),
 /// LineInput (number, variable), Width (number, width), NameAs (old, new). What is absent is null.
-struct FileStmt : Stmt { const Expr *first, *second, *third; };
+struct FileStmt : Stmt {
+    const Expr *first, *second, *third;
+};
 
 // ---------------------------------------------------------------- declarations
 
 enum class Visibility : std::uint8_t { Default, Private, Public, Friend, Global };
 
 enum class DeclKind : std::uint8_t {
-    OptionExplicit, OptionBase, OptionCompareText, OptionCompareBinary, OptionCompareDatabase, OptionPrivateModule,
-    DefType, Implements, Variables, Constants, Type, Enum, Declare, Event, Procedure, Attribute
+    OptionExplicit,
+    OptionBase,
+    OptionCompareText,
+    OptionCompareBinary,
+    OptionCompareDatabase,
+    OptionPrivateModule,
+    DefType,
+    Implements,
+    Variables,
+    Constants,
+    Type,
+    Enum,
+    Declare,
+    Event,
+    Procedure,
+    Attribute
 };
 
 struct Decl {
@@ -204,14 +418,31 @@ struct Decl {
     const Decl* next = nullptr;
 };
 
-struct OptionBaseDecl : Decl { std::uint32_t base; };
+struct OptionBaseDecl : Decl {
+    std::uint32_t base;
+};
 /// letters: bit 0 is A, bit 25 is Z.
-struct DefTypeDecl : Decl { TypeKind type; std::uint32_t letters; };
-struct ImplementsDecl : Decl { const TypeRef* type; };
-struct VariablesDecl : Decl { Span<Variable> variables; };
-struct ConstantsDecl : Decl { Span<Constant> constants; };
-struct TypeDecl : Decl { Symbol name; Span<Variable> members; };
-struct EnumDecl : Decl { Symbol name; Span<Constant> members; };
+struct DefTypeDecl : Decl {
+    TypeKind type;
+    std::uint32_t letters;
+};
+struct ImplementsDecl : Decl {
+    const TypeRef* type;
+};
+struct VariablesDecl : Decl {
+    Span<Variable> variables;
+};
+struct ConstantsDecl : Decl {
+    Span<Constant> constants;
+};
+struct TypeDecl : Decl {
+    Symbol name;
+    Span<Variable> members;
+};
+struct EnumDecl : Decl {
+    Symbol name;
+    Span<Constant> members;
+};
 
 enum class Passing : std::uint8_t { Default, ByVal, ByRef };
 struct Parameter {
@@ -237,12 +468,28 @@ struct Signature {
     const TypeRef* result = nullptr;
 };
 /// library and alias are StringExpr; an alias "#123" is an ordinal. alias may be null.
-struct DeclareDecl : Decl { Signature signature; const StringExpr* library; const StringExpr* alias; };
-struct EventDecl : Decl { Symbol name; Span<Parameter> parameters; };
-struct ProcedureDecl : Decl { Signature signature; bool isStatic; Block body; Pos end; }; ///< end: pos of End Sub
+struct DeclareDecl : Decl {
+    Signature signature;
+    const StringExpr* library;
+    const StringExpr* alias;
+};
+struct EventDecl : Decl {
+    Symbol name;
+    Span<Parameter> parameters;
+};
+struct ProcedureDecl : Decl {
+    Signature signature;
+    bool isStatic;
+    Block body;
+    Pos end;
+}; ///< end: pos of End Sub
 
 /// `Attribute a.b.VB_Name = value, value`: the path without its last part, the last part, the values as literals.
-struct AttributeDecl : Decl { Span<Symbol> path; Symbol name; Span<const Expr*> values; };
+struct AttributeDecl : Decl {
+    Span<Symbol> path;
+    Symbol name;
+    Span<const Expr*> values;
+};
 
 // ---------------------------------------------------------------- the module
 
@@ -252,7 +499,7 @@ struct Module {
 
     const SourceFile& source;
     Arena arena;
-    const Decl* declarations = nullptr; ///< in the order of the source, those of the head (Attributes) included
+    const Decl* declarations = nullptr;     ///< in the order of the source, those of the head (Attributes) included
     std::vector<std::uint32_t> hiddenLines; ///< physical lines of Attributes inside the code, ascending
 
     /// The line of the code window, from 1, that shows a physical line; 0 for a line that it hides.
@@ -260,11 +507,17 @@ struct Module {
 };
 
 template <class T>
-const T& as(const Expr& e) { return static_cast<const T&>(e); }
+const T& as(const Expr& e) {
+    return static_cast<const T&>(e);
+}
 template <class T>
-const T& as(const Stmt& s) { return static_cast<const T&>(s); }
+const T& as(const Stmt& s) {
+    return static_cast<const T&>(s);
+}
 template <class T>
-const T& as(const Decl& d) { return static_cast<const T&>(d); }
+const T& as(const Decl& d) {
+    return static_cast<const T&>(d);
+}
 
 /// The value of a string literal as UTF-8.
 [[nodiscard]] std::string stringValue(const SourceFile&, const StringExpr&);

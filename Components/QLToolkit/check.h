@@ -34,10 +34,10 @@ struct CheckResult {
 
 /// Parses a file that is in memory and forgets the tree. `name` gives the kind of file by its extension.
 [[nodiscard]] CheckResult checkSource(std::string name, std::string bytes, const ConditionalConstants& constants = {},
-                                      unsigned codePage = 1252);
+                                      const basic::CodePage& = basic::CodePage::windows1252());
 
 /// The same for a file on disk. A file that is missing, unreadable or a folder is a diagnostic, too.
 [[nodiscard]] CheckResult checkFile(const std::string& path, const ConditionalConstants& constants = {},
-                                    unsigned codePage = 1252);
+                                    const basic::CodePage& = basic::CodePage::windows1252());
 
 } // namespace compiler

@@ -7,7 +7,7 @@ namespace compiler {
 
 class Lexer {
 public:
-    /// Starts at the first line of code.
+    /// Starts at the Attribute lines of the head.
     Lexer(const SourceFile&, Diagnostics&);
 
     void next(Token&);
@@ -16,6 +16,9 @@ public:
     [[nodiscard]] Token peek();
     /// True when the characters right behind `token` are ":=".
     [[nodiscard]] bool assignsByName(const Token& token) const;
+
+    /// True when a colon, but not ":=", comes right behind `token`.
+    [[nodiscard]] bool colonFollows(const Token& token) const;
 
     /// Goes on behind `hash`, reads the date up to the next #, and makes `hash` its token (kind Double).
     /// False, with the token as it was, when there is no date.
@@ -49,7 +52,6 @@ private:
     void readGreater(Token&);
     void readInvalid(Token&);
     bool continueLine(const char* underscore);
-    bool isForeignBlank(const char* p) const;
     void finishInteger(Token&, std::uint64_t value);
     void finishReal(Token&, const char* begin, const char* end);
     [[nodiscard]] bool startsDirective(const char* p) const;
@@ -59,6 +61,7 @@ private:
     const SourceFile& source_;
     Diagnostics& diagnostics_;
     const char* const base_;
+    const int codePage_;
     Pos pos_;
     std::uint32_t line_;
     int continuations_ = 0;

@@ -11,7 +11,8 @@ namespace compiler {
 enum class Severity : std::uint8_t { Warning, Error };
 
 /// The numbers. 1000: files, 1100: characters, 1200: conditional compilation, 1300: declarations, 1500: statements,
-/// 1800: expressions. 2000 to 2998 belong to names, types and code generation; 2999 and above are never used.
+/// 1800: expressions, 1900: whole projects. 2000 to 2998 belong to names, types and code generation; 2999 and above are
+/// never used.
 enum class Message : std::uint16_t {
     FileMissing = 1000,
     FileUnreadable = 1001,
@@ -29,9 +30,8 @@ enum class Message : std::uint16_t {
     BracketUnclosed = 1102,
     TooManyContinuations = 1103,
     NumberTooLarge = 1104,
-    NumberInvalid = 1105,
-    DateInvalid = 1106,
-    NameTooLong = 1107,
+    DateInvalid = 1105,
+    NameTooLong = 1106,
 
     ConditionWithoutIf = 1200,
     IfDirectiveUnclosed = 1201,
@@ -71,11 +71,8 @@ enum class Message : std::uint16_t {
     SuffixAndType = 1328,
     TypeMembersMissing = 1329,
     AttributeInvalid = 1330,
-    VisibilityInvalid = 1331,
-    OptionAfterCode = 1332,
-    OrdinalAliasInvalid = 1333,
-    LocalVisibility = 1334,
-    EventParameter = 1335,
+    OrdinalAliasInvalid = 1331,
+    EventParameter = 1332,
 
     StatementExpected = 1500,
     EndOfStatementExpected = 1501,
@@ -116,19 +113,20 @@ enum class Message : std::uint16_t {
     NotAssignable = 1536,
     MidArguments = 1537,
     LoopConditionExpected = 1538,
-    StatementInSingleLineIf = 1539,
-    ExpressionUnused = 1540,
-    CallTargetExpected = 1541,
+    CallTargetExpected = 1539,
 
     ExpressionExpected = 1800,
     ParenthesisExpected = 1801,
     MemberNameExpected = 1802,
     IsExpected = 1803,
     ExpressionTooDeep = 1804,
-    ArgumentNameTwice = 1805,
-    PositionalAfterNamed = 1806,
-    PrintSeparatorExpected = 1807,
-    CoordinatesExpected = 1808,
+    PositionalAfterNamed = 1805,
+    CoordinatesExpected = 1806,
+
+    ModuleNameTwice = 1900,
+    StartupMissing = 1901,
+    LibraryMissing = 1902,
+    ImageNotWritten = 1903,
 };
 
 /// One row of the catalogue. "%1" in the text is the word that the message is about.

@@ -1,5 +1,6 @@
 #pragma once
 // A source file in memory: its bytes, its code page, its physical lines, and the place where its code begins.
+#include "Basic/code_page.h"
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -25,9 +26,9 @@ struct Location {
 
 /// How the head of a file looks: the VERSION line, Object lines, the block of properties and the Attribute lines.
 enum class HeaderState : std::uint8_t {
-    Missing,   ///< there is no VERSION line (Attribute lines may stand at the top all the same)
-    Complete,  ///< a VERSION line and a balanced block, or a VERSION line alone
-    Unclosed,  ///< the block that begins at headerBlock() never ends
+    Missing,  ///< there is no VERSION line (Attribute lines may stand at the top all the same)
+    Complete, ///< a VERSION line and a balanced block, or a VERSION line alone
+    Unclosed, ///< the block that begins at headerBlock() never ends
 };
 
 /// The largest file that positions can address.
@@ -36,15 +37,15 @@ inline constexpr std::size_t kMaxSourceBytes = std::size_t{1} << 30;
 /// The bytes of one file. Everything that refers to it (tokens, trees, diagnostics) needs it to live on.
 class SourceFile {
 public:
-    /// `bytes` as they stand on disk, at most kMaxSourceBytes. `codePage` is a Windows number (1252, 932, ...);
-    /// a file that begins with a byte order mark or whose bytes above 127 are all UTF-8 is read as 65001.
-    SourceFile(std::string name, std::string bytes, unsigned codePage = 1252);
+    /// `bytes` as they stand on disk, at most kMaxSourceBytes, and their code page. A file that begins with a byte
+    /// order mark, or whose bytes above 127 are all UTF-8, is read as UTF-8 instead.
+    SourceFile(std::string name, std::string bytes, basic::CodePage = basic::CodePage::windows1252());
     SourceFile(const SourceFile&) = delete;
     SourceFile& operator=(const SourceFile&) = delete;
 
     [[nodiscard]] const std::string& name() const { return name_; }
     [[nodiscard]] FileKind kind() const { return kind_; }
-    [[nodiscard]] unsigned codePage() const { return codePage_; }
+    [[nodiscard]] const basic::CodePage& codePage() const { return page_; }
 
     [[nodiscard]] Pos size() const { return size_; }
     /// All bytes. At least kPadding NULs follow the last one, so that a reader may look ahead without a test.
@@ -71,7 +72,7 @@ public:
     /// True when this cannot be VB source: UTF-16, or full of control characters.
     [[nodiscard]] bool isBinary() const { return binary_; }
 
-    /// Bytes of this file as UTF-8. Bytes that mean nothing in the code page become U+FFFD.
+    /// Bytes of this file as UTF-8.
     [[nodiscard]] std::string decode(std::string_view bytes) const;
     /// True when `byte` is the first of two bytes of one character in this file's code page.
     [[nodiscard]] bool isLeadByte(unsigned char byte) const;
@@ -90,7 +91,7 @@ private:
     FileKind kind_;
     HeaderState header_ = HeaderState::Missing;
     bool binary_ = false;
-    unsigned codePage_;
+    basic::CodePage page_;
     std::uint32_t headerBlock_ = 0;
     std::uint32_t attributesBegin_ = 1;
     std::uint32_t codeBegin_ = 1;

@@ -6,16 +6,39 @@
 namespace compiler {
 
 enum class TokenKind : std::uint8_t {
-    EndOfFile, EndOfLine, Colon,
+    EndOfFile,
+    EndOfLine,
+    Colon,
     Identifier, ///< a name, with or without brackets and type character; suffix is set
     Keyword,
-    Integer, Long, Currency, ///< integer holds the value (Currency: times 10,000)
-    Single, Double,          ///< real holds the value
-    String,                  ///< begin and end include the quotes
-    Directive,               ///< the # of #If, #Else and their kin at the beginning of a line
-    Hash, Comma, Semicolon, Dot, Bang, LeftParen, RightParen, ColonEqual,
-    Caret, Star, Slash, Backslash, Plus, Minus, Ampersand,
-    Equal, NotEqual, Less, LessEqual, Greater, GreaterEqual,
+    Integer,
+    Long,
+    Currency, ///< integer holds the value (Currency: times 10,000)
+    Single,
+    Double,    ///< real holds the value
+    String,    ///< begin and end include the quotes
+    Directive, ///< the # of #If, #Else and their kin at the beginning of a line
+    Hash,
+    Comma,
+    Semicolon,
+    Dot,
+    Bang,
+    LeftParen,
+    RightParen,
+    ColonEqual,
+    Caret,
+    Star,
+    Slash,
+    Backslash,
+    Plus,
+    Minus,
+    Ampersand,
+    Equal,
+    NotEqual,
+    Less,
+    LessEqual,
+    Greater,
+    GreaterEqual,
     Invalid, ///< reported by the lexer
 };
 
@@ -25,8 +48,8 @@ struct Token {
     char suffix = 0;
     bool spaceBefore = false;
     bool bracketed = false;
-    bool foreign = false;  ///< the name is not plain ASCII
-    bool doubled = false;  ///< String: a quote in it is doubled
+    bool foreign = false; ///< the name is not plain ASCII
+    bool doubled = false; ///< String: a quote in it is doubled
     Pos begin = 0;
     Pos end = 0;
     union {
