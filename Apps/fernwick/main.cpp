@@ -1,5 +1,7 @@
 #include "Apps/fernwick/exit_status.h"
 #include "Apps/fernwick/interruption.h"
+#include "Apps/fernwick/refusal.h"
+#include "Apps/fernwick/report.h"
 #include "Apps/fernwick/verbs/verbs.h"
 #include "Apps/fernwick/version.h"
 #include "Basic/runtime_error.h"
@@ -27,17 +29,30 @@ int runVerb(const cli::Options& options, cli::Console& console) {
     return cli::kWrongUse;
 }
 
+/// A verb that could not do its job: said to the user, and as a result where a format was asked for.
+int failed(int status, const std::string& reason, const cli::Options& options, cli::Console& console) {
+    console.err("fernwick: " + reason, cli::Tone::Error);
+    cli::Report report;
+    report.verb = options.verb;
+    report.project = options.project;
+    report.exitStatus = status;
+    report.failure = reason;
+    if (options.format == cli::Format::Json) console.out(cli::jsonOf(report));
+    if (options.format == cli::Format::Sarif) console.out(cli::sarifOf(report));
+    return status;
+}
+
 int guarded(const cli::Options& options, cli::Console& console) {
     try {
         return runVerb(options, console);
     } catch (const cli::Interrupted&) {
-        console.err("fernwick: interrupted; nothing was left half-written", cli::Tone::Warning);
-        return cli::kInterrupted;
+        return failed(cli::kInterrupted, "interrupted; nothing was left half-written", options, console);
+    } catch (const cli::Refusal& refusal) {
+        return failed(refusal.status(), refusal.what(), options, console);
     } catch (const basic::RuntimeError& error) {
-        console.err(fmt::format("fernwick: {} (error {} of {})", error.Description, error.Number, error.Source),
-                    cli::Tone::Error);
-    } catch (const std::exception& error) { console.err(fmt::format("fernwick: {}", error.what()), cli::Tone::Error); }
-    return cli::kMachineTrouble;
+        const auto reason = fmt::format("{} (error {} of {})", error.Description, error.Number, error.Source);
+        return failed(cli::kMachineTrouble, reason, options, console);
+    } catch (const std::exception& error) { return failed(cli::kMachineTrouble, error.what(), options, console); }
 }
 
 } // namespace

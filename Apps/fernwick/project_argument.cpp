@@ -1,6 +1,7 @@
 #include "Apps/fernwick/project_argument.h"
+#include "Apps/fernwick/exit_status.h"
+#include "Apps/fernwick/refusal.h"
 #include "Basic/case_folding.h"
-#include "Basic/runtime_error.h"
 #include <filesystem>
 #include <vector>
 
@@ -16,10 +17,8 @@ std::string projectArgument(const std::string& given) {
         if (basic::equalNoCase(entry.path().extension().string(), ".vbp"))
             found.push_back(entry.path().filename().string());
     if (found.size() == 1) return found.front();
-    throw basic::RuntimeError(basic::kFileNotFound,
-                              found.empty() ? "this folder holds no .vbp project; name one"
-                                            : "this folder holds several .vbp projects; name the one that is meant",
-                              "fernwick");
+    throw Refusal(kWrongUse, found.empty() ? "this folder holds no .vbp project; name one"
+                                           : "this folder holds several .vbp projects; name the one that is meant");
 }
 
 } // namespace cli

@@ -3,8 +3,8 @@
 
 namespace cli {
 
-/// The project that a verb works on: the one given, or the only .vbp of the current folder. Error 53, with words for
-/// the user, where there is none or more than one.
+/// The project that a verb works on: the one given, or the only .vbp of the current folder. Refused (2)
+/// where there is none or more than one.
 std::string projectArgument(const std::string& given);
 
 } // namespace cli

@@ -18,6 +18,10 @@ basic::Ref<Object> Modules::newCompileMsgs() {
     return document;
 }
 
+std::shared_ptr<udocCompileMsgs> Modules::compileMsgs() const {
+    return documents_.empty() ? nullptr : documents_.back().lock();
+}
+
 basic::Ref<vbide::IDTExtensibility> asAddIn(const std::shared_ptr<Modules>& modules) {
     return std::shared_ptr<vbide::IDTExtensibility>(modules, &modules->connect);
 }

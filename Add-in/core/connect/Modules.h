@@ -53,6 +53,9 @@ struct Modules {
     Connect connect{
         {platform, errors, prefs, addIn, references, devices, items, projects, messages, removal, setup, commands}};
 
+    /// The document of the messages window; null before the host has made it.
+    std::shared_ptr<udocCompileMsgs> compileMsgs() const;
+
 private:
     basic::Ref<Object> newCompileMsgs();
 

@@ -1,0 +1,39 @@
+#include "Apps/fernwick/exit_status.h"
+#include "Apps/fernwick/project_argument.h"
+#include "Apps/fernwick/session.h"
+#include "Apps/fernwick/verbs/stored_messages.h"
+#include "Apps/fernwick/verbs/verbs.h"
+#include <fmt/format.h>
+
+namespace cli {
+
+namespace {
+
+/// Component and line of its code window, as the messages window shows them.
+std::string storedText(const Message& message) {
+    std::string place = message.component.empty() ? "-" : message.component;
+    if (message.codeLine != 0) place += fmt::format(":{}", message.codeLine);
+    return fmt::format("{}: {} {}: {}", place, message.isError ? "error" : "warning", message.number, message.text);
+}
+
+} // namespace
+
+int runMessages(const Options& options, Console& console) {
+    Session session{options, console};
+    session.open(projectArgument(options.project));
+    Report report;
+    report.verb = "messages";
+    report.project = session.path();
+    report.messages = storedMessages(session.project());
+    session.closeUnsaved();
+    if (options.format == Format::Json) {
+        console.out(jsonOf(report));
+    } else if (options.format == Format::Sarif) {
+        console.out(sarifOf(report));
+    } else {
+        for (const auto& message : report.messages) console.out(storedText(message) + "\n");
+    }
+    return kGood;
+}
+
+} // namespace cli
