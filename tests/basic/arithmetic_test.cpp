@@ -12,6 +12,8 @@ void expectResult(F operation, T result, int error) {
     EXPECT_EQ(err.Number, error);
 }
 
+} // namespace
+
 template <class T>
 class Arithmetic : public testing::Test {
 protected:
@@ -20,8 +22,6 @@ protected:
 };
 using SignedTypes = testing::Types<Integer, Long>;
 TYPED_TEST_SUITE(Arithmetic, SignedTypes);
-
-} // namespace
 
 TYPED_TEST(Arithmetic, OverflowsAndDividesAsItsType) {
     using T = TypeParam;
