@@ -1,4 +1,3 @@
-#define TOML_HEADER_ONLY 1
 #include "Apps/fernwick/maker.h"
 #include <toml++/toml.h>
 
