@@ -1,0 +1,57 @@
+#include "Host/model/described_classes.h"
+#include "Basic/case_folding.h"
+#include "Host/model/property_text.h"
+
+namespace host {
+namespace {
+
+/// The kind that a control's own property bag writes: colours and enumerations are plain numbers there.
+PropertyKind kindOfType(const std::string& type) {
+    if (type == "Boolean") return PropertyKind::Boolean;
+    if (type == "String") return PropertyKind::Text;
+    if (type == "Single") return PropertyKind::Single;
+    if (type == "Picture") return PropertyKind::Picture;
+    if (type == "Date" || type == "Variant" || type == "Object") return PropertyKind::Unknown;
+    return PropertyKind::Integer;
+}
+
+ClassProperty describedProperty(const TypeMember& member) {
+    ClassProperty property;
+    property.name = member.name;
+    property.kind = kindOfType(member.type);
+    if (member.defaultValue != fernwick::Variant{})
+        property.fallback = literalOfValue(property, member.defaultValue, {}).literal;
+    return property;
+}
+
+/// What a form can hold of a class. The index belongs to the form, not to the control, and -1 means none.
+std::shared_ptr<const ControlClass> describedClass(const TypeClass& described) {
+    auto made = std::make_shared<ControlClass>();
+    made->properties.push_back({"Index", PropertyKind::Integer, "-1", {}});
+    for (const auto& member : described.properties)
+        if (member.design && !member.readOnly && member.parameters.empty())
+            made->properties.push_back(describedProperty(member));
+    return made;
+}
+
+} // namespace
+
+void DescribedClasses::add(const TypeDescription& library) {
+    for (const auto& described : library.classes) {
+        const Described entry{library.name + "Ctl." + described.name, describedClass(described)};
+        classes_.emplace(basic::foldCase(entry.className), entry);
+        classes_.emplace(basic::foldCase(described.progId), entry);
+    }
+}
+
+std::shared_ptr<const ControlClass> DescribedClasses::find(const std::string& className) const {
+    const auto found = classes_.find(basic::foldCase(className));
+    return found == classes_.end() ? nullptr : found->second.properties;
+}
+
+std::string DescribedClasses::classOfProgId(const std::string& progId) const {
+    const auto found = classes_.find(basic::foldCase(progId));
+    return found == classes_.end() ? progId : found->second.className;
+}
+
+} // namespace host
