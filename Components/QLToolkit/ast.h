@@ -328,8 +328,10 @@ struct CaseBranch {
     Block body;
     Pos pos;
 }; ///< no items: Case Else
+/// before: Dim, Static and Const that stand above the first Case.
 struct SelectStmt : Stmt {
     const Expr* value;
+    Block before;
     Span<CaseBranch> branches;
 };
 

@@ -140,8 +140,7 @@ void Lexer::next(Token& token) {
 
 bool Lexer::startsDirective(const char* p) const {
     do { ++p; } while (charIs(*p, kBlank));
-    const char c = static_cast<char>(*p | 0x20);
-    return c == 'i' || c == 'e' || c == 'c';
+    return charIs(*p, kNameStart);
 }
 
 void Lexer::readOperator(Token& token, char c) {
@@ -226,7 +225,7 @@ bool Lexer::readDate(Token& hash) {
     const auto stop = static_cast<Pos>(close - base_);
     const auto value = parseDateLiteral(source_.text(pos_, stop));
     if (!value) return false;
-    hash.kind = TokenKind::Double;
+    hash.kind = TokenKind::Date;
     hash.real = *value;
     hash.end = pos_ = stop + 1;
     return true;

@@ -20,7 +20,7 @@ public:
     /// True when a colon, but not ":=", comes right behind `token`.
     [[nodiscard]] bool colonFollows(const Token& token) const;
 
-    /// Goes on behind `hash`, reads the date up to the next #, and makes `hash` its token (kind Double).
+    /// Goes on behind `hash`, reads the date up to the next #, and makes `hash` its token (kind Date).
     /// False, with the token as it was, when there is no date.
     bool readDate(Token& hash);
     /// Goes to the end of the comment whose first word was read (Rem).

@@ -46,7 +46,7 @@ void Parser::advance() {
 
 // The lexer may have reported an error in this statement already: then this one only follows from it.
 void Parser::fail(Message message, Pos where, std::string_view detail) {
-    if (diagnostics_.errors() == errorsBefore_) diagnostics_.report(message, where, detail);
+    if (!at(TokenKind::Invalid)) report(message, where, detail);
     throw SyntaxError{};
 }
 

@@ -123,9 +123,9 @@ private:
     void procedure(Visibility, bool isStatic, Pos);
     ProcedureKind procedureKind();
     void signature(Signature&);
-    Span<Parameter> parameters(bool ofDeclare);
+    Span<Parameter> parameters(bool ofDeclare, bool lastIsValue = false);
     Parameter parameter(bool ofDeclare);
-    void checkParameter(const Parameter&, const Parameter* previous, bool ofDeclare);
+    void checkParameter(const Parameter&, const Parameter* previous, bool anyOrder);
     const TypeRef* resultType();
     void endProcedure(ProcedureDecl&);
     void skipProcedure();
@@ -151,7 +151,7 @@ private:
     const Expr* condition();
     void elseBranch(ListBuilder<IfBranch>&, bool& seenElse);
     Stmt* selectStatement();
-    void skipToCase();
+    Block skipToCase();
     void endBlock(Keyword);
     void caseBranch(ListBuilder<CaseBranch>&, bool& seenElse);
     CaseItem caseItem();

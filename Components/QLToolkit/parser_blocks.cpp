@@ -257,20 +257,25 @@ Stmt* Parser::selectStatement() {
     });
     openBlock(BlockKind::Select, pos);
     ListBuilder<CaseBranch> branches{scratch_.caseBranches};
-    skipToCase();
+    const Block before = skipToCase();
     for (bool seenElse = false; at(Keyword::Case);) caseBranch(branches, seenElse);
     closeBlock();
     endBlock(Keyword::Select);
-    return make<SelectStmt>(stmtHead(StmtKind::Select, pos), value, branches.finish(module_.arena));
+    return make<SelectStmt>(stmtHead(StmtKind::Select, pos), value, before, branches.finish(module_.arena));
 }
 
-// Nothing may stand between Select Case and the first Case.
-void Parser::skipToCase() {
+// Only declarations may stand between Select Case and the first Case.
+Block Parser::skipToCase() {
     const auto errors = diagnostics_.errors();
     skipLineEnds();
-    const Pos first = tok_.begin;
-    const Block lost = block(BlockKind::Select);
-    if (lost.first && diagnostics_.errors() == errors) diagnostics_.report(Message::CaseExpected, first);
+    const Block before = block(BlockKind::Select);
+    const auto isDeclaration = [](const Stmt& s) {
+        return s.kind == StmtKind::Local || s.kind == StmtKind::LocalConst;
+    };
+    const Stmt* s = before.first;
+    while (s && isDeclaration(*s)) s = s->next;
+    if (s && diagnostics_.errors() == errors) diagnostics_.report(Message::CaseExpected, s->pos);
+    return before;
 }
 
 void Parser::caseBranch(ListBuilder<CaseBranch>& branches, bool& seenElse) {

@@ -136,6 +136,7 @@ Argument Parser::argument() {
         advance();
     }
     a.byVal = accept(Keyword::ByVal);
+    if (at(TokenKind::Hash) && !lexer_.readDate(tok_)) advance(); // Input(5, #1)
     a.value = expression();
     if (inReDim_ && at(Keyword::To)) {
         const Pos pos = tok_.begin;

@@ -80,7 +80,8 @@ const Expr* Parser::operand() {
     case TokenKind::Long:
     case TokenKind::Currency:
     case TokenKind::Single:
-    case TokenKind::Double: return literal();
+    case TokenKind::Double:
+    case TokenKind::Date: return literal();
     case TokenKind::String: return stringLiteral();
     case TokenKind::Hash: return dateLiteral();
     case TokenKind::Keyword: return keywordOperand();
@@ -136,7 +137,6 @@ const Expr* Parser::prefix(Operator op, int power) {
 }
 
 const Expr* Parser::literal() {
-    static_assert(static_cast<int>(TokenKind::Double) - static_cast<int>(TokenKind::Integer) == 4);
     const Token t = tok_;
     advance();
     switch (t.kind) {
@@ -144,6 +144,7 @@ const Expr* Parser::literal() {
     case TokenKind::Long: return make<IntegerExpr>(exprHead(ExprKind::Long, t.begin), t.integer);
     case TokenKind::Currency: return make<IntegerExpr>(exprHead(ExprKind::Currency, t.begin), t.integer);
     case TokenKind::Single: return make<FloatExpr>(exprHead(ExprKind::Single, t.begin), t.real);
+    case TokenKind::Date: return make<FloatExpr>(exprHead(ExprKind::Date, t.begin), t.real);
     default: return make<FloatExpr>(exprHead(ExprKind::Double, t.begin), t.real);
     }
 }
@@ -156,9 +157,7 @@ const Expr* Parser::stringLiteral() {
 
 const Expr* Parser::dateLiteral() {
     if (!lexer_.readDate(tok_)) fail(Message::DateInvalid, tok_.begin);
-    const Token t = tok_;
-    advance();
-    return make<FloatExpr>(exprHead(ExprKind::Date, t.begin), t.real);
+    return literal();
 }
 
 const Expr* Parser::parenthesized() {

@@ -43,7 +43,7 @@ ProcedureKind Parser::procedureKind() {
 
 void Parser::signature(Signature& s) {
     s.name = expectName(&s.namePos, &s.suffix);
-    if (at(TokenKind::LeftParen)) s.parameters = parameters(false);
+    if (at(TokenKind::LeftParen)) s.parameters = parameters(false, s.kind >= ProcedureKind::PropertyLet);
     if (at(Keyword::As)) {
         if (s.suffix) failHere(Message::SuffixAndType);
         s.result = resultType();
@@ -60,13 +60,15 @@ const TypeRef* Parser::resultType() {
     return type;
 }
 
-Span<Parameter> Parser::parameters(bool ofDeclare) {
+// lastIsValue: the last one is the value that a Property Let or Set assigns; it is no argument and never optional.
+Span<Parameter> Parser::parameters(bool ofDeclare, bool lastIsValue) {
     advance();
     if (accept(TokenKind::RightParen)) return {};
     ListBuilder<Parameter> list{scratch_.parameters};
     do {
         const Parameter p = parameter(ofDeclare);
-        checkParameter(p, list.size() ? &list.back() : nullptr, ofDeclare);
+        const bool last = !at(TokenKind::Comma);
+        checkParameter(p, list.size() ? &list.back() : nullptr, ofDeclare || (last && lastIsValue));
         list.add(p);
     } while (accept(TokenKind::Comma));
     expect(TokenKind::RightParen, Message::ParenthesisExpected);
@@ -98,13 +100,12 @@ Parameter Parser::parameter(bool ofDeclare) {
     return p;
 }
 
-void Parser::checkParameter(const Parameter& p, const Parameter* previous, bool ofDeclare) {
+void Parser::checkParameter(const Parameter& p, const Parameter* previous, bool anyOrder) {
     if (p.paramArray && !p.isArray) fail(Message::ParamArrayNotArray, p.pos);
-    if (p.paramArray && !ofDeclare && (p.passing != Passing::Default || p.optional))
-        fail(Message::ParamArrayQualified, p.pos);
+    if (p.paramArray && (p.passing != Passing::Default || p.optional)) fail(Message::ParamArrayQualified, p.pos);
     if (!previous) return;
     if (previous->paramArray) fail(Message::ParameterAfterParamArray, p.pos);
-    if (previous->optional && !p.optional && !p.paramArray && !ofDeclare) fail(Message::ParameterNotOptional, p.pos);
+    if (previous->optional && !p.optional && !p.paramArray && !anyOrder) fail(Message::ParameterNotOptional, p.pos);
 }
 
 void Parser::endProcedure(ProcedureDecl& p) {

@@ -150,7 +150,7 @@ ReDimItem Parser::reDimItem() {
     }
     if (list.size() == 0) fail(Message::ReDimTarget, target->pos);
     const auto made = list.finish(module_.arena);
-    return {index.callee, made, at(Keyword::As) ? asClause(false) : nullptr};
+    return {index.callee, made, at(Keyword::As) ? asClause(true) : nullptr};
 }
 
 Stmt* Parser::erase() {

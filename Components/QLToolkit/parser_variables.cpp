@@ -162,7 +162,6 @@ void Parser::typeMember(ListBuilder<Variable>& members) {
     advance();
     if (!at(TokenKind::LeftParen) && !at(Keyword::As) && !v.suffix) failHere(Message::AsExpected);
     variableType(v);
-    if (v.type && v.type->isNew) fail(Message::NewNotAllowed, v.type->pos);
     members.add(v);
 }
 

@@ -15,7 +15,8 @@ enum class TokenKind : std::uint8_t {
     Long,
     Currency, ///< integer holds the value (Currency: times 10,000)
     Single,
-    Double,    ///< real holds the value
+    Double,
+    Date,      ///< real holds the value; a # becomes one by Lexer::readDate
     String,    ///< begin and end include the quotes
     Directive, ///< the # of #If, #Else and their kin at the beginning of a line
     Hash,
