@@ -58,6 +58,14 @@ const PathLookup::Names& PathLookup::namesIn(const std::string& folder) {
     return entry->second;
 }
 
+std::string absolutePath(const std::string& path) {
+    auto native = path.empty() ? path : std::filesystem::absolute(path).lexically_normal().string();
+    if (path.empty() || isThere(native)) return native;
+    std::error_code ignored;
+    const auto folder = isSeparator(path.front()) ? std::string("/") : std::filesystem::current_path(ignored).string();
+    return PathLookup().find(folder, path);
+}
+
 std::string writtenPath(const std::string& folder, const std::string& path) {
     const std::filesystem::path base(folder), target(path);
     auto relative = target.lexically_relative(base).string();

@@ -23,6 +23,9 @@ private:
     std::unordered_map<std::string, Names> listed_;
 };
 
+/// A path as it is given (native, or with "\\" and in another letter case when there is no such file), made absolute.
+std::string absolutePath(const std::string& path);
+
 /// A native path as a project in `folder` (native, canonical) writes it: relative where both lie on the same way, with "\".
 std::string writtenPath(const std::string& folder, const std::string& path);
 

@@ -1,5 +1,6 @@
 #include "Host/model/source_file.h"
-#include <algorithm>
+#include "Basic/case_folding.h"
+#include "Host/files/trim.h"
 #include <fmt/format.h>
 
 namespace host {
@@ -50,6 +51,23 @@ const std::shared_ptr<FormFile>& SourceFile::form() {
         form_ =
             std::make_shared<FormFile>(FormFile::parse(codePage_.decode(std::string_view(bytes_).substr(0, codeAt_))));
     return form_;
+}
+
+std::string SourceFile::designerClass() const {
+    auto rest = std::string_view(bytes_).substr(0, attributesAt_);
+    LineEnd end = LineEnd::None;
+    while (!rest.empty()) {
+        const auto line = trimBlanks(takeLine(rest, end));
+        if (!basic::startsWithNoCase(line, "Begin ")) continue;
+        const auto name = trimBlanks(line.substr(6));
+        return std::string(name.substr(0, name.find(' ')));
+    }
+    return {};
+}
+
+void SourceFile::renameCompanion(const std::string& oldName, const std::string& newName) {
+    codePage_.encode(newName);
+    if (const auto& root = form()->root()) root->renameResources(oldName, newName);
 }
 
 CodeText& SourceFile::code() {

@@ -23,8 +23,14 @@ public:
     /// character that the code page lacks.
     void name(const std::string& name);
 
-    /// The head as a tree. Edit it through `form()->root()` and so on; edits show in bytes().
+    /// The head as a tree. Edits in it show in bytes().
     const std::shared_ptr<FormFile>& form();
+    /// From now on the head is this tree: a designer holds its form itself.
+    void form(std::shared_ptr<FormFile> held) { form_ = std::move(held); }
+    /// The class in the designer's first line ("VB.Form"), "" where there is none.
+    std::string designerClass() const;
+    /// The head refers to its binary companion by this name instead of that one.
+    void renameCompanion(const std::string& oldName, const std::string& newName);
     CodeText& code();
     /// Physical lines above line 1 of the code window.
     std::size_t headLines() const;

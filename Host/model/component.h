@@ -1,0 +1,90 @@
+#pragma once
+// A component of a project: a module, class, form or one of their kin, over the text of its file.
+#include "Add-in/platform/host_events.h"
+#include "Add-in/platform/host_project.h"
+#include "Host/files/project_file.h"
+#include "Host/files/text_file.h"
+#include "Host/model/designer_state.h"
+#include "Host/model/source_file.h"
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace host {
+
+class FormDesigner;
+class ModuleCode;
+class Project;
+class ToolWindow;
+
+/// Where a component comes from. A new one has none of it.
+struct ComponentOrigin {
+    std::string path; ///< native
+    std::optional<FileStamp> stamp;
+    std::optional<ProjectFile::Place> member;
+};
+
+class Component final : public vbide::VBComponent, public std::enable_shared_from_this<Component> {
+public:
+    Component(const std::shared_ptr<Project>& project, vbide::vbext_ComponentType type, std::string name,
+              SourceFile source, ComponentOrigin origin);
+    ~Component() override;
+
+    std::string Name() const override;
+    void Name(const std::string& name) override;
+    vbide::vbext_ComponentType Type() const override;
+    std::string FileNames(int index) const override;
+    int FileCount() const override;
+    bool IsDirty() const override;
+    void IsDirty(bool dirty) override;
+    bool Saved() const override;
+    void SaveAs(const std::string& path) override;
+    void Activate() override;
+    vbide::Ref<vbide::CodeModule> CodeModule() override;
+    vbide::Ref<vbide::Properties> Properties() override;
+    vbide::Ref<vbide::VBForm> Designer() override;
+    bool HasOpenDesigner() const override;
+    vbide::Ref<vbide::Window> DesignerWindow() override;
+    vbide::Ref<vbide::VBE> VBE() const override;
+    vbide::Ref<vbide::VBComponents> Collection() const override;
+
+    // ---- for the host ----
+    /// The project. Error 440 once the component or its project has been removed.
+    std::shared_ptr<Project> owner() const;
+    SourceFile& source() { return source_; }
+    const std::string& path() const { return origin_.path; }
+    const std::optional<ProjectFile::Place>& member() const { return origin_.member; }
+    void member(std::optional<ProjectFile::Place> place) { origin_.member = place; }
+    /// Forgets its file: a component of a new project made from a template.
+    void becomeNew();
+    /// The text was edited.
+    void changed() { dirty_ = true; }
+    /// From now on every member raises an error, those of its designer too.
+    void remove();
+    bool hasDesigner() const;
+    void openDesigner();
+    /// True for this component's own designer; makes none.
+    bool isDesignedBy(const vbide::Ref<vbide::VBForm>& form) const;
+    const vbide::Ref<vbide::VBControlsEvents>& controlsEvents() const { return controlsEvents_; }
+
+private:
+    FormDesigner& designer();
+    DesignerHooks designerHooks();
+    void copyCompanion(Project& project, const std::string& target);
+
+    std::weak_ptr<Project> project_;
+    vbide::vbext_ComponentType type_;
+    std::string name_;
+    SourceFile source_;
+    ComponentOrigin origin_;
+    bool dirty_ = false;
+    std::shared_ptr<ToolWindow> designerWindow_;
+    std::shared_ptr<ModuleCode> code_;
+    std::unique_ptr<FormDesigner> designer_; // made at first use
+    const vbide::Ref<vbide::VBControlsEvents> controlsEvents_ = basic::make<vbide::VBControlsEvents>();
+};
+
+/// The name of the binary companion of a component's file: .frx for .frm, .ctx for .ctl and so on.
+std::string companionOf(const std::string& path);
+
+} // namespace host

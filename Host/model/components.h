@@ -1,0 +1,42 @@
+#pragma once
+// The components of a project.
+#include "Basic/case_folding.h"
+#include "Host/model/component.h"
+#include <unordered_map>
+#include <vector>
+
+namespace host {
+
+class Components final : public vbide::VBComponents {
+public:
+    explicit Components(Project& project) : project_(&project) {}
+
+    int Count() const override;
+    vbide::Ref<vbide::VBComponent> Item(int index) const override;
+    vbide::Ref<vbide::VBComponent> Item(const std::string& name) const override;
+    std::vector<vbide::Ref<vbide::VBComponent>> items() const override;
+    vbide::Ref<vbide::VBComponent> Add(vbide::vbext_ComponentType type) override;
+    vbide::Ref<vbide::VBComponent> AddFile(const std::string& path) override;
+    void Remove(const vbide::Ref<vbide::VBComponent>& component) override;
+    vbide::StartUp StartUpObject() const override;
+    void StartUpObject(const vbide::StartUp& startUp) override;
+
+    // ---- for the host ----
+    const std::vector<std::shared_ptr<Component>>& list() const { return list_; }
+    std::shared_ptr<Component> named(const std::string& name) const;
+    /// Takes one in without an event. False when its name is taken.
+    bool take(const std::shared_ptr<Component>& component);
+    void renamed(Component& component, const std::string& oldName);
+    /// From now on every member of these objects raises an error.
+    void close();
+
+private:
+    std::shared_ptr<Project> project() const;
+    std::string freeName(std::string_view stem) const;
+
+    Project* project_;
+    std::vector<std::shared_ptr<Component>> list_;
+    std::unordered_map<std::string, std::shared_ptr<Component>, basic::NoCaseHash, basic::NoCaseEqual> byName_;
+};
+
+} // namespace host

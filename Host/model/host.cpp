@@ -1,0 +1,141 @@
+#include "Host/model/host.h"
+#include "Host/files/atomic_save.h"
+#include "Host/model/addin_list.h"
+#include "Host/model/bars.h"
+#include "Host/model/event_sources.h"
+#include "Host/model/host_errors.h"
+#include "Host/model/project.h"
+#include "Host/model/projects.h"
+#include "Host/model/tool_windows.h"
+
+namespace host {
+namespace {
+
+enum WriteResult : int { kWritten = 0, kWriteCancelled = 1, kWriteFailed = 2 };
+
+/// What the host's own menus do. The host owns the menus.
+HostCommands commandsOf(Host& host) {
+    HostCommands commands;
+    commands.newProject = [&host] { host.projects().addNew(); };
+    commands.openProject = [&host] {
+        const auto& ask = host.options().askForProject;
+        const auto path = ask ? ask() : std::string();
+        if (!path.empty()) host.projects().AddFromFile(path, false);
+    };
+    commands.saveProject = [&host] {
+        if (const auto active = host.ActiveVBProject()) host.saveProject(active);
+    };
+    commands.removeProject = [&host] {
+        if (const auto active = host.ActiveVBProject()) host.projects().Remove(active);
+    };
+    return commands;
+}
+
+} // namespace
+
+std::shared_ptr<Host> Host::create(HostOptions options) {
+    std::shared_ptr<Host> host(new Host(std::move(options)));
+    host->bars_->handlerFailed = [raw = host.get()](const basic::ErrObject& error) { raw->handlerFailed(error); };
+    addHostMenus(*host->bars_, commandsOf(*host));
+    return host;
+}
+
+Host::Host(HostOptions options)
+    : options_(std::move(options)),
+      libraries_(options_.registry),
+      events_(std::make_shared<EventSources>(projectsEvents_, fileEvents_)),
+      projects_(std::make_shared<Projects>(*this)),
+      addIns_(std::make_shared<AddInList>()),
+      windows_(std::make_shared<ToolWindows>(options_.classes)),
+      bars_(std::make_shared<Bars>()) {}
+
+Host::~Host() { projects_->close(); }
+
+vbide::Ref<vbide::Events> Host::Events() { return events_; }
+vbide::Ref<vbide::Addins> Host::Addins() { return addIns_; }
+vbide::Ref<vbide::VBProjects> Host::VBProjects() { return projects_; }
+vbide::Ref<vbide::Windows> Host::Windows() { return windows_; }
+vbide::Ref<office::CommandBars> Host::CommandBars() { return bars_; }
+vbide::Ref<vbide::VBProject> Host::ActiveVBProject() const { return active_; }
+vbide::Ref<vbide::VBComponent> Host::SelectedVBComponent() const { return selected_; }
+std::string Host::TemplatePath() const { return options_.templatePath; }
+
+void Host::ActiveVBProject(const vbide::Ref<vbide::VBProject>& project) {
+    if (!projects_->holds(project)) throw hostError(basic::kInvalidProcedureCall);
+    activate(project);
+}
+
+void Host::activate(const vbide::Ref<vbide::VBProject>& project) {
+    if (active_ == project || !projects_->holds(project)) return;
+    active_ = project;
+    tell(projectsEvents_->ItemActivated, project);
+}
+
+void Host::forget(const vbide::Ref<vbide::VBProject>& project) {
+    if (active_ == project) active_ = nullptr;
+    if (!selected_) return;
+    for (const auto& component : project->VBComponents()->items()) forget(component);
+}
+
+void Host::forget(const vbide::Ref<vbide::VBComponent>& component) {
+    if (selected_ == component) selected_ = nullptr;
+}
+
+// ---- files -------------------------------------------------------------------------------------------------------------
+
+vbide::Ref<vbide::VBProject> Host::refTo(Project& project) { return project.shared_from_this(); }
+
+const vbide::FileControlEvents& Host::fileEventsOf(Project& project) const { return *project.fileEvents.shared(); }
+
+std::optional<FileStamp> Host::writeFile(Project& project, const std::string& path, std::string_view bytes,
+                                         const std::optional<FileStamp>& asRead) {
+    using Events = vbide::FileControlEvents;
+    bool cancel = false;
+    tellFile(&Events::RequestWriteFile, project, path, cancel);
+    if (cancel) {
+        tellFile(&Events::AfterWriteFile, project, path, int(kWriteCancelled));
+        return {};
+    }
+    try {
+        const auto stamp = atomicSave(path, bytes, asRead);
+        tellFile(&Events::AfterWriteFile, project, path, int(kWritten));
+        return stamp;
+    } catch (const basic::RuntimeError&) {
+        tellFile(&Events::AfterWriteFile, project, path, int(kWriteFailed));
+        throw;
+    }
+}
+
+void Host::saveProject(const vbide::Ref<vbide::VBProject>& project) {
+    for (const auto& component : project->VBComponents()->items())
+        if (component->IsDirty() && !component->FileNames(1).empty()) component->SaveAs(component->FileNames(1));
+    if (project->IsDirty() && !project->FileName().empty()) project->SaveAs(project->FileName());
+}
+
+// ---- add-ins -----------------------------------------------------------------------------------------------------------
+
+void Host::listAddIn(const std::string& progId, const std::string& description,
+                     std::function<vbide::Ref<vbide::IDTExtensibility>()> create) {
+    addIns_->add(std::make_shared<ListedAddIn>(weak_from_this(), progId, description, std::move(create)));
+}
+
+void Host::connectAddIn(const std::string& progId, vbide::vbext_ConnectMode mode) {
+    const auto addIn = addIns_->find(progId);
+    if (!addIn) throw hostError(basic::kSubscriptOutOfRange);
+    addIn->connectAs(mode);
+}
+
+void Host::startupComplete() {
+    for (const auto& addIn : std::vector(addIns_->list())) addIn->startupComplete();
+}
+
+void Host::close() {
+    projects_->removeAll();
+    for (const auto& addIn : std::vector(addIns_->list())) addIn->disconnect(vbide::vbext_dm_HostShutdown);
+}
+
+void Host::handlerFailed(const basic::ErrObject& error) const {
+    if (options_.handlerFailed) options_.handlerFailed(error);
+}
+
+} // namespace host

@@ -1,0 +1,184 @@
+#include "Host/model/project.h"
+#include "Basic/case_folding.h"
+#include "Host/files/atomic_save.h"
+#include "Host/files/encoding.h"
+#include "Host/model/host.h"
+#include "Host/model/host_errors.h"
+#include "Host/model/project_references.h"
+#include <fmt/format.h>
+
+namespace host {
+namespace {
+
+std::string baseNameOf(const std::string& path) {
+    const auto name = path.substr(path.rfind('/') + 1);
+    return name.substr(0, name.rfind('.'));
+}
+
+} // namespace
+
+Project::Project(const std::shared_ptr<Host>& host, std::string path)
+    : host_(host),
+      path_(std::move(path)),
+      file_(std::make_unique<ProjectFile>("", host->options().codePage)),
+      components_(std::make_shared<Components>(*this)),
+      references_(std::make_shared<ProjectReferences>(*this)) {}
+
+Project::~Project() { close(); }
+
+std::shared_ptr<Host> Project::host() const {
+    auto host = host_.lock();
+    if (!host) throwRemoved();
+    return host;
+}
+
+void Project::close() {
+    components_->close();
+    references_->close();
+    host_.reset();
+}
+
+std::string Project::folder() const { return path_.substr(0, path_.rfind('/')); }
+
+// ---- name and state ----------------------------------------------------------------------------------------------------
+
+std::string Project::Name() const {
+    host();
+    const auto name = file_->setting("Name").value_or("");
+    return name.empty() ? baseNameOf(path_) : name;
+}
+
+void Project::Name(const std::string& name) {
+    const auto host = this->host();
+    const auto oldName = Name();
+    if (name == oldName) return;
+    if (name.empty()) throw hostError(basic::kInvalidPropertyValue);
+    file_->setSetting("Name", name);
+    dirty_ = true;
+    host->tell(host->projectsEvents().ItemRenamed, shared_from_this(), oldName);
+}
+
+std::string Project::FileName() const {
+    host();
+    return path_;
+}
+
+bool Project::IsDirty() const {
+    host();
+    return dirty_;
+}
+
+void Project::IsDirty(bool dirty) {
+    host();
+    dirty_ = dirty;
+}
+
+bool Project::Saved() const { return !IsDirty(); }
+
+std::string Project::ReadProperty(const std::string& section, const std::string& key) const {
+    host();
+    return file_->readProperty(section, key);
+}
+
+void Project::WriteProperty(const std::string& section, const std::string& key, const std::string& value) {
+    host();
+    if (file_->writeProperty(section, key, value)) dirty_ = true;
+}
+
+void Project::AddToolboxProgID(const std::string& progId) {
+    host();
+    references_->addControlLibrary(progId);
+}
+
+vbide::Ref<vbide::References> Project::References() {
+    host();
+    return references_;
+}
+
+vbide::Ref<vbide::VBComponents> Project::VBComponents() {
+    host();
+    return components_;
+}
+
+vbide::Ref<vbide::VBE> Project::VBE() const { return host(); }
+
+// ---- saving ------------------------------------------------------------------------------------------------------------
+
+void Project::SaveAs(const std::string& path) {
+    host();
+    if (path.empty()) throw hostError(basic::kPathFileAccessError, fmt::format("{}: has no file name", Name()));
+    const auto target = absolutePath(path);
+    if (target == path_) {
+        save(stamp_);
+        return;
+    }
+    const auto oldPath = std::exchange(path_, target);
+    const bool wasDirty = dirty_;
+    bool saved = false;
+    const auto goBack = [&] {
+        path_ = oldPath;
+        relocateMembers();
+        dirty_ = wasDirty;
+    };
+    try {
+        relocateMembers();
+        saved = save({});
+    } catch (const basic::RuntimeError&) {
+        goBack();
+        throw;
+    }
+    if (!saved) goBack();
+}
+
+/// False when a handler cancelled it.
+bool Project::save(const std::optional<FileStamp>& asRead) {
+    const auto stamp = host()->writeFile(*this, path_, file_->bytes(), asRead);
+    if (!stamp) return false;
+    stamp_ = stamp;
+    dirty_ = false;
+    return true;
+}
+
+std::string Project::memberPath(const std::string& path) const {
+    return path_.empty() ? path : writtenPath(folder(), path);
+}
+
+/// The paths of member lines are relative to the project: they follow it to another folder.
+void Project::relocateMembers() {
+    for (const auto& component : components_->list())
+        if (component->member()) writeMember(*component);
+}
+
+void Project::writeMember(Component& component) {
+    if (component.path().empty()) return;
+    const auto kind = memberKindOf(component.Type());
+    const auto name = lineHoldsName(kind) ? component.Name() : std::string();
+    const auto value = memberPath(component.path());
+    if (component.member())
+        file_->setMember(*component.member(), name, value);
+    else
+        component.member(file_->addMember(kind, name, value));
+    dirty_ = true;
+}
+
+void Project::dropMember(Component& component) {
+    if (component.member()) file_->removeMember(*component.member());
+    component.member({});
+}
+
+void Project::followRename(const std::string& oldName, const std::string& newName) {
+    for (const auto* key : {"Startup", "IconForm"})
+        if (basic::equalNoCase(file_->setting(key).value_or(""), oldName)) file_->setSetting(key, newName);
+}
+
+void Project::becomeNew() {
+    path_.clear();
+    stamp_.reset();
+    dirty_ = true;
+    for (const auto& component : components_->list()) {
+        dropMember(*component);
+        component->becomeNew();
+    }
+}
+
+} // namespace host

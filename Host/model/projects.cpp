@@ -1,0 +1,141 @@
+#include "Host/model/projects.h"
+#include "Basic/case_folding.h"
+#include "Host/files/encoding.h"
+#include "Host/files/group_file.h"
+#include "Host/files/path_lookup.h"
+#include "Host/model/host.h"
+#include "Host/model/host_errors.h"
+#include "Host/model/new_source.h"
+#include "Host/model/project.h"
+#include <algorithm>
+#include <fmt/format.h>
+
+namespace host {
+
+std::shared_ptr<Host> Projects::host() const {
+    if (!host_) throwRemoved();
+    return host_->shared_from_this();
+}
+
+int Projects::Count() const { return int(list_.size()); }
+
+vbide::Ref<vbide::VBProject> Projects::Item(int index) const {
+    if (index < 1 || index > Count()) throw hostError(basic::kSubscriptOutOfRange);
+    return list_[std::size_t(index) - 1];
+}
+
+std::vector<vbide::Ref<vbide::VBProject>> Projects::items() const { return {list_.begin(), list_.end()}; }
+
+bool Projects::holds(const vbide::Ref<vbide::VBProject>& project) const {
+    return std::any_of(list_.begin(), list_.end(),
+                       [&](const auto& p) { return vbide::Ref<vbide::VBProject>(p) == project; });
+}
+
+// ---- opening -----------------------------------------------------------------------------------------------------------
+
+vbide::Ref<vbide::VBProject> Projects::AddFromFile(const std::string& path, bool exclusive) {
+    const auto host = this->host();
+    const auto native = absolutePath(path);
+    const auto bytes = readFile(native).bytes; // before anything is closed for it
+    if (exclusive) removeAll();
+    host->problems().clear();
+    if (GroupFile::looksLikeGroup(bytes)) return openGroup(native, bytes);
+    const auto project = open(native);
+    host->activate(project);
+    return project;
+}
+
+vbide::Ref<vbide::VBProject> Projects::openGroup(const std::string& path, const std::string& bytes) {
+    const auto host = this->host();
+    const GroupFile group(bytes, codePageOf(bytes, host->options().codePage));
+    const auto folder = path.substr(0, path.rfind('/'));
+    PathLookup lookup;
+    std::shared_ptr<Project> startUp;
+    for (const auto& entry : group.entries()) {
+        const auto failed = basic::attempt([&] {
+            const auto project = open(lookup.find(folder, entry.path));
+            if (!startUp || entry.startUp) startUp = project;
+        });
+        if (failed.Number != 0) host->problems().push_back({path, entry.line, failed.Description});
+    }
+    if (!startUp) throw hostError(kInvalidFileFormat, fmt::format("{}: none of its projects can be opened", path));
+    host->activate(startUp);
+    return startUp;
+}
+
+std::shared_ptr<Project> Projects::open(const std::string& path) {
+    const auto host = this->host();
+    for (const auto& project : list_)
+        if (project->FileName() == path)
+            throw hostError(basic::kFileAlreadyOpen, fmt::format("{}: is already open", path));
+    auto project = std::make_shared<Project>(host, path);
+    host->tellFile(&vbide::FileControlEvents::BeforeLoadFile, *project, std::vector<std::string>{path});
+    project->load();
+    welcome(project);
+    return project;
+}
+
+vbide::Ref<vbide::VBProject> Projects::AddFromTemplate(const std::string& path, bool exclusive) {
+    const auto host = this->host();
+    const auto native = absolutePath(path);
+    readFile(native); // before anything is closed for it
+    if (exclusive) removeAll();
+    host->problems().clear();
+    auto project = std::make_shared<Project>(host, native);
+    host->tellFile(&vbide::FileControlEvents::BeforeLoadFile, *project, std::vector<std::string>{native});
+    project->load();
+    // Handlers see where it comes from; then it is a project that was never saved.
+    welcome(project);
+    host->activate(project);
+    if (holds(project)) project->becomeNew();
+    return project;
+}
+
+vbide::Ref<vbide::VBProject> Projects::addNew() {
+    const auto host = this->host();
+    const auto project = std::make_shared<Project>(host, std::string());
+    project->loadText(newProjectText(freeName()));
+    welcome(project);
+    host->activate(project);
+    if (holds(project)) project->VBComponents()->Add(vbide::vbext_ct_VBForm);
+    return project;
+}
+
+std::string Projects::freeName() const {
+    for (int number = 1;; ++number) {
+        auto name = fmt::format("Project{}", number);
+        const bool taken =
+            std::any_of(list_.begin(), list_.end(), [&](const auto& p) { return basic::equalNoCase(p->Name(), name); });
+        if (!taken) return name;
+    }
+}
+
+void Projects::welcome(const std::shared_ptr<Project>& project) {
+    const auto host = this->host();
+    list_.push_back(project);
+    auto& problems = host->problems();
+    problems.insert(problems.end(), project->loadProblems().begin(), project->loadProblems().end());
+    host->tell(host->projectsEvents().ItemAdded, vbide::Ref<vbide::VBProject>(project));
+}
+
+// ---- closing -----------------------------------------------------------------------------------------------------------
+
+void Projects::Remove(const vbide::Ref<vbide::VBProject>& project) {
+    const auto host = this->host();
+    const auto own = basic::cast<Project>(project).shared();
+    if (!own || !holds(project)) throw hostError(basic::kInvalidProcedureCall);
+    host->tell(host->projectsEvents().ItemRemoved, project); // it still counts, and answers
+    if (std::erase(list_, own) == 0) return;                 // a handler removed it
+    const auto path = own->FileName();
+    if (!path.empty()) host->tellFile(&vbide::FileControlEvents::AfterCloseFile, *own, path);
+    host->forget(project);
+    own->close();
+    if (!host->ActiveVBProject() && !list_.empty()) host->activate(list_.front());
+}
+
+void Projects::removeAll() {
+    for (const auto& project : items())
+        if (holds(project)) Remove(project);
+}
+
+} // namespace host

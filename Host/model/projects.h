@@ -1,0 +1,43 @@
+#pragma once
+// The open projects.
+#include "Add-in/platform/host.h"
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace host {
+
+class Host;
+class Project;
+
+class Projects final : public vbide::VBProjects {
+public:
+    explicit Projects(Host& host) : host_(&host) {}
+
+    int Count() const override;
+    vbide::Ref<vbide::VBProject> Item(int index) const override;
+    std::vector<vbide::Ref<vbide::VBProject>> items() const override;
+    vbide::Ref<vbide::VBProject> AddFromFile(const std::string& path, bool exclusive) override;
+    vbide::Ref<vbide::VBProject> AddFromTemplate(const std::string& path, bool exclusive) override;
+    void Remove(const vbide::Ref<vbide::VBProject>& project) override;
+
+    // ---- for the host ----
+    /// A new, empty project of the host's own, as its menu makes one.
+    vbide::Ref<vbide::VBProject> addNew();
+    void removeAll();
+    bool holds(const vbide::Ref<vbide::VBProject>& project) const;
+    /// The host is gone.
+    void close() { host_ = nullptr; }
+
+private:
+    std::shared_ptr<Host> host() const;
+    std::shared_ptr<Project> open(const std::string& path);
+    vbide::Ref<vbide::VBProject> openGroup(const std::string& path, const std::string& bytes);
+    void welcome(const std::shared_ptr<Project>& project);
+    std::string freeName() const;
+
+    Host* host_;
+    std::vector<std::shared_ptr<Project>> list_;
+};
+
+} // namespace host
