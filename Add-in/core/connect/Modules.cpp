@@ -22,6 +22,10 @@ std::shared_ptr<udocCompileMsgs> Modules::compileMsgs() const {
     return documents_.empty() ? nullptr : documents_.back().lock();
 }
 
+basic::Ref<udocCompileMsgs> Modules::compileMsgs() const {
+    return documents_.empty() ? nullptr : documents_.back().lock();
+}
+
 basic::Ref<vbide::IDTExtensibility> asAddIn(const std::shared_ptr<Modules>& modules) {
     return std::shared_ptr<vbide::IDTExtensibility>(modules, &modules->connect);
 }

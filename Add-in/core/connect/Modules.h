@@ -56,6 +56,9 @@ struct Modules {
     /// The document of the messages window; null before the host has made it.
     std::shared_ptr<udocCompileMsgs> compileMsgs() const;
 
+    /// The document of the messages window; Nothing until the host has made it.
+    basic::Ref<udocCompileMsgs> compileMsgs() const;
+
 private:
     basic::Ref<Object> newCompileMsgs();
 
