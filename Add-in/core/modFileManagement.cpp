@@ -5,6 +5,7 @@
 namespace fernwick {
 
 std::string GetRelativePath(const FileSystemObject& files, const std::string& base, const std::string& path) {
+    if (!files.IsAbsolute(path)) return path;
     const auto target = files.Canonical(path);
     std::string way;
     for (auto folder = files.GetAbsolutePathName(base); !folder.empty(); folder = files.GetParentFolderName(folder)) {

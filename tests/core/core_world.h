@@ -1,0 +1,62 @@
+#pragma once
+// The modules of the core over a registry in memory.
+#include "Add-in/core/AddIn.h"
+#include "Add-in/core/modAddinPrefsManagement.h"
+#include "Add-in/core/modReferencesManagement.h"
+#include "tests/support/traced_platform.h"
+#include <set>
+
+namespace test {
+
+/// A registry of which whole roots can't be written.
+class GuardedRegistry : public MemoryRegistry {
+public:
+    std::set<std::uint32_t> readOnlyRoots;
+
+    std::int32_t RegOpenKeyEx(std::uint32_t key, const std::string& subKey, std::uint32_t access,
+                              std::uint32_t& result) override {
+        if ((access & fernwick::KEY_SET_VALUE) && readOnlyRoots.contains(key)) return fernwick::ERROR_ACCESS_DENIED;
+        return MemoryRegistry::RegOpenKeyEx(key, subKey, access, result);
+    }
+    std::int32_t RegCreateKeyEx(std::uint32_t key, const std::string& subKey, std::uint32_t access,
+                                std::uint32_t& result, std::uint32_t& disposition) override {
+        if (readOnlyRoots.contains(key)) return fernwick::ERROR_ACCESS_DENIED;
+        return MemoryRegistry::RegCreateKeyEx(key, subKey, access, result, disposition);
+    }
+};
+
+class CoreTest : public ::testing::Test {
+protected:
+    static constexpr auto kUser = fernwick::HKEY_CURRENT_USER;
+    static constexpr auto kMachine = fernwick::HKEY_LOCAL_MACHINE;
+    static constexpr const char* kPrefs = "SOFTWARE\\Quinloft\\AddinPrefs";
+    static constexpr const char* kMyDevices = "SOFTWARE\\Quinloft\\AddinPrefs\\MyDevices";
+    static constexpr const char* kGroups = "SOFTWARE\\Quinloft\\AddinPrefs\\TavletGroups";
+    static constexpr const char* kAddIn = "SOFTWARE\\Quinloft\\Embedded Toolkit\\AddIn";
+
+    ~CoreTest() override { EXPECT_EQ(store.openKeys(), 0U) << "a registry key stayed open"; }
+
+    void setText(std::uint32_t root, const char* path, const char* name, const std::string& text) {
+        store.set(root, path, name, text);
+    }
+    void setNumber(std::uint32_t root, const char* path, const char* name, std::int32_t number) {
+        const std::uint32_t key = registry.OpenOrCreateKey(root, path, fernwick::KEY_ALL_ACCESS);
+        registry.SetValue(key, name, number, fernwick::REG_DWORD);
+        registry.CloseKey(key);
+    }
+    /// "type:text" of a stored value, "" for none.
+    std::string stored(std::uint32_t root, const char* path, const char* name) {
+        const fernwick::RegistryKey key{registry, registry.OpenKey(root, path, fernwick::KEY_QUERY_VALUE)};
+        if (!key) return {};
+        const auto value = registry.GetStringValue(key.handle(), name);
+        return value.ok() ? std::to_string(value.type) + ":" + value.text : "";
+    }
+
+    TracedPlatform world;
+    GuardedRegistry store;
+    fernwick::modRegistry2 registry{store};
+    fernwick::modAddinPrefsManagement prefs{registry, world.errors};
+    fernwick::AddIn addIn{registry, world.errors, world.environment};
+};
+
+} // namespace test

@@ -1,0 +1,164 @@
+#include "core_world.h"
+
+using namespace fernwick;
+
+namespace {
+using Preferences = test::CoreTest;
+using Texts = std::vector<std::string>;
+} // namespace
+
+TEST_F(Preferences, DefaultsWhereNothingIsStored) {
+    EXPECT_TRUE(prefs.GetStartTutorial());
+    EXPECT_TRUE(addIn.GetQuinloftSaveWarning());
+    EXPECT_FALSE(prefs.GetQuinloftCompileWarning());
+    EXPECT_EQ(prefs.GetRecentProjColWidth(), -1);
+    EXPECT_EQ(prefs.GetProjectManagerState(), 0);
+    EXPECT_EQ(prefs.GetZoomWinState(), 1);
+    prefs.loadMyDevices();
+    EXPECT_TRUE(prefs.gMyDevices.empty());
+    EXPECT_TRUE(world.errors.seen.empty());
+}
+
+TEST_F(Preferences, WhatIsSetIsRead) {
+    prefs.SetZoomWinState(1);
+    prefs.GetZoomWinState(); // makes the key
+    prefs.SetZoomWinState(0);
+    EXPECT_EQ(prefs.GetZoomWinState(), 0);
+    prefs.SetQuinloftCompileWarning(true);
+    EXPECT_TRUE(prefs.GetQuinloftCompileWarning());
+    EXPECT_EQ(stored(kUser, kAddIn, "CompileWarning"), "4:1");
+    prefs.SetQuinloftCompileWarning(false);
+    EXPECT_FALSE(prefs.GetQuinloftCompileWarning());
+    prefs.SetRecentProjColWidth(120);
+    EXPECT_EQ(prefs.GetRecentProjColWidth(), 120);
+    prefs.SetProjectManagerState(3);
+    EXPECT_EQ(prefs.GetProjectManagerState(), 3);
+}
+
+TEST_F(Preferences, TheSaveWarningStoresTrueAsMinusOne) {
+    addIn.SetQuinloftSaveWarning(true);
+    EXPECT_EQ(stored(kUser, kAddIn, "SaveWarning"), "4:-1");
+    EXPECT_TRUE(addIn.GetQuinloftSaveWarning());
+    addIn.SetQuinloftSaveWarning(false);
+    EXPECT_EQ(stored(kUser, kAddIn, "SaveWarning"), "4:0");
+    EXPECT_FALSE(addIn.GetQuinloftSaveWarning());
+}
+
+TEST_F(Preferences, ASaveWarningStoredAsTextIsTrue) {
+    setText(kUser, kAddIn, "SaveWarning", "0");
+    EXPECT_TRUE(addIn.GetQuinloftSaveWarning());
+}
+
+TEST_F(Preferences, ReadingTheSaveWarningMakesItsKey) {
+    addIn.GetQuinloftSaveWarning();
+    EXPECT_TRUE(RegistryKey(registry, registry.OpenKey(kUser, kAddIn, KEY_READ)));
+}
+
+TEST_F(Preferences, AStoreThatMayNotBeWrittenGivesDefaults) {
+    store.readOnlyRoots.insert(kUser);
+    EXPECT_TRUE(addIn.GetQuinloftSaveWarning());
+    addIn.SetQuinloftSaveWarning(false);
+    prefs.SetQuinloftCompileWarning(true);
+    EXPECT_FALSE(prefs.GetQuinloftCompileWarning());
+    EXPECT_EQ(prefs.GetZoomWinState(), 1);
+    prefs.gMyDevices = {"PalmOS"};
+    EXPECT_TRUE(prefs.saveMyDevices());
+    EXPECT_TRUE(world.errors.seen.empty());
+}
+
+TEST_F(Preferences, ACompileWarningStoredAsTextIsFalse) {
+    setText(kUser, kAddIn, "CompileWarning", "1");
+    EXPECT_FALSE(prefs.GetQuinloftCompileWarning());
+}
+
+TEST_F(Preferences, AnUnknownZoomStateIsCorrectedWhenRead) {
+    setText(kUser, kPrefs, "ZoomWinState", "2");
+    EXPECT_EQ(prefs.GetZoomWinState(), 1);
+    EXPECT_EQ(stored(kUser, kPrefs, "ZoomWinState"), "1:1");
+}
+
+TEST_F(Preferences, AColumnWidthOfZeroIsRewritten) {
+    setNumber(kUser, kAddIn, "RecProjColW", 0);
+    EXPECT_EQ(prefs.GetRecentProjColWidth(), -1);
+    EXPECT_EQ(stored(kUser, kAddIn, "RecProjColW"), "4:-1");
+}
+
+TEST_F(Preferences, ANumberThatIsNoneIsReportedAndTheDefault) {
+    setText(kUser, kAddIn, "RecProjColW", "wide");
+    setText(kUser, kAddIn, "ProjMgrState", "open");
+    EXPECT_EQ(prefs.GetRecentProjColWidth(), -1);
+    EXPECT_EQ(prefs.GetProjectManagerState(), 0);
+    EXPECT_EQ(world.errors.seen, (Texts{"modAddinPrefsManagement.GetRecentProjColWidth [13]",
+                                        "modAddinPrefsManagement.GetProjectManagerState [13]"}));
+}
+
+TEST_F(Preferences, TheTutorialBelongsToTheMachine) {
+    setText(kMachine, kPrefs, "other", "");
+    EXPECT_TRUE(prefs.GetStartTutorial());
+    EXPECT_EQ(stored(kMachine, kPrefs, "StartTutorial"), "1:True");
+    prefs.SetStartTutorial(false);
+    EXPECT_EQ(stored(kMachine, kPrefs, "StartTutorial"), "1:False");
+    EXPECT_FALSE(prefs.GetStartTutorial());
+}
+
+TEST_F(Preferences, WithoutAccessToTheMachineTheTutorialComesEachTime) {
+    setText(kMachine, kPrefs, "other", "");
+    store.readOnlyRoots.insert(kMachine);
+    EXPECT_TRUE(prefs.GetStartTutorial());
+    prefs.SetStartTutorial(false);
+    EXPECT_TRUE(prefs.GetStartTutorial());
+    EXPECT_EQ(stored(kMachine, kPrefs, "StartTutorial"), "");
+}
+
+TEST_F(Preferences, AMissingDeviceLeavesNoGapAndSavingRenumbers) {
+    setNumber(kUser, kMyDevices, "MyDeviceCount", 3);
+    setText(kUser, kMyDevices, "MyDevice0", "PalmOS");
+    setText(kUser, kMyDevices, "MyDevice2", "PocketPC");
+    prefs.loadMyDevices();
+    EXPECT_EQ(prefs.gMyDevices, (Texts{"PalmOS", "PocketPC"}));
+    EXPECT_TRUE(prefs.saveMyDevices());
+    EXPECT_EQ(stored(kUser, kMyDevices, "MyDeviceCount"), "4:2");
+    EXPECT_EQ(stored(kUser, kMyDevices, "MyDevice1"), "1:PocketPC");
+    EXPECT_EQ(stored(kUser, kMyDevices, "MyDevice2"), "1:PocketPC"); // out of the count's reach
+}
+
+TEST_F(Preferences, LoadingTwiceStartsAfresh) {
+    prefs.gMyDevices = {"left over"};
+    prefs.loadMyDevices();
+    EXPECT_TRUE(prefs.gMyDevices.empty());
+}
+
+TEST_F(Preferences, ADeviceCountThatIsNoNumberIsReported) {
+    setText(kUser, kMyDevices, "MyDeviceCount", "many");
+    prefs.loadMyDevices();
+    EXPECT_TRUE(prefs.gMyDevices.empty());
+    EXPECT_EQ(world.errors.seen, Texts{"modAddinPrefsManagement.loadMyDevices [13]"});
+}
+
+TEST_F(Preferences, AnAbsurdDeviceCountEnds) {
+    setNumber(kUser, kMyDevices, "MyDeviceCount", 0x7FFFFFFF);
+    setText(kUser, kMyDevices, "MyDevice4", "PalmOS");
+    prefs.loadMyDevices();
+    EXPECT_EQ(prefs.gMyDevices, Texts{"PalmOS"});
+}
+
+TEST_F(Preferences, GroupsAreFoundByNameAndByPosition) {
+    basic::Collection<std::string> names, positions;
+    names.Add("left over");
+    EXPECT_FALSE(prefs.CreateTavletCategoryList(names, positions));
+    EXPECT_EQ(names.Count(), 0);
+
+    setText(kMachine, kGroups, "Standard", "1");
+    setText(kMachine, kGroups, "Lists", "2");
+    setText(kMachine, kGroups, "Twice", "2");
+    EXPECT_TRUE(prefs.CreateTavletCategoryList(names, positions));
+    EXPECT_EQ(names.Item("1"), "Standard");
+    EXPECT_EQ(names.Count(), 2); // the second one at a position is dropped
+    EXPECT_EQ(positions.Item("twice"), "2");
+    EXPECT_EQ(positions.Count(), 3);
+}
+
+TEST_F(Preferences, TheHostsAddressIsPublishedInCapitals) {
+    addIn.SaveVBinstPointer(nullptr);
+    EXPECT_EQ(world.environment.values["VBInstance-3AD1D370-2E73-417D-B685-0E1756D55411"], "0");
+}
