@@ -18,10 +18,6 @@ basic::Ref<Object> Modules::newCompileMsgs() {
     return document;
 }
 
-std::shared_ptr<udocCompileMsgs> Modules::compileMsgs() const {
-    return documents_.empty() ? nullptr : documents_.back().lock();
-}
-
 basic::Ref<udocCompileMsgs> Modules::compileMsgs() const {
     return documents_.empty() ? nullptr : documents_.back().lock();
 }

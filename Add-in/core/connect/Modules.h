@@ -53,9 +53,6 @@ struct Modules {
     Connect connect{
         {platform, errors, prefs, addIn, references, devices, items, projects, messages, removal, setup, commands}};
 
-    /// The document of the messages window; null before the host has made it.
-    std::shared_ptr<udocCompileMsgs> compileMsgs() const;
-
     /// The document of the messages window; Nothing until the host has made it.
     basic::Ref<udocCompileMsgs> compileMsgs() const;
 

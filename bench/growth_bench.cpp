@@ -1,0 +1,93 @@
+// How cost grows: each job at two sizes in one run, printed as the ratio of the times a piece. Near 1 is linear.
+#include "Apps/fernwick/session.h"
+#include "Host/files/project_file.h"
+#include "tests/support/sample_project.h"
+#include <chrono>
+#include <cstdio>
+#include <fmt/format.h>
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+/// The best of five, in seconds.
+template <class Job>
+double bestOf(Job&& job) {
+    double best = 1e9;
+    for (int i = 0; i < 5; ++i) {
+        const auto begin = Clock::now();
+        job();
+        best = std::min(best, std::chrono::duration<double>(Clock::now() - begin).count());
+    }
+    return best;
+}
+
+template <class Job>
+void compare(const char* what, int small, int large, Job&& job) {
+    const double few = job(small) / small, many = job(large) / large;
+    fmt::print("{:<44}{:>7} : {:<7} ratio a piece {:.2f}   ({:.2f} us a piece)\n", what, large, small, many / few,
+               many * 1e6);
+}
+
+std::string projectOf(const test::TempFolder& folder, int components) {
+    test::SampleProject project{"Large"};
+    for (int i = 0; i < components; ++i)
+        project.module(fmt::format("modPart{}", i), "Option Explicit\r\nPublic Sub Part()\r\nEnd Sub\r\n");
+    return project.writeTo(folder);
+}
+
+double loadProject(int components) {
+    const test::TempFolder folder;
+    const auto path = projectOf(folder, components);
+    return bestOf([&] {
+        const auto host = host::Host::create();
+        host->VBProjects()->AddFromFile(path);
+        host->close();
+    });
+}
+
+double writeProperties(int count) {
+    return bestOf([&] {
+        host::ProjectFile file{"Type=Exe\r\nName=\"P\"\r\n", basic::CodePage::windows1252()};
+        for (int i = 0; i < count; ++i) file.writeProperty("Section", fmt::format("Key{}", i), "value");
+    });
+}
+
+double readProperties(int count) {
+    host::ProjectFile file{"Type=Exe\r\nName=\"P\"\r\n", basic::CodePage::windows1252()};
+    for (int i = 0; i < count; ++i) file.writeProperty("Section", fmt::format("Key{}", i), "value");
+    std::size_t length = 0;
+    const double taken = bestOf([&] {
+        for (int i = 0; i < count; ++i) length += file.readProperty("section", fmt::format("key{}", i)).size();
+    });
+    return length > 0 ? taken : 0;
+}
+
+double storeMessages(int count) {
+    const test::TempFolder folder;
+    const auto path = projectOf(folder, 100);
+    const cli::Options options;
+    cli::Console console{cli::Verbosity::Quiet};
+    cli::Session session{options, console};
+    session.open(path);
+    session.connect();
+    auto& messages = session.addIn().messages;
+    const double taken = bestOf([&] {
+        messages.ClearProjectCompileErrors(session.project());
+        for (int i = 0; i < count; ++i)
+            messages.AddProjectCompileError(session.project(), "Expected: an expression, found: end of line.",
+                                            folder / fmt::format("modPart{}.bas", i % 100), i + 1, 1800);
+    });
+    session.closeUnsaved();
+    return taken;
+}
+
+} // namespace
+
+int main() {
+    compare("project load, components", 300, 3000, loadProject);
+    compare("add-in values written", 1000, 10000, writeProperties);
+    compare("add-in values read", 1000, 10000, readProperties);
+    compare("messages stored", 1000, 10000, storeMessages);
+    return 0;
+}

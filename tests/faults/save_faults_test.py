@@ -1,0 +1,154 @@
+#!/usr/bin/env python3
+"""A save that dies, or is refused, at any system call leaves the old file or the new one, and says so."""
+import os
+import pathlib
+import re
+import shutil
+import stat
+import subprocess
+import sys
+import tempfile
+import unittest
+
+PROGRAM = None  # path of fernwick, the first argument
+ROOT = pathlib.Path(__file__).resolve().parent.parent.parent
+SAMPLE = ROOT / "samples" / "HelloWorld"
+
+# The calls through which a save can end early. Others don't touch the project's folder.
+CALLS = ["openat", "write", "fsync", "rename,renameat,renameat2", "fchmod", "fchown", "unlink,unlinkat", "ftruncate"]
+SET = ["settings", "set", "HelloWorld.vbp", "DefaultFontName", "Swiss"]
+BUILD = ["build", "HelloWorld.vbp", "--yes"]
+
+
+class Project:
+    """A copy of the sample in a folder of its own, with private stores."""
+
+    def __init__(self):
+        self.base = pathlib.Path(tempfile.mkdtemp(prefix="fernwick-faults-"))
+        self.folder = self.base / "project"
+        shutil.copytree(SAMPLE, self.folder)
+        self.vbp = self.folder / "HelloWorld.vbp"
+        self.old = self.files()
+        self.environment = dict(os.environ, XDG_CONFIG_HOME=str(self.base / "config"),
+                                XDG_DATA_HOME=str(self.base / "data"), FERNWICK_MACHINE_STORE=str(self.base / "machine"))
+
+    def files(self):
+        return {p.name: p.read_bytes() for p in self.folder.iterdir() if p.is_file()}
+
+    def restore(self):
+        for path in self.folder.iterdir():
+            path.unlink()
+        for name, content in self.old.items():
+            (self.folder / name).write_bytes(content)
+
+    def run(self, arguments, inject=None):
+        command = [PROGRAM, *arguments]
+        if inject:
+            # -P limits the injection to calls that touch the project's folder
+            command = ["strace", "-f", "-qq", "-o", str(self.base / "trace"), "-P", str(self.folder),
+                       *[f"-P{p}" for p in self.folder.iterdir()], "-e", f"inject={inject}", *command]
+        return subprocess.run(command, cwd=self.folder, env=self.environment, stdin=subprocess.DEVNULL,
+                              capture_output=True, text=True, timeout=60)
+
+    def calls_of(self, arguments, calls):
+        """How often each call set is made by a good run."""
+        trace = self.base / "count"
+        subprocess.run(["strace", "-f", "-qq", "-o", str(trace), "-e", f"trace={calls}", PROGRAM, *arguments],
+                       cwd=self.folder, env=self.environment, stdin=subprocess.DEVNULL, capture_output=True, timeout=60)
+        names = calls.replace(",", "|")
+        return len(re.findall(rf"\b(?:{names})\(", trace.read_text(errors="replace")))
+
+    def remove(self):
+        shutil.rmtree(self.base, ignore_errors=True)
+
+
+class Saves(unittest.TestCase):
+    def setUp(self):
+        self.project = Project()
+        good = self.project.run(SET)
+        self.assertEqual(good.returncode, 0, good.stderr)
+        self.new = self.project.vbp.read_bytes()
+        self.assertNotEqual(self.new, self.project.old["HelloWorld.vbp"])
+        self.project.restore()
+
+    def tearDown(self):
+        self.project.remove()
+
+    def check_old_or_new(self, what):
+        now = self.project.vbp.read_bytes()
+        self.assertIn(now, (self.project.old["HelloWorld.vbp"], self.new), what)
+        return now == self.new
+
+    def test_killed_at_each_call(self):
+        for calls in CALLS:
+            for when in range(1, self.project.calls_of(SET, calls) + 1):
+                self.project.restore()
+                self.project.run(SET, f"{calls}:signal=KILL:when={when}")
+                self.check_old_or_new(f"killed at {calls} {when}")
+        # what a killed save left beside the file does not stand in the next one's way
+        again = self.project.run(SET)
+        self.assertEqual(again.returncode, 0, again.stderr)
+        self.assertTrue(self.check_old_or_new("after the kills"))
+
+    def test_refused_at_each_call(self):
+        for calls, error in [("openat", "EACCES"), ("write", "ENOSPC"), ("fsync", "EIO"),
+                             ("rename,renameat,renameat2", "EACCES"), ("rename,renameat,renameat2", "EIO")]:
+            self.project.restore()
+            for when in range(1, self.project.calls_of(SET, calls) + 1):
+                self.project.restore()
+                before = set(self.project.files())
+                result = self.project.run(SET, f"{calls}:error={error}:when={when}")
+                what = f"{error} at {calls} {when}: {result.returncode} {result.stderr}"
+                saved = self.check_old_or_new(what)
+                self.assertEqual(result.returncode == 0, saved, what)
+                if not saved:
+                    self.assertNotEqual(result.stderr, "", what)
+                    self.assertNotIn("terminate", result.stderr, what)
+                self.assertEqual(set(self.project.files()), before, "nothing is left beside it: " + what)
+
+
+class Images(unittest.TestCase):
+    def setUp(self):
+        self.project = Project()
+
+    def tearDown(self):
+        self.project.remove()
+
+    def test_build_killed_at_each_write_leaves_whole_files(self):
+        good = self.project.run(BUILD)
+        self.assertEqual(good.returncode, 0, good.stderr)
+        image = self.project.files()["HelloWorld.0000.qlx"]
+        self.project.restore()
+        for calls in ["write", "fsync", "rename,renameat,renameat2"]:
+            for when in range(1, self.project.calls_of(BUILD, calls) + 1):
+                self.project.restore()
+                self.project.run(BUILD, f"{calls}:signal=KILL:when={when}")
+                now = self.project.files()
+                self.assertIn(now.get("HelloWorld.0000.qlx"), (None, image), f"killed at {calls} {when}")
+                self.assertEqual(now["frmHello.frm"], self.project.old["frmHello.frm"])
+                self.assertTrue(now["HelloWorld.vbp"].startswith(b"Type=Exe\r\n"))
+                self.assertTrue(now["HelloWorld.vbp"].endswith(b"\r\n"))
+
+    def test_full_disk_at_the_image_is_an_error_of_its_own(self):
+        result = self.project.run(BUILD, "rename,renameat,renameat2:error=ENOSPC")
+        self.assertNotEqual(result.returncode, 0)
+        self.assertNotIn("HelloWorld.0000.qlx", self.project.files())
+        self.assertEqual(set(self.project.files()), set(self.project.old))
+
+
+class ReadOnly(unittest.TestCase):
+    def test_read_only_project_stays_as_it_is_for_root_too(self):
+        project = Project()
+        try:
+            project.vbp.chmod(stat.S_IRUSR | stat.S_IRGRP | stat.S_IROTH)
+            result = project.run(SET)
+            self.assertNotEqual(result.returncode, 0)
+            self.assertIn("is read-only.", result.stderr)
+            self.assertEqual(project.files(), project.old)
+        finally:
+            project.remove()
+
+
+if __name__ == "__main__":
+    PROGRAM = os.path.abspath(sys.argv.pop(1))
+    unittest.main(verbosity=1)
