@@ -17,6 +17,8 @@ struct TypeLibInfo {
     std::string Guid;
     int MajorVersion = 0;
     int MinorVersion = 0;
+    /// What the library is, in words; may be empty.
+    std::string HelpString;
 };
 
 class Classes {

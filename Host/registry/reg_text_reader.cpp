@@ -10,11 +10,11 @@
 namespace host {
 namespace {
 
-constexpr int kInvalidFileFormat = 321;
+constexpr int kInvalidRegFile = 321;
 constexpr std::string_view kRegHeader = "Windows Registry Editor Version 5.00";
 
 [[noreturn]] void regTextError(std::string_view file, std::size_t line, std::string_view reason) {
-    throw basic::RuntimeError(kInvalidFileFormat, fmt::format("{}:{}: {}", file, line, reason), "VBIDE");
+    throw basic::RuntimeError(kInvalidRegFile, fmt::format("{}:{}: {}", file, line, reason), "VBIDE");
 }
 
 std::string decodeUtf8(std::string_view bytes, std::string_view file) {
@@ -45,7 +45,7 @@ bool isEndOrComment(std::string_view s) {
     return s.empty() || s.front() == ';';
 }
 
-bool takePrefix(std::string_view& s, std::string_view prefix) {
+bool takeRegPrefix(std::string_view& s, std::string_view prefix) {
     if (!s.starts_with(prefix)) return false;
     s.remove_prefix(prefix.size());
     return true;
@@ -105,7 +105,7 @@ private:
         const auto close = line_.rfind(']'); // a key's name may hold brackets
         if (close == line_.npos || !isEndOrComment(line_.substr(close + 1))) fail("\"]\" is missing behind the key");
         auto key = line_.substr(1, close - 1);
-        const bool deleted = takePrefix(key, "-");
+        const bool deleted = takeRegPrefix(key, "-");
         if (key.empty()) fail("the key has no name");
         key_ = key;
         add(deleted ? RegInstruction::Kind::DeleteKey : RegInstruction::Kind::MakeKey);
@@ -117,11 +117,11 @@ private:
             fail("a line begins with \"[\", a value's name in quotation marks, \"@\" or \";\"");
         if (key_.empty()) fail("a value stands outside a key");
         auto& made = add(RegInstruction::Kind::SetValue);
-        if (!takePrefix(line_, "@")) made.name = readQuoted();
+        if (!takeRegPrefix(line_, "@")) made.name = readQuoted();
         line_ = skipBlanks(line_);
-        if (!takePrefix(line_, "=")) fail("\"=\" is missing behind the value's name");
+        if (!takeRegPrefix(line_, "=")) fail("\"=\" is missing behind the value's name");
         line_ = skipBlanks(line_);
-        if (takePrefix(line_, "-"))
+        if (takeRegPrefix(line_, "-"))
             made.kind = RegInstruction::Kind::DeleteValue;
         else
             made.value = readData();
@@ -130,11 +130,11 @@ private:
 
     RegValue readData() {
         if (line_.starts_with('"')) return {fernwick::REG_SZ, readQuoted() + '\0'};
-        if (takePrefix(line_, "dword:")) return {fernwick::REG_DWORD, readDword()};
-        if (takePrefix(line_, "hex:")) return {fernwick::REG_BINARY, readHexBytes()};
-        if (!takePrefix(line_, "hex(")) fail("the data are none of \"text\", dword:, hex:, hex(type): and -");
+        if (takeRegPrefix(line_, "dword:")) return {fernwick::REG_DWORD, readDword()};
+        if (takeRegPrefix(line_, "hex:")) return {fernwick::REG_BINARY, readHexBytes()};
+        if (!takeRegPrefix(line_, "hex(")) fail("the data are none of \"text\", dword:, hex:, hex(type): and -");
         const auto type = takeHex(line_, 8);
-        if (!type || !takePrefix(line_, "):")) fail("the type in hex(type): is not a hexadecimal number");
+        if (!type || !takeRegPrefix(line_, "):")) fail("the type in hex(type): is not a hexadecimal number");
         auto bytes = readHexBytes();
         if (!isRegText(*type)) return {*type, std::move(bytes)};
         auto text = utf8FromUtf16Bytes(bytes);
@@ -173,7 +173,7 @@ private:
             if (!byte) fail("hex data are bytes of two hexadecimal digits with commas between them");
             bytes += static_cast<char>(*byte);
             line_ = skipBlanks(line_);
-            if (!takePrefix(line_, ",")) return bytes;
+            if (!takeRegPrefix(line_, ",")) return bytes;
         }
     }
 

@@ -16,7 +16,7 @@ constexpr std::size_t kRegLineWidth = 80;
         fmt::format("The text of the value \"{}\" in the key \"{}\" is not UTF-8.", of.name, of.key), "VBIDE");
 }
 
-std::string quoted(std::string_view text) {
+std::string quotedRegText(std::string_view text) {
     std::string out = "\"";
     for (const char c : text) {
         if (c == '\\' || c == '"') out += '\\';
@@ -50,7 +50,7 @@ std::string hexBytes(std::string_view bytes, std::size_t column) {
 std::string dataText(const RegInstruction& of, std::size_t column) {
     const auto& [type, data] = of.value;
     if (type == fernwick::REG_SZ && fitsInQuotes(data))
-        return quoted(std::string_view(data).substr(0, data.size() - 1));
+        return quotedRegText(std::string_view(data).substr(0, data.size() - 1));
     if (type == fernwick::REG_DWORD && data.size() == 4)
         return fmt::format("dword:{:02x}{:02x}{:02x}{:02x}", static_cast<unsigned char>(data[3]),
                            static_cast<unsigned char>(data[2]), static_cast<unsigned char>(data[1]),
@@ -68,7 +68,7 @@ std::string instructionText(const RegInstruction& one) {
     case RegInstruction::Kind::DeleteKey: return fmt::format("\r\n[-{}]\r\n", one.key);
     default: break;
     }
-    const auto start = (one.name.empty() ? "@" : quoted(one.name)) + '=';
+    const auto start = (one.name.empty() ? "@" : quotedRegText(one.name)) + '=';
     const bool deleted = one.kind == RegInstruction::Kind::DeleteValue;
     return start + (deleted ? "-" : dataText(one, start.size())) + "\r\n";
 }

@@ -1,6 +1,6 @@
 #include "Host/registry/registry_places.h"
 #include "Host/files/atomic_save.h"
-#include <pwd.h>
+#include "Host/system/home_folder.h"
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -21,9 +21,7 @@ bool canBeMadeOrWritten(const std::filesystem::path& folder) {
 
 std::filesystem::path homeOfUser(const fernwick::Environment& environment) {
     const auto home = environment.GetEnvironmentVariable("HOME");
-    if (!home.empty()) return home;
-    const auto* user = ::getpwuid(::getuid());
-    return user && user->pw_dir ? user->pw_dir : "/";
+    return home.empty() ? homeFolder() : home;
 }
 
 /// A base folder that a variable names; a relative one does not count.

@@ -1,0 +1,36 @@
+#pragma once
+// Classes by name: what registered factories make, and what the registry and the description files tell.
+#include "Add-in/platform/classes.h"
+#include "Add-in/platform/registry.h"
+#include "Basic/case_folding.h"
+#include <map>
+#include <utility>
+#include <vector>
+
+namespace host {
+
+class Classes : public fernwick::Classes {
+public:
+    explicit Classes(fernwick::Registry& registry) : registry_(registry) {}
+
+    [[nodiscard]] std::shared_ptr<void> RegisterClass(const std::string& progId, Factory factory) override;
+    basic::Ref<fernwick::Object> CreateObject(const std::string& progId) override;
+
+    /// `clsid` is the text in upper case.
+    bool CLSIDFromString(const std::string& text, std::string& clsid) const override;
+    std::string ProgIDFromCLSID(const std::string& clsid) const override;
+    /// The class of a ProgID, in braces and upper case; "" for one that is not registered.
+    std::string CLSIDFromProgID(const std::string& progId) const;
+    /// The description file that stands beside the registered `path`, which stays the ContainingFile.
+    basic::Ref<fernwick::TypeLibInfo> TypeLibInfoFromFile(const std::string& path) const override;
+
+private:
+    using Registrations = std::vector<std::pair<std::weak_ptr<void>, Factory>>;
+
+    std::string defaultValue(const std::string& key) const;
+
+    fernwick::Registry& registry_;
+    std::map<std::string, Registrations, basic::NoCaseLess> factories_;
+};
+
+} // namespace host

@@ -1,0 +1,200 @@
+#include "Host/system/file_system.h"
+#include "Basic/case_folding.h"
+#include "Host/files/atomic_save.h"
+#include "Host/files/path_lookup.h"
+#include "Host/files/text_file.h"
+#include "Host/system/file_error.h"
+#include "Host/system/home_folder.h"
+#include "Host/system/path_text.h"
+#include "Host/system/text_stream.h"
+#include <algorithm>
+#include <cstdlib>
+#include <fcntl.h>
+#include <filesystem>
+#include <optional>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace host {
+namespace {
+
+std::optional<struct stat> stateOf(const std::string& path) {
+    struct stat state {};
+    if (::stat(path.c_str(), &state) != 0) return std::nullopt;
+    return state;
+}
+
+struct stat fileState(const std::string& path) {
+    const auto state = stateOf(path);
+    if (!state) throw scriptError(errno, "cannot be examined", path);
+    if (S_ISDIR(state->st_mode)) throw hostError(basic::kFileNotFound, path + ": is a folder");
+    return *state;
+}
+
+/// Where a file may be made or replaced; the errors of scripts when it may not.
+void requirePlace(const std::string& path, bool overwrite) {
+    const auto folder = parentFolderName(path);
+    const auto around = stateOf(folder);
+    if (!around || !S_ISDIR(around->st_mode))
+        throw hostError(basic::kPathNotFound, folder + ": there is no such folder");
+    const auto there = stateOf(path);
+    if (there && S_ISDIR(there->st_mode)) throw hostError(basic::kPermissionDenied, path + ": is a folder");
+    if (there && !overwrite) throw hostError(basic::kFileAlreadyExists, path + ": is there already");
+    if (there && isReadOnly(path)) throw scriptError(EACCES, "is read-only", path);
+}
+
+void setFileTime(const std::string& path, struct timespec time) {
+    const struct timespec times[2] = {{0, UTIME_OMIT}, time};
+    if (::utimensat(AT_FDCWD, path.c_str(), times, 0) != 0) throw scriptError(errno, "cannot get its time", path);
+}
+
+/// The copy has the source's time, so that a copy is as current as what it was copied from.
+void takeOver(const struct stat& source, const std::string& path, bool isNew) {
+    const struct timespec times[2] = {source.st_atim, source.st_mtim};
+    if (isNew && ::chmod(path.c_str(), source.st_mode & 0777) != 0)
+        throw scriptError(errno, "cannot get its mode", path);
+    if (::utimensat(AT_FDCWD, path.c_str(), times, 0) != 0) throw scriptError(errno, "cannot get its time", path);
+}
+
+std::string makeTemporaryFolder() {
+    std::error_code error;
+    auto around = std::filesystem::temp_directory_path(error);
+    if (error) around = "/tmp";
+    auto path = (around / "fernwick-XXXXXX").string();
+    if (!::mkdtemp(path.data())) throw scriptError(errno, "no temporary folder can be made", around.string());
+    return path;
+}
+
+std::string currentFolder() {
+    std::error_code error;
+    const auto folder = std::filesystem::current_path(error);
+    return error ? "/" : folder.string();
+}
+
+} // namespace
+
+FileSystem::~FileSystem() {
+    std::error_code ignored;
+    if (!temporary_.empty()) std::filesystem::remove_all(temporary_, ignored);
+}
+
+bool FileSystem::FileExists(const std::string& path) const {
+    const auto state = path.empty() ? std::nullopt : stateOf(Canonical(path));
+    return state && !S_ISDIR(state->st_mode);
+}
+
+bool FileSystem::FolderExists(const std::string& path) const {
+    const auto state = path.empty() ? std::nullopt : stateOf(Canonical(path));
+    return state && S_ISDIR(state->st_mode);
+}
+
+int FileSystem::GetAttributes(const std::string& path) const {
+    const auto file = Canonical(path);
+    fileState(file);
+    return (isReadOnly(file) ? fernwick::ReadOnlyAttribute : 0) |
+           (lastName(file).starts_with('.') ? fernwick::HiddenAttribute : 0);
+}
+
+std::int64_t FileSystem::GetSize(const std::string& path) const { return fileState(Canonical(path)).st_size; }
+
+std::int64_t FileSystem::GetDateLastModified(const std::string& path) const {
+    const auto time = fileState(Canonical(path)).st_mtim;
+    return std::int64_t{time.tv_sec} * 1'000'000'000 + time.tv_nsec;
+}
+
+std::string FileSystem::GetAbsolutePathName(const std::string& path) const {
+    return absolutePath(currentFolder(), path);
+}
+std::string FileSystem::GetParentFolderName(const std::string& path) const { return parentFolderName(path); }
+std::string FileSystem::GetFileName(const std::string& path) const { return lastName(path); }
+std::string FileSystem::GetBaseName(const std::string& path) const { return baseName(path); }
+std::string FileSystem::GetExtensionName(const std::string& path) const { return extensionName(path); }
+std::string FileSystem::BuildPath(const std::string& folder, const std::string& name) const {
+    return joinedPath(folder, name);
+}
+
+std::string FileSystem::Canonical(const std::string& path) const {
+    return path.empty() ? "" : PathLookup().find(currentFolder(), path);
+}
+
+bool FileSystem::SamePath(const std::string& a, const std::string& b) const { return Canonical(a) == Canonical(b); }
+
+std::string FileSystem::WithSeparator(const std::string& folder) const {
+    return folder.empty() ? "" : joinedPath(folder, "");
+}
+
+bool FileSystem::IsAbsolute(const std::string& path) const { return isAbsolutePath(path); }
+
+std::string FileSystem::GetSpecialFolder(fernwick::SpecialFolder folder) const {
+    if (folder != fernwick::TemporaryFolder) throw hostError(basic::kInvalidProcedureCall);
+    if (temporary_.empty()) temporary_ = makeTemporaryFolder();
+    return temporary_;
+}
+
+std::string FileSystem::HomeFolder() const { return homeFolder(); }
+
+std::vector<std::string> FileSystem::Files(const std::string& folder) const {
+    const auto path = Canonical(folder);
+    std::vector<std::string> names;
+    std::error_code error;
+    std::filesystem::directory_iterator at(path, error), end;
+    if (error && error.value() == EACCES) throw scriptError(EACCES, "cannot be listed", path);
+    if (error) throw hostError(basic::kPathNotFound, path + ": there is no such folder");
+    for (; !error && at != end; at.increment(error)) {
+        std::error_code ignored;
+        if (!at->is_directory(ignored)) names.push_back(at->path().filename().string());
+    }
+    std::sort(names.begin(), names.end());
+    std::stable_sort(names.begin(), names.end(), basic::NoCaseLess{});
+    return names;
+}
+
+basic::Ref<fernwick::TextStream> FileSystem::OpenTextFile(const std::string& path) {
+    return basic::make<TextReader>(ReadBytes(path));
+}
+
+basic::Ref<fernwick::TextStream> FileSystem::CreateTextFile(const std::string& path, bool overwrite) {
+    const auto file = Canonical(path);
+    requirePlace(file, overwrite);
+    return basic::make<TextWriter>(file);
+}
+
+std::string FileSystem::ReadBytes(const std::string& path) const {
+    return withScriptErrors([&] { return readFile(Canonical(path)).bytes; });
+}
+
+void FileSystem::WriteBytes(const std::string& path, const std::string& bytes) {
+    const auto file = Canonical(path);
+    requirePlace(file, true);
+    withScriptErrors([&] { atomicSave(file, bytes); });
+}
+
+void FileSystem::SetDateLastModified(const std::string& path, std::int64_t time) {
+    constexpr std::int64_t kSecond = 1'000'000'000;
+    const auto file = Canonical(path);
+    fileState(file);
+    const auto nanoseconds = (time % kSecond + kSecond) % kSecond;
+    setFileTime(file, {(time - nanoseconds) / kSecond, nanoseconds});
+}
+
+void FileSystem::CopyFile(const std::string& from, const std::string& to, bool overwrite) {
+    const auto source = Canonical(from);
+    const bool intoFolder = to.ends_with('/') || to.ends_with('\\');
+    const auto target = Canonical(intoFolder ? joinedPath(to, lastName(source)) : to);
+    const auto state = fileState(source);
+    if (source == target) return;
+    requirePlace(target, overwrite);
+    const bool isNew = !stateOf(target);
+    const auto bytes = ReadBytes(source);
+    withScriptErrors([&] { atomicSave(target, bytes); });
+    takeOver(state, target, isNew);
+}
+
+void FileSystem::DeleteFile(const std::string& path, bool force) {
+    const auto file = Canonical(path);
+    fileState(file);
+    if (!force && isReadOnly(file)) throw scriptError(EACCES, "is read-only", file);
+    if (::unlink(file.c_str()) != 0) throw scriptError(errno, "cannot be deleted", file);
+}
+
+} // namespace host

@@ -1,0 +1,99 @@
+#include "Host/system/processes.h"
+#include "Host/files/path_lookup.h"
+#include "Host/system/program.h"
+#include <chrono>
+#include <csignal>
+#include <filesystem>
+#include <sys/wait.h>
+
+namespace host {
+namespace {
+
+using WaitClock = std::chrono::steady_clock;
+
+constexpr std::int32_t kStillActive = 259;
+constexpr std::uint32_t kWaitFailed = 0xFFFFFFFF;
+constexpr auto kTimeToEnd = std::chrono::seconds(2);
+
+std::int32_t exitCodeOf(int state) {
+    constexpr int kEndedBySignal = 128;
+    return WIFEXITED(state) ? WEXITSTATUS(state) : kEndedBySignal + WTERMSIG(state);
+}
+
+/// Takes the signals that end us, and the news of a child's end, while it lives.
+class SignalWait {
+public:
+    SignalWait() {
+        ::sigemptyset(&taken_);
+        for (const int number : {SIGINT, SIGTERM, SIGHUP, SIGCHLD}) ::sigaddset(&taken_, number);
+        ::pthread_sigmask(SIG_BLOCK, &taken_, &before_);
+    }
+    SignalWait(const SignalWait&) = delete;
+    SignalWait& operator=(const SignalWait&) = delete;
+    ~SignalWait() {
+        ::pthread_sigmask(SIG_SETMASK, &before_, nullptr);
+        if (ending_ != 0) ::raise(ending_);
+    }
+
+    /// Until something happens: the number of a signal that ends us, else 0. Another thread may take the news of
+    /// the child, so that we look again after a moment anyway.
+    int next() {
+        constexpr struct timespec kMoment { 0, 50'000'000 };
+        const int number = ::sigtimedwait(&taken_, nullptr, &kMoment);
+        if (number <= 0 || number == SIGCHLD) return 0;
+        return ending_ = number;
+    }
+
+private:
+    sigset_t taken_, before_;
+    int ending_ = 0;
+};
+
+} // namespace
+
+bool Processes::CreateProcess(const std::string& commandLine, const std::string& workingFolder, int,
+                              std::uint32_t& process) {
+    process = 0;
+    std::error_code ignored;
+    const auto folder = PathLookup().find(std::filesystem::current_path(ignored).string(), workingFolder);
+    const auto program = findProgram(commandLine, folder, false);
+    if (!program || !mayRun_(commandLine, folder)) return false;
+    const auto id = startProgram(*program, folder);
+    if (id == 0) return false;
+    process = ++lastHandle_;
+    started_[process] = {id, 0, false};
+    return true;
+}
+
+void Processes::look(Started& at) {
+    int state = 0;
+    if (at.ended || ::waitpid(at.id, &state, WNOHANG) != at.id) return;
+    at.ended = true;
+    at.code = exitCodeOf(state);
+}
+
+std::uint32_t Processes::WaitForSingleObject(std::uint32_t process) {
+    const auto at = started_.find(process);
+    if (at == started_.end()) return kWaitFailed;
+    auto& child = at->second;
+    SignalWait signals;
+    auto killAt = WaitClock::time_point::max();
+    for (look(child); !child.ended; look(child)) {
+        if (const int ending = signals.next(); ending != 0) {
+            ::kill(-child.id, ending);
+            killAt = std::min(killAt, WaitClock::now() + kTimeToEnd);
+        }
+        if (WaitClock::now() >= killAt) ::kill(-child.id, SIGKILL);
+    }
+    return 0;
+}
+
+bool Processes::GetExitCodeProcess(std::uint32_t process, std::int32_t& code) {
+    const auto at = started_.find(process);
+    if (at == started_.end()) return false;
+    look(at->second);
+    code = at->second.ended ? at->second.code : kStillActive;
+    return true;
+}
+
+} // namespace host

@@ -1,0 +1,75 @@
+#include "Host/system/shell.h"
+#include "Basic/case_folding.h"
+#include "Host/files/system_error.h"
+#include "Host/system/home_folder.h"
+#include "Host/system/program.h"
+#include <algorithm>
+#include <cstdlib>
+#include <sys/wait.h>
+
+namespace host {
+namespace {
+
+constexpr std::string_view kHelpViewer = "Hh.exe ";
+
+bool isAddress(const std::string& document) {
+    return document.find("://") != document.npos || basic::startsWithNoCase(document, "mailto:");
+}
+
+bool hasDesktop() {
+    const auto isSet = [](const char* name) {
+        const auto* value = std::getenv(name);
+        return value && *value;
+    };
+    return isSet("DISPLAY") || isSet("WAYLAND_DISPLAY");
+}
+
+} // namespace
+
+void Shell::Start(const std::string& commandLine) {
+    if (basic::startsWithNoCase(commandLine, kHelpViewer))
+        return openHelp(std::string_view(commandLine).substr(kHelpViewer.size()));
+    if (!start(commandLine)) throw hostError(basic::kFileNotFound, commandLine + ": there is no such program");
+}
+
+void Shell::Open(const std::string& document) {
+    if (isAddress(document)) return show(document);
+    const auto path = files_.Canonical(document);
+    if (!files_.FileExists(path) && !files_.FolderExists(path))
+        throw hostError(basic::kFileNotFound, document + ": there is no such file or folder");
+    show(path);
+}
+
+void Shell::openHelp(std::string_view helpFile) {
+    std::string path(helpFile);
+    std::erase(path, '"');
+    const auto page = files_.BuildPath(files_.GetParentFolderName(path), files_.GetBaseName(path) + ".html");
+    Open(page);
+}
+
+void Shell::show(const std::string& document) {
+    const auto opener = findProgram("xdg-open", "/", false);
+    if (!opener || !hasDesktop()) return tell_(document);
+    auto program = *opener;
+    program.words.push_back(document);
+    forgetEnded();
+    if (const auto id = startProgram(program, homeFolder()); id != 0)
+        started_.push_back(id);
+    else
+        tell_(document);
+}
+
+bool Shell::start(const std::string& commandLine) {
+    forgetEnded();
+    const auto folder = files_.GetAbsolutePathName("");
+    const auto program = findProgram(commandLine, folder, true);
+    const auto id = program ? startProgram(*program, folder) : 0;
+    if (id != 0) started_.push_back(id);
+    return id != 0;
+}
+
+void Shell::forgetEnded() {
+    std::erase_if(started_, [](pid_t id) { return ::waitpid(id, nullptr, WNOHANG) != 0; });
+}
+
+} // namespace host

@@ -1,0 +1,40 @@
+#pragma once
+// Text files line by line, each byte a character of Windows-1252.
+#include "Add-in/platform/files.h"
+#include <string>
+#include <string_view>
+
+namespace host {
+
+class TextReader : public fernwick::TextStream {
+public:
+    explicit TextReader(std::string bytes) : bytes_(std::move(bytes)), rest_(bytes_) {}
+
+    bool AtEndOfStream() const override { return rest_.empty(); }
+    std::string ReadLine() override;
+    void WriteLine(const std::string& line) override;
+    void Close() override { rest_ = {}; }
+
+private:
+    std::string bytes_;
+    std::string_view rest_;
+};
+
+/// Keeps what is written until it is closed; then the file gets it all at once.
+class TextWriter : public fernwick::TextStream {
+public:
+    explicit TextWriter(std::string path) : path_(std::move(path)) {}
+    ~TextWriter() override;
+
+    bool AtEndOfStream() const override;
+    std::string ReadLine() override;
+    /// Error 5 for a character that Windows-1252 lacks; the line is then not written.
+    void WriteLine(const std::string& line) override;
+    void Close() override;
+
+private:
+    std::string path_, bytes_;
+    bool open_ = true;
+};
+
+} // namespace host
