@@ -8,7 +8,6 @@
 #include "tests/host_system/temp_folder.h"
 #include <chrono>
 #include <cstdlib>
-#include <fontconfig/fontconfig.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <thread>
