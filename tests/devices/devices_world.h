@@ -1,0 +1,130 @@
+#pragma once
+// Design targets, classes and type libraries as a test names them.
+#include "Add-in/devices/clsDeviceConfig.h"
+#include "Add-in/platform/pipes.h"
+#include "tests/support/scripted_user.h"
+#include "tests/support/traced_platform.h"
+
+namespace test {
+
+struct FakeTarget : designtargetaccess::IQLDesignTarget {
+    explicit FakeTarget(std::string k) : key(std::move(k)) {}
+    std::string key, platform = "Palm OS", name = "&Palm OS", pipe = "QLPipePalmOS";
+    std::string color = "16777215", fontSize = "12", width = "160", height = "160", fontName = "QLPalm", style = "1";
+    std::map<std::string, std::string> options;
+    std::vector<std::string> clsids, categories, references;
+
+    std::string Key() const override { return key; }
+    std::string PlatformName() const override { return platform; }
+    std::string Name() const override { return name; }
+    std::string RequiredPipeProgID() const override { return pipe; }
+    std::string DefaultFormColor() const override { return color; }
+    std::string DefaultFontSize() const override { return fontSize; }
+    std::string DefaultFormWidth() const override { return width; }
+    std::string DefaultFormHeight() const override { return height; }
+    std::string DefaultFontName() const override { return fontName; }
+    std::string TavletStyleID() const override { return style; }
+    bool GetOption(const std::string& option, std::string& value) const override {
+        if (!options.contains(option)) return false;
+        value = options.at(option);
+        return true;
+    }
+    void GetSupportedTavlets(std::vector<std::string>& ids, std::vector<std::string>&,
+                             std::vector<std::string>& groups) const override {
+        ids = clsids;
+        groups = categories;
+    }
+    std::int32_t NumSupportedTavlets() const override { return std::int32_t(clsids.size()); }
+    void GetSupportedReferences(std::vector<std::string>& guids) const override { guids = references; }
+    std::int32_t NumSupportedReferences() const override { return std::int32_t(references.size()); }
+    designtargetaccess::ReferenceValidity ValidateReference(const std::string&) const override { return {}; }
+    bool FindModule(const std::string&) const override { return false; }
+    bool IsTabStopOff(const std::string&) const override { return false; }
+    void GetPropertyDefaults(std::vector<std::string>&, std::vector<std::string>&) const override {}
+    std::int32_t NumPropertyDefaults() const override { return 0; }
+    std::string VBPTemplate() const override { return "/templates/" + key + ".vbp"; }
+    std::string FormTemplate() const override { return "/templates/" + key + ".frm"; }
+    std::string ModuleTemplate() const override { return "/templates/" + key + ".bas"; }
+    std::string ClassModuleTemplate() const override { return "/templates/" + key + ".cls"; }
+};
+
+struct FakeTargets : designtargetaccess::IQLDesignTargetMgr {
+    std::vector<basic::Ref<FakeTarget>> list;
+    int initialized = 0;
+
+    std::int32_t Count() const override { return std::int32_t(list.size()); }
+    void Initialize() override { ++initialized; }
+    bool GetDesignTarget(const std::string& key,
+                         basic::Ref<designtargetaccess::IQLDesignTarget>& target) const override {
+        for (const auto& candidate : list)
+            if (candidate && candidate->key == key) target = candidate;
+        return bool(target);
+    }
+    bool FindDesignTarget(const std::string& key, std::int32_t&) const override {
+        basic::Ref<designtargetaccess::IQLDesignTarget> target;
+        return GetDesignTarget(key, target);
+    }
+    basic::Ref<designtargetaccess::IQLDesignTarget> GetDesignTargetByIndex(std::int16_t index) const override {
+        return list.at(std::size_t(index));
+    }
+};
+
+struct FakeValidation : qlpipe::IQLPipeValidation {
+    explicit FakeValidation(bool s) : supported(s) {}
+    bool supported;
+    bool IsDeviceSupported(const std::string&) override { return supported; }
+};
+
+/// Classes with identifiers and libraries.
+struct RegisteredClasses : TracedClasses {
+    using TracedClasses::TracedClasses;
+    std::map<std::string, std::string> progIds;
+    std::map<std::string, fernwick::TypeLibInfo> libraries;
+
+    bool CLSIDFromString(const std::string& text, std::string& clsid) const override {
+        clsid = text;
+        return text.starts_with('{');
+    }
+    std::string ProgIDFromCLSID(const std::string& clsid) const override {
+        return progIds.contains(clsid) ? progIds.at(clsid) : "";
+    }
+    basic::Ref<fernwick::TypeLibInfo> TypeLibInfoFromFile(const std::string& path) const override {
+        if (!libraries.contains(path)) return nullptr;
+        return basic::make<fernwick::TypeLibInfo>(libraries.at(path));
+    }
+};
+
+class DevicesTest : public ::testing::Test {
+protected:
+    DevicesTest() {
+        manager_ = classes.RegisterClass("DesignTargetAccess.QLDesignTargetMgr", [this] { return targets; });
+        offerPipe("QLPipePalmOS", true);
+    }
+    ~DevicesTest() override { EXPECT_EQ(world.registry.openKeys(), 0U) << "a registry key stayed open"; }
+
+    void offerPipe(const std::string& pipe, bool supports) {
+        pipes_.push_back(
+            classes.RegisterClass(pipe + ".Validation", [supports] { return basic::make<FakeValidation>(supports); }));
+    }
+    basic::Ref<FakeTarget> addTarget(const std::string& key) {
+        targets->list.push_back(basic::make<FakeTarget>(key));
+        return targets->list.back();
+    }
+    void withoutManager() { manager_.reset(); }
+    const std::vector<std::string>& reports() const { return world.errors.seen; }
+
+    TracedPlatform world;
+    ScriptedUser user;
+    RegisteredClasses classes{world.trace};
+    basic::Ref<FakeTargets> targets = basic::make<FakeTargets>();
+    fernwick::modRegistry2 registry{world.registry};
+    fernwick::modAddinPrefsManagement prefs{registry, world.errors};
+    fernwick::modReferencesManagement references{registry, classes, world.errors};
+    fernwick::modDeviceManagement devices{classes, world.errors};
+
+private:
+    std::shared_ptr<void> manager_;
+    std::vector<std::shared_ptr<void>> pipes_;
+};
+
+} // namespace test
