@@ -8,11 +8,11 @@
 namespace host {
 namespace {
 
-constexpr std::string_view kLevel = "   ";
-constexpr std::string_view kCrLf = "\r\n";
+constexpr std::string_view kFormLevel = "   ";
+constexpr std::string_view kFormCrLf = "\r\n";
 constexpr std::size_t kKeyWidth = 16, kBooleanWidth = 4;
 
-std::string_view endOf(std::string_view wholeLine) { return wholeLine.substr(lineText(wholeLine).size()); }
+std::string_view endOfFormLine(std::string_view wholeLine) { return wholeLine.substr(lineText(wholeLine).size()); }
 
 /// Literal and comment as the designer writes them: Booleans stand in 4 columns, others before two blanks.
 std::string withComment(std::string_view literal, std::string_view comment) {
@@ -23,21 +23,21 @@ std::string withComment(std::string_view literal, std::string_view comment) {
     return out.append("'").append(comment);
 }
 
-std::string propertyText(std::string_view key, std::string_view literal, std::string_view comment) {
+std::string formPropertyText(std::string_view key, std::string_view literal, std::string_view comment) {
     return fmt::format("{:<{}}=   {}", key, kKeyWidth, withComment(literal, comment));
 }
 
-std::string blockText(std::string_view keyword, std::string_view first, std::string_view second) {
+std::string formBlockText(std::string_view keyword, std::string_view first, std::string_view second) {
     return fmt::format("{} {} {}{}", keyword, first, second, second.empty() ? "" : " ");
 }
 
 /// The line with another literal and comment in the same layout.
-std::string rewritten(std::string_view whole, const FormLine& parts, std::string_view literal,
-                      std::string_view comment) {
+std::string rewrittenLine(std::string_view whole, const FormLine& parts, std::string_view literal,
+                          std::string_view comment) {
     std::string out(parts.value.empty() ? whole.substr(0, whole.find('=') + 1)
                                         : whole.substr(0, std::size_t(parts.value.data() - whole.data())));
-    if (parts.value.empty()) out += kLevel;
-    return out.append(withComment(literal, comment)).append(endOf(whole));
+    if (parts.value.empty()) out += kFormLevel;
+    return out.append(withComment(literal, comment)).append(endOfFormLine(whole));
 }
 
 } // namespace
@@ -84,11 +84,11 @@ bool FormBlock::set(std::string_view key, std::string_view literal, std::string_
     if (item) {
         const auto parts = parseFormLine(item->line);
         if (parts.value == literal) return false;
-        item->line = rewritten(item->line, parts, literal, comment);
+        item->line = rewrittenLine(item->line, parts, literal, comment);
         return true;
     }
     auto added = std::make_unique<Item>();
-    added->line = newLine(propertyText(key, literal, comment));
+    added->line = newLine(formPropertyText(key, literal, comment));
     added->key = basic::foldCase(key);
     added->added = true;
     const auto at = placeFor(added->key);
@@ -142,7 +142,7 @@ bool FormBlock::renameResources(std::string_view oldFile, std::string_view newFi
         auto value = parsePropertyValue(parts.value);
         if (value.kind != PropertyValue::Kind::Resource || !basic::equalNoCase(value.resource.file, oldFile)) continue;
         value.resource.file = newFile;
-        item->line = rewritten(item->line, parts, resourceLiteral(value.resource), parts.comment);
+        item->line = rewrittenLine(item->line, parts, resourceLiteral(value.resource), parts.comment);
         changed = true;
     }
     return changed;
@@ -154,7 +154,7 @@ std::shared_ptr<FormBlock> FormBlock::properties(std::string_view name) const {
 }
 
 std::shared_ptr<FormBlock> FormBlock::addProperties(std::string_view name, std::string_view guid) {
-    auto block = std::make_shared<FormBlock>(Kind::Properties, newLine(blockText("BeginProperty", name, guid)));
+    auto block = std::make_shared<FormBlock>(Kind::Properties, newLine(formBlockText("BeginProperty", name, guid)));
     block->close(newLine("EndProperty"));
     auto item = std::make_unique<Item>();
     item->key = basic::foldCase(name);
@@ -173,7 +173,7 @@ FormBlock::Blocks FormBlock::objects() const {
 }
 
 std::shared_ptr<FormBlock> FormBlock::addObject(std::string_view type, std::string_view name) {
-    auto block = std::make_shared<FormBlock>(Kind::Object, newLine(blockText("Begin", type, name)));
+    auto block = std::make_shared<FormBlock>(Kind::Object, newLine(formBlockText("Begin", type, name)));
     block->close(newLine("End"));
     auto item = std::make_unique<Item>();
     item->block = block;
@@ -210,7 +210,7 @@ void FormBlock::insert(Items::iterator at, std::unique_ptr<Item> item) {
 /// A file that breaks off within this block has a last line without an end, behind which no line can stand.
 void FormBlock::ensureLineEnds() {
     const auto ended = [](std::string& line) {
-        if (!line.empty() && endOf(line).empty()) line += kCrLf;
+        if (!line.empty() && endOfFormLine(line).empty()) line += kFormCrLf;
     };
     ended(firstLine_);
     if (items_.empty()) return;
@@ -223,8 +223,8 @@ void FormBlock::ensureLineEnds() {
 }
 
 std::string FormBlock::newLine(std::string_view text) const {
-    const auto end = endOf(firstLine_).empty() ? kCrLf : endOf(firstLine_);
-    return fmt::format("{}{}{}{}", parseFormLine(firstLine_).indent, kLevel, text, end);
+    const auto end = endOfFormLine(firstLine_).empty() ? kFormCrLf : endOfFormLine(firstLine_);
+    return fmt::format("{}{}{}{}", parseFormLine(firstLine_).indent, kFormLevel, text, end);
 }
 
 void FormBlock::append(std::unique_ptr<Item> item) {

@@ -1,5 +1,6 @@
 #include "Host/files/form_file.h"
 #include "Basic/case_folding.h"
+#include "Host/files/encoding.h"
 #include "Host/files/form_line.h"
 #include "Host/files/property_value.h"
 #include "Host/files/text_file.h"
@@ -10,15 +11,14 @@ namespace {
 
 using LineKind = FormLine::Kind;
 
-constexpr std::string_view kAttribute = "Attribute";
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+constexpr std::string_view kAttributeWord = "Attribute";
 
 /// `Attribute Name = literal` taken apart, as a property line whose key begins behind the first word.
 FormLine attributeParts(std::string_view line) {
-    return beginsWithWord(line, kAttribute) ? parseFormLine(line.substr(kAttribute.size())) : FormLine{};
+    return beginsWithWord(line, kAttributeWord) ? parseFormLine(line.substr(kAttributeWord.size())) : FormLine{};
 }
 
-std::string joined(const std::vector<std::string>& lines) {
+std::string joinedFormLines(const std::vector<std::string>& lines) {
     std::string out;
     for (const auto& line : lines) out += line;
     return out;
@@ -48,7 +48,7 @@ private:
         ++line_;
         return takeWholeLine(rest_);
     }
-    static bool isAttribute(std::string_view line) { return beginsWithWord(line, kAttribute); }
+    static bool isAttribute(std::string_view line) { return beginsWithWord(line, kAttributeWord); }
 
     void problem(std::size_t line, std::string text) {
         if (file_.problems_.size() < FormFile::kMostProblems) file_.problems_.push_back({line, std::move(text)});
@@ -173,9 +173,9 @@ FormFile FormFile::parse(std::string_view text) {
 }
 
 std::string FormFile::head() const {
-    auto out = joined(before_);
+    auto out = joinedFormLines(before_);
     if (root_) root_->writeTo(out);
-    return out + joined(between_) + joined(attributes_);
+    return out + joinedFormLines(between_) + joinedFormLines(attributes_);
 }
 
 std::size_t FormFile::firstCodeLine() const {
@@ -230,7 +230,7 @@ bool FormFile::attribute(std::string_view name, std::string_view literal) {
         else
             attributes_.back() += end;
     }
-    attributes_.push_back(fmt::format("{} {} = {}{}", kAttribute, name, literal, end));
+    attributes_.push_back(fmt::format("{} {} = {}{}", kAttributeWord, name, literal, end));
     return true;
 }
 

@@ -9,9 +9,9 @@
 namespace host {
 namespace {
 
-constexpr std::string_view kName = "Name";
+constexpr std::string_view kNameProperty = "Name";
 
-bool isIdentifier(std::string_view name) {
+bool isControlName(std::string_view name) {
     const auto isLetter = [](char c) {
         return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || static_cast<unsigned char>(c) >= 0x80;
     };
@@ -36,8 +36,8 @@ bool BlockProperties::isShown(std::string_view) const { return true; }
 
 std::vector<std::string> BlockProperties::names() const {
     const auto state = live();
-    std::vector<std::string> out{std::string(kName)};
-    std::unordered_set<std::string> seen{basic::foldCase(kName)};
+    std::vector<std::string> out{std::string(kNameProperty)};
+    std::unordered_set<std::string> seen{basic::foldCase(kNameProperty)};
     const auto add = [&](std::string_view name) {
         if (isShown(name) && seen.insert(basic::foldCase(name)).second) out.emplace_back(name);
     };
@@ -49,7 +49,7 @@ std::vector<std::string> BlockProperties::names() const {
 std::string BlockProperties::spelling(const std::string& name) const {
     const auto state = live();
     if (!isShown(name)) return {};
-    if (basic::equalNoCase(name, kName)) return std::string(kName);
+    if (basic::equalNoCase(name, kNameProperty)) return std::string(kNameProperty);
     if (const auto* property = state->classOf(*block_).find(name)) return property->name;
     return block_->literal(name) || block_->properties(name) ? name : "";
 }
@@ -66,7 +66,7 @@ ClassProperty BlockProperties::describe(DesignerState& state, const std::string&
 
 vbide::Variant BlockProperties::value(const std::string& name) const {
     const auto state = live();
-    if (name == kName) return std::string(block_->name());
+    if (name == kNameProperty) return std::string(block_->name());
     const auto property = describe(*state, name);
     if (property.kind == PropertyKind::Font) return object(name)->Item("Name")->Value();
     if (property.kind == PropertyKind::Picture) return object(name)->Item("Handle")->Value();
@@ -83,7 +83,7 @@ vbide::Variant BlockProperties::plainValue(DesignerState& state, const ClassProp
 
 void BlockProperties::value(const std::string& name, const vbide::Variant& value) {
     const auto state = live();
-    if (name == kName) return rename(*state, fernwick::asText(value));
+    if (name == kNameProperty) return rename(*state, fernwick::asText(value));
     const auto property = describe(*state, name);
     if (property.kind == PropertyKind::Font) return object(name)->Item("Name")->Value(value);
     if (property.kind == PropertyKind::Picture) throw hostError(basic::kPropertyOrMethodNotSupported);
@@ -91,10 +91,12 @@ void BlockProperties::value(const std::string& name, const vbide::Variant& value
 }
 
 void BlockProperties::plainValue(DesignerState& state, const ClassProperty& property, const vbide::Variant& value) {
+    const auto now = plainValue(state, property);
+    if (value == now) return;
     const auto before = parsePropertyValue(block_->literal(property.name).value_or(property.fallback));
     const auto written = literalOfValue(property, value, before);
     const auto wanted = parsePropertyValue(written.literal);
-    if (valueOfLiteral(property, wanted, written.comment) == plainValue(state, property)) return;
+    if (valueOfLiteral(property, wanted, written.comment) == now) return;
     const bool saysNothing = !property.fallback.empty() &&
                              valueOfLiteral(property, wanted, written.comment) ==
                                  valueOfLiteral(property, parsePropertyValue(property.fallback), written.comment);
@@ -113,7 +115,7 @@ basic::Ref<vbide::Properties> BlockProperties::object(const std::string& name) c
 void BlockProperties::rename(DesignerState& state, const std::string& newName) {
     const std::string oldName(block_->name());
     if (newName == oldName) return;
-    if (!isIdentifier(newName)) throw hostError(basic::kInvalidPropertyValue);
+    if (!isControlName(newName)) throw hostError(basic::kInvalidPropertyValue);
     if (block_.get() == &state.root() && state.hooks.renameForm) return state.hooks.renameForm(newName);
     state.checkText(newName);
     const auto index = fernwick::asLong(plainValue(state, describe(state, "Index")));

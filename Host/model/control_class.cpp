@@ -5,7 +5,7 @@
 namespace host {
 namespace {
 
-std::string_view takeField(std::string_view& row, char separator) {
+std::string_view takeRowField(std::string_view& row, char separator) {
     const auto end = row.find(separator);
     const auto field = row.substr(0, end);
     row.remove_prefix(end == std::string_view::npos ? row.size() : end + 1);
@@ -15,16 +15,16 @@ std::string_view takeField(std::string_view& row, char separator) {
 /// A row is "Name kind fallback words", the words with "|" between them.
 ClassProperty propertyOfRow(std::string_view row) {
     ClassProperty property;
-    property.name = takeField(row, ' ');
-    property.kind = static_cast<PropertyKind>(takeField(row, ' ').front());
-    property.fallback = takeField(row, ' ');
-    while (!row.empty()) property.words.emplace_back(takeField(row, '|'));
+    property.name = takeRowField(row, ' ');
+    property.kind = static_cast<PropertyKind>(takeRowField(row, ' ').front());
+    property.fallback = takeRowField(row, ' ');
+    while (!row.empty()) property.words.emplace_back(takeRowField(row, '|'));
     return property;
 }
 
-void addRows(ControlClass& target, std::string_view rows) {
+void addClassRows(ControlClass& target, std::string_view rows) {
     while (!rows.empty())
-        if (const auto row = takeField(rows, '\n'); !row.empty()) target.properties.push_back(propertyOfRow(row));
+        if (const auto row = takeRowField(rows, '\n'); !row.empty()) target.properties.push_back(propertyOfRow(row));
 }
 
 } // namespace
@@ -45,7 +45,7 @@ std::shared_ptr<const ControlClass> builtInClass(std::string_view className) {
     const auto* rows = &kOtherClassRows;
     for (const auto& entry : kClassRows)
         if (basic::equalNoCase(entry.className, className)) rows = &entry.rows;
-    for (const auto part : *rows) addRows(*made, part);
+    for (const auto part : *rows) addClassRows(*made, part);
     return made;
 }
 

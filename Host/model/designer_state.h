@@ -37,6 +37,7 @@ struct ScaledLine {
 };
 struct ScaleChange {
     int from = -1, to = -1; ///< scale modes
+    std::string word;       ///< what stood behind the mode before
     std::vector<ScaledLine> lines;
 };
 

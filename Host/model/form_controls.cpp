@@ -27,7 +27,7 @@ std::string nameStem(const std::string& className) {
     return className;
 }
 
-std::string freeName(DesignerState& state, const std::string& stem) {
+std::string freeControlName(DesignerState& state, const std::string& stem) {
     for (int number = 1;; ++number) {
         auto name = stem + std::to_string(number);
         if (!state.controlNamed(name) && !basic::equalNoCase(name, state.root().name())) return name;
@@ -112,7 +112,7 @@ basic::Ref<vbide::VBControl> ControlsModel::Add(const std::string& progId) {
     if (type.find('.') == std::string::npos || type.find_first_of(" \t\r\n") != std::string::npos)
         throw hostError(basic::kCantCreateObject);
     state->checkText(type);
-    const auto block = state->root().addObject(type, freeName(*state, nameStem(classPart(type))));
+    const auto block = state->root().addObject(type, freeControlName(*state, nameStem(classPart(type))));
     const auto scale = FormGeometry(*state).scale();
     const auto tabIndex = nextTabIndex(*state);
     block->set("Height", singleLiteral(kNewHeight / scale.y));

@@ -12,13 +12,15 @@
 namespace host {
 namespace {
 
-constexpr int kUser = 0, kTwip = 1, kPoint = 2, kPixel = 3, kCharacter = 4, kInch = 5, kMillimetre = 6, kCentimetre = 7;
+constexpr int kUserScale = 0, kTwipScale = 1, kPointScale = 2, kPixelScale = 3, kCharacterScale = 4, kInchScale = 5,
+              kMillimetreScale = 6, kCentimetreScale = 7;
 
 constexpr int kTwipsPerPixel = 15;
 constexpr double kLargestTwips = 245745; // 16,383 pixels
 constexpr double kLargestUnits = 1e9;
 
-constexpr std::string_view kOwn[] = {"Left", "Top", "Width", "Height", "ScaleMode", "ScaleWidth", "ScaleHeight"};
+constexpr std::string_view kGeometryNames[] = {"Left",      "Top",        "Width",      "Height",
+                                               "ScaleMode", "ScaleWidth", "ScaleHeight"};
 constexpr std::string_view kClientLines[] = {"ClientLeft", "ClientTop", "ClientWidth", "ClientHeight"};
 constexpr std::string_view kAcross[] = {"Left", "Width", "X1", "X2"};
 constexpr std::string_view kDown[] = {"Top", "Height", "Y1", "Y2"};
@@ -27,7 +29,7 @@ constexpr std::string_view kDown[] = {"Top", "Height", "Y1", "Y2"};
 bool isPlace(const PropertyValue& value) { return value.isNumber() && std::abs(value.number) <= kLargestUnits; }
 
 template <std::size_t N>
-bool isOneOf(const std::string_view (&names)[N], std::string_view name) {
+bool isOneOfNames(const std::string_view (&names)[N], std::string_view name) {
     for (const auto candidate : names)
         if (basic::equalNoCase(candidate, name)) return true;
     return false;
@@ -35,8 +37,8 @@ bool isOneOf(const std::string_view (&names)[N], std::string_view name) {
 
 /// Whole twips; other units to the three decimals of the designer, inches to as many as twips need.
 std::string unitsLiteral(double value, int mode) {
-    if (mode == kTwip) return integerLiteral(std::llround(value));
-    auto text = fmt::format("{:.{}f}", value, mode == kInch ? 5 : 3);
+    if (mode == kTwipScale) return integerLiteral(std::llround(value));
+    auto text = fmt::format("{:.{}f}", value, mode == kInchScale ? 5 : 3);
     text.erase(text.find_last_not_of('0') + 1);
     if (text.back() == '.') text.pop_back();
     return text == "-0" ? "0" : text;
@@ -44,20 +46,20 @@ std::string unitsLiteral(double value, int mode) {
 
 TwipsPerUnit scaleOf(int mode) {
     switch (mode) {
-    case kPoint: return {20, 20};
-    case kPixel: return {kTwipsPerPixel, kTwipsPerPixel};
-    case kCharacter: return {120, 240};
-    case kInch: return {1440, 1440};
-    case kMillimetre: return {1440 / 25.4, 1440 / 25.4};
-    case kCentimetre: return {1440 / 2.54, 1440 / 2.54};
+    case kPointScale: return {20, 20};
+    case kPixelScale: return {kTwipsPerPixel, kTwipsPerPixel};
+    case kCharacterScale: return {120, 240};
+    case kInchScale: return {1440, 1440};
+    case kMillimetreScale: return {1440 / 25.4, 1440 / 25.4};
+    case kCentimetreScale: return {1440 / 2.54, 1440 / 2.54};
     default: return {1, 1};
     }
 }
 
 } // namespace
 
-bool FormGeometry::owns(std::string_view name) { return isOneOf(kOwn, name); }
-bool FormGeometry::isClientLine(std::string_view key) { return isOneOf(kClientLines, key); }
+bool FormGeometry::owns(std::string_view name) { return isOneOfNames(kGeometryNames, name); }
+bool FormGeometry::isClientLine(std::string_view key) { return isOneOfNames(kClientLines, key); }
 
 double FormGeometry::number(std::string_view key, double fallback) const {
     const auto literal = root_.literal(key);
@@ -80,13 +82,13 @@ FormGeometry::Frame FormGeometry::frame() const {
 }
 
 int FormGeometry::scaleMode() const {
-    const auto mode = number("ScaleMode", kTwip);
-    return mode >= kUser && mode <= kCentimetre ? int(mode) : kTwip;
+    const auto mode = number("ScaleMode", kTwipScale);
+    return mode >= kUserScale && mode <= kCentimetreScale ? int(mode) : kTwipScale;
 }
 
 TwipsPerUnit FormGeometry::scale() const {
     const auto mode = scaleMode();
-    if (mode != kUser) return scaleOf(mode);
+    if (mode != kUserScale) return scaleOf(mode);
     const auto perUnit = [&](std::string_view client, std::string_view units) {
         const auto twips = number(client, 0), size = number(units, twips);
         return twips > 0 && size != 0 ? twips / size : 1.0;
@@ -102,7 +104,7 @@ double FormGeometry::value(std::string_view name) const {
     if (basic::equalNoCase(name, "ScaleMode")) return scaleMode();
     const bool across = basic::equalNoCase(name, "ScaleWidth");
     const auto twips = number(across ? "ClientWidth" : "ClientHeight", 0);
-    if (scaleMode() == kUser) return number(name, twips);
+    if (scaleMode() == kUserScale) return number(name, twips);
     return twips / (across ? scale().x : scale().y);
 }
 
@@ -114,7 +116,7 @@ void FormGeometry::value(std::string_view name, double value) {
     if (basic::equalNoCase(name, "Width")) return setClient("ClientWidth", std::max(0.0, value - frame().width));
     if (basic::equalNoCase(name, "Height")) return setClient("ClientHeight", std::max(0.0, value - frame().height));
     if (basic::equalNoCase(name, "ScaleMode")) {
-        if (value < kUser || value > kCentimetre) throw hostError(basic::kInvalidPropertyValue);
+        if (value < kUserScale || value > kCentimetreScale) throw hostError(basic::kInvalidPropertyValue);
         return setScaleMode(int(std::nearbyint(value)));
     }
     setScaleSize(name, value);
@@ -134,7 +136,7 @@ void FormGeometry::setClient(std::string_view key, double twips) {
 
 void FormGeometry::writeScaleSizes() {
     const auto mode = scaleMode();
-    if (mode == kUser) return;
+    if (mode == kUserScale) return;
     for (const std::string_view key : {"ScaleWidth", "ScaleHeight"})
         if (root_.literal(key)) write(root_, key, unitsLiteral(value(key), mode));
 }
@@ -144,15 +146,16 @@ void FormGeometry::setScaleMode(int mode) {
     static constexpr std::string_view kWords[] = {"User",      "Twip", "Point",      "Pixel",
                                                   "Character", "Inch", "Millimeter", "Centimeter"};
     const auto before = scale();
-    ScaleChange change{scaleMode(), mode, scaledLines()};
+    ScaleChange change{scaleMode(), mode, root_.comment("ScaleMode"), scaledLines()};
     const auto back = std::exchange(state_.lastScaleChange, {});
-    if (mode == kTwip && root_.wasAdded("ScaleMode"))
+    const bool goesBack = back.from == change.to && back.to == change.from;
+    if (mode == kTwipScale && root_.wasAdded("ScaleMode"))
         state_.remove(root_, "ScaleMode");
     else
-        write(root_, "ScaleMode", integerLiteral(mode), kWords[mode]);
+        write(root_, "ScaleMode", integerLiteral(mode), goesBack ? std::string_view(back.word) : kWords[mode]);
     writeScaleSizes();
     rescaleControls(before);
-    if (back.from == change.to && back.to == change.from) putBack(back, change);
+    if (goesBack) putBack(back, change);
     for (auto& line : change.lines) line.after = line.block->literal(line.key).value_or("");
     state_.lastScaleChange = std::move(change);
 }
@@ -182,7 +185,7 @@ std::vector<ScaledLine> FormGeometry::scaledLines() const {
 void FormGeometry::setScaleSize(std::string_view key, double units) {
     if (units == 0 || std::abs(units) > kLargestUnits) throw hostError(basic::kInvalidPropertyValue);
     const auto before = scale();
-    write(root_, "ScaleMode", integerLiteral(kUser), "User");
+    write(root_, "ScaleMode", integerLiteral(kUserScale), "User");
     write(root_, key, singleLiteral(units));
     rescaleControls(before);
 }

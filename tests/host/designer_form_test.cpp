@@ -371,6 +371,13 @@ TEST_F(DesignerTest, AskingForTheSizeInPixelsLeavesNoTrace) {
     EXPECT_EQ(file->text(), original);
 }
 
+TEST_F(DesignerTest, AWordInAnotherLanguageComesBackToo) {
+    open(crLf("VERSION 5.00\nBegin VB.Form A \n   ClientWidth     =   300\n   ScaleMode       =   2  'Punkt\nEnd\n"));
+    set("ScaleMode", number(3));
+    set("ScaleMode", number(2));
+    EXPECT_EQ(file->text(), original);
+}
+
 TEST_F(DesignerTest, AFormOf3600TwipsBecomes2880AtTheOtherResolution) {
     open(kScreen);
     set("Width", number(3600));
