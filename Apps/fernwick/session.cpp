@@ -8,6 +8,8 @@ namespace cli {
 namespace {
 constexpr const char* kProgId = "QLVBAddIn.Connect";
 
+} // namespace
+
 int statusOfOpening(int number) {
     switch (number) {
     case basic::kFileNotFound:
@@ -18,7 +20,6 @@ int statusOfOpening(int number) {
     default: return kProjectErrors;
     }
 }
-} // namespace
 
 Session::Session(const Options& options, Console& console)
     : options_(options),
@@ -46,7 +47,9 @@ Session::Session(const Options& options, Console& console)
         console.err(fmt::format("fernwick: {} (error {})", error.Description, error.Number), Tone::Warning);
     };
     host_ = host::Host::create(std::move(hostOptions));
-    host_->listAddIn(kProgId, "Fernwick", [modules = modules_] { return fernwick::asAddIn(modules); });
+    // weak, for the add-in keeps the host from its connection on
+    host_->listAddIn(kProgId, "Fernwick",
+                     [modules = std::weak_ptr(modules_)] { return fernwick::asAddIn(modules.lock()); });
 }
 
 Session::~Session() {
@@ -89,7 +92,10 @@ void Session::requireFernwickProject() {
                                   path_));
 }
 
-void Session::takeUp() { settings_ = modules_->projects.AddToProjectsList(project_); }
+void Session::takeUp() {
+    modules_->addIn.gVBInstance = host_;
+    settings_ = modules_->projects.AddToProjectsList(project_);
+}
 
 void Session::forget() {
     settings_ = nullptr;
@@ -108,13 +114,15 @@ bool Session::isOpen() const {
     return std::any_of(open.begin(), open.end(), [this](const auto& project) { return project == project_; });
 }
 
-void Session::closeAndSave() {
+bool Session::closeAndSave() {
     if (isOpen() && settings_ && settings_->IsQuinloftProject() && settings_->ProjectVersion() != "1.0") {
         if (modules_->devices.IsValidDevice(settings_->TargetDevice()) && !project_->Saved())
             modules_->messages.SaveCompileErrorWindowState(project_);
         if (!project_->Saved()) settings_->SaveFiles();
     }
+    const bool saved = !isOpen() || project_->Saved();
     closeUnsaved();
+    return saved;
 }
 
 void Session::closeUnsaved() {

@@ -10,6 +10,9 @@
 
 namespace cli {
 
+/// The exit status for a project that can't be opened, by the number of the error.
+int statusOfOpening(int number);
+
 class Session {
 public:
     Session(const Options& options, Console& console);
@@ -27,7 +30,8 @@ public:
     /// Connects the add-in to the host, which takes up the project and gives it a device where it has none.
     void connect();
     /// As at a user's closing: stores the window state, saves the project's files and closes the host.
-    void closeAndSave();
+    /// False when the project's file could not be written.
+    bool closeAndSave();
     /// Closes without saving anything.
     void closeUnsaved();
 

@@ -14,7 +14,7 @@ PROGRAM = None  # path of fernwick, the first argument
 ROOT = pathlib.Path(__file__).resolve().parent.parent.parent
 SAMPLE = ROOT / "samples" / "HelloWorld"
 
-# The calls through which a save can end early. Others don't touch the project's folder.
+# The calls through which a save can end early.
 CALLS = ["openat", "write", "fsync", "rename,renameat,renameat2", "fchmod", "fchown", "unlink,unlinkat", "ftruncate"]
 SET = ["settings", "set", "HelloWorld.vbp", "DefaultFontName", "Swiss"]
 BUILD = ["build", "HelloWorld.vbp", "--yes"]
@@ -44,9 +44,7 @@ class Project:
     def run(self, arguments, inject=None):
         command = [PROGRAM, *arguments]
         if inject:
-            # -P limits the injection to calls that touch the project's folder
-            command = ["strace", "-f", "-qq", "-o", str(self.base / "trace"), "-P", str(self.folder),
-                       *[f"-P{p}" for p in self.folder.iterdir()], "-e", f"inject={inject}", *command]
+            command = ["strace", "-f", "-qq", "-o", str(self.base / "trace"), "-e", f"inject={inject}", *command]
         return subprocess.run(command, cwd=self.folder, env=self.environment, stdin=subprocess.DEVNULL,
                               capture_output=True, text=True, timeout=60)
 

@@ -4,7 +4,7 @@
 #include "Apps/fernwick/session.h"
 #include "Apps/fernwick/verbs/stored_messages.h"
 #include "Apps/fernwick/verbs/verbs.h"
-#include "Host/files/text_file.h"
+#include "Host/files/atomic_save.h"
 #include <fmt/format.h>
 
 namespace cli {
@@ -132,7 +132,11 @@ int build(Session& session, const Options& options, Console& console) {
     Report report = compileProject(session);
     warnOfLineFeeds(session, console);
     const auto inputs = inputsOf(session);
-    session.closeAndSave();
+    const bool readOnly = host::isReadOnly(session.path());
+    if (!session.closeAndSave() && !readOnly) {
+        report.failure = session.path() + " could not be saved";
+        report.exitStatus = kMachineTrouble;
+    }
     report.boxes = session.user().shown();
     if (!report.image.empty()) {
         stampImage(session, report.image);

@@ -125,13 +125,11 @@ int changeSettings(Session& session, const SettingOperands& operands, const Opti
     const bool isSet = options.action == "set";
     const int status =
         isSet ? setSetting(session, operands, options, console) : resetSettings(session, operands, options, console);
-    if (options.dryRun)
+    if (options.dryRun) {
         session.closeUnsaved();
-    else
-        session.closeAndSave();
-    for (const auto& box : session.user().shown())
-        if (box.title == "ERROR: Cannot save file!") return kMachineTrouble;
-    return status;
+        return status;
+    }
+    return session.closeAndSave() ? status : kMachineTrouble;
 }
 
 } // namespace
