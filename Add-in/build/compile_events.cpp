@@ -2,7 +2,7 @@
 #include "Add-in/build/build_texts.h"
 #include "Add-in/build/frmCompile.h"
 #include "Add-in/core/guids.h"
-#include "Basic/conversions.h"
+#include "Basic/number_text.h"
 #include "Basic/like.h"
 
 namespace fernwick {

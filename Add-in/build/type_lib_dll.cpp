@@ -1,6 +1,7 @@
 #include "Add-in/build/type_lib_dll.h"
 #include "Add-in/core/guids.h"
 #include "Basic/conversions.h"
+#include "Basic/number_text.h"
 #include "Basic/runtime_error.h"
 #include "Basic/text.h"
 #include <fmt/format.h>
