@@ -140,7 +140,7 @@ struct Argument {
     Symbol name = Symbol::None; ///< name:=value
     bool byVal = false;         ///< ByVal value, for parameters declared As Any
 };
-/// callee(arguments): a call or an element of an array; only the names tell which.
+/// pos is that of the callee. callee(arguments): a call or an element of an array; only the names tell which.
 struct IndexExpr : Expr {
     const Expr* callee;
     Span<Argument> arguments;

@@ -1,6 +1,8 @@
 #include "Components/QLToolkit/check.h"
 #include "Components/QLToolkit/parser.h"
+#include <cerrno>
 #include <charconv>
+#include <cstring>
 #include <filesystem>
 #include <fstream>
 
@@ -104,11 +106,11 @@ CheckResult checkSource(std::string name, std::string bytes, const ConditionalCo
 CheckResult checkFile(const std::string& path, const ConditionalConstants& constants, const basic::CodePage& page) {
     std::error_code error;
     const auto status = std::filesystem::status(path, error);
-    if (!std::filesystem::exists(status)) return failedCheck(Message::FileMissing, path);
-    if (std::filesystem::is_directory(status)) return failedCheck(Message::FileIsFolder, path);
+    if (!std::filesystem::exists(status)) return failedCheck(Message::FileMissing, path, path);
+    if (std::filesystem::is_directory(status)) return failedCheck(Message::FileIsFolder, path, path);
     if (fileKindOf(path) == FileKind::Unknown) return failedCheck(Message::FileKindUnknown, path);
     std::string bytes;
-    if (!readAll(path, bytes)) return failedCheck(Message::FileUnreadable, path);
+    if (!readAll(path, bytes)) return failedCheck(Message::FileUnreadable, path, std::strerror(errno));
     return checkSource(path, std::move(bytes), constants, page);
 }
 

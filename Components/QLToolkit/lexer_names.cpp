@@ -58,7 +58,7 @@ void Lexer::readSuffix(Token& token) {
     }
     token.suffix = c;
     if (token.kind == TokenKind::Keyword) token.kind = TokenKind::Identifier;
-    ++pos_;
+    token.end = ++pos_;
 }
 
 void Lexer::readBracketName(Token& token) {

@@ -10,12 +10,12 @@ using S = Severity;
 
 // number and severity, text, meaning, example, remedy
 constexpr MessageInfo kMessageTable[] = {
-    {M::FileMissing, S::Error, "The file does not exist: %1", "A file that was named is not there.",
+    {M::FileMissing, S::Error, "The file does not exist.", "A file that was named is not there.",
      "fernwick check Missing.bas",
      "Check the path. Where a project names the file, correct its line or put the file back."},
-    {M::FileUnreadable, S::Error, "The file cannot be read: %1", "The system refuses to read the file.",
+    {M::FileUnreadable, S::Error, "The file cannot be read.", "The system refuses to read the file.",
      "fernwick check Locked.bas", "Check the permissions of the file and whether its disk is in order."},
-    {M::FileIsFolder, S::Error, "This is a folder, not a source file: %1", "A folder was named where a file is wanted.",
+    {M::FileIsFolder, S::Error, "This is a folder, not a source file.", "A folder was named where a file is wanted.",
      "fernwick check Forms/", "Name the files in it, or the project file."},
     {M::FileTooLarge, S::Error, "The file is larger than 1 GB and was not read.",
      "No module of VB comes near this size.", "fernwick check Huge.bas",
@@ -23,7 +23,7 @@ constexpr MessageInfo kMessageTable[] = {
     {M::FileBinary, S::Error, "This is not text: the file holds binary data or UTF-16.",
      "Source files of VB are text in a Windows code page. The bytes of this file are not.",
      "fernwick check Program.bas", "Restore the file from a backup, or save it again as ANSI text."},
-    {M::FileNotVb, S::Error, "Not a VB file: a %1 file begins with a VERSION line.",
+    {M::FileNotVb, S::Error, "Not a VB file: it lacks the VERSION line with which such files begin.",
      "Forms, controls, property pages, designers and documents begin with a VERSION line; other programs use the same "
      "extensions for files of their own.",
      "fernwick check Loader.ctl", "Leave the file out, or restore the head that is missing."},

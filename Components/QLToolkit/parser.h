@@ -121,7 +121,7 @@ private:
 
     // Procedures
     void procedure(Visibility, bool isStatic, Pos);
-    ProcedureKind procedureKind();
+    void procedureKind(ProcedureKind&);
     void signature(Signature&);
     Span<Parameter> parameters(bool ofDeclare, bool lastIsValue = false);
     Parameter parameter(bool ofDeclare);

@@ -208,8 +208,7 @@ const Expr* Parser::postfix(const Expr* base, bool callee) {
             break;
         case TokenKind::LeftParen: {
             if (callee && lastName(base) == known_.print) return base; // Debug.Print (a); (b)
-            const Pos pos = tok_.begin;
-            base = make<IndexExpr>(exprHead(ExprKind::Index, pos), base, argumentsInParentheses());
+            base = make<IndexExpr>(exprHead(ExprKind::Index, base->pos), base, argumentsInParentheses());
             break;
         }
         default: return base;

@@ -62,7 +62,8 @@ void Parser::declaration() {
         else
             declarationAfter(Visibility::Default, tok_.begin);
     }
-    expectEndOfStatement();
+    if (!cutShort_) expectEndOfStatement();
+    cutShort_ = false;
 }
 
 void Parser::modifiedDeclaration() {
@@ -111,7 +112,8 @@ void Parser::strayStatement() {
 bool Parser::atPropertyHead() {
     if (!at(Keyword::Property)) return false;
     const Token after = lexer_.peek();
-    return after.is(Keyword::Get) || after.is(Keyword::Let) || after.is(Keyword::Set);
+    return after.is(Keyword::Get) || after.is(Keyword::Let) || after.is(Keyword::Set) ||
+           after.is(TokenKind::Identifier);
 }
 
 // Sub, Function or Property, with what may stand before them: these begin a procedure even inside another.

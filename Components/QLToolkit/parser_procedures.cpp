@@ -16,8 +16,10 @@ Keyword endWord(ProcedureKind kind) {
 void Parser::procedure(Visibility visibility, bool isStatic, Pos pos) {
     auto* p =
         make<ProcedureDecl>(declHead(DeclKind::Procedure, visibility, pos), Signature{}, isStatic, Block{}, Pos{0});
-    p->signature.kind = procedureKind();
-    head([&] { signature(p->signature); });
+    head([&] {
+        procedureKind(p->signature.kind);
+        signature(p->signature);
+    });
     addDeclaration(p);
     openBlock(BlockKind::Procedure, pos);
     try {
@@ -30,15 +32,14 @@ void Parser::procedure(Visibility visibility, bool isStatic, Pos pos) {
     endProcedure(*p);
 }
 
-// The token is Sub, Function or Property.
-ProcedureKind Parser::procedureKind() {
-    const bool isProperty = at(Keyword::Property), isSub = at(Keyword::Sub);
+// The token is Sub, Function or Property. `kind` is set at once, so that the End fits when the next word is missing.
+void Parser::procedureKind(ProcedureKind& kind) {
+    const bool isProperty = at(Keyword::Property);
+    kind = isProperty ? ProcedureKind::PropertyGet : at(Keyword::Sub) ? ProcedureKind::Sub : ProcedureKind::Function;
     advance();
-    if (!isProperty) return isSub ? ProcedureKind::Sub : ProcedureKind::Function;
-    if (accept(Keyword::Get)) return ProcedureKind::PropertyGet;
-    if (accept(Keyword::Let)) return ProcedureKind::PropertyLet;
-    expect(Keyword::Set, Message::PropertyKindExpected);
-    return ProcedureKind::PropertySet;
+    if (!isProperty || accept(Keyword::Get)) return;
+    kind = at(Keyword::Let) ? ProcedureKind::PropertyLet : ProcedureKind::PropertySet;
+    if (!accept(Keyword::Let)) expect(Keyword::Set, Message::PropertyKindExpected);
 }
 
 void Parser::signature(Signature& s) {
@@ -114,6 +115,7 @@ void Parser::endProcedure(ProcedureDecl& p) {
     const Token after = at(Keyword::End) ? lexer_.peek() : Token{};
     if (!after.isWord()) {
         if (unclosedAt_ != tok_.begin) report(Message::EndProcedureMissing, p.pos, spelling(wanted));
+        cutShort_ = true;
         return;
     }
     if (!after.is(wanted)) report(Message::EndProcedureWrong, tok_.begin, spelling(wanted));

@@ -230,6 +230,7 @@ bool Parser::atMemberListEnd(Keyword kind) {
 void Parser::endMemberList(Keyword kind, Message missing, Pos pos) {
     if (!at(Keyword::End) || !lexer_.peek().is(kind)) {
         report(missing, pos);
+        cutShort_ = true;
         return;
     }
     advance();

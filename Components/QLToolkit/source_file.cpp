@@ -82,7 +82,7 @@ void SourceFile::splitLines() {
         at = stop + 1;
         lineStarts_.push_back(at);
     }
-    if (lineStarts_.back() != size_ || lineStarts_.size() == 1) lineStarts_.push_back(size_);
+    if (lineStarts_.back() != size_) lineStarts_.push_back(size_);
 }
 
 std::string_view SourceFile::line(std::uint32_t number) const {
@@ -95,7 +95,7 @@ std::string_view SourceFile::line(std::uint32_t number) const {
 
 std::uint32_t SourceFile::lineOf(Pos at) const {
     const auto after = std::upper_bound(lineStarts_.begin(), lineStarts_.end() - 1, at);
-    return static_cast<std::uint32_t>(after - lineStarts_.begin());
+    return std::max<std::uint32_t>(1, static_cast<std::uint32_t>(after - lineStarts_.begin()));
 }
 
 Location SourceFile::locate(Pos at) const {
