@@ -9,6 +9,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 
 namespace host {
 
@@ -61,6 +62,8 @@ public:
     void changed() { dirty_ = true; }
     /// From now on every member raises an error, those of its designer too.
     void remove();
+    /// True for the first who asks: a removal is under way.
+    bool beginRemoval() { return !std::exchange(removing_, true); }
     bool hasDesigner() const;
     void openDesigner();
     /// True for this component's own designer; makes none.
@@ -77,7 +80,7 @@ private:
     std::string name_;
     SourceFile source_;
     ComponentOrigin origin_;
-    bool dirty_ = false;
+    bool dirty_ = false, removing_ = false;
     std::shared_ptr<ToolWindow> designerWindow_;
     std::shared_ptr<ModuleCode> code_;
     std::unique_ptr<FormDesigner> designer_; // made at first use

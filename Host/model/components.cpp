@@ -108,8 +108,9 @@ void Components::Remove(const vbide::Ref<vbide::VBComponent>& component) {
     const auto place = std::find(list_.begin(), list_.end(), own);
     if (!own || place == list_.end()) throw hostError(basic::kInvalidProcedureCall);
     const auto host = project->host();
+    if (!own->beginRemoval()) return; // a handler of its own event asks
     host->tell(project->componentsEvents->ItemRemoved, component);
-    if (std::erase(list_, own) == 0) return; // a handler removed it
+    std::erase(list_, own);
     byName_.erase(own->Name());
     project->dropMember(*own);
     project->changed();

@@ -13,21 +13,26 @@ namespace {
 
 enum WriteResult : int { kWritten = 0, kWriteCancelled = 1, kWriteFailed = 2 };
 
-/// What the host's own menus do. The host owns the menus.
-HostCommands commandsOf(Host& host) {
+/// What the host's own menus do. Somebody may hold a control longer than there is a host.
+HostCommands commandsOf(const std::weak_ptr<Host>& link) {
+    const auto command = [link](void (*run)(Host&)) {
+        return [link, run] {
+            if (const auto host = link.lock()) run(*host);
+        };
+    };
     HostCommands commands;
-    commands.newProject = [&host] { host.projects().addNew(); };
-    commands.openProject = [&host] {
+    commands.newProject = command([](Host& host) { host.projects().addNew(); });
+    commands.openProject = command([](Host& host) {
         const auto& ask = host.options().askForProject;
         const auto path = ask ? ask() : std::string();
         if (!path.empty()) host.projects().AddFromFile(path, false);
-    };
-    commands.saveProject = [&host] {
+    });
+    commands.saveProject = command([](Host& host) {
         if (const auto active = host.ActiveVBProject()) host.saveProject(active);
-    };
-    commands.removeProject = [&host] {
+    });
+    commands.removeProject = command([](Host& host) {
         if (const auto active = host.ActiveVBProject()) host.projects().Remove(active);
-    };
+    });
     return commands;
 }
 
@@ -35,8 +40,10 @@ HostCommands commandsOf(Host& host) {
 
 std::shared_ptr<Host> Host::create(HostOptions options) {
     std::shared_ptr<Host> host(new Host(std::move(options)));
-    host->bars_->handlerFailed = [raw = host.get()](const basic::ErrObject& error) { raw->handlerFailed(error); };
-    addHostMenus(*host->bars_, commandsOf(*host));
+    host->bars_->handlerFailed = [link = host->weak_from_this()](const basic::ErrObject& error) {
+        if (const auto alive = link.lock()) alive->handlerFailed(error);
+    };
+    addHostMenus(*host->bars_, commandsOf(host));
     return host;
 }
 

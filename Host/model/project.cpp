@@ -1,11 +1,12 @@
 #include "Host/model/project.h"
 #include "Basic/case_folding.h"
 #include "Host/files/atomic_save.h"
-#include "Host/files/encoding.h"
+#include "Host/files/library_reference.h"
 #include "Host/model/host.h"
 #include "Host/model/host_errors.h"
 #include "Host/model/project_references.h"
 #include <fmt/format.h>
+#include <functional>
 
 namespace host {
 namespace {
@@ -13,6 +14,27 @@ namespace {
 std::string baseNameOf(const std::string& path) {
     const auto name = path.substr(path.rfind('/') + 1);
     return name.substr(0, name.rfind('.'));
+}
+
+/// A path of another drive or without a folder of its own is no path from the project's folder.
+bool isRelativePath(const std::string& path) {
+    const bool fromDrive = path.size() > 1 && path[1] == ':';
+    return !path.empty() && !fromDrive && path.front() != '\\' && path.front() != '/';
+}
+
+/// A member line's value when the paths in it become what `moved` makes of them.
+std::string movedValue(const ProjectMember& member, const std::function<std::string(const std::string&)>& moved) {
+    if (member.kind == MemberKind::Object) {
+        auto line = parseObjectLine(member.value);
+        if (line.kind != LibraryReference::Kind::ControlProject) return member.value;
+        line.path = moved(line.path);
+        return formatReference(line);
+    }
+    if (member.kind != MemberKind::Reference) return moved(member.value);
+    auto line = parseReferenceLine(member.value);
+    if (line.kind == LibraryReference::Kind::Unknown || !isRelativePath(line.path)) return member.value;
+    line.path = moved(line.path);
+    return formatReference(line);
 }
 
 } // namespace
@@ -112,16 +134,15 @@ void Project::SaveAs(const std::string& path) {
         save(stamp_);
         return;
     }
-    const auto oldPath = std::exchange(path_, target);
-    const bool wasDirty = dirty_;
-    bool saved = false;
+    const auto oldPath = path_;
+    MovedLines oldLines;
     const auto goBack = [&] {
         path_ = oldPath;
-        relocateMembers();
-        dirty_ = wasDirty;
+        for (const auto& [line, text] : oldLines) line->text = text;
     };
+    bool saved = false;
     try {
-        relocateMembers();
+        moveTo(target, oldLines);
         saved = save({});
     } catch (const basic::RuntimeError&) {
         goBack();
@@ -143,10 +164,21 @@ std::string Project::memberPath(const std::string& path) const {
     return path_.empty() ? path : writtenPath(folder(), path);
 }
 
-/// The paths of member lines are relative to the project: they follow it to another folder.
-void Project::relocateMembers() {
-    for (const auto& component : components_->list())
-        if (component->member()) writeMember(*component);
+/// The paths of member lines are relative to the project: they follow it to another folder. Notes the lines as they were.
+void Project::moveTo(const std::string& path, MovedLines& oldLines) {
+    const auto oldFolder = folder();
+    const auto newFolder = path.substr(0, path.rfind('/'));
+    PathLookup lookup;
+    const auto moved = [&](const std::string& written) {
+        return writtenPath(newFolder, lookup.find(oldFolder, written));
+    };
+    if (oldFolder != newFolder)
+        for (const auto& [line, member] : file_->members()) {
+            if (oldFolder.empty() && !isComponentKind(member.kind)) continue; // relative to nothing yet
+            oldLines.emplace_back(line, line->text);
+            file_->setMember(line, member.name, movedValue(member, moved));
+        }
+    path_ = path;
 }
 
 void Project::writeMember(Component& component) {

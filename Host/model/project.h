@@ -10,6 +10,7 @@
 #include <optional>
 #include <string>
 #include <unordered_set>
+#include <utility>
 #include <vector>
 
 namespace host {
@@ -69,6 +70,8 @@ public:
 
     /// From now on every member raises an error.
     void close();
+    /// True for the first who asks: a removal is under way.
+    bool beginRemoval() { return !std::exchange(removing_, true); }
 
     const vbide::Ref<vbide::VBComponentsEvents> componentsEvents = basic::make<vbide::VBComponentsEvents>();
     const vbide::Ref<vbide::ReferencesEvents> referencesEvents = basic::make<vbide::ReferencesEvents>();
@@ -78,7 +81,8 @@ private:
     void loadMembers();
     void loadMember(const ProjectFile::Member& member, PathLookup& lookup, std::unordered_set<std::string>& seen);
     void problem(const std::string& file, std::size_t line, std::string text);
-    void relocateMembers();
+    using MovedLines = std::vector<std::pair<ProjectFile::Place, std::string>>;
+    void moveTo(const std::string& path, MovedLines& oldLines);
     bool save(const std::optional<FileStamp>& asRead);
 
     std::weak_ptr<Host> host_;
@@ -88,7 +92,7 @@ private:
     std::shared_ptr<Components> components_;
     std::shared_ptr<ProjectReferences> references_;
     std::vector<LoadProblem> problems_;
-    bool dirty_ = false;
+    bool dirty_ = false, removing_ = false;
 };
 
 } // namespace host

@@ -124,8 +124,9 @@ void Projects::Remove(const vbide::Ref<vbide::VBProject>& project) {
     const auto host = this->host();
     const auto own = basic::cast<Project>(project).shared();
     if (!own || !holds(project)) throw hostError(basic::kInvalidProcedureCall);
+    if (!own->beginRemoval()) return;                        // a handler of its own event asks
     host->tell(host->projectsEvents().ItemRemoved, project); // it still counts, and answers
-    if (std::erase(list_, own) == 0) return;                 // a handler removed it
+    std::erase(list_, own);
     const auto path = own->FileName();
     if (!path.empty()) host->tellFile(&vbide::FileControlEvents::AfterCloseFile, *own, path);
     host->forget(project);

@@ -1,0 +1,117 @@
+#include "Host/files/code_file.h"
+#include "Host/model/code_members.h"
+#include "tests/support/test_host.h"
+
+using test::errorOf;
+using test::SampleProject;
+using test::TestHost;
+using vbide::Member;
+
+namespace {
+
+host::CodeOutline outlineOfText(std::string_view code) {
+    return host::outlineOf({code, basic::CodePage::windows1252(), host::LineEnd::CrLf});
+}
+
+std::vector<std::string> memberNames(const host::CodeOutline& outline, Member::Type type) {
+    std::vector<std::string> names;
+    for (const auto& member : outline.members)
+        if (member.type == type) names.push_back(member.Name + "@" + std::to_string(member.CodeLocation));
+    return names;
+}
+
+using Names = std::vector<std::string>;
+
+} // namespace
+
+TEST(HostCode, LinesAreThoseOfTheCodeWindow) {
+    TestHost host;
+    const auto project = host.open(SampleProject().classModule(
+        "clsA", "Option Explicit\r\nPublic Sub A()\r\nAttribute A.VB_Description = \"x\"\r\nEnd Sub\r\n"));
+    const auto code = project->VBComponents()->Item(1)->CodeModule();
+    EXPECT_EQ(code->CountOfLines(), 3);
+    EXPECT_EQ(code->Lines(1, 3), "Option Explicit\r\nPublic Sub A()\r\nEnd Sub");
+    EXPECT_EQ(code->Lines(3, 0), "");
+    EXPECT_EQ(errorOf([&] { code->Lines(2, 3); }), 9);
+    EXPECT_EQ(errorOf([&] { code->Lines(0, 1); }), 9);
+    EXPECT_FALSE(project->VBComponents()->Item(1)->IsDirty());
+}
+
+TEST(HostCode, EditsChangeTheFileThereAlone) {
+    TestHost host;
+    const auto project = host.open(SampleProject().module("modA", "a\r\nb\nc"));
+    const auto component = project->VBComponents()->Item(1);
+    const auto code = component->CodeModule();
+    code->InsertLines(2, "x");
+    code->ReplaceLine(3, "B");
+    code->DeleteLines(4);
+    EXPECT_TRUE(component->IsDirty());
+    code->InsertLines(99, "end");
+    EXPECT_EQ(errorOf([&] { code->InsertLines(0, "x"); }), 9);
+    EXPECT_EQ(errorOf([&] { code->DeleteLines(4, 2); }), 9);
+    EXPECT_EQ(errorOf([&] { code->ReplaceLine(5, "x"); }), 9);
+    EXPECT_EQ(errorOf([&] { code->InsertLines(1, "日本"); }), 5);
+    component->SaveAs(component->FileNames(1));
+    EXPECT_EQ(host.folder.read("modA.bas"), test::moduleText("modA", "a\r\nx\r\nB\nend\r\n"));
+}
+
+TEST(HostCode, ListsWhatAModuleDeclares) {
+    const auto outline = outlineOfText("Option Explicit\r\n"
+                                       "Private a As Long, b(1 To 3, 2) As String, WithEvents c As Timer\r\n"
+                                       "Public Const kOne = 1, kTwo = \"a, b\" ' x, y\r\n"
+                                       "Public Event Changed(ByVal x As Long, y)\r\n"
+                                       "Private Declare Function GetTick Lib \"kernel32\" () As Long\r\n"
+                                       "Private Type Point\r\n    x As Long\r\nEnd Type\r\n"
+                                       "Public Enum Colour\r\n    Red\r\nEnd Enum\r\n"
+                                       "Dim late\r\n"
+                                       "\r\n"
+                                       "' about A\r\n"
+                                       "Public Sub A(ByVal x As Long, _\r\n    y)\r\n    Dim z\r\nEnd Sub\r\n"
+                                       "Friend Static Function F() As Long: F = 1: End Function\r\n"
+                                       "Property Get P() As Long\r\nEnd Property\r\n"
+                                       "Property Let P(v As Long)\r\nEnd Property\r\n");
+    EXPECT_EQ(memberNames(outline, Member::Variable), (Names{"a@2", "b@2", "c@2", "late@12"}));
+    EXPECT_EQ(memberNames(outline, Member::Const), (Names{"kOne@3", "kTwo@3"}));
+    EXPECT_EQ(memberNames(outline, Member::Event), (Names{"Changed@4"}));
+    EXPECT_EQ(memberNames(outline, Member::Method), (Names{"GetTick@5", "A@15", "F@19"}));
+    EXPECT_EQ(memberNames(outline, Member::Property), (Names{"P@20"}));
+    EXPECT_EQ(outline.declarationLines, 12);
+    ASSERT_EQ(outline.procedures.size(), 4u);
+    EXPECT_EQ(outline.procedures[0].start, 13);
+    EXPECT_EQ(outline.procedures[0].body, 15);
+    EXPECT_EQ(outline.procedures[0].end, 18);
+    EXPECT_EQ(outline.procedures[3].kind, vbide::vbext_pk_Let);
+}
+
+TEST(HostCode, FindsProceduresByNameAndKind) {
+    TestHost host;
+    const auto project = host.open(
+        SampleProject().module("modA", "Dim x\r\n\r\nSub A()\r\nEnd Sub\r\n' note\r\nSub B()\r\nEnd Sub\r\n"));
+    const auto code = project->VBComponents()->Item(1)->CodeModule();
+    EXPECT_EQ(code->CountOfDeclarationLines(), 1);
+    EXPECT_EQ(code->ProcStartLine("a", vbide::vbext_pk_Proc), 2);
+    EXPECT_EQ(code->ProcCountLines("A", vbide::vbext_pk_Proc), 3);
+    EXPECT_EQ(code->ProcStartLine("B", vbide::vbext_pk_Proc), 5);
+    EXPECT_EQ(errorOf([&] { code->ProcStartLine("A", vbide::vbext_pk_Get); }), 35);
+    code->InsertLines(1, "Option Explicit");
+    EXPECT_EQ(code->ProcStartLine("B", vbide::vbext_pk_Proc), 6);
+}
+
+TEST(HostCode, SurvivesCodeThatIsNone) {
+    for (const auto* text : {"", "Sub", "Property", "Public", "Private ,,", "Sub A(", "\"", "[", "Dim [", "Type X",
+                             "End Sub", "_", " _\r\n _", "Const"})
+        EXPECT_NO_THROW(outlineOfText(text)) << text;
+}
+
+TEST(HostCode, APaneRemembersItsSelection) {
+    TestHost host;
+    const auto pane =
+        host.open(SampleProject().module("modA", "a\r\n"))->VBComponents()->Item(1)->CodeModule()->CodePane();
+    EXPECT_FALSE(pane->Window()->Visible());
+    pane->Show();
+    pane->SetSelection(1, 2, 3, 4);
+    int startLine = 0, startColumn = 0, endLine = 0, endColumn = 0;
+    pane->GetSelection(startLine, startColumn, endLine, endColumn);
+    EXPECT_EQ((std::vector<int>{startLine, startColumn, endLine, endColumn}), (std::vector<int>{1, 2, 3, 4}));
+    EXPECT_TRUE(pane->Window()->Visible());
+}

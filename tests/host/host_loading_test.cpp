@@ -1,0 +1,204 @@
+#include "Host/model/project.h"
+#include "tests/support/test_host.h"
+#include <chrono>
+#include <sys/stat.h>
+
+using host::LoadProblem;
+using test::errorOf;
+using test::SampleProject;
+using test::TestHost;
+using namespace std::string_literals;
+
+namespace {
+
+std::string problemTexts(const TestHost& host) {
+    std::string texts;
+    for (const auto& [file, line, text] : host.ide->loadProblems())
+        texts += std::filesystem::path(file).filename().string() + ":" + std::to_string(line) + ": " + text + "\n";
+    return texts;
+}
+
+} // namespace
+
+TEST(HostLoading, AMissingMemberIsToldAndItsLineKept) {
+    TestHost host;
+    const auto sample = SampleProject().member("Form=Gone.frm").module("modMain");
+    const auto project = host.open(sample);
+    ASSERT_EQ(host.ide->loadProblems().size(), 1u);
+    const auto& problem = host.ide->loadProblems()[0];
+    EXPECT_EQ(problem.file, host.folder / "Hello.vbp");
+    EXPECT_EQ(problem.line, 2u);
+    EXPECT_NE(problem.text.find("Gone.frm"), std::string::npos);
+    EXPECT_EQ(project->VBComponents()->Count(), 1);
+    project->WriteProperty("A", "k", "v");
+    project->SaveAs(project->FileName());
+    EXPECT_NE(host.folder.read("Hello.vbp").find("Form=Gone.frm\r\n"), std::string::npos);
+}
+
+TEST(HostLoading, AMemberThatIsThereTwiceCountsOnce) {
+    TestHost host;
+    const auto project = host.open(SampleProject()
+                                       .module("a")
+                                       .member("Module=a; A.BAS")
+                                       .member("Module=b; other.bas", "other.bas", test::moduleText("a")));
+    EXPECT_EQ(project->VBComponents()->Count(), 1);
+    EXPECT_EQ(problemTexts(host), "Hello.vbp:3: A.BAS: is listed twice\n"
+                                  "Hello.vbp:4: other.bas: another component is named 'a' too\n");
+}
+
+TEST(HostLoading, AFolderForAMemberIsTold) {
+    TestHost host;
+    std::filesystem::create_directory(host.folder / "dir.bas");
+    const auto project = host.open(SampleProject().member("Module=d; dir.bas").module("ok"));
+    EXPECT_EQ(project->VBComponents()->Count(), 1);
+    EXPECT_NE(problemTexts(host).find("dir.bas"), std::string::npos);
+}
+
+TEST(HostLoading, WhatIsNoSourceIsReportedAndNeverRewritten) {
+    TestHost host;
+    const auto script = "LOAD DATA\nINFILE 'x.dat'\nINTO TABLE t\n"s;
+    std::string noise;
+    for (int i = 0; i < 1661; ++i) noise += char(i * 7919 >> 3);
+    const auto project = host.open(SampleProject()
+                                       .member("UserControl=loader.ctl", "loader.ctl", script)
+                                       .member("Class=noise; noise.cls", "noise.cls", noise)
+                                       .module("ok"));
+    EXPECT_EQ(project->VBComponents()->Count(), 1);
+    ASSERT_EQ(host.ide->loadProblems().size(), 2u);
+    EXPECT_NE(host.ide->loadProblems()[0].text.find("is not a Visual Basic source file"), std::string::npos);
+    host.ide->saveProject(project);
+    EXPECT_EQ(host.folder.read("loader.ctl"), script);
+    EXPECT_EQ(host.folder.read("noise.cls"), noise);
+}
+
+TEST(HostLoading, ATruncatedFormIsToldAndUsable) {
+    TestHost host;
+    const auto cut = "VERSION 5.00\r\nBegin VB.Form frmCut \r\n   Caption         =   \"x"s;
+    const auto project = host.open(SampleProject().member("Form=frmCut.frm", "frmCut.frm", cut));
+    EXPECT_EQ(project->VBComponents()->Count(), 1);
+    ASSERT_EQ(host.ide->loadProblems().size(), 1u);
+    EXPECT_EQ(host.ide->loadProblems()[0].file, host.folder / "frmCut.frm");
+    const auto form = project->VBComponents()->Item(1);
+    EXPECT_EQ(form->Name(), "frmCut");
+    form->SaveAs(form->FileNames(1));
+    EXPECT_EQ(host.folder.read("frmCut.frm"), cut);
+}
+
+TEST(HostLoading, TheNameInTheFileIsTheIdentity) {
+    TestHost host;
+    const auto project =
+        host.open(SampleProject()
+                      .member("Module=mCataloglIni; ini.bas", "ini.bas", test::moduleText("mCatalogIni"))
+                      .member("Module=bare; plain.bas", "plain.bas", "Sub Main()\r\nEnd Sub")
+                      .member("Form=nameless.frm", "nameless.frm", "VERSION 5.00\r\nBegin VB.Form x \r\nEnd\r\n"));
+    EXPECT_EQ(project->VBComponents()->Item(1)->Name(), "mCatalogIni");
+    EXPECT_EQ(project->VBComponents()->Item(2)->Name(), "bare");
+    EXPECT_EQ(project->VBComponents()->Item(3)->Name(), "nameless");
+    EXPECT_EQ(host.folder.read("Hello.vbp").find("mCatalogIni;"), std::string::npos);
+}
+
+TEST(HostLoading, FindsMembersWhoseLetterCaseDiffers) {
+    TestHost host;
+    host.folder.write("[Include]/Lib/modX.bas", test::moduleText("modX"));
+    const auto sample = SampleProject().member("Module=modX; [include]\\lib\\MODX.BAS");
+    const auto project = host.open(sample);
+    EXPECT_EQ(problemTexts(host), "");
+    EXPECT_EQ(project->VBComponents()->Item("MODx")->FileNames(1), host.folder / "[Include]/Lib/modX.bas");
+    project->SaveAs(project->FileName());
+    EXPECT_EQ(host.folder.read("Hello.vbp"), sample.text());
+}
+
+TEST(HostLoading, DecodesAMembersPathByTheProjectsCodePage) {
+    TestHost plain;
+    host::HostOptions options;
+    options.codePage = basic::CodePage(950);
+    const auto ide = host::Host::create(std::move(options));
+    plain.folder.write("課程/modA.bas", test::moduleText("modA"));
+    const auto written = basic::CodePage(950).encode("Type=Exe\r\nModule=modA; 課程\\modA.bas\r\n");
+    const auto project = ide->VBProjects()->AddFromFile(plain.folder.write("Big5.vbp", written));
+    EXPECT_EQ(project->VBComponents()->Count(), 1);
+    project->SaveAs(project->FileName());
+    EXPECT_EQ(plain.folder.read("Big5.vbp"), written);
+}
+
+TEST(HostLoading, SaysWhatIsNoProject) {
+    TestHost host;
+    const auto png = host.folder.write("picture.vbp", "\x89PNG\r\n\x1a\n\0\0"s);
+    EXPECT_EQ(errorOf([&] { host.openFile(host.folder / "none.vbp"); }), 53);
+    EXPECT_EQ(errorOf([&] { host.openFile(host.folder.path()); }), 75);
+    const auto error = basic::attempt([&] { host.openFile(png); });
+    EXPECT_EQ(error.Number, 321);
+    EXPECT_EQ(error.Description, png + ": is not a Visual Basic project file");
+    EXPECT_EQ(host.ide->VBProjects()->Count(), 0);
+}
+
+TEST(HostLoading, OpensTheProjectsOfAGroup) {
+    TestHost host;
+    SampleProject("Lib").module("modLib").writeTo(host.folder, "Lib");
+    SampleProject("Test").module("modTest").writeTo(host.folder, "Test");
+    const auto group = host.folder.write(
+        "All.vbg",
+        "VBGROUP 5.0\r\nProject=Lib\\Lib.vbp\r\nStartupProject=test\\TEST.vbp\r\nProject=gone\\Gone.vbp\r\n");
+    const auto project = host.openFile(group);
+    EXPECT_EQ(project->Name(), "Test");
+    EXPECT_EQ(host.ide->VBProjects()->Count(), 2);
+    EXPECT_EQ(host.ide->ActiveVBProject(), project);
+    ASSERT_EQ(host.ide->loadProblems().size(), 1u);
+    EXPECT_EQ(host.ide->loadProblems()[0].line, 4u);
+    EXPECT_EQ(host.ide->loadProblems()[0].file, group);
+}
+
+TEST(HostLoading, AGroupWithoutAProjectIsAnError) {
+    TestHost host;
+    EXPECT_EQ(errorOf([&] { host.openFile(host.folder.write("E.vbg", "VBGROUP 5.0\r\nProject=x.vbp\r\n")); }), 321);
+}
+
+TEST(HostLoading, AProjectOpensOnlyOnce) {
+    TestHost host;
+    const auto project = host.open(SampleProject());
+    EXPECT_EQ(errorOf([&] { host.openFile(project->FileName()); }), 55);
+    EXPECT_EQ(host.ide->VBProjects()->Count(), 1);
+}
+
+TEST(HostLoading, AnExclusiveOpeningClosesWhatIsOpenButOnlyForAFileThatIsThere) {
+    TestHost host;
+    const auto first = host.open(SampleProject("First"));
+    EXPECT_EQ(errorOf([&] { host.ide->VBProjects()->AddFromFile(host.folder / "none.vbp", true); }), 53);
+    EXPECT_EQ(host.ide->VBProjects()->Count(), 1);
+    const auto second = host.ide->VBProjects()->AddFromFile(SampleProject("Second").writeTo(host.folder), true);
+    EXPECT_EQ(host.ide->VBProjects()->Count(), 1);
+    EXPECT_EQ(host.ide->ActiveVBProject(), second);
+    EXPECT_EQ(errorOf([&] { first->Name(); }), 440);
+}
+
+TEST(HostLoading, ANewProjectFromATemplateHasNoFilesOfItsOwn) {
+    TestHost host;
+    const auto path = SampleProject("Template").form("frmT").handheld().writeTo(host.folder, "Template/Projects");
+    basic::Ref<vbide::VBProject> seen;
+    std::string whileAdded;
+    const auto added = host.ide->Events()->VBProjectsEvents()->ItemAdded.connect(
+        [&](basic::Ref<vbide::VBProject> project) { whileAdded = project->FileName(); });
+    const auto project = host.ide->VBProjects()->AddFromTemplate(path);
+    EXPECT_EQ(whileAdded, path);
+    EXPECT_EQ(project->FileName(), "");
+    EXPECT_TRUE(project->IsDirty());
+    EXPECT_EQ(project->VBComponents()->Item(1)->FileNames(1), "");
+    EXPECT_EQ(project->ReadProperty("Quinloft Global", "IsQuinloftProject"), "True");
+    const auto form = project->VBComponents()->Item(1);
+    form->SaveAs(host.folder / "frmT.frm");
+    project->SaveAs(host.folder / "Mine.vbp");
+    EXPECT_NE(host.folder.read("Mine.vbp").find("\r\nForm=frmT.frm\r\n"), std::string::npos);
+}
+
+TEST(HostLoading, ThreeThousandComponentsLoadQuickly) {
+    TestHost host;
+    SampleProject big("Big");
+    for (int i = 1; i <= 3000; ++i) big.module("mod" + std::to_string(i), "Option Explicit\r\n");
+    const auto path = big.writeTo(host.folder);
+    const auto start = std::chrono::steady_clock::now();
+    const auto project = host.openFile(path);
+    const auto took = std::chrono::steady_clock::now() - start;
+    EXPECT_EQ(project->VBComponents()->Count(), 3000);
+    EXPECT_LT(took, std::chrono::seconds(5)); // well below a second where nothing else runs
+    EXPECT_EQ(project->VBComponents()->Item("MOD2999")->CodeModule()->CountOfLines(), 1);
+}

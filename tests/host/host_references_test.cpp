@@ -1,0 +1,153 @@
+#include "Host/model/project.h"
+#include "tests/support/test_host.h"
+
+using test::errorOf;
+using test::SampleProject;
+using test::TestHost;
+
+namespace {
+
+constexpr auto kThing = "{11111111-2222-3333-4444-55555555AAAA}";
+constexpr auto kControls = "{1198F6AB-5766-4D4A-A1AF-CD9A25D2D2B4}";
+const auto kStdOleLine =
+    "Reference=*\\G{00020430-0000-0000-C000-000000000046}#2.0#0#..\\..\\System32\\stdole2.tlb#OLE Automation";
+
+/// Behind the three libraries of the language.
+constexpr int kFirstOwn = 4;
+
+basic::Ref<vbide::Reference> firstOwn(const basic::Ref<vbide::VBProject>& project) {
+    return project->References()->Item(kFirstOwn);
+}
+
+} // namespace
+
+TEST(HostReferences, TheLanguagesLibrariesComeFirst) {
+    TestHost host;
+    const auto references = host.open(SampleProject())->References();
+    ASSERT_EQ(references->Count(), 3);
+    std::vector<std::string> names;
+    for (const auto& reference : references->items()) {
+        names.push_back(reference->Name());
+        EXPECT_TRUE(reference->BuiltIn());
+        EXPECT_FALSE(reference->IsBroken());
+    }
+    EXPECT_EQ(names, (std::vector<std::string>{"VBA", "VBRUN", "VB"}));
+    EXPECT_EQ(errorOf([&] { references->Item(0); }), 9);
+    EXPECT_EQ(errorOf([&] { references->Item(4); }), 9);
+    EXPECT_EQ(errorOf([&] { references->Remove(references->Item(1)); }), 5);
+}
+
+TEST(HostReferences, TellWhatTheLinesSay) {
+    TestHost host;
+    const auto project =
+        host.open(SampleProject()
+                      .member(kStdOleLine)
+                      .member("Reference=*\\G{11111111-2222-3333-4444-55555555aaaa}#2e.1#0#lib\\thing.dll#A thing"));
+    const auto stdole = firstOwn(project);
+    EXPECT_EQ(stdole->Name(), "stdole");
+    EXPECT_FALSE(stdole->IsBroken());
+    EXPECT_FALSE(stdole->BuiltIn());
+    const auto thing = project->References()->Item(kFirstOwn + 1);
+    EXPECT_EQ(thing->Guid(), kThing);
+    EXPECT_EQ(thing->Major(), 0x2e);
+    EXPECT_EQ(thing->Minor(), 1);
+    EXPECT_EQ(thing->FullPath(), host.folder / "lib/thing.dll");
+    EXPECT_EQ(thing->Description(), "A thing");
+    EXPECT_TRUE(thing->IsBroken());
+    host.folder.write("lib/thing.dll", "");
+    EXPECT_FALSE(thing->IsBroken());
+}
+
+TEST(HostReferences, ARegisteredLibraryIsNotBrokenAndTellsItsRealPath) {
+    TestHost host;
+    host.registerLibrary(kThing, "/opt/thing.dll", "A thing");
+    const auto thing =
+        firstOwn(host.open(SampleProject().member(std::string("Reference=*\\G") + kThing + "#1.0#0#gone.dll#")));
+    EXPECT_FALSE(thing->IsBroken());
+    EXPECT_EQ(thing->FullPath(), "/opt/thing.dll");
+}
+
+TEST(HostReferences, AnObjectLineShowsItsCachedDescription) {
+    TestHost host;
+    const auto project = host.open(SampleProject()
+                                       .member("Object={831FDD16-0C5C-11D2-A9FC-0000F8754DA1}#2.0#0; MSCOMCTL.OCX")
+                                       .member("Object=Some.Document.8; SOMEAPP.EXE")
+                                       .member("Reference=*\\A..\\Other\\Other.vbp"));
+    ASSERT_EQ(project->References()->Count(), kFirstOwn + 1);
+    EXPECT_EQ(firstOwn(project)->FullPath(), host.folder / "MSCOMCTL.oca");
+    const auto other = project->References()->Item(kFirstOwn + 1);
+    EXPECT_EQ(other->Guid(), "");
+    EXPECT_EQ(other->Name(), "Other");
+    EXPECT_TRUE(other->IsBroken());
+}
+
+TEST(HostReferences, AddingByGuidWritesALineOnce) {
+    TestHost host;
+    host.registerLibrary(kThing, host.folder / "thing.dll", "A thing");
+    const auto project = host.open(SampleProject().form("frmA"));
+    int told = 0;
+    const auto added = host.ide->Events()->ReferencesEvents(project)->ItemAdded.connect([&](auto) { ++told; });
+    const auto reference = project->References()->AddFromGuid("{11111111-2222-3333-4444-55555555aaaa}", 1, 0);
+    EXPECT_EQ(project->References()->AddFromGuid(kThing, 1, 0), reference);
+    EXPECT_EQ(told, 1);
+    EXPECT_EQ(reference->Guid(), kThing);
+    EXPECT_TRUE(project->IsDirty());
+    project->SaveAs(project->FileName());
+    EXPECT_NE(
+        host.folder.read("Hello.vbp")
+            .find(std::string("Form=frmA.frm\r\nReference=*\\G") + kThing + "#1.0#0#thing.dll#A thing\r\nStartup"),
+        std::string::npos)
+        << host.folder.read("Hello.vbp");
+}
+
+TEST(HostReferences, AddingWhatIsNotRegisteredIsAnError) {
+    TestHost host;
+    const auto project = host.open(SampleProject());
+    EXPECT_EQ(errorOf([&] { project->References()->AddFromGuid(kThing, 1, 0); }), -2147319779);
+    EXPECT_EQ(errorOf([&] { project->References()->AddFromGuid("nonsense", 1, 0); }), 5);
+    EXPECT_EQ(errorOf([&] { project->References()->AddFromFile(host.folder / "none.dll"); }), 53);
+    EXPECT_EQ(errorOf([&] { project->References()->AddFromFile(host.folder.write("x.dll", "")); }), 48);
+    EXPECT_FALSE(project->IsDirty());
+}
+
+TEST(HostReferences, AProjectCanBeReferredTo) {
+    TestHost host;
+    host.folder.write("Other.vbp", "Type=Exe\r\n");
+    const auto project = host.open(SampleProject());
+    EXPECT_FALSE(project->References()->AddFromFile(host.folder / "Other.vbp")->IsBroken());
+    project->SaveAs(project->FileName());
+    EXPECT_NE(host.folder.read("Hello.vbp").find("Reference=*\\AOther.vbp\r\n"), std::string::npos);
+}
+
+TEST(HostReferences, ARemovedOneLeavesTheFile) {
+    TestHost host;
+    const auto project = host.open(SampleProject().member(kStdOleLine));
+    const auto stdole = firstOwn(project);
+    std::string told;
+    const auto removed =
+        host.ide->Events()->ReferencesEvents(project)->ItemRemoved.connect([&](auto r) { told = r->Name(); });
+    project->References()->Remove(stdole);
+    EXPECT_EQ(told, "stdole");
+    EXPECT_EQ(errorOf([&] { stdole->Name(); }), 440);
+    project->SaveAs(project->FileName());
+    EXPECT_EQ(host.folder.read("Hello.vbp"), SampleProject().text());
+}
+
+TEST(HostReferences, TheToolboxTakesALibraryOnce) {
+    TestHost host;
+    host.registerLibrary(kControls, "/inst/tavlets/Tavlets.dll", "Fernwick Tavlets");
+    for (const auto* name : {"Tavlets.QLLabel", "Tavlets.QLList"}) {
+        host.registerText(std::string(name) + "\\CLSID", "{ACF541CF-87F2-40A2-BEB1-628C6676A32D}");
+        host.registerText("CLSID\\{ACF541CF-87F2-40A2-BEB1-628C6676A32D}\\TypeLib", kControls);
+    }
+    const auto project = host.open(SampleProject());
+    project->AddToolboxProgID("Tavlets.QLLabel");
+    project->AddToolboxProgID("Tavlets.QLList");
+    EXPECT_EQ(errorOf([&] { project->AddToolboxProgID("None.Such"); }), 429);
+    EXPECT_EQ(firstOwn(project)->FullPath(), "/inst/tavlets/Tavlets.oca");
+    project->SaveAs(project->FileName());
+    const auto text = host.folder.read("Hello.vbp");
+    const auto line = std::string("Object=") + kControls + "#1.0#0; Tavlets.dll\r\n";
+    EXPECT_EQ(text.find(line), text.rfind("Object="));
+    EXPECT_NE(text.find(line), std::string::npos) << text;
+}
