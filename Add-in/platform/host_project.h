@@ -46,7 +46,7 @@ public:
     virtual Ref<Properties> ObjectValue() const = 0;
 };
 
-/// Properties by name, letter case ignored. Error 5 for a name that the object doesn't have.
+/// Properties by name, letter case ignored. Error 9 for a name that the object doesn't have.
 class Properties : public Object {
 public:
     virtual int Count() const = 0;
@@ -58,8 +58,9 @@ public:
 /// One control of a form designer.
 class VBControl : public Object {
 public:
-    /// The class as the form's text names it: library, "." and class ("VB.TextBox").
+    /// The class without its library ("TextBox").
     virtual std::string ClassName() const = 0;
+    /// The class as the form's text names it: library, "." and class ("VB.TextBox").
     virtual std::string ProgId() const = 0;
     virtual Ref<vbide::Properties> Properties() const = 0;
     /// The controls that lie directly inside this one.

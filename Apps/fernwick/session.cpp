@@ -1,7 +1,11 @@
 #include "Apps/fernwick/session.h"
 #include "Add-in/lifecycle/frmDesignTargetNormal.h"
 #include "Apps/fernwick/exit_status.h"
+#include "Apps/fernwick/plural.h"
+#include "Host/files/path_lookup.h"
+#include "Host/model/project.h"
 #include <fmt/format.h>
+#include <unordered_set>
 
 namespace cli {
 
@@ -21,6 +25,10 @@ int statusOfOpening(int number) {
     }
 }
 
+std::string withFile(const std::string& path, const std::string& description) {
+    return description.rfind(path + ":", 0) == 0 ? description : path + ": " + description;
+}
+
 Session::Session(const Options& options, Console& console)
     : options_(options),
       console_(console),
@@ -30,7 +38,7 @@ Session::Session(const Options& options, Console& console)
                [this](const std::string& commandLine, const std::string& folder) {
                    return trust_.mayRun(commandLine, folder);
                }),
-      modules_(std::make_shared<fernwick::Modules>(machine_.platform())) {
+      controls_(machine_.installation()), modules_(std::make_shared<fernwick::Modules>(machine_.platform())) {
     auto& context = user_.context();
     context.device = options.device;
     context.hostHasUnsaved = [this] { return hasUnsavedComponents(); };
@@ -43,6 +51,8 @@ Session::Session(const Options& options, Console& console)
     hostOptions.templatePath = machine_.installation().empty() ? "" : machine_.installation() + "/Template";
     hostOptions.registry = &machine_.registry();
     hostOptions.classes = &machine_.classes();
+    hostOptions.controlClasses = [this](const std::string& name) { return controls_.find(name); };
+    hostOptions.classOfProgId = [this](const std::string& progId) { return controls_.classOfProgId(progId); };
     hostOptions.handlerFailed = [&console](const basic::ErrObject& error) {
         console.err(fmt::format("fernwick: {} (error {})", error.Description, error.Number), Tone::Warning);
     };
@@ -59,16 +69,36 @@ Session::~Session() {
 
 void Session::open(const std::string& path) {
     path_ = machine_.platform().files.GetAbsolutePathName(path);
+    if (machine_.platform().files.FolderExists(path_))
+        throw Refusal(kWrongUse, fmt::format("{}: is a folder; name the project file in it", path));
     const auto err = basic::attempt([&] { project_ = host_->VBProjects()->AddFromFile(path_); });
-    if (err.Number != 0) throw Refusal(statusOfOpening(err.Number), fmt::format("{}: {}", path, err.Description));
+    if (err.Number != 0) throw Refusal(statusOfOpening(err.Number), withFile(path_, err.Description));
     tellProblems();
 }
 
 void Session::tellProblems() {
-    for (const auto& problem : host_->loadProblems())
-        console_.err(problem.line > 0 ? fmt::format("{}:{}: warning: {}", problem.file, problem.line, problem.text)
-                                      : fmt::format("{}: warning: {}", problem.file, problem.text),
-                     Tone::Warning);
+    for (const auto& problem : host_->loadProblems()) {
+        const auto place = problem.line > 0 ? fmt::format("{}:{}", problem.file, problem.line) : problem.file;
+        const auto prefix = problem.file + ": ";
+        const auto text = problem.text.rfind(prefix, 0) == 0 ? problem.text.substr(prefix.size()) : problem.text;
+        console_.err(fmt::format("{}: warning: {}", place, text), Tone::Warning);
+    }
+}
+
+void Session::requireAllMembers() {
+    const auto own = basic::cast<host::Project>(project_);
+    if (!own) return;
+    std::unordered_set<std::string> loaded;
+    for (const auto& component : project_->VBComponents()->items()) loaded.insert(component->FileNames(1));
+    host::PathLookup lookup;
+    std::size_t unusable = 0;
+    for (const auto& member : own->file().members()) {
+        if (!host::isComponentKind(member.content.kind)) continue;
+        if (loaded.count(lookup.find(own->folder(), member.content.value)) == 0) ++unusable;
+    }
+    if (unusable > 0)
+        throw Refusal(kProjectErrors, fmt::format("{}: {} of the project can't be used; see above", path_,
+                                                  plural(unusable, "source file")));
 }
 
 void Session::requireFernwickProject() {

@@ -1,6 +1,7 @@
 #pragma once
 // One open project at the command line: the host, the add-in, and how both end.
 #include "Add-in/core/connect/Modules.h"
+#include "Apps/fernwick/installed_controls.h"
 #include "Apps/fernwick/machine.h"
 #include "Apps/fernwick/options.h"
 #include "Apps/fernwick/refusal.h"
@@ -12,6 +13,8 @@ namespace cli {
 
 /// The exit status for a project that can't be opened, by the number of the error.
 int statusOfOpening(int number);
+/// The description of an error with the file in front, where it isn't there already.
+std::string withFile(const std::string& path, const std::string& description);
 
 class Session {
 public:
@@ -23,6 +26,9 @@ public:
     void open(const std::string& path);
     /// Refusal 1 for a project that is not a Fernwick project, or one of an older version.
     void requireFernwickProject();
+    /// Refusal 1 for a project that lists a source file which is missing, unreadable or has another's name: what would
+    /// come of the rest is not the project.
+    void requireAllMembers();
     /// Lists the project with the add-in without connecting it: enough to read and write settings.
     void takeUp();
     /// Takes the project off the add-in's list again: connecting lists it anew.
@@ -56,6 +62,7 @@ private:
     CommandLineUser user_;
     StepsTrust trust_;
     Machine machine_;
+    InstalledControls controls_;
     std::shared_ptr<fernwick::Modules> modules_;
     std::shared_ptr<host::Host> host_;
     std::string path_;

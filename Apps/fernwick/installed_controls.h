@@ -1,0 +1,25 @@
+#pragma once
+// The device controls of the installation, as form designers need them.
+#include "Host/model/described_classes.h"
+#include <optional>
+#include <string>
+
+namespace cli {
+
+/// Reads the descriptions when the first control is asked for.
+class InstalledControls {
+public:
+    explicit InstalledControls(std::string installation) : installation_(std::move(installation)) {}
+
+    /// Null for a class that the installation doesn't describe.
+    std::shared_ptr<const host::ControlClass> find(const std::string& className) { return described().find(className); }
+    std::string classOfProgId(const std::string& progId) { return described().classOfProgId(progId); }
+
+private:
+    const host::DescribedClasses& described();
+
+    std::string installation_;
+    std::optional<host::DescribedClasses> described_;
+};
+
+} // namespace cli
