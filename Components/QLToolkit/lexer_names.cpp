@@ -10,7 +10,7 @@ void Lexer::readName(Token& token, const char* p) {
     token.bracketed = false;
     token.foreign = false;
     token.suffix = 0;
-    if (charIs(*p, kForeign)) return readForeignName(token, p);
+    if (charIs(*p, kForeign) && !isWideBlank(codePage_, p)) return readForeignName(token, p);
     token.end = pos_ = static_cast<Pos>(p - base_);
     token.keyword = keywordOf(base_ + token.begin, token.end - token.begin);
     token.kind = token.keyword == Keyword::None ? TokenKind::Identifier : TokenKind::Keyword;

@@ -35,6 +35,7 @@ private:
     struct OpenBlock {
         BlockKind kind;
         Pos pos;
+        bool doubtful; // an error in its head leaves open whether it is a block at all
     };
     /// One level deeper for the life of the object.
     class Nesting {
@@ -132,7 +133,7 @@ private:
 
     // Blocks
     Block block(BlockKind);
-    void openBlock(BlockKind, Pos);
+    void openBlock(BlockKind, Pos, bool doubtful = false);
     void closeBlock();
     [[nodiscard]] bool endsBlock(BlockKind);
     [[nodiscard]] bool closedBy(BlockKind inner, BlockKind wanted, Message stray);

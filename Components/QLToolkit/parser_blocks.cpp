@@ -15,12 +15,12 @@ constexpr Message unclosedMessage(int blockKind) {
 
 } // namespace
 
-void Parser::openBlock(BlockKind kind, Pos pos) {
+void Parser::openBlock(BlockKind kind, Pos pos, bool doubtful) {
     if (statementDepth_ > kMaxDepth || blocks_.size() > kMaxDepth) {
         report(Message::BlocksTooDeep, pos);
         throw ProcedureAbandoned{};
     }
-    blocks_.push_back({kind, pos});
+    blocks_.push_back({kind, pos, doubtful});
     ++openCount_[static_cast<std::size_t>(kind)];
 }
 
@@ -136,7 +136,7 @@ bool Parser::unclosed() {
     if (unclosedAt_ != tok_.begin) {
         unclosedAt_ = tok_.begin;
         const auto& open = blocks_.back();
-        report(unclosedMessage(static_cast<int>(open.kind)), open.pos);
+        if (!open.doubtful) report(unclosedMessage(static_cast<int>(open.kind)), open.pos);
     }
     return true;
 }
@@ -214,7 +214,7 @@ Block Parser::singleLineBody() {
 Stmt* Parser::blockIf(Pos pos, const Expr* test) {
     const Nesting nesting{statementDepth_};
     ListBuilder<IfBranch> branches{scratch_.ifBranches};
-    openBlock(BlockKind::If, pos);
+    openBlock(BlockKind::If, pos, test == nullptr);
     const Block body = block(BlockKind::If);
     branches.add({test, body, pos});
     for (bool seenElse = false; at(Keyword::Else) || at(Keyword::ElseIf);) elseBranch(branches, seenElse);

@@ -88,6 +88,7 @@ TEST(ParseBlocks, HeadsWithErrorsStillOpenTheirBlocks) {
                   {"If a\nx = 1\nEnd If", "2:5 1502"},
                   {"If a b Then\nx = 1\nEnd If", "2:6 1502"},
                   {"If (a Then x = 1", "2:7 1801"},
+                  {"If a\nx = 1", "2:5 1502"},
                   {"For i = 1 Two 5\nx\nNext i", "2:11 1523"},
                   {"For i 1 To 5\nNext", "2:7 1522"},
                   {"For Each x On y\nNext", "2:12 1524"},

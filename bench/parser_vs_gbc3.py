@@ -1,0 +1,128 @@
+"""Writes modules of equal structure in both languages, measures both compilers in turn, prints the ratios."""
+import json
+import pathlib
+import statistics
+import subprocess
+import sys
+import time
+
+MODULES, PROCEDURES, RUNS = 40, 250, 7
+
+VB = """Public Function Work{n}(ByVal first As Long, ByVal second As Long) As Long
+    Dim i As Long, total As Long
+    Dim text As String
+    total = first * 2 + second
+    For i = 1 To 10
+        If total > second And i < 8 Then
+            text = text & "item " & CStr(i)
+            total = total + (i * first - second) \\ 3
+        ElseIf total = 0 Then
+            text = ""
+        Else
+            total = total - 1
+        End If
+    Next
+    Select Case total
+        Case 1, 2
+            total = Len(text)
+        Case Else
+            total = Abs(total) + 1
+    End Select
+    While total > 100
+        total = total - first  ' towards the limit
+    Wend
+    Work{n} = total
+End Function
+
+"""
+
+GAMBAS = """Public Function Work{n}(first As Integer, second As Integer) As Integer
+    Dim i As Integer, total As Integer
+    Dim text As String
+    total = first * 2 + second
+    For i = 1 To 10
+        If total > second And i < 8 Then
+            text = text & "item " & CStr(i)
+            total = total + (i * first - second) \\ 3
+        Else If total = 0 Then
+            text = ""
+        Else
+            total = total - 1
+        Endif
+    Next
+    Select Case total
+        Case 1, 2
+            total = Len(text)
+        Case Else
+            total = Abs(total) + 1
+    End Select
+    While total > 100
+        total = total - first  ' towards the limit
+    Wend
+    Return total
+End
+
+"""
+
+
+def vb_module(name, procedures):
+    text = f'Attribute VB_Name = "{name}"\nOption Explicit\n\n' + "".join(VB.format(n=n) for n in range(procedures))
+    return text.replace("\n", "\r\n")
+
+
+def gambas_module(procedures):
+    return "' Gambas module file\n\n" + "".join(GAMBAS.format(n=n) for n in range(procedures))
+
+
+def write_projects(work):
+    vb, gambas = work / "vb", work / "gambas"
+    vb.mkdir()
+    (gambas / ".src").mkdir(parents=True)
+    (gambas / ".project").write_text("# Gambas Project File 3.0\nTitle=Bench\nStartup=Main\nVersion=0.0.1\n")
+    (gambas / ".src" / "Main.module").write_text("' Gambas module file\n\nPublic Sub Main()\nEnd\n")
+    files = []
+    for m in range(MODULES):
+        files.append(vb / f"Module{m}.bas")
+        files[-1].write_bytes(vb_module(f"Module{m}", PROCEDURES).encode("ascii"))
+        (gambas / ".src" / f"Module{m}.module").write_text(gambas_module(PROCEDURES))
+    return files, gambas
+
+
+def timed(command):
+    start = time.perf_counter()
+    done = subprocess.run(command, capture_output=True, text=True)
+    if done.returncode != 0:
+        sys.exit(f"{command[0]} failed:\n{done.stdout[-2000:]}{done.stderr[-2000:]}")
+    return time.perf_counter() - start, done.stdout
+
+
+def main():
+    bench, work = sys.argv[1], pathlib.Path(sys.argv[2])
+    files, gambas = write_projects(work)
+    lines = sum(f.read_bytes().count(b"\n") for f in files)
+    ours, theirs = [], []
+    for _ in range(RUNS):
+        ours.append(timed([bench, *map(str, files)])[0])
+        theirs.append(timed(["gbc3", "-a", "-j", "1", str(gambas)])[0])
+    small, large = work / "Small.bas", work / "Large.bas"
+    per_procedure = VB.count("\n")
+    small.write_bytes(vb_module("Small", 100_000 // per_procedure).encode("ascii"))
+    large.write_bytes(vb_module("Large", 1_000_000 // per_procedure + 1).encode("ascii"))
+    cost, memory = {}, 0
+    for name, file in (("100,000", small), ("1,000,000", large)):
+        runs = [json.loads(timed([bench, "--json", str(file)])[1]) for _ in range(RUNS)]
+        cost[name] = statistics.median(r["seconds"] / r["lines"] for r in runs)
+        memory = runs[0]["tree_bytes"] / runs[0]["source_bytes"]
+        peak = runs[0]["peak_bytes"] / runs[0]["source_bytes"]
+    a, b = statistics.median(ours), statistics.median(theirs)
+    print(f"{lines} lines in {MODULES} modules, median of {RUNS} runs in turn")
+    print(f"parser   {a:.3f} s  {lines / a / 1e6:.2f} million lines a second")
+    print(f"gbc3 -a  {b:.3f} s  {lines / b / 1e6:.2f} million lines a second")
+    print(f"parser : gbc3 = {a / b:.2f}  (at most 1.00)")
+    for name, seconds in cost.items():
+        print(f"one module of {name} lines: {seconds * 1e9:.0f} ns a line")
+    print(f"1,000,000 : 100,000 = {cost['1,000,000'] / cost['100,000']:.2f}  (at most 1.20)")
+    print(f"tree: {memory:.1f} times the source, whole process: {peak:.1f} times  (at most 60)")
+
+
+main()

@@ -1,0 +1,9 @@
+#!/bin/sh
+# How long the parser takes beside gbc3's full compile of modules of equal structure, and whether a line costs the same
+# in a module of a million lines. Needs gambas3-devel, and parser_bench of a release build as its argument:
+#   bench/parser_vs_gbc3.sh build/release/bench/parser_bench
+set -eu
+bench=$(realpath "${1:?usage: parser_vs_gbc3.sh PATH/TO/parser_bench}")
+work=$(mktemp -d "${BENCH_FOLDER:-/dev/shm}/parser-bench.XXXXXX")
+trap 'rm -rf "$work"' EXIT
+exec python3 "$(dirname "$0")/parser_vs_gbc3.py" "$bench" "$work"

@@ -1,0 +1,98 @@
+// Hostile sizes: depth, length, number of errors. Nothing crashes, nothing takes longer than its size.
+#include "tests/qltoolkit/ast_dump.h"
+#include <chrono>
+#include <gtest/gtest.h>
+
+using compiler::dump::Parsed;
+
+namespace {
+
+std::string repeat(const std::string& text, std::size_t count) {
+    std::string all;
+    all.reserve(text.size() * count);
+    for (std::size_t i = 0; i < count; ++i) all += text;
+    return all;
+}
+
+std::string inSub(const std::string& text) { return "Sub A()\n" + text + "\nEnd Sub\n"; }
+
+/// Diagnostics of a procedure with these statements.
+std::string errorsOf(const std::string& text) { return Parsed{inSub(text)}.diagnostics(); }
+
+double secondsFor(const std::string& text) {
+    const auto start = std::chrono::steady_clock::now();
+    const Parsed parsed{text};
+    EXPECT_EQ(parsed.diagnostics(), "");
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+} // namespace
+
+TEST(ParserLimits, ExpressionsNestTwoHundredDeep) {
+    EXPECT_EQ(errorsOf("x = " + repeat("(", 190) + "1" + repeat(")", 190)), "");
+    EXPECT_EQ(errorsOf("x = " + repeat("(", 100'000) + "1" + repeat(")", 100'000)), "2:205 1804");
+    EXPECT_EQ(errorsOf("x = " + repeat("-", 100'000) + "1"), "2:205 1804");
+    EXPECT_EQ(errorsOf("x = " + repeat("Not ", 100'000) + "1"), "2:805 1804");
+    EXPECT_EQ(errorsOf("x = " + repeat("f(", 100'000)), "2:405 1804");
+    EXPECT_EQ(errorsOf("f (" + repeat("(", 100'000)).substr(0, 2), "2:");
+}
+
+TEST(ParserLimits, BlocksNestTwoHundredDeep) {
+    EXPECT_EQ(errorsOf(repeat("If a Then\n", 190) + repeat("End If\n", 190)), "");
+    for (const auto* head :
+         {"If a Then\n", "For i = 1 To 2\n", "Do\n", "With a\n", "While a\n", "Select Case a\nCase 1\n"}) {
+        const Parsed parsed{inSub(repeat(head, 50'000)) + "Sub B()\nx = )\nEnd Sub\n"};
+        ASSERT_EQ(parsed.result.diagnostics.size(), 2u) << head;
+        EXPECT_EQ(parsed.result.diagnostics[0].number, 1529) << head;
+        EXPECT_EQ(parsed.result.diagnostics[1].number, 1800) << "the next procedure is read";
+    }
+    EXPECT_EQ(errorsOf(repeat("If a Then ", 50'000) + "x = 1"), "2:2001 1529");
+}
+
+TEST(ParserLimits, ChainsMayBeLong) {
+    EXPECT_EQ(errorsOf("x = 1" + repeat(" + 1", 1'000'000)), "");
+    EXPECT_EQ(errorsOf("x = a" + repeat(".b", 1'000'000)), "");
+    EXPECT_EQ(errorsOf("x = a" + repeat("(1)", 1'000'000)), "");
+    EXPECT_EQ(errorsOf("f 1" + repeat(", 1", 1'000'000)), "");
+    EXPECT_EQ(errorsOf(repeat("x = 1: ", 1'000'000)), "");
+    EXPECT_EQ(Parsed("#If 1" + repeat(" And 1", 100'000) + " Then\nDim a\n#End If").diagnostics(), "");
+}
+
+TEST(ParserLimits, ALineOfTenMegabytes) {
+    constexpr std::size_t kTenMegabytes = 10'000'000;
+    EXPECT_EQ(errorsOf("x = \"" + std::string(kTenMegabytes, 'a') + "\""), "");
+    EXPECT_EQ(errorsOf("' " + std::string(kTenMegabytes, 'a')), "");
+    EXPECT_EQ(errorsOf("x = " + std::string(kTenMegabytes, ' ') + "1"), "");
+    EXPECT_EQ(errorsOf(std::string(kTenMegabytes, 'a') + " = 1"), "2:1 1106");
+    EXPECT_EQ(errorsOf("x = \"" + std::string(kTenMegabytes, 'a')), "2:5 1101");
+    EXPECT_EQ(errorsOf("x = " + std::string(kTenMegabytes, '1')), "2:5 1104");
+    EXPECT_EQ(errorsOf("x = " + std::string(kTenMegabytes, ')')), "2:5 1800");
+}
+
+TEST(ParserLimits, FiveHundredErrorsEndAFile) {
+    const Parsed parsed{inSub(repeat("x = \n", 100'000))};
+    ASSERT_EQ(parsed.result.errors, 501u);
+    EXPECT_EQ(parsed.result.diagnostics.back().number, 1009);
+    EXPECT_EQ(parsed.result.diagnostics.back().text, "More than 500 errors: the rest of the file was not checked.");
+    EXPECT_EQ(parsed.result.diagnostics.front().line, 2u);
+    EXPECT_NE(parsed.result.module, nullptr);
+}
+
+TEST(ParserLimits, TimeAndMemoryGrowWithTheSource) {
+    const std::string procedure =
+        inSub("    total = first * 2 + second(i).value ' why\n    If a > b Then\n        f x, \"text\"\n    End If");
+    const std::string small = repeat(procedure, 2'000), large = repeat(procedure, 40'000);
+    secondsFor(small);
+    const double one = secondsFor(small), twenty = secondsFor(large);
+    EXPECT_LT(twenty, one * 20 * 4 + 0.5) << "twenty times the source";
+    const Parsed parsed{large};
+    EXPECT_LT(parsed.result.module->arena.footprint(), large.size() * 20);
+}
+
+TEST(ParserLimits, ManyNames) {
+    std::string text;
+    for (int i = 0; i < 100'000; ++i) text += "Dim name" + std::to_string(i) + "\n";
+    const Parsed parsed{text};
+    EXPECT_EQ(parsed.diagnostics(), "");
+    EXPECT_GE(parsed.symbols.size(), 100'000u);
+}

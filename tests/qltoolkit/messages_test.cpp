@@ -1,0 +1,46 @@
+#include "Components/QLToolkit/messages.h"
+#include "tests/qltoolkit/ast_dump.h"
+#include <gtest/gtest.h>
+#include <set>
+
+using compiler::allMessages;
+using compiler::Message;
+using compiler::messageText;
+using compiler::dump::Parsed;
+
+TEST(Messages, EveryRowIsComplete) {
+    std::set<std::string_view> texts;
+    for (const auto& row : allMessages()) {
+        const auto number = static_cast<int>(row.message);
+        EXPECT_GE(number, 1000) << row.text;
+        EXPECT_LE(number, 2998) << row.text;
+        EXPECT_TRUE(texts.insert(row.text).second) << row.text;
+        for (const auto part : {row.text, row.meaning, row.remedy}) {
+            ASSERT_FALSE(part.empty()) << number;
+            EXPECT_NE(part.find_last_of(".:1)"), std::string_view::npos) << part;
+            EXPECT_EQ(part.find("  "), std::string_view::npos) << part;
+        }
+        EXPECT_EQ(&compiler::messageInfo(row.message), &row);
+    }
+}
+
+TEST(Messages, TheDetailTakesItsPlace) {
+    EXPECT_EQ(messageText(Message::ThenExpected, "end of line"), "Expected: Then, found: end of line.");
+    EXPECT_EQ(messageText(Message::DateInvalid, "ignored").find("ignored"), std::string::npos);
+    EXPECT_EQ(messageText(Message::ThenExpected, "%1"), "Expected: Then, found: %1.");
+}
+
+TEST(Messages, TextsNameWhatStandsThere) {
+    const auto text = [](const char* line) {
+        const Parsed parsed{std::string("Sub A()\n") + line + "\nEnd Sub\n"};
+        return parsed.result.diagnostics.empty() ? "" : parsed.result.diagnostics[0].text;
+    };
+    EXPECT_EQ(text("If x = 5"), "Expected: Then, found: end of line.");
+    EXPECT_EQ(text("x = 5 +"), "Expected: an expression, found: end of the statement.");
+    EXPECT_EQ(text("x = (1: y = 2"), "Expected: ), found: :.");
+    EXPECT_EQ(text("Dim Next As Long"), "Next is a word of the language and cannot be a name.");
+    EXPECT_EQ(text("x = 40000%"), "The number 40000% is too large for its type.");
+    EXPECT_EQ(text("x = \xC9t\xE9 \xE9t\xE9"), "Expected: end of the statement, found: \xC3\xA9t\xC3\xA9.");
+    EXPECT_EQ(text("x = y \"a very long text that would fill the whole line and more if it were not cut\""),
+              "Expected: end of the statement, found: \"a very long text that would fill the whole line and more if.");
+}
