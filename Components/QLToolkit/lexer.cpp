@@ -77,65 +77,64 @@ bool Lexer::continueLine(const char* underscore) {
 }
 
 void Lexer::next(Token& token) {
-    bool atStart = atLineStart_;
+    const bool atStart = atLineStart_;
     if (atStart) {
         atLineStart_ = false;
         startLine();
     }
     token.spaceBefore = false;
-    for (;;) {
-        const char* p = base_ + pos_;
-        while (charIs(*p, kBlank)) {
-            ++p;
-            token.spaceBefore = true;
-        }
-        pos_ = token.begin = static_cast<Pos>(p - base_);
-        const char c = *p;
-        if (charIs(c, kNameStart)) {
-            if (charIs(c, kForeign) && isWideBlank(codePage_, p)) {
-                pos_ += wideBlankBytes(codePage_);
-                token.spaceBefore = true;
-                continue;
-            }
-            return readName(token, p);
-        }
-        if (charIs(c, kDigit)) return readNumber(token, p);
-        switch (c) {
-        case '\r':
-        case '\n': return endLine(token, token.begin);
-        case '\'': {
-            skipComment();
-            return endLine(token, token.begin);
-        }
-        case '"': return readString(token);
-        case '[': return readBracketName(token);
-        case '.':
-            if (charIs(p[1], kDigit)) return readNumber(token, p);
-            break;
-        case '_':
-            token.spaceBefore = true;
-            if (continueLine(p)) continue;
-            return readInvalid(token);
-        case '#':
-            if (atStart && startsDirective(p)) {
-                token.kind = TokenKind::Directive;
-                token.end = ++pos_;
-                return;
-            }
-            break;
-        case '\0':
-            if (pos_ >= source_.size()) {
-                token.kind = TokenKind::EndOfFile;
-                token.end = pos_ = source_.size();
-                return;
-            }
-            ++pos_;
-            token.spaceBefore = true;
-            continue;
-        default: break;
-        }
-        return readOperator(token, c);
+    while (!readToken(token, atStart)) token.spaceBefore = true;
+}
+
+// False when only a blank of some kind was read: a joined line, a wide blank, a NUL.
+bool Lexer::readToken(Token& token, bool atStart) {
+    const char* p = base_ + pos_;
+    if (charIs(*p, kBlank)) {
+        do { ++p; } while (charIs(*p, kBlank));
+        token.spaceBefore = true;
     }
+    pos_ = token.begin = static_cast<Pos>(p - base_);
+    if (charIs(*p, kNameStart)) {
+        if (charIs(*p, kForeign) && isWideBlank(codePage_, p)) {
+            pos_ += wideBlankBytes(codePage_);
+            return false;
+        }
+        readName(token, p);
+    } else if (charIs(*p, kDigit) || (*p == '.' && charIs(p[1], kDigit))) {
+        readNumber(token, p);
+    } else if (isLineEnd(*p)) {
+        endLine(token, token.begin);
+    } else if (*p == '\'') {
+        skipComment();
+        endLine(token, token.begin);
+    } else if (*p == '"') {
+        readString(token);
+    } else if (*p == '\0' || *p == '_') {
+        return readRareBlank(token, p);
+    } else if (*p == '[') {
+        readBracketName(token);
+    } else if (*p == '#' && atStart && startsDirective(p)) {
+        token.kind = TokenKind::Directive;
+        token.end = ++pos_;
+    } else {
+        readOperator(token, *p);
+    }
+    return true;
+}
+
+// A NUL, which counts as a blank unless it is the end, or an underscore that joins lines, or should.
+bool Lexer::readRareBlank(Token& token, const char* p) {
+    if (*p == '_') {
+        if (continueLine(p)) return false;
+        readInvalid(token);
+    } else if (pos_ < source_.size()) {
+        ++pos_;
+        return false;
+    } else {
+        token.kind = TokenKind::EndOfFile;
+        token.end = pos_ = source_.size();
+    }
+    return true;
 }
 
 bool Lexer::startsDirective(const char* p) const {

@@ -39,6 +39,8 @@ public:
 
 private:
     void startLine();
+    bool readToken(Token&, bool atStart);
+    bool readRareBlank(Token&, const char* p);
     void endLine(Token&, Pos at);
     void readName(Token&, const char* p);
     void readForeignName(Token&, const char* p);

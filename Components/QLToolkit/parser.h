@@ -3,8 +3,9 @@
 // parser then goes on, so that one run finds many errors, and reports one per statement.
 //
 // Its member functions stand in several files, by subject: parser.cpp (foundation), parser_module.cpp,
-// parser_variables.cpp, parser_procedures.cpp, parser_blocks.cpp, parser_statements.cpp, parser_jumps.cpp,
-// parser_files.cpp, parser_calls.cpp, parser_expressions.cpp, parser_directives.cpp.
+// parser_variables.cpp, parser_procedures.cpp, parser_blocks.cpp, parser_branches.cpp, parser_loops.cpp,
+// parser_statements.cpp, parser_jumps.cpp, parser_files.cpp, parser_calls.cpp, parser_expressions.cpp,
+// parser_directives.cpp.
 #include "Components/QLToolkit/ast.h"
 #include "Components/QLToolkit/check.h"
 #include "Components/QLToolkit/conditional.h"
