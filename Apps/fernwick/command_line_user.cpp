@@ -73,7 +73,7 @@ void CommandLineUser::showModal(Form& form) {
     Subscription percent, text;
     if (bar) percent = bar->Value.watch([redraw](float) { redraw(); });
     if (status) text = status->SimpleText.watch([redraw](const std::string&) { redraw(); });
-    if (status && console_.verbosity() == Verbosity::Normal) console_.progress(0, form.Caption());
+    if (status) console_.progress(0, form.Caption());
 
     form.activate();
     if (form.Visible()) answerForm(form);
@@ -97,7 +97,7 @@ void CommandLineUser::answerForm(Form& form) {
         auto* pressed = buttonOf(form, reply);
         show(form.Caption(), text, 0);
         shown_.back().answer = pressed ? replyName(reply) : "closed";
-        console_.note(fmt::format("  answer: {}", shown_.back().answer), Tone::Faint);
+        console_.err(fmt::format("  answer: {}", shown_.back().answer), Tone::Faint);
         if (pressed)
             pressed->press();
         else
@@ -111,12 +111,12 @@ void CommandLineUser::chooseDevice(Form& form) {
     show(form.Caption(), "Choose a device for the project.", 0);
     if (row >= 0 && row < list->ListCount()) {
         shown_.back().answer = list->List(row);
-        console_.note(fmt::format("  answer: {}", list->List(row)), Tone::Faint);
+        console_.err(fmt::format("  answer: {}", list->List(row)), Tone::Faint);
         list->ListIndex(row);
         if (auto* ok = button(form, "btnOK")) ok->press();
     } else {
-        shown_.back().answer = "Cancel";
-        deviceWasMissing_ = true;
+        shown_.back().answer = replyName(Reply::Cancel);
+        console_.err(fmt::format("  answer: {}", shown_.back().answer), Tone::Faint);
         if (auto* cancel = cancelButton(form)) cancel->press();
     }
     if (form.Visible()) form.Unload();
@@ -168,7 +168,8 @@ Reply CommandLineUser::replyTo(const Question* question, Reply otherwise, const 
 void CommandLineUser::show(const std::string& title, const std::string& text, int buttons) {
     const bool critical = (buttons & 0x70) == fernwick::vbCritical;
     shown_.push_back({title, text, "", critical});
-    std::string line = title.empty() ? std::string() : title + ": ";
+    const bool ends = !title.empty() && title.back() == '!';
+    std::string line = title.empty() ? std::string() : title + (ends ? " " : ": ");
     for (const char c : text) {
         if (c == '\r') continue;
         line += c;

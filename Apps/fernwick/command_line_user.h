@@ -43,8 +43,6 @@ public:
 
     UserContext& context() { return context_; }
     const std::vector<ShownBox>& shown() const { return shown_; }
-    /// Whether a device had to be chosen and could not be.
-    bool deviceWasMissing() const { return deviceWasMissing_; }
 
 private:
     void answerForm(fernwick::Form& form);
@@ -59,7 +57,6 @@ private:
     std::vector<ShownBox> shown_;
     std::string lastQuestion_;
     int repeats_ = 0;
-    bool deviceWasMissing_ = false;
 };
 
 } // namespace cli

@@ -35,6 +35,12 @@ std::string_view cutToCells(std::string_view text, size_t cells) {
     return text.substr(0, at);
 }
 
+/// Diagnostics that nobody can take don't end the run.
+void toError(std::string_view text) {
+    std::fwrite(text.data(), 1, text.size(), stderr);
+    std::fflush(stderr);
+}
+
 const char* colourOf(Tone tone) {
     switch (tone) {
     case Tone::Error: return "31";
@@ -72,7 +78,7 @@ std::string Console::coloured(std::string_view line, Tone tone) const {
 
 void Console::err(std::string_view line, Tone tone) {
     clearBar();
-    fmt::print(stderr, "{}\n", coloured(line, tone));
+    toError(coloured(line, tone) + "\n");
 }
 
 void Console::note(std::string_view line, Tone tone) {
@@ -92,7 +98,7 @@ void Console::progress(float percent, std::string_view text) {
     const bool isPercentage = text.find("% completed") != std::string_view::npos;
     if (text.empty() || isPercentage || text == lastText_) return;
     lastText_ = text;
-    fmt::print(stderr, "{}\n", text);
+    toError(std::string(text) + "\n");
 }
 
 void Console::drawBar(float percent, std::string_view text) {
@@ -100,13 +106,12 @@ void Console::drawBar(float percent, std::string_view text) {
     const std::string bar = fmt::format("[{}{}] {:3.0f}% ", std::string(size_t(done), '#'),
                                         std::string(size_t(kBarCells - done), '.'), percent);
     const size_t room = terminalWidth() - 1;
-    fmt::print(stderr, "\r{}{}\033[K", bar, cutToCells(text, room > bar.size() ? room - bar.size() : 0));
-    std::fflush(stderr);
+    toError(fmt::format("\r{}{}\033[K", bar, cutToCells(text, room > bar.size() ? room - bar.size() : 0)));
     barShown_ = true;
 }
 
 void Console::clearBar() {
-    if (barShown_) fmt::print(stderr, "\r\033[K");
+    if (barShown_) toError("\r\033[K");
     barShown_ = false;
 }
 
@@ -117,8 +122,7 @@ void Console::endProgress() {
 
 std::string Console::ask(std::string_view prompt) {
     clearBar();
-    fmt::print(stderr, "{}", prompt);
-    std::fflush(stderr);
+    toError(prompt);
     std::string line;
     for (int c = std::fgetc(stdin); c != EOF && c != '\n'; c = std::fgetc(stdin)) line += char(c);
     return line;

@@ -25,9 +25,9 @@ std::string installationBeside(const std::string& programFolder) {
     if (programFolder.empty()) return {};
     const fs::path folder = programFolder;
     const fs::path shared = folder.parent_path() / "share" / "fernwick";
-    if (isInstallation(shared)) return shared.string();
+    if (isInstallation(shared)) return fs::canonical(shared).string();
     for (fs::path above = folder;; above = above.parent_path()) {
-        if (isInstallation(above / "installation")) return (above / "installation").string();
+        if (isInstallation(above / "installation")) return fs::canonical(above / "installation").string();
         if (above == above.parent_path()) return {};
     }
 }

@@ -55,16 +55,22 @@ int guarded(const cli::Options& options, cli::Console& console) {
     } catch (const std::exception& error) { return failed(cli::kMachineTrouble, error.what(), options, console); }
 }
 
+/// The exit status after a text on standard output.
+int printed(const std::string& text) {
+    const bool good = std::fputs(text.c_str(), stdout) >= 0 && std::fflush(stdout) == 0;
+    if (!good) std::fputs("fernwick: standard output could not be written\n", stderr);
+    return good ? cli::kGood : cli::kMachineTrouble;
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
     // asked by every script that looks for the tool: answered before anything else is set up
-    if (argc == 2 && std::strcmp(argv[1], "--version") == 0) return std::puts(cli::versionLine().c_str()) < 0 ? 3 : 0;
+    if (argc == 2 && std::strcmp(argv[1], "--version") == 0) return printed(cli::versionLine() + "\n");
 
     const auto parsed = cli::parseCommandLine(argc, argv);
     if (!parsed.error.empty()) std::fprintf(stderr, "%s\n", parsed.error.c_str());
-    if (!parsed.output.empty() && std::fputs(parsed.output.c_str(), stdout) < 0) return cli::kMachineTrouble;
-    if (!parsed.run) return parsed.status;
+    if (!parsed.run) return parsed.output.empty() ? parsed.status : printed(parsed.output);
 
     cli::watchForInterrupt();
     cli::Console console{parsed.options.verbosity};

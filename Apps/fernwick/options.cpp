@@ -1,5 +1,6 @@
 #include "Apps/fernwick/options.h"
 #include "Apps/fernwick/exit_status.h"
+#include "Apps/fernwick/verbs/stored_settings.h"
 #include "Apps/fernwick/version.h"
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
@@ -19,9 +20,32 @@ struct Raw {
 constexpr const char* kExitText = "Exit status: 0 good, 1 errors in the project, 2 wrong use, 3 trouble with the "
                                   "installation or the machine, 130 interrupted.";
 
-void addCommon(CLI::App& verb, Raw& raw) {
-    verb.add_option("--format", raw.format, "How the result is written: text, json or sarif")
-        ->check(CLI::IsMember({"text", "json", "sarif"}))
+/// Help without the library's notes on types and exclusions.
+class HelpFormatter : public CLI::Formatter {
+public:
+    std::string make_option_opts(const CLI::Option* option) const override {
+        const auto type = option->get_type_name();
+        const auto colon = type.find(':'); // what a check adds
+        const bool bare = option->get_items_expected_max() == 0 || !option->nonpositional() || type == "TEXT";
+        return bare ? std::string() : " " + type.substr(0, colon);
+    }
+    std::string make_usage(const CLI::App* app, std::string name) const override {
+        return CLI::Formatter::make_usage(app, app->get_parent() ? "fernwick " + name : name);
+    }
+    std::string make_footer(const CLI::App* app) const override { return CLI::Formatter::make_footer(app) + "\n"; }
+};
+
+/// A verb whose result is a list of messages can give it as SARIF too.
+enum class Result { Data, Messages };
+
+void addCommon(CLI::App& verb, Raw& raw, Result result) {
+    const bool messages = result == Result::Messages;
+    std::vector<std::string> formats{"text", "json"};
+    if (messages) formats.push_back("sarif");
+    verb.add_option("--format", raw.format,
+                    messages ? "How the result is written: text, json or sarif"
+                             : "How the result is written: text or json")
+        ->check(CLI::IsMember(formats))
         ->type_name("FORMAT");
     verb.add_flag("-q,--quiet", raw.quiet, "Only errors and data");
     verb.add_flag("-v,--verbose", raw.verbose, "Say more of what is done");
@@ -39,23 +63,25 @@ void addProject(CLI::App& verb, Raw& raw) {
     verb.add_option("PROJECT", raw.options.project, "Project file; may be left out where the folder holds one .vbp");
 }
 
-CLI::App& addVerb(CLI::App& app, Raw& raw, const char* name, const char* description, const std::string& example) {
+CLI::App& addVerb(CLI::App& app, Raw& raw, const char* name, const char* description, const std::string& example,
+                  Result result = Result::Data) {
     auto* verb = app.add_subcommand(name, description);
     verb->footer(fmt::format("Example:\n  {}\n\n{}", example, kExitText));
     verb->callback([&raw, name] { raw.options.verb = name; });
-    addCommon(*verb, raw);
+    addCommon(*verb, raw, result);
     return *verb;
 }
 
 void defineBuild(CLI::App& app, Raw& raw) {
     auto& build = addVerb(app, raw, "build", "Compile a project for its device",
-                          "fernwick build AddressBook.vbp --depfile AddressBook.d");
+                          "fernwick build AddressBook.vbp --depfile AddressBook.d", Result::Messages);
     addProject(build, raw);
     addAnswers(build, raw);
     build.add_option("--device", raw.options.device, "Design target for a project that has none")->type_name("KEY");
     build.add_option("--depfile", raw.options.depfile, "Write what the image was made from in make's format")
         ->type_name("FILE");
-    build.add_flag("-n,--dry-run", raw.options.dryRun, "Say what would be compiled and run, and write nothing");
+    build.add_flag("-n,--dry-run", raw.options.dryRun, "Say what would be compiled and run, and write nothing")
+        ->excludes("--format");
     build.add_flag("--trust-steps", raw.options.trustSteps, "Run the project's compile steps without asking");
     build.add_flag("--no-steps", raw.options.noSteps, "Run none of the project's compile steps")
         ->excludes("--trust-steps");
@@ -63,7 +89,7 @@ void defineBuild(CLI::App& app, Raw& raw) {
 
 void defineReaders(CLI::App& app, Raw& raw) {
     auto& check = addVerb(app, raw, "check", "Parse source files or whole projects and report every error",
-                          "fernwick check Form1.frm Module1.bas");
+                          "fernwick check Form1.frm Module1.bas", Result::Messages);
     check.add_option("FILE", raw.options.operands, ".bas, .cls, .frm, .ctl, .vbp or .vbg files");
     check.add_option("--code-page", raw.options.codePage, "Code page of files that are not UTF-8 (1252)")
         ->type_name("N");
@@ -73,21 +99,29 @@ void defineReaders(CLI::App& app, Raw& raw) {
     info.add_flag("--verify", raw.options.verify, "Tell for each file whether writing it back would change a byte");
 
     auto& messages = addVerb(app, raw, "messages", "Print the messages that the last build stored in the project",
-                             "fernwick messages AddressBook.vbp --format json");
+                             "fernwick messages AddressBook.vbp --format json", Result::Messages);
     addProject(messages, raw);
 
     addVerb(app, raw, "targets", "List the design targets that are installed", "fernwick targets");
     addVerb(app, raw, "version", "Print the version", "fernwick version");
 }
 
+std::string settingNames() {
+    std::string text;
+    for (const auto& setting : storedSettings()) text += fmt::format("  {:<24}{}\n", setting.name, setting.meaning);
+    return text;
+}
+
 void defineSettings(CLI::App& app, Raw& raw) {
-    auto& settings = addVerb(app, raw, "settings", "List, get, set or reset the stored settings of a project",
-                             "fernwick settings set AddressBook.vbp TargetDevice PalmOS-DragonBall");
+    auto& settings =
+        addVerb(app, raw, "settings", "List, get, set or reset the stored settings of a project",
+                "fernwick settings set AddressBook.vbp TargetDevice PalmOS-DragonBall\n\nSettings:\n" + settingNames());
     settings.add_option("ACTION", raw.options.action, "list, get, set or reset")
         ->required()
         ->check(CLI::IsMember({"list", "get", "set", "reset"}));
     settings.add_option("OPERANDS", raw.options.operands, "[PROJECT] [NAME [VALUE]]");
-    settings.add_flag("-n,--dry-run", raw.options.dryRun, "Say what would change, and write nothing");
+    settings.add_flag("-n,--dry-run", raw.options.dryRun, "Say what would change, and write nothing")
+        ->excludes("--format");
     addAnswers(settings, raw);
 }
 
@@ -100,7 +134,8 @@ void defineRegistry(CLI::App& app, Raw& raw) {
     registry
         .add_option("OPERANDS", raw.options.operands, "get KEY [NAME] | set KEY NAME VALUE | export KEY | import FILE")
         ->required();
-    registry.add_flag("-n,--dry-run", raw.options.dryRun, "Say what would change, and write nothing");
+    registry.add_flag("-n,--dry-run", raw.options.dryRun, "Say what would change, and write nothing")
+        ->excludes("--format");
 }
 
 std::string answersHelp() {
@@ -128,7 +163,12 @@ Parsed finish(Raw& raw) {
     return parsed;
 }
 
-Parsed ended(CLI::App& app, const CLI::ParseError& error) {
+std::string wrongVerb(const std::string& given, const CLI::ParseError& error) {
+    if (given.empty()) return "which verb?";
+    return given.front() == '-' ? error.what() : "no verb " + given;
+}
+
+Parsed ended(CLI::App& app, const CLI::ParseError& error, const std::string& given) {
     Parsed parsed;
     if (error.get_exit_code() == int(CLI::ExitCodes::Success)) {
         const CLI::App* asked = &app;
@@ -137,7 +177,10 @@ Parsed ended(CLI::App& app, const CLI::ParseError& error) {
         return parsed;
     }
     parsed.status = kWrongUse;
-    parsed.error = fmt::format("fernwick: {}\nSee fernwick --help.", error.what());
+    const auto verbs = app.get_subcommands();
+    parsed.error =
+        fmt::format("fernwick: {}\nSee fernwick {}--help.", verbs.empty() ? wrongVerb(given, error) : error.what(),
+                    verbs.empty() ? "" : verbs.front()->get_name() + " ");
     return parsed;
 }
 
@@ -166,6 +209,7 @@ Parsed parseCommandLine(int argc, const char* const* argv) {
     Raw raw;
     std::string topic;
     CLI::App app{"Turns Visual Basic projects into applications for handheld devices.", "fernwick"};
+    app.formatter(std::make_shared<HelpFormatter>());
     app.footer(kExitText);
     app.require_subcommand(1);
     app.set_version_flag("--version", versionLine());
@@ -183,7 +227,7 @@ Parsed parseCommandLine(int argc, const char* const* argv) {
         Parsed parsed;
         parsed.output = versionLine() + "\n";
         return parsed;
-    } catch (const CLI::ParseError& error) { return ended(app, error); }
+    } catch (const CLI::ParseError& error) { return ended(app, error, argc > 1 ? argv[1] : ""); }
     if (raw.options.verb == "help") return helpOn(app, topic);
     return finish(raw);
 }

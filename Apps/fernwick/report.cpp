@@ -40,7 +40,6 @@ Json sarifLocation(const Message& message, const std::string& project) {
 std::string textOf(const Message& message, const std::string& project) {
     std::string place = message.file.empty() ? project : message.file;
     if (message.line > 0) place += fmt::format(":{}", message.line);
-    if (message.line > 0 && message.column > 0) place += fmt::format(":{}", message.column);
     return fmt::format("{}: {} {}: {}", place, message.isError ? "error" : "warning", message.number, message.text);
 }
 

@@ -33,7 +33,7 @@ struct Report {
     std::string failure;
 };
 
-/// `file:line: error 1042: text`, with the column where it is known. A message without a file names the project.
+/// `file:line: error 1042: text`. A message without a file names the project.
 std::string textOf(const Message& message, const std::string& project);
 /// Schema: installation/schemas/report-1.json. Ends with a line end.
 std::string jsonOf(const Report& report);

@@ -161,6 +161,8 @@ void Session::closeUnsaved() {
     const auto host = std::exchange(host_, nullptr);
     host->close();
     machine_.drain();
+    // a host keeps its retired add-ins, and this one would keep the host
+    modules_->addIn.gVBInstance = nullptr;
 }
 
 bool Session::hasUnsavedComponents() const {

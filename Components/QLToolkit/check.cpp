@@ -46,9 +46,12 @@ bool readAll(const std::string& path, std::string& bytes) {
     std::ifstream file(path, std::ios::binary);
     if (!file) return false;
     constexpr std::size_t kPiece = 1 << 20;
+    std::error_code unknown;
+    const auto expected = std::filesystem::file_size(path, unknown);
+    if (!unknown && expected <= kMaxSourceBytes) bytes.reserve(expected + SourceFile::kPadding);
     for (std::size_t size = 0; file && size <= kMaxSourceBytes;) {
-        bytes.resize(size + kPiece);
-        file.read(bytes.data() + size, kPiece);
+        bytes.resize(std::max(size + SourceFile::kPadding, std::min(bytes.capacity(), size + kPiece)));
+        file.read(bytes.data() + size, static_cast<std::streamsize>(bytes.size() - size));
         size += static_cast<std::size_t>(file.gcount());
         bytes.resize(size);
     }

@@ -1,3 +1,4 @@
+#include "Add-in/build/build_texts.h"
 #include "Apps/fernwick/depfile.h"
 #include "Apps/fernwick/exit_status.h"
 #include "Apps/fernwick/project_argument.h"
@@ -13,6 +14,7 @@ namespace {
 
 /// The add-in's number for compiler tools that could not be loaded.
 constexpr int kCompilerToolsMissing = 2999;
+constexpr const char* kNotCompiled = "FAILED - The project was not compiled.";
 
 std::string imagePathOf(const Session& session) {
     auto& files = const_cast<Session&>(session).machine().platform().files;
@@ -47,9 +49,9 @@ void warnOfLineFeeds(Session& session, Console& console) {
     }
     if (files > 0)
         console.err(
-            fmt::format("warning: {} source file{} line feeds for line ends, so the stored lines of messages count "
-                        "from another place; unix2dos cures it",
-                        files, files == 1 ? " has" : "s have"),
+            fmt::format("fernwick: warning: {} line feeds for line ends, so the stored lines of messages count from "
+                        "another place; unix2dos cures it",
+                        files == 1 ? "1 source file has" : fmt::format("{} source files have", files)),
             Tone::Warning);
 }
 
@@ -67,7 +69,7 @@ int dryRun(Session& session, Console& console) {
     return kGood;
 }
 
-void requireDevice(Session& session) {
+void requireDevice(Session& session, const std::string& wanted) {
     const auto none = session.addIn().devices.GetNumDesignTargets() == 0;
     if (!session.isOpen() || none) {
         throw Refusal(kMachineTrouble,
@@ -75,6 +77,8 @@ void requireDevice(Session& session) {
                            : "the project was closed by the add-in");
     }
     const auto device = session.settings() ? session.settings()->TargetDevice() : std::string();
+    if (device.empty() && !wanted.empty())
+        throw Refusal(kWrongUse, fmt::format("{} is no usable design target; fernwick targets lists them", wanted));
     if (device.empty())
         throw Refusal(kWrongUse, fmt::format("{}: the project has no device; choose one with --device KEY (fernwick "
                                              "targets lists them)",
@@ -94,6 +98,8 @@ Report compileProject(Session& session) {
     report.messages = messagesOfBuild(session.project(), session.machine().build());
     const auto window = session.addIn().compileMsgs();
     report.statusText = window ? window->lblStatusText() : std::string();
+    // a compile that ended before the compiler ran leaves its first words
+    if (report.statusText == fernwick::build_texts::kCompilingAndValidating) report.statusText = kNotCompiled;
     report.image = good ? session.machine().build().image : std::string();
     report.exitStatus = good ? kGood : kProjectErrors;
     for (const auto& message : report.messages)
@@ -110,7 +116,17 @@ void stampImage(Session& session, const std::string& image) {
     files.SetDateLastModified(image, newest);
 }
 
+/// The image stands, but make would not know of it: trouble.
+void writeDepfile(Session& session, const std::string& path, const std::vector<std::string>& inputs, Report& report) {
+    auto& files = session.machine().platform().files;
+    const auto err = basic::attempt([&] { files.WriteBytes(path, depfileText(report.image, inputs)); });
+    if (err.Number == 0) return;
+    report.failure = fmt::format("{}: cannot be written: {}", path, err.Description);
+    report.exitStatus = kMachineTrouble;
+}
+
 void printReport(const Report& report, const Options& options, Console& console) {
+    if (!report.failure.empty()) console.err("fernwick: " + report.failure, Tone::Error);
     if (options.format == Format::Json) return console.out(jsonOf(report));
     if (options.format == Format::Sarif) return console.out(sarifOf(report));
     for (const auto& message : report.messages)
@@ -122,12 +138,18 @@ void printReport(const Report& report, const Options& options, Console& console)
 int build(Session& session, const Options& options, Console& console) {
     session.open(projectArgument(options.project));
     session.requireFernwickProject();
+    session.requireAllMembers();
     if (options.dryRun) return dryRun(session, console);
     session.takeUp();
     session.trust().prepare(session.machine().registry(), allSteps(*session.settings().shared()));
     session.forget();
     session.connect();
-    requireDevice(session);
+    requireDevice(session, options.device);
+    if (const auto own = session.settings()->TargetDevice(); !options.device.empty() && own != options.device)
+        console.err(fmt::format("fernwick: warning: the project's own device {} counts, not {}; fernwick settings set "
+                                "TargetDevice changes it",
+                                own, options.device),
+                    Tone::Warning);
 
     Report report = compileProject(session);
     warnOfLineFeeds(session, console);
@@ -140,8 +162,7 @@ int build(Session& session, const Options& options, Console& console) {
     report.boxes = session.user().shown();
     if (!report.image.empty()) {
         stampImage(session, report.image);
-        if (!options.depfile.empty())
-            session.machine().platform().files.WriteBytes(options.depfile, depfileText(report.image, inputs));
+        if (!options.depfile.empty()) writeDepfile(session, options.depfile, inputs, report);
     }
     printReport(report, options, console);
     return report.exitStatus;

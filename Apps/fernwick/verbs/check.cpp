@@ -1,11 +1,13 @@
 #include "Apps/fernwick/exit_status.h"
 #include "Apps/fernwick/interruption.h"
+#include "Apps/fernwick/plural.h"
 #include "Apps/fernwick/project_argument.h"
 #include "Apps/fernwick/report.h"
 #include "Apps/fernwick/verbs/source_list.h"
 #include "Apps/fernwick/verbs/verbs.h"
 #include "Basic/runtime_error.h"
 #include "Host/files/encoding.h"
+#include "Host/files/path_lookup.h"
 #include "Host/files/text_file.h"
 #include <chrono>
 #include <fmt/format.h>
@@ -48,18 +50,16 @@ CheckTotals checkAll(const SourceList& list, const basic::CodePage& usual, const
         totals.lines += result.lines;
         totals.errors += result.errors;
         for (const auto& diagnostic : result.diagnostics) {
-            const auto message = messageOf(diagnostic);
-            if (options.format == Format::Text)
+            auto message = messageOf(diagnostic);
+            if (options.format == Format::Text) {
                 console.err(textOf(message, ""), message.isError ? Tone::Error : Tone::Warning);
-            else
-                report.messages.push_back(message);
+            } else {
+                message.file = host::absolutePath(message.file);
+                report.messages.push_back(std::move(message));
+            }
         }
     }
     return totals;
-}
-
-std::string plural(std::uint64_t count, std::string_view one) {
-    return fmt::format("{} {}{}", count, one, count == 1 ? "" : "s");
 }
 
 } // namespace

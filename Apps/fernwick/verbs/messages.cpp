@@ -32,6 +32,7 @@ int runMessages(const Options& options, Console& console) {
         console.out(sarifOf(report));
     } else {
         for (const auto& message : report.messages) console.out(storedText(message) + "\n");
+        if (report.messages.empty()) console.note("no stored messages");
     }
     return kGood;
 }

@@ -1,7 +1,9 @@
 #include "Apps/fernwick/exit_status.h"
 #include "Apps/fernwick/installation.h"
 #include "Apps/fernwick/json_output.h"
+#include "Apps/fernwick/refusal.h"
 #include "Apps/fernwick/verbs/verbs.h"
+#include "Basic/case_folding.h"
 #include "Basic/runtime_error.h"
 #include "Host/registry/reg_exchange.h"
 #include "Host/system/environment.h"
@@ -41,17 +43,34 @@ std::string rightSide(const std::string& value) {
     return quoted + "\"";
 }
 
+/// The values' lines of a .reg file, without what stands around them.
+std::string linesOf(const std::vector<RegInstruction>& values) {
+    auto text = withoutCarriageReturns(host::writeRegText(values, host::RegTextEncoding::Utf8));
+    text.erase(0, text.find('\n') + 1);
+    while (!text.empty() && text.back() == '\n') text.pop_back();
+    return text;
+}
+
+/// The value's quoted name, or "@", and the "=" behind it.
+std::size_t lengthOfLeftSide(std::string_view line) {
+    std::size_t at = 1;
+    if (line.front() == '"') {
+        for (; at < line.size() && line[at] != '"'; ++at)
+            if (line[at] == '\\') ++at;
+        ++at;
+    }
+    return at + 1;
+}
+
 Json jsonOfInstructions(const std::vector<RegInstruction>& instructions) {
     Json values = Json::array();
     for (const auto& one : instructions) {
         if (one.kind != RegInstruction::Kind::SetValue) continue;
-        auto lines = withoutCarriageReturns(host::writeRegText({one}, host::RegTextEncoding::Utf8));
-        if (!lines.empty() && lines.back() == '\n') lines.pop_back();
-        const auto equals = lines.rfind(one.name.empty() ? "\n@=" : "\"=");
+        const auto line = linesOf({one});
         values.push_back({{"key", one.key},
                           {"name", one.name},
                           {"type", one.value.type},
-                          {"value", lines.substr(equals + (one.name.empty() ? 3 : 2))}});
+                          {"value", line.substr(lengthOfLeftSide(line))}});
     }
     return values;
 }
@@ -63,13 +82,10 @@ int printValues(const Options& options, Console& console, const std::vector<RegI
         console.out(dumpJson(json));
         return kGood;
     }
-    auto text = withoutCarriageReturns(host::writeRegText(found, host::RegTextEncoding::Utf8));
-    if (!withHeader) { // the key was given: its values are enough
-        text.erase(0, text.find("]\n") == text.npos ? text.size() : text.find("]\n") + 2);
-        while (!text.empty() && text.back() == '\n') text.pop_back();
-        text += '\n';
-    }
-    console.out(text);
+    if (withHeader)
+        console.out(withoutCarriageReturns(host::writeRegText(found, host::RegTextEncoding::Utf8)));
+    else if (!found.empty()) // the key was given: its values are enough
+        console.out(linesOf(found) + "\n");
     return kGood;
 }
 
@@ -78,13 +94,11 @@ int get(const Options& options, Console& console) {
     auto found = host::exportRegistry(store, options.operands[0]);
     const std::string key = found.empty() ? std::string() : found.front().key;
     std::erase_if(found, [&](const RegInstruction& one) {
-        const bool otherName = options.operands.size() > 1 && one.name != options.operands[1];
+        const bool otherName = options.operands.size() > 1 && !basic::equalNoCase(one.name, options.operands[1]);
         return one.kind != RegInstruction::Kind::SetValue || one.key != key || otherName;
     });
-    if (found.empty() && options.operands.size() > 1) {
-        console.err(fmt::format("fernwick: {}: no value {}", options.operands[0], options.operands[1]), Tone::Error);
-        return kProjectErrors;
-    }
+    if (found.empty() && options.operands.size() > 1)
+        throw Refusal(kProjectErrors, fmt::format("{}: no value {}", options.operands[0], options.operands[1]));
     return printValues(options, console, found, false);
 }
 
@@ -113,17 +127,14 @@ int importFile(const Options& options, Console& console) {
         bytes.assign(std::istreambuf_iterator<char>(std::cin), {});
     } else {
         std::ifstream file(path, std::ios::binary);
-        if (!file) {
-            console.err(fmt::format("fernwick: {}: cannot be read", path), Tone::Error);
-            return kMachineTrouble;
-        }
+        if (!file) throw Refusal(kWrongUse, path + ": cannot be read");
         bytes.assign(std::istreambuf_iterator<char>(file), {});
     }
     return change(options, console, host::readRegText(bytes, path), path);
 }
 
 struct RegistryAction {
-    std::string_view name;
+    std::string_view name, operands;
     std::size_t fewest, most;
     int (*run)(const Options&, Console&);
 };
@@ -133,31 +144,32 @@ int exportKey(const Options& options, Console& console) {
     return printValues(options, console, host::exportRegistry(store, options.operands[0]), true);
 }
 
-constexpr std::array kRegistryActions{RegistryAction{"get", 1, 2, get}, RegistryAction{"set", 3, 3, set},
-                                      RegistryAction{"export", 1, 1, exportKey},
-                                      RegistryAction{"import", 1, 1, importFile}};
+constexpr std::array kRegistryActions{
+    RegistryAction{"get", "KEY [NAME]", 1, 2, get}, RegistryAction{"set", "KEY NAME VALUE", 3, 3, set},
+    RegistryAction{"export", "KEY", 1, 1, exportKey}, RegistryAction{"import", "FILE", 1, 1, importFile}};
+
+int statusOfRegistryError(int number) {
+    switch (number) {
+    case basic::kFileNotFound: return kProjectErrors;
+    case basic::kInvalidFileFormat:
+    case basic::kInvalidProcedureCall: return kWrongUse;
+    default: return kMachineTrouble;
+    }
+}
 
 } // namespace
 
 int runRegistry(const Options& options, Console& console) {
-    for (const auto& action : kRegistryActions) {
-        if (action.name != options.action) continue;
-        if (options.operands.size() < action.fewest || options.operands.size() > action.most) {
-            console.err(fmt::format("fernwick: registry {}: {} operands, see fernwick help registry", options.action,
-                                    options.operands.size()),
-                        Tone::Error);
-            return kWrongUse;
-        }
-        try {
-            return action.run(options, console);
-        } catch (const basic::RuntimeError& error) {
-            console.err(fmt::format("fernwick: {}", error.Description), Tone::Error);
-            return error.Number == basic::kFileNotFound                                  ? kProjectErrors
-                   : error.Number == 321 || error.Number == basic::kInvalidProcedureCall ? kWrongUse
-                                                                                         : kMachineTrouble;
-        }
+    const auto action = std::find_if(kRegistryActions.begin(), kRegistryActions.end(),
+                                     [&](const RegistryAction& one) { return one.name == options.action; });
+    if (options.operands.size() < action->fewest || options.operands.size() > action->most)
+        throw Refusal(kWrongUse,
+                      fmt::format("registry {} takes {}; see fernwick help registry", action->name, action->operands));
+    try {
+        return action->run(options, console);
+    } catch (const basic::RuntimeError& error) {
+        throw Refusal(statusOfRegistryError(error.Number), error.Description);
     }
-    return kWrongUse;
 }
 
 } // namespace cli

@@ -35,8 +35,8 @@ const StoredSetting& settingOf(const SettingOperands& operands) {
     const auto* setting = storedSettingNamed(operands.name);
     if (!setting)
         throw Refusal(kWrongUse, operands.name.empty()
-                                     ? "which setting? fernwick settings list names them"
-                                     : fmt::format("no setting {}; fernwick settings list names them", operands.name));
+                                     ? "which setting? fernwick help settings names them"
+                                     : fmt::format("no setting {}; fernwick help settings names them", operands.name));
     return *setting;
 }
 
@@ -94,7 +94,11 @@ void writeSetting(Session& session, const StoredSetting& setting, const std::vec
         console.out(fmt::format("{}: {} -> {}\n", setting.name, joinedValues(before), joinedValues(values)));
         return;
     }
+    const auto boxes = session.user().shown().size();
     setting.write(project, values);
+    if (session.user().shown().size() > boxes)
+        throw Refusal(kProjectErrors,
+                      fmt::format("{} was not set: the project's file can't hold the value", setting.name));
     console.detail(
         fmt::format("{}: {} -> {}", setting.name, joinedValues(before), joinedValues(setting.read(project))));
 }

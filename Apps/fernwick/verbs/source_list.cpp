@@ -33,7 +33,9 @@ public:
             else
                 list_.sources.push_back({path, {}});
         });
-        if (err.Number != 0) list_.problems.push_back(fmt::format("{}: {}", path, err.Description));
+        if (err.Number == 0) return;
+        const bool named = err.Description.rfind(path + ":", 0) == 0;
+        list_.problems.push_back(named ? err.Description : fmt::format("{}: {}", path, err.Description));
     }
 
     SourceList take() { return std::move(list_); }

@@ -80,6 +80,12 @@ StoredSetting steps(std::string_view name, std::string_view meaning) {
 using Text = const std::string&;
 using P = clsQLProject;
 
+/// The default icon is not stored.
+Values readIcon(const clsQLProject& project) {
+    const auto icon = project.IconFileName();
+    return {icon == project.DefaultIconFileName() ? std::string() : icon};
+}
+
 const std::vector<StoredSetting>& settingTable() {
     static const std::vector<StoredSetting> table{
         readOnly<bool, &P::IsQuinloftProject>("IsQuinloftProject", "the project is a Fernwick project"),
@@ -101,7 +107,12 @@ const std::vector<StoredSetting>& settingTable() {
         plain<bool, bool, &P::SpacesInNameEnabled, &P::SpacesInNameEnabled>("SpacesInNameEnabled",
                                                                             "underscores of the name show as blanks"),
         plain<bool, bool, &P::IconWarning, &P::IconWarning>("IconWarning", "the user was warned about the icon"),
-        plain<std::string, Text, &P::IconFileName, &P::IconFileName>("IconFileName", "application icon"),
+        {"IconFileName",
+         SettingKind::Text,
+         readIcon,
+         writePlain<std::string, Text, &P::IconFileName>,
+         {""},
+         "application icon"},
         plain<bool, bool, &P::Autosave, &P::Autosave>("Autosave", "save without asking when a compile needs it"),
         plain<std::string, Text, &P::GetLastSettingsDialog, &P::SetLastSettingsDialog>("LastSettingsDialog",
                                                                                        "settings page shown last"),

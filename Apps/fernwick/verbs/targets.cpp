@@ -52,6 +52,7 @@ int runTargets(const Options& options, Console& console) {
     targets.Initialize();
     const auto rows = targetRows(targets, session.addIn().devices);
     for (const auto& problem : targets.problems()) console.err(problem.text(), Tone::Error);
+    if (rows.empty()) console.err("fernwick: no design target is installed", Tone::Error);
     if (options.format == Format::Json) {
         console.out(dumpJson(jsonOfTargets(rows, targets)));
     } else {

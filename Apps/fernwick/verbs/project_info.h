@@ -1,0 +1,38 @@
+#pragma once
+// What a project holds, as `info` tells it.
+#include "Apps/fernwick/json_output.h"
+#include "Apps/fernwick/session.h"
+#include <string>
+#include <vector>
+
+namespace cli {
+
+struct ComponentInfo {
+    std::string name, kind, file;
+    int lines = 0; ///< of the code window
+};
+
+struct ReferenceInfo {
+    std::string name, guid, version, path;
+    bool builtIn = false, broken = false;
+};
+
+struct ProjectInfo {
+    std::string name, file, type, title, version, startup;
+    bool isFernwick = false;
+    std::string projectVersion, device;
+    std::vector<ComponentInfo> components;
+    std::vector<ReferenceInfo> references;
+    std::vector<std::string> preCompileSteps, postCompileSteps;
+    std::vector<host::LoadProblem> problems;
+};
+
+/// Of a session that has opened a project and taken it up.
+ProjectInfo infoOf(Session& session);
+
+std::size_t codeLinesOf(const ProjectInfo& info);
+std::size_t brokenReferencesOf(const ProjectInfo& info);
+
+Json jsonOfInfo(const ProjectInfo& info);
+
+} // namespace cli

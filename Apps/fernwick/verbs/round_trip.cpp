@@ -1,0 +1,103 @@
+#include "Apps/fernwick/verbs/round_trip.h"
+#include "Apps/fernwick/interruption.h"
+#include "Basic/runtime_error.h"
+#include "Host/files/encoding.h"
+#include "Host/files/group_file.h"
+#include "Host/files/path_lookup.h"
+#include "Host/files/project_file.h"
+#include "Host/files/property_value.h"
+#include "Host/files/resource_file.h"
+#include "Host/model/component.h"
+#include <algorithm>
+#include <unordered_set>
+
+namespace cli {
+
+namespace {
+
+FileVerdict compared(const std::string& file, const std::string& before, const std::string& after) {
+    const auto differs = std::mismatch(before.begin(), before.end(), after.begin(), after.end());
+    if (differs.first == before.end() && differs.second == after.end()) return {file, FileVerdict::Kind::Same, 0, {}};
+    return {file, FileVerdict::Kind::Changes, std::size_t(differs.first - before.begin()), {}};
+}
+
+FileVerdict unread(const std::string& file, const basic::ErrObject& error) {
+    const bool missing = error.Number == basic::kFileNotFound || error.Number == basic::kPathNotFound;
+    return {file, missing ? FileVerdict::Kind::Missing : FileVerdict::Kind::Unreadable, 0, error.Description};
+}
+
+class ProjectVerifier {
+public:
+    ProjectVerifier(const std::string& path, const basic::CodePage& usual)
+        : path_(path), folder_(path.substr(0, path.rfind('/'))), usual_(usual) {}
+
+    std::vector<FileVerdict> run() {
+        const auto content = host::readFile(path_);
+        host::ProjectFile project{content.bytes, host::codePageOf(content.bytes, usual_)};
+        if (!project.looksLikeProject())
+            throw basic::RuntimeError(basic::kInvalidFileFormat, path_ + ": is not a Visual Basic project file");
+        verdicts_.push_back(compared(path_, content.bytes, project.bytes()));
+        for (const auto& member : project.members())
+            if (host::isComponentKind(member.content.kind)) source(lookup_.find(folder_, member.content.value));
+        return std::move(verdicts_);
+    }
+
+private:
+    void source(const std::string& file) {
+        checkInterrupt();
+        if (!seen_.insert(file).second) return;
+        host::FileContent content;
+        const auto err = basic::attempt([&] { content = host::readFile(file); });
+        if (err.Number != 0) return verdicts_.push_back(unread(file, err));
+        host::SourceFile source{content.bytes, host::codePageOf(content.bytes, usual_)};
+        const auto& form = source.form();
+        source.code();
+        verdicts_.push_back(compared(file, content.bytes, source.bytes()));
+        resourcesOf(file, *form);
+    }
+
+    void resourcesOf(const std::string& file, const host::FormFile& form) {
+        if (!form.root()) return;
+        const auto slash = file.rfind('/');
+        const std::string folder = file.substr(0, slash);
+        resource(lookup_.find(folder, host::companionOf(file).substr(slash + 1)), false);
+        auto line = form.rootLine();
+        form.root()->eachPropertyWithin(
+            [&](const host::FormBlock&, std::string_view, std::string_view literal, std::size_t) {
+                const auto value = host::parsePropertyValue(literal);
+                if (value.kind == host::PropertyValue::Kind::Resource)
+                    resource(lookup_.find(folder, value.resource.file), true);
+            },
+            line);
+    }
+
+    void resource(const std::string& file, bool isNamed) {
+        if (seen_.count(file) > 0) return;
+        host::FileContent content;
+        const auto err = basic::attempt([&] { content = host::readFile(file); });
+        if (err.Number == basic::kFileNotFound && !isNamed) return;
+        seen_.insert(file);
+        if (err.Number != 0) return verdicts_.push_back(unread(file, err));
+        verdicts_.push_back(compared(file, content.bytes, host::ResourceFile{content.bytes}.bytes()));
+    }
+
+    std::string path_, folder_;
+    const basic::CodePage& usual_;
+    host::PathLookup lookup_;
+    std::unordered_set<std::string> seen_;
+    std::vector<FileVerdict> verdicts_;
+};
+
+} // namespace
+
+std::vector<FileVerdict> verifyProject(const std::string& path, const basic::CodePage& usual) {
+    return ProjectVerifier{host::absolutePath(path), usual}.run();
+}
+
+FileVerdict verifyGroup(const std::string& path, const basic::CodePage& usual) {
+    const auto content = host::readFile(path);
+    const host::GroupFile group{content.bytes, host::codePageOf(content.bytes, usual)};
+    return compared(path, content.bytes, group.bytes());
+}
+
+} // namespace cli
