@@ -45,9 +45,9 @@ bool modAddinPrefsManagement::CreateTavletCategoryList(basic::Collection<std::st
     const auto values = registry_.EnumValues(key.handle());
     if (!values || values->empty()) return false;
     basic::Suppressed quietly; // a second value of the same position is dropped
-    for (const auto& [name, data] : *values) {
-        quietly([&] { namesByData.Add(name, data); });
-        quietly([&] { dataByName.Add(data, name); });
+    for (const auto& value : *values) {
+        quietly([&] { namesByData.Add(value.name, value.text); });
+        quietly([&] { dataByName.Add(value.text, value.name); });
     }
     return true;
 }
