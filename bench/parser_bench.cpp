@@ -18,7 +18,9 @@ struct Measured {
 
 void measure(const char* path, compiler::SymbolTable& symbols, Measured& total) {
     std::ifstream file(path, std::ios::binary | std::ios::ate);
-    std::string bytes(static_cast<std::size_t>(file.tellg()), '\0');
+    std::string bytes;
+    bytes.reserve(static_cast<std::size_t>(file.tellg()) + compiler::SourceFile::kPadding);
+    bytes.resize(static_cast<std::size_t>(file.tellg()));
     file.seekg(0);
     file.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     const auto start = std::chrono::steady_clock::now();
