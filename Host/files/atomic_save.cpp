@@ -49,7 +49,8 @@ public:
             descriptor_ = ::open(path_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, mode);
             if (descriptor_ < 0 && errno != EEXIST) break;
         }
-        if (descriptor_ < 0) fail(errno == ENOENT ? ENOTDIR : errno);
+        if (descriptor_ < 0 && errno == ENOENT) throw missingFolder("cannot be saved", target_);
+        if (descriptor_ < 0) fail(errno);
     }
     SavingFile(const SavingFile&) = delete;
     SavingFile& operator=(const SavingFile&) = delete;

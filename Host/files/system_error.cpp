@@ -31,6 +31,12 @@ basic::RuntimeError systemError(int error, const std::string& what, const std::s
     return basic::RuntimeError(fileErrorNumber(error), fmt::format("{}: {}: {}", path, what, reason), "VBIDE", error);
 }
 
+basic::RuntimeError missingFolder(const std::string& what, const std::string& path) {
+    auto error = systemError(ENOENT, what, path);
+    error.Number = basic::kPathNotFound;
+    return error;
+}
+
 basic::RuntimeError hostError(int number, std::string description) {
     return basic::RuntimeError(number, std::move(description), "VBIDE");
 }

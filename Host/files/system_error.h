@@ -9,6 +9,9 @@ namespace host {
 /// path, source "VBIDE" and the errno as last system error.
 basic::RuntimeError systemError(int error, const std::string& what, const std::string& path);
 
+/// As systemError for a file whose folder is not there: error 76.
+basic::RuntimeError missingFolder(const std::string& what, const std::string& path);
+
 /// VB's number for an errno that a file operation gave.
 int fileErrorNumber(int error) noexcept;
 

@@ -14,7 +14,8 @@ namespace {
     const auto slash = path.rfind('/');
     const bool folderMissing = error == ENOENT && slash != std::string::npos && slash > 0 &&
                                ::access(path.substr(0, slash).c_str(), F_OK) != 0;
-    throw systemError(folderMissing ? ENOTDIR : error, "cannot be opened", path);
+    if (folderMissing) throw missingFolder("cannot be opened", path);
+    throw systemError(error, "cannot be opened", path);
 }
 
 class ReadDescriptor {

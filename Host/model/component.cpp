@@ -34,10 +34,9 @@ bool isVbName(const std::string& name) {
     return std::all_of(name.begin(), name.end(), [&](char c) { return isLetter(c) || isDigit(c) || c == '_'; });
 }
 
-std::shared_ptr<const ResourceFile> readResources(const std::string& folder, const std::string& name) {
-    PathLookup lookup;
+std::shared_ptr<const ResourceFile> readResources(const std::string& path) {
     try {
-        return std::make_shared<ResourceFile>(readFile(lookup.find(folder, name)).bytes);
+        return std::make_shared<ResourceFile>(readFile(path).bytes);
     } catch (const basic::RuntimeError&) {
         return nullptr; // a form whose companion is missing shows its properties' defaults
     }
@@ -201,13 +200,21 @@ DesignerHooks Component::designerHooks() {
         owner()->host()->tell(controlsEvents_->ItemRenamed, control, oldName, oldIndex);
     };
     hooks.renameForm = [this](const std::string& name) { Name(name); };
-    const auto folder = folderNameOf(origin_.path);
-    hooks.resources = [folder](const std::string& name) { return readResources(folder, name); };
+    hooks.resources = [this](const std::string& name) { return resources(name); };
     if (const auto host = owner()->host()) {
         hooks.classes = host->options().controlClasses;
         hooks.classOfProgId = host->options().classOfProgId;
     }
     return hooks;
+}
+
+/// Read once: a form refers to its companion many times.
+std::shared_ptr<const ResourceFile> Component::resources(const std::string& name) {
+    PathLookup lookup;
+    const auto path = lookup.find(folderNameOf(origin_.path), name);
+    const auto [entry, isNew] = resources_.try_emplace(path);
+    if (isNew) entry->second = readResources(path);
+    return entry->second;
 }
 
 FormDesigner& Component::designer() {

@@ -6,6 +6,7 @@
 #include "Host/files/text_file.h"
 #include "Host/model/designer_state.h"
 #include "Host/model/source_file.h"
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -72,6 +73,7 @@ public:
 
 private:
     FormDesigner& designer();
+    std::shared_ptr<const ResourceFile> resources(const std::string& name);
     DesignerHooks designerHooks();
     void copyCompanion(Project& project, const std::string& target);
 
@@ -83,7 +85,8 @@ private:
     bool dirty_ = false, removing_ = false;
     std::shared_ptr<ToolWindow> designerWindow_;
     std::shared_ptr<ModuleCode> code_;
-    std::unique_ptr<FormDesigner> designer_; // made at first use
+    std::map<std::string, std::shared_ptr<const ResourceFile>> resources_; // by path
+    std::unique_ptr<FormDesigner> designer_;                               // made at first use
     const vbide::Ref<vbide::VBControlsEvents> controlsEvents_ = basic::make<vbide::VBControlsEvents>();
 };
 

@@ -169,6 +169,15 @@ TEST(ProjectFile, SectionsAreNeitherSortedNorAdded) {
     EXPECT_EQ(bare.bytes(), "Type=Exe\r\n\r\n[fastBuild]\r\nfullPath=x\r\nb=1\r\n");
 }
 
+TEST(ProjectFile, ALongSectionKeepsItsOrder) {
+    auto bytes = "Type=Exe\r\n\r\n[RVB]\r\n"s;
+    for (int i = 55; i >= 1; --i) bytes += "DeleteClass" + std::to_string(i) + "=0\r\n";
+    ProjectFile file(bytes, kPage);
+    EXPECT_EQ(file.readProperty("RVB", "DeleteClass1"), "0");
+    file.writeProperty("RVB", "DeleteClass30", "1");
+    EXPECT_EQ(file.bytes(), with(bytes, "DeleteClass30=0", "DeleteClass30=1"));
+}
+
 TEST(ProjectFile, ASectionThatIsThereTwiceIsReadFromBoth) {
     ProjectFile file("Type=Exe\r\n\r\n[A]\r\nx=1\r\n\r\n[B]\r\n\r\n[a]\r\nx=9\r\ny=2\r\n", kPage);
     EXPECT_EQ(file.readProperty("A", "x"), "1");
