@@ -6,4 +6,4 @@ set -eu
 bench=$(realpath "${1:?usage: parser_vs_gbc3.sh PATH/TO/parser_bench}")
 work=$(mktemp -d "${BENCH_FOLDER:-/dev/shm}/parser-bench.XXXXXX")
 trap 'rm -rf "$work"' EXIT
-exec python3 "$(dirname "$0")/parser_vs_gbc3.py" "$bench" "$work"
+python3 "$(dirname "$0")/parser_vs_gbc3.py" "$bench" "$work"

@@ -9,6 +9,7 @@
 #include <cstdio>
 #include <cstring>
 #include <fmt/format.h>
+#include <malloc.h>
 
 namespace {
 
@@ -62,6 +63,13 @@ int printed(const std::string& text) {
     return good ? cli::kGood : cli::kMachineTrouble;
 }
 
+/// Memory that one file's tree frees serves the next file's instead of going back to the system page by page: a third
+/// of the time of a check. The process is over soon enough.
+void keepFreedMemory() {
+    mallopt(M_MMAP_THRESHOLD, 64 << 20);
+    mallopt(M_TRIM_THRESHOLD, 256 << 20);
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -72,6 +80,7 @@ int main(int argc, char** argv) {
     if (!parsed.error.empty()) std::fprintf(stderr, "%s\n", parsed.error.c_str());
     if (!parsed.run) return parsed.output.empty() ? parsed.status : printed(parsed.output);
 
+    keepFreedMemory();
     cli::watchForInterrupt();
     cli::Console console{parsed.options.verbosity};
     int status = guarded(parsed.options, console);

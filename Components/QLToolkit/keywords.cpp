@@ -26,7 +26,7 @@ constexpr std::array<std::string_view, static_cast<std::size_t>(Keyword::Width) 
 };
 
 constexpr std::size_t kLongestWord = 10;
-constexpr std::size_t kSlots = 1024;
+constexpr std::size_t kSlots = 512;
 
 struct WordKey {
     std::uint64_t first = 0;
@@ -42,7 +42,7 @@ constexpr std::uint64_t foldBytes(std::string_view s) {
 }
 
 constexpr std::size_t slotOf(std::uint64_t first, std::uint32_t length) {
-    return (first * 0x9E3779B97F4A7C15u >> 54) ^ length;
+    return (first * 0x9E3779B97F4A7C15u >> 55) ^ length;
 }
 
 constexpr auto kTable = [] {
@@ -58,13 +58,21 @@ constexpr auto kTable = [] {
     return table;
 }();
 
+// Which lengths words with a given first letter have, as bits: most names are told from words by this alone.
+constexpr auto kLengths = [] {
+    std::array<std::uint16_t, 32> table{};
+    for (const auto word : kWords)
+        if (!word.empty()) table[word[0] & 31] |= static_cast<std::uint16_t>(1u << word.size());
+    return table;
+}();
+
 static_assert(kWords.back() == "Width" && kWords[static_cast<std::size_t>(kLastReserved)] == "Xor" &&
               kWords[static_cast<std::size_t>(kLastType)] == "Variant");
 
 } // namespace
 
 Keyword keywordOf(const char* name, std::uint32_t length) {
-    if (length < 2 || length > kLongestWord) return Keyword::None;
+    if (length > kLongestWord || (kLengths[*name & 31] >> length & 1) == 0) return Keyword::None;
     const auto first = foldedWord(name, length);
     const auto rest = length > 8 ? static_cast<std::uint16_t>(foldedWord(name + 8, length - 8)) : std::uint16_t{0};
     for (std::size_t slot = slotOf(first, length) % kSlots;; slot = (slot + 1) % kSlots) {

@@ -27,7 +27,7 @@ bool isAttributeLine(std::string_view line) { return line.size() > 10 && equalWo
 // Text has tabs, line ends, now and then a form feed, NULs or the end mark of old editors; not much else below a blank.
 bool looksBinary(std::string_view bytes) {
     if (bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF")) return true;
-    const auto sample = bytes.substr(0, 65536);
+    const auto sample = bytes.substr(0, 8192);
     const auto odd = std::count_if(sample.begin(), sample.end(), [](char c) {
         const auto u = static_cast<unsigned char>(c);
         return (u < 32 && u != 0 && (u < 9 || u > 13) && u != 26) || u == 127;
