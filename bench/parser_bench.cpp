@@ -37,7 +37,7 @@ void measure(const char* path, compiler::SymbolTable& symbols, Measured& total) 
 } // namespace
 
 int main(int argc, char** argv) {
-    mallopt(M_MMAP_THRESHOLD, 64 << 20); // as in fernwick: what a module frees serves the next
+    mallopt(M_MMAP_THRESHOLD, 32 << 20); // as in fernwick: what a module frees serves the next
     mallopt(M_TRIM_THRESHOLD, 256 << 20);
     compiler::SymbolTable symbols;
     Measured total;

@@ -66,7 +66,7 @@ int printed(const std::string& text) {
 /// Memory that one file's tree frees serves the next file's instead of going back to the system page by page: a third
 /// of the time of a check. The process is over soon enough.
 void keepFreedMemory() {
-    mallopt(M_MMAP_THRESHOLD, 64 << 20);
+    mallopt(M_MMAP_THRESHOLD, 32 << 20);
     mallopt(M_TRIM_THRESHOLD, 256 << 20);
 }
 
