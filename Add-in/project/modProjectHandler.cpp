@@ -37,12 +37,11 @@ basic::Ref<clsQLProject> modProjectHandler::GetQLProject(const basic::Ref<vbide:
 
 void modProjectHandler::RemoveProjectComponents(const basic::Ref<clsQLProject>& project) {
     Procedure here{services_.errors, "modProjectHandler.RemoveProjectComponents"};
-    const auto components = here.value([&] { return project->VBProject()->VBComponents(); });
-    for (const auto& component : here.value([&] { return components->items(); }))
-        removeComponent(here, components, component);
+    for (const auto& component : here.value([&] { return project->VBProject()->VBComponents()->items(); }))
+        removeComponent(here, project->VBProject(), component);
 }
 
-void modProjectHandler::removeComponent(Procedure& here, const basic::Ref<vbide::VBComponents>& components,
+void modProjectHandler::removeComponent(Procedure& here, const basic::Ref<vbide::VBProject>& project,
                                         const basic::Ref<vbide::VBComponent>& component) {
     auto& files = services_.platform.files;
     const bool hasCompanion = here.test([&] { return component->FileCount() > 1; });
@@ -52,7 +51,7 @@ void modProjectHandler::removeComponent(Procedure& here, const basic::Ref<vbide:
         component->SaveAs(path);
         component->IsDirty(false);
     });
-    here([&] { components->Remove(component); });
+    here([&] { project->VBComponents()->Remove(component); });
     const auto remove = [&](const std::string& file) {
         if (files.FileExists(file)) here([&] { files.DeleteFile(file, true); });
     };

@@ -43,7 +43,7 @@ public:
     void RemoveProjectComponents(const basic::Ref<clsQLProject>& project);
 
 private:
-    void removeComponent(Procedure& here, const basic::Ref<vbide::VBComponents>& components,
+    void removeComponent(Procedure& here, const basic::Ref<vbide::VBProject>& project,
                          const basic::Ref<vbide::VBComponent>& component);
     void box(std::string_view text, int buttons);
 

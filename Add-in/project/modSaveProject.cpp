@@ -48,8 +48,10 @@ bool modSaveProject::SaveProject(const basic::Ref<vbide::VBProject>& project, bo
 
 bool modSaveProject::ProjectIsDirty(const basic::Ref<vbide::VBProject>& project) {
     Procedure here{services_.errors, "modSaveProject.ProjectIsDirty"};
-    bool dirty = here.value([&] { return project->IsDirty(); });
-    for (const auto& component : here.value([&] { return project->VBComponents()->items(); })) {
+    bool dirty = here.test([&] { return project->IsDirty(); });
+    std::vector<basic::Ref<vbide::VBComponent>> components;
+    if (!here([&] { components = project->VBComponents()->items(); })) dirty = true; // what can't be told may be lost
+    for (const auto& component : components) {
         if (!here.test([&] { return saveableKind(*component.operator->()) != nullptr; })) continue;
         if (here.test([&] { return component->FileNames(1).empty() || component->IsDirty(); })) dirty = true;
     }
@@ -71,7 +73,9 @@ bool modSaveProject::AskForSaveProject(const basic::Ref<vbide::VBProject>& proje
         });
         return false;
     }
-    for (const auto& component : here.value([&] { return project->VBComponents()->items(); }))
+    std::vector<basic::Ref<vbide::VBComponent>> components;
+    if (!here([&] { components = project->VBComponents()->items(); })) return false;
+    for (const auto& component : components)
         if (!saveComponent(here, files, component, folder)) return false;
     return !here.test([&] { return project->IsDirty(); }) || saveProjectFile(here, files, project, folder);
 }
@@ -84,7 +88,8 @@ std::string modSaveProject::startFolder() const {
 
 bool modSaveProject::saveComponent(Procedure& here, const basic::Ref<FileSystemObject>& files,
                                    const basic::Ref<vbide::VBComponent>& component, const std::string& folder) {
-    const auto* kind = here.value([&] { return saveableKind(*component.operator->()); });
+    const SaveableKind* kind = nullptr;
+    if (!here([&] { kind = saveableKind(*component.operator->()); })) return false;
     if (!kind) return true;
     auto path = here.value([&] { return component->FileNames(1); });
     if (path.empty()) {

@@ -1,0 +1,73 @@
+#include "project_world.h"
+
+using namespace fernwick;
+
+namespace {
+struct ProjectDevice : test::ProjectTest {
+    basic::Ref<test::FakeTarget> palm = addTarget("Palm"), pocket = addTarget("Pocket");
+    basic::Ref<clsQLProject> project = open(test::SampleProject{}.handheld("Palm"));
+};
+using ProjectIcon = ProjectDevice;
+} // namespace
+
+TEST_F(ProjectDevice, SettingItMakesItTheOneCompileTarget) {
+    project->TargetDevice("Pocket");
+    EXPECT_EQ(project->TargetDevice(), "Pocket");
+    EXPECT_EQ(stored(project, "NumCompileTargets"), "1");
+    EXPECT_EQ(stored(project, "CompileTarget1"), "Pocket");
+    EXPECT_EQ(project->designTarget()->Key(), "Pocket");
+}
+
+TEST_F(ProjectDevice, TheDesignTargetIsFetchedOnceForAKey) {
+    EXPECT_EQ(project->VBPTemplate(), "");
+    project->InitDesignTarget();
+    EXPECT_EQ(project->VBPTemplate(), "/templates/Palm.vbp");
+    EXPECT_EQ(project->FormTemplate() + project->ModuleTemplate() + project->ClassModuleTemplate(),
+              "/templates/Palm.frm/templates/Palm.bas/templates/Palm.cls");
+    const auto first = project->designTarget();
+    targets->list[0] = basic::make<test::FakeTarget>("Palm");
+    project->InitDesignTarget();
+    project->TargetDevice("Palm");
+    EXPECT_EQ(project->designTarget(), first);
+    project->TargetDevice("Pocket");
+    project->TargetDevice("Palm");
+    EXPECT_FALSE(project->designTarget() == first);
+}
+
+TEST_F(ProjectDevice, AnUnknownKeyHasNoDesignTarget) {
+    project->TargetDevice("Nobody");
+    EXPECT_FALSE(project->designTarget());
+    EXPECT_TRUE(reports().empty());
+}
+
+TEST_F(ProjectIcon, TheDefaultIconIsStoredAsNothing) {
+    project->IconFileName(path("installed/VB TOOLKIT/bin/QLDEFAULT.ICO"));
+    EXPECT_EQ(stored(project, "IconFileName"), "");
+    EXPECT_EQ(project->IconFileName(), project->DefaultIconFileName());
+    project->IconFileName("");
+    EXPECT_EQ(stored(project, "IconFileName"), "");
+}
+
+TEST_F(ProjectIcon, OneInTheProjectFolderIsStoredRelative) {
+    host.folder.write("Icons/my.ico", "");
+    project->IconFileName(path("Icons/my.ico"));
+    EXPECT_EQ(stored(project, "IconFileName"), "Icons\\my.ico");
+    EXPECT_EQ(project->IconFileName(), path("Icons/my.ico"));
+}
+
+TEST_F(ProjectIcon, OneElsewhereIsStoredAsGiven) {
+    project->IconFileName("/usr/share/my.ico");
+    EXPECT_EQ(stored(project, "IconFileName"), "/usr/share/my.ico");
+    EXPECT_EQ(project->IconFileName(), "/usr/share/my.ico");
+}
+
+TEST_F(ProjectIcon, APathWithADriveIsReturnedAsItStands) {
+    project->VBProject()->WriteProperty("Quinloft Global", "IconFileName", "C:\\Icons\\my.ico");
+    EXPECT_EQ(project->IconFileName(), "C:\\Icons\\my.ico");
+}
+
+TEST_F(ProjectIcon, AProjectWithoutAFileStoresItAsGiven) {
+    const auto fresh = wrap(host.ide->VBProjects()->AddFromTemplate(test::SampleProject{"T"}.writeTo(host.folder)));
+    fresh->IconFileName(path("my.ico"));
+    EXPECT_EQ(stored(fresh, "IconFileName"), path("my.ico"));
+}

@@ -1,0 +1,160 @@
+#include "project_world.h"
+
+using namespace fernwick;
+
+namespace {
+struct ProjectSettings : test::ProjectTest {
+    auto openWith(const std::string& values) {
+        return open(test::SampleProject{"A_B"}.sections("\r\n[Quinloft Global]\r\n" + values));
+    }
+};
+} // namespace
+
+TEST_F(ProjectSettings, DefaultsWithoutAnyKey) {
+    const auto project = open(test::SampleProject{"A_B"});
+    EXPECT_FALSE(project->IsQuinloftProject());
+    EXPECT_EQ(project->TargetDevice(), "");
+    EXPECT_EQ(project->TavletStyleID(), 0);
+    EXPECT_EQ(project->DefaultFontName(), "");
+    EXPECT_EQ(project->DefaultFontSize(), 0);
+    EXPECT_EQ(project->DefaultFontStyle(), 0);
+    EXPECT_EQ(project->DefaultFormColor(), 0);
+    EXPECT_EQ(project->DefaultFormWidth(), 0);
+    EXPECT_EQ(project->defaultFormHeight(), 0);
+    EXPECT_EQ(project->ProjectVersion(), "1.0");
+    EXPECT_FALSE(project->SpacesInNameEnabled());
+    EXPECT_FALSE(project->IconWarning());
+    EXPECT_EQ(project->IconFileName(), path("Installed/VB Toolkit/Bin/qldefault.ico"));
+    EXPECT_FALSE(project->Autosave());
+    EXPECT_EQ(project->GetLastSettingsDialog(), "");
+    EXPECT_EQ(project->TwipsPerPixelX(), 0);
+    EXPECT_EQ(project->TwipsPerPixelY(), 0);
+    EXPECT_EQ(project->LastCompileVersion(), "");
+    EXPECT_TRUE(project->ScanReferences());
+    EXPECT_FALSE(project->OpenedFromQLTemplate());
+    EXPECT_FALSE(project->IsStartUpProject());
+    EXPECT_TRUE(reports().empty());
+}
+
+TEST_F(ProjectSettings, WhatIsSetIsStoredAsTextAndRead) {
+    const auto project = open(test::SampleProject{});
+    project->TavletStyleID(3);
+    project->DefaultFontName("Tahoma");
+    project->DefaultFormColor(-2147483643);
+    project->defaultFormHeight(-1);
+    project->SpacesInNameEnabled(true);
+    project->Autosave(true);
+    project->TwipsPerPixelX(12.5F);
+    project->ScanReferences(true);
+    project->OpenedFromQLTemplate(true);
+    project->LastCompileVersion("3.5.0 (0624)");
+    EXPECT_EQ(stored(project, "TavletStyleID"), "3");
+    EXPECT_EQ(stored(project, "DefaultFontName"), "Tahoma");
+    EXPECT_EQ(stored(project, "DefaultFormColor"), "-2147483643");
+    EXPECT_EQ(stored(project, "DefaultFormHeight"), "-1");
+    EXPECT_EQ(stored(project, "SpacesInNameEnabled"), "True");
+    EXPECT_EQ(stored(project, "AutoSaveProject"), "True");
+    EXPECT_EQ(stored(project, "TwipsPerPixelX"), "12.5");
+    EXPECT_EQ(stored(project, "ScanReferences"), "-1");
+    EXPECT_EQ(stored(project, "OpenedFromQLTemplate"), "True");
+    EXPECT_EQ(project->DefaultFormColor(), -2147483643);
+    EXPECT_EQ(project->TwipsPerPixelX(), 12.5F);
+    EXPECT_TRUE(project->Autosave() && project->ScanReferences() && project->OpenedFromQLTemplate());
+    EXPECT_EQ(project->LastCompileVersion(), "3.5.0 (0624)");
+}
+
+TEST_F(ProjectSettings, TextsThatDontConvertReadAsZero) {
+    const auto project = openWith("DefaultFontSize=big\r\nAutoSaveProject=maybe\r\nTwipsPerPixelX=wide\r\n");
+    EXPECT_EQ(project->DefaultFontSize(), 0);
+    EXPECT_FALSE(project->Autosave());
+    EXPECT_EQ(project->TwipsPerPixelX(), 0);
+    EXPECT_TRUE(reports().empty());
+}
+
+TEST_F(ProjectSettings, ScanReferencesTakesEitherForm) {
+    EXPECT_FALSE(openWith("ScanReferences=0\r\n")->ScanReferences());
+}
+TEST_F(ProjectSettings, ScanReferencesTakesWords) {
+    EXPECT_FALSE(openWith("ScanReferences=False\r\n")->ScanReferences());
+}
+TEST_F(ProjectSettings, ScanReferencesOfOtherWordsIsTrueAndReported) {
+    EXPECT_TRUE(openWith("ScanReferences=perhaps\r\n")->ScanReferences());
+    EXPECT_EQ(reports(), Texts{"clsQLProject.Get_ScanReferences [13]"});
+}
+
+TEST_F(ProjectSettings, AnEmptyVersionIsTheOldFormat) {
+    EXPECT_EQ(openWith("ProjectVersion=\r\n")->ProjectVersion(), "1.0");
+}
+
+TEST_F(ProjectSettings, PathsOfEarlierVersionsReadAsKeys) {
+    const auto project = openWith("TargetDevice=SOFTWARE\\Quinloft\\DesignTargets\\PocketPC\r\n");
+    EXPECT_EQ(project->TargetDevice(), "PocketPC-SH3");
+    EXPECT_EQ(stored(project, "TargetDevice"), "SOFTWARE\\Quinloft\\DesignTargets\\PocketPC");
+}
+TEST_F(ProjectSettings, ThePalmPathToo) {
+    EXPECT_EQ(openWith("TargetDevice=SOFTWARE\\Quinloft\\DesignTargets\\PalmOS\r\n")->TargetDevice(),
+              "PalmOS-DragonBall");
+}
+TEST_F(ProjectSettings, OldPathsMatchByLetterCase) {
+    EXPECT_EQ(openWith("TargetDevice=Software\\Quinloft\\DesignTargets\\PocketPC\r\n")->TargetDevice(),
+              "Software\\Quinloft\\DesignTargets\\PocketPC");
+}
+
+TEST_F(ProjectSettings, TheStartUpMarkerMatchesExactly) {
+    EXPECT_TRUE(openWith("StartUpProject={8A515BDE-2BCC-4ed4-8F0A-99E4522CC1BB}\r\n")->IsStartUpProject());
+}
+TEST_F(ProjectSettings, AStartUpMarkerInSmallLettersIsNone) {
+    EXPECT_FALSE(openWith("StartUpProject={8a515bde-2bcc-4ed4-8f0a-99e4522cc1bb}\r\n")->IsStartUpProject());
+}
+
+TEST_F(ProjectSettings, TheLastSettingsPageCantBeCleared) {
+    const auto project = openWith("");
+    project->SetLastSettingsDialog("Compiler Settings");
+    project->SetLastSettingsDialog("");
+    EXPECT_EQ(project->GetLastSettingsDialog(), "Compiler Settings");
+}
+
+TEST_F(ProjectSettings, NamesShowBlanksOnlyWhereEnabled) {
+    const auto project = openWith("");
+    EXPECT_EQ(project->ProjectName(), "A_B");
+    EXPECT_EQ(project->DisplayName(), "A_B");
+    project->SpacesInNameEnabled(true);
+    EXPECT_EQ(project->DisplayName(), "A B");
+    EXPECT_EQ(project->ProjectPath(), host.folder.path());
+}
+
+TEST_F(ProjectSettings, CountsForms) {
+    EXPECT_EQ(open(test::SampleProject{}.form("frmOne").module("modTwo").form("frmThree"))->NumForms(), 2);
+}
+
+TEST_F(ProjectSettings, ANewIdentityIsAGuidWithoutBraces) {
+    const auto project = openWith("");
+    project->CreateNewModId();
+    const auto first = stored(project, "MODID");
+    EXPECT_THAT(first, ::testing::MatchesRegex("[0-9A-F]{8}(-[0-9A-F]{4}){3}-[0-9A-F]{12}"));
+    project->CreateNewModId();
+    EXPECT_NE(stored(project, "MODID"), first);
+}
+
+TEST_F(ProjectSettings, WhatTheHostRefusesIsReportedUnderItsProperty) {
+    const auto vbProject = traced();
+    vbProject->readOnly = true;
+    const auto project = wrap(vbProject);
+    project->DefaultFontSize(9);
+    project->Autosave(true);
+    EXPECT_EQ(reports(), (Texts{"clsQLProject.Let_DefaultFontSize [75]", "clsQLProject.Let_Autosave [75]"}));
+}
+
+TEST_F(ProjectSettings, AFailedReadThatIsNoAbsentValueIsReportedByThree) {
+    const auto vbProject = traced();
+    const auto project = wrap(vbProject);
+    vbProject->removed = true;
+    EXPECT_EQ(project->DefaultFontSize(), 0);
+    EXPECT_EQ(project->LastCompileVersion(), "");
+    EXPECT_TRUE(project->ScanReferences());
+    EXPECT_FALSE(project->OpenedFromQLTemplate());
+    EXPECT_EQ(project->ProjectName(), "");
+    EXPECT_EQ(reports(),
+              (Texts{"clsQLProject.Get_LastCompileVersion [40198]", "clsQLProject.Get_ScanReferences [40198]",
+                     "clsQLProject.Get_OpenedFromQLTemplate [40198]", "clsQLProject.Get_ProjectName [40198]"}));
+}
