@@ -1,0 +1,95 @@
+#pragma once
+// Design targets without data beyond their names, and the validation of their pipes.
+#include "Add-in/platform/classes.h"
+#include "Add-in/platform/design_targets.h"
+#include "Add-in/platform/pipes.h"
+#include <set>
+
+namespace test {
+
+class FakeTarget : public designtargetaccess::IQLDesignTarget {
+public:
+    explicit FakeTarget(std::string key) : key_(std::move(key)) {}
+    std::string Key() const override { return key_; }
+    std::string PlatformName() const override { return "Platform"; }
+    std::string Name() const override { return "&" + key_; }
+    std::string RequiredPipeProgID() const override { return "FakePipe"; }
+    std::string DefaultFormColor() const override { return "0"; }
+    std::string DefaultFontSize() const override { return "9"; }
+    std::string DefaultFormWidth() const override { return "160"; }
+    std::string DefaultFormHeight() const override { return "160"; }
+    std::string DefaultFontName() const override { return "Font"; }
+    std::string TavletStyleID() const override { return "2"; }
+    bool GetOption(const std::string&, std::string&) const override { return false; }
+    void GetSupportedTavlets(std::vector<std::string>&, std::vector<std::string>&,
+                             std::vector<std::string>&) const override {}
+    std::int32_t NumSupportedTavlets() const override { return 0; }
+    void GetSupportedReferences(std::vector<std::string>&) const override {}
+    std::int32_t NumSupportedReferences() const override { return 0; }
+    designtargetaccess::ReferenceValidity ValidateReference(const std::string&) const override { return {}; }
+    bool FindModule(const std::string&) const override { return false; }
+    void GetPropertyDefaults(std::vector<std::string>&, std::vector<std::string>&) const override {}
+    std::int32_t NumPropertyDefaults() const override { return 0; }
+    bool IsTabStopOff(const std::string&) const override { return false; }
+    std::string VBPTemplate() const override { return {}; }
+    std::string FormTemplate() const override { return {}; }
+    std::string ModuleTemplate() const override { return {}; }
+    std::string ClassModuleTemplate() const override { return {}; }
+
+private:
+    std::string key_;
+};
+
+/// What is installed, changed by a test at any time.
+struct FakeTargets {
+    /// Keys of the known targets.
+    std::vector<std::string> known;
+    /// Keys that the pipe refuses.
+    std::set<std::string> refused;
+
+    explicit FakeTargets(fernwick::Classes& classes)
+        : manager_(classes.RegisterClass("DesignTargetAccess.QLDesignTargetMgr",
+                                         [this] { return basic::make<Manager>(*this); })),
+          validation_(classes.RegisterClass("FakePipe.Validation", [this] { return basic::make<Validation>(*this); })) {
+    }
+
+private:
+    class Manager : public designtargetaccess::IQLDesignTargetMgr {
+    public:
+        explicit Manager(const FakeTargets& targets) : targets_(targets) {}
+        std::int32_t Count() const override { return std::int32_t(targets_.known.size()); }
+        void Initialize() override {}
+        bool GetDesignTarget(const std::string& key,
+                             basic::Ref<designtargetaccess::IQLDesignTarget>& target) const override {
+            std::int32_t position = 0;
+            target = nullptr;
+            if (!FindDesignTarget(key, position)) return false;
+            target = basic::make<FakeTarget>(key);
+            return true;
+        }
+        bool FindDesignTarget(const std::string& key, std::int32_t& position) const override {
+            const auto& known = targets_.known;
+            position = std::int32_t(std::find(known.begin(), known.end(), key) - known.begin());
+            return position < Count();
+        }
+        basic::Ref<designtargetaccess::IQLDesignTarget> GetDesignTargetByIndex(std::int16_t index) const override {
+            if (index < 0 || index >= Count()) return nullptr;
+            return basic::make<FakeTarget>(targets_.known[std::size_t(index)]);
+        }
+
+    private:
+        const FakeTargets& targets_;
+    };
+    class Validation : public qlpipe::IQLPipeValidation {
+    public:
+        explicit Validation(const FakeTargets& targets) : targets_(targets) {}
+        bool IsDeviceSupported(const std::string& key) override { return targets_.refused.count(key) == 0; }
+
+    private:
+        const FakeTargets& targets_;
+    };
+
+    std::shared_ptr<void> manager_, validation_;
+};
+
+} // namespace test

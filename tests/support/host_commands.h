@@ -1,0 +1,51 @@
+#pragma once
+// The commands of the upper rooms, told in the trace.
+#include "Add-in/core/ide_commands.h"
+#include "traced_host.h"
+
+namespace test {
+
+class TracedCommands : public fernwick::IdeCommands {
+public:
+    explicit TracedCommands(Trace& trace)
+        : save(basic::make<TracedControl>(trace, "host: save project")),
+          remove(basic::make<TracedControl>(trace, "host: remove project")),
+          trace_(trace) {}
+
+    bool menuStands = true, toolbarStands = true, supportToolbarStands = true;
+    Ref<TracedControl> save, remove, converter;
+
+    bool SetUpQuinloftMenu(const Ref<vbide::VBE>&) override { return did("menu"), menuStands; }
+    bool SetupQuinloftToolbar() override { return did("toolbar"), toolbarStands; }
+    bool SetupSupportToolbar() override { return did("support toolbar"), supportToolbarStands; }
+    void RemoveQuinloftMenu() override { did("remove menu"); }
+    void RemoveQuinloftToolbar() override { did("remove toolbar"); }
+    void RemoveSupportToolbar() override { did("remove support toolbar"); }
+    void EnableQuinloftMenu() override { did("enable menu"); }
+    void EnableQuinloftToolbar() override { did("enable toolbar"); }
+    void EnableSupportToolbar() override { did("enable support toolbar"); }
+    void DisableQuinloftMenu() override { did("disable menu"); }
+    void DisableQuinloftToolbar() override { did("disable toolbar"); }
+    void DisableSupportToolbar() override { did("disable support toolbar"); }
+    void SetupDefaultTargetName(const std::string& key) override { did("default target " + key); }
+    Ref<office::CommandBarControl> saveProjectItem() override { return asked(save); }
+    Ref<office::CommandBarControl> gFileThirdItem() override { return asked(save); }
+    Ref<office::CommandBarControl> gFileFourthItem() override { return asked(remove); }
+    Ref<office::CommandBarControl> FindConverterMenuItem() override { return asked(converter); }
+    void BackupClipboardData() override { did("backup clipboard"); }
+    void RestoreClipboardData() override { did("restore clipboard"); }
+    void createZoomWindow() override { did("create zoom window"); }
+    void InitZoomWindow() override { did("init zoom window"); }
+    void ShowGettingStarted() override { did("introduction"); }
+    void ShowProjectManagerOnDelay() override { did("project manager"); }
+
+private:
+    void did(const std::string& what) { trace_.effect(what); }
+    Ref<TracedControl> asked(const Ref<TracedControl>& control) {
+        trace_.read();
+        return control;
+    }
+    Trace& trace_;
+};
+
+} // namespace test

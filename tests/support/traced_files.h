@@ -1,0 +1,113 @@
+#pragma once
+// Files in memory, with "/" for their separator. Each member that looks at one counts as a call and may fail.
+#include "Add-in/platform/files.h"
+#include "trace.h"
+#include <algorithm>
+#include <map>
+
+namespace test {
+
+class TracedFiles : public fernwick::FileSystemObject {
+public:
+    explicit TracedFiles(Trace& trace) : trace_(trace) {}
+
+    struct File {
+        std::string bytes;
+        int attributes = 0;
+        std::int64_t time = 1;
+    };
+    std::map<std::string, File> files;
+    /// How often a whole file was read.
+    mutable int reads = 0;
+
+    /// A question that never fails.
+    bool FileExists(const std::string& path) const override { return files.count(Canonical(path)) > 0; }
+    bool FolderExists(const std::string& path) const override {
+        const auto at = files.lower_bound(Canonical(path) + "/");
+        return at != files.end() && at->first.starts_with(Canonical(path) + "/");
+    }
+    int GetAttributes(const std::string& path) const override { return at(path).attributes; }
+    std::int64_t GetSize(const std::string& path) const override { return std::int64_t(at(path).bytes.size()); }
+    std::int64_t GetDateLastModified(const std::string& path) const override { return at(path).time; }
+    std::string GetAbsolutePathName(const std::string& path) const override {
+        trace_.read();
+        return Canonical(path);
+    }
+    std::string GetParentFolderName(const std::string& path) const override {
+        const auto slash = Canonical(path).rfind('/');
+        return slash == std::string::npos ? "" : Canonical(path).substr(0, slash);
+    }
+    std::string GetFileName(const std::string& path) const override {
+        return Canonical(path).substr(Canonical(path).rfind('/') + 1);
+    }
+    std::string GetBaseName(const std::string& path) const override {
+        const auto name = GetFileName(path);
+        return name.substr(0, name.rfind('.'));
+    }
+    std::string GetExtensionName(const std::string& path) const override {
+        const auto name = GetFileName(path);
+        const auto point = name.rfind('.');
+        return point == std::string::npos ? "" : name.substr(point + 1);
+    }
+    std::string BuildPath(const std::string& folder, const std::string& name) const override {
+        return folder.empty() || folder.ends_with('/') ? folder + name : folder + "/" + Canonical(name);
+    }
+    std::string Canonical(const std::string& path) const override {
+        std::string native = path;
+        std::replace(native.begin(), native.end(), '\\', '/');
+        return native;
+    }
+    bool SamePath(const std::string& a, const std::string& b) const override { return Canonical(a) == Canonical(b); }
+    std::string WithSeparator(const std::string& folder) const override { return BuildPath(folder, ""); }
+    bool IsAbsolute(const std::string& path) const override { return Canonical(path).starts_with('/'); }
+    std::string GetSpecialFolder(fernwick::SpecialFolder) const override { return "/tmp"; }
+    std::string HomeFolder() const override { return "/home"; }
+    std::vector<std::string> Files(const std::string&) const override { return {}; }
+
+    basic::Ref<fernwick::TextStream> OpenTextFile(const std::string& path) override {
+        return basic::make<Lines>(at(path).bytes);
+    }
+    basic::Ref<fernwick::TextStream> CreateTextFile(const std::string&, bool) override {
+        throw basic::RuntimeError(basic::kPathFileAccessError);
+    }
+    std::string ReadBytes(const std::string& path) const override {
+        ++reads;
+        return at(path).bytes;
+    }
+    void WriteBytes(const std::string& path, const std::string& bytes) override { files[Canonical(path)] = {bytes}; }
+    void SetDateLastModified(const std::string& path, std::int64_t time) override {
+        files[Canonical(path)].time = time;
+    }
+    void CopyFile(const std::string& from, const std::string& to, bool) override { files[Canonical(to)] = at(from); }
+    void DeleteFile(const std::string& path, bool) override { files.erase(Canonical(path)); }
+
+private:
+    /// Lines that end in CR LF.
+    class Lines : public fernwick::TextStream {
+    public:
+        explicit Lines(std::string bytes) : rest_(std::move(bytes)) {}
+        bool AtEndOfStream() const override { return rest_.empty(); }
+        std::string ReadLine() override {
+            const auto end = rest_.find("\r\n");
+            const auto line = rest_.substr(0, end);
+            rest_ = end == std::string::npos ? "" : rest_.substr(end + 2);
+            return line;
+        }
+        void WriteLine(const std::string&) override { throw basic::RuntimeError(54); }
+        void Close() override {}
+
+    private:
+        std::string rest_;
+    };
+
+    const File& at(const std::string& path) const {
+        trace_.read();
+        const auto file = files.find(Canonical(path));
+        if (file == files.end()) throw basic::RuntimeError(basic::kFileNotFound);
+        return file->second;
+    }
+
+    Trace& trace_;
+};
+
+} // namespace test

@@ -1,0 +1,205 @@
+#pragma once
+// The world of a test: a platform in memory, all of whose calls are told in one trace and may fail.
+#include "Add-in/platform/controls.h"
+#include "Add-in/platform/platform.h"
+#include "recording_report.h"
+#include "traced_files.h"
+#include "traced_registry.h"
+#include <deque>
+#include <functional>
+#include <map>
+
+namespace test {
+
+/// Shows nothing. Boxes are answered from a queue, forms by what the test says; a form comes to the front again
+/// after each box over it, as with windows.
+class TracedUser : public fernwick::Interaction {
+public:
+    explicit TracedUser(Trace& trace) : trace_(trace) {}
+    /// Answers of boxes that ask something, in their order.
+    std::deque<int> answers;
+    std::map<std::string, std::function<void(fernwick::Form&)>> whenShown;
+
+    void showModal(fernwick::Form& form) override {
+        trace_.effect(std::string("form ") + form.typeName());
+        shown_.push_back(&form);
+        struct Gone {
+            std::vector<fernwick::Form*>& shown;
+            ~Gone() { shown.pop_back(); }
+        } gone{shown_};
+        form.activate();
+        if (const auto act = whenShown.find(form.typeName()); form.Visible() && act != whenShown.end())
+            act->second(form);
+        if (form.Visible()) form.Unload();
+    }
+    int MsgBox(const std::string& text, int buttons, const std::string& title) override {
+        trace_.effect("box " + std::to_string(buttons) + " " + title + ": " + text);
+        if (!shown_.empty()) shown_.back()->activate();
+        if ((buttons & 7) == fernwick::vbOKOnly) return fernwick::vbOK;
+        if (answers.empty()) return fernwick::vbCancel;
+        const int answer = answers.front();
+        answers.pop_front();
+        return answer;
+    }
+    void ShowSave(fernwick::CommonDialog&) override { trace_.effect("save dialog"); }
+    void MessageBeep(int type) override { trace_.effect("beep " + std::to_string(type)); }
+    void SetCursor(fernwick::MousePointerShape shape) override { trace_.effect("cursor " + std::to_string(shape)); }
+
+private:
+    Trace& trace_;
+    std::vector<fernwick::Form*> shown_;
+};
+
+inline void press(fernwick::Form& form, const std::string& button) {
+    dynamic_cast<fernwick::CommandButton&>(form.control(button)).press();
+}
+
+/// Turned by hand: each DoEvents is one turn, and so is a test's own.
+class ManualLoop : public fernwick::EventLoop {
+public:
+    explicit ManualLoop(Trace& trace) : trace_(trace) {}
+    void Post(std::function<void()> event) override { queue_.push_back(std::move(event)); }
+    void DoEvents() override {
+        trace_.read();
+        turn();
+    }
+    fernwick::Subscription StartTimer(int, std::function<void()> tick) override {
+        trace_.read();
+        return timers_.connect(std::move(tick));
+    }
+    void turn() {
+        for (auto n = queue_.size(); n > 0 && !queue_.empty(); --n) {
+            const auto event = std::move(queue_.front());
+            queue_.pop_front();
+            event();
+        }
+        timers_.raise();
+    }
+    bool hasTimers() const { return timers_.hasHandlers(); }
+
+private:
+    Trace& trace_;
+    std::deque<std::function<void()>> queue_;
+    fernwick::Event<> timers_;
+};
+
+/// Programs end at once, with the code that stands for their command line; one without a code can't be started.
+class TracedProcesses : public fernwick::Processes {
+public:
+    explicit TracedProcesses(Trace& trace) : trace_(trace) {}
+    std::map<std::string, std::int32_t> codes;
+    bool waitFails = false;
+
+    bool CreateProcess(const std::string& commandLine, const std::string& folder, int show,
+                       std::uint32_t& process) override {
+        trace_.effect("run " + commandLine + " in " + folder + " show " + std::to_string(show));
+        const auto program = codes.find(commandLine);
+        if (program == codes.end()) return false;
+        code_ = program->second;
+        process = 7;
+        return true;
+    }
+    std::uint32_t WaitForSingleObject(std::uint32_t) override {
+        trace_.read();
+        return waitFails ? 0xFFFFFFFF : 0;
+    }
+    bool GetExitCodeProcess(std::uint32_t, std::int32_t& code) override {
+        code = code_;
+        return true;
+    }
+    void CloseHandle(std::uint32_t process) override { trace_.effect("close " + std::to_string(process)); }
+
+private:
+    Trace& trace_;
+    std::int32_t code_ = 0;
+};
+
+class TracedClasses : public fernwick::Classes {
+public:
+    explicit TracedClasses(Trace& trace) : trace_(trace) {}
+
+    std::shared_ptr<void> RegisterClass(const std::string& progId, Factory factory) override {
+        factories_[progId] = std::move(factory);
+        return std::shared_ptr<void>(
+            this, [progId](void* self) { static_cast<TracedClasses*>(self)->factories_.erase(progId); });
+    }
+    basic::Ref<fernwick::Object> CreateObject(const std::string& progId) override {
+        trace_.read();
+        const auto factory = factories_.find(progId);
+        if (factory == factories_.end()) throw basic::RuntimeError(basic::kCantCreateObject);
+        return factory->second();
+    }
+    bool CLSIDFromString(const std::string&, std::string&) const override { return false; }
+    std::string ProgIDFromCLSID(const std::string&) const override { return {}; }
+    basic::Ref<fernwick::TypeLibInfo> TypeLibInfoFromFile(const std::string&) const override { return nullptr; }
+
+private:
+    Trace& trace_;
+    std::map<std::string, Factory> factories_;
+};
+
+class TracedEnvironment : public fernwick::Environment {
+public:
+    explicit TracedEnvironment(Trace& trace) : trace_(trace) {}
+    std::map<std::string, std::string> values;
+    std::string GetEnvironmentVariable(const std::string& name) const override {
+        const auto value = values.find(name);
+        return value == values.end() ? "" : value->second;
+    }
+    void SetEnvironmentVariable(const std::string& name, const std::string& value) override {
+        trace_.effect("environment " + name);
+        values[name] = value;
+    }
+
+private:
+    Trace& trace_;
+};
+
+struct NoClipboard : fernwick::Clipboard {
+    std::vector<std::string> Formats() const override { return {}; }
+    std::string GetData(const std::string&) const override { return {}; }
+    void SetData(const std::string&, const std::string&) override {}
+    void Clear() override {}
+};
+struct NoShell : fernwick::Shell {
+    void Start(const std::string&) override {}
+    void Open(const std::string&) override {}
+};
+struct FixedScreen : fernwick::Screen {
+    float TwipsPerPixelX() const override { return 15; }
+    float TwipsPerPixelY() const override { return 15; }
+    bool FontFamilyExists(const std::string&) const override { return true; }
+};
+struct FixedClock : fernwick::Clock {
+    std::int64_t now = 42;
+    std::int64_t Now() const override { return now; }
+    std::int64_t Monotonic() const override { return now; }
+};
+
+struct TracedPlatform {
+    TracedPlatform() {
+        platform.app.Path = "/addin";
+        platform.app.SupportWebAddress = "support.example";
+        registry.set(fernwick::HKEY_LOCAL_MACHINE, "Software\\Quinloft", "RootDir", "/install");
+        files.files["/vb/Template/Projects/Standard.vbp"] = {};
+        files.files["/install/VB Toolkit/Template/Projects/Fernwick Project.vbp"] = {};
+    }
+
+    Trace trace;
+    RecordingReport errors;
+    TracedUser user{trace};
+    ManualLoop loop{trace};
+    MemoryRegistry registry;
+    TracedFiles files{trace};
+    TracedProcesses processes{trace};
+    TracedClasses classes{trace};
+    TracedEnvironment environment{trace};
+    NoClipboard clipboard;
+    NoShell shell;
+    FixedScreen screen;
+    FixedClock clock;
+    fernwick::Platform platform{user,        loop,      registry, files,  processes, classes,
+                                environment, clipboard, shell,    screen, clock,     {}};
+};
+
+} // namespace test
