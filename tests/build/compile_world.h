@@ -1,0 +1,56 @@
+#pragma once
+// The compile driver over a host in memory and a compiler that does what it is told.
+#include "Add-in/build/frmCompile.h"
+#include "messages_world.h"
+#include "tests/support/fake_compiler.h"
+#include "tests/support/host_commands.h"
+
+namespace test {
+
+struct CompileWorld : MessagesWorld {
+    CompileWorld() {
+        messages.createToolWindow();
+        files.files["/p/Demo.vbp"] = {"Type=Exe\r\n"};
+        set("Quinloft Global", "IsQuinloftProject", "True");
+        set("Quinloft Global", "ProjectVersion", "2.0");
+        set("Quinloft Global", "LastCompileVersion", "3.5.0 (0624)");
+        projects.AddToProjectsList(project);
+        registerCompiler();
+    }
+    void set(const std::string& section, const std::string& key, const std::string& value) {
+        project->properties[{section, key}] = value;
+    }
+    void registerCompiler() {
+        compilerClass = classes.RegisterClass("QLToolkit.CompilerFactory",
+                                              [this] { return basic::make<FakeCompilerFactory>(compiler); });
+    }
+    Ref<TracedComponent> addModule(const std::string& name, const std::string& text = "Sub Main()\r\nEnd Sub\r\n") {
+        const auto path = "/p/" + name + ".bas";
+        files.files[path] = {text};
+        const auto component = project->add(name, path);
+        component->code->lines = 2;
+        return component;
+    }
+    /// Runs a compile; what it did is then in `trace.effects`.
+    bool run() {
+        trace.effects.clear();
+        return compile.CompileProject(project);
+    }
+    bool did(const std::string& what) const { return std::count(trace.effects.begin(), trace.effects.end(), what) > 0; }
+
+    fernwick::modQLInstallInfo install{registry2, files};
+    fernwick::modAddinPrefsManagement prefs{registry2, errors};
+    fernwick::modDeviceManagement devices{classes, errors};
+    fernwick::modProjectTemplates templates{addIn, install, files, user, errors};
+    fernwick::ProjectServices services{errors, platform, install, addIn, devices, templates};
+    fernwick::modProjectHandler projects{services};
+    fernwick::modProcessControl steps{errors, platform};
+    fernwick::frmSaveProjectFiles saveFiles{user, addIn};
+    TracedCommands commands{trace};
+    basic::Ref<FakeCompiler> compiler = basic::make<FakeCompiler>(trace);
+    std::shared_ptr<void> compilerClass;
+    fernwick::frmCompile compile{
+        {platform, errors, registry2, install, projects, messages, steps, saveFiles, commands}};
+};
+
+} // namespace test

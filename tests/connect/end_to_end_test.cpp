@@ -1,0 +1,165 @@
+// The whole add-in over the real host, with real files and a real registry store.
+#include "Add-in/core/connect/Modules.h"
+#include "Host/system/classes.h"
+#include "Host/system/environment.h"
+#include "Host/system/file_system.h"
+#include "Host/system/processes.h"
+#include "tests/support/fake_compiler.h"
+#include "tests/support/fake_targets.h"
+#include "tests/support/scripted_user.h"
+#include "tests/support/test_host.h"
+#include "tests/support/traced_platform.h"
+
+using testing::HasSubstr;
+using testing::Not;
+
+namespace {
+
+constexpr char kProgId[] = "QLVBAddIn.Connect";
+
+class EndToEnd : public testing::Test {
+protected:
+    EndToEnd() {
+        targets.known = {"Palm-1"};
+        host.ide->listAddIn(kProgId, "Fernwick", [this] { return fernwick::asAddIn(modules); });
+    }
+    ~EndToEnd() override {
+        host.ide->close();
+        modules->addIn.gVBInstance = nullptr; // the host holds the add-in that holds it
+    }
+    basic::Ref<vbide::VBProject> connected(const test::SampleProject& sample) {
+        const auto project = host.open(sample);
+        host.ide->connectAddIn(kProgId, vbide::vbext_cm_CommandLine);
+        host.ide->startupComplete();
+        return project;
+    }
+    static test::SampleProject hello() {
+        test::SampleProject sample;
+        sample.form("Form1", "Sub Form_Load()\r\n    Oops\r\nEnd Sub\r\n").startup("Form1").handheld("Palm-1");
+        return sample.sections("LastCompileVersion=3.5.0 (0624)\r\nAutoSaveProject=True\r\n");
+    }
+    void failAt(const std::string& file, int line) {
+        compiler->built = compiler->finished = false;
+        compiler->work = [=, this](test::FakeCompiler& c) {
+            c.BuildError.raise("No such name", host.folder / file, line, 1042);
+        };
+        user.expectForm("frmCompile");
+        user.expectBox("One or more errors occurred during compilation.\r\n"
+                       "Refer to the Fernwick Messages window for the list of errors.",
+                       fernwick::vbOK, fernwick::vbCritical);
+    }
+
+    test::Trace trace;
+    test::ScriptedUser user;
+    test::ManualLoop loop{trace};
+    test::MemoryRegistry classStore;
+    host::Classes classes{classStore};
+    test::TestHost host{&classes};
+    host::Environment environment;
+    host::FileSystem files;
+    host::Processes processes{[](const std::string&, const std::string&) { return true; }};
+    test::NoClipboard clipboard;
+    test::NoShell shell;
+    test::FixedScreen screen;
+    test::FixedClock clock;
+    fernwick::Platform platform{user,        loop,      host.registry, files,  processes, classes,
+                                environment, clipboard, shell,         screen, clock,     {}};
+    test::FakeTargets targets{classes};
+    basic::Ref<test::FakeCompiler> compiler = basic::make<test::FakeCompiler>(trace);
+    std::shared_ptr<void> compilerClass = classes.RegisterClass(
+        "QLToolkit.CompilerFactory", [this] { return basic::make<test::FakeCompilerFactory>(compiler); });
+    std::shared_ptr<fernwick::Modules> modules = std::make_shared<fernwick::Modules>(platform);
+};
+
+TEST_F(EndToEnd, AProjectCompiles) {
+    const auto project = connected(hello());
+    compiler->work = [](test::FakeCompiler& c) { c.AddDependency.raise("Tool.prc", 1); };
+    user.expectForm("frmCompile");
+    EXPECT_TRUE(modules->compile.CompileProject(project));
+    EXPECT_THAT(trace.effects, testing::Contains("file 0 " + (host.folder / "Form1.frm")));
+    EXPECT_THAT(trace.effects, testing::Contains("start-up 'Form1'"));
+    EXPECT_EQ(modules->compileMsgs()->lblStatusText(), "SUCCESS - Compile and validate completed successfully.");
+    EXPECT_THAT(host.folder.read("Hello.vbp"), HasSubstr("\r\nNumTavletFileDependencies=1\r\n"));
+    EXPECT_TRUE(host.failures.empty());
+}
+
+TEST_F(EndToEnd, AnErrorIsStoredWithTheLineOfTheCodeWindow) {
+    const auto project = connected(hello());
+    failAt("Form1.frm", 16); // thirteen lines of design data and hidden attributes stand before the code
+    EXPECT_FALSE(modules->compile.CompileProject(project));
+    const auto form = project->VBComponents()->Item("Form1");
+    const int codeLines = form->CodeModule()->CountOfLines();
+    const auto text = host.folder.read("Form1.frm");
+    const int line = 16 - (int(std::count(text.begin(), text.end(), '\r')) - codeLines);
+    EXPECT_EQ(project->ReadProperty("Quinloft Project Compile Errors", "Error1"),
+              "ERROR|" + (host.folder / "Form1.frm") + "|" + std::to_string(line) + "|No such name|1042");
+}
+
+TEST_F(EndToEnd, TheMessagesComeBackWithTheProject) {
+    const auto project = connected(hello());
+    failAt("Form1.frm", 17);
+    modules->compile.CompileProject(project);
+    host.ide->saveProject(project);
+    host.ide->close();
+    host.openFile(host.folder / "Hello.vbp");
+    host.ide->connectAddIn(kProgId, vbide::vbext_cm_CommandLine);
+    EXPECT_EQ(modules->compileMsgs()->rowCount(), 2);
+    EXPECT_EQ(modules->compileMsgs()->lblStatusText(),
+              "FAILED - Errors (1 items) must be fixed to deploy this project.");
+}
+
+TEST_F(EndToEnd, AReadOnlyProjectStaysAsItIs) {
+    const auto project = connected(hello());
+    const auto path = host.folder / "Hello.vbp";
+    const auto before = host.folder.read("Hello.vbp");
+    std::filesystem::permissions(path, std::filesystem::perms::owner_read);
+    user.expectBox("Hello is ReadOnly, compile errors will not be saved.", fernwick::vbOK, fernwick::vbInformation);
+    user.expectForm("frmCompile");
+    EXPECT_TRUE(modules->compile.CompileProject(project));
+    EXPECT_EQ(host.folder.read("Hello.vbp"), before);
+}
+
+TEST_F(EndToEnd, WithoutTargetsTheProjectIsRemovedAndItsFileUntouched) {
+    targets.known.clear();
+    connected(hello());
+    const auto before = host.folder.read("Hello.vbp");
+    EXPECT_EQ(host.ide->VBProjects()->Count(), 1);
+    loop.turn();
+    EXPECT_EQ(host.ide->VBProjects()->Count(), 0);
+    EXPECT_EQ(host.folder.read("Hello.vbp"), before);
+    EXPECT_TRUE(user.sawNothing());
+}
+
+TEST_F(EndToEnd, TheOnlyTargetIsTakenWithoutAsking) {
+    const auto noFolder = [](const std::string& whose) {
+        return "Cannot determine the location of the " + whose +
+               " template directory. The path determined was invalid.";
+    };
+    user.expectBox(noFolder("VB")); // nothing is installed here
+    user.expectBox(noFolder("Fernwick"));
+    test::SampleProject sample;
+    const auto project = connected(sample.module("Module1", "Sub Main()\r\nEnd Sub\r\n").handheld());
+    EXPECT_EQ(project->ReadProperty("Quinloft Global", "TargetDevice"), "Palm-1");
+}
+
+TEST_F(EndToEnd, AProjectOfAnOlderVersionIsAnnounced) {
+    host.ide->connectAddIn(kProgId, vbide::vbext_cm_CommandLine);
+    test::SampleProject old("Old");
+    old.sections("\r\n[Quinloft Global]\r\nIsQuinloftProject=True\r\n");
+    user.expectBox("This project was created with an older version of Quinloft Fernwick and will not work with this "
+                   "version. The project must be converted before it can be run safely in this version of Fernwick. "
+                   "After any additional error dialogs are dismissed, Fernwick will start the Project Converter. "
+                   "Follow the Project Converter instructions to make this a valid Fernwick 3.5 project.",
+                   fernwick::vbOK, fernwick::vbExclamation, "Warning: Pre Quinloft Fernwick 3.5 Project");
+    host.open(old);
+    EXPECT_TRUE(host.failures.empty());
+}
+
+TEST_F(EndToEnd, TwoAddInsLiveSideBySide) {
+    fernwick::Modules other{platform};
+    connected(hello());
+    EXPECT_TRUE(modules->projects.gCurrentProject);
+    EXPECT_FALSE(other.projects.gCurrentProject);
+}
+
+} // namespace

@@ -1,0 +1,83 @@
+// Projects of older versions, as they are loaded and written.
+#include "connect_world.h"
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace {
+
+class LoadAndSave : public testing::Test, protected test::ConnectWorld {
+protected:
+    LoadAndSave() { connect(); }
+    /// What is shown when the host is about to load a project with this text.
+    std::vector<std::string> load(const std::string& text) {
+        files.files["/p/Old.vbp"] = {text};
+        trace.effects.clear();
+        vbe->events->allFiles->BeforeLoadFile.raise(project, {"/p/Form1.frm"});
+        return trace.effects;
+    }
+    bool cancelled(const test::Ref<test::TracedProject>& written) {
+        connection->FileControlHandler = vbe->events->files;
+        bool cancel = false;
+        vbe->events->files->RequestWriteFile.raise(written, written->file, cancel);
+        return cancel;
+    }
+    test::Ref<test::TracedProject> project = basic::make<test::TracedProject>(trace, "Old", "/p/Old.vbp");
+};
+
+TEST_F(LoadAndSave, AnOldProjectGetsOneBox) {
+    EXPECT_THAT(load("Type=Exe\r\nIsQuinloftProject=True\r\nName=\"x\"\r\n"),
+                ElementsAre("box 48 Warning: Pre Quinloft Fernwick 3.5 Project: This project was created with an older "
+                            "version of Quinloft Fernwick and will not work with this version. The project must be "
+                            "converted before it can be run safely in this version of Fernwick. After any additional "
+                            "error dialogs are dismissed, Fernwick will start the Project Converter. Follow the "
+                            "Project Converter instructions to make this a valid Fernwick 3.5 project."));
+}
+
+TEST_F(LoadAndSave, ACurrentProjectGetsNone) {
+    EXPECT_THAT(load("IsQuinloftProject=True\r\nProjectVersion=3.5\r\n"), IsEmpty());
+    EXPECT_THAT(load("ProjectVersion=3.5\r\nIsQuinloftProject=True\r\n"), IsEmpty());
+}
+
+TEST_F(LoadAndSave, AProjectOfTheHostsOwnGetsNone) {
+    EXPECT_THAT(load("Type=Exe\r\n"), IsEmpty());
+    EXPECT_THAT(load("ProjectVersion=1\r\n"), IsEmpty());
+}
+
+TEST_F(LoadAndSave, LetterCaseCounts) { EXPECT_THAT(load("isquinloftproject=true\r\n"), IsEmpty()); }
+
+TEST_F(LoadAndSave, OnlyABeginningOfALineCounts) {
+    EXPECT_THAT(load(" IsQuinloftProject=True\r\n"), IsEmpty());
+    EXPECT_EQ(load("IsQuinloftProject=True, more\r\nXProjectVersion=2\r\n").size(), 1U);
+}
+
+TEST_F(LoadAndSave, ANewProjectIsNotRead) {
+    project->file.clear();
+    vbe->events->allFiles->BeforeLoadFile.raise(project, {});
+}
+
+TEST_F(LoadAndSave, AnUnreadableFileIsTheHostsToReport) {
+    const auto err = basic::attempt([&] { vbe->events->allFiles->BeforeLoadFile.raise(project, {}); });
+    EXPECT_EQ(err.Number, basic::kFileNotFound);
+    EXPECT_THAT(errors.seen, IsEmpty());
+}
+
+TEST_F(LoadAndSave, AnOldProjectIsNotWritten) {
+    const auto old = LifecycleWorld::open("A");
+    set(old, "ProjectVersion", "1.0");
+    EXPECT_TRUE(cancelled(old));
+    EXPECT_THAT(errors.seen, IsEmpty());
+}
+
+TEST_F(LoadAndSave, OthersAreWritten) {
+    EXPECT_FALSE(cancelled(LifecycleWorld::open("A")));
+    const auto foreign = LifecycleWorld::open("B", "none");
+    EXPECT_FALSE(cancelled(foreign));
+}
+
+TEST_F(LoadAndSave, AProjectThatIsNotListedIsReportedAndWritten) {
+    EXPECT_FALSE(cancelled(project));
+    EXPECT_THAT(errors.seen, ElementsAre("modProjectHandler.GetQLProject [5]"));
+}
+
+} // namespace

@@ -1,0 +1,139 @@
+// Which sink hears which item.
+#include "connect_world.h"
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace {
+
+class Sinks : public testing::Test, protected test::ConnectWorld {
+protected:
+    void standMenu() {
+        items.gSettingsItem = item("settings");
+        items.gCompileItem = item("compile");
+        items.gOpenProjectItem = item("open");
+        items.gPackageAllItem = item("package all");
+        items.gDeployAllItem = item("deploy all");
+        items.gInstallAllItem = item("install all");
+        items.gDownloadItem = item("download");
+        items.gDatabaseConverterItem = item("database converter");
+        items.gWeirgateItem = item("weirgate");
+        items.gSampleIntroItem = item("intro");
+        items.gSampleHelloItem = item("hello");
+        items.gSampleDirItem = item("directory");
+        items.gWebItem = item("web");
+        items.gGuideItem = item("guide");
+        items.gAboutItem = item("about");
+        items.gZoomItem = item("zoom");
+        items.gMessagesItem = item("messages");
+    }
+    fernwick::Array<fernwick::CommandItems::Item> devicesItems(const std::string& family, int count) {
+        std::vector<fernwick::CommandItems::Item> all;
+        for (int i = 0; i < count; ++i) all.push_back(item(family + std::to_string(i)));
+        return {0, all};
+    }
+    std::vector<std::string> wired() {
+        trace.effects.clear();
+        connection->SetupMenuHandlers(vbe);
+        return sinks();
+    }
+};
+
+TEST_F(Sinks, OfTheMenuAreAssignedInOrder) {
+    standMenu();
+    targets.known = {"Palm-1"};
+    items.gPackageItems = devicesItems("package", 2);
+    items.gDeployItems = devicesItems("deploy", 2);
+    items.gInstallItems = devicesItems("install", 1);
+    EXPECT_THAT(wired(),
+                ElementsAre("item settings", "item compile", "item open", "item package all", "item deploy all",
+                            "item install all", "item package0", "item package1", "item deploy0", "item deploy1",
+                            "item download", "item install0", "item database converter", "item weirgate", "item intro",
+                            "item hello", "item directory", "item web", "item guide", "item about", "item zoom",
+                            "item messages"));
+    EXPECT_TRUE(bool(connection->DeployDevice[1]));
+    EXPECT_FALSE(bool(connection->DeployDevice[2]));
+    EXPECT_FALSE(bool(connection->DeployPalmOSHandler));
+}
+
+TEST_F(Sinks, WithoutTargetsTheDeviceItemsHaveNone) {
+    standMenu();
+    items.gPackageItems = devicesItems("package", 2);
+    items.gInstallItems = devicesItems("install", 2);
+    EXPECT_THAT(wired(),
+                ElementsAre("item settings", "item compile", "item open", "item package all", "item deploy all",
+                            "item install all", "item database converter", "item weirgate", "item intro", "item hello",
+                            "item directory", "item web", "item guide", "item about", "item zoom", "item messages"));
+}
+
+TEST_F(Sinks, AnEleventhDeviceHasNone) {
+    targets.known = {"Palm-1"};
+    items.gPackageItems = devicesItems("p", 12);
+    items.gDeployItems = devicesItems("d", 12);
+    items.gInstallItems = devicesItems("i", 12);
+    EXPECT_EQ(wired().size(), 30U);
+    EXPECT_TRUE(bool(connection->InstallVMDevice[9]));
+    EXPECT_THAT(errors.seen, IsEmpty());
+}
+
+TEST_F(Sinks, ThePackageItemsDecideOnTheDeploySlots) {
+    targets.known = {"Palm-1"};
+    items.gPackageItems = devicesItems("p", 3);
+    items.gPackageItems[1] = nullptr;
+    items.gDeployItems = devicesItems("d", 2);
+    EXPECT_THAT(wired(), ElementsAre("item p0", "item p2", "item d0"));
+    EXPECT_THAT(errors.seen, ElementsAre("Connect.SetupMenuHandlers [9]")); // there is no third deploy item
+}
+
+TEST_F(Sinks, AFailedAssignmentLeavesTheOthers) {
+    standMenu();
+    trace.calls = 0;
+    trace.failing = 2;
+    wired();
+    trace.failing = 0;
+    EXPECT_THAT(errors.seen, ElementsAre("Connect.SetupMenuHandlers [50000]"));
+    EXPECT_FALSE(bool(connection->QuinloftSettingsHandler));
+    EXPECT_TRUE(bool(connection->CompileProjectHandler));
+}
+
+TEST_F(Sinks, SamplesCarryTheirOwn) {
+    const auto popup = basic::make<fernwick::clsSampleMenuItem>(), sample = basic::make<fernwick::clsSampleMenuItem>();
+    popup->popupMenu = true;
+    sample->myOfficeCommandBar = item("address book");
+    items.gSampleItems = {0, {popup, sample}};
+    EXPECT_THAT(wired(), ElementsAre("item address book"));
+    int opened = 0;
+    const auto heard = sample->picked.connect([&](fernwick::clsSampleMenuItem& picked) {
+        EXPECT_EQ(&picked, sample.shared().get());
+        ++opened;
+    });
+    bool handled = false, cancel = false;
+    sample->myOfficeEvents.source()->Click.raise(sample->myOfficeCommandBar, handled, cancel);
+    EXPECT_EQ(opened, 1);
+}
+
+TEST_F(Sinks, OfTheToolbarsAreAssignedInOrder) {
+    items.gToolSettings = item("settings");
+    items.gToolCompile = item("compile");
+    items.gToolDeploy = item("deploy");
+    items.gToolGuide = item("guide");
+    items.gToolZoom = item("zoom");
+    items.gToolOpenProject = item("open");
+    items.gToolDatabaseConverter = item("db converter");
+    items.gToolDatabaseViewer = item("db viewer");
+    items.gToolFontConverter = item("font converter");
+    items.gToolFontViewer = item("font viewer");
+    items.gToolGraphicsConverter = item("graphics converter");
+    items.gToolGraphicsViewer = item("graphics viewer");
+    items.gToolMovieConverter = item("movie converter");
+    items.gToolMovieViewer = item("movie viewer");
+    items.gToolWGConfig = item("configuration");
+    connect();
+    EXPECT_THAT(sinks(),
+                ElementsAre("build", "projects", "all files", "item settings", "item compile", "item deploy",
+                            "item guide", "item zoom", "item open", "item db converter", "item db viewer",
+                            "item font converter", "item font viewer", "item graphics converter",
+                            "item graphics viewer", "item movie converter", "item movie viewer", "item configuration"));
+}
+
+} // namespace

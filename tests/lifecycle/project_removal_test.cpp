@@ -1,0 +1,167 @@
+#include "lifecycle_world.h"
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace {
+
+class ProjectRemoval : public testing::Test, protected test::LifecycleWorld {
+protected:
+    ProjectRemoval() { removal.Load(); }
+    /// Turns the loop and tells what was done.
+    std::vector<std::string> turn() {
+        trace.effects.clear();
+        loop.turn();
+        return trace.effects;
+    }
+};
+
+TEST_F(ProjectRemoval, WaitsForTheNextTurn) {
+    const auto project = open("A");
+    EXPECT_FALSE(loop.hasTimers());
+    removal.RemoveProject(project, true, "");
+    EXPECT_THAT(openNames(), ElementsAre("A"));
+    EXPECT_THAT(turn(), ElementsAre("active A", "host: remove project"));
+    EXPECT_THAT(openNames(), IsEmpty());
+    EXPECT_FALSE(loop.hasTimers());
+}
+
+TEST_F(ProjectRemoval, AProjectOfAnotherKindIsDropped) {
+    removal.RemoveProject(open("A", "none"), true, "");
+    EXPECT_THAT(turn(), IsEmpty());
+    EXPECT_THAT(openNames(), ElementsAre("A"));
+}
+
+TEST_F(ProjectRemoval, AProjectThatIsNotListedIsReportedAndTheNextServed) {
+    const auto stranger = basic::make<test::TracedProject>(trace, "Stranger", "/p/Stranger.vbp");
+    const auto project = open("A");
+    removal.RemoveProject(stranger, true, "");
+    removal.RemoveProject(project, true, "");
+    turn();
+    EXPECT_THAT(errors.seen, ElementsAre("modProjectHandler.GetQLProject [5]"));
+    EXPECT_THAT(openNames(), IsEmpty());
+}
+
+TEST_F(ProjectRemoval, TheOnlyProjectGoesBeforeItsReplacementComes) {
+    const auto project = open("A");
+    project->dirty = true;
+    removal.RemoveProject(project, true, "/p/B.vbp");
+    EXPECT_THAT(turn(), ElementsAre("A dirty 0", "active A", "host: remove project", "open /p/B.vbp alone"));
+}
+
+TEST_F(ProjectRemoval, AmongOthersTheReplacementComesFirst) {
+    open("Other");
+    removal.RemoveProject(open("A"), true, "/p/B.vbp");
+    EXPECT_THAT(turn(), ElementsAre("open /p/B.vbp", "A dirty 0", "active A", "host: remove project"));
+    EXPECT_THAT(openNames(), ElementsAre("Other", "/p/B.vbp"));
+}
+
+TEST_F(ProjectRemoval, AReplacementServesOneProjectOnly) {
+    open("Other");
+    const auto a = open("A"), b = open("B");
+    removal.RemoveProject(a, true, "/p/New.vbp");
+    removal.RemoveProject(b, false, "");
+    EXPECT_THAT(turn(), ElementsAre("open /p/New.vbp", "A dirty 0", "active A", "host: remove project", "active B",
+                                    "host: remove project"));
+}
+
+TEST_F(ProjectRemoval, WithoutReplacingItKeepsThePathOfTheRequestBefore) {
+    open("Other");
+    const auto a = open("A");
+    removal.RemoveProject(a, true, "/p/New.vbp");
+    removal.RemoveProject(a, false, "/p/Ignored.vbp");
+    EXPECT_EQ(turn().front(), "open /p/New.vbp");
+}
+
+TEST_F(ProjectRemoval, TheOldFormatGoesToTheImporter) {
+    commands.converter = basic::make<test::TracedControl>(trace, "host: import");
+    const auto project = open("A");
+    set(project, "ProjectVersion", "1.0");
+    removal.RemoveProject(project, true, "/p/New.vbp");
+    EXPECT_THAT(turn(), ElementsAre("host: import"));
+    removal.RemoveProject(project, true, "");
+    EXPECT_THAT(turn(), ElementsAre("active A", "host: remove project", "host: import"));
+}
+
+TEST_F(ProjectRemoval, WithoutAnImporterTheOldFormatIsJustRemoved) {
+    const auto project = open("A");
+    set(project, "ProjectVersion", "1.0");
+    removal.RemoveProject(project, true, "");
+    EXPECT_THAT(turn(), ElementsAre("active A", "host: remove project"));
+    EXPECT_THAT(errors.seen, IsEmpty());
+}
+
+TEST_F(ProjectRemoval, LoadsAProjectInPlaceOfAll) {
+    removal.LoadExclusiveProject(open("A"), "/p/New.vbp", false);
+    EXPECT_THAT(turn(), ElementsAre("active A", "host: remove project", "open /p/New.vbp alone"));
+    EXPECT_THAT(openNames(), ElementsAre("/p/New.vbp"));
+}
+
+TEST_F(ProjectRemoval, EmptiesAProject) {
+    const auto project = open("A");
+    project->add("Module1", "/p/Module1.bas");
+    removal.RemoveProject(project, true, "/p/New.vbp"); // keeps the project from being removed
+    removal.LoadExclusiveProject(project, "", true);
+    turn();
+    EXPECT_TRUE(did("remove component Module1"));
+    EXPECT_TRUE(did("Module1 saved /tmp/Module1"));
+    EXPECT_FALSE(did("open /p/New.vbp"));
+}
+
+TEST_F(ProjectRemoval, ServesWhatIsAskedForDuringTheTick) {
+    const auto stub = open("Stub");
+    vbe->projects->opened = [&](const test::Ref<test::TracedProject>& opened) {
+        set(opened, "IsQuinloftProject", "True");
+        set(opened, "ProjectVersion", "3.5");
+        projects.AddToProjectsList(opened);
+        if (opened->name == "first") removal.RemoveProject(opened, true, "second");
+        loop.DoEvents(); // never ticks inside its own tick
+    };
+    removal.RemoveProject(stub, true, "first");
+    EXPECT_THAT(turn(), ElementsAre("Stub dirty 0", "active Stub", "host: remove project", "open first alone",
+                                    "first dirty 0", "active first", "host: remove project", "open second alone"));
+    EXPECT_THAT(openNames(), ElementsAre("second"));
+    EXPECT_FALSE(loop.hasTimers());
+}
+
+TEST_F(ProjectRemoval, AComponentIsRemovedOnTheNextTurn) {
+    const auto project = open("A");
+    const auto form = project->add("Form1", "/p/Form1.frm");
+    removal.RemoveComponent(project, form);
+    EXPECT_THAT(turn(), ElementsAre("remove component Form1"));
+    EXPECT_FALSE(loop.hasTimers());
+}
+
+TEST_F(ProjectRemoval, AComponentThatIsMissingIsWaitedFor) {
+    const auto project = open("A");
+    const auto form = project->add("Form1", "/p/Form1.frm");
+    removal.RemoveComponent(project, nullptr);
+    EXPECT_FALSE(loop.hasTimers());
+    removal.RemoveComponent(nullptr, form);
+    EXPECT_THAT(turn(), ElementsAre("remove component Form1"));
+}
+
+TEST_F(ProjectRemoval, UnloadedItForgetsItsRequests) {
+    removal.RemoveProject(open("A"), true, "");
+    removal.Unload();
+    EXPECT_THAT(turn(), IsEmpty());
+}
+
+TEST_F(ProjectRemoval, EachCallThatFailsCostsOnlyItself) {
+    for (int failing = 1;; ++failing) {
+        vbe->projects->list.clear();
+        projects.ClearProjectsList();
+        const auto a = open("A"), b = open("B");
+        removal.RemoveProject(a, true, "/p/New.vbp");
+        errors.injected = 0;
+        trace.calls = 0;
+        trace.failing = failing;
+        loop.turn();
+        trace.failing = 0;
+        EXPECT_LE(errors.injected, 1) << failing;
+        EXPECT_FALSE(loop.hasTimers()) << failing;
+        if (trace.calls < failing) break;
+    }
+}
+
+} // namespace
