@@ -1,6 +1,7 @@
 #pragma once
 // Takes the common reports of a test instead of showing them.
 #include "Add-in/core/procedure.h"
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <string>
 #include <vector>
