@@ -1,5 +1,6 @@
 #include "Apps/fernwick/machine.h"
 #include "Apps/fernwick/installation.h"
+#include "Apps/fernwick/interruption.h"
 #include "Apps/fernwick/maker.h"
 #include "Components/DesignTargetAccess/design_target_mgr.h"
 #include "Components/QLPipe/family_validation.h"
@@ -36,7 +37,7 @@ Machine::Machine(Console& console, CommandLineUser& user, host::Processes::Permi
     : installation_(findInstallation(environment_)),
       registry_(host::usualRegistryPlaces(environment_, installation_)),
       classes_(registry_),
-      processes_(std::move(mayRun)),
+      processes_(std::move(mayRun), wasInterrupted),
       shell_(files_, [&console](const std::string& document) { console.err(document); }),
       platform_{user,         loop_,      registry_, files_,  processes_, classes_,
                 environment_, clipboard_, shell_,    screen_, clock_,     appOf(installation_, programFolder())} {

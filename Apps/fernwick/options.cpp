@@ -17,8 +17,8 @@ struct Raw {
     bool yes = false, no = false, quiet = false, verbose = false;
 };
 
-constexpr const char* kExitText = "Exit status: 0 good, 1 errors in the project, 2 wrong use, 3 trouble with the "
-                                  "installation or the machine, 130 interrupted.";
+constexpr const char* kExitText = "Exit status: 0 good, 1 errors in the project, 2 wrong use,\n"
+                                  "3 trouble with the installation or the machine, 130 interrupted.";
 
 /// Help without the library's notes on types and exclusions.
 class HelpFormatter : public CLI::Formatter {
@@ -32,7 +32,6 @@ public:
     std::string make_usage(const CLI::App* app, std::string name) const override {
         return CLI::Formatter::make_usage(app, app->get_parent() ? "fernwick " + name : name);
     }
-    std::string make_footer(const CLI::App* app) const override { return CLI::Formatter::make_footer(app) + "\n"; }
 };
 
 /// A verb whose result is a list of messages can give it as SARIF too.
@@ -109,6 +108,7 @@ void defineReaders(CLI::App& app, Raw& raw) {
 std::string settingNames() {
     std::string text;
     for (const auto& setting : storedSettings()) text += fmt::format("  {:<24}{}\n", setting.name, setting.meaning);
+    text.pop_back();
     return text;
 }
 

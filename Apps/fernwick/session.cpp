@@ -38,7 +38,8 @@ Session::Session(const Options& options, Console& console)
                [this](const std::string& commandLine, const std::string& folder) {
                    return trust_.mayRun(commandLine, folder);
                }),
-      controls_(machine_.installation()), modules_(std::make_shared<fernwick::Modules>(machine_.platform())) {
+      controls_(machine_.installation()),
+      modules_(std::make_shared<fernwick::Modules>(machine_.platform())) {
     auto& context = user_.context();
     context.device = options.device;
     context.hostHasUnsaved = [this] { return hasUnsavedComponents(); };

@@ -1,4 +1,5 @@
 #include "Apps/fernwick/steps_trust.h"
+#include "Apps/fernwick/interruption.h"
 #include "Basic/case_folding.h"
 #include <fmt/format.h>
 
@@ -14,6 +15,7 @@ void StepsTrust::prepare(fernwick::Registry& registry, std::vector<std::string> 
 }
 
 bool StepsTrust::mayRun(const std::string& commandLine, const std::string& folder) {
+    checkInterrupt(); // pressed just before: no step starts any more
     if (!decided_) decided_ = decide(folder);
     if (*decided_)
         console_.detail(fmt::format("running: {}", commandLine));

@@ -78,11 +78,13 @@ std::uint32_t Processes::WaitForSingleObject(std::uint32_t process) {
     auto& child = at->second;
     SignalWait signals;
     auto killAt = WaitClock::time_point::max();
+    const auto end = [&](int ending) {
+        ::kill(-child.id, ending);
+        killAt = std::min(killAt, WaitClock::now() + kTimeToEnd);
+    };
+    if (interrupted_()) end(SIGINT);
     for (look(child); !child.ended; look(child)) {
-        if (const int ending = signals.next(); ending != 0) {
-            ::kill(-child.id, ending);
-            killAt = std::min(killAt, WaitClock::now() + kTimeToEnd);
-        }
+        if (const int ending = signals.next(); ending != 0) end(ending);
         if (WaitClock::now() >= killAt) ::kill(-child.id, SIGKILL);
     }
     return 0;

@@ -16,7 +16,12 @@ public:
     /// Whether a command line may be run in a folder: a project's steps need the user's trust.
     using Permission = std::function<bool(const std::string& commandLine, const std::string& folder)>;
 
-    explicit Processes(Permission mayRun) : mayRun_(std::move(mayRun)) {}
+    /// Whether Ctrl+C came before the wait for a program began: the program is then ended as if it came now.
+    using Interrupted = std::function<bool()>;
+
+    explicit Processes(
+        Permission mayRun, Interrupted interrupted = [] { return false; })
+        : mayRun_(std::move(mayRun)), interrupted_(std::move(interrupted)) {}
 
     bool CreateProcess(const std::string& commandLine, const std::string& workingFolder, int showWindow,
                        std::uint32_t& process) override;
@@ -34,6 +39,7 @@ private:
     static void look(Started& at);
 
     Permission mayRun_;
+    Interrupted interrupted_;
     std::map<std::uint32_t, Started> started_;
     std::uint32_t lastHandle_ = 0;
 };

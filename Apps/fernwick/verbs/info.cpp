@@ -100,22 +100,33 @@ std::string textOfInfo(const ProjectInfo& info) {
     return text;
 }
 
+ProjectInfo infoOfProject(const std::string& path, const Options& options, Console& console) {
+    Session session{options, console};
+    session.open(path);
+    session.takeUp();
+    auto info = infoOf(session);
+    session.closeUnsaved();
+    return info;
+}
+
 int tellProjects(const InfoSubject& subject, const Options& options, Console& console) {
     auto json = jsonResult("info");
     json["projects"] = Json::array();
+    int status = kGood;
+    std::string gap;
     for (const auto& path : subject.projects) {
-        Session session{options, console};
-        session.open(path);
-        session.takeUp();
-        const auto info = infoOf(session);
-        session.closeUnsaved();
-        if (options.format == Format::Json)
+        try {
+            const auto info = infoOfProject(path, options, console);
             json["projects"].push_back(jsonOfInfo(info));
-        else
-            console.out((&path == &subject.projects.front() ? "" : "\n") + textOfInfo(info));
+            if (options.format == Format::Text) console.out(std::exchange(gap, "\n") + textOfInfo(info));
+        } catch (const Refusal& refusal) {
+            if (subject.group.empty()) throw;
+            status = kProjectErrors; // a group with a project that can't be read
+            console.err(std::string("fernwick: ") + refusal.what(), Tone::Error);
+        }
     }
     if (options.format == Format::Json) console.out(dumpJson(json));
-    return kGood;
+    return status;
 }
 
 // ---- whether writing it back changes a byte ----

@@ -1,0 +1,15 @@
+sample HelloWorld
+cd HelloWorld
+sed -i '/^TargetDevice/d;/^numCompileTargets/d;/^CompileTarget1/d' HelloWorld.vbp
+cp HelloWorld.vbp before
+run fernwick build
+same HelloWorld.vbp before
+run fernwick build --device Toaster
+same HelloWorld.vbp before
+run fernwick build --device PalmOS-DragonBall
+stored HelloWorld.vbp TargetDevice
+grep -a -i CompileTarget HelloWorld.vbp | tr -d '\r'
+run fernwick build
+say a device that is not installed
+sed -i 's/^TargetDevice=.*/TargetDevice=Toaster\r/' HelloWorld.vbp
+run fernwick build

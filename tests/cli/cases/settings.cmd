@@ -1,0 +1,28 @@
+sample HelloWorld
+cd HelloWorld
+cp HelloWorld.vbp before
+run fernwick settings list
+run fernwick settings get TargetDevice
+run fernwick settings get defaultfontsize --format json
+run fernwick settings get Colour
+run fernwick settings get
+run fernwick settings set DefaultFontSize
+run fernwick settings set DefaultFontSize nine
+run fernwick settings set Autosave maybe
+run fernwick settings set ProjectVersion 9
+run fernwick settings set TargetDevice Toaster
+run fernwick settings set DefaultFontName "$(printf 'a\nb')"
+run fernwick settings set DefaultFontName '日本'
+run fernwick settings set DefaultFontSize 12
+same HelloWorld.vbp before
+run fernwick settings set DefaultFontSize 9 --verbose
+stored HelloWorld.vbp DefaultFontSize
+run fernwick settings set HelloWorld.vbp PostCompileSteps 'cp "a b" c' 'echo x=y'
+grep -a CompileStep HelloWorld.vbp | tr -d '\r'
+run fernwick settings get PostCompileSteps
+run fernwick settings get PostCompileSteps --format json
+run fernwick settings reset PostCompileSteps
+run fernwick settings reset ScanReferences
+run fernwick settings reset --dry-run
+run fernwick settings reset
+run fernwick settings list

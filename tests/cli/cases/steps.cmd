@@ -1,0 +1,26 @@
+module_project Stepped <<'M'
+Public Sub Main()
+End Sub
+M
+cd Stepped
+fernwick settings set PreCompileSteps 'touch one' 'false' 'sh -c "echo two; touch three"'
+fernwick settings set PostCompileSteps 'touch after'
+run fernwick settings get PreCompileSteps
+say all three run, and no build
+run fernwick build --trust-steps
+run ls
+stored Stepped.vbp NumErrors
+rm -f one three
+say continue all the same
+run fernwick build --trust-steps --answer failed-step=yes
+run ls
+rm -f one three after Stepped.0000.qlx
+fernwick settings set PreCompileSteps 'touch one'
+run fernwick build --trust-steps --verbose
+run ls
+say a failing step after the compile
+fernwick settings set PostCompileSteps 'false'
+run fernwick build --trust-steps
+fernwick settings reset PostCompileSteps
+fernwick settings reset PreCompileSteps
+run fernwick build

@@ -1,0 +1,2 @@
+run fernwick targets
+run fernwick targets --format json

@@ -1,0 +1,3 @@
+run fernwick --version
+run fernwick version
+run fernwick version --format json

@@ -1,0 +1,75 @@
+"""What the tests of the command line share: a private home, and outputs without what changes from run to run."""
+import difflib
+import os
+import pathlib
+import re
+import shutil
+import subprocess
+import tempfile
+
+HERE = pathlib.Path(__file__).resolve().parent
+ROOT = HERE.parent.parent
+PROGRAM = pathlib.Path(os.environ.get("FERNWICK_PROGRAM", ROOT / "build/release/Apps/fernwick/fernwick")).resolve()
+VERSION = re.search(r"project\(Fernwick VERSION ([\d.]+)", (ROOT / "CMakeLists.txt").read_text())[1]
+APPROVE = os.environ.get("FERNWICK_APPROVE") == "1"
+
+
+class Home:
+    """A folder that goes away, with all that the program keeps of its user and its machine in it."""
+
+    def __enter__(self):
+        self.folder = pathlib.Path(tempfile.mkdtemp(prefix="fernwick-cli-")).resolve()
+        self.work = self.folder / "files/work"
+        (self.folder / "bin").mkdir()
+        (self.folder / "tmp").mkdir()
+        self.work.mkdir(parents=True)
+        os.symlink(PROGRAM, self.folder / "bin/fernwick")
+        self.env = {
+            "PATH": f"{self.folder}/bin:{os.environ['PATH']}", "HOME": str(self.folder), "LC_ALL": "C.UTF-8",
+            "XDG_CONFIG_HOME": str(self.folder / "config"), "XDG_DATA_HOME": str(self.folder / "data"),
+            "FERNWICK_MACHINE_STORE": str(self.folder / "machine"), "TMPDIR": str(self.folder / "tmp"),
+            "SAMPLES": str(ROOT / "samples"), "FERNWICK_SOURCE": str(ROOT), "CLI_TESTS": str(HERE),
+        }
+        self.env.update({k: v for k, v in os.environ.items() if k.endswith("SAN_OPTIONS")})
+        return self
+
+    def __exit__(self, *_):
+        subprocess.run(["chmod", "-R", "u+rwX", self.folder], check=False)
+        shutil.rmtree(self.folder, ignore_errors=True)
+
+    def run(self, *arguments, **options):
+        options = {"cwd": self.work, "env": self.env, "stdin": subprocess.DEVNULL, "text": True,
+                   "capture_output": True, "timeout": 120} | options
+        return subprocess.run(arguments, **options)
+
+    def fernwick(self, *arguments, **options):
+        return self.run("fernwick", *arguments, **options)
+
+    def sample(self, name="HelloWorld"):
+        shutil.copytree(ROOT / "samples" / name, self.work / name)
+        return self.work / name / f"{name}.vbp"
+
+    def stays(self):
+        """What lies in the private temporary folder: nothing, after a run."""
+        return sorted(str(p) for p in (self.folder / "tmp").rglob("*"))
+
+    def normal(self, text):
+        for path, name in ((str(self.work), "WORK"), (str(self.folder), "HOME"), (str(ROOT), "SOURCE")):
+            text = text.replace(path, name)
+        text = re.sub(r"\bin \d+\.\d+ s\b", "in N s", text)
+        return text.replace(f"fernwick {VERSION}", "fernwick VERSION").replace(f'"version": "{VERSION}"',
+                                                                               '"version": "VERSION"')
+
+
+def compare(test, path, actual):
+    """The text must be the file's; an approving run rewrites the file instead."""
+    path = pathlib.Path(path)
+    expected = path.read_text(encoding="utf-8") if path.exists() else ""
+    if actual == expected:
+        return
+    if APPROVE:
+        path.write_text(actual, encoding="utf-8")
+        print(f"approved {path.relative_to(ROOT)}")
+        return
+    diff = difflib.unified_diff(expected.splitlines(), actual.splitlines(), str(path.name), "as it is now", lineterm="")
+    test.fail("\n".join(diff) + "\n(scripts/approve accepts it)")

@@ -1,0 +1,85 @@
+"""Ctrl+C ends a run with nothing half-done; a reader that goes away does too."""
+import os
+import signal
+import subprocess
+import unittest
+
+from support import Home
+
+MODULES, PROCEDURES = 40, 4000
+
+
+def module(number, procedures):
+    body = "".join(f"Public Function f{i}(ByVal a As Long) As Long\r\n    f{i} = a * {i} + 1\r\nEnd Function\r\n"
+                   for i in range(procedures))
+    return f'Attribute VB_Name = "m{number}"\r\nSub Main{number or ""}()\r\nEnd Sub\r\n{body}'.encode()
+
+
+def fill(folder, procedures):
+    for number in range(MODULES):
+        (folder / f"m{number}.bas").write_bytes(module(number, procedures))
+
+
+def large_project(home):
+    """One that was built while it was small, so that its file has nothing to take up any more."""
+    folder = home.work / "Large"
+    folder.mkdir()
+    fill(folder, 1)
+    lines = ["Type=Exe", *(f"Module=m{m}; m{m}.bas" for m in range(MODULES)), 'Startup="Sub Main"', 'Name="Large"', "",
+             "[Quinloft Global]", "IsQuinloftProject=True", "ProjectVersion=3.5", "TargetDevice=PalmOS-DragonBall",
+             "numCompileTargets=1", "CompileTarget1=PalmOS-DragonBall", ""]
+    project = folder / "Large.vbp"
+    project.write_bytes("\r\n".join(lines).encode())
+    home.fernwick("build", str(project), check=True)
+    (folder / "Large.0000.qlx").unlink()
+    fill(folder, PROCEDURES)
+    return project
+
+
+class Interrupt(unittest.TestCase):
+    def setUp(self):
+        self.home = Home()
+        self.home.__enter__()
+        self.addCleanup(self.home.__exit__)
+
+    def interrupted(self, project, when, *options):
+        before = {p.name: p.read_bytes() for p in project.parent.iterdir()}
+        process = subprocess.Popen(["fernwick", "build", str(project), *options], cwd=self.home.work,
+                                   env=self.home.env, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
+                                   stderr=subprocess.PIPE, text=True)
+        while when not in (line := process.stderr.readline()):
+            self.assertTrue(line, "the run ended by itself")
+        process.send_signal(signal.SIGINT)
+        with process:
+            out, err = process.communicate(timeout=60)
+        self.assertEqual(process.returncode, 130, err)
+        self.assertEqual(out, "")
+        self.assertIn("interrupted", err)
+        self.assertEqual({p.name: p.read_bytes() for p in project.parent.iterdir()}, before)
+        self.assertEqual(self.home.stays(), [])
+
+    def test_build(self):
+        self.interrupted(large_project(self.home), "Compiling m2.bas")
+
+    def test_compile_step(self):
+        project = self.home.sample()
+        self.home.fernwick("build", str(project), check=True)
+        (project.parent / "HelloWorld.0000.qlx").unlink()
+        self.home.fernwick("settings", "set", str(project), "PreCompileSteps", "sleep 60")
+        self.interrupted(project, "Compiling HelloWorld", "--trust-steps")
+        self.interrupted(project, "running: sleep 60", "--trust-steps", "--verbose")
+
+    def test_reader_goes_away(self):
+        project = self.home.sample()
+        reading, writing = os.pipe()
+        os.close(reading)
+        process = subprocess.run(["fernwick", "build", str(project)], env=self.home.env, stdout=writing,
+                                 stdin=subprocess.DEVNULL, stderr=subprocess.PIPE, text=True)
+        os.close(writing)
+        self.assertIn(process.returncode, (-signal.SIGPIPE, 3))
+        self.assertTrue((project.parent / "HelloWorld.0000.qlx").exists())
+        self.assertEqual(self.home.stays(), [])
+
+
+if __name__ == "__main__":
+    unittest.main()

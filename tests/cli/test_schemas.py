@@ -1,0 +1,95 @@
+"""Every result in JSON is as its schema file says; SARIF has what viewers need."""
+import json
+import unittest
+
+import jsonschema
+
+from support import ROOT, Home
+
+BREAK = "\r\nSub Broken()\r\n  x = = 1\r\nEnd Sub\r\n"
+
+
+def schema(name):
+    loaded = json.loads((ROOT / "installation/schemas" / f"{name}-1.json").read_text())
+    jsonschema.Draft7Validator.check_schema(loaded)
+    return jsonschema.Draft7Validator(loaded)
+
+
+class Schemas(unittest.TestCase):
+    def setUp(self):
+        self.home = Home()
+        self.home.__enter__()
+        self.addCleanup(self.home.__exit__)
+        self.project = self.home.sample()
+
+    def fernwick_json(self, *arguments, status=0):
+        done = self.home.fernwick(*arguments, "--format", "json")
+        self.assertEqual(done.returncode, status, done.stderr)
+        return json.loads(done.stdout)
+
+    def fits(self, name, *arguments, status=0):
+        result = self.fernwick_json(*arguments, status=status)
+        errors = [f"{error.json_path}: {error.message}" for error in schema(name).iter_errors(result)]
+        self.assertEqual(errors, [], json.dumps(result, indent=1))
+        return result
+
+    def broken(self):
+        form = self.project.parent / "frmHello.frm"
+        with form.open("ab") as file:
+            file.write(BREAK.encode())
+
+    def test_reports(self):
+        good = self.fits("report", "build", str(self.project))
+        self.assertTrue(good["image"].endswith("HelloWorld.0000.qlx"))
+        self.fits("report", "messages", str(self.project))
+        self.fits("report", "check", str(self.project))
+        self.fits("report", "build", "missing.vbp", status=2)
+        self.fits("report", "check", "missing.vbp", status=1)
+        self.broken()
+        bad = self.fits("report", "build", str(self.project), status=1)
+        self.assertEqual([m["severity"] for m in bad["messages"]], ["error"])
+        self.fits("report", "messages", str(self.project))
+        self.fits("report", "check", str(self.project), status=1)
+
+    def test_failures_of_other_verbs_are_reports(self):
+        for verb in (["info"], ["settings", "list"], ["messages"]):
+            self.fits("report", *verb, "missing.vbp", status=2)
+        self.fits("report", "registry", "get", "HKEY_NOWHERE\\x", status=2)
+
+    def test_others(self):
+        self.fits("info", "info", str(self.project))
+        self.fits("info", "info", "--verify", str(self.project))
+        self.fits("settings", "settings", "list", str(self.project))
+        self.fits("settings", "settings", "get", str(self.project), "TargetDevice")
+        self.fits("targets", "targets")
+        self.fits("version", "version")
+        key = r"HKEY_CURRENT_USER\Software\Quinloft"
+        self.home.fernwick("registry", "set", key, "Name", "value")
+        self.fits("registry", "registry", "get", key)
+        self.fits("registry", "registry", "export", key)
+
+    def test_sarif(self):
+        self.broken()
+        for verb in ("build", "check", "messages"):
+            done = self.home.fernwick(verb, str(self.project), "--format", "sarif")
+            run = json.loads(done.stdout)["runs"][0]
+            self.assertEqual(run["tool"]["driver"]["name"], "fernwick")
+            result = run["results"][0]
+            self.assertRegex(result["ruleId"], r"^\d+$")
+            place = result["locations"][0]["physicalLocation"]
+            self.assertEqual(place["artifactLocation"]["uri"], (self.project.parent / "frmHello.frm").as_uri())
+            if verb != "messages":  # what is stored knows the code window's lines only
+                self.assertGreater(place["region"]["startLine"], 1)
+                self.assertGreater(place["region"]["startColumn"], 1)
+        failed = self.home.fernwick("build", "missing.vbp", "--format", "sarif")
+        invocation = json.loads(failed.stdout)["runs"][0]["invocations"][0]
+        self.assertFalse(invocation["executionSuccessful"])
+        self.assertEqual(invocation["exitCode"], 2)
+
+    def test_every_schema_is_tested(self):
+        self.assertEqual(sorted(p.stem for p in (ROOT / "installation/schemas").glob("*.json")),
+                         ["info-1", "registry-1", "report-1", "settings-1", "targets-1", "version-1"])
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,80 @@
+"""At a terminal: a bar, colours, and questions."""
+import os
+import pty
+import select
+import signal
+import time
+import unittest
+
+from support import Home
+
+
+class Terminal(unittest.TestCase):
+    def setUp(self):
+        self.home = Home()
+        self.home.__enter__()
+        self.addCleanup(self.home.__exit__)
+        self.project = self.home.sample()
+
+    def at_terminal(self, *arguments, typed="", **environment):
+        child, terminal = pty.fork()
+        if child == 0:
+            os.chdir(self.home.work)
+            os.execvpe("fernwick", ["fernwick", *arguments], self.home.env | environment)
+        os.write(terminal, typed.encode())
+        shown, deadline = b"", time.monotonic() + 60
+        while True:
+            ready, _, _ = select.select([terminal], [], [], max(0, deadline - time.monotonic()))
+            if not ready:
+                os.kill(child, signal.SIGKILL)
+                self.fail(f"it waits for ever after: {shown.decode()}")
+            try:
+                piece = os.read(terminal, 65536)
+            except OSError:  # the program has ended
+                break
+            if not piece:
+                break
+            shown += piece
+        os.close(terminal)
+        return os.waitstatus_to_exitcode(os.waitpid(child, 0)[1]), shown.decode()
+
+    def test_bar(self):
+        status, shown = self.at_terminal("build", str(self.project), typed="\n")
+        self.assertEqual(status, 0, shown)
+        self.assertIn("[yes/no/cancel, Return for Yes]", shown)
+        self.assertRegex(shown, r"\r\[#*\.*\] +\d+% ")
+        self.assertIn("SUCCESS - Compile and validate completed successfully.", shown)
+
+    def test_colours(self):
+        form = self.project.parent / "frmHello.frm"
+        form.write_bytes(form.read_bytes() + b"Sub x(\r\n")
+        _, shown = self.at_terminal("build", str(self.project), typed="\n")
+        self.assertIn("\033[31m", shown)
+        _, shown = self.at_terminal("build", str(self.project), typed="\n", NO_COLOR="1")
+        self.assertNotIn("\033[31m", shown)
+
+    def test_trust_is_asked_once(self):
+        self.home.fernwick("settings", "set", str(self.project), "PreCompileSteps", "touch ran", "touch too")
+        ran = self.project.parent / "ran"
+        status, shown = self.at_terminal("build", str(self.project), typed="\n\n\n")
+        self.assertIn("  touch ran\r\n  touch too\r\n", shown)
+        self.assertFalse(ran.exists())
+        status, shown = self.at_terminal("build", str(self.project), typed="\nyes\n")
+        self.assertEqual(status, 0, shown)
+        self.assertTrue(ran.exists())
+        ran.unlink()
+        status, shown = self.at_terminal("build", str(self.project))
+        self.assertEqual(status, 0, shown)
+        self.assertNotIn("Trust this folder", shown)
+        self.assertTrue(ran.exists())
+
+    def test_question(self):
+        self.home.fernwick("settings", "set", str(self.project), "PreCompileSteps", "false")
+        status, shown = self.at_terminal("build", str(self.project), "--trust-steps", typed="\nyes\n")
+        self.assertEqual(status, 0, shown)
+        status, shown = self.at_terminal("build", str(self.project), "--trust-steps", typed="\n\n")
+        self.assertEqual(status, 1, shown)
+
+
+if __name__ == "__main__":
+    unittest.main()
