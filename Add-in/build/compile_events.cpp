@@ -2,8 +2,8 @@
 #include "Add-in/build/build_texts.h"
 #include "Add-in/build/frmCompile.h"
 #include "Add-in/core/guids.h"
-#include "Basic/number_text.h"
 #include "Basic/like.h"
+#include "Basic/number_text.h"
 
 namespace fernwick {
 
