@@ -9,3 +9,9 @@ cd ../other
 run fernwick build --answer convert-dpi=yes
 stored HelloWorld.vbp TwipsPerPixelX
 diff --text "$SAMPLES/HelloWorld/frmHello.frm" frmHello.frm | head -20 | tr -d '\r'
+say every question alike
+cd ..
+sample TipCalculator
+sed -i 's/^TwipsPerPixel\(.\)=15/TwipsPerPixel\1=12/' TipCalculator/TipCalculator.vbp
+run fernwick build --no TipCalculator/TipCalculator.vbp
+run fernwick build --yes TipCalculator/TipCalculator.vbp
