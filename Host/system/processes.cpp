@@ -87,6 +87,8 @@ std::uint32_t Processes::WaitForSingleObject(std::uint32_t process) {
         if (const int ending = signals.next(); ending != 0) end(ending);
         if (WaitClock::now() >= killAt) ::kill(-child.id, SIGKILL);
     }
+    // a shell lets its background commands ignore an interrupt: they must not outlive the step that it ended
+    if (killAt != WaitClock::time_point::max()) ::kill(-child.id, SIGTERM);
     return 0;
 }
 

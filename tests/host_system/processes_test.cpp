@@ -2,6 +2,7 @@
 #include "tests/host_system/temp_folder.h"
 #include <chrono>
 #include <csignal>
+#include <fstream>
 #include <gtest/gtest.h>
 #include <sys/wait.h>
 #include <thread>
@@ -133,6 +134,17 @@ void waitForFile(const std::filesystem::path& file) {
         std::this_thread::sleep_for(std::chrono::milliseconds(10));
 }
 
+/// A process that has ended may wait for its parent to look: a zombie runs no more.
+bool isGone(pid_t process) {
+    for (int i = 0; i < 200; ++i) {
+        std::ifstream status("/proc/" + std::to_string(process) + "/stat");
+        std::string id, name, state;
+        if (!(status >> id >> name >> state) || state == "Z") return true;
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    }
+    return false;
+}
+
 } // namespace
 
 TEST_F(RunningProcesses, AnInterruptEndsTheStepAndAllThatItStarted) {
@@ -142,6 +154,10 @@ TEST_F(RunningProcesses, AnInterruptEndsTheStepAndAllThatItStarted) {
     std::this_thread::sleep_for(std::chrono::milliseconds(50));
     ::kill(child, SIGINT);
     EXPECT_EQ(endOf(child), 50);
+    pid_t sleeper = 0;
+    std::ifstream(folder / "sleeper") >> sleeper;
+    ASSERT_GT(sleeper, 0);
+    EXPECT_TRUE(isGone(sleeper));
 }
 
 TEST_F(RunningProcesses, AStepThatIgnoresTheInterruptIsKilled) {
