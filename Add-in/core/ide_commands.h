@@ -41,6 +41,9 @@ public:
     virtual void InitZoomWindow() = 0;
     virtual void ShowGettingStarted() = 0;
     virtual void ShowProjectManagerOnDelay() = 0;
+    /// Opens the settings dialog on a page, and returns when it has closed.
+    virtual void ShowQuinloftSettings(const basic::Ref<vbide::VBProject>& project, const std::string& pageName,
+                                      bool scanOnActivate) = 0;
 };
 
 } // namespace fernwick

@@ -12,6 +12,8 @@ class FamilyValidation final : public IQLPipeValidation {
 public:
     explicit FamilyValidation(std::string family) : family_(std::move(family)) {}
     bool IsDeviceSupported(const std::string& key) override;
+    bool ValidateFiles(const basic::Ref<vbide::VBProject>&, const ProjectFiles&) override { return true; }
+    void SetEventSink(IQLPipeEvents&) override {}
 
 private:
     std::string family_;

@@ -3,8 +3,8 @@
 #include "Add-in/platform/classes.h"
 #include "Add-in/platform/compiler.h"
 #include "Add-in/platform/files.h"
+#include "Components/Image/image.h"
 #include "Components/QLToolkit/check.h"
-#include "Components/QLToolkit/image.h"
 #include <memory>
 #include <optional>
 #include <string>

@@ -1,6 +1,6 @@
 #pragma once
 // The block of properties at the top of a form's file.
-#include "Components/QLToolkit/image.h"
+#include "Components/Image/image.h"
 #include "Components/QLToolkit/source_file.h"
 #include <optional>
 

@@ -73,6 +73,8 @@ struct FakeValidation : qlpipe::IQLPipeValidation {
     explicit FakeValidation(bool s) : supported(s) {}
     bool supported;
     bool IsDeviceSupported(const std::string&) override { return supported; }
+    bool ValidateFiles(const basic::Ref<vbide::VBProject>&, const qlpipe::ProjectFiles&) override { return true; }
+    void SetEventSink(qlpipe::IQLPipeEvents&) override {}
 };
 
 /// Classes with identifiers and libraries.

@@ -1,5 +1,5 @@
 #include "Basic/runtime_error.h"
-#include "Components/QLToolkit/image.h"
+#include "Components/Image/image.h"
 #include <gtest/gtest.h>
 
 using namespace compiler;

@@ -84,6 +84,8 @@ private:
     public:
         explicit Validation(const FakeTargets& targets) : targets_(targets) {}
         bool IsDeviceSupported(const std::string& key) override { return targets_.refused.count(key) == 0; }
+        bool ValidateFiles(const basic::Ref<vbide::VBProject>&, const qlpipe::ProjectFiles&) override { return true; }
+        void SetEventSink(qlpipe::IQLPipeEvents&) override {}
 
     private:
         const FakeTargets& targets_;

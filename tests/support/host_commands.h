@@ -38,6 +38,9 @@ public:
     void InitZoomWindow() override { did("init zoom window"); }
     void ShowGettingStarted() override { did("introduction"); }
     void ShowProjectManagerOnDelay() override { did("project manager"); }
+    void ShowQuinloftSettings(const Ref<vbide::VBProject>&, const std::string& page, bool) override {
+        did("settings " + page);
+    }
 
 private:
     void did(const std::string& what) { trace_.effect(what); }

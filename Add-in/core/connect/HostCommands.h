@@ -35,6 +35,7 @@ public:
     void InitZoomWindow() override {}
     void ShowGettingStarted() override {}
     void ShowProjectManagerOnDelay() override {}
+    void ShowQuinloftSettings(const basic::Ref<vbide::VBProject>&, const std::string&, bool) override {}
 
 private:
     basic::Ref<office::CommandBarControl> fileItem(int position);

@@ -1,4 +1,4 @@
-#include "Components/QLToolkit/image_bytes.h"
+#include "Components/Image/image_bytes.h"
 
 namespace compiler {
 

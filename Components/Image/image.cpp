@@ -1,5 +1,5 @@
-#include "Components/QLToolkit/image.h"
-#include "Components/QLToolkit/image_bytes.h"
+#include "Components/Image/image.h"
+#include "Components/Image/image_bytes.h"
 
 namespace compiler {
 
