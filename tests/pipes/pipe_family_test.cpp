@@ -1,8 +1,10 @@
 #include "Components/QLPipe/family_validation.h"
+#include "tests/pipes/pipe_world.h"
 #include <gtest/gtest.h>
-#include <map>
 
 namespace {
+
+using qlpipe::IQLPipeValidation;
 
 TEST(FamilyValidation, ServesTheTargetsOfItsFamily) {
     qlpipe::FamilyValidation palm{"PalmOS"};
@@ -16,18 +18,26 @@ TEST(FamilyValidation, RefusesEverythingElse) {
         EXPECT_FALSE(palm.IsDeviceSupported(key)) << key;
 }
 
-TEST(FamilyValidation, IsRegisteredForEachShippedPipe) {
-    std::map<std::string, qlpipe::ObjectFactory> classes;
-    qlpipe::registerPipes([&](const std::string& progId, qlpipe::ObjectFactory make) { classes[progId] = make; });
-    ASSERT_EQ(classes.size(), 3u);
+TEST(PipeFamilies, AreRegisteredWithTheirProgIds) {
+    test::PipeWorld world;
     for (const auto& [progId, key] : {std::pair{"QLPipePalmOS.Validation", "PalmOS-DragonBall"},
                                       {"QLPipePocketPC.Validation", "PocketPC-SH3"},
-                                      {"QLPipeLinux.Validation", "LinuxHandheld-ARM"}}) {
-        ASSERT_TRUE(classes.contains(progId)) << progId;
-        const auto validation = basic::cast<qlpipe::IQLPipeValidation>(classes[progId]());
-        EXPECT_TRUE(validation->IsDeviceSupported(key)) << progId;
+                                      {"QLPipeLinux.Validation", "LinuxHandheld-ARM"}})
+        EXPECT_TRUE(world.create<IQLPipeValidation>(progId)->IsDeviceSupported(key)) << progId;
+    EXPECT_FALSE(world.create<IQLPipeValidation>("QLPipeLinux.Validation") ==
+                 world.create<IQLPipeValidation>("QLPipeLinux.Validation"));
+}
+
+TEST(PipeFamilies, ServeTheShippedTargets) {
+    test::PipeWorld world;
+    const auto manager = world.create<designtargetaccess::IQLDesignTargetMgr>("DesignTargetAccess.QLDesignTargetMgr");
+    manager->Initialize();
+    ASSERT_GE(manager->Count(), 4);
+    for (std::int16_t i = 0; i < manager->Count(); ++i) {
+        const auto target = manager->GetDesignTargetByIndex(i);
+        const auto validation = world.create<IQLPipeValidation>(target->RequiredPipeProgID() + ".Validation");
+        EXPECT_TRUE(validation->IsDeviceSupported(target->Key())) << target->Key();
     }
-    EXPECT_FALSE(classes["QLPipeLinux.Validation"]() == classes["QLPipeLinux.Validation"]());
 }
 
 } // namespace
