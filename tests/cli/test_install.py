@@ -23,7 +23,7 @@ class Install(unittest.TestCase):
 
             shutil.copytree(samples / "HelloWorld", home.work / "HelloWorld")
             target = prefix / "share/fernwick/targets/PalmOS-DragonBall.toml"
-            target.write_text(target.read_text().replace('"Palm OS"', '"Palm OS as installed"'))
+            target.write_text(target.read_text().replace('"&Palm OS"', '"&Palm OS as installed"'))
             self.assertIn("Palm OS as installed", home.run(program, "targets", check=True).stdout)
             built = home.run(program, "build", "HelloWorld/HelloWorld.vbp", stderr=subprocess.STDOUT,
                              stdout=subprocess.PIPE, capture_output=False)
