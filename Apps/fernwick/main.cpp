@@ -21,7 +21,7 @@ struct Verb {
 constexpr std::array kVerbs{
     Verb{"build", cli::runBuild},       Verb{"check", cli::runCheck},       Verb{"info", cli::runInfo},
     Verb{"messages", cli::runMessages}, Verb{"registry", cli::runRegistry}, Verb{"settings", cli::runSettings},
-    Verb{"targets", cli::runTargets},   Verb{"version", cli::runVersion},
+    Verb{"targets", cli::runTargets},   Verb{"version", cli::runVersion},   Verb{"explain", cli::runExplain},
 };
 
 int runVerb(const cli::Options& options, cli::Console& console) {
