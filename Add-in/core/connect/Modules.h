@@ -2,6 +2,8 @@
 // The whole add-in, put together.
 #include "Add-in/build/frmCompile.h"
 #include "Add-in/build/frmCompileWarning.h"
+#include "Add-in/build/frmValidate.h"
+#include "Add-in/build/modDependencyManagement.h"
 #include "Add-in/build/udocCompileMsgs.h"
 #include "Add-in/core/connect/Connect.h"
 #include "Add-in/core/connect/HostCommands.h"
@@ -42,8 +44,10 @@ struct Modules {
     // build
     modCompileErrorManagement messages{addIn, errors, platform};
     modProcessControl processes{errors, platform};
+    modDependencyManagement dependencies{{platform, errors, install, messages, commands}};
     frmCompileWarning compileWarning{platform.interaction, prefs, errors};
     frmCompile compile{{platform, errors, registry, install, projects, messages, processes, saveFiles, commands}};
+    frmValidate validate{{platform, errors, registry, install, projectServices, deviceServices, messages, compile}};
     // lifecycle
     frmProjectRemoval removal{platform.interaction, platform.loop, addIn, projects, commands, errors};
     frmDesignTargetNormal chooseTarget{deviceServices};
