@@ -22,6 +22,7 @@ constexpr std::array kVerbs{
     Verb{"build", cli::runBuild},       Verb{"check", cli::runCheck},       Verb{"info", cli::runInfo},
     Verb{"messages", cli::runMessages}, Verb{"registry", cli::runRegistry}, Verb{"settings", cli::runSettings},
     Verb{"targets", cli::runTargets},   Verb{"version", cli::runVersion},   Verb{"explain", cli::runExplain},
+    Verb{"devices", cli::runDevices},   Verb{"doctor", cli::runDoctor},
 };
 
 int runVerb(const cli::Options& options, cli::Console& console) {

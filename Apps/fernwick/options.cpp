@@ -143,6 +143,15 @@ void defineTools(CLI::App& app, Raw& raw) {
     auto& explain = addVerb(app, raw, "explain", "Tell what messages mean and what to do about them",
                             "fernwick explain 1300 2999", Result::Pages);
     explain.add_option("NUMBER", raw.options.operands, "Numbers of messages; without any all messages are listed");
+
+    auto& devices = addVerb(app, raw, "devices", "List My Devices and say which they are",
+                            "fernwick devices add PalmOS-DragonBall\n  "
+                            "fernwick devices set LinuxHandheld-ARM Host=192.168.1.20 User=me");
+    devices.add_option("ACTION", raw.options.action, "list, add, remove or set; list when it is left out")
+        ->check(CLI::IsMember({"list", "add", "remove", "set"}));
+    devices.add_option("OPERANDS", raw.options.operands, "add KEY... | remove KEY... | set KEY NAME=VALUE...");
+
+    addVerb(app, raw, "doctor", "Say what is installed and usable, and what sets the rest right", "fernwick doctor");
 }
 
 std::string answersHelp() {

@@ -63,6 +63,8 @@ std::string jsonOf(const Report& report) {
 
 std::string sarifOf(const Report& report) {
     Json results = Json::array();
+    std::set<int> numbers;
+    for (const auto& message : report.messages) numbers.insert(message.number);
     for (const auto& message : report.messages)
         results.push_back({{"ruleId", std::to_string(message.number)},
                            {"level", message.isError ? "error" : "warning"},
@@ -72,7 +74,7 @@ std::string sarifOf(const Report& report) {
     if (!report.failure.empty())
         invocation["toolExecutionNotifications"] =
             Json::array({{{"level", "error"}, {"message", {{"text", report.failure}}}}});
-    const Json driver{{"name", "fernwick"}, {"version", FERNWICK_VERSION}, {"rules", sarifRules(report.messages)}};
+    const Json driver{{"name", "fernwick"}, {"version", FERNWICK_VERSION}, {"rules", sarifRules(numbers)}};
     const Json run{{"tool", {{"driver", driver}}},
                    {"invocations", Json::array({invocation})},
                    {"results", results}};

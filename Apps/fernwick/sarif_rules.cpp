@@ -3,7 +3,6 @@
 #include "Apps/fernwick/machine.h"
 #include "Apps/fernwick/maker.h"
 #include <fmt/format.h>
-#include <set>
 
 namespace cli {
 
@@ -21,10 +20,8 @@ Json ruleOf(const fernwick::MessageInfo& message, const std::string& pages) {
 
 } // namespace
 
-Json sarifRules(const std::vector<Message>& messages) {
+Json sarifRules(const std::set<int>& numbers) {
     Json rules = Json::array();
-    std::set<int> numbers;
-    for (const auto& message : messages) numbers.insert(message.number);
     if (numbers.empty()) return rules;
     const auto pages = messagePagesOf(findInstallation(host::Environment{}));
     for (const auto number : numbers)

@@ -66,7 +66,7 @@ std::string textOfMessage(const MessageInfo& message) {
     return text;
 }
 
-Json jsonOfMessages(const std::vector<MessageInfo>& messages) {
+Json jsonOfCatalogue(const std::vector<MessageInfo>& messages) {
     auto json = jsonResult("explain");
     json["messages"] = Json::array();
     for (const auto& one : messages)
@@ -84,7 +84,7 @@ Json jsonOfMessages(const std::vector<MessageInfo>& messages) {
 int runExplain(const Options& options, Console& console) {
     const auto messages = messagesAsked(options.operands);
     if (options.format == Format::Json) {
-        console.out(dumpJson(jsonOfMessages(messages)));
+        console.out(dumpJson(jsonOfCatalogue(messages)));
     } else if (options.format == Format::Markdown) {
         console.out(markdownOf(messages));
     } else if (options.operands.empty()) {
