@@ -26,7 +26,7 @@ std::string reasonOf(const DeviceOutcome& outcome) {
 DeviceOutcome serveOne(Session& session, const std::string& device, const ServeDevice& serve) {
     DeviceOutcome outcome;
     outcome.device = device;
-    auto& transfer = session.machine().transfer();
+    auto& transfer = session.machine().transfers();
     transfer = {};
     const auto boxesBefore = session.user().shown().size();
     outcome.messages = serve(device);
