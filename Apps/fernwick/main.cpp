@@ -22,6 +22,7 @@ constexpr std::array kVerbs{
     Verb{"build", cli::runBuild},
     Verb{"check", cli::runCheck},
     Verb{"deploy", cli::runDeploy},
+    Verb{"explain", cli::runExplain},
     Verb{"info", cli::runInfo},
     Verb{"install-runtime", cli::runInstallRuntime},
     Verb{"messages", cli::runMessages},

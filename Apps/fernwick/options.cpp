@@ -35,16 +35,16 @@ public:
     }
 };
 
-/// A verb whose result is a list of messages can give it as SARIF too.
-enum class Result { Data, Messages };
+/// A verb whose result is a list of messages can give it as SARIF too, and one that documents them as Markdown.
+enum class Result { Data, Messages, Pages };
 
 void addCommon(CLI::App& verb, Raw& raw, Result result) {
-    const bool messages = result == Result::Messages;
     std::vector<std::string> formats{"text", "json"};
-    if (messages) formats.push_back("sarif");
+    if (result == Result::Messages) formats.push_back("sarif");
+    if (result == Result::Pages) formats.push_back("markdown");
     verb.add_option("--format", raw.format,
-                    messages ? "How the result is written: text, json or sarif"
-                             : "How the result is written: text or json")
+                    "How the result is written: text" +
+                        (formats.size() == 2 ? " or json" : ", json or " + formats.back()))
         ->check(CLI::IsMember(formats))
         ->type_name("FORMAT");
     verb.add_flag("-q,--quiet", raw.quiet, "Only errors and data");
@@ -185,16 +185,29 @@ void defineRegistry(CLI::App& app, Raw& raw) {
         ->excludes("--format");
 }
 
+/// A verb on what is installed rather than on a project.
+void defineTools(CLI::App& app, Raw& raw) {
+    auto& explain = addVerb(app, raw, "explain", "Tell what messages mean and what to do about them",
+                            "fernwick explain 1300 2999", Result::Pages);
+    explain.add_option("NUMBER", raw.options.operands, "Numbers of messages; without any all messages are listed");
+}
+
 std::string answersHelp() {
     return "Questions, the answers that a script gets, and what they are about:\n\n" + describeQuestions() +
            "\nA form that is not listed is cancelled, a box answered with no or cancel.\n"
            "--yes and --no answer all of them, --answer NAME=REPLY one.\n";
 }
 
+Format formatNamed(std::string_view name) {
+    if (name == "json") return Format::Json;
+    if (name == "sarif") return Format::Sarif;
+    return name == "markdown" ? Format::Markdown : Format::Text;
+}
+
 Parsed finish(Raw& raw) {
     Parsed parsed;
     auto& options = raw.options;
-    options.format = raw.format == "json" ? Format::Json : raw.format == "sarif" ? Format::Sarif : Format::Text;
+    options.format = formatNamed(raw.format);
     options.verbosity = raw.quiet ? Verbosity::Quiet : raw.verbose ? Verbosity::Verbose : Verbosity::Normal;
     if (raw.yes) options.answers.everything(Reply::Yes);
     if (raw.no) options.answers.everything(Reply::No);
@@ -265,6 +278,7 @@ Parsed parseCommandLine(int argc, const char* const* argv) {
     defineReaders(app, raw);
     defineSettings(app, raw);
     defineRegistry(app, raw);
+    defineTools(app, raw);
     auto* help = app.add_subcommand("help", "Print help on a verb, or on answers");
     help->add_option("TOPIC", topic, "A verb, or answers");
     help->callback([&raw] { raw.options.verb = "help"; });

@@ -7,7 +7,7 @@
 
 namespace cli {
 
-enum class Format { Text, Json, Sarif };
+enum class Format { Text, Json, Sarif, Markdown };
 
 struct Options {
     std::string verb;

@@ -1,5 +1,6 @@
 #include "Apps/fernwick/report.h"
 #include "Apps/fernwick/json_output.h"
+#include "Apps/fernwick/sarif_rules.h"
 #include "Apps/fernwick/version.h"
 #include <fmt/format.h>
 
@@ -108,7 +109,8 @@ std::string sarifOf(const Report& report) {
     if (!report.failure.empty())
         invocation["toolExecutionNotifications"] =
             Json::array({{{"level", "error"}, {"message", {{"text", report.failure}}}}});
-    const Json run{{"tool", {{"driver", {{"name", "fernwick"}, {"version", FERNWICK_VERSION}}}}},
+    const Json driver{{"name", "fernwick"}, {"version", FERNWICK_VERSION}, {"rules", sarifRules(report.messages)}};
+    const Json run{{"tool", {{"driver", driver}}},
                    {"invocations", Json::array({invocation})},
                    {"results", results}};
     return dumpJson({{"$schema", "https://json.schemastore.org/sarif-2.1.0.json"},

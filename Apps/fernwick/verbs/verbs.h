@@ -7,7 +7,11 @@ namespace cli {
 
 int runBuild(const Options& options, Console& console);
 int runCheck(const Options& options, Console& console);
+int runDependencies(const Options& options, Console& console);
 int runDeploy(const Options& options, Console& console);
+int runDevices(const Options& options, Console& console);
+int runDoctor(const Options& options, Console& console);
+int runExplain(const Options& options, Console& console);
 int runInfo(const Options& options, Console& console);
 int runInstallRuntime(const Options& options, Console& console);
 int runMessages(const Options& options, Console& console);

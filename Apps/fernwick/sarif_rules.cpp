@@ -1,0 +1,35 @@
+#include "Apps/fernwick/sarif_rules.h"
+#include "Apps/fernwick/catalogue.h"
+#include "Apps/fernwick/machine.h"
+#include "Apps/fernwick/maker.h"
+#include <fmt/format.h>
+#include <set>
+
+namespace cli {
+
+namespace {
+
+Json ruleOf(const fernwick::MessageInfo& message, const std::string& pages) {
+    Json rule{{"id", std::to_string(message.number)},
+              {"shortDescription", {{"text", wordsOf(message)}}},
+              {"fullDescription", {{"text", message.meaning}}},
+              {"help", {{"text", message.remedy}}},
+              {"defaultConfiguration", {{"level", kindOf(message)}}}};
+    if (!pages.empty()) rule["helpUri"] = fmt::format("{}{}.html", pages, message.number);
+    return rule;
+}
+
+} // namespace
+
+Json sarifRules(const std::vector<Message>& messages) {
+    Json rules = Json::array();
+    std::set<int> numbers;
+    for (const auto& message : messages) numbers.insert(message.number);
+    if (numbers.empty()) return rules;
+    const auto pages = messagePagesOf(findInstallation(host::Environment{}));
+    for (const auto number : numbers)
+        if (const auto* known = messageNumbered(number)) rules.push_back(ruleOf(*known, pages));
+    return rules;
+}
+
+} // namespace cli
