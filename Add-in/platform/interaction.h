@@ -8,7 +8,7 @@ class Form;
 
 enum VbMsgBoxResult : int { vbOK = 1, vbCancel = 2, vbYes = 6, vbNo = 7 };
 
-/// Buttons and icon of a box, added up.
+/// Buttons, icon and default button of a box, added up.
 enum VbMsgBoxStyle : int {
     vbOKOnly = 0,
     vbOKCancel = 1,
@@ -18,6 +18,7 @@ enum VbMsgBoxStyle : int {
     vbQuestion = 32,
     vbExclamation = 48,
     vbInformation = 64,
+    vbDefaultButton2 = 256,
 };
 
 enum MousePointerShape : int { vbDefault = 0, vbArrow = 1, vbHourglass = 11 };
