@@ -7,8 +7,6 @@ namespace fernwick {
 
 namespace {
 
-constexpr char kFontType[] = "CMF";
-
 /// Lists from 0 on have at least one element.
 void requireElements(std::size_t count) {
     if (count == 0) throw basic::RuntimeError(basic::kSubscriptOutOfRange);

@@ -55,8 +55,7 @@ void printTable(const Report& report, const std::string& done, Console& console)
     for (const auto& outcome : report.devices) width = std::max(width, outcome.device.size());
     for (const auto& outcome : report.devices)
         console.out(
-            fmt::format("{:<{}}  {}\n", outcome.device, width,
-                        outcome.good ? fmt::format("{}  {}", done, outcome.location) : "failed: " + outcome.reason));
+            fmt::format("{:<{}}  {}\n", outcome.device, width, outcome.good ? done : "failed: " + outcome.reason));
 }
 
 } // namespace
