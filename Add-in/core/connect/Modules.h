@@ -8,6 +8,8 @@
 #include "Add-in/core/connect/Connect.h"
 #include "Add-in/core/connect/HostCommands.h"
 #include "Add-in/core/modAddInErrorManagement.h"
+#include "Add-in/deploy/frmSendRuntimeToDevice.h"
+#include "Add-in/deploy/frmSendToDevice.h"
 #include "Add-in/project/frmSaveWarning.h"
 
 namespace fernwick {
@@ -46,8 +48,14 @@ struct Modules {
     modProcessControl processes{errors, platform};
     modDependencyManagement dependencies{{platform, errors, install, messages, commands}};
     frmCompileWarning compileWarning{platform.interaction, prefs, errors};
-    frmCompile compile{{platform, errors, registry, install, projects, messages, processes, saveFiles, commands}};
+    frmCompile compile{
+        {platform, errors, registry, install, projects, messages, dependencies, processes, saveFiles, commands}};
     frmValidate validate{{platform, errors, registry, install, projectServices, deviceServices, messages, compile}};
+    // deploy
+    PipeServices pipeServices{platform, errors, install, devices};
+    frmSendToDevice sendToDevice{
+        pipeServices, {addIn, prefs, projects, messages, dependencies, compile, compileWarning, validate, commands}};
+    frmSendRuntimeToDevice sendRuntime{pipeServices};
     // lifecycle
     frmProjectRemoval removal{platform.interaction, platform.loop, addIn, projects, commands, errors};
     frmDesignTargetNormal chooseTarget{deviceServices};
