@@ -21,6 +21,7 @@ struct Verb {
 constexpr std::array kVerbs{
     Verb{"build", cli::runBuild},
     Verb{"check", cli::runCheck},
+    Verb{"dependencies", cli::runDependencies},
     Verb{"deploy", cli::runDeploy},
     Verb{"devices", cli::runDevices},
     Verb{"doctor", cli::runDoctor},

@@ -185,7 +185,14 @@ void defineRegistry(CLI::App& app, Raw& raw) {
         ->excludes("--format");
 }
 
-/// A verb on what is installed rather than on a project.
+void defineDependencies(CLI::App& app, Raw& raw) {
+    auto& dependencies = addVerb(app, raw, "dependencies", "List, add or remove the files that go along with a project",
+                                 "fernwick dependencies AddressBook.vbp add data/cities.pdb logo.bmp");
+    dependencies.add_option("OPERANDS", raw.options.operands, "[PROJECT] [list | add FILE... | remove FILE...]");
+    addAnswers(dependencies, raw);
+}
+
+/// Verbs on what is installed rather than on a project.
 void defineTools(CLI::App& app, Raw& raw) {
     auto& explain = addVerb(app, raw, "explain", "Tell what messages mean and what to do about them",
                             "fernwick explain 1300 2999", Result::Pages);
@@ -287,6 +294,7 @@ Parsed parseCommandLine(int argc, const char* const* argv) {
     defineReaders(app, raw);
     defineSettings(app, raw);
     defineRegistry(app, raw);
+    defineDependencies(app, raw);
     defineTools(app, raw);
     auto* help = app.add_subcommand("help", "Print help on a verb, or on answers");
     help->add_option("TOPIC", topic, "A verb, or answers");
