@@ -53,6 +53,32 @@ protected:
     void Form_Unload() override;
 
 private:
+    using Target = basic::Ref<designtargetaccess::IQLDesignTarget>;
+
+    // The run
+    void startAnimation(Procedure& here);
+    void validate(Procedure& here);
+    void finish(Procedure& here);
+    void AddToProgress(const std::string& text);
+
+    // References
+    bool ScanReferences(const Project& project);
+    void initialiseTargets(Procedure& here);
+    bool scanForBroken(Procedure& here, const Project& project);
+    void readDeviceConfig(Procedure& here);
+    bool isSupported(Procedure& here, const Project& project, const Target& target, const std::string& moduleId);
+    void reportNotSupported(Procedure& here, const Project& project, const Target& target, const std::string& moduleId);
+    std::string GetTypeLibDisplayName(const std::string& guid);
+
+    // Forms
+    bool checkFormName(Procedure& here, const Project& project, const Component& component);
+    bool checkFormProperties(Procedure& here, const Project& project, const Component& component);
+    bool ScanControls(const Project& project, const Component& component, const basic::Ref<vbide::VBForm>& designer);
+    bool ScanEvents(const Project& project, const Component& component);
+    void warnOfControlEvent(Procedure& here, const Project& project, const Component& component,
+                            const vbide::Member& member, const basic::Ref<vbide::VBControl>& control);
+    void GenerateFormEventWarning(const Project& project, const Component& component, const vbide::Member& member);
+
     ValidationServices use_;
     Project project_;
     QLProject qlProject_;

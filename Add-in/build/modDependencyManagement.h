@@ -1,5 +1,6 @@
 #pragma once
 // What travels to a device with the compiled image: the user's list of files, and the fonts that forms name.
+#include "Add-in/build/font_file.h"
 #include "Add-in/build/modCompileErrorManagement.h"
 #include "Add-in/build/resource_list.h"
 #include "Add-in/core/ide_commands.h"
@@ -62,7 +63,31 @@ public:
                                                             Label* status = nullptr);
 
 private:
+    struct FontScan;
+
+    tResource readDependency(const Project& project, std::int32_t index);
+    std::string placeOf(const std::string& folder, const tResource& entry) const;
+    std::string inFontsFolder(const std::string& name) const;
+    std::string projectFolder(const Project& project) const;
+    std::int32_t fileSize(const std::string& path) const;
+
+    bool copyToProject(Procedure& here, const std::string& path, const std::string& folder, bool allowCopy);
+
+    bool canBeScanned(Procedure& here, const Project& project);
+    void ScanFormforDependencies(const basic::Ref<vbide::VBComponent>& form, FontScan& scan);
+    void AddFonttoDependencyList(const basic::Ref<vbide::VBComponent>& form, FontScan& scan, const FontFace& font);
+    std::string findFont(Procedure& here, FontScan& scan, const FontFace& font);
+    std::string fontEntry(const FontScan& scan, const std::string& path);
+    void warnOfMissingFont(Procedure& here, const basic::Ref<vbide::VBComponent>& form, const FontScan& scan,
+                           const FontFace& font);
+    bool FontAlreadyWarned(const FontFace& font) const;
+    void AddFontToKnownMissingList(const FontFace& font);
+
+    int box(Procedure& here, const std::string& text, int buttons);
+
     DependencyServices use_;
+    /// Of the last scan. Keys of a collection: letter case counts for nothing.
+    basic::Collection<std::string> knownMissingFonts_;
 };
 
 } // namespace fernwick

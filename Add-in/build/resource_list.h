@@ -15,9 +15,12 @@ struct tResource {
     /// Bytes when it was read or added; 0 when that is not known.
     std::int32_t FileSize = 0;
     /// "???" until a page of the settings fills it.
-    std::string Description;
+    std::string Description = "???";
     friend bool operator==(const tResource&, const tResource&) = default;
 };
+
+/// The FileType of converted fonts, which the fonts folder may hold for all projects.
+inline constexpr char kFontType[] = "CMF";
 
 /// A counted array of them, indexed from 0.
 struct tResourceList {

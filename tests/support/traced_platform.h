@@ -19,6 +19,9 @@ public:
     /// Answers of boxes that ask something, in their order.
     std::deque<int> answers;
     std::map<std::string, std::function<void(fernwick::Form&)>> whenShown;
+    std::string chosen;
+    /// The last open dialog as it was shown.
+    fernwick::CommonDialog opened;
 
     void showModal(fernwick::Form& form) override {
         trace_.effect(std::string("form ") + form.typeName());
@@ -42,6 +45,12 @@ public:
         return answer;
     }
     void ShowSave(fernwick::CommonDialog&) override { trace_.effect("save dialog"); }
+    /// Chooses what `chosen` says; "" stands for Cancel.
+    void ShowOpen(fernwick::CommonDialog& dialog) override {
+        trace_.effect("open dialog");
+        opened = dialog;
+        if (!chosen.empty()) dialog.FileName = chosen;
+    }
     void MessageBeep(int type) override { trace_.effect("beep " + std::to_string(type)); }
     void SetCursor(fernwick::MousePointerShape shape) override { trace_.effect("cursor " + std::to_string(shape)); }
 

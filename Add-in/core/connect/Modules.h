@@ -48,7 +48,8 @@ struct Modules {
     modProcessControl processes{errors, platform};
     modDependencyManagement dependencies{{platform, errors, install, messages, commands}};
     frmCompileWarning compileWarning{platform.interaction, prefs, errors};
-    frmCompile compile{{platform, errors, registry, install, projects, messages, processes, saveFiles, commands}};
+    frmCompile compile{
+        {platform, errors, registry, install, projects, messages, dependencies, processes, saveFiles, commands}};
     frmValidate validate{{platform, errors, registry, install, projectServices, deviceServices, messages, compile}};
     // deploy
     PipeServices pipeServices{platform, errors, install, devices};
