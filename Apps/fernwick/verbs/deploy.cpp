@@ -2,6 +2,7 @@
 #include "Apps/fernwick/device_runs.h"
 #include "Apps/fernwick/exit_status.h"
 #include "Apps/fernwick/project_run.h"
+#include "Apps/fernwick/verbs/package_file.h"
 #include "Apps/fernwick/verbs/stored_messages.h"
 #include "Apps/fernwick/verbs/verbs.h"
 
@@ -33,10 +34,13 @@ int carry(const Options& options, Console& console, Way way) {
 } // namespace
 
 int runDeploy(const Options& options, Console& console) {
+    if (isPackageFile(options.project)) return installPackage(options, console);
     return carry(options, console, Way::Send);
 }
 
 int runPackage(const Options& options, Console& console) {
+    if (options.list) return listPackage(options, console);
+    if (options.verify) return verifyPackage(options, console);
     return carry(options, console, Way::Pack);
 }
 
