@@ -1,4 +1,6 @@
 #include "Apps/fernwick/catalogue.h"
+#include "Add-in/build/build_messages.h"
+#include "Components/QLPipe/pipe_messages.h"
 #include "Components/QLToolkit/messages.h"
 #include <algorithm>
 #include <cstdlib>
@@ -17,7 +19,10 @@ void addCompilerMessages(std::vector<MessageInfo>& to) {
 
 std::vector<MessageInfo> joinTables() {
     std::vector<MessageInfo> all;
+    const auto add = [&](std::span<const MessageInfo> table) { all.insert(all.end(), table.begin(), table.end()); };
     addCompilerMessages(all);
+    add(fernwick::buildMessages());
+    for (const auto table : qlpipe::pipeMessages()) add(table);
     std::stable_sort(all.begin(), all.end(),
                      [](const MessageInfo& a, const MessageInfo& b) { return a.number < b.number; });
     return all;
@@ -48,18 +53,5 @@ std::vector<std::int32_t> numbersNear(std::int32_t number, std::size_t most) {
 }
 
 std::string_view kindOf(const MessageInfo& message) { return message.isError ? "error" : "warning"; }
-
-std::string wordsOf(const MessageInfo& message) {
-    std::string words;
-    for (std::size_t at = 0; at < message.text.size(); ++at) {
-        const bool differs = message.text[at] == '%' && at + 1 < message.text.size() && message.text[at + 1] >= '1' &&
-                             message.text[at + 1] <= '9';
-        if (differs)
-            words += "…", ++at;
-        else
-            words += message.text[at];
-    }
-    return words;
-}
 
 } // namespace cli

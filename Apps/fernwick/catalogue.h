@@ -3,7 +3,7 @@
 #include "Add-in/platform/message_info.h"
 #include <cstdint>
 #include <span>
-#include <string>
+#include <string_view>
 #include <vector>
 
 namespace cli {
@@ -17,7 +17,5 @@ std::vector<std::int32_t> numbersNear(std::int32_t number, std::size_t most);
 
 /// "error" or "warning".
 std::string_view kindOf(const fernwick::MessageInfo& message);
-/// The words as they are read outside of a run: "…" stands for what differs.
-std::string wordsOf(const fernwick::MessageInfo& message);
 
 } // namespace cli

@@ -1,7 +1,8 @@
 #include "Apps/fernwick/device_place.h"
 #include "Basic/case_folding.h"
+#include "Components/QLPipe/bundle.h"
+#include "Components/QLPipe/installer.h"
 #include "Components/QLPipe/pipe_family.h"
-#include <nlohmann/json.hpp>
 
 namespace cli {
 
@@ -9,26 +10,26 @@ namespace {
 
 using qlpipe::DeviceStorage;
 
-/// Where the runtime lies on every device, and its manifest.
-constexpr const char* kRuntimeFolder = "runtime";
-constexpr const char* kRuntimeManifest = "runtime/manifest.json";
-
 const qlpipe::PipeFamily* familyOfPipe(const std::string& pipe) {
     for (const auto& family : qlpipe::pipeFamilies())
         if (basic::equalNoCase(family.pipe, pipe)) return &family;
     return nullptr;
 }
 
-std::string versionInManifest(const std::string& manifest) {
-    const auto json = nlohmann::json::parse(manifest, nullptr, false);
-    return json.is_object() && json.contains("version") && json["version"].is_string() ? json["version"] : "unknown";
+/// "" for none; the next transfer puts a damaged one right.
+std::string runtimeVersion(DeviceStorage& storage) {
+    if (!qlpipe::hasRuntime(storage)) return {};
+    try {
+        const auto manifest = storage.read(std::string(qlpipe::kRuntimeFolder) + "/" + qlpipe::kManifestName);
+        return qlpipe::readManifest(manifest).version;
+    } catch (const qlpipe::ManifestProblem& problem) { return "damaged: " + problem.what; }
 }
 
 DevicePlace placeOf(DeviceStorage& storage) {
     DevicePlace place;
     place.location = storage.location();
-    place.freeBytes = storage.freeSpaceFor(kRuntimeFolder);
-    if (storage.exists(kRuntimeManifest)) place.runtime = versionInManifest(storage.read(kRuntimeManifest));
+    place.freeBytes = storage.freeSpaceFor(qlpipe::kStagingFolder);
+    place.runtime = runtimeVersion(storage);
     return place;
 }
 

@@ -13,8 +13,8 @@ constexpr std::size_t kPageWidth = 120;
 
 constexpr const char* kHead = R"(# Messages
 
-What Fernwick says, by number; "…" stands for what differs. `fernwick explain NUMBER` prints one of these entries, F1 in
-the messages window opens its page. Written by `scripts/make-message-pages` from the tables of the messages.
+What Fernwick says, by number; %1, %2 and so on stand for what differs. `fernwick explain NUMBER` prints one of these
+entries, F1 in the messages window opens its page. Written by `scripts/make-message-pages` from the tables of the messages.
 )";
 
 /// What the format would take for its own.
@@ -36,7 +36,7 @@ std::string codeBlock(std::string_view lines) {
 std::string sectionOf(const MessageInfo& message) {
     const auto paragraph = [](const std::string& text) { return "\n" + wrapped(text, kPageWidth) + "\n"; };
     std::string section = fmt::format("\n## {}\n", message.number);
-    section += paragraph(fmt::format("**{}:** {}", message.isError ? "Error" : "Warning", escaped(wordsOf(message))));
+    section += paragraph(fmt::format("**{}:** {}", message.isError ? "Error" : "Warning", escaped(message.text)));
     section += paragraph(escaped(message.meaning));
     if (!message.example.empty()) section += codeBlock(message.example);
     section += paragraph("Remedy: " + escaped(message.remedy));

@@ -10,7 +10,7 @@ namespace {
 
 Json ruleOf(const fernwick::MessageInfo& message, const std::string& pages) {
     Json rule{{"id", std::to_string(message.number)},
-              {"shortDescription", {{"text", wordsOf(message)}}},
+              {"shortDescription", {{"text", message.text}}},
               {"fullDescription", {{"text", message.meaning}}},
               {"help", {{"text", message.remedy}}},
               {"defaultConfiguration", {{"level", kindOf(message)}}}};

@@ -23,8 +23,8 @@ struct Finding {
 
 using Findings = std::vector<Finding>;
 
-// The examinations. Each adds at least one finding, changes nothing, and lets no failure of what it looks at out but
-// those of memory.
+// The examinations. Each adds what it finds, good things too. They write nothing, but a device's folder that is not there
+// is made when it is looked for.
 void examineInstallation(Machine& machine, Findings& to);
 void examineStores(Machine& machine, Findings& to);
 void examineCompiler(Machine& machine, Findings& to);

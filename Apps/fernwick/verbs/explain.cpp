@@ -56,7 +56,7 @@ std::string indented(std::string_view lines) {
 }
 
 std::string textOfMessage(const MessageInfo& message) {
-    std::string text = fmt::format("{} {}: {}\n", message.number, kindOf(message), wordsOf(message));
+    std::string text = fmt::format("{} {}: {}\n", message.number, kindOf(message), message.text);
     const auto part = [&](const char* heading, const std::string& lines) {
         if (!lines.empty()) text += fmt::format("\n{}\n{}", heading, indented(lines));
     };
@@ -89,7 +89,7 @@ int runExplain(const Options& options, Console& console) {
         console.out(markdownOf(messages));
     } else if (options.operands.empty()) {
         for (const auto& one : messages)
-            console.out(fmt::format("{:>5}  {:<7}  {}\n", one.number, kindOf(one), wordsOf(one)));
+            console.out(fmt::format("{:>5}  {:<7}  {}\n", one.number, kindOf(one), one.text));
     } else {
         std::string gap;
         for (const auto& one : messages) console.out(std::exchange(gap, "\n") + textOfMessage(one));
