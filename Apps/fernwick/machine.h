@@ -2,6 +2,7 @@
 // The machine that a run of the command line works on: the host's services over this system.
 #include "Add-in/platform/platform.h"
 #include "Apps/fernwick/command_line_user.h"
+#include "Components/QLPipe/pipe_services.h"
 #include "Components/QLToolkit/compiler.h"
 #include "Host/registry/registry_store.h"
 #include "Host/system/classes.h"
@@ -28,6 +29,8 @@ public:
     const std::string& installation() const { return installation_; }
     /// What the last build did.
     const compiler::BuildRecord& build() const { return *build_; }
+    /// What the pipes did.
+    const qlpipe::TransferRecord& transfers() const { return *transfers_; }
     /// Turns the event loop until nothing is due.
     void drain();
 
@@ -46,6 +49,7 @@ private:
     host::Shell shell_;
     host::Screen screen_;
     std::shared_ptr<compiler::BuildRecord> build_ = std::make_shared<compiler::BuildRecord>();
+    std::shared_ptr<qlpipe::TransferRecord> transfers_ = std::make_shared<qlpipe::TransferRecord>();
     std::vector<std::shared_ptr<void>> registered_;
     fernwick::Platform platform_;
 };
