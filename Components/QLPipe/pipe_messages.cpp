@@ -1,4 +1,5 @@
 #include "Components/QLPipe/pipe_messages.h"
+#include "Components/QLPipe/linux_handheld/ssh_messages.h"
 
 namespace qlpipe {
 namespace {
@@ -14,7 +15,7 @@ constexpr fernwick::MessageInfo kGeneralMessages[] = {
 
 } // namespace
 
-std::vector<std::span<const fernwick::MessageInfo>> pipeMessages() { return {kGeneralMessages}; }
+std::vector<std::span<const fernwick::MessageInfo>> pipeMessages() { return {kGeneralMessages, sshMessages()}; }
 
 std::string messageText(std::int32_t number, std::initializer_list<std::string> values) {
     for (const auto table : pipeMessages())

@@ -24,7 +24,8 @@ int notePassphrase(const char*, char*, std::size_t, int, int, void* noted) {
 KeyFile readKeyFile(const std::string& path) {
     KeyFile file;
     ssh_key key = nullptr;
-    if (libssh().ssh_pki_import_privkey_file(path.c_str(), nullptr, &notePassphrase, &file.hasPassphrase, &key) == SSH_OK)
+    if (libssh().ssh_pki_import_privkey_file(path.c_str(), nullptr, &notePassphrase, &file.hasPassphrase, &key) ==
+        SSH_OK)
         file.key.reset(key);
     return file;
 }
@@ -43,8 +44,8 @@ public:
     bool byAgent() {
         if (!agentRuns()) return false;
         tried("those of the SSH agent");
-        return accepted(session_.finish(
-            SSH_AUTH_AGAIN, [&] { return libssh().ssh_userauth_agent(session_.get(), nullptr); }));
+        return accepted(
+            session_.finish(SSH_AUTH_AGAIN, [&] { return libssh().ssh_userauth_agent(session_.get(), nullptr); }));
     }
 
     bool byUsualFiles() {
@@ -94,9 +95,9 @@ void authenticateByFile(Authentication& ways, const std::string& path) {
     if (file.key && ways.byFile(path, file)) return;
     if (ways.byAgent()) return;
     if (file.key) ways.refuse();
-    throw sshError(SshMessage::KeyNeedsAgent, {path, Authentication::agentRuns()
-                                                         ? "none of the agent's keys was accepted"
-                                                         : "no agent runs here (SSH_AUTH_SOCK is not set)"});
+    throw sshError(SshMessage::KeyNeedsAgent,
+                   {path, Authentication::agentRuns() ? "none of the agent's keys was accepted"
+                                                      : "no agent runs here (SSH_AUTH_SOCK is not set)"});
 }
 
 } // namespace

@@ -59,8 +59,7 @@ LinuxHandheldSettings readProjectSettings(const basic::Ref<vbide::VBProject>& pr
 void writeProjectSettings(const basic::Ref<vbide::VBProject>& project, const LinuxHandheldSettings& settings) {
     const auto stored = readProjectSettings(project);
     for (const auto& [name, value] : kLinuxHandheldSettings)
-        if (settings.*value != stored.*value)
-            project->WriteProperty(kLinuxHandheldSection, name, settings.*value);
+        if (settings.*value != stored.*value) project->WriteProperty(kLinuxHandheldSection, name, settings.*value);
 }
 
 LinuxHandheldSettings readUserSettings(fernwick::Registry& registry, const std::string& deviceKey) {

@@ -51,7 +51,7 @@ void SshSession::setOptions(int socket) const {
     if (!target_.usualKnownHosts) set(SSH_OPTIONS_GLOBAL_KNOWNHOSTS, "/dev/null");
 }
 
-std::string SshSession::problem() const { return libssh().ssh_get_error(get()); }
+std::string SshSession::problem() const { return saidByDevice(libssh().ssh_get_error(get())); }
 
 bool SshSession::wait(Clock::time_point deadline) const {
     const auto left = std::chrono::ceil<std::chrono::milliseconds>(deadline - Clock::now()).count();
