@@ -3,6 +3,7 @@
 #include "tests/pipes_ssh/ssh_server.h"
 #include <atomic>
 #include <limits>
+#include <netinet/tcp.h>
 #include <poll.h>
 #include <thread>
 
@@ -35,6 +36,8 @@ private:
             if (::poll(&event, 1, 10) != 1) continue;
             const int client = ::accept(listener_, nullptr, nullptr);
             const int server = connectToLoopback(to_);
+            const int on = 1;
+            for (const int socket : {client, server}) ::setsockopt(socket, IPPROTO_TCP, TCP_NODELAY, &on, sizeof on);
             if (client >= 0 && server >= 0) relay(client, server);
             ::close(client);
             ::close(server);

@@ -80,17 +80,16 @@ SftpClient::Reply SftpClient::await(Request request, std::chrono::milliseconds p
 template <class Read>
 SftpResult SftpClient::readReply(const Reply& reply, std::uint8_t type, Read read) {
     PacketReader reader{reply.bytes};
-    SftpResult result;
-    if (reply.type == type)
-        read(reader);
-    else if (reply.type == kSftpStatus)
-        result = {reader.number(), saidByDevice(reader.text())};
-    else
-        throwInvalid("a packet of kind " + std::to_string(reply.type));
-    // old servers leave out the words of a status
-    if (!reader.isWhole() && reply.type != kSftpStatus) throwInvalid("a packet that is cut short");
-    if (reply.type == kSftpStatus && type != kSftpStatus && result) throwInvalid("success without a result");
-    return result;
+    if (reply.type == kSftpStatus) {
+        // old servers leave out the words
+        SftpResult result{reader.number(), saidByDevice(reader.text())};
+        if (result && type != kSftpStatus) throwInvalid("success without a result");
+        return result;
+    }
+    if (reply.type != type) throwInvalid("a packet of kind " + std::to_string(reply.type));
+    read(reader);
+    if (!reader.isWhole()) throwInvalid("a packet that is cut short");
+    return {};
 }
 
 SftpResult SftpClient::awaitResult(Request request) {

@@ -45,6 +45,7 @@ void SshChannel::receive(char* bytes, std::size_t size, std::chrono::millisecond
 }
 
 void SshChannel::waitFor(std::chrono::milliseconds patience, SshSession::Clock::time_point since) {
+    if (!session_.isConnected()) throwLost();
     if (session_.wait(since + patience)) return;
     giveUp();
     throw sshError(SshMessage::Stalled, {target().address(), secondsText(patience)});

@@ -59,7 +59,7 @@ bool SshSession::wait(Clock::time_point deadline) const {
     const bool isWriting = (libssh().ssh_get_poll_flags(get()) & SSH_WRITE_PENDING) != 0;
     pollfd event{libssh().ssh_get_fd(get()), short(POLLIN | (isWriting ? POLLOUT : 0)), 0};
     // an error shows itself in the step that follows
-    return event.fd < 0 || ::poll(&event, 1, int(left)) != 0;
+    return !isConnected() || ::poll(&event, 1, int(left)) != 0;
 }
 
 void SshSession::throwNoAnswer() const {

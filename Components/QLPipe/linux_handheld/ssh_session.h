@@ -19,13 +19,18 @@ public:
     /// What libssh says of its last failure.
     std::string problem() const;
 
-    /// Repeats a step of libssh for as long as it answers `again`; throws after the connect timeout.
+    bool isConnected() const { return libssh().ssh_get_fd(get()) >= 0; }
+
+    /// Repeats a step of libssh for as long as it answers `again`. SSH_ERROR when the connection is gone; throws
+    /// after the connect timeout.
     template <class Step>
     int finish(int again, Step step) const {
         const auto deadline = Clock::now() + timeouts_.connect;
         for (;;) {
             const int result = step();
             if (result != again) return result;
+            // libssh goes on hoping after the other side has hung up
+            if (!isConnected()) return SSH_ERROR;
             if (!wait(deadline)) throwNoAnswer();
         }
     }
