@@ -1,12 +1,17 @@
 #include "Components/QLPipe/pipe_family.h"
+#include "Components/QLPipe/device_pipe.h"
 #include "Components/QLPipe/family_validation.h"
+#include "Components/QLPipe/no_page.h"
+#include "Components/QLPipe/virtual_device/virtual_device.h"
 
 namespace qlpipe {
 namespace {
 
+basic::Ref<IQLPipeConfiguration> noPage(const PipeServices&) { return basic::make<NoPage>(); }
+
 constexpr PipeFamily kPipeFamilies[] = {
-    {"PalmOS", "QLPipePalmOS", nullptr, nullptr},
-    {"PocketPC", "QLPipePocketPC", nullptr, nullptr},
+    {"PalmOS", "QLPipePalmOS", openVirtualDevice, noPage},
+    {"PocketPC", "QLPipePocketPC", openVirtualDevice, noPage},
     {"LinuxHandheld", "QLPipeLinux", nullptr, nullptr},
 };
 
@@ -14,10 +19,16 @@ constexpr PipeFamily kPipeFamilies[] = {
 
 std::span<const PipeFamily> pipeFamilies() { return kPipeFamilies; }
 
-void registerPipes(const PipeServices&, const std::function<void(const std::string& progId, ObjectFactory make)>& add) {
-    for (const auto& family : pipeFamilies())
-        add(std::string{family.pipe} + ".Validation",
-            [name = std::string{family.name}] { return basic::make<FamilyValidation>(name); });
+void registerPipes(const PipeServices& services,
+                   const std::function<void(const std::string& progId, ObjectFactory make)>& add) {
+    for (const auto& family : pipeFamilies()) {
+        const std::string pipe = family.pipe;
+        add(pipe + ".Validation", [&family, services] {
+            return basic::make<FamilyValidation>(family.name, services.files, services.classes);
+        });
+        if (family.open) add(pipe + ".Pipe", [&family, services] { return basic::make<DevicePipe>(family, services); });
+        if (family.configure) add(pipe + ".Configuration", [&family, services] { return family.configure(services); });
+    }
 }
 
 } // namespace qlpipe

@@ -1,4 +1,3 @@
-#include "Components/QLPipe/family_validation.h"
 #include "tests/pipes/pipe_world.h"
 #include <gtest/gtest.h>
 
@@ -7,15 +6,17 @@ namespace {
 using qlpipe::IQLPipeValidation;
 
 TEST(FamilyValidation, ServesTheTargetsOfItsFamily) {
-    qlpipe::FamilyValidation palm{"PalmOS"};
-    EXPECT_TRUE(palm.IsDeviceSupported("PalmOS-DragonBall"));
-    EXPECT_TRUE(palm.IsDeviceSupported("PalmOS-"));
+    test::PipeWorld world;
+    const auto palm = world.create<IQLPipeValidation>("QLPipePalmOS.Validation");
+    EXPECT_TRUE(palm->IsDeviceSupported("PalmOS-DragonBall"));
+    EXPECT_TRUE(palm->IsDeviceSupported("PalmOS-"));
 }
 
 TEST(FamilyValidation, RefusesEverythingElse) {
-    qlpipe::FamilyValidation palm{"PalmOS"};
+    test::PipeWorld world;
+    const auto palm = world.create<IQLPipeValidation>("QLPipePalmOS.Validation");
     for (const char* key : {"", "PalmOS", "PalmOS 3.1 or later", "palmos-DragonBall", "PocketPC-SH3", "PalmOSX-1"})
-        EXPECT_FALSE(palm.IsDeviceSupported(key)) << key;
+        EXPECT_FALSE(palm->IsDeviceSupported(key)) << key;
 }
 
 TEST(PipeFamilies, AreRegisteredWithTheirProgIds) {
