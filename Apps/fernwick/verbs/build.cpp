@@ -1,4 +1,5 @@
 #include "Add-in/build/build_texts.h"
+#include "Add-in/build/message_numbers.h"
 #include "Apps/fernwick/depfile.h"
 #include "Apps/fernwick/exit_status.h"
 #include "Apps/fernwick/project_argument.h"
@@ -12,8 +13,6 @@ namespace cli {
 
 namespace {
 
-/// The add-in's number for compiler tools that could not be loaded.
-constexpr int kCompilerToolsMissing = 2999;
 constexpr const char* kNotCompiled = "FAILED - The project was not compiled.";
 
 std::string imagePathOf(const Session& session) {
@@ -103,7 +102,7 @@ Report compileProject(Session& session) {
     report.image = good ? session.machine().build().image : std::string();
     report.exitStatus = good ? kGood : kProjectErrors;
     for (const auto& message : report.messages)
-        if (message.number == kCompilerToolsMissing) report.exitStatus = kMachineTrouble;
+        if (message.number == fernwick::message_numbers::kToolsMissing) report.exitStatus = kMachineTrouble;
     return report;
 }
 
