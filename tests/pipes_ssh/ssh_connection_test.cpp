@@ -250,7 +250,7 @@ TEST(SshServerWithoutSftp, IsToldApart) {
 }
 
 TEST(SshServerThatPrints, IsToldApart) {
-    const test::SshServer server{"Subsystem sftp /bin/echo Welcome to this handheld\n"};
+    const test::SshServer server{"Subsystem sftp echo Welcome to this handheld; cat\n"};
     const qlpipe::SshTarget to{"127.0.0.1",
                                server.port,
                                qlpipe::userName(),
@@ -272,7 +272,7 @@ TEST(SshServerThatTalksNonsense, IsToldApart) {
         {"\0\0\0\x09\x69\0\0\0\x01\0\0\0\x01"s, "cut short"},
     };
     const test::TempFolder folder;
-    const test::SshServer server{"Subsystem sftp cat " + (folder / "answer") + "\n"};
+    const test::SshServer server{"Subsystem sftp cat " + (folder / "answer") + " -\n"};
     for (const auto& [bytes, words] : nonsense) {
         folder.write("answer", "\0\0\0\x05\x02\0\0\0\x03"s + bytes);
         const qlpipe::SshTarget to{"127.0.0.1",

@@ -18,8 +18,6 @@ constexpr std::size_t kMostEntries = 100'000;
 SftpClient::SftpClient(const SshTarget& target, const SshTimeouts& timeouts) : channel_(target, timeouts) { start(); }
 
 void SftpClient::start() {
-    auto packet = PacketWriter{kSftpInit}.number(kSftpOwnVersion);
-    channel_.send(packet.finished());
     const auto reply = firstReply();
     PacketReader reader{reply.bytes};
     if (reply.type != kSftpVersion || reader.number() < kSftpOwnVersion) throwInvalid("another kind of SFTP");
@@ -32,6 +30,8 @@ void SftpClient::start() {
 
 /// A server whose program for transfers is missing accepts the transfer and then ends it.
 SftpClient::Reply SftpClient::firstReply() try {
+    auto packet = PacketWriter{kSftpInit}.number(kSftpOwnVersion);
+    channel_.send(packet.finished());
     return receive(channel_.timeouts().connect);
 } catch (const TransferError& error) {
     if (error.number != std::int32_t(SshMessage::ConnectionLost)) throw;
