@@ -35,7 +35,10 @@ std::string pipeProblem(Machine& machine, const IQLDesignTarget& target) {
     bool supported = false;
     const auto err = basic::attempt([&] { supported = validation->IsDeviceSupported(target.Key()); });
     if (err.Number != 0) return fmt::format("its pipe {} fails: {}", pipe, err.Description);
-    return supported ? std::string() : fmt::format("its pipe {} doesn't serve it", pipe);
+    if (!supported) return fmt::format("its pipe {} doesn't serve it", pipe);
+    basic::Ref<qlpipe::IQLPipe> transfer;
+    const auto unsendable = unmakeable(machine, pipe + ".Pipe", transfer);
+    return unsendable.empty() ? unsendable : fmt::format("nothing can be sent by its pipe {}: {}", pipe, unsendable);
 }
 
 std::string missingTemplate(Machine& machine, const IQLDesignTarget& target) {
