@@ -1,7 +1,6 @@
 #include "Components/QLPipe/device_pipe.h"
 #include "Components/QLPipe/device_names.h"
 #include "Components/QLPipe/installer.h"
-#include "Components/QLPipe/package.h"
 #include "Components/QLPipe/package_writer.h"
 #include "Components/QLPipe/pipe_messages.h"
 #include "Components/QLPipe/pipe_texts.h"
@@ -94,16 +93,34 @@ void DevicePipe::SendRuntime(const std::string& deviceName) {
     });
 }
 
-bool DevicePipe::SendPackage(const std::string& path, std::string deviceName) {
+bool DevicePipe::SendPackage(const Package& package, const std::string& deviceName) {
     return run([&] {
-        const Package package{path};
-        const auto& made = package.bundle().device;
-        if (deviceName.empty()) deviceName = made;
-        if (deviceName != made) throw transferError(kPackageOfOtherDevice, {path, made, deviceName});
+        const auto& bundle = package.bundle();
+        if (deviceName != bundle.device)
+            throw transferError(kPackageOfOtherDevice, {package.path(), bundle.device, deviceName});
         needOwnDevice(deviceName);
-        send(deviceName, {}, package.bundle());
+        send(deviceName, {}, bundle);
         return true;
     });
+}
+
+bool installPackage(const PipeServices& services, const std::string& path, const std::string& deviceName,
+                    IQLPipeEvents& sink) {
+    services.record->succeeded = false;
+    try {
+        const Package package{path};
+        const auto& device = package.bundle().device;
+        for (const auto& family : pipeFamilies()) {
+            if (!family.open || !isOfFamily(device, family.name)) continue;
+            DevicePipe pipe{family, services};
+            pipe.SetEventSink(sink);
+            return pipe.SendPackage(package, deviceName.empty() ? device : deviceName);
+        }
+        throw transferError(kPackageDeviceUnknown, {path, device});
+    } catch (const TransferError& error) {
+        sink.SendError(error.number, error.text);
+        return false;
+    }
 }
 
 } // namespace qlpipe

@@ -1,6 +1,6 @@
 #pragma once
 // The pipe of a family of devices.
-#include "Components/QLPipe/bundle.h"
+#include "Components/QLPipe/package.h"
 #include "Components/QLPipe/pipe_family.h"
 #include "Components/QLPipe/pipe_messages.h"
 #include <optional>
@@ -21,8 +21,8 @@ public:
                      const ProjectFiles& files, const ApplicationInfo& application, std::string& saveLocation) override;
     void SendRuntime(const std::string& deviceName) override;
 
-    /// Installs what a package holds, on the device that it was made for when none is named.
-    bool SendPackage(const std::string& path, std::string deviceName);
+    /// Installs what a package holds on a device of the design target that it was made for.
+    bool SendPackage(const Package& package, const std::string& deviceName);
 
 private:
     /// The transfer answers whether it came to its end; what it throws is told.

@@ -151,6 +151,8 @@ Package::Package(const std::string& path) : archive_(std::make_shared<Archive>(p
 
 Package::~Package() = default;
 
+const std::string& Package::path() const { return archive_->path(); }
+
 void Package::verify() const {
     std::vector<char> buffer(kChunkBytes);
     for (const auto& file : bundle_.files)

@@ -16,6 +16,7 @@ public:
 
     /// What it holds; its files can be opened as long as the answer or this lives, one at a time.
     const Bundle& bundle() const { return bundle_; }
+    const std::string& path() const;
     /// Reads everything. Throws TransferError for the first file that is not as the manifest says.
     void verify() const;
 

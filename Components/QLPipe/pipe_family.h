@@ -33,4 +33,9 @@ using ObjectFactory = std::function<basic::Ref<fernwick::Object>()>;
 void registerPipes(const PipeServices& services,
                    const std::function<void(const std::string& progId, ObjectFactory make)>& add);
 
+/// Installs what a package holds; "" stands for the design target that it was made for. Events and answer are those of
+/// IQLPipe::SendProject.
+bool installPackage(const PipeServices& services, const std::string& path, const std::string& deviceName,
+                    IQLPipeEvents& sink);
+
 } // namespace qlpipe

@@ -121,6 +121,10 @@ constexpr fernwick::MessageInfo kPipeMessages[] = {
      "No package that Fernwick makes holds such a name.", "", "Fetch the package from where it was made."},
     {kPackageOfOtherDevice, kError, "%1 was made for %2 and can't be installed on %3.",
      "A package holds what was compiled and checked for one device.", "", "Make a package for this device."},
+    {kPackageDeviceUnknown, kError,
+     "%1 was made for %2, and nothing here reaches devices of this family. Install its pipe.",
+     "The family of the device has no pipe in this installation, or one that sends nothing.", "",
+     "Install the pipe of this family, or use a machine that has it."},
 };
 
 } // namespace

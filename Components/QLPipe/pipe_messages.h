@@ -49,6 +49,7 @@ enum PipeError : std::int32_t {
     kPackageEntryChanged = 20406,
     kPackageUnsafeName = 20407,
     kPackageOfOtherDevice = 20408,
+    kPackageDeviceUnknown = 20409,
 };
 
 /// Warnings as the events carry them, 100 to 899; 300 to 399 belong to devices that are reached by SSH.

@@ -1,4 +1,5 @@
 #include "Components/QLPipe/runtime_bundle.h"
+#include "Basic/case_folding.h"
 #include "Components/QLPipe/device_names.h"
 #include "Components/QLPipe/pipe_messages.h"
 #include <algorithm>
@@ -14,22 +15,41 @@ namespace fs = std::filesystem;
     throw transferError(kRuntimeUnusable, {file.string() + ": " + reason});
 }
 
-BundleFile runtimeFile(const fs::path& list, const toml::node& entry) {
-    const auto name = entry.value<std::string>().value_or("");
+BundleFile runtimeFile(const fs::path& list, const fs::path& folder, const std::string& name) {
     if (!isSafeName(name)) unusable(list, "\"" + name + "\" is no name of a file below its folder");
-    const auto path = (list.parent_path() / name).string();
+    const auto path = (folder / name).string();
     try {
         const auto size = sizeOfLocalFile(path);
-        const auto kind = kindOf(name) == "CMF" ? FileKind::Font : FileKind::File;
-        const auto place = kind == FileKind::Font ? kFontsFolder + lastPart(name) : kFilesFolder + name;
-        return {kind, place, size, {}, [path, size] { return std::make_unique<LocalFile>(path, size); }};
+        const bool isFont = kindOf(name) == "CMF";
+        return {isFont ? FileKind::Font : FileKind::File,
+                isFont ? kFontsFolder + lastPart(name) : kFilesFolder + name,
+                size,
+                {},
+                [path, size] { return std::make_unique<LocalFile>(path, size); }};
     } catch (const TransferError& error) { unusable(list, error.text); }
+}
+
+void addFiles(Bundle& bundle, const fs::path& list, const fs::path& folder,
+              const toml::node_view<const toml::node>& names) {
+    if (!names.is_array()) unusable(list, "a list of files is missing");
+    for (const auto& name : *names.as_array())
+        bundle.files.push_back(runtimeFile(list, folder, name.value_or(std::string())));
+}
+
+/// Two files at one place would be one of them on the device.
+void sortFiles(Bundle& bundle, const fs::path& list) {
+    auto& files = bundle.files;
+    std::sort(files.begin(), files.end(),
+              [](const auto& a, const auto& b) { return basic::compareNoCase(a.place, b.place) < 0; });
+    const auto twice = std::adjacent_find(
+        files.begin(), files.end(), [](const auto& a, const auto& b) { return basic::equalNoCase(a.place, b.place); });
+    if (twice != files.end()) unusable(list, "\"" + twice->place + "\" stands there twice");
 }
 
 } // namespace
 
 Bundle runtimeBundle(const std::string& installation, const std::string& family) {
-    const fs::path list = fs::path(installation) / "VB Toolkit" / "Runtime" / family / "runtime.toml";
+    const fs::path root = fs::path(installation) / "VB Toolkit" / "Runtime", list = root / family / "runtime.toml";
     std::error_code ignored;
     if (!fs::is_regular_file(list, ignored)) throw transferError(kRuntimeNotShipped, {family});
     Bundle bundle;
@@ -38,12 +58,10 @@ Bundle runtimeBundle(const std::string& installation, const std::string& family)
         const toml::table table = toml::parse_file(list.string());
         bundle.version = table["version"].value_or(std::string());
         if (bundle.version.empty()) unusable(list, "\"version\" is missing");
-        const auto* files = table["files"].as_array();
-        if (!files || files->empty()) unusable(list, "\"files\" is missing or empty");
-        for (const auto& entry : *files) bundle.files.push_back(runtimeFile(list, entry));
+        addFiles(bundle, list, root / family, table["files"]);
+        addFiles(bundle, list, root / "Common", table["common"]);
     } catch (const toml::parse_error& error) { unusable(list, std::string{error.description()}); }
-    std::sort(bundle.files.begin(), bundle.files.end(),
-              [](const BundleFile& a, const BundleFile& b) { return a.place < b.place; });
+    sortFiles(bundle, list);
     return bundle;
 }
 

@@ -138,6 +138,8 @@ public:
         if (factory == factories_.end()) throw basic::RuntimeError(basic::kCantCreateObject);
         return factory->second();
     }
+    /// As if it had never been registered.
+    void forget(const std::string& progId) { factories_.erase(progId); }
     bool CLSIDFromString(const std::string&, std::string&) const override { return false; }
     std::string ProgIDFromCLSID(const std::string&) const override { return {}; }
     basic::Ref<fernwick::TypeLibInfo> TypeLibInfoFromFile(const std::string& path) const override {

@@ -25,9 +25,7 @@ public:
         checkInterrupt();
     }
     void SendComplete() override { console_.endProgress(); }
-    void SendError(std::int32_t errorNumber, const std::string& message) override {
-        keep(true, errorNumber, message);
-    }
+    void SendError(std::int32_t errorNumber, const std::string& message) override { keep(true, errorNumber, message); }
     void SendWarning(const std::string& message, const std::string&, std::int32_t,
                      std::int32_t warningNumber) override {
         keep(false, warningNumber + qlpipe::kWarningOffset, message);
@@ -83,12 +81,11 @@ void printBundle(const qlpipe::Bundle& bundle, Console& console) {
     console.out(fmt::format("{} {} for {}\n", bundle.displayName, bundle.version, bundle.device));
     std::size_t width = 0;
     for (const auto& file : bundle.files) width = std::max(width, file.place.size());
-    for (const auto& file : bundle.files)
-        console.out(fmt::format("  {:<{}}  {:>10}\n", file.place, width, file.size));
+    for (const auto& file : bundle.files) console.out(fmt::format("  {:<{}}  {:>10}\n", file.place, width, file.size));
     for (const auto& reference : bundle.references) console.out(fmt::format("  needs {}\n", reference));
 }
 
-std::vector<Message> sendPackage(Session& session, const std::string& path, const std::string& device,
+std::vector<Message> sendPackage(Session& session, const qlpipe::Package& package, const std::string& device,
                                  Console& console) {
     auto& addIn = session.addIn();
     const auto progId = addIn.devices.GetPipeNameForDevice(device) + ".Pipe";
@@ -96,7 +93,7 @@ std::vector<Message> sendPackage(Session& session, const std::string& path, cons
     if (!pipe) throw Refusal(kMachineTrouble, fmt::format("the pipe {} takes no packages", progId));
     PipeListener listener{console};
     pipe->SetEventSink(listener);
-    pipe->SendPackage(path, device);
+    pipe->SendPackage(package, device);
     console.endProgress();
     return listener.messages;
 }
@@ -128,28 +125,29 @@ int verifyPackage(const Options& options, Console& console) {
     if (options.format == Format::Json)
         console.out(dumpJson(jsonOfBundle(path, bundle)));
     else
-        console.out(fmt::format("{}: {}, all as the manifest says\n", options.project,
-                                plural(bundle.files.size(), "file")));
+        console.out(
+            fmt::format("{}: {}, all as the manifest says\n", options.project, plural(bundle.files.size(), "file")));
     return kGood;
 }
 
 int installPackage(const Options& options, Console& console) {
     const auto path = packageOperand(options);
-    const auto own = readPackage(path, [](const qlpipe::Package& package) { return package.bundle().device; });
-    Session session{options, console};
-    session.connect();
-    const auto devices = devicesToServe(session, options, own);
+    return readPackage(path, [&](const qlpipe::Package& package) {
+        Session session{options, console};
+        session.connect();
+        const auto devices = devicesToServe(session, options, package.bundle().device);
 
-    Report report;
-    report.verb = options.verb;
-    report.project = path;
-    report.devices = serveDevices(session, devices, console, [&](const std::string& device) {
-        return sendPackage(session, path, device, console);
+        Report report;
+        report.verb = options.verb;
+        report.project = path;
+        report.devices = serveDevices(session, devices, console, [&](const std::string& device) {
+            return sendPackage(session, package, device, console);
+        });
+        report.exitStatus = statusOf(report.devices, options.myDevices);
+        session.closeUnsaved();
+        printOutcomes(report, "sent", options.myDevices, options, console);
+        return int(report.exitStatus);
     });
-    report.exitStatus = statusOf(report.devices, options.myDevices);
-    session.closeUnsaved();
-    printOutcomes(report, "sent", options.myDevices, options, console);
-    return report.exitStatus;
 }
 
 } // namespace cli
