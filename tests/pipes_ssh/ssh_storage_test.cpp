@@ -145,6 +145,7 @@ TEST_F(SshStorageTest, RefusesToReadALargeFile) {
 
 TEST_F(SshStorageTest, SaysWhatIsNotThere) {
     const auto device = connect();
+    device->makeFolder("a");
     expectError(transferErrorOf([&] { device->read("none"); }), SshMessage::NotThere, {"read", "device/none"});
     expectError(transferErrorOf([&] { device->create("none/file"); }), SshMessage::NotThere, {"device/none/file"});
 }

@@ -18,6 +18,7 @@ SshChannel::SshChannel(const SshTarget& target, const SshTimeouts& timeouts) : s
 }
 
 void SshChannel::send(std::string_view bytes) {
+    if (!isOpen_) throwLost();
     auto since = SshSession::Clock::now();
     while (!bytes.empty()) {
         const int taken = libssh().ssh_channel_write(channel_.get(), bytes.data(), std::uint32_t(bytes.size()));

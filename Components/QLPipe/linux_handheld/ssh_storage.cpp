@@ -1,7 +1,10 @@
 #include "Components/QLPipe/linux_handheld/ssh_storage.h"
+#include "Components/QLPipe/device_names.h"
 #include "Components/QLPipe/linux_handheld/ssh_messages.h"
 #include "Components/QLPipe/linux_handheld/ssh_upload.h"
+#include "Components/QLPipe/pipe_messages.h"
 #include <algorithm>
+#include <random>
 
 namespace qlpipe {
 
@@ -11,6 +14,7 @@ constexpr std::size_t kLargestRead = 1024 * 1024;
 constexpr std::uint32_t kReadBlock = 32 * 1024;
 /// A file system with less room is taken for a full one when it fails.
 constexpr std::int64_t kFull = 64 * 1024;
+constexpr std::string_view kOwnerPrefix = ".fernwick-owner-";
 
 /// "a", "a/b", "a/b/c".
 std::vector<std::string> beginnings(const std::string& name) {
@@ -21,9 +25,9 @@ std::vector<std::string> beginnings(const std::string& name) {
     return parts;
 }
 
-std::string parentOf(const std::string& name) {
-    const auto slash = name.rfind('/');
-    return slash == std::string::npos ? "" : name.substr(0, slash);
+std::string ownerFile() {
+    std::random_device random;
+    return std::string{kOwnerPrefix} + std::to_string(random()) + std::to_string(random());
 }
 
 } // namespace
@@ -40,9 +44,35 @@ void demandSftp(SftpClient& client, const std::string& base, const SftpResult& r
     throw sshError(SshMessage::OperationFailed, {target.address(), action, path, result.text});
 }
 
-SshStorage::SshStorage(const SshTarget& target, const SshTimeouts& timeouts) : client_(target, timeouts) {
+SshStorage::SshStorage(const SshTarget& target, const SshTimeouts& timeouts, FileDescriptor lock)
+    : lock_(std::move(lock)), client_(target, timeouts) {
     takeFolder(target.folder);
     recover();
+}
+
+SshStorage::~SshStorage() {
+    if (owner_.empty() || !client_.channel().isOpen()) return;
+    try {
+        (void)client_.awaitResult(client_.startRemove(owner_));
+    } catch (const TransferError&) {} // the next transfer removes it
+}
+
+void SshStorage::beginWork() {
+    std::vector<SftpClient::Entry> entries;
+    demand(client_.list(base_, entries), "list", base_);
+    for (const auto& [name, attributes] : entries)
+        if (name.starts_with(kOwnerPrefix)) (void)client_.awaitResult(client_.startRemove(pathOf(name)));
+    const auto path = pathOf(ownerFile());
+    std::string handle;
+    demand(client_.open(path, kSftpForWriting | kSftpCreate, handle), "write into", base_);
+    (void)client_.close(handle);
+    owner_ = path;
+}
+
+void SshStorage::claim() {
+    if (owner_.empty()) return beginWork();
+    SftpAttributes found;
+    if (client_.lstat(owner_, found).code == kSftpNoSuchFile) throw transferError(kDeviceBusy, {location()});
 }
 
 void SshStorage::takeFolder(const std::string& folder) {
@@ -68,7 +98,7 @@ std::string SshStorage::location() const {
 std::int64_t SshStorage::freeSpaceFor(const std::string&) {
     // the old and the new application lie side by side until the new one is whole
     auto path = base_;
-    for (SftpAttributes found; !client_.lstat(path, found) && !path.empty();) path = parentOf(path);
+    for (SftpAttributes found; !client_.lstat(path, found) && !path.empty();) path = folderOf(path);
     return client_.freeSpace(path.empty() ? "/" : path);
 }
 
@@ -107,8 +137,7 @@ std::vector<std::string> SshStorage::list(const std::string& folder) {
     demand(client_.list(pathOf(folder), entries), "list", pathOf(folder));
     std::vector<std::string> names;
     for (auto& entry : entries)
-        if (!entry.name.ends_with(kPartSuffix) && !(folder.empty() && entry.name == kReplacedFolder))
-            names.push_back(std::move(entry.name));
+        if (!entry.name.starts_with(kOwnPrefix)) names.push_back(std::move(entry.name));
     std::ranges::sort(names);
     return names;
 }
@@ -147,11 +176,14 @@ void SshStorage::makeBase() {
 }
 
 void SshStorage::makeFolder(const std::string& folder) {
+    if (const auto found = findNoLink(folder); found && found->isFolder()) return;
     makeBase();
+    if (owner_.empty()) beginWork();
     for (const auto& part : beginnings(folder)) makeOneFolder(pathOf(part));
 }
 
 std::unique_ptr<StorageFile> SshStorage::create(const std::string& file) {
+    claim();
     if (find(file)) throw sshError(SshMessage::NameTaken, {pathOf(file)});
     return std::make_unique<SshUpload>(client_, base_, pathOf(file));
 }

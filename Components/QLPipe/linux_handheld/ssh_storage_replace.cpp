@@ -10,6 +10,8 @@ namespace {
 /// Deeper folders are no work of ours.
 constexpr int kDeepest = 64;
 constexpr std::size_t kRemovalsUnderWay = 64;
+/// Where what is replaced is kept until the new one stands.
+constexpr char kReplacedFolder[] = ".fernwick-replaced";
 
 std::string keptName(const std::string& name) {
     std::string kept;
@@ -37,6 +39,7 @@ std::string nameOfKept(const std::string& kept) {
 } // namespace
 
 void SshStorage::replaceFile(const std::string& from, const std::string& to) {
+    claim();
     const auto there = findNoLink(to);
     if (there && there->isFolder()) throw sshError(SshMessage::NameTaken, {pathOf(to)});
     if (there && !client_.renameReplaces()) return replace(from, to);
@@ -44,6 +47,7 @@ void SshStorage::replaceFile(const std::string& from, const std::string& to) {
 }
 
 void SshStorage::replaceFolder(const std::string& from, const std::string& to) {
+    claim();
     const auto there = findNoLink(to);
     if (there && !there->isFolder()) throw sshError(SshMessage::NotFolder, {pathOf(to)});
     if (there) return replace(from, to);
@@ -82,7 +86,9 @@ void SshStorage::putBackOrAway(const std::string& kept) {
 }
 
 void SshStorage::remove(const std::string& name) {
-    if (find(name)) demand(removeTree(pathOf(name)), "remove", pathOf(name));
+    if (!find(name)) return;
+    if (owner_.empty()) beginWork();
+    demand(removeTree(pathOf(name)), "remove", pathOf(name));
 }
 
 SftpResult SshStorage::removeTree(const std::string& path, int depth) {

@@ -1,6 +1,7 @@
 #include "Components/QLPipe/linux_handheld/ssh_upload.h"
+#include "Components/QLPipe/device_names.h"
 #include "Components/QLPipe/linux_handheld/ssh_storage.h"
-#include <algorithm>
+#include "Components/QLPipe/sha256.h"
 #include <utility>
 
 namespace qlpipe {
@@ -11,10 +12,17 @@ namespace {
 constexpr std::size_t kBlock = 32 * 1024;
 constexpr std::size_t kBlocksUnderWay = 64;
 
+/// Beside the file, and no longer than names may be, however long the file's own is.
+std::string partOf(const std::string& path) {
+    Sha256 hash;
+    hash.add(lastPart(path));
+    return folderOf(path) + "/" + std::string{kOwnPrefix} + "part-" + hash.hex().substr(0, 16);
+}
+
 } // namespace
 
 SshUpload::SshUpload(SftpClient& client, std::string base, std::string path)
-    : client_(client), base_(std::move(base)), path_(std::move(path)), part_(path_ + std::string{kPartSuffix}) {
+    : client_(client), base_(std::move(base)), path_(std::move(path)), part_(partOf(path_)) {
     block_.reserve(kBlock);
     demand(client_.open(part_, kSftpForWriting | kSftpCreate | kSftpTruncate, handle_), "write");
 }
