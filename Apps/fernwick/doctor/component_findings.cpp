@@ -67,7 +67,8 @@ void examineTarget(Machine& machine, const IQLDesignTarget& target, Findings& to
     if (const auto problem = pipeProblem(machine, target); !problem.empty())
         to.push_back(troubleFinding(subject, problem, correctTarget("its pipe or key")));
     if (const auto path = missingTemplate(machine, target); !path.empty())
-        to.push_back(troubleFinding(subject, fmt::format("its template {} is missing", path), correctTarget("the name")));
+        to.push_back(
+            troubleFinding(subject, fmt::format("its template {} is missing", path), correctTarget("the name")));
     if (const auto names = unregisteredTavlets(machine, target); !names.empty())
         to.push_back(troubleFinding(subject, "controls that are not registered: " + names,
                                     "Install Fernwick again: registry/tavlets.reg registers them."));
@@ -88,8 +89,7 @@ void examineTargets(Machine& machine, Findings& to) {
     DesignTargetMgr targets{machine.installation()};
     targets.Initialize();
     for (const auto& problem : targets.problems())
-        to.push_back(
-            troubleFinding("target file", problem.text(), "Correct the line, or install the file again."));
+        to.push_back(troubleFinding("target file", problem.text(), "Correct the line, or install the file again."));
     for (std::int16_t i = 0; i < targets.Count(); ++i)
         examineTarget(machine, *targets.GetDesignTargetByIndex(i).shared(), to);
     if (targets.Count() == 0)

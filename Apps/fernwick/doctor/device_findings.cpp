@@ -33,8 +33,7 @@ Finding findingOfDevice(Machine& machine, const DeviceRow& row) {
         return troubleFinding(subject, "is in My Devices, but its design target is not usable here",
                               fmt::format("fernwick devices remove {}", row.key));
     const auto place = placeOfDevice(machine, row.key, row.pipe);
-    if (!place.problem.empty())
-        return {stateOfAbsent(row), subject, place.problem, cureOfAbsent(row, place)};
+    if (!place.problem.empty()) return {stateOfAbsent(row), subject, place.problem, cureOfAbsent(row, place)};
     if (place.runtime.empty())
         return warningFinding(subject, placeWords(place), fmt::format("fernwick install-runtime --device {}", row.key));
     return goodFinding(subject, placeWords(place));

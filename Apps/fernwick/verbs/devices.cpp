@@ -87,7 +87,8 @@ int listDevices(MyDevices& devices, const Options& options, Console& console) {
             printRow(row, place, console);
     }
     if (options.format == Format::Json) console.out(dumpJson(json));
-    if (devices.rows.empty()) throw Refusal(kMachineTrouble, "no usable design target is installed; see fernwick doctor");
+    if (devices.rows.empty())
+        throw Refusal(kMachineTrouble, "no usable design target is installed; see fernwick doctor");
     return kGood;
 }
 
@@ -99,14 +100,13 @@ void saveDevices(MyDevices& devices, std::vector<std::string> keys) {
     prefs.gMyDevices = keys;
     (void)prefs.saveMyDevices();
     prefs.loadMyDevices();
-    if (prefs.gMyDevices != keys)
-        throw Refusal(kMachineTrouble, "My Devices could not be stored; see fernwick doctor");
+    if (prefs.gMyDevices != keys) throw Refusal(kMachineTrouble, "My Devices could not be stored; see fernwick doctor");
 }
 
 void requireKeys(const Options& options) {
     if (options.operands.empty())
-        throw Refusal(kWrongUse, fmt::format("devices {} takes the keys of devices; fernwick devices lists them",
-                                             options.action));
+        throw Refusal(kWrongUse,
+                      fmt::format("devices {} takes the keys of devices; fernwick devices lists them", options.action));
 }
 
 int addDevices(MyDevices& devices, const Options& options, Console&) {

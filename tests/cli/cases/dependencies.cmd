@@ -19,7 +19,7 @@ say a file from elsewhere is copied only after the question
 echo 1 >../sound.wav
 run fernwick dependencies add ../sound.wav
 same HelloWorld.vbp before
-run fernwick dependencies add ../sound.wav --answer copy-dependency=yes
+run fernwick dependencies add ../sound.wav --answer copy-file=yes
 run fernwick dependencies list HelloWorld.vbp
 run cat sound.wav
 say a copy replaces no other file

@@ -2,7 +2,7 @@ run fernwick explain 1300
 run fernwick explain 3100 8193
 say what no message has, and what is no number
 run fernwick explain 1042
-run fernwick explain 1300 99999
+run fernwick explain 1300 5
 run fernwick explain 99999999999
 run fernwick explain banana
 run fernwick explain 1042 --format json
