@@ -49,6 +49,7 @@ DevicePlace placeOfDevice(Machine& machine, const std::string& key, const std::s
         return placeOf(*family->open(services, key, {}));
     } catch (const qlpipe::TransferError& error) {
         place.problem = error.text;
+        place.problemNumber = error.number;
     } catch (const basic::RuntimeError& error) { place.problem = error.Description; }
     return place;
 }

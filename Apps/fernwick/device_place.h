@@ -15,6 +15,8 @@ struct DevicePlace {
     std::int64_t freeBytes = -1;
     /// Why it can't be reached, and what to do; "" for one that can.
     std::string problem;
+    /// That message's number; 0 for none.
+    std::int32_t problemNumber = 0;
 };
 
 /// Asks the device itself, which may be a network away. `pipe` is the ProgID that its design target names.

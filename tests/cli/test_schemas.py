@@ -63,10 +63,34 @@ class Schemas(unittest.TestCase):
         self.fits("settings", "settings", "get", str(self.project), "TargetDevice")
         self.fits("targets", "targets")
         self.fits("version", "version")
+        self.fits("explain", "explain")
+        self.fits("explain", "explain", "1300", "2999")
         key = r"HKEY_CURRENT_USER\Software\Quinloft"
         self.home.fernwick("registry", "set", key, "Name", "value")
         self.fits("registry", "registry", "get", key)
         self.fits("registry", "registry", "export", key)
+
+    def test_devices_and_doctor(self):
+        self.fits("devices", "devices")
+        self.home.fernwick("devices", "add", "PalmOS-DragonBall", "LinuxHandheld-ARM")
+        self.home.fernwick("devices", "set", "LinuxHandheld-ARM", "Port=77")
+        listed = {d["key"]: d for d in self.fits("devices", "devices", "list")["devices"]}
+        self.assertTrue(listed["PalmOS-DragonBall"]["mine"])
+        self.assertFalse(listed["PocketPC-ARM"]["mine"])
+        self.assertEqual(listed["LinuxHandheld-ARM"]["settings"], {"Port": "77"})
+        found = self.fits("doctor", "doctor", status=3)  # no host is set for one of My Devices
+        self.assertFalse(found["usable"])
+        self.assertIn("cure", next(f for f in found["findings"] if f["subject"] == "device LinuxHandheld-ARM"))
+
+    def test_dependencies(self):
+        self.fits("dependencies", "dependencies", str(self.project))
+        (self.project.parent / "prices.pdb").write_text("12345")
+        self.home.fernwick("dependencies", str(self.project), "add", str(self.project.parent / "prices.pdb"))
+        listed = self.fits("dependencies", "dependencies", str(self.project), "list")["dependencies"]
+        self.assertEqual(listed, [{"name": "prices.pdb", "type": "PDB", "size": 5, "missing": False}])
+        (self.project.parent / "prices.pdb").unlink()
+        missing = self.fits("dependencies", "dependencies", str(self.project))["dependencies"][0]
+        self.assertEqual((missing["size"], missing["missing"]), (None, True))
 
     def test_sarif(self):
         self.broken()
@@ -76,6 +100,9 @@ class Schemas(unittest.TestCase):
             self.assertEqual(run["tool"]["driver"]["name"], "fernwick")
             result = run["results"][0]
             self.assertRegex(result["ruleId"], r"^\d+$")
+            rule = next(r for r in run["tool"]["driver"]["rules"] if r["id"] == result["ruleId"])
+            self.assertTrue(rule["help"]["text"])
+            self.assertEqual(rule["helpUri"], f"https://www.quinloft.example/messages/{rule['id']}.html")
             place = result["locations"][0]["physicalLocation"]
             self.assertEqual(place["artifactLocation"]["uri"], (self.project.parent / "frmHello.frm").as_uri())
             if verb != "messages":  # what is stored knows the code window's lines only
@@ -88,7 +115,8 @@ class Schemas(unittest.TestCase):
 
     def test_every_schema_is_tested(self):
         self.assertEqual(sorted(p.stem for p in (ROOT / "installation/schemas").glob("*.json")),
-                         ["info-1", "registry-1", "report-1", "settings-1", "targets-1", "version-1"])
+                         ["dependencies-1", "devices-1", "doctor-1", "explain-1", "info-1", "registry-1", "report-1",
+                          "settings-1", "targets-1", "version-1"])
 
 
 if __name__ == "__main__":

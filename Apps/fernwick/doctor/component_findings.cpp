@@ -35,7 +35,10 @@ std::string pipeProblem(Machine& machine, const IQLDesignTarget& target) {
     bool supported = false;
     const auto err = basic::attempt([&] { supported = validation->IsDeviceSupported(target.Key()); });
     if (err.Number != 0) return fmt::format("its pipe {} fails: {}", pipe, err.Description);
-    return supported ? std::string() : fmt::format("its pipe {} doesn't serve it", pipe);
+    if (!supported) return fmt::format("its pipe {} doesn't serve it", pipe);
+    basic::Ref<qlpipe::IQLPipe> transfer;
+    const auto unsendable = unmakeable(machine, pipe + ".Pipe", transfer);
+    return unsendable.empty() ? unsendable : fmt::format("nothing can be sent by its pipe {}: {}", pipe, unsendable);
 }
 
 std::string missingTemplate(Machine& machine, const IQLDesignTarget& target) {
@@ -64,7 +67,8 @@ void examineTarget(Machine& machine, const IQLDesignTarget& target, Findings& to
     if (const auto problem = pipeProblem(machine, target); !problem.empty())
         to.push_back(troubleFinding(subject, problem, correctTarget("its pipe or key")));
     if (const auto path = missingTemplate(machine, target); !path.empty())
-        to.push_back(troubleFinding(subject, fmt::format("its template {} is missing", path), correctTarget("the name")));
+        to.push_back(
+            troubleFinding(subject, fmt::format("its template {} is missing", path), correctTarget("the name")));
     if (const auto names = unregisteredTavlets(machine, target); !names.empty())
         to.push_back(troubleFinding(subject, "controls that are not registered: " + names,
                                     "Install Fernwick again: registry/tavlets.reg registers them."));
@@ -85,8 +89,7 @@ void examineTargets(Machine& machine, Findings& to) {
     DesignTargetMgr targets{machine.installation()};
     targets.Initialize();
     for (const auto& problem : targets.problems())
-        to.push_back(
-            troubleFinding("target file", problem.text(), "Correct the line, or install the file again."));
+        to.push_back(troubleFinding("target file", problem.text(), "Correct the line, or install the file again."));
     for (std::int16_t i = 0; i < targets.Count(); ++i)
         examineTarget(machine, *targets.GetDesignTargetByIndex(i).shared(), to);
     if (targets.Count() == 0)

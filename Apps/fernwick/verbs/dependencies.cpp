@@ -169,8 +169,8 @@ void storeDependencies(Session& session, const tResourceList& list) {
     auto& dependencies = session.addIn().dependencies;
     dependencies.WriteProjectDependencies(session.project(), list);
     if (!sameEntries(dependencies.ReadProjectDependencies(session.project()), list))
-        throw Refusal(kProjectErrors, fmt::format("{}: the project's file can't hold these names; nothing was stored",
-                                                  session.path()));
+        throw Refusal(kProjectErrors,
+                      fmt::format("{}: the project's file can't hold these names; nothing was stored", session.path()));
 }
 
 int changeDependencies(Session& session, const DependencyOperands& operands, Console& console) {
