@@ -236,8 +236,8 @@ TEST_F(ForeignPackage, IsTakenWhenItIsWhole) {
 TEST_F(ForeignPackage, IsRefusedWhenItIsNoZip) {
     EXPECT_EQ(read(""), qlpipe::kPackageUnreadable);
     EXPECT_EQ(read("hello"), qlpipe::kPackageUnreadable);
-    fs::remove(world.folder / "x.qlpkg");
-    EXPECT_THROW(Package{world.folder / "x.qlpkg"}, qlpipe::TransferError);
+    for (const auto& path : {world.folder / "none.qlpkg", world.folder.path(), std::string("/dev/zero")})
+        EXPECT_THROW(Package{path}, qlpipe::TransferError) << path;
 }
 
 TEST_F(ForeignPackage, IsRefusedWhenItIsCutShort) {
