@@ -2,6 +2,7 @@
 #include "tests/pipes_ssh/cutting_proxy.h"
 #include "tests/pipes_ssh/ssh_device.h"
 #include <optional>
+#include <sys/un.h>
 
 namespace {
 
@@ -39,8 +40,16 @@ protected:
 class SshAgent : public SshConnection {
 protected:
     SshAgent() {
-        for (int wait = 0; wait < 1000 && !std::filesystem::exists(socket); ++wait)
-            std::this_thread::sleep_for(std::chrono::milliseconds(5));
+        for (int wait = 0; wait < 1000 && !answers(); ++wait) std::this_thread::sleep_for(std::chrono::milliseconds(5));
+    }
+    bool answers() const {
+        sockaddr_un address{};
+        address.sun_family = AF_UNIX;
+        socket.copy(address.sun_path, sizeof address.sun_path - 1);
+        const int probe = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+        const bool taken = ::connect(probe, reinterpret_cast<sockaddr*>(&address), sizeof address) == 0;
+        ::close(probe);
+        return taken;
     }
     void add(const std::string& key) const {
         ::chmod((server.folder / key).c_str(), 0600);
