@@ -1,4 +1,5 @@
 // Packs a folder as an application: package_bench FOLDER PLACE makes PLACE/Hello.PocketPC-ARM.qlpkg.
+#include "Components/QLPipe/device_storage.h"
 #include "Components/QLPipe/package_writer.h"
 #include <algorithm>
 #include <cstdio>

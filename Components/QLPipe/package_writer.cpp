@@ -12,6 +12,7 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 
 namespace qlpipe {
 namespace {
@@ -62,6 +63,7 @@ private:
     zip_int64_t begin() {
         reader_ = file_.open();
         checksum_ = {};
+        ended_ = false;
         progress_.says(pipe_texts::kPacking + std::string(file_.title()) + pipe_texts::kDots);
         return 0;
     }
@@ -70,7 +72,8 @@ private:
     zip_int64_t read(char* data, zip_uint64_t length) {
         const auto count = reader_->read({data, std::size_t(length)});
         checksum_.add({data, count});
-        if (count == 0 && checksum_.hex() != file_.sha256) throw transferError(kFileChanged, {file_.place});
+        const bool ends = count == 0 && !std::exchange(ended_, true);
+        if (ends && checksum_.hex() != file_.sha256) throw transferError(kFileChanged, {file_.place});
         progress_.moved(std::int64_t(count));
         return zip_int64_t(count);
     }
@@ -94,6 +97,7 @@ private:
     std::exception_ptr& failure_;
     std::unique_ptr<ByteReader> reader_;
     Sha256 checksum_;
+    bool ended_ = false;
 };
 
 /// Bytes that are in memory already.

@@ -172,6 +172,15 @@ TEST_F(MakePackage, IsInstalledOnItsOwnKindOfDeviceOnly) {
     EXPECT_TRUE(qlpipe::installPackage(world.services, path, "PocketPC-ARM", world.sink));
 }
 
+/// The files that the schema is tested with are what is written.
+TEST(Manifests, AreWrittenAsTheyWereRead) {
+    for (const char* name : {"application", "runtime"}) {
+        std::ifstream file{FERNWICK_SOURCE_DIR "/fuzz/corpus/manifest/" + std::string(name) + ".json"};
+        const std::string text{std::istreambuf_iterator<char>{file}, {}};
+        EXPECT_EQ(qlpipe::writeManifest(qlpipe::readManifest(text)), text);
+    }
+}
+
 // ---- packages from anybody ------------------------------------------------------------------------------------
 
 /// Packages that are put together by hand.
@@ -227,8 +236,8 @@ TEST_F(ForeignPackage, IsTakenWhenItIsWhole) {
 TEST_F(ForeignPackage, IsRefusedWhenItIsNoZip) {
     EXPECT_EQ(read(""), qlpipe::kPackageUnreadable);
     EXPECT_EQ(read("hello"), qlpipe::kPackageUnreadable);
-    fs::remove(world.folder / "x.qlpkg");
-    EXPECT_THROW(Package{world.folder / "x.qlpkg"}, qlpipe::TransferError);
+    for (const auto& path : {world.folder / "none.qlpkg", world.folder.path(), std::string("/dev/zero")})
+        EXPECT_THROW(Package{path}, qlpipe::TransferError) << path;
 }
 
 TEST_F(ForeignPackage, IsRefusedWhenItIsCutShort) {
