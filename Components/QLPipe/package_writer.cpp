@@ -204,7 +204,7 @@ void addChecksum(BundleFile& file, std::span<char> buffer, Progress& progress) {
 std::string packageName(const Bundle& bundle) { return bundle.project + "." + bundle.device + ".qlpkg"; }
 
 void writePackage(const std::string& path, Bundle bundle, IQLPipeEvents* sink) {
-    Progress progress{sink, 2 * bundle.bytes()};
+    Progress progress{sink, 2 * bundle.bytes() + manifestSize(bundle)};
     std::vector<char> buffer(kChunkBytes);
     for (auto& file : bundle.files) addChecksum(file, buffer, progress);
     const auto manifest = writeManifest(bundle);

@@ -84,10 +84,13 @@ public:
         server_.reset();
     }
 
-    void makeKey(const std::string& name, const std::string& passphrase = "") const {
+    /// `more` are options of ssh-keygen.
+    void makeKey(const std::string& name, const std::string& passphrase = "",
+                 const std::vector<std::string>& more = {"-t", "ed25519"}) const {
         std::filesystem::remove(folder / name);
-        runProgram({"ssh-keygen", "-q", "-t", "ed25519", "-N", passphrase, "-C", "test", "-f", folder / name},
-                   folder / "log");
+        std::vector<std::string> command{"ssh-keygen", "-q", "-N", passphrase, "-C", "test", "-f", folder / name};
+        command.insert(command.end(), more.begin(), more.end());
+        runProgram(command, folder / "log");
     }
     /// The line of a key in known_hosts.
     std::string knownHost(std::uint16_t atPort, const std::string& key) const {

@@ -56,8 +56,8 @@ HostKey hostKeyOf(const SshSession& session) {
 [[noreturn]] void refuseHost(const SshSession& session, SshMessage message) {
     const auto& target = session.target();
     const auto key = hostKeyOf(session);
-    throw sshError(message, {target.address(), key.kind, key.fingerprint, key.fileKind, key.line, target.knownHosts,
-                             key.line.substr(0, key.line.find(' '))});
+    throw sshError(message, {target.address(), key.kind, key.fingerprint, key.fileKind, key.line,
+                             shellWord(target.knownHosts), key.line.substr(0, key.line.find(' '))});
 }
 
 } // namespace

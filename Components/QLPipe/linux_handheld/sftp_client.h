@@ -27,7 +27,7 @@ public:
 
     SftpResult lstat(const std::string& path, SftpAttributes& attributes);
     SftpResult realPath(const std::string& path, std::string& real);
-    SftpResult open(const std::string& path, std::uint32_t mode, std::string& handle);
+    SftpResult open(const std::string& path, SftpOpenMode mode, std::string& handle);
     /// "" at the end of the file.
     SftpResult read(const std::string& handle, std::uint64_t offset, std::uint32_t size, std::string& bytes);
     SftpResult close(const std::string& handle);

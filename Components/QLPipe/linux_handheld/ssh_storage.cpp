@@ -16,7 +16,13 @@ constexpr std::uint32_t kReadBlock = 32 * 1024;
 constexpr std::int64_t kFull = 64 * 1024;
 constexpr std::string_view kOwnerPrefix = ".fernwick-owner-";
 
-/// "a", "a/b", "a/b/c".
+std::string ownerFile() {
+    std::random_device random;
+    return std::string{kOwnerPrefix} + std::to_string(random()) + std::to_string(random());
+}
+
+} // namespace
+
 std::vector<std::string> beginnings(const std::string& name) {
     std::vector<std::string> parts;
     for (auto end = name.find('/'); end != std::string::npos; end = name.find('/', end + 1))
@@ -24,13 +30,6 @@ std::vector<std::string> beginnings(const std::string& name) {
     if (!name.empty()) parts.push_back(name);
     return parts;
 }
-
-std::string ownerFile() {
-    std::random_device random;
-    return std::string{kOwnerPrefix} + std::to_string(random()) + std::to_string(random());
-}
-
-} // namespace
 
 void demandSftp(SftpClient& client, const std::string& base, const SftpResult& result, const char* action,
                 const std::string& path) {
@@ -64,7 +63,7 @@ void SshStorage::beginWork() {
         if (name.starts_with(kOwnerPrefix)) (void)client_.awaitResult(client_.startRemove(pathOf(name)));
     const auto path = pathOf(ownerFile());
     std::string handle;
-    demand(client_.open(path, kSftpForWriting | kSftpCreate, handle), "write into", base_);
+    demand(client_.open(path, kSftpNewFile, handle), "write into", base_);
     (void)client_.close(handle);
     owner_ = path;
 }
@@ -144,7 +143,9 @@ std::vector<std::string> SshStorage::list(const std::string& folder) {
 
 std::string SshStorage::read(const std::string& file) {
     const auto path = pathOf(file);
-    findNoLink(file);
+    // a pipe or a device would keep the handheld waiting
+    if (const auto found = findNoLink(file); found && !found->isFile())
+        demand({kSftpFailure, "it is no file"}, "read", path);
     std::string handle, bytes, block;
     demand(client_.open(path, kSftpForReading, handle), "read", path);
     SftpResult result;
@@ -152,7 +153,7 @@ std::string SshStorage::read(const std::string& file) {
         result = client_.read(handle, bytes.size(), kReadBlock, block);
         bytes += block;
     } while (result && !block.empty() && bytes.size() <= kLargestRead);
-    client_.close(handle);
+    (void)client_.close(handle);
     demand(result, "read", path);
     if (bytes.size() > kLargestRead) throw sshError(SshMessage::FileTooLarge, {path});
     return bytes;

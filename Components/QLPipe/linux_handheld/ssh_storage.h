@@ -63,6 +63,9 @@ private:
     std::string owner_;
 };
 
+/// "a", "a/b" and "a/b/c" of "a/b/c".
+std::vector<std::string> beginnings(const std::string& name);
+
 /// Throws the TransferError of a request that failed; `action` is what was to be done with `path`, in words.
 void demandSftp(SftpClient& client, const std::string& base, const SftpResult& result, const char* action,
                 const std::string& path);

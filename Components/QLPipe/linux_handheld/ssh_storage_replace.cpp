@@ -1,4 +1,5 @@
 // How one thing takes another's place on a handheld, and how things go.
+#include "Components/QLPipe/device_names.h"
 #include "Components/QLPipe/linux_handheld/ssh_messages.h"
 #include "Components/QLPipe/linux_handheld/ssh_storage.h"
 #include <algorithm>
@@ -79,10 +80,9 @@ void SshStorage::putBackOrAway(const std::string& kept) {
     if (name.empty()) return;
     const auto path = pathOf(kReplacedFolder) + "/" + kept;
     // what can't be removed takes room but does no harm; the next replacement of this name says so
-    if (find(name))
-        (void)removeTree(path);
-    else
-        demand(client_.rename(path, pathOf(name)), "rename", path);
+    if (find(name)) return (void)removeTree(path);
+    for (const auto& folder : beginnings(folderOf(name))) makeOneFolder(pathOf(folder));
+    demand(client_.rename(path, pathOf(name)), "rename", path);
 }
 
 void SshStorage::remove(const std::string& name) {

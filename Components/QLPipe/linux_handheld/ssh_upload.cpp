@@ -24,7 +24,11 @@ std::string partOf(const std::string& path) {
 SshUpload::SshUpload(SftpClient& client, std::string base, std::string path)
     : client_(client), base_(std::move(base)), path_(std::move(path)), part_(partOf(path_)) {
     block_.reserve(kBlock);
-    demand(client_.open(part_, kSftpForWriting | kSftpCreate | kSftpTruncate, handle_), "write");
+    // what an interrupted transfer left, or a link that somebody put there
+    const auto removal = client_.startRemove(part_);
+    const auto opened = client_.open(part_, kSftpNewFile, handle_);
+    (void)client_.awaitResult(removal);
+    demand(opened, "write");
 }
 
 SshUpload::~SshUpload() {
