@@ -27,13 +27,22 @@ echo other >../logo.bmp
 cp HelloWorld.vbp before
 run fernwick dependencies add ../logo.bmp --yes
 run cat logo.bmp
+say a copy that fails, and two files of one name
+touch c.txt
+ln -s /nowhere/at/all link.wav
+echo 2 >../link.wav
+run fernwick dependencies add c.txt ../link.wav --yes
+mkdir ../more && echo 3 >../more/sound2.wav && echo 2 >../sound2.wav
+run fernwick dependencies add ../sound2.wav ../more/sound2.wav --yes
+run fernwick dependencies
 say what can not be added keeps the rest out too
-touch 'a,b.txt' c.txt
-run fernwick dependencies add c.txt 'a,b.txt'
-run fernwick dependencies add c.txt data
-run fernwick dependencies add c.txt missing.txt
+touch 'a,b.txt' d.txt
+cp HelloWorld.vbp before
+run fernwick dependencies add d.txt 'a,b.txt'
+run fernwick dependencies add d.txt data
+run fernwick dependencies add d.txt missing.txt
 touch 'ключ.txt'
-run fernwick dependencies add c.txt 'ключ.txt'
+run fernwick dependencies add d.txt 'ключ.txt'
 same HelloWorld.vbp before
 say removing, by the stored name or by the path
 rm data/cities.pdb
@@ -44,7 +53,7 @@ run fernwick dependencies
 cp HelloWorld.vbp before
 run fernwick dependencies remove sound.wav logo.bmp
 same HelloWorld.vbp before
-run fernwick dependencies remove sound.wav
+run fernwick dependencies remove sound.wav c.txt sound2.wav
 run fernwick dependencies
 say wrong use
 run fernwick dependencies HelloWorld.vbp logo.bmp
