@@ -1,6 +1,7 @@
 """Every result in JSON is as its schema file says; SARIF has what viewers need."""
 import json
 import unittest
+import zipfile
 
 import jsonschema
 
@@ -92,6 +93,16 @@ class Schemas(unittest.TestCase):
         missing = self.fits("dependencies", "dependencies", str(self.project))["dependencies"][0]
         self.assertEqual((missing["size"], missing["missing"]), (None, True))
 
+    def test_packages(self):
+        self.fits("report", "package", str(self.project))
+        package = self.project.with_suffix(".PalmOS-DragonBall.qlpkg")
+        self.fits("package-listing", "package", str(package), "--list")
+        self.fits("package-listing", "package", str(package), "--verify")
+        with zipfile.ZipFile(package) as opened:
+            name = next(n for n in opened.namelist() if n.endswith("manifest.json"))
+            manifest = json.loads(opened.read(name))
+        self.assertEqual([e.message for e in schema("package").iter_errors(manifest)], [])
+
     def test_sarif(self):
         self.broken()
         for verb in ("build", "check", "messages"):
@@ -115,8 +126,8 @@ class Schemas(unittest.TestCase):
 
     def test_every_schema_is_tested(self):
         self.assertEqual(sorted(p.stem for p in (ROOT / "installation/schemas").glob("*.json")),
-                         ["dependencies-1", "devices-1", "doctor-1", "explain-1", "info-1", "registry-1", "report-1",
-                          "settings-1", "targets-1", "version-1"])
+                         ["dependencies-1", "devices-1", "doctor-1", "explain-1", "info-1", "package-1",
+                          "package-listing-1", "registry-1", "report-1", "settings-1", "targets-1", "version-1"])
 
 
 if __name__ == "__main__":
