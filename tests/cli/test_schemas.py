@@ -1,6 +1,7 @@
 """Every result in JSON is as its schema file says; SARIF has what viewers need."""
 import json
 import unittest
+import zipfile
 
 import jsonschema
 
@@ -110,6 +111,16 @@ class Schemas(unittest.TestCase):
         (self.project.parent / "prices.pdb").unlink()
         missing = self.fits("dependencies", "dependencies", str(self.project))["dependencies"][0]
         self.assertEqual((missing["size"], missing["missing"]), (None, True))
+
+    def test_packages(self):
+        self.fits("report", "package", str(self.project))
+        package = self.project.with_suffix(".PalmOS-DragonBall.qlpkg")
+        self.fits("package-listing", "package", str(package), "--list")
+        self.fits("package-listing", "package", str(package), "--verify")
+        with zipfile.ZipFile(package) as opened:
+            name = next(n for n in opened.namelist() if n.endswith("manifest.json"))
+            manifest = json.loads(opened.read(name))
+        self.assertEqual([e.message for e in schema("package").iter_errors(manifest)], [])
 
     def test_sarif(self):
         self.broken()
