@@ -94,8 +94,8 @@ SftpResult SftpClient::readReply(const Reply& reply, std::uint8_t type, Read rea
     return {};
 }
 
-SftpResult SftpClient::awaitResult(Request request) {
-    return readReply(await(request), kSftpStatus, [](PacketReader&) {});
+SftpResult SftpClient::awaitResult(Request request, std::chrono::milliseconds patience) {
+    return readReply(await(request, patience), kSftpStatus, [](PacketReader&) {});
 }
 
 SftpResult SftpClient::awaitAttributes(Request request, SftpAttributes& attributes) {
@@ -129,12 +129,11 @@ SftpResult SftpClient::read(const std::string& handle, std::uint64_t offset, std
     return result;
 }
 
-SftpResult SftpClient::close(const std::string& handle) { return awaitResult(startOnPath(kSftpClose, handle)); }
+SftpResult SftpClient::close(const std::string& handle) { return awaitResult(startClose(handle)); }
 
-SftpResult SftpClient::flush(const std::string& handle) {
+std::optional<SftpClient::Request> SftpClient::startFlush(const std::string& handle) {
     if (!offers("fsync@openssh.com")) return {};
-    const auto sent = send(request(kSftpExtended).text("fsync@openssh.com").text(handle));
-    return readReply(await(sent, channel_.timeouts().flush), kSftpStatus, [](PacketReader&) {});
+    return send(request(kSftpExtended).text("fsync@openssh.com").text(handle));
 }
 
 SftpResult SftpClient::makeFolder(const std::string& path) {

@@ -68,12 +68,6 @@ void SshStorage::beginWork() {
     owner_ = path;
 }
 
-void SshStorage::claim() {
-    if (owner_.empty()) return beginWork();
-    SftpAttributes found;
-    if (client_.lstat(owner_, found).code == kSftpNoSuchFile) throw transferError(kDeviceBusy, {location()});
-}
-
 void SshStorage::takeFolder(const std::string& folder) {
     std::string home;
     if (!folder.starts_with('/')) {
@@ -101,14 +95,18 @@ std::int64_t SshStorage::freeSpaceFor(const std::string&) {
     return client_.freeSpace(path.empty() ? "/" : path);
 }
 
-std::optional<SftpAttributes> SshStorage::find(const std::string& name) {
-    const auto parts = beginnings(name);
-    std::vector<SftpClient::Request> requests{client_.startLstat(base_)};
-    for (const auto& part : parts) requests.push_back(client_.startLstat(pathOf(part)));
+SshStorage::Requests SshStorage::startFind(const std::string& name) {
+    Requests requests{client_.startLstat(base_)};
+    for (const auto& part : beginnings(name)) requests.push_back(client_.startLstat(pathOf(part)));
+    return requests;
+}
+
+std::optional<SftpAttributes> SshStorage::awaitFound(const std::string& name, const Requests& requests) {
     std::vector<SftpAttributes> found(requests.size());
     std::vector<SftpResult> results;
     for (std::size_t i = 0; i < requests.size(); ++i) results.push_back(client_.awaitAttributes(requests[i], found[i]));
 
+    const auto parts = beginnings(name);
     for (std::size_t i = 0; i < found.size(); ++i) {
         const auto path = i == 0 ? base_ : pathOf(parts[i - 1]);
         if (results[i].code == kSftpNoSuchFile) return std::nullopt;
@@ -120,8 +118,18 @@ std::optional<SftpAttributes> SshStorage::find(const std::string& name) {
     return found.back();
 }
 
-std::optional<SftpAttributes> SshStorage::findNoLink(const std::string& name) {
-    auto found = find(name);
+std::optional<SftpAttributes> SshStorage::findAsOwner(const std::string& name) {
+    if (owner_.empty()) beginWork();
+    const auto owner = client_.startLstat(owner_);
+    const auto requests = startFind(name);
+    SftpAttributes found;
+    const bool isOwner = client_.awaitAttributes(owner, found).code != kSftpNoSuchFile;
+    const auto answer = awaitFound(name, requests);
+    if (!isOwner) throw transferError(kDeviceBusy, {location()});
+    return answer;
+}
+
+std::optional<SftpAttributes> SshStorage::notALink(const std::string& name, std::optional<SftpAttributes> found) const {
     if (found && found->isLink()) throw sshError(SshMessage::LinkRefused, {pathOf(name)});
     return found;
 }
@@ -129,7 +137,7 @@ std::optional<SftpAttributes> SshStorage::findNoLink(const std::string& name) {
 bool SshStorage::exists(const std::string& name) { return find(name).has_value(); }
 
 std::vector<std::string> SshStorage::list(const std::string& folder) {
-    const auto found = findNoLink(folder);
+    const auto found = notALink(folder, find(folder));
     if (!found) return {};
     if (!found->isFolder()) throw sshError(SshMessage::NotFolder, {pathOf(folder)});
     std::vector<SftpClient::Entry> entries;
@@ -144,7 +152,7 @@ std::vector<std::string> SshStorage::list(const std::string& folder) {
 std::string SshStorage::read(const std::string& file) {
     const auto path = pathOf(file);
     // a pipe or a device would keep the handheld waiting
-    if (const auto found = findNoLink(file); found && !found->isFile())
+    if (const auto found = notALink(file, find(file)); found && !found->isFile())
         demand({kSftpFailure, "it is no file"}, "read", path);
     std::string handle, bytes, block;
     demand(client_.open(path, kSftpForReading, handle), "read", path);
@@ -177,15 +185,17 @@ void SshStorage::makeBase() {
 }
 
 void SshStorage::makeFolder(const std::string& folder) {
-    if (const auto found = findNoLink(folder); found && found->isFolder()) return;
-    makeBase();
-    if (owner_.empty()) beginWork();
-    for (const auto& part : beginnings(folder)) makeOneFolder(pathOf(part));
+    if (folders_.contains(folder)) return;
+    if (const auto found = notALink(folder, find(folder)); !found || !found->isFolder()) {
+        makeBase();
+        if (owner_.empty()) beginWork();
+        for (const auto& part : beginnings(folder)) makeOneFolder(pathOf(part));
+    }
+    folders_.insert(folder);
 }
 
 std::unique_ptr<StorageFile> SshStorage::create(const std::string& file) {
-    claim();
-    if (find(file)) throw sshError(SshMessage::NameTaken, {pathOf(file)});
+    if (findAsOwner(file)) throw sshError(SshMessage::NameTaken, {pathOf(file)});
     return std::make_unique<SshUpload>(client_, base_, pathOf(file));
 }
 

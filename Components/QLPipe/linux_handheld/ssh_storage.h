@@ -36,15 +36,19 @@ public:
 private:
     void takeFolder(const std::string& folder);
     std::string pathOf(const std::string& name) const { return name.empty() ? base_ : base_ + "/" + name; }
+    using Requests = std::vector<SftpClient::Request>;
+    Requests startFind(const std::string& name);
+    std::optional<SftpAttributes> awaitFound(const std::string& name, const Requests& requests);
     /// Nothing for what is not there. Throws for a name behind a link or a file.
-    std::optional<SftpAttributes> find(const std::string& name);
-    /// What find finds, which must not be a link.
-    std::optional<SftpAttributes> findNoLink(const std::string& name);
+    std::optional<SftpAttributes> find(const std::string& name) { return awaitFound(name, startFind(name)); }
+    /// For work that begins with it: throws when a later transfer has the device.
+    std::optional<SftpAttributes> findAsOwner(const std::string& name);
+    /// What was found, which must not be a link.
+    std::optional<SftpAttributes> notALink(const std::string& name, std::optional<SftpAttributes> found) const;
     void makeOneFolder(const std::string& path);
     void makeBase();
 
-    /// Makes this the transfer that works. Throws when a later one does.
-    void claim();
+    /// Makes this the transfer that works; another that does stops.
     void beginWork();
 
     void replace(const std::string& from, const std::string& to);
@@ -61,6 +65,8 @@ private:
     std::string base_;
     /// The path of our owner's file; "" before there is one.
     std::string owner_;
+    /// Folders that were seen or made, so that they need not be looked for with each file.
+    std::set<std::string> folders_;
 };
 
 /// "a", "a/b" and "a/b/c" of "a/b/c".

@@ -40,17 +40,16 @@ std::string nameOfKept(const std::string& kept) {
 } // namespace
 
 void SshStorage::replaceFile(const std::string& from, const std::string& to) {
-    claim();
-    const auto there = findNoLink(to);
+    const auto there = notALink(to, findAsOwner(to));
     if (there && there->isFolder()) throw sshError(SshMessage::NameTaken, {pathOf(to)});
     if (there && !client_.renameReplaces()) return replace(from, to);
     demand(client_.rename(pathOf(from), pathOf(to)), "rename", pathOf(from));
 }
 
 void SshStorage::replaceFolder(const std::string& from, const std::string& to) {
-    claim();
-    const auto there = findNoLink(to);
+    const auto there = notALink(to, findAsOwner(to));
     if (there && !there->isFolder()) throw sshError(SshMessage::NotFolder, {pathOf(to)});
+    folders_.clear();
     if (there) return replace(from, to);
     demand(client_.rename(pathOf(from), pathOf(to)), "rename", pathOf(from));
 }
@@ -88,6 +87,7 @@ void SshStorage::putBackOrAway(const std::string& kept) {
 void SshStorage::remove(const std::string& name) {
     if (!find(name)) return;
     if (owner_.empty()) beginWork();
+    folders_.clear();
     demand(removeTree(pathOf(name)), "remove", pathOf(name));
 }
 

@@ -62,9 +62,12 @@ void SshUpload::awaitOldest() {
 
 void SshUpload::close() {
     if (!block_.empty()) sendBlock();
+    // all at once, for a small file costs little more than the ways there and back
+    const auto flushed = client_.startFlush(handle_);
+    const auto closed = client_.startClose(std::exchange(handle_, {}));
     while (!underWay_.empty()) awaitOldest();
-    demand(client_.flush(handle_), "write");
-    demand(client_.close(std::exchange(handle_, {})), "write");
+    if (flushed) demand(client_.awaitResult(*flushed, client_.channel().timeouts().flush), "write");
+    demand(client_.awaitResult(closed), "write");
     demand(client_.rename(part_, path_), "write");
     isDone_ = true;
 }
