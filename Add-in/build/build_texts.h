@@ -48,4 +48,72 @@ inline constexpr char kPostStepsFailed[] = "Warning, One or more of your post co
 inline constexpr char kCompileFailed[] =
     "One or more errors occurred during compilation.\r\nRefer to the Fernwick Messages window for the list of errors.";
 
+// Dependencies
+inline constexpr char kSaveBeforeScan[] = "Before scanning for dependencies the project must be saved.";
+inline constexpr char kEmptyProject[] = "This project is empty!";
+inline constexpr char kScanningComponent[] = "Scanning {component}...";
+inline constexpr char kScanFinished[] = "Finished";
+/// The size stands behind the word Weight. What to do about it follows.
+inline constexpr char kFontMissing[] =
+    "Could Not Find \"{font}\" Weight:{size} Style:{style} referenced in {component}";
+inline constexpr char kFontMissingOnPalm[] = " Double-click this error to start the Font Converter. Converted font "
+                                             "must be located in the Quinloft\\Fonts directory.";
+inline constexpr char kFontMissingElsewhere[] =
+    " If this font is not already on the device, either add the font as a dependency, or convert the font and store "
+    "it in the Quinloft/Fonts directory.";
+inline constexpr char kSelectDependency[] = "Select a dependency file.";
+/// Behind the Symbian databases no "|" stands: that kind and the next are shown as projects know them.
+inline constexpr char kDependencyKinds[] = "All Files(*.*)|*.*|"
+                                           "Quinloft Font(*.cmf)|*.cmf|"
+                                           "True Type Font (*.ttf)|*.ttf|"
+                                           "Symbian Bitmap Font (*.gdr)|*.gdr|"
+                                           "Quinloft Graphic(*.rgx)|*.rgx|"
+                                           "Bitmap (*.bmp)|*.bmp|"
+                                           "PNG (*.png)|*.png|"
+                                           "JPEG (*.jpg, *.jpe)|*.jpg;*.jpe|"
+                                           "Quinloft Movie(*.rmv)|*.rmv|"
+                                           "Palm Database(*.pdb)|*.pdb|"
+                                           "Pocket Access Database (*.cdb)|*.cdb|"
+                                           "Symbian Database (*.db)|*.db"
+                                           "WAV (*.wav)|*.wav|"
+                                           "Midi (*.mid, *.miz)|*.mid;*.miz|"
+                                           "Beatnik Rich Music Format (*.rmf)|*.rmf|"
+                                           "Nokia Ringtone (*.rng)|*.rng|"
+                                           "UIQ208 Ringtone (*.imy)|*.imy|"
+                                           "Text File (*.txt)|*.txt|";
+inline constexpr char kCopyDependency[] = "All dependency files must exist in the project folder.\r\n\r\n"
+                                          "Would you like to copy\r\n{file}\r\nto\r\n{folder} ?";
+inline constexpr char kNotCopied[] = "Error copying file!";
+
+// During a validation
+inline constexpr char kValidating[] = "Validating {project}...";
+inline constexpr char kValidationFinished[] = "Finished";
+inline constexpr char kNoDesignTargets[] = "Error Creating DesignTargetAccess Object, please contact Quinloft support";
+
+// What a validation finds
+inline constexpr char kReferenceMissing[] =
+    "There is a missing reference in this project, please remove the reference.";
+inline constexpr char kUnknownLibrary[] = "TypeLib with UUID = {guid}";
+inline constexpr char kComponentNotSupported[] =
+    "{name} is not supported and may cause errors on a {platform} device.  To ingore this warning and deploy to any "
+    "device, turn off reference checking in the Compiler section of the Fernwick Settings screen. (Double-Click here "
+    "to open the Fernwick Settings.)";
+inline constexpr char kReservedFormName[] = "\"{name}\" is illegal as a form name. It is a reserved word.";
+inline constexpr char kReservedControlName[] = "\"{name}\" is illegal as a control name. It is a reserved word.";
+inline constexpr char kScaleModeNotPixels[] = "Form ScaleMode must be set to Pixels";
+inline constexpr char kStartUpPositionManual[] =
+    "Using a StartUpPosition of Manual could cause the application to not be visible on the device.";
+inline constexpr char kFormPicture[] = "The Picture property of Forms is not supported.";
+inline constexpr char kBorderStyle[] = "The only valid selections for the BorderStyle property of Forms are "
+                                       "\"0 - None\", \"1 - Fixed Single\", or \"3 - Fixed Dialog\".";
+inline constexpr char kControlEventNotSupported[] =
+    "{procedure} is not supported by Quinloft Fernwick for {class}{{{control}}}";
+inline constexpr char kFormEventNotSupported[] = "{procedure} is not supported by Quinloft Fernwick for {form}";
+// What to use instead, behind the above
+inline constexpr char kUseClickAndTimer[] = ", consider using the Click Event and TimerMS function";
+inline constexpr char kUseActivate[] = ", consider using the Activate Event";
+inline constexpr char kUseKeyPress[] = ", consider using the KeyPress Event";
+inline constexpr char kUseDeactivate[] = ", consider using the Deactivate Event";
+inline constexpr char kUseClick[] = ", consider using the Click Event";
+
 } // namespace fernwick::build_texts

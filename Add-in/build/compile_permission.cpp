@@ -1,12 +1,9 @@
 // Whether a project may be compiled or validated, and the saving that comes before.
 #include "Add-in/build/build_texts.h"
 #include "Add-in/build/frmCompile.h"
+#include "Add-in/build/message_numbers.h"
 
 namespace fernwick {
-
-namespace {
-constexpr std::int32_t kFilesNotSavedNumber = 12289;
-}
 
 bool frmCompile::canCompile(const Project& project) {
     Procedure here{use_.errors, "frmCompile.canCompile"};
@@ -38,7 +35,7 @@ bool frmCompile::saveForCompile(Procedure& here, const Project& project, const b
     const bool saved = !ProjectIsDirty(project);
     if (!saved)
         use_.messages.AddProjectCompileError(project, build_texts::kSavingFailed + supportAddress(), "", 0,
-                                             kFilesNotSavedNumber);
+                                             message_numbers::kFilesNotSaved);
     return saved;
 }
 

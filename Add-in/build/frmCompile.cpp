@@ -1,12 +1,12 @@
 #include "Add-in/build/frmCompile.h"
 #include "Add-in/build/build_texts.h"
+#include "Add-in/build/message_numbers.h"
 
 namespace fernwick {
 
 namespace {
 /// Compared byte for byte with what a project was last compiled with.
 constexpr char kCompilerVersion[] = "3.5.0 (0624)";
-constexpr std::int32_t kToolsMissingNumber = 2999;
 constexpr int kForEver = -1;
 } // namespace
 
@@ -92,8 +92,9 @@ void frmCompile::reportMissingTools(basic::Suppressed& quietly) {
     const std::string text = std::string(build_texts::kToolsMissing) + "\r\n" + build_texts::kPleaseContact +
                              use_.platform.app.SupportWebAddress;
     quietly([&] { user_.MsgBox(text, vbCritical, build_texts::kTitle); });
-    use_.messages.AddProjectCompileError(
-        project_, build_texts::kToolsMissingMessage + use_.platform.app.SupportWebAddress, "", 0, kToolsMissingNumber);
+    use_.messages.AddProjectCompileError(project_,
+                                         build_texts::kToolsMissingMessage + use_.platform.app.SupportWebAddress, "", 0,
+                                         message_numbers::kToolsMissing);
     quietly([&] { Unload(); });
 }
 
@@ -123,10 +124,11 @@ bool frmCompile::preStepsAllow(Procedure& here) {
     });
 }
 
-/// The scan for fonts is not here yet, and so the stored list of fonts stays as it is.
 void frmCompile::recordDependencies(Procedure& here) {
+    const auto fontDependencies = use_.dependencies.ScanProjectForFontDependencies(qlProject_);
     here([&] { qlProject_->WriteTavletFileDependencies(tavletFileDependencies_); });
     here([&] { qlProject_->WriteComponentDependencies(componentDependencies_); });
+    here([&] { qlProject_->WriteProjectFontDependencies(fontDependencies); });
     if (here.test([&] { return !projectFileIsReadOnly(); })) here([&] { project_->SaveAs(project_->FileName()); });
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 // The compile driver: everything around the compiler component.
 #include "Add-in/build/line_counts.h"
-#include "Add-in/build/modCompileErrorManagement.h"
+#include "Add-in/build/modDependencyManagement.h"
 #include "Add-in/build/modProcessControl.h"
 #include "Add-in/core/ide_commands.h"
 #include "Add-in/core/modQLInstallInfo.h"
@@ -22,6 +22,7 @@ struct CompileServices {
     modQLInstallInfo& install;
     modProjectHandler& projects;
     modCompileErrorManagement& messages;
+    modDependencyManagement& dependencies;
     modProcessControl& processes;
     frmSaveProjectFiles& saveFiles;
     IdeCommands& commands;

@@ -1,23 +1,37 @@
 #include "Add-in/core/modFileManagement.h"
 #include "Basic/case_folding.h"
 #include <algorithm>
+#include <optional>
 
 namespace fernwick {
+
+namespace {
+
+std::optional<std::string> behindFolder(const FileSystemObject& files, const std::string& folder,
+                                        const std::string& canonicalPath) {
+    const auto beginning = files.WithSeparator(files.Canonical(folder));
+    if (!basic::startsWithNoCase(canonicalPath, beginning)) return std::nullopt;
+    auto rest = canonicalPath.substr(std::min(beginning.size(), canonicalPath.size()));
+    std::replace(rest.begin(), rest.end(), '/', '\\');
+    return rest;
+}
+
+} // namespace
 
 std::string GetRelativePath(const FileSystemObject& files, const std::string& base, const std::string& path) {
     if (!files.IsAbsolute(path)) return path;
     const auto target = files.Canonical(path);
     std::string way;
     for (auto folder = files.GetAbsolutePathName(base); !folder.empty(); folder = files.GetParentFolderName(folder)) {
-        const auto beginning = files.WithSeparator(files.Canonical(folder));
-        if (basic::startsWithNoCase(target, beginning)) {
-            auto rest = target.substr(std::min(beginning.size(), target.size()));
-            std::replace(rest.begin(), rest.end(), '/', '\\');
-            return way + rest;
-        }
+        if (const auto rest = behindFolder(files, folder, target)) return way + *rest;
         way += "..\\";
     }
     return path;
+}
+
+std::string PathBelow(const FileSystemObject& files, const std::string& folder, const std::string& path) {
+    if (folder.empty()) return {};
+    return behindFolder(files, folder, files.Canonical(path)).value_or("");
 }
 
 } // namespace fernwick

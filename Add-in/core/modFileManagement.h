@@ -9,4 +9,8 @@ namespace fernwick {
 /// for its separators, as it is stored in projects.
 std::string GetRelativePath(const FileSystemObject& files, const std::string& base, const std::string& path);
 
+/// What stands behind a folder in a path below it (letter case ignored), with "\" for its separators; "" for any
+/// other path.
+std::string PathBelow(const FileSystemObject& files, const std::string& folder, const std::string& path);
+
 } // namespace fernwick

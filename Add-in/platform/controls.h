@@ -46,11 +46,20 @@ public:
     Property<std::string> Caption;
 };
 
-/// Percent, 0 to 100.
+/// Value runs from Min to Max: percent, where nobody says otherwise.
 class ProgressBar : public Control {
 public:
     using Control::Control;
+    Property<float> Min{this, 0.0F}, Max{this, 100.0F};
     Property<float> Value{this, 0.0F};
+
+    /// From 0 to a number of steps.
+    void start(std::size_t steps) {
+        Min(0);
+        Max(float(steps));
+        Value(0);
+    }
+    float percent() const { return Max() > Min() ? (Value() - Min()) / (Max() - Min()) * 100 : 0; }
 };
 
 /// In simple-text mode. Setting an equal text tells nobody, so Refresh says that a text was set.

@@ -62,6 +62,8 @@ public:
     virtual basic::Ref<TextStream> CreateTextFile(const std::string& path, bool overwrite) = 0;
     /// The whole file as it is.
     virtual std::string ReadBytes(const std::string& path) const = 0;
+    /// The file's first bytes, at most so many.
+    virtual std::string ReadHead(const std::string& path, std::size_t most) const = 0;
     /// Replaces the file as a whole or not at all.
     virtual void WriteBytes(const std::string& path, const std::string& bytes) = 0;
     /// Nanoseconds since 1970, as GetDateLastModified gives them.

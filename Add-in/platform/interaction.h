@@ -8,7 +8,7 @@ class Form;
 
 enum VbMsgBoxResult : int { vbOK = 1, vbCancel = 2, vbYes = 6, vbNo = 7 };
 
-/// Buttons and icon of a box, added up.
+/// Buttons, icon and default button of a box, added up.
 enum VbMsgBoxStyle : int {
     vbOKOnly = 0,
     vbOKCancel = 1,
@@ -18,11 +18,21 @@ enum VbMsgBoxStyle : int {
     vbQuestion = 32,
     vbExclamation = 48,
     vbInformation = 64,
+    vbDefaultButton2 = 256,
 };
 
 enum MousePointerShape : int { vbDefault = 0, vbArrow = 1, vbHourglass = 11 };
 
 inline constexpr int kCancelWasSelected = 32755;
+
+/// CommonDialog.Flags, added up.
+enum FileDialogFlags : int {
+    cdlOFNHideReadOnly = 0x4,
+    cdlOFNAllowMultiselect = 0x200,
+    cdlOFNPathMustExist = 0x800,
+    cdlOFNFileMustExist = 0x1000,
+    cdlOFNExplorer = 0x80000,
+};
 
 /// MSComDlg.CommonDialog, as far as it is used.
 struct CommonDialog {
@@ -34,6 +44,10 @@ struct CommonDialog {
     /// Pairs of description and pattern, all separated by "|".
     std::string Filter;
     int FilterIndex = 1;
+    /// A sum of FileDialogFlags.
+    int Flags = 0;
+    /// The longest FileName that ShowOpen may give, in bytes.
+    int MaxFileSize = 256;
 };
 
 class Interaction {
@@ -47,6 +61,9 @@ public:
     virtual int MsgBox(const std::string& text, int buttons, const std::string& title) = 0;
     /// FileName becomes the chosen path. With CancelError, Cancel is error 32755.
     virtual void ShowSave(CommonDialog& dialog) = 0;
+    /// FileName becomes the chosen path; several are their folder and the names in it, parted by NUL characters.
+    /// After Cancel it stays as it is, with CancelError that is error 32755.
+    virtual void ShowOpen(CommonDialog& dialog) = 0;
     virtual void MessageBeep(int type) = 0;
     /// The cursor outside of forms: LoadCursor and SetCursor.
     virtual void SetCursor(MousePointerShape shape) = 0;

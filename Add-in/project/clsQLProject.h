@@ -105,6 +105,8 @@ public:
     std::string IconFileName() const;
     /// Stored relative to the project folder where it lies there; the default icon is stored as "".
     void IconFileName(const std::string& path);
+    /// A copy of the icon in the temporary folder, for the caller to delete; "" where there is no icon.
+    std::string GetTempIcon() const;
 
     // Version and application data, read from the project file on disk. Errors go to the caller.
     std::string version() const;

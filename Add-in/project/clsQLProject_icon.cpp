@@ -44,4 +44,17 @@ void clsQLProject::IconFileName(const std::string& path) {
     write("Let_IconFileName", "IconFileName", stored);
 }
 
+std::string clsQLProject::GetTempIcon() const {
+    Procedure here{services_.errors, "clsQLProject.GetTempIcon"};
+    const auto icon = IconFileName();
+    if (!here.value([&] { return files().FileExists(icon); })) return {};
+    std::string copy;
+    if (!here([&] { copy = files().BuildPath(files().GetSpecialFolder(TemporaryFolder), files().GetFileName(icon)); }))
+        return {};
+    // Forced, since a copy of a read-only icon is read-only.
+    if (here.test([&] { return files().FileExists(copy); })) here([&] { files().DeleteFile(copy, true); });
+    here([&] { files().CopyFile(icon, copy, true); });
+    return copy;
+}
+
 } // namespace fernwick

@@ -68,7 +68,7 @@ void CommandLineUser::showModal(Form& form) {
     auto* status = firstControl<fernwick::StatusBar>(form);
     const auto redraw = [this, bar, status] {
         checkInterrupt();
-        console_.progress(bar ? bar->Value() : 0, status ? status->SimpleText() : std::string());
+        console_.progress(bar ? bar->percent() : 0, status ? status->SimpleText() : std::string());
     };
     Subscription percent, text;
     if (bar) percent = bar->Value.watch([redraw](float) { redraw(); });
@@ -150,7 +150,7 @@ int CommandLineUser::MsgBox(const std::string& text, int buttons, const std::str
     return fernwick::vbCancel;
 }
 
-void CommandLineUser::ShowSave(fernwick::CommonDialog& dialog) {
+void CommandLineUser::cancel(const fernwick::CommonDialog& dialog) {
     show(dialog.DialogTitle, dialog.FileName, 0);
     shown_.back().answer = replyName(Reply::Cancel);
     if (dialog.CancelError)

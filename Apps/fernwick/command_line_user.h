@@ -37,7 +37,8 @@ public:
     void showModal(fernwick::Form& form) override;
     int MsgBox(const std::string& text, int buttons, const std::string& title) override;
     /// The command line chooses no files: Cancel.
-    void ShowSave(fernwick::CommonDialog& dialog) override;
+    void ShowSave(fernwick::CommonDialog& dialog) override { cancel(dialog); }
+    void ShowOpen(fernwick::CommonDialog& dialog) override { cancel(dialog); }
     void MessageBeep(int) override {}
     void SetCursor(fernwick::MousePointerShape) override {}
 
@@ -45,6 +46,7 @@ public:
     const std::vector<ShownBox>& shown() const { return shown_; }
 
 private:
+    void cancel(const fernwick::CommonDialog& dialog);
     void answerForm(fernwick::Form& form);
     void chooseDevice(fernwick::Form& form);
     Reply replyTo(const Question* question, Reply otherwise, const std::string& prompt, bool canBeYes);

@@ -29,8 +29,8 @@ public:
     const std::string& installation() const { return installation_; }
     /// What the last build did.
     const compiler::BuildRecord& build() const { return *build_; }
-    /// What the pipes did.
-    const qlpipe::TransferRecord& transfers() const { return *transfers_; }
+    /// What the pipes did; a run that asks for one transfer clears it first.
+    qlpipe::TransferRecord& transfers() { return *transfers_; }
     /// Turns the event loop until nothing is due.
     void drain();
 

@@ -1,4 +1,5 @@
 #include "Components/QLPipe/pipe_messages.h"
+#include "Components/QLPipe/linux_handheld/ssh_messages.h"
 
 namespace qlpipe {
 namespace {
@@ -128,7 +129,7 @@ constexpr fernwick::MessageInfo kPipeMessages[] = {
 
 } // namespace
 
-std::vector<std::span<const fernwick::MessageInfo>> pipeMessages() { return {kPipeMessages}; }
+std::vector<std::span<const fernwick::MessageInfo>> pipeMessages() { return {kPipeMessages, sshMessages()}; }
 
 std::string messageText(std::int32_t number, std::initializer_list<std::string> values) {
     std::string_view pattern;

@@ -1,5 +1,6 @@
 #include "Host/files/text_file.h"
 #include "Host/files/system_error.h"
+#include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
 #include <fmt/format.h>
@@ -33,10 +34,16 @@ private:
     int number_;
 };
 
-void refuseWhatIsNoText(const struct stat& state, const std::string& path) {
+struct stat regularFileState(const ReadDescriptor& file, const std::string& path) {
+    struct stat state {};
+    if (::fstat(file.number(), &state) != 0) throw systemError(errno, "cannot be examined", path);
     if (S_ISDIR(state.st_mode)) throw systemError(EISDIR, "cannot be read", path);
     if (!S_ISREG(state.st_mode))
         throw hostError(basic::kPathFileAccessError, fmt::format("{}: is not a regular file", path));
+    return state;
+}
+
+void refuseWhatIsTooLarge(const struct stat& state, const std::string& path) {
     if (std::uint64_t(state.st_size) > kLargestFile)
         throw hostError(basic::kOutOfMemory, fmt::format("{}: is too large ({} bytes)", path, state.st_size));
 }
@@ -123,13 +130,18 @@ FileStamp stampOf(const struct ::stat& state, std::string_view bytes) noexcept {
 
 FileContent readFile(const std::string& path) {
     const ReadDescriptor file(path);
-    struct stat state {};
-    if (::fstat(file.number(), &state) != 0) throw systemError(errno, "cannot be examined", path);
-    refuseWhatIsNoText(state, path);
+    const auto state = regularFileState(file, path);
+    refuseWhatIsTooLarge(state, path);
     FileContent content;
     content.bytes = readAll(file.number(), std::size_t(state.st_size), path);
     content.stamp = stampOf(state, content.bytes);
     return content;
+}
+
+std::string readFileHead(const std::string& path, std::size_t most) {
+    const ReadDescriptor file(path);
+    const auto state = regularFileState(file, path);
+    return readAll(file.number(), std::min(most, std::size_t(state.st_size)), path);
 }
 
 } // namespace host

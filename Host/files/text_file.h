@@ -56,4 +56,7 @@ inline constexpr std::uint64_t kLargestFile = std::uint64_t{1} << 30;
 /// readable or no regular file, 7 larger than kLargestFile, 57 the device failed.
 FileContent readFile(const std::string& path);
 
+/// The file's first bytes, at most `most` of them. Errors as above, whatever the file's size.
+std::string readFileHead(const std::string& path, std::size_t most);
+
 } // namespace host

@@ -163,6 +163,10 @@ std::string FileSystem::ReadBytes(const std::string& path) const {
     return withScriptErrors([&] { return readFile(Canonical(path)).bytes; });
 }
 
+std::string FileSystem::ReadHead(const std::string& path, std::size_t most) const {
+    return withScriptErrors([&] { return readFileHead(Canonical(path), most); });
+}
+
 void FileSystem::WriteBytes(const std::string& path, const std::string& bytes) {
     const auto file = Canonical(path);
     requirePlace(file, true);

@@ -40,6 +40,7 @@ public:
     /// The file is there when the stream is closed or let go of, all at once.
     basic::Ref<fernwick::TextStream> CreateTextFile(const std::string& path, bool overwrite) override;
     std::string ReadBytes(const std::string& path) const override;
+    std::string ReadHead(const std::string& path, std::size_t most) const override;
     void WriteBytes(const std::string& path, const std::string& bytes) override;
     void SetDateLastModified(const std::string& path, std::int64_t time) override;
     /// The copy has the source's time; a new one its mode, too. A destination that ends with a separator is a folder.

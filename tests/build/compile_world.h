@@ -47,10 +47,11 @@ struct CompileWorld : MessagesWorld {
     fernwick::modProcessControl steps{errors, platform};
     fernwick::frmSaveProjectFiles saveFiles{user, addIn};
     TracedCommands commands{trace};
+    fernwick::modDependencyManagement dependencies{{platform, errors, install, messages, commands}};
     basic::Ref<FakeCompiler> compiler = basic::make<FakeCompiler>(trace);
     std::shared_ptr<void> compilerClass;
     fernwick::frmCompile compile{
-        {platform, errors, registry2, install, projects, messages, steps, saveFiles, commands}};
+        {platform, errors, registry2, install, projects, messages, dependencies, steps, saveFiles, commands}};
 };
 
 } // namespace test

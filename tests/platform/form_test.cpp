@@ -42,6 +42,7 @@ struct Presser : Interaction {
     }
     int MsgBox(const std::string&, int, const std::string&) override { return vbOK; }
     void ShowSave(CommonDialog&) override {}
+    void ShowOpen(CommonDialog&) override {}
     void MessageBeep(int) override {}
     void SetCursor(MousePointerShape) override {}
 };

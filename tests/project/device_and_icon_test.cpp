@@ -1,4 +1,5 @@
 #include "project_world.h"
+#include <filesystem>
 
 using namespace fernwick;
 
@@ -70,4 +71,38 @@ TEST_F(ProjectIcon, AProjectWithoutAFileStoresItAsGiven) {
     const auto fresh = wrap(host.ide->VBProjects()->AddFromTemplate(test::SampleProject{"T"}.writeTo(host.folder)));
     fresh->IconFileName(path("my.ico"));
     EXPECT_EQ(stored(fresh, "IconFileName"), path("my.ico"));
+}
+
+TEST_F(ProjectIcon, ThePipeGetsACopyInTheTemporaryFolder) {
+    project->IconFileName(host.folder.write("Icons/my.ico", "new"));
+    const auto temporary = files.GetSpecialFolder(TemporaryFolder) + "/my.ico";
+    files.WriteBytes(temporary, "old");
+    EXPECT_EQ(project->GetTempIcon(), temporary);
+    EXPECT_EQ(files.ReadBytes(temporary), "new");
+    EXPECT_EQ(host.folder.read("Icons/my.ico"), "new");
+}
+
+TEST_F(ProjectIcon, ACopyThatIsReadOnlyGivesWayToTheNext) {
+    const auto icon = host.folder.write("my.ico", "icon");
+    std::filesystem::permissions(icon, std::filesystem::perms::owner_read);
+    project->IconFileName(icon);
+    const auto copy = project->GetTempIcon();
+    EXPECT_EQ(project->GetTempIcon(), copy);
+    EXPECT_EQ(files.ReadBytes(copy), "icon");
+    EXPECT_TRUE(reports().empty());
+}
+
+TEST_F(ProjectIcon, WithoutAnIconThereIsNoCopy) {
+    project->IconFileName(path("none.ico"));
+    EXPECT_EQ(project->GetTempIcon(), "");
+    EXPECT_TRUE(reports().empty());
+}
+
+TEST_F(ProjectIcon, TheDefaultIconIsCopiedTooAndACopyThatFailsIsReported) {
+    const auto copy = project->GetTempIcon();
+    EXPECT_EQ(files.ReadBytes(copy), "icon");
+    files.DeleteFile(copy, true);
+    std::filesystem::create_directory(copy); // nothing can be copied there
+    EXPECT_EQ(project->GetTempIcon(), copy);
+    EXPECT_EQ(reports(), (std::vector<std::string>{"clsQLProject.GetTempIcon [70]"}));
 }

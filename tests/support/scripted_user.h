@@ -42,6 +42,15 @@ public:
                                return chosen.empty() ? 0 : 1;
                            }});
     }
+    /// An open dialog; `act` gives the file names, "" stands for Cancel.
+    void expectOpen(std::function<std::string(const fernwick::CommonDialog&)> act) {
+        script_.push_back({"open dialog", [act](void* given) {
+                               auto& dialog = *static_cast<fernwick::CommonDialog*>(given);
+                               const auto chosen = act(dialog);
+                               if (!chosen.empty()) dialog.FileName = chosen;
+                               return chosen.empty() ? 0 : 1;
+                           }});
+    }
     static void press(fernwick::Form& form, const std::string& button) {
         dynamic_cast<fernwick::CommandButton&>(form.control(button)).press();
     }
@@ -72,6 +81,10 @@ public:
     }
     void ShowSave(fernwick::CommonDialog& dialog) override {
         if (next("save dialog", &dialog) != 1)
+            throw basic::RuntimeError(fernwick::kCancelWasSelected, "Cancel was selected.");
+    }
+    void ShowOpen(fernwick::CommonDialog& dialog) override {
+        if (next("open dialog", &dialog) != 1 && dialog.CancelError)
             throw basic::RuntimeError(fernwick::kCancelWasSelected, "Cancel was selected.");
     }
     void MessageBeep(int) override { ++beeps; }

@@ -1,6 +1,7 @@
 #pragma once
 // Files in memory, with "/" for their separator. Each member that looks at one counts as a call and may fail.
 #include "Add-in/platform/files.h"
+#include "Basic/case_folding.h"
 #include "trace.h"
 #include <algorithm>
 #include <map>
@@ -19,6 +20,8 @@ public:
     std::map<std::string, File> files;
     /// How often a whole file was read.
     mutable int reads = 0;
+    /// How often a folder was listed, and the beginning of a file read.
+    mutable int listings = 0, headsRead = 0;
 
     /// A question that never fails.
     bool FileExists(const std::string& path) const override { return files.count(Canonical(path)) > 0; }
@@ -62,7 +65,15 @@ public:
     bool IsAbsolute(const std::string& path) const override { return Canonical(path).starts_with('/'); }
     std::string GetSpecialFolder(fernwick::SpecialFolder) const override { return "/tmp"; }
     std::string HomeFolder() const override { return "/home"; }
-    std::vector<std::string> Files(const std::string&) const override { return {}; }
+    std::vector<std::string> Files(const std::string& folder) const override {
+        trace_.read();
+        ++listings;
+        std::vector<std::string> names;
+        for (const auto& [path, file] : files)
+            if (GetParentFolderName(path) == Canonical(folder)) names.push_back(GetFileName(path));
+        std::stable_sort(names.begin(), names.end(), basic::NoCaseLess{});
+        return names;
+    }
 
     basic::Ref<fernwick::TextStream> OpenTextFile(const std::string& path) override {
         return basic::make<Lines>(at(path).bytes);
@@ -73,6 +84,10 @@ public:
     std::string ReadBytes(const std::string& path) const override {
         ++reads;
         return at(path).bytes;
+    }
+    std::string ReadHead(const std::string& path, std::size_t most) const override {
+        ++headsRead;
+        return at(path).bytes.substr(0, most);
     }
     void WriteBytes(const std::string& path, const std::string& bytes) override { files[Canonical(path)] = {bytes}; }
     void SetDateLastModified(const std::string& path, std::int64_t time) override {

@@ -19,6 +19,9 @@ public:
     /// Answers of boxes that ask something, in their order.
     std::deque<int> answers;
     std::map<std::string, std::function<void(fernwick::Form&)>> whenShown;
+    std::string chosen;
+    /// The last open dialog as it was shown.
+    fernwick::CommonDialog opened;
 
     void showModal(fernwick::Form& form) override {
         trace_.effect(std::string("form ") + form.typeName());
@@ -42,6 +45,12 @@ public:
         return answer;
     }
     void ShowSave(fernwick::CommonDialog&) override { trace_.effect("save dialog"); }
+    /// Chooses what `chosen` says; "" stands for Cancel.
+    void ShowOpen(fernwick::CommonDialog& dialog) override {
+        trace_.effect("open dialog");
+        opened = dialog;
+        if (!chosen.empty()) dialog.FileName = chosen;
+    }
     void MessageBeep(int type) override { trace_.effect("beep " + std::to_string(type)); }
     void SetCursor(fernwick::MousePointerShape shape) override { trace_.effect("cursor " + std::to_string(shape)); }
 
@@ -129,9 +138,18 @@ public:
         if (factory == factories_.end()) throw basic::RuntimeError(basic::kCantCreateObject);
         return factory->second();
     }
+    /// As if it had never been registered.
+    void forget(const std::string& progId) { factories_.erase(progId); }
     bool CLSIDFromString(const std::string&, std::string&) const override { return false; }
     std::string ProgIDFromCLSID(const std::string&) const override { return {}; }
-    basic::Ref<fernwick::TypeLibInfo> TypeLibInfoFromFile(const std::string&) const override { return nullptr; }
+    basic::Ref<fernwick::TypeLibInfo> TypeLibInfoFromFile(const std::string& path) const override {
+        trace_.read();
+        const auto library = libraries.find(path);
+        return library == libraries.end() ? nullptr : basic::make<fernwick::TypeLibInfo>(library->second);
+    }
+
+    /// Type libraries by their paths.
+    std::map<std::string, fernwick::TypeLibInfo> libraries;
 
 private:
     Trace& trace_;

@@ -2,10 +2,14 @@
 // The whole add-in, put together.
 #include "Add-in/build/frmCompile.h"
 #include "Add-in/build/frmCompileWarning.h"
+#include "Add-in/build/frmValidate.h"
+#include "Add-in/build/modDependencyManagement.h"
 #include "Add-in/build/udocCompileMsgs.h"
 #include "Add-in/core/connect/Connect.h"
 #include "Add-in/core/connect/HostCommands.h"
 #include "Add-in/core/modAddInErrorManagement.h"
+#include "Add-in/deploy/frmSendRuntimeToDevice.h"
+#include "Add-in/deploy/frmSendToDevice.h"
 #include "Add-in/project/frmSaveWarning.h"
 
 namespace fernwick {
@@ -42,8 +46,16 @@ struct Modules {
     // build
     modCompileErrorManagement messages{addIn, errors, platform};
     modProcessControl processes{errors, platform};
+    modDependencyManagement dependencies{{platform, errors, install, messages, commands}};
     frmCompileWarning compileWarning{platform.interaction, prefs, errors};
-    frmCompile compile{{platform, errors, registry, install, projects, messages, processes, saveFiles, commands}};
+    frmCompile compile{
+        {platform, errors, registry, install, projects, messages, dependencies, processes, saveFiles, commands}};
+    frmValidate validate{{platform, errors, registry, install, projectServices, deviceServices, messages, compile}};
+    // deploy
+    PipeServices pipeServices{platform, errors, install, devices};
+    frmSendToDevice sendToDevice{
+        pipeServices, {addIn, prefs, projects, messages, dependencies, compile, compileWarning, validate, commands}};
+    frmSendRuntimeToDevice sendRuntime{pipeServices};
     // lifecycle
     frmProjectRemoval removal{platform.interaction, platform.loop, addIn, projects, commands, errors};
     frmDesignTargetNormal chooseTarget{deviceServices};

@@ -1,0 +1,152 @@
+// The fonts that a project's forms need.
+#include "Add-in/build/build_texts.h"
+#include "Add-in/build/font_folder.h"
+#include "Add-in/build/message_numbers.h"
+#include "Add-in/build/modDependencyManagement.h"
+#include <array>
+#include <fmt/format.h>
+#include <set>
+#include <unordered_set>
+
+namespace fernwick {
+
+namespace {
+
+/// The controls that draw text.
+constexpr std::array<std::string_view, 8> kClassesWithFont = {"QLButton", "QLCheckBox", "QLComboBox",    "QLGrid",
+                                                              "QLLabel",  "QLListBox",  "QLRadioButton", "QLTextBox"};
+
+constexpr char kPalmDevice[] = "PalmOS-DragonBall";
+
+bool hasFont(const std::string& className) {
+    return std::find(kClassesWithFont.begin(), kClassesWithFont.end(), className) != kClassesWithFont.end();
+}
+
+FontFace fontOf(const basic::Ref<vbide::VBControl>& control) {
+    const auto properties = control->Properties();
+    FontFace font;
+    font.name = asText(properties->Item("FontName")->Value());
+    font.style = asLong(properties->Item("FontStyle")->Value());
+    font.size = asLong(properties->Item("FontSize")->Value());
+    return font;
+}
+
+std::string missingFontKey(const FontFace& font) { return fmt::format("{}:{}:{}", font.size, font.style, font.name); }
+
+} // namespace
+
+/// One scan: what it is about, what it found, and what it needn't look for again.
+struct modDependencyManagement::FontScan {
+    QLProject qlProject;
+    std::vector<std::string> fonts;
+    std::unordered_set<std::string> listed;
+    std::set<FontFace> seen;
+    std::optional<FontFolder> installed, beside;
+
+    void add(const std::string& entry) {
+        if (listed.insert(entry).second) fonts.push_back(entry);
+    }
+};
+
+std::vector<std::string> modDependencyManagement::ScanProjectForFontDependencies(const QLProject& qlProject,
+                                                                                 ProgressBar* bar, Label* status) {
+    using namespace fmt::literals;
+    Procedure here{use_.errors, "modDependencyManagement.ScanProjectForFontDependencies"};
+    FontScan scan{qlProject, {}, {}, {}, {}, {}};
+    const auto project = here.value([&] { return qlProject->VBProject(); });
+    if (!canBeScanned(here, project)) return {};
+    const auto components = here.value([&] { return project->VBComponents()->items(); });
+    if (bar) bar->start(components.size());
+    knownMissingFonts_.clear();
+    for (const auto& component : components) {
+        if (status)
+            here([&] {
+                status->Caption(fmt::format(build_texts::kScanningComponent, "component"_a = component->Name()));
+            });
+        if (here.test([&] { return component->Type() == vbide::vbext_ct_VBForm; }))
+            ScanFormforDependencies(component, scan);
+        if (bar) bar->Value(bar->Value() + 1);
+    }
+    if (status) status->Caption(build_texts::kScanFinished);
+    return scan.fonts;
+}
+
+/// Otherwise the user is told why.
+bool modDependencyManagement::canBeScanned(Procedure& here, const Project& project) {
+    if (here.test([&] { return project->FileName().empty(); })) {
+        box(here, build_texts::kSaveBeforeScan, vbExclamation);
+        here([&] { use_.commands.saveProjectItem()->Execute(); });
+        return false;
+    }
+    if (here.test([&] { return project->VBComponents()->Count() == 0; })) {
+        box(here, build_texts::kEmptyProject, vbExclamation);
+        return false;
+    }
+    return true;
+}
+
+void modDependencyManagement::ScanFormforDependencies(const basic::Ref<vbide::VBComponent>& form, FontScan& scan) {
+    Procedure here{use_.errors, "modDependencyManagement.ScanFormforDependencies"};
+    for (const auto& control : here.value([&] { return form->Designer()->VBControls()->items(); })) {
+        if (!here.test([&] { return hasFont(control->ClassName()); })) continue;
+        FontFace font;
+        if (here([&] { font = fontOf(control); })) AddFonttoDependencyList(form, scan, font);
+    }
+}
+
+/// A font that this scan has met before is listed already, or its lack is told.
+void modDependencyManagement::AddFonttoDependencyList(const basic::Ref<vbide::VBComponent>& form, FontScan& scan,
+                                                      const FontFace& font) {
+    Procedure here{use_.errors, "modDependencyManagement.AddFonttoDependencyList"};
+    if (!scan.seen.insert(font).second) return;
+    const auto path = findFont(here, scan, font);
+    if (!path.empty()) return scan.add(fontEntry(scan, path));
+    if (FontAlreadyWarned(font)) return;
+    warnOfMissingFont(here, form, scan, font);
+    use_.messages.ShowProjectCompileErrors(scan.qlProject->VBProject(), true);
+    AddFontToKnownMissingList(font);
+}
+
+/// The file that the Font Converter would write comes first, then any of the fonts folder, then any beside the
+/// project.
+std::string modDependencyManagement::findFont(Procedure& here, FontScan& scan, const FontFace& font) {
+    const auto& files = use_.platform.files;
+    const auto candidate = inFontsFolder(GetFontFileName(font));
+    if (!candidate.empty() && FontFileMatches(files, candidate, font)) return candidate;
+    const auto look = [&](std::optional<FontFolder>& folder, const std::string& path) {
+        if (!folder) folder = here.value([&] { return FontFolder(files, path); });
+        return folder->find(font);
+    };
+    const auto installed = look(scan.installed, use_.install.GetQuinloftFontsDir());
+    return installed.empty() ? look(scan.beside, scan.qlProject->ProjectPath()) : installed;
+}
+
+/// A name that the fonts folder has too is taken for one of its own.
+std::string modDependencyManagement::fontEntry(const FontScan& scan, const std::string& path) {
+    const auto name = use_.platform.files.GetFileName(path);
+    return inFontsFolder(name).empty() ? CreateRelativePath(scan.qlProject->ProjectPath(), path) : name;
+}
+
+void modDependencyManagement::warnOfMissingFont(Procedure& here, const basic::Ref<vbide::VBComponent>& form,
+                                                const FontScan& scan, const FontFace& font) {
+    using namespace fmt::literals;
+    const bool onPalm = scan.qlProject->TargetDevice() == kPalmDevice;
+    const char* const remedy = onPalm ? build_texts::kFontMissingOnPalm : build_texts::kFontMissingElsewhere;
+    here([&] {
+        const auto what = fmt::format(build_texts::kFontMissing, "font"_a = font.name, "size"_a = font.size,
+                                      "style"_a = font.style, "component"_a = form->Name());
+        use_.messages.AddProjectCompileWarning(scan.qlProject->VBProject(), what + remedy, form->FileNames(1), 0,
+                                               message_numbers::kFontMissing);
+    });
+}
+
+bool modDependencyManagement::FontAlreadyWarned(const FontFace& font) const {
+    return knownMissingFonts_.contains(missingFontKey(font));
+}
+
+void modDependencyManagement::AddFontToKnownMissingList(const FontFace& font) {
+    const auto key = missingFontKey(font);
+    knownMissingFonts_.Add(key, key);
+}
+
+} // namespace fernwick

@@ -1,0 +1,90 @@
+// Files that the user adds to a project's dependencies.
+#include "Add-in/build/build_texts.h"
+#include "Add-in/build/modDependencyManagement.h"
+#include "Add-in/core/modFileManagement.h"
+#include "Basic/text.h"
+#include "Basic/text_search.h"
+#include <fmt/format.h>
+
+namespace fernwick {
+
+namespace {
+
+/// Room for many names: the dialog gives up where they don't fit.
+constexpr int kMostFileNameBytes = 32767;
+constexpr int kDependencyDialogFlags =
+    cdlOFNExplorer | cdlOFNAllowMultiselect | cdlOFNPathMustExist | cdlOFNFileMustExist | cdlOFNHideReadOnly;
+
+/// Several names come as their folder and the names in it.
+std::vector<std::string> chosenPaths(const FileSystemObject& files, const std::string& fileName) {
+    auto names = basic::Split(fileName, std::string(1, '\0'));
+    if (names.size() < 2) return names;
+    std::vector<std::string> paths;
+    for (auto name = names.begin() + 1; name != names.end(); ++name)
+        paths.push_back(files.BuildPath(names.front(), *name));
+    return paths;
+}
+
+} // namespace
+
+tResourceList modDependencyManagement::GetNewDependency(const Project& project) {
+    Procedure here{use_.errors, "modDependencyManagement.GetNewDependency"};
+    const auto& files = use_.platform.files;
+    CommonDialog dialog;
+    here([&] { dialog.InitDir = projectFolder(project); });
+    dialog.DialogTitle = build_texts::kSelectDependency;
+    dialog.Flags = kDependencyDialogFlags;
+    dialog.Filter = build_texts::kDependencyKinds;
+    dialog.FilterIndex = 1;
+    dialog.MaxFileSize = kMostFileNameBytes;
+    tResourceList chosen;
+    if (!here([&] { use_.platform.interaction.ShowOpen(dialog); })) return chosen;
+    for (const auto& path : chosenPaths(files, dialog.FileName)) {
+        if (!here.test([&] { return files.FileExists(path); })) continue;
+        const auto entry = CreateNewDependency(project, path, true);
+        if (!ResourceinDependencyList(entry.FileName, chosen)) AddDependency(entry, chosen);
+    }
+    return chosen;
+}
+
+tResource modDependencyManagement::CreateNewDependency(const Project& project, const std::string& path,
+                                                       bool allowCopy) {
+    Procedure here{use_.errors, "modDependencyManagement.CreateNewDependency"};
+    const auto& files = use_.platform.files;
+    const auto folder = here.value([&] { return projectFolder(project); });
+    const auto absolute = here.value([&] { return files.GetAbsolutePathName(path); });
+    tResource entry;
+    entry.FileName = CreateRelativePath(folder, absolute);
+    if (entry.FileName.empty()) {
+        if (!copyToProject(here, absolute, folder, allowCopy)) return {};
+        entry.FileName = files.GetFileName(absolute);
+    }
+    here([&] { entry.FileSize = fileSize(absolute); });
+    entry.FileType = basic::UCase(files.GetExtensionName(absolute));
+    return entry;
+}
+
+/// False when the user refuses. A copy that fails is reported like any other step.
+bool modDependencyManagement::copyToProject(Procedure& here, const std::string& path, const std::string& folder,
+                                            bool allowCopy) {
+    using namespace fmt::literals;
+    auto& files = use_.platform.files;
+    const auto question = fmt::format(build_texts::kCopyDependency, "file"_a = path, "folder"_a = folder);
+    if (allowCopy && box(here, question, vbQuestion + vbYesNo) != vbYes) {
+        box(here, build_texts::kNotCopied, vbExclamation);
+        return false;
+    }
+    here([&] { files.CopyFile(path, files.BuildPath(folder, files.GetFileName(path)), true); });
+    return true;
+}
+
+std::string modDependencyManagement::CreateRelativePath(const std::string& baseFolder, const std::string& path) {
+    Procedure here{use_.errors, "modDependencyManagement.CreateRelativePath"};
+    return here.value([&] { return PathBelow(use_.platform.files, baseFolder, path); });
+}
+
+int modDependencyManagement::box(Procedure& here, const std::string& text, int buttons) {
+    return here.value([&] { return use_.platform.interaction.MsgBox(text, buttons, build_texts::kTitle); });
+}
+
+} // namespace fernwick

@@ -1,0 +1,34 @@
+#pragma once
+// Files that a project depends on, as a list.
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace fernwick {
+
+/// One dependency file.
+struct tResource {
+    /// Relative to the project's folder, or the bare name of a font in the fonts folder.
+    std::string FileName{};
+    /// The extension in upper case ("CMF").
+    std::string FileType{};
+    /// Bytes when it was read or added; 0 when that is not known.
+    std::int32_t FileSize = 0;
+    /// "???" until a page of the settings fills it.
+    std::string Description = "???";
+    friend bool operator==(const tResource&, const tResource&) = default;
+};
+
+/// The FileType of converted fonts, which the fonts folder may hold for all projects.
+inline constexpr char kFontType[] = "CMF";
+
+/// A counted array of them, indexed from 0.
+struct tResourceList {
+    std::vector<tResource> entries;
+
+    std::int32_t Count() const { return std::int32_t(entries.size()); }
+    auto begin() const { return entries.begin(); }
+    auto end() const { return entries.end(); }
+};
+
+} // namespace fernwick

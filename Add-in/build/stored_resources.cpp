@@ -1,0 +1,103 @@
+// The list of dependency files as it lies in the project.
+#include "Add-in/build/modDependencyManagement.h"
+#include "Add-in/core/preference_keys.h"
+#include "Basic/conversions.h"
+#include "Basic/text.h"
+#include "Basic/text_search.h"
+#include <fmt/format.h>
+
+namespace fernwick {
+
+namespace {
+
+constexpr char kProjectDependencies[] = "Quinloft Project Dependencies";
+constexpr char kNumDependencies[] = "NumDependencies";
+
+std::string dependencyKey(std::int32_t index) { return fmt::format("Dependencies{}", index); }
+
+/// Nothing when it can't be read. A damaged count counts as 0.
+std::optional<std::int32_t> storedDependencies(const basic::Ref<vbide::VBProject>& project) {
+    std::optional<std::int32_t> count;
+    (void)basic::attempt([&] { count = basic::CLng(project->ReadProperty(kProjectDependencies, kNumDependencies)); });
+    if (count && *count > kMostStoredEntries) count = 0;
+    return count;
+}
+
+} // namespace
+
+tResourceList modDependencyManagement::ReadProjectDependencies(const Project& project) {
+    tResourceList list;
+    const auto count = storedDependencies(project).value_or(0);
+    for (std::int32_t index = 0; index < count; ++index) list.entries.push_back(readDependency(project, index));
+    return list;
+}
+
+tResource modDependencyManagement::readDependency(const Project& project, std::int32_t index) {
+    tResource entry;
+    basic::Suppressed quietly;
+    std::vector<std::string> fields;
+    quietly([&] { fields = basic::Split(project->ReadProperty(kProjectDependencies, dependencyKey(index)), ",", 2); });
+    if (!fields.empty()) entry.FileName = fields[0];
+    if (fields.size() > 1) entry.FileType = basic::UCase(fields[1]);
+    if (!entry.FileName.empty()) quietly([&] { entry.FileSize = fileSize(placeOf(projectFolder(project), entry)); });
+    return entry;
+}
+
+void modDependencyManagement::ClearProjectDependencies(const Project& project) {
+    Procedure here{use_.errors, "modDependencyManagement.ClearProjectDependencies"};
+    const auto count = storedDependencies(project);
+    if (!count) return;
+    for (std::int32_t index = 0; index < *count; ++index) {
+        const auto isThere = [&] { (void)project->ReadProperty(kProjectDependencies, dependencyKey(index)); };
+        if (basic::attempt(isThere).Number == 0)
+            here([&] { project->WriteProperty(kProjectDependencies, dependencyKey(index), ""); });
+    }
+    here([&] { project->WriteProperty(kProjectDependencies, kNumDependencies, "0"); });
+}
+
+void modDependencyManagement::WriteProjectDependencies(const Project& project, const tResourceList& list) {
+    Procedure here{use_.errors, "modDependencyManagement.WriteProjectDependencies"};
+    ClearProjectDependencies(project);
+    here([&] { project->WriteProperty(kProjectDependencies, kNumDependencies, basic::CStr(list.Count())); });
+    std::int32_t index = 0;
+    for (const auto& entry : list) {
+        const auto value = entry.FileName + "," + entry.FileType;
+        here([&] { project->WriteProperty(kProjectDependencies, dependencyKey(index), value); });
+        ++index;
+    }
+}
+
+bool modDependencyManagement::ValidateDependencyList(const Project& project, const tResourceList& list) {
+    Procedure here{use_.errors, "modDependencyManagement.ValidateDependencyList"};
+    const auto folder = here.value([&] { return projectFolder(project); });
+    for (const auto& entry : list)
+        if (here.test([&] { return !use_.platform.files.FileExists(placeOf(folder, entry)); })) return false;
+    return true;
+}
+
+/// Where an entry's file is to be found, there or not: fonts count in the fonts folder first.
+std::string modDependencyManagement::placeOf(const std::string& folder, const tResource& entry) const {
+    const auto& files = use_.platform.files;
+    const auto installed = entry.FileType == kFontType ? inFontsFolder(entry.FileName) : std::string{};
+    return installed.empty() ? files.BuildPath(folder, entry.FileName) : installed;
+}
+
+/// Path of the fonts folder's file of this name; "" for none.
+std::string modDependencyManagement::inFontsFolder(const std::string& name) const {
+    const auto& files = use_.platform.files;
+    const auto folder = use_.install.GetQuinloftFontsDir();
+    if (folder.empty() || name.empty()) return {};
+    const auto path = files.BuildPath(folder, name);
+    return files.FileExists(path) ? files.Canonical(path) : std::string{};
+}
+
+std::string modDependencyManagement::projectFolder(const Project& project) const {
+    return use_.platform.files.GetParentFolderName(project->FileName());
+}
+
+/// Error 6 for a file that a 32-bit size can't tell.
+std::int32_t modDependencyManagement::fileSize(const std::string& path) const {
+    return basic::CLng(use_.platform.files.GetSize(path));
+}
+
+} // namespace fernwick
