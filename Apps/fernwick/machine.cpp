@@ -1,64 +1,16 @@
 #include "Apps/fernwick/machine.h"
-#include "Apps/fernwick/installation.h"
 #include "Apps/fernwick/interruption.h"
-#include "Apps/fernwick/maker.h"
-#include "Components/DesignTargetAccess/design_target_mgr.h"
-#include "Components/QLPipe/pipe_family.h"
 #include <chrono>
 #include <thread>
 
 namespace cli {
 
-namespace {
-
-/// "RootDir" of the machine store, "" where it isn't there.
-std::string storedRootDir(const fernwick::Environment& environment) {
-    host::RegistryStore store{host::usualRegistryPlaces(environment, {})};
-    std::uint32_t key = 0, type = 0, length = 0;
-    if (store.RegOpenKeyEx(fernwick::HKEY_LOCAL_MACHINE, "Software\\Quinloft", fernwick::KEY_QUERY_VALUE, key) != 0)
-        return {};
-    std::string data;
-    store.RegQueryValueEx(key, "RootDir", type, data, length);
-    data.resize(length);
-    if (store.RegQueryValueEx(key, "RootDir", type, data, length) != 0) data.clear();
-    store.RegCloseKey(key);
-    while (!data.empty() && data.back() == '\0') data.pop_back();
-    return data;
-}
-
-} // namespace
-
-std::string findInstallation(const fernwick::Environment& environment) {
-    const auto beside = installationBeside(programFolder());
-    return beside.empty() ? storedRootDir(environment) : beside;
-}
-
 Machine::Machine(Console& console, CommandLineUser& user, host::Processes::Permission mayRun)
-    : installation_(findInstallation(environment_)),
-      registry_(host::usualRegistryPlaces(environment_, installation_)),
-      classes_(registry_),
-      processes_(std::move(mayRun), wasInterrupted),
-      shell_(files_, [&console](const std::string& document) { console.err(document); }),
-      platform_{user,         loop_,      registry_, files_,  processes_, classes_,
-                environment_, clipboard_, shell_,    screen_, clock_,     appOf(installation_, programFolder())} {
-    registerComponents();
-}
-
-void Machine::registerComponents() {
-    const auto add = [this](const std::string& progId, fernwick::Classes::Factory make) {
-        registered_.push_back(classes_.RegisterClass(progId, std::move(make)));
-    };
-    add("DesignTargetAccess.QLDesignTargetMgr",
-        [this] { return basic::make<designtargetaccess::DesignTargetMgr>(installation_); });
-    add("QLToolkit.CompilerFactory", [this] {
-        return basic::make<compiler::ProjectCompilerFactory>(compiler::CompilerServices{files_, classes_, build_});
-    });
-    add("Scripting.FileSystemObject", [] { return basic::make<host::FileSystem>(); });
-    qlpipe::registerPipes(pipeServices(), add);
-}
+    : apps::Machine({user, loop, clipboard, std::move(mayRun), wasInterrupted,
+                     [&console](const std::string& document) { console.err(document); }}) {}
 
 void Machine::drain() {
-    loop_.drain([](std::int64_t nanoseconds) { std::this_thread::sleep_for(std::chrono::nanoseconds(nanoseconds)); });
+    loop.drain([](std::int64_t nanoseconds) { std::this_thread::sleep_for(std::chrono::nanoseconds(nanoseconds)); });
 }
 
 } // namespace cli

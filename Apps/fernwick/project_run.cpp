@@ -1,5 +1,6 @@
 #include "Apps/fernwick/project_run.h"
 #include "Add-in/build/build_texts.h"
+#include "Apps/common/compile_steps.h"
 #include "Apps/fernwick/exit_status.h"
 #include "Apps/fernwick/project_argument.h"
 #include "Host/files/atomic_save.h"
@@ -39,17 +40,6 @@ void stampImage(Session& session, const std::string& image) {
 
 } // namespace
 
-std::vector<std::string> allSteps(const fernwick::clsQLProject& project) {
-    std::vector<std::string> steps;
-    for (const auto read :
-         {&fernwick::clsQLProject::GetPreCompileSteps, &fernwick::clsQLProject::GetPostCompileSteps}) {
-        fernwick::Array<std::string> list;
-        (project.*read)(list);
-        steps.insert(steps.end(), list.begin(), list.end());
-    }
-    return steps;
-}
-
 void openProject(Session& session, const Options& options) {
     session.open(projectArgument(options.project));
     session.requireFernwickProject();
@@ -58,7 +48,7 @@ void openProject(Session& session, const Options& options) {
 
 void beginWork(Session& session, const Options& options) {
     session.takeUp();
-    session.trust().prepare(session.machine().registry(), allSteps(*session.settings().shared()));
+    session.trust().prepare(session.machine().registry(), apps::allSteps(*session.settings().shared()));
     session.forget();
     session.connect();
     requireDevice(session, options.device);

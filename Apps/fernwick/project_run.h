@@ -6,9 +6,6 @@
 
 namespace cli {
 
-/// The project's compile steps, those before the compile first.
-std::vector<std::string> allSteps(const fernwick::clsQLProject& project);
-
 /// Opens the project of the command line. Refusal 1 for one that is no usable Fernwick project.
 void openProject(Session& session, const Options& options);
 

@@ -1,7 +1,7 @@
 #include "Apps/fernwick/sarif_rules.h"
+#include "Apps/common/machine.h"
+#include "Apps/common/maker.h"
 #include "Apps/fernwick/catalogue.h"
-#include "Apps/fernwick/machine.h"
-#include "Apps/fernwick/maker.h"
 #include <fmt/format.h>
 
 namespace cli {
@@ -23,7 +23,7 @@ Json ruleOf(const fernwick::MessageInfo& message, const std::string& pages) {
 Json sarifRules(const std::set<int>& numbers) {
     Json rules = Json::array();
     if (numbers.empty()) return rules;
-    const auto pages = messagePagesOf(findInstallation(host::Environment{}));
+    const auto pages = apps::messagePagesOf(apps::findInstallation(host::Environment{}));
     for (const auto number : numbers)
         if (const auto* known = messageNumbered(number)) rules.push_back(ruleOf(*known, pages));
     return rules;

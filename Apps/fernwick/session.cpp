@@ -9,11 +9,6 @@
 
 namespace cli {
 
-namespace {
-constexpr const char* kProgId = "QLVBAddIn.Connect";
-
-} // namespace
-
 int statusOfOpening(int number) {
     switch (number) {
     case basic::kFileNotFound:
@@ -48,18 +43,13 @@ Session::Session(const Options& options, Console& console)
         console.err("fernwick: no installation was found beside the program or through RootDir; design targets and "
                     "controls are missing",
                     Tone::Warning);
-    host::HostOptions hostOptions;
-    hostOptions.templatePath = machine_.installation().empty() ? "" : machine_.installation() + "/Template";
-    hostOptions.registry = &machine_.registry();
-    hostOptions.classes = &machine_.classes();
-    hostOptions.controlClasses = [this](const std::string& name) { return controls_.find(name); };
-    hostOptions.classOfProgId = [this](const std::string& progId) { return controls_.classOfProgId(progId); };
+    auto hostOptions = apps::hostOptionsOf(machine_, controls_);
     hostOptions.handlerFailed = [&console](const basic::ErrObject& error) {
         console.err(fmt::format("fernwick: {} (error {})", error.Description, error.Number), Tone::Warning);
     };
     host_ = host::Host::create(std::move(hostOptions));
     // weak, for the add-in keeps the host from its connection on
-    host_->listAddIn(kProgId, "Fernwick",
+    host_->listAddIn(apps::kAddInProgId, apps::kAddInName,
                      [modules = std::weak_ptr(modules_)] { return fernwick::asAddIn(modules.lock()); });
 }
 
@@ -134,7 +124,7 @@ void Session::forget() {
 }
 
 void Session::connect() {
-    host_->connectAddIn(kProgId, vbide::vbext_cm_CommandLine);
+    host_->connectAddIn(apps::kAddInProgId, vbide::vbext_cm_CommandLine);
     host_->startupComplete();
     machine_.drain();
     if (isOpen()) settings_ = modules_->projects.GetQLProject(project_);

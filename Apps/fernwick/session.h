@@ -1,7 +1,7 @@
 #pragma once
 // One open project at the command line: the host, the add-in, and how both end.
 #include "Add-in/core/connect/Modules.h"
-#include "Apps/fernwick/installed_controls.h"
+#include "Apps/common/host_options.h"
 #include "Apps/fernwick/machine.h"
 #include "Apps/fernwick/options.h"
 #include "Apps/fernwick/refusal.h"
@@ -62,7 +62,7 @@ private:
     CommandLineUser user_;
     StepsTrust trust_;
     Machine machine_;
-    InstalledControls controls_;
+    apps::InstalledControls controls_;
     std::shared_ptr<fernwick::Modules> modules_;
     std::shared_ptr<host::Host> host_;
     std::string path_;

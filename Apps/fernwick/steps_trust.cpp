@@ -5,12 +5,8 @@
 
 namespace cli {
 
-namespace {
-constexpr const char* kTrustedFolders = "SOFTWARE\\Quinloft\\Fernwick\\TrustedFolders";
-} // namespace
-
 void StepsTrust::prepare(fernwick::Registry& registry, std::vector<std::string> steps) {
-    registry_ = &registry;
+    folders_.emplace(registry);
     steps_ = std::move(steps);
 }
 
@@ -26,7 +22,7 @@ bool StepsTrust::mayRun(const std::string& commandLine, const std::string& folde
 
 bool StepsTrust::decide(const std::string& folder) {
     if (options_.noSteps) return false;
-    if (options_.trustSteps || isTrusted(folder)) return true;
+    if (options_.trustSteps || (folders_ && folders_->holds(folder))) return true;
     if (console_.canAsk()) return askUser(folder);
     console_.err(fmt::format("The project in {} runs compile steps, and its folder is not trusted yet: allow them with "
                              "--trust-steps, or answer at a terminal.",
@@ -40,29 +36,8 @@ bool StepsTrust::askUser(const std::string& folder) {
     for (const auto& step : steps_) console_.err("  " + step);
     if (!basic::equalNoCase(console_.ask("Trust this folder and run them? [yes/no, Return for No] "), "yes"))
         return false;
-    remember(folder);
+    if (folders_) folders_->add(folder);
     return true;
-}
-
-bool StepsTrust::isTrusted(const std::string& folder) const {
-    if (!registry_) return false;
-    std::uint32_t key = 0, type = 0, length = 0;
-    if (registry_->RegOpenKeyEx(fernwick::HKEY_CURRENT_USER, kTrustedFolders, fernwick::KEY_QUERY_VALUE, key) != 0)
-        return false;
-    std::string none;
-    const auto status = registry_->RegQueryValueEx(key, folder, type, none, length);
-    registry_->RegCloseKey(key);
-    return status == fernwick::ERROR_SUCCESS || status == fernwick::ERROR_MORE_DATA;
-}
-
-void StepsTrust::remember(const std::string& folder) {
-    std::uint32_t key = 0, disposition = 0;
-    if (registry_->RegCreateKeyEx(fernwick::HKEY_CURRENT_USER, kTrustedFolders, fernwick::KEY_ALL_ACCESS, key,
-                                  disposition) != 0)
-        return;
-    const std::string yes{1, 0, 0, 0};
-    registry_->RegSetValueEx(key, folder, fernwick::REG_DWORD, yes);
-    registry_->RegCloseKey(key);
 }
 
 } // namespace cli

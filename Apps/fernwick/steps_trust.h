@@ -1,6 +1,6 @@
 #pragma once
 // Whether a project's compile steps may run.
-#include "Add-in/platform/registry.h"
+#include "Apps/common/trusted_folders.h"
 #include "Apps/fernwick/console.h"
 #include "Apps/fernwick/options.h"
 #include <optional>
@@ -24,12 +24,10 @@ public:
 private:
     bool decide(const std::string& folder);
     bool askUser(const std::string& folder);
-    bool isTrusted(const std::string& folder) const;
-    void remember(const std::string& folder);
 
     const Options& options_;
     Console& console_;
-    fernwick::Registry* registry_ = nullptr;
+    std::optional<apps::TrustedFolders> folders_;
     std::vector<std::string> steps_;
     std::optional<bool> decided_;
 };

@@ -1,7 +1,7 @@
 // The tree that the installation laid down, and the values that it brought.
 #include "Add-in/core/modQLInstallInfo.h"
+#include "Apps/common/maker.h"
 #include "Apps/fernwick/doctor/findings.h"
-#include "Apps/fernwick/maker.h"
 #include <fmt/format.h>
 
 namespace cli {
@@ -70,7 +70,7 @@ void examineInstalledValues(Machine& machine, Findings& to) {
 }
 
 void examineMaker(const std::string& root, Findings& to) {
-    const auto problem = makerProblem(root);
+    const auto problem = apps::makerProblem(root);
     if (!problem.empty()) to.push_back(troubleFinding("maker.toml", problem, installAgain("maker.toml")));
 }
 

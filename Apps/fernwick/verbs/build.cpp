@@ -1,5 +1,6 @@
 #include "Add-in/build/build_texts.h"
 #include "Add-in/build/message_numbers.h"
+#include "Apps/common/compile_steps.h"
 #include "Apps/fernwick/depfile.h"
 #include "Apps/fernwick/exit_status.h"
 #include "Apps/fernwick/project_run.h"
@@ -43,7 +44,8 @@ int dryRun(Session& session, Console& console) {
         console.out(fmt::format("source   {}\n", files.GetAbsolutePathName(component->FileNames(1))));
     for (const auto& reference : session.project()->References()->items())
         if (!reference->BuiltIn()) console.out(fmt::format("library  {}\n", reference->FullPath()));
-    for (const auto& step : allSteps(*session.settings().shared())) console.out(fmt::format("step     {}\n", step));
+    for (const auto& step : apps::allSteps(*session.settings().shared()))
+        console.out(fmt::format("step     {}\n", step));
     console.out(fmt::format("image    {}\n", imagePathOf(session)));
     session.closeUnsaved();
     return kGood;

@@ -1,5 +1,5 @@
+#include "Apps/common/installation.h"
 #include "Apps/fernwick/exit_status.h"
-#include "Apps/fernwick/installation.h"
 #include "Apps/fernwick/json_output.h"
 #include "Apps/fernwick/refusal.h"
 #include "Apps/fernwick/verbs/verbs.h"
@@ -22,7 +22,7 @@ constexpr std::string_view kRegHeader = "Windows Registry Editor Version 5.00\r\
 
 host::RegistryStore openStore() {
     const host::Environment environment;
-    return host::RegistryStore{host::usualRegistryPlaces(environment, installationBeside(programFolder()))};
+    return host::RegistryStore{host::usualRegistryPlaces(environment, apps::installationBeside(apps::programFolder()))};
 }
 
 /// Lines with the line ends of a terminal.

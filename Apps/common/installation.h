@@ -1,7 +1,7 @@
 #pragma once
 #include <string>
 
-namespace cli {
+namespace apps {
 
 /// The folder of this program, "" where the system doesn't tell.
 std::string programFolder();
@@ -10,4 +10,4 @@ std::string programFolder();
 /// above it (a build folder), or `share/fernwick` beside its `bin`. "" when there is none.
 std::string installationBeside(const std::string& programFolder);
 
-} // namespace cli
+} // namespace apps

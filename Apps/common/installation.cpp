@@ -1,7 +1,7 @@
-#include "Apps/fernwick/installation.h"
+#include "Apps/common/installation.h"
 #include <filesystem>
 
-namespace cli {
+namespace apps {
 
 namespace fs = std::filesystem;
 
@@ -32,4 +32,4 @@ std::string installationBeside(const std::string& programFolder) {
     }
 }
 
-} // namespace cli
+} // namespace apps

@@ -1,8 +1,8 @@
-#include "Apps/fernwick/installed_controls.h"
+#include "Apps/common/installed_controls.h"
 #include "Basic/runtime_error.h"
 #include <filesystem>
 
-namespace cli {
+namespace apps {
 
 const host::DescribedClasses& InstalledControls::described() {
     if (described_) return *described_;
@@ -16,4 +16,4 @@ const host::DescribedClasses& InstalledControls::described() {
     return *described_;
 }
 
-} // namespace cli
+} // namespace apps

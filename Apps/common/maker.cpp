@@ -1,8 +1,8 @@
-#include "Apps/fernwick/maker.h"
+#include "Apps/common/maker.h"
 #include <fmt/format.h>
 #include <toml++/toml.h>
 
-namespace cli {
+namespace apps {
 
 namespace {
 
@@ -37,4 +37,4 @@ std::string makerProblem(const std::string& installation) {
     }
 }
 
-} // namespace cli
+} // namespace apps

@@ -2,7 +2,7 @@
 #include "Add-in/platform/platform.h"
 #include <string>
 
-namespace cli {
+namespace apps {
 
 /// The App object with the maker's addresses from `installation`/maker.toml; without that file they are empty.
 fernwick::App appOf(const std::string& installation, const std::string& programFolder);
@@ -13,4 +13,4 @@ std::string messagePagesOf(const std::string& installation);
 /// What is wrong with that file, with its line; "" for nothing.
 std::string makerProblem(const std::string& installation);
 
-} // namespace cli
+} // namespace apps

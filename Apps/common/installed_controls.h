@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-namespace cli {
+namespace apps {
 
 /// Reads the descriptions when the first control is asked for.
 class InstalledControls {
@@ -22,4 +22,4 @@ private:
     std::optional<host::DescribedClasses> described_;
 };
 
-} // namespace cli
+} // namespace apps

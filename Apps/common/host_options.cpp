@@ -1,0 +1,15 @@
+#include "Apps/common/host_options.h"
+
+namespace apps {
+
+host::HostOptions hostOptionsOf(Machine& machine, InstalledControls& controls) {
+    host::HostOptions options;
+    options.templatePath = machine.installation().empty() ? "" : machine.installation() + "/Template";
+    options.registry = &machine.registry();
+    options.classes = &machine.classes();
+    options.controlClasses = [&controls](const std::string& name) { return controls.find(name); };
+    options.classOfProgId = [&controls](const std::string& progId) { return controls.classOfProgId(progId); };
+    return options;
+}
+
+} // namespace apps

@@ -1,0 +1,57 @@
+#include "Apps/common/machine.h"
+#include "Apps/common/installation.h"
+#include "Apps/common/maker.h"
+#include "Components/DesignTargetAccess/design_target_mgr.h"
+#include "Components/QLPipe/pipe_family.h"
+
+namespace apps {
+
+namespace {
+
+/// "RootDir" of the machine store, "" where it isn't there.
+std::string storedRootDir(const fernwick::Environment& environment) {
+    host::RegistryStore store{host::usualRegistryPlaces(environment, {})};
+    std::uint32_t key = 0, type = 0, length = 0;
+    if (store.RegOpenKeyEx(fernwick::HKEY_LOCAL_MACHINE, "Software\\Quinloft", fernwick::KEY_QUERY_VALUE, key) != 0)
+        return {};
+    std::string data;
+    store.RegQueryValueEx(key, "RootDir", type, data, length);
+    data.resize(length);
+    if (store.RegQueryValueEx(key, "RootDir", type, data, length) != 0) data.clear();
+    store.RegCloseKey(key);
+    while (!data.empty() && data.back() == '\0') data.pop_back();
+    return data;
+}
+
+} // namespace
+
+std::string findInstallation(const fernwick::Environment& environment) {
+    const auto beside = installationBeside(programFolder());
+    return beside.empty() ? storedRootDir(environment) : beside;
+}
+
+Machine::Machine(FrontEnd front)
+    : installation_(findInstallation(environment_)),
+      registry_(host::usualRegistryPlaces(environment_, installation_)),
+      classes_(registry_),
+      processes_(std::move(front.mayRun), std::move(front.interrupted)),
+      shell_(files_, std::move(front.tell)),
+      platform_{front.user,   front.loop,      registry_, files_,  processes_, classes_,
+                environment_, front.clipboard, shell_,    screen_, clock_,     appOf(installation_, programFolder())} {
+    registerComponents();
+}
+
+void Machine::registerComponents() {
+    const auto add = [this](const std::string& progId, fernwick::Classes::Factory make) {
+        registered_.push_back(classes_.RegisterClass(progId, std::move(make)));
+    };
+    add("DesignTargetAccess.QLDesignTargetMgr",
+        [this] { return basic::make<designtargetaccess::DesignTargetMgr>(installation_); });
+    add("QLToolkit.CompilerFactory", [this] {
+        return basic::make<compiler::ProjectCompilerFactory>(compiler::CompilerServices{files_, classes_, build_});
+    });
+    add("Scripting.FileSystemObject", [] { return basic::make<host::FileSystem>(); });
+    qlpipe::registerPipes(pipeServices(), add);
+}
+
+} // namespace apps
