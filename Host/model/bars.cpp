@@ -41,6 +41,10 @@ BarControl::BarControl(office::MsoControlType type, int id, std::weak_ptr<Bar> p
     popup_ = std::make_shared<Bar>(bar ? bar->bars() : nullptr, "", 0);
 }
 
+void BarControl::tell() const {
+    if (const auto bar = parent_.lock()) bar->tell();
+}
+
 void BarControl::check() const {
     if (removed_) throwRemoved();
 }
@@ -73,6 +77,7 @@ void BarControl::Caption(const std::string& caption) {
     check();
     caption_ = caption;
     if (popup_) popup_->name(withoutMnemonic(caption));
+    tell();
 }
 
 std::string BarControl::Tag() const {
@@ -93,6 +98,7 @@ std::string BarControl::ToolTipText() const {
 void BarControl::ToolTipText(const std::string& text) {
     check();
     toolTip_ = text;
+    tell();
 }
 
 bool BarControl::BeginGroup() const {
@@ -103,6 +109,7 @@ bool BarControl::BeginGroup() const {
 void BarControl::BeginGroup(bool begin) {
     check();
     beginGroup_ = begin;
+    tell();
 }
 
 bool BarControl::Enabled() const {
@@ -113,6 +120,7 @@ bool BarControl::Enabled() const {
 void BarControl::Enabled(bool enabled) {
     check();
     enabled_ = enabled;
+    tell();
 }
 
 bool BarControl::Visible() const {
@@ -123,6 +131,7 @@ bool BarControl::Visible() const {
 void BarControl::Visible(bool visible) {
     check();
     visible_ = visible;
+    tell();
 }
 
 office::Ref<office::CommandBar> BarControl::Parent() const {
@@ -212,16 +221,22 @@ void Bar::Delete() {
     if (const auto bars = bars_.lock()) bars->drop(*this);
 }
 
+void Bar::tell() const {
+    if (const auto bars = bars_.lock()) bars->changed.raise();
+}
+
 std::shared_ptr<BarControl> Bar::add(office::MsoControlType type, int id, int before) {
     if (removed_) throwRemoved();
     auto control = std::make_shared<BarControl>(type, id, weak_from_this());
     if (const auto bars = bars_.lock()) control->handlerFailed = bars->handlerFailed;
     list_.insert(before == 0 ? list_.end() : list_.begin() + (before - 1), control);
+    tell();
     return control;
 }
 
 void Bar::drop(const BarControl& control) {
     std::erase_if(list_, [&](const auto& c) { return c.get() == &control; });
+    tell();
 }
 
 // ---- all bars ----------------------------------------------------------------------------------------------------------
@@ -257,12 +272,14 @@ std::shared_ptr<Bar> Bars::addBar(const std::string& name, int position) {
     auto bar = std::make_shared<Bar>(weak_from_this(), name, position);
     list_.push_back(bar);
     if (!menuBar_) menuBar_ = bar;
+    changed.raise();
     return bar;
 }
 
 void Bars::drop(const Bar& bar) {
     std::erase_if(list_, [&](const auto& b) { return b.get() == &bar; });
     if (menuBar_.get() == &bar) menuBar_ = list_.empty() ? nullptr : list_.front();
+    changed.raise();
 }
 
 } // namespace host

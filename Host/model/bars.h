@@ -5,6 +5,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace host {
@@ -47,6 +48,7 @@ public:
 
 private:
     void check() const;
+    void tell() const;
 
     office::MsoControlType type_;
     int id_;
@@ -81,17 +83,17 @@ public:
 
     std::string Name() const override;
     bool Enabled() const override { return enabled_; }
-    void Enabled(bool enabled) override { enabled_ = enabled; }
+    void Enabled(bool enabled) override { set(enabled_, enabled); }
     bool Visible() const override { return visible_; }
-    void Visible(bool visible) override { visible_ = visible; }
+    void Visible(bool visible) override { set(visible_, visible); }
     int Position() const override { return position_; }
-    void Position(int position) override { position_ = position; }
+    void Position(int position) override { set(position_, position); }
     int RowIndex() const override { return rowIndex_; }
-    void RowIndex(int index) override { rowIndex_ = index; }
+    void RowIndex(int index) override { set(rowIndex_, index); }
     int Left() const override { return left_; }
-    void Left(int left) override { left_ = left; }
+    void Left(int left) override { set(left_, left); }
     int Top() const override { return top_; }
-    void Top(int top) override { top_ = top; }
+    void Top(int top) override { set(top_, top); }
     office::Ref<office::CommandBarControls> Controls() override;
     office::Ref<office::CommandBarControl> FindControl(int id) override;
     void Delete() override;
@@ -102,8 +104,15 @@ public:
     const std::vector<std::shared_ptr<BarControl>>& list() const { return list_; }
     void name(std::string name) { name_ = std::move(name); }
     std::shared_ptr<Bars> bars() const { return bars_.lock(); }
+    /// Something of this bar or of its controls is other than before.
+    void tell() const;
 
 private:
+    template <class T>
+    void set(T& member, T value) {
+        if (std::exchange(member, value) != value) tell();
+    }
+
     std::weak_ptr<Bars> bars_;
     std::string name_;
     int position_, rowIndex_ = 1, left_ = 0, top_ = 0;
@@ -125,6 +134,8 @@ public:
     void drop(const Bar& bar);
     /// Told of what a handler of a click lets out.
     std::function<void(const basic::ErrObject&)> handlerFailed;
+    /// Told after each change of a bar or a control, for a front end that draws them.
+    fernwick::Event<> changed;
 
 private:
     std::vector<std::shared_ptr<Bar>> list_;

@@ -42,6 +42,15 @@ struct HostOptions {
     std::function<std::string()> askForProject;
 };
 
+/// What happens to the code panes of components, for a front end that draws them.
+struct PaneEvents {
+    /// It is to come to the front.
+    fernwick::Event<vbide::Ref<vbide::VBComponent>> shown;
+    fernwick::Event<vbide::Ref<vbide::VBComponent>> selectionSet;
+    /// Somebody edited the code, perhaps the front end itself.
+    fernwick::Event<vbide::Ref<vbide::VBComponent>> codeChanged;
+};
+
 class Host final : public vbide::VBE, public std::enable_shared_from_this<Host> {
 public:
     static std::shared_ptr<Host> create(HostOptions options = {});
@@ -71,6 +80,9 @@ public:
     void close();
     /// Saves the project's components that have a file and then the project, those that are dirty only.
     void saveProject(const vbide::Ref<vbide::VBProject>& project);
+    PaneEvents panes;
+    Bars& bars() { return *bars_; }
+    ToolWindows& toolWindows() { return *windows_; }
 
     // ---- for the host's own objects ----
     const HostOptions& options() const { return options_; }

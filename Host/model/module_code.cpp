@@ -1,7 +1,9 @@
 #include "Host/model/module_code.h"
 #include "Basic/case_folding.h"
 #include "Host/model/component.h"
+#include "Host/model/host.h"
 #include "Host/model/host_errors.h"
+#include "Host/model/project.h"
 #include "Host/model/tool_window.h"
 #include <algorithm>
 
@@ -9,6 +11,15 @@ namespace host {
 namespace {
 
 constexpr int kProcedureNotFound = 35;
+
+/// Tells who draws the code of a component that has not been removed.
+void tellPane(const std::weak_ptr<Component>& link,
+              fernwick::Event<vbide::Ref<vbide::VBComponent>> PaneEvents::*event) {
+    const auto component = link.lock();
+    if (!component) throwRemoved();
+    const auto host = component->owner()->host();
+    host->tell(host->panes.*event, vbide::Ref<vbide::VBComponent>(component));
+}
 
 } // namespace
 
@@ -22,6 +33,7 @@ CodeText& ModuleCode::text() const {
 void ModuleCode::edited() {
     outline_.reset();
     component_.lock()->changed();
+    tellPane(component_, &PaneEvents::codeChanged);
 }
 
 int ModuleCode::CountOfLines() const { return int(text().count()); }
@@ -89,11 +101,19 @@ int ModuleCode::ProcCountLines(const std::string& name, vbide::vbext_ProcKind ki
 
 vbide::Ref<vbide::CodePane> ModuleCode::CodePane() {
     text();
-    if (!pane_) pane_ = std::make_shared<ModulePane>(std::make_shared<ToolWindow>(component_.lock()->Name()));
+    if (!pane_) pane_ = std::make_shared<ModulePane>(component_);
     return pane_;
 }
 
-void ModulePane::Show() { window_->Visible(true); }
+ModulePane::ModulePane(std::weak_ptr<Component> component)
+    : component_(std::move(component)),
+      window_(std::make_shared<ToolWindow>(component_.lock()->Name())),
+      focused_(window_->focused.connect([this] { tellPane(component_, &PaneEvents::shown); })) {}
+
+void ModulePane::Show() {
+    window_->Visible(true);
+    tellPane(component_, &PaneEvents::shown);
+}
 
 vbide::Ref<vbide::Window> ModulePane::Window() { return window_; }
 
@@ -102,6 +122,7 @@ void ModulePane::SetSelection(int startLine, int startColumn, int endLine, int e
     startColumn_ = startColumn;
     endLine_ = endLine;
     endColumn_ = endColumn;
+    tellPane(component_, &PaneEvents::selectionSet);
 }
 
 void ModulePane::GetSelection(int& startLine, int& startColumn, int& endLine, int& endColumn) const {

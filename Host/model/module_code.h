@@ -1,5 +1,6 @@
 #pragma once
 // The code window's lines of a component, and the pane that shows them.
+#include "Add-in/platform/events.h"
 #include "Add-in/platform/host.h"
 #include "Host/model/code_members.h"
 #include <memory>
@@ -40,7 +41,7 @@ private:
 
 class ModulePane final : public vbide::CodePane {
 public:
-    explicit ModulePane(std::shared_ptr<ToolWindow> window) : window_(std::move(window)) {}
+    explicit ModulePane(std::weak_ptr<Component> component);
 
     void Show() override;
     vbide::Ref<vbide::Window> Window() override;
@@ -48,7 +49,9 @@ public:
     void GetSelection(int& startLine, int& startColumn, int& endLine, int& endColumn) const override;
 
 private:
+    std::weak_ptr<Component> component_;
     std::shared_ptr<ToolWindow> window_;
+    fernwick::Subscription focused_;
     int startLine_ = 1, startColumn_ = 1, endLine_ = 1, endColumn_ = 1;
 };
 

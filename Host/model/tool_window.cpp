@@ -14,6 +14,9 @@ void ToolWindow::WindowState(vbide::vbext_WindowState state) {
     changed.raise();
 }
 
-void ToolWindow::SetFocus() { Visible(true); }
+void ToolWindow::SetFocus() {
+    Visible(true);
+    focused.raise();
+}
 
 } // namespace host

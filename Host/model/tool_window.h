@@ -8,7 +8,8 @@ namespace host {
 
 class ToolWindow final : public vbide::Window {
 public:
-    explicit ToolWindow(std::string caption, bool visible = false) : caption_(std::move(caption)), visible_(visible) {}
+    explicit ToolWindow(std::string caption, basic::Ref<fernwick::Object> document = nullptr)
+        : caption_(std::move(caption)), document_(std::move(document)) {}
 
     std::string Caption() const override { return caption_; }
     bool Visible() const override { return visible_; }
@@ -18,12 +19,18 @@ public:
     void SetFocus() override;
     void Close() override { Visible(false); }
 
-    /// Told after each change, for a front end.
+    // ---- for front ends ----
+    /// What an add-in shows in it; Nothing for a window of the host's own.
+    const basic::Ref<fernwick::Object>& document() const { return document_; }
+    /// Told after each change.
     fernwick::Event<> changed;
+    /// It is to come to the front.
+    fernwick::Event<> focused;
 
 private:
     std::string caption_;
-    bool visible_;
+    basic::Ref<fernwick::Object> document_;
+    bool visible_ = false;
     vbide::vbext_WindowState state_ = vbide::vbext_ws_Normal;
 };
 

@@ -9,8 +9,9 @@ vbide::Ref<vbide::Window> ToolWindows::CreateToolWindow(const vbide::Ref<vbide::
     if (!addIn) throw hostError(basic::kInvalidProcedureCall);
     if (!classes_) throw hostError(basic::kCantCreateObject);
     document = classes_->CreateObject(progId);
-    const auto window = std::make_shared<ToolWindow>(caption);
+    const auto window = std::make_shared<ToolWindow>(caption, document);
     list_.push_back(window);
+    added.raise();
     return window;
 }
 

@@ -16,6 +16,11 @@ public:
                                                vbide::Ref<vbide::Object>& document) override;
     std::vector<vbide::Ref<vbide::Window>> items() const override;
 
+    // ---- for front ends ----
+    const std::vector<std::shared_ptr<ToolWindow>>& list() const { return list_; }
+    /// Told when there is one more.
+    fernwick::Event<> added;
+
 private:
     fernwick::Classes* classes_;
     std::vector<std::shared_ptr<ToolWindow>> list_;

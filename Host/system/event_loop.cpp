@@ -61,6 +61,13 @@ const EventLoop::RunningTimer* EventLoop::nearest() {
     return first == timers_.end() ? nullptr : first->get();
 }
 
+std::optional<std::int64_t> EventLoop::untilNext() {
+    if (!posted_.empty()) return 0;
+    const auto* next = nearest();
+    if (!next) return {};
+    return std::max<std::int64_t>(0, next->due - clock_.Monotonic());
+}
+
 bool EventLoop::drain(const std::function<void(std::int64_t)>& sleep, std::int64_t patience) {
     const auto end = clock_.Monotonic() + patience;
     for (auto now = end - patience; now < end; now = clock_.Monotonic()) {

@@ -6,6 +6,7 @@
 #include <deque>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace host {
@@ -20,6 +21,9 @@ public:
     void DoEvents() override;
     /// Error 5 for an interval below 1.
     [[nodiscard]] fernwick::Subscription StartTimer(int interval, std::function<void()> tick) override;
+
+    /// Nanoseconds until something is due, 0 for now; nothing where none is posted and no timer runs.
+    std::optional<std::int64_t> untilNext();
 
     /// Turns until nothing is posted and no timer runs, but no longer than `patience` by the clock: a timer that
     /// nobody stops must not keep a program alive. `sleep` lets the time until the next timer pass. All in nanoseconds.

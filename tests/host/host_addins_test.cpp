@@ -1,4 +1,5 @@
 #include "Host/model/bars.h"
+#include "Host/model/tool_windows.h"
 #include "tests/support/test_host.h"
 
 using basic::Ref;
@@ -112,9 +113,13 @@ TEST(HostAddins, AToolWindowIsMadeAroundADocumentAndHidden) {
     host.ide->listAddIn("QLVBAddIn.Connect", "", [] { return basic::make<FailingAddIn>(); });
     const auto addIn = host.ide->Addins()->Item("QLVBAddIn.Connect");
     Ref<vbide::Object> document;
+    int told = 0;
+    const auto added = host.ide->toolWindows().added.connect([&] { ++told; });
     const auto window = host.ide->Windows()->CreateToolWindow(addIn, "QLVBAddIn.udocCompileMsgs", "Fernwick Messages",
                                                               "{8531D96D-DE1E-11d2-8E96-00104B78F251}", document);
     EXPECT_TRUE(document);
+    EXPECT_EQ(told, 1);
+    EXPECT_EQ(host.ide->toolWindows().list().front()->document(), document);
     EXPECT_FALSE(window->Visible());
     EXPECT_EQ(window->Caption(), "Fernwick Messages");
     EXPECT_EQ(host.ide->Windows()->items().size(), 1u);

@@ -128,3 +128,19 @@ TEST(HostBars, AToolbarRemembersItsPlace) {
     EXPECT_EQ(errorOf([&] { bars->Item("Fernwick"); }), 5);
     EXPECT_EQ(bars->ActiveMenuBar()->Name(), "Menu Bar");
 }
+
+TEST(HostBars, AFrontEndIsToldOfEachChange) {
+    TestHost host;
+    int told = 0;
+    const auto watch = host.ide->bars().changed.connect([&] { ++told; });
+    const auto menu = host.ide->CommandBars()->ActiveMenuBar()->Controls()->Add(office::msoControlPopup);
+    EXPECT_EQ(told, 1);
+    menu->Caption("&Tools");
+    EXPECT_EQ(told, 2);
+    menu->Controls()->Add()->Enabled(false);
+    EXPECT_EQ(told, 4);
+    host.ide->CommandBars()->ActiveMenuBar()->Visible(false);
+    EXPECT_EQ(told, 5);
+    menu->Delete();
+    EXPECT_EQ(told, 6);
+}

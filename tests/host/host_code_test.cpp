@@ -115,3 +115,29 @@ TEST(HostCode, APaneRemembersItsSelection) {
     EXPECT_EQ((std::vector<int>{startLine, startColumn, endLine, endColumn}), (std::vector<int>{1, 2, 3, 4}));
     EXPECT_TRUE(pane->Window()->Visible());
 }
+
+TEST(HostCode, AFrontEndIsToldOfPanesAndEdits) {
+    TestHost host;
+    const auto project = host.open(SampleProject().module("modA", "Sub A()\r\nEnd Sub\r\n"));
+    const auto code = project->VBComponents()->Item(1)->CodeModule();
+    std::string told;
+    const auto note = [&](const char* what) {
+        return [&told, what](const auto& component) { told += component->Name() + " " + what + ";"; };
+    };
+    const auto shown = host.ide->panes.shown.connect(note("shown"));
+    const auto selected = host.ide->panes.selectionSet.connect(note("selected"));
+    const auto changed = host.ide->panes.codeChanged.connect(note("changed"));
+    code->CodePane()->Show();
+    code->CodePane()->Window()->SetFocus();
+    code->CodePane()->SetSelection(2, 1, 2, 9999);
+    code->ReplaceLine(1, "Sub B()");
+    EXPECT_EQ(told, "modA shown;modA shown;modA selected;modA changed;");
+}
+
+TEST(HostCode, APaneOfARemovedComponentCannotBeShown) {
+    TestHost host;
+    const auto project = host.open(SampleProject().module("modA", "Sub A()\r\nEnd Sub\r\n"));
+    const auto pane = project->VBComponents()->Item(1)->CodeModule()->CodePane();
+    project->VBComponents()->Remove(project->VBComponents()->Item(1));
+    EXPECT_EQ(errorOf([&] { pane->Show(); }), 440);
+}

@@ -138,3 +138,16 @@ TEST_F(TurningLoop, DrainingEndsThoughATimerNeverStops) {
     EXPECT_FALSE(loop.drain(passing(), 50'000'000));
     EXPECT_EQ(log, "");
 }
+
+TEST_F(TurningLoop, TellsHowLongNothingIsDue) {
+    EXPECT_EQ(loop.untilNext(), std::nullopt);
+    auto timer = loop.StartTimer(10, note("t"));
+    clock.pass(4);
+    EXPECT_EQ(loop.untilNext(), 6'000'000);
+    clock.pass(20);
+    EXPECT_EQ(loop.untilNext(), 0);
+    timer.reset();
+    EXPECT_EQ(loop.untilNext(), std::nullopt);
+    loop.Post(note("p"));
+    EXPECT_EQ(loop.untilNext(), 0);
+}
