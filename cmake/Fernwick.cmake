@@ -2,6 +2,7 @@
 
 option(FERNWICK_TESTS "Build the tests" ON)
 option(FERNWICK_BENCH "Build the benchmarks" OFF)
+option(FERNWICK_WORKBENCH "Build the desktop, which needs Qt 6" ON)
 option(FERNWICK_FUZZ "Build the fuzz targets (clang)" OFF)
 
 set(CMAKE_CXX_STANDARD 20)

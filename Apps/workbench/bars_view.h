@@ -1,0 +1,53 @@
+#pragma once
+// Draws the host's menus and toolbars, whoever put them there.
+#include "Host/model/bars.h"
+#include <QTimer>
+#include <functional>
+#include <map>
+#include <memory>
+
+class QAction;
+class QMainWindow;
+class QMenu;
+class QToolBar;
+class QWidget;
+
+namespace workbench {
+
+class BarsView {
+public:
+    using Run = std::function<void(const std::function<void()>&)>;
+
+    /// `run` does what a click asks for and keeps errors out of Qt's loop. The window and the bars outlive this.
+    BarsView(host::Bars& bars, QMainWindow& window, Run run);
+    ~BarsView();
+    BarsView(const BarsView&) = delete;
+
+    /// Draws the model as it is, without waiting for Qt's loop.
+    void draw();
+
+private:
+    /// What stands for a control as long as the host has it.
+    struct Drawn {
+        std::unique_ptr<QAction> button;
+        std::unique_ptr<QMenu> popup;
+        bool current = false;
+    };
+
+    void drawBar(host::Bar& bar);
+    void fill(QWidget& widget, const host::Bar& bar);
+    QAction* actionOf(const std::shared_ptr<host::BarControl>& control);
+    void make(Drawn& drawn, const std::shared_ptr<host::BarControl>& control);
+    void makeButton(Drawn& drawn, const std::shared_ptr<host::BarControl>& control);
+    void dropGone();
+
+    host::Bars& bars_;
+    QMainWindow& window_;
+    Run run_;
+    std::map<const host::Bar*, QToolBar*> toolBars_;
+    std::map<std::weak_ptr<host::BarControl>, Drawn, std::owner_less<>> drawn_;
+    QTimer redraw_;
+    fernwick::Subscription changed_;
+};
+
+} // namespace workbench

@@ -1,0 +1,72 @@
+#include "Apps/workbench/command_icons.h"
+#include "Host/model/bars.h"
+#include <QApplication>
+#include <QPainter>
+#include <QPolygonF>
+#include <QStyle>
+#include <array>
+
+namespace workbench {
+
+namespace {
+
+struct CommandIcon {
+    int id;
+    QStyle::StandardPixmap picture;
+};
+constexpr std::array kIcons{
+    CommandIcon{host::kNewProjectId, QStyle::SP_FileIcon},
+    CommandIcon{host::kOpenProjectId, QStyle::SP_DialogOpenButton},
+    CommandIcon{host::kSaveProjectId, QStyle::SP_DialogSaveButton},
+};
+
+struct CommandKey {
+    int id;
+    int key;
+};
+constexpr std::array kKeys{
+    CommandKey{host::kNewProjectId, int(Qt::CTRL) | Qt::Key_N},
+    CommandKey{host::kOpenProjectId, int(Qt::CTRL) | Qt::Key_O},
+    CommandKey{host::kSaveProjectId, int(Qt::CTRL) | Qt::Key_S},
+    CommandKey{kExitId, int(Qt::CTRL) | Qt::Key_Q},
+    CommandKey{kUndoId, int(Qt::CTRL) | Qt::Key_Z},
+    CommandKey{kRedoId, int(Qt::CTRL) | Qt::Key_Y},
+    CommandKey{kCutId, int(Qt::CTRL) | Qt::Key_X},
+    CommandKey{kCopyId, int(Qt::CTRL) | Qt::Key_C},
+    CommandKey{kPasteId, int(Qt::CTRL) | Qt::Key_V},
+    CommandKey{kSelectAllId, int(Qt::CTRL) | Qt::Key_A},
+    CommandKey{kFindId, int(Qt::CTRL) | Qt::Key_F},
+    CommandKey{kFindNextId, int(Qt::Key_F3)},
+    CommandKey{kExplorerId, int(Qt::CTRL) | Qt::Key_R},
+    CommandKey{kCompileId, int(Qt::Key_F5)},
+};
+
+/// The style's own is black, which a dark theme swallows.
+QIcon compileIcon() {
+    constexpr int kSize = 32;
+    QPixmap picture(kSize, kSize);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor("#3a9c45"));
+    painter.drawPolygon(QPolygonF{{7, 4}, {28, 16}, {7, 28}});
+    return picture;
+}
+
+} // namespace
+
+QIcon iconOf(int id) {
+    if (id == kCompileId) return compileIcon();
+    for (const auto& icon : kIcons)
+        if (icon.id == id) return QApplication::style()->standardIcon(icon.picture);
+    return {};
+}
+
+QKeySequence shortcutOf(int id) {
+    for (const auto& key : kKeys)
+        if (key.id == id) return QKeySequence(key.key);
+    return {};
+}
+
+} // namespace workbench

@@ -1,0 +1,56 @@
+#pragma once
+// The IDE's window: it draws the host's model and holds no behaviour of the add-in's.
+#include "Apps/workbench/bars_view.h"
+#include "Apps/workbench/code_windows.h"
+#include "Apps/workbench/messages_view.h"
+#include "Apps/workbench/project_explorer.h"
+#include "Host/model/host.h"
+#include "Host/model/tool_window.h"
+#include <QMainWindow>
+#include <QPointer>
+#include <map>
+
+class QDockWidget;
+
+namespace workbench {
+
+class MainWindow final : public QMainWindow {
+public:
+    /// Asked before the window goes; false keeps it.
+    using MayClose = std::function<bool()>;
+
+    MainWindow(host::Host& host, BarsView::Run run, MayClose mayClose);
+
+    CodeWindows& code() { return *code_; }
+    ProjectExplorer& explorer() { return *explorer_; }
+    QDockWidget& explorerDock() { return *explorerDock_; }
+    /// Window, docks and toolbars as the user left them, in the user's settings.
+    void restoreLayout();
+    void saveLayout() const;
+    void setTheme(Theme theme);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    QDockWidget* addDock(const QString& name, const QString& title, QWidget* widget, Qt::DockWidgetArea area);
+    void drawToolWindows();
+    void drawToolWindow(const std::shared_ptr<host::ToolWindow>& window);
+    void follow(host::ToolWindow& window, QDockWidget& dock);
+    void markMessages(const fernwick::udocCompileMsgs& messages);
+    void showTitle();
+
+    host::Host& host_;
+    BarsView::Run run_;
+    MayClose mayClose_;
+    CodeWindows* code_;
+    ProjectExplorer* explorer_;
+    QDockWidget* explorerDock_;
+    /// Tool windows that are drawn, the latest of a title in the dock of that title.
+    std::map<std::shared_ptr<host::ToolWindow>, QPointer<QDockWidget>> docks_;
+    QTimer titleSoon_;
+    std::vector<fernwick::Subscription> watches_;
+    BarsView bars_;
+};
+
+} // namespace workbench

@@ -1,0 +1,32 @@
+#include "Apps/workbench/pictures.h"
+#include <QStyle>
+#include <array>
+
+namespace workbench {
+
+namespace {
+
+struct Picture {
+    std::string_view name;
+    QStyle::StandardPixmap drawn;
+};
+
+constexpr std::array kPictures{
+    Picture{"finished", QStyle::SP_DialogApplyButton},
+    Picture{"failed", QStyle::SP_MessageBoxCritical},
+    Picture{"question", QStyle::SP_MessageBoxQuestion},
+    Picture{"devices", QStyle::SP_ComputerIcon},
+};
+
+} // namespace
+
+QPixmap pictureNamed(const std::string& name, const QWidget& window) {
+    for (const auto& picture : kPictures)
+        if (picture.name == name) {
+            const int size = window.style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, &window);
+            return window.style()->standardIcon(picture.drawn, nullptr, &window).pixmap(size);
+        }
+    return {};
+}
+
+} // namespace workbench

@@ -1,0 +1,11 @@
+#pragma once
+#include <QPixmap>
+#include <QWidget>
+#include <string>
+
+namespace workbench {
+
+/// The picture that a form asks for by name, in the window's style; an empty one for a name that is not known.
+QPixmap pictureNamed(const std::string& name, const QWidget& window);
+
+} // namespace workbench

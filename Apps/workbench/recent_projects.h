@@ -1,0 +1,33 @@
+#pragma once
+// The projects that were open last, in the host's File menu.
+#include "Host/model/host.h"
+#include <QStringList>
+#include <functional>
+#include <memory>
+
+namespace host {
+class Bar;
+class BarControl;
+} // namespace host
+
+namespace workbench {
+
+class RecentProjects {
+public:
+    using Open = std::function<void(const std::string& path)>;
+
+    /// `menu` is the popup that is filled; the list is kept in the user's settings.
+    RecentProjects(host::Host& host, std::shared_ptr<host::Bar> menu, Open open);
+
+    static QStringList stored();
+
+private:
+    void remember(const vbide::Ref<vbide::VBProject>& project);
+    void fill();
+
+    std::shared_ptr<host::Bar> menu_;
+    Open open_;
+    std::vector<fernwick::Subscription> watches_;
+};
+
+} // namespace workbench

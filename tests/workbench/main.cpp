@@ -1,0 +1,41 @@
+// Tests of the desktop draw into memory, with a store and settings of their own.
+#include "tests/support/temp_folder.h"
+#include <QApplication>
+#include <QLabel>
+#include <QTimer>
+#include <cstdio>
+#include <gtest/gtest.h>
+
+namespace {
+
+/// A window that no test answers would stand for ever: tells which, and ends the program.
+void endWhenStuck() {
+    constexpr int kMostSeconds = 30;
+    static QWidget* standing = nullptr;
+    static int seconds = 0;
+    auto* const now = QApplication::activeModalWidget();
+    seconds = now && now == standing ? seconds + 1 : 0;
+    standing = now;
+    if (seconds < kMostSeconds) return;
+    std::fprintf(stderr, "nobody answers '%s'\n", qPrintable(now->windowTitle()));
+    for (const auto* label : now->findChildren<QLabel*>()) std::fprintf(stderr, "  %s\n", qPrintable(label->text()));
+    std::abort();
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const test::TempFolder home;
+    for (const char* folder : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR", "FERNWICK_MACHINE_STORE"})
+        qputenv(folder, QByteArray::fromStdString(home.path()));
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_LOGGING_RULES", "qt.qpa.*=false");
+    testing::InitGoogleTest(&argc, argv);
+    QApplication app(argc, argv);
+    QApplication::setOrganizationName("fernwick");
+    QApplication::setApplicationName("workbench-test");
+    QTimer watch;
+    QObject::connect(&watch, &QTimer::timeout, endWhenStuck);
+    watch.start(1000);
+    return RUN_ALL_TESTS();
+}

@@ -1,0 +1,400 @@
+// The whole desktop over copies of the samples, drawn into memory.
+#include "Apps/workbench/command_icons.h"
+#include "Apps/workbench/scintilla.h"
+#include "Apps/workbench/text.h"
+#include "Apps/workbench/workbench.h"
+#include "Host/model/bars.h"
+#include "tests/support/sample_project.h"
+#include "tests/workbench/desktop_user.h"
+#include <QComboBox>
+#include <QDir>
+#include <QDockWidget>
+#include <QLabel>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QSettings>
+#include <QTreeView>
+#include <filesystem>
+#include <gmock/gmock.h>
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+namespace {
+
+class Desktop : public testing::Test {
+protected:
+    Desktop() {
+        workbench::apply(workbench::Theme::Light);
+        bench = std::make_unique<workbench::Workbench>();
+        window().show();
+        settle();
+    }
+    ~Desktop() override {
+        for (const auto& project : bench->host().VBProjects()->items()) clean(project);
+    }
+    static void clean(const basic::Ref<vbide::VBProject>& project) {
+        project->IsDirty(false);
+        for (const auto& component : project->VBComponents()->items()) component->IsDirty(false);
+    }
+
+    workbench::MainWindow& window() { return bench->window(); }
+    void openSample(const std::string& name) {
+        std::filesystem::copy(std::filesystem::path(FERNWICK_SOURCE_DIR) / "samples" / name, folder / name,
+                              std::filesystem::copy_options::recursive);
+        open(folder / (name + "/" + name + ".vbp"));
+    }
+    void open(const std::string& path) {
+        bench->open(path);
+        bench->connect();
+        settle();
+    }
+    /// Lets everything be drawn that waits for Qt's loop.
+    static void settle() { QTest::qWait(20); }
+    vbide::Ref<vbide::VBProject> project() { return bench->host().ActiveVBProject(); }
+    vbide::Ref<vbide::VBComponent> component(const std::string& name) { return project()->VBComponents()->Item(name); }
+    workbench::CodeEditor& editor(const std::string& name) {
+        component(name)->CodeModule()->CodePane()->Show();
+        return *window().code().editorOf(component(name));
+    }
+    /// The texts of the explorer, an entry below another one behind it with its depth.
+    std::vector<std::string> explorerEntries() {
+        std::vector<std::string> entries;
+        for (QTreeWidgetItemIterator at(&window().explorer()); *at; ++at) {
+            int depth = 0;
+            for (auto* above = (*at)->parent(); above; above = above->parent()) ++depth;
+            entries.push_back(std::string(std::size_t(depth), ' ') + (*at)->text(0).toStdString());
+        }
+        return entries;
+    }
+    QTreeWidgetItem* entry(const QString& text) {
+        const auto found = window().explorer().findItems(text, Qt::MatchStartsWith | Qt::MatchRecursive);
+        return found.isEmpty() ? nullptr : found.front();
+    }
+    void doubleClick(QTreeWidgetItem* item) {
+        auto& tree = window().explorer();
+        const auto at = tree.visualItemRect(item).center();
+        QTest::mouseClick(tree.viewport(), Qt::LeftButton, {}, at);
+        QTest::mouseDClick(tree.viewport(), Qt::LeftButton, {}, at);
+    }
+    /// Compiles, saves where that is asked, and gives the texts of the boxes that come.
+    std::vector<std::string> compile() {
+        std::vector<std::string> boxes;
+        answer([&boxes](QDialog& window) {
+            auto* box = dynamic_cast<QMessageBox*>(&window);
+            if (!box) return test::click(window, "btnYes");
+            boxes.push_back(box->text().toStdString());
+            box->button(QMessageBox::Ok)->click();
+        });
+        menuItem("&Run", "&Compile Project")->trigger();
+        answers_.stop();
+        settle();
+        return boxes;
+    }
+    /// Does this with every question that comes, until it is stopped.
+    void answer(std::function<void(QDialog&)> act) {
+        answers_.disconnect();
+        QObject::connect(&answers_, &QTimer::timeout, [act] {
+            auto* window = dynamic_cast<QDialog*>(QApplication::activeModalWidget());
+            const bool asks = window && window->isVisible() && !window->findChildren<QAbstractButton*>().isEmpty();
+            if (asks) act(*window);
+        });
+        answers_.start(10);
+    }
+    QAction* menuItem(const QString& menu, const QString& item) {
+        for (auto* top : window().menuBar()->actions())
+            if (top->text() == menu)
+                for (auto* action : top->menu()->actions())
+                    if (action->text() == item) return action;
+        return nullptr;
+    }
+
+    test::TempFolder folder;
+    QTimer answers_;
+    std::unique_ptr<workbench::Workbench> bench;
+};
+
+} // namespace
+
+TEST_F(Desktop, StartsEmpty) {
+    EXPECT_EQ(window().windowTitle(), "Fernwick Workbench");
+    EXPECT_TRUE(explorerEntries().empty());
+    EXPECT_TRUE(menuItem("&File", "&Open Project..."));
+    EXPECT_EQ(menuItem("&File", "&Open Project...")->shortcut(), QKeySequence("Ctrl+O"));
+}
+
+TEST_F(Desktop, ShowsAProjectsComponentsInGroups) {
+    openSample("AddressBook");
+    EXPECT_THAT(explorerEntries(),
+                ElementsAre("AddressBook (AddressBook.vbp)", " Forms", "  frmList (frmList.frm)",
+                            "  frmPerson (frmPerson.frm)", " Modules", "  modAddressBook (modAddressBook.bas)",
+                            " Class Modules", "  clsPerson (clsPerson.cls)"));
+    EXPECT_EQ(window().windowTitle(), "AddressBook - Fernwick Workbench");
+}
+
+TEST_F(Desktop, OpeningAProjectOpensNoCode) {
+    openSample("AddressBook");
+    EXPECT_EQ(window().code().count(), 0);
+}
+
+TEST_F(Desktop, ADoubleClickOpensTheCode) {
+    openSample("HelloWorld");
+    doubleClick(entry("frmHello"));
+    ASSERT_TRUE(window().code().current());
+    const auto module = component("frmHello")->CodeModule();
+    EXPECT_EQ(window().code().current()->scintilla().text().toStdString() + "\n", [&] {
+        auto lines = module->Lines(1, module->CountOfLines());
+        std::erase(lines, '\r');
+        return lines + "\n";
+    }());
+    EXPECT_EQ(window().code().tabText(0), "frmHello");
+    EXPECT_FALSE(component("frmHello")->IsDirty());
+}
+
+TEST_F(Desktop, TypingEditsTheModuleAndMarksIt) {
+    openSample("HelloWorld");
+    auto& code = editor("frmHello");
+    QTest::keyClicks(&code.scintilla(), "' new");
+    QTest::keyClick(&code.scintilla(), Qt::Key_Return);
+    EXPECT_EQ(component("frmHello")->CodeModule()->Lines(1, 1), "' new");
+    settle();
+    EXPECT_EQ(window().code().tabText(0), "frmHello *");
+    EXPECT_TRUE(entry("frmHello (frmHello.frm) *"));
+}
+
+TEST_F(Desktop, SavingWritesTheFileAndClearsTheMark) {
+    openSample("HelloWorld");
+    QTest::keyClicks(&editor("frmHello").scintilla(), "' saved");
+    menuItem("&File", "Sa&ve Project")->trigger();
+    EXPECT_THAT(folder.read("HelloWorld/frmHello.frm"), HasSubstr("\r\n' saved"));
+    settle();
+    EXPECT_EQ(window().code().tabText(0), "frmHello");
+    EXPECT_FALSE(entry("frmHello (frmHello.frm) *"));
+}
+
+TEST_F(Desktop, KeysOfCommandsWork) {
+    openSample("HelloWorld");
+    component("frmHello")->CodeModule()->InsertLines(1, "' by key");
+    window().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
+    QTest::keyClick(&window(), Qt::Key_S, Qt::ControlModifier);
+    EXPECT_THAT(folder.read("HelloWorld/frmHello.frm"), HasSubstr("' by key"));
+}
+
+TEST_F(Desktop, TypingLeavesTheExplorerAsTheUserArrangedIt) {
+    openSample("AddressBook");
+    window().explorer().topLevelItem(0)->child(1)->setExpanded(false);
+    window().explorer().setCurrentItem(entry("frmPerson"));
+    QTest::keyClicks(&editor("frmPerson").scintilla(), "x");
+    settle();
+    EXPECT_FALSE(window().explorer().topLevelItem(0)->child(1)->isExpanded());
+    EXPECT_EQ(window().explorer().currentItem()->text(0), "frmPerson (frmPerson.frm) *");
+}
+
+TEST_F(Desktop, ComponentsComeGoAndAreRenamed) {
+    openSample("HelloWorld");
+    menuItem("&Project", "Add &Module")->trigger();
+    settle();
+    EXPECT_TRUE(entry("Module1 (Module1) *"));
+    EXPECT_EQ(window().code().tabText(0), "Module1 *");
+    component("Module1")->Name("modOther");
+    settle();
+    EXPECT_TRUE(entry("modOther (modOther) *"));
+    project()->VBComponents()->Remove(component("modOther"));
+    settle();
+    EXPECT_FALSE(entry("modOther"));
+    EXPECT_EQ(window().code().count(), 0);
+}
+
+TEST_F(Desktop, AnErrorOfABuildLeadsToItsLine) {
+    openSample("HelloWorld");
+    auto& code = editor("frmHello");
+    const int line = code.scintilla().lines();
+    code.scintilla().append("\nSub Broken(");
+    menuItem("&File", "Sa&ve Project")->trigger();
+    EXPECT_THAT(compile(), ElementsAre(HasSubstr("One or more errors occurred during compilation.")));
+    auto* dock = window().findChild<QDockWidget*>("Fernwick Messages");
+    ASSERT_TRUE(dock && dock->isVisible());
+    auto* grid = dock->findChild<QTreeView*>("msgGrid");
+    ASSERT_GE(grid->model()->rowCount(), 1);
+    EXPECT_EQ(grid->model()->index(0, 2).data(), "frmHello");
+    EXPECT_EQ(code.scintilla().markersAtLine(line), 1u << 1);
+
+    code.scintilla().setCursorPosition(0, 0);
+    const auto row = grid->visualRect(grid->model()->index(0, 5)).center();
+    QTest::mouseClick(grid->viewport(), Qt::LeftButton, {}, row);
+    QTest::mouseDClick(grid->viewport(), Qt::LeftButton, {}, row);
+    EXPECT_EQ(code.scintilla().selectedText(), "Sub Broken(");
+}
+
+TEST_F(Desktop, AGoodBuildMakesTheImage) {
+    openSample("HelloWorld");
+    EXPECT_TRUE(compile().empty());
+    EXPECT_THAT(window().findChild<QLabel*>("lblStatusText")->text().toStdString(), HasSubstr("Status: SUCCESS"));
+    EXPECT_TRUE(std::filesystem::exists(folder / "HelloWorld/HelloWorld.0000.qlx"));
+}
+
+TEST_F(Desktop, AProjectOfNoDeviceIsNotBuiltAndTheUserTold) {
+    open(test::SampleProject("Plain").module("modMain").writeTo(folder));
+    EXPECT_THAT(compile(), ElementsAre(HasSubstr("Plain is not a Fernwick project")));
+}
+
+TEST_F(Desktop, MenusFollowTheHostsModel) {
+    const auto menuBar = bench->host().CommandBars()->ActiveMenuBar();
+    const auto before = bench->host().CommandBars()->FindControl(host::kAddInsMenuId)->Index();
+    const auto menu = menuBar->Controls()->Add(office::msoControlPopup, before);
+    menu->Caption("&Fernwick");
+    const auto item = menu->Controls()->Add();
+    item->Caption("Compile and &Validate");
+    item->ToolTipText("Both");
+    const auto second = menu->Controls()->Add();
+    second->Caption("&Zoom Window");
+    second->BeginGroup(true);
+    second->Enabled(false);
+    settle();
+    auto* action = menuItem("&Fernwick", "Compile and &Validate");
+    ASSERT_TRUE(action);
+    EXPECT_EQ(action->toolTip(), "Both");
+    EXPECT_FALSE(menuItem("&Fernwick", "&Zoom Window")->isEnabled());
+    int clicks = 0;
+    const auto events = bench->host().Events()->CommandBarEvents(item);
+    const auto sink = events->Click.connect([&](auto, bool&, bool&) { ++clicks; });
+    action->trigger();
+    EXPECT_EQ(clicks, 1);
+    item->Visible(false);
+    settle();
+    EXPECT_FALSE(action->isVisible());
+    menu->Delete();
+    settle();
+    EXPECT_FALSE(menuItem("&Fernwick", "&Zoom Window"));
+}
+
+TEST_F(Desktop, SeparatorsStandWhereGroupsBegin) {
+    const auto edit = bench->host().CommandBars()->Item("Edit");
+    int groups = 0, lines = 0;
+    for (const auto& control : edit->Controls()->items()) groups += control->BeginGroup();
+    for (auto* top : window().menuBar()->actions())
+        if (top->text() == "&Edit")
+            for (auto* action : top->menu()->actions()) lines += action->isSeparator();
+    EXPECT_EQ(groups, 2);
+    EXPECT_EQ(lines, groups);
+}
+
+TEST_F(Desktop, AClickThatFailsIsToldInABox) {
+    const auto file = bench->host().CommandBars()->Item("File");
+    const auto item = file->Controls()->Add();
+    item->Caption("Fail");
+    basic::cast<host::BarControl>(item)->action = [] { throw basic::RuntimeError(75, "disk is away"); };
+    settle();
+    test::whenShown<QMessageBox>([](QMessageBox& box) {
+        EXPECT_EQ(box.text(), "disk is away");
+        box.button(QMessageBox::Ok)->click();
+    });
+    menuItem("&File", "Fail")->trigger();
+}
+
+TEST_F(Desktop, RemovingAnUnsavedProjectAsks) {
+    openSample("HelloWorld");
+    component("frmHello")->CodeModule()->InsertLines(1, "' lost");
+    test::whenShown<QMessageBox>([](QMessageBox& box) { box.button(QMessageBox::Cancel)->click(); });
+    menuItem("&File", "&Remove Project")->trigger();
+    EXPECT_EQ(bench->host().VBProjects()->Count(), 1);
+    test::whenShown<QMessageBox>([](QMessageBox& box) { box.button(QMessageBox::Save)->click(); });
+    menuItem("&File", "&Remove Project")->trigger();
+    EXPECT_EQ(bench->host().VBProjects()->Count(), 0);
+    EXPECT_THAT(folder.read("HelloWorld/frmHello.frm"), HasSubstr("' lost"));
+    settle();
+    EXPECT_TRUE(explorerEntries().empty());
+}
+
+TEST_F(Desktop, WindowsOfARemovedProjectClose) {
+    openSample("HelloWorld");
+    editor("frmHello");
+    bench->host().VBProjects()->Remove(project());
+    settle();
+    EXPECT_EQ(window().code().count(), 0);
+}
+
+TEST_F(Desktop, ClosingTheWindowAsksForUnsavedChanges) {
+    openSample("HelloWorld");
+    component("frmHello")->CodeModule()->InsertLines(1, "' new");
+    test::whenShown<QMessageBox>([](QMessageBox& box) { box.button(QMessageBox::Cancel)->click(); });
+    EXPECT_FALSE(window().close());
+    test::whenShown<QMessageBox>([](QMessageBox& box) { box.button(QMessageBox::Discard)->click(); });
+    EXPECT_TRUE(window().close());
+}
+
+TEST_F(Desktop, RecentProjectsOpenAgain) {
+    openSample("HelloWorld");
+    const auto path = project()->FileName();
+    bench->host().VBProjects()->Remove(project());
+    settle();
+    auto* recent = menuItem("&File", "Recent &Projects");
+    ASSERT_TRUE(recent && recent->menu());
+    EXPECT_EQ(recent->menu()->actions().front()->text().toStdString(), "&1 " + path);
+    recent->menu()->actions().front()->trigger();
+    EXPECT_EQ(project()->FileName(), path);
+}
+
+TEST_F(Desktop, AMissingProjectIsToldInABox) {
+    test::whenShown<QMessageBox>([](QMessageBox& box) {
+        EXPECT_THAT(box.text().toStdString(), HasSubstr("none.vbp"));
+        box.button(QMessageBox::Ok)->click();
+    });
+    bench->open(folder / "none.vbp");
+}
+
+TEST_F(Desktop, WhatCouldNotBeLoadedIsTold) {
+    test::whenShown<QMessageBox>([](QMessageBox& box) {
+        EXPECT_THAT(box.text().toStdString(), HasSubstr("gone.bas"));
+        box.button(QMessageBox::Ok)->click();
+    });
+    open(test::SampleProject("Half").member("Module=modGone; gone.bas").writeTo(folder));
+    settle();
+}
+
+TEST_F(Desktop, LayoutAndThemeComeBack) {
+    window().resize(900, 500);
+    window().explorerDock().setFloating(true);
+    window().setTheme(workbench::Theme::Dark);
+    window().saveLayout();
+    workbench::apply(workbench::Theme::Light);
+    workbench::Workbench next;
+    EXPECT_EQ(next.window().size(), QSize(900, 500));
+    EXPECT_TRUE(next.window().explorerDock().isFloating());
+    EXPECT_EQ(workbench::currentTheme(), workbench::Theme::Dark);
+    QSettings().clear();
+}
+
+/// Forms, in the same way.
+TEST_F(Desktop, FormsLookLikeTheirPictures) {
+    openSample("HelloWorld");
+    auto& form = bench->addIn().compileWarning;
+    form.Load();
+    form.Caption("Compiled project is not current");
+    form.lblWarning.Caption("The project has changed since it was compiled last. Compile it before it is sent?");
+    test::whenShown([](QDialog& window) {
+        EXPECT_TRUE(window.grab().save(FERNWICK_BINARY_DIR "/workbench-question.png"));
+        test::click(window, "btnNo");
+    });
+    form.ShowModal();
+    EXPECT_EQ(form.Result, fernwick::vbNo);
+    form.Unload();
+}
+
+/// One picture of the whole window for each theme, to be looked at.
+TEST_F(Desktop, LooksLikeItsPictures) {
+    openSample("AddressBook");
+    auto& code = editor("frmList");
+    code.scintilla().append("\nPrivate Sub Broken(");
+    menuItem("&File", "Sa&ve Project")->trigger();
+    compile();
+    for (const auto& [theme, name] :
+         {std::pair(workbench::Theme::Light, "light"), std::pair(workbench::Theme::Dark, "dark")}) {
+        window().setTheme(theme);
+        settle();
+        const auto picture = window().grab().toImage();
+        EXPECT_TRUE(picture.save(QString(FERNWICK_BINARY_DIR "/workbench-%1.png").arg(name)));
+        EXPECT_EQ(picture.pixelColor(2, picture.height() - 2).lightness() < 128, theme == workbench::Theme::Dark);
+    }
+}
