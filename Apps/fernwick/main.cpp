@@ -35,6 +35,7 @@ constexpr std::array kVerbs{
     Verb{"targets", cli::runTargets},
     Verb{"validate", cli::runValidate},
     Verb{"version", cli::runVersion},
+    Verb{"workbench", cli::runWorkbench},
 };
 
 int runVerb(const cli::Options& options, cli::Console& console) {

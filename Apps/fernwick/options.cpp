@@ -192,6 +192,14 @@ void defineDependencies(CLI::App& app, Raw& raw) {
     addAnswers(dependencies, raw);
 }
 
+/// It answers nothing itself: the desktop takes over.
+void defineWorkbench(CLI::App& app, Raw& raw) {
+    auto& workbench = *app.add_subcommand("workbench", "Open the desktop, on a project where one is named");
+    workbench.footer("Example:\n  fernwick workbench AddressBook.vbp");
+    workbench.callback([&raw] { raw.options.verb = "workbench"; });
+    workbench.add_option("PROJECT", raw.options.project, "Project or group file");
+}
+
 /// Verbs on what is installed rather than on a project.
 void defineTools(CLI::App& app, Raw& raw) {
     auto& explain = addVerb(app, raw, "explain", "Tell what messages mean and what to do about them",
@@ -297,6 +305,7 @@ Parsed parseCommandLine(int argc, const char* const* argv) {
     defineSettings(app, raw);
     defineRegistry(app, raw);
     defineDependencies(app, raw);
+    defineWorkbench(app, raw);
     defineTools(app, raw);
     auto* help = app.add_subcommand("help", "Print help on a verb, or on answers");
     help->add_option("TOPIC", topic, "A verb, or answers");

@@ -62,7 +62,7 @@ _fernwick_complete() {
     return
   fi
   case $verb in
-    "") _fernwick_words "build check dependencies deploy devices doctor explain help info install-runtime messages package registry settings targets validate version" ;;
+    "") _fernwick_words "build check dependencies deploy devices doctor explain help info install-runtime messages package registry settings targets validate version workbench" ;;
     build | messages | validate) _fernwick_files "vbp" ;;
     dependencies) [[ -z $action || ${action,,} == *.vbp ]] && _fernwick_words "list add remove"
       if [[ -z $action ]]; then _fernwick_files "vbp"; else _fernwick_files "*"; fi ;;
@@ -80,7 +80,7 @@ _fernwick_complete() {
     explain) _fernwick_words "$(fernwick explain 2>/dev/null | sed 's/^ *\([0-9]*\) .*/\1/')" ;;
     info) _fernwick_files "vbp|vbg" ;;
     check) _fernwick_files "vbp|vbg|bas|cls|frm|ctl|pag|dsr|dob" ;;
-    help) _fernwick_words "answers build check dependencies deploy devices doctor explain info install-runtime messages package registry settings targets validate version" ;;
+    help) _fernwick_words "answers build check dependencies deploy devices doctor explain info install-runtime messages package registry settings targets validate version workbench" ;;
     settings)
       case $action in
         "") _fernwick_words "list get set reset" ;;

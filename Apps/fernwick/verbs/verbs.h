@@ -21,5 +21,6 @@ int runSettings(const Options& options, Console& console);
 int runTargets(const Options& options, Console& console);
 int runValidate(const Options& options, Console& console);
 int runVersion(const Options& options, Console& console);
+int runWorkbench(const Options& options, Console& console);
 
 } // namespace cli

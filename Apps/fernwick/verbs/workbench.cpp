@@ -1,0 +1,27 @@
+#include "Apps/common/installation.h"
+#include "Apps/fernwick/exit_status.h"
+#include "Apps/fernwick/refusal.h"
+#include "Apps/fernwick/verbs/verbs.h"
+#include "Host/files/path_lookup.h"
+#include <unistd.h>
+
+namespace cli {
+
+namespace {
+constexpr const char* kProgram = "fernwick-workbench";
+} // namespace
+
+/// The desktop takes the place of this process. It stands beside this program, in its own folder of a build, or on PATH.
+int runWorkbench(const Options& options, Console& console) {
+    if (!console.flush()) return kMachineTrouble;
+    auto project = options.project.empty() ? std::string() : host::absolutePath(options.project);
+    std::string name = kProgram;
+    char* const arguments[] = {name.data(), project.empty() ? nullptr : project.data(), nullptr};
+    const auto folder = apps::programFolder();
+    for (const auto& place : {folder + "/" + kProgram, folder + "/../workbench/" + kProgram})
+        ::execv(place.c_str(), arguments);
+    ::execvp(kProgram, arguments);
+    throw Refusal(kMachineTrouble, "the desktop is not installed: there is no program fernwick-workbench");
+}
+
+} // namespace cli

@@ -1,0 +1,46 @@
+"""The verb that opens the desktop: which program takes over, and what it is given."""
+import os
+import pathlib
+import shutil
+import stat
+import subprocess
+import tempfile
+import unittest
+
+from support import PROGRAM
+
+
+class Workbench(unittest.TestCase):
+    def setUp(self):
+        self.home = tempfile.TemporaryDirectory()
+        self.addCleanup(self.home.cleanup)
+        self.folder = pathlib.Path(self.home.name).resolve()
+        shutil.copy(PROGRAM, self.folder / "fernwick")
+
+    def install_desktop(self):
+        desktop = self.folder / "fernwick-workbench"
+        desktop.write_text('#!/bin/sh\necho "desktop: $*"\n', encoding="utf-8")
+        desktop.chmod(desktop.stat().st_mode | stat.S_IXUSR)
+
+    def run_verb(self, *arguments):
+        return subprocess.run([self.folder / "fernwick", "workbench", *arguments], capture_output=True, text=True,
+                              cwd=self.folder, env=dict(os.environ, PATH="/nowhere:/usr/bin:/bin", HOME=str(self.folder)))
+
+    def test_the_desktop_takes_over_with_the_projects_whole_path(self):
+        self.install_desktop()
+        (self.folder / "A.vbp").touch()
+        done = self.run_verb("A.vbp")
+        self.assertEqual((done.returncode, done.stdout), (0, f"desktop: {self.folder}/A.vbp\n"))
+
+    def test_it_opens_empty_too(self):
+        self.install_desktop()
+        self.assertEqual(self.run_verb().stdout, "desktop: \n")
+
+    def test_a_desktop_that_is_not_installed_is_told(self):
+        done = self.run_verb()
+        self.assertEqual(done.returncode, 3)
+        self.assertIn("there is no program fernwick-workbench", done.stderr)
+
+
+if __name__ == "__main__":
+    unittest.main()
