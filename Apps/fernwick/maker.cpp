@@ -1,5 +1,4 @@
 #include "Apps/fernwick/maker.h"
-#include <fmt/format.h>
 #include <toml++/toml.h>
 
 namespace cli {
@@ -26,15 +25,6 @@ fernwick::App appOf(const std::string& installation, const std::string& programF
 
 std::string messagePagesOf(const std::string& installation) {
     return makerOf(installation)["messages"].value_or(std::string());
-}
-
-std::string makerProblem(const std::string& installation) {
-    try {
-        (void)toml::parse_file(installation + "/maker.toml");
-        return {};
-    } catch (const toml::parse_error& error) {
-        return fmt::format("{}/maker.toml:{}: {}", installation, error.source().begin.line, error.description());
-    }
 }
 
 } // namespace cli

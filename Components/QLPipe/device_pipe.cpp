@@ -59,7 +59,8 @@ void DevicePipe::send(const std::string& deviceName, const basic::Ref<vbide::VBP
     const auto device = family_.open(services_, deviceName, project);
     const bool lacksRuntime = !bundle.isRuntime && !hasRuntime(*device);
     install(*device, bundle, progress);
-    services_.record->installed.push_back(device->location() + "/" + placeOnDevice(bundle));
+    for (const auto& file : bundle.files)
+        services_.record->installed.push_back(device->location() + "/" + placeOnDevice(bundle, file));
     if (lacksRuntime) tell(kRuntimeNotInstalled, {device->location(), deviceName});
 }
 

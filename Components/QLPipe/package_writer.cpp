@@ -6,10 +6,13 @@
 #include "Components/QLPipe/sha256.h"
 #include "Components/QLPipe/zip_library.h"
 #include <cerrno>
+#include <charconv>
+#include <csignal>
 #include <cstring>
 #include <deque>
 #include <exception>
 #include <fcntl.h>
+#include <filesystem>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
@@ -121,13 +124,15 @@ BundleFile manifestEntry(const std::string& text) {
             [&text] { return std::make_unique<TextReader>(text); }};
 }
 
-/// Without a name of its own a package under way could be taken for a whole one.
+/// Without a name of its own a package under way could be taken for a whole one: ".<name>.<process>.part".
 class UnfinishedFile {
 public:
     explicit UnfinishedFile(const std::string& target)
-        : target_(target),
-          path_((folderOf(target).empty() ? "." : folderOf(target)) + "/." + lastPart(target) + "." +
-                std::to_string(::getpid()) + ".part") {}
+        : target_(target), folder_(folderOf(target).empty() ? "." : folderOf(target)) {
+        const auto begin = "." + lastPart(target) + ".";
+        removeLeftovers(begin);
+        path_ = folder_ + "/" + begin + std::to_string(::getpid()) + ".part";
+    }
     ~UnfinishedFile() { ::unlink(path_.c_str()); }
     const std::string& path() const { return path_; }
 
@@ -141,7 +146,19 @@ public:
     }
 
 private:
-    std::string target_, path_;
+    /// A process that was killed left its file, and libzip's beside it.
+    void removeLeftovers(const std::string& begin) const {
+        std::error_code failed;
+        for (const auto& entry : std::filesystem::directory_iterator(folder_, failed)) {
+            const auto name = entry.path().filename().string();
+            if (!name.starts_with(begin) || name.find(".part", begin.size()) == std::string::npos) continue;
+            pid_t process = 0;
+            std::from_chars(name.data() + begin.size(), name.data() + name.size(), process);
+            if (process > 0 && ::kill(process, 0) != 0 && errno == ESRCH) std::filesystem::remove(entry, failed);
+        }
+    }
+
+    std::string target_, folder_, path_;
 };
 
 class PackageWriter {

@@ -74,6 +74,14 @@ class Catalogue(unittest.TestCase):
                                  text=True)
         self.assertEqual((checked.stdout, checked.stderr, checked.returncode), ("", "", 0))
 
+    def test_pages_link_what_is_there_and_run_nothing(self):
+        index = ROOT / "installation/VB Toolkit/doc/Quinloft_Error_Codes.html"
+        for page in (index, *index.with_suffix("").glob("*.html")):
+            text = page.read_text(encoding="utf-8")
+            self.assertNotIn("<script", text)
+            for link in re.findall(r'(?:href|src)="([^"]*)"', text):
+                self.assertTrue((page.parent / link).is_file(), f"{page.name}: {link}")
+
     def test_a_page_out_of_date_is_noticed(self):
         with Home() as home:
             for folder in ("scripts", "docs", "installation/VB Toolkit/doc"):

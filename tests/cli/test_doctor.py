@@ -57,6 +57,13 @@ class Doctor(unittest.TestCase):
                 shutil.rmtree(path) if path.is_dir() else path.unlink()
                 self.assertIn(part, "\n".join(self.troubles()))
 
+    def test_runtimes(self):
+        (self.installed / "VB Toolkit/Runtime/Common/errors.txt").unlink()
+        shutil.rmtree(self.installed / "VB Toolkit/Runtime/PalmOS")
+        found = "\n".join(self.troubles())
+        self.assertIn("target PalmOS-DragonBall: This installation has no runtime for PalmOS", found)
+        self.assertRegex(found, "target PocketPC-ARM: The runtime .* can't be used")
+
     def test_parts_that_are_something_else(self):
         for part in ("Fonts", "registry", "targets", "tavlets"):
             with self.subTest(part):

@@ -1,6 +1,7 @@
 """Every result in JSON is as its schema file says; SARIF has what viewers need."""
 import json
 import unittest
+import zipfile
 
 import jsonschema
 
@@ -51,6 +52,25 @@ class Schemas(unittest.TestCase):
         self.fits("report", "messages", str(self.project))
         self.fits("report", "check", str(self.project), status=1)
 
+    def test_devices_served(self):
+        project = str(self.project)
+        self.fits("report", "validate", project, "--forms")
+        packed = self.fits("report", "package", project)["devices"][0]
+        self.assertTrue(packed["good"])
+        sent = self.fits("report", "deploy", project)["devices"][0]
+        self.assertEqual([m["number"] for m in sent["messages"]], [3100])
+        self.assertIn("HelloWorld.0000.qlx", " ".join(sent["places"]))
+        self.fits("report", "install-runtime", "--device", "PalmOS-DragonBall")
+        self.home.fernwick("devices", "add", "PalmOS-DragonBall", "LinuxHandheld-ARM")
+        mixed = self.fits("report", "deploy", project, "--my-devices", status=4)["devices"]
+        self.assertEqual([d["good"] for d in mixed], [True, False])
+        listed = self.fits("package-listing", "package", "--list", packed["places"][0])
+        self.fits("package-listing", "package", "--verify", packed["places"][0])
+        self.assertEqual(listed["device"], "PalmOS-DragonBall")
+        sarif = self.home.fernwick("deploy", project, "--my-devices", "--format", "sarif")
+        results = json.loads(sarif.stdout)["runs"][0]["results"]
+        self.assertEqual([r["ruleId"] for r in results], ["20300"])
+
     def test_failures_of_other_verbs_are_reports(self):
         for verb in (["info"], ["settings", "list"], ["messages"]):
             self.fits("report", *verb, "missing.vbp", status=2)
@@ -92,6 +112,16 @@ class Schemas(unittest.TestCase):
         missing = self.fits("dependencies", "dependencies", str(self.project))["dependencies"][0]
         self.assertEqual((missing["size"], missing["missing"]), (None, True))
 
+    def test_packages(self):
+        self.fits("report", "package", str(self.project))
+        package = self.project.with_suffix(".PalmOS-DragonBall.qlpkg")
+        self.fits("package-listing", "package", str(package), "--list")
+        self.fits("package-listing", "package", str(package), "--verify")
+        with zipfile.ZipFile(package) as opened:
+            name = next(n for n in opened.namelist() if n.endswith("manifest.json"))
+            manifest = json.loads(opened.read(name))
+        self.assertEqual([e.message for e in schema("package").iter_errors(manifest)], [])
+
     def test_sarif(self):
         self.broken()
         for verb in ("build", "check", "messages"):
@@ -114,9 +144,10 @@ class Schemas(unittest.TestCase):
         self.assertEqual(invocation["exitCode"], 2)
 
     def test_every_schema_is_tested(self):
+        # package-1, the manifest of packages, is tested where they are made
         self.assertEqual(sorted(p.stem for p in (ROOT / "installation/schemas").glob("*.json")),
-                         ["dependencies-1", "devices-1", "doctor-1", "explain-1", "info-1", "registry-1", "report-1",
-                          "settings-1", "targets-1", "version-1"])
+                         ["dependencies-1", "devices-1", "doctor-1", "explain-1", "info-1", "package-1",
+                          "package-listing-1", "registry-1", "report-1", "settings-1", "targets-1", "version-1"])
 
 
 if __name__ == "__main__":

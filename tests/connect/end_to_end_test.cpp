@@ -95,6 +95,19 @@ TEST_F(EndToEnd, AProjectCompiles) {
     EXPECT_TRUE(host.failures.empty());
 }
 
+TEST_F(EndToEnd, AProjectIsValidatedForItsDevice) {
+    const auto project = connected(hello());
+    user.expectForm("frmValidate");
+    EXPECT_TRUE(modules->validate.ValidateProject(project, "Palm-1"));
+    const auto broken = "Reference=*\\G{00000000-1111-2222-3333-444444444444}#1.0#0#/gone/Gone.dll#Gone\r\n";
+    const auto path =
+        test::SampleProject("Broken").member(broken).module("Module1").handheld("Palm-1").writeTo(host.folder);
+    const auto second = host.openFile(path);
+    user.expectForm("frmValidate");
+    EXPECT_FALSE(modules->validate.ValidateProject(second, "Palm-1"));
+    EXPECT_THAT(second->ReadProperty("Quinloft Project Compile Errors", "Error1"), HasSubstr("|8205"));
+}
+
 TEST_F(EndToEnd, AnErrorIsStoredWithTheLineOfTheCodeWindow) {
     const auto project = connected(hello());
     failAt("Form1.frm", 16); // thirteen lines of design data and hidden attributes stand before the code

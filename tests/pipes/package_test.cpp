@@ -6,6 +6,8 @@
 #include "tests/pipes/zip_bytes.h"
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <limits>
+#include <unistd.h>
 
 namespace {
 
@@ -99,6 +101,16 @@ TEST_F(MakePackage, ReplacesAnOlderPackage) {
     make();
     EXPECT_EQ(placesIn(Package{make()}).size(), 2u);
     EXPECT_EQ(files(), 1u);
+}
+
+TEST_F(MakePackage, RemovesWhatARunThatWasKilledLeft) {
+    const auto process = std::to_string(std::numeric_limits<pid_t>::max()); // no process has this number
+    world.folder.write("packages/.Hello.PocketPC-ARM.qlpkg." + process + ".part.Xa1", "half");
+    world.folder.write("packages/.Hello.PocketPC-ARM.qlpkg." + std::to_string(::getpid()) + ".part.Xa1", "running");
+    world.folder.write("packages/.Hello.PocketPC-ARM.qlpkg.notes", "another file");
+    project.image();
+    EXPECT_NE(make(), "");
+    EXPECT_EQ(files(), 3u) << "the package, a running process's file and one that is not ours";
 }
 
 TEST_F(MakePackage, TellsWhereItCannotWrite) {

@@ -6,8 +6,10 @@
 
 namespace {
 
+using testing::Each;
 using testing::ElementsAre;
 using testing::HasSubstr;
+using testing::StartsWith;
 
 /// An installation of a test's own, with the list of one family's runtime.
 class Runtime : public testing::Test {
@@ -38,7 +40,7 @@ TEST_F(Runtime, GoesToTheDeviceAsAWhole) {
     EXPECT_EQ(world.onDevice("runtime/fonts/Small.cmf"), "font");
     EXPECT_EQ(world.onDevice("runtime/files/errors.txt"), "texts");
     EXPECT_THAT(world.onDevice("runtime/manifest.json"), HasSubstr("\"version\": \"1.0\""));
-    EXPECT_THAT(world.services.record->installed, ElementsAre(world.folder / "devices/PocketPC-ARM/runtime"));
+    EXPECT_THAT(world.services.record->installed, Each(StartsWith(world.folder / "devices/PocketPC-ARM/runtime/")));
 }
 
 TEST_F(Runtime, ReplacesTheOlderOne) {

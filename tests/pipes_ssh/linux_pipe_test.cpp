@@ -8,6 +8,7 @@ namespace {
 
 using qlpipe::LinuxHandheldSettings;
 using qlpipe::SshMessage;
+using testing::Each;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
@@ -45,7 +46,7 @@ TEST_F(LinuxPipe, SendsAProject) {
     EXPECT_EQ(sink.completed, 1);
     EXPECT_EQ(onDevice("applications/Hello/files/Hello.0000.qlx"), test::imageOf("Hello"));
     EXPECT_EQ(onDevice("applications/Hello/files/Data/prices.pdb"), "prices");
-    EXPECT_THAT(world.services.record->installed, ElementsAre(HasSubstr("@127.0.0.1:")));
+    EXPECT_THAT(world.services.record->installed, Each(HasSubstr("@127.0.0.1:")));
     EXPECT_THAT(connect()->list(""), ElementsAre("applications"));
 }
 

@@ -1,8 +1,10 @@
 // The compiler, the design targets and their pipes.
 #include "Add-in/platform/compiler.h"
 #include "Add-in/platform/pipes.h"
+#include "Apps/fernwick/device_place.h"
 #include "Apps/fernwick/doctor/findings.h"
 #include "Components/DesignTargetAccess/design_target_mgr.h"
+#include "Components/QLPipe/runtime_bundle.h"
 #include <fmt/format.h>
 
 namespace cli {
@@ -57,6 +59,19 @@ std::string unregisteredTavlets(Machine& machine, const IQLDesignTarget& target)
     return names;
 }
 
+/// What the installation puts on the target's devices: its version, or what is wrong with it.
+struct ShippedRuntime {
+    std::string version, problem;
+};
+
+ShippedRuntime shippedRuntime(Machine& machine, const IQLDesignTarget& target) {
+    const auto* family = pipeFamilyOf(target.RequiredPipeProgID());
+    if (!family) return {};
+    try {
+        return {qlpipe::runtimeBundle(machine.installation(), family->name).version, {}};
+    } catch (const qlpipe::TransferError& error) { return {{}, error.text}; }
+}
+
 void examineTarget(Machine& machine, const IQLDesignTarget& target, Findings& to) {
     const auto subject = targetSubject(target);
     if (target.PlatformName().empty() || target.RequiredPipeProgID().empty()) {
@@ -72,7 +87,13 @@ void examineTarget(Machine& machine, const IQLDesignTarget& target, Findings& to
     if (const auto names = unregisteredTavlets(machine, target); !names.empty())
         to.push_back(troubleFinding(subject, "controls that are not registered: " + names,
                                     "Install Fernwick again: registry/tavlets.reg registers them."));
-    if (to.size() == before) to.push_back(goodFinding(subject, "pipe " + target.RequiredPipeProgID()));
+    const auto runtime = shippedRuntime(machine, target);
+    if (!runtime.problem.empty())
+        to.push_back(
+            troubleFinding(subject, runtime.problem, "Install Fernwick again: VB Toolkit/Runtime has the runtimes."));
+    if (to.size() == before)
+        to.push_back(
+            goodFinding(subject, fmt::format("pipe {}, runtime {}", target.RequiredPipeProgID(), runtime.version)));
 }
 
 } // namespace
