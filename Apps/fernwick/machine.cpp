@@ -54,7 +54,7 @@ void Machine::registerComponents() {
         return basic::make<compiler::ProjectCompilerFactory>(compiler::CompilerServices{files_, classes_, build_});
     });
     add("Scripting.FileSystemObject", [] { return basic::make<host::FileSystem>(); });
-    qlpipe::registerPipes({files_, classes_, registry_, environment_, installation_, transfers_}, add);
+    qlpipe::registerPipes(pipeServices(), add);
 }
 
 void Machine::drain() {

@@ -31,6 +31,10 @@ public:
     const compiler::BuildRecord& build() const { return *build_; }
     /// What the pipes did; a run that asks for one transfer clears it first.
     qlpipe::TransferRecord& transfers() { return *transfers_; }
+    /// What pipes stand on.
+    qlpipe::PipeServices pipeServices() {
+        return {files_, classes_, registry_, environment_, installation_, transfers_};
+    }
     /// Turns the event loop until nothing is due.
     void drain();
 

@@ -20,7 +20,7 @@ struct PipeFamily {
     /// for packages. Null for a family without devices to send to.
     std::unique_ptr<DeviceStorage> (*open)(const PipeServices& services, const std::string& deviceName,
                                            const basic::Ref<vbide::VBProject>& project);
-    /// Its page of the settings dialog.
+    /// Makes what contributes its page to the settings dialog. Null for a family without that class.
     basic::Ref<IQLPipeConfiguration> (*configure)(const PipeServices& services);
 };
 

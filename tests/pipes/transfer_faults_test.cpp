@@ -3,6 +3,7 @@
 #include "Components/QLPipe/virtual_device/virtual_device.h"
 #include "tests/pipes/other_process.h"
 #include "tests/pipes/pipe_world.h"
+#include <csignal>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
@@ -198,6 +199,33 @@ TEST_F(TransferFaults, LetTwoProcessesSendOneAfterTheOther) {
     EXPECT_TRUE(second.succeeds());
     EXPECT_EQ(world.onDevice("applications/Hello/files/large.wav").size(), 5'000'000u);
     EXPECT_FALSE(world.isOnDevice(".incoming"));
+}
+
+/// From here on the system refuses to write more than that into a file of this process.
+void refuseFilesAbove(rlim_t bytes) {
+    ::signal(SIGXFSZ, SIG_IGN);
+    const rlimit limit{bytes, bytes};
+    ::setrlimit(RLIMIT_FSIZE, &limit);
+}
+
+TEST_F(TransferFaults, TellThatTheSystemRefusesToWrite) {
+    EXPECT_TRUE(world.send(project.image().add("a.txt", "old")));
+    const auto package = world.folder.read(world.package(project).substr(world.folder.path().size() + 1));
+    std::string noise(1'000'000, '\0'); // which can't be packed
+    std::uint32_t state = 1;
+    for (auto& byte : noise) byte = char((state = state * 1664525 + 1013904223) >> 24);
+    project.add("noise.wav", noise);
+    test::OtherProcess other{[&] {
+        refuseFilesAbove(500'000);
+        const bool none = !world.send(project) && world.package(project).empty();
+        const std::vector<int> numbers{qlpipe::kStorageFailed, qlpipe::kPackageNotWritten};
+        return none && world.sink.errorNumbers() == numbers ? 0 : 1;
+    }};
+    EXPECT_TRUE(other.succeeds());
+    EXPECT_TRUE(world.isOnDevice("applications/Hello/files/a.txt"));
+    EXPECT_FALSE(world.isOnDevice("applications/Hello/files/noise.wav"));
+    EXPECT_FALSE(world.isOnDevice(".incoming"));
+    EXPECT_EQ(world.folder.read("Hello.PocketPC-ARM.qlpkg"), package);
 }
 
 // ---- memory ---------------------------------------------------------------------------------------------------

@@ -5,8 +5,9 @@
 #include "Apps/fernwick/json_output.h"
 #include "Apps/fernwick/plural.h"
 #include "Basic/case_folding.h"
-#include "Components/QLPipe/device_pipe.h"
 #include "Components/QLPipe/package.h"
+#include "Components/QLPipe/pipe_family.h"
+#include "Components/QLPipe/pipe_messages.h"
 #include <filesystem>
 
 namespace cli {
@@ -85,15 +86,10 @@ void printBundle(const qlpipe::Bundle& bundle, Console& console) {
     for (const auto& reference : bundle.references) console.out(fmt::format("  needs {}\n", reference));
 }
 
-std::vector<Message> sendPackage(Session& session, const qlpipe::Package& package, const std::string& device,
+std::vector<Message> sendPackage(Session& session, const std::string& path, const std::string& device,
                                  Console& console) {
-    auto& addIn = session.addIn();
-    const auto progId = addIn.devices.GetPipeNameForDevice(device) + ".Pipe";
-    const auto pipe = basic::cast<qlpipe::DevicePipe>(session.machine().classes().CreateObject(progId));
-    if (!pipe) throw Refusal(kMachineTrouble, fmt::format("the pipe {} takes no packages", progId));
     PipeListener listener{console};
-    pipe->SetEventSink(listener);
-    pipe->SendPackage(package, device);
+    qlpipe::installPackage(session.machine().pipeServices(), path, device, listener);
     console.endProgress();
     return listener.messages;
 }
@@ -132,22 +128,21 @@ int verifyPackage(const Options& options, Console& console) {
 
 int installPackage(const Options& options, Console& console) {
     const auto path = packageOperand(options);
-    return readPackage(path, [&](const qlpipe::Package& package) {
-        Session session{options, console};
-        session.connect();
-        const auto devices = devicesToServe(session, options, package.bundle().device);
+    const auto own = readPackage(path, [](const qlpipe::Package& package) { return package.bundle().device; });
+    Session session{options, console};
+    session.connect();
+    const auto devices = devicesToServe(session, options, own);
 
-        Report report;
-        report.verb = options.verb;
-        report.project = path;
-        report.devices = serveDevices(session, devices, console, [&](const std::string& device) {
-            return sendPackage(session, package, device, console);
-        });
-        report.exitStatus = statusOf(report.devices, options.myDevices);
-        session.closeUnsaved();
-        printOutcomes(report, "sent", options.myDevices, options, console);
-        return int(report.exitStatus);
+    Report report;
+    report.verb = options.verb;
+    report.project = path;
+    report.devices = serveDevices(session, devices, console, [&](const std::string& device) {
+        return sendPackage(session, path, device, console);
     });
+    report.exitStatus = statusOf(report.devices, options.myDevices);
+    session.closeUnsaved();
+    printOutcomes(report, "sent", options.myDevices, options, console);
+    return report.exitStatus;
 }
 
 } // namespace cli
