@@ -39,6 +39,16 @@ protected:
         sample.form("Form1", "Sub Form_Load()\r\n    Oops\r\nEnd Sub\r\n").startup("Form1").handheld("Palm-1");
         return sample.sections("LastCompileVersion=3.5.0 (0624)\r\nAutoSaveProject=True\r\n");
     }
+    /// Template folders, of which saving asks whether the project lies in them.
+    void installTemplates() {
+        host.folder.write("Template/Projects/Standard.vbp", "");
+        host.folder.write("VB Toolkit/Template/Projects/Fernwick Project.vbp", "");
+        std::uint32_t key = 0, disposition = 0;
+        host.registry.RegCreateKeyEx(fernwick::HKEY_LOCAL_MACHINE, "Software\\Quinloft", fernwick::KEY_ALL_ACCESS, key,
+                                     disposition);
+        host.registry.RegSetValueEx(key, "RootDir", fernwick::REG_SZ, host.folder.path() + '\0');
+        host.registry.RegCloseKey(key);
+    }
     void failAt(const std::string& file, int line) {
         compiler->built = compiler->finished = false;
         compiler->work = [=, this](test::FakeCompiler& c) {
@@ -96,16 +106,21 @@ TEST_F(EndToEnd, AProjectCompiles) {
 }
 
 TEST_F(EndToEnd, AProjectIsValidatedForItsDevice) {
+    installTemplates();
     const auto project = connected(hello());
     user.expectForm("frmValidate");
     EXPECT_TRUE(modules->validate.ValidateProject(project, "Palm-1"));
-    const auto broken = "Reference=*\\G{00000000-1111-2222-3333-444444444444}#1.0#0#/gone/Gone.dll#Gone\r\n";
-    const auto path =
-        test::SampleProject("Broken").member(broken).module("Module1").handheld("Palm-1").writeTo(host.folder);
-    const auto second = host.openFile(path);
+    EXPECT_EQ(modules->compileMsgs()->rowCount(), 1); // the header
+}
+
+TEST_F(EndToEnd, AMissingLibraryFailsTheValidation) {
+    installTemplates();
+    const auto gone = "Reference=*\\G{00000000-1111-2222-3333-444444444444}#1.0#0#/gone/Gone.dll#Gone";
+    const auto project = connected(hello().member(gone));
     user.expectForm("frmValidate");
-    EXPECT_FALSE(modules->validate.ValidateProject(second, "Palm-1"));
-    EXPECT_THAT(second->ReadProperty("Quinloft Project Compile Errors", "Error1"), HasSubstr("|8205"));
+    EXPECT_FALSE(modules->validate.ValidateProject(project, "Palm-1"));
+    EXPECT_THAT(host.folder.read("Hello.vbp"), HasSubstr("|0|There is a missing reference in this project, please "
+                                                         "remove the reference.|8205"));
 }
 
 TEST_F(EndToEnd, AnErrorIsStoredWithTheLineOfTheCodeWindow) {
