@@ -1,6 +1,8 @@
 #pragma once
 // The add-in's entry object: what the host calls, and every event that the add-in listens to.
 #include "Add-in/commands/command_items.h"
+#include "Add-in/deploy/frmSendRuntimeToDevice.h"
+#include "Add-in/deploy/frmSendToDevice.h"
 #include "Add-in/lifecycle/ProjectSetup.h"
 #include <array>
 
@@ -8,10 +10,15 @@ namespace fernwick {
 
 class Connect;
 
-/// The sink of a menu item or button. It has no handler until its command is here.
+/// The sink of a menu item or button.
 class Command : public WithEvents<vbide::CommandBarEvents> {
 public:
+    using Item = CommandItems::Item;
+
     explicit Command(Connect* owner) : WithEvents(owner) {}
+    Command(Connect* owner, void (Connect::*clicked)());
+    /// The clicked item tells what to do.
+    Command(Connect* owner, void (Connect::*clicked)(const Item& item));
     using WithEvents::operator=;
 };
 
@@ -29,6 +36,10 @@ struct ConnectServices {
     frmProjectRemoval& removal;
     ProjectSetup& setup;
     IdeCommands& commands;
+    const modQLInstallInfo& install;
+    frmCompile& compile;
+    frmSendToDevice& sendToDevice;
+    frmSendRuntimeToDevice& sendRuntime;
 };
 
 class Connect : public vbide::IDTExtensibility {
@@ -48,23 +59,23 @@ public:
     void SetupMenuHandlers(const Host& VBInst);
 
     // Main menu
-    Command QuinloftSettingsHandler{this};
-    Command CompileProjectHandler{this};
-    Command ProjectManagerHandler{this};
-    Command MakePackageAllDevices{this};
-    Command DeployAllDevices{this};
-    Command InstallVMAllDevices{this};
-    Command DownloadVMHandler{this};
-    Command AddinOnlineHelpHandler{this};
-    Command AddinUsersGuideHandler{this};
-    Command AboutHandler{this};
-    Command ZoomWindowHandler{this};
-    Command CompileErrorWindowHandler{this};
+    Command QuinloftSettingsHandler{this, &Connect::QuinloftSettingsHandler_Click};
+    Command CompileProjectHandler{this, &Connect::CompileProjectHandler_Click};
+    Command ProjectManagerHandler{this, &Connect::ProjectManagerHandler_Click};
+    Command MakePackageAllDevices{this, &Connect::MakePackageAllDevices_Click};
+    Command DeployAllDevices{this, &Connect::DeployAllDevices_Click};
+    Command InstallVMAllDevices{this, &Connect::InstallVMAllDevices_Click};
+    Command DownloadVMHandler{this, &Connect::DownloadVMHandler_Click};
+    Command AddinOnlineHelpHandler{this, &Connect::AddinOnlineHelpHandler_Click};
+    Command AddinUsersGuideHandler{this, &Connect::AddinUsersGuideHandler_Click};
+    Command AboutHandler{this, &Connect::AboutHandler_Click};
+    Command ZoomWindowHandler{this, &Connect::ZoomWindowHandler_Click};
+    Command CompileErrorWindowHandler{this, &Connect::CompileErrorWindowHandler_Click};
 
     // Device slots: the clicked item's Tag tells the device
-    std::array<Command, kDeviceSlots> MakePackageDevice{slots()};
-    std::array<Command, kDeviceSlots> DeployDevice{slots()};
-    std::array<Command, kDeviceSlots> InstallVMDevice{slots()};
+    std::array<Command, kDeviceSlots> MakePackageDevice{slots(&Connect::MakePackageHandler)};
+    std::array<Command, kDeviceSlots> DeployDevice{slots(&Connect::DeployDeviceHandler)};
+    std::array<Command, kDeviceSlots> InstallVMDevice{slots(&Connect::InstallVMForDevice)};
 
     // Utilities menu
     Command MenuDatabaseConverterHandler{this};
@@ -78,17 +89,17 @@ public:
     Command MenuWeirgateHandler{this};
 
     // Samples menu
-    Command SampleIntroHandler{this};
-    Command SampleHelloWorldHandler{this};
-    Command SampleOpenSampleDirHandler{this};
+    Command SampleIntroHandler{this, &Connect::SampleIntroHandler_Click};
+    Command SampleHelloWorldHandler{this, &Connect::SampleHelloWorldHandler_Click};
+    Command SampleOpenSampleDirHandler{this, &Connect::SampleOpenSampleDirHandler_Click};
 
     // Main toolbar
-    Command ToolQuinloftSettingsHandler{this};
-    Command ToolCompileProjectHandler{this};
-    Command ToolDeployProjectHandler{this};
-    Command ToolAddinUsersGuideHandler{this};
-    Command ToolZoomWindowHandler{this};
-    Command ToolProjectManagerHandler{this};
+    Command ToolQuinloftSettingsHandler{this, &Connect::ToolQuinloftSettingsHandler_Click};
+    Command ToolCompileProjectHandler{this, &Connect::ToolCompileProjectHandler_Click};
+    Command ToolDeployProjectHandler{this, &Connect::ToolDeployProjectHandler_Click};
+    Command ToolAddinUsersGuideHandler{this, &Connect::ToolAddinUsersGuideHandler_Click};
+    Command ToolZoomWindowHandler{this, &Connect::ToolZoomWindowHandler_Click};
+    Command ToolProjectManagerHandler{this, &Connect::ToolProjectManagerHandler_Click};
 
     // Support toolbar
     Command ToolDatabaseConverterHandler{this};
@@ -132,7 +143,7 @@ public:
 private:
     using Item = CommandItems::Item;
 
-    std::array<Command, kDeviceSlots> slots();
+    std::array<Command, kDeviceSlots> slots(void (Connect::*clicked)(const Item& item));
     void buildInterface(Procedure& here, const Host& VBInst, const basic::Ref<vbide::AddIn>& AddInInst);
     void buildMenu(Procedure& here, const Host& VBInst, const basic::Ref<vbide::AddIn>& AddInInst);
     void meetSiblings(Procedure& here, const Host& VBInst);
@@ -147,6 +158,40 @@ private:
     void SetupSupportToolbarHandlers(const Host& VBInst);
     void setupDeviceSlots(Procedure& here, const Host& VBInst);
     void wire(Procedure& here, const Host& VBInst, Command& sink, const Item& item);
+
+    // Commands on the active project
+    void CompileProjectHandler_Click();
+    void ToolCompileProjectHandler_Click() { CompileProjectHandler_Click(); }
+    void ToolDeployProjectHandler_Click();
+    void CompileErrorWindowHandler_Click();
+    void QuinloftSettingsHandler_Click();
+    void ToolQuinloftSettingsHandler_Click() { QuinloftSettingsHandler_Click(); }
+    basic::Ref<clsQLProject> activeProject();
+    // Commands on one device, which the item names. An error goes to the host.
+    void DeployDeviceHandler(const Item& item);
+    void MakePackageHandler(const Item& item);
+    void InstallVMForDevice(const Item& item);
+    // Commands on My Devices. An error goes to the host.
+    void DeployAllDevices_Click();
+    void MakePackageAllDevices_Click();
+    void InstallVMAllDevices_Click();
+    bool hasMyDevices();
+    void toMyDevices(const std::function<void(const std::string& device)>& act);
+    // Commands that lead elsewhere
+    void ProjectManagerHandler_Click() { notInThisBuild(); }
+    void ToolProjectManagerHandler_Click() { notInThisBuild(); }
+    void ZoomWindowHandler_Click();
+    void ToolZoomWindowHandler_Click() { ZoomWindowHandler_Click(); }
+    void DownloadVMHandler_Click();
+    void AddinUsersGuideHandler_Click();
+    void ToolAddinUsersGuideHandler_Click() { AddinUsersGuideHandler_Click(); }
+    void AddinOnlineHelpHandler_Click();
+    void AboutHandler_Click();
+    void SampleIntroHandler_Click();
+    void SampleHelloWorldHandler_Click();
+    void SampleOpenSampleDirHandler_Click();
+    void notInThisBuild();
+    void box(const char* text, int icon);
 
     void GlobalFileControlHandler_BeforeLoadFile(basic::Ref<vbide::VBProject> VBProject,
                                                  const std::vector<std::string>& FileNames);

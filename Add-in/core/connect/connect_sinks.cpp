@@ -7,15 +7,28 @@ namespace fernwick {
 
 namespace {
 
+using Clicked = void (Connect::*)(const CommandItems::Item& item);
+
 template <std::size_t... I>
-std::array<Command, sizeof...(I)> sinkSlots(Connect* owner, std::index_sequence<I...>) {
-    return {((void)I, Command{owner})...};
+std::array<Command, sizeof...(I)> sinkSlots(Connect* owner, Clicked clicked, std::index_sequence<I...>) {
+    return {((void)I, Command{owner, clicked})...};
 }
 
 } // namespace
 
-std::array<Command, Connect::kDeviceSlots> Connect::slots() {
-    return sinkSlots(this, std::make_index_sequence<kDeviceSlots>{});
+Command::Command(Connect* owner, void (Connect::*clicked)())
+    : WithEvents(owner, [clicked](vbide::CommandBarEvents& source, Connect& connect) {
+          return source.Click.connect([&connect, clicked](const Item&, bool&, bool&) { (connect.*clicked)(); });
+      }) {}
+
+Command::Command(Connect* owner, Clicked clicked)
+    : WithEvents(owner, [clicked](vbide::CommandBarEvents& source, Connect& connect) {
+          return source.Click.connect(
+              [&connect, clicked](const Item& item, bool&, bool&) { (connect.*clicked)(item); });
+      }) {}
+
+std::array<Command, Connect::kDeviceSlots> Connect::slots(Clicked clicked) {
+    return sinkSlots(this, clicked, std::make_index_sequence<kDeviceSlots>{});
 }
 
 /// An item that doesn't stand leaves its sink as it is.
