@@ -11,8 +11,8 @@ namespace basic {
 
 namespace {
 
-Decimal requiredNumber(std::string_view text) {
-    if (auto number = readNumber(text)) return *std::move(number);
+Decimal requiredNumber(std::string_view text, int bits = 0) {
+    if (auto number = readNumber(text, bits)) return *std::move(number);
     throw RuntimeError(kTypeMismatch);
 }
 
@@ -24,7 +24,9 @@ Double roundHalfToEven(Double number) {
 
 template <class Whole>
 Whole toWhole(const Convertible& value) {
-    const Double rounded = roundHalfToEven(value.number());
+    constexpr int kBits = std::numeric_limits<Whole>::is_signed ? 8 * sizeof(Whole) : 0;
+    const Double number = value.text() ? toDouble(requiredNumber(*value.text(), kBits)) : value.number();
+    const Double rounded = roundHalfToEven(number);
     const bool fits = rounded >= std::numeric_limits<Whole>::min() && rounded <= std::numeric_limits<Whole>::max();
     if (!fits) throw RuntimeError(kOverflow);
     return static_cast<Whole>(rounded);

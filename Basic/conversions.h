@@ -38,7 +38,7 @@ private:
 bool CBool(const Convertible& value);
 
 /// The nearest whole number, of two the even one. Texts that are no number are error 13, numbers beyond the type's
-/// range error 6. The text "&HFFFF" is the Integer -1, as the literal is; "&HFFFF&" is 65535.
+/// range error 6. A text such as "&HFFFF" is a bit pattern of the type: CInt makes -1 of it, CLng 65535.
 Byte CByte(const Convertible& value);
 Integer CInt(const Convertible& value);
 Long CLng(const Convertible& value);

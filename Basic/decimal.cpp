@@ -2,7 +2,8 @@
 #include "Basic/runtime_error.h"
 #include <algorithm>
 #include <charconv>
-#include <cstdlib>
+#include <limits>
+#include <utility>
 
 namespace basic {
 
@@ -62,8 +63,12 @@ private:
     }
 };
 
-Decimal decimalOf(Long number) {
-    return {number < 0, number == 0 ? "" : std::to_string(std::abs(static_cast<long long>(number))), 0};
+Decimal decimalOf(const BitPattern& pattern, int bits) {
+    const std::uint64_t beyond = std::uint64_t{1} << bits;
+    const bool negative =
+        bits > 0 && !(bits == 16 && pattern.isLong) && pattern.value < beyond && pattern.value >= beyond / 2;
+    const std::uint64_t size = negative ? beyond - pattern.value : pattern.value;
+    return {negative, size == 0 ? "" : std::to_string(size), 0};
 }
 
 /// Whether the digits from `at` on are more than a half (1), a half (0) or less (-1) of the digit before.
@@ -94,30 +99,30 @@ std::optional<Decimal> readUnsigned(std::string_view& text, bool grouped) {
     return number;
 }
 
-std::optional<Long> hexadecimalOrOctal(std::string_view& text) {
+std::optional<BitPattern> hexadecimalOrOctal(std::string_view& text) {
     std::string_view rest = text;
     const bool hexadecimal = take(rest, 'h');
     if (!hexadecimal && !take(rest, 'o')) return std::nullopt;
-    const int base = hexadecimal ? 16 : 8;
-    std::uint64_t value = 0;
+    const unsigned base = hexadecimal ? 16 : 8;
+    BitPattern pattern;
     const std::size_t before = rest.size();
-    for (; !rest.empty() && digitValue(rest.front()) < base; rest.remove_prefix(1)) {
-        value = value * static_cast<unsigned>(base) + static_cast<unsigned>(digitValue(rest.front()));
-        if (value > 0xFFFFFFFF) throw RuntimeError(kOverflow);
+    for (; !rest.empty() && digitValue(rest.front()) < int(base); rest.remove_prefix(1)) {
+        if (pattern.value > std::numeric_limits<std::uint64_t>::max() / base) throw RuntimeError(kOverflow);
+        pattern.value = pattern.value * base + unsigned(digitValue(rest.front()));
     }
     if (rest.size() == before) return std::nullopt;
-    const bool isLong = take(rest, '&') || value > 0xFFFF;
+    pattern.isLong = take(rest, '&');
     text = rest;
-    return isLong ? static_cast<Long>(value) : static_cast<Integer>(value);
+    return pattern;
 }
 
-std::optional<Decimal> readNumber(std::string_view text) {
+std::optional<Decimal> readNumber(std::string_view text, int bits) {
     Surroundings around;
     while (around.takeFrom(text, true)) {}
     std::optional<Decimal> number;
     if (take(text, '&')) {
-        const auto value = hexadecimalOrOctal(text);
-        if (value) number = decimalOf(*value);
+        const auto pattern = hexadecimalOrOctal(text);
+        if (pattern) number = decimalOf(*pattern, bits);
     } else
         number = readUnsigned(text, true);
     while (around.takeFrom(text, false)) {}

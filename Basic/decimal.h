@@ -1,6 +1,7 @@
 #pragma once
 // Numbers as VB reads them in texts, exact until a type is asked for. The conversions stand on this.
 #include "Basic/types.h"
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -22,13 +23,20 @@ Currency toCurrency(const Decimal& number);
 
 /// A whole text as a number by the rules of en-US; nothing for a text that is none. In front and behind may stand, in
 /// any order, white space, one sign, "$" and parentheses for a negative number; digits may be grouped by "," anywhere
-/// before the point; the exponent's letter is E or D. &H and &O numbers are read as hexadecimalOrOctal does.
-std::optional<Decimal> readNumber(std::string_view text);
+/// before the point; the exponent's letter is E or D. &H and &O numbers are bit patterns of `bits` (16 or 32), so that
+/// &HFFFF is -1 in 16 bits and 65535 in 32; a pattern that is longer, and any when `bits` is 0, is its plain value.
+std::optional<Decimal> readNumber(std::string_view text, int bits = 0);
 
-/// The number that stands behind "&" at the beginning of `text` ("HFF", "o17", "&H8000&" without its first "&"). As in
-/// VB's literals, up to FFFF it is an Integer, beyond it a Long, so that HFFFF is -1; a closing "&" makes it a Long.
-/// `text` loses what was read. Nothing when no digit follows; error 6 beyond 32 bits.
-std::optional<Long> hexadecimalOrOctal(std::string_view& text);
+/// A bit pattern as it was written.
+struct BitPattern {
+    std::uint64_t value = 0;
+    /// Ends in "&".
+    bool isLong = false;
+};
+
+/// The number that stands behind "&" at the beginning of `text` ("HFF", "o17", "&H8000&" without its first "&").
+/// `text` loses what was read. Nothing when no digit follows; error 6 beyond 64 bits.
+std::optional<BitPattern> hexadecimalOrOctal(std::string_view& text);
 
 /// The digits, point and exponent that `text` begins with, `grouped` by "," or not; `text` loses them. Nothing when
 /// there is no digit.

@@ -37,6 +37,13 @@ std::string numberBeginning(std::string_view text) {
     return seen;
 }
 
+/// As in the language's literals, up to FFFF it is an Integer, beyond it a Long; a closing "&" makes it a Long.
+Long literalValue(const BitPattern& pattern) {
+    if (pattern.value > 0xFFFFFFFF) throw RuntimeError(kOverflow);
+    const bool isLong = pattern.isLong || pattern.value > 0xFFFF;
+    return isLong ? static_cast<Long>(pattern.value) : static_cast<Integer>(pattern.value);
+}
+
 } // namespace
 
 std::string Hex(Integer number) { return digitsInBase(static_cast<std::uint16_t>(number), 16); }
@@ -56,7 +63,8 @@ Double Val(std::string_view text) {
     if (negative || (!rest.empty() && rest.front() == '+')) rest.remove_prefix(1);
     if (!rest.empty() && rest.front() == '&') {
         rest.remove_prefix(1);
-        const Double value = hexadecimalOrOctal(rest).value_or(0);
+        const auto pattern = hexadecimalOrOctal(rest);
+        const Double value = pattern ? literalValue(*pattern) : 0;
         return negative ? -value : value;
     }
     auto number = readUnsigned(rest, false);

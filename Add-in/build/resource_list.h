@@ -9,9 +9,9 @@ namespace fernwick {
 /// One dependency file.
 struct tResource {
     /// Relative to the project's folder, or the bare name of a font in the fonts folder.
-    std::string FileName;
+    std::string FileName{};
     /// The extension in upper case ("CMF").
-    std::string FileType;
+    std::string FileType{};
     /// Bytes when it was read or added; 0 when that is not known.
     std::int32_t FileSize = 0;
     /// "???" until a page of the settings fills it.

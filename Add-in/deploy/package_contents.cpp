@@ -7,8 +7,6 @@ namespace fernwick {
 
 namespace {
 
-constexpr char kFontType[] = "CMF";
-
 /// Lists from 0 on have at least one element.
 void requireElements(std::size_t count) {
     if (count == 0) throw basic::RuntimeError(basic::kSubscriptOutOfRange);
@@ -69,8 +67,9 @@ bool frmSendToDevice::addFonts(Procedure& here, Package& package) {
 
 /// A file that isn't there is left out where the user agrees. False where he doesn't.
 bool frmSendToDevice::addOrAsk(Procedure& here, Package& package, const std::string& path, const char* question) {
-    if (here.test([&] { return use_.platform.files.FileExists(path); })) {
-        package.add(path);
+    const auto& files = use_.platform.files;
+    if (here.test([&] { return files.FileExists(path); })) {
+        here([&] { package.add(files.Canonical(path)); });
         return true;
     }
     const auto text = std::string(question) + "\r\n" + path;

@@ -70,4 +70,42 @@ public:
     virtual void SetEventSink(IQLPipeEvents& sink) = 0;
 };
 
+/// A setting that a pipe stores in a project, as a page shows it: a label and a field of text.
+struct PipeSetting {
+    /// Section and key of VBProject::ReadProperty.
+    std::string Section, Key;
+    std::string Caption;
+    /// What stands in the field; nothing is stored before ApplyPage.
+    std::string Value;
+};
+
+/// A page of the settings dialog that a pipe contributes: a form without a window of its own. The dialog draws its
+/// fields and writes what the user types into them.
+class IQLPipePage : public fernwick::Object {
+public:
+    /// In the order of the page.
+    virtual std::vector<PipeSetting>& Settings() = 0;
+    virtual bool Visible() const = 0;
+};
+
+/// Registered under the pipe's ProgID followed by ".Configuration".
+class IQLPipeConfiguration : public fernwick::Object {
+public:
+    /// The page for a project, filled with what the project stores; Nothing for a pipe that has none. Twips from the
+    /// dialog's corner.
+    virtual basic::Ref<IQLPipePage> CreatePage(const basic::Ref<vbide::VBProject>& project, std::int32_t top,
+                                               std::int32_t left) = 0;
+    virtual void ShowPage() = 0;
+    virtual void HidePage() = 0;
+    /// Whether what the user typed can be stored.
+    virtual bool ValidatePage() = 0;
+    /// Stores it in the project.
+    virtual void ApplyPage() = 0;
+    /// Lets go of the page and the project.
+    virtual void ClosePage() = 0;
+    virtual bool HasPage() = 0;
+    /// Also its node in the dialog's tree; "" for a pipe without a page.
+    virtual std::string PageName() = 0;
+};
+
 } // namespace qlpipe

@@ -12,6 +12,10 @@ enum ExitStatus : int {
     kWrongUse = 2,
     /// Trouble with the installation or the machine.
     kMachineTrouble = 3,
+    /// Of My Devices some failed.
+    kSomeDevicesFailed = 4,
+    /// Of My Devices all failed.
+    kAllDevicesFailed = 5,
     /// Ended by Ctrl+C.
     kInterrupted = 130,
 };

@@ -3,7 +3,7 @@
 #include "Apps/fernwick/interruption.h"
 #include "Apps/fernwick/maker.h"
 #include "Components/DesignTargetAccess/design_target_mgr.h"
-#include "Components/QLPipe/family_validation.h"
+#include "Components/QLPipe/pipe_family.h"
 #include <chrono>
 #include <thread>
 
@@ -66,7 +66,7 @@ void Machine::registerComponents() {
         return basic::make<compiler::ProjectCompilerFactory>(compiler::CompilerServices{files_, classes_, build_});
     });
     add("Scripting.FileSystemObject", [] { return basic::make<host::FileSystem>(); });
-    qlpipe::registerPipes(add);
+    qlpipe::registerPipes({files_, classes_, registry_, environment_, installation_, transfers_}, add);
 }
 
 void Machine::drain() {

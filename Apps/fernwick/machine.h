@@ -2,6 +2,7 @@
 // The machine that a run of the command line works on: the host's services over this system.
 #include "Add-in/platform/platform.h"
 #include "Apps/fernwick/command_line_user.h"
+#include "Components/QLPipe/pipe_services.h"
 #include "Components/QLToolkit/compiler.h"
 #include "Host/registry/registry_store.h"
 #include "Host/system/classes.h"
@@ -30,6 +31,8 @@ public:
     const std::string& installation() const { return installation_; }
     /// What the last build did.
     const compiler::BuildRecord& build() const { return *build_; }
+    /// What the pipes did; a run that asks for one transfer clears it first.
+    qlpipe::TransferRecord& transfers() { return *transfers_; }
     /// Turns the event loop until nothing is due.
     void drain();
 
@@ -49,6 +52,7 @@ private:
     host::Screen screen_;
     host::Resources resources_;
     std::shared_ptr<compiler::BuildRecord> build_ = std::make_shared<compiler::BuildRecord>();
+    std::shared_ptr<qlpipe::TransferRecord> transfers_ = std::make_shared<qlpipe::TransferRecord>();
     std::vector<std::shared_ptr<void>> registered_;
     fernwick::Platform platform_;
 };

@@ -19,9 +19,22 @@ struct Verb {
 };
 
 constexpr std::array kVerbs{
-    Verb{"build", cli::runBuild},       Verb{"check", cli::runCheck},       Verb{"info", cli::runInfo},
-    Verb{"messages", cli::runMessages}, Verb{"registry", cli::runRegistry}, Verb{"settings", cli::runSettings},
-    Verb{"targets", cli::runTargets},   Verb{"version", cli::runVersion},
+    Verb{"build", cli::runBuild},
+    Verb{"check", cli::runCheck},
+    Verb{"dependencies", cli::runDependencies},
+    Verb{"deploy", cli::runDeploy},
+    Verb{"devices", cli::runDevices},
+    Verb{"doctor", cli::runDoctor},
+    Verb{"explain", cli::runExplain},
+    Verb{"info", cli::runInfo},
+    Verb{"install-runtime", cli::runInstallRuntime},
+    Verb{"messages", cli::runMessages},
+    Verb{"package", cli::runPackage},
+    Verb{"registry", cli::runRegistry},
+    Verb{"settings", cli::runSettings},
+    Verb{"targets", cli::runTargets},
+    Verb{"validate", cli::runValidate},
+    Verb{"version", cli::runVersion},
 };
 
 int runVerb(const cli::Options& options, cli::Console& console) {

@@ -7,4 +7,10 @@ namespace cli {
 /// The App object with the maker's addresses from `installation`/maker.toml; without that file they are empty.
 fernwick::App appOf(const std::string& installation, const std::string& programFolder);
 
+/// The maker's address below which each message has its page, with "/" at its end; "" where none is known.
+std::string messagePagesOf(const std::string& installation);
+
+/// What is wrong with that file, with its line; "" for nothing.
+std::string makerProblem(const std::string& installation);
+
 } // namespace cli

@@ -18,7 +18,8 @@ struct Raw {
 };
 
 constexpr const char* kExitText = "Exit status: 0 good, 1 errors in the project, 2 wrong use,\n"
-                                  "3 trouble with the installation or the machine, 130 interrupted.";
+                                  "3 trouble with the installation or the machine, 130 interrupted;\n"
+                                  "of My Devices 4 some failed, 5 all failed.";
 
 /// Help without the library's notes on types and exclusions.
 class HelpFormatter : public CLI::Formatter {
@@ -34,16 +35,16 @@ public:
     }
 };
 
-/// A verb whose result is a list of messages can give it as SARIF too.
-enum class Result { Data, Messages };
+/// A verb whose result is a list of messages can give it as SARIF too, and one that documents them as Markdown.
+enum class Result { Data, Messages, Pages };
 
 void addCommon(CLI::App& verb, Raw& raw, Result result) {
-    const bool messages = result == Result::Messages;
     std::vector<std::string> formats{"text", "json"};
-    if (messages) formats.push_back("sarif");
+    if (result == Result::Messages) formats.push_back("sarif");
+    if (result == Result::Pages) formats.push_back("markdown");
     verb.add_option("--format", raw.format,
-                    messages ? "How the result is written: text, json or sarif"
-                             : "How the result is written: text or json")
+                    "How the result is written: text" +
+                        (formats.size() == 2 ? " or json" : ", json or " + formats.back()))
         ->check(CLI::IsMember(formats))
         ->type_name("FORMAT");
     verb.add_flag("-q,--quiet", raw.quiet, "Only errors and data");
@@ -71,19 +72,65 @@ CLI::App& addVerb(CLI::App& app, Raw& raw, const char* name, const char* descrip
     return *verb;
 }
 
+void addSteps(CLI::App& verb, Raw& raw) {
+    verb.add_flag("--trust-steps", raw.options.trustSteps, "Run the project's compile steps without asking");
+    verb.add_flag("--no-steps", raw.options.noSteps, "Run none of the project's compile steps")
+        ->excludes("--trust-steps");
+}
+
+void addDevices(CLI::App& verb, Raw& raw, const char* without) {
+    verb.add_option("--device", raw.options.device, fmt::format("Design target of the device{}", without))
+        ->type_name("KEY");
+    verb.add_flag("--my-devices", raw.options.myDevices, "All of My Devices, one after the other")
+        ->excludes("--device");
+}
+
 void defineBuild(CLI::App& app, Raw& raw) {
-    auto& build = addVerb(app, raw, "build", "Compile a project for its device",
+    auto& build = addVerb(app, raw, "build", "Compile a project and validate it for its device",
                           "fernwick build AddressBook.vbp --depfile AddressBook.d", Result::Messages);
     addProject(build, raw);
     addAnswers(build, raw);
-    build.add_option("--device", raw.options.device, "Design target for a project that has none")->type_name("KEY");
+    build
+        .add_option("--device", raw.options.device,
+                    "Design target to validate for, and that of a project that has none")
+        ->type_name("KEY");
     build.add_option("--depfile", raw.options.depfile, "Write what the image was made from in make's format")
         ->type_name("FILE");
     build.add_flag("-n,--dry-run", raw.options.dryRun, "Say what would be compiled and run, and write nothing")
         ->excludes("--format");
-    build.add_flag("--trust-steps", raw.options.trustSteps, "Run the project's compile steps without asking");
-    build.add_flag("--no-steps", raw.options.noSteps, "Run none of the project's compile steps")
-        ->excludes("--trust-steps");
+    addSteps(build, raw);
+
+    auto& validate = addVerb(app, raw, "validate", "Check a project against what its device supports",
+                             "fernwick validate AddressBook.vbp --forms --device PocketPC-SH3", Result::Messages);
+    addProject(validate, raw);
+    addAnswers(validate, raw);
+    validate.add_option("--device", raw.options.device, "Design target to validate for (the project's own)")
+        ->type_name("KEY");
+    validate.add_flag("--forms", raw.options.forms, "Check names, properties, events and controls of each form too");
+}
+
+void defineDeploy(CLI::App& app, Raw& raw) {
+    auto& package = addVerb(app, raw, "package", "Pack a project into a file that devices install from",
+                            "fernwick package AddressBook.vbp\n  fernwick package --list "
+                            "AddressBook.PalmOS-DragonBall.qlpkg",
+                            Result::Messages);
+    package.add_option("PROJECT", raw.options.project, "Project file, or with --list and --verify a package");
+    addDevices(package, raw, " (the project's own)");
+    package.add_flag("--list", raw.options.list, "List what is in a package");
+    package.add_flag("--verify", raw.options.verify, "Check a package against its manifest")->excludes("--list");
+    addAnswers(package, raw);
+    addSteps(package, raw);
+
+    auto& deploy = addVerb(app, raw, "deploy", "Send a project, or a package, to a device",
+                           "fernwick deploy AddressBook.vbp --my-devices", Result::Messages);
+    deploy.add_option("PROJECT", raw.options.project, "Project file or package");
+    addDevices(deploy, raw, " (the project's own)");
+    addAnswers(deploy, raw);
+    addSteps(deploy, raw);
+
+    auto& runtime = addVerb(app, raw, "install-runtime", "Install the Tamarik runtime on a device",
+                            "fernwick install-runtime --device PalmOS-DragonBall", Result::Messages);
+    addDevices(runtime, raw, "");
 }
 
 void defineReaders(CLI::App& app, Raw& raw) {
@@ -138,16 +185,45 @@ void defineRegistry(CLI::App& app, Raw& raw) {
         ->excludes("--format");
 }
 
+void defineDependencies(CLI::App& app, Raw& raw) {
+    auto& dependencies = addVerb(app, raw, "dependencies", "List, add or remove the files that go along with a project",
+                                 "fernwick dependencies AddressBook.vbp add data/cities.pdb logo.bmp");
+    dependencies.add_option("OPERANDS", raw.options.operands, "[PROJECT] [list | add FILE... | remove FILE...]");
+    addAnswers(dependencies, raw);
+}
+
+/// Verbs on what is installed rather than on a project.
+void defineTools(CLI::App& app, Raw& raw) {
+    auto& explain = addVerb(app, raw, "explain", "Tell what messages mean and what to do about them",
+                            "fernwick explain 1300 2999", Result::Pages);
+    explain.add_option("NUMBER", raw.options.operands, "Numbers of messages; without any all messages are listed");
+
+    auto& devices = addVerb(app, raw, "devices", "List My Devices and say which they are",
+                            "fernwick devices add PalmOS-DragonBall\n  "
+                            "fernwick devices set LinuxHandheld-ARM Host=192.168.1.20 User=me");
+    devices.add_option("ACTION", raw.options.action, "list, add, remove or set; list when it is left out")
+        ->check(CLI::IsMember({"list", "add", "remove", "set"}));
+    devices.add_option("OPERANDS", raw.options.operands, "add KEY... | remove KEY... | set KEY NAME=VALUE...");
+
+    addVerb(app, raw, "doctor", "Say what is installed and usable, and what sets the rest right", "fernwick doctor");
+}
+
 std::string answersHelp() {
     return "Questions, the answers that a script gets, and what they are about:\n\n" + describeQuestions() +
            "\nA form that is not listed is cancelled, a box answered with no or cancel.\n"
            "--yes and --no answer all of them, --answer NAME=REPLY one.\n";
 }
 
+Format formatNamed(std::string_view name) {
+    if (name == "json") return Format::Json;
+    if (name == "sarif") return Format::Sarif;
+    return name == "markdown" ? Format::Markdown : Format::Text;
+}
+
 Parsed finish(Raw& raw) {
     Parsed parsed;
     auto& options = raw.options;
-    options.format = raw.format == "json" ? Format::Json : raw.format == "sarif" ? Format::Sarif : Format::Text;
+    options.format = formatNamed(raw.format);
     options.verbosity = raw.quiet ? Verbosity::Quiet : raw.verbose ? Verbosity::Verbose : Verbosity::Normal;
     if (raw.yes) options.answers.everything(Reply::Yes);
     if (raw.no) options.answers.everything(Reply::No);
@@ -214,9 +290,12 @@ Parsed parseCommandLine(int argc, const char* const* argv) {
     app.require_subcommand(1);
     app.set_version_flag("--version", versionLine());
     defineBuild(app, raw);
+    defineDeploy(app, raw);
     defineReaders(app, raw);
     defineSettings(app, raw);
     defineRegistry(app, raw);
+    defineDependencies(app, raw);
+    defineTools(app, raw);
     auto* help = app.add_subcommand("help", "Print help on a verb, or on answers");
     help->add_option("TOPIC", topic, "A verb, or answers");
     help->callback([&raw] { raw.options.verb = "help"; });

@@ -7,7 +7,7 @@
 
 namespace cli {
 
-enum class Format { Text, Json, Sarif };
+enum class Format { Text, Json, Sarif, Markdown };
 
 struct Options {
     std::string verb;
@@ -23,9 +23,13 @@ struct Options {
     Answers answers;
     bool dryRun = false;
     std::string device;
+    bool myDevices = false;
+    /// `validate` scans forms too.
+    bool forms = false;
     std::string depfile;
     bool trustSteps = false;
     bool noSteps = false;
+    bool list = false;
     bool verify = false;
     /// Code page of source files that are not UTF-8.
     int codePage = 1252;

@@ -1,6 +1,7 @@
 #pragma once
 // The result of a verb that gives messages, and its three forms of output.
 #include "Apps/fernwick/command_line_user.h"
+#include "Apps/fernwick/options.h"
 #include <string>
 #include <vector>
 
@@ -19,6 +20,19 @@ struct Message {
     int codeLine = 0;
 };
 
+/// What came of serving one device.
+struct DeviceOutcome {
+    std::string device;
+    bool good = false;
+    /// What the run put where, in words for users; or the package's path. Empty when nothing was put.
+    std::vector<std::string> places;
+    std::string statusText;
+    std::vector<Message> messages;
+    std::vector<ShownBox> boxes;
+    /// Why it failed, in one line; "" for a good one.
+    std::string reason;
+};
+
 struct Report {
     std::string verb;
     std::string project;
@@ -28,6 +42,8 @@ struct Report {
     std::string statusText;
     std::vector<Message> messages;
     std::vector<ShownBox> boxes;
+    /// Of the verbs that serve devices.
+    std::vector<DeviceOutcome> devices;
     int exitStatus = 0;
     /// What kept the verb from its job; "" for nothing.
     std::string failure;
@@ -39,5 +55,8 @@ std::string textOf(const Message& message, const std::string& project);
 std::string jsonOf(const Report& report);
 /// SARIF 2.1.0. Ends with a line end.
 std::string sarifOf(const Report& report);
+
+/// Writes the result in the format asked for; as text the messages and failures go to standard error.
+void printReport(const Report& report, const Options& options, Console& console);
 
 } // namespace cli

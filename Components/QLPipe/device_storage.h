@@ -34,8 +34,10 @@ public:
 
     /// In words for users: a folder, or "user@host:folder".
     virtual std::string location() const = 0;
-    /// Bytes; -1 where the device doesn't tell.
-    virtual std::int64_t freeSpace() = 0;
+    /// Bytes that this folder may take, which may be there already and is then replaced; -1 where the device doesn't
+    /// tell. A device that needs room for the old and the new one at once answers what is free, one that doesn't adds
+    /// what the old one takes.
+    virtual std::int64_t freeSpaceFor(const std::string& folder) = 0;
     virtual bool exists(const std::string& name) = 0;
     /// Names in a folder, sorted; none for a folder that is not there.
     virtual std::vector<std::string> list(const std::string& folder) = 0;

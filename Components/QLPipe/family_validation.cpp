@@ -1,27 +1,23 @@
 #include "Components/QLPipe/family_validation.h"
+#include "Components/QLPipe/listed_files.h"
 
 namespace qlpipe {
-namespace {
 
-struct PipeFamily {
-    const char* pipe;   ///< the ProgID that design targets name
-    const char* family; ///< what stands before the first "-" of their keys
-};
+bool FamilyValidation::IsDeviceSupported(const std::string& key) { return isOfFamily(key, family_); }
 
-constexpr PipeFamily kPipeFamilies[] = {
-    {"QLPipePalmOS", "PalmOS"},
-    {"QLPipePocketPC", "PocketPC"},
-    {"QLPipeLinux", "LinuxHandheld"},
-};
-
-} // namespace
-
-bool FamilyValidation::IsDeviceSupported(const std::string& key) { return key.starts_with(family_ + "-"); }
-
-void registerPipes(const std::function<void(const std::string& progId, ObjectFactory make)>& add) {
-    for (const auto& [pipe, family] : kPipeFamilies)
-        add(std::string{pipe} + ".Validation",
-            [name = std::string{family}] { return basic::make<FamilyValidation>(name); });
+bool FamilyValidation::ValidateFiles(const basic::Ref<vbide::VBProject>& project, const ProjectFiles& files) {
+    auto listing = listFiles(files_, files);
+    checkFiles(limitsOf(classes_, deviceToCheckFor(classes_, project, family_)), listing);
+    bool good = true;
+    for (const auto& finding : listing.findings) {
+        if (finding.isError) good = false;
+        if (!sink_) continue;
+        if (finding.isError)
+            sink_->SendError(finding.number, finding.text);
+        else
+            sink_->SendWarning(finding.text, finding.source, 0, finding.number);
+    }
+    return good;
 }
 
 } // namespace qlpipe

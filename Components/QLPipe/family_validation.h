@@ -1,8 +1,8 @@
 #pragma once
-// What a family's pipe says about design targets.
+// What devices of a family can take, told before anything is sent.
+#include "Add-in/platform/classes.h"
+#include "Add-in/platform/files.h"
 #include "Add-in/platform/pipes.h"
-#include "Basic/ref.h"
-#include <functional>
 #include <string>
 
 namespace qlpipe {
@@ -10,19 +10,20 @@ namespace qlpipe {
 /// A pipe serves the design targets of its family: those whose key begins with the family's name and "-".
 class FamilyValidation final : public IQLPipeValidation {
 public:
-    explicit FamilyValidation(std::string family) : family_(std::move(family)) {}
+    FamilyValidation(std::string family, const fernwick::FileSystemObject& files, fernwick::Classes& classes)
+        : family_(std::move(family)), files_(files), classes_(classes) {}
+
     bool IsDeviceSupported(const std::string& key) override;
-    bool ValidateFiles(const basic::Ref<vbide::VBProject>&, const ProjectFiles&) override { return true; }
-    void SetEventSink(IQLPipeEvents&) override {}
+    /// For the project's own device when it is of this family, else for the family's first design target. False when
+    /// there is an error; hints are warnings.
+    bool ValidateFiles(const basic::Ref<vbide::VBProject>& project, const ProjectFiles& files) override;
+    void SetEventSink(IQLPipeEvents& sink) override { sink_ = &sink; }
 
 private:
     std::string family_;
+    const fernwick::FileSystemObject& files_;
+    fernwick::Classes& classes_;
+    IQLPipeEvents* sink_ = nullptr;
 };
-
-/// Makes a new object of a class.
-using ObjectFactory = std::function<basic::Ref<fernwick::Object>()>;
-
-/// Names every class of the shipped pipes with its ProgID, for whoever makes objects by ProgID.
-void registerPipes(const std::function<void(const std::string& progId, ObjectFactory make)>& add);
 
 } // namespace qlpipe

@@ -11,6 +11,29 @@ namespace host {
 namespace {
 
 constexpr std::string_view kHelpViewer = "Hh.exe ";
+/// Before the number of a help context.
+constexpr std::string_view kContextSwitch = "-mapid ";
+/// Before a help file with a page of it, and between the two.
+constexpr std::string_view kPageScheme = "ms-its:", kPageMark = "::/";
+
+/// What of a help file is to be shown; without a context and a page its first page.
+struct HelpTopic {
+    std::string file, context, page;
+};
+
+HelpTopic helpTopicOf(std::string_view arguments) {
+    HelpTopic topic;
+    if (basic::startsWithNoCase(arguments, kContextSwitch)) {
+        arguments.remove_prefix(kContextSwitch.size());
+        topic.context = arguments.substr(0, arguments.find(' '));
+        arguments.remove_prefix(std::min(topic.context.size() + 1, arguments.size()));
+    }
+    if (basic::startsWithNoCase(arguments, kPageScheme)) arguments.remove_prefix(kPageScheme.size());
+    const auto mark = arguments.find(kPageMark);
+    if (mark != arguments.npos) topic.page = arguments.substr(mark + kPageMark.size());
+    topic.file = arguments.substr(0, mark);
+    return topic;
+}
 
 bool isAddress(const std::string& document) {
     return document.find("://") != document.npos || basic::startsWithNoCase(document, "mailto:");
@@ -28,7 +51,7 @@ bool hasDesktop() {
 
 void Shell::Start(const std::string& commandLine) {
     if (basic::startsWithNoCase(commandLine, kHelpViewer))
-        return openHelp(std::string_view(commandLine).substr(kHelpViewer.size()));
+        return openHelp(commandLine.substr(kHelpViewer.size()));
     if (!start(commandLine)) throw hostError(basic::kFileNotFound, commandLine + ": there is no such program");
 }
 
@@ -40,11 +63,17 @@ void Shell::Open(const std::string& document) {
     show(path);
 }
 
-void Shell::openHelp(std::string_view helpFile) {
-    std::string path(helpFile);
-    std::erase(path, '"');
-    const auto page = files_.BuildPath(files_.GetParentFolderName(path), files_.GetBaseName(path) + ".html");
-    Open(page);
+void Shell::openHelp(std::string arguments) {
+    std::erase(arguments, '"');
+    const auto topic = helpTopicOf(arguments);
+    const auto folder = files_.GetParentFolderName(topic.file);
+    const auto name = files_.GetBaseName(topic.file);
+    if (!topic.page.empty()) return Open(files_.BuildPath(folder, topic.page));
+    if (!topic.context.empty()) {
+        const auto page = files_.BuildPath(files_.BuildPath(folder, name), topic.context + ".html");
+        if (files_.FileExists(files_.Canonical(page))) return Open(page);
+    }
+    Open(files_.BuildPath(folder, name + ".html"));
 }
 
 void Shell::show(const std::string& document) {

@@ -4,7 +4,6 @@
 #include "Add-in/platform/shell.h"
 #include <functional>
 #include <string>
-#include <string_view>
 #include <sys/types.h>
 #include <vector>
 
@@ -18,14 +17,16 @@ public:
     Shell(const fernwick::FileSystemObject& files, Tell tell) : files_(files), tell_(std::move(tell)) {}
     ~Shell() override { forgetEnded(); }
 
-    /// "Hh.exe " with the path of a compiled help file opens the HTML page of that name beside it. A program whose
-    /// name ends in ".exe" may be installed without it.
+    /// "Hh.exe " with the path of a compiled help file opens the HTML page of that name beside it; with
+    /// "ms-its:FILE::/PAGE" the page of that name beside the file; with "-mapid NUMBER FILE" the page NUMBER.html in the
+    /// folder of the file's name, or the first page where the number has none. A program whose name ends in ".exe" may
+    /// be installed without it.
     void Start(const std::string& commandLine) override;
     /// Error 53 for a path where nothing is.
     void Open(const std::string& document) override;
 
 private:
-    void openHelp(std::string_view helpFile);
+    void openHelp(std::string arguments);
     void show(const std::string& document);
     bool start(const std::string& commandLine);
     void forgetEnded();

@@ -56,15 +56,25 @@ TEST(Conversions, WholeNumbersOfTexts) {
         std::string text;
         int result;
     };
-    const Row rows[] = {{"12", 12},        {" 12 ", 12}, {"-12", -12},   {"12-", -12},  {"(12)", -12}, {"1,234", 1234},
-                        {"$5", 5},         {"2.5", 2},   {"1e3", 1000},  {"1D3", 1000}, {"&H10", 16},  {"&HFFFF", -1},
-                        {"&h7fff", 32767}, {"&O10", 8},  {"-&H10", -16}, {"+ 3", 3},    {"0", 0},      {"-0", 0}};
+    const Row rows[] = {{"12", 12},  {" 12 ", 12},   {"-12", -12},  {"12-", -12},  {"(12)", -12}, {"1,234", 1234},
+                        {"$5", 5},   {"2.5", 2},     {"1e3", 1000}, {"1D3", 1000}, {"&H10", 16},  {"&h7fff", 32767},
+                        {"&O10", 8}, {"-&H10", -16}, {"+ 3", 3},    {"0", 0},      {"-0", 0}};
     for (const Row& row : rows) {
         SCOPED_TRACE(row.text);
         EXPECT_EQ(CLng(row.text), row.result);
         EXPECT_EQ(CInt(row.text), row.result);
         EXPECT_EQ(CDbl(row.text), row.text == "2.5" ? 2.5 : row.result);
     }
+    EXPECT_EQ(CInt("&HFFFF"), -1);
+    EXPECT_EQ(CInt("&O177777"), -1);
+    EXPECT_EQ(CLng("&HF060"), 61536);
+    EXPECT_EQ(CLng("&HFFFFF060"), -4000);
+    EXPECT_EQ(CDbl("&HFFFF"), 65535);
+    EXPECT_EQ(CDbl("&HFFFFFFFFF"), 68719476735.0);
+    EXPECT_EQ(failure([] { return CInt("&HFFFF&"); }), 6);
+    EXPECT_EQ(failure([] { return CInt("&H10000"); }), 6);
+    EXPECT_EQ(failure([] { return CLng("&H100000000"); }), 6);
+    EXPECT_EQ(failure([] { return CByte("&H100"); }), 6);
     EXPECT_EQ(CLng("&HFFFF&"), 65535);
     EXPECT_EQ(CLng("&HFFFFFFFF"), -1);
     EXPECT_EQ(CByte("&HFF"), 255);

@@ -1,5 +1,6 @@
 // The run of a compile from its start to its end.
 #include "compile_world.h"
+#include "tests/support/traced_form.h"
 
 using testing::Contains;
 using testing::ElementsAre;
@@ -174,6 +175,23 @@ TEST_F(CompileRun, StoresTheFontsOfTheLastScan) {
     run();
     EXPECT_EQ(stored("NumFontDependencies"), "0");
     EXPECT_EQ(stored("FontDependency1"), "");
+}
+
+TEST_F(CompileRun, StoresTheFontsThatItsFormsNeedAndWarnsOfMissingOnesEachTime) {
+    const auto designer = basic::make<test::TracedDesigner>(trace);
+    project->add("frmMain", "/p/frmMain.frm", vbide::vbext_ct_VBForm)->designer = designer;
+    designer->add("QLLabel", "Arial", 0, 12);
+    designer->add("QLLabel", "Gone", 0, 12);
+    files.files["/p/frmMain.frm"] = {};
+    files.files["/p/own.cmf"] = {std::string("\2\14\0\0\0", 5) + std::string(19, '\0') + "Arial"};
+    for (int compilation = 0; compilation < 2; ++compilation) {
+        EXPECT_TRUE(run());
+        EXPECT_EQ(stored("NumFontDependencies"), "1");
+        EXPECT_EQ(stored("FontDependency1"), "own.cmf");
+        EXPECT_EQ(stored("NumErrors"), "1");
+        EXPECT_THAT(stored("Error1"), HasSubstr("Could Not Find 'Gone'"));
+        EXPECT_EQ(status(), "SUCCESS with Warnings - This project can be deployed, but may not function as expected.");
+    }
 }
 
 TEST_F(CompileRun, TellsOfADependencyThatItDoesNotKnow) {

@@ -1,5 +1,4 @@
 #include "Components/DesignTargetAccess/design_target_mgr.h"
-#include "Components/QLPipe/family_validation.h"
 #include "tests/designtargets/installed_tree.h"
 #include <gtest/gtest.h>
 #include <set>
@@ -61,21 +60,11 @@ TEST_F(ShippedTargets, AreComplete) {
         EXPECT_GE(each->NumPropertyDefaults(), 1);
         EXPECT_NE(each->VBPTemplate(), "");
         for (const char* option :
-             {"DefaultFontStyle", "ColorDepth", "MaxImageBytes", "MaxHeapBytes", "MaxFileBytes", "FileKinds"}) {
+             {"DefaultFontStyle", "ColorDepth", "MaxImageBytes", "MaxHeapBytes", "MaxFileBytes", "StorageBytes",
+              "MaxNameLength", "FileKinds"}) {
             std::string value;
             EXPECT_TRUE(each->GetOption(option, value) && !value.empty()) << option;
         }
-    }
-}
-
-TEST_F(ShippedTargets, AreSupportedByTheirPipes) {
-    std::map<std::string, qlpipe::ObjectFactory> classes;
-    qlpipe::registerPipes([&](const std::string& progId, qlpipe::ObjectFactory make) { classes[progId] = make; });
-    for (const auto& each : all()) {
-        const std::string progId = each->RequiredPipeProgID() + ".Validation";
-        ASSERT_TRUE(classes.contains(progId)) << each->Key();
-        EXPECT_TRUE(basic::cast<qlpipe::IQLPipeValidation>(classes[progId]())->IsDeviceSupported(each->Key()))
-            << each->Key();
     }
 }
 

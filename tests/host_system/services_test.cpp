@@ -136,6 +136,29 @@ TEST_F(LocalShell, HelpOpensThePageBesideTheHelpFile) {
     EXPECT_EQ(basic::attempt([&] { shell.Start("Hh.exe " + path("Other.chm")); }).Number, 53);
 }
 
+TEST_F(LocalShell, HelpOpensTheNamedPageOfAHelpFile) {
+    folder.write("VB Toolkit/doc/Guide_PNG Files.html", "");
+    shell.Start("Hh.exe ms-its:" + path("vb toolkit\\doc\\Guide.chm") + "::/Guide_PNG Files.html");
+    EXPECT_THAT(told, ElementsAre(path("VB Toolkit/doc/Guide_PNG Files.html")));
+    const auto absent = "Hh.exe ms-its:" + path("VB Toolkit\\doc\\Guide.chm") + "::/Other.html";
+    EXPECT_EQ(basic::attempt([&] { shell.Start(absent); }).Number, 53);
+}
+
+TEST_F(LocalShell, HelpOpensThePageOfAContext) {
+    folder.write("doc/Codes.html", "");
+    folder.write("doc/Codes/1042.html", "");
+    shell.Start("Hh.exe -mapid 1042 " + path("doc\\Codes.chm"));
+    shell.Start("Hh.exe -mapid 1042 \"" + path("doc\\Codes.chm") + "\"");
+    EXPECT_THAT(told, ElementsAre(path("doc/Codes/1042.html"), path("doc/Codes/1042.html")));
+}
+
+TEST_F(LocalShell, AContextWithoutAPageOpensTheFirstOne) {
+    folder.write("doc/Codes.html", "");
+    shell.Start("Hh.exe -mapid 7 " + path("doc\\Codes.chm"));
+    EXPECT_THAT(told, ElementsAre(path("doc/Codes.html")));
+    EXPECT_EQ(basic::attempt([&] { shell.Start("Hh.exe -mapid 7"); }).Number, 53);
+}
+
 TEST_F(LocalShell, ProgramsMayBeInstalledWithoutTheirExtension) {
     script("VB Toolkit/bin/QLFonC", "echo \"$1\" > '" + path("ran") + "'\n");
     shell.Start(path("VB Toolkit\\BIN\\QLFonC.exe") + " \"an argument\"");

@@ -7,9 +7,14 @@
 
 namespace test {
 
+/// Libraries and modules that the targets know, by their identifiers.
+struct KnownModules {
+    std::set<std::string> references, modules;
+};
+
 class FakeTarget : public designtargetaccess::IQLDesignTarget {
 public:
-    explicit FakeTarget(std::string key) : key_(std::move(key)) {}
+    FakeTarget(std::string key, const KnownModules& knows) : key_(std::move(key)), knows_(knows) {}
     std::string Key() const override { return key_; }
     std::string PlatformName() const override { return "Platform"; }
     std::string Name() const override { return "&" + key_; }
@@ -26,8 +31,10 @@ public:
     std::int32_t NumSupportedTavlets() const override { return 0; }
     void GetSupportedReferences(std::vector<std::string>&) const override {}
     std::int32_t NumSupportedReferences() const override { return 0; }
-    designtargetaccess::ReferenceValidity ValidateReference(const std::string&) const override { return {}; }
-    bool FindModule(const std::string&) const override { return false; }
+    designtargetaccess::ReferenceValidity ValidateReference(const std::string& reference) const override {
+        return {knows_.references.count(reference) > 0, false};
+    }
+    bool FindModule(const std::string& moduleId) const override { return knows_.modules.count(moduleId) > 0; }
     void GetPropertyDefaults(std::vector<std::string>&, std::vector<std::string>&) const override {}
     std::int32_t NumPropertyDefaults() const override { return 0; }
     bool IsTabStopOff(const std::string&) const override { return false; }
@@ -38,6 +45,7 @@ public:
 
 private:
     std::string key_;
+    const KnownModules& knows_;
 };
 
 /// What is installed, changed by a test at any time.
@@ -46,6 +54,7 @@ struct FakeTargets {
     std::vector<std::string> known;
     /// Keys that the pipe refuses.
     std::set<std::string> refused;
+    KnownModules knows;
 
     explicit FakeTargets(fernwick::Classes& classes)
         : manager_(classes.RegisterClass("DesignTargetAccess.QLDesignTargetMgr",
@@ -64,7 +73,7 @@ private:
             std::int32_t position = 0;
             target = nullptr;
             if (!FindDesignTarget(key, position)) return false;
-            target = basic::make<FakeTarget>(key);
+            target = basic::make<FakeTarget>(key, targets_.knows);
             return true;
         }
         bool FindDesignTarget(const std::string& key, std::int32_t& position) const override {
@@ -74,7 +83,7 @@ private:
         }
         basic::Ref<designtargetaccess::IQLDesignTarget> GetDesignTargetByIndex(std::int16_t index) const override {
             if (index < 0 || index >= Count()) return nullptr;
-            return basic::make<FakeTarget>(targets_.known[std::size_t(index)]);
+            return basic::make<FakeTarget>(targets_.known[std::size_t(index)], targets_.knows);
         }
 
     private:

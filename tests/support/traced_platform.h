@@ -138,9 +138,18 @@ public:
         if (factory == factories_.end()) throw basic::RuntimeError(basic::kCantCreateObject);
         return factory->second();
     }
+    /// As if it had never been registered.
+    void forget(const std::string& progId) { factories_.erase(progId); }
     bool CLSIDFromString(const std::string&, std::string&) const override { return false; }
     std::string ProgIDFromCLSID(const std::string&) const override { return {}; }
-    basic::Ref<fernwick::TypeLibInfo> TypeLibInfoFromFile(const std::string&) const override { return nullptr; }
+    basic::Ref<fernwick::TypeLibInfo> TypeLibInfoFromFile(const std::string& path) const override {
+        trace_.read();
+        const auto library = libraries.find(path);
+        return library == libraries.end() ? nullptr : basic::make<fernwick::TypeLibInfo>(library->second);
+    }
+
+    /// Type libraries by their paths.
+    std::map<std::string, fernwick::TypeLibInfo> libraries;
 
 private:
     Trace& trace_;

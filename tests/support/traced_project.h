@@ -73,13 +73,17 @@ public:
     void ReplaceLine(int, const std::string&) override {}
     int ProcStartLine(const std::string&, vbide::vbext_ProcKind) const override { throw notHere(35); }
     int ProcCountLines(const std::string&, vbide::vbext_ProcKind) const override { throw notHere(35); }
-    std::vector<vbide::Member> Members() const override { return {}; }
+    std::vector<vbide::Member> Members() const override {
+        trace_.read();
+        return members;
+    }
     Ref<vbide::CodePane> CodePane() override {
         trace_.read();
         return pane;
     }
 
     int lines = 0;
+    std::vector<vbide::Member> members;
     Ref<Pane> pane;
 
 private:
@@ -122,8 +126,15 @@ public:
         use();
         return code;
     }
-    Ref<vbide::Properties> Properties() override { throw notHere(438); }
-    Ref<vbide::VBForm> Designer() override { return designer; }
+    Ref<vbide::Properties> Properties() override {
+        use();
+        if (!properties) throw notHere(438);
+        return properties;
+    }
+    Ref<vbide::VBForm> Designer() override {
+        use();
+        return designer;
+    }
     bool HasOpenDesigner() const override {
         use();
         return designerOpen;
@@ -137,6 +148,7 @@ public:
     bool dirty = false, designerOpen = false, removed = false;
     Ref<TracedCode> code;
     Ref<vbide::VBForm> designer;
+    Ref<vbide::Properties> properties;
     Ref<vbide::VBE> vbe;
 
 private:
@@ -189,7 +201,10 @@ class TracedReference : public vbide::Reference {
 public:
     TracedReference(Trace& trace, std::string p) : path(std::move(p)), trace_(trace) {}
     std::string Name() const override { return {}; }
-    std::string Guid() const override { return guid; }
+    std::string Guid() const override {
+        trace_.read();
+        return guid;
+    }
     int Major() const override { return major; }
     int Minor() const override { return minor; }
     std::string FullPath() const override {
@@ -202,7 +217,10 @@ public:
         trace_.read();
         return builtIn;
     }
-    bool IsBroken() const override { return broken; }
+    bool IsBroken() const override {
+        trace_.read();
+        return broken;
+    }
 
     std::string path, guid;
     int major = 1, minor = 0;

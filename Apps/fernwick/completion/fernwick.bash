@@ -33,7 +33,8 @@ _fernwick() {
 _fernwick_complete() {
   case $previous in
     --format)
-      case $verb in build | check | messages) _fernwick_words "text json sarif" ;; *) _fernwick_words "text json" ;; esac
+      case $verb in build | check | deploy | install-runtime | messages | package | validate)
+        _fernwick_words "text json sarif" ;; *) _fernwick_words "text json" ;; esac
       return ;;
     --device) _fernwick_targets; return ;;
     --answer) _fernwick_words "$(fernwick help answers 2>/dev/null | sed -n 's/^  \([a-z-]*\) .*/\1=/p')"
@@ -47,6 +48,10 @@ _fernwick_complete() {
       "") _fernwick_words "--help --version" ;;
       build) _fernwick_words "$common $answers --device --depfile --dry-run --trust-steps --no-steps" ;;
       check) _fernwick_words "$common --code-page" ;;
+      deploy) _fernwick_words "$common $answers --device --my-devices --trust-steps --no-steps" ;;
+      install-runtime) _fernwick_words "$common --device --my-devices" ;;
+      package) _fernwick_words "$common $answers --device --my-devices --list --verify --trust-steps --no-steps" ;;
+      validate) _fernwick_words "$common $answers --device --forms" ;;
       info) _fernwick_words "$common --verify" ;;
       settings) _fernwick_words "$common $answers --dry-run" ;;
       registry) _fernwick_words "$common --dry-run" ;;
@@ -55,11 +60,12 @@ _fernwick_complete() {
     return
   fi
   case $verb in
-    "") _fernwick_words "build check help info messages registry settings targets version" ;;
-    build | messages) _fernwick_files "vbp" ;;
+    "") _fernwick_words "build check deploy help info install-runtime messages package registry settings targets validate version" ;;
+    build | messages | validate) _fernwick_files "vbp" ;;
+    deploy | package) _fernwick_files "vbp|qlpkg" ;;
     info) _fernwick_files "vbp|vbg" ;;
     check) _fernwick_files "vbp|vbg|bas|cls|frm|ctl|pag|dsr|dob" ;;
-    help) _fernwick_words "answers build check info messages registry settings targets version" ;;
+    help) _fernwick_words "answers build check deploy info install-runtime messages package registry settings targets validate version" ;;
     settings)
       case $action in
         "") _fernwick_words "list get set reset" ;;

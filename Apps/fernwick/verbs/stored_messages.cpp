@@ -2,6 +2,7 @@
 #include "Basic/case_folding.h"
 #include "Basic/conversions.h"
 #include "Basic/text_search.h"
+#include "Host/model/component.h"
 #include <filesystem>
 #include <unordered_map>
 
@@ -38,6 +39,15 @@ ComponentNames componentsByFile(const basic::Ref<vbide::VBProject>& project) {
     return names;
 }
 
+/// 0 for a message without a line.
+int physicalLineOf(const basic::Ref<vbide::VBProject>& project, const Message& message) {
+    if (message.codeLine <= 0 || message.component.empty()) return 0;
+    const auto component = basic::cast<host::Component>(project->VBComponents()->Item(message.component));
+    if (!component) return 0;
+    auto& source = component->source();
+    return int(source.headLines() + source.code().physicalLine(std::size_t(message.codeLine)));
+}
+
 } // namespace
 
 std::vector<Message> storedMessages(const basic::Ref<vbide::VBProject>& project) {
@@ -61,11 +71,13 @@ std::vector<Message> storedMessages(const basic::Ref<vbide::VBProject>& project)
     return messages;
 }
 
-std::vector<Message> messagesOfBuild(const basic::Ref<vbide::VBProject>& project, const compiler::BuildRecord& build) {
+std::vector<Message> messagesOfRun(const basic::Ref<vbide::VBProject>& project, const compiler::BuildRecord& build) {
     auto messages = storedMessages(project);
     auto diagnostic = build.diagnostics.begin();
     for (auto& message : messages) {
-        if (message.number > kLastCompilerNumber || diagnostic == build.diagnostics.end()) continue;
+        const bool isCompilers = message.number <= kLastCompilerNumber;
+        if (!isCompilers) message.line = physicalLineOf(project, message);
+        if (!isCompilers || diagnostic == build.diagnostics.end()) continue;
         message.line = int(diagnostic->line);
         message.column = int(diagnostic->column);
         message.text = diagnostic->text;

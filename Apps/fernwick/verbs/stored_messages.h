@@ -9,7 +9,8 @@ namespace cli {
 /// In stored order; `line` is 0, `codeLine` the stored one. Entries that can't be read are left out.
 std::vector<Message> storedMessages(const basic::Ref<vbide::VBProject>& project);
 
-/// The same with the physical lines and columns of the build that stored them.
-std::vector<Message> messagesOfBuild(const basic::Ref<vbide::VBProject>& project, const compiler::BuildRecord& build);
+/// The same with physical lines: columns too and whole texts of the compiler's messages, from the build that stored
+/// them; those of the others are found from the code window's line.
+std::vector<Message> messagesOfRun(const basic::Ref<vbide::VBProject>& project, const compiler::BuildRecord& build);
 
 } // namespace cli

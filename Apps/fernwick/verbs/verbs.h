@@ -7,11 +7,19 @@ namespace cli {
 
 int runBuild(const Options& options, Console& console);
 int runCheck(const Options& options, Console& console);
+int runDependencies(const Options& options, Console& console);
+int runDeploy(const Options& options, Console& console);
+int runDevices(const Options& options, Console& console);
+int runDoctor(const Options& options, Console& console);
+int runExplain(const Options& options, Console& console);
 int runInfo(const Options& options, Console& console);
+int runInstallRuntime(const Options& options, Console& console);
 int runMessages(const Options& options, Console& console);
+int runPackage(const Options& options, Console& console);
 int runRegistry(const Options& options, Console& console);
 int runSettings(const Options& options, Console& console);
 int runTargets(const Options& options, Console& console);
+int runValidate(const Options& options, Console& console);
 int runVersion(const Options& options, Console& console);
 
 } // namespace cli

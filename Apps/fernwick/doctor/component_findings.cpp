@@ -1,0 +1,97 @@
+// The compiler, the design targets and their pipes.
+#include "Add-in/platform/compiler.h"
+#include "Add-in/platform/pipes.h"
+#include "Apps/fernwick/doctor/findings.h"
+#include "Components/DesignTargetAccess/design_target_mgr.h"
+#include <fmt/format.h>
+
+namespace cli {
+
+namespace {
+
+using designtargetaccess::DesignTargetMgr;
+using designtargetaccess::IQLDesignTarget;
+
+/// Why an object of the class can't be made; "" when it can.
+template <class T>
+std::string unmakeable(Machine& machine, const std::string& progId, basic::Ref<T>& made) {
+    const auto err = basic::attempt([&] { made = basic::cast<T>(machine.classes().CreateObject(progId)); });
+    if (err.Number != 0) return err.Description;
+    return made ? std::string() : progId + " is something else";
+}
+
+std::string targetSubject(const IQLDesignTarget& target) { return "target " + target.Key(); }
+
+/// Cures of a target's faults are edits of its file.
+std::string correctTarget(const char* what) {
+    return fmt::format("Correct {} in its file in targets/, or install Fernwick again.", what);
+}
+
+std::string pipeProblem(Machine& machine, const IQLDesignTarget& target) {
+    basic::Ref<qlpipe::IQLPipeValidation> validation;
+    const auto pipe = target.RequiredPipeProgID();
+    const auto problem = unmakeable(machine, pipe + ".Validation", validation);
+    if (!problem.empty()) return fmt::format("its pipe {} can't be made: {}", pipe, problem);
+    bool supported = false;
+    const auto err = basic::attempt([&] { supported = validation->IsDeviceSupported(target.Key()); });
+    if (err.Number != 0) return fmt::format("its pipe {} fails: {}", pipe, err.Description);
+    return supported ? std::string() : fmt::format("its pipe {} doesn't serve it", pipe);
+}
+
+std::string missingTemplate(Machine& machine, const IQLDesignTarget& target) {
+    for (const auto& path :
+         {target.VBPTemplate(), target.FormTemplate(), target.ModuleTemplate(), target.ClassModuleTemplate()})
+        if (!path.empty() && !machine.platform().files.FileExists(path)) return path;
+    return {};
+}
+
+std::string unregisteredTavlets(Machine& machine, const IQLDesignTarget& target) {
+    std::vector<std::string> clsids, progIds, categories;
+    target.GetSupportedTavlets(clsids, progIds, categories);
+    std::string names;
+    for (std::size_t i = 0; i < clsids.size(); ++i)
+        if (machine.classes().ProgIDFromCLSID(clsids[i]).empty()) names += (names.empty() ? "" : ", ") + progIds[i];
+    return names;
+}
+
+void examineTarget(Machine& machine, const IQLDesignTarget& target, Findings& to) {
+    const auto subject = targetSubject(target);
+    if (target.PlatformName().empty() || target.RequiredPipeProgID().empty()) {
+        to.push_back(goodFinding(subject, "is not offered: it has no platform or no pipe"));
+        return;
+    }
+    const auto before = to.size();
+    if (const auto problem = pipeProblem(machine, target); !problem.empty())
+        to.push_back(troubleFinding(subject, problem, correctTarget("its pipe or key")));
+    if (const auto path = missingTemplate(machine, target); !path.empty())
+        to.push_back(troubleFinding(subject, fmt::format("its template {} is missing", path), correctTarget("the name")));
+    if (const auto names = unregisteredTavlets(machine, target); !names.empty())
+        to.push_back(troubleFinding(subject, "controls that are not registered: " + names,
+                                    "Install Fernwick again: registry/tavlets.reg registers them."));
+    if (to.size() == before) to.push_back(goodFinding(subject, "pipe " + target.RequiredPipeProgID()));
+}
+
+} // namespace
+
+void examineCompiler(Machine& machine, Findings& to) {
+    basic::Ref<qltoolkit::CompilerFactory> factory;
+    auto problem = unmakeable(machine, "QLToolkit.CompilerFactory", factory);
+    if (problem.empty()) problem = basic::attempt([&] { (void)factory->CreateCompiler(); }).Description;
+    to.push_back(problem.empty() ? goodFinding("compiler", "QLToolkit")
+                                 : troubleFinding("compiler", problem, "Install Fernwick again."));
+}
+
+void examineTargets(Machine& machine, Findings& to) {
+    DesignTargetMgr targets{machine.installation()};
+    targets.Initialize();
+    for (const auto& problem : targets.problems())
+        to.push_back(
+            troubleFinding("target file", problem.text(), "Correct the line, or install the file again."));
+    for (std::int16_t i = 0; i < targets.Count(); ++i)
+        examineTarget(machine, *targets.GetDesignTargetByIndex(i).shared(), to);
+    if (targets.Count() == 0)
+        to.push_back(troubleFinding("targets", "none is installed",
+                                    "Install Fernwick again: without a design target nothing can be compiled."));
+}
+
+} // namespace cli

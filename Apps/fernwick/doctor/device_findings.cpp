@@ -1,0 +1,49 @@
+// The devices that the user's projects go to.
+#include "Add-in/core/connect/Modules.h"
+#include "Apps/fernwick/device_place.h"
+#include "Apps/fernwick/doctor/findings.h"
+#include "Apps/fernwick/interruption.h"
+#include "Apps/fernwick/my_devices.h"
+#include <fmt/format.h>
+
+namespace cli {
+
+namespace {
+
+std::string placeWords(const DevicePlace& place) {
+    auto words = place.location;
+    if (const auto space = sizeWords(place.freeBytes); !space.empty()) words += fmt::format(", {} free", space);
+    return words + (place.runtime.empty() ? ", no runtime" : ", runtime " + place.runtime);
+}
+
+/// A device that the user did not choose need not be there.
+Finding::State stateOfAbsent(const DeviceRow& row) {
+    return row.isMine ? Finding::State::Trouble : Finding::State::Warning;
+}
+
+Finding findingOfDevice(Machine& machine, const DeviceRow& row) {
+    const auto subject = "device " + row.key;
+    if (!row.isUsable)
+        return troubleFinding(subject, "is in My Devices, but its design target is not usable here",
+                              fmt::format("fernwick devices remove {}", row.key));
+    const auto place = placeOfDevice(machine, row.key, row.pipe);
+    if (!place.problem.empty())
+        return {stateOfAbsent(row), subject, place.problem, fmt::format("See fernwick help devices, or: fernwick "
+                                                                        "devices remove {}", row.key)};
+    if (place.runtime.empty())
+        return warningFinding(subject, placeWords(place), fmt::format("fernwick install-runtime --device {}", row.key));
+    return goodFinding(subject, placeWords(place));
+}
+
+} // namespace
+
+void examineDevices(Machine& machine, Findings& to) {
+    fernwick::Modules addIn{machine.platform()};
+    addIn.prefs.loadMyDevices();
+    for (const auto& row : deviceRows(machine, addIn.prefs.gMyDevices)) {
+        checkInterrupt();
+        to.push_back(findingOfDevice(machine, row));
+    }
+}
+
+} // namespace cli

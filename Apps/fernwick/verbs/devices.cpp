@@ -1,0 +1,143 @@
+#include "Add-in/core/connect/Modules.h"
+#include "Apps/fernwick/device_place.h"
+#include "Apps/fernwick/exit_status.h"
+#include "Apps/fernwick/interruption.h"
+#include "Apps/fernwick/json_output.h"
+#include "Apps/fernwick/my_devices.h"
+#include "Apps/fernwick/refusal.h"
+#include "Apps/fernwick/verbs/verbs.h"
+#include "Basic/case_folding.h"
+#include <fmt/format.h>
+
+namespace cli {
+
+namespace {
+
+/// What the verb works on.
+struct MyDevices {
+    MyDevices(const Options& options, Console& console)
+        : user(console, options.answers, {}),
+          machine(console, user, [](const std::string&, const std::string&) { return false; }),
+          addIn(machine.platform()) {
+        addIn.prefs.loadMyDevices();
+        rows = deviceRows(machine, addIn.prefs.gMyDevices);
+    }
+
+    CommandLineUser user;
+    Machine machine;
+    fernwick::Modules addIn;
+    std::vector<DeviceRow> rows;
+};
+
+std::string knownKeys(const std::vector<DeviceRow>& rows) {
+    std::string keys;
+    for (const auto& row : rows)
+        if (row.isUsable) keys += (keys.empty() ? "" : ", ") + row.key;
+    return keys.empty() ? "none" : keys;
+}
+
+const DeviceRow& knownDevice(const MyDevices& devices, const std::string& key) {
+    const auto* row = deviceWithKey(devices.rows, key);
+    if (!row || !row->isUsable)
+        throw Refusal(kWrongUse,
+                      fmt::format("no usable device has the key {}; known: {}", key, knownKeys(devices.rows)));
+    return *row;
+}
+
+// ---- list ----
+
+void printRow(const DeviceRow& row, const DevicePlace& place, Console& console) {
+    std::string where = !row.isUsable ? "not usable here" : !place.problem.empty() ? "-" : place.location;
+    if (!place.runtime.empty()) where += fmt::format("  (runtime {})", place.runtime);
+    console.out(fmt::format("{} {:<20}  {:<18}  {}\n", row.isMine ? "*" : " ", row.key, row.name, where));
+    if (!place.problem.empty()) console.detail(fmt::format("{}: {}", row.key, place.problem));
+}
+
+Json jsonOfDeviceRow(const DeviceRow& row, const DevicePlace& place) {
+    const auto orNull = [](const std::string& text) { return text.empty() ? Json(nullptr) : Json(text); };
+    return {{"key", row.key},
+            {"name", orNull(row.name)},
+            {"mine", row.isMine},
+            {"usable", row.isUsable},
+            {"location", orNull(place.location)},
+            {"runtime", orNull(place.runtime)},
+            {"freeBytes", place.freeBytes < 0 ? Json(nullptr) : Json(place.freeBytes)},
+            {"problem", orNull(place.problem)}};
+}
+
+int listDevices(MyDevices& devices, const Options& options, Console& console) {
+    auto json = jsonResult("devices");
+    json["devices"] = Json::array();
+    for (const auto& row : devices.rows) {
+        checkInterrupt();
+        const auto place = row.isUsable ? placeOfDevice(devices.machine, row.key, row.pipe) : DevicePlace{};
+        if (options.format == Format::Json)
+            json["devices"].push_back(jsonOfDeviceRow(row, place));
+        else
+            printRow(row, place, console);
+    }
+    if (options.format == Format::Json) console.out(dumpJson(json));
+    if (devices.rows.empty()) throw Refusal(kMachineTrouble, "no usable design target is installed; see fernwick doctor");
+    return kGood;
+}
+
+// ---- add, remove ----
+
+/// The add-in says nothing when the store can't be written.
+void saveDevices(MyDevices& devices, std::vector<std::string> keys) {
+    auto& prefs = devices.addIn.prefs;
+    prefs.gMyDevices = keys;
+    (void)prefs.saveMyDevices();
+    prefs.loadMyDevices();
+    if (prefs.gMyDevices != keys)
+        throw Refusal(kMachineTrouble, "My Devices could not be stored; see fernwick doctor");
+}
+
+void requireKeys(const Options& options) {
+    if (options.operands.empty())
+        throw Refusal(kWrongUse, fmt::format("devices {} takes the keys of devices; fernwick devices lists them",
+                                             options.action));
+}
+
+int addDevices(MyDevices& devices, const Options& options, Console&) {
+    requireKeys(options);
+    auto keys = devices.addIn.prefs.gMyDevices;
+    for (const auto& operand : options.operands) {
+        const auto& key = knownDevice(devices, operand).key;
+        const auto isThere = [&](const std::string& one) { return basic::equalNoCase(one, key); };
+        if (std::none_of(keys.begin(), keys.end(), isThere)) keys.push_back(key);
+    }
+    if (keys != devices.addIn.prefs.gMyDevices) saveDevices(devices, keys);
+    return kGood;
+}
+
+int removeDevices(MyDevices& devices, const Options& options, Console&) {
+    requireKeys(options);
+    auto keys = devices.addIn.prefs.gMyDevices;
+    for (const auto& operand : options.operands) {
+        // what is in the list can leave it, usable or not
+        if (!deviceWithKey(devices.rows, operand)) (void)knownDevice(devices, operand);
+        std::erase_if(keys, [&](const std::string& one) { return basic::equalNoCase(one, operand); });
+    }
+    if (keys != devices.addIn.prefs.gMyDevices) saveDevices(devices, keys);
+    return kGood;
+}
+
+struct DeviceAction {
+    std::string_view name;
+    int (*run)(MyDevices&, const Options&, Console&);
+};
+
+constexpr DeviceAction kDeviceActions[] = {
+    {"list", listDevices}, {"add", addDevices}, {"remove", removeDevices}};
+
+} // namespace
+
+int runDevices(const Options& options, Console& console) {
+    MyDevices devices{options, console};
+    for (const auto& action : kDeviceActions)
+        if (action.name == options.action) return action.run(devices, options, console);
+    return listDevices(devices, options, console);
+}
+
+} // namespace cli

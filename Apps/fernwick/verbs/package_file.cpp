@@ -1,0 +1,153 @@
+#include "Apps/fernwick/verbs/package_file.h"
+#include "Apps/fernwick/device_runs.h"
+#include "Apps/fernwick/exit_status.h"
+#include "Apps/fernwick/interruption.h"
+#include "Apps/fernwick/json_output.h"
+#include "Apps/fernwick/plural.h"
+#include "Basic/case_folding.h"
+#include "Components/QLPipe/device_pipe.h"
+#include "Components/QLPipe/package.h"
+#include <filesystem>
+
+namespace cli {
+
+namespace {
+
+constexpr std::string_view kPackageExtension = ".qlpkg";
+
+/// Shows a pipe's progress, and keeps what it says.
+class PipeListener final : public qlpipe::IQLPipeEvents {
+public:
+    explicit PipeListener(Console& console) : console_(console) {}
+
+    void SendProgress(const std::string& status, std::int32_t percent) override {
+        console_.progress(float(percent), status);
+        checkInterrupt();
+    }
+    void SendComplete() override { console_.endProgress(); }
+    void SendError(std::int32_t errorNumber, const std::string& message) override { keep(true, errorNumber, message); }
+    void SendWarning(const std::string& message, const std::string&, std::int32_t,
+                     std::int32_t warningNumber) override {
+        keep(false, warningNumber + qlpipe::kWarningOffset, message);
+    }
+
+    std::vector<Message> messages;
+
+private:
+    void keep(bool isError, int number, const std::string& text) {
+        Message message;
+        message.isError = isError;
+        message.number = number;
+        message.text = text;
+        messages.push_back(std::move(message));
+    }
+
+    Console& console_;
+};
+
+std::string packageOperand(const Options& options) {
+    if (options.project.empty()) throw Refusal(kWrongUse, "which package? Name its .qlpkg file");
+    std::error_code ignored;
+    if (!std::filesystem::exists(options.project, ignored))
+        throw Refusal(kWrongUse, fmt::format("{}: there is no such file", options.project));
+    return std::filesystem::absolute(options.project, ignored).lexically_normal().string();
+}
+
+/// What a reading of the package answers; a damaged one is an error in it.
+template <class Read>
+auto readPackage(const std::string& path, Read&& read) {
+    try {
+        return read(qlpipe::Package{path});
+    } catch (const qlpipe::TransferError& error) {
+        throw Refusal(kProjectErrors, fmt::format("{}: error {}: {}", path, error.number, error.text));
+    }
+}
+
+Json jsonOfBundle(const std::string& path, const qlpipe::Bundle& bundle) {
+    auto json = jsonResult("package");
+    json["package"] = path;
+    json["project"] = bundle.project;
+    json["displayName"] = bundle.displayName;
+    json["version"] = bundle.version;
+    json["device"] = bundle.device;
+    json["references"] = bundle.references;
+    json["files"] = Json::array();
+    for (const auto& file : bundle.files)
+        json["files"].push_back({{"name", file.place}, {"bytes", file.size}, {"sha256", file.sha256}});
+    return json;
+}
+
+void printBundle(const qlpipe::Bundle& bundle, Console& console) {
+    console.out(fmt::format("{} {} for {}\n", bundle.displayName, bundle.version, bundle.device));
+    std::size_t width = 0;
+    for (const auto& file : bundle.files) width = std::max(width, file.place.size());
+    for (const auto& file : bundle.files) console.out(fmt::format("  {:<{}}  {:>10}\n", file.place, width, file.size));
+    for (const auto& reference : bundle.references) console.out(fmt::format("  needs {}\n", reference));
+}
+
+std::vector<Message> sendPackage(Session& session, const qlpipe::Package& package, const std::string& device,
+                                 Console& console) {
+    auto& addIn = session.addIn();
+    const auto progId = addIn.devices.GetPipeNameForDevice(device) + ".Pipe";
+    const auto pipe = basic::cast<qlpipe::DevicePipe>(session.machine().classes().CreateObject(progId));
+    if (!pipe) throw Refusal(kMachineTrouble, fmt::format("the pipe {} takes no packages", progId));
+    PipeListener listener{console};
+    pipe->SetEventSink(listener);
+    pipe->SendPackage(package, device);
+    console.endProgress();
+    return listener.messages;
+}
+
+} // namespace
+
+bool isPackageFile(const std::string& operand) {
+    return operand.size() > kPackageExtension.size() &&
+           basic::equalNoCase(std::string_view(operand).substr(operand.size() - kPackageExtension.size()),
+                              kPackageExtension);
+}
+
+int listPackage(const Options& options, Console& console) {
+    const auto path = packageOperand(options);
+    const auto bundle = readPackage(path, [](const qlpipe::Package& package) { return package.bundle(); });
+    if (options.format == Format::Json)
+        console.out(dumpJson(jsonOfBundle(path, bundle)));
+    else
+        printBundle(bundle, console);
+    return kGood;
+}
+
+int verifyPackage(const Options& options, Console& console) {
+    const auto path = packageOperand(options);
+    const auto bundle = readPackage(path, [](const qlpipe::Package& package) {
+        package.verify();
+        return package.bundle();
+    });
+    if (options.format == Format::Json)
+        console.out(dumpJson(jsonOfBundle(path, bundle)));
+    else
+        console.out(
+            fmt::format("{}: {}, all as the manifest says\n", options.project, plural(bundle.files.size(), "file")));
+    return kGood;
+}
+
+int installPackage(const Options& options, Console& console) {
+    const auto path = packageOperand(options);
+    return readPackage(path, [&](const qlpipe::Package& package) {
+        Session session{options, console};
+        session.connect();
+        const auto devices = devicesToServe(session, options, package.bundle().device);
+
+        Report report;
+        report.verb = options.verb;
+        report.project = path;
+        report.devices = serveDevices(session, devices, console, [&](const std::string& device) {
+            return sendPackage(session, package, device, console);
+        });
+        report.exitStatus = statusOf(report.devices, options.myDevices);
+        session.closeUnsaved();
+        printOutcomes(report, "sent", options.myDevices, options, console);
+        return int(report.exitStatus);
+    });
+}
+
+} // namespace cli

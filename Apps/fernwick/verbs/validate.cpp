@@ -1,0 +1,51 @@
+#include "Apps/fernwick/exit_status.h"
+#include "Apps/fernwick/plural.h"
+#include "Apps/fernwick/project_run.h"
+#include "Apps/fernwick/verbs/stored_messages.h"
+#include "Apps/fernwick/verbs/verbs.h"
+#include <algorithm>
+
+namespace cli {
+
+namespace {
+
+/// What the driver's own run leaves out: names, properties, events and controls of each form.
+bool scanForms(Session& session) {
+    bool good = true;
+    for (const auto& component : session.project()->VBComponents()->items())
+        if (component->Type() == vbide::vbext_ct_VBForm)
+            good = session.addIn().validate.ScanForm(session.settings(), component, true) && good;
+    return good;
+}
+
+std::string closingLine(const Report& report) {
+    const auto errors = std::size_t(std::count_if(report.messages.begin(), report.messages.end(),
+                                                  [](const Message& message) { return message.isError; }));
+    return fmt::format("Validated for {}: {}, {}.", report.device, plural(errors, "error"),
+                       plural(report.messages.size() - errors, "warning"));
+}
+
+} // namespace
+
+int runValidate(const Options& options, Console& console) {
+    Session session{options, console};
+    openProject(session, options);
+    beginWork(session, options);
+
+    Report report;
+    report.verb = options.verb;
+    report.project = session.path();
+    report.device = deviceOfRun(session, options);
+    // as before a deployment, so that messages don't pile up from run to run
+    session.addIn().messages.ClearProjectCompileErrors(session.project());
+    bool good = session.addIn().validate.ValidateProject(session.project(), report.device);
+    if (options.forms) good = scanForms(session) && good;
+    report.messages = messagesOfRun(session.project(), session.machine().build());
+    report.exitStatus = good ? kGood : kProjectErrors;
+    report.statusText = closingLine(report);
+    endWork(session, report);
+    printReport(report, options, console);
+    return report.exitStatus;
+}
+
+} // namespace cli

@@ -1,0 +1,126 @@
+#include "Components/QLPipe/device_pipe.h"
+#include "Components/QLPipe/device_names.h"
+#include "Components/QLPipe/installer.h"
+#include "Components/QLPipe/package_writer.h"
+#include "Components/QLPipe/pipe_messages.h"
+#include "Components/QLPipe/pipe_texts.h"
+#include "Components/QLPipe/project_bundle.h"
+#include "Components/QLPipe/runtime_bundle.h"
+#include "Components/QLPipe/target_limits.h"
+
+namespace qlpipe {
+
+template <class Transfer>
+bool DevicePipe::run(Transfer&& transfer) {
+    auto& record = *services_.record;
+    record.succeeded = false;
+    try {
+        if (!transfer()) return false;
+    } catch (const TransferError& error) {
+        if (sink_) sink_->SendError(error.number, error.text);
+        return false;
+    }
+    record.succeeded = true;
+    if (sink_) sink_->SendComplete();
+    return true;
+}
+
+void DevicePipe::needOwnDevice(const std::string& deviceName) const {
+    if (!family_.open || !isOfFamily(deviceName, family_.name) || !isSafePart(deviceName))
+        throw transferError(kDeviceNotServed, {deviceName, family_.name});
+}
+
+void DevicePipe::tell(PipeWarning warning, std::initializer_list<std::string> values) {
+    if (sink_) sink_->SendWarning(messageText(warning + kWarningOffset, values), "", 0, warning);
+}
+
+std::optional<Bundle> DevicePipe::checkedBundle(const std::string& deviceName, const ProjectFiles& files,
+                                                const ApplicationInfo& application) {
+    auto listing = listFiles(services_.files, files);
+    checkFiles(limitsOf(services_.classes, deviceName), listing);
+    bool good = true;
+    for (const auto& finding : listing.findings) {
+        if (!finding.isError) continue; // the validation told the hints
+        good = false;
+        if (sink_) sink_->SendError(finding.number, finding.text);
+    }
+    if (!good) return {};
+    listing.findings.clear();
+    auto bundle = projectBundle(listing, application, deviceName);
+    for (const auto& finding : listing.findings)
+        if (sink_) sink_->SendWarning(finding.text, finding.source, 0, finding.number);
+    return bundle;
+}
+
+void DevicePipe::send(const std::string& deviceName, const basic::Ref<vbide::VBProject>& project,
+                      const Bundle& bundle) {
+    Progress progress{sink_, bundle.bytes()};
+    progress.says(pipe_texts::kConnecting + deviceName + pipe_texts::kDots);
+    const auto device = family_.open(services_, deviceName, project);
+    install(*device, bundle, progress);
+    services_.record->installed.push_back(device->location() + "/" + placeOnDevice(bundle));
+    if (!bundle.isRuntime && !hasRuntime(*device)) tell(kRuntimeNotInstalled, {device->location(), deviceName});
+}
+
+bool DevicePipe::SendProject(const std::string& deviceName, const basic::Ref<vbide::VBProject>& project,
+                             const ProjectFiles& files, const ApplicationInfo& application) {
+    return run([&] {
+        needOwnDevice(deviceName);
+        const auto bundle = checkedBundle(deviceName, files, application);
+        if (bundle) send(deviceName, project, *bundle);
+        return bundle.has_value();
+    });
+}
+
+bool DevicePipe::MakePackage(const std::string& deviceName, const basic::Ref<vbide::VBProject>&,
+                             const ProjectFiles& files, const ApplicationInfo& application, std::string& saveLocation) {
+    return run([&] {
+        needOwnDevice(deviceName);
+        const auto bundle = checkedBundle(deviceName, files, application);
+        if (!bundle) return false;
+        const auto path = services_.files.BuildPath(services_.files.Canonical(saveLocation), packageName(*bundle));
+        writePackage(path, *bundle, sink_);
+        services_.record->package = saveLocation = path;
+        return true;
+    });
+}
+
+void DevicePipe::SendRuntime(const std::string& deviceName) {
+    run([&] {
+        needOwnDevice(deviceName);
+        send(deviceName, {}, runtimeBundle(services_.installation, family_.name));
+        return true;
+    });
+}
+
+bool DevicePipe::SendPackage(const Package& package, const std::string& deviceName) {
+    return run([&] {
+        const auto& bundle = package.bundle();
+        if (deviceName != bundle.device)
+            throw transferError(kPackageOfOtherDevice, {package.path(), bundle.device, deviceName});
+        needOwnDevice(deviceName);
+        send(deviceName, {}, bundle);
+        return true;
+    });
+}
+
+bool installPackage(const PipeServices& services, const std::string& path, const std::string& deviceName,
+                    IQLPipeEvents& sink) {
+    services.record->succeeded = false;
+    try {
+        const Package package{path};
+        const auto& device = package.bundle().device;
+        for (const auto& family : pipeFamilies()) {
+            if (!family.open || !isOfFamily(device, family.name)) continue;
+            DevicePipe pipe{family, services};
+            pipe.SetEventSink(sink);
+            return pipe.SendPackage(package, deviceName.empty() ? device : deviceName);
+        }
+        throw transferError(kPackageDeviceUnknown, {path, device});
+    } catch (const TransferError& error) {
+        sink.SendError(error.number, error.text);
+        return false;
+    }
+}
+
+} // namespace qlpipe

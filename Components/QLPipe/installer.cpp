@@ -1,0 +1,95 @@
+#include "Components/QLPipe/installer.h"
+#include "Components/QLPipe/device_names.h"
+#include "Components/QLPipe/pipe_messages.h"
+#include "Components/QLPipe/pipe_texts.h"
+#include "Components/QLPipe/sha256.h"
+
+namespace qlpipe {
+namespace {
+
+const std::string kStaged = std::string{kStagingFolder} + "/bundle";
+const std::string kStagedFonts = std::string{kStagingFolder} + "/fonts";
+
+/// An application's fonts go to the folder that all applications share, all else into its own.
+bool isShared(const Bundle& bundle, const BundleFile& file) { return !bundle.isRuntime && file.kind == FileKind::Font; }
+
+std::string stagedPlace(const Bundle& bundle, const BundleFile& file) {
+    return isShared(bundle, file) ? kStagedFonts + "/" + std::string(file.title()) : kStaged + "/" + file.place;
+}
+
+/// Gives the checksum of what was sent. A file that comes with its checksum checks itself.
+std::string sendFile(DeviceStorage& device, const BundleFile& file, const std::string& place, std::span<char> buffer,
+                     Progress& progress) {
+    progress.says(pipe_texts::kSending + std::string(file.title()) + pipe_texts::kDots);
+    device.makeFolder(folderOf(place));
+    const auto reader = file.open();
+    const auto writer = device.create(place);
+    Sha256 checksum;
+    while (const auto count = reader->read(buffer)) {
+        const std::string_view chunk{buffer.data(), count};
+        checksum.add(chunk);
+        writer->write(chunk);
+        progress.moved(std::int64_t(count));
+    }
+    writer->close();
+    return checksum.hex();
+}
+
+void needRoom(DeviceStorage& device, const Bundle& bundle) {
+    const auto needed = bundle.bytes() + manifestSize(bundle);
+    const auto free = device.freeSpaceFor(placeOnDevice(bundle));
+    if (free >= 0 && needed > free)
+        throw transferError(kDeviceFull, {device.location(), bytesInWords(needed), bytesInWords(free)});
+}
+
+void stage(DeviceStorage& device, Bundle& bundle, Progress& progress) {
+    std::vector<char> buffer(kChunkBytes);
+    device.makeFolder(kStaged);
+    for (auto& file : bundle.files) file.sha256 = sendFile(device, file, stagedPlace(bundle, file), buffer, progress);
+    const auto manifest = device.create(kStaged + "/" + kManifestName);
+    manifest->write(writeManifest(bundle));
+    manifest->close();
+}
+
+/// From here on nothing is read any more: only the device itself can fail.
+void putInPlace(DeviceStorage& device, const Bundle& bundle) {
+    const auto place = placeOnDevice(bundle);
+    for (const auto& file : bundle.files) {
+        if (!isShared(bundle, file)) continue;
+        device.makeFolder(kDeviceFontsFolder);
+        device.replaceFile(stagedPlace(bundle, file), kDeviceFontsFolder + ("/" + std::string(file.title())));
+    }
+    if (const auto folder = folderOf(place); !folder.empty()) device.makeFolder(folder);
+    device.replaceFolder(kStaged, place);
+}
+
+/// Best effort: what stays is removed by the next transfer.
+void removeStaged(DeviceStorage& device) {
+    try {
+        device.remove(kStagingFolder);
+    } catch (const TransferError&) {}
+}
+
+} // namespace
+
+std::string placeOnDevice(const Bundle& bundle) {
+    return bundle.isRuntime ? kRuntimeFolder : kApplicationsFolder + ("/" + bundle.project);
+}
+
+void install(DeviceStorage& device, Bundle bundle, Progress& progress) {
+    needRoom(device, bundle);
+    device.remove(kStagingFolder);
+    try {
+        stage(device, bundle, progress);
+        progress.says(pipe_texts::kFinishing);
+        putInPlace(device, bundle);
+    } catch (...) {
+        removeStaged(device);
+        throw;
+    }
+    removeStaged(device);
+}
+
+bool hasRuntime(DeviceStorage& device) { return device.exists(kRuntimeFolder + ("/" + std::string{kManifestName})); }
+
+} // namespace qlpipe

@@ -1,0 +1,111 @@
+#include "Components/QLPipe/linux_handheld/ssh_messages.h"
+#include "Components/QLPipe/linux_handheld/ssh_session.h"
+#include "Components/QLPipe/linux_handheld/user_account.h"
+#include <cerrno>
+#include <cstdlib>
+#include <system_error>
+#include <unistd.h>
+
+namespace qlpipe {
+
+namespace {
+
+struct KeyFile {
+    OwnedKey key;
+    bool hasPassphrase = false;
+};
+
+/// Called for a key that has a passphrase: notes it and gives none.
+int notePassphrase(const char*, char*, std::size_t, int, int, void* noted) {
+    *static_cast<bool*>(noted) = true;
+    return -1;
+}
+
+KeyFile readKeyFile(const std::string& path) {
+    KeyFile file;
+    ssh_key key = nullptr;
+    if (libssh().ssh_pki_import_privkey_file(path.c_str(), nullptr, &notePassphrase, &file.hasPassphrase, &key) ==
+        SSH_OK)
+        file.key.reset(key);
+    return file;
+}
+
+/// The ways to let a user in, tried one after the other.
+class Authentication {
+public:
+    explicit Authentication(const SshSession& session) : session_(session), target_(session.target()) {}
+
+    bool byFile(const std::string& path, const KeyFile& file) {
+        tried(path);
+        return accepted(session_.finish(
+            SSH_AUTH_AGAIN, [&] { return libssh().ssh_userauth_publickey(session_.get(), nullptr, file.key.get()); }));
+    }
+
+    bool byAgent() {
+        if (!agentRuns()) return false;
+        tried("those of the SSH agent");
+        return accepted(
+            session_.finish(SSH_AUTH_AGAIN, [&] { return libssh().ssh_userauth_agent(session_.get(), nullptr); }));
+    }
+
+    bool byUsualFiles() {
+        for (const char* name : {"id_ed25519", "id_ecdsa", "id_rsa"}) {
+            const auto path = homeFolder() + "/.ssh/" + name;
+            if (::access(path.c_str(), R_OK) != 0) continue;
+            const auto file = readKeyFile(path);
+            if (file.key && byFile(path, file)) return true;
+            if (file.hasPassphrase) tried(path + ", which has a passphrase and so comes from the agent only");
+        }
+        return false;
+    }
+
+    static bool agentRuns() {
+        const char* socket = std::getenv("SSH_AUTH_SOCK");
+        return socket && *socket;
+    }
+
+    [[noreturn]] void refuse() const {
+        throw sshError(SshMessage::KeysRefused,
+                       {target_.user + "@" + target_.address(), tried_.empty() ? "there was none" : tried_,
+                        std::to_string(target_.port), target_.user + "@" + target_.host});
+    }
+
+private:
+    void tried(const std::string& what) { tried_ += (tried_.empty() ? "" : "; ") + what; }
+
+    bool accepted(int result) const {
+        if (result == SSH_AUTH_PARTIAL) throw sshError(SshMessage::KeyNotEnough, {target_.address(), target_.user});
+        // the server hangs up after a few keys that it doesn't know
+        if (result == SSH_AUTH_ERROR && session_.problem().find("Too many") != std::string::npos) refuse();
+        if (result == SSH_AUTH_ERROR)
+            throw sshError(SshMessage::ConnectionLost, {target_.address(), session_.problem()});
+        return result == SSH_AUTH_SUCCESS;
+    }
+
+    const SshSession& session_;
+    const SshTarget& target_;
+    std::string tried_;
+};
+
+void authenticateByFile(Authentication& ways, const std::string& path) {
+    if (::access(path.c_str(), R_OK) != 0)
+        throw sshError(SshMessage::KeyFileMissing, {path, std::generic_category().message(errno)});
+    const auto file = readKeyFile(path);
+    if (!file.key && !file.hasPassphrase) throw sshError(SshMessage::KeyFileUnusable, {path});
+    if (file.key && ways.byFile(path, file)) return;
+    if (ways.byAgent()) return;
+    if (file.key) ways.refuse();
+    throw sshError(SshMessage::KeyNeedsAgent,
+                   {path, Authentication::agentRuns() ? "none of the agent's keys was accepted"
+                                                      : "no agent runs here (SSH_AUTH_SOCK is not set)"});
+}
+
+} // namespace
+
+void authenticate(const SshSession& session) {
+    Authentication ways{session};
+    if (!session.target().keyFile.empty()) return authenticateByFile(ways, session.target().keyFile);
+    if (!ways.byAgent() && !ways.byUsualFiles()) ways.refuse();
+}
+
+} // namespace qlpipe

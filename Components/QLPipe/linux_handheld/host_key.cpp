@@ -1,0 +1,82 @@
+#include "Components/QLPipe/linux_handheld/ssh_messages.h"
+#include "Components/QLPipe/linux_handheld/ssh_session.h"
+#include <cerrno>
+#include <system_error>
+#include <unistd.h>
+
+namespace qlpipe {
+
+namespace {
+
+struct HostKey {
+    /// As ssh-keygen names it: "ED25519".
+    std::string kind;
+    /// As it stands in the name of the file that holds it: "ed25519".
+    std::string fileKind;
+    /// "SHA256:" and the hash.
+    std::string fingerprint;
+    /// The line that makes it known.
+    std::string line;
+};
+
+std::string fileKindOf(ssh_keytypes_e type) {
+    switch (type) {
+    case SSH_KEYTYPE_RSA: return "rsa";
+    case SSH_KEYTYPE_ECDSA_P256:
+    case SSH_KEYTYPE_ECDSA_P384:
+    case SSH_KEYTYPE_ECDSA_P521: return "ecdsa";
+    default: return "ed25519";
+    }
+}
+
+std::string fingerprintOf(ssh_key key) {
+    unsigned char* hash = nullptr;
+    std::size_t length = 0;
+    if (libssh().ssh_get_publickey_hash(key, SSH_PUBLICKEY_HASH_SHA256, &hash, &length) != 0) throw std::bad_alloc();
+    const OwnedText text{libssh().ssh_get_fingerprint_hash(SSH_PUBLICKEY_HASH_SHA256, hash, length)};
+    libssh().ssh_clean_pubkey_hash(&hash);
+    if (!text) throw std::bad_alloc();
+    return text.get();
+}
+
+HostKey hostKeyOf(const SshSession& session) {
+    ssh_key key = nullptr;
+    if (libssh().ssh_get_server_publickey(session.get(), &key) != SSH_OK)
+        throw sshError(SshMessage::HandshakeFailed, {session.target().address(), session.problem()});
+    const OwnedKey owner{key};
+    char* line = nullptr;
+    if (libssh().ssh_session_export_known_hosts_entry(session.get(), &line) != SSH_OK) throw std::bad_alloc();
+    const OwnedText lineOwner{line};
+    const auto type = libssh().ssh_key_type(key);
+    std::string text = line;
+    text.erase(text.find_last_not_of('\n') + 1);
+    return {libssh().ssh_key_type_to_char(type), fileKindOf(type), fingerprintOf(key), text};
+}
+
+[[noreturn]] void refuseHost(const SshSession& session, SshMessage message) {
+    const auto& target = session.target();
+    const auto key = hostKeyOf(session);
+    throw sshError(message, {target.address(), key.kind, key.fingerprint, key.fileKind, key.line, target.knownHosts,
+                             key.line.substr(0, key.line.find(' '))});
+}
+
+} // namespace
+
+void checkHostKey(const SshSession& session) {
+    const auto& file = session.target().knownHosts;
+    // a file that may not be read would look like one that knows nobody
+    if (::access(file.c_str(), R_OK) != 0 && errno != ENOENT)
+        throw sshError(SshMessage::KnownHostsUnreadable,
+                       {file, std::generic_category().message(errno), session.target().address()});
+    switch (libssh().ssh_session_is_known_server(session.get())) {
+    case SSH_KNOWN_HOSTS_OK: return;
+    case SSH_KNOWN_HOSTS_CHANGED:
+    case SSH_KNOWN_HOSTS_OTHER: refuseHost(session, SshMessage::HostKeyChanged);
+    case SSH_KNOWN_HOSTS_UNKNOWN:
+    case SSH_KNOWN_HOSTS_NOT_FOUND: refuseHost(session, SshMessage::HostKeyUnknown);
+    case SSH_KNOWN_HOSTS_ERROR: break;
+    }
+    throw sshError(SshMessage::KnownHostsUnreadable, {file, session.problem(), session.target().address()});
+}
+
+} // namespace qlpipe

@@ -1,0 +1,94 @@
+#include "Components/QLPipe/linux_handheld/linux_handheld_settings.h"
+#include <utility>
+
+namespace qlpipe {
+
+namespace {
+
+/// A key of the registry, closed with its owner. 0 where it could not be opened.
+class OpenKey {
+public:
+    OpenKey(fernwick::Registry& registry, std::uint32_t key) : registry_(registry), key_(key) {}
+    OpenKey(const OpenKey&) = delete;
+    OpenKey& operator=(const OpenKey&) = delete;
+    ~OpenKey() {
+        if (key_) registry_.RegCloseKey(key_);
+    }
+
+    /// "" for a value that is absent or no text.
+    std::string text(const char* name) const {
+        std::uint32_t type = 0, length = 0;
+        std::string data;
+        if (!key_) return {};
+        const auto status = registry_.RegQueryValueEx(key_, name, type, data, length);
+        if (status != fernwick::ERROR_SUCCESS && status != fernwick::ERROR_MORE_DATA) return {};
+        data.resize(length);
+        if (registry_.RegQueryValueEx(key_, name, type, data, length) != fernwick::ERROR_SUCCESS) return {};
+        return type == fernwick::REG_SZ ? data.substr(0, data.find('\0')) : std::string{};
+    }
+
+    bool store(const char* name, const std::string& text) const {
+        if (!text.empty())
+            return registry_.RegSetValueEx(key_, name, fernwick::REG_SZ, text + '\0') == fernwick::ERROR_SUCCESS;
+        const auto status = registry_.RegDeleteValue(key_, name);
+        return status == fernwick::ERROR_SUCCESS || status == fernwick::ERROR_FILE_NOT_FOUND;
+    }
+
+    explicit operator bool() const { return key_ != 0; }
+
+private:
+    fernwick::Registry& registry_;
+    std::uint32_t key_;
+};
+
+std::string deviceSettingsKey(const std::string& deviceKey) { return "Software\\Quinloft\\Devices\\" + deviceKey; }
+
+constexpr int kPathFileAccessError = 75;
+
+} // namespace
+
+LinuxHandheldSettings readProjectSettings(const basic::Ref<vbide::VBProject>& project) {
+    LinuxHandheldSettings settings;
+    if (!project) return settings;
+    for (const auto& [name, value] : kLinuxHandheldSettings)
+        // an absent value is an error of the host
+        (void)basic::attempt([&] { settings.*value = project->ReadProperty(kLinuxHandheldSection, name); });
+    return settings;
+}
+
+void writeProjectSettings(const basic::Ref<vbide::VBProject>& project, const LinuxHandheldSettings& settings) {
+    const auto stored = readProjectSettings(project);
+    for (const auto& [name, value] : kLinuxHandheldSettings)
+        if (settings.*value != stored.*value) project->WriteProperty(kLinuxHandheldSection, name, settings.*value);
+}
+
+LinuxHandheldSettings readUserSettings(fernwick::Registry& registry, const std::string& deviceKey) {
+    std::uint32_t handle = 0;
+    if (registry.RegOpenKeyEx(fernwick::HKEY_CURRENT_USER, deviceSettingsKey(deviceKey), fernwick::KEY_QUERY_VALUE,
+                              handle) != fernwick::ERROR_SUCCESS)
+        handle = 0;
+    const OpenKey key{registry, handle};
+    LinuxHandheldSettings settings;
+    for (const auto& [name, value] : kLinuxHandheldSettings) settings.*value = key.text(name);
+    return settings;
+}
+
+void writeUserSettings(fernwick::Registry& registry, const std::string& deviceKey,
+                       const LinuxHandheldSettings& settings) {
+    std::uint32_t handle = 0, disposition = 0;
+    if (registry.RegCreateKeyEx(fernwick::HKEY_CURRENT_USER, deviceSettingsKey(deviceKey), fernwick::KEY_ALL_ACCESS,
+                                handle, disposition) != fernwick::ERROR_SUCCESS)
+        handle = 0;
+    const OpenKey key{registry, handle};
+    for (const auto& [name, value] : kLinuxHandheldSettings)
+        if (!key || !key.store(name, settings.*value)) throw basic::RuntimeError(kPathFileAccessError);
+}
+
+LinuxHandheldSettings layered(const LinuxHandheldSettings& project, const LinuxHandheldSettings& user) {
+    auto settings = user;
+    for (const auto& [name, value] : kLinuxHandheldSettings)
+        if (!(project.*value).empty()) settings.*value = project.*value;
+    return settings;
+}
+
+} // namespace qlpipe

@@ -1,0 +1,82 @@
+#pragma once
+// The requests of SFTP over one channel. Several may be under way at once.
+#include "Components/QLPipe/linux_handheld/sftp_packets.h"
+#include "Components/QLPipe/linux_handheld/ssh_channel.h"
+#include <map>
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace qlpipe {
+
+/// Paths are the device's own. A request that the device refuses is an SftpResult; only what ends the connection, or
+/// makes no sense, is thrown as TransferError.
+class SftpClient {
+public:
+    SftpClient(const SshTarget& target, const SshTimeouts& timeouts);
+
+    /// A request under way. Each is awaited once, in any order.
+    using Request = std::uint32_t;
+    Request startLstat(const std::string& path) { return startOnPath(kSftpLstat, path); }
+    Request startRemove(const std::string& path) { return startOnPath(kSftpRemove, path); }
+    Request startWrite(const std::string& handle, std::uint64_t offset, std::string_view bytes);
+    /// The attributes, or why there are none.
+    SftpResult awaitAttributes(Request request, SftpAttributes& attributes);
+    SftpResult awaitResult(Request request);
+
+    SftpResult lstat(const std::string& path, SftpAttributes& attributes);
+    SftpResult realPath(const std::string& path, std::string& real);
+    SftpResult open(const std::string& path, std::uint32_t mode, std::string& handle);
+    /// "" at the end of the file.
+    SftpResult read(const std::string& handle, std::uint64_t offset, std::uint32_t size, std::string& bytes);
+    SftpResult close(const std::string& handle);
+    /// Done at once where the device doesn't offer it.
+    SftpResult flush(const std::string& handle);
+    SftpResult makeFolder(const std::string& path);
+    SftpResult removeFolder(const std::string& path);
+    /// Puts a file in another's place where the device offers that; else the place must be free, as it must for folders.
+    SftpResult rename(const std::string& from, const std::string& to);
+    bool renameReplaces() const { return offers("posix-rename@openssh.com"); }
+
+    struct Entry {
+        std::string name;
+        SftpAttributes attributes;
+    };
+    /// In the device's order, "." and ".." left out.
+    SftpResult list(const std::string& folder, std::vector<Entry>& entries);
+    /// Bytes for ordinary users; -1 where the device doesn't tell.
+    std::int64_t freeSpace(const std::string& folder);
+
+    const SshChannel& channel() const { return channel_; }
+
+private:
+    struct Reply {
+        std::uint8_t type = 0;
+        std::string bytes;
+    };
+    void start();
+    Reply firstReply();
+    bool offers(const std::string& extension) const { return extensions_.contains(extension); }
+    PacketWriter request(SftpPacket type);
+    Request startOnPath(SftpPacket type, const std::string& path);
+    Request send(PacketWriter& packet);
+    Reply receive(std::chrono::milliseconds patience);
+    Reply await(Request request, std::chrono::milliseconds patience);
+    Reply await(Request request) { return await(request, channel_.timeouts().operation); }
+    /// Reads a reply of the kind `type`; a status in its place is the result.
+    template <class Read>
+    SftpResult readReply(const Reply& reply, std::uint8_t type, Read read);
+    SftpResult handleOf(Request request, std::string& handle);
+    bool readEntries(const Reply& reply, std::vector<Entry>& entries, SftpResult& result);
+    [[noreturn]] void throwInvalid(const std::string& what);
+
+    SshChannel channel_;
+    /// Names of what the device offers beyond the version.
+    std::set<std::string> extensions_;
+    Request lastRequest_ = 0;
+    /// What is under way; a reply once it has come.
+    std::map<Request, std::optional<Reply>> underWay_;
+};
+
+} // namespace qlpipe

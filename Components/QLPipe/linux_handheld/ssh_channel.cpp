@@ -1,0 +1,61 @@
+#include "Components/QLPipe/linux_handheld/ssh_channel.h"
+#include "Components/QLPipe/linux_handheld/ssh_messages.h"
+#include <new>
+
+namespace qlpipe {
+
+SshChannel::SshChannel(const SshTarget& target, const SshTimeouts& timeouts) : session_(target, timeouts) {
+    checkHostKey(session_);
+    authenticate(session_);
+    channel_.reset(libssh().ssh_channel_new(session_.get()));
+    if (!channel_) throw std::bad_alloc();
+    const auto demand = [this](int result) {
+        if (result != SSH_OK)
+            throw sshError(SshMessage::TransferNotOffered, {session_.target().address(), session_.problem()});
+    };
+    demand(session_.finish(SSH_AGAIN, [this] { return libssh().ssh_channel_open_session(channel_.get()); }));
+    demand(session_.finish(SSH_AGAIN, [this] { return libssh().ssh_channel_request_sftp(channel_.get()); }));
+}
+
+void SshChannel::send(std::string_view bytes) {
+    auto since = SshSession::Clock::now();
+    while (!bytes.empty()) {
+        const int taken = libssh().ssh_channel_write(channel_.get(), bytes.data(), std::uint32_t(bytes.size()));
+        if (taken < 0) throwLost();
+        bytes.remove_prefix(std::size_t(taken));
+        if (taken > 0)
+            since = SshSession::Clock::now();
+        else
+            waitFor(timeouts().operation, since);
+    }
+}
+
+void SshChannel::receive(char* bytes, std::size_t size, std::chrono::milliseconds patience) {
+    auto since = SshSession::Clock::now();
+    while (size > 0) {
+        const int got = libssh().ssh_channel_read_timeout(channel_.get(), bytes, std::uint32_t(size), 0, 0);
+        if (got < 0 || (got == 0 && libssh().ssh_channel_is_eof(channel_.get()))) throwLost();
+        bytes += got;
+        size -= std::size_t(got);
+        if (got > 0)
+            since = SshSession::Clock::now();
+        else
+            waitFor(patience, since);
+    }
+}
+
+void SshChannel::waitFor(std::chrono::milliseconds patience, SshSession::Clock::time_point since) {
+    if (!session_.isConnected()) throwLost();
+    if (session_.wait(since + patience)) return;
+    giveUp();
+    throw sshError(SshMessage::Stalled, {target().address(), secondsText(patience)});
+}
+
+void SshChannel::throwLost() {
+    giveUp();
+    const auto problem = session_.problem();
+    throw sshError(SshMessage::ConnectionLost,
+                   {target().address(), problem.empty() ? "the handheld ended the file transfer" : problem});
+}
+
+} // namespace qlpipe

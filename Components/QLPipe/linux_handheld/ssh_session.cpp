@@ -1,0 +1,69 @@
+#include "Components/QLPipe/linux_handheld/ssh_session.h"
+#include "Components/QLPipe/linux_handheld/ssh_messages.h"
+#include <cerrno>
+#include <fcntl.h>
+#include <new>
+#include <poll.h>
+
+namespace qlpipe {
+
+namespace {
+
+/// libssh expands "%" and "~" in paths.
+std::string unexpanded(const std::string& path) {
+    std::string text;
+    for (const char c : path) text += c == '%' ? "%%" : std::string(1, c);
+    return text;
+}
+
+} // namespace
+
+SshSession::SshSession(const SshTarget& target, const SshTimeouts& timeouts)
+    : target_(target), timeouts_(timeouts), session_(libssh().ssh_new()) {
+    if (!session_) throw std::bad_alloc();
+    auto socket = connectTo(target, timeouts.connect);
+    setOptions(socket.number());
+    libssh().ssh_set_blocking(get(), 0);
+    // from its first step on, libssh closes the socket
+    socket.release();
+    if (finish(SSH_AGAIN, [this] { return libssh().ssh_connect(get()); }) != SSH_OK)
+        throw sshError(SshMessage::HandshakeFailed, {target_.address(), problem()});
+    // libssh has made the socket block, and a device that stops reading would hold us in a write
+    const int fd = libssh().ssh_get_fd(get());
+    ::fcntl(fd, F_SETFL, ::fcntl(fd, F_GETFL) | O_NONBLOCK);
+}
+
+void SshSession::setOptions(int socket) const {
+    const auto set = [this](ssh_options_e option, const void* value) {
+        if (libssh().ssh_options_set(get(), option, value) != SSH_OK)
+            throw sshError(SshMessage::SettingInvalid, {"Host", target_.host, "it is neither a name nor an address"});
+    };
+    const bool no = false;
+    const unsigned port = target_.port;
+    const bool isIpv6 = target_.host.find(':') != std::string::npos;
+    // the settings say it all: what stands in ~/.ssh/config is for other programs
+    set(SSH_OPTIONS_PROCESS_CONFIG, &no);
+    set(SSH_OPTIONS_HOST, (isIpv6 ? "[" + target_.host + "]" : target_.host).c_str());
+    set(SSH_OPTIONS_PORT, &port);
+    set(SSH_OPTIONS_USER, target_.user.c_str());
+    set(SSH_OPTIONS_FD, &socket);
+    set(SSH_OPTIONS_KNOWNHOSTS, unexpanded(target_.knownHosts).c_str());
+    if (!target_.usualKnownHosts) set(SSH_OPTIONS_GLOBAL_KNOWNHOSTS, "/dev/null");
+}
+
+std::string SshSession::problem() const { return saidByDevice(libssh().ssh_get_error(get())); }
+
+bool SshSession::wait(Clock::time_point deadline) const {
+    const auto left = std::chrono::ceil<std::chrono::milliseconds>(deadline - Clock::now()).count();
+    if (left <= 0) return false;
+    const bool isWriting = (libssh().ssh_get_poll_flags(get()) & SSH_WRITE_PENDING) != 0;
+    pollfd event{libssh().ssh_get_fd(get()), short(POLLIN | (isWriting ? POLLOUT : 0)), 0};
+    // an error shows itself in the step that follows
+    return !isConnected() || ::poll(&event, 1, int(left)) != 0;
+}
+
+void SshSession::throwNoAnswer() const {
+    throw sshError(SshMessage::NoAnswer, {target_.address(), secondsText(timeouts_.connect)});
+}
+
+} // namespace qlpipe

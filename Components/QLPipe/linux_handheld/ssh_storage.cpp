@@ -1,0 +1,163 @@
+#include "Components/QLPipe/linux_handheld/ssh_storage.h"
+#include "Components/QLPipe/linux_handheld/ssh_messages.h"
+#include "Components/QLPipe/linux_handheld/ssh_upload.h"
+#include <algorithm>
+
+namespace qlpipe {
+
+namespace {
+
+constexpr std::size_t kLargestRead = 1024 * 1024;
+constexpr std::uint32_t kReadBlock = 32 * 1024;
+/// A file system with less room is taken for a full one when it fails.
+constexpr std::int64_t kFull = 64 * 1024;
+
+/// "a", "a/b", "a/b/c".
+std::vector<std::string> beginnings(const std::string& name) {
+    std::vector<std::string> parts;
+    for (auto end = name.find('/'); end != std::string::npos; end = name.find('/', end + 1))
+        parts.push_back(name.substr(0, end));
+    if (!name.empty()) parts.push_back(name);
+    return parts;
+}
+
+std::string parentOf(const std::string& name) {
+    const auto slash = name.rfind('/');
+    return slash == std::string::npos ? "" : name.substr(0, slash);
+}
+
+} // namespace
+
+void demandSftp(SftpClient& client, const std::string& base, const SftpResult& result, const char* action,
+                const std::string& path) {
+    if (result) return;
+    const auto& target = client.channel().target();
+    if (result.code == kSftpNoSuchFile) throw sshError(SshMessage::NotThere, {action, path});
+    if (result.code == kSftpPermissionDenied)
+        throw sshError(SshMessage::AccessDenied, {action, path, result.text, target.user});
+    const auto room = result.code == kSftpFailure ? client.freeSpace(base) : -1;
+    if (room >= 0 && room < kFull) throw sshError(SshMessage::DeviceFull, {target.address(), action, path});
+    throw sshError(SshMessage::OperationFailed, {target.address(), action, path, result.text});
+}
+
+SshStorage::SshStorage(const SshTarget& target, const SshTimeouts& timeouts) : client_(target, timeouts) {
+    takeFolder(target.folder);
+    recover();
+}
+
+void SshStorage::takeFolder(const std::string& folder) {
+    std::string home;
+    if (!folder.starts_with('/')) {
+        demand(client_.realPath(".", home), "find", "the home folder");
+        if (home == "/") home.clear();
+    }
+    base_ = folder.starts_with('/') ? folder : home + "/" + folder;
+    SftpAttributes found;
+    // the folder itself may be a link: the user chose it
+    if (client_.lstat(base_, found) && found.isLink()) {
+        const auto link = base_;
+        demand(client_.realPath(link, base_), "find", link);
+    }
+}
+
+std::string SshStorage::location() const {
+    const auto& target = client_.channel().target();
+    return target.user + "@" + target.address() + ":" + base_;
+}
+
+std::int64_t SshStorage::freeSpaceFor(const std::string&) {
+    // the old and the new application lie side by side until the new one is whole
+    auto path = base_;
+    for (SftpAttributes found; !client_.lstat(path, found) && !path.empty();) path = parentOf(path);
+    return client_.freeSpace(path.empty() ? "/" : path);
+}
+
+std::optional<SftpAttributes> SshStorage::find(const std::string& name) {
+    const auto parts = beginnings(name);
+    std::vector<SftpClient::Request> requests{client_.startLstat(base_)};
+    for (const auto& part : parts) requests.push_back(client_.startLstat(pathOf(part)));
+    std::vector<SftpAttributes> found(requests.size());
+    std::vector<SftpResult> results;
+    for (std::size_t i = 0; i < requests.size(); ++i) results.push_back(client_.awaitAttributes(requests[i], found[i]));
+
+    for (std::size_t i = 0; i < found.size(); ++i) {
+        const auto path = i == 0 ? base_ : pathOf(parts[i - 1]);
+        if (results[i].code == kSftpNoSuchFile) return std::nullopt;
+        demand(results[i], "look at", path);
+        if (i + 1 == found.size()) break;
+        if (found[i].isLink()) throw sshError(SshMessage::LinkRefused, {path});
+        if (!found[i].isFolder()) throw sshError(SshMessage::NotFolder, {path});
+    }
+    return found.back();
+}
+
+std::optional<SftpAttributes> SshStorage::findNoLink(const std::string& name) {
+    auto found = find(name);
+    if (found && found->isLink()) throw sshError(SshMessage::LinkRefused, {pathOf(name)});
+    return found;
+}
+
+bool SshStorage::exists(const std::string& name) { return find(name).has_value(); }
+
+std::vector<std::string> SshStorage::list(const std::string& folder) {
+    const auto found = findNoLink(folder);
+    if (!found) return {};
+    if (!found->isFolder()) throw sshError(SshMessage::NotFolder, {pathOf(folder)});
+    std::vector<SftpClient::Entry> entries;
+    demand(client_.list(pathOf(folder), entries), "list", pathOf(folder));
+    std::vector<std::string> names;
+    for (auto& entry : entries)
+        if (!entry.name.ends_with(kPartSuffix) && !(folder.empty() && entry.name == kReplacedFolder))
+            names.push_back(std::move(entry.name));
+    std::ranges::sort(names);
+    return names;
+}
+
+std::string SshStorage::read(const std::string& file) {
+    const auto path = pathOf(file);
+    findNoLink(file);
+    std::string handle, bytes, block;
+    demand(client_.open(path, kSftpForReading, handle), "read", path);
+    SftpResult result;
+    do {
+        result = client_.read(handle, bytes.size(), kReadBlock, block);
+        bytes += block;
+    } while (result && !block.empty() && bytes.size() <= kLargestRead);
+    client_.close(handle);
+    demand(result, "read", path);
+    if (bytes.size() > kLargestRead) throw sshError(SshMessage::FileTooLarge, {path});
+    return bytes;
+}
+
+void SshStorage::makeOneFolder(const std::string& path) {
+    SftpAttributes found;
+    const auto result = client_.lstat(path, found);
+    if (result.code == kSftpNoSuchFile) return demand(client_.makeFolder(path), "make", path);
+    demand(result, "look at", path);
+    if (!found.isFolder()) throw sshError(found.isLink() ? SshMessage::LinkRefused : SshMessage::NotFolder, {path});
+}
+
+void SshStorage::makeBase() {
+    SftpAttributes found;
+    if (client_.lstat(base_, found)) return;
+    // above our folder links are the handheld's own affair, as in /home
+    for (const auto& path : beginnings(base_))
+        if (!path.empty() && client_.lstat(path, found).code == kSftpNoSuchFile)
+            demand(client_.makeFolder(path), "make", path);
+}
+
+void SshStorage::makeFolder(const std::string& folder) {
+    makeBase();
+    for (const auto& part : beginnings(folder)) makeOneFolder(pathOf(part));
+}
+
+std::unique_ptr<StorageFile> SshStorage::create(const std::string& file) {
+    if (find(file)) throw sshError(SshMessage::NameTaken, {pathOf(file)});
+    return std::make_unique<SshUpload>(client_, base_, pathOf(file));
+}
+
+void SshStorage::demand(const SftpResult& result, const char* action, const std::string& path) {
+    demandSftp(client_, base_, result, action, path);
+}
+
+} // namespace qlpipe

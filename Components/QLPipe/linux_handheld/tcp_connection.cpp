@@ -1,0 +1,75 @@
+#include "Components/QLPipe/linux_handheld/tcp_connection.h"
+#include "Components/QLPipe/linux_handheld/ssh_messages.h"
+#include <cerrno>
+#include <fcntl.h>
+#include <memory>
+#include <netdb.h>
+#include <netinet/in.h>
+#include <netinet/tcp.h>
+#include <poll.h>
+#include <sys/socket.h>
+#include <system_error>
+
+namespace qlpipe {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+using Addresses = std::unique_ptr<addrinfo, decltype(&::freeaddrinfo)>;
+
+Addresses addressesOf(const SshTarget& target) {
+    addrinfo wanted{};
+    wanted.ai_socktype = SOCK_STREAM;
+    wanted.ai_flags = AI_ADDRCONFIG | AI_NUMERICSERV;
+    addrinfo* found = nullptr;
+    const int problem = ::getaddrinfo(target.host.c_str(), std::to_string(target.port).c_str(), &wanted, &found);
+    if (problem != 0) throw sshError(SshMessage::HostNotFound, {target.host, ::gai_strerror(problem)});
+    return {found, &::freeaddrinfo};
+}
+
+/// 0, or the errno of what went wrong; ETIMEDOUT at the deadline.
+int waitForConnection(int socket, Clock::time_point deadline) {
+    for (;;) {
+        const auto left = std::chrono::ceil<std::chrono::milliseconds>(deadline - Clock::now()).count();
+        if (left <= 0) return ETIMEDOUT;
+        pollfd event{socket, POLLOUT, 0};
+        const int ready = ::poll(&event, 1, int(left));
+        if (ready < 0 && errno != EINTR) return errno;
+        if (ready <= 0) continue;
+        int problem = 0;
+        socklen_t length = sizeof problem;
+        return ::getsockopt(socket, SOL_SOCKET, SO_ERROR, &problem, &length) == 0 ? problem : errno;
+    }
+}
+
+int connectSocket(int socket, const addrinfo& address, Clock::time_point deadline) {
+    // small requests go out at once instead of waiting for the answer to the one before
+    const int on = 1;
+    ::setsockopt(socket, IPPROTO_TCP, TCP_NODELAY, &on, sizeof on);
+    if (::connect(socket, address.ai_addr, address.ai_addrlen) == 0) return 0;
+    return errno == EINPROGRESS ? waitForConnection(socket, deadline) : errno;
+}
+
+} // namespace
+
+std::string secondsText(std::chrono::milliseconds time) {
+    const auto tenths = time.count() / 100;
+    const auto whole = std::to_string(tenths / 10);
+    return tenths % 10 == 0 ? whole : whole + "." + std::to_string(tenths % 10);
+}
+
+FileDescriptor connectTo(const SshTarget& target, std::chrono::milliseconds timeout) {
+    const auto deadline = Clock::now() + timeout;
+    const auto addresses = addressesOf(target);
+    int problem = 0;
+    for (const auto* address = addresses.get(); address; address = address->ai_next) {
+        FileDescriptor socket{
+            ::socket(address->ai_family, address->ai_socktype | SOCK_CLOEXEC | SOCK_NONBLOCK, address->ai_protocol)};
+        problem = socket.number() < 0 ? errno : connectSocket(socket.number(), *address, deadline);
+        if (problem == 0) return socket;
+    }
+    if (problem == ETIMEDOUT) throw sshError(SshMessage::NoAnswer, {target.address(), secondsText(timeout)});
+    throw sshError(SshMessage::NotConnected, {target.address(), std::generic_category().message(problem)});
+}
+
+} // namespace qlpipe

@@ -1,0 +1,184 @@
+#include "Components/QLPipe/virtual_device/virtual_device.h"
+#include "Components/QLPipe/device_names.h"
+#include "Components/QLPipe/installer.h"
+#include "Components/QLPipe/pipe_messages.h"
+#include <algorithm>
+#include <cerrno>
+#include <fcntl.h>
+#include <filesystem>
+#include <linux/fs.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <sys/statvfs.h>
+#include <thread>
+#include <unistd.h>
+
+namespace qlpipe {
+namespace {
+
+constexpr char kLockFile[] = ".lock";
+/// What a folder is called between the two renames of a replacement: ".Hello.old".
+constexpr std::string_view kReplacedBegin = ".", kReplacedEnd = ".old";
+constexpr std::int64_t kLargestManifest = 1024 * 1024;
+constexpr mode_t kNewFile = 0666;
+
+std::string replacedName(const std::string& name) {
+    const auto folder = folderOf(name);
+    return (folder.empty() ? "" : folder + "/") + std::string(kReplacedBegin) + lastPart(name) +
+           std::string(kReplacedEnd);
+}
+
+/// The device's folder may be reached through links of the user's; it must not be one itself.
+FolderHandle openRoot(const std::string& path) {
+    std::error_code failed;
+    std::filesystem::create_directories(path, failed);
+    if (failed) throw transferError(kStorageFailed, {path, failed.message()});
+    Descriptor folder{::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC)};
+    const int error = errno;
+    const bool isOpen = bool(folder);
+    FolderHandle root{std::move(folder), path};
+    if (!isOpen) root.fail(error, "");
+    return root;
+}
+
+/// A file below the device's folder that is being written. The device outlives it.
+class VirtualFile final : public StorageFile {
+public:
+    VirtualFile(const FolderHandle& root, std::string name)
+        : root_(root), name_(std::move(name)), parent_(root.openFolder(folderOf(name_))) {
+        constexpr int kFlags = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
+        file_ = Descriptor{::openat(parent_.get(), lastPart(name_).c_str(), kFlags, kNewFile)};
+        if (!file_) root_.fail(errno, name_);
+    }
+    ~VirtualFile() override {
+        if (file_) ::unlinkat(parent_.get(), lastPart(name_).c_str(), 0);
+    }
+
+    void write(std::string_view bytes) override {
+        while (!bytes.empty()) {
+            const auto written = ::write(file_.get(), bytes.data(), bytes.size());
+            if (written < 0 && errno == EINTR) continue;
+            if (written < 0) root_.fail(errno, name_);
+            bytes.remove_prefix(std::size_t(written));
+        }
+    }
+    void close() override {
+        if (::fsync(file_.get()) != 0) root_.fail(errno, name_);
+        file_ = Descriptor{};
+    }
+
+private:
+    const FolderHandle& root_;
+    std::string name_;
+    Descriptor parent_, file_;
+};
+
+} // namespace
+
+VirtualDevice::VirtualDevice(const std::string& folder, std::optional<std::int64_t> memory,
+                             std::chrono::milliseconds patience)
+    : root_(openRoot(folder)), memory_(memory) {
+    lock(patience);
+    recover();
+}
+
+void VirtualDevice::lock(std::chrono::milliseconds patience) {
+    constexpr std::chrono::milliseconds kPause{20};
+    const auto folder = root_.openFolder("");
+    lock_ = Descriptor{::openat(folder.get(), kLockFile, O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, kNewFile)};
+    if (!lock_) root_.fail(errno, kLockFile);
+    const auto end = std::chrono::steady_clock::now() + patience;
+    while (::flock(lock_.get(), LOCK_EX | LOCK_NB) != 0) {
+        if (errno != EWOULDBLOCK && errno != EINTR) root_.fail(errno, kLockFile);
+        if (std::chrono::steady_clock::now() >= end) throw transferError(kDeviceBusy, {location()});
+        std::this_thread::sleep_for(kPause);
+    }
+}
+
+void VirtualDevice::recover() {
+    remove(kStagingFolder);
+    recoverFolder("");
+    recoverFolder(kApplicationsFolder);
+}
+
+/// A replacement that was cut off between its two renames is taken back; one whose end was only the removal is ended.
+void VirtualDevice::recoverFolder(const std::string& folder) {
+    for (const auto& name : list(folder)) {
+        if (!name.starts_with(kReplacedBegin) || !name.ends_with(kReplacedEnd)) continue;
+        const auto prefix = folder.empty() ? "" : folder + "/";
+        const auto middle = name.size() - kReplacedBegin.size() - kReplacedEnd.size();
+        const auto original = prefix + name.substr(kReplacedBegin.size(), middle);
+        if (exists(original))
+            remove(prefix + name);
+        else
+            rename(prefix + name, original);
+    }
+}
+
+/// The device is not larger than its disk.
+std::int64_t VirtualDevice::freeSpaceFor(const std::string& folder) {
+    struct statvfs disk {};
+    const bool known = ::fstatvfs(lock_.get(), &disk) == 0;
+    const auto onDisk = known ? std::int64_t(disk.f_bavail) * std::int64_t(disk.f_frsize) : -1;
+    if (!memory_) return onDisk;
+    std::int64_t used = -root_.bytesBelow(folder);
+    for (const char* part : {kApplicationsFolder, kDeviceFontsFolder, kRuntimeFolder}) used += root_.bytesBelow(part);
+    const auto inMemory = std::max<std::int64_t>(*memory_ - used, 0);
+    return known ? std::min(inMemory, onDisk) : inMemory;
+}
+
+std::string VirtualDevice::read(const std::string& file) {
+    const auto folder = root_.openFolder(folderOf(file));
+    const Descriptor source{
+        ::openat(folder.get(), lastPart(file).c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC)};
+    if (!source) root_.fail(errno, file);
+    struct stat state {};
+    if (::fstat(source.get(), &state) != 0) root_.fail(errno, file);
+    if (state.st_size > kLargestManifest) throw transferError(kStorageFileTooLarge, {location() + "/" + file});
+    std::string bytes(std::size_t(state.st_size), '\0');
+    const auto count = ::pread(source.get(), bytes.data(), bytes.size(), 0);
+    if (count < 0) root_.fail(errno, file);
+    bytes.resize(std::size_t(count));
+    return bytes;
+}
+
+std::unique_ptr<StorageFile> VirtualDevice::create(const std::string& file) {
+    return std::make_unique<VirtualFile>(root_, file);
+}
+
+void VirtualDevice::rename(const std::string& from, const std::string& to) {
+    const auto source = root_.openFolder(folderOf(from)), target = root_.openFolder(folderOf(to));
+    if (::renameat(source.get(), lastPart(from).c_str(), target.get(), lastPart(to).c_str()) != 0)
+        root_.fail(errno, to);
+    if (::fsync(target.get()) != 0 || ::fsync(source.get()) != 0) root_.fail(errno, to);
+}
+
+void VirtualDevice::replaceFile(const std::string& from, const std::string& to) { rename(from, to); }
+
+/// False where the file system can't exchange two names in one step.
+bool VirtualDevice::exchange(const std::string& from, const std::string& to) {
+    const auto source = root_.openFolder(folderOf(from)), target = root_.openFolder(folderOf(to));
+    if (::renameat2(source.get(), lastPart(from).c_str(), target.get(), lastPart(to).c_str(), RENAME_EXCHANGE) != 0) {
+        if (errno == EINVAL || errno == ENOSYS || errno == EOPNOTSUPP) return false;
+        root_.fail(errno, to);
+    }
+    if (::fsync(target.get()) != 0 || ::fsync(source.get()) != 0) root_.fail(errno, to);
+    return true;
+}
+
+void VirtualDevice::replaceFolder(const std::string& from, const std::string& to) {
+    root_.syncTree(from);
+    if (!exists(to)) return rename(from, to);
+    if (exchange(from, to)) return remove(from);
+    const auto old = replacedName(to);
+    rename(to, old);
+    try {
+        rename(from, to);
+    } catch (const TransferError&) {
+        rename(old, to);
+        throw;
+    }
+    remove(old);
+}
+
+} // namespace qlpipe

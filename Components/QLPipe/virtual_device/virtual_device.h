@@ -1,0 +1,53 @@
+#pragma once
+// A device that is a folder on this machine.
+#include "Components/QLPipe/device_storage.h"
+#include "Components/QLPipe/pipe_services.h"
+#include "Components/QLPipe/virtual_device/folder_handle.h"
+#include <chrono>
+#include <optional>
+
+namespace vbide {
+class VBProject;
+}
+
+namespace qlpipe {
+
+/// The storage of a device whose memory is a folder. One transfer at a time has it; others wait.
+class VirtualDevice final : public DeviceStorage {
+public:
+    static constexpr std::chrono::milliseconds kUsualPatience{30'000};
+
+    /// Makes the folder where there is none and puts right what an interrupted transfer left. `memory` in bytes, none for
+    /// a device as large as its disk. Throws TransferError, after `patience` that the device is in use.
+    VirtualDevice(const std::string& folder, std::optional<std::int64_t> memory,
+                  std::chrono::milliseconds patience = kUsualPatience);
+
+    std::string location() const override { return root_.location(); }
+    std::int64_t freeSpaceFor(const std::string& folder) override;
+    bool exists(const std::string& name) override { return root_.exists(name); }
+    std::vector<std::string> list(const std::string& folder) override { return root_.names(folder); }
+    std::string read(const std::string& file) override;
+    void makeFolder(const std::string& folder) override { root_.makeFolders(folder); }
+    std::unique_ptr<StorageFile> create(const std::string& file) override;
+    void replaceFile(const std::string& from, const std::string& to) override;
+    void replaceFolder(const std::string& from, const std::string& to) override;
+    void remove(const std::string& name) override { root_.remove(name); }
+
+private:
+    void lock(std::chrono::milliseconds patience);
+    void recover();
+    void recoverFolder(const std::string& folder);
+    bool exchange(const std::string& from, const std::string& to);
+    void rename(const std::string& from, const std::string& to);
+
+    FolderHandle root_;
+    std::optional<std::int64_t> memory_;
+    Descriptor lock_;
+};
+
+/// The device of a design target: a folder of that name in $FERNWICK_DEVICES, else in fernwick/devices of the user's data
+/// folder, with the memory of its target.
+std::unique_ptr<DeviceStorage> openVirtualDevice(const PipeServices& services, const std::string& deviceName,
+                                                 const basic::Ref<vbide::VBProject>& project);
+
+} // namespace qlpipe

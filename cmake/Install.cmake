@@ -1,0 +1,9 @@
+# Where an install puts things. The program finds its installation tree in share/fernwick beside its bin folder.
+include(GNUInstallDirs)
+
+install(TARGETS fernwick RUNTIME DESTINATION bin)
+install(DIRECTORY installation/ DESTINATION share/fernwick PATTERN "VB Toolkit/Samples" EXCLUDE)
+install(DIRECTORY samples/ DESTINATION "share/fernwick/VB Toolkit/Samples")
+install(FILES docs/man/fernwick.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+install(FILES Apps/fernwick/completion/fernwick.bash DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions
+  RENAME fernwick)

@@ -1,0 +1,24 @@
+say "Packing compiles where it must, and gives the same bytes for the same project."
+sample AddressBook
+cd AddressBook
+run fernwick package AddressBook.vbp
+sha256sum *.qlpkg >first
+run fernwick package AddressBook.vbp
+sha256sum -c first
+run fernwick package --list AddressBook.PalmOS-DragonBall.qlpkg
+run fernwick package --verify AddressBook.PalmOS-DragonBall.qlpkg
+unzip -tq AddressBook.PalmOS-DragonBall.qlpkg
+
+say "A package that was cut short, changed, or is none."
+head -c 1000 AddressBook.PalmOS-DragonBall.qlpkg >short.qlpkg
+run fernwick package --verify short.qlpkg
+cp AddressBook.PalmOS-DragonBall.qlpkg changed.qlpkg
+printf x >AddressBook.0000.qlx
+zip -q changed.qlpkg AddressBook.0000.qlx
+run fernwick package --verify changed.qlpkg
+run fernwick deploy changed.qlpkg --device PalmOS-DragonBall
+run fernwick package --list AddressBook.vbp
+run fernwick package --verify missing.qlpkg
+
+say "A device installs from a package."
+run fernwick deploy AddressBook.PalmOS-DragonBall.qlpkg

@@ -1,0 +1,86 @@
+"""The catalogue of messages against the sources that use their numbers, and the pages that are made of it."""
+import json
+import re
+import subprocess
+import unittest
+
+from support import PROGRAM, ROOT, Home
+
+# Who gives messages: the header with the numbers, and the numbers that are its to give.
+COMPILER = set(range(1000, 2999))
+ADD_IN = {2999, 4097, 4119, *range(8193, 8209), 12289}
+PIPES = {*range(20000, 21000), *range(3100, 3900)}
+GIVERS = (("Components/QLToolkit/messages.h", COMPILER),)
+
+# Where numbers with a meaning of their own may stand as such.
+GIVING = ("Add-in", "Components", "Apps")
+RESERVED = ADD_IN | set(range(20000, 21000))
+LITERAL = re.compile(r"(?<![\w.'])(\d{4,5})(?![\w.'])")
+
+
+def without_comments(text):
+    return re.sub(r"//[^\n]*|/\*.*?\*/", "", text, flags=re.S)
+
+
+def sources(*folders):
+    for folder in folders:
+        for path in sorted((ROOT / folder).rglob("*")):
+            if path.suffix in (".h", ".cpp"):
+                yield path, without_comments(path.read_text(encoding="utf-8"))
+
+
+class Catalogue(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        done = subprocess.run([PROGRAM, "explain", "--format", "json"], capture_output=True, check=True)
+        cls.messages = json.loads(done.stdout)["messages"]
+        cls.numbers = {m["number"] for m in cls.messages}
+
+    def test_each_number_has_one_entry_at_its_place(self):
+        in_order = [m["number"] for m in self.messages]
+        self.assertEqual(in_order, sorted(set(in_order)))
+
+    def test_entries_are_complete(self):
+        for message in self.messages:
+            with self.subTest(message["number"]):
+                for field in ("text", "meaning", "remedy"):
+                    self.assertEqual(message[field], message[field].strip())
+                    self.assertNotEqual(message[field], "")
+                self.assertIn(message["severity"], ("error", "warning"))
+
+    def test_numbers_are_their_givers(self):
+        self.assertEqual(self.numbers - COMPILER - ADD_IN - PIPES, set())
+        for header, its_own in GIVERS:
+            named = {int(n) for n in re.findall(r"=\s*(\d+)\s*[,;]", without_comments((ROOT / header).read_text()))}
+            with self.subTest(header):
+                self.assertEqual(named, self.numbers & its_own)
+
+    def test_numbers_in_the_sources_have_entries(self):
+        for path, text in sources(*GIVING):
+            used = {int(n) for n in LITERAL.findall(text)} & RESERVED
+            self.assertEqual(used - self.numbers, set(), path.relative_to(ROOT))
+
+    def test_pages_are_as_the_catalogue_is(self):
+        checked = subprocess.run([ROOT / "scripts/make-message-pages", "--check", PROGRAM], capture_output=True,
+                                 text=True)
+        self.assertEqual((checked.stdout, checked.stderr, checked.returncode), ("", "", 0))
+
+    def test_a_page_out_of_date_is_noticed(self):
+        with Home() as home:
+            for folder in ("scripts", "docs", "installation/VB Toolkit/doc"):
+                home.run("mkdir", "-p", home.work / folder, check=True)
+                home.run("cp", "-r", f"{ROOT / folder}/.", home.work / folder, check=True)
+            doc = home.work / "installation/VB Toolkit/doc/Quinloft_Error_Codes"
+            (doc / "1000.html").write_text("other")
+            (doc / "1001.html").unlink()
+            (doc / "1.html").write_text("")
+            script = home.work / "scripts/make-message-pages"
+            checked = home.run(script, "--check", PROGRAM)
+            self.assertEqual(re.findall(r"/(\d+)\.html", checked.stdout), ["1000", "1001", "1"])
+            self.assertEqual(checked.returncode, 1)
+            home.run(script, PROGRAM, check=True)
+            self.assertEqual(home.run(script, "--check", PROGRAM).stdout, "")
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,213 @@
+#pragma once
+// Projects on disk and devices that do what a test tells them.
+#include "Add-in/build/udocCompileMsgs.h"
+#include "Add-in/deploy/frmSendRuntimeToDevice.h"
+#include "Add-in/deploy/frmSendToDevice.h"
+#include "Host/system/file_system.h"
+#include "fake_pipe.h"
+#include "tests/support/fake_compiler.h"
+#include "tests/support/fake_targets.h"
+#include "tests/support/host_commands.h"
+#include "tests/support/temp_folder.h"
+#include "tests/support/traced_platform.h"
+
+namespace test {
+
+/// Files on disk. Each call that reads one or changes it may fail; the questions whether one exists never do.
+class TracedHostFiles : public host::FileSystem {
+public:
+    explicit TracedHostFiles(Trace& trace) : trace_(trace) {}
+    /// As on a system where a project may lie in no folder at all.
+    bool nowhere = false;
+    std::string WithSeparator(const std::string& folder) const override {
+        return nowhere ? "" : host::FileSystem::WithSeparator(folder);
+    }
+    bool FolderExists(const std::string& path) const override {
+        return nowhere || host::FileSystem::FolderExists(path);
+    }
+    std::int64_t GetDateLastModified(const std::string& path) const override {
+        trace_.read();
+        return host::FileSystem::GetDateLastModified(path);
+    }
+    std::vector<std::string> Files(const std::string& folder) const override {
+        trace_.read();
+        return host::FileSystem::Files(folder);
+    }
+    basic::Ref<fernwick::TextStream> OpenTextFile(const std::string& path) override {
+        trace_.read();
+        return host::FileSystem::OpenTextFile(path);
+    }
+    void CopyFile(const std::string& from, const std::string& to, bool overwrite) override {
+        trace_.effect("copy " + GetFileName(from));
+        host::FileSystem::CopyFile(from, to, overwrite);
+    }
+    void DeleteFile(const std::string& path, bool force) override {
+        trace_.effect("delete " + GetFileName(path) + (force ? " by force" : ""));
+        host::FileSystem::DeleteFile(path, force);
+    }
+
+private:
+    Trace& trace_;
+};
+
+/// A host whose templates lie in a folder that is there.
+class DiskVbe : public TracedVbe {
+public:
+    DiskVbe(Trace& trace, std::string templates, std::function<Ref<fernwick::Object>(const std::string&)> create)
+        : TracedVbe(trace, std::move(create)), templates_(std::move(templates)) {}
+    std::string TemplatePath() const override { return templates_; }
+
+private:
+    std::string templates_;
+};
+
+/// Lets the user do something in the settings.
+class SettingsCommands : public TracedCommands {
+public:
+    using TracedCommands::TracedCommands;
+    std::function<void()> inSettings;
+    void ShowQuinloftSettings(const Ref<vbide::VBProject>& project, const std::string& page, bool scan) override {
+        TracedCommands::ShowQuinloftSettings(project, page, scan);
+        if (inSettings) inSettings();
+    }
+};
+
+/// A platform whose files are on disk.
+struct DeployPlatform : TracedPlatform {
+    DeployPlatform() {
+        registry.set(fernwick::HKEY_LOCAL_MACHINE, "Software\\Quinloft", "RootDir", folder / "install");
+        folder.write("install/VB Toolkit/Bin/qldefault.ico", "icon");
+        folder.write("install/Fonts/Ari_08B.CMF", "font");
+        folder.write("install/VB Toolkit/Template/Projects/readme.txt", "");
+        folder.write("Template/Projects/readme.txt", "");
+    }
+    TempFolder folder;
+    TracedHostFiles disk{trace};
+    fernwick::Platform onDisk{user,        loop,      registry, disk,   processes, classes,
+                              environment, clipboard, shell,    screen, clock,     platform.app};
+    FakeTargets targets{classes};
+    FakePipeFamily family{trace, classes};
+    fernwick::modRegistry2 registry2{registry};
+    fernwick::modQLInstallInfo install{registry2, disk};
+    fernwick::modDeviceManagement devices{classes, errors};
+    fernwick::PipeServices pipes{onDisk, errors, install, devices};
+};
+
+/// The driver around one project, Foo, that was compiled and whose device is Palm.
+struct DeployWorld : DeployPlatform {
+    DeployWorld() {
+        targets.known = {"Palm"};
+        addIn.gVBInstance = vbe;
+        vbe->projects->list.push_back(project);
+        vbe->active = project;
+        for (const auto& [key, value] : std::map<std::string, std::string>{{"IsQuinloftProject", "True"},
+                                                                           {"ProjectVersion", "3.5"},
+                                                                           {"LastCompileVersion", "3.5.0 (0624)"},
+                                                                           {"ScanReferences", "True"}})
+            project->properties[{"Quinloft Global", key}] = value;
+        folder.write("Foo/Foo.vbp", "Type=Exe\r\nMajorVer=1\r\nMinorVer=2\r\nRevisionVer=3\r\n");
+        addModule("Module1");
+        image = folder.write("Foo/Foo.0000.qlx", "image");
+        qlProject = projects.AddToProjectsList(project);
+        projects.gCurrentProject = project;
+        messages.createToolWindow();
+        compilerClass = classes.RegisterClass("QLToolkit.CompilerFactory",
+                                              [this] { return basic::make<FakeCompilerFactory>(compiler); });
+        watch();
+        trace.effects.clear();
+    }
+    Ref<TracedComponent> addModule(const std::string& name) {
+        return project->add(name, folder.write("Foo/" + name + ".bas", "Sub Main()\r\nEnd Sub\r\n"));
+    }
+    std::string path(const std::string& name) const { return folder / ("Foo/" + name); }
+    std::int64_t timeOf(const std::string& name) const {
+        return disk.host::FileSystem::GetDateLastModified(path(name));
+    }
+    void setTime(const std::string& name, std::int64_t time) { disk.SetDateLastModified(path(name), time); }
+    void makeStale() { setTime("Module1.bas", timeOf("Foo.0000.qlx") + 1); }
+    /// Stores a list under numbered keys from 1.
+    void store(const std::string& list, const std::string& entry, const std::vector<std::string>& values) {
+        const std::string section = "Quinloft Components And Tavlet Dependencies Section";
+        project->properties[{section, list}] = std::to_string(values.size());
+        for (std::size_t i = 0; i < values.size(); ++i)
+            project->properties[{section, entry + std::to_string(i + 1)}] = values[i];
+    }
+    void storeDependencies(const std::vector<std::string>& values) {
+        project->properties[{"Quinloft Project Dependencies", "NumDependencies"}] = std::to_string(values.size());
+        for (std::size_t i = 0; i < values.size(); ++i)
+            project->properties[{"Quinloft Project Dependencies", "Dependencies" + std::to_string(i)}] = values[i];
+    }
+
+    /// What each did is then in `trace.effects`.
+    void deploy() { run(false); }
+    void package() { run(true); }
+    void run(bool makePackage) {
+        trace.effects.clear();
+        send.SendProjectToDevice(qlProject, makePackage, "Palm");
+    }
+    bool did(const std::string& what) const { return std::count(trace.effects.begin(), trace.effects.end(), what) > 0; }
+    /// The texts of the status bar.
+    std::vector<std::string> lines() const { return effectsOf("line: "); }
+    std::vector<std::string> boxes() const { return effectsOf("box "); }
+    std::vector<std::string> effectsOf(const std::string& beginning) const {
+        std::vector<std::string> some;
+        for (const auto& effect : trace.effects)
+            if (effect.starts_with(beginning))
+                some.push_back(beginning == "box " ? effect : effect.substr(beginning.size()));
+        return some;
+    }
+    std::string stored(const std::string& key) const { return project->stored(key); }
+    std::string status() const { return window->lblStatusText(); }
+    std::vector<std::string> temporaryFiles() const {
+        return disk.host::FileSystem::Files(disk.GetSpecialFolder(fernwick::TemporaryFolder));
+    }
+    /// Whether a run left nothing behind.
+    bool isClean() const { return !send.isLoaded() && family.holders() == 0 && temporaryFiles().empty(); }
+
+    fernwick::modAddinPrefsManagement prefs{registry2, errors};
+    fernwick::AddIn addIn{registry2, errors, environment};
+    fernwick::modReferencesManagement references{registry2, classes, errors};
+    fernwick::DeviceServices deviceServices{errors, user, classes, registry2, prefs, references, devices};
+    Ref<fernwick::udocCompileMsgs> window = basic::make<fernwick::udocCompileMsgs>(addIn, errors);
+    Ref<DiskVbe> vbe = basic::make<DiskVbe>(trace, folder / "Template",
+                                            [this](const std::string&) { return Ref<fernwick::Object>(window); });
+    Ref<TracedProject> project = basic::make<TracedProject>(trace, "Foo", folder / "Foo/Foo.vbp");
+    SettingsCommands commands{trace};
+    fernwick::modProjectTemplates templates{addIn, install, disk, user, errors};
+    fernwick::ProjectServices services{errors, onDisk, install, addIn, devices, templates};
+    fernwick::modProjectHandler projects{services};
+    fernwick::modCompileErrorManagement messages{addIn, errors, onDisk};
+    fernwick::modDependencyManagement dependencies{{onDisk, errors, install, messages, commands}};
+    fernwick::modProcessControl steps{errors, onDisk};
+    fernwick::frmSaveProjectFiles saveFiles{user, addIn};
+    fernwick::frmCompileWarning compileWarning{user, prefs, errors};
+    Ref<FakeCompiler> compiler = basic::make<FakeCompiler>(trace);
+    fernwick::frmCompile compile{
+        {onDisk, errors, registry2, install, projects, messages, dependencies, steps, saveFiles, commands}};
+    fernwick::frmValidate validate{{onDisk, errors, registry2, install, services, deviceServices, messages, compile}};
+    fernwick::frmSendToDevice send{
+        pipes, {addIn, prefs, projects, messages, dependencies, compile, compileWarning, validate, commands}};
+    Ref<fernwick::clsQLProject> qlProject;
+    std::string image;
+
+private:
+    /// Tells in the trace what the form shows.
+    void watch() {
+        const auto tell = [this](const std::string& what) {
+            return [this, what](bool visible) { trace.effects.push_back(what + (visible ? " shown" : " hidden")); };
+        };
+        watches.push_back(send.stsUpdate.Refreshed.connect(
+            [this] { trace.effects.push_back("line: " + send.stsUpdate.SimpleText()); }));
+        watches.push_back(send.MousePointer.watch(
+            [this](int shape) { trace.effects.push_back("pointer " + std::to_string(shape)); }));
+        watches.push_back(window->lblStatusText.watch(
+            [this](const std::string& text) { trace.effects.push_back("status: " + text); }));
+        watches.push_back(send.aniSend.Visible.watch(tell("animation")));
+        watches.push_back(send.finishedImg.Visible.watch(tell("finished")));
+        watches.push_back(send.failedImg.Visible.watch(tell("failed")));
+    }
+    std::vector<fernwick::Subscription> watches;
+    std::shared_ptr<void> compilerClass;
+};
+
+} // namespace test

@@ -1,0 +1,260 @@
+// Who is reached, and who is let in.
+#include "tests/pipes_ssh/cutting_proxy.h"
+#include "tests/pipes_ssh/ssh_device.h"
+#include <optional>
+
+namespace {
+
+using qlpipe::SshMessage;
+using qlpipe::SshStorage;
+using test::expectError;
+using test::transferErrorOf;
+
+/// A variable of the environment for the time of a test; nullopt takes it away.
+class Variable {
+public:
+    Variable(const char* name, const std::optional<std::string>& value) : name_(name) {
+        if (const char* old = std::getenv(name)) old_ = old;
+        set(value);
+    }
+    ~Variable() { set(old_); }
+
+private:
+    void set(const std::optional<std::string>& value) const {
+        if (value)
+            ::setenv(name_, value->c_str(), 1);
+        else
+            ::unsetenv(name_);
+    }
+    const char* name_;
+    std::optional<std::string> old_;
+};
+
+class SshConnection : public test::SshDevice {
+protected:
+    Variable noAgent{"SSH_AUTH_SOCK", std::nullopt};
+};
+
+/// With an SSH agent that holds nothing yet.
+class SshAgent : public SshConnection {
+protected:
+    SshAgent() {
+        for (int wait = 0; wait < 1000 && !std::filesystem::exists(socket); ++wait)
+            std::this_thread::sleep_for(std::chrono::milliseconds(5));
+    }
+    void add(const std::string& key) const {
+        ::chmod((server.folder / key).c_str(), 0600);
+        test::runProgram({"ssh-add", "-q", server.folder / key}, server.folder / "log");
+    }
+    /// With a key in the agent that the device knows, and a file of it that has a passphrase.
+    void addProtectedKey() const {
+        add("user_key");
+        test::runProgram({"ssh-keygen", "-q", "-p", "-P", "", "-N", "secret", "-f", server.folder / "user_key"},
+                         server.folder / "log");
+    }
+
+    std::string socket = server.folder / "agent";
+    test::RunningProgram agent{{"ssh-agent", "-D", "-a", socket}, server.folder / "log"};
+    Variable variable{"SSH_AUTH_SOCK", socket};
+};
+
+TEST_F(SshConnection, LetsTheUserInByHisKeyFile) { EXPECT_NO_THROW(connect()); }
+
+TEST_F(SshConnection, TakesTheUsualKeysWithoutAKeyFile) {
+    std::filesystem::create_directory(server.folder / ".ssh");
+    std::filesystem::rename(server.folder / "user_key", server.folder / ".ssh/id_ed25519");
+    const Variable home{"HOME", server.folder.path()};
+    auto to = target();
+    to.keyFile = "";
+    EXPECT_NO_THROW((SshStorage{to, patient()}));
+}
+
+TEST_F(SshConnection, RefusesAnUnknownHostAndSaysHowToMakeItKnown) {
+    server.folder.write("known_hosts", "");
+    const auto error = refusal(target());
+    expectError(error, SshMessage::HostKeyUnknown,
+                {server.fingerprint("host_key"), "ssh-keygen -lf /etc/ssh/ssh_host_ed25519_key.pub"});
+    EXPECT_FALSE(isOnDevice(""));
+    const auto command = error.text.substr(error.text.find("echo '"));
+    ASSERT_EQ(std::system(command.c_str()), 0) << command;
+    EXPECT_NO_THROW(connect());
+}
+
+TEST_F(SshConnection, TakesAMissingFileOfKnownHostsForOneThatKnowsNobody) {
+    std::filesystem::remove(server.folder / "known_hosts");
+    expectError(refusal(target()), SshMessage::HostKeyUnknown, {server.fingerprint("host_key")});
+}
+
+TEST_F(SshConnection, RefusesAHostWhoseKeyHasChangedAndSaysHowToAcceptIt) {
+    server.makeKey("other_key");
+    server.folder.write("known_hosts", server.knownHost(server.port, "other_key"));
+    const auto error = refusal(target());
+    expectError(error, SshMessage::HostKeyChanged, {server.fingerprint("host_key"), "another device answers"});
+    const auto command = error.text.substr(error.text.find("ssh-keygen -R"));
+    const auto both = command.substr(0, command.find(" and make")) + "; " + command.substr(command.find("echo '"));
+    ASSERT_EQ(std::system(("(" + both + ") >/dev/null 2>&1").c_str()), 0) << both;
+    EXPECT_EQ(transferErrorOf([&] { connect(); }).text, "no error");
+}
+
+TEST_F(SshConnection, RefusesToGuessWhenKnownHostsCantBeRead) {
+    auto to = target();
+    to.knownHosts = server.folder / "known_hosts/below_a_file";
+    expectError(refusal(to), SshMessage::KnownHostsUnreadable, {to.knownHosts});
+}
+
+TEST_F(SshConnection, RefusesAKeyThatTheDeviceDoesNotKnow) {
+    server.makeKey("stranger");
+    auto to = target();
+    to.keyFile = server.folder / "stranger";
+    expectError(refusal(to), SshMessage::KeysRefused, {to.keyFile, "ssh-copy-id", std::to_string(server.port)});
+}
+
+TEST_F(SshConnection, SaysWhenThereIsNoKeyAtAll) {
+    const Variable home{"HOME", server.folder / "nobody"};
+    auto to = target();
+    to.keyFile = "";
+    expectError(refusal(to), SshMessage::KeysRefused, {"there was none"});
+}
+
+TEST_F(SshConnection, SaysWhichKeyFileCantBeUsed) {
+    auto to = target();
+    to.keyFile = server.folder / "none";
+    expectError(refusal(to), SshMessage::KeyFileMissing, {to.keyFile, "No such file", "KeyFile"});
+    to.keyFile = server.folder / "user_key.pub";
+    expectError(refusal(to), SshMessage::KeyFileUnusable, {to.keyFile});
+}
+
+TEST_F(SshConnection, SendsAKeyWithAPassphraseThroughTheAgent) {
+    server.makeKey("protected", "secret");
+    auto to = target();
+    to.keyFile = server.folder / "protected";
+    expectError(refusal(to), SshMessage::KeyNeedsAgent, {"ssh-add '" + to.keyFile + "'", "no agent runs"});
+}
+
+TEST_F(SshAgent, LetsTheUserInByAKeyOfTheAgent) {
+    add("user_key");
+    auto to = target();
+    to.keyFile = "";
+    EXPECT_NO_THROW((SshStorage{to, patient()}));
+}
+
+TEST_F(SshAgent, LetsTheUserInByTheAgentsCopyOfAProtectedKey) {
+    addProtectedKey();
+    EXPECT_NO_THROW(connect());
+}
+
+TEST_F(SshAgent, TriesTheNextKeyWhenTheDeviceDoesNotKnowTheFirst) {
+    server.makeKey("stranger");
+    add("stranger");
+    add("user_key");
+    auto to = target();
+    to.keyFile = "";
+    EXPECT_NO_THROW((SshStorage{to, patient()}));
+}
+
+TEST_F(SshAgent, SaysThatTheAgentLacksTheProtectedKey) {
+    server.makeKey("protected", "secret");
+    auto to = target();
+    to.keyFile = server.folder / "protected";
+    expectError(refusal(to), SshMessage::KeyNeedsAgent, {"ssh-add '" + to.keyFile + "'", "none of the agent's keys"});
+}
+
+TEST_F(SshAgent, SaysWhatWasTriedWhenTheServerHasEnough) {
+    for (int i = 0; i < 8; ++i) {
+        const auto key = "stranger" + std::to_string(i);
+        server.makeKey(key);
+        add(key);
+    }
+    auto to = target();
+    to.keyFile = "";
+    expectError(refusal(to), SshMessage::KeysRefused, {"SSH agent", "KeyFile"});
+}
+
+TEST_F(SshConnection, SaysWhenNothingListens) {
+    expectError(refusal(targetAt(test::freePort())), SshMessage::NotConnected, {"127.0.0.1:", "Connection refused"});
+}
+
+TEST_F(SshConnection, SaysWhenTheNameIsUnknown) {
+    auto to = target();
+    to.host = "handheld.invalid";
+    expectError(refusal(to), SshMessage::HostNotFound, {"handheld.invalid", "Host"});
+}
+
+TEST_F(SshConnection, WaitsNotForEverForAServerThatNeverSpeaks) {
+    const int silent = test::listenOnLoopback();
+    auto timeouts = patient();
+    timeouts.connect = std::chrono::milliseconds(200);
+    const auto begin = std::chrono::steady_clock::now();
+    expectError(transferErrorOf([&] {
+                    SshStorage{targetAt(test::portOfSocket(silent)), timeouts};
+                }),
+                SshMessage::NoAnswer, {"0.2 seconds"});
+    EXPECT_GE(std::chrono::steady_clock::now() - begin, timeouts.connect);
+    ::close(silent);
+}
+
+TEST_F(SshConnection, SaysWhenAnotherProgramAnswers) {
+    const int listener = test::listenOnLoopback();
+    std::thread other([listener] {
+        const int socket = ::accept(listener, nullptr, nullptr);
+        ::send(socket, "HTTP/1.0 400 Bad Request\r\n\r\n", 28, MSG_NOSIGNAL);
+        ::close(socket);
+    });
+    expectError(refusal(targetAt(test::portOfSocket(listener))), SshMessage::HandshakeFailed, {"at this port"});
+    other.join();
+    ::close(listener);
+}
+
+TEST(SshServerWithoutSftp, IsToldApart) {
+    for (const char* configuration : {"", "Subsystem sftp /nowhere/sftp-server\n"}) {
+        const test::SshServer server{configuration};
+        const qlpipe::SshTarget to{"127.0.0.1",
+                                   server.port,
+                                   qlpipe::userName(),
+                                   server.folder / "user_key",
+                                   server.folder / "device",
+                                   server.folder / "known_hosts",
+                                   false};
+        expectError(transferErrorOf([&] { SshStorage{to, {}}; }), SshMessage::TransferNotOffered, {"Install"});
+    }
+}
+
+TEST(SshServerThatPrints, IsToldApart) {
+    const test::SshServer server{"Subsystem sftp /bin/echo Welcome to this handheld\n"};
+    const qlpipe::SshTarget to{"127.0.0.1",
+                               server.port,
+                               qlpipe::userName(),
+                               server.folder / "user_key",
+                               server.folder / "device",
+                               server.folder / "known_hosts",
+                               false};
+    expectError(transferErrorOf([&] { SshStorage{to, {}}; }), SshMessage::AnswerInvalid, {".bashrc"});
+}
+
+TEST(SshServerThatWantsMore, IsToldApart) {
+    const test::SshServer server{"Subsystem sftp internal-sftp\nAuthenticationMethods publickey,publickey\n"};
+    const qlpipe::SshTarget to{"127.0.0.1",
+                               server.port,
+                               qlpipe::userName(),
+                               server.folder / "user_key",
+                               server.folder / "device",
+                               server.folder / "known_hosts",
+                               false};
+    expectError(transferErrorOf([&] { SshStorage{to, {}}; }), SshMessage::KeyNotEnough, {"AuthenticationMethods"});
+}
+
+TEST_F(SshConnection, KeepsNoDescriptorsOpen) {
+    const auto open = [] {
+        return std::distance(std::filesystem::directory_iterator("/proc/self/fd"),
+                             std::filesystem::directory_iterator());
+    };
+    connect();
+    const auto before = open();
+    connect();
+    server.folder.write("known_hosts", "");
+    refusal(target());
+    refusal(targetAt(test::freePort()));
+    EXPECT_EQ(open(), before);
+}
+
+} // namespace

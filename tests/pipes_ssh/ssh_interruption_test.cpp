@@ -1,0 +1,203 @@
+// Connections that break, stall, and devices that fail in the middle.
+#include "tests/pipes_ssh/cutting_proxy.h"
+#include "tests/pipes_ssh/ssh_device.h"
+#include <sys/mount.h>
+
+namespace {
+
+using qlpipe::SshMessage;
+using qlpipe::SshStorage;
+using test::CuttingProxy;
+using test::deploy;
+using test::expectError;
+using test::put;
+using test::transferErrorOf;
+using testing::AnyOf;
+using testing::ElementsAre;
+
+class SshInterruption : public test::SshDevice {
+protected:
+    SshInterruption() {
+        server.folder.write("known_hosts",
+                            server.folder.read("known_hosts") + server.knownHost(proxy.port(), "host_key"));
+    }
+
+    std::unique_ptr<SshStorage> connectByProxy(const qlpipe::SshTimeouts& timeouts = patient()) const {
+        return std::make_unique<SshStorage>(targetAt(proxy.port()), timeouts);
+    }
+    /// The application as the next connection finds it.
+    std::string wholeApplication() { return wholeApplication(*connect()); }
+    static std::string wholeApplication(SshStorage& device) {
+        const auto content = device.read("applications/Game/Game.qlx");
+        EXPECT_EQ(device.read("applications/Game/data/levels.txt"), content + " levels");
+        return content;
+    }
+    /// With little to wait for, in tests that wait to the end.
+    static qlpipe::SshTimeouts impatient() {
+        auto timeouts = patient();
+        timeouts.operation = timeouts.flush = std::chrono::milliseconds(300);
+        return timeouts;
+    }
+
+    CuttingProxy proxy{server.port};
+};
+
+TEST_F(SshInterruption, LeavesAWholeApplicationWhereverItCuts) {
+    deploy(*connect(), "old");
+    deploy(*connectByProxy(), "old");
+    const auto all = proxy.sent();
+    int broken = 0;
+    // the last of it first: there the old application gives way to the new one
+    for (std::size_t left = 1; left < all; left += left < 2000 ? 80 : 700) {
+        proxy.cutAfter(all - left);
+        const auto error = transferErrorOf([&] { deploy(*connectByProxy(), "new"); });
+        broken += error.number != 0;
+        const auto device = connect();
+        EXPECT_THAT(wholeApplication(*device), AnyOf("old", "new")) << "cut " << left << " bytes before the end";
+        deploy(*device, "old");
+        EXPECT_THAT(device->list(""), ElementsAre("applications"));
+        EXPECT_THAT(device->list("applications"), ElementsAre("Game"));
+        EXPECT_TRUE(std::filesystem::is_empty(server.folder / "device/.fernwick-replaced"));
+    }
+    EXPECT_GT(broken, 10);
+}
+
+TEST_F(SshInterruption, PutsBackWhatWasSetAsideWhenTheNewOneNeverCame) {
+    server.folder.write("device/.fernwick-replaced/applications%2FGame/Game.qlx", "old");
+    server.folder.write("device/.fernwick-replaced/applications%2FGame/data/levels.txt", "old levels");
+    std::filesystem::create_directory(server.folder / "device/applications");
+    EXPECT_EQ(wholeApplication(), "old");
+    EXPECT_TRUE(std::filesystem::is_empty(server.folder / "device/.fernwick-replaced"));
+}
+
+TEST_F(SshInterruption, RemovesWhatWasSetAsideWhenTheNewOneStands) {
+    deploy(*connect(), "new");
+    server.folder.write("device/.fernwick-replaced/applications%2FGame/Game.qlx", "old");
+    EXPECT_EQ(wholeApplication(), "new");
+    EXPECT_TRUE(std::filesystem::is_empty(server.folder / "device/.fernwick-replaced"));
+}
+
+TEST_F(SshInterruption, LeavesAloneWhatItNeverSetAside) {
+    for (const char* name : {"..%2F..%2Fescaped", "%2Fescaped", "50%off"})
+        server.folder.write("device/.fernwick-replaced/" + std::string{name} + "/file", "x");
+    connect();
+    EXPECT_FALSE(std::filesystem::exists(server.folder / "escaped"));
+    EXPECT_TRUE(isOnDevice(".fernwick-replaced/50%off/file"));
+}
+
+TEST_F(SshInterruption, SaysThatTheConnectionBroke) {
+    const auto device = connectByProxy();
+    device->makeFolder("a");
+    const auto file = device->create("a/file");
+    proxy.cutAfter(proxy.sent() + 200'000);
+    expectError(transferErrorOf([&] {
+                    for (int i = 0; i < 100; ++i) file->write(std::string(100'000, 'x'));
+                    file->close();
+                }),
+                SshMessage::ConnectionLost, {"127.0.0.1:", "try again"});
+    EXPECT_FALSE(isOnDevice("a/file"));
+}
+
+TEST_F(SshInterruption, SaysThatTheServerWasKilled) {
+    const auto device = connect();
+    device->makeFolder("a");
+    server.kill();
+    expectError(transferErrorOf([&] { put(*device, "a/file", "x"); }), SshMessage::ConnectionLost);
+}
+
+TEST_F(SshInterruption, WaitsNotForEverForAReply) {
+    const auto device = connectByProxy(impatient());
+    proxy.freeze(true);
+    expectError(transferErrorOf([&] { device->exists("a"); }), SshMessage::Stalled, {"0.3 seconds"});
+}
+
+TEST_F(SshInterruption, WaitsNotForEverForRoomInTheNetwork) {
+    auto timeouts = impatient();
+    const auto device = connectByProxy(timeouts);
+    device->makeFolder("a");
+    const auto file = device->create("a/file");
+    proxy.freeze(true);
+    expectError(transferErrorOf([&] {
+                    for (int i = 0; i < 1000; ++i) file->write(std::string(100'000, 'x'));
+                    file->close();
+                }),
+                SshMessage::Stalled, {"0.3 seconds"});
+}
+
+TEST_F(SshInterruption, WaitsForAServerThatIsSlow) {
+    auto timeouts = patient();
+    const auto device = connectByProxy(timeouts);
+    proxy.freeze(true);
+    std::thread thaw([this] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(100));
+        proxy.freeze(false);
+    });
+    EXPECT_FALSE(device->exists("a"));
+    thaw.join();
+}
+
+TEST_F(SshInterruption, OverwritesThePieceThatAnInterruptionLeft) {
+    server.folder.write("device/a/file.fernwick-part", std::string(1000, 'x'));
+    put(*connect(), "a/file", "new");
+    EXPECT_EQ(onDevice("a/file"), "new");
+    EXPECT_FALSE(isOnDevice("a/file.fernwick-part"));
+}
+
+/// A folder of a few kilobytes on the device, where the test may mount one.
+class SshFullDevice : public SshInterruption {
+protected:
+    void SetUp() override {
+        std::filesystem::create_directory(server.folder / "device");
+        mounted = ::mount("tmpfs", (server.folder / "device").c_str(), "tmpfs", 0, "size=64k") == 0;
+        if (!mounted) GTEST_SKIP() << "only root may mount a small disk";
+    }
+    void TearDown() override {
+        if (mounted) ::umount2((server.folder / "device").c_str(), MNT_DETACH);
+    }
+    bool mounted = false;
+};
+
+TEST_F(SshFullDevice, KeepsTheOldApplicationAndSaysThatThereIsNoRoom) {
+    const auto device = connect();
+    deploy(*device, "old");
+    EXPECT_GT(device->freeSpaceFor("applications/Game"), 0);
+    EXPECT_LE(device->freeSpaceFor("applications/Game"), 64 * 1024);
+    expectError(transferErrorOf([&] { deploy(*device, std::string(200'000, 'x')); }), SshMessage::DeviceFull,
+                {"no room", "device/incoming/Game.qlx"});
+    EXPECT_EQ(wholeApplication(), "old");
+    EXPECT_FALSE(isOnDevice("incoming/Game.qlx.fernwick-part"));
+}
+
+/// A server on which nothing can be written, also by root.
+TEST(SshReadOnlyDevice, SaysWhatItMayNotDo) {
+    const test::SshServer server{"Subsystem sftp internal-sftp -R\n"};
+    server.folder.write("device/file", "x");
+    SshStorage device{{"127.0.0.1", server.port, qlpipe::userName(), server.folder / "user_key",
+                       server.folder / "device", server.folder / "known_hosts", false},
+                      {}};
+    expectError(transferErrorOf([&] { device.makeFolder("a"); }), SshMessage::AccessDenied,
+                {"device/a", qlpipe::userName(), "Folder"});
+    expectError(transferErrorOf([&] { device.create("new"); }), SshMessage::AccessDenied, {"write"});
+    expectError(transferErrorOf([&] { device.remove("file"); }), SshMessage::AccessDenied, {"remove"});
+    EXPECT_EQ(device.read("file"), "x");
+}
+
+/// A server of the kind that has nothing beyond the bare protocol.
+TEST(SshPlainServer, ServesAllTheSame) {
+    const test::SshServer server{"Subsystem sftp internal-sftp -P posix-rename,fsync,statvfs\n"};
+    SshStorage device{{"127.0.0.1", server.port, qlpipe::userName(), server.folder / "user_key",
+                       server.folder / "device", server.folder / "known_hosts", false},
+                      {}};
+    EXPECT_EQ(device.freeSpaceFor(""), -1);
+    deploy(device, "one");
+    deploy(device, "two");
+    for (const char* content : {"first", "second"}) {
+        put(device, "new", content);
+        device.replaceFile("new", "list");
+        EXPECT_EQ(device.read("list"), content);
+    }
+    EXPECT_EQ(device.read("applications/Game/Game.qlx"), "two");
+    EXPECT_THAT(device.list(""), ElementsAre("applications", "list"));
+}
+
+} // namespace

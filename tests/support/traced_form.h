@@ -1,0 +1,110 @@
+#pragma once
+// A form designer in memory, each of whose members counts as a call and may fail.
+#include "tests/support/traced_project.h"
+
+namespace test {
+
+/// Properties by their exact names; one may be an object with properties of its own.
+class TracedProperties : public vbide::Properties {
+public:
+    explicit TracedProperties(Trace& trace) : trace_(trace) {}
+    int Count() const override { return int(values.size()); }
+    Ref<vbide::Property> Item(const std::string& name) const override {
+        trace_.read();
+        if (values.count(name) == 0 && objects.count(name) == 0) throw notHere(9);
+        return basic::make<One>(*this, name);
+    }
+    std::vector<Ref<vbide::Property>> items() const override { return {}; }
+
+    std::map<std::string, fernwick::Variant> values;
+    std::map<std::string, Ref<TracedProperties>> objects;
+
+private:
+    class One : public vbide::Property {
+    public:
+        One(const TracedProperties& owner, std::string name) : owner_(owner), name_(std::move(name)) {}
+        std::string Name() const override { return name_; }
+        fernwick::Variant Value() const override {
+            owner_.trace_.read();
+            return owner_.values.at(name_);
+        }
+        void Value(const fernwick::Variant&) override {}
+        Ref<vbide::Properties> ObjectValue() const override { return owner_.objects.at(name_); }
+
+    private:
+        const TracedProperties& owner_;
+        std::string name_;
+    };
+    Trace& trace_;
+};
+
+class TracedFormControl : public vbide::VBControl {
+public:
+    TracedFormControl(Trace& trace, std::string c, const std::string& name)
+        : className(std::move(c)), properties(basic::make<TracedProperties>(trace)), trace_(trace) {
+        properties->values["Name"] = name;
+    }
+    std::string ClassName() const override {
+        trace_.read();
+        return className;
+    }
+    std::string ProgId() const override { return "TavletsCtl." + className; }
+    Ref<vbide::Properties> Properties() const override { return properties; }
+    std::vector<Ref<VBControl>> ContainedVBControls() const override { return {}; }
+
+    std::string className;
+    Ref<TracedProperties> properties;
+
+private:
+    Trace& trace_;
+};
+
+class TracedDesigner : public vbide::VBForm {
+public:
+    explicit TracedDesigner(Trace& trace) : trace_(trace), list_(basic::make<List>(*this)) {}
+    Ref<vbide::VBControls> VBControls() const override { return list_; }
+    std::vector<Ref<vbide::VBControl>> ContainedVBControls() const override { return {}; }
+
+    /// A control with a font.
+    Ref<TracedFormControl> add(const std::string& className, const std::string& font, int style, int size) {
+        const auto name = className + std::to_string(controls.size() + 1);
+        controls.push_back(basic::make<TracedFormControl>(trace_, className, name));
+        auto& values = controls.back()->properties->values;
+        values["FontName"] = font;
+        values["FontStyle"] = std::int32_t{style};
+        values["FontSize"] = std::int32_t{size};
+        return controls.back();
+    }
+    std::vector<Ref<TracedFormControl>> controls;
+
+private:
+    class List : public vbide::VBControls {
+    public:
+        explicit List(const TracedDesigner& designer) : designer_(designer) {}
+        int Count() const override { return int(designer_.controls.size()); }
+        Ref<vbide::VBControl> Item(int) const override { throw notHere(9); }
+        Ref<vbide::VBControl> Item(const std::string&) const override { throw notHere(9); }
+        std::vector<Ref<vbide::VBControl>> items() const override {
+            designer_.trace_.read();
+            return {designer_.controls.begin(), designer_.controls.end()};
+        }
+        Ref<vbide::VBControl> Add(const std::string&) override { throw notHere(5); }
+        void Remove(const Ref<vbide::VBControl>&) override {}
+
+    private:
+        const TracedDesigner& designer_;
+    };
+    Trace& trace_;
+    Ref<List> list_;
+};
+
+/// The properties of a form that devices take as it is.
+inline Ref<TracedProperties> formProperties(Trace& trace) {
+    auto form = basic::make<TracedProperties>(trace);
+    form->values = {{"ScaleMode", 3}, {"StartupPosition", 2}, {"BorderStyle", 1}};
+    form->objects["Picture"] = basic::make<TracedProperties>(trace);
+    form->objects["Picture"]->values["Handle"] = 0;
+    return form;
+}
+
+} // namespace test
