@@ -72,6 +72,22 @@ public:
     }
 };
 
+/// Tells in the trace what the form shows.
+inline std::vector<fernwick::Subscription> watchForm(Trace& trace, fernwick::PipeForm& form) {
+    const auto tell = [&trace](const std::string& what) {
+        return [&trace, what](bool visible) { trace.effects.push_back(what + (visible ? " shown" : " hidden")); };
+    };
+    std::vector<fernwick::Subscription> watches;
+    watches.push_back(
+        form.stsUpdate.Refreshed.connect([&] { trace.effects.push_back("line: " + form.stsUpdate.SimpleText()); }));
+    watches.push_back(
+        form.MousePointer.watch([&](int shape) { trace.effects.push_back("pointer " + std::to_string(shape)); }));
+    watches.push_back(form.aniSend.Visible.watch(tell("animation")));
+    watches.push_back(form.finishedImg.Visible.watch(tell("finished")));
+    watches.push_back(form.failedImg.Visible.watch(tell("failed")));
+    return watches;
+}
+
 /// A platform whose files are on disk.
 struct DeployPlatform : TracedPlatform {
     DeployPlatform() {
@@ -113,7 +129,9 @@ struct DeployWorld : DeployPlatform {
         messages.createToolWindow();
         compilerClass = classes.RegisterClass("QLToolkit.CompilerFactory",
                                               [this] { return basic::make<FakeCompilerFactory>(compiler); });
-        watch();
+        watches = watchForm(trace, send);
+        watches.push_back(window->lblStatusText.watch(
+            [this](const std::string& text) { trace.effects.push_back("status: " + text); }));
         trace.effects.clear();
     }
     Ref<TracedComponent> addModule(const std::string& name) {
@@ -191,21 +209,6 @@ struct DeployWorld : DeployPlatform {
     std::string image;
 
 private:
-    /// Tells in the trace what the form shows.
-    void watch() {
-        const auto tell = [this](const std::string& what) {
-            return [this, what](bool visible) { trace.effects.push_back(what + (visible ? " shown" : " hidden")); };
-        };
-        watches.push_back(send.stsUpdate.Refreshed.connect(
-            [this] { trace.effects.push_back("line: " + send.stsUpdate.SimpleText()); }));
-        watches.push_back(send.MousePointer.watch(
-            [this](int shape) { trace.effects.push_back("pointer " + std::to_string(shape)); }));
-        watches.push_back(window->lblStatusText.watch(
-            [this](const std::string& text) { trace.effects.push_back("status: " + text); }));
-        watches.push_back(send.aniSend.Visible.watch(tell("animation")));
-        watches.push_back(send.finishedImg.Visible.watch(tell("finished")));
-        watches.push_back(send.failedImg.Visible.watch(tell("failed")));
-    }
     std::vector<fernwick::Subscription> watches;
     std::shared_ptr<void> compilerClass;
 };
