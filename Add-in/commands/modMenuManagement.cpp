@@ -124,12 +124,14 @@ Array<modMenuManagement::Item> modMenuManagement::deviceItems(const Item& popup,
 }
 
 void modMenuManagement::kludgeForTopDevices(Keys& devices) {
+    const auto hasFamily = [](const std::string& key) { return key.find('-') != key.npos; };
     const auto familyOf = [](const std::string& key) { return key.substr(0, key.find('-')); };
     Keys first;
     for (const auto& device : devices) {
-        const bool isKnown = std::any_of(first.begin(), first.end(), [&](const std::string& other) {
-            return other.find('-') != other.npos && familyOf(other) == familyOf(device);
-        });
+        const bool isKnown =
+            hasFamily(device) && std::any_of(first.begin(), first.end(), [&](const std::string& other) {
+                return hasFamily(other) && familyOf(other) == familyOf(device);
+            });
         if (!isKnown) first.push_back(device);
     }
     devices = std::move(first);
