@@ -66,6 +66,20 @@ inline constexpr char kNoMenuTitle[] = "ERROR: Could not Add Fernwick Tools Subm
 inline constexpr char kNoMenu[] =
     "CRITICAL_ERROR: Could not find main menu named '{bar}'\r\n\r\n{description} ({number})";
 
+inline constexpr char kTitle[] = "Fernwick";
+inline constexpr char kNoHelp[] = "No help is available on this topic";
+/// Before the path.
+inline constexpr char kHelpMissing[] =
+    "Specified Help File Not Found;\r\nHelp file is missing or not in default location:\r\n";
+
+inline constexpr char kAboutTitle[] = "About Fernwick";
+inline constexpr char kProduct[] = "Quinloft Fernwick";
+inline constexpr char kVersion[] = "Version 3.5.0 (0624)";
+inline constexpr char kMaker[] = "Fernwick turns Visual Basic projects into applications for handheld devices.";
+/// Around the maker's address.
+inline constexpr char kVisit[] = "Visit ";
+inline constexpr char kMoreInformation[] = " for more information.";
+
 } // namespace command_texts
 
 } // namespace fernwick

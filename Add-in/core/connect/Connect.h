@@ -1,9 +1,13 @@
 #pragma once
 // The add-in's entry object: what the host calls, and every event that the add-in listens to.
 #include "Add-in/commands/command_items.h"
+#include "Add-in/commands/frmAbout.h"
+#include "Add-in/commands/modHelpManagement.h"
+#include "Add-in/commands/modViewConvertManagement.h"
 #include "Add-in/deploy/frmSendRuntimeToDevice.h"
 #include "Add-in/deploy/frmSendToDevice.h"
 #include "Add-in/lifecycle/ProjectSetup.h"
+#include "Add-in/lifecycle/SampleOpening.h"
 #include <array>
 
 namespace fernwick {
@@ -19,6 +23,8 @@ public:
     Command(Connect* owner, void (Connect::*clicked)());
     /// The clicked item tells what to do.
     Command(Connect* owner, void (Connect::*clicked)(const Item& item));
+    /// Starts a utility; what goes wrong is reported under `location`.
+    Command(Connect* owner, UtilityTool tool, const char* location);
     using WithEvents::operator=;
 };
 
@@ -40,6 +46,10 @@ struct ConnectServices {
     frmCompile& compile;
     frmSendToDevice& sendToDevice;
     frmSendRuntimeToDevice& sendRuntime;
+    modViewConvertManagement& tools;
+    modHelpManagement& help;
+    frmAbout& about;
+    SampleOpening& samples;
 };
 
 class Connect : public vbide::IDTExtensibility {
@@ -77,16 +87,16 @@ public:
     std::array<Command, kDeviceSlots> DeployDevice{slots(&Connect::DeployDeviceHandler)};
     std::array<Command, kDeviceSlots> InstallVMDevice{slots(&Connect::InstallVMForDevice)};
 
-    // Utilities menu
-    Command MenuDatabaseConverterHandler{this};
-    Command MenuDatabaseViewerHandler{this};
-    Command MenuFontConverterHandler{this};
-    Command MenuFontViewerHandler{this};
-    Command MenuGraphicsConverterHandler{this};
-    Command MenuGraphicsViewerHandler{this};
-    Command MenuMovieConverterHandler{this};
-    Command MenuMovieViewerHandler{this};
-    Command MenuWeirgateHandler{this};
+    // Utilities menu. The viewer's reports have always come under the converter's name.
+    Command MenuDatabaseConverterHandler{this, kDatabaseConverter, "Connect.MenuDatabaseConverterHandler_Click"};
+    Command MenuDatabaseViewerHandler{this, kDatabaseViewer, "Connect.MenuDatabaseConverterHandler_Click"};
+    Command MenuFontConverterHandler{this, kFontConverter, "Connect.MenuFontConverterHandler_Click"};
+    Command MenuFontViewerHandler{this, kFontViewer, "Connect.MenuFontViewerHandler_Click"};
+    Command MenuGraphicsConverterHandler{this, kGraphicsConverter, "Connect.MenuGraphicsConverterHandler_Click"};
+    Command MenuGraphicsViewerHandler{this, kGraphicsViewer, "Connect.MenuGraphicsViewerHandler_Click"};
+    Command MenuMovieConverterHandler{this, kMovieConverter, "Connect.MenuMovieConverterHandler_Click"};
+    Command MenuMovieViewerHandler{this, kMovieViewer, "Connect.MenuMovieViewerHandler_Click"};
+    Command MenuWeirgateHandler{this, kWeirgateConfiguration, "Connect.MenuWeirgateHandler_Click"};
 
     // Samples menu
     Command SampleIntroHandler{this, &Connect::SampleIntroHandler_Click};
@@ -102,15 +112,15 @@ public:
     Command ToolProjectManagerHandler{this, &Connect::ToolProjectManagerHandler_Click};
 
     // Support toolbar
-    Command ToolDatabaseConverterHandler{this};
-    Command ToolDatabaseViewerHandler{this};
-    Command ToolFontConverterHandler{this};
-    Command ToolFontViewerHandler{this};
-    Command ToolGraphicsConverterHandler{this};
-    Command ToolGraphicsViewerHandler{this};
-    Command ToolMovieConverterHandler{this};
-    Command ToolMovieViewerHandler{this};
-    Command ToolWGConfigHandler{this};
+    Command ToolDatabaseConverterHandler{this, kDatabaseConverter, "Connect.ToolDatabaseConverterHandler_Click"};
+    Command ToolDatabaseViewerHandler{this, kDatabaseViewer, "Connect.MenuDatabaseConverterHandler_Click"};
+    Command ToolFontConverterHandler{this, kFontConverter, "Connect.ToolFontConverterHandler_Click"};
+    Command ToolFontViewerHandler{this, kFontViewer, "Connect.ToolFontViewerHandler_Click"};
+    Command ToolGraphicsConverterHandler{this, kGraphicsConverter, "Connect.ToolGraphicsConverterHandler_Click"};
+    Command ToolGraphicsViewerHandler{this, kGraphicsViewer, "Connect.ToolGraphicsViewerHandler_Click"};
+    Command ToolMovieConverterHandler{this, kMovieConverter, "Connect.ToolMovieConverterHandler_Click"};
+    Command ToolMovieViewerHandler{this, kMovieViewer, "Connect.ToolMovieViewerHandler_Click"};
+    Command ToolWGConfigHandler{this, kWeirgateConfiguration, "Connect.ToolWGConfigHandler_Click"};
 
     // Kept in the interface; never assigned
     Command DeployPalmOSHandler{this};
@@ -187,6 +197,7 @@ private:
     void ToolAddinUsersGuideHandler_Click() { AddinUsersGuideHandler_Click(); }
     void AddinOnlineHelpHandler_Click();
     void AboutHandler_Click();
+    void OpenUtility(UtilityTool tool, const char* location);
     void SampleIntroHandler_Click();
     void SampleHelloWorldHandler_Click();
     void SampleOpenSampleDirHandler_Click();
@@ -198,7 +209,10 @@ private:
     void FileControlHandler_RequestWriteFile(basic::Ref<vbide::VBProject> VBProject, const std::string& FileName,
                                              bool& Cancel);
 
+    friend class Command;
     ConnectServices use_;
+    /// One for each sample of the menu.
+    std::vector<Subscription> pickedSamples_;
 };
 
 } // namespace fernwick

@@ -39,6 +39,9 @@ struct Modules {
     modImageManagement images{platform};
     modMenuManagement menu{{platform.interaction, errors, addIn, registry, devices, images, items}};
     modToolbarManagement toolbars{{errors, addIn, prefs, images, items}};
+    modViewConvertManagement tools{platform.shell, install, errors};
+    modHelpManagement help{platform, install, errors};
+    frmAbout about{platform, errors};
     CommandSurface commands{platform.interaction, addIn, items, menu, toolbars, clipboard};
     // project
     modProjectTemplates templates{addIn, install, platform.files, platform.interaction, errors};
@@ -65,9 +68,11 @@ struct Modules {
     frmDesignTargetNormal chooseTarget{deviceServices};
     ProjectSetup setup{
         {addIn, platform.loop, deviceServices, projects, save, messages, chooseTarget, removal, commands}};
+    SampleOpening samples{{platform, errors, addIn, save, commands}};
     // on top
-    Connect connect{{platform, errors, prefs, addIn, references, devices, items, projects, messages, removal, setup,
-                     commands, install, compile, sendToDevice, sendRuntime}};
+    Connect connect{{platform,     errors,      prefs,   addIn, references, devices, items,
+                     projects,     messages,    removal, setup, commands,   install, compile,
+                     sendToDevice, sendRuntime, tools,   help,  about,      samples}};
 
     /// The document of the messages window; Nothing until the host has made it.
     basic::Ref<udocCompileMsgs> compileMsgs() const;

@@ -19,10 +19,7 @@ void Connect::DownloadVMHandler_Click() {
     if (answer == vbOK) use_.platform.shell.Open(use_.platform.app.RuntimeWebAddress);
 }
 
-void Connect::AddinUsersGuideHandler_Click() {
-    Procedure here{use_.errors, "Connect.AddinUsersGuideHandler_Click"};
-    here([&] { notInThisBuild(); });
-}
+void Connect::AddinUsersGuideHandler_Click() { use_.help.DisplayHelp(kUsersGuideTopic); }
 
 void Connect::AddinOnlineHelpHandler_Click() {
     Procedure here{use_.errors, "Connect.AddinOnlineHelpHandler_Click"};
@@ -31,7 +28,14 @@ void Connect::AddinOnlineHelpHandler_Click() {
 
 void Connect::AboutHandler_Click() {
     Procedure here{use_.errors, "Connect.AboutHandler_Click"};
-    here([&] { notInThisBuild(); });
+    here([&] { use_.about.ShowModal(); });
+}
+
+void Connect::OpenUtility(UtilityTool tool, const char* location) {
+    Procedure here{use_.errors, location};
+    if (use_.tools.OpenViewerConverter(tool)) return;
+    const bool isConfiguration = tool == kWeirgateConfiguration;
+    here([&] { box(isConfiguration ? connect_texts::kNoConfiguration : connect_texts::kNoUtility, vbExclamation); });
 }
 
 void Connect::SampleIntroHandler_Click() {

@@ -27,6 +27,12 @@ Command::Command(Connect* owner, Clicked clicked)
               [&connect, clicked](const Item& item, bool&, bool&) { (connect.*clicked)(item); });
       }) {}
 
+Command::Command(Connect* owner, UtilityTool tool, const char* location)
+    : WithEvents(owner, [tool, location](vbide::CommandBarEvents& source, Connect& connect) {
+          return source.Click.connect(
+              [&connect, tool, location](const Item&, bool&, bool&) { connect.OpenUtility(tool, location); });
+      }) {}
+
 std::array<Command, Connect::kDeviceSlots> Connect::slots(Clicked clicked) {
     return sinkSlots(this, clicked, std::make_index_sequence<kDeviceSlots>{});
 }
@@ -75,10 +81,13 @@ void Connect::SetupSampleMenuHandlers(const Host& VBInst) {
     wire(here, VBInst, SampleIntroHandler, items.gSampleIntroItem);
     wire(here, VBInst, SampleHelloWorldHandler, items.gSampleHelloItem);
     wire(here, VBInst, SampleOpenSampleDirHandler, items.gSampleDirItem);
+    pickedSamples_.clear();
     for (const auto& sample : items.gSampleItems)
         here([&] {
             if (sample->popupMenu) return;
             sample->myOfficeEvents = VBInst->Events()->CommandBarEvents(sample->myOfficeCommandBar);
+            pickedSamples_.push_back(
+                sample->picked.connect([this](const clsSampleMenuItem& picked) { use_.samples.open(picked); }));
         });
 }
 

@@ -21,9 +21,15 @@ inline constexpr char kDownload[] =
     "Quinloft Tamarik\xE2\x84\xA2 is required to run deployed applications. Click \"OK\" to download the latest "
     "version of Tamarik from the Quinloft website. (Requires Internet connection.)";
 
+inline constexpr char kNoUtility[] = "Could Not Launch Converter/Viewer;\r\n"
+                                     "Application is missing or not in default location.\r\n\r\n"
+                                     "The Viewers and Converters can be found on the Quinloft website.";
+/// The wording of this one and the samples' is known to users of the product as it stands.
+inline constexpr char kNoConfiguration[] =
+    "Could Launch Weirgate Configuration;\r\nApplication is missing or not in default location.";
+
 inline constexpr char kNoTutorial[] = "Error finding Fernwick Hello World Tutorial.";
 inline constexpr char kNoSamplesDir[] = "Error getting Fernwick samples directory.";
-/// The wording is known to users of the product as it stands.
 inline constexpr char kSamplesDirMissing[] =
     "Could get open the samples directory;\r\nQuinloft Samples are located on the Quinloft website..";
 
