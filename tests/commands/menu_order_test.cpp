@@ -107,4 +107,23 @@ TEST_F(MenuOrder, ALaterFailureGoesToWhoBuilds) {
     EXPECT_THAT(errors.seen, IsEmpty());
 }
 
+TEST_F(MenuOrder, WhatAFailureLeftIsReplacedByTheNextBuild) {
+    targets.known = {"Palm-1"};
+    addSample("\\A", "", "A");
+    build();
+    const auto whole = captions(menu());
+    for (int failing = 1;; ++failing) {
+        trace.calls = 0;
+        trace.failing = failing;
+        const auto error = basic::attempt([&] { build(); });
+        trace.failing = 0;
+        if (trace.calls < failing) break;
+        EXPECT_TRUE(error.Number == 0 || error.Number == test::kInjected) << failing;
+        EXPECT_TRUE(build());
+        EXPECT_EQ(captions(menu()), whole) << failing;
+        EXPECT_LE(menuBar()->items.size(), 5U) << failing; // a menu that never got its caption may be left
+        std::erase_if(menuBar()->items, [](const auto& item) { return item->caption.empty(); });
+    }
+}
+
 } // namespace
