@@ -1,6 +1,7 @@
 // How cost grows: each job at two sizes in one run, printed as the ratio of the times a piece. Near 1 is linear.
 #include "Apps/fernwick/session.h"
 #include "Host/files/project_file.h"
+#include "tests/support/form_text.h"
 #include "tests/support/sample_project.h"
 #include <chrono>
 #include <cstdio>
@@ -82,6 +83,54 @@ double storeMessages(int count) {
     return taken;
 }
 
+constexpr int kControlsOfForm = 50;
+
+/// A form whose controls have fonts of some sizes, each with a procedure.
+std::string formOf(const std::string& name) {
+    static constexpr const char* kClasses[] = {"QLLabel", "QLButton", "QLTextBox", "QLPicture"};
+    std::vector<test::FormControl> controls;
+    std::string code;
+    for (int i = 0; i < kControlsOfForm; ++i) {
+        controls.push_back({kClasses[i % 4], fmt::format("ctl{}", i), "QLPalm", i % 2, 8 + i % 20});
+        code += fmt::format("Private Sub ctl{}_Click()\r\nEnd Sub\r\n", i);
+    }
+    return test::deviceForm(name, controls, code);
+}
+
+/// Opens a project of so many forms with the add-in and times the job on it.
+template <class Job>
+double withForms(int forms, Job&& job) {
+    const test::TempFolder folder;
+    test::SampleProject sample{"Large"};
+    sample.handheld("PalmOS-DragonBall");
+    for (int i = 0; i < forms; ++i) {
+        const auto name = fmt::format("frmPart{}", i);
+        sample.member("Form=" + name + ".frm", name + ".frm", formOf(name));
+    }
+    const cli::Options options;
+    cli::Console console{cli::Verbosity::Quiet};
+    cli::Session session{options, console};
+    session.open(sample.writeTo(folder));
+    session.connect();
+    const double taken = bestOf([&] { job(session.addIn(), session.project()); });
+    session.closeUnsaved();
+    return taken;
+}
+
+double validateForms(int forms) {
+    return withForms(forms, [](fernwick::Modules& addIn, const basic::Ref<vbide::VBProject>& project) {
+        const auto settings = addIn.projects.GetQLProject(project);
+        for (const auto& form : project->VBComponents()->items()) addIn.validate.ScanForm(settings, form, true);
+    });
+}
+
+double scanFonts(int forms) {
+    return withForms(forms, [](fernwick::Modules& addIn, const basic::Ref<vbide::VBProject>& project) {
+        addIn.messages.ClearProjectCompileErrors(project);
+        addIn.dependencies.ScanProjectForFontDependencies(addIn.projects.GetQLProject(project));
+    });
+}
+
 } // namespace
 
 int main() {
@@ -89,5 +138,7 @@ int main() {
     compare("add-in values written", 1000, 10000, writeProperties);
     compare("add-in values read", 1000, 10000, readProperties);
     compare("messages stored", 1000, 10000, storeMessages);
+    compare("forms of 50 controls validated", 100, 1000, validateForms);
+    compare("forms of 50 controls scanned for fonts", 100, 1000, scanFonts);
     return 0;
 }

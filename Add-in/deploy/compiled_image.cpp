@@ -9,11 +9,7 @@ bool frmSendToDevice::IsCompiledImageCurrent(const QLProject& WorkingProject) {
     const auto& files = use_.platform.files;
     const auto project = here.value([&] { return WorkingProject->VBProject(); });
     if (!deploy_.compile.lastCompileVersionGood(project)) return false;
-
-    const auto folder = here.value([&] { return files.GetParentFolderName(project->FileName()); });
-    auto image = here.value([&] { return files.BuildPath(folder, WorkingProject->ProjectName() + ".qlx"); });
-    if (here.test([&] { return !files.FileExists(image); }))
-        here([&] { image = files.BuildPath(folder, project->Name() + ".0000.qlx"); });
+    const auto image = imageOf(here, WorkingProject);
     if (here.test([&] { return !files.FileExists(image); })) return false;
     const auto imageTime = here.value([&] { return files.GetDateLastModified(image); });
 
@@ -26,6 +22,15 @@ bool frmSendToDevice::IsCompiledImageCurrent(const QLProject& WorkingProject) {
         if (!current) break;
     }
     return current;
+}
+
+/// The path of the image under its short name, where there is one, else under the compiler's.
+std::string frmSendToDevice::imageOf(Procedure& here, const QLProject& project) {
+    const auto& files = use_.platform.files;
+    const auto folder = here.value([&] { return files.GetParentFolderName(project->VBProject()->FileName()); });
+    const auto path = here.value([&] { return files.BuildPath(folder, project->ProjectName() + ".qlx"); });
+    if (!here.test([&] { return !files.FileExists(path); })) return path;
+    return here.value([&] { return files.BuildPath(folder, project->VBProject()->Name() + ".0000.qlx"); });
 }
 
 bool frmSendToDevice::IsCompilerFile(const std::string& FileName, const std::string& VBProjectName) {

@@ -13,8 +13,10 @@ void frmSendToDevice::SendProjectToDevice(const QLProject& WorkingProject, bool 
     makePackageMode_ = MakePackageMode;
     deviceName_ = DeviceName;
     const auto project = here.value([&] { return WorkingProject->VBProject(); });
-    if (!readyToSend(here, project)) return void(here([&] { Unload(); }));
-
+    if (!readyToSend(here, project)) {
+        here([&] { Unload(); });
+        return;
+    }
     here([&] { Caption(caption(project)); });
     runStarted_ = false;
     pipeClassName_ = use_.devices.GetPipeNameForDevice(DeviceName);

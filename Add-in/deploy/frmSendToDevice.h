@@ -60,6 +60,7 @@ private:
     bool sendOldImage(Procedure& here, const Project& project);
     void showOutcome(const Project& project);
     std::string caption(const Project& project) const;
+    std::string imageOf(Procedure& here, const QLProject& project);
 
     // The run
     void send();

@@ -17,7 +17,7 @@ constexpr std::array kQuestions{
              "a pre-compile step failed: continue?"},
     Question{"convert-dpi", "", "This project was saved at a different DPI setting", Reply::No,
              "convert forms from another screen resolution?"},
-    Question{"copy-dependency", "", "All dependency files must exist in the project folder.", Reply::No,
+    Question{"copy-file", "", "All dependency files must exist in the project folder.", Reply::No,
              "copy a dependency into the project's folder?"},
     Question{"replace-file", "", " already exists.  Do you want to replace it?", Reply::No, "replace a file?"},
 };

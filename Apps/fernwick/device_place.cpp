@@ -2,19 +2,12 @@
 #include "Basic/case_folding.h"
 #include "Components/QLPipe/bundle.h"
 #include "Components/QLPipe/installer.h"
-#include "Components/QLPipe/pipe_family.h"
 
 namespace cli {
 
 namespace {
 
 using qlpipe::DeviceStorage;
-
-const qlpipe::PipeFamily* familyOfPipe(const std::string& pipe) {
-    for (const auto& family : qlpipe::pipeFamilies())
-        if (basic::equalNoCase(family.pipe, pipe)) return &family;
-    return nullptr;
-}
 
 /// "" for none; the next transfer puts a damaged one right.
 std::string runtimeVersion(DeviceStorage& storage) {
@@ -35,8 +28,14 @@ DevicePlace placeOf(DeviceStorage& storage) {
 
 } // namespace
 
+const qlpipe::PipeFamily* pipeFamilyOf(const std::string& pipe) {
+    for (const auto& family : qlpipe::pipeFamilies())
+        if (basic::equalNoCase(family.pipe, pipe)) return &family;
+    return nullptr;
+}
+
 DevicePlace placeOfDevice(Machine& machine, const std::string& key, const std::string& pipe) {
-    const auto* family = familyOfPipe(pipe);
+    const auto* family = pipeFamilyOf(pipe);
     DevicePlace place;
     if (!family || !family->open) {
         place.problem = "nothing can be sent to devices of " + pipe;
@@ -49,6 +48,7 @@ DevicePlace placeOfDevice(Machine& machine, const std::string& key, const std::s
         return placeOf(*family->open(services, key, {}));
     } catch (const qlpipe::TransferError& error) {
         place.problem = error.text;
+        place.problemNumber = error.number;
     } catch (const basic::RuntimeError& error) { place.problem = error.Description; }
     return place;
 }

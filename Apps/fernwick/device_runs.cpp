@@ -1,6 +1,6 @@
 #include "Apps/fernwick/device_runs.h"
 #include "Apps/fernwick/exit_status.h"
-#include "Apps/fernwick/plural.h"
+#include "Apps/fernwick/project_run.h"
 #include <algorithm>
 #include <fmt/format.h>
 
@@ -30,6 +30,7 @@ DeviceOutcome serveOne(Session& session, const std::string& device, const ServeD
     transfer = {};
     const auto boxesBefore = session.user().shown().size();
     outcome.messages = serve(device);
+    if (session.project()) outcome.statusText = statusText(session);
     const auto& boxes = session.user().shown();
     outcome.boxes.assign(boxes.begin() + std::ptrdiff_t(boxesBefore), boxes.end());
     const auto isError = [](const Message& message) { return message.isError; };

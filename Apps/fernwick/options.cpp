@@ -203,7 +203,9 @@ void defineTools(CLI::App& app, Raw& raw) {
                             "fernwick devices set LinuxHandheld-ARM Host=192.168.1.20 User=me");
     devices.add_option("ACTION", raw.options.action, "list, add, remove or set; list when it is left out")
         ->check(CLI::IsMember({"list", "add", "remove", "set"}));
-    devices.add_option("OPERANDS", raw.options.operands, "add KEY... | remove KEY... | set KEY NAME=VALUE...");
+    devices.add_option("OPERANDS", raw.options.operands,
+                       "add KEY... | remove KEY... | set KEY NAME=VALUE... with the names Host, Port, User, KeyFile, "
+                       "Folder and KnownHosts");
 
     addVerb(app, raw, "doctor", "Say what is installed and usable, and what sets the rest right", "fernwick doctor");
 }

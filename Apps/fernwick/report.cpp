@@ -113,9 +113,7 @@ std::string sarifOf(const Report& report) {
         invocation["toolExecutionNotifications"] =
             Json::array({{{"level", "error"}, {"message", {{"text", report.failure}}}}});
     const Json driver{{"name", "fernwick"}, {"version", FERNWICK_VERSION}, {"rules", sarifRules(numbers)}};
-    const Json run{{"tool", {{"driver", driver}}},
-                   {"invocations", Json::array({invocation})},
-                   {"results", results}};
+    const Json run{{"tool", {{"driver", driver}}}, {"invocations", Json::array({invocation})}, {"results", results}};
     return dumpJson({{"$schema", "https://json.schemastore.org/sarif-2.1.0.json"},
                      {"version", "2.1.0"},
                      {"runs", Json::array({run})}});

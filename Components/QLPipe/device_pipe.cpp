@@ -57,9 +57,11 @@ void DevicePipe::send(const std::string& deviceName, const basic::Ref<vbide::VBP
     Progress progress{sink_, bundle.bytes()};
     progress.says(pipe_texts::kConnecting + deviceName + pipe_texts::kDots);
     const auto device = family_.open(services_, deviceName, project);
+    const bool lacksRuntime = !bundle.isRuntime && !hasRuntime(*device);
     install(*device, bundle, progress);
-    services_.record->installed.push_back(device->location() + "/" + placeOnDevice(bundle));
-    if (!bundle.isRuntime && !hasRuntime(*device)) tell(kRuntimeNotInstalled, {device->location(), deviceName});
+    for (const auto& file : bundle.files)
+        services_.record->installed.push_back(device->location() + "/" + placeOnDevice(bundle, file));
+    if (lacksRuntime) tell(kRuntimeNotInstalled, {device->location(), deviceName});
 }
 
 bool DevicePipe::SendProject(const std::string& deviceName, const basic::Ref<vbide::VBProject>& project,

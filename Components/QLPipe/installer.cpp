@@ -57,7 +57,7 @@ void putInPlace(DeviceStorage& device, const Bundle& bundle) {
     for (const auto& file : bundle.files) {
         if (!isShared(bundle, file)) continue;
         device.makeFolder(kDeviceFontsFolder);
-        device.replaceFile(stagedPlace(bundle, file), kDeviceFontsFolder + ("/" + std::string(file.title())));
+        device.replaceFile(stagedPlace(bundle, file), placeOnDevice(bundle, file));
     }
     if (const auto folder = folderOf(place); !folder.empty()) device.makeFolder(folder);
     device.replaceFolder(kStaged, place);
@@ -74,6 +74,11 @@ void removeStaged(DeviceStorage& device) {
 
 std::string placeOnDevice(const Bundle& bundle) {
     return bundle.isRuntime ? kRuntimeFolder : kApplicationsFolder + ("/" + bundle.project);
+}
+
+std::string placeOnDevice(const Bundle& bundle, const BundleFile& file) {
+    if (isShared(bundle, file)) return kDeviceFontsFolder + ("/" + std::string(file.title()));
+    return placeOnDevice(bundle) + "/" + file.place;
 }
 
 void install(DeviceStorage& device, Bundle bundle, Progress& progress) {

@@ -13,8 +13,9 @@ inline constexpr char kRuntimeFolder[] = "runtime";
 /// What is on its way. An interrupted transfer may leave something there, which the next one removes.
 inline constexpr char kStagingFolder[] = ".incoming";
 
-/// Where a bundle lies on a device.
+/// Where a bundle lies on a device, and where one of its files does.
 std::string placeOnDevice(const Bundle& bundle);
+std::string placeOnDevice(const Bundle& bundle, const BundleFile& file);
 
 /// Sends the files, then puts the new folder in the old one's place; an application's fonts, which all applications share,
 /// stand before. Whatever fails, the old application is whole. Throws TransferError and what the sink lets out.

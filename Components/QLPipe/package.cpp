@@ -2,7 +2,9 @@
 #include "Components/QLPipe/pipe_messages.h"
 #include "Components/QLPipe/sha256.h"
 #include "Components/QLPipe/zip_library.h"
+#include <filesystem>
 #include <map>
+#include <utility>
 
 namespace qlpipe {
 namespace {
@@ -20,6 +22,10 @@ class Package::Archive {
 public:
     explicit Archive(const std::string& path) : path_(path) {
         std::string reason;
+        std::error_code ignored;
+        // a queue would keep the reader waiting for ever
+        if (!std::filesystem::is_regular_file(path, ignored))
+            throw transferError(kPackageUnreadable, {path_, "there is no such file"});
         archive_ = openZip(path, ZIP_RDONLY | ZIP_CHECKCONS, reason);
         if (!archive_) throw transferError(kPackageUnreadable, {path_, reason});
     }
@@ -80,7 +86,8 @@ public:
         const auto count = archive_->read(entry_.get(), buffer);
         left_ -= std::int64_t(count);
         checksum_.add({buffer.data(), count});
-        if (left_ < 0 || (count == 0 && (left_ > 0 || checksum_.hex() != sha256_)))
+        const bool ends = count == 0 && !std::exchange(ended_, true);
+        if (left_ < 0 || (ends && (left_ > 0 || checksum_.hex() != sha256_)))
             throw transferError(kPackageEntryChanged, {archive_->path(), place_});
         return count;
     }
@@ -91,6 +98,7 @@ private:
     std::string place_, sha256_;
     std::int64_t left_;
     Sha256 checksum_;
+    bool ended_ = false;
 };
 
 std::string readManifestEntry(const Archive& archive) {

@@ -6,12 +6,16 @@
 #include "Components/QLPipe/sha256.h"
 #include "Components/QLPipe/zip_library.h"
 #include <cerrno>
+#include <charconv>
+#include <csignal>
 #include <cstring>
 #include <deque>
 #include <exception>
 #include <fcntl.h>
+#include <filesystem>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 
 namespace qlpipe {
 namespace {
@@ -62,6 +66,7 @@ private:
     zip_int64_t begin() {
         reader_ = file_.open();
         checksum_ = {};
+        ended_ = false;
         progress_.says(pipe_texts::kPacking + std::string(file_.title()) + pipe_texts::kDots);
         return 0;
     }
@@ -70,7 +75,8 @@ private:
     zip_int64_t read(char* data, zip_uint64_t length) {
         const auto count = reader_->read({data, std::size_t(length)});
         checksum_.add({data, count});
-        if (count == 0 && checksum_.hex() != file_.sha256) throw transferError(kFileChanged, {file_.place});
+        const bool ends = count == 0 && !std::exchange(ended_, true);
+        if (ends && checksum_.hex() != file_.sha256) throw transferError(kFileChanged, {file_.place});
         progress_.moved(std::int64_t(count));
         return zip_int64_t(count);
     }
@@ -94,6 +100,7 @@ private:
     std::exception_ptr& failure_;
     std::unique_ptr<ByteReader> reader_;
     Sha256 checksum_;
+    bool ended_ = false;
 };
 
 /// Bytes that are in memory already.
@@ -117,13 +124,15 @@ BundleFile manifestEntry(const std::string& text) {
             [&text] { return std::make_unique<TextReader>(text); }};
 }
 
-/// Without a name of its own a package under way could be taken for a whole one.
+/// Without a name of its own a package under way could be taken for a whole one: ".<name>.<process>.part".
 class UnfinishedFile {
 public:
     explicit UnfinishedFile(const std::string& target)
-        : target_(target),
-          path_((folderOf(target).empty() ? "." : folderOf(target)) + "/." + lastPart(target) + "." +
-                std::to_string(::getpid()) + ".part") {}
+        : target_(target), folder_(folderOf(target).empty() ? "." : folderOf(target)) {
+        const auto begin = "." + lastPart(target) + ".";
+        removeLeftovers(begin);
+        path_ = folder_ + "/" + begin + std::to_string(::getpid()) + ".part";
+    }
     ~UnfinishedFile() { ::unlink(path_.c_str()); }
     const std::string& path() const { return path_; }
 
@@ -137,7 +146,19 @@ public:
     }
 
 private:
-    std::string target_, path_;
+    /// A process that was killed left its file, and libzip's beside it.
+    void removeLeftovers(const std::string& begin) const {
+        std::error_code failed;
+        for (const auto& entry : std::filesystem::directory_iterator(folder_, failed)) {
+            const auto name = entry.path().filename().string();
+            if (!name.starts_with(begin) || name.find(".part", begin.size()) == std::string::npos) continue;
+            pid_t process = 0;
+            std::from_chars(name.data() + begin.size(), name.data() + name.size(), process);
+            if (process > 0 && ::kill(process, 0) != 0 && errno == ESRCH) std::filesystem::remove(entry, failed);
+        }
+    }
+
+    std::string target_, folder_, path_;
 };
 
 class PackageWriter {
@@ -204,7 +225,7 @@ void addChecksum(BundleFile& file, std::span<char> buffer, Progress& progress) {
 std::string packageName(const Bundle& bundle) { return bundle.project + "." + bundle.device + ".qlpkg"; }
 
 void writePackage(const std::string& path, Bundle bundle, IQLPipeEvents* sink) {
-    Progress progress{sink, 2 * bundle.bytes()};
+    Progress progress{sink, 2 * bundle.bytes() + manifestSize(bundle)};
     std::vector<char> buffer(kChunkBytes);
     for (auto& file : bundle.files) addChecksum(file, buffer, progress);
     const auto manifest = writeManifest(bundle);

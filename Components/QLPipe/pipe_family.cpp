@@ -1,6 +1,7 @@
 #include "Components/QLPipe/pipe_family.h"
 #include "Components/QLPipe/device_pipe.h"
 #include "Components/QLPipe/family_validation.h"
+#include "Components/QLPipe/linux_handheld/linux_handheld.h"
 #include "Components/QLPipe/no_page.h"
 #include "Components/QLPipe/virtual_device/virtual_device.h"
 
@@ -12,7 +13,7 @@ basic::Ref<IQLPipeConfiguration> noPage(const PipeServices&) { return basic::mak
 constexpr PipeFamily kPipeFamilies[] = {
     {"PalmOS", "QLPipePalmOS", openVirtualDevice, noPage},
     {"PocketPC", "QLPipePocketPC", openVirtualDevice, noPage},
-    {"LinuxHandheld", "QLPipeLinux", nullptr, nullptr},
+    {"LinuxHandheld", "QLPipeLinux", openLinuxHandheld, configureLinuxHandheld},
 };
 
 } // namespace

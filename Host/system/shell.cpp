@@ -50,8 +50,7 @@ bool hasDesktop() {
 } // namespace
 
 void Shell::Start(const std::string& commandLine) {
-    if (basic::startsWithNoCase(commandLine, kHelpViewer))
-        return openHelp(commandLine.substr(kHelpViewer.size()));
+    if (basic::startsWithNoCase(commandLine, kHelpViewer)) return openHelp(commandLine.substr(kHelpViewer.size()));
     if (!start(commandLine)) throw hostError(basic::kFileNotFound, commandLine + ": there is no such program");
 }
 

@@ -6,11 +6,13 @@ import unittest
 
 from support import PROGRAM, ROOT, Home
 
-# Who gives messages: the header with the numbers, and the numbers that are its to give.
+# Who gives messages: the numbers that are theirs, and the headers that name them.
 COMPILER = set(range(1000, 2999))
 ADD_IN = {2999, 4097, 4119, *range(8193, 8209), 12289}
 PIPES = {*range(20000, 21000), *range(3100, 3900)}
-GIVERS = (("Components/QLToolkit/messages.h", COMPILER),)
+WARNING_OFFSET = 3000  # between a pipe's warning as it is raised and as it is stored
+GIVERS = (("Components/QLToolkit", "messages.h", COMPILER), ("Add-in/build", "message_numbers.h", ADD_IN),
+          ("Components/QLPipe", "*messages.h", PIPES))
 
 # Where numbers with a meaning of their own may stand as such.
 GIVING = ("Add-in", "Components", "Apps")
@@ -27,6 +29,14 @@ def sources(*folders):
         for path in sorted((ROOT / folder).rglob("*")):
             if path.suffix in (".h", ".cpp"):
                 yield path, without_comments(path.read_text(encoding="utf-8"))
+
+
+def named_in(folder, headers):
+    """The numbers to which headers give names, as users see them."""
+    named = set()
+    for path in (ROOT / folder).rglob(headers):
+        named |= {int(n) for n in re.findall(r"=\s*(\d+)\s*[,;]", without_comments(path.read_text()))}
+    return {n + WARNING_OFFSET if n < 1000 else n for n in named - {WARNING_OFFSET}}
 
 
 class Catalogue(unittest.TestCase):
@@ -50,10 +60,9 @@ class Catalogue(unittest.TestCase):
 
     def test_numbers_are_their_givers(self):
         self.assertEqual(self.numbers - COMPILER - ADD_IN - PIPES, set())
-        for header, its_own in GIVERS:
-            named = {int(n) for n in re.findall(r"=\s*(\d+)\s*[,;]", without_comments((ROOT / header).read_text()))}
-            with self.subTest(header):
-                self.assertEqual(named, self.numbers & its_own)
+        for folder, headers, its_own in GIVERS:
+            with self.subTest(folder):
+                self.assertEqual(named_in(folder, headers), self.numbers & its_own)
 
     def test_numbers_in_the_sources_have_entries(self):
         for path, text in sources(*GIVING):
@@ -64,6 +73,14 @@ class Catalogue(unittest.TestCase):
         checked = subprocess.run([ROOT / "scripts/make-message-pages", "--check", PROGRAM], capture_output=True,
                                  text=True)
         self.assertEqual((checked.stdout, checked.stderr, checked.returncode), ("", "", 0))
+
+    def test_pages_link_what_is_there_and_run_nothing(self):
+        index = ROOT / "installation/VB Toolkit/doc/Quinloft_Error_Codes.html"
+        for page in (index, *index.with_suffix("").glob("*.html")):
+            text = page.read_text(encoding="utf-8")
+            self.assertNotIn("<script", text)
+            for link in re.findall(r'(?:href|src)="([^"]*)"', text):
+                self.assertTrue((page.parent / link).is_file(), f"{page.name}: {link}")
 
     def test_a_page_out_of_date_is_noticed(self):
         with Home() as home:

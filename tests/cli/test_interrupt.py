@@ -42,9 +42,9 @@ class Interrupt(unittest.TestCase):
         self.home.__enter__()
         self.addCleanup(self.home.__exit__)
 
-    def interrupted(self, project, when, *options):
+    def interrupted(self, project, when, *options, verb="build"):
         before = {p.name: p.read_bytes() for p in project.parent.iterdir()}
-        process = subprocess.Popen(["fernwick", "build", str(project), *options], cwd=self.home.work,
+        process = subprocess.Popen(["fernwick", verb, str(project), *options], cwd=self.home.work,
                                    env=self.home.env, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
                                    stderr=subprocess.PIPE, text=True)
         while when not in (line := process.stderr.readline()):
@@ -60,6 +60,19 @@ class Interrupt(unittest.TestCase):
 
     def test_build(self):
         self.interrupted(large_project(self.home), "Compiling m2.bas")
+
+    def test_deploy_leaves_the_old_application(self):
+        project = self.home.sample()
+        self.home.fernwick("install-runtime", "--device", "PocketPC-ARM", check=True)
+        deploy = ["deploy", str(project), "--device", "PocketPC-ARM"]
+        self.home.fernwick(*deploy, check=True)
+        device = self.home.folder / "data/fernwick/devices/PocketPC-ARM"
+        old = {p: p.read_bytes() for p in device.rglob("*") if p.is_file()}
+        self.assertIn("HelloWorld.0000.qlx", [p.name for p in old])
+        (project.parent / "long.wav").write_bytes(bytes(24 << 20))
+        self.home.fernwick("dependencies", str(project), "add", str(project.parent / "long.wav"), check=True)
+        self.interrupted(project, "Sending long.wav", *deploy[2:], verb="deploy")
+        self.assertEqual({p: p.read_bytes() for p in device.rglob("*") if p.is_file()}, old)
 
     def test_compile_step(self):
         project = self.home.sample()

@@ -1,6 +1,7 @@
 """Every result in JSON is as its schema file says; SARIF has what viewers need."""
 import json
 import unittest
+import zipfile
 
 import jsonschema
 
@@ -51,6 +52,25 @@ class Schemas(unittest.TestCase):
         self.fits("report", "messages", str(self.project))
         self.fits("report", "check", str(self.project), status=1)
 
+    def test_devices_served(self):
+        project = str(self.project)
+        self.fits("report", "validate", project, "--forms")
+        packed = self.fits("report", "package", project)["devices"][0]
+        self.assertTrue(packed["good"])
+        sent = self.fits("report", "deploy", project)["devices"][0]
+        self.assertEqual([m["number"] for m in sent["messages"]], [3100])
+        self.assertIn("HelloWorld.0000.qlx", " ".join(sent["places"]))
+        self.fits("report", "install-runtime", "--device", "PalmOS-DragonBall")
+        self.home.fernwick("devices", "add", "PalmOS-DragonBall", "LinuxHandheld-ARM")
+        mixed = self.fits("report", "deploy", project, "--my-devices", status=4)["devices"]
+        self.assertEqual([d["good"] for d in mixed], [True, False])
+        listed = self.fits("package-listing", "package", "--list", packed["places"][0])
+        self.fits("package-listing", "package", "--verify", packed["places"][0])
+        self.assertEqual(listed["device"], "PalmOS-DragonBall")
+        sarif = self.home.fernwick("deploy", project, "--my-devices", "--format", "sarif")
+        results = json.loads(sarif.stdout)["runs"][0]["results"]
+        self.assertEqual([r["ruleId"] for r in results], ["20300"])
+
     def test_failures_of_other_verbs_are_reports(self):
         for verb in (["info"], ["settings", "list"], ["messages"]):
             self.fits("report", *verb, "missing.vbp", status=2)
@@ -63,10 +83,44 @@ class Schemas(unittest.TestCase):
         self.fits("settings", "settings", "get", str(self.project), "TargetDevice")
         self.fits("targets", "targets")
         self.fits("version", "version")
+        self.fits("explain", "explain")
+        self.fits("explain", "explain", "1300", "2999")
         key = r"HKEY_CURRENT_USER\Software\Quinloft"
         self.home.fernwick("registry", "set", key, "Name", "value")
         self.fits("registry", "registry", "get", key)
         self.fits("registry", "registry", "export", key)
+
+    def test_devices_and_doctor(self):
+        self.fits("devices", "devices")
+        self.home.fernwick("devices", "add", "PalmOS-DragonBall", "LinuxHandheld-ARM")
+        self.home.fernwick("devices", "set", "LinuxHandheld-ARM", "Port=77")
+        listed = {d["key"]: d for d in self.fits("devices", "devices", "list")["devices"]}
+        self.assertTrue(listed["PalmOS-DragonBall"]["mine"])
+        self.assertFalse(listed["PocketPC-ARM"]["mine"])
+        self.assertEqual(listed["LinuxHandheld-ARM"]["settings"], {"Port": "77"})
+        found = self.fits("doctor", "doctor", status=3)  # no host is set for one of My Devices
+        self.assertFalse(found["usable"])
+        self.assertIn("cure", next(f for f in found["findings"] if f["subject"] == "device LinuxHandheld-ARM"))
+
+    def test_dependencies(self):
+        self.fits("dependencies", "dependencies", str(self.project))
+        (self.project.parent / "prices.pdb").write_text("12345")
+        self.home.fernwick("dependencies", str(self.project), "add", str(self.project.parent / "prices.pdb"))
+        listed = self.fits("dependencies", "dependencies", str(self.project), "list")["dependencies"]
+        self.assertEqual(listed, [{"name": "prices.pdb", "type": "PDB", "size": 5, "missing": False}])
+        (self.project.parent / "prices.pdb").unlink()
+        missing = self.fits("dependencies", "dependencies", str(self.project))["dependencies"][0]
+        self.assertEqual((missing["size"], missing["missing"]), (None, True))
+
+    def test_packages(self):
+        self.fits("report", "package", str(self.project))
+        package = self.project.with_suffix(".PalmOS-DragonBall.qlpkg")
+        self.fits("package-listing", "package", str(package), "--list")
+        self.fits("package-listing", "package", str(package), "--verify")
+        with zipfile.ZipFile(package) as opened:
+            name = next(n for n in opened.namelist() if n.endswith("manifest.json"))
+            manifest = json.loads(opened.read(name))
+        self.assertEqual([e.message for e in schema("package").iter_errors(manifest)], [])
 
     def test_sarif(self):
         self.broken()
@@ -76,6 +130,9 @@ class Schemas(unittest.TestCase):
             self.assertEqual(run["tool"]["driver"]["name"], "fernwick")
             result = run["results"][0]
             self.assertRegex(result["ruleId"], r"^\d+$")
+            rule = next(r for r in run["tool"]["driver"]["rules"] if r["id"] == result["ruleId"])
+            self.assertTrue(rule["help"]["text"])
+            self.assertEqual(rule["helpUri"], f"https://www.quinloft.example/messages/{rule['id']}.html")
             place = result["locations"][0]["physicalLocation"]
             self.assertEqual(place["artifactLocation"]["uri"], (self.project.parent / "frmHello.frm").as_uri())
             if verb != "messages":  # what is stored knows the code window's lines only
@@ -87,8 +144,10 @@ class Schemas(unittest.TestCase):
         self.assertEqual(invocation["exitCode"], 2)
 
     def test_every_schema_is_tested(self):
+        # package-1, the manifest of packages, is tested where they are made
         self.assertEqual(sorted(p.stem for p in (ROOT / "installation/schemas").glob("*.json")),
-                         ["info-1", "registry-1", "report-1", "settings-1", "targets-1", "version-1"])
+                         ["dependencies-1", "devices-1", "doctor-1", "explain-1", "info-1", "package-1",
+                          "package-listing-1", "registry-1", "report-1", "settings-1", "targets-1", "version-1"])
 
 
 if __name__ == "__main__":

@@ -4,6 +4,7 @@
 #include "Host/system/environment.h"
 #include "Host/system/file_system.h"
 #include "Host/system/processes.h"
+#include "tests/deploy/fake_pipe.h"
 #include "tests/support/fake_compiler.h"
 #include "tests/support/fake_targets.h"
 #include "tests/support/scripted_user.h"
@@ -47,6 +48,17 @@ protected:
         user.expectBox("One or more errors occurred during compilation.\r\n"
                        "Refer to the Fernwick Messages window for the list of errors.",
                        fernwick::vbOK, fernwick::vbCritical);
+    }
+
+    /// An installation with its templates, and the host's.
+    void installTemplates() {
+        std::uint32_t key = 0, disposition = 0;
+        host.registry.RegCreateKeyEx(fernwick::HKEY_LOCAL_MACHINE, "Software\\Quinloft", fernwick::KEY_ALL_ACCESS, key,
+                                     disposition);
+        host.registry.RegSetValueEx(key, "RootDir", fernwick::REG_SZ, (host.folder / "install") + '\0');
+        host.registry.RegCloseKey(key);
+        host.folder.write("install/VB Toolkit/Template/Projects/readme.txt", "");
+        host.folder.write("Template/Projects/readme.txt", "");
     }
 
     test::Trace trace;
@@ -107,6 +119,25 @@ TEST_F(EndToEnd, TheMessagesComeBackWithTheProject) {
     EXPECT_EQ(modules->compileMsgs()->rowCount(), 2);
     EXPECT_EQ(modules->compileMsgs()->lblStatusText(),
               "FAILED - Errors (1 items) must be fixed to deploy this project.");
+}
+
+TEST_F(EndToEnd, AProjectIsCompiledAndSentAndTheNextTimeOnlySent) {
+    installTemplates();
+    const auto project = connected(hello());
+    compiler->work = [&](test::FakeCompiler&) { host.folder.write("Hello.0000.qlx", "image"); };
+    test::FakePipeFamily family{trace, classes};
+    const auto send = [&](std::initializer_list<const char*> forms) {
+        for (const auto* form : forms) user.expectForm(form);
+        modules->sendToDevice.SendProjectToDevice(modules->projects.GetQLProject(project), false, "Palm-1");
+        EXPECT_EQ(modules->sendToDevice.LastResult(), true);
+    };
+    send({"frmCompile", "frmValidate", "frmSendToDevice"});
+    EXPECT_THAT(family.files, testing::ElementsAre(host.folder / "Hello.0000.qlx"));
+    EXPECT_THAT(family.resources, testing::ElementsAre("Hello.0000.qlx"));
+    send({"frmValidate", "frmSendToDevice"});
+    user.expectForm("frmSendRuntimeToDevice");
+    modules->sendRuntime.SendRuntimeToDevice("Palm-1");
+    EXPECT_EQ(modules->sendRuntime.LastResult(), true);
 }
 
 TEST_F(EndToEnd, AReadOnlyProjectStaysAsItIs) {

@@ -12,6 +12,7 @@ class PackageContents : public testing::Test, protected test::DeployWorld {
 protected:
     using Names = std::vector<std::string>;
     PackageContents() { std::filesystem::remove(image); }
+    void TearDown() override { EXPECT_THAT(errors.seen, IsEmpty()); }
 
     void addFiles(const Names& names) {
         for (const auto& name : names) folder.write("Foo/" + name, "x");
@@ -99,7 +100,10 @@ TEST_F(PackageContents, WithoutAnInstallationFontsAreThoseOfTheProject) {
     registry.set(fernwick::HKEY_LOCAL_MACHINE, "Software\\Quinloft", "RootDir", "");
     addFiles({"Ari_08B.CMF"});
     storeFonts({"Ari_08B.CMF"});
+    const auto before = std::filesystem::current_path();
+    std::filesystem::current_path(folder / "install/Fonts"); // where the process happens to be does not count
     gather();
+    std::filesystem::current_path(before);
     EXPECT_THAT(family.files, ElementsAre(path("Ari_08B.CMF")));
 }
 
@@ -148,7 +152,6 @@ TEST_F(PackageContents, ComponentsAloneAreAPackage) {
     gather();
     EXPECT_THAT(family.files, ElementsAre("{1}"));
     EXPECT_THAT(family.resources, ElementsAre("REF"));
-    EXPECT_THAT(errors.seen, IsEmpty());
 }
 
 TEST_F(PackageContents, NothingAtAllIsReportedAndSent) {
@@ -156,6 +159,7 @@ TEST_F(PackageContents, NothingAtAllIsReportedAndSent) {
     EXPECT_THAT(errors.seen, ElementsAre("frmSendToDevice.CreateResourceList [9]"));
     EXPECT_THAT(family.files, IsEmpty());
     EXPECT_TRUE(did("send Foo to Palm"));
+    errors.seen.clear();
 }
 
 TEST_F(PackageContents, TheValidatorSeesTheSameLists) {

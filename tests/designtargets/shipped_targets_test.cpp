@@ -59,9 +59,8 @@ TEST_F(ShippedTargets, AreComplete) {
         EXPECT_GE(each->NumSupportedReferences(), 1);
         EXPECT_GE(each->NumPropertyDefaults(), 1);
         EXPECT_NE(each->VBPTemplate(), "");
-        for (const char* option :
-             {"DefaultFontStyle", "ColorDepth", "MaxImageBytes", "MaxHeapBytes", "MaxFileBytes", "StorageBytes",
-              "MaxNameLength", "FileKinds"}) {
+        for (const char* option : {"DefaultFontStyle", "ColorDepth", "MaxImageBytes", "MaxHeapBytes", "MaxFileBytes",
+                                   "StorageBytes", "MaxNameLength", "FileKinds"}) {
             std::string value;
             EXPECT_TRUE(each->GetOption(option, value) && !value.empty()) << option;
         }

@@ -45,6 +45,15 @@ TEST_F(LocalFiles, FindWhatIsThereInAnyLetterCaseAndWithEitherSeparator) {
     EXPECT_FALSE(files.SamePath(asked, path("VB Toolkit")));
 }
 
+TEST_F(LocalFiles, GiveTheirFirstBytes) {
+    folder.write("a.bin", std::string("1\0002345", 6));
+    EXPECT_EQ(files.ReadHead(path("A.BIN"), 3), std::string("1\0002", 3));
+    EXPECT_EQ(files.ReadHead(path("a.bin"), 100), std::string("1\0002345", 6));
+    EXPECT_EQ(files.ReadHead(path("a.bin"), 0), "");
+    EXPECT_EQ(errorOf([&] { files.ReadHead(path("gone.bin"), 3); }), basic::kFileNotFound);
+    EXPECT_NE(errorOf([&] { files.ReadHead(folder.path(), 3); }), 0);
+}
+
 TEST_F(LocalFiles, AnExactNameComesFirst) {
     folder.write("a.txt", "small"), folder.write("A.txt", "big");
     EXPECT_EQ(files.ReadBytes(path("a.txt")), "small");

@@ -159,6 +159,18 @@ TEST_F(LocalShell, AContextWithoutAPageOpensTheFirstOne) {
     EXPECT_EQ(basic::attempt([&] { shell.Start("Hh.exe -mapid 7"); }).Number, 53);
 }
 
+TEST_F(LocalShell, HelpOpensThePagesOfTheInstallation) {
+    const std::string root = FERNWICK_SOURCE_DIR "/installation";
+    const auto doc = root + "/VB Toolkit/doc/";
+    shell.Start("Hh.exe -mapid 1300 " + root + "\\VB Toolkit\\doc\\Quinloft_Error_Codes.chm");
+    shell.Start("Hh.exe -mapid 999 " + root + "\\VB Toolkit\\doc\\Quinloft_Error_Codes.chm");
+    shell.Start("Hh.exe ms-its:" + root +
+                "\\VB Toolkit\\doc\\Quinloft_Tamarik_and_Components.chm::/"
+                "Quinloft_Tamarik_and_Components_Tamarik And PNG Files.html");
+    EXPECT_THAT(told, ElementsAre(doc + "Quinloft_Error_Codes/1300.html", doc + "Quinloft_Error_Codes.html",
+                                  doc + "Quinloft_Tamarik_and_Components_Tamarik And PNG Files.html"));
+}
+
 TEST_F(LocalShell, ProgramsMayBeInstalledWithoutTheirExtension) {
     script("VB Toolkit/bin/QLFonC", "echo \"$1\" > '" + path("ran") + "'\n");
     shell.Start(path("VB Toolkit\\BIN\\QLFonC.exe") + " \"an argument\"");

@@ -140,7 +140,7 @@ public:
     }
     /// The path of the package, "" when there is none.
     std::string package(const ProjectFolder& project, const std::string& subfolder = "") {
-        auto location = folder / subfolder;
+        auto location = folder / subfolder + "/";
         return pipe()->MakePackage(kDevice, {}, project.files(), project.application(), location) ? location : "";
     }
     /// What a file on the device holds.

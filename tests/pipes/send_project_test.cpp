@@ -64,10 +64,11 @@ TEST_F(SendProject, TellsItsProgressByBytesAndThenThatItIsComplete) {
     EXPECT_THAT(sink.errors, IsEmpty());
 }
 
-TEST_F(SendProject, RecordsWhereTheApplicationWent) {
-    EXPECT_TRUE(world.send(project.image()));
+TEST_F(SendProject, RecordsWhereEachFileWent) {
+    EXPECT_TRUE(world.send(project.image().add("Small.CMF", "font")));
     EXPECT_THAT(world.services.record->installed,
-                ElementsAre(world.folder / "devices/PocketPC-ARM/applications/Hello"));
+                ElementsAre(world.folder / "devices/PocketPC-ARM/applications/Hello/files/Hello.0000.qlx",
+                            world.folder / "devices/PocketPC-ARM/fonts/Small.CMF"));
     EXPECT_TRUE(world.services.record->succeeded);
 }
 

@@ -2,6 +2,7 @@
 #include "tests/pipes_ssh/cutting_proxy.h"
 #include "tests/pipes_ssh/ssh_device.h"
 #include <optional>
+#include <sys/un.h>
 
 namespace {
 
@@ -39,8 +40,16 @@ protected:
 class SshAgent : public SshConnection {
 protected:
     SshAgent() {
-        for (int wait = 0; wait < 1000 && !std::filesystem::exists(socket); ++wait)
-            std::this_thread::sleep_for(std::chrono::milliseconds(5));
+        for (int wait = 0; wait < 1000 && !answers(); ++wait) std::this_thread::sleep_for(std::chrono::milliseconds(5));
+    }
+    bool answers() const {
+        sockaddr_un address{};
+        address.sun_family = AF_UNIX;
+        socket.copy(address.sun_path, sizeof address.sun_path - 1);
+        const int probe = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+        const bool taken = ::connect(probe, reinterpret_cast<sockaddr*>(&address), sizeof address) == 0;
+        ::close(probe);
+        return taken;
     }
     void add(const std::string& key) const {
         ::chmod((server.folder / key).c_str(), 0600);
@@ -77,6 +86,12 @@ TEST_F(SshConnection, RefusesAnUnknownHostAndSaysHowToMakeItKnown) {
     EXPECT_FALSE(isOnDevice(""));
     const auto command = error.text.substr(error.text.find("echo '"));
     ASSERT_EQ(std::system(command.c_str()), 0) << command;
+    EXPECT_NO_THROW(connect());
+}
+
+TEST_F(SshConnection, KnowsHostsWhoseNamesAreHashed) {
+    test::runProgram({"ssh-keygen", "-H", "-f", server.folder / "known_hosts"}, server.folder / "log");
+    EXPECT_THAT(server.folder.read("known_hosts"), testing::StartsWith("|1|"));
     EXPECT_NO_THROW(connect());
 }
 
@@ -124,11 +139,23 @@ TEST_F(SshConnection, SaysWhichKeyFileCantBeUsed) {
     expectError(refusal(to), SshMessage::KeyFileUnusable, {to.keyFile});
 }
 
-TEST_F(SshConnection, SendsAKeyWithAPassphraseThroughTheAgent) {
-    server.makeKey("protected", "secret");
+TEST_F(SshConnection, AsksForNoPassphraseButTellsOfTheAgent) {
     auto to = target();
-    to.keyFile = server.folder / "protected";
-    expectError(refusal(to), SshMessage::KeyNeedsAgent, {"ssh-add '" + to.keyFile + "'", "no agent runs"});
+    to.keyFile = server.folder / "it's protected";
+    for (const auto& kind : {std::vector<std::string>{"-t", "ed25519"}, {"-t", "ecdsa", "-m", "PEM"}}) {
+        server.makeKey("it's protected", "secret", kind);
+        expectError(refusal(to), SshMessage::KeyNeedsAgent, {"ssh-add '", "it'\\''s protected'", "no agent runs"});
+    }
+}
+
+TEST_F(SshConnection, TakesKeysOfOtherKinds) {
+    auto to = target();
+    to.keyFile = server.folder / "other";
+    for (const auto& kind : {std::vector<std::string>{"-t", "ecdsa", "-m", "PEM"}, {"-t", "rsa", "-b", "2048"}}) {
+        server.makeKey("other", "", kind);
+        server.folder.write("authorized_keys", server.folder.read("other.pub"));
+        EXPECT_EQ(transferErrorOf([&] { SshStorage{to, patient()}; }).text, "no error") << kind[1];
+    }
 }
 
 TEST_F(SshAgent, LetsTheUserInByAKeyOfTheAgent) {
@@ -174,10 +201,29 @@ TEST_F(SshConnection, SaysWhenNothingListens) {
     expectError(refusal(targetAt(test::freePort())), SshMessage::NotConnected, {"127.0.0.1:", "Connection refused"});
 }
 
+TEST_F(SshConnection, ReachesAHandheldByIpv6) {
+    const int probe = ::socket(AF_INET6, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    sockaddr_in6 address{};
+    address.sin6_family = AF_INET6;
+    address.sin6_addr = in6addr_loopback;
+    const bool works = ::bind(probe, reinterpret_cast<sockaddr*>(&address), sizeof address) == 0;
+    ::close(probe);
+    if (!works) GTEST_SKIP() << "this machine has no IPv6";
+    const test::SshServer sixth{"Subsystem sftp internal-sftp\nListenAddress ::1\n"};
+    auto to = target();
+    to.host = "::1";
+    to.port = sixth.port;
+    to.keyFile = sixth.folder / "user_key";
+    sixth.folder.write("known_hosts", "[::1]:" + std::to_string(sixth.port) + " " + sixth.folder.read("host_key.pub"));
+    to.knownHosts = sixth.folder / "known_hosts";
+    EXPECT_EQ(transferErrorOf([&] { SshStorage{to, patient()}; }).text, "no error");
+}
+
 TEST_F(SshConnection, SaysWhenTheNameIsUnknown) {
     auto to = target();
-    to.host = "handheld.invalid";
-    expectError(refusal(to), SshMessage::HostNotFound, {"handheld.invalid", "Host"});
+    // no part of a name is so long, so that nobody is asked
+    to.host = std::string(64, 'x') + ".invalid";
+    expectError(refusal(to), SshMessage::HostNotFound, {to.host, "Host"});
 }
 
 TEST_F(SshConnection, WaitsNotForEverForAServerThatNeverSpeaks) {
@@ -220,7 +266,7 @@ TEST(SshServerWithoutSftp, IsToldApart) {
 }
 
 TEST(SshServerThatPrints, IsToldApart) {
-    const test::SshServer server{"Subsystem sftp /bin/echo Welcome to this handheld\n"};
+    const test::SshServer server{"Subsystem sftp echo Welcome to this handheld; cat\n"};
     const qlpipe::SshTarget to{"127.0.0.1",
                                server.port,
                                qlpipe::userName(),
@@ -229,6 +275,31 @@ TEST(SshServerThatPrints, IsToldApart) {
                                server.folder / "known_hosts",
                                false};
     expectError(transferErrorOf([&] { SshStorage{to, {}}; }), SshMessage::AnswerInvalid, {".bashrc"});
+}
+
+/// Begins as it should, and then says what no server would: to the first request, whose number is 1.
+TEST(SshServerThatTalksNonsense, IsToldApart) {
+    using namespace std::string_literals;
+    const std::pair<std::string, const char*> nonsense[]{
+        {"\0\xFF\xFF\xFF"s, "16777215 bytes"},
+        {"\0\0\0\x09\x65\0\0\0\x07\0\0\0\0"s, "no request"},
+        {"\0\0\0\x09\x65\0\0\0\x01\0\0\0\0"s, "without a result"},
+        {"\0\0\0\x05\x66\0\0\0\x01"s, "kind 102"},
+        {"\0\0\0\x09\x69\0\0\0\x01\0\0\0\x01"s, "cut short"},
+    };
+    const test::TempFolder folder;
+    const test::SshServer server{"Subsystem sftp cat " + (folder / "answer") + " -\n"};
+    for (const auto& [bytes, words] : nonsense) {
+        folder.write("answer", "\0\0\0\x05\x02\0\0\0\x03"s + bytes);
+        const qlpipe::SshTarget to{"127.0.0.1",
+                                   server.port,
+                                   qlpipe::userName(),
+                                   server.folder / "user_key",
+                                   server.folder / "device",
+                                   server.folder / "known_hosts",
+                                   false};
+        expectError(transferErrorOf([&] { SshStorage{to, {}}; }), SshMessage::AnswerInvalid, {words});
+    }
 }
 
 TEST(SshServerThatWantsMore, IsToldApart) {

@@ -1,4 +1,5 @@
 // Connections that break, stall, and devices that fail in the middle.
+#include "Components/QLPipe/pipe_messages.h"
 #include "tests/pipes_ssh/cutting_proxy.h"
 #include "tests/pipes_ssh/ssh_device.h"
 #include <sys/mount.h>
@@ -48,7 +49,7 @@ TEST_F(SshInterruption, LeavesAWholeApplicationWhereverItCuts) {
     const auto all = proxy.sent();
     int broken = 0;
     // the last of it first: there the old application gives way to the new one
-    for (std::size_t left = 1; left < all; left += left < 2000 ? 80 : 700) {
+    for (std::size_t left = 1; left < all; left += left < 2000 ? 110 : 1300) {
         proxy.cutAfter(all - left);
         const auto error = transferErrorOf([&] { deploy(*connectByProxy(), "new"); });
         broken += error.number != 0;
@@ -65,7 +66,6 @@ TEST_F(SshInterruption, LeavesAWholeApplicationWhereverItCuts) {
 TEST_F(SshInterruption, PutsBackWhatWasSetAsideWhenTheNewOneNeverCame) {
     server.folder.write("device/.fernwick-replaced/applications%2FGame/Game.qlx", "old");
     server.folder.write("device/.fernwick-replaced/applications%2FGame/data/levels.txt", "old levels");
-    std::filesystem::create_directory(server.folder / "device/applications");
     EXPECT_EQ(wholeApplication(), "old");
     EXPECT_TRUE(std::filesystem::is_empty(server.folder / "device/.fernwick-replaced"));
 }
@@ -136,11 +136,49 @@ TEST_F(SshInterruption, WaitsForAServerThatIsSlow) {
     thaw.join();
 }
 
-TEST_F(SshInterruption, OverwritesThePieceThatAnInterruptionLeft) {
-    server.folder.write("device/a/file.fernwick-part", std::string(1000, 'x'));
-    put(*connect(), "a/file", "new");
+TEST_F(SshInterruption, ListsNoPieceThatAnInterruptionLeftAndOverwritesIt) {
+    {
+        const auto device = connectByProxy();
+        device->makeFolder("a");
+        const auto file = device->create("a/file");
+        file->write(std::string(100'000, 'x'));
+        server.kill();
+    }
+    ASSERT_FALSE(std::filesystem::is_empty(server.folder / "device/a"));
+    server.start();
+    const auto device = connect();
+    EXPECT_THAT(device->list("a"), testing::IsEmpty());
+    put(*device, "a/file", "new");
+    EXPECT_THAT(device->list("a"), ElementsAre("file"));
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(server.folder / "device/a"),
+                            std::filesystem::directory_iterator()),
+              1);
     EXPECT_EQ(onDevice("a/file"), "new");
-    EXPECT_FALSE(isOnDevice("a/file.fernwick-part"));
+}
+
+TEST_F(SshInterruption, StopsWhenALaterTransferTakesTheDevice) {
+    const auto first = connect(), second = connect();
+    first->makeFolder("incoming");
+    put(*first, "incoming/a", "first");
+    second->remove("incoming");
+    second->makeFolder("incoming");
+    for (const auto& step : std::vector<std::function<void()>>{
+             [&] { put(*first, "incoming/b", "first"); },
+             [&] { first->replaceFolder("incoming", "applications"); },
+             [&] { first->replaceFile("incoming/a", "list"); },
+         })
+        EXPECT_EQ(transferErrorOf(step).number, qlpipe::kDeviceBusy);
+    put(*second, "incoming/a", "second");
+    second->replaceFolder("incoming", "applications");
+    EXPECT_THAT(second->list("applications"), ElementsAre("a"));
+    EXPECT_EQ(onDevice("applications/a"), "second");
+}
+
+TEST_F(SshInterruption, LooksAtADeviceWithoutTakingIt) {
+    const auto first = connect();
+    first->makeFolder("incoming");
+    EXPECT_THAT(connect()->list(""), ElementsAre("incoming"));
+    EXPECT_NO_THROW(put(*first, "incoming/a", "first"));
 }
 
 /// A folder of a few kilobytes on the device, where the test may mount one.
@@ -165,7 +203,7 @@ TEST_F(SshFullDevice, KeepsTheOldApplicationAndSaysThatThereIsNoRoom) {
     expectError(transferErrorOf([&] { deploy(*device, std::string(200'000, 'x')); }), SshMessage::DeviceFull,
                 {"no room", "device/incoming/Game.qlx"});
     EXPECT_EQ(wholeApplication(), "old");
-    EXPECT_FALSE(isOnDevice("incoming/Game.qlx.fernwick-part"));
+    EXPECT_TRUE(connect()->list("incoming").size() < 2);
 }
 
 /// A server on which nothing can be written, also by root.
@@ -175,10 +213,13 @@ TEST(SshReadOnlyDevice, SaysWhatItMayNotDo) {
     SshStorage device{{"127.0.0.1", server.port, qlpipe::userName(), server.folder / "user_key",
                        server.folder / "device", server.folder / "known_hosts", false},
                       {}};
-    expectError(transferErrorOf([&] { device.makeFolder("a"); }), SshMessage::AccessDenied,
-                {"device/a", qlpipe::userName(), "Folder"});
-    expectError(transferErrorOf([&] { device.create("new"); }), SshMessage::AccessDenied, {"write"});
-    expectError(transferErrorOf([&] { device.remove("file"); }), SshMessage::AccessDenied, {"remove"});
+    for (const auto& step : std::vector<std::function<void()>>{
+             [&] { device.makeFolder("a"); },
+             [&] { device.create("new"); },
+             [&] { device.remove("file"); },
+         })
+        expectError(transferErrorOf(step), SshMessage::AccessDenied,
+                    {qlpipe::userName() + " write into", "/device (Permission denied)", "Folder"});
     EXPECT_EQ(device.read("file"), "x");
 }
 

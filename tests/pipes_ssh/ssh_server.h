@@ -62,14 +62,35 @@ public:
         ::chmod((folder / "authorized_keys").c_str(), 0600);
         // as root, the server wants it, and a container may lack it
         if (::geteuid() == 0) ::mkdir("/run/sshd", 0755);
-        for (int attempt = 0; attempt < 5 && !start(more); ++attempt) continue;
+        for (int attempt = 0; attempt < 5 && !server_; ++attempt) {
+            port = freePort();
+            configure(more);
+            start();
+        }
         folder.write("known_hosts", knownHost(port, "host_key"));
     }
 
-    void makeKey(const std::string& name, const std::string& passphrase = "") const {
+    /// After it was killed, at the same port. Another program may have taken that; then there is no server.
+    void start() {
+        server_ = std::make_unique<RunningProgram>(
+            std::vector<std::string>{"/usr/sbin/sshd", "-D", "-e", "-f", folder / "sshd_config"}, folder / "log");
+        for (int wait = 0; wait < 1000 && !server_->hasEnded(); ++wait) {
+            if (const int socket = connectToLoopback(port); socket >= 0) {
+                ::close(socket);
+                return;
+            }
+            std::this_thread::sleep_for(std::chrono::milliseconds(10));
+        }
+        server_.reset();
+    }
+
+    /// `more` are options of ssh-keygen.
+    void makeKey(const std::string& name, const std::string& passphrase = "",
+                 const std::vector<std::string>& more = {"-t", "ed25519"}) const {
         std::filesystem::remove(folder / name);
-        runProgram({"ssh-keygen", "-q", "-t", "ed25519", "-N", passphrase, "-C", "test", "-f", folder / name},
-                   folder / "log");
+        std::vector<std::string> command{"ssh-keygen", "-q", "-N", passphrase, "-C", "test", "-f", folder / name};
+        command.insert(command.end(), more.begin(), more.end());
+        runProgram(command, folder / "log");
     }
     /// The line of a key in known_hosts.
     std::string knownHost(std::uint16_t atPort, const std::string& key) const {
@@ -90,7 +111,6 @@ public:
     }
     void kill() {
         signalAll(SIGKILL);
-        server_->wait();
         server_.reset();
     }
 
@@ -98,20 +118,12 @@ public:
     std::uint16_t port = 0;
 
 private:
-    bool start(const std::string& more) {
-        port = freePort();
+    void configure(const std::string& more) const {
         folder.write("sshd_config", "Port " + std::to_string(port) + "\nListenAddress 127.0.0.1\nHostKey " +
                                         (folder / "host_key") + "\nAuthorizedKeysFile " + (folder / "authorized_keys") +
                                         "\nPidFile none\nUsePAM no\nStrictModes no\nPermitRootLogin yes\n"
                                         "PasswordAuthentication no\nKbdInteractiveAuthentication no\n" +
                                         more);
-        server_ = std::make_unique<RunningProgram>(
-            std::vector<std::string>{"/usr/sbin/sshd", "-D", "-e", "-f", folder / "sshd_config"}, folder / "log");
-        for (int wait = 0; wait < 1000 && !server_->hasEnded(); ++wait) {
-            if (const int socket = connectToLoopback(port); socket >= 0) return ::close(socket), true;
-            std::this_thread::sleep_for(std::chrono::milliseconds(10));
-        }
-        return false;
     }
 
     static std::vector<pid_t> descendants(pid_t root) {

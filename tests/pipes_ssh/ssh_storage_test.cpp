@@ -145,8 +145,34 @@ TEST_F(SshStorageTest, RefusesToReadALargeFile) {
 
 TEST_F(SshStorageTest, SaysWhatIsNotThere) {
     const auto device = connect();
+    device->makeFolder("a");
     expectError(transferErrorOf([&] { device->read("none"); }), SshMessage::NotThere, {"read", "device/none"});
     expectError(transferErrorOf([&] { device->create("none/file"); }), SshMessage::NotThere, {"device/none/file"});
+}
+
+TEST_F(SshStorageTest, ReadsOnlyFiles) {
+    const auto device = connect();
+    device->makeFolder("a");
+    ::mkfifo((server.folder / "device/a/pipe").c_str(), 0600);
+    for (const char* name : {"a", "a/pipe"})
+        expectError(transferErrorOf([&] { device->read(name); }), SshMessage::OperationFailed, {"no file"});
+}
+
+TEST_F(SshStorageTest, WritesThroughNoLinkThatLiesInItsWay) {
+    server.folder.write("outside", "mine");
+    const auto device = connect();
+    device->makeFolder("a");
+    {
+        const auto file = device->create("a/file");
+        for (const auto& part : std::filesystem::directory_iterator(server.folder / "device/a")) {
+            const auto name = part.path();
+            std::filesystem::remove(name);
+            std::filesystem::create_symlink(server.folder / "outside", name);
+            put(*device, "a/file", "new");
+        }
+    }
+    EXPECT_EQ(server.folder.read("outside"), "mine");
+    EXPECT_EQ(onDevice("a/file"), "new");
 }
 
 TEST_F(SshStorageTest, FollowsNoLinkOutOfTheFolder) {

@@ -34,7 +34,8 @@ _fernwick_complete() {
   case $previous in
     --format)
       case $verb in build | check | deploy | install-runtime | messages | package | validate)
-        _fernwick_words "text json sarif" ;; *) _fernwick_words "text json" ;; esac
+        _fernwick_words "text json sarif" ;; explain) _fernwick_words "text json markdown" ;;
+        *) _fernwick_words "text json" ;; esac
       return ;;
     --device) _fernwick_targets; return ;;
     --answer) _fernwick_words "$(fernwick help answers 2>/dev/null | sed -n 's/^  \([a-z-]*\) .*/\1=/p')"
@@ -48,6 +49,7 @@ _fernwick_complete() {
       "") _fernwick_words "--help --version" ;;
       build) _fernwick_words "$common $answers --device --depfile --dry-run --trust-steps --no-steps" ;;
       check) _fernwick_words "$common --code-page" ;;
+      dependencies) _fernwick_words "$common $answers" ;;
       deploy) _fernwick_words "$common $answers --device --my-devices --trust-steps --no-steps" ;;
       install-runtime) _fernwick_words "$common --device --my-devices" ;;
       package) _fernwick_words "$common $answers --device --my-devices --list --verify --trust-steps --no-steps" ;;
@@ -60,12 +62,25 @@ _fernwick_complete() {
     return
   fi
   case $verb in
-    "") _fernwick_words "build check deploy help info install-runtime messages package registry settings targets validate version" ;;
+    "") _fernwick_words "build check dependencies deploy devices doctor explain help info install-runtime messages package registry settings targets validate version" ;;
     build | messages | validate) _fernwick_files "vbp" ;;
+    dependencies) [[ -z $action || ${action,,} == *.vbp ]] && _fernwick_words "list add remove"
+      if [[ -z $action ]]; then _fernwick_files "vbp"; else _fernwick_files "*"; fi ;;
     deploy | package) _fernwick_files "vbp|qlpkg" ;;
+    devices)
+      case $action in
+        "") _fernwick_words "list add remove set" ;;
+        set) if [[ $previous == set ]]; then _fernwick_targets
+             else
+               _fernwick_words "Host= Port= User= KeyFile= Folder= KnownHosts="
+               compopt -o nospace 2>/dev/null
+             fi ;;
+        add | remove) _fernwick_targets ;;
+      esac ;;
+    explain) _fernwick_words "$(fernwick explain 2>/dev/null | sed 's/^ *\([0-9]*\) .*/\1/')" ;;
     info) _fernwick_files "vbp|vbg" ;;
     check) _fernwick_files "vbp|vbg|bas|cls|frm|ctl|pag|dsr|dob" ;;
-    help) _fernwick_words "answers build check deploy info install-runtime messages package registry settings targets validate version" ;;
+    help) _fernwick_words "answers build check dependencies deploy devices doctor explain info install-runtime messages package registry settings targets validate version" ;;
     settings)
       case $action in
         "") _fernwick_words "list get set reset" ;;

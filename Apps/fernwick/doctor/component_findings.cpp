@@ -1,8 +1,10 @@
 // The compiler, the design targets and their pipes.
 #include "Add-in/platform/compiler.h"
 #include "Add-in/platform/pipes.h"
+#include "Apps/fernwick/device_place.h"
 #include "Apps/fernwick/doctor/findings.h"
 #include "Components/DesignTargetAccess/design_target_mgr.h"
+#include "Components/QLPipe/runtime_bundle.h"
 #include <fmt/format.h>
 
 namespace cli {
@@ -35,7 +37,10 @@ std::string pipeProblem(Machine& machine, const IQLDesignTarget& target) {
     bool supported = false;
     const auto err = basic::attempt([&] { supported = validation->IsDeviceSupported(target.Key()); });
     if (err.Number != 0) return fmt::format("its pipe {} fails: {}", pipe, err.Description);
-    return supported ? std::string() : fmt::format("its pipe {} doesn't serve it", pipe);
+    if (!supported) return fmt::format("its pipe {} doesn't serve it", pipe);
+    basic::Ref<qlpipe::IQLPipe> transfer;
+    const auto unsendable = unmakeable(machine, pipe + ".Pipe", transfer);
+    return unsendable.empty() ? unsendable : fmt::format("nothing can be sent by its pipe {}: {}", pipe, unsendable);
 }
 
 std::string missingTemplate(Machine& machine, const IQLDesignTarget& target) {
@@ -54,6 +59,19 @@ std::string unregisteredTavlets(Machine& machine, const IQLDesignTarget& target)
     return names;
 }
 
+/// What the installation puts on the target's devices: its version, or what is wrong with it.
+struct ShippedRuntime {
+    std::string version, problem;
+};
+
+ShippedRuntime shippedRuntime(Machine& machine, const IQLDesignTarget& target) {
+    const auto* family = pipeFamilyOf(target.RequiredPipeProgID());
+    if (!family) return {};
+    try {
+        return {qlpipe::runtimeBundle(machine.installation(), family->name).version, {}};
+    } catch (const qlpipe::TransferError& error) { return {{}, error.text}; }
+}
+
 void examineTarget(Machine& machine, const IQLDesignTarget& target, Findings& to) {
     const auto subject = targetSubject(target);
     if (target.PlatformName().empty() || target.RequiredPipeProgID().empty()) {
@@ -64,11 +82,18 @@ void examineTarget(Machine& machine, const IQLDesignTarget& target, Findings& to
     if (const auto problem = pipeProblem(machine, target); !problem.empty())
         to.push_back(troubleFinding(subject, problem, correctTarget("its pipe or key")));
     if (const auto path = missingTemplate(machine, target); !path.empty())
-        to.push_back(troubleFinding(subject, fmt::format("its template {} is missing", path), correctTarget("the name")));
+        to.push_back(
+            troubleFinding(subject, fmt::format("its template {} is missing", path), correctTarget("the name")));
     if (const auto names = unregisteredTavlets(machine, target); !names.empty())
         to.push_back(troubleFinding(subject, "controls that are not registered: " + names,
                                     "Install Fernwick again: registry/tavlets.reg registers them."));
-    if (to.size() == before) to.push_back(goodFinding(subject, "pipe " + target.RequiredPipeProgID()));
+    const auto runtime = shippedRuntime(machine, target);
+    if (!runtime.problem.empty())
+        to.push_back(
+            troubleFinding(subject, runtime.problem, "Install Fernwick again: VB Toolkit/Runtime has the runtimes."));
+    if (to.size() == before)
+        to.push_back(
+            goodFinding(subject, fmt::format("pipe {}, runtime {}", target.RequiredPipeProgID(), runtime.version)));
 }
 
 } // namespace
@@ -85,8 +110,7 @@ void examineTargets(Machine& machine, Findings& to) {
     DesignTargetMgr targets{machine.installation()};
     targets.Initialize();
     for (const auto& problem : targets.problems())
-        to.push_back(
-            troubleFinding("target file", problem.text(), "Correct the line, or install the file again."));
+        to.push_back(troubleFinding("target file", problem.text(), "Correct the line, or install the file again."));
     for (std::int16_t i = 0; i < targets.Count(); ++i)
         examineTarget(machine, *targets.GetDesignTargetByIndex(i).shared(), to);
     if (targets.Count() == 0)

@@ -1,5 +1,6 @@
 // The devices that the user's projects go to.
 #include "Add-in/core/connect/Modules.h"
+#include "Apps/fernwick/catalogue.h"
 #include "Apps/fernwick/device_place.h"
 #include "Apps/fernwick/doctor/findings.h"
 #include "Apps/fernwick/interruption.h"
@@ -16,6 +17,11 @@ std::string placeWords(const DevicePlace& place) {
     return words + (place.runtime.empty() ? ", no runtime" : ", runtime " + place.runtime);
 }
 
+std::string cureOfAbsent(const DeviceRow& row, const DevicePlace& place) {
+    const auto* message = messageNumbered(place.problemNumber);
+    return message ? std::string(message->remedy) : fmt::format("fernwick devices remove {}", row.key);
+}
+
 /// A device that the user did not choose need not be there.
 Finding::State stateOfAbsent(const DeviceRow& row) {
     return row.isMine ? Finding::State::Trouble : Finding::State::Warning;
@@ -27,9 +33,7 @@ Finding findingOfDevice(Machine& machine, const DeviceRow& row) {
         return troubleFinding(subject, "is in My Devices, but its design target is not usable here",
                               fmt::format("fernwick devices remove {}", row.key));
     const auto place = placeOfDevice(machine, row.key, row.pipe);
-    if (!place.problem.empty())
-        return {stateOfAbsent(row), subject, place.problem, fmt::format("See fernwick help devices, or: fernwick "
-                                                                        "devices remove {}", row.key)};
+    if (!place.problem.empty()) return {stateOfAbsent(row), subject, place.problem, cureOfAbsent(row, place)};
     if (place.runtime.empty())
         return warningFinding(subject, placeWords(place), fmt::format("fernwick install-runtime --device {}", row.key));
     return goodFinding(subject, placeWords(place));

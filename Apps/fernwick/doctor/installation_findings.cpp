@@ -12,8 +12,14 @@ constexpr const char* kInstallation = "installation";
 
 /// What every installation lays down, by its name below the root.
 constexpr const char* kInstalledFolders[] = {
-    "Fonts",   "Template/Projects", "VB Toolkit/Template", "VB Toolkit/doc/Quinloft_Error_Codes", "libraries",
-    "registry", "targets",           "tavlets",
+    "Fonts",
+    "Template/Projects",
+    "VB Toolkit/Template",
+    "VB Toolkit/doc/Quinloft_Error_Codes",
+    "libraries",
+    "registry",
+    "targets",
+    "tavlets",
 };
 constexpr const char* kInstalledFiles[] = {
     "Template/Projects/Fernwick Project.vbp",
@@ -38,8 +44,9 @@ std::string installAgain(const std::string& part) {
 void examineParts(const std::string& root, const fernwick::FileSystemObject& files, Findings& to) {
     const auto before = to.size();
     const auto require = [&](const char* part, bool isThere) {
-        if (!isThere) to.push_back(troubleFinding(kInstallation, fmt::format("{}/{} is missing", root, part),
-                                                  installAgain(part)));
+        if (!isThere)
+            to.push_back(
+                troubleFinding(kInstallation, fmt::format("{}/{} is missing", root, part), installAgain(part)));
     };
     for (const auto* folder : kInstalledFolders) require(folder, files.FolderExists(files.BuildPath(root, folder)));
     for (const auto* file : kInstalledFiles) require(file, files.FileExists(files.BuildPath(root, file)));

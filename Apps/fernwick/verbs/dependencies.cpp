@@ -90,12 +90,14 @@ std::string projectFolderOf(Session& session) {
     return session.machine().platform().files.GetParentFolderName(session.path());
 }
 
-/// A copy would replace a file of the project that has nothing to do with it.
-void requireFreePlace(Session& session, const NewDependency& added) {
+/// Why a file can't be copied: the copy would replace one of the project that has nothing to do with it. "" for none.
+std::string takenPlace(Session& session, const NewDependency& added) {
+    if (!added.relative.empty()) return {};
     const auto& files = session.machine().platform().files;
     const auto place = files.BuildPath(projectFolderOf(session), files.GetFileName(added.path));
-    if (files.FolderExists(place) || (files.FileExists(place) && files.ReadBytes(place) != files.ReadBytes(added.path)))
-        throw Refusal(kProjectErrors, fmt::format("{} is another file than {}; rename one of them", place, added.path));
+    const bool isFree = !files.FolderExists(place) &&
+                        (!files.FileExists(place) || files.ReadBytes(place) == files.ReadBytes(added.path));
+    return isFree ? std::string() : fmt::format("{} is another file than {}; rename one of them", place, added.path);
 }
 
 /// Refusals before anything is copied: what is no file, and names that the stored form can't carry.
@@ -111,27 +113,34 @@ NewDependency newDependency(Session& session, const std::string& operand) {
         throw Refusal(kWrongUse, fmt::format("{}: a dependency's name is stored with \",\" behind it and can't hold "
                                              "one; rename the file",
                                              operand));
-    if (added.relative.empty()) requireFreePlace(session, added);
+    if (const auto taken = takenPlace(session, added); !taken.empty()) throw Refusal(kProjectErrors, taken);
     return added;
 }
 
-/// False when one was refused, which keeps no other from being added.
+/// Appends the file's entry. Why it did not; "" when it did.
+std::string addDependency(Session& session, const NewDependency& added, tResourceList& list) {
+    if (auto taken = takenPlace(session, added); !taken.empty()) return taken; // by another of the same name
+    const auto entry = session.addIn().dependencies.CreateNewDependency(session.project(), added.path, true);
+    if (entry.FileName.empty())
+        return fmt::format("{} lies outside of the project's folder and was not added; --yes copies it there",
+                           added.path);
+    // the add-in reports a copy that fails, and goes on
+    if (isMissing(session, entry)) return fmt::format("{} could not be copied and was not added", added.path);
+    if (modDependencyManagement::FindResourceIndex(entry.FileName, list) < 0)
+        modDependencyManagement::AddDependency(entry, list);
+    return {};
+}
+
+/// False when one was not added, which keeps no other from it.
 bool addDependencies(Session& session, const DependencyOperands& operands, tResourceList& list, Console& console) {
     std::vector<NewDependency> added;
     for (const auto& operand : operands.files) added.push_back(newDependency(session, operand));
     bool all = true;
     for (const auto& one : added) {
-        if (one.relative.empty()) requireFreePlace(session, one); // two files of one name
-        const auto entry = session.addIn().dependencies.CreateNewDependency(session.project(), one.path, true);
-        if (entry.FileName.empty()) {
-            all = false;
-            console.err(fmt::format("fernwick: {} lies outside of the project's folder and was not added; --yes copies "
-                                    "it there",
-                                    one.path),
-                        Tone::Error);
-        } else if (modDependencyManagement::FindResourceIndex(entry.FileName, list) < 0) {
-            modDependencyManagement::AddDependency(entry, list);
-        }
+        const auto reason = addDependency(session, one, list);
+        if (reason.empty()) continue;
+        console.err("fernwick: " + reason, Tone::Error);
+        all = false;
     }
     return all;
 }
@@ -169,8 +178,8 @@ void storeDependencies(Session& session, const tResourceList& list) {
     auto& dependencies = session.addIn().dependencies;
     dependencies.WriteProjectDependencies(session.project(), list);
     if (!sameEntries(dependencies.ReadProjectDependencies(session.project()), list))
-        throw Refusal(kProjectErrors, fmt::format("{}: the project's file can't hold these names; nothing was stored",
-                                                  session.path()));
+        throw Refusal(kProjectErrors,
+                      fmt::format("{}: the project's file can't hold these names; nothing was stored", session.path()));
 }
 
 int changeDependencies(Session& session, const DependencyOperands& operands, Console& console) {

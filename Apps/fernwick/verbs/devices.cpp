@@ -1,5 +1,6 @@
 #include "Add-in/core/connect/Modules.h"
 #include "Apps/fernwick/device_place.h"
+#include "Apps/fernwick/device_settings.h"
 #include "Apps/fernwick/exit_status.h"
 #include "Apps/fernwick/interruption.h"
 #include "Apps/fernwick/json_output.h"
@@ -53,7 +54,14 @@ void printRow(const DeviceRow& row, const DevicePlace& place, Console& console) 
     if (!place.problem.empty()) console.detail(fmt::format("{}: {}", row.key, place.problem));
 }
 
-Json jsonOfDeviceRow(const DeviceRow& row, const DevicePlace& place) {
+Json jsonOfSettings(const DeviceSettings& settings) {
+    Json json = Json::object();
+    for (const auto& [name, value] : settings)
+        if (!value.empty()) json[name] = value;
+    return json;
+}
+
+Json jsonOfDeviceRow(const DeviceRow& row, const DevicePlace& place, const DeviceSettings& settings) {
     const auto orNull = [](const std::string& text) { return text.empty() ? Json(nullptr) : Json(text); };
     return {{"key", row.key},
             {"name", orNull(row.name)},
@@ -62,7 +70,8 @@ Json jsonOfDeviceRow(const DeviceRow& row, const DevicePlace& place) {
             {"location", orNull(place.location)},
             {"runtime", orNull(place.runtime)},
             {"freeBytes", place.freeBytes < 0 ? Json(nullptr) : Json(place.freeBytes)},
-            {"problem", orNull(place.problem)}};
+            {"problem", orNull(place.problem)},
+            {"settings", jsonOfSettings(settings)}};
 }
 
 int listDevices(MyDevices& devices, const Options& options, Console& console) {
@@ -72,12 +81,14 @@ int listDevices(MyDevices& devices, const Options& options, Console& console) {
         checkInterrupt();
         const auto place = row.isUsable ? placeOfDevice(devices.machine, row.key, row.pipe) : DevicePlace{};
         if (options.format == Format::Json)
-            json["devices"].push_back(jsonOfDeviceRow(row, place));
+            json["devices"].push_back(
+                jsonOfDeviceRow(row, place, readDeviceSettings(devices.machine.registry(), row.key, row.pipe)));
         else
             printRow(row, place, console);
     }
     if (options.format == Format::Json) console.out(dumpJson(json));
-    if (devices.rows.empty()) throw Refusal(kMachineTrouble, "no usable design target is installed; see fernwick doctor");
+    if (devices.rows.empty())
+        throw Refusal(kMachineTrouble, "no usable design target is installed; see fernwick doctor");
     return kGood;
 }
 
@@ -89,14 +100,13 @@ void saveDevices(MyDevices& devices, std::vector<std::string> keys) {
     prefs.gMyDevices = keys;
     (void)prefs.saveMyDevices();
     prefs.loadMyDevices();
-    if (prefs.gMyDevices != keys)
-        throw Refusal(kMachineTrouble, "My Devices could not be stored; see fernwick doctor");
+    if (prefs.gMyDevices != keys) throw Refusal(kMachineTrouble, "My Devices could not be stored; see fernwick doctor");
 }
 
 void requireKeys(const Options& options) {
     if (options.operands.empty())
-        throw Refusal(kWrongUse, fmt::format("devices {} takes the keys of devices; fernwick devices lists them",
-                                             options.action));
+        throw Refusal(kWrongUse,
+                      fmt::format("devices {} takes the keys of devices; fernwick devices lists them", options.action));
 }
 
 int addDevices(MyDevices& devices, const Options& options, Console&) {
@@ -123,21 +133,32 @@ int removeDevices(MyDevices& devices, const Options& options, Console&) {
     return kGood;
 }
 
+// ---- set ----
+
+int setDevice(MyDevices& devices, const Options& options, Console&) {
+    if (options.operands.size() < 2) throw Refusal(kWrongUse, "devices set takes KEY NAME=VALUE...");
+    const auto& row = knownDevice(devices, options.operands.front());
+    changeDeviceSettings(devices.machine.registry(), row.key, row.pipe,
+                         {options.operands.begin() + 1, options.operands.end()});
+    return kGood;
+}
+
 struct DeviceAction {
     std::string_view name;
     int (*run)(MyDevices&, const Options&, Console&);
 };
 
 constexpr DeviceAction kDeviceActions[] = {
-    {"list", listDevices}, {"add", addDevices}, {"remove", removeDevices}};
+    {"list", listDevices}, {"add", addDevices}, {"remove", removeDevices}, {"set", setDevice}};
 
 } // namespace
 
 int runDevices(const Options& options, Console& console) {
     MyDevices devices{options, console};
-    for (const auto& action : kDeviceActions)
-        if (action.name == options.action) return action.run(devices, options, console);
-    return listDevices(devices, options, console);
+    const auto* action = std::find_if(std::begin(kDeviceActions), std::end(kDeviceActions),
+                                      [&](const DeviceAction& one) { return one.name == options.action; });
+    return action == std::end(kDeviceActions) ? listDevices(devices, options, console)
+                                              : action->run(devices, options, console);
 }
 
 } // namespace cli

@@ -29,11 +29,9 @@ void examineGuarded(const Examination& one, Machine& machine, Findings& to) {
     };
     try {
         one.examine(machine, to);
-    } catch (const Interrupted&) {
-        throw;
-    } catch (const basic::RuntimeError& error) { failed(error.Description); } catch (const std::exception& error) {
-        failed(error.what());
-    }
+    } catch (const Interrupted&) { throw; } catch (const basic::RuntimeError& error) {
+        failed(error.Description);
+    } catch (const std::exception& error) { failed(error.what()); }
 }
 
 std::string_view stateName(State state) {
@@ -44,7 +42,6 @@ std::string_view stateName(State state) {
     }
     return "trouble";
 }
-
 
 std::size_t countOf(const Findings& findings, State state) {
     return std::size_t(

@@ -95,9 +95,9 @@ void authenticateByFile(Authentication& ways, const std::string& path) {
     if (file.key && ways.byFile(path, file)) return;
     if (ways.byAgent()) return;
     if (file.key) ways.refuse();
-    throw sshError(SshMessage::KeyNeedsAgent,
-                   {path, Authentication::agentRuns() ? "none of the agent's keys was accepted"
-                                                      : "no agent runs here (SSH_AUTH_SOCK is not set)"});
+    const char* why = Authentication::agentRuns() ? "none of the agent's keys was accepted"
+                                                  : "no agent runs here (SSH_AUTH_SOCK is not set)";
+    throw sshError(SshMessage::KeyNeedsAgent, {path, why, shellWord(path)});
 }
 
 } // namespace

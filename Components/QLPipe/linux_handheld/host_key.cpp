@@ -1,6 +1,7 @@
 #include "Components/QLPipe/linux_handheld/ssh_messages.h"
 #include "Components/QLPipe/linux_handheld/ssh_session.h"
 #include <cerrno>
+#include <new>
 #include <system_error>
 #include <unistd.h>
 
@@ -40,12 +41,15 @@ std::string fingerprintOf(ssh_key key) {
 }
 
 HostKey hostKeyOf(const SshSession& session) {
+    const auto demand = [&](int result) {
+        if (result != SSH_OK)
+            throw sshError(SshMessage::HandshakeFailed, {session.target().address(), session.problem()});
+    };
     ssh_key key = nullptr;
-    if (libssh().ssh_get_server_publickey(session.get(), &key) != SSH_OK)
-        throw sshError(SshMessage::HandshakeFailed, {session.target().address(), session.problem()});
+    demand(libssh().ssh_get_server_publickey(session.get(), &key));
     const OwnedKey owner{key};
     char* line = nullptr;
-    if (libssh().ssh_session_export_known_hosts_entry(session.get(), &line) != SSH_OK) throw std::bad_alloc();
+    demand(libssh().ssh_session_export_known_hosts_entry(session.get(), &line));
     const OwnedText lineOwner{line};
     const auto type = libssh().ssh_key_type(key);
     std::string text = line;
@@ -56,8 +60,8 @@ HostKey hostKeyOf(const SshSession& session) {
 [[noreturn]] void refuseHost(const SshSession& session, SshMessage message) {
     const auto& target = session.target();
     const auto key = hostKeyOf(session);
-    throw sshError(message, {target.address(), key.kind, key.fingerprint, key.fileKind, key.line, target.knownHosts,
-                             key.line.substr(0, key.line.find(' '))});
+    throw sshError(message, {target.address(), key.kind, key.fingerprint, key.fileKind, key.line,
+                             shellWord(target.knownHosts), key.line.substr(0, key.line.find(' '))});
 }
 
 } // namespace

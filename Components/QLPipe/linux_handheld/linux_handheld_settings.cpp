@@ -50,7 +50,7 @@ constexpr int kPathFileAccessError = 75;
 LinuxHandheldSettings readProjectSettings(const basic::Ref<vbide::VBProject>& project) {
     LinuxHandheldSettings settings;
     if (!project) return settings;
-    for (const auto& [name, value] : kLinuxHandheldSettings)
+    for (const auto& [name, value, caption] : kLinuxHandheldSettings)
         // an absent value is an error of the host
         (void)basic::attempt([&] { settings.*value = project->ReadProperty(kLinuxHandheldSection, name); });
     return settings;
@@ -58,7 +58,7 @@ LinuxHandheldSettings readProjectSettings(const basic::Ref<vbide::VBProject>& pr
 
 void writeProjectSettings(const basic::Ref<vbide::VBProject>& project, const LinuxHandheldSettings& settings) {
     const auto stored = readProjectSettings(project);
-    for (const auto& [name, value] : kLinuxHandheldSettings)
+    for (const auto& [name, value, caption] : kLinuxHandheldSettings)
         if (settings.*value != stored.*value) project->WriteProperty(kLinuxHandheldSection, name, settings.*value);
 }
 
@@ -69,7 +69,7 @@ LinuxHandheldSettings readUserSettings(fernwick::Registry& registry, const std::
         handle = 0;
     const OpenKey key{registry, handle};
     LinuxHandheldSettings settings;
-    for (const auto& [name, value] : kLinuxHandheldSettings) settings.*value = key.text(name);
+    for (const auto& [name, value, caption] : kLinuxHandheldSettings) settings.*value = key.text(name);
     return settings;
 }
 
@@ -80,13 +80,13 @@ void writeUserSettings(fernwick::Registry& registry, const std::string& deviceKe
                                 handle, disposition) != fernwick::ERROR_SUCCESS)
         handle = 0;
     const OpenKey key{registry, handle};
-    for (const auto& [name, value] : kLinuxHandheldSettings)
+    for (const auto& [name, value, caption] : kLinuxHandheldSettings)
         if (!key || !key.store(name, settings.*value)) throw basic::RuntimeError(kPathFileAccessError);
 }
 
 LinuxHandheldSettings layered(const LinuxHandheldSettings& project, const LinuxHandheldSettings& user) {
     auto settings = user;
-    for (const auto& [name, value] : kLinuxHandheldSettings)
+    for (const auto& [name, value, caption] : kLinuxHandheldSettings)
         if (!(project.*value).empty()) settings.*value = project.*value;
     return settings;
 }

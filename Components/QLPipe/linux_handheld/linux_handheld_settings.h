@@ -31,14 +31,16 @@ struct LinuxHandheldSettings {
 struct LinuxHandheldSetting {
     const char* name;
     std::string LinuxHandheldSettings::*value;
+    /// What stands beside its field.
+    const char* caption;
 };
 inline constexpr std::array<LinuxHandheldSetting, 6> kLinuxHandheldSettings{{
-    {"Host", &LinuxHandheldSettings::Host},
-    {"Port", &LinuxHandheldSettings::Port},
-    {"User", &LinuxHandheldSettings::User},
-    {"KeyFile", &LinuxHandheldSettings::KeyFile},
-    {"Folder", &LinuxHandheldSettings::Folder},
-    {"KnownHosts", &LinuxHandheldSettings::KnownHosts},
+    {"Host", &LinuxHandheldSettings::Host, "Name or address:"},
+    {"Port", &LinuxHandheldSettings::Port, "Port (22):"},
+    {"User", &LinuxHandheldSettings::User, "User:"},
+    {"KeyFile", &LinuxHandheldSettings::KeyFile, "Key file:"},
+    {"Folder", &LinuxHandheldSettings::Folder, "Folder on the handheld (fernwick):"},
+    {"KnownHosts", &LinuxHandheldSettings::KnownHosts, "File of known hosts:"},
 }};
 
 /// The section of the project file that holds a project's own settings.

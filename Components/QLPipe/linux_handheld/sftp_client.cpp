@@ -10,14 +10,14 @@ namespace {
 /// What OpenSSH takes for a packet's longest.
 constexpr std::uint32_t kLongestPacket = 256 * 1024;
 constexpr std::uint32_t kSftpOwnVersion = 3;
+/// No folder of ours has so many names; a device that goes on for ever is stopped.
+constexpr std::size_t kMostEntries = 100'000;
 
 } // namespace
 
 SftpClient::SftpClient(const SshTarget& target, const SshTimeouts& timeouts) : channel_(target, timeouts) { start(); }
 
 void SftpClient::start() {
-    auto packet = PacketWriter{kSftpInit}.number(kSftpOwnVersion);
-    channel_.send(packet.finished());
     const auto reply = firstReply();
     PacketReader reader{reply.bytes};
     if (reply.type != kSftpVersion || reader.number() < kSftpOwnVersion) throwInvalid("another kind of SFTP");
@@ -30,6 +30,8 @@ void SftpClient::start() {
 
 /// A server whose program for transfers is missing accepts the transfer and then ends it.
 SftpClient::Reply SftpClient::firstReply() try {
+    auto packet = PacketWriter{kSftpInit}.number(kSftpOwnVersion);
+    channel_.send(packet.finished());
     return receive(channel_.timeouts().connect);
 } catch (const TransferError& error) {
     if (error.number != std::int32_t(SshMessage::ConnectionLost)) throw;
@@ -92,8 +94,8 @@ SftpResult SftpClient::readReply(const Reply& reply, std::uint8_t type, Read rea
     return {};
 }
 
-SftpResult SftpClient::awaitResult(Request request) {
-    return readReply(await(request), kSftpStatus, [](PacketReader&) {});
+SftpResult SftpClient::awaitResult(Request request, std::chrono::milliseconds patience) {
+    return readReply(await(request, patience), kSftpStatus, [](PacketReader&) {});
 }
 
 SftpResult SftpClient::awaitAttributes(Request request, SftpAttributes& attributes) {
@@ -115,7 +117,7 @@ SftpResult SftpClient::handleOf(Request request, std::string& handle) {
     return readReply(await(request), kSftpHandle, [&](PacketReader& reader) { handle = reader.text(); });
 }
 
-SftpResult SftpClient::open(const std::string& path, std::uint32_t mode, std::string& handle) {
+SftpResult SftpClient::open(const std::string& path, SftpOpenMode mode, std::string& handle) {
     return handleOf(send(request(kSftpOpen).text(path).number(mode).number(0)), handle);
 }
 
@@ -127,12 +129,11 @@ SftpResult SftpClient::read(const std::string& handle, std::uint64_t offset, std
     return result;
 }
 
-SftpResult SftpClient::close(const std::string& handle) { return awaitResult(startOnPath(kSftpClose, handle)); }
+SftpResult SftpClient::close(const std::string& handle) { return awaitResult(startClose(handle)); }
 
-SftpResult SftpClient::flush(const std::string& handle) {
+std::optional<SftpClient::Request> SftpClient::startFlush(const std::string& handle) {
     if (!offers("fsync@openssh.com")) return {};
-    const auto sent = send(request(kSftpExtended).text("fsync@openssh.com").text(handle));
-    return readReply(await(sent, channel_.timeouts().flush), kSftpStatus, [](PacketReader&) {});
+    return send(request(kSftpExtended).text("fsync@openssh.com").text(handle));
 }
 
 SftpResult SftpClient::makeFolder(const std::string& path) {
@@ -153,7 +154,7 @@ SftpResult SftpClient::list(const std::string& folder, std::vector<Entry>& entri
     if (auto result = handleOf(startOnPath(kSftpOpenFolder, folder), handle); !result) return result;
     SftpResult result;
     while (readEntries(await(startOnPath(kSftpReadFolder, handle)), entries, result)) continue;
-    close(handle);
+    (void)close(handle);
     if (result.code == kSftpEndOfFile) result.code = kSftpOk;
     return result;
 }
@@ -166,6 +167,7 @@ bool SftpClient::readEntries(const Reply& reply, std::vector<Entry>& entries, Sf
             const auto attributes = reader.attributes();
             // names that could lead out of the folder are not names
             if (name.find('/') != std::string_view::npos) throwInvalid("a name with a slash");
+            if (entries.size() == kMostEntries) throwInvalid("a folder without end");
             if (!name.empty() && name != "." && name != "..") entries.push_back({std::string{name}, attributes});
         }
     });

@@ -20,19 +20,21 @@ public:
     using Request = std::uint32_t;
     Request startLstat(const std::string& path) { return startOnPath(kSftpLstat, path); }
     Request startRemove(const std::string& path) { return startOnPath(kSftpRemove, path); }
+    Request startClose(const std::string& handle) { return startOnPath(kSftpClose, handle); }
+    /// Puts a file on the device's disk; nothing where the device doesn't offer it.
+    std::optional<Request> startFlush(const std::string& handle);
     Request startWrite(const std::string& handle, std::uint64_t offset, std::string_view bytes);
     /// The attributes, or why there are none.
     SftpResult awaitAttributes(Request request, SftpAttributes& attributes);
-    SftpResult awaitResult(Request request);
+    SftpResult awaitResult(Request request) { return awaitResult(request, channel_.timeouts().operation); }
+    SftpResult awaitResult(Request request, std::chrono::milliseconds patience);
 
     SftpResult lstat(const std::string& path, SftpAttributes& attributes);
     SftpResult realPath(const std::string& path, std::string& real);
-    SftpResult open(const std::string& path, std::uint32_t mode, std::string& handle);
+    SftpResult open(const std::string& path, SftpOpenMode mode, std::string& handle);
     /// "" at the end of the file.
     SftpResult read(const std::string& handle, std::uint64_t offset, std::uint32_t size, std::string& bytes);
     SftpResult close(const std::string& handle);
-    /// Done at once where the device doesn't offer it.
-    SftpResult flush(const std::string& handle);
     SftpResult makeFolder(const std::string& path);
     SftpResult removeFolder(const std::string& path);
     /// Puts a file in another's place where the device offers that; else the place must be free, as it must for folders.

@@ -38,10 +38,14 @@ enum SftpCode : std::uint32_t {
     kSftpFailure = 4,
 };
 
-enum SftpOpenMode : std::uint32_t { kSftpForReading = 1, kSftpForWriting = 2, kSftpCreate = 8, kSftpTruncate = 16 };
+enum SftpOpenMode : std::uint32_t {
+    kSftpForReading = 1,
+    /// A new file for writing: creates it, and fails where there is anything, also a link.
+    kSftpNewFile = 2 | 8 | 32,
+};
 
 /// How a request ended, and what the device said to it.
-struct SftpResult {
+struct [[nodiscard]] SftpResult {
     std::uint32_t code = kSftpOk;
     std::string text;
     explicit operator bool() const { return code == kSftpOk; }
@@ -54,6 +58,7 @@ struct SftpAttributes {
     std::uint32_t permissions = 0;
 
     bool isFolder() const { return (permissions & 0170000) == 0040000; }
+    bool isFile() const { return (permissions & 0170000) == 0100000; }
     bool isLink() const { return (permissions & 0170000) == 0120000; }
 };
 

@@ -18,10 +18,11 @@ SshChannel::SshChannel(const SshTarget& target, const SshTimeouts& timeouts) : s
 }
 
 void SshChannel::send(std::string_view bytes) {
+    if (!isOpen_) throwLost("it was given up before");
     auto since = SshSession::Clock::now();
     while (!bytes.empty()) {
         const int taken = libssh().ssh_channel_write(channel_.get(), bytes.data(), std::uint32_t(bytes.size()));
-        if (taken < 0) throwLost();
+        if (taken < 0) throwLost(session_.problem());
         bytes.remove_prefix(std::size_t(taken));
         if (taken > 0)
             since = SshSession::Clock::now();
@@ -34,7 +35,8 @@ void SshChannel::receive(char* bytes, std::size_t size, std::chrono::millisecond
     auto since = SshSession::Clock::now();
     while (size > 0) {
         const int got = libssh().ssh_channel_read_timeout(channel_.get(), bytes, std::uint32_t(size), 0, 0);
-        if (got < 0 || (got == 0 && libssh().ssh_channel_is_eof(channel_.get()))) throwLost();
+        if (got < 0) throwLost(session_.problem());
+        if (got == 0 && libssh().ssh_channel_is_eof(channel_.get())) throwLost("the handheld ended the file transfer");
         bytes += got;
         size -= std::size_t(got);
         if (got > 0)
@@ -45,17 +47,15 @@ void SshChannel::receive(char* bytes, std::size_t size, std::chrono::millisecond
 }
 
 void SshChannel::waitFor(std::chrono::milliseconds patience, SshSession::Clock::time_point since) {
-    if (!session_.isConnected()) throwLost();
+    if (!session_.isConnected()) throwLost(session_.problem());
     if (session_.wait(since + patience)) return;
     giveUp();
     throw sshError(SshMessage::Stalled, {target().address(), secondsText(patience)});
 }
 
-void SshChannel::throwLost() {
+void SshChannel::throwLost(const std::string& why) {
     giveUp();
-    const auto problem = session_.problem();
-    throw sshError(SshMessage::ConnectionLost,
-                   {target().address(), problem.empty() ? "the handheld ended the file transfer" : problem});
+    throw sshError(SshMessage::ConnectionLost, {target().address(), why});
 }
 
 } // namespace qlpipe

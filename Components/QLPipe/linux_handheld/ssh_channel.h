@@ -24,7 +24,7 @@ public:
 
 private:
     void waitFor(std::chrono::milliseconds patience, SshSession::Clock::time_point since);
-    [[noreturn]] void throwLost();
+    [[noreturn]] void throwLost(const std::string& why);
 
     SshSession session_;
     OwnedChannel channel_;

@@ -47,14 +47,14 @@ constexpr fernwick::MessageInfo kSshMessages[] = {
         M::HostKeyUnknown,
         "The handheld %1 is not known yet. Its key is %2 %3. Compare it with what this command prints on the handheld "
         "itself: ssh-keygen -lf /etc/ssh/ssh_host_%4_key.pub. If they are the same, make it known with: "
-        "echo '%5' >> '%6'",
+        "echo '%5' >> %6",
         "Nothing is sent to a device whose key was not checked: another one could stand at its address.", "",
         "Compare the fingerprints, then add the line to the file of known hosts."),
     error(M::HostKeyChanged,
           "The key of the handheld %1 is not the one that is known: now it is %2 %3. Either the handheld was set up "
           "anew, or another device answers in its place. Compare it with what this command prints on the handheld "
           "itself: ssh-keygen -lf /etc/ssh/ssh_host_%4_key.pub. Only if they are the same, forget the old key with: "
-          "ssh-keygen -R '%7' -f '%6' and make the new one known with: echo '%5' >> '%6'",
+          "ssh-keygen -R '%7' -f %6 and make the new one known with: echo '%5' >> %6",
           "The device at this address has another key than before. Nothing was sent.", "",
           "Find out why the key changed before you accept it."),
     error(M::KnownHostsUnreadable, "The known hosts in %1 can't be read: %2. Nothing was sent to %3.",
@@ -69,7 +69,7 @@ constexpr fernwick::MessageInfo kSshMessages[] = {
           "Name the private key, or make one with ssh-keygen -t ed25519."),
     error(M::KeyNeedsAgent,
           "The key file %1 has a passphrase, which is never asked for here: such keys come from the SSH agent, and "
-          "%2. Add the key with: ssh-add '%1' and try again.",
+          "%2. Add the key with: ssh-add %3 and try again.",
           "A key with a passphrase is used through the agent, so that the passphrase is given to no other program.", "",
           "eval \"$(ssh-agent)\" where no agent runs, then ssh-add and the key file."),
     error(M::KeysRefused,
@@ -136,6 +136,12 @@ std::span<const fernwick::MessageInfo> sshMessages() { return kSshMessages; }
 
 TransferError sshError(SshMessage message, std::initializer_list<std::string> values) {
     return transferError(static_cast<std::int32_t>(message), values);
+}
+
+std::string shellWord(const std::string& path) {
+    std::string word;
+    for (const char c : path) word += c == '\'' ? "'\\''" : std::string(1, c);
+    return "'" + word + "'";
 }
 
 std::string saidByDevice(std::string_view text) {

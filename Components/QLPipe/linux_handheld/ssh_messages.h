@@ -50,6 +50,9 @@ enum class SshMessage : std::int32_t {
 /// The error of a row, with `values` in the places of its "%1", "%2" and so on.
 [[nodiscard]] TransferError sshError(SshMessage message, std::initializer_list<std::string> values);
 
+/// A path as a word of a command that the user is told to type.
+[[nodiscard]] std::string shellWord(const std::string& path);
+
 /// What a device said, fit to be shown: control characters become "?", and the rest of a long text goes.
 [[nodiscard]] std::string saidByDevice(std::string_view text);
 

@@ -1,7 +1,10 @@
 #include "Components/QLPipe/linux_handheld/ssh_storage.h"
+#include "Components/QLPipe/device_names.h"
 #include "Components/QLPipe/linux_handheld/ssh_messages.h"
 #include "Components/QLPipe/linux_handheld/ssh_upload.h"
+#include "Components/QLPipe/pipe_messages.h"
 #include <algorithm>
+#include <random>
 
 namespace qlpipe {
 
@@ -11,8 +14,15 @@ constexpr std::size_t kLargestRead = 1024 * 1024;
 constexpr std::uint32_t kReadBlock = 32 * 1024;
 /// A file system with less room is taken for a full one when it fails.
 constexpr std::int64_t kFull = 64 * 1024;
+constexpr std::string_view kOwnerPrefix = ".fernwick-owner-";
 
-/// "a", "a/b", "a/b/c".
+std::string ownerFile() {
+    std::random_device random;
+    return std::string{kOwnerPrefix} + std::to_string(random()) + std::to_string(random());
+}
+
+} // namespace
+
 std::vector<std::string> beginnings(const std::string& name) {
     std::vector<std::string> parts;
     for (auto end = name.find('/'); end != std::string::npos; end = name.find('/', end + 1))
@@ -20,13 +30,6 @@ std::vector<std::string> beginnings(const std::string& name) {
     if (!name.empty()) parts.push_back(name);
     return parts;
 }
-
-std::string parentOf(const std::string& name) {
-    const auto slash = name.rfind('/');
-    return slash == std::string::npos ? "" : name.substr(0, slash);
-}
-
-} // namespace
 
 void demandSftp(SftpClient& client, const std::string& base, const SftpResult& result, const char* action,
                 const std::string& path) {
@@ -40,9 +43,29 @@ void demandSftp(SftpClient& client, const std::string& base, const SftpResult& r
     throw sshError(SshMessage::OperationFailed, {target.address(), action, path, result.text});
 }
 
-SshStorage::SshStorage(const SshTarget& target, const SshTimeouts& timeouts) : client_(target, timeouts) {
+SshStorage::SshStorage(const SshTarget& target, const SshTimeouts& timeouts, FileDescriptor lock)
+    : lock_(std::move(lock)), client_(target, timeouts) {
     takeFolder(target.folder);
     recover();
+}
+
+SshStorage::~SshStorage() {
+    if (owner_.empty() || !client_.channel().isOpen()) return;
+    try {
+        (void)client_.awaitResult(client_.startRemove(owner_));
+    } catch (const TransferError&) {} // the next transfer removes it
+}
+
+void SshStorage::beginWork() {
+    std::vector<SftpClient::Entry> entries;
+    demand(client_.list(base_, entries), "list", base_);
+    for (const auto& [name, attributes] : entries)
+        if (name.starts_with(kOwnerPrefix)) (void)client_.awaitResult(client_.startRemove(pathOf(name)));
+    const auto path = pathOf(ownerFile());
+    std::string handle;
+    demand(client_.open(path, kSftpNewFile, handle), "write into", base_);
+    (void)client_.close(handle);
+    owner_ = path;
 }
 
 void SshStorage::takeFolder(const std::string& folder) {
@@ -68,18 +91,22 @@ std::string SshStorage::location() const {
 std::int64_t SshStorage::freeSpaceFor(const std::string&) {
     // the old and the new application lie side by side until the new one is whole
     auto path = base_;
-    for (SftpAttributes found; !client_.lstat(path, found) && !path.empty();) path = parentOf(path);
+    for (SftpAttributes found; !client_.lstat(path, found) && !path.empty();) path = folderOf(path);
     return client_.freeSpace(path.empty() ? "/" : path);
 }
 
-std::optional<SftpAttributes> SshStorage::find(const std::string& name) {
-    const auto parts = beginnings(name);
-    std::vector<SftpClient::Request> requests{client_.startLstat(base_)};
-    for (const auto& part : parts) requests.push_back(client_.startLstat(pathOf(part)));
+SshStorage::Requests SshStorage::startFind(const std::string& name) {
+    Requests requests{client_.startLstat(base_)};
+    for (const auto& part : beginnings(name)) requests.push_back(client_.startLstat(pathOf(part)));
+    return requests;
+}
+
+std::optional<SftpAttributes> SshStorage::awaitFound(const std::string& name, const Requests& requests) {
     std::vector<SftpAttributes> found(requests.size());
     std::vector<SftpResult> results;
     for (std::size_t i = 0; i < requests.size(); ++i) results.push_back(client_.awaitAttributes(requests[i], found[i]));
 
+    const auto parts = beginnings(name);
     for (std::size_t i = 0; i < found.size(); ++i) {
         const auto path = i == 0 ? base_ : pathOf(parts[i - 1]);
         if (results[i].code == kSftpNoSuchFile) return std::nullopt;
@@ -91,8 +118,18 @@ std::optional<SftpAttributes> SshStorage::find(const std::string& name) {
     return found.back();
 }
 
-std::optional<SftpAttributes> SshStorage::findNoLink(const std::string& name) {
-    auto found = find(name);
+std::optional<SftpAttributes> SshStorage::findAsOwner(const std::string& name) {
+    if (owner_.empty()) beginWork();
+    const auto owner = client_.startLstat(owner_);
+    const auto requests = startFind(name);
+    SftpAttributes found;
+    const bool isOwner = client_.awaitAttributes(owner, found).code != kSftpNoSuchFile;
+    const auto answer = awaitFound(name, requests);
+    if (!isOwner) throw transferError(kDeviceBusy, {location()});
+    return answer;
+}
+
+std::optional<SftpAttributes> SshStorage::notALink(const std::string& name, std::optional<SftpAttributes> found) const {
     if (found && found->isLink()) throw sshError(SshMessage::LinkRefused, {pathOf(name)});
     return found;
 }
@@ -100,22 +137,23 @@ std::optional<SftpAttributes> SshStorage::findNoLink(const std::string& name) {
 bool SshStorage::exists(const std::string& name) { return find(name).has_value(); }
 
 std::vector<std::string> SshStorage::list(const std::string& folder) {
-    const auto found = findNoLink(folder);
+    const auto found = notALink(folder, find(folder));
     if (!found) return {};
     if (!found->isFolder()) throw sshError(SshMessage::NotFolder, {pathOf(folder)});
     std::vector<SftpClient::Entry> entries;
     demand(client_.list(pathOf(folder), entries), "list", pathOf(folder));
     std::vector<std::string> names;
     for (auto& entry : entries)
-        if (!entry.name.ends_with(kPartSuffix) && !(folder.empty() && entry.name == kReplacedFolder))
-            names.push_back(std::move(entry.name));
+        if (!entry.name.starts_with(kOwnPrefix)) names.push_back(std::move(entry.name));
     std::ranges::sort(names);
     return names;
 }
 
 std::string SshStorage::read(const std::string& file) {
     const auto path = pathOf(file);
-    findNoLink(file);
+    // a pipe or a device would keep the handheld waiting
+    if (const auto found = notALink(file, find(file)); found && !found->isFile())
+        demand({kSftpFailure, "it is no file"}, "read", path);
     std::string handle, bytes, block;
     demand(client_.open(path, kSftpForReading, handle), "read", path);
     SftpResult result;
@@ -123,7 +161,7 @@ std::string SshStorage::read(const std::string& file) {
         result = client_.read(handle, bytes.size(), kReadBlock, block);
         bytes += block;
     } while (result && !block.empty() && bytes.size() <= kLargestRead);
-    client_.close(handle);
+    (void)client_.close(handle);
     demand(result, "read", path);
     if (bytes.size() > kLargestRead) throw sshError(SshMessage::FileTooLarge, {path});
     return bytes;
@@ -147,12 +185,17 @@ void SshStorage::makeBase() {
 }
 
 void SshStorage::makeFolder(const std::string& folder) {
-    makeBase();
-    for (const auto& part : beginnings(folder)) makeOneFolder(pathOf(part));
+    if (folders_.contains(folder)) return;
+    if (const auto found = notALink(folder, find(folder)); !found || !found->isFolder()) {
+        makeBase();
+        if (owner_.empty()) beginWork();
+        for (const auto& part : beginnings(folder)) makeOneFolder(pathOf(part));
+    }
+    folders_.insert(folder);
 }
 
 std::unique_ptr<StorageFile> SshStorage::create(const std::string& file) {
-    if (find(file)) throw sshError(SshMessage::NameTaken, {pathOf(file)});
+    if (findAsOwner(file)) throw sshError(SshMessage::NameTaken, {pathOf(file)});
     return std::make_unique<SshUpload>(client_, base_, pathOf(file));
 }
 

@@ -1,4 +1,5 @@
 // How one thing takes another's place on a handheld, and how things go.
+#include "Components/QLPipe/device_names.h"
 #include "Components/QLPipe/linux_handheld/ssh_messages.h"
 #include "Components/QLPipe/linux_handheld/ssh_storage.h"
 #include <algorithm>
@@ -10,6 +11,8 @@ namespace {
 /// Deeper folders are no work of ours.
 constexpr int kDeepest = 64;
 constexpr std::size_t kRemovalsUnderWay = 64;
+/// Where what is replaced is kept until the new one stands.
+constexpr char kReplacedFolder[] = ".fernwick-replaced";
 
 std::string keptName(const std::string& name) {
     std::string kept;
@@ -37,15 +40,16 @@ std::string nameOfKept(const std::string& kept) {
 } // namespace
 
 void SshStorage::replaceFile(const std::string& from, const std::string& to) {
-    const auto there = findNoLink(to);
+    const auto there = notALink(to, findAsOwner(to));
     if (there && there->isFolder()) throw sshError(SshMessage::NameTaken, {pathOf(to)});
     if (there && !client_.renameReplaces()) return replace(from, to);
     demand(client_.rename(pathOf(from), pathOf(to)), "rename", pathOf(from));
 }
 
 void SshStorage::replaceFolder(const std::string& from, const std::string& to) {
-    const auto there = findNoLink(to);
+    const auto there = notALink(to, findAsOwner(to));
     if (there && !there->isFolder()) throw sshError(SshMessage::NotFolder, {pathOf(to)});
+    folders_.clear();
     if (there) return replace(from, to);
     demand(client_.rename(pathOf(from), pathOf(to)), "rename", pathOf(from));
 }
@@ -75,14 +79,16 @@ void SshStorage::putBackOrAway(const std::string& kept) {
     if (name.empty()) return;
     const auto path = pathOf(kReplacedFolder) + "/" + kept;
     // what can't be removed takes room but does no harm; the next replacement of this name says so
-    if (find(name))
-        (void)removeTree(path);
-    else
-        demand(client_.rename(path, pathOf(name)), "rename", path);
+    if (find(name)) return (void)removeTree(path);
+    for (const auto& folder : beginnings(folderOf(name))) makeOneFolder(pathOf(folder));
+    demand(client_.rename(path, pathOf(name)), "rename", path);
 }
 
 void SshStorage::remove(const std::string& name) {
-    if (find(name)) demand(removeTree(pathOf(name)), "remove", pathOf(name));
+    if (!find(name)) return;
+    if (owner_.empty()) beginWork();
+    folders_.clear();
+    demand(removeTree(pathOf(name)), "remove", pathOf(name));
 }
 
 SftpResult SshStorage::removeTree(const std::string& path, int depth) {

@@ -2,6 +2,7 @@
 #include "Components/QLPipe/linux_handheld/ssh_messages.h"
 #include "Components/QLPipe/linux_handheld/user_account.h"
 #include <algorithm>
+#include <cctype>
 #include <charconv>
 
 namespace qlpipe {
@@ -58,6 +59,7 @@ SshTarget sshTarget(const LinuxHandheldSettings& settings, const std::string& de
     target.port = portOf(settings.Port);
     target.user = plainWord("User", settings.User.empty() ? userName() : settings.User);
     target.keyFile = localPath(settings.KeyFile);
+    if (target.user.empty()) refuseSetting("User", "", "this computer doesn't know who you are");
     target.folder = remoteFolder(settings.Folder);
     target.usualKnownHosts = settings.KnownHosts.empty();
     target.knownHosts = localPath(target.usualKnownHosts ? "~/.ssh/known_hosts" : settings.KnownHosts);

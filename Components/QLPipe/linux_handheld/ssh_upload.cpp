@@ -1,6 +1,7 @@
 #include "Components/QLPipe/linux_handheld/ssh_upload.h"
+#include "Components/QLPipe/device_names.h"
 #include "Components/QLPipe/linux_handheld/ssh_storage.h"
-#include <algorithm>
+#include "Components/QLPipe/sha256.h"
 #include <utility>
 
 namespace qlpipe {
@@ -11,12 +12,23 @@ namespace {
 constexpr std::size_t kBlock = 32 * 1024;
 constexpr std::size_t kBlocksUnderWay = 64;
 
+/// Beside the file, and no longer than names may be, however long the file's own is.
+std::string partOf(const std::string& path) {
+    Sha256 hash;
+    hash.add(lastPart(path));
+    return folderOf(path) + "/" + std::string{kOwnPrefix} + "part-" + hash.hex().substr(0, 16);
+}
+
 } // namespace
 
 SshUpload::SshUpload(SftpClient& client, std::string base, std::string path)
-    : client_(client), base_(std::move(base)), path_(std::move(path)), part_(path_ + std::string{kPartSuffix}) {
+    : client_(client), base_(std::move(base)), path_(std::move(path)), part_(partOf(path_)) {
     block_.reserve(kBlock);
-    demand(client_.open(part_, kSftpForWriting | kSftpCreate | kSftpTruncate, handle_), "write");
+    // what an interrupted transfer left, or a link that somebody put there
+    const auto removal = client_.startRemove(part_);
+    const auto opened = client_.open(part_, kSftpNewFile, handle_);
+    (void)client_.awaitResult(removal);
+    demand(opened, "write");
 }
 
 SshUpload::~SshUpload() {
@@ -50,9 +62,12 @@ void SshUpload::awaitOldest() {
 
 void SshUpload::close() {
     if (!block_.empty()) sendBlock();
+    // all at once, for a small file costs little more than the ways there and back
+    const auto flushed = client_.startFlush(handle_);
+    const auto closed = client_.startClose(std::exchange(handle_, {}));
     while (!underWay_.empty()) awaitOldest();
-    demand(client_.flush(handle_), "write");
-    demand(client_.close(std::exchange(handle_, {})), "write");
+    if (flushed) demand(client_.awaitResult(*flushed, client_.channel().timeouts().flush), "write");
+    demand(client_.awaitResult(closed), "write");
     demand(client_.rename(part_, path_), "write");
     isDone_ = true;
 }

@@ -5,9 +5,6 @@
 
 namespace qlpipe {
 
-/// What stands behind the name of a file that is not closed yet.
-inline constexpr std::string_view kPartSuffix = ".fernwick-part";
-
 /// A file on its way to a handheld. It goes in blocks, many of them under way at once, so that neither the way there
 /// and back nor the handheld's disk is waited for with each.
 class SshUpload final : public StorageFile {

@@ -20,7 +20,7 @@ using Addresses = std::unique_ptr<addrinfo, decltype(&::freeaddrinfo)>;
 Addresses addressesOf(const SshTarget& target) {
     addrinfo wanted{};
     wanted.ai_socktype = SOCK_STREAM;
-    wanted.ai_flags = AI_ADDRCONFIG | AI_NUMERICSERV;
+    wanted.ai_flags = AI_NUMERICSERV;
     addrinfo* found = nullptr;
     const int problem = ::getaddrinfo(target.host.c_str(), std::to_string(target.port).c_str(), &wanted, &found);
     if (problem != 0) throw sshError(SshMessage::HostNotFound, {target.host, ::gai_strerror(problem)});
@@ -50,6 +50,11 @@ int connectSocket(int socket, const addrinfo& address, Clock::time_point deadlin
     return errno == EINPROGRESS ? waitForConnection(socket, deadline) : errno;
 }
 
+/// The end of an attempt that leaves as much time to each of those behind it.
+Clock::time_point shareOf(Clock::time_point deadline, int attempts) {
+    return Clock::now() + (deadline - Clock::now()) / attempts;
+}
+
 } // namespace
 
 std::string secondsText(std::chrono::milliseconds time) {
@@ -61,11 +66,12 @@ std::string secondsText(std::chrono::milliseconds time) {
 FileDescriptor connectTo(const SshTarget& target, std::chrono::milliseconds timeout) {
     const auto deadline = Clock::now() + timeout;
     const auto addresses = addressesOf(target);
-    int problem = 0;
+    int problem = 0, left = 0;
+    for (const auto* address = addresses.get(); address; address = address->ai_next) ++left;
     for (const auto* address = addresses.get(); address; address = address->ai_next) {
         FileDescriptor socket{
             ::socket(address->ai_family, address->ai_socktype | SOCK_CLOEXEC | SOCK_NONBLOCK, address->ai_protocol)};
-        problem = socket.number() < 0 ? errno : connectSocket(socket.number(), *address, deadline);
+        problem = socket.number() < 0 ? errno : connectSocket(socket.number(), *address, shareOf(deadline, left--));
         if (problem == 0) return socket;
     }
     if (problem == ETIMEDOUT) throw sshError(SshMessage::NoAnswer, {target.address(), secondsText(timeout)});

@@ -113,7 +113,8 @@ void FolderHandle::makeFolders(const std::string& name) const {
     std::string done;
     for (const auto& part : partsOf(name)) {
         const auto parent = openFolder(done);
-        if (::mkdirat(parent.get(), part.c_str(), kNewFolder) != 0 && errno != EEXIST) fail(errno, name);
+        const bool isNew = ::mkdirat(parent.get(), part.c_str(), kNewFolder) == 0;
+        if ((!isNew && errno != EEXIST) || (isNew && ::fsync(parent.get()) != 0)) fail(errno, name);
         done += (done.empty() ? "" : "/") + part;
     }
     openFolder(name); // what stood there already may be a link or a file

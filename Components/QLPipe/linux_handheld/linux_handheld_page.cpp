@@ -1,0 +1,82 @@
+#include "Components/QLPipe/linux_handheld/linux_handheld.h"
+#include "Components/QLPipe/linux_handheld/linux_handheld_settings.h"
+#include <algorithm>
+
+namespace qlpipe {
+
+namespace {
+
+class LinuxHandheldPage final : public IQLPipePage {
+public:
+    explicit LinuxHandheldPage(const LinuxHandheldSettings& stored) {
+        for (const auto& [name, value, caption] : kLinuxHandheldSettings)
+            fields_.push_back({kLinuxHandheldSection, name, caption, stored.*value});
+    }
+    std::vector<PipeSetting>& Settings() override { return fields_; }
+    bool Visible() const override { return isVisible_; }
+    void show(bool visible) { isVisible_ = visible; }
+
+    /// What the fields say, by their order.
+    LinuxHandheldSettings typed() const {
+        LinuxHandheldSettings settings;
+        for (std::size_t i = 0; i < kLinuxHandheldSettings.size(); ++i)
+            settings.*kLinuxHandheldSettings[i].value = fields_[i].Value;
+        return settings;
+    }
+
+private:
+    std::vector<PipeSetting> fields_;
+    bool isVisible_ = false;
+};
+
+/// The fields are text; no value that the transfer would refuse is stored, nor one that a project file can't hold.
+bool canBeStored(LinuxHandheldSettings settings) {
+    for (const auto& [name, value, caption] : kLinuxHandheldSettings)
+        if ((settings.*value).find_first_of("\r\n") != std::string::npos) return false;
+    // a project may leave the host to the user's own settings
+    if (settings.Host.empty()) settings.Host = "handheld";
+    try {
+        (void)sshTarget(settings, "");
+        return true;
+    } catch (const TransferError&) { return false; }
+}
+
+class LinuxHandheldConfiguration final : public IQLPipeConfiguration {
+public:
+    basic::Ref<IQLPipePage> CreatePage(const basic::Ref<vbide::VBProject>& project, std::int32_t,
+                                       std::int32_t) override {
+        ClosePage();
+        if (!project) return {};
+        project_ = project;
+        page_ = std::make_shared<LinuxHandheldPage>(readProjectSettings(project));
+        return page_;
+    }
+    void ShowPage() override {
+        if (page_) page_->show(true);
+    }
+    void HidePage() override {
+        if (page_) page_->show(false);
+    }
+    bool ValidatePage() override { return !page_ || canBeStored(page_->typed()); }
+    void ApplyPage() override {
+        if (page_) writeProjectSettings(project_, page_->typed());
+    }
+    void ClosePage() override {
+        page_.reset();
+        project_ = {};
+    }
+    bool HasPage() override { return true; }
+    std::string PageName() override { return "Linux Handheld"; }
+
+private:
+    basic::Ref<vbide::VBProject> project_;
+    std::shared_ptr<LinuxHandheldPage> page_;
+};
+
+} // namespace
+
+basic::Ref<IQLPipeConfiguration> configureLinuxHandheld(const PipeServices&) {
+    return basic::make<LinuxHandheldConfiguration>();
+}
+
+} // namespace qlpipe

@@ -1,0 +1,129 @@
+"""The doctor over installations that are damaged: it names the damage and its cure, and never falls ill itself."""
+import json
+import os
+import random
+import shutil
+import unittest
+
+from support import PROGRAM, ROOT, Home
+
+PARTS = ["Fonts", "Template/Projects/Fernwick Project.vbp", "VB Toolkit/Bin/QLCOMPILE.AVI",
+         "VB Toolkit/Template/Projects/PalmOS-DragonBall.vbp", "VB Toolkit/doc/Quinloft_Error_Codes",
+         "VB Toolkit/doc/Quinloft_Error_Codes.html", "libraries", "maker.toml", "registry/installation.reg",
+         "registry/tavlets.reg", "tavlets", "targets"]
+KEPT = ("VB Toolkit/doc", "VB Toolkit/Samples", "VB Toolkit/Bin", "schemas")
+DEVICES_KEY = r"HKEY_CURRENT_USER\SOFTWARE\Quinloft\AddinPrefs\MyDevices"
+
+
+class Doctor(unittest.TestCase):
+    def setUp(self):
+        self.home = Home()
+        self.home.__enter__()
+        self.addCleanup(self.home.__exit__)
+        self.program = self.home.work / "elsewhere/bin/fernwick"
+        self.installed = self.home.work / "elsewhere/share/fernwick"
+        self.program.parent.mkdir(parents=True)
+        try:
+            os.link(PROGRAM, self.program)
+        except OSError:
+            shutil.copy(PROGRAM, self.program)
+        self.install()
+
+    def install(self):
+        shutil.rmtree(self.installed, ignore_errors=True)
+        shutil.copytree(ROOT / "installation", self.installed, ignore=shutil.ignore_patterns("Samples"))
+
+    def examine(self):
+        done = self.home.run(self.program, "doctor", "--format", "json", text=False)
+        self.assertIn(done.returncode, (0, 3), done.stderr)
+        result = json.loads(done.stdout)
+        self.assertEqual(done.returncode, 0 if result["usable"] else 3)
+        for finding in result["findings"]:
+            self.assertEqual("cure" in finding, finding["state"] != "good", finding)
+            self.assertNotIn("\n", finding["detail"] + finding.get("cure", ""))
+        return result["findings"]
+
+    def troubles(self):
+        return [f"{f['subject']}: {f['detail']}" for f in self.examine() if f["state"] == "trouble"]
+
+    def test_a_whole_installation_is_usable(self):
+        self.assertEqual(self.troubles(), [])
+
+    def test_each_missing_part_is_named(self):
+        for part in PARTS:
+            with self.subTest(part):
+                self.install()
+                path = self.installed / part
+                shutil.rmtree(path) if path.is_dir() else path.unlink()
+                self.assertIn(part, "\n".join(self.troubles()))
+
+    def test_runtimes(self):
+        (self.installed / "VB Toolkit/Runtime/Common/errors.txt").unlink()
+        shutil.rmtree(self.installed / "VB Toolkit/Runtime/PalmOS")
+        found = "\n".join(self.troubles())
+        self.assertIn("target PalmOS-DragonBall: This installation has no runtime for PalmOS", found)
+        self.assertRegex(found, "target PocketPC-ARM: The runtime .* can't be used")
+
+    def test_parts_that_are_something_else(self):
+        for part in ("Fonts", "registry", "targets", "tavlets"):
+            with self.subTest(part):
+                self.install()
+                shutil.rmtree(self.installed / part)
+                (self.installed / part).write_text("a file")
+                self.assertNotEqual(self.troubles(), [])
+
+    def test_damaged_files_never_end_it(self):
+        noise = random.Random(1)
+        for path in sorted(p for p in self.installed.rglob("*") if p.is_file()):
+            if str(path.relative_to(self.installed)).startswith(KEPT):
+                continue
+            whole = path.read_bytes()
+            for damaged in (whole[:len(whole) // 2], whole[:100] + noise.randbytes(300)):
+                with self.subTest(path.name, bytes=len(damaged)):
+                    path.write_bytes(damaged)
+                    self.examine()
+            path.write_bytes(whole)
+
+    def test_stores(self):
+        for place, name in (("config/fernwick", "user"), ("machine", "machine")):
+            with self.subTest(name):
+                folder = self.home.folder / place
+                folder.mkdir(parents=True, exist_ok=True)
+                for damage in (b"no store", b"SQLite format 3\0" + b"x" * 4096):
+                    (folder / f"{name}.sqlite").write_bytes(damage)
+                    self.assertIn(f"{name}'s store", "\n".join(self.troubles()))
+                (folder / f"{name}.sqlite").unlink()
+                (folder / f"{name}.sqlite").mkdir()
+                self.assertIn(f"{name}'s store", "\n".join(self.troubles()))
+                (folder / f"{name}.sqlite").rmdir()
+
+    def test_another_root_dir(self):
+        self.home.run(self.program, "registry", "set", r"HKEY_LOCAL_MACHINE\Software\Quinloft", "RootDir", "/nowhere",
+                      check=True)
+        found = next(f for f in self.examine() if f["subject"] == "RootDir")
+        self.home.run("bash", "-c", found["cure"].replace("fernwick", str(self.program), 1), check=True)
+        self.assertEqual(self.troubles(), [])
+
+    def test_devices_of_ones_own(self):
+        place = self.home.work / "devices"
+        self.home.env["FERNWICK_DEVICES"] = str(place)
+        self.home.run(self.program, "devices", "add", "PalmOS-DragonBall", check=True)
+        self.assertEqual(self.troubles(), [])
+        shutil.rmtree(place)
+        place.write_text("no folder")
+        self.assertRegex("\n".join(self.troubles()), "^device PalmOS-DragonBall: ")
+
+    def test_my_devices_that_are_gone(self):
+        self.home.run(self.program, "devices", "add", "PocketPC-ARM", check=True)
+        (self.installed / "targets/PocketPC-ARM.toml").unlink()
+        found = next(f for f in self.examine() if f["subject"] == "device PocketPC-ARM")
+        self.home.run("bash", "-c", found["cure"].replace("fernwick", str(self.program), 1), check=True)
+        self.assertEqual(self.troubles(), [])
+
+    def test_a_damaged_list_of_devices(self):
+        self.home.run(self.program, "registry", "set", DEVICES_KEY, "MyDeviceCount", "many", check=True)
+        self.examine()
+
+
+if __name__ == "__main__":
+    unittest.main()

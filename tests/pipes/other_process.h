@@ -1,0 +1,40 @@
+#pragma once
+// Work in a process of its own, to be killed or to compete with.
+#include <functional>
+#include <stdexcept>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <utility>
+
+namespace test {
+
+class OtherProcess {
+public:
+    /// `work` answers the exit status.
+    explicit OtherProcess(const std::function<int()>& work) : id_(::fork()) {
+        if (id_ < 0) throw std::runtime_error("no process");
+        if (id_ == 0) ::_exit(work());
+    }
+    OtherProcess(const OtherProcess&) = delete;
+    OtherProcess& operator=(const OtherProcess&) = delete;
+    ~OtherProcess() {
+        if (id_ > 0) wait();
+    }
+
+    /// What waitpid tells.
+    int wait() {
+        int status = 0;
+        ::waitpid(std::exchange(id_, 0), &status, 0);
+        return status;
+    }
+    bool succeeds() {
+        const int status = wait();
+        return WIFEXITED(status) && WEXITSTATUS(status) == 0;
+    }
+    bool wasKilled() { return WIFSIGNALED(wait()); }
+
+private:
+    pid_t id_;
+};
+
+} // namespace test

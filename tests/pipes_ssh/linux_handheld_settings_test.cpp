@@ -1,0 +1,191 @@
+// What users and projects say of a handheld, and the page on which they say it.
+#include "Components/QLPipe/linux_handheld/linux_handheld.h"
+#include "Components/QLPipe/linux_handheld/linux_handheld_settings.h"
+#include "Components/QLPipe/linux_handheld/ssh_messages.h"
+#include "Components/QLPipe/linux_handheld/user_account.h"
+#include "Components/QLPipe/pipe_messages.h"
+#include "tests/pipes/pipe_world.h"
+#include "tests/pipes_ssh/ssh_device.h"
+#include "tests/support/test_host.h"
+
+namespace {
+
+using qlpipe::LinuxHandheldSettings;
+using qlpipe::SshMessage;
+using test::expectError;
+using test::transferErrorOf;
+
+constexpr char kKey[] = "LinuxHandheld-ARM";
+const LinuxHandheldSettings kAll{"pda", "2222", "joe", "~/.ssh/pda", "/opt/apps", "/etc/hosts_known"};
+
+class HandheldSettings : public testing::Test {
+protected:
+    test::TestHost host;
+    basic::Ref<vbide::VBProject> project = host.open(test::SampleProject{});
+};
+
+TEST_F(HandheldSettings, OfAUserAreKeptForEachTarget) {
+    qlpipe::writeUserSettings(host.registry, kKey, kAll);
+    EXPECT_EQ(qlpipe::readUserSettings(host.registry, kKey), kAll);
+    EXPECT_EQ(qlpipe::readUserSettings(host.registry, "LinuxHandheld-MIPS"), LinuxHandheldSettings{});
+}
+
+TEST_F(HandheldSettings, ThatAreTakenBackAreGone) {
+    qlpipe::writeUserSettings(host.registry, kKey, kAll);
+    qlpipe::writeUserSettings(host.registry, kKey, {"other", "", "", "", "", ""});
+    EXPECT_EQ(qlpipe::readUserSettings(host.registry, kKey), (LinuxHandheldSettings{"other", "", "", "", "", ""}));
+    std::uint32_t key = 0;
+    host.registry.RegOpenKeyEx(fernwick::HKEY_CURRENT_USER, "Software\\Quinloft\\Devices\\LinuxHandheld-ARM",
+                               fernwick::KEY_READ, key);
+    fernwick::RegistryKeyInfo info;
+    host.registry.RegQueryInfoKey(key, info);
+    host.registry.RegCloseKey(key);
+    EXPECT_EQ(info.values, 1u);
+}
+
+TEST_F(HandheldSettings, OfAProjectStandInItsFile) {
+    qlpipe::writeProjectSettings(project, kAll);
+    EXPECT_EQ(project->ReadProperty("Quinloft Linux Handheld", "KeyFile"), "~/.ssh/pda");
+    EXPECT_EQ(qlpipe::readProjectSettings(project), kAll);
+}
+
+TEST_F(HandheldSettings, ThatStayTheSameAreNotWritten) {
+    qlpipe::writeProjectSettings(project, {});
+    EXPECT_FALSE(project->IsDirty());
+    EXPECT_EQ(qlpipe::readProjectSettings(project), LinuxHandheldSettings{});
+}
+
+TEST_F(HandheldSettings, OfAProjectGoBeforeTheUsersEachForItself) {
+    const LinuxHandheldSettings ofProject{"", "", "root", "", "games", ""};
+    const auto both = qlpipe::layered(ofProject, kAll);
+    EXPECT_EQ(both, (LinuxHandheldSettings{"pda", "2222", "root", "~/.ssh/pda", "games", "/etc/hosts_known"}));
+}
+
+TEST_F(HandheldSettings, ThatAreNotSetHaveUsualValues) {
+    const auto target = qlpipe::sshTarget({"pda", "", "", "", "", ""}, kKey);
+    EXPECT_EQ(target.host, "pda");
+    EXPECT_EQ(target.port, 22);
+    EXPECT_EQ(target.user, qlpipe::userName());
+    EXPECT_EQ(target.keyFile, "");
+    EXPECT_EQ(target.folder, "fernwick");
+    EXPECT_EQ(target.knownHosts, qlpipe::homeFolder() + "/.ssh/known_hosts");
+    EXPECT_TRUE(target.usualKnownHosts);
+    EXPECT_EQ(target.address(), "pda");
+}
+
+TEST_F(HandheldSettings, ThatAreSetCount) {
+    const auto target = qlpipe::sshTarget(kAll, kKey);
+    EXPECT_EQ(target.address(), "pda:2222");
+    EXPECT_EQ(target.user, "joe");
+    EXPECT_EQ(target.keyFile, qlpipe::homeFolder() + "/.ssh/pda");
+    EXPECT_EQ(target.folder, "/opt/apps");
+    EXPECT_EQ(target.knownHosts, "/etc/hosts_known");
+    EXPECT_FALSE(target.usualKnownHosts);
+}
+
+TEST_F(HandheldSettings, TakeTheFolderBelowTheHomeFolderThere) {
+    for (const char* folder : {"games", "~/games", "games/", "~/games//"})
+        EXPECT_EQ(qlpipe::sshTarget({"pda", "", "", "", folder, ""}, kKey).folder, "games");
+}
+
+TEST_F(HandheldSettings, SayHowToSetTheHost) {
+    const auto error = transferErrorOf([] { (void)qlpipe::sshTarget({}, kKey); });
+    expectError(error, SshMessage::HostNotSet,
+                {"fernwick devices set LinuxHandheld-ARM Host=", "fernwick settings", "Linux Handheld"});
+}
+
+TEST_F(HandheldSettings, RefuseWhatCantBeMeant) {
+    const auto refuse = [](const LinuxHandheldSettings& settings, const std::vector<std::string>& words) {
+        expectError(transferErrorOf([&] { (void)qlpipe::sshTarget(settings, kKey); }), SshMessage::SettingInvalid,
+                    words);
+    };
+    for (const char* port : {"0", "65536", "-1", "22x", "ssh", " 22", "99999999999"})
+        refuse({"pda", port, "", "", "", ""}, {"Port", port, "1 to 65535"});
+    for (const char* host : {"a b", "me@pda", "'; rm -rf ~", "a/b", "-oProxyCommand=x"})
+        refuse({host, "", "", "", "", ""}, {"Host", host});
+    refuse({"pda", "", "$(id)", "", "", ""}, {"User"});
+    for (const char* folder : {"/", "~", ".", "~/"}) refuse({"pda", "", "", "", folder, ""}, {"Folder"});
+}
+
+/// The page as the settings dialog uses it.
+class HandheldPage : public HandheldSettings {
+protected:
+    basic::Ref<qlpipe::IQLPipePage> open() { return configuration->CreatePage(project, 0, 0); }
+    void type(const std::string& key, const std::string& value) {
+        for (auto& setting : page->Settings())
+            if (setting.Key == key) setting.Value = value;
+    }
+
+    test::PipeWorld world;
+    basic::Ref<qlpipe::IQLPipeConfiguration> configuration =
+        world.create<qlpipe::IQLPipeConfiguration>("QLPipeLinux.Configuration");
+    basic::Ref<qlpipe::IQLPipePage> page = open();
+};
+
+TEST_F(HandheldPage, HasAFieldForEachSetting) {
+    EXPECT_TRUE(configuration->HasPage());
+    EXPECT_EQ(configuration->PageName(), "Linux Handheld");
+    std::vector<std::string> keys;
+    for (const auto& setting : page->Settings()) {
+        EXPECT_EQ(setting.Section, "Quinloft Linux Handheld");
+        EXPECT_NE(setting.Caption, "");
+        keys.push_back(setting.Key);
+    }
+    EXPECT_THAT(keys, testing::ElementsAre("Host", "Port", "User", "KeyFile", "Folder", "KnownHosts"));
+}
+
+TEST_F(HandheldPage, StoresWhatWasTypedWhenItIsApplied) {
+    type("Host", "pda");
+    EXPECT_EQ(qlpipe::readProjectSettings(project), LinuxHandheldSettings{});
+    EXPECT_TRUE(configuration->ValidatePage());
+    configuration->ApplyPage();
+    EXPECT_EQ(project->ReadProperty("Quinloft Linux Handheld", "Host"), "pda");
+    page = open();
+    EXPECT_EQ(page->Settings().front().Value, "pda");
+}
+
+TEST_F(HandheldPage, RefusesWhatNoTransferWouldTake) {
+    type("Port", "ssh");
+    EXPECT_FALSE(configuration->ValidatePage());
+    type("Port", "2222");
+    EXPECT_TRUE(configuration->ValidatePage());
+    type("KeyFile", "a\nb");
+    EXPECT_FALSE(configuration->ValidatePage());
+}
+
+TEST_F(HandheldPage, ShowsAndHidesItself) {
+    EXPECT_FALSE(page->Visible());
+    configuration->ShowPage();
+    EXPECT_TRUE(page->Visible());
+    configuration->HidePage();
+    EXPECT_FALSE(page->Visible());
+}
+
+TEST_F(HandheldPage, DoesNothingWhenItIsClosed) {
+    type("Host", "pda");
+    configuration->ClosePage();
+    configuration->ApplyPage();
+    configuration->ShowPage();
+    EXPECT_TRUE(configuration->ValidatePage());
+    EXPECT_EQ(qlpipe::readProjectSettings(project), LinuxHandheldSettings{});
+    EXPECT_FALSE(configuration->CreatePage({}, 0, 0));
+}
+
+TEST(SshMessages, AreWholeAndInOrder) {
+    std::int32_t last = 20299;
+    for (const auto& message : qlpipe::sshMessages()) {
+        EXPECT_GT(message.number, last);
+        EXPECT_LT(message.number, 20400);
+        EXPECT_TRUE(message.isError);
+        EXPECT_FALSE(message.text.empty() || message.meaning.empty() || message.remedy.empty()) << message.number;
+        EXPECT_EQ(qlpipe::messageText(message.number), message.text);
+        last = message.number;
+    }
+}
+
+TEST(SshMessages, ShowNoControlCharactersOfADevice) {
+    EXPECT_EQ(qlpipe::saidByDevice("a\x1B[31mb\n\x7F"), "a?[31mb??");
+    EXPECT_EQ(qlpipe::saidByDevice(std::string(1000, 'x')).size(), 200u);
+}
+
+} // namespace
