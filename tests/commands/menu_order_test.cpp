@@ -121,8 +121,8 @@ TEST_F(MenuOrder, WhatAFailureLeftIsReplacedByTheNextBuild) {
         EXPECT_TRUE(error.Number == 0 || error.Number == test::kInjected) << failing;
         EXPECT_TRUE(build());
         EXPECT_EQ(captions(menu()), whole) << failing;
-        EXPECT_LE(menuBar()->items.size(), 5U) << failing; // a menu that never got its caption may be left
-        std::erase_if(menuBar()->items, [](const auto& item) { return item->caption.empty(); });
+        // what could not be deleted, or never got its caption, is left
+        std::erase_if(menuBar()->items, [](const auto& item) { return item->Id() == 1; });
     }
 }
 
