@@ -144,6 +144,12 @@ TEST_F(Commands, WhatIsNotHereYetSaysSo) {
         EXPECT_THAT(click(item), ElementsAre(kNotHere));
 }
 
+TEST_F(Commands, TheHourglassEndsWhereNoDialogComes) {
+    connected();
+    click(items().gSettingsItem);
+    EXPECT_THAT(trace.effects, ElementsAre("cursor 11", "cursor 1", kNotHere));
+}
+
 TEST_F(Commands, AtTheCommandLineNothingSaysSo) {
     host.open(hello());
     connect(vbide::vbext_cm_CommandLine);

@@ -13,6 +13,7 @@ CommandSurface::Control CommandSurface::saveProjectItem() {
 
 void CommandSurface::notInThisBuild() {
     if (addIn_.gConnectMode == vbide::vbext_cm_CommandLine) return;
+    user_.SetCursor(vbArrow); // commands that open a dialog wait for it with an hourglass
     user_.MsgBox(connect_texts::kNotInThisBuild, vbInformation, connect_texts::kTitle);
 }
 
