@@ -39,8 +39,20 @@ Machine::Machine(Console& console, CommandLineUser& user, host::Processes::Permi
       classes_(registry_),
       processes_(std::move(mayRun), wasInterrupted),
       shell_(files_, [&console](const std::string& document) { console.err(document); }),
-      platform_{user,         loop_,      registry_, files_,  processes_, classes_,
-                environment_, clipboard_, shell_,    screen_, clock_,     appOf(installation_, programFolder())} {
+      resources_(files_, installation_),
+      platform_{user,
+                loop_,
+                registry_,
+                files_,
+                processes_,
+                classes_,
+                environment_,
+                clipboard_,
+                shell_,
+                screen_,
+                clock_,
+                resources_,
+                appOf(installation_, programFolder())} {
     registerComponents();
 }
 

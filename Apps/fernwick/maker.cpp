@@ -20,6 +20,7 @@ fernwick::App appOf(const std::string& installation, const std::string& programF
     const auto maker = makerOf(installation);
     app.SupportWebAddress = maker["support"].value_or(std::string());
     app.WebAddress = maker["web"].value_or(std::string());
+    app.RuntimeWebAddress = maker["runtime_download"].value_or(std::string());
     return app;
 }
 

@@ -52,6 +52,7 @@ Session::Session(const Options& options, Console& console)
     hostOptions.templatePath = machine_.installation().empty() ? "" : machine_.installation() + "/Template";
     hostOptions.registry = &machine_.registry();
     hostOptions.classes = &machine_.classes();
+    hostOptions.clipboard = &machine_.clipboard();
     hostOptions.controlClasses = [this](const std::string& name) { return controls_.find(name); };
     hostOptions.classOfProgId = [this](const std::string& progId) { return controls_.classOfProgId(progId); };
     hostOptions.handlerFailed = [&console](const basic::ErrObject& error) {

@@ -84,8 +84,9 @@ protected:
     test::NoShell shell;
     test::FixedScreen screen;
     test::FixedClock clock;
-    fernwick::Platform platform{user,        loop,      host.registry, files,  processes, classes,
-                                environment, clipboard, shell,         screen, clock,     {}};
+    test::NoResources resources;
+    fernwick::Platform platform{user,      loop,  host.registry, files, processes, classes, environment,
+                                clipboard, shell, screen,        clock, resources, {}};
     test::FakeTargets targets{classes};
     basic::Ref<test::FakeCompiler> compiler = basic::make<test::FakeCompiler>(trace);
     std::shared_ptr<void> compilerClass = classes.RegisterClass(
