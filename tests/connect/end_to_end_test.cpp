@@ -39,16 +39,6 @@ protected:
         sample.form("Form1", "Sub Form_Load()\r\n    Oops\r\nEnd Sub\r\n").startup("Form1").handheld("Palm-1");
         return sample.sections("LastCompileVersion=3.5.0 (0624)\r\nAutoSaveProject=True\r\n");
     }
-    /// Template folders, of which saving asks whether the project lies in them.
-    void installTemplates() {
-        host.folder.write("Template/Projects/Standard.vbp", "");
-        host.folder.write("VB Toolkit/Template/Projects/Fernwick Project.vbp", "");
-        std::uint32_t key = 0, disposition = 0;
-        host.registry.RegCreateKeyEx(fernwick::HKEY_LOCAL_MACHINE, "Software\\Quinloft", fernwick::KEY_ALL_ACCESS, key,
-                                     disposition);
-        host.registry.RegSetValueEx(key, "RootDir", fernwick::REG_SZ, host.folder.path() + '\0');
-        host.registry.RegCloseKey(key);
-    }
     void failAt(const std::string& file, int line) {
         compiler->built = compiler->finished = false;
         compiler->work = [=, this](test::FakeCompiler& c) {
