@@ -14,6 +14,8 @@ public:
 
     /// The host, kept from the connection on.
     basic::Ref<vbide::VBE> gVBInstance;
+    /// How the host connected us. At the command line there is nobody to tell what a click would have done.
+    vbide::vbext_ConnectMode gConnectMode = vbide::vbext_cm_CommandLine;
     /// Keeps the host and publishes its address for the sibling add-ins of the process. No trap.
     void SaveVBinstPointer(const basic::Ref<vbide::VBE>& VBInst);
 

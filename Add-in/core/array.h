@@ -27,6 +27,13 @@ public:
         if (count > kMostElements) throw basic::RuntimeError(basic::kOutOfMemory);
         *this = Array(lower, std::vector<T>(std::size_t(count)));
     }
+    /// One element more; all that stand stay. The first one of an array that is not allocated stands at 0. Error 7 as
+    /// above.
+    void Append(T element) {
+        if (elements_.size() >= std::size_t(kMostElements)) throw basic::RuntimeError(basic::kOutOfMemory);
+        elements_.push_back(std::move(element));
+        allocated_ = true;
+    }
     bool isAllocated() const { return allocated_; }
     std::int32_t LBound() const {
         requireAllocated();

@@ -2,6 +2,7 @@
 // Preferences of the user and of the machine, each a registry value. They are read on demand and written at once.
 #include "Add-in/core/modRegistry2.h"
 #include "Add-in/core/procedure.h"
+#include "Add-in/platform/command_bars.h"
 #include "Basic/collection.h"
 
 namespace fernwick {
@@ -41,6 +42,11 @@ public:
     /// where none are stored.
     bool CreateTavletCategoryList(basic::Collection<std::string>& namesByData,
                                   basic::Collection<std::string>& dataByName);
+
+    /// Where a toolbar stands and whether it shows, stored under its name.
+    void SaveToolbarState(const basic::Ref<office::CommandBar>& bar);
+    /// False at the first value that is not stored as a text: those behind it are left out, what was set stays set.
+    bool ReadToolbarState(const basic::Ref<office::CommandBar>& bar);
 
 private:
     void readMyDevices(std::uint32_t key);

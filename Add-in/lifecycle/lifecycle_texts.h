@@ -9,4 +9,9 @@ inline constexpr char kDeviceNotInstalled[] = " support is not installed or regi
 inline constexpr char kSaveBeforeManager[] = "Save project before opening Fernwick project manager?";
 inline constexpr char kManagerWillNotOpen[] = "Project failed to save, Fernwick project manager will not open.";
 
+/// The support address stands behind it.
+inline constexpr char kSampleError[] = "There was an error in the samples menu, please contact support at ";
+inline constexpr char kSaveBeforeSample[] = "Save the current project before opening another project?";
+inline constexpr char kSampleWillNotOpen[] = "There was an error saving the project, the sample cannot be opened.";
+
 } // namespace fernwick::lifecycle_texts

@@ -4,7 +4,11 @@
 
 namespace fernwick {
 
-/// The clipboard, in all the formats that its owner offers.
+/// The format of pictures: a BMP file's bytes.
+inline constexpr char kPictureFormat[] = "image/bmp";
+
+/// The clipboard, in all the formats that its owner offers. All members raise error 521 while another program keeps
+/// it from being opened.
 class Clipboard {
 public:
     virtual ~Clipboard() = default;

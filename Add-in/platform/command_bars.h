@@ -11,6 +11,13 @@ using basic::Ref;
 using fernwick::Object;
 
 enum MsoControlType : int { msoControlButton = 1, msoControlPopup = 10 };
+enum MsoButtonStyle : int {
+    msoButtonAutomatic = 0,
+    msoButtonIcon = 1,
+    msoButtonCaption = 2,
+    msoButtonIconAndCaption = 3
+};
+enum MsoBarPosition : int { msoBarLeft = 0, msoBarTop = 1, msoBarRight = 2, msoBarBottom = 3, msoBarFloating = 4 };
 
 class CommandBarControls;
 class CommandBar;
@@ -34,6 +41,11 @@ public:
     virtual void Enabled(bool enabled) = 0;
     virtual bool Visible() const = 0;
     virtual void Visible(bool visible) = 0;
+    /// What a button shows; error 438 for a popup.
+    virtual MsoButtonStyle Style() const = 0;
+    virtual void Style(MsoButtonStyle style) = 0;
+    /// Takes the picture on the clipboard for the button's face. Error 5 when there is none, 438 for a popup.
+    virtual void PasteFace() = 0;
     virtual Ref<CommandBar> Parent() const = 0;
     /// The items of a popup; error 438 for a button.
     virtual Ref<CommandBarControls> Controls() = 0;
@@ -77,7 +89,7 @@ public:
 
 class CommandBars : public Object {
 public:
-    /// Error 5 for a name that is not there.
+    /// A toolbar, or a menu of the host's own. Error 5 for a name that is not there.
     virtual Ref<CommandBar> Item(const std::string& name) const = 0;
     virtual std::vector<Ref<CommandBar>> items() const = 0;
     virtual Ref<CommandBar> ActiveMenuBar() const = 0;

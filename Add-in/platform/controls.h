@@ -43,7 +43,17 @@ class Label : public Control {
 public:
     Label(Form* form, std::string name, std::string caption = {})
         : Control(form, std::move(name)), Caption(this, std::move(caption)) {}
+    /// One that may be clicked, as a link.
+    template <class F>
+    Label(F* form, std::string name, std::string caption, void (F::*click)())
+        : Label(form, std::move(name), std::move(caption)) {
+        own_ = Click.connect([form, click] { (form->*click)(); });
+    }
     Property<std::string> Caption;
+    Event<> Click;
+
+private:
+    Subscription own_;
 };
 
 /// Value runs from Min to Max: percent, where nobody says otherwise.

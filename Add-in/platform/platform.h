@@ -9,6 +9,7 @@
 #include "Add-in/platform/interaction.h"
 #include "Add-in/platform/processes.h"
 #include "Add-in/platform/registry.h"
+#include "Add-in/platform/resources.h"
 #include "Add-in/platform/screen.h"
 #include "Add-in/platform/shell.h"
 
@@ -21,6 +22,8 @@ struct App {
     std::string Path;
     std::string SupportWebAddress;
     std::string WebAddress;
+    /// The page that the runtime is downloaded from.
+    std::string RuntimeWebAddress;
 };
 
 struct Platform {
@@ -35,6 +38,7 @@ struct Platform {
     Shell& shell;
     Screen& screen;
     Clock& clock;
+    Resources& resources;
     App app;
 };
 

@@ -7,6 +7,7 @@ host::HostOptions hostOptionsOf(Machine& machine, InstalledControls& controls) {
     options.templatePath = machine.installation().empty() ? "" : machine.installation() + "/Template";
     options.registry = &machine.registry();
     options.classes = &machine.classes();
+    options.clipboard = &machine.clipboard();
     options.controlClasses = [&controls](const std::string& name) { return controls.find(name); };
     options.classOfProgId = [&controls](const std::string& progId) { return controls.classOfProgId(progId); };
     return options;

@@ -36,8 +36,20 @@ Machine::Machine(FrontEnd front)
       classes_(registry_),
       processes_(std::move(front.mayRun), std::move(front.interrupted)),
       shell_(files_, std::move(front.tell)),
-      platform_{front.user,   front.loop,      registry_, files_,  processes_, classes_,
-                environment_, front.clipboard, shell_,    screen_, clock_,     appOf(installation_, programFolder())} {
+      resources_(files_, installation_),
+      platform_{front.user,
+                front.loop,
+                registry_,
+                files_,
+                processes_,
+                classes_,
+                environment_,
+                front.clipboard,
+                shell_,
+                screen_,
+                clock_,
+                resources_,
+                appOf(installation_, programFolder())} {
     registerComponents();
 }
 

@@ -9,6 +9,7 @@
 #include "Host/system/environment.h"
 #include "Host/system/file_system.h"
 #include "Host/system/processes.h"
+#include "Host/system/resources.h"
 #include "Host/system/screen.h"
 #include "Host/system/shell.h"
 
@@ -35,6 +36,7 @@ public:
     fernwick::Platform& platform() { return platform_; }
     host::RegistryStore& registry() { return registry_; }
     host::Classes& classes() { return classes_; }
+    const fernwick::Clipboard& clipboard() const { return platform_.clipboard; }
     const std::string& installation() const { return installation_; }
     /// What the last build did.
     const compiler::BuildRecord& build() const { return *build_; }
@@ -57,6 +59,7 @@ private:
     host::Processes processes_;
     host::Shell shell_;
     host::Screen screen_;
+    host::Resources resources_;
     std::shared_ptr<compiler::BuildRecord> build_ = std::make_shared<compiler::BuildRecord>();
     std::shared_ptr<qlpipe::TransferRecord> transfers_ = std::make_shared<qlpipe::TransferRecord>();
     std::vector<std::shared_ptr<void>> registered_;

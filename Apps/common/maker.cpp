@@ -1,5 +1,4 @@
 #include "Apps/common/maker.h"
-#include <fmt/format.h>
 #include <toml++/toml.h>
 
 namespace apps {
@@ -21,20 +20,12 @@ fernwick::App appOf(const std::string& installation, const std::string& programF
     const auto maker = makerOf(installation);
     app.SupportWebAddress = maker["support"].value_or(std::string());
     app.WebAddress = maker["web"].value_or(std::string());
+    app.RuntimeWebAddress = maker["runtime_download"].value_or(std::string());
     return app;
 }
 
 std::string messagePagesOf(const std::string& installation) {
     return makerOf(installation)["messages"].value_or(std::string());
-}
-
-std::string makerProblem(const std::string& installation) {
-    try {
-        (void)toml::parse_file(installation + "/maker.toml");
-        return {};
-    } catch (const toml::parse_error& error) {
-        return fmt::format("{}/maker.toml:{}: {}", installation, error.source().begin.line, error.description());
-    }
 }
 
 } // namespace apps

@@ -10,7 +10,4 @@ fernwick::App appOf(const std::string& installation, const std::string& programF
 /// The maker's address below which each message has its page, with "/" at its end; "" where none is known.
 std::string messagePagesOf(const std::string& installation);
 
-/// What is wrong with that file, with its line; "" for nothing.
-std::string makerProblem(const std::string& installation);
-
 } // namespace apps

@@ -19,6 +19,11 @@ constexpr std::array kQuestions{
              "convert forms from another screen resolution?"},
     Question{"copy-file", "", "All dependency files must exist in the project folder.", Reply::No,
              "copy a dependency into the project's folder?"},
+    Question{"missing-file", "", "ERROR: Missing ", Reply::No, "a dependency or font file is missing: continue?"},
+    Question{"edit-list", "", "One or more of the specified dependency files are invalid", Reply::No,
+             "edit the project's dependencies?"},
+    Question{"deploy-errors", "", "This project has compile errors. Would you still like to deploy?", Reply::No,
+             "the project has compile errors: deploy the old image?"},
     Question{"replace-file", "", " already exists.  Do you want to replace it?", Reply::No, "replace a file?"},
 };
 

@@ -102,7 +102,9 @@ void printOutcomes(const Report& report, const std::string& done, bool list, con
                         message.isError ? Tone::Error : Tone::Warning);
     if (list) return printTable(report, done, console);
     const auto& outcome = report.devices.front();
-    if (!outcome.statusText.empty()) console.out(outcome.statusText + "\n");
+    // a run that ended early leaves the words of the last good one
+    const bool boasts = !outcome.good && outcome.statusText.starts_with("SUCCESS");
+    if (!outcome.statusText.empty() && !boasts) console.out(outcome.statusText + "\n");
     if (outcome.good && options.verbosity != Verbosity::Quiet) printPlaces(outcome, done, console);
     if (!outcome.good) console.err(fmt::format("fernwick: {}: {}", outcome.device, outcome.reason), Tone::Error);
 }

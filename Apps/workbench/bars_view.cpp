@@ -2,6 +2,7 @@
 #include "Apps/workbench/command_icons.h"
 #include "Apps/workbench/text.h"
 #include <QAction>
+#include <QBitmap>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
@@ -45,6 +46,31 @@ void setActions(QWidget& widget, const QList<QAction*>& wanted, const QList<bool
     }
 }
 
+/// The grey that stands for nothing in a face.
+const QColor kFaceGround(192, 192, 192);
+
+QIcon faceOf(const host::BarControl& control) {
+    QImage face;
+    if (!face.loadFromData(QByteArray::fromStdString(control.face()), "BMP")) return iconOf(control.Id());
+    auto picture = QPixmap::fromImage(face);
+    picture.setMask(picture.createMaskFromColor(kFaceGround.rgb()));
+    return picture;
+}
+
+void showFace(QAction& action, const host::BarControl& control) {
+    action.setIcon(faceOf(control));
+    action.setIconVisibleInMenu(control.Style() != office::msoButtonCaption);
+}
+
+Qt::ToolBarArea areaOf(int position) {
+    switch (position) {
+    case office::msoBarLeft: return Qt::LeftToolBarArea;
+    case office::msoBarRight: return Qt::RightToolBarArea;
+    case office::msoBarBottom: return Qt::BottomToolBarArea;
+    default: return Qt::TopToolBarArea;
+    }
+}
+
 } // namespace
 
 BarsView::BarsView(host::Bars& bars, QMainWindow& window, Run run)
@@ -76,7 +102,8 @@ void BarsView::drawBar(host::Bar& bar) {
         return fill(*window_.menuBar(), bar);
     auto& toolBar = toolBars_[&bar];
     if (!toolBar) {
-        toolBar = window_.addToolBar(qt(bar.Name()));
+        toolBar = new QToolBar(qt(bar.Name()));
+        window_.addToolBar(areaOf(bar.Position()), toolBar);
         toolBar->setObjectName(qt(bar.Name()));
         toolBar->setIconSize({16, 16});
     }
@@ -103,6 +130,7 @@ QAction* BarsView::actionOf(const std::shared_ptr<host::BarControl>& control) {
     const auto caption = qt(control->Caption());
     action->setText(caption);
     action->setToolTip(control->ToolTipText().empty() ? withoutMnemonic(caption) : qt(control->ToolTipText()));
+    if (drawn.button) showFace(*action, *control);
     action->setEnabled(control->Enabled());
     action->setVisible(control->Visible() && (!drawn.popup || showsAnything(*control->popup())));
     if (drawn.popup) fill(*drawn.popup, *control->popup());
@@ -125,7 +153,6 @@ void BarsView::makeButton(Drawn& drawn, const std::shared_ptr<host::BarControl>&
     const auto all = bars_.items();
     const bool isInToolbar = std::find(all.begin(), all.end(), bar) != all.end();
     if (!isInToolbar) drawn.button->setShortcut(shortcutOf(control->Id()));
-    drawn.button->setIcon(iconOf(control->Id()));
     QObject::connect(drawn.button.get(), &QAction::triggered, [this, link = std::weak_ptr(control)] {
         if (const auto clicked = link.lock()) run_([&] { clicked->Execute(); });
     });

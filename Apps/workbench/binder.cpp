@@ -3,6 +3,7 @@
 #include "Apps/workbench/pictures.h"
 #include "Apps/workbench/text.h"
 #include <QCheckBox>
+#include <QEvent>
 #include <QLabel>
 #include <QListWidget>
 #include <QProgressBar>
@@ -43,7 +44,25 @@ void bindCheckBox(CheckBox& control, QCheckBox& widget, Binding& binding) {
                      [&](bool ticked) { binding.act([&] { control.Value(ticked ? 1 : 0); }); });
 }
 
+/// Has a label clicked as a link.
+class ClickedLabel final : public QObject {
+public:
+    ClickedLabel(QLabel& widget, std::function<void()> clicked) : QObject(&widget), clicked_(std::move(clicked)) {
+        widget.installEventFilter(this);
+        widget.setCursor(Qt::PointingHandCursor);
+        widget.setForegroundRole(QPalette::Link);
+    }
+
+private:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::MouseButtonRelease) clicked_();
+        return false;
+    }
+    std::function<void()> clicked_;
+};
+
 void bindLabel(fernwick::Label& control, QLabel& widget, Binding& binding) {
+    if (control.Click.hasHandlers()) new ClickedLabel(widget, [&] { binding.act([&] { control.Click.raise(); }); });
     widget.setTextFormat(Qt::PlainText);
     binding.show(control.Caption, [&widget](const std::string& caption) { widget.setText(qt(caption)); });
 }

@@ -21,9 +21,13 @@ std::shared_ptr<BarControl> findControlIn(const Bar& bar, int id) {
     return nullptr;
 }
 
+/// The id of a control that an add-in has made.
+constexpr int kOwnControl = 1;
+
+/// One of the host's own menus. A popup that an add-in made is not found by its name: a toolbar may bear the same.
 std::shared_ptr<Bar> findBarIn(const Bar& bar, const std::string& name) {
     for (const auto& control : bar.list()) {
-        if (!control->popup()) continue;
+        if (!control->popup() || control->Id() == kOwnControl) continue;
         if (basic::equalNoCase(control->popup()->Name(), name)) return control->popup();
         if (auto found = findBarIn(*control->popup(), name)) return found;
     }
@@ -134,6 +138,32 @@ void BarControl::Visible(bool visible) {
     tell();
 }
 
+void BarControl::checkButton() const {
+    check();
+    if (popup_) throw hostError(basic::kPropertyOrMethodNotSupported);
+}
+
+office::MsoButtonStyle BarControl::Style() const {
+    checkButton();
+    return style_;
+}
+
+void BarControl::Style(office::MsoButtonStyle style) {
+    checkButton();
+    style_ = style;
+    tell();
+}
+
+void BarControl::PasteFace() {
+    checkButton();
+    const auto bar = parent_.lock();
+    const auto bars = bar ? bar->bars() : nullptr;
+    const auto picture = bars && bars->clipboard ? bars->clipboard->GetData(fernwick::kPictureFormat) : std::string();
+    if (picture.empty()) throw hostError(basic::kInvalidProcedureCall);
+    face_ = picture;
+    tell();
+}
+
 office::Ref<office::CommandBar> BarControl::Parent() const {
     check();
     return parent_.lock();
@@ -190,7 +220,6 @@ std::vector<office::Ref<office::CommandBarControl>> BarItems::items() const {
 }
 
 office::Ref<office::CommandBarControl> BarItems::Add(office::MsoControlType type, int before) {
-    constexpr int kOwnControl = 1;
     if (before < 0 || before > Count()) throw hostError(basic::kInvalidProcedureCall);
     return bar()->add(type, kOwnControl, before);
 }

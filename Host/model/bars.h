@@ -1,5 +1,6 @@
 #pragma once
 // Menus and toolbars as a model; a front end may draw them.
+#include "Add-in/platform/clipboard.h"
 #include "Add-in/platform/command_bars.h"
 #include "Add-in/platform/host_events.h"
 #include <functional>
@@ -32,6 +33,9 @@ public:
     void Enabled(bool enabled) override;
     bool Visible() const override;
     void Visible(bool visible) override;
+    office::MsoButtonStyle Style() const override;
+    void Style(office::MsoButtonStyle style) override;
+    void PasteFace() override;
     office::Ref<office::CommandBar> Parent() const override;
     office::Ref<office::CommandBarControls> Controls() override;
     void Delete() override;
@@ -42,6 +46,8 @@ public:
     std::function<void()> action;
     /// Told of what a handler of the click lets out.
     std::function<void(const basic::ErrObject&)> handlerFailed;
+    /// The picture on a button as a BMP file's bytes; "" for none.
+    const std::string& face() const { return face_; }
     const std::shared_ptr<Bar>& popup() const { return popup_; }
     const office::Ref<vbide::CommandBarEvents>& events() const { return events_; }
     void remove() { removed_ = true; }
@@ -49,12 +55,14 @@ public:
 private:
     void check() const;
     void tell() const;
+    void checkButton() const;
 
     office::MsoControlType type_;
     int id_;
     std::weak_ptr<Bar> parent_;
     std::shared_ptr<Bar> popup_;
-    std::string caption_, tag_, toolTip_;
+    std::string caption_, tag_, toolTip_, face_;
+    office::MsoButtonStyle style_ = office::msoButtonAutomatic;
     bool beginGroup_ = false, enabled_ = true, visible_ = true, removed_ = false;
     office::Ref<vbide::CommandBarEvents> events_ = basic::make<vbide::CommandBarEvents>();
 };
@@ -136,6 +144,8 @@ public:
     std::function<void(const basic::ErrObject&)> handlerFailed;
     /// Told after each change of a bar or a control, for a front end that draws them.
     fernwick::Event<> changed;
+    /// Where faces are pasted from; there may be none.
+    const fernwick::Clipboard* clipboard = nullptr;
 
 private:
     std::vector<std::shared_ptr<Bar>> list_;

@@ -43,6 +43,7 @@ std::shared_ptr<Host> Host::create(HostOptions options) {
     host->bars_->handlerFailed = [link = host->weak_from_this()](const basic::ErrObject& error) {
         if (const auto alive = link.lock()) alive->handlerFailed(error);
     };
+    host->bars_->clipboard = host->options_.clipboard;
     addHostMenus(*host->bars_, commandsOf(host));
     return host;
 }

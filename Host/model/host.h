@@ -1,6 +1,7 @@
 #pragma once
 // The host: an IDE without its window. It owns everything; what a front end needs of it stands here.
 #include "Add-in/platform/classes.h"
+#include "Add-in/platform/clipboard.h"
 #include "Add-in/platform/host.h"
 #include "Add-in/platform/registry.h"
 #include "Basic/code_page.h"
@@ -33,6 +34,8 @@ struct HostOptions {
     fernwick::Registry* registry = nullptr;
     /// Makes the documents of tool windows.
     fernwick::Classes* classes = nullptr;
+    /// Where buttons take their faces from.
+    const fernwick::Clipboard* clipboard = nullptr;
     /// The properties of a control class that is not the language's own, and the class of a ProgID; see DesignerHooks.
     std::function<std::shared_ptr<const ControlClass>(const std::string& className)> controlClasses;
     std::function<std::string(const std::string& progId)> classOfProgId;

@@ -18,6 +18,8 @@ class Screen : public fernwick::Screen {
 public:
     float TwipsPerPixelX() const override { return 15; }
     float TwipsPerPixelY() const override { return 15; }
+    /// The grey of dialogs: there is no desktop whose colours we could take.
+    fernwick::Color GetSysColor(fernwick::SysColorIndex) const override { return fernwick::RGB(192, 192, 192); }
     bool FontFamilyExists(const std::string& name) const override;
 
 private:

@@ -46,8 +46,8 @@ protected:
 
     test::TestHost host;
     host::FileSystem disk;
-    fernwick::Platform diskPlatform{user,        loop,      registry, disk,   processes, classes,
-                                    environment, clipboard, shell,    screen, clock,     {}};
+    fernwick::Platform diskPlatform{user,      loop,  registry, disk,  processes, classes, environment,
+                                    clipboard, shell, screen,   clock, resources, {}};
     fernwick::modQLInstallInfo diskInstall{registry2, disk};
     fernwick::ProjectServices services{errors, diskPlatform, diskInstall, addIn, devices, templates};
     fernwick::modDependencyManagement onDisk{{diskPlatform, errors, diskInstall, messages, commands}};

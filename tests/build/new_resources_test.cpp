@@ -1,4 +1,5 @@
 // Files that the user adds to a project's dependencies.
+#include "Basic/text_search.h"
 #include "compile_world.h"
 
 using fernwick::tResource;
@@ -9,6 +10,8 @@ namespace {
 
 constexpr char kCopyQuestion[] = "box 36 Fernwick: All dependency files must exist in the project folder.\r\n\r\n"
                                  "Would you like to copy\r\n/media/b.wav\r\nto\r\n/p ?";
+
+std::string partedByNul(const std::vector<std::string>& names) { return basic::Join(names, std::string(1, '\0')); }
 
 class NewResources : public testing::Test, protected test::CompileWorld {
 protected:
@@ -88,16 +91,14 @@ TEST_F(NewResources, OneChosenFileComesAsItsPath) {
 
 TEST_F(NewResources, SeveralComeAsTheirFolderAndNames) {
     files.files["/p/Media/c.png"] = {"1"};
-    const std::string folderAndNames("/p/Media\0a.bmp\0gone.bmp\0c.png\0a.bmp", 38);
-    EXPECT_THAT(choose(folderAndNames),
+    EXPECT_THAT(choose(partedByNul({"/p/Media", "a.bmp", "gone.bmp", "c.png", "a.bmp"})),
                 ElementsAre(tResource{"Media\\a.bmp", "BMP", 5}, tResource{"Media\\c.png", "PNG", 1}));
 }
 
 TEST_F(NewResources, OneThatTheUserDoesNotCopyIsLeftOutOfSeveral) {
     files.files["/media/a.bmp"] = {"1"};
     user.answers = {fernwick::vbNo, fernwick::vbYes};
-    const std::string folderAndNames("/media\0a.bmp\0b.wav", 18);
-    EXPECT_THAT(choose(folderAndNames), ElementsAre(tResource{"b.wav", "WAV", 3}));
+    EXPECT_THAT(choose(partedByNul({"/media", "a.bmp", "b.wav"})), ElementsAre(tResource{"b.wav", "WAV", 3}));
 }
 
 TEST_F(NewResources, ADialogThatFailsIsReportedAndChoosesNothing) {

@@ -36,8 +36,24 @@ struct ConnectWorld : LifecycleWorld {
 
     fernwick::CommandItems items;
     Ref<TracedAddIn> self = vbe->addins->list.front();
+    fernwick::modDependencyManagement dependencies{{platform, errors, install, messages, commands}};
+    fernwick::modProcessControl steps{errors, platform};
+    fernwick::frmSaveProjectFiles saveFiles{user, addIn};
+    fernwick::frmCompileWarning compileWarning{user, prefs, errors};
+    fernwick::frmCompile compile{
+        {platform, errors, registry2, install, projects, messages, dependencies, steps, saveFiles, commands}};
+    fernwick::frmValidate validate{{platform, errors, registry2, install, services, deviceServices, messages, compile}};
+    fernwick::PipeServices pipes{platform, errors, install, devices};
+    fernwick::frmSendToDevice send{
+        pipes, {addIn, prefs, projects, messages, dependencies, compile, compileWarning, validate, commands}};
+    fernwick::frmSendRuntimeToDevice sendRuntime{pipes};
+    fernwick::modViewConvertManagement tools{shell, install, errors};
+    fernwick::modHelpManagement help{platform, install, errors};
+    fernwick::frmAbout about{platform, errors};
+    fernwick::SampleOpening samples{{platform, errors, addIn, save, commands}};
     Ref<fernwick::Connect> connection = basic::make<fernwick::Connect>(fernwick::ConnectServices{
-        platform, errors, prefs, addIn, references, devices, items, projects, messages, removal, setup, commands});
+        platform, errors,   prefs,   addIn,   references, devices,     items, projects, messages, removal,
+        setup,    commands, install, compile, send,       sendRuntime, tools, help,     about,    samples});
 };
 
 } // namespace test

@@ -74,8 +74,9 @@ protected:
     test::NoShell shell;
     test::FixedScreen screen;
     test::FixedClock clock;
-    fernwick::Platform platform{user,        loop,      host.registry, files,  processes, classes,
-                                environment, clipboard, shell,         screen, clock,     {}};
+    test::NoResources resources;
+    fernwick::Platform platform{user,      loop,  host.registry, files, processes, classes, environment,
+                                clipboard, shell, screen,        clock, resources, {}};
     test::FakeTargets targets{classes};
     basic::Ref<test::FakeCompiler> compiler = basic::make<test::FakeCompiler>(trace);
     std::shared_ptr<void> compilerClass = classes.RegisterClass(
@@ -93,6 +94,24 @@ TEST_F(EndToEnd, AProjectCompiles) {
     EXPECT_EQ(modules->compileMsgs()->lblStatusText(), "SUCCESS - Compile and validate completed successfully.");
     EXPECT_THAT(host.folder.read("Hello.vbp"), HasSubstr("\r\nNumTavletFileDependencies=1\r\n"));
     EXPECT_TRUE(host.failures.empty());
+}
+
+TEST_F(EndToEnd, AProjectIsValidatedForItsDevice) {
+    installTemplates();
+    const auto project = connected(hello());
+    user.expectForm("frmValidate");
+    EXPECT_TRUE(modules->validate.ValidateProject(project, "Palm-1"));
+    EXPECT_EQ(modules->compileMsgs()->rowCount(), 1); // the header
+}
+
+TEST_F(EndToEnd, AMissingLibraryFailsTheValidation) {
+    installTemplates();
+    const auto gone = "Reference=*\\G{00000000-1111-2222-3333-444444444444}#1.0#0#/gone/Gone.dll#Gone";
+    const auto project = connected(hello().member(gone));
+    user.expectForm("frmValidate");
+    EXPECT_FALSE(modules->validate.ValidateProject(project, "Palm-1"));
+    EXPECT_THAT(host.folder.read("Hello.vbp"), HasSubstr("|0|There is a missing reference in this project, please "
+                                                         "remove the reference.|8205"));
 }
 
 TEST_F(EndToEnd, AnErrorIsStoredWithTheLineOfTheCodeWindow) {

@@ -20,3 +20,14 @@ TEST(Arrays, HaveBoundsOnceAllocated) {
     EXPECT_EQ(test::errorOf([&] { array.ReDim(0, 2'000'000'000); }), 7);
     EXPECT_EQ(array[4], 7);
 }
+
+TEST(Arrays, GrowByOneElementAtTheEnd) {
+    Array<std::string> fresh, placed;
+    fresh.Append("a");
+    EXPECT_EQ(fresh.LBound(), 0);
+    EXPECT_EQ(fresh[0], "a");
+    placed.ReDim(5, 5);
+    placed.Append("b");
+    EXPECT_EQ(placed.UBound(), 6);
+    EXPECT_EQ(placed[6], "b");
+}

@@ -6,7 +6,7 @@ using namespace fernwick;
 namespace {
 struct ErrorReportTest : ::testing::Test {
     test::ScriptedUser user;
-    App app{"QLVBAddIn", "", "http://support.example", ""};
+    App app{"QLVBAddIn", "", "http://support.example", "", ""};
     modAddInErrorManagement errors{user, app};
 };
 } // namespace

@@ -99,8 +99,8 @@ struct DeployPlatform : TracedPlatform {
     }
     TempFolder folder;
     TracedHostFiles disk{trace};
-    fernwick::Platform onDisk{user,        loop,      registry, disk,   processes, classes,
-                              environment, clipboard, shell,    screen, clock,     platform.app};
+    fernwick::Platform onDisk{user,      loop,  registry, disk,  processes, classes,     environment,
+                              clipboard, shell, screen,   clock, resources, platform.app};
     FakeTargets targets{classes};
     FakePipeFamily family{trace, classes};
     fernwick::modRegistry2 registry2{registry};

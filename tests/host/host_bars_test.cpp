@@ -1,4 +1,5 @@
 #include "Host/model/bars.h"
+#include "Host/system/clipboard.h"
 #include "tests/support/test_host.h"
 
 using basic::Ref;
@@ -48,6 +49,31 @@ TEST(HostBars, ANewMenuStandsInFrontOfAddIns) {
     EXPECT_EQ(errorOf([&] { bar->Controls()->Item("Fernwick"); }), 5);
     EXPECT_EQ(errorOf([&] { bar->Controls()->Item(99); }), 9);
     EXPECT_EQ(errorOf([&] { bar->Controls()->Add(office::msoControlButton, 99); }), 5);
+}
+
+TEST(HostBars, APopupOfAnAddInIsNoBarOfTheList) { // a toolbar may bear its name
+    TestHost host;
+    const auto bars = host.ide->CommandBars();
+    bars->ActiveMenuBar()->Controls()->Add(office::msoControlPopup)->Caption("&Fernwick");
+    EXPECT_EQ(errorOf([&] { bars->Item("Fernwick"); }), 5);
+    const auto toolbar = bars->Add("Fernwick", 1, false);
+    EXPECT_EQ(bars->Item("Fernwick"), toolbar);
+}
+
+TEST(HostBars, AButtonTakesItsFaceFromTheClipboard) {
+    host::Clipboard clipboard;
+    TestHost host{nullptr, &clipboard};
+    const auto button = host.ide->CommandBars()->Item("File")->Controls()->Add();
+    EXPECT_EQ(errorOf([&] { button->PasteFace(); }), 5);
+    clipboard.SetData("text/plain", "no picture");
+    EXPECT_EQ(errorOf([&] { button->PasteFace(); }), 5);
+    clipboard.SetData(fernwick::kPictureFormat, "picture");
+    button->PasteFace();
+    clipboard.Clear();
+    EXPECT_EQ(basic::cast<host::BarControl>(button)->face(), "picture");
+    button->Style(office::msoButtonIconAndCaption);
+    EXPECT_EQ(button->Style(), office::msoButtonIconAndCaption);
+    EXPECT_EQ(errorOf([&] { host.ide->CommandBars()->FindControl(30004)->PasteFace(); }), 438);
 }
 
 TEST(HostBars, AClickReachesItsHandlersBeforeTheCommand) {

@@ -223,6 +223,19 @@ TEST(SshReadOnlyDevice, SaysWhatItMayNotDo) {
     EXPECT_EQ(device.read("file"), "x");
 }
 
+/// New keys in the middle of a transfer, as in very long ones.
+TEST(SshServerThatChangesKeys, DisturbsNothing) {
+    const test::SshServer server{"Subsystem sftp internal-sftp\nRekeyLimit 512K\n"};
+    SshStorage device{{"127.0.0.1", server.port, qlpipe::userName(), server.folder / "user_key",
+                       server.folder / "device", server.folder / "known_hosts", false},
+                      {}};
+    std::string bytes;
+    for (int i = 0; bytes.size() < 5'000'000; ++i) bytes += std::to_string(i);
+    device.makeFolder("a");
+    put(device, "a/file", bytes);
+    EXPECT_TRUE(server.folder.read("device/a/file") == bytes);
+}
+
 /// A server of the kind that has nothing beyond the bare protocol.
 TEST(SshPlainServer, ServesAllTheSame) {
     const test::SshServer server{"Subsystem sftp internal-sftp -P posix-rename,fsync,statvfs\n"};

@@ -13,6 +13,7 @@ struct FakeScreen : fernwick::Screen {
     std::set<std::string> fonts{"QLPalm", "Tahoma"};
     float TwipsPerPixelX() const override { return x; }
     float TwipsPerPixelY() const override { return y; }
+    fernwick::Color GetSysColor(fernwick::SysColorIndex) const override { return 0; }
     bool FontFamilyExists(const std::string& name) const override { return fonts.contains(name); }
 };
 
@@ -52,9 +53,19 @@ protected:
     TestHost host;
     host::FileSystem files;
     FakeScreen screen;
-    fernwick::Platform platform{
-        user,        world.loop, world.registry, files, world.processes, classes, world.environment, world.clipboard,
-        world.shell, screen,     world.clock,    {}};
+    fernwick::Platform platform{user,
+                                world.loop,
+                                world.registry,
+                                files,
+                                world.processes,
+                                classes,
+                                world.environment,
+                                world.clipboard,
+                                world.shell,
+                                screen,
+                                world.clock,
+                                world.resources,
+                                {}};
     fernwick::modQLInstallInfo install{registry, files};
     fernwick::AddIn addIn{registry, world.errors, world.environment};
     fernwick::modProjectTemplates templates{addIn, install, files, user, world.errors};

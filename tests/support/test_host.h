@@ -13,10 +13,11 @@ namespace test {
 
 class TestHost {
 public:
-    explicit TestHost(fernwick::Classes* classes = nullptr) {
+    explicit TestHost(fernwick::Classes* classes = nullptr, const fernwick::Clipboard* clipboard = nullptr) {
         host::HostOptions options;
         options.registry = &registry;
         options.classes = classes;
+        options.clipboard = clipboard;
         options.templatePath = folder / "Template";
         options.handlerFailed = [this](const basic::ErrObject& error) { failures.push_back(error); };
         ide = host::Host::create(std::move(options));

@@ -26,6 +26,9 @@ public:
     void Enabled(bool) override {}
     bool Visible() const override { return true; }
     void Visible(bool) override {}
+    office::MsoButtonStyle Style() const override { return office::msoButtonAutomatic; }
+    void Style(office::MsoButtonStyle) override {}
+    void PasteFace() override {}
     Ref<office::CommandBar> Parent() const override { return nullptr; }
     Ref<office::CommandBarControls> Controls() override { throw notHere(438); }
     void Delete() override {}

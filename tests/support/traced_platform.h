@@ -186,7 +186,11 @@ struct NoShell : fernwick::Shell {
 struct FixedScreen : fernwick::Screen {
     float TwipsPerPixelX() const override { return 15; }
     float TwipsPerPixelY() const override { return 15; }
+    fernwick::Color GetSysColor(fernwick::SysColorIndex) const override { return fernwick::RGB(212, 208, 200); }
     bool FontFamilyExists(const std::string&) const override { return true; }
+};
+struct NoResources : fernwick::Resources {
+    std::string LoadBitmap(int) const override { throw basic::RuntimeError(basic::kFileNotFound); }
 };
 struct FixedClock : fernwick::Clock {
     std::int64_t now = 42;
@@ -216,8 +220,9 @@ struct TracedPlatform {
     NoShell shell;
     FixedScreen screen;
     FixedClock clock;
-    fernwick::Platform platform{user,        loop,      registry, files,  processes, classes,
-                                environment, clipboard, shell,    screen, clock,     {}};
+    NoResources resources;
+    fernwick::Platform platform{user,      loop,  registry, files, processes, classes, environment,
+                                clipboard, shell, screen,   clock, resources, {}};
 };
 
 } // namespace test

@@ -10,6 +10,7 @@
 #include "Host/system/environment.h"
 #include "Host/system/file_system.h"
 #include "Host/system/processes.h"
+#include "Host/system/resources.h"
 #include "Host/system/screen.h"
 #include "Host/system/shell.h"
 #include "tests/support/errors.h"
@@ -34,8 +35,9 @@ protected:
     host::Processes processes{[](const std::string&, const std::string&) { return false; }};
     host::Shell shell{files, [](const std::string&) {}};
     host::Screen screen;
-    fernwick::Platform platform{user,        loop,      registry, files,  processes, classes,
-                                environment, clipboard, shell,    screen, clock,     {}};
+    host::Resources resources{files, {}};
+    fernwick::Platform platform{user,      loop,  registry, files, processes, classes, environment,
+                                clipboard, shell, screen,   clock, resources, {}};
 };
 
 } // namespace test

@@ -16,6 +16,7 @@ void Connect::IDTExtensibility_OnConnection(const Host& VBInst, vbide::vbext_Con
     Procedure here{use_.errors, "Connect.IDTExtensibility_OnConnection(ByVal_VBInst_As_Object,_"
                                 "ByVal_ConnectMode_As_vbext_ConnectMode,_ByVal_AddInInst_As_VBIDE.AddIn,_custom"};
     here([&] { use_.addIn.SaveVBinstPointer(VBInst); });
+    use_.addIn.gConnectMode = ConnectMode;
     here([&] { BuildEventsHandler = VBInst->Events()->VBBuildEvents(); });
     here([&] { use_.removal.Load(); });
     here([&] { ProjEventsHandler = VBInst->Events()->VBProjectsEvents(); });

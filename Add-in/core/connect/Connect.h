@@ -1,17 +1,30 @@
 #pragma once
 // The add-in's entry object: what the host calls, and every event that the add-in listens to.
 #include "Add-in/commands/command_items.h"
+#include "Add-in/commands/frmAbout.h"
+#include "Add-in/commands/modHelpManagement.h"
+#include "Add-in/commands/modViewConvertManagement.h"
+#include "Add-in/deploy/frmSendRuntimeToDevice.h"
+#include "Add-in/deploy/frmSendToDevice.h"
 #include "Add-in/lifecycle/ProjectSetup.h"
+#include "Add-in/lifecycle/SampleOpening.h"
 #include <array>
 
 namespace fernwick {
 
 class Connect;
 
-/// The sink of a menu item or button. It has no handler until its command is here.
+/// The sink of a menu item or button.
 class Command : public WithEvents<vbide::CommandBarEvents> {
 public:
+    using Item = CommandItems::Item;
+
     explicit Command(Connect* owner) : WithEvents(owner) {}
+    Command(Connect* owner, void (Connect::*clicked)());
+    /// The clicked item tells what to do.
+    Command(Connect* owner, void (Connect::*clicked)(const Item& item));
+    /// Starts a utility; what goes wrong is reported under `location`.
+    Command(Connect* owner, UtilityTool tool, const char* location);
     using WithEvents::operator=;
 };
 
@@ -29,6 +42,14 @@ struct ConnectServices {
     frmProjectRemoval& removal;
     ProjectSetup& setup;
     IdeCommands& commands;
+    const modQLInstallInfo& install;
+    frmCompile& compile;
+    frmSendToDevice& sendToDevice;
+    frmSendRuntimeToDevice& sendRuntime;
+    modViewConvertManagement& tools;
+    modHelpManagement& help;
+    frmAbout& about;
+    SampleOpening& samples;
 };
 
 class Connect : public vbide::IDTExtensibility {
@@ -48,58 +69,58 @@ public:
     void SetupMenuHandlers(const Host& VBInst);
 
     // Main menu
-    Command QuinloftSettingsHandler{this};
-    Command CompileProjectHandler{this};
-    Command ProjectManagerHandler{this};
-    Command MakePackageAllDevices{this};
-    Command DeployAllDevices{this};
-    Command InstallVMAllDevices{this};
-    Command DownloadVMHandler{this};
-    Command AddinOnlineHelpHandler{this};
-    Command AddinUsersGuideHandler{this};
-    Command AboutHandler{this};
-    Command ZoomWindowHandler{this};
-    Command CompileErrorWindowHandler{this};
+    Command QuinloftSettingsHandler{this, &Connect::QuinloftSettingsHandler_Click};
+    Command CompileProjectHandler{this, &Connect::CompileProjectHandler_Click};
+    Command ProjectManagerHandler{this, &Connect::ProjectManagerHandler_Click};
+    Command MakePackageAllDevices{this, &Connect::MakePackageAllDevices_Click};
+    Command DeployAllDevices{this, &Connect::DeployAllDevices_Click};
+    Command InstallVMAllDevices{this, &Connect::InstallVMAllDevices_Click};
+    Command DownloadVMHandler{this, &Connect::DownloadVMHandler_Click};
+    Command AddinOnlineHelpHandler{this, &Connect::AddinOnlineHelpHandler_Click};
+    Command AddinUsersGuideHandler{this, &Connect::AddinUsersGuideHandler_Click};
+    Command AboutHandler{this, &Connect::AboutHandler_Click};
+    Command ZoomWindowHandler{this, &Connect::ZoomWindowHandler_Click};
+    Command CompileErrorWindowHandler{this, &Connect::CompileErrorWindowHandler_Click};
 
     // Device slots: the clicked item's Tag tells the device
-    std::array<Command, kDeviceSlots> MakePackageDevice{slots()};
-    std::array<Command, kDeviceSlots> DeployDevice{slots()};
-    std::array<Command, kDeviceSlots> InstallVMDevice{slots()};
+    std::array<Command, kDeviceSlots> MakePackageDevice{slots(&Connect::MakePackageHandler)};
+    std::array<Command, kDeviceSlots> DeployDevice{slots(&Connect::DeployDeviceHandler)};
+    std::array<Command, kDeviceSlots> InstallVMDevice{slots(&Connect::InstallVMForDevice)};
 
-    // Utilities menu
-    Command MenuDatabaseConverterHandler{this};
-    Command MenuDatabaseViewerHandler{this};
-    Command MenuFontConverterHandler{this};
-    Command MenuFontViewerHandler{this};
-    Command MenuGraphicsConverterHandler{this};
-    Command MenuGraphicsViewerHandler{this};
-    Command MenuMovieConverterHandler{this};
-    Command MenuMovieViewerHandler{this};
-    Command MenuWeirgateHandler{this};
+    // Utilities menu. The viewer's reports have always come under the converter's name.
+    Command MenuDatabaseConverterHandler{this, kDatabaseConverter, "Connect.MenuDatabaseConverterHandler_Click"};
+    Command MenuDatabaseViewerHandler{this, kDatabaseViewer, "Connect.MenuDatabaseConverterHandler_Click"};
+    Command MenuFontConverterHandler{this, kFontConverter, "Connect.MenuFontConverterHandler_Click"};
+    Command MenuFontViewerHandler{this, kFontViewer, "Connect.MenuFontViewerHandler_Click"};
+    Command MenuGraphicsConverterHandler{this, kGraphicsConverter, "Connect.MenuGraphicsConverterHandler_Click"};
+    Command MenuGraphicsViewerHandler{this, kGraphicsViewer, "Connect.MenuGraphicsViewerHandler_Click"};
+    Command MenuMovieConverterHandler{this, kMovieConverter, "Connect.MenuMovieConverterHandler_Click"};
+    Command MenuMovieViewerHandler{this, kMovieViewer, "Connect.MenuMovieViewerHandler_Click"};
+    Command MenuWeirgateHandler{this, kWeirgateConfiguration, "Connect.MenuWeirgateHandler_Click"};
 
     // Samples menu
-    Command SampleIntroHandler{this};
-    Command SampleHelloWorldHandler{this};
-    Command SampleOpenSampleDirHandler{this};
+    Command SampleIntroHandler{this, &Connect::SampleIntroHandler_Click};
+    Command SampleHelloWorldHandler{this, &Connect::SampleHelloWorldHandler_Click};
+    Command SampleOpenSampleDirHandler{this, &Connect::SampleOpenSampleDirHandler_Click};
 
     // Main toolbar
-    Command ToolQuinloftSettingsHandler{this};
-    Command ToolCompileProjectHandler{this};
-    Command ToolDeployProjectHandler{this};
-    Command ToolAddinUsersGuideHandler{this};
-    Command ToolZoomWindowHandler{this};
-    Command ToolProjectManagerHandler{this};
+    Command ToolQuinloftSettingsHandler{this, &Connect::ToolQuinloftSettingsHandler_Click};
+    Command ToolCompileProjectHandler{this, &Connect::ToolCompileProjectHandler_Click};
+    Command ToolDeployProjectHandler{this, &Connect::ToolDeployProjectHandler_Click};
+    Command ToolAddinUsersGuideHandler{this, &Connect::ToolAddinUsersGuideHandler_Click};
+    Command ToolZoomWindowHandler{this, &Connect::ToolZoomWindowHandler_Click};
+    Command ToolProjectManagerHandler{this, &Connect::ToolProjectManagerHandler_Click};
 
     // Support toolbar
-    Command ToolDatabaseConverterHandler{this};
-    Command ToolDatabaseViewerHandler{this};
-    Command ToolFontConverterHandler{this};
-    Command ToolFontViewerHandler{this};
-    Command ToolGraphicsConverterHandler{this};
-    Command ToolGraphicsViewerHandler{this};
-    Command ToolMovieConverterHandler{this};
-    Command ToolMovieViewerHandler{this};
-    Command ToolWGConfigHandler{this};
+    Command ToolDatabaseConverterHandler{this, kDatabaseConverter, "Connect.ToolDatabaseConverterHandler_Click"};
+    Command ToolDatabaseViewerHandler{this, kDatabaseViewer, "Connect.MenuDatabaseConverterHandler_Click"};
+    Command ToolFontConverterHandler{this, kFontConverter, "Connect.ToolFontConverterHandler_Click"};
+    Command ToolFontViewerHandler{this, kFontViewer, "Connect.ToolFontViewerHandler_Click"};
+    Command ToolGraphicsConverterHandler{this, kGraphicsConverter, "Connect.ToolGraphicsConverterHandler_Click"};
+    Command ToolGraphicsViewerHandler{this, kGraphicsViewer, "Connect.ToolGraphicsViewerHandler_Click"};
+    Command ToolMovieConverterHandler{this, kMovieConverter, "Connect.ToolMovieConverterHandler_Click"};
+    Command ToolMovieViewerHandler{this, kMovieViewer, "Connect.ToolMovieViewerHandler_Click"};
+    Command ToolWGConfigHandler{this, kWeirgateConfiguration, "Connect.ToolWGConfigHandler_Click"};
 
     // Kept in the interface; never assigned
     Command DeployPalmOSHandler{this};
@@ -132,7 +153,7 @@ public:
 private:
     using Item = CommandItems::Item;
 
-    std::array<Command, kDeviceSlots> slots();
+    std::array<Command, kDeviceSlots> slots(void (Connect::*clicked)(const Item& item));
     void buildInterface(Procedure& here, const Host& VBInst, const basic::Ref<vbide::AddIn>& AddInInst);
     void buildMenu(Procedure& here, const Host& VBInst, const basic::Ref<vbide::AddIn>& AddInInst);
     void meetSiblings(Procedure& here, const Host& VBInst);
@@ -148,12 +169,50 @@ private:
     void setupDeviceSlots(Procedure& here, const Host& VBInst);
     void wire(Procedure& here, const Host& VBInst, Command& sink, const Item& item);
 
+    // Commands on the active project
+    void CompileProjectHandler_Click();
+    void ToolCompileProjectHandler_Click() { CompileProjectHandler_Click(); }
+    void ToolDeployProjectHandler_Click();
+    void CompileErrorWindowHandler_Click();
+    void QuinloftSettingsHandler_Click();
+    void ToolQuinloftSettingsHandler_Click() { QuinloftSettingsHandler_Click(); }
+    basic::Ref<clsQLProject> activeProject();
+    // Commands on one device, which the item names. An error goes to the host.
+    void DeployDeviceHandler(const Item& item);
+    void MakePackageHandler(const Item& item);
+    void InstallVMForDevice(const Item& item);
+    // Commands on My Devices. An error goes to the host.
+    void DeployAllDevices_Click();
+    void MakePackageAllDevices_Click();
+    void InstallVMAllDevices_Click();
+    bool hasMyDevices();
+    void toMyDevices(const std::function<void(const std::string& device)>& act);
+    // Commands that lead elsewhere
+    void ProjectManagerHandler_Click() { notInThisBuild(); }
+    void ToolProjectManagerHandler_Click() { notInThisBuild(); }
+    void ZoomWindowHandler_Click();
+    void ToolZoomWindowHandler_Click() { ZoomWindowHandler_Click(); }
+    void DownloadVMHandler_Click();
+    void AddinUsersGuideHandler_Click();
+    void ToolAddinUsersGuideHandler_Click() { AddinUsersGuideHandler_Click(); }
+    void AddinOnlineHelpHandler_Click();
+    void AboutHandler_Click();
+    void OpenUtility(UtilityTool tool, const char* location);
+    void SampleIntroHandler_Click();
+    void SampleHelloWorldHandler_Click();
+    void SampleOpenSampleDirHandler_Click();
+    void notInThisBuild();
+    void box(const char* text, int icon);
+
     void GlobalFileControlHandler_BeforeLoadFile(basic::Ref<vbide::VBProject> VBProject,
                                                  const std::vector<std::string>& FileNames);
     void FileControlHandler_RequestWriteFile(basic::Ref<vbide::VBProject> VBProject, const std::string& FileName,
                                              bool& Cancel);
 
+    friend class Command;
     ConnectServices use_;
+    /// One for each sample of the menu.
+    std::vector<Subscription> pickedSamples_;
 };
 
 } // namespace fernwick

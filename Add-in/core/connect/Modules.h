@@ -5,8 +5,8 @@
 #include "Add-in/build/frmValidate.h"
 #include "Add-in/build/modDependencyManagement.h"
 #include "Add-in/build/udocCompileMsgs.h"
+#include "Add-in/core/connect/CommandSurface.h"
 #include "Add-in/core/connect/Connect.h"
-#include "Add-in/core/connect/HostCommands.h"
 #include "Add-in/core/modAddInErrorManagement.h"
 #include "Add-in/deploy/frmSendRuntimeToDevice.h"
 #include "Add-in/deploy/frmSendToDevice.h"
@@ -35,7 +35,14 @@ struct Modules {
     DeviceServices deviceServices{errors, platform.interaction, platform.classes, registry, prefs, references, devices};
     // commands
     CommandItems items;
-    HostCommands commands{addIn};
+    modClipboardManagement clipboard{platform.clipboard, errors};
+    modImageManagement images{platform};
+    modMenuManagement menu{{platform.interaction, errors, addIn, registry, devices, images, items}};
+    modToolbarManagement toolbars{{errors, addIn, prefs, images, items}};
+    modViewConvertManagement tools{platform.shell, install, errors};
+    modHelpManagement help{platform, install, errors};
+    frmAbout about{platform, errors};
+    CommandSurface commands{platform.interaction, addIn, items, menu, toolbars, clipboard};
     // project
     modProjectTemplates templates{addIn, install, platform.files, platform.interaction, errors};
     ProjectServices projectServices{errors, platform, install, addIn, devices, templates};
@@ -61,9 +68,11 @@ struct Modules {
     frmDesignTargetNormal chooseTarget{deviceServices};
     ProjectSetup setup{
         {addIn, platform.loop, deviceServices, projects, save, messages, chooseTarget, removal, commands}};
+    SampleOpening samples{{platform, errors, addIn, save, commands}};
     // on top
-    Connect connect{
-        {platform, errors, prefs, addIn, references, devices, items, projects, messages, removal, setup, commands}};
+    Connect connect{{platform,     errors,      prefs,   addIn, references, devices, items,
+                     projects,     messages,    removal, setup, commands,   install, compile,
+                     sendToDevice, sendRuntime, tools,   help,  about,      samples}};
 
     /// The document of the messages window; Nothing until the host has made it.
     basic::Ref<udocCompileMsgs> compileMsgs() const;

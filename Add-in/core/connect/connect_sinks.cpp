@@ -7,15 +7,34 @@ namespace fernwick {
 
 namespace {
 
+using Clicked = void (Connect::*)(const CommandItems::Item& item);
+
 template <std::size_t... I>
-std::array<Command, sizeof...(I)> sinkSlots(Connect* owner, std::index_sequence<I...>) {
-    return {((void)I, Command{owner})...};
+std::array<Command, sizeof...(I)> sinkSlots(Connect* owner, Clicked clicked, std::index_sequence<I...>) {
+    return {((void)I, Command{owner, clicked})...};
 }
 
 } // namespace
 
-std::array<Command, Connect::kDeviceSlots> Connect::slots() {
-    return sinkSlots(this, std::make_index_sequence<kDeviceSlots>{});
+Command::Command(Connect* owner, void (Connect::*clicked)())
+    : WithEvents(owner, [clicked](vbide::CommandBarEvents& source, Connect& connect) {
+          return source.Click.connect([&connect, clicked](const Item&, bool&, bool&) { (connect.*clicked)(); });
+      }) {}
+
+Command::Command(Connect* owner, Clicked clicked)
+    : WithEvents(owner, [clicked](vbide::CommandBarEvents& source, Connect& connect) {
+          return source.Click.connect(
+              [&connect, clicked](const Item& item, bool&, bool&) { (connect.*clicked)(item); });
+      }) {}
+
+Command::Command(Connect* owner, UtilityTool tool, const char* location)
+    : WithEvents(owner, [tool, location](vbide::CommandBarEvents& source, Connect& connect) {
+          return source.Click.connect(
+              [&connect, tool, location](const Item&, bool&, bool&) { connect.OpenUtility(tool, location); });
+      }) {}
+
+std::array<Command, Connect::kDeviceSlots> Connect::slots(Clicked clicked) {
+    return sinkSlots(this, clicked, std::make_index_sequence<kDeviceSlots>{});
 }
 
 /// An item that doesn't stand leaves its sink as it is.
@@ -62,10 +81,13 @@ void Connect::SetupSampleMenuHandlers(const Host& VBInst) {
     wire(here, VBInst, SampleIntroHandler, items.gSampleIntroItem);
     wire(here, VBInst, SampleHelloWorldHandler, items.gSampleHelloItem);
     wire(here, VBInst, SampleOpenSampleDirHandler, items.gSampleDirItem);
+    pickedSamples_.clear();
     for (const auto& sample : items.gSampleItems)
         here([&] {
             if (sample->popupMenu) return;
             sample->myOfficeEvents = VBInst->Events()->CommandBarEvents(sample->myOfficeCommandBar);
+            pickedSamples_.push_back(
+                sample->picked.connect([this](const clsSampleMenuItem& picked) { use_.samples.open(picked); }));
         });
 }
 

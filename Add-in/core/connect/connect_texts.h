@@ -11,6 +11,28 @@ inline constexpr char kNoSupportToolbar[] = "Could not add Quinloft Converters a
 inline constexpr char kFailedStepBefore[] = "ERROR!\r\n\r\n";
 inline constexpr char kFailedStepAfter[] = "\r\nFailing to install Fernwick Add-In";
 
+inline constexpr char kNotInThisBuild[] = "This command is not in this build of Fernwick.";
+
+inline constexpr char kNoDevicesTitle[] = "No devices selected";
+inline constexpr char kNoDevices[] = "To continue with this option, you must first select which devices will be used. "
+                                     "Continue and select devices?";
+inline constexpr char kDownloadTitle[] = "Connect to Quinloft Web Site";
+inline constexpr char kDownload[] =
+    "Quinloft Tamarik\xE2\x84\xA2 is required to run deployed applications. Click \"OK\" to download the latest "
+    "version of Tamarik from the Quinloft website. (Requires Internet connection.)";
+
+inline constexpr char kNoUtility[] = "Could Not Launch Converter/Viewer;\r\n"
+                                     "Application is missing or not in default location.\r\n\r\n"
+                                     "The Viewers and Converters can be found on the Quinloft website.";
+/// The wording of this one and the samples' is known to users of the product as it stands.
+inline constexpr char kNoConfiguration[] =
+    "Could Launch Weirgate Configuration;\r\nApplication is missing or not in default location.";
+
+inline constexpr char kNoTutorial[] = "Error finding Fernwick Hello World Tutorial.";
+inline constexpr char kNoSamplesDir[] = "Error getting Fernwick samples directory.";
+inline constexpr char kSamplesDirMissing[] =
+    "Could get open the samples directory;\r\nQuinloft Samples are located on the Quinloft website..";
+
 inline constexpr char kOldProjectTitle[] = "Warning: Pre Quinloft Fernwick 3.5 Project";
 inline constexpr char kOldProject[] =
     "This project was created with an older version of Quinloft Fernwick and will not work with this version. The "

@@ -1,8 +1,8 @@
 // The tree that the installation laid down, and the values that it brought.
 #include "Add-in/core/modQLInstallInfo.h"
-#include "Apps/common/maker.h"
 #include "Apps/fernwick/doctor/findings.h"
 #include <fmt/format.h>
+#include <toml++/toml.h>
 
 namespace cli {
 
@@ -69,9 +69,14 @@ void examineInstalledValues(Machine& machine, Findings& to) {
         to.push_back(troubleFinding("installed values", problem, "Correct the line, or install the file again."));
 }
 
-void examineMaker(const std::string& root, Findings& to) {
-    const auto problem = apps::makerProblem(root);
-    if (!problem.empty()) to.push_back(troubleFinding("maker.toml", problem, installAgain("maker.toml")));
+/// Messages name no address where this file is damaged.
+void examineMaker(const std::string& file, Findings& to) {
+    try {
+        (void)toml::parse_file(file);
+    } catch (const toml::parse_error& error) {
+        const auto problem = fmt::format("{}:{}: {}", file, error.source().begin.line, error.description());
+        to.push_back(troubleFinding("maker.toml", problem, installAgain("maker.toml")));
+    }
 }
 
 } // namespace
@@ -90,7 +95,7 @@ void examineInstallation(Machine& machine, Findings& to) {
     examineParts(root, files, to);
     examineRootDir(root, machine, to);
     examineInstalledValues(machine, to);
-    if (files.FileExists(files.BuildPath(root, "maker.toml"))) examineMaker(root, to);
+    if (const auto maker = files.BuildPath(root, "maker.toml"); files.FileExists(maker)) examineMaker(maker, to);
 }
 
 } // namespace cli

@@ -51,7 +51,9 @@ void printRow(const DeviceRow& row, const DevicePlace& place, Console& console) 
     std::string where = !row.isUsable ? "not usable here" : !place.problem.empty() ? "-" : place.location;
     if (!place.runtime.empty()) where += fmt::format("  (runtime {})", place.runtime);
     console.out(fmt::format("{} {:<20}  {:<18}  {}\n", row.isMine ? "*" : " ", row.key, row.name, where));
-    if (!place.problem.empty()) console.detail(fmt::format("{}: {}", row.key, place.problem));
+    if (place.problem.empty()) return;
+    const auto why = fmt::format("{}: {}", row.key, place.problem);
+    return row.isMine ? console.note(why, Tone::Warning) : console.detail(why);
 }
 
 Json jsonOfSettings(const DeviceSettings& settings) {

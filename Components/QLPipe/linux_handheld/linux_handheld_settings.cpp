@@ -52,7 +52,8 @@ LinuxHandheldSettings readProjectSettings(const basic::Ref<vbide::VBProject>& pr
     if (!project) return settings;
     for (const auto& [name, value, caption] : kLinuxHandheldSettings)
         // an absent value is an error of the host
-        (void)basic::attempt([&] { settings.*value = project->ReadProperty(kLinuxHandheldSection, name); });
+        (void)basic::attempt(
+            [&, name = name, value = value] { settings.*value = project->ReadProperty(kLinuxHandheldSection, name); });
     return settings;
 }
 

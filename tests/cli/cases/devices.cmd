@@ -8,6 +8,10 @@ run fernwick registry get 'HKEY_CURRENT_USER\SOFTWARE\Quinloft\AddinPrefs\MyDevi
 run fernwick devices remove POCKETPC-ARM PocketPC-SH3
 run fernwick devices remove PocketPC-ARM
 run fernwick devices
+say why one of them can not be reached is told
+run fernwick devices add LinuxHandheld-ARM
+run fernwick devices
+run fernwick devices remove LinuxHandheld-ARM
 say keys that nobody knows change nothing
 run fernwick devices add PocketPC-ARM Psion-5
 run fernwick devices remove Psion-5

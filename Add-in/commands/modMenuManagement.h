@@ -1,0 +1,95 @@
+#pragma once
+// The add-in's one menu on the host's menu bar.
+#include "Add-in/commands/command_items.h"
+#include "Add-in/commands/command_texts.h"
+#include "Add-in/commands/modImageManagement.h"
+#include "Add-in/core/AddIn.h"
+#include "Add-in/core/modRegistry2.h"
+#include "Add-in/devices/modDeviceManagement.h"
+
+namespace fernwick {
+
+/// What the menu stands on.
+struct MenuServices {
+    Interaction& user;
+    ErrorReport& errors;
+    AddIn& addIn;
+    modRegistry2& registry;
+    modDeviceManagement& devices;
+    modImageManagement& images;
+    CommandItems& items;
+};
+
+/// What an item of the menu is besides its caption.
+struct MenuLook {
+    bool group = false;
+    Face face = kNoFace;
+};
+
+/// The menu is built once a connection: a design target that is installed later shows at the next one.
+class modMenuManagement {
+public:
+    using Host = basic::Ref<vbide::VBE>;
+    using Item = CommandItems::Item;
+    using Keys = std::vector<std::string>;
+
+    explicit modMenuManagement(const MenuServices& services) : use_(services), items_(services.items) {}
+
+    /// False when the top-level popup could not be made; the user was told then. No trap.
+    bool SetUpQuinloftMenu(const Host& VBInst);
+    /// For an open Fernwick project. The download command stays off for good, and the last install item as it is.
+    void EnableQuinloftMenu();
+    /// What needs no project stays: a device can get its runtime with no project open. Errors are ignored.
+    void DisableQuinloftMenu();
+    /// Errors are ignored.
+    void RemoveQuinloftMenu();
+
+    /// A new popup on the menu bar, in front of the host's Add-Ins. Nothing, and a box, where there is no menu bar.
+    Item AddSubMenu(const std::string& barName, const std::string& caption);
+    static Item AddToAddInCommandBar(const Item& parent, const std::string& caption);
+    static Item AddPopupToAddInCommandBar(const Item& parent, const std::string& caption);
+
+    /// Only the project's own design target shows its face among those to deploy to.
+    void SetupDefaultTargetName(const std::string& deviceKey);
+    /// Looks gConverterItem up; the last match counts, and without one it stays as it was.
+    Item FindConverterMenuItem();
+
+    /// Leaves the first design target of each family, which is what stands before the first "-" of a key. A key
+    /// without one is a family of its own.
+    static void kludgeForTopDevices(Keys& devices);
+    static void SortDeviceList(Keys& devices);
+
+    void SetupSamplesMenu();
+    /// Adds a popup to `parent` for each subkey that has a name for it. `isFirst` while none was added yet.
+    void SetupDynamicSamplesMenu(const std::string& keyPath, const Item& parent, bool& isFirst);
+    void SetupDynamicSamplesMenuHelper(const std::string& keyPath, const Item& parent, bool& isFirst);
+
+private:
+    struct Family {
+        Item& popup;
+        Array<Item>& devices;
+        Item& all;
+    };
+
+    Item button(const Item& parent, StringId caption, MenuLook look = {});
+    Item popup(const Item& parent, StringId caption, MenuLook look = {});
+    void addProjectItems(const Keys& devices);
+    void addInstallItems(const Keys& devices);
+    void addUtilities();
+    void addHelpItems();
+    /// The items of a family's popup, which stands.
+    void fillFamily(const Family& family, const Keys& devices, Face face = kNoFace);
+    Array<Item> deviceItems(const Item& popup, const Keys& devices, Face face);
+
+    basic::Ref<office::CommandBar> menuBar(basic::Suppressed& quietly);
+    void tellNoMenuBar(const std::string& barName, const basic::ErrObject& error);
+
+    /// A popup is a sample item without a project.
+    basic::Ref<clsSampleMenuItem> addSampleItem(const Item& control, bool isPopup);
+    void addSample(const Item& popup, const NamedRegistryText& stored);
+
+    MenuServices use_;
+    CommandItems& items_;
+};
+
+} // namespace fernwick

@@ -1,0 +1,57 @@
+#pragma once
+// The two toolbars of the add-in.
+#include "Add-in/commands/command_items.h"
+#include "Add-in/commands/command_texts.h"
+#include "Add-in/commands/modImageManagement.h"
+#include "Add-in/core/AddIn.h"
+#include "Add-in/core/modAddinPrefsManagement.h"
+
+namespace fernwick {
+
+/// What the toolbars stand on.
+struct ToolbarServices {
+    ErrorReport& errors;
+    AddIn& addIn;
+    modAddinPrefsManagement& prefs;
+    modImageManagement& images;
+    CommandItems& items;
+};
+
+class modToolbarManagement {
+public:
+    using Bar = basic::Ref<office::CommandBar>;
+    using Item = CommandItems::Item;
+
+    explicit modToolbarManagement(const ToolbarServices& services) : use_(services), items_(services.items) {}
+
+    /// Each bar comes up disabled, where it last stood. False at the first failure, which is reported.
+    bool SetupQuinloftToolbar();
+    bool SetupSupportToolbar();
+
+    /// A bar that doesn't stand is left alone. Disabling ignores errors.
+    void EnableQuinloftToolbar() { enable(items_.gMainToolbar, "EnableQuinloftToolbar"); }
+    void EnableSupportToolbar() { enable(items_.gSupportToolbar, "EnableSupportToolbar"); }
+    void DisableQuinloftToolbar() { disable(items_.gMainToolbar); }
+    void DisableSupportToolbar() { disable(items_.gSupportToolbar); }
+    /// Errors are ignored.
+    void RemoveQuinloftToolbar();
+    void RemoveSupportToolbar();
+
+    void SaveAllToolbarState();
+    void RestoreAllToolbarState();
+
+    /// A new bar, docked at the top. One of that name that is left from an earlier run goes away. No trap.
+    Bar AddToolbar(const std::string& name);
+    static Item AddControlButtonToolbar(const Bar& bar);
+
+private:
+    Item button(const Bar& bar, StringId tip, Face face, bool group = false);
+    void showDisabled(const Bar& bar);
+    void enable(const Bar& bar, const char* procedure);
+    static void disable(const Bar& bar);
+
+    ToolbarServices use_;
+    CommandItems& items_;
+};
+
+} // namespace fernwick

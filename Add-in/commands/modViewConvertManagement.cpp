@@ -1,0 +1,20 @@
+#include "Add-in/commands/modViewConvertManagement.h"
+
+namespace fernwick {
+
+namespace {
+/// Below the root of the installation, by tool.
+constexpr const char* kPrograms[] = {
+    "VB Toolkit\\Bin\\QLPDBC.exe", "VB Toolkit\\Bin\\QLPDBV.exe", "VB Toolkit\\Bin\\QLFonC.exe",
+    "VB Toolkit\\Bin\\QLFonV.exe", "VB Toolkit\\Bin\\QLGraC.exe", "VB Toolkit\\Bin\\QLGraV.exe",
+    "VB Toolkit\\Bin\\QLMovC.exe", "VB Toolkit\\Bin\\QLMovV.exe", "Weirgate\\WGConfig.exe",
+};
+} // namespace
+
+bool modViewConvertManagement::OpenViewerConverter(int tool) {
+    Procedure here{errors_, "modViewConvertManagement.OpenViewerConverter"};
+    if (tool < 0 || tool >= int(std::size(kPrograms))) return false;
+    return here([&] { shell_.Start(install_.installed(kPrograms[tool])); });
+}
+
+} // namespace fernwick

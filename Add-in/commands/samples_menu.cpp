@@ -1,0 +1,65 @@
+// The samples menu: three fixed items around what the registry lists.
+#include "Add-in/commands/modMenuManagement.h"
+
+namespace fernwick {
+
+namespace {
+constexpr const char* kSamplesKey = "SOFTWARE\\Quinloft\\VB Toolkit\\Samples";
+} // namespace
+
+void modMenuManagement::SetupSamplesMenu() {
+    Procedure here{use_.errors, "modMenuManagement.SetupSamplesMenu"};
+    const auto& menu = items_.gSamplesPopup;
+    items_.gSampleItems = {};
+    here([&] { items_.gSampleIntroItem = button(menu, kSampleIntroString); });
+    here([&] { items_.gSampleHelloItem = button(menu, kSampleHelloString); });
+    bool isFirst = true;
+    SetupDynamicSamplesMenu(kSamplesKey, menu, isFirst);
+    here([&] { items_.gSampleDirItem = button(menu, kSampleDirString, {true, kSampleDirFace}); });
+}
+
+void modMenuManagement::SetupDynamicSamplesMenu(const std::string& keyPath, const Item& parent, bool& isFirst) {
+    const RegistryKey key{use_.registry, use_.registry.OpenKey(HKEY_LOCAL_MACHINE, keyPath, KEY_READ)};
+    if (!key) return;
+    const auto names = use_.registry.EnumKeys(key.handle());
+    if (!names) return;
+    for (const auto& name : *names)
+        if (!name.empty()) SetupDynamicSamplesMenuHelper(keyPath + "\\" + name, parent, isFirst);
+}
+
+/// A key without a default value is no node of the menu, and what lies below it is not visited. The nesting of the
+/// menu follows that of the keys: popups come before the samples of their key.
+void modMenuManagement::SetupDynamicSamplesMenuHelper(const std::string& keyPath, const Item& parent, bool& isFirst) {
+    Procedure here{use_.errors, "modMenuManagement.SetupDynamicSamplesMenuHelper"};
+    const RegistryKey key{use_.registry, use_.registry.OpenKey(HKEY_LOCAL_MACHINE, keyPath, KEY_READ)};
+    if (!key) return;
+    const auto caption = use_.registry.GetStringValue(key.handle(), "");
+    if (!caption.ok() || caption.text.empty()) return;
+
+    const auto menu = here.value([&] { return AddPopupToAddInCommandBar(parent, caption.text); });
+    here([&] { addSampleItem(menu, true); });
+    if (isFirst) here([&] { menu->BeginGroup(true); });
+    isFirst = false;
+    SetupDynamicSamplesMenu(keyPath, menu, isFirst);
+    const auto samples = use_.registry.EnumValues(key.handle());
+    if (!samples) return;
+    for (const auto& sample : *samples)
+        if (!sample.name.empty() && !sample.text.empty()) here([&] { addSample(menu, sample); });
+}
+
+void modMenuManagement::addSample(const Item& popup, const NamedRegistryText& stored) {
+    const auto sample = addSampleItem(AddToAddInCommandBar(popup, stored.name), false);
+    use_.images.PlaceImageOnButton(sample->myOfficeCommandBar, kSampleFace);
+    sample->Name = stored.name;
+    sample->fullPath = stored.text;
+}
+
+basic::Ref<clsSampleMenuItem> modMenuManagement::addSampleItem(const Item& control, bool isPopup) {
+    const auto sample = basic::make<clsSampleMenuItem>();
+    sample->myOfficeCommandBar = control;
+    sample->popupMenu = isPopup;
+    items_.gSampleItems.Append(sample);
+    return sample;
+}
+
+} // namespace fernwick

@@ -1,0 +1,33 @@
+#pragma once
+// Opens the sample that a user picked from the samples menu.
+#include "Add-in/commands/clsSampleMenuItem.h"
+#include "Add-in/core/ide_commands.h"
+#include "Add-in/project/modSaveProject.h"
+
+namespace fernwick {
+
+/// What the opening of samples stands on.
+struct SampleServices {
+    Platform& platform;
+    ErrorReport& errors;
+    AddIn& addIn;
+    modSaveProject& save;
+    IdeCommands& commands;
+};
+
+class SampleOpening {
+public:
+    explicit SampleOpening(const SampleServices& services) : use_(services) {}
+
+    /// The sample takes the place of what is open, which is saved as its user wants. A sample that is open already
+    /// stays, and so does a project whose saving fails or is cancelled.
+    void open(const clsSampleMenuItem& sample);
+
+private:
+    bool isOpen(Procedure& here, const std::string& path);
+    void closeActiveProject(Procedure& here);
+
+    SampleServices use_;
+};
+
+} // namespace fernwick
