@@ -6,7 +6,7 @@
 namespace cli {
 
 Machine::Machine(Console& console, CommandLineUser& user, host::Processes::Permission mayRun)
-    : apps::Machine({user, loop, clipboard, std::move(mayRun), wasInterrupted,
+    : apps::Machine({user, loop, ownClipboard, std::move(mayRun), wasInterrupted,
                      [&console](const std::string& document) { console.err(document); }}) {}
 
 void Machine::drain() {

@@ -11,7 +11,7 @@ namespace cli {
 struct NoDesktop {
     host::Clock monotonic;
     host::EventLoop loop{monotonic};
-    host::Clipboard clipboard;
+    host::Clipboard ownClipboard;
 };
 
 class Machine : private NoDesktop, public apps::Machine {

@@ -269,6 +269,16 @@ TEST_F(Desktop, MenusFollowTheHostsModel) {
     EXPECT_FALSE(menuItem("&Fernwick", "&Zoom Window"));
 }
 
+TEST_F(Desktop, TheAddInsMenuStandsThereWithItsFaces) {
+    openSample("HelloWorld");
+    auto* compile = menuItem("&Fernwick", "Compile and &Validate");
+    ASSERT_TRUE(compile);
+    EXPECT_TRUE(compile->isEnabled());
+    const auto face = compile->icon().pixmap(16, 16).toImage();
+    ASSERT_FALSE(face.isNull());
+    EXPECT_EQ(face.pixelColor(0, 0).alpha(), 0);
+}
+
 TEST_F(Desktop, SeparatorsStandWhereGroupsBegin) {
     const auto edit = bench->host().CommandBars()->Item("Edit");
     int groups = 0, lines = 0;
