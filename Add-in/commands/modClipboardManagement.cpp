@@ -21,7 +21,7 @@ void modClipboardManagement::RestoreClipboardData() {
     if (!isKept_) return;
     const auto opening = basic::attempt([&] { return void(clipboard_.Formats()); });
     if (opening.Number != 0) return;
-    for (const auto& [format, copy] : kept_) here([&] { clipboard_.SetData(format, copy); });
+    for (const auto& kept : kept_) here([&] { clipboard_.SetData(kept.format, kept.copy); });
     isKept_ = false;
     kept_.clear();
 }
