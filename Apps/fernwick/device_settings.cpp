@@ -2,7 +2,6 @@
 #include "Apps/fernwick/exit_status.h"
 #include "Apps/fernwick/refusal.h"
 #include "Basic/case_folding.h"
-#include "Components/QLPipe/linux_handheld/linux_handheld_settings.h"
 #include <fmt/format.h>
 
 namespace cli {
@@ -36,15 +35,14 @@ void assign(LinuxHandheldSettings& settings, const std::string& assignment) {
     throw Refusal(kWrongUse, fmt::format("no setting {}; known: {}", name, knownSettingNames()));
 }
 
-/// Values are told to be wrong where they are set, not where a transfer fails.
+} // namespace
+
 void requireMeantSettings(LinuxHandheldSettings settings, const std::string& key) {
-    if (settings.Host.empty()) settings.Host = "host"; // it may come later
+    if (settings.Host.empty()) settings.Host = "host";
     try {
         (void)qlpipe::sshTarget(settings, key);
     } catch (const qlpipe::TransferError& error) { throw Refusal(kWrongUse, error.text); }
 }
-
-} // namespace
 
 DeviceSettings readDeviceSettings(fernwick::Registry& registry, const std::string& key, const std::string& pipe) {
     DeviceSettings list;

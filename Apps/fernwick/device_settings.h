@@ -1,6 +1,7 @@
 #pragma once
 // How a device is reached, as the user says it for all projects.
 #include "Add-in/platform/registry.h"
+#include "Components/QLPipe/linux_handheld/linux_handheld_settings.h"
 #include <string>
 #include <utility>
 #include <vector>
@@ -18,5 +19,9 @@ DeviceSettings readDeviceSettings(fernwick::Registry& registry, const std::strin
 /// meant. Refusals: an unknown name or a bad value (2), a store that can't be written (3).
 void changeDeviceSettings(fernwick::Registry& registry, const std::string& key, const std::string& pipe,
                           const std::vector<std::string>& assignments);
+
+/// Refusal 2 for settings of a Linux handheld that can't be meant: they are told to be wrong where they are set, not
+/// where a transfer fails. The host may come later.
+void requireMeantSettings(qlpipe::LinuxHandheldSettings settings, const std::string& key);
 
 } // namespace cli

@@ -1,4 +1,5 @@
 #include "Apps/fernwick/verbs/stored_settings.h"
+#include "Apps/fernwick/device_settings.h"
 #include "Basic/case_folding.h"
 #include "Basic/conversions.h"
 #include <fmt/format.h>
@@ -80,6 +81,22 @@ StoredSetting steps(std::string_view name, std::string_view meaning) {
 using Text = const std::string&;
 using P = clsQLProject;
 
+/// What a project says for itself of its handheld goes before what the user says for all.
+template <std::string qlpipe::LinuxHandheldSettings::*Value>
+StoredSetting handheld(std::string_view name, std::string_view meaning) {
+    return {name,
+            SettingKind::Text,
+            [](const clsQLProject& project) { return Values{qlpipe::readProjectSettings(project.VBProject()).*Value}; },
+            [](clsQLProject& project, const Values& values) {
+                auto settings = qlpipe::readProjectSettings(project.VBProject());
+                settings.*Value = values.front();
+                requireMeantSettings(settings, project.TargetDevice());
+                qlpipe::writeProjectSettings(project.VBProject(), settings);
+            },
+            {""},
+            meaning};
+}
+
 /// The default icon is not stored.
 Values readIcon(const clsQLProject& project) {
     const auto icon = project.IconFileName();
@@ -128,6 +145,12 @@ const std::vector<StoredSetting>& settingTable() {
             "PreCompileSteps", "command lines before a compile, in order"),
         steps<&P::GetPostCompileSteps, &P::SetPostCompileSteps, &P::ZeroPostCompileSteps>(
             "PostCompileSteps", "command lines after a good compile, in order"),
+        handheld<&qlpipe::LinuxHandheldSettings::Host>("HandheldHost", "name or address of the Linux handheld"),
+        handheld<&qlpipe::LinuxHandheldSettings::Port>("HandheldPort", "port of its SSH server"),
+        handheld<&qlpipe::LinuxHandheldSettings::User>("HandheldUser", "user on it"),
+        handheld<&qlpipe::LinuxHandheldSettings::KeyFile>("HandheldKeyFile", "private key for it"),
+        handheld<&qlpipe::LinuxHandheldSettings::Folder>("HandheldFolder", "where applications go on it"),
+        handheld<&qlpipe::LinuxHandheldSettings::KnownHosts>("HandheldKnownHosts", "file of known hosts"),
         builtList<&P::GetComponentDependencies>("ComponentDependencies", "libraries that the last build used"),
         builtList<&P::GetTavletFileDependencies>("TavletFileDependencies", "files that the last build used"),
         builtList<&P::GetFontDependencies>("FontDependencies", "fonts that the application needs"),

@@ -15,8 +15,8 @@ constexpr fernwick::MessageInfo error(M number, std::string_view text, std::stri
 // number, text, meaning, example, remedy
 constexpr fernwick::MessageInfo kSshMessages[] = {
     error(M::HostNotSet,
-          "The address of the handheld is not set. Set it with: fernwick devices set %1 Host=ADDRESS, or for this "
-          "project alone on the page Linux Handheld of its settings (fernwick settings).",
+          "The address of the handheld is not set. Set it with: fernwick devices set %1 Host=ADDRESS, or for one "
+          "project alone with: fernwick settings set PROJECT HandheldHost ADDRESS",
           "A Linux handheld is reached over the network; neither the project nor the user's settings say where it is.",
           "fernwick deploy Game.vbp --device LinuxHandheld-ARM",
           "fernwick devices set LinuxHandheld-ARM Host=192.168.1.20"),

@@ -26,3 +26,12 @@ run fernwick settings reset ScanReferences
 run fernwick settings reset --dry-run
 run fernwick settings reset
 run fernwick settings list
+
+say "What a project says for itself of its handheld."
+run fernwick settings set HelloWorld.vbp HandheldHost handheld.local
+run fernwick settings set HelloWorld.vbp HandheldPort ssh
+run fernwick settings set HelloWorld.vbp HandheldPort 2222
+run fernwick settings get HelloWorld.vbp HandheldPort
+grep -a -A3 'Quinloft Linux Handheld' HelloWorld.vbp | tr -d '\r'
+run fernwick settings reset HelloWorld.vbp HandheldPort
+run fernwick settings get HelloWorld.vbp HandheldPort
