@@ -17,6 +17,8 @@ GIVERS = (("Components/QLToolkit", "messages.h", COMPILER), ("Add-in/build", "me
 # Where numbers with a meaning of their own may stand as such.
 GIVING = ("Add-in", "Components", "Apps")
 RESERVED = ADD_IN | set(range(20000, 21000))
+# A run-time error of the common dialogs, which had its number before any message did.
+DIALOG_ERRORS = {20476}
 LITERAL = re.compile(r"(?<![\w.'])(\d{4,5})(?![\w.'])")
 
 
@@ -67,7 +69,7 @@ class Catalogue(unittest.TestCase):
     def test_numbers_in_the_sources_have_entries(self):
         for path, text in sources(*GIVING):
             used = {int(n) for n in LITERAL.findall(text)} & RESERVED
-            self.assertEqual(used - self.numbers, set(), path.relative_to(ROOT))
+            self.assertEqual(used - self.numbers - DIALOG_ERRORS, set(), path.relative_to(ROOT))
 
     def test_pages_are_as_the_catalogue_is(self):
         checked = subprocess.run([ROOT / "scripts/make-message-pages", "--check", PROGRAM], capture_output=True,
