@@ -91,7 +91,7 @@ TEST_F(HandheldSettings, TakeTheFolderBelowTheHomeFolderThere) {
 TEST_F(HandheldSettings, SayHowToSetTheHost) {
     const auto error = transferErrorOf([] { (void)qlpipe::sshTarget({}, kKey); });
     expectError(error, SshMessage::HostNotSet,
-                {"fernwick devices set LinuxHandheld-ARM Host=", "fernwick settings", "Linux Handheld"});
+                {"fernwick devices set LinuxHandheld-ARM Host=", "fernwick settings set PROJECT HandheldHost"});
 }
 
 TEST_F(HandheldSettings, RefuseWhatCantBeMeant) {
