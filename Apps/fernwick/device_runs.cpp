@@ -8,19 +8,14 @@ namespace cli {
 
 namespace {
 
-void requireUsable(Session& session, const std::string& device) {
-    if (!session.addIn().devices.IsValidDevice(device))
-        throw Refusal(kWrongUse, fmt::format("{} is no usable design target; fernwick targets lists them", device));
-}
-
 /// The first error in one line, else the first critical box.
 std::string reasonOf(const DeviceOutcome& outcome) {
-    std::string reason = "it did not finish; see the messages above";
-    for (const auto& box : outcome.boxes)
-        if (box.critical) reason = box.text;
+    std::string reason;
     for (const auto& message : outcome.messages)
-        if (message.isError) reason = message.text;
-    return reason.substr(0, reason.find_first_of("\r\n"));
+        if (reason.empty() && message.isError) reason = message.text;
+    for (const auto& box : outcome.boxes)
+        if (reason.empty() && box.critical) reason = box.text;
+    return reason.empty() ? "it did not finish" : reason.substr(0, reason.find_first_of("\r\n"));
 }
 
 DeviceOutcome serveOne(Session& session, const std::string& device, const ServeDevice& serve) {
@@ -71,7 +66,7 @@ std::vector<std::string> devicesToServe(Session& session, const Options& options
     if (device.empty())
         throw Refusal(kWrongUse, "which device? --device KEY names one (fernwick targets lists them), --my-devices "
                                  "takes all of My Devices");
-    requireUsable(session, device);
+    requireUsableDevice(session, device);
     return {device};
 }
 
@@ -93,13 +88,9 @@ int statusOf(const std::vector<DeviceOutcome>& outcomes, bool list) {
 }
 
 void printOutcomes(const Report& report, const std::string& done, bool list, const Options& options, Console& console) {
-    if (!report.failure.empty()) console.err("fernwick: " + report.failure, Tone::Error);
-    if (options.format == Format::Json) return console.out(jsonOf(report));
-    if (options.format == Format::Sarif) return console.out(sarifOf(report));
+    if (printFormatted(report, options, console)) return;
     for (const auto& outcome : report.devices)
-        for (const auto& message : outcome.messages)
-            console.err(textOf(message, report.project.empty() ? outcome.device : report.project),
-                        message.isError ? Tone::Error : Tone::Warning);
+        printMessages(outcome.messages, report.project.empty() ? outcome.device : report.project, console);
     if (list) return printTable(report, done, console);
     const auto& outcome = report.devices.front();
     // a run that ended early leaves the words of the last good one

@@ -54,11 +54,14 @@ void beginWork(Session& session, const Options& options) {
     requireDevice(session, options.device);
 }
 
+void requireUsableDevice(Session& session, const std::string& device) {
+    if (!session.addIn().devices.IsValidDevice(device))
+        throw Refusal(kWrongUse, fmt::format("{} is no usable design target; fernwick targets lists them", device));
+}
+
 std::string deviceOfRun(Session& session, const Options& options) {
     if (options.device.empty()) return session.settings()->TargetDevice();
-    if (!session.addIn().devices.IsValidDevice(options.device))
-        throw Refusal(kWrongUse,
-                      fmt::format("{} is no usable design target; fernwick targets lists them", options.device));
+    requireUsableDevice(session, options.device);
     return options.device;
 }
 

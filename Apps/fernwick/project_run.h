@@ -13,6 +13,9 @@ void openProject(Session& session, const Options& options);
 /// device (2), nothing installed that serves it (3).
 void beginWork(Session& session, const Options& options);
 
+/// Refusal 2 for a device that nothing here can serve.
+void requireUsableDevice(Session& session, const std::string& device);
+
 /// The device that the run is for: --device, else the project's own. Refusal 2 for one that is not usable here.
 std::string deviceOfRun(Session& session, const Options& options);
 

@@ -67,11 +67,6 @@ std::vector<const Message*> allMessages(const Report& report) {
     return all;
 }
 
-void printMessages(const std::vector<Message>& messages, const std::string& project, Console& console) {
-    for (const auto& message : messages)
-        console.err(textOf(message, project), message.isError ? Tone::Error : Tone::Warning);
-}
-
 } // namespace
 
 std::string textOf(const Message& message, const std::string& project) {
@@ -119,10 +114,20 @@ std::string sarifOf(const Report& report) {
                      {"runs", Json::array({run})}});
 }
 
-void printReport(const Report& report, const Options& options, Console& console) {
+void printMessages(const std::vector<Message>& messages, const std::string& project, Console& console) {
+    for (const auto& message : messages)
+        console.err(textOf(message, project), message.isError ? Tone::Error : Tone::Warning);
+}
+
+bool printFormatted(const Report& report, const Options& options, Console& console) {
     if (!report.failure.empty()) console.err("fernwick: " + report.failure, Tone::Error);
-    if (options.format == Format::Json) return console.out(jsonOf(report));
-    if (options.format == Format::Sarif) return console.out(sarifOf(report));
+    if (options.format == Format::Json) console.out(jsonOf(report));
+    if (options.format == Format::Sarif) console.out(sarifOf(report));
+    return options.format != Format::Text;
+}
+
+void printReport(const Report& report, const Options& options, Console& console) {
+    if (printFormatted(report, options, console)) return;
     printMessages(report.messages, report.project, console);
     if (!report.statusText.empty()) console.out(report.statusText + "\n");
     if (!report.image.empty() && options.verbosity != Verbosity::Quiet) console.out("Image: " + report.image + "\n");

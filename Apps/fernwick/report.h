@@ -56,6 +56,10 @@ std::string jsonOf(const Report& report);
 /// SARIF 2.1.0. Ends with a line end.
 std::string sarifOf(const Report& report);
 
+/// To standard error, a line each.
+void printMessages(const std::vector<Message>& messages, const std::string& project, Console& console);
+/// Tells a failure, and writes the result where a format was asked for. False where it is to be written as text.
+bool printFormatted(const Report& report, const Options& options, Console& console);
 /// Writes the result in the format asked for; as text the messages and failures go to standard error.
 void printReport(const Report& report, const Options& options, Console& console);
 

@@ -19,6 +19,7 @@ bool scanForms(Session& session) {
 }
 
 std::string closingLine(const Report& report) {
+    if (report.exitStatus != kGood && report.messages.empty()) return "FAILED - The project was not validated.";
     const auto errors = std::size_t(std::count_if(report.messages.begin(), report.messages.end(),
                                                   [](const Message& message) { return message.isError; }));
     return fmt::format("Validated for {}: {}, {}.", report.device, plural(errors, "error"),

@@ -19,3 +19,8 @@ run fernwick validate HelloWorld.vbp
 
 say "A device that is not there."
 run fernwick validate HelloWorld.vbp --device Psion-5
+
+say "Forms that are not saved are not validated."
+sed -i 's/^TwipsPerPixel\(.\)=15/TwipsPerPixel\1=12/' HelloWorld.vbp
+run fernwick validate HelloWorld.vbp --answer convert-dpi=yes
+run fernwick validate HelloWorld.vbp --answer convert-dpi=yes --answer save-files=yes
