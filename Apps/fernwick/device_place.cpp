@@ -41,11 +41,8 @@ DevicePlace placeOfDevice(Machine& machine, const std::string& key, const std::s
         place.problem = "nothing can be sent to devices of " + pipe;
         return place;
     }
-    auto& platform = machine.platform();
-    const qlpipe::PipeServices services{platform.files, platform.classes, platform.registry, platform.environment,
-                                        machine.installation()};
     try {
-        return placeOf(*family->open(services, key, {}));
+        return placeOf(*family->open(machine.pipeServices(), key, {}));
     } catch (const qlpipe::TransferError& error) {
         place.problem = error.text;
         place.problemNumber = error.number;
