@@ -30,6 +30,8 @@ struct HostOptions {
     basic::CodePage codePage = basic::CodePage::windows1252();
     /// The folder above the host's project templates.
     std::string templatePath;
+    /// Further folders of templates. What is opened or added from below any of them is new, without a file of its own.
+    std::vector<std::string> templateFolders;
     /// Type libraries and control classes are looked up here.
     fernwick::Registry* registry = nullptr;
     /// Makes the documents of tool windows.
@@ -95,6 +97,10 @@ public:
     vbide::FileControlEvents& fileEvents() { return *fileEvents_.shared(); }
     std::vector<LoadProblem>& problems() { return loadProblems_; }
 
+    /// Whether the file (native, absolute) lies below a folder of templates.
+    bool isTemplate(const std::string& path) const;
+    /// A project that has just been taken in is the active one from the first; its ItemAdded says so for both.
+    void welcome(const vbide::Ref<vbide::VBProject>& project);
     /// Makes the project the active one and says so; nothing when it is that already.
     void activate(const vbide::Ref<vbide::VBProject>& project);
     void select(const vbide::Ref<vbide::VBComponent>& component) { selected_ = component; }
