@@ -235,6 +235,7 @@ private:
     void refuseDevice(Procedure& here, const QLProject& project, const std::string& device);
     void closeAdded(Procedure& here, const Project& project);
     void keepState(Procedure& here, const QLProject& project);
+    void keepDesktopState(Procedure& here, const Project& vbProject);
 
     // Components, references and the build
     void CompsEventsHandler_ItemAdded(Component VBComponent);

@@ -120,7 +120,12 @@ void Connect::keepState(Procedure& here, const QLProject& project) {
         use_.messages.SaveCompileErrorWindowState(vbProject);
         if (here.test([&] { return !vbProject->Saved(); })) project->SaveFiles();
     }
-    if (project->IsStartUpProject()) return;
+    if (!project->IsStartUpProject() && use_.addIn.gConnectMode != vbide::vbext_cm_CommandLine)
+        keepDesktopState(here, vbProject);
+}
+
+/// A run of the command line has none of it, and must not replace what a user arranged at the desktop.
+void Connect::keepDesktopState(Procedure& here, const Project& vbProject) {
     if (here.test([&] { return !use_.projects.ProjectIsFromTemplate(vbProject); }))
         here([&] { use_.commands.AddProjectToRecentList(vbProject); });
     here([&] { use_.commands.SaveAllToolbarState(); });
