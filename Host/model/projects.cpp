@@ -135,7 +135,7 @@ void Projects::Remove(const vbide::Ref<vbide::VBProject>& project) {
     if (!path.empty()) host->tellFile(&vbide::FileControlEvents::AfterCloseFile, *own, path);
     host->forget(project);
     own->close();
-    if (!host->ActiveVBProject() && !list_.empty()) host->activate(list_.front());
+    if (!host->ActiveVBProject() && !list_.empty()) host->activate(list_.back()); // the one that came last
 }
 
 /// The active one goes last, so that none of those that follow it out comes to the front in between.

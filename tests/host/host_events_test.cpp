@@ -134,6 +134,16 @@ TEST(HostEvents, RemovingTheActiveProjectActivatesAnother) {
     EXPECT_EQ(errorOf([&] { host.ide->ActiveVBProject(second); }), 5);
 }
 
+TEST(HostEvents, AmongSeveralTheOneThatCameLastFollowsIt) {
+    TestHost host;
+    const auto first = host.open(SampleProject("First"));
+    host.open(SampleProject("Second"));
+    const auto third = host.open(SampleProject("Third"));
+    host.ide->ActiveVBProject(first);
+    host.ide->VBProjects()->Remove(first);
+    EXPECT_EQ(host.ide->ActiveVBProject(), third);
+}
+
 TEST(HostEvents, AWriteIsAskedForAndReported) {
     TestHost host;
     const auto project = host.open(SampleProject().form("frmA"));
