@@ -85,6 +85,8 @@ public:
     void close();
     /// Saves the project's components that have a file and then the project, those that are dirty only.
     void saveProject(const vbide::Ref<vbide::VBProject>& project);
+    /// Whether the file (native, absolute) lies below a folder of templates.
+    bool isTemplate(const std::string& path) const;
     PaneEvents panes;
     Bars& bars() { return *bars_; }
     ToolWindows& toolWindows() { return *windows_; }
@@ -97,8 +99,6 @@ public:
     vbide::FileControlEvents& fileEvents() { return *fileEvents_.shared(); }
     std::vector<LoadProblem>& problems() { return loadProblems_; }
 
-    /// Whether the file (native, absolute) lies below a folder of templates.
-    bool isTemplate(const std::string& path) const;
     /// A project that has just been taken in is the active one from the first; its ItemAdded says so for both.
     void welcome(const vbide::Ref<vbide::VBProject>& project);
     /// Makes the project the active one and says so; nothing when it is that already.

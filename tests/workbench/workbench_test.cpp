@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QDockWidget>
 #include <QLabel>
+#include <QListWidget>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QSettings>
@@ -353,6 +354,21 @@ TEST_F(Desktop, AFormOfAHandheldProjectGetsTheDevicesShape) {
     EXPECT_EQ(fernwick::asDouble(form->Properties()->Item("ScaleWidth")->Value()), 160);
     EXPECT_EQ(form->CodeModule()->Lines(1, 1), "Option Explicit");
     EXPECT_EQ(window().code().current()->component(), form);
+}
+
+TEST_F(Desktop, ANewProjectComesFromTheTemplateOfTheDeviceThatTheUserChooses) {
+    bench->connect();
+    test::whenShown([](QDialog& window) {
+        window.findChild<QListWidget*>("lstQuickDesignTargets")->setCurrentRow(1);
+        test::click(window, "btnOK");
+    });
+    bench->open(FERNWICK_SOURCE_DIR "/installation/Template/Projects/Fernwick Project.vbp");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return explorerEntries().size() == 3; }, 2000));
+    EXPECT_THAT(explorerEntries(), ElementsAre("Project1 (Project1) *", " Forms", "  Form1 (Form1) *"));
+    EXPECT_EQ(project()->ReadProperty("Quinloft Global", "TargetDevice"), "PocketPC-SH3");
+    EXPECT_EQ(fernwick::asDouble(component("Form1")->Properties()->Item("ScaleHeight")->Value()), 320);
+    EXPECT_EQ(project()->VBComponents()->StartUpObject().component, component("Form1"));
+    EXPECT_FALSE(workbench::RecentProjects::stored().join("").contains("Template"));
 }
 
 TEST_F(Desktop, WindowsOfARemovedProjectClose) {
