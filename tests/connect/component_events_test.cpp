@@ -210,22 +210,40 @@ TEST_F(ComponentEvents, DefaultNamesAreAWordAndANumber) {
     EXPECT_FALSE(IsDefaultClassName(*named("Class1", kForm).shared()));
 }
 
-TEST_F(ComponentEvents, EachCallThatFailsCostsOnlyItself) {
-    for (const auto type : {kModule, kForm, vbide::vbext_ct_UserControl})
+/// Each of the calls fails once: at most one report.
+class FailingComponentEvents : public ComponentEvents {
+protected:
+    template <class Raise>
+    void sweep(const std::string& name, vbide::vbext_ComponentType type, Raise raise) {
         for (int failing = 1;; ++failing) {
             project->components->list.clear();
-            const auto made = component(project, type == kForm ? "Form1" : "Module1", type);
+            const auto made = component(project, name, type);
             made->designerOpen = true;
             connection->ComponentAddGuard = false;
             errors.injected = 0;
             trace.calls = 0;
             trace.failing = failing;
-            vbe->events->components->ItemAdded.raise(made);
+            raise(made);
             trace.failing = 0;
-            EXPECT_LE(errors.injected, 1) << failing;
+            EXPECT_LE(errors.injected, 1) << name << failing;
             if (trace.calls < failing) break;
             loop.turn();
         }
+    }
+};
+
+TEST_F(FailingComponentEvents, OfAddedComponentsCostOnlyThemselves) {
+    const auto tell = [&](const auto& made) { vbe->events->components->ItemAdded.raise(made); };
+    sweep("Module1", kModule, tell);
+    sweep("Class1", kClass, tell);
+    sweep("Form1", kForm, tell);
+    sweep("frmMine", kForm, tell);
+    sweep("UserControl1", vbide::vbext_ct_UserControl, tell);
+}
+
+TEST_F(FailingComponentEvents, OfFormsThatTheUserTurnsToCostOnlyThemselves) {
+    sweep("frmMine", kForm, [&](const auto& made) { vbe->events->components->ItemSelected.raise(made); });
+    sweep("frmMine", kForm, [&](const auto& made) { vbe->events->components->ItemActivated.raise(made); });
 }
 
 } // namespace

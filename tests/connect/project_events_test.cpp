@@ -387,6 +387,27 @@ TEST_F(FailingEvents, OfANewProjectCostOnlyThemselves) {
         [&] { vbe->events->projects->ItemAdded.raise(project); }, "restore toolbars");
 }
 
+TEST_F(FailingEvents, OfAProjectThatIsTurnedAwayCostOnlyThemselves) {
+    commands.unknownDevice = {false, "/p/B.vbp"};
+    test::Ref<test::TracedProject> project;
+    sweep(
+        [&] {
+            startOver();
+            project = opened("A", "Gone-9");
+        },
+        [&] { vbe->events->projects->ItemAdded.raise(project); }, "restore toolbars");
+}
+
+TEST_F(FailingEvents, OfAnActivatedProjectCostOnlyThemselves) {
+    test::Ref<test::TracedProject> project;
+    sweep(
+        [&] {
+            startOver();
+            project = added("A");
+        },
+        [&] { vbe->events->projects->ItemActivated.raise(project); }, "sink: references of A");
+}
+
 TEST_F(FailingEvents, OfARemovedProjectCostOnlyThemselves) {
     test::Ref<test::TracedProject> project;
     sweep(
