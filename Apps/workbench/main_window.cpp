@@ -43,6 +43,7 @@ MainWindow::MainWindow(host::Host& host, BarsView::Run run, MayClose mayClose)
     connect(&titleSoon_, &QTimer::timeout, this, [this] { showTitle(); });
 
     const auto soon = [this](const auto&...) { titleSoon_.start(); };
+    watches_.push_back(host.Events()->VBProjectsEvents()->ItemAdded.connect(soon));
     watches_.push_back(host.Events()->VBProjectsEvents()->ItemActivated.connect(soon));
     watches_.push_back(host.Events()->VBProjectsEvents()->ItemRemoved.connect(soon));
     watches_.push_back(host.Events()->VBProjectsEvents()->ItemRenamed.connect(soon));

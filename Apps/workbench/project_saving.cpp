@@ -31,6 +31,11 @@ std::string askForName(const std::string& name, const char* extension, QString& 
     return text(QFileInfo(path).suffix().isEmpty() ? path + extension : path);
 }
 
+void forgetChanges(const vbide::Ref<vbide::VBProject>& project) {
+    project->IsDirty(false);
+    for (const auto& component : project->VBComponents()->items()) component->IsDirty(false);
+}
+
 } // namespace
 
 bool isUnsaved(const vbide::Ref<vbide::VBProject>& project) {
@@ -57,13 +62,20 @@ bool saveWithNames(host::Host& host, const vbide::Ref<vbide::VBProject>& project
     return true;
 }
 
-bool mayBeClosed(host::Host& host, const vbide::Ref<vbide::VBProject>& project, QWidget* window) {
-    if (!isUnsaved(project)) return true;
-    const auto answer =
-        QMessageBox::question(window, "Fernwick Workbench", QString("Save the changes to %1?").arg(qt(project->Name())),
-                              QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
-    if (answer == QMessageBox::Save) return saveWithNames(host, project, window);
-    return answer == QMessageBox::Discard;
+bool mayBeClosed(host::Host& host, const std::vector<vbide::Ref<vbide::VBProject>>& projects, QWidget* window) {
+    std::vector<vbide::Ref<vbide::VBProject>> givenUp;
+    for (const auto& project : projects) {
+        if (!isUnsaved(project)) continue;
+        const auto answer = QMessageBox::question(window, "Fernwick Workbench",
+                                                  QString("Save the changes to %1?").arg(qt(project->Name())),
+                                                  QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
+        if (answer == QMessageBox::Discard)
+            givenUp.push_back(project);
+        else if (answer != QMessageBox::Save || !saveWithNames(host, project, window))
+            return false;
+    }
+    for (const auto& project : givenUp) forgetChanges(project); // not before all questions have been answered
+    return true;
 }
 
 } // namespace workbench

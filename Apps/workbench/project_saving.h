@@ -9,8 +9,9 @@ namespace workbench {
 /// the user cancelled. Errors as those of SaveAs.
 bool saveWithNames(host::Host& host, const vbide::Ref<vbide::VBProject>& project, QWidget* window);
 
-/// Whether the project may be closed: asks about changes, and saves them where the user says so.
-bool mayBeClosed(host::Host& host, const vbide::Ref<vbide::VBProject>& project, QWidget* window);
+/// Whether all of them may be closed: asks about changes, and saves them where the user says so. What the user gives
+/// up counts as saved from then on, so that nobody saves it at the closing.
+bool mayBeClosed(host::Host& host, const std::vector<vbide::Ref<vbide::VBProject>>& projects, QWidget* window);
 
 /// Whether something of it is not on disk.
 bool isUnsaved(const vbide::Ref<vbide::VBProject>& project);

@@ -68,10 +68,12 @@ void findNext(MainWindow& window) {
     if (auto* editor = window.code().current()) editor->scintilla().findNext();
 }
 
+/// An add-in may put another component in its place.
 void addComponent(host::Host& host, vbide::vbext_ComponentType type) {
     const auto active = host.ActiveVBProject();
     if (!active) return;
-    active->VBComponents()->Add(type)->CodeModule()->CodePane()->Show();
+    active->VBComponents()->Add(type);
+    if (const auto added = host.SelectedVBComponent()) added->CodeModule()->CodePane()->Show();
 }
 
 void addFile(host::Host& host, MainWindow& window) {

@@ -44,7 +44,7 @@ Workbench::Workbench()
                        },
                        [this] {
                            const auto active = host_->ActiveVBProject();
-                           if (active && mayBeClosed(*host_, active, window_.get()))
+                           if (active && mayBeClosed(*host_, {active}, window_.get()))
                                host_->VBProjects()->Remove(active);
                        }});
     recent_ = std::make_unique<RecentProjects>(*host_, recentMenu(*host_), [this](const auto& path) { open(path); });
@@ -154,10 +154,6 @@ bool Workbench::mayRunSteps(const std::string& commandLine, const std::string& f
     return true;
 }
 
-bool Workbench::mayClose() {
-    for (const auto& project : host_->VBProjects()->items())
-        if (!mayBeClosed(*host_, project, window_.get())) return false;
-    return true;
-}
+bool Workbench::mayClose() { return mayBeClosed(*host_, host_->VBProjects()->items(), window_.get()); }
 
 } // namespace workbench

@@ -85,13 +85,17 @@ void Component::Name(const std::string& name) {
         throw hostError(basic::kInvalidPropertyValue, fmt::format("'{}' is not a legal object name", name));
     const auto other = project->components().named(name);
     if (other && other.get() != this) throwNameTaken(name);
-    source_.name(name);
-    const auto oldName = std::exchange(name_, name);
+    const auto oldName = rename(name);
     dirty_ = true;
     project->components().renamed(*this, oldName);
     project->writeMember(*this);
     project->followRename(oldName, name);
     project->host()->tell(project->componentsEvents->ItemRenamed, shared_from_this(), oldName);
+}
+
+std::string Component::rename(const std::string& name) {
+    source_.name(name);
+    return std::exchange(name_, name);
 }
 
 vbide::vbext_ComponentType Component::Type() const {
@@ -142,7 +146,7 @@ void Component::SaveAs(const std::string& path) {
 
 /// The form's resources go with it, and it refers to them by their new name.
 void Component::copyCompanion(Project& project, const std::string& target) {
-    const auto companion = companionOnDisk(origin_.path);
+    const auto companion = companionOnDisk(resourcesOf());
     if (companion.empty()) return;
     const auto copy = companionOf(target);
     if (!project.host()->writeFile(project, copy, readFile(companion).bytes, std::nullopt)) return;
@@ -150,6 +154,7 @@ void Component::copyCompanion(Project& project, const std::string& target) {
 }
 
 void Component::becomeNew() {
+    template_ = origin_.path;
     origin_ = {};
     dirty_ = true;
 }
@@ -211,7 +216,7 @@ DesignerHooks Component::designerHooks() {
 /// Read once: a form refers to its companion many times.
 std::shared_ptr<const ResourceFile> Component::resources(const std::string& name) {
     PathLookup lookup;
-    const auto path = lookup.find(folderNameOf(origin_.path), name);
+    const auto path = lookup.find(folderNameOf(resourcesOf()), name);
     const auto [entry, isNew] = resources_.try_emplace(path);
     if (isNew) entry->second = readResources(path);
     return entry->second;

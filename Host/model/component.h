@@ -57,8 +57,10 @@ public:
     const std::string& path() const { return origin_.path; }
     const std::optional<ProjectFile::Place>& member() const { return origin_.member; }
     void member(std::optional<ProjectFile::Place> place) { origin_.member = place; }
-    /// Forgets its file: a component of a new project made from a template.
+    /// Forgets its file: it was made from a template, from where its resources come until it is saved.
     void becomeNew();
+    /// Writes another name into its text, before it is taken in. Gives the old one.
+    std::string rename(const std::string& name);
     /// The text was edited.
     void changed() { dirty_ = true; }
     /// From now on every member raises an error, those of its designer too.
@@ -75,6 +77,8 @@ private:
     FormDesigner& designer();
     std::shared_ptr<const ResourceFile> resources(const std::string& name);
     DesignerHooks designerHooks();
+    /// The file beside which the binary companion lies.
+    const std::string& resourcesOf() const { return origin_.path.empty() ? template_ : origin_.path; }
     void copyCompanion(Project& project, const std::string& target);
 
     std::weak_ptr<Project> project_;
@@ -82,6 +86,7 @@ private:
     std::string name_;
     SourceFile source_;
     ComponentOrigin origin_;
+    std::string template_;
     bool dirty_ = false, removing_ = false;
     std::shared_ptr<ToolWindow> designerWindow_;
     std::shared_ptr<ModuleCode> code_;

@@ -33,6 +33,8 @@ public:
 private:
     std::shared_ptr<Project> project() const;
     std::string freeName(std::string_view stem) const;
+    vbide::Ref<vbide::VBComponent> addTemplate(const std::shared_ptr<Component>& component);
+    void welcomeNew(const std::shared_ptr<Component>& component);
 
     Project* project_;
     std::vector<std::shared_ptr<Component>> list_;

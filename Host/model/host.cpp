@@ -7,6 +7,7 @@
 #include "Host/model/project.h"
 #include "Host/model/projects.h"
 #include "Host/model/tool_windows.h"
+#include <algorithm>
 
 namespace host {
 namespace {
@@ -71,6 +72,19 @@ std::string Host::TemplatePath() const { return options_.templatePath; }
 void Host::ActiveVBProject(const vbide::Ref<vbide::VBProject>& project) {
     if (!projects_->holds(project)) throw hostError(basic::kInvalidProcedureCall);
     activate(project);
+}
+
+bool Host::isTemplate(const std::string& path) const {
+    const auto isBelow = [&](const std::string& folder) {
+        return !folder.empty() && path.starts_with(absolutePath(folder) + "/");
+    };
+    const auto& others = options_.templateFolders;
+    return isBelow(options_.templatePath) || std::any_of(others.begin(), others.end(), isBelow);
+}
+
+void Host::welcome(const vbide::Ref<vbide::VBProject>& project) {
+    active_ = project;
+    tell(projectsEvents_->ItemAdded, project);
 }
 
 void Host::activate(const vbide::Ref<vbide::VBProject>& project) {

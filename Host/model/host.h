@@ -30,6 +30,8 @@ struct HostOptions {
     basic::CodePage codePage = basic::CodePage::windows1252();
     /// The folder above the host's project templates.
     std::string templatePath;
+    /// Further folders of templates. What is opened or added from below any of them is new, without a file of its own.
+    std::vector<std::string> templateFolders;
     /// Type libraries and control classes are looked up here.
     fernwick::Registry* registry = nullptr;
     /// Makes the documents of tool windows.
@@ -83,6 +85,8 @@ public:
     void close();
     /// Saves the project's components that have a file and then the project, those that are dirty only.
     void saveProject(const vbide::Ref<vbide::VBProject>& project);
+    /// Whether the file (native, absolute) lies below a folder of templates.
+    bool isTemplate(const std::string& path) const;
     PaneEvents panes;
     Bars& bars() { return *bars_; }
     ToolWindows& toolWindows() { return *windows_; }
@@ -95,6 +99,8 @@ public:
     vbide::FileControlEvents& fileEvents() { return *fileEvents_.shared(); }
     std::vector<LoadProblem>& problems() { return loadProblems_; }
 
+    /// A project that has just been taken in is the active one from the first; its ItemAdded says so for both.
+    void welcome(const vbide::Ref<vbide::VBProject>& project);
     /// Makes the project the active one and says so; nothing when it is that already.
     void activate(const vbide::Ref<vbide::VBProject>& project);
     void select(const vbide::Ref<vbide::VBComponent>& component) { selected_ = component; }
