@@ -65,7 +65,7 @@ void MessageGrid::fitHeight(Row& row) {
     rowHeightMin_ = line > 0 ? line : kLeastRowHeight;
 }
 
-void MessageGrid::SetGridSizes(std::int32_t documentWidth, std::int32_t documentHeight) {
+void MessageGrid::SetGridSizes(std::int32_t documentWidth, std::int32_t documentHeight, std::int32_t top) {
     width_ = documentWidth;
     if (documentHeight - top > 0) height_ = documentHeight - top;
     const auto picture = twips(double(kPicturePixels) * twipsX_);

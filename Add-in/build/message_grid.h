@@ -71,9 +71,8 @@ public:
     /// As many lines as the message fills the last column.
     void fitHeight(Row& row);
 
-    /// The document's new size; the grid's top is where it stands in it.
-    void SetGridSizes(std::int32_t documentWidth, std::int32_t documentHeight);
-    std::int32_t top = 0;
+    /// The document's size, and where in it the grid begins.
+    void SetGridSizes(std::int32_t documentWidth, std::int32_t documentHeight, std::int32_t top);
     std::int32_t width() const { return width_; }
     std::int32_t height() const { return height_; }
     std::int32_t columnWidth(Column column) const { return columnWidths_[column]; }

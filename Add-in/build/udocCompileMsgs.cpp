@@ -19,7 +19,7 @@ std::string withoutLineEnd(std::string message) {
 
 udocCompileMsgs::udocCompileMsgs(const CompileMsgsServices& services)
     : use_(services), grid_(services.platform.screen) {
-    grid_.SetGridSizes(0, 0);
+    grid_.SetGridSizes(0, 0, 0);
 }
 
 void udocCompileMsgs::SetStatusLabel(const std::string& newStatusLabel) {
@@ -41,6 +41,7 @@ void udocCompileMsgs::add(const std::string& aFileName, const std::string& aFile
 }
 
 std::shared_ptr<const std::string> udocCompileMsgs::pictureOf(int number) {
+    if (!use_) throw basic::RuntimeError(basic::kObjectVariableNotSet);
     auto& picture = pictures_[number];
     if (!picture) picture = std::make_shared<const std::string>(use_->platform.resources.LoadBitmap(number));
     return picture;
@@ -78,10 +79,11 @@ void udocCompileMsgs::select(std::int32_t row) {
     selectedRow_ = row;
 }
 
-void udocCompileMsgs::UserDocument_Resize(std::int32_t width, std::int32_t height) {
+void udocCompileMsgs::UserDocument_Resize(std::int32_t width, std::int32_t height, std::int32_t gridTop) {
     documentWidth_ = width;
     documentHeight_ = height;
-    grid_.SetGridSizes(width, height);
+    gridTop_ = gridTop;
+    grid_.SetGridSizes(width, height, gridTop);
     SetStatusSizes();
 }
 
@@ -95,7 +97,7 @@ void udocCompileMsgs::SetStatusSizes() {
 void udocCompileMsgs::drawWith(const DeviceContext* context) {
     grid_.measureWith(context);
     grid_.measureAll();
-    UserDocument_Resize(documentWidth_, documentHeight_);
+    UserDocument_Resize(documentWidth_, documentHeight_, gridTop_);
 }
 
 } // namespace fernwick

@@ -66,6 +66,8 @@ public:
     /// 0 for the header.
     std::int32_t selectedRow() const { return selectedRow_; }
     const StatusSizes& statusSizes() const { return statusSizes_; }
+    /// A BMP file's bytes. An error for a number that has no picture, and when the add-in is gone.
+    std::shared_ptr<const std::string> pictureOf(int number);
     /// What a copy of the row says.
     std::string copyText(std::int32_t row) const;
 
@@ -78,8 +80,8 @@ public:
     /// Chooses the row and opens its source line, if it has one, but does nothing else about it: for a walk through all
     /// messages.
     void showSource(std::int32_t row);
-    /// The window's inner size, in twips.
-    void UserDocument_Resize(std::int32_t width, std::int32_t height);
+    /// The window's inner size and where in it the grid begins, in twips.
+    void UserDocument_Resize(std::int32_t width, std::int32_t height, std::int32_t gridTop);
     /// What the window measures texts with, null when it goes; once more when its font is another.
     void drawWith(const DeviceContext* context);
 
@@ -96,12 +98,11 @@ private:
     void showHelp(Procedure& here);
     void copyRow(Procedure& here);
     void box(const std::string& text, int icon);
-    std::shared_ptr<const std::string> pictureOf(int number);
 
     /// Nothing when the add-in is gone.
     std::optional<CompileMsgsServices> use_;
     MessageGrid grid_;
-    std::int32_t documentWidth_ = 0, documentHeight_ = 0;
+    std::int32_t documentWidth_ = 0, documentHeight_ = 0, gridTop_ = 0;
     StatusSizes statusSizes_;
     std::int32_t selectedRow_ = 0;
     /// Those that were loaded, by number.

@@ -13,7 +13,7 @@ protected:
         resize(1020, 400); // leaves 1000 pixels to the texts, 760 of them to the message
     }
     ~MessageRows() override { window->drawWith(nullptr); }
-    void resize(int width, int height) { window->UserDocument_Resize(width * 15, height * 15); }
+    void resize(int width, int height) { window->UserDocument_Resize(width * 15, height * 15, 40 * 15); }
     void add(const std::string& message, int type = fernwick::ERROR_MSG, bool atTop = false) {
         window->add("/p/Form1.frm", "Form1", 12, message, type, 1042, atTop);
     }
@@ -73,9 +73,9 @@ TEST_F(MessageRows, AreNeverWithoutWidth) {
 }
 
 TEST_F(MessageRows, KeepTheGridsHeightWhenTheWindowIsTooLow) {
-    EXPECT_EQ(window->msgGrid().height(), 400 * 15);
-    resize(1020, 0);
-    EXPECT_EQ(window->msgGrid().height(), 400 * 15);
+    EXPECT_EQ(window->msgGrid().height(), 360 * 15);
+    resize(1020, 40);
+    EXPECT_EQ(window->msgGrid().height(), 360 * 15);
     EXPECT_EQ(window->msgGrid().width(), 1020 * 15);
 }
 
