@@ -71,7 +71,7 @@ void MessageList::keyPressEvent(QKeyEvent* event) {
 
 void MessageList::changeEvent(QEvent* event) {
     QTreeView::changeEvent(event);
-    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) fontChanged();
+    if (event->type() == QEvent::FontChange) fontChanged();
 }
 
 void MessageList::resizeEvent(QResizeEvent* event) {

@@ -7,7 +7,7 @@
 
 namespace workbench {
 
-/// Decision by the document: order, texts, heights. Rows that it gets show when they are taken up, all at once; those
+/// Order, texts and heights are the document's. Rows that it gets show when they are taken up, all at once; those
 /// that it loses go at once.
 class MessageRows final : public QAbstractTableModel {
 public:

@@ -54,7 +54,10 @@ MessagesView::MessagesView(basic::Ref<Document> document, Run run)
     draw();
 }
 
-MessagesView::~MessagesView() { document_->drawWith(nullptr); }
+MessagesView::~MessagesView() {
+    list_->selectionModel()->disconnect(this); // the rows go before the list
+    document_->drawWith(nullptr);
+}
 
 void MessagesView::putTogether() {
     shown_.setSourceModel(&rows_);
@@ -63,7 +66,10 @@ void MessagesView::putTogether() {
     list_->setColumnHidden(Grid::FileNameColumn, true);
     list_->pressed = [this](const QKeyEvent& key) { return pressed(key); };
     list_->resized = [this] { layOut(); };
-    list_->fontChanged = [this] { document_->drawWith(&list_->deviceContext()); };
+    list_->fontChanged = [this] {
+        document_->drawWith(&list_->deviceContext());
+        layOut();
+    };
     connect(list_, &QTreeView::doubleClicked, this, [this](const QModelIndex& index) { goTo(index); });
     connect(list_->selectionModel(), &QItemSelectionModel::currentChanged, this, [this] { enableCommands(); });
     bar_->filter().installEventFilter(this);

@@ -111,6 +111,12 @@ TEST_F(MessageRows, GrowInANarrowerWindowAndAreNotMeasuredAnew) {
     EXPECT_LE(font.measured, 2); // the status line's label
 }
 
+TEST_F(MessageRows, AreMeasuredWhenTheyComeAndNotAgain) {
+    font.measured = 0;
+    for (int i = 0; i < 100; ++i) add("m");
+    EXPECT_EQ(font.measured, 100);
+}
+
 TEST_F(MessageRows, FollowALargerFont) {
     add("short");
     font.lineHeight = 40;

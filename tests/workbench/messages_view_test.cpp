@@ -66,6 +66,17 @@ TEST_F(Messages, GrowInANarrowerWindow) {
     EXPECT_GT(list().visualRect(at(0)).height(), wide);
 }
 
+TEST_F(Messages, GrowInALargerFont) {
+    error("short");
+    settle();
+    auto font = list().font();
+    font.setPointSize(3 * font.pointSize());
+    list().setFont(font);
+    settle();
+    EXPECT_GE(document().msgGrid().rowHeight(1), list().fontMetrics().height() * 15);
+    EXPECT_GE(list().visualRect(at(0)).height(), list().fontMetrics().height());
+}
+
 TEST_F(Messages, WithALineBreakShowTwoLines) {
     error("first\r\nsecond");
     settle();
