@@ -1,8 +1,8 @@
 #include "Apps/workbench/bars_view.h"
 #include "Apps/workbench/command_icons.h"
+#include "Apps/workbench/pictures.h"
 #include "Apps/workbench/text.h"
 #include <QAction>
-#include <QBitmap>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
@@ -46,15 +46,9 @@ void setActions(QWidget& widget, const QList<QAction*>& wanted, const QList<bool
     }
 }
 
-/// The grey that stands for nothing in a face.
-const QColor kFaceGround(192, 192, 192);
-
 QIcon faceOf(const host::BarControl& control) {
-    QImage face;
-    if (!face.loadFromData(QByteArray::fromStdString(control.face()), "BMP")) return iconOf(control.Id());
-    auto picture = QPixmap::fromImage(face);
-    picture.setMask(picture.createMaskFromColor(kFaceGround.rgb()));
-    return picture;
+    const auto face = pictureOf(control.face());
+    return face.isNull() ? iconOf(control.Id()) : QIcon(face);
 }
 
 void showFace(QAction& action, const host::BarControl& control) {

@@ -87,10 +87,12 @@ void MainWindow::drawToolWindow(const std::shared_ptr<host::ToolWindow>& window)
     const auto title = qt(window->Caption());
     auto* const view = new MessagesView(messages, run_);
     view->drawn = [this, messages] { markMessages(*messages.shared()); };
+    addActions(view->walk());
     auto* dock = findChild<QDockWidget*>(title);
-    if (dock)
-        dock->setWidget(view); // the add-in was connected anew
-    else
+    if (dock) { // the add-in was connected anew
+        delete dock->widget();
+        dock->setWidget(view);
+    } else
         dock = addDock(title, title, view, Qt::BottomDockWidgetArea);
     docks_[window] = dock;
     follow(*window, *dock);
@@ -113,7 +115,7 @@ void MainWindow::markMessages(const fernwick::udocCompileMsgs& messages) {
         const auto& shown = messages.message(row);
         if (shown.cells[Document::LineColumn].empty()) continue;
         marks[shown.cells[Document::TitleColumn]].push_back({basic::CLng(shown.cells[Document::LineColumn]),
-                                                             shown.picture == fernwick::ERROR_MSG,
+                                                             shown.type == fernwick::ERROR_MSG,
                                                              shown.cells[Document::MessageColumn]});
     }
     code_->mark(std::move(marks));

@@ -1,4 +1,5 @@
 #include "Apps/workbench/pictures.h"
+#include <QBitmap>
 #include <QStyle>
 #include <array>
 
@@ -18,6 +19,9 @@ constexpr std::array kPictures{
     Picture{"devices", QStyle::SP_ComputerIcon},
 };
 
+/// The grey that stands for nothing in a picture of the installation.
+const QColor kPictureGround(192, 192, 192);
+
 } // namespace
 
 QPixmap pictureNamed(const std::string& name, const QWidget& window) {
@@ -27,6 +31,14 @@ QPixmap pictureNamed(const std::string& name, const QWidget& window) {
             return window.style()->standardIcon(picture.drawn, nullptr, &window).pixmap(size);
         }
     return {};
+}
+
+QPixmap pictureOf(const std::string& bmp) {
+    QImage image;
+    if (!image.loadFromData(QByteArray::fromStdString(bmp), "BMP")) return {};
+    auto picture = QPixmap::fromImage(image);
+    picture.setMask(picture.createMaskFromColor(kPictureGround.rgb()));
+    return picture;
 }
 
 } // namespace workbench

@@ -8,4 +8,8 @@ namespace workbench {
 /// The picture that a form asks for by name, in the window's style; an empty one for a name that is not known.
 QPixmap pictureNamed(const std::string& name, const QWidget& window);
 
+/// A BMP file's bytes, with the grey that stands for nothing in the installation's pictures see-through; an empty one for
+/// what is no picture.
+QPixmap pictureOf(const std::string& bmp);
+
 } // namespace workbench

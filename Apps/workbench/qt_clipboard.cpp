@@ -1,5 +1,6 @@
 #include "Apps/workbench/qt_clipboard.h"
 #include "Apps/workbench/text.h"
+#include "Basic/code_page.h"
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QMimeData>
@@ -23,6 +24,8 @@ void QtClipboard::SetData(const std::string& format, const std::string& data) {
     auto fresh = std::make_unique<QMimeData>();
     for (const auto& there : Formats()) fresh->setData(qt(there), QByteArray::fromStdString(GetData(there)));
     fresh->setData(qt(format), QByteArray::fromStdString(data));
+    if (format == fernwick::kAnsiTextFormat && !fresh->hasFormat(fernwick::kTextFormat))
+        fresh->setText(qt(basic::CodePage::windows1252().decode(data.substr(0, data.find('\0')))));
     QGuiApplication::clipboard()->setMimeData(fresh.release());
 }
 

@@ -234,7 +234,7 @@ TEST_F(Desktop, AnErrorOfABuildLeadsToItsLine) {
 TEST_F(Desktop, AGoodBuildMakesTheImage) {
     openSample("HelloWorld");
     EXPECT_TRUE(compile().empty());
-    EXPECT_THAT(window().findChild<QLabel*>("lblStatusText")->text().toStdString(), HasSubstr("Status: SUCCESS"));
+    EXPECT_THAT(window().findChild<QLabel*>("lblStatusText")->text().toStdString(), HasSubstr("SUCCESS"));
     EXPECT_TRUE(std::filesystem::exists(folder / "HelloWorld/HelloWorld.0000.qlx"));
 }
 
