@@ -1,5 +1,6 @@
 #pragma once
 // What the lower rooms reach of the menu, the toolbars and the dialogs.
+#include "Add-in/commands/frmGettingStarted.h"
 #include "Add-in/commands/modClipboardManagement.h"
 #include "Add-in/commands/modMenuManagement.h"
 #include "Add-in/commands/modToolbarManagement.h"
@@ -7,7 +8,7 @@
 
 namespace fernwick {
 
-/// Passes each call on to the module that does the work. The zoom window, the introduction, the project manager and
+/// Passes each call on to the module that does the work. The zoom window, the project manager and
 /// the settings are not here yet: what they would do when nobody asked for them is left out without a word, and where
 /// a user asked, the desktop says that it isn't here.
 class CommandSurface final : public IdeCommands {
@@ -16,8 +17,14 @@ public:
     using Project = basic::Ref<vbide::VBProject>;
 
     CommandSurface(Interaction& user, AddIn& addIn, CommandItems& items, modMenuManagement& menu,
-                   modToolbarManagement& toolbars, modClipboardManagement& clipboard)
-        : user_(user), addIn_(addIn), items_(items), menu_(menu), toolbars_(toolbars), clipboard_(clipboard) {}
+                   modToolbarManagement& toolbars, modClipboardManagement& clipboard, frmGettingStarted& gettingStarted)
+        : user_(user),
+          addIn_(addIn),
+          items_(items),
+          menu_(menu),
+          toolbars_(toolbars),
+          clipboard_(clipboard),
+          gettingStarted_(gettingStarted) {}
 
     bool SetUpQuinloftMenu(const basic::Ref<vbide::VBE>& VBInst) override { return menu_.SetUpQuinloftMenu(VBInst); }
     bool SetupQuinloftToolbar() override { return toolbars_.SetupQuinloftToolbar(); }
@@ -43,7 +50,7 @@ public:
 
     void createZoomWindow() override {}
     void InitZoomWindow() override {}
-    void ShowGettingStarted() override {}
+    void ShowGettingStarted() override { gettingStarted_.ShowModal(); }
     void ShowProjectManagerOnDelay() override { notInThisBuild(); }
     void ShowQuinloftSettings(const Project&, const std::string&, bool) override { notInThisBuild(); }
 
@@ -56,6 +63,7 @@ private:
     modMenuManagement& menu_;
     modToolbarManagement& toolbars_;
     modClipboardManagement& clipboard_;
+    frmGettingStarted& gettingStarted_;
 };
 
 } // namespace fernwick
