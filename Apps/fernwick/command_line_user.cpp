@@ -14,6 +14,9 @@ namespace {
 constexpr int kRepeatsToHarmless = 2;
 constexpr int kRepeatsToEnd = 4;
 
+/// Asks nothing: it is closed without a word.
+constexpr std::string_view kIntroduction = "frmGettingStarted";
+
 template <class C>
 C* firstControl(Form& form) {
     for (auto* control : form.Controls())
@@ -76,7 +79,10 @@ void CommandLineUser::showModal(Form& form) {
     if (status) console_.progress(0, form.Caption());
 
     form.activate();
-    if (form.Visible()) answerForm(form);
+    if (form.typeName() == kIntroduction)
+        cancelButton(form)->press();
+    else if (form.Visible())
+        answerForm(form);
     console_.endProgress();
 }
 
