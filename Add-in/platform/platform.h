@@ -25,9 +25,9 @@ struct App {
     /// The page that the runtime is downloaded from.
     std::string RuntimeWebAddress;
     /// Where the maker shows examples, where developers talk to each other, and what there is for them.
-    std::string SamplesWebAddress;
-    std::string ForumWebAddress;
-    std::string DevelopersWebAddress;
+    std::string SamplesWebAddress{};
+    std::string ForumWebAddress{};
+    std::string DevelopersWebAddress{};
 };
 
 struct Platform {
