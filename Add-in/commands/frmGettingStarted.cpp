@@ -36,7 +36,15 @@ void frmGettingStarted::Form_Load() {
     Procedure here{errors_, "frmGettingStarted.Form_Load"};
     chkDontShow.Value(here.test([&] { return prefs_.GetStartTutorial(); }) ? 0 : 1);
     dontShowClicks_ = chkDontShow.Click.connect([this] { chkDontShow_Click(); });
+    stands_ = false;
     showPage(0);
+}
+
+/// What is to be reported of the first picture comes over the form, not before it. Who closes the form before it stands
+/// never looks for one.
+void frmGettingStarted::Form_Activate() {
+    if (std::exchange(stands_, true)) return;
+    showPicture();
 }
 
 void frmGettingStarted::Form_Unload() { dontShowClicks_.reset(); }
@@ -48,16 +56,17 @@ void frmGettingStarted::showPage(int page) {
     lblTitle.Caption(shown.title);
     lblBody.Caption(shown.body);
     lblPage.Caption(std::to_string(page + 1) + getting_started_texts::kOf + std::to_string(kGettingStartedPages));
-    showPicture(here, shown.picture);
+    if (stands_) showPicture();
     showLinks(here, page);
     cmdPrev.Enabled(page > 0);
     cmdNext.Enabled(page < kLastPage);
 }
 
 /// A page whose picture is missing shows none, rather than that of another page.
-void frmGettingStarted::showPicture(Procedure& here, const char* name) {
+void frmGettingStarted::showPicture() {
+    Procedure here{errors_, "frmGettingStarted.ShowPage"};
     pictMain.Picture("");
-    here([&] { pictMain.Picture(pictureInFolder(platform_, name)); });
+    here([&] { pictMain.Picture(pictureInFolder(platform_, kGettingStarted[std::size_t(page_)].picture)); });
 }
 
 void frmGettingStarted::showLinks(Procedure& here, int page) {

@@ -27,6 +27,7 @@ public:
 
 protected:
     void Form_Load() override;
+    void Form_Activate() override;
     void Form_Unload() override;
 
 private:
@@ -40,7 +41,7 @@ private:
 
     /// From 0.
     void showPage(int page);
-    void showPicture(Procedure& here, const char* name);
+    void showPicture();
     void showLinks(Procedure& here, int page);
     void addLink(const char* text, std::string target);
     void openLink(Procedure& here);
@@ -50,6 +51,8 @@ private:
     modAddinPrefsManagement& prefs_;
     ErrorReport& errors_;
     int page_ = 0;
+    /// The user sees it.
+    bool stands_ = false;
     /// Where the entries of lstLinks lead to.
     std::vector<std::string> linkTargets_;
     /// From the end of the load on: Load puts the box back as designed, and that is nobody's click.

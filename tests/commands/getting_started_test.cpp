@@ -220,6 +220,18 @@ TEST_F(GettingStarted, APictureThatIsMissingIsReportedAndThePageShown) {
     EXPECT_THAT(errors.seen, ElementsAre("frmGettingStarted.ShowPage [53]"));
 }
 
+TEST_F(GettingStarted, TheFirstPictureIsLookedForWhenTheFormStands) {
+    files.files.erase("/addin/welcome.jpg");
+    intro.Load();
+    EXPECT_THAT(errors.seen, IsEmpty());
+    EXPECT_EQ(intro.lblPage.Caption(), "1 of 9");
+    show([&] {
+        intro.activate(); // as after a box
+        EXPECT_EQ(intro.pictMain.Picture(), "");
+    });
+    EXPECT_THAT(errors.seen, ElementsAre("frmGettingStarted.ShowPage [53]"));
+}
+
 class StartPreference : public GettingStarted {
 protected:
     std::string stored() {
