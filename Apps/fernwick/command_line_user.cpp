@@ -14,7 +14,7 @@ namespace {
 constexpr int kRepeatsToHarmless = 2;
 constexpr int kRepeatsToEnd = 4;
 
-/// Asks nothing: it is closed without a word.
+/// Asks nothing: it is closed without a word, and before it looks for its pictures.
 constexpr std::string_view kIntroduction = "frmGettingStarted";
 
 template <class C>
@@ -67,6 +67,7 @@ std::string oneLine(std::string text) {
 } // namespace
 
 void CommandLineUser::showModal(Form& form) {
+    if (form.typeName() == kIntroduction) return cancelButton(form)->press();
     auto* bar = firstControl<fernwick::ProgressBar>(form);
     auto* status = firstControl<fernwick::StatusBar>(form);
     const auto redraw = [this, bar, status] {
@@ -79,10 +80,7 @@ void CommandLineUser::showModal(Form& form) {
     if (status) console_.progress(0, form.Caption());
 
     form.activate();
-    if (form.typeName() == kIntroduction)
-        cancelButton(form)->press();
-    else if (form.Visible())
-        answerForm(form);
+    if (form.Visible()) answerForm(form);
     console_.endProgress();
 }
 
