@@ -39,6 +39,7 @@ struct Modules {
     modImageManagement images{platform};
     modMenuManagement menu{{platform.interaction, errors, addIn, registry, devices, images, items}};
     modToolbarManagement toolbars{{errors, addIn, prefs, images, items}};
+    modSamplesManagement samplesList{registry};
     modViewConvertManagement tools{platform.shell, install, errors};
     modHelpManagement help{platform, install, errors};
     frmAbout about{platform, errors};
