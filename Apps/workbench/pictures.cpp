@@ -1,4 +1,5 @@
 #include "Apps/workbench/pictures.h"
+#include "Apps/workbench/text.h"
 #include <QBitmap>
 #include <QStyle>
 #include <array>
@@ -30,7 +31,7 @@ QPixmap pictureNamed(const std::string& name, const QWidget& window) {
             const int size = window.style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, &window);
             return window.style()->standardIcon(picture.drawn, nullptr, &window).pixmap(size);
         }
-    return {};
+    return QPixmap(qt(name));
 }
 
 QPixmap pictureOf(const std::string& bmp) {

@@ -5,7 +5,8 @@
 
 namespace workbench {
 
-/// The picture that a form asks for by name, in the window's style; an empty one for a name that is not known.
+/// The picture that a form asks for by name, in the window's style, or by the path of its file; an empty one for a name
+/// that is not known and for a file that is no picture.
 QPixmap pictureNamed(const std::string& name, const QWidget& window);
 
 /// A BMP file's bytes, with the grey that stands for nothing in the installation's pictures see-through; an empty one for

@@ -105,4 +105,46 @@ TEST_F(SamplesMenu, AFailureCostsOneBranchAndTheRestStands) {
     EXPECT_THAT(errors.seen, testing::Contains("modMenuManagement.SetupDynamicSamplesMenuHelper [50000]"));
 }
 
+TEST_F(SamplesMenu, AnItemTellsItsProjectAndFolder) {
+    fernwick::clsSampleMenuItem item;
+    item.fullPath = "/s/Tip/Tip.vbp";
+    EXPECT_EQ(item.sampleVbp(files), "Tip.vbp");
+    EXPECT_EQ(item.samplePath(files), "/s/Tip");
+}
+
+class SamplesList : public testing::Test, protected test::CommandsWorld {
+protected:
+    std::vector<std::string> listed() {
+        samples.InitSamplesList();
+        std::vector<std::string> all;
+        for (const auto& sample : samples.gSamplesList) all.push_back(sample.Name + "=" + sample.fullPath);
+        return all;
+    }
+    fernwick::modSamplesManagement samples{registry2};
+};
+
+TEST_F(SamplesList, IsFlatWithTheSamplesOfAKeyBeforeThoseBelow) {
+    addSample("", "Top", "/s/top.vbp");
+    addSample("\\A", "", "A");
+    addSample("\\A", "Leaf", "/s/leaf.vbp");
+    addSample("\\A\\B\\C", "Deep", "/s/deep.vbp");
+    addSample("\\D", "Last", "/s/last.vbp");
+    EXPECT_EQ(samples.SamplesListLength(), 0);
+    EXPECT_THAT(listed(), ElementsAre("Top=/s/top.vbp", "Leaf=/s/leaf.vbp", "Deep=/s/deep.vbp", "Last=/s/last.vbp"));
+    EXPECT_EQ(samples.SamplesListLength(), 4);
+}
+
+TEST_F(SamplesList, LeavesOutWhatHasNoNameOrNoData) {
+    addSample("\\A", "", "A");
+    addSample("\\A", "Empty", "");
+    EXPECT_THAT(listed(), IsEmpty());
+}
+
+TEST_F(SamplesList, IsReadAnewEachTime) {
+    EXPECT_THAT(listed(), IsEmpty());
+    addSample("\\A", "Leaf", "/s/leaf.vbp");
+    EXPECT_THAT(listed(), ElementsAre("Leaf=/s/leaf.vbp"));
+    EXPECT_THAT(listed(), ElementsAre("Leaf=/s/leaf.vbp"));
+}
+
 } // namespace

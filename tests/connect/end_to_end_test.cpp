@@ -23,6 +23,7 @@ protected:
     EndToEnd() {
         targets.known = {"Palm-1"};
         installTemplates();
+        store("SOFTWARE\\Quinloft\\AddinPrefs", "StartTutorial", "False");
         host.ide->listAddIn(kProgId, "Fernwick", [this] { return fernwick::asAddIn(modules); });
     }
     ~EndToEnd() override {
@@ -51,13 +52,16 @@ protected:
                        fernwick::vbOK, fernwick::vbCritical);
     }
 
+    /// In the machine's store.
+    void store(const std::string& path, const std::string& name, const std::string& text) {
+        std::uint32_t key = 0, disposition = 0;
+        host.registry.RegCreateKeyEx(fernwick::HKEY_LOCAL_MACHINE, path, fernwick::KEY_ALL_ACCESS, key, disposition);
+        host.registry.RegSetValueEx(key, name, fernwick::REG_SZ, text + '\0');
+        host.registry.RegCloseKey(key);
+    }
     /// An installation with its templates, and the host's.
     void installTemplates() {
-        std::uint32_t key = 0, disposition = 0;
-        host.registry.RegCreateKeyEx(fernwick::HKEY_LOCAL_MACHINE, "Software\\Quinloft", fernwick::KEY_ALL_ACCESS, key,
-                                     disposition);
-        host.registry.RegSetValueEx(key, "RootDir", fernwick::REG_SZ, (host.folder / "install") + '\0');
-        host.registry.RegCloseKey(key);
+        store("Software\\Quinloft", "RootDir", host.folder / "install");
         host.folder.write("install/VB Toolkit/Template/Projects/readme.txt", "");
         host.folder.write("Template/Projects/readme.txt", "");
     }

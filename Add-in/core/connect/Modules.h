@@ -39,10 +39,12 @@ struct Modules {
     modImageManagement images{platform};
     modMenuManagement menu{{platform.interaction, errors, addIn, registry, devices, images, items}};
     modToolbarManagement toolbars{{errors, addIn, prefs, images, items}};
+    modSamplesManagement samplesList{registry};
     modViewConvertManagement tools{platform.shell, install, errors};
     modHelpManagement help{platform, install, errors};
     frmAbout about{platform, errors};
-    CommandSurface commands{platform.interaction, addIn, items, menu, toolbars, clipboard};
+    frmGettingStarted gettingStarted{platform, install, prefs, errors};
+    CommandSurface commands{platform.interaction, addIn, items, menu, toolbars, clipboard, gettingStarted};
     // project
     modProjectTemplates templates{addIn, install, platform.files, platform.interaction, errors};
     ProjectServices projectServices{errors, platform, install, addIn, devices, templates};

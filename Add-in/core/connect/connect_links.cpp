@@ -40,7 +40,7 @@ void Connect::OpenUtility(UtilityTool tool, const char* location) {
 
 void Connect::SampleIntroHandler_Click() {
     Procedure here{use_.errors, "Connect.SampleIntroHandler_Click"};
-    here([&] { use_.commands.notInThisBuild(); });
+    here([&] { use_.commands.ShowGettingStarted(); });
 }
 
 void Connect::SampleHelloWorldHandler_Click() {
