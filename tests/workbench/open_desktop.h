@@ -65,7 +65,8 @@ protected:
         return nullptr;
     }
     /// Answers each window that comes, until the next call: boxes with their text, forms as `form` says.
-    void answer(std::function<void(QMessageBox&)> box, std::function<void(QDialog&)> form = [](QDialog&) {}) {
+    void answer(
+        std::function<void(QMessageBox&)> box, std::function<void(QDialog&)> form = [](QDialog&) {}) {
         boxes.clear();
         answers_.disconnect();
         QObject::connect(&answers_, &QTimer::timeout, [this, box, form] {
