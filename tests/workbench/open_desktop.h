@@ -14,7 +14,9 @@ namespace test {
 
 class OpenDesktop : public testing::Test {
 protected:
-    OpenDesktop() {
+    /// With a place of its own for the user's state, or this one.
+    explicit OpenDesktop(const QByteArray& state = {}) {
+        qputenv("XDG_STATE_HOME", state.isEmpty() ? QByteArray::fromStdString(folder / "state") : state);
         workbench::apply(workbench::Theme::Light);
         start();
     }
