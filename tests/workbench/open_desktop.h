@@ -52,6 +52,7 @@ protected:
     /// Opens the code window of a component.
     workbench::CodeEditor& editor(const std::string& name) {
         component(name)->CodeModule()->CodePane()->Show();
+        settle(); // commands are drawn as enabled when the loop turns
         return *window().code().editorOf(component(name));
     }
     QsciScintilla& code(const std::string& name) { return editor(name).scintilla(); }
