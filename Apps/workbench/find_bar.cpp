@@ -80,8 +80,8 @@ FindBar::FindBar(CodeWindows& code, Run run)
       run_(std::move(run)),
       what_(field("findWhat", "Find what")),
       with_(field("replaceWith", "Replace with")),
-      matchCase_(option("matchCase", "Match &case", "Capital letters count")),
-      wholeWord_(option("wholeWord", "Whole &word", "Not within longer words")),
+      matchCase_(option("matchCase", "Match ca&se", "Capital letters count")),
+      wholeWord_(option("wholeWord", "Whole w&ord", "Not within longer words")),
       asPattern_(option("pattern", "Pa&ttern", "? one character, # one digit, * any, [a-z] one of these, [!a-z] none")),
       scope_(new QComboBox),
       said_(new QLabel) {
@@ -98,7 +98,7 @@ FindBar::FindBar(CodeWindows& code, Run run)
 
 QWidget* FindBar::findRow() {
     auto* const next = button("findNext", "Find &Next", "F3");
-    auto* const previous = button("findPrevious", "&Previous", "Shift+F3");
+    auto* const previous = button("findPrevious", "Previo&us", "Shift+F3");
     auto* const close = new QToolButton;
     close->setObjectName("closeFind");
     close->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
@@ -111,7 +111,7 @@ QWidget* FindBar::findRow() {
 
     auto* const widget = new QWidget;
     auto* const row = rowOf(widget);
-    row->addWidget(labelOf("&Find:", what_));
+    row->addWidget(labelOf("Fin&d:", what_));
     row->addWidget(what_, 1);
     row->addWidget(next);
     row->addWidget(previous);
@@ -120,13 +120,13 @@ QWidget* FindBar::findRow() {
 }
 
 QWidget* FindBar::replaceRow() {
-    auto* const one = button("replace", "&Replace", "Replaces what is selected, and finds the next one");
-    auto* const all = button("replaceAll", "Replace &All", "All within the procedure, module or project");
+    auto* const one = button("replace", "Replace", "Replaces what is selected, and finds the next one");
+    auto* const all = button("replaceAll", "Repla&ce All", "All within the procedure, module or project");
     connect(one, &QPushButton::clicked, this, [this] { run_([this] { replace(); }); });
     connect(all, &QPushButton::clicked, this, [this] { run_([this] { replaceAll(); }); });
     auto* const widget = new QWidget;
     auto* const row = rowOf(widget);
-    row->addWidget(labelOf("R&eplace:", with_));
+    row->addWidget(labelOf("Rep&lace:", with_));
     row->addWidget(with_, 1);
     row->addWidget(one);
     row->addWidget(all);
