@@ -1,5 +1,6 @@
 #include "Apps/workbench/code_editor.h"
 #include "Apps/workbench/code_input.h"
+#include "Apps/workbench/code_texts.h"
 #include "Apps/workbench/procedure_list.h"
 #include "Apps/workbench/text.h"
 #include "Apps/workbench/vb_lexer.h"
@@ -16,7 +17,6 @@ namespace {
 constexpr int kNumberMargin = 0, kMarkMargin = 1;
 constexpr int kErrorMark = 1, kWarningMark = 2;
 constexpr int kMillisecondsOfRest = 300;
-constexpr auto kMissingCharacter = "The code page of this file has no character \"%1\".";
 constexpr int kEditings = QsciScintillaBase::SC_MOD_INSERTTEXT | QsciScintillaBase::SC_MOD_DELETETEXT;
 
 } // namespace
@@ -113,7 +113,7 @@ bool CodeEditor::accepts(const QString& inserted) {
         missing = QString::fromUcs4(&letter, 1);
         if (!page.tryEncode(text(missing))) break;
     }
-    QTimer::singleShot(0, this, [this, why = text(QString(kMissingCharacter).arg(missing))] {
+    QTimer::singleShot(0, this, [this, why = text(QString(code_texts::kMissingCharacter).arg(missing))] {
         refused_(std::make_exception_ptr(basic::RuntimeError(basic::kInvalidProcedureCall, why)));
     });
     return false;

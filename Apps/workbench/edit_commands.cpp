@@ -1,5 +1,6 @@
 #include "Apps/workbench/edit_commands.h"
 #include "Apps/workbench/code_lines.h"
+#include "Apps/workbench/code_texts.h"
 #include "Apps/workbench/command_icons.h"
 #include "Apps/workbench/definition.h"
 #include "Apps/workbench/main_window.h"
@@ -157,7 +158,7 @@ void EditCommands::showDefinition(CodeEditor& editor) {
     const auto name = nameAt(editor.lineText(from.line), from.column);
     const auto place = definitionOf(name, from);
     if (!place) {
-        if (!name.name.isEmpty()) bar_->tell(QString("\"%1\" is declared nowhere in this project.").arg(name.name));
+        if (!name.name.isEmpty()) bar_->tell(QString(code_texts::kNotDeclared).arg(name.name));
         return;
     }
     from.length = 0;

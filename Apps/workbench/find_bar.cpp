@@ -1,4 +1,5 @@
 #include "Apps/workbench/find_bar.h"
+#include "Apps/workbench/code_texts.h"
 #include "Apps/workbench/text.h"
 #include <QBoxLayout>
 #include <QCheckBox>
@@ -18,13 +19,6 @@ namespace {
 constexpr auto kCaseKey = "find/matchCase", kWordKey = "find/wholeWord", kPatternKey = "find/pattern",
                kScopeKey = "find/scope";
 constexpr int kLabelWidth = 62, kOuterMargin = 4, kGap = 6;
-
-namespace words {
-constexpr auto kWentRound = "The search went on from the beginning.", kWentRoundUp = "The search went on from the end.";
-constexpr auto kNotFound = "\"%1\" was not found in the %2.";
-constexpr auto kReplaced = "%1 replaced.", kReplacedInModules = "%1 replaced in %2 modules.";
-constexpr auto kRefused = "Nothing was replaced in %1: see the message.";
-} // namespace words
 
 struct ScopeName {
     FindScope scope;
@@ -236,8 +230,8 @@ void FindBar::findAgain(bool backwards) {
     if (!editor || (what_->text().isEmpty() && !isVisible())) return open(false);
     if (!canLookFor(wanted)) return;
     const auto found = findNext(wanted, scope(), editor->place(), backwards);
-    if (!found) return say(QString(words::kNotFound).arg(what_->text(), kScopes[std::size_t(scope())].name), true);
-    say(!found->wentRound ? QString() : backwards ? words::kWentRoundUp : words::kWentRound);
+    if (!found) return say(QString(code_texts::kNotFound).arg(what_->text(), kScopes[std::size_t(scope())].name), true);
+    say(!found->wentRound ? QString() : backwards ? code_texts::kWentRoundUp : code_texts::kWentRound);
     bringUp(found->place);
 }
 
@@ -272,14 +266,15 @@ void FindBar::replaceAll() {
         // in its window, so that the user sees it and can undo it
         bringUp(hits.places.front());
         if (!code_.editorOf(hits.component)->replace(hits.places, with_->text()))
-            return say(QString(words::kRefused).arg(qt(hits.component->Name())), true);
+            return say(QString(code_texts::kRefused).arg(qt(hits.component->Name())), true);
         count += hits.places.size();
         ++modules;
     }
-    if (count == 0) return say(QString(words::kNotFound).arg(what_->text(), kScopes[std::size_t(scope())].name), true);
+    if (count == 0)
+        return say(QString(code_texts::kNotFound).arg(what_->text(), kScopes[std::size_t(scope())].name), true);
     bringUp({from.component, from.line, from.column, 0});
-    say(modules > 1 ? QString(words::kReplacedInModules).arg(count).arg(modules)
-                    : QString(words::kReplaced).arg(count));
+    say(modules > 1 ? QString(code_texts::kReplacedInModules).arg(count).arg(modules)
+                    : QString(code_texts::kReplaced).arg(count));
 }
 
 } // namespace workbench

@@ -1,4 +1,5 @@
 #include "Apps/workbench/recovery.h"
+#include "Apps/workbench/code_texts.h"
 #include "Apps/workbench/text.h"
 #include "Host/model/component.h"
 #include "Host/model/components.h"
@@ -19,19 +20,6 @@ namespace {
 
 constexpr int kMillisecondsBetweenLooks = 200;
 
-namespace words {
-constexpr auto kTitle = "Fernwick Workbench";
-constexpr auto kOneSurvived = "Unsaved text of one file of %1 survived from %2.";
-constexpr auto kSurvived = "Unsaved text of %3 files of %1 survived from %2.";
-constexpr auto kNeverSaved = "a project that was never saved";
-constexpr auto kChangedOnDisk = "%1 - the file on disk was changed since; a save asks before it replaces that";
-constexpr auto kGoneFromDisk = "%1 - the file on disk is gone; a save writes it again";
-constexpr auto kWhatRestoreDoes = "Restore puts it into the editor as a change that is not saved yet.";
-constexpr auto kRestore = "&Restore", kDiscard = "&Discard", kLater = "&Keep for Later";
-constexpr auto kDamaged = "Text that was not saved could not be read again: %1\n\nIt stays in %2";
-constexpr auto kNotRestored = "The text of %1 could not be restored, and is kept for later: %2";
-} // namespace words
-
 bool equalsFile(const host::JournalEntry& entry) {
     bool equal = false;
     (void)basic::attempt([&] { equal = !entry.file.empty() && host::readFile(entry.file).bytes == entry.bytes; });
@@ -50,8 +38,8 @@ QString lineOf(const Survivor& survivor) {
     const auto file = qt(entry.file);
     const auto name =
         file.isEmpty() ? qt(entry.component) : QString("%1 (%2)").arg(qt(entry.component), QFileInfo(file).fileName());
-    if (survivor.changedOnDisk) return QString(words::kChangedOnDisk).arg(name);
-    if (!file.isEmpty() && !QFileInfo::exists(file)) return QString(words::kGoneFromDisk).arg(name);
+    if (survivor.changedOnDisk) return QString(code_texts::kChangedOnDisk).arg(name);
+    if (!file.isEmpty() && !QFileInfo::exists(file)) return QString(code_texts::kGoneFromDisk).arg(name);
     return name;
 }
 
@@ -59,9 +47,9 @@ QString headlineOf(const std::string& project, const std::vector<Survivor>& all)
     std::int64_t last = 0;
     for (const auto& survivor : all) last = std::max(last, survivor.entry.written);
     const auto when = QLocale().toString(QDateTime::fromSecsSinceEpoch(last), QLocale::ShortFormat);
-    const auto name = project.empty() ? QString(words::kNeverSaved) : QFileInfo(qt(project)).fileName();
-    return all.size() == 1 ? QString(words::kOneSurvived).arg(name, when)
-                           : QString(words::kSurvived).arg(name, when).arg(all.size());
+    const auto name = project.empty() ? QString(code_texts::kNeverSaved) : QFileInfo(qt(project)).fileName();
+    return all.size() == 1 ? QString(code_texts::kOneSurvived).arg(name, when)
+                           : QString(code_texts::kSurvived).arg(name, when).arg(all.size());
 }
 
 /// The newest text of each component; the older ones wait for another time.
@@ -140,18 +128,19 @@ std::vector<Survivor> Recovery::survivors() {
 void Recovery::setAside(const QString& path, const QString& why) {
     const auto aside = path + ".damaged";
     const bool moved = QFile::rename(path, aside);
-    deeds_.tell(QString(words::kDamaged).arg(why, moved ? aside : path));
+    deeds_.tell(QString(code_texts::kDamaged).arg(why, moved ? aside : path));
 }
 
 void Recovery::offer(const std::string& project, std::vector<Survivor> all) {
     QStringList lines;
     for (const auto& survivor : all) lines << lineOf(survivor);
-    QMessageBox box(QMessageBox::Question, words::kTitle, headlineOf(project, all), QMessageBox::NoButton, &window_);
+    QMessageBox box(QMessageBox::Question, code_texts::kTitle, headlineOf(project, all), QMessageBox::NoButton,
+                    &window_);
     box.setTextFormat(Qt::PlainText);
-    box.setInformativeText(lines.join('\n') + "\n\n" + words::kWhatRestoreDoes);
-    auto* const restores = box.addButton(words::kRestore, QMessageBox::AcceptRole);
-    auto* const discards = box.addButton(words::kDiscard, QMessageBox::DestructiveRole);
-    box.setEscapeButton(box.addButton(words::kLater, QMessageBox::RejectRole));
+    box.setInformativeText(lines.join('\n') + "\n\n" + code_texts::kWhatRestoreDoes);
+    auto* const restores = box.addButton(code_texts::kRestore, QMessageBox::AcceptRole);
+    auto* const discards = box.addButton(code_texts::kDiscard, QMessageBox::DestructiveRole);
+    box.setEscapeButton(box.addButton(code_texts::kLater, QMessageBox::RejectRole));
     box.setDefaultButton(restores);
     box.exec();
     if (box.clickedButton() == restores) restore(project, all);
@@ -168,7 +157,7 @@ void Recovery::restore(const std::string& path, const std::vector<Survivor>& all
         if (failed.Number == 0)
             done.push_back(survivor.path);
         else
-            deeds_.tell(QString(words::kNotRestored).arg(qt(survivor.entry.component), qt(failed.Description)));
+            deeds_.tell(QString(code_texts::kNotRestored).arg(qt(survivor.entry.component), qt(failed.Description)));
     }
     deeds_.keep(); // at no time without a journal
     for (const auto& journal : done) QFile::remove(journal);

@@ -1,19 +1,22 @@
 #include "Apps/workbench/unsaved_work.h"
+#include "Apps/workbench/code_texts.h"
+#include "Apps/workbench/main_window.h"
 #include <QMessageBox>
 
 namespace workbench {
 
-namespace {
-constexpr auto kTitle = "Fernwick Workbench";
-constexpr auto kNotKept = "What you type can't be kept for the case of a crash; save often: %1";
-} // namespace
-
-UnsavedWork::UnsavedWork(host::Host& host, QWidget& window, std::function<void(const std::string& path)> open)
+UnsavedWork::UnsavedWork(host::Host& host, MainWindow& window, std::function<void(const std::string& path)> open)
     : window_(window),
-      journal_(host, window, base_, [this](const QString& why) { tell(QString(kNotKept).arg(why)); }),
+      journal_(host, window, base_, [this](const QString& why) { tell(QString(code_texts::kNotKept).arg(why)); }),
+      outside_(host, window, [this](const QString& text) { tell(text); }),
       recovery_(host, window, base_,
-                {std::move(open), [this] { journal_.write(); }, [this](const QString& text) { tell(text); }}) {}
+                {std::move(open),
+                 [this] {
+                     journal_.write();
+                     outside_.settle(); // what was restored over, the user has been told
+                 },
+                 [this](const QString& text) { tell(text); }}) {}
 
-void UnsavedWork::tell(const QString& text) { QMessageBox::warning(&window_, kTitle, text); }
+void UnsavedWork::tell(const QString& text) { QMessageBox::warning(&window_, code_texts::kTitle, text); }
 
 } // namespace workbench

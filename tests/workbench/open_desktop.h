@@ -12,6 +12,9 @@
 
 namespace test {
 
+/// Milliseconds after which what was waited for does not come any more.
+inline constexpr int kLongestWait = 20000;
+
 class OpenDesktop : public testing::Test {
 protected:
     /// With a place of its own for the user's state, or this one.
