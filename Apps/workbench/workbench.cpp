@@ -73,6 +73,7 @@ host::HostOptions Workbench::hostOptions() {
             window_.get(), kTitle,
             QString("%1 (error %2 of %3)").arg(qt(error.Description)).arg(error.Number).arg(qt(error.Source)));
     };
+    options.mayReplaceChanged = mayReplaceChanged;
     options.askForProject = [this] { return askForProject(); };
     return options;
 }
