@@ -32,6 +32,7 @@ void CodeWindows::open(const vbide::Ref<vbide::VBComponent>& component) {
     auto* editor = editorOf(component);
     if (!editor) {
         editor = new CodeEditor(component, refused_);
+        made(*editor);
         addTab(editor, qt(component->Name()));
         editor->showSelection();
         markEditor(*editor);
@@ -39,6 +40,11 @@ void CodeWindows::open(const vbide::Ref<vbide::VBComponent>& component) {
     }
     setCurrentWidget(editor);
     editor->setFocus();
+}
+
+void CodeWindows::showPlace(const CodePlace& place) {
+    place.component->CodeModule()->CodePane()->Show();
+    if (auto* const editor = editorOf(place.component)) editor->select(place);
 }
 
 std::vector<CodeEditor*> CodeWindows::editors() const {

@@ -17,6 +17,10 @@ public:
     CodeWindows(host::Host& host, CodeEditor::Refused refused);
 
     void open(const vbide::Ref<vbide::VBComponent>& component);
+    /// Selects a part of a component's code in its window, which comes to the front. Error 440 for one that was removed.
+    void showPlace(const CodePlace& place);
+    /// Told of each window that was made.
+    std::function<void(CodeEditor&)> made = [](CodeEditor&) {};
     /// Null for a component without a window.
     CodeEditor* editorOf(const vbide::Ref<vbide::VBComponent>& component) const;
     /// Null when no window is open.

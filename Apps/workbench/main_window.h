@@ -28,6 +28,8 @@ public:
     void restoreLayout();
     void saveLayout() const;
     void setTheme(Theme theme);
+    /// Does what the user asks for, and tells an error of it in a box.
+    void run(const std::function<void()>& act) { run_(act); }
 
 protected:
     void closeEvent(QCloseEvent* event) override;

@@ -1,10 +1,9 @@
 #include "Apps/workbench/window_commands.h"
 #include "Apps/workbench/command_icons.h"
-#include "Apps/workbench/scintilla.h"
+#include "Apps/workbench/edit_commands.h"
 #include "Apps/workbench/text.h"
 #include <QDockWidget>
 #include <QFileDialog>
-#include <QInputDialog>
 
 namespace workbench {
 
@@ -47,27 +46,6 @@ private:
 
 Menu menuOf(host::Host& host, int id) { return Menu(controlOf(host, id)->popup()); }
 
-/// A command of the code window that has the focus of the user's work.
-std::function<void()> inEditor(MainWindow& window, void (QsciScintilla::*command)()) {
-    return [&window, command] {
-        if (auto* editor = window.code().current()) (editor->scintilla().*command)();
-    };
-}
-
-/// Asks what to look for; the text that is selected is offered.
-void find(MainWindow& window) {
-    auto* const editor = window.code().current();
-    if (!editor) return;
-    bool accepted = false;
-    const auto wanted = QInputDialog::getText(&window, "Find", "Find what:", QLineEdit::Normal,
-                                              editor->scintilla().selectedText(), &accepted);
-    if (accepted && !wanted.isEmpty()) editor->scintilla().findFirst(wanted, false, false, false, true);
-}
-
-void findNext(MainWindow& window) {
-    if (auto* editor = window.code().current()) editor->scintilla().findNext();
-}
-
 /// An add-in may put another component in its place.
 void addComponent(host::Host& host, vbide::vbext_ComponentType type) {
     const auto active = host.ActiveVBProject();
@@ -82,23 +60,6 @@ void addFile(host::Host& host, MainWindow& window) {
     const auto path = QFileDialog::getOpenFileName(&window, "Add File", QFileInfo(qt(active->FileName())).path(),
                                                    "Source files (*.frm *.bas *.cls *.ctl *.pag *.dob *.dsr)");
     if (!path.isEmpty()) active->VBComponents()->AddFile(text(path));
-}
-
-void addEditMenu(host::Host& host, MainWindow& window) {
-    menuOf(host, host::kEditMenuId)
-        .add(kUndoId, "&Undo", inEditor(window, &QsciScintilla::undo))
-        .add(kRedoId, "&Redo", inEditor(window, &QsciScintilla::redo))
-        .group()
-        .add(kCutId, "Cu&t", inEditor(window, &QsciScintilla::cut))
-        .add(kCopyId, "&Copy", inEditor(window, &QsciScintilla::copy))
-        .add(kPasteId, "&Paste", inEditor(window, &QsciScintilla::paste))
-        .add(kSelectAllId, "Select &All",
-             [&window] {
-                 if (auto* editor = window.code().current()) editor->scintilla().selectAll();
-             })
-        .group()
-        .add(kFindId, "&Find...", [&window] { find(window); })
-        .add(kFindNextId, "Find &Next", [&window] { findNext(window); });
 }
 
 void addProjectMenu(host::Host& host, MainWindow& window) {
@@ -140,8 +101,9 @@ void addWindowCommands(host::Host& host, MainWindow& window, WindowDeeds deeds) 
         .popup(kRecentMenuId, "Recent &Projects")
         .group()
         .add(kExitId, "E&xit", [&window] { window.close(); });
-    addEditMenu(host, window);
+    new EditCommands(host, window);
     menuOf(host, host::kViewMenuId)
+        .group()
         .add(kExplorerId, "&Project Explorer",
              [&window] {
                  window.explorerDock().show();

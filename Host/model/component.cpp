@@ -85,17 +85,14 @@ void Component::Name(const std::string& name) {
         throw hostError(basic::kInvalidPropertyValue, fmt::format("'{}' is not a legal object name", name));
     const auto other = project->components().named(name);
     if (other && other.get() != this) throwNameTaken(name);
-    const auto oldName = rename(name);
+    source_.name(name);
     dirty_ = true;
-    project->components().renamed(*this, oldName);
-    project->writeMember(*this);
-    project->followRename(oldName, name);
-    project->host()->tell(project->componentsEvents->ItemRenamed, shared_from_this(), oldName);
+    adoptName(name);
 }
 
-std::string Component::rename(const std::string& name) {
+void Component::rename(const std::string& name) {
     source_.name(name);
-    return std::exchange(name_, name);
+    name_ = name;
 }
 
 vbide::vbext_ComponentType Component::Type() const {
@@ -157,6 +154,53 @@ void Component::becomeNew() {
     template_ = origin_.path;
     origin_ = {};
     dirty_ = true;
+}
+
+void Component::reread() {
+    replaceSource(owner()->readSource(memberKindOf(type_), origin_.path));
+    dirty_ = false;
+    tellReplaced();
+}
+
+void Component::restore(std::string bytes, const std::optional<FileStamp>& base) {
+    auto loaded = owner()->sourceOf(memberKindOf(type_), std::move(bytes), origin_.path);
+    loaded.stamp = base;
+    replaceSource(std::move(loaded));
+    dirty_ = true;
+    tellReplaced();
+}
+
+/// What was handed out of the old source raises errors from now on.
+void Component::replaceSource(LoadedSource loaded) {
+    const auto project = owner();
+    const auto name = loaded.name.empty() ? name_ : loaded.name;
+    const auto other = project->components().named(name);
+    if (other && other.get() != this) throwNameTaken(name);
+    designer_.reset();
+    resources_.clear();
+    source_ = std::move(loaded.source);
+    type_ = loaded.type;
+    origin_.stamp = loaded.stamp;
+    if (code_) code_->replaced();
+    if (name != name_) adoptName(name);
+}
+
+/// Another one than before: the project's line and settings follow.
+void Component::adoptName(const std::string& name) {
+    const auto project = owner();
+    const auto oldName = std::exchange(name_, name);
+    project->components().renamed(*this, oldName);
+    project->writeMember(*this);
+    project->followRename(oldName, name);
+    project->host()->tell(project->componentsEvents->ItemRenamed, shared_from_this(), oldName);
+}
+
+void Component::tellReplaced() {
+    const auto self = shared_from_this();
+    const auto project = owner();
+    const auto host = project->host();
+    host->tell(project->componentsEvents->ItemReloaded, self);
+    host->tell(host->panes.codeChanged, vbide::Ref<vbide::VBComponent>(self));
 }
 
 void Component::remove() {

@@ -18,6 +18,7 @@ class FormDesigner;
 class ModuleCode;
 class Project;
 class ToolWindow;
+struct LoadedSource;
 
 /// Where a component comes from. A new one has none of it.
 struct ComponentOrigin {
@@ -59,8 +60,16 @@ public:
     void member(std::optional<ProjectFile::Place> place) { origin_.member = place; }
     /// Forgets its file: it was made from a template, from where its resources come until it is saved.
     void becomeNew();
-    /// Writes another name into its text, before it is taken in. Gives the old one.
-    std::string rename(const std::string& name);
+    /// Writes another name into its text, before it is taken in.
+    void rename(const std::string& name);
+    /// Of its file as it was read or saved last; none for a component without a file.
+    const std::optional<FileStamp>& stamp() const { return origin_.stamp; }
+    /// Reads its file again: what was not saved is forgotten, its name is what the file tells. Its designer is another
+    /// object then. Errors, and nothing changed: as readFile; 321 no source of this kind; 32813 the name is taken.
+    void reread();
+    /// Takes this for its source, unsaved: text that was made from its file when that had the stamp `base`. A later save
+    /// over any other file is one over what another program wrote. Errors as above.
+    void restore(std::string bytes, const std::optional<FileStamp>& base);
     /// The text was edited.
     void changed() { dirty_ = true; }
     /// From now on every member raises an error, those of its designer too.
@@ -74,6 +83,9 @@ public:
     const vbide::Ref<vbide::VBControlsEvents>& controlsEvents() const { return controlsEvents_; }
 
 private:
+    void replaceSource(LoadedSource loaded);
+    void adoptName(const std::string& name);
+    void tellReplaced();
     FormDesigner& designer();
     std::shared_ptr<const ResourceFile> resources(const std::string& name);
     DesignerHooks designerHooks();

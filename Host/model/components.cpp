@@ -125,6 +125,20 @@ vbide::Ref<vbide::VBComponent> Components::addTemplate(const std::shared_ptr<Com
     return component;
 }
 
+std::shared_ptr<Component> Components::addSource(vbide::vbext_ComponentType type, const std::string& name,
+                                                 std::string bytes) {
+    const auto project = this->project();
+    auto loaded = project->sourceOf(memberKindOf(type), std::move(bytes), name);
+    if (!loaded.name.empty() && named(loaded.name)) throwNameTaken(loaded.name);
+    const auto component =
+        std::make_shared<Component>(project, loaded.type, loaded.name.empty() ? freeName(name) : loaded.name,
+                                    std::move(loaded.source), ComponentOrigin{});
+    take(component);
+    project->changed();
+    project->host()->tell(project->componentsEvents->ItemAdded, component);
+    return component;
+}
+
 void Components::Remove(const vbide::Ref<vbide::VBComponent>& component) {
     const auto project = this->project();
     const auto own = basic::cast<Component>(component).shared();

@@ -43,6 +43,9 @@ struct HostOptions {
     std::function<std::string(const std::string& progId)> classOfProgId;
     /// Told of an error that a handler of an add-in let out; the host itself goes on.
     std::function<void(const basic::ErrObject&)> handlerFailed;
+    /// Asked before a save replaces a file that another program changed since it was read; false leaves the file and what
+    /// was to be saved as they are. Without it such a save fails with error 75.
+    std::function<bool(const std::string& path)> mayReplaceChanged;
     /// Asks the user which project to open; "" for none. Without it the menu's command does nothing.
     std::function<std::string()> askForProject;
 };
@@ -118,14 +121,16 @@ public:
     template <class... Args, class... Given>
     void tellFile(fernwick::Event<Args...> vbide::FileControlEvents::*event, Project& project, Given&&... arguments);
 
-    /// Writes a file of a project, with the events round it. Nothing when a handler cancelled it.
+    /// Writes a file of a project, with the events round it. Nothing when a handler cancelled it, or the user does not
+    /// want to replace what another program wrote.
     /// Errors as atomicSave, after AfterWriteFile.
     std::optional<FileStamp> writeFile(Project& project, const std::string& path, std::string_view bytes,
-                                       const std::optional<FileStamp>& asRead);
+                                       std::optional<FileStamp> asRead);
 
 private:
     explicit Host(HostOptions options);
     void handlerFailed(const basic::ErrObject& error) const;
+    bool agreesToReplace(const std::string& path, std::string_view bytes, std::optional<FileStamp>& asRead) const;
     const vbide::FileControlEvents& fileEventsOf(Project& project) const;
     static vbide::Ref<vbide::VBProject> refTo(Project& project);
 

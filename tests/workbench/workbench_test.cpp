@@ -290,7 +290,7 @@ TEST_F(Desktop, SeparatorsStandWhereGroupsBegin) {
     for (auto* top : window().menuBar()->actions())
         if (top->text() == "&Edit")
             for (auto* action : top->menu()->actions()) lines += action->isSeparator();
-    EXPECT_EQ(groups, 2);
+    EXPECT_GE(groups, 2);
     EXPECT_EQ(lines, groups);
 }
 
