@@ -18,6 +18,7 @@ class FormDesigner;
 class ModuleCode;
 class Project;
 class ToolWindow;
+struct PaneEvents;
 
 /// Where a component comes from. A new one has none of it.
 struct ComponentOrigin {
@@ -75,6 +76,7 @@ private:
     FormDesigner& designer();
     std::shared_ptr<const ResourceFile> resources(const std::string& name);
     DesignerHooks designerHooks();
+    void tellPanes(fernwick::Event<vbide::Ref<vbide::VBComponent>> PaneEvents::*event);
     void copyCompanion(Project& project, const std::string& target);
 
     std::weak_ptr<Project> project_;
@@ -84,6 +86,7 @@ private:
     ComponentOrigin origin_;
     bool dirty_ = false, removing_ = false;
     std::shared_ptr<ToolWindow> designerWindow_;
+    std::vector<fernwick::Subscription> designerEvents_;
     std::shared_ptr<ModuleCode> code_;
     std::map<std::string, std::shared_ptr<const ResourceFile>> resources_; // by path
     std::unique_ptr<FormDesigner> designer_;                               // made at first use
