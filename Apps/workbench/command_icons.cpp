@@ -39,6 +39,9 @@ constexpr std::array kKeys{
     CommandKey{kFindNextId, int(Qt::Key_F3)},
     CommandKey{kExplorerId, int(Qt::CTRL) | Qt::Key_R},
     CommandKey{kCompileId, int(Qt::Key_F5)},
+    CommandKey{kViewCodeId, int(Qt::Key_F7)},
+    CommandKey{kViewObjectId, int(Qt::SHIFT) | Qt::Key_F7},
+    CommandKey{kPropertiesId, int(Qt::Key_F4)},
 };
 
 /// The style's own is black, which a dark theme swallows.

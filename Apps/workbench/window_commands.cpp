@@ -71,7 +71,8 @@ void findNext(MainWindow& window) {
 void addComponent(host::Host& host, vbide::vbext_ComponentType type) {
     const auto active = host.ActiveVBProject();
     if (!active) return;
-    active->VBComponents()->Add(type)->CodeModule()->CodePane()->Show();
+    const auto added = active->VBComponents()->Add(type);
+    if (!added->HasOpenDesigner()) added->CodeModule()->CodePane()->Show();
 }
 
 void addFile(host::Host& host, MainWindow& window) {
@@ -84,7 +85,10 @@ void addFile(host::Host& host, MainWindow& window) {
 
 void addEditMenu(host::Host& host, MainWindow& window) {
     menuOf(host, host::kEditMenuId)
-        .add(kUndoId, "&Undo", inEditor(window, &QsciScintilla::undo))
+        .add(kUndoId, "&Undo",
+             [&window, inCode = inEditor(window, &QsciScintilla::undo)] {
+                 if (!window.design().undo()) inCode();
+             })
         .add(kRedoId, "&Redo", inEditor(window, &QsciScintilla::redo))
         .group()
         .add(kCutId, "Cu&t", inEditor(window, &QsciScintilla::cut))
@@ -140,6 +144,14 @@ void addWindowCommands(host::Host& host, MainWindow& window, WindowDeeds deeds) 
         .add(kExitId, "E&xit", [&window] { window.close(); });
     addEditMenu(host, window);
     menuOf(host, host::kViewMenuId)
+        .add(kViewCodeId, "&Code", [&window] { window.design().showCode(); })
+        .add(kViewObjectId, "O&bject", [&window] { window.design().showObject(); })
+        .group()
+        .add(kPropertiesId, "Properties &Window",
+             [&window] {
+                 window.propertiesDock().show();
+                 window.design().properties().setFocus();
+             })
         .add(kExplorerId, "&Project Explorer",
              [&window] {
                  window.explorerDock().show();
