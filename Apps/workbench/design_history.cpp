@@ -30,19 +30,21 @@ void DesignHistory::set(const vbide::Ref<vbide::VBComponent>& component, const v
 }
 
 bool DesignHistory::undo(const vbide::Ref<vbide::VBComponent>& component) {
-    const auto last =
-        std::find_if(steps_.rbegin(), steps_.rend(), [&](const auto& step) { return step.component == component; });
-    if (last == steps_.rend()) return false;
-    const auto step = *last;
-    steps_.erase(std::next(last).base());
-    putBack(step.before);
-    return true;
+    for (;;) {
+        const auto last =
+            std::find_if(steps_.rbegin(), steps_.rend(), [&](const auto& step) { return step.component == component; });
+        if (last == steps_.rend()) return false;
+        const auto step = *last;
+        steps_.erase(std::next(last).base());
+        if (putBack(step.before)) return true;
+    }
 }
 
-/// Of a control that is gone nothing comes back.
-void DesignHistory::putBack(const std::vector<Before>& before) {
+bool DesignHistory::putBack(const std::vector<Before>& before) {
+    bool any = false;
     for (auto at = before.rbegin(); at != before.rend(); ++at)
-        (void)basic::attempt([&] { at->property->Value(at->value); });
+        any = basic::attempt([&] { at->property->Value(at->value); }).Number == 0 || any;
+    return any;
 }
 
 } // namespace workbench

@@ -21,7 +21,8 @@ public:
     /// before goes back, and the error comes out.
     void set(const vbide::Ref<vbide::VBComponent>& component, const vbide::Ref<vbide::Properties>& object,
              const std::vector<DesignChange>& changes);
-    /// Takes back the last step of a component. False where there is none.
+    /// Takes back the last step of a component that changes something; what was done to controls that are gone doesn't.
+    /// False where there is none.
     bool undo(const vbide::Ref<vbide::VBComponent>& component);
 
 private:
@@ -33,7 +34,7 @@ private:
         vbide::Ref<vbide::VBComponent> component;
         std::vector<Before> before;
     };
-    static void putBack(const std::vector<Before>& before);
+    static bool putBack(const std::vector<Before>& before);
 
     std::deque<Step> steps_;
 };

@@ -173,7 +173,9 @@ void FormCanvas::mouseReleaseEvent(QMouseEvent*) {
 }
 
 void FormCanvas::mouseDoubleClickEvent(QMouseEvent* event) {
-    if (event->button() == Qt::LeftButton && gripAt(event->position()) == Grip::None) view_.openCode();
+    if (event->button() != Qt::LeftButton || openMenu(event->position())) return;
+    const auto* drawn = view_.picture().at(onForm(event->position()));
+    view_.openCode(drawn ? drawn->control : nullptr);
 }
 
 bool FormCanvas::openMenu(const QPointF& onWidget) {

@@ -10,6 +10,9 @@ FormWindows::FormWindows(host::Host& host, CodeWindows& tabs, DesignHistory& his
     refresh_.setInterval(0); // a save closes a designer and opens it again
     connect(&refresh_, &QTimer::timeout, this, [this] { refresh(); });
     connect(&tabs, &QTabWidget::tabCloseRequested, this, [this](int index) { closed(tabs_.widget(index)); });
+    connect(&tabs, &QTabWidget::currentChanged, this, [this] {
+        if (const auto* view = current()) activate(view->component());
+    });
     watches_.push_back(host.panes.designerShown.connect([this](auto component) { show(component); }));
     watches_.push_back(host.panes.designerOpened.connect([this](auto component) {
         if (component->HasOpenDesigner()) open(component);
@@ -28,17 +31,20 @@ FormWindows::FormWindows(host::Host& host, CodeWindows& tabs, DesignHistory& his
 void FormWindows::open(const vbide::Ref<vbide::VBComponent>& component) {
     if (viewOf(component)) return;
     FormView* view = nullptr;
-    const auto focused = [this, component] {
-        if (host_.SelectedVBComponent() == component) return;
-        wishes_.run([&] { component->Activate(); });
-    };
+    const auto focused = [this, component] { activate(component); };
     // a file without the description of a form has no view
     const auto failed = basic::attempt([&] {
         view = new FormView(component, history_, {wishes_.run, wishes_.selected, focused});
     });
     if (failed.Number != 0) return component->DesignerWindow()->Close();
+    opening_ = true; // that is no user's choice
     tabs_.addTab(view, qt(component->Name()));
+    opening_ = false;
     refresh();
+}
+
+void FormWindows::activate(const vbide::Ref<vbide::VBComponent>& component) {
+    if (!opening_ && host_.SelectedVBComponent() != component) wishes_.run([&] { component->Activate(); });
 }
 
 void FormWindows::show(const vbide::Ref<vbide::VBComponent>& component) {

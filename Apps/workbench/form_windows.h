@@ -30,6 +30,8 @@ private:
     void open(const vbide::Ref<vbide::VBComponent>& component);
     void show(const vbide::Ref<vbide::VBComponent>& component);
     void closed(QWidget* tab);
+    /// The user works on this form now: the host tells so, once.
+    void activate(const vbide::Ref<vbide::VBComponent>& component);
     void refresh();
 
     host::Host& host_;
@@ -37,6 +39,7 @@ private:
     DesignHistory& history_;
     Wishes wishes_;
     QTimer refresh_;
+    bool opening_ = false;
     std::vector<fernwick::Subscription> watches_;
 };
 

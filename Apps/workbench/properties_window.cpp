@@ -88,10 +88,7 @@ PropertiesWindow::PropertiesWindow(DesignHistory& history, Wishes wishes)
     connect(objects_, &QComboBox::activated, this, [this](int row) { chosen(row); });
     refresh_.setSingleShot(true);
     refresh_.setInterval(0);
-    connect(&refresh_, &QTimer::timeout, this, [this] {
-        listObjects();
-        rows_.reread();
-    });
+    connect(&refresh_, &QTimer::timeout, this, [this] { refresh(); });
 }
 
 void PropertiesWindow::buildTable() {
@@ -139,6 +136,17 @@ void PropertiesWindow::clear() {
     component_ = nullptr;
     control_ = nullptr;
     show();
+}
+
+void PropertiesWindow::refresh() {
+    const auto gone = basic::attempt([this] {
+        if (project_) (void)project_->Name();
+        if (component_) (void)component_->Name();
+        if (control_) (void)control_->ClassName();
+    });
+    if (gone.Number != 0) return clear();
+    listObjects();
+    rows_.reread();
 }
 
 void PropertiesWindow::show() {

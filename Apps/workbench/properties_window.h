@@ -37,6 +37,7 @@ public:
 private:
     void buildTable();
     void show();
+    void refresh();
     InspectedObject object() const;
     void listObjects();
     void chosen(int row);

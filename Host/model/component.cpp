@@ -162,9 +162,9 @@ void Component::remove() {
 void Component::Activate() {
     const auto project = owner();
     const auto self = shared_from_this();
-    if (hasDesigner()) DesignerWindow()->SetFocus();
     const auto host = project->host();
     host->select(self);
+    if (hasDesigner()) DesignerWindow()->SetFocus();
     host->tell(project->componentsEvents->ItemSelected, self);
     host->tell(project->componentsEvents->ItemActivated, self);
 }
