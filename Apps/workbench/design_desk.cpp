@@ -15,6 +15,7 @@ DesignDesk::DesignDesk(host::Host& host, CodeWindows& tabs, ProjectExplorer& exp
       forms_(new FormWindows(host, tabs, history_, {run_, [this] { followTabs(); }})) {
     connect(&tabs, &QTabWidget::currentChanged, this, [this] { followTabs(); });
     connect(&explorer, &QTreeWidget::currentItemChanged, this, [this] { followExplorer(); });
+    connect(&explorer, &QTreeWidget::itemClicked, this, [this] { followExplorer(); });
     watch();
 }
 

@@ -7,6 +7,7 @@
 #include "Apps/workbench/workbench.h"
 #include "tests/support/sample_project.h"
 #include "tests/workbench/desktop_user.h"
+#include <QDockWidget>
 #include <QMenu>
 #include <QMenuBar>
 #include <QTableView>
@@ -117,6 +118,7 @@ protected:
         auto* const editor = table.viewport()->findChild<QWidget*>("", Qt::FindDirectChildrenOnly);
         ASSERT_TRUE(editor) << property.toStdString();
         QTest::keyClick(editor, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClick(editor, Qt::Key_Delete);
         QTest::keyClicks(editor, value);
         QTest::keyClick(editor, Qt::Key_Return);
         settle();

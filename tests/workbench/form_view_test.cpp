@@ -1,7 +1,8 @@
 // Forms on their designers: drawn from their text, edited by mouse and keyboard.
 #include "tests/workbench/designer_desktop.h"
+#include <QBuffer>
 #include <QDockWidget>
-#include <QMessageBox>
+#include <QElapsedTimer>
 
 using testing::ElementsAre;
 using testing::HasSubstr;
@@ -635,4 +636,83 @@ TEST_F(FormDesigners, MenusLeadToTheirHandlers) {
     menu->actions().front()->trigger();
     menu->close();
     EXPECT_THAT(component("frmMain")->CodeModule()->Lines(1, 1), "Private Sub mnuOpen_Click()");
+}
+
+// ---- drawing ------------------------------------------------------------------------------------------------------------
+
+TEST_F(FormDesigners, DrawControlsInTheirColoursWhereTheyStand) {
+    openForm(kShowcase);
+    const auto image = canvas().grab().toImage();
+    const auto at = [&](double x, double y) { return image.pixelColor(pointOn({x, y})); };
+    EXPECT_EQ(at(90, 180), QColor("#ffe0c0"));    // the picture box
+    EXPECT_EQ(at(220, 150), QColor(255, 255, 0)); // the round shape
+    EXPECT_EQ(at(280, 25), QColor(Qt::white));    // a text box
+    EXPECT_EQ(at(3, 3), QColor("#d4d0c8"));       // the form
+    EXPECT_EQ(at(0, 0), QColor(Qt::black));       // a dot of its grid
+    EXPECT_EQ(at(8, 0), QColor(Qt::black));
+}
+
+TEST_F(FormDesigners, DimWhatIsInvisible) {
+    const auto form = [](const char* visible) {
+        return std::string(
+                   "   Begin VB.TextBox txtSeen \n      Height          =   900\n      Left            =   120\n"
+                   "      Top             =   120\n      Visible         =   ") +
+               visible + "\n      Width           =   900\n   End\n";
+    };
+    openForm(form("0   'False"));
+    const auto shade = canvas().grab().toImage().pixelColor(pointOn({30, 30}));
+    EXPECT_LT(shade.lightness(), 250);
+    control("txtSeen")->Properties()->Item("Visible")->Value(true);
+    settle();
+    EXPECT_EQ(canvas().grab().toImage().pixelColor(pointOn({30, 30})), QColor(Qt::white));
+}
+
+TEST_F(FormDesigners, KeepWhatLiesInAContainerWithinIt) {
+    openForm(kShowcase);
+    const auto* box = view().picture().find(control("picBox"));
+    const auto* inside = view().picture().find(control("lblInside"));
+    EXPECT_EQ(inside->place.topLeft(), box->place.topLeft() + QPointF(10, 10)); // a border of 2 pixels
+    EXPECT_TRUE(box->place.contains(inside->clip));
+    EXPECT_EQ(view().picture().at(box->place.topRight() + QPointF(9, 20)), nullptr);
+}
+
+TEST_F(FormDesigners, DrawPicturesFromTheResourceFile) {
+    QImage picture(8, 8, QImage::Format_RGB32);
+    picture.fill(QColor(10, 200, 30));
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    picture.save(&buffer, "BMP");
+    const auto number = [](std::size_t n) {
+        return std::string{char(n & 0xff), char(n >> 8 & 0xff), char(n >> 16 & 0xff), char(n >> 24 & 0xff)};
+    };
+    const std::size_t size = std::size_t(bytes.size());
+    folder.write("frmMain.frx", number(size + 8) + std::string("lt\0\0", 4) + number(size) + bytes.toStdString());
+    openForm("   Begin VB.Image imgLogo \n      Height          =   600\n      Left            =   120\n      Picture  "
+             "       "
+             "=   \"frmMain.frx\":0000\n      Stretch         =   -1  'True\n      Top             =   120\n"
+             "      Width           =   600\n   End\n");
+    EXPECT_EQ(canvas().grab().toImage().pixelColor(pointOn({40, 40})), QColor(10, 200, 30));
+    clickOn("imgLogo");
+    EXPECT_EQ(shown("Picture"), "(Bitmap)");
+}
+
+TEST_F(FormDesigners, WithManyControlsAreFluid) {
+    std::string lines;
+    for (int i = 0; i < 500; ++i)
+        lines += "   Begin VB.CommandButton cmd" + std::to_string(i) + " \n      Caption         =   \"" +
+                 std::to_string(i) +
+                 "\"\n      Height          =   255\n      Left            =   " + std::to_string(i % 20 * 300) +
+                 "\n      Top             =   " + std::to_string(i / 20 * 255) +
+                 "\n      Width           =   300\n   End\n";
+    openForm(lines);
+    QElapsedTimer time;
+    time.start();
+    view().select(control("cmd250"));
+    for (int i = 0; i < 10; ++i) {
+        key(Qt::Key_Right, Qt::ControlModifier);
+        settle();
+    }
+    RecordProperty("millisecondsOfAMove", int(time.elapsed() / 10));
+    EXPECT_LT(time.elapsed(), 10 * 1000); // a tenth of it on a quiet machine
+    EXPECT_EQ(view().picture().controls.size(), 500u);
 }
