@@ -48,6 +48,9 @@ constexpr std::array kKeys{
     CommandKey{kLastPositionId, int(Qt::CTRL) | int(Qt::SHIFT) | Qt::Key_F2},
     CommandKey{kExplorerId, int(Qt::CTRL) | Qt::Key_R},
     CommandKey{kCompileId, int(Qt::Key_F5)},
+    CommandKey{kViewCodeId, int(Qt::Key_F7)},
+    CommandKey{kViewObjectId, int(Qt::SHIFT) | Qt::Key_F7},
+    CommandKey{kPropertiesId, int(Qt::Key_F4)},
 };
 
 /// The style's own is black, which a dark theme swallows.

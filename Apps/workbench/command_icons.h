@@ -25,6 +25,9 @@ enum WindowCommandId : int {
     kAddModuleId,
     kAddClassId,
     kAddFileId,
+    kViewCodeId,
+    kViewObjectId,
+    kPropertiesId,
 };
 
 /// Empty for a command without one.

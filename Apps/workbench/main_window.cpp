@@ -24,14 +24,11 @@ MainWindow::MainWindow(host::Host& host, BarsView::Run run, MayClose mayClose)
       code_(new CodeWindows(host, [this](std::exception_ptr error) { run_([&] { std::rethrow_exception(error); }); })),
       explorer_(new ProjectExplorer(host.shared_from_this(),
                                     {[this](auto project) { run_([&] { host_.ActiveVBProject(project); }); },
-                                     [this](auto component) {
-                                         run_([&] {
-                                             component->Activate();
-                                             component->CodeModule()->CodePane()->Show();
-                                         });
-                                     },
+                                     [this](auto component) { design_->open(component); },
                                      [this] { code_->refreshSoon(); }})),
       explorerDock_(addDock("explorerDock", "Project", explorer_, Qt::RightDockWidgetArea)),
+      design_(new DesignDesk(host, *code_, *explorer_, run_)),
+      propertiesDock_(addDock("propertiesDock", "Properties", &design_->properties(), Qt::RightDockWidgetArea)),
       bars_(host.bars(), *this, run_) {
     setObjectName("workbench");
     setCentralWidget(code_);

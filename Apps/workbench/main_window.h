@@ -2,6 +2,7 @@
 // The IDE's window: it draws the host's model and holds no behaviour of the add-in's.
 #include "Apps/workbench/bars_view.h"
 #include "Apps/workbench/code_windows.h"
+#include "Apps/workbench/design_desk.h"
 #include "Apps/workbench/messages_view.h"
 #include "Apps/workbench/project_explorer.h"
 #include "Host/model/host.h"
@@ -24,6 +25,9 @@ public:
     CodeWindows& code() { return *code_; }
     ProjectExplorer& explorer() { return *explorer_; }
     QDockWidget& explorerDock() { return *explorerDock_; }
+    /// Form views and the properties window.
+    DesignDesk& design() { return *design_; }
+    QDockWidget& propertiesDock() { return *propertiesDock_; }
     /// Window, docks and toolbars as the user left them, in the user's settings.
     void restoreLayout();
     void saveLayout() const;
@@ -48,6 +52,8 @@ private:
     CodeWindows* code_;
     ProjectExplorer* explorer_;
     QDockWidget* explorerDock_;
+    DesignDesk* design_;
+    QDockWidget* propertiesDock_;
     /// Tool windows that are drawn, the latest of a title in the dock of that title.
     std::map<std::shared_ptr<host::ToolWindow>, QPointer<QDockWidget>> docks_;
     QTimer titleSoon_;

@@ -131,6 +131,16 @@ void ProjectExplorer::showTexts() {
             topLevelItem(i)->child(group)->sortChildren(kNameColumn, Qt::AscendingOrder);
 }
 
+vbide::Ref<vbide::VBProject> ProjectExplorer::currentProject() const {
+    const auto number = currentItem() ? currentItem()->data(kNameColumn, kProjectNumber).toULongLong() : 0;
+    return number > 0 ? projects_[number - 1] : nullptr;
+}
+
+vbide::Ref<vbide::VBComponent> ProjectExplorer::currentComponent() const {
+    const auto number = currentItem() ? currentItem()->data(kNameColumn, kComponentNumber).toULongLong() : 0;
+    return number > 0 ? components_[number - 1] : nullptr;
+}
+
 void ProjectExplorer::open(QTreeWidgetItem* item) {
     if (const auto number = item->data(kNameColumn, kProjectNumber).toULongLong())
         return wishes_.activateProject(projects_[number - 1]);

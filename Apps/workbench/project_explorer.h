@@ -20,6 +20,9 @@ public:
 
     ProjectExplorer(vbide::Ref<vbide::VBE> host, Wishes wishes);
 
+    /// Of the entry that the user is on; Nothing where it is another one.
+    vbide::Ref<vbide::VBProject> currentProject() const;
+    vbide::Ref<vbide::VBComponent> currentComponent() const;
     /// The components that are drawn may be others, or dirty; drawn when Qt's loop turns.
     void refreshSoon() { redraw_.start(); }
 

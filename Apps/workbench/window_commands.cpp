@@ -51,7 +51,8 @@ void addComponent(host::Host& host, vbide::vbext_ComponentType type) {
     const auto active = host.ActiveVBProject();
     if (!active) return;
     active->VBComponents()->Add(type);
-    if (const auto added = host.SelectedVBComponent()) added->CodeModule()->CodePane()->Show();
+    const auto added = host.SelectedVBComponent();
+    if (added && !added->HasOpenDesigner()) added->CodeModule()->CodePane()->Show();
 }
 
 void addFile(host::Host& host, MainWindow& window) {
@@ -103,7 +104,14 @@ void addWindowCommands(host::Host& host, MainWindow& window, WindowDeeds deeds) 
         .add(kExitId, "E&xit", [&window] { window.close(); });
     new EditCommands(host, window);
     menuOf(host, host::kViewMenuId)
+        .add(kViewCodeId, "&Code", [&window] { window.design().showCode(); })
+        .add(kViewObjectId, "O&bject", [&window] { window.design().showObject(); })
         .group()
+        .add(kPropertiesId, "Properties &Window",
+             [&window] {
+                 window.propertiesDock().show();
+                 window.design().properties().setFocus();
+             })
         .add(kExplorerId, "&Project Explorer",
              [&window] {
                  window.explorerDock().show();

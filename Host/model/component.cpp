@@ -211,9 +211,9 @@ void Component::remove() {
 void Component::Activate() {
     const auto project = owner();
     const auto self = shared_from_this();
-    if (hasDesigner()) openDesigner();
     const auto host = project->host();
     host->select(self);
+    if (hasDesigner()) DesignerWindow()->SetFocus();
     host->tell(project->componentsEvents->ItemSelected, self);
     host->tell(project->componentsEvents->ItemActivated, self);
 }
@@ -240,7 +240,10 @@ bool Component::hasDesigner() const {
 DesignerHooks Component::designerHooks() {
     // The designer is this component's own: it never outlives it.
     DesignerHooks hooks;
-    hooks.changed = [this] { changed(); };
+    hooks.changed = [this] {
+        changed();
+        tellPanes(&PaneEvents::designChanged);
+    };
     hooks.controlAdded = [this](const auto& control) { owner()->host()->tell(controlsEvents_->ItemAdded, control); };
     hooks.controlRemoved = [this](const auto& control) {
         owner()->host()->tell(controlsEvents_->ItemRemoved, control);
@@ -292,12 +295,22 @@ bool Component::HasOpenDesigner() const {
     return designerWindow_ && designerWindow_->Visible();
 }
 
+/// Nobody is told of a component that has been removed.
+void Component::tellPanes(fernwick::Event<vbide::Ref<vbide::VBComponent>> PaneEvents::*event) {
+    const auto project = project_.lock();
+    const auto host = project ? project->host() : nullptr;
+    if (host) host->tell(host->panes.*event, vbide::Ref<vbide::VBComponent>(shared_from_this()));
+}
+
 void Component::openDesigner() { DesignerWindow()->Visible(true); }
 
 vbide::Ref<vbide::Window> Component::DesignerWindow() {
     owner();
     if (!hasDesigner()) throw hostError(basic::kPropertyOrMethodNotSupported);
-    if (!designerWindow_) designerWindow_ = std::make_shared<ToolWindow>(name_);
+    if (designerWindow_) return designerWindow_;
+    designerWindow_ = std::make_shared<ToolWindow>(name_);
+    designerEvents_.push_back(designerWindow_->changed.connect([this] { tellPanes(&PaneEvents::designerOpened); }));
+    designerEvents_.push_back(designerWindow_->focused.connect([this] { tellPanes(&PaneEvents::designerShown); }));
     return designerWindow_;
 }
 

@@ -19,6 +19,7 @@ class ModuleCode;
 class Project;
 class ToolWindow;
 struct LoadedSource;
+struct PaneEvents;
 
 /// Where a component comes from. A new one has none of it.
 struct ComponentOrigin {
@@ -91,6 +92,7 @@ private:
     DesignerHooks designerHooks();
     /// The file beside which the binary companion lies.
     const std::string& resourcesOf() const { return origin_.path.empty() ? template_ : origin_.path; }
+    void tellPanes(fernwick::Event<vbide::Ref<vbide::VBComponent>> PaneEvents::*event);
     void copyCompanion(Project& project, const std::string& target);
 
     std::weak_ptr<Project> project_;
@@ -101,6 +103,7 @@ private:
     std::string template_;
     bool dirty_ = false, removing_ = false;
     std::shared_ptr<ToolWindow> designerWindow_;
+    std::vector<fernwick::Subscription> designerEvents_;
     std::shared_ptr<ModuleCode> code_;
     std::map<std::string, std::shared_ptr<const ResourceFile>> resources_; // by path
     std::unique_ptr<FormDesigner> designer_;                               // made at first use

@@ -50,13 +50,19 @@ struct HostOptions {
     std::function<std::string()> askForProject;
 };
 
-/// What happens to the code panes of components, for a front end that draws them.
+/// What happens to the code panes and designers of components, for a front end that draws them.
 struct PaneEvents {
     /// It is to come to the front.
     fernwick::Event<vbide::Ref<vbide::VBComponent>> shown;
     fernwick::Event<vbide::Ref<vbide::VBComponent>> selectionSet;
     /// Somebody edited the code, perhaps the front end itself.
     fernwick::Event<vbide::Ref<vbide::VBComponent>> codeChanged;
+    /// A form's designer is to come to the front.
+    fernwick::Event<vbide::Ref<vbide::VBComponent>> designerShown;
+    /// A form's designer opened or closed.
+    fernwick::Event<vbide::Ref<vbide::VBComponent>> designerOpened;
+    /// Somebody edited the text of a form, perhaps the front end itself.
+    fernwick::Event<vbide::Ref<vbide::VBComponent>> designChanged;
 };
 
 class Host final : public vbide::VBE, public std::enable_shared_from_this<Host> {

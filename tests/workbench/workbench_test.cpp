@@ -139,9 +139,10 @@ TEST_F(Desktop, OpeningAProjectOpensNoCode) {
     EXPECT_EQ(window().code().count(), 0);
 }
 
-TEST_F(Desktop, ADoubleClickOpensTheCode) {
+TEST_F(Desktop, TheCodeOfAFormOpensFromItsDesigner) {
     openSample("HelloWorld");
     doubleClick(entry("frmHello"));
+    menuItem("&View", "&Code")->trigger();
     ASSERT_TRUE(window().code().current());
     const auto module = component("frmHello")->CodeModule();
     EXPECT_EQ(window().code().current()->scintilla().text().toStdString() + "\n", [&] {
@@ -149,7 +150,7 @@ TEST_F(Desktop, ADoubleClickOpensTheCode) {
         std::erase(lines, '\r');
         return lines + "\n";
     }());
-    EXPECT_EQ(window().code().tabText(0), "frmHello");
+    EXPECT_EQ(window().code().tabText(1), "frmHello");
     EXPECT_FALSE(component("frmHello")->IsDirty());
 }
 
