@@ -4,6 +4,7 @@
 #include "Apps/workbench/menu_builder.h"
 #include "Apps/workbench/text.h"
 #include <QAction>
+#include <QApplication>
 #include <QDockWidget>
 #include <QPointer>
 #include <algorithm>
@@ -32,11 +33,21 @@ KnownDock commandOf(const QString& name) {
     return {"", "", kDockId};
 }
 
-void turnOver(QDockWidget& dock) {
-    if (!dock.isHidden()) return dock.hide();
+/// What of a dock takes the keys.
+QWidget* keyTarget(QDockWidget& dock) {
+    if (!dock.widget() || dock.widget()->focusPolicy() != Qt::NoFocus) return dock.widget();
+    for (auto* inner : dock.widget()->findChildren<QWidget*>())
+        if ((inner->focusPolicy() & Qt::TabFocus) != 0 && inner->isVisibleTo(&dock)) return inner;
+    return dock.widget();
+}
+
+/// Where the user wants to go: there first, away only from there.
+void goTo(QDockWidget& dock) {
+    const auto* const focus = QApplication::focusWidget();
+    if (!dock.isHidden() && focus && dock.isAncestorOf(focus)) return dock.hide();
     dock.show();
     dock.raise();
-    if (dock.widget()) dock.widget()->setFocus();
+    if (auto* target = keyTarget(dock)) target->setFocus(Qt::ShortcutFocusReason);
 }
 
 void addSwitch(host::Bar& menu, QDockWidget& dock, bool isFirst) {
@@ -46,7 +57,7 @@ void addSwitch(host::Bar& menu, QDockWidget& dock, bool isFirst) {
     control->BeginGroup(isFirst);
     control->checked(!dock.isHidden());
     control->action = [link = QPointer(&dock)] {
-        if (link) turnOver(*link);
+        if (link) goTo(*link);
     };
     QObject::connect(dock.toggleViewAction(), &QAction::toggled, &dock, [link = std::weak_ptr(control)](bool shown) {
         if (const auto standing = link.lock()) standing->checked(shown);

@@ -8,7 +8,7 @@ namespace workbench {
 
 class MainWindow;
 
-/// A switch for each dock that stands and each that comes.
+/// A switch for each dock that stands and each that comes: shows it and gives it the keys, hides it when it has them.
 void addDockSwitches(host::Host& host, MainWindow& window);
 /// The popup with a switch for each toolbar, filled when it comes up.
 void addToolBarSwitches(host::Host& host);

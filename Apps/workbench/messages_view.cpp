@@ -86,7 +86,7 @@ MessagesView::MessagesView(basic::Ref<Document> document, Run run)
     watches_.push_back(document_->refreshed.connect(soon));
     watches_.push_back(document_->lblStatus.watch(soon));
     watches_.push_back(document_->lblStatusText.watch(soon));
-    connect(grid_, &QTreeView::doubleClicked, this,
+    connect(grid_, &QTreeView::activated, this,
             [this, run](const QModelIndex& index) { run([&] { document_->gotoMessage(index.row() + 1); }); });
     draw();
 }
