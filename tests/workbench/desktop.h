@@ -40,7 +40,11 @@ protected:
         settle();
     }
     /// Lets everything be drawn that waits for Qt's loop.
-    static void settle() { QTest::qWait(20); }
+    static void settle() {
+        QTest::qWait(20);
+        constexpr int kMostTurns = 10; // one drawing may ask for another
+        for (int turn = 0; turn < kMostTurns; ++turn) QCoreApplication::processEvents();
+    }
     vbide::Ref<vbide::VBProject> project() { return bench->host().ActiveVBProject(); }
     vbide::Ref<vbide::VBComponent> component(const std::string& name) { return project()->VBComponents()->Item(name); }
     workbench::CodeEditor& editor(const std::string& name) {
