@@ -54,7 +54,13 @@ void eventually(const std::string& expected, const std::function<bool()>& isSo) 
     }
 }
 
-void xdotool(const QStringList& arguments) { ASSERT_EQ(QProcess::execute("xdotool", arguments), 0); }
+void xdotool(const QStringList& arguments) {
+    QProcess process;
+    process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    process.start("xdotool", arguments);
+    ASSERT_TRUE(process.waitForFinished());
+    ASSERT_EQ(process.exitCode(), 0);
+}
 
 void press(const QStringList& keys) { xdotool(QStringList{"key", "--delay", "5"} + keys); }
 
