@@ -17,6 +17,8 @@ public:
     FormWindows& forms() { return *forms_; }
     PropertiesWindow& properties() { return *properties_; }
 
+    /// What the user works on: an entry of the explorer that has the focus, else the tab in front.
+    vbide::Ref<vbide::VBComponent> inHand() const;
     /// Shows a component's form, or its code where it has none.
     void open(const vbide::Ref<vbide::VBComponent>& component);
     /// The code of what the user works on.
@@ -27,8 +29,6 @@ public:
     bool undo();
 
 private:
-    /// What the user works on: an entry of the explorer that has the focus, else the tab in front.
-    vbide::Ref<vbide::VBComponent> inHand() const;
     void watch();
     void refreshSoon();
     void followTabs();

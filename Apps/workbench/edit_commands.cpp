@@ -63,9 +63,8 @@ EditCommands::EditCommands(host::Host& host, MainWindow& window)
     fill(*popupOf(host, host::kEditMenuId), std::begin(kEditMenu), std::end(kEditMenu));
     fill(*popupOf(host, host::kViewMenuId), std::begin(kViewMenu), std::end(kViewMenu));
     window.code().made = [this](CodeEditor& editor) { attach(editor); };
-    connect(&window.code(), &QTabWidget::currentChanged, this,
-            [this](int index) { enable(index >= 0 && window_.code().current()); });
-    enable(false);
+    connect(&window.code(), &QTabWidget::currentChanged, this, [this] { enable(); });
+    enable();
 }
 
 /// Below whatever stands in the middle of the window.
@@ -87,14 +86,19 @@ void EditCommands::fill(host::Bar& menu, const Entry* first, const Entry* end) {
         control->Caption(entry.caption);
         control->BeginGroup(entry.begins);
         control->action = [this, act = entry.act] {
-            if (auto* const editor = window_.code().current()) (this->*act)(*editor);
+            if (auto* const editor = window_.code().current())
+                (this->*act)(*editor);
+            else if (act == &EditCommands::undo)
+                window_.design().undo();
         };
         controls_.push_back(control);
     }
 }
 
-void EditCommands::enable(bool hasEditor) {
-    for (const auto& control : controls_) control->Enabled(hasEditor);
+/// On a form a change can be taken back.
+void EditCommands::enable() {
+    const bool hasEditor = window_.code().current(), hasForm = !hasEditor && window_.code().currentWidget();
+    for (const auto& control : controls_) control->Enabled(hasEditor || (hasForm && control->Id() == kUndoId));
 }
 
 // ---- the editors' own menu --------------------------------------------------------------------------------------------

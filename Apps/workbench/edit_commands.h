@@ -43,7 +43,7 @@ private:
 
     void fill(host::Bar& menu, const Entry* first, const Entry* end);
     void addFindBar();
-    void enable(bool hasEditor);
+    void enable();
     void attach(CodeEditor& editor);
     void showMenu(CodeEditor& editor, const QPoint& at);
 

@@ -10,7 +10,8 @@ namespace workbench {
 
 namespace {
 
-constexpr auto kGeometryKey = "window/geometry", kStateKey = "window/state", kThemeKey = "window/theme";
+constexpr auto kGeometryKey = "window/geometry", kStateKey = "window/state", kThemeKey = "window/theme", kDark = "dark",
+               kLight = "light";
 /// Counts up when docks and toolbars change so much that an old arrangement makes no sense.
 constexpr int kLayoutVersion = 1;
 constexpr int kUsualWidth = 1100, kUsualHeight = 720, kUsualExplorerWidth = 270;
@@ -32,9 +33,11 @@ MainWindow::MainWindow(host::Host& host, BarsView::Run run, MayClose mayClose)
       bars_(host.bars(), *this, run_) {
     setObjectName("workbench");
     setCentralWidget(code_);
+    code_->setFocus(); // where work begins; the command of a dock would hide the one that has the keys
     resize(kUsualWidth, kUsualHeight);
     resizeDocks({explorerDock_}, {kUsualExplorerWidth}, Qt::Horizontal);
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
+    setAnimated(false); // a toolbar stands where the user lets go of it, and its model says so at once
     titleSoon_.setSingleShot(true);
     titleSoon_.setInterval(0);
     connect(&titleSoon_, &QTimer::timeout, this, [this] { showTitle(); });
@@ -59,7 +62,8 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     bool closes = false;
     run_([&] { closes = mayClose_(); });
     if (!closes) return event->ignore();
-    saveLayout();
+    saveLayout(); // before projects and add-ins take theirs down
+    run_([this] { host_.close(); });
     event->accept();
 }
 
@@ -70,6 +74,8 @@ QDockWidget* MainWindow::addDock(const QString& name, const QString& title, QWid
     dock->setObjectName(name);
     dock->setWidget(widget);
     addDockWidget(area, dock);
+    allDocks_.push_back(dock);
+    dockAdded(*dock);
     return dock;
 }
 
@@ -122,21 +128,29 @@ void MainWindow::markMessages(const fernwick::udocCompileMsgs& messages) {
 
 void MainWindow::restoreLayout() {
     const QSettings settings;
-    if (settings.contains(kThemeKey)) setTheme(settings.value(kThemeKey) == "dark" ? Theme::Dark : Theme::Light);
+    if (settings.contains(kThemeKey)) showTheme(settings.value(kThemeKey) == kDark ? Theme::Dark : Theme::Light);
     restoreGeometry(settings.value(kGeometryKey).toByteArray());
     restoreState(settings.value(kStateKey).toByteArray(), kLayoutVersion);
     for (const auto& [window, dock] : docks_)
         if (dock) dock->setVisible(window->Visible()); // the project says whether its messages show
+    ownBars_ = host_.bars().items();
+    for (const auto& bar : ownBars_) restorePlace(*basic::cast<host::Bar>(bar).shared());
+    bars_.placeToolBars();
 }
 
 void MainWindow::saveLayout() const {
     QSettings settings;
     settings.setValue(kGeometryKey, saveGeometry());
     settings.setValue(kStateKey, saveState(kLayoutVersion));
-    settings.setValue(kThemeKey, currentTheme() == Theme::Dark ? "dark" : "light");
+    for (const auto& bar : ownBars_) storePlace(*basic::cast<host::Bar>(bar).shared());
 }
 
 void MainWindow::setTheme(Theme theme) {
+    QSettings().setValue(kThemeKey, theme == Theme::Dark ? kDark : kLight);
+    showTheme(theme);
+}
+
+void MainWindow::showTheme(Theme theme) {
     apply(theme);
     code_->colour(theme);
 }

@@ -34,11 +34,12 @@ QPixmap pictureNamed(const std::string& name, const QWidget& window) {
     return QPixmap(qt(name));
 }
 
-QPixmap pictureOf(const std::string& bmp) {
+QPixmap pictureOf(const std::string& bmp, int scale) {
     QImage image;
     if (!image.loadFromData(QByteArray::fromStdString(bmp), "BMP")) return {};
-    auto picture = QPixmap::fromImage(image);
+    auto picture = QPixmap::fromImage(image.scaled(image.size() * scale));
     picture.setMask(picture.createMaskFromColor(kPictureGround.rgb()));
+    picture.setDevicePixelRatio(scale);
     return picture;
 }
 

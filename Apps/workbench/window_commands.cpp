@@ -1,8 +1,12 @@
 #include "Apps/workbench/window_commands.h"
 #include "Apps/workbench/command_icons.h"
+#include "Apps/workbench/component_commands.h"
+#include "Apps/workbench/dock_menu.h"
 #include "Apps/workbench/edit_commands.h"
+#include "Apps/workbench/menu_builder.h"
+#include "Apps/workbench/project_saving.h"
 #include "Apps/workbench/text.h"
-#include <QDockWidget>
+#include "Apps/workbench/window_menu.h"
 #include <QFileDialog>
 
 namespace workbench {
@@ -10,41 +14,6 @@ namespace workbench {
 namespace {
 
 constexpr int kTopOfWindow = 1;
-
-std::shared_ptr<host::BarControl> controlOf(host::Host& host, int id) {
-    return basic::cast<host::BarControl>(host.CommandBars()->FindControl(id)).shared();
-}
-
-/// Adds commands to one popup.
-class Menu {
-public:
-    explicit Menu(std::shared_ptr<host::Bar> bar) : bar_(std::move(bar)) {}
-
-    Menu& add(int id, const char* caption, std::function<void()> action) {
-        const auto control = bar_->add(office::msoControlButton, id);
-        control->Caption(caption);
-        control->BeginGroup(std::exchange(group_, false));
-        control->action = std::move(action);
-        return *this;
-    }
-    Menu& popup(int id, const char* caption) {
-        const auto control = bar_->add(office::msoControlPopup, id);
-        control->Caption(caption);
-        control->BeginGroup(std::exchange(group_, false));
-        return *this;
-    }
-    /// The next one begins a group.
-    Menu& group() {
-        group_ = true;
-        return *this;
-    }
-
-private:
-    std::shared_ptr<host::Bar> bar_;
-    bool group_ = false;
-};
-
-Menu menuOf(host::Host& host, int id) { return Menu(controlOf(host, id)->popup()); }
 
 /// An add-in may put another component in its place.
 void addComponent(host::Host& host, vbide::vbext_ComponentType type) {
@@ -63,31 +32,94 @@ void addFile(host::Host& host, MainWindow& window) {
     if (!path.isEmpty()) active->VBComponents()->AddFile(text(path));
 }
 
+void addFileMenu(host::Host& host, MainWindow& window, const WindowDeeds& deeds) {
+    controlOf(host, host::kNewProjectId)->Caption("&New Project...");
+    controlOf(host, host::kNewProjectId)->action = deeds.newProject;
+    controlOf(host, host::kSaveProjectId)->action = deeds.saveProject;
+    controlOf(host, host::kRemoveProjectId)->action = deeds.removeProject;
+    menuOf(host, host::kFileMenuId)
+        .group()
+        .add(kSaveFileId, "&Save File", [&host, &window] { saveFile(host, window); })
+        .add(kSaveFileAsId, "Save File &As...", [&window] { saveFileAs(window); })
+        .add(kSaveProjectAsId, "Save Pro&ject As...",
+             [&host, &window] {
+                 if (const auto active = host.ActiveVBProject()) saveUnderNewName(active, &window);
+             })
+        .group()
+        .popup(kRecentMenuId, "Recent &Projects")
+        .group()
+        .add(kExitId, "E&xit", [&window] { window.close(); });
+}
+
+void addViewMenu(host::Host& host, MainWindow& window) {
+    menuOf(host, host::kViewMenuId)
+        .add(kViewCodeId, "&Code", [&window] { window.design().showCode(); })
+        .add(kViewObjectId, "O&bject", [&window] { window.design().showObject(); });
+    addToolBarSwitches(host);
+    menuOf(host, host::kViewMenuId).add(kThemeId, "&Light or Dark", [&window] {
+        window.setTheme(currentTheme() == Theme::Light ? Theme::Dark : Theme::Light);
+    });
+    addDockSwitches(host, window); // last, as more of them come
+}
+
 void addProjectMenu(host::Host& host, MainWindow& window) {
     menuOf(host, host::kProjectMenuId)
         .add(kAddFormId, "Add &Form", [&host] { addComponent(host, vbide::vbext_ct_VBForm); })
         .add(kAddModuleId, "Add &Module", [&host] { addComponent(host, vbide::vbext_ct_StdModule); })
         .add(kAddClassId, "Add &Class Module", [&host] { addComponent(host, vbide::vbext_ct_ClassModule); })
         .group()
-        .add(kAddFileId, "&Add File...", [&host, &window] { addFile(host, window); });
+        .add(kAddFileId, "&Add File...", [&host, &window] { addFile(host, window); })
+        .add(kRemoveComponentId, "&Remove File", [&window] { removeComponent(window); })
+        .group()
+        .add(kStartUpProjectId, "Set as Start &Up", [&window] { setAsStartUp(window); });
 }
 
-void addRunMenu(host::Host& host, const WindowDeeds& deeds) {
+std::shared_ptr<host::Bar> addTopMenu(host::Host& host, int id, const char* caption, int before) {
     const auto menuBar = basic::cast<host::Bar>(host.CommandBars()->ActiveMenuBar()).shared();
-    const auto before = controlOf(host, host::kAddInsMenuId)->Index();
-    const auto run = menuBar->add(office::msoControlPopup, kRunMenuId, before);
-    run->Caption("&Run");
-    Menu(run->popup()).add(kCompileId, "&Compile Project", deeds.compile);
+    const auto menu = menuBar->add(office::msoControlPopup, id, controlOf(host, before)->Index());
+    menu->Caption(caption);
+    return menu->popup();
+}
+
+/// As Run > Start anywhere: what the user has written comes to run, here on its device.
+void addRunMenu(host::Host& host, const WindowDeeds& deeds) {
+    Menu(addTopMenu(host, kRunMenuId, "&Run", host::kAddInsMenuId)).add(kStartId, "&Start on Device", deeds.start);
+}
+
+/// Add-ins that are listed, each a switch that connects it.
+void addAddInsMenu(host::Host& host) {
+    const auto control = controlOf(host, host::kAddInsMenuId);
+    const auto fill = [&host, popup = std::weak_ptr(control->popup())] {
+        const auto menu = popup.lock();
+        if (!menu) return;
+        for (const auto& old : std::vector(menu->list()))
+            if (old->Id() == kAddInId) old->Delete();
+        for (const auto& addIn : host.Addins()->items()) {
+            const auto entry = menu->add(office::msoControlButton, kAddInId);
+            entry->Caption(addIn->Description());
+            entry->checked(addIn->Connect());
+            entry->action = [addIn] { addIn->Connect(!addIn->Connect()); };
+        }
+    };
+    control->beforeShow = fill;
+    fill(); // a popup without anything is not shown
+}
+
+void addHelpMenu(host::Host& host, const WindowDeeds& deeds) {
+    menuOf(host, host::kHelpMenuId)
+        .add(kHelpId, "&Contents", deeds.help)
+        .group()
+        .add(kAboutId, "&About Fernwick Workbench...", deeds.about);
 }
 
 void addStandardToolbar(host::Host& host) {
-    const auto toolbar = host.bars().addBar("Standard", kTopOfWindow);
+    const auto toolbar = host.bars().addBar(kStandardToolbar, kTopOfWindow);
     for (const int id :
-         {int(host::kNewProjectId), int(host::kOpenProjectId), int(host::kSaveProjectId), int(kCompileId)}) {
+         {int(host::kNewProjectId), int(host::kOpenProjectId), int(host::kSaveProjectId), int(kStartId)}) {
         const auto button = toolbar->add(office::msoControlButton, id);
         const auto command = controlOf(host, id);
         button->Caption(command->Caption());
-        button->BeginGroup(id == kCompileId);
+        button->BeginGroup(id == kStartId);
         button->action = [command] { command->Execute(); };
     }
 }
@@ -95,33 +127,14 @@ void addStandardToolbar(host::Host& host) {
 } // namespace
 
 void addWindowCommands(host::Host& host, MainWindow& window, WindowDeeds deeds) {
-    controlOf(host, host::kSaveProjectId)->action = deeds.saveProject;
-    controlOf(host, host::kRemoveProjectId)->action = deeds.removeProject;
-    menuOf(host, host::kFileMenuId)
-        .group()
-        .popup(kRecentMenuId, "Recent &Projects")
-        .group()
-        .add(kExitId, "E&xit", [&window] { window.close(); });
+    addFileMenu(host, window, deeds);
+    addViewMenu(host, window);
     new EditCommands(host, window);
-    menuOf(host, host::kViewMenuId)
-        .add(kViewCodeId, "&Code", [&window] { window.design().showCode(); })
-        .add(kViewObjectId, "O&bject", [&window] { window.design().showObject(); })
-        .group()
-        .add(kPropertiesId, "Properties &Window",
-             [&window] {
-                 window.propertiesDock().show();
-                 window.design().properties().setFocus();
-             })
-        .add(kExplorerId, "&Project Explorer",
-             [&window] {
-                 window.explorerDock().show();
-                 window.explorer().setFocus();
-             })
-        .group()
-        .add(kThemeId, "&Light or Dark",
-             [&window] { window.setTheme(currentTheme() == Theme::Light ? Theme::Dark : Theme::Light); });
     addProjectMenu(host, window);
     addRunMenu(host, deeds);
+    addAddInsMenu(host);
+    addWindowMenu(host, window.code());
+    addHelpMenu(host, deeds);
     addStandardToolbar(host);
 }
 

@@ -1,9 +1,12 @@
 #include "Apps/workbench/workbench.h"
 #include "Apps/common/compile_steps.h"
 #include "Apps/common/trusted_folders.h"
+#include "Apps/workbench/explorer_menu.h"
+#include "Apps/workbench/new_project.h"
 #include "Apps/workbench/project_saving.h"
 #include "Apps/workbench/text.h"
 #include "Apps/workbench/window_commands.h"
+#include "Host/model/projects.h"
 #include <QApplication>
 #include <QFileDialog>
 #include <QMessageBox>
@@ -16,6 +19,10 @@ constexpr auto kTitle = "Fernwick Workbench";
 constexpr auto kNoFernwickProject =
     "%1 is not a Fernwick project: its section [Quinloft Global] has no line IsQuinloftProject=True. Make one from the "
     "template \"Fernwick Project\", or add that section with ProjectVersion=3.5.";
+
+constexpr auto kAboutTitle = "About Fernwick Workbench";
+constexpr auto kAbout = "<b>Fernwick Workbench %1</b><p>Turns Visual Basic 6 projects into applications for handhelds."
+                        "<p>With Qt %2.";
 
 } // namespace
 
@@ -36,17 +43,8 @@ Workbench::Workbench()
     window_ = std::make_unique<MainWindow>(
         *host_, [this](const auto& act) { run(act); }, [this] { return mayClose(); });
     user_.mainWindow = window_.get();
-    addWindowCommands(*host_, *window_,
-                      {[this] { compileActive(); },
-                       [this] {
-                           if (const auto active = host_->ActiveVBProject())
-                               saveWithNames(*host_, active, window_.get());
-                       },
-                       [this] {
-                           const auto active = host_->ActiveVBProject();
-                           if (active && mayBeClosed(*host_, {active}, window_.get()))
-                               host_->VBProjects()->Remove(active);
-                       }});
+    addWindowCommands(*host_, *window_, deeds());
+    addExplorerMenu(*host_, *window_);
     recent_ = std::make_unique<RecentProjects>(*host_, recentMenu(*host_), [this](const auto& path) { open(path); });
     unsaved_ = std::make_unique<UnsavedWork>(*host_, *window_, [this](const auto& path) { open(path); });
     problemsSoon_.setSingleShot(true);
@@ -76,6 +74,34 @@ host::HostOptions Workbench::hostOptions() {
     options.mayReplaceChanged = mayReplaceChanged;
     options.askForProject = [this] { return askForProject(); };
     return options;
+}
+
+WindowDeeds Workbench::deeds() {
+    WindowDeeds deeds;
+    deeds.newProject = [this] { newProject(); };
+    deeds.saveProject = [this] {
+        if (const auto active = host_->ActiveVBProject()) saveWithNames(*host_, active, window_.get());
+    };
+    deeds.removeProject = [this] {
+        const auto active = host_->ActiveVBProject();
+        if (active && mayBeClosed(*host_, {active}, window_.get())) host_->VBProjects()->Remove(active);
+    };
+    deeds.start = [this] { startActive(); };
+    deeds.help = [this] { modules_->help.DisplayHelp(fernwick::kUsersGuideTopic); };
+    deeds.about = [this] {
+        QMessageBox::about(window_.get(), kAboutTitle,
+                           QString(kAbout).arg(QApplication::applicationVersion(), qVersion()));
+    };
+    return deeds;
+}
+
+void Workbench::newProject() {
+    const auto kind = askForProjectKind(host_->TemplatePath(), window_.get());
+    if (!kind) return;
+    if (kind->path.empty())
+        host_->projects().addNew();
+    else
+        host_->VBProjects()->AddFromTemplate(kind->path);
 }
 
 void Workbench::open(const std::string& path) {
@@ -126,7 +152,7 @@ std::string Workbench::askForProject() {
                                              "Projects (*.vbp *.vbg *.VBP *.VBG);;All files (*)"));
 }
 
-void Workbench::compileActive() {
+void Workbench::startActive() {
     const auto active = host_->ActiveVBProject();
     if (!active) return;
     const auto project = modules_->projects.GetQLProject(active);
@@ -134,8 +160,16 @@ void Workbench::compileActive() {
         QMessageBox::information(window_.get(), kTitle, QString(kNoFernwickProject).arg(qt(active->Name())));
         return;
     }
-    if (modules_->compile.CompileProject(active)) modules_->validate.ValidateProject(active, project->TargetDevice());
-    modules_->messages.ShowProjectCompileErrors(active, true);
+    if (compiled(active)) modules_->sendToDevice.SendProjectToDevice(project, false, project->TargetDevice());
+}
+
+/// The messages come up when something is wrong with it.
+bool Workbench::compiled(const vbide::Ref<vbide::VBProject>& project) {
+    const bool good =
+        modules_->compile.CompileProject(project) &&
+        modules_->validate.ValidateProject(project, modules_->projects.GetQLProject(project)->TargetDevice());
+    if (!good) modules_->messages.ShowProjectCompileErrors(project, true);
+    return good;
 }
 
 bool Workbench::mayRunSteps(const std::string& commandLine, const std::string& folder) {

@@ -8,6 +8,7 @@
 #include "Apps/workbench/qt_user.h"
 #include "Apps/workbench/recent_projects.h"
 #include "Apps/workbench/unsaved_work.h"
+#include "Apps/workbench/window_commands.h"
 
 namespace workbench {
 
@@ -32,7 +33,10 @@ private:
     void run(const std::function<void()>& act);
     void tell(std::exception_ptr error);
     void tellProblems();
-    void compileActive();
+    WindowDeeds deeds();
+    void newProject();
+    void startActive();
+    bool compiled(const vbide::Ref<vbide::VBProject>& project);
     bool mayRunSteps(const std::string& commandLine, const std::string& folder);
     bool mayClose();
     std::string askForProject();
