@@ -148,12 +148,21 @@ TEST_F(ProjectEvents, TheHostsTemplateMakesWayForTheTargets) {
 
 TEST_F(ProjectEvents, TheReloadedTemplateIsSetUpAndGetsItsFirstForm) {
     targets.templates.project = kTargetsOwn;
+    targets.knows.required = {"{CA647498-D486-4FC0-841B-DA55C9A0F114}"};
     connection->TemplateReloadPending = true;
     const auto project = fromTemplate("Palm-1");
+    files.files["/vb/Template/Projects/modBase.bas"] = {};
+    component(project, "modBase", vbide::vbext_ct_StdModule, "/vb/Template/Projects/modBase.bas")->dirty = true;
     const auto effects = tellAdded(project);
     EXPECT_FALSE(connection->TemplateReloadPending);
-    const Effects order{"OpenedFromQLTemplate=True", "TargetDevice=Palm-1", "default target Palm-1",
-                        "add component 5",           "start up New1",       "restore toolbars"};
+    const Effects order{"OpenedFromQLTemplate=True",
+                        "modBase saved /vb/Template/Projects/modBase.bas",
+                        "TargetDevice=Palm-1",
+                        "reference {CA647498-D486-4FC0-841B-DA55C9A0F114}",
+                        "default target Palm-1",
+                        "add component 5",
+                        "start up New2",
+                        "restore toolbars"};
     auto at = std::find(effects.begin(), effects.end(), "sink: references of Project1");
     for (const auto& step : order) {
         at = std::find(at, effects.end(), step);
