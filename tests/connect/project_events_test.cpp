@@ -126,9 +126,16 @@ TEST_F(UnknownDevice, TheProjectIsClosedAgain) {
 
 TEST_F(UnknownDevice, WithoutTargetsNobodyIsAsked) {
     targets.known = {};
-    const auto effects = tellAdded(opened("A", "Gone-9"));
-    EXPECT_THAT(effects, Not(Contains("unknown device of A")));
-    EXPECT_THAT(effects, Contains("host: remove project")); // the set-up had it removed, and the host ran meanwhile
+    loop.timersAreDue = false;
+    EXPECT_THAT(tellAdded(opened("A", "Gone-9")), Not(Contains("unknown device of A")));
+    loop.timersAreDue = true;
+    EXPECT_THAT(turn(), ElementsAre("active A", "host: remove project")); // as the set-up asked
+}
+
+TEST_F(UnknownDevice, TheProjectMayBeRemovedWhileTheHostRuns) {
+    targets.known = {};
+    EXPECT_THAT(tellAdded(opened("A", "Gone-9")), Contains("host: remove project"));
+    EXPECT_EQ(trace.effects.back(), "restore toolbars");
     EXPECT_THAT(openNames(), IsEmpty());
     EXPECT_THAT(errors.seen, IsEmpty());
 }
@@ -169,6 +176,13 @@ TEST_F(ProjectEvents, TheReloadedTemplateIsSetUpAndGetsItsFirstForm) {
         EXPECT_NE(at, effects.end()) << step;
     }
     EXPECT_THAT(effects, Not(Contains("Project1 saved " + project->file)));
+    EXPECT_FALSE(loop.hasTimers());
+}
+
+TEST_F(ProjectEvents, AReloadedTemplateIsNotReloadedAgain) {
+    targets.templates.project = kTargetsOwn;
+    connection->TemplateReloadPending = true;
+    EXPECT_THAT(tellAdded(fromTemplate()), Contains("add component 5")); // its device is the only one there is
     EXPECT_FALSE(loop.hasTimers());
 }
 
