@@ -153,6 +153,25 @@ TEST_F(EventSequence, TwoProjectsOpenedBackToBack) {
     EXPECT_EQ(modules->projects.gCurrentProject, a);
 }
 
+TEST_F(EventSequence, AGroupsProjectsAreAllTakenUp) {
+    named("A").writeTo(host.folder);
+    named("B").writeTo(host.folder);
+    host.openFile(host.folder.write("Both.vbg", "VBGROUP 5.0\r\nStartupProject=A.vbp\r\nProject=B.vbp\r\n"));
+    EXPECT_THAT(tape.lines, ElementsAre("load A.vbp", "added A", "load B.vbp", "added B", "activated A"));
+    EXPECT_EQ(modules->projects.gCurrentProject, active());
+    for (const auto& project : host.ide->VBProjects()->items()) EXPECT_TRUE(modules->projects.FindQLProject(project));
+}
+
+TEST_F(EventSequence, WhileAProjectRunsTheToolbarsRestAndTheMenuStays) {
+    host.open(named("A"));
+    const auto build = host.ide->Events()->VBBuildEvents();
+    build->EnterRunMode.raise();
+    EXPECT_FALSE(items().gMainToolbar->Enabled() || items().gSupportToolbar->Enabled());
+    EXPECT_TRUE(items().gCompileItem->Enabled());
+    build->EnterDesignMode.raise();
+    EXPECT_TRUE(items().gMainToolbar->Enabled() && items().gSupportToolbar->Enabled());
+}
+
 TEST_F(EventSequence, AProjectMayGoWhileItIsAdded) {
     loop.Post([this] { host.ide->VBProjects()->Remove(active()); });
     const auto project = host.open(named("A"));
@@ -193,6 +212,16 @@ TEST_F(EventSequence, ARemovalThatIsAskedForWhileAProjectIsAddedWaitsForTheTimer
     EXPECT_FALSE(project->IsDirty());
     loop.turn();
     EXPECT_THAT(tape.lines, ElementsAre("load Old.vbp", "added Old", "removed Old", "import"));
+}
+
+TEST_F(EventSequence, AfterADisconnectionFilesAreWrittenAsEver) {
+    const auto project = host.open(named("A"));
+    host.ide->Addins()->Item(kProgId)->Connect(false);
+    project->WriteProperty("A", "key", "value");
+    host.ide->saveProject(project);
+    EXPECT_THAT(host.folder.read("A.vbp"), HasSubstr("key=value"));
+    project->VBComponents()->Add(vbide::vbext_ct_UserControl);
+    EXPECT_THAT(boxes(), IsEmpty());
 }
 
 TEST_F(EventSequence, OfAnOldProjectNothingIsWrittenBack) {

@@ -126,9 +126,16 @@ TEST_F(UnknownDevice, TheProjectIsClosedAgain) {
 
 TEST_F(UnknownDevice, WithoutTargetsNobodyIsAsked) {
     targets.known = {};
-    const auto effects = tellAdded(opened("A", "Gone-9"));
-    EXPECT_THAT(effects, Not(Contains("unknown device of A")));
-    EXPECT_THAT(effects, Contains("host: remove project")); // the set-up had it removed, and the host ran meanwhile
+    loop.timersAreDue = false;
+    EXPECT_THAT(tellAdded(opened("A", "Gone-9")), Not(Contains("unknown device of A")));
+    loop.timersAreDue = true;
+    EXPECT_THAT(turn(), ElementsAre("active A", "host: remove project")); // as the set-up asked
+}
+
+TEST_F(UnknownDevice, TheProjectMayBeRemovedWhileTheHostRuns) {
+    targets.known = {};
+    EXPECT_THAT(tellAdded(opened("A", "Gone-9")), Contains("host: remove project"));
+    EXPECT_EQ(trace.effects.back(), "restore toolbars");
     EXPECT_THAT(openNames(), IsEmpty());
     EXPECT_THAT(errors.seen, IsEmpty());
 }
@@ -148,18 +155,34 @@ TEST_F(ProjectEvents, TheHostsTemplateMakesWayForTheTargets) {
 
 TEST_F(ProjectEvents, TheReloadedTemplateIsSetUpAndGetsItsFirstForm) {
     targets.templates.project = kTargetsOwn;
+    targets.knows.required = {"{CA647498-D486-4FC0-841B-DA55C9A0F114}"};
     connection->TemplateReloadPending = true;
     const auto project = fromTemplate("Palm-1");
+    files.files["/vb/Template/Projects/modBase.bas"] = {};
+    component(project, "modBase", vbide::vbext_ct_StdModule, "/vb/Template/Projects/modBase.bas")->dirty = true;
     const auto effects = tellAdded(project);
     EXPECT_FALSE(connection->TemplateReloadPending);
-    const Effects order{"OpenedFromQLTemplate=True", "TargetDevice=Palm-1", "default target Palm-1",
-                        "add component 5",           "start up New1",       "restore toolbars"};
+    const Effects order{"OpenedFromQLTemplate=True",
+                        "modBase saved /vb/Template/Projects/modBase.bas",
+                        "TargetDevice=Palm-1",
+                        "reference {CA647498-D486-4FC0-841B-DA55C9A0F114}",
+                        "default target Palm-1",
+                        "add component 5",
+                        "start up New2",
+                        "restore toolbars"};
     auto at = std::find(effects.begin(), effects.end(), "sink: references of Project1");
     for (const auto& step : order) {
         at = std::find(at, effects.end(), step);
         EXPECT_NE(at, effects.end()) << step;
     }
     EXPECT_THAT(effects, Not(Contains("Project1 saved " + project->file)));
+    EXPECT_FALSE(loop.hasTimers());
+}
+
+TEST_F(ProjectEvents, AReloadedTemplateIsNotReloadedAgain) {
+    targets.templates.project = kTargetsOwn;
+    connection->TemplateReloadPending = true;
+    EXPECT_THAT(tellAdded(fromTemplate()), Contains("add component 5")); // its device is the only one there is
     EXPECT_FALSE(loop.hasTimers());
 }
 

@@ -10,6 +10,8 @@ namespace test {
 /// Libraries and modules that the targets know, by their identifiers.
 struct KnownModules {
     std::set<std::string> references, modules;
+    /// Identifiers of the libraries that each project must carry.
+    std::vector<std::string> required;
 };
 
 /// Paths of the templates that each target has.
@@ -35,8 +37,8 @@ public:
     void GetSupportedTavlets(std::vector<std::string>&, std::vector<std::string>&,
                              std::vector<std::string>&) const override {}
     std::int32_t NumSupportedTavlets() const override { return 0; }
-    void GetSupportedReferences(std::vector<std::string>&) const override {}
-    std::int32_t NumSupportedReferences() const override { return 0; }
+    void GetSupportedReferences(std::vector<std::string>& guids) const override { guids = knows_.required; }
+    std::int32_t NumSupportedReferences() const override { return std::int32_t(knows_.required.size()); }
     designtargetaccess::ReferenceValidity ValidateReference(const std::string& reference) const override {
         return {knows_.references.count(reference) > 0, false};
     }

@@ -83,8 +83,9 @@ public:
             queue_.pop_front();
             event();
         }
-        timers_.raise();
+        if (timersAreDue) timers_.raise();
     }
+    bool timersAreDue = true;
     bool hasTimers() const { return timers_.hasHandlers(); }
 
 private:
