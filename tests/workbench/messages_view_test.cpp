@@ -283,15 +283,16 @@ TEST_F(Messages, ThatStartSomethingDoNotWhenTheyAreWalkedThrough) {
     EXPECT_THAT(selected(), ElementsAre("settings"));
 }
 
-TEST_F(Messages, AreWalkedThroughWhenTheAddInIsConnectedAnew) {
-    const auto addIn = bench->host().Addins()->Item("QLVBAddIn.Connect");
-    addIn->Connect(false);
-    addIn->Connect(true);
+TEST_F(Messages, AreWalkedThroughInTheLatestWindow) {
+    warning("of the window before", 2);
     settle();
+    messages().killToolWindow();
+    messages().showToolWindow();
     warning("here", 3);
     settle();
     key(Qt::Key_F6);
     EXPECT_EQ(selectedCode(), kThirdLine);
+    EXPECT_THAT(shown(), ElementsAre("here"));
 }
 
 TEST_F(Messages, WithNoneAWalkGoesNowhere) {
