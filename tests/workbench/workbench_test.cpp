@@ -49,8 +49,11 @@ protected:
         bench->connect();
         settle();
     }
-    /// Lets everything be drawn that waits for Qt's loop.
-    static void settle() { QTest::qWait(20); }
+    /// Lets everything be drawn that waits for Qt's loop, on a busy machine too, where the wait may end before its turn.
+    static void settle() {
+        QTest::qWait(20);
+        QCoreApplication::processEvents();
+    }
     vbide::Ref<vbide::VBProject> project() { return bench->host().ActiveVBProject(); }
     vbide::Ref<vbide::VBComponent> component(const std::string& name) { return project()->VBComponents()->Item(name); }
     workbench::CodeEditor& editor(const std::string& name) {
