@@ -56,22 +56,21 @@ void udocCompileMsgs::showLine(Procedure& here, const basic::Ref<vbide::CodePane
 }
 
 void udocCompileMsgs::actOn(Procedure& here, std::int32_t errorNumber) {
-    const auto& platform = use_->platform;
+    const auto use = *use_; // reports and dialogs let events in
     switch (errorNumber) {
     case message_numbers::kComponentNotSupported:
-        here([&] { platform.interaction.SetCursor(vbHourglass); });
+        here([&] { use.platform.interaction.SetCursor(vbHourglass); });
         here([&] {
-            use_->commands.ShowQuinloftSettings(use_->addIn.gVBInstance->ActiveVBProject(), kCompilerSettingsPage,
-                                                false);
+            use.commands.ShowQuinloftSettings(use.addIn.gVBInstance->ActiveVBProject(), kCompilerSettingsPage, false);
         });
         break;
     case message_numbers::kFontMissing:
-        if (!use_->tools.OpenViewerConverter(kFontConverter))
+        if (!use.tools.OpenViewerConverter(kFontConverter))
             here([&] { box(build_texts::kNoFontConverter, vbCritical); });
         break;
     case message_numbers::kPictureHelp:
         here([&] {
-            platform.shell.Start("Hh.exe ms-its:" + use_->install.installed(kPicturesHelpFile) + kPicturesPage);
+            use.platform.shell.Start("Hh.exe ms-its:" + use.install.installed(kPicturesHelpFile) + kPicturesPage);
         });
         break;
     default: break;

@@ -41,11 +41,12 @@ void udocCompileMsgs::msgGrid_KeyDown(int KeyCode, int Shift) {
 void udocCompileMsgs::showHelp(Procedure& here) {
     std::int32_t number = 0;
     if (!here([&] { number = basic::CLng(grid_.cell(selectedRow_, ErrorColumn)); })) return;
-    const auto& files = use_->platform.files;
-    if (!here.test([&] { return files.FileExists(use_->install.installed(fmt::format(kHelpPage, number))); }))
+    const auto use = *use_; // the box lets events in
+    const auto page = fmt::format(kHelpPage, number);
+    if (!here.test([&] { return use.platform.files.FileExists(use.install.installed(page)); }))
         here([&] { box(basic::Replace(build_texts::kNoHelpPage, "{number}", fmt::to_string(number)), vbExclamation); });
     here([&] {
-        use_->platform.shell.Start(fmt::format("Hh.exe -mapid {} {}", number, use_->install.installed(kHelpFile)));
+        use.platform.shell.Start(fmt::format("Hh.exe -mapid {} {}", number, use.install.installed(kHelpFile)));
     });
 }
 

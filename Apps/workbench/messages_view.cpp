@@ -66,10 +66,7 @@ void MessagesView::putTogether() {
     list_->setColumnHidden(Grid::FileNameColumn, true);
     list_->pressed = [this](const QKeyEvent& key) { return pressed(key); };
     list_->resized = [this] { layOut(); };
-    list_->fontChanged = [this] {
-        document_->drawWith(&list_->deviceContext());
-        layOut();
-    };
+    list_->fontChanged = [this] { document_->drawWith(&list_->deviceContext()); };
     connect(list_, &QTreeView::doubleClicked, this, [this](const QModelIndex& index) { goTo(index); });
     connect(list_->selectionModel(), &QItemSelectionModel::currentChanged, this, [this] { enableCommands(); });
     bar_->filter().installEventFilter(this);

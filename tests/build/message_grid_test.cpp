@@ -125,6 +125,13 @@ TEST_F(MessageRows, FollowALargerFont) {
     EXPECT_EQ(window->msgGrid().rowHeightMin(), 40 * 15);
 }
 
+TEST_F(MessageRows, AreNoLowerThanALineOfTheLatest) {
+    add("before");
+    font.lineHeight = 40;
+    add("in a larger font");
+    EXPECT_EQ(height(1), 40);
+}
+
 TEST_F(MessageRows, HaveTheirLeastHeightWhereNoWindowDrawsThem) {
     window->drawWith(nullptr);
     add(std::string(1000, 'x'));

@@ -72,8 +72,11 @@ protected:
     vbide::Ref<vbide::VBComponent> component() { return project()->VBComponents()->Item("modA"); }
     void error(const QString& text, int line = 0, int number = 0) { add(text, line, number, fernwick::ERROR_MSG); }
     void warning(const QString& text, int line = 0, int number = 0) { add(text, line, number, fernwick::WARNING_MSG); }
-    /// Lets everything be drawn that waits for Qt's loop.
-    static void settle() { QTest::qWait(40); }
+    /// Lets everything be drawn that waits for Qt's loop, on a busy machine too, where the wait may end before its turn.
+    static void settle() {
+        QTest::qWait(40);
+        QCoreApplication::processEvents();
+    }
 
     QModelIndex at(int row, int column = Grid::MessageColumn) { return list().model()->index(row, column); }
     QString cell(int row, int column) { return at(row, column).data().toString(); }
