@@ -14,8 +14,7 @@ namespace workbench {
 
 namespace {
 
-constexpr int kNumberMargin = 0, kMarkMargin = 1;
-constexpr int kErrorMark = 1, kWarningMark = 2;
+constexpr int kNumberMargin = 0;
 constexpr int kMillisecondsOfRest = 300;
 constexpr int kEditings = QsciScintillaBase::SC_MOD_INSERTTEXT | QsciScintillaBase::SC_MOD_DELETETEXT;
 
@@ -28,6 +27,7 @@ CodeEditor::CodeEditor(vbide::Ref<vbide::VBComponent> component, Refused refused
       objects_(new QComboBox),
       procedures_(new QComboBox),
       text_(new CodeInput([this](const QString& inserted) { return accepts(inserted); })),
+      marks_(*text_),
       lexer_(new VbLexer(this)) {
     objects_->setObjectName("objects");
     procedures_->setObjectName("procedures");
@@ -63,11 +63,6 @@ void CodeEditor::prepareText() {
     text_->SendScintilla(QsciScintillaBase::SCI_SETSCROLLWIDTHTRACKING, 1UL);
     text_->SendScintilla(QsciScintillaBase::SCI_SETSCROLLWIDTH, 1UL);
     text_->setMarginType(kNumberMargin, QsciScintilla::NumberMargin);
-    text_->setMarginType(kMarkMargin, QsciScintilla::SymbolMargin);
-    text_->setMarginWidth(kMarkMargin, 14);
-    text_->setMarginMarkerMask(kMarkMargin, (1 << kErrorMark) | (1 << kWarningMark));
-    text_->markerDefine(QsciScintilla::Circle, kErrorMark);
-    text_->markerDefine(QsciScintilla::Circle, kWarningMark);
     colour(currentTheme());
     connect(text_, &QsciScintilla::SCN_MODIFIED, this,
             [this](int position, int kind, const char*, int, int linesAdded) {
@@ -82,10 +77,7 @@ void CodeEditor::colour(Theme theme) {
     text_->setCaretLineBackgroundColor(colours.currentLine);
     text_->setMarginsBackgroundColor(colours.margin);
     text_->setMarginsForegroundColor(colours.marginText);
-    text_->setMarkerBackgroundColor(colours.error, kErrorMark);
-    text_->setMarkerForegroundColor(colours.error, kErrorMark);
-    text_->setMarkerBackgroundColor(colours.warning, kWarningMark);
-    text_->setMarkerForegroundColor(colours.warning, kWarningMark);
+    marks_.colour(theme);
 }
 
 void CodeEditor::load() {
@@ -93,10 +85,12 @@ void CodeEditor::load() {
     int line = 0, column = 0;
     text_->getCursorPosition(&line, &column);
     const int top = text_->firstVisibleLine();
+    const auto marked = marks_.lines();
     text_->setText(codeOf(*module_.shared()));
     text_->SendScintilla(QsciScintillaBase::SCI_EMPTYUNDOBUFFER);
     text_->setCursorPosition(std::min(line, text_->lines() - 1), column);
     text_->setFirstVisibleLine(top);
+    marks_.putBack(marked);
     text_->setMarginWidth(kNumberMargin, QString::number(text_->lines() * 10));
     loading_ = false;
 }
@@ -157,12 +151,6 @@ void CodeEditor::showSelection() {
     const auto [toLine, toColumn] = within(endLine, endColumn);
     text_->setSelection(fromLine, fromColumn, toLine, toColumn);
     text_->ensureLineVisible(fromLine);
-}
-
-void CodeEditor::mark(const std::vector<LineMark>& marks) {
-    text_->markerDeleteAll();
-    text_->clearAnnotations();
-    for (const auto& mark : marks) text_->markerAdd(mark.line - 1, mark.isError ? kErrorMark : kWarningMark);
 }
 
 // ---- parts of lines ---------------------------------------------------------------------------------------------------

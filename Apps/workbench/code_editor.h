@@ -3,7 +3,7 @@
 #include "Add-in/platform/host_project.h"
 #include "Apps/workbench/code_finder.h"
 #include "Apps/workbench/code_text.h"
-#include "Apps/workbench/theme.h"
+#include "Apps/workbench/line_marks.h"
 #include <QTimer>
 #include <QWidget>
 #include <functional>
@@ -15,13 +15,6 @@ class QsciScintilla;
 namespace workbench {
 
 class VbLexer;
-
-/// A line that a message points to, from 1.
-struct LineMark {
-    int line = 0;
-    bool isError = false;
-    std::string text;
-};
 
 /// Reads the component's code when it is made, and passes on each edit to the host's code module, so that the host's
 /// dirty marks, savings and the add-in see it at once.
@@ -39,7 +32,7 @@ public:
     void codeChanged();
     /// Shows the selection that the host has for the pane.
     void showSelection();
-    void mark(const std::vector<LineMark>& marks);
+    LineMarks& marks() { return marks_; }
     void colour(Theme theme);
 
     /// The selection's part in its first line, or where the cursor stands.
@@ -74,6 +67,7 @@ private:
     QComboBox* objects_;
     QComboBox* procedures_;
     QsciScintilla* text_;
+    LineMarks marks_;
     VbLexer* lexer_;
     bool passing_ = false, loading_ = false, refusing_ = false;
     std::vector<vbide::Member> members_;
