@@ -49,7 +49,8 @@ void CodeWindows::showPlace(const CodePlace& place) {
 
 std::vector<CodeEditor*> CodeWindows::editors() const {
     std::vector<CodeEditor*> all;
-    for (int i = 0; i < count(); ++i) all.push_back(static_cast<CodeEditor*>(widget(i)));
+    for (int i = 0; i < count(); ++i)
+        if (auto* editor = dynamic_cast<CodeEditor*>(widget(i))) all.push_back(editor);
     return all;
 }
 
@@ -59,7 +60,7 @@ CodeEditor* CodeWindows::editorOf(const vbide::Ref<vbide::VBComponent>& componen
     return nullptr;
 }
 
-CodeEditor* CodeWindows::current() const { return static_cast<CodeEditor*>(currentWidget()); }
+CodeEditor* CodeWindows::current() const { return dynamic_cast<CodeEditor*>(currentWidget()); }
 
 void CodeWindows::mark(MarksByComponent marks) {
     marks_ = std::move(marks);

@@ -1,5 +1,5 @@
 #pragma once
-// The open code windows, each a tab.
+// The open code windows, each a tab; other windows may stand among them.
 #include "Apps/workbench/code_editor.h"
 #include "Host/model/host.h"
 #include <QTabWidget>
@@ -23,7 +23,7 @@ public:
     std::function<void(CodeEditor&)> made = [](CodeEditor&) {};
     /// Null for a component without a window.
     CodeEditor* editorOf(const vbide::Ref<vbide::VBComponent>& component) const;
-    /// Null when no window is open.
+    /// Null when no code window is in front.
     CodeEditor* current() const;
     /// Messages of the active project.
     void mark(MarksByComponent marks);

@@ -25,13 +25,13 @@ std::shared_ptr<host::Bar> popupOf(host::Host& host, int id) {
 } // namespace
 
 const EditCommands::Entry EditCommands::kEditMenu[] = {
-    {kUndoId, "&Undo", &EditCommands::undo, false},
-    {kRedoId, "&Redo", &EditCommands::redo, false},
-    {kCutId, "Cu&t", &EditCommands::cut, true},
-    {kCopyId, "&Copy", &EditCommands::copy, false},
-    {kPasteId, "&Paste", &EditCommands::paste, false},
+    {kUndoId, "&Undo", &EditCommands::undo, false, true},
+    {kRedoId, "&Redo", &EditCommands::redo, false, true},
+    {kCutId, "Cu&t", &EditCommands::cut, true, true},
+    {kCopyId, "&Copy", &EditCommands::copy, false, true},
+    {kPasteId, "&Paste", &EditCommands::paste, false, true},
     {kCutLineId, "Cut Lin&e", &EditCommands::cutLine, false},
-    {kSelectAllId, "Select &All", &EditCommands::selectAll, false},
+    {kSelectAllId, "Select &All", &EditCommands::selectAll, false, true},
     {kFindId, "&Find...", &EditCommands::find, true},
     {kFindNextId, "Find &Next", &EditCommands::findNext, false},
     {kFindPreviousId, "Find Pre&vious", &EditCommands::findPrevious, false},
@@ -55,17 +55,18 @@ const int EditCommands::kEditorMenu[] = {
     kDefinitionId, kLastPositionId, 0,        kIndentId, kOutdentId, kCommentId, kUncommentId,
 };
 
-EditCommands::EditCommands(host::Host& host, MainWindow& window)
+EditCommands::EditCommands(host::Host& host, MainWindow& window, Elsewhere elsewhere)
     : QObject(&window),
       window_(window),
-      bar_(new FindBar(window.code(), [&window](const auto& act) { window.run(act); })) {
+      bar_(new FindBar(window.code(), [&window](const auto& act) { window.run(act); })),
+      elsewhere_(std::move(elsewhere)) {
     addFindBar();
     fill(*popupOf(host, host::kEditMenuId), std::begin(kEditMenu), std::end(kEditMenu));
     fill(*popupOf(host, host::kViewMenuId), std::begin(kViewMenu), std::end(kViewMenu));
     window.code().made = [this](CodeEditor& editor) { attach(editor); };
     connect(&window.code(), &QTabWidget::currentChanged, this,
-            [this](int index) { enable(index >= 0 && window_.code().current()); });
-    enable(false);
+            [this](int index) { enable(index >= 0, index >= 0 && window_.code().current()); });
+    enable(false, false);
 }
 
 /// Below whatever stands in the middle of the window.
@@ -86,15 +87,20 @@ void EditCommands::fill(host::Bar& menu, const Entry* first, const Entry* end) {
         const auto control = menu.add(office::msoControlButton, entry.id);
         control->Caption(entry.caption);
         control->BeginGroup(entry.begins);
-        control->action = [this, act = entry.act] {
-            if (auto* const editor = window_.code().current()) (this->*act)(*editor);
+        control->action = [this, entry] {
+            if (auto* const editor = window_.code().current())
+                (this->*entry.act)(*editor);
+            else if (elsewhere_)
+                elsewhere_(entry.id);
         };
         controls_.push_back(control);
+        if (entry.everywhere) everywhere_.push_back(control);
     }
 }
 
-void EditCommands::enable(bool hasEditor) {
+void EditCommands::enable(bool hasWindow, bool hasEditor) {
     for (const auto& control : controls_) control->Enabled(hasEditor);
+    for (const auto& control : everywhere_) control->Enabled(hasEditor || (hasWindow && elsewhere_));
 }
 
 // ---- the editors' own menu --------------------------------------------------------------------------------------------
