@@ -1,6 +1,7 @@
 #include "Apps/workbench/code_editor.h"
 #include "Apps/workbench/code_input.h"
 #include "Apps/workbench/code_texts.h"
+#include "Apps/workbench/keyword_case.h"
 #include "Apps/workbench/procedure_list.h"
 #include "Apps/workbench/text.h"
 #include "Apps/workbench/vb_lexer.h"
@@ -16,6 +17,7 @@ namespace {
 
 constexpr int kNumberMargin = 0;
 constexpr int kMillisecondsOfRest = 300;
+constexpr int kUndoings = QsciScintillaBase::SC_PERFORMED_UNDO | QsciScintillaBase::SC_PERFORMED_REDO;
 constexpr int kEditings = QsciScintillaBase::SC_MOD_INSERTTEXT | QsciScintillaBase::SC_MOD_DELETETEXT;
 
 } // namespace
@@ -46,11 +48,17 @@ CodeEditor::CodeEditor(vbide::Ref<vbide::VBComponent> component, Refused refused
 
     connect(objects_, &QComboBox::activated, this, [this] { showProcedureNames(*procedures_, members_, *objects_); });
     connect(procedures_, &QComboBox::activated, this, [this] { goToLine(procedures_->currentData().toInt()); });
-    connect(text_, &QsciScintilla::cursorPositionChanged, this, [this] { showProcedure(); });
+    connect(text_, &QsciScintilla::cursorPositionChanged, this, [this](int line) {
+        showProcedure();
+        // not from within the drawing that the editor tells of
+        if (typedLine_ >= 0 && line != typedLine_) QTimer::singleShot(0, this, [this] { leaveLine(); });
+    });
     rest_.setSingleShot(true);
     rest_.setInterval(kMillisecondsOfRest);
     connect(&rest_, &QTimer::timeout, this, [this] { listProcedures(); });
 }
+
+QsciScintilla& CodeEditor::scintilla() { return *text_; }
 
 void CodeEditor::prepareText() {
     text_->setUtf8(true);
@@ -66,7 +74,7 @@ void CodeEditor::prepareText() {
     colour(currentTheme());
     connect(text_, &QsciScintilla::SCN_MODIFIED, this,
             [this](int position, int kind, const char*, int, int linesAdded) {
-                if (!loading_ && (kind & kEditings) != 0) edited(position, linesAdded);
+                if (!loading_ && (kind & kEditings) != 0) edited(position, linesAdded, (kind & kUndoings) != 0);
             });
 }
 
@@ -113,9 +121,10 @@ bool CodeEditor::accepts(const QString& inserted) {
     return false;
 }
 
-void CodeEditor::edited(int position, int linesAdded) {
+void CodeEditor::edited(int position, int linesAdded, bool isUndo) {
     const int first = int(text_->SendScintilla(QsciScintillaBase::SCI_LINEFROMPOSITION, position));
     const bool atStart = int(text_->SendScintilla(QsciScintillaBase::SCI_POSITIONFROMLINE, first)) == position;
+    typed(text_->isTyping() && !isUndo ? first : -1, linesAdded);
     passing_ = true;
     try {
         passOn(*module_.shared(), {first, linesAdded, atStart}, [this](int line) { return text(lineText(line)); });
@@ -191,16 +200,43 @@ bool CodeEditor::replace(const std::vector<CodePlace>& places, const QString& wi
     for (auto at = places.rbegin(); at != places.rend();) {
         const int line = at->line;
         auto now = lineText(line);
-        const auto length = now.toUtf8().size();
         for (; at != places.rend() && at->line == line; ++at) now.replace(at->column, at->length, with);
-        const auto start = text_->SendScintilla(QsciScintillaBase::SCI_POSITIONFROMLINE, line);
-        text_->SendScintilla(QsciScintillaBase::SCI_SETTARGETSTART, start);
-        text_->SendScintilla(QsciScintillaBase::SCI_SETTARGETEND, start + long(length));
-        const auto bytes = now.toUtf8();
-        text_->SendScintilla(QsciScintillaBase::SCI_REPLACETARGET, std::size_t(bytes.size()), bytes.constData());
+        replaceLine(line, now);
     }
     text_->endUndoAction();
     return !refusing_;
+}
+
+void CodeEditor::replaceLine(int line, const QString& now) {
+    const auto start = text_->SendScintilla(QsciScintillaBase::SCI_POSITIONFROMLINE, line);
+    const auto length = long(lineText(line).toUtf8().size());
+    const auto bytes = now.toUtf8();
+    text_->SendScintilla(QsciScintillaBase::SCI_SETTARGETSTART, start);
+    text_->SendScintilla(QsciScintillaBase::SCI_SETTARGETEND, start + length);
+    text_->SendScintilla(QsciScintillaBase::SCI_REPLACETARGET, std::size_t(bytes.size()), bytes.constData());
+}
+
+// ---- keywords ---------------------------------------------------------------------------------------------------------
+
+/// Keeps the line in which the user typed; lines that come or go elsewhere, and what others do, make an end of it.
+void CodeEditor::typed(int line, int linesAdded) {
+    if (line >= 0 && linesAdded == 0)
+        typedLine_ = line;
+    else if (line != typedLine_)
+        typedLine_ = -1;
+}
+
+/// What was typed gets its keywords written properly, in a step of its own that can be undone.
+void CodeEditor::leaveLine() {
+    const int line = typedLine_;
+    if (line < 0 || line >= text_->lines() || place().line == line) return;
+    typedLine_ = -1;
+    if (line > 0 && continuesComment(lineText(line - 1))) return;
+    const auto now = withKeywordCase(lineText(line));
+    if (now == lineText(line)) return;
+    text_->beginUndoAction();
+    replaceLine(line, now);
+    text_->endUndoAction();
 }
 
 // ---- procedures -------------------------------------------------------------------------------------------------------

@@ -14,6 +14,7 @@ class QsciScintilla;
 
 namespace workbench {
 
+class CodeInput;
 class VbLexer;
 
 /// Reads the component's code when it is made, and passes on each edit to the host's code module, so that the host's
@@ -27,7 +28,7 @@ public:
     CodeEditor(vbide::Ref<vbide::VBComponent> component, Refused refused);
 
     const vbide::Ref<vbide::VBComponent>& component() const { return component_; }
-    QsciScintilla& scintilla() { return *text_; }
+    QsciScintilla& scintilla();
     /// Somebody edited the module: shows its text, unless it was this editor.
     void codeChanged();
     /// Shows the selection that the host has for the pane.
@@ -56,8 +57,11 @@ private:
     void prepareText();
     void load();
     bool accepts(const QString& inserted);
-    void edited(int position, int linesAdded);
+    void edited(int position, int linesAdded, bool isUndo);
     void refuse(std::exception_ptr error);
+    void typed(int line, int linesAdded);
+    void leaveLine();
+    void replaceLine(int line, const QString& now);
     void listProcedures();
     void showProcedure();
 
@@ -66,11 +70,13 @@ private:
     Refused refused_;
     QComboBox* objects_;
     QComboBox* procedures_;
-    QsciScintilla* text_;
+    CodeInput* text_;
     LineMarks marks_;
     VbLexer* lexer_;
     bool passing_ = false, loading_ = false, refusing_ = false;
     std::vector<vbide::Member> members_;
+    /// The line in which the user typed last, until the cursor leaves it; -1 for none.
+    int typedLine_ = -1;
     /// Procedures are looked for when the user rests.
     QTimer rest_;
 };
