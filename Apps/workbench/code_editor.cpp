@@ -90,6 +90,7 @@ void CodeEditor::colour(Theme theme) {
 
 void CodeEditor::load() {
     loading_ = true;
+    typedLine_ = -1;
     int line = 0, column = 0;
     text_->getCursorPosition(&line, &column);
     const int top = text_->firstVisibleLine();

@@ -24,7 +24,7 @@ QHash<QString, QString> byLowerCase(const char* words) {
     return table;
 }
 
-bool isNamePart(QChar c) { return c.isLetterOrNumber() || c == '_'; }
+bool isWordPart(QChar c) { return c.isLetterOrNumber() || c == '_'; }
 
 /// Goes over the parts of a line; gives the column of its comment, its length where it has none.
 class KeywordWriter {
@@ -37,9 +37,9 @@ public:
             if (sign == '\'') return at;
             if (sign == '"' || sign == '[') {
                 at = behind(at, sign == '"' ? '"' : ']');
-            } else if (isNamePart(sign)) {
+            } else if (isWordPart(sign)) {
                 qsizetype end = at;
-                while (end < line_.size() && isNamePart(line_[end])) ++end;
+                while (end < line_.size() && isWordPart(line_[end])) ++end;
                 if (beginsStatement_ && line_.mid(at, end - at).compare("Rem", Qt::CaseInsensitive) == 0) {
                     line_.replace(at, end - at, "Rem");
                     return at;

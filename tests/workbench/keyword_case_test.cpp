@@ -87,3 +87,12 @@ TEST_F(KeywordCase, WhatCommandsAndAddInsDoIsLeftAlone) {
     settleLine();
     EXPECT_EQ(held("modA"), "if x then\nif beep\nbeep");
 }
+
+TEST_F(KeywordCase, WhatAnAddInPutInTheTypedLinesPlaceIsLeftAlone) {
+    auto& text = edit("\r\n\r\n");
+    QTest::keyClicks(&text, "dim x");
+    component("modA")->CodeModule()->InsertLines(1, "if x then");
+    text.setCursorPosition(2, 0);
+    settleLine();
+    EXPECT_EQ(held("modA"), "if x then\ndim x\n");
+}
