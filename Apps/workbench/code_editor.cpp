@@ -1,6 +1,7 @@
 #include "Apps/workbench/code_editor.h"
 #include "Apps/workbench/code_input.h"
 #include "Apps/workbench/code_texts.h"
+#include "Apps/workbench/keyword_case.h"
 #include "Apps/workbench/procedure_list.h"
 #include "Apps/workbench/text.h"
 #include "Apps/workbench/vb_lexer.h"
@@ -14,9 +15,9 @@ namespace workbench {
 
 namespace {
 
-constexpr int kNumberMargin = 0, kMarkMargin = 1;
-constexpr int kErrorMark = 1, kWarningMark = 2;
+constexpr int kNumberMargin = 0;
 constexpr int kMillisecondsOfRest = 300;
+constexpr int kUndoings = QsciScintillaBase::SC_PERFORMED_UNDO | QsciScintillaBase::SC_PERFORMED_REDO;
 constexpr int kEditings = QsciScintillaBase::SC_MOD_INSERTTEXT | QsciScintillaBase::SC_MOD_DELETETEXT;
 
 } // namespace
@@ -28,6 +29,7 @@ CodeEditor::CodeEditor(vbide::Ref<vbide::VBComponent> component, Refused refused
       objects_(new QComboBox),
       procedures_(new QComboBox),
       text_(new CodeInput([this](const QString& inserted) { return accepts(inserted); })),
+      marks_(*text_),
       lexer_(new VbLexer(this)) {
     objects_->setObjectName("objects");
     procedures_->setObjectName("procedures");
@@ -46,11 +48,17 @@ CodeEditor::CodeEditor(vbide::Ref<vbide::VBComponent> component, Refused refused
 
     connect(objects_, &QComboBox::activated, this, [this] { showProcedureNames(*procedures_, members_, *objects_); });
     connect(procedures_, &QComboBox::activated, this, [this] { goToLine(procedures_->currentData().toInt()); });
-    connect(text_, &QsciScintilla::cursorPositionChanged, this, [this] { showProcedure(); });
+    connect(text_, &QsciScintilla::cursorPositionChanged, this, [this](int line) {
+        showProcedure();
+        // not from within the drawing that the editor tells of
+        if (typedLine_ >= 0 && line != typedLine_) QTimer::singleShot(0, this, [this] { leaveLine(); });
+    });
     rest_.setSingleShot(true);
     rest_.setInterval(kMillisecondsOfRest);
     connect(&rest_, &QTimer::timeout, this, [this] { listProcedures(); });
 }
+
+QsciScintilla& CodeEditor::scintilla() { return *text_; }
 
 void CodeEditor::prepareText() {
     text_->setUtf8(true);
@@ -63,15 +71,10 @@ void CodeEditor::prepareText() {
     text_->SendScintilla(QsciScintillaBase::SCI_SETSCROLLWIDTHTRACKING, 1UL);
     text_->SendScintilla(QsciScintillaBase::SCI_SETSCROLLWIDTH, 1UL);
     text_->setMarginType(kNumberMargin, QsciScintilla::NumberMargin);
-    text_->setMarginType(kMarkMargin, QsciScintilla::SymbolMargin);
-    text_->setMarginWidth(kMarkMargin, 14);
-    text_->setMarginMarkerMask(kMarkMargin, (1 << kErrorMark) | (1 << kWarningMark));
-    text_->markerDefine(QsciScintilla::Circle, kErrorMark);
-    text_->markerDefine(QsciScintilla::Circle, kWarningMark);
     colour(currentTheme());
     connect(text_, &QsciScintilla::SCN_MODIFIED, this,
             [this](int position, int kind, const char*, int, int linesAdded) {
-                if (!loading_ && (kind & kEditings) != 0) edited(position, linesAdded);
+                if (!loading_ && (kind & kEditings) != 0) edited(position, linesAdded, (kind & kUndoings) != 0);
             });
 }
 
@@ -82,21 +85,21 @@ void CodeEditor::colour(Theme theme) {
     text_->setCaretLineBackgroundColor(colours.currentLine);
     text_->setMarginsBackgroundColor(colours.margin);
     text_->setMarginsForegroundColor(colours.marginText);
-    text_->setMarkerBackgroundColor(colours.error, kErrorMark);
-    text_->setMarkerForegroundColor(colours.error, kErrorMark);
-    text_->setMarkerBackgroundColor(colours.warning, kWarningMark);
-    text_->setMarkerForegroundColor(colours.warning, kWarningMark);
+    marks_.colour(theme);
 }
 
 void CodeEditor::load() {
     loading_ = true;
+    typedLine_ = -1;
     int line = 0, column = 0;
     text_->getCursorPosition(&line, &column);
     const int top = text_->firstVisibleLine();
+    const auto marked = marks_.lines();
     text_->setText(codeOf(*module_.shared()));
     text_->SendScintilla(QsciScintillaBase::SCI_EMPTYUNDOBUFFER);
     text_->setCursorPosition(std::min(line, text_->lines() - 1), column);
     text_->setFirstVisibleLine(top);
+    marks_.putBack(marked);
     text_->setMarginWidth(kNumberMargin, QString::number(text_->lines() * 10));
     loading_ = false;
 }
@@ -119,9 +122,10 @@ bool CodeEditor::accepts(const QString& inserted) {
     return false;
 }
 
-void CodeEditor::edited(int position, int linesAdded) {
+void CodeEditor::edited(int position, int linesAdded, bool isUndo) {
     const int first = int(text_->SendScintilla(QsciScintillaBase::SCI_LINEFROMPOSITION, position));
     const bool atStart = int(text_->SendScintilla(QsciScintillaBase::SCI_POSITIONFROMLINE, first)) == position;
+    typed(text_->isTyping() && !isUndo ? first : -1, linesAdded);
     passing_ = true;
     try {
         passOn(*module_.shared(), {first, linesAdded, atStart}, [this](int line) { return text(lineText(line)); });
@@ -157,12 +161,6 @@ void CodeEditor::showSelection() {
     const auto [toLine, toColumn] = within(endLine, endColumn);
     text_->setSelection(fromLine, fromColumn, toLine, toColumn);
     text_->ensureLineVisible(fromLine);
-}
-
-void CodeEditor::mark(const std::vector<LineMark>& marks) {
-    text_->markerDeleteAll();
-    text_->clearAnnotations();
-    for (const auto& mark : marks) text_->markerAdd(mark.line - 1, mark.isError ? kErrorMark : kWarningMark);
 }
 
 // ---- parts of lines ---------------------------------------------------------------------------------------------------
@@ -203,16 +201,43 @@ bool CodeEditor::replace(const std::vector<CodePlace>& places, const QString& wi
     for (auto at = places.rbegin(); at != places.rend();) {
         const int line = at->line;
         auto now = lineText(line);
-        const auto length = now.toUtf8().size();
         for (; at != places.rend() && at->line == line; ++at) now.replace(at->column, at->length, with);
-        const auto start = text_->SendScintilla(QsciScintillaBase::SCI_POSITIONFROMLINE, line);
-        text_->SendScintilla(QsciScintillaBase::SCI_SETTARGETSTART, start);
-        text_->SendScintilla(QsciScintillaBase::SCI_SETTARGETEND, start + long(length));
-        const auto bytes = now.toUtf8();
-        text_->SendScintilla(QsciScintillaBase::SCI_REPLACETARGET, std::size_t(bytes.size()), bytes.constData());
+        replaceLine(line, now);
     }
     text_->endUndoAction();
     return !refusing_;
+}
+
+void CodeEditor::replaceLine(int line, const QString& now) {
+    const auto start = text_->SendScintilla(QsciScintillaBase::SCI_POSITIONFROMLINE, line);
+    const auto length = long(lineText(line).toUtf8().size());
+    const auto bytes = now.toUtf8();
+    text_->SendScintilla(QsciScintillaBase::SCI_SETTARGETSTART, start);
+    text_->SendScintilla(QsciScintillaBase::SCI_SETTARGETEND, start + length);
+    text_->SendScintilla(QsciScintillaBase::SCI_REPLACETARGET, std::size_t(bytes.size()), bytes.constData());
+}
+
+// ---- keywords ---------------------------------------------------------------------------------------------------------
+
+/// Keeps the line in which the user typed; lines that come or go elsewhere, and what others do, make an end of it.
+void CodeEditor::typed(int line, int linesAdded) {
+    if (line >= 0 && linesAdded == 0)
+        typedLine_ = line;
+    else if (line != typedLine_)
+        typedLine_ = -1;
+}
+
+/// What was typed gets its keywords written properly, in a step of its own that can be undone.
+void CodeEditor::leaveLine() {
+    const int line = typedLine_;
+    if (line < 0 || line >= text_->lines() || place().line == line) return;
+    typedLine_ = -1;
+    if (line > 0 && continuesComment(lineText(line - 1))) return;
+    const auto now = withKeywordCase(lineText(line));
+    if (now == lineText(line)) return;
+    text_->beginUndoAction();
+    replaceLine(line, now);
+    text_->endUndoAction();
 }
 
 // ---- procedures -------------------------------------------------------------------------------------------------------

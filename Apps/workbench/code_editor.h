@@ -3,7 +3,7 @@
 #include "Add-in/platform/host_project.h"
 #include "Apps/workbench/code_finder.h"
 #include "Apps/workbench/code_text.h"
-#include "Apps/workbench/theme.h"
+#include "Apps/workbench/line_marks.h"
 #include <QTimer>
 #include <QWidget>
 #include <functional>
@@ -14,14 +14,8 @@ class QsciScintilla;
 
 namespace workbench {
 
+class CodeInput;
 class VbLexer;
-
-/// A line that a message points to, from 1.
-struct LineMark {
-    int line = 0;
-    bool isError = false;
-    std::string text;
-};
 
 /// Reads the component's code when it is made, and passes on each edit to the host's code module, so that the host's
 /// dirty marks, savings and the add-in see it at once.
@@ -34,12 +28,12 @@ public:
     CodeEditor(vbide::Ref<vbide::VBComponent> component, Refused refused);
 
     const vbide::Ref<vbide::VBComponent>& component() const { return component_; }
-    QsciScintilla& scintilla() { return *text_; }
+    QsciScintilla& scintilla();
     /// Somebody edited the module: shows its text, unless it was this editor.
     void codeChanged();
     /// Shows the selection that the host has for the pane.
     void showSelection();
-    void mark(const std::vector<LineMark>& marks);
+    LineMarks& marks() { return marks_; }
     void colour(Theme theme);
 
     /// The selection's part in its first line, or where the cursor stands.
@@ -63,8 +57,11 @@ private:
     void prepareText();
     void load();
     bool accepts(const QString& inserted);
-    void edited(int position, int linesAdded);
+    void edited(int position, int linesAdded, bool isUndo);
     void refuse(std::exception_ptr error);
+    void typed(int line, int linesAdded);
+    void leaveLine();
+    void replaceLine(int line, const QString& now);
     void listProcedures();
     void showProcedure();
 
@@ -73,10 +70,13 @@ private:
     Refused refused_;
     QComboBox* objects_;
     QComboBox* procedures_;
-    QsciScintilla* text_;
+    CodeInput* text_;
+    LineMarks marks_;
     VbLexer* lexer_;
     bool passing_ = false, loading_ = false, refusing_ = false;
     std::vector<vbide::Member> members_;
+    /// The line in which the user typed last, until the cursor leaves it; -1 for none.
+    int typedLine_ = -1;
     /// Procedures are looked for when the user rests.
     QTimer rest_;
 };

@@ -8,11 +8,13 @@
 namespace workbench {
 
 void CodeInput::keyPressEvent(QKeyEvent* event) {
+    const QScopedValueRollback within(typing_, true);
     const auto typed = event->text();
     if (typed.isEmpty() || !typed[0].isPrint() || accepts_(typed)) QsciScintilla::keyPressEvent(event);
 }
 
 void CodeInput::inputMethodEvent(QInputMethodEvent* event) {
+    const QScopedValueRollback within(typing_, true);
     if (event->commitString().isEmpty() || accepts_(event->commitString()))
         return QsciScintilla::inputMethodEvent(event);
     QInputMethodEvent nothing; // what was composed goes, and nothing comes

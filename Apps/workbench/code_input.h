@@ -12,6 +12,9 @@ public:
 
     explicit CodeInput(Accepts accepts) : accepts_(std::move(accepts)) {}
 
+    /// Whether what happens just now comes from the user's keys.
+    bool isTyping() const { return typing_; }
+
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
@@ -21,7 +24,7 @@ protected:
 
 private:
     Accepts accepts_;
-    bool dragging_ = false;
+    bool dragging_ = false, typing_ = false;
 };
 
 } // namespace workbench

@@ -18,6 +18,7 @@ inline constexpr auto kSurvived = "Unsaved text of %3 files of %1 survived from 
 inline constexpr auto kNeverSaved = "a project that was never saved";
 inline constexpr auto kChangedOnDisk = "%1 - the file on disk was changed since; a save asks before it replaces that";
 inline constexpr auto kGoneFromDisk = "%1 - the file on disk is gone; a save writes it again";
+inline constexpr auto kDifferences = "%1 (- on disk, + what survived)";
 inline constexpr auto kWhatRestoreDoes = "Restore puts it into the editor as a change that is not saved yet.";
 inline constexpr auto kRestore = "&Restore", kDiscard = "&Discard", kLater = "&Keep for Later";
 inline constexpr auto kDamaged = "Text that was not saved could not be read again: %1\n\nIt stays in %2";

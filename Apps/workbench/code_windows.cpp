@@ -74,7 +74,7 @@ void CodeWindows::markEditor(CodeEditor& editor) {
         const auto found = marks_.find(editor.component()->Name());
         if (ofActive && found != marks_.end()) marks = found->second;
     });
-    editor.mark(marks);
+    editor.marks().show(marks);
 }
 
 void CodeWindows::colour(Theme theme) {

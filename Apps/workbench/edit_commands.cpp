@@ -25,7 +25,7 @@ std::shared_ptr<host::Bar> popupOf(host::Host& host, int id) {
 } // namespace
 
 const EditCommands::Entry EditCommands::kEditMenu[] = {
-    {kUndoId, "&Undo", &EditCommands::undo, false},
+    {kUndoId, "&Undo", &EditCommands::undo, false, true},
     {kRedoId, "&Redo", &EditCommands::redo, false},
     {kCutId, "Cu&t", &EditCommands::cut, true},
     {kCopyId, "&Copy", &EditCommands::copy, false},
@@ -55,16 +55,18 @@ const int EditCommands::kEditorMenu[] = {
     kDefinitionId, kLastPositionId, 0,        kIndentId, kOutdentId, kCommentId, kUncommentId,
 };
 
-EditCommands::EditCommands(host::Host& host, MainWindow& window)
+EditCommands::EditCommands(host::Host& host, MainWindow& window, Elsewhere elsewhere)
     : QObject(&window),
       window_(window),
-      bar_(new FindBar(window.code(), [&window](const auto& act) { window.run(act); })) {
+      bar_(new FindBar(window.code(), [&window](const auto& act) { window.run(act); })),
+      elsewhere_(std::move(elsewhere)) {
     addFindBar();
     fill(*popupOf(host, host::kEditMenuId), std::begin(kEditMenu), std::end(kEditMenu));
     fill(*popupOf(host, host::kViewMenuId), std::begin(kViewMenu), std::end(kViewMenu));
     window.code().made = [this](CodeEditor& editor) { attach(editor); };
-    connect(&window.code(), &QTabWidget::currentChanged, this, [this] { enable(); });
-    enable();
+    connect(&window.code(), &QTabWidget::currentChanged, this,
+            [this](int index) { enable(index >= 0, index >= 0 && window_.code().current()); });
+    enable(false, false);
 }
 
 /// Below whatever stands in the middle of the window.
@@ -85,20 +87,20 @@ void EditCommands::fill(host::Bar& menu, const Entry* first, const Entry* end) {
         const auto control = menu.add(office::msoControlButton, entry.id);
         control->Caption(entry.caption);
         control->BeginGroup(entry.begins);
-        control->action = [this, act = entry.act] {
+        control->action = [this, entry] {
             if (auto* const editor = window_.code().current())
-                (this->*act)(*editor);
-            else if (act == &EditCommands::undo)
-                window_.design().undo();
+                (this->*entry.act)(*editor);
+            else if (elsewhere_)
+                elsewhere_(entry.id);
         };
         controls_.push_back(control);
+        if (entry.everywhere) everywhere_.push_back(control);
     }
 }
 
-/// On a form a change can be taken back.
-void EditCommands::enable() {
-    const bool hasEditor = window_.code().current(), hasForm = !hasEditor && window_.code().currentWidget();
-    for (const auto& control : controls_) control->Enabled(hasEditor || (hasForm && control->Id() == kUndoId));
+void EditCommands::enable(bool hasWindow, bool hasEditor) {
+    for (const auto& control : controls_) control->Enabled(hasEditor);
+    for (const auto& control : everywhere_) control->Enabled(hasEditor || (hasWindow && elsewhere_));
 }
 
 // ---- the editors' own menu --------------------------------------------------------------------------------------------

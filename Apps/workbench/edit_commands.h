@@ -25,8 +25,12 @@ enum EditCommandId : int {
 
 class EditCommands final : public QObject {
 public:
+    /// What a window in front that is no code window does of undoing and the clipboard.
+    using Elsewhere = std::function<void(int id)>;
+
     /// Fills the host's Edit and View menus and puts the find bar below the code windows. Belongs to the window.
-    EditCommands(host::Host& host, MainWindow& window);
+    /// Without `elsewhere` nothing can be done where no code window is in front.
+    EditCommands(host::Host& host, MainWindow& window, Elsewhere elsewhere = nullptr);
 
 private:
     using Act = void (EditCommands::*)(CodeEditor&);
@@ -35,6 +39,7 @@ private:
         const char* caption;
         Act act;
         bool begins;
+        bool everywhere = false; ///< other windows may have it too
     };
     static const Entry kEditMenu[];
     static const Entry kViewMenu[];
@@ -43,7 +48,7 @@ private:
 
     void fill(host::Bar& menu, const Entry* first, const Entry* end);
     void addFindBar();
-    void enable();
+    void enable(bool hasWindow, bool hasEditor);
     void attach(CodeEditor& editor);
     void showMenu(CodeEditor& editor, const QPoint& at);
 
@@ -70,7 +75,8 @@ private:
 
     MainWindow& window_;
     FindBar* bar_;
-    std::vector<std::shared_ptr<host::BarControl>> controls_;
+    Elsewhere elsewhere_;
+    std::vector<std::shared_ptr<host::BarControl>> controls_, everywhere_;
     /// Where definitions were asked for, the latest behind.
     std::vector<CodePlace> positions_;
 };

@@ -30,7 +30,7 @@ constexpr ScopeName kScopes[] = {
     {FindScope::Project, "Current Project", "current project"},
 };
 
-QPushButton* button(const char* name, const char* caption, const char* tip) {
+QPushButton* findButton(const char* name, const char* caption, const char* tip) {
     auto* const made = new QPushButton(caption);
     made->setObjectName(name);
     made->setToolTip(tip);
@@ -38,14 +38,14 @@ QPushButton* button(const char* name, const char* caption, const char* tip) {
     return made;
 }
 
-QCheckBox* option(const char* name, const char* caption, const char* tip) {
+QCheckBox* findOption(const char* name, const char* caption, const char* tip) {
     auto* const made = new QCheckBox(caption);
     made->setObjectName(name);
     made->setToolTip(tip);
     return made;
 }
 
-QLineEdit* field(const char* name, const char* accessibleName) {
+QLineEdit* findField(const char* name, const char* accessibleName) {
     auto* const made = new QLineEdit;
     made->setObjectName(name);
     made->setAccessibleName(accessibleName);
@@ -72,11 +72,12 @@ QLabel* labelOf(const char* caption, QWidget* buddy) {
 FindBar::FindBar(CodeWindows& code, Run run)
     : code_(code),
       run_(std::move(run)),
-      what_(field("findWhat", "Find what")),
-      with_(field("replaceWith", "Replace with")),
-      matchCase_(option("matchCase", "Match ca&se", "Capital letters count")),
-      wholeWord_(option("wholeWord", "Whole w&ord", "Not within longer words")),
-      asPattern_(option("pattern", "Pa&ttern", "? one character, # one digit, * any, [a-z] one of these, [!a-z] none")),
+      what_(findField("findWhat", "Find what")),
+      with_(findField("replaceWith", "Replace with")),
+      matchCase_(findOption("matchCase", "Match ca&se", "Capital letters count")),
+      wholeWord_(findOption("wholeWord", "Whole w&ord", "Not within longer words")),
+      asPattern_(
+          findOption("pattern", "Pa&ttern", "? one character, # one digit, * any, [a-z] one of these, [!a-z] none")),
       scope_(new QComboBox),
       said_(new QLabel) {
     setObjectName("findBar");
@@ -91,8 +92,8 @@ FindBar::FindBar(CodeWindows& code, Run run)
 }
 
 QWidget* FindBar::findRow() {
-    auto* const next = button("findNext", "Find &Next", "F3");
-    auto* const previous = button("findPrevious", "Previo&us", "Shift+F3");
+    auto* const next = findButton("findNext", "Find &Next", "F3");
+    auto* const previous = findButton("findPrevious", "Previo&us", "Shift+F3");
     auto* const close = new QToolButton;
     close->setObjectName("closeFind");
     close->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
@@ -114,8 +115,8 @@ QWidget* FindBar::findRow() {
 }
 
 QWidget* FindBar::replaceRow() {
-    auto* const one = button("replace", "Replace", "Replaces what is selected, and finds the next one");
-    auto* const all = button("replaceAll", "Repla&ce All", "All within the procedure, module or project");
+    auto* const one = findButton("replace", "Replace", "Replaces what is selected, and finds the next one");
+    auto* const all = findButton("replaceAll", "Repla&ce All", "All within the procedure, module or project");
     connect(one, &QPushButton::clicked, this, [this] { run_([this] { replace(); }); });
     connect(all, &QPushButton::clicked, this, [this] { run_([this] { replaceAll(); }); });
     auto* const widget = new QWidget;
@@ -179,7 +180,7 @@ void FindBar::open(bool replacing) {
     }
     replacing_->setVisible(replacing);
     say({});
-    QWidget::show();
+    show();
     what_->setFocus();
     what_->selectAll();
 }
@@ -203,7 +204,12 @@ void FindBar::keyPressEvent(QKeyEvent* event) {
         QWidget::keyPressEvent(event);
 }
 
+/// Where it is hidden it comes up, but the keys stay with the editor.
 void FindBar::say(const QString& text, bool isError) {
+    if (!text.isEmpty() && isHidden()) {
+        replacing_->hide();
+        show();
+    }
     said_->setText(text);
     said_->setToolTip(text);
     auto palette = this->palette();
@@ -211,23 +217,20 @@ void FindBar::say(const QString& text, bool isError) {
     said_->setPalette(palette);
 }
 
-void FindBar::tell(const QString& text) {
-    if (!isVisible()) open(false);
-    say(text, true);
-}
+void FindBar::tell(const QString& text) { say(text, true); }
 
 // ---- finding ----------------------------------------------------------------------------------------------------------
 
 bool FindBar::canLookFor(const CodePattern& pattern) {
     if (pattern.error().isEmpty()) return true;
-    tell(pattern.error());
+    say(pattern.error(), true);
     return false;
 }
 
 void FindBar::findAgain(bool backwards) {
     auto* const editor = code_.current();
     const auto wanted = pattern();
-    if (!editor || (what_->text().isEmpty() && !isVisible())) return open(false);
+    if (!editor || (what_->text().isEmpty() && isHidden())) return open(false);
     if (!canLookFor(wanted)) return;
     const auto found = findNext(wanted, scope(), editor->place(), backwards);
     if (!found) return say(QString(code_texts::kNotFound).arg(what_->text(), kScopes[std::size_t(scope())].name), true);

@@ -113,7 +113,11 @@ void OutsideChanges::check() {
     if (all.empty()) return;
     for (const auto& change : all) known_[change.path] = change.digest.value_or(kGone);
     const auto wanted = askWhatToReload(all, &window_);
-    for (std::size_t i = 0; i < all.size(); ++i) carryOut(all[i], wanted.count(i) != 0);
+    std::set<std::shared_ptr<vbide::VBProject>> reopened; // with all its components
+    for (const auto i : wanted)
+        if (!all[i].component) reopened.insert(all[i].project.shared());
+    for (std::size_t i = 0; i < all.size(); ++i)
+        if (!all[i].component || reopened.count(all[i].project.shared()) == 0) carryOut(all[i], wanted.count(i) != 0);
     window_.code().refreshSoon();
     window_.explorer().refreshSoon();
     soon_.start(); // what changed while the question stood

@@ -1,6 +1,8 @@
 #include "Apps/workbench/recovery.h"
 #include "Apps/workbench/code_texts.h"
+#include "Apps/workbench/line_differences.h"
 #include "Apps/workbench/text.h"
+#include "Host/files/encoding.h"
 #include "Host/model/component.h"
 #include "Host/model/components.h"
 #include "Host/model/project.h"
@@ -41,6 +43,21 @@ QString lineOf(const Survivor& survivor) {
     if (survivor.changedOnDisk) return QString(code_texts::kChangedOnDisk).arg(name);
     if (!file.isEmpty() && !QFileInfo::exists(file)) return QString(code_texts::kGoneFromDisk).arg(name);
     return name;
+}
+
+/// What differs from the file on disk, for a look before the choice.
+QString detailsOf(const std::vector<Survivor>& all) {
+    QStringList details;
+    for (const auto& [folder, path, entry, changed] : all) {
+        std::string onDisk;
+        (void)basic::attempt([&] { onDisk = host::readFile(entry.file).bytes; });
+        const auto shown = [](const std::string& bytes) {
+            return qt(host::codePageOf(bytes, basic::CodePage::windows1252()).decode(bytes));
+        };
+        details << QString(code_texts::kDifferences).arg(qt(entry.file.empty() ? entry.component : entry.file));
+        details << differencesOf(shown(onDisk), shown(entry.bytes)) << "";
+    }
+    return details.join('\n');
 }
 
 QString headlineOf(const std::string& project, const std::vector<Survivor>& all) {
@@ -138,6 +155,7 @@ void Recovery::offer(const std::string& project, std::vector<Survivor> all) {
                     &window_);
     box.setTextFormat(Qt::PlainText);
     box.setInformativeText(lines.join('\n') + "\n\n" + code_texts::kWhatRestoreDoes);
+    box.setDetailedText(detailsOf(all));
     auto* const restores = box.addButton(code_texts::kRestore, QMessageBox::AcceptRole);
     auto* const discards = box.addButton(code_texts::kDiscard, QMessageBox::DestructiveRole);
     box.setEscapeButton(box.addButton(code_texts::kLater, QMessageBox::RejectRole));

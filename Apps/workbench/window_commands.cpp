@@ -129,7 +129,7 @@ void addStandardToolbar(host::Host& host) {
 void addWindowCommands(host::Host& host, MainWindow& window, WindowDeeds deeds) {
     addFileMenu(host, window, deeds);
     addViewMenu(host, window);
-    new EditCommands(host, window);
+    new EditCommands(host, window, [&window](int) { window.design().undo(); }); // all that forms have of it
     addProjectMenu(host, window);
     addRunMenu(host, deeds);
     addAddInsMenu(host);

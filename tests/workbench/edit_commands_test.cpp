@@ -52,6 +52,18 @@ TEST_F(EditCommands, AreThereOnlyWhileThereIsAnEditor) {
     EXPECT_FALSE(menuItem("&Edit", "&Undo")->isEnabled());
 }
 
+TEST_F(EditCommands, LeaveWindowsOfOtherKindsAlone) {
+    edit(kThreeLines);
+    window().code().setCurrentIndex(window().code().addTab(new QWidget, "a form"));
+    settle();
+    EXPECT_FALSE(menuItem("&Edit", "&Undo")->isEnabled());
+    EXPECT_FALSE(menuItem("&Edit", "&Indent")->isEnabled());
+    bench->host().CommandBars()->FindControl(workbench::kUndoId)->Execute();
+    window().code().setCurrentIndex(0);
+    settle();
+    EXPECT_TRUE(menuItem("&Edit", "&Undo")->isEnabled());
+}
+
 TEST_F(EditCommands, TabIndentsTheSelectedLines) {
     auto& editor = edit(kThreeLines);
     editor.setSelection(0, 0, 2, 0);

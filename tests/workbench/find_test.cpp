@@ -211,6 +211,20 @@ TEST_F(Finding, ASelectionOfSeveralLinesIsNotWhatIsLookedFor) {
     EXPECT_EQ(in<QLineEdit>("findWhat").text(), "x");
 }
 
+TEST_F(Finding, TheWordComesWithoutTheBarToo) {
+    open(threeModules());
+    auto& editor = code("modA");
+    window().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
+    look("x");
+    QTest::keyClick(&in<QLineEdit>("findWhat"), Qt::Key_Escape);
+    editor.setCursorPosition(6, 7);
+    QTest::keyClick(&editor, Qt::Key_F3);
+    EXPECT_TRUE(bar().isVisible());
+    EXPECT_EQ(said(), "The search went on from the beginning.");
+    EXPECT_TRUE(editor.hasFocus());
+}
+
 TEST_F(Finding, F3WithoutAnythingToLookForAsks) {
     open(threeModules());
     code("modA");

@@ -258,6 +258,20 @@ TEST_F(Journals, ANewerFileOnDiskIsToldAndNotReplacedWithoutAQuestion) {
     EXPECT_EQ(folder.read("modA.bas"), moduleText("modA", "' newer\r\n"));
 }
 
+TEST_F(Journals, WhatDiffersFromTheFileCanBeLookedAt) {
+    const auto project = twoModules().writeTo(folder);
+    leave(entryOf("' kept\r\n"));
+    QString details;
+    answer([&details](QMessageBox& box) {
+        details = box.detailedText();
+        box.grab().save(FERNWICK_BINARY_DIR "/survivors.png");
+        press(box, "Keep for Later");
+    });
+    openFile(project);
+    waitForBox();
+    EXPECT_THAT(details.toStdString(), HasSubstr("\nline 2:\n- ' a\n+ ' kept\n"));
+}
+
 TEST_F(Journals, TheNewestOfSeveralTextsIsRestoredAndTheOthersKept) {
     const auto project = twoModules().writeTo(folder);
     auto entry = entryOf("' first\r\n");

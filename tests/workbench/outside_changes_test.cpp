@@ -173,9 +173,12 @@ TEST_F(OutsideChanges, AProjectFileIsOpenedAgainWithItsWindows) {
     code("modB").setCursorPosition(0, 2);
     answerOutside("reload");
     folder.write("modNew.bas", moduleText("modNew", "' new\r\n"));
+    folder.write("modA.bas", moduleText("modA", "' theirs\r\n"));
     folder.write("Hello.vbp", test::SampleProject().module("modA").module("modB").module("modNew").text());
     waitForQuestion();
-    EXPECT_THAT(rows, ElementsAre(HasSubstr("Hello.vbp - the project is opened again")));
+    EXPECT_THAT(rows, ElementsAre("[x] Hello.vbp - the project is opened again", "[x] modA (modA.bas)"));
+    EXPECT_TRUE(boxes.empty());
+    EXPECT_EQ(held("modA"), "' theirs");
     EXPECT_EQ(project()->VBComponents()->Count(), 3);
     EXPECT_EQ(window().code().count(), 1);
     EXPECT_EQ(window().code().current()->place().column, 2);
