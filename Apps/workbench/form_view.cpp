@@ -69,6 +69,7 @@ FormView::FormView(vbide::Ref<vbide::VBComponent> component, DesignHistory& hist
 }
 
 void FormView::reload() {
+    reload_.stop();
     // of a form that has been removed the last picture stays until its window goes
     const auto failed = basic::attempt([this] { picture_ = pictureOfForm(*component_.shared()); });
     if (failed.Number != 0) return;
