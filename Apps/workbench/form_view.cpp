@@ -1,7 +1,9 @@
 #include "Apps/workbench/form_view.h"
 #include "Apps/workbench/event_handlers.h"
 #include "Apps/workbench/form_canvas.h"
+#include "Apps/workbench/text.h"
 #include "Basic/runtime_error.h"
+#include "Host/model/form_controls.h"
 #include <algorithm>
 
 namespace workbench {
@@ -28,6 +30,26 @@ std::vector<DesignChange> changesOfPlace(const DrawnControl& drawn, const QRectF
     add("Width", before.width(), at.width(), drawn.unitX);
     add("Height", before.height(), at.height(), drawn.unitY);
     return changes;
+}
+
+/// What a new control is given: its place, and its name to show.
+std::vector<DesignChange> changesOfNew(const DrawnControl& drawn, const QRectF& place) {
+    const bool hasSize = place.width() > 0 && place.height() > 0 && drawn.look.kind != ControlKind::Hidden;
+    auto there = place;
+    if (!hasSize) there.setSize(drawn.place.size());
+    auto changes = changesOfPlace(drawn, there);
+    const PropertyReader read(drawn.control->Properties());
+    for (const auto* shown : {"Caption", "Text"})
+        if (read.has(shown) && read.text(shown).isEmpty()) changes.push_back({shown, text(drawn.name)});
+    return changes;
+}
+
+/// The innermost container at a place, null for the form itself.
+const DrawnControl* containerAt(const FormPicture& form, const QPointF& place) {
+    const auto* drawn = form.at(place);
+    while (drawn && !isContainer(drawn->control->ProgId()))
+        drawn = drawn->container < 0 ? nullptr : &form.controls[std::size_t(drawn->container)];
+    return drawn;
 }
 
 /// A form's size is that of its frame.
@@ -101,8 +123,28 @@ void FormView::removeSelected() {
     if (!selected_) return;
     const auto control = selected_;
     select(nullptr);
-    wishes_.run([&] { component_->Designer()->VBControls()->Remove(control); });
+    wishes_.run([&] {
+        const auto form = component_->Designer();
+        const auto removed = host::removeControl(form, control);
+        history_.did(component_, [form, removed] { host::restoreControl(form, removed); });
+    });
     reload();
+}
+
+void FormView::add(const std::string& progId, const QRectF& place) {
+    wishes_.run([&] {
+        const auto form = component_->Designer();
+        const auto* container = containerAt(picture_, place.topLeft());
+        const auto added = host::addControl(form, container ? container->control : nullptr, progId);
+        reload();
+        const auto* drawn = picture_.find(added);
+        if (!drawn) return; // an add-in took it off again
+        for (const auto& change : changesOfNew(*drawn, place))
+            added->Properties()->Item(change.property)->Value(change.value);
+        history_.did(component_, [form, added] { host::removeControl(form, added); });
+        reload();
+        select(added);
+    });
 }
 
 void FormView::undo() {

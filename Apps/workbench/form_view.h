@@ -21,6 +21,10 @@ public:
         std::function<void()> selected;
         /// The user works here now.
         std::function<void()> focused;
+        /// The class that is picked in the toolbox, "" for none.
+        std::function<std::string()> tool;
+        /// The tool has done its work, or is put back.
+        std::function<void()> toolUsed;
     };
 
     /// Reads the form. Error 380 for a file without the description of one.
@@ -42,6 +46,9 @@ public:
     /// Puts the selected control, or the form's inner rectangle, there; only what differs is written.
     void place(const QRectF& place);
     void removeSelected();
+    /// Adds a control of a class there, in the container that is in front at the place's corner, and selects it. A place
+    /// without a size gets the usual one.
+    void add(const std::string& progId, const QRectF& place);
     /// The code of the selected control's default event.
     void openCode();
     void openCode(const vbide::Ref<vbide::VBControl>& control);

@@ -548,13 +548,26 @@ TEST_F(FormDesigners, TakeChangesBack) {
     EXPECT_EQ(saved("frmMain"), original);
 }
 
-TEST_F(FormDesigners, WhatWasDoneToARemovedControlIsNotInTheWayOfUndo) {
+TEST_F(FormDesigners, ARemovedControlComesBackWithAllWithinIt) {
+    openForm(kShowcase);
+    QTest::mouseClick(&canvas(), Qt::LeftButton, {}, pointOn(placeOf("fraChoice").topLeft() + QPointF(3, 3)));
+    key(Qt::Key_Right, Qt::ControlModifier);
+    key(Qt::Key_Delete);
+    EXPECT_FALSE(view().picture().find(control("txtName")) == nullptr);
+    EXPECT_EQ(view().picture().controls.size(), 24u - 4);
+    menuItem("&Edit", "&Undo")->trigger();
+    EXPECT_EQ(view().picture().controls.size(), 24u);
+    menuItem("&Edit", "&Undo")->trigger();
+    EXPECT_EQ(saved("frmMain"), original);
+}
+
+TEST_F(FormDesigners, WhatAnotherTookAwayIsNotInTheWayOfUndo) {
     openForm(kShowcase);
     clickOn("cmdOff");
     key(Qt::Key_Right, Qt::ControlModifier);
     clickOn("cmdOK");
     key(Qt::Key_Right, Qt::ControlModifier);
-    key(Qt::Key_Delete);
+    component("frmMain")->Designer()->VBControls()->Remove(control("cmdOK"));
     menuItem("&Edit", "&Undo")->trigger();
     EXPECT_EQ(valueOf("cmdOff", "Left"), "4800");
 }
@@ -636,6 +649,80 @@ TEST_F(FormDesigners, MenusLeadToTheirHandlers) {
     menu->actions().front()->trigger();
     menu->close();
     EXPECT_THAT(component("frmMain")->CodeModule()->Lines(1, 1), "Private Sub mnuOpen_Click()");
+}
+
+// ---- the toolbox --------------------------------------------------------------------------------------------------------
+
+TEST_F(FormDesigners, TheToolboxOffersTheControlsOfTheProject) {
+    openForm("");
+    const auto offers = [&](const char* name) { return !desk().toolbox().findItems(name, Qt::MatchExactly).isEmpty(); };
+    EXPECT_TRUE(offers("CommandButton"));
+    EXPECT_FALSE(offers("QLButton"));
+    openSample("AddressBook");
+    design("frmPerson");
+    EXPECT_TRUE(offers("CommandButton"));
+    EXPECT_TRUE(offers("QLButton"));
+    EXPECT_FALSE(offers("Menu"));
+}
+
+TEST_F(FormDesigners, AToolDrawsAControlWithTheMouse) {
+    openForm("");
+    pick("CommandButton");
+    drag(pointOn({17, 18}), {100, 45});
+    EXPECT_EQ(selected(), "Command1");
+    EXPECT_EQ(placeOf("Command1"), QRectF(16, 16, 104, 48));
+    EXPECT_EQ(valueOf("Command1", "Caption"), "Command1");
+    EXPECT_EQ(desk().toolbox().tool(), "");
+    EXPECT_EQ(shown("(Name)"), "Command1");
+    menuItem("&Edit", "&Undo")->trigger();
+    EXPECT_EQ(saved("frmMain"), original);
+}
+
+TEST_F(FormDesigners, AToolDrawsIntoTheContainerInFront) {
+    openForm(kShowcase);
+    pick("TextBox");
+    drag(pointOn(placeOf("picBox").topLeft() + QPointF(2 + 20, 2 + 20)), {48, 24});
+    EXPECT_EQ(control("picBox")->ContainedVBControls().size(), 2u);
+    EXPECT_TRUE(placeOf("picBox").contains(placeOf("Text1")));
+}
+
+TEST_F(FormDesigners, AClickWithAToolAddsTheUsualSize) {
+    openForm("");
+    pick("Timer");
+    QTest::mouseClick(&canvas(), Qt::LeftButton, {}, pointOn({40, 40}));
+    EXPECT_EQ(valueOf("Timer1", "Left"), "600");
+    pick("Label");
+    QTest::mouseClick(&canvas(), Qt::LeftButton, {}, pointOn({80, 160}));
+    EXPECT_EQ(placeOf("Label1"), QRectF(80, 160, 81, 33));
+}
+
+TEST_F(FormDesigners, ADoubleClickInTheToolboxAddsAtOnce) {
+    openSample("AddressBook");
+    design("frmPerson");
+    Q_EMIT desk().toolbox().itemActivated(desk().toolbox().findItems("QLCheckBox", Qt::MatchExactly).front());
+    EXPECT_EQ(selected(), "QLCheckBox1");
+    EXPECT_EQ(placeOf("QLCheckBox1").topLeft(), QPointF(80, 80));
+    EXPECT_EQ(view().picture().find(control("QLCheckBox1"))->look.text, "CheckBox");
+}
+
+TEST_F(FormDesigners, EscapePutsTheToolBack) {
+    openForm("");
+    pick("Frame");
+    key(Qt::Key_Escape);
+    EXPECT_EQ(desk().toolbox().tool(), "");
+    drag(pointOn({16, 16}), {100, 45});
+    EXPECT_TRUE(view().picture().controls.empty());
+}
+
+TEST_F(FormDesigners, AddInsAreToldOfWhatIsDrawn) {
+    openForm("");
+    std::vector<std::string> added;
+    const auto events =
+        bench->host().Events()->VBControlsEvents(bench->host().ActiveVBProject(), component("frmMain")->Designer());
+    const auto sink = events->ItemAdded.connect([&](auto one) { added.push_back(one->ProgId()); });
+    pick("Shape");
+    drag(pointOn({16, 16}), {100, 45});
+    EXPECT_THAT(added, ElementsAre("VB.Shape"));
 }
 
 // ---- drawing ------------------------------------------------------------------------------------------------------------
