@@ -13,7 +13,7 @@ namespace {
 constexpr auto kGeometryKey = "window/geometry", kStateKey = "window/state", kThemeKey = "window/theme";
 /// Counts up when docks and toolbars change so much that an old arrangement makes no sense.
 constexpr int kLayoutVersion = 1;
-constexpr int kUsualWidth = 1100, kUsualHeight = 720, kUsualExplorerWidth = 270;
+constexpr int kUsualWidth = 1100, kUsualHeight = 720, kUsualExplorerWidth = 270, kUsualToolboxWidth = 140;
 
 } // namespace
 
@@ -29,11 +29,12 @@ MainWindow::MainWindow(host::Host& host, BarsView::Run run, MayClose mayClose)
       explorerDock_(addDock("explorerDock", "Project", explorer_, Qt::RightDockWidgetArea)),
       design_(new DesignDesk(host, *code_, *explorer_, run_)),
       propertiesDock_(addDock("propertiesDock", "Properties", &design_->properties(), Qt::RightDockWidgetArea)),
+      toolboxDock_(addDock("toolboxDock", "Toolbox", &design_->toolbox(), Qt::LeftDockWidgetArea)),
       bars_(host.bars(), *this, run_) {
     setObjectName("workbench");
     setCentralWidget(code_);
     resize(kUsualWidth, kUsualHeight);
-    resizeDocks({explorerDock_}, {kUsualExplorerWidth}, Qt::Horizontal);
+    resizeDocks({explorerDock_, toolboxDock_}, {kUsualExplorerWidth, kUsualToolboxWidth}, Qt::Horizontal);
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
     titleSoon_.setSingleShot(true);
     titleSoon_.setInterval(0);

@@ -28,6 +28,7 @@ public:
     /// Form views and the properties window.
     DesignDesk& design() { return *design_; }
     QDockWidget& propertiesDock() { return *propertiesDock_; }
+    QDockWidget& toolboxDock() { return *toolboxDock_; }
     /// Window, docks and toolbars as the user left them, in the user's settings.
     void restoreLayout();
     void saveLayout() const;
@@ -52,6 +53,7 @@ private:
     QDockWidget* explorerDock_;
     DesignDesk* design_;
     QDockWidget* propertiesDock_;
+    QDockWidget* toolboxDock_;
     /// Tool windows that are drawn, the latest of a title in the dock of that title.
     std::map<std::shared_ptr<host::ToolWindow>, QPointer<QDockWidget>> docks_;
     QTimer titleSoon_;
