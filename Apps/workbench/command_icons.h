@@ -28,6 +28,7 @@ enum WindowCommandId : int {
     kViewCodeId,
     kViewObjectId,
     kPropertiesId,
+    kToolboxId,
 };
 
 /// Empty for a command without one.

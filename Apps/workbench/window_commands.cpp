@@ -152,6 +152,11 @@ void addWindowCommands(host::Host& host, MainWindow& window, WindowDeeds deeds) 
                  window.propertiesDock().show();
                  window.design().properties().setFocus();
              })
+        .add(kToolboxId, "Toolbo&x",
+             [&window] {
+                 window.toolboxDock().show();
+                 window.design().toolbox().setFocus();
+             })
         .add(kExplorerId, "&Project Explorer",
              [&window] {
                  window.explorerDock().show();
