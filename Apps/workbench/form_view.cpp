@@ -103,7 +103,9 @@ void FormView::reload() {
 void FormView::select(const vbide::Ref<vbide::VBControl>& control) {
     if (control == selected_) return;
     selected_ = control;
-    if (const auto* drawn = drawnSelection()) {
+    const auto* drawn = drawnSelection();
+    canvas_->setAccessibleDescription(drawn ? drawn->name : picture_.caption);
+    if (drawn) {
         const auto shown = canvas_->onCanvas(drawn->place.normalized()).toRect();
         ensureVisible(shown.center().x(), shown.center().y(), shown.width() / 2, shown.height() / 2);
     }

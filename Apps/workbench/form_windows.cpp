@@ -88,7 +88,6 @@ void FormWindows::refresh() {
         });
         if (!open) delete view;
     }
-    wishes_.selected();
 }
 
 } // namespace workbench

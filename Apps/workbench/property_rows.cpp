@@ -5,6 +5,7 @@
 #include "Basic/runtime_error.h"
 #include <QPainter>
 #include <QPixmap>
+#include <QRegularExpression>
 #include <algorithm>
 
 namespace workbench {
@@ -13,6 +14,7 @@ namespace {
 
 constexpr int kSwatchWidth = 18, kSwatchHeight = 12;
 constexpr auto kShownName = "(Name)";
+const QRegularExpression kLineBreaks("\\r\\n|\\r|\\n");
 
 /// What a control's own property bag keeps for itself.
 bool isInternal(const std::string& name) {
@@ -100,7 +102,7 @@ QVariant PropertyRows::data(const QModelIndex& index, int role) const {
     const auto& row = rows_[std::size_t(index.row())];
     const bool isValue = index.column() == kValueColumn;
     switch (role) {
-    case Qt::DisplayRole:
+    case Qt::DisplayRole: return isValue ? QString(row.shown).replace(kLineBreaks, " ") : row.name;
     case Qt::EditRole: return isValue ? row.shown : row.name;
     case Qt::ToolTipRole: return isValue ? row.shown : row.name;
     case Qt::DecorationRole: return isValue ? swatch(row) : QVariant();
@@ -118,7 +120,8 @@ QVariant PropertyRows::headerData(int section, Qt::Orientation orientation, int 
 }
 
 Qt::ItemFlags PropertyRows::flags(const QModelIndex& index) const {
-    const bool edits = index.column() == kValueColumn && isEditable(details(index.row()));
+    const auto& row = rows_[std::size_t(index.row())];
+    const bool edits = index.column() == kValueColumn && isEditable(row.details, row.shown);
     return Qt::ItemIsEnabled | Qt::ItemIsSelectable | (edits ? Qt::ItemIsEditable : Qt::NoItemFlags);
 }
 

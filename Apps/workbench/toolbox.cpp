@@ -1,6 +1,5 @@
 #include "Apps/workbench/toolbox.h"
 #include "Apps/workbench/control_drawing.h"
-#include "Apps/workbench/form_colours.h"
 #include "Apps/workbench/text.h"
 #include <QPainter>
 #include <array>
@@ -10,7 +9,7 @@ namespace workbench {
 namespace {
 
 constexpr auto kPointer = "Pointer";
-constexpr int kToolSize = 20;
+constexpr int kToolSize = 20, kOval = 2;
 
 /// In the order of the language's own toolbox.
 constexpr std::array kOwnTools{
@@ -26,17 +25,22 @@ QIcon iconOfTool(const std::string& progId) {
     control.className = titleOfTool(progId);
     auto& look = control.look;
     look.kind = kindOfControl(progId);
-    look.back = Qt::white;
-    look.border = ControlBorder::Single;
+    look.back = look.kind == ControlKind::Button       ? QColor("#d4d0c8")
+                : look.kind == ControlKind::PictureBox ? QColor("#8fc1e8")
+                                                       : QColor(Qt::white);
+    look.border = look.kind == ControlKind::Button  ? ControlBorder::Raised
+                  : look.kind == ControlKind::Image ? ControlBorder::None
+                                                    : ControlBorder::Single;
     look.font.setPixelSize(11);
     look.text = look.kind == ControlKind::Label ? "A" : look.kind == ControlKind::TextBox ? "ab" : "";
     look.mnemonic = false;
     look.alignment = Qt::AlignHCenter;
     look.value = 1;
-    look.brush = Qt::NoBrush;
+    look.shape = kOval;
+    look.brush = Qt::SolidPattern;
     look.rows = look.columns = 2;
     look.fixedRows = 1;
-    look.fill = Qt::gray;
+    look.fill = QColor("#9a9a9a");
     look.items = QStringList{"-", "-"};
     const bool down = look.kind == ControlKind::VScrollBar, across = look.kind == ControlKind::HScrollBar;
     control.place = QRectF(down ? 5 : 1, across ? 5 : 2, down ? 10 : 18, across ? 10 : 16);
@@ -45,6 +49,18 @@ QIcon iconOfTool(const std::string& progId) {
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
     drawControl(painter, control);
+    return picture;
+}
+
+/// An arrow, seen on light and dark.
+QIcon pointerIcon() {
+    QPixmap picture(kToolSize, kToolSize);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Qt::gray);
+    painter.drawPolygon(QPolygonF{{6, 3}, {6, 15}, {9, 12.5}, {11, 17}, {13, 16}, {11, 11.5}, {15, 11.5}});
     return picture;
 }
 
@@ -68,7 +84,7 @@ void Toolbox::offer(const std::vector<std::string>& more) {
     if (more == offered_) return;
     offered_ = more;
     clear();
-    addItem(kPointer);
+    addItem(new QListWidgetItem(pointerIcon(), kPointer));
     const auto list = [this](const std::string& progId) {
         auto* const entry = new QListWidgetItem(iconOfTool(progId), titleOfTool(progId), this);
         entry->setData(Qt::UserRole, qt(progId));
