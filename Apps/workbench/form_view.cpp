@@ -5,6 +5,7 @@
 #include "Basic/runtime_error.h"
 #include "Host/model/form_controls.h"
 #include <algorithm>
+#include <cmath>
 
 namespace workbench {
 

@@ -739,6 +739,15 @@ TEST_F(FormDesigners, DrawControlsInTheirColoursWhereTheyStand) {
     EXPECT_EQ(at(8, 0), QColor(Qt::black));
 }
 
+TEST_F(FormDesigners, FontsOfPalmsAreAsLargeAsOnThem) {
+    openSample("AddressBook");
+    design("frmPerson");
+    EXPECT_EQ(view().picture().find(control("btnOK"))->look.font.pixelSize(), 12); // 12 points, 72 an inch
+    openSample("TipCalculator");
+    design("frmTip");
+    EXPECT_EQ(view().picture().find(control("lblAmount"))->look.font.pixelSize(), 11); // 8 points, 96 an inch
+}
+
 TEST_F(FormDesigners, DimWhatIsInvisible) {
     const auto form = [](const char* visible) {
         return std::string(
