@@ -182,13 +182,13 @@ void FormCanvas::mouseReleaseEvent(QMouseEvent*) {
     if (!drag_) return;
     const auto drag = *drag_;
     drag_.reset();
+    update();
     if (!drag.tool.empty()) {
         view_.wishes().toolUsed();
         view_.add(drag.tool, drag.now);
     } else if (drag.now != drag.before) {
         view_.place(drag.now);
     }
-    update();
 }
 
 void FormCanvas::mouseDoubleClickEvent(QMouseEvent* event) {

@@ -4,6 +4,7 @@
 #include "Apps/workbench/text.h"
 #include "Basic/runtime_error.h"
 #include "Host/model/form_controls.h"
+#include <QPointer>
 #include <algorithm>
 #include <cmath>
 
@@ -117,42 +118,52 @@ void FormView::select(const vbide::Ref<vbide::VBControl>& control) {
 void FormView::place(const QRectF& place) {
     const auto* drawn = drawnSelection();
     const auto changes = drawn ? changesOfPlace(*drawn, place) : changesOfForm(picture_, place);
-    wishes_.run(
-        [&] { history_.set(component_, drawn ? drawn->control->Properties() : component_->Properties(), changes); });
-    reload(); // the next key goes on from there
+    const auto control = drawn ? drawn->control : nullptr;
+    edit([&history = history_, component = component_, control, changes] {
+        history.set(component, control ? control->Properties() : component->Properties(), changes);
+    });
 }
 
 void FormView::removeSelected() {
     if (!selected_) return;
     const auto control = selected_;
     select(nullptr);
-    wishes_.run([&] {
-        const auto form = component_->Designer();
+    edit([component = component_, &history = history_, control] {
+        const auto form = component->Designer();
         const auto removed = host::removeControl(form, control);
-        history_.did(component_, [form, removed] { host::restoreControl(form, removed); });
+        history.did(component, [form, removed] { host::restoreControl(form, removed); });
     });
-    reload();
 }
 
 void FormView::add(const std::string& progId, const QRectF& place) {
-    wishes_.run([&] {
-        const auto form = component_->Designer();
+    vbide::Ref<vbide::VBControl> added;
+    const QPointer<FormView> here(this);
+    edit([&, component = component_] {
         const auto* container = containerAt(picture_, place.topLeft());
-        const auto added = host::addControl(form, container ? container->control : nullptr, progId);
-        reload();
-        const auto* drawn = picture_.find(added);
-        if (!drawn) return; // an add-in took it off again
-        for (const auto& change : changesOfNew(*drawn, place))
-            added->Properties()->Item(change.property)->Value(change.value);
-        history_.did(component_, [form, added] { host::removeControl(form, added); });
-        reload();
-        select(added);
+        added = host::addControl(component->Designer(), container ? container->control : nullptr, progId);
     });
+    if (here && added && picture_.find(added)) finish(added, place); // else an add-in took it off again
+}
+
+void FormView::finish(const vbide::Ref<vbide::VBControl>& added, const QRectF& place) {
+    edit([this, added, place, component = component_] {
+        for (const auto& change : changesOfNew(*picture_.find(added), place))
+            added->Properties()->Item(change.property)->Value(change.value);
+        const auto form = component->Designer();
+        history_.did(component, [form, added] { host::removeControl(form, added); });
+    });
+    select(added);
 }
 
 void FormView::undo() {
-    history_.undo(component_);
-    reload();
+    edit([&history = history_, component = component_] { history.undo(component); });
+}
+
+void FormView::edit(const std::function<void()>& act) {
+    const QPointer<FormView> here(this);
+    const auto run = wishes_.run;
+    run(act);
+    if (here) reload(); // the next key goes on from there
 }
 
 void FormView::openCode() { openCode(selected_); }

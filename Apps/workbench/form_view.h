@@ -63,6 +63,10 @@ protected:
 
 private:
     void reload();
+    /// Gives a new control its place, and its name to show.
+    void finish(const vbide::Ref<vbide::VBControl>& added, const QRectF& place);
+    /// Does it, tells of an error, and reads the form again. What an add-in shows meanwhile may close this view.
+    void edit(const std::function<void()>& act);
 
     vbide::Ref<vbide::VBComponent> component_;
     DesignHistory& history_;

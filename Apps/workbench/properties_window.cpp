@@ -166,8 +166,9 @@ InspectedObject PropertiesWindow::object() const {
     if (!component_) return {};
     if (!hasDesign(*component_.shared())) return nameOf(component_);
     const auto properties = control_ ? control_->Properties() : component_->Properties();
-    return {properties->items(), [this, properties](const auto& property, const auto& value) {
-                history_.set(component_, properties, {{property->Name(), value}});
+    return {properties->items(),
+            [&history = history_, component = component_, properties](const auto& property, const auto& value) {
+                history.set(component, properties, {{property->Name(), value}});
             }};
 }
 

@@ -64,10 +64,11 @@ int PropertyRows::rowOf(const QString& name) const {
 }
 
 bool PropertyRows::type(int row, const QString& typed) {
-    const auto& target = rows_[std::size_t(row)];
+    const auto target = rows_[std::size_t(row)]; // what an add-in shows meanwhile may bring other rows
+    const auto set = object_.set;
     if (typed == target.shown) return true;
     try {
-        object_.set(target.property, typedValue(target.details, target.property->Value(), typed));
+        set(target.property, typedValue(target.details, target.property->Value(), typed));
     } catch (...) {
         refused_(std::current_exception());
         return false;

@@ -248,6 +248,25 @@ TEST_F(FormDesigners, OfTheSamplesLookLikeTheirPictures) {
     }
 }
 
+TEST_F(FormDesigners, OfDeviceControlsLookLikeTheirPicture) {
+    openForm("");
+    int number = 0;
+    for (const auto& name : bench->host().options().controlClassNames()) {
+        const auto added = component("frmMain")->Designer()->VBControls()->Add(name);
+        added->Properties()->Item("Left")->Value(std::int32_t{120 + number % 4 * 1500});
+        added->Properties()->Item("Top")->Value(std::int32_t{120 + number / 4 * 840});
+        ++number;
+    }
+    control("QLTabStrip1")->Properties()->Item("Tabs")->Value(std::string("One|Two"));
+    control("QLLine1")->Properties()->Item("X1")->Value(std::int32_t{3120});
+    control("QLLine1")->Properties()->Item("X2")->Value(std::int32_t{4200});
+    control("QLLine1")->Properties()->Item("Y1")->Value(std::int32_t{2500});
+    control("QLLine1")->Properties()->Item("Y2")->Value(std::int32_t{2580});
+    settle();
+    for (const auto& drawn : view().picture().controls) EXPECT_NE(drawn.look.kind, workbench::ControlKind::Other);
+    EXPECT_TRUE(canvas().grab().save(FERNWICK_BINARY_DIR "/designer-devices.png"));
+}
+
 // ---- opening and closing ------------------------------------------------------------------------------------------------
 
 TEST_F(FormDesigners, OpenByADoubleClickInTheExplorer) {
