@@ -744,6 +744,33 @@ TEST_F(FormDesigners, AddInsAreToldOfWhatIsDrawn) {
     EXPECT_THAT(added, ElementsAre("VB.Shape"));
 }
 
+TEST_F(FormDesigners, WhatAnAddInTakesOffAgainIsNotSelected) {
+    openForm("");
+    const auto controls = component("frmMain")->Designer()->VBControls();
+    const auto events =
+        bench->host().Events()->VBControlsEvents(bench->host().ActiveVBProject(), component("frmMain")->Designer());
+    const auto sink = events->ItemAdded.connect([&](auto one) { controls->Remove(one); });
+    pick("Shape");
+    drag(pointOn({16, 16}), {100, 45});
+    EXPECT_EQ(selected(), "");
+    EXPECT_EQ(saved("frmMain"), original);
+}
+
+/// As when a box of an add-in stands and its project is closed meanwhile.
+TEST_F(FormDesigners, AFormMayGoWhileItIsEdited) {
+    openForm(kShowcase);
+    const auto form = component("frmMain");
+    const auto events = bench->host().Events()->VBControlsEvents(bench->host().ActiveVBProject(), form->Designer());
+    const auto sink = events->ItemRemoved.connect([&](auto) {
+        form->Collection()->Remove(form);
+        settle();
+    });
+    clickOn("cmdOK");
+    key(Qt::Key_Delete);
+    settle();
+    EXPECT_EQ(window().code().count(), 0);
+}
+
 // ---- drawing ------------------------------------------------------------------------------------------------------------
 
 TEST_F(FormDesigners, DrawControlsInTheirColoursWhereTheyStand) {
