@@ -13,6 +13,7 @@ host::HostOptions hostOptionsOf(Machine& machine, InstalledControls& controls) {
     options.clipboard = &machine.clipboard();
     options.controlClasses = [&controls](const std::string& name) { return controls.find(name); };
     options.classOfProgId = [&controls](const std::string& progId) { return controls.classOfProgId(progId); };
+    options.controlClassNames = [&controls] { return controls.classNames(); };
     return options;
 }
 

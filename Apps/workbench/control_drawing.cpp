@@ -70,10 +70,15 @@ void drawFrame(QPainter& painter, const DrawnControl& control) {
     constexpr double kTitleIndent = 8;
     const auto title = metrics.size(Qt::TextShowMnemonic, look.text);
     const auto edge = place.adjusted(0, std::floor(metrics.ascent() / 2), 0, 0);
-    painter.setPen(look.border == ControlBorder::Single ? Qt::black : Qt::white);
-    painter.drawRect(edge.adjusted(1, 1, -1, -1));
-    painter.setPen(look.border == ControlBorder::Single ? Qt::black : QColor("#808080"));
-    painter.drawRect(edge.adjusted(0, 0, -2, -2));
+    if (look.border == ControlBorder::Single) {
+        painter.setPen(Qt::black);
+        painter.drawRect(edge.adjusted(0, 0, -1, -1));
+    } else {
+        painter.setPen(Qt::white);
+        painter.drawRect(edge.adjusted(1, 1, -1, -1));
+        painter.setPen(QColor("#808080"));
+        painter.drawRect(edge.adjusted(0, 0, -2, -2));
+    }
     if (look.text.isEmpty()) return;
     const QRectF text(place.left() + kTitleIndent, place.top(), title.width() + 2, title.height());
     painter.fillRect(text, look.back);

@@ -1,4 +1,7 @@
 #include "Apps/workbench/design_desk.h"
+#include "Apps/workbench/form_grips.h"
+#include "Basic/case_folding.h"
+#include "Basic/runtime_error.h"
 
 namespace workbench {
 
@@ -12,7 +15,10 @@ DesignDesk::DesignDesk(host::Host& host, CodeWindows& tabs, ProjectExplorer& exp
                                                   [this](const auto& control) {
                                                       if (auto* view = forms_->current()) view->select(control);
                                                   }})),
-      forms_(new FormWindows(host, tabs, history_, {run_, [this] { followTabs(); }})) {
+      toolbox_(new Toolbox([this](const auto& progId) { addInMiddle(progId); })),
+      forms_(new FormWindows(
+          host, tabs, history_,
+          {run_, [this] { followTabs(); }, [this] { return toolbox_->tool(); }, [this] { toolbox_->putBack(); }})) {
     connect(&tabs, &QTabWidget::currentChanged, this, [this] { followTabs(); });
     connect(&explorer, &QTreeWidget::currentItemChanged, this, [this] { followExplorer(); });
     connect(&explorer, &QTreeWidget::itemClicked, this, [this] { followExplorer(); });
@@ -36,6 +42,7 @@ void DesignDesk::refreshSoon() {
 }
 
 void DesignDesk::followTabs() {
+    if (forms_->current()) listTools();
     if (auto* view = forms_->current()) return properties_->inspect(view->component(), view->selected());
     if (auto* editor = tabs_.current()) return properties_->inspect(editor->component());
     properties_->clear();
@@ -45,6 +52,29 @@ void DesignDesk::followExplorer() {
     if (!explorer_.hasFocus()) return;
     if (const auto project = explorer_.currentProject()) return properties_->inspect(project);
     if (const auto component = explorer_.currentComponent()) properties_->inspect(component);
+}
+
+/// The language's own controls, and those of the libraries that the project refers to.
+void DesignDesk::listTools() {
+    std::vector<std::string> libraries, offered;
+    (void)basic::attempt([&] {
+        if (const auto active = host_.ActiveVBProject())
+            for (const auto& reference : active->References()->items()) libraries.push_back(reference->Name());
+    });
+    const auto& installed = host_.options().controlClassNames;
+    for (const auto& name : installed ? installed() : std::vector<std::string>{})
+        for (const auto& library : libraries)
+            if (basic::startsWithNoCase(name, library + "Ctl.")) offered.push_back(name);
+    toolbox_->offer(offered);
+}
+
+/// As a double click in the toolbox does.
+void DesignDesk::addInMiddle(const std::string& progId) {
+    auto* const view = forms_->current();
+    if (!view) return;
+    const auto inner = view->picture().inner;
+    view->add(progId, {onGrid({inner.width() / 2, inner.height() / 2}, {}), QSizeF()});
+    view->setFocus();
 }
 
 vbide::Ref<vbide::VBComponent> DesignDesk::inHand() const {

@@ -4,6 +4,7 @@
 #include "Apps/workbench/form_windows.h"
 #include "Apps/workbench/project_explorer.h"
 #include "Apps/workbench/properties_window.h"
+#include "Apps/workbench/toolbox.h"
 
 namespace workbench {
 
@@ -11,11 +12,12 @@ class DesignDesk final : public QObject {
 public:
     using Run = std::function<void(const std::function<void()>&)>;
 
-    /// All of them outlive this, but for the properties window, which is made here for a dock.
+    /// All of them outlive this. The properties window and the toolbox are made here, for docks.
     DesignDesk(host::Host& host, CodeWindows& tabs, ProjectExplorer& explorer, Run run);
 
     FormWindows& forms() { return *forms_; }
     PropertiesWindow& properties() { return *properties_; }
+    Toolbox& toolbox() { return *toolbox_; }
 
     /// What the user works on: an entry of the explorer that has the focus, else the tab in front.
     vbide::Ref<vbide::VBComponent> inHand() const;
@@ -33,6 +35,8 @@ private:
     void refreshSoon();
     void followTabs();
     void followExplorer();
+    void listTools();
+    void addInMiddle(const std::string& progId);
 
     host::Host& host_;
     CodeWindows& tabs_;
@@ -40,6 +44,7 @@ private:
     Run run_;
     DesignHistory history_;
     PropertiesWindow* properties_;
+    Toolbox* toolbox_;
     FormWindows* forms_;
     std::vector<fernwick::Subscription> watches_;
 };

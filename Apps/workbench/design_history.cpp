@@ -12,19 +12,26 @@ constexpr std::size_t kMostSteps = 200;
 
 void DesignHistory::set(const vbide::Ref<vbide::VBComponent>& component, const vbide::Ref<vbide::Properties>& object,
                         const std::vector<DesignChange>& changes) {
-    Step step{component, {}};
+    std::vector<Before> changed;
     try {
         for (const auto& change : changes) {
             const auto property = object->Item(change.property);
             const auto before = property->Value();
             property->Value(change.value);
-            if (property->Value() != before) step.before.push_back({property, before});
+            if (property->Value() != before) changed.push_back({property, before});
         }
     } catch (const basic::RuntimeError&) {
-        putBack(step.before);
+        putBack(changed);
         throw;
     }
-    if (step.before.empty()) return;
+    if (!changed.empty()) remember({component, [changed] { return putBack(changed); }});
+}
+
+void DesignHistory::did(const vbide::Ref<vbide::VBComponent>& component, std::function<void()> takeBack) {
+    remember({component, [takeBack = std::move(takeBack)] { return basic::attempt(takeBack).Number == 0; }});
+}
+
+void DesignHistory::remember(Step step) {
     steps_.push_back(std::move(step));
     if (steps_.size() > kMostSteps) steps_.pop_front();
 }
@@ -36,7 +43,7 @@ bool DesignHistory::undo(const vbide::Ref<vbide::VBComponent>& component) {
         if (last == steps_.rend()) return false;
         const auto step = *last;
         steps_.erase(std::next(last).base());
-        if (putBack(step.before)) return true;
+        if (step.takeBack()) return true;
     }
 }
 

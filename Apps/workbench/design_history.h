@@ -2,6 +2,7 @@
 // Changes that the user makes to forms, so that they can be taken back.
 #include "Add-in/platform/host_project.h"
 #include <deque>
+#include <functional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -21,6 +22,8 @@ public:
     /// before goes back, and the error comes out.
     void set(const vbide::Ref<vbide::VBComponent>& component, const vbide::Ref<vbide::Properties>& object,
              const std::vector<DesignChange>& changes);
+    /// Something else was done to a component; `takeBack` undoes it.
+    void did(const vbide::Ref<vbide::VBComponent>& component, std::function<void()> takeBack);
     /// Takes back the last step of a component that changes something; what was done to controls that are gone doesn't.
     /// False where there is none.
     bool undo(const vbide::Ref<vbide::VBComponent>& component);
@@ -32,9 +35,11 @@ private:
     };
     struct Step {
         vbide::Ref<vbide::VBComponent> component;
-        std::vector<Before> before;
+        /// False when nothing could be taken back.
+        std::function<bool()> takeBack;
     };
     static bool putBack(const std::vector<Before>& before);
+    void remember(Step step);
 
     std::deque<Step> steps_;
 };

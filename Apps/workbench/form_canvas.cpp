@@ -7,6 +7,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <algorithm>
+#include <cmath>
 
 namespace workbench {
 
@@ -136,6 +137,7 @@ void FormCanvas::drawSelection(QPainter& painter) const {
 void FormCanvas::mousePressEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton) return;
     const auto at = event->position();
+    if (beginNew(at)) return;
     if (const auto grip = gripAt(at); grip != Grip::None) return beginDrag(at, grip);
     if (openMenu(at)) return;
     const auto* drawn = view_.picture().at(onForm(at));
@@ -144,23 +146,35 @@ void FormCanvas::mousePressEvent(QMouseEvent* event) {
     if (control) beginDrag(at, Grip::None);
 }
 
+/// With a tool in hand the mouse draws the place of a new control.
+bool FormCanvas::beginNew(const QPointF& onWidget) {
+    const auto tool = view_.wishes().tool();
+    if (tool.empty()) return false;
+    view_.select(nullptr);
+    const QRectF place(onGrid(onForm(onWidget), {}), QSizeF());
+    drag_ = Drag{onWidget, Grip::None, place, place, {}, false, tool};
+    return true;
+}
+
 void FormCanvas::beginDrag(const QPointF& onWidget, Grip grip) {
     const auto* drawn = view_.drawnSelection();
     const auto place = selectedPlace();
-    drag_ = Drag{onWidget,
-                 grip,
-                 place,
-                 place,
-                 drawn ? drawn->origin : QPointF(),
-                 drawn && drawn->look.kind == ControlKind::Line};
+    drag_ = Drag{
+        onWidget, grip, place, place, drawn ? drawn->origin : QPointF(), drawn && drawn->look.kind == ControlKind::Line,
+        {}};
 }
 
 void FormCanvas::mouseMoveEvent(QMouseEvent* event) {
-    if (!drag_) return setCursor(cursorOf(gripAt(event->position())));
+    if (!drag_) {
+        const bool draws = !view_.wishes().tool().empty();
+        return setCursor(draws ? Qt::CrossCursor : cursorOf(gripAt(event->position())));
+    }
     const auto by = event->position() - drag_->from;
     // a hand that trembles moves nothing
     if (drag_->now == drag_->before && by.manhattanLength() < kDragBegins) return;
-    drag_->now = pulled(drag_->before, drag_->grip, by, drag_->origin, drag_->isLine);
+    drag_->now = drag_->tool.empty()
+                     ? pulled(drag_->before, drag_->grip, by, drag_->origin, drag_->isLine)
+                     : QRectF(drag_->before.topLeft(), onGrid(onForm(event->position()), {})).normalized();
     update();
 }
 
@@ -168,8 +182,13 @@ void FormCanvas::mouseReleaseEvent(QMouseEvent*) {
     if (!drag_) return;
     const auto drag = *drag_;
     drag_.reset();
-    if (drag.now != drag.before) view_.place(drag.now);
     update();
+    if (!drag.tool.empty()) {
+        view_.wishes().toolUsed();
+        view_.add(drag.tool, drag.now);
+    } else if (drag.now != drag.before) {
+        view_.place(drag.now);
+    }
 }
 
 void FormCanvas::mouseDoubleClickEvent(QMouseEvent* event) {
@@ -209,6 +228,7 @@ void FormCanvas::keyPressEvent(QKeyEvent* event) {
     switch (event->key()) {
     case Qt::Key_Delete: return view_.removeSelected();
     case Qt::Key_Escape:
+        view_.wishes().toolUsed();
         if (drag_) return formChanged();
         return view_.select(nullptr);
     case Qt::Key_Return:

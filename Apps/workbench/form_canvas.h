@@ -35,6 +35,7 @@ private:
         QRectF before, now;
         QPointF origin; ///< of the grid
         bool isLine = false;
+        std::string tool; ///< what is being drawn, "" for nothing new
     };
 
     QPointF innerCorner() const;
@@ -43,6 +44,7 @@ private:
     QRectF selectedPlace() const;
     std::vector<GripPlace> grips() const;
     Grip gripAt(const QPointF& onWidget) const;
+    bool beginNew(const QPointF& onWidget);
     void beginDrag(const QPointF& onWidget, Grip grip);
     bool openMenu(const QPointF& onWidget);
     void nudge(const QPointF& step, bool size);

@@ -8,16 +8,16 @@ namespace {
 
 double onGrid(double value, double origin) { return origin + std::round((value - origin) / kGridStep) * kGridStep; }
 
-QPointF onGrid(const QPointF& point, const QPointF& origin) {
-    return {onGrid(point.x(), origin.x()), onGrid(point.y(), origin.y())};
-}
-
 bool isLeft(Grip grip) { return grip == Grip::TopLeft || grip == Grip::Left || grip == Grip::BottomLeft; }
 bool isRight(Grip grip) { return grip == Grip::TopRight || grip == Grip::Right || grip == Grip::BottomRight; }
 bool isTop(Grip grip) { return grip == Grip::TopLeft || grip == Grip::Top || grip == Grip::TopRight; }
 bool isBottom(Grip grip) { return grip == Grip::BottomLeft || grip == Grip::Bottom || grip == Grip::BottomRight; }
 
 } // namespace
+
+QPointF onGrid(const QPointF& point, const QPointF& origin) {
+    return {onGrid(point.x(), origin.x()), onGrid(point.y(), origin.y())};
+}
 
 std::vector<GripPlace> gripsOf(const QRectF& place, GripsOf what) {
     const auto c = place.center();

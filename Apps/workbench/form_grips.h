@@ -25,6 +25,8 @@ std::vector<GripPlace> gripsOf(const QRectF& place, GripsOf what);
 
 Qt::CursorShape cursorOf(Grip grip);
 
+QPointF onGrid(const QPointF& point, const QPointF& origin);
+
 /// The place when a grip (none: the place itself) is pulled by so much. What moves stands on the grid, whose corner is
 /// `origin`; a place that was pulled through itself has no size. The ends of a line move freely.
 QRectF pulled(const QRectF& place, Grip grip, const QPointF& by, const QPointF& origin, bool isLine);

@@ -1,8 +1,12 @@
 #include "Apps/workbench/form_view.h"
 #include "Apps/workbench/event_handlers.h"
 #include "Apps/workbench/form_canvas.h"
+#include "Apps/workbench/text.h"
 #include "Basic/runtime_error.h"
+#include "Host/model/form_controls.h"
+#include <QPointer>
 #include <algorithm>
+#include <cmath>
 
 namespace workbench {
 
@@ -28,6 +32,26 @@ std::vector<DesignChange> changesOfPlace(const DrawnControl& drawn, const QRectF
     add("Width", before.width(), at.width(), drawn.unitX);
     add("Height", before.height(), at.height(), drawn.unitY);
     return changes;
+}
+
+/// What a new control is given: its place, and its name to show.
+std::vector<DesignChange> changesOfNew(const DrawnControl& drawn, const QRectF& place) {
+    const bool hasSize = place.width() > 0 && place.height() > 0 && drawn.look.kind != ControlKind::Hidden;
+    auto there = place;
+    if (!hasSize) there.setSize(drawn.place.size());
+    auto changes = changesOfPlace(drawn, there);
+    const PropertyReader read(drawn.control->Properties());
+    for (const auto* shown : {"Caption", "Text"})
+        if (read.has(shown) && read.text(shown).isEmpty()) changes.push_back({shown, text(drawn.name)});
+    return changes;
+}
+
+/// The innermost container at a place, null for the form itself.
+const DrawnControl* containerAt(const FormPicture& form, const QPointF& place) {
+    const auto* drawn = form.at(place);
+    while (drawn && !isContainer(drawn->control->ProgId()))
+        drawn = drawn->container < 0 ? nullptr : &form.controls[std::size_t(drawn->container)];
+    return drawn;
 }
 
 /// A form's size is that of its frame.
@@ -69,6 +93,7 @@ FormView::FormView(vbide::Ref<vbide::VBComponent> component, DesignHistory& hist
 }
 
 void FormView::reload() {
+    reload_.stop();
     // of a form that has been removed the last picture stays until its window goes
     const auto failed = basic::attempt([this] { picture_ = pictureOfForm(*component_.shared()); });
     if (failed.Number != 0) return;
@@ -80,7 +105,9 @@ void FormView::reload() {
 void FormView::select(const vbide::Ref<vbide::VBControl>& control) {
     if (control == selected_) return;
     selected_ = control;
-    if (const auto* drawn = drawnSelection()) {
+    const auto* drawn = drawnSelection();
+    canvas_->setAccessibleDescription(drawn ? drawn->name : picture_.caption);
+    if (drawn) {
         const auto shown = canvas_->onCanvas(drawn->place.normalized()).toRect();
         ensureVisible(shown.center().x(), shown.center().y(), shown.width() / 2, shown.height() / 2);
     }
@@ -91,22 +118,52 @@ void FormView::select(const vbide::Ref<vbide::VBControl>& control) {
 void FormView::place(const QRectF& place) {
     const auto* drawn = drawnSelection();
     const auto changes = drawn ? changesOfPlace(*drawn, place) : changesOfForm(picture_, place);
-    wishes_.run(
-        [&] { history_.set(component_, drawn ? drawn->control->Properties() : component_->Properties(), changes); });
-    reload(); // the next key goes on from there
+    const auto control = drawn ? drawn->control : nullptr;
+    edit([&history = history_, component = component_, control, changes] {
+        history.set(component, control ? control->Properties() : component->Properties(), changes);
+    });
 }
 
 void FormView::removeSelected() {
     if (!selected_) return;
     const auto control = selected_;
     select(nullptr);
-    wishes_.run([&] { component_->Designer()->VBControls()->Remove(control); });
-    reload();
+    edit([component = component_, &history = history_, control] {
+        const auto form = component->Designer();
+        const auto removed = host::removeControl(form, control);
+        history.did(component, [form, removed] { host::restoreControl(form, removed); });
+    });
+}
+
+void FormView::add(const std::string& progId, const QRectF& place) {
+    vbide::Ref<vbide::VBControl> added;
+    const QPointer<FormView> here(this);
+    edit([&, component = component_] {
+        const auto* container = containerAt(picture_, place.topLeft());
+        added = host::addControl(component->Designer(), container ? container->control : nullptr, progId);
+    });
+    if (here && added && picture_.find(added)) finish(added, place); // else an add-in took it off again
+}
+
+void FormView::finish(const vbide::Ref<vbide::VBControl>& added, const QRectF& place) {
+    edit([this, added, place, component = component_] {
+        for (const auto& change : changesOfNew(*picture_.find(added), place))
+            added->Properties()->Item(change.property)->Value(change.value);
+        const auto form = component->Designer();
+        history_.did(component, [form, added] { host::removeControl(form, added); });
+    });
+    select(added);
 }
 
 void FormView::undo() {
-    history_.undo(component_);
-    reload();
+    edit([&history = history_, component = component_] { history.undo(component); });
+}
+
+void FormView::edit(const std::function<void()>& act) {
+    const QPointer<FormView> here(this);
+    const auto run = wishes_.run;
+    run(act);
+    if (here) reload(); // the next key goes on from there
 }
 
 void FormView::openCode() { openCode(selected_); }

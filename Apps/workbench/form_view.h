@@ -21,6 +21,10 @@ public:
         std::function<void()> selected;
         /// The user works here now.
         std::function<void()> focused;
+        /// The class that is picked in the toolbox, "" for none.
+        std::function<std::string()> tool;
+        /// The tool has done its work, or is put back.
+        std::function<void()> toolUsed;
     };
 
     /// Reads the form. Error 380 for a file without the description of one.
@@ -42,6 +46,9 @@ public:
     /// Puts the selected control, or the form's inner rectangle, there; only what differs is written.
     void place(const QRectF& place);
     void removeSelected();
+    /// Adds a control of a class there, in the container that is in front at the place's corner, and selects it. A place
+    /// without a size gets the usual one.
+    void add(const std::string& progId, const QRectF& place);
     /// The code of the selected control's default event.
     void openCode();
     void openCode(const vbide::Ref<vbide::VBControl>& control);
@@ -56,6 +63,10 @@ protected:
 
 private:
     void reload();
+    /// Gives a new control its place, and its name to show.
+    void finish(const vbide::Ref<vbide::VBControl>& added, const QRectF& place);
+    /// Does it, tells of an error, and reads the form again. What an add-in shows meanwhile may close this view.
+    void edit(const std::function<void()>& act);
 
     vbide::Ref<vbide::VBComponent> component_;
     DesignHistory& history_;

@@ -34,7 +34,8 @@ void FormWindows::open(const vbide::Ref<vbide::VBComponent>& component) {
     const auto focused = [this, component] { activate(component); };
     // a file without the description of a form has no view
     const auto failed = basic::attempt([&] {
-        view = new FormView(component, history_, {wishes_.run, wishes_.selected, focused});
+        view =
+            new FormView(component, history_, {wishes_.run, wishes_.selected, focused, wishes_.tool, wishes_.toolUsed});
     });
     if (failed.Number != 0) return component->DesignerWindow()->Close();
     opening_ = true; // that is no user's choice
@@ -87,7 +88,6 @@ void FormWindows::refresh() {
         });
         if (!open) delete view;
     }
-    wishes_.selected();
 }
 
 } // namespace workbench

@@ -13,6 +13,9 @@ public:
         std::function<void(const std::function<void()>&)> run;
         /// Another form or control is selected, or the one that is has changed.
         std::function<void()> selected;
+        /// As those of FormView.
+        std::function<std::string()> tool;
+        std::function<void()> toolUsed;
     };
 
     /// Host, tabs and history outlive this.

@@ -14,7 +14,7 @@ constexpr auto kGeometryKey = "window/geometry", kStateKey = "window/state", kTh
                kLight = "light";
 /// Counts up when docks and toolbars change so much that an old arrangement makes no sense.
 constexpr int kLayoutVersion = 1;
-constexpr int kUsualWidth = 1100, kUsualHeight = 720, kUsualExplorerWidth = 270;
+constexpr int kUsualWidth = 1100, kUsualHeight = 720, kUsualExplorerWidth = 270, kUsualToolboxWidth = 140;
 
 } // namespace
 
@@ -30,12 +30,13 @@ MainWindow::MainWindow(host::Host& host, BarsView::Run run, MayClose mayClose)
       explorerDock_(addDock("explorerDock", "Project", explorer_, Qt::RightDockWidgetArea)),
       design_(new DesignDesk(host, *code_, *explorer_, run_)),
       propertiesDock_(addDock("propertiesDock", "Properties", &design_->properties(), Qt::RightDockWidgetArea)),
+      toolboxDock_(addDock("toolboxDock", "Toolbox", &design_->toolbox(), Qt::LeftDockWidgetArea)),
       bars_(host.bars(), *this, run_) {
     setObjectName("workbench");
     setCentralWidget(code_);
     code_->setFocus(); // where work begins; the command of a dock would hide the one that has the keys
     resize(kUsualWidth, kUsualHeight);
-    resizeDocks({explorerDock_}, {kUsualExplorerWidth}, Qt::Horizontal);
+    resizeDocks({explorerDock_, toolboxDock_}, {kUsualExplorerWidth, kUsualToolboxWidth}, Qt::Horizontal);
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
     setAnimated(false); // a toolbar stands where the user lets go of it, and its model says so at once
     titleSoon_.setSingleShot(true);

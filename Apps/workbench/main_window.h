@@ -28,6 +28,7 @@ public:
     QDockWidget& propertiesDock() { return *propertiesDock_; }
     /// Form views and the properties window.
     DesignDesk& design() { return *design_; }
+    QDockWidget& toolboxDock() { return *toolboxDock_; }
     /// In the order in which they came.
     const std::vector<QDockWidget*>& docks() const { return allDocks_; }
     /// Told of each dock that comes later.
@@ -62,6 +63,7 @@ private:
     QDockWidget* explorerDock_;
     DesignDesk* design_;
     QDockWidget* propertiesDock_;
+    QDockWidget* toolboxDock_;
     /// Tool windows that are drawn, the latest of a title in the dock of that title.
     std::map<std::shared_ptr<host::ToolWindow>, QPointer<QDockWidget>> docks_;
     /// The host's own, whose places the user's settings keep.

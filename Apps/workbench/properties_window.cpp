@@ -118,7 +118,7 @@ void PropertiesWindow::buildTable() {
 
 void PropertiesWindow::inspect(const vbide::Ref<vbide::VBComponent>& component,
                                const vbide::Ref<vbide::VBControl>& control) {
-    if (component == component_ && control == control_ && !project_) return refreshSoon();
+    if (component == component_ && control == control_ && !project_) return;
     project_ = nullptr;
     component_ = component;
     control_ = control;
@@ -166,8 +166,9 @@ InspectedObject PropertiesWindow::object() const {
     if (!component_) return {};
     if (!hasDesign(*component_.shared())) return nameOf(component_);
     const auto properties = control_ ? control_->Properties() : component_->Properties();
-    return {properties->items(), [this, properties](const auto& property, const auto& value) {
-                history_.set(component_, properties, {{property->Name(), value}});
+    return {properties->items(),
+            [&history = history_, component = component_, properties](const auto& property, const auto& value) {
+                history.set(component, properties, {{property->Name(), value}});
             }};
 }
 
@@ -192,7 +193,10 @@ void PropertiesWindow::listObjects() {
 }
 
 void PropertiesWindow::chosen(int row) {
-    if (component_) wishes_.select(row > 0 ? controls_[std::size_t(row) - 1] : nullptr);
+    if (!component_) return;
+    const auto control = row > 0 ? controls_[std::size_t(row) - 1] : nullptr;
+    wishes_.select(control);
+    inspect(component_, control); // also where no form is in front
 }
 
 void PropertiesWindow::doubleClicked(const QModelIndex& index) {

@@ -10,18 +10,21 @@ namespace workbench {
 
 namespace {
 
-constexpr double kPixelsPerInch = 96, kPointsPerInch = 72;
+constexpr double kPixelsPerInch = 96, kPixelsPerInchOfPalms = 72, kPointsPerInch = 72;
 constexpr double kUsualPoints = 8.25, kMostPoints = 500;
 constexpr int kLargestPicture = 16 * 1024 * 1024;
 constexpr int kBoldStyle = 1, kItalicStyle = 2;
-constexpr auto kUsualFamily = "MS Sans Serif";
+constexpr auto kUsualFamily = "MS Sans Serif", kPalmFamily = "QLPalm";
 
 /// A form's fonts are seldom installed here; those behind them are about as wide.
 QFont fontOfFamily(const QString& family, double points) {
+    const bool ofPalms = family.compare(kPalmFamily, Qt::CaseInsensitive) == 0;
+    const double pixelsPerInch = ofPalms ? kPixelsPerInchOfPalms : kPixelsPerInch;
     QFont font;
-    font.setFamilies({family.isEmpty() ? QString(kUsualFamily) : family, "Tahoma", "Liberation Sans", "Arial"});
+    font.setFamilies({family.isEmpty() ? QString(kUsualFamily) : family, ofPalms ? "DejaVu Sans Condensed" : "Tahoma",
+                      "Liberation Sans", "Arial"});
     const double size = points > 0 && points <= kMostPoints ? points : kUsualPoints;
-    font.setPixelSize(std::max(1, int(std::lround(size * kPixelsPerInch / kPointsPerInch))));
+    font.setPixelSize(std::max(1, int(std::lround(size * pixelsPerInch / kPointsPerInch))));
     return font;
 }
 

@@ -20,7 +20,7 @@ public:
     double real(const char* name, double fallback = 0) const;
     bool flag(const char* name, bool fallback = false) const;
     QColor colour(const char* name, const QColor& fallback) const;
-    /// The members of a property "Font", in pixels of 96 an inch.
+    /// The members of a property "Font". Pixels are 96 an inch, for the face of Palms 72.
     QFont font() const;
     /// The properties FontName, FontSize and FontStyle of a device control.
     QFont deviceFont() const;

@@ -5,6 +5,7 @@
 #include "Basic/runtime_error.h"
 #include <QPainter>
 #include <QPixmap>
+#include <QRegularExpression>
 #include <algorithm>
 
 namespace workbench {
@@ -13,6 +14,7 @@ namespace {
 
 constexpr int kSwatchWidth = 18, kSwatchHeight = 12;
 constexpr auto kShownName = "(Name)";
+const QRegularExpression kLineBreaks("\\r\\n|\\r|\\n");
 
 /// What a control's own property bag keeps for itself.
 bool isInternal(const std::string& name) {
@@ -62,10 +64,11 @@ int PropertyRows::rowOf(const QString& name) const {
 }
 
 bool PropertyRows::type(int row, const QString& typed) {
-    const auto& target = rows_[std::size_t(row)];
+    const auto target = rows_[std::size_t(row)]; // what an add-in shows meanwhile may bring other rows
+    const auto set = object_.set;
     if (typed == target.shown) return true;
     try {
-        object_.set(target.property, typedValue(target.details, target.property->Value(), typed));
+        set(target.property, typedValue(target.details, target.property->Value(), typed));
     } catch (...) {
         refused_(std::current_exception());
         return false;
@@ -100,7 +103,7 @@ QVariant PropertyRows::data(const QModelIndex& index, int role) const {
     const auto& row = rows_[std::size_t(index.row())];
     const bool isValue = index.column() == kValueColumn;
     switch (role) {
-    case Qt::DisplayRole:
+    case Qt::DisplayRole: return isValue ? QString(row.shown).replace(kLineBreaks, " ") : row.name;
     case Qt::EditRole: return isValue ? row.shown : row.name;
     case Qt::ToolTipRole: return isValue ? row.shown : row.name;
     case Qt::DecorationRole: return isValue ? swatch(row) : QVariant();
@@ -118,7 +121,8 @@ QVariant PropertyRows::headerData(int section, Qt::Orientation orientation, int 
 }
 
 Qt::ItemFlags PropertyRows::flags(const QModelIndex& index) const {
-    const bool edits = index.column() == kValueColumn && isEditable(details(index.row()));
+    const auto& row = rows_[std::size_t(index.row())];
+    const bool edits = index.column() == kValueColumn && isEditable(row.details, row.shown);
     return Qt::ItemIsEnabled | Qt::ItemIsSelectable | (edits ? Qt::ItemIsEditable : Qt::NoItemFlags);
 }
 

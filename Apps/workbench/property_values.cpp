@@ -113,8 +113,10 @@ QStringList shownChoices(const host::ClassProperty& details, const fernwick::Var
     return shown;
 }
 
-bool isEditable(const host::ClassProperty& details) {
-    return details.kind != PropertyKind::Picture && !isAmong(kLists, details.name);
+bool isEditable(const host::ClassProperty& details, const QString& shown) {
+    const bool elsewhere = details.kind == PropertyKind::Picture || isAmong(kLists, details.name);
+    const bool unknown = details.kind == PropertyKind::Unknown && details.name != "Name" && shown.isEmpty();
+    return !elsewhere && !unknown && !shown.contains('\n') && !shown.contains('\r');
 }
 
 } // namespace workbench

@@ -16,7 +16,8 @@ fernwick::Variant typedValue(const host::ClassProperty& details, const fernwick:
 /// What there is to choose from as it is shown, for an enumeration or a Boolean; empty for all else.
 QStringList shownChoices(const host::ClassProperty& details, const fernwick::Variant& value);
 
-/// Pictures and lists come from files that this window doesn't write.
-bool isEditable(const host::ClassProperty& details);
+/// Pictures, lists and texts of several lines come from files that this window doesn't write. Of a property of which
+/// nothing is known and that says nothing there is no telling what may be typed.
+bool isEditable(const host::ClassProperty& details, const QString& shown);
 
 } // namespace workbench

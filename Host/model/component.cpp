@@ -7,6 +7,7 @@
 #include "Host/model/host_errors.h"
 #include "Host/model/module_code.h"
 #include "Host/model/project.h"
+#include "Host/model/project_references.h"
 #include "Host/model/tool_window.h"
 #include <algorithm>
 #include <fmt/format.h>
@@ -252,6 +253,7 @@ DesignerHooks Component::designerHooks() {
         owner()->host()->tell(controlsEvents_->ItemRenamed, control, oldName, oldIndex);
     };
     hooks.renameForm = [this](const std::string& name) { Name(name); };
+    hooks.objectLine = [this](const std::string& className) { return owner()->references().objectLineOf(className); };
     hooks.resources = [this](const std::string& name) { return resources(name); };
     if (const auto host = owner()->host()) {
         hooks.classes = host->options().controlClasses;

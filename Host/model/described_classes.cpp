@@ -1,6 +1,7 @@
 #include "Host/model/described_classes.h"
 #include "Basic/case_folding.h"
 #include "Host/model/property_text.h"
+#include <set>
 
 namespace host {
 namespace {
@@ -62,6 +63,12 @@ std::shared_ptr<const ControlClass> DescribedClasses::find(const std::string& cl
 std::string DescribedClasses::classOfProgId(const std::string& progId) const {
     const auto found = classes_.find(basic::foldCase(progId));
     return found == classes_.end() ? progId : found->second.className;
+}
+
+std::vector<std::string> DescribedClasses::classNames() const {
+    std::set<std::string> names;
+    for (const auto& [key, described] : classes_) names.insert(described.className);
+    return {names.begin(), names.end()};
 }
 
 } // namespace host

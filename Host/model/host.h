@@ -41,6 +41,8 @@ struct HostOptions {
     /// The properties of a control class that is not the language's own, and the class of a ProgID; see DesignerHooks.
     std::function<std::shared_ptr<const ControlClass>(const std::string& className)> controlClasses;
     std::function<std::string(const std::string& progId)> classOfProgId;
+    /// The control classes that are installed, for toolboxes.
+    std::function<std::vector<std::string>()> controlClassNames;
     /// Told of an error that a handler of an add-in let out; the host itself goes on.
     std::function<void(const basic::ErrObject&)> handlerFailed;
     /// Asked before a save replaces a file that another program changed since it was read; false leaves the file and what

@@ -1,4 +1,5 @@
 #include "Host/model/described_classes.h"
+#include "Host/model/form_controls.h"
 #include "Host/model/form_places.h"
 #include "Host/model/property_source.h"
 #include "tests/host/designer_support.h"
@@ -207,4 +208,52 @@ TEST(DesignerPanes, ADesignersWindowOutlivesItsForm) {
     project->VBComponents()->Remove(form);
     window->Close();
     EXPECT_TRUE(log.told.empty());
+}
+
+// ---- controls that come and go ------------------------------------------------------------------------------------------
+
+TEST_F(FrontEndsView, AControlIsAddedWithinAContainerInItsUnits) {
+    const auto added = host::addControl(designer->Designer(), control("picUser"), "VB.TextBox");
+    EXPECT_EQ(difference(), "+       Begin VB.TextBox Text1 \n+          Height          =   16.5\n"
+                            "+          Left            =   0\n+          TabIndex        =   0\n"
+                            "+          Top             =   0\n+          Width           =   4.05\n+       End\n");
+    EXPECT_EQ(control("picUser")->ContainedVBControls().front(), added);
+}
+
+TEST_F(FrontEndsView, ARemovedControlGoesBackWhereItStood) {
+    const auto frame = control("fraAll");
+    const auto first = host::removeControl(designer->Designer(), frame);
+    const auto second = host::removeControl(designer->Designer(), control("picUser"));
+    EXPECT_EQ(basic::attempt([&] { (void)frame->ClassName(); }).Number, 440);
+    host::restoreControl(designer->Designer(), second);
+    host::restoreControl(designer->Designer(), first);
+    EXPECT_EQ(difference(), "");
+    EXPECT_EQ(frame->ClassName(), "Frame"); // valid again
+    EXPECT_EQ(basic::attempt([&] { host::removeControl(designer->Designer(), nullptr); }).Number, 5);
+}
+
+TEST_F(FrontEndsView, NothingGoesBackIntoAContainerThatIsGone) {
+    const auto inner = host::addControl(designer->Designer(), control("fraAll"), "VB.TextBox");
+    const auto removed = host::removeControl(designer->Designer(), inner);
+    host::removeControl(designer->Designer(), control("fraAll"));
+    EXPECT_EQ(basic::attempt([&] { host::restoreControl(designer->Designer(), removed); }).Number, 440);
+}
+
+TEST(ObjectLines, ComeWithTheFirstControlOfTheirLibrary) {
+    test::TestHost host;
+    const auto project =
+        host.open(test::SampleProject()
+                      .member("Object={1198F6AB-5766-4D4A-A1AF-CD9A25D2D2B4}#1.0#0; ..\\lib\\Tavlets.dll")
+                      .form("frmA"));
+    const auto form = project->VBComponents()->Item("frmA");
+    const auto before = test::formText("frmA");
+    form->Designer()->VBControls()->Add("VB.Label");
+    form->Designer()->VBControls()->Add("TavletsCtl.QLLabel");
+    form->Designer()->VBControls()->Add("TavletsCtl.QLButton");
+    form->Designer()->VBControls()->Add("Elsewhere.Gauge");
+    form->SaveAs(form->FileNames(1));
+    const auto text = host.folder.read("frmA.frm");
+    EXPECT_EQ(text.substr(0, text.find("   ")),
+              "VERSION 5.00\r\nObject = \"{1198F6AB-5766-4D4A-A1AF-CD9A25D2D2B4}#1.0#0\"; \"Tavlets.dll\"\r\n"
+              "Begin VB.Form frmA \r\n");
 }

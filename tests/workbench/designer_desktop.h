@@ -36,7 +36,11 @@ protected:
     workbench::MainWindow& window() { return bench->window(); }
     workbench::DesignDesk& desk() { return window().design(); }
     workbench::PropertiesWindow& properties() { return desk().properties(); }
-    static void settle() { QTest::qWait(20); }
+    /// Lets everything be done that waits for Qt's loop, on a busy machine too: what is not urgent comes last there.
+    static void settle() {
+        QTest::qWait(20);
+        for (int i = 0; i < 10; ++i) QCoreApplication::processEvents();
+    }
 
     void openSample(const std::string& name) {
         std::filesystem::copy(std::filesystem::path(FERNWICK_SOURCE_DIR) / "samples" / name, folder / name,
@@ -94,6 +98,9 @@ protected:
         QTest::mouseMove(&canvas(), from + by);
         QTest::mouseRelease(&canvas(), Qt::LeftButton, {}, from + by);
         settle();
+    }
+    void pick(const QString& tool) {
+        desk().toolbox().setCurrentItem(desk().toolbox().findItems(tool, Qt::MatchExactly).front());
     }
     void key(int key, Qt::KeyboardModifiers modifiers = {}) { QTest::keyClick(&canvas(), Qt::Key(key), modifiers); }
     QAction* menuItem(const QString& menu, const QString& item) {

@@ -248,6 +248,25 @@ TEST_F(FormDesigners, OfTheSamplesLookLikeTheirPictures) {
     }
 }
 
+TEST_F(FormDesigners, OfDeviceControlsLookLikeTheirPicture) {
+    openForm("");
+    int number = 0;
+    for (const auto& name : bench->host().options().controlClassNames()) {
+        const auto added = component("frmMain")->Designer()->VBControls()->Add(name);
+        added->Properties()->Item("Left")->Value(std::int32_t{120 + number % 4 * 1500});
+        added->Properties()->Item("Top")->Value(std::int32_t{120 + number / 4 * 840});
+        ++number;
+    }
+    control("QLTabStrip1")->Properties()->Item("Tabs")->Value(std::string("One|Two"));
+    control("QLLine1")->Properties()->Item("X1")->Value(std::int32_t{3120});
+    control("QLLine1")->Properties()->Item("X2")->Value(std::int32_t{4200});
+    control("QLLine1")->Properties()->Item("Y1")->Value(std::int32_t{2500});
+    control("QLLine1")->Properties()->Item("Y2")->Value(std::int32_t{2580});
+    settle();
+    for (const auto& drawn : view().picture().controls) EXPECT_NE(drawn.look.kind, workbench::ControlKind::Other);
+    EXPECT_TRUE(canvas().grab().save(FERNWICK_BINARY_DIR "/designer-devices.png"));
+}
+
 // ---- opening and closing ------------------------------------------------------------------------------------------------
 
 TEST_F(FormDesigners, OpenByADoubleClickInTheExplorer) {
@@ -548,13 +567,26 @@ TEST_F(FormDesigners, TakeChangesBack) {
     EXPECT_EQ(saved("frmMain"), original);
 }
 
-TEST_F(FormDesigners, WhatWasDoneToARemovedControlIsNotInTheWayOfUndo) {
+TEST_F(FormDesigners, ARemovedControlComesBackWithAllWithinIt) {
+    openForm(kShowcase);
+    QTest::mouseClick(&canvas(), Qt::LeftButton, {}, pointOn(placeOf("fraChoice").topLeft() + QPointF(3, 3)));
+    key(Qt::Key_Right, Qt::ControlModifier);
+    key(Qt::Key_Delete);
+    EXPECT_FALSE(view().picture().find(control("txtName")) == nullptr);
+    EXPECT_EQ(view().picture().controls.size(), 24u - 4);
+    menuItem("&Edit", "&Undo")->trigger();
+    EXPECT_EQ(view().picture().controls.size(), 24u);
+    menuItem("&Edit", "&Undo")->trigger();
+    EXPECT_EQ(saved("frmMain"), original);
+}
+
+TEST_F(FormDesigners, WhatAnotherTookAwayIsNotInTheWayOfUndo) {
     openForm(kShowcase);
     clickOn("cmdOff");
     key(Qt::Key_Right, Qt::ControlModifier);
     clickOn("cmdOK");
     key(Qt::Key_Right, Qt::ControlModifier);
-    key(Qt::Key_Delete);
+    component("frmMain")->Designer()->VBControls()->Remove(control("cmdOK"));
     menuItem("&Edit", "&Undo")->trigger();
     EXPECT_EQ(valueOf("cmdOff", "Left"), "4800");
 }
@@ -638,6 +670,107 @@ TEST_F(FormDesigners, MenusLeadToTheirHandlers) {
     EXPECT_THAT(component("frmMain")->CodeModule()->Lines(1, 1), "Private Sub mnuOpen_Click()");
 }
 
+// ---- the toolbox --------------------------------------------------------------------------------------------------------
+
+TEST_F(FormDesigners, TheToolboxOffersTheControlsOfTheProject) {
+    openForm("");
+    const auto offers = [&](const char* name) { return !desk().toolbox().findItems(name, Qt::MatchExactly).isEmpty(); };
+    EXPECT_TRUE(offers("CommandButton"));
+    EXPECT_FALSE(offers("QLButton"));
+    openSample("AddressBook");
+    design("frmPerson");
+    EXPECT_TRUE(offers("CommandButton"));
+    EXPECT_TRUE(offers("QLButton"));
+    EXPECT_FALSE(offers("Menu"));
+}
+
+TEST_F(FormDesigners, AToolDrawsAControlWithTheMouse) {
+    openForm("");
+    pick("CommandButton");
+    drag(pointOn({17, 18}), {100, 45});
+    EXPECT_EQ(selected(), "Command1");
+    EXPECT_EQ(placeOf("Command1"), QRectF(16, 16, 104, 48));
+    EXPECT_EQ(valueOf("Command1", "Caption"), "Command1");
+    EXPECT_EQ(desk().toolbox().tool(), "");
+    EXPECT_EQ(shown("(Name)"), "Command1");
+    menuItem("&Edit", "&Undo")->trigger();
+    EXPECT_EQ(saved("frmMain"), original);
+}
+
+TEST_F(FormDesigners, AToolDrawsIntoTheContainerInFront) {
+    openForm(kShowcase);
+    pick("TextBox");
+    drag(pointOn(placeOf("picBox").topLeft() + QPointF(2 + 20, 2 + 20)), {48, 24});
+    EXPECT_EQ(control("picBox")->ContainedVBControls().size(), 2u);
+    EXPECT_TRUE(placeOf("picBox").contains(placeOf("Text1")));
+}
+
+TEST_F(FormDesigners, AClickWithAToolAddsTheUsualSize) {
+    openForm("");
+    pick("Timer");
+    QTest::mouseClick(&canvas(), Qt::LeftButton, {}, pointOn({40, 40}));
+    EXPECT_EQ(valueOf("Timer1", "Left"), "600");
+    pick("Label");
+    QTest::mouseClick(&canvas(), Qt::LeftButton, {}, pointOn({80, 160}));
+    EXPECT_EQ(placeOf("Label1"), QRectF(80, 160, 81, 33));
+}
+
+TEST_F(FormDesigners, ADoubleClickInTheToolboxAddsAtOnce) {
+    openSample("AddressBook");
+    design("frmPerson");
+    Q_EMIT desk().toolbox().itemActivated(desk().toolbox().findItems("QLCheckBox", Qt::MatchExactly).front());
+    EXPECT_EQ(selected(), "QLCheckBox1");
+    EXPECT_EQ(placeOf("QLCheckBox1").topLeft(), QPointF(80, 80));
+    EXPECT_EQ(view().picture().find(control("QLCheckBox1"))->look.text, "CheckBox");
+}
+
+TEST_F(FormDesigners, EscapePutsTheToolBack) {
+    openForm("");
+    pick("Frame");
+    key(Qt::Key_Escape);
+    EXPECT_EQ(desk().toolbox().tool(), "");
+    drag(pointOn({16, 16}), {100, 45});
+    EXPECT_TRUE(view().picture().controls.empty());
+}
+
+TEST_F(FormDesigners, AddInsAreToldOfWhatIsDrawn) {
+    openForm("");
+    std::vector<std::string> added;
+    const auto events =
+        bench->host().Events()->VBControlsEvents(bench->host().ActiveVBProject(), component("frmMain")->Designer());
+    const auto sink = events->ItemAdded.connect([&](auto one) { added.push_back(one->ProgId()); });
+    pick("Shape");
+    drag(pointOn({16, 16}), {100, 45});
+    EXPECT_THAT(added, ElementsAre("VB.Shape"));
+}
+
+TEST_F(FormDesigners, WhatAnAddInTakesOffAgainIsNotSelected) {
+    openForm("");
+    const auto controls = component("frmMain")->Designer()->VBControls();
+    const auto events =
+        bench->host().Events()->VBControlsEvents(bench->host().ActiveVBProject(), component("frmMain")->Designer());
+    const auto sink = events->ItemAdded.connect([&](auto one) { controls->Remove(one); });
+    pick("Shape");
+    drag(pointOn({16, 16}), {100, 45});
+    EXPECT_EQ(selected(), "");
+    EXPECT_EQ(saved("frmMain"), original);
+}
+
+/// As when a box of an add-in stands and its project is closed meanwhile.
+TEST_F(FormDesigners, AFormMayGoWhileItIsEdited) {
+    openForm(kShowcase);
+    const auto form = component("frmMain");
+    const auto events = bench->host().Events()->VBControlsEvents(bench->host().ActiveVBProject(), form->Designer());
+    const auto sink = events->ItemRemoved.connect([&](auto) {
+        form->Collection()->Remove(form);
+        settle();
+    });
+    clickOn("cmdOK");
+    key(Qt::Key_Delete);
+    settle();
+    EXPECT_EQ(window().code().count(), 0);
+}
+
 // ---- drawing ------------------------------------------------------------------------------------------------------------
 
 TEST_F(FormDesigners, DrawControlsInTheirColoursWhereTheyStand) {
@@ -650,6 +783,15 @@ TEST_F(FormDesigners, DrawControlsInTheirColoursWhereTheyStand) {
     EXPECT_EQ(at(3, 3), QColor("#d4d0c8"));       // the form
     EXPECT_EQ(at(0, 0), QColor(Qt::black));       // a dot of its grid
     EXPECT_EQ(at(8, 0), QColor(Qt::black));
+}
+
+TEST_F(FormDesigners, FontsOfPalmsAreAsLargeAsOnThem) {
+    openSample("AddressBook");
+    design("frmPerson");
+    EXPECT_EQ(view().picture().find(control("btnOK"))->look.font.pixelSize(), 12); // 12 points, 72 an inch
+    openSample("TipCalculator");
+    design("frmTip");
+    EXPECT_EQ(view().picture().find(control("lblAmount"))->look.font.pixelSize(), 11); // 8 points, 96 an inch
 }
 
 TEST_F(FormDesigners, DimWhatIsInvisible) {

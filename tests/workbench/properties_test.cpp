@@ -262,6 +262,39 @@ TEST_F(Properties, AFontIsChosenInItsDialog) {
     EXPECT_EQ(shown("Font"), "MS Sans Serif");
 }
 
+TEST_F(Properties, OfAFormAreThereBesideItsCodeToo) {
+    openForm(kInspected);
+    menuItem("&View", "&Code")->trigger();
+    EXPECT_EQ(properties().objects().currentText(), "frmMain Form");
+    Q_EMIT properties().objects().activated(2);
+    EXPECT_EQ(shown("(Name)"), "txtName");
+    type("Text", "Another");
+    EXPECT_EQ(shown("Text"), "Another");
+    EXPECT_EQ(properties().objects().currentText(), "txtName TextBox");
+}
+
+TEST_F(Properties, WhatSaysNothingAndIsUnknownIsNotTyped) {
+    openForm("   Begin VB.Menu mnuOne \n      Caption         =   \"One\"\n   End\n   Begin VB.Menu mnuTwo \n"
+             "      Caption         =   \"Two\"\n      Shortcut        =   ^T\n   End\n");
+    select("mnuOne");
+    EXPECT_FALSE(valueCell("Shortcut").flags() & Qt::ItemIsEditable);
+    select("mnuTwo");
+    EXPECT_EQ(shown("Shortcut"), "^T");
+    type("Shortcut", "{F5}");
+    EXPECT_EQ(difference(original, saved("frmMain")),
+              "-      Shortcut        =   ^T\n+      Shortcut        =   {F5}\n");
+    EXPECT_EQ(refusal("Shortcut", "F5"), "Invalid property value");
+}
+
+TEST_F(Properties, TextsOfSeveralLinesAreShownButNotTyped) {
+    folder.write("frmMain.frx", std::string("\x08One\r\nTwo", 9));
+    openForm("   Begin VB.TextBox txtLines \n      MultiLine       =   -1  'True\n"
+             "      Text            =   \"frmMain.frx\":0000\n   End\n");
+    select("txtLines");
+    EXPECT_EQ(shown("Text"), "One Two");
+    EXPECT_FALSE(valueCell("Text").flags() & Qt::ItemIsEditable);
+}
+
 // ---- refusals -----------------------------------------------------------------------------------------------------------
 
 TEST_F(Properties, WhatMakesNoSenseIsRefusedAndTheOldValueStays) {
