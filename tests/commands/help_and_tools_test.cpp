@@ -2,7 +2,12 @@
 #include "Add-in/commands/command_texts.h"
 #include "Add-in/commands/modHelpManagement.h"
 #include "Add-in/commands/modViewConvertManagement.h"
+#include "Host/system/file_system.h"
+#include "Host/system/shell.h"
 #include "commands_world.h"
+#include "tests/support/temp_folder.h"
+#include <chrono>
+#include <thread>
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -76,6 +81,46 @@ TEST_F(HelpAndTools, AViewerOfHelpThatIsMissingIsReported) {
     programs.fails = true;
     help.DisplayHelp(0);
     EXPECT_THAT(errors.seen, ElementsAre("modHelpManagement.DisplayHelp [53]"));
+}
+
+/// The programs of an installation, as scripts that tell that they ran.
+class InstalledTools : public testing::Test, protected test::CommandsWorld {
+protected:
+    InstalledTools() { registry.set(fernwick::HKEY_LOCAL_MACHINE, "Software\\Quinloft", "RootDir", root.path()); }
+    void install(const std::string& program) {
+        std::filesystem::permissions(root.write(program, "#!/bin/sh\necho ran > '" + (root / program) + ".ran'\n"),
+                                     std::filesystem::perms(0755));
+    }
+    bool ran(const std::string& program) {
+        for (int i = 0; i < 500 && root.read(program + ".ran") != "ran\n"; ++i)
+            std::this_thread::sleep_for(std::chrono::milliseconds(10));
+        return root.read(program + ".ran") == "ran\n";
+    }
+    test::TempFolder root;
+    host::FileSystem disk;
+    host::Shell starter{disk, [](const std::string&) {}};
+    fernwick::modQLInstallInfo install_{registry2, disk};
+    fernwick::modViewConvertManagement tools{starter, install_, errors};
+};
+
+TEST_F(InstalledTools, StartUnderTheirNamesWithOrWithoutTheExtension) {
+    const std::vector<std::string> programs{
+        "VB Toolkit/Bin/QLPDBC",     "VB Toolkit/Bin/QLPDBV.exe", "VB Toolkit/Bin/QLFonC",
+        "VB Toolkit/Bin/QLFonV.exe", "VB Toolkit/Bin/QLGraC",     "VB Toolkit/Bin/QLGraV.exe",
+        "VB Toolkit/Bin/QLMovC",     "VB Toolkit/Bin/QLMovV.exe", "Weirgate/WGConfig"};
+    for (int tool = 0; tool < int(programs.size()); ++tool) {
+        const auto& program = programs[std::size_t(tool)];
+        install(program);
+        EXPECT_TRUE(tools.OpenViewerConverter(tool)) << program;
+        EXPECT_TRUE(ran(program)) << program;
+    }
+    EXPECT_THAT(errors.seen, IsEmpty());
+}
+
+TEST_F(InstalledTools, OneThatIsNoProgramIsReported) {
+    root.write("VB Toolkit/Bin/QLFonC.exe", "not to be run");
+    EXPECT_FALSE(tools.OpenViewerConverter(fernwick::kFontConverter));
+    EXPECT_THAT(errors.seen, ElementsAre("modViewConvertManagement.OpenViewerConverter [53]"));
 }
 
 TEST(StringTable, KeepsWhatTheMenuDoesNotUse) {
