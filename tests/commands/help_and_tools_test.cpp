@@ -1,5 +1,6 @@
 // Help, the utilities' programs and the texts of the string table.
 #include "Add-in/commands/command_texts.h"
+#include "Add-in/commands/frmGettingStarted.h"
 #include "Add-in/commands/modHelpManagement.h"
 #include "Add-in/commands/modViewConvertManagement.h"
 #include "Host/system/file_system.h"
@@ -7,6 +8,7 @@
 #include "commands_world.h"
 #include "tests/support/temp_folder.h"
 #include <chrono>
+#include <cstdlib>
 #include <thread>
 
 using testing::ElementsAre;
@@ -121,6 +123,49 @@ TEST_F(InstalledTools, OneThatIsNoProgramIsReported) {
     root.write("VB Toolkit/Bin/QLFonC.exe", "not to be run");
     EXPECT_FALSE(tools.OpenViewerConverter(fernwick::kFontConverter));
     EXPECT_THAT(errors.seen, ElementsAre("modViewConvertManagement.OpenViewerConverter [53]"));
+}
+
+/// The help of this installation, where no desktop shows it.
+class InstalledHelp : public testing::Test, protected test::CommandsWorld {
+protected:
+    InstalledHelp() {
+        ::unsetenv("DISPLAY");
+        ::unsetenv("WAYLAND_DISPLAY");
+        registry.set(fernwick::HKEY_LOCAL_MACHINE, "Software\\Quinloft", "RootDir", root);
+    }
+    const std::string root = FERNWICK_SOURCE_DIR "/installation";
+    std::vector<std::string> told;
+    host::FileSystem disk;
+    host::Shell starter{disk, [this](const std::string& document) { told.push_back(document); }};
+    fernwick::Platform real{user,       loop,    registry, disk,  processes, classes,     environment,
+                            pasteboard, starter, screen,   clock, pictures,  platform.app};
+    fernwick::modQLInstallInfo install{registry2, disk};
+    fernwick::modHelpManagement help{real, install, errors};
+};
+
+TEST_F(InstalledHelp, HasAPageForEachGuide) {
+    EXPECT_THAT(effectsOf([&] {
+                    help.DisplayHelp(fernwick::kUsersGuideTopic);
+                    help.DisplayHelp(fernwick::kAddInGuideTopic);
+                }),
+                IsEmpty());
+    EXPECT_THAT(told, ElementsAre(root + "/VB Toolkit/doc/Quinloft_Users_Guide.html",
+                                  root + "/VB Toolkit/doc/Quinloft_AddIn_Guide.html"));
+    EXPECT_THAT(errors.seen, IsEmpty());
+}
+
+TEST_F(InstalledHelp, IsWhatTheIntroductionLeadsTo) {
+    fernwick::modAddinPrefsManagement preferences{registry2, errors};
+    fernwick::frmGettingStarted intro{real, install, preferences, errors};
+    intro.Load();
+    for (int page = 0; page < 8; ++page) intro.cmdNext.press();
+    for (int link = 0; link < 3; ++link) {
+        intro.lstLinks.ListIndex(link);
+        intro.cmdOpenLink.press();
+    }
+    intro.Unload();
+    EXPECT_THAT(told, ElementsAre(root + "/VB Toolkit/doc/Hello World Tutorial/hw_write.html",
+                                  root + "/VB Toolkit/Samples", root + "/VB Toolkit/doc/Quinloft_Users_Guide.html"));
 }
 
 TEST(StringTable, KeepsWhatTheMenuDoesNotUse) {
