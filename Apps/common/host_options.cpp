@@ -4,7 +4,10 @@ namespace apps {
 
 host::HostOptions hostOptionsOf(Machine& machine, InstalledControls& controls) {
     host::HostOptions options;
-    options.templatePath = machine.installation().empty() ? "" : machine.installation() + "/Template";
+    if (!machine.installation().empty()) {
+        options.templatePath = machine.installation() + "/Template";
+        options.templateFolders = {machine.installation() + "/VB Toolkit/Template"}; // the design targets'
+    }
     options.registry = &machine.registry();
     options.classes = &machine.classes();
     options.clipboard = &machine.clipboard();

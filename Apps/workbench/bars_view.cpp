@@ -1,8 +1,8 @@
 #include "Apps/workbench/bars_view.h"
 #include "Apps/workbench/command_icons.h"
+#include "Apps/workbench/pictures.h"
 #include "Apps/workbench/text.h"
 #include <QAction>
-#include <QBitmap>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
@@ -46,35 +46,23 @@ void setActions(QWidget& widget, const QList<QAction*>& wanted, const QList<bool
     }
 }
 
-/// The grey that stands for nothing in a face.
-const QColor kFaceGround(192, 192, 192);
-
 QIcon faceOf(const host::BarControl& control) {
-    QImage face;
-    if (!face.loadFromData(QByteArray::fromStdString(control.face()), "BMP")) return iconOf(control.Id());
-    auto picture = QPixmap::fromImage(face);
-    picture.setMask(picture.createMaskFromColor(kFaceGround.rgb()));
-    return picture;
-}
-
-void showFace(QAction& action, const host::BarControl& control) {
-    action.setIcon(faceOf(control));
-    action.setIconVisibleInMenu(control.Style() != office::msoButtonCaption);
-}
-
-Qt::ToolBarArea areaOf(int position) {
-    switch (position) {
-    case office::msoBarLeft: return Qt::LeftToolBarArea;
-    case office::msoBarRight: return Qt::RightToolBarArea;
-    case office::msoBarBottom: return Qt::BottomToolBarArea;
-    default: return Qt::TopToolBarArea;
-    }
+    QIcon icon;
+    for (const int scale : {1, 2, 3}) // each of a face's pixels in whole pixels of the screen
+        if (const auto face = pictureOf(control.face(), scale); !face.isNull()) icon.addPixmap(face);
+    return icon.isNull() ? iconOf(control.Id()) : icon;
 }
 
 } // namespace
 
 BarsView::BarsView(host::Bars& bars, QMainWindow& window, Run run)
-    : bars_(bars), window_(window), run_(std::move(run)), changed_(bars.changed.connect([this] { redraw_.start(); })) {
+    : bars_(bars),
+      window_(window),
+      run_(std::move(run)),
+      docking_(window),
+      changed_(bars.changed.connect([this] { redraw_.start(); })) {
+    constexpr int kFaceSize = 16;
+    window.setIconSize({kFaceSize, kFaceSize});
     redraw_.setSingleShot(true);
     redraw_.setInterval(0); // a menu is built by hundreds of changes
     QObject::connect(&redraw_, &QTimer::timeout, [this] { draw(); });
@@ -86,30 +74,19 @@ BarsView::~BarsView() = default;
 void BarsView::draw() {
     redraw_.stop();
     for (auto& [control, drawn] : drawn_) drawn.current = false;
-    const auto gone = std::exchange(toolBars_, {});
+    std::vector<std::shared_ptr<host::Bar>> toolBars;
     for (const auto& bar : bars_.items()) {
         const auto own = basic::cast<host::Bar>(bar).shared();
-        if (const auto known = gone.find(own.get()); known != gone.end()) toolBars_.insert(*known);
-        drawBar(*own);
+        if (bar == bars_.ActiveMenuBar()) {
+            fill(*window_.menuBar(), *own);
+            continue;
+        }
+        fill(docking_.toolBarOf(own), *own);
+        toolBars.push_back(own);
     }
-    for (const auto& [bar, toolBar] : gone)
-        if (!toolBars_.count(bar)) toolBar->deleteLater();
+    docking_.keep(toolBars);
+    docking_.place();
     dropGone();
-}
-
-void BarsView::drawBar(host::Bar& bar) {
-    if (bars_.ActiveMenuBar() == basic::Ref<office::CommandBar>(bar.shared_from_this()))
-        return fill(*window_.menuBar(), bar);
-    auto& toolBar = toolBars_[&bar];
-    if (!toolBar) {
-        toolBar = new QToolBar(qt(bar.Name()));
-        window_.addToolBar(areaOf(bar.Position()), toolBar);
-        toolBar->setObjectName(qt(bar.Name()));
-        toolBar->setIconSize({16, 16});
-    }
-    toolBar->setVisible(bar.Visible());
-    toolBar->setEnabled(bar.Enabled());
-    fill(*toolBar, bar);
 }
 
 void BarsView::fill(QWidget& widget, const host::Bar& bar) {
@@ -130,20 +107,40 @@ QAction* BarsView::actionOf(const std::shared_ptr<host::BarControl>& control) {
     const auto caption = qt(control->Caption());
     action->setText(caption);
     action->setToolTip(control->ToolTipText().empty() ? withoutMnemonic(caption) : qt(control->ToolTipText()));
-    if (drawn.button) showFace(*action, *control);
-    action->setEnabled(control->Enabled());
+    if (drawn.button) showButton(drawn, *control);
+    action->setEnabled(control->Enabled() && control->Parent()->Enabled());
     action->setVisible(control->Visible() && (!drawn.popup || showsAnything(*control->popup())));
     if (drawn.popup) fill(*drawn.popup, *control->popup());
     return action;
 }
 
-void BarsView::make(Drawn& drawn, const std::shared_ptr<host::BarControl>& control) {
-    if (control->popup()) {
-        drawn.popup = std::make_unique<QMenu>();
-        drawn.popup->setToolTipsVisible(true);
-        return;
+void BarsView::showButton(Drawn& drawn, const host::BarControl& control) {
+    auto& action = *drawn.button;
+    if (drawn.face != control.face()) {
+        drawn.face = control.face();
+        action.setIcon(faceOf(control));
     }
-    makeButton(drawn, control);
+    action.setIconVisibleInMenu(control.Style() != office::msoButtonCaption);
+    action.setCheckable(control.checked().has_value());
+    action.setChecked(control.checked().value_or(false));
+}
+
+void BarsView::make(Drawn& drawn, const std::shared_ptr<host::BarControl>& control) {
+    if (control->popup())
+        makePopup(drawn, control);
+    else
+        makeButton(drawn, control);
+}
+
+void BarsView::makePopup(Drawn& drawn, const std::shared_ptr<host::BarControl>& control) {
+    drawn.popup = std::make_unique<QMenu>();
+    drawn.popup->setToolTipsVisible(true);
+    QObject::connect(drawn.popup.get(), &QMenu::aboutToShow, [this, link = std::weak_ptr(control)] {
+        const auto popup = link.lock();
+        if (!popup || !popup->beforeShow) return;
+        run_(popup->beforeShow);
+        draw();
+    });
 }
 
 void BarsView::makeButton(Drawn& drawn, const std::shared_ptr<host::BarControl>& control) {
@@ -155,6 +152,7 @@ void BarsView::makeButton(Drawn& drawn, const std::shared_ptr<host::BarControl>&
     if (!isInToolbar) drawn.button->setShortcut(shortcutOf(control->Id()));
     QObject::connect(drawn.button.get(), &QAction::triggered, [this, link = std::weak_ptr(control)] {
         if (const auto clicked = link.lock()) run_([&] { clicked->Execute(); });
+        redraw_.start(); // Qt has turned a switch over, whatever came of it
     });
 }
 

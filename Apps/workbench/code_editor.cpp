@@ -1,8 +1,10 @@
 #include "Apps/workbench/code_editor.h"
+#include "Apps/workbench/code_input.h"
+#include "Apps/workbench/code_texts.h"
 #include "Apps/workbench/procedure_list.h"
-#include "Apps/workbench/scintilla.h"
 #include "Apps/workbench/text.h"
 #include "Apps/workbench/vb_lexer.h"
+#include "Host/model/component.h"
 #include <QBoxLayout>
 #include <QComboBox>
 #include <QSignalBlocker>
@@ -25,7 +27,7 @@ CodeEditor::CodeEditor(vbide::Ref<vbide::VBComponent> component, Refused refused
       refused_(std::move(refused)),
       objects_(new QComboBox),
       procedures_(new QComboBox),
-      text_(new QsciScintilla),
+      text_(new CodeInput([this](const QString& inserted) { return accepts(inserted); })),
       lexer_(new VbLexer(this)) {
     objects_->setObjectName("objects");
     procedures_->setObjectName("procedures");
@@ -99,25 +101,43 @@ void CodeEditor::load() {
     loading_ = false;
 }
 
+/// Tells, when the loop turns, of the first character that the file has no byte for.
+bool CodeEditor::accepts(const QString& inserted) {
+    const auto own = basic::cast<host::Component>(component_);
+    if (!own) return true;
+    const auto& page = own->source().codePage();
+    if (page.tryEncode(text(inserted))) return true;
+    QString missing;
+    for (const auto code : inserted.toUcs4()) {
+        const auto letter = static_cast<char32_t>(code);
+        missing = QString::fromUcs4(&letter, 1);
+        if (!page.tryEncode(text(missing))) break;
+    }
+    QTimer::singleShot(0, this, [this, why = text(QString(code_texts::kMissingCharacter).arg(missing))] {
+        refused_(std::make_exception_ptr(basic::RuntimeError(basic::kInvalidProcedureCall, why)));
+    });
+    return false;
+}
+
 void CodeEditor::edited(int position, int linesAdded) {
     const int first = int(text_->SendScintilla(QsciScintillaBase::SCI_LINEFROMPOSITION, position));
     const bool atStart = int(text_->SendScintilla(QsciScintillaBase::SCI_POSITIONFROMLINE, first)) == position;
     passing_ = true;
     try {
-        passOn(*module_.shared(), {first, linesAdded, atStart}, [this](int line) {
-            auto shown = text_->text(line);
-            while (shown.endsWith('\n') || shown.endsWith('\r')) shown.chop(1);
-            return text(shown);
-        });
-    } catch (...) {
-        // not from within the change that the editor tells of
-        QTimer::singleShot(0, this, [this, error = std::current_exception()] {
-            load();
-            refused_(error);
-        });
-    }
+        passOn(*module_.shared(), {first, linesAdded, atStart}, [this](int line) { return text(lineText(line)); });
+    } catch (...) { refuse(std::current_exception()); }
     passing_ = false;
     rest_.start();
+}
+
+/// Not from within the change that the editor tells of, and once where many fail together.
+void CodeEditor::refuse(std::exception_ptr error) {
+    if (std::exchange(refusing_, true)) return;
+    QTimer::singleShot(0, this, [this, error] {
+        refusing_ = false;
+        load();
+        refused_(error);
+    });
 }
 
 void CodeEditor::codeChanged() {
@@ -131,7 +151,7 @@ void CodeEditor::showSelection() {
     module_->CodePane()->GetSelection(startLine, startColumn, endLine, endColumn);
     const auto within = [this](int line, int column) {
         const int index = std::clamp(line - 1, 0, text_->lines() - 1);
-        return std::pair(index, std::clamp(column - 1, 0, int(text_->text(index).remove('\n').size())));
+        return std::pair(index, std::clamp(column - 1, 0, int(lineText(index).size())));
     };
     const auto [fromLine, fromColumn] = within(startLine, startColumn);
     const auto [toLine, toColumn] = within(endLine, endColumn);
@@ -144,6 +164,58 @@ void CodeEditor::mark(const std::vector<LineMark>& marks) {
     text_->clearAnnotations();
     for (const auto& mark : marks) text_->markerAdd(mark.line - 1, mark.isError ? kErrorMark : kWarningMark);
 }
+
+// ---- parts of lines ---------------------------------------------------------------------------------------------------
+
+QString CodeEditor::lineText(int line) const {
+    auto shown = text_->text(line);
+    while (shown.endsWith('\n') || shown.endsWith('\r')) shown.chop(1);
+    return shown;
+}
+
+CodePlace CodeEditor::place() const {
+    int line = 0, column = 0, lastLine = 0, lastColumn = 0;
+    text_->getSelection(&line, &column, &lastLine, &lastColumn);
+    if (line < 0) {
+        text_->getCursorPosition(&line, &column);
+        return {component_, line, column, 0};
+    }
+    const int end = lastLine == line ? lastColumn : int(lineText(line).size());
+    return {component_, line, column, end - column};
+}
+
+void CodeEditor::select(const CodePlace& place) {
+    const int line = std::clamp(place.line, 0, text_->lines() - 1), end = int(lineText(line).size());
+    const int column = std::clamp(place.column, 0, end);
+    text_->setSelection(line, column, line, std::min(column + place.length, end));
+    text_->ensureLineVisible(line);
+}
+
+QString CodeEditor::selectedPart() const {
+    const auto selected = text_->selectedText();
+    return selected.contains('\n') ? QString() : selected;
+}
+
+bool CodeEditor::replace(const std::vector<CodePlace>& places, const QString& with) {
+    if (!accepts(with)) return false;
+    text_->beginUndoAction();
+    // from the end, so that what is not yet replaced stays in its place
+    for (auto at = places.rbegin(); at != places.rend();) {
+        const int line = at->line;
+        auto now = lineText(line);
+        const auto length = now.toUtf8().size();
+        for (; at != places.rend() && at->line == line; ++at) now.replace(at->column, at->length, with);
+        const auto start = text_->SendScintilla(QsciScintillaBase::SCI_POSITIONFROMLINE, line);
+        text_->SendScintilla(QsciScintillaBase::SCI_SETTARGETSTART, start);
+        text_->SendScintilla(QsciScintillaBase::SCI_SETTARGETEND, start + long(length));
+        const auto bytes = now.toUtf8();
+        text_->SendScintilla(QsciScintillaBase::SCI_REPLACETARGET, std::size_t(bytes.size()), bytes.constData());
+    }
+    text_->endUndoAction();
+    return !refusing_;
+}
+
+// ---- procedures -------------------------------------------------------------------------------------------------------
 
 void CodeEditor::listProcedures() {
     members_ = module_->Members();
@@ -160,6 +232,17 @@ void CodeEditor::showProcedure() {
     objects_->setCurrentText(within ? objectOf(*within, *objects_) : generalObject());
     showProcedureNames(*procedures_, members_, *objects_);
     procedures_->setCurrentIndex(within ? procedures_->findData(within->CodeLocation) : 0);
+}
+
+void CodeEditor::goToProcedure(bool before) {
+    const int line = place().line + 1;
+    int nearest = 0;
+    for (const auto& member : module_->Members()) {
+        const int at = member.CodeLocation;
+        const bool further = before ? at < line && at > nearest : at > line && (nearest == 0 || at < nearest);
+        if (isProcedure(member) && further) nearest = at;
+    }
+    if (nearest > 0) goToLine(nearest);
 }
 
 void CodeEditor::goToLine(int line) {

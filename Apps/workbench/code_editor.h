@@ -1,6 +1,7 @@
 #pragma once
 // The code window of one component.
 #include "Add-in/platform/host_project.h"
+#include "Apps/workbench/code_finder.h"
 #include "Apps/workbench/code_text.h"
 #include "Apps/workbench/theme.h"
 #include <QTimer>
@@ -26,7 +27,8 @@ struct LineMark {
 /// dirty marks, savings and the add-in see it at once.
 class CodeEditor final : public QWidget {
 public:
-    /// Told of an edit that the host refused; the text is then the host's again.
+    /// Told of an edit that the host refuses. A character that the file can't hold never comes into the text; after
+    /// any other refusal the text is the host's again.
     using Refused = std::function<void(std::exception_ptr)>;
 
     CodeEditor(vbide::Ref<vbide::VBComponent> component, Refused refused);
@@ -40,13 +42,31 @@ public:
     void mark(const std::vector<LineMark>& marks);
     void colour(Theme theme);
 
+    /// The selection's part in its first line, or where the cursor stands.
+    CodePlace place() const;
+    /// Selects a part of a line and brings it into view; what is beyond the text's end is cut off.
+    void select(const CodePlace& place);
+    /// "" where nothing or more than a part of one line is selected.
+    QString selectedPart() const;
+    /// A line (from 0) without its end.
+    QString lineText(int line) const;
+    /// Puts `with` in each of these places, which stand in the code's order; one step to undo. False when the host
+    /// refused any of it.
+    bool replace(const std::vector<CodePlace>& places, const QString& with);
+
+    /// To a line, from 1, which comes to stand at the top.
+    void goToLine(int line);
+    /// To the procedure behind the one in which the cursor stands, or before it; nowhere when there is none.
+    void goToProcedure(bool before);
+
 private:
     void prepareText();
     void load();
+    bool accepts(const QString& inserted);
     void edited(int position, int linesAdded);
+    void refuse(std::exception_ptr error);
     void listProcedures();
     void showProcedure();
-    void goToLine(int line);
 
     vbide::Ref<vbide::VBComponent> component_;
     vbide::Ref<vbide::CodeModule> module_;
@@ -55,7 +75,7 @@ private:
     QComboBox* procedures_;
     QsciScintilla* text_;
     VbLexer* lexer_;
-    bool passing_ = false, loading_ = false;
+    bool passing_ = false, loading_ = false, refusing_ = false;
     std::vector<vbide::Member> members_;
     /// Procedures are looked for when the user rests.
     QTimer rest_;

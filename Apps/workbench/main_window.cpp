@@ -10,7 +10,8 @@ namespace workbench {
 
 namespace {
 
-constexpr auto kGeometryKey = "window/geometry", kStateKey = "window/state", kThemeKey = "window/theme";
+constexpr auto kGeometryKey = "window/geometry", kStateKey = "window/state", kThemeKey = "window/theme", kDark = "dark",
+               kLight = "light";
 /// Counts up when docks and toolbars change so much that an old arrangement makes no sense.
 constexpr int kLayoutVersion = 1;
 constexpr int kUsualWidth = 1100, kUsualHeight = 720, kUsualExplorerWidth = 270;
@@ -24,25 +25,25 @@ MainWindow::MainWindow(host::Host& host, BarsView::Run run, MayClose mayClose)
       code_(new CodeWindows(host, [this](std::exception_ptr error) { run_([&] { std::rethrow_exception(error); }); })),
       explorer_(new ProjectExplorer(host.shared_from_this(),
                                     {[this](auto project) { run_([&] { host_.ActiveVBProject(project); }); },
-                                     [this](auto component) {
-                                         run_([&] {
-                                             component->Activate();
-                                             component->CodeModule()->CodePane()->Show();
-                                         });
-                                     },
+                                     [this](auto component) { design_->open(component); },
                                      [this] { code_->refreshSoon(); }})),
       explorerDock_(addDock("explorerDock", "Project", explorer_, Qt::RightDockWidgetArea)),
+      design_(new DesignDesk(host, *code_, *explorer_, run_)),
+      propertiesDock_(addDock("propertiesDock", "Properties", &design_->properties(), Qt::RightDockWidgetArea)),
       bars_(host.bars(), *this, run_) {
     setObjectName("workbench");
     setCentralWidget(code_);
+    code_->setFocus(); // where work begins; the command of a dock would hide the one that has the keys
     resize(kUsualWidth, kUsualHeight);
     resizeDocks({explorerDock_}, {kUsualExplorerWidth}, Qt::Horizontal);
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
+    setAnimated(false); // a toolbar stands where the user lets go of it, and its model says so at once
     titleSoon_.setSingleShot(true);
     titleSoon_.setInterval(0);
     connect(&titleSoon_, &QTimer::timeout, this, [this] { showTitle(); });
 
     const auto soon = [this](const auto&...) { titleSoon_.start(); };
+    watches_.push_back(host.Events()->VBProjectsEvents()->ItemAdded.connect(soon));
     watches_.push_back(host.Events()->VBProjectsEvents()->ItemActivated.connect(soon));
     watches_.push_back(host.Events()->VBProjectsEvents()->ItemRemoved.connect(soon));
     watches_.push_back(host.Events()->VBProjectsEvents()->ItemRenamed.connect(soon));
@@ -61,7 +62,8 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     bool closes = false;
     run_([&] { closes = mayClose_(); });
     if (!closes) return event->ignore();
-    saveLayout();
+    saveLayout(); // before projects and add-ins take theirs down
+    run_([this] { host_.close(); });
     event->accept();
 }
 
@@ -72,6 +74,8 @@ QDockWidget* MainWindow::addDock(const QString& name, const QString& title, QWid
     dock->setObjectName(name);
     dock->setWidget(widget);
     addDockWidget(area, dock);
+    allDocks_.push_back(dock);
+    dockAdded(*dock);
     return dock;
 }
 
@@ -86,10 +90,12 @@ void MainWindow::drawToolWindow(const std::shared_ptr<host::ToolWindow>& window)
     const auto title = qt(window->Caption());
     auto* const view = new MessagesView(messages, run_);
     view->drawn = [this, messages] { markMessages(*messages.shared()); };
+    addActions(view->walk());
     auto* dock = findChild<QDockWidget*>(title);
-    if (dock)
-        dock->setWidget(view); // the add-in was connected anew
-    else
+    if (dock) { // the add-in was connected anew
+        delete dock->widget();
+        dock->setWidget(view);
+    } else
         dock = addDock(title, title, view, Qt::BottomDockWidgetArea);
     docks_[window] = dock;
     follow(*window, *dock);
@@ -112,7 +118,7 @@ void MainWindow::markMessages(const fernwick::udocCompileMsgs& messages) {
         const auto& shown = messages.message(row);
         if (shown.cells[Document::LineColumn].empty()) continue;
         marks[shown.cells[Document::TitleColumn]].push_back({basic::CLng(shown.cells[Document::LineColumn]),
-                                                             shown.picture == fernwick::ERROR_MSG,
+                                                             shown.type == fernwick::ERROR_MSG,
                                                              shown.cells[Document::MessageColumn]});
     }
     code_->mark(std::move(marks));
@@ -122,21 +128,29 @@ void MainWindow::markMessages(const fernwick::udocCompileMsgs& messages) {
 
 void MainWindow::restoreLayout() {
     const QSettings settings;
-    if (settings.contains(kThemeKey)) setTheme(settings.value(kThemeKey) == "dark" ? Theme::Dark : Theme::Light);
+    if (settings.contains(kThemeKey)) showTheme(settings.value(kThemeKey) == kDark ? Theme::Dark : Theme::Light);
     restoreGeometry(settings.value(kGeometryKey).toByteArray());
     restoreState(settings.value(kStateKey).toByteArray(), kLayoutVersion);
     for (const auto& [window, dock] : docks_)
         if (dock) dock->setVisible(window->Visible()); // the project says whether its messages show
+    ownBars_ = host_.bars().items();
+    for (const auto& bar : ownBars_) restorePlace(*basic::cast<host::Bar>(bar).shared());
+    bars_.placeToolBars();
 }
 
 void MainWindow::saveLayout() const {
     QSettings settings;
     settings.setValue(kGeometryKey, saveGeometry());
     settings.setValue(kStateKey, saveState(kLayoutVersion));
-    settings.setValue(kThemeKey, currentTheme() == Theme::Dark ? "dark" : "light");
+    for (const auto& bar : ownBars_) storePlace(*basic::cast<host::Bar>(bar).shared());
 }
 
 void MainWindow::setTheme(Theme theme) {
+    QSettings().setValue(kThemeKey, theme == Theme::Dark ? kDark : kLight);
+    showTheme(theme);
+}
+
+void MainWindow::showTheme(Theme theme) {
     apply(theme);
     code_->colour(theme);
 }

@@ -1,5 +1,6 @@
 #include "Apps/workbench/pictures.h"
 #include "Apps/workbench/text.h"
+#include <QBitmap>
 #include <QStyle>
 #include <array>
 
@@ -19,6 +20,9 @@ constexpr std::array kPictures{
     Picture{"devices", QStyle::SP_ComputerIcon},
 };
 
+/// The grey that stands for nothing in a picture of the installation.
+const QColor kPictureGround(192, 192, 192);
+
 } // namespace
 
 QPixmap pictureNamed(const std::string& name, const QWidget& window) {
@@ -28,6 +32,15 @@ QPixmap pictureNamed(const std::string& name, const QWidget& window) {
             return window.style()->standardIcon(picture.drawn, nullptr, &window).pixmap(size);
         }
     return QPixmap(qt(name));
+}
+
+QPixmap pictureOf(const std::string& bmp, int scale) {
+    QImage image;
+    if (!image.loadFromData(QByteArray::fromStdString(bmp), "BMP")) return {};
+    auto picture = QPixmap::fromImage(image.scaled(image.size() * scale));
+    picture.setMask(picture.createMaskFromColor(kPictureGround.rgb()));
+    picture.setDevicePixelRatio(scale);
+    return picture;
 }
 
 } // namespace workbench

@@ -9,4 +9,8 @@ namespace workbench {
 /// that is not known and for a file that is no picture.
 QPixmap pictureNamed(const std::string& name, const QWidget& window);
 
+/// A BMP file's bytes, with the grey that stands for nothing in the installation's pictures see-through; an empty one for
+/// what is no picture. `scale` is a screen's device pixel ratio.
+QPixmap pictureOf(const std::string& bmp, int scale = 1);
+
 } // namespace workbench

@@ -1,5 +1,7 @@
 #include "Apps/workbench/project_explorer.h"
+#include "Apps/workbench/letter_icons.h"
 #include "Apps/workbench/text.h"
+#include <QStyle>
 #include <algorithm>
 #include <array>
 
@@ -45,12 +47,13 @@ QString entryText(const std::string& name, const std::string& path, bool dirty) 
 ProjectExplorer::ProjectExplorer(vbide::Ref<vbide::VBE> host, Wishes wishes)
     : host_(std::move(host)), wishes_(std::move(wishes)) {
     setObjectName("explorer");
+    setAccessibleName("Project explorer");
     setHeaderHidden(true);
     setUniformRowHeights(true);
     redraw_.setSingleShot(true);
     redraw_.setInterval(0); // a project comes as hundreds of events
     connect(&redraw_, &QTimer::timeout, this, [this] { draw(); });
-    connect(this, &QTreeWidget::itemActivated, this, [this](QTreeWidgetItem* item) { open(item); });
+    connect(this, &QTreeWidget::itemActivated, this, [this] { openCurrent(); });
     watchProjects();
     draw();
 }
@@ -99,13 +102,18 @@ void ProjectExplorer::addEntries() {
     for (std::size_t i = 0; i < projects_.size(); ++i) {
         auto* const top = new QTreeWidgetItem(this);
         top->setData(kNameColumn, kProjectNumber, qulonglong(i + 1));
+        top->setIcon(kNameColumn, projectIcon());
         std::array<QTreeWidgetItem*, kGroups.size()> groups{};
-        for (std::size_t g = 0; g < kGroups.size(); ++g) groups[g] = new QTreeWidgetItem(top, {kGroups[g].name});
+        for (std::size_t g = 0; g < kGroups.size(); ++g) {
+            groups[g] = new QTreeWidgetItem(top, {kGroups[g].name});
+            groups[g]->setIcon(kNameColumn, style()->standardIcon(QStyle::SP_DirIcon));
+        }
         for (const auto last = component + std::size_t(projects_[i]->VBComponents()->Count()); component < last;) {
             const auto group = groupOf(components_[component++]->Type());
             if (group == kGroups.size()) continue;
             auto* const entry = new QTreeWidgetItem(groups[group]);
             entry->setData(kNameColumn, kComponentNumber, qulonglong(component));
+            entry->setIcon(kNameColumn, componentIcon(components_[component - 1]->Type()));
         }
         for (auto* group : groups)
             if (group->childCount() == 0) delete group;
@@ -131,11 +139,21 @@ void ProjectExplorer::showTexts() {
             topLevelItem(i)->child(group)->sortChildren(kNameColumn, Qt::AscendingOrder);
 }
 
-void ProjectExplorer::open(QTreeWidgetItem* item) {
-    if (const auto number = item->data(kNameColumn, kProjectNumber).toULongLong())
-        return wishes_.activateProject(projects_[number - 1]);
-    if (const auto number = item->data(kNameColumn, kComponentNumber).toULongLong())
-        wishes_.openCode(components_[number - 1]);
+vbide::Ref<vbide::VBProject> ProjectExplorer::currentProject() const {
+    const auto* item = currentItem();
+    const auto number = item ? item->data(kNameColumn, kProjectNumber).toULongLong() : 0;
+    return number ? projects_[number - 1] : nullptr;
+}
+
+vbide::Ref<vbide::VBComponent> ProjectExplorer::currentComponent() const {
+    const auto* item = currentItem();
+    const auto number = item ? item->data(kNameColumn, kComponentNumber).toULongLong() : 0;
+    return number ? components_[number - 1] : nullptr;
+}
+
+void ProjectExplorer::openCurrent() {
+    if (const auto project = currentProject()) return wishes_.activateProject(project);
+    if (const auto component = currentComponent()) wishes_.openCode(component);
 }
 
 } // namespace workbench

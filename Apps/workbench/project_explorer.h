@@ -22,6 +22,9 @@ public:
 
     /// The components that are drawn may be others, or dirty; drawn when Qt's loop turns.
     void refreshSoon() { redraw_.start(); }
+    /// What the chosen entry stands for; Nothing for another kind of entry.
+    vbide::Ref<vbide::VBProject> currentProject() const;
+    vbide::Ref<vbide::VBComponent> currentComponent() const;
 
 private:
     void watchProjects();
@@ -29,7 +32,7 @@ private:
     void draw();
     void addEntries();
     void showTexts();
-    void open(QTreeWidgetItem* item);
+    void openCurrent();
 
     vbide::Ref<vbide::VBE> host_;
     Wishes wishes_;

@@ -1,9 +1,12 @@
 #include "Apps/workbench/workbench.h"
 #include "Apps/common/compile_steps.h"
 #include "Apps/common/trusted_folders.h"
+#include "Apps/workbench/explorer_menu.h"
+#include "Apps/workbench/new_project.h"
 #include "Apps/workbench/project_saving.h"
 #include "Apps/workbench/text.h"
 #include "Apps/workbench/window_commands.h"
+#include "Host/model/projects.h"
 #include <QApplication>
 #include <QFileDialog>
 #include <QMessageBox>
@@ -16,6 +19,10 @@ constexpr auto kTitle = "Fernwick Workbench";
 constexpr auto kNoFernwickProject =
     "%1 is not a Fernwick project: its section [Quinloft Global] has no line IsQuinloftProject=True. Make one from the "
     "template \"Fernwick Project\", or add that section with ProjectVersion=3.5.";
+
+constexpr auto kAboutTitle = "About Fernwick Workbench";
+constexpr auto kAbout = "<b>Fernwick Workbench %1</b><p>Turns Visual Basic 6 projects into applications for handhelds."
+                        "<p>With Qt %2.";
 
 } // namespace
 
@@ -36,18 +43,10 @@ Workbench::Workbench()
     window_ = std::make_unique<MainWindow>(
         *host_, [this](const auto& act) { run(act); }, [this] { return mayClose(); });
     user_.mainWindow = window_.get();
-    addWindowCommands(*host_, *window_,
-                      {[this] { compileActive(); },
-                       [this] {
-                           if (const auto active = host_->ActiveVBProject())
-                               saveWithNames(*host_, active, window_.get());
-                       },
-                       [this] {
-                           const auto active = host_->ActiveVBProject();
-                           if (active && mayBeClosed(*host_, active, window_.get()))
-                               host_->VBProjects()->Remove(active);
-                       }});
+    addWindowCommands(*host_, *window_, deeds());
+    addExplorerMenu(*host_, *window_);
     recent_ = std::make_unique<RecentProjects>(*host_, recentMenu(*host_), [this](const auto& path) { open(path); });
+    unsaved_ = std::make_unique<UnsavedWork>(*host_, *window_, [this](const auto& path) { open(path); });
     problemsSoon_.setSingleShot(true);
     problemsSoon_.setInterval(0);
     QObject::connect(&problemsSoon_, &QTimer::timeout, [this] { tellProblems(); });
@@ -59,6 +58,7 @@ Workbench::Workbench()
 Workbench::~Workbench() {
     (void)basic::attempt([this] { host_->close(); });
     recent_.reset();
+    unsaved_.reset();
     window_.reset();
     // a host keeps its retired add-ins, and this one would keep the host
     modules_->addIn.gVBInstance = nullptr;
@@ -71,8 +71,37 @@ host::HostOptions Workbench::hostOptions() {
             window_.get(), kTitle,
             QString("%1 (error %2 of %3)").arg(qt(error.Description)).arg(error.Number).arg(qt(error.Source)));
     };
+    options.mayReplaceChanged = mayReplaceChanged;
     options.askForProject = [this] { return askForProject(); };
     return options;
+}
+
+WindowDeeds Workbench::deeds() {
+    WindowDeeds deeds;
+    deeds.newProject = [this] { newProject(); };
+    deeds.saveProject = [this] {
+        if (const auto active = host_->ActiveVBProject()) saveWithNames(*host_, active, window_.get());
+    };
+    deeds.removeProject = [this] {
+        const auto active = host_->ActiveVBProject();
+        if (active && mayBeClosed(*host_, {active}, window_.get())) host_->VBProjects()->Remove(active);
+    };
+    deeds.start = [this] { startActive(); };
+    deeds.help = [this] { modules_->help.DisplayHelp(fernwick::kUsersGuideTopic); };
+    deeds.about = [this] {
+        QMessageBox::about(window_.get(), kAboutTitle,
+                           QString(kAbout).arg(QApplication::applicationVersion(), qVersion()));
+    };
+    return deeds;
+}
+
+void Workbench::newProject() {
+    const auto kind = askForProjectKind(host_->TemplatePath(), window_.get());
+    if (!kind) return;
+    if (kind->path.empty())
+        host_->projects().addNew();
+    else
+        host_->VBProjects()->AddFromTemplate(kind->path);
 }
 
 void Workbench::open(const std::string& path) {
@@ -84,6 +113,7 @@ void Workbench::connect() {
         host_->connectAddIn(apps::kAddInProgId, vbide::vbext_cm_Startup);
         host_->startupComplete();
     });
+    unsaved_->started();
 }
 
 void Workbench::run(const std::function<void()>& act) {
@@ -122,7 +152,7 @@ std::string Workbench::askForProject() {
                                              "Projects (*.vbp *.vbg *.VBP *.VBG);;All files (*)"));
 }
 
-void Workbench::compileActive() {
+void Workbench::startActive() {
     const auto active = host_->ActiveVBProject();
     if (!active) return;
     const auto project = modules_->projects.GetQLProject(active);
@@ -130,8 +160,16 @@ void Workbench::compileActive() {
         QMessageBox::information(window_.get(), kTitle, QString(kNoFernwickProject).arg(qt(active->Name())));
         return;
     }
-    if (modules_->compile.CompileProject(active)) modules_->validate.ValidateProject(active, project->TargetDevice());
-    modules_->messages.ShowProjectCompileErrors(active, true);
+    if (compiled(active)) modules_->sendToDevice.SendProjectToDevice(project, false, project->TargetDevice());
+}
+
+/// The messages come up when something is wrong with it.
+bool Workbench::compiled(const vbide::Ref<vbide::VBProject>& project) {
+    const bool good =
+        modules_->compile.CompileProject(project) &&
+        modules_->validate.ValidateProject(project, modules_->projects.GetQLProject(project)->TargetDevice());
+    if (!good) modules_->messages.ShowProjectCompileErrors(project, true);
+    return good;
 }
 
 bool Workbench::mayRunSteps(const std::string& commandLine, const std::string& folder) {
@@ -154,10 +192,6 @@ bool Workbench::mayRunSteps(const std::string& commandLine, const std::string& f
     return true;
 }
 
-bool Workbench::mayClose() {
-    for (const auto& project : host_->VBProjects()->items())
-        if (!mayBeClosed(*host_, project, window_.get())) return false;
-    return true;
-}
+bool Workbench::mayClose() { return mayBeClosed(*host_, host_->VBProjects()->items(), window_.get()); }
 
 } // namespace workbench

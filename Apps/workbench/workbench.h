@@ -7,6 +7,8 @@
 #include "Apps/workbench/qt_loop.h"
 #include "Apps/workbench/qt_user.h"
 #include "Apps/workbench/recent_projects.h"
+#include "Apps/workbench/unsaved_work.h"
+#include "Apps/workbench/window_commands.h"
 
 namespace workbench {
 
@@ -31,7 +33,10 @@ private:
     void run(const std::function<void()>& act);
     void tell(std::exception_ptr error);
     void tellProblems();
-    void compileActive();
+    WindowDeeds deeds();
+    void newProject();
+    void startActive();
+    bool compiled(const vbide::Ref<vbide::VBProject>& project);
     bool mayRunSteps(const std::string& commandLine, const std::string& folder);
     bool mayClose();
     std::string askForProject();
@@ -46,6 +51,7 @@ private:
     std::shared_ptr<host::Host> host_;
     std::unique_ptr<MainWindow> window_;
     std::unique_ptr<RecentProjects> recent_;
+    std::unique_ptr<UnsavedWork> unsaved_;
     QTimer problemsSoon_;
     fernwick::Subscription projectAdded_;
 };

@@ -138,6 +138,10 @@ void BarControl::Visible(bool visible) {
     tell();
 }
 
+void BarControl::checked(bool on) {
+    if (std::exchange(checked_, on) != on) tell();
+}
+
 void BarControl::checkButton() const {
     check();
     if (popup_) throw hostError(basic::kPropertyOrMethodNotSupported);

@@ -5,6 +5,7 @@
 #include "Add-in/platform/host_events.h"
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -44,6 +45,11 @@ public:
     // ---- for the host ----
     /// What the host itself does at a click, unless a handler cancels it.
     std::function<void()> action;
+    /// A front end calls it before the popup comes up, so that it can be filled with what is there now.
+    std::function<void()> beforeShow;
+    /// Whether what the button stands for is on; nothing for a button that is no switch.
+    std::optional<bool> checked() const { return checked_; }
+    void checked(bool on);
     /// Told of what a handler of the click lets out.
     std::function<void(const basic::ErrObject&)> handlerFailed;
     /// The picture on a button as a BMP file's bytes; "" for none.
@@ -64,6 +70,7 @@ private:
     std::string caption_, tag_, toolTip_, face_;
     office::MsoButtonStyle style_ = office::msoButtonAutomatic;
     bool beginGroup_ = false, enabled_ = true, visible_ = true, removed_ = false;
+    std::optional<bool> checked_;
     office::Ref<vbide::CommandBarEvents> events_ = basic::make<vbide::CommandBarEvents>();
 };
 

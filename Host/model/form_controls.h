@@ -48,6 +48,9 @@ public:
     basic::Ref<vbide::VBControls> VBControls() const override;
     std::vector<basic::Ref<vbide::VBControl>> ContainedVBControls() const override;
 
+    /// Error 440 when the form is gone.
+    std::shared_ptr<DesignerState> state() const { return liveDesigner(state_); }
+
 private:
     std::weak_ptr<DesignerState> state_;
 };

@@ -22,6 +22,7 @@ class EndToEnd : public testing::Test {
 protected:
     EndToEnd() {
         targets.known = {"Palm-1"};
+        installTemplates();
         store("SOFTWARE\\Quinloft\\AddinPrefs", "StartTutorial", "False");
         host.ide->listAddIn(kProgId, "Fernwick", [this] { return fernwick::asAddIn(modules); });
     }
@@ -101,7 +102,6 @@ TEST_F(EndToEnd, AProjectCompiles) {
 }
 
 TEST_F(EndToEnd, AProjectIsValidatedForItsDevice) {
-    installTemplates();
     const auto project = connected(hello());
     user.expectForm("frmValidate");
     EXPECT_TRUE(modules->validate.ValidateProject(project, "Palm-1"));
@@ -109,7 +109,6 @@ TEST_F(EndToEnd, AProjectIsValidatedForItsDevice) {
 }
 
 TEST_F(EndToEnd, AMissingLibraryFailsTheValidation) {
-    installTemplates();
     const auto gone = "Reference=*\\G{00000000-1111-2222-3333-444444444444}#1.0#0#/gone/Gone.dll#Gone";
     const auto project = connected(hello().member(gone));
     user.expectForm("frmValidate");
@@ -144,7 +143,6 @@ TEST_F(EndToEnd, TheMessagesComeBackWithTheProject) {
 }
 
 TEST_F(EndToEnd, AProjectIsCompiledAndSentAndTheNextTimeOnlySent) {
-    installTemplates();
     const auto project = connected(hello());
     compiler->work = [&](test::FakeCompiler&) { host.folder.write("Hello.0000.qlx", "image"); };
     test::FakePipeFamily family{trace, classes};
@@ -170,6 +168,9 @@ TEST_F(EndToEnd, AReadOnlyProjectStaysAsItIs) {
     user.expectBox("Hello is ReadOnly, compile errors will not be saved.", fernwick::vbOK, fernwick::vbInformation);
     user.expectForm("frmCompile");
     EXPECT_TRUE(modules->compile.CompileProject(project));
+    user.expectBox("File '" + path + "' is read-only.", fernwick::vbOK, fernwick::vbExclamation,
+                   "ERROR: Cannot save file!");
+    host.ide->close();
     EXPECT_EQ(host.folder.read("Hello.vbp"), before);
 }
 
@@ -185,12 +186,6 @@ TEST_F(EndToEnd, WithoutTargetsTheProjectIsRemovedAndItsFileUntouched) {
 }
 
 TEST_F(EndToEnd, TheOnlyTargetIsTakenWithoutAsking) {
-    const auto noFolder = [](const std::string& whose) {
-        return "Cannot determine the location of the " + whose +
-               " template directory. The path determined was invalid.";
-    };
-    user.expectBox(noFolder("VB")); // nothing is installed here
-    user.expectBox(noFolder("Fernwick"));
     test::SampleProject sample;
     const auto project = connected(sample.module("Module1", "Sub Main()\r\nEnd Sub\r\n").handheld());
     EXPECT_EQ(project->ReadProperty("Quinloft Global", "TargetDevice"), "Palm-1");

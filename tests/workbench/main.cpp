@@ -39,7 +39,8 @@ void leaveOutIntroduction() {
 
 int main(int argc, char** argv) {
     const test::TempFolder home;
-    for (const char* folder : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR", "FERNWICK_MACHINE_STORE"})
+    for (const char* folder :
+         {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME", "XDG_RUNTIME_DIR", "FERNWICK_MACHINE_STORE"})
         qputenv(folder, QByteArray::fromStdString(home.path()));
     leaveOutIntroduction();
     qputenv("QT_QPA_PLATFORM", "offscreen");

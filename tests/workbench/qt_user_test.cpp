@@ -1,5 +1,6 @@
 #include "tests/workbench/desktop_user.h"
 #include "tests/workbench/desktop_world.h"
+#include <QClipboard>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -129,4 +130,27 @@ TEST_F(DesktopUser, TheClipboardKeepsAllFormats) {
     EXPECT_EQ(clipboard.GetData("none"), "");
     clipboard.Clear();
     EXPECT_TRUE(clipboard.Formats().empty());
+}
+
+TEST_F(DesktopUser, TheDesktopsClipboardChangesWhenTheLoopTurns) {
+    QGuiApplication::clipboard()->setText("copied elsewhere");
+    clipboard.Clear();
+    clipboard.SetData("text/plain", "a");
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), "copied elsewhere");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), "a");
+}
+
+TEST_F(DesktopUser, AClipboardThatIsPutBackWasNeverTouched) {
+    QGuiApplication::clipboard()->setText("copied elsewhere");
+    int changes = 0;
+    const auto watch = QObject::connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, [&] { ++changes; });
+    const auto kept = clipboard.GetData("text/plain");
+    clipboard.Clear();
+    clipboard.SetData(kPictureFormat, "picture");
+    clipboard.Clear();
+    clipboard.SetData("text/plain", kept);
+    QCoreApplication::processEvents();
+    QObject::disconnect(watch);
+    EXPECT_EQ(changes, 0);
 }

@@ -1,120 +1,20 @@
 // The whole desktop over copies of the samples, drawn into memory.
 #include "Apps/workbench/command_icons.h"
-#include "Apps/workbench/scintilla.h"
-#include "Apps/workbench/text.h"
-#include "Apps/workbench/workbench.h"
-#include "Host/model/bars.h"
-#include "tests/support/sample_project.h"
-#include "tests/workbench/desktop_user.h"
-#include <QComboBox>
-#include <QDir>
+#include "tests/workbench/desktop.h"
 #include <QDockWidget>
 #include <QLabel>
+#include <QListWidget>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QSettings>
 #include <QTreeView>
-#include <filesystem>
 #include <gmock/gmock.h>
 
 using testing::ElementsAre;
 using testing::HasSubstr;
+using testing::Not;
 
-namespace {
-
-class Desktop : public testing::Test {
-protected:
-    Desktop() {
-        workbench::apply(workbench::Theme::Light);
-        bench = std::make_unique<workbench::Workbench>();
-        window().show();
-        settle();
-    }
-    ~Desktop() override {
-        for (const auto& project : bench->host().VBProjects()->items()) clean(project);
-    }
-    static void clean(const basic::Ref<vbide::VBProject>& project) {
-        project->IsDirty(false);
-        for (const auto& component : project->VBComponents()->items()) component->IsDirty(false);
-    }
-
-    workbench::MainWindow& window() { return bench->window(); }
-    void openSample(const std::string& name) {
-        std::filesystem::copy(std::filesystem::path(FERNWICK_SOURCE_DIR) / "samples" / name, folder / name,
-                              std::filesystem::copy_options::recursive);
-        open(folder / (name + "/" + name + ".vbp"));
-    }
-    void open(const std::string& path) {
-        bench->open(path);
-        bench->connect();
-        settle();
-    }
-    /// Lets everything be drawn that waits for Qt's loop.
-    static void settle() { QTest::qWait(20); }
-    vbide::Ref<vbide::VBProject> project() { return bench->host().ActiveVBProject(); }
-    vbide::Ref<vbide::VBComponent> component(const std::string& name) { return project()->VBComponents()->Item(name); }
-    workbench::CodeEditor& editor(const std::string& name) {
-        component(name)->CodeModule()->CodePane()->Show();
-        return *window().code().editorOf(component(name));
-    }
-    /// The texts of the explorer, an entry below another one behind it with its depth.
-    std::vector<std::string> explorerEntries() {
-        std::vector<std::string> entries;
-        for (QTreeWidgetItemIterator at(&window().explorer()); *at; ++at) {
-            int depth = 0;
-            for (auto* above = (*at)->parent(); above; above = above->parent()) ++depth;
-            entries.push_back(std::string(std::size_t(depth), ' ') + (*at)->text(0).toStdString());
-        }
-        return entries;
-    }
-    QTreeWidgetItem* entry(const QString& text) {
-        const auto found = window().explorer().findItems(text, Qt::MatchStartsWith | Qt::MatchRecursive);
-        return found.isEmpty() ? nullptr : found.front();
-    }
-    void doubleClick(QTreeWidgetItem* item) {
-        auto& tree = window().explorer();
-        const auto at = tree.visualItemRect(item).center();
-        QTest::mouseClick(tree.viewport(), Qt::LeftButton, {}, at);
-        QTest::mouseDClick(tree.viewport(), Qt::LeftButton, {}, at);
-    }
-    /// Compiles, saves where that is asked, and gives the texts of the boxes that come.
-    std::vector<std::string> compile() {
-        std::vector<std::string> boxes;
-        answer([&boxes](QDialog& window) {
-            auto* box = dynamic_cast<QMessageBox*>(&window);
-            if (!box) return test::click(window, "btnYes");
-            boxes.push_back(box->text().toStdString());
-            box->button(QMessageBox::Ok)->click();
-        });
-        menuItem("&Run", "&Compile Project")->trigger();
-        answers_.stop();
-        settle();
-        return boxes;
-    }
-    /// Does this with every question that comes, until it is stopped.
-    void answer(std::function<void(QDialog&)> act) {
-        answers_.disconnect();
-        QObject::connect(&answers_, &QTimer::timeout, [act] {
-            auto* window = dynamic_cast<QDialog*>(QApplication::activeModalWidget());
-            const bool asks = window && window->isVisible() && !window->findChildren<QAbstractButton*>().isEmpty();
-            if (asks) act(*window);
-        });
-        answers_.start(10);
-    }
-    QAction* menuItem(const QString& menu, const QString& item) {
-        for (auto* top : window().menuBar()->actions())
-            if (top->text() == menu)
-                for (auto* action : top->menu()->actions())
-                    if (action->text() == item) return action;
-        return nullptr;
-    }
-
-    test::TempFolder folder;
-    QTimer answers_;
-    std::unique_ptr<workbench::Workbench> bench;
-};
-
-} // namespace
+using test::Desktop;
 
 TEST_F(Desktop, StartsEmpty) {
     EXPECT_EQ(window().windowTitle(), "Fernwick Workbench");
@@ -137,9 +37,10 @@ TEST_F(Desktop, OpeningAProjectOpensNoCode) {
     EXPECT_EQ(window().code().count(), 0);
 }
 
-TEST_F(Desktop, ADoubleClickOpensTheCode) {
+TEST_F(Desktop, TheCodeOfAFormOpensFromItsDesigner) {
     openSample("HelloWorld");
     doubleClick(entry("frmHello"));
+    menuItem("&View", "&Code")->trigger();
     ASSERT_TRUE(window().code().current());
     const auto module = component("frmHello")->CodeModule();
     EXPECT_EQ(window().code().current()->scintilla().text().toStdString() + "\n", [&] {
@@ -147,7 +48,7 @@ TEST_F(Desktop, ADoubleClickOpensTheCode) {
         std::erase(lines, '\r');
         return lines + "\n";
     }());
-    EXPECT_EQ(window().code().tabText(0), "frmHello");
+    EXPECT_EQ(window().code().tabText(1), "frmHello");
     EXPECT_FALSE(component("frmHello")->IsDirty());
 }
 
@@ -195,9 +96,11 @@ TEST_F(Desktop, ComponentsComeGoAndAreRenamed) {
     openSample("HelloWorld");
     menuItem("&Project", "Add &Module")->trigger();
     settle();
-    EXPECT_TRUE(entry("Module1 (Module1) *"));
-    EXPECT_EQ(window().code().tabText(0), "Module1 *");
-    component("Module1")->Name("modOther");
+    EXPECT_TRUE(entry("Module2 (Module2) *")); // the design target's template, in place of a blank Module1
+    EXPECT_FALSE(entry("Module1"));
+    EXPECT_EQ(window().code().tabText(0), "Module2 *");
+    EXPECT_EQ(component("Module2")->CodeModule()->Lines(1, 1), "Option Explicit");
+    component("Module2")->Name("modOther");
     settle();
     EXPECT_TRUE(entry("modOther (modOther) *"));
     project()->VBComponents()->Remove(component("modOther"));
@@ -230,13 +133,13 @@ TEST_F(Desktop, AnErrorOfABuildLeadsToItsLine) {
 TEST_F(Desktop, AGoodBuildMakesTheImage) {
     openSample("HelloWorld");
     EXPECT_TRUE(compile().empty());
-    EXPECT_THAT(window().findChild<QLabel*>("lblStatusText")->text().toStdString(), HasSubstr("Status: SUCCESS"));
+    EXPECT_THAT(window().findChild<QLabel*>("lblStatusText")->text().toStdString(), HasSubstr("SUCCESS"));
     EXPECT_TRUE(std::filesystem::exists(folder / "HelloWorld/HelloWorld.0000.qlx"));
 }
 
 TEST_F(Desktop, AProjectOfNoDeviceIsNotBuiltAndTheUserTold) {
     open(test::SampleProject("Plain").module("modMain").writeTo(folder));
-    EXPECT_THAT(compile(), ElementsAre(HasSubstr("Plain is not a Fernwick project")));
+    EXPECT_THAT(carryOut("&Run", "&Start on Device"), ElementsAre(HasSubstr("Plain is not a Fernwick project")));
 }
 
 TEST_F(Desktop, MenusFollowTheHostsModel) {
@@ -286,7 +189,7 @@ TEST_F(Desktop, SeparatorsStandWhereGroupsBegin) {
     for (auto* top : window().menuBar()->actions())
         if (top->text() == "&Edit")
             for (auto* action : top->menu()->actions()) lines += action->isSeparator();
-    EXPECT_EQ(groups, 2);
+    EXPECT_GE(groups, 2);
     EXPECT_EQ(lines, groups);
 }
 
@@ -315,6 +218,56 @@ TEST_F(Desktop, RemovingAnUnsavedProjectAsks) {
     EXPECT_THAT(folder.read("HelloWorld/frmHello.frm"), HasSubstr("' lost"));
     settle();
     EXPECT_TRUE(explorerEntries().empty());
+}
+
+TEST_F(Desktop, ChangesThatAreGivenUpAreNotSavedAtTheClosing) {
+    openSample("HelloWorld");
+    component("frmHello")->CodeModule()->InsertLines(1, "' lost");
+    project()->WriteProperty("A", "key", "lost");
+    test::whenShown<QMessageBox>([](QMessageBox& box) { box.button(QMessageBox::Discard)->click(); });
+    menuItem("&File", "&Remove Project")->trigger();
+    EXPECT_EQ(bench->host().VBProjects()->Count(), 0);
+    EXPECT_THAT(folder.read("HelloWorld/frmHello.frm"), Not(HasSubstr("' lost")));
+    EXPECT_THAT(folder.read("HelloWorld/HelloWorld.vbp"), Not(HasSubstr("key=lost")));
+}
+
+TEST_F(Desktop, ChangesAreGivenUpOnlyWhenTheWindowCloses) {
+    openSample("HelloWorld");
+    openSample("AddressBook");
+    for (const auto& each : bench->host().VBProjects()->items()) each->WriteProperty("A", "key", "value");
+    std::vector answers{QMessageBox::Cancel, QMessageBox::Discard};
+    answer([&](QDialog& box) {
+        const auto next = answers.back();
+        answers.pop_back();
+        dynamic_cast<QMessageBox&>(box).button(next)->click();
+    });
+    EXPECT_FALSE(window().close());
+    for (const auto& each : bench->host().VBProjects()->items()) EXPECT_TRUE(each->IsDirty());
+}
+
+TEST_F(Desktop, AFormOfAHandheldProjectGetsTheDevicesShape) {
+    openSample("HelloWorld");
+    menuItem("&Project", "Add &Form")->trigger();
+    settle();
+    const auto form = component("Form1");
+    EXPECT_EQ(fernwick::asDouble(form->Properties()->Item("ScaleWidth")->Value()), 160);
+    EXPECT_EQ(form->CodeModule()->Lines(1, 1), "Option Explicit");
+    EXPECT_EQ(window().code().current()->component(), form);
+}
+
+TEST_F(Desktop, ANewProjectComesFromTheTemplateOfTheDeviceThatTheUserChooses) {
+    bench->connect();
+    test::whenShown([](QDialog& window) {
+        window.findChild<QListWidget*>("lstQuickDesignTargets")->setCurrentRow(1);
+        test::click(window, "btnOK");
+    });
+    bench->open(FERNWICK_SOURCE_DIR "/installation/Template/Projects/Fernwick Project.vbp");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return explorerEntries().size() == 3; }, 2000));
+    EXPECT_THAT(explorerEntries(), ElementsAre("Project1 (Project1) *", " Forms", "  Form1 (Form1) *"));
+    EXPECT_EQ(project()->ReadProperty("Quinloft Global", "TargetDevice"), "PocketPC-SH3");
+    EXPECT_EQ(fernwick::asDouble(component("Form1")->Properties()->Item("ScaleHeight")->Value()), 320);
+    EXPECT_EQ(project()->VBComponents()->StartUpObject().component, component("Form1"));
+    EXPECT_FALSE(workbench::RecentProjects::stored().join("").contains("Template"));
 }
 
 TEST_F(Desktop, WindowsOfARemovedProjectClose) {

@@ -8,9 +8,9 @@
 
 namespace fernwick {
 
-/// Passes each call on to the module that does the work. The zoom window, the project manager and
-/// the settings are not here yet: what they would do when nobody asked for them is left out without a word, and where
-/// a user asked, the desktop says that it isn't here.
+/// Passes each call on to the module that does the work. The zoom window, the project manager with its recent
+/// projects, the converter and the settings are not here yet: what they would do when nobody asked for them is left
+/// out without a word, and where a user asked, the desktop says that it isn't here.
 class CommandSurface final : public IdeCommands {
 public:
     using Control = basic::Ref<office::CommandBarControl>;
@@ -39,6 +39,8 @@ public:
     void DisableQuinloftToolbar() override { toolbars_.DisableQuinloftToolbar(); }
     void DisableSupportToolbar() override { toolbars_.DisableSupportToolbar(); }
     void SetupDefaultTargetName(const std::string& deviceKey) override { menu_.SetupDefaultTargetName(deviceKey); }
+    void SaveAllToolbarState() override { toolbars_.SaveAllToolbarState(); }
+    void RestoreAllToolbarState() override { toolbars_.RestoreAllToolbarState(); }
 
     Control saveProjectItem() override;
     Control gFileThirdItem() override { return items_.gFileThirdItem; }
@@ -50,13 +52,17 @@ public:
 
     void createZoomWindow() override {}
     void InitZoomWindow() override {}
+    void SaveZoomWindowState() override {}
+    void SetZoomForm(const basic::Ref<vbide::VBComponent>&) override {}
     void ShowGettingStarted() override { gettingStarted_.ShowModal(); }
+    void ShowProjectManager() override { notInThisBuild(); }
     void ShowProjectManagerOnDelay() override { notInThisBuild(); }
+    void AddProjectToRecentList(const Project&) override {}
+    UnknownDeviceChoice AskAboutUnknownDevice(const Project&) override;
     void ShowQuinloftSettings(const Project&, const std::string&, bool) override { notInThisBuild(); }
+    void notInThisBuild() override;
 
 private:
-    void notInThisBuild();
-
     Interaction& user_;
     AddIn& addIn_;
     CommandItems& items_;

@@ -72,9 +72,9 @@ struct Modules {
         {addIn, platform.loop, deviceServices, projects, save, messages, chooseTarget, removal, commands}};
     SampleOpening samples{{platform, errors, addIn, save, commands}};
     // on top
-    Connect connect{{platform,     errors,      prefs,   addIn, references, devices, items,
-                     projects,     messages,    removal, setup, commands,   install, compile,
-                     sendToDevice, sendRuntime, tools,   help,  about,      samples}};
+    Connect connect{{platform, errors,       prefs,       addIn,   references, devices,  deviceServices,
+                     items,    projects,     messages,    removal, setup,      commands, install,
+                     compile,  sendToDevice, sendRuntime, tools,   help,       about,    samples}};
 
     /// The document of the messages window; Nothing until the host has made it.
     basic::Ref<udocCompileMsgs> compileMsgs() const;

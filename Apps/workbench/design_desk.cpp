@@ -1,0 +1,83 @@
+#include "Apps/workbench/design_desk.h"
+
+namespace workbench {
+
+DesignDesk::DesignDesk(host::Host& host, CodeWindows& tabs, ProjectExplorer& explorer, Run run)
+    : QObject(&tabs),
+      host_(host),
+      tabs_(tabs),
+      explorer_(explorer),
+      run_(std::move(run)),
+      properties_(new PropertiesWindow(history_, {run_,
+                                                  [this](const auto& control) {
+                                                      if (auto* view = forms_->current()) view->select(control);
+                                                  }})),
+      forms_(new FormWindows(host, tabs, history_, {run_, [this] { followTabs(); }})) {
+    connect(&tabs, &QTabWidget::currentChanged, this, [this] { followTabs(); });
+    connect(&explorer, &QTreeWidget::currentItemChanged, this, [this] { followExplorer(); });
+    connect(&explorer, &QTreeWidget::itemClicked, this, [this] { followExplorer(); });
+    watch();
+}
+
+void DesignDesk::watch() {
+    // the explorer knows of each component that comes, goes or changes its name
+    connect(&explorer_, &QTreeWidget::itemChanged, this, [this] { refreshSoon(); });
+    connect(explorer_.model(), &QAbstractItemModel::modelReset, this, [this] { refreshSoon(); });
+    watches_.push_back(host_.panes.designChanged.connect([this](const auto&) {
+        properties_->refreshSoon();
+        explorer_.refreshSoon();
+        tabs_.refreshSoon();
+    }));
+}
+
+void DesignDesk::refreshSoon() {
+    forms_->refreshSoon();
+    properties_->refreshSoon();
+}
+
+void DesignDesk::followTabs() {
+    if (auto* view = forms_->current()) return properties_->inspect(view->component(), view->selected());
+    if (auto* editor = tabs_.current()) return properties_->inspect(editor->component());
+    properties_->clear();
+}
+
+void DesignDesk::followExplorer() {
+    if (!explorer_.hasFocus()) return;
+    if (const auto project = explorer_.currentProject()) return properties_->inspect(project);
+    if (const auto component = explorer_.currentComponent()) properties_->inspect(component);
+}
+
+vbide::Ref<vbide::VBComponent> DesignDesk::inHand() const {
+    if (explorer_.hasFocus() && explorer_.currentComponent()) return explorer_.currentComponent();
+    if (auto* view = forms_->current()) return view->component();
+    if (auto* editor = tabs_.current()) return editor->component();
+    return explorer_.currentComponent();
+}
+
+void DesignDesk::open(const vbide::Ref<vbide::VBComponent>& component) {
+    run_([&] {
+        component->Activate();
+        if (!forms_->viewOf(component)) component->CodeModule()->CodePane()->Show();
+    });
+}
+
+void DesignDesk::showCode() {
+    const auto component = inHand();
+    if (component) run_([&] { component->CodeModule()->CodePane()->Show(); });
+}
+
+void DesignDesk::showObject() {
+    const auto component = inHand();
+    if (!component) return;
+    const auto* view = forms_->current();
+    const bool inFront = view && view->component() == component;
+    return inFront ? showCode() : open(component);
+}
+
+bool DesignDesk::undo() {
+    auto* const view = forms_->current();
+    if (view) view->undo();
+    return view != nullptr;
+}
+
+} // namespace workbench

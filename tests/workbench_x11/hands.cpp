@@ -1,0 +1,131 @@
+#include "tests/workbench_x11/hands.h"
+#include <QAbstractButton>
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QProcess>
+#include <QThread>
+#include <QWidget>
+#include <gtest/gtest.h>
+#include <optional>
+#include <stdexcept>
+
+namespace test {
+
+namespace {
+
+constexpr int kMostWaiting = 10'000, kBetweenLooks = 5, kDragSteps = 12;
+
+void moveTo(QStringList& arguments, const QPoint& at) {
+    arguments << "mousemove" << QString::number(at.x()) << QString::number(at.y());
+}
+
+QString plain(QString caption) { return caption.remove('&'); }
+
+/// Where to click, in the window that stands above all others.
+std::optional<QPoint> buttonInDialog(const QStringList& names) {
+    auto* const dialog = QApplication::activeModalWidget();
+    if (!dialog || !dialog->isVisible()) return {};
+    for (auto* button : dialog->findChildren<QAbstractButton*>()) {
+        const bool isMeant = names.contains(button->objectName()) || names.contains(plain(button->text()));
+        if (isMeant && button->isVisible() && button->isEnabled()) return middleOf(*button);
+    }
+    return {};
+}
+
+/// The words of the dialog that stands.
+std::string standing() {
+    auto* const dialog = QApplication::activeModalWidget();
+    if (!dialog) return "no dialog stands";
+    QString words = dialog->windowTitle();
+    for (const auto* label : dialog->findChildren<QLabel*>()) words += " | " + label->text();
+    return "there stands: " + words.toStdString();
+}
+
+} // namespace
+
+void begin(std::function<void()> act) { QMetaObject::invokeMethod(qApp, std::move(act), Qt::QueuedConnection); }
+
+void eventually(const std::string& expected, const std::function<bool()>& isSo) {
+    QElapsedTimer waiting;
+    waiting.start();
+    while (!ask(isSo)) {
+        if (waiting.elapsed() > kMostWaiting) throw std::runtime_error("never: " + expected + "; " + ask(standing));
+        QThread::msleep(kBetweenLooks);
+    }
+}
+
+void xdotool(const QStringList& arguments) {
+    QProcess process;
+    process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    process.start("xdotool", arguments);
+    ASSERT_TRUE(process.waitForFinished());
+    ASSERT_EQ(process.exitCode(), 0);
+}
+
+void press(const QStringList& keys) { xdotool(QStringList{"key", "--delay", "5"} + keys); }
+
+void type(const QString& text) { xdotool({"type", "--delay", "5", text}); }
+
+void click(const QPoint& at) {
+    QStringList arguments;
+    moveTo(arguments, at);
+    xdotool(arguments << "click"
+                      << "1");
+}
+
+void doubleClick(const QPoint& at) {
+    QStringList arguments;
+    moveTo(arguments, at);
+    xdotool(arguments << "click"
+                      << "--repeat"
+                      << "2"
+                      << "--delay"
+                      << "20"
+                      << "1");
+}
+
+void rightClick(const QPoint& at) {
+    QStringList arguments;
+    moveTo(arguments, at);
+    xdotool(arguments << "click"
+                      << "3");
+}
+
+void drag(const QPoint& from, const QPoint& to) {
+    QStringList arguments;
+    moveTo(arguments, from);
+    arguments << "mousedown"
+              << "1";
+    for (int step = 1; step <= kDragSteps; ++step) moveTo(arguments, from + (to - from) * step / kDragSteps);
+    xdotool(arguments << "mouseup"
+                      << "1");
+}
+
+QPoint middleOf(QWidget& widget, const QRect& part) {
+    return widget.mapToGlobal((part.isNull() ? widget.rect() : part).center());
+}
+
+void clickInDialog(const QString& button) {
+    std::optional<QPoint> at;
+    eventually("a dialog with " + button.toStdString(), [&] { return (at = buttonInDialog({button})).has_value(); });
+    click(*at);
+}
+
+void answerUntil(const std::string& expected, const Answer& answer, const std::function<bool()>& isSo) {
+    std::optional<QPoint> at;
+    QWidget* answered = nullptr;
+    const auto look = [&] {
+        auto* const dialog = QApplication::activeModalWidget();
+        if (dialog != answered) answered = nullptr;
+        at = answered || (dialog && !dialog->isActiveWindow()) ? std::nullopt : buttonInDialog(answer.buttons);
+        if (at) answered = dialog;
+        return at.has_value() || isSo();
+    };
+    do {
+        eventually(expected, look);
+        if (at && answer.with == With::Mouse) click(*at);
+        if (at && answer.with == With::Keyboard) press({"Return"});
+    } while (at);
+}
+
+} // namespace test

@@ -1,0 +1,48 @@
+// Tests of the desktop on X. The program starts itself again on a display of its own; there, the window lives in the main
+// thread as always, and the tests are its user in another one: so they go on while a dialog stands.
+#include "tests/support/temp_folder.h"
+#include "tests/workbench_x11/clipboard_owner.h"
+#include <QApplication>
+#include <QThread>
+#include <gtest/gtest.h>
+#include <unistd.h>
+#include <vector>
+
+namespace {
+
+/// Runs this program under the script that makes a display.
+int onDisplayOfItsOwn(int argc, char** argv) {
+    std::string script = FERNWICK_SOURCE_DIR "/scripts/with-display";
+    std::vector<char*> command{script.data()};
+    command.insert(command.end(), argv, argv + argc);
+    command.push_back(nullptr);
+    qputenv("FERNWICK_TEST_ON_DISPLAY", "1");
+    ::execv(script.c_str(), command.data());
+    std::perror(script.c_str());
+    return 1;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "xcb");
+    if (argc == 2 && std::string(argv[1]) == test::kOwnClipboard) return test::ownClipboard(argc, argv);
+    if (qEnvironmentVariableIsEmpty("FERNWICK_TEST_ON_DISPLAY")) return onDisplayOfItsOwn(argc, argv);
+
+    const test::TempFolder home;
+    for (const char* folder : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR", "FERNWICK_MACHINE_STORE"})
+        qputenv(folder, QByteArray::fromStdString(home.path()));
+    qputenv("FERNWICK_DEVICES", QByteArray::fromStdString(home / "devices"));
+    testing::InitGoogleTest(&argc, argv);
+    QApplication app(argc, argv);
+    QApplication::setOrganizationName("fernwick");
+    QApplication::setApplicationName("workbench-test");
+    QApplication::setQuitOnLastWindowClosed(false);
+    int status = 1;
+    std::unique_ptr<QThread> user(QThread::create([&] { status = RUN_ALL_TESTS(); }));
+    QObject::connect(user.get(), &QThread::finished, &app, &QApplication::quit);
+    user->start();
+    QApplication::exec();
+    user->wait();
+    return status;
+}

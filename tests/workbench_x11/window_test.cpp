@@ -1,0 +1,106 @@
+// The window as a user arranges it, and the program as the desktop starts it.
+#include "tests/workbench_x11/x_desktop.h"
+#include <QDockWidget>
+#include <QProcess>
+#include <QToolBar>
+
+using namespace test;
+using workbench::BarPlace;
+
+namespace {
+
+struct Window : XDesktop {
+    QToolBar& toolBar(const QString& name) { return *window().findChild<QToolBar*>(name); }
+    bool isEnabled(const QString& name) { return toolBar(name).actions().front()->isEnabled(); }
+    host::Bar& bar(const char* name) {
+        return *basic::cast<host::Bar>(bench->host().CommandBars()->Item(name)).shared();
+    }
+    BarPlace place(const char* name) {
+        return ask([&] { return workbench::placeOf(bar(name)); });
+    }
+    QPoint handleOf(const QString& name) {
+        return ask([&] { return toolBar(name).mapToGlobal(QPoint(4, 4)); });
+    }
+    /// As the user does, and starts again.
+    void restart() {
+        choose("&File", "E&xit");
+        eventually("the window is closed", [this] { return !window().isVisible(); });
+        ask([this] { bench.reset(); });
+        start();
+        connect();
+    }
+};
+
+} // namespace
+
+TEST_F(Window, WithoutAProjectTheAddInsCommandsAreDisabled) {
+    connect();
+    EXPECT_FALSE(ask([this] { return isEnabled("Fernwick"); }));
+}
+
+TEST_F(Window, WithAProjectTheAddInsCommandsAreEnabled) {
+    openSample("HelloWorld");
+    eventually("its toolbar works", [this] { return isEnabled("Fernwick"); });
+    EXPECT_TRUE(ask([this] { return menu("&Fernwick")->actions().front()->isEnabled(); }));
+}
+
+TEST_F(Window, ToolbarsComeBackWhereTheUserDraggedThem) {
+    connect();
+    drag(handleOf("Fernwick"), ask([this] { return window().mapToGlobal(QPoint(6, 300)); }));
+    eventually("it is at the left", [this] { return bar("Fernwick").Position() == office::msoBarLeft; });
+    drag(handleOf("Quinloft Utilities"), ask([this] { return window().mapToGlobal(QPoint(400, 350)); }));
+    eventually("it floats", [this] { return bar("Quinloft Utilities").Position() == office::msoBarFloating; });
+    const std::vector left{place("Fernwick"), place("Quinloft Utilities"), place("Standard")};
+    ask([this] { bench->addIn().toolbars.SaveAllToolbarState(); }); // as when a project goes
+    restart();
+    eventually("it floats again", [this] { return toolBar("Quinloft Utilities").isFloating(); });
+    EXPECT_EQ((std::vector{place("Fernwick"), place("Quinloft Utilities"), place("Standard")}), left);
+    ask([this] {
+        workbench::setPlace(bar("Fernwick"), {});
+        workbench::setPlace(bar("Quinloft Utilities"), {});
+        bench->addIn().toolbars.SaveAllToolbarState();
+    });
+}
+
+TEST_F(Window, ADockComesBackWhereTheUserDraggedIt) {
+    openSample("HelloWorld");
+    const auto title = ask([this] { return window().explorerDock().mapToGlobal(QPoint(60, 8)); });
+    drag(title, ask([this] { return window().mapToGlobal(QPoint(500, 400)); }));
+    eventually("it floats", [this] { return window().explorerDock().isFloating(); });
+    restart();
+    EXPECT_TRUE(ask([this] { return window().explorerDock().isFloating(); }));
+}
+
+TEST_F(Window, CopiedCodeReachesOtherPrograms) {
+    openSample("HelloWorld");
+    doubleClick(explorerEntry("frmHello (frmHello.frm)"));
+    eventually("the code", [this] { return code() && code()->hasFocus(); });
+    press({"ctrl+Home", "shift+End", "ctrl+c"});
+    eventually("it is chosen", [this] { return code()->selectedText() == "Option Explicit"; });
+    QProcess reader;
+    reader.start("xclip", {"-selection", "clipboard", "-o"});
+    reader.waitForFinished();
+    EXPECT_EQ(reader.readAllStandardOutput(), "Option Explicit");
+}
+
+/// The right button and then the keys.
+TEST_F(Window, TheExplorersMenuIsAboutItsEntry) {
+    openSample("AddressBook");
+    rightClick(explorerEntry("clsPerson (clsPerson.cls)"));
+    eventually("a menu", [] { return QApplication::activePopupWidget() != nullptr; });
+    press({"Down", "Return"});
+    eventually("the code of clsPerson",
+               [this] { return window().code().current() && window().code().tabText(0) == "clsPerson"; });
+}
+
+TEST(Program, OpensTheProjectThatItIsGivenAndEndsWithItsWindow) {
+    QProcess program;
+    program.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    program.start(FERNWICK_WORKBENCH_PROGRAM, {FERNWICK_SOURCE_DIR "/samples/HelloWorld/HelloWorld.vbp"});
+    xdotool({"search", "--sync", "--onlyvisible", "--name", "^HelloWorld - Fernwick Workbench$"});
+    // first whatever stands before the window
+    constexpr int kMostDialogs = 20, kBetween = 300;
+    for (int closed = 0; closed < kMostDialogs && !program.waitForFinished(kBetween); ++closed) press({"alt+F4"});
+    EXPECT_EQ(program.state(), QProcess::NotRunning);
+    EXPECT_EQ(program.exitCode(), 0);
+}
