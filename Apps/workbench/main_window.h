@@ -25,6 +25,7 @@ public:
     CodeWindows& code() { return *code_; }
     ProjectExplorer& explorer() { return *explorer_; }
     QDockWidget& explorerDock() { return *explorerDock_; }
+    QDockWidget& propertiesDock() { return *propertiesDock_; }
     /// Form views and the properties window.
     DesignDesk& design() { return *design_; }
     /// In the order in which they came.

@@ -318,6 +318,7 @@ TEST_F(Messages, AreCopiedOneAsItsText) {
     list().setFocus();
     list().setCurrentIndex(at(0));
     QTest::keyClick(&list(), Qt::Key_C, Qt::ControlModifier);
+    settle();
     EXPECT_EQ(QGuiApplication::clipboard()->text(),
               "File Title: modA, Line: 3, Error Number: 1042, Message: No such näme");
 }
@@ -327,6 +328,7 @@ TEST_F(Messages, OfOtherScriptsAreCopiedWhole) {
     settle();
     list().setCurrentIndex(at(0));
     QTest::keyClick(&list(), Qt::Key_C, Qt::ControlModifier);
+    settle();
     EXPECT_EQ(QGuiApplication::clipboard()->text(), "File Title: modA, Line: 3, Error Number: 1042, Message: \u4e2d");
 }
 
@@ -338,6 +340,7 @@ TEST_F(Messages, AreCopiedSeveralAsLinesAndATable) {
     list().sortByColumn(Grid::LineColumn, Qt::DescendingOrder);
     select({0, 2});
     QTest::keyClick(&list(), Qt::Key_C, Qt::ControlModifier);
+    settle();
     EXPECT_EQ(QGuiApplication::clipboard()->text(), "File Title: modA, Line: 4, Error Number: , Message: a < b\n"
                                                     "File Title: modA, Line: 2, Error Number: 7, Message: first\n");
     EXPECT_EQ(QGuiApplication::clipboard()->mimeData()->html(),
@@ -364,6 +367,7 @@ TEST_F(Messages, KeepTheirKeysFromTheEditorsCommands) {
     list().setFocus();
     list().setCurrentIndex(at(0));
     key(Qt::Key_C, Qt::ControlModifier, &list());
+    settle();
     EXPECT_TRUE(QGuiApplication::clipboard()->text().endsWith("Message: message"));
     warning("second", 3);
     settle();

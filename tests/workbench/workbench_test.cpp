@@ -252,7 +252,8 @@ TEST_F(Desktop, AFormOfAHandheldProjectGetsTheDevicesShape) {
     const auto form = component("Form1");
     EXPECT_EQ(fernwick::asDouble(form->Properties()->Item("ScaleWidth")->Value()), 160);
     EXPECT_EQ(form->CodeModule()->Lines(1, 1), "Option Explicit");
-    EXPECT_EQ(window().code().current()->component(), form);
+    EXPECT_TRUE(window().design().forms().viewOf(form));
+    EXPECT_TRUE(window().design().forms().current());
 }
 
 TEST_F(Desktop, ANewProjectComesFromTheTemplateOfTheDeviceThatTheUserChooses) {
