@@ -1,5 +1,6 @@
 #include "Add-in/commands/frmGettingStarted.h"
 #include "Add-in/commands/getting_started_pages.h"
+#include <utility>
 
 namespace fernwick {
 

@@ -1,5 +1,8 @@
 // The samples that the registry lists.
+#include "Host/registry/registry_store.h"
+#include "Host/system/file_system.h"
 #include "commands_world.h"
+#include "tests/support/temp_folder.h"
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -138,6 +141,18 @@ TEST_F(SamplesList, LeavesOutWhatHasNoNameOrNoData) {
     addSample("\\A", "", "A");
     addSample("\\A", "Empty", "");
     EXPECT_THAT(listed(), IsEmpty());
+}
+
+/// What this installation lists.
+TEST(InstalledSamples, AreProjectsThatAreThere) {
+    const test::TempFolder stores;
+    host::RegistryStore store{{stores / "user", stores / "machine", FERNWICK_SOURCE_DIR "/installation"}};
+    fernwick::modRegistry2 registry{store};
+    fernwick::modSamplesManagement samples{registry};
+    const host::FileSystem disk;
+    samples.InitSamplesList();
+    EXPECT_EQ(samples.SamplesListLength(), 3);
+    for (const auto& sample : samples.gSamplesList) EXPECT_TRUE(disk.FileExists(sample.fullPath)) << sample.fullPath;
 }
 
 TEST_F(SamplesList, IsReadAnewEachTime) {

@@ -85,6 +85,14 @@ TEST_F(Commands, MyDevicesThatAreFewerMeanwhileEndTheList) {
     host.failures.clear();
 }
 
+TEST_F(Commands, DevicesThatComeMeanwhileWaitForTheNextTime) {
+    connected();
+    chooseDevices({"Palm-1"});
+    family.work = [&](qlpipe::IQLPipeEvents&) { return chooseDevices({"Palm-1", "Pocket-1"}), true; };
+    EXPECT_THAT(deliveries(click(items().gInstallAllItem)), ElementsAre("runtime to Palm-1"));
+    EXPECT_EQ(deliveries(click(items().gInstallAllItem)).size(), 2U);
+}
+
 TEST_F(Commands, WithoutDevicesNoLeavesEverythingAsItWas) {
     connected();
     for (const auto& item : {items().gDeployAllItem, items().gPackageAllItem, items().gInstallAllItem}) {

@@ -2,6 +2,7 @@
 // The commands of the upper rooms, told in the trace.
 #include "Add-in/core/ide_commands.h"
 #include "traced_host.h"
+#include <functional>
 
 namespace test {
 
@@ -14,6 +15,8 @@ public:
 
     bool menuStands = true, toolbarStands = true, supportToolbarStands = true;
     Ref<TracedControl> save, remove, converter;
+    /// What the user does in the settings.
+    std::function<void()> inSettings = [] {};
     fernwick::UnknownDeviceChoice unknownDevice;
     /// Runs while the project manager stands.
     std::function<void()> inProjectManager;
@@ -56,6 +59,7 @@ public:
     void ShowProjectManagerOnDelay() override { did("project manager"); }
     void ShowQuinloftSettings(const Ref<vbide::VBProject>&, const std::string& page, bool) override {
         did("settings " + page);
+        inSettings();
     }
 
 private:

@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
+#include <set>
 
 namespace {
 
@@ -103,6 +104,16 @@ protected:
 };
 
 } // namespace
+
+TEST_F(FirstStart, FindsPicturesAndAddressesInTheInstallation) {
+    workbench::Workbench bench;
+    const auto& app = bench.addIn().platform.app;
+    EXPECT_TRUE(bench.addIn().platform.files.FileExists(app.Path + "/welcome.jpg"));
+    const std::set<std::string> addresses{app.SupportWebAddress, app.WebAddress,      app.RuntimeWebAddress,
+                                          app.SamplesWebAddress, app.ForumWebAddress, app.DevelopersWebAddress};
+    EXPECT_EQ(addresses.size(), 6U);
+    for (const auto& address : addresses) EXPECT_TRUE(address.starts_with("https://")) << address;
+}
 
 TEST_F(FirstStart, ShowsTheIntroductionUntilItsBoxIsTicked) {
     workbench::Workbench bench;

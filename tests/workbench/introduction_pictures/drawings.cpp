@@ -1,6 +1,6 @@
 #include "tests/workbench/introduction_pictures/pictures.h"
 #include "tests/workbench/introduction_pictures/slide.h"
-#include <QDir>
+#include <QFile>
 #include <QPainterPath>
 #include <QTextDocument>
 
@@ -61,7 +61,7 @@ QImage tavlets() {
                                         {"QLComboBox", "\u25BE"}, {"QLGrid", "\u25A6"},        {"QLPicture", "\u2600"},
                                         {"QLSound", "\u266B"},    {"QLTimer", "\u25F7"},       {"QLMenu", "\u2261"}};
     constexpr int kColumns = 4;
-    constexpr qreal kLeft = 24, kTop = 34, kTileWidth = 102, kTileHeight = 72, kGap = 8;
+    constexpr qreal kLeft = 24, kTop = 46, kTileWidth = 102, kTileHeight = 72, kGap = 8;
     Slide slide;
     int at = 0;
     for (const auto& tavlet : kShown) {
@@ -93,34 +93,11 @@ QImage startMenu() {
     return slide.finished();
 }
 
-/// The templates that are installed, as there are to choose from.
-QImage projectTemplate() {
-    constexpr QRectF kWindow(60, 30, 360, 260);
-    constexpr qreal kTile = 120, kIcon = 56, kButtonWidth = 84, kButtonHeight = 28;
-    Slide slide;
-    const auto inside = slide.window(kWindow, "New Project");
-    QRectF tile(inside.topLeft(), QSizeF(kTile, kTile));
-    const QDir folder(QString(kInstallation) + "/Template/Projects");
-    for (const auto& found : folder.entryInfoList({"*.vbp"}, QDir::Files)) {
-        slide.panel(tile, QColor("#e4eefb"));
-        drawIcon(slide.painter(), QRectF(tile.center() - QPointF(kIcon / 2, kIcon / 2 + 12), QSizeF(kIcon, kIcon)));
-        slide.write(tile.adjusted(0, kIcon + 20, 0, 0), found.completeBaseName(), kText, kInk, false, Qt::AlignCenter);
-        tile.translate(kTile + 10, 0);
-    }
-    QRectF button(inside.right() - kButtonWidth, inside.bottom() - kButtonHeight, kButtonWidth, kButtonHeight);
-    for (const auto* caption : {"Cancel", "Open"}) {
-        slide.panel(button, QColor("#f4f4f4"));
-        slide.write(button, caption, kText, kInk, false, Qt::AlignCenter);
-        button.translate(-kButtonWidth - 10, 0);
-    }
-    return slide.finished();
-}
-
 /// The User's Guide in a browser.
 QImage website() {
     constexpr QRectF kBrowser(20, 16, 440, 320), kAddress(30, 50, 420, 24);
     Slide slide;
-    const auto inside = slide.window(kBrowser, "Fernwick User's Guide").adjusted(0, 34, 0, 0);
+    const auto inside = slide.window(kBrowser, "Fernwick User's Guide").adjusted(10, 44, -10, -10);
     slide.panel(kAddress, QColor("#f4f4f4"));
     slide.write(kAddress.adjusted(10, 0, 0, 0), "Quinloft_Users_Guide.html", kSmall, kFaint);
     QFile file(QString(kInstallation) + "/VB Toolkit/doc/Quinloft_Users_Guide.html");

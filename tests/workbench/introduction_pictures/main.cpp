@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr int kJpegQuality = 78;
+constexpr int kJpegQuality = 75;
 
 bool save(const QImage& picture, const QString& folder, const char* name) {
     const bool isSaved = !picture.isNull() && picture.save(folder + "/" + name, "jpg", kJpegQuality);

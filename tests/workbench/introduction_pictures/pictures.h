@@ -13,11 +13,12 @@ QImage forms(Stage& stage);
 QImage menu(Stage& stage);
 QImage toolbars(Stage& stage);
 QImage finished(Stage& stage);
+/// The choice that File > New Project gives.
+QImage projectTemplate();
 
 // Of what the desktop doesn't draw
 QImage tavlets();
 QImage startMenu();
-QImage projectTemplate();
 QImage website();
 
 } // namespace introduction

@@ -1,3 +1,4 @@
+#include "Apps/workbench/new_project.h"
 #include "tests/workbench/introduction_pictures/pictures.h"
 #include "tests/workbench/introduction_pictures/slide.h"
 #include "tests/workbench/introduction_pictures/stage.h"
@@ -42,7 +43,7 @@ QImage forms(Stage& stage) {
     stage.showForm();
     Slide slide;
     slide.put(stage.window(), QRectF(0, 0, kWidth, kHeight));
-    drawHandheld(slide, {kWidth - 150, kHeight - 200, 130, 186}, "160 \u00D7 160\npixels");
+    drawHandheld(slide, {160, 100, 130, 186}, "160 \u00D7 160\npixels");
     return slide.finished();
 }
 
@@ -72,6 +73,19 @@ QImage toolbars(Stage& stage) {
         slide.putFramed(bar, QRectF({kLeft, y + 2 * kHeading}, size));
         y += size.height() + 2 * kHeading + kBetween;
     }
+    return slide.finished();
+}
+
+QImage projectTemplate() {
+    constexpr QSizeF kShown(360, 254);
+    workbench::NewProjectDialog dialog(workbench::projectKinds(FERNWICK_SOURCE_DIR "/installation/Template"), nullptr);
+    dialog.ensurePolished();
+    Slide slide;
+    constexpr QRectF kWindow((kWidth - kShown.width()) / 2, (kHeight - kShown.height()) / 2, kShown.width(),
+                             kShown.height());
+    const auto inside = slide.window(kWindow, dialog.windowTitle());
+    dialog.resize(inside.size().toSize());
+    slide.put(dialog, inside);
     return slide.finished();
 }
 

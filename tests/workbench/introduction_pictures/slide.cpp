@@ -55,7 +55,7 @@ QRectF Slide::window(const QRectF& place, const QString& title) {
     painter_.drawLine(close.topRight(), close.bottomLeft());
     painter_.setPen(kLine);
     painter_.drawLine(bar.bottomLeft(), bar.bottomRight());
-    return place.adjusted(kMargin, kTitleHeight + kMargin, -kMargin, -kMargin);
+    return place.adjusted(1, kTitleHeight + 1, -1, -1);
 }
 
 QImage Slide::finished() {
