@@ -36,6 +36,7 @@ MainWindow::MainWindow(host::Host& host, BarsView::Run run, MayClose mayClose)
       bars_(host.bars(), *this, run_) {
     setObjectName("workbench");
     setCentralWidget(code_);
+    code_->setAccessibleName("Code windows");
     code_->setFocus(); // where work begins; the command of a dock would hide the one that has the keys
     resize(kUsualWidth, kUsualHeight);
     resizeDocks({explorerDock_}, {kUsualExplorerWidth}, Qt::Horizontal);
