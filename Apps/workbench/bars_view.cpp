@@ -1,6 +1,7 @@
 #include "Apps/workbench/bars_view.h"
 #include "Apps/workbench/command_icons.h"
 #include "Apps/workbench/text.h"
+#include "Apps/workbench/theme.h"
 #include <QAction>
 #include <QBitmap>
 #include <QMainWindow>
@@ -49,9 +50,24 @@ void setActions(QWidget& widget, const QList<QAction*>& wanted, const QList<bool
 /// The grey that stands for nothing in a face.
 const QColor kFaceGround(192, 192, 192);
 
-QIcon faceOf(const host::BarControl& control) {
+/// The black lines of a face would vanish on a dark bar.
+QImage withLightLines(const QImage& face) {
+    constexpr int kDarkest = 90;
+    auto light = face.convertToFormat(QImage::Format_RGB32);
+    for (int y = 0; y < light.height(); ++y)
+        for (int x = 0; x < light.width(); ++x) {
+            const auto colour = light.pixelColor(x, y);
+            if (colour.value() < kDarkest)
+                light.setPixelColor(
+                    x, y, QColor::fromHsv(colour.hsvHue(), colour.hsvSaturation() / 2, 255 - colour.value() / 2));
+        }
+    return light;
+}
+
+QIcon faceOf(const host::BarControl& control, Theme theme) {
     QImage face;
     if (!face.loadFromData(QByteArray::fromStdString(control.face()), "BMP")) return iconOf(control.Id());
+    if (theme == Theme::Dark) face = withLightLines(face);
     QIcon icon;
     for (const int scale : {1, 2, 3}) { // each of a face's pixels in whole pixels of the screen
         auto picture = QPixmap::fromImage(face.scaled(face.size() * scale));
@@ -125,9 +141,10 @@ QAction* BarsView::actionOf(const std::shared_ptr<host::BarControl>& control) {
 
 void BarsView::showButton(Drawn& drawn, const host::BarControl& control) {
     auto& action = *drawn.button;
-    if (drawn.face != control.face()) {
-        drawn.face = control.face();
-        action.setIcon(faceOf(control));
+    const auto looks = std::pair(control.face(), currentTheme());
+    if (drawn.looks != looks) {
+        drawn.looks = looks;
+        action.setIcon(faceOf(control, looks.second));
     }
     action.setIconVisibleInMenu(control.Style() != office::msoButtonCaption);
     action.setCheckable(control.checked().has_value());

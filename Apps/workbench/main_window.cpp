@@ -14,7 +14,7 @@ constexpr auto kGeometryKey = "window/geometry", kStateKey = "window/state", kTh
                kLight = "light";
 /// Counts up when docks and toolbars change so much that an old arrangement makes no sense.
 constexpr int kLayoutVersion = 1;
-constexpr int kUsualWidth = 1100, kUsualHeight = 720, kUsualExplorerWidth = 270;
+constexpr int kUsualWidth = 1100, kUsualHeight = 720, kUsualExplorerWidth = 270, kUsualMessagesHeight = 180;
 
 } // namespace
 
@@ -77,6 +77,7 @@ QDockWidget* MainWindow::addDock(const QString& name, const QString& title, QWid
     dock->setObjectName(name);
     dock->setWidget(widget);
     addDockWidget(area, dock);
+    if (area == Qt::BottomDockWidgetArea) resizeDocks({dock}, {kUsualMessagesHeight}, Qt::Vertical);
     allDocks_.push_back(dock);
     dockAdded(*dock);
     return dock;
@@ -154,6 +155,7 @@ void MainWindow::setTheme(Theme theme) {
 void MainWindow::showTheme(Theme theme) {
     apply(theme);
     code_->colour(theme);
+    bars_.draw();
 }
 
 } // namespace workbench

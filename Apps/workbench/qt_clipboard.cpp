@@ -25,8 +25,7 @@ const QtClipboard::Contents& QtClipboard::desktops() const {
         read_.reset(); // another program may copy something
     });
     if (const auto* held = QGuiApplication::clipboard()->mimeData())
-        for (const auto& format : held->formats())
-            read_->emplace_back(text(format), held->data(format).toStdString());
+        for (const auto& format : held->formats()) read_->emplace_back(text(format), held->data(format).toStdString());
     return *read_;
 }
 
