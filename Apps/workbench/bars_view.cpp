@@ -50,16 +50,16 @@ void setActions(QWidget& widget, const QList<QAction*>& wanted, const QList<bool
 /// The grey that stands for nothing in a face.
 const QColor kFaceGround(192, 192, 192);
 
-/// The black lines of a face would vanish on a dark bar.
+/// The dark lines of a face would vanish on a dark bar.
 QImage withLightLines(const QImage& face) {
-    constexpr int kDarkest = 90;
+    constexpr int kDarkest = 60;
     auto light = face.convertToFormat(QImage::Format_RGB32);
     for (int y = 0; y < light.height(); ++y)
         for (int x = 0; x < light.width(); ++x) {
             const auto colour = light.pixelColor(x, y);
-            if (colour.value() < kDarkest)
+            if (qGray(colour.rgb()) < kDarkest)
                 light.setPixelColor(
-                    x, y, QColor::fromHsv(colour.hsvHue(), colour.hsvSaturation() / 2, 255 - colour.value() / 2));
+                    x, y, QColor::fromHsv(colour.hsvHue(), colour.hsvSaturation() / 2, 255 - colour.value() / 4));
         }
     return light;
 }

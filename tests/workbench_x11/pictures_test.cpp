@@ -16,7 +16,8 @@ struct Pictures : XDesktop {
             const auto frame = window().frameGeometry();
             return window().screen()->grabWindow(0, frame.x(), frame.y(), frame.width(), frame.height()).toImage();
         });
-        EXPECT_TRUE(picture.save(QString(FERNWICK_BINARY_DIR "/window-%1.png").arg(name)));
+        const auto scale = picture.devicePixelRatio() > 1 ? "@2x" : "";
+        EXPECT_TRUE(picture.save(QString(FERNWICK_BINARY_DIR "/window-%1%2.png").arg(name, scale)));
         return picture;
     }
     void compileWithAnError() {
