@@ -76,8 +76,10 @@ QDockWidget* MainWindow::addDock(const QString& name, const QString& title, QWid
     auto* const dock = new QDockWidget(title, this);
     dock->setObjectName(name);
     dock->setWidget(widget);
-    addDockWidget(area, dock);
-    if (area == Qt::BottomDockWidgetArea) resizeDocks({dock}, {kUsualMessagesHeight}, Qt::Vertical);
+    if (!restoreDockWidget(dock)) { // what an add-in brings comes after the window was restored
+        addDockWidget(area, dock);
+        if (area == Qt::BottomDockWidgetArea) resizeDocks({dock}, {kUsualMessagesHeight}, Qt::Vertical);
+    }
     allDocks_.push_back(dock);
     dockAdded(*dock);
     return dock;
