@@ -108,16 +108,10 @@ void addProjectMenu(host::Host& host, MainWindow& window) {
         .add(kStartUpProjectId, "Set as Start &Up", [&window] { setAsStartUp(window); });
 }
 
-std::shared_ptr<host::Bar> addTopMenu(host::Host& host, int id, const char* caption, int before) {
-    const auto menuBar = basic::cast<host::Bar>(host.CommandBars()->ActiveMenuBar()).shared();
-    const auto menu = menuBar->add(office::msoControlPopup, id, controlOf(host, before)->Index());
-    menu->Caption(caption);
-    return menu->popup();
-}
-
 /// As Run > Start anywhere: what the user has written comes to run, here on its device.
 void addRunMenu(host::Host& host, const WindowDeeds& deeds) {
-    Menu(addTopMenu(host, kRunMenuId, "&Run", host::kAddInsMenuId)).add(kStartId, "&Start on Device", deeds.start);
+    Menu(addTopMenu(host, kRunMenuId, "&Run", host::kAddInsMenuId)->popup())
+        .add(kStartId, "&Start on Device", deeds.start);
 }
 
 /// Add-ins that are listed, each a switch that connects it.
