@@ -36,6 +36,7 @@ enum WindowCommandId : int {
     kToolBarId,
     kRemoveComponentId,
     kStartUpProjectId,
+    kProjectPropertiesId,
     kStartId,
     kAddInId,
     kWindowMenuId,

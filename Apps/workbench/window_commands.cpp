@@ -3,6 +3,7 @@
 #include "Apps/workbench/component_commands.h"
 #include "Apps/workbench/dock_menu.h"
 #include "Apps/workbench/menu_builder.h"
+#include "Apps/workbench/project_properties.h"
 #include "Apps/workbench/project_saving.h"
 #include "Apps/workbench/scintilla.h"
 #include "Apps/workbench/text.h"
@@ -105,7 +106,10 @@ void addProjectMenu(host::Host& host, MainWindow& window) {
         .add(kAddFileId, "&Add File...", [&host, &window] { addFile(host, window); })
         .add(kRemoveComponentId, "&Remove File", [&window] { removeComponent(window); })
         .group()
-        .add(kStartUpProjectId, "Set as Start &Up", [&window] { setAsStartUp(window); });
+        .add(kStartUpProjectId, "Set as Start &Up", [&window] { setAsStartUp(window); })
+        .add(kProjectPropertiesId, "&Properties...", [&host, &window] {
+            if (const auto active = host.ActiveVBProject()) editProperties(active, &window);
+        });
 }
 
 /// As Run > Start anywhere: what the user has written comes to run, here on its device.

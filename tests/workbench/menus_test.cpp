@@ -1,11 +1,16 @@
 // The window's own commands, and how they are reached.
 #include "Apps/workbench/new_project.h"
+#include "Apps/workbench/project_properties.h"
 #include "Host/model/tool_windows.h"
 #include "tests/workbench/desktop.h"
 #include <QAccessible>
+#include <QComboBox>
+#include <QDialogButtonBox>
 #include <QDockWidget>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
+#include <QPushButton>
 #include <QToolBar>
 #include <gmock/gmock.h>
 #include <set>
@@ -243,6 +248,37 @@ TEST_F(DesktopMenus, TheProjectStartsWithTheChosenComponent) {
     editor("frmPerson");
     menuItem("&Project", "Set as Start &Up")->trigger();
     EXPECT_EQ(project()->VBComponents()->StartUpObject().component, component("frmPerson"));
+}
+
+TEST_F(DesktopMenus, AProjectsPropertiesAreItsNameAndWhatItStartsWith) {
+    openSample("AddressBook");
+    test::whenShown<workbench::ProjectProperties>([](workbench::ProjectProperties& dialog) {
+        EXPECT_EQ(dialog.findChild<QComboBox*>("startUp")->currentText(), "frmList");
+        dialog.findChild<QComboBox*>("startUp")->setCurrentText("Sub Main");
+        dialog.findChild<QLineEdit*>("name")->setText("Contacts");
+        EXPECT_TRUE(dialog.grab().save(FERNWICK_BINARY_DIR "/workbench-properties.png"));
+        dialog.accept();
+    });
+    menuItem("&Project", "&Properties...")->trigger();
+    EXPECT_EQ(project()->Name(), "Contacts");
+    EXPECT_TRUE(project()->VBComponents()->StartUpObject().isSubMain);
+    EXPECT_TRUE(project()->IsDirty());
+}
+
+TEST_F(DesktopMenus, AProjectGetsNoNameThatIsNone) {
+    openSample("AddressBook");
+    test::whenShown<workbench::ProjectProperties>([](workbench::ProjectProperties& dialog) {
+        auto* const ok = dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
+        for (const char* name : {"", "1st", "two words"}) {
+            dialog.findChild<QLineEdit*>("name")->setText(name);
+            EXPECT_FALSE(ok->isEnabled()) << name;
+        }
+        dialog.findChild<QLineEdit*>("name")->setText("First_1");
+        EXPECT_TRUE(ok->isEnabled());
+        dialog.reject();
+    });
+    menuItem("&Project", "&Properties...")->trigger();
+    EXPECT_EQ(project()->Name(), "AddressBook");
 }
 
 TEST_F(DesktopMenus, StartingCompilesAndPutsItOnTheDevice) {
