@@ -2,6 +2,7 @@
 #include "Apps/workbench/command_icons.h"
 #include "Apps/workbench/pictures.h"
 #include "Apps/workbench/text.h"
+#include "Apps/workbench/theme.h"
 #include <QAction>
 #include <QMainWindow>
 #include <QMenu>
@@ -46,11 +47,27 @@ void setActions(QWidget& widget, const QList<QAction*>& wanted, const QList<bool
     }
 }
 
-QIcon faceOf(const host::BarControl& control) {
+/// The dark lines of a face would vanish on a dark bar.
+QImage withLightLines(const QImage& face) {
+    constexpr int kDarkest = 60;
+    auto light = face.convertToFormat(QImage::Format_RGB32);
+    for (int y = 0; y < light.height(); ++y)
+        for (int x = 0; x < light.width(); ++x) {
+            const auto colour = light.pixelColor(x, y);
+            if (qGray(colour.rgb()) < kDarkest)
+                light.setPixelColor(
+                    x, y, QColor::fromHsv(colour.hsvHue(), colour.hsvSaturation() / 2, 255 - colour.value() / 4));
+        }
+    return light;
+}
+
+QIcon faceOf(const host::BarControl& control, Theme theme) {
+    auto face = imageOf(control.face());
+    if (face.isNull()) return iconOf(control.Id());
+    if (theme == Theme::Dark) face = withLightLines(face);
     QIcon icon;
-    for (const int scale : {1, 2, 3}) // each of a face's pixels in whole pixels of the screen
-        if (const auto face = pictureOf(control.face(), scale); !face.isNull()) icon.addPixmap(face);
-    return icon.isNull() ? iconOf(control.Id()) : icon;
+    for (const int scale : {1, 2, 3}) icon.addPixmap(seeThrough(face, scale));
+    return icon;
 }
 
 } // namespace
@@ -116,9 +133,10 @@ QAction* BarsView::actionOf(const std::shared_ptr<host::BarControl>& control) {
 
 void BarsView::showButton(Drawn& drawn, const host::BarControl& control) {
     auto& action = *drawn.button;
-    if (drawn.face != control.face()) {
-        drawn.face = control.face();
-        action.setIcon(faceOf(control));
+    const auto looks = std::pair(control.face(), currentTheme());
+    if (drawn.looks != looks) {
+        drawn.looks = looks;
+        action.setIcon(faceOf(control, looks.second));
     }
     action.setIconVisibleInMenu(control.Style() != office::msoButtonCaption);
     action.setCheckable(control.checked().has_value());

@@ -1,5 +1,6 @@
 #pragma once
 // Draws the host's menus and toolbars, whoever put them there.
+#include "Apps/workbench/theme.h"
 #include "Apps/workbench/toolbar_docking.h"
 #include "Host/model/bars.h"
 #include <QTimer>
@@ -34,8 +35,8 @@ private:
     struct Drawn {
         std::unique_ptr<QAction> button;
         std::unique_ptr<QMenu> popup;
-        /// The face that its picture shows.
-        std::optional<std::string> face;
+        /// The face that its picture shows, and for which theme.
+        std::optional<std::pair<std::string, Theme>> looks;
         bool current = false;
     };
 

@@ -61,6 +61,7 @@ CodeEditor::CodeEditor(vbide::Ref<vbide::VBComponent> component, Refused refused
 QsciScintilla& CodeEditor::scintilla() { return *text_; }
 
 void CodeEditor::prepareText() {
+    text_->setAccessibleName("Code");
     text_->setUtf8(true);
     text_->setEolMode(QsciScintilla::EolUnix); // the host has its own line ends
     text_->setLexer(lexer_);

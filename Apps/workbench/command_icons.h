@@ -37,6 +37,7 @@ enum WindowCommandId : int {
     kToolBarId,
     kRemoveComponentId,
     kStartUpProjectId,
+    kProjectPropertiesId,
     kStartId,
     kAddInId,
     kWindowMenuId,

@@ -13,7 +13,7 @@ namespace {
 /// A control that is not seen at run time has a small square on the form.
 constexpr double kHiddenSize = 28;
 /// What a size may be: coordinates beyond this are damage.
-constexpr double kLargestPixels = 20000;
+constexpr double kLargestPixels = 16384;
 constexpr std::int32_t kFormColour = std::int32_t(0x8000000f);
 
 using Controls = std::vector<vbide::Ref<vbide::VBControl>>;

@@ -1,3 +1,4 @@
+#include "Apps/workbench/letter_icons.h"
 #include "Apps/workbench/workbench.h"
 #include <QApplication>
 #include <QCommandLineParser>
@@ -10,7 +11,7 @@ int main(int argc, char** argv) {
     QApplication::setApplicationDisplayName("Fernwick Workbench");
     QApplication::setApplicationVersion(FERNWICK_VERSION);
     QApplication::setDesktopFileName("fernwick-workbench");
-    QApplication::setWindowIcon(QIcon::fromTheme("fernwick-workbench"));
+    QApplication::setWindowIcon(QIcon::fromTheme("fernwick-workbench", workbench::projectIcon()));
 
     QCommandLineParser options;
     options.setApplicationDescription("Turns Visual Basic 6 projects into applications for handhelds.");

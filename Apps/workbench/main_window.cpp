@@ -14,7 +14,8 @@ constexpr auto kGeometryKey = "window/geometry", kStateKey = "window/state", kTh
                kLight = "light";
 /// Counts up when docks and toolbars change so much that an old arrangement makes no sense.
 constexpr int kLayoutVersion = 1;
-constexpr int kUsualWidth = 1100, kUsualHeight = 720, kUsualExplorerWidth = 270, kUsualToolboxWidth = 140;
+constexpr int kUsualWidth = 1100, kUsualHeight = 720, kUsualExplorerWidth = 270, kUsualToolboxWidth = 140,
+              kUsualMessagesHeight = 180;
 
 } // namespace
 
@@ -34,6 +35,7 @@ MainWindow::MainWindow(host::Host& host, BarsView::Run run, MayClose mayClose)
       bars_(host.bars(), *this, run_) {
     setObjectName("workbench");
     setCentralWidget(code_);
+    code_->setAccessibleName("Code windows");
     code_->setFocus(); // where work begins; the command of a dock would hide the one that has the keys
     resize(kUsualWidth, kUsualHeight);
     resizeDocks({explorerDock_, toolboxDock_}, {kUsualExplorerWidth, kUsualToolboxWidth}, Qt::Horizontal);
@@ -74,7 +76,10 @@ QDockWidget* MainWindow::addDock(const QString& name, const QString& title, QWid
     auto* const dock = new QDockWidget(title, this);
     dock->setObjectName(name);
     dock->setWidget(widget);
-    addDockWidget(area, dock);
+    if (!restoreDockWidget(dock)) { // what an add-in brings comes after the window was restored
+        addDockWidget(area, dock);
+        if (area == Qt::BottomDockWidgetArea) resizeDocks({dock}, {kUsualMessagesHeight}, Qt::Vertical);
+    }
     allDocks_.push_back(dock);
     dockAdded(*dock);
     return dock;
@@ -154,6 +159,7 @@ void MainWindow::setTheme(Theme theme) {
 void MainWindow::showTheme(Theme theme) {
     apply(theme);
     code_->colour(theme);
+    bars_.draw();
 }
 
 } // namespace workbench

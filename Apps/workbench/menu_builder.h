@@ -41,6 +41,14 @@ private:
     bool group_ = false;
 };
 
+/// A new menu of the menu bar, left of the one with the id `before`.
+inline std::shared_ptr<host::BarControl> addTopMenu(host::Host& host, int id, const char* caption, int before) {
+    const auto menuBar = basic::cast<host::Bar>(host.CommandBars()->ActiveMenuBar()).shared();
+    const auto control = menuBar->add(office::msoControlPopup, id, controlOf(host, before)->Index());
+    control->Caption(caption);
+    return control;
+}
+
 inline Menu menuOf(host::Host& host, int id) { return Menu(controlOf(host, id)->popup()); }
 
 } // namespace workbench

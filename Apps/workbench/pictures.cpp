@@ -34,13 +34,18 @@ QPixmap pictureNamed(const std::string& name, const QWidget& window) {
     return QPixmap(qt(name));
 }
 
-QPixmap pictureOf(const std::string& bmp, int scale) {
-    QImage image;
-    if (!image.loadFromData(QByteArray::fromStdString(bmp), "BMP")) return {};
+QImage imageOf(const std::string& bmp) { return QImage::fromData(QByteArray::fromStdString(bmp), "BMP"); }
+
+QPixmap seeThrough(const QImage& image, int scale) {
     auto picture = QPixmap::fromImage(image.scaled(image.size() * scale));
     picture.setMask(picture.createMaskFromColor(kPictureGround.rgb()));
     picture.setDevicePixelRatio(scale);
     return picture;
+}
+
+QPixmap pictureOf(const std::string& bmp) {
+    const auto image = imageOf(bmp);
+    return image.isNull() ? QPixmap() : seeThrough(image);
 }
 
 } // namespace workbench

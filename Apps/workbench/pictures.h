@@ -9,8 +9,12 @@ namespace workbench {
 /// that is not known and for a file that is no picture.
 QPixmap pictureNamed(const std::string& name, const QWidget& window);
 
-/// A BMP file's bytes, with the grey that stands for nothing in the installation's pictures see-through; an empty one for
-/// what is no picture. `scale` is a screen's device pixel ratio.
-QPixmap pictureOf(const std::string& bmp, int scale = 1);
+/// Of a BMP file's bytes; an empty one for what is no picture.
+QImage imageOf(const std::string& bmp);
+/// With the grey that stands for nothing in the installation's pictures see-through, and each pixel as whole pixels of a
+/// screen with this device pixel ratio.
+QPixmap seeThrough(const QImage& image, int scale = 1);
+/// Both at once.
+QPixmap pictureOf(const std::string& bmp);
 
 } // namespace workbench

@@ -4,6 +4,7 @@
 #include "Apps/workbench/dock_menu.h"
 #include "Apps/workbench/edit_commands.h"
 #include "Apps/workbench/menu_builder.h"
+#include "Apps/workbench/project_properties.h"
 #include "Apps/workbench/project_saving.h"
 #include "Apps/workbench/text.h"
 #include "Apps/workbench/window_menu.h"
@@ -71,19 +72,16 @@ void addProjectMenu(host::Host& host, MainWindow& window) {
         .add(kAddFileId, "&Add File...", [&host, &window] { addFile(host, window); })
         .add(kRemoveComponentId, "&Remove File", [&window] { removeComponent(window); })
         .group()
-        .add(kStartUpProjectId, "Set as Start &Up", [&window] { setAsStartUp(window); });
-}
-
-std::shared_ptr<host::Bar> addTopMenu(host::Host& host, int id, const char* caption, int before) {
-    const auto menuBar = basic::cast<host::Bar>(host.CommandBars()->ActiveMenuBar()).shared();
-    const auto menu = menuBar->add(office::msoControlPopup, id, controlOf(host, before)->Index());
-    menu->Caption(caption);
-    return menu->popup();
+        .add(kStartUpProjectId, "Set as Start &Up", [&window] { setAsStartUp(window); })
+        .add(kProjectPropertiesId, "&Properties...", [&host, &window] {
+            if (const auto active = host.ActiveVBProject()) editProperties(active, &window);
+        });
 }
 
 /// As Run > Start anywhere: what the user has written comes to run, here on its device.
 void addRunMenu(host::Host& host, const WindowDeeds& deeds) {
-    Menu(addTopMenu(host, kRunMenuId, "&Run", host::kAddInsMenuId)).add(kStartId, "&Start on Device", deeds.start);
+    Menu(addTopMenu(host, kRunMenuId, "&Run", host::kAddInsMenuId)->popup())
+        .add(kStartId, "&Start on Device", deeds.start);
 }
 
 /// Add-ins that are listed, each a switch that connects it.

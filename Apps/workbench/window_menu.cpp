@@ -48,10 +48,7 @@ void listWindows(host::Bar& menu, CodeWindows& windows) {
 } // namespace
 
 void addWindowMenu(host::Host& host, CodeWindows& windows) {
-    const auto menuBar = basic::cast<host::Bar>(host.CommandBars()->ActiveMenuBar()).shared();
-    const auto control =
-        menuBar->add(office::msoControlPopup, kWindowMenuId, controlOf(host, host::kHelpMenuId)->Index());
-    control->Caption("&Window");
+    const auto control = addTopMenu(host, kWindowMenuId, "&Window", host::kHelpMenuId);
     Menu(control->popup())
         .add(kNextWindowId, "&Next Window", [&windows] { step(windows, 1); })
         .add(kPreviousWindowId, "&Previous Window", [&windows] { step(windows, -1); })

@@ -330,6 +330,38 @@ TEST_F(Desktop, LayoutAndThemeComeBack) {
     QSettings().clear();
 }
 
+TEST_F(Desktop, TheMessagesComeBackWhereTheyStood) {
+    openSample("HelloWorld");
+    auto* dock = window().findChild<QDockWidget*>("Fernwick Messages");
+    dock->show();
+    window().addDockWidget(Qt::LeftDockWidgetArea, dock);
+    settle();
+    window().close();
+    bench = std::make_unique<workbench::Workbench>();
+    window().show();
+    bench->connect();
+    settle();
+    dock = window().findChild<QDockWidget*>("Fernwick Messages");
+    EXPECT_EQ(window().dockWidgetArea(dock), Qt::LeftDockWidgetArea);
+    QSettings().clear();
+}
+
+TEST_F(Desktop, ItLooksAsTheDesktopDoesUntilTheUserChooses) {
+    QSettings().clear();
+    window().saveLayout();
+    workbench::apply(workbench::Theme::Dark); // as the desktop's palette is
+    {
+        workbench::Workbench next;
+        EXPECT_EQ(workbench::currentTheme(), workbench::Theme::Dark);
+    }
+    menuItem("&View", "&Light or Dark")->trigger();
+    EXPECT_EQ(workbench::currentTheme(), workbench::Theme::Light);
+    workbench::apply(workbench::Theme::Dark);
+    workbench::Workbench chosen;
+    EXPECT_EQ(workbench::currentTheme(), workbench::Theme::Light);
+    QSettings().clear();
+}
+
 /// Forms, in the same way.
 TEST_F(Desktop, FormsLookLikeTheirPictures) {
     openSample("HelloWorld");

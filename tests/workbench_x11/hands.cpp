@@ -16,7 +16,8 @@ namespace {
 constexpr int kMostWaiting = 10'000, kBetweenLooks = 5, kDragSteps = 12;
 
 void moveTo(QStringList& arguments, const QPoint& at) {
-    arguments << "mousemove" << QString::number(at.x()) << QString::number(at.y());
+    const auto pixels = QPointF(at) * qApp->devicePixelRatio();
+    arguments << "mousemove" << QString::number(int(pixels.x())) << QString::number(int(pixels.y()));
 }
 
 QString plain(QString caption) { return caption.remove('&'); }

@@ -3,6 +3,7 @@
 #include <QDockWidget>
 #include <QProcess>
 #include <QToolBar>
+#include <set>
 
 using namespace test;
 using workbench::BarPlace;
@@ -69,6 +70,23 @@ TEST_F(Window, ADockComesBackWhereTheUserDraggedIt) {
     eventually("it floats", [this] { return window().explorerDock().isFloating(); });
     restart();
     EXPECT_TRUE(ask([this] { return window().explorerDock().isFloating(); }));
+}
+
+TEST_F(Window, TheLetterOfTwoMenusReachesBoth) {
+    connect();
+    std::set<QString> reached;
+    for (int times = 0; times < 2; ++times) {
+        press({"alt+f"});
+        QString chosen;
+        eventually("another menu is chosen", [&] {
+            const auto* active = window().menuBar()->activeAction();
+            chosen = active ? active->text() : QString();
+            return active && !reached.count(chosen);
+        });
+        reached.insert(chosen);
+    }
+    EXPECT_EQ(reached, (std::set<QString>{"&File", "&Fernwick"}));
+    press({"Escape", "Escape"});
 }
 
 TEST_F(Window, CopiedCodeReachesOtherPrograms) {

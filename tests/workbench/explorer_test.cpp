@@ -1,0 +1,71 @@
+// The project explorer: what it shows, and its menu.
+#include "tests/workbench/desktop.h"
+#include <QMenu>
+#include <gmock/gmock.h>
+
+using testing::ElementsAre;
+
+namespace {
+
+struct DesktopExplorer : test::Desktop {
+    /// Opens the menu of an entry, does this with it, and gives its commands.
+    std::vector<std::string> menuOf(const QString& text, const QString& chosen = {}) {
+        auto& tree = window().explorer();
+        tree.setCurrentItem(entry(text));
+        std::vector<std::string> commands;
+        QTimer look;
+        QObject::connect(&look, &QTimer::timeout, [&] {
+            auto* menu = dynamic_cast<QMenu*>(QApplication::activePopupWidget());
+            if (!menu) return;
+            look.stop();
+            for (auto* action : menu->actions()) {
+                if (!action->isSeparator()) commands.push_back(action->text().toStdString());
+                if (action->text() == chosen) action->trigger();
+            }
+            menu->close();
+        });
+        look.start(5);
+        Q_EMIT tree.customContextMenuRequested(tree.visualItemRect(entry(text)).center());
+        settle();
+        return commands;
+    }
+};
+
+} // namespace
+
+TEST_F(DesktopExplorer, EntriesHavePicturesAndTheProjectsAreAllThere) {
+    openSample("HelloWorld");
+    openSample("AddressBook");
+    EXPECT_EQ(window().explorer().topLevelItemCount(), 2);
+    EXPECT_FALSE(entry("frmHello")->icon(0).isNull());
+    EXPECT_TRUE(entry("AddressBook")->font(0).bold());
+    EXPECT_FALSE(entry("HelloWorld")->font(0).bold());
+}
+
+TEST_F(DesktopExplorer, AComponentsMenu) {
+    openSample("AddressBook");
+    EXPECT_THAT(menuOf("frmList"),
+                ElementsAre("&Code", "&Save File", "Save File &As...", "&Remove File", "Set as Start &Up"));
+    menuOf("clsPerson", "&Code");
+    EXPECT_EQ(window().code().tabText(0), "clsPerson");
+}
+
+TEST_F(DesktopExplorer, AProjectsMenuIsAboutThatProject) {
+    openSample("HelloWorld");
+    openSample("AddressBook");
+    menuOf("HelloWorld", "Add &Class Module");
+    EXPECT_EQ(project()->Name(), "HelloWorld");
+    EXPECT_TRUE(entry("Class1"));
+    EXPECT_EQ(entry("Class1")->parent()->parent(), entry("HelloWorld"));
+}
+
+TEST_F(DesktopExplorer, AGroupsMenuAddsToIt) {
+    openSample("AddressBook");
+    EXPECT_THAT(menuOf("Forms"), ElementsAre("Add &Form", "Add &Module", "Add &Class Module", "&Add File..."));
+}
+
+TEST_F(DesktopExplorer, ANewProjectHasNoFilesYet) {
+    openSample("HelloWorld");
+    menuOf("HelloWorld", "Add &Module");
+    EXPECT_TRUE(entry("Module1 (Module1) *"));
+}
