@@ -3,6 +3,8 @@
 #include "Apps/workbench/property_rows.h"
 #include <QStyledItemDelegate>
 
+class QComboBox;
+
 namespace workbench {
 
 /// A list for what can be chosen, a list of colours that can be typed too, a line for all else. What is chosen from a list
@@ -16,7 +18,7 @@ public:
     void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override;
 
 private:
-    void takeAtOnce(class QComboBox& list) const;
+    void takeAtOnce(QComboBox& list) const;
 
     const PropertyRows& rows_;
 };
