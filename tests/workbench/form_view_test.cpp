@@ -231,6 +231,7 @@ using FormDesigners = test::DesignerDesktop;
 TEST_F(FormDesigners, LookLikeTheirPictures) {
     openForm(kShowcase);
     clickOn("cmdOK");
+    properties().table().edit(valueCell("BackColor"));
     for (const auto& [theme, name] :
          {std::pair(workbench::Theme::Light, "light"), std::pair(workbench::Theme::Dark, "dark")}) {
         window().setTheme(theme);
