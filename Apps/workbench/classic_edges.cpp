@@ -5,7 +5,8 @@ namespace workbench {
 
 namespace {
 
-const QColor kFace("#d4d0c8"), kLight("#ffffff"), kShadow("#808080"), kDark("#404040"), kInk("#000000");
+const QColor kEdgeFace("#d4d0c8"), kEdgeLight("#ffffff"), kEdgeShadow("#808080"), kEdgeDark("#404040"),
+    kEdgeInk("#000000");
 
 /// One ring: top and left in one colour, bottom and right in the other.
 void drawRing(QPainter& painter, const QRectF& place, const QColor& topLeft, const QColor& bottomRight) {
@@ -31,14 +32,14 @@ QRectF drawTrack(QPainter& painter, const QRectF& place) {
 QRectF drawBorder(QPainter& painter, const QRectF& place, ControlBorder border) {
     switch (border) {
     case ControlBorder::None: return place;
-    case ControlBorder::Single: drawRing(painter, place, kInk, kInk); return within(place, 1);
+    case ControlBorder::Single: drawRing(painter, place, kEdgeInk, kEdgeInk); return within(place, 1);
     case ControlBorder::Raised:
-        drawRing(painter, place, kLight, kDark);
-        drawRing(painter, within(place, 1), kFace, kShadow);
+        drawRing(painter, place, kEdgeLight, kEdgeDark);
+        drawRing(painter, within(place, 1), kEdgeFace, kEdgeShadow);
         return within(place, 2);
     case ControlBorder::Sunken:
-        drawRing(painter, place, kShadow, kLight);
-        drawRing(painter, within(place, 1), kDark, kFace);
+        drawRing(painter, place, kEdgeShadow, kEdgeLight);
+        drawRing(painter, within(place, 1), kEdgeDark, kEdgeFace);
         return within(place, 2);
     }
     return place;
@@ -68,7 +69,7 @@ void drawTriangle(QPainter& painter, const QRectF& area, Pointing pointing, cons
 }
 
 void drawArrowButton(QPainter& painter, const QRectF& place, Pointing pointing) {
-    drawTriangle(painter, drawRaised(painter, place, kFace), pointing, kInk);
+    drawTriangle(painter, drawRaised(painter, place, kEdgeFace), pointing, kEdgeInk);
 }
 
 void drawScrollBar(QPainter& painter, const QRectF& place, bool across, double thumb) {
@@ -83,7 +84,7 @@ void drawScrollBar(QPainter& painter, const QRectF& place, bool across, double t
     drawArrowButton(painter, part(0, button), across ? Pointing::Left : Pointing::Up);
     drawArrowButton(painter, part(length - button, button), across ? Pointing::Right : Pointing::Down);
     const double room = length - 3 * button;
-    if (thumb >= 0 && room > 0) drawRaised(painter, part(button + room * thumb, button), kFace);
+    if (thumb >= 0 && room > 0) drawRaised(painter, part(button + room * thumb, button), kEdgeFace);
 }
 
 QRectF drawBars(QPainter& painter, const QRectF& place, const ControlLook& look) {
@@ -96,7 +97,7 @@ QRectF drawBars(QPainter& painter, const QRectF& place, const ControlLook& look)
     if (rest.bottom() < place.bottom())
         drawScrollBar(painter, {rest.left(), rest.bottom(), rest.width(), kBarWidth}, true, kNoThumb);
     if (rest.right() < place.right() && rest.bottom() < place.bottom())
-        painter.fillRect(QRectF(rest.bottomRight(), place.bottomRight()), kFace);
+        painter.fillRect(QRectF(rest.bottomRight(), place.bottomRight()), kEdgeFace);
     return rest;
 }
 
@@ -104,21 +105,21 @@ void drawCaption(QPainter& painter, const QRectF& place, const ControlLook& look
     if (look.wrapped) flags |= Qt::TextWordWrap;
     painter.setFont(look.font);
     if (!look.enabled) {
-        painter.setPen(kLight);
+        painter.setPen(kEdgeLight);
         painter.drawText(place.translated(1, 1), flags, text);
     }
-    painter.setPen(look.enabled ? look.fore : kShadow);
+    painter.setPen(look.enabled ? look.fore : kEdgeShadow);
     painter.drawText(place, flags, text);
 }
 
 void drawCheck(QPainter& painter, const QRectF& place, int value) {
     constexpr int kGrayed = 2;
-    painter.fillRect(place, value == kGrayed ? kFace : kLight);
+    painter.fillRect(place, value == kGrayed ? kEdgeFace : kEdgeLight);
     drawBorder(painter, place, ControlBorder::Sunken);
     if (value == 0) return;
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(value == kGrayed ? kShadow : kInk, 2));
+    painter.setPen(QPen(value == kGrayed ? kEdgeShadow : kEdgeInk, 2));
     const auto at = place.topLeft();
     painter.drawPolyline(
         QPolygonF{{at.x() + 3.5, at.y() + 6.5}, {at.x() + 5.5, at.y() + 8.5}, {at.x() + 9.5, at.y() + 4}});
@@ -128,11 +129,11 @@ void drawCheck(QPainter& painter, const QRectF& place, int value) {
 void drawOption(QPainter& painter, const QRectF& place, bool chosen) {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(kShadow, 1.5));
-    painter.setBrush(kLight);
+    painter.setPen(QPen(kEdgeShadow, 1.5));
+    painter.setBrush(kEdgeLight);
     painter.drawEllipse(place.adjusted(0.75, 0.75, -0.75, -0.75));
     painter.setPen(Qt::NoPen);
-    painter.setBrush(kInk);
+    painter.setBrush(kEdgeInk);
     if (chosen) painter.drawEllipse(place.center(), 2.2, 2.2);
     painter.restore();
 }

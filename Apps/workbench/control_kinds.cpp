@@ -13,7 +13,7 @@ struct KindOfClass {
     std::string_view className;
     ControlKind kind;
 };
-constexpr std::array kKinds{
+constexpr std::array kKindsOfClasses{
     KindOfClass{"VB.Label", ControlKind::Label},
     KindOfClass{"VB.TextBox", ControlKind::TextBox},
     KindOfClass{"VB.CommandButton", ControlKind::Button},
@@ -66,7 +66,7 @@ constexpr std::array<std::string_view, 3> kContainers{"VB.Frame", "VB.PictureBox
 } // namespace
 
 ControlKind kindOfControl(const std::string& className) {
-    for (const auto& entry : kKinds)
+    for (const auto& entry : kKindsOfClasses)
         if (basic::equalNoCase(entry.className, className)) return entry.kind;
     return ControlKind::Other;
 }

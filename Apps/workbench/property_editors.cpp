@@ -55,12 +55,18 @@ void PropertyEditors::takeAtOnce(QComboBox& list) const {
     });
 }
 
+/// Over the swatch of a colour too: its text needs the room.
+void PropertyEditors::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
+                                           const QModelIndex&) const {
+    editor->setGeometry(option.rect);
+}
+
 void PropertyEditors::setEditorData(QWidget* editor, const QModelIndex& index) const {
     const auto shown = index.data(Qt::EditRole).toString();
     if (auto* line = dynamic_cast<QLineEdit*>(editor)) return line->setText(shown);
     auto& list = dynamic_cast<QComboBox&>(*editor);
     if (!list.isEditable()) return list.setCurrentText(shown);
-    list.setCurrentIndex(list.findData(shown));
+    list.setCurrentIndex(-1); // the present colour's picture would push its text away
     list.setEditText(shown);
     list.lineEdit()->selectAll();
 }
