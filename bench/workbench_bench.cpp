@@ -1,8 +1,10 @@
 // How long the desktop takes until it is drawn: empty, and with a project of 300 components of which none is shown. What
-// isn't shown is read but not taken apart, so a project costs little more than its files.
+// isn't shown is read but not taken apart, so a project costs little more than its files. And how the messages grow: ten
+// times as many cost ten times as much to add and to lay out anew, not more.
 #include "Apps/workbench/workbench.h"
 #include "tests/support/sample_project.h"
 #include <QApplication>
+#include <QLineEdit>
 #include <QTest>
 #include <chrono>
 #include <fmt/format.h>
@@ -39,6 +41,82 @@ double timeToPaint(const std::string& path) {
     return best;
 }
 
+constexpr int kFewMessages = 1'000, kManyMessages = 10'000;
+
+/// Milliseconds of `act`, until all of it is drawn.
+template <class Act>
+double drawn(QWidget& window, Act&& act) {
+    const auto begin = std::chrono::steady_clock::now();
+    act();
+    QApplication::processEvents();
+    (void)window.grab();
+    const std::chrono::duration<double, std::milli> taken = std::chrono::steady_clock::now() - begin;
+    return taken.count();
+}
+
+struct MessageTimes {
+    double added = 1e9, oneByOne = 1e9, resized = 1e9, filtered = 1e9;
+};
+
+/// Messages of a compile that are added and drawn together, or one by one while events are let in; then a narrower window
+/// and a filter. The best of some rounds.
+MessageTimes timesOfMessages(workbench::Workbench& bench, int count) {
+    auto& window = bench.window();
+    auto& messages = bench.addIn().messages;
+    auto& filter = *window.findChild<QLineEdit*>("messageFilter");
+    const auto add = [&](int number) {
+        const auto text =
+            fmt::format("The name part{} is not declared here. ", number) + std::string(number % 200, 'x');
+        messages.addToToolWindow("/p/modPart.bas", "modPart", number, text, fernwick::ERROR_MSG, 1501, true);
+    };
+    MessageTimes best;
+    for (int round = 0; round < kRounds; ++round) {
+        window.resize(1100, 720);
+        messages.clearToolWindow();
+        QTest::qWait(50); // so that the next picture is due
+        const auto all = drawn(window, [&] {
+            for (int i = 0; i < count; ++i) add(i);
+        });
+        const auto resized = drawn(window, [&] { window.resize(800, 720); });
+        const auto filtered = drawn(window, [&] { filter.setText("part7"); });
+        filter.clear();
+        messages.clearToolWindow();
+        const auto oneByOne = drawn(window, [&] {
+            for (int i = 0; i < count; ++i) {
+                add(i);
+                QApplication::processEvents();
+            }
+        });
+        best = {std::min(best.added, all), std::min(best.oneByOne, oneByOne), std::min(best.resized, resized),
+                std::min(best.filtered, filtered)};
+    }
+    return best;
+}
+
+/// Whether ten times as many messages take at most twice the time that ten times as much would.
+bool messagesGrowLinearly(const std::string& project) {
+    constexpr double kMostRatio = 2.0 * kManyMessages / kFewMessages;
+    workbench::Workbench bench;
+    bench.open(project);
+    bench.connect();
+    bench.window().show();
+    bench.addIn().messages.showToolWindow();
+    if (!QTest::qWaitForWindowExposed(&bench.window())) return false;
+    const auto few = timesOfMessages(bench, kFewMessages), many = timesOfMessages(bench, kManyMessages);
+    bool good = true;
+    const auto tell = [&](const char* what, double less, double more) {
+        fmt::print("{} messages {}: {:.0f} ms, {}: {:.0f} ms, ratio {:.1f} (at most {:.0f})\n", kFewMessages, what,
+                   less, kManyMessages, more, more / less, kMostRatio);
+        good = good && more / less <= kMostRatio;
+    };
+    tell("added at once", few.added, many.added);
+    tell("added one by one", few.oneByOne, many.oneByOne);
+    tell("in a resized window", few.resized, many.resized);
+    tell("filtered", few.filtered, many.filtered);
+    for (const auto& open : bench.host().VBProjects()->items()) open->IsDirty(false);
+    return good;
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -49,8 +127,9 @@ int main(int argc, char** argv) {
     QApplication app(argc, argv);
     workbench::apply(workbench::Theme::Light);
     (void)timeToPaint({}); // fonts and styles are read once
-    const double empty = timeToPaint({}), large = timeToPaint(largeProject(home));
+    const auto project = largeProject(home);
+    const double empty = timeToPaint({}), large = timeToPaint(project);
     fmt::print("first picture: empty {:.0f} ms, {} components {:.0f} ms, ratio {:.2f} (at most 5)\n", empty,
                kComponents, large, large / empty);
-    return large / empty > 5;
+    return !messagesGrowLinearly(project) || large / empty > 5;
 }

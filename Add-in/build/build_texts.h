@@ -12,6 +12,14 @@ inline constexpr char kStatusLabelAtFirst[] = "Status:";
 inline constexpr char kCompileStatus[] = "Compile Status:";
 inline constexpr char kCompilingAndValidating[] = "Compiling and validating...";
 
+/// The wording is known to users of the product as it stands.
+inline constexpr char kNoFontConverter[] = "ERROR!\r\n\r\nCould Launch Converter/Viewer;\r\n"
+                                           "Application is missing or not in default location.";
+/// The list comes up behind it.
+inline constexpr char kNoHelpPage[] =
+    "There is no help page on the message {number}. The list of all messages that have "
+    "one opens instead.";
+
 /// The three outcomes of a compile or validation, for ProjectStatusText, which fills in the numbers.
 struct Outcome {
     std::string success = "SUCCESS - Compile and validate completed successfully.";

@@ -1,16 +1,12 @@
 #include "Add-in/build/udocCompileMsgs.h"
-#include "Add-in/build/build_texts.h"
-#include "Basic/conversions.h"
 #include <fmt/format.h>
 
 namespace fernwick {
 
 namespace {
 
-constexpr int kInvalidRowValue = 30009;
-constexpr std::int32_t kFixedRows = 1;
-/// Behind the end of any line: the whole line is selected.
-constexpr int kEndOfLine = 9999;
+/// Between the status line and the document's edges, in twips.
+constexpr std::int32_t kStatusMargin = 75;
 
 std::string numberCell(std::int32_t number) { return number == 0 ? std::string{} : fmt::to_string(number); }
 
@@ -21,30 +17,46 @@ std::string withoutLineEnd(std::string message) {
 
 } // namespace
 
+udocCompileMsgs::udocCompileMsgs(const CompileMsgsServices& services)
+    : use_(services), grid_(services.platform.screen) {
+    grid_.SetGridSizes(0, 0, 0);
+}
+
+void udocCompileMsgs::SetStatusLabel(const std::string& newStatusLabel) {
+    lblStatus(newStatusLabel);
+    SetStatusSizes();
+}
+
 void udocCompileMsgs::add(const std::string& aFileName, const std::string& aFiletitle, std::int32_t aLineNumber,
                           const std::string& aMessage, int MsgType, std::int32_t errno_, bool AddToTop) {
-    Row row{{aFileName, "", aFiletitle, numberCell(aLineNumber), numberCell(errno_), withoutLineEnd(aMessage)},
-            MsgType == ERROR_MSG || MsgType == WARNING_MSG ? MsgType : 0};
-    if (AddToTop)
-        rows_.push_front(std::move(row));
-    else
-        rows_.push_back(std::move(row));
-    refreshed.raise();
+    if (!use_) return;
+    Procedure here{use_->errors, "udocCompileMsgs.add"};
+    const auto row = grid_.insert(
+        {aFileName, "", aFiletitle, numberCell(aLineNumber), numberCell(errno_), withoutLineEnd(aMessage)}, AddToTop);
+    row->type = MsgType == ERROR_MSG || MsgType == WARNING_MSG ? MsgType : 0;
+    grid_.measure(*row);
+    grid_.fitHeight(*row);
+    (void)basic::attempt([&] { row->picture = pictureOf(MsgType); }); // a row without its picture is a row
+    here([&] { added.raise(AddToTop); });
+}
+
+std::shared_ptr<const std::string> udocCompileMsgs::pictureOf(int number) {
+    if (!use_) throw basic::RuntimeError(basic::kObjectVariableNotSet);
+    auto& picture = pictures_[number];
+    if (!picture) picture = std::make_shared<const std::string>(use_->platform.resources.LoadBitmap(number));
+    return picture;
 }
 
 void udocCompileMsgs::clearMessages() {
-    rows_.clear();
+    if (!use_) return;
+    Procedure here{use_->errors, "udocCompileMsgs.clearMessages"};
+    grid_.clear();
     selectedRow_ = 0;
-    refreshed.raise();
-}
-
-const udocCompileMsgs::Row& udocCompileMsgs::message(std::int32_t row) const {
-    if (row < kFixedRows || row >= rowCount()) throw basic::RuntimeError(kInvalidRowValue, "Invalid Row value");
-    return rows_[std::size_t(row - kFixedRows)];
+    here([&] { cleared.raise(); });
 }
 
 void udocCompileMsgs::gotoFirstError() {
-    for (std::int32_t row = kFixedRows; row < rowCount(); ++row) {
+    for (std::int32_t row = MessageGrid::kFixedRows; row < rowCount(); ++row) {
         if (message(row).cells[LineColumn].empty()) continue;
         gotoMessage(row);
         return;
@@ -52,33 +64,40 @@ void udocCompileMsgs::gotoFirstError() {
 }
 
 void udocCompileMsgs::gotoMessage(std::int32_t MsgIndex) {
-    if (!addIn_) return;
-    Procedure here{*errors_, "udocCompileMsgs.gotoMessage"};
-    if (MsgIndex > kFixedRows + rowCount()) return;
+    if (!use_) return;
+    Procedure here{use_->errors, "udocCompileMsgs.gotoMessage"};
+    if (MsgIndex > MessageGrid::kFixedRows + rowCount()) return;
     here([&] {
-        if (MsgIndex != 0) (void)message(MsgIndex);
-        selectedRow_ = MsgIndex;
+        select(MsgIndex);
+        chosen.raise();
     });
     msgGrid_DblClick();
 }
 
-void udocCompileMsgs::msgGrid_DblClick() {
-    if (!addIn_) return;
-    Procedure here{*errors_, "udocCompileMsgs.msgGrid_DblClick"};
-    if (selectedRow_ <= 0) return;
-    const auto cells = message(selectedRow_).cells; // opening the source lets events in, which may clear the rows
-    const std::int32_t line = cells[LineColumn].empty() ? -1 : basic::CLng(cells[LineColumn]);
-    if (!cells[TitleColumn].empty() && line > 0) openSource(here, cells[TitleColumn], line);
+void udocCompileMsgs::select(std::int32_t row) {
+    if (row != 0) (void)message(row);
+    selectedRow_ = row;
 }
 
-void udocCompileMsgs::openSource(Procedure& here, const std::string& title, std::int32_t line) {
-    const auto pane = here.value(
-        [&] { return addIn_->gVBInstance->ActiveVBProject()->VBComponents()->Item(title)->CodeModule()->CodePane(); });
-    if (!pane) return;
-    here([&] { pane->Show(); });
-    here([&] { pane->Window()->WindowState(vbide::vbext_ws_Normal); });
-    here([&] { pane->Window()->SetFocus(); });
-    here([&] { pane->SetSelection(line, 1, line, kEndOfLine); });
+void udocCompileMsgs::UserDocument_Resize(std::int32_t width, std::int32_t height, std::int32_t gridTop) {
+    documentWidth_ = width;
+    documentHeight_ = height;
+    gridTop_ = gridTop;
+    grid_.SetGridSizes(width, height, gridTop);
+    SetStatusSizes();
+}
+
+void udocCompileMsgs::SetStatusSizes() {
+    const auto label = std::int32_t(float(grid_.measured(lblStatus()).width) * grid_.twipsX());
+    statusSizes_.separatorWidth = documentWidth_;
+    statusSizes_.textLeft = kStatusMargin + label;
+    statusSizes_.textWidth = keepPositive(documentWidth_ - kStatusMargin - statusSizes_.textLeft);
+}
+
+void udocCompileMsgs::drawWith(const DeviceContext* context) {
+    grid_.measureWith(context);
+    grid_.measureAll();
+    UserDocument_Resize(documentWidth_, documentHeight_, gridTop_);
 }
 
 } // namespace fernwick

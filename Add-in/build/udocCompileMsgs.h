@@ -1,33 +1,56 @@
 #pragma once
-// The messages window without its drawing: the rows in their order, and the way from a message to its source.
+// The messages window without its drawing: the rows in their order, and the way from a message to what can be done about
+// it.
 #include "Add-in/build/build_texts.h"
 #include "Add-in/build/compile_messages.h"
+#include "Add-in/build/message_grid.h"
+#include "Add-in/commands/modViewConvertManagement.h"
 #include "Add-in/core/AddIn.h"
+#include "Add-in/core/ide_commands.h"
 #include "Add-in/core/procedure.h"
+#include "Add-in/platform/platform.h"
 #include "Add-in/platform/property.h"
-#include <array>
-#include <deque>
+#include <map>
+#include <optional>
 
 namespace fernwick {
 
+/// What the messages window stands on.
+struct CompileMsgsServices {
+    const Platform& platform;
+    ErrorReport& errors;
+    AddIn& addIn;
+    const modQLInstallInfo& install;
+    IdeCommands& commands;
+    modViewConvertManagement& tools;
+};
+
+enum KeyCodeConstants : int { vbKeyC = 67, vbKeyF1 = 112 };
+enum ShiftConstants : int { vbCtrlMask = 2 };
+
 class udocCompileMsgs : public CompileMessages {
 public:
-    enum Column { FileNameColumn, PictureColumn, TitleColumn, LineColumn, ErrorColumn, MessageColumn, kColumns };
-    struct Row {
-        std::array<std::string, kColumns> cells;
-        /// A tMessageType, or 0 for a row without a picture.
-        int picture = 0;
+    using enum MessageGrid::Column;
+    using Row = MessageGrid::Row;
+
+    /// Where the status line's parts stand, in twips.
+    struct StatusSizes {
+        std::int32_t separatorWidth = 0, textLeft = 0, textWidth = 0;
     };
 
-    udocCompileMsgs(AddIn& addIn, ErrorReport& errors) : addIn_(&addIn), errors_(&errors) {}
+    explicit udocCompileMsgs(const CompileMsgsServices& services);
 
     /// Caption before the status.
     Property<std::string> lblStatus{build_texts::kStatusLabelAtFirst};
     Property<std::string> lblStatusText;
-    /// The rows are other ones than before.
-    Event<> refreshed;
+    /// There is one more row; true: right below the header.
+    Event<bool> added;
+    /// There are no messages any more.
+    Event<> cleared;
+    /// gotoMessage has chosen another row.
+    Event<> chosen;
 
-    void SetStatusLabel(const std::string& newStatusLabel) override { lblStatus(newStatusLabel); }
+    void SetStatusLabel(const std::string& newStatusLabel) override;
     void SetStatusText(const std::string& newStatusText) override { lblStatusText(newStatusText); }
     void add(const std::string& aFileName, const std::string& aFiletitle, std::int32_t aLineNumber,
              const std::string& aMessage, int MsgType, std::int32_t errno_, bool AddToTop) override;
@@ -35,24 +58,55 @@ public:
     void gotoFirstError() override;
     void gotoMessage(std::int32_t MsgIndex) override;
 
+    const MessageGrid& msgGrid() const { return grid_; }
     /// The header row included.
-    std::int32_t rowCount() const { return std::int32_t(rows_.size()) + 1; }
+    std::int32_t rowCount() const { return grid_.rowCount(); }
     /// From 1. Error 30009 outside of the messages.
-    const Row& message(std::int32_t row) const;
+    const Row& message(std::int32_t row) const { return grid_.row(row); }
     /// 0 for the header.
     std::int32_t selectedRow() const { return selectedRow_; }
+    const StatusSizes& statusSizes() const { return statusSizes_; }
+    /// A BMP file's bytes. An error for a number that has no picture, and when the add-in is gone.
+    std::shared_ptr<const std::string> pictureOf(int number);
+    /// What a copy of the row says.
+    std::string copyText(std::int32_t row) const;
+
+    // ---- by the window ----
+    /// The user chose a row; 0 is the header. Error 30009 for one that is not there.
+    void select(std::int32_t row);
     void msgGrid_DblClick();
+    /// F1 shows the help on the chosen row's number, Ctrl+C copies the row. `Shift` is a sum of ShiftConstants.
+    void msgGrid_KeyDown(int KeyCode, int Shift);
+    /// Chooses the row and opens its source line, if it has one, but does nothing else about it: for a walk through all
+    /// messages.
+    void showSource(std::int32_t row);
+    /// The window's inner size and where in it the grid begins, in twips.
+    void UserDocument_Resize(std::int32_t width, std::int32_t height, std::int32_t gridTop);
+    /// What the window measures texts with, null when it goes; once more when its font is another.
+    void drawWith(const DeviceContext* context);
 
     /// The add-in goes while the host still has the window: the rows stay, and lead nowhere.
-    void letGo() { addIn_ = nullptr; }
+    void letGo() { use_.reset(); }
 
 private:
-    void openSource(Procedure& here, const std::string& title, std::int32_t line);
+    using Cells = std::array<std::string, MessageGrid::kColumns>;
 
-    AddIn* addIn_;
-    ErrorReport* errors_;
-    std::deque<Row> rows_;
+    void SetStatusSizes();
+    void openSource(Procedure& here, const Cells& cells);
+    void showLine(Procedure& here, const basic::Ref<vbide::CodePane>& pane, std::int32_t line);
+    void actOn(Procedure& here, std::int32_t errorNumber);
+    void showHelp(Procedure& here);
+    void copyRow(Procedure& here);
+    void box(const std::string& text, int icon);
+
+    /// Nothing when the add-in is gone.
+    std::optional<CompileMsgsServices> use_;
+    MessageGrid grid_;
+    std::int32_t documentWidth_ = 0, documentHeight_ = 0, gridTop_ = 0;
+    StatusSizes statusSizes_;
     std::int32_t selectedRow_ = 0;
+    /// Those that were loaded, by number.
+    std::map<int, std::shared_ptr<const std::string>> pictures_;
 };
 
 } // namespace fernwick

@@ -1,6 +1,7 @@
 #pragma once
 // One entry of the samples menu.
 #include "Add-in/platform/command_bars.h"
+#include "Add-in/platform/files.h"
 #include "Add-in/platform/host_events.h"
 #include "Add-in/platform/with_events.h"
 
@@ -17,6 +18,9 @@ public:
     std::string Name;
     /// The sample's project file.
     std::string fullPath;
+    /// The name of that file, and the folder that it lies in.
+    std::string sampleVbp(const FileSystemObject& files) const { return files.GetFileName(fullPath); }
+    std::string samplePath(const FileSystemObject& files) const { return files.GetParentFolderName(fullPath); }
 
     Event<clsSampleMenuItem&> picked;
 

@@ -3,6 +3,7 @@
 #include "Add-in/commands/command_items.h"
 #include "Add-in/commands/command_texts.h"
 #include "Add-in/commands/modImageManagement.h"
+#include "Add-in/commands/modSamplesManagement.h"
 #include "Add-in/core/AddIn.h"
 #include "Add-in/core/modRegistry2.h"
 #include "Add-in/devices/modDeviceManagement.h"
@@ -86,7 +87,7 @@ private:
 
     /// A popup is a sample item without a project.
     basic::Ref<clsSampleMenuItem> addSampleItem(const Item& control, bool isPopup);
-    void addSample(const Item& popup, const NamedRegistryText& stored);
+    void addSample(const Item& popup, const modSamplesManagement::Sample& stored);
 
     MenuServices use_;
     CommandItems& items_;

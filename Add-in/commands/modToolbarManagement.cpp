@@ -90,13 +90,13 @@ void modToolbarManagement::RemoveSupportToolbar() {
 }
 
 void modToolbarManagement::SaveAllToolbarState() {
-    use_.prefs.SaveToolbarState(items_.gMainToolbar);
-    use_.prefs.SaveToolbarState(items_.gSupportToolbar);
+    for (const auto& bar : {items_.gMainToolbar, items_.gSupportToolbar})
+        if (bar) use_.prefs.SaveToolbarState(bar);
 }
 
 void modToolbarManagement::RestoreAllToolbarState() {
-    use_.prefs.ReadToolbarState(items_.gMainToolbar);
-    use_.prefs.ReadToolbarState(items_.gSupportToolbar);
+    for (const auto& bar : {items_.gMainToolbar, items_.gSupportToolbar})
+        if (bar) use_.prefs.ReadToolbarState(bar);
 }
 
 } // namespace fernwick

@@ -37,6 +37,7 @@ public:
     void RemoveQuinloftToolbar();
     void RemoveSupportToolbar();
 
+    /// A bar that doesn't stand is left alone.
     void SaveAllToolbarState();
     void RestoreAllToolbarState();
 

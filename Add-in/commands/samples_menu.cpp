@@ -3,10 +3,6 @@
 
 namespace fernwick {
 
-namespace {
-constexpr const char* kSamplesKey = "SOFTWARE\\Quinloft\\VB Toolkit\\Samples";
-} // namespace
-
 void modMenuManagement::SetupSamplesMenu() {
     Procedure here{use_.errors, "modMenuManagement.SetupSamplesMenu"};
     const auto& menu = items_.gSamplesPopup;
@@ -21,10 +17,8 @@ void modMenuManagement::SetupSamplesMenu() {
 void modMenuManagement::SetupDynamicSamplesMenu(const std::string& keyPath, const Item& parent, bool& isFirst) {
     const RegistryKey key{use_.registry, use_.registry.OpenKey(HKEY_LOCAL_MACHINE, keyPath, KEY_READ)};
     if (!key) return;
-    const auto names = use_.registry.EnumKeys(key.handle());
-    if (!names) return;
-    for (const auto& name : *names)
-        if (!name.empty()) SetupDynamicSamplesMenuHelper(keyPath + "\\" + name, parent, isFirst);
+    for (const auto& below : sampleKeysBelow(use_.registry, key, keyPath))
+        SetupDynamicSamplesMenuHelper(below, parent, isFirst);
 }
 
 /// A key without a default value is no node of the menu, and what lies below it is not visited. The nesting of the
@@ -41,17 +35,14 @@ void modMenuManagement::SetupDynamicSamplesMenuHelper(const std::string& keyPath
     if (isFirst) here([&] { menu->BeginGroup(true); });
     isFirst = false;
     SetupDynamicSamplesMenu(keyPath, menu, isFirst);
-    const auto samples = use_.registry.EnumValues(key.handle());
-    if (!samples) return;
-    for (const auto& sample : *samples)
-        if (!sample.name.empty() && !sample.text.empty()) here([&] { addSample(menu, sample); });
+    for (const auto& sample : samplesOf(use_.registry, key)) here([&] { addSample(menu, sample); });
 }
 
-void modMenuManagement::addSample(const Item& popup, const NamedRegistryText& stored) {
-    const auto sample = addSampleItem(AddToAddInCommandBar(popup, stored.name), false);
+void modMenuManagement::addSample(const Item& popup, const modSamplesManagement::Sample& stored) {
+    const auto sample = addSampleItem(AddToAddInCommandBar(popup, stored.Name), false);
     use_.images.PlaceImageOnButton(sample->myOfficeCommandBar, kSampleFace);
-    sample->Name = stored.name;
-    sample->fullPath = stored.text;
+    sample->Name = stored.Name;
+    sample->fullPath = stored.fullPath;
 }
 
 basic::Ref<clsSampleMenuItem> modMenuManagement::addSampleItem(const Item& control, bool isPopup) {

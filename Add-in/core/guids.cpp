@@ -1,5 +1,6 @@
 #include "Add-in/core/guids.h"
 #include "Basic/guid.h"
+#include "Basic/runtime_error.h"
 
 namespace fernwick {
 
@@ -14,5 +15,10 @@ bool NormaliseGuidText(std::string& text) {
     if (!hadBraces) text = "{" + text + "}";
     return true;
 }
+
+std::string CreateGUID() try {
+    const auto text = basic::guidText(basic::newGuid());
+    return text.substr(1, text.size() - 2);
+} catch (const basic::RuntimeError&) { return "{Error}"; }
 
 } // namespace fernwick

@@ -9,4 +9,7 @@ bool IsGuidText(const std::string& text, bool& hadBraces);
 /// Adds braces to a GUID that has none. False, and the text as it was, for what is no GUID.
 bool NormaliseGuidText(std::string& text);
 
+/// A new GUID in capital letters, without braces; "{Error}" where the system has none to give.
+std::string CreateGUID();
+
 } // namespace fernwick

@@ -5,6 +5,14 @@
 
 namespace fernwick {
 
+/// What a user wants of a project whose device is not available here.
+struct UnknownDeviceChoice {
+    /// The project stays open as it is.
+    bool accepted = false;
+    /// Else the project that takes its place; "" for none.
+    std::string replacementPath;
+};
+
 /// The one interface through which a room reaches what lies above it: the command surface, the zoom window and
 /// the dialogs. Implemented and wired at the top. A call whose feature this build does not have does nothing.
 class IdeCommands {
@@ -25,6 +33,9 @@ public:
     virtual void DisableQuinloftToolbar() = 0;
     virtual void DisableSupportToolbar() = 0;
     virtual void SetupDefaultTargetName(const std::string& deviceKey) = 0;
+    /// Where the toolbars stand, in the user's store.
+    virtual void SaveAllToolbarState() = 0;
+    virtual void RestoreAllToolbarState() = 0;
 
     /// The host's save-project command, found by its id 3.
     virtual basic::Ref<office::CommandBarControl> saveProjectItem() = 0;
@@ -39,11 +50,20 @@ public:
 
     virtual void createZoomWindow() = 0;
     virtual void InitZoomWindow() = 0;
+    virtual void SaveZoomWindowState() = 0;
+    /// The zoom window follows this form's designer.
+    virtual void SetZoomForm(const basic::Ref<vbide::VBComponent>& form) = 0;
     virtual void ShowGettingStarted() = 0;
+    /// Returns when the project manager has closed.
+    virtual void ShowProjectManager() = 0;
     virtual void ShowProjectManagerOnDelay() = 0;
+    virtual void AddProjectToRecentList(const basic::Ref<vbide::VBProject>& project) = 0;
+    virtual UnknownDeviceChoice AskAboutUnknownDevice(const basic::Ref<vbide::VBProject>& project) = 0;
     /// Opens the settings dialog on a page, and returns when it has closed.
     virtual void ShowQuinloftSettings(const basic::Ref<vbide::VBProject>& project, const std::string& pageName,
                                       bool scanOnActivate) = 0;
+    /// Tells who picked a command that it leads to what this build doesn't have.
+    virtual void notInThisBuild() = 0;
 };
 
 } // namespace fernwick

@@ -28,7 +28,7 @@ void ProjectSetup::SetupProject(const basic::Ref<clsQLProject>& project) {
 void ProjectSetup::leaveActiveProject(Procedure& here) {
     const auto active = use_.projects.gCurrentProject;
     if (!active || !here.test([&] { return use_.addIn.gVBInstance->VBProjects()->Count() >= 2; })) return;
-    const auto left = use_.projects.GetQLProject(active);
+    const auto left = use_.projects.FindQLProject(active); // it may be the one that has just been closed
     if (left && left->IsQuinloftProject()) use_.messages.SaveCompileErrorWindowState(active);
 }
 

@@ -1,9 +1,11 @@
 #include "Add-in/lifecycle/frmProjectRemoval.h"
+#include <algorithm>
 
 namespace fernwick {
 
 void frmProjectRemoval::RemoveProject(const Project& project, bool replaceIt, const std::string& newProject) {
     Procedure here{errors_, "frmProjectRemoval.RemoveProject"};
+    if (!here.test([&] { return isOpen(project); })) return;
     removalList_.push_back(project);
     if (replaceIt) projectToOpen_ = newProject;
     here([&] { Timer1.Enabled(true); });
@@ -35,7 +37,13 @@ void frmProjectRemoval::Timer1_Timer() {
     here([&] { Timer1.Enabled(false); });
 }
 
+bool frmProjectRemoval::isOpen(const Project& project) const {
+    const auto open = addIn_.gVBInstance->VBProjects()->items();
+    return std::find(open.begin(), open.end(), project) != open.end();
+}
+
 void frmProjectRemoval::serve(Procedure& here, const Project& project) {
+    if (!here.test([&] { return isOpen(project); })) return;
     const auto qlProject = projects_.GetQLProject(project);
     if (!qlProject || !qlProject->IsQuinloftProject()) return;
     const bool oldFormat = qlProject->ProjectVersion() == "1.0";

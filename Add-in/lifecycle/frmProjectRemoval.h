@@ -18,7 +18,8 @@ public:
         : Form(user), loop_(loop), addIn_(addIn), projects_(projects), commands_(commands), errors_(errors) {}
     const char* typeName() const override { return "frmProjectRemoval"; }
 
-    /// Queues the project's removal. With `replaceIt`, `newProject` is opened in its place; an empty name opens none.
+    /// Queues the project's removal. With `replaceIt`, `newProject` is opened in its place; an empty name opens none. A
+    /// project that has gone by now needs no removal, and what takes another's place stays remembered.
     void RemoveProject(const Project& project, bool replaceIt, const std::string& newProject);
     /// Queues the project. It is emptied with `componentsOnly`, else `path` is opened in place of all that is open.
     void LoadExclusiveProject(const Project& project, const std::string& path, bool componentsOnly);
@@ -33,6 +34,7 @@ private:
 
     void Timer1_Timer();
     void Timer2_Timer();
+    bool isOpen(const Project& project) const;
     void serve(Procedure& here, const Project& project);
     void replace(Procedure& here, const Project& project, const std::string& path);
     void activate(Procedure& here, const Project& project);

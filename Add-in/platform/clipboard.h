@@ -6,6 +6,10 @@ namespace fernwick {
 
 /// The format of pictures: a BMP file's bytes.
 inline constexpr char kPictureFormat[] = "image/bmp";
+/// Plain text in UTF-8.
+inline constexpr char kTextFormat[] = "text/plain";
+/// Plain text in the system's single-byte code page, closed by a zero.
+inline constexpr char kAnsiTextFormat[] = "text/plain;charset=windows-1252";
 
 /// The clipboard, in all the formats that its owner offers. All members raise error 521 while another program keeps
 /// it from being opened.

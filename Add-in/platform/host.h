@@ -56,9 +56,11 @@ public:
     virtual int Count() const = 0;
     virtual Ref<VBProject> Item(int index) const = 0;
     virtual std::vector<Ref<VBProject>> items() const = 0;
-    /// Opens a project, or all of a group's. `exclusive` closes what is open first.
+    /// Opens a project, or all of a group's. `exclusive` closes what is open first. A file of a template folder opens as
+    /// with AddFromTemplate.
     virtual Ref<VBProject> AddFromFile(const std::string& path, bool exclusive = false) = 0;
-    /// A new project without a file of its own, from the template's text.
+    /// A new project from the template's text, with a name that is free. While handlers of ItemAdded run, FileName tells the template; then it has
+    /// no file of its own.
     virtual Ref<VBProject> AddFromTemplate(const std::string& path, bool exclusive = false) = 0;
     virtual void Remove(const Ref<VBProject>& project) = 0;
 };

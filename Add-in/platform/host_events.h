@@ -20,12 +20,14 @@ class Reference;
 using basic::Ref;
 using fernwick::Event;
 
+/// A project that is added is the active one when ItemAdded comes; ItemActivated tells of changes among open projects.
 struct VBProjectsEvents {
     Event<Ref<VBProject>> ItemAdded, ItemRemoved, ItemActivated;
     /// The second argument is the old name.
     Event<Ref<VBProject>, const std::string&> ItemRenamed;
 };
 
+/// ItemAdded comes for components that are added to an open project, not for those that it is loaded with.
 struct VBComponentsEvents {
     Event<Ref<VBComponent>> ItemAdded, ItemRemoved, ItemSelected, ItemActivated, ItemReloaded;
     Event<Ref<VBComponent>, const std::string&> ItemRenamed;

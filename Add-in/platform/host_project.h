@@ -166,6 +166,7 @@ public:
     virtual Ref<VBComponent> Item(const std::string& name) const = 0;
     virtual std::vector<Ref<VBComponent>> items() const = 0;
     virtual Ref<VBComponent> Add(vbext_ComponentType type) = 0;
+    /// A file of a template folder becomes a new component, with a name that is free and without a file of its own.
     virtual Ref<VBComponent> AddFile(const std::string& path) = 0;
     virtual void Remove(const Ref<VBComponent>& component) = 0;
     virtual StartUp StartUpObject() const = 0;
@@ -200,6 +201,7 @@ public:
 class VBProject : public Object {
 public:
     virtual std::string Name() const = 0;
+    /// Error 32813 for the name of another open project.
     virtual void Name(const std::string& name) = 0;
     /// Native path; "" for a project that was never saved.
     virtual std::string FileName() const = 0;

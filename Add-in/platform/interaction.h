@@ -67,6 +67,9 @@ public:
     virtual void MessageBeep(int type) = 0;
     /// The cursor outside of forms: LoadCursor and SetCursor.
     virtual void SetCursor(MousePointerShape shape) = 0;
+    /// Whether the host's main window draws, or holds its picture until it may again: its WM_SETREDRAW. A front end without
+    /// a window has no picture to hold.
+    virtual void SetRedraw(bool) {}
 };
 
 } // namespace fernwick

@@ -18,12 +18,16 @@ namespace fernwick {
 /// The App object of the add-in's project, and what the maker supplies with the installation.
 struct App {
     std::string Title = "QLVBAddIn";
-    /// Folder of the add-in's own program.
+    /// Folder of the add-in and of the files that come with it.
     std::string Path;
     std::string SupportWebAddress;
     std::string WebAddress;
     /// The page that the runtime is downloaded from.
     std::string RuntimeWebAddress;
+    /// Where the maker shows examples, where developers talk to each other, and what there is for them.
+    std::string SamplesWebAddress{};
+    std::string ForumWebAddress{};
+    std::string DevelopersWebAddress{};
 };
 
 struct Platform {

@@ -1,8 +1,8 @@
 // What a project is, and what is worked out from the host.
 #include "Add-in/project/clsQLProject.h"
 #include "Add-in/core/core_texts.h"
+#include "Add-in/core/guids.h"
 #include "Add-in/project/property_sections.h"
-#include "Basic/guid.h"
 #include "Basic/text_search.h"
 
 namespace fernwick {
@@ -57,11 +57,7 @@ std::int32_t clsQLProject::NumForms() const {
 
 void clsQLProject::CreateNewModId() {
     Procedure here{services_.errors, "clsQLProject.CreateNewModId"};
-    here([&] {
-        const auto guid = basic::guidText(basic::newGuid());
-        const auto withoutBraces = guid.substr(1, guid.size() - 2);
-        project_->WriteProperty(kGlobalSection, "MODID", withoutBraces);
-    });
+    here([&] { project_->WriteProperty(kGlobalSection, "MODID", CreateGUID()); });
 }
 
 } // namespace fernwick

@@ -43,8 +43,8 @@ void clsQLProject::saveComponent(Procedure& here, const basic::Ref<vbide::VBComp
 void clsQLProject::saveProjectFile(Procedure& here) {
     const auto path = here.value([&] { return project_->FileName(); });
     if (!files().FileExists(path)) return;
+    if (services_.templates.ProjectIsFromTemplate(project_)) return; // which users often can't write, and needn't
     if (here.test([&] { return warnIfReadOnly(path); })) return;
-    if (services_.templates.ProjectIsFromTemplate(project_)) return;
     here([&] {
         project_->SaveAs(path);
         project_->IsDirty(false);

@@ -35,6 +35,12 @@ basic::Ref<clsQLProject> modProjectHandler::GetQLProject(const basic::Ref<vbide:
     return here.value([&] { return projects_.Item(project->Name()); });
 }
 
+basic::Ref<clsQLProject> modProjectHandler::FindQLProject(const basic::Ref<vbide::VBProject>& project) const {
+    for (const auto& listed : projects_.items())
+        if (listed && listed->VBProject() == project) return listed;
+    return nullptr;
+}
+
 void modProjectHandler::RemoveProjectComponents(const basic::Ref<clsQLProject>& project) {
     Procedure here{services_.errors, "modProjectHandler.RemoveProjectComponents"};
     for (const auto& component : here.value([&] { return project->VBProject()->VBComponents()->items(); }))

@@ -23,6 +23,9 @@ public:
     void RenameProjectInList(const basic::Ref<vbide::VBProject>& project, const std::string& OldName);
     /// A project that is not listed is reported and gives Nothing.
     basic::Ref<clsQLProject> GetQLProject(const basic::Ref<vbide::VBProject>& project);
+    /// For one that need not be listed, such as a project that was open before the add-in came, or that has gone:
+    /// Nothing then, and no report. The project itself is not asked.
+    basic::Ref<clsQLProject> FindQLProject(const basic::Ref<vbide::VBProject>& project) const;
 
     bool ProjectIsFromTemplate(const basic::Ref<vbide::VBProject>& project) {
         return services_.templates.ProjectIsFromTemplate(project);

@@ -14,6 +14,7 @@ public:
     /// Null for a class that the installation doesn't describe.
     std::shared_ptr<const host::ControlClass> find(const std::string& className) { return described().find(className); }
     std::string classOfProgId(const std::string& progId) { return described().classOfProgId(progId); }
+    std::vector<std::string> classNames() { return described().classNames(); }
 
 private:
     const host::DescribedClasses& described();

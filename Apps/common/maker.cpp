@@ -16,11 +16,15 @@ toml::table makerOf(const std::string& installation) {
 
 fernwick::App appOf(const std::string& installation, const std::string& programFolder) {
     fernwick::App app;
-    app.Path = programFolder;
+    app.Path = installation.empty() ? programFolder : installation + "/VB Toolkit/Bin";
     const auto maker = makerOf(installation);
-    app.SupportWebAddress = maker["support"].value_or(std::string());
-    app.WebAddress = maker["web"].value_or(std::string());
-    app.RuntimeWebAddress = maker["runtime_download"].value_or(std::string());
+    const auto address = [&maker](const char* key) { return maker[key].value_or(std::string()); };
+    app.SupportWebAddress = address("support");
+    app.WebAddress = address("web");
+    app.RuntimeWebAddress = address("runtime_download");
+    app.SamplesWebAddress = address("samples");
+    app.ForumWebAddress = address("forum");
+    app.DevelopersWebAddress = address("developers");
     return app;
 }
 

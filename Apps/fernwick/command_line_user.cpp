@@ -14,6 +14,9 @@ namespace {
 constexpr int kRepeatsToHarmless = 2;
 constexpr int kRepeatsToEnd = 4;
 
+/// Asks nothing: it is closed without a word, and before it looks for its pictures.
+constexpr std::string_view kIntroduction = "frmGettingStarted";
+
 template <class C>
 C* firstControl(Form& form) {
     for (auto* control : form.Controls())
@@ -64,6 +67,7 @@ std::string oneLine(std::string text) {
 } // namespace
 
 void CommandLineUser::showModal(Form& form) {
+    if (form.typeName() == kIntroduction) return cancelButton(form)->press();
     auto* bar = firstControl<fernwick::ProgressBar>(form);
     auto* status = firstControl<fernwick::StatusBar>(form);
     const auto redraw = [this, bar, status] {

@@ -6,6 +6,7 @@
 #include "Apps/fernwick/version.h"
 #include "Basic/runtime_error.h"
 #include <array>
+#include <csignal>
 #include <cstdio>
 #include <cstring>
 #include <fmt/format.h>
@@ -95,6 +96,7 @@ int main(int argc, char** argv) {
     if (!parsed.run) return parsed.output.empty() ? parsed.status : printed(parsed.output);
 
     keepFreedMemory();
+    std::signal(SIGCHLD, SIG_DFL); // some parents have us throw away how our compile steps end
     cli::watchForInterrupt();
     cli::Console console{parsed.options.verbosity};
     int status = guarded(parsed.options, console);

@@ -126,6 +126,7 @@ void Session::forget() {
 void Session::connect() {
     host_->connectAddIn(apps::kAddInProgId, vbide::vbext_cm_CommandLine);
     host_->startupComplete();
+    connected_ = true;
     machine_.drain();
     if (isOpen()) settings_ = modules_->projects.GetQLProject(project_);
 }
@@ -136,18 +137,23 @@ bool Session::isOpen() const {
 }
 
 bool Session::closeAndSave() {
-    if (isOpen() && settings_ && settings_->IsQuinloftProject() && settings_->ProjectVersion() != "1.0") {
-        if (modules_->devices.IsValidDevice(settings_->TargetDevice()) && !project_->Saved())
-            modules_->messages.SaveCompileErrorWindowState(project_);
-        if (!project_->Saved()) settings_->SaveFiles();
-    }
-    const bool saved = !isOpen() || project_->Saved();
-    closeUnsaved();
+    // an add-in that is connected keeps files and window state itself when the project goes
+    if (!connected_ && isOpen() && !project_->Saved()) settings_->SaveFiles();
+    bool saved = true;
+    const auto closing = host_->Events()->VBProjectsEvents()->ItemRemoved.connect([&](const auto& project) {
+        if (project == project_) saved = project->Saved();
+    });
+    close();
     return saved;
 }
 
 void Session::closeUnsaved() {
     if (!host_) return;
+    for (const auto& project : host_->VBProjects()->items()) project->IsDirty(false); // nobody is to save it now
+    close();
+}
+
+void Session::close() {
     settings_ = nullptr;
     const auto host = std::exchange(host_, nullptr);
     host->close();

@@ -35,7 +35,7 @@ public:
     void forget();
     /// Connects the add-in to the host, which takes up the project and gives it a device where it has none.
     void connect();
-    /// As at a user's closing: stores the window state, saves the project's files and closes the host.
+    /// As at a user's closing: the project's files are saved, with the window state where the add-in is connected.
     /// False when the project's file could not be written.
     bool closeAndSave();
     /// Closes without saving anything.
@@ -53,6 +53,7 @@ public:
     bool isOpen() const;
 
 private:
+    void close();
     void tellProblems();
     int deviceRow(const std::string& key);
     bool hasUnsavedComponents() const;
@@ -68,6 +69,7 @@ private:
     std::string path_;
     basic::Ref<vbide::VBProject> project_;
     basic::Ref<fernwick::clsQLProject> settings_;
+    bool connected_ = false;
 };
 
 } // namespace cli

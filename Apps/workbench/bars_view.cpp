@@ -1,9 +1,9 @@
 #include "Apps/workbench/bars_view.h"
 #include "Apps/workbench/command_icons.h"
+#include "Apps/workbench/pictures.h"
 #include "Apps/workbench/text.h"
 #include "Apps/workbench/theme.h"
 #include <QAction>
-#include <QBitmap>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
@@ -47,9 +47,6 @@ void setActions(QWidget& widget, const QList<QAction*>& wanted, const QList<bool
     }
 }
 
-/// The grey that stands for nothing in a face.
-const QColor kFaceGround(192, 192, 192);
-
 /// The dark lines of a face would vanish on a dark bar.
 QImage withLightLines(const QImage& face) {
     constexpr int kDarkest = 60;
@@ -65,16 +62,11 @@ QImage withLightLines(const QImage& face) {
 }
 
 QIcon faceOf(const host::BarControl& control, Theme theme) {
-    QImage face;
-    if (!face.loadFromData(QByteArray::fromStdString(control.face()), "BMP")) return iconOf(control.Id());
+    auto face = imageOf(control.face());
+    if (face.isNull()) return iconOf(control.Id());
     if (theme == Theme::Dark) face = withLightLines(face);
     QIcon icon;
-    for (const int scale : {1, 2, 3}) { // each of a face's pixels in whole pixels of the screen
-        auto picture = QPixmap::fromImage(face.scaled(face.size() * scale));
-        picture.setMask(picture.createMaskFromColor(kFaceGround.rgb()));
-        picture.setDevicePixelRatio(scale);
-        icon.addPixmap(picture);
-    }
+    for (const int scale : {1, 2, 3}) icon.addPixmap(seeThrough(face, scale));
     return icon;
 }
 

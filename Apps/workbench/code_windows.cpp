@@ -32,6 +32,7 @@ void CodeWindows::open(const vbide::Ref<vbide::VBComponent>& component) {
     auto* editor = editorOf(component);
     if (!editor) {
         editor = new CodeEditor(component, refused_);
+        made(*editor);
         addTab(editor, qt(component->Name()));
         editor->showSelection();
         markEditor(*editor);
@@ -41,9 +42,15 @@ void CodeWindows::open(const vbide::Ref<vbide::VBComponent>& component) {
     editor->setFocus();
 }
 
+void CodeWindows::showPlace(const CodePlace& place) {
+    place.component->CodeModule()->CodePane()->Show();
+    if (auto* const editor = editorOf(place.component)) editor->select(place);
+}
+
 std::vector<CodeEditor*> CodeWindows::editors() const {
     std::vector<CodeEditor*> all;
-    for (int i = 0; i < count(); ++i) all.push_back(static_cast<CodeEditor*>(widget(i)));
+    for (int i = 0; i < count(); ++i)
+        if (auto* editor = dynamic_cast<CodeEditor*>(widget(i))) all.push_back(editor);
     return all;
 }
 
@@ -53,7 +60,7 @@ CodeEditor* CodeWindows::editorOf(const vbide::Ref<vbide::VBComponent>& componen
     return nullptr;
 }
 
-CodeEditor* CodeWindows::current() const { return static_cast<CodeEditor*>(currentWidget()); }
+CodeEditor* CodeWindows::current() const { return dynamic_cast<CodeEditor*>(currentWidget()); }
 
 void CodeWindows::mark(MarksByComponent marks) {
     marks_ = std::move(marks);
@@ -67,7 +74,7 @@ void CodeWindows::markEditor(CodeEditor& editor) {
         const auto found = marks_.find(editor.component()->Name());
         if (ofActive && found != marks_.end()) marks = found->second;
     });
-    editor.mark(marks);
+    editor.marks().show(marks);
 }
 
 void CodeWindows::colour(Theme theme) {

@@ -1,5 +1,5 @@
 #pragma once
-// The open code windows, each a tab.
+// The open code windows, each a tab; other windows may stand among them.
 #include "Apps/workbench/code_editor.h"
 #include "Host/model/host.h"
 #include <QTabWidget>
@@ -17,9 +17,13 @@ public:
     CodeWindows(host::Host& host, CodeEditor::Refused refused);
 
     void open(const vbide::Ref<vbide::VBComponent>& component);
+    /// Selects a part of a component's code in its window, which comes to the front. Error 440 for one that was removed.
+    void showPlace(const CodePlace& place);
+    /// Told of each window that was made.
+    std::function<void(CodeEditor&)> made = [](CodeEditor&) {};
     /// Null for a component without a window.
     CodeEditor* editorOf(const vbide::Ref<vbide::VBComponent>& component) const;
-    /// Null when no window is open.
+    /// Null when no code window is in front.
     CodeEditor* current() const;
     /// Messages of the active project.
     void mark(MarksByComponent marks);

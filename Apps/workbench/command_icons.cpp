@@ -1,4 +1,5 @@
 #include "Apps/workbench/command_icons.h"
+#include "Apps/workbench/edit_commands.h"
 #include "Host/model/bars.h"
 #include <QApplication>
 #include <QIconEngine>
@@ -31,15 +32,24 @@ constexpr std::array kKeys{
     CommandKey{kSaveFileId, int(Qt::CTRL) | Qt::Key_S},
     CommandKey{kExitId, int(Qt::CTRL) | Qt::Key_Q},
     CommandKey{kUndoId, int(Qt::CTRL) | Qt::Key_Z},
-    CommandKey{kRedoId, int(Qt::CTRL) | Qt::Key_Y},
+    CommandKey{kRedoId, int(Qt::CTRL) | int(Qt::SHIFT) | Qt::Key_Z},
     CommandKey{kCutId, int(Qt::CTRL) | Qt::Key_X},
     CommandKey{kCopyId, int(Qt::CTRL) | Qt::Key_C},
     CommandKey{kPasteId, int(Qt::CTRL) | Qt::Key_V},
     CommandKey{kSelectAllId, int(Qt::CTRL) | Qt::Key_A},
     CommandKey{kFindId, int(Qt::CTRL) | Qt::Key_F},
     CommandKey{kFindNextId, int(Qt::Key_F3)},
+    CommandKey{kCutLineId, int(Qt::CTRL) | Qt::Key_Y},
+    CommandKey{kFindPreviousId, int(Qt::SHIFT) | Qt::Key_F3},
+    CommandKey{kReplaceId, int(Qt::CTRL) | Qt::Key_H},
+    CommandKey{kNextProcedureId, int(Qt::CTRL) | Qt::Key_Down},
+    CommandKey{kPreviousProcedureId, int(Qt::CTRL) | Qt::Key_Up},
+    CommandKey{kGoToLineId, int(Qt::CTRL) | Qt::Key_G},
+    CommandKey{kDefinitionId, int(Qt::SHIFT) | Qt::Key_F2},
+    CommandKey{kLastPositionId, int(Qt::CTRL) | int(Qt::SHIFT) | Qt::Key_F2},
     CommandKey{kExplorerId, int(Qt::CTRL) | Qt::Key_R},
     CommandKey{kViewCodeId, int(Qt::Key_F7)},
+    CommandKey{kViewObjectId, int(Qt::SHIFT) | Qt::Key_F7},
     CommandKey{kPropertiesId, int(Qt::Key_F4)},
     CommandKey{kMessagesId, int(Qt::CTRL) | Qt::Key_M},
     CommandKey{kAddFileId, int(Qt::CTRL) | Qt::Key_D},

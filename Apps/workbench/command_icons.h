@@ -28,6 +28,7 @@ enum WindowCommandId : int {
     kSaveFileAsId,
     kSaveProjectAsId,
     kViewCodeId,
+    kViewObjectId,
     kMessagesId,
     kPropertiesId,
     kToolboxId,

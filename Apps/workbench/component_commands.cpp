@@ -3,19 +3,8 @@
 
 namespace workbench {
 
-vbide::Ref<vbide::VBComponent> currentComponent(MainWindow& window) {
-    auto& explorer = window.explorer();
-    if (explorer.hasFocus() && explorer.currentComponent()) return explorer.currentComponent();
-    if (auto* editor = window.code().current()) return editor->component();
-    return explorer.currentComponent();
-}
-
-void viewCode(MainWindow& window) {
-    if (const auto component = currentComponent(window)) component->CodeModule()->CodePane()->Show();
-}
-
 void saveFile(host::Host& host, MainWindow& window) {
-    const auto component = currentComponent(window);
+    const auto component = window.design().inHand();
     if (component)
         saveWithName(component, &window);
     else if (const auto active = host.ActiveVBProject())
@@ -23,17 +12,17 @@ void saveFile(host::Host& host, MainWindow& window) {
 }
 
 void saveFileAs(MainWindow& window) {
-    if (const auto component = currentComponent(window)) saveUnderNewName(component, &window);
+    if (const auto component = window.design().inHand()) saveUnderNewName(component, &window);
 }
 
 void removeComponent(MainWindow& window) {
-    const auto component = currentComponent(window);
+    const auto component = window.design().inHand();
     if (!component || !mayBeRemoved(component, &window)) return;
     component->Collection()->Remove(component);
 }
 
 void setAsStartUp(MainWindow& window) {
-    if (const auto component = currentComponent(window)) component->Collection()->StartUpObject({false, component});
+    if (const auto component = window.design().inHand()) component->Collection()->StartUpObject({false, component});
 }
 
 } // namespace workbench

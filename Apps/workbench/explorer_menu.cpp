@@ -11,8 +11,8 @@ namespace {
 
 constexpr int kLine = 0;
 
-const std::vector<int> kOfComponent{kViewCodeId,      kLine, kSaveFileId, kSaveFileAsId, kLine, kRemoveComponentId,
-                                    kStartUpProjectId};
+const std::vector<int> kOfComponent{kViewCodeId,        kViewObjectId,    kLine, kSaveFileId, kSaveFileAsId, kLine,
+                                    kRemoveComponentId, kStartUpProjectId};
 const std::vector<int> kOfProject{host::kSaveProjectId,  kSaveProjectAsId, kLine,      kAddFormId,
                                   kAddModuleId,          kAddClassId,      kAddFileId, kLine,
                                   host::kRemoveProjectId};

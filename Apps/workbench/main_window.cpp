@@ -14,7 +14,8 @@ constexpr auto kGeometryKey = "window/geometry", kStateKey = "window/state", kTh
                kLight = "light";
 /// Counts up when docks and toolbars change so much that an old arrangement makes no sense.
 constexpr int kLayoutVersion = 1;
-constexpr int kUsualWidth = 1100, kUsualHeight = 720, kUsualExplorerWidth = 270, kUsualMessagesHeight = 180;
+constexpr int kUsualWidth = 1100, kUsualHeight = 720, kUsualExplorerWidth = 270, kUsualToolboxWidth = 140,
+              kUsualMessagesHeight = 180;
 
 } // namespace
 
@@ -25,21 +26,19 @@ MainWindow::MainWindow(host::Host& host, BarsView::Run run, MayClose mayClose)
       code_(new CodeWindows(host, [this](std::exception_ptr error) { run_([&] { std::rethrow_exception(error); }); })),
       explorer_(new ProjectExplorer(host.shared_from_this(),
                                     {[this](auto project) { run_([&] { host_.ActiveVBProject(project); }); },
-                                     [this](auto component) {
-                                         run_([&] {
-                                             component->Activate();
-                                             component->CodeModule()->CodePane()->Show();
-                                         });
-                                     },
+                                     [this](auto component) { design_->open(component); },
                                      [this] { code_->refreshSoon(); }})),
       explorerDock_(addDock("explorerDock", "Project", explorer_, Qt::RightDockWidgetArea)),
+      design_(new DesignDesk(host, *code_, *explorer_, run_)),
+      propertiesDock_(addDock("propertiesDock", "Properties", &design_->properties(), Qt::RightDockWidgetArea)),
+      toolboxDock_(addDock("toolboxDock", "Toolbox", &design_->toolbox(), Qt::LeftDockWidgetArea)),
       bars_(host.bars(), *this, run_) {
     setObjectName("workbench");
     setCentralWidget(code_);
     code_->setAccessibleName("Code windows");
     code_->setFocus(); // where work begins; the command of a dock would hide the one that has the keys
     resize(kUsualWidth, kUsualHeight);
-    resizeDocks({explorerDock_}, {kUsualExplorerWidth}, Qt::Horizontal);
+    resizeDocks({explorerDock_, toolboxDock_}, {kUsualExplorerWidth, kUsualToolboxWidth}, Qt::Horizontal);
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
     setAnimated(false); // a toolbar stands where the user lets go of it, and its model says so at once
     titleSoon_.setSingleShot(true);
@@ -47,6 +46,7 @@ MainWindow::MainWindow(host::Host& host, BarsView::Run run, MayClose mayClose)
     connect(&titleSoon_, &QTimer::timeout, this, [this] { showTitle(); });
 
     const auto soon = [this](const auto&...) { titleSoon_.start(); };
+    watches_.push_back(host.Events()->VBProjectsEvents()->ItemAdded.connect(soon));
     watches_.push_back(host.Events()->VBProjectsEvents()->ItemActivated.connect(soon));
     watches_.push_back(host.Events()->VBProjectsEvents()->ItemRemoved.connect(soon));
     watches_.push_back(host.Events()->VBProjectsEvents()->ItemRenamed.connect(soon));
@@ -96,10 +96,12 @@ void MainWindow::drawToolWindow(const std::shared_ptr<host::ToolWindow>& window)
     const auto title = qt(window->Caption());
     auto* const view = new MessagesView(messages, run_);
     view->drawn = [this, messages] { markMessages(*messages.shared()); };
+    addActions(view->walk());
     auto* dock = findChild<QDockWidget*>(title);
-    if (dock)
-        dock->setWidget(view); // the add-in was connected anew
-    else
+    if (dock) { // the add-in was connected anew
+        delete dock->widget();
+        dock->setWidget(view);
+    } else
         dock = addDock(title, title, view, Qt::BottomDockWidgetArea);
     docks_[window] = dock;
     follow(*window, *dock);
@@ -122,7 +124,7 @@ void MainWindow::markMessages(const fernwick::udocCompileMsgs& messages) {
         const auto& shown = messages.message(row);
         if (shown.cells[Document::LineColumn].empty()) continue;
         marks[shown.cells[Document::TitleColumn]].push_back({basic::CLng(shown.cells[Document::LineColumn]),
-                                                             shown.picture == fernwick::ERROR_MSG,
+                                                             shown.type == fernwick::ERROR_MSG,
                                                              shown.cells[Document::MessageColumn]});
     }
     code_->mark(std::move(marks));

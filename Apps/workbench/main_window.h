@@ -2,6 +2,7 @@
 // The IDE's window: it draws the host's model and holds no behaviour of the add-in's.
 #include "Apps/workbench/bars_view.h"
 #include "Apps/workbench/code_windows.h"
+#include "Apps/workbench/design_desk.h"
 #include "Apps/workbench/messages_view.h"
 #include "Apps/workbench/project_explorer.h"
 #include "Host/model/host.h"
@@ -24,6 +25,10 @@ public:
     CodeWindows& code() { return *code_; }
     ProjectExplorer& explorer() { return *explorer_; }
     QDockWidget& explorerDock() { return *explorerDock_; }
+    QDockWidget& propertiesDock() { return *propertiesDock_; }
+    /// Form views and the properties window.
+    DesignDesk& design() { return *design_; }
+    QDockWidget& toolboxDock() { return *toolboxDock_; }
     /// In the order in which they came.
     const std::vector<QDockWidget*>& docks() const { return allDocks_; }
     /// Told of each dock that comes later.
@@ -56,6 +61,9 @@ private:
     ProjectExplorer* explorer_;
     std::vector<QDockWidget*> allDocks_;
     QDockWidget* explorerDock_;
+    DesignDesk* design_;
+    QDockWidget* propertiesDock_;
+    QDockWidget* toolboxDock_;
     /// Tool windows that are drawn, the latest of a title in the dock of that title.
     std::map<std::shared_ptr<host::ToolWindow>, QPointer<QDockWidget>> docks_;
     /// The host's own, whose places the user's settings keep.

@@ -1,113 +1,156 @@
 #include "Apps/workbench/messages_view.h"
+#include "Apps/workbench/message_bar.h"
+#include "Apps/workbench/message_list.h"
 #include "Apps/workbench/text.h"
-#include <QApplication>
+#include <QAction>
 #include <QBoxLayout>
+#include <QEvent>
+#include <QFrame>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLabel>
-#include <QStyle>
-#include <QTreeView>
-#include <array>
+#include <QLineEdit>
 
 namespace workbench {
 
 namespace {
 
-using Document = fernwick::udocCompileMsgs;
+using Grid = fernwick::MessageGrid;
 
-constexpr std::array kHeaders{"FileName", "", "Name", "Line #", "Err #", "Message/Warning/Error"};
-/// Percent of the width that the picture leaves.
-constexpr std::array kPercent{0, 0, 10, 7, 7, 76};
-constexpr int kPictureWidth = 32;
+constexpr int kTwipsPerPixel = 15;
+/// Between two drawings: a build may let Qt's loop turn at each of its messages.
+constexpr int kMillisecondsOfPicture = 16;
+constexpr int kStatusPadding = 3, kStatusGap = 5;
+
+QFrame* separator() {
+    auto* const line = new QFrame;
+    line->setFrameShape(QFrame::HLine);
+    line->setFrameShadow(QFrame::Sunken);
+    return line;
+}
 
 } // namespace
 
-// ---- the rows ----------------------------------------------------------------------------------------------------------
-
-int MessageRows::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : rows_; }
-
-int MessageRows::columnCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : int(Document::kColumns); }
-
-void MessageRows::reread() {
-    beginResetModel();
-    rows_ = document_->rowCount() - 1;
-    endResetModel();
-}
-
-QVariant MessageRows::data(const QModelIndex& index, int role) const {
-    const int row = index.row() + 1; // row 0 of the document is its header
-    if (row >= document_->rowCount()) return {};
-    const auto& shown = document_->message(row);
-    switch (role) {
-    case Qt::DisplayRole: return qt(shown.cells[std::size_t(index.column())]);
-    case Qt::ToolTipRole: return qt(shown.cells[Document::FileNameColumn]);
-    case Qt::TextAlignmentRole:
-        return int(index.column() == Document::MessageColumn ? Qt::AlignLeft | Qt::AlignTop
-                                                             : Qt::AlignHCenter | Qt::AlignTop);
-    case Qt::DecorationRole:
-        if (index.column() != Document::PictureColumn || shown.picture == 0) return {};
-        return QApplication::style()->standardIcon(shown.picture == fernwick::ERROR_MSG ? QStyle::SP_MessageBoxCritical
-                                                                                        : QStyle::SP_MessageBoxWarning);
-    default: return {};
-    }
-}
-
-QVariant MessageRows::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole) return {};
-    return QString(kHeaders.at(std::size_t(section)));
-}
-
-// ---- the window --------------------------------------------------------------------------------------------------------
-
 MessagesView::MessagesView(basic::Ref<Document> document, Run run)
-    : document_(std::move(document)), rows_(document_), grid_(new QTreeView), status_(new QLabel) {
-    grid_->setObjectName("msgGrid");
-    status_->setObjectName("lblStatusText");
-    status_->setTextFormat(Qt::PlainText);
-    grid_->setModel(&rows_);
-    grid_->setRootIsDecorated(false);
-    grid_->setWordWrap(true);
-    grid_->setAlternatingRowColors(true);
-    grid_->setColumnHidden(Document::FileNameColumn, true);
-    grid_->header()->setMinimumSectionSize(1);
-    auto bold = grid_->header()->font();
-    bold.setBold(true);
-    grid_->header()->setFont(bold);
-    grid_->header()->setDefaultAlignment(Qt::AlignCenter);
-    auto* const rows = new QVBoxLayout(this);
-    rows->setContentsMargins(0, 0, 0, 4);
-    rows->addWidget(grid_);
-    rows->addWidget(status_);
-    status_->setContentsMargins(6, 0, 6, 0);
-
-    redraw_.setSingleShot(true);
-    redraw_.setInterval(0); // a build adds its messages one by one
-    connect(&redraw_, &QTimer::timeout, this, [this] { draw(); });
-    const auto soon = [this](const auto&...) { redraw_.start(); };
-    watches_.push_back(document_->refreshed.connect(soon));
-    watches_.push_back(document_->lblStatus.watch(soon));
-    watches_.push_back(document_->lblStatusText.watch(soon));
-    connect(grid_, &QTreeView::activated, this,
-            [this, run](const QModelIndex& index) { run([&] { document_->gotoMessage(index.row() + 1); }); });
+    : document_(std::move(document)),
+      run_(std::move(run)),
+      rows_(document_),
+      bar_(new MessageBar({[this](int type, bool shown) {
+                               shown_.showType(type, shown);
+                               draw();
+                           },
+                           [this](const QString& text) {
+                               shown_.showText(text);
+                               draw();
+                           }})),
+      list_(new MessageList),
+      statusLine_(new QWidget),
+      status_(new QLabel(statusLine_)),
+      statusText_(new QLabel(statusLine_)) {
+    putTogether();
+    addCommands();
+    document_->drawWith(&list_->deviceContext());
+    watchDocument();
     draw();
 }
 
+MessagesView::~MessagesView() {
+    list_->selectionModel()->disconnect(this); // the rows go before the list
+    document_->drawWith(nullptr);
+}
+
+void MessagesView::putTogether() {
+    shown_.setSourceModel(&rows_);
+    list_->setModel(&shown_);
+    list_->setSortingEnabled(true);
+    list_->setColumnHidden(Grid::FileNameColumn, true);
+    list_->pressed = [this](const QKeyEvent& key) { return pressed(key); };
+    list_->resized = [this] { layOut(); };
+    list_->fontChanged = [this] { document_->drawWith(&list_->deviceContext()); };
+    connect(list_, &QTreeView::doubleClicked, this, [this](const QModelIndex& index) { goTo(index); });
+    connect(list_->selectionModel(), &QItemSelectionModel::currentChanged, this, [this] { enableCommands(); });
+    bar_->filter().installEventFilter(this);
+    bar_->setPictures(rows_.picture(fernwick::ERROR_MSG), rows_.picture(fernwick::WARNING_MSG));
+    status_->setObjectName("lblStatus");
+    statusText_->setObjectName("lblStatusText");
+    for (auto* label : {status_, statusText_}) label->setTextFormat(Qt::PlainText);
+    statusText_->setIndent(kStatusGap);
+
+    auto* const parts = new QVBoxLayout(this);
+    parts->setContentsMargins(0, 0, 0, 0);
+    parts->setSpacing(0);
+    parts->addWidget(bar_);
+    parts->addWidget(list_);
+    parts->addWidget(separator());
+    parts->addWidget(statusLine_);
+    setFocusProxy(list_);
+}
+
+void MessagesView::watchDocument() {
+    redraw_.setSingleShot(true);
+    connect(&redraw_, &QTimer::timeout, this, [this] { draw(); });
+    const auto soon = [this](const auto&...) { drawSoon(); };
+    watches_.push_back(document_->added.connect(soon));
+    watches_.push_back(document_->cleared.connect(soon));
+    watches_.push_back(document_->chosen.connect([this] { showChosen(); }));
+    watches_.push_back(document_->lblStatus.watch(soon));
+    watches_.push_back(document_->lblStatusText.watch(soon));
+}
+
+// ---- drawing -----------------------------------------------------------------------------------------------------------
+
+void MessagesView::drawSoon() {
+    if (redraw_.isActive()) return;
+    const auto since = sinceDrawn_.isValid() ? sinceDrawn_.elapsed() : kMillisecondsOfPicture;
+    redraw_.start(int(std::max<qint64>(0, kMillisecondsOfPicture - since)));
+}
+
 void MessagesView::draw() {
-    rows_.reread();
-    status_->setText(qt(document_->lblStatus() + " " + document_->lblStatusText()));
+    redraw_.stop();
+    rows_.takeUp();
+    bar_->showCounts(rows_.count(fernwick::ERROR_MSG), rows_.count(fernwick::WARNING_MSG), shown_.rowCount(),
+                     rows_.rowCount());
+    status_->setText(qt(document_->lblStatus()));
+    statusText_->setText(qt(document_->lblStatusText()));
+    statusText_->setToolTip(statusText_->text());
+    layOutStatus();
+    enableCommands();
     drawn();
+    sinceDrawn_.start();
+}
+
+void MessagesView::layOut() {
+    document_->UserDocument_Resize(list_->viewport()->width() * kTwipsPerPixel,
+                                   list_->geometry().bottom() * kTwipsPerPixel, list_->y() * kTwipsPerPixel);
+    for (int column = Grid::PictureColumn; column < Grid::MessageColumn; ++column)
+        list_->setColumnWidth(column, document_->msgGrid().columnWidth(Grid::Column(column)) / kTwipsPerPixel);
+    list_->layOutAgain();
+    layOutStatus();
+}
+
+void MessagesView::layOutStatus() {
+    const auto& sizes = document_->statusSizes();
+    const int height = statusText_->fontMetrics().height() + 2 * kStatusPadding;
+    statusLine_->setFixedHeight(height);
+    const int left = sizes.textLeft / kTwipsPerPixel, labelWidth = status_->sizeHint().width();
+    status_->setGeometry(left - labelWidth, 0, labelWidth, height);
+    statusText_->setGeometry(left, 0, sizes.textWidth / kTwipsPerPixel, height);
 }
 
 void MessagesView::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
-    setWidths();
+    layOutStatus();
 }
 
-void MessagesView::setWidths() {
-    const int rest = grid_->viewport()->width() - kPictureWidth;
-    grid_->setColumnWidth(Document::PictureColumn, kPictureWidth);
-    for (int column = Document::TitleColumn; column < Document::MessageColumn; ++column)
-        grid_->setColumnWidth(
-            column, std::max(grid_->header()->sectionSizeHint(column), rest * kPercent.at(std::size_t(column)) / 100));
+void MessagesView::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange) layOutStatus();
+}
+
+void MessagesView::showChosen() {
+    draw(); // the message may be one that has just come
+    const int row = rows_.rowOf(document_->selectedRow());
+    list_->setCurrentIndex(row < 0 ? QModelIndex() : shown_.mapFromSource(rows_.index(row, Grid::TitleColumn)));
 }
 
 } // namespace workbench

@@ -1,4 +1,6 @@
 #include "Apps/workbench/pictures.h"
+#include "Apps/workbench/text.h"
+#include <QBitmap>
 #include <QStyle>
 #include <array>
 
@@ -18,6 +20,9 @@ constexpr std::array kPictures{
     Picture{"devices", QStyle::SP_ComputerIcon},
 };
 
+/// The grey that stands for nothing in a picture of the installation.
+const QColor kPictureGround(192, 192, 192);
+
 } // namespace
 
 QPixmap pictureNamed(const std::string& name, const QWidget& window) {
@@ -26,7 +31,21 @@ QPixmap pictureNamed(const std::string& name, const QWidget& window) {
             const int size = window.style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, &window);
             return window.style()->standardIcon(picture.drawn, nullptr, &window).pixmap(size);
         }
-    return {};
+    return QPixmap(qt(name));
+}
+
+QImage imageOf(const std::string& bmp) { return QImage::fromData(QByteArray::fromStdString(bmp), "BMP"); }
+
+QPixmap seeThrough(const QImage& image, int scale) {
+    auto picture = QPixmap::fromImage(image.scaled(image.size() * scale));
+    picture.setMask(picture.createMaskFromColor(kPictureGround.rgb()));
+    picture.setDevicePixelRatio(scale);
+    return picture;
+}
+
+QPixmap pictureOf(const std::string& bmp) {
+    const auto image = imageOf(bmp);
+    return image.isNull() ? QPixmap() : seeThrough(image);
 }
 
 } // namespace workbench

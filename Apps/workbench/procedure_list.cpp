@@ -7,10 +7,6 @@ namespace workbench {
 
 namespace {
 
-bool isProcedure(const vbide::Member& member) {
-    return member.type == vbide::Member::Method || member.type == vbide::Member::Property;
-}
-
 /// What stands before the last "_" of a name.
 QString handledObject(const vbide::Member& member) {
     const auto name = qt(member.Name);
@@ -39,6 +35,10 @@ QStringList objectsOf(vbide::VBComponent& component) {
 }
 
 } // namespace
+
+bool isProcedure(const vbide::Member& member) {
+    return member.type == vbide::Member::Method || member.type == vbide::Member::Property;
+}
 
 QString generalObject() { return "(General)"; }
 

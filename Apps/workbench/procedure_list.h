@@ -16,6 +16,8 @@ void showObjectNames(QComboBox& list, const std::vector<vbide::Member>& members,
 void showProcedureNames(QComboBox& list, const std::vector<vbide::Member>& members, const QComboBox& objects);
 /// The object of a procedure: one of the list.
 QString objectOf(const vbide::Member& member, const QComboBox& objects);
+/// Whether it is a Sub, Function or Property.
+bool isProcedure(const vbide::Member& member);
 /// The procedure in which a line (from 1) stands, null above the first.
 const vbide::Member* memberAt(const std::vector<vbide::Member>& members, int line);
 

@@ -1,5 +1,6 @@
 #include "Apps/workbench/qt_clipboard.h"
 #include "Apps/workbench/text.h"
+#include "Basic/code_page.h"
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QMimeData>
@@ -61,6 +62,9 @@ void QtClipboard::publish() const {
     if (!wanted || wanted == read_) return;
     auto fresh = std::make_unique<QMimeData>();
     for (const auto& [format, data] : *wanted) fresh->setData(qt(format), QByteArray::fromStdString(data));
+    if (const auto ansi = find(*wanted, fernwick::kAnsiTextFormat);
+        ansi != wanted->end() && !fresh->hasFormat(fernwick::kTextFormat))
+        fresh->setText(qt(basic::CodePage::windows1252().decode(ansi->second.substr(0, ansi->second.find('\0')))));
     if (wanted->empty())
         QGuiApplication::clipboard()->clear();
     else

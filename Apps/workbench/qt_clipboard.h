@@ -17,7 +17,7 @@ public:
 
     std::vector<std::string> Formats() const override;
     std::string GetData(const std::string& format) const override;
-    /// The formats that stand there stay.
+    /// The formats that stand there stay. Text in the single-byte code page is there for other programs as plain text too.
     void SetData(const std::string& format, const std::string& data) override;
     void Clear() override;
 

@@ -87,4 +87,8 @@ void QtUser::SetCursor(MousePointerShape shape) {
     QTimer::singleShot(0, qApp, [] { QGuiApplication::restoreOverrideCursor(); });
 }
 
+void QtUser::SetRedraw(bool redraw) {
+    if (mainWindow) mainWindow->setUpdatesEnabled(redraw);
+}
+
 } // namespace workbench

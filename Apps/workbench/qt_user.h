@@ -18,6 +18,7 @@ public:
     void MessageBeep(int type) override;
     /// Until Qt's loop turns, as the next move of the mouse would end it.
     void SetCursor(fernwick::MousePointerShape shape) override;
+    void SetRedraw(bool redraw) override;
 
     /// Above which windows stand; null for none.
     QWidget* mainWindow = nullptr;

@@ -18,7 +18,9 @@ QStringList RecentProjects::stored() { return QSettings().value(kRecentKey).toSt
 RecentProjects::RecentProjects(host::Host& host, std::shared_ptr<host::Bar> menu, Open open)
     : menu_(std::move(menu)), open_(std::move(open)) {
     const auto events = host.Events()->VBProjectsEvents();
-    watches_.push_back(events->ItemAdded.connect([this](auto project) { remember(project); }));
+    watches_.push_back(events->ItemAdded.connect([this, &host](auto project) {
+        if (!host.isTemplate(project->FileName())) remember(project);
+    }));
     watches_.push_back(
         events->ItemRemoved.connect([this](auto project) { remember(project); })); // it may have a file now
     fill();

@@ -2,14 +2,13 @@
 #include "Apps/workbench/command_icons.h"
 #include "Apps/workbench/component_commands.h"
 #include "Apps/workbench/dock_menu.h"
+#include "Apps/workbench/edit_commands.h"
 #include "Apps/workbench/menu_builder.h"
 #include "Apps/workbench/project_properties.h"
 #include "Apps/workbench/project_saving.h"
-#include "Apps/workbench/scintilla.h"
 #include "Apps/workbench/text.h"
 #include "Apps/workbench/window_menu.h"
 #include <QFileDialog>
-#include <QInputDialog>
 
 namespace workbench {
 
@@ -17,31 +16,13 @@ namespace {
 
 constexpr int kTopOfWindow = 1;
 
-/// A command of the code window that has the focus of the user's work.
-std::function<void()> inEditor(MainWindow& window, void (QsciScintilla::*command)()) {
-    return [&window, command] {
-        if (auto* editor = window.code().current()) (editor->scintilla().*command)();
-    };
-}
-
-/// Asks what to look for; the text that is selected is offered.
-void find(MainWindow& window) {
-    auto* const editor = window.code().current();
-    if (!editor) return;
-    bool accepted = false;
-    const auto wanted = QInputDialog::getText(&window, "Find", "Find what:", QLineEdit::Normal,
-                                              editor->scintilla().selectedText(), &accepted);
-    if (accepted && !wanted.isEmpty()) editor->scintilla().findFirst(wanted, false, false, false, true);
-}
-
-void findNext(MainWindow& window) {
-    if (auto* editor = window.code().current()) editor->scintilla().findNext();
-}
-
+/// An add-in may put another component in its place.
 void addComponent(host::Host& host, vbide::vbext_ComponentType type) {
     const auto active = host.ActiveVBProject();
     if (!active) return;
-    active->VBComponents()->Add(type)->CodeModule()->CodePane()->Show();
+    active->VBComponents()->Add(type);
+    const auto added = host.SelectedVBComponent();
+    if (added && !added->HasOpenDesigner()) added->CodeModule()->CodePane()->Show();
 }
 
 void addFile(host::Host& host, MainWindow& window) {
@@ -50,23 +31,6 @@ void addFile(host::Host& host, MainWindow& window) {
     const auto path = QFileDialog::getOpenFileName(&window, "Add File", QFileInfo(qt(active->FileName())).path(),
                                                    "Source files (*.frm *.bas *.cls *.ctl *.pag *.dob *.dsr)");
     if (!path.isEmpty()) active->VBComponents()->AddFile(text(path));
-}
-
-void addEditMenu(host::Host& host, MainWindow& window) {
-    menuOf(host, host::kEditMenuId)
-        .add(kUndoId, "&Undo", inEditor(window, &QsciScintilla::undo))
-        .add(kRedoId, "&Redo", inEditor(window, &QsciScintilla::redo))
-        .group()
-        .add(kCutId, "Cu&t", inEditor(window, &QsciScintilla::cut))
-        .add(kCopyId, "&Copy", inEditor(window, &QsciScintilla::copy))
-        .add(kPasteId, "&Paste", inEditor(window, &QsciScintilla::paste))
-        .add(kSelectAllId, "Select &All",
-             [&window] {
-                 if (auto* editor = window.code().current()) editor->scintilla().selectAll();
-             })
-        .group()
-        .add(kFindId, "&Find...", [&window] { find(window); })
-        .add(kFindNextId, "Find &Next", [&window] { findNext(window); });
 }
 
 void addFileMenu(host::Host& host, MainWindow& window, const WindowDeeds& deeds) {
@@ -89,7 +53,9 @@ void addFileMenu(host::Host& host, MainWindow& window, const WindowDeeds& deeds)
 }
 
 void addViewMenu(host::Host& host, MainWindow& window) {
-    menuOf(host, host::kViewMenuId).add(kViewCodeId, "&Code", [&window] { viewCode(window); });
+    menuOf(host, host::kViewMenuId)
+        .add(kViewCodeId, "&Code", [&window] { window.design().showCode(); })
+        .add(kViewObjectId, "O&bject", [&window] { window.design().showObject(); });
     addToolBarSwitches(host);
     menuOf(host, host::kViewMenuId).add(kThemeId, "&Light or Dark", [&window] {
         window.setTheme(currentTheme() == Theme::Light ? Theme::Dark : Theme::Light);
@@ -160,8 +126,8 @@ void addStandardToolbar(host::Host& host) {
 
 void addWindowCommands(host::Host& host, MainWindow& window, WindowDeeds deeds) {
     addFileMenu(host, window, deeds);
-    addEditMenu(host, window);
     addViewMenu(host, window);
+    new EditCommands(host, window, [&window](int) { window.design().undo(); }); // all that forms have of it
     addProjectMenu(host, window);
     addRunMenu(host, deeds);
     addAddInsMenu(host);

@@ -46,6 +46,7 @@ Workbench::Workbench()
     addWindowCommands(*host_, *window_, deeds());
     addExplorerMenu(*host_, *window_);
     recent_ = std::make_unique<RecentProjects>(*host_, recentMenu(*host_), [this](const auto& path) { open(path); });
+    unsaved_ = std::make_unique<UnsavedWork>(*host_, *window_, [this](const auto& path) { open(path); });
     problemsSoon_.setSingleShot(true);
     problemsSoon_.setInterval(0);
     QObject::connect(&problemsSoon_, &QTimer::timeout, [this] { tellProblems(); });
@@ -57,6 +58,7 @@ Workbench::Workbench()
 Workbench::~Workbench() {
     (void)basic::attempt([this] { host_->close(); });
     recent_.reset();
+    unsaved_.reset();
     window_.reset();
     // a host keeps its retired add-ins, and this one would keep the host
     modules_->addIn.gVBInstance = nullptr;
@@ -69,6 +71,7 @@ host::HostOptions Workbench::hostOptions() {
             window_.get(), kTitle,
             QString("%1 (error %2 of %3)").arg(qt(error.Description)).arg(error.Number).arg(qt(error.Source)));
     };
+    options.mayReplaceChanged = mayReplaceChanged;
     options.askForProject = [this] { return askForProject(); };
     return options;
 }
@@ -110,6 +113,7 @@ void Workbench::connect() {
         host_->connectAddIn(apps::kAddInProgId, vbide::vbext_cm_Startup);
         host_->startupComplete();
     });
+    unsaved_->started();
 }
 
 void Workbench::run(const std::function<void()>& act) {

@@ -7,6 +7,7 @@
 #include "Apps/workbench/qt_loop.h"
 #include "Apps/workbench/qt_user.h"
 #include "Apps/workbench/recent_projects.h"
+#include "Apps/workbench/unsaved_work.h"
 #include "Apps/workbench/window_commands.h"
 
 namespace workbench {
@@ -50,6 +51,7 @@ private:
     std::shared_ptr<host::Host> host_;
     std::unique_ptr<MainWindow> window_;
     std::unique_ptr<RecentProjects> recent_;
+    std::unique_ptr<UnsavedWork> unsaved_;
     QTimer problemsSoon_;
     fernwick::Subscription projectAdded_;
 };

@@ -126,6 +126,15 @@ bool isReadOnly(const std::string& path) {
     return !(state.st_mode & kAnyWriteBit) || onReadOnlySystem(path) || ::access(path.c_str(), W_OK) != 0;
 }
 
+std::optional<FileStamp> changedSince(const std::string& path, const FileStamp& asRead, std::string_view bytes) {
+    struct stat state {};
+    if (::stat(path.c_str(), &state) != 0 || !S_ISREG(state.st_mode)) return {};
+    if (stampOf(state, {}).sameFileState(asRead)) return {};
+    const auto now = readFile(path);
+    if (now.stamp.digest == asRead.digest || now.bytes == bytes) return {};
+    return now.stamp;
+}
+
 FileStamp atomicSave(const std::string& path, std::string_view bytes, const std::optional<FileStamp>& asRead) {
     const auto target = throughLinks(path);
     struct stat old {};

@@ -11,6 +11,10 @@ namespace host {
 /// counts for the superuser too. A file that is not there is not read-only.
 bool isReadOnly(const std::string& path);
 
+/// The stamp of what stands at `path` when another program wrote it since it was read as `asRead`: neither the bytes of
+/// then nor `bytes`. Nothing when there is no such change, and where no file stands any more. Errors as readFile.
+std::optional<FileStamp> changedSince(const std::string& path, const FileStamp& asRead, std::string_view bytes = {});
+
 /// Replaces `path` by `bytes`, through a symbolic link to its target, keeping mode and owner. A file that holds these
 /// bytes already is not touched. `asRead` is the stamp of what the caller read (none: there was no file, or the user
 /// agreed to replace it). On failure the old file stands as it was and nothing is left beside it.

@@ -183,8 +183,19 @@ std::shared_ptr<FormBlock> FormBlock::addObject(std::string_view type, std::stri
     return block;
 }
 
-bool FormBlock::removeObject(const FormBlock& block) {
-    return std::erase_if(items_, [&](const auto& i) { return i->isObject() && i->block.get() == &block; }) > 0;
+std::optional<std::size_t> FormBlock::removeObject(const FormBlock& block) {
+    const auto at = std::find_if(items_.begin(), items_.end(),
+                                 [&](const auto& i) { return i->isObject() && i->block.get() == &block; });
+    if (at == items_.end()) return std::nullopt;
+    const auto place = std::size_t(at - items_.begin());
+    items_.erase(at);
+    return place;
+}
+
+void FormBlock::restoreObject(std::shared_ptr<FormBlock> block, std::size_t place) {
+    auto item = std::make_unique<Item>();
+    item->block = std::move(block);
+    items_.insert(items_.begin() + std::ptrdiff_t(std::min(place, items_.size())), std::move(item));
 }
 
 /// In an Object before the first property that comes later in the alphabet, else behind the last property; in any case

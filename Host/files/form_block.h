@@ -59,8 +59,10 @@ public:
     Blocks objects() const;
     /// A new Object block before the others, where the designer writes the topmost control.
     std::shared_ptr<FormBlock> addObject(std::string_view type, std::string_view name);
-    /// Takes a nested block out. False when it is not one of this block's own.
-    bool removeObject(const FormBlock& block);
+    /// Takes a nested block out. Gives its place, nothing when it is not one of this block's own.
+    std::optional<std::size_t> removeObject(const FormBlock& block);
+    /// Puts a nested block that was taken out back to its place, or to the end where that is gone.
+    void restoreObject(std::shared_ptr<FormBlock> block, std::size_t place);
 
     void writeTo(std::string& out) const;
     std::size_t lineCount() const;

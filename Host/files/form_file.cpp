@@ -206,6 +206,19 @@ std::vector<ObjectLine> FormFile::objects() const {
     return out;
 }
 
+void FormFile::addObject(const ObjectLine& line) {
+    const auto known = objects();
+    if (std::any_of(known.begin(), known.end(),
+                    [&](const auto& o) { return basic::equalNoCase(o.library, line.library); }))
+        return;
+    const auto text = fmt::format("Object = {}; {}{}", stringLiteral(line.library), stringLiteral(line.file),
+                                  bytesOf(ownLineEnd(head())));
+    // behind the lines of its kind, which stand behind the version
+    auto at = before_.end();
+    while (at != before_.begin() && !beginsWithWord(*(at - 1), "Object") && !beginsWithWord(*(at - 1), "VERSION")) --at;
+    before_.insert(at, text);
+}
+
 std::optional<std::string> FormFile::attribute(std::string_view name) const {
     for (const auto& line : attributes_)
         if (const auto parts = attributeParts(line); basic::equalNoCase(parts.name, name))

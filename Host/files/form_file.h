@@ -46,6 +46,8 @@ public:
     /// The text behind "VERSION", "" without such a line: "5.00", or "1.0 CLASS".
     std::string version() const;
     std::vector<ObjectLine> objects() const;
+    /// A further Object line, unless one of the same library is there.
+    void addObject(const ObjectLine& line);
     /// The physical line, from 1, of the form's Begin.
     std::size_t rootLine() const { return before_.size() + 1; }
     /// The form itself; null where the file has no Begin.

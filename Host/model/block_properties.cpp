@@ -3,7 +3,9 @@
 #include "Host/files/form_line.h"
 #include "Host/files/system_error.h"
 #include "Host/model/block_objects.h"
+#include "Host/model/form_controls.h"
 #include "Host/model/property_text.h"
+#include <fmt/format.h>
 #include <unordered_set>
 
 namespace host {
@@ -112,10 +114,50 @@ basic::Ref<vbide::Properties> BlockProperties::object(const std::string& name) c
     return nullptr;
 }
 
+ClassProperty BlockProperties::details(const std::string& name) const {
+    auto property = describe(*live(), name);
+    if (name == kNameProperty) property.kind = PropertyKind::Text;
+    return property;
+}
+
+std::pair<std::shared_ptr<const ResourceFile>, std::size_t> BlockProperties::record(const std::string& name) const {
+    const auto state = live();
+    const auto literal = parsePropertyValue(block_->literal(name).value_or(""));
+    if (literal.kind != PropertyValue::Kind::Resource || !state->hooks.resources) return {};
+    return {state->hooks.resources(literal.resource.file), literal.resource.offset};
+}
+
+std::string BlockProperties::picture(const std::string& name) const {
+    const auto [file, offset] = record(name);
+    return file ? std::string(file->picture(offset).value) : std::string();
+}
+
+std::vector<std::string> BlockProperties::list(const std::string& name) const {
+    const auto [file, offset] = record(name);
+    std::vector<std::string> items;
+    if (!file) return items;
+    for (const auto item : file->list(offset).value) items.push_back(live()->codePage.decode(item));
+    return items;
+}
+
+/// Members of one control array share their name and differ in their index.
+void BlockProperties::checkNameIsFree(DesignerState& state, const std::string& newName) const {
+    const auto indexOf = [](const FormBlock& block) { return block.literal("Index"); };
+    bool taken = block_.get() != &state.root() && basic::equalNoCase(newName, state.root().name());
+    for (const auto& control : state.controls()) {
+        const auto& other = *static_cast<const ControlModel&>(*control.shared()).block();
+        if (&other == block_.get() || !basic::equalNoCase(other.name(), newName)) continue;
+        taken = taken || !indexOf(other) || !indexOf(*block_) || indexOf(other) == indexOf(*block_);
+    }
+    if (taken) throw hostError(basic::kInvalidPropertyValue, fmt::format("The name '{}' is already in use", newName));
+}
+
 void BlockProperties::rename(DesignerState& state, const std::string& newName) {
     const std::string oldName(block_->name());
     if (newName == oldName) return;
-    if (!isControlName(newName)) throw hostError(basic::kInvalidPropertyValue);
+    if (!isControlName(newName))
+        throw hostError(basic::kInvalidPropertyValue, fmt::format("'{}' is not a legal object name", newName));
+    checkNameIsFree(state, newName);
     if (block_.get() == &state.root() && state.hooks.renameForm) return state.hooks.renameForm(newName);
     state.checkText(newName);
     const auto index = fernwick::asLong(plainValue(state, describe(state, "Index")));

@@ -16,6 +16,9 @@ public:
     vbide::Variant value(const std::string& name) const override;
     void value(const std::string& name, const vbide::Variant& value) override;
     basic::Ref<vbide::Properties> object(const std::string& name) const override;
+    ClassProperty details(const std::string& name) const override;
+    std::string picture(const std::string& name) const override;
+    std::vector<std::string> list(const std::string& name) const override;
 
 protected:
     /// The state, after a check that the block still stands in the form (error 440).
@@ -27,7 +30,10 @@ private:
     vbide::Variant plainValue(DesignerState& state, const ClassProperty& property) const;
     void plainValue(DesignerState& state, const ClassProperty& property, const vbide::Variant& value);
     ClassProperty describe(DesignerState& state, const std::string& name) const;
+    /// The record that a property refers to: its file, null for none, and its place there.
+    std::pair<std::shared_ptr<const ResourceFile>, std::size_t> record(const std::string& name) const;
     void rename(DesignerState& state, const std::string& newName);
+    void checkNameIsFree(DesignerState& state, const std::string& newName) const;
 
     std::weak_ptr<DesignerState> state_;
     std::shared_ptr<FormBlock> block_;

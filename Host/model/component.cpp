@@ -7,6 +7,7 @@
 #include "Host/model/host_errors.h"
 #include "Host/model/module_code.h"
 #include "Host/model/project.h"
+#include "Host/model/project_references.h"
 #include "Host/model/tool_window.h"
 #include <algorithm>
 #include <fmt/format.h>
@@ -86,12 +87,13 @@ void Component::Name(const std::string& name) {
     const auto other = project->components().named(name);
     if (other && other.get() != this) throwNameTaken(name);
     source_.name(name);
-    const auto oldName = std::exchange(name_, name);
     dirty_ = true;
-    project->components().renamed(*this, oldName);
-    project->writeMember(*this);
-    project->followRename(oldName, name);
-    project->host()->tell(project->componentsEvents->ItemRenamed, shared_from_this(), oldName);
+    adoptName(name);
+}
+
+void Component::rename(const std::string& name) {
+    source_.name(name);
+    name_ = name;
 }
 
 vbide::vbext_ComponentType Component::Type() const {
@@ -142,7 +144,7 @@ void Component::SaveAs(const std::string& path) {
 
 /// The form's resources go with it, and it refers to them by their new name.
 void Component::copyCompanion(Project& project, const std::string& target) {
-    const auto companion = companionOnDisk(origin_.path);
+    const auto companion = companionOnDisk(resourcesOf());
     if (companion.empty()) return;
     const auto copy = companionOf(target);
     if (!project.host()->writeFile(project, copy, readFile(companion).bytes, std::nullopt)) return;
@@ -150,8 +152,56 @@ void Component::copyCompanion(Project& project, const std::string& target) {
 }
 
 void Component::becomeNew() {
+    template_ = origin_.path;
     origin_ = {};
     dirty_ = true;
+}
+
+void Component::reread() {
+    replaceSource(owner()->readSource(memberKindOf(type_), origin_.path));
+    dirty_ = false;
+    tellReplaced();
+}
+
+void Component::restore(std::string bytes, const std::optional<FileStamp>& base) {
+    auto loaded = owner()->sourceOf(memberKindOf(type_), std::move(bytes), origin_.path);
+    loaded.stamp = base;
+    replaceSource(std::move(loaded));
+    dirty_ = true;
+    tellReplaced();
+}
+
+/// What was handed out of the old source raises errors from now on.
+void Component::replaceSource(LoadedSource loaded) {
+    const auto project = owner();
+    const auto name = loaded.name.empty() ? name_ : loaded.name;
+    const auto other = project->components().named(name);
+    if (other && other.get() != this) throwNameTaken(name);
+    designer_.reset();
+    resources_.clear();
+    source_ = std::move(loaded.source);
+    type_ = loaded.type;
+    origin_.stamp = loaded.stamp;
+    if (code_) code_->replaced();
+    if (name != name_) adoptName(name);
+}
+
+/// Another one than before: the project's line and settings follow.
+void Component::adoptName(const std::string& name) {
+    const auto project = owner();
+    const auto oldName = std::exchange(name_, name);
+    project->components().renamed(*this, oldName);
+    project->writeMember(*this);
+    project->followRename(oldName, name);
+    project->host()->tell(project->componentsEvents->ItemRenamed, shared_from_this(), oldName);
+}
+
+void Component::tellReplaced() {
+    const auto self = shared_from_this();
+    const auto project = owner();
+    const auto host = project->host();
+    host->tell(project->componentsEvents->ItemReloaded, self);
+    host->tell(host->panes.codeChanged, vbide::Ref<vbide::VBComponent>(self));
 }
 
 void Component::remove() {
@@ -162,9 +212,9 @@ void Component::remove() {
 void Component::Activate() {
     const auto project = owner();
     const auto self = shared_from_this();
-    if (hasDesigner()) openDesigner();
     const auto host = project->host();
     host->select(self);
+    if (hasDesigner()) DesignerWindow()->SetFocus();
     host->tell(project->componentsEvents->ItemSelected, self);
     host->tell(project->componentsEvents->ItemActivated, self);
 }
@@ -191,7 +241,10 @@ bool Component::hasDesigner() const {
 DesignerHooks Component::designerHooks() {
     // The designer is this component's own: it never outlives it.
     DesignerHooks hooks;
-    hooks.changed = [this] { changed(); };
+    hooks.changed = [this] {
+        changed();
+        tellPanes(&PaneEvents::designChanged);
+    };
     hooks.controlAdded = [this](const auto& control) { owner()->host()->tell(controlsEvents_->ItemAdded, control); };
     hooks.controlRemoved = [this](const auto& control) {
         owner()->host()->tell(controlsEvents_->ItemRemoved, control);
@@ -200,6 +253,7 @@ DesignerHooks Component::designerHooks() {
         owner()->host()->tell(controlsEvents_->ItemRenamed, control, oldName, oldIndex);
     };
     hooks.renameForm = [this](const std::string& name) { Name(name); };
+    hooks.objectLine = [this](const std::string& className) { return owner()->references().objectLineOf(className); };
     hooks.resources = [this](const std::string& name) { return resources(name); };
     if (const auto host = owner()->host()) {
         hooks.classes = host->options().controlClasses;
@@ -211,7 +265,7 @@ DesignerHooks Component::designerHooks() {
 /// Read once: a form refers to its companion many times.
 std::shared_ptr<const ResourceFile> Component::resources(const std::string& name) {
     PathLookup lookup;
-    const auto path = lookup.find(folderNameOf(origin_.path), name);
+    const auto path = lookup.find(folderNameOf(resourcesOf()), name);
     const auto [entry, isNew] = resources_.try_emplace(path);
     if (isNew) entry->second = readResources(path);
     return entry->second;
@@ -243,12 +297,22 @@ bool Component::HasOpenDesigner() const {
     return designerWindow_ && designerWindow_->Visible();
 }
 
+/// Nobody is told of a component that has been removed.
+void Component::tellPanes(fernwick::Event<vbide::Ref<vbide::VBComponent>> PaneEvents::*event) {
+    const auto project = project_.lock();
+    const auto host = project ? project->host() : nullptr;
+    if (host) host->tell(host->panes.*event, vbide::Ref<vbide::VBComponent>(shared_from_this()));
+}
+
 void Component::openDesigner() { DesignerWindow()->Visible(true); }
 
 vbide::Ref<vbide::Window> Component::DesignerWindow() {
     owner();
     if (!hasDesigner()) throw hostError(basic::kPropertyOrMethodNotSupported);
-    if (!designerWindow_) designerWindow_ = std::make_shared<ToolWindow>(name_);
+    if (designerWindow_) return designerWindow_;
+    designerWindow_ = std::make_shared<ToolWindow>(name_);
+    designerEvents_.push_back(designerWindow_->changed.connect([this] { tellPanes(&PaneEvents::designerOpened); }));
+    designerEvents_.push_back(designerWindow_->focused.connect([this] { tellPanes(&PaneEvents::designerShown); }));
     return designerWindow_;
 }
 

@@ -18,6 +18,8 @@ class FormDesigner;
 class ModuleCode;
 class Project;
 class ToolWindow;
+struct LoadedSource;
+struct PaneEvents;
 
 /// Where a component comes from. A new one has none of it.
 struct ComponentOrigin {
@@ -57,8 +59,18 @@ public:
     const std::string& path() const { return origin_.path; }
     const std::optional<ProjectFile::Place>& member() const { return origin_.member; }
     void member(std::optional<ProjectFile::Place> place) { origin_.member = place; }
-    /// Forgets its file: a component of a new project made from a template.
+    /// Forgets its file: it was made from a template, from where its resources come until it is saved.
     void becomeNew();
+    /// Writes another name into its text, before it is taken in.
+    void rename(const std::string& name);
+    /// Of its file as it was read or saved last; none for a component without a file.
+    const std::optional<FileStamp>& stamp() const { return origin_.stamp; }
+    /// Reads its file again: what was not saved is forgotten, its name is what the file tells. Its designer is another
+    /// object then. Errors, and nothing changed: as readFile; 321 no source of this kind; 32813 the name is taken.
+    void reread();
+    /// Takes this for its source, unsaved: text that was made from its file when that had the stamp `base`. A later save
+    /// over any other file is one over what another program wrote. Errors as above.
+    void restore(std::string bytes, const std::optional<FileStamp>& base);
     /// The text was edited.
     void changed() { dirty_ = true; }
     /// From now on every member raises an error, those of its designer too.
@@ -72,9 +84,15 @@ public:
     const vbide::Ref<vbide::VBControlsEvents>& controlsEvents() const { return controlsEvents_; }
 
 private:
+    void replaceSource(LoadedSource loaded);
+    void adoptName(const std::string& name);
+    void tellReplaced();
     FormDesigner& designer();
     std::shared_ptr<const ResourceFile> resources(const std::string& name);
     DesignerHooks designerHooks();
+    /// The file beside which the binary companion lies.
+    const std::string& resourcesOf() const { return origin_.path.empty() ? template_ : origin_.path; }
+    void tellPanes(fernwick::Event<vbide::Ref<vbide::VBComponent>> PaneEvents::*event);
     void copyCompanion(Project& project, const std::string& target);
 
     std::weak_ptr<Project> project_;
@@ -82,8 +100,10 @@ private:
     std::string name_;
     SourceFile source_;
     ComponentOrigin origin_;
+    std::string template_;
     bool dirty_ = false, removing_ = false;
     std::shared_ptr<ToolWindow> designerWindow_;
+    std::vector<fernwick::Subscription> designerEvents_;
     std::shared_ptr<ModuleCode> code_;
     std::map<std::string, std::shared_ptr<const ResourceFile>> resources_; // by path
     std::unique_ptr<FormDesigner> designer_;                               // made at first use

@@ -22,6 +22,10 @@ MemberKind kindOfFile(const std::string& path) {
     throw hostError(kInvalidFileFormat, path + ": is no kind of component");
 }
 
+std::string_view withoutNumber(std::string_view name) {
+    return name.substr(0, name.find_last_not_of("0123456789") + 1);
+}
+
 } // namespace
 
 std::shared_ptr<Project> Components::project() const {
@@ -80,11 +84,21 @@ vbide::Ref<vbide::VBComponent> Components::Add(vbide::vbext_ComponentType type) 
     const auto component = std::make_shared<Component>(
         project, type, name, SourceFile(newSource(type, name), host->options().codePage), ComponentOrigin{});
     take(component);
+    welcomeNew(component);
+    return component;
+}
+
+/// A new one comes to the front, unless a handler has removed it or put another in its place.
+void Components::welcomeNew(const std::shared_ptr<Component>& component) {
+    const auto project = this->project();
+    const auto host = project->host();
+    const auto inFront = host->SelectedVBComponent();
     project->changed();
     if (component->hasDesigner()) component->openDesigner();
     host->tell(project->componentsEvents->ItemAdded, component);
-    if (named(name) == component) component->Activate();
-    return component;
+    const bool stands = std::find(list_.begin(), list_.end(), component) != list_.end();
+    const auto now = host->SelectedVBComponent();
+    if (stands && (!now || now == inFront)) component->Activate();
 }
 
 vbide::Ref<vbide::VBComponent> Components::AddFile(const std::string& path) {
@@ -94,11 +108,34 @@ vbide::Ref<vbide::VBComponent> Components::AddFile(const std::string& path) {
     const auto kind = kindOfFile(native);
     host->tellFile(&vbide::FileControlEvents::BeforeLoadFile, *project, std::vector<std::string>{native});
     const auto component = project->readComponent(kind, native, {});
+    if (host->isTemplate(native)) return addTemplate(component);
     if (!take(component)) throwNameTaken(component->Name());
     project->writeMember(*component);
     project->changed();
     host->tellFile(&vbide::FileControlEvents::AfterAddFile, *project, native);
     host->tell(project->componentsEvents->ItemAdded, component);
+    return component;
+}
+
+vbide::Ref<vbide::VBComponent> Components::addTemplate(const std::shared_ptr<Component>& component) {
+    component->becomeNew();
+    if (named(component->Name())) component->rename(freeName(withoutNumber(component->Name())));
+    take(component);
+    welcomeNew(component);
+    return component;
+}
+
+std::shared_ptr<Component> Components::addSource(vbide::vbext_ComponentType type, const std::string& name,
+                                                 std::string bytes) {
+    const auto project = this->project();
+    auto loaded = project->sourceOf(memberKindOf(type), std::move(bytes), name);
+    if (!loaded.name.empty() && named(loaded.name)) throwNameTaken(loaded.name);
+    const auto component =
+        std::make_shared<Component>(project, loaded.type, loaded.name.empty() ? freeName(name) : loaded.name,
+                                    std::move(loaded.source), ComponentOrigin{});
+    take(component);
+    project->changed();
+    project->host()->tell(project->componentsEvents->ItemAdded, component);
     return component;
 }
 

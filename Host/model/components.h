@@ -26,6 +26,9 @@ public:
     std::shared_ptr<Component> named(const std::string& name) const;
     /// Takes one in without an event. False when its name is taken.
     bool take(const std::shared_ptr<Component>& component);
+    /// Takes in a component of which only the text is left: it has no file yet. Errors: 321 no source of this kind;
+    /// 32813 its name is taken.
+    std::shared_ptr<Component> addSource(vbide::vbext_ComponentType type, const std::string& name, std::string bytes);
     void renamed(Component& component, const std::string& oldName);
     /// From now on every member of these objects raises an error.
     void close();
@@ -33,6 +36,8 @@ public:
 private:
     std::shared_ptr<Project> project() const;
     std::string freeName(std::string_view stem) const;
+    vbide::Ref<vbide::VBComponent> addTemplate(const std::shared_ptr<Component>& component);
+    void welcomeNew(const std::shared_ptr<Component>& component);
 
     Project* project_;
     std::vector<std::shared_ptr<Component>> list_;

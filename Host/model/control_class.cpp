@@ -29,6 +29,13 @@ void addClassRows(ControlClass& target, std::string_view rows) {
 
 } // namespace
 
+std::vector<PropertyChoice> ClassProperty::choices() const {
+    auto all = named;
+    for (std::size_t i = 0; i < words.size(); ++i)
+        if (!words[i].empty()) all.push_back({long(i), words[i]});
+    return all;
+}
+
 const ClassProperty* ControlClass::find(std::string_view name) const {
     for (const auto& property : properties)
         if (basic::equalNoCase(property.name, name)) return &property;

@@ -21,11 +21,24 @@ enum class PropertyKind : char {
     Picture = 'P',
 };
 
+/// A value of an enumeration.
+struct PropertyChoice {
+    long value = 0;
+    std::string word;
+};
+
 struct ClassProperty {
     std::string name;
     PropertyKind kind = PropertyKind::Unknown;
     std::string fallback;           ///< the literal that an absent property stands for
     std::vector<std::string> words; ///< Enumeration: the words of 0, 1, 2, ...
+    /// The names of an integer's values where a type library describes them; they never stand in a form.
+    std::vector<PropertyChoice> named = {};
+    bool isColour = false; ///< an integer that a type library calls a colour
+
+    /// The values that there are to choose from, for one that is no enumeration none.
+    std::vector<PropertyChoice> choices() const;
+    bool showsColour() const { return isColour || kind == PropertyKind::Colour; }
 };
 
 struct ControlClass {

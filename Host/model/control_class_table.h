@@ -180,7 +180,7 @@ Default B 0
 )";
 
 inline constexpr std::string_view kValueRows = R"(
-Value I 0
+Value E 0 Unchecked|Checked|Grayed
 )";
 
 inline constexpr std::string_view kCheckedRows = R"(

@@ -1,6 +1,7 @@
 #include "Host/model/described_classes.h"
 #include "Basic/case_folding.h"
 #include "Host/model/property_text.h"
+#include <set>
 
 namespace host {
 namespace {
@@ -15,22 +16,32 @@ PropertyKind kindOfType(const std::string& type) {
     return PropertyKind::Integer;
 }
 
-ClassProperty describedProperty(const TypeMember& member) {
+std::vector<PropertyChoice> valuesOfType(const TypeDescription& library, const std::string& type) {
+    std::vector<PropertyChoice> choices;
+    for (const auto& enumeration : library.enumerations)
+        if (enumeration.name == type)
+            for (const auto& value : enumeration.values) choices.push_back({value.value, value.name});
+    return choices;
+}
+
+ClassProperty describedProperty(const TypeDescription& library, const TypeMember& member) {
     ClassProperty property;
     property.name = member.name;
     property.kind = kindOfType(member.type);
+    property.named = valuesOfType(library, member.type);
+    property.isColour = member.type == "OLE_COLOR";
     if (member.defaultValue != fernwick::Variant{})
         property.fallback = literalOfValue(property, member.defaultValue, {}).literal;
     return property;
 }
 
 /// What a form can hold of a class. The index belongs to the form, not to the control, and -1 means none.
-std::shared_ptr<const ControlClass> describedClass(const TypeClass& described) {
+std::shared_ptr<const ControlClass> describedClass(const TypeDescription& library, const TypeClass& described) {
     auto made = std::make_shared<ControlClass>();
     made->properties.push_back({"Index", PropertyKind::Integer, "-1", {}});
     for (const auto& member : described.properties)
         if (member.design && !member.readOnly && member.parameters.empty())
-            made->properties.push_back(describedProperty(member));
+            made->properties.push_back(describedProperty(library, member));
     return made;
 }
 
@@ -38,7 +49,7 @@ std::shared_ptr<const ControlClass> describedClass(const TypeClass& described) {
 
 void DescribedClasses::add(const TypeDescription& library) {
     for (const auto& described : library.classes) {
-        const Described entry{library.name + "Ctl." + described.name, describedClass(described)};
+        const Described entry{library.name + "Ctl." + described.name, describedClass(library, described)};
         classes_.emplace(basic::foldCase(entry.className), entry);
         classes_.emplace(basic::foldCase(described.progId), entry);
     }
@@ -52,6 +63,12 @@ std::shared_ptr<const ControlClass> DescribedClasses::find(const std::string& cl
 std::string DescribedClasses::classOfProgId(const std::string& progId) const {
     const auto found = classes_.find(basic::foldCase(progId));
     return found == classes_.end() ? progId : found->second.className;
+}
+
+std::vector<std::string> DescribedClasses::classNames() const {
+    std::set<std::string> names;
+    for (const auto& [key, described] : classes_) names.insert(described.className);
+    return {names.begin(), names.end()};
 }
 
 } // namespace host

@@ -18,6 +18,8 @@ public:
     std::shared_ptr<const ControlClass> find(const std::string& className) const;
     /// The class that a form's text uses for a ProgID; the ProgID itself where no library describes it.
     std::string classOfProgId(const std::string& progId) const;
+    /// All classes as a form's text names them, in the alphabet's order.
+    std::vector<std::string> classNames() const;
 
 private:
     struct Described {

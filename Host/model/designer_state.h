@@ -28,6 +28,8 @@ struct DesignerHooks {
     std::function<std::shared_ptr<const ControlClass>(const std::string& className)> classes;
     /// The class that a form's text uses for a ProgID ("Tavlets.QLLabel" is TavletsCtl.QLLabel).
     std::function<std::string(const std::string& progId)> classOfProgId;
+    /// The Object line that a form needs for a control of this class; nothing where it needs none.
+    std::function<std::optional<ObjectLine>(const std::string& className)> objectLine;
 };
 
 /// A line whose number depends on the form's scale, before and after a change of it.

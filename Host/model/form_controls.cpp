@@ -4,6 +4,7 @@
 #include "Host/files/system_error.h"
 #include "Host/model/block_properties.h"
 #include "Host/model/form_geometry.h"
+#include "Host/model/form_places.h"
 #include <algorithm>
 
 namespace host {
@@ -41,11 +42,11 @@ std::vector<basic::Ref<vbide::VBControl>> controlsIn(DesignerState& state, const
 }
 
 /// The container of a block, which is the form or a control on it.
-FormBlock* containerOf(FormBlock& root, const FormBlock& block) {
-    const auto inner = root.objects();
-    if (std::any_of(inner.begin(), inner.end(), [&](const auto& b) { return b.get() == &block; })) return &root;
+std::shared_ptr<FormBlock> containerOf(const std::shared_ptr<FormBlock>& root, const FormBlock& block) {
+    const auto inner = root->objects();
+    if (std::any_of(inner.begin(), inner.end(), [&](const auto& b) { return b.get() == &block; })) return root;
     for (const auto& candidate : inner)
-        if (auto* found = containerOf(*candidate, block)) return found;
+        if (auto found = containerOf(candidate, block)) return found;
     return nullptr;
 }
 
@@ -58,6 +59,45 @@ long nextTabIndex(DesignerState& state) {
             next = std::max(next, long(value.number) + 1);
     }
     return next;
+}
+
+basic::Ref<vbide::VBControl> addTo(DesignerState& state, FormBlock& container, const TwipsPerUnit& scale,
+                                   const std::string& progId) {
+    const auto type = state.hooks.classOfProgId ? state.hooks.classOfProgId(progId) : progId;
+    if (type.find('.') == std::string::npos || type.find_first_of(" \t\r\n") != std::string::npos)
+        throw hostError(basic::kCantCreateObject);
+    state.checkText(type);
+    const auto block = container.addObject(type, freeControlName(state, nameStem(classPart(type))));
+    const auto tabIndex = nextTabIndex(state);
+    block->set("Height", singleLiteral(kNewHeight / scale.y));
+    block->set("Left", "0");
+    block->set("TabIndex", integerLiteral(tabIndex));
+    block->set("Top", "0");
+    block->set("Width", singleLiteral(kNewWidth / scale.x));
+    if (const auto line = state.hooks.objectLine ? state.hooks.objectLine(type) : std::nullopt)
+        state.file->addObject(*line);
+    state.controlsChanged();
+    state.tellChanged();
+    auto control = state.controlOf(*block);
+    if (state.hooks.controlAdded) state.hooks.controlAdded(control);
+    return control;
+}
+
+RemovedControl takeOff(DesignerState& state, const basic::Ref<vbide::VBControl>& control) {
+    const auto model = basic::cast<ControlModel>(control);
+    auto container = model ? containerOf(state.file->root(), *model->block()) : nullptr;
+    if (!container) throw hostError(basic::kInvalidProcedureCall, "The control is not on this form.");
+    const auto place = container->removeObject(*model->block()).value_or(0);
+    state.controlsChanged();
+    state.tellChanged();
+    if (state.hooks.controlRemoved) state.hooks.controlRemoved(control);
+    return {std::move(container), model->block(), place};
+}
+
+std::shared_ptr<DesignerState> stateOf(const basic::Ref<vbide::VBForm>& form) {
+    const auto model = basic::cast<FormModel>(form);
+    if (!model) throw hostError(basic::kInvalidProcedureCall);
+    return model->state();
 }
 
 } // namespace
@@ -108,34 +148,31 @@ std::vector<basic::Ref<vbide::VBControl>> ControlsModel::items() const { return 
 
 basic::Ref<vbide::VBControl> ControlsModel::Add(const std::string& progId) {
     const auto state = liveDesigner(state_);
-    const auto type = state->hooks.classOfProgId ? state->hooks.classOfProgId(progId) : progId;
-    if (type.find('.') == std::string::npos || type.find_first_of(" \t\r\n") != std::string::npos)
-        throw hostError(basic::kCantCreateObject);
-    state->checkText(type);
-    const auto block = state->root().addObject(type, freeControlName(*state, nameStem(classPart(type))));
-    const auto scale = FormGeometry(*state).scale();
-    const auto tabIndex = nextTabIndex(*state);
-    block->set("Height", singleLiteral(kNewHeight / scale.y));
-    block->set("Left", "0");
-    block->set("TabIndex", integerLiteral(tabIndex));
-    block->set("Top", "0");
-    block->set("Width", singleLiteral(kNewWidth / scale.x));
-    state->controlsChanged();
-    state->tellChanged();
-    auto control = state->controlOf(*block);
-    if (state->hooks.controlAdded) state->hooks.controlAdded(control);
-    return control;
+    return addTo(*state, state->root(), FormGeometry(*state).scale(), progId);
 }
 
-void ControlsModel::Remove(const basic::Ref<vbide::VBControl>& control) {
-    const auto state = liveDesigner(state_);
-    const auto model = basic::cast<ControlModel>(control);
-    auto* container = model ? containerOf(state->root(), *model->block()) : nullptr;
-    if (!container) throw hostError(basic::kInvalidProcedureCall, "The control is not on this form.");
-    container->removeObject(*model->block());
+void ControlsModel::Remove(const basic::Ref<vbide::VBControl>& control) { takeOff(*liveDesigner(state_), control); }
+
+basic::Ref<vbide::VBControl> addControl(const basic::Ref<vbide::VBForm>& form,
+                                        const basic::Ref<vbide::VBControl>& container, const std::string& progId) {
+    const auto state = stateOf(form);
+    const auto scale = FormGeometry(*state).scale();
+    const auto model = basic::cast<ControlModel>(container);
+    if (!model) return addTo(*state, state->root(), scale, progId);
+    return addTo(*state, *model->block(), unitsIn(container, scale), progId);
+}
+
+RemovedControl removeControl(const basic::Ref<vbide::VBForm>& form, const basic::Ref<vbide::VBControl>& control) {
+    return takeOff(*stateOf(form), control);
+}
+
+void restoreControl(const basic::Ref<vbide::VBForm>& form, const RemovedControl& removed) {
+    const auto state = stateOf(form);
+    if (!state->holds(*removed.container)) throw hostError(basic::kAutomationError);
+    removed.container->restoreObject(removed.block, removed.place);
     state->controlsChanged();
     state->tellChanged();
-    if (state->hooks.controlRemoved) state->hooks.controlRemoved(control);
+    if (state->hooks.controlAdded) state->hooks.controlAdded(state->controlOf(*removed.block));
 }
 
 basic::Ref<vbide::VBControls> FormModel::VBControls() const {

@@ -41,12 +41,30 @@ private:
     std::weak_ptr<DesignerState> state_;
 };
 
+/// A control that was taken off its form, and where it stood.
+struct RemovedControl {
+    std::shared_ptr<FormBlock> container, block;
+    std::size_t place = 0;
+};
+
+// ---- for front ends -----------------------------------------------------------------------------------------------------
+/// As VBControls.Add, within a control that is a container; Nothing for the form itself.
+basic::Ref<vbide::VBControl> addControl(const basic::Ref<vbide::VBForm>& form,
+                                        const basic::Ref<vbide::VBControl>& container, const std::string& progId);
+/// As VBControls.Remove.
+RemovedControl removeControl(const basic::Ref<vbide::VBForm>& form, const basic::Ref<vbide::VBControl>& control);
+/// Puts a control back where it stood, as one that was added. Error 440 when its container is gone.
+void restoreControl(const basic::Ref<vbide::VBForm>& form, const RemovedControl& removed);
+
 class FormModel : public vbide::VBForm {
 public:
     explicit FormModel(std::weak_ptr<DesignerState> state) : state_(std::move(state)) {}
 
     basic::Ref<vbide::VBControls> VBControls() const override;
     std::vector<basic::Ref<vbide::VBControl>> ContainedVBControls() const override;
+
+    /// Error 440 when the form is gone.
+    std::shared_ptr<DesignerState> state() const { return liveDesigner(state_); }
 
 private:
     std::weak_ptr<DesignerState> state_;

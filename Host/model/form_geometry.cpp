@@ -44,8 +44,10 @@ std::string unitsLiteral(double value, int mode) {
     return text == "-0" ? "0" : text;
 }
 
-TwipsPerUnit scaleOf(int mode) {
-    switch (mode) {
+} // namespace
+
+TwipsPerUnit twipsPerUnit(int scaleMode) {
+    switch (scaleMode) {
     case kPointScale: return {20, 20};
     case kPixelScale: return {kTwipsPerPixel, kTwipsPerPixel};
     case kCharacterScale: return {120, 240};
@@ -55,8 +57,6 @@ TwipsPerUnit scaleOf(int mode) {
     default: return {1, 1};
     }
 }
-
-} // namespace
 
 bool FormGeometry::owns(std::string_view name) { return isOneOfNames(kGeometryNames, name); }
 bool FormGeometry::isClientLine(std::string_view key) { return isOneOfNames(kClientLines, key); }
@@ -88,12 +88,18 @@ int FormGeometry::scaleMode() const {
 
 TwipsPerUnit FormGeometry::scale() const {
     const auto mode = scaleMode();
-    if (mode != kUserScale) return scaleOf(mode);
+    if (mode != kUserScale) return twipsPerUnit(mode);
     const auto perUnit = [&](std::string_view client, std::string_view units) {
         const auto twips = number(client, 0), size = number(units, twips);
         return twips > 0 && size != 0 ? twips / size : 1.0;
     };
     return {perUnit("ClientWidth", "ScaleWidth"), perUnit("ClientHeight", "ScaleHeight")};
+}
+
+FormExtent FormGeometry::extent() const {
+    const auto frame = this->frame();
+    return {number("ClientWidth", 0), number("ClientHeight", 0),        double(frame.left),
+            double(frame.top),        double(frame.width - frame.left), double(frame.height - frame.top)};
 }
 
 double FormGeometry::value(std::string_view name) const {

@@ -10,6 +10,13 @@ namespace host {
 struct TwipsPerUnit {
     double x = 1, y = 1;
 };
+TwipsPerUnit twipsPerUnit(int scaleMode);
+
+/// The inner rectangle of a form and the frame round it, in twips.
+struct FormExtent {
+    double width = 0, height = 0;
+    double left = 0, top = 0, right = 0, bottom = 0; ///< widths of the frame
+};
 
 /// The file holds the inner rectangle (ClientLeft, ClientTop, ClientWidth, ClientHeight, in twips) and its size in
 /// the form's own units (ScaleWidth, ScaleHeight). Left, Top, Width and Height are those of the outer rectangle: a
@@ -30,6 +37,7 @@ public:
 
     /// The scale of the form's own units.
     TwipsPerUnit scale() const;
+    FormExtent extent() const;
 
 private:
     struct Frame {

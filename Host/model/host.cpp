@@ -7,6 +7,7 @@
 #include "Host/model/project.h"
 #include "Host/model/projects.h"
 #include "Host/model/tool_windows.h"
+#include <algorithm>
 
 namespace host {
 namespace {
@@ -73,6 +74,19 @@ void Host::ActiveVBProject(const vbide::Ref<vbide::VBProject>& project) {
     activate(project);
 }
 
+bool Host::isTemplate(const std::string& path) const {
+    const auto isBelow = [&](const std::string& folder) {
+        return !folder.empty() && path.starts_with(absolutePath(folder) + "/");
+    };
+    const auto& others = options_.templateFolders;
+    return isBelow(options_.templatePath) || std::any_of(others.begin(), others.end(), isBelow);
+}
+
+void Host::welcome(const vbide::Ref<vbide::VBProject>& project) {
+    active_ = project;
+    tell(projectsEvents_->ItemAdded, project);
+}
+
 void Host::activate(const vbide::Ref<vbide::VBProject>& project) {
     if (active_ == project || !projects_->holds(project)) return;
     active_ = project;
@@ -95,16 +109,26 @@ vbide::Ref<vbide::VBProject> Host::refTo(Project& project) { return project.shar
 
 const vbide::FileControlEvents& Host::fileEventsOf(Project& project) const { return *project.fileEvents.shared(); }
 
+/// Having agreed to replace what stands there now, the user has not agreed to replace what comes later.
+bool Host::agreesToReplace(const std::string& path, std::string_view bytes, std::optional<FileStamp>& asRead) const {
+    if (!asRead || !options_.mayReplaceChanged) return true;
+    const auto now = changedSince(path, *asRead, bytes);
+    if (!now) return true;
+    if (!options_.mayReplaceChanged(path)) return false;
+    asRead = now;
+    return true;
+}
+
 std::optional<FileStamp> Host::writeFile(Project& project, const std::string& path, std::string_view bytes,
-                                         const std::optional<FileStamp>& asRead) {
+                                         std::optional<FileStamp> asRead) {
     using Events = vbide::FileControlEvents;
     bool cancel = false;
     tellFile(&Events::RequestWriteFile, project, path, cancel);
-    if (cancel) {
-        tellFile(&Events::AfterWriteFile, project, path, int(kWriteCancelled));
-        return {};
-    }
     try {
+        if (cancel || !agreesToReplace(path, bytes, asRead)) {
+            tellFile(&Events::AfterWriteFile, project, path, int(kWriteCancelled));
+            return {};
+        }
         const auto stamp = atomicSave(path, bytes, asRead);
         tellFile(&Events::AfterWriteFile, project, path, int(kWritten));
         return stamp;

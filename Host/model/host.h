@@ -30,6 +30,8 @@ struct HostOptions {
     basic::CodePage codePage = basic::CodePage::windows1252();
     /// The folder above the host's project templates.
     std::string templatePath;
+    /// Further folders of templates. What is opened or added from below any of them is new, without a file of its own.
+    std::vector<std::string> templateFolders;
     /// Type libraries and control classes are looked up here.
     fernwick::Registry* registry = nullptr;
     /// Makes the documents of tool windows.
@@ -39,19 +41,30 @@ struct HostOptions {
     /// The properties of a control class that is not the language's own, and the class of a ProgID; see DesignerHooks.
     std::function<std::shared_ptr<const ControlClass>(const std::string& className)> controlClasses;
     std::function<std::string(const std::string& progId)> classOfProgId;
+    /// The control classes that are installed, for toolboxes.
+    std::function<std::vector<std::string>()> controlClassNames;
     /// Told of an error that a handler of an add-in let out; the host itself goes on.
     std::function<void(const basic::ErrObject&)> handlerFailed;
+    /// Asked before a save replaces a file that another program changed since it was read; false leaves the file and what
+    /// was to be saved as they are. Without it such a save fails with error 75.
+    std::function<bool(const std::string& path)> mayReplaceChanged;
     /// Asks the user which project to open; "" for none. Without it the menu's command does nothing.
     std::function<std::string()> askForProject;
 };
 
-/// What happens to the code panes of components, for a front end that draws them.
+/// What happens to the code panes and designers of components, for a front end that draws them.
 struct PaneEvents {
     /// It is to come to the front.
     fernwick::Event<vbide::Ref<vbide::VBComponent>> shown;
     fernwick::Event<vbide::Ref<vbide::VBComponent>> selectionSet;
     /// Somebody edited the code, perhaps the front end itself.
     fernwick::Event<vbide::Ref<vbide::VBComponent>> codeChanged;
+    /// A form's designer is to come to the front.
+    fernwick::Event<vbide::Ref<vbide::VBComponent>> designerShown;
+    /// A form's designer opened or closed.
+    fernwick::Event<vbide::Ref<vbide::VBComponent>> designerOpened;
+    /// Somebody edited the text of a form, perhaps the front end itself.
+    fernwick::Event<vbide::Ref<vbide::VBComponent>> designChanged;
 };
 
 class Host final : public vbide::VBE, public std::enable_shared_from_this<Host> {
@@ -83,6 +96,8 @@ public:
     void close();
     /// Saves the project's components that have a file and then the project, those that are dirty only.
     void saveProject(const vbide::Ref<vbide::VBProject>& project);
+    /// Whether the file (native, absolute) lies below a folder of templates.
+    bool isTemplate(const std::string& path) const;
     PaneEvents panes;
     Bars& bars() { return *bars_; }
     ToolWindows& toolWindows() { return *windows_; }
@@ -95,6 +110,8 @@ public:
     vbide::FileControlEvents& fileEvents() { return *fileEvents_.shared(); }
     std::vector<LoadProblem>& problems() { return loadProblems_; }
 
+    /// A project that has just been taken in is the active one from the first; its ItemAdded says so for both.
+    void welcome(const vbide::Ref<vbide::VBProject>& project);
     /// Makes the project the active one and says so; nothing when it is that already.
     void activate(const vbide::Ref<vbide::VBProject>& project);
     void select(const vbide::Ref<vbide::VBComponent>& component) { selected_ = component; }
@@ -112,14 +129,16 @@ public:
     template <class... Args, class... Given>
     void tellFile(fernwick::Event<Args...> vbide::FileControlEvents::*event, Project& project, Given&&... arguments);
 
-    /// Writes a file of a project, with the events round it. Nothing when a handler cancelled it.
+    /// Writes a file of a project, with the events round it. Nothing when a handler cancelled it, or the user does not
+    /// want to replace what another program wrote.
     /// Errors as atomicSave, after AfterWriteFile.
     std::optional<FileStamp> writeFile(Project& project, const std::string& path, std::string_view bytes,
-                                       const std::optional<FileStamp>& asRead);
+                                       std::optional<FileStamp> asRead);
 
 private:
     explicit Host(HostOptions options);
     void handlerFailed(const basic::ErrObject& error) const;
+    bool agreesToReplace(const std::string& path, std::string_view bytes, std::optional<FileStamp>& asRead) const;
     const vbide::FileControlEvents& fileEventsOf(Project& project) const;
     static vbide::Ref<vbide::VBProject> refTo(Project& project);
 

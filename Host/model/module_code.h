@@ -28,6 +28,10 @@ public:
     std::vector<vbide::Member> Members() const override;
     vbide::Ref<vbide::CodePane> CodePane() override;
 
+    // ---- for the host ----
+    /// The component's source is another one.
+    void replaced() { outline_.reset(); }
+
 private:
     CodeText& text() const;
     void edited();

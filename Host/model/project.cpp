@@ -75,6 +75,9 @@ void Project::Name(const std::string& name) {
     const auto oldName = Name();
     if (name == oldName) return;
     if (name.empty()) throw hostError(basic::kInvalidPropertyValue);
+    for (const auto& other : host->VBProjects()->items())
+        if (other != vbide::Ref<vbide::VBProject>(shared_from_this()) && basic::equalNoCase(other->Name(), name))
+            throwNameTaken(name);
     file_->setSetting("Name", name);
     dirty_ = true;
     host->tell(host->projectsEvents().ItemRenamed, shared_from_this(), oldName);

@@ -18,6 +18,14 @@ namespace host {
 class Host;
 class ProjectReferences;
 
+/// A component's source as it was read, and what it says of itself.
+struct LoadedSource {
+    SourceFile source;
+    vbide::vbext_ComponentType type;
+    std::string name; ///< "" where the source tells none
+    std::optional<FileStamp> stamp;
+};
+
 /// The kind of line that lists a component of this type.
 MemberKind memberKindOf(vbide::vbext_ComponentType type) noexcept;
 
@@ -57,9 +65,15 @@ public:
     Components& components() { return *components_; }
     ProjectReferences& references() { return *references_; }
     void changed() { dirty_ = true; }
+    /// Of its file as it was read or saved last.
+    const std::optional<FileStamp>& stamp() const { return stamp_; }
     std::string folder() const;
     std::string memberPath(const std::string& path) const;
 
+    /// Reads a component's source. Errors: as readFile; 321 for what is no source of this kind.
+    LoadedSource readSource(MemberKind kind, const std::string& path) const;
+    /// The same of bytes that are no file of the project. Error 321 as above.
+    LoadedSource sourceOf(MemberKind kind, std::string bytes, const std::string& path) const;
     /// Reads the file of a component. Errors: as readFile; 321 for what is no source of this kind.
     std::shared_ptr<Component> readComponent(MemberKind kind, const std::string& path, const std::string& listedName);
     /// A component got a file, another file or another name: its line in the project's file.

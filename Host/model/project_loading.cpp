@@ -102,18 +102,29 @@ void Project::loadMember(const ProjectFile::Member& member, PathLookup& lookup, 
     } catch (const basic::RuntimeError& error) { problem(path_, line, error.Description); }
 }
 
+LoadedSource Project::sourceOf(MemberKind kind, std::string bytes, const std::string& path) const {
+    refuseOtherFiles(kind, path, bytes);
+    const auto page = codePageOf(bytes, host()->options().codePage);
+    SourceFile source(std::move(bytes), page);
+    const auto type = typeOf(kind, source);
+    auto name = source.name();
+    return {std::move(source), type, std::move(name), {}};
+}
+
+LoadedSource Project::readSource(MemberKind kind, const std::string& path) const {
+    auto content = readFile(path);
+    auto loaded = sourceOf(kind, std::move(content.bytes), path);
+    loaded.stamp = content.stamp;
+    return loaded;
+}
+
 std::shared_ptr<Component> Project::readComponent(MemberKind kind, const std::string& path,
                                                   const std::string& listedName) {
-    auto content = readFile(path);
-    refuseOtherFiles(kind, path, content.bytes);
-    const auto page = codePageOf(content.bytes, host()->options().codePage);
-    SourceFile source(std::move(content.bytes), page);
-    auto name = source.name();
-    if (name.empty()) name = listedName;
-    if (name.empty()) name = baseNameOfFile(path);
-    const auto type = typeOf(kind, source);
-    return std::make_shared<Component>(shared_from_this(), type, std::move(name), std::move(source),
-                                       ComponentOrigin{path, content.stamp, {}});
+    auto loaded = readSource(kind, path);
+    if (loaded.name.empty()) loaded.name = listedName;
+    if (loaded.name.empty()) loaded.name = baseNameOfFile(path);
+    return std::make_shared<Component>(shared_from_this(), loaded.type, std::move(loaded.name),
+                                       std::move(loaded.source), ComponentOrigin{path, loaded.stamp, {}});
 }
 
 void Project::problem(const std::string& file, std::size_t line, std::string text) {

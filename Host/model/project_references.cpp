@@ -216,6 +216,20 @@ vbide::Ref<vbide::Reference> ProjectReferences::AddFromFile(const std::string& p
     return add(MemberKind::Reference, libraryLine(RefKind::TypeLibrary, library, owner->memberPath(native)));
 }
 
+std::optional<ObjectLine> ProjectReferences::objectLineOf(const std::string& className) const {
+    const auto library = className.substr(0, className.find('.'));
+    for (const auto& reference : list_) {
+        const auto& line = reference->line();
+        const auto name = reference->Name();
+        if (line.kind != RefKind::Control ||
+            !(basic::equalNoCase(library, name) || basic::equalNoCase(library, name + "Ctl")))
+            continue;
+        const auto text = formatReference(line);
+        return ObjectLine{text.substr(0, text.find(';')), line.path.substr(line.path.find_last_of("/\\") + 1)};
+    }
+    return std::nullopt;
+}
+
 void ProjectReferences::addControlLibrary(const std::string& progId) {
     const auto owner = project();
     const auto library = owner->host()->libraries().ofProgId(progId);

@@ -1,6 +1,7 @@
 #pragma once
 // The references of a project: those that the language brings along, and those of its Reference and Object lines.
 #include "Add-in/platform/host_project.h"
+#include "Host/files/form_file.h"
 #include "Host/files/library_reference.h"
 #include "Host/files/project_file.h"
 #include "Host/model/type_libraries.h"
@@ -60,6 +61,9 @@ public:
     /// The control library of a ProgID on an Object line of its own, unless one is there. Error 429 for a class that is
     /// not registered.
     void addControlLibrary(const std::string& progId);
+    /// The line by which a form refers to the library of a control class ("TavletsCtl.QLLabel"); nothing for a library
+    /// that the project has no Object line for.
+    std::optional<ObjectLine> objectLineOf(const std::string& className) const;
     void close();
 
 private:

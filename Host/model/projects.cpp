@@ -36,6 +36,7 @@ bool Projects::holds(const vbide::Ref<vbide::VBProject>& project) const {
 vbide::Ref<vbide::VBProject> Projects::AddFromFile(const std::string& path, bool exclusive) {
     const auto host = this->host();
     const auto native = absolutePath(path);
+    if (host->isTemplate(native)) return AddFromTemplate(native, exclusive);
     const auto bytes = readFile(native).bytes; // before anything is closed for it
     if (exclusive) removeAll();
     host->problems().clear();
@@ -84,6 +85,7 @@ vbide::Ref<vbide::VBProject> Projects::AddFromTemplate(const std::string& path, 
     auto project = std::make_shared<Project>(host, native);
     host->tellFile(&vbide::FileControlEvents::BeforeLoadFile, *project, std::vector<std::string>{native});
     project->load();
+    if (isNameTaken(project->Name())) project->file().setSetting("Name", freeName());
     // Handlers see where it comes from; then it is a project that was never saved.
     welcome(project);
     host->activate(project);
@@ -104,10 +106,12 @@ vbide::Ref<vbide::VBProject> Projects::addNew() {
 std::string Projects::freeName() const {
     for (int number = 1;; ++number) {
         auto name = fmt::format("Project{}", number);
-        const bool taken =
-            std::any_of(list_.begin(), list_.end(), [&](const auto& p) { return basic::equalNoCase(p->Name(), name); });
-        if (!taken) return name;
+        if (!isNameTaken(name)) return name;
     }
+}
+
+bool Projects::isNameTaken(const std::string& name) const {
+    return std::any_of(list_.begin(), list_.end(), [&](const auto& p) { return basic::equalNoCase(p->Name(), name); });
 }
 
 void Projects::welcome(const std::shared_ptr<Project>& project) {
@@ -115,7 +119,7 @@ void Projects::welcome(const std::shared_ptr<Project>& project) {
     list_.push_back(project);
     auto& problems = host->problems();
     problems.insert(problems.end(), project->loadProblems().begin(), project->loadProblems().end());
-    host->tell(host->projectsEvents().ItemAdded, vbide::Ref<vbide::VBProject>(project));
+    host->welcome(project);
 }
 
 // ---- closing -----------------------------------------------------------------------------------------------------------
@@ -131,12 +135,15 @@ void Projects::Remove(const vbide::Ref<vbide::VBProject>& project) {
     if (!path.empty()) host->tellFile(&vbide::FileControlEvents::AfterCloseFile, *own, path);
     host->forget(project);
     own->close();
-    if (!host->ActiveVBProject() && !list_.empty()) host->activate(list_.front());
+    if (!host->ActiveVBProject() && !list_.empty()) host->activate(list_.back()); // the one that came last
 }
 
+/// The active one goes last, so that none of those that follow it out comes to the front in between.
 void Projects::removeAll() {
+    const auto active = host()->ActiveVBProject();
     for (const auto& project : items())
-        if (holds(project)) Remove(project);
+        if (project != active && holds(project)) Remove(project);
+    if (active && holds(active)) Remove(active);
 }
 
 } // namespace host

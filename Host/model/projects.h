@@ -35,6 +35,7 @@ private:
     vbide::Ref<vbide::VBProject> openGroup(const std::string& path, const std::string& bytes);
     void welcome(const std::shared_ptr<Project>& project);
     std::string freeName() const;
+    bool isNameTaken(const std::string& name) const;
 
     Host* host_;
     std::vector<std::shared_ptr<Project>> list_;

@@ -18,6 +18,8 @@ public:
         return members;
     }
 
+    const PropertySource& source() const { return *source_; }
+
 private:
     std::shared_ptr<PropertySource> source_;
     std::string name_;
@@ -42,7 +44,36 @@ private:
     std::shared_ptr<PropertySource> source_;
 };
 
+/// What `ask` of the source says of a property of this host's; of any other one nothing.
+template <class Answer>
+Answer askSource(const basic::Ref<vbide::Property>& property, Answer (PropertySource::*ask)(const std::string&) const) {
+    const auto model = basic::cast<PropertyModel>(property);
+    return model ? (model->source().*ask)(model->Name()) : Answer{};
+}
+
 } // namespace
+
+ClassProperty PropertySource::details(const std::string& name) const {
+    ClassProperty property;
+    property.name = name;
+    return property;
+}
+
+std::string PropertySource::picture(const std::string&) const { return {}; }
+
+std::vector<std::string> PropertySource::list(const std::string&) const { return {}; }
+
+ClassProperty detailsOf(const basic::Ref<vbide::Property>& property) {
+    return askSource(property, &PropertySource::details);
+}
+
+std::string imageOf(const basic::Ref<vbide::Property>& property) {
+    return askSource(property, &PropertySource::picture);
+}
+
+std::vector<std::string> itemsOf(const basic::Ref<vbide::Property>& property) {
+    return askSource(property, &PropertySource::list);
+}
 
 basic::Ref<vbide::Properties> propertiesOf(std::shared_ptr<PropertySource> source) {
     return basic::make<PropertiesModel>(std::move(source));

@@ -1,6 +1,7 @@
 #include "Host/system/processes.h"
 #include "Host/files/path_lookup.h"
 #include "Host/system/program.h"
+#include <cerrno>
 #include <chrono>
 #include <csignal>
 #include <filesystem>
@@ -12,6 +13,8 @@ namespace {
 using WaitClock = std::chrono::steady_clock;
 
 constexpr std::int32_t kStillActive = 259;
+/// Who started us had children's ends thrown away, which programs inherit: how this one ended nobody knows.
+constexpr std::int32_t kUnknownEnd = -1;
 constexpr std::uint32_t kWaitFailed = 0xFFFFFFFF;
 constexpr auto kTimeToEnd = std::chrono::seconds(2);
 
@@ -66,10 +69,12 @@ bool Processes::CreateProcess(const std::string& commandLine, const std::string&
 }
 
 void Processes::look(Started& at) {
+    if (at.ended) return;
     int state = 0;
-    if (at.ended || ::waitpid(at.id, &state, WNOHANG) != at.id) return;
-    at.ended = true;
-    at.code = exitCodeOf(state);
+    const auto answer = ::waitpid(at.id, &state, WNOHANG);
+    if (answer == at.id) at.code = exitCodeOf(state);
+    if (answer == -1 && errno == ECHILD) at.code = kUnknownEnd;
+    at.ended = answer == at.id || at.code == kUnknownEnd;
 }
 
 std::uint32_t Processes::WaitForSingleObject(std::uint32_t process) {

@@ -59,6 +59,7 @@ void Shell::Open(const std::string& document) {
     const auto path = files_.Canonical(document);
     if (!files_.FileExists(path) && !files_.FolderExists(path))
         throw hostError(basic::kFileNotFound, document + ": there is no such file or folder");
+    if (basic::equalNoCase(files_.GetExtensionName(path), "chm")) return openHelp(path);
     show(path);
 }
 

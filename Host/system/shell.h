@@ -22,7 +22,7 @@ public:
     /// folder of the file's name, or the first page where the number has none. A program whose name ends in ".exe" may
     /// be installed without it.
     void Start(const std::string& commandLine) override;
-    /// Error 53 for a path where nothing is.
+    /// A compiled help file opens as with "Hh.exe ". Error 53 for a path where nothing is.
     void Open(const std::string& document) override;
 
 private:

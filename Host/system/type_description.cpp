@@ -58,6 +58,7 @@ public:
         if (const auto* number = node->as_integer()) return static_cast<std::int32_t>(number->get());
         fail(*node, fmt::format("\"{}\" is a text, a number, true or false", key));
     }
+    long number(std::string_view key) const { return long(value<std::int64_t>(key, "a number").value_or(0)); }
     [[noreturn]] void fail(std::string_view reason) const { fail(table_, reason); }
 
 private:
@@ -134,6 +135,12 @@ TypeClass readClass(const std::string& file, const Groups& groups) {
     return made;
 }
 
+TypeEnumeration enumerationOf(const DescriptionTable& from) {
+    TypeEnumeration made{from.required("name"), {}};
+    for (const auto& one : from.tables("values")) made.values.push_back({one.required("name"), one.number("value")});
+    return made;
+}
+
 std::vector<std::string> classFilesIn(const std::string& folder) {
     std::vector<std::string> files;
     std::error_code error;
@@ -181,6 +188,7 @@ TypeDescription readTypeDescription(const std::string& file) {
     const auto parsed = parseDescription(file);
     const DescriptionTable table(parsed, file);
     auto description = headOf(table);
+    for (const auto& one : table.tables("enums")) description.enumerations.push_back(enumerationOf(one));
     Groups groups;
     for (const auto& one : table.tables("groups")) addMembers(one, groups[one.required("name")]);
     for (const auto& one : table.tables("modules")) {

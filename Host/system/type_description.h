@@ -28,9 +28,19 @@ struct TypeClass {
     std::vector<TypeMember> properties, methods, events;
 };
 
+struct TypeValue {
+    std::string name;
+    long value = 0;
+};
+struct TypeEnumeration {
+    std::string name;
+    std::vector<TypeValue> values;
+};
+
 struct TypeDescription {
     std::string name, guid, help;
     int majorVersion = 0, minorVersion = 0;
+    std::vector<TypeEnumeration> enumerations;
     std::vector<TypeClass> classes;
     std::vector<TypeClass> modules;
 };

@@ -3,7 +3,6 @@
 #include "Add-in/build/frmCompile.h"
 #include "messages_world.h"
 #include "tests/support/fake_compiler.h"
-#include "tests/support/host_commands.h"
 
 namespace test {
 
@@ -38,7 +37,6 @@ struct CompileWorld : MessagesWorld {
     }
     bool did(const std::string& what) const { return std::count(trace.effects.begin(), trace.effects.end(), what) > 0; }
 
-    fernwick::modQLInstallInfo install{registry2, files};
     fernwick::modAddinPrefsManagement prefs{registry2, errors};
     fernwick::modDeviceManagement devices{classes, errors};
     fernwick::modProjectTemplates templates{addIn, install, files, user, errors};
@@ -46,7 +44,6 @@ struct CompileWorld : MessagesWorld {
     fernwick::modProjectHandler projects{services};
     fernwick::modProcessControl steps{errors, platform};
     fernwick::frmSaveProjectFiles saveFiles{user, addIn};
-    TracedCommands commands{trace};
     fernwick::modDependencyManagement dependencies{{platform, errors, install, messages, commands}};
     basic::Ref<FakeCompiler> compiler = basic::make<FakeCompiler>(trace);
     std::shared_ptr<void> compilerClass;

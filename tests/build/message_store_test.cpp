@@ -121,8 +121,8 @@ TEST_F(MessageStore, AnUnknownTypeTakesThatOfTheMessageBefore) {
     store("Error2", "WARNING||0|second|0");
     store("Error3", "UNKNOWN||0|third|0");
     messages.ReadProjectErrors(project);
-    EXPECT_EQ(window->message(1).picture, 0);
-    EXPECT_EQ(window->message(3).picture, fernwick::WARNING_MSG);
+    EXPECT_EQ(window->message(1).type, 0);
+    EXPECT_EQ(window->message(3).type, fernwick::WARNING_MSG);
     EXPECT_EQ(messages.warningCount(), 2);
 }
 

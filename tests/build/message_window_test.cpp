@@ -80,7 +80,8 @@ TEST_F(MessageWindow, GoesToTheFirstMessageWithALineWhateverItsType) {
     window->add("f", "Form1", 20, "error", fernwick::ERROR_MSG, 2, false);
     window->gotoFirstError();
     EXPECT_EQ(window->selectedRow(), 2);
-    EXPECT_THAT(trace.effects, ElementsAre("Form1 pane", "Form1 state 0", "Form1 focus", "12,1-12,9999"));
+    EXPECT_THAT(trace.effects,
+                ElementsAre("Form1 pane", "redraw off", "Form1 state 0", "redraw on", "Form1 focus", "12,1-12,9999"));
 }
 
 TEST_F(MessageWindow, WithoutALineThereIsNowhereToGo) {

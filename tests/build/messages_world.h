@@ -2,12 +2,70 @@
 // A message store over a host in memory, with the real window document.
 #include "Add-in/build/modCompileErrorManagement.h"
 #include "Add-in/build/udocCompileMsgs.h"
+#include "tests/support/host_commands.h"
 #include "tests/support/traced_host.h"
 #include "tests/support/traced_platform.h"
 
 namespace test {
 
 constexpr char kMessagesSection[] = "Quinloft Project Compile Errors";
+
+/// Tells what is started; a program that is named here is not there.
+struct StartedPrograms : fernwick::Shell {
+    explicit StartedPrograms(Trace& t) : trace(t) {}
+    void Start(const std::string& commandLine) override {
+        trace.effect("start " + commandLine);
+        if (commandLine == missing) throw basic::RuntimeError(basic::kFileNotFound);
+    }
+    void Open(const std::string&) override {}
+    std::string missing;
+
+private:
+    Trace& trace;
+};
+
+/// A clipboard that holds what was there before.
+struct CopiedTexts : fernwick::Clipboard {
+    explicit CopiedTexts(Trace& t) : trace(t) {}
+    std::vector<std::string> Formats() const override { return {}; }
+    std::string GetData(const std::string& format) const override {
+        const auto held = texts.find(format);
+        return held == texts.end() ? "" : held->second;
+    }
+    void SetData(const std::string& format, const std::string& data) override {
+        trace.effect("copy " + format);
+        texts[format] = data;
+    }
+    void Clear() override {
+        trace.effect("clipboard cleared");
+        texts.clear();
+    }
+    std::map<std::string, std::string> texts{{"image/bmp", "old"}};
+
+private:
+    Trace& trace;
+};
+
+/// The pictures of errors and warnings.
+struct TwoPictures : fernwick::Resources {
+    mutable int loads = 0;
+    bool away = false;
+    std::string LoadBitmap(int id) const override {
+        ++loads;
+        if (away || (id != 101 && id != 102)) throw basic::RuntimeError(basic::kFileNotFound);
+        return "picture " + std::to_string(id);
+    }
+};
+
+/// A font whose characters are all of one size.
+struct FixedWidthFont : fernwick::DeviceContext {
+    int characterWidth = 10, lineHeight = 16;
+    mutable int measured = 0;
+    fernwick::TextExtent GetTextExtentPoint32(const std::string& text) const noexcept override {
+        ++measured;
+        return {int(text.size()) * characterWidth, lineHeight};
+    }
+};
 
 struct MessagesWorld : TracedPlatform {
     MessagesWorld() {
@@ -29,9 +87,18 @@ struct MessagesWorld : TracedPlatform {
         return all;
     }
 
+    StartedPrograms programs{trace};
+    CopiedTexts copied{trace};
+    TwoPictures pictures;
+    fernwick::Platform desk{user,   loop,     registry, files, processes, classes, environment,
+                            copied, programs, screen,   clock, pictures,  {}};
     fernwick::modRegistry2 registry2{registry};
+    fernwick::modQLInstallInfo install{registry2, files};
     fernwick::AddIn addIn{registry2, errors, environment};
-    basic::Ref<fernwick::udocCompileMsgs> window = basic::make<fernwick::udocCompileMsgs>(addIn, errors);
+    TracedCommands commands{trace};
+    fernwick::modViewConvertManagement tools{programs, install, errors};
+    basic::Ref<fernwick::udocCompileMsgs> window = basic::make<fernwick::udocCompileMsgs>(
+        fernwick::CompileMsgsServices{desk, errors, addIn, install, commands, tools});
     basic::Ref<TracedVbe> vbe =
         basic::make<TracedVbe>(trace, [this](const std::string&) { return basic::Ref<fernwick::Object>(window); });
     basic::Ref<TracedProject> project = basic::make<TracedProject>(trace, "Demo", "/p/Demo.vbp");

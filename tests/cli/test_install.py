@@ -18,6 +18,7 @@ class Install(unittest.TestCase):
             program = prefix / "bin/fernwick"
             samples = prefix / "share/fernwick/VB Toolkit/Samples"
             self.assertFalse(samples.is_symlink())
+            self.assertTrue((prefix / "share/fernwick/VB Toolkit/Bin/welcome.jpg").is_file())
             self.assertTrue((prefix / "share/man/man1/fernwick.1").is_file())
             self.assertTrue((prefix / "share/bash-completion/completions/fernwick").is_file())
 

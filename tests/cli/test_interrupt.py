@@ -82,6 +82,14 @@ class Interrupt(unittest.TestCase):
         self.interrupted(project, "Compiling HelloWorld", "--trust-steps")
         self.interrupted(project, "running: sleep 60", "--trust-steps", "--verbose")
 
+    def test_a_parent_that_ignores_its_children(self):
+        project = self.home.sample()
+        self.home.fernwick("settings", "set", str(project), "PreCompileSteps", "true")
+        process = subprocess.run(["fernwick", "build", str(project), "--trust-steps"], env=self.home.env, timeout=60,
+                                 stdin=subprocess.DEVNULL, capture_output=True, text=True,
+                                 preexec_fn=lambda: signal.signal(signal.SIGCHLD, signal.SIG_IGN))
+        self.assertEqual(process.returncode, 0, process.stderr)
+
     def test_reader_goes_away(self):
         project = self.home.sample()
         reading, writing = os.pipe()

@@ -54,6 +54,14 @@ TEST_F(KeptClipboard, OneThatAnotherProgramHoldsIsNotKept) {
     EXPECT_THAT(errors.seen, IsEmpty());
 }
 
+TEST_F(KeptClipboard, OneThatIsHeldDoesNotKeepFacesOff) {
+    pasteboard.isHeld = true;
+    clips.BackupClipboardData();
+    const auto button =
+        std::make_shared<test::TracedItem>(trace, office::msoControlButton, 1, std::weak_ptr<test::TracedBar>());
+    EXPECT_THAT(effectsOf([&] { images.PlaceImageOnButton(button, 109); }), ElementsAre("?: face"));
+}
+
 TEST_F(KeptClipboard, OneThatCantBeOpenedIsRestoredTheNextTime) {
     clips.BackupClipboardData();
     pasteboard.isHeld = true;

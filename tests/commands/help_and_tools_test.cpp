@@ -1,8 +1,15 @@
 // Help, the utilities' programs and the texts of the string table.
 #include "Add-in/commands/command_texts.h"
+#include "Add-in/commands/frmGettingStarted.h"
 #include "Add-in/commands/modHelpManagement.h"
 #include "Add-in/commands/modViewConvertManagement.h"
+#include "Host/system/file_system.h"
+#include "Host/system/shell.h"
 #include "commands_world.h"
+#include "tests/support/temp_folder.h"
+#include <chrono>
+#include <cstdlib>
+#include <thread>
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -76,6 +83,89 @@ TEST_F(HelpAndTools, AViewerOfHelpThatIsMissingIsReported) {
     programs.fails = true;
     help.DisplayHelp(0);
     EXPECT_THAT(errors.seen, ElementsAre("modHelpManagement.DisplayHelp [53]"));
+}
+
+/// The programs of an installation, as scripts that tell that they ran.
+class InstalledTools : public testing::Test, protected test::CommandsWorld {
+protected:
+    InstalledTools() { registry.set(fernwick::HKEY_LOCAL_MACHINE, "Software\\Quinloft", "RootDir", root.path()); }
+    void install(const std::string& program) {
+        std::filesystem::permissions(root.write(program, "#!/bin/sh\necho ran > '" + (root / program) + ".ran'\n"),
+                                     std::filesystem::perms(0755));
+    }
+    bool ran(const std::string& program) {
+        for (int i = 0; i < 500 && root.read(program + ".ran") != "ran\n"; ++i)
+            std::this_thread::sleep_for(std::chrono::milliseconds(10));
+        return root.read(program + ".ran") == "ran\n";
+    }
+    test::TempFolder root;
+    host::FileSystem disk;
+    host::Shell starter{disk, [](const std::string&) {}};
+    fernwick::modQLInstallInfo install_{registry2, disk};
+    fernwick::modViewConvertManagement tools{starter, install_, errors};
+};
+
+TEST_F(InstalledTools, StartUnderTheirNamesWithOrWithoutTheExtension) {
+    const std::vector<std::string> programs{
+        "VB Toolkit/Bin/QLPDBC",     "VB Toolkit/Bin/QLPDBV.exe", "VB Toolkit/Bin/QLFonC",
+        "VB Toolkit/Bin/QLFonV.exe", "VB Toolkit/Bin/QLGraC",     "VB Toolkit/Bin/QLGraV.exe",
+        "VB Toolkit/Bin/QLMovC",     "VB Toolkit/Bin/QLMovV.exe", "Weirgate/WGConfig"};
+    for (int tool = 0; tool < int(programs.size()); ++tool) {
+        const auto& program = programs[std::size_t(tool)];
+        install(program);
+        EXPECT_TRUE(tools.OpenViewerConverter(tool)) << program;
+        EXPECT_TRUE(ran(program)) << program;
+    }
+    EXPECT_THAT(errors.seen, IsEmpty());
+}
+
+TEST_F(InstalledTools, OneThatIsNoProgramIsReported) {
+    root.write("VB Toolkit/Bin/QLFonC.exe", "not to be run");
+    EXPECT_FALSE(tools.OpenViewerConverter(fernwick::kFontConverter));
+    EXPECT_THAT(errors.seen, ElementsAre("modViewConvertManagement.OpenViewerConverter [53]"));
+}
+
+/// The help of this installation, where no desktop shows it.
+class InstalledHelp : public testing::Test, protected test::CommandsWorld {
+protected:
+    InstalledHelp() {
+        ::unsetenv("DISPLAY");
+        ::unsetenv("WAYLAND_DISPLAY");
+        registry.set(fernwick::HKEY_LOCAL_MACHINE, "Software\\Quinloft", "RootDir", root);
+    }
+    const std::string root = FERNWICK_SOURCE_DIR "/installation";
+    std::vector<std::string> told;
+    host::FileSystem disk;
+    host::Shell starter{disk, [this](const std::string& document) { told.push_back(document); }};
+    fernwick::Platform real{user,       loop,    registry, disk,  processes, classes,     environment,
+                            pasteboard, starter, screen,   clock, pictures,  platform.app};
+    fernwick::modQLInstallInfo install{registry2, disk};
+    fernwick::modHelpManagement help{real, install, errors};
+};
+
+TEST_F(InstalledHelp, HasAPageForEachGuide) {
+    EXPECT_THAT(effectsOf([&] {
+                    help.DisplayHelp(fernwick::kUsersGuideTopic);
+                    help.DisplayHelp(fernwick::kAddInGuideTopic);
+                }),
+                IsEmpty());
+    EXPECT_THAT(told, ElementsAre(root + "/VB Toolkit/doc/Quinloft_Users_Guide.html",
+                                  root + "/VB Toolkit/doc/Quinloft_AddIn_Guide.html"));
+    EXPECT_THAT(errors.seen, IsEmpty());
+}
+
+TEST_F(InstalledHelp, IsWhatTheIntroductionLeadsTo) {
+    fernwick::modAddinPrefsManagement preferences{registry2, errors};
+    fernwick::frmGettingStarted intro{real, install, preferences, errors};
+    intro.Load();
+    for (int page = 0; page < 8; ++page) intro.cmdNext.press();
+    for (int link = 0; link < 3; ++link) {
+        intro.lstLinks.ListIndex(link);
+        intro.cmdOpenLink.press();
+    }
+    intro.Unload();
+    EXPECT_THAT(told, ElementsAre(root + "/VB Toolkit/doc/Hello World Tutorial/hw_write.html",
+                                  root + "/VB Toolkit/Samples", root + "/VB Toolkit/doc/Quinloft_Users_Guide.html"));
 }
 
 TEST(StringTable, KeepsWhatTheMenuDoesNotUse) {

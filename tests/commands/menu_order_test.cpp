@@ -78,6 +78,12 @@ TEST_F(MenuOrder, WithoutItsViewMenuTheBarIsFoundByAddIns) {
     EXPECT_EQ(built()[0], "Menu Bar: + popup before 2");
 }
 
+TEST_F(MenuOrder, TheBarOfTheViewMenuComesFirst) {
+    bars->stand("Other Bar")->stand(30038, "&Add-Ins");
+    std::erase_if(menuBar()->items, [](const auto& item) { return item->caption == "&Add-Ins"; });
+    EXPECT_EQ(built()[0], "Menu Bar: + popup");
+}
+
 TEST_F(MenuOrder, WithoutEitherTheMenuGoesToTheEndOfTheActiveBar) {
     menuBar()->items.resize(1);
     EXPECT_EQ(built()[0], "Menu Bar: + popup");

@@ -1,5 +1,8 @@
 // The samples that the registry lists.
+#include "Host/registry/registry_store.h"
+#include "Host/system/file_system.h"
 #include "commands_world.h"
+#include "tests/support/temp_folder.h"
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -103,6 +106,60 @@ TEST_F(SamplesMenu, AFailureCostsOneBranchAndTheRestStands) {
     }
     EXPECT_THAT(errors.seen, testing::Contains("modMenuManagement.SetupSamplesMenu [50000]"));
     EXPECT_THAT(errors.seen, testing::Contains("modMenuManagement.SetupDynamicSamplesMenuHelper [50000]"));
+}
+
+TEST_F(SamplesMenu, AnItemTellsItsProjectAndFolder) {
+    fernwick::clsSampleMenuItem item;
+    item.fullPath = "/s/Tip/Tip.vbp";
+    EXPECT_EQ(item.sampleVbp(files), "Tip.vbp");
+    EXPECT_EQ(item.samplePath(files), "/s/Tip");
+}
+
+class SamplesList : public testing::Test, protected test::CommandsWorld {
+protected:
+    std::vector<std::string> listed() {
+        samples.InitSamplesList();
+        std::vector<std::string> all;
+        for (const auto& sample : samples.gSamplesList) all.push_back(sample.Name + "=" + sample.fullPath);
+        return all;
+    }
+    fernwick::modSamplesManagement samples{registry2};
+};
+
+TEST_F(SamplesList, IsFlatWithTheSamplesOfAKeyBeforeThoseBelow) {
+    addSample("", "Top", "/s/top.vbp");
+    addSample("\\A", "", "A");
+    addSample("\\A", "Leaf", "/s/leaf.vbp");
+    addSample("\\A\\B\\C", "Deep", "/s/deep.vbp");
+    addSample("\\D", "Last", "/s/last.vbp");
+    EXPECT_EQ(samples.SamplesListLength(), 0);
+    EXPECT_THAT(listed(), ElementsAre("Top=/s/top.vbp", "Leaf=/s/leaf.vbp", "Deep=/s/deep.vbp", "Last=/s/last.vbp"));
+    EXPECT_EQ(samples.SamplesListLength(), 4);
+}
+
+TEST_F(SamplesList, LeavesOutWhatHasNoNameOrNoData) {
+    addSample("\\A", "", "A");
+    addSample("\\A", "Empty", "");
+    EXPECT_THAT(listed(), IsEmpty());
+}
+
+/// What this installation lists.
+TEST(InstalledSamples, AreProjectsThatAreThere) {
+    const test::TempFolder stores;
+    host::RegistryStore store{{stores / "user", stores / "machine", FERNWICK_SOURCE_DIR "/installation"}};
+    fernwick::modRegistry2 registry{store};
+    fernwick::modSamplesManagement samples{registry};
+    const host::FileSystem disk;
+    samples.InitSamplesList();
+    EXPECT_EQ(samples.SamplesListLength(), 3);
+    for (const auto& sample : samples.gSamplesList) EXPECT_TRUE(disk.FileExists(sample.fullPath)) << sample.fullPath;
+}
+
+TEST_F(SamplesList, IsReadAnewEachTime) {
+    EXPECT_THAT(listed(), IsEmpty());
+    addSample("\\A", "Leaf", "/s/leaf.vbp");
+    EXPECT_THAT(listed(), ElementsAre("Leaf=/s/leaf.vbp"));
+    EXPECT_THAT(listed(), ElementsAre("Leaf=/s/leaf.vbp"));
 }
 
 } // namespace

@@ -85,6 +85,14 @@ TEST_F(Commands, MyDevicesThatAreFewerMeanwhileEndTheList) {
     host.failures.clear();
 }
 
+TEST_F(Commands, DevicesThatComeMeanwhileWaitForTheNextTime) {
+    connected();
+    chooseDevices({"Palm-1"});
+    family.work = [&](qlpipe::IQLPipeEvents&) { return chooseDevices({"Palm-1", "Pocket-1"}), true; };
+    EXPECT_THAT(deliveries(click(items().gInstallAllItem)), ElementsAre("runtime to Palm-1"));
+    EXPECT_EQ(deliveries(click(items().gInstallAllItem)).size(), 2U);
+}
+
 TEST_F(Commands, WithoutDevicesNoLeavesEverythingAsItWas) {
     connected();
     for (const auto& item : {items().gDeployAllItem, items().gPackageAllItem, items().gInstallAllItem}) {
@@ -139,8 +147,7 @@ TEST_F(Commands, WhatIsNotHereYetSaysSo) {
     connected();
     EXPECT_THAT(click(items().gSettingsItem), ElementsAre("cursor 11", kNotHere));
     EXPECT_THAT(click(items().gToolSettings), ElementsAre("cursor 11", kNotHere));
-    for (const auto& item : {items().gOpenProjectItem, items().gToolOpenProject, items().gZoomItem, items().gToolZoom,
-                             items().gSampleIntroItem})
+    for (const auto& item : {items().gOpenProjectItem, items().gToolOpenProject, items().gZoomItem, items().gToolZoom})
         EXPECT_THAT(click(item), ElementsAre(kNotHere));
 }
 
@@ -247,6 +254,26 @@ TEST_F(Commands, TheTutorialNeedsAnInstallation) {
                 ElementsAre("open " + (host.folder / "install/VB Toolkit/doc/Hello World Tutorial/hw_write.html")));
     store(fernwick::HKEY_LOCAL_MACHINE, "Software\\Quinloft", "RootDir", "");
     EXPECT_THAT(click(items().gSampleHelloItem), ElementsAre(box(16, "Error finding Fernwick Hello World Tutorial.")));
+}
+
+TEST_F(Commands, TheIntroductionShowsAtAnyTime) {
+    connect();
+    EXPECT_FALSE(modules->prefs.GetStartTutorial());
+    user.whenShown["frmGettingStarted"] = [](fernwick::Form& form) {
+        EXPECT_EQ(dynamic_cast<fernwick::frmGettingStarted&>(form).chkDontShow.Value(), 1);
+        test::press(form, "cmdDone");
+    };
+    EXPECT_THAT(click(items().gSampleIntroItem), ElementsAre("form frmGettingStarted"));
+}
+
+TEST_F(Commands, TheIntroductionEndsAStartInEachMode) {
+    modules->prefs.SetStartTutorial(true);
+    for (const auto mode : {vbide::vbext_cm_AfterStartup, vbide::vbext_cm_Startup, vbide::vbext_cm_External,
+                            vbide::vbext_cm_CommandLine}) {
+        host.ide->connectAddIn(kProgId, mode);
+        EXPECT_EQ(trace.effects.back(), "form frmGettingStarted");
+        host.ide->Addins()->Item(kProgId)->Connect(false);
+    }
 }
 
 TEST_F(Commands, TheSamplesFolderOpensWhereItIs) {

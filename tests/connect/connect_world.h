@@ -51,9 +51,10 @@ struct ConnectWorld : LifecycleWorld {
     fernwick::modHelpManagement help{platform, install, errors};
     fernwick::frmAbout about{platform, errors};
     fernwick::SampleOpening samples{{platform, errors, addIn, save, commands}};
-    Ref<fernwick::Connect> connection = basic::make<fernwick::Connect>(fernwick::ConnectServices{
-        platform, errors,   prefs,   addIn,   references, devices,     items, projects, messages, removal,
-        setup,    commands, install, compile, send,       sendRuntime, tools, help,     about,    samples});
+    Ref<fernwick::Connect> connection = basic::make<fernwick::Connect>(
+        fernwick::ConnectServices{platform, errors,   prefs,       addIn,   references, devices,  deviceServices,
+                                  items,    projects, messages,    removal, setup,      commands, install,
+                                  compile,  send,     sendRuntime, tools,   help,       about,    samples});
 };
 
 } // namespace test

@@ -22,6 +22,8 @@ class EndToEnd : public testing::Test {
 protected:
     EndToEnd() {
         targets.known = {"Palm-1"};
+        installTemplates();
+        store("SOFTWARE\\Quinloft\\AddinPrefs", "StartTutorial", "False");
         host.ide->listAddIn(kProgId, "Fernwick", [this] { return fernwick::asAddIn(modules); });
     }
     ~EndToEnd() override {
@@ -50,13 +52,16 @@ protected:
                        fernwick::vbOK, fernwick::vbCritical);
     }
 
+    /// In the machine's store.
+    void store(const std::string& path, const std::string& name, const std::string& text) {
+        std::uint32_t key = 0, disposition = 0;
+        host.registry.RegCreateKeyEx(fernwick::HKEY_LOCAL_MACHINE, path, fernwick::KEY_ALL_ACCESS, key, disposition);
+        host.registry.RegSetValueEx(key, name, fernwick::REG_SZ, text + '\0');
+        host.registry.RegCloseKey(key);
+    }
     /// An installation with its templates, and the host's.
     void installTemplates() {
-        std::uint32_t key = 0, disposition = 0;
-        host.registry.RegCreateKeyEx(fernwick::HKEY_LOCAL_MACHINE, "Software\\Quinloft", fernwick::KEY_ALL_ACCESS, key,
-                                     disposition);
-        host.registry.RegSetValueEx(key, "RootDir", fernwick::REG_SZ, (host.folder / "install") + '\0');
-        host.registry.RegCloseKey(key);
+        store("Software\\Quinloft", "RootDir", host.folder / "install");
         host.folder.write("install/VB Toolkit/Template/Projects/readme.txt", "");
         host.folder.write("Template/Projects/readme.txt", "");
     }
@@ -97,7 +102,6 @@ TEST_F(EndToEnd, AProjectCompiles) {
 }
 
 TEST_F(EndToEnd, AProjectIsValidatedForItsDevice) {
-    installTemplates();
     const auto project = connected(hello());
     user.expectForm("frmValidate");
     EXPECT_TRUE(modules->validate.ValidateProject(project, "Palm-1"));
@@ -105,7 +109,6 @@ TEST_F(EndToEnd, AProjectIsValidatedForItsDevice) {
 }
 
 TEST_F(EndToEnd, AMissingLibraryFailsTheValidation) {
-    installTemplates();
     const auto gone = "Reference=*\\G{00000000-1111-2222-3333-444444444444}#1.0#0#/gone/Gone.dll#Gone";
     const auto project = connected(hello().member(gone));
     user.expectForm("frmValidate");
@@ -140,7 +143,6 @@ TEST_F(EndToEnd, TheMessagesComeBackWithTheProject) {
 }
 
 TEST_F(EndToEnd, AProjectIsCompiledAndSentAndTheNextTimeOnlySent) {
-    installTemplates();
     const auto project = connected(hello());
     compiler->work = [&](test::FakeCompiler&) { host.folder.write("Hello.0000.qlx", "image"); };
     test::FakePipeFamily family{trace, classes};
@@ -166,6 +168,9 @@ TEST_F(EndToEnd, AReadOnlyProjectStaysAsItIs) {
     user.expectBox("Hello is ReadOnly, compile errors will not be saved.", fernwick::vbOK, fernwick::vbInformation);
     user.expectForm("frmCompile");
     EXPECT_TRUE(modules->compile.CompileProject(project));
+    user.expectBox("File '" + path + "' is read-only.", fernwick::vbOK, fernwick::vbExclamation,
+                   "ERROR: Cannot save file!");
+    host.ide->close();
     EXPECT_EQ(host.folder.read("Hello.vbp"), before);
 }
 
@@ -181,12 +186,6 @@ TEST_F(EndToEnd, WithoutTargetsTheProjectIsRemovedAndItsFileUntouched) {
 }
 
 TEST_F(EndToEnd, TheOnlyTargetIsTakenWithoutAsking) {
-    const auto noFolder = [](const std::string& whose) {
-        return "Cannot determine the location of the " + whose +
-               " template directory. The path determined was invalid.";
-    };
-    user.expectBox(noFolder("VB")); // nothing is installed here
-    user.expectBox(noFolder("Fernwick"));
     test::SampleProject sample;
     const auto project = connected(sample.module("Module1", "Sub Main()\r\nEnd Sub\r\n").handheld());
     EXPECT_EQ(project->ReadProperty("Quinloft Global", "TargetDevice"), "Palm-1");

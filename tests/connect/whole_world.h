@@ -97,20 +97,21 @@ protected:
     FixedScreen screen;
     FixedClock clock;
     host::Resources resources{files, FERNWICK_SOURCE_DIR "/installation"};
-    fernwick::Platform platform{
-        user,
-        loop,
-        host.registry,
-        files,
-        processes,
-        classes,
-        environment,
-        clipboard,
-        shell,
-        screen,
-        clock,
-        resources,
-        {"QLVBAddIn", "/addin", "https://support.example", "https://web.example", "https://runtime.example"}};
+    fernwick::Platform platform{user,
+                                loop,
+                                host.registry,
+                                files,
+                                processes,
+                                classes,
+                                environment,
+                                clipboard,
+                                shell,
+                                screen,
+                                clock,
+                                resources,
+                                {"QLVBAddIn", FERNWICK_SOURCE_DIR "/installation/VB Toolkit/Bin",
+                                 "https://support.example", "https://web.example", "https://runtime.example",
+                                 "https://samples.example", "https://forum.example", "https://developers.example"}};
     FakeTargets targets{classes};
     FakePipeFamily family{trace, classes};
     basic::Ref<FakeCompiler> compiler = basic::make<FakeCompiler>(trace);

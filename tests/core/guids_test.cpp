@@ -24,3 +24,12 @@ TEST(Guids, WithAndWithoutBraces) {
     EXPECT_FALSE(NormaliseGuidText(text));
     EXPECT_EQ(text, "none");
 }
+
+TEST(Guids, NewOnesHaveNoBracesAndDiffer) {
+    const auto one = CreateGUID(), other = CreateGUID();
+    bool hadBraces = true;
+    EXPECT_TRUE(IsGuidText(one, hadBraces));
+    EXPECT_FALSE(hadBraces);
+    EXPECT_EQ(one.find_first_of("abcdef"), one.npos);
+    EXPECT_NE(one, other);
+}

@@ -186,11 +186,13 @@ struct DeployWorld : DeployPlatform {
     fernwick::AddIn addIn{registry2, errors, environment};
     fernwick::modReferencesManagement references{registry2, classes, errors};
     fernwick::DeviceServices deviceServices{errors, user, classes, registry2, prefs, references, devices};
-    Ref<fernwick::udocCompileMsgs> window = basic::make<fernwick::udocCompileMsgs>(addIn, errors);
+    SettingsCommands commands{trace};
+    fernwick::modViewConvertManagement tools{shell, install, errors};
+    Ref<fernwick::udocCompileMsgs> window = basic::make<fernwick::udocCompileMsgs>(
+        fernwick::CompileMsgsServices{onDisk, errors, addIn, install, commands, tools});
     Ref<DiskVbe> vbe = basic::make<DiskVbe>(trace, folder / "Template",
                                             [this](const std::string&) { return Ref<fernwick::Object>(window); });
     Ref<TracedProject> project = basic::make<TracedProject>(trace, "Foo", folder / "Foo/Foo.vbp");
-    SettingsCommands commands{trace};
     fernwick::modProjectTemplates templates{addIn, install, disk, user, errors};
     fernwick::ProjectServices services{errors, onDisk, install, addIn, devices, templates};
     fernwick::modProjectHandler projects{services};

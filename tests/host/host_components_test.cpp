@@ -116,6 +116,37 @@ TEST(HostComponents, AddAFileThatIsThere) {
     EXPECT_EQ(errorOf([&] { project->VBComponents()->AddFile(host.folder / "Hello.vbp"); }), 321);
 }
 
+TEST(HostComponents, AddAFileOfATemplateFolder) {
+    TestHost host;
+    const auto template_ =
+        host.folder.write("Template/Modules/Our Module.bas", test::moduleText("Module1", "' ours\r\n"));
+    const auto project = host.open(SampleProject().module("Module1"));
+    const auto module = project->VBComponents()->AddFile(template_);
+    EXPECT_EQ(module->Name(), "Module2");
+    EXPECT_EQ(module->FileNames(1), "");
+    EXPECT_TRUE(module->IsDirty());
+    EXPECT_EQ(module->CodeModule()->Lines(1, 1), "' ours");
+    EXPECT_EQ(host.ide->SelectedVBComponent(), module);
+    module->SaveAs(host.folder / "Mine.bas");
+    EXPECT_EQ(host.folder.read("Mine.bas"), test::moduleText("Module2", "' ours\r\n"));
+    EXPECT_EQ(host.folder.read("Template/Modules/Our Module.bas"), test::moduleText("Module1", "' ours\r\n"));
+    EXPECT_EQ(project->VBComponents()->AddFile(template_)->Name(), "Module3");
+}
+
+TEST(HostComponents, AFormFromATemplateTakesItsPicturesAlong) {
+    TestHost host;
+    host.folder.write("Template/Forms/frmOurs.frx", "bytes");
+    auto text = test::formText("frmOurs");
+    text.insert(text.find("   ClientHeight"), "   Icon            =   \"frmOurs.frx\":0000\r\n");
+    const auto template_ = host.folder.write("Template/Forms/frmOurs.frm", text);
+    const auto form = host.open(SampleProject())->VBComponents()->AddFile(template_);
+    EXPECT_EQ(form->Name(), "frmOurs");
+    EXPECT_TRUE(form->HasOpenDesigner());
+    form->SaveAs(host.folder / "frmMine.frm");
+    EXPECT_EQ(host.folder.read("frmMine.frx"), "bytes");
+    EXPECT_NE(host.folder.read("frmMine.frm").find("\"frmMine.frx\":0000"), std::string::npos);
+}
+
 TEST(HostComponents, ARemovedOneLeavesTheProjectsFileAndRaisesErrors) {
     TestHost host;
     const auto project = host.open(SampleProject().form("frmA").module("modA"));

@@ -70,11 +70,11 @@ private:
 
 } // namespace
 
-TEST(HostEvents, AnOpeningTellsLoadAddedAndActivated) {
+TEST(HostEvents, AnOpeningTellsLoadAndAdded) {
     TestHost host;
     EventLog log(host);
     host.open(SampleProject().form("frmA"));
-    EXPECT_EQ(log.calls, (Calls{"loading Hello.vbp", "added Hello", "activated Hello"}));
+    EXPECT_EQ(log.calls, (Calls{"loading Hello.vbp", "added Hello"}));
 }
 
 TEST(HostEvents, BeforeALoadTheProjectKnowsItsFileAndNothingElse) {
@@ -91,14 +91,14 @@ TEST(HostEvents, BeforeALoadTheProjectKnowsItsFileAndNothingElse) {
     EXPECT_EQ(components, 0);
 }
 
-TEST(HostEvents, TheNewProjectBecomesActiveAfterItWasAdded) {
+TEST(HostEvents, TheNewProjectIsActiveWhenItIsAdded) {
     TestHost host;
     const auto first = host.open(SampleProject("First"));
     Ref<vbide::VBProject> activeWhenAdded;
     const auto added = host.ide->Events()->VBProjectsEvents()->ItemAdded.connect(
         [&](Ref<vbide::VBProject>) { activeWhenAdded = host.ide->ActiveVBProject(); });
     const auto second = host.open(SampleProject("Second"));
-    EXPECT_EQ(activeWhenAdded, first);
+    EXPECT_EQ(activeWhenAdded, second);
     EXPECT_EQ(host.ide->ActiveVBProject(), second);
     EventLog log(host);
     host.ide->ActiveVBProject(first);
@@ -132,6 +132,16 @@ TEST(HostEvents, RemovingTheActiveProjectActivatesAnother) {
     EXPECT_EQ(log.calls, (Calls{"removed Second", "activated First"}));
     EXPECT_EQ(host.ide->ActiveVBProject(), first);
     EXPECT_EQ(errorOf([&] { host.ide->ActiveVBProject(second); }), 5);
+}
+
+TEST(HostEvents, AmongSeveralTheOneThatCameLastFollowsIt) {
+    TestHost host;
+    const auto first = host.open(SampleProject("First"));
+    host.open(SampleProject("Second"));
+    const auto third = host.open(SampleProject("Third"));
+    host.ide->ActiveVBProject(first);
+    host.ide->VBProjects()->Remove(first);
+    EXPECT_EQ(host.ide->ActiveVBProject(), third);
 }
 
 TEST(HostEvents, AWriteIsAskedForAndReported) {
@@ -243,12 +253,14 @@ TEST(HostEvents, AnErrorOfAHandlerStopsNeitherLoadNorSaveNorClose) {
     kept.push_back(events->FileControlEvents(nullptr)->BeforeLoadFile.connect(fail));
     kept.push_back(events->FileControlEvents(nullptr)->RequestWriteFile.connect(fail));
     kept.push_back(events->FileControlEvents(nullptr)->AfterWriteFile.connect(fail));
+    const auto other = host.open(SampleProject("Other"));
+    host.failures.clear();
     const auto project = host.open(SampleProject());
     project->WriteProperty("A", "k", "v");
     project->SaveAs(project->FileName());
     EXPECT_FALSE(project->IsDirty());
     host.ide->VBProjects()->Remove(project);
-    EXPECT_EQ(host.ide->VBProjects()->Count(), 0);
+    EXPECT_EQ(host.ide->ActiveVBProject(), other);
     ASSERT_EQ(host.failures.size(), 6u);
     EXPECT_EQ(host.failures[0].Number, 13);
 }
@@ -277,6 +289,40 @@ TEST(HostEvents, ARemovalAskedForWithinItsOwnEventHappensOnce) {
     host.ide->VBProjects()->Remove(project);
     EXPECT_EQ(log.calls, (Calls{"removed frmA", "removed Hello"}));
     EXPECT_EQ(host.ide->VBProjects()->Count(), 0);
+}
+
+TEST(HostEvents, AProjectIsOpenedInAnothersPlaceWhileThatIsAdded) {
+    TestHost host;
+    const auto second = SampleProject("Second").writeTo(host.folder);
+    bool first = true;
+    const auto added = host.ide->Events()->VBProjectsEvents()->ItemAdded.connect([&](Ref<vbide::VBProject>) {
+        if (std::exchange(first, false)) host.ide->VBProjects()->AddFromFile(second, true);
+    });
+    host.open(SampleProject("First"));
+    EXPECT_EQ(host.ide->VBProjects()->Count(), 1);
+    EXPECT_EQ(host.ide->ActiveVBProject()->Name(), "Second");
+}
+
+TEST(HostEvents, ClosingAllBringsNoneOfThemToTheFront) {
+    TestHost host;
+    host.open(SampleProject("First"));
+    host.ide->ActiveVBProject(host.open(SampleProject("Second")));
+    host.open(SampleProject("Third"));
+    EventLog log(host);
+    host.ide->close();
+    EXPECT_EQ(log.calls, (Calls{"removed First", "removed Second", "removed Third"}));
+}
+
+TEST(HostEvents, AComponentThatAHandlerPutsInFrontStaysThere) {
+    TestHost host;
+    const auto template_ = host.folder.write("Template/Modules/Template.bas", test::moduleText("Module1"));
+    const auto project = host.open(SampleProject());
+    bool replaced = false;
+    const auto added = host.ide->Events()->VBComponentsEvents(project)->ItemAdded.connect([&](Ref<vbide::VBComponent>) {
+        if (!std::exchange(replaced, true)) project->VBComponents()->AddFile(template_);
+    });
+    project->VBComponents()->Add(vbide::vbext_ct_StdModule);
+    EXPECT_EQ(host.ide->SelectedVBComponent()->Name(), "Module2");
 }
 
 TEST(HostEvents, ARenamedProjectTellsItsOldName) {

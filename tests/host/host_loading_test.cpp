@@ -190,6 +190,16 @@ TEST(HostLoading, ANewProjectFromATemplateHasNoFilesOfItsOwn) {
     EXPECT_NE(host.folder.read("Mine.vbp").find("\r\nForm=frmT.frm\r\n"), std::string::npos);
 }
 
+TEST(HostLoading, AFileOfATemplateFolderOpensAsANewProject) {
+    TestHost host;
+    const auto path = SampleProject("Project1").writeTo(host.folder, "Template/Projects");
+    const auto first = host.openFile(path), second = host.openFile(path);
+    EXPECT_EQ(first->FileName(), "");
+    EXPECT_EQ(first->Name(), "Project1");
+    EXPECT_EQ(second->Name(), "Project2"); // as with new projects of the host's own
+    EXPECT_NE(host.openFile(SampleProject("Templates").writeTo(host.folder, "Templates"))->FileName(), "");
+}
+
 TEST(HostLoading, ThreeThousandComponentsLoadQuickly) {
     TestHost host;
     SampleProject big("Big");

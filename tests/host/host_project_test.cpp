@@ -160,3 +160,13 @@ TEST(HostProject, WhatWasRemovedRaisesErrors) {
     EXPECT_EQ(host.ide->VBProjects()->Count(), 0);
     EXPECT_FALSE(host.ide->ActiveVBProject());
 }
+
+TEST(HostProject, TheNameOfAnotherOneIsRefused) {
+    TestHost host;
+    host.open(SampleProject("First"));
+    const auto second = host.open(SampleProject("Second"));
+    EXPECT_EQ(errorOf([&] { second->Name("FIRST"); }), 32813);
+    EXPECT_EQ(second->Name(), "Second");
+    second->Name("SECOND");
+    EXPECT_EQ(second->Name(), "SECOND");
+}

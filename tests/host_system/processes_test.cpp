@@ -107,14 +107,23 @@ TEST_F(RunningProcesses, OneThatRunsSaysSo) {
     EXPECT_EQ(code, 0);
 }
 
+TEST_F(RunningProcesses, OneWhoseEndIsThrownAwayCountsAsFailed) {
+    const auto before = ::signal(SIGCHLD, SIG_IGN);
+    EXPECT_EQ(run("true"), -1);
+    ::signal(SIGCHLD, before);
+}
+
 namespace {
 
-/// A child that waits for a step; it ends with 50 when the interrupt came out of the wait, else with the step's code.
-pid_t waitForStepInAChild(host::Processes& processes, const std::string& step, const std::string& in) {
+volatile sig_atomic_t interrupted = 0;
+
+/// A child that waits for a step; it ends with 50 when the interrupt ended the step, with 51 when it had to be killed.
+pid_t waitForStepInAChild(const std::string& step, const std::string& in) {
     const auto child = ::fork();
     if (child != 0) return child;
-    static volatile sig_atomic_t interrupted = 0;
     ::signal(SIGINT, [](int) { interrupted = 1; });
+    // the interrupt may come before the wait begins
+    host::Processes processes{[](const auto&, const auto&) { return true; }, [] { return interrupted != 0; }};
     std::uint32_t process = 0;
     std::int32_t code = 0;
     processes.CreateProcess(step, in, 0, process);
@@ -149,7 +158,7 @@ bool isGone(pid_t process) {
 
 TEST_F(RunningProcesses, AnInterruptEndsTheStepAndAllThatItStarted) {
     script("step", "#!/bin/sh\ntouch started\nsleep 60 &\necho $! > sleeper\nwait\n");
-    const auto child = waitForStepInAChild(processes, "./step", folder.path().string());
+    const auto child = waitForStepInAChild("./step", folder.path().string());
     waitForFile(folder / "sleeper");
     std::this_thread::sleep_for(std::chrono::milliseconds(50));
     ::kill(child, SIGINT);
@@ -162,7 +171,7 @@ TEST_F(RunningProcesses, AnInterruptEndsTheStepAndAllThatItStarted) {
 
 TEST_F(RunningProcesses, AStepThatIgnoresTheInterruptIsKilled) {
     script("step", "#!/bin/sh\ntrap '' INT\ntouch started\nwhile :; do sleep 0.1; done\n");
-    const auto child = waitForStepInAChild(processes, "./step", folder.path().string());
+    const auto child = waitForStepInAChild("./step", folder.path().string());
     waitForFile(folder / "started");
     ::kill(child, SIGINT);
     EXPECT_EQ(endOf(child), 51);

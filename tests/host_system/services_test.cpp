@@ -136,6 +136,15 @@ TEST_F(LocalShell, HelpOpensThePageBesideTheHelpFile) {
     EXPECT_EQ(basic::attempt([&] { shell.Start("Hh.exe " + path("Other.chm")); }).Number, 53);
 }
 
+TEST_F(LocalShell, AHelpFileThatIsOpenedShowsItsFirstPage) {
+    folder.write("doc/Guide.chm", "see Guide.html");
+    EXPECT_EQ(basic::attempt([&] { shell.Open(path("doc/Guide.chm")); }).Number, 53);
+    folder.write("doc/Guide.html", "");
+    shell.Open(path("doc\\GUIDE.CHM"));
+    EXPECT_THAT(told, ElementsAre(path("doc/Guide.html")));
+    EXPECT_EQ(basic::attempt([&] { shell.Open(path("Other.chm")); }).Number, 53);
+}
+
 TEST_F(LocalShell, HelpOpensTheNamedPageOfAHelpFile) {
     folder.write("VB Toolkit/doc/Guide_PNG Files.html", "");
     shell.Start("Hh.exe ms-its:" + path("vb toolkit\\doc\\Guide.chm") + "::/Guide_PNG Files.html");

@@ -49,10 +49,12 @@ struct LifecycleWorld : TracedPlatform {
     fernwick::modReferencesManagement references{registry2, classes, errors};
     fernwick::modDeviceManagement devices{classes, errors};
     fernwick::DeviceServices deviceServices{errors, user, classes, registry2, prefs, references, devices};
-    Ref<fernwick::udocCompileMsgs> window = basic::make<fernwick::udocCompileMsgs>(addIn, errors);
+    TracedCommands commands{trace};
+    fernwick::modViewConvertManagement tools{shell, install, errors};
+    Ref<fernwick::udocCompileMsgs> window = basic::make<fernwick::udocCompileMsgs>(
+        fernwick::CompileMsgsServices{platform, errors, addIn, install, commands, tools});
     Ref<TracedVbe> vbe =
         basic::make<TracedVbe>(trace, [this](const std::string&) { return Ref<fernwick::Object>(window); });
-    TracedCommands commands{trace};
     fernwick::modProjectTemplates templates{addIn, install, files, user, errors};
     fernwick::ProjectServices services{errors, platform, install, addIn, devices, templates};
     fernwick::modProjectHandler projects{services};

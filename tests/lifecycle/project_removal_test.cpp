@@ -33,13 +33,32 @@ TEST_F(ProjectRemoval, AProjectOfAnotherKindIsDropped) {
 }
 
 TEST_F(ProjectRemoval, AProjectThatIsNotListedIsReportedAndTheNextServed) {
-    const auto stranger = basic::make<test::TracedProject>(trace, "Stranger", "/p/Stranger.vbp");
-    const auto project = open("A");
+    const auto stranger = open("Stranger"), project = open("A");
+    projects.RemoveFromProjectsList(stranger);
     removal.RemoveProject(stranger, true, "");
     removal.RemoveProject(project, true, "");
     turn();
     EXPECT_THAT(errors.seen, ElementsAre("modProjectHandler.GetQLProject [5]"));
-    EXPECT_THAT(openNames(), IsEmpty());
+    EXPECT_THAT(openNames(), ElementsAre("Stranger"));
+}
+
+TEST_F(ProjectRemoval, AProjectThatHasGoneIsNotQueued) {
+    const auto gone = open("A");
+    vbe->removeActive();
+    const auto project = open("B");
+    removal.RemoveProject(project, true, "/p/New.vbp");
+    removal.RemoveProject(gone, true, "");
+    EXPECT_THAT(turn(), ElementsAre("B dirty 0", "active B", "host: remove project", "open /p/New.vbp alone"));
+    EXPECT_THAT(errors.seen, IsEmpty());
+}
+
+TEST_F(ProjectRemoval, AProjectThatGoesBeforeTheTurnIsLeftAlone) {
+    open("Other");
+    removal.RemoveProject(open("A"), true, "");
+    vbe->removeActive();
+    EXPECT_THAT(turn(), IsEmpty());
+    EXPECT_THAT(openNames(), ElementsAre("Other"));
+    EXPECT_THAT(errors.seen, IsEmpty());
 }
 
 TEST_F(ProjectRemoval, TheOnlyProjectGoesBeforeItsReplacementComes) {

@@ -64,12 +64,24 @@ TEST_F(SaveFiles, AReadOnlyProjectGivesTheSameBox) {
 
 TEST_F(SaveFiles, ATemplateIsNotSavedButItsComponentsAre) {
     const auto vbp = test::SampleProject{"Base"}.module("modBase").handheld().writeTo(host.folder, "Template/Projects");
-    project = wrap(host.openFile(vbp));
-    change("modBase");
-    project->Autosave(true);
-    project->SaveFiles();
+    const auto whileItLiesThere = host.ide->Events()->VBProjectsEvents()->ItemAdded.connect([&](auto added) {
+        project = wrap(added);
+        change("modBase");
+        project->Autosave(true);
+        project->SaveFiles();
+    });
+    host.openFile(vbp);
     EXPECT_TRUE(isChangedOnDisk("Template/Projects/modBase.bas"));
     EXPECT_THAT(host.folder.read("Template/Projects/Base.vbp"), ::testing::Not(::testing::HasSubstr("AutoSave")));
+}
+
+TEST_F(SaveFiles, AReadOnlyTemplateGivesNoBox) {
+    const auto vbp = test::SampleProject{"Base"}.handheld().writeTo(host.folder, "Template/Projects");
+    makeReadOnly("Template/Projects/Base.vbp");
+    const auto whileItLiesThere =
+        host.ide->Events()->VBProjectsEvents()->ItemAdded.connect([&](auto added) { wrap(added)->SaveFiles(); });
+    host.openFile(vbp);
+    EXPECT_TRUE(user.sawNothing());
 }
 
 TEST_F(SaveFiles, AFailedSaveLeavesTheDirtyMark) {

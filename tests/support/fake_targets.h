@@ -10,11 +10,19 @@ namespace test {
 /// Libraries and modules that the targets know, by their identifiers.
 struct KnownModules {
     std::set<std::string> references, modules;
+    /// Identifiers of the libraries that each project must carry.
+    std::vector<std::string> required;
+};
+
+/// Paths of the templates that each target has.
+struct TargetTemplates {
+    std::string project, form, module, classModule;
 };
 
 class FakeTarget : public designtargetaccess::IQLDesignTarget {
 public:
-    FakeTarget(std::string key, const KnownModules& knows) : key_(std::move(key)), knows_(knows) {}
+    FakeTarget(std::string key, const KnownModules& knows, const TargetTemplates& templates)
+        : key_(std::move(key)), knows_(knows), templates_(templates) {}
     std::string Key() const override { return key_; }
     std::string PlatformName() const override { return "Platform"; }
     std::string Name() const override { return "&" + key_; }
@@ -29,8 +37,8 @@ public:
     void GetSupportedTavlets(std::vector<std::string>&, std::vector<std::string>&,
                              std::vector<std::string>&) const override {}
     std::int32_t NumSupportedTavlets() const override { return 0; }
-    void GetSupportedReferences(std::vector<std::string>&) const override {}
-    std::int32_t NumSupportedReferences() const override { return 0; }
+    void GetSupportedReferences(std::vector<std::string>& guids) const override { guids = knows_.required; }
+    std::int32_t NumSupportedReferences() const override { return std::int32_t(knows_.required.size()); }
     designtargetaccess::ReferenceValidity ValidateReference(const std::string& reference) const override {
         return {knows_.references.count(reference) > 0, false};
     }
@@ -38,14 +46,15 @@ public:
     void GetPropertyDefaults(std::vector<std::string>&, std::vector<std::string>&) const override {}
     std::int32_t NumPropertyDefaults() const override { return 0; }
     bool IsTabStopOff(const std::string&) const override { return false; }
-    std::string VBPTemplate() const override { return {}; }
-    std::string FormTemplate() const override { return {}; }
-    std::string ModuleTemplate() const override { return {}; }
-    std::string ClassModuleTemplate() const override { return {}; }
+    std::string VBPTemplate() const override { return templates_.project; }
+    std::string FormTemplate() const override { return templates_.form; }
+    std::string ModuleTemplate() const override { return templates_.module; }
+    std::string ClassModuleTemplate() const override { return templates_.classModule; }
 
 private:
     std::string key_;
     const KnownModules& knows_;
+    const TargetTemplates& templates_;
 };
 
 /// What is installed, changed by a test at any time.
@@ -55,6 +64,7 @@ struct FakeTargets {
     /// Keys that the pipe refuses.
     std::set<std::string> refused;
     KnownModules knows;
+    TargetTemplates templates;
 
     explicit FakeTargets(fernwick::Classes& classes)
         : manager_(classes.RegisterClass("DesignTargetAccess.QLDesignTargetMgr",
@@ -73,7 +83,7 @@ private:
             std::int32_t position = 0;
             target = nullptr;
             if (!FindDesignTarget(key, position)) return false;
-            target = basic::make<FakeTarget>(key, targets_.knows);
+            target = basic::make<FakeTarget>(key, targets_.knows, targets_.templates);
             return true;
         }
         bool FindDesignTarget(const std::string& key, std::int32_t& position) const override {
@@ -83,7 +93,7 @@ private:
         }
         basic::Ref<designtargetaccess::IQLDesignTarget> GetDesignTargetByIndex(std::int16_t index) const override {
             if (index < 0 || index >= Count()) return nullptr;
-            return basic::make<FakeTarget>(targets_.known[std::size_t(index)], targets_.knows);
+            return basic::make<FakeTarget>(targets_.known[std::size_t(index)], targets_.knows, targets_.templates);
         }
 
     private:

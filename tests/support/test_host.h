@@ -19,6 +19,7 @@ public:
         options.classes = classes;
         options.clipboard = clipboard;
         options.templatePath = folder / "Template";
+        options.templateFolders = {folder / "install/VB Toolkit/Template"};
         options.handlerFailed = [this](const basic::ErrObject& error) { failures.push_back(error); };
         ide = host::Host::create(std::move(options));
     }

@@ -122,6 +122,7 @@ public:
         return give("references of " + p->Name(), references);
     }
     Ref<vbide::VBControlsEvents> VBControlsEvents(const Ref<vbide::VBProject>& p, const Ref<vbide::VBForm>&) override {
+        if (refused != 0) throw notHere(refused);
         return give("controls in " + p->Name(), controls);
     }
     Ref<vbide::CommandBarEvents> CommandBarEvents(const Ref<office::CommandBarControl>& control) override {
@@ -132,6 +133,8 @@ public:
     }
     Ref<vbide::VBBuildEvents> VBBuildEvents() override { return give("build", build); }
 
+    /// The error with which form designers are refused; 0 for none.
+    int refused = 0;
     Ref<vbide::VBProjectsEvents> projects = basic::make<vbide::VBProjectsEvents>();
     Ref<vbide::VBComponentsEvents> components = basic::make<vbide::VBComponentsEvents>();
     Ref<vbide::ReferencesEvents> references = basic::make<vbide::ReferencesEvents>();

@@ -53,6 +53,7 @@ public:
     }
     void MessageBeep(int type) override { trace_.effect("beep " + std::to_string(type)); }
     void SetCursor(fernwick::MousePointerShape shape) override { trace_.effect("cursor " + std::to_string(shape)); }
+    void SetRedraw(bool redraw) override { trace_.effect(redraw ? "redraw on" : "redraw off"); }
 
 private:
     Trace& trace_;
@@ -82,8 +83,9 @@ public:
             queue_.pop_front();
             event();
         }
-        timers_.raise();
+        if (timersAreDue) timers_.raise();
     }
+    bool timersAreDue = true;
     bool hasTimers() const { return timers_.hasHandlers(); }
 
 private:

@@ -3,6 +3,7 @@
 #include "Add-in/platform/host.h"
 #include "Basic/case_folding.h"
 #include "trace.h"
+#include <functional>
 #include <map>
 
 namespace test {
@@ -177,8 +178,15 @@ public:
         trace_.read();
         return {list.begin(), list.end()};
     }
-    Ref<vbide::VBComponent> Add(vbide::vbext_ComponentType) override { throw notHere(5); }
-    Ref<vbide::VBComponent> AddFile(const std::string&) override { throw notHere(5); }
+    /// Both tell `added`, as the host raises its event, before they return.
+    Ref<vbide::VBComponent> Add(vbide::vbext_ComponentType type) override {
+        trace_.effect("add component " + std::to_string(type));
+        return take("New" + std::to_string(list.size() + 1), {}, type);
+    }
+    Ref<vbide::VBComponent> AddFile(const std::string& path) override {
+        trace_.effect("add file " + path);
+        return take(path, {}, fileType);
+    }
     void Remove(const Ref<vbide::VBComponent>& component) override {
         trace_.effect("remove component " + component->Name());
         std::erase_if(list, [&](const auto& c) { return Ref<vbide::VBComponent>(c) == component; });
@@ -188,10 +196,22 @@ public:
         trace_.read();
         return startUp;
     }
-    void StartUpObject(const vbide::StartUp& s) override { startUp = s; }
+    void StartUpObject(const vbide::StartUp& s) override {
+        trace_.effect("start up " + (s.component ? s.component->Name() : "(none)"));
+        startUp = s;
+    }
+    Ref<TracedComponent> take(const std::string& name, const std::string& file, vbide::vbext_ComponentType type) {
+        list.push_back(basic::make<TracedComponent>(trace_, name, file, type));
+        const auto taken = list.back();
+        if (added) added(taken);
+        return taken;
+    }
 
     std::vector<Ref<TracedComponent>> list;
     vbide::StartUp startUp;
+    /// Of what a file becomes.
+    vbide::vbext_ComponentType fileType = vbide::vbext_ct_StdModule;
+    std::function<void(const Ref<TracedComponent>&)> added;
 
 private:
     Trace& trace_;

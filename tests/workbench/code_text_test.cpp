@@ -3,7 +3,10 @@
 #include "Apps/workbench/procedure_list.h"
 #include "Apps/workbench/scintilla.h"
 #include "tests/support/test_host.h"
+#include <QApplication>
+#include <QClipboard>
 #include <QComboBox>
+#include <QInputMethodEvent>
 #include <QTest>
 #include <random>
 
@@ -102,6 +105,35 @@ TEST_F(Code, ACharacterThatTheFileCannotHoldIsRefused) {
     EXPECT_TRUE(QTest::qWaitFor([this] { return refused == 1; }));
     EXPECT_EQ(shown(), "Sub A()\nEnd Sub");
     EXPECT_EQ(held(), shown());
+}
+
+TEST_F(Code, ARefusedCharacterTakesNothingWithIt) {
+    editorOf(moduleOf("Sub A()\r\nEnd Sub\r\n"));
+    QTest::keyClicks(&text(), "x");
+    text().setSelection(0, 0, 1, 3);
+    QTest::sendKeyEvent(QTest::Click, &text(), Qt::Key_unknown, QString::fromUtf8("\u4e2d"), Qt::NoModifier);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return refused == 1; }));
+    QInputMethodEvent composed;
+    composed.setCommitString(QString::fromUtf8("\u4e2d"));
+    QApplication::sendEvent(&text(), &composed);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return refused == 2; }));
+    QApplication::clipboard()->setText(QString::fromUtf8("a\n\u4e2d\nb"));
+    text().paste();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return refused == 3; }));
+    EXPECT_EQ(shown(), "xSub A()\nEnd Sub");
+    EXPECT_EQ(held(), shown());
+    text().undo(); // what was done before can still be undone
+    EXPECT_EQ(held(), "Sub A()\nEnd Sub");
+}
+
+TEST_F(Code, WhatTheFileHoldsIsTypedAndPasted) {
+    editorOf(moduleOf("' \r\n"));
+    QTest::keyClick(&text(), Qt::Key_End, Qt::ControlModifier);
+    QTest::sendKeyEvent(QTest::Click, &text(), Qt::Key_unknown, QString::fromUtf8("\u00e4"), Qt::NoModifier);
+    QApplication::clipboard()->setText(QString::fromUtf8("\u00f6\n"));
+    text().paste();
+    EXPECT_EQ(held(), "' \u00e4\u00f6\n");
+    EXPECT_EQ(refused, 0);
 }
 
 TEST_F(Code, EditsOfOthersAreShown) {

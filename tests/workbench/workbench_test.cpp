@@ -3,12 +3,16 @@
 #include "tests/workbench/desktop.h"
 #include <QDockWidget>
 #include <QLabel>
+#include <QListWidget>
+#include <QMenuBar>
+#include <QMessageBox>
 #include <QSettings>
 #include <QTreeView>
 #include <gmock/gmock.h>
 
 using testing::ElementsAre;
 using testing::HasSubstr;
+using testing::Not;
 
 using test::Desktop;
 
@@ -33,9 +37,10 @@ TEST_F(Desktop, OpeningAProjectOpensNoCode) {
     EXPECT_EQ(window().code().count(), 0);
 }
 
-TEST_F(Desktop, ADoubleClickOpensTheCode) {
+TEST_F(Desktop, TheCodeOfAFormOpensFromItsDesigner) {
     openSample("HelloWorld");
     doubleClick(entry("frmHello"));
+    menuItem("&View", "&Code")->trigger();
     ASSERT_TRUE(window().code().current());
     const auto module = component("frmHello")->CodeModule();
     EXPECT_EQ(window().code().current()->scintilla().text().toStdString() + "\n", [&] {
@@ -43,7 +48,7 @@ TEST_F(Desktop, ADoubleClickOpensTheCode) {
         std::erase(lines, '\r');
         return lines + "\n";
     }());
-    EXPECT_EQ(window().code().tabText(0), "frmHello");
+    EXPECT_EQ(window().code().tabText(1), "frmHello");
     EXPECT_FALSE(component("frmHello")->IsDirty());
 }
 
@@ -91,9 +96,11 @@ TEST_F(Desktop, ComponentsComeGoAndAreRenamed) {
     openSample("HelloWorld");
     menuItem("&Project", "Add &Module")->trigger();
     settle();
-    EXPECT_TRUE(entry("Module1 (Module1) *"));
-    EXPECT_EQ(window().code().tabText(0), "Module1 *");
-    component("Module1")->Name("modOther");
+    EXPECT_TRUE(entry("Module2 (Module2) *")); // the design target's template, in place of a blank Module1
+    EXPECT_FALSE(entry("Module1"));
+    EXPECT_EQ(window().code().tabText(0), "Module2 *");
+    EXPECT_EQ(component("Module2")->CodeModule()->Lines(1, 1), "Option Explicit");
+    component("Module2")->Name("modOther");
     settle();
     EXPECT_TRUE(entry("modOther (modOther) *"));
     project()->VBComponents()->Remove(component("modOther"));
@@ -126,7 +133,7 @@ TEST_F(Desktop, AnErrorOfABuildLeadsToItsLine) {
 TEST_F(Desktop, AGoodBuildMakesTheImage) {
     openSample("HelloWorld");
     EXPECT_TRUE(compile().empty());
-    EXPECT_THAT(window().findChild<QLabel*>("lblStatusText")->text().toStdString(), HasSubstr("Status: SUCCESS"));
+    EXPECT_THAT(window().findChild<QLabel*>("lblStatusText")->text().toStdString(), HasSubstr("SUCCESS"));
     EXPECT_TRUE(std::filesystem::exists(folder / "HelloWorld/HelloWorld.0000.qlx"));
 }
 
@@ -211,6 +218,57 @@ TEST_F(Desktop, RemovingAnUnsavedProjectAsks) {
     EXPECT_THAT(folder.read("HelloWorld/frmHello.frm"), HasSubstr("' lost"));
     settle();
     EXPECT_TRUE(explorerEntries().empty());
+}
+
+TEST_F(Desktop, ChangesThatAreGivenUpAreNotSavedAtTheClosing) {
+    openSample("HelloWorld");
+    component("frmHello")->CodeModule()->InsertLines(1, "' lost");
+    project()->WriteProperty("A", "key", "lost");
+    test::whenShown<QMessageBox>([](QMessageBox& box) { box.button(QMessageBox::Discard)->click(); });
+    menuItem("&File", "&Remove Project")->trigger();
+    EXPECT_EQ(bench->host().VBProjects()->Count(), 0);
+    EXPECT_THAT(folder.read("HelloWorld/frmHello.frm"), Not(HasSubstr("' lost")));
+    EXPECT_THAT(folder.read("HelloWorld/HelloWorld.vbp"), Not(HasSubstr("key=lost")));
+}
+
+TEST_F(Desktop, ChangesAreGivenUpOnlyWhenTheWindowCloses) {
+    openSample("HelloWorld");
+    openSample("AddressBook");
+    for (const auto& each : bench->host().VBProjects()->items()) each->WriteProperty("A", "key", "value");
+    std::vector answers{QMessageBox::Cancel, QMessageBox::Discard};
+    answer([&](QDialog& box) {
+        const auto next = answers.back();
+        answers.pop_back();
+        dynamic_cast<QMessageBox&>(box).button(next)->click();
+    });
+    EXPECT_FALSE(window().close());
+    for (const auto& each : bench->host().VBProjects()->items()) EXPECT_TRUE(each->IsDirty());
+}
+
+TEST_F(Desktop, AFormOfAHandheldProjectGetsTheDevicesShape) {
+    openSample("HelloWorld");
+    menuItem("&Project", "Add &Form")->trigger();
+    settle();
+    const auto form = component("Form1");
+    EXPECT_EQ(fernwick::asDouble(form->Properties()->Item("ScaleWidth")->Value()), 160);
+    EXPECT_EQ(form->CodeModule()->Lines(1, 1), "Option Explicit");
+    EXPECT_TRUE(window().design().forms().viewOf(form));
+    EXPECT_TRUE(window().design().forms().current());
+}
+
+TEST_F(Desktop, ANewProjectComesFromTheTemplateOfTheDeviceThatTheUserChooses) {
+    bench->connect();
+    test::whenShown([](QDialog& window) {
+        window.findChild<QListWidget*>("lstQuickDesignTargets")->setCurrentRow(1);
+        test::click(window, "btnOK");
+    });
+    bench->open(FERNWICK_SOURCE_DIR "/installation/Template/Projects/Fernwick Project.vbp");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return explorerEntries().size() == 3; }, 2000));
+    EXPECT_THAT(explorerEntries(), ElementsAre("Project1 (Project1) *", " Forms", "  Form1 (Form1) *"));
+    EXPECT_EQ(project()->ReadProperty("Quinloft Global", "TargetDevice"), "PocketPC-SH3");
+    EXPECT_EQ(fernwick::asDouble(component("Form1")->Properties()->Item("ScaleHeight")->Value()), 320);
+    EXPECT_EQ(project()->VBComponents()->StartUpObject().component, component("Form1"));
+    EXPECT_FALSE(workbench::RecentProjects::stored().join("").contains("Template"));
 }
 
 TEST_F(Desktop, WindowsOfARemovedProjectClose) {

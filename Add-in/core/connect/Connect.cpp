@@ -83,22 +83,27 @@ void Connect::takeUpActiveProject(Procedure& here, const Host& VBInst) {
     if (!project) return disableInterface(here);
     use_.setup.SetupProject(project);
     if (!project->IsQuinloftProject()) return disableInterface(here);
-    watchProject(here, VBInst, project);
+    watchProject(here, project->VBProject());
+    watchSelectedForm(here, VBInst);
 }
 
-void Connect::watchProject(Procedure& here, const Host& VBInst, const basic::Ref<clsQLProject>& project) {
-    here([&] { CompsEventsHandler = VBInst->Events()->VBComponentsEvents(project->VBProject()); });
-    here([&] { RefEventsHandler = VBInst->Events()->ReferencesEvents(project->VBProject()); });
+void Connect::watchProject(Procedure& here, const Project& project) {
+    const auto host = use_.addIn.gVBInstance;
+    here([&] { CompsEventsHandler = host->Events()->VBComponentsEvents(project); });
+    here([&] { RefEventsHandler = host->Events()->ReferencesEvents(project); });
+}
+
+void Connect::watchSelectedForm(Procedure& here, const Host& VBInst) {
     const auto designerIsOpen = [&] {
         const auto selected = VBInst->SelectedVBComponent();
         return selected && selected->Type() == vbide::vbext_ct_VBForm && selected->HasOpenDesigner();
     };
-    if (!here.test(designerIsOpen)) return;
-    here([&] {
-        const auto selected = VBInst->SelectedVBComponent();
-        ControlsEventsHandler =
-            VBInst->Events()->VBControlsEvents(selected->VBE()->ActiveVBProject(), selected->Designer());
-    });
+    if (here.test(designerIsOpen)) here([&] { watchDesigner(VBInst->SelectedVBComponent()); });
+}
+
+void Connect::watchDesigner(const Component& form) {
+    const auto project = form->VBE()->ActiveVBProject();
+    ControlsEventsHandler = use_.addIn.gVBInstance->Events()->VBControlsEvents(project, form->Designer());
 }
 
 void Connect::disableInterface(Procedure& here) {

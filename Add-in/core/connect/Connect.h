@@ -36,6 +36,7 @@ struct ConnectServices {
     AddIn& addIn;
     modReferencesManagement& references;
     modDeviceManagement& devices;
+    DeviceServices deviceServices;
     CommandItems& items;
     modProjectHandler& projects;
     modCompileErrorManagement& messages;
@@ -128,16 +129,27 @@ public:
     Command InstallVMPalmOSHandler{this};
 
     // Projects
-    WithEvents<vbide::VBProjectsEvents> ProjEventsHandler{this};
+    WithEvents<vbide::VBProjectsEvents> ProjEventsHandler{
+        this, on(&vbide::VBProjectsEvents::ItemAdded, &Connect::ProjEventsHandler_ItemAdded),
+        on(&vbide::VBProjectsEvents::ItemRemoved, &Connect::ProjEventsHandler_ItemRemoved),
+        on(&vbide::VBProjectsEvents::ItemRenamed, &Connect::ProjEventsHandler_ItemRenamed),
+        on(&vbide::VBProjectsEvents::ItemActivated, &Connect::ProjEventsHandler_ItemActivated)};
     // One project: that which was assigned last
-    WithEvents<vbide::VBComponentsEvents> CompsEventsHandler{this};
-    WithEvents<vbide::ReferencesEvents> RefEventsHandler{this};
+    WithEvents<vbide::VBComponentsEvents> CompsEventsHandler{
+        this, on(&vbide::VBComponentsEvents::ItemAdded, &Connect::CompsEventsHandler_ItemAdded),
+        on(&vbide::VBComponentsEvents::ItemRenamed, &Connect::CompsEventsHandler_ItemRenamed),
+        on(&vbide::VBComponentsEvents::ItemSelected, &Connect::CompsEventsHandler_ItemSelected),
+        on(&vbide::VBComponentsEvents::ItemActivated, &Connect::CompsEventsHandler_ItemActivated)};
+    WithEvents<vbide::ReferencesEvents> RefEventsHandler{
+        this, on(&vbide::ReferencesEvents::ItemAdded, &Connect::RefEventsHandler_ItemAdded)};
     WithEvents<vbide::FileControlEvents> FileControlHandler{
         this, on(&vbide::FileControlEvents::RequestWriteFile, &Connect::FileControlHandler_RequestWriteFile)};
     // One form designer: that which was assigned last
     WithEvents<vbide::VBControlsEvents> ControlsEventsHandler{this};
     // Build
-    WithEvents<vbide::VBBuildEvents> BuildEventsHandler{this};
+    WithEvents<vbide::VBBuildEvents> BuildEventsHandler{
+        this, on(&vbide::VBBuildEvents::EnterDesignMode, &Connect::BuildEventsHandler_EnterDesignMode),
+        on(&vbide::VBBuildEvents::EnterRunMode, &Connect::BuildEventsHandler_EnterRunMode)};
     // All file loads
     WithEvents<vbide::FileControlEvents> GlobalFileControlHandler{
         this, on(&vbide::FileControlEvents::BeforeLoadFile, &Connect::GlobalFileControlHandler_BeforeLoadFile)};
@@ -146,12 +158,18 @@ public:
     bool ResEditWasConnected = false;
     /// Nanoseconds since 1970.
     std::int64_t LastControlEventTime = 0;
-    /// Raised around the reload of a template project.
+    /// A template project is queued for its reload, and has not arrived yet.
     bool TemplateReloadPending = false;
+    /// A component is being replaced by its template, which must not be replaced in its turn.
     bool ComponentAddGuard = false;
+    /// The form that was selected last.
+    basic::Ref<vbide::VBComponent> SelectedForm;
 
 private:
     using Item = CommandItems::Item;
+    using Project = basic::Ref<vbide::VBProject>;
+    using QLProject = basic::Ref<clsQLProject>;
+    using Component = basic::Ref<vbide::VBComponent>;
 
     std::array<Command, kDeviceSlots> slots(void (Connect::*clicked)(const Item& item));
     void buildInterface(Procedure& here, const Host& VBInst, const basic::Ref<vbide::AddIn>& AddInInst);
@@ -159,7 +177,9 @@ private:
     void meetSiblings(Procedure& here, const Host& VBInst);
     void failStart(Procedure& here, const char* step, const basic::Ref<vbide::AddIn>& AddInInst);
     void takeUpActiveProject(Procedure& here, const Host& VBInst);
-    void watchProject(Procedure& here, const Host& VBInst, const basic::Ref<clsQLProject>& project);
+    void watchSelectedForm(Procedure& here, const Host& VBInst);
+    void watchProject(Procedure& here, const Project& project);
+    void watchDesigner(const Component& form);
     void disableInterface(Procedure& here);
 
     void SetupSampleMenuHandlers(const Host& VBInst);
@@ -188,8 +208,8 @@ private:
     bool hasMyDevices();
     void toMyDevices(const std::function<void(const std::string& device)>& act);
     // Commands that lead elsewhere
-    void ProjectManagerHandler_Click() { notInThisBuild(); }
-    void ToolProjectManagerHandler_Click() { notInThisBuild(); }
+    void ProjectManagerHandler_Click() { use_.commands.notInThisBuild(); }
+    void ToolProjectManagerHandler_Click() { use_.commands.notInThisBuild(); }
     void ZoomWindowHandler_Click();
     void ToolZoomWindowHandler_Click() { ZoomWindowHandler_Click(); }
     void DownloadVMHandler_Click();
@@ -201,8 +221,39 @@ private:
     void SampleIntroHandler_Click();
     void SampleHelloWorldHandler_Click();
     void SampleOpenSampleDirHandler_Click();
-    void notInThisBuild();
     void box(const char* text, int icon);
+
+    // Projects come and go
+    void ProjEventsHandler_ItemAdded(Project VBProject);
+    void ProjEventsHandler_ItemRemoved(Project VBProject);
+    void ProjEventsHandler_ItemRenamed(Project VBProject, const std::string& OldName);
+    void ProjEventsHandler_ItemActivated(Project VBProject);
+    void watchAddedProject(Procedure& here);
+    void fitTemplate(Procedure& here, const QLProject& project);
+    void takeUpReloaded(Procedure& here, const QLProject& project);
+    void addFirstForm(Procedure& here, const QLProject& project);
+    void refuseDevice(Procedure& here, const QLProject& project, const std::string& device);
+    void closeAdded(Procedure& here, const Project& project);
+    void keepState(Procedure& here, const QLProject& project);
+    void keepDesktopState(Procedure& here, const Project& vbProject);
+
+    // Components, references and the build
+    void CompsEventsHandler_ItemAdded(Component VBComponent);
+    void CompsEventsHandler_ItemRenamed() {}
+    void CompsEventsHandler_ItemSelected(Component VBComponent);
+    void CompsEventsHandler_ItemActivated(Component VBComponent);
+    using NameTest = bool (*)(const vbide::VBComponent& component);
+    using TemplateOf = std::string (clsQLProject::*)() const;
+    bool replaceByTemplate(Procedure& here, const QLProject& project, const Component& VBComponent, NameTest isDefault,
+                           TemplateOf path);
+    void fitForm(Procedure& here, const QLProject& project, const Component& VBComponent);
+    void refuseType(Procedure& here, const QLProject& project, const Component& VBComponent);
+    QLProject activeFernwickProject(Procedure& here);
+    bool isFormOfOurs(Procedure& here, const Component& VBComponent);
+    void RefEventsHandler_ItemAdded();
+    void BuildEventsHandler_EnterDesignMode();
+    void BuildEventsHandler_EnterRunMode();
+    bool isCurrentOurs() const;
 
     void GlobalFileControlHandler_BeforeLoadFile(basic::Ref<vbide::VBProject> VBProject,
                                                  const std::vector<std::string>& FileNames);

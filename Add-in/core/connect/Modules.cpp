@@ -13,7 +13,8 @@ Modules::~Modules() {
 }
 
 basic::Ref<Object> Modules::newCompileMsgs() {
-    const auto document = std::make_shared<udocCompileMsgs>(addIn, errors);
+    const auto document =
+        std::make_shared<udocCompileMsgs>(CompileMsgsServices{platform, errors, addIn, install, commands, tools});
     documents_.push_back(document);
     return document;
 }

@@ -39,10 +39,12 @@ struct Modules {
     modImageManagement images{platform};
     modMenuManagement menu{{platform.interaction, errors, addIn, registry, devices, images, items}};
     modToolbarManagement toolbars{{errors, addIn, prefs, images, items}};
+    modSamplesManagement samplesList{registry};
     modViewConvertManagement tools{platform.shell, install, errors};
     modHelpManagement help{platform, install, errors};
     frmAbout about{platform, errors};
-    CommandSurface commands{platform.interaction, addIn, items, menu, toolbars, clipboard};
+    frmGettingStarted gettingStarted{platform, install, prefs, errors};
+    CommandSurface commands{platform.interaction, addIn, items, menu, toolbars, clipboard, gettingStarted};
     // project
     modProjectTemplates templates{addIn, install, platform.files, platform.interaction, errors};
     ProjectServices projectServices{errors, platform, install, addIn, devices, templates};
@@ -70,9 +72,9 @@ struct Modules {
         {addIn, platform.loop, deviceServices, projects, save, messages, chooseTarget, removal, commands}};
     SampleOpening samples{{platform, errors, addIn, save, commands}};
     // on top
-    Connect connect{{platform,     errors,      prefs,   addIn, references, devices, items,
-                     projects,     messages,    removal, setup, commands,   install, compile,
-                     sendToDevice, sendRuntime, tools,   help,  about,      samples}};
+    Connect connect{{platform, errors,       prefs,       addIn,   references, devices,  deviceServices,
+                     items,    projects,     messages,    removal, setup,      commands, install,
+                     compile,  sendToDevice, sendRuntime, tools,   help,       about,    samples}};
 
     /// The document of the messages window; Nothing until the host has made it.
     basic::Ref<udocCompileMsgs> compileMsgs() const;

@@ -22,11 +22,12 @@ void Connect::GlobalFileControlHandler_BeforeLoadFile(basic::Ref<vbide::VBProjec
         use_.platform.interaction.MsgBox(connect_texts::kOldProject, vbExclamation, connect_texts::kOldProjectTitle);
 }
 
-/// The host then writes nothing of a project that is about to be converted, and raises no error.
+/// The host then writes nothing of a project that is about to be converted, and raises no error. What the add-in has not
+/// met, or no longer knows after it was disconnected, is written as ever.
 void Connect::FileControlHandler_RequestWriteFile(basic::Ref<vbide::VBProject> VBProject, const std::string&,
                                                   bool& Cancel) {
     Procedure here{use_.errors, "Connect.FileControlHandler_RequestWriteFile"};
-    const auto project = use_.projects.GetQLProject(VBProject);
+    const auto project = use_.projects.FindQLProject(VBProject);
     if (project && project->IsQuinloftProject() && project->ProjectVersion() == "1.0") Cancel = true;
 }
 

@@ -10,7 +10,7 @@ constexpr char kHelloWorldTutorial[] = "VB Toolkit\\doc\\Hello World Tutorial\\h
 
 void Connect::ZoomWindowHandler_Click() {
     Procedure here{use_.errors, "Connect.ZoomWindowHandler_Click"};
-    here([&] { notInThisBuild(); });
+    here([&] { use_.commands.notInThisBuild(); });
 }
 
 void Connect::DownloadVMHandler_Click() {
@@ -40,7 +40,7 @@ void Connect::OpenUtility(UtilityTool tool, const char* location) {
 
 void Connect::SampleIntroHandler_Click() {
     Procedure here{use_.errors, "Connect.SampleIntroHandler_Click"};
-    here([&] { notInThisBuild(); });
+    here([&] { use_.commands.ShowGettingStarted(); });
 }
 
 void Connect::SampleHelloWorldHandler_Click() {
@@ -61,8 +61,6 @@ void Connect::SampleOpenSampleDirHandler_Click() {
     else
         here([&] { box(connect_texts::kSamplesDirMissing, vbExclamation); });
 }
-
-void Connect::notInThisBuild() { box(connect_texts::kNotInThisBuild, vbInformation); }
 
 void Connect::box(const char* text, int icon) { use_.platform.interaction.MsgBox(text, icon, connect_texts::kTitle); }
 

@@ -13,6 +13,10 @@ inline constexpr char kFailedStepAfter[] = "\r\nFailing to install Fernwick Add-
 
 inline constexpr char kNotInThisBuild[] = "This command is not in this build of Fernwick.";
 
+/// Around the device's key.
+inline constexpr char kTypeNotSupportedBefore[] = "This component type is not supported on ";
+inline constexpr char kTypeNotSupportedAfter[] = " devices";
+
 inline constexpr char kNoDevicesTitle[] = "No devices selected";
 inline constexpr char kNoDevices[] = "To continue with this option, you must first select which devices will be used. "
                                      "Continue and select devices?";

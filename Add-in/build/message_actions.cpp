@@ -1,0 +1,84 @@
+// From a message to what can be done about it.
+#include "Add-in/build/message_numbers.h"
+#include "Add-in/build/udocCompileMsgs.h"
+#include "Basic/conversions.h"
+
+namespace fernwick {
+
+namespace {
+
+/// Behind the end of any line: the whole line is selected.
+constexpr int kEndOfLine = 9999;
+constexpr char kCompilerSettingsPage[] = "Compiler Settings";
+constexpr char kPicturesHelpFile[] = "VB Toolkit\\doc\\Quinloft_Tamarik_and_Components.chm";
+constexpr char kPicturesPage[] = "::/Quinloft_Tamarik_and_Components_Tamarik And PNG Files.html";
+
+} // namespace
+
+void udocCompileMsgs::msgGrid_DblClick() {
+    if (!use_) return;
+    Procedure here{use_->errors, "udocCompileMsgs.msgGrid_DblClick"};
+    if (selectedRow_ <= 0) return;
+    const auto cells = message(selectedRow_).cells; // opening the source lets events in, which may clear the rows
+    openSource(here, cells);
+    if (use_ && !cells[ErrorColumn].empty()) actOn(here, basic::CLng(cells[ErrorColumn]));
+}
+
+void udocCompileMsgs::showSource(std::int32_t row) {
+    if (!use_) return;
+    Procedure here{use_->errors, "udocCompileMsgs.showSource"};
+    if (!here([&] { select(row); }) || row == 0) return;
+    const auto cells = message(row).cells;
+    openSource(here, cells);
+}
+
+void udocCompileMsgs::openSource(Procedure& here, const Cells& cells) {
+    const auto& title = cells[TitleColumn];
+    const std::int32_t line = cells[LineColumn].empty() ? -1 : basic::CLng(cells[LineColumn]);
+    if (title.empty() || line <= 0) return;
+    const auto pane = here.value([&] {
+        return use_->addIn.gVBInstance->ActiveVBProject()->VBComponents()->Item(title)->CodeModule()->CodePane();
+    });
+    if (!pane) return;
+    here([&] { pane->Show(); });
+    showLine(here, pane, line);
+}
+
+/// The host's window holds its picture while the pane's window changes its size, which would flicker.
+void udocCompileMsgs::showLine(Procedure& here, const basic::Ref<vbide::CodePane>& pane, std::int32_t line) {
+    if (!use_) return; // the pane that came up let events in
+    auto& user = use_->platform.interaction;
+    here([&] { user.SetRedraw(false); });
+    here([&] { pane->Window()->WindowState(vbide::vbext_ws_Normal); });
+    here([&] { user.SetRedraw(true); });
+    here([&] { pane->Window()->SetFocus(); });
+    here([&] { pane->SetSelection(line, 1, line, kEndOfLine); });
+}
+
+void udocCompileMsgs::actOn(Procedure& here, std::int32_t errorNumber) {
+    const auto use = *use_; // reports and dialogs let events in
+    switch (errorNumber) {
+    case message_numbers::kComponentNotSupported:
+        here([&] { use.platform.interaction.SetCursor(vbHourglass); });
+        here([&] {
+            use.commands.ShowQuinloftSettings(use.addIn.gVBInstance->ActiveVBProject(), kCompilerSettingsPage, false);
+        });
+        break;
+    case message_numbers::kFontMissing:
+        if (!use.tools.OpenViewerConverter(kFontConverter))
+            here([&] { box(build_texts::kNoFontConverter, vbCritical); });
+        break;
+    case message_numbers::kPictureHelp:
+        here([&] {
+            use.platform.shell.Start("Hh.exe ms-its:" + use.install.installed(kPicturesHelpFile) + kPicturesPage);
+        });
+        break;
+    default: break;
+    }
+}
+
+void udocCompileMsgs::box(const std::string& text, int icon) {
+    use_->platform.interaction.MsgBox(text, icon, build_texts::kTitle);
+}
+
+} // namespace fernwick

@@ -1,0 +1,91 @@
+#pragma once
+// The grid of the messages window without its drawing: columns, rows, and how high each row stands. Lengths are in twips.
+#include "Add-in/platform/device_context.h"
+#include "Add-in/platform/screen.h"
+#include <array>
+#include <cstdint>
+#include <deque>
+#include <memory>
+#include <string>
+
+namespace fernwick {
+
+/// Where a cell's text stands in its cell, as the grid numbers it.
+enum FlexAlignment : int {
+    flexAlignLeftCenter = 1,
+    flexAlignCenterTop = 3,
+    flexAlignCenterCenter = 4,
+    /// Texts at the left.
+    flexAlignGeneral = 9,
+};
+
+/// Returns its argument, but at least 1: for widths and divisors.
+constexpr std::int32_t keepPositive(std::int32_t length) { return length < 1 ? 1 : length; }
+
+class MessageGrid {
+public:
+    enum Column { FileNameColumn, PictureColumn, TitleColumn, LineColumn, ErrorColumn, MessageColumn, kColumns };
+    static constexpr std::int32_t kFixedRows = 1;
+
+    struct ColumnDesign {
+        const char* header;
+        bool isHeaderBold;
+        FlexAlignment cells;
+        FlexAlignment headers;
+        /// Of the width that the picture leaves.
+        double share;
+    };
+
+    struct Row {
+        std::array<std::string, kColumns> cells;
+        /// A tMessageType, or 0 for a message whose stored type is neither.
+        int type = 0;
+        /// A BMP file's bytes; null for a row without a picture.
+        std::shared_ptr<const std::string> picture;
+        /// Of the message, measured when it came.
+        TextExtent extent;
+        std::int32_t height = 0;
+    };
+
+    explicit MessageGrid(const Screen& screen) : twipsX_(screen.TwipsPerPixelX()), twipsY_(screen.TwipsPerPixelY()) {}
+
+    static const ColumnDesign& design(Column column);
+
+    /// The header row included.
+    std::int32_t rowCount() const { return std::int32_t(rows_.size()) + kFixedRows; }
+    /// From 1. Error 30009 outside of the messages.
+    const Row& row(std::int32_t index) const;
+    /// Row 0 is the header. Error 30009 for a row that is not there.
+    std::string cell(std::int32_t index, Column column) const;
+
+    /// The row is new, and stands right below the header or at the end. It stays valid when rows come and go.
+    std::shared_ptr<Row> insert(std::array<std::string, kColumns> cells, bool atTop);
+    void clear() { rows_.clear(); }
+
+    /// Null where no window draws the grid: texts then measure nothing. It outlives the grid or is taken back.
+    void measureWith(const DeviceContext* context) { context_ = context; }
+    TextExtent measured(const std::string& text) const noexcept;
+    /// Remembers how long the row's message is.
+    void measure(Row& row) { row.extent = measured(row.cells[MessageColumn]); }
+    void measureAll();
+    /// As many lines as the message fills the last column.
+    void fitHeight(Row& row);
+
+    /// The document's size, and where in it the grid begins.
+    void SetGridSizes(std::int32_t documentWidth, std::int32_t documentHeight, std::int32_t top);
+    std::int32_t width() const { return width_; }
+    std::int32_t height() const { return height_; }
+    std::int32_t columnWidth(Column column) const { return columnWidths_[column]; }
+    std::int32_t rowHeight(std::int32_t index) const;
+    std::int32_t rowHeightMin() const { return rowHeightMin_; }
+    float twipsX() const { return twipsX_; }
+
+private:
+    float twipsX_, twipsY_;
+    const DeviceContext* context_ = nullptr;
+    std::deque<std::shared_ptr<Row>> rows_;
+    std::array<std::int32_t, kColumns> columnWidths_{};
+    std::int32_t width_ = 0, height_ = 0, rowHeightMin_ = 0;
+};
+
+} // namespace fernwick

@@ -1,0 +1,70 @@
+// The keys of the messages window.
+#include "Add-in/build/udocCompileMsgs.h"
+#include "Basic/code_page.h"
+#include "Basic/conversions.h"
+#include "Basic/text_search.h"
+#include "Basic/utf8.h"
+#include <fmt/format.h>
+
+namespace fernwick {
+
+namespace {
+
+constexpr char kHelpFile[] = "VB Toolkit\\doc\\Quinloft_Error_Codes.chm";
+/// The pages of the help file stand in the folder of its name, each under its number.
+constexpr char kHelpPage[] = "VB Toolkit\\doc\\Quinloft_Error_Codes\\{}.html";
+/// For a character that the code page lacks.
+constexpr char kNoSuchCharacter = '?';
+
+std::string inCodePage(const std::string& text) {
+    const auto page = basic::CodePage::windows1252();
+    if (auto bytes = page.tryEncode(text)) return *bytes;
+    std::string bytes;
+    for (std::size_t at = 0; at < text.size();) {
+        const auto from = at;
+        basic::nextCharacter(text, at);
+        bytes +=
+            page.tryEncode(std::string_view(text).substr(from, at - from)).value_or(std::string(1, kNoSuchCharacter));
+    }
+    return bytes;
+}
+
+} // namespace
+
+void udocCompileMsgs::msgGrid_KeyDown(int KeyCode, int Shift) {
+    if (!use_) return;
+    Procedure here{use_->errors, "udocCompileMsgs.msgGrid_KeyDown"};
+    if (KeyCode == vbKeyF1 && Shift == 0) showHelp(here);
+    if (KeyCode == vbKeyC && Shift == vbCtrlMask && selectedRow_ > 0) copyRow(here);
+}
+
+void udocCompileMsgs::showHelp(Procedure& here) {
+    std::int32_t number = 0;
+    if (!here([&] { number = basic::CLng(grid_.cell(selectedRow_, ErrorColumn)); })) return;
+    const auto use = *use_; // the box lets events in
+    const auto page = fmt::format(kHelpPage, number);
+    if (!here.test([&] { return use.platform.files.FileExists(use.install.installed(page)); }))
+        here([&] { box(basic::Replace(build_texts::kNoHelpPage, "{number}", fmt::to_string(number)), vbExclamation); });
+    here([&] {
+        use.platform.shell.Start(fmt::format("Hh.exe -mapid {} {}", number, use.install.installed(kHelpFile)));
+    });
+}
+
+std::string udocCompileMsgs::copyText(std::int32_t row) const {
+    const auto& cells = message(row).cells;
+    return "File Title: " + cells[TitleColumn] + ", Line: " + cells[LineColumn] +
+           ", Error Number: " + cells[ErrorColumn] + ", Message: " + cells[MessageColumn];
+}
+
+/// The text ends with a zero, as the clipboard's plain text does. One with characters beyond the code page is there in full
+/// besides.
+void udocCompileMsgs::copyRow(Procedure& here) {
+    auto& clipboard = use_->platform.clipboard;
+    const auto text = copyText(selectedRow_);
+    here([&] { clipboard.Clear(); });
+    here([&] { clipboard.SetData(kAnsiTextFormat, inCodePage(text) + '\0'); });
+    const bool isWhole = basic::CodePage::windows1252().tryEncode(text).has_value();
+    if (!isWhole) here([&] { clipboard.SetData(kTextFormat, text); });
+}
+
+} // namespace fernwick

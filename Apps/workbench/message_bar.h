@@ -1,0 +1,38 @@
+#pragma once
+// The bar above the messages: how many there are of each kind, and which of them show.
+#include <QPixmap>
+#include <QWidget>
+#include <functional>
+
+class QLabel;
+class QLineEdit;
+class QToolButton;
+
+namespace workbench {
+
+class MessageBar final : public QWidget {
+public:
+    /// What the user wishes to see.
+    struct Wishes {
+        std::function<void(int type, bool shown)> showType;
+        std::function<void(const QString&)> showText;
+    };
+
+    explicit MessageBar(Wishes wishes);
+
+    QLineEdit& filter() { return *filter_; }
+    void setPictures(const QPixmap& error, const QPixmap& warning);
+    /// `shown` of `all` messages are drawn.
+    void showCounts(int errors, int warnings, int shown, int all);
+
+private:
+    QToolButton* addKind(int type, const char* name, const char* toolTip);
+
+    Wishes wishes_;
+    QToolButton* errors_;
+    QToolButton* warnings_;
+    QLineEdit* filter_;
+    QLabel* shown_;
+};
+
+} // namespace workbench

@@ -1,0 +1,130 @@
+#include "Host/files/journal_file.h"
+#include "Host/files/system_error.h"
+#include <charconv>
+#include <fmt/format.h>
+
+namespace host {
+namespace {
+
+constexpr int kInvalidJournal = 321;
+constexpr std::string_view kFirstLine = "Fernwick journal 1\n";
+
+/// Of a journal's own, so that a journal of one build is read by the next one: FNV-1a of 64 bits.
+std::uint64_t checkSumOf(std::string_view bytes) noexcept {
+    std::uint64_t sum = 0xcbf29ce484222325U;
+    for (const char c : bytes) sum = (sum ^ static_cast<unsigned char>(c)) * 0x100000001b3U;
+    return sum;
+}
+
+/// On one line.
+std::string escaped(std::string_view text) {
+    std::string line;
+    for (const char c : text) {
+        if (c == '\\')
+            line += "\\\\";
+        else if (c == '\n')
+            line += "\\n";
+        else
+            line += c;
+    }
+    return line;
+}
+
+std::string unescaped(std::string_view line) {
+    std::string text;
+    for (std::size_t i = 0; i < line.size(); ++i) {
+        const bool pair = line[i] == '\\' && i + 1 < line.size();
+        text += !pair ? line[i] : line[++i] == 'n' ? '\n' : line[i];
+    }
+    return text;
+}
+
+std::string formatStamp(const std::optional<FileStamp>& stamp) {
+    if (!stamp) return "none";
+    return fmt::format("{} {} {} {} {} {}", stamp->device, stamp->inode, stamp->size, stamp->modifiedSeconds,
+                       stamp->modifiedNanoseconds, stamp->digest);
+}
+
+[[noreturn]] void refuse(std::string_view why) { throw hostError(kInvalidJournal, std::string(why)); }
+
+/// Takes the parts of a journal off its front.
+class JournalReader {
+public:
+    explicit JournalReader(std::string_view bytes) : rest_(bytes) {
+        if (!rest_.starts_with(kFirstLine)) refuse("is no journal of this version");
+        rest_.remove_prefix(kFirstLine.size());
+    }
+
+    std::string_view line(std::string_view key) {
+        const auto end = rest_.find('\n');
+        if (end == std::string_view::npos || !rest_.starts_with(key)) refuse(fmt::format("lacks its line {}", key));
+        const auto value = rest_.substr(key.size(), end - key.size());
+        rest_.remove_prefix(end + 1);
+        return value;
+    }
+    std::string text(std::string_view key) { return unescaped(line(key)); }
+    template <class Number>
+    Number number(std::string_view key, int base = 10) {
+        auto value = line(key);
+        const auto result = takeNumber<Number>(value, base);
+        if (!value.empty()) refuse(fmt::format("has a line {} that is no number", key));
+        return result;
+    }
+    std::optional<FileStamp> stamp(std::string_view key) {
+        auto value = line(key);
+        if (value == "none") return {};
+        FileStamp stamp;
+        stamp.device = takeNumber<std::uint64_t>(value);
+        stamp.inode = takeNumber<std::uint64_t>(value);
+        stamp.size = takeNumber<std::uint64_t>(value);
+        stamp.modifiedSeconds = takeNumber<std::int64_t>(value);
+        stamp.modifiedNanoseconds = takeNumber<std::int64_t>(value);
+        stamp.digest = takeNumber<std::uint64_t>(value);
+        return stamp;
+    }
+    std::string_view rest() const { return rest_; }
+
+private:
+    template <class Number>
+    static Number takeNumber(std::string_view& from, int base = 10) {
+        Number number = 0;
+        const auto [end, failed] = std::from_chars(from.data(), from.data() + from.size(), number, base);
+        if (failed != std::errc()) refuse("has a number that is none");
+        from.remove_prefix(std::size_t(end - from.data()));
+        if (!from.empty() && from.front() == ' ') from.remove_prefix(1);
+        return number;
+    }
+
+    std::string_view rest_;
+};
+
+} // namespace
+
+std::string encodeJournal(const JournalEntry& entry) {
+    const auto checked = fmt::format("Project={}\nComponent={}\nType={}\nFile={}\nBase={}\nWritten={}\nSize={}\n\n",
+                                     escaped(entry.project), escaped(entry.component), entry.type, escaped(entry.file),
+                                     formatStamp(entry.base), entry.written, entry.bytes.size()) +
+                         entry.bytes;
+    return fmt::format("{}Sum={:x}\n", kFirstLine, checkSumOf(checked)) + checked;
+}
+
+JournalEntry decodeJournal(std::string_view bytes) {
+    JournalReader reader(bytes);
+    const auto sum = reader.number<std::uint64_t>("Sum=", 16);
+    const bool asWritten = checkSumOf(reader.rest()) == sum;
+    JournalEntry entry;
+    entry.project = reader.text("Project=");
+    entry.component = reader.text("Component=");
+    entry.type = reader.number<int>("Type=");
+    entry.file = reader.text("File=");
+    entry.base = reader.stamp("Base=");
+    entry.written = reader.number<std::int64_t>("Written=");
+    const auto size = reader.number<std::uint64_t>("Size=");
+    reader.line("");
+    if (reader.rest().size() < size) refuse(fmt::format("ends after {} of {} bytes", reader.rest().size(), size));
+    if (!asWritten || reader.rest().size() > size) refuse("is damaged: its check sum is another one");
+    entry.bytes = reader.rest();
+    return entry;
+}
+
+} // namespace host

@@ -1,0 +1,21 @@
+// Journals: any bytes are refused with a word or come back the same.
+#include "Basic/runtime_error.h"
+#include "Host/files/journal_file.h"
+#include <cstdlib>
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const std::string_view bytes(reinterpret_cast<const char*>(data), size);
+    try {
+        const auto entry = host::decodeJournal(bytes);
+        const auto again = host::decodeJournal(host::encodeJournal(entry));
+        if (again.bytes != entry.bytes || again.file != entry.file || again.project != entry.project) std::abort();
+    } catch (const basic::RuntimeError& refused) {
+        if (refused.Number != 321 || refused.Description.empty()) std::abort();
+    }
+    // what is not checked before the sum is read in any case
+    host::JournalEntry entry;
+    entry.project = entry.component = entry.file = entry.bytes = bytes;
+    const auto read = host::decodeJournal(host::encodeJournal(entry));
+    if (read.project != bytes || read.component != bytes || read.file != bytes || read.bytes != bytes) std::abort();
+    return 0;
+}

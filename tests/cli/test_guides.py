@@ -1,0 +1,65 @@
+"""The guides of the installation tell of what there is: each command, verb, control and device, and no link leads nowhere."""
+import html
+import re
+import unittest
+import urllib.parse
+
+from support import ROOT, Home
+
+DOC = ROOT / "installation/VB Toolkit/doc"
+USERS_GUIDE = DOC / "Quinloft_Users_Guide.html"
+ADD_IN_GUIDE = DOC / "Quinloft_AddIn_Guide.html"
+# What the menu keeps in its table and doesn't show: families of devices, and the download that is off for good.
+UNUSED = {"&Palm OS", "P&ocketPC", "Deploy To Design &Target", "Download Tamarik..."}
+CAPTION = re.compile(r'case k\w+String: return "([^"]+)";')
+
+
+def text_of(page):
+    plain = html.unescape(re.sub(r"<[^>]+>", "", page.read_text(encoding="utf-8")))
+    return " ".join(plain.split())
+
+
+class Guides(unittest.TestCase):
+    def missing(self, page, wanted):
+        text = text_of(page)
+        return [one for one in wanted if one not in text]
+
+    def test_the_users_guide_names_each_verb(self):
+        with Home() as home:
+            usage = home.fernwick("--help", check=True).stdout
+        verbs = re.findall(r"^  ([a-z-]+) {2,}", usage.split("Subcommands:")[1], re.M)
+        self.assertGreater(len(verbs), 10)
+        self.assertEqual(self.missing(USERS_GUIDE, [f"fernwick {verb}" for verb in verbs]), [])
+
+    def test_the_users_guide_names_each_tavlet_and_target(self):
+        tavlets = [path.stem for path in (ROOT / "installation/tavlets/classes").glob("*.toml")]
+        targets = [path.stem for path in (ROOT / "installation/targets").glob("*.toml")]
+        self.assertTrue(tavlets and targets)
+        self.assertEqual(self.missing(USERS_GUIDE, tavlets + targets), [])
+
+    def test_the_add_in_guide_names_each_command(self):
+        texts = (ROOT / "Add-in/commands/command_texts.cpp").read_text(encoding="utf-8")
+        captions = [c.replace("&", "").removesuffix("...") for c in CAPTION.findall(texts) if c not in UNUSED]
+        self.assertGreater(len(captions), 20)
+        self.assertEqual(self.missing(ADD_IN_GUIDE, captions), [])
+
+    def test_no_link_leads_nowhere(self):
+        pages = [page for page in DOC.rglob("*.html") if page.parent.name != "Quinloft_Error_Codes"]
+        self.assertIn(USERS_GUIDE, pages)
+        for page in pages:
+            for link in re.findall(r'(?:href|src)="([^"]+)"', page.read_text(encoding="utf-8")):
+                path, _, anchor = urllib.parse.unquote(link).partition("#")
+                target = page.parent / path if path else page
+                with self.subTest(page=page.name, link=link):
+                    self.assertTrue(target.is_file())
+                    if anchor:
+                        self.assertIn(f'id="{anchor}"', target.read_text(encoding="utf-8"))
+
+    def test_each_help_file_has_its_page(self):
+        files = list(DOC.glob("*.chm"))
+        self.assertGreaterEqual(len(files), 2)
+        self.assertEqual([f.name for f in files if not f.with_suffix(".html").is_file()], [])
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,249 @@
+// What the add-in does when components are added to a project and the user turns to one.
+#include "Add-in/core/connect/default_names.h"
+#include "events_world.h"
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::Not;
+
+namespace {
+
+constexpr auto kModule = vbide::vbext_ct_StdModule;
+constexpr auto kClass = vbide::vbext_ct_ClassModule;
+constexpr auto kForm = vbide::vbext_ct_VBForm;
+
+class ComponentEvents : public testing::Test, protected test::EventsWorld {
+protected:
+    ComponentEvents() {
+        targets.templates = {"", "/t/Form.frm", "/t/Module.bas", "/t/Class.cls"};
+        project = added("A");
+    }
+    std::vector<std::string> add(const std::string& name, vbide::vbext_ComponentType type,
+                                 const std::string& file = {}) {
+        project->components->fileType = type;
+        return tellAdded(component(project, name, type, file));
+    }
+    std::vector<std::string> names() const {
+        std::vector<std::string> all;
+        for (const auto& each : project->components->list) all.push_back(each->name);
+        return all;
+    }
+    test::Ref<test::TracedProject> project;
+};
+
+TEST_F(ComponentEvents, ABlankModuleMakesWayForTheTemplateWhenTheEventIsOver) {
+    EXPECT_THAT(add("Module1", kModule), ElementsAre("add file /t/Module.bas"));
+    EXPECT_THAT(names(), ElementsAre("Module1", "/t/Module.bas"));
+    EXPECT_FALSE(connection->ComponentAddGuard);
+    EXPECT_THAT(turn(), ElementsAre("remove component Module1"));
+    EXPECT_THAT(errors.seen, IsEmpty());
+}
+
+TEST_F(ComponentEvents, ABlankClassToo) {
+    EXPECT_THAT(add("Class1", kClass), ElementsAre("add file /t/Class.cls"));
+    EXPECT_FALSE(connection->ComponentAddGuard);
+}
+
+TEST_F(ComponentEvents, ATemplateUnderADefaultNameIsNotReplacedInItsTurn) {
+    project->components->added = [&, next = project->components->added](const auto& made) {
+        made->name = "Module2";
+        next(made);
+    };
+    EXPECT_THAT(add("Module1", kModule), ElementsAre("add file /t/Module.bas"));
+    EXPECT_THAT(names(), ElementsAre("Module1", "Module2"));
+}
+
+TEST_F(ComponentEvents, WithoutATemplateTheClassStays) {
+    targets.templates.classModule.clear();
+    projects.GetQLProject(project)->designTarget(nullptr);
+    EXPECT_THAT(add("Class1", kClass), IsEmpty());
+    EXPECT_THAT(turn(), IsEmpty());
+}
+
+TEST_F(ComponentEvents, AFileOfTheUsersStaysAsItIs) {
+    EXPECT_THAT(add("Module1", kModule, "/p/Module1.bas"), IsEmpty());
+    EXPECT_THAT(add("Form1", kForm, "/p/Form1.frm"), Not(Contains("add file /t/Form.frm")));
+    EXPECT_THAT(turn(), IsEmpty());
+}
+
+TEST_F(ComponentEvents, ANameOfTheUsersStays) {
+    EXPECT_THAT(add("modMain", kModule), IsEmpty());
+    EXPECT_THAT(add("Formular", kForm), Not(Contains("add file /t/Form.frm")));
+}
+
+TEST_F(ComponentEvents, TheDesignTargetIsFetchedFirst) {
+    projects.GetQLProject(project)->designTarget(nullptr);
+    EXPECT_THAT(add("Module1", kModule), ElementsAre("add file /t/Module.bas"));
+}
+
+TEST_F(ComponentEvents, AFormsTemplateKeepsItsShape) {
+    EXPECT_THAT(add("Form1", kForm), ElementsAre("add file /t/Form.frm"));
+    EXPECT_FALSE(connection->ComponentAddGuard);
+    EXPECT_THAT(turn(), ElementsAre("remove component Form1"));
+    EXPECT_THAT(errors.seen, IsEmpty()); // a shape would be given through properties, which it has none of here
+}
+
+TEST_F(ComponentEvents, WithoutATemplateTheFormGetsTheDevicesShape) {
+    targets.templates.form.clear();
+    projects.GetQLProject(project)->designTarget(nullptr);
+    add("Form1", kForm);
+    EXPECT_THAT(errors.seen, Contains("A clsDeviceConfig.SetupDefaultForm [438]")); // it was tried
+}
+
+TEST_F(ComponentEvents, AFormWithAFileOfItsOwnKeepsItsShape) {
+    add("frmMine", kForm, "/p/frmMine.frm");
+    EXPECT_THAT(errors.seen, IsEmpty());
+}
+
+TEST_F(ComponentEvents, AnOpenDesignerIsWatched) {
+    const auto form = component(project, "frmMine", kForm, "/p/frmMine.frm");
+    tellAdded(form);
+    EXPECT_FALSE(bool(connection->ControlsEventsHandler));
+    form->designerOpen = true;
+    EXPECT_THAT(tellAdded(form), Contains("sink: controls in A"));
+}
+
+TEST_F(ComponentEvents, OtherTypesAreRefusedAndRemoved) {
+    for (const auto type : {vbide::vbext_ct_VBMDIForm, vbide::vbext_ct_PropPage, vbide::vbext_ct_UserControl,
+                            vbide::vbext_ct_DocObject, vbide::vbext_ct_ActiveXDesigner}) {
+        EXPECT_THAT(add("Other", type),
+                    ElementsAre("box 48 Fernwick: This component type is not supported on Palm-1 devices",
+                                "remove component Other"))
+            << type;
+        EXPECT_THAT(names(), IsEmpty());
+    }
+}
+
+TEST_F(ComponentEvents, AForeignProjectTakesEverything) {
+    project = added("B", "none");
+    for (const auto type : {kModule, kClass, kForm, vbide::vbext_ct_UserControl})
+        EXPECT_THAT(add("Module1", type), IsEmpty()) << type;
+}
+
+TEST_F(ComponentEvents, WithoutAnActiveProjectNothingHappens) {
+    vbe->active = nullptr;
+    EXPECT_THAT(add("Module1", kModule), IsEmpty());
+    EXPECT_THAT(errors.seen, IsEmpty());
+}
+
+TEST_F(ComponentEvents, AComponentThatGoesMeanwhileIsReportedOnce) {
+    const auto module = component(project, "UserControl1", vbide::vbext_ct_UserControl);
+    loop.Post([&] { module->removed = true; });
+    EXPECT_THAT(tellAdded(module), IsEmpty());
+    EXPECT_THAT(errors.seen, ElementsAre("Connect.CompsEventsHandler_ItemAdded [40198]"));
+}
+
+TEST_F(ComponentEvents, ATemplateThatIsMissingIsReported) {
+    trace.calls = 0;
+    project->components->added = [](const auto&) { throw basic::RuntimeError(basic::kFileNotFound); };
+    add("Module1", kModule);
+    EXPECT_THAT(errors.seen, ElementsAre("Connect.CompsEventsHandler_ItemAdded [53]"));
+}
+
+// ---- selected and activated ----------------------------------------------------------------------------------------------
+
+TEST_F(ComponentEvents, TheFormThatTheUserTurnsToIsWatched) {
+    const auto form = component(project, "frmMine", kForm);
+    form->designerOpen = true;
+    vbe->events->components->ItemSelected.raise(form);
+    vbe->events->components->ItemActivated.raise(form);
+    EXPECT_THAT(trace.effects,
+                ElementsAre("sink: controls in A", "zoom frmMine", "sink: controls in A", "zoom frmMine"));
+    EXPECT_EQ(connection->SelectedForm, test::Ref<vbide::VBComponent>(form));
+}
+
+TEST_F(ComponentEvents, AClosedDesignerIsNotWatched) {
+    const auto form = component(project, "frmMine", kForm);
+    vbe->events->components->ItemSelected.raise(form);
+    vbe->events->components->ItemActivated.raise(form);
+    EXPECT_THAT(trace.effects, ElementsAre("zoom frmMine", "zoom frmMine"));
+}
+
+TEST_F(ComponentEvents, ModulesAndForeignFormsAreNotFollowed) {
+    const auto module = component(project, "modMine", kModule);
+    vbe->events->components->ItemSelected.raise(module);
+    vbe->events->components->ItemActivated.raise(module);
+    const auto form = component(added("B", "none"), "frmMine", kForm);
+    vbe->events->components->ItemSelected.raise(form);
+    vbe->events->components->ItemActivated.raise(form);
+    EXPECT_THAT(trace.effects, IsEmpty());
+}
+
+TEST_F(ComponentEvents, AnErrorOfASelectedDesignerIsReportedUnlessTheHostHasNoneYet) {
+    const auto form = component(project, "frmMine", kForm);
+    form->designerOpen = true;
+    form->vbe = nullptr;
+    vbe->events->components->ItemSelected.raise(form);
+    EXPECT_THAT(errors.seen, ElementsAre("Connect.CompsEventsHandler_ItemSelected [91]"));
+    form->vbe = vbe;
+    vbe->events->refused = basic::kInvalidProcedureCall;
+    vbe->events->components->ItemSelected.raise(form);
+    EXPECT_EQ(errors.seen.size(), 1u);
+    vbe->events->components->ItemActivated.raise(form);
+    EXPECT_EQ(errors.seen.back(), "Connect.CompsEventsHandler_ItemActivated [5]");
+}
+
+TEST_F(ComponentEvents, ARenamedComponentAndAnAddedReferenceChangeNothing) {
+    vbe->events->components->ItemRenamed.raise(component(project, "modMine", kModule), "Module1");
+    vbe->events->references->ItemAdded.raise(nullptr);
+    EXPECT_THAT(trace.effects, IsEmpty());
+    EXPECT_THAT(errors.seen, IsEmpty());
+}
+
+// ---- names ---------------------------------------------------------------------------------------------------------------
+
+TEST_F(ComponentEvents, DefaultNamesAreAWordAndANumber) {
+    const auto named = [&](const std::string& name, vbide::vbext_ComponentType type) {
+        return basic::make<test::TracedComponent>(trace, name, "", type);
+    };
+    using namespace fernwick;
+    for (const auto* name : {"Form1", "FORM20", "form3"}) EXPECT_TRUE(IsDefaultFormName(*named(name, kForm).shared()));
+    for (const auto* name : {"Form", "Formula", "Form1a", "frm1", "Form_1", "MyForm1"})
+        EXPECT_FALSE(IsDefaultFormName(*named(name, kForm).shared())) << name;
+    EXPECT_TRUE(IsDefaultModuleName(*named("Module1", kModule).shared()));
+    EXPECT_FALSE(IsDefaultModuleName(*named("Module", kModule).shared()));
+    EXPECT_TRUE(IsDefaultClassName(*named("Class12", kClass).shared()));
+    EXPECT_FALSE(IsDefaultClassName(*named("Classes", kClass).shared()));
+    EXPECT_FALSE(IsDefaultFormName(*named("Form1", kModule).shared()));
+    EXPECT_FALSE(IsDefaultModuleName(*named("Module1", kClass).shared()));
+    EXPECT_FALSE(IsDefaultClassName(*named("Class1", kForm).shared()));
+}
+
+/// Each of the calls fails once: at most one report.
+class FailingComponentEvents : public ComponentEvents {
+protected:
+    template <class Raise>
+    void sweep(const std::string& name, vbide::vbext_ComponentType type, Raise raise) {
+        for (int failing = 1;; ++failing) {
+            project->components->list.clear();
+            const auto made = component(project, name, type);
+            made->designerOpen = true;
+            connection->ComponentAddGuard = false;
+            errors.injected = 0;
+            trace.calls = 0;
+            trace.failing = failing;
+            raise(made);
+            trace.failing = 0;
+            EXPECT_LE(errors.injected, 1) << name << failing;
+            if (trace.calls < failing) break;
+            loop.turn();
+        }
+    }
+};
+
+TEST_F(FailingComponentEvents, OfAddedComponentsCostOnlyThemselves) {
+    const auto tell = [&](const auto& made) { vbe->events->components->ItemAdded.raise(made); };
+    sweep("Module1", kModule, tell);
+    sweep("Class1", kClass, tell);
+    sweep("Form1", kForm, tell);
+    sweep("frmMine", kForm, tell);
+    sweep("UserControl1", vbide::vbext_ct_UserControl, tell);
+}
+
+TEST_F(FailingComponentEvents, OfFormsThatTheUserTurnsToCostOnlyThemselves) {
+    sweep("frmMine", kForm, [&](const auto& made) { vbe->events->components->ItemSelected.raise(made); });
+    sweep("frmMine", kForm, [&](const auto& made) { vbe->events->components->ItemActivated.raise(made); });
+}
+
+} // namespace

@@ -1,0 +1,136 @@
+// What handlers pass on to dialogs, how they look on whom the user chose, and where their failures show.
+#include "connect_world.h"
+#include "whole_world.h"
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+namespace {
+
+constexpr char kQuestion[] = "box 68 No devices selected: To continue with this option, you must first select which "
+                             "devices will be used. Continue and select devices?";
+
+/// Handlers over dialogs that only tell that they were called.
+class Dispatch : public testing::Test, protected test::ConnectWorld {
+protected:
+    Dispatch() { targets.known = {"Palm-1"}; }
+    /// A click on the item of a sink.
+    std::vector<std::string> click(fernwick::Command& sink) {
+        const auto clicked = item("clicked");
+        sink = vbe->Events()->CommandBarEvents(clicked);
+        trace.effects.clear();
+        bool handled = false, cancel = false;
+        sink.source()->Click.raise(clicked, handled, cancel);
+        EXPECT_FALSE(handled);
+        EXPECT_FALSE(cancel);
+        return trace.effects;
+    }
+};
+
+TEST_F(Dispatch, TheSettingsChooseTheirPageThemselves) {
+    LifecycleWorld::open("A", "Palm-1");
+    EXPECT_THAT(click(connection->QuinloftSettingsHandler), ElementsAre("cursor 11", "settings INVALID DIALOG NAME"));
+    EXPECT_THAT(click(connection->ToolQuinloftSettingsHandler),
+                ElementsAre("cursor 11", "settings INVALID DIALOG NAME"));
+}
+
+TEST_F(Dispatch, WithoutDevicesTheSettingsOpenOnTheirPage) {
+    LifecycleWorld::open("A", "Palm-1");
+    for (auto* all :
+         {&connection->DeployAllDevices, &connection->MakePackageAllDevices, &connection->InstallVMAllDevices}) {
+        user.answers = {fernwick::vbYes, fernwick::vbNo};
+        EXPECT_THAT(click(*all), ElementsAre(kQuestion, "cursor 11", "settings My Devices", kQuestion));
+    }
+}
+
+TEST_F(Dispatch, DevicesThatAreChosenThereAreServed) {
+    LifecycleWorld::open("A", "Palm-1");
+    user.answers = {fernwick::vbYes};
+    commands.inSettings = [this] { prefs.gMyDevices = {"Palm-1", "Palm-1"}; };
+    const auto effects = click(connection->InstallVMAllDevices);
+    EXPECT_EQ(std::count(effects.begin(), effects.end(), kQuestion), 1);
+    EXPECT_EQ(std::count(effects.begin(), effects.end(), "form frmSendRuntimeToDevice"), 2);
+}
+
+TEST_F(Dispatch, TheIntroductionIsAskedFor) {
+    EXPECT_THAT(click(connection->SampleIntroHandler), ElementsAre("introduction"));
+}
+
+class FailingDispatch : public testing::Test, protected test::WholeWorld {
+protected:
+    /// The report of a click whose call of that number fails.
+    std::string reportOf(const Control& control, int failing) {
+        trace.calls = 0;
+        trace.failing = failing;
+        const auto seen = click(control);
+        trace.failing = 0;
+        return seen.empty() ? "" : seen.back();
+    }
+    static std::string in(const std::string& location) { return "An Error Has Occurred in " + location + " ("; }
+};
+
+TEST_F(FailingDispatch, UtilitiesReportUnderTheirNamesButTheDatabaseViewer) {
+    connect();
+    shell.hasPrograms = false;
+    const auto& all = items();
+    const std::vector<std::pair<Control, std::string>> utilities{
+        {all.gDatabaseConverterItem, "MenuDatabaseConverterHandler"},
+        {all.gDatabaseViewerItem, "MenuDatabaseConverterHandler"},
+        {all.gFontConverterItem, "MenuFontConverterHandler"},
+        {all.gFontViewerItem, "MenuFontViewerHandler"},
+        {all.gGraphicsConverterItem, "MenuGraphicsConverterHandler"},
+        {all.gGraphicsViewerItem, "MenuGraphicsViewerHandler"},
+        {all.gMovieConverterItem, "MenuMovieConverterHandler"},
+        {all.gMovieViewerItem, "MenuMovieViewerHandler"},
+        {all.gWeirgateItem, "MenuWeirgateHandler"},
+        {all.gToolDatabaseConverter, "ToolDatabaseConverterHandler"},
+        {all.gToolDatabaseViewer, "MenuDatabaseConverterHandler"},
+        {all.gToolFontConverter, "ToolFontConverterHandler"},
+        {all.gToolFontViewer, "ToolFontViewerHandler"},
+        {all.gToolGraphicsConverter, "ToolGraphicsConverterHandler"},
+        {all.gToolGraphicsViewer, "ToolGraphicsViewerHandler"},
+        {all.gToolMovieConverter, "ToolMovieConverterHandler"},
+        {all.gToolMovieViewer, "ToolMovieViewerHandler"},
+        {all.gToolWGConfig, "ToolWGConfigHandler"}};
+    constexpr int kBox = 3; // after the start that failed and its report
+    for (const auto& [control, handler] : utilities)
+        EXPECT_THAT(reportOf(control, kBox), HasSubstr(in("Connect." + handler + "_Click"))) << handler;
+}
+
+TEST_F(FailingDispatch, WhatCantBeOpenedIsReported) {
+    connect();
+    host.folder.write("install/VB Toolkit/Samples/readme.txt", "");
+    host.folder.write("install/VB Toolkit/doc/Quinloft_Users_Guide.chm", "");
+    EXPECT_THAT(reportOf(items().gWebItem, 1), HasSubstr(in("Connect.AddinOnlineHelpHandler_Click")));
+    EXPECT_THAT(reportOf(items().gSampleHelloItem, 1), HasSubstr(in("Connect.SampleHelloWorldHandler_Click")));
+    EXPECT_THAT(reportOf(items().gSampleDirItem, 1), HasSubstr(in("Connect.SampleOpenSampleDirHandler_Click")));
+    EXPECT_THAT(reportOf(items().gGuideItem, 1), HasSubstr(in("modHelpManagement.DisplayHelp")));
+    EXPECT_THAT(reportOf(items().gAboutItem, 1), HasSubstr(in("Connect.AboutHandler_Click")));
+    EXPECT_THAT(reportOf(items().gSampleIntroItem, 1), HasSubstr(in("Connect.SampleIntroHandler_Click")));
+    user.whenShown["frmAbout"] = [](fernwick::Form& form) {
+        dynamic_cast<fernwick::frmAbout&>(form).lblWebAddress.Click.raise();
+    };
+    EXPECT_THAT(reportOf(items().gAboutItem, 2), HasSubstr(in("frmAbout.lblWebAddress_Click")));
+    EXPECT_THAT(host.failures, IsEmpty());
+}
+
+TEST_F(FailingDispatch, TheDownloadHasNoTrap) {
+    connect();
+    items().gDownloadItem->Enabled(true);
+    user.answers = {fernwick::vbOK};
+    reportOf(items().gDownloadItem, 2);
+    ASSERT_EQ(host.failures.size(), 1U);
+    EXPECT_EQ(host.failures[0].Number, test::kInjected);
+}
+
+TEST_F(FailingDispatch, ADeviceItemIsNotAskedWhetherThereIsAProject) {
+    connect();
+    for (const auto& control : {items().gDeployItems[0], items().gPackageItems[0]}) {
+        control->Enabled(true); // a disabled item would keep this from running
+        click(control);
+    }
+    EXPECT_THAT(trace.effects, testing::Contains(HasSubstr(in("modProjectHandler.GetQLProject"))));
+}
+
+} // namespace

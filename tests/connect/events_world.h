@@ -1,0 +1,75 @@
+#pragma once
+// The add-in connected at the desktop, and the events of a host in memory, raised one by one.
+#include "connect_world.h"
+
+namespace test {
+
+struct EventsWorld : ConnectWorld {
+    EventsWorld() {
+        targets.known = {"Palm-1"};
+        connect(vbide::vbext_cm_Startup);
+        trace.effects.clear();
+    }
+    ~EventsWorld() {
+        for (const auto& component : ofHost_) component->vbe = nullptr;
+    }
+    /// A project that the host has taken in and is about to tell of. It is this system's own unless its device is
+    /// "none".
+    Ref<TracedProject> opened(const std::string& name, const std::string& device = "Palm-1") {
+        const auto project = LifecycleWorld::open(name, device);
+        projects.RemoveFromProjectsList(project);
+        set(project, "TwipsPerPixelX", "15");
+        set(project, "TwipsPerPixelY", "15");
+        project->components->added = [this](const auto& component) {
+            take(component);
+            vbe->events->components->ItemAdded.raise(component);
+        };
+        trace.effects.clear();
+        return project;
+    }
+    /// What came of the event.
+    std::vector<std::string> tellAdded(const Ref<TracedProject>& project) {
+        trace.effects.clear();
+        vbe->events->projects->ItemAdded.raise(project);
+        return trace.effects;
+    }
+    std::vector<std::string> tellRemoved(const Ref<TracedProject>& project) {
+        trace.effects.clear();
+        vbe->events->projects->ItemRemoved.raise(project);
+        return trace.effects;
+    }
+    /// A project that the add-in has taken up.
+    Ref<TracedProject> added(const std::string& name, const std::string& device = "Palm-1") {
+        const auto project = opened(name, device);
+        tellAdded(project);
+        trace.effects.clear();
+        return project;
+    }
+    /// A component that the host has put into the project and is about to tell of.
+    Ref<TracedComponent> component(const Ref<TracedProject>& project, const std::string& name,
+                                   vbide::vbext_ComponentType type, const std::string& file = {}) {
+        const auto made = project->add(name, file, type);
+        take(made);
+        return made;
+    }
+    std::vector<std::string> tellAdded(const Ref<TracedComponent>& component) {
+        trace.effects.clear();
+        vbe->events->components->ItemAdded.raise(component);
+        return trace.effects;
+    }
+    std::vector<std::string> turn() {
+        trace.effects.clear();
+        loop.turn();
+        return trace.effects;
+    }
+
+private:
+    void take(const Ref<TracedComponent>& component) {
+        component->vbe = vbe;
+        ofHost_.push_back(component);
+    }
+    /// They hold the host that holds them.
+    std::vector<Ref<TracedComponent>> ofHost_;
+};
+
+} // namespace test

@@ -1,0 +1,445 @@
+// What the add-in does when the host tells of its projects.
+#include "events_world.h"
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::Not;
+
+namespace {
+
+using Effects = std::vector<std::string>;
+
+constexpr char kStub[] = "{8A515BDE-2BCC-4ed4-8F0A-99E4522CC1BB}";
+constexpr char kTargetsOwn[] = "/install/VB Toolkit/Template/Projects/Palm.vbp";
+
+class ProjectEvents : public testing::Test, protected test::EventsWorld {
+protected:
+    /// A blank project in the host's template folder.
+    test::Ref<test::TracedProject> fromTemplate(const std::string& device = "") {
+        const auto project = opened("Project1", device);
+        project->file = "/vb/Template/Projects/Fernwick Project.vbp";
+        return project;
+    }
+    bool watches(const test::Ref<test::TracedProject>& project) const {
+        return did("sink: components of " + project->name);
+    }
+};
+
+TEST_F(ProjectEvents, AProjectIsTakenUpInOrder) {
+    EXPECT_THAT(tellAdded(opened("A")),
+                ElementsAre("sink: files of A", "enable menu", "enable toolbar", "enable support toolbar",
+                            "init zoom window", "Fernwick Messages hidden", "default target Palm-1",
+                            "environment TavletStyle-DAF573D9-3AB3-4672-A6A7-6C23862A52E9", "cursor 1",
+                            "sink: files of A", "sink: components of A", "sink: references of A", "restore toolbars"));
+    EXPECT_TRUE(projects.GetQLProject(vbe->active));
+    EXPECT_THAT(errors.seen, IsEmpty());
+}
+
+TEST_F(ProjectEvents, AForeignProjectIsListedAndNotWatched) {
+    const auto project = opened("A", "none");
+    EXPECT_THAT(tellAdded(project), ElementsAre("sink: files of A", "disable menu", "disable toolbar",
+                                                "disable support toolbar", "Fernwick Messages hidden", "cursor 1"));
+    EXPECT_TRUE(projects.FindQLProject(project));
+}
+
+TEST_F(ProjectEvents, NothingIsNoProject) {
+    vbe->events->projects->ItemAdded.raise(nullptr);
+    EXPECT_THAT(trace.effects, ElementsAre("sink: all files"));
+    EXPECT_THAT(errors.seen, IsEmpty());
+}
+
+TEST_F(ProjectEvents, ASecondProjectOfTheSameNameIsReported) {
+    added("A");
+    added("A");
+    EXPECT_THAT(errors.seen, ElementsAre("modProjectHandler.AddToProjectsList [457]"));
+}
+
+// ---- what makes a project go ---------------------------------------------------------------------------------------------
+
+TEST_F(ProjectEvents, AProjectOfTheOldFormatIsRemovedAndConverted) {
+    commands.converter = basic::make<test::TracedControl>(trace, "host: import");
+    const auto project = opened("A");
+    set(project, "ProjectVersion", "1.0");
+    project->dirty = true;
+    EXPECT_THAT(tellAdded(project), ElementsAre("sink: files of A", "A dirty 0"));
+    EXPECT_THAT(openNames(), ElementsAre("A"));
+    EXPECT_THAT(turn(), ElementsAre("active A", "host: remove project", "host: import"));
+}
+
+TEST_F(ProjectEvents, TheStubOpensTheProjectManagerAndGoesAway) {
+    const auto stub = opened("Stub", "");
+    set(stub, "StartUpProject", kStub);
+    EXPECT_THAT(tellAdded(stub), ElementsAre("sink: files of Stub", "project manager stands"));
+    EXPECT_THAT(openNames(), ElementsAre("Stub"));
+    EXPECT_THAT(turn(), ElementsAre("active Stub", "host: remove project"));
+}
+
+TEST_F(ProjectEvents, WhatTheProjectManagerOpensInTheStubsPlaceGetsItsTemplate) {
+    targets.templates.project = kTargetsOwn;
+    const auto stub = opened("Stub", "");
+    set(stub, "StartUpProject", kStub);
+    commands.inProjectManager = [&] {
+        vbe->removeActive();
+        vbe->events->projects->ItemAdded.raise(fromTemplate());
+    };
+    tellAdded(stub);
+    EXPECT_THAT(turn(), Contains(std::string("open ") + kTargetsOwn + " alone"));
+    EXPECT_THAT(errors.seen, IsEmpty());
+}
+
+TEST_F(ProjectEvents, AProjectWithoutADeviceGoes) {
+    targets.known = {"Palm-1", "Pocket-1"};
+    EXPECT_THAT(tellAdded(opened("A", "")), Contains("form frmDesignTargetNormal")); // cancelled
+    EXPECT_EQ(trace.effects.back(), "restore toolbars");
+    EXPECT_THAT(turn(), ElementsAre("active A", "host: remove project"));
+}
+
+class UnknownDevice : public ProjectEvents {
+protected:
+    /// The steps from the question on.
+    Effects decide(const fernwick::UnknownDeviceChoice& choice) {
+        commands.unknownDevice = choice;
+        auto effects = tellAdded(opened("A", "Gone-9"));
+        effects.erase(effects.begin(), std::find(effects.begin(), effects.end(), "unknown device of A"));
+        return effects;
+    }
+};
+
+TEST_F(UnknownDevice, OfAProjectThatTheUserAcceptsIsWatched) {
+    EXPECT_THAT(decide({true, ""}), ElementsAre("unknown device of A", "sink: components of A", "sink: references of A",
+                                                "restore toolbars"));
+    EXPECT_THAT(openNames(), ElementsAre("A"));
+}
+
+TEST_F(UnknownDevice, AnotherProjectTakesItsPlace) {
+    EXPECT_THAT(decide({false, "/p/B.vbp"}), ElementsAre("unknown device of A", "A dirty 0", "host: remove project",
+                                                         "open /p/B.vbp alone", "restore toolbars"));
+    EXPECT_THAT(openNames(), ElementsAre("/p/B.vbp"));
+}
+
+TEST_F(UnknownDevice, TheProjectIsClosedAgain) {
+    EXPECT_THAT(decide({false, ""}),
+                ElementsAre("unknown device of A", "A dirty 0", "host: remove project", "restore toolbars"));
+    EXPECT_THAT(openNames(), IsEmpty());
+}
+
+TEST_F(UnknownDevice, WithoutTargetsNobodyIsAsked) {
+    targets.known = {};
+    loop.timersAreDue = false;
+    EXPECT_THAT(tellAdded(opened("A", "Gone-9")), Not(Contains("unknown device of A")));
+    loop.timersAreDue = true;
+    EXPECT_THAT(turn(), ElementsAre("active A", "host: remove project")); // as the set-up asked
+}
+
+TEST_F(UnknownDevice, TheProjectMayBeRemovedWhileTheHostRuns) {
+    targets.known = {};
+    EXPECT_THAT(tellAdded(opened("A", "Gone-9")), Contains("host: remove project"));
+    EXPECT_EQ(trace.effects.back(), "restore toolbars");
+    EXPECT_THAT(openNames(), IsEmpty());
+    EXPECT_THAT(errors.seen, IsEmpty());
+}
+
+// ---- templates -----------------------------------------------------------------------------------------------------------
+
+TEST_F(ProjectEvents, TheHostsTemplateMakesWayForTheTargets) {
+    targets.templates.project = kTargetsOwn;
+    const auto project = fromTemplate();
+    tellAdded(project);
+    EXPECT_TRUE(connection->TemplateReloadPending);
+    EXPECT_EQ(trace.effects.back(), "restore toolbars");
+    EXPECT_FALSE(did("add component 5"));
+    EXPECT_THAT(turn(), ElementsAre("Project1 dirty 0", "active Project1", "host: remove project",
+                                    std::string("open ") + kTargetsOwn + " alone"));
+}
+
+TEST_F(ProjectEvents, TheReloadedTemplateIsSetUpAndGetsItsFirstForm) {
+    targets.templates.project = kTargetsOwn;
+    targets.knows.required = {"{CA647498-D486-4FC0-841B-DA55C9A0F114}"};
+    connection->TemplateReloadPending = true;
+    const auto project = fromTemplate("Palm-1");
+    files.files["/vb/Template/Projects/modBase.bas"] = {};
+    component(project, "modBase", vbide::vbext_ct_StdModule, "/vb/Template/Projects/modBase.bas")->dirty = true;
+    const auto effects = tellAdded(project);
+    EXPECT_FALSE(connection->TemplateReloadPending);
+    const Effects order{"OpenedFromQLTemplate=True",
+                        "modBase saved /vb/Template/Projects/modBase.bas",
+                        "TargetDevice=Palm-1",
+                        "reference {CA647498-D486-4FC0-841B-DA55C9A0F114}",
+                        "default target Palm-1",
+                        "add component 5",
+                        "start up New2",
+                        "restore toolbars"};
+    auto at = std::find(effects.begin(), effects.end(), "sink: references of Project1");
+    for (const auto& step : order) {
+        at = std::find(at, effects.end(), step);
+        EXPECT_NE(at, effects.end()) << step;
+    }
+    EXPECT_THAT(effects, Not(Contains("Project1 saved " + project->file)));
+    EXPECT_FALSE(loop.hasTimers());
+}
+
+TEST_F(ProjectEvents, AReloadedTemplateIsNotReloadedAgain) {
+    targets.templates.project = kTargetsOwn;
+    connection->TemplateReloadPending = true;
+    EXPECT_THAT(tellAdded(fromTemplate()), Contains("add component 5")); // its device is the only one there is
+    EXPECT_FALSE(loop.hasTimers());
+}
+
+TEST_F(ProjectEvents, WithoutATemplateOfTheTargetTheHostsOwnStays) {
+    const auto project = fromTemplate();
+    EXPECT_THAT(tellAdded(project), Contains("add component 5"));
+    EXPECT_EQ(project->components->startUp.component, project->components->list.front());
+    EXPECT_EQ(project->stored("OpenedFromQLTemplate"), "(none)");
+    EXPECT_FALSE(loop.hasTimers());
+}
+
+TEST_F(ProjectEvents, TheTemplateOfAFormIsWhatTheProjectStartsWith) {
+    targets.templates.form = "/install/Form.frm";
+    const auto project = fromTemplate();
+    project->components->fileType = vbide::vbext_ct_VBForm;
+    project->components->added = [&, next = project->components->added](const auto& made) {
+        if (made->name == "New1") made->name = "Form1";
+        next(made);
+    };
+    EXPECT_THAT(tellAdded(project), Contains("start up /install/Form.frm"));
+    EXPECT_THAT(turn(), ElementsAre("remove component Form1"));
+}
+
+TEST_F(ProjectEvents, AProjectThatHasComponentsIsNoNewOne) {
+    targets.templates.project = kTargetsOwn;
+    const auto project = fromTemplate("Palm-1");
+    component(project, "Form1", vbide::vbext_ct_VBForm);
+    EXPECT_THAT(tellAdded(project), Not(Contains("add component 5")));
+    EXPECT_FALSE(loop.hasTimers());
+}
+
+TEST_F(ProjectEvents, AnEmptyProjectOfTheUsersStaysEmpty) {
+    EXPECT_THAT(tellAdded(opened("A")), Not(Contains("add component 5")));
+}
+
+// ---- closing, renaming, activating ---------------------------------------------------------------------------------------
+
+TEST_F(ProjectEvents, AClosingKeepsWhatIsUnsaved) {
+    const auto project = added("A");
+    opened("B");
+    project->dirty = true;
+    messages.showToolWindow();
+    EXPECT_THAT(tellRemoved(project), ElementsAre("Visible=TRUE", "A saved /p/A.vbp", "A dirty 0", "recent A",
+                                                  "save toolbars", "save zoom window"));
+    EXPECT_FALSE(projects.FindQLProject(project));
+}
+
+TEST_F(ProjectEvents, AClosingOfASavedProjectSavesNothing) {
+    const auto project = added("A");
+    opened("B");
+    messages.showToolWindow();
+    EXPECT_THAT(tellRemoved(project), ElementsAre("recent A", "save toolbars", "save zoom window"));
+}
+
+TEST_F(ProjectEvents, WhatNoDeviceServesIsNotSavedAtItsClosing) {
+    commands.unknownDevice = {true, ""};
+    const auto project = added("A", "Gone-9");
+    opened("B");
+    project->dirty = true;
+    EXPECT_THAT(tellRemoved(project), ElementsAre("recent A", "save toolbars", "save zoom window"));
+}
+
+TEST_F(ProjectEvents, ATemplateIsNotRemembered) {
+    const auto project = added("A");
+    opened("B");
+    project->file = "/vb/Template/Projects/Fernwick Project.vbp";
+    EXPECT_THAT(tellRemoved(project), ElementsAre("save toolbars", "save zoom window"));
+}
+
+TEST_F(ProjectEvents, OfTheStubNothingIsKept) {
+    const auto project = added("A");
+    opened("B");
+    set(project, "StartUpProject", kStub);
+    EXPECT_THAT(tellRemoved(project), IsEmpty());
+}
+
+TEST_F(ProjectEvents, OfTheOldFormatAndOfForeignProjectsNothingIsKept) {
+    const auto old = added("A"), foreign = added("B", "none");
+    set(old, "ProjectVersion", "1.0");
+    old->dirty = foreign->dirty = true;
+    EXPECT_THAT(tellRemoved(old), IsEmpty());
+    EXPECT_THAT(tellRemoved(foreign), IsEmpty());
+    EXPECT_FALSE(projects.FindQLProject(old) || projects.FindQLProject(foreign));
+}
+
+TEST_F(ProjectEvents, TheLastClosingSwitchesTheInterfaceOff) {
+    const auto project = added("A", "none");
+    messages.showToolWindow();
+    EXPECT_THAT(tellRemoved(project),
+                ElementsAre("disable menu", "disable toolbar", "disable support toolbar", "Fernwick Messages hidden"));
+}
+
+TEST_F(ProjectEvents, ACommandLineKeepsNothingOfTheDesktop) {
+    const auto project = added("A");
+    opened("B");
+    addIn.gConnectMode = vbide::vbext_cm_CommandLine;
+    project->dirty = true;
+    EXPECT_THAT(tellRemoved(project), ElementsAre("A saved /p/A.vbp", "A dirty 0"));
+}
+
+TEST_F(ProjectEvents, AProjectThatWasNeverMetClosesWithoutAWord) {
+    opened("B");
+    EXPECT_THAT(tellRemoved(opened("A")), IsEmpty());
+    EXPECT_THAT(errors.seen, IsEmpty());
+}
+
+TEST_F(ProjectEvents, ANewNameMakesAnotherDependency) {
+    const auto project = added("A");
+    project->name = "B";
+    vbe->events->projects->ItemRenamed.raise(project, "A");
+    EXPECT_TRUE(projects.GetQLProject(project));
+    EXPECT_EQ(project->stored("MODID").size(), 36u);
+    EXPECT_THAT(errors.seen, IsEmpty());
+}
+
+TEST_F(ProjectEvents, AFirstNameAndAStrangersNameChangeNothing) {
+    const auto project = added("A"), stranger = opened("S");
+    vbe->events->projects->ItemRenamed.raise(project, "");
+    vbe->events->projects->ItemRenamed.raise(stranger, "T");
+    EXPECT_EQ(project->stored("MODID"), "(none)");
+    EXPECT_THAT(errors.seen, IsEmpty());
+}
+
+TEST_F(ProjectEvents, AnActivatedProjectIsSetUpAndWatched) {
+    const auto first = added("A"), second = added("B", "none");
+    trace.effects.clear();
+    vbe->events->projects->ItemActivated.raise(first);
+    EXPECT_EQ(trace.effects.front(), "sink: files of A");
+    EXPECT_TRUE(did("enable menu"));
+    EXPECT_EQ(trace.effects.back(), "sink: references of A");
+    trace.effects.clear();
+    vbe->events->projects->ItemActivated.raise(second);
+    EXPECT_TRUE(did("disable menu"));
+    EXPECT_FALSE(watches(second));
+}
+
+TEST_F(ProjectEvents, AnActivatedProjectThatWasNeverMetIsLeftAlone) {
+    vbe->events->projects->ItemActivated.raise(opened("A"));
+    EXPECT_THAT(trace.effects, ElementsAre("sink: files of A"));
+    EXPECT_THAT(errors.seen, IsEmpty());
+}
+
+TEST_F(ProjectEvents, LeavingAProjectThatHasGoneIsNoError) {
+    added("Other");
+    const auto gone = added("A"), next = added("B");
+    vbe->events->projects->ItemActivated.raise(gone);
+    tellRemoved(gone);
+    std::erase(vbe->projects->list, gone);
+    gone->removed = true;
+    vbe->events->projects->ItemActivated.raise(next);
+    EXPECT_THAT(errors.seen, IsEmpty());
+}
+
+// ---- build ---------------------------------------------------------------------------------------------------------------
+
+TEST_F(ProjectEvents, TheToolbarsRestWhileAProjectRuns) {
+    added("A");
+    vbe->events->build->EnterRunMode.raise();
+    vbe->events->build->EnterDesignMode.raise();
+    EXPECT_THAT(trace.effects,
+                ElementsAre("disable toolbar", "disable support toolbar", "enable toolbar", "enable support toolbar"));
+}
+
+TEST_F(ProjectEvents, ARunOfAForeignProjectIsNoneOfOurs) {
+    vbe->events->build->EnterRunMode.raise();
+    added("A", "none");
+    vbe->events->build->EnterRunMode.raise();
+    vbe->events->build->EnterDesignMode.raise();
+    EXPECT_THAT(trace.effects, IsEmpty());
+}
+
+// ---- failures ------------------------------------------------------------------------------------------------------------
+
+/// What each failing call of an event costs: at most one report, and a few of the steps.
+class FailingEvents : public ProjectEvents {
+protected:
+    template <class Prepare, class Raise>
+    void sweep(Prepare prepare, Raise raise, const std::string& last) {
+        prepare();
+        trace.effects.clear();
+        raise();
+        const auto baseline = trace.effects;
+        for (int failing = 1;; ++failing) {
+            prepare();
+            errors.injected = 0;
+            trace.effects.clear();
+            trace.calls = 0;
+            trace.failing = failing;
+            raise();
+            trace.failing = 0;
+            if (trace.calls < failing) break;
+            EXPECT_LE(errors.injected, 1) << failing;
+            // where nothing was reported, a setting could not be read and has its default: another kind of project
+            EXPECT_TRUE(did(last) || errors.injected == 0 || test::lost(baseline, trace.effects) == Effects{last})
+                << failing;
+        }
+    }
+    void startOver() {
+        vbe->projects->list.clear();
+        projects.ClearProjectsList();
+        removal.Unload();
+        removal.Load();
+        connection->TemplateReloadPending = connection->ComponentAddGuard = false;
+    }
+};
+
+TEST_F(FailingEvents, OfAnAddedProjectCostOnlyThemselves) {
+    test::Ref<test::TracedProject> project;
+    sweep(
+        [&] {
+            startOver();
+            project = opened("A");
+        },
+        [&] { vbe->events->projects->ItemAdded.raise(project); }, "restore toolbars");
+}
+
+TEST_F(FailingEvents, OfANewProjectCostOnlyThemselves) {
+    test::Ref<test::TracedProject> project;
+    sweep(
+        [&] {
+            startOver();
+            project = fromTemplate("Palm-1");
+            connection->TemplateReloadPending = true;
+        },
+        [&] { vbe->events->projects->ItemAdded.raise(project); }, "restore toolbars");
+}
+
+TEST_F(FailingEvents, OfAProjectThatIsTurnedAwayCostOnlyThemselves) {
+    commands.unknownDevice = {false, "/p/B.vbp"};
+    test::Ref<test::TracedProject> project;
+    sweep(
+        [&] {
+            startOver();
+            project = opened("A", "Gone-9");
+        },
+        [&] { vbe->events->projects->ItemAdded.raise(project); }, "restore toolbars");
+}
+
+TEST_F(FailingEvents, OfAnActivatedProjectCostOnlyThemselves) {
+    test::Ref<test::TracedProject> project;
+    sweep(
+        [&] {
+            startOver();
+            project = added("A");
+        },
+        [&] { vbe->events->projects->ItemActivated.raise(project); }, "sink: references of A");
+}
+
+TEST_F(FailingEvents, OfARemovedProjectCostOnlyThemselves) {
+    test::Ref<test::TracedProject> project;
+    sweep(
+        [&] {
+            startOver();
+            project = added("A");
+            project->dirty = true;
+        },
+        [&] { vbe->events->projects->ItemRemoved.raise(project); }, "disable support toolbar");
+}
+
+} // namespace

@@ -1,0 +1,92 @@
+#include "Host/files/journal_file.h"
+#include "tests/support/errors.h"
+#include <gmock/gmock.h>
+
+using host::decodeJournal;
+using host::encodeJournal;
+using test::errorOf;
+
+namespace {
+
+host::JournalEntry sampleEntry() {
+    host::JournalEntry entry;
+    entry.project = "/home/a b/Hello.vbp";
+    entry.component = "modA";
+    entry.type = 1;
+    entry.file = "/home/a b/modA.bas";
+    entry.base = host::FileStamp{1, 2, 3, -4, 5, 0xffffffffffffffffU};
+    entry.written = 1700000000;
+    entry.bytes = "Attribute VB_Name = \"modA\"\r\n' caf\xe9 \0 end";
+    return entry;
+}
+
+std::string whyRefused(const std::string& bytes) {
+    const auto error = basic::attempt([&] { decodeJournal(bytes); });
+    EXPECT_EQ(error.Number, 321) << bytes;
+    return error.Description;
+}
+
+} // namespace
+
+TEST(JournalFile, ComesBackAsItWas) {
+    const auto entry = sampleEntry();
+    const auto read = decodeJournal(encodeJournal(entry));
+    EXPECT_EQ(read.project, entry.project);
+    EXPECT_EQ(read.component, entry.component);
+    EXPECT_EQ(read.type, 1);
+    EXPECT_EQ(read.file, entry.file);
+    ASSERT_TRUE(read.base);
+    EXPECT_TRUE(read.base->sameFileState(*entry.base));
+    EXPECT_EQ(read.base->digest, entry.base->digest);
+    EXPECT_EQ(read.written, entry.written);
+    EXPECT_EQ(read.bytes, entry.bytes);
+}
+
+TEST(JournalFile, AComponentWithoutAFileHasNoBase) {
+    auto entry = sampleEntry();
+    entry.project = entry.file = entry.bytes = "";
+    entry.base.reset();
+    const auto read = decodeJournal(encodeJournal(entry));
+    EXPECT_EQ(read.project + read.file + read.bytes, "");
+    EXPECT_FALSE(read.base);
+}
+
+TEST(JournalFile, NamesMayHoldAnyCharacter) {
+    auto entry = sampleEntry();
+    entry.file = "/odd\nname\\n and \\ \r\xff/x.bas\\";
+    EXPECT_EQ(decodeJournal(encodeJournal(entry)).file, entry.file);
+}
+
+TEST(JournalFile, TellsWhatIsWrongWithOtherBytes) {
+    const auto whole = encodeJournal(sampleEntry());
+    const auto with = [&](const std::string& part, const std::string& other) {
+        auto bytes = whole;
+        return bytes.replace(bytes.find(part), part.size(), other);
+    };
+    using testing::HasSubstr;
+    EXPECT_THAT(whyRefused(""), HasSubstr("no journal"));
+    EXPECT_THAT(whyRefused("Attribute VB_Name = \"modA\"\r\n"), HasSubstr("no journal"));
+    EXPECT_THAT(whyRefused(with("journal 1", "journal 2")), HasSubstr("no journal of this version"));
+    EXPECT_THAT(whyRefused(with("Component=", "Component:")), HasSubstr("lacks its line Component="));
+    EXPECT_THAT(whyRefused(with("Type=1", "Type=x")), HasSubstr("number"));
+    EXPECT_THAT(whyRefused(with("Type=1\n", "Type=1x\n")), HasSubstr("no number"));
+    EXPECT_THAT(whyRefused(with("Base=1 2", "Base=1")), HasSubstr("number"));
+    EXPECT_THAT(whyRefused(with("Written=17", "Written=99999999999999999999")), HasSubstr("number"));
+    EXPECT_THAT(whyRefused(with("caf", "kaf")), HasSubstr("check sum"));
+    EXPECT_THAT(whyRefused(with("Hello", "Other")), HasSubstr("check sum"));
+    EXPECT_THAT(whyRefused(whole + "x"), HasSubstr("check sum"));
+    EXPECT_THAT(whyRefused(whole.substr(0, whole.size() - 5)), HasSubstr("ends after"));
+}
+
+/// A power failure may leave any beginning of it, and any byte may be another one.
+TEST(JournalFile, NoDamageIsTakenForTheText) {
+    const auto whole = encodeJournal(sampleEntry());
+    for (std::size_t length = 0; length < whole.size(); ++length)
+        EXPECT_EQ(errorOf([&] { decodeJournal(whole.substr(0, length)); }), 321) << length;
+    for (std::size_t at = 0; at < whole.size(); ++at) {
+        auto bytes = whole;
+        bytes[at] = char(bytes[at] ^ 1);
+        const auto error = basic::attempt([&] { decodeJournal(bytes); });
+        EXPECT_EQ(error.Number, 321) << at;
+    }
+}

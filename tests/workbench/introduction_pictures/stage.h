@@ -1,0 +1,36 @@
+#pragma once
+#include "Apps/workbench/workbench.h"
+#include "tests/support/temp_folder.h"
+
+class QMenu;
+class QToolBar;
+
+namespace introduction {
+
+/// The desktop over a copy of the sample Hello World.
+class Stage {
+public:
+    Stage();
+    ~Stage();
+    Stage(const Stage&) = delete;
+
+    workbench::MainWindow& window() { return bench_.window(); }
+    void showCode();
+    void showForm();
+    /// Compiles and validates, and shows the messages.
+    void compile();
+    /// A menu of the menu bar, and where it drops down.
+    QMenu& menu(const QString& title);
+    QPoint below(QMenu& menu);
+    QToolBar& toolBar(const QString& title);
+
+private:
+    basic::Ref<vbide::VBProject> project();
+    basic::Ref<vbide::VBComponent> form();
+
+    test::TempFolder folder_;
+    QTimer answers_;
+    workbench::Workbench bench_;
+};
+
+} // namespace introduction

@@ -1,0 +1,369 @@
+// Text that was not saved outlives the program.
+#include "Apps/workbench/journal_folder.h"
+#include "Host/files/journal_file.h"
+#include "tests/workbench/open_desktop.h"
+#include <QDir>
+#include <QDirIterator>
+#include <QProcess>
+#include <csignal>
+#include <filesystem>
+
+using test::kLongestWait;
+using test::moduleText;
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+namespace {
+
+class Journals : public test::OpenDesktop {
+protected:
+    static test::SampleProject twoModules() {
+        return test::SampleProject().module("modA", "' a\r\n").module("modB", "' b\r\n");
+    }
+    static QStringList journals() {
+        QStringList paths;
+        QDirIterator all(workbench::journalBase(), {"*.journal"}, QDir::Files, QDirIterator::Subdirectories);
+        while (all.hasNext()) paths << all.next();
+        return paths;
+    }
+    static host::JournalEntry read(const QString& path) {
+        return host::decodeJournal(host::readFile(path.toStdString()).bytes);
+    }
+    /// Another program of the same user that types into the project and dies. Gives what the journals held.
+    void crash(const std::string& project, const std::string& typed) {
+        QProcess other;
+        auto environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("FERNWICK_TEST_PROJECT", QString::fromStdString(project));
+        environment.insert("FERNWICK_TEST_TYPED", QString::fromStdString(typed));
+        environment.insert("FERNWICK_TEST_STATE", QString::fromStdString(folder / "state"));
+        environment.insert("TMPDIR", QString::fromStdString(folder.path()));
+        other.setProcessEnvironment(environment);
+        const auto before = journals().size();
+        other.start(QCoreApplication::applicationFilePath(),
+                    {"--gtest_also_run_disabled_tests", "--gtest_filter=Killed.DISABLED_TypesUntilItIsKilled"});
+        EXPECT_TRUE(QTest::qWaitFor([&] { return journals().size() > before; }, kLongestWait))
+            << other.readAllStandardOutput().toStdString();
+        ::kill(pid_t(other.processId()), SIGKILL);
+        EXPECT_TRUE(other.waitForFinished());
+    }
+    /// What a program that is gone left: this text of a component.
+    QString leave(const host::JournalEntry& entry) {
+        const auto path = QDir(workbench::journalBase() + "/gone").filePath(QString("%1.journal").arg(++left_, 4));
+        folder.write(QDir(QString::fromStdString(folder.path())).relativeFilePath(path).toStdString(),
+                     host::encodeJournal(entry));
+        return path;
+    }
+    host::JournalEntry entryOf(const std::string& code) {
+        host::JournalEntry entry;
+        entry.project = folder / "Hello.vbp";
+        entry.component = "modA";
+        entry.type = vbide::vbext_ct_StdModule;
+        entry.file = folder / "modA.bas";
+        entry.base = host::readFile(entry.file).stamp;
+        entry.written = 1700000000;
+        entry.bytes = moduleText("modA", code);
+        return entry;
+    }
+    void waitForBox() {
+        EXPECT_TRUE(QTest::qWaitFor([this] { return !boxes.empty(); }, kLongestWait));
+        settle();
+    }
+
+private:
+    int left_ = 0;
+};
+
+/// The program that dies; a part of the test of what survives it.
+class Killed : public test::OpenDesktop {
+protected:
+    Killed() : OpenDesktop(qgetenv("FERNWICK_TEST_STATE")) {}
+};
+
+} // namespace
+
+TEST_F(Killed, DISABLED_TypesUntilItIsKilled) {
+    if (!qEnvironmentVariableIsSet("FERNWICK_TEST_PROJECT")) GTEST_SKIP();
+    openFile(qgetenv("FERNWICK_TEST_PROJECT").toStdString());
+    QTest::keyClicks(&code("modA"), qEnvironmentVariable("FERNWICK_TEST_TYPED"));
+    QTest::qWait(kLongestWait * 2);
+}
+
+TEST_F(Journals, WhatWasTypedSurvivesAKilledProgram) {
+    const auto project = twoModules().writeTo(folder);
+    crash(project, "' typed ");
+    answerWith("Restore");
+    openFile(project);
+    waitForBox();
+    EXPECT_THAT(boxes, ElementsAre(HasSubstr("Unsaved text of one file of Hello.vbp survived from")));
+    EXPECT_EQ(held("modA"), "' typed ' a");
+    EXPECT_EQ(window().code().current()->scintilla().text().toStdString(), "' typed ' a");
+    EXPECT_TRUE(component("modA")->IsDirty());
+    EXPECT_FALSE(component("modB")->IsDirty());
+    EXPECT_EQ(folder.read("modA.bas"), moduleText("modA", "' a\r\n"));
+    component("modA")->SaveAs(folder / "modA.bas");
+    EXPECT_EQ(folder.read("modA.bas"), moduleText("modA", "' typed ' a\r\n"));
+    settle();
+    EXPECT_TRUE(journals().isEmpty());
+}
+
+TEST_F(Journals, ASecondCrashRightAfterRestoringLosesNothing) {
+    open(twoModules());
+    end();
+    start();
+    leave(entryOf("' kept\r\n"));
+    answerWith("Restore");
+    openFile(folder / "Hello.vbp");
+    waitForBox();
+    ASSERT_EQ(journals().size(), 1);
+    EXPECT_EQ(read(journals().front()).bytes, moduleText("modA", "' kept\r\n"));
+}
+
+TEST_F(Journals, TypingIsWrittenAboutASecondLaterAndNotAtEachKey) {
+    open(twoModules());
+    QTest::keyClicks(&code("modA"), "abc");
+    EXPECT_TRUE(journals().isEmpty());
+    ASSERT_TRUE(QTest::qWaitFor([] { return journals().size() == 1; }));
+    const auto entry = read(journals().front());
+    EXPECT_EQ(entry.bytes, moduleText("modA", "abc' a\r\n"));
+    EXPECT_EQ(entry.project, folder / "Hello.vbp");
+    EXPECT_EQ(entry.file, folder / "modA.bas");
+    EXPECT_EQ(entry.base->digest, host::digestOf(folder.read("modA.bas")));
+    QTest::keyClicks(&code("modB"), "d");
+    EXPECT_TRUE(QTest::qWaitFor([] { return journals().size() == 2; }));
+}
+
+TEST_F(Journals, AWindowThatBlocksThisOneFindsAllWritten) {
+    open(twoModules());
+    QTest::keyClicks(&code("modA"), "abc");
+    qsizetype there = -1;
+    answer([&there](QMessageBox& box) {
+        there = journals().size();
+        press(box, "OK");
+    });
+    QMessageBox::information(&window(), "Test", "a build, say");
+    EXPECT_EQ(there, 1);
+}
+
+TEST_F(Journals, SavingRemovesThem) {
+    open(twoModules());
+    QTest::keyClicks(&code("modA"), "a");
+    QTest::keyClicks(&code("modB"), "b");
+    ASSERT_TRUE(QTest::qWaitFor([] { return journals().size() == 2; }));
+    component("modB")->SaveAs(folder / "modB.bas");
+    EXPECT_TRUE(QTest::qWaitFor([] { return journals().size() == 1; }));
+    menuItem("&File", "Sa&ve Project")->trigger();
+    EXPECT_TRUE(QTest::qWaitFor([] { return journals().isEmpty(); }));
+}
+
+TEST_F(Journals, GivingUpTheChangesRemovesThem) {
+    open(twoModules());
+    QTest::keyClicks(&code("modA"), "a");
+    ASSERT_TRUE(QTest::qWaitFor([] { return !journals().isEmpty(); }));
+    answer([](QMessageBox& box) { box.button(QMessageBox::Discard)->click(); });
+    menuItem("&File", "&Remove Project")->trigger();
+    EXPECT_TRUE(QTest::qWaitFor([] { return journals().isEmpty(); }));
+}
+
+TEST_F(Journals, AProgramThatEndsLeavesNoFolderBehind) {
+    open(twoModules());
+    QTest::keyClicks(&code("modA"), "a");
+    ASSERT_TRUE(QTest::qWaitFor([] { return !journals().isEmpty(); }));
+    end();
+    EXPECT_TRUE(QDir(workbench::journalBase()).isEmpty());
+}
+
+TEST_F(Journals, AProjectWithoutAnyAsksNothing) {
+    open(twoModules());
+    end();
+    start();
+    answerWith("Restore");
+    leave([this] {
+        auto other = entryOf("' kept\r\n");
+        other.bytes = folder.read("modA.bas"); // saved by then
+        return other;
+    }());
+    openFile(folder / "Hello.vbp");
+    QTest::qWait(100);
+    EXPECT_TRUE(boxes.empty());
+    EXPECT_TRUE(journals().isEmpty());
+    EXPECT_FALSE(component("modA")->IsDirty());
+}
+
+TEST_F(Journals, DiscardRemovesIt) {
+    const auto project = twoModules().writeTo(folder);
+    leave(entryOf("' kept\r\n"));
+    answerWith("Discard");
+    openFile(project);
+    waitForBox();
+    EXPECT_EQ(held("modA"), "' a");
+    EXPECT_TRUE(journals().isEmpty());
+}
+
+TEST_F(Journals, WhatIsKeptForLaterIsOfferedWhenTheProjectOpensAgain) {
+    const auto path = twoModules().writeTo(folder);
+    leave(entryOf("' kept\r\n"));
+    answerWith("Keep for Later");
+    openFile(path);
+    waitForBox();
+    EXPECT_EQ(held("modA"), "' a");
+    bench->connect(); // not again while it is open
+    QTest::qWait(100);
+    EXPECT_EQ(boxes.size(), 1u);
+    bench->host().VBProjects()->Remove(project());
+    answerWith("Restore");
+    openFile(path);
+    waitForBox();
+    EXPECT_EQ(held("modA"), "' kept");
+}
+
+TEST_F(Journals, AtTheStartTheProjectIsOpenedForIt) {
+    twoModules().writeTo(folder);
+    leave(entryOf("' kept\r\n"));
+    answerWith("Restore");
+    bench->connect();
+    waitForBox();
+    QTest::qWait(100);
+    EXPECT_EQ(boxes.size(), 1u);
+    EXPECT_EQ(held("modA"), "' kept");
+}
+
+TEST_F(Journals, AProjectThatCannotBeOpenedKeepsThem) {
+    auto entry = [this] {
+        twoModules().writeTo(folder);
+        return entryOf("' kept\r\n");
+    }();
+    entry.project = folder / "gone.vbp";
+    leave(entry);
+    answer([](QMessageBox& box) { press(box, box.buttons().size() > 1 ? "Restore" : "OK"); });
+    bench->connect();
+    waitForBox();
+    EXPECT_THAT(boxes, ElementsAre(HasSubstr("gone.vbp"), HasSubstr("gone.vbp")));
+    EXPECT_EQ(journals().size(), 1);
+}
+
+TEST_F(Journals, ANewerFileOnDiskIsToldAndNotReplacedWithoutAQuestion) {
+    const auto project = twoModules().writeTo(folder);
+    leave(entryOf("' kept\r\n"));
+    folder.write("modA.bas", moduleText("modA", "' newer\r\n"));
+    answerWith("Restore");
+    openFile(project);
+    waitForBox();
+    EXPECT_THAT(boxes, ElementsAre(HasSubstr("modA (modA.bas) - the file on disk was changed since")));
+    EXPECT_EQ(held("modA"), "' kept");
+    QTest::qWait(700);
+    EXPECT_EQ(boxes.size(), 1u); // told once
+    answerWith("Don't Save");
+    component("modA")->SaveAs(folder / "modA.bas");
+    EXPECT_THAT(boxes, ElementsAre(HasSubstr("was changed by another program")));
+    EXPECT_EQ(folder.read("modA.bas"), moduleText("modA", "' newer\r\n"));
+}
+
+TEST_F(Journals, WhatDiffersFromTheFileCanBeLookedAt) {
+    const auto project = twoModules().writeTo(folder);
+    leave(entryOf("' kept\r\n"));
+    QString details;
+    answer([&details](QMessageBox& box) {
+        details = box.detailedText();
+        box.grab().save(FERNWICK_BINARY_DIR "/survivors.png");
+        press(box, "Keep for Later");
+    });
+    openFile(project);
+    waitForBox();
+    EXPECT_THAT(details.toStdString(), HasSubstr("\nline 2:\n- ' a\n+ ' kept\n"));
+}
+
+TEST_F(Journals, TheNewestOfSeveralTextsIsRestoredAndTheOthersKept) {
+    const auto project = twoModules().writeTo(folder);
+    auto entry = entryOf("' first\r\n");
+    const auto first = leave(entry);
+    entry.written += 60;
+    entry.bytes = moduleText("modA", "' second\r\n");
+    leave(entry);
+    answerWith("Restore");
+    openFile(project);
+    waitForBox();
+    EXPECT_EQ(held("modA"), "' second");
+    EXPECT_TRUE(QFile::exists(first));
+}
+
+TEST_F(Journals, AComponentThatWasNeverSavedComesBack) {
+    const auto project = twoModules().writeTo(folder);
+    auto entry = entryOf("' kept\r\n");
+    entry.component = "modNew";
+    entry.file.clear();
+    entry.base.reset();
+    entry.bytes = moduleText("modNew", "' kept\r\n");
+    leave(entry);
+    answerWith("Restore");
+    openFile(project);
+    waitForBox();
+    EXPECT_EQ(held("modNew"), "' kept");
+    EXPECT_EQ(component("modNew")->FileNames(1), "");
+}
+
+TEST_F(Journals, AProjectThatWasNeverSavedComesBackAsANewOne) {
+    twoModules().writeTo(folder);
+    auto entry = entryOf("");
+    entry.project = entry.file = "";
+    entry.base.reset();
+    entry.component = "Form1";
+    entry.type = vbide::vbext_ct_VBForm;
+    entry.bytes = test::formText("Form1", "' kept\r\n");
+    leave(entry);
+    answerWith("Restore");
+    bench->connect();
+    waitForBox();
+    EXPECT_THAT(boxes, ElementsAre(HasSubstr("of a project that was never saved")));
+    EXPECT_EQ(project()->FileName(), "");
+    EXPECT_EQ(project()->VBComponents()->Count(), 1);
+    EXPECT_EQ(held("Form1"), "' kept");
+}
+
+TEST_F(Journals, AnotherProgramThatRunsKeepsItsOwn) {
+    open(twoModules());
+    QTest::keyClicks(&code("modA"), "mine");
+    ASSERT_TRUE(QTest::qWaitFor([] { return journals().size() == 1; }));
+    answerWith("Restore");
+    {
+        workbench::Workbench other;
+        other.open(folder / "Hello.vbp");
+        other.connect();
+        QTest::qWait(100);
+        EXPECT_FALSE(other.host().ActiveVBProject()->VBComponents()->Item("modA")->IsDirty());
+    }
+    EXPECT_TRUE(boxes.empty());
+    EXPECT_EQ(journals().size(), 1);
+}
+
+TEST_F(Journals, ADamagedOneIsToldOnceAndSetAside) {
+    const auto project = twoModules().writeTo(folder);
+    const auto whole = host::encodeJournal(entryOf("' kept\r\n"));
+    const std::vector<std::pair<std::string, std::string>> kDamages{
+        {"", "is no journal of this version"},   {std::string(1000, '\0'), "is no journal of this version"},
+        {whole.substr(0, 40), "lacks its line"}, {whole.substr(0, whole.size() - 3), "ends after"},
+        {whole + "more", "check sum"},
+    };
+    for (const auto& [bytes, why] : kDamages) {
+        folder.write("state/fernwick/journal/gone/0001.journal", bytes);
+        answerWith("OK");
+        bench->connect();
+        waitForBox();
+        EXPECT_THAT(boxes, ElementsAre(HasSubstr(why)));
+        EXPECT_EQ(folder.read("state/fernwick/journal/gone/0001.journal.damaged"), bytes);
+        std::filesystem::remove(folder / "state/fernwick/journal/gone/0001.journal.damaged");
+    }
+    EXPECT_TRUE(journals().isEmpty());
+}
+
+TEST_F(Journals, WhereNothingCanBeKeptTheUserIsToldOnce) {
+    folder.write("state", "a file where a folder should be");
+    open(twoModules());
+    answerWith("OK");
+    QTest::keyClicks(&code("modA"), "a");
+    waitForBox();
+    EXPECT_THAT(boxes, ElementsAre(HasSubstr("can't be kept")));
+    QTest::keyClicks(&code("modA"), "b");
+    QTest::qWait(1200);
+    EXPECT_EQ(boxes.size(), 1u);
+    EXPECT_EQ(held("modA"), "ab' a");
+}

@@ -1,0 +1,371 @@
+// The properties of what is selected: shown as the IDE shows them, edited line by line.
+#include "tests/workbench/designer_desktop.h"
+#include <QComboBox>
+#include <QFontDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+
+using testing::ElementsAre;
+
+namespace {
+
+const std::string kInspected = R"(   BorderStyle     =   1  'Fixed Single
+   Icon            =   "frmMain.frx":0000
+   Begin VB.CommandButton cmdOK 
+      Caption         =   "&OK"
+      Height          =   375
+      Left            =   120
+      Top             =   120
+      Width           =   1215
+   End
+   Begin VB.TextBox txtName 
+      BackColor       =   &H00C0FFFF&
+      Height          =   315
+      Left            =   120
+      Text            =   "Some text"
+      Top             =   720
+      Width           =   1215
+   End
+   Begin VB.OptionButton optSize 
+      Height          =   315
+      Index           =   3
+      Left            =   120
+      Top             =   1200
+      Width           =   1215
+   End
+   Begin TavletsCtl.QLComboBox cboKind 
+      Height          =   315
+      Left            =   120
+      Top             =   1680
+      Width           =   1215
+      _ExtentX        =   2143
+   End
+)";
+
+} // namespace
+
+class Properties : public test::DesignerDesktop {
+protected:
+    void select(const std::string& name) { view().select(name.empty() ? nullptr : control(name)); }
+    /// Edits a value that is refused, and gives the text of the box that says so.
+    std::string refusal(const QString& property, const QString& value) {
+        return boxOf([&] { type(property, value); });
+    }
+    static std::string boxOf(const std::function<void()>& act) {
+        std::string text;
+        test::whenShown<QMessageBox>([&](QMessageBox& box) {
+            text = box.text().toStdString();
+            box.button(QMessageBox::Ok)->click();
+        });
+        act();
+        QTest::qWait(50);
+        return text;
+    }
+    void doubleClick(const QString& property) {
+        auto& table = properties().table();
+        table.scrollTo(valueCell(property));
+        QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, table.visualRect(valueCell(property)).center());
+        QTest::mouseDClick(table.viewport(), Qt::LeftButton, {}, table.visualRect(valueCell(property)).center());
+        settle();
+    }
+    /// The list in which a row's value is chosen.
+    QComboBox* listOf(const QString& property) {
+        auto& table = properties().table();
+        table.setCurrentIndex(valueCell(property));
+        table.edit(valueCell(property));
+        return table.viewport()->findChild<QComboBox*>();
+    }
+    static QStringList textsOf(const QComboBox& list) {
+        QStringList texts;
+        for (int i = 0; i < list.count(); ++i) texts << list.itemText(i);
+        return texts;
+    }
+};
+
+TEST_F(Properties, AreShownAsTheIdeShowsThem) {
+    openForm(kInspected);
+    EXPECT_EQ(properties().rows().index(0, 0).data(), "(Name)");
+    EXPECT_EQ(shown("BorderStyle"), "1 - Fixed Single");
+    EXPECT_EQ(shown("StartUpPosition"), "0 - Manual");
+    EXPECT_EQ(shown("BackColor"), "&H8000000F&");
+    EXPECT_FALSE(valueCell("BackColor").data(Qt::DecorationRole).isNull());
+    EXPECT_EQ(shown("ControlBox"), "True");
+    EXPECT_EQ(shown("Font"), "MS Sans Serif");
+    EXPECT_EQ(shown("Icon"), "(None)"); // its file is missing
+    EXPECT_EQ(shown("Width"), "6330");
+    EXPECT_EQ(shown("ClientWidth"), "no such row");
+    EXPECT_EQ(shown("ScaleMode"), "1 - Twip");
+}
+
+TEST_F(Properties, OfControlsKnowTheirEnumerationsAndKeepInternalsToThemselves) {
+    openForm(kInspected);
+    select("cboKind");
+    EXPECT_EQ(shown("Style"), "2 - qlDropDownList");
+    EXPECT_EQ(shown("BackColor"), "&H00FFFFFF&");
+    EXPECT_EQ(shown("FontName"), "QLPalm");
+    EXPECT_EQ(shown("_ExtentX"), "no such row");
+    EXPECT_EQ(shown("Index"), "");
+    select("optSize");
+    EXPECT_EQ(shown("Index"), "3");
+}
+
+TEST_F(Properties, AreListedInTheAlphabet) {
+    openForm(kInspected);
+    QStringList names;
+    for (int row = 1; row < properties().rows().rowCount(); ++row)
+        names << properties().rows().index(row, 0).data().toString();
+    auto sorted = names;
+    sorted.sort(Qt::CaseInsensitive);
+    EXPECT_EQ(names, sorted);
+    EXPECT_GT(names.size(), 30);
+}
+
+TEST_F(Properties, FollowTheSelectionAndLeadIt) {
+    openForm(kInspected);
+    EXPECT_EQ(textsOf(properties().objects()), (QStringList{"frmMain Form", "cmdOK CommandButton", "txtName TextBox",
+                                                            "optSize(3) OptionButton", "cboKind QLComboBox"}));
+    clickOn("txtName");
+    EXPECT_EQ(properties().objects().currentText(), "txtName TextBox");
+    properties().objects().setCurrentIndex(1);
+    Q_EMIT properties().objects().activated(1);
+    EXPECT_EQ(selected(), "cmdOK");
+    EXPECT_EQ(shown("Caption"), "&OK");
+}
+
+TEST_F(Properties, StayOnTheRowOfAPropertyFromObjectToObject) {
+    openForm(kInspected);
+    select("cmdOK");
+    properties().table().setCurrentIndex(valueCell("Width"));
+    select("txtName");
+    EXPECT_EQ(properties().table().currentIndex(), valueCell("Width"));
+}
+
+// ---- editing ------------------------------------------------------------------------------------------------------------
+
+TEST_F(Properties, AnEditChangesItsLineAndNoOther) {
+    openSample("TipCalculator");
+    const auto before = folder.read("TipCalculator/frmTip.frm");
+    design("frmTip");
+    select("lblAmount");
+    type("Caption", "Amount");
+    EXPECT_EQ(difference(before, saved("frmTip")),
+              "-      Caption         =   \"Bill\"\n+      Caption         =   \"Amount\"\n");
+    type("Caption", "Bill");
+    EXPECT_EQ(saved("frmTip"), before);
+}
+
+TEST_F(Properties, AnEditShowsOnTheFormAtOnce) {
+    openForm(kInspected);
+    select("txtName");
+    type("Left", "600");
+    EXPECT_EQ(placeOf("txtName").left(), 40);
+    EXPECT_TRUE(component("frmMain")->IsDirty());
+    EXPECT_EQ(selected(), "txtName");
+}
+
+TEST_F(Properties, AMoveOnTheFormShowsInItsRows) {
+    openForm(kInspected);
+    clickOn("cmdOK");
+    key(Qt::Key_Down, Qt::ControlModifier);
+    settle();
+    EXPECT_EQ(shown("Top"), "240");
+}
+
+TEST_F(Properties, ALineThatCameWithAnEditGoesWithTheDefault) {
+    openForm(kInspected);
+    select("cmdOK");
+    type("ToolTipText", "Ends it");
+    EXPECT_EQ(difference(original, saved("frmMain")), "+      ToolTipText     =   \"Ends it\"\n");
+    type("ToolTipText", "");
+    EXPECT_EQ(saved("frmMain"), original);
+}
+
+TEST_F(Properties, EnumerationsAreWrittenWithTheirWord) {
+    openForm(kInspected);
+    auto* const list = listOf("BorderStyle");
+    ASSERT_TRUE(list);
+    EXPECT_EQ(textsOf(*list), (QStringList{"0 - None", "1 - Fixed Single", "2 - Sizable", "3 - Fixed Dialog",
+                                           "4 - Fixed ToolWindow", "5 - Sizable ToolWindow"}));
+    list->setCurrentIndex(3);
+    Q_EMIT list->activated(3);
+    settle();
+    EXPECT_EQ(difference(original, saved("frmMain")),
+              "-   BorderStyle     =   1  'Fixed Single\n+   BorderStyle     =   3  'Fixed Dialog\n");
+}
+
+TEST_F(Properties, ADoubleClickGoesOnToTheNextValue) {
+    openForm(kInspected);
+    select("cmdOK");
+    doubleClick("Default");
+    EXPECT_EQ(shown("Default"), "True");
+    doubleClick("Default");
+    EXPECT_EQ(shown("Default"), "False");
+    doubleClick("DragMode");
+    doubleClick("DragMode");
+    EXPECT_EQ(shown("DragMode"), "0 - Manual");
+    EXPECT_EQ(saved("frmMain"), original);
+}
+
+TEST_F(Properties, ColoursAreChosenByNameOrTyped) {
+    openForm(kInspected);
+    select("txtName");
+    auto* const list = listOf("BackColor");
+    ASSERT_TRUE(list);
+    const int row = list->findText("ToolTip");
+    list->setCurrentIndex(row);
+    Q_EMIT list->activated(row);
+    settle();
+    EXPECT_EQ(shown("BackColor"), "&H80000018&");
+    type("BackColor", "&h00ff00");
+    EXPECT_EQ(difference(original, saved("frmMain")),
+              "-      BackColor       =   &H00C0FFFF&\n+      BackColor       =   &H0000FF00&\n");
+    EXPECT_EQ(view().picture().find(control("txtName"))->look.back, QColor(0, 255, 0));
+}
+
+TEST_F(Properties, EscapeLeavesTheValue) {
+    openForm(kInspected);
+    auto& table = properties().table();
+    table.setCurrentIndex(valueCell("Caption"));
+    table.edit(valueCell("Caption"));
+    auto* const line = table.viewport()->findChild<QLineEdit*>();
+    ASSERT_TRUE(line);
+    QTest::keyClicks(line, "never");
+    QTest::keyClick(line, Qt::Key_Escape);
+    settle();
+    EXPECT_EQ(shown("Caption"), "frmMain");
+    EXPECT_FALSE(component("frmMain")->IsDirty());
+}
+
+TEST_F(Properties, PicturesAreNotTyped) {
+    openForm(kInspected);
+    EXPECT_FALSE(valueCell("Icon").flags() & Qt::ItemIsEditable);
+    EXPECT_TRUE(valueCell("Caption").flags() & Qt::ItemIsEditable);
+}
+
+TEST_F(Properties, AFontIsChosenInItsDialog) {
+    openForm(kInspected);
+    select("cmdOK");
+    test::whenShown<QFontDialog>([](QFontDialog& dialog) {
+        QFont font("DejaVu Sans");
+        font.setPointSizeF(14);
+        font.setBold(true);
+        dialog.setCurrentFont(font);
+        dialog.accept();
+    });
+    doubleClick("Font");
+    EXPECT_EQ(shown("Font"), "DejaVu Sans");
+    const auto look = view().picture().find(control("cmdOK"))->look;
+    EXPECT_TRUE(look.font.bold());
+    EXPECT_EQ(look.font.pixelSize(), 19);
+    menuItem("&Edit", "&Undo")->trigger();
+    settle();
+    EXPECT_EQ(shown("Font"), "MS Sans Serif");
+}
+
+TEST_F(Properties, OfAFormAreThereBesideItsCodeToo) {
+    openForm(kInspected);
+    menuItem("&View", "&Code")->trigger();
+    EXPECT_EQ(properties().objects().currentText(), "frmMain Form");
+    Q_EMIT properties().objects().activated(2);
+    EXPECT_EQ(shown("(Name)"), "txtName");
+    type("Text", "Another");
+    EXPECT_EQ(shown("Text"), "Another");
+    EXPECT_EQ(properties().objects().currentText(), "txtName TextBox");
+}
+
+TEST_F(Properties, WhatSaysNothingAndIsUnknownIsNotTyped) {
+    openForm("   Begin VB.Menu mnuOne \n      Caption         =   \"One\"\n   End\n   Begin VB.Menu mnuTwo \n"
+             "      Caption         =   \"Two\"\n      Shortcut        =   ^T\n   End\n");
+    select("mnuOne");
+    EXPECT_FALSE(valueCell("Shortcut").flags() & Qt::ItemIsEditable);
+    select("mnuTwo");
+    EXPECT_EQ(shown("Shortcut"), "^T");
+    type("Shortcut", "{F5}");
+    EXPECT_EQ(difference(original, saved("frmMain")),
+              "-      Shortcut        =   ^T\n+      Shortcut        =   {F5}\n");
+    EXPECT_EQ(refusal("Shortcut", "F5"), "Invalid property value");
+}
+
+TEST_F(Properties, TextsOfSeveralLinesAreShownButNotTyped) {
+    folder.write("frmMain.frx", std::string("\x08One\r\nTwo", 9));
+    openForm("   Begin VB.TextBox txtLines \n      MultiLine       =   -1  'True\n"
+             "      Text            =   \"frmMain.frx\":0000\n   End\n");
+    select("txtLines");
+    EXPECT_EQ(shown("Text"), "One Two");
+    EXPECT_FALSE(valueCell("Text").flags() & Qt::ItemIsEditable);
+}
+
+// ---- refusals -----------------------------------------------------------------------------------------------------------
+
+TEST_F(Properties, WhatMakesNoSenseIsRefusedAndTheOldValueStays) {
+    openForm(kInspected);
+    select("cmdOK");
+    EXPECT_EQ(refusal("Left", "here"), "Type mismatch");
+    EXPECT_EQ(refusal("Width", "-5"), "Invalid property value");
+    EXPECT_EQ(refusal("TabIndex", "99999999999"), "Overflow");
+    EXPECT_EQ(refusal("BackColor", "&HZZ&"), "Invalid property value");
+    EXPECT_EQ(shown("Left"), "120");
+    EXPECT_EQ(shown("Width"), "1215");
+    EXPECT_EQ(saved("frmMain"), original);
+}
+
+TEST_F(Properties, ATextThatTheFormsCodePageLacksIsRefused) {
+    openForm(kInspected);
+    select("cmdOK");
+    const int row = properties().rows().rowOf("Caption");
+    EXPECT_EQ(boxOf([&] { properties().rows().type(row, QString::fromUtf8("\xe6\x97\xa5")); }),
+              "The text has a character that the code page of the project lacks.");
+    EXPECT_EQ(shown("Caption"), "&OK");
+}
+
+TEST_F(Properties, NamesAreIdentifiersAndUnique) {
+    openForm(kInspected);
+    select("cmdOK");
+    EXPECT_EQ(refusal("(Name)", "1st"), "'1st' is not a legal object name");
+    EXPECT_EQ(refusal("(Name)", "TXTNAME"), "The name 'TXTNAME' is already in use");
+    EXPECT_EQ(refusal("(Name)", "frmMain"), "The name 'frmMain' is already in use");
+    EXPECT_EQ(saved("frmMain"), original);
+    type("(Name)", "cmdFine");
+    EXPECT_EQ(difference(original, saved("frmMain")),
+              "-   Begin VB.CommandButton cmdOK \n+   Begin VB.CommandButton cmdFine \n");
+    EXPECT_EQ(properties().objects().currentText(), "cmdFine CommandButton");
+}
+
+TEST_F(Properties, AFormIsRenamedWhereItsNameStands) {
+    openForm(kInspected);
+    type("(Name)", "frmOther");
+    EXPECT_EQ(component("frmOther")->Name(), "frmOther");
+    EXPECT_EQ(window().code().tabText(0), "frmOther (Form) *");
+    EXPECT_EQ(properties().objects().currentText(), "frmOther Form");
+}
+
+// ---- what has a name only -----------------------------------------------------------------------------------------------
+
+TEST_F(Properties, ModulesClassesAndProjectsHaveANameOnly) {
+    openSample("AddressBook");
+    component("clsPerson")->CodeModule()->CodePane()->Show();
+    EXPECT_EQ(properties().rows().rowCount(), 1);
+    EXPECT_EQ(properties().objects().currentText(), "clsPerson ClassModule");
+    type("(Name)", "clsHuman");
+    EXPECT_TRUE(component("clsHuman"));
+    EXPECT_EQ(refusal("(Name)", "frmList"),
+              "Name conflicts with existing module, project, or object library: 'frmList'");
+    auto& tree = window().explorer();
+    window().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
+    tree.setFocus();
+    tree.setCurrentItem(tree.topLevelItem(0));
+    EXPECT_EQ(properties().objects().currentText(), "AddressBook Project");
+    type("(Name)", "Addresses");
+    EXPECT_EQ(bench->host().ActiveVBProject()->Name(), "Addresses");
+}
+
+TEST_F(Properties, AreEmptyWithoutAnythingOpen) {
+    EXPECT_EQ(properties().rows().rowCount(), 0);
+    EXPECT_EQ(properties().objects().count(), 0);
+    ASSERT_TRUE(menuItem("&View", "Properties &Window"));
+    EXPECT_EQ(menuItem("&View", "Properties &Window")->shortcut(), QKeySequence("F4"));
+    window().propertiesDock().close();
+    menuItem("&View", "Properties &Window")->trigger();
+    EXPECT_TRUE(window().propertiesDock().isVisible());
+}
