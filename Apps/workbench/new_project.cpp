@@ -43,7 +43,7 @@ NewProjectDialog::NewProjectDialog(std::vector<ProjectKind> kinds, QWidget* pare
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     connect(list_, &QListWidget::itemActivated, this, &QDialog::accept);
-    auto* const label = new QLabel("&What shall it be?");
+    auto* const label = new QLabel("&Kind of project:");
     label->setBuddy(list_);
     auto* const rows = new QVBoxLayout(this);
     rows->addWidget(label);

@@ -98,6 +98,8 @@ void ProjectExplorer::draw() {
 }
 
 void ProjectExplorer::addEntries() {
+    if (projects_.empty()) return;
+    const auto folder = style()->standardIcon(QStyle::SP_DirIcon); // looked up in themes, so once for all
     std::size_t component = 0;
     for (std::size_t i = 0; i < projects_.size(); ++i) {
         auto* const top = new QTreeWidgetItem(this);
@@ -106,7 +108,7 @@ void ProjectExplorer::addEntries() {
         std::array<QTreeWidgetItem*, kGroups.size()> groups{};
         for (std::size_t g = 0; g < kGroups.size(); ++g) {
             groups[g] = new QTreeWidgetItem(top, {kGroups[g].name});
-            groups[g]->setIcon(kNameColumn, style()->standardIcon(QStyle::SP_DirIcon));
+            groups[g]->setIcon(kNameColumn, folder);
         }
         for (const auto last = component + std::size_t(projects_[i]->VBComponents()->Count()); component < last;) {
             const auto group = groupOf(components_[component++]->Type());

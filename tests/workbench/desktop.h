@@ -17,6 +17,7 @@ protected:
     Desktop() {
         workbench::apply(workbench::Theme::Light);
         bench = std::make_unique<workbench::Workbench>();
+        bench->addIn().prefs.SetStartTutorial(false);
         window().show();
         settle();
     }

@@ -13,7 +13,7 @@ namespace test {
 
 namespace {
 
-constexpr int kMostWaiting = 10'000, kBetweenLooks = 5, kDragSteps = 12;
+constexpr int kMostWaiting = 30'000, kBetweenLooks = 5, kDragSteps = 12;
 
 void moveTo(QStringList& arguments, const QPoint& at) {
     const auto pixels = QPointF(at) * qApp->devicePixelRatio();
@@ -104,12 +104,6 @@ void drag(const QPoint& from, const QPoint& to) {
 
 QPoint middleOf(QWidget& widget, const QRect& part) {
     return widget.mapToGlobal((part.isNull() ? widget.rect() : part).center());
-}
-
-void clickInDialog(const QString& button) {
-    std::optional<QPoint> at;
-    eventually("a dialog with " + button.toStdString(), [&] { return (at = buttonInDialog({button})).has_value(); });
-    click(*at);
 }
 
 void answerUntil(const std::string& expected, const Answer& answer, const std::function<bool()>& isSo) {

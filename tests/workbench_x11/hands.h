@@ -29,7 +29,7 @@ auto ask(Question&& question) {
 /// Has the window's thread do something that may show a dialog; doesn't wait for its end.
 void begin(std::function<void()> act);
 
-/// Looks until it is so. After ten seconds it fails with what was expected, and ends the test.
+/// Looks until it is so. After half a minute it fails with what was expected, and ends the test.
 void eventually(const std::string& expected, const std::function<bool()>& isSo);
 
 /// The program that sends the events, with these arguments.
@@ -48,8 +48,6 @@ void drag(const QPoint& from, const QPoint& to);
 /// The middle of a part of a widget on the screen; of the whole without one.
 QPoint middleOf(QWidget& widget, const QRect& part = {});
 
-/// Waits for a dialog with a button of this object name or text, and clicks it.
-void clickInDialog(const QString& button);
 enum class With { Mouse, Keyboard };
 struct Answer {
     With with;

@@ -46,7 +46,7 @@ protected:
         eventually("the window has the keys", [this] { return window().isActiveWindow(); });
     }
     void connect() {
-        ask([this] { begin([this] { bench->connect(); }); });
+        begin([this] { bench->connect(); });
         eventually("the add-in's menu", [this] { return menu("&Fernwick") != nullptr; });
     }
     /// A copy of it.
