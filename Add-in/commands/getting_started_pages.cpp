@@ -31,7 +31,7 @@ const std::array<GettingStartedPage, kGettingStartedPages> kGettingStarted{{
      "See the 'Fernwick Add-In Guide' in the User 's Guide for more information."},
     {" 5. Toolbars", "toolbars.jpg",
      "Fernwick inserts two new toolbars into Visual Basic.\r\n"
-     "These toolbars complement the Fernwick menu for one-click \r\n"
+     "These toolbars complement the Fernwick menu for one-click "
      "access to the most frequently used functions, including:\r\n"
      " * Deploy application to default device\r\n"
      " * Fernwick settings\r\n"
@@ -48,8 +48,7 @@ const std::array<GettingStartedPage, kGettingStartedPages> kGettingStarted{{
      " * Install Tamarik"},
     {" 7. Project Template", "template.jpg",
      "If you run Visual Basic, or if you select the 'File: New Project' menu item, you need to select the 'Fernwick "
-     "Project' \r\n"
-     "template from the New Project window.\r\n"
+     "Project' template from the New Project window.\r\n"
      "This template is the only one that you can use to create a Fernwick project."},
     {" 8. Website", "website.jpg",
      "The Quinloft website provides many important resources for developers. A sampling \r\n"

@@ -35,7 +35,7 @@ const EditCommands::Entry EditCommands::kEditMenu[] = {
     {kFindId, "&Find...", &EditCommands::find, true},
     {kFindNextId, "Find &Next", &EditCommands::findNext, false},
     {kFindPreviousId, "Find Pre&vious", &EditCommands::findPrevious, false},
-    {kReplaceId, "R&eplace...", &EditCommands::replace, false},
+    {kReplaceId, "Rep&lace...", &EditCommands::replace, false},
     {kIndentId, "&Indent", &EditCommands::indent, true},
     {kOutdentId, "&Outdent", &EditCommands::outdent, false},
     {kCommentId, "Co&mment Block", &EditCommands::comment, false},

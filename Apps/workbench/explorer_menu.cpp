@@ -11,15 +11,18 @@ namespace {
 
 constexpr int kLine = 0;
 
-const std::vector<int> kOfComponent{kViewCodeId,        kViewObjectId,    kLine, kSaveFileId, kSaveFileAsId, kLine,
-                                    kRemoveComponentId, kStartUpProjectId};
+const std::vector<int> kOfForm{kViewCodeId,        kViewObjectId,    kLine, kSaveFileId, kSaveFileAsId, kLine,
+                               kRemoveComponentId, kStartUpProjectId};
+const std::vector<int> kOfModule{kViewCodeId,      kLine, kSaveFileId, kSaveFileAsId, kLine, kRemoveComponentId,
+                                 kStartUpProjectId};
 const std::vector<int> kOfProject{host::kSaveProjectId,  kSaveProjectAsId, kLine,      kAddFormId,
                                   kAddModuleId,          kAddClassId,      kAddFileId, kLine,
                                   host::kRemoveProjectId};
 const std::vector<int> kOfGroup{kAddFormId, kAddModuleId, kAddClassId, kAddFileId};
 
 const std::vector<int>& commandsFor(const ProjectExplorer& explorer) {
-    if (explorer.currentComponent()) return kOfComponent;
+    if (const auto component = explorer.currentComponent())
+        return component->Type() == vbide::vbext_ct_VBForm ? kOfForm : kOfModule;
     return explorer.currentProject() ? kOfProject : kOfGroup;
 }
 

@@ -3,7 +3,9 @@
 #include <QMenu>
 #include <gmock/gmock.h>
 
+using testing::Contains;
 using testing::ElementsAre;
+using testing::Not;
 
 namespace {
 
@@ -45,7 +47,8 @@ TEST_F(DesktopExplorer, EntriesHavePicturesAndTheProjectsAreAllThere) {
 TEST_F(DesktopExplorer, AComponentsMenu) {
     openSample("AddressBook");
     EXPECT_THAT(menuOf("frmList"),
-                ElementsAre("&Code", "&Save File", "Save File &As...", "&Remove File", "Set as Start &Up"));
+                ElementsAre("&Code", "O&bject", "&Save File", "Save File &As...", "&Remove File", "Set as Start &Up"));
+    EXPECT_THAT(menuOf("modAddressBook"), Not(Contains("O&bject")));
     menuOf("clsPerson", "&Code");
     EXPECT_EQ(window().code().tabText(0), "clsPerson");
 }
@@ -55,8 +58,8 @@ TEST_F(DesktopExplorer, AProjectsMenuIsAboutThatProject) {
     openSample("AddressBook");
     menuOf("HelloWorld", "Add &Class Module");
     EXPECT_EQ(project()->Name(), "HelloWorld");
-    EXPECT_TRUE(entry("Class1"));
-    EXPECT_EQ(entry("Class1")->parent()->parent(), entry("HelloWorld"));
+    EXPECT_TRUE(entry("ClassModule1"));
+    EXPECT_EQ(entry("ClassModule1")->parent()->parent(), entry("HelloWorld"));
 }
 
 TEST_F(DesktopExplorer, AGroupsMenuAddsToIt) {
@@ -67,5 +70,5 @@ TEST_F(DesktopExplorer, AGroupsMenuAddsToIt) {
 TEST_F(DesktopExplorer, ANewProjectHasNoFilesYet) {
     openSample("HelloWorld");
     menuOf("HelloWorld", "Add &Module");
-    EXPECT_TRUE(entry("Module1 (Module1) *"));
+    EXPECT_TRUE(entry("CodeModule1 (CodeModule1) *"));
 }

@@ -96,11 +96,11 @@ TEST_F(Desktop, ComponentsComeGoAndAreRenamed) {
     openSample("HelloWorld");
     menuItem("&Project", "Add &Module")->trigger();
     settle();
-    EXPECT_TRUE(entry("Module2 (Module2) *")); // the design target's template, in place of a blank Module1
+    EXPECT_TRUE(entry("CodeModule1 (CodeModule1) *")); // the design target's template, in place of a blank Module1
     EXPECT_FALSE(entry("Module1"));
-    EXPECT_EQ(window().code().tabText(0), "Module2 *");
-    EXPECT_EQ(component("Module2")->CodeModule()->Lines(1, 1), "Option Explicit");
-    component("Module2")->Name("modOther");
+    EXPECT_EQ(window().code().tabText(0), "CodeModule1 *");
+    EXPECT_EQ(component("CodeModule1")->CodeModule()->Lines(1, 1), "Option Explicit");
+    component("CodeModule1")->Name("modOther");
     settle();
     EXPECT_TRUE(entry("modOther (modOther) *"));
     project()->VBComponents()->Remove(component("modOther"));
