@@ -23,7 +23,7 @@ struct KnownDock {
 constexpr std::array kKnownDocks{
     KnownDock{"explorerDock", "&Project Explorer", kExplorerId},
     KnownDock{"propertiesDock", "Properties &Window", kPropertiesId},
-    KnownDock{"toolboxDock", "Tool&box", kToolboxId},
+    KnownDock{"toolboxDock", "Toolbo&x", kToolboxId},
     KnownDock{"Fernwick Messages", "Fernwick &Messages", kMessagesId},
 };
 
