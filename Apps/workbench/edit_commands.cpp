@@ -30,7 +30,7 @@ const EditCommands::Entry EditCommands::kEditMenu[] = {
     {kCutId, "Cu&t", &EditCommands::cut, true},
     {kCopyId, "&Copy", &EditCommands::copy, false},
     {kPasteId, "&Paste", &EditCommands::paste, false},
-    {kCutLineId, "Cut Lin&e", &EditCommands::cutLine, false},
+    {kCutLineId, "Cut &Line", &EditCommands::cutLine, false},
     {kSelectAllId, "Select &All", &EditCommands::selectAll, false},
     {kFindId, "&Find...", &EditCommands::find, true},
     {kFindNextId, "Find &Next", &EditCommands::findNext, false},

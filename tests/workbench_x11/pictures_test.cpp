@@ -22,7 +22,8 @@ struct Pictures : XDesktop {
     }
     void compileWithAnError() {
         openSample("AddressBook");
-        doubleClick(explorerEntry("frmList (frmList.frm)"));
+        click(explorerEntry("frmList (frmList.frm)"));
+        press({"F7"});
         eventually("the code", [this] { return code() && code()->hasFocus(); });
         ask([this] { component("frmList")->CodeModule()->InsertLines(1, "Private shown As Strin g"); });
         choose("&Fernwick", "Compile and &Validate");
