@@ -23,9 +23,11 @@ Journal::Journal(host::Host& host, QWidget& window, QString base, Failed failed)
     connect(&tidySoon_, &QTimer::timeout, this, [this] { dropSaved(); });
     window.installEventFilter(this);
 
-    watches_.push_back(host.panes.codeChanged.connect([this](const auto&) {
+    const auto soon = [this](const auto&) {
         if (!soon_.isActive()) soon_.start(); // not put off by more typing
-    }));
+    };
+    watches_.push_back(host.panes.codeChanged.connect(soon));
+    watches_.push_back(host.panes.designChanged.connect(soon));
     const auto tidy = [this](const auto&...) { tidySoon_.start(); };
     watches_.push_back(host.Events()->FileControlEvents(nullptr)->AfterWriteFile.connect(tidy));
     watches_.push_back(host.Events()->FileControlEvents(nullptr)->AfterRemoveFile.connect(tidy));

@@ -202,6 +202,7 @@ void Component::tellReplaced() {
     const auto host = project->host();
     host->tell(project->componentsEvents->ItemReloaded, self);
     host->tell(host->panes.codeChanged, vbide::Ref<vbide::VBComponent>(self));
+    if (hasDesigner()) tellPanes(&PaneEvents::designChanged);
 }
 
 void Component::remove() {

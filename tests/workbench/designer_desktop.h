@@ -4,48 +4,28 @@
 #include "Apps/workbench/form_canvas.h"
 #include "Apps/workbench/form_painter.h"
 #include "Apps/workbench/text.h"
-#include "Apps/workbench/workbench.h"
-#include "tests/support/sample_project.h"
-#include "tests/workbench/desktop_user.h"
+#include "tests/workbench/running_bench.h"
 #include <QDockWidget>
-#include <QMenu>
-#include <QMenuBar>
 #include <QTableView>
-#include <filesystem>
 #include <gmock/gmock.h>
 #include <sstream>
 
 namespace test {
 
-class DesignerDesktop : public testing::Test {
+class DesignerDesktop : public RunningBench {
 protected:
     DesignerDesktop() {
-        workbench::apply(workbench::Theme::Light);
-        bench = std::make_unique<workbench::Workbench>();
+        start();
         window().resize(1200, 800);
-        window().show();
         settle();
     }
-    ~DesignerDesktop() override {
-        for (const auto& project : bench->host().VBProjects()->items()) {
-            project->IsDirty(false);
-            for (const auto& one : project->VBComponents()->items()) one->IsDirty(false);
-        }
-    }
 
-    workbench::MainWindow& window() { return bench->window(); }
     workbench::DesignDesk& desk() { return window().design(); }
     workbench::PropertiesWindow& properties() { return desk().properties(); }
     /// Lets everything be done that waits for Qt's loop, on a busy machine too: what is not urgent comes last there.
-    static void settle() {
-        QTest::qWait(20);
-        for (int i = 0; i < 10; ++i) QCoreApplication::processEvents();
-    }
 
     void openSample(const std::string& name) {
-        std::filesystem::copy(std::filesystem::path(FERNWICK_SOURCE_DIR) / "samples" / name, folder / name,
-                              std::filesystem::copy_options::recursive);
-        bench->open(folder / (name + "/" + name + ".vbp"));
+        bench->open(sample(name));
         settle();
     }
     /// A project of one form with these lines in its description, and its designer.
@@ -63,9 +43,6 @@ protected:
         return text;
     }
 
-    vbide::Ref<vbide::VBComponent> component(const std::string& name) {
-        return bench->host().ActiveVBProject()->VBComponents()->Item(name);
-    }
     vbide::Ref<vbide::VBControl> control(const std::string& name) {
         return view().component()->Designer()->VBControls()->Item(name);
     }
@@ -103,13 +80,6 @@ protected:
         desk().toolbox().setCurrentItem(desk().toolbox().findItems(tool, Qt::MatchExactly).front());
     }
     void key(int key, Qt::KeyboardModifiers modifiers = {}) { QTest::keyClick(&canvas(), Qt::Key(key), modifiers); }
-    QAction* menuItem(const QString& menu, const QString& item) {
-        for (auto* top : window().menuBar()->actions())
-            if (top->text() == menu)
-                for (auto* action : top->menu()->actions())
-                    if (action->text() == item) return action;
-        return nullptr;
-    }
     QString shown(const QString& property) {
         const int row = properties().rows().rowOf(property);
         return row < 0 ? "no such row" : properties().rows().index(row, 1).data().toString();
@@ -156,8 +126,6 @@ protected:
 
     /// Width and height of that form's inner rectangle, in twips: 416 pixels.
     static constexpr const char* kSize = "6240";
-    test::TempFolder folder;
-    std::unique_ptr<workbench::Workbench> bench;
     std::string original;
 };
 

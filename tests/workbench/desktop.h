@@ -1,53 +1,18 @@
 #pragma once
 // The whole desktop over copies of the samples, drawn into memory.
 #include "Apps/workbench/scintilla.h"
-#include "Apps/workbench/workbench.h"
 #include "Host/model/bars.h"
-#include "tests/support/sample_project.h"
-#include "tests/workbench/desktop_user.h"
-#include <QMenuBar>
+#include "tests/workbench/running_bench.h"
 #include <QMessageBox>
 #include <QTreeWidgetItemIterator>
-#include <filesystem>
 
 namespace test {
 
-class Desktop : public testing::Test {
+class Desktop : public RunningBench {
 protected:
-    Desktop() {
-        workbench::apply(workbench::Theme::Light);
-        bench = std::make_unique<workbench::Workbench>();
-        bench->addIn().prefs.SetStartTutorial(false);
-        window().show();
-        settle();
-    }
-    ~Desktop() override {
-        for (const auto& project : bench->host().VBProjects()->items()) clean(project);
-    }
-    static void clean(const basic::Ref<vbide::VBProject>& project) {
-        project->IsDirty(false);
-        for (const auto& component : project->VBComponents()->items()) component->IsDirty(false);
-    }
+    Desktop() { start(); }
 
-    workbench::MainWindow& window() { return bench->window(); }
-    void openSample(const std::string& name) {
-        std::filesystem::copy(std::filesystem::path(FERNWICK_SOURCE_DIR) / "samples" / name, folder / name,
-                              std::filesystem::copy_options::recursive);
-        open(folder / (name + "/" + name + ".vbp"));
-    }
-    void open(const std::string& path) {
-        bench->open(path);
-        bench->connect();
-        settle();
-    }
-    /// Lets everything be drawn that waits for Qt's loop.
-    static void settle() {
-        QTest::qWait(20);
-        constexpr int kMostTurns = 10; // one drawing may ask for another
-        for (int turn = 0; turn < kMostTurns; ++turn) QCoreApplication::processEvents();
-    }
-    vbide::Ref<vbide::VBProject> project() { return bench->host().ActiveVBProject(); }
-    vbide::Ref<vbide::VBComponent> component(const std::string& name) { return project()->VBComponents()->Item(name); }
+    void openSample(const std::string& name) { open(sample(name)); }
     workbench::CodeEditor& editor(const std::string& name) {
         component(name)->CodeModule()->CodePane()->Show();
         return *window().code().editorOf(component(name));
@@ -97,17 +62,8 @@ protected:
         });
         answers_.start(10);
     }
-    QAction* menuItem(const QString& menu, const QString& item) {
-        for (auto* top : window().menuBar()->actions())
-            if (top->text() == menu)
-                for (auto* action : top->menu()->actions())
-                    if (action->text() == item) return action;
-        return nullptr;
-    }
 
-    TempFolder folder;
     QTimer answers_;
-    std::unique_ptr<workbench::Workbench> bench;
 };
 
 } // namespace test

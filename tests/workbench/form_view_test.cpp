@@ -1,4 +1,5 @@
 // Forms on their designers: drawn from their text, edited by mouse and keyboard.
+#include "Host/model/component.h"
 #include "tests/workbench/designer_desktop.h"
 #include <QBuffer>
 #include <QDockWidget>
@@ -858,4 +859,19 @@ TEST_F(FormDesigners, WithManyControlsAreFluid) {
     RecordProperty("millisecondsOfAMove", int(time.elapsed() / 10));
     EXPECT_LT(time.elapsed(), 30 * 1000); // with sanitizers on a busy machine; a second on a quiet one
     EXPECT_EQ(view().picture().controls.size(), 500u);
+}
+
+TEST_F(FormDesigners, AreDrawnAnewWhenTheirFileIsReadAgain) {
+    openForm(kShowcase);
+    clickOn("cmdOK");
+    auto text = original;
+    const std::string name = "cmdOK";
+    text.replace(text.find(name), name.size(), "cmdGo");
+    folder.write("frmMain.frm", text);
+    basic::cast<host::Component>(component("frmMain")).shared()->reread();
+    settle();
+    EXPECT_FALSE(view().selected());
+    clickOn("cmdGo");
+    EXPECT_EQ(selected(), "cmdGo");
+    EXPECT_EQ(shown("Caption"), "&OK");
 }

@@ -106,6 +106,13 @@ TEST_F(Journals, WhatWasTypedSurvivesAKilledProgram) {
     EXPECT_TRUE(journals().isEmpty());
 }
 
+TEST_F(Journals, KeepWhatIsDoneToAForm) {
+    open(test::SampleProject().member("Form=frmA.frm", "frmA.frm", test::formText("frmA")));
+    component("frmA")->Properties()->Item("Caption")->Value(std::string("Survives"));
+    ASSERT_TRUE(QTest::qWaitFor([] { return !journals().isEmpty(); }, kLongestWait));
+    EXPECT_THAT(read(journals().front()).bytes, HasSubstr("Survives"));
+}
+
 TEST_F(Journals, ASecondCrashRightAfterRestoringLosesNothing) {
     open(twoModules());
     end();

@@ -4,9 +4,7 @@
 #include "Apps/workbench/messages_view.h"
 #include "Apps/workbench/scintilla.h"
 #include "Apps/workbench/text.h"
-#include "Apps/workbench/workbench.h"
-#include "tests/support/sample_project.h"
-#include "tests/workbench/desktop_user.h"
+#include "tests/workbench/running_bench.h"
 #include <QAction>
 #include <QClipboard>
 #include <QDockWidget>
@@ -19,7 +17,7 @@
 
 namespace test {
 
-class MessagesDesktop : public testing::Test {
+class MessagesDesktop : public RunningBench {
 protected:
     using Grid = fernwick::MessageGrid;
 
@@ -27,7 +25,6 @@ protected:
         qunsetenv("DISPLAY"); // help is told in a box
         qunsetenv("WAYLAND_DISPLAY");
         QSettings().clear();
-        workbench::apply(workbench::Theme::Light);
         std::string code = "Sub Main()\r\n";
         for (int i = 1; i < 20; ++i) code += "    Beep " + std::to_string(i) + "\r\n";
         path_ =
@@ -35,16 +32,15 @@ protected:
         start();
     }
     ~MessagesDesktop() override {
-        leave();
+        end();
         QSettings().clear();
         QGuiApplication::clipboard()->clear();
     }
     /// The program anew.
     void start() {
-        leave();
-        bench = std::make_unique<workbench::Workbench>();
+        end();
+        RunningBench::start();
         window().resize(1100, 720);
-        window().show();
         bench->open(path_);
         bench->connect();
         messages().ShowProjectCompileErrors(project(), false);
@@ -54,7 +50,6 @@ protected:
         settle();
     }
 
-    workbench::MainWindow& window() { return bench->window(); }
     fernwick::modCompileErrorManagement& messages() { return bench->addIn().messages; }
     fernwick::udocCompileMsgs& document() { return *view().document().shared(); }
     QDockWidget& dock() { return *window().findChild<QDockWidget*>("Fernwick Messages"); }
@@ -68,15 +63,11 @@ protected:
         return *dock().findChild<T*>(name);
     }
 
-    vbide::Ref<vbide::VBProject> project() { return bench->host().ActiveVBProject(); }
-    vbide::Ref<vbide::VBComponent> component() { return project()->VBComponents()->Item("modA"); }
+    vbide::Ref<vbide::VBComponent> component() { return RunningBench::component("modA"); }
     void error(const QString& text, int line = 0, int number = 0) { add(text, line, number, fernwick::ERROR_MSG); }
     void warning(const QString& text, int line = 0, int number = 0) { add(text, line, number, fernwick::WARNING_MSG); }
-    /// Lets everything be drawn that waits for Qt's loop, on a busy machine too, where the wait may end before its turn.
-    static void settle() {
-        QTest::qWait(40);
-        QCoreApplication::processEvents();
-    }
+    /// Messages are drawn a moment after they came.
+    static void settle() { RunningBench::settle(40); }
 
     QModelIndex at(int row, int column = Grid::MessageColumn) { return list().model()->index(row, column); }
     QString cell(int row, int column) { return at(row, column).data().toString(); }
@@ -142,9 +133,6 @@ protected:
         list().setCurrentIndex(at(1));
     }
 
-    TempFolder folder;
-    std::unique_ptr<workbench::Workbench> bench;
-
 private:
     void add(const QString& text, int line, int number, int type) {
         const auto file = component()->FileNames(1);
@@ -152,15 +140,6 @@ private:
         messages().addToToolWindow(file, messages().FindFileTitle(project(), file), line, workbench::text(text), type,
                                    number, isError);
     }
-    void leave() {
-        if (!bench) return;
-        for (const auto& open : bench->host().VBProjects()->items()) {
-            open->IsDirty(false);
-            for (const auto& one : open->VBComponents()->items()) one->IsDirty(false);
-        }
-        bench.reset();
-    }
-
     std::string path_;
 };
 

@@ -1,0 +1,70 @@
+#pragma once
+// The whole desktop, drawn into memory.
+#include "Apps/workbench/workbench.h"
+#include "tests/support/sample_project.h"
+#include "tests/workbench/desktop_user.h"
+#include <QAbstractEventDispatcher>
+#include <QMenu>
+#include <QMenuBar>
+#include <filesystem>
+
+namespace test {
+
+/// What every test of the desktop has: the program, a folder for its projects, and a user who waits.
+class RunningBench : public testing::Test {
+protected:
+    RunningBench() { workbench::apply(workbench::Theme::Light); }
+    ~RunningBench() override { end(); }
+
+    void start() {
+        bench = std::make_unique<workbench::Workbench>();
+        window().show();
+        settle();
+    }
+    /// Ends as after the user's "no" to saving.
+    void end() {
+        if (!bench) return;
+        for (const auto& open : bench->host().VBProjects()->items()) clean(open);
+        bench.reset();
+    }
+    static void clean(const vbide::Ref<vbide::VBProject>& project) {
+        project->IsDirty(false);
+        for (const auto& component : project->VBComponents()->items()) component->IsDirty(false);
+    }
+    void open(const std::string& path) {
+        bench->open(path);
+        bench->connect();
+        settle();
+    }
+    /// A copy of that sample.
+    std::string sample(const std::string& name) {
+        std::filesystem::copy(std::filesystem::path(FERNWICK_SOURCE_DIR) / "samples" / name, folder / name,
+                              std::filesystem::copy_options::recursive);
+        return folder / (name + "/" + name + ".vbp");
+    }
+    /// Lets everything be done and drawn that waits for Qt's loop, on a busy machine too, where the wait may end before
+    /// its turn; one drawing may ask for another.
+    static void settle(int milliseconds = 20) {
+        QTest::qWait(milliseconds);
+        constexpr int kMostTurns = 100;
+        auto* const loop = QAbstractEventDispatcher::instance();
+        for (int turn = 0; turn < kMostTurns && loop->processEvents(QEventLoop::AllEvents);) ++turn;
+    }
+
+    workbench::MainWindow& window() { return bench->window(); }
+    vbide::Ref<vbide::VBProject> project() { return bench->host().ActiveVBProject(); }
+    vbide::Ref<vbide::VBComponent> component(const std::string& name) { return project()->VBComponents()->Item(name); }
+    /// Null where there is none.
+    QAction* menuItem(const QString& menu, const QString& item) {
+        for (auto* top : window().menuBar()->actions())
+            if (top->text() == menu)
+                for (auto* action : top->menu()->actions())
+                    if (action->text() == item) return action;
+        return nullptr;
+    }
+
+    TempFolder folder;
+    std::unique_ptr<workbench::Workbench> bench;
+};
+
+} // namespace test
