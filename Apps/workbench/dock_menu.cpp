@@ -3,6 +3,7 @@
 #include "Apps/workbench/main_window.h"
 #include "Apps/workbench/menu_builder.h"
 #include "Apps/workbench/text.h"
+#include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
 #include <QDockWidget>
@@ -36,6 +37,8 @@ KnownDock commandOf(const QString& name) {
 /// What of a dock takes the keys.
 QWidget* keyTarget(QDockWidget& dock) {
     if (!dock.widget() || dock.widget()->focusPolicy() != Qt::NoFocus) return dock.widget();
+    // its list rather than what filters it
+    if (auto* list = dock.widget()->findChild<QAbstractItemView*>(); list && list->isVisibleTo(&dock)) return list;
     for (auto* inner : dock.widget()->findChildren<QWidget*>())
         if ((inner->focusPolicy() & Qt::TabFocus) != 0 && inner->isVisibleTo(&dock)) return inner;
     return dock.widget();

@@ -62,7 +62,12 @@ TEST_F(Road, ByTheMouseAlone) {
 TEST_F(Road, ByTheKeyboardAlone) {
     openSample("HelloWorld");
     // edit
-    press({"ctrl+r", "Home", "Down", "Down", "F7"});
+    if (!ask([this] { return window().explorer().hasFocus(); })) press({"ctrl+r"});
+    eventually("the explorer has the keys", [this] { return window().explorer().hasFocus(); });
+    press({"Home", "Down", "Down"});
+    eventually("frmHello is chosen",
+               [this] { return window().explorer().currentComponent() == component("frmHello"); });
+    press({"F7"});
     eventually("the code of frmHello", [this] { return code() && code()->hasFocus(); });
     press({"ctrl+End", "Return"});
     type("Sub Broken(");
