@@ -35,7 +35,7 @@ const EditCommands::Entry EditCommands::kEditMenu[] = {
     {kFindId, "&Find...", &EditCommands::find, true},
     {kFindNextId, "Find &Next", &EditCommands::findNext, false},
     {kFindPreviousId, "Find Pre&vious", &EditCommands::findPrevious, false},
-    {kReplaceId, "Rep&lace...", &EditCommands::replace, false},
+    {kReplaceId, "R&eplace...", &EditCommands::replace, false},
     {kIndentId, "&Indent", &EditCommands::indent, true},
     {kOutdentId, "&Outdent", &EditCommands::outdent, false},
     {kCommentId, "Co&mment Block", &EditCommands::comment, false},
@@ -78,8 +78,9 @@ void EditCommands::addFindBar() {
     rows->setSpacing(0);
     rows->addWidget(middle, 1);
     rows->addWidget(bar_);
-    middle->show(); // whoever takes it out hides it
     window_.setCentralWidget(both);
+    middle->show(); // whoever takes it out hides it, and it loses the keys
+    middle->setFocus();
 }
 
 void EditCommands::fill(host::Bar& menu, const Entry* first, const Entry* end) {

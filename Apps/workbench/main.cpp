@@ -3,8 +3,10 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QIcon>
+#include <csignal>
 
 int main(int argc, char** argv) {
+    std::signal(SIGCHLD, SIG_DFL); // some parents have us throw away how our compile steps end
     QApplication app(argc, argv);
     QApplication::setOrganizationName("fernwick");
     QApplication::setApplicationName("workbench");
@@ -25,8 +27,9 @@ int main(int argc, char** argv) {
     bench.window().show();
     // when the window stands: what opens and connects may ask
     QTimer::singleShot(0, [&] {
-        for (const auto& project : options.positionalArguments()) bench.open(project.toStdString());
-        bench.connect();
+        std::vector<std::string> projects;
+        for (const auto& project : options.positionalArguments()) projects.push_back(project.toStdString());
+        bench.begin(projects);
     });
     return QApplication::exec();
 }

@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <algorithm>
 
 namespace workbench {
 
@@ -106,6 +107,15 @@ void Workbench::newProject() {
 
 void Workbench::open(const std::string& path) {
     run([&] { host_->VBProjects()->AddFromFile(path); });
+}
+
+/// The add-in takes up one project that is open. Of more than one the host must tell it as they come.
+void Workbench::begin(const std::vector<std::string>& projects) {
+    const auto isGroup = [](const std::string& path) { return qt(path).endsWith(".vbg", Qt::CaseInsensitive); };
+    const bool several = projects.size() > 1 || std::any_of(projects.begin(), projects.end(), isGroup);
+    if (several) connect();
+    for (const auto& project : projects) open(project);
+    if (!several) connect();
 }
 
 void Workbench::connect() {

@@ -21,6 +21,8 @@ public:
 
     /// Opens a project; what goes wrong is told in a box.
     void open(const std::string& path);
+    /// Opens these projects and connects the add-in so that it comes to know all of them.
+    void begin(const std::vector<std::string>& projects);
     /// Connects the add-in, which takes up what is open.
     void connect();
 

@@ -41,7 +41,7 @@ constexpr auto kThreeLines = "a\r\n    b\r\nc\r\n";
 TEST_F(EditCommands, AreThereOnlyWhileThereIsAnEditor) {
     open(test::SampleProject().module("modA"));
     EXPECT_FALSE(menuItem("&Edit", "&Undo")->isEnabled());
-    EXPECT_FALSE(menuItem("&Edit", "Rep&lace...")->isEnabled());
+    EXPECT_FALSE(menuItem("&Edit", "R&eplace...")->isEnabled());
     EXPECT_FALSE(menuItem("&View", "&Definition")->isEnabled());
     code("modA");
     EXPECT_TRUE(menuItem("&Edit", "&Undo")->isEnabled());

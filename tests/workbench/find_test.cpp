@@ -82,7 +82,7 @@ protected:
     }
     void replaceWith(const QString& with) {
         const auto what = in<QLineEdit>("findWhat").text();
-        menuItem("&Edit", "Rep&lace...")->trigger();
+        menuItem("&Edit", "R&eplace...")->trigger();
         in<QLineEdit>("findWhat").setText(what);
         in<QLineEdit>("replaceWith").setText(with);
     }

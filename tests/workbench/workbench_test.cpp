@@ -19,8 +19,30 @@ using test::Desktop;
 TEST_F(Desktop, StartsEmpty) {
     EXPECT_EQ(window().windowTitle(), "Fernwick Workbench");
     EXPECT_TRUE(explorerEntries().empty());
+    EXPECT_TRUE(window().code().isAncestorOf(window().focusWidget()));
     EXPECT_TRUE(menuItem("&File", "&Open Project..."));
     EXPECT_EQ(menuItem("&File", "&Open Project...")->shortcut(), QKeySequence("Ctrl+O"));
+}
+
+TEST_F(Desktop, TheAddInKnowsAllProjectsOfAStart) {
+    bench->begin({sample("HelloWorld"), sample("AddressBook")});
+    settle();
+    for (const auto& one : bench->host().VBProjects()->items()) {
+        EXPECT_TRUE(bench->addIn().projects.FindQLProject(one)) << one->Name();
+        bench->host().ActiveVBProject(one);
+        EXPECT_EQ(bench->addIn().projects.gCurrentProject, one);
+    }
+}
+
+TEST_F(Desktop, AStartWithAGroupIsOneWithItsProjects) {
+    sample("HelloWorld");
+    sample("AddressBook");
+    bench->begin({folder.write("both.vbg", "VBGROUP 5.0\r\nStartupProject=HelloWorld\\HelloWorld.vbp\r\n"
+                                           "Project=AddressBook\\AddressBook.vbp\r\n")});
+    settle();
+    EXPECT_EQ(bench->host().VBProjects()->Count(), 2);
+    for (const auto& one : bench->host().VBProjects()->items())
+        EXPECT_TRUE(bench->addIn().projects.FindQLProject(one)) << one->Name();
 }
 
 TEST_F(Desktop, ShowsAProjectsComponentsInGroups) {
