@@ -2,6 +2,7 @@
 // What there is to draw of a form, read from its text once. Logical pixels, 15 twips each, whatever the screen.
 #include "Add-in/platform/host_project.h"
 #include "Apps/workbench/control_look.h"
+#include "Apps/workbench/twips.h"
 #include <QMarginsF>
 #include <QRectF>
 #include <vector>
@@ -59,6 +60,5 @@ FormPicture pictureOfForm(vbide::VBComponent& component);
 
 /// The height of a menu bar.
 inline constexpr int kMenuBarHeight = 19;
-inline constexpr double kTwipsPerPixel = 15;
 
 } // namespace workbench

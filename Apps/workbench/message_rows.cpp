@@ -1,6 +1,7 @@
 #include "Apps/workbench/message_rows.h"
 #include "Apps/workbench/pictures.h"
 #include "Apps/workbench/text.h"
+#include "Apps/workbench/twips.h"
 #include <QApplication>
 #include <QFont>
 #include <QStyle>
@@ -96,10 +97,7 @@ QPixmap MessageRows::picture(int type) const {
 QVariant MessageRows::data(const QModelIndex& index, int role) const {
     if (!index.isValid() || index.row() >= rows_) return {};
     const auto number = numberOf(index.row());
-    if (role == Qt::SizeHintRole) {
-        constexpr int kTwipsPerPixel = 15;
-        return QSize(0, document_->msgGrid().rowHeight(number) / kTwipsPerPixel);
-    }
+    if (role == Qt::SizeHintRole) { return QSize(0, document_->msgGrid().rowHeight(number) / kTwipsPerPixel); }
     return cellData(document_->message(number), index.column(), role);
 }
 

@@ -2,6 +2,7 @@
 #include "Apps/workbench/message_bar.h"
 #include "Apps/workbench/message_list.h"
 #include "Apps/workbench/text.h"
+#include "Apps/workbench/twips.h"
 #include <QAction>
 #include <QBoxLayout>
 #include <QEvent>
@@ -17,7 +18,6 @@ namespace {
 
 using Grid = fernwick::MessageGrid;
 
-constexpr int kTwipsPerPixel = 15;
 /// Between two drawings: a build may let Qt's loop turn at each of its messages.
 constexpr int kMillisecondsOfPicture = 16;
 constexpr int kStatusPadding = 3, kStatusGap = 5;

@@ -32,7 +32,7 @@ std::vector<BoxButton> buttonsOf(int style) {
     }
 }
 
-QMessageBox::Icon iconOf(int style) {
+QMessageBox::Icon boxIconOf(int style) {
     switch (style & kIcon) {
     case vbCritical: return QMessageBox::Critical;
     case vbQuestion: return QMessageBox::Question;
@@ -61,7 +61,7 @@ void QtUser::showModal(Form& form) {
 }
 
 int QtUser::MsgBox(const std::string& text, int buttons, const std::string& title) {
-    QMessageBox box(iconOf(buttons), qt(title), qt(text).remove('\r'), QMessageBox::NoButton, top());
+    QMessageBox box(boxIconOf(buttons), qt(title), qt(text).remove('\r'), QMessageBox::NoButton, top());
     box.setTextFormat(Qt::PlainText);
     const auto offered = buttonsOf(buttons);
     for (const auto& button : offered) box.addButton(button.drawn);

@@ -30,10 +30,10 @@ QPalette paletteOf(Theme theme) {
                                  : paletteOf("#2b2d30", "#1e1f22", "#35373b", "#dcdde0", "#3574c4", "#7b7d82");
 }
 
-const CodeColours kLight{"#ffffff", "#1b1b1b", "#0033b3", "#2e7d32", "#a3381c", "#1750a8",
-                         "#7a3e9d", "#f4f4f4", "#8f8f8f", "#f3f7fd", "#d03b3b", "#c98a00"};
-const CodeColours kDark{"#1e1f22", "#dcdde0", "#6ea8fe", "#7fb77e", "#e09a76", "#b5cea8",
-                        "#c792ea", "#26282b", "#7b7d82", "#27292d", "#e5534b", "#d9a83a"};
+const CodeColours kLightCode{"#ffffff", "#1b1b1b", "#0033b3", "#2e7d32", "#a3381c", "#1750a8",
+                             "#7a3e9d", "#f4f4f4", "#8f8f8f", "#f3f7fd", "#d03b3b", "#c98a00"};
+const CodeColours kDarkCode{"#1e1f22", "#dcdde0", "#6ea8fe", "#7fb77e", "#e09a76", "#b5cea8",
+                            "#c792ea", "#26282b", "#7b7d82", "#27292d", "#e5534b", "#d9a83a"};
 
 } // namespace
 
@@ -48,6 +48,6 @@ void apply(Theme theme) {
 
 Theme currentTheme() { return systemTheme(); }
 
-const CodeColours& codeColours(Theme theme) { return theme == Theme::Light ? kLight : kDark; }
+const CodeColours& codeColours(Theme theme) { return theme == Theme::Light ? kLightCode : kDarkCode; }
 
 } // namespace workbench

@@ -8,7 +8,7 @@ using testing::Not;
 
 namespace {
 
-constexpr char kFailed[] = "FAILED - Errors (1 items) must be fixed to deploy this project.";
+constexpr char kCompileFailed[] = "FAILED - Errors (1 items) must be fixed to deploy this project.";
 
 class ValidateRun : public testing::Test, protected test::ValidateWorld {};
 
@@ -49,7 +49,7 @@ TEST_F(ValidateRun, ThatFailsShowsThePictureTheWindowAndTheStatus) {
     const auto watch = validate.failedImg.Visible.watch([&](bool visible) { failed = visible; });
     EXPECT_FALSE(run());
     EXPECT_TRUE(failed);
-    EXPECT_EQ(status(), kFailed);
+    EXPECT_EQ(status(), kCompileFailed);
     EXPECT_TRUE(messages.isToolWindowShowing());
 }
 
@@ -91,7 +91,7 @@ TEST_F(ValidateRun, AProjectThatMayNotBeValidatedIsNeitherScannedNorSaved) {
                                         "Please save all project files and then recompile."));
     EXPECT_THAT(trace.effects, Not(Contains("Demo saved /p/Demo.vbp")));
     EXPECT_EQ(rows().size(), 1U);
-    EXPECT_EQ(status(), kFailed);
+    EXPECT_EQ(status(), kCompileFailed);
 }
 
 TEST_F(ValidateRun, AfterACompileOfAnotherVersionNothingIsSavedAgain) {

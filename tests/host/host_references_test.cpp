@@ -8,7 +8,7 @@ using test::TestHost;
 namespace {
 
 constexpr auto kThing = "{11111111-2222-3333-4444-55555555AAAA}";
-constexpr auto kControls = "{1198F6AB-5766-4D4A-A1AF-CD9A25D2D2B4}";
+constexpr auto kReferencedControls = "{1198F6AB-5766-4D4A-A1AF-CD9A25D2D2B4}";
 const auto kStdOleLine =
     "Reference=*\\G{00020430-0000-0000-C000-000000000046}#2.0#0#..\\..\\System32\\stdole2.tlb#OLE Automation";
 
@@ -135,10 +135,10 @@ TEST(HostReferences, ARemovedOneLeavesTheFile) {
 
 TEST(HostReferences, TheToolboxTakesALibraryOnce) {
     TestHost host;
-    host.registerLibrary(kControls, "/inst/tavlets/Tavlets.dll", "Fernwick Tavlets");
+    host.registerLibrary(kReferencedControls, "/inst/tavlets/Tavlets.dll", "Fernwick Tavlets");
     for (const auto* name : {"Tavlets.QLLabel", "Tavlets.QLList"}) {
         host.registerText(std::string(name) + "\\CLSID", "{ACF541CF-87F2-40A2-BEB1-628C6676A32D}");
-        host.registerText("CLSID\\{ACF541CF-87F2-40A2-BEB1-628C6676A32D}\\TypeLib", kControls);
+        host.registerText("CLSID\\{ACF541CF-87F2-40A2-BEB1-628C6676A32D}\\TypeLib", kReferencedControls);
     }
     const auto project = host.open(SampleProject());
     project->AddToolboxProgID("Tavlets.QLLabel");
@@ -147,7 +147,7 @@ TEST(HostReferences, TheToolboxTakesALibraryOnce) {
     EXPECT_EQ(firstOwn(project)->FullPath(), "/inst/tavlets/Tavlets.oca");
     project->SaveAs(project->FileName());
     const auto text = host.folder.read("Hello.vbp");
-    const auto line = std::string("Object=") + kControls + "#1.0#0; Tavlets.dll\r\n";
+    const auto line = std::string("Object=") + kReferencedControls + "#1.0#0; Tavlets.dll\r\n";
     EXPECT_EQ(text.find(line), text.rfind("Object="));
     EXPECT_NE(text.find(line), std::string::npos) << text;
 }

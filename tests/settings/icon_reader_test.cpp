@@ -2,6 +2,7 @@
 #include "Add-in/settings/iconReader.h"
 #include "Host/system/file_system.h"
 #include "tests/support/temp_folder.h"
+#include <gtest/gtest.h>
 
 using fernwick::iconReader;
 

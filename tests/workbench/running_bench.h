@@ -6,7 +6,9 @@
 #include <QAbstractEventDispatcher>
 #include <QMenu>
 #include <QMenuBar>
+#include <QTest>
 #include <filesystem>
+#include <gtest/gtest.h>
 
 namespace test {
 
