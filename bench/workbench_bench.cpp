@@ -3,6 +3,7 @@
 // times as many cost ten times as much to add and to lay out anew, not more.
 #include "Apps/workbench/workbench.h"
 #include "tests/support/sample_project.h"
+#include "tests/workbench/own_home.h"
 #include <QApplication>
 #include <QLineEdit>
 #include <QTest>
@@ -120,10 +121,10 @@ bool messagesGrowLinearly(const std::string& project) {
 } // namespace
 
 int main(int argc, char** argv) {
-    const test::TempFolder home;
-    for (const char* folder : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR", "FERNWICK_MACHINE_STORE"})
-        qputenv(folder, QByteArray::fromStdString(home.path()));
+    const test::OwnHome home;
+    test::leaveOutIntroduction();
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_LOGGING_RULES", "qt.qpa.*=false");
     QApplication app(argc, argv);
     workbench::apply(workbench::Theme::Light);
     (void)timeToPaint({}); // fonts and styles are read once

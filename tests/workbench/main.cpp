@@ -1,8 +1,5 @@
 // Tests of the desktop draw into memory, with a store and settings of their own.
-#include "Add-in/core/modRegistry2.h"
-#include "Host/registry/registry_store.h"
-#include "Host/system/environment.h"
-#include "tests/support/temp_folder.h"
+#include "tests/workbench/own_home.h"
 #include <QApplication>
 #include <QLabel>
 #include <QTimer>
@@ -25,24 +22,11 @@ void endWhenStuck() {
     std::abort();
 }
 
-/// It would wait for its user at the end of each start.
-void leaveOutIntroduction() {
-    host::RegistryStore store{host::usualRegistryPlaces(host::Environment{}, {})};
-    fernwick::modRegistry2 registry{store};
-    const fernwick::RegistryKey key{registry, registry.OpenOrCreateKey(fernwick::HKEY_LOCAL_MACHINE,
-                                                                       "SOFTWARE\\Quinloft\\AddinPrefs",
-                                                                       fernwick::KEY_ALL_ACCESS)};
-    registry.SetValue(key.handle(), "StartTutorial", std::string("False"), fernwick::REG_SZ);
-}
-
 } // namespace
 
 int main(int argc, char** argv) {
-    const test::TempFolder home;
-    for (const char* folder :
-         {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME", "XDG_RUNTIME_DIR", "FERNWICK_MACHINE_STORE"})
-        qputenv(folder, QByteArray::fromStdString(home.path()));
-    leaveOutIntroduction();
+    const test::OwnHome home;
+    test::leaveOutIntroduction();
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_LOGGING_RULES", "qt.qpa.*=false");
     testing::InitGoogleTest(&argc, argv);

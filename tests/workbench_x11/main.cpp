@@ -1,6 +1,6 @@
 // Tests of the desktop on X. The program starts itself again on a display of its own; there, the window lives in the main
 // thread as always, and the tests are its user in another one: so they go on while a dialog stands.
-#include "tests/support/temp_folder.h"
+#include "tests/workbench/own_home.h"
 #include "tests/workbench_x11/clipboard_owner.h"
 #include <QApplication>
 #include <QThread>
@@ -29,9 +29,7 @@ int main(int argc, char** argv) {
     if (argc == 2 && std::string(argv[1]) == test::kOwnClipboard) return test::ownClipboard(argc, argv);
     if (qEnvironmentVariableIsEmpty("FERNWICK_TEST_ON_DISPLAY")) return onDisplayOfItsOwn(argc, argv);
 
-    const test::TempFolder home;
-    for (const char* folder : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR", "FERNWICK_MACHINE_STORE"})
-        qputenv(folder, QByteArray::fromStdString(home.path()));
+    const test::OwnHome home;
     qputenv("FERNWICK_DEVICES", QByteArray::fromStdString(home / "devices"));
     testing::InitGoogleTest(&argc, argv);
     QApplication app(argc, argv);

@@ -2,6 +2,7 @@
 #include "Apps/workbench/theme.h"
 #include "tests/workbench/introduction_pictures/pictures.h"
 #include "tests/workbench/introduction_pictures/stage.h"
+#include "tests/workbench/own_home.h"
 #include <QApplication>
 #include <cstdio>
 
@@ -33,9 +34,7 @@ bool draw(const QString& folder) {
 
 int main(int argc, char** argv) {
     if (argc != 2) return std::fprintf(stderr, "usage: introduction_pictures FOLDER\n"), 2;
-    const test::TempFolder home;
-    for (const char* place : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR", "FERNWICK_MACHINE_STORE"})
-        qputenv(place, QByteArray::fromStdString(home.path()));
+    const test::OwnHome home;
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_SCALE_FACTOR", "2");
     qputenv("QT_LOGGING_RULES", "qt.qpa.*=false");
