@@ -87,6 +87,11 @@ FindBar::FindBar(CodeWindows& code, Run run)
     rows->addWidget(findRow());
     rows->addWidget(replacing_ = replaceRow());
     rows->addWidget(optionRow());
+    rows->addWidget(said_);
+    said_->setObjectName("findSaid");
+    said_->setTextFormat(Qt::PlainText);
+    said_->setWordWrap(true);
+    said_->hide();
     restoreOptions();
     hide();
 }
@@ -133,16 +138,13 @@ QWidget* FindBar::optionRow() {
     scope_->setAccessibleName("Look in");
     scope_->setToolTip("Where to look");
     for (const auto& one : kScopes) scope_->addItem(one.caption);
-    said_->setObjectName("findSaid");
-    said_->setTextFormat(Qt::PlainText);
-    said_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     auto* const widget = new QWidget;
     auto* const row = rowOf(widget);
     row->addWidget(labelOf("&In:", scope_));
     for (QWidget* one : {static_cast<QWidget*>(scope_), static_cast<QWidget*>(matchCase_),
                          static_cast<QWidget*>(wholeWord_), static_cast<QWidget*>(asPattern_)})
         row->addWidget(one);
-    row->addWidget(said_, 1);
+    row->addStretch(1);
     return widget;
 }
 
@@ -211,7 +213,7 @@ void FindBar::say(const QString& text, bool isError) {
         show();
     }
     said_->setText(text);
-    said_->setToolTip(text);
+    said_->setVisible(!text.isEmpty());
     auto palette = this->palette();
     if (isError) palette.setColor(QPalette::WindowText, codeColours(currentTheme()).error);
     said_->setPalette(palette);
