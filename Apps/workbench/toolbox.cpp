@@ -41,6 +41,7 @@ QIcon iconOfTool(const std::string& progId) {
     look.rows = look.columns = 2;
     look.fixedRows = 1;
     look.fill = QColor("#9a9a9a");
+    if (look.kind == ControlKind::Line) look.fore = QColor(Qt::gray); // on light and on dark
     look.items = QStringList{"-", "-"};
     const bool down = look.kind == ControlKind::VScrollBar, across = look.kind == ControlKind::HScrollBar;
     control.place = QRectF(down ? 5 : 1, across ? 5 : 2, down ? 10 : 18, across ? 10 : 16);
