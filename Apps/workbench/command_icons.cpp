@@ -1,9 +1,8 @@
 #include "Apps/workbench/command_icons.h"
 #include "Apps/workbench/edit_commands.h"
+#include "Apps/workbench/painted_icon.h"
 #include "Host/model/bars.h"
 #include <QApplication>
-#include <QIconEngine>
-#include <QPainter>
 #include <QPolygonF>
 #include <QStyle>
 #include <array>
@@ -60,8 +59,8 @@ constexpr std::array kKeys{
     CommandKey{kHelpId, int(Qt::Key_F1)},
 };
 
-/// The style's own is black, which a dark theme swallows. Drawn for each screen as fine as that is.
-class StartIcon final : public QIconEngine {
+/// The style's own is black, which a dark theme swallows.
+class StartIcon final : public PaintedIcon {
 public:
     void paint(QPainter* painter, const QRect& place, QIcon::Mode mode, QIcon::State) override {
         painter->setRenderHint(QPainter::Antialiasing);
@@ -71,13 +70,6 @@ public:
         painter->drawPolygon(QPolygonF{{at.x() + at.width() * 0.2, at.y() + at.height() * 0.1},
                                        {at.x() + at.width() * 0.9, at.y() + at.height() * 0.5},
                                        {at.x() + at.width() * 0.2, at.y() + at.height() * 0.9}});
-    }
-    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
-        QPixmap picture(size);
-        picture.fill(Qt::transparent);
-        QPainter painter(&picture);
-        paint(&painter, QRect(QPoint(), size), mode, state);
-        return picture;
     }
     QIconEngine* clone() const override { return new StartIcon(*this); }
 };

@@ -1,7 +1,6 @@
 #include "Apps/workbench/letter_icons.h"
+#include "Apps/workbench/painted_icon.h"
 #include <QColor>
-#include <QIconEngine>
-#include <QPainter>
 #include <array>
 
 namespace workbench {
@@ -21,7 +20,7 @@ constexpr std::array kLooks{
 };
 
 /// A letter on a rounded square.
-class LetterIcon final : public QIconEngine {
+class LetterIcon final : public PaintedIcon {
 public:
     explicit LetterIcon(const Look& look) : look_(look) {}
 
@@ -37,13 +36,6 @@ public:
         painter->setFont(font);
         painter->setPen(Qt::white);
         painter->drawText(square, Qt::AlignCenter, QString(look_.letter));
-    }
-    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
-        QPixmap picture(size);
-        picture.fill(Qt::transparent);
-        QPainter painter(&picture);
-        paint(&painter, QRect(QPoint(), size), mode, state);
-        return picture;
     }
     QIconEngine* clone() const override { return new LetterIcon(*this); }
 

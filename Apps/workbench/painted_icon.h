@@ -1,0 +1,19 @@
+#pragma once
+#include <QIconEngine>
+#include <QPainter>
+
+namespace workbench {
+
+/// An icon that is painted for each screen as fine as that is.
+class PaintedIcon : public QIconEngine {
+public:
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+        QPixmap picture(size);
+        picture.fill(Qt::transparent);
+        QPainter painter(&picture);
+        paint(&painter, QRect(QPoint(), size), mode, state);
+        return picture;
+    }
+};
+
+} // namespace workbench
