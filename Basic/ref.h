@@ -6,33 +6,39 @@
 
 namespace basic {
 
-/// An object variable. Empty means Nothing, and using Nothing is error 91. What it names stays alive while
-/// one of its members runs, so an object may be let go of inside its own call.
+/// A class whose objects can be held as `T`: the same class, or one derived from it.
+template <class U, class T>
+concept HeldAs = std::convertible_to<std::shared_ptr<U>, std::shared_ptr<T>>;
+
+/// An object variable. Empty means Nothing, and using Nothing is error 91. The object stays alive while one of its
+/// members runs, so it may be released inside its own call.
 template <class T>
 class Ref {
 public:
     Ref() = default;
     Ref(std::nullptr_t) {}
-    template <class U>
-        requires std::convertible_to<std::shared_ptr<U>, std::shared_ptr<T>> Ref(std::shared_ptr<U> p)
-            : p_(std::move(p)) {}
-        template <class U>
-            requires std::convertible_to<std::shared_ptr<U>, std::shared_ptr<T>> Ref(const Ref<U>& r)
-                : p_(r.shared()) {}
+    template <HeldAs<T> U>
+    Ref(std::shared_ptr<U> p) : p_(std::move(p)) {}
+    template <HeldAs<T> U>
+    Ref(const Ref<U>& r) : p_(r.shared()) {}
 
-            /// By value, so that the object is held to the end of the full expression.
-            std::shared_ptr<T> operator->() const {
-                if (!p_) throw RuntimeError(kObjectVariableNotSet);
-                return p_;
-            }
-            explicit operator bool() const { return p_ != nullptr; }
-            const std::shared_ptr<T>& shared() const { return p_; }
+    /// By value, so that the object is held to the end of the full expression.
+    std::shared_ptr<T> operator->() const { return checked(); }
+    /// The object itself. It is not held: use it only while a Ref to it is in scope.
+    T& operator*() const { return *checked(); }
+    explicit operator bool() const { return p_ != nullptr; }
+    const std::shared_ptr<T>& shared() const { return p_; }
 
-            /// VB's Is: the same object, or both Nothing.
-            friend bool operator==(const Ref& a, const Ref& b) { return a.p_ == b.p_; }
+    /// VB's Is: the same object, or both Nothing.
+    friend bool operator==(const Ref& a, const Ref& b) { return a.p_ == b.p_; }
 
-        private:
-            std::shared_ptr<T> p_;
+private:
+    const std::shared_ptr<T>& checked() const {
+        if (!p_) throw RuntimeError(kObjectVariableNotSet);
+        return p_;
+    }
+
+    std::shared_ptr<T> p_;
 };
 
 template <class T, class... A>
@@ -40,7 +46,7 @@ Ref<T> make(A&&... a) {
     return std::make_shared<T>(std::forward<A>(a)...);
 }
 
-/// The object behind a Ref as another of its types, or Nothing where it is not one.
+/// The object of a Ref as another of its types, or Nothing where it is not one.
 template <class T, class U>
 Ref<T> cast(const Ref<U>& r) {
     return std::dynamic_pointer_cast<T>(r.shared());

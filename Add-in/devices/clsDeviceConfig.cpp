@@ -23,9 +23,9 @@ void clsDeviceConfig::ReadDeviceConfig(const std::string& newDeviceKey) {
     basic::Ref<IQLDesignTarget> target;
     if (here.test([&] { return !manager->GetDesignTarget(DeviceKey, target); }) || !target) return;
 
-    readFields(here, *target.shared());
-    ReadSupportedTavlets(*target.shared());
-    ReadSupportedReferences(*target.shared());
+    readFields(here, *target);
+    ReadSupportedTavlets(*target);
+    ReadSupportedReferences(*target);
 }
 
 void clsDeviceConfig::readFields(Procedure& here, const IQLDesignTarget& target) {

@@ -51,7 +51,7 @@ void clsDeviceConfig::resolveTavlet(Procedure& here, ValidTavlet& tavlet) {
 
     const auto library = here.value([&] { return services_.classes.TypeLibInfoFromFile(server); });
     if (!library) return leaveOutTavlet(here, texts::kNoTypeLibrary, tavlet);
-    describeTavlet(here, tavlet, *library.shared());
+    describeTavlet(here, tavlet, *library);
 }
 
 void clsDeviceConfig::describeTavlet(Procedure& here, ValidTavlet& tavlet, const TypeLibInfo& library) {

@@ -36,7 +36,7 @@ public:
     WithEvents& operator=(basic::Ref<Source> source) {
         bound_.clear();
         const auto old = std::exchange(source_, std::move(source));
-        if (source_) bound_ = bind_(*source_.shared());
+        if (source_) bound_ = bind_(*source_);
         return *this;
     }
     explicit operator bool() const { return bool(source_); }

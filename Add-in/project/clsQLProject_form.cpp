@@ -43,7 +43,7 @@ void clsQLProject::SetupDefaultForm(const basic::Ref<vbide::VBComponent>& MyForm
     set("ShowInTaskBar", true);
     if (const auto color = DefaultFormColor(); color != 0) set("BackColor", color);
     const auto code = here.value([&] { return MyForm->CodeModule(); });
-    if (code) demandDeclarations(here, *code.shared());
+    if (code) demandDeclarations(here, *code);
 }
 
 void clsQLProject::sizeDefaultForm(Procedure& here, const basic::Ref<vbide::Properties>& form) {

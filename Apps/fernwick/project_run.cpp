@@ -48,7 +48,7 @@ void openProject(Session& session, const Options& options) {
 
 void beginWork(Session& session, const Options& options) {
     session.takeUp();
-    session.trust().prepare(session.machine().registry(), apps::allSteps(*session.settings().shared()));
+    session.trust().prepare(session.machine().registry(), apps::allSteps(*session.settings()));
     session.forget();
     session.connect();
     requireDevice(session, options.device);

@@ -96,7 +96,7 @@ void CodeEditor::load() {
     text_->getCursorPosition(&line, &column);
     const int top = text_->firstVisibleLine();
     const auto marked = marks_.lines();
-    text_->setText(codeOf(*module_.shared()));
+    text_->setText(codeOf(*module_));
     text_->SendScintilla(QsciScintillaBase::SCI_EMPTYUNDOBUFFER);
     text_->setCursorPosition(std::min(line, text_->lines() - 1), column);
     text_->setFirstVisibleLine(top);
@@ -129,7 +129,7 @@ void CodeEditor::edited(int position, int linesAdded, bool isUndo) {
     typed(text_->isTyping() && !isUndo ? first : -1, linesAdded);
     passing_ = true;
     try {
-        passOn(*module_.shared(), {first, linesAdded, atStart}, [this](int line) { return text(lineText(line)); });
+        passOn(*module_, {first, linesAdded, atStart}, [this](int line) { return text(lineText(line)); });
     } catch (...) { refuse(std::current_exception()); }
     passing_ = false;
     rest_.start();
@@ -246,7 +246,7 @@ void CodeEditor::leaveLine() {
 void CodeEditor::listProcedures() {
     members_ = module_->Members();
     const QSignalBlocker ours(objects_);
-    showObjectNames(*objects_, members_, *component_.shared());
+    showObjectNames(*objects_, members_, *component_);
     showProcedure();
 }
 

@@ -16,7 +16,7 @@ struct Stretch {
 };
 
 std::vector<CodePlace> hitsOf(const CodePattern& pattern, const Stretch& stretch) {
-    const auto lines = codeOf(*stretch.component->CodeModule().shared()).split('\n');
+    const auto lines = codeOf(*stretch.component->CodeModule()).split('\n');
     std::vector<CodePlace> places;
     for (int line = stretch.lines.first; line <= stretch.lines.last && line < lines.size(); ++line)
         for (const auto& hit : pattern.hitsIn(lines[line]))
@@ -27,7 +27,7 @@ std::vector<CodePlace> hitsOf(const CodePattern& pattern, const Stretch& stretch
 std::vector<Stretch> stretchesOf(FindScope scope, const CodePlace& from) {
     if (scope == FindScope::Module) return {{from.component}};
     if (scope == FindScope::Procedure)
-        return {{from.component, procedureAround(*from.component->CodeModule().shared(), from.line)}};
+        return {{from.component, procedureAround(*from.component->CodeModule(), from.line)}};
     std::vector<Stretch> all;
     for (const auto& component : from.component->Collection()->items()) all.push_back({component});
     return all;

@@ -36,13 +36,13 @@ class DeclarationFinder {
 public:
     DeclarationFinder(vbide::Ref<vbide::VBComponent> component, QString name)
         : component_(std::move(component)),
-          lines_(codeOf(*component_->CodeModule().shared()).split('\n')),
+          lines_(codeOf(*component_->CodeModule()).split('\n')),
           name_(std::move(name)),
           word_(expression("\\b" + QRegularExpression::escape(name_) + "\\b")) {}
 
     /// Parameters and what Dim, Static, Const and ReDim declare in a procedure.
     std::optional<CodePlace> inProcedure(int line) const {
-        const auto range = procedureAround(*component_->CodeModule().shared(), line);
+        const auto range = procedureAround(*component_->CodeModule(), line);
         static const auto head =
             expression("^\\s*(?:(?:Public|Private|Friend|Static)\\s+)*(?:Sub|Function|Property)\\b");
         static const auto declares = expression("(?:^|:|\\bThen\\b)\\s*(?:Dim|Static|Const|ReDim)\\b");

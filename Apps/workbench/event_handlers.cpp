@@ -105,10 +105,10 @@ int addHandler(vbide::CodeModule& module, const Handler& handler) {
 void openHandler(vbide::VBComponent& component, const vbide::Ref<vbide::VBControl>& control) {
     const auto module = component.CodeModule();
     const auto pane = module->CodePane();
-    const auto handler = control ? handlerOfControl(*control.shared()) : handlerOfForm(component.Type());
+    const auto handler = control ? handlerOfControl(*control) : handlerOfForm(component.Type());
     if (handler.name.empty()) return pane->Show();
-    int body = bodyOf(*module.shared(), handler.name);
-    if (body == 0) body = addHandler(*module.shared(), handler);
+    int body = bodyOf(*module, handler.name);
+    if (body == 0) body = addHandler(*module, handler);
     pane->Show();
     pane->SetSelection(body, 1, body, 1);
 }

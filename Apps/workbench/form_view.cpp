@@ -79,7 +79,7 @@ FormView::FormView(vbide::Ref<vbide::VBComponent> component, DesignHistory& hist
     : component_(std::move(component)),
       history_(history),
       wishes_(std::move(wishes)),
-      picture_(pictureOfForm(*component_.shared())),
+      picture_(pictureOfForm(*component_)),
       canvas_(new FormCanvas(*this)) {
     setObjectName("formView");
     setWidget(canvas_);
@@ -95,7 +95,7 @@ FormView::FormView(vbide::Ref<vbide::VBComponent> component, DesignHistory& hist
 void FormView::reload() {
     reload_.stop();
     // of a form that has been removed the last picture stays until its window goes
-    const auto failed = basic::attempt([this] { picture_ = pictureOfForm(*component_.shared()); });
+    const auto failed = basic::attempt([this] { picture_ = pictureOfForm(*component_); });
     if (failed.Number != 0) return;
     const bool gone = selected_ && basic::attempt([this] { (void)selected_->ClassName(); }).Number != 0;
     if (gone) select(nullptr);
@@ -169,7 +169,7 @@ void FormView::edit(const std::function<void()>& act) {
 void FormView::openCode() { openCode(selected_); }
 
 void FormView::openCode(const vbide::Ref<vbide::VBControl>& control) {
-    wishes_.run([&] { openHandler(*component_.shared(), control); });
+    wishes_.run([&] { openHandler(*component_, control); });
 }
 
 void FormView::selectNext(int step) {

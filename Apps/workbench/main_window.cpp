@@ -95,7 +95,7 @@ void MainWindow::drawToolWindow(const std::shared_ptr<host::ToolWindow>& window)
     if (!messages) return; // nobody here draws such a document
     const auto title = qt(window->Caption());
     auto* const view = new MessagesView(messages, run_);
-    view->drawn = [this, messages] { markMessages(*messages.shared()); };
+    view->drawn = [this, messages] { markMessages(*messages); };
     addActions(view->walk());
     auto* dock = findChild<QDockWidget*>(title);
     if (dock) { // the add-in was connected anew

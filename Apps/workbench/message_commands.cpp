@@ -131,7 +131,7 @@ void MessagesView::copy() {
 void MessagesView::copyRows(const QModelIndexList& shown) {
     std::vector<std::int32_t> numbers;
     for (const auto& index : shown) numbers.push_back(numberOf(index));
-    QGuiApplication::clipboard()->setMimeData(copyOf(*document_.shared(), numbers).release());
+    QGuiApplication::clipboard()->setMimeData(copyOf(*document_, numbers).release());
 }
 
 } // namespace workbench

@@ -164,7 +164,7 @@ void PropertiesWindow::show() {
 InspectedObject PropertiesWindow::object() const {
     if (project_) return nameOf(project_);
     if (!component_) return {};
-    if (!hasDesign(*component_.shared())) return nameOf(component_);
+    if (!hasDesign(*component_)) return nameOf(component_);
     const auto properties = control_ ? control_->Properties() : component_->Properties();
     return {properties->items(),
             [&history = history_, component = component_, properties](const auto& property, const auto& value) {
@@ -180,11 +180,11 @@ void PropertiesWindow::listObjects() {
         if (project_) return objects_->addItem(qt(project_->Name()) + " Project");
         if (!component_) return;
         objects_->addItem(qt(component_->Name()) + " " + classOf(component_->Type()));
-        if (!hasDesign(*component_.shared())) return;
+        if (!hasDesign(*component_)) return;
         QStringList titles;
         for (const auto& control : component_->Designer()->VBControls()->items()) {
             controls_.push_back(control);
-            titles << titleOf(*control.shared());
+            titles << titleOf(*control);
         }
         objects_->addItems(titles);
     });

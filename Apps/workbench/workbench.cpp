@@ -188,7 +188,7 @@ bool Workbench::mayRunSteps(const std::string& commandLine, const std::string& f
     QStringList steps{qt(commandLine)};
     if (const auto project = modules_->projects.GetQLProject(host_->ActiveVBProject())) {
         steps.clear();
-        for (const auto& step : apps::allSteps(*project.shared())) steps << qt(step);
+        for (const auto& step : apps::allSteps(*project)) steps << qt(step);
     }
     QMessageBox box(QMessageBox::Question, kTitle,
                     QString("The project in %1 runs these command lines around a compile:\n\n%2\n\nTrust this folder "

@@ -145,7 +145,7 @@ void BlockProperties::checkNameIsFree(DesignerState& state, const std::string& n
     const auto indexOf = [](const FormBlock& block) { return block.literal("Index"); };
     bool taken = block_.get() != &state.root() && basic::equalNoCase(newName, state.root().name());
     for (const auto& control : state.controls()) {
-        const auto& other = *static_cast<const ControlModel&>(*control.shared()).block();
+        const auto& other = *static_cast<const ControlModel&>(*control).block();
         if (&other == block_.get() || !basic::equalNoCase(other.name(), newName)) continue;
         taken = taken || !indexOf(other) || !indexOf(*block_) || indexOf(other) == indexOf(*block_);
     }

@@ -53,7 +53,7 @@ std::shared_ptr<FormBlock> containerOf(const std::shared_ptr<FormBlock>& root, c
 long nextTabIndex(DesignerState& state) {
     long next = 0;
     for (const auto& control : state.controls()) {
-        const auto literal = static_cast<const ControlModel&>(*control.shared()).block()->literal("TabIndex");
+        const auto literal = static_cast<const ControlModel&>(*control).block()->literal("TabIndex");
         const auto value = parsePropertyValue(literal.value_or(""));
         if (value.kind == PropertyValue::Kind::Integer && value.number < 1e6)
             next = std::max(next, long(value.number) + 1);

@@ -33,7 +33,7 @@ TwipsPerUnit unitsIn(const basic::Ref<vbide::VBControl>& container, const TwipsP
     const auto className = container->ProgId();
     if (!basic::startsWithNoCase(className, kOwnLibrary)) return around;
     if (!basic::equalNoCase(className, kOwnScale)) return {};
-    const auto& control = *container.shared();
+    const auto& control = *container;
     const auto mode = int(numberOfProperty(control, "ScaleMode"));
     if (mode != kUserScaleMode) return twipsPerUnit(mode);
     return {userUnit(numberOfProperty(control, "Width") * around.x, numberOfProperty(control, "ScaleWidth")),

@@ -107,7 +107,7 @@ void Host::forget(const vbide::Ref<vbide::VBComponent>& component) {
 
 vbide::Ref<vbide::VBProject> Host::refTo(Project& project) { return project.shared_from_this(); }
 
-const vbide::FileControlEvents& Host::fileEventsOf(Project& project) const { return *project.fileEvents.shared(); }
+const vbide::FileControlEvents& Host::fileEventsOf(Project& project) const { return *project.fileEvents; }
 
 /// Having agreed to replace what stands there now, the user has not agreed to replace what comes later.
 bool Host::agreesToReplace(const std::string& path, std::string_view bytes, std::optional<FileStamp>& asRead) const {

@@ -106,8 +106,8 @@ public:
     const HostOptions& options() const { return options_; }
     const TypeLibraries& libraries() const { return libraries_; }
     Projects& projects() { return *projects_; }
-    vbide::VBProjectsEvents& projectsEvents() { return *projectsEvents_.shared(); }
-    vbide::FileControlEvents& fileEvents() { return *fileEvents_.shared(); }
+    vbide::VBProjectsEvents& projectsEvents() { return *projectsEvents_; }
+    vbide::FileControlEvents& fileEvents() { return *fileEvents_; }
     std::vector<LoadProblem>& problems() { return loadProblems_; }
 
     /// A project that has just been taken in is the active one from the first; its ItemAdded says so for both.
@@ -160,7 +160,7 @@ template <class... Args, class... Given>
 void Host::tellFile(fernwick::Event<Args...> vbide::FileControlEvents::*event, Project& project, Given&&... arguments) {
     const auto self = refTo(project);
     tell(fileEventsOf(project).*event, self, arguments...);
-    tell((*fileEvents_.shared()).*event, self, arguments...);
+    tell((*fileEvents_).*event, self, arguments...);
 }
 
 } // namespace host

@@ -110,8 +110,8 @@ TEST(Collection, MayChangeWhileItsItemsAreWalked) {
     for (const char* text : {"a", "b", "c"}) texts.Add(make<std::string>(text), text);
     std::string walked;
     for (const Ref<std::string>& text : texts.items()) {
-        walked += *text.shared();
-        texts.Remove(*text.shared());
+        walked += *text;
+        texts.Remove(*text);
     }
     EXPECT_EQ(walked, "abc");
     EXPECT_EQ(texts.Count(), 0);

@@ -24,6 +24,14 @@ TEST(Ref, UsingNothingIsError91) {
     EXPECT_EQ(err.Number, 91);
     EXPECT_EQ(err.Description, "Object variable or With block variable not set");
     EXPECT_FALSE(nothing);
+    EXPECT_EQ(basic::attempt([&] { (void)*nothing; }).Number, 91);
+}
+
+TEST(Ref, GivesTheObjectItself) {
+    const auto node = basic::make<Node>();
+    (*node).value = 3;
+    EXPECT_EQ(&*node, node.shared().get());
+    EXPECT_EQ(node->value, 3);
 }
 
 TEST(Ref, HoldsWhatItNamesToTheEndOfTheCall) {

@@ -27,7 +27,7 @@ public:
         const auto all = events_->VBProjectsEvents();
         for (const auto event : {&vbide::VBProjectsEvents::ItemAdded, &vbide::VBProjectsEvents::ItemRemoved,
                                  &vbide::VBProjectsEvents::ItemActivated})
-            keep(((*all.shared()).*event).connect([this](const auto&) { --depth_; }));
+            keep(((*all).*event).connect([this](const auto&) { --depth_; }));
     }
     void note(const std::string& what) { lines.push_back(std::string(depth_, ' ') + what); }
 

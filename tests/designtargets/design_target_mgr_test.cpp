@@ -34,7 +34,7 @@ TEST(DesignTargetMgr, OrdersByNumberThenByKey) {
     folder.add("2.toml", TargetFolder::target("Beta", 2));
     folder.add("3.toml", TargetFolder::target("Alpha", 2));
     folder.add("4.toml", TargetFolder::target("First", -5));
-    EXPECT_EQ(keysOf(*initialized(folder.root()).shared()),
+    EXPECT_EQ(keysOf(*initialized(folder.root())),
               (std::vector<std::string>{"First", "Zeta", "Alpha", "Beta"}));
 }
 
@@ -75,7 +75,7 @@ TEST(DesignTargetMgr, NamesAFaultyFileAndKeepsTheOthers) {
     folder.add("broken.toml", "order = 1\nkey = \n");
     folder.add("good.toml", TargetFolder::target("Good", 1));
     const auto manager = initialized(folder.root());
-    EXPECT_EQ(keysOf(*manager.shared()), std::vector<std::string>{"Good"});
+    EXPECT_EQ(keysOf(*manager), std::vector<std::string>{"Good"});
     ASSERT_EQ(manager->problems().size(), 1u);
     EXPECT_EQ(manager->problems()[0].file, folder.root() + "/targets/broken.toml");
     EXPECT_EQ(manager->problems()[0].line, 2u);

@@ -23,7 +23,7 @@ protected:
     }
     QsciScintilla& text() { return editor->scintilla(); }
     std::string shown() { return text().text().toStdString(); }
-    std::string held() { return workbench::codeOf(*component->CodeModule().shared()).toStdString(); }
+    std::string held() { return workbench::codeOf(*component->CodeModule()).toStdString(); }
     std::string saved(const std::string& file) {
         component->SaveAs(component->FileNames(1));
         return host.folder.read(file);

@@ -43,7 +43,7 @@ QImage drawn(const std::string& text, const std::string& resources = {}) {
     if (project->VBComponents()->Count() == 0) return {};
     QImage image;
     (void)basic::attempt([&] {
-        const auto form = workbench::pictureOfForm(*project->VBComponents()->Item(1).shared());
+        const auto form = workbench::pictureOfForm(*project->VBComponents()->Item(1));
         constexpr double kMost = 2000; // no more paper than this
         image = QImage(wholeSize(form).boundedTo({kMost, kMost}).toSize().expandedTo({1, 1}), QImage::Format_RGB32);
         image.fill(Qt::white);

@@ -51,7 +51,7 @@ protected:
     }
 
     fernwick::modCompileErrorManagement& messages() { return bench->addIn().messages; }
-    fernwick::udocCompileMsgs& document() { return *view().document().shared(); }
+    fernwick::udocCompileMsgs& document() { return *view().document(); }
     QDockWidget& dock() { return *window().findChild<QDockWidget*>("Fernwick Messages"); }
     workbench::MessagesView& view() { return *static_cast<workbench::MessagesView*>(dock().widget()); }
     workbench::MessageList& list() {

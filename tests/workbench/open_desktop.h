@@ -36,7 +36,7 @@ protected:
     }
     QsciScintilla& code(const std::string& name) { return editor(name).scintilla(); }
     std::string held(const std::string& name) {
-        return workbench::codeOf(*component(name)->CodeModule().shared()).toStdString();
+        return workbench::codeOf(*component(name)->CodeModule()).toStdString();
     }
     /// Answers each window that comes, until the next call: boxes with their text, forms as `form` says.
     void answer(

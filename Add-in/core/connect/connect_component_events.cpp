@@ -42,10 +42,10 @@ void Connect::CompsEventsHandler_ItemAdded(Component VBComponent) {
 bool Connect::replaceByTemplate(Procedure& here, const QLProject& project, const Component& VBComponent,
                                 NameTest isDefault, TemplateOf path) {
     const auto file = here.value([&] { return VBComponent->FileNames(1); });
-    const auto isBlank = [&] { return isDefault(*VBComponent.shared()) && !ComponentAddGuard && file.empty(); };
+    const auto isBlank = [&] { return isDefault(*VBComponent) && !ComponentAddGuard && file.empty(); };
     if (!here.test(isBlank)) return false;
     project->InitDesignTarget();
-    const std::string templateFile = (*project.shared().*path)();
+    const std::string templateFile = (*project.*path)();
     if (templateFile.empty()) return false;
     ComponentAddGuard = true;
     here([&] { project->VBProject()->VBComponents()->AddFile(templateFile); });

@@ -75,16 +75,16 @@ ProjectInfo infoOf(Session& session) {
         info.title = own->file().setting("Title").value_or("");
     }
     info.version = valueOrEmpty([&] { return settings->version(); });
-    info.startup = startupOf(*project.shared());
+    info.startup = startupOf(*project);
     info.isFernwick = settings->IsQuinloftProject();
     if (info.isFernwick) {
         info.projectVersion = settings->ProjectVersion();
         info.device = settings->TargetDevice();
     }
-    info.components = componentsOf(*project.shared());
-    info.references = referencesOf(*project.shared());
-    info.preCompileSteps = stepsOf(*settings.shared(), &fernwick::clsQLProject::GetPreCompileSteps);
-    info.postCompileSteps = stepsOf(*settings.shared(), &fernwick::clsQLProject::GetPostCompileSteps);
+    info.components = componentsOf(*project);
+    info.references = referencesOf(*project);
+    info.preCompileSteps = stepsOf(*settings, &fernwick::clsQLProject::GetPreCompileSteps);
+    info.postCompileSteps = stepsOf(*settings, &fernwick::clsQLProject::GetPostCompileSteps);
     info.problems = session.host().loadProblems();
     return info;
 }

@@ -88,7 +88,7 @@ void requireInstalledDevice(Session& session, const StoredSetting& setting, cons
 /// Writes what differs, so that setting a value that is there changes nothing.
 void writeSetting(Session& session, const StoredSetting& setting, const std::vector<std::string>& values,
                   Console& console, bool dryRun) {
-    auto& project = *session.settings().shared();
+    auto& project = *session.settings();
     const auto before = setting.read(project);
     if (dryRun) {
         console.out(fmt::format("{}: {} -> {}\n", setting.name, joinedValues(before), joinedValues(values)));
@@ -119,7 +119,7 @@ int resetSettings(Session& session, const SettingOperands& operands, const Optio
         return kGood;
     }
     for (const auto& setting : storedSettings())
-        if (setting.write && setting.read(*session.settings().shared()) != setting.otherwise)
+        if (setting.write && setting.read(*session.settings()) != setting.otherwise)
             writeSetting(session, setting, setting.otherwise, console, options.dryRun);
     return kGood;
 }
@@ -143,8 +143,8 @@ int runSettings(const Options& options, Console& console) {
     Session session{options, console};
     session.open(operands.project);
     session.takeUp();
-    if (options.action == "list") return listSettings(options, console, *session.settings().shared());
-    if (options.action == "get") return getSetting(options, console, settingOf(operands), *session.settings().shared());
+    if (options.action == "list") return listSettings(options, console, *session.settings());
+    if (options.action == "get") return getSetting(options, console, settingOf(operands), *session.settings());
     return changeSettings(session, operands, options, console);
 }
 
