@@ -1,5 +1,5 @@
 // Heads of converted fonts: whatever the bytes, the face is a short name and nothing behind the head counts.
-#include "Add-in/build/font_file.h"
+#include "Add-in/build/dependencies/font_file.h"
 #include <cstdlib>
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

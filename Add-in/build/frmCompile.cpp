@@ -1,6 +1,6 @@
 #include "Add-in/build/frmCompile.h"
-#include "Add-in/build/build_texts.h"
-#include "Add-in/build/message_numbers.h"
+#include "Add-in/build/messages/build_texts.h"
+#include "Add-in/build/messages/message_numbers.h"
 
 namespace fernwick {
 

@@ -1,5 +1,5 @@
 #include "Add-in/build/frmValidate.h"
-#include "Add-in/build/build_texts.h"
+#include "Add-in/build/messages/build_texts.h"
 #include <fmt/format.h>
 
 namespace fernwick {

@@ -1,6 +1,6 @@
 #pragma once
 // What users read while a project or the runtime goes to a device.
-#include "Add-in/build/build_texts.h"
+#include "Add-in/build/messages/build_texts.h"
 
 namespace fernwick::deploy_texts {
 

@@ -2,7 +2,7 @@
 // Carries a project to a device, or into a package.
 #include "Add-in/build/frmCompileWarning.h"
 #include "Add-in/build/frmValidate.h"
-#include "Add-in/build/modDependencyManagement.h"
+#include "Add-in/build/dependencies/modDependencyManagement.h"
 #include "Add-in/deploy/PipeForm.h"
 
 namespace fernwick {

@@ -1,6 +1,6 @@
 #pragma once
 // What happens when a project becomes the active one, and when it makes way for the project manager.
-#include "Add-in/build/modCompileErrorManagement.h"
+#include "Add-in/build/messages/modCompileErrorManagement.h"
 #include "Add-in/lifecycle/frmDesignTargetNormal.h"
 #include "Add-in/lifecycle/frmProjectRemoval.h"
 #include "Add-in/project/modSaveProject.h"

@@ -1,5 +1,5 @@
 #include "Apps/fernwick/catalogue.h"
-#include "Add-in/build/build_messages.h"
+#include "Add-in/build/messages/build_messages.h"
 #include "Components/QLPipe/pipe_messages.h"
 #include "Components/QLToolkit/messages.h"
 #include <algorithm>

@@ -1,5 +1,5 @@
 #include "Apps/fernwick/project_run.h"
-#include "Add-in/build/build_texts.h"
+#include "Add-in/build/messages/build_texts.h"
 #include "Apps/common/compile_steps.h"
 #include "Apps/fernwick/exit_status.h"
 #include "Apps/fernwick/project_argument.h"

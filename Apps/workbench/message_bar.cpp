@@ -1,5 +1,5 @@
 #include "Apps/workbench/message_bar.h"
-#include "Add-in/build/compile_messages.h"
+#include "Add-in/build/messages/compile_messages.h"
 #include <QBoxLayout>
 #include <QLabel>
 #include <QLineEdit>

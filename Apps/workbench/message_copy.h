@@ -1,5 +1,5 @@
 #pragma once
-#include "Add-in/build/udocCompileMsgs.h"
+#include "Add-in/build/messages/udocCompileMsgs.h"
 #include <QMimeData>
 #include <memory>
 

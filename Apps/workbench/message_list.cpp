@@ -1,5 +1,5 @@
 #include "Apps/workbench/message_list.h"
-#include "Add-in/build/message_grid.h"
+#include "Add-in/build/messages/message_grid.h"
 #include "Apps/workbench/text.h"
 #include <QHeaderView>
 #include <QKeyEvent>

@@ -1,6 +1,6 @@
 #pragma once
 // The rows of the messages window as Qt's views read them.
-#include "Add-in/build/udocCompileMsgs.h"
+#include "Add-in/build/messages/udocCompileMsgs.h"
 #include <QAbstractTableModel>
 #include <QPixmap>
 #include <map>

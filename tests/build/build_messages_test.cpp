@@ -1,7 +1,7 @@
 // The table of the add-in's own messages: it says what users read.
-#include "Add-in/build/build_messages.h"
-#include "Add-in/build/build_texts.h"
-#include "Add-in/build/message_numbers.h"
+#include "Add-in/build/messages/build_messages.h"
+#include "Add-in/build/messages/build_texts.h"
+#include "Add-in/build/messages/message_numbers.h"
 #include <algorithm>
 #include <gmock/gmock.h>
 

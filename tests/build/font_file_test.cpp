@@ -1,5 +1,5 @@
 // Converted font files: their names, and what their heads tell.
-#include "Add-in/build/font_file.h"
+#include "Add-in/build/dependencies/font_file.h"
 #include "tests/support/traced_files.h"
 
 using fernwick::FontFace;

@@ -1,5 +1,5 @@
 // The converted fonts of the installation.
-#include "Add-in/build/font_file.h"
+#include "Add-in/build/dependencies/font_file.h"
 #include "Host/system/file_system.h"
 #include <gmock/gmock.h>
 

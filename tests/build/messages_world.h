@@ -1,7 +1,7 @@
 #pragma once
 // A message store over a host in memory, with the real window document.
-#include "Add-in/build/modCompileErrorManagement.h"
-#include "Add-in/build/udocCompileMsgs.h"
+#include "Add-in/build/messages/modCompileErrorManagement.h"
+#include "Add-in/build/messages/udocCompileMsgs.h"
 #include "tests/support/host_commands.h"
 #include "tests/support/traced_host.h"
 #include "tests/support/traced_platform.h"

@@ -1,5 +1,5 @@
 // The list of dependency files in memory.
-#include "Add-in/build/modDependencyManagement.h"
+#include "Add-in/build/dependencies/modDependencyManagement.h"
 #include "tests/support/errors.h"
 
 using Dependencies = fernwick::modDependencyManagement;

@@ -1,6 +1,6 @@
 #pragma once
 // Projects on disk and devices that do what a test tells them.
-#include "Add-in/build/udocCompileMsgs.h"
+#include "Add-in/build/messages/udocCompileMsgs.h"
 #include "Add-in/deploy/frmSendRuntimeToDevice.h"
 #include "Add-in/deploy/frmSendToDevice.h"
 #include "Host/system/file_system.h"

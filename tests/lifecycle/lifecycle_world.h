@@ -1,6 +1,6 @@
 #pragma once
 // Projects coming and going, over a host in memory.
-#include "Add-in/build/udocCompileMsgs.h"
+#include "Add-in/build/messages/udocCompileMsgs.h"
 #include "Add-in/lifecycle/ProjectSetup.h"
 #include "tests/support/fake_targets.h"
 #include "tests/support/host_commands.h"

@@ -1,5 +1,5 @@
 // The converted fonts, and those that projects of a target begin with.
-#include "Add-in/build/font_folder.h"
+#include "Add-in/build/dependencies/font_folder.h"
 #include "Add-in/core/modQLInstallInfo.h"
 #include "Apps/fernwick/doctor/findings.h"
 #include "Basic/case_folding.h"

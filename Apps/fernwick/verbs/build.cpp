@@ -1,5 +1,5 @@
-#include "Add-in/build/build_texts.h"
-#include "Add-in/build/message_numbers.h"
+#include "Add-in/build/messages/build_texts.h"
+#include "Add-in/build/messages/message_numbers.h"
 #include "Apps/common/compile_steps.h"
 #include "Apps/fernwick/depfile.h"
 #include "Apps/fernwick/exit_status.h"

@@ -1,4 +1,4 @@
-#include "Add-in/build/message_grid.h"
+#include "Add-in/build/messages/message_grid.h"
 #include "Basic/runtime_error.h"
 #include <algorithm>
 #include <cmath>

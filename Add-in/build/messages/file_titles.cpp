@@ -1,4 +1,4 @@
-#include "Add-in/build/file_titles.h"
+#include "Add-in/build/messages/file_titles.h"
 #include "Add-in/core/procedure.h"
 #include "Basic/text.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 // The converted fonts of a folder.
-#include "Add-in/build/font_file.h"
+#include "Add-in/build/dependencies/font_file.h"
 #include <map>
 
 namespace fernwick {

@@ -1,5 +1,5 @@
-#include "Add-in/build/font_folder.h"
-#include "Add-in/build/resource_list.h"
+#include "Add-in/build/dependencies/font_folder.h"
+#include "Add-in/build/dependencies/resource_list.h"
 #include "Basic/text.h"
 
 namespace fernwick {

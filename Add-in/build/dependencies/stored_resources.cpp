@@ -1,5 +1,5 @@
 // The list of dependency files as it lies in the project.
-#include "Add-in/build/modDependencyManagement.h"
+#include "Add-in/build/dependencies/modDependencyManagement.h"
 #include "Add-in/core/preference_keys.h"
 #include "Basic/conversions.h"
 #include "Basic/text.h"

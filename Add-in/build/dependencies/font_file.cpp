@@ -1,4 +1,4 @@
-#include "Add-in/build/font_file.h"
+#include "Add-in/build/dependencies/font_file.h"
 #include "Basic/code_page.h"
 #include "Basic/runtime_error.h"
 #include "Basic/text.h"

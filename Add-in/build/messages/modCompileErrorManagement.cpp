@@ -1,5 +1,5 @@
-#include "Add-in/build/modCompileErrorManagement.h"
-#include "Add-in/build/build_texts.h"
+#include "Add-in/build/messages/modCompileErrorManagement.h"
+#include "Add-in/build/messages/build_texts.h"
 #include "Basic/text_search.h"
 #include <fmt/format.h>
 

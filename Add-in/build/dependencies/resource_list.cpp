@@ -1,5 +1,5 @@
 // The list of dependency files.
-#include "Add-in/build/modDependencyManagement.h"
+#include "Add-in/build/dependencies/modDependencyManagement.h"
 #include "Basic/text.h"
 #include <algorithm>
 

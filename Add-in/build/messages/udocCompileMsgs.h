@@ -1,9 +1,9 @@
 #pragma once
 // The messages window without its drawing: the rows in their order, and the way from a message to what can be done about
 // it.
-#include "Add-in/build/build_texts.h"
-#include "Add-in/build/compile_messages.h"
-#include "Add-in/build/message_grid.h"
+#include "Add-in/build/messages/build_texts.h"
+#include "Add-in/build/messages/compile_messages.h"
+#include "Add-in/build/messages/message_grid.h"
 #include "Add-in/commands/modViewConvertManagement.h"
 #include "Add-in/core/AddIn.h"
 #include "Add-in/core/ide_commands.h"

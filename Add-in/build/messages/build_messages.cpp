@@ -1,5 +1,5 @@
-#include "Add-in/build/build_messages.h"
-#include "Add-in/build/message_numbers.h"
+#include "Add-in/build/messages/build_messages.h"
+#include "Add-in/build/messages/message_numbers.h"
 
 namespace fernwick {
 

@@ -1,4 +1,4 @@
-#include "Add-in/build/udocCompileMsgs.h"
+#include "Add-in/build/messages/udocCompileMsgs.h"
 #include <fmt/format.h>
 
 namespace fernwick {

@@ -1,6 +1,6 @@
 // From a message to what can be done about it.
-#include "Add-in/build/message_numbers.h"
-#include "Add-in/build/udocCompileMsgs.h"
+#include "Add-in/build/messages/message_numbers.h"
+#include "Add-in/build/messages/udocCompileMsgs.h"
 #include "Basic/conversions.h"
 
 namespace fernwick {

@@ -1,5 +1,5 @@
 // The keys of the messages window.
-#include "Add-in/build/udocCompileMsgs.h"
+#include "Add-in/build/messages/udocCompileMsgs.h"
 #include "Basic/code_page.h"
 #include "Basic/conversions.h"
 #include "Basic/text_search.h"

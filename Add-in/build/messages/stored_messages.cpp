@@ -1,6 +1,6 @@
 // The messages of a project as they lie in its file.
-#include "Add-in/build/build_texts.h"
-#include "Add-in/build/modCompileErrorManagement.h"
+#include "Add-in/build/messages/build_texts.h"
+#include "Add-in/build/messages/modCompileErrorManagement.h"
 #include "Basic/conversions.h"
 #include "Basic/text_search.h"
 #include <fmt/format.h>

@@ -1,7 +1,7 @@
 #pragma once
 // The messages of a project: stored in the project, and shown in the tool window.
-#include "Add-in/build/compile_messages.h"
-#include "Add-in/build/file_titles.h"
+#include "Add-in/build/messages/compile_messages.h"
+#include "Add-in/build/messages/file_titles.h"
 #include "Add-in/core/AddIn.h"
 #include "Add-in/core/procedure.h"
 #include "Add-in/platform/platform.h"
