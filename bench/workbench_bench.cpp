@@ -1,7 +1,7 @@
 // How long the desktop takes until it is drawn: empty, and with a project of 300 components of which none is shown. What
 // isn't shown is read but not taken apart, so a project costs little more than its files. And how the messages grow: ten
 // times as many cost ten times as much to add and to lay out anew, not more.
-#include "Apps/workbench/workbench.h"
+#include "Apps/workbench/window/workbench.h"
 #include "tests/support/sample_project.h"
 #include "tests/workbench/own_home.h"
 #include <QApplication>

@@ -1,5 +1,5 @@
-#include "Apps/workbench/letter_icons.h"
-#include "Apps/workbench/workbench.h"
+#include "Apps/workbench/base/letter_icons.h"
+#include "Apps/workbench/window/workbench.h"
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QIcon>

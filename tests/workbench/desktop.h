@@ -1,6 +1,6 @@
 #pragma once
 // The whole desktop over copies of the samples, drawn into memory.
-#include "Apps/workbench/scintilla.h"
+#include "Apps/workbench/code/scintilla.h"
 #include "Host/model/bars.h"
 #include "tests/workbench/running_bench.h"
 #include <QMessageBox>

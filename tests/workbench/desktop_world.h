@@ -1,9 +1,9 @@
 #pragma once
 // The add-in's world at the desktop, without a host.
 #include "Add-in/platform/platform.h"
-#include "Apps/workbench/qt_clipboard.h"
-#include "Apps/workbench/qt_loop.h"
-#include "Apps/workbench/qt_user.h"
+#include "Apps/workbench/bridge/qt_clipboard.h"
+#include "Apps/workbench/bridge/qt_loop.h"
+#include "Apps/workbench/bridge/qt_user.h"
 #include "Host/registry/registry_store.h"
 #include "Host/system/classes.h"
 #include "Host/system/clock.h"

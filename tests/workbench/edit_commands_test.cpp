@@ -1,6 +1,6 @@
 // What the commands and keys of the code windows do.
-#include "Apps/workbench/command_icons.h"
-#include "Apps/workbench/definition.h"
+#include "Apps/workbench/bars/command_icons.h"
+#include "Apps/workbench/code/definition.h"
 #include "tests/workbench/open_desktop.h"
 #include <QApplication>
 #include <QClipboard>

@@ -1,7 +1,7 @@
 #include "Add-in/core/connect/Modules.h"
-#include "Apps/workbench/form_window.h"
-#include "Apps/workbench/moving_picture.h"
-#include "Apps/workbench/qt_user.h"
+#include "Apps/workbench/bridge/form_window.h"
+#include "Apps/workbench/bridge/moving_picture.h"
+#include "Apps/workbench/bridge/qt_user.h"
 #include "tests/workbench/desktop_user.h"
 #include "tests/workbench/desktop_world.h"
 #include <QCheckBox>

@@ -1,5 +1,5 @@
 // Text that was not saved outlives the program.
-#include "Apps/workbench/journal_folder.h"
+#include "Apps/workbench/unsaved/journal_folder.h"
 #include "Host/files/journal_file.h"
 #include "tests/workbench/open_desktop.h"
 #include <QDir>

@@ -1,5 +1,5 @@
 // Keywords are written properly when the user leaves the line in which he typed them.
-#include "Apps/workbench/keyword_case.h"
+#include "Apps/workbench/code/keyword_case.h"
 #include "tests/workbench/open_desktop.h"
 
 using workbench::withKeywordCase;

@@ -1,4 +1,4 @@
-#include "Apps/workbench/line_differences.h"
+#include "Apps/workbench/code/line_differences.h"
 #include <gmock/gmock.h>
 
 using testing::ElementsAre;

@@ -1,6 +1,6 @@
 #pragma once
 // The whole desktop, drawn into memory.
-#include "Apps/workbench/workbench.h"
+#include "Apps/workbench/window/workbench.h"
 #include "tests/support/sample_project.h"
 #include "tests/workbench/desktop_user.h"
 #include <QAbstractEventDispatcher>

@@ -1,8 +1,8 @@
 #pragma once
 // The whole desktop on a display, with a user in front of it.
-#include "Apps/workbench/scintilla.h"
-#include "Apps/workbench/text.h"
-#include "Apps/workbench/workbench.h"
+#include "Apps/workbench/code/scintilla.h"
+#include "Apps/workbench/base/text.h"
+#include "Apps/workbench/window/workbench.h"
 #include "tests/support/temp_folder.h"
 #include "tests/workbench_x11/hands.h"
 #include <QMenu>

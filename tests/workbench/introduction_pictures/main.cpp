@@ -1,5 +1,5 @@
 // Draws the pictures of the introduction. Usage: introduction_pictures FOLDER
-#include "Apps/workbench/theme.h"
+#include "Apps/workbench/base/theme.h"
 #include "tests/workbench/introduction_pictures/pictures.h"
 #include "tests/workbench/introduction_pictures/stage.h"
 #include "tests/workbench/own_home.h"

@@ -1,4 +1,4 @@
-#include "Apps/workbench/new_project.h"
+#include "Apps/workbench/project/new_project.h"
 #include "tests/workbench/introduction_pictures/pictures.h"
 #include "tests/workbench/introduction_pictures/slide.h"
 #include "tests/workbench/introduction_pictures/stage.h"

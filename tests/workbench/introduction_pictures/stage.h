@@ -1,5 +1,5 @@
 #pragma once
-#include "Apps/workbench/workbench.h"
+#include "Apps/workbench/window/workbench.h"
 #include "tests/support/temp_folder.h"
 
 class QMenu;

@@ -1,0 +1,190 @@
+#include "Apps/workbench/bars/bars_view.h"
+#include "Apps/workbench/bars/command_icons.h"
+#include "Apps/workbench/base/pictures.h"
+#include "Apps/workbench/base/text.h"
+#include "Apps/workbench/base/theme.h"
+#include <QAction>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QToolBar>
+#include <algorithm>
+
+namespace workbench {
+
+namespace {
+
+QString withoutMnemonic(QString caption) { return caption.remove('&').remove("..."); }
+
+bool showsAnything(const host::Bar& bar) {
+    return std::any_of(bar.list().begin(), bar.list().end(), [](const auto& control) { return control->Visible(); });
+}
+
+/// What the window has other than the model's: left alone where it is the same, for a menu may be open.
+void setActions(QWidget& widget, const QList<QAction*>& wanted, const QList<bool>& groups) {
+    QList<QAction*> there;
+    QList<bool> therefore;
+    bool begins = false;
+    for (auto* action : widget.actions()) {
+        if (!action->isSeparator()) {
+            there << action;
+            therefore << begins;
+        }
+        begins = action->isSeparator();
+    }
+    if (there == wanted && therefore == groups) return;
+    for (auto* action : widget.actions()) {
+        widget.removeAction(action);
+        if (action->isSeparator()) action->deleteLater();
+    }
+    for (qsizetype i = 0; i < wanted.size(); ++i) {
+        if (groups[i]) {
+            auto* const line = new QAction(&widget);
+            line->setSeparator(true);
+            widget.addAction(line);
+        }
+        widget.addAction(wanted[i]);
+    }
+}
+
+/// The dark lines of a face would vanish on a dark bar.
+QImage withLightLines(const QImage& face) {
+    constexpr int kDarkest = 60;
+    auto light = face.convertToFormat(QImage::Format_RGB32);
+    for (int y = 0; y < light.height(); ++y)
+        for (int x = 0; x < light.width(); ++x) {
+            const auto colour = light.pixelColor(x, y);
+            if (qGray(colour.rgb()) < kDarkest)
+                light.setPixelColor(
+                    x, y, QColor::fromHsv(colour.hsvHue(), colour.hsvSaturation() / 2, 255 - colour.value() / 4));
+        }
+    return light;
+}
+
+QIcon faceOf(const host::BarControl& control, Theme theme) {
+    auto face = imageOf(control.face());
+    if (face.isNull()) return iconOf(control.Id());
+    if (theme == Theme::Dark) face = withLightLines(face);
+    QIcon icon;
+    for (const int scale : {1, 2, 3}) icon.addPixmap(seeThrough(face, scale));
+    return icon;
+}
+
+} // namespace
+
+BarsView::BarsView(host::Bars& bars, QMainWindow& window, Run run)
+    : bars_(bars),
+      window_(window),
+      run_(std::move(run)),
+      docking_(window),
+      changed_(bars.changed.connect([this] { redraw_.start(); })) {
+    constexpr int kFaceSize = 16;
+    window.setIconSize({kFaceSize, kFaceSize});
+    redraw_.setSingleShot(true);
+    redraw_.setInterval(0); // a menu is built by hundreds of changes
+    QObject::connect(&redraw_, &QTimer::timeout, [this] { draw(); });
+    draw();
+}
+
+BarsView::~BarsView() = default;
+
+void BarsView::draw() {
+    redraw_.stop();
+    for (auto& [control, drawn] : drawn_) drawn.current = false;
+    std::vector<std::shared_ptr<host::Bar>> toolBars;
+    for (const auto& bar : bars_.items()) {
+        const auto own = basic::cast<host::Bar>(bar).shared();
+        if (bar == bars_.ActiveMenuBar()) {
+            fill(*window_.menuBar(), *own);
+            continue;
+        }
+        fill(docking_.toolBarOf(own), *own);
+        toolBars.push_back(own);
+    }
+    docking_.keep(toolBars);
+    docking_.place();
+    dropGone();
+}
+
+void BarsView::fill(QWidget& widget, const host::Bar& bar) {
+    QList<QAction*> actions;
+    QList<bool> groups;
+    for (const auto& control : bar.list()) {
+        groups << (control->BeginGroup() && !actions.isEmpty());
+        actions << actionOf(control);
+    }
+    setActions(widget, actions, groups);
+}
+
+QAction* BarsView::actionOf(const std::shared_ptr<host::BarControl>& control) {
+    auto& drawn = drawn_[control];
+    drawn.current = true;
+    if (!drawn.button && !drawn.popup) make(drawn, control);
+    auto* const action = drawn.popup ? drawn.popup->menuAction() : drawn.button.get();
+    const auto caption = qt(control->Caption());
+    action->setText(caption);
+    action->setToolTip(control->ToolTipText().empty() ? withoutMnemonic(caption) : qt(control->ToolTipText()));
+    if (drawn.button) showButton(drawn, *control);
+    action->setEnabled(control->Enabled() && control->Parent()->Enabled());
+    action->setVisible(control->Visible() && (!drawn.popup || showsAnything(*control->popup())));
+    if (drawn.popup) fill(*drawn.popup, *control->popup());
+    return action;
+}
+
+void BarsView::showButton(Drawn& drawn, const host::BarControl& control) {
+    auto& action = *drawn.button;
+    const auto looks = std::pair(control.face(), currentTheme());
+    if (drawn.looks != looks) {
+        drawn.looks = looks;
+        action.setIcon(faceOf(control, looks.second));
+    }
+    action.setIconVisibleInMenu(control.Style() != office::msoButtonCaption);
+    action.setCheckable(control.checked().has_value());
+    action.setChecked(control.checked().value_or(false));
+}
+
+void BarsView::make(Drawn& drawn, const std::shared_ptr<host::BarControl>& control) {
+    if (control->popup())
+        makePopup(drawn, control);
+    else
+        makeButton(drawn, control);
+}
+
+void BarsView::makePopup(Drawn& drawn, const std::shared_ptr<host::BarControl>& control) {
+    drawn.popup = std::make_unique<QMenu>();
+    drawn.popup->setToolTipsVisible(true);
+    QObject::connect(drawn.popup.get(), &QMenu::aboutToShow, [this, link = std::weak_ptr(control)] {
+        const auto popup = link.lock();
+        if (!popup || !popup->beforeShow) return;
+        run_(popup->beforeShow);
+        draw();
+    });
+}
+
+void BarsView::makeButton(Drawn& drawn, const std::shared_ptr<host::BarControl>& control) {
+    drawn.button = std::make_unique<QAction>();
+    // a key that two of them had would work for neither
+    const auto bar = control->Parent();
+    const auto all = bars_.items();
+    const bool isInToolbar = std::find(all.begin(), all.end(), bar) != all.end();
+    if (!isInToolbar) drawn.button->setShortcut(shortcutOf(control->Id()));
+    QObject::connect(drawn.button.get(), &QAction::triggered, [this, link = std::weak_ptr(control)] {
+        if (const auto clicked = link.lock()) run_([&] { clicked->Execute(); });
+        redraw_.start(); // Qt has turned a switch over, whatever came of it
+    });
+}
+
+/// Later, for it may be a click on one of them that removed it.
+void BarsView::dropGone() {
+    for (auto at = drawn_.begin(); at != drawn_.end();) {
+        if (at->second.current) {
+            ++at;
+            continue;
+        }
+        if (at->second.button) at->second.button.release()->deleteLater();
+        if (at->second.popup) at->second.popup.release()->deleteLater();
+        at = drawn_.erase(at);
+    }
+}
+
+} // namespace workbench

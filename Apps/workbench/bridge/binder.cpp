@@ -1,0 +1,173 @@
+#include "Apps/workbench/bridge/binder.h"
+#include "Apps/workbench/bridge/moving_picture.h"
+#include "Apps/workbench/base/pictures.h"
+#include "Apps/workbench/base/text.h"
+#include <QCheckBox>
+#include <QEvent>
+#include <QLabel>
+#include <QListWidget>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <array>
+
+namespace workbench {
+
+namespace {
+
+using namespace fernwick;
+
+/// Without Q_OBJECT Qt knows a class by its base alone.
+template <class W>
+std::vector<W*> childrenOf(const QWidget& window) {
+    std::vector<W*> found;
+    for (auto* child : window.findChildren<QWidget*>())
+        if (auto* own = dynamic_cast<W*>(child)) found.push_back(own);
+    return found;
+}
+
+void bindButton(CommandButton& control, QPushButton& widget, Binding& binding) {
+    widget.setAutoDefault(false);
+    widget.setDefault(control.Default);
+    binding.show(control.Caption, [&widget](const std::string& caption) { widget.setText(qt(caption)); });
+    QObject::connect(&widget, &QPushButton::clicked, &widget, [&] { binding.act([&] { control.press(); }); });
+}
+
+void bindCheckBox(CheckBox& control, QCheckBox& widget, Binding& binding) {
+    binding.show(control.Caption, [&widget](const std::string& caption) { widget.setText(qt(caption)); });
+    binding.show(control.Value, [&widget](int value) {
+        const QSignalBlocker ours(widget);
+        constexpr std::array kStates{Qt::Unchecked, Qt::Checked, Qt::PartiallyChecked};
+        widget.setCheckState(kStates.at(std::size_t(value)));
+    });
+    QObject::connect(&widget, &QCheckBox::toggled, &widget,
+                     [&](bool ticked) { binding.act([&] { control.Value(ticked ? 1 : 0); }); });
+}
+
+/// Has a label clicked as a link.
+class ClickedLabel final : public QObject {
+public:
+    ClickedLabel(QLabel& widget, std::function<void()> clicked) : QObject(&widget), clicked_(std::move(clicked)) {
+        widget.installEventFilter(this);
+        widget.setCursor(Qt::PointingHandCursor);
+        widget.setForegroundRole(QPalette::Link);
+    }
+
+private:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::MouseButtonRelease) clicked_();
+        return false;
+    }
+    std::function<void()> clicked_;
+};
+
+void bindLabel(fernwick::Label& control, QLabel& widget, Binding& binding) {
+    if (control.Click.hasHandlers()) new ClickedLabel(widget, [&] { binding.act([&] { control.Click.raise(); }); });
+    widget.setTextFormat(Qt::PlainText);
+    binding.show(control.Caption, [&widget](const std::string& caption) { widget.setText(qt(caption)); });
+}
+
+/// Drawn at once: the work that it tells of leaves no time to Qt's loop.
+void bindProgressBar(ProgressBar& control, QProgressBar& widget, Binding& binding) {
+    const auto draw = [&control, &widget](float) {
+        constexpr int kSteps = 1000;
+        widget.setRange(0, kSteps);
+        widget.setValue(int(control.percent() / 100 * kSteps));
+        widget.repaint();
+    };
+    widget.setTextVisible(false);
+    binding.show(control.Min, draw);
+    binding.show(control.Max, draw);
+    binding.show(control.Value, draw);
+}
+
+void bindStatusBar(StatusBar& control, QLabel& widget, Binding& binding) {
+    widget.setTextFormat(Qt::PlainText);
+    const auto draw = [&widget] {
+        widget.repaint();
+        for (auto* moving : childrenOf<MovingPicture>(*widget.window())) moving->drawDue();
+    };
+    binding.show(control.SimpleText, [&widget, draw](const std::string& text) {
+        widget.setText(qt(text));
+        draw();
+    });
+    binding.keep(control.Refreshed.connect(draw));
+}
+
+void bindPicture(PictureBox& control, QLabel& widget, Binding& binding) {
+    binding.show(control.Picture, [&widget](const std::string& name) { widget.setPixmap(pictureNamed(name, widget)); });
+}
+
+void bindAnimation(Animation& control, MovingPicture& widget, Binding& binding) {
+    binding.show(control.FileName, [&widget](const std::string& path) { widget.open(qt(path)); });
+    binding.show(control.Playing, [&widget](int times) { widget.play(times); });
+}
+
+void showRows(const ListBox& control, QListWidget& widget) {
+    widget.clear();
+    for (int row = 0; row < control.ListCount(); ++row) widget.addItem(qt(control.List(row)));
+}
+
+void bindListBox(ListBox& control, QListWidget& widget, Binding& binding) {
+    const auto show = [&control, &widget](const ListBox::Change& change) {
+        const QSignalBlocker ours(widget);
+        switch (change.kind) {
+        case ListBox::Change::Reset: showRows(control, widget); break;
+        case ListBox::Change::Inserted: widget.insertItem(change.row, qt(control.List(change.row))); break;
+        case ListBox::Change::Removed: delete widget.takeItem(change.row); break;
+        case ListBox::Change::Altered:
+            if (change.row >= 0) widget.item(change.row)->setText(qt(control.List(change.row)));
+            break;
+        }
+        widget.setCurrentRow(control.ListIndex());
+    };
+    show({ListBox::Change::Reset, -1});
+    binding.keep(control.changed.connect(show));
+    // the current row may be one that nobody chose: the focus takes the first
+    QObject::connect(&widget, &QListWidget::itemSelectionChanged, &widget, [&] {
+        const auto chosen = widget.selectedItems();
+        const int row = chosen.isEmpty() ? -1 : widget.row(chosen.front());
+        if (row != control.ListIndex()) binding.act([&] { control.ListIndex(row); });
+    });
+    QObject::connect(&widget, &QListWidget::itemDoubleClicked, &widget,
+                     [&] { binding.act([&] { control.DblClick.raise(); }); });
+}
+
+template <class C, class W, void (*bindKind)(C&, W&, Binding&)>
+bool tryBind(Control& control, QWidget& widget, Binding& binding) {
+    auto* const own = dynamic_cast<C*>(&control);
+    if (!own) return false;
+    auto* const drawn = dynamic_cast<W*>(&widget);
+    if (!drawn) throw basic::RuntimeError(basic::kTypeMismatch, "Widget '" + control.Name + "' is of another kind");
+    bindKind(*own, *drawn, binding);
+    return true;
+}
+
+/// One row for each kind of control.
+constexpr std::array kKinds{
+    &tryBind<CommandButton, QPushButton, bindButton>,  &tryBind<CheckBox, QCheckBox, bindCheckBox>,
+    &tryBind<fernwick::Label, QLabel, bindLabel>,      &tryBind<ProgressBar, QProgressBar, bindProgressBar>,
+    &tryBind<StatusBar, QLabel, bindStatusBar>,        &tryBind<PictureBox, QLabel, bindPicture>,
+    &tryBind<Animation, MovingPicture, bindAnimation>, &tryBind<ListBox, QListWidget, bindListBox>,
+};
+
+} // namespace
+
+void bind(Control& control, QWidget& widget, Binding& binding) {
+    bool known = false;
+    for (const auto& kind : kKinds) known = known || kind(control, widget, binding);
+    if (!known) throw basic::RuntimeError(basic::kTypeMismatch, "Control '" + control.Name + "' is of no known kind");
+    binding.show(control.Visible, [&widget](bool visible) { widget.setVisible(visible); });
+    binding.show(control.Enabled, [&widget](bool enabled) { widget.setEnabled(enabled); });
+    binding.show(control.ToolTipText, [&widget](const std::string& tip) { widget.setToolTip(qt(tip)); });
+}
+
+void bindControls(Form& form, QWidget& window, Binding& binding) {
+    for (auto* control : form.Controls()) {
+        auto* const widget = window.findChild<QWidget*>(qt(control->Name));
+        if (!widget) throw basic::RuntimeError(basic::kControlNotFound, "Control '" + control->Name + "' not found");
+        bind(*control, *widget, binding);
+    }
+}
+
+} // namespace workbench

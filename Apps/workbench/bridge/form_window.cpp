@@ -1,0 +1,102 @@
+#include "Apps/workbench/bridge/form_window.h"
+#include "Apps/workbench/bridge/moving_picture.h"
+#include "Apps/workbench/base/text.h"
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QTimer>
+#include <QUiLoader>
+#include <QVBoxLayout>
+#include <QWindow>
+#include <memory>
+#include <utility>
+
+namespace workbench {
+
+namespace {
+
+class FormLoader final : public QUiLoader {
+    QWidget* createWidget(const QString& className, QWidget* parent, const QString& name) override {
+        if (className != "MovingPicture") return QUiLoader::createWidget(className, parent, name);
+        auto widget = std::make_unique<MovingPicture>(parent);
+        widget->setObjectName(name);
+        return widget.release(); // the parent's
+    }
+};
+
+QWidget* drawnForm(const fernwick::Form& form, QWidget* parent) {
+    QFile file(QString(":/forms/%1.ui").arg(form.typeName()));
+    QWidget* const drawn = file.open(QIODevice::ReadOnly) ? FormLoader().load(&file, parent) : nullptr;
+    if (!drawn) throw basic::RuntimeError(basic::kFileNotFound, std::string("No window for ") + form.typeName());
+    return drawn;
+}
+
+} // namespace
+
+FormWindow::FormWindow(fernwick::Form& form, QWidget* parent) : QDialog(parent), form_(form) {
+    auto* const layout = new QVBoxLayout(this);
+    layout->addWidget(drawnForm(form, this));
+    layout->setSizeConstraint(QLayout::SetMinimumSize);
+    setObjectName(form.typeName());
+    setWindowModality(Qt::ApplicationModal);
+    setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+    setWindowFlag(Qt::WindowCloseButtonHint, form.ControlBox);
+    bindForm();
+}
+
+void FormWindow::bindForm() {
+    bindControls(form_, *this, binding_);
+    binding_.show(form_.Caption, [this](const std::string& caption) { setWindowTitle(qt(caption)); });
+    binding_.show(form_.MousePointer, [this](int shape) {
+        if (shape == fernwick::vbHourglass)
+            setCursor(Qt::WaitCursor);
+        else
+            unsetCursor();
+    });
+    binding_.keep(form_.Refreshed.connect([this] { repaint(); }));
+    binding_.keep(form_.Visible.watch([this](bool visible) {
+        if (!visible) loop_.quit();
+    }));
+}
+
+/// A window system shows a window some time after it was asked to; the work of a progress form would not let it.
+void FormWindow::waitUntilDrawn() {
+    constexpr int kPatience = 500, kTurn = 10; // milliseconds
+    QElapsedTimer waited;
+    waited.start();
+    while (!windowHandle()->isExposed() && waited.elapsed() < kPatience)
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, kTurn);
+    repaint();
+}
+
+void FormWindow::run() {
+    show();
+    waitUntilDrawn();
+    QTimer::singleShot(0, this, [this] { activateForm(); });
+    if (form_.Visible() && !error_) loop_.exec(); // a timer may have ended it meanwhile
+    hide();
+    if (error_) std::rethrow_exception(std::exchange(error_, nullptr));
+}
+
+void FormWindow::activateForm() {
+    binding_.act([this] { form_.activate(); });
+}
+
+void FormWindow::endWith(std::exception_ptr error) {
+    if (!error_) error_ = std::move(error);
+    loop_.quit();
+}
+
+void FormWindow::closeEvent(QCloseEvent* event) {
+    event->ignore(); // the form decides
+    if (form_.ControlBox) binding_.act([this] { form_.Unload(); });
+}
+
+void FormWindow::reject() {
+    for (auto* control : form_.Controls())
+        if (auto* button = dynamic_cast<fernwick::CommandButton*>(control); button && button->Cancel)
+            return binding_.act([button] { button->press(); });
+}
+
+} // namespace workbench

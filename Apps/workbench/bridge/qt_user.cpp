@@ -1,0 +1,94 @@
+#include "Apps/workbench/bridge/qt_user.h"
+#include "Apps/workbench/bridge/file_dialog.h"
+#include "Apps/workbench/bridge/form_window.h"
+#include "Apps/workbench/base/text.h"
+#include <QApplication>
+#include <QMessageBox>
+#include <QTimer>
+#include <array>
+
+namespace workbench {
+
+namespace {
+
+using namespace fernwick;
+
+constexpr int kButtons = 0xF, kIcon = 0xF0, kDefaultButton = 0xF00;
+
+struct BoxButton {
+    QMessageBox::StandardButton drawn;
+    VbMsgBoxResult result;
+};
+constexpr BoxButton kOk{QMessageBox::Ok, vbOK}, kCancel{QMessageBox::Cancel, vbCancel}, kYes{QMessageBox::Yes, vbYes},
+    kNo{QMessageBox::No, vbNo};
+
+/// In the order in which default buttons are counted.
+std::vector<BoxButton> buttonsOf(int style) {
+    switch (style & kButtons) {
+    case vbOKCancel: return {kOk, kCancel};
+    case vbYesNoCancel: return {kYes, kNo, kCancel};
+    case vbYesNo: return {kYes, kNo};
+    default: return {kOk};
+    }
+}
+
+QMessageBox::Icon boxIconOf(int style) {
+    switch (style & kIcon) {
+    case vbCritical: return QMessageBox::Critical;
+    case vbQuestion: return QMessageBox::Question;
+    case vbExclamation: return QMessageBox::Warning;
+    case vbInformation: return QMessageBox::Information;
+    default: return QMessageBox::NoIcon;
+    }
+}
+
+} // namespace
+
+QWidget* QtUser::top() const { return forms_.empty() ? mainWindow : forms_.back(); }
+
+void QtUser::showModal(Form& form) {
+    FormWindow window(form, top());
+    struct Standing {
+        std::vector<FormWindow*>& forms;
+        Standing(std::vector<FormWindow*>& all, FormWindow* one) : forms(all) { forms.push_back(one); }
+        Standing(const Standing&) = delete;
+        ~Standing() {
+            forms.pop_back();
+            if (!forms.empty()) forms.back()->activateForm();
+        }
+    } standing{forms_, &window};
+    window.run();
+}
+
+int QtUser::MsgBox(const std::string& text, int buttons, const std::string& title) {
+    QMessageBox box(boxIconOf(buttons), qt(title), qt(text).remove('\r'), QMessageBox::NoButton, top());
+    box.setTextFormat(Qt::PlainText);
+    const auto offered = buttonsOf(buttons);
+    for (const auto& button : offered) box.addButton(button.drawn);
+    const auto chosen = std::size_t((buttons & kDefaultButton) / vbDefaultButton2);
+    box.setDefaultButton(offered[std::min(chosen, offered.size() - 1)].drawn);
+    const int pressed = box.exec();
+    int result = vbCancel;
+    for (const auto& button : offered)
+        if (button.drawn == pressed) result = button.result;
+    if (!forms_.empty()) forms_.back()->activateForm();
+    return result;
+}
+
+void QtUser::ShowSave(CommonDialog& dialog) { askForFile(dialog, FileQuestion::Save, top()); }
+
+void QtUser::ShowOpen(CommonDialog& dialog) { askForFile(dialog, FileQuestion::Open, top()); }
+
+void QtUser::MessageBeep(int) { QApplication::beep(); }
+
+void QtUser::SetCursor(MousePointerShape shape) {
+    if (shape != vbHourglass) return;
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    QTimer::singleShot(0, qApp, [] { QGuiApplication::restoreOverrideCursor(); });
+}
+
+void QtUser::SetRedraw(bool redraw) {
+    if (mainWindow) mainWindow->setUpdatesEnabled(redraw);
+}
+
+} // namespace workbench

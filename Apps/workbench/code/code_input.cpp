@@ -1,0 +1,39 @@
+#include "Apps/workbench/code/code_input.h"
+#include <QDragEnterEvent>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QScopedValueRollback>
+
+namespace workbench {
+
+void CodeInput::keyPressEvent(QKeyEvent* event) {
+    const QScopedValueRollback within(typing_, true);
+    const auto typed = event->text();
+    if (typed.isEmpty() || !typed[0].isPrint() || accepts_(typed)) QsciScintilla::keyPressEvent(event);
+}
+
+void CodeInput::inputMethodEvent(QInputMethodEvent* event) {
+    const QScopedValueRollback within(typing_, true);
+    if (event->commitString().isEmpty() || accepts_(event->commitString()))
+        return QsciScintilla::inputMethodEvent(event);
+    QInputMethodEvent nothing; // what was composed goes, and nothing comes
+    QsciScintilla::inputMethodEvent(&nothing);
+}
+
+void CodeInput::dragEnterEvent(QDragEnterEvent* event) {
+    const QScopedValueRollback within(dragging_, true);
+    QsciScintilla::dragEnterEvent(event);
+}
+
+void CodeInput::dragMoveEvent(QDragMoveEvent* event) {
+    const QScopedValueRollback within(dragging_, true);
+    QsciScintilla::dragMoveEvent(event);
+}
+
+/// While something is only dragged over the text nobody has to be told.
+bool CodeInput::canInsertFromMimeData(const QMimeData* source) const {
+    return QsciScintilla::canInsertFromMimeData(source) && (dragging_ || accepts_(source->text()));
+}
+
+} // namespace workbench

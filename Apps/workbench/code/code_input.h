@@ -1,0 +1,30 @@
+#pragma once
+// The editing component, which takes in only what a file can hold.
+#include "Apps/workbench/code/scintilla.h"
+#include <functional>
+
+namespace workbench {
+
+class CodeInput final : public QsciScintilla {
+public:
+    /// Asked of each text that the user types, pastes or drops, before anything of the old one goes for it.
+    using Accepts = std::function<bool(const QString&)>;
+
+    explicit CodeInput(Accepts accepts) : accepts_(std::move(accepts)) {}
+
+    /// Whether what happens just now comes from the user's keys.
+    bool isTyping() const { return typing_; }
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
+    bool canInsertFromMimeData(const QMimeData* source) const override;
+
+private:
+    Accepts accepts_;
+    bool dragging_ = false, typing_ = false;
+};
+
+} // namespace workbench

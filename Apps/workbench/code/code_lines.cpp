@@ -1,0 +1,76 @@
+#include "Apps/workbench/code/code_lines.h"
+#include "Apps/workbench/code/scintilla.h"
+#include <functional>
+
+namespace workbench {
+
+namespace {
+
+/// Does this with each line of the selection. A line at whose start the selection ends is not a part of it. What was
+/// selected stays so, as whole lines.
+void eachLine(QsciScintilla& editor, const std::function<void(int)>& act) {
+    int first = 0, column = 0, last = 0, lastColumn = 0;
+    editor.getSelection(&first, &column, &last, &lastColumn);
+    const bool selected = first >= 0;
+    if (!selected) editor.getCursorPosition(&first, &column);
+    if (!selected) last = first;
+    if (selected && last > first && lastColumn == 0) --last;
+    editor.beginUndoAction();
+    for (int line = first; line <= last; ++line) act(line);
+    editor.endUndoAction();
+    const bool hasNext = last + 1 < editor.lines();
+    if (selected) editor.setSelection(first, 0, hasNext ? last + 1 : last, hasNext ? 0 : int(editor.text(last).size()));
+}
+
+void bind(QsciCommandSet& commands, QsciCommand::Command command, int key) {
+    if (auto* const old = commands.boundTo(key)) old->setKey(0);
+    if (auto* const one = commands.find(command)) one->setKey(key);
+}
+
+/// Leaves the key to the window's commands.
+void leave(QsciCommandSet& commands, int key) {
+    auto* const command = commands.boundTo(key);
+    if (!command) return;
+    if (command->key() == key) command->setKey(0);
+    if (command->alternateKey() == key) command->setAlternateKey(0);
+}
+
+} // namespace
+
+void indentLines(QsciScintilla& editor) {
+    eachLine(editor, [&editor](int line) { editor.indent(line); });
+}
+
+void outdentLines(QsciScintilla& editor) {
+    eachLine(editor, [&editor](int line) { editor.unindent(line); });
+}
+
+void commentLines(QsciScintilla& editor) {
+    eachLine(editor, [&editor](int line) { editor.insertAt("'", line, 0); });
+}
+
+void uncommentLines(QsciScintilla& editor) {
+    eachLine(editor, [&editor](int line) {
+        const auto text = editor.text(line);
+        int column = 0;
+        while (column < text.size() && (text[column] == ' ' || text[column] == '\t')) ++column;
+        if (column == text.size() || text[column] != '\'') return;
+        const auto at = editor.positionFromLineIndex(line, column);
+        editor.SendScintilla(QsciScintillaBase::SCI_DELETERANGE, (unsigned long)at, 1L);
+    });
+}
+
+void cutLine(QsciScintilla& editor) { editor.SendScintilla(QsciScintillaBase::SCI_LINECUT); }
+
+void bindKeys(QsciScintilla& editor) {
+    auto& commands = *editor.standardCommands();
+    for (const int key : {int(Qt::CTRL) | Qt::Key_Up, int(Qt::CTRL) | Qt::Key_Down, int(Qt::CTRL) | Qt::Key_D,
+                          int(Qt::CTRL) | Qt::Key_L, int(Qt::CTRL) | Qt::Key_T, int(Qt::CTRL) | Qt::Key_U,
+                          int(Qt::CTRL) | int(Qt::SHIFT) | Qt::Key_L, int(Qt::CTRL) | int(Qt::SHIFT) | Qt::Key_T,
+                          int(Qt::CTRL) | int(Qt::SHIFT) | Qt::Key_U})
+        leave(commands, key);
+    bind(commands, QsciCommand::LineCut, int(Qt::CTRL) | Qt::Key_Y);
+    bind(commands, QsciCommand::Redo, int(Qt::CTRL) | int(Qt::SHIFT) | Qt::Key_Z);
+}
+
+} // namespace workbench

@@ -1,0 +1,75 @@
+#include "Apps/workbench/code/code_pattern.h"
+#include <optional>
+
+namespace workbench {
+
+namespace {
+
+constexpr auto kNothingToFind = "There is nothing to look for.";
+constexpr auto kUnclosedList = "The pattern lacks a ].";
+
+/// The list behind a "[" up to its "]"; nothing where that is missing. "]" can stand in no list.
+std::optional<QString> listAt(const QString& pattern, qsizetype& at) {
+    const auto end = pattern.indexOf(']', at + 1);
+    if (end < 0) return {};
+    auto list = pattern.mid(at + 1, end - at - 1);
+    at = end;
+    const bool none = list.startsWith('!');
+    if (none) list.remove(0, 1);
+    if (list.isEmpty()) return QString();
+    return (none ? "[^" : "[") + list.replace('\\', "\\\\").replace('[', "\\[").replace('^', "\\^") + "]";
+}
+
+/// The same in the words of a regular expression; nothing for a pattern that is none.
+std::optional<QString> expressionOf(const QString& pattern) {
+    QString expression;
+    for (qsizetype at = 0; at < pattern.size(); ++at) {
+        const auto sign = pattern[at];
+        if (sign == '?') {
+            expression += '.';
+        } else if (sign == '#') {
+            expression += "[0-9]";
+        } else if (sign == '*') {
+            // as little as will do; at the end of the pattern that would be nothing
+            expression += at + 1 == pattern.size() ? ".*" : ".*?";
+        } else if (sign == '[') {
+            const auto list = listAt(pattern, at);
+            if (!list) return {};
+            expression += *list;
+        } else {
+            expression += QRegularExpression::escape(QString(sign));
+        }
+    }
+    return expression;
+}
+
+} // namespace
+
+CodePattern::CodePattern(const QString& what, FindOptions options) {
+    if (what.isEmpty()) {
+        error_ = kNothingToFind;
+        return;
+    }
+    const auto expression = options.pattern ? expressionOf(what) : QRegularExpression::escape(what);
+    if (!expression) {
+        error_ = kUnclosedList;
+        return;
+    }
+    expression_.setPattern(options.wholeWord ? "(?<!\\w)(?:" + *expression + ")(?!\\w)" : *expression);
+    auto how = QRegularExpression::PatternOptions(QRegularExpression::UseUnicodePropertiesOption);
+    how.setFlag(QRegularExpression::CaseInsensitiveOption, !options.matchCase);
+    expression_.setPatternOptions(how);
+    if (!expression_.isValid()) error_ = expression_.errorString();
+}
+
+std::vector<LineHit> CodePattern::hitsIn(const QString& line) const {
+    std::vector<LineHit> hits;
+    if (!error_.isEmpty()) return hits;
+    for (auto matches = expression_.globalMatch(line); matches.hasNext();) {
+        const auto match = matches.next();
+        if (match.capturedLength() > 0) hits.push_back({int(match.capturedStart()), int(match.capturedLength())});
+    }
+    return hits;
+}
+
+} // namespace workbench

@@ -1,0 +1,95 @@
+#include "Apps/workbench/code/code_windows.h"
+#include "Apps/workbench/base/text.h"
+#include "Basic/runtime_error.h"
+
+namespace workbench {
+
+CodeWindows::CodeWindows(host::Host& host, CodeEditor::Refused refused) : host_(host), refused_(std::move(refused)) {
+    setObjectName("codeWindows");
+    setDocumentMode(true);
+    setTabsClosable(true);
+    setMovable(true);
+    connect(this, &QTabWidget::tabCloseRequested, this, [this](int index) { widget(index)->deleteLater(); });
+    refresh_.setSingleShot(true);
+    refresh_.setInterval(0);
+    connect(&refresh_, &QTimer::timeout, this, [this] { refresh(); });
+
+    watches_.push_back(host.panes.shown.connect([this](auto component) { open(component); }));
+    watches_.push_back(host.panes.selectionSet.connect([this](auto component) {
+        if (auto* editor = editorOf(component)) editor->showSelection();
+    }));
+    watches_.push_back(host.panes.codeChanged.connect([this](auto component) {
+        if (auto* editor = editorOf(component)) editor->codeChanged();
+        refresh_.start();
+    }));
+    const auto soon = [this](const auto&...) { refresh_.start(); };
+    watches_.push_back(host.Events()->VBProjectsEvents()->ItemRemoved.connect(soon));
+    watches_.push_back(host.Events()->VBProjectsEvents()->ItemActivated.connect(soon));
+    watches_.push_back(host.Events()->FileControlEvents(nullptr)->AfterWriteFile.connect(soon));
+}
+
+void CodeWindows::open(const vbide::Ref<vbide::VBComponent>& component) {
+    auto* editor = editorOf(component);
+    if (!editor) {
+        editor = new CodeEditor(component, refused_);
+        made(*editor);
+        addTab(editor, qt(component->Name()));
+        editor->showSelection();
+        markEditor(*editor);
+        refresh_.start();
+    }
+    setCurrentWidget(editor);
+    editor->setFocus();
+}
+
+void CodeWindows::showPlace(const CodePlace& place) {
+    place.component->CodeModule()->CodePane()->Show();
+    if (auto* const editor = editorOf(place.component)) editor->select(place);
+}
+
+std::vector<CodeEditor*> CodeWindows::editors() const {
+    std::vector<CodeEditor*> all;
+    for (int i = 0; i < count(); ++i)
+        if (auto* editor = dynamic_cast<CodeEditor*>(widget(i))) all.push_back(editor);
+    return all;
+}
+
+CodeEditor* CodeWindows::editorOf(const vbide::Ref<vbide::VBComponent>& component) const {
+    for (auto* editor : editors())
+        if (editor->component() == component) return editor;
+    return nullptr;
+}
+
+CodeEditor* CodeWindows::current() const { return dynamic_cast<CodeEditor*>(currentWidget()); }
+
+void CodeWindows::mark(MarksByComponent marks) {
+    marks_ = std::move(marks);
+    for (auto* editor : editors()) markEditor(*editor);
+}
+
+void CodeWindows::markEditor(CodeEditor& editor) {
+    std::vector<LineMark> marks;
+    (void)basic::attempt([&] { // of a removed component nothing is marked
+        const bool ofActive = editor.component()->Collection() == host_.ActiveVBProject()->VBComponents();
+        const auto found = marks_.find(editor.component()->Name());
+        if (ofActive && found != marks_.end()) marks = found->second;
+    });
+    editor.marks().show(marks);
+}
+
+void CodeWindows::colour(Theme theme) {
+    for (auto* editor : editors()) editor->colour(theme);
+}
+
+void CodeWindows::refresh() {
+    for (auto* editor : editors()) {
+        const auto removed = basic::attempt([&] {
+            const auto& component = editor->component();
+            setTabText(indexOf(editor), qt(component->Name()) + (component->IsDirty() ? " *" : ""));
+            setTabToolTip(indexOf(editor), qt(component->FileNames(1)));
+        });
+        if (removed.Number != 0) delete editor;
+    }
+}
+
+} // namespace workbench

@@ -1,0 +1,82 @@
+#include "Apps/workbench/code/line_marks.h"
+#include "Apps/workbench/code/scintilla.h"
+#include "Apps/workbench/base/text.h"
+#include <QHelpEvent>
+#include <QToolTip>
+#include <algorithm>
+
+namespace workbench {
+
+namespace {
+constexpr int kMarkMargin = 1, kMarkMarginWidth = 14;
+constexpr int kErrorMark = 1, kWarningMark = 2;
+
+/// The line at a point of the viewport, in the margin too.
+int lineAt(const QsciScintilla& text, const QPoint& at) {
+    const auto position = text.SendScintilla(QsciScintillaBase::SCI_POSITIONFROMPOINT, (unsigned long)at.x(), at.y());
+    return int(text.SendScintilla(QsciScintillaBase::SCI_LINEFROMPOSITION, position));
+}
+
+} // namespace
+
+LineMarks::LineMarks(QsciScintilla& text) : text_(text) {
+    text.setMarginType(kMarkMargin, QsciScintilla::SymbolMargin);
+    text.setMarginWidth(kMarkMargin, kMarkMarginWidth);
+    text.setMarginMarkerMask(kMarkMargin, (1 << kErrorMark) | (1 << kWarningMark));
+    text.markerDefine(QsciScintilla::Circle, kErrorMark);
+    text.markerDefine(QsciScintilla::Circle, kWarningMark);
+    text.viewport()->installEventFilter(this);
+}
+
+void LineMarks::colour(Theme theme) {
+    const auto& colours = codeColours(theme);
+    for (const auto& [mark, colour] :
+         {std::pair(kErrorMark, colours.error), std::pair(kWarningMark, colours.warning)}) {
+        text_.setMarkerBackgroundColor(colour, mark);
+        text_.setMarkerForegroundColor(colour, mark);
+    }
+}
+
+int LineMarks::add(int line, bool isError) {
+    return text_.markerAdd(std::clamp(line, 0, text_.lines() - 1), isError ? kErrorMark : kWarningMark);
+}
+
+void LineMarks::show(const std::vector<LineMark>& marks) {
+    if (marks == marks_) return;
+    marks_ = marks;
+    std::vector<int> lines;
+    for (const auto& mark : marks) lines.push_back(mark.line - 1);
+    putBack(lines);
+}
+
+std::vector<int> LineMarks::lines() const {
+    std::vector<int> lines;
+    for (const int handle : handles_) lines.push_back(text_.markerLine(handle));
+    return lines;
+}
+
+void LineMarks::putBack(const std::vector<int>& lines) {
+    text_.markerDeleteAll();
+    handles_.clear();
+    for (std::size_t i = 0; i < lines.size(); ++i) handles_.push_back(add(lines[i], marks_[i].isError));
+}
+
+QString LineMarks::textAt(int line) const {
+    QStringList texts;
+    for (std::size_t i = 0; i < handles_.size(); ++i)
+        if (text_.markerLine(handles_[i]) == line) texts << qt(marks_[i].text);
+    return texts.join('\n');
+}
+
+bool LineMarks::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::ToolTip) return QObject::eventFilter(watched, event);
+    const auto& help = static_cast<QHelpEvent&>(*event);
+    const auto says = textAt(lineAt(text_, help.pos()));
+    if (says.isEmpty())
+        QToolTip::hideText();
+    else
+        QToolTip::showText(help.globalPos(), says.toHtmlEscaped().replace('\n', "<br>"), text_.viewport());
+    return true;
+}
+
+} // namespace workbench

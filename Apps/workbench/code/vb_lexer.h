@@ -1,0 +1,21 @@
+#pragma once
+// Visual Basic for the editor.
+#include "Apps/workbench/code/scintilla.h"
+#include "Apps/workbench/base/theme.h"
+
+namespace workbench {
+
+class VbLexer final : public QsciLexer {
+public:
+    explicit VbLexer(QObject* parent);
+
+    void colour(Theme theme);
+    const char* language() const override { return "Visual Basic"; }
+    /// The editing component has such a lexer built in.
+    const char* lexer() const override { return "vb"; }
+    QString description(int style) const override;
+    const char* keywords(int set) const override;
+    bool caseSensitive() const override { return false; }
+};
+
+} // namespace workbench

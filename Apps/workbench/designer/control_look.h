@@ -1,0 +1,43 @@
+#pragma once
+// How one control looks, read from its properties.
+#include "Apps/workbench/designer/control_kinds.h"
+#include "Apps/workbench/designer/property_reader.h"
+#include <QLineF>
+#include <QPixmap>
+#include <QStringList>
+
+namespace workbench {
+
+enum class ControlBorder { None, Single, Raised, Sunken };
+
+struct ControlLook {
+    ControlKind kind = ControlKind::Other;
+    QString text; ///< caption or text
+    QStringList items;
+    QColor back, fore;
+    QFont font;
+    Qt::Alignment alignment = Qt::AlignLeft;
+    ControlBorder border = ControlBorder::None;
+    bool transparent = false, wrapped = false, mnemonic = true, enabled = true;
+    int value = 0;         ///< 0, 1, 2: off, on, neither
+    bool boxRight = false; ///< check and option: the box stands behind the text
+    bool arrow = true;     ///< combo: the list drops down
+    bool checks = false;   ///< list: a box before each item
+    bool barAcross = false, barDown = false;
+    double thumb = 0; ///< scroll bars: from 0 to 1
+    QPixmap picture;
+    bool stretched = false, unreadable = false; ///< a picture that there is, but can't be drawn
+    // shapes and lines
+    int shape = 0;
+    Qt::PenStyle penStyle = Qt::SolidLine;
+    int penWidth = 1;
+    Qt::BrushStyle brush = Qt::NoBrush;
+    QColor fill;
+    // grids
+    int rows = 0, columns = 0, fixedRows = 0, fixedColumns = 0;
+    bool gridLines = true;
+};
+
+ControlLook lookOf(const std::string& className, const PropertyReader& read);
+
+} // namespace workbench

@@ -1,0 +1,113 @@
+#include "Apps/workbench/designer/design_desk.h"
+#include "Apps/workbench/designer/form_grips.h"
+#include "Basic/case_folding.h"
+#include "Basic/runtime_error.h"
+
+namespace workbench {
+
+DesignDesk::DesignDesk(host::Host& host, CodeWindows& tabs, ProjectExplorer& explorer, Run run)
+    : QObject(&tabs),
+      host_(host),
+      tabs_(tabs),
+      explorer_(explorer),
+      run_(std::move(run)),
+      properties_(new PropertiesWindow(history_, {run_,
+                                                  [this](const auto& control) {
+                                                      if (auto* view = forms_->current()) view->select(control);
+                                                  }})),
+      toolbox_(new Toolbox([this](const auto& progId) { addInMiddle(progId); })),
+      forms_(new FormWindows(
+          host, tabs, history_,
+          {run_, [this] { followTabs(); }, [this] { return toolbox_->tool(); }, [this] { toolbox_->putBack(); }})) {
+    connect(&tabs, &QTabWidget::currentChanged, this, [this] { followTabs(); });
+    connect(&explorer, &QTreeWidget::currentItemChanged, this, [this] { followExplorer(); });
+    connect(&explorer, &QTreeWidget::itemClicked, this, [this] { followExplorer(); });
+    watch();
+}
+
+void DesignDesk::watch() {
+    // the explorer knows of each component that comes, goes or changes its name
+    connect(&explorer_, &QTreeWidget::itemChanged, this, [this] { refreshSoon(); });
+    connect(explorer_.model(), &QAbstractItemModel::modelReset, this, [this] { refreshSoon(); });
+    watches_.push_back(host_.panes.designChanged.connect([this](const auto&) {
+        properties_->refreshSoon();
+        explorer_.refreshSoon();
+        tabs_.refreshSoon();
+    }));
+}
+
+void DesignDesk::refreshSoon() {
+    forms_->refreshSoon();
+    properties_->refreshSoon();
+}
+
+void DesignDesk::followTabs() {
+    if (forms_->current()) listTools();
+    if (auto* view = forms_->current()) return properties_->inspect(view->component(), view->selected());
+    if (auto* editor = tabs_.current()) return properties_->inspect(editor->component());
+    properties_->clear();
+}
+
+void DesignDesk::followExplorer() {
+    if (!explorer_.hasFocus()) return;
+    if (const auto project = explorer_.currentProject()) return properties_->inspect(project);
+    if (const auto component = explorer_.currentComponent()) properties_->inspect(component);
+}
+
+/// The language's own controls, and those of the libraries that the project refers to.
+void DesignDesk::listTools() {
+    std::vector<std::string> libraries, offered;
+    (void)basic::attempt([&] {
+        if (const auto active = host_.ActiveVBProject())
+            for (const auto& reference : active->References()->items()) libraries.push_back(reference->Name());
+    });
+    const auto& installed = host_.options().controlClassNames;
+    for (const auto& name : installed ? installed() : std::vector<std::string>{})
+        for (const auto& library : libraries)
+            if (basic::startsWithNoCase(name, library + "Ctl.")) offered.push_back(name);
+    toolbox_->offer(offered);
+}
+
+/// As a double click in the toolbox does.
+void DesignDesk::addInMiddle(const std::string& progId) {
+    auto* const view = forms_->current();
+    if (!view) return;
+    const auto inner = view->picture().inner;
+    view->add(progId, {onGrid({inner.width() / 2, inner.height() / 2}, {}), QSizeF()});
+    view->setFocus();
+}
+
+vbide::Ref<vbide::VBComponent> DesignDesk::inHand() const {
+    if (explorer_.hasFocus() && explorer_.currentComponent()) return explorer_.currentComponent();
+    if (auto* view = forms_->current()) return view->component();
+    if (auto* editor = tabs_.current()) return editor->component();
+    return explorer_.currentComponent();
+}
+
+void DesignDesk::open(const vbide::Ref<vbide::VBComponent>& component) {
+    run_([&] {
+        component->Activate();
+        if (!forms_->viewOf(component)) component->CodeModule()->CodePane()->Show();
+    });
+}
+
+void DesignDesk::showCode() {
+    const auto component = inHand();
+    if (component) run_([&] { component->CodeModule()->CodePane()->Show(); });
+}
+
+void DesignDesk::showObject() {
+    const auto component = inHand();
+    if (!component) return;
+    const auto* view = forms_->current();
+    const bool inFront = view && view->component() == component;
+    return inFront ? showCode() : open(component);
+}
+
+bool DesignDesk::undo() {
+    auto* const view = forms_->current();
+    if (view) view->undo();
+    return view != nullptr;
+}
+
+} // namespace workbench

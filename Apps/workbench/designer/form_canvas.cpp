@@ -1,0 +1,270 @@
+#include "Apps/workbench/designer/form_canvas.h"
+#include "Apps/workbench/designer/form_painter.h"
+#include "Apps/workbench/base/text.h"
+#include <QAction>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QPainter>
+#include <algorithm>
+#include <cmath>
+
+namespace workbench {
+
+namespace {
+
+constexpr int kCanvasMargin = 8;
+constexpr double kDragBegins = 3;
+const QColor kGripColour("#0a246a");
+
+/// The items of a menu, each leading to its code.
+void fillMenu(QMenu& menu, const std::vector<DrawnMenu>& items, FormView& view) {
+    for (const auto& item : items) {
+        if (item.caption == "-") {
+            menu.addSeparator();
+        } else if (!item.items.empty()) {
+            fillMenu(*menu.addMenu(item.caption), item.items, view);
+        } else {
+            auto* const action = menu.addAction(item.caption);
+            action->setCheckable(item.checked);
+            action->setChecked(item.checked);
+            QObject::connect(action, &QAction::triggered, &view, [&view, control = item.control] {
+                view.select(control);
+                view.openCode(control);
+            });
+        }
+    }
+}
+
+QPointF directionOf(int key) {
+    switch (key) {
+    case Qt::Key_Left: return {-1, 0};
+    case Qt::Key_Right: return {1, 0};
+    case Qt::Key_Up: return {0, -1};
+    case Qt::Key_Down: return {0, 1};
+    default: return {};
+    }
+}
+
+} // namespace
+
+FormCanvas::FormCanvas(FormView& view) : view_(view) {
+    setObjectName("formCanvas");
+    setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
+    setAccessibleName("Form designer");
+}
+
+void FormCanvas::formChanged() {
+    drag_.reset();
+    resize(sizeHint());
+    update();
+}
+
+QSize FormCanvas::sizeHint() const {
+    const auto whole = wholeSize(view_.picture());
+    return (whole + QSizeF(2 * kCanvasMargin, 2 * kCanvasMargin)).toSize();
+}
+
+// ---- places ------------------------------------------------------------------------------------------------------------
+
+QPointF FormCanvas::innerCorner() const {
+    const auto border = view_.picture().border();
+    return {kCanvasMargin + border.left(), kCanvasMargin + border.top()};
+}
+
+QPointF FormCanvas::onForm(const QPointF& onWidget) const { return onWidget - innerCorner(); }
+
+QRectF FormCanvas::onCanvas(const QRectF& place) const { return place.translated(innerCorner()); }
+
+QRectF FormCanvas::selectedPlace() const {
+    const auto* drawn = view_.drawnSelection();
+    return drawn ? drawn->place : QRectF({}, view_.picture().inner);
+}
+
+std::vector<GripPlace> FormCanvas::grips() const {
+    const auto place = onCanvas(selectedPlace());
+    const auto* drawn = view_.drawnSelection();
+    if (!drawn) {
+        // a menu is selected without a place of its own
+        if (view_.selected()) return {};
+        const auto frame = view_.picture().frame;
+        return gripsOf(place.adjusted(0, 0, frame.right() + kGripSize / 2, frame.bottom() + kGripSize / 2),
+                       GripsOf::Form);
+    }
+    if (drawn->look.kind == ControlKind::Line) return gripsOf(place, GripsOf::Line);
+    return gripsOf(place, drawn->look.kind == ControlKind::Hidden ? GripsOf::Fixed : GripsOf::Control);
+}
+
+Grip FormCanvas::gripAt(const QPointF& onWidget) const {
+    const auto* drawn = view_.drawnSelection();
+    if (drawn && drawn->look.kind == ControlKind::Hidden) return Grip::None;
+    for (const auto& grip : grips()) {
+        const auto apart = onWidget - grip.at;
+        if (std::max(std::abs(apart.x()), std::abs(apart.y())) <= kGripSize / 2 + 1) return grip.grip;
+    }
+    return Grip::None;
+}
+
+// ---- drawing -----------------------------------------------------------------------------------------------------------
+
+void FormCanvas::paintEvent(QPaintEvent* event) {
+    QPainter painter(this);
+    painter.setClipRegion(event->region());
+    painter.save();
+    painter.translate(kCanvasMargin, kCanvasMargin);
+    paintForm(painter, view_.picture());
+    painter.restore();
+    drawSelection(painter);
+}
+
+void FormCanvas::drawSelection(QPainter& painter) const {
+    if (drag_ && drag_->now != drag_->before) {
+        painter.setPen(QPen(Qt::darkGray, 2));
+        painter.setBrush(Qt::NoBrush);
+        const auto place = onCanvas(drag_->now);
+        if (drag_->isLine) return painter.drawLine(place.topLeft(), place.bottomRight());
+        return painter.drawRect(place);
+    }
+    painter.setPen(Qt::white);
+    painter.setBrush(hasFocus() ? kGripColour : QColor(Qt::gray));
+    for (const auto& grip : grips())
+        painter.drawRect(QRectF(grip.at - QPointF(kGripSize, kGripSize) / 2, QSizeF(kGripSize, kGripSize)));
+}
+
+// ---- the mouse ---------------------------------------------------------------------------------------------------------
+
+void FormCanvas::mousePressEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton) return;
+    const auto at = event->position();
+    if (beginNew(at)) return;
+    if (const auto grip = gripAt(at); grip != Grip::None) return beginDrag(at, grip);
+    if (openMenu(at)) return;
+    const auto* drawn = view_.picture().at(onForm(at));
+    const auto control = drawn ? drawn->control : nullptr;
+    view_.select(control);
+    if (control) beginDrag(at, Grip::None);
+}
+
+/// With a tool in hand the mouse draws the place of a new control.
+bool FormCanvas::beginNew(const QPointF& onWidget) {
+    const auto tool = view_.wishes().tool();
+    if (tool.empty()) return false;
+    view_.select(nullptr);
+    const QRectF place(onGrid(onForm(onWidget), {}), QSizeF());
+    drag_ = Drag{onWidget, Grip::None, place, place, {}, false, tool};
+    return true;
+}
+
+void FormCanvas::beginDrag(const QPointF& onWidget, Grip grip) {
+    const auto* drawn = view_.drawnSelection();
+    const auto place = selectedPlace();
+    drag_ = Drag{
+        onWidget, grip, place, place, drawn ? drawn->origin : QPointF(), drawn && drawn->look.kind == ControlKind::Line,
+        {}};
+}
+
+void FormCanvas::mouseMoveEvent(QMouseEvent* event) {
+    if (!drag_) {
+        const bool draws = !view_.wishes().tool().empty();
+        return setCursor(draws ? Qt::CrossCursor : cursorOf(gripAt(event->position())));
+    }
+    const auto by = event->position() - drag_->from;
+    // a hand that trembles moves nothing
+    if (drag_->now == drag_->before && by.manhattanLength() < kDragBegins) return;
+    drag_->now = drag_->tool.empty()
+                     ? pulled(drag_->before, drag_->grip, by, drag_->origin, drag_->isLine)
+                     : QRectF(drag_->before.topLeft(), onGrid(onForm(event->position()), {})).normalized();
+    update();
+}
+
+void FormCanvas::mouseReleaseEvent(QMouseEvent*) {
+    if (!drag_) return;
+    const auto drag = *drag_;
+    drag_.reset();
+    update();
+    if (!drag.tool.empty()) {
+        view_.wishes().toolUsed();
+        view_.add(drag.tool, drag.now);
+    } else if (drag.now != drag.before) {
+        view_.place(drag.now);
+    }
+}
+
+void FormCanvas::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton || openMenu(event->position())) return;
+    const auto* drawn = view_.picture().at(onForm(event->position()));
+    view_.openCode(drawn ? drawn->control : nullptr);
+}
+
+bool FormCanvas::openMenu(const QPointF& onWidget) {
+    const auto& form = view_.picture();
+    const auto onWhole = onWidget - QPointF(kCanvasMargin, kCanvasMargin);
+    for (const auto& [number, place] : menuPlaces(form)) {
+        if (!place.contains(onWhole)) continue;
+        view_.select(form.menus[number].control);
+        auto* const menu = new QMenu(this);
+        menu->setAttribute(Qt::WA_DeleteOnClose);
+        fillMenu(*menu, form.menus[number].items, view_);
+        if (menu->isEmpty()) {
+            delete menu;
+            return true;
+        }
+        menu->popup(mapToGlobal((place.bottomLeft() + QPointF(kCanvasMargin, kCanvasMargin)).toPoint()));
+        return true;
+    }
+    return false;
+}
+
+// ---- the keyboard ------------------------------------------------------------------------------------------------------
+
+void FormCanvas::keyPressEvent(QKeyEvent* event) {
+    const auto direction = directionOf(event->key());
+    if (!direction.isNull()) {
+        if (event->modifiers() & Qt::ControlModifier) return nudge(direction * kGridStep, false);
+        if (event->modifiers() & Qt::ShiftModifier) return nudge(direction * kGridStep, true);
+        return view_.selectBeside(direction);
+    }
+    switch (event->key()) {
+    case Qt::Key_Delete: return view_.removeSelected();
+    case Qt::Key_Escape:
+        view_.wishes().toolUsed();
+        if (drag_) return formChanged();
+        return view_.select(nullptr);
+    case Qt::Key_Return:
+    case Qt::Key_Enter: return view_.openCode();
+    default: QWidget::keyPressEvent(event);
+    }
+}
+
+void FormCanvas::nudge(const QPointF& step, bool size) {
+    auto place = selectedPlace();
+    const auto* drawn = view_.drawnSelection();
+    const bool fixed = drawn && drawn->look.kind == ControlKind::Hidden;
+    if ((!drawn && (view_.selected() || !size)) || (fixed && size)) return;
+    if (!size) return view_.place(place.translated(step));
+    place.setRight(place.right() + step.x());
+    place.setBottom(place.bottom() + step.y());
+    const bool isLine = drawn && drawn->look.kind == ControlKind::Line;
+    if (isLine || (place.width() >= 0 && place.height() >= 0)) view_.place(place);
+}
+
+/// The Tab key goes from control to control, as in the designer.
+bool FormCanvas::focusNextPrevChild(bool next) {
+    if (view_.picture().controls.empty()) return QWidget::focusNextPrevChild(next);
+    view_.selectNext(next ? 1 : -1);
+    return true;
+}
+
+void FormCanvas::focusInEvent(QFocusEvent* event) {
+    QWidget::focusInEvent(event);
+    update();
+    view_.wishes().focused();
+}
+
+void FormCanvas::focusOutEvent(QFocusEvent* event) {
+    QWidget::focusOutEvent(event);
+    update();
+}
+
+} // namespace workbench

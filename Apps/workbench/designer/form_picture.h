@@ -1,0 +1,64 @@
+#pragma once
+// What there is to draw of a form, read from its text once. Logical pixels, 15 twips each, whatever the screen.
+#include "Add-in/platform/host_project.h"
+#include "Apps/workbench/designer/control_look.h"
+#include "Apps/workbench/base/twips.h"
+#include <QMarginsF>
+#include <QRectF>
+#include <vector>
+
+namespace workbench {
+
+struct DrawnControl {
+    vbide::Ref<vbide::VBControl> control;
+    QString name, className;
+    int tabIndex = 0;
+    /// Its place on the inner rectangle of the form, and the part of it that its containers let through.
+    QRectF place, clip;
+    /// What its container's place is measured from, and pixels for one unit in it.
+    QPointF origin;
+    double unitX = 1, unitY = 1;
+    ControlLook look;
+    bool visible = true;
+    /// The control that it lies in, -1 for the form.
+    int container = -1;
+};
+
+struct DrawnMenu {
+    vbide::Ref<vbide::VBControl> control;
+    QString caption;
+    bool visible = true, enabled = true, checked = false;
+    std::vector<DrawnMenu> items;
+};
+
+struct FormPicture {
+    QSizeF inner;
+    QMarginsF frame;
+    QString caption;
+    QColor back;
+    QPixmap picture;
+    bool controlBox = true, minButton = true, maxButton = true, smallTitle = false;
+    /// The menu bar; what does not show stands there too.
+    std::vector<DrawnMenu> menus;
+    /// From the back to the front, each behind the container that it lies in.
+    std::vector<DrawnControl> controls;
+
+    /// The frame with the menu bar.
+    QMarginsF border() const;
+    bool hasMenuBar() const;
+    /// Null for one that is not drawn, such as a menu.
+    const DrawnControl* find(const vbide::Ref<vbide::VBControl>& control) const;
+    /// The control in front at a place on the inner rectangle, null for the form itself.
+    const DrawnControl* at(const QPointF& place) const;
+    /// Controls in the order of the Tab key.
+    std::vector<const DrawnControl*> tabOrder() const;
+};
+
+/// Reads a component that has a designer. Error 380 for a file without the description of a form; what else is damaged is
+/// drawn as far as it goes.
+FormPicture pictureOfForm(vbide::VBComponent& component);
+
+/// The height of a menu bar.
+inline constexpr int kMenuBarHeight = 19;
+
+} // namespace workbench

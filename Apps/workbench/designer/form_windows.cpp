@@ -1,0 +1,93 @@
+#include "Apps/workbench/designer/form_windows.h"
+#include "Apps/workbench/base/text.h"
+#include "Basic/runtime_error.h"
+
+namespace workbench {
+
+FormWindows::FormWindows(host::Host& host, CodeWindows& tabs, DesignHistory& history, Wishes wishes)
+    : QObject(&tabs), host_(host), tabs_(tabs), history_(history), wishes_(std::move(wishes)) {
+    refresh_.setSingleShot(true);
+    refresh_.setInterval(0); // a save closes a designer and opens it again
+    connect(&refresh_, &QTimer::timeout, this, [this] { refresh(); });
+    connect(&tabs, &QTabWidget::tabCloseRequested, this, [this](int index) { closed(tabs_.widget(index)); });
+    connect(&tabs, &QTabWidget::currentChanged, this, [this] {
+        if (const auto* view = current()) activate(view->component());
+    });
+    watches_.push_back(host.panes.designerShown.connect([this](auto component) { show(component); }));
+    watches_.push_back(host.panes.designerOpened.connect([this](auto component) {
+        if (component->HasOpenDesigner()) open(component);
+        refresh_.start();
+    }));
+    watches_.push_back(host.panes.designChanged.connect([this](auto component) {
+        if (auto* view = viewOf(component)) view->reloadSoon();
+        refresh_.start();
+    }));
+    const auto soon = [this](const auto&...) { refresh_.start(); };
+    watches_.push_back(host.panes.codeChanged.connect(soon));
+    watches_.push_back(host.Events()->VBProjectsEvents()->ItemRemoved.connect(soon));
+    watches_.push_back(host.Events()->FileControlEvents(nullptr)->AfterWriteFile.connect(soon));
+}
+
+void FormWindows::open(const vbide::Ref<vbide::VBComponent>& component) {
+    if (viewOf(component)) return;
+    FormView* view = nullptr;
+    const auto focused = [this, component] { activate(component); };
+    // a file without the description of a form has no view
+    const auto failed = basic::attempt([&] {
+        view =
+            new FormView(component, history_, {wishes_.run, wishes_.selected, focused, wishes_.tool, wishes_.toolUsed});
+    });
+    if (failed.Number != 0) return component->DesignerWindow()->Close();
+    opening_ = true; // that is no user's choice
+    tabs_.addTab(view, qt(component->Name()));
+    opening_ = false;
+    refresh();
+}
+
+void FormWindows::activate(const vbide::Ref<vbide::VBComponent>& component) {
+    if (!opening_ && host_.SelectedVBComponent() != component) wishes_.run([&] { component->Activate(); });
+}
+
+void FormWindows::show(const vbide::Ref<vbide::VBComponent>& component) {
+    auto* const view = viewOf(component);
+    if (!view) return;
+    tabs_.setCurrentWidget(view);
+    view->setFocus();
+}
+
+std::vector<FormView*> FormWindows::views() const {
+    std::vector<FormView*> all;
+    for (int i = 0; i < tabs_.count(); ++i)
+        if (auto* view = dynamic_cast<FormView*>(tabs_.widget(i))) all.push_back(view);
+    return all;
+}
+
+FormView* FormWindows::viewOf(const vbide::Ref<vbide::VBComponent>& component) const {
+    for (auto* view : views())
+        if (view->component() == component) return view;
+    return nullptr;
+}
+
+FormView* FormWindows::current() const { return dynamic_cast<FormView*>(tabs_.currentWidget()); }
+
+/// The user closed a tab: the designer is closed with it.
+void FormWindows::closed(QWidget* tab) {
+    if (auto* view = dynamic_cast<FormView*>(tab))
+        (void)basic::attempt([&] { view->component()->DesignerWindow()->Close(); });
+}
+
+void FormWindows::refresh() {
+    for (auto* view : views()) {
+        bool open = false;
+        (void)basic::attempt([&] { // of a removed component nothing is open
+            const auto& component = view->component();
+            open = component->HasOpenDesigner();
+            tabs_.setTabText(tabs_.indexOf(view),
+                             QString("%1 (Form)%2").arg(qt(component->Name()), component->IsDirty() ? " *" : ""));
+            tabs_.setTabToolTip(tabs_.indexOf(view), qt(component->FileNames(1)));
+        });
+        if (!open) delete view;
+    }
+}
+
+} // namespace workbench

@@ -1,0 +1,233 @@
+#include "Apps/workbench/designer/properties_window.h"
+#include "Apps/workbench/designer/property_reader.h"
+#include "Apps/workbench/base/text.h"
+#include "Basic/runtime_error.h"
+#include <QBoxLayout>
+#include <QComboBox>
+#include <QFontDialog>
+#include <QHeaderView>
+#include <QSignalBlocker>
+#include <QTableView>
+#include <algorithm>
+
+namespace workbench {
+
+namespace {
+
+constexpr int kUsualNameWidth = 110, kRowPadding = 6;
+
+/// The name of what has no other properties.
+class NameOnly final : public vbide::Property {
+public:
+    NameOnly(std::function<std::string()> get, std::function<void(const std::string&)> set)
+        : get_(std::move(get)), set_(std::move(set)) {}
+    std::string Name() const override { return "Name"; }
+    vbide::Variant Value() const override { return get_(); }
+    void Value(const vbide::Variant& value) override { set_(fernwick::asText(value)); }
+    basic::Ref<vbide::Properties> ObjectValue() const override { throw basic::RuntimeError(basic::kObjectRequired); }
+
+private:
+    std::function<std::string()> get_;
+    std::function<void(const std::string&)> set_;
+};
+
+template <class Named>
+InspectedObject nameOf(const vbide::Ref<Named>& named) {
+    return {{basic::make<NameOnly>([named] { return named->Name(); },
+                                   [named](const std::string& name) { named->Name(name); })},
+            [](const auto& property, const auto& value) { property->Value(value); }};
+}
+
+QString classOf(vbide::vbext_ComponentType type) {
+    switch (type) {
+    case vbide::vbext_ct_VBForm: return "Form";
+    case vbide::vbext_ct_VBMDIForm: return "MDIForm";
+    case vbide::vbext_ct_ClassModule: return "ClassModule";
+    case vbide::vbext_ct_UserControl: return "UserControl";
+    case vbide::vbext_ct_PropPage: return "PropertyPage";
+    case vbide::vbext_ct_DocObject: return "UserDocument";
+    default: return "Module";
+    }
+}
+
+QString titleOf(const vbide::VBControl& control) {
+    const PropertyReader read(control.Properties());
+    const int index = read.number("Index", -1);
+    const auto name = index < 0 ? read.text("Name") : QString("%1(%2)").arg(read.text("Name")).arg(index);
+    return name + " " + qt(control.ClassName());
+}
+
+bool hasDesign(vbide::VBComponent& component) {
+    bool has = false;
+    (void)basic::attempt([&] { has = bool(component.Designer()); });
+    return has;
+}
+
+} // namespace
+
+PropertiesWindow::PropertiesWindow(DesignHistory& history, Wishes wishes)
+    : history_(history),
+      wishes_(std::move(wishes)),
+      objects_(new QComboBox),
+      table_(new QTableView),
+      rows_([this](std::exception_ptr error) {
+          // not from within the editor that is closing
+          QTimer::singleShot(0, this, [this, error] { wishes_.run([&] { std::rethrow_exception(error); }); });
+      }),
+      editors_(rows_) {
+    objects_->setObjectName("propertyObjects");
+    objects_->setAccessibleName("Object");
+    objects_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    buildTable();
+    auto* const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(2);
+    layout->addWidget(objects_);
+    layout->addWidget(table_);
+    setFocusProxy(table_);
+    connect(objects_, &QComboBox::activated, this, [this](int row) { chosen(row); });
+    refresh_.setSingleShot(true);
+    refresh_.setInterval(0);
+    connect(&refresh_, &QTimer::timeout, this, [this] { refresh(); });
+}
+
+void PropertiesWindow::buildTable() {
+    table_->setObjectName("propertyTable");
+    table_->setAccessibleName("Properties");
+    table_->setModel(&rows_);
+    table_->setItemDelegate(&editors_);
+    table_->horizontalHeader()->hide();
+    table_->horizontalHeader()->setStretchLastSection(true);
+    table_->verticalHeader()->hide();
+    table_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    table_->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + kRowPadding);
+    table_->setColumnWidth(PropertyRows::kNameColumn, kUsualNameWidth);
+    table_->setSelectionBehavior(QTableView::SelectRows);
+    table_->setSelectionMode(QTableView::SingleSelection);
+    table_->setTabKeyNavigation(false);
+    table_->setWordWrap(false);
+    table_->setEditTriggers(QTableView::AnyKeyPressed | QTableView::EditKeyPressed | QTableView::SelectedClicked);
+    connect(table_, &QTableView::doubleClicked, this, [this](const QModelIndex& index) { doubleClicked(index); });
+    connect(table_->selectionModel(), &QItemSelectionModel::currentChanged, this, [this](const QModelIndex& now) {
+        if (now.isValid()) currentName_ = now.siblingAtColumn(PropertyRows::kNameColumn).data().toString();
+        // what is typed goes to the value
+        if (now.column() == PropertyRows::kNameColumn)
+            table_->setCurrentIndex(now.siblingAtColumn(PropertyRows::kValueColumn));
+    });
+}
+
+void PropertiesWindow::inspect(const vbide::Ref<vbide::VBComponent>& component,
+                               const vbide::Ref<vbide::VBControl>& control) {
+    if (component == component_ && control == control_ && !project_) return;
+    project_ = nullptr;
+    component_ = component;
+    control_ = control;
+    show();
+}
+
+void PropertiesWindow::inspect(const vbide::Ref<vbide::VBProject>& project) {
+    clear();
+    project_ = project;
+    show();
+}
+
+void PropertiesWindow::clear() {
+    project_ = nullptr;
+    component_ = nullptr;
+    control_ = nullptr;
+    show();
+}
+
+void PropertiesWindow::refresh() {
+    const auto gone = basic::attempt([this] {
+        if (project_) (void)project_->Name();
+        if (component_) (void)component_->Name();
+        if (control_) (void)control_->ClassName();
+    });
+    if (gone.Number != 0) return clear();
+    listObjects();
+    rows_.reread();
+}
+
+void PropertiesWindow::show() {
+    refresh_.stop();
+    const auto wanted = currentName_;
+    InspectedObject shown;
+    (void)basic::attempt([&] { shown = object(); });
+    rows_.show(std::move(shown));
+    listObjects();
+    const int row = std::max(0, rows_.rowOf(wanted));
+    if (rows_.rowCount() > 0) table_->setCurrentIndex(rows_.index(row, PropertyRows::kValueColumn));
+    currentName_ = wanted.isEmpty() ? currentName_ : wanted; // of an object without it the next one has it again
+}
+
+InspectedObject PropertiesWindow::object() const {
+    if (project_) return nameOf(project_);
+    if (!component_) return {};
+    if (!hasDesign(*component_)) return nameOf(component_);
+    const auto properties = control_ ? control_->Properties() : component_->Properties();
+    return {properties->items(),
+            [&history = history_, component = component_, properties](const auto& property, const auto& value) {
+                history.set(component, properties, {{property->Name(), value}});
+            }};
+}
+
+void PropertiesWindow::listObjects() {
+    const QSignalBlocker ours(objects_);
+    objects_->clear();
+    controls_.clear();
+    (void)basic::attempt([&] { // what has been removed has no name
+        if (project_) return objects_->addItem(qt(project_->Name()) + " Project");
+        if (!component_) return;
+        objects_->addItem(qt(component_->Name()) + " " + classOf(component_->Type()));
+        if (!hasDesign(*component_)) return;
+        QStringList titles;
+        for (const auto& control : component_->Designer()->VBControls()->items()) {
+            controls_.push_back(control);
+            titles << titleOf(*control);
+        }
+        objects_->addItems(titles);
+    });
+    const auto found = std::find(controls_.begin(), controls_.end(), control_);
+    objects_->setCurrentIndex(found == controls_.end() ? 0 : int(found - controls_.begin()) + 1);
+}
+
+void PropertiesWindow::chosen(int row) {
+    if (!component_) return;
+    const auto control = row > 0 ? controls_[std::size_t(row) - 1] : nullptr;
+    wishes_.select(control);
+    inspect(component_, control); // also where no form is in front
+}
+
+void PropertiesWindow::doubleClicked(const QModelIndex& index) {
+    const auto value = index.siblingAtColumn(PropertyRows::kValueColumn);
+    if (!rows_.choices(index.row()).isEmpty()) return rows_.cycle(index.row());
+    if (rows_.details(index.row()).kind == host::PropertyKind::Font) return chooseFont(rows_.property(index.row()));
+    if (value.flags() & Qt::ItemIsEditable) table_->edit(value);
+}
+
+void PropertiesWindow::chooseFont(const vbide::Ref<vbide::Property>& font) {
+    wishes_.run([&] {
+        const auto members = font->ObjectValue();
+        const PropertyReader read(members);
+        QFont now(read.text("Name"));
+        now.setPointSizeF(std::max(1.0, read.real("Size")));
+        now.setBold(read.flag("Bold"));
+        now.setItalic(read.flag("Italic"));
+        now.setUnderline(read.flag("Underline"));
+        now.setStrikeOut(read.flag("Strikethrough"));
+        bool accepted = false;
+        const auto chosen = QFontDialog::getFont(&accepted, now, this, "Font");
+        if (!accepted) return;
+        history_.set(component_, members,
+                     {{"Name", text(chosen.family())},
+                      {"Size", chosen.pointSizeF()},
+                      {"Bold", chosen.bold()},
+                      {"Italic", chosen.italic()},
+                      {"Underline", chosen.underline()},
+                      {"Strikethrough", chosen.strikeOut()}});
+        rows_.reread();
+    });
+}
+
+} // namespace workbench

@@ -1,0 +1,76 @@
+#pragma once
+// The messages window, drawn from the document that the add-in keeps.
+#include "Apps/workbench/messages/message_filter.h"
+#include "Apps/workbench/messages/message_rows.h"
+#include <QElapsedTimer>
+#include <QTimer>
+#include <QWidget>
+#include <functional>
+
+class QAction;
+class QLabel;
+
+namespace workbench {
+
+class MessageBar;
+class MessageList;
+
+/// Draws many changes at once. Filter and order are the view's own: what it asks of the document it asks by the
+/// document's numbers.
+class MessagesView final : public QWidget {
+public:
+    using Document = fernwick::udocCompileMsgs;
+    using Run = std::function<void(const std::function<void()>&)>;
+
+    MessagesView(basic::Ref<Document> document, Run run);
+    ~MessagesView() override;
+
+    const basic::Ref<Document>& document() const { return document_; }
+    /// Told when the rows have been drawn anew.
+    std::function<void()> drawn = [] {};
+    /// The commands that lead from one message to the next and the one before, for the window to have their keys. Keys are
+    /// the user's settings "messages/nextKey" and "messages/previousKey".
+    const QList<QAction*>& walk() const { return walk_; }
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    void putTogether();
+    void addCommands();
+    QAction* addCommand(const char* text, const char* name, std::function<void()> act);
+    void watchDocument();
+    void drawSoon();
+    void draw();
+    void layOut();
+    void layOutStatus();
+    void showChosen();
+    bool pressed(const QKeyEvent& key);
+    void goTo(const QModelIndex& index);
+    void step(int by);
+    void help();
+    void copy();
+    void copyRows(const QModelIndexList& shown);
+    std::int32_t numberOf(const QModelIndex& index) const;
+    void enableCommands();
+    void press(int keyCode, int shift);
+
+    basic::Ref<Document> document_;
+    Run run_;
+    MessageRows rows_;
+    MessageFilter shown_;
+    MessageBar* bar_;
+    MessageList* list_;
+    QWidget* statusLine_;
+    QLabel* status_;
+    QLabel* statusText_;
+    QAction *goTo_ = nullptr, *help_ = nullptr, *copy_ = nullptr, *copyAll_ = nullptr;
+    QList<QAction*> walk_;
+    QTimer redraw_;
+    QElapsedTimer sinceDrawn_;
+    std::vector<fernwick::Subscription> watches_;
+};
+
+} // namespace workbench

@@ -1,0 +1,161 @@
+#include "Apps/workbench/project/project_explorer.h"
+#include "Apps/workbench/base/letter_icons.h"
+#include "Apps/workbench/base/text.h"
+#include <QStyle>
+#include <algorithm>
+#include <array>
+
+namespace workbench {
+
+namespace {
+
+enum Column { kNameColumn };
+enum Data { kProjectNumber = Qt::UserRole, kComponentNumber };
+
+struct Group {
+    const char* name;
+    vbide::vbext_ComponentType type;
+};
+/// In the order of the tree.
+constexpr std::array kGroups{
+    Group{"Forms", vbide::vbext_ct_VBForm},
+    Group{"MDI Forms", vbide::vbext_ct_VBMDIForm},
+    Group{"Modules", vbide::vbext_ct_StdModule},
+    Group{"Class Modules", vbide::vbext_ct_ClassModule},
+    Group{"User Controls", vbide::vbext_ct_UserControl},
+    Group{"Property Pages", vbide::vbext_ct_PropPage},
+    Group{"User Documents", vbide::vbext_ct_DocObject},
+    Group{"Designers", vbide::vbext_ct_ActiveXDesigner},
+    Group{"Related Documents", vbide::vbext_ct_RelatedDocument},
+};
+
+/// Its place in the table, the table's end for a type that the tree doesn't show.
+std::size_t groupOf(vbide::vbext_ComponentType type) {
+    const auto found = std::find_if(kGroups.begin(), kGroups.end(), [type](const auto& g) { return g.type == type; });
+    return std::size_t(found - kGroups.begin());
+}
+
+QString fileTitle(const std::string& path) { return qt(path.substr(path.rfind('/') + 1)); }
+
+/// "frmHello (frmHello.frm)", with a star while it is not saved.
+QString entryText(const std::string& name, const std::string& path, bool dirty) {
+    return QString("%1 (%2)%3").arg(qt(name), path.empty() ? qt(name) : fileTitle(path), dirty ? " *" : "");
+}
+
+} // namespace
+
+ProjectExplorer::ProjectExplorer(vbide::Ref<vbide::VBE> host, Wishes wishes)
+    : host_(std::move(host)), wishes_(std::move(wishes)) {
+    setObjectName("explorer");
+    setAccessibleName("Project explorer");
+    setHeaderHidden(true);
+    setUniformRowHeights(true);
+    redraw_.setSingleShot(true);
+    redraw_.setInterval(0); // a project comes as hundreds of events
+    connect(&redraw_, &QTimer::timeout, this, [this] { draw(); });
+    connect(this, &QTreeWidget::itemActivated, this, [this] { openCurrent(); });
+    watchProjects();
+    draw();
+}
+
+void ProjectExplorer::watchProjects() {
+    const auto events = host_->Events()->VBProjectsEvents();
+    const auto soon = [this](const auto&...) { refreshSoon(); };
+    projectEvents_.push_back(events->ItemAdded.connect(soon));
+    projectEvents_.push_back(events->ItemRemoved.connect(soon));
+    projectEvents_.push_back(events->ItemActivated.connect(soon));
+    projectEvents_.push_back(events->ItemRenamed.connect(soon));
+    projectEvents_.push_back(host_->Events()->FileControlEvents(nullptr)->AfterWriteFile.connect(soon));
+}
+
+void ProjectExplorer::watchComponents() {
+    componentEvents_.clear();
+    const auto soon = [this](const auto&...) { refreshSoon(); };
+    for (const auto& project : projects_) {
+        const auto events = host_->Events()->VBComponentsEvents(project);
+        componentEvents_.push_back(events->ItemAdded.connect(soon));
+        componentEvents_.push_back(events->ItemRemoved.connect(soon));
+        componentEvents_.push_back(events->ItemRenamed.connect(soon));
+    }
+}
+
+void ProjectExplorer::draw() {
+    redraw_.stop();
+    auto projects = host_->VBProjects()->items();
+    std::vector<vbide::Ref<vbide::VBComponent>> components;
+    for (const auto& project : projects)
+        for (const auto& component : project->VBComponents()->items()) components.push_back(component);
+    if (projects != projects_ || components != components_) {
+        clear();
+        projects_ = std::move(projects);
+        components_ = std::move(components);
+        watchComponents();
+        addEntries();
+        expandAll();
+    }
+    showTexts();
+    wishes_.drawn();
+}
+
+void ProjectExplorer::addEntries() {
+    if (projects_.empty()) return;
+    const auto folder = style()->standardIcon(QStyle::SP_DirIcon); // looked up in themes, so once for all
+    std::size_t component = 0;
+    for (std::size_t i = 0; i < projects_.size(); ++i) {
+        auto* const top = new QTreeWidgetItem(this);
+        top->setData(kNameColumn, kProjectNumber, qulonglong(i + 1));
+        top->setIcon(kNameColumn, projectIcon());
+        std::array<QTreeWidgetItem*, kGroups.size()> groups{};
+        for (std::size_t g = 0; g < kGroups.size(); ++g) {
+            groups[g] = new QTreeWidgetItem(top, {kGroups[g].name});
+            groups[g]->setIcon(kNameColumn, folder);
+        }
+        for (const auto last = component + std::size_t(projects_[i]->VBComponents()->Count()); component < last;) {
+            const auto group = groupOf(components_[component++]->Type());
+            if (group == kGroups.size()) continue;
+            auto* const entry = new QTreeWidgetItem(groups[group]);
+            entry->setData(kNameColumn, kComponentNumber, qulonglong(component));
+            entry->setIcon(kNameColumn, componentIcon(components_[component - 1]->Type()));
+        }
+        for (auto* group : groups)
+            if (group->childCount() == 0) delete group;
+    }
+}
+
+/// What may change without another entry: names, files, marks of what is not saved, and which project is active.
+void ProjectExplorer::showTexts() {
+    for (QTreeWidgetItemIterator at(this); *at; ++at) {
+        if (const auto number = (*at)->data(kNameColumn, kProjectNumber).toULongLong()) {
+            const auto& project = projects_[number - 1];
+            (*at)->setText(kNameColumn, entryText(project->Name(), project->FileName(), project->IsDirty()));
+            auto font = this->font();
+            font.setBold(host_->ActiveVBProject() == project);
+            (*at)->setFont(kNameColumn, font);
+        } else if (const auto number = (*at)->data(kNameColumn, kComponentNumber).toULongLong()) {
+            const auto& component = components_[number - 1];
+            (*at)->setText(kNameColumn, entryText(component->Name(), component->FileNames(1), component->IsDirty()));
+        }
+    }
+    for (int i = 0; i < topLevelItemCount(); ++i)
+        for (int group = 0; group < topLevelItem(i)->childCount(); ++group)
+            topLevelItem(i)->child(group)->sortChildren(kNameColumn, Qt::AscendingOrder);
+}
+
+vbide::Ref<vbide::VBProject> ProjectExplorer::currentProject() const {
+    const auto* item = currentItem();
+    const auto number = item ? item->data(kNameColumn, kProjectNumber).toULongLong() : 0;
+    return number ? projects_[number - 1] : nullptr;
+}
+
+vbide::Ref<vbide::VBComponent> ProjectExplorer::currentComponent() const {
+    const auto* item = currentItem();
+    const auto number = item ? item->data(kNameColumn, kComponentNumber).toULongLong() : 0;
+    return number ? components_[number - 1] : nullptr;
+}
+
+void ProjectExplorer::openCurrent() {
+    if (const auto project = currentProject()) return wishes_.activateProject(project);
+    if (const auto component = currentComponent()) wishes_.openCode(component);
+}
+
+} // namespace workbench

@@ -1,0 +1,43 @@
+#include "Apps/workbench/project/project_reopening.h"
+#include "Apps/workbench/window/main_window.h"
+#include "Apps/workbench/code/scintilla.h"
+
+namespace workbench {
+
+namespace {
+
+struct OpenWindow {
+    std::string component;
+    int line, column, top;
+};
+
+std::vector<OpenWindow> windowsOf(CodeWindows& code, const vbide::Ref<vbide::VBProject>& project) {
+    std::vector<OpenWindow> windows;
+    for (const auto& component : project->VBComponents()->items())
+        if (auto* const editor = code.editorOf(component)) {
+            const auto place = editor->place();
+            windows.push_back({component->Name(), place.line, place.column, editor->scintilla().firstVisibleLine()});
+        }
+    return windows;
+}
+
+void openAgain(CodeWindows& code, const vbide::Ref<vbide::VBProject>& project, const OpenWindow& window) {
+    const auto component = project->VBComponents()->Item(window.component);
+    code.showPlace({component, window.line, window.column, 0});
+    if (auto* const editor = code.editorOf(component)) editor->scintilla().setFirstVisibleLine(window.top);
+}
+
+} // namespace
+
+void reopenProject(host::Host& host, MainWindow& window, const vbide::Ref<vbide::VBProject>& project) {
+    const auto path = project->FileName();
+    const auto windows = windowsOf(window.code(), project);
+    // nobody shall save at the closing what the user gave up
+    for (const auto& component : project->VBComponents()->items()) component->IsDirty(false);
+    project->IsDirty(false);
+    host.VBProjects()->Remove(project);
+    const auto again = host.VBProjects()->AddFromFile(path);
+    for (const auto& one : windows) (void)basic::attempt([&] { openAgain(window.code(), again, one); });
+}
+
+} // namespace workbench
