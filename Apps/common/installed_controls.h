@@ -1,6 +1,6 @@
 #pragma once
 // The device controls of the installation, as form designers need them.
-#include "Host/model/described_classes.h"
+#include "Host/model/forms/described_classes.h"
 #include <optional>
 #include <string>
 

@@ -1,12 +1,12 @@
 #include "Host/model/host.h"
 #include "Host/files/atomic_save.h"
 #include "Host/model/addin_list.h"
-#include "Host/model/bars.h"
+#include "Host/model/bars/bars.h"
 #include "Host/model/event_sources.h"
-#include "Host/model/host_errors.h"
+#include "Host/model/base/host_errors.h"
 #include "Host/model/project.h"
 #include "Host/model/projects.h"
-#include "Host/model/tool_windows.h"
+#include "Host/model/bars/tool_windows.h"
 #include <algorithm>
 
 namespace host {

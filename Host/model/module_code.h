@@ -2,7 +2,7 @@
 // The code window's lines of a component, and the pane that shows them.
 #include "Add-in/platform/events.h"
 #include "Add-in/platform/host.h"
-#include "Host/model/code_members.h"
+#include "Host/model/code/code_members.h"
 #include <memory>
 #include <string>
 #include <vector>

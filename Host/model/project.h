@@ -5,7 +5,7 @@
 #include "Host/files/path_lookup.h"
 #include "Host/files/project_file.h"
 #include "Host/model/components.h"
-#include "Host/model/load_problem.h"
+#include "Host/model/base/load_problem.h"
 #include <memory>
 #include <optional>
 #include <string>

@@ -2,7 +2,7 @@
 #include "Basic/case_folding.h"
 #include "Host/files/path_lookup.h"
 #include "Host/model/host.h"
-#include "Host/model/host_errors.h"
+#include "Host/model/base/host_errors.h"
 #include "Host/model/project.h"
 #include <algorithm>
 #include <fmt/format.h>

@@ -1,6 +1,6 @@
 // Pictures on buttons.
 #include "Add-in/commands/mapped_bitmap.h"
-#include "Host/model/bars.h"
+#include "Host/model/bars/bars.h"
 #include "Host/system/file_system.h"
 #include "Host/system/resources.h"
 #include "commands_world.h"

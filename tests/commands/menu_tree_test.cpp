@@ -1,5 +1,5 @@
 // The menu as it stands on the real host.
-#include "Host/model/bars.h"
+#include "Host/model/bars/bars.h"
 #include "commands_world.h"
 #include "tests/support/test_host.h"
 

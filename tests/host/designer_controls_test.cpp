@@ -1,4 +1,4 @@
-#include "Host/model/described_classes.h"
+#include "Host/model/forms/described_classes.h"
 #include "tests/host/designer_support.h"
 #include <gmock/gmock.h>
 

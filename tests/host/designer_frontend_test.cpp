@@ -1,7 +1,7 @@
-#include "Host/model/described_classes.h"
-#include "Host/model/form_controls.h"
-#include "Host/model/form_places.h"
-#include "Host/model/property_source.h"
+#include "Host/model/forms/described_classes.h"
+#include "Host/model/forms/form_controls.h"
+#include "Host/model/forms/form_places.h"
+#include "Host/model/forms/property_source.h"
 #include "tests/host/designer_support.h"
 #include "tests/support/test_host.h"
 #include <gmock/gmock.h>

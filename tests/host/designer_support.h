@@ -1,7 +1,7 @@
 #pragma once
 // A designer over the text of a form, for tests.
 #include "Host/files/form_line.h"
-#include "Host/model/form_designer.h"
+#include "Host/model/forms/form_designer.h"
 #include <gtest/gtest.h>
 #include <string>
 

@@ -1,5 +1,5 @@
-#include "Host/model/described_classes.h"
-#include "Host/model/form_designer.h"
+#include "Host/model/forms/described_classes.h"
+#include "Host/model/forms/form_designer.h"
 #include <gtest/gtest.h>
 
 // The shipped device controls on a form: what the scan for fonts reads of them.

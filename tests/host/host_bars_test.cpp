@@ -1,4 +1,4 @@
-#include "Host/model/bars.h"
+#include "Host/model/bars/bars.h"
 #include "Host/system/clipboard.h"
 #include "tests/support/test_host.h"
 

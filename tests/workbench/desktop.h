@@ -1,7 +1,7 @@
 #pragma once
 // The whole desktop over copies of the samples, drawn into memory.
 #include "Apps/workbench/code/scintilla.h"
-#include "Host/model/bars.h"
+#include "Host/model/bars/bars.h"
 #include "tests/workbench/running_bench.h"
 #include <QMessageBox>
 #include <QTreeWidgetItemIterator>

@@ -2,7 +2,7 @@
 // Draws the host's menus and toolbars, whoever put them there.
 #include "Apps/workbench/base/theme.h"
 #include "Apps/workbench/bars/toolbar_docking.h"
-#include "Host/model/bars.h"
+#include "Host/model/bars/bars.h"
 #include <QTimer>
 #include <functional>
 #include <map>

@@ -1,6 +1,6 @@
 #pragma once
 // Where the toolbars stand: the host's model says it, and what the user drags is written back to the model.
-#include "Host/model/bars.h"
+#include "Host/model/bars/bars.h"
 #include <QMainWindow>
 #include <QTimer>
 #include <QToolBar>

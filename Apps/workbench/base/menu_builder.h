@@ -1,6 +1,6 @@
 #pragma once
 // Adds commands to the host's menus.
-#include "Host/model/bars.h"
+#include "Host/model/bars/bars.h"
 #include "Host/model/host.h"
 #include <functional>
 #include <memory>

@@ -1,7 +1,7 @@
 #pragma once
 // The commands of the code windows: the Edit menu, what the View menu says of definitions, and the editors' own menu.
 #include "Apps/workbench/code/find_bar.h"
-#include "Host/model/bars.h"
+#include "Host/model/bars/bars.h"
 #include <QObject>
 
 namespace workbench {

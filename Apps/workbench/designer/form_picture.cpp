@@ -2,7 +2,7 @@
 #include "Apps/workbench/designer/form_colours.h"
 #include "Apps/workbench/base/text.h"
 #include "Basic/runtime_error.h"
-#include "Host/model/form_places.h"
+#include "Host/model/forms/form_places.h"
 #include <QLineF>
 #include <algorithm>
 

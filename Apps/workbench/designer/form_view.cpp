@@ -3,7 +3,7 @@
 #include "Apps/workbench/designer/form_canvas.h"
 #include "Apps/workbench/base/text.h"
 #include "Basic/runtime_error.h"
-#include "Host/model/form_controls.h"
+#include "Host/model/forms/form_controls.h"
 #include <QPointer>
 #include <algorithm>
 #include <cmath>

@@ -2,7 +2,7 @@
 #include "Apps/workbench/designer/form_colours.h"
 #include "Apps/workbench/base/text.h"
 #include "Basic/runtime_error.h"
-#include "Host/model/property_source.h"
+#include "Host/model/forms/property_source.h"
 #include <algorithm>
 #include <cmath>
 

@@ -1,6 +1,6 @@
 #pragma once
 // The properties of one object as rows of name and value.
-#include "Host/model/property_source.h"
+#include "Host/model/forms/property_source.h"
 #include <QAbstractTableModel>
 #include <QStringList>
 #include <functional>

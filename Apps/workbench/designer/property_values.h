@@ -1,6 +1,6 @@
 #pragma once
 // Values of properties between the host and what the user reads and types.
-#include "Host/model/property_source.h"
+#include "Host/model/forms/property_source.h"
 #include <QString>
 #include <QStringList>
 

@@ -1,6 +1,6 @@
 #include "Apps/workbench/project/recent_projects.h"
 #include "Apps/workbench/base/text.h"
-#include "Host/model/bars.h"
+#include "Host/model/bars/bars.h"
 #include <QSettings>
 
 namespace workbench {

@@ -6,7 +6,7 @@
 #include "Apps/workbench/messages/messages_view.h"
 #include "Apps/workbench/project/project_explorer.h"
 #include "Host/model/host.h"
-#include "Host/model/tool_window.h"
+#include "Host/model/bars/tool_window.h"
 #include <QMainWindow>
 #include <QPointer>
 #include <map>

@@ -1,0 +1,19 @@
+#pragma once
+// The properties of a form itself.
+#include "Host/model/forms/block_properties.h"
+
+namespace host {
+
+/// As those of any block, but place, size and scale follow FormGeometry.
+class FormProperties : public BlockProperties {
+public:
+    using BlockProperties::BlockProperties;
+    using BlockProperties::value;
+    vbide::Variant value(const std::string& name) const override;
+    void value(const std::string& name, const vbide::Variant& value) override;
+
+protected:
+    bool isShown(std::string_view key) const override;
+};
+
+} // namespace host
