@@ -1,6 +1,6 @@
 // What the compiler tells while it works.
-#include "Add-in/build/messages/build_texts.h"
 #include "Add-in/build/frmCompile.h"
+#include "Add-in/build/messages/build_texts.h"
 #include "Add-in/core/guids.h"
 #include "Basic/like.h"
 #include "Basic/number_text.h"

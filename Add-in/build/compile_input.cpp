@@ -1,6 +1,6 @@
 // What the compile driver gives to the compiler.
-#include "Add-in/build/messages/build_texts.h"
 #include "Add-in/build/frmCompile.h"
+#include "Add-in/build/messages/build_texts.h"
 #include "Add-in/build/type_lib_dll.h"
 #include "Basic/like.h"
 #include "Basic/text.h"

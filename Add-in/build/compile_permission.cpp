@@ -1,6 +1,6 @@
 // Whether a project may be compiled or validated, and the saving that comes before.
-#include "Add-in/build/messages/build_texts.h"
 #include "Add-in/build/frmCompile.h"
+#include "Add-in/build/messages/build_texts.h"
 #include "Add-in/build/messages/message_numbers.h"
 
 namespace fernwick {

@@ -1,7 +1,7 @@
 #pragma once
 // The compile driver: everything around the compiler component.
-#include "Add-in/build/line_counts.h"
 #include "Add-in/build/dependencies/modDependencyManagement.h"
+#include "Add-in/build/line_counts.h"
 #include "Add-in/build/modProcessControl.h"
 #include "Add-in/core/ide_commands.h"
 #include "Add-in/core/modQLInstallInfo.h"

@@ -1,7 +1,7 @@
 // Whether devices support what a form is and does.
-#include "Add-in/build/messages/build_texts.h"
 #include "Add-in/build/control_events.h"
 #include "Add-in/build/frmValidate.h"
+#include "Add-in/build/messages/build_texts.h"
 #include "Add-in/build/messages/message_numbers.h"
 #include "Add-in/build/reserved_words.h"
 #include "Basic/text.h"

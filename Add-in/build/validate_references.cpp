@@ -1,6 +1,6 @@
 // Whether a project's device supports the libraries that the project uses.
-#include "Add-in/build/messages/build_texts.h"
 #include "Add-in/build/frmValidate.h"
+#include "Add-in/build/messages/build_texts.h"
 #include "Add-in/build/messages/message_numbers.h"
 #include <fmt/format.h>
 

@@ -1,8 +1,8 @@
 #pragma once
 // Carries a project to a device, or into a package.
+#include "Add-in/build/dependencies/modDependencyManagement.h"
 #include "Add-in/build/frmCompileWarning.h"
 #include "Add-in/build/frmValidate.h"
-#include "Add-in/build/dependencies/modDependencyManagement.h"
 #include "Add-in/deploy/PipeForm.h"
 
 namespace fernwick {

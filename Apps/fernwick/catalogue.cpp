@@ -1,7 +1,7 @@
 #include "Apps/fernwick/catalogue.h"
 #include "Add-in/build/messages/build_messages.h"
 #include "Components/QLPipe/pipe_messages.h"
-#include "Components/QLToolkit/messages.h"
+#include "Components/QLToolkit/source/messages.h"
 #include <algorithm>
 #include <cstdlib>
 

@@ -1,5 +1,5 @@
 #include "Components/QLToolkit/check.h"
-#include "Components/QLToolkit/parser.h"
+#include "Components/QLToolkit/parser/parser.h"
 #include <cerrno>
 #include <charconv>
 #include <cstring>

@@ -1,7 +1,7 @@
 #pragma once
 // The way in: a file's text becomes a tree and diagnostics.
-#include "Components/QLToolkit/ast.h"
-#include "Components/QLToolkit/diagnostic.h"
+#include "Components/QLToolkit/parser/ast.h"
+#include "Components/QLToolkit/source/diagnostic.h"
 #include <memory>
 #include <string>
 #include <utility>

@@ -1,8 +1,8 @@
 #include "Components/QLToolkit/compiler.h"
 #include "Basic/case_folding.h"
 #include "Basic/text_search.h"
-#include "Components/QLToolkit/form_header.h"
 #include "Components/QLToolkit/module_image.h"
+#include "Components/QLToolkit/parser/form_header.h"
 #include <set>
 
 namespace compiler {

@@ -1,5 +1,5 @@
 #include "Components/QLToolkit/module_image.h"
-#include "Components/QLToolkit/ast_walk.h"
+#include "Components/QLToolkit/parser/ast_walk.h"
 #include <unordered_set>
 
 namespace compiler {

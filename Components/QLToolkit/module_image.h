@@ -1,7 +1,7 @@
 #pragma once
 // What an image holds of a module.
 #include "Components/Image/image.h"
-#include "Components/QLToolkit/ast.h"
+#include "Components/QLToolkit/parser/ast.h"
 
 namespace compiler {
 

@@ -1,6 +1,6 @@
 #include "Host/model/addin_list.h"
-#include "Host/model/host.h"
 #include "Host/model/base/host_errors.h"
+#include "Host/model/host.h"
 #include <algorithm>
 
 namespace host {

@@ -2,13 +2,13 @@
 #include "Basic/case_folding.h"
 #include "Host/files/atomic_save.h"
 #include "Host/files/path_lookup.h"
+#include "Host/model/bars/tool_window.h"
+#include "Host/model/base/host_errors.h"
 #include "Host/model/forms/form_designer.h"
 #include "Host/model/host.h"
-#include "Host/model/base/host_errors.h"
 #include "Host/model/module_code.h"
 #include "Host/model/project.h"
 #include "Host/model/project_references.h"
-#include "Host/model/bars/tool_window.h"
 #include <algorithm>
 #include <fmt/format.h>
 #include <unistd.h>

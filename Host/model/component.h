@@ -4,8 +4,8 @@
 #include "Add-in/platform/host_project.h"
 #include "Host/files/project_file.h"
 #include "Host/files/text_file.h"
-#include "Host/model/forms/designer_state.h"
 #include "Host/model/code/source_file.h"
+#include "Host/model/forms/designer_state.h"
 #include <map>
 #include <memory>
 #include <optional>

@@ -1,8 +1,8 @@
 #include "Host/model/project_references.h"
 #include "Basic/case_folding.h"
 #include "Host/files/path_lookup.h"
-#include "Host/model/host.h"
 #include "Host/model/base/host_errors.h"
+#include "Host/model/host.h"
 #include "Host/model/project.h"
 #include <algorithm>
 #include <fmt/format.h>

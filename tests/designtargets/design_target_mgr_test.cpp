@@ -34,8 +34,7 @@ TEST(DesignTargetMgr, OrdersByNumberThenByKey) {
     folder.add("2.toml", TargetFolder::target("Beta", 2));
     folder.add("3.toml", TargetFolder::target("Alpha", 2));
     folder.add("4.toml", TargetFolder::target("First", -5));
-    EXPECT_EQ(keysOf(*initialized(folder.root())),
-              (std::vector<std::string>{"First", "Zeta", "Alpha", "Beta"}));
+    EXPECT_EQ(keysOf(*initialized(folder.root())), (std::vector<std::string>{"First", "Zeta", "Alpha", "Beta"}));
 }
 
 TEST(DesignTargetMgr, FindsByKeyExactly) {

@@ -1,7 +1,7 @@
 #pragma once
 // Trees as S-expressions: what the parser's tests compare.
-#include "Components/QLToolkit/ast.h"
 #include "Components/QLToolkit/check.h"
+#include "Components/QLToolkit/parser/ast.h"
 #include <charconv>
 #include <fmt/format.h>
 #include <string>

@@ -1,5 +1,5 @@
 // What the tables of the parser's tests do not show: names in foreign letters, continuations, odd bytes.
-#include "Components/QLToolkit/keywords.h"
+#include "Components/QLToolkit/lexer/keywords.h"
 #include "tests/qltoolkit/ast_dump.h"
 #include <gtest/gtest.h>
 

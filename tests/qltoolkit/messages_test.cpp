@@ -1,4 +1,4 @@
-#include "Components/QLToolkit/messages.h"
+#include "Components/QLToolkit/source/messages.h"
 #include "tests/qltoolkit/ast_dump.h"
 #include <gtest/gtest.h>
 #include <set>

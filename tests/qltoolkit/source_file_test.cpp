@@ -1,5 +1,5 @@
 #include "Components/QLToolkit/check.h"
-#include "Components/QLToolkit/source_file.h"
+#include "Components/QLToolkit/source/source_file.h"
 #include "tests/qltoolkit/ast_dump.h"
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,9 +1,9 @@
 #pragma once
 // The whole desktop with a form on its designer.
+#include "Apps/workbench/base/text.h"
 #include "Apps/workbench/designer/design_desk.h"
 #include "Apps/workbench/designer/form_canvas.h"
 #include "Apps/workbench/designer/form_painter.h"
-#include "Apps/workbench/base/text.h"
 #include "tests/workbench/running_bench.h"
 #include <QDockWidget>
 #include <QTableView>

@@ -1,6 +1,6 @@
 // Finding and replacing, from one line of code to a whole project.
-#include "Apps/workbench/code/code_pattern.h"
 #include "Apps/workbench/bars/command_icons.h"
+#include "Apps/workbench/code/code_pattern.h"
 #include "Apps/workbench/code/find_bar.h"
 #include "tests/workbench/open_desktop.h"
 #include <QCheckBox>

@@ -1,7 +1,7 @@
 // The introduction's window: its pictures, its keys, and the tick that lasts.
 #include "Add-in/core/connect/Modules.h"
-#include "Apps/workbench/bridge/form_window.h"
 #include "Apps/workbench/base/theme.h"
+#include "Apps/workbench/bridge/form_window.h"
 #include "Apps/workbench/window/workbench.h"
 #include "tests/workbench/desktop_user.h"
 #include "tests/workbench/desktop_world.h"

@@ -1,8 +1,8 @@
 // The fonts that a project's forms need.
-#include "Add-in/build/messages/build_texts.h"
 #include "Add-in/build/dependencies/font_folder.h"
-#include "Add-in/build/messages/message_numbers.h"
 #include "Add-in/build/dependencies/modDependencyManagement.h"
+#include "Add-in/build/messages/build_texts.h"
+#include "Add-in/build/messages/message_numbers.h"
 #include <array>
 #include <fmt/format.h>
 #include <set>

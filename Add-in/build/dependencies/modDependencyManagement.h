@@ -1,8 +1,8 @@
 #pragma once
 // What travels to a device with the compiled image: the user's list of files, and the fonts that forms name.
 #include "Add-in/build/dependencies/font_file.h"
-#include "Add-in/build/messages/modCompileErrorManagement.h"
 #include "Add-in/build/dependencies/resource_list.h"
+#include "Add-in/build/messages/modCompileErrorManagement.h"
 #include "Add-in/core/ide_commands.h"
 #include "Add-in/core/modQLInstallInfo.h"
 #include "Add-in/platform/controls.h"

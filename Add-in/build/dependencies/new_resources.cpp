@@ -1,6 +1,6 @@
 // Files that the user adds to a project's dependencies.
-#include "Add-in/build/messages/build_texts.h"
 #include "Add-in/build/dependencies/modDependencyManagement.h"
+#include "Add-in/build/messages/build_texts.h"
 #include "Add-in/core/modFileManagement.h"
 #include "Basic/text.h"
 #include "Basic/text_search.h"

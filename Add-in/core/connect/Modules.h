@@ -1,9 +1,9 @@
 #pragma once
 // The whole add-in, put together.
+#include "Add-in/build/dependencies/modDependencyManagement.h"
 #include "Add-in/build/frmCompile.h"
 #include "Add-in/build/frmCompileWarning.h"
 #include "Add-in/build/frmValidate.h"
-#include "Add-in/build/dependencies/modDependencyManagement.h"
 #include "Add-in/build/messages/udocCompileMsgs.h"
 #include "Add-in/core/connect/CommandSurface.h"
 #include "Add-in/core/connect/Connect.h"

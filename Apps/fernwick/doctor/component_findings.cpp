@@ -111,8 +111,7 @@ void examineTargets(Machine& machine, Findings& to) {
     targets.Initialize();
     for (const auto& problem : targets.problems())
         to.push_back(troubleFinding("target file", problem.text(), "Correct the line, or install the file again."));
-    for (std::int16_t i = 0; i < targets.Count(); ++i)
-        examineTarget(machine, *targets.GetDesignTargetByIndex(i), to);
+    for (std::int16_t i = 0; i < targets.Count(); ++i) examineTarget(machine, *targets.GetDesignTargetByIndex(i), to);
     if (targets.Count() == 0)
         to.push_back(troubleFinding("targets", "none is installed",
                                     "Install Fernwick again: without a design target nothing can be compiled."));

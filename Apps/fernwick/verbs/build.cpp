@@ -44,8 +44,7 @@ int dryRun(Session& session, Console& console) {
         console.out(fmt::format("source   {}\n", files.GetAbsolutePathName(component->FileNames(1))));
     for (const auto& reference : session.project()->References()->items())
         if (!reference->BuiltIn()) console.out(fmt::format("library  {}\n", reference->FullPath()));
-    for (const auto& step : apps::allSteps(*session.settings()))
-        console.out(fmt::format("step     {}\n", step));
+    for (const auto& step : apps::allSteps(*session.settings())) console.out(fmt::format("step     {}\n", step));
     console.out(fmt::format("image    {}\n", imagePathOf(session)));
     session.closeUnsaved();
     return kGood;

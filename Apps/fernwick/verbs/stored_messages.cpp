@@ -55,8 +55,7 @@ std::vector<Message> storedMessages(const basic::Ref<vbide::VBProject>& project)
     const auto components = componentsByFile(project);
     const auto count = numberOrZero(storedValue(*project, "NumErrors"));
     for (std::int32_t i = 1; i <= count; ++i) {
-        const auto fields =
-            basic::Split(storedValue(*project, "Error" + std::to_string(i)), "|", kStoredFields);
+        const auto fields = basic::Split(storedValue(*project, "Error" + std::to_string(i)), "|", kStoredFields);
         if (fields.size() + 1 < kStoredFields) continue; // earlier versions stored no number
         Message message;
         message.isError = fields[0] == "ERROR";

@@ -1,7 +1,7 @@
 #pragma once
 // Draws the host's menus and toolbars, whoever put them there.
-#include "Apps/workbench/base/theme.h"
 #include "Apps/workbench/bars/toolbar_docking.h"
+#include "Apps/workbench/base/theme.h"
 #include "Host/model/bars/bars.h"
 #include <QTimer>
 #include <functional>

@@ -1,6 +1,6 @@
 #include "Apps/workbench/bars/command_icons.h"
-#include "Apps/workbench/code/edit_commands.h"
 #include "Apps/workbench/base/painted_icon.h"
+#include "Apps/workbench/code/edit_commands.h"
 #include "Host/model/bars/bars.h"
 #include <QApplication>
 #include <QPolygonF>

@@ -1,7 +1,7 @@
 #include "Apps/workbench/bridge/binder.h"
-#include "Apps/workbench/bridge/moving_picture.h"
 #include "Apps/workbench/base/pictures.h"
 #include "Apps/workbench/base/text.h"
+#include "Apps/workbench/bridge/moving_picture.h"
 #include <QCheckBox>
 #include <QEvent>
 #include <QLabel>

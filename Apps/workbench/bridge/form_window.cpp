@@ -1,6 +1,6 @@
 #include "Apps/workbench/bridge/form_window.h"
-#include "Apps/workbench/bridge/moving_picture.h"
 #include "Apps/workbench/base/text.h"
+#include "Apps/workbench/bridge/moving_picture.h"
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QElapsedTimer>

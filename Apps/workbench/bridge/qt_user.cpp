@@ -1,7 +1,7 @@
 #include "Apps/workbench/bridge/qt_user.h"
+#include "Apps/workbench/base/text.h"
 #include "Apps/workbench/bridge/file_dialog.h"
 #include "Apps/workbench/bridge/form_window.h"
-#include "Apps/workbench/base/text.h"
 #include <QApplication>
 #include <QMessageBox>
 #include <QTimer>

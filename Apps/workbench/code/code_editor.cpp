@@ -1,9 +1,9 @@
 #include "Apps/workbench/code/code_editor.h"
+#include "Apps/workbench/base/text.h"
 #include "Apps/workbench/code/code_input.h"
 #include "Apps/workbench/code/code_texts.h"
 #include "Apps/workbench/code/keyword_case.h"
 #include "Apps/workbench/code/procedure_list.h"
-#include "Apps/workbench/base/text.h"
 #include "Apps/workbench/code/vb_lexer.h"
 #include "Host/model/component.h"
 #include <QBoxLayout>

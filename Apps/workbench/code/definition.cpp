@@ -1,6 +1,6 @@
 #include "Apps/workbench/code/definition.h"
-#include "Apps/workbench/code/code_text.h"
 #include "Apps/workbench/base/text.h"
+#include "Apps/workbench/code/code_text.h"
 #include <QRegularExpression>
 #include <QStringList>
 #include <algorithm>

@@ -1,11 +1,11 @@
 #include "Apps/workbench/code/edit_commands.h"
+#include "Apps/workbench/bars/command_icons.h"
+#include "Apps/workbench/base/text.h"
 #include "Apps/workbench/code/code_lines.h"
 #include "Apps/workbench/code/code_texts.h"
-#include "Apps/workbench/bars/command_icons.h"
 #include "Apps/workbench/code/definition.h"
-#include "Apps/workbench/window/main_window.h"
 #include "Apps/workbench/code/scintilla.h"
-#include "Apps/workbench/base/text.h"
+#include "Apps/workbench/window/main_window.h"
 #include <QBoxLayout>
 #include <QInputDialog>
 #include <QMenu>

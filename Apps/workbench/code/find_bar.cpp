@@ -1,6 +1,6 @@
 #include "Apps/workbench/code/find_bar.h"
-#include "Apps/workbench/code/code_texts.h"
 #include "Apps/workbench/base/text.h"
+#include "Apps/workbench/code/code_texts.h"
 #include <QBoxLayout>
 #include <QCheckBox>
 #include <QComboBox>

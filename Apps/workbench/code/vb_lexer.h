@@ -1,7 +1,7 @@
 #pragma once
 // Visual Basic for the editor.
-#include "Apps/workbench/code/scintilla.h"
 #include "Apps/workbench/base/theme.h"
+#include "Apps/workbench/code/scintilla.h"
 
 namespace workbench {
 

@@ -2,9 +2,9 @@
 // Form views and the properties window, tied to the tabs and the explorer: what is selected in one shows in the others.
 #include "Apps/workbench/code/code_windows.h"
 #include "Apps/workbench/designer/form_windows.h"
-#include "Apps/workbench/project/project_explorer.h"
 #include "Apps/workbench/designer/properties_window.h"
 #include "Apps/workbench/designer/toolbox.h"
+#include "Apps/workbench/project/project_explorer.h"
 
 namespace workbench {
 

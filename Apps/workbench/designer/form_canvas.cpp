@@ -1,6 +1,6 @@
 #include "Apps/workbench/designer/form_canvas.h"
-#include "Apps/workbench/designer/form_painter.h"
 #include "Apps/workbench/base/text.h"
+#include "Apps/workbench/designer/form_painter.h"
 #include <QAction>
 #include <QKeyEvent>
 #include <QMenu>

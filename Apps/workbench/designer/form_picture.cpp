@@ -1,6 +1,6 @@
 #include "Apps/workbench/designer/form_picture.h"
-#include "Apps/workbench/designer/form_colours.h"
 #include "Apps/workbench/base/text.h"
+#include "Apps/workbench/designer/form_colours.h"
 #include "Basic/runtime_error.h"
 #include "Host/model/forms/form_places.h"
 #include <QLineF>

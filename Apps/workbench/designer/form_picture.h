@@ -1,8 +1,8 @@
 #pragma once
 // What there is to draw of a form, read from its text once. Logical pixels, 15 twips each, whatever the screen.
 #include "Add-in/platform/host_project.h"
-#include "Apps/workbench/designer/control_look.h"
 #include "Apps/workbench/base/twips.h"
+#include "Apps/workbench/designer/control_look.h"
 #include <QMarginsF>
 #include <QRectF>
 #include <vector>

@@ -1,7 +1,7 @@
 #include "Apps/workbench/designer/form_view.h"
+#include "Apps/workbench/base/text.h"
 #include "Apps/workbench/designer/event_handlers.h"
 #include "Apps/workbench/designer/form_canvas.h"
-#include "Apps/workbench/base/text.h"
 #include "Basic/runtime_error.h"
 #include "Host/model/forms/form_controls.h"
 #include <QPointer>

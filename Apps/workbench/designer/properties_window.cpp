@@ -1,6 +1,6 @@
 #include "Apps/workbench/designer/properties_window.h"
-#include "Apps/workbench/designer/property_reader.h"
 #include "Apps/workbench/base/text.h"
+#include "Apps/workbench/designer/property_reader.h"
 #include "Basic/runtime_error.h"
 #include <QBoxLayout>
 #include <QComboBox>

@@ -1,8 +1,8 @@
 #include "Apps/workbench/messages/messages_view.h"
-#include "Apps/workbench/messages/message_bar.h"
-#include "Apps/workbench/messages/message_list.h"
 #include "Apps/workbench/base/text.h"
 #include "Apps/workbench/base/twips.h"
+#include "Apps/workbench/messages/message_bar.h"
+#include "Apps/workbench/messages/message_list.h"
 #include <QAction>
 #include <QBoxLayout>
 #include <QEvent>

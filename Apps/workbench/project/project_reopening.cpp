@@ -1,6 +1,6 @@
 #include "Apps/workbench/project/project_reopening.h"
-#include "Apps/workbench/window/main_window.h"
 #include "Apps/workbench/code/scintilla.h"
+#include "Apps/workbench/window/main_window.h"
 
 namespace workbench {
 

@@ -1,7 +1,7 @@
 #include "Apps/workbench/unsaved/recovery.h"
+#include "Apps/workbench/base/text.h"
 #include "Apps/workbench/code/code_texts.h"
 #include "Apps/workbench/code/line_differences.h"
-#include "Apps/workbench/base/text.h"
 #include "Host/files/encoding.h"
 #include "Host/model/component.h"
 #include "Host/model/components.h"

@@ -1,8 +1,8 @@
 #include "Apps/workbench/window/dock_menu.h"
 #include "Apps/workbench/bars/command_icons.h"
-#include "Apps/workbench/window/main_window.h"
 #include "Apps/workbench/base/menu_builder.h"
 #include "Apps/workbench/base/text.h"
+#include "Apps/workbench/window/main_window.h"
 #include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>

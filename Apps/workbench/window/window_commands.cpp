@@ -1,12 +1,12 @@
 #include "Apps/workbench/window/window_commands.h"
 #include "Apps/workbench/bars/command_icons.h"
-#include "Apps/workbench/project/component_commands.h"
-#include "Apps/workbench/window/dock_menu.h"
-#include "Apps/workbench/code/edit_commands.h"
 #include "Apps/workbench/base/menu_builder.h"
+#include "Apps/workbench/base/text.h"
+#include "Apps/workbench/code/edit_commands.h"
+#include "Apps/workbench/project/component_commands.h"
 #include "Apps/workbench/project/project_properties.h"
 #include "Apps/workbench/project/project_saving.h"
-#include "Apps/workbench/base/text.h"
+#include "Apps/workbench/window/dock_menu.h"
 #include "Apps/workbench/window/window_menu.h"
 #include <QFileDialog>
 

@@ -1,10 +1,10 @@
 #include "Apps/workbench/window/workbench.h"
 #include "Apps/common/compile_steps.h"
 #include "Apps/common/trusted_folders.h"
+#include "Apps/workbench/base/text.h"
 #include "Apps/workbench/project/explorer_menu.h"
 #include "Apps/workbench/project/new_project.h"
 #include "Apps/workbench/project/project_saving.h"
-#include "Apps/workbench/base/text.h"
 #include "Apps/workbench/window/window_commands.h"
 #include "Host/model/projects.h"
 #include <QApplication>

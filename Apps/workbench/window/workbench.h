@@ -2,12 +2,12 @@
 // The desktop put together: the host, the add-in and the window over them.
 #include "Add-in/core/connect/Modules.h"
 #include "Apps/common/host_options.h"
-#include "Apps/workbench/window/main_window.h"
 #include "Apps/workbench/bridge/qt_clipboard.h"
 #include "Apps/workbench/bridge/qt_loop.h"
 #include "Apps/workbench/bridge/qt_user.h"
 #include "Apps/workbench/project/recent_projects.h"
 #include "Apps/workbench/unsaved/unsaved_work.h"
+#include "Apps/workbench/window/main_window.h"
 #include "Apps/workbench/window/window_commands.h"
 
 namespace workbench {

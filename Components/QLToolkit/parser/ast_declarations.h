@@ -1,0 +1,108 @@
+#pragma once
+// The part of the tree that a module consists of: declarations, procedures among them.
+#include "Components/QLToolkit/parser/ast_statements.h"
+
+namespace compiler {
+
+enum class Visibility : std::uint8_t { Default, Private, Public, Friend, Global };
+
+enum class DeclKind : std::uint8_t {
+    OptionExplicit,
+    OptionBase,
+    OptionCompareText,
+    OptionCompareBinary,
+    OptionCompareDatabase,
+    OptionPrivateModule,
+    DefType,
+    Implements,
+    Variables,
+    Constants,
+    Type,
+    Enum,
+    Declare,
+    Event,
+    Procedure,
+    Attribute
+};
+
+struct Decl {
+    DeclKind kind;
+    Visibility visibility = Visibility::Default;
+    Pos pos;
+    const Decl* next = nullptr;
+};
+
+struct OptionBaseDecl : Decl {
+    std::uint32_t base;
+};
+/// letters: bit 0 is A, bit 25 is Z.
+struct DefTypeDecl : Decl {
+    TypeKind type;
+    std::uint32_t letters;
+};
+struct ImplementsDecl : Decl {
+    const TypeRef* type;
+};
+struct VariablesDecl : Decl {
+    Span<Variable> variables;
+};
+struct ConstantsDecl : Decl {
+    Span<Constant> constants;
+};
+struct TypeDecl : Decl {
+    Symbol name;
+    Span<Variable> members;
+};
+struct EnumDecl : Decl {
+    Symbol name;
+    Span<Constant> members;
+};
+
+enum class Passing : std::uint8_t { Default, ByVal, ByRef };
+struct Parameter {
+    Symbol name;
+    Pos pos;
+    TypeSuffix suffix = 0;
+    Passing passing = Passing::Default;
+    bool optional = false;
+    bool paramArray = false;
+    bool isArray = false;
+    const TypeRef* type = nullptr;
+    const Expr* defaultValue = nullptr;
+};
+
+enum class ProcedureKind : std::uint8_t { Sub, Function, PropertyGet, PropertyLet, PropertySet };
+/// What a procedure and a Declare say about themselves.
+struct Signature {
+    ProcedureKind kind;
+    TypeSuffix suffix = 0;
+    Symbol name;
+    Pos namePos;
+    Span<Parameter> parameters;
+    const TypeRef* result = nullptr;
+};
+/// library and alias are StringExpr; an alias "#123" is an ordinal. alias may be null.
+struct DeclareDecl : Decl {
+    Signature signature;
+    const StringExpr* library;
+    const StringExpr* alias;
+};
+struct EventDecl : Decl {
+    Symbol name;
+    Span<Parameter> parameters;
+};
+struct ProcedureDecl : Decl {
+    Signature signature;
+    bool isStatic;
+    Block body;
+    Pos end;
+}; ///< end: pos of End Sub
+
+/// `Attribute a.b.VB_Name = value, value`: the path without its last part, the last part, the values as literals.
+struct AttributeDecl : Decl {
+    Span<Symbol> path;
+    Symbol name;
+    Span<const Expr*> values;
+};
+
+} // namespace compiler

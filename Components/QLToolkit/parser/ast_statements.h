@@ -1,0 +1,229 @@
+#pragma once
+// The part of the tree that runs: statements.
+#include "Components/QLToolkit/parser/ast_expressions.h"
+
+namespace compiler {
+
+enum class StmtKind : std::uint8_t {
+    Label,
+    LineNumber,
+    Let,
+    Set,
+    LSet,
+    RSet,
+    MidAssign,
+    Call,
+    Local,
+    LocalConst,
+    ReDim,
+    Erase,
+    If,
+    Select,
+    For,
+    ForEach,
+    Do,
+    While,
+    With,
+    GoTo,
+    GoSub,
+    Return,
+    OnGoTo,
+    OnGoSub,
+    OnErrorGoTo,
+    OnErrorResumeNext,
+    OnErrorOff,
+    OnErrorClear,
+    Resume,
+    ResumeNext,
+    ExitSub,
+    ExitFunction,
+    ExitProperty,
+    ExitDo,
+    ExitFor,
+    End,
+    Stop,
+    RaiseEvent,
+    Print,
+    Open,
+    Close,
+    Get,
+    Put,
+    Seek,
+    Lock,
+    Unlock,
+    PrintFile,
+    WriteFile,
+    InputFile,
+    LineInput,
+    Width,
+    NameAs
+};
+
+/// Every statement. Return, Stop, End, the Exit family, ResumeNext, OnErrorResumeNext, OnErrorOff (GoTo 0) and
+/// OnErrorClear (GoTo -1) have nothing more.
+struct Stmt {
+    StmtKind kind;
+    Pos pos;
+    const Stmt* next = nullptr;
+};
+
+/// Statements in a row, linked by next.
+struct Block {
+    const Stmt* first = nullptr;
+};
+
+/// Where a jump goes: a label, or a line number when name is None.
+struct Target {
+    Symbol name = Symbol::None;
+    std::uint32_t number = 0;
+    Pos pos = 0;
+};
+
+/// Label, LineNumber, GoTo, GoSub, OnErrorGoTo, Resume (number 0 and no name: a plain Resume).
+struct TargetStmt : Stmt {
+    Target target;
+};
+/// Let, Set, LSet, RSet. explicitLet when the word Let stands there.
+struct AssignStmt : Stmt {
+    const Expr* target;
+    const Expr* value;
+    bool explicitLet = false;
+};
+/// Mid(target, start, length) = value; MidB, Mid$ and MidB$ alike.
+struct MidAssignStmt : Stmt {
+    bool bytes;
+    const Expr *target, *start, *length, *value;
+};
+/// Call x, or x alone. `x a, b` and `Call x(a, b)` both have an IndexExpr here.
+struct CallStmt : Stmt {
+    const Expr* call;
+    bool explicitCall = false;
+};
+
+struct Bound {
+    const Expr* lower;
+    const Expr* upper;
+}; ///< lower is null where `To` is absent
+
+/// A variable of Dim, Private, Static, ..., a member of a Type, an element of ReDim by name.
+struct Variable {
+    Symbol name;
+    Pos pos;
+    TypeSuffix suffix = 0;
+    bool withEvents = false;
+    bool isArray = false; ///< without bounds: a dynamic array
+    const TypeRef* type = nullptr;
+    Span<Bound> bounds;
+};
+struct Constant {
+    Symbol name;
+    Pos pos;
+    TypeSuffix suffix = 0;
+    const TypeRef* type = nullptr;
+    const Expr* value = nullptr;
+};
+struct LocalStmt : Stmt {
+    bool isStatic;
+    Span<Variable> variables;
+};
+struct LocalConstStmt : Stmt {
+    Span<Constant> constants;
+};
+struct ReDimItem {
+    const Expr* target;
+    Span<Bound> bounds;
+    const TypeRef* type;
+};
+struct ReDimStmt : Stmt {
+    bool preserve;
+    Span<ReDimItem> items;
+};
+/// Erase, Close (numbers; empty closes all), InputFile (the number first, then the variables).
+struct ListStmt : Stmt {
+    Span<const Expr*> items;
+};
+
+struct IfBranch {
+    const Expr* condition;
+    Block body;
+    Pos pos;
+}; ///< condition is null in Else
+struct IfStmt : Stmt {
+    bool singleLine;
+    Span<IfBranch> branches;
+};
+
+enum class CaseTest : std::uint8_t { Equal, NotEqual, Less, LessEqual, Greater, GreaterEqual, Range };
+struct CaseItem {
+    CaseTest test;
+    const Expr* value;
+    const Expr* to;
+}; ///< to: Range only
+struct CaseBranch {
+    Span<CaseItem> items;
+    Block body;
+    Pos pos;
+}; ///< no items: Case Else
+/// before: Dim, Static and Const that stand above the first Case.
+struct SelectStmt : Stmt {
+    const Expr* value;
+    Block before;
+    Span<CaseBranch> branches;
+};
+
+struct ForStmt : Stmt {
+    const Expr *variable, *from, *to, *step;
+    Block body;
+}; ///< step is null for 1
+struct ForEachStmt : Stmt {
+    const Expr *variable, *in;
+    Block body;
+};
+enum class LoopTest : std::uint8_t { None, While, Until };
+struct DoStmt : Stmt {
+    LoopTest head, foot;
+    const Expr* condition;
+    Block body;
+};
+/// While and With.
+struct BodyStmt : Stmt {
+    const Expr* value;
+    Block body;
+};
+
+struct OnJumpStmt : Stmt {
+    const Expr* value;
+    Span<Target> targets;
+};
+struct RaiseEventStmt : Stmt {
+    Symbol name;
+    Span<Argument> arguments;
+};
+
+enum class PrintSeparator : std::uint8_t { None, Semicolon, Comma };
+struct PrintItem {
+    const Expr* value;
+    PrintSeparator separator;
+}; ///< value is null before a bare separator
+/// Print (target = the method as a MemberExpr or NameExpr), PrintFile and WriteFile (target = the file number).
+struct PrintStmt : Stmt {
+    const Expr* target;
+    Span<PrintItem> items;
+};
+
+enum class OpenMode : std::uint8_t { Random, Input, Output, Append, Binary };
+enum class OpenAccess : std::uint8_t { Default, Read, Write, ReadWrite };
+enum class OpenLock : std::uint8_t { Default, Shared, Read, Write, ReadWrite };
+struct OpenStmt : Stmt {
+    OpenMode mode;
+    OpenAccess access;
+    OpenLock lock;
+    const Expr *path, *number, *recordLength;
+};
+/// Get, Put (number, record, variable), Seek (number, position), Lock and Unlock (number, from, to),
+/// LineInput (number, variable), Width (number, width), NameAs (old, new). What is absent is null.
+struct FileStmt : Stmt {
+    const Expr *first, *second, *third;
+};
+
+} // namespace compiler

@@ -1,0 +1,154 @@
+// Statements in rows and in one another, and what to do when their ends don't match.
+#include "Components/QLToolkit/parser/node_heads.h"
+#include "Components/QLToolkit/parser/parser.h"
+
+namespace compiler {
+
+namespace {
+
+constexpr Message unclosedMessage(int blockKind) {
+    constexpr Message kMessages[] = {Message::EndProcedureMissing, Message::IfUnclosed, Message::SelectUnclosed,
+                                     Message::ForUnclosed,         Message::DoUnclosed, Message::WhileUnclosed,
+                                     Message::WithUnclosed};
+    return kMessages[blockKind];
+}
+
+} // namespace
+
+void Parser::openBlock(BlockKind kind, Pos pos, bool doubtful) {
+    if (statementDepth_ > kMaxDepth || blocks_.size() > kMaxDepth) {
+        report(Message::BlocksTooDeep, pos);
+        throw ProcedureAbandoned{};
+    }
+    blocks_.push_back({kind, pos, doubtful});
+    ++openCount_[static_cast<std::size_t>(kind)];
+}
+
+void Parser::closeBlock() {
+    --openCount_[static_cast<std::size_t>(blocks_.back().kind)];
+    blocks_.pop_back();
+}
+
+// Reads statements up to the end of the innermost block, which has been opened, or of one around it.
+Block Parser::block(BlockKind kind) {
+    BlockBuilder body;
+    for (;;) {
+        errorsBefore_ = diagnostics_.errors();
+        if (nextGoesOn_) {
+            if (kind == BlockKind::For) break;
+            nextGoesOn_ = false;
+            stray(Message::NextWithoutFor);
+        }
+        while (at(TokenKind::EndOfLine) || at(TokenKind::Colon)) {
+            lineStart_ |= at(TokenKind::EndOfLine);
+            advance();
+        }
+        if (endsBlock(kind)) break;
+        statementLine(body);
+    }
+    return body.block;
+}
+
+void Parser::statementLine(BlockBuilder& body) {
+    if (tok_.endsStatement()) return;
+    try {
+        const bool first = lineStart_;
+        lineStart_ = false;
+        if (first && label(body)) return; // what ends a block may stand behind it
+        if (Stmt* stmt = statement()) body.add(stmt);
+        if (!nextGoesOn_ && !cutShort_) expectEndOfStatement();
+    } catch (const SyntaxError&) { recover(); }
+    cutShort_ = false;
+}
+
+void Parser::expectEndOfStatement() {
+    if (!tok_.endsStatement()) failHere(Message::EndOfStatementExpected);
+}
+
+bool Parser::label(BlockBuilder& body) {
+    const Pos pos = tok_.begin;
+    if (at(TokenKind::Integer) || at(TokenKind::Long)) {
+        const auto number = static_cast<std::uint32_t>(tok_.integer);
+        body.add(make<TargetStmt>(stmtHead(StmtKind::LineNumber, pos), Target{Symbol::None, number, pos}));
+        advance();
+        accept(TokenKind::Colon);
+        return true;
+    }
+    const bool word = at(TokenKind::Identifier) || (at(TokenKind::Keyword) && !isReserved(tok_.keyword));
+    if (!word || !lexer_.colonFollows(tok_)) return false;
+    const Symbol name = symbolOf(tok_);
+    if (name == known_.doEvents) return false;
+    body.add(make<TargetStmt>(stmtHead(StmtKind::Label, pos), Target{name, 0, pos}));
+    advance();
+    advance();
+    return true;
+}
+
+// ---------------------------------------------------------------- ends of blocks
+
+// True when the token ends the innermost block, be it properly or because a block around it ends or a procedure begins.
+// A stray end is reported and left out.
+bool Parser::endsBlock(BlockKind kind) {
+    if (at(TokenKind::EndOfFile)) return kind == BlockKind::Procedure || unclosed();
+    if (lineStart_ && kind != BlockKind::Procedure && atProcedureHead()) return unclosed();
+    if (lineStart_ && kind == BlockKind::Procedure && atProcedureHead()) return true;
+    if (!at(TokenKind::Keyword)) return false;
+    switch (tok_.keyword) {
+    case Keyword::Else: return closedBy(kind, BlockKind::If, Message::ElseWithoutIf);
+    case Keyword::ElseIf: return closedBy(kind, BlockKind::If, Message::ElseWithoutIf);
+    case Keyword::EndIf: return closedBy(kind, BlockKind::If, Message::EndIfWithoutIf);
+    case Keyword::Case: return closedBy(kind, BlockKind::Select, Message::CaseWithoutSelect);
+    case Keyword::Next: return closedBy(kind, BlockKind::For, Message::NextWithoutFor);
+    case Keyword::Loop: return closedBy(kind, BlockKind::Do, Message::LoopWithoutDo);
+    case Keyword::Wend: return closedBy(kind, BlockKind::While, Message::WendWithoutWhile);
+    case Keyword::End: return endKeywordEnds(kind);
+    default: return false;
+    }
+}
+
+bool Parser::endKeywordEnds(BlockKind kind) {
+    const Token after = lexer_.peek();
+    if (!after.is(TokenKind::Keyword)) return false;
+    switch (after.keyword) {
+    case Keyword::If: return closedBy(kind, BlockKind::If, Message::EndIfWithoutIf);
+    case Keyword::Select: return closedBy(kind, BlockKind::Select, Message::EndSelectWithoutSelect);
+    case Keyword::With: return closedBy(kind, BlockKind::With, Message::EndWithWithoutWith);
+    case Keyword::Sub:
+    case Keyword::Function:
+    case Keyword::Property: return kind == BlockKind::Procedure || unclosed();
+    default: return false;
+    }
+}
+
+bool Parser::closedBy(BlockKind inner, BlockKind wanted, Message strayMessage) {
+    if (inner == wanted) return true;
+    return isOpen(wanted) ? unclosed() : stray(strayMessage);
+}
+
+bool Parser::stray(Message message) {
+    report(message, tok_.begin, tokenText());
+    recover();
+    return false;
+}
+
+// The innermost block has no end. One token may reveal several: only the first is reported.
+bool Parser::unclosed() {
+    if (unclosedAt_ != tok_.begin) {
+        unclosedAt_ = tok_.begin;
+        const auto& open = blocks_.back();
+        if (!open.doubtful) report(unclosedMessage(static_cast<int>(open.kind)), open.pos);
+    }
+    return true;
+}
+
+// End Select, End With; absent when a block around has ended, which is reported.
+void Parser::endBlock(Keyword which) {
+    if (!at(Keyword::End) || !lexer_.peek().is(which)) {
+        cutShort_ = true;
+        return;
+    }
+    advance();
+    advance();
+}
+
+} // namespace compiler

@@ -1,0 +1,120 @@
+// For, Do, While, and With.
+#include "Components/QLToolkit/parser/node_heads.h"
+#include "Components/QLToolkit/parser/parser.h"
+
+namespace compiler {
+
+Stmt* Parser::forStatement() {
+    const Nesting nesting{statementDepth_};
+    const Pos pos = tok_.begin;
+    advance();
+    return at(Keyword::Each) ? forEachStatement(pos) : forCounterStatement(pos);
+}
+
+Stmt* Parser::forEachStatement(Pos pos) {
+    const Expr *variable = nullptr, *in = nullptr;
+    advance();
+    head([&] {
+        variable = reference();
+        expect(Keyword::In, Message::InExpected);
+        in = expression();
+    });
+    openBlock(BlockKind::For, pos);
+    const Block body = block(BlockKind::For);
+    endFor(variable);
+    return make<ForEachStmt>(stmtHead(StmtKind::ForEach, pos), variable, in, body);
+}
+
+Stmt* Parser::forCounterStatement(Pos pos) {
+    const Expr *variable = nullptr, *from = nullptr, *to = nullptr, *step = nullptr;
+    head([&] {
+        variable = reference();
+        expect(TokenKind::Equal, Message::EqualsExpected);
+        from = expression();
+        expect(Keyword::To, Message::ToExpected);
+        to = expression();
+        if (accept(Keyword::Step)) step = expression();
+    });
+    openBlock(BlockKind::For, pos);
+    const Block body = block(BlockKind::For);
+    endFor(variable);
+    return make<ForStmt>(stmtHead(StmtKind::For, pos), variable, from, to, step, body);
+}
+
+// Next [a [, b ...]]: the names behind a comma belong to the loops around.
+void Parser::endFor(const Expr* variable) {
+    closeBlock();
+    if (!nextGoesOn_ && !at(Keyword::Next)) {
+        cutShort_ = true;
+        return;
+    }
+    if (nextGoesOn_ && tok_.endsStatement()) failHere(Message::NameExpected);
+    if (!nextGoesOn_) advance();
+    nextGoesOn_ = false;
+    if (endsStatement()) return;
+    const Pos pos = tok_.begin;
+    const std::string text = tokenText();
+    const Expr* named = reference();
+    const bool bothNames = variable && variable->kind == ExprKind::Name && named->kind == ExprKind::Name;
+    if (bothNames && as<NameExpr>(*variable).name != as<NameExpr>(*named).name)
+        report(Message::NextWrongVariable, pos, text);
+    nextGoesOn_ = accept(TokenKind::Comma);
+}
+
+Stmt* Parser::doStatement() {
+    const Nesting nesting{statementDepth_};
+    const Pos pos = tok_.begin;
+    const Expr* test = nullptr;
+    LoopTest atHead = LoopTest::None, atFoot = LoopTest::None;
+    advance();
+    head([&] { atHead = loopTest(test); });
+    openBlock(BlockKind::Do, pos);
+    const Block body = block(BlockKind::Do);
+    closeBlock();
+    if (at(Keyword::Loop)) {
+        advance();
+        const Pos footPos = tok_.begin;
+        atFoot = loopTest(test);
+        if (atHead != LoopTest::None && atFoot != LoopTest::None) report(Message::LoopTwoConditions, footPos);
+    } else {
+        cutShort_ = true;
+    }
+    return make<DoStmt>(stmtHead(StmtKind::Do, pos), atHead, atFoot, test, body);
+}
+
+LoopTest Parser::loopTest(const Expr*& test) {
+    if (endsStatement()) return LoopTest::None;
+    if (!at(Keyword::While) && !at(Keyword::Until)) failHere(Message::LoopConditionExpected);
+    const LoopTest kind = at(Keyword::While) ? LoopTest::While : LoopTest::Until;
+    advance();
+    test = expression();
+    return kind;
+}
+
+Stmt* Parser::whileStatement() {
+    const Nesting nesting{statementDepth_};
+    const Pos pos = tok_.begin;
+    const Expr* test = nullptr;
+    advance();
+    head([&] { test = expression(); });
+    openBlock(BlockKind::While, pos);
+    const Block body = block(BlockKind::While);
+    closeBlock();
+    if (!accept(Keyword::Wend)) cutShort_ = true;
+    return make<BodyStmt>(stmtHead(StmtKind::While, pos), test, body);
+}
+
+Stmt* Parser::withStatement() {
+    const Nesting nesting{statementDepth_};
+    const Pos pos = tok_.begin;
+    const Expr* object = nullptr;
+    advance();
+    head([&] { object = expression(); });
+    openBlock(BlockKind::With, pos);
+    const Block body = block(BlockKind::With);
+    closeBlock();
+    endBlock(Keyword::With);
+    return make<BodyStmt>(stmtHead(StmtKind::With, pos), object, body);
+}
+
+} // namespace compiler

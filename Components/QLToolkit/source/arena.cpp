@@ -1,0 +1,22 @@
+#include "Components/QLToolkit/source/arena.h"
+#include <algorithm>
+
+namespace compiler {
+
+namespace {
+constexpr std::size_t kFirstChunk = 16 * 1024;
+constexpr std::size_t kLargestChunk = 4 * 1024 * 1024;
+} // namespace
+
+// Chunks double up to a limit: a small file costs little, a large one few calls.
+std::uintptr_t Arena::grow(std::size_t size, std::size_t alignment) {
+    const std::size_t wanted = std::clamp(footprint_, kFirstChunk, kLargestChunk);
+    const std::size_t chunk = std::max(wanted, size + alignment);
+    chunks_.emplace_back(new std::byte[chunk]);
+    footprint_ += chunk;
+    next_ = reinterpret_cast<std::uintptr_t>(chunks_.back().get());
+    end_ = next_ + chunk;
+    return (next_ + alignment - 1) & ~(alignment - 1);
+}
+
+} // namespace compiler
