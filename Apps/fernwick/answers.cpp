@@ -7,28 +7,28 @@ namespace cli {
 
 namespace {
 
+using Box = fernwick::Question;
+using FormType = std::string_view;
+
 constexpr std::array kQuestions{
-    Question{"save-files", "frmSaveProjectFiles", "", Reply::No,
-             "save files before compiling (yes when nothing in the host is unsaved)"},
-    Question{"save-warning", "frmSaveWarning", "", Reply::Ok, "the project must be saved"},
-    Question{"not-current", "frmCompileWarning", "", Reply::Yes, "the compiled file is not current: compile?"},
-    Question{"device", "frmDesignTargetNormal", "", Reply::Cancel, "which device (--device chooses)"},
-    Question{"failed-step", "", "One or more of your pre compile steps may have failed.", Reply::No,
-             "a pre-compile step failed: continue?"},
-    Question{"convert-dpi", "", "This project was saved at a different DPI setting", Reply::No,
-             "convert forms from another screen resolution?"},
-    Question{"copy-file", "", "All dependency files must exist in the project folder.", Reply::No,
-             "copy a dependency into the project's folder?"},
-    Question{"missing-file", "", "ERROR: Missing ", Reply::No, "a dependency or font file is missing: continue?"},
-    Question{"edit-list", "", "One or more of the specified dependency files are invalid", Reply::No,
-             "edit the project's dependencies?"},
-    Question{"deploy-errors", "", "This project has compile errors. Would you still like to deploy?", Reply::No,
-             "the project has compile errors: deploy the old image?"},
-    Question{"replace-file", "", " already exists.  Do you want to replace it?", Reply::No, "replace a file?"},
+    KnownQuestion{"save-files", FormType("frmSaveProjectFiles"), Reply::No,
+                  "save files before compiling (yes when nothing in the host is unsaved)"},
+    KnownQuestion{"save-warning", FormType("frmSaveWarning"), Reply::Ok, "the project must be saved"},
+    KnownQuestion{"not-current", FormType("frmCompileWarning"), Reply::Yes,
+                  "the compiled file is not current: compile?"},
+    KnownQuestion{"device", FormType("frmDesignTargetNormal"), Reply::Cancel, "which device (--device chooses)"},
+    KnownQuestion{"failed-step", Box::FailedStep, Reply::No, "a pre-compile step failed: continue?"},
+    KnownQuestion{"convert-dpi", Box::ConvertForms, Reply::No, "convert forms from another screen resolution?"},
+    KnownQuestion{"copy-file", Box::CopyFile, Reply::No, "copy a dependency into the project's folder?"},
+    KnownQuestion{"missing-file", Box::MissingFile, Reply::No, "a dependency or font file is missing: continue?"},
+    KnownQuestion{"edit-list", Box::EditDependencies, Reply::No, "edit the project's dependencies?"},
+    KnownQuestion{"deploy-errors", Box::DeployWithErrors, Reply::No,
+                  "the project has compile errors: deploy the old image?"},
+    KnownQuestion{"replace-file", Box::ReplaceFile, Reply::No, "replace a file?"},
 };
 
 template <class Test>
-const Question* find(Test&& test) {
+const KnownQuestion* find(Test&& test) {
     for (const auto& question : kQuestions)
         if (test(question)) return &question;
     return nullptr;
@@ -52,16 +52,16 @@ std::optional<Reply> replyNamed(std::string_view name) {
     return std::nullopt;
 }
 
-const Question* questionOfForm(std::string_view typeName) {
-    return find([&](const Question& q) { return q.form == typeName; });
+const KnownQuestion* questionOfForm(std::string_view typeName) {
+    return find([&](const KnownQuestion& known) { return known.asker == decltype(known.asker)(typeName); });
 }
 
-const Question* questionOfBox(std::string_view text) {
-    return find([&](const Question& q) { return !q.boxText.empty() && text.find(q.boxText) != text.npos; });
+const KnownQuestion* questionOfBox(fernwick::Question question) {
+    return find([&](const KnownQuestion& known) { return known.asker == decltype(known.asker)(question); });
 }
 
-const Question* questionNamed(std::string_view name) {
-    return find([&](const Question& q) { return q.name == name; });
+const KnownQuestion* questionNamed(std::string_view name) {
+    return find([&](const KnownQuestion& known) { return known.name == name; });
 }
 
 std::string describeQuestions() {
@@ -81,7 +81,7 @@ bool Answers::add(std::string_view assignment) {
     return true;
 }
 
-std::optional<Reply> Answers::given(const Question* question) const {
+std::optional<Reply> Answers::given(const KnownQuestion* question) const {
     if (question)
         if (const auto found = named_.find(question->name); found != named_.end()) return found->second;
     return all_;

@@ -1,9 +1,11 @@
 #pragma once
 // How the command line answers the add-in's questions.
+#include "Add-in/platform/interaction.h"
 #include <map>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <variant>
 
 namespace cli {
 
@@ -13,20 +15,21 @@ std::string_view replyName(Reply reply);
 /// yes, no, cancel or ok, letter case ignored.
 std::optional<Reply> replyNamed(std::string_view name);
 
-/// A question that the add-in can ask, under the name that --answer takes.
-struct Question {
+/// A question that the add-in can ask.
+struct KnownQuestion {
+    /// What --answer calls it.
     std::string_view name;
-    /// The form's type, or a piece of the box's text.
-    std::string_view form;
-    std::string_view boxText;
+    /// The type of the form, or the question of the message box.
+    std::variant<std::string_view, fernwick::Question> asker;
+    /// The answer that a script gets.
     Reply otherwise;
     std::string_view meaning;
 };
 
-/// The table of answers: each question with the answer that a script gets.
-const Question* questionOfForm(std::string_view typeName);
-const Question* questionOfBox(std::string_view text);
-const Question* questionNamed(std::string_view name);
+/// Null for an asker or a name that is not in the table.
+const KnownQuestion* questionOfForm(std::string_view typeName);
+const KnownQuestion* questionOfBox(fernwick::Question question);
+const KnownQuestion* questionNamed(std::string_view name);
 /// The table as help text, a line each.
 std::string describeQuestions();
 
@@ -38,7 +41,7 @@ public:
     /// --answer NAME=REPLY. False for a name or reply that is not known.
     bool add(std::string_view assignment);
     /// The reply that the options give to a question; none where they are silent.
-    std::optional<Reply> given(const Question* question) const;
+    std::optional<Reply> given(const KnownQuestion* question) const;
 
 private:
     std::optional<Reply> all_;

@@ -127,6 +127,15 @@ void CommandLineUser::chooseDevice(Form& form) {
 }
 
 int CommandLineUser::MsgBox(const std::string& text, int buttons, const std::string& title) {
+    return answerBox(nullptr, text, buttons, title);
+}
+
+int CommandLineUser::ask(fernwick::Question question, const std::string& text, int buttons, const std::string& title) {
+    return answerBox(questionOfBox(question), text, buttons, title);
+}
+
+int CommandLineUser::answerBox(const KnownQuestion* question, const std::string& text, int buttons,
+                               const std::string& title) {
     checkInterrupt();
     show(title, text, buttons);
     const int set = buttons & 7;
@@ -136,7 +145,6 @@ int CommandLineUser::MsgBox(const std::string& text, int buttons, const std::str
     }
     const bool asksYes = set == fernwick::vbYesNo || set == fernwick::vbYesNoCancel;
     const Reply harmless = set == fernwick::vbYesNo ? Reply::No : Reply::Cancel;
-    const auto* question = questionOfBox(text);
     Reply reply = replyTo(question, question ? question->otherwise : harmless, "", asksYes);
     if (reply == Reply::Cancel && set == fernwick::vbYesNo) reply = Reply::No;
     if (reply == Reply::No && set == fernwick::vbOKCancel) reply = Reply::Cancel;
@@ -161,7 +169,7 @@ void CommandLineUser::cancel(const fernwick::CommonDialog& dialog) {
         throw basic::RuntimeError(fernwick::kCancelWasSelected, "Cancel was selected.", "CommonDialog");
 }
 
-Reply CommandLineUser::replyTo(const Question* question, Reply otherwise, const std::string& text, bool canBeYes) {
+Reply CommandLineUser::replyTo(const KnownQuestion* question, Reply otherwise, const std::string& text, bool canBeYes) {
     if (const auto given = answers_.given(question)) return *given;
     if (!console_.canAsk() || !canBeYes) return otherwise;
     const std::string typed = console_.ask(

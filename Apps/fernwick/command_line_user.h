@@ -36,6 +36,7 @@ public:
 
     void showModal(fernwick::Form& form) override;
     int MsgBox(const std::string& text, int buttons, const std::string& title) override;
+    int ask(fernwick::Question question, const std::string& text, int buttons, const std::string& title) override;
     /// The command line chooses no files: Cancel.
     void ShowSave(fernwick::CommonDialog& dialog) override { cancel(dialog); }
     void ShowOpen(fernwick::CommonDialog& dialog) override { cancel(dialog); }
@@ -46,10 +47,11 @@ public:
     const std::vector<ShownBox>& shown() const { return shown_; }
 
 private:
+    int answerBox(const KnownQuestion* question, const std::string& text, int buttons, const std::string& title);
     void cancel(const fernwick::CommonDialog& dialog);
     void answerForm(fernwick::Form& form);
     void chooseDevice(fernwick::Form& form);
-    Reply replyTo(const Question* question, Reply otherwise, const std::string& prompt, bool canBeYes);
+    Reply replyTo(const KnownQuestion* question, Reply otherwise, const std::string& prompt, bool canBeYes);
     void show(const std::string& title, const std::string& text, int buttons);
     void guardAgainstRepeats(const std::string& what, Reply& reply, Reply harmless);
 
