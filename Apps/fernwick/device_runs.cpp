@@ -18,6 +18,10 @@ std::string reasonOf(const DeviceOutcome& outcome) {
     return reason.empty() ? "it did not finish" : reason.substr(0, reason.find_first_of("\r\n"));
 }
 
+bool isSuccess(fernwick::RunStatus status) {
+    return status == fernwick::RunStatus::Succeeded || status == fernwick::RunStatus::SucceededWithWarnings;
+}
+
 DeviceOutcome serveOne(Session& session, const std::string& device, const ServeDevice& serve) {
     DeviceOutcome outcome;
     outcome.device = device;
@@ -25,7 +29,10 @@ DeviceOutcome serveOne(Session& session, const std::string& device, const ServeD
     transfer = {};
     const auto boxesBefore = session.user().shown().size();
     outcome.messages = serve(device);
-    if (session.project()) outcome.statusText = statusText(session);
+    if (session.project()) {
+        outcome.statusText = statusText(session);
+        outcome.statusIsSuccess = isSuccess(runStatus(session));
+    }
     const auto& boxes = session.user().shown();
     outcome.boxes.assign(boxes.begin() + std::ptrdiff_t(boxesBefore), boxes.end());
     const auto isError = [](const Message& message) { return message.isError; };
@@ -94,7 +101,7 @@ void printOutcomes(const Report& report, const std::string& done, bool list, con
     if (list) return printTable(report, done, console);
     const auto& outcome = report.devices.front();
     // a run that ended early leaves the words of the last good one
-    const bool boasts = !outcome.good && outcome.statusText.starts_with("SUCCESS");
+    const bool boasts = !outcome.good && outcome.statusIsSuccess;
     if (!outcome.statusText.empty() && !boasts) console.out(outcome.statusText + "\n");
     if (outcome.good && options.verbosity != Verbosity::Quiet) printPlaces(outcome, done, console);
     if (!outcome.good) console.err(fmt::format("fernwick: {}: {}", outcome.device, outcome.reason), Tone::Error);

@@ -1,5 +1,4 @@
 #include "Apps/fernwick/project_run.h"
-#include "Add-in/build/messages/build_texts.h"
 #include "Apps/common/compile_steps.h"
 #include "Apps/fernwick/exit_status.h"
 #include "Apps/fernwick/project_argument.h"
@@ -68,6 +67,10 @@ std::string deviceOfRun(Session& session, const Options& options) {
 std::string statusText(Session& session) {
     const auto window = session.addIn().compileMsgs();
     return window ? window->lblStatusText() : std::string();
+}
+
+fernwick::RunStatus runStatus(Session& session) {
+    return session.addIn().compileMsgs() ? session.addIn().messages.status() : fernwick::RunStatus::None;
 }
 
 std::vector<std::string> inputsOf(Session& session) {

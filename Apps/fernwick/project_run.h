@@ -21,6 +21,8 @@ std::string deviceOfRun(Session& session, const Options& options);
 
 /// What stands in the messages window below the messages; "" where there is no window or nothing happened.
 std::string statusText(Session& session);
+/// What this text stands for.
+fernwick::RunStatus runStatus(Session& session);
 
 /// Closes the project as a user would, and tells in the report when its file could not be saved. The image of a
 /// compile gets a time that is not before its inputs'.

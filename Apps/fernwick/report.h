@@ -27,6 +27,7 @@ struct DeviceOutcome {
     /// What the run put where, in words for users; or the package's path. Empty when nothing was put.
     std::vector<std::string> places;
     std::string statusText;
+    bool statusIsSuccess = false;
     std::vector<Message> messages;
     std::vector<ShownBox> boxes;
     /// Why it failed, in one line; "" for a good one.
