@@ -1,4 +1,4 @@
-#include "Apps/fernwick/command_line_user.h"
+#include "Apps/fernwick/run/command_line_user.h"
 #include <gtest/gtest.h>
 
 namespace {
