@@ -8,7 +8,7 @@ namespace apps {
 
 namespace {
 
-/// "RootDir" of the machine store, "" where it isn't there.
+/// Returns "RootDir" of the machine's store; "" if it is not set.
 std::string storedRootDir(const fernwick::Environment& environment) {
     host::RegistryStore store{host::usualRegistryPlaces(environment, {})};
     std::uint32_t key = 0, type = 0, length = 0;

@@ -39,7 +39,7 @@ class Workbench(unittest.TestCase):
     def test_a_desktop_that_is_not_installed_is_told(self):
         done = self.run_verb()
         self.assertEqual(done.returncode, 3)
-        self.assertIn("there is no program fernwick-workbench", done.stderr)
+        self.assertIn("the desktop program fernwick-workbench is not installed", done.stderr)
 
 
 if __name__ == "__main__":
