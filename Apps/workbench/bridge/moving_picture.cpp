@@ -10,7 +10,7 @@ constexpr int kMillisecondsAFrame = 100;
 constexpr int kChunkHead = 8, kListHead = 12, kBitmapFileHead = 14;
 
 /// A frame is a bitmap without the head of a bitmap's file.
-QImage imageOf(const QByteArray& format, const QByteArray& pixels) {
+QImage imageOfFrame(const QByteArray& format, const QByteArray& pixels) {
     QByteArray bitmap(kBitmapFileHead, '\0');
     bitmap[0] = 'B';
     bitmap[1] = 'M';
@@ -36,7 +36,7 @@ std::vector<QPixmap> framesOf(const QByteArray& avi) {
         }
         const auto content = avi.mid(at + kChunkHead, size);
         if (id == "strf") format = content;
-        if (id == "00db" && content.size() == size) frames.push_back(QPixmap::fromImage(imageOf(format, content)));
+        if (id == "00db" && content.size() == size) frames.push_back(QPixmap::fromImage(imageOfFrame(format, content)));
         at += kChunkHead + size + size % 2;
     }
     std::erase_if(frames, [](const QPixmap& frame) { return frame.isNull(); });
