@@ -1,7 +1,23 @@
 # Prints CHANGELOG.md as a Debian changelog. The AppStream data, which is read first, gives each release its date.
 # Usage: awk -v maintainer='NAME <ADDRESS>' -f changelog.awk fernwick-workbench.metainfo.xml CHANGELOG.md
 
-function trailer(    command, date) {
+# An entry of the list, in lines of at most 78 columns.
+function print_entry(    words, count, i, line) {
+  count = split(entry, words, " ")
+  line = "  *"
+  for (i = 1; i <= count; i++) {
+    if (length(line) + 1 + length(words[i]) > 78) {
+      print line
+      line = "   "
+    }
+    line = line " " words[i]
+  }
+  if (count) print line
+  entry = ""
+}
+
+function print_trailer(    command, date) {
+  print_entry()
   if (version == "") return
   command = "LC_ALL=C date -u -R -d " dates[version]
   command | getline date
@@ -15,7 +31,7 @@ function trailer(    command, date) {
 }
 
 /^## / {
-  trailer()
+  print_trailer()
   if (version != "") print ""
   version = $2
   if (dates[version] == "") {
@@ -24,9 +40,15 @@ function trailer(    command, date) {
     exit 1
   }
   printf "fernwick (%s) bookworm; urgency=medium\n\n", version
+  next
 }
 
-version != "" && sub(/^- /, "  * ") { print; next }
-version != "" && sub(/^  /, "    ") { print }
+version != "" && sub(/^- /, "") {
+  print_entry()
+  entry = $0
+  next
+}
 
-END { if (!failed) trailer() }
+entry != "" && /^  / { entry = entry " " $0 }
+
+END { if (!failed) print_trailer() }
