@@ -42,6 +42,7 @@ TEST_F(Introduction, IsReadWithTheKeyboardAlone) {
 
 TEST_F(Introduction, EachPageHasItsPicture) {
     show([](QDialog& window) {
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window)); // clicks before the first layout go astray
         std::vector<QImage> pictures;
         for (int page = 0; page < 9; ++page, test::click(window, "cmdNext")) {
             const auto drawn = window.findChild<QLabel*>("pictMain");
