@@ -75,7 +75,7 @@ protected:
     host::Environment environment;
     host::FileSystem files;
     host::Processes processes{[](const std::string&, const std::string&) { return true; }};
-    test::NoClipboard clipboard;
+    test::TextClipboard clipboard{trace};
     test::NoShell shell;
     test::FixedScreen screen;
     test::FixedClock clock;
