@@ -12,7 +12,7 @@ void SampleOpening::open(const clsSampleMenuItem& sample) {
                                                       services_.platform.app.SupportWebAddress,
                                                   vbCritical, lifecycle_texts::kTitle);
         });
-    const auto host = services_.addIn.gVBInstance;
+    const basic::Ref<vbide::VBE> host = services_.addIn.gVBInstance;
     const auto active = here.value([&] { return host->ActiveVBProject(); });
     if (active) {
         if (isOpen(here, path)) return;
@@ -32,7 +32,7 @@ bool SampleOpening::isOpen(Procedure& here, const std::string& path) {
 
 /// What it has of changes by now may be lost.
 void SampleOpening::closeActiveProject(Procedure& here) {
-    const auto host = services_.addIn.gVBInstance;
+    const basic::Ref<vbide::VBE> host = services_.addIn.gVBInstance;
     const auto project = here.value([&] { return host->ActiveVBProject(); });
     if (!project) return;
     here([&] { host->ActiveVBProject(project); });

@@ -113,7 +113,8 @@ TEST_F(Templates, AreWhatLiesInEitherFolder) {
 
 TEST_F(Templates, MissingFoldersAreToldAndTheTestGoesOn) {
     installAt("/nowhere");
-    addIn.gVBInstance = basic::make<test::TracedVbe>(trace);
+    const auto elsewhere = basic::make<test::TracedVbe>(trace);
+    addIn.gVBInstance = elsewhere;
     user.expectBox("Cannot determine the location of the VB template directory. The path determined was invalid.");
     user.expectBox(
         "Cannot determine the location of the Fernwick template directory. The path determined was invalid.");
@@ -125,7 +126,8 @@ TEST_F(Templates, AHostWithoutATemplatePathIsTold) {
         using TracedVbe::TracedVbe;
         std::string TemplatePath() const override { return ""; }
     };
-    addIn.gVBInstance = basic::make<Bare>(trace);
+    const auto bare = basic::make<Bare>(trace);
+    addIn.gVBInstance = bare;
     user.expectBox("The registry entry containing the path for visual basic was not found. "
                    "Cannot determine the location of the VB templates.");
     EXPECT_EQ(projects.GetTemplatePath(), "");

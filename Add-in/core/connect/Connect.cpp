@@ -89,7 +89,7 @@ void Connect::takeUpActiveProject(Procedure& here, const Host& VBInst) {
 }
 
 void Connect::watchProject(Procedure& here, const Project& project) {
-    const auto host = services_.addIn.gVBInstance;
+    const basic::Ref<vbide::VBE> host = services_.addIn.gVBInstance;
     here([&] { CompsEventsHandler = host->Events()->VBComponentsEvents(project); });
     here([&] { RefEventsHandler = host->Events()->ReferencesEvents(project); });
 }

@@ -36,7 +36,7 @@ void Connect::ProjEventsHandler_ItemAdded(Project VBProject) {
 }
 
 void Connect::watchAddedProject(Procedure& here) {
-    const auto host = services_.addIn.gVBInstance;
+    const basic::Ref<vbide::VBE> host = services_.addIn.gVBInstance;
     here([&] { FileControlHandler = host->Events()->FileControlEvents(host->ActiveVBProject()); });
     here([&] { CompsEventsHandler = host->Events()->VBComponentsEvents(host->ActiveVBProject()); });
     here([&] { RefEventsHandler = host->Events()->ReferencesEvents(host->ActiveVBProject()); });
