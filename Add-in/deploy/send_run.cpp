@@ -39,7 +39,7 @@ tResourceList frmSendToDevice::readDependencies() {
     if (user_.MsgBox(deploy_texts::kInvalidDependencies, vbYesNo + vbQuestion, deploy_texts::kTitle) != vbYes)
         return dependencies;
     user_.SetCursor(vbHourglass);
-    deploy_.commands.ShowQuinloftSettings(project, "Dependencies", false);
+    deploy_.settings.ShowQuinloftSettings(project, "Dependencies", false);
     return deploy_.dependencies.ReadProjectDependencies(project);
 }
 

@@ -48,7 +48,6 @@ Session::Session(const Options& options, Console& console)
         console.err(fmt::format("fernwick: {} (error {})", error.Description, error.Number), Tone::Warning);
     };
     host_ = host::Host::create(std::move(hostOptions));
-    // weak, for the add-in keeps the host from its connection on
     host_->listAddIn(apps::kAddInProgId, apps::kAddInName,
                      [modules = std::weak_ptr(modules_)] { return fernwick::asAddIn(modules.lock()); });
 }
@@ -158,8 +157,6 @@ void Session::close() {
     const auto host = std::exchange(host_, nullptr);
     host->close();
     machine_.drain();
-    // a host keeps its retired add-ins, and this one would keep the host
-    modules_->addIn.gVBInstance = nullptr;
 }
 
 bool Session::hasUnsavedComponents() const {

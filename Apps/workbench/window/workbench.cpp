@@ -38,7 +38,6 @@ Workbench::Workbench()
                 }}),
       modules_(std::make_shared<fernwick::Modules>(machine_.platform())),
       host_(host::Host::create(hostOptions())) {
-    // weak, for the add-in keeps the host from its connection on
     host_->listAddIn(apps::kAddInProgId, apps::kAddInName,
                      [modules = std::weak_ptr(modules_)] { return fernwick::asAddIn(modules.lock()); });
     window_ = std::make_unique<MainWindow>(
@@ -61,8 +60,6 @@ Workbench::~Workbench() {
     recent_.reset();
     unsaved_.reset();
     window_.reset();
-    // a host keeps its retired add-ins, and this one would keep the host
-    modules_->addIn.gVBInstance = nullptr;
 }
 
 host::HostOptions Workbench::hostOptions() {
