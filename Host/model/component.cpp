@@ -3,7 +3,7 @@
 #include "Host/files/atomic_save.h"
 #include "Host/files/path_lookup.h"
 #include "Host/model/bars/tool_window.h"
-#include "Host/model/base/host_errors.h"
+#include "Host/model/errors/host_errors.h"
 #include "Host/model/forms/form_designer.h"
 #include "Host/model/host.h"
 #include "Host/model/module_code.h"

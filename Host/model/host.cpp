@@ -3,7 +3,7 @@
 #include "Host/model/addin_list.h"
 #include "Host/model/bars/bars.h"
 #include "Host/model/bars/tool_windows.h"
-#include "Host/model/base/host_errors.h"
+#include "Host/model/errors/host_errors.h"
 #include "Host/model/event_sources.h"
 #include "Host/model/project.h"
 #include "Host/model/projects.h"

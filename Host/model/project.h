@@ -4,7 +4,7 @@
 #include "Add-in/platform/host_project.h"
 #include "Host/files/path_lookup.h"
 #include "Host/files/project_file.h"
-#include "Host/model/base/load_problem.h"
+#include "Host/model/errors/load_problem.h"
 #include "Host/model/components.h"
 #include <memory>
 #include <optional>

@@ -1,6 +1,6 @@
 #include "Host/model/bars/bars.h"
 #include "Basic/case_folding.h"
-#include "Host/model/base/host_errors.h"
+#include "Host/model/errors/host_errors.h"
 #include <algorithm>
 
 namespace host {
