@@ -14,7 +14,8 @@ namespace {
 
 [[noreturn]] void refuseToOpen(int error, const std::string& path) {
     const auto folder = folderOf(path);
-    if (error == ENOENT && !folder.empty() && ::access(folder.c_str(), F_OK) != 0) throw missingFolder("cannot be opened", path);
+    if (error == ENOENT && !folder.empty() && ::access(folder.c_str(), F_OK) != 0)
+        throw missingFolder("cannot be opened", path);
     throw systemError(error, "cannot be opened", path);
 }
 

@@ -2,7 +2,7 @@
 #include "Basic/case_folding.h"
 #include "Host/files/atomic_save.h"
 #include "Host/files/path_lookup.h"
-#include "Host/model/bars/tool_window.h"
+#include "Host/model/windows/tool_window.h"
 #include "Host/model/errors/host_errors.h"
 #include "Host/model/forms/form_designer.h"
 #include "Host/model/host.h"

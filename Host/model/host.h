@@ -7,8 +7,8 @@
 #include "Basic/code_page.h"
 #include "Host/files/text_file.h"
 #include "Host/model/errors/load_problem.h"
-#include "Host/model/references/type_libraries.h"
 #include "Host/model/forms/control_class.h"
+#include "Host/model/references/type_libraries.h"
 #include <functional>
 #include <memory>
 #include <optional>

@@ -5,9 +5,7 @@
 #include <utility>
 
 namespace host {
-std::optional<std::string> TypeLibraries::text(const std::string& path) const {
-    return classesText(*registry_, path);
-}
+std::optional<std::string> TypeLibraries::text(const std::string& path) const { return classesText(*registry_, path); }
 
 std::optional<TypeLibrary> TypeLibraries::version(const std::string& guid, const std::string& name) const {
     const auto number = parseLibraryVersion(name);
