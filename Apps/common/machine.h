@@ -24,7 +24,7 @@ struct FrontEnd {
     host::Processes::Permission mayRun;
     host::Processes::Interrupted interrupted;
     /// Told of a document that no program here can show.
-    host::Shell::Tell tell;
+    host::Shell::Report tell;
 };
 
 /// Opens nothing by itself: stores, fonts and targets are read when they are asked for.

@@ -1,7 +1,7 @@
 #include "Apps/workbench/window/main_window.h"
 #include "Apps/workbench/base/text.h"
 #include "Basic/conversions.h"
-#include "Host/model/bars/tool_windows.h"
+#include "Host/model/windows/tool_windows.h"
 #include <QCloseEvent>
 #include <QDockWidget>
 #include <QSettings>

@@ -5,7 +5,7 @@
 #include "Apps/workbench/designer/design_desk.h"
 #include "Apps/workbench/messages/messages_view.h"
 #include "Apps/workbench/project/project_explorer.h"
-#include "Host/model/bars/tool_window.h"
+#include "Host/model/windows/tool_window.h"
 #include "Host/model/host.h"
 #include <QMainWindow>
 #include <QPointer>

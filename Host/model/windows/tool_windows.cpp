@@ -1,4 +1,4 @@
-#include "Host/model/bars/tool_windows.h"
+#include "Host/model/windows/tool_windows.h"
 #include "Host/files/system_error.h"
 
 namespace host {

@@ -1,5 +1,5 @@
 #pragma once
-// A window of the host as a model: whether it shows and in which state. A front end may draw it.
+// A window of the host as a model: its visibility and state. Front ends may draw it.
 #include "Add-in/platform/host.h"
 #include <functional>
 #include <string>
@@ -20,11 +20,11 @@ public:
     void Close() override { Visible(false); }
 
     // ---- for front ends ----
-    /// What an add-in shows in it; Nothing for a window of the host's own.
+    /// The document of an add-in; Nothing for the host's own windows.
     const basic::Ref<fernwick::Object>& document() const { return document_; }
-    /// Told after each change.
+    /// Raised after each change.
     fernwick::Event<> changed;
-    /// It is to come to the front.
+    /// Raised to bring the window to the front.
     fernwick::Event<> focused;
 
 private:

@@ -1,7 +1,7 @@
 #pragma once
-// The host's windows: those that add-ins make and those of code and designers.
+// The tool windows that add-ins create.
 #include "Add-in/platform/classes.h"
-#include "Host/model/bars/tool_window.h"
+#include "Host/model/windows/tool_window.h"
 #include <memory>
 #include <vector>
 
@@ -18,7 +18,7 @@ public:
 
     // ---- for front ends ----
     const std::vector<std::shared_ptr<ToolWindow>>& list() const { return list_; }
-    /// Told when there is one more.
+    /// Raised after a window is added.
     fernwick::Event<> added;
 
 private:

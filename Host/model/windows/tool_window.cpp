@@ -1,4 +1,4 @@
-#include "Host/model/bars/tool_window.h"
+#include "Host/model/windows/tool_window.h"
 
 namespace host {
 
