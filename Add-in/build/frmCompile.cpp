@@ -120,7 +120,8 @@ bool frmCompile::projectFileIsReadOnly() const {
 bool frmCompile::preStepsAllow(Procedure& here) {
     if (RunPreCompileSteps(project_)) return true;
     return !here.test([&] {
-        return user_.MsgBox(build_texts::kPreStepsFailed, vbInformation + vbYesNo, build_texts::kTitle) == vbNo;
+        return user_.ask(Question::FailedStep, build_texts::kPreStepsFailed, vbInformation + vbYesNo,
+                         build_texts::kTitle) == vbNo;
     });
 }
 

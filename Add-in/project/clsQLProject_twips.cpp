@@ -55,7 +55,11 @@ void clsQLProject::CheckTwipsMatch() {
     const Resolution then{TwipsPerPixelX(), TwipsPerPixelY()};
     if (then.x != 0) {
         if (now.x == then.x && now.y == then.y) return;
-        if (here.value([&] { return box(texts::kOtherDpi, vbYesNo | vbQuestion); }) != vbYes) return;
+        const auto answer = [&] {
+            return services_.platform.interaction.ask(Question::ConvertForms, std::string(texts::kOtherDpi),
+                                                      vbYesNo | vbQuestion, std::string(texts::kFernwick));
+        };
+        if (here.value(answer) != vbYes) return;
         basic::Suppressed quietly;
         std::vector<basic::Ref<vbide::VBComponent>> components;
         quietly([&] { components = project_->VBComponents()->items(); });
