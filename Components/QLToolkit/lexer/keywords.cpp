@@ -2,7 +2,7 @@
 #include "Components/QLToolkit/source/name_words.h"
 #include <array>
 
-namespace compiler {
+namespace qltoolkit {
 
 namespace {
 
@@ -84,4 +84,4 @@ Keyword keywordOf(const char* name, std::uint32_t length) {
 
 std::string_view spelling(Keyword k) { return kWords[static_cast<std::size_t>(k)]; }
 
-} // namespace compiler
+} // namespace qltoolkit

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string_view>
 
-namespace compiler {
+namespace qltoolkit {
 
 /// Reserved words can name nothing; the words of types are reserved as well; the rest have a meaning at their place only.
 enum class Keyword : std::uint8_t {
@@ -163,4 +163,4 @@ inline constexpr Keyword kLastType = Keyword::Variant;
 /// The word as it is written.
 [[nodiscard]] std::string_view spelling(Keyword);
 
-} // namespace compiler
+} // namespace qltoolkit
