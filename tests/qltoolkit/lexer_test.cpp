@@ -105,7 +105,7 @@ TEST(Lexer, LongNames) {
 }
 
 TEST(Keywords, AreFoundInEveryCase) {
-    for (int i = 1; i <= static_cast<int>(Keyword::Width); ++i) {
+    for (int i = 1; i <= static_cast<int>(qltoolkit::kLastKeyword); ++i) {
         const auto k = static_cast<Keyword>(i);
         std::string word(qltoolkit::spelling(k));
         const auto length = static_cast<std::uint32_t>(word.size());
@@ -113,6 +113,7 @@ TEST(Keywords, AreFoundInEveryCase) {
         word.append(16, '\0');
         EXPECT_EQ(qltoolkit::keywordOf(word.data(), length), k) << word;
     }
+    EXPECT_EQ(qltoolkit::keywordOf("CInt\0\0\0\0\0\0\0\0", 4), Keyword::None) << "an ordinary function";
     EXPECT_EQ(qltoolkit::keywordOf("Implementx\0\0\0\0\0\0\0\0", 10), Keyword::None);
     EXPECT_EQ(qltoolkit::keywordOf("_or\0\0\0\0\0\0\0\0", 3), Keyword::None);
 }
