@@ -6,9 +6,9 @@
 #include <string_view>
 #include <vector>
 
-namespace compiler {
+namespace qltoolkit {
 
-/// A byte offset into a source file. SourceFile::locate turns it into line and column.
+/// A byte offset into a source file. SourceText::locate turns it into line and column.
 using Pos = std::uint32_t;
 
 /// What a file is, told by its extension.
@@ -35,13 +35,13 @@ enum class HeaderState : std::uint8_t {
 inline constexpr std::size_t kMaxSourceBytes = std::size_t{1} << 30;
 
 /// The bytes of one file. Everything that refers to it (tokens, trees, diagnostics) needs it to live on.
-class SourceFile {
+class SourceText {
 public:
     /// `bytes` as they stand on disk, at most kMaxSourceBytes, and their code page. A file that begins with a byte
     /// order mark, or whose bytes above 127 are all UTF-8, is read as UTF-8 instead.
-    SourceFile(std::string name, std::string bytes, basic::CodePage = basic::CodePage::windows1252());
-    SourceFile(const SourceFile&) = delete;
-    SourceFile& operator=(const SourceFile&) = delete;
+    SourceText(std::string name, std::string bytes, basic::CodePage = basic::CodePage::windows1252());
+    SourceText(const SourceText&) = delete;
+    SourceText& operator=(const SourceText&) = delete;
 
     [[nodiscard]] const std::string& name() const { return name_; }
     [[nodiscard]] FileKind kind() const { return kind_; }
@@ -97,4 +97,4 @@ private:
     std::uint32_t codeBegin_ = 1;
 };
 
-} // namespace compiler
+} // namespace qltoolkit

@@ -1,68 +1,68 @@
 #include "Components/QLToolkit/check.h"
-#include "Components/QLToolkit/source/source_file.h"
+#include "Components/QLToolkit/source/source_text.h"
 #include "tests/qltoolkit/ast_dump.h"
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-using compiler::HeaderState;
-using compiler::Location;
-using compiler::SourceFile;
-using compiler::dump::Parsed;
+using qltoolkit::HeaderState;
+using qltoolkit::Location;
+using qltoolkit::SourceText;
+using qltoolkit::dump::Parsed;
 
-TEST(SourceFile, LinesEndAtCrLfLfOrALoneCr) {
-    const SourceFile file{"a.bas", "one\r\ntwo\nthree\rfour\r\r\n\nlast"};
+TEST(SourceText, LinesEndAtCrLfLfOrALoneCr) {
+    const SourceText file{"a.bas", "one\r\ntwo\nthree\rfour\r\r\n\nlast"};
     ASSERT_EQ(file.lineCount(), 7u);
     const char* expected[] = {"one", "two", "three", "four", "", "", "last"};
     for (unsigned i = 0; i < 7; ++i) EXPECT_EQ(file.line(i + 1), expected[i]) << i;
-    EXPECT_EQ(SourceFile("a.bas", "").lineCount(), 0u);
-    EXPECT_EQ(SourceFile("a.bas", "x\r\n").lineCount(), 1u);
-    EXPECT_EQ(SourceFile("a.bas", "x\r").lineCount(), 1u);
-    EXPECT_EQ(SourceFile("a.bas", "\n\n").lineCount(), 2u);
+    EXPECT_EQ(SourceText("a.bas", "").lineCount(), 0u);
+    EXPECT_EQ(SourceText("a.bas", "x\r\n").lineCount(), 1u);
+    EXPECT_EQ(SourceText("a.bas", "x\r").lineCount(), 1u);
+    EXPECT_EQ(SourceText("a.bas", "\n\n").lineCount(), 2u);
 }
 
-TEST(SourceFile, ColumnsCountCharacters) {
-    EXPECT_EQ(SourceFile("a.bas", "ab\r\ncd").locate(5), (Location{2, 2}));
-    EXPECT_EQ(SourceFile("a.bas", "x = \xE9\xE9 y").locate(7), (Location{1, 8}));
-    EXPECT_EQ(SourceFile("a.bas", "' \xC3\xA9\xC3\xA9 y").locate(7), (Location{1, 6})) << "UTF-8";
-    EXPECT_EQ(SourceFile("a.bas", "' \x83\x5C\x83\x5C y", basic::CodePage(932)).locate(7), (Location{1, 6}))
+TEST(SourceText, ColumnsCountCharacters) {
+    EXPECT_EQ(SourceText("a.bas", "ab\r\ncd").locate(5), (Location{2, 2}));
+    EXPECT_EQ(SourceText("a.bas", "x = \xE9\xE9 y").locate(7), (Location{1, 8}));
+    EXPECT_EQ(SourceText("a.bas", "' \xC3\xA9\xC3\xA9 y").locate(7), (Location{1, 6})) << "UTF-8";
+    EXPECT_EQ(SourceText("a.bas", "' \x83\x5C\x83\x5C y", basic::CodePage(932)).locate(7), (Location{1, 6}))
         << "two bytes";
-    EXPECT_EQ(SourceFile("a.bas", "ab\r\n").locate(4), (Location{1, 5}));
+    EXPECT_EQ(SourceText("a.bas", "ab\r\n").locate(4), (Location{1, 5}));
 }
 
-TEST(SourceFile, EncodingIsToldPerFile) {
-    EXPECT_EQ(SourceFile("a.bas", "' caf\xC3\xA9").codePage().number(), 65001);
-    EXPECT_EQ(SourceFile("a.bas", "' caf\xE9").codePage().number(), 1252);
-    EXPECT_EQ(SourceFile("a.bas", "' cafe").codePage().number(), 1252);
-    EXPECT_EQ(SourceFile("a.bas", "\xEF\xBB\xBFx = 1").codePage().number(), 65001);
+TEST(SourceText, EncodingIsToldPerFile) {
+    EXPECT_EQ(SourceText("a.bas", "' caf\xC3\xA9").codePage().number(), 65001);
+    EXPECT_EQ(SourceText("a.bas", "' caf\xE9").codePage().number(), 1252);
+    EXPECT_EQ(SourceText("a.bas", "' cafe").codePage().number(), 1252);
+    EXPECT_EQ(SourceText("a.bas", "\xEF\xBB\xBFx = 1").codePage().number(), 65001);
     EXPECT_EQ(Parsed("\xEF\xBB\xBF"
                      "Dim a")
                   .diagnostics(),
               "");
-    EXPECT_EQ(SourceFile("a.bas", "x\xE9").decode("x\xE9"), "x\xC3\xA9");
+    EXPECT_EQ(SourceText("a.bas", "x\xE9").decode("x\xE9"), "x\xC3\xA9");
 }
 
-TEST(SourceFile, FindsWhereTheCodeBegins) {
+TEST(SourceText, FindsWhereTheCodeBegins) {
     const std::string form =
         "VERSION 5.00\r\nObject = \"{0}#1.0#0\"; \"X.OCX\"\r\nBegin VB.Form F \r\n   BeginProperty Font \r\n"
         "   EndProperty\r\n   Begin VB.Label L \r\nCaption = \"End\"\r\nEnd\r\nEnd\r\nAttribute VB_Name = \"F\"\r\n"
         "Attribute VB_Exposed = False\r\nOption Explicit\r\n";
-    const SourceFile f{"F.frm", form};
+    const SourceText f{"F.frm", form};
     EXPECT_EQ(f.header(), HeaderState::Complete);
     EXPECT_EQ(f.headerBlock(), 3u);
     EXPECT_EQ(f.attributesBegin(), 10u);
     EXPECT_EQ(f.codeBegin(), 12u);
     EXPECT_EQ(f.line(f.codeBegin()), "Option Explicit");
 
-    const SourceFile c{"C.cls",
+    const SourceText c{"C.cls",
                        "VERSION 1.0 CLASS\nBEGIN\n  MultiUse = -1  'True\nEND\nAttribute VB_Name = \"C\"\nDim a\n"};
     EXPECT_EQ(c.codeBegin(), 6u);
-    EXPECT_EQ(SourceFile("M.bas", "Attribute VB_Name = \"M\"\nDim a").codeBegin(), 2u);
-    EXPECT_EQ(SourceFile("M.bas", "Dim a").codeBegin(), 1u);
-    EXPECT_EQ(SourceFile("M.bas", "").codeBegin(), 1u);
-    EXPECT_EQ(SourceFile("F.frm", "VERSION 5.00\nBegin VB.Form F \n").header(), HeaderState::Unclosed);
+    EXPECT_EQ(SourceText("M.bas", "Attribute VB_Name = \"M\"\nDim a").codeBegin(), 2u);
+    EXPECT_EQ(SourceText("M.bas", "Dim a").codeBegin(), 1u);
+    EXPECT_EQ(SourceText("M.bas", "").codeBegin(), 1u);
+    EXPECT_EQ(SourceText("F.frm", "VERSION 5.00\nBegin VB.Form F \n").header(), HeaderState::Unclosed);
 }
 
-TEST(SourceFile, CodeLinesAreThoseOfTheCodeWindow) {
+TEST(SourceText, CodeLinesAreThoseOfTheCodeWindow) {
     const Parsed p{
         "VERSION 1.0 CLASS\nBEGIN\nEND\nAttribute VB_Name = \"C\"\nDim a\nAttribute a.VB_VarHelpID = -1\nDim b\n",
         "C.cls"};
@@ -78,7 +78,7 @@ TEST(SourceFile, CodeLinesAreThoseOfTheCodeWindow) {
 TEST(CheckSource, FilesThatAreNoVb) {
     const auto numbers = [](const char* name, std::string bytes) {
         std::string text;
-        for (const auto& d : compiler::checkSource(name, std::move(bytes)).diagnostics)
+        for (const auto& d : qltoolkit::checkSource(name, std::move(bytes)).diagnostics)
             text += fmt::format("{}:{} ", d.line, d.number);
         return text;
     };
@@ -100,17 +100,17 @@ TEST(CheckSource, FilesThatAreNoVb) {
 }
 
 TEST(CheckSource, NulsBehindTheCodeDoNotMatter) {
-    const auto r = compiler::checkSource("M.bas", "Sub A()\r\nEnd Sub\r\n" + std::string(142, '\0') + "\r\n\r\n");
+    const auto r = qltoolkit::checkSource("M.bas", "Sub A()\r\nEnd Sub\r\n" + std::string(142, '\0') + "\r\n\r\n");
     EXPECT_THAT(r.diagnostics, testing::IsEmpty());
-    EXPECT_EQ(compiler::checkSource("M.bas", std::string("Dim\0a\nDim\x1A", 10)).errors, 1u);
+    EXPECT_EQ(qltoolkit::checkSource("M.bas", std::string("Dim\0a\nDim\x1A", 10)).errors, 1u);
 }
 
 TEST(CheckFile, MissingUnreadableAndFolders) {
-    const auto number = [](const std::string& path) { return compiler::checkFile(path).diagnostics.at(0).number; };
+    const auto number = [](const std::string& path) { return qltoolkit::checkFile(path).diagnostics.at(0).number; };
     EXPECT_EQ(number("/nowhere/M.bas"), 1000);
     EXPECT_EQ(number("/tmp"), 1002);
     EXPECT_EQ(number(std::string(FERNWICK_SOURCE_DIR) + "/CMakeLists.txt"), 1006);
-    const auto missing = compiler::checkFile("/nowhere/M.bas");
+    const auto missing = qltoolkit::checkFile("/nowhere/M.bas");
     EXPECT_EQ(missing.errors, 1u);
     EXPECT_EQ(missing.diagnostics[0].file, "/nowhere/M.bas");
     EXPECT_EQ(missing.diagnostics[0].text, "The file does not exist.");

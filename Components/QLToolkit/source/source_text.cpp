@@ -1,10 +1,10 @@
-#include "Components/QLToolkit/source/source_file.h"
+#include "Components/QLToolkit/source/source_text.h"
 #include "Components/QLToolkit/source/encoding.h"
 #include <algorithm>
 #include <array>
 #include <cstring>
 
-namespace compiler {
+namespace qltoolkit {
 
 namespace {
 
@@ -52,7 +52,7 @@ FileKind fileKindOf(std::string_view path) {
     return FileKind::Unknown;
 }
 
-SourceFile::SourceFile(std::string name, std::string bytes, basic::CodePage page)
+SourceText::SourceText(std::string name, std::string bytes, basic::CodePage page)
     : name_(std::move(name)),
       bytes_(std::move(bytes)),
       size_(static_cast<Pos>(bytes_.size())),
@@ -65,7 +65,7 @@ SourceFile::SourceFile(std::string name, std::string bytes, basic::CodePage page
     findCode();
 }
 
-void SourceFile::splitLines() {
+void SourceText::splitLines() {
     const char* const base = data();
     lineStarts_.reserve(size_ / 24 + 2);
     lineStarts_.push_back(0);
@@ -85,7 +85,7 @@ void SourceFile::splitLines() {
     if (lineStarts_.back() != size_) lineStarts_.push_back(size_);
 }
 
-std::string_view SourceFile::line(std::uint32_t number) const {
+std::string_view SourceText::line(std::uint32_t number) const {
     Pos end = lineStart(number + 1);
     const Pos begin = lineStart(number);
     if (end > begin && data()[end - 1] == '\n') --end;
@@ -93,12 +93,12 @@ std::string_view SourceFile::line(std::uint32_t number) const {
     return text(begin, end);
 }
 
-std::uint32_t SourceFile::lineOf(Pos at) const {
+std::uint32_t SourceText::lineOf(Pos at) const {
     const auto after = std::upper_bound(lineStarts_.begin(), lineStarts_.end() - 1, at);
     return std::max<std::uint32_t>(1, static_cast<std::uint32_t>(after - lineStarts_.begin()));
 }
 
-Location SourceFile::locate(Pos at) const {
+Location SourceText::locate(Pos at) const {
     const auto number = lineOf(at);
     const auto before = text(lineStart(number), at);
     const bool ascii =
@@ -115,7 +115,7 @@ Location SourceFile::locate(Pos at) const {
 }
 
 // The rule that holds for every file: VERSION, Object lines, one balanced block, then Attribute lines at column 0.
-void SourceFile::findCode() {
+void SourceText::findCode() {
     std::uint32_t at = 1;
     const auto last = lineCount();
     const auto word = [&](std::uint32_t n) { return firstWord(line(n)); };
@@ -130,7 +130,7 @@ void SourceFile::findCode() {
     codeBegin_ = at;
 }
 
-std::uint32_t SourceFile::skipBlock(std::uint32_t begin) {
+std::uint32_t SourceText::skipBlock(std::uint32_t begin) {
     headerBlock_ = begin;
     std::size_t depth = 0;
     for (auto at = begin; at <= lineCount(); ++at) {
@@ -144,8 +144,8 @@ std::uint32_t SourceFile::skipBlock(std::uint32_t begin) {
     return lineCount() + 1;
 }
 
-std::string SourceFile::decode(std::string_view bytes) const { return page_.decode(bytes); }
+std::string SourceText::decode(std::string_view bytes) const { return page_.decode(bytes); }
 
-bool SourceFile::isLeadByte(unsigned char byte) const { return isLeadByteOf(page_.number(), byte); }
+bool SourceText::isLeadByte(unsigned char byte) const { return isLeadByteOf(page_.number(), byte); }
 
-} // namespace compiler
+} // namespace qltoolkit
