@@ -105,7 +105,7 @@ void Session::requireFernwickProject() {
                         "section with ProjectVersion=3.5.",
                         path_));
     const auto version = read("ProjectVersion");
-    if (version.empty() || version == "1.0")
+    if (version.empty() || version == fernwick::kOldProjectFormat)
         throw Refusal(kProjectErrors,
                       fmt::format("{}: made by a Fernwick before 3.5 (version 1.0); it must be converted before it can "
                                   "be used. Nothing was written.",

@@ -1,15 +1,9 @@
-// Forms at another screen resolution than the one that they were laid out at.
-#include "Add-in/project/clsQLProject.h"
-#include "Add-in/project/project_texts.h"
+#include "Add-in/project/form_scaling.h"
 #include "Basic/arithmetic.h"
 
 namespace fernwick {
 
 namespace {
-
-struct Resolution {
-    float x, y;
-};
 
 void scaleProperty(basic::Suppressed& quietly, const basic::Ref<vbide::Properties>& properties, const char* name,
                    float now, float then) {
@@ -47,30 +41,15 @@ void scaleForm(basic::Suppressed& quietly, const basic::Ref<vbide::VBComponent>&
 
 } // namespace
 
-void clsQLProject::CheckTwipsMatch() {
-    Procedure here{services_.errors, "clsQLProject.CheckTwipsMatch"};
-    const auto& screen = services_.platform.screen;
-    const Resolution now{here.value([&] { return screen.TwipsPerPixelX(); }),
-                         here.value([&] { return screen.TwipsPerPixelY(); })};
-    const Resolution then{TwipsPerPixelX(), TwipsPerPixelY()};
-    if (then.x != 0) {
-        if (now.x == then.x && now.y == then.y) return;
-        const auto answer = [&] {
-            return services_.platform.interaction.ask(Question::ConvertForms, std::string(texts::kOtherDpi),
-                                                      vbYesNo | vbQuestion, std::string(texts::kFernwick));
-        };
-        if (here.value(answer) != vbYes) return;
-        basic::Suppressed quietly;
-        std::vector<basic::Ref<vbide::VBComponent>> components;
-        quietly([&] { components = project_->VBComponents()->items(); });
-        for (const auto& component : components) {
-            bool isForm = false;
-            quietly([&] { isForm = component->Type() == vbide::vbext_ct_VBForm; });
-            if (isForm) scaleForm(quietly, component, now, then);
-        }
+void ScaleForms(const basic::Ref<vbide::VBProject>& project, Resolution now, Resolution then) {
+    basic::Suppressed quietly;
+    std::vector<basic::Ref<vbide::VBComponent>> components;
+    quietly([&] { components = project->VBComponents()->items(); });
+    for (const auto& component : components) {
+        bool isForm = false;
+        quietly([&] { isForm = component->Type() == vbide::vbext_ct_VBForm; });
+        if (isForm) scaleForm(quietly, component, now, then);
     }
-    TwipsPerPixelX(now.x);
-    TwipsPerPixelY(now.y);
 }
 
 } // namespace fernwick

@@ -1,7 +1,8 @@
-// Version and application data: lines of the project file that the host has no property for. What is on disk counts.
-#include "Add-in/project/clsQLProject.h"
+#include "Add-in/project/application_info.h"
 #include "Basic/arithmetic.h"
 #include "Basic/conversions.h"
+#include "Basic/ref.h"
+#include "Basic/runtime_error.h"
 #include "Basic/text.h"
 
 namespace fernwick {
@@ -11,14 +12,14 @@ namespace {
 constexpr std::string_view kMajor = "MajorVer=", kMinor = "MinorVer=", kRevision = "RevisionVer=",
                            kAutoIncrement = "AutoIncrementVer=";
 
-/// The number behind a key, where the line begins with it.
+/// Reads the number after a key, if the line begins with the key.
 bool takeNumber(const std::string& line, std::string_view key, std::int32_t& number) {
     if (!line.starts_with(key)) return false;
     number = basic::CLng(line.substr(key.size()));
     return true;
 }
 
-/// Each end is looked at by itself.
+/// Each end is tested by itself.
 void stripQuotes(std::string& text) {
     if (!text.empty() && text.front() == '"') text.erase(0, 1);
     if (!text.empty() && text.back() == '"') text.pop_back();
@@ -48,9 +49,9 @@ std::string* fieldOf(AppInfo& info, std::string_view key) {
 
 } // namespace
 
-std::string clsQLProject::version() const {
+std::string ApplicationInfo::version() const {
     std::int32_t major = 0, minor = 0, revision = 0;
-    const auto file = files().OpenTextFile(project_->FileName());
+    const auto file = files_.OpenTextFile(path_);
     while (!file->AtEndOfStream()) {
         const auto line = file->ReadLine();
         takeNumber(line, kMajor, major) || takeNumber(line, kMinor, minor) || takeNumber(line, kRevision, revision);
@@ -59,9 +60,9 @@ std::string clsQLProject::version() const {
     return basic::CStr(major) + "." + basic::CStr(minor) + "." + basic::CStr(revision);
 }
 
-AppInfo clsQLProject::GetAppInfo() const {
+AppInfo ApplicationInfo::read() const {
     AppInfo info;
-    const auto file = files().OpenTextFile(project_->FileName());
+    const auto file = files_.OpenTextFile(path_);
     while (!file->AtEndOfStream()) {
         const auto line = file->ReadLine();
         const auto divider = line.find('=');
@@ -75,21 +76,20 @@ AppInfo clsQLProject::GetAppInfo() const {
     return info;
 }
 
-bool clsQLProject::AutoIncrementVersion() const {
+bool ApplicationInfo::incrementsRevision() const {
     std::int32_t number = 0;
-    const auto file = files().OpenTextFile(project_->FileName());
+    const auto file = files_.OpenTextFile(path_);
     while (!file->AtEndOfStream() && !takeNumber(file->ReadLine(), kAutoIncrement, number)) {}
     file->Close();
     return number > 0;
 }
 
-void clsQLProject::IncerementRevision(std::int32_t) {
-    if (!AutoIncrementVersion()) return;
-    const auto path = project_->FileName(), copyPath = path + ".temp";
+void ApplicationInfo::incrementRevision() const {
+    const auto copyPath = path_ + ".temp";
     basic::Ref<TextStream> file, copy;
     basic::Suppressed quietly;
-    quietly([&] { file = files().OpenTextFile(path); });
-    quietly([&] { copy = files().CreateTextFile(copyPath, true); });
+    quietly([&] { file = files_.OpenTextFile(path_); });
+    quietly([&] { copy = files_.CreateTextFile(copyPath, true); });
     if (!file || !copy) return;
 
     while (!file->AtEndOfStream()) {
@@ -100,8 +100,8 @@ void clsQLProject::IncerementRevision(std::int32_t) {
     }
     file->Close();
     copy->Close();
-    files().CopyFile(copyPath, path, true);
-    files().DeleteFile(copyPath, true);
+    files_.CopyFile(copyPath, path_, true);
+    files_.DeleteFile(copyPath, true);
 }
 
 } // namespace fernwick

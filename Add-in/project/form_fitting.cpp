@@ -1,6 +1,5 @@
-// The shape of a new form.
+#include "Add-in/project/form_fitting.h"
 #include "Add-in/core/fonts.h"
-#include "Add-in/project/clsQLProject.h"
 #include "Basic/conversions.h"
 #include "Basic/text_search.h"
 
@@ -17,7 +16,7 @@ constexpr const char* kOptionExplicit = "Option Explicit";
 
 double formNumber(const vbide::Properties& form, const char* name) { return asDouble(form.Item(name)->Value()); }
 
-/// What a form is larger than its client area, in twips.
+/// By how much a form is larger than its client area, in twips.
 std::int32_t frameSize(const vbide::Properties& form, const char* outer, const char* inner) {
     return basic::CLng(formNumber(form, outer) - formNumber(form, inner));
 }
@@ -25,45 +24,43 @@ std::int32_t frameSize(const vbide::Properties& form, const char* outer, const c
 void demandDeclarations(Procedure& here, vbide::CodeModule& code) {
     std::string text;
     if (here.test([&] { return code.CountOfLines() >= 1; })) here([&] { text = code.Lines(1, code.CountOfLines()); });
-    // The text is looked for in the words, not the other way round: a module with anything else keeps its lines.
+    // The module's text is searched for in the statement, not the other way round, so any other code is left alone.
     if (text.empty() || basic::InStr(kOptionExplicit, text) > 0) here([&] { code.InsertLines(1, kOptionExplicit); });
 }
 
 } // namespace
 
-void clsQLProject::SetupDefaultForm(const basic::Ref<vbide::VBComponent>& MyForm) {
-    Procedure here{services_.errors, withProjectName("clsDeviceConfig.SetupDefaultForm")};
-    const auto form = here.value([&] { return MyForm->Properties(); });
+void FormFitting::apply(Procedure& here, const basic::Ref<vbide::VBComponent>& component) const {
+    const auto form = here.value([&] { return component->Properties(); });
     const auto set = [&](const char* name, Variant value) { here([&] { form->Item(name)->Value(value); }); };
-    sizeDefaultForm(here, form);
+    applySize(here, form);
     set("ScaleMode", kPixels);
     set("BorderStyle", kFixedSingle);
     set("StartUpPosition", kCenterScreen);
-    fontDefaultForm(here, form);
+    applyFont(here, form);
     set("ShowInTaskBar", true);
-    if (const auto color = DefaultFormColor(); color != 0) set("BackColor", color);
-    const auto code = here.value([&] { return MyForm->CodeModule(); });
+    if (const auto color = settings_.DefaultFormColor(); color != 0) set("BackColor", color);
+    const auto code = here.value([&] { return component->CodeModule(); });
     if (code) demandDeclarations(here, *code);
 }
 
-void clsQLProject::sizeDefaultForm(Procedure& here, const basic::Ref<vbide::Properties>& form) {
-    const auto& screen = services_.platform.screen;
+void FormFitting::applySize(Procedure& here, const basic::Ref<vbide::Properties>& form) const {
     here([&] { form->Item("ScaleMode")->Value(kTwips); });
     const auto frameWidth = here.value([&] { return frameSize(*form.operator->(), "Width", "ScaleWidth"); });
     const auto frameHeight = here.value([&] { return frameSize(*form.operator->(), "Height", "ScaleHeight"); });
-    if (const auto height = defaultFormHeight(); height != kNoFixedSize)
-        here([&] { form->Item("Height")->Value(double(height) * screen.TwipsPerPixelY() + frameHeight); });
-    if (const auto width = DefaultFormWidth(); width != kNoFixedSize)
-        here([&] { form->Item("Width")->Value(double(width) * screen.TwipsPerPixelX() + frameWidth); });
+    if (const auto height = settings_.defaultFormHeight(); height != kNoFixedSize)
+        here([&] { form->Item("Height")->Value(double(height) * screen_.TwipsPerPixelY() + frameHeight); });
+    if (const auto width = settings_.DefaultFormWidth(); width != kNoFixedSize)
+        here([&] { form->Item("Width")->Value(double(width) * screen_.TwipsPerPixelX() + frameWidth); });
 }
 
-void clsQLProject::fontDefaultForm(Procedure& here, const basic::Ref<vbide::Properties>& form) {
+void FormFitting::applyFont(Procedure& here, const basic::Ref<vbide::Properties>& form) const {
     const auto set = [&](const char* member, Variant value) {
         here([&] { form->Item("Font")->ObjectValue()->Item(member)->Value(value); });
     };
-    const auto name = DefaultFontName();
-    const auto size = DefaultFontSize(), style = DefaultFontStyle();
-    const bool known = here.test([&] { return WinFontExists(services_.platform.screen, name); }) && size >= 1;
+    const auto name = settings_.DefaultFontName();
+    const auto size = settings_.DefaultFontSize(), style = settings_.DefaultFontStyle();
+    const bool known = here.test([&] { return WinFontExists(screen_, name); }) && size >= 1;
     set("Name", known ? name : kFallbackFont);
     set("Size", known ? size : kFallbackFontSize);
     set("Bold", (style & kBold) != 0);
@@ -72,12 +69,11 @@ void clsQLProject::fontDefaultForm(Procedure& here, const basic::Ref<vbide::Prop
     set("Underline", false);
 }
 
-bool clsQLProject::ValidFormSize(const basic::Ref<vbide::VBComponent>& MyForm) {
-    Procedure here{services_.errors, withProjectName("clsDeviceConfig.ValidFormSize")};
-    const auto form = here.value([&] { return MyForm->Properties(); });
+bool FormFitting::hasValidSize(Procedure& here, const basic::Ref<vbide::VBComponent>& component) const {
+    const auto form = here.value([&] { return component->Properties(); });
     const auto scaleMode = here.value([&] { return form->Item("ScaleMode")->Value(); });
     here([&] { form->Item("ScaleMode")->Value(kPixels); });
-    const auto width = DefaultFormWidth(), height = defaultFormHeight();
+    const auto width = settings_.DefaultFormWidth(), height = settings_.defaultFormHeight();
     const bool wrong = here.test([&] {
         return (width != kNoFixedSize && formNumber(*form.operator->(), "ScaleWidth") != width) ||
                (height != kNoFixedSize && formNumber(*form.operator->(), "ScaleHeight") != height);
