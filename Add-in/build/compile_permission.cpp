@@ -25,7 +25,7 @@ bool frmCompile::readyForValidation(const Project& project) {
 bool frmCompile::filesHaveBeenSaved(Procedure& here, const basic::Ref<clsQLProject>& qlProject) {
     if (!here.test([&] { return !qlProject->FilesHaveBeenSaved(); })) return true;
     box(here, build_texts::kSaveFilesFirst, vbInformation);
-    here([&] { use_.commands.saveProjectItem()->Execute(); });
+    here([&] { use_.menu.saveProjectItem()->Execute(); });
     return false;
 }
 

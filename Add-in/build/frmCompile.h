@@ -3,7 +3,7 @@
 #include "Add-in/build/dependencies/modDependencyManagement.h"
 #include "Add-in/build/line_counts.h"
 #include "Add-in/build/modProcessControl.h"
-#include "Add-in/core/ide_commands.h"
+#include "Add-in/commands/modMenuManagement.h"
 #include "Add-in/core/modQLInstallInfo.h"
 #include "Add-in/platform/compiler.h"
 #include "Add-in/platform/controls.h"
@@ -25,7 +25,7 @@ struct CompileServices {
     modDependencyManagement& dependencies;
     modProcessControl& processes;
     frmSaveProjectFiles& saveFiles;
-    IdeCommands& commands;
+    modMenuManagement& menu;
 };
 
 /// A modal progress dialog without buttons. It compiles in its first Activate event and unloads itself.

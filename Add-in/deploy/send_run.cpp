@@ -40,7 +40,7 @@ tResourceList frmSendToDevice::readDependencies() {
                   deploy_texts::kTitle) != vbYes)
         return dependencies;
     user_.SetCursor(vbHourglass);
-    deploy_.commands.ShowQuinloftSettings(project, "Dependencies", false);
+    deploy_.settings.ShowQuinloftSettings(project, "Dependencies", false);
     return deploy_.dependencies.ReadProjectDependencies(project);
 }
 

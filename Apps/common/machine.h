@@ -24,7 +24,7 @@ struct FrontEnd {
     host::Processes::Permission mayRun;
     host::Processes::Interrupted interrupted;
     /// Called for a document that no installed program can show.
-    host::Shell::Tell tell;
+    host::Shell::Report report;
 };
 
 /// Stores, fonts and targets are read on first use.
@@ -39,7 +39,7 @@ public:
     const fernwick::Clipboard& clipboard() const { return platform_.clipboard; }
     const std::string& installation() const { return installation_; }
     /// Record of the last build.
-    const compiler::BuildRecord& build() const { return *build_; }
+    const qltoolkit::BuildRecord& build() const { return *build_; }
     /// Record of the pipes' transfers; clear it before a run.
     qlpipe::TransferRecord& transfers() { return *transfers_; }
     qlpipe::PipeServices pipeServices() {
@@ -59,7 +59,7 @@ private:
     host::Shell shell_;
     host::Screen screen_;
     host::Resources resources_;
-    std::shared_ptr<compiler::BuildRecord> build_ = std::make_shared<compiler::BuildRecord>();
+    std::shared_ptr<qltoolkit::BuildRecord> build_ = std::make_shared<qltoolkit::BuildRecord>();
     std::shared_ptr<qlpipe::TransferRecord> transfers_ = std::make_shared<qlpipe::TransferRecord>();
     std::vector<std::shared_ptr<void>> registered_;
     fernwick::Platform platform_;

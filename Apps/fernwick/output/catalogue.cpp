@@ -12,8 +12,8 @@ namespace {
 using fernwick::MessageInfo;
 
 void addCompilerMessages(std::vector<MessageInfo>& to) {
-    for (const auto& row : compiler::allMessages())
-        to.push_back({std::int32_t(row.message), row.severity == compiler::Severity::Error, row.text, row.meaning,
+    for (const auto& row : qltoolkit::allMessages())
+        to.push_back({std::int32_t(row.message), row.severity == qltoolkit::Severity::Error, row.text, row.meaning,
                       row.example, row.remedy});
 }
 

@@ -34,7 +34,6 @@ Session::Session(const Options& options, Console& console)
         console.err(fmt::format("fernwick: {} (error {})", error.Description, error.Number), Tone::Warning);
     };
     host_ = host::Host::create(std::move(hostOptions));
-    // weak, because a connected add-in keeps the host alive
     host_->listAddIn(apps::kAddInProgId, apps::kAddInName,
                      [modules = std::weak_ptr(modules_)] { return fernwick::asAddIn(modules.lock()); });
 }
@@ -92,7 +91,7 @@ void Session::requireFernwickProject() {
                         "section with ProjectVersion=3.5.",
                         path_));
     const auto version = read("ProjectVersion");
-    if (version.empty() || version == "1.0")
+    if (version.empty() || version == fernwick::kOldProjectFormat)
         throw Refusal(kProjectErrors,
                       fmt::format("{}: created by a version of Fernwick before 3.5 (version 1.0) and must be converted "
                                   "first. Nothing was written.",
@@ -144,8 +143,6 @@ void Session::close() {
     const auto host = std::exchange(host_, nullptr);
     host->close();
     machine_.drain();
-    // breaks the cycle: the host keeps its add-ins, and this one keeps the host
-    modules_->addIn.gVBInstance = nullptr;
 }
 
 bool Session::hasUnsavedComponents() const {

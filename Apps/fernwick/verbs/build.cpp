@@ -17,7 +17,7 @@ constexpr const char* kNotCompiled = "FAILED - The project was not compiled.";
 std::string imagePathOf(const Session& session) {
     auto& files = const_cast<Session&>(session).machine().platform().files;
     const auto folder = files.GetParentFolderName(session.path());
-    return files.BuildPath(folder, session.project()->Name() + compiler::kImageSuffix);
+    return files.BuildPath(folder, session.project()->Name() + qltoolkit::kImageSuffix);
 }
 
 void warnOfLineFeeds(Session& session, Console& console) {

@@ -11,6 +11,6 @@ std::vector<Message> storedMessages(const basic::Ref<vbide::VBProject>& project)
 
 /// The same with physical lines: columns too and whole texts of the compiler's messages, from the build that stored
 /// them; those of the others are found from the code window's line.
-std::vector<Message> messagesOfRun(const basic::Ref<vbide::VBProject>& project, const compiler::BuildRecord& build);
+std::vector<Message> messagesOfRun(const basic::Ref<vbide::VBProject>& project, const qltoolkit::BuildRecord& build);
 
 } // namespace cli
