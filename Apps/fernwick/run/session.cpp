@@ -1,5 +1,7 @@
 #include "Apps/fernwick/run/session.h"
 #include "Add-in/lifecycle/frmDesignTargetNormal.h"
+#include "Add-in/project/project_format.h"
+#include "Add-in/project/project_store.h"
 #include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/output/file_errors.h"
 #include "Apps/fernwick/output/plural.h"
@@ -80,7 +82,7 @@ void Session::requireAllMembers() {
 void Session::requireFernwickProject() {
     const auto read = [this](const char* key) {
         std::string value;
-        (void)basic::attempt([&] { value = project_->ReadProperty("Quinloft Global", key); });
+        (void)basic::attempt([&] { value = project_->ReadProperty(fernwick::kGlobalSection, key); });
         return value;
     };
     if (!basic::equalNoCase(read("IsQuinloftProject"), "True"))

@@ -54,7 +54,7 @@ std::string addDependency(Session& session, const NewDependency& added, tResourc
     const auto entry = session.addIn().dependencies.CreateNewDependency(session.project(), added.path, true);
     if (entry.FileName.empty())
         return fmt::format("{} is outside the project folder and was not added; copy it there with --yes", added.path);
-    // the add-in reports a copy that fails, and goes on
+    // the add-in has reported a failed copy and still returns an entry
     if (isMissing(session, entry)) return fmt::format("{} could not be copied and was not added", added.path);
     if (modDependencyManagement::FindResourceIndex(entry.FileName, list) < 0)
         modDependencyManagement::AddDependency(entry, list);
