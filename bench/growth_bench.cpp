@@ -1,5 +1,5 @@
 // How cost grows: each job at two sizes in one run, printed as the ratio of the times a piece. Near 1 is linear.
-#include "Apps/fernwick/session.h"
+#include "Apps/fernwick/run/session.h"
 #include "Host/files/project_file.h"
 #include "tests/support/form_text.h"
 #include "tests/support/sample_project.h"

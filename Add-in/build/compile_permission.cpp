@@ -29,7 +29,7 @@ bool CompilePermission::filesHaveBeenSaved(Procedure& here, const QLProject& qlP
     here([&] {
         services_.platform.interaction.MsgBox(build_texts::kSaveFilesFirst, vbInformation, build_texts::kTitle);
     });
-    here([&] { services_.commands.saveProjectItem()->Execute(); });
+    here([&] { services_.menu.saveProjectItem()->Execute(); });
     return false;
 }
 

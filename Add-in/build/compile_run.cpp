@@ -102,7 +102,10 @@ bool CompileRun::projectFileIsReadOnly() const {
 
 bool CompileRun::preStepsAllow(Procedure& here) {
     if (steps_.RunPreCompileSteps(project_)) return true;
-    return !here.test([&] { return box(build_texts::kPreStepsFailed, vbInformation + vbYesNo) == vbNo; });
+    return !here.test([&] {
+        return user_.ask(Question::FailedStep, build_texts::kPreStepsFailed, vbInformation + vbYesNo,
+                         build_texts::kTitle) == vbNo;
+    });
 }
 
 void CompileRun::recordDependencies(Procedure& here) {

@@ -1,7 +1,7 @@
 #pragma once
 #include "Add-in/build/dependencies/modDependencyManagement.h"
 #include "Add-in/build/modProcessControl.h"
-#include "Add-in/core/ide_commands.h"
+#include "Add-in/commands/modMenuManagement.h"
 #include "Add-in/core/modQLInstallInfo.h"
 #include "Add-in/project/frmSaveProjectFiles.h"
 #include "Add-in/project/modProjectHandler.h"
@@ -19,7 +19,7 @@ struct CompileServices {
     modDependencyManagement& dependencies;
     modProcessControl& processes;
     frmSaveProjectFiles& saveFiles;
-    IdeCommands& commands;
+    modMenuManagement& menu;
 };
 
 } // namespace fernwick

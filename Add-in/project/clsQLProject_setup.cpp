@@ -83,7 +83,11 @@ void clsQLProject::CheckTwipsMatch() {
     const Resolution then{TwipsPerPixelX(), TwipsPerPixelY()};
     if (then.x != 0) {
         if (now == then) return;
-        if (here.value([&] { return box(texts::kOtherDpi, vbYesNo | vbQuestion); }) != vbYes) return;
+        const auto answer = [&] {
+            return services_.platform.interaction.ask(Question::ConvertForms, std::string(texts::kOtherDpi),
+                                                      vbYesNo | vbQuestion, std::string(texts::kFernwick));
+        };
+        if (here.value(answer) != vbYes) return;
         ScaleForms(VBProject(), now, then);
     }
     TwipsPerPixelX(now.x);

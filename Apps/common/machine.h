@@ -24,7 +24,7 @@ struct FrontEnd {
     host::Processes::Permission mayRun;
     host::Processes::Interrupted interrupted;
     /// Told of a document that no program here can show.
-    host::Shell::Tell tell;
+    host::Shell::Report tell;
 };
 
 /// Opens nothing by itself: stores, fonts and targets are read when they are asked for.
@@ -39,7 +39,7 @@ public:
     const fernwick::Clipboard& clipboard() const { return platform_.clipboard; }
     const std::string& installation() const { return installation_; }
     /// What the last build did.
-    const compiler::BuildRecord& build() const { return *build_; }
+    const qltoolkit::BuildRecord& build() const { return *build_; }
     /// What the pipes did; a run that asks for one transfer clears it first.
     qlpipe::TransferRecord& transfers() { return *transfers_; }
     /// What pipes stand on.
@@ -60,7 +60,7 @@ private:
     host::Shell shell_;
     host::Screen screen_;
     host::Resources resources_;
-    std::shared_ptr<compiler::BuildRecord> build_ = std::make_shared<compiler::BuildRecord>();
+    std::shared_ptr<qltoolkit::BuildRecord> build_ = std::make_shared<qltoolkit::BuildRecord>();
     std::shared_ptr<qlpipe::TransferRecord> transfers_ = std::make_shared<qlpipe::TransferRecord>();
     std::vector<std::shared_ptr<void>> registered_;
     fernwick::Platform platform_;

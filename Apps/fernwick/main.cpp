@@ -1,11 +1,10 @@
-#include "Apps/fernwick/exit_status.h"
-#include "Apps/fernwick/interruption.h"
-#include "Apps/fernwick/refusal.h"
-#include "Apps/fernwick/report.h"
-#include "Apps/fernwick/verbs/verbs.h"
-#include "Apps/fernwick/version.h"
+#include "Apps/fernwick/command_line/parse.h"
+#include "Apps/fernwick/options/exit_status.h"
+#include "Apps/fernwick/options/refusal.h"
+#include "Apps/fernwick/output/report.h"
+#include "Apps/fernwick/output/version_line.h"
+#include "Apps/fernwick/run/interruption.h"
 #include "Basic/runtime_error.h"
-#include <array>
 #include <csignal>
 #include <cstdio>
 #include <cstring>
@@ -13,37 +12,6 @@
 #include <malloc.h>
 
 namespace {
-
-struct Verb {
-    std::string_view name;
-    int (*run)(const cli::Options&, cli::Console&);
-};
-
-constexpr std::array kVerbs{
-    Verb{"build", cli::runBuild},
-    Verb{"check", cli::runCheck},
-    Verb{"dependencies", cli::runDependencies},
-    Verb{"deploy", cli::runDeploy},
-    Verb{"devices", cli::runDevices},
-    Verb{"doctor", cli::runDoctor},
-    Verb{"explain", cli::runExplain},
-    Verb{"info", cli::runInfo},
-    Verb{"install-runtime", cli::runInstallRuntime},
-    Verb{"messages", cli::runMessages},
-    Verb{"package", cli::runPackage},
-    Verb{"registry", cli::runRegistry},
-    Verb{"settings", cli::runSettings},
-    Verb{"targets", cli::runTargets},
-    Verb{"validate", cli::runValidate},
-    Verb{"version", cli::runVersion},
-    Verb{"workbench", cli::runWorkbench},
-};
-
-int runVerb(const cli::Options& options, cli::Console& console) {
-    for (const auto& verb : kVerbs)
-        if (verb.name == options.verb) return verb.run(options, console);
-    return cli::kWrongUse;
-}
 
 /// A verb that could not do its job: said to the user, and as a result where a format was asked for.
 int failed(int status, const std::string& reason, const cli::Options& options, cli::Console& console) {
@@ -58,9 +26,10 @@ int failed(int status, const std::string& reason, const cli::Options& options, c
     return status;
 }
 
-int guarded(const cli::Options& options, cli::Console& console) {
+int guarded(const cli::Parsed& parsed, cli::Console& console) {
+    const auto& options = parsed.options;
     try {
-        return runVerb(options, console);
+        return parsed.run(options, console);
     } catch (const cli::Interrupted&) {
         return failed(cli::kInterrupted, "interrupted; nothing was left half-written", options, console);
     } catch (const cli::Refusal& refusal) {
@@ -99,7 +68,7 @@ int main(int argc, char** argv) {
     std::signal(SIGCHLD, SIG_DFL); // some parents have us throw away how our compile steps end
     cli::watchForInterrupt();
     cli::Console console{parsed.options.verbosity};
-    int status = guarded(parsed.options, console);
+    int status = guarded(parsed, console);
     if (cli::wasInterrupted()) status = cli::kInterrupted;
     if (!console.flush()) {
         console.err("fernwick: standard output could not be written", cli::Tone::Error);

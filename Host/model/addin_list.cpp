@@ -1,5 +1,5 @@
 #include "Host/model/addin_list.h"
-#include "Host/model/base/host_errors.h"
+#include "Host/model/errors/host_errors.h"
 #include "Host/model/host.h"
 #include <algorithm>
 

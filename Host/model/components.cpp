@@ -1,7 +1,7 @@
 #include "Host/model/components.h"
 #include "Host/files/path_lookup.h"
-#include "Host/model/base/host_errors.h"
 #include "Host/model/code/new_source.h"
+#include "Host/model/errors/host_errors.h"
 #include "Host/model/host.h"
 #include "Host/model/project.h"
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "Host/model/event_sources.h"
 #include "Host/model/bars/bars.h"
-#include "Host/model/base/host_errors.h"
+#include "Host/model/errors/host_errors.h"
 #include "Host/model/project.h"
 
 namespace host {

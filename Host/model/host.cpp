@@ -2,11 +2,12 @@
 #include "Host/files/atomic_save.h"
 #include "Host/model/addin_list.h"
 #include "Host/model/bars/bars.h"
-#include "Host/model/bars/tool_windows.h"
-#include "Host/model/base/host_errors.h"
+#include "Host/model/bars/host_menus.h"
+#include "Host/model/errors/host_errors.h"
 #include "Host/model/event_sources.h"
 #include "Host/model/project.h"
 #include "Host/model/projects.h"
+#include "Host/model/windows/tool_windows.h"
 #include <algorithm>
 
 namespace host {

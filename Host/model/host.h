@@ -6,9 +6,9 @@
 #include "Add-in/platform/registry.h"
 #include "Basic/code_page.h"
 #include "Host/files/text_file.h"
-#include "Host/model/base/load_problem.h"
-#include "Host/model/base/type_libraries.h"
+#include "Host/model/errors/load_problem.h"
 #include "Host/model/forms/control_class.h"
+#include "Host/model/references/type_libraries.h"
 #include <functional>
 #include <memory>
 #include <optional>

@@ -1,8 +1,8 @@
 #include "Host/model/module_code.h"
 #include "Basic/case_folding.h"
-#include "Host/model/bars/tool_window.h"
-#include "Host/model/base/host_errors.h"
+#include "Host/model/windows/tool_window.h"
 #include "Host/model/component.h"
+#include "Host/model/errors/host_errors.h"
 #include "Host/model/host.h"
 #include "Host/model/project.h"
 #include <algorithm>

@@ -2,7 +2,7 @@
 #include "Basic/case_folding.h"
 #include "Host/files/atomic_save.h"
 #include "Host/files/library_reference.h"
-#include "Host/model/base/host_errors.h"
+#include "Host/model/errors/host_errors.h"
 #include "Host/model/host.h"
 #include "Host/model/project_references.h"
 #include <fmt/format.h>

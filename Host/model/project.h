@@ -4,8 +4,8 @@
 #include "Add-in/platform/host_project.h"
 #include "Host/files/path_lookup.h"
 #include "Host/files/project_file.h"
-#include "Host/model/base/load_problem.h"
 #include "Host/model/components.h"
+#include "Host/model/errors/load_problem.h"
 #include <memory>
 #include <optional>
 #include <string>

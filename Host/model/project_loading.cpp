@@ -1,6 +1,6 @@
 #include "Basic/case_folding.h"
 #include "Host/files/encoding.h"
-#include "Host/model/base/host_errors.h"
+#include "Host/model/errors/host_errors.h"
 #include "Host/model/host.h"
 #include "Host/model/project.h"
 #include "Host/model/project_references.h"

@@ -1,7 +1,7 @@
 #include "Host/model/project_references.h"
 #include "Basic/case_folding.h"
 #include "Host/files/path_lookup.h"
-#include "Host/model/base/host_errors.h"
+#include "Host/model/errors/host_errors.h"
 #include "Host/model/host.h"
 #include "Host/model/project.h"
 #include <algorithm>

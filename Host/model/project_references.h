@@ -4,7 +4,7 @@
 #include "Host/files/form_file.h"
 #include "Host/files/library_reference.h"
 #include "Host/files/project_file.h"
-#include "Host/model/base/type_libraries.h"
+#include "Host/model/references/type_libraries.h"
 #include <memory>
 #include <optional>
 #include <string>

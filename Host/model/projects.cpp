@@ -3,8 +3,8 @@
 #include "Host/files/encoding.h"
 #include "Host/files/group_file.h"
 #include "Host/files/path_lookup.h"
-#include "Host/model/base/host_errors.h"
 #include "Host/model/code/new_source.h"
+#include "Host/model/errors/host_errors.h"
 #include "Host/model/host.h"
 #include "Host/model/project.h"
 #include <algorithm>

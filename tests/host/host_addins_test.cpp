@@ -1,5 +1,5 @@
 #include "Host/model/bars/bars.h"
-#include "Host/model/bars/tool_windows.h"
+#include "Host/model/windows/tool_windows.h"
 #include "tests/support/test_host.h"
 
 using basic::Ref;

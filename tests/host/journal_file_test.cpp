@@ -64,17 +64,17 @@ TEST(JournalFile, TellsWhatIsWrongWithOtherBytes) {
         return bytes.replace(bytes.find(part), part.size(), other);
     };
     using testing::HasSubstr;
-    EXPECT_THAT(whyRefused(""), HasSubstr("no journal"));
-    EXPECT_THAT(whyRefused("Attribute VB_Name = \"modA\"\r\n"), HasSubstr("no journal"));
-    EXPECT_THAT(whyRefused(with("journal 1", "journal 2")), HasSubstr("no journal of this version"));
+    EXPECT_THAT(whyRefused(""), HasSubstr("not a journal"));
+    EXPECT_THAT(whyRefused("Attribute VB_Name = \"modA\"\r\n"), HasSubstr("not a journal"));
+    EXPECT_THAT(whyRefused(with("journal 1", "journal 2")), HasSubstr("not a journal of this version"));
     EXPECT_THAT(whyRefused(with("Component=", "Component:")), HasSubstr("lacks its line Component="));
     EXPECT_THAT(whyRefused(with("Type=1", "Type=x")), HasSubstr("number"));
-    EXPECT_THAT(whyRefused(with("Type=1\n", "Type=1x\n")), HasSubstr("no number"));
+    EXPECT_THAT(whyRefused(with("Type=1\n", "Type=1x\n")), HasSubstr("not a number"));
     EXPECT_THAT(whyRefused(with("Base=1 2", "Base=1")), HasSubstr("number"));
     EXPECT_THAT(whyRefused(with("Written=17", "Written=99999999999999999999")), HasSubstr("number"));
-    EXPECT_THAT(whyRefused(with("caf", "kaf")), HasSubstr("check sum"));
-    EXPECT_THAT(whyRefused(with("Hello", "Other")), HasSubstr("check sum"));
-    EXPECT_THAT(whyRefused(whole + "x"), HasSubstr("check sum"));
+    EXPECT_THAT(whyRefused(with("caf", "kaf")), HasSubstr("checksum"));
+    EXPECT_THAT(whyRefused(with("Hello", "Other")), HasSubstr("checksum"));
+    EXPECT_THAT(whyRefused(whole + "x"), HasSubstr("checksum"));
     EXPECT_THAT(whyRefused(whole.substr(0, whole.size() - 5)), HasSubstr("ends after"));
 }
 

@@ -91,7 +91,7 @@ TEST_F(InstalledRegistry, AFaultyFileIsNamedAndTheOthersCount) {
     install("b.reg", "[HKEY_CURRENT_USER\\K]\n[HKEY_LOCAL_MACHINE\\K]\n\"one\"=\"1\"\n");
     EXPECT_EQ(get(HKEY_LOCAL_MACHINE, "K", "one"), "1");
     const auto path = (folder / "inst/registry/").string();
-    EXPECT_EQ(store.installationProblems(), (std::vector<std::string>{path + "a.reg:3: \"]\" is missing behind the key",
+    EXPECT_EQ(store.installationProblems(), (std::vector<std::string>{path + "a.reg:3: \"]\" is missing after the key",
                                                                       path + "b.reg:3: access is denied"}));
 }
 

@@ -75,7 +75,7 @@ std::vector<std::string> modDependencyManagement::ScanProjectForFontDependencies
 bool modDependencyManagement::canBeScanned(Procedure& here, const Project& project) {
     if (here.test([&] { return project->FileName().empty(); })) {
         box(here, build_texts::kSaveBeforeScan, vbExclamation);
-        here([&] { use_.commands.saveProjectItem()->Execute(); });
+        here([&] { use_.menu.saveProjectItem()->Execute(); });
         return false;
     }
     if (here.test([&] { return project->VBComponents()->Count() == 0; })) {

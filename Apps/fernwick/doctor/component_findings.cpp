@@ -1,7 +1,7 @@
 // The compiler, the design targets and their pipes.
 #include "Add-in/platform/compiler.h"
 #include "Add-in/platform/pipes.h"
-#include "Apps/fernwick/device_place.h"
+#include "Apps/fernwick/devices/device_place.h"
 #include "Apps/fernwick/doctor/findings.h"
 #include "Components/DesignTargetAccess/design_target_mgr.h"
 #include "Components/QLPipe/runtime_bundle.h"

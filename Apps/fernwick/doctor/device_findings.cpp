@@ -1,10 +1,10 @@
 // The devices that the user's projects go to.
 #include "Add-in/core/connect/Modules.h"
-#include "Apps/fernwick/catalogue.h"
-#include "Apps/fernwick/device_place.h"
+#include "Apps/fernwick/devices/device_place.h"
+#include "Apps/fernwick/devices/my_devices.h"
 #include "Apps/fernwick/doctor/findings.h"
-#include "Apps/fernwick/interruption.h"
-#include "Apps/fernwick/my_devices.h"
+#include "Apps/fernwick/output/catalogue.h"
+#include "Apps/fernwick/run/interruption.h"
 #include <fmt/format.h>
 
 namespace cli {

@@ -1,6 +1,6 @@
 #pragma once
 // What `doctor` looks at, and what it finds.
-#include "Apps/fernwick/machine.h"
+#include "Apps/fernwick/run/machine.h"
 #include <string>
 #include <vector>
 

@@ -1,9 +1,8 @@
-#include "Add-in/build/messages/build_texts.h"
 #include "Add-in/build/messages/message_numbers.h"
 #include "Apps/common/compile_steps.h"
-#include "Apps/fernwick/depfile.h"
-#include "Apps/fernwick/exit_status.h"
-#include "Apps/fernwick/project_run.h"
+#include "Apps/fernwick/options/exit_status.h"
+#include "Apps/fernwick/output/depfile.h"
+#include "Apps/fernwick/run/project_run.h"
 #include "Apps/fernwick/verbs/stored_messages.h"
 #include "Apps/fernwick/verbs/verbs.h"
 #include "Host/files/atomic_save.h"
@@ -18,7 +17,7 @@ constexpr const char* kNotCompiled = "FAILED - The project was not compiled.";
 std::string imagePathOf(const Session& session) {
     auto& files = const_cast<Session&>(session).machine().platform().files;
     const auto folder = files.GetParentFolderName(session.path());
-    return files.BuildPath(folder, session.project()->Name() + compiler::kImageSuffix);
+    return files.BuildPath(folder, session.project()->Name() + qltoolkit::kImageSuffix);
 }
 
 void warnOfLineFeeds(Session& session, Console& console) {
@@ -61,7 +60,7 @@ Report compileAndValidate(Session& session, const std::string& device) {
     report.messages = messagesOfRun(session.project(), session.machine().build());
     report.statusText = statusText(session);
     // a compile that ended before the compiler ran leaves its first words
-    if (report.statusText == fernwick::build_texts::kCompilingAndValidating) report.statusText = kNotCompiled;
+    if (runStatus(session) == fernwick::RunStatus::Running) report.statusText = kNotCompiled;
     report.image = compiled ? session.machine().build().image : std::string();
     report.exitStatus = good ? kGood : kProjectErrors;
     for (const auto& message : report.messages)

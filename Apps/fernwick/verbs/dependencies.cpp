@@ -1,7 +1,7 @@
-#include "Apps/fernwick/exit_status.h"
-#include "Apps/fernwick/json_output.h"
-#include "Apps/fernwick/project_argument.h"
-#include "Apps/fernwick/session.h"
+#include "Apps/fernwick/options/exit_status.h"
+#include "Apps/fernwick/output/json_output.h"
+#include "Apps/fernwick/run/project_argument.h"
+#include "Apps/fernwick/run/session.h"
 #include "Apps/fernwick/verbs/verbs.h"
 #include "Basic/case_folding.h"
 #include <fmt/format.h>

@@ -1,7 +1,7 @@
 // Sending a project to devices, and packing it for them.
-#include "Apps/fernwick/device_runs.h"
-#include "Apps/fernwick/exit_status.h"
-#include "Apps/fernwick/project_run.h"
+#include "Apps/fernwick/devices/device_runs.h"
+#include "Apps/fernwick/options/exit_status.h"
+#include "Apps/fernwick/run/project_run.h"
 #include "Apps/fernwick/verbs/package_file.h"
 #include "Apps/fernwick/verbs/stored_messages.h"
 #include "Apps/fernwick/verbs/verbs.h"

@@ -1,8 +1,8 @@
 #include "Apps/fernwick/doctor/findings.h"
-#include "Apps/fernwick/exit_status.h"
-#include "Apps/fernwick/interruption.h"
-#include "Apps/fernwick/json_output.h"
-#include "Apps/fernwick/plural.h"
+#include "Apps/fernwick/options/exit_status.h"
+#include "Apps/fernwick/output/json_output.h"
+#include "Apps/fernwick/output/plural.h"
+#include "Apps/fernwick/run/interruption.h"
 #include "Apps/fernwick/verbs/verbs.h"
 #include <fmt/format.h>
 

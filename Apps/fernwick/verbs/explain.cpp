@@ -1,10 +1,10 @@
-#include "Apps/fernwick/catalogue.h"
-#include "Apps/fernwick/exit_status.h"
-#include "Apps/fernwick/json_output.h"
-#include "Apps/fernwick/message_pages.h"
-#include "Apps/fernwick/refusal.h"
+#include "Apps/fernwick/options/exit_status.h"
+#include "Apps/fernwick/options/refusal.h"
+#include "Apps/fernwick/output/catalogue.h"
+#include "Apps/fernwick/output/json_output.h"
+#include "Apps/fernwick/output/message_pages.h"
+#include "Apps/fernwick/output/wrapped_text.h"
 #include "Apps/fernwick/verbs/verbs.h"
-#include "Apps/fernwick/wrapped_text.h"
 #include <charconv>
 #include <fmt/format.h>
 

@@ -1,5 +1,5 @@
-#include "Apps/fernwick/device_runs.h"
-#include "Apps/fernwick/exit_status.h"
+#include "Apps/fernwick/devices/device_runs.h"
+#include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/verbs/verbs.h"
 
 namespace cli {

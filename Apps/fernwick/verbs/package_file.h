@@ -1,7 +1,7 @@
 #pragma once
 // What is done with a package that was made before.
-#include "Apps/fernwick/console.h"
-#include "Apps/fernwick/options.h"
+#include "Apps/fernwick/options/options.h"
+#include "Apps/fernwick/output/console.h"
 
 namespace cli {
 

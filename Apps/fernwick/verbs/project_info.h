@@ -1,7 +1,7 @@
 #pragma once
 // What a project holds, as `info` tells it.
-#include "Apps/fernwick/json_output.h"
-#include "Apps/fernwick/session.h"
+#include "Apps/fernwick/output/json_output.h"
+#include "Apps/fernwick/run/session.h"
 #include <string>
 #include <vector>
 

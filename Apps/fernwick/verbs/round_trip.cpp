@@ -1,5 +1,5 @@
 #include "Apps/fernwick/verbs/round_trip.h"
-#include "Apps/fernwick/interruption.h"
+#include "Apps/fernwick/run/interruption.h"
 #include "Basic/runtime_error.h"
 #include "Host/files/encoding.h"
 #include "Host/files/group_file.h"

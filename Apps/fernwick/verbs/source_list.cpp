@@ -47,7 +47,7 @@ private:
         host::ProjectFile project{content.bytes, page};
         if (!project.looksLikeProject())
             throw basic::RuntimeError(basic::kInvalidProcedureCall, "not a Visual Basic project");
-        const auto constants = compiler::parseConditionalConstants(project.setting("CondComp").value_or(""));
+        const auto constants = qltoolkit::parseConditionalConstants(project.setting("CondComp").value_or(""));
         host::PathLookup lookup;
         for (const auto& member : project.members())
             if (host::isComponentKind(member.content.kind))

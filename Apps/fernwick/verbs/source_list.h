@@ -1,7 +1,7 @@
 #pragma once
 // The source files that `check` goes through.
 #include "Basic/code_page.h"
-#include "Components/QLToolkit/check.h"
+#include "Components/QLToolkit/parser/conditional_constants.h"
 #include <string>
 #include <vector>
 
@@ -9,7 +9,7 @@ namespace cli {
 
 struct SourceToCheck {
     std::string path;
-    compiler::ConditionalConstants constants;
+    qltoolkit::ConditionalConstants constants;
 };
 
 struct SourceList {

@@ -1,5 +1,5 @@
 #include "Apps/fernwick/verbs/stored_settings.h"
-#include "Apps/fernwick/device_settings.h"
+#include "Apps/fernwick/devices/device_settings.h"
 #include "Basic/case_folding.h"
 #include "Basic/conversions.h"
 #include <algorithm>

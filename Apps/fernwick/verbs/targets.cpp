@@ -1,6 +1,6 @@
-#include "Apps/fernwick/exit_status.h"
-#include "Apps/fernwick/json_output.h"
-#include "Apps/fernwick/session.h"
+#include "Apps/fernwick/options/exit_status.h"
+#include "Apps/fernwick/output/json_output.h"
+#include "Apps/fernwick/run/session.h"
 #include "Apps/fernwick/verbs/verbs.h"
 #include "Components/DesignTargetAccess/design_target_mgr.h"
 #include <fmt/format.h>

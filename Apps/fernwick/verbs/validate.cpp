@@ -1,6 +1,6 @@
-#include "Apps/fernwick/exit_status.h"
-#include "Apps/fernwick/plural.h"
-#include "Apps/fernwick/project_run.h"
+#include "Apps/fernwick/options/exit_status.h"
+#include "Apps/fernwick/output/plural.h"
+#include "Apps/fernwick/run/project_run.h"
 #include "Apps/fernwick/verbs/stored_messages.h"
 #include "Apps/fernwick/verbs/verbs.h"
 #include <algorithm>

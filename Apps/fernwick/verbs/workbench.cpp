@@ -1,6 +1,6 @@
 #include "Apps/common/installation.h"
-#include "Apps/fernwick/exit_status.h"
-#include "Apps/fernwick/refusal.h"
+#include "Apps/fernwick/options/exit_status.h"
+#include "Apps/fernwick/options/refusal.h"
 #include "Apps/fernwick/verbs/verbs.h"
 #include "Host/files/path_lookup.h"
 #include <unistd.h>

@@ -1,7 +1,7 @@
 #include "Host/model/code/code_members.h"
 #include "Basic/case_folding.h"
 #include "Host/files/code_file.h"
-#include "Host/files/trim.h"
+#include "Host/files/text_parts.h"
 #include <set>
 
 namespace host {

@@ -1,6 +1,6 @@
 #include "Host/model/code/source_file.h"
 #include "Basic/case_folding.h"
-#include "Host/files/trim.h"
+#include "Host/files/text_parts.h"
 #include <fmt/format.h>
 
 namespace host {
