@@ -1,7 +1,8 @@
 #include "Host/model/forms/block_properties.h"
 #include "Basic/case_folding.h"
 #include "Host/files/form_line.h"
-#include "Host/files/system_error.h"
+#include "Host/model/code/names.h"
+#include "Host/model/errors/host_errors.h"
 #include "Host/model/forms/block_objects.h"
 #include "Host/model/forms/form_controls.h"
 #include "Host/model/forms/property_text.h"
@@ -12,16 +13,6 @@ namespace host {
 namespace {
 
 constexpr std::string_view kNameProperty = "Name";
-
-bool isControlName(std::string_view name) {
-    const auto isLetter = [](char c) {
-        return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || static_cast<unsigned char>(c) >= 0x80;
-    };
-    if (name.empty() || !isLetter(name[0])) return false;
-    for (const char c : name)
-        if (!isLetter(c) && !(c >= '0' && c <= '9') && c != '_') return false;
-    return true;
-}
 
 } // namespace
 
@@ -155,8 +146,7 @@ void BlockProperties::checkNameIsFree(DesignerState& state, const std::string& n
 void BlockProperties::rename(DesignerState& state, const std::string& newName) {
     const std::string oldName(block_->name());
     if (newName == oldName) return;
-    if (!isControlName(newName))
-        throw hostError(basic::kInvalidPropertyValue, fmt::format("'{}' is not a legal object name", newName));
+    if (!isLegalName(newName)) throwIllegalName(newName);
     checkNameIsFree(state, newName);
     if (block_.get() == &state.root() && state.hooks.renameForm) return state.hooks.renameForm(newName);
     state.checkText(newName);
