@@ -1,7 +1,7 @@
 #pragma once
 // The code of a component, in the lines of the code window.
 #include "Add-in/platform/host.h"
-#include "Host/model/code/code_members.h"
+#include "Host/model/code/code_outline.h"
 #include <memory>
 #include <string>
 #include <vector>

@@ -8,6 +8,7 @@
 #include "Host/files/property_value.h"
 #include "Host/files/resource_file.h"
 #include "Host/model/code/component_kind.h"
+#include "Host/model/code/source_file.h"
 #include <algorithm>
 #include <unordered_set>
 
