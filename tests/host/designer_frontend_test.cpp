@@ -1,5 +1,5 @@
+#include "Host/model/forms/control_edits.h"
 #include "Host/model/forms/described_classes.h"
-#include "Host/model/forms/form_controls.h"
 #include "Host/model/forms/form_places.h"
 #include "Host/model/forms/property_source.h"
 #include "tests/host/designer_support.h"

@@ -1,5 +1,5 @@
 #include "Host/files/code_file.h"
-#include "Host/model/code/code_members.h"
+#include "Host/model/code/code_outline.h"
 #include "tests/support/test_host.h"
 
 using test::errorOf;

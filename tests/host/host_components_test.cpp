@@ -1,3 +1,4 @@
+#include "Host/model/code/component_kind.h"
 #include "Host/model/component.h"
 #include "tests/support/test_host.h"
 

@@ -8,7 +8,8 @@
 #include "Host/files/project_file.h"
 #include "Host/files/property_value.h"
 #include "Host/files/resource_file.h"
-#include "Host/model/component.h"
+#include "Host/model/code/component_kind.h"
+#include "Host/model/code/source_file.h"
 #include <algorithm>
 #include <filesystem>
 #include <unordered_set>

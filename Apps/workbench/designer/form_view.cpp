@@ -3,7 +3,7 @@
 #include "Apps/workbench/designer/event_handlers.h"
 #include "Apps/workbench/designer/form_canvas.h"
 #include "Basic/runtime_error.h"
-#include "Host/model/forms/form_controls.h"
+#include "Host/model/forms/control_edits.h"
 #include <QPointer>
 #include <algorithm>
 #include <cmath>

@@ -1,5 +1,5 @@
 #pragma once
-// What a module declares, read off the lines of its code without understanding more of them than their first words.
+// The declarations of a module, found from the first words of its statements without parsing them.
 #include "Add-in/platform/host_project.h"
 #include <string>
 #include <vector>
@@ -12,11 +12,11 @@ struct CodeOutline {
     struct Procedure {
         std::string name;
         vbide::vbext_ProcKind kind = vbide::vbext_pk_Proc;
-        int start = 0; ///< its first line: comments and blank lines above the head belong to it
+        int start = 0; ///< its first line, including comments and blank lines above the head
         int body = 0;  ///< the line of its head
-        int end = 0;   ///< the line of its End statement; the module's last line where it has none
+        int end = 0;   ///< the line of its End statement, or the module's last line if it has none
     };
-    /// Procedures, variables, constants and events in the order of the code; a property once, whatever its procedures.
+    /// Procedures, variables, constants and events in the order of the code. A property with several procedures occurs once.
     std::vector<vbide::Member> members;
     std::vector<Procedure> procedures;
     int declarationLines = 0;
