@@ -1,10 +1,11 @@
 #pragma once
+// Ownership of file descriptors.
 #include <unistd.h>
 #include <utility>
 
 namespace qlpipe {
 
-/// A descriptor that is closed with its owner; -1 for none.
+/// Owns a descriptor and closes it; -1 if empty.
 class FileDescriptor {
 public:
     explicit FileDescriptor(int number = -1) : number_(number) {}
@@ -17,7 +18,8 @@ public:
         if (number_ >= 0) ::close(number_);
     }
 
-    int number() const { return number_; }
+    int get() const { return number_; }
+    explicit operator bool() const { return number_ >= 0; }
     int release() { return std::exchange(number_, -1); }
 
 private:
