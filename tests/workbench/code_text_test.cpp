@@ -1,6 +1,5 @@
 // What a user does to an editor's text arrives in the host's module.
 #include "Apps/workbench/code/code_editor.h"
-#include "Apps/workbench/code/procedure_list.h"
 #include "Apps/workbench/code/scintilla.h"
 #include "tests/support/test_host.h"
 #include <QApplication>

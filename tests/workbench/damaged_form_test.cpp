@@ -1,5 +1,6 @@
 // What is wrong with a form's text is drawn as far as it goes.
 #include "Apps/workbench/designer/form_painter.h"
+#include "Apps/workbench/designer/form_reader.h"
 #include "Host/model/host.h"
 #include "tests/support/sample_project.h"
 #include "tests/support/test_host.h"

@@ -1,5 +1,5 @@
 #include "Apps/workbench/bars/bars_view.h"
-#include "Apps/workbench/base/pictures.h"
+#include "Apps/workbench/bars/bar_face.h"
 #include "Apps/workbench/base/text.h"
 #include "Apps/workbench/base/theme.h"
 #include <QAction>
@@ -44,20 +44,6 @@ void setActions(QWidget& widget, const QList<QAction*>& wanted, const QList<bool
         }
         widget.addAction(wanted[i]);
     }
-}
-
-/// The dark lines of a face would vanish on a dark bar.
-QImage withLightLines(const QImage& face) {
-    constexpr int kDarkest = 60;
-    auto light = face.convertToFormat(QImage::Format_RGB32);
-    for (int y = 0; y < light.height(); ++y)
-        for (int x = 0; x < light.width(); ++x) {
-            const auto colour = light.pixelColor(x, y);
-            if (qGray(colour.rgb()) < kDarkest)
-                light.setPixelColor(
-                    x, y, QColor::fromHsv(colour.hsvHue(), colour.hsvSaturation() / 2, 255 - colour.value() / 4));
-        }
-    return light;
 }
 
 } // namespace
@@ -127,20 +113,12 @@ void BarsView::showButton(Drawn& drawn, const host::BarControl& control) {
     const auto looks = std::pair(control.face(), currentTheme());
     if (drawn.looks != looks) {
         drawn.looks = looks;
-        action.setIcon(iconOf(control, looks.second));
+        const auto face = iconOfFace(control.face(), looks.second);
+        action.setIcon(face.isNull() ? lookOf_(control.Id()).icon : face);
     }
     action.setIconVisibleInMenu(control.Style() != office::msoButtonCaption);
     action.setCheckable(control.checked().has_value());
     action.setChecked(control.checked().value_or(false));
-}
-
-QIcon BarsView::iconOf(const host::BarControl& control, Theme theme) const {
-    auto face = imageOf(control.face());
-    if (face.isNull()) return lookOf_(control.Id()).icon;
-    if (theme == Theme::Dark) face = withLightLines(face);
-    QIcon icon;
-    for (const int scale : {1, 2, 3}) icon.addPixmap(seeThrough(face, scale));
-    return icon;
 }
 
 void BarsView::make(Drawn& drawn, const std::shared_ptr<host::BarControl>& control) {

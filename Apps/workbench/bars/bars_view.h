@@ -56,7 +56,6 @@ private:
     void makePopup(Drawn& drawn, const std::shared_ptr<host::BarControl>& control);
     void makeButton(Drawn& drawn, const std::shared_ptr<host::BarControl>& control);
     void showButton(Drawn& drawn, const host::BarControl& control);
-    QIcon iconOf(const host::BarControl& control, Theme theme) const;
     void dropGone();
 
     host::Bars& bars_;

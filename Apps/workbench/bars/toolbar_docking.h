@@ -1,10 +1,9 @@
 #pragma once
 // Where the toolbars stand: the host's model says it, and what the user drags is written back to the model.
-#include "Host/model/bars/bars.h"
+#include "Apps/workbench/bars/bar_place.h"
 #include <QMainWindow>
 #include <QTimer>
 #include <QToolBar>
-#include <compare>
 #include <memory>
 #include <vector>
 
@@ -17,25 +16,11 @@ public:
 
     QSize sizeHint() const override;
     /// Pixels along the row.
-    void roomBehind(int pixels);
+    void spaceAfter(int pixels);
 
 private:
     int room_ = 0;
 };
-
-/// A bar's properties, as an add-in stores them. Docked, `left` and `top` count from the corner of the bars of its side,
-/// floating from the corner of the screen; `row` counts from 1, the outermost.
-struct BarPlace {
-    bool visible = true;
-    int position = office::msoBarTop, row = 1, left = 0, top = 0;
-    auto operator<=>(const BarPlace&) const = default;
-};
-BarPlace placeOf(const host::Bar& bar);
-void setPlace(host::Bar& bar, const BarPlace& place);
-
-/// The place of one of the host's own bars in the user's settings; what is not stored there stays.
-void storePlace(const host::Bar& bar);
-void restorePlace(host::Bar& bar);
 
 class ToolBarDocking final : public QObject {
 public:

@@ -4,17 +4,18 @@
 #include "Apps/workbench/code/code_finder.h"
 #include "Apps/workbench/code/code_text.h"
 #include "Apps/workbench/code/line_marks.h"
+#include "Apps/workbench/code/typed_line.h"
 #include <QTimer>
 #include <QWidget>
 #include <functional>
 #include <vector>
 
-class QComboBox;
 class QsciScintilla;
 
 namespace workbench {
 
 class CodeInput;
+class ProcedureBar;
 class VbLexer;
 
 /// Reads the component's code when it is made, and passes on each edit to the host's code module, so that the host's
@@ -59,24 +60,17 @@ private:
     bool accepts(const QString& inserted);
     void edited(int position, int linesAdded, bool isUndo);
     void refuse(std::exception_ptr error);
-    void typed(int line, int linesAdded);
-    void leaveLine();
-    void replaceLine(int line, const QString& now);
     void listProcedures();
-    void showProcedure();
 
     vbide::Ref<vbide::VBComponent> component_;
     vbide::Ref<vbide::CodeModule> module_;
     Refused refused_;
-    QComboBox* objects_;
-    QComboBox* procedures_;
+    ProcedureBar* procedures_;
     CodeInput* text_;
     LineMarks marks_;
+    TypedLine typedLine_;
     VbLexer* lexer_;
     bool passing_ = false, loading_ = false, refusing_ = false;
-    std::vector<vbide::Member> members_;
-    /// The line in which the user typed last, until the cursor leaves it; -1 for none.
-    int typedLine_ = -1;
     /// Procedures are looked for when the user rests.
     QTimer rest_;
 };

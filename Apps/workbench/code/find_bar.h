@@ -6,12 +6,12 @@
 #include <QWidget>
 #include <functional>
 
-class QCheckBox;
-class QComboBox;
 class QLabel;
 class QLineEdit;
 
 namespace workbench {
+
+class FindOptionsRow;
 
 class FindBar final : public QWidget {
 public:
@@ -32,12 +32,8 @@ protected:
 private:
     QWidget* findRow();
     QWidget* replaceRow();
-    QWidget* optionRow();
-    void restoreOptions();
-    void storeOptions() const;
 
     CodePattern pattern() const;
-    FindScope scope() const;
     bool canLookFor(const CodePattern& pattern);
     void say(const QString& text, bool isError = false);
     void bringUp(const CodePlace& place);
@@ -47,8 +43,7 @@ private:
     CodeWindows& code_;
     Run run_;
     QLineEdit *what_, *with_;
-    QCheckBox *matchCase_, *wholeWord_, *asPattern_;
-    QComboBox* scope_;
+    FindOptionsRow* options_;
     QLabel* said_;
     QWidget* replacing_;
 };

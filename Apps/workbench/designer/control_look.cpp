@@ -1,5 +1,5 @@
 #include "Apps/workbench/designer/control_look.h"
-#include "Apps/workbench/designer/form_colours.h"
+#include "Apps/workbench/properties/form_colours.h"
 #include "Basic/case_folding.h"
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
 #pragma once
 // How one control looks, read from its properties.
 #include "Apps/workbench/designer/control_kinds.h"
-#include "Apps/workbench/designer/property_reader.h"
+#include "Apps/workbench/properties/property_reader.h"
 #include <QLineF>
 #include <QPixmap>
 #include <QStringList>

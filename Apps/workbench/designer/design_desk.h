@@ -3,9 +3,9 @@
 #include "Apps/workbench/base/run.h"
 #include "Apps/workbench/code/code_windows.h"
 #include "Apps/workbench/designer/form_windows.h"
-#include "Apps/workbench/designer/properties_window.h"
 #include "Apps/workbench/designer/toolbox.h"
 #include "Apps/workbench/project/project_explorer.h"
+#include "Apps/workbench/properties/properties_window.h"
 
 namespace workbench {
 

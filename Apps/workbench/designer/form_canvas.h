@@ -6,6 +6,9 @@
 
 namespace workbench {
 
+/// Pixels around the form.
+inline constexpr int kCanvasMargin = 8;
+
 class FormCanvas final : public QWidget {
 public:
     explicit FormCanvas(FormView& view);

@@ -50,13 +50,13 @@ struct FormPicture {
     const DrawnControl* find(const vbide::Ref<vbide::VBControl>& control) const;
     /// The control in front at a place on the inner rectangle, null for the form itself.
     const DrawnControl* at(const QPointF& place) const;
+    /// The innermost container at a place, null for the form itself.
+    const DrawnControl* containerAt(const QPointF& place) const;
+    /// The nearest control in a direction of the screen, null if there is none.
+    const DrawnControl* beside(const DrawnControl& from, const QPointF& direction) const;
     /// Controls in the order of the Tab key.
     std::vector<const DrawnControl*> tabOrder() const;
 };
-
-/// Reads a component that has a designer. Error 380 for a file without the description of a form; what else is damaged is
-/// drawn as far as it goes.
-FormPicture pictureOfForm(vbide::VBComponent& component);
 
 /// The height of a menu bar.
 inline constexpr int kMenuBarHeight = 19;

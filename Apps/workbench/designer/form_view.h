@@ -1,7 +1,7 @@
 #pragma once
 // A form on its designer: drawn, and edited by mouse and keyboard.
-#include "Apps/workbench/designer/design_history.h"
 #include "Apps/workbench/designer/form_picture.h"
+#include "Apps/workbench/properties/design_history.h"
 #include <QScrollArea>
 #include <QTimer>
 #include <functional>

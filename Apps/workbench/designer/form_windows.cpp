@@ -34,8 +34,8 @@ void FormWindows::open(const vbide::Ref<vbide::VBComponent>& component) {
     const auto focused = [this, component] { activate(component); };
     // a file without the description of a form has no view
     const auto failed = basic::attempt([&] {
-        view =
-            new FormView(component, history_, {callbacks_.run, callbacks_.selected, focused, callbacks_.tool, callbacks_.toolUsed});
+        view = new FormView(component, history_,
+                            {callbacks_.run, callbacks_.selected, focused, callbacks_.tool, callbacks_.toolUsed});
     });
     if (failed.Number != 0) return component->DesignerWindow()->Close();
     opening_ = true; // that is no user's choice

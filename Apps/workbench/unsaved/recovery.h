@@ -1,7 +1,6 @@
 #pragma once
 // Offers the user what a program that ended without saving left in its journal.
-#include "Apps/workbench/unsaved/journal_folder.h"
-#include "Host/files/journal_file.h"
+#include "Apps/workbench/unsaved/survivors.h"
 #include "Host/model/host.h"
 #include <QTimer>
 #include <QWidget>
@@ -9,15 +8,6 @@
 #include <set>
 
 namespace workbench {
-
-/// One text that survived.
-struct Survivor {
-    std::shared_ptr<JournalFolder> folder; ///< held, so that nobody else offers it
-    QString path;
-    host::JournalEntry entry;
-    /// Its file is another one than the text was made from.
-    bool changedOnDisk = false;
-};
 
 class Recovery {
 public:
@@ -38,7 +28,6 @@ public:
 
 private:
     void offerAll();
-    std::vector<Survivor> survivors();
     void setAside(const QString& path, const QString& why);
     void offer(const std::string& project, std::vector<Survivor> all);
     void restore(const std::string& project, const std::vector<Survivor>& all);

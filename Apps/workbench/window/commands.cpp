@@ -93,7 +93,8 @@ const Command kEditCommands[] = {
      [](auto& on) { actions(on).goToProcedure(false); }},
     {kPreviousProcedureId, "Previou&s Procedure", Qt::CTRL | Qt::Key_Up, kInCode,
      [](auto& on) { actions(on).goToProcedure(true); }},
-    {kGoToLineId, "&Go to Line...", Qt::CTRL | Qt::Key_G, kInCode, [](auto& on) { actions(on).askForLine(&on.window); }},
+    {kGoToLineId, "&Go to Line...", Qt::CTRL | Qt::Key_G, kInCode,
+     [](auto& on) { actions(on).askForLine(&on.window); }},
 };
 
 // the docks' switches are added after these

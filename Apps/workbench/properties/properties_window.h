@@ -1,8 +1,8 @@
 #pragma once
 // The properties of what is selected.
-#include "Apps/workbench/designer/design_history.h"
-#include "Apps/workbench/designer/property_editors.h"
-#include "Apps/workbench/designer/property_rows.h"
+#include "Apps/workbench/properties/design_history.h"
+#include "Apps/workbench/properties/property_editors.h"
+#include "Apps/workbench/properties/property_rows.h"
 #include <QTimer>
 #include <QWidget>
 #include <functional>

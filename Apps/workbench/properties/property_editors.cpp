@@ -1,6 +1,6 @@
-#include "Apps/workbench/designer/property_editors.h"
+#include "Apps/workbench/properties/property_editors.h"
 #include "Apps/workbench/base/text.h"
-#include "Apps/workbench/designer/form_colours.h"
+#include "Apps/workbench/properties/form_colours.h"
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPixmap>

@@ -1,6 +1,6 @@
-#include "Apps/workbench/designer/property_reader.h"
+#include "Apps/workbench/properties/property_reader.h"
 #include "Apps/workbench/base/text.h"
-#include "Apps/workbench/designer/form_colours.h"
+#include "Apps/workbench/properties/form_colours.h"
 #include "Basic/runtime_error.h"
 #include "Host/model/forms/property_source.h"
 #include <algorithm>

@@ -1,7 +1,7 @@
-#include "Apps/workbench/designer/property_rows.h"
+#include "Apps/workbench/properties/property_rows.h"
 #include "Apps/workbench/base/text.h"
-#include "Apps/workbench/designer/form_colours.h"
-#include "Apps/workbench/designer/property_values.h"
+#include "Apps/workbench/properties/form_colours.h"
+#include "Apps/workbench/properties/property_values.h"
 #include "Basic/runtime_error.h"
 #include <QPainter>
 #include <QPixmap>

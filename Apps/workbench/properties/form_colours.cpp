@@ -1,4 +1,4 @@
-#include "Apps/workbench/designer/form_colours.h"
+#include "Apps/workbench/properties/form_colours.h"
 #include <QRegularExpression>
 #include <array>
 

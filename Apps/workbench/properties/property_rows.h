@@ -1,5 +1,6 @@
 #pragma once
 // The properties of one object as rows of name and value.
+#include "Apps/workbench/properties/inspected_object.h"
 #include "Host/model/forms/property_source.h"
 #include <QAbstractTableModel>
 #include <QStringList>
@@ -7,13 +8,6 @@
 #include <vector>
 
 namespace workbench {
-
-/// The object whose properties are shown.
-struct InspectedObject {
-    std::vector<vbide::Ref<vbide::Property>> properties;
-    /// Sets one of them.
-    std::function<void(const vbide::Ref<vbide::Property>&, const fernwick::Variant&)> set;
-};
 
 class PropertyRows final : public QAbstractTableModel {
 public:

@@ -1,6 +1,6 @@
 #pragma once
 // What the user types or chooses a value in.
-#include "Apps/workbench/designer/property_rows.h"
+#include "Apps/workbench/properties/property_rows.h"
 #include <QStyledItemDelegate>
 
 class QComboBox;

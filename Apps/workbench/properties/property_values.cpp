@@ -1,6 +1,6 @@
-#include "Apps/workbench/designer/property_values.h"
+#include "Apps/workbench/properties/property_values.h"
 #include "Apps/workbench/base/text.h"
-#include "Apps/workbench/designer/form_colours.h"
+#include "Apps/workbench/properties/form_colours.h"
 #include "Basic/case_folding.h"
 #include "Basic/runtime_error.h"
 #include <array>

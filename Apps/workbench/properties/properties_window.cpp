@@ -1,10 +1,9 @@
-#include "Apps/workbench/designer/properties_window.h"
+#include "Apps/workbench/properties/properties_window.h"
 #include "Apps/workbench/base/text.h"
-#include "Apps/workbench/designer/property_reader.h"
+#include "Apps/workbench/properties/font_choice.h"
 #include "Basic/runtime_error.h"
 #include <QBoxLayout>
 #include <QComboBox>
-#include <QFontDialog>
 #include <QHeaderView>
 #include <QSignalBlocker>
 #include <QTableView>
@@ -15,53 +14,6 @@ namespace workbench {
 namespace {
 
 constexpr int kUsualNameWidth = 110, kRowPadding = 6;
-
-/// The name of what has no other properties.
-class NameOnly final : public vbide::Property {
-public:
-    NameOnly(std::function<std::string()> get, std::function<void(const std::string&)> set)
-        : get_(std::move(get)), set_(std::move(set)) {}
-    std::string Name() const override { return "Name"; }
-    vbide::Variant Value() const override { return get_(); }
-    void Value(const vbide::Variant& value) override { set_(fernwick::asText(value)); }
-    basic::Ref<vbide::Properties> ObjectValue() const override { throw basic::RuntimeError(basic::kObjectRequired); }
-
-private:
-    std::function<std::string()> get_;
-    std::function<void(const std::string&)> set_;
-};
-
-template <class Named>
-InspectedObject nameOf(const vbide::Ref<Named>& named) {
-    return {{basic::make<NameOnly>([named] { return named->Name(); },
-                                   [named](const std::string& name) { named->Name(name); })},
-            [](const auto& property, const auto& value) { property->Value(value); }};
-}
-
-QString classOf(vbide::vbext_ComponentType type) {
-    switch (type) {
-    case vbide::vbext_ct_VBForm: return "Form";
-    case vbide::vbext_ct_VBMDIForm: return "MDIForm";
-    case vbide::vbext_ct_ClassModule: return "ClassModule";
-    case vbide::vbext_ct_UserControl: return "UserControl";
-    case vbide::vbext_ct_PropPage: return "PropertyPage";
-    case vbide::vbext_ct_DocObject: return "UserDocument";
-    default: return "Module";
-    }
-}
-
-QString titleOf(const vbide::VBControl& control) {
-    const PropertyReader read(control.Properties());
-    const int index = read.number("Index", -1);
-    const auto name = index < 0 ? read.text("Name") : QString("%1(%2)").arg(read.text("Name")).arg(index);
-    return name + " " + qt(control.ClassName());
-}
-
-bool hasDesign(vbide::VBComponent& component) {
-    bool has = false;
-    (void)basic::attempt([&] { has = bool(component.Designer()); });
-    return has;
-}
 
 } // namespace
 
@@ -162,14 +114,8 @@ void PropertiesWindow::show() {
 }
 
 InspectedObject PropertiesWindow::object() const {
-    if (project_) return nameOf(project_);
-    if (!component_) return {};
-    if (!hasDesign(*component_)) return nameOf(component_);
-    const auto properties = control_ ? control_->Properties() : component_->Properties();
-    return {properties->items(),
-            [&history = history_, component = component_, properties](const auto& property, const auto& value) {
-                history.set(component, properties, {{property->Name(), value}});
-            }};
+    if (project_) return inspected(project_);
+    return component_ ? inspected(history_, component_, control_) : InspectedObject();
 }
 
 void PropertiesWindow::listObjects() {
@@ -179,7 +125,7 @@ void PropertiesWindow::listObjects() {
     (void)basic::attempt([&] { // what has been removed has no name
         if (project_) return objects_->addItem(qt(project_->Name()) + " Project");
         if (!component_) return;
-        objects_->addItem(qt(component_->Name()) + " " + classOf(component_->Type()));
+        objects_->addItem(titleOf(*component_));
         if (!hasDesign(*component_)) return;
         QStringList titles;
         for (const auto& control : component_->Designer()->VBControls()->items()) {
@@ -209,23 +155,9 @@ void PropertiesWindow::doubleClicked(const QModelIndex& index) {
 void PropertiesWindow::chooseFont(const vbide::Ref<vbide::Property>& font) {
     callbacks_.run([&] {
         const auto members = font->ObjectValue();
-        const PropertyReader read(members);
-        QFont now(read.text("Name"));
-        now.setPointSizeF(std::max(1.0, read.real("Size")));
-        now.setBold(read.flag("Bold"));
-        now.setItalic(read.flag("Italic"));
-        now.setUnderline(read.flag("Underline"));
-        now.setStrikeOut(read.flag("Strikethrough"));
-        bool accepted = false;
-        const auto chosen = QFontDialog::getFont(&accepted, now, this, "Font");
-        if (!accepted) return;
-        history_.set(component_, members,
-                     {{"Name", text(chosen.family())},
-                      {"Size", chosen.pointSizeF()},
-                      {"Bold", chosen.bold()},
-                      {"Italic", chosen.italic()},
-                      {"Underline", chosen.underline()},
-                      {"Strikethrough", chosen.strikeOut()}});
+        const auto changes = askForFont(members, this);
+        if (changes.empty()) return;
+        history_.set(component_, members, changes);
         rows_.reread();
     });
 }
