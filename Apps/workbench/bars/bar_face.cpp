@@ -5,7 +5,7 @@ namespace workbench {
 
 namespace {
 
-/// The dark lines of a face would vanish on a dark bar.
+/// Lightens the dark lines of a face, which would vanish on a dark bar.
 QImage withLightLines(const QImage& face) {
     constexpr int kDarkest = 60;
     auto light = face.convertToFormat(QImage::Format_RGB32);

@@ -24,8 +24,8 @@ bool isPlace(int position);
 /// Whether bars at this side run from top to bottom.
 inline bool isUpright(int position) { return position == office::msoBarLeft || position == office::msoBarRight; }
 
-/// A bar's properties, as an add-in stores them. `left` and `top` are relative to the corner of the bars of its side, or to
-/// the screen if the bar floats. `row` 1 is the outermost.
+/// A bar's properties, as an add-in stores them. `left` and `top` are relative to the corner of the bars of its side,
+/// or to the screen if the bar floats. `row` 1 is the outermost.
 struct BarPlace {
     bool visible = true;
     int position = office::msoBarTop, row = 1, left = 0, top = 0;

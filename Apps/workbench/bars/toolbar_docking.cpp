@@ -17,7 +17,7 @@ int positionOf(const QMainWindow& window, const QToolBar& toolBar) {
     return office::msoBarTop;
 }
 
-/// Across the rows, from the outermost one.
+/// The position across the rows, counted from the outermost one.
 int across(const QPoint& at, int position) {
     const int way = isUpright(position) ? at.x() : at.y();
     return position == office::msoBarRight || position == office::msoBarBottom ? -way : way;
@@ -36,7 +36,7 @@ void DockedBar::spaceAfter(int pixels) {
 
 ToolBarDocking::ToolBarDocking(QMainWindow& window) : window_(window) {
     settled_.setSingleShot(true);
-    settled_.setInterval(0); // when the window has laid out what the user let go of
+    settled_.setInterval(0); // after the window has laid out what the user dropped
     connect(&settled_, &QTimer::timeout, this, [this] { writeBack(); });
     window.installEventFilter(this);
 }
@@ -51,7 +51,7 @@ QToolBar& ToolBarDocking::toolBarOf(const std::shared_ptr<host::Bar>& bar) {
     connect(toolBar->toggleViewAction(), &QAction::triggered, this, [link = std::weak_ptr(bar)](bool shows) {
         if (const auto toggled = link.lock()) toggled->Visible(shows);
     });
-    constexpr int kNowhere = -1; // so that it is placed
+    constexpr int kNowhere = -1; // so that place() moves it
     entries_.push_back({bar, toolBar, {.position = kNowhere}});
     return *toolBar;
 }
@@ -96,7 +96,7 @@ void ToolBarDocking::layOut() {
         makeRoom(shownAt(position));
     }
     for (const auto* entry : side(office::msoBarFloating)) floatBar(*entry);
-    settled_.start(); // an add-in is to store where they came to stand
+    settled_.start(); // so that an add-in can store their final places
 }
 
 void ToolBarDocking::dock(const Row& side) {
@@ -127,7 +127,7 @@ void ToolBarDocking::makeRoom(const Row& side) {
     }
 }
 
-/// As Qt itself does with a toolbar that is dragged away.
+/// Uses the window flags that Qt sets when a toolbar is dragged away.
 void ToolBarDocking::floatBar(const Entry& entry) {
     if (window_.toolBarArea(entry.toolBar) == Qt::NoToolBarArea) window_.addToolBar(entry.toolBar);
     entry.toolBar->setWindowFlags(Qt::Tool | Qt::FramelessWindowHint);

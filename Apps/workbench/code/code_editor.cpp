@@ -60,7 +60,7 @@ QsciScintilla& CodeEditor::scintilla() const { return *text_; }
 void CodeEditor::prepareText() {
     text_->setAccessibleName("Code");
     text_->setUtf8(true);
-    text_->setEolMode(QsciScintilla::EolUnix); // the host has its own line ends
+    text_->setEolMode(QsciScintilla::EolUnix); // the host uses its own line ends
     text_->setLexer(lexer_);
     text_->setTabWidth(4);
     text_->setIndentationsUseTabs(false);
@@ -128,7 +128,7 @@ void CodeEditor::edited(int position, int linesAdded, bool isUndo) {
     rest_.start();
 }
 
-/// Not from within the change that the editor tells of, and once where many fail together.
+/// Restores the host's text later, outside of Scintilla's notification, and only once if many edits fail together.
 void CodeEditor::refuse(std::exception_ptr error) {
     if (std::exchange(refusing_, true)) return;
     QTimer::singleShot(0, this, [this, error] {
@@ -144,7 +144,7 @@ void CodeEditor::codeChanged() {
     rest_.start();
 }
 
-// ---- procedures -------------------------------------------------------------------------------------------------------
+// ---- procedures -----------------------------------------------------------------------------------------------------
 
 void CodeEditor::listProcedures() {
     int line = 0, column = 0;

@@ -47,7 +47,7 @@ QString CodeEditor::selectedPart() const {
 bool CodeEditor::replace(const std::vector<CodePlace>& places, const QString& with) {
     if (!accepts(with)) return false;
     text_->beginUndoAction();
-    // from the end, so that what is not yet replaced stays in its place
+    // from the end, so that the remaining places stay valid
     for (auto at = places.rbegin(); at != places.rend();) {
         const int line = at->line;
         auto now = lineText(line);

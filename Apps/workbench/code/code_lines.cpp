@@ -27,7 +27,7 @@ void bind(QsciCommandSet& commands, QsciCommand::Command command, int key) {
     if (auto* const one = commands.find(command)) one->setKey(key);
 }
 
-/// Leaves the key to the window's commands.
+/// Removes the key, so that the window's commands get it.
 void leave(QsciCommandSet& commands, int key) {
     auto* const command = commands.boundTo(key);
     if (!command) return;

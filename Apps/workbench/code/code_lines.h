@@ -16,11 +16,11 @@ int currentLine(const QsciScintilla& editor);
 
 void indentLines(QsciScintilla& editor);
 void outdentLines(QsciScintilla& editor);
-/// Puts a ' before each line.
+/// Inserts a ' at the start of each line.
 void commentLines(QsciScintilla& editor);
 /// Removes the first ' of each line that begins with one, after any blanks.
 void uncommentLines(QsciScintilla& editor);
-/// Moves the line of the cursor to the clipboard.
+/// Cuts the cursor's line to the clipboard.
 void cutLine(QsciScintilla& editor);
 
 /// Changes the keys of the editing component to those of the language's own IDE, and leaves others to the window.

@@ -93,7 +93,7 @@ QWidget* FindBar::replaceRow() {
     return widget;
 }
 
-// ---- showing and hiding -------------------------------------------------------------------------------------------------
+// ---- showing and hiding ---------------------------------------------------------------------------------------------
 
 void FindBar::open(bool replacing) {
     if (auto* const editor = code_.current()) {

@@ -35,7 +35,7 @@ void FindBar::bringUp(const CodePlace& place) {
     if (here) focus->setFocus();
 }
 
-// ---- replacing --------------------------------------------------------------------------------------------------------
+// ---- replacing ------------------------------------------------------------------------------------------------------
 
 void FindBar::replace() {
     auto* const editor = code_.current();

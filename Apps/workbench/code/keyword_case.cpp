@@ -6,16 +6,15 @@ namespace workbench {
 
 namespace {
 
-/// Words that can be no names.
+/// Reserved words, which cannot be names.
 constexpr auto kReserved =
-    "AddressOf And Any As Boolean ByRef Byte ByVal Call Case CBool CByte CCur CDate CDbl CInt CLng Const CSng CStr "
-    "Currency CVar Declare Dim Do Double Each Else ElseIf Empty End Enum Eqv Event Exit Explicit False For Friend "
-    "Function "
-    "Get GoSub GoTo If Imp Implements In Integer Is Let Like Long Loop LSet Me Mod New Next Nothing Not Null On Option "
-    "Optional Or ParamArray Preserve Private Property Public RaiseEvent ReDim Resume Return RSet Select Set Single "
-    "Static "
-    "Stop String Sub Then To True Type TypeOf Until Variant Wend While With WithEvents Xor";
-/// Behind As these are types too.
+    "AddressOf And Any As Boolean ByRef Byte ByVal Call Case CBool CByte CCur CDate CDbl CInt CLng Const CSng "
+    "CStr Currency CVar Declare Dim Do Double Each Else ElseIf Empty End Enum Eqv Event Exit Explicit False "
+    "For Friend Function Get GoSub GoTo If Imp Implements In Integer Is Let Like Long Loop LSet Me Mod New "
+    "Next Nothing Not Null On Option Optional Or ParamArray Preserve Private Property Public RaiseEvent ReDim "
+    "Resume Return RSet Select Set Single Static Stop String Sub Then To True Type TypeOf Until Variant Wend "
+    "While With WithEvents Xor";
+/// Words that are types after As.
 constexpr auto kTypes = "Date Object";
 
 QHash<QString, QString> byLowerCase(const char* words) {
@@ -26,17 +25,18 @@ QHash<QString, QString> byLowerCase(const char* words) {
 
 bool isWordPart(QChar c) { return c.isLetterOrNumber() || c == '_'; }
 
-/// Goes over the parts of a line; gives the column of its comment, its length where it has none.
+/// Rewrites the keywords of a line.
 class KeywordWriter {
 public:
     explicit KeywordWriter(QString line) : line_(std::move(line)) {}
 
+    /// Returns the column of the comment, or the length of a line without one.
     qsizetype run() {
         for (qsizetype at = 0; at < line_.size();) {
             const auto sign = line_[at];
             if (sign == '\'') return at;
             if (sign == '"' || sign == '[') {
-                at = behind(at, sign == '"' ? '"' : ']');
+                at = after(at, sign == '"' ? '"' : ']');
             } else if (isWordPart(sign)) {
                 qsizetype end = at;
                 while (end < line_.size() && isWordPart(line_[end])) ++end;
@@ -57,7 +57,7 @@ public:
     const QString& line() const { return line_; }
 
 private:
-    qsizetype behind(qsizetype at, QChar end) const {
+    qsizetype after(qsizetype at, QChar end) const {
         const auto found = line_.indexOf(end, at + 1);
         return found < 0 ? line_.size() : found + 1;
     }
@@ -69,14 +69,14 @@ private:
         const auto lower = line_.mid(at, end - at).toLower();
         if (!isMember && !isArgument) {
             auto written = kWords.value(lower);
-            if (written.isEmpty() && isBehindAs_) written = kTypeWords.value(lower);
+            if (written.isEmpty() && isAfterAs_) written = kTypeWords.value(lower);
             if (!written.isEmpty()) line_.replace(at, end - at, written);
         }
-        isBehindAs_ = lower == "as" || (isBehindAs_ && lower == "new");
+        isAfterAs_ = lower == "as" || (isAfterAs_ && lower == "new");
     }
 
     QString line_;
-    bool beginsStatement_ = true, isBehindAs_ = false;
+    bool beginsStatement_ = true, isAfterAs_ = false;
 };
 
 } // namespace

@@ -21,7 +21,7 @@ Qt::Alignment alignmentOf(int value) {
     return entryOr(kAlignments, value, Qt::AlignLeft);
 }
 
-/// Device controls name their border; those of the language have a line or, in three dimensions, an edge.
+/// Device controls specify the border; the language's controls have a line, or a sunken edge if they are 3D.
 ControlBorder borderOf(bool ofDevice, const PropertyReader& read, bool byDefault) {
     constexpr std::array kBorders{ControlBorder::None, ControlBorder::Single, ControlBorder::Raised,
                                   ControlBorder::Sunken};

@@ -14,7 +14,7 @@ void drawFrame(QPainter& painter, const DrawnControl& control);
 void drawList(QPainter& painter, const DrawnControl& control);
 void drawCombo(QPainter& painter, const DrawnControl& control);
 
-// ---- pictures, shapes, tables and what is only a symbol: graphic_controls.cpp ----
+// ---- pictures, shapes, tables and symbols: graphic_controls.cpp ----
 void drawPicture(QPainter& painter, const DrawnControl& control);
 void drawShape(QPainter& painter, const DrawnControl& control);
 void drawLine(QPainter& painter, const DrawnControl& control);

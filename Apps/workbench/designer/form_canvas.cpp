@@ -41,7 +41,7 @@ QSize FormCanvas::sizeHint() const {
     return (whole + QSizeF(2 * kCanvasMargin, 2 * kCanvasMargin)).toSize();
 }
 
-// ---- places ------------------------------------------------------------------------------------------------------------
+// ---- places ---------------------------------------------------------------------------------------------------------
 
 QPointF FormCanvas::innerCorner() const {
     const auto border = view_.picture().border();
@@ -61,7 +61,7 @@ std::vector<GripPlace> FormCanvas::grips() const {
     const auto place = onCanvas(selectedPlace());
     const auto* drawn = view_.drawnSelection();
     if (!drawn) {
-        // a menu is selected without a place of its own
+        // a selected menu has no place
         if (view_.selected()) return {};
         const auto frame = view_.picture().frame;
         return gripsOf(place.adjusted(0, 0, frame.right() + kGripSize / 2, frame.bottom() + kGripSize / 2),
@@ -81,7 +81,7 @@ Grip FormCanvas::gripAt(const QPointF& onWidget) const {
     return Grip::None;
 }
 
-// ---- drawing -----------------------------------------------------------------------------------------------------------
+// ---- drawing --------------------------------------------------------------------------------------------------------
 
 void FormCanvas::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
@@ -107,7 +107,7 @@ void FormCanvas::drawSelection(QPainter& painter) const {
         painter.drawRect(QRectF(grip.at - QPointF(kGripSize, kGripSize) / 2, QSizeF(kGripSize, kGripSize)));
 }
 
-// ---- the keyboard ------------------------------------------------------------------------------------------------------
+// ---- the keyboard ---------------------------------------------------------------------------------------------------
 
 void FormCanvas::keyPressEvent(QKeyEvent* event) {
     const auto direction = directionOf(event->key());
@@ -140,7 +140,7 @@ void FormCanvas::nudge(const QPointF& step, bool size) {
     if (isLine || (place.width() >= 0 && place.height() >= 0)) view_.place(place);
 }
 
-/// The Tab key goes from control to control, as in the designer.
+/// The Tab key selects the next control.
 bool FormCanvas::focusNextPrevChild(bool next) {
     if (view_.picture().controls.empty()) return QWidget::focusNextPrevChild(next);
     view_.selectNext(next ? 1 : -1);

@@ -24,7 +24,7 @@ void FormCanvas::mousePressEvent(QMouseEvent* event) {
     if (control) beginDrag(at, Grip::None);
 }
 
-/// With a tool in hand the mouse draws the place of a new control.
+/// With a tool selected, the mouse draws the place of a new control.
 bool FormCanvas::beginNew(const QPointF& onWidget) {
     const auto tool = view_.callbacks().tool();
     if (tool.empty()) return false;

@@ -40,7 +40,7 @@ const DrawnControl* FormPicture::find(const vbide::Ref<vbide::VBControl>& contro
 }
 
 const DrawnControl* FormPicture::at(const QPointF& place) const {
-    // a line is hit beside its pixels too
+    // a line is also hit close to its pixels
     constexpr double kReach = 3;
     for (auto drawn = controls.rbegin(); drawn != controls.rend(); ++drawn) {
         const auto& line = drawn->place;

@@ -9,9 +9,9 @@ namespace workbench {
 
 namespace {
 
-/// A control that is not seen at run time has a small square on the form.
+/// The size of the square for a control that is invisible at run time.
 constexpr double kHiddenSize = 28;
-/// What a size may be: coordinates beyond this are damage.
+/// Coordinates beyond this are considered damaged.
 constexpr double kLargestPixels = 16384;
 constexpr std::int32_t kFormColour = std::int32_t(0x8000000f);
 
@@ -32,7 +32,7 @@ public:
     };
 
     void read(const Controls& controls, const Space& space) {
-        // the first in the text is in front; what its container draws is behind all windows
+        // the first in the text is on top; windowless controls are below all windows
         for (const bool windowless : {true, false})
             for (auto at = controls.rbegin(); at != controls.rend(); ++at)
                 (void)basic::attempt([&] { readOne(*at, space, windowless); });
@@ -82,7 +82,7 @@ private:
         drawn.place.translate(drawn.origin);
     }
 
-    /// What lies in a picture box lies inside its border; a frame is measured from its edge.
+    /// Coordinates in a picture box begin inside its border, in a frame at its edge.
     static double borderWithin(const ControlLook& look) {
         if (look.kind != ControlKind::PictureBox || look.border == ControlBorder::None) return 0;
         return look.border == ControlBorder::Single ? 1 : 2;

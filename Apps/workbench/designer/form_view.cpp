@@ -22,14 +22,14 @@ FormView::FormView(vbide::Ref<vbide::VBComponent> component, DesignHistory& hist
     setBackgroundRole(QPalette::Dark);
     setAccessibleName("Form");
     reload_.setSingleShot(true);
-    reload_.setInterval(0); // a form changes by many lines at once
+    reload_.setInterval(0); // a form often changes by many lines at once
     connect(&reload_, &QTimer::timeout, this, [this] { reload(); });
     canvas_->formChanged();
 }
 
 void FormView::reload() {
     reload_.stop();
-    // of a form that has been removed the last picture stays until its window goes
+    // a removed form keeps its last picture until its window is closed
     const auto failed = basic::attempt([this] { picture_ = pictureOfForm(*component_); });
     if (failed.Number != 0) return;
     const bool gone = selected_ && basic::attempt([this] { (void)selected_->ClassName(); }).Number != 0;
@@ -77,7 +77,7 @@ void FormView::add(const std::string& progId, const QRectF& place) {
         const auto* container = picture_.containerAt(place.topLeft());
         added = host::addControl(component->Designer(), container ? container->control : nullptr, progId);
     });
-    if (here && added && picture_.find(added)) finish(added, place); // else an add-in took it off again
+    if (here && added && picture_.find(added)) finish(added, place); // else an add-in removed it again
 }
 
 void FormView::finish(const vbide::Ref<vbide::VBControl>& added, const QRectF& place) {
@@ -98,7 +98,7 @@ void FormView::edit(const std::function<void()>& act) {
     const QPointer<FormView> here(this);
     const auto run = callbacks_.run;
     run(act);
-    if (here) reload(); // the next key goes on from there
+    if (here) reload(); // the next key must find the new state
 }
 
 void FormView::openCode() { openCode(selected_); }
@@ -122,7 +122,7 @@ void FormView::selectBeside(const QPointF& direction) {
     if (const auto* nearest = picture_.beside(*now, direction)) select(nearest->control);
 }
 
-/// The dark ground round the form belongs to no control: a click there selects the form.
+/// Called for a click outside of the form, which selects the form.
 void FormView::mousePressEvent(QMouseEvent*) {
     select(nullptr);
     setFocus();

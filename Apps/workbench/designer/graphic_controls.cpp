@@ -10,7 +10,7 @@ namespace {
 constexpr double kPlaceholderText = 11;
 const QColor kDrawnFace("#d4d0c8");
 
-/// A framed box that says what stands there.
+/// Draws a dashed box with a text.
 void drawPlaceholder(QPainter& painter, const QRectF& place, const QString& text) {
     painter.setPen(QPen(Qt::darkGray, 1, Qt::DashLine));
     painter.drawRect(place.adjusted(0, 0, -1, -1));

@@ -11,7 +11,7 @@ constexpr double kTextInset = 2;
 
 int captionFlags(const ControlLook& look) { return look.mnemonic ? int(Qt::TextShowMnemonic) : 0; }
 
-/// Lists show their name where they have no items yet, as in the designer.
+/// An empty list shows its name, as in the language's own designer.
 QStringList itemsToShow(const DrawnControl& control) {
     return control.look.items.isEmpty() ? QStringList(control.name) : control.look.items;
 }

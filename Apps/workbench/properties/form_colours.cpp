@@ -14,7 +14,7 @@ struct SystemColour {
     const char* name;
     QRgb shown;
 };
-/// By their numbers.
+/// Indexed by number.
 constexpr std::array kSystemColours{
     SystemColour{"Scroll Bars", 0xffd4d0c8},
     SystemColour{"Desktop", 0xff3a6ea5},

@@ -16,7 +16,8 @@ struct InspectedObject {
 
 /// A project has only a name here.
 InspectedObject inspected(const vbide::Ref<vbide::VBProject>& project);
-/// A component, or one of its controls. A component without a designer has only a name. The history outlives the result.
+/// A component, or one of its controls. A component without a designer has only a name. The history outlives the
+/// result.
 InspectedObject inspected(DesignHistory& history, const vbide::Ref<vbide::VBComponent>& component,
                           const vbide::Ref<vbide::VBControl>& control);
 

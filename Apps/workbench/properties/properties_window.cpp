@@ -23,7 +23,7 @@ PropertiesWindow::PropertiesWindow(DesignHistory& history, Callbacks callbacks)
       objects_(new QComboBox),
       table_(new QTableView),
       rows_([this](std::exception_ptr error) {
-          // not from within the editor that is closing
+          // later, as the editor is just closing
           QTimer::singleShot(0, this, [this, error] { callbacks_.run([&] { std::rethrow_exception(error); }); });
       }),
       editors_(rows_) {
@@ -62,7 +62,7 @@ void PropertiesWindow::buildTable() {
     connect(table_, &QTableView::doubleClicked, this, [this](const QModelIndex& index) { doubleClicked(index); });
     connect(table_->selectionModel(), &QItemSelectionModel::currentChanged, this, [this](const QModelIndex& now) {
         if (now.isValid()) currentName_ = now.siblingAtColumn(PropertyRows::kNameColumn).data().toString();
-        // what is typed goes to the value
+        // so that typing edits the value
         if (now.column() == PropertyRows::kNameColumn)
             table_->setCurrentIndex(now.siblingAtColumn(PropertyRows::kValueColumn));
     });
@@ -110,7 +110,8 @@ void PropertiesWindow::show() {
     listObjects();
     const int row = std::max(0, rows_.rowOf(wanted));
     if (rows_.rowCount() > 0) table_->setCurrentIndex(rows_.index(row, PropertyRows::kValueColumn));
-    currentName_ = wanted.isEmpty() ? currentName_ : wanted; // of an object without it the next one has it again
+    currentName_ = wanted.isEmpty() ? currentName_
+                                    : wanted; // an object without this property does not make the next one forget it
 }
 
 InspectedObject PropertiesWindow::object() const {
@@ -122,7 +123,7 @@ void PropertiesWindow::listObjects() {
     const QSignalBlocker ours(objects_);
     objects_->clear();
     controls_.clear();
-    (void)basic::attempt([&] { // what has been removed has no name
+    (void)basic::attempt([&] { // a removed object has no name
         if (project_) return objects_->addItem(qt(project_->Name()) + " Project");
         if (!component_) return;
         objects_->addItem(titleOf(*component_));
@@ -142,7 +143,7 @@ void PropertiesWindow::chosen(int row) {
     if (!component_) return;
     const auto control = row > 0 ? controls_[std::size_t(row) - 1] : nullptr;
     callbacks_.select(control);
-    inspect(component_, control); // also where no form is in front
+    inspect(component_, control); // even if no form is in front
 }
 
 void PropertiesWindow::doubleClicked(const QModelIndex& index) {

@@ -16,7 +16,7 @@ constexpr int kLargestPicture = 16 * 1024 * 1024;
 constexpr int kBoldStyle = 1, kItalicStyle = 2;
 constexpr auto kUsualFamily = "MS Sans Serif", kPalmFamily = "QLPalm";
 
-/// A form's fonts are seldom installed here; those behind them are about as wide.
+/// The fonts of forms are seldom installed; the alternatives have about the same width.
 QFont fontOfFamily(const QString& family, double points) {
     const bool ofPalms = family.compare(kPalmFamily, Qt::CaseInsensitive) == 0;
     const double pixelsPerInch = ofPalms ? kPixelsPerInchOfPalms : kPixelsPerInch;

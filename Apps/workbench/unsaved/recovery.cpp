@@ -18,7 +18,7 @@ namespace {
 
 constexpr int kMillisecondsBetweenLooks = 200;
 
-/// The component that the text belongs to; null when the project has it no more.
+/// The component that the text belongs to; null if the project no longer has it.
 std::shared_ptr<host::Component> ownerOf(host::Project& project, const host::JournalEntry& entry) {
     for (const auto& component : project.components().list()) {
         const bool same = entry.file.empty() ? component->path().empty() && component->Name() == entry.component
@@ -61,7 +61,7 @@ void Recovery::offerAll() {
         if (asked_.insert(project).second) offer(project, newestOf(std::move(all)));
 }
 
-/// Told once: it is no journal any more, and it is not lost.
+/// Renames a damaged journal, so that it is reported once and not lost.
 void Recovery::setAside(const QString& path, const QString& why) {
     const auto aside = path + ".damaged";
     const bool moved = QFile::rename(path, aside);
@@ -87,7 +87,7 @@ void Recovery::offer(const std::string& project, std::vector<Survivor> all) {
 
 void Recovery::restore(const std::string& path, const std::vector<Survivor>& all) {
     const auto project = basic::cast<host::Project>(opened(path)).shared();
-    if (!project) return; // why, the user was told
+    if (!project) return; // the reason has been shown
     std::vector<QString> done;
     for (const auto& survivor : all) {
         const auto failed = basic::attempt([&] { putBack(*project, survivor.entry); });
@@ -97,7 +97,7 @@ void Recovery::restore(const std::string& path, const std::vector<Survivor>& all
             callbacks_.warn(
                 QString(unsaved_texts::kNotRestored).arg(qt(survivor.entry.component), qt(failed.Description)));
     }
-    callbacks_.keep(); // at no time without a journal
+    callbacks_.keep(); // so that there is a journal at any time
     for (const auto& journal : done) QFile::remove(journal);
 }
 

@@ -1,5 +1,5 @@
 #pragma once
-// Offers the user what a program that ended without saving left in its journal.
+// Offers to restore what programs that ended without saving left in their journals.
 #include "Apps/workbench/unsaved/survivors.h"
 #include "Host/model/host.h"
 #include <QTimer>
@@ -22,8 +22,8 @@ public:
 
     Recovery(host::Host& host, QWidget& window, QString base, Callbacks callbacks);
 
-    /// Asks, when Qt's loop turns and no window waits for the user: for each project with survivors once, until it
-    /// opens again. Those of projects that are not open are opened first.
+    /// Asks when Qt's loop turns and no dialog is open: once for each project with unsaved changes, until it is opened
+    /// again. Restoring opens a project that is not open.
     void offerAllSoon();
 
 private:
@@ -37,7 +37,7 @@ private:
     QWidget& window_;
     QString base_;
     Callbacks callbacks_;
-    std::set<std::string> asked_; ///< projects, until they open again
+    std::set<std::string> asked_; ///< projects, until they are opened again
     QTimer soon_;
     std::vector<fernwick::Subscription> watches_;
 };
