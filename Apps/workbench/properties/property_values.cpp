@@ -1,6 +1,6 @@
-#include "Apps/workbench/designer/property_values.h"
+#include "Apps/workbench/properties/property_values.h"
 #include "Apps/workbench/base/text.h"
-#include "Apps/workbench/designer/form_colours.h"
+#include "Apps/workbench/properties/form_colours.h"
 #include "Basic/case_folding.h"
 #include "Basic/runtime_error.h"
 #include <array>
@@ -29,7 +29,7 @@ QString shownChoice(const host::PropertyChoice& choice) {
 
 QString shownTruth(bool value) { return value ? "True" : "False"; }
 
-/// By the first bytes of the image's file.
+/// Describes a picture by the first bytes of its file.
 QString shownPicture(const std::string& image) {
     if (image.empty()) return "(None)";
     constexpr std::string_view kIcon("\0\0\1\0", 4), kMetafile("\xd7\xcd\xc6\x9a", 4);
@@ -50,7 +50,7 @@ bool isBoolean(const host::ClassProperty& details, const fernwick::Variant& valu
 
 [[noreturn]] void refuseValue() { throw basic::RuntimeError(basic::kInvalidPropertyValue); }
 
-/// "1 - Fixed Single", or what stands before or behind the dash alone.
+/// Accepts "1 - Fixed Single", or only the part before or after the dash.
 fernwick::Variant chosenValue(const host::ClassProperty& details, const QString& typed) {
     for (const auto& choice : details.choices())
         if (typed == shownChoice(choice) || typed == QString::number(choice.value) ||
@@ -65,7 +65,7 @@ fernwick::Variant sizeOrNumber(const std::string& name, const std::string& typed
     return number;
 }
 
-/// Of a property of which nothing is known the value before tells the type.
+/// A property without a description keeps the type of its previous value.
 fernwick::Variant typedAsBefore(const fernwick::Variant& before, const std::string& typed) {
     if (std::holds_alternative<std::int32_t>(before)) return fernwick::asLong(typed);
     if (std::holds_alternative<double>(before)) return fernwick::asDouble(typed);

@@ -1,14 +1,14 @@
 #pragma once
-// What the user types or chooses a value in.
-#include "Apps/workbench/designer/property_rows.h"
+// The editors of values.
+#include "Apps/workbench/properties/property_rows.h"
 #include <QStyledItemDelegate>
 
 class QComboBox;
 
 namespace workbench {
 
-/// A list for what can be chosen, a list of colours that can be typed too, a line for all else. What is chosen from a list
-/// is taken at once.
+/// A list for enumerations, an editable list for colours, a text field for all else. A choice from a list is applied at
+/// once.
 class PropertyEditors final : public QStyledItemDelegate {
 public:
     explicit PropertyEditors(const PropertyRows& rows) : rows_(rows) {}
@@ -20,7 +20,7 @@ public:
     void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override;
 
 private:
-    void takeAtOnce(QComboBox& list) const;
+    void applyAtOnce(QComboBox& list) const;
 
     const PropertyRows& rows_;
 };

@@ -1,10 +1,9 @@
-#include "Apps/workbench/designer/properties_window.h"
+#include "Apps/workbench/properties/properties_window.h"
 #include "Apps/workbench/base/text.h"
-#include "Apps/workbench/designer/property_reader.h"
+#include "Apps/workbench/properties/font_choice.h"
 #include "Basic/runtime_error.h"
 #include <QBoxLayout>
 #include <QComboBox>
-#include <QFontDialog>
 #include <QHeaderView>
 #include <QSignalBlocker>
 #include <QTableView>
@@ -16,53 +15,6 @@ namespace {
 
 constexpr int kUsualNameWidth = 110, kRowPadding = 6;
 
-/// The name of what has no other properties.
-class NameOnly final : public vbide::Property {
-public:
-    NameOnly(std::function<std::string()> get, std::function<void(const std::string&)> set)
-        : get_(std::move(get)), set_(std::move(set)) {}
-    std::string Name() const override { return "Name"; }
-    vbide::Variant Value() const override { return get_(); }
-    void Value(const vbide::Variant& value) override { set_(fernwick::asText(value)); }
-    basic::Ref<vbide::Properties> ObjectValue() const override { throw basic::RuntimeError(basic::kObjectRequired); }
-
-private:
-    std::function<std::string()> get_;
-    std::function<void(const std::string&)> set_;
-};
-
-template <class Named>
-InspectedObject nameOf(const vbide::Ref<Named>& named) {
-    return {{basic::make<NameOnly>([named] { return named->Name(); },
-                                   [named](const std::string& name) { named->Name(name); })},
-            [](const auto& property, const auto& value) { property->Value(value); }};
-}
-
-QString classOf(vbide::vbext_ComponentType type) {
-    switch (type) {
-    case vbide::vbext_ct_VBForm: return "Form";
-    case vbide::vbext_ct_VBMDIForm: return "MDIForm";
-    case vbide::vbext_ct_ClassModule: return "ClassModule";
-    case vbide::vbext_ct_UserControl: return "UserControl";
-    case vbide::vbext_ct_PropPage: return "PropertyPage";
-    case vbide::vbext_ct_DocObject: return "UserDocument";
-    default: return "Module";
-    }
-}
-
-QString titleOf(const vbide::VBControl& control) {
-    const PropertyReader read(control.Properties());
-    const int index = read.number("Index", -1);
-    const auto name = index < 0 ? read.text("Name") : QString("%1(%2)").arg(read.text("Name")).arg(index);
-    return name + " " + qt(control.ClassName());
-}
-
-bool hasDesign(vbide::VBComponent& component) {
-    bool has = false;
-    (void)basic::attempt([&] { has = bool(component.Designer()); });
-    return has;
-}
-
 } // namespace
 
 PropertiesWindow::PropertiesWindow(DesignHistory& history, Callbacks callbacks)
@@ -71,7 +23,7 @@ PropertiesWindow::PropertiesWindow(DesignHistory& history, Callbacks callbacks)
       objects_(new QComboBox),
       table_(new QTableView),
       rows_([this](std::exception_ptr error) {
-          // not from within the editor that is closing
+          // later, as the editor is just closing
           QTimer::singleShot(0, this, [this, error] { callbacks_.run([&] { std::rethrow_exception(error); }); });
       }),
       editors_(rows_) {
@@ -110,7 +62,7 @@ void PropertiesWindow::buildTable() {
     connect(table_, &QTableView::doubleClicked, this, [this](const QModelIndex& index) { doubleClicked(index); });
     connect(table_->selectionModel(), &QItemSelectionModel::currentChanged, this, [this](const QModelIndex& now) {
         if (now.isValid()) currentName_ = now.siblingAtColumn(PropertyRows::kNameColumn).data().toString();
-        // what is typed goes to the value
+        // so that typing edits the value
         if (now.column() == PropertyRows::kNameColumn)
             table_->setCurrentIndex(now.siblingAtColumn(PropertyRows::kValueColumn));
     });
@@ -158,28 +110,23 @@ void PropertiesWindow::show() {
     listObjects();
     const int row = std::max(0, rows_.rowOf(wanted));
     if (rows_.rowCount() > 0) table_->setCurrentIndex(rows_.index(row, PropertyRows::kValueColumn));
-    currentName_ = wanted.isEmpty() ? currentName_ : wanted; // of an object without it the next one has it again
+    currentName_ = wanted.isEmpty() ? currentName_
+                                    : wanted; // an object without this property does not make the next one forget it
 }
 
 InspectedObject PropertiesWindow::object() const {
-    if (project_) return nameOf(project_);
-    if (!component_) return {};
-    if (!hasDesign(*component_)) return nameOf(component_);
-    const auto properties = control_ ? control_->Properties() : component_->Properties();
-    return {properties->items(),
-            [&history = history_, component = component_, properties](const auto& property, const auto& value) {
-                history.set(component, properties, {{property->Name(), value}});
-            }};
+    if (project_) return inspected(project_);
+    return component_ ? inspected(history_, component_, control_) : InspectedObject();
 }
 
 void PropertiesWindow::listObjects() {
     const QSignalBlocker ours(objects_);
     objects_->clear();
     controls_.clear();
-    (void)basic::attempt([&] { // what has been removed has no name
+    (void)basic::attempt([&] { // a removed object has no name
         if (project_) return objects_->addItem(qt(project_->Name()) + " Project");
         if (!component_) return;
-        objects_->addItem(qt(component_->Name()) + " " + classOf(component_->Type()));
+        objects_->addItem(titleOf(*component_));
         if (!hasDesign(*component_)) return;
         QStringList titles;
         for (const auto& control : component_->Designer()->VBControls()->items()) {
@@ -196,7 +143,7 @@ void PropertiesWindow::chosen(int row) {
     if (!component_) return;
     const auto control = row > 0 ? controls_[std::size_t(row) - 1] : nullptr;
     callbacks_.select(control);
-    inspect(component_, control); // also where no form is in front
+    inspect(component_, control); // even if no form is in front
 }
 
 void PropertiesWindow::doubleClicked(const QModelIndex& index) {
@@ -209,23 +156,9 @@ void PropertiesWindow::doubleClicked(const QModelIndex& index) {
 void PropertiesWindow::chooseFont(const vbide::Ref<vbide::Property>& font) {
     callbacks_.run([&] {
         const auto members = font->ObjectValue();
-        const PropertyReader read(members);
-        QFont now(read.text("Name"));
-        now.setPointSizeF(std::max(1.0, read.real("Size")));
-        now.setBold(read.flag("Bold"));
-        now.setItalic(read.flag("Italic"));
-        now.setUnderline(read.flag("Underline"));
-        now.setStrikeOut(read.flag("Strikethrough"));
-        bool accepted = false;
-        const auto chosen = QFontDialog::getFont(&accepted, now, this, "Font");
-        if (!accepted) return;
-        history_.set(component_, members,
-                     {{"Name", text(chosen.family())},
-                      {"Size", chosen.pointSizeF()},
-                      {"Bold", chosen.bold()},
-                      {"Italic", chosen.italic()},
-                      {"Underline", chosen.underline()},
-                      {"Strikethrough", chosen.strikeOut()}});
+        const auto changes = askForFont(members, this);
+        if (changes.empty()) return;
+        history_.set(component_, members, changes);
         rows_.reread();
     });
 }

@@ -1,5 +1,5 @@
 #pragma once
-// Values of properties as the desktop draws them.
+// Reads the values of properties as Qt's types.
 #include "Add-in/platform/host_project.h"
 #include <QColor>
 #include <QFont>
@@ -9,7 +9,7 @@
 
 namespace workbench {
 
-/// Reads what there is: a property that the object lacks, or whose value makes no sense, gives the fallback.
+/// Returns the fallback for a property that the object lacks or whose value is invalid.
 class PropertyReader {
 public:
     explicit PropertyReader(vbide::Ref<vbide::Properties> properties) : properties_(std::move(properties)) {}
@@ -20,13 +20,13 @@ public:
     double real(const char* name, double fallback = 0) const;
     bool flag(const char* name, bool fallback = false) const;
     QColor colour(const char* name, const QColor& fallback) const;
-    /// The members of a property "Font". Pixels are 96 an inch, for the face of Palms 72.
+    /// Reads a property "Font". There are 96 pixels per inch, or 72 for the font of Palms.
     QFont font() const;
-    /// The properties FontName, FontSize and FontStyle of a device control.
+    /// Reads the properties FontName, FontSize and FontStyle of a device control.
     QFont deviceFont() const;
-    /// Null where there is none, or none that can be read.
+    /// Null if there is none or it cannot be read.
     QPixmap picture(const char* name) const;
-    /// Whether there is one, readable or not.
+    /// Whether there is a picture, readable or not.
     bool hasPicture(const char* name) const;
     QStringList items(const char* name) const;
 

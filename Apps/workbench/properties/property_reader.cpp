@@ -1,6 +1,6 @@
-#include "Apps/workbench/designer/property_reader.h"
+#include "Apps/workbench/properties/property_reader.h"
 #include "Apps/workbench/base/text.h"
-#include "Apps/workbench/designer/form_colours.h"
+#include "Apps/workbench/properties/form_colours.h"
 #include "Basic/runtime_error.h"
 #include "Host/model/forms/property_source.h"
 #include <algorithm>
@@ -16,7 +16,7 @@ constexpr int kLargestPicture = 16 * 1024 * 1024;
 constexpr int kBoldStyle = 1, kItalicStyle = 2;
 constexpr auto kUsualFamily = "MS Sans Serif", kPalmFamily = "QLPalm";
 
-/// A form's fonts are seldom installed here; those behind them are about as wide.
+/// The fonts of forms are seldom installed; the alternatives have about the same width.
 QFont fontOfFamily(const QString& family, double points) {
     const bool ofPalms = family.compare(kPalmFamily, Qt::CaseInsensitive) == 0;
     const double pixelsPerInch = ofPalms ? kPixelsPerInchOfPalms : kPixelsPerInch;

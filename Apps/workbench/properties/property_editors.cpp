@@ -1,6 +1,6 @@
-#include "Apps/workbench/designer/property_editors.h"
+#include "Apps/workbench/properties/property_editors.h"
 #include "Apps/workbench/base/text.h"
-#include "Apps/workbench/designer/form_colours.h"
+#include "Apps/workbench/properties/form_colours.h"
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPixmap>
@@ -38,24 +38,24 @@ QWidget* PropertyEditors::createEditor(QWidget* parent, const QStyleOptionViewIt
         auto* const list = new QComboBox(parent);
         list->addItems(choices);
         if (isColour) listColours(*list);
-        takeAtOnce(*list);
+        applyAtOnce(*list);
         editor = list;
     }
     editor->setAccessibleName(name);
     return editor;
 }
 
-void PropertyEditors::takeAtOnce(QComboBox& list) const {
-    auto* const self = const_cast<PropertyEditors*>(this); // editors are made by a constant member, signals are not
+void PropertyEditors::applyAtOnce(QComboBox& list) const {
+    auto* const self = const_cast<PropertyEditors*>(this); // createEditor is const, but signals are not
     connect(&list, &QComboBox::activated, self, [self, &list] {
-        // a colour is chosen by its name and typed by its number
+        // a colour is chosen by name and entered as a number
         if (const auto chosen = list.currentData().toString(); !chosen.isEmpty()) list.setEditText(chosen);
         Q_EMIT self->commitData(&list);
         Q_EMIT self->closeEditor(&list);
     });
 }
 
-/// Over the swatch of a colour too: its text needs the room.
+/// Covers the colour's swatch too, as the text needs the space.
 void PropertyEditors::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
                                            const QModelIndex&) const {
     editor->setGeometry(option.rect);
@@ -66,7 +66,7 @@ void PropertyEditors::setEditorData(QWidget* editor, const QModelIndex& index) c
     if (auto* line = dynamic_cast<QLineEdit*>(editor)) return line->setText(shown);
     auto& list = dynamic_cast<QComboBox&>(*editor);
     if (!list.isEditable()) return list.setCurrentText(shown);
-    list.setCurrentIndex(-1); // the present colour's picture would push its text away
+    list.setCurrentIndex(-1); // the picture of a current item would take the space of the text
     list.setEditText(shown);
     list.lineEdit()->selectAll();
 }

@@ -1,5 +1,5 @@
 #pragma once
-// Changes that the user makes to forms, so that they can be taken back.
+// The undo history of changes to forms.
 #include "Add-in/platform/host_project.h"
 #include <deque>
 #include <functional>
@@ -15,17 +15,17 @@ struct DesignChange {
     fernwick::Variant value;
 };
 
-/// One for the whole desktop. Each step belongs to a component.
+/// There is one for the whole desktop. Each step belongs to a component.
 class DesignHistory {
 public:
-    /// Sets properties of one object of a component as one step. The first one that is refused ends it; what was set
-    /// before goes back, and the error comes out.
+    /// Sets properties of one object of a component as one step. If one is refused, restores the earlier ones and
+    /// throws the error.
     void set(const vbide::Ref<vbide::VBComponent>& component, const vbide::Ref<vbide::Properties>& object,
              const std::vector<DesignChange>& changes);
-    /// Something else was done to a component; `takeBack` undoes it.
+    /// Adds a step for another change of a component; `takeBack` undoes it.
     void did(const vbide::Ref<vbide::VBComponent>& component, std::function<void()> takeBack);
-    /// Takes back the last step of a component that changes something; what was done to controls that are gone doesn't.
-    /// False where there is none.
+    /// Undoes the last step of a component that still has an effect, skipping those on removed controls. False if there
+    /// is none.
     bool undo(const vbide::Ref<vbide::VBComponent>& component);
 
 private:
@@ -35,7 +35,7 @@ private:
     };
     struct Step {
         vbide::Ref<vbide::VBComponent> component;
-        /// False when nothing could be taken back.
+        /// False if nothing could be undone.
         std::function<bool()> takeBack;
     };
     static bool putBack(const std::vector<Before>& before);

@@ -1,5 +1,6 @@
 #pragma once
-// The properties of one object as rows of name and value.
+// The properties of one object as a table of names and values.
+#include "Apps/workbench/properties/inspected_object.h"
 #include "Host/model/forms/property_source.h"
 #include <QAbstractTableModel>
 #include <QStringList>
@@ -8,36 +9,29 @@
 
 namespace workbench {
 
-/// The object whose properties are shown.
-struct InspectedObject {
-    std::vector<vbide::Ref<vbide::Property>> properties;
-    /// Sets one of them.
-    std::function<void(const vbide::Ref<vbide::Property>&, const fernwick::Variant&)> set;
-};
-
 class PropertyRows final : public QAbstractTableModel {
 public:
     enum Column { kNameColumn, kValueColumn, kColumns };
-    /// Told of a value that was refused; the old one stays.
+    /// Called if a value is refused; the old one remains.
     using Refused = std::function<void(std::exception_ptr)>;
 
     explicit PropertyRows(Refused refused) : refused_(std::move(refused)) {}
 
-    /// In the alphabet's order, the name in front.
+    /// Shows these properties in alphabetical order, the name first.
     void show(InspectedObject object);
-    /// The values may be others.
+    /// Reads the values again.
     void reread();
 
     /// The details of a row's property.
     const host::ClassProperty& details(int row) const { return rows_[std::size_t(row)].details; }
     const vbide::Ref<vbide::Property>& property(int row) const { return rows_[std::size_t(row)].property; }
-    /// What there is to choose from in a row; empty where the user types.
+    /// The choices of a row; empty if any value can be typed.
     QStringList choices(int row) const;
-    /// The row of a property, -1 where the object has none of that name.
+    /// The row of a property, -1 if the object has no such property.
     int rowOf(const QString& name) const;
-    /// Sets a value as if the user had typed it. False when it was refused.
+    /// Sets a value as if the user had typed it. False if it was refused.
     bool type(int row, const QString& typed);
-    /// Sets the value that comes behind the present one, for enumerations and Booleans.
+    /// Sets the next value of an enumeration or a Boolean.
     void cycle(int row);
 
     int rowCount(const QModelIndex& parent = {}) const override;

@@ -1,7 +1,7 @@
-#include "Apps/workbench/designer/property_rows.h"
+#include "Apps/workbench/properties/property_rows.h"
 #include "Apps/workbench/base/text.h"
-#include "Apps/workbench/designer/form_colours.h"
-#include "Apps/workbench/designer/property_values.h"
+#include "Apps/workbench/properties/form_colours.h"
+#include "Apps/workbench/properties/property_values.h"
 #include "Basic/runtime_error.h"
 #include <QPainter>
 #include <QPixmap>
@@ -16,7 +16,7 @@ constexpr int kSwatchWidth = 18, kSwatchHeight = 12;
 constexpr auto kShownName = "(Name)";
 const QRegularExpression kLineBreaks("\\r\\n|\\r|\\n");
 
-/// What a control's own property bag keeps for itself.
+/// Internal entries of a control's property bag.
 bool isInternal(const std::string& name) {
     return name.empty() || name.front() == '_' || name.find_first_of(".(") != std::string::npos;
 }
@@ -64,7 +64,7 @@ int PropertyRows::rowOf(const QString& name) const {
 }
 
 bool PropertyRows::type(int row, const QString& typed) {
-    const auto target = rows_[std::size_t(row)]; // what an add-in shows meanwhile may bring other rows
+    const auto target = rows_[std::size_t(row)]; // a dialog of an add-in may lead to other rows
     const auto set = object_.set;
     if (typed == target.shown) return true;
     try {
@@ -84,7 +84,7 @@ void PropertyRows::cycle(int row) {
     type(row, all[(now + 1) % all.size()]);
 }
 
-// ---- for the view ------------------------------------------------------------------------------------------------------
+// ---- for the view ---------------------------------------------------------------------------------------------------
 
 int PropertyRows::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : int(rows_.size()); }
 

@@ -1,5 +1,5 @@
 #pragma once
-// The colours of forms, as their text says them.
+// Colours as forms store them.
 #include <QColor>
 #include <QString>
 #include <cstdint>
@@ -8,20 +8,20 @@
 
 namespace workbench {
 
-/// &H00BBGGRR, or &H800000nn for the system's colour of that number. The system's colours are those of the classic
-/// desktop, so that a form looks the same everywhere.
+/// Converts &H00BBGGRR, or &H800000nn for a system colour. System colours are those of the classic desktop, so that a
+/// form looks the same everywhere.
 QColor formColour(std::int32_t value);
 
 /// "&H8000000F&".
 QString formColourText(std::int32_t value);
-/// Hexadecimal with or without "&" at its end, or decimal; nothing for what is no colour.
+/// Parses a hexadecimal number with or without "&" at the end, or a decimal one. Empty if it is not a colour.
 std::optional<std::int32_t> formColourOf(const QString& text);
 
 struct NamedColour {
     QString name;
     std::int32_t value = 0;
 };
-/// The system's colours, then a palette.
+/// The system colours, then a palette.
 const std::vector<NamedColour>& namedColours();
 
 } // namespace workbench

@@ -1,8 +1,8 @@
 #pragma once
-// The properties of what is selected.
-#include "Apps/workbench/designer/design_history.h"
-#include "Apps/workbench/designer/property_editors.h"
-#include "Apps/workbench/designer/property_rows.h"
+// The window with the properties of the selected object.
+#include "Apps/workbench/properties/design_history.h"
+#include "Apps/workbench/properties/property_editors.h"
+#include "Apps/workbench/properties/property_rows.h"
 #include <QTimer>
 #include <QWidget>
 #include <functional>
@@ -16,18 +16,18 @@ class PropertiesWindow final : public QWidget {
 public:
     struct Callbacks {
         std::function<void(const std::function<void()>&)> run;
-        /// The user picks a control of the component that is shown, Nothing for the component itself.
+        /// The user selects a control of the component that is shown; Nothing for the component itself.
         std::function<void(const vbide::Ref<vbide::VBControl>&)> select;
     };
 
     PropertiesWindow(DesignHistory& history, Callbacks callbacks);
 
-    /// A component, or one of its controls. Components without a designer have a name only.
+    /// Shows a component or one of its controls. A component without a designer has only a name.
     void inspect(const vbide::Ref<vbide::VBComponent>& component, const vbide::Ref<vbide::VBControl>& control = {});
     void inspect(const vbide::Ref<vbide::VBProject>& project);
-    /// Nothing is selected.
+    /// Shows nothing.
     void clear();
-    /// Names, values and the list of controls may be others; drawn when Qt's loop turns.
+    /// Draws names, values and the list of controls again when Qt's loop turns.
     void refreshSoon() { refresh_.start(); }
 
     QTableView& table() { return *table_; }

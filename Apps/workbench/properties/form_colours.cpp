@@ -1,4 +1,4 @@
-#include "Apps/workbench/designer/form_colours.h"
+#include "Apps/workbench/properties/form_colours.h"
 #include <QRegularExpression>
 #include <array>
 
@@ -14,7 +14,7 @@ struct SystemColour {
     const char* name;
     QRgb shown;
 };
-/// By their numbers.
+/// Indexed by number.
 constexpr std::array kSystemColours{
     SystemColour{"Scroll Bars", 0xffd4d0c8},
     SystemColour{"Desktop", 0xff3a6ea5},

@@ -1,4 +1,4 @@
-#include "Apps/workbench/designer/design_history.h"
+#include "Apps/workbench/properties/design_history.h"
 #include "Basic/runtime_error.h"
 #include <algorithm>
 
