@@ -1,6 +1,6 @@
 #pragma once
 // Opens the sample that a user picked from the samples menu.
-#include "Add-in/commands/command_items.h"
+#include "Add-in/commands/command_table.h"
 #include "Add-in/project/modSaveProject.h"
 
 namespace fernwick {
