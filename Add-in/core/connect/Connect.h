@@ -11,8 +11,8 @@
 #include "Add-in/core/settings_dialog.h"
 #include "Add-in/deploy/frmSendRuntimeToDevice.h"
 #include "Add-in/deploy/frmSendToDevice.h"
-#include "Add-in/lifecycle/ProjectSetup.h"
-#include "Add-in/lifecycle/SampleOpening.h"
+#include "Add-in/lifecycle/project_setup.h"
+#include "Add-in/lifecycle/sample_opening.h"
 #include <array>
 
 namespace fernwick {
@@ -44,13 +44,18 @@ public:
 
 /// The dependencies of the connection.
 struct ConnectServices {
-    Platform& platform;
     ErrorReport& errors;
+    Interaction& user;
+    EventLoop& loop;
+    FileSystemObject& files;
+    Shell& shell;
+    const Clock& clock;
+    const App& app;
     modAddinPrefsManagement& prefs;
     AddIn& addIn;
     modReferencesManagement& references;
     modDeviceManagement& devices;
-    DeviceServices deviceServices;
+    const DeviceServices& deviceServices;
     CommandItems& items;
     modClipboardManagement& clipboard;
     modMenuManagement& menu;

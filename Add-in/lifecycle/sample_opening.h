@@ -5,10 +5,13 @@
 
 namespace fernwick {
 
-/// What the opening of samples stands on.
+/// The dependencies of the opening of samples.
 struct SampleServices {
-    Platform& platform;
     ErrorReport& errors;
+    Interaction& user;
+    EventLoop& loop;
+    const FileSystemObject& files;
+    const App& app;
     AddIn& addIn;
     modSaveProject& save;
     CommandItems& items;
