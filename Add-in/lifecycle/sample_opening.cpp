@@ -1,4 +1,4 @@
-#include "Add-in/lifecycle/SampleOpening.h"
+#include "Add-in/lifecycle/sample_opening.h"
 #include "Add-in/lifecycle/lifecycle_texts.h"
 
 namespace fernwick {
@@ -8,9 +8,8 @@ void SampleOpening::open(const clsSampleMenuItem& sample) {
     const std::string path = sample.fullPath; // the menu may be built again meanwhile
     if (path.empty())
         return (void)here([&] {
-            services_.platform.interaction.MsgBox(lifecycle_texts::kSampleError +
-                                                      services_.platform.app.SupportWebAddress,
-                                                  vbCritical, lifecycle_texts::kTitle);
+            services_.user.MsgBox(lifecycle_texts::kSampleError + services_.app.SupportWebAddress, vbCritical,
+                                  lifecycle_texts::kTitle);
         });
     const basic::Ref<vbide::VBE> host = services_.addIn.gVBInstance;
     const auto active = here.value([&] { return host->ActiveVBProject(); });
@@ -25,9 +24,8 @@ void SampleOpening::open(const clsSampleMenuItem& sample) {
 }
 
 bool SampleOpening::isOpen(Procedure& here, const std::string& path) {
-    return here.test([&] {
-        return services_.platform.files.SamePath(services_.addIn.gVBInstance->ActiveVBProject()->FileName(), path);
-    });
+    return here.test(
+        [&] { return services_.files.SamePath(services_.addIn.gVBInstance->ActiveVBProject()->FileName(), path); });
 }
 
 /// What it has of changes by now may be lost.
@@ -37,9 +35,9 @@ void SampleOpening::closeActiveProject(Procedure& here) {
     if (!project) return;
     here([&] { host->ActiveVBProject(project); });
     if (here.test([&] { return project->IsDirty(); })) here([&] { project->IsDirty(false); });
-    here([&] { services_.platform.loop.DoEvents(); });
+    here([&] { services_.loop.DoEvents(); });
     here([&] { services_.items.gFileFourthItem->Execute(); });
-    here([&] { services_.platform.loop.DoEvents(); });
+    here([&] { services_.loop.DoEvents(); });
 }
 
 } // namespace fernwick

@@ -14,16 +14,15 @@ void Connect::ZoomWindowHandler_Click() {
 }
 
 void Connect::DownloadVMHandler_Click() {
-    const int answer =
-        services_.platform.interaction.MsgBox(connect_texts::kDownload, vbOKCancel, connect_texts::kDownloadTitle);
-    if (answer == vbOK) services_.platform.shell.Open(services_.platform.app.RuntimeWebAddress);
+    const int answer = services_.user.MsgBox(connect_texts::kDownload, vbOKCancel, connect_texts::kDownloadTitle);
+    if (answer == vbOK) services_.shell.Open(services_.app.RuntimeWebAddress);
 }
 
 void Connect::AddinUsersGuideHandler_Click() { services_.help.DisplayHelp(kUsersGuideTopic); }
 
 void Connect::AddinOnlineHelpHandler_Click() {
     Procedure here{services_.errors, "Connect.AddinOnlineHelpHandler_Click"};
-    here([&] { services_.platform.shell.Open(services_.platform.app.SupportWebAddress); });
+    here([&] { services_.shell.Open(services_.app.SupportWebAddress); });
 }
 
 void Connect::AboutHandler_Click() {
@@ -46,7 +45,7 @@ void Connect::SampleIntroHandler_Click() {
 void Connect::SampleHelloWorldHandler_Click() {
     Procedure here{services_.errors, "Connect.SampleHelloWorldHandler_Click"};
     if (here.test([&] { return !services_.install.GetQuinloftRootDir().empty(); }))
-        here([&] { services_.platform.shell.Open(services_.install.installed(kHelloWorldTutorial)); });
+        here([&] { services_.shell.Open(services_.install.installed(kHelloWorldTutorial)); });
     else
         here([&] { box(connect_texts::kNoTutorial, vbCritical); });
 }
@@ -56,14 +55,12 @@ void Connect::SampleOpenSampleDirHandler_Click() {
     const auto folder = here.value([&] { return services_.install.GetQuinloftSamplesDir(); });
     if (folder.empty())
         here([&] { box(connect_texts::kNoSamplesDir, vbCritical); });
-    else if (here.test([&] { return services_.platform.files.FolderExists(folder); }))
-        here([&] { services_.platform.shell.Open(folder); });
+    else if (here.test([&] { return services_.files.FolderExists(folder); }))
+        here([&] { services_.shell.Open(folder); });
     else
         here([&] { box(connect_texts::kSamplesDirMissing, vbExclamation); });
 }
 
-void Connect::box(const char* text, int icon) {
-    services_.platform.interaction.MsgBox(text, icon, connect_texts::kTitle);
-}
+void Connect::box(const char* text, int icon) { services_.user.MsgBox(text, icon, connect_texts::kTitle); }
 
 } // namespace fernwick

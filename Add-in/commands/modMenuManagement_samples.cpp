@@ -3,15 +3,20 @@
 
 namespace fernwick {
 
+namespace {
+constexpr int kSampleFace = 123;
+constexpr int kSampleDirFace = 124;
+} // namespace
+
 void modMenuManagement::SetupSamplesMenu() {
     Procedure here{services_.errors, "modMenuManagement.SetupSamplesMenu"};
     const auto& menu = items_.gSamplesPopup;
     items_.gSampleItems = {};
-    here([&] { items_.gSampleIntroItem = button(menu, kSampleIntroString); });
-    here([&] { items_.gSampleHelloItem = button(menu, kSampleHelloString); });
+    here([&] { items_.gSampleIntroItem = button(menu, command_texts::kSampleIntroString); });
+    here([&] { items_.gSampleHelloItem = button(menu, command_texts::kSampleHelloString); });
     bool isFirst = true;
     SetupDynamicSamplesMenu(kSamplesKey, menu, isFirst);
-    here([&] { items_.gSampleDirItem = button(menu, kSampleDirString, {true, kSampleDirFace}); });
+    here([&] { items_.gSampleDirItem = button(menu, command_texts::kSampleDirString, {true, kSampleDirFace}); });
 }
 
 void modMenuManagement::SetupDynamicSamplesMenu(const std::string& keyPath, const Item& parent, bool& isFirst) {

@@ -1,5 +1,6 @@
-// The menu while there is a project of ours, while there is none, and its end.
+// Enabling, disabling and removing the menu.
 #include "Add-in/commands/modMenuManagement.h"
+#include <algorithm>
 
 namespace fernwick {
 
@@ -7,7 +8,16 @@ namespace {
 
 using ItemArray = Array<CommandItems::Item>;
 
-/// The elements from 0 to count-1. Of those that the array doesn't have, and of failures, nobody hears.
+/// The commands that depend on a project, in the order in which they are enabled.
+std::vector<const CommandRow*> commandsInTurn() {
+    std::vector<const CommandRow*> rows;
+    for (const auto& command : kCommands)
+        if (command.needs != Needs::Nothing) rows.push_back(&command);
+    std::stable_sort(rows.begin(), rows.end(), [](const auto* a, const auto* b) { return a->turn < b->turn; });
+    return rows;
+}
+
+/// Applies `act` to elements 0 to count-1; missing elements and errors are ignored.
 template <class Act>
 void quietlyToFirst(basic::Suppressed& quietly, const ItemArray& items, std::int32_t count, Act act) {
     for (std::int32_t i = 0; i < count; ++i)
@@ -18,42 +28,32 @@ void quietlyToFirst(basic::Suppressed& quietly, const ItemArray& items, std::int
 
 } // namespace
 
-/// Neither the configuration item nor the samples are ever disabled.
 void modMenuManagement::EnableQuinloftMenu() {
     Procedure here{services_.errors, "modMenuManagement.EnableQuinloftMenu"};
-    const auto enable = [&](const Item& item) {
-        if (item) here([&] { item->Enabled(true); });
+    const auto enable = [&](const Item& item, bool enabled = true) {
+        if (item) here([&] { item->Enabled(enabled); });
     };
-    for (const auto* item :
-         {&items_.gCompileItem, &items_.gPackageAllItem, &items_.gPackagePopup, &items_.gDeployAllItem,
-          &items_.gDeployPopup, &items_.gSettingsItem, &items_.gInstallAllItem, &items_.gInstallPopup})
-        enable(*item);
-    if (items_.gDownloadItem) here([&] { items_.gDownloadItem->Enabled(false); });
-    for (const auto* item : {&items_.gZoomItem, &items_.gMessagesItem, &items_.gMovieConverterItem,
-                             &items_.gUtilitiesPopup, &items_.gDatabaseConverterItem, &items_.gDatabaseViewerItem,
-                             &items_.gFontConverterItem, &items_.gFontViewerItem, &items_.gGraphicsConverterItem,
-                             &items_.gGraphicsViewerItem, &items_.gMovieViewerItem})
-        enable(*item);
+    for (const auto* command : commandsInTurn()) enable(items_.*command->item, command->needs != Needs::Never);
     for (const auto& item : items_.gDeployItems) enable(item);
     for (const auto& item : items_.gPackageItems) enable(item);
     const auto& install = items_.gInstallItems;
     for (std::int32_t i = 0; install.isAllocated() && i < install.UBound(); ++i) enable(install[i]);
 }
 
-/// The number of all design targets reaches beyond the slots, of which there is one a family.
+/// The number of all design targets exceeds the number of items, of which there is one for each family.
 void modMenuManagement::DisableQuinloftMenu() {
     basic::Suppressed quietly;
     const auto disable = [](const Item& item) { item->Enabled(false); };
-    for (const auto* item :
-         {&items_.gCompileItem, &items_.gPackageAllItem, &items_.gPackagePopup, &items_.gDeployAllItem,
-          &items_.gDeployPopup, &items_.gSettingsItem, &items_.gZoomItem, &items_.gMessagesItem})
-        if (*item) quietly([&] { disable(*item); });
+    for (const auto* command : commandsInTurn()) {
+        const auto& item = items_.*command->item;
+        if (item && command->needs == Needs::Project) quietly([&] { disable(item); });
+    }
     const auto count = services_.devices.GetNumDesignTargets();
     quietlyToFirst(quietly, items_.gDeployItems, count, disable);
     quietlyToFirst(quietly, items_.gPackageItems, count, disable);
 }
 
-/// The top-level popup goes last and takes the rest with it.
+/// The top-level popup is deleted last, and what is left in it with it.
 void modMenuManagement::RemoveQuinloftMenu() {
     basic::Suppressed quietly;
     const auto remove = [](const Item& item) { item->Delete(); };

@@ -1,10 +1,10 @@
-#include "Add-in/lifecycle/ProjectSetup.h"
+#include "Add-in/lifecycle/project_setup.h"
 #include "Add-in/lifecycle/lifecycle_texts.h"
 
 namespace fernwick {
 
 void ProjectSetup::SetupProject(const basic::Ref<clsQLProject>& project) {
-    Procedure here{services_.devices.errors, "modProjectHandler.SetupProject"};
+    Procedure here{services_.errors, "modProjectHandler.SetupProject"};
     leaveActiveProject(here);
     services_.projects.gCurrentProject = project->VBProject();
     if (project->IsStartUpProject()) return;
@@ -18,11 +18,11 @@ void ProjectSetup::SetupProject(const basic::Ref<clsQLProject>& project) {
             switchOn(here, project);
         } else {
             switchOff(here);
-            if (services_.devices.devices.GetNumDesignTargets() == 0)
+            if (services_.devices.GetNumDesignTargets() == 0)
                 services_.removal.RemoveProject(project->VBProject(), true, ""); // nothing here can serve it
         }
     }
-    here([&] { services_.devices.user.SetCursor(vbArrow); });
+    here([&] { services_.user.SetCursor(vbArrow); });
 }
 
 void ProjectSetup::leaveActiveProject(Procedure& here) {
@@ -34,11 +34,11 @@ void ProjectSetup::leaveActiveProject(Procedure& here) {
 
 bool ProjectSetup::hasDevice(const basic::Ref<clsQLProject>& project) {
     const std::string device = project->TargetDevice();
-    return !device.empty() && services_.devices.devices.IsValidDevice(device);
+    return !device.empty() && services_.devices.IsValidDevice(device);
 }
 
 void ProjectSetup::chooseDevice(Procedure& here, const basic::Ref<clsQLProject>& project) {
-    auto& devices = services_.devices.devices;
+    auto& devices = services_.devices;
     const auto count = devices.GetNumDesignTargets();
     const auto valid = devices.CreateValidDesignTargetList(false);
     if (!valid.empty() && count == 1)
@@ -49,8 +49,8 @@ void ProjectSetup::chooseDevice(Procedure& here, const basic::Ref<clsQLProject>&
     const std::string device = project->TargetDevice();
     if (!device.empty() && !devices.IsValidDevice(device)) {
         here([&] {
-            services_.devices.user.MsgBox(device + lifecycle_texts::kDeviceNotInstalled, vbExclamation,
-                                          lifecycle_texts::kTitle);
+            services_.user.MsgBox(device + lifecycle_texts::kDeviceNotInstalled, vbExclamation,
+                                  lifecycle_texts::kTitle);
         });
         askForTarget(here, project);
     }
@@ -58,7 +58,7 @@ void ProjectSetup::chooseDevice(Procedure& here, const basic::Ref<clsQLProject>&
 }
 
 void ProjectSetup::takeOnlyTarget(Procedure& here, const basic::Ref<clsQLProject>& project, const std::string& key) {
-    clsDeviceConfig device{services_.devices};
+    clsDeviceConfig device{services_.deviceServices};
     device.ReadDeviceConfig(key);
     here([&] { project->SetProjectForDeviceConfig(device); });
 }
@@ -98,7 +98,7 @@ void ProjectSetup::switchOff(Procedure& here) {
 }
 
 void ProjectSetup::StartProjectManager() {
-    Procedure here{services_.devices.errors, "modProjectHandler.StartProjectManager"};
+    Procedure here{services_.errors, "modProjectHandler.StartProjectManager"};
     if (here.test([&] { return services_.addIn.gVBInstance->VBProjects()->Count() < 1; }))
         return (void)here([&] { services_.features.ShowProjectManagerOnDelay(); });
 

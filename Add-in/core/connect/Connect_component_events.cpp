@@ -14,7 +14,7 @@ Connect::QLProject Connect::activeFernwickProject(Procedure& here) {
 
 void Connect::CompsEventsHandler_ItemAdded(Component VBComponent) {
     Procedure here{services_.errors, "Connect.CompsEventsHandler_ItemAdded"};
-    here([&] { services_.platform.loop.DoEvents(); });
+    here([&] { services_.loop.DoEvents(); });
     const auto project = activeFernwickProject(here);
     if (!project) return;
     vbide::vbext_ComponentType type{};

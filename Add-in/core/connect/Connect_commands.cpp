@@ -35,7 +35,7 @@ void Connect::CompileErrorWindowHandler_Click() {
 /// Reports come under the name that the command once had.
 void Connect::QuinloftSettingsHandler_Click() {
     Procedure here{services_.errors, "Connect.ProjectPropertiesHandler_Click"};
-    here([&] { services_.platform.interaction.SetCursor(vbHourglass); });
+    here([&] { services_.user.SetCursor(vbHourglass); });
     const auto project = here.value([&] { return activeProject(); });
     here([&] { services_.settings.ShowQuinloftSettings(project->VBProject(), kAnyPage, false); });
 }
@@ -72,10 +72,10 @@ void Connect::InstallVMAllDevices_Click() {
 /// Asks for devices as long as there are none and the user wants to go on.
 bool Connect::hasMyDevices() {
     while (services_.prefs.gMyDevices.empty()) {
-        const int answer = services_.platform.interaction.MsgBox(connect_texts::kNoDevices, vbInformation + vbYesNo,
-                                                                 connect_texts::kNoDevicesTitle);
+        const int answer =
+            services_.user.MsgBox(connect_texts::kNoDevices, vbInformation + vbYesNo, connect_texts::kNoDevicesTitle);
         if (answer != vbYes) return false;
-        services_.platform.interaction.SetCursor(vbHourglass);
+        services_.user.SetCursor(vbHourglass);
         const auto project = activeProject();
         services_.settings.ShowQuinloftSettings(project->VBProject(), kMyDevicesPage, false);
     }

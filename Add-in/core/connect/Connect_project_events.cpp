@@ -21,7 +21,7 @@ void Connect::ProjEventsHandler_ItemAdded(Project VBProject) {
     services_.setup.SetupProject(project);
     if (!project->IsQuinloftProject()) return;
     watchAddedProject(here);
-    here([&] { services_.platform.loop.DoEvents(); });
+    here([&] { services_.loop.DoEvents(); });
 
     const std::string device = project->TargetDevice();
     if (!device.empty() && services_.devices.IsValidDevice(device))
@@ -92,9 +92,9 @@ void Connect::refuseDevice(Procedure& here, const QLProject& project, const std:
 
 void Connect::closeAdded(Procedure& here, const Project& project) {
     here([&] { project->IsDirty(false); });
-    here([&] { services_.platform.loop.DoEvents(); });
+    here([&] { services_.loop.DoEvents(); });
     here([&] { services_.items.gFileFourthItem->Execute(); });
-    here([&] { services_.platform.loop.DoEvents(); });
+    here([&] { services_.loop.DoEvents(); });
 }
 
 /// The host still counts the project that goes.

@@ -10,7 +10,7 @@ void Connect::GlobalFileControlHandler_BeforeLoadFile(basic::Ref<vbide::VBProjec
                                                       const std::vector<std::string>&) {
     const std::string path = VBProject->FileName();
     if (path.empty()) return;
-    const auto file = services_.platform.files.OpenTextFile(path);
+    const auto file = services_.files.OpenTextFile(path);
     bool isOld = true, isFernwick = false;
     while (!file->AtEndOfStream()) {
         const std::string line = file->ReadLine();
@@ -19,8 +19,7 @@ void Connect::GlobalFileControlHandler_BeforeLoadFile(basic::Ref<vbide::VBProjec
     }
     file->Close();
     if (isOld && isFernwick)
-        services_.platform.interaction.MsgBox(connect_texts::kOldProject, vbExclamation,
-                                              connect_texts::kOldProjectTitle);
+        services_.user.MsgBox(connect_texts::kOldProject, vbExclamation, connect_texts::kOldProjectTitle);
 }
 
 /// The host then writes nothing of a project that is about to be converted, and raises no error. What the add-in has not

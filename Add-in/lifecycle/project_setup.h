@@ -10,11 +10,14 @@
 
 namespace fernwick {
 
-/// What the set-up of projects stands on.
+/// The dependencies of the set-up of projects.
 struct SetupServices {
-    AddIn& addIn;
+    ErrorReport& errors;
+    Interaction& user;
     EventLoop& loop;
-    DeviceServices devices;
+    AddIn& addIn;
+    modDeviceManagement& devices;
+    const DeviceServices& deviceServices;
     modProjectHandler& projects;
     modSaveProject& save;
     modCompileErrorManagement& messages;

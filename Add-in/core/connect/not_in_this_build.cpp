@@ -1,4 +1,4 @@
-#include "Add-in/core/connect/NotInThisBuild.h"
+#include "Add-in/core/connect/not_in_this_build.h"
 #include "Add-in/core/connect/connect_texts.h"
 
 namespace fernwick {

@@ -1,14 +1,17 @@
 #pragma once
 // Opens the sample that a user picked from the samples menu.
-#include "Add-in/commands/command_items.h"
+#include "Add-in/commands/command_table.h"
 #include "Add-in/project/modSaveProject.h"
 
 namespace fernwick {
 
-/// What the opening of samples stands on.
+/// The dependencies of the opening of samples.
 struct SampleServices {
-    Platform& platform;
     ErrorReport& errors;
+    Interaction& user;
+    EventLoop& loop;
+    const FileSystemObject& files;
+    const App& app;
     AddIn& addIn;
     modSaveProject& save;
     CommandItems& items;
