@@ -1,5 +1,5 @@
 // Measures growth: runs each job at two sizes and prints the ratio of the times per item. Linear growth is near 1.
-#include "Apps/fernwick/session.h"
+#include "Apps/fernwick/run/session.h"
 #include "Host/files/project_file.h"
 #include "tests/support/form_text.h"
 #include "tests/support/sample_project.h"

@@ -8,13 +8,15 @@ namespace {
 /// Ids of the host's own menus View and Add-Ins.
 constexpr int kViewMenuId = 30004;
 constexpr int kAddInsMenuId = 30038;
+/// The host's own command that saves the active project.
+constexpr int kSaveProjectId = 3;
 } // namespace
 
 /// The bar that the host's own menus stand on, however it is named. Nothing when there is none.
 basic::Ref<office::CommandBar> modMenuManagement::menuBar(basic::Suppressed& quietly) {
     basic::Ref<office::CommandBar> bar;
     quietly([&] {
-        const auto bars = use_.addIn.gVBInstance->CommandBars();
+        const auto bars = services_.addIn.gVBInstance->CommandBars();
         auto known = bars->FindControl(kViewMenuId);
         if (!known) known = bars->FindControl(kAddInsMenuId);
         bar = known ? bars->Item(known->Parent()->Name()) : bars->ActiveMenuBar();
@@ -39,13 +41,17 @@ modMenuManagement::Item modMenuManagement::AddSubMenu(const std::string& barName
 
 void modMenuManagement::tellNoMenuBar(const std::string& barName, const basic::ErrObject& error) {
     using namespace fmt::literals;
-    use_.user.MsgBox(fmt::format(command_texts::kNoMenu, "bar"_a = barName, "description"_a = error.Description,
-                                 "number"_a = error.Number),
-                     vbCritical, command_texts::kNoMenuTitle);
+    services_.user.MsgBox(fmt::format(command_texts::kNoMenu, "bar"_a = barName, "description"_a = error.Description,
+                                      "number"_a = error.Number),
+                          vbCritical, command_texts::kNoMenuTitle);
+}
+
+modMenuManagement::Item modMenuManagement::saveProjectItem() const {
+    return services_.addIn.gVBInstance->CommandBars()->FindControl(kSaveProjectId);
 }
 
 modMenuManagement::Item modMenuManagement::FindConverterMenuItem() {
-    Procedure here{use_.errors, "modMenuManagement.FindConverterMenuItem"};
+    Procedure here{services_.errors, "modMenuManagement.FindConverterMenuItem"};
     if (!items_.gUtilitiesPopup) return items_.gConverterItem;
     for (const auto& control : here.value([&] { return items_.gUtilitiesPopup->Controls()->items(); })) {
         const auto isConverter = [&] {

@@ -20,7 +20,7 @@ void quietlyToFirst(basic::Suppressed& quietly, const ItemArray& items, std::int
 
 /// Neither the configuration item nor the samples are ever disabled.
 void modMenuManagement::EnableQuinloftMenu() {
-    Procedure here{use_.errors, "modMenuManagement.EnableQuinloftMenu"};
+    Procedure here{services_.errors, "modMenuManagement.EnableQuinloftMenu"};
     const auto enable = [&](const Item& item) {
         if (item) here([&] { item->Enabled(true); });
     };
@@ -48,7 +48,7 @@ void modMenuManagement::DisableQuinloftMenu() {
          {&items_.gCompileItem, &items_.gPackageAllItem, &items_.gPackagePopup, &items_.gDeployAllItem,
           &items_.gDeployPopup, &items_.gSettingsItem, &items_.gZoomItem, &items_.gMessagesItem})
         if (*item) quietly([&] { disable(*item); });
-    const auto count = use_.devices.GetNumDesignTargets();
+    const auto count = services_.devices.GetNumDesignTargets();
     quietlyToFirst(quietly, items_.gDeployItems, count, disable);
     quietlyToFirst(quietly, items_.gPackageItems, count, disable);
 }
@@ -57,7 +57,7 @@ void modMenuManagement::DisableQuinloftMenu() {
 void modMenuManagement::RemoveQuinloftMenu() {
     basic::Suppressed quietly;
     const auto remove = [](const Item& item) { item->Delete(); };
-    const auto count = use_.devices.GetNumDesignTargets();
+    const auto count = services_.devices.GetNumDesignTargets();
     for (const auto* items : {&items_.gDeployItems, &items_.gPackageItems, &items_.gInstallItems})
         quietlyToFirst(quietly, *items, count, remove);
     for (const auto* item :

@@ -10,7 +10,7 @@ constexpr int kFourthFileItem = 4;
 
 /// The order of the steps is the order of the items.
 bool modMenuManagement::SetUpQuinloftMenu(const Host& VBInst) {
-    Keys devices = use_.devices.GetDesignTargets(false);
+    Keys devices = services_.devices.GetDesignTargets(false);
     kludgeForTopDevices(devices);
     SortDeviceList(devices);
     items_.gMainMenu = AddSubMenu("Menu Bar", LoadResString(kMenuString));
@@ -90,7 +90,7 @@ modMenuManagement::Item modMenuManagement::AddPopupToAddInCommandBar(const Item&
 modMenuManagement::Item modMenuManagement::button(const Item& parent, StringId caption, MenuLook look) {
     const auto item = AddToAddInCommandBar(parent, LoadResString(caption));
     if (look.group) item->BeginGroup(true);
-    if (look.face != kNoFace) use_.images.PlaceImageOnButton(item, look.face);
+    if (look.face != kNoFace) services_.images.PlaceImageOnButton(item, look.face);
     return item;
 }
 
@@ -111,9 +111,9 @@ void modMenuManagement::fillFamily(const Family& family, const Keys& devices, Fa
 Array<modMenuManagement::Item> modMenuManagement::deviceItems(const Item& popup, const Keys& devices, Face face) {
     Array<Item> all;
     for (const auto& key : devices) {
-        const auto item = AddToAddInCommandBar(popup, use_.devices.GetDeviceName(key));
+        const auto item = AddToAddInCommandBar(popup, services_.devices.GetDeviceName(key));
         item->Tag(key);
-        if (face != kNoFace) use_.images.PlaceImageOnButton(item, face);
+        if (face != kNoFace) services_.images.PlaceImageOnButton(item, face);
         all.Append(item);
     }
     if (!devices.empty()) return all;
@@ -140,8 +140,8 @@ void modMenuManagement::kludgeForTopDevices(Keys& devices) {
 void modMenuManagement::SortDeviceList(Keys& devices) { std::sort(devices.begin(), devices.end()); }
 
 void modMenuManagement::SetupDefaultTargetName(const std::string& deviceKey) {
-    Procedure here{use_.errors, "modMenuManagement.SetupDefaultTargetName"};
-    const auto name = use_.devices.GetDeviceName(deviceKey);
+    Procedure here{services_.errors, "modMenuManagement.SetupDefaultTargetName"};
+    const auto name = services_.devices.GetDeviceName(deviceKey);
     for (const auto& item : items_.gDeployItems) {
         const bool isDefault = here.test([&] { return item->Caption() == name; });
         here([&] { item->Style(isDefault ? office::msoButtonIconAndCaption : office::msoButtonCaption); });

@@ -34,7 +34,7 @@ public:
     using Item = CommandItems::Item;
     using Keys = std::vector<std::string>;
 
-    explicit modMenuManagement(const MenuServices& services) : use_(services), items_(services.items) {}
+    explicit modMenuManagement(const MenuServices& services) : services_(services), items_(services.items) {}
 
     /// False when the top-level popup could not be made; the user was told then. No trap.
     bool SetUpQuinloftMenu(const Host& VBInst);
@@ -54,6 +54,8 @@ public:
     void SetupDefaultTargetName(const std::string& deviceKey);
     /// Looks gConverterItem up; the last match counts, and without one it stays as it was.
     Item FindConverterMenuItem();
+    /// The host's command that saves the active project; Nothing where the host has none. No trap.
+    Item saveProjectItem() const;
 
     /// Leaves the first design target of each family, which is what stands before the first "-" of a key. A key
     /// without one is a family of its own.
@@ -89,7 +91,7 @@ private:
     basic::Ref<clsSampleMenuItem> addSampleItem(const Item& control, bool isPopup);
     void addSample(const Item& popup, const modSamplesManagement::Sample& stored);
 
-    MenuServices use_;
+    MenuServices services_;
     CommandItems& items_;
 };
 

@@ -14,7 +14,7 @@ bool modToolbarManagement::SetupQuinloftToolbar() try {
     showDisabled(bar);
     return true;
 } catch (const basic::RuntimeError& error) {
-    use_.errors.Error_ShowAddInError("modToolbarManagement.SetupQuinloftToolbar", error);
+    services_.errors.Error_ShowAddInError("modToolbarManagement.SetupQuinloftToolbar", error);
     return false;
 }
 
@@ -33,12 +33,12 @@ bool modToolbarManagement::SetupSupportToolbar() try {
     showDisabled(bar);
     return true;
 } catch (const basic::RuntimeError& error) {
-    use_.errors.Error_ShowAddInError("modToolbarManagement.SetupSupportToolbar", error);
+    services_.errors.Error_ShowAddInError("modToolbarManagement.SetupSupportToolbar", error);
     return false;
 }
 
 modToolbarManagement::Bar modToolbarManagement::AddToolbar(const std::string& name) {
-    const auto bars = use_.addIn.gVBInstance->CommandBars();
+    const auto bars = services_.addIn.gVBInstance->CommandBars();
     basic::Suppressed quietly;
     quietly([&] { bars->Item(name)->Delete(); });
     return bars->Add(name, office::msoBarTop, false);
@@ -51,7 +51,7 @@ modToolbarManagement::Item modToolbarManagement::AddControlButtonToolbar(const B
 modToolbarManagement::Item modToolbarManagement::button(const Bar& bar, StringId tip, Face face, bool group) {
     const auto item = AddControlButtonToolbar(bar);
     item->ToolTipText(LoadResString(tip));
-    use_.images.PlaceImageOnButton(item, face);
+    services_.images.PlaceImageOnButton(item, face);
     if (group) item->BeginGroup(true);
     return item;
 }
@@ -59,11 +59,11 @@ modToolbarManagement::Item modToolbarManagement::button(const Bar& bar, StringId
 void modToolbarManagement::showDisabled(const Bar& bar) {
     bar->Visible(true);
     bar->Enabled(false);
-    use_.prefs.ReadToolbarState(bar);
+    services_.prefs.ReadToolbarState(bar);
 }
 
 void modToolbarManagement::enable(const Bar& bar, const char* procedure) {
-    Procedure here{use_.errors, std::string("modToolbarManagement.") + procedure};
+    Procedure here{services_.errors, std::string("modToolbarManagement.") + procedure};
     if (bar) here([&] { bar->Enabled(true); });
 }
 
@@ -91,12 +91,12 @@ void modToolbarManagement::RemoveSupportToolbar() {
 
 void modToolbarManagement::SaveAllToolbarState() {
     for (const auto& bar : {items_.gMainToolbar, items_.gSupportToolbar})
-        if (bar) use_.prefs.SaveToolbarState(bar);
+        if (bar) services_.prefs.SaveToolbarState(bar);
 }
 
 void modToolbarManagement::RestoreAllToolbarState() {
     for (const auto& bar : {items_.gMainToolbar, items_.gSupportToolbar})
-        if (bar) use_.prefs.ReadToolbarState(bar);
+        if (bar) services_.prefs.ReadToolbarState(bar);
 }
 
 } // namespace fernwick

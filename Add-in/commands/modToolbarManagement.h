@@ -22,7 +22,7 @@ public:
     using Bar = basic::Ref<office::CommandBar>;
     using Item = CommandItems::Item;
 
-    explicit modToolbarManagement(const ToolbarServices& services) : use_(services), items_(services.items) {}
+    explicit modToolbarManagement(const ToolbarServices& services) : services_(services), items_(services.items) {}
 
     /// Each bar comes up disabled, where it last stood. False at the first failure, which is reported.
     bool SetupQuinloftToolbar();
@@ -51,7 +51,7 @@ private:
     void enable(const Bar& bar, const char* procedure);
     static void disable(const Bar& bar);
 
-    ToolbarServices use_;
+    ToolbarServices services_;
     CommandItems& items_;
 };
 

@@ -4,7 +4,7 @@
 namespace fernwick {
 
 void modMenuManagement::SetupSamplesMenu() {
-    Procedure here{use_.errors, "modMenuManagement.SetupSamplesMenu"};
+    Procedure here{services_.errors, "modMenuManagement.SetupSamplesMenu"};
     const auto& menu = items_.gSamplesPopup;
     items_.gSampleItems = {};
     here([&] { items_.gSampleIntroItem = button(menu, kSampleIntroString); });
@@ -15,19 +15,19 @@ void modMenuManagement::SetupSamplesMenu() {
 }
 
 void modMenuManagement::SetupDynamicSamplesMenu(const std::string& keyPath, const Item& parent, bool& isFirst) {
-    const RegistryKey key{use_.registry, use_.registry.OpenKey(HKEY_LOCAL_MACHINE, keyPath, KEY_READ)};
+    const RegistryKey key{services_.registry, services_.registry.OpenKey(HKEY_LOCAL_MACHINE, keyPath, KEY_READ)};
     if (!key) return;
-    for (const auto& below : sampleKeysBelow(use_.registry, key, keyPath))
+    for (const auto& below : sampleKeysBelow(services_.registry, key, keyPath))
         SetupDynamicSamplesMenuHelper(below, parent, isFirst);
 }
 
 /// A key without a default value is no node of the menu, and what lies below it is not visited. The nesting of the
 /// menu follows that of the keys: popups come before the samples of their key.
 void modMenuManagement::SetupDynamicSamplesMenuHelper(const std::string& keyPath, const Item& parent, bool& isFirst) {
-    Procedure here{use_.errors, "modMenuManagement.SetupDynamicSamplesMenuHelper"};
-    const RegistryKey key{use_.registry, use_.registry.OpenKey(HKEY_LOCAL_MACHINE, keyPath, KEY_READ)};
+    Procedure here{services_.errors, "modMenuManagement.SetupDynamicSamplesMenuHelper"};
+    const RegistryKey key{services_.registry, services_.registry.OpenKey(HKEY_LOCAL_MACHINE, keyPath, KEY_READ)};
     if (!key) return;
-    const auto caption = use_.registry.GetStringValue(key.handle(), "");
+    const auto caption = services_.registry.GetStringValue(key.handle(), "");
     if (!caption.ok() || caption.text.empty()) return;
 
     const auto menu = here.value([&] { return AddPopupToAddInCommandBar(parent, caption.text); });
@@ -35,12 +35,12 @@ void modMenuManagement::SetupDynamicSamplesMenuHelper(const std::string& keyPath
     if (isFirst) here([&] { menu->BeginGroup(true); });
     isFirst = false;
     SetupDynamicSamplesMenu(keyPath, menu, isFirst);
-    for (const auto& sample : samplesOf(use_.registry, key)) here([&] { addSample(menu, sample); });
+    for (const auto& sample : samplesOf(services_.registry, key)) here([&] { addSample(menu, sample); });
 }
 
 void modMenuManagement::addSample(const Item& popup, const modSamplesManagement::Sample& stored) {
     const auto sample = addSampleItem(AddToAddInCommandBar(popup, stored.Name), false);
-    use_.images.PlaceImageOnButton(sample->myOfficeCommandBar, kSampleFace);
+    services_.images.PlaceImageOnButton(sample->myOfficeCommandBar, kSampleFace);
     sample->Name = stored.Name;
     sample->fullPath = stored.fullPath;
 }

@@ -4,9 +4,9 @@
 namespace fernwick {
 
 void ProjectSetup::SetupProject(const basic::Ref<clsQLProject>& project) {
-    Procedure here{use_.devices.errors, "modProjectHandler.SetupProject"};
+    Procedure here{services_.devices.errors, "modProjectHandler.SetupProject"};
     leaveActiveProject(here);
-    use_.projects.gCurrentProject = project->VBProject();
+    services_.projects.gCurrentProject = project->VBProject();
     if (project->IsStartUpProject()) return;
 
     if (!project->IsQuinloftProject()) {
@@ -18,27 +18,27 @@ void ProjectSetup::SetupProject(const basic::Ref<clsQLProject>& project) {
             switchOn(here, project);
         } else {
             switchOff(here);
-            if (use_.devices.devices.GetNumDesignTargets() == 0)
-                use_.removal.RemoveProject(project->VBProject(), true, ""); // nothing here can serve it
+            if (services_.devices.devices.GetNumDesignTargets() == 0)
+                services_.removal.RemoveProject(project->VBProject(), true, ""); // nothing here can serve it
         }
     }
-    here([&] { use_.devices.user.SetCursor(vbArrow); });
+    here([&] { services_.devices.user.SetCursor(vbArrow); });
 }
 
 void ProjectSetup::leaveActiveProject(Procedure& here) {
-    const auto active = use_.projects.gCurrentProject;
-    if (!active || !here.test([&] { return use_.addIn.gVBInstance->VBProjects()->Count() >= 2; })) return;
-    const auto left = use_.projects.FindQLProject(active); // it may be the one that has just been closed
-    if (left && left->IsQuinloftProject()) use_.messages.SaveCompileErrorWindowState(active);
+    const auto active = services_.projects.gCurrentProject;
+    if (!active || !here.test([&] { return services_.addIn.gVBInstance->VBProjects()->Count() >= 2; })) return;
+    const auto left = services_.projects.FindQLProject(active); // it may be the one that has just been closed
+    if (left && left->IsQuinloftProject()) services_.messages.SaveCompileErrorWindowState(active);
 }
 
 bool ProjectSetup::hasDevice(const basic::Ref<clsQLProject>& project) {
     const std::string device = project->TargetDevice();
-    return !device.empty() && use_.devices.devices.IsValidDevice(device);
+    return !device.empty() && services_.devices.devices.IsValidDevice(device);
 }
 
 void ProjectSetup::chooseDevice(Procedure& here, const basic::Ref<clsQLProject>& project) {
-    auto& devices = use_.devices.devices;
+    auto& devices = services_.devices.devices;
     const auto count = devices.GetNumDesignTargets();
     const auto valid = devices.CreateValidDesignTargetList(false);
     if (!valid.empty() && count == 1)
@@ -49,8 +49,8 @@ void ProjectSetup::chooseDevice(Procedure& here, const basic::Ref<clsQLProject>&
     const std::string device = project->TargetDevice();
     if (!device.empty() && !devices.IsValidDevice(device)) {
         here([&] {
-            use_.devices.user.MsgBox(device + lifecycle_texts::kDeviceNotInstalled, vbExclamation,
-                                     lifecycle_texts::kTitle);
+            services_.devices.user.MsgBox(device + lifecycle_texts::kDeviceNotInstalled, vbExclamation,
+                                          lifecycle_texts::kTitle);
         });
         askForTarget(here, project);
     }
@@ -58,64 +58,65 @@ void ProjectSetup::chooseDevice(Procedure& here, const basic::Ref<clsQLProject>&
 }
 
 void ProjectSetup::takeOnlyTarget(Procedure& here, const basic::Ref<clsQLProject>& project, const std::string& key) {
-    clsDeviceConfig device{use_.devices};
+    clsDeviceConfig device{services_.devices};
     device.ReadDeviceConfig(key);
     here([&] { project->SetProjectForDeviceConfig(device); });
 }
 
 void ProjectSetup::askForTarget(Procedure& here, const basic::Ref<clsQLProject>& project) {
-    use_.chooseTarget.SetWorkingProject(project);
-    here([&] { use_.chooseTarget.ShowModal(); });
+    services_.chooseTarget.SetWorkingProject(project);
+    here([&] { services_.chooseTarget.ShowModal(); });
 }
 
 void ProjectSetup::prepareForDevice(Procedure& here, const basic::Ref<clsQLProject>& project) {
     here([&] { project->SaveFiles(); });
     here([&] { project->SetupProjectToolbar(); });
     here([&] { project->SetupProjectReferences(); });
-    here([&] { use_.commands.SetupDefaultTargetName(project->TargetDevice()); });
+    here([&] { services_.menu.SetupDefaultTargetName(project->TargetDevice()); });
 }
 
 void ProjectSetup::switchOn(Procedure& here, const basic::Ref<clsQLProject>& project) {
-    here([&] { use_.commands.EnableQuinloftMenu(); });
-    here([&] { use_.commands.EnableQuinloftToolbar(); });
-    here([&] { use_.commands.EnableSupportToolbar(); });
-    here([&] { use_.commands.InitZoomWindow(); });
+    here([&] { services_.menu.EnableQuinloftMenu(); });
+    here([&] { services_.toolbars.EnableQuinloftToolbar(); });
+    here([&] { services_.toolbars.EnableSupportToolbar(); });
+    here([&] { services_.features.InitZoomWindow(); });
     const auto vbProject = project->VBProject();
-    use_.messages.ReadProjectErrors(vbProject);
-    if (use_.messages.GetCompileErrorWindowState(vbProject))
-        use_.messages.ShowProjectCompileErrors(vbProject, true);
+    services_.messages.ReadProjectErrors(vbProject);
+    if (services_.messages.GetCompileErrorWindowState(vbProject))
+        services_.messages.ShowProjectCompileErrors(vbProject, true);
     else
-        use_.messages.HideProjectCompileErrors();
-    here([&] { use_.commands.SetupDefaultTargetName(project->TargetDevice()); });
+        services_.messages.HideProjectCompileErrors();
+    here([&] { services_.menu.SetupDefaultTargetName(project->TargetDevice()); });
     here([&] { project->PublishTavletStyle(); });
 }
 
 void ProjectSetup::switchOff(Procedure& here) {
-    here([&] { use_.commands.DisableQuinloftMenu(); });
-    here([&] { use_.commands.DisableQuinloftToolbar(); });
-    here([&] { use_.commands.DisableSupportToolbar(); });
-    use_.messages.HideProjectCompileErrors();
+    here([&] { services_.menu.DisableQuinloftMenu(); });
+    here([&] { services_.toolbars.DisableQuinloftToolbar(); });
+    here([&] { services_.toolbars.DisableSupportToolbar(); });
+    services_.messages.HideProjectCompileErrors();
 }
 
 void ProjectSetup::StartProjectManager() {
-    Procedure here{use_.devices.errors, "modProjectHandler.StartProjectManager"};
-    if (here.test([&] { return use_.addIn.gVBInstance->VBProjects()->Count() < 1; }))
-        return (void)here([&] { use_.commands.ShowProjectManagerOnDelay(); });
+    Procedure here{services_.devices.errors, "modProjectHandler.StartProjectManager"};
+    if (here.test([&] { return services_.addIn.gVBInstance->VBProjects()->Count() < 1; }))
+        return (void)here([&] { services_.features.ShowProjectManagerOnDelay(); });
 
-    const bool saved = use_.save.SaveProject(use_.projects.gCurrentProject, true, lifecycle_texts::kSaveBeforeManager,
-                                             true, lifecycle_texts::kManagerWillNotOpen);
+    const bool saved =
+        services_.save.SaveProject(services_.projects.gCurrentProject, true, lifecycle_texts::kSaveBeforeManager, true,
+                                   lifecycle_texts::kManagerWillNotOpen);
     if (!saved) return;
-    if (use_.projects.gCurrentProject) closeActiveProject(here);
-    here([&] { use_.commands.ShowProjectManagerOnDelay(); });
+    if (services_.projects.gCurrentProject) closeActiveProject(here);
+    here([&] { services_.features.ShowProjectManagerOnDelay(); });
 }
 
 void ProjectSetup::closeActiveProject(Procedure& here) {
-    const auto active = use_.projects.gCurrentProject;
-    here([&] { use_.addIn.gVBInstance->ActiveVBProject(active); });
+    const auto active = services_.projects.gCurrentProject;
+    here([&] { services_.addIn.gVBInstance->ActiveVBProject(active); });
     if (here.test([&] { return active->IsDirty(); })) here([&] { active->IsDirty(false); });
-    here([&] { use_.loop.DoEvents(); });
-    here([&] { use_.commands.gFileFourthItem()->Execute(); });
-    here([&] { use_.loop.DoEvents(); });
+    here([&] { services_.loop.DoEvents(); });
+    here([&] { services_.items.gFileFourthItem->Execute(); });
+    here([&] { services_.loop.DoEvents(); });
 }
 
 } // namespace fernwick

@@ -1,8 +1,11 @@
 #pragma once
 // What happens when a project becomes the active one, and when it makes way for the project manager.
 #include "Add-in/build/messages/modCompileErrorManagement.h"
+#include "Add-in/commands/modMenuManagement.h"
+#include "Add-in/commands/modToolbarManagement.h"
 #include "Add-in/lifecycle/frmDesignTargetNormal.h"
 #include "Add-in/lifecycle/frmProjectRemoval.h"
+#include "Add-in/lifecycle/missing_features.h"
 #include "Add-in/project/modSaveProject.h"
 
 namespace fernwick {
@@ -17,12 +20,15 @@ struct SetupServices {
     modCompileErrorManagement& messages;
     frmDesignTargetNormal& chooseTarget;
     frmProjectRemoval& removal;
-    IdeCommands& commands;
+    CommandItems& items;
+    modMenuManagement& menu;
+    modToolbarManagement& toolbars;
+    MissingFeatures& features;
 };
 
 class ProjectSetup {
 public:
-    explicit ProjectSetup(const SetupServices& services) : use_(services) {}
+    explicit ProjectSetup(const SetupServices& services) : services_(services) {}
 
     /// Makes the project the active one: gives it a device where it has none, and switches the interface and the
     /// messages to it.
@@ -41,7 +47,7 @@ private:
     void closeActiveProject(Procedure& here);
     bool hasDevice(const basic::Ref<clsQLProject>& project);
 
-    SetupServices use_;
+    SetupServices services_;
 };
 
 } // namespace fernwick

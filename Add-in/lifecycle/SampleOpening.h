@@ -1,7 +1,6 @@
 #pragma once
 // Opens the sample that a user picked from the samples menu.
-#include "Add-in/commands/clsSampleMenuItem.h"
-#include "Add-in/core/ide_commands.h"
+#include "Add-in/commands/command_items.h"
 #include "Add-in/project/modSaveProject.h"
 
 namespace fernwick {
@@ -12,12 +11,12 @@ struct SampleServices {
     ErrorReport& errors;
     AddIn& addIn;
     modSaveProject& save;
-    IdeCommands& commands;
+    CommandItems& items;
 };
 
 class SampleOpening {
 public:
-    explicit SampleOpening(const SampleServices& services) : use_(services) {}
+    explicit SampleOpening(const SampleServices& services) : services_(services) {}
 
     /// The sample takes the place of what is open, which is saved as its user wants. A sample that is open already
     /// stays, and so does a project whose saving fails or is cancelled.
@@ -27,7 +26,7 @@ private:
     bool isOpen(Procedure& here, const std::string& path);
     void closeActiveProject(Procedure& here);
 
-    SampleServices use_;
+    SampleServices services_;
 };
 
 } // namespace fernwick

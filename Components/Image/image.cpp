@@ -1,7 +1,7 @@
 #include "Components/Image/image.h"
 #include "Components/Image/image_bytes.h"
 
-namespace compiler {
+namespace image {
 
 namespace {
 
@@ -15,14 +15,14 @@ constexpr std::string_view kStrings = "STRS", kProject = "PROJ", kForms = "FORM"
 // ---- encoding: every section writes its texts as numbers of the string table --------------------------------
 
 struct SectionWriter {
-    ImageStrings& strings;
-    ImageWriter out;
+    Strings& strings;
+    Writer out;
 
     void text(const std::string& value) { out.u32(strings.numberOf(value)); }
     void count(std::size_t n) { out.u32(std::uint32_t(n)); }
 };
 
-std::string encodeProject(const Image& image, ImageStrings& strings) {
+std::string encodeProject(const Image& image, Strings& strings) {
     SectionWriter w{strings, {}};
     w.text(image.compilerVersion);
     w.text(image.projectName);
@@ -42,7 +42,7 @@ std::string encodeProject(const Image& image, ImageStrings& strings) {
     return w.out.bytes();
 }
 
-void encodeControl(SectionWriter& w, const ImageControl& control) {
+void encodeControl(SectionWriter& w, const Control& control) {
     w.text(control.className);
     w.text(control.name);
     w.out.u32(std::uint32_t(control.index));
@@ -55,14 +55,14 @@ void encodeControl(SectionWriter& w, const ImageControl& control) {
     for (const auto& child : control.children) encodeControl(w, child);
 }
 
-std::string encodeForms(const Image& image, ImageStrings& strings) {
+std::string encodeForms(const Image& image, Strings& strings) {
     SectionWriter w{strings, {}};
     w.count(image.forms.size());
     for (const auto& form : image.forms) encodeControl(w, form);
     return w.out.bytes();
 }
 
-void encodeModule(SectionWriter& w, const ImageModule& module) {
+void encodeModule(SectionWriter& w, const Module& module) {
     w.out.u8(std::uint8_t(module.kind));
     w.text(module.name);
     w.text(module.file);
@@ -79,7 +79,7 @@ void encodeModule(SectionWriter& w, const ImageModule& module) {
     for (const auto& literal : module.strings) w.text(literal);
 }
 
-std::string encodeModules(const Image& image, ImageStrings& strings) {
+std::string encodeModules(const Image& image, Strings& strings) {
     SectionWriter w{strings, {}};
     w.count(image.modules.size());
     for (const auto& module : image.modules) encodeModule(w, module);
@@ -90,7 +90,7 @@ std::string encodeModules(const Image& image, ImageStrings& strings) {
 
 struct SectionReader {
     const std::vector<std::string>& strings;
-    ImageReader in;
+    Reader in;
 
     std::string text() {
         const auto number = in.u32();
@@ -109,7 +109,7 @@ struct SectionReader {
 };
 
 std::vector<std::string> decodeStrings(std::string_view bytes) {
-    ImageReader in{bytes};
+    Reader in{bytes};
     std::vector<std::string> texts(in.count(4));
     for (auto& text : texts) text = in.raw(in.u32());
     if (!in.atEnd()) imageIsDamaged("the string table is too long");
@@ -135,9 +135,9 @@ void decodeProject(SectionReader r, Image& image) {
     r.end();
 }
 
-ImageControl decodeControl(SectionReader& r, int depth) {
+Control decodeControl(SectionReader& r, int depth) {
     if (depth > kDeepestControl) imageIsDamaged("controls are nested too deeply");
-    ImageControl control;
+    Control control;
     control.className = r.text();
     control.name = r.text();
     control.index = std::int32_t(r.in.u32());
@@ -152,15 +152,15 @@ ImageControl decodeControl(SectionReader& r, int depth) {
     return control;
 }
 
-ImageModule decodeModule(SectionReader& r) {
-    ImageModule module;
-    module.kind = r.kind(ImageModuleKind::Form);
+Module decodeModule(SectionReader& r) {
+    Module module;
+    module.kind = r.kind(ModuleKind::Form);
     module.name = r.text();
     module.file = r.text();
     module.lines = r.in.u32();
     module.members.resize(r.in.count(14));
     for (auto& member : module.members) {
-        member.kind = r.kind(ImageMemberKind::Declare);
+        member.kind = r.kind(MemberKind::Declare);
         member.isPublic = r.in.u8() != 0;
         member.name = r.text();
         member.firstLine = r.in.u32();
@@ -173,7 +173,7 @@ ImageModule decodeModule(SectionReader& r) {
 
 /// The bytes of each section by its name, checked.
 std::unordered_map<std::string, std::string_view> sectionsOf(std::string_view bytes) {
-    ImageReader in{bytes};
+    Reader in{bytes};
     if (in.raw(kMagic.size()) != kMagic) imageIsDamaged("it is no compiled application");
     const auto major = in.u16();
     if (major != kMajor) imageIsDamaged("its format is version " + std::to_string(major));
@@ -194,17 +194,17 @@ std::unordered_map<std::string, std::string_view> sectionsOf(std::string_view by
 
 } // namespace
 
-std::string encodeImage(const Image& image) {
-    ImageStrings strings;
+std::string encode(const Image& image) {
+    Strings strings;
     std::vector<std::pair<std::string_view, std::string>> sections;
     sections.emplace_back(kProject, encodeProject(image, strings));
     sections.emplace_back(kForms, encodeForms(image, strings));
     sections.emplace_back(kModules, encodeModules(image, strings));
-    ImageWriter table;
+    Writer table;
     strings.write(table);
     sections.emplace_back(kStrings, table.bytes());
 
-    ImageWriter body;
+    Writer body;
     std::size_t offset = kHeaderSize + sections.size() * kSectionEntrySize;
     for (const auto& [name, content] : sections) {
         body.raw(name);
@@ -214,7 +214,7 @@ std::string encodeImage(const Image& image) {
     }
     for (const auto& section : sections) body.raw(section.second);
 
-    ImageWriter file;
+    Writer file;
     file.raw(kMagic);
     file.u16(kMajor);
     file.u16(kMinor);
@@ -226,20 +226,20 @@ std::string encodeImage(const Image& image) {
     return file.bytes();
 }
 
-Image decodeImage(std::string_view bytes) {
+Image decode(std::string_view bytes) {
     auto sections = sectionsOf(bytes);
     for (const auto name : {kStrings, kProject, kForms, kModules})
         if (!sections.contains(std::string(name))) imageIsDamaged("section " + std::string(name) + " is missing");
     const auto strings = decodeStrings(sections[std::string(kStrings)]);
     Image image;
-    decodeProject({strings, ImageReader{sections[std::string(kProject)]}}, image);
-    SectionReader forms{strings, ImageReader{sections[std::string(kForms)]}};
+    decodeProject({strings, Reader{sections[std::string(kProject)]}}, image);
+    SectionReader forms{strings, Reader{sections[std::string(kForms)]}};
     for (auto n = forms.in.count(20); n > 0; --n) image.forms.push_back(decodeControl(forms, 0));
     forms.end();
-    SectionReader modules{strings, ImageReader{sections[std::string(kModules)]}};
+    SectionReader modules{strings, Reader{sections[std::string(kModules)]}};
     for (auto n = modules.in.count(21); n > 0; --n) image.modules.push_back(decodeModule(modules));
     modules.end();
     return image;
 }
 
-} // namespace compiler
+} // namespace image

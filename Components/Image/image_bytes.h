@@ -8,7 +8,7 @@
 #include <unordered_map>
 #include <vector>
 
-namespace compiler {
+namespace image {
 
 inline constexpr int kInvalidFileFormat = 321;
 
@@ -17,7 +17,7 @@ inline constexpr int kInvalidFileFormat = 321;
 /// CRC-32 as zip and PNG have it (polynomial 0xEDB88320, inverted).
 std::uint32_t crc32(std::string_view bytes);
 
-class ImageWriter {
+class Writer {
 public:
     void u8(std::uint8_t value) { bytes_ += char(value); }
     void u16(std::uint16_t value);
@@ -30,9 +30,9 @@ private:
 };
 
 /// Reads within its bytes; running over their end is a damaged image.
-class ImageReader {
+class Reader {
 public:
-    explicit ImageReader(std::string_view bytes) : rest_(bytes) {}
+    explicit Reader(std::string_view bytes) : rest_(bytes) {}
     std::uint8_t u8();
     std::uint16_t u16();
     std::uint32_t u32();
@@ -47,14 +47,14 @@ private:
 };
 
 /// Each text once; a text is known by its number.
-class ImageStrings {
+class Strings {
 public:
     std::uint32_t numberOf(const std::string& text);
-    void write(ImageWriter& writer) const;
+    void write(Writer& writer) const;
 
 private:
     std::unordered_map<std::string, std::uint32_t> numbers_;
     std::vector<std::string> texts_;
 };
 
-} // namespace compiler
+} // namespace image

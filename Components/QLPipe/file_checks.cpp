@@ -58,7 +58,7 @@ private:
             return error(kImageTooLarge, {file.name, bytesInWords(file.size), limits_.platform, bytesInWords(most)},
                          file.path);
         try {
-            const auto version = compiler::decodeImage(readWhole(file)).compilerVersion;
+            const auto version = image::decode(readWhole(file)).compilerVersion;
             if (version != kCompilerVersion)
                 error(kImageOfOtherCompiler, {file.name, version, kCompilerVersion}, file.path);
         } catch (const basic::RuntimeError& damage) {

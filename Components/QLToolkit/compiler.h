@@ -4,13 +4,13 @@
 #include "Add-in/platform/compiler.h"
 #include "Add-in/platform/files.h"
 #include "Components/Image/image.h"
-#include "Components/QLToolkit/check.h"
+#include "Components/QLToolkit/parser/parse.h"
 #include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
-namespace compiler {
+namespace qltoolkit {
 
 /// The version that images carry.
 inline constexpr const char* kCompilerVersion = "3.5.0 (0624)";
@@ -33,7 +33,7 @@ struct CompilerServices {
     std::shared_ptr<BuildRecord> record = std::make_shared<BuildRecord>();
 };
 
-class ProjectCompiler : public qltoolkit::Compiler {
+class ProjectCompiler : public Compiler {
 public:
     explicit ProjectCompiler(CompilerServices services) : services_(std::move(services)) {}
 
@@ -68,15 +68,15 @@ private:
     };
 
     bool compile();
-    void compileSources(Image& image, SymbolTable& symbols);
-    void compileSource(const std::string& path, Image& image, SymbolTable& symbols);
-    void checkNames(const Image& image);
+    void compileSources(image::Image& image, SymbolTable& symbols);
+    void compileSource(const std::string& path, image::Image& image, SymbolTable& symbols);
+    void checkNames(const image::Image& image);
     std::vector<Library> findLibraries();
     std::optional<Library> findLibrary(const BuildFile& file);
-    void reportDependencies(const Image& image, const std::vector<Library>& libraries);
-    void reportFilesOf(const ImageControl& control, const std::string& folder);
+    void reportDependencies(const image::Image& image, const std::vector<Library>& libraries);
+    void reportFilesOf(const image::Control& control, const std::string& folder);
     void report(const Diagnostic& diagnostic);
-    bool writeImage(const Image& image);
+    bool writeImage(const image::Image& image);
 
     CompilerServices services_;
     Input input_;
@@ -84,13 +84,13 @@ private:
 };
 
 /// Registered as "QLToolkit.CompilerFactory".
-class ProjectCompilerFactory : public qltoolkit::CompilerFactory {
+class ProjectCompilerFactory : public CompilerFactory {
 public:
     explicit ProjectCompilerFactory(CompilerServices services) : services_(std::move(services)) {}
-    basic::Ref<qltoolkit::Compiler> CreateCompiler() override { return basic::make<ProjectCompiler>(services_); }
+    basic::Ref<Compiler> CreateCompiler() override { return basic::make<ProjectCompiler>(services_); }
 
 private:
     CompilerServices services_;
 };
 
-} // namespace compiler
+} // namespace qltoolkit

@@ -3,11 +3,11 @@
 #include "Components/Image/image.h"
 #include "Components/QLToolkit/parser/ast.h"
 
-namespace compiler {
+namespace qltoolkit {
 
 /// The VB_Name of a module; "" where it has none.
 std::string moduleName(const Module& module, const SymbolTable& symbols);
 
-ImageModule imageOf(const Module& module, const SymbolTable& symbols);
+image::Module imageOf(const Module& module, const SymbolTable& symbols);
 
-} // namespace compiler
+} // namespace qltoolkit

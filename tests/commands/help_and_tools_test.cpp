@@ -33,7 +33,6 @@ protected:
     Shell programs;
     fernwick::Platform platformWithPrograms{user,       loop,     registry, files, processes, classes,     environment,
                                             pasteboard, programs, screen,   clock, pictures,  platform.app};
-    fernwick::modQLInstallInfo install{registry2, files};
     fernwick::modViewConvertManagement tools{programs, install, errors};
     fernwick::modHelpManagement help{platformWithPrograms, install, errors};
 };

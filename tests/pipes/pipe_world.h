@@ -70,11 +70,11 @@ public:
 /// An image as the compiler writes it.
 inline std::string imageOf(const std::string& project, const std::string& compilerVersion = "3.5.0 (0624)",
                            std::size_t padding = 0) {
-    compiler::Image image;
+    image::Image image;
     image.compilerVersion = compilerVersion;
     image.projectName = project;
     image.info.emplace_back("Comments", std::string(padding, 'x'));
-    return compiler::encodeImage(image);
+    return image::encode(image);
 }
 
 /// The files of a project in a folder, and the two lists that name them.

@@ -17,13 +17,13 @@ struct ZipEntry {
     std::optional<std::uint32_t> size;
 };
 
-inline void writeZipHeader(compiler::ImageWriter& to, const ZipEntry& entry) {
+inline void writeZipHeader(image::Writer& to, const ZipEntry& entry) {
     to.u16(20); // version needed
     to.u16(0);
     to.u16(entry.method);
     to.u16(0);
     to.u16(33); // 1980-01-01
-    to.u32(compiler::crc32(entry.packed));
+    to.u32(image::crc32(entry.packed));
     to.u32(std::uint32_t(entry.packed.size()));
     to.u32(entry.size.value_or(std::uint32_t(entry.packed.size())));
     to.u16(std::uint16_t(entry.name.size()));
@@ -31,7 +31,7 @@ inline void writeZipHeader(compiler::ImageWriter& to, const ZipEntry& entry) {
 }
 
 inline std::string zipOf(const std::vector<ZipEntry>& entries) {
-    compiler::ImageWriter bytes, directory;
+    image::Writer bytes, directory;
     for (const auto& entry : entries) {
         const auto offset = std::uint32_t(bytes.bytes().size());
         bytes.raw("PK\3\4");

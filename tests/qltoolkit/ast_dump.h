@@ -6,11 +6,11 @@
 #include <fmt/format.h>
 #include <string>
 
-namespace compiler::dump {
+namespace qltoolkit::dump {
 
 class Dumper {
 public:
-    Dumper(const SourceFile& source, const SymbolTable& symbols) : source_(source), symbols_(symbols) {}
+    Dumper(const SourceText& source, const SymbolTable& symbols) : source_(source), symbols_(symbols) {}
 
     std::string module(const Module& m) const {
         std::string text;
@@ -88,34 +88,35 @@ public:
     std::string expr(const Expr* e) const {
         if (!e) return "_";
         switch (e->kind) {
-        case ExprKind::Integer: return std::to_string(compiler::as<IntegerExpr>(*e).value);
-        case ExprKind::Long: return std::to_string(compiler::as<IntegerExpr>(*e).value) + "&";
-        case ExprKind::Currency: return std::to_string(compiler::as<IntegerExpr>(*e).value) + "/10000";
-        case ExprKind::Single: return real(compiler::as<FloatExpr>(*e).value) + "!";
-        case ExprKind::Double: return real(compiler::as<FloatExpr>(*e).value) + "#";
-        case ExprKind::Date: return "#" + real(compiler::as<FloatExpr>(*e).value) + "#";
-        case ExprKind::String: return '"' + stringValue(source_, compiler::as<StringExpr>(*e)) + '"';
+        case ExprKind::Integer: return std::to_string(qltoolkit::as<IntegerExpr>(*e).value);
+        case ExprKind::Long: return std::to_string(qltoolkit::as<IntegerExpr>(*e).value) + "&";
+        case ExprKind::Currency: return std::to_string(qltoolkit::as<IntegerExpr>(*e).value) + "/10000";
+        case ExprKind::Single: return real(qltoolkit::as<FloatExpr>(*e).value) + "!";
+        case ExprKind::Double: return real(qltoolkit::as<FloatExpr>(*e).value) + "#";
+        case ExprKind::Date: return "#" + real(qltoolkit::as<FloatExpr>(*e).value) + "#";
+        case ExprKind::String: return '"' + stringValue(source_, qltoolkit::as<StringExpr>(*e)) + '"';
         case ExprKind::Boolean: return e->detail ? "True" : "False";
         case ExprKind::Empty: return "Empty";
         case ExprKind::Null: return "Null";
         case ExprKind::Nothing: return "Nothing";
         case ExprKind::Me: return "Me";
-        case ExprKind::Name: return name(compiler::as<NameExpr>(*e).name, e->suffix());
-        case ExprKind::Member: return member(".", compiler::as<MemberExpr>(*e));
-        case ExprKind::Bang: return member("!", compiler::as<MemberExpr>(*e));
+        case ExprKind::Name: return name(qltoolkit::as<NameExpr>(*e).name, e->suffix());
+        case ExprKind::Member: return member(".", qltoolkit::as<MemberExpr>(*e));
+        case ExprKind::Bang: return member("!", qltoolkit::as<MemberExpr>(*e));
         case ExprKind::Index:
-            return list("call", expr(compiler::as<IndexExpr>(*e).callee),
-                        arguments(compiler::as<IndexExpr>(*e).arguments));
-        case ExprKind::Paren: return list("paren", expr(compiler::as<UnaryExpr>(*e).operand));
-        case ExprKind::Unary: return list(operatorText(e->op()), expr(compiler::as<UnaryExpr>(*e).operand));
+            return list("call", expr(qltoolkit::as<IndexExpr>(*e).callee),
+                        arguments(qltoolkit::as<IndexExpr>(*e).arguments));
+        case ExprKind::Paren: return list("paren", expr(qltoolkit::as<UnaryExpr>(*e).operand));
+        case ExprKind::Unary: return list(operatorText(e->op()), expr(qltoolkit::as<UnaryExpr>(*e).operand));
         case ExprKind::Binary:
-            return list(operatorText(e->op()), expr(compiler::as<BinaryExpr>(*e).left),
-                        expr(compiler::as<BinaryExpr>(*e).right));
-        case ExprKind::New: return list("new", type(compiler::as<NewExpr>(*e).type));
+            return list(operatorText(e->op()), expr(qltoolkit::as<BinaryExpr>(*e).left),
+                        expr(qltoolkit::as<BinaryExpr>(*e).right));
+        case ExprKind::New: return list("new", type(qltoolkit::as<NewExpr>(*e).type));
         case ExprKind::TypeOf:
-            return list("typeof", expr(compiler::as<TypeOfExpr>(*e).operand), type(compiler::as<TypeOfExpr>(*e).type));
-        case ExprKind::AddressOf: return list("addressof", expr(compiler::as<UnaryExpr>(*e).operand));
-        case ExprKind::Coordinates: return coordinates(compiler::as<CoordinatesExpr>(*e));
+            return list("typeof", expr(qltoolkit::as<TypeOfExpr>(*e).operand),
+                        type(qltoolkit::as<TypeOfExpr>(*e).type));
+        case ExprKind::AddressOf: return list("addressof", expr(qltoolkit::as<UnaryExpr>(*e).operand));
+        case ExprKind::Coordinates: return coordinates(qltoolkit::as<CoordinatesExpr>(*e));
         case ExprKind::Range: return "RANGE";
         }
         return "?";
@@ -170,7 +171,7 @@ private:
     }
     template <class T>
     static const T& st(const Stmt& s) {
-        return compiler::as<T>(s);
+        return qltoolkit::as<T>(s);
     }
 
     std::string stmt(const Stmt& s) const {
@@ -302,7 +303,7 @@ private:
     }
     template <class T>
     static const T& de(const Decl& d) {
-        return compiler::as<T>(d);
+        return qltoolkit::as<T>(d);
     }
 
     std::string decl(const Decl& d) const {
@@ -349,7 +350,7 @@ private:
         return list("def", type(&t), letters);
     }
 
-    const SourceFile& source_;
+    const SourceText& source_;
     const SymbolTable& symbols_;
 };
 
@@ -375,7 +376,7 @@ struct Parsed {
         return "no procedure";
     }
 
-    SourceFile source;
+    SourceText source;
     SymbolTable symbols;
     ParseResult result;
 };
@@ -402,4 +403,4 @@ struct Pair {
     const char* dump;
 };
 
-} // namespace compiler::dump
+} // namespace qltoolkit::dump

@@ -13,8 +13,8 @@ struct Totals {
 };
 
 void checkOne(const std::string& path, const basic::CodePage& page, Totals& totals) {
-    if (compiler::fileKindOf(path) == compiler::FileKind::Unknown) return;
-    const auto result = compiler::checkFile(path, {}, page);
+    if (qltoolkit::fileKindOf(path) == qltoolkit::FileKind::Unknown) return;
+    const auto result = qltoolkit::checkFile(path, {}, page);
     ++totals.files;
     totals.lines += result.lines;
     totals.errors += result.errors;

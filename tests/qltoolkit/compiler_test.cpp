@@ -4,7 +4,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-using namespace compiler;
+using namespace qltoolkit;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::StartsWith;
@@ -99,7 +99,7 @@ TEST_F(CompilerComponent, WritesAnImageAndSaysHowFarItIs) {
     EXPECT_TRUE(compiler_->Build());
     EXPECT_THAT(events_, ElementsAre("started", "Compiling frmTip.frm", "45% completed", "Compiling modMain.bas",
                                      "90% completed", "100% completed", "good"));
-    const auto image = decodeImage(folder_.read("Tips.0000.qlx"));
+    const auto image = image::decode(folder_.read("Tips.0000.qlx"));
     EXPECT_EQ(image.projectName, "Tips");
     EXPECT_EQ(image.startup, "frmTip");
     EXPECT_THAT(image.info, ElementsAre(std::pair<std::string, std::string>("Title", "Tips")));
@@ -111,28 +111,28 @@ TEST_F(CompilerComponent, WritesAnImageAndSaysHowFarItIs) {
 TEST_F(CompilerComponent, KeepsFormsWithControlsAndProperties) {
     add("frmTip.frm", kForm);
     ASSERT_TRUE(compiler_->Build());
-    const auto image = decodeImage(folder_.read("Tips.0000.qlx"));
+    const auto image = image::decode(folder_.read("Tips.0000.qlx"));
     ASSERT_EQ(image.forms.size(), 1U);
     const auto& form = image.forms[0];
     EXPECT_EQ(form.name, "frmTip");
     EXPECT_THAT(form.properties,
-                ElementsAre(ImageProperty{"Caption", "\"Tip's \"\"best\"\"\""}, ImageProperty{"Font.Size", "12"}));
+                ElementsAre(image::Property{"Caption", "\"Tip's \"\"best\"\"\""}, image::Property{"Font.Size", "12"}));
     ASSERT_EQ(form.children.size(), 1U);
     EXPECT_EQ(form.children[0].className, "TavletsCtl.QLPicture");
     EXPECT_EQ(form.children[0].index, 3);
-    EXPECT_EQ(form.children[0].properties[1], (ImageProperty{"PictureName", "\"logo.rgx\""}));
+    EXPECT_EQ(form.children[0].properties[1], (image::Property{"PictureName", "\"logo.rgx\""}));
 }
 
 TEST_F(CompilerComponent, KeepsModulesWithMembersAndStrings) {
     add("modMain.bas", kModule);
     compiler_->SetStartupObject("Sub Main");
     ASSERT_TRUE(compiler_->Build());
-    const auto image = decodeImage(folder_.read("Tips.0000.qlx"));
+    const auto image = image::decode(folder_.read("Tips.0000.qlx"));
     ASSERT_EQ(image.modules.size(), 1U);
     EXPECT_EQ(image.modules[0].name, "modMain");
     EXPECT_EQ(image.modules[0].file, "modMain.bas");
-    EXPECT_THAT(image.modules[0].members, ElementsAre(ImageMember{ImageMemberKind::Sub, true, "Main", 2, 0},
-                                                      ImageMember{ImageMemberKind::Function, false, "Name", 5, 2}));
+    EXPECT_THAT(image.modules[0].members, ElementsAre(image::Member{image::MemberKind::Sub, true, "Main", 2, 0},
+                                                      image::Member{image::MemberKind::Function, false, "Name", 5, 2}));
     EXPECT_THAT(image.modules[0].strings, ElementsAre("Hello ", "x"));
 }
 
@@ -216,7 +216,7 @@ TEST_F(CompilerComponent, ResetForgetsAllInput) {
     compiler_->Reset();
     compiler_->SetOutputPath(folder_ / "Tips");
     EXPECT_TRUE(compiler_->Build());
-    const auto image = decodeImage(folder_.read("Tips.0000.qlx"));
+    const auto image = image::decode(folder_.read("Tips.0000.qlx"));
     EXPECT_THAT(image.modules, IsEmpty());
     EXPECT_THAT(image.info, IsEmpty());
 }

@@ -3,9 +3,9 @@
 #include "tests/qltoolkit/ast_dump.h"
 #include <gtest/gtest.h>
 
-using compiler::Keyword;
-using compiler::dump::Parsed;
-using compiler::dump::statements;
+using qltoolkit::Keyword;
+using qltoolkit::dump::Parsed;
+using qltoolkit::dump::statements;
 
 namespace {
 
@@ -105,14 +105,15 @@ TEST(Lexer, LongNames) {
 }
 
 TEST(Keywords, AreFoundInEveryCase) {
-    for (int i = 1; i <= static_cast<int>(Keyword::Width); ++i) {
+    for (int i = 1; i <= static_cast<int>(qltoolkit::kLastKeyword); ++i) {
         const auto k = static_cast<Keyword>(i);
-        std::string word(compiler::spelling(k));
+        std::string word(qltoolkit::spelling(k));
         const auto length = static_cast<std::uint32_t>(word.size());
         for (char& c : word) c = static_cast<char>(c ^ (c >= 'a' && i % 2 ? 0x20 : 0));
         word.append(16, '\0');
-        EXPECT_EQ(compiler::keywordOf(word.data(), length), k) << word;
+        EXPECT_EQ(qltoolkit::keywordOf(word.data(), length), k) << word;
     }
-    EXPECT_EQ(compiler::keywordOf("Implementx\0\0\0\0\0\0\0\0", 10), Keyword::None);
-    EXPECT_EQ(compiler::keywordOf("_or\0\0\0\0\0\0\0\0", 3), Keyword::None);
+    EXPECT_EQ(qltoolkit::keywordOf("CInt\0\0\0\0\0\0\0\0", 4), Keyword::None) << "an ordinary function";
+    EXPECT_EQ(qltoolkit::keywordOf("Implementx\0\0\0\0\0\0\0\0", 10), Keyword::None);
+    EXPECT_EQ(qltoolkit::keywordOf("_or\0\0\0\0\0\0\0\0", 3), Keyword::None);
 }

@@ -3,7 +3,7 @@
 #include <chrono>
 #include <gtest/gtest.h>
 
-using compiler::dump::Parsed;
+using qltoolkit::dump::Parsed;
 
 namespace {
 

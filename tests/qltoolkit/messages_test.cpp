@@ -3,10 +3,10 @@
 #include <gtest/gtest.h>
 #include <set>
 
-using compiler::allMessages;
-using compiler::Message;
-using compiler::messageText;
-using compiler::dump::Parsed;
+using qltoolkit::allMessages;
+using qltoolkit::Message;
+using qltoolkit::messageText;
+using qltoolkit::dump::Parsed;
 
 TEST(Messages, EveryRowIsComplete) {
     std::set<std::string_view> texts;
@@ -20,7 +20,7 @@ TEST(Messages, EveryRowIsComplete) {
             EXPECT_NE(part.find_last_of(".:1)"), std::string_view::npos) << part;
             EXPECT_EQ(part.find("  "), std::string_view::npos) << part;
         }
-        EXPECT_EQ(&compiler::messageInfo(row.message), &row);
+        EXPECT_EQ(&qltoolkit::messageInfo(row.message), &row);
     }
 }
 

@@ -1,9 +1,9 @@
 #include "tests/qltoolkit/ast_dump.h"
 #include <gtest/gtest.h>
 
-using compiler::dump::declarations;
-using compiler::dump::Pair;
-using compiler::dump::Parsed;
+using qltoolkit::dump::declarations;
+using qltoolkit::dump::Pair;
+using qltoolkit::dump::Parsed;
 
 namespace {
 
@@ -209,7 +209,7 @@ TEST(ConditionalCompilation, ComputesConditions) {
 }
 
 TEST(ConditionalCompilation, ProjectsBringTheirConstants) {
-    const auto constants = compiler::parseConditionalConstants("Fast = 1 : Level = -5:bad:QUINLOFT=0: Wrong = x");
+    const auto constants = qltoolkit::parseConditionalConstants("Fast = 1 : Level = -5:bad:QUINLOFT=0: Wrong = x");
     ASSERT_EQ(constants.size(), 3u);
     const Parsed parsed{"#If fast And Level = -5 And QUINLOFT = 0 Then\nDim yes\n#End If", "Test.bas", constants};
     EXPECT_EQ(parsed.module(), "(dim yes)");

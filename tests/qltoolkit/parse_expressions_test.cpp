@@ -1,8 +1,8 @@
 #include "tests/qltoolkit/ast_dump.h"
 #include <gtest/gtest.h>
 
-using compiler::dump::expression;
-using compiler::dump::Pair;
+using qltoolkit::dump::expression;
+using qltoolkit::dump::Pair;
 
 namespace {
 
@@ -152,7 +152,7 @@ TEST(ParseExpressions, Members) {
 }
 
 TEST(ParseExpressions, MembersOfTheInnermostWith) {
-    using compiler::dump::statements;
+    using qltoolkit::dump::statements;
     EXPECT_EQ(statements("With a\n.x = .y + !z\n!k = .m.n(.o)\nEnd With"),
               "(with a {(let (. x) (+ (. y) (! z))) (let (! k) (call (. (. m) n) (. o)))})");
 }

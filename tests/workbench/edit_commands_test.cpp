@@ -1,5 +1,5 @@
 // What the commands and keys of the code windows do.
-#include "Apps/workbench/bars/command_icons.h"
+#include "Apps/workbench/window/commands.h"
 #include "Apps/workbench/code/definition.h"
 #include "tests/workbench/open_desktop.h"
 #include <QApplication>
@@ -234,7 +234,7 @@ TEST_F(Definitions, AComponentsNameLeadsToItsCode) {
 TEST_F(Definitions, WhatIsPrivateElsewhereIsNotMeant) {
     openBoth();
     EXPECT_EQ(definition("modB", 4, 6), "modB 4:6 ");
-    EXPECT_EQ(window().findChild<QLabel*>("findSaid")->text(), "\"Hidden\" is declared nowhere in this project.");
+    EXPECT_EQ(window().findChild<QLabel*>("findSaid")->text(), "\"Hidden\" is not declared in this project.");
 }
 
 TEST_F(Definitions, NothingIsLookedForInCommentsAndTexts) {

@@ -1,5 +1,5 @@
 // Finding and replacing, from one line of code to a whole project.
-#include "Apps/workbench/bars/command_icons.h"
+#include "Apps/workbench/window/commands.h"
 #include "Apps/workbench/code/code_pattern.h"
 #include "Apps/workbench/code/find_bar.h"
 #include "tests/workbench/open_desktop.h"
@@ -119,7 +119,7 @@ TEST_F(Finding, OneAfterTheOtherAndRoundWithAWord) {
     EXPECT_THAT(next(3), ElementsAre("modA 3:5 x", "modA 3:9 x", "modA 6:5 x"));
     EXPECT_EQ(said(), "");
     EXPECT_THAT(next(1), ElementsAre("modA 1:5 x"));
-    EXPECT_EQ(said(), "The search went on from the beginning.");
+    EXPECT_EQ(said(), "The search continued from the beginning.");
     EXPECT_THAT(next(1), ElementsAre("modA 3:5 x"));
     EXPECT_EQ(said(), "");
 }
@@ -136,7 +136,7 @@ TEST_F(Finding, Backwards) {
     EXPECT_EQ(selection(), "modA 1:5 x");
     press("findPrevious");
     EXPECT_EQ(selection(), "modA 6:5 x");
-    EXPECT_EQ(said(), "The search went on from the end.");
+    EXPECT_EQ(said(), "The search continued from the end.");
 }
 
 TEST_F(Finding, InTheProcedureAlone) {
@@ -158,10 +158,10 @@ TEST_F(Finding, InTheProjectWindowsOpenWhereSomethingIsFound) {
     EXPECT_EQ(said(), "");
     EXPECT_EQ(window().code().count(), 2); // and none for modB
     EXPECT_THAT(next(1), ElementsAre("modA 1:5 x"));
-    EXPECT_EQ(said(), "The search went on from the beginning.");
+    EXPECT_EQ(said(), "The search continued from the beginning.");
     press("findPrevious");
     EXPECT_EQ(selection(), "modC 1:5 x");
-    EXPECT_EQ(said(), "The search went on from the end.");
+    EXPECT_EQ(said(), "The search continued from the end.");
 }
 
 TEST_F(Finding, WhatIsNotThereIsTold) {
@@ -221,7 +221,7 @@ TEST_F(Finding, TheWordComesWithoutTheBarToo) {
     editor.setCursorPosition(6, 7);
     QTest::keyClick(&editor, Qt::Key_F3);
     EXPECT_TRUE(bar().isVisible());
-    EXPECT_EQ(said(), "The search went on from the beginning.");
+    EXPECT_EQ(said(), "The search continued from the beginning.");
     EXPECT_TRUE(editor.hasFocus());
 }
 

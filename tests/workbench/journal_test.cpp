@@ -94,7 +94,7 @@ TEST_F(Journals, WhatWasTypedSurvivesAKilledProgram) {
     answerWith("Restore");
     openFile(project);
     waitForBox();
-    EXPECT_THAT(boxes, ElementsAre(HasSubstr("Unsaved text of one file of Hello.vbp survived from")));
+    EXPECT_THAT(boxes, ElementsAre(HasSubstr("Unsaved changes to one file of Hello.vbp were recovered (from")));
     EXPECT_EQ(held("modA"), "' typed ' a");
     EXPECT_EQ(window().code().current()->scintilla().text().toStdString(), "' typed ' a");
     EXPECT_TRUE(component("modA")->IsDirty());
@@ -255,7 +255,7 @@ TEST_F(Journals, ANewerFileOnDiskIsToldAndNotReplacedWithoutAQuestion) {
     answerWith("Restore");
     openFile(project);
     waitForBox();
-    EXPECT_THAT(boxes, ElementsAre(HasSubstr("modA (modA.bas) - the file on disk was changed since")));
+    EXPECT_THAT(boxes, ElementsAre(HasSubstr("modA (modA.bas) - changed on disk since")));
     EXPECT_EQ(held("modA"), "' kept");
     QTest::qWait(700);
     EXPECT_EQ(boxes.size(), 1u); // told once
@@ -368,7 +368,7 @@ TEST_F(Journals, WhereNothingCanBeKeptTheUserIsToldOnce) {
     answerWith("OK");
     QTest::keyClicks(&code("modA"), "a");
     waitForBox();
-    EXPECT_THAT(boxes, ElementsAre(HasSubstr("can't be kept")));
+    EXPECT_THAT(boxes, ElementsAre(HasSubstr("Crash recovery is not available")));
     QTest::keyClicks(&code("modA"), "b");
     QTest::qWait(1200);
     EXPECT_EQ(boxes.size(), 1u);

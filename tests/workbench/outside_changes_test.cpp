@@ -111,7 +111,7 @@ TEST_F(OutsideChanges, OneQuestionTellsOfAll) {
     waitForQuestion();
     EXPECT_EQ(questions, 1);
     EXPECT_THAT(rows,
-                ElementsAre("[x] modA (modA.bas)", "[ ] modB (modB.bas) - you changed it too, which would be lost"));
+                ElementsAre("[x] modA (modA.bas)", "[ ] modB (modB.bas) - reloading loses your unsaved changes"));
     EXPECT_EQ(held("modA"), "' theirs");
     EXPECT_EQ(held("modB"), "mine ' b");
 }
@@ -137,7 +137,7 @@ TEST_F(OutsideChanges, WhatIsKeptIsNotSavedOverTheirsWithoutAQuestion) {
     EXPECT_THAT(boxes, ElementsAre(HasSubstr("modA.bas was changed by another program")));
     EXPECT_EQ(folder.read("modA.bas"), moduleText("modA", "' theirs\r\n"));
     EXPECT_TRUE(component("modA")->IsDirty());
-    answerWith("Replace");
+    answerWith("Overwrite");
     save();
     EXPECT_EQ(folder.read("modA.bas"), moduleText("modA", "mine ' a\r\n"));
     EXPECT_FALSE(component("modA")->IsDirty());
@@ -176,7 +176,7 @@ TEST_F(OutsideChanges, AProjectFileIsOpenedAgainWithItsWindows) {
     folder.write("modA.bas", moduleText("modA", "' theirs\r\n"));
     folder.write("Hello.vbp", test::SampleProject().module("modA").module("modB").module("modNew").text());
     waitForQuestion();
-    EXPECT_THAT(rows, ElementsAre("[x] Hello.vbp - the project is opened again", "[x] modA (modA.bas)"));
+    EXPECT_THAT(rows, ElementsAre("[x] Hello.vbp - reloading opens the project again", "[x] modA (modA.bas)"));
     EXPECT_TRUE(boxes.empty());
     EXPECT_EQ(held("modA"), "' theirs");
     EXPECT_EQ(project()->VBComponents()->Count(), 3);
@@ -223,6 +223,6 @@ TEST_F(OutsideChanges, WhatCannotBeReadAgainIsToldAndKept) {
     folder.write("modA.bas", moduleText("modB", "' another name\r\n"));
     waitForQuestion();
     EXPECT_TRUE(QTest::qWaitFor([this] { return !boxes.empty(); }, kLongestWait));
-    EXPECT_THAT(boxes, ElementsAre(HasSubstr("modA.bas could not be read again")));
+    EXPECT_THAT(boxes, ElementsAre(HasSubstr("modA.bas could not be reloaded")));
     EXPECT_EQ(held("modA"), "' a");
 }

@@ -1,5 +1,5 @@
 // The whole desktop over copies of the samples, drawn into memory.
-#include "Apps/workbench/bars/command_icons.h"
+#include "Apps/workbench/window/commands.h"
 #include "tests/workbench/desktop.h"
 #include <QDockWidget>
 #include <QLabel>

@@ -2,8 +2,13 @@
 // The add-in's entry object: what the host calls, and every event that the add-in listens to.
 #include "Add-in/commands/command_items.h"
 #include "Add-in/commands/frmAbout.h"
+#include "Add-in/commands/frmGettingStarted.h"
+#include "Add-in/commands/modClipboardManagement.h"
 #include "Add-in/commands/modHelpManagement.h"
+#include "Add-in/commands/modMenuManagement.h"
+#include "Add-in/commands/modToolbarManagement.h"
 #include "Add-in/commands/modViewConvertManagement.h"
+#include "Add-in/core/settings_dialog.h"
 #include "Add-in/deploy/frmSendRuntimeToDevice.h"
 #include "Add-in/deploy/frmSendToDevice.h"
 #include "Add-in/lifecycle/ProjectSetup.h"
@@ -38,11 +43,16 @@ struct ConnectServices {
     modDeviceManagement& devices;
     DeviceServices deviceServices;
     CommandItems& items;
+    modClipboardManagement& clipboard;
+    modMenuManagement& menu;
+    modToolbarManagement& toolbars;
+    frmGettingStarted& gettingStarted;
     modProjectHandler& projects;
     modCompileErrorManagement& messages;
     frmProjectRemoval& removal;
     ProjectSetup& setup;
-    IdeCommands& commands;
+    SettingsDialog& settings;
+    MissingFeatures& features;
     const modQLInstallInfo& install;
     frmCompile& compile;
     frmSendToDevice& sendToDevice;
@@ -59,7 +69,7 @@ public:
     /// Later device items of a family stand in the menu and do nothing.
     static constexpr int kDeviceSlots = 10;
 
-    explicit Connect(const ConnectServices& services) : use_(services) {}
+    explicit Connect(const ConnectServices& services) : services_(services) {}
 
     void IDTExtensibility_OnConnection(const Host& VBInst, vbide::vbext_ConnectMode ConnectMode,
                                        const basic::Ref<vbide::AddIn>& AddInInst) override;
@@ -208,8 +218,8 @@ private:
     bool hasMyDevices();
     void toMyDevices(const std::function<void(const std::string& device)>& act);
     // Commands that lead elsewhere
-    void ProjectManagerHandler_Click() { use_.commands.notInThisBuild(); }
-    void ToolProjectManagerHandler_Click() { use_.commands.notInThisBuild(); }
+    void ProjectManagerHandler_Click() { services_.features.notInThisBuild(); }
+    void ToolProjectManagerHandler_Click() { services_.features.notInThisBuild(); }
     void ZoomWindowHandler_Click();
     void ToolZoomWindowHandler_Click() { ZoomWindowHandler_Click(); }
     void DownloadVMHandler_Click();
@@ -261,7 +271,7 @@ private:
                                              bool& Cancel);
 
     friend class Command;
-    ConnectServices use_;
+    ConnectServices services_;
     /// One for each sample of the menu.
     std::vector<Subscription> pickedSamples_;
 };

@@ -7,14 +7,14 @@ namespace fernwick {
 
 /// Nothing for a project of another kind, and for one that the add-in has not met.
 Connect::QLProject Connect::activeFernwickProject(Procedure& here) {
-    const auto active = here.value([&] { return use_.addIn.gVBInstance->ActiveVBProject(); });
-    const auto project = use_.projects.FindQLProject(active);
+    const auto active = here.value([&] { return services_.addIn.gVBInstance->ActiveVBProject(); });
+    const auto project = services_.projects.FindQLProject(active);
     return project && project->IsQuinloftProject() ? project : nullptr;
 }
 
 void Connect::CompsEventsHandler_ItemAdded(Component VBComponent) {
-    Procedure here{use_.errors, "Connect.CompsEventsHandler_ItemAdded"};
-    here([&] { use_.platform.loop.DoEvents(); });
+    Procedure here{services_.errors, "Connect.CompsEventsHandler_ItemAdded"};
+    here([&] { services_.platform.loop.DoEvents(); });
     const auto project = activeFernwickProject(here);
     if (!project) return;
     vbide::vbext_ComponentType type{};
@@ -49,7 +49,7 @@ bool Connect::replaceByTemplate(Procedure& here, const QLProject& project, const
     if (templateFile.empty()) return false;
     ComponentAddGuard = true;
     here([&] { project->VBProject()->VBComponents()->AddFile(templateFile); });
-    use_.removal.RemoveComponent(project->VBProject(), VBComponent);
+    services_.removal.RemoveComponent(project->VBProject(), VBComponent);
     return true;
 }
 
@@ -58,7 +58,7 @@ void Connect::fitForm(Procedure& here, const QLProject& project, const Component
     if (here.test([&] { return VBComponent->FileNames(1).empty() && !ComponentAddGuard; }))
         project->SetupDefaultForm(VBComponent);
     if (here.test([&] { return VBComponent->HasOpenDesigner(); })) here([&] { watchDesigner(VBComponent); });
-    use_.messages.ClearProjectCompileErrors(project->VBProject());
+    services_.messages.ClearProjectCompileErrors(project->VBProject());
     ComponentAddGuard = false;
 }
 
@@ -75,7 +75,7 @@ bool Connect::isFormOfOurs(Procedure& here, const Component& VBComponent) {
 
 /// A form may be selected before the host has made its designer, which is error 5.
 void Connect::CompsEventsHandler_ItemSelected(Component VBComponent) {
-    Procedure here{use_.errors, "Connect.CompsEventsHandler_ItemSelected"};
+    Procedure here{services_.errors, "Connect.CompsEventsHandler_ItemSelected"};
     if (!isFormOfOurs(here, VBComponent)) return;
     if (here.test([&] { return VBComponent->HasOpenDesigner(); }))
         here([&] {
@@ -86,19 +86,19 @@ void Connect::CompsEventsHandler_ItemSelected(Component VBComponent) {
             }
         });
     SelectedForm = VBComponent;
-    here([&] { use_.commands.SetZoomForm(VBComponent); });
+    here([&] { services_.features.SetZoomForm(VBComponent); });
 }
 
 void Connect::CompsEventsHandler_ItemActivated(Component VBComponent) {
-    Procedure here{use_.errors, "Connect.CompsEventsHandler_ItemActivated"};
+    Procedure here{services_.errors, "Connect.CompsEventsHandler_ItemActivated"};
     if (!isFormOfOurs(here, VBComponent)) return;
     if (here.test([&] { return VBComponent->HasOpenDesigner(); })) here([&] { watchDesigner(VBComponent); });
-    here([&] { use_.commands.SetZoomForm(VBComponent); });
+    here([&] { services_.features.SetZoomForm(VBComponent); });
 }
 
 /// Looks the project up, and no more.
 void Connect::RefEventsHandler_ItemAdded() {
-    Procedure here{use_.errors, "Connect.RefEventsHandler_ItemAdded"};
+    Procedure here{services_.errors, "Connect.RefEventsHandler_ItemAdded"};
     here([&] { activeProject(); });
 }
 

@@ -10,7 +10,7 @@ void Connect::GlobalFileControlHandler_BeforeLoadFile(basic::Ref<vbide::VBProjec
                                                       const std::vector<std::string>&) {
     const std::string path = VBProject->FileName();
     if (path.empty()) return;
-    const auto file = use_.platform.files.OpenTextFile(path);
+    const auto file = services_.platform.files.OpenTextFile(path);
     bool isOld = true, isFernwick = false;
     while (!file->AtEndOfStream()) {
         const std::string line = file->ReadLine();
@@ -19,16 +19,17 @@ void Connect::GlobalFileControlHandler_BeforeLoadFile(basic::Ref<vbide::VBProjec
     }
     file->Close();
     if (isOld && isFernwick)
-        use_.platform.interaction.MsgBox(connect_texts::kOldProject, vbExclamation, connect_texts::kOldProjectTitle);
+        services_.platform.interaction.MsgBox(connect_texts::kOldProject, vbExclamation,
+                                              connect_texts::kOldProjectTitle);
 }
 
 /// The host then writes nothing of a project that is about to be converted, and raises no error. What the add-in has not
 /// met, or no longer knows after it was disconnected, is written as ever.
 void Connect::FileControlHandler_RequestWriteFile(basic::Ref<vbide::VBProject> VBProject, const std::string&,
                                                   bool& Cancel) {
-    Procedure here{use_.errors, "Connect.FileControlHandler_RequestWriteFile"};
-    const auto project = use_.projects.FindQLProject(VBProject);
-    if (project && project->IsQuinloftProject() && project->ProjectVersion() == "1.0") Cancel = true;
+    Procedure here{services_.errors, "Connect.FileControlHandler_RequestWriteFile"};
+    const auto project = services_.projects.FindQLProject(VBProject);
+    if (project && project->IsQuinloftProject() && project->HasOldFormat()) Cancel = true;
 }
 
 } // namespace fernwick

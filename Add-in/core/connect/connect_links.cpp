@@ -9,59 +9,61 @@ constexpr char kHelloWorldTutorial[] = "VB Toolkit\\doc\\Hello World Tutorial\\h
 } // namespace
 
 void Connect::ZoomWindowHandler_Click() {
-    Procedure here{use_.errors, "Connect.ZoomWindowHandler_Click"};
-    here([&] { use_.commands.notInThisBuild(); });
+    Procedure here{services_.errors, "Connect.ZoomWindowHandler_Click"};
+    here([&] { services_.features.notInThisBuild(); });
 }
 
 void Connect::DownloadVMHandler_Click() {
     const int answer =
-        use_.platform.interaction.MsgBox(connect_texts::kDownload, vbOKCancel, connect_texts::kDownloadTitle);
-    if (answer == vbOK) use_.platform.shell.Open(use_.platform.app.RuntimeWebAddress);
+        services_.platform.interaction.MsgBox(connect_texts::kDownload, vbOKCancel, connect_texts::kDownloadTitle);
+    if (answer == vbOK) services_.platform.shell.Open(services_.platform.app.RuntimeWebAddress);
 }
 
-void Connect::AddinUsersGuideHandler_Click() { use_.help.DisplayHelp(kUsersGuideTopic); }
+void Connect::AddinUsersGuideHandler_Click() { services_.help.DisplayHelp(kUsersGuideTopic); }
 
 void Connect::AddinOnlineHelpHandler_Click() {
-    Procedure here{use_.errors, "Connect.AddinOnlineHelpHandler_Click"};
-    here([&] { use_.platform.shell.Open(use_.platform.app.SupportWebAddress); });
+    Procedure here{services_.errors, "Connect.AddinOnlineHelpHandler_Click"};
+    here([&] { services_.platform.shell.Open(services_.platform.app.SupportWebAddress); });
 }
 
 void Connect::AboutHandler_Click() {
-    Procedure here{use_.errors, "Connect.AboutHandler_Click"};
-    here([&] { use_.about.ShowModal(); });
+    Procedure here{services_.errors, "Connect.AboutHandler_Click"};
+    here([&] { services_.about.ShowModal(); });
 }
 
 void Connect::OpenUtility(UtilityTool tool, const char* location) {
-    Procedure here{use_.errors, location};
-    if (use_.tools.OpenViewerConverter(tool)) return;
+    Procedure here{services_.errors, location};
+    if (services_.tools.OpenViewerConverter(tool)) return;
     const bool isConfiguration = tool == kWeirgateConfiguration;
     here([&] { box(isConfiguration ? connect_texts::kNoConfiguration : connect_texts::kNoUtility, vbExclamation); });
 }
 
 void Connect::SampleIntroHandler_Click() {
-    Procedure here{use_.errors, "Connect.SampleIntroHandler_Click"};
-    here([&] { use_.commands.ShowGettingStarted(); });
+    Procedure here{services_.errors, "Connect.SampleIntroHandler_Click"};
+    here([&] { services_.gettingStarted.ShowModal(); });
 }
 
 void Connect::SampleHelloWorldHandler_Click() {
-    Procedure here{use_.errors, "Connect.SampleHelloWorldHandler_Click"};
-    if (here.test([&] { return !use_.install.GetQuinloftRootDir().empty(); }))
-        here([&] { use_.platform.shell.Open(use_.install.installed(kHelloWorldTutorial)); });
+    Procedure here{services_.errors, "Connect.SampleHelloWorldHandler_Click"};
+    if (here.test([&] { return !services_.install.GetQuinloftRootDir().empty(); }))
+        here([&] { services_.platform.shell.Open(services_.install.installed(kHelloWorldTutorial)); });
     else
         here([&] { box(connect_texts::kNoTutorial, vbCritical); });
 }
 
 void Connect::SampleOpenSampleDirHandler_Click() {
-    Procedure here{use_.errors, "Connect.SampleOpenSampleDirHandler_Click"};
-    const auto folder = here.value([&] { return use_.install.GetQuinloftSamplesDir(); });
+    Procedure here{services_.errors, "Connect.SampleOpenSampleDirHandler_Click"};
+    const auto folder = here.value([&] { return services_.install.GetQuinloftSamplesDir(); });
     if (folder.empty())
         here([&] { box(connect_texts::kNoSamplesDir, vbCritical); });
-    else if (here.test([&] { return use_.platform.files.FolderExists(folder); }))
-        here([&] { use_.platform.shell.Open(folder); });
+    else if (here.test([&] { return services_.platform.files.FolderExists(folder); }))
+        here([&] { services_.platform.shell.Open(folder); });
     else
         here([&] { box(connect_texts::kSamplesDirMissing, vbExclamation); });
 }
 
-void Connect::box(const char* text, int icon) { use_.platform.interaction.MsgBox(text, icon, connect_texts::kTitle); }
+void Connect::box(const char* text, int icon) {
+    services_.platform.interaction.MsgBox(text, icon, connect_texts::kTitle);
+}
 
 } // namespace fernwick

@@ -43,15 +43,15 @@ void Connect::wire(Procedure& here, const Host& VBInst, Command& sink, const Ite
 }
 
 void Connect::SetupMenuHandlers(const Host& VBInst) {
-    Procedure here{use_.errors, "Connect.SetupMenuHandlers"};
-    const auto& items = use_.items;
+    Procedure here{services_.errors, "Connect.SetupMenuHandlers"};
+    const auto& items = services_.items;
     wire(here, VBInst, QuinloftSettingsHandler, items.gSettingsItem);
     wire(here, VBInst, CompileProjectHandler, items.gCompileItem);
     wire(here, VBInst, ProjectManagerHandler, items.gOpenProjectItem);
     wire(here, VBInst, MakePackageAllDevices, items.gPackageAllItem);
     wire(here, VBInst, DeployAllDevices, items.gDeployAllItem);
     wire(here, VBInst, InstallVMAllDevices, items.gInstallAllItem);
-    if (use_.devices.GetNumDesignTargets() >= 1) setupDeviceSlots(here, VBInst);
+    if (services_.devices.GetNumDesignTargets() >= 1) setupDeviceSlots(here, VBInst);
     SetupSupportMenuHandlers(VBInst);
     SetupSampleMenuHandlers(VBInst);
     wire(here, VBInst, AddinOnlineHelpHandler, items.gWebItem);
@@ -63,7 +63,7 @@ void Connect::SetupMenuHandlers(const Host& VBInst) {
 
 /// The package items say which deploy slots are wired, too.
 void Connect::setupDeviceSlots(Procedure& here, const Host& VBInst) {
-    const auto& items = use_.items;
+    const auto& items = services_.items;
     const auto& packages = items.gPackageItems;
     const auto used = [](const auto& array) { return std::min<std::int32_t>(SafeUpdim(array), kDeviceSlots); };
     for (std::int32_t i = 0; i < used(packages); ++i)
@@ -76,8 +76,8 @@ void Connect::setupDeviceSlots(Procedure& here, const Host& VBInst) {
 }
 
 void Connect::SetupSampleMenuHandlers(const Host& VBInst) {
-    Procedure here{use_.errors, "Connect.SetupSampleMenuHandlers"};
-    const auto& items = use_.items;
+    Procedure here{services_.errors, "Connect.SetupSampleMenuHandlers"};
+    const auto& items = services_.items;
     wire(here, VBInst, SampleIntroHandler, items.gSampleIntroItem);
     wire(here, VBInst, SampleHelloWorldHandler, items.gSampleHelloItem);
     wire(here, VBInst, SampleOpenSampleDirHandler, items.gSampleDirItem);
@@ -87,13 +87,13 @@ void Connect::SetupSampleMenuHandlers(const Host& VBInst) {
             if (sample->popupMenu) return;
             sample->myOfficeEvents = VBInst->Events()->CommandBarEvents(sample->myOfficeCommandBar);
             pickedSamples_.push_back(
-                sample->picked.connect([this](const clsSampleMenuItem& picked) { use_.samples.open(picked); }));
+                sample->picked.connect([this](const clsSampleMenuItem& picked) { services_.samples.open(picked); }));
         });
 }
 
 void Connect::SetupToolbarHandlers(const Host& VBInst) {
-    Procedure here{use_.errors, "Connect.SetupToolbarHandlers"};
-    const auto& items = use_.items;
+    Procedure here{services_.errors, "Connect.SetupToolbarHandlers"};
+    const auto& items = services_.items;
     wire(here, VBInst, ToolQuinloftSettingsHandler, items.gToolSettings);
     wire(here, VBInst, ToolCompileProjectHandler, items.gToolCompile);
     wire(here, VBInst, ToolDeployProjectHandler, items.gToolDeploy);
@@ -103,8 +103,8 @@ void Connect::SetupToolbarHandlers(const Host& VBInst) {
 }
 
 void Connect::SetupSupportMenuHandlers(const Host& VBInst) {
-    Procedure here{use_.errors, "Connect.SetupSupportMenuHandlers"};
-    const auto& items = use_.items;
+    Procedure here{services_.errors, "Connect.SetupSupportMenuHandlers"};
+    const auto& items = services_.items;
     wire(here, VBInst, MenuDatabaseConverterHandler, items.gDatabaseConverterItem);
     wire(here, VBInst, MenuDatabaseViewerHandler, items.gDatabaseViewerItem);
     wire(here, VBInst, MenuFontConverterHandler, items.gFontConverterItem);
@@ -117,8 +117,8 @@ void Connect::SetupSupportMenuHandlers(const Host& VBInst) {
 }
 
 void Connect::SetupSupportToolbarHandlers(const Host& VBInst) {
-    Procedure here{use_.errors, "Connect.SetupSupportToolbarHandlers"};
-    const auto& items = use_.items;
+    Procedure here{services_.errors, "Connect.SetupSupportToolbarHandlers"};
+    const auto& items = services_.items;
     wire(here, VBInst, ToolDatabaseConverterHandler, items.gToolDatabaseConverter);
     wire(here, VBInst, ToolDatabaseViewerHandler, items.gToolDatabaseViewer);
     wire(here, VBInst, ToolFontConverterHandler, items.gToolFontConverter);

@@ -1,5 +1,4 @@
 #include "Apps/workbench/bars/bars_view.h"
-#include "Apps/workbench/bars/command_icons.h"
 #include "Apps/workbench/base/pictures.h"
 #include "Apps/workbench/base/text.h"
 #include "Apps/workbench/base/theme.h"
@@ -61,21 +60,13 @@ QImage withLightLines(const QImage& face) {
     return light;
 }
 
-QIcon faceOf(const host::BarControl& control, Theme theme) {
-    auto face = imageOf(control.face());
-    if (face.isNull()) return iconOf(control.Id());
-    if (theme == Theme::Dark) face = withLightLines(face);
-    QIcon icon;
-    for (const int scale : {1, 2, 3}) icon.addPixmap(seeThrough(face, scale));
-    return icon;
-}
-
 } // namespace
 
-BarsView::BarsView(host::Bars& bars, QMainWindow& window, Run run)
+BarsView::BarsView(host::Bars& bars, QMainWindow& window, Run run, LookOf lookOf)
     : bars_(bars),
       window_(window),
       run_(std::move(run)),
+      lookOf_(std::move(lookOf)),
       docking_(window),
       changed_(bars.changed.connect([this] { redraw_.start(); })) {
     constexpr int kFaceSize = 16;
@@ -136,11 +127,20 @@ void BarsView::showButton(Drawn& drawn, const host::BarControl& control) {
     const auto looks = std::pair(control.face(), currentTheme());
     if (drawn.looks != looks) {
         drawn.looks = looks;
-        action.setIcon(faceOf(control, looks.second));
+        action.setIcon(iconOf(control, looks.second));
     }
     action.setIconVisibleInMenu(control.Style() != office::msoButtonCaption);
     action.setCheckable(control.checked().has_value());
     action.setChecked(control.checked().value_or(false));
+}
+
+QIcon BarsView::iconOf(const host::BarControl& control, Theme theme) const {
+    auto face = imageOf(control.face());
+    if (face.isNull()) return lookOf_(control.Id()).icon;
+    if (theme == Theme::Dark) face = withLightLines(face);
+    QIcon icon;
+    for (const int scale : {1, 2, 3}) icon.addPixmap(seeThrough(face, scale));
+    return icon;
 }
 
 void BarsView::make(Drawn& drawn, const std::shared_ptr<host::BarControl>& control) {
@@ -167,7 +167,7 @@ void BarsView::makeButton(Drawn& drawn, const std::shared_ptr<host::BarControl>&
     const auto bar = control->Parent();
     const auto all = bars_.items();
     const bool isInToolbar = std::find(all.begin(), all.end(), bar) != all.end();
-    if (!isInToolbar) drawn.button->setShortcut(shortcutOf(control->Id()));
+    if (!isInToolbar) drawn.button->setShortcut(lookOf_(control->Id()).key);
     QObject::connect(drawn.button.get(), &QAction::triggered, [this, link = std::weak_ptr(control)] {
         if (const auto clicked = link.lock()) run_([&] { clicked->Execute(); });
         redraw_.start(); // Qt has turned a switch over, whatever came of it

@@ -1,6 +1,7 @@
 #include "Apps/workbench/code/code_editor.h"
 #include "Apps/workbench/base/text.h"
 #include "Apps/workbench/code/code_input.h"
+#include "Apps/workbench/code/code_lines.h"
 #include "Apps/workbench/code/code_texts.h"
 #include "Apps/workbench/code/keyword_case.h"
 #include "Apps/workbench/code/procedure_list.h"
@@ -58,7 +59,7 @@ CodeEditor::CodeEditor(vbide::Ref<vbide::VBComponent> component, Refused refused
     connect(&rest_, &QTimer::timeout, this, [this] { listProcedures(); });
 }
 
-QsciScintilla& CodeEditor::scintilla() { return *text_; }
+QsciScintilla& CodeEditor::scintilla() const { return *text_; }
 
 void CodeEditor::prepareText() {
     text_->setAccessibleName("Code");
@@ -72,6 +73,7 @@ void CodeEditor::prepareText() {
     text_->SendScintilla(QsciScintillaBase::SCI_SETSCROLLWIDTHTRACKING, 1UL);
     text_->SendScintilla(QsciScintillaBase::SCI_SETSCROLLWIDTH, 1UL);
     text_->setMarginType(kNumberMargin, QsciScintilla::NumberMargin);
+    bindKeys(*text_);
     colour(currentTheme());
     connect(text_, &QsciScintilla::SCN_MODIFIED, this,
             [this](int position, int kind, const char*, int, int linesAdded) {

@@ -28,7 +28,7 @@ public:
     CodeEditor(vbide::Ref<vbide::VBComponent> component, Refused refused);
 
     const vbide::Ref<vbide::VBComponent>& component() const { return component_; }
-    QsciScintilla& scintilla();
+    QsciScintilla& scintilla() const;
     /// Somebody edited the module: shows its text, unless it was this editor.
     void codeChanged();
     /// Shows the selection that the host has for the pane.

@@ -47,6 +47,19 @@ void CodeWindows::showPlace(const CodePlace& place) {
     if (auto* const editor = editorOf(place.component)) editor->select(place);
 }
 
+void CodeWindows::step(int by) {
+    if (count() > 0) setCurrentIndex((currentIndex() + by + count()) % count());
+    if (auto* shown = currentWidget()) shown->setFocus();
+}
+
+void CodeWindows::closeCurrent() {
+    if (count() > 0) Q_EMIT tabCloseRequested(currentIndex());
+}
+
+void CodeWindows::closeAll() {
+    for (int index = count() - 1; index >= 0; --index) Q_EMIT tabCloseRequested(index);
+}
+
 std::vector<CodeEditor*> CodeWindows::editors() const {
     std::vector<CodeEditor*> all;
     for (int i = 0; i < count(); ++i)

@@ -21,6 +21,10 @@ public:
     void showPlace(const CodePlace& place);
     /// Told of each window that was made.
     std::function<void(CodeEditor&)> made = [](CodeEditor&) {};
+    /// Shows the next tab, or the previous one for -1, and starts again at the other end.
+    void step(int by);
+    void closeCurrent();
+    void closeAll();
     /// Null for a component without a window.
     CodeEditor* editorOf(const vbide::Ref<vbide::VBComponent>& component) const;
     /// Null when no code window is in front.

@@ -219,7 +219,7 @@ void FindBar::say(const QString& text, bool isError) {
     said_->setPalette(palette);
 }
 
-void FindBar::tell(const QString& text) { say(text, true); }
+void FindBar::showError(const QString& text) { say(text, true); }
 
 // ---- finding ----------------------------------------------------------------------------------------------------------
 

@@ -1,5 +1,6 @@
 #pragma once
 // The bar below the code windows that finds and replaces.
+#include "Apps/workbench/base/run.h"
 #include "Apps/workbench/code/code_finder.h"
 #include "Apps/workbench/code/code_windows.h"
 #include <QWidget>
@@ -14,9 +15,6 @@ namespace workbench {
 
 class FindBar final : public QWidget {
 public:
-    /// Does what a button asks for and keeps errors out of Qt's loop.
-    using Run = std::function<void(const std::function<void()>&)>;
-
     /// Hidden until it is opened. The code windows outlive it.
     FindBar(CodeWindows& code, Run run);
 
@@ -24,8 +22,8 @@ public:
     void open(bool replacing);
     /// Looks for the same once more; comes up where there is nothing to look for yet.
     void findAgain(bool backwards);
-    /// Says this where it says what it found; comes up where it is hidden.
-    void tell(const QString& text);
+    /// Shows an error below the fields, and the bar if it is hidden.
+    void showError(const QString& text);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

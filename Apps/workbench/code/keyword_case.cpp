@@ -1,42 +1,48 @@
 #include "Apps/workbench/code/keyword_case.h"
+#include "Basic/vb_words.h"
 #include <QHash>
-#include <QStringList>
 
 namespace workbench {
 
 namespace {
 
-/// Words that can be no names.
-constexpr auto kReserved =
-    "AddressOf And Any As Boolean ByRef Byte ByVal Call Case CBool CByte CCur CDate CDbl CInt CLng Const CSng CStr "
-    "Currency CVar Declare Dim Do Double Each Else ElseIf Empty End Enum Eqv Event Exit Explicit False For Friend "
-    "Function "
-    "Get GoSub GoTo If Imp Implements In Integer Is Let Like Long Loop LSet Me Mod New Next Nothing Not Null On Option "
-    "Optional Or ParamArray Preserve Private Property Public RaiseEvent ReDim Resume Return RSet Select Set Single "
-    "Static "
-    "Stop String Sub Then To True Type TypeOf Until Variant Wend While With WithEvents Xor";
-/// Behind As these are types too.
-constexpr auto kTypes = "Date Object";
+/// Date is also a function and Object may be a name: they are written as types only after As.
+bool isTypeOnlyAfterAs(const basic::VbWordInfo& word) { return word.text == "Date" || word.text == "Object"; }
 
-QHash<QString, QString> byLowerCase(const char* words) {
+/// Words that cannot be names, and those contextual ones that hardly ever are.
+bool isWrittenEverywhere(const basic::VbWordInfo& word) {
+    if (isTypeOnlyAfterAs(word)) return false;
+    switch (word.kind) {
+    case basic::VbWordKind::Reserved:
+    case basic::VbWordKind::Type:
+    case basic::VbWordKind::Conversion: return true;
+    default: return word.text == "Explicit" || word.text == "Property";
+    }
+}
+
+QHash<QString, QString> byLowerCase(bool (*isWanted)(const basic::VbWordInfo&)) {
     QHash<QString, QString> table;
-    for (const auto& word : QString(words).split(' ')) table.insert(word.toLower(), word);
+    for (const auto& word : basic::vbWords()) {
+        const auto text = QString::fromLatin1(word.text.data(), qsizetype(word.text.size()));
+        if (isWanted(word)) table.insert(text.toLower(), text);
+    }
     return table;
 }
 
 bool isWordPart(QChar c) { return c.isLetterOrNumber() || c == '_'; }
 
-/// Goes over the parts of a line; gives the column of its comment, its length where it has none.
+/// Rewrites the keywords of one line.
 class KeywordWriter {
 public:
     explicit KeywordWriter(QString line) : line_(std::move(line)) {}
 
+    /// Returns the column of the line's comment, or the line's length if it has none.
     qsizetype run() {
         for (qsizetype at = 0; at < line_.size();) {
             const auto sign = line_[at];
             if (sign == '\'') return at;
             if (sign == '"' || sign == '[') {
-                at = behind(at, sign == '"' ? '"' : ']');
+                at = after(at, sign == '"' ? '"' : ']');
             } else if (isWordPart(sign)) {
                 qsizetype end = at;
                 while (end < line_.size() && isWordPart(line_[end])) ++end;
@@ -57,26 +63,26 @@ public:
     const QString& line() const { return line_; }
 
 private:
-    qsizetype behind(qsizetype at, QChar end) const {
+    qsizetype after(qsizetype at, QChar end) const {
         const auto found = line_.indexOf(end, at + 1);
         return found < 0 ? line_.size() : found + 1;
     }
 
     void word(qsizetype at, qsizetype end) {
-        static const auto kWords = byLowerCase(kReserved), kTypeWords = byLowerCase(kTypes);
+        static const auto words = byLowerCase(isWrittenEverywhere), types = byLowerCase(isTypeOnlyAfterAs);
         const auto before = at > 0 ? line_[at - 1] : QChar(' ');
         const bool isMember = before == '.' || before == '!', isArgument = line_.mid(end).startsWith(":=");
         const auto lower = line_.mid(at, end - at).toLower();
         if (!isMember && !isArgument) {
-            auto written = kWords.value(lower);
-            if (written.isEmpty() && isBehindAs_) written = kTypeWords.value(lower);
+            auto written = words.value(lower);
+            if (written.isEmpty() && isAfterAs_) written = types.value(lower);
             if (!written.isEmpty()) line_.replace(at, end - at, written);
         }
-        isBehindAs_ = lower == "as" || (isBehindAs_ && lower == "new");
+        isAfterAs_ = lower == "as" || (isAfterAs_ && lower == "new");
     }
 
     QString line_;
-    bool beginsStatement_ = true, isBehindAs_ = false;
+    bool beginsStatement_ = true, isAfterAs_ = false;
 };
 
 } // namespace

@@ -1,14 +1,14 @@
 #pragma once
-// Keywords in the letters in which the language writes them.
+// Correcting the letter case of keywords.
 #include <QString>
 
 namespace workbench {
 
-/// The line with its keywords so written. Texts, comments, names behind a point and words that may be names as well stay
-/// as they are; nothing but letter case is another one.
+/// Returns the line with its keywords in their proper case. Strings, comments, members after a dot and words that may
+/// be names are unchanged, and so is everything but letter case.
 QString withKeywordCase(const QString& line);
 
-/// Whether the next line is still a part of this line's comment.
+/// Returns whether the line's comment continues on the next line.
 bool continuesComment(const QString& line);
 
 } // namespace workbench

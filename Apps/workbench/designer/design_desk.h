@@ -1,5 +1,6 @@
 #pragma once
 // Form views and the properties window, tied to the tabs and the explorer: what is selected in one shows in the others.
+#include "Apps/workbench/base/run.h"
 #include "Apps/workbench/code/code_windows.h"
 #include "Apps/workbench/designer/form_windows.h"
 #include "Apps/workbench/designer/properties_window.h"
@@ -10,8 +11,6 @@ namespace workbench {
 
 class DesignDesk final : public QObject {
 public:
-    using Run = std::function<void(const std::function<void()>&)>;
-
     /// All of them outlive this. The properties window and the toolbox are made here, for docks.
     DesignDesk(host::Host& host, CodeWindows& tabs, ProjectExplorer& explorer, Run run);
 

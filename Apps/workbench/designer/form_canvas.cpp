@@ -148,7 +148,7 @@ void FormCanvas::mousePressEvent(QMouseEvent* event) {
 
 /// With a tool in hand the mouse draws the place of a new control.
 bool FormCanvas::beginNew(const QPointF& onWidget) {
-    const auto tool = view_.wishes().tool();
+    const auto tool = view_.callbacks().tool();
     if (tool.empty()) return false;
     view_.select(nullptr);
     const QRectF place(onGrid(onForm(onWidget), {}), QSizeF());
@@ -166,7 +166,7 @@ void FormCanvas::beginDrag(const QPointF& onWidget, Grip grip) {
 
 void FormCanvas::mouseMoveEvent(QMouseEvent* event) {
     if (!drag_) {
-        const bool draws = !view_.wishes().tool().empty();
+        const bool draws = !view_.callbacks().tool().empty();
         return setCursor(draws ? Qt::CrossCursor : cursorOf(gripAt(event->position())));
     }
     const auto by = event->position() - drag_->from;
@@ -184,7 +184,7 @@ void FormCanvas::mouseReleaseEvent(QMouseEvent*) {
     drag_.reset();
     update();
     if (!drag.tool.empty()) {
-        view_.wishes().toolUsed();
+        view_.callbacks().toolUsed();
         view_.add(drag.tool, drag.now);
     } else if (drag.now != drag.before) {
         view_.place(drag.now);
@@ -228,7 +228,7 @@ void FormCanvas::keyPressEvent(QKeyEvent* event) {
     switch (event->key()) {
     case Qt::Key_Delete: return view_.removeSelected();
     case Qt::Key_Escape:
-        view_.wishes().toolUsed();
+        view_.callbacks().toolUsed();
         if (drag_) return formChanged();
         return view_.select(nullptr);
     case Qt::Key_Return:
@@ -259,7 +259,7 @@ bool FormCanvas::focusNextPrevChild(bool next) {
 void FormCanvas::focusInEvent(QFocusEvent* event) {
     QWidget::focusInEvent(event);
     update();
-    view_.wishes().focused();
+    view_.callbacks().focused();
 }
 
 void FormCanvas::focusOutEvent(QFocusEvent* event) {

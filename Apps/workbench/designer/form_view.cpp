@@ -75,10 +75,10 @@ double wayTo(const QPointF& from, const QPointF& to, const QPointF& direction) {
 
 } // namespace
 
-FormView::FormView(vbide::Ref<vbide::VBComponent> component, DesignHistory& history, Wishes wishes)
+FormView::FormView(vbide::Ref<vbide::VBComponent> component, DesignHistory& history, Callbacks callbacks)
     : component_(std::move(component)),
       history_(history),
-      wishes_(std::move(wishes)),
+      callbacks_(std::move(callbacks)),
       picture_(pictureOfForm(*component_)),
       canvas_(new FormCanvas(*this)) {
     setObjectName("formView");
@@ -112,7 +112,7 @@ void FormView::select(const vbide::Ref<vbide::VBControl>& control) {
         ensureVisible(shown.center().x(), shown.center().y(), shown.width() / 2, shown.height() / 2);
     }
     canvas_->update();
-    wishes_.selected();
+    callbacks_.selected();
 }
 
 void FormView::place(const QRectF& place) {
@@ -161,7 +161,7 @@ void FormView::undo() {
 
 void FormView::edit(const std::function<void()>& act) {
     const QPointer<FormView> here(this);
-    const auto run = wishes_.run;
+    const auto run = callbacks_.run;
     run(act);
     if (here) reload(); // the next key goes on from there
 }
@@ -169,7 +169,7 @@ void FormView::edit(const std::function<void()>& act) {
 void FormView::openCode() { openCode(selected_); }
 
 void FormView::openCode(const vbide::Ref<vbide::VBControl>& control) {
-    wishes_.run([&] { openHandler(*component_, control); });
+    callbacks_.run([&] { openHandler(*component_, control); });
 }
 
 void FormView::selectNext(int step) {

@@ -14,7 +14,7 @@ class FormCanvas;
 class FormView final : public QScrollArea {
 public:
     /// What the view asks of the desktop.
-    struct Wishes {
+    struct Callbacks {
         /// Does it, and tells the user of an error.
         std::function<void(const std::function<void()>&)> run;
         /// Another control is selected, or the form itself.
@@ -28,7 +28,7 @@ public:
     };
 
     /// Reads the form. Error 380 for a file without the description of one.
-    FormView(vbide::Ref<vbide::VBComponent> component, DesignHistory& history, Wishes wishes);
+    FormView(vbide::Ref<vbide::VBComponent> component, DesignHistory& history, Callbacks callbacks);
 
     const vbide::Ref<vbide::VBComponent>& component() const { return component_; }
     const FormPicture& picture() const { return picture_; }
@@ -56,7 +56,7 @@ public:
     void selectNext(int step);
     /// The nearest one in a direction of the screen.
     void selectBeside(const QPointF& direction);
-    const Wishes& wishes() const { return wishes_; }
+    const Callbacks& callbacks() const { return callbacks_; }
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
@@ -70,7 +70,7 @@ private:
 
     vbide::Ref<vbide::VBComponent> component_;
     DesignHistory& history_;
-    Wishes wishes_;
+    Callbacks callbacks_;
     FormPicture picture_;
     vbide::Ref<vbide::VBControl> selected_;
     FormCanvas* canvas_;

@@ -4,8 +4,8 @@
 
 namespace workbench {
 
-FormWindows::FormWindows(host::Host& host, CodeWindows& tabs, DesignHistory& history, Wishes wishes)
-    : QObject(&tabs), host_(host), tabs_(tabs), history_(history), wishes_(std::move(wishes)) {
+FormWindows::FormWindows(host::Host& host, CodeWindows& tabs, DesignHistory& history, Callbacks callbacks)
+    : QObject(&tabs), host_(host), tabs_(tabs), history_(history), callbacks_(std::move(callbacks)) {
     refresh_.setSingleShot(true);
     refresh_.setInterval(0); // a save closes a designer and opens it again
     connect(&refresh_, &QTimer::timeout, this, [this] { refresh(); });
@@ -35,7 +35,7 @@ void FormWindows::open(const vbide::Ref<vbide::VBComponent>& component) {
     // a file without the description of a form has no view
     const auto failed = basic::attempt([&] {
         view =
-            new FormView(component, history_, {wishes_.run, wishes_.selected, focused, wishes_.tool, wishes_.toolUsed});
+            new FormView(component, history_, {callbacks_.run, callbacks_.selected, focused, callbacks_.tool, callbacks_.toolUsed});
     });
     if (failed.Number != 0) return component->DesignerWindow()->Close();
     opening_ = true; // that is no user's choice
@@ -45,7 +45,7 @@ void FormWindows::open(const vbide::Ref<vbide::VBComponent>& component) {
 }
 
 void FormWindows::activate(const vbide::Ref<vbide::VBComponent>& component) {
-    if (!opening_ && host_.SelectedVBComponent() != component) wishes_.run([&] { component->Activate(); });
+    if (!opening_ && host_.SelectedVBComponent() != component) callbacks_.run([&] { component->Activate(); });
 }
 
 void FormWindows::show(const vbide::Ref<vbide::VBComponent>& component) {

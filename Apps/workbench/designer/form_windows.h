@@ -9,7 +9,7 @@ namespace workbench {
 /// A form is read when its tab opens.
 class FormWindows final : public QObject {
 public:
-    struct Wishes {
+    struct Callbacks {
         std::function<void(const std::function<void()>&)> run;
         /// Another form or control is selected, or the one that is has changed.
         std::function<void()> selected;
@@ -19,7 +19,7 @@ public:
     };
 
     /// Host, tabs and history outlive this.
-    FormWindows(host::Host& host, CodeWindows& tabs, DesignHistory& history, Wishes wishes);
+    FormWindows(host::Host& host, CodeWindows& tabs, DesignHistory& history, Callbacks callbacks);
 
     std::vector<FormView*> views() const;
     /// Null for a component without a form view.
@@ -40,7 +40,7 @@ private:
     host::Host& host_;
     CodeWindows& tabs_;
     DesignHistory& history_;
-    Wishes wishes_;
+    Callbacks callbacks_;
     QTimer refresh_;
     bool opening_ = false;
     std::vector<fernwick::Subscription> watches_;

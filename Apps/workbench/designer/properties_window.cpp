@@ -65,14 +65,14 @@ bool hasDesign(vbide::VBComponent& component) {
 
 } // namespace
 
-PropertiesWindow::PropertiesWindow(DesignHistory& history, Wishes wishes)
+PropertiesWindow::PropertiesWindow(DesignHistory& history, Callbacks callbacks)
     : history_(history),
-      wishes_(std::move(wishes)),
+      callbacks_(std::move(callbacks)),
       objects_(new QComboBox),
       table_(new QTableView),
       rows_([this](std::exception_ptr error) {
           // not from within the editor that is closing
-          QTimer::singleShot(0, this, [this, error] { wishes_.run([&] { std::rethrow_exception(error); }); });
+          QTimer::singleShot(0, this, [this, error] { callbacks_.run([&] { std::rethrow_exception(error); }); });
       }),
       editors_(rows_) {
     objects_->setObjectName("propertyObjects");
@@ -195,7 +195,7 @@ void PropertiesWindow::listObjects() {
 void PropertiesWindow::chosen(int row) {
     if (!component_) return;
     const auto control = row > 0 ? controls_[std::size_t(row) - 1] : nullptr;
-    wishes_.select(control);
+    callbacks_.select(control);
     inspect(component_, control); // also where no form is in front
 }
 
@@ -207,7 +207,7 @@ void PropertiesWindow::doubleClicked(const QModelIndex& index) {
 }
 
 void PropertiesWindow::chooseFont(const vbide::Ref<vbide::Property>& font) {
-    wishes_.run([&] {
+    callbacks_.run([&] {
         const auto members = font->ObjectValue();
         const PropertyReader read(members);
         QFont now(read.text("Name"));

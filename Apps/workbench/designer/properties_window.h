@@ -14,13 +14,13 @@ namespace workbench {
 
 class PropertiesWindow final : public QWidget {
 public:
-    struct Wishes {
+    struct Callbacks {
         std::function<void(const std::function<void()>&)> run;
         /// The user picks a control of the component that is shown, Nothing for the component itself.
         std::function<void(const vbide::Ref<vbide::VBControl>&)> select;
     };
 
-    PropertiesWindow(DesignHistory& history, Wishes wishes);
+    PropertiesWindow(DesignHistory& history, Callbacks callbacks);
 
     /// A component, or one of its controls. Components without a designer have a name only.
     void inspect(const vbide::Ref<vbide::VBComponent>& component, const vbide::Ref<vbide::VBControl>& control = {});
@@ -45,7 +45,7 @@ private:
     void chooseFont(const vbide::Ref<vbide::Property>& font);
 
     DesignHistory& history_;
-    Wishes wishes_;
+    Callbacks callbacks_;
     vbide::Ref<vbide::VBProject> project_;
     vbide::Ref<vbide::VBComponent> component_;
     vbide::Ref<vbide::VBControl> control_;

@@ -12,13 +12,13 @@ namespace workbench {
 
 class MessageBar final : public QWidget {
 public:
-    /// What the user wishes to see.
-    struct Wishes {
+    /// What the user callbacks to see.
+    struct Callbacks {
         std::function<void(int type, bool shown)> showType;
         std::function<void(const QString&)> showText;
     };
 
-    explicit MessageBar(Wishes wishes);
+    explicit MessageBar(Callbacks callbacks);
 
     QLineEdit& filter() { return *filter_; }
     void setPictures(const QPixmap& error, const QPixmap& warning);
@@ -28,7 +28,7 @@ public:
 private:
     QToolButton* addKind(int type, const char* name, const char* toolTip);
 
-    Wishes wishes_;
+    Callbacks callbacks_;
     QToolButton* errors_;
     QToolButton* warnings_;
     QLineEdit* filter_;

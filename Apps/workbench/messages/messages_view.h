@@ -1,5 +1,6 @@
 #pragma once
 // The messages window, drawn from the document that the add-in keeps.
+#include "Apps/workbench/base/run.h"
 #include "Apps/workbench/messages/message_filter.h"
 #include "Apps/workbench/messages/message_rows.h"
 #include <QElapsedTimer>
@@ -20,7 +21,6 @@ class MessageList;
 class MessagesView final : public QWidget {
 public:
     using Document = fernwick::udocCompileMsgs;
-    using Run = std::function<void(const std::function<void()>&)>;
 
     MessagesView(basic::Ref<Document> document, Run run);
     ~MessagesView() override;

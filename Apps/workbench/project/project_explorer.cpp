@@ -44,8 +44,8 @@ QString entryText(const std::string& name, const std::string& path, bool dirty) 
 
 } // namespace
 
-ProjectExplorer::ProjectExplorer(vbide::Ref<vbide::VBE> host, Wishes wishes)
-    : host_(std::move(host)), wishes_(std::move(wishes)) {
+ProjectExplorer::ProjectExplorer(vbide::Ref<vbide::VBE> host, Callbacks callbacks)
+    : host_(std::move(host)), callbacks_(std::move(callbacks)) {
     setObjectName("explorer");
     setAccessibleName("Project explorer");
     setHeaderHidden(true);
@@ -94,7 +94,7 @@ void ProjectExplorer::draw() {
         expandAll();
     }
     showTexts();
-    wishes_.drawn();
+    callbacks_.drawn();
 }
 
 void ProjectExplorer::addEntries() {
@@ -154,8 +154,8 @@ vbide::Ref<vbide::VBComponent> ProjectExplorer::currentComponent() const {
 }
 
 void ProjectExplorer::openCurrent() {
-    if (const auto project = currentProject()) return wishes_.activateProject(project);
-    if (const auto component = currentComponent()) wishes_.openCode(component);
+    if (const auto project = currentProject()) return callbacks_.activateProject(project);
+    if (const auto component = currentComponent()) callbacks_.openCode(component);
 }
 
 } // namespace workbench

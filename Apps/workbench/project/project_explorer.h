@@ -11,14 +11,14 @@ namespace workbench {
 class ProjectExplorer final : public QTreeWidget {
 public:
     /// What the user does with an entry.
-    struct Wishes {
+    struct Callbacks {
         std::function<void(vbide::Ref<vbide::VBProject>)> activateProject;
         std::function<void(vbide::Ref<vbide::VBComponent>)> openCode;
         /// The tree was drawn, as after every change of projects and components.
         std::function<void()> drawn = [] {};
     };
 
-    ProjectExplorer(vbide::Ref<vbide::VBE> host, Wishes wishes);
+    ProjectExplorer(vbide::Ref<vbide::VBE> host, Callbacks callbacks);
 
     /// The components that are drawn may be others, or dirty; drawn when Qt's loop turns.
     void refreshSoon() { redraw_.start(); }
@@ -35,7 +35,7 @@ private:
     void openCurrent();
 
     vbide::Ref<vbide::VBE> host_;
-    Wishes wishes_;
+    Callbacks callbacks_;
     /// Entries keep their number among these, 0 for none.
     std::vector<vbide::Ref<vbide::VBProject>> projects_;
     std::vector<vbide::Ref<vbide::VBComponent>> components_;

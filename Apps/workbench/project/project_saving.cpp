@@ -1,5 +1,6 @@
 #include "Apps/workbench/project/project_saving.h"
 #include "Apps/workbench/base/text.h"
+#include "Apps/workbench/base/title.h"
 #include <QDir>
 #include <QFileDialog>
 #include <QMessageBox>
@@ -34,7 +35,7 @@ std::string askForName(const std::string& name, const char* extension, QString& 
 QString folderOf(const std::string& path) { return path.empty() ? QDir::homePath() : QFileInfo(qt(path)).path(); }
 
 QMessageBox::StandardButton askAboutChanges(const std::string& name, QWidget* window) {
-    return QMessageBox::question(window, "Fernwick Workbench", QString("Save the changes to %1?").arg(qt(name)),
+    return QMessageBox::question(window, kTitle, QString("Save the changes to %1?").arg(qt(name)),
                                  QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
 }
 

@@ -1,9 +1,8 @@
 #include "Apps/workbench/unsaved/outside_changes.h"
 #include "Apps/workbench/base/text.h"
-#include "Apps/workbench/code/code_texts.h"
-#include "Apps/workbench/project/project_reopening.h"
+#include "Apps/workbench/base/title.h"
 #include "Apps/workbench/project/project_saving.h"
-#include "Apps/workbench/window/main_window.h"
+#include "Apps/workbench/unsaved/unsaved_texts.h"
 #include "Host/files/atomic_save.h"
 #include "Host/model/component.h"
 #include "Host/model/project.h"
@@ -27,8 +26,8 @@ bool isReadHere(const vbide::Ref<vbide::VBProject>& project) { return !project->
 
 } // namespace
 
-OutsideChanges::OutsideChanges(host::Host& host, MainWindow& window, Tell tell)
-    : host_(host), window_(window), tell_(std::move(tell)) {
+OutsideChanges::OutsideChanges(host::Host& host, QWidget& window, Callbacks callbacks)
+    : host_(host), window_(window), callbacks_(std::move(callbacks)) {
     soon_.setSingleShot(true);
     soon_.setInterval(kMillisecondsOfQuiet);
     connect(&soon_, &QTimer::timeout, this, [this] { check(); });
@@ -118,9 +117,8 @@ void OutsideChanges::check() {
         if (!all[i].component) reopened.insert(all[i].project.shared());
     for (std::size_t i = 0; i < all.size(); ++i)
         if (!all[i].component || reopened.count(all[i].project.shared()) == 0) carryOut(all[i], wanted.count(i) != 0);
-    window_.code().refreshSoon();
-    window_.explorer().refreshSoon();
-    soon_.start(); // what changed while the question stood
+    callbacks_.refresh();
+    soon_.start(); // for changes while the question was open
 }
 
 void OutsideChanges::settle() {
@@ -137,7 +135,7 @@ void OutsideChanges::carryOut(const OutsideChange& change, bool reload) {
             change.project->IsDirty(true);
     });
     if (failed.Number != 0 && reload)
-        tell_(QString(code_texts::kNotReloaded).arg(qt(change.path), qt(failed.Description)));
+        callbacks_.warn(QString(unsaved_texts::kNotReloaded).arg(qt(change.path), qt(failed.Description)));
 }
 
 void OutsideChanges::reread(const OutsideChange& change) {
@@ -145,16 +143,16 @@ void OutsideChanges::reread(const OutsideChange& change) {
     if (change.component)
         basic::cast<host::Component>(change.component)->reread();
     else
-        reopenProject(host_, window_, change.project);
+        callbacks_.reopen(change.project);
 }
 
 bool mayReplaceChanged(const std::string& path) {
-    QMessageBox box(QMessageBox::Warning, code_texts::kTitle, QString(code_texts::kReplace).arg(qt(path)),
-                    QMessageBox::NoButton, QApplication::activeWindow());
+    QMessageBox box(QMessageBox::Warning, kTitle, QString(unsaved_texts::kReplace).arg(qt(path)), QMessageBox::NoButton,
+                    QApplication::activeWindow());
     box.setTextFormat(Qt::PlainText);
-    box.setInformativeText(code_texts::kWhatReplaces);
-    auto* const replace = box.addButton(code_texts::kReplaceIt, QMessageBox::AcceptRole);
-    auto* const leave = box.addButton(code_texts::kLeaveIt, QMessageBox::RejectRole);
+    box.setInformativeText(unsaved_texts::kWhatReplaces);
+    auto* const replace = box.addButton(unsaved_texts::kReplaceIt, QMessageBox::AcceptRole);
+    auto* const leave = box.addButton(unsaved_texts::kLeaveIt, QMessageBox::RejectRole);
     box.setDefaultButton(leave);
     box.setEscapeButton(leave);
     box.exec();

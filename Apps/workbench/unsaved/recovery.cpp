@@ -1,7 +1,8 @@
 #include "Apps/workbench/unsaved/recovery.h"
 #include "Apps/workbench/base/text.h"
-#include "Apps/workbench/code/code_texts.h"
+#include "Apps/workbench/base/title.h"
 #include "Apps/workbench/code/line_differences.h"
+#include "Apps/workbench/unsaved/unsaved_texts.h"
 #include "Host/files/encoding.h"
 #include "Host/model/component.h"
 #include "Host/model/components.h"
@@ -40,8 +41,8 @@ QString lineOf(const Survivor& survivor) {
     const auto file = qt(entry.file);
     const auto name =
         file.isEmpty() ? qt(entry.component) : QString("%1 (%2)").arg(qt(entry.component), QFileInfo(file).fileName());
-    if (survivor.changedOnDisk) return QString(code_texts::kChangedOnDisk).arg(name);
-    if (!file.isEmpty() && !QFileInfo::exists(file)) return QString(code_texts::kGoneFromDisk).arg(name);
+    if (survivor.changedOnDisk) return QString(unsaved_texts::kChangedOnDisk).arg(name);
+    if (!file.isEmpty() && !QFileInfo::exists(file)) return QString(unsaved_texts::kGoneFromDisk).arg(name);
     return name;
 }
 
@@ -54,7 +55,7 @@ QString detailsOf(const std::vector<Survivor>& all) {
         const auto shown = [](const std::string& bytes) {
             return qt(host::codePageOf(bytes, basic::CodePage::windows1252()).decode(bytes));
         };
-        details << QString(code_texts::kDifferences).arg(qt(entry.file.empty() ? entry.component : entry.file));
+        details << QString(unsaved_texts::kDifferences).arg(qt(entry.file.empty() ? entry.component : entry.file));
         details << differencesOf(shown(onDisk), shown(entry.bytes)) << "";
     }
     return details.join('\n');
@@ -64,9 +65,9 @@ QString headlineOf(const std::string& project, const std::vector<Survivor>& all)
     std::int64_t last = 0;
     for (const auto& survivor : all) last = std::max(last, survivor.entry.written);
     const auto when = QLocale().toString(QDateTime::fromSecsSinceEpoch(last), QLocale::ShortFormat);
-    const auto name = project.empty() ? QString(code_texts::kNeverSaved) : QFileInfo(qt(project)).fileName();
-    return all.size() == 1 ? QString(code_texts::kOneSurvived).arg(name, when)
-                           : QString(code_texts::kSurvived).arg(name, when).arg(all.size());
+    const auto name = project.empty() ? QString(unsaved_texts::kNeverSaved) : QFileInfo(qt(project)).fileName();
+    return all.size() == 1 ? QString(unsaved_texts::kOneRecovered).arg(name, when)
+                           : QString(unsaved_texts::kRecovered).arg(name, when).arg(all.size());
 }
 
 /// The newest text of each component; the older ones wait for another time.
@@ -102,8 +103,8 @@ void putBack(host::Project& project, const host::JournalEntry& entry) {
 
 } // namespace
 
-Recovery::Recovery(host::Host& host, QWidget& window, QString base, Deeds deeds)
-    : host_(host), window_(window), base_(std::move(base)), deeds_(std::move(deeds)) {
+Recovery::Recovery(host::Host& host, QWidget& window, QString base, Callbacks callbacks)
+    : host_(host), window_(window), base_(std::move(base)), callbacks_(std::move(callbacks)) {
     soon_.setSingleShot(true);
     QObject::connect(&soon_, &QTimer::timeout, [this] { offerAll(); });
     watches_.push_back(host.Events()->VBProjectsEvents()->ItemAdded.connect([this](const auto& project) {
@@ -145,20 +146,19 @@ std::vector<Survivor> Recovery::survivors() {
 void Recovery::setAside(const QString& path, const QString& why) {
     const auto aside = path + ".damaged";
     const bool moved = QFile::rename(path, aside);
-    deeds_.tell(QString(code_texts::kDamaged).arg(why, moved ? aside : path));
+    callbacks_.warn(QString(unsaved_texts::kDamaged).arg(why, moved ? aside : path));
 }
 
 void Recovery::offer(const std::string& project, std::vector<Survivor> all) {
     QStringList lines;
     for (const auto& survivor : all) lines << lineOf(survivor);
-    QMessageBox box(QMessageBox::Question, code_texts::kTitle, headlineOf(project, all), QMessageBox::NoButton,
-                    &window_);
+    QMessageBox box(QMessageBox::Question, kTitle, headlineOf(project, all), QMessageBox::NoButton, &window_);
     box.setTextFormat(Qt::PlainText);
-    box.setInformativeText(lines.join('\n') + "\n\n" + code_texts::kWhatRestoreDoes);
+    box.setInformativeText(lines.join('\n') + "\n\n" + unsaved_texts::kWhatRestoreDoes);
     box.setDetailedText(detailsOf(all));
-    auto* const restores = box.addButton(code_texts::kRestore, QMessageBox::AcceptRole);
-    auto* const discards = box.addButton(code_texts::kDiscard, QMessageBox::DestructiveRole);
-    box.setEscapeButton(box.addButton(code_texts::kLater, QMessageBox::RejectRole));
+    auto* const restores = box.addButton(unsaved_texts::kRestore, QMessageBox::AcceptRole);
+    auto* const discards = box.addButton(unsaved_texts::kDiscard, QMessageBox::DestructiveRole);
+    box.setEscapeButton(box.addButton(unsaved_texts::kLater, QMessageBox::RejectRole));
     box.setDefaultButton(restores);
     box.exec();
     if (box.clickedButton() == restores) restore(project, all);
@@ -175,9 +175,10 @@ void Recovery::restore(const std::string& path, const std::vector<Survivor>& all
         if (failed.Number == 0)
             done.push_back(survivor.path);
         else
-            deeds_.tell(QString(code_texts::kNotRestored).arg(qt(survivor.entry.component), qt(failed.Description)));
+            callbacks_.warn(
+                QString(unsaved_texts::kNotRestored).arg(qt(survivor.entry.component), qt(failed.Description)));
     }
-    deeds_.keep(); // at no time without a journal
+    callbacks_.keep(); // at no time without a journal
     for (const auto& journal : done) QFile::remove(journal);
 }
 
@@ -189,7 +190,7 @@ vbide::Ref<vbide::VBProject> Recovery::opened(const std::string& path) {
     };
     if (path.empty()) return host_.projects().addNew();
     if (auto open = find()) return open;
-    deeds_.open(path);
+    callbacks_.open(path);
     asked_.insert(path);
     return find();
 }

@@ -21,16 +21,16 @@ struct Survivor {
 
 class Recovery {
 public:
-    struct Deeds {
-        /// Opens a project.
+    struct Callbacks {
+        /// Opens a project and shows an error in a box.
         std::function<void(const std::string& path)> open;
-        /// What was restored is written to the journal of this program.
+        /// Writes what was restored to the journal of this program.
         std::function<void()> keep;
-        /// Tells the user something that needs no answer.
-        std::function<void(const QString&)> tell;
+        /// Shows a message that needs no answer.
+        std::function<void(const QString&)> warn;
     };
 
-    Recovery(host::Host& host, QWidget& window, QString base, Deeds deeds);
+    Recovery(host::Host& host, QWidget& window, QString base, Callbacks callbacks);
 
     /// Asks, when Qt's loop turns and no window waits for the user: for each project with survivors once, until it
     /// opens again. Those of projects that are not open are opened first.
@@ -47,7 +47,7 @@ private:
     host::Host& host_;
     QWidget& window_;
     QString base_;
-    Deeds deeds_;
+    Callbacks callbacks_;
     std::set<std::string> asked_; ///< projects, until they open again
     QTimer soon_;
     std::vector<fernwick::Subscription> watches_;

@@ -3,7 +3,7 @@
 #include <cmath>
 #include <cstdint>
 
-namespace compiler {
+namespace qltoolkit {
 
 namespace {
 
@@ -158,4 +158,4 @@ private:
 
 std::optional<double> parseDateLiteral(std::string_view text) { return DateReader{text}.read(); }
 
-} // namespace compiler
+} // namespace qltoolkit

@@ -3,7 +3,7 @@
 #include <optional>
 #include <string_view>
 
-namespace compiler {
+namespace qltoolkit {
 
 /// Days since 30 December 1899, the time as a fraction; before that day the fraction counts away from zero, as VB has it.
 /// Understood: month/day/year and year/month/day with / or -, English month names in any order with commas or blanks,
@@ -11,4 +11,4 @@ namespace compiler {
 /// Nothing for a text that is no date.
 [[nodiscard]] std::optional<double> parseDateLiteral(std::string_view);
 
-} // namespace compiler
+} // namespace qltoolkit

@@ -4,9 +4,9 @@
 #include "Components/QLToolkit/source/encoding.h"
 #include <cstring>
 
-namespace compiler {
+namespace qltoolkit {
 
-Lexer::Lexer(const SourceFile& source, Diagnostics& diagnostics)
+Lexer::Lexer(const SourceText& source, Diagnostics& diagnostics)
     : source_(source),
       diagnostics_(diagnostics),
       base_(source.data()),
@@ -271,4 +271,4 @@ bool Lexer::skipToDirective() {
     return false;
 }
 
-} // namespace compiler
+} // namespace qltoolkit

@@ -3,12 +3,12 @@
 #include "Components/QLToolkit/lexer/token.h"
 #include "Components/QLToolkit/source/diagnostic.h"
 
-namespace compiler {
+namespace qltoolkit {
 
 class Lexer {
 public:
     /// Starts at the Attribute lines of the head.
-    Lexer(const SourceFile&, Diagnostics&);
+    Lexer(const SourceText&, Diagnostics&);
 
     void next(Token&);
 
@@ -60,7 +60,7 @@ private:
     [[nodiscard]] Pos contentEnd() const;
     void report(Message, Pos at, std::string_view detail = {});
 
-    const SourceFile& source_;
+    const SourceText& source_;
     Diagnostics& diagnostics_;
     const char* const base_;
     const int codePage_;
@@ -71,4 +71,4 @@ private:
     bool quiet_ = false;
 };
 
-} // namespace compiler
+} // namespace qltoolkit

@@ -3,7 +3,7 @@
 #include "Components/QLToolkit/source/encoding.h"
 #include <cstring>
 
-namespace compiler {
+namespace qltoolkit {
 
 void Lexer::readName(Token& token, const char* p) {
     while (charIs(*p, kNamePart)) ++p;
@@ -80,4 +80,4 @@ void Lexer::readBracketName(Token& token) {
     readSuffix(token);
 }
 
-} // namespace compiler
+} // namespace qltoolkit

@@ -5,7 +5,7 @@
 #include <limits>
 #include <string>
 
-namespace compiler {
+namespace qltoolkit {
 
 namespace {
 
@@ -119,4 +119,4 @@ void Lexer::readRadix(Token& token, const char* p, int bits) {
         report(Message::NumberTooLarge, token.begin, source_.text(token.begin, token.end));
 }
 
-} // namespace compiler
+} // namespace qltoolkit

@@ -1,9 +1,9 @@
 #pragma once
 // What the lexer hands to the parser.
 #include "Components/QLToolkit/lexer/keywords.h"
-#include "Components/QLToolkit/source/source_file.h"
+#include "Components/QLToolkit/source/source_text.h"
 
-namespace compiler {
+namespace qltoolkit {
 
 enum class TokenKind : std::uint8_t {
     EndOfFile,
@@ -65,4 +65,4 @@ struct Token {
     [[nodiscard]] bool isWord() const { return kind == TokenKind::Identifier || kind == TokenKind::Keyword; }
 };
 
-} // namespace compiler
+} // namespace qltoolkit

@@ -8,13 +8,13 @@
 #include "Components/QLToolkit/parser/ast_declarations.h"
 #include <vector>
 
-namespace compiler {
+namespace qltoolkit {
 
-/// One parsed file. Needs its SourceFile and its SymbolTable to live on.
+/// One parsed file. Needs its SourceText and its SymbolTable to live on.
 struct Module {
-    explicit Module(const SourceFile& s) : source(s) {}
+    explicit Module(const SourceText& s) : source(s) {}
 
-    const SourceFile& source;
+    const SourceText& source;
     Arena arena;
     const Decl* declarations = nullptr;     ///< in the order of the source, those of the head (Attributes) included
     std::vector<std::uint32_t> hiddenLines; ///< physical lines of Attributes inside the code, ascending
@@ -37,6 +37,6 @@ const T& as(const Decl& d) {
 }
 
 /// The value of a string literal as UTF-8.
-[[nodiscard]] std::string stringValue(const SourceFile&, const StringExpr&);
+[[nodiscard]] std::string stringValue(const SourceText&, const StringExpr&);
 
-} // namespace compiler
+} // namespace qltoolkit

@@ -2,7 +2,7 @@
 // The part of the tree that a module consists of: declarations, procedures among them.
 #include "Components/QLToolkit/parser/ast_statements.h"
 
-namespace compiler {
+namespace qltoolkit {
 
 enum class Visibility : std::uint8_t { Default, Private, Public, Friend, Global };
 
@@ -105,4 +105,4 @@ struct AttributeDecl : Decl {
     Span<const Expr*> values;
 };
 
-} // namespace compiler
+} // namespace qltoolkit

@@ -1,10 +1,10 @@
 #pragma once
 // The part of the tree that has values: expressions, and the names of types.
 #include "Components/QLToolkit/source/arena.h"
-#include "Components/QLToolkit/source/source_file.h"
+#include "Components/QLToolkit/source/source_text.h"
 #include "Components/QLToolkit/source/symbol_table.h"
 
-namespace compiler {
+namespace qltoolkit {
 
 struct Expr;
 
@@ -155,4 +155,4 @@ struct CoordinatesExpr : Expr {
     const Expr *x1, *y1, *x2, *y2;
 };
 
-} // namespace compiler
+} // namespace qltoolkit

@@ -2,7 +2,7 @@
 // The part of the tree that runs: statements.
 #include "Components/QLToolkit/parser/ast_expressions.h"
 
-namespace compiler {
+namespace qltoolkit {
 
 enum class StmtKind : std::uint8_t {
     Label,
@@ -226,4 +226,4 @@ struct FileStmt : Stmt {
     const Expr *first, *second, *third;
 };
 
-} // namespace compiler
+} // namespace qltoolkit

@@ -1,6 +1,6 @@
 #include "Components/QLToolkit/parser/ast_walk.h"
 
-namespace compiler {
+namespace qltoolkit {
 
 namespace {
 
@@ -261,4 +261,4 @@ void forEachExpression(const Module& module, const std::function<void(const Expr
     for (const auto* decl = module.declarations; decl; decl = decl->next) walk.declaration(*decl);
 }
 
-} // namespace compiler
+} // namespace qltoolkit

@@ -3,9 +3,9 @@
 #include "Components/QLToolkit/parser/ast.h"
 #include <functional>
 
-namespace compiler {
+namespace qltoolkit {
 
 /// Calls `visit` for each expression of the module, those within others too, in no promised order.
 void forEachExpression(const Module& module, const std::function<void(const Expr&)>& visit);
 
-} // namespace compiler
+} // namespace qltoolkit

@@ -6,7 +6,7 @@
 #include <unordered_map>
 #include <vector>
 
-namespace compiler {
+namespace qltoolkit {
 
 /// A constant's value: Empty, a number (True is -1), or a text.
 struct ConditionalValue {
@@ -23,7 +23,7 @@ public:
 
     /// The value of an expression over constants; a name that nobody defined is Empty. Nothing when the expression
     /// uses what is not known while compiling (a call, a member) or does not fit (text with numbers).
-    [[nodiscard]] std::optional<ConditionalValue> evaluate(const SourceFile&, const Expr&) const;
+    [[nodiscard]] std::optional<ConditionalValue> evaluate(const SourceText&, const Expr&) const;
 
     struct Open {
         Pos pos;
@@ -35,10 +35,10 @@ public:
     [[nodiscard]] bool active() const { return open_.empty() || open_.back().active; }
 
 private:
-    [[nodiscard]] std::optional<ConditionalValue> evaluateChain(const SourceFile&, const Expr&) const;
+    [[nodiscard]] std::optional<ConditionalValue> evaluateChain(const SourceText&, const Expr&) const;
 
     std::unordered_map<Symbol, ConditionalValue> constants_;
     std::vector<Open> open_;
 };
 
-} // namespace compiler
+} // namespace qltoolkit

@@ -3,7 +3,7 @@
 #include "Components/QLToolkit/source/arena.h"
 #include <vector>
 
-namespace compiler {
+namespace qltoolkit {
 
 /// Collects one list on top of a vector that all lists of its type share, nested ones too.
 template <class T>
@@ -24,4 +24,4 @@ private:
     std::size_t base_;
 };
 
-} // namespace compiler
+} // namespace qltoolkit

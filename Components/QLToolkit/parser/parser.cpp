@@ -1,6 +1,6 @@
 #include "Components/QLToolkit/parser/parser.h"
 
-namespace compiler {
+namespace qltoolkit {
 
 namespace {
 
@@ -8,7 +8,7 @@ ConditionalValue numericConstant(long n) { return {ConditionalValue::Kind::Numbe
 
 } // namespace
 
-Parser::Parser(const SourceFile& source, SymbolTable& symbols, Diagnostics& diagnostics,
+Parser::Parser(const SourceText& source, SymbolTable& symbols, Diagnostics& diagnostics,
                const ConditionalConstants& constants, Module& module)
     : source_(source),
       symbols_(symbols),
@@ -117,4 +117,4 @@ void Parser::skipLineEnds() {
     while (at(TokenKind::EndOfLine) || at(TokenKind::Colon)) advance();
 }
 
-} // namespace compiler
+} // namespace qltoolkit

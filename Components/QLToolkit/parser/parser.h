@@ -6,21 +6,22 @@
 // parser_variables.cpp, parser_procedures.cpp, parser_blocks.cpp, parser_branches.cpp, parser_loops.cpp,
 // parser_statements.cpp, parser_jumps.cpp, parser_files.cpp, parser_calls.cpp, parser_expressions.cpp,
 // parser_directives.cpp.
-#include "Components/QLToolkit/check.h"
 #include "Components/QLToolkit/lexer/lexer.h"
 #include "Components/QLToolkit/parser/ast.h"
 #include "Components/QLToolkit/parser/conditional.h"
+#include "Components/QLToolkit/parser/conditional_constants.h"
 #include "Components/QLToolkit/parser/list_builder.h"
+#include "Components/QLToolkit/source/diagnostic.h"
 #include <array>
 
-namespace compiler {
+namespace qltoolkit {
 
 /// How deep expressions may nest, and statements in one another.
 inline constexpr int kMaxDepth = 200;
 
 class Parser {
 public:
-    Parser(const SourceFile&, SymbolTable&, Diagnostics&, const ConditionalConstants&, Module&);
+    Parser(const SourceText&, SymbolTable&, Diagnostics&, const ConditionalConstants&, Module&);
 
     /// Parses the whole file into the module. Call once. Throws TooManyErrors.
     void parse();
@@ -270,7 +271,7 @@ private:
         std::vector<Symbol> symbols;
     };
 
-    const SourceFile& source_;
+    const SourceText& source_;
     SymbolTable& symbols_;
     Diagnostics& diagnostics_;
     Module& module_;
@@ -303,4 +304,4 @@ void Parser::head(F&& parseHead) {
     } catch (const SyntaxError&) { recover(); }
 }
 
-} // namespace compiler
+} // namespace qltoolkit

@@ -2,7 +2,7 @@
 #include "Components/QLToolkit/parser/node_heads.h"
 #include "Components/QLToolkit/parser/parser.h"
 
-namespace compiler {
+namespace qltoolkit {
 
 namespace {
 
@@ -151,4 +151,4 @@ void Parser::endBlock(Keyword which) {
     advance();
 }
 
-} // namespace compiler
+} // namespace qltoolkit

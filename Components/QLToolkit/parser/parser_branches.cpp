@@ -2,7 +2,7 @@
 #include "Components/QLToolkit/parser/node_heads.h"
 #include "Components/QLToolkit/parser/parser.h"
 
-namespace compiler {
+namespace qltoolkit {
 
 const Expr* Parser::condition() {
     const Expr* e = expression();
@@ -176,4 +176,4 @@ CaseItem Parser::caseItem() {
     return {CaseTest::Range, value, expression()};
 }
 
-} // namespace compiler
+} // namespace qltoolkit

@@ -2,7 +2,7 @@
 #include "Components/QLToolkit/parser/node_heads.h"
 #include "Components/QLToolkit/parser/parser.h"
 
-namespace compiler {
+namespace qltoolkit {
 
 namespace {
 
@@ -190,4 +190,4 @@ void Parser::point(const Expr*& x, const Expr*& y) {
     expect(TokenKind::RightParen, Message::ParenthesisExpected);
 }
 
-} // namespace compiler
+} // namespace qltoolkit

@@ -1,7 +1,7 @@
 // Conditional compilation: #Const, #If, #ElseIf, #Else, #End If. It happens below the statements, whenever a line begins.
 #include "Components/QLToolkit/parser/parser.h"
 
-namespace compiler {
+namespace qltoolkit {
 
 // The token is the # of a directive. Leaves with the first token behind it that counts.
 void Parser::directive() {
@@ -118,4 +118,4 @@ void Parser::skipInactive() {
     tok_.begin = tok_.end = source_.size();
 }
 
-} // namespace compiler
+} // namespace qltoolkit

@@ -2,7 +2,7 @@
 #include "Components/QLToolkit/parser/node_heads.h"
 #include "Components/QLToolkit/parser/parser.h"
 
-namespace compiler {
+namespace qltoolkit {
 
 namespace {
 
@@ -225,4 +225,4 @@ const Expr* Parser::reference() {
     return postfix(name(), false);
 }
 
-} // namespace compiler
+} // namespace qltoolkit

@@ -2,7 +2,7 @@
 #include "Components/QLToolkit/parser/node_heads.h"
 #include "Components/QLToolkit/parser/parser.h"
 
-namespace compiler {
+namespace qltoolkit {
 
 const Expr* Parser::fileNumber() {
     accept(TokenKind::Hash);
@@ -154,4 +154,4 @@ Span<PrintItem> Parser::printItems() {
     return items.finish(module_.arena);
 }
 
-} // namespace compiler
+} // namespace qltoolkit

@@ -2,7 +2,7 @@
 #include "Components/QLToolkit/parser/node_heads.h"
 #include "Components/QLToolkit/parser/parser.h"
 
-namespace compiler {
+namespace qltoolkit {
 
 Stmt* Parser::forStatement() {
     const Nesting nesting{statementDepth_};
@@ -117,4 +117,4 @@ Stmt* Parser::withStatement() {
     return make<BodyStmt>(stmtHead(StmtKind::With, pos), object, body);
 }
 
-} // namespace compiler
+} // namespace qltoolkit

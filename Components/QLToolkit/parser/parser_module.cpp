@@ -2,7 +2,7 @@
 #include "Components/QLToolkit/parser/node_heads.h"
 #include "Components/QLToolkit/parser/parser.h"
 
-namespace compiler {
+namespace qltoolkit {
 
 namespace {
 
@@ -265,4 +265,4 @@ void Parser::checkOrdinal(const StringExpr& alias) {
     if (!digits) fail(Message::OrdinalAliasInvalid, alias.pos, text);
 }
 
-} // namespace compiler
+} // namespace qltoolkit

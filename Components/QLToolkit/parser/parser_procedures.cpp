@@ -2,7 +2,7 @@
 #include "Components/QLToolkit/parser/node_heads.h"
 #include "Components/QLToolkit/parser/parser.h"
 
-namespace compiler {
+namespace qltoolkit {
 
 namespace {
 
@@ -139,4 +139,4 @@ void Parser::skipProcedure() {
     unclosedAt_ = tok_.begin;
 }
 
-} // namespace compiler
+} // namespace qltoolkit

@@ -2,7 +2,7 @@
 #include "Components/QLToolkit/parser/node_heads.h"
 #include "Components/QLToolkit/parser/parser.h"
 
-namespace compiler {
+namespace qltoolkit {
 
 // Null when there was only a comment or an Attribute line.
 Stmt* Parser::statement() {
@@ -169,4 +169,4 @@ Stmt* Parser::raiseEvent() {
     return make<RaiseEventStmt>(stmtHead(StmtKind::RaiseEvent, pos), name, arguments);
 }
 
-} // namespace compiler
+} // namespace qltoolkit

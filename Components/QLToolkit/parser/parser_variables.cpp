@@ -2,7 +2,7 @@
 #include "Components/QLToolkit/parser/node_heads.h"
 #include "Components/QLToolkit/parser/parser.h"
 
-namespace compiler {
+namespace qltoolkit {
 
 namespace {
 
@@ -238,4 +238,4 @@ void Parser::endMemberList(Keyword kind, Message missing, Pos pos) {
     expectEndOfStatement();
 }
 
-} // namespace compiler
+} // namespace qltoolkit

@@ -1,7 +1,7 @@
 #include "Components/QLToolkit/source/arena.h"
 #include <algorithm>
 
-namespace compiler {
+namespace qltoolkit {
 
 namespace {
 constexpr std::size_t kFirstChunk = 16 * 1024;
@@ -19,4 +19,4 @@ std::uintptr_t Arena::grow(std::size_t size, std::size_t alignment) {
     return (next_ + alignment - 1) & ~(alignment - 1);
 }
 
-} // namespace compiler
+} // namespace qltoolkit

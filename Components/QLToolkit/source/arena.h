@@ -7,7 +7,7 @@
 #include <type_traits>
 #include <vector>
 
-namespace compiler {
+namespace qltoolkit {
 
 /// A row of T that lies in an arena.
 template <class T>
@@ -67,4 +67,4 @@ private:
     std::vector<std::unique_ptr<std::byte[]>> chunks_;
 };
 
-} // namespace compiler
+} // namespace qltoolkit

@@ -1,12 +1,12 @@
 #pragma once
 // What the compiler has to say about a file, in words that a VB developer understands.
 #include "Components/QLToolkit/source/messages.h"
-#include "Components/QLToolkit/source/source_file.h"
+#include "Components/QLToolkit/source/source_text.h"
 #include <string>
 #include <string_view>
 #include <vector>
 
-namespace compiler {
+namespace qltoolkit {
 
 /// One message about one place of a file.
 struct Diagnostic {
@@ -25,7 +25,7 @@ struct TooManyErrors {};
 /// The messages about one file, in the order in which they were found.
 class Diagnostics {
 public:
-    explicit Diagnostics(const SourceFile& source) : source_(source) {}
+    explicit Diagnostics(const SourceText& source) : source_(source) {}
 
     /// A message about the place `at`; `detail` (UTF-8) takes the place of "%1" in its text.
     void report(Message, Pos at, std::string_view detail = {});
@@ -43,7 +43,7 @@ public:
 private:
     void add(Message, Location, std::string_view detail);
 
-    const SourceFile& source_;
+    const SourceText& source_;
     std::vector<Diagnostic> all_;
     std::size_t errors_ = 0;
 };
@@ -51,4 +51,4 @@ private:
 /// The diagnostic for a message that belongs to no source text: a file that cannot be read.
 [[nodiscard]] Diagnostic fileDiagnostic(Message, std::string file, std::string_view detail = {});
 
-} // namespace compiler
+} // namespace qltoolkit

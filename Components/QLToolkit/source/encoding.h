@@ -2,7 +2,7 @@
 // How a file's bytes make characters, as far as finding names and columns needs it.
 #include <string_view>
 
-namespace compiler {
+namespace qltoolkit {
 
 inline constexpr int kUtf8Page = 65001;
 
@@ -20,4 +20,4 @@ inline constexpr int kUtf8Page = 65001;
 /// True for quotes, dashes and commas of typography and of East Asian scripts: what word processors leave in code.
 [[nodiscard]] bool hasTypographicMark(std::string_view utf8);
 
-} // namespace compiler
+} // namespace qltoolkit

@@ -1,7 +1,7 @@
 #include "Components/QLToolkit/source/messages.h"
 #include <algorithm>
 
-namespace compiler {
+namespace qltoolkit {
 
 namespace {
 
@@ -302,4 +302,4 @@ std::string messageText(Message message, std::string_view detail) {
     return text;
 }
 
-} // namespace compiler
+} // namespace qltoolkit

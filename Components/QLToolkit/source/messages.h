@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-namespace compiler {
+namespace qltoolkit {
 
 enum class Severity : std::uint8_t { Warning, Error };
 
@@ -144,4 +144,4 @@ struct MessageInfo {
 [[nodiscard]] const MessageInfo& messageInfo(Message);
 [[nodiscard]] std::string messageText(Message, std::string_view detail);
 
-} // namespace compiler
+} // namespace qltoolkit

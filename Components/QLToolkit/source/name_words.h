@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <cstring>
 
-namespace compiler {
+namespace qltoolkit {
 
 /// Sets bit 5 of each byte: folds ASCII letters, keeps digits, and maps no two characters of names to one.
 inline constexpr std::uint64_t kFoldMask = 0x2020202020202020u;
@@ -21,4 +21,4 @@ inline constexpr std::uint64_t mixWord(std::uint64_t hash, std::uint64_t word) {
     return hash ^ (hash >> 29);
 }
 
-} // namespace compiler
+} // namespace qltoolkit

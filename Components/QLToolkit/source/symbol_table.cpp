@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <string>
 
-namespace compiler {
+namespace qltoolkit {
 
 namespace {
 
@@ -87,4 +87,4 @@ void SymbolTable::rehash() {
     }
 }
 
-} // namespace compiler
+} // namespace qltoolkit

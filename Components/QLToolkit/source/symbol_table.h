@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-namespace compiler {
+namespace qltoolkit {
 
 /// A name, whatever the case of its letters.
 enum class Symbol : std::uint32_t { None = 0 };
@@ -15,7 +15,7 @@ public:
     SymbolTable();
 
     /// The symbol of a name of ASCII letters, digits and underscores, all of them readable 8 bytes beyond its end
-    /// (a SourceFile's text is).
+    /// (a SourceText's text is).
     Symbol internAscii(const char* name, std::uint32_t length);
     /// The symbol of any name, given as UTF-8.
     Symbol intern(std::string_view utf8);
@@ -45,4 +45,4 @@ private:
     std::vector<std::uint32_t> slots_; // a power of two, open addressing, 0 is free
 };
 
-} // namespace compiler
+} // namespace qltoolkit
