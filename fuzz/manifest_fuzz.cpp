@@ -1,5 +1,5 @@
 // Manifests of packages: accepted manifests round-trip.
-#include "Components/QLPipe/bundle.h"
+#include "Components/QLPipe/package/bundle.h"
 #include <cstdint>
 #include <cstdlib>
 

@@ -1,6 +1,6 @@
 // Untrusted packages: an accepted package has only safe names and matches its manifest; a refused one has a reason.
-#include "Components/QLPipe/device_names.h"
-#include "Components/QLPipe/package.h"
+#include "Components/QLPipe/base/device_names.h"
+#include "Components/QLPipe/package/package.h"
 #include <cstdint>
 #include <cstdlib>
 #include <sys/mman.h>

@@ -1,7 +1,7 @@
 #include "Components/QLPipe/virtual_device/virtual_device.h"
-#include "Components/QLPipe/device_names.h"
-#include "Components/QLPipe/installer.h"
-#include "Components/QLPipe/pipe_messages.h"
+#include "Components/QLPipe/base/device_names.h"
+#include "Components/QLPipe/base/pipe_messages.h"
+#include "Components/QLPipe/package/installer.h"
 #include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
