@@ -19,7 +19,6 @@ namespace {
 constexpr char kLockFile[] = ".lock";
 /// The temporary name of the old folder during a replacement: ".Hello.old".
 constexpr std::string_view kReplacedBegin = ".", kReplacedEnd = ".old";
-constexpr std::int64_t kLargestManifest = 1024 * 1024;
 constexpr mode_t kNewFile = 0666;
 
 std::string replacedName(const std::string& name) {
