@@ -46,7 +46,7 @@ void frmProjectRemoval::serve(Procedure& here, const Project& project) {
     if (!here.test([&] { return isOpen(project); })) return;
     const auto qlProject = projects_.GetQLProject(project);
     if (!qlProject || !qlProject->IsQuinloftProject()) return;
-    const bool oldFormat = qlProject->ProjectVersion() == "1.0";
+    const bool oldFormat = qlProject->HasOldFormat();
 
     if (projectToOpen_.empty()) {
         activate(here, project);

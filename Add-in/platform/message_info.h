@@ -10,7 +10,7 @@ struct MessageInfo {
     /// As it is stored and shown.
     std::int32_t number;
     bool isError;
-    /// The text, with "%1" and so on as placeholders.
+    /// The text, with placeholders such as "{file}" for values.
     std::string_view text;
     /// When it is reported.
     std::string_view meaning;

@@ -28,7 +28,7 @@ void Connect::FileControlHandler_RequestWriteFile(basic::Ref<vbide::VBProject> V
                                                   bool& Cancel) {
     Procedure here{services_.errors, "Connect.FileControlHandler_RequestWriteFile"};
     const auto project = services_.projects.FindQLProject(VBProject);
-    if (project && project->IsQuinloftProject() && project->ProjectVersion() == "1.0") Cancel = true;
+    if (project && project->IsQuinloftProject() && project->HasOldFormat()) Cancel = true;
 }
 
 } // namespace fernwick

@@ -3,10 +3,6 @@
 
 namespace fernwick {
 
-namespace {
-constexpr char kOldFormat[] = "1.0";
-}
-
 /// DoEvents and dialogs let in further events, so projects are removed only by the timer of frmProjectRemoval.
 void Connect::ProjEventsHandler_ItemAdded(Project VBProject) {
     Procedure here{services_.errors, "Connect.ProjEventsHandler_ItemAdded"};
@@ -14,7 +10,7 @@ void Connect::ProjEventsHandler_ItemAdded(Project VBProject) {
     const auto project = services_.projects.AddToProjectsList(VBProject);
     if (!project) return;
 
-    if (project->IsQuinloftProject() && project->ProjectVersion() == kOldFormat) {
+    if (project->IsQuinloftProject() && project->HasOldFormat()) {
         here([&] { VBProject->IsDirty(false); });
         return services_.removal.RemoveProject(VBProject, true, ""); // the converter is started afterwards
     }
@@ -108,7 +104,7 @@ void Connect::ProjEventsHandler_ItemRemoved(Project VBProject) {
     Procedure here{services_.errors, "Connect.ProjEventsHandler_ItemRemoved"};
     QLProject project;
     if (here.test([&] { return !VBProject->Name().empty(); })) project = services_.projects.FindQLProject(VBProject);
-    if (project && project->IsQuinloftProject() && project->ProjectVersion() != kOldFormat) keepState(here, project);
+    if (project && project->IsQuinloftProject() && !project->HasOldFormat()) keepState(here, project);
     if (here.test([&] { return services_.addIn.gVBInstance->VBProjects()->Count() == 1; })) {
         disableInterface(here);
         services_.messages.HideProjectCompileErrors();
