@@ -30,8 +30,9 @@ DependencyOperands dependencyOperands(const std::vector<std::string>& operands) 
     if (!hasAction && !parsed.files.empty())
         throw Refusal(kWrongUse, fmt::format("dependencies expects list, add or remove, not {}", parsed.files.front()));
     if (hasAction && parsed.files.empty() != (parsed.action == "list"))
-        throw Refusal(kWrongUse, parsed.action == "list" ? "dependencies list expects no files"
-                                                        : fmt::format("dependencies {}: no files given", parsed.action));
+        throw Refusal(kWrongUse, parsed.action == "list"
+                                     ? "dependencies list expects no files"
+                                     : fmt::format("dependencies {}: no files given", parsed.action));
     return parsed;
 }
 
