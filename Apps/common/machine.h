@@ -1,7 +1,7 @@
 #pragma once
 // The host's services on this system.
 #include "Add-in/platform/platform.h"
-#include "Components/QLPipe/pipe_services.h"
+#include "Components/QLPipe/base/pipe_services.h"
 #include "Components/QLToolkit/compiler.h"
 #include "Host/registry/registry_store.h"
 #include "Host/system/classes.h"

@@ -64,11 +64,12 @@ public:
     void becomeNew();
     /// Renames a component that is not yet in the project.
     void rename(const std::string& name);
-    /// Reads the file again and discards unsaved changes; the file determines the name. Objects of the old designer raise
-    /// errors afterwards. Errors, without a change: as readFile; 321 not a source of this kind; 32813 the name is taken.
+    /// Reads the file again and discards unsaved changes; the file determines the name. Objects of the old designer
+    /// raise errors afterwards. Errors, without a change: as readFile; 321 not a source of this kind; 32813 the name is
+    /// taken.
     void reread();
-    /// Replaces the source with unsaved text that was based on the file with the stamp `base`. If the file has changed since,
-    /// the next save treats it as changed by another program. Errors as above.
+    /// Replaces the source with unsaved text that was based on the file with the stamp `base`. If the file has changed
+    /// since, the next save treats it as changed by another program. Errors as above.
     void restore(std::string bytes, const std::optional<FileStamp>& base);
     /// Marks the component as dirty after an edit of its text.
     void changed() { dirty_ = true; }

@@ -51,6 +51,11 @@ std::shared_ptr<Component> Components::named(const std::string& name) const {
     return found == byName_.end() ? nullptr : found->second;
 }
 
+void Components::requireFree(const std::string& name, const Component& component) const {
+    const auto other = named(name);
+    if (other && other.get() != &component) throwNameTaken(name);
+}
+
 bool Components::insert(const std::shared_ptr<Component>& component) {
     if (!byName_.try_emplace(component->Name(), component).second) return false;
     list_.push_back(component);

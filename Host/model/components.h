@@ -24,6 +24,8 @@ public:
     // ---- for the host ----
     const std::vector<std::shared_ptr<Component>>& list() const { return list_; }
     std::shared_ptr<Component> named(const std::string& name) const;
+    /// Error 32813 if a component other than this one has the name.
+    void requireFree(const std::string& name, const Component& component) const;
     /// Inserts a component without an event. Returns false if its name is taken.
     bool insert(const std::shared_ptr<Component>& component);
     /// Adds a component from its text, without a file. Errors: 321 not a source of this kind; 32813 the name is taken.

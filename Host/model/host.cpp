@@ -104,7 +104,7 @@ void Host::componentRemoved(const vbide::Ref<vbide::VBComponent>& component) {
     if (selected_ == component) selected_ = nullptr;
 }
 
-// ---- files -------------------------------------------------------------------------------------------------------------
+// ---- files ----------------------------------------------------------------------------------------------------------
 
 vbide::Ref<vbide::VBProject> Host::refTo(Project& project) { return project.shared_from_this(); }
 
@@ -145,7 +145,7 @@ void Host::saveProject(const vbide::Ref<vbide::VBProject>& project) {
     if (project->IsDirty() && !project->FileName().empty()) project->SaveAs(project->FileName());
 }
 
-// ---- add-ins -----------------------------------------------------------------------------------------------------------
+// ---- add-ins --------------------------------------------------------------------------------------------------------
 
 void Host::listAddIn(const std::string& progId, const std::string& description,
                      std::function<vbide::Ref<vbide::IDTExtensibility>()> create) {

@@ -83,8 +83,8 @@ public:
     template <class... Args, class... Given>
     void raiseFile(fernwick::Event<Args...> vbide::FileControlEvents::*event, Project& project, Given&&... arguments);
 
-    /// Writes a file of a project and raises the events before and after. Returns nothing if a handler cancels it or the user
-    /// keeps the changes of another program. Errors as atomicSave, after AfterWriteFile.
+    /// Writes a file of a project and raises the events before and after. Returns nothing if a handler cancels it or
+    /// the user keeps the changes of another program. Errors as atomicSave, after AfterWriteFile.
     std::optional<FileStamp> writeFile(Project& project, const std::string& path, std::string_view bytes,
                                        std::optional<FileStamp> asRead);
 

@@ -30,8 +30,8 @@ public:
     void load(const std::vector<ProjectFile::Member>& members);
     /// Adds the control library of a ProgID, unless the project has it. Error 429 for a class that is not registered.
     void addControlLibrary(const std::string& progId);
-    /// Returns the line with which a form refers to the library of a control class ("TavletsCtl.QLLabel"); nothing if the
-    /// project has no such library.
+    /// Returns the line with which a form refers to the library of a control class ("TavletsCtl.QLLabel"); nothing if
+    /// the project has no such library.
     std::optional<ObjectLine> objectLineOf(const std::string& className) const;
     /// Detaches the collection from its project. All members raise errors from now on.
     void close();

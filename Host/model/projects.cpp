@@ -30,7 +30,7 @@ bool Projects::holds(const vbide::Ref<vbide::VBProject>& project) const {
                        [&](const auto& p) { return vbide::Ref<vbide::VBProject>(p) == project; });
 }
 
-// ---- opening -----------------------------------------------------------------------------------------------------------
+// ---- opening --------------------------------------------------------------------------------------------------------
 
 vbide::Ref<vbide::VBProject> Projects::AddFromFile(const std::string& path, bool exclusive) {
     const auto host = this->host();
@@ -118,7 +118,7 @@ void Projects::add(const std::shared_ptr<Project>& project) {
     host->projectAdded(project);
 }
 
-// ---- closing -----------------------------------------------------------------------------------------------------------
+// ---- closing --------------------------------------------------------------------------------------------------------
 
 void Projects::Remove(const vbide::Ref<vbide::VBProject>& project) {
     const auto host = this->host();

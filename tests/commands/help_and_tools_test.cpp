@@ -168,9 +168,9 @@ TEST_F(InstalledHelp, IsWhatTheIntroductionLeadsTo) {
 }
 
 TEST(StringTable, KeepsWhatTheMenuDoesNotUse) {
-    EXPECT_EQ(fernwick::LoadResString(fernwick::kPalmOSString), "&Palm OS");
-    EXPECT_EQ(fernwick::LoadResString(fernwick::kPocketPCString), "P&ocketPC");
-    EXPECT_EQ(fernwick::LoadResString(fernwick::kDeployToTargetString), "Deploy To Design &Target");
+    EXPECT_STREQ(fernwick::command_texts::kPalmOSString.text, "&Palm OS");
+    EXPECT_STREQ(fernwick::command_texts::kPocketPCString.text, "P&ocketPC");
+    EXPECT_STREQ(fernwick::command_texts::kDeployToTargetString.text, "Deploy To Design &Target");
 }
 
 } // namespace

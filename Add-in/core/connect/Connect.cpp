@@ -9,7 +9,7 @@ constexpr char kResourceEditor[] = "ResEdit6.Connect";
 
 void Connect::IDTExtensibility_OnConnection(const Host& VBInst, vbide::vbext_ConnectMode ConnectMode,
                                             const basic::Ref<vbide::AddIn>& AddInInst) {
-    LastControlEventTime = services_.platform.clock.Now();
+    LastControlEventTime = services_.clock.Now();
     services_.devices.initDesignTargetMgr();
     services_.prefs.loadMyDevices();
 
@@ -68,9 +68,8 @@ void Connect::meetSiblings(Procedure& here, const Host& VBInst) {
 
 void Connect::failStart(Procedure& here, const char* step, const basic::Ref<vbide::AddIn>& AddInInst) {
     here([&] {
-        services_.platform.interaction.MsgBox(connect_texts::kFailedStepBefore + std::string(step) +
-                                                  connect_texts::kFailedStepAfter,
-                                              vbCritical, connect_texts::kTitle);
+        services_.user.MsgBox(connect_texts::kFailedStepBefore + std::string(step) + connect_texts::kFailedStepAfter,
+                              vbCritical, connect_texts::kTitle);
     });
     here([&] { AddInInst->Connect(false); });
 }

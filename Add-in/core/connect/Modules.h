@@ -6,7 +6,7 @@
 #include "Add-in/build/frmValidate.h"
 #include "Add-in/build/messages/udocCompileMsgs.h"
 #include "Add-in/core/connect/Connect.h"
-#include "Add-in/core/connect/NotInThisBuild.h"
+#include "Add-in/core/connect/not_in_this_build.h"
 #include "Add-in/core/modAddInErrorManagement.h"
 #include "Add-in/deploy/frmSendRuntimeToDevice.h"
 #include "Add-in/deploy/frmSendToDevice.h"
@@ -78,14 +78,27 @@ struct Modules {
     // lifecycle
     frmProjectRemoval removal{platform.interaction, platform.loop, addIn, projects, items, menu, errors};
     frmDesignTargetNormal chooseTarget{deviceServices};
-    ProjectSetup setup{{addIn, platform.loop, deviceServices, projects, save, messages, chooseTarget, removal, items,
-                        menu, toolbars, features}};
-    SampleOpening samples{{platform, errors, addIn, save, items}};
+    ProjectSetup setup{{errors, platform.interaction, platform.loop, addIn, devices, deviceServices, projects, save,
+                        messages, chooseTarget, removal, items, menu, toolbars, features}};
+    SampleOpening samples{
+        {errors, platform.interaction, platform.loop, platform.files, platform.app, addIn, save, items}};
     // on top
-    Connect connect{{platform,    errors,    prefs,    addIn,    references,     devices,  deviceServices,
-                     items,       clipboard, menu,     toolbars, gettingStarted, projects, messages,
-                     removal,     setup,     settings, features, install,        compile,  sendToDevice,
-                     sendRuntime, tools,     help,     about,    samples}};
+    Connect connect{{errors,         platform.interaction,
+                     platform.loop,  platform.files,
+                     platform.shell, platform.clock,
+                     platform.app,   prefs,
+                     addIn,          references,
+                     devices,        deviceServices,
+                     items,          clipboard,
+                     menu,           toolbars,
+                     gettingStarted, projects,
+                     messages,       removal,
+                     setup,          settings,
+                     features,       install,
+                     compile,        sendToDevice,
+                     sendRuntime,    tools,
+                     help,           about,
+                     samples}};
 
     /// The document of the messages window; Nothing until the host has made it.
     basic::Ref<udocCompileMsgs> compileMsgs() const;

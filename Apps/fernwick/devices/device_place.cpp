@@ -1,7 +1,7 @@
 #include "Apps/fernwick/devices/device_place.h"
 #include "Basic/case_folding.h"
-#include "Components/QLPipe/bundle.h"
-#include "Components/QLPipe/installer.h"
+#include "Components/QLPipe/package/bundle.h"
+#include "Components/QLPipe/package/installer.h"
 
 namespace cli {
 

@@ -2,7 +2,7 @@
 #include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/options/refusal.h"
 #include "Basic/case_folding.h"
-#include "Components/QLPipe/device_storage.h"
+#include "Components/QLPipe/base/device_storage.h"
 #include <fmt/format.h>
 
 namespace cli {

@@ -4,7 +4,7 @@
 #include "Apps/fernwick/devices/device_place.h"
 #include "Apps/fernwick/doctor/findings.h"
 #include "Components/DesignTargetAccess/design_target_mgr.h"
-#include "Components/QLPipe/runtime_bundle.h"
+#include "Components/QLPipe/package/runtime_bundle.h"
 #include <fmt/format.h>
 
 namespace cli {

@@ -5,9 +5,9 @@
 #include "Apps/fernwick/output/json_output.h"
 #include "Apps/fernwick/output/plural.h"
 #include "Apps/fernwick/run/interruption.h"
-#include "Components/QLPipe/package.h"
+#include "Components/QLPipe/base/pipe_messages.h"
+#include "Components/QLPipe/package/package.h"
 #include "Components/QLPipe/pipe_family.h"
-#include "Components/QLPipe/pipe_messages.h"
 #include <filesystem>
 
 namespace cli {

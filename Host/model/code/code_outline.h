@@ -16,7 +16,8 @@ struct CodeOutline {
         int body = 0;  ///< the line of its head
         int end = 0;   ///< the line of its End statement, or the module's last line if it has none
     };
-    /// Procedures, variables, constants and events in the order of the code. A property with several procedures occurs once.
+    /// Procedures, variables, constants and events in the order of the code. A property with several procedures occurs
+    /// once.
     std::vector<vbide::Member> members;
     std::vector<Procedure> procedures;
     int declarationLines = 0;

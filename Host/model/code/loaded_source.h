@@ -16,8 +16,8 @@ struct LoadedSource {
     std::optional<FileStamp> stamp; ///< none if it was not read from a file
 };
 
-/// Reads a source file. `usual` is the code page of files that are not UTF-8. Errors: as readFile; 321 if it is not a source
-/// of this kind.
+/// Reads a source file. `usual` is the code page of files that are not UTF-8. Errors: as readFile; 321 if it is not a
+/// source of this kind.
 LoadedSource readSource(MemberKind kind, const std::string& path, const basic::CodePage& usual);
 
 /// Uses `bytes` as the contents of a source file; `path` is only for messages. Error 321 as above.

@@ -19,8 +19,8 @@ public:
 
     /// VB_Name, the identity of the component; "" if the file has none.
     std::string name() const;
-    /// Writes VB_Name and the name in the designer's first line, if any. Error 5, without a change, if the code page lacks a
-    /// character.
+    /// Writes VB_Name and the name in the designer's first line, if any. Error 5, without a change, if the code page
+    /// lacks a character.
     void name(const std::string& name);
 
     /// The head as a tree. Edits of it are reflected in bytes().

@@ -10,8 +10,8 @@ namespace host {
 /// True for letters, digits and "_".
 bool isNameCharacter(char c) noexcept;
 
-/// Removes the next word, bracketed name, string or single character from `rest`, with the blanks before it, and returns it.
-/// Returns "" at the end and at a comment.
+/// Removes the next word, bracketed name, string or single character from `rest`, with the blanks before it, and
+/// returns it. Returns "" at the end and at a comment.
 std::string_view takeWord(std::string_view& rest) noexcept;
 
 /// Moves `rest` after the next comma outside parentheses. Returns false if there is none in this statement.

@@ -6,13 +6,13 @@
 
 namespace host {
 
-/// Returns the members of a font property, from its BeginProperty block. Without a block the font is MS Sans Serif, 8.25
-/// points. Bold is a weight above 550, and is written as 700 or 400.
+/// Returns the members of a font property, from its BeginProperty block. Without a block the font is MS Sans Serif,
+/// 8.25 points. Bold is a weight above 550, and is written as 700 or 400.
 basic::Ref<vbide::Properties> fontOf(std::weak_ptr<DesignerState> state, std::shared_ptr<FormBlock> owner,
                                      std::string property);
 
-/// Returns the members of a picture property, all read-only. Handle is 0 if there is no picture or the resource file does not
-/// have it.
+/// Returns the members of a picture property, all read-only. Handle is 0 if there is no picture or the resource file
+/// does not have it.
 basic::Ref<vbide::Properties> pictureOf(std::weak_ptr<DesignerState> state, std::shared_ptr<FormBlock> owner,
                                         std::string property);
 

@@ -5,8 +5,8 @@
 
 namespace host {
 
-/// A property without a line has the default of its class. Setting the present value changes nothing. Setting the default
-/// removes a line that was added before, but keeps one that was read from the file.
+/// A property without a line has the default of its class. Setting the present value changes nothing. Setting the
+/// default removes a line that was added before, but keeps one that was read from the file.
 class BlockProperties : public PropertySource {
 public:
     BlockProperties(std::weak_ptr<DesignerState> state, std::shared_ptr<FormBlock> block);

@@ -23,7 +23,7 @@ basic::Ref<vbide::VBControl> addControlTo(DesignerState& state, FormBlock& conta
 /// Error 5 if the control is not on this form.
 RemovedControl removeControlFrom(DesignerState& state, const basic::Ref<vbide::VBControl>& control);
 
-// ---- for front ends -----------------------------------------------------------------------------------------------------
+// ---- for front ends -------------------------------------------------------------------------------------------------
 /// As VBControls.Add, in a control that is a container; Nothing for the form itself.
 basic::Ref<vbide::VBControl> addControl(const basic::Ref<vbide::VBForm>& form,
                                         const basic::Ref<vbide::VBControl>& container, const std::string& progId);

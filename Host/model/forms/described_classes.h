@@ -7,8 +7,8 @@
 
 namespace host {
 
-/// Looks up controls by their class in forms ("TavletsCtl.QLLabel": the library's name, "Ctl." and the class) and by ProgID
-/// ("Tavlets.QLLabel"), ignoring case.
+/// Looks up controls by their class in forms ("TavletsCtl.QLLabel": the library's name, "Ctl." and the class) and by
+/// ProgID ("Tavlets.QLLabel"), ignoring case.
 class DescribedClasses {
 public:
     /// Adds the controls of a library. Classes added before take precedence.

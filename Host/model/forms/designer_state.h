@@ -43,8 +43,8 @@ struct ScaleChange {
     std::vector<ScaledLine> lines;
 };
 
-/// Owned by the designer. The objects that it returns have weak references, so they remain valid after the form is removed
-/// and raise errors.
+/// Owned by the designer. The objects that it returns have weak references, so they remain valid after the form is
+/// removed and raise errors.
 class DesignerState : public std::enable_shared_from_this<DesignerState> {
 public:
     DesignerState(std::shared_ptr<FormFile> file, basic::CodePage codePage, DesignerHooks hooks);

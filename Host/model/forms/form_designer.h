@@ -5,12 +5,12 @@
 
 namespace host {
 
-/// Provides the host's objects over the file of a form. Edits are made directly in the file's lines. The objects remain valid
-/// after the designer is destroyed; their members then raise error 440.
+/// Provides the host's objects over the file of a form. Edits are made directly in the file's lines. The objects remain
+/// valid after the designer is destroyed; their members then raise error 440.
 class FormDesigner {
 public:
-    /// Error 380 if the file has no form. `codePage` is the code page of the file; text that it cannot encode is refused with
-    /// error 5.
+    /// Error 380 if the file has no form. `codePage` is the code page of the file; text that it cannot encode is
+    /// refused with error 5.
     FormDesigner(std::shared_ptr<FormFile> file, basic::CodePage codePage, DesignerHooks hooks = {});
 
     const FormFile& file() const { return *state_->file; }

@@ -13,9 +13,9 @@ struct FormExtent {
     double left = 0, top = 0, right = 0, bottom = 0; ///< of the frame
 };
 
-/// The file has the client area (ClientLeft, ClientTop, ClientWidth, ClientHeight, in twips) and its size in the form's units
-/// (ScaleWidth, ScaleHeight). Left, Top, Width and Height include the frame, whose size depends on BorderStyle. A pixel has
-/// 15 twips.
+/// The file has the client area (ClientLeft, ClientTop, ClientWidth, ClientHeight, in twips) and its size in the form's
+/// units (ScaleWidth, ScaleHeight). Left, Top, Width and Height include the frame, whose size depends on BorderStyle. A
+/// pixel has 15 twips.
 class FormGeometry {
 public:
     explicit FormGeometry(DesignerState& state) : state_(state), root_(state.root()) {}
@@ -26,8 +26,8 @@ public:
     static bool isClientLine(std::string_view key);
 
     double value(std::string_view name) const;
-    /// Errors 6 and 380 for invalid sizes. Changing the client size changes ScaleWidth and ScaleHeight. Changing the scale also
-    /// changes the positions and sizes of the controls directly on the form.
+    /// Errors 6 and 380 for invalid sizes. Changing the client size changes ScaleWidth and ScaleHeight. Changing the
+    /// scale also changes the positions and sizes of the controls directly on the form.
     void value(std::string_view name, double value);
 
     /// The size of the form's units.

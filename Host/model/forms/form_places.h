@@ -11,8 +11,8 @@ FormExtent extentOf(const basic::Ref<vbide::VBForm>& form);
 /// The units of the controls directly on a form.
 TwipsPerUnit unitsOn(const basic::Ref<vbide::VBForm>& form);
 
-/// The units of the controls directly inside a control. A picture box has its own scale, other built-in containers use twips,
-/// and device controls use the units `around` them.
+/// The units of the controls directly inside a control. A picture box has its own scale, other built-in containers use
+/// twips, and device controls use the units `around` them.
 TwipsPerUnit unitsIn(const basic::Ref<vbide::VBControl>& container, const TwipsPerUnit& around);
 
 } // namespace host

@@ -32,7 +32,7 @@ public:
     virtual std::vector<std::string> list(const std::string& name) const;
 };
 
-// ---- for front ends that show properties; empty for properties of other hosts ------------------------------------------
+// ---- for front ends that show properties; empty for properties of other hosts ---------------------------------------
 ClassProperty detailsOf(const basic::Ref<vbide::Property>& property);
 std::string imageOf(const basic::Ref<vbide::Property>& property);
 std::vector<std::string> itemsOf(const basic::Ref<vbide::Property>& property);

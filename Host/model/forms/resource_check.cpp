@@ -6,8 +6,8 @@
 namespace host {
 namespace {
 
-/// The problem with the record of a property, "" for none. Records with a layout specific to the control are only checked for
-/// their position.
+/// The problem with the record of a property, "" for none. Records with a layout specific to the control are only
+/// checked for their position.
 std::string recordWarning(const ResourceFile& file, const ClassProperty* property, std::string_view key,
                           const ResourceReference& reference) {
     const auto offset = reference.offset;
