@@ -10,13 +10,6 @@ namespace cli {
 
 namespace {
 
-using fernwick::tResource;
-using fernwick::tResourceList;
-
-bool isMissing(Session& session, const tResource& entry) {
-    return !session.addIn().dependencies.ValidateDependencyList(session.project(), tResourceList{{entry}});
-}
-
 int listDependencies(Session& session, const Options& options, Console& console) {
     auto json = jsonResult("dependencies");
     json["project"] = session.path();

@@ -110,6 +110,10 @@ void storeDependencies(Session& session, const tResourceList& list) {
 
 } // namespace
 
+bool isMissing(Session& session, const tResource& entry) {
+    return !session.addIn().dependencies.ValidateDependencyList(session.project(), tResourceList{{entry}});
+}
+
 int changeDependencies(Session& session, const DependencyOperands& operands, Console& console) {
     session.requireFernwickProject();
     const auto before = session.addIn().dependencies.ReadProjectDependencies(session.project());
