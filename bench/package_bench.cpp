@@ -1,4 +1,4 @@
-// Packs a folder as an application: package_bench FOLDER PLACE makes PLACE/Hello.PocketPC-ARM.qlpkg.
+// Packs a folder as an application. Usage: package_bench FOLDER TARGET; creates TARGET/Hello.PocketPC-ARM.qlpkg.
 #include "Components/QLPipe/device_storage.h"
 #include "Components/QLPipe/package_writer.h"
 #include <algorithm>

@@ -1,6 +1,6 @@
-// Parses the files that it is given, one after the other, and tells how long it took.
-// parser_bench [--json] FILE...: status 1 when a file has errors, so that nothing wrong is measured.
-#include "Components/QLToolkit/check.h"
+// Parses files and prints the time.
+// Usage: parser_bench [--json] FILE...; the status is 1 if a file has errors, since that would distort the measurement.
+#include "Components/QLToolkit/parser/parse.h"
 #include <chrono>
 #include <cstdio>
 #include <cstring>
@@ -17,16 +17,16 @@ struct Measured {
     std::size_t sourceBytes = 0, treeBytes = 0;
 };
 
-void measure(const char* path, compiler::SymbolTable& symbols, Measured& total) {
+void measure(const char* path, qltoolkit::SymbolTable& symbols, Measured& total) {
     std::ifstream file(path, std::ios::binary | std::ios::ate);
     std::string bytes;
-    bytes.reserve(static_cast<std::size_t>(file.tellg()) + compiler::SourceFile::kPadding);
+    bytes.reserve(static_cast<std::size_t>(file.tellg()) + qltoolkit::SourceText::kPadding);
     bytes.resize(static_cast<std::size_t>(file.tellg()));
     file.seekg(0);
     file.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     const auto start = std::chrono::steady_clock::now();
-    const compiler::SourceFile source{path, std::move(bytes)};
-    const auto parsed = compiler::parseModule(source, symbols);
+    const qltoolkit::SourceText source{path, std::move(bytes)};
+    const auto parsed = qltoolkit::parseModule(source, symbols);
     total.seconds += std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
     total.lines += source.lineCount();
     total.errors += parsed.errors;
@@ -37,9 +37,9 @@ void measure(const char* path, compiler::SymbolTable& symbols, Measured& total) 
 } // namespace
 
 int main(int argc, char** argv) {
-    mallopt(M_MMAP_THRESHOLD, 32 << 20); // as in fernwick: what a module frees serves the next
+    mallopt(M_MMAP_THRESHOLD, 32 << 20); // as in fernwick: memory of one module is reused for the next
     mallopt(M_TRIM_THRESHOLD, 256 << 20);
-    compiler::SymbolTable symbols;
+    qltoolkit::SymbolTable symbols;
     Measured total;
     bool json = false;
     for (int i = 1; i < argc; ++i) {

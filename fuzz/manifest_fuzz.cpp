@@ -1,4 +1,4 @@
-// Manifests of packages: what is taken is written and read again as the same.
+// Manifests of packages: accepted manifests round-trip.
 #include "Components/QLPipe/bundle.h"
 #include <cstdint>
 #include <cstdlib>

@@ -1,5 +1,5 @@
-// Whatever stands in a module, the parser ends, its diagnostics lie inside the file, and its tree can be walked.
-// The first byte chooses the kind of file and the code page.
+// For any module the parser terminates, its diagnostics are inside the file, and its tree can be traversed.
+// The first byte selects the kind of file and the code page.
 #include "Components/QLToolkit/check.h"
 #include "tests/qltoolkit/ast_dump.h"
 #include <cstdlib>
@@ -8,7 +8,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (size == 0 || size > 100'000) return 0;
     static constexpr const char* kNames[] = {"Fuzz.bas", "Fuzz.cls", "Fuzz.frm", "Fuzz.bas"};
     const int page = data[0] & 4 ? 932 : 1252;
-    const compiler::dump::Parsed parsed{
+    const qltoolkit::dump::Parsed parsed{
         std::string(reinterpret_cast<const char*>(data) + 1, size - 1), kNames[data[0] & 3], {}, page};
     for (const auto& d : parsed.result.diagnostics)
         if (d.line > parsed.source.lineCount() + 1 || d.number < 1000 || d.number > 2998 || d.text.empty())

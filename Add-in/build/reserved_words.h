@@ -1,10 +1,10 @@
 #pragma once
+// Names that the validator refuses.
 #include <string>
 
 namespace fernwick {
 
-/// Whether forms and controls may not have this name, letter case aside: a word of the language, and each single word
-/// of those that are two.
+/// Returns whether a form or control must not have this name, regardless of case, because it is a word of the language.
 bool IsReservedWord(const std::string& word);
 
 } // namespace fernwick

@@ -1,5 +1,4 @@
 #pragma once
-#include "Add-in/commands/faces.h"
 #include "Add-in/platform/command_bars.h"
 #include "Add-in/platform/platform.h"
 

@@ -1,6 +1,5 @@
 #pragma once
 // The add-in's one menu on the host's menu bar.
-#include "Add-in/commands/command_items.h"
 #include "Add-in/commands/command_texts.h"
 #include "Add-in/commands/modImageManagement.h"
 #include "Add-in/commands/modSamplesManagement.h"
@@ -24,7 +23,7 @@ struct MenuServices {
 /// What an item of the menu is besides its caption.
 struct MenuLook {
     bool group = false;
-    Face face = kNoFace;
+    int face = kNoFace;
 };
 
 /// The menu is built once a connection: a design target that is installed later shows at the next one.
@@ -34,7 +33,7 @@ public:
     using Item = CommandItems::Item;
     using Keys = std::vector<std::string>;
 
-    explicit modMenuManagement(const MenuServices& services) : use_(services), items_(services.items) {}
+    explicit modMenuManagement(const MenuServices& services) : services_(services), items_(services.items) {}
 
     /// False when the top-level popup could not be made; the user was told then. No trap.
     bool SetUpQuinloftMenu(const Host& VBInst);
@@ -54,6 +53,8 @@ public:
     void SetupDefaultTargetName(const std::string& deviceKey);
     /// Looks gConverterItem up; the last match counts, and without one it stays as it was.
     Item FindConverterMenuItem();
+    /// The host's command that saves the active project; Nothing where the host has none. No trap.
+    Item saveProjectItem() const;
 
     /// Leaves the first design target of each family, which is what stands before the first "-" of a key. A key
     /// without one is a family of its own.
@@ -66,21 +67,11 @@ public:
     void SetupDynamicSamplesMenuHelper(const std::string& keyPath, const Item& parent, bool& isFirst);
 
 private:
-    struct Family {
-        Item& popup;
-        Array<Item>& devices;
-        Item& all;
-    };
-
-    Item button(const Item& parent, StringId caption, MenuLook look = {});
-    Item popup(const Item& parent, StringId caption, MenuLook look = {});
-    void addProjectItems(const Keys& devices);
-    void addInstallItems(const Keys& devices);
-    void addUtilities();
-    void addHelpItems();
-    /// The items of a family's popup, which stands.
-    void fillFamily(const Family& family, const Keys& devices, Face face = kNoFace);
-    Array<Item> deviceItems(const Item& popup, const Keys& devices, Face face);
+    void addCommand(const CommandRow& command, const Keys& devices);
+    static void setFirstState(const Item& item, FirstState state);
+    Item button(const Item& parent, ResString caption, MenuLook look = {});
+    Item popup(const Item& parent, const CommandRow& command);
+    Array<Item> deviceItems(const Item& popup, const Keys& devices, int face);
 
     basic::Ref<office::CommandBar> menuBar(basic::Suppressed& quietly);
     void tellNoMenuBar(const std::string& barName, const basic::ErrObject& error);
@@ -89,7 +80,7 @@ private:
     basic::Ref<clsSampleMenuItem> addSampleItem(const Item& control, bool isPopup);
     void addSample(const Item& popup, const modSamplesManagement::Sample& stored);
 
-    MenuServices use_;
+    MenuServices services_;
     CommandItems& items_;
 };
 

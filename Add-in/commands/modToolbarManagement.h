@@ -1,6 +1,5 @@
 #pragma once
 // The two toolbars of the add-in.
-#include "Add-in/commands/command_items.h"
 #include "Add-in/commands/command_texts.h"
 #include "Add-in/commands/modImageManagement.h"
 #include "Add-in/core/AddIn.h"
@@ -22,7 +21,7 @@ public:
     using Bar = basic::Ref<office::CommandBar>;
     using Item = CommandItems::Item;
 
-    explicit modToolbarManagement(const ToolbarServices& services) : use_(services), items_(services.items) {}
+    explicit modToolbarManagement(const ToolbarServices& services) : services_(services), items_(services.items) {}
 
     /// Each bar comes up disabled, where it last stood. False at the first failure, which is reported.
     bool SetupQuinloftToolbar();
@@ -34,8 +33,8 @@ public:
     void DisableQuinloftToolbar() { disable(items_.gMainToolbar); }
     void DisableSupportToolbar() { disable(items_.gSupportToolbar); }
     /// Errors are ignored.
-    void RemoveQuinloftToolbar();
-    void RemoveSupportToolbar();
+    void RemoveQuinloftToolbar() { remove(items_.gMainToolbar, Toolbar::Main); }
+    void RemoveSupportToolbar() { remove(items_.gSupportToolbar, Toolbar::Support); }
 
     /// A bar that doesn't stand is left alone.
     void SaveAllToolbarState();
@@ -46,12 +45,13 @@ public:
     static Item AddControlButtonToolbar(const Bar& bar);
 
 private:
-    Item button(const Bar& bar, StringId tip, Face face, bool group = false);
+    void addButtons(const Bar& bar, Toolbar which);
+    void remove(const Bar& bar, Toolbar which);
     void showDisabled(const Bar& bar);
     void enable(const Bar& bar, const char* procedure);
     static void disable(const Bar& bar);
 
-    ToolbarServices use_;
+    ToolbarServices services_;
     CommandItems& items_;
 };
 

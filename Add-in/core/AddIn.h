@@ -1,9 +1,9 @@
 #pragma once
 // The host that the add-in runs in, and the preference that comes with it.
+#include "Add-in/core/host_reference.h"
 #include "Add-in/core/modRegistry2.h"
 #include "Add-in/core/procedure.h"
 #include "Add-in/platform/environment.h"
-#include "Add-in/platform/host.h"
 
 namespace fernwick {
 
@@ -12,8 +12,8 @@ public:
     AddIn(modRegistry2& registry, ErrorReport& errors, Environment& environment)
         : registry_(registry), errors_(errors), environment_(environment) {}
 
-    /// The host, kept from the connection on.
-    basic::Ref<vbide::VBE> gVBInstance;
+    /// The host, from the connection on.
+    HostReference gVBInstance;
     /// How the host connected us. At the command line there is nobody to tell what a click would have done.
     vbide::vbext_ConnectMode gConnectMode = vbide::vbext_cm_CommandLine;
     /// Keeps the host and publishes its address for the sibling add-ins of the process. No trap.

@@ -46,14 +46,14 @@ void frmProjectRemoval::serve(Procedure& here, const Project& project) {
     if (!here.test([&] { return isOpen(project); })) return;
     const auto qlProject = projects_.GetQLProject(project);
     if (!qlProject || !qlProject->IsQuinloftProject()) return;
-    const bool oldFormat = qlProject->ProjectVersion() == "1.0";
+    const bool oldFormat = qlProject->HasOldFormat();
 
     if (projectToOpen_.empty()) {
         activate(here, project);
         if (here.test([&] { return bool(addIn_.gVBInstance->ActiveVBProject()); })) removeActive(here);
     }
     if (oldFormat) {
-        const auto importer = here.value([&] { return commands_.FindConverterMenuItem(); });
+        const auto importer = here.value([&] { return menu_.FindConverterMenuItem(); });
         if (importer) here([&] { importer->Execute(); });
     } else if (componentsOnly_) {
         projects_.RemoveProjectComponents(qlProject);
@@ -81,7 +81,7 @@ void frmProjectRemoval::activate(Procedure& here, const Project& project) {
 }
 
 void frmProjectRemoval::removeActive(Procedure& here) {
-    here([&] { commands_.gFileFourthItem()->Execute(); });
+    here([&] { items_.gFileFourthItem->Execute(); });
 }
 
 void frmProjectRemoval::openFile(Procedure& here, const std::string& path, bool exclusive) {

@@ -1,7 +1,7 @@
 #pragma once
 // Requests to drop a project or a component, carried out after the host's event has returned.
+#include "Add-in/commands/modMenuManagement.h"
 #include "Add-in/core/AddIn.h"
-#include "Add-in/core/ide_commands.h"
 #include "Add-in/platform/event_loop.h"
 #include "Add-in/platform/form.h"
 #include "Add-in/project/modProjectHandler.h"
@@ -14,8 +14,8 @@ public:
     using Project = basic::Ref<vbide::VBProject>;
 
     frmProjectRemoval(Interaction& user, EventLoop& loop, AddIn& addIn, modProjectHandler& projects,
-                      IdeCommands& commands, ErrorReport& errors)
-        : Form(user), loop_(loop), addIn_(addIn), projects_(projects), commands_(commands), errors_(errors) {}
+                      CommandItems& items, modMenuManagement& menu, ErrorReport& errors)
+        : Form(user), loop_(loop), addIn_(addIn), projects_(projects), items_(items), menu_(menu), errors_(errors) {}
     const char* typeName() const override { return "frmProjectRemoval"; }
 
     /// Queues the project's removal. With `replaceIt`, `newProject` is opened in its place; an empty name opens none. A
@@ -44,7 +44,8 @@ private:
     EventLoop& loop_;
     AddIn& addIn_;
     modProjectHandler& projects_;
-    IdeCommands& commands_;
+    CommandItems& items_;
+    modMenuManagement& menu_;
     ErrorReport& errors_;
 
     std::vector<Project> removalList_;

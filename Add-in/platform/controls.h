@@ -94,6 +94,7 @@ public:
 /// MSComCtl2.Animation.
 class Animation : public Control {
 public:
+    static constexpr int kForever = -1;
     Animation(Form* form, std::string name, bool visible = false) : Control(form, std::move(name)) {
         Visible.design(visible);
     }

@@ -21,6 +21,17 @@ enum VbMsgBoxStyle : int {
     vbDefaultButton2 = 256,
 };
 
+/// The questions that a front end can answer without the user. Each has one place that asks it.
+enum class Question {
+    FailedStep,
+    ConvertForms,
+    CopyFile,
+    MissingFile,
+    EditDependencies,
+    DeployWithErrors,
+    ReplaceFile,
+};
+
 enum MousePointerShape : int { vbDefault = 0, vbArrow = 1, vbHourglass = 11 };
 
 inline constexpr int kCancelWasSelected = 32755;
@@ -59,6 +70,10 @@ public:
     virtual void showModal(Form& form) = 0;
     /// `buttons` is a sum of VbMsgBoxStyle.
     virtual int MsgBox(const std::string& text, int buttons, const std::string& title) = 0;
+    /// A MsgBox whose question a front end can recognise.
+    virtual int ask(Question, const std::string& text, int buttons, const std::string& title) {
+        return MsgBox(text, buttons, title);
+    }
     /// FileName becomes the chosen path. With CancelError, Cancel is error 32755.
     virtual void ShowSave(CommonDialog& dialog) = 0;
     /// FileName becomes the chosen path; several are their folder and the names in it, parted by NUL characters.

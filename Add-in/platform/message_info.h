@@ -10,7 +10,7 @@ struct MessageInfo {
     /// As it is stored and shown.
     std::int32_t number;
     bool isError;
-    /// The words, with "%1" and so on for what differs.
+    /// The text, with placeholders such as "{file}" for values.
     std::string_view text;
     /// When it comes.
     std::string_view meaning;

@@ -1,3 +1,4 @@
+#include "Apps/common/version.h"
 #include "Apps/workbench/base/letter_icons.h"
 #include "Apps/workbench/base/title.h"
 #include "Apps/workbench/window/workbench.h"
@@ -12,7 +13,7 @@ int main(int argc, char** argv) {
     QApplication::setOrganizationName("fernwick");
     QApplication::setApplicationName("workbench");
     QApplication::setApplicationDisplayName(workbench::kTitle);
-    QApplication::setApplicationVersion(FERNWICK_VERSION);
+    QApplication::setApplicationVersion(apps::kVersion);
     QApplication::setDesktopFileName("fernwick-workbench");
     QApplication::setWindowIcon(QIcon::fromTheme("fernwick-workbench", workbench::projectIcon()));
 

@@ -1,6 +1,6 @@
 #include "Components/Image/image_bytes.h"
 
-namespace compiler {
+namespace image {
 
 namespace {
 
@@ -27,48 +27,48 @@ std::uint32_t crc32(std::string_view bytes) {
     return ~crc;
 }
 
-void ImageWriter::u16(std::uint16_t value) {
+void Writer::u16(std::uint16_t value) {
     u8(std::uint8_t(value));
     u8(std::uint8_t(value >> 8));
 }
 
-void ImageWriter::u32(std::uint32_t value) {
+void Writer::u32(std::uint32_t value) {
     u16(std::uint16_t(value));
     u16(std::uint16_t(value >> 16));
 }
 
-std::string_view ImageReader::raw(std::size_t length) {
+std::string_view Reader::raw(std::size_t length) {
     if (length > rest_.size()) imageIsDamaged("it ends too early");
     const auto bytes = rest_.substr(0, length);
     rest_.remove_prefix(length);
     return bytes;
 }
 
-std::uint8_t ImageReader::u8() { return std::uint8_t(raw(1)[0]); }
+std::uint8_t Reader::u8() { return std::uint8_t(raw(1)[0]); }
 
-std::uint16_t ImageReader::u16() {
+std::uint16_t Reader::u16() {
     const std::uint16_t low = u8();
     return std::uint16_t(low | (u8() << 8));
 }
 
-std::uint32_t ImageReader::u32() {
+std::uint32_t Reader::u32() {
     const std::uint32_t low = u16();
     return low | (std::uint32_t(u16()) << 16);
 }
 
-std::uint32_t ImageReader::count(std::size_t smallest) {
+std::uint32_t Reader::count(std::size_t smallest) {
     const std::uint32_t value = u32();
     if (value > rest_.size() / smallest) imageIsDamaged("a count is larger than the file");
     return value;
 }
 
-std::uint32_t ImageStrings::numberOf(const std::string& text) {
+std::uint32_t Strings::numberOf(const std::string& text) {
     const auto [place, isNew] = numbers_.emplace(text, std::uint32_t(texts_.size()));
     if (isNew) texts_.push_back(text);
     return place->second;
 }
 
-void ImageStrings::write(ImageWriter& writer) const {
+void Strings::write(Writer& writer) const {
     writer.u32(std::uint32_t(texts_.size()));
     for (const auto& text : texts_) {
         writer.u32(std::uint32_t(text.size()));
@@ -76,4 +76,4 @@ void ImageStrings::write(ImageWriter& writer) const {
     }
 }
 
-} // namespace compiler
+} // namespace image

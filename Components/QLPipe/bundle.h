@@ -1,5 +1,5 @@
 #pragma once
-// What is installed on a device as a whole: an application or the runtime.
+// A set of files that is installed on a device as a unit: an application or the runtime.
 #include "Components/QLPipe/byte_reader.h"
 #include <cstdint>
 #include <functional>
@@ -10,21 +10,21 @@
 
 namespace qlpipe {
 
-/// What a file is to the device.
+/// The purpose of a file.
 enum class FileKind : std::uint8_t { Image, File, Font, Icon };
 
 /// One file of a bundle.
 struct BundleFile {
     FileKind kind = FileKind::File;
-    /// Where it lies in the bundle, with "/" between the parts: "files/Data/prices.pdb", "fonts/Small.CMF", "icon.ico".
+    /// Path in the bundle, with "/" as separator: "files/Data/prices.pdb", "fonts/Small.CMF", "icon.ico".
     std::string place;
     std::int64_t size = 0;
-    /// 64 digits; "" as long as nobody has read the file.
+    /// 64 hexadecimal digits; "" until the file has been read.
     std::string sha256;
-    /// The file's bytes from the beginning.
+    /// Opens the file at its beginning.
     std::function<std::unique_ptr<ByteReader>()> open;
 
-    /// Without its folders, for users.
+    /// The name without folders, for users.
     std::string_view title() const { return std::string_view(place).substr(place.rfind('/') + 1); }
 };
 
@@ -34,36 +34,36 @@ inline constexpr char kIconPlace[] = "icon.ico";
 inline constexpr char kManifestName[] = "manifest.json";
 
 struct Bundle {
-    /// The runtime has a version and files only.
+    /// The runtime has only a version and files.
     bool isRuntime = false;
     std::string project;
     std::string displayName;
     std::string version;
     /// The design target's key.
     std::string device;
-    /// Components that the device must have already.
+    /// Components that must already be on the device.
     std::vector<std::string> references;
-    /// In the order of their places.
+    /// Sorted by place.
     std::vector<BundleFile> files;
 
     std::int64_t bytes() const;
 };
 
-/// The manifest of a bundle whose files all have their checksums; docs/package-format.md tells its form.
+/// Returns the manifest of a bundle, as described in docs/package-format.md. All files must have checksums.
 std::string writeManifest(const Bundle& bundle);
 
-/// How many bytes that is, before the checksums are known.
+/// Returns the size of the manifest in bytes. The checksums need not be known yet.
 std::int64_t manifestSize(Bundle bundle);
 
-/// What is wrong with a manifest.
+/// Thrown for an invalid manifest.
 struct ManifestProblem {
     enum Kind { Malformed, NewerVersion, UnsafeName } kind;
-    /// The reason in words, the version, or the name.
+    /// The reason, the version or the name, depending on the kind.
     std::string what;
 };
 
-/// The bundle that a manifest tells of; its files can't be opened. Throws ManifestProblem. The text may be anybody's: every
-/// place of the answer is a safe name in the folder of its kind, and none stands twice.
+/// Returns the bundle described by a manifest; its files cannot be opened. Throws ManifestProblem. The text is not
+/// trusted: all places in the result are unique, safe names in the folder of their kind.
 Bundle readManifest(std::string_view text);
 
 } // namespace qlpipe

@@ -10,11 +10,11 @@ namespace qlpipe {
 namespace {
 
 [[noreturn]] void failReading(const std::string& path, int error) {
-    if (error == ENOENT || error == ENOTDIR) throw transferError(kFileMissing, {path});
-    throw transferError(kFileUnreadable, {path, std::strerror(error)});
+    if (error == ENOENT || error == ENOTDIR) throw transferError(kFileMissing, {{"file", path}});
+    throw transferError(kFileUnreadable, {{"file", path}, {"reason", std::strerror(error)}});
 }
 
-/// A queue or a device would keep the transfer waiting for ever.
+/// Reading from a FIFO or a device could block forever.
 void needPlainFile(const std::string& path, const struct stat& state) {
     if (S_ISDIR(state.st_mode)) failReading(path, EISDIR);
     if (!S_ISREG(state.st_mode)) failReading(path, ENXIO);
@@ -36,7 +36,7 @@ LocalFile::LocalFile(std::string path, std::int64_t size)
         struct stat state {};
         if (::fstat(descriptor_, &state) != 0) failReading(path_, errno);
         needPlainFile(path_, state);
-        if (state.st_size != size) throw transferError(kFileChanged, {path_});
+        if (state.st_size != size) throw transferError(kFileChanged, {{"file", path_}});
     } catch (...) {
         ::close(descriptor_);
         throw;
@@ -52,7 +52,7 @@ std::size_t LocalFile::read(std::span<char> buffer) {
     if (count < 0) failReading(path_, errno);
     left_ -= count;
     const bool tooMany = left_ < 0, tooFew = count == 0 && left_ > 0;
-    if (tooMany || tooFew) throw transferError(kFileChanged, {path_});
+    if (tooMany || tooFew) throw transferError(kFileChanged, {{"file", path_}});
     return std::size_t(count);
 }
 

@@ -1,26 +1,26 @@
 #pragma once
-// Bytes that go to a device, one chunk after the other.
+// Reads the bytes for a device in chunks.
 #include <cstdint>
 #include <span>
 #include <string>
 
 namespace qlpipe {
 
-/// What is in memory of a file at one time.
+/// Size of the chunks in which files are read.
 inline constexpr std::size_t kChunkBytes = 256 * 1024;
 
 class ByteReader {
 public:
     virtual ~ByteReader() = default;
-    /// Fills the buffer from its beginning; 0 at the end. Throws TransferError.
+    /// Reads into the buffer and returns the number of bytes, or 0 at the end. Throws TransferError.
     virtual std::size_t read(std::span<char> buffer) = 0;
 };
 
-/// Bytes of a file on the development machine. Throws TransferError for what is no file that can be sent.
+/// Returns the size of a file on the development machine. Throws TransferError for anything but a readable regular file.
 std::int64_t sizeOfLocalFile(const std::string& path);
 
-/// A file on the development machine, which had `size` bytes when it was listed: one that has more or fewer by now is
-/// refused.
+/// Opens a file on the development machine. Throws TransferError if it no longer has `size` bytes, its size when it was
+/// listed.
 class LocalFile final : public ByteReader {
 public:
     LocalFile(std::string path, std::int64_t size);

@@ -1,27 +1,27 @@
 #pragma once
-// Names of files on a device.
+// File names on a device.
 #include <string>
 #include <string_view>
 
 namespace qlpipe {
 
-/// The name with "/" between its parts; projects write "\".
+/// Returns the name with "/" as separator; projects use "\".
 std::string withSlashes(std::string name);
 
-/// One part of a name: not empty, no separator, not "." or "..", no drive letter, no control character, UTF-8, at most 255
-/// bytes, and no point at its beginning: such names are the storage's own.
+/// Returns true for a valid part of a name: UTF-8, 1 to 255 bytes, without separators, drive letters and control
+/// characters, and not beginning with a dot. Names with a leading dot are reserved for the storage.
 bool isSafePart(std::string_view part) noexcept;
 
-/// A relative name of safe parts with "/" between them.
+/// Returns true for a relative name of safe parts, separated by "/".
 bool isSafeName(std::string_view name) noexcept;
 
-/// Without its extension's point, in upper case; "" for none.
+/// Returns the extension without its dot, in upper case, or "".
 std::string kindOf(std::string_view name);
 
-/// What stands before the last "/", "" for a bare name.
+/// Returns the part before the last "/", or "" for a bare name.
 std::string folderOf(const std::string& name);
 
-/// What stands behind the last "/".
+/// Returns the part after the last "/".
 std::string lastPart(const std::string& name);
 
 } // namespace qlpipe

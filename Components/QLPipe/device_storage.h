@@ -1,5 +1,5 @@
 #pragma once
-// Where a pipe puts things: the storage of one device.
+// The storage of one device.
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -8,51 +8,49 @@
 
 namespace qlpipe {
 
-/// A transfer that can't go on. Stays inside the pipes, which tell it as an error event.
+/// Aborts a transfer. It never leaves the pipes, which report it as an error event.
 struct TransferError {
-    /// One of the pipe messages.
+    /// Number of a pipe message.
     std::int32_t number;
     /// What happened, where, and what to do.
     std::string text;
 };
 
-/// A file on its way to the device. What was not closed is not there.
+/// A file being written. It does not exist on the device until it is closed.
 class StorageFile {
 public:
     virtual ~StorageFile() = default;
     virtual void write(std::string_view bytes) = 0;
-    /// On the device's disk when this returns.
+    /// Returns after the file has reached the device's disk.
     virtual void close() = 0;
 };
 
-/// Folders and files below the device's own folder. Names are relative to it with "/" between their parts, and were
-/// checked by the caller: no empty part, no "." or "..", no "\" or zero. Links are never followed out of the folder.
-/// Every operation throws TransferError.
+/// Files and folders inside the device's folder. Names are relative to it, with "/" as separator. The caller must have
+/// checked them: no empty parts, no "." or "..", no "\" and no NUL. Links are never followed out of the folder.
+/// All operations may throw TransferError.
 class DeviceStorage {
 public:
     virtual ~DeviceStorage() = default;
 
-    /// In words for users: a folder, or "user@host:folder".
+    /// Returns the location for users: a folder, or "user@host:folder".
     virtual std::string location() const = 0;
-    /// Bytes that this folder may take, which may be there already and is then replaced; -1 where the device doesn't
-    /// tell. A device that needs room for the old and the new one at once answers what is free, one that doesn't adds
-    /// what the old one takes.
+    /// Returns the number of bytes available for a folder, or -1 if unknown. If the folder exists, it will be replaced: a
+    /// device that does not need to hold both folders at once adds the size of the old one.
     virtual std::int64_t freeSpaceFor(const std::string& folder) = 0;
     virtual bool exists(const std::string& name) = 0;
-    /// Names in a folder, sorted; none for a folder that is not there.
+    /// Returns the sorted names in a folder, or nothing if the folder does not exist.
     virtual std::vector<std::string> list(const std::string& folder) = 0;
-    /// A whole small file, such as a manifest; an error above 1 MiB.
+    /// Returns the content of a small file, such as a manifest. More than 1 MiB is an error.
     virtual std::string read(const std::string& file) = 0;
-    /// With its parents; nothing for one that is there.
+    /// Creates a folder and its parents. Does nothing if it exists.
     virtual void makeFolder(const std::string& folder) = 0;
-    /// In a folder that is there; an error for a name that is taken.
+    /// Creates a file in an existing folder. An existing name is an error.
     virtual std::unique_ptr<StorageFile> create(const std::string& file) = 0;
-    /// Puts a file in another's place, or where there is none, as a whole.
+    /// Renames a file, atomically replacing an existing one.
     virtual void replaceFile(const std::string& from, const std::string& to) = 0;
-    /// Puts a folder in another's place as a whole or not at all; what was there is gone afterwards. An interruption
-    /// leaves the old or the new one.
+    /// Renames a folder, replacing an existing one. After an interruption either the old or the new folder exists.
     virtual void replaceFolder(const std::string& from, const std::string& to) = 0;
-    /// With all that is in it; nothing for what is not there.
+    /// Removes a file, or a folder with its content. Does nothing if it does not exist.
     virtual void remove(const std::string& name) = 0;
 };
 

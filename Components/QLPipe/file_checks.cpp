@@ -11,10 +11,10 @@ namespace qlpipe {
 namespace {
 
 constexpr char kCompilerVersion[] = "3.5.0 (0624)";
-/// An image that is larger than this is not read, whatever its platform takes.
+/// Larger images are not read, regardless of the platform.
 constexpr std::int64_t kLargestImage = 256 * 1024 * 1024;
 
-/// The findings of one listing.
+/// Finds the problems of one listing.
 class FileChecks {
 public:
     FileChecks(const TargetLimits& limits, FileListing& listing) : limits_(limits), listing_(listing) {}
@@ -27,10 +27,10 @@ public:
     }
 
 private:
-    void error(std::int32_t number, std::initializer_list<std::string> values, const std::string& source = {}) {
+    void error(std::int32_t number, MessageValues values, const std::string& source = {}) {
         listing_.findings.push_back({true, number, messageText(number, values), source});
     }
-    void hint(PipeWarning number, std::initializer_list<std::string> values, const std::string& source) {
+    void hint(PipeWarning number, MessageValues values, const std::string& source) {
         listing_.findings.push_back({false, number, messageText(number + kWarningOffset, values), source});
     }
 
@@ -43,8 +43,10 @@ private:
     void checkFile(const ListedFile& file) {
         if (limits_.nameLength && basic::Len(file.name) > *limits_.nameLength)
             error(kNameTooLong,
-                  {file.name, std::to_string(basic::Len(file.name)), limits_.platform,
-                   std::to_string(*limits_.nameLength)},
+                  {{"file", file.name},
+                   {"length", std::to_string(basic::Len(file.name))},
+                   {"platform", limits_.platform},
+                   {"limit", std::to_string(*limits_.nameLength)}},
                   file.path);
         if (file.kind == FileKind::Image)
             checkImage(file);
@@ -55,31 +57,46 @@ private:
     void checkImage(const ListedFile& file) {
         const auto most = std::min(limits_.imageBytes.value_or(kLargestImage), kLargestImage);
         if (file.size > most)
-            return error(kImageTooLarge, {file.name, bytesInWords(file.size), limits_.platform, bytesInWords(most)},
+            return error(kImageTooLarge,
+                         {{"file", file.name},
+                          {"size", bytesInWords(file.size)},
+                          {"platform", limits_.platform},
+                          {"limit", bytesInWords(most)}},
                          file.path);
         try {
-            const auto version = compiler::decodeImage(readWhole(file)).compilerVersion;
+            const auto version = image::decode(readWhole(file)).compilerVersion;
             if (version != kCompilerVersion)
-                error(kImageOfOtherCompiler, {file.name, version, kCompilerVersion}, file.path);
+                error(kImageOfOtherCompiler,
+                      {{"file", file.name}, {"version", version}, {"required", kCompilerVersion}}, file.path);
         } catch (const basic::RuntimeError& damage) {
-            error(kImageDamaged, {file.name, damage.Description}, file.path);
+            error(kImageDamaged, {{"file", file.name}, {"reason", damage.Description}}, file.path);
         } catch (const TransferError& failed) {
             listing_.findings.push_back({true, failed.number, failed.text, file.path});
         }
     }
 
     void checkOther(const ListedFile& file) {
-        if (!isReadable(file)) error(kKindNotTaken, {file.name, limits_.platform, kindsInWords()}, file.path);
+        if (!isReadable(file))
+            error(kKindNotTaken, {{"file", file.name}, {"platform", limits_.platform}, {"kinds", kindsInWords()}},
+                  file.path);
         if (limits_.fileBytes && file.size > *limits_.fileBytes)
             error(kFileTooLarge,
-                  {file.name, bytesInWords(file.size), limits_.platform, bytesInWords(*limits_.fileBytes)}, file.path);
+                  {{"file", file.name},
+                   {"size", bytesInWords(file.size)},
+                   {"platform", limits_.platform},
+                   {"limit", bytesInWords(*limits_.fileBytes)}},
+                  file.path);
         else if (limits_.heapBytes && file.size > *limits_.heapBytes)
             hint(kFileLargerThanHeap,
-                 {file.name, bytesInWords(file.size), limits_.platform, bytesInWords(*limits_.heapBytes)}, file.path);
-        if (file.size == 0) hint(kFileEmpty, {file.name}, file.path);
+                 {{"file", file.name},
+                  {"size", bytesInWords(file.size)},
+                  {"platform", limits_.platform},
+                  {"limit", bytesInWords(*limits_.heapBytes)}},
+                 file.path);
+        if (file.size == 0) hint(kFileEmpty, {{"file", file.name}}, file.path);
     }
 
-    /// Resources and their list are the compiler's own, whatever the platform's programs read.
+    /// Resources and their list belong to the compiler, so every platform reads them.
     bool isReadable(const ListedFile& file) const {
         const auto kind = kindOf(file.name);
         const auto& kinds = limits_.fileKinds;
@@ -93,7 +110,7 @@ private:
         return words;
     }
 
-    /// A file under the name of another one's folder can't be stored either.
+    /// A file must not have the name of a folder of another file either.
     void checkNames() {
         std::map<std::string, std::string, basic::NoCaseLess> names, folders;
         for (const auto& file : listing_.files)
@@ -101,9 +118,9 @@ private:
                 folders.emplace(folder, file.name);
         for (const auto& file : listing_.files) {
             const auto [other, isNew] = names.emplace(file.name, file.path);
-            if (!isNew) error(kNameTwice, {other->second, file.path}, file.path);
+            if (!isNew) error(kNameTwice, {{"file", other->second}, {"other", file.path}}, file.path);
             if (const auto folder = folders.find(file.name); folder != folders.end())
-                error(kNameTwice, {file.name, folder->second}, file.path);
+                error(kNameTwice, {{"file", file.name}, {"other", folder->second}}, file.path);
         }
     }
 
@@ -111,7 +128,9 @@ private:
         std::int64_t total = 0;
         for (const auto& file : listing_.files) total += file.size;
         if (limits_.storageBytes && total > *limits_.storageBytes)
-            error(kTooLargeTogether, {bytesInWords(total), limits_.platform, bytesInWords(*limits_.storageBytes)});
+            error(kTooLargeTogether, {{"size", bytesInWords(total)},
+                                      {"platform", limits_.platform},
+                                      {"limit", bytesInWords(*limits_.storageBytes)}});
     }
 
     static std::string readWhole(const ListedFile& file) {

@@ -10,17 +10,17 @@ namespace {
 const std::string kStaged = std::string{kStagingFolder} + "/bundle";
 const std::string kStagedFonts = std::string{kStagingFolder} + "/fonts";
 
-/// An application's fonts go to the folder that all applications share, all else into its own.
+/// Fonts of an application are shared by all applications; other files belong to the application's folder.
 bool isShared(const Bundle& bundle, const BundleFile& file) { return !bundle.isRuntime && file.kind == FileKind::Font; }
 
 std::string stagedPlace(const Bundle& bundle, const BundleFile& file) {
     return isShared(bundle, file) ? kStagedFonts + "/" + std::string(file.title()) : kStaged + "/" + file.place;
 }
 
-/// Gives the checksum of what was sent. A file that comes with its checksum checks itself.
+/// Sends a file and returns its checksum. A reader whose file has a known checksum verifies it.
 std::string sendFile(DeviceStorage& device, const BundleFile& file, const std::string& place, std::span<char> buffer,
                      Progress& progress) {
-    progress.says(pipe_texts::kSending + std::string(file.title()) + pipe_texts::kDots);
+    progress.says(fillIn(pipe_texts::kSending, {{"file", std::string(file.title())}}));
     device.makeFolder(folderOf(place));
     const auto reader = file.open();
     const auto writer = device.create(place);
@@ -39,7 +39,9 @@ void needRoom(DeviceStorage& device, const Bundle& bundle) {
     const auto needed = bundle.bytes() + manifestSize(bundle);
     const auto free = device.freeSpaceFor(placeOnDevice(bundle));
     if (free >= 0 && needed > free)
-        throw transferError(kDeviceFull, {device.location(), bytesInWords(needed), bytesInWords(free)});
+        throw transferError(
+            kDeviceFull,
+            {{"device", device.location()}, {"required", bytesInWords(needed)}, {"free", bytesInWords(free)}});
 }
 
 void stage(DeviceStorage& device, Bundle& bundle, Progress& progress) {
@@ -51,7 +53,7 @@ void stage(DeviceStorage& device, Bundle& bundle, Progress& progress) {
     manifest->close();
 }
 
-/// From here on nothing is read any more: only the device itself can fail.
+/// Replaces the old files. Nothing is read from here on, so only the device can fail.
 void putInPlace(DeviceStorage& device, const Bundle& bundle) {
     const auto place = placeOnDevice(bundle);
     for (const auto& file : bundle.files) {
@@ -63,7 +65,7 @@ void putInPlace(DeviceStorage& device, const Bundle& bundle) {
     device.replaceFolder(kStaged, place);
 }
 
-/// Best effort: what stays is removed by the next transfer.
+/// Best effort: the next transfer removes the rest.
 void removeStaged(DeviceStorage& device) {
     try {
         device.remove(kStagingFolder);

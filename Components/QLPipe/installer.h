@@ -1,24 +1,25 @@
 #pragma once
-// Puts a bundle on a device, as a whole or not at all.
+// Installs a bundle on a device atomically.
 #include "Components/QLPipe/bundle.h"
 #include "Components/QLPipe/device_storage.h"
 #include "Components/QLPipe/progress.h"
 
 namespace qlpipe {
 
-// The device's own folder, which every storage has.
+// Folders of a device.
 inline constexpr char kApplicationsFolder[] = "applications";
 inline constexpr char kDeviceFontsFolder[] = "fonts";
 inline constexpr char kRuntimeFolder[] = "runtime";
-/// What is on its way. An interrupted transfer may leave something there, which the next one removes.
+/// Files being transferred. The next transfer removes what an interrupted one left there.
 inline constexpr char kStagingFolder[] = ".incoming";
 
-/// Where a bundle lies on a device, and where one of its files does.
+/// Return the place of a bundle on a device, and of one of its files.
 std::string placeOnDevice(const Bundle& bundle);
 std::string placeOnDevice(const Bundle& bundle, const BundleFile& file);
 
-/// Sends the files, then puts the new folder in the old one's place; an application's fonts, which all applications share,
-/// stand before. Whatever fails, the old application is whole. Throws TransferError and what the sink lets out.
+/// Sends the files, then replaces the old folder with the new one. An application's fonts, which all applications share,
+/// are replaced first. If anything fails, the old application is unchanged. Throws TransferError and exceptions of the
+/// sink.
 void install(DeviceStorage& device, Bundle bundle, Progress& progress);
 
 bool hasRuntime(DeviceStorage& device);

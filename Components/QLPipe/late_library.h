@@ -1,10 +1,10 @@
 #pragma once
-// Libraries that few runs need: loaded at first use, so that no other run pays for them at its start.
+// Shared libraries that are loaded at first use, because few runs need them.
 #include <string>
 
 namespace qlpipe {
 
-/// A shared library, to be held with the functions that are used of it:
+/// A shared library. Use it as a member before the functions that are looked up in it:
 ///
 ///     struct ZipLibrary {
 ///         LateLibrary library{"libzip.so.4", "libzip4"};
@@ -16,14 +16,14 @@ namespace qlpipe {
 ///         return loaded;
 ///     }
 ///
-/// The header gives each function its type, and nothing is linked. The library stays loaded to the end of the process:
-/// libraries that keep state of their own don't survive being unloaded.
+/// The library's header provides the types; nothing is linked. The library is never unloaded, because libraries with
+/// global state do not support that.
 class LateLibrary {
 public:
-    /// Throws TransferError 20001 when the library is not there; `package` is what installs it.
+    /// Throws TransferError 20001 if the library is not installed. `package` is the package to install.
     LateLibrary(const char* fileName, const char* package);
 
-    /// A function's address, taken by a pointer of the right type.
+    /// The address of a function; converts to a function pointer of any type.
     class Symbol {
     public:
         explicit Symbol(void* address) : address_(address) {}
@@ -36,7 +36,7 @@ public:
         void* address_;
     };
 
-    /// Throws TransferError 20001 for a function that the installed version lacks.
+    /// Throws TransferError 20001 if the installed version does not have the function.
     Symbol operator[](const char* function) const;
 
 private:

@@ -5,7 +5,7 @@
 namespace qlpipe {
 namespace {
 
-/// The driver sends fonts under their bare names; one that lies elsewhere is an application's own file.
+/// Fonts are sent under their bare names. A font in a folder is an ordinary file of the application.
 FileKind kindOfFile(const std::string& name) {
     const auto kind = kindOf(name);
     if (kind == "QLX") return FileKind::Image;
@@ -14,7 +14,7 @@ FileKind kindOfFile(const std::string& name) {
 
 ListedFile listFile(const std::string& path, const std::string& resource) {
     auto name = withSlashes(resource);
-    if (!isSafeName(name)) throw transferError(kUnsafeName, {path, resource});
+    if (!isSafeName(name)) throw transferError(kUnsafeName, {{"file", path}, {"name", resource}});
     const auto kind = kindOfFile(name);
     return {path, std::move(name), kind, sizeOfLocalFile(path)};
 }
@@ -25,7 +25,7 @@ FileListing listFiles(const fernwick::FileSystemObject& files, const ProjectFile
     FileListing listing;
     for (std::size_t i = 0; i < project.ProjectFileList.size(); ++i) {
         const auto& entry = project.ProjectFileList[i];
-        // a shorter second list gives no name, which is refused
+        // If the second list is shorter, the name is empty and therefore refused.
         const auto resource = i < project.ProjectResourceList.size() ? project.ProjectResourceList[i] : std::string();
         if (resource == kReferenceMarker) {
             listing.references.push_back(entry);

@@ -1,5 +1,5 @@
 #pragma once
-// The files that a project sends, and what a device would refuse of them.
+// The files of a project to be sent, and the problems that a device would have with them.
 #include "Add-in/platform/files.h"
 #include "Add-in/platform/pipes.h"
 #include "Components/QLPipe/bundle.h"
@@ -9,37 +9,37 @@
 
 namespace qlpipe {
 
-/// One file as the project names it.
+/// One file of the project.
 struct ListedFile {
-    /// On the development machine, as it is on disk.
+    /// Path on the development machine.
     std::string path;
-    /// On the device, with "/" between the parts.
+    /// Name on the device, with "/" as separator.
     std::string name;
     FileKind kind;
     std::int64_t size;
 };
 
-/// Something that a device would refuse, or that the user should know.
+/// An error or a warning about a file.
 struct Finding {
     bool isError;
     /// A PipeError or a PipeWarning.
     std::int32_t number;
     std::string text;
-    /// The file; "" for none.
+    /// Path of the file, or "".
     std::string source;
 };
 
 struct FileListing {
     std::vector<ListedFile> files;
-    /// Components that the device must have already.
+    /// Components that must already be on the device.
     std::vector<std::string> references;
     std::vector<Finding> findings;
 };
 
-/// The files of the two lists. What can't be sent at all is a finding and not among the files.
+/// Returns the files of the two lists. A file that cannot be sent at all becomes a finding instead.
 FileListing listFiles(const fernwick::FileSystemObject& files, const ProjectFiles& project);
 
-/// Adds what devices with these limits would refuse, in the order of the files.
+/// Adds the findings for devices with these limits, in the order of the files.
 void checkFiles(const TargetLimits& limits, FileListing& listing);
 
 } // namespace qlpipe

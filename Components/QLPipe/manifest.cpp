@@ -43,20 +43,20 @@ const Json& member(const Json& object, const char* key) {
 
 std::string text(const Json& object, const char* key) {
     const Json& value = member(object, key);
-    if (!value.is_string()) malformed(std::string{"\""} + key + "\" is no text");
+    if (!value.is_string()) malformed(std::string{"\""} + key + "\" is not a string");
     return value.get<std::string>();
 }
 
 std::int64_t number(const Json& object, const char* key, std::int64_t most) {
     const Json& value = member(object, key);
     if (!value.is_number_unsigned() || value.get<std::uint64_t>() > std::uint64_t(most))
-        malformed(std::string{"\""} + key + "\" is no number from 0 to " + std::to_string(most));
+        malformed(std::string{"\""} + key + "\" is not a number from 0 to " + std::to_string(most));
     return value.get<std::int64_t>();
 }
 
 const Json& list(const Json& object, const char* key) {
     const Json& value = member(object, key);
-    if (!value.is_array()) malformed(std::string{"\""} + key + "\" is no list");
+    if (!value.is_array()) malformed(std::string{"\""} + key + "\" is not a list");
     return value;
 }
 
@@ -74,7 +74,7 @@ void needSafe(bool safe, const std::string& name) {
     if (!safe) throw ManifestProblem{ManifestProblem::UnsafeName, name};
 }
 
-/// Fonts lie side by side, and the icon has one place.
+/// Fonts have no subfolders, and the icon has a fixed place.
 bool isPlaceFor(FileKind kind, const std::string& place) {
     if (kind == FileKind::Icon) return place == kIconPlace;
     const std::string folder = kindNameOf(kind).folder;
@@ -84,14 +84,14 @@ bool isPlaceFor(FileKind kind, const std::string& place) {
 }
 
 BundleFile readFile(const Json& entry) {
-    if (!entry.is_object()) malformed("a file is no object");
+    if (!entry.is_object()) malformed("a file entry is not an object");
     BundleFile file;
     file.kind = kindNamed(text(entry, "kind"));
     file.place = text(entry, "path");
     needSafe(isPlaceFor(file.kind, file.place), file.place);
     file.size = number(entry, "size", kLargestFile);
     file.sha256 = text(entry, "sha256");
-    if (!isChecksum(file.sha256)) malformed("the checksum of " + file.place + " is none");
+    if (!isChecksum(file.sha256)) malformed("the checksum of " + file.place + " is invalid");
     return file;
 }
 
@@ -100,7 +100,7 @@ void readFiles(const Json& object, Bundle& bundle) {
     for (const auto& entry : list(object, "files")) {
         bundle.files.push_back(readFile(entry));
         const auto& place = bundle.files.back().place;
-        if (!places.insert(place).second) malformed(place + " stands there twice");
+        if (!places.insert(place).second) malformed(place + " is listed twice");
     }
 }
 
@@ -111,13 +111,13 @@ void readApplication(const Json& object, Bundle& bundle) {
     bundle.device = text(object, "device");
     needSafe(isSafePart(bundle.device), bundle.device);
     for (const auto& reference : list(object, "references")) {
-        if (!reference.is_string()) malformed("a reference is no text");
+        if (!reference.is_string()) malformed("a reference is not a string");
         bundle.references.push_back(reference.get<std::string>());
     }
 }
 
 Bundle readBundle(const Json& object) {
-    if (!object.is_object()) malformed("it is no object");
+    if (!object.is_object()) malformed("it is not an object");
     const auto version = number(object, "schemaVersion", kLargestFile);
     if (version > kManifestVersion) throw ManifestProblem{ManifestProblem::NewerVersion, std::to_string(version)};
     if (version < kManifestVersion) malformed("its version is " + std::to_string(version));

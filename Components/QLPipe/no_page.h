@@ -1,5 +1,5 @@
 #pragma once
-// The configuration of a family whose devices need no settings.
+// The configuration object of families without settings.
 #include "Add-in/platform/pipes.h"
 
 namespace qlpipe {

@@ -17,20 +17,20 @@ struct ZipFileClose {
 
 } // namespace
 
-/// The zip archive, which says nothing that can be trusted: neither sizes nor names.
+/// The zip archive. Neither its sizes nor its names are trusted.
 class Package::Archive {
 public:
     explicit Archive(const std::string& path) : path_(path) {
         std::string reason;
         std::error_code ignored;
-        // a queue would keep the reader waiting for ever
+        // Reading from a FIFO could block forever.
         if (!std::filesystem::is_regular_file(path, ignored))
-            throw transferError(kPackageUnreadable, {path_, "there is no such file"});
+            throw transferError(kPackageUnreadable, {{"package", path_}, {"reason", "the file does not exist"}});
         archive_ = openZip(path, ZIP_RDONLY | ZIP_CHECKCONS, reason);
-        if (!archive_) throw transferError(kPackageUnreadable, {path_, reason});
+        if (!archive_) throw transferError(kPackageUnreadable, {{"package", path_}, {"reason", reason}});
     }
 
-    /// The entries in the order of the archive.
+    /// Returns the entries in the order of the archive.
     std::vector<std::pair<std::string, std::int64_t>> entries() const {
         std::vector<std::pair<std::string, std::int64_t>> found;
         const auto count = zip_.get_num_entries(archive_.get(), 0);
@@ -52,7 +52,8 @@ public:
     }
     std::size_t read(zip_file_t* file, std::span<char> buffer) const {
         const auto count = zip_.fread(file, buffer.data(), buffer.size());
-        if (count < 0) throw transferError(kPackageUnreadable, {path_, "an entry can't be unpacked"});
+        if (count < 0)
+            throw transferError(kPackageUnreadable, {{"package", path_}, {"reason", "an entry cannot be unpacked"}});
         return std::size_t(count);
     }
 
@@ -60,7 +61,7 @@ public:
 
 private:
     [[noreturn]] void unreadable() const {
-        throw transferError(kPackageUnreadable, {path_, zipReason(archive_.get())});
+        throw transferError(kPackageUnreadable, {{"package", path_}, {"reason", zipReason(archive_.get())}});
     }
 
     const ZipLibrary& zip_ = zipLibrary();
@@ -72,7 +73,7 @@ namespace {
 
 using Archive = Package::Archive;
 
-/// A file of a package: as many bytes as the manifest says and not one more is unpacked, whatever the archive claims.
+/// A file of a package. Unpacks at most the size in the manifest, regardless of what the archive claims.
 class PackedFile final : public ByteReader {
 public:
     PackedFile(std::shared_ptr<const Archive> archive, std::size_t index, const BundleFile& file)
@@ -88,7 +89,7 @@ public:
         checksum_.add({buffer.data(), count});
         const bool ends = count == 0 && !std::exchange(ended_, true);
         if (left_ < 0 || (ends && (left_ > 0 || checksum_.hex() != sha256_)))
-            throw transferError(kPackageEntryChanged, {archive_->path(), place_});
+            throw transferError(kPackageEntryChanged, {{"package", archive_->path()}, {"entry", place_}});
         return count;
     }
 
@@ -104,10 +105,10 @@ private:
 std::string readManifestEntry(const Archive& archive) {
     const auto entries = archive.entries();
     if (entries.empty() || entries.front().first != kManifestName)
-        throw transferError(kPackageManifest, {archive.path(), "it is not the first entry"});
+        throw transferError(kPackageManifest, {{"package", archive.path()}, {"reason", "it is not the first entry"}});
     const auto size = entries.front().second;
     if (size < 0 || size > kLargestManifest)
-        throw transferError(kPackageManifest, {archive.path(), "it is larger than 1 MB"});
+        throw transferError(kPackageManifest, {{"package", archive.path()}, {"reason", "it is larger than 1 MB"}});
     const auto file = archive.openEntry(0);
     std::string text(std::size_t(size), '\0');
     std::size_t done = 0;
@@ -116,19 +117,28 @@ std::string readManifestEntry(const Archive& archive) {
     return text;
 }
 
+TransferError packageError(const std::string& package, const ManifestProblem& problem) {
+    switch (problem.kind) {
+    case ManifestProblem::Malformed: break;
+    case ManifestProblem::NewerVersion:
+        return transferError(kPackageVersion, {{"package", package}, {"version", problem.what}});
+    case ManifestProblem::UnsafeName:
+        return transferError(kPackageUnsafeName, {{"package", package}, {"name", problem.what}});
+    }
+    return transferError(kPackageManifest, {{"package", package}, {"reason", problem.what}});
+}
+
 Bundle bundleOf(const Archive& archive) {
     Bundle bundle;
     try {
         bundle = readManifest(readManifestEntry(archive));
-    } catch (const ManifestProblem& problem) {
-        constexpr std::int32_t kNumbers[] = {kPackageManifest, kPackageVersion, kPackageUnsafeName};
-        throw transferError(kNumbers[problem.kind], {archive.path(), problem.what});
-    }
-    if (bundle.isRuntime) throw transferError(kPackageManifest, {archive.path(), "it is a runtime's"});
+    } catch (const ManifestProblem& problem) { throw packageError(archive.path(), problem); }
+    if (bundle.isRuntime)
+        throw transferError(kPackageManifest, {{"package", archive.path()}, {"reason", "it describes a runtime"}});
     return bundle;
 }
 
-/// Each file's position. Every entry but the manifest is one of the manifest's files, and the other way round.
+/// Returns the position of each file. Throws unless the entries match the files of the manifest.
 std::map<std::string, std::size_t> matchEntries(const Archive& archive, const Bundle& bundle) {
     std::map<std::string, std::int64_t> sizes;
     for (const auto& file : bundle.files) sizes.emplace(file.place, file.size);
@@ -138,11 +148,13 @@ std::map<std::string, std::size_t> matchEntries(const Archive& archive, const Bu
         const auto& [name, size] = entries[i];
         const auto named = sizes.find(name);
         if (named == sizes.end() || !positions.emplace(name, i).second)
-            throw transferError(kPackageEntryExtra, {archive.path(), name});
-        if (named->second != size) throw transferError(kPackageEntryChanged, {archive.path(), name});
+            throw transferError(kPackageEntryExtra, {{"package", archive.path()}, {"entry", name}});
+        if (named->second != size)
+            throw transferError(kPackageEntryChanged, {{"package", archive.path()}, {"entry", name}});
     }
     for (const auto& file : bundle.files)
-        if (!positions.contains(file.place)) throw transferError(kPackageEntryMissing, {archive.path(), file.place});
+        if (!positions.contains(file.place))
+            throw transferError(kPackageEntryMissing, {{"package", archive.path()}, {"entry", file.place}});
     return positions;
 }
 

@@ -1,5 +1,5 @@
 #pragma once
-// Reads a package, which may come from anybody.
+// Reads packages, which are not trusted.
 #include "Components/QLPipe/bundle.h"
 #include "Components/QLPipe/device_storage.h"
 #include <memory>
@@ -7,17 +7,17 @@
 
 namespace qlpipe {
 
-/// An open package whose manifest and list of entries agree. What its files hold is checked while they are read.
+/// An open package whose manifest matches its list of entries. The content of files is verified while reading.
 class Package {
 public:
-    /// Throws TransferError for what is no package, names unsafe places, or holds other entries than its manifest names.
+    /// Throws TransferError for an invalid package, unsafe names, or entries that do not match the manifest.
     explicit Package(const std::string& path);
     ~Package();
 
-    /// What it holds; its files can be opened as long as the answer or this lives, one at a time.
+    /// Returns its content. Files can be opened one at a time, as long as the result or the package exists.
     const Bundle& bundle() const { return bundle_; }
     const std::string& path() const;
-    /// Reads everything. Throws TransferError for the first file that is not as the manifest says.
+    /// Reads all files. Throws TransferError for the first one that does not match the manifest.
     void verify() const;
 
     class Archive;

@@ -1,18 +1,18 @@
 #pragma once
-// Everything that the pipes can say, in tables: numbers are stable, texts may be improved.
-// To add a message: a name here, a row in pipe_messages.cpp at its place, a test that provokes it.
+// All messages of the pipes. Numbers are stable, texts may be improved.
+// To add a message: a name here, a row in pipe_messages.cpp, and a test that triggers it.
 #include "Add-in/platform/message_info.h"
 #include "Components/QLPipe/device_storage.h"
+#include "Components/QLPipe/message_values.h"
 #include <cstdint>
-#include <initializer_list>
 #include <span>
 #include <string>
 #include <vector>
 
 namespace qlpipe {
 
-/// Errors, 20000 to 20999: 20000 in general, 20100 files of an application, 20200 devices, 20300 devices that are
-/// reached by SSH (in linux_handheld), 20400 packages.
+/// Errors, 20000 to 20999. 20000: general, 20100: files of an application, 20200: devices, 20300: devices reached by SSH
+/// (in linux_handheld), 20400: packages.
 enum PipeError : std::int32_t {
     kLibraryMissing = 20001,
 
@@ -52,7 +52,7 @@ enum PipeError : std::int32_t {
     kPackageDeviceUnknown = 20409,
 };
 
-/// Warnings as the events carry them, 100 to 899; 300 to 399 belong to devices that are reached by SSH.
+/// Warnings, with the numbers of events: 100 to 899. 300 to 399 are reserved for devices reached by SSH.
 enum PipeWarning : std::int32_t {
     kRuntimeNotInstalled = 100,
     kFileEmpty = 110,
@@ -60,19 +60,19 @@ enum PipeWarning : std::int32_t {
     kIconMissing = 112,
 };
 
-/// Added to a warning's number before users see it.
+/// Added to a warning's number when it is shown.
 inline constexpr std::int32_t kWarningOffset = 3000;
 
-/// The tables. Their numbers are those that users see: warnings stand with their offset.
+/// Returns the tables. Their numbers are those shown to users, that is, with the offset for warnings.
 std::vector<std::span<const fernwick::MessageInfo>> pipeMessages();
 
-/// The text of a number as users see it, with "%1" and so on replaced. "" for a number that no table has.
-std::string messageText(std::int32_t number, std::initializer_list<std::string> values = {});
+/// Returns the text of a number as users see it, with its values filled in, or "" for an unknown number.
+std::string messageText(std::int32_t number, MessageValues values = {});
 
-/// An error of the tables, ready to be thrown.
-TransferError transferError(std::int32_t number, std::initializer_list<std::string> values = {});
+/// Returns the error with this number, to be thrown.
+TransferError transferError(std::int32_t number, MessageValues values = {});
 
-/// A number of bytes in words: "1,048,576 bytes".
+/// Returns a number of bytes as text: "1,048,576 bytes".
 std::string bytesInWords(std::int64_t bytes);
 
 } // namespace qlpipe

@@ -1,5 +1,5 @@
 #pragma once
-// What pipes need of the world, and what they leave for the front end.
+// The pipes' dependencies, and their results for the front end.
 #include "Add-in/platform/classes.h"
 #include "Add-in/platform/environment.h"
 #include "Add-in/platform/files.h"
@@ -10,23 +10,23 @@
 
 namespace qlpipe {
 
-/// What the pipes of a run did, for a front end that reports it. Only pipes write it.
+/// What the pipes of a run did, for reports. Only pipes write it.
 struct TransferRecord {
-    /// Places on devices, in words for users, in the order in which they were filled.
+    /// Locations on devices, for users, in the order of the transfers.
     std::vector<std::string> installed;
-    /// The package that was written last; "" for none.
+    /// Path of the last package written, or "".
     std::string package;
     /// Whether the last transfer succeeded.
     bool succeeded = false;
 };
 
-/// They outlive every object that a pipe registers.
+/// Must outlive all objects created by the pipes.
 struct PipeServices {
     fernwick::FileSystemObject& files;
     fernwick::Classes& classes;
     fernwick::Registry& registry;
     fernwick::Environment& environment;
-    /// Root of the installation tree; "" for none.
+    /// Root of the installation tree, or "" without one.
     std::string installation;
     std::shared_ptr<TransferRecord> record = std::make_shared<TransferRecord>();
 };

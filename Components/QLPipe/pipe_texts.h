@@ -1,14 +1,11 @@
 #pragma once
-// What users read while a pipe works.
+// The progress texts of a pipe.
 namespace qlpipe::pipe_texts {
 
-/// A device's name follows, then the dots.
-inline constexpr char kConnecting[] = "Connecting to ";
-/// A file's name follows, then the dots.
-inline constexpr char kSending[] = "Sending ";
-inline constexpr char kReading[] = "Reading ";
-inline constexpr char kPacking[] = "Packing ";
-inline constexpr char kDots[] = "...";
+inline constexpr char kConnecting[] = "Connecting to {device}...";
+inline constexpr char kSending[] = "Sending {file}...";
+inline constexpr char kReading[] = "Reading {file}...";
+inline constexpr char kPacking[] = "Packing {file}...";
 inline constexpr char kFinishing[] = "Finishing...";
 
 } // namespace qlpipe::pipe_texts

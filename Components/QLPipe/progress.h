@@ -1,13 +1,12 @@
 #pragma once
-// How far a transfer has come, as an event sink is told.
+// Reports the progress of a transfer to an event sink.
 #include "Add-in/platform/pipes.h"
 #include <cstdint>
 #include <string>
 
 namespace qlpipe {
 
-/// Raises SendProgress when the words or the percent change, and not for each chunk: the sink serves the host's events each
-/// time.
+/// Calls SendProgress only if the text or the percentage changes, because the sink processes the host's events each time.
 class Progress {
 public:
     /// `sink` may be null. `total` is in bytes.

@@ -15,8 +15,9 @@ void addIcon(Bundle& bundle, FileListing& listing, const std::string& path) {
     try {
         bundle.files.push_back(bundleFile(FileKind::Icon, kIconPlace, path, sizeOfLocalFile(path)));
     } catch (const TransferError&) {
-        // an application runs without its icon
-        listing.findings.push_back({false, kIconMissing, messageText(kIconMissing + kWarningOffset, {path}), path});
+        // Applications also run without an icon.
+        listing.findings.push_back(
+            {false, kIconMissing, messageText(kIconMissing + kWarningOffset, {{"file", path}}), path});
     }
 }
 
@@ -24,7 +25,7 @@ void addIcon(Bundle& bundle, FileListing& listing, const std::string& path) {
 
 Bundle projectBundle(FileListing& listing, const ApplicationInfo& application, const std::string& device) {
     if (!isSafePart(application.ProjectName))
-        throw transferError(kUnsafeName, {"The project", application.ProjectName});
+        throw transferError(kUnsafeName, {{"file", "The project"}, {"name", application.ProjectName}});
     Bundle bundle;
     bundle.project = application.ProjectName;
     bundle.displayName = application.DisplayName;

@@ -12,11 +12,11 @@ namespace {
 namespace fs = std::filesystem;
 
 [[noreturn]] void unusable(const fs::path& file, const std::string& reason) {
-    throw transferError(kRuntimeUnusable, {file.string() + ": " + reason});
+    throw transferError(kRuntimeUnusable, {{"reason", file.string() + ": " + reason}});
 }
 
 BundleFile runtimeFile(const fs::path& list, const fs::path& folder, const std::string& name) {
-    if (!isSafeName(name)) unusable(list, "\"" + name + "\" is no name of a file below its folder");
+    if (!isSafeName(name)) unusable(list, "\"" + name + "\" is not a file name inside its folder");
     const auto path = (folder / name).string();
     try {
         const auto size = sizeOfLocalFile(path);
@@ -31,19 +31,19 @@ BundleFile runtimeFile(const fs::path& list, const fs::path& folder, const std::
 
 void addFiles(Bundle& bundle, const fs::path& list, const fs::path& folder,
               const toml::node_view<const toml::node>& names) {
-    if (!names.is_array()) unusable(list, "a list of files is missing");
+    if (!names.is_array()) unusable(list, "the list of files is missing");
     for (const auto& name : *names.as_array())
         bundle.files.push_back(runtimeFile(list, folder, name.value_or(std::string())));
 }
 
-/// Two files at one place would be one of them on the device.
+/// Refuses two files with the same place.
 void sortFiles(Bundle& bundle, const fs::path& list) {
     auto& files = bundle.files;
     std::sort(files.begin(), files.end(),
               [](const auto& a, const auto& b) { return basic::compareNoCase(a.place, b.place) < 0; });
     const auto twice = std::adjacent_find(
         files.begin(), files.end(), [](const auto& a, const auto& b) { return basic::equalNoCase(a.place, b.place); });
-    if (twice != files.end()) unusable(list, "\"" + twice->place + "\" stands there twice");
+    if (twice != files.end()) unusable(list, "\"" + twice->place + "\" is listed twice");
 }
 
 } // namespace
@@ -51,7 +51,7 @@ void sortFiles(Bundle& bundle, const fs::path& list) {
 Bundle runtimeBundle(const std::string& installation, const std::string& family) {
     const fs::path root = fs::path(installation) / "VB Toolkit" / "Runtime", list = root / family / "runtime.toml";
     std::error_code ignored;
-    if (!fs::is_regular_file(list, ignored)) throw transferError(kRuntimeNotShipped, {family});
+    if (!fs::is_regular_file(list, ignored)) throw transferError(kRuntimeNotShipped, {{"family", family}});
     Bundle bundle;
     bundle.isRuntime = true;
     try {

@@ -1,11 +1,12 @@
 #pragma once
-// The runtime that the installation has for a family of devices.
+// Makes the bundle of the runtime of a device family.
 #include "Components/QLPipe/bundle.h"
 #include <string>
 
 namespace qlpipe {
 
-/// From "VB Toolkit/Runtime/<family>/runtime.toml" of the installation, whose README tells the form. Throws TransferError.
+/// Reads "VB Toolkit/Runtime/<family>/runtime.toml" of the installation, described in the README there. Throws
+/// TransferError.
 Bundle runtimeBundle(const std::string& installation, const std::string& family);
 
 } // namespace qlpipe

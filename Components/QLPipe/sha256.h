@@ -5,14 +5,14 @@
 
 namespace qlpipe {
 
-/// The SHA-256 of bytes that come piece by piece.
+/// Computes a SHA-256 incrementally.
 class Sha256 {
 public:
     Sha256() { sha256_init(&state_); }
     void add(std::string_view bytes) {
         sha256_update(&state_, bytes.size(), reinterpret_cast<const std::uint8_t*>(bytes.data()));
     }
-    /// 64 digits in lower case; begins anew.
+    /// Returns 64 lower-case digits and starts a new computation.
     std::string hex();
 
     static constexpr std::size_t kHexDigits = 2 * SHA256_DIGEST_SIZE;

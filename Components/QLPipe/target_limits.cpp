@@ -54,7 +54,7 @@ TargetLimits limitsOf(fernwick::Classes& classes, const std::string& device) {
 std::string deviceToCheckFor(fernwick::Classes& classes, const basic::Ref<vbide::VBProject>& project,
                              const std::string& family) {
     std::string own;
-    // a project that was never given a device has no such value: error 5
+    // A project without a device does not have this value (error 5).
     const auto noDevice = basic::attempt([&] { own = project->ReadProperty("Quinloft Global", "TargetDevice"); });
     if (noDevice.Number == 0 && isOfFamily(own, family)) return own;
     const auto targets = installedTargets(classes);

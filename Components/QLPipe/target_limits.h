@@ -1,5 +1,5 @@
 #pragma once
-// What devices of a design target can take.
+// Limits of the devices of a design target.
 #include "Add-in/platform/classes.h"
 #include "Add-in/platform/host.h"
 #include <cstdint>
@@ -9,25 +9,25 @@
 
 namespace qlpipe {
 
-/// Without a value there is no limit.
+/// A limit without a value does not exist.
 struct TargetLimits {
-    /// The platform in words; the device's name where its target is not installed.
+    /// Name of the platform, or of the device if its target is not installed.
     std::string platform;
-    std::optional<std::int64_t> imageBytes; ///< of a compiled application
-    std::optional<std::int64_t> fileBytes;  ///< of any other file
-    std::optional<std::int64_t> heapBytes;  ///< what a program can hold in memory
+    std::optional<std::int64_t> imageBytes; ///< size of a compiled application
+    std::optional<std::int64_t> fileBytes;  ///< size of any other file
+    std::optional<std::int64_t> heapBytes;  ///< memory of a program
     std::optional<std::int64_t> storageBytes;
-    std::optional<std::int64_t> nameLength; ///< characters of a name, its folders included
-    std::vector<std::string> fileKinds;     ///< extensions in upper case; all kinds when empty
+    std::optional<std::int64_t> nameLength; ///< characters of a name, including folders
+    std::vector<std::string> fileKinds;     ///< extensions in upper case; if empty, all
 };
 
-/// From the options of the design target with this key; without any limit where there is none.
+/// Returns the limits of the design target with this key. An unknown target has no limits.
 TargetLimits limitsOf(fernwick::Classes& classes, const std::string& device);
 
-/// Whether a device with this name belongs to the family.
+/// Returns true if a device with this name belongs to the family.
 bool isOfFamily(const std::string& device, const std::string& family);
 
-/// The project's own device when it belongs to the family, else the family's first design target; "" for none.
+/// Returns the project's device if it belongs to the family, otherwise the family's first design target, or "".
 std::string deviceToCheckFor(fernwick::Classes& classes, const basic::Ref<vbide::VBProject>& project,
                              const std::string& family);
 

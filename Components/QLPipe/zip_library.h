@@ -1,12 +1,12 @@
 #pragma once
-// What is used of libzip, which is loaded with the first package.
+// libzip, loaded for the first package.
 #include "Components/QLPipe/late_library.h"
 #include <memory>
 #include <zip.h>
 
 namespace qlpipe {
 
-/// The members bear the names of the functions without "zip_".
+/// Members are named like the functions, without "zip_".
 struct ZipLibrary {
     LateLibrary library{"libzip.so.4", "libzip4"};
     decltype(&::zip_open) open = library["zip_open"];
@@ -32,19 +32,19 @@ struct ZipLibrary {
     decltype(&::zip_fclose) fclose = library["zip_fclose"];
 };
 
-/// Throws TransferError where libzip is not installed.
+/// Throws TransferError if libzip is not installed.
 const ZipLibrary& zipLibrary();
 
-/// An archive is given up unless somebody closes it.
+/// Discards an archive that was not closed.
 struct ZipDiscard {
     void operator()(zip_t* archive) const { zipLibrary().discard(archive); }
 };
 using ZipArchive = std::unique_ptr<zip_t, ZipDiscard>;
 
-/// Empty when it can't be opened, with the reason in words.
+/// Opens an archive. Returns null and sets `reason` on failure.
 ZipArchive openZip(const std::string& path, int flags, std::string& reason);
 
-/// What went wrong last with an archive, in words.
+/// Returns the text of the last error of an archive.
 std::string zipReason(zip_t* archive);
 
 } // namespace qlpipe

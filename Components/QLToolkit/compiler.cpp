@@ -5,11 +5,11 @@
 #include "Components/QLToolkit/parser/form_header.h"
 #include <set>
 
-namespace compiler {
+namespace qltoolkit {
 
 namespace {
 
-/// Sources are most of the work; the rest is the image.
+/// The share of the sources in the progress; the rest is for writing the image.
 constexpr std::size_t kPercentOfSources = 90;
 
 ConditionalConstants conditionalConstants(const std::vector<std::pair<std::string, std::int32_t>>& given) {
@@ -18,16 +18,16 @@ ConditionalConstants conditionalConstants(const std::vector<std::pair<std::strin
     return constants;
 }
 
-/// The text of a string literal; nothing for a literal of another kind.
+/// Returns the text of a string literal, or nothing for any other literal.
 std::optional<std::string> stringLiteral(const std::string& literal) {
     if (literal.size() < 2 || literal.front() != '"' || literal.back() != '"') return std::nullopt;
     return basic::Replace(literal.substr(1, literal.size() - 2), "\"\"", "\"");
 }
 
-bool usesLibrary(const ImageControl& control, const std::string& prefix) {
+bool usesLibrary(const image::Control& control, const std::string& prefix) {
     if (basic::startsWithNoCase(control.className, prefix)) return true;
     return std::any_of(control.children.begin(), control.children.end(),
-                       [&](const ImageControl& child) { return usesLibrary(child, prefix); });
+                       [&](const image::Control& child) { return usesLibrary(child, prefix); });
 }
 
 } // namespace
@@ -42,7 +42,7 @@ bool ProjectCompiler::Build() {
 }
 
 bool ProjectCompiler::compile() {
-    Image image;
+    image::Image image;
     image.compilerVersion = kCompilerVersion;
     image.projectName = services_.files.GetFileName(input_.outputPath);
     image.startup = input_.startup;
@@ -62,10 +62,10 @@ bool ProjectCompiler::compile() {
     return true;
 }
 
-void ProjectCompiler::compileSources(Image& image, SymbolTable& symbols) {
+void ProjectCompiler::compileSources(image::Image& image, SymbolTable& symbols) {
     std::vector<std::string> sources;
     for (const auto& file : input_.files)
-        if (file.kind == qltoolkit::SourceFile) sources.push_back(file.path);
+        if (file.kind == SourceFile) sources.push_back(file.path);
     for (std::size_t i = 0; i < sources.size(); ++i) {
         BuildStatus.raise("Compiling " + services_.files.GetFileName(sources[i]));
         compileSource(sources[i], image, symbols);
@@ -73,7 +73,7 @@ void ProjectCompiler::compileSources(Image& image, SymbolTable& symbols) {
     }
 }
 
-void ProjectCompiler::compileSource(const std::string& path, Image& image, SymbolTable& symbols) {
+void ProjectCompiler::compileSource(const std::string& path, image::Image& image, SymbolTable& symbols) {
     std::string bytes;
     const auto err = basic::attempt([&] { bytes = services_.files.ReadBytes(path); });
     if (err.Number != 0) {
@@ -81,7 +81,7 @@ void ProjectCompiler::compileSource(const std::string& path, Image& image, Symbo
         return report(fileDiagnostic(message, path, err.Description));
     }
     services_.record->inputs.push_back(path);
-    const SourceFile source{path, std::move(bytes)};
+    const SourceText source{path, std::move(bytes)};
     const auto parsed = parseModule(source, symbols, conditionalConstants(input_.constants));
     services_.record->lines += source.lineCount();
     for (const auto& diagnostic : parsed.diagnostics) report(diagnostic);
@@ -91,7 +91,7 @@ void ProjectCompiler::compileSource(const std::string& path, Image& image, Symbo
     if (auto form = readFormHeader(source)) image.forms.push_back(std::move(*form));
 }
 
-void ProjectCompiler::checkNames(const Image& image) {
+void ProjectCompiler::checkNames(const image::Image& image) {
     std::set<std::string> names;
     bool startFound = input_.startup.empty();
     const bool startsWithMain = input_.startup == "Sub Main";
@@ -99,9 +99,9 @@ void ProjectCompiler::checkNames(const Image& image) {
         if (!names.insert(basic::foldCase(module.name)).second)
             report(fileDiagnostic(Message::ModuleNameTwice, module.file, module.name));
         if (basic::equalNoCase(module.name, input_.startup)) startFound = true;
-        if (startsWithMain && module.kind == ImageModuleKind::Module)
+        if (startsWithMain && module.kind == image::ModuleKind::Module)
             for (const auto& member : module.members)
-                if (member.kind == ImageMemberKind::Sub && basic::equalNoCase(member.name, "Main")) startFound = true;
+                if (member.kind == image::MemberKind::Sub && basic::equalNoCase(member.name, "Main")) startFound = true;
     }
     if (!startFound && errors_ == 0) report(fileDiagnostic(Message::StartupMissing, "", input_.startup));
 }
@@ -109,7 +109,7 @@ void ProjectCompiler::checkNames(const Image& image) {
 std::vector<ProjectCompiler::Library> ProjectCompiler::findLibraries() {
     std::vector<Library> libraries;
     for (const auto& file : input_.files) {
-        if (file.kind == qltoolkit::SourceFile) continue;
+        if (file.kind == SourceFile) continue;
         if (auto library = findLibrary(file))
             libraries.push_back(std::move(*library));
         else
@@ -122,7 +122,7 @@ std::optional<ProjectCompiler::Library> ProjectCompiler::findLibrary(const Build
     const auto& files = services_.files;
     const std::string folder = files.GetParentFolderName(file.path);
     const std::string stem = files.BuildPath(folder, files.GetBaseName(file.path));
-    // a project names the library that stood on its author's machine: the extension may be another here
+    // The project has the library's path on its author's machine; the extension may differ here.
     for (const auto& path : {file.path, stem + ".dll", stem + ".ocx", stem + ".tlb"}) {
         const auto info = services_.classes.TypeLibInfoFromFile(path);
         if (info) return Library{path, info->Name, info->Guid, file.kind};
@@ -130,26 +130,26 @@ std::optional<ProjectCompiler::Library> ProjectCompiler::findLibrary(const Build
     return std::nullopt;
 }
 
-void ProjectCompiler::reportDependencies(const Image& image, const std::vector<Library>& libraries) {
+void ProjectCompiler::reportDependencies(const image::Image& image, const std::vector<Library>& libraries) {
     for (const auto& library : libraries) {
-        // a referenced library's constants need no qualifier, so it counts as in use; one of controls only when a
-        // form has one of them
-        const bool inUse = library.kind == qltoolkit::ReferencedLibrary ||
-                           std::any_of(image.forms.begin(), image.forms.end(), [&](const ImageControl& form) {
+        // Constants of a referenced library need no qualifier, so it counts as used. A library of controls is used
+        // only if a form has one of its controls.
+        const bool inUse = library.kind == ReferencedLibrary ||
+                           std::any_of(image.forms.begin(), image.forms.end(), [&](const image::Control& form) {
                                return usesLibrary(form, library.name + "Ctl.");
                            });
-        if (inUse) AddDependency.raise(library.guid, qltoolkit::ComponentDependency);
+        if (inUse) AddDependency.raise(library.guid, ComponentDependency);
     }
     const std::string folder = services_.files.GetParentFolderName(input_.outputPath);
     for (const auto& form : image.forms) reportFilesOf(form, folder);
 }
 
-void ProjectCompiler::reportFilesOf(const ImageControl& control, const std::string& folder) {
+void ProjectCompiler::reportFilesOf(const image::Control& control, const std::string& folder) {
     const auto& files = services_.files;
     for (const auto& property : control.properties) {
         const auto name = stringLiteral(property.value);
         if (!name || name->empty() || files.IsAbsolute(*name) || files.GetExtensionName(*name).empty()) continue;
-        if (files.FileExists(files.BuildPath(folder, *name))) AddDependency.raise(*name, qltoolkit::FileDependency);
+        if (files.FileExists(files.BuildPath(folder, *name))) AddDependency.raise(*name, FileDependency);
     }
     for (const auto& child : control.children) reportFilesOf(child, folder);
 }
@@ -162,9 +162,9 @@ void ProjectCompiler::report(const Diagnostic& diagnostic) {
     event.raise(diagnostic.text, diagnostic.file, std::int32_t(diagnostic.line), diagnostic.number);
 }
 
-bool ProjectCompiler::writeImage(const Image& image) {
+bool ProjectCompiler::writeImage(const image::Image& image) {
     const std::string path = input_.outputPath + kImageSuffix;
-    const auto err = basic::attempt([&] { services_.files.WriteBytes(path, encodeImage(image)); });
+    const auto err = basic::attempt([&] { services_.files.WriteBytes(path, image::encode(image)); });
     if (err.Number != 0) {
         report(fileDiagnostic(Message::ImageNotWritten, path, err.Description));
         return false;
@@ -173,4 +173,4 @@ bool ProjectCompiler::writeImage(const Image& image) {
     return true;
 }
 
-} // namespace compiler
+} // namespace qltoolkit

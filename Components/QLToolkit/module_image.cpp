@@ -2,30 +2,30 @@
 #include "Components/QLToolkit/parser/ast_walk.h"
 #include <unordered_set>
 
-namespace compiler {
+namespace qltoolkit {
 
 namespace {
 
-ImageModuleKind imageKindOf(FileKind kind) {
+image::ModuleKind imageKindOf(FileKind kind) {
     switch (kind) {
-    case FileKind::Module: return ImageModuleKind::Module;
-    case FileKind::Class: return ImageModuleKind::Class;
-    default: return ImageModuleKind::Form;
+    case FileKind::Module: return image::ModuleKind::Module;
+    case FileKind::Class: return image::ModuleKind::Class;
+    default: return image::ModuleKind::Form;
     }
 }
 
-ImageMemberKind imageKindOf(ProcedureKind kind) {
+image::MemberKind imageKindOf(ProcedureKind kind) {
     switch (kind) {
-    case ProcedureKind::Sub: return ImageMemberKind::Sub;
-    case ProcedureKind::Function: return ImageMemberKind::Function;
-    case ProcedureKind::PropertyGet: return ImageMemberKind::PropertyGet;
-    case ProcedureKind::PropertyLet: return ImageMemberKind::PropertyLet;
+    case ProcedureKind::Sub: return image::MemberKind::Sub;
+    case ProcedureKind::Function: return image::MemberKind::Function;
+    case ProcedureKind::PropertyGet: return image::MemberKind::PropertyGet;
+    case ProcedureKind::PropertyLet: return image::MemberKind::PropertyLet;
     case ProcedureKind::PropertySet: break;
     }
-    return ImageMemberKind::PropertySet;
+    return image::MemberKind::PropertySet;
 }
 
-/// The first byte behind the last separator of either kind.
+/// Returns the part after the last separator of either kind.
 std::string fileTitle(const std::string& path) {
     const auto slash = path.find_last_of("/\\");
     return slash == path.npos ? path : path.substr(slash + 1);
@@ -35,7 +35,7 @@ class MemberList {
 public:
     MemberList(const Module& module, const SymbolTable& symbols) : module_(module), symbols_(symbols) {}
 
-    std::vector<ImageMember> take() {
+    std::vector<image::Member> take() {
         for (const auto* decl = module_.declarations; decl; decl = decl->next) add(*decl);
         return std::move(members_);
     }
@@ -50,24 +50,24 @@ private:
         }
         case DeclKind::Declare: {
             const auto& signature = as<DeclareDecl>(decl).signature;
-            add(decl, ImageMemberKind::Declare, signature.name, signature.parameters.size());
+            add(decl, image::MemberKind::Declare, signature.name, signature.parameters.size());
             break;
         }
         case DeclKind::Event:
-            add(decl, ImageMemberKind::Event, as<EventDecl>(decl).name, as<EventDecl>(decl).parameters.size());
+            add(decl, image::MemberKind::Event, as<EventDecl>(decl).name, as<EventDecl>(decl).parameters.size());
             break;
         default: break;
         }
     }
 
-    void add(const Decl& decl, ImageMemberKind kind, Symbol name, std::uint32_t parameters) {
+    void add(const Decl& decl, image::MemberKind kind, Symbol name, std::uint32_t parameters) {
         members_.push_back({kind, decl.visibility != Visibility::Private, std::string(symbols_.spelling(name)),
                             module_.source.lineOf(decl.pos), parameters});
     }
 
     const Module& module_;
     const SymbolTable& symbols_;
-    std::vector<ImageMember> members_;
+    std::vector<image::Member> members_;
 };
 
 std::vector<std::string> stringsOf(const Module& module) {
@@ -99,8 +99,8 @@ std::string moduleName(const Module& module, const SymbolTable& symbols) {
     return {};
 }
 
-ImageModule imageOf(const Module& module, const SymbolTable& symbols) {
-    ImageModule image;
+image::Module imageOf(const Module& module, const SymbolTable& symbols) {
+    image::Module image;
     image.kind = imageKindOf(module.source.kind());
     image.name = moduleName(module, symbols);
     image.file = fileTitle(module.source.name());
@@ -110,4 +110,4 @@ ImageModule imageOf(const Module& module, const SymbolTable& symbols) {
     return image;
 }
 
-} // namespace compiler
+} // namespace qltoolkit

@@ -1,12 +1,6 @@
 #pragma once
 // The menu and the toolbars over bars in memory.
-#include "Add-in/commands/modClipboardManagement.h"
-#include "Add-in/commands/modMenuManagement.h"
-#include "Add-in/commands/modToolbarManagement.h"
-#include "tests/support/fake_targets.h"
-#include "tests/support/traced_bars.h"
-#include "tests/support/traced_host.h"
-#include "tests/support/traced_platform.h"
+#include "tests/support/add_in_world.h"
 
 namespace test {
 
@@ -66,23 +60,33 @@ struct OnePixel : fernwick::Resources {
     }
 };
 
-struct CommandsWorld : TracedPlatform {
-    CommandsWorld() {
-        addIn.gVBInstance = vbe;
-        vbe->bars = bars;
-        const auto menuBar = bars->stand("Menu Bar");
-        bars->menuBar = menuBar;
-        menuBar->stand(30002, "&File");
-        menuBar->stand(30004, "&View");
-        menuBar->stand(30038, "&Add-Ins");
-        const auto file = bars->stand("File");
-        for (const auto* caption : {"New", "Open", "Save", "Remove"}) file->stand(100, caption);
-    }
+/// A platform whose clipboard and pictures are the test's.
+struct CommandsPlatform : TracedPlatform {
+    TracedClipboard pasteboard{trace};
+    OnePixel pictures;
+    fernwick::Platform platform{user,
+                                loop,
+                                registry,
+                                files,
+                                processes,
+                                classes,
+                                environment,
+                                pasteboard,
+                                shell,
+                                screen,
+                                clock,
+                                pictures,
+                                TracedPlatform::platform.app};
+};
+
+/// The bars are in the trace in detail.
+struct CommandsWorld : AddInWorld<CommandsPlatform> {
+    CommandsWorld() { vbe->bars = bars = hostBars(trace); }
     ~CommandsWorld() { EXPECT_EQ(registry.openKeys(), 0U) << "a registry key stayed open"; }
 
     Ref<TracedBar> menuBar() const { return bars->menuBar; }
     /// The add-in's menu, or one of its popups.
-    Ref<TracedBar> menu(const std::string& popup = "") const {
+    Ref<TracedBar> shownMenu(const std::string& popup = "") const {
         const Ref<TracedBar> main = menuBar()->at("Fernwick")->popup;
         return popup.empty() ? main : Ref<TracedBar>(main->at(popup)->popup);
     }
@@ -100,24 +104,9 @@ struct CommandsWorld : TracedPlatform {
         act();
         return trace.effects;
     }
-    bool build() { return menus.SetUpQuinloftMenu(vbe); }
+    bool build() { return menu.SetUpQuinloftMenu(vbe); }
 
-    TracedClipboard pasteboard{trace};
-    OnePixel pictures;
-    fernwick::Platform world{user,       loop,  registry, files, processes, classes,     environment,
-                             pasteboard, shell, screen,   clock, pictures,  platform.app};
-    Ref<TracedBars> bars = basic::make<TracedBars>(trace);
-    Ref<TracedVbe> vbe = basic::make<TracedVbe>(trace);
-    FakeTargets targets{classes};
-    fernwick::modRegistry2 registry2{registry};
-    fernwick::modAddinPrefsManagement prefs{registry2, errors};
-    fernwick::AddIn addIn{registry2, errors, environment};
-    fernwick::modDeviceManagement devices{classes, errors};
-    fernwick::CommandItems items;
-    fernwick::modImageManagement images{world};
-    fernwick::modMenuManagement menus{{user, errors, addIn, registry2, devices, images, items}};
-    fernwick::modToolbarManagement toolbars{{errors, addIn, prefs, images, items}};
-    fernwick::modClipboardManagement clips{pasteboard, errors};
+    fernwick::modClipboardManagement& clips = Modules::clipboard;
 };
 
 } // namespace test

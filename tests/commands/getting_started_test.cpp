@@ -78,7 +78,6 @@ protected:
                              pictures,
                              {"QLVBAddIn", "/addin", "https://support", "https://web", "https://runtime",
                               "https://samples", "https://forum", "https://developers"}};
-    fernwick::modQLInstallInfo install{registry2, files};
     fernwick::frmGettingStarted intro{maker, install, prefs, errors};
 };
 

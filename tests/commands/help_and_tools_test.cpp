@@ -33,7 +33,6 @@ protected:
     Shell programs;
     fernwick::Platform platformWithPrograms{user,       loop,     registry, files, processes, classes,     environment,
                                             pasteboard, programs, screen,   clock, pictures,  platform.app};
-    fernwick::modQLInstallInfo install{registry2, files};
     fernwick::modViewConvertManagement tools{programs, install, errors};
     fernwick::modHelpManagement help{platformWithPrograms, install, errors};
 };
@@ -169,9 +168,9 @@ TEST_F(InstalledHelp, IsWhatTheIntroductionLeadsTo) {
 }
 
 TEST(StringTable, KeepsWhatTheMenuDoesNotUse) {
-    EXPECT_EQ(fernwick::LoadResString(fernwick::kPalmOSString), "&Palm OS");
-    EXPECT_EQ(fernwick::LoadResString(fernwick::kPocketPCString), "P&ocketPC");
-    EXPECT_EQ(fernwick::LoadResString(fernwick::kDeployToTargetString), "Deploy To Design &Target");
+    EXPECT_STREQ(fernwick::command_texts::kPalmOSString.text, "&Palm OS");
+    EXPECT_STREQ(fernwick::command_texts::kPocketPCString.text, "P&ocketPC");
+    EXPECT_STREQ(fernwick::command_texts::kDeployToTargetString.text, "Deploy To Design &Target");
 }
 
 } // namespace

@@ -117,7 +117,7 @@ TEST_F(MenuOrder, WhatAFailureLeftIsReplacedByTheNextBuild) {
     targets.known = {"Palm-1"};
     addSample("\\A", "", "A");
     build();
-    const auto whole = captions(menu());
+    const auto whole = captions(shownMenu());
     for (int failing = 1;; ++failing) {
         trace.calls = 0;
         trace.failing = failing;
@@ -126,7 +126,7 @@ TEST_F(MenuOrder, WhatAFailureLeftIsReplacedByTheNextBuild) {
         if (trace.calls < failing) break;
         EXPECT_TRUE(error.Number == 0 || error.Number == test::kInjected) << failing;
         EXPECT_TRUE(build());
-        EXPECT_EQ(captions(menu()), whole) << failing;
+        EXPECT_EQ(captions(shownMenu()), whole) << failing;
         // what could not be deleted, or never got its caption, is left
         std::erase_if(menuBar()->items, [](const auto& item) { return item->Id() == 1; });
     }

@@ -11,7 +11,7 @@ class MenuTree : public testing::Test, protected test::CommandsWorld {
 protected:
     MenuTree() { addIn.gVBInstance = host.ide; }
 
-    bool buildOnHost() { return menus.SetUpQuinloftMenu(host.ide); }
+    bool buildOnHost() { return menu.SetUpQuinloftMenu(host.ide); }
     /// One line an item: "--" before what begins a group, its caption, its face; what lies below is indented.
     static std::string text(const test::Ref<office::CommandBarControls>& controls, const std::string& indent = "") {
         std::string all;

@@ -13,7 +13,7 @@ class SamplesMenu : public testing::Test, protected test::CommandsWorld {
 protected:
     std::vector<std::string> samples(const std::string& popup = "") {
         build();
-        const auto all = menu("Samples and Tutorials");
+        const auto all = shownMenu("Samples and Tutorials");
         return captions(popup.empty() ? all : test::Ref<test::TracedBar>(all->at(popup)->popup));
     }
     /// Name and project of what stands in the array, "> caption" for a popup.
@@ -57,7 +57,7 @@ TEST_F(SamplesMenu, OnlyTheFirstPopupBeginsAGroup) {
     addSample("\\A\\B", "", "B");
     addSample("\\C", "", "C");
     build();
-    const auto all = menu("Samples and Tutorials");
+    const auto all = shownMenu("Samples and Tutorials");
     EXPECT_TRUE(all->at("A")->group);
     EXPECT_FALSE(all->at("A")->popup->at("B")->group);
     EXPECT_FALSE(all->at("C")->group);
@@ -92,15 +92,15 @@ TEST_F(SamplesMenu, AFailureCostsOneBranchAndTheRestStands) {
     addSample("\\A", "Two", "/s/2.vbp");
     build();
     for (int failing = 1;; ++failing) {
-        menu("Samples and Tutorials")->items.clear();
+        shownMenu("Samples and Tutorials")->items.clear();
         errors.injected = 0;
         trace.calls = 0;
         trace.failing = failing;
-        menus.SetupSamplesMenu();
+        menu.SetupSamplesMenu();
         trace.failing = 0;
         if (trace.calls < failing) break;
         EXPECT_LE(errors.injected, 1) << failing; // a face fails without a word
-        const auto standing = captions(menu("Samples and Tutorials"));
+        const auto standing = captions(shownMenu("Samples and Tutorials"));
         const auto missing = test::lost({fixed[0], fixed[1], "A", fixed[2]}, standing);
         EXPECT_LE(missing.size(), 1U) << failing;
     }

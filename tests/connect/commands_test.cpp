@@ -161,7 +161,7 @@ TEST_F(Commands, AtTheCommandLineNothingSaysSo) {
     host.open(hello());
     connect(vbide::vbext_cm_CommandLine);
     EXPECT_THAT(click(items().gSettingsItem), ElementsAre("cursor 11"));
-    modules->commands.ShowProjectManagerOnDelay();
+    modules->features.ShowProjectManagerOnDelay();
     EXPECT_THAT(trace.effects, testing::Not(Contains(kNotHere)));
 }
 

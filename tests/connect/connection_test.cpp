@@ -22,9 +22,9 @@ TEST_F(Connection, StartsInItsOrder) {
     open("A", "Palm-1");
     clock.now = 4711;
     connect();
-    EXPECT_THAT(trace.effects,
+    EXPECT_THAT(steps(),
                 ElementsAre(kVariable, "sink: build", "sink: projects", "sink: all files", "backup clipboard", "menu",
-                            "toolbar", "support toolbar",
+                            "toolbar", "disable toolbar", "support toolbar", "disable support toolbar",
                             "window QLVBAddIn.udocCompileMsgs {8531D96D-DE1E-11d2-8E96-00104B78F251}",
                             "Fernwick Messages hidden", "create zoom window", "restore clipboard", "TwipsPerPixelX=15",
                             "TwipsPerPixelY=15", "enable menu", "enable toolbar", "enable support toolbar",
@@ -45,6 +45,7 @@ TEST_F(Connection, PublishesTheHostsAddress) {
 }
 
 TEST_F(Connection, FromOutsideThereIsNoInterface) {
+    buildInterface(); // to see that nothing but its state is changed
     connect(vbide::vbext_cm_External);
     EXPECT_THAT(trace.effects,
                 ElementsAre(kVariable, "sink: build", "sink: projects", "sink: all files", "backup clipboard",
@@ -55,9 +56,11 @@ TEST_F(Connection, TheOtherModesAreAlike) {
     connect(vbide::vbext_cm_CommandLine);
     auto before = trace.effects;
     messages.killToolWindow();
+    startHostAnew();
     connect(vbide::vbext_cm_AfterStartup);
     EXPECT_EQ(trace.effects, before);
     messages.killToolWindow();
+    startHostAnew();
     connect(vbide::vbext_cm_Startup);
     EXPECT_EQ(trace.effects, before);
 }
@@ -155,7 +158,8 @@ TEST_F(Connection, WithoutAnEndOfTheStartTheEditorStaysDown) {
 }
 
 TEST_F(Connection, AFailedMenuLeavesTheSiblingsAndTriesTheToolbars) {
-    commands.menuStands = false;
+    bars->menuBar = nullptr;
+    bars->named("Menu Bar")->items.clear();
     items.gCompileItem = item("compile");
     const auto editor = sibling("ResEdit6.Connect", true);
     const auto importer = sibling("QLProjectImport.Connect", false);
@@ -170,7 +174,7 @@ TEST_F(Connection, AFailedMenuLeavesTheSiblingsAndTriesTheToolbars) {
 }
 
 TEST_F(Connection, AFailedToolbarGoesOn) {
-    commands.toolbarStands = false;
+    bars->refused = "Fernwick";
     items.gToolCompile = item("compile");
     connect();
     EXPECT_THAT(trace.effects, Contains(failureBox("Could not add Fernwick Toolbar;")));
@@ -180,7 +184,7 @@ TEST_F(Connection, AFailedToolbarGoesOn) {
 }
 
 TEST_F(Connection, AFailedSupportToolbarGoesOn) {
-    commands.supportToolbarStands = false;
+    bars->refused = "Quinloft Utilities";
     connect();
     EXPECT_THAT(trace.effects, Contains(failureBox("Could not add Quinloft Converters and Viewers Toolbar;")));
     EXPECT_FALSE(self->connected);
@@ -190,10 +194,10 @@ TEST_F(Connection, AFailedSupportToolbarGoesOn) {
 TEST_F(Connection, ShowsTheIntroductionWhenItsPreferenceSaysSo) {
     prefs.SetStartTutorial(true);
     connect();
-    EXPECT_EQ(trace.effects.back(), "introduction");
+    EXPECT_EQ(trace.effects.back(), "form frmGettingStarted");
     prefs.SetStartTutorial(false);
     connect();
-    EXPECT_NE(trace.effects.back(), "introduction");
+    EXPECT_FALSE(did("form frmGettingStarted"));
 }
 
 TEST_F(Connection, WithoutAHostItReportsAndEnds) {
@@ -226,16 +230,16 @@ TEST_F(Connection, EachCallOfTheStartThatFailsCostsOnlyItself) {
     targets.known = {"Palm-1"};
     open("A", "Palm-1");
     const auto editor = sibling("ResEdit6.Connect", true);
-    items.gCompileItem = item("compile");
     const auto startAgain = [&] {
         editor->connected = true;
         messages.killToolWindow();
+        startHostAnew();
         projects.ClearProjectsList();
         connect();
     };
     startAgain(); // stores the screen's resolution, which later starts find
     startAgain();
-    const auto baseline = trace.effects;
+    const auto baseline = steps();
     for (int failing = 1;; ++failing) {
         errors.injected = 0;
         trace.calls = 0;
@@ -243,11 +247,13 @@ TEST_F(Connection, EachCallOfTheStartThatFailsCostsOnlyItself) {
         startAgain();
         trace.failing = 0;
         if (trace.calls < failing) break;
-        const auto missing = test::lost(baseline, trace.effects);
+        const auto missing = test::lost(baseline, steps());
         EXPECT_LE(errors.injected, 1) << failing;
         EXPECT_TRUE(did("restore clipboard") || missing.size() == 1) << failing;
         if (did("disable menu")) continue; // the project could not be taken up
-        EXPECT_LE(missing.size(), 3U) << failing;
+        // what was not built is neither enabled nor given a tip
+        const bool lacksToolbar = did(failureBox("Could not add Fernwick Toolbar;"));
+        EXPECT_LE(missing.size(), lacksToolbar ? 4U : 3U) << failing;
     }
 }
 
@@ -260,8 +266,7 @@ TEST_F(Connection, EachCallOfTheStopThatFailsCostsOnlyItself) {
         trace.failing = failing;
         connection->IDTExtensibility_OnDisconnection(vbide::vbext_dm_UserClosed);
         EXPECT_EQ(trace.effects.size(), 2U);
-        EXPECT_THAT(errors.seen, ElementsAre("Connect.IDTExtensibility_OnDisconnection("
-                                             "ByVal_RemoveMode_As_vbext_DisconnectMode,_custom [50000]"));
+        EXPECT_THAT(errors.seen, IsEmpty());
     }
 }
 

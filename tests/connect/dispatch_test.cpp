@@ -29,14 +29,14 @@ protected:
 };
 
 TEST_F(Dispatch, TheSettingsChooseTheirPageThemselves) {
-    LifecycleWorld::open("A", "Palm-1");
+    ProjectsWorld::open("A", "Palm-1");
     EXPECT_THAT(click(connection->QuinloftSettingsHandler), ElementsAre("cursor 11", "settings INVALID DIALOG NAME"));
     EXPECT_THAT(click(connection->ToolQuinloftSettingsHandler),
                 ElementsAre("cursor 11", "settings INVALID DIALOG NAME"));
 }
 
 TEST_F(Dispatch, WithoutDevicesTheSettingsOpenOnTheirPage) {
-    LifecycleWorld::open("A", "Palm-1");
+    ProjectsWorld::open("A", "Palm-1");
     for (auto* all :
          {&connection->DeployAllDevices, &connection->MakePackageAllDevices, &connection->InstallVMAllDevices}) {
         user.answers = {fernwick::vbYes, fernwick::vbNo};
@@ -45,16 +45,16 @@ TEST_F(Dispatch, WithoutDevicesTheSettingsOpenOnTheirPage) {
 }
 
 TEST_F(Dispatch, DevicesThatAreChosenThereAreServed) {
-    LifecycleWorld::open("A", "Palm-1");
+    ProjectsWorld::open("A", "Palm-1");
     user.answers = {fernwick::vbYes};
-    commands.inSettings = [this] { prefs.gMyDevices = {"Palm-1", "Palm-1"}; };
+    noted.inSettings = [this] { prefs.gMyDevices = {"Palm-1", "Palm-1"}; };
     const auto effects = click(connection->InstallVMAllDevices);
     EXPECT_EQ(std::count(effects.begin(), effects.end(), kQuestion), 1);
     EXPECT_EQ(std::count(effects.begin(), effects.end(), "form frmSendRuntimeToDevice"), 2);
 }
 
 TEST_F(Dispatch, TheIntroductionIsAskedFor) {
-    EXPECT_THAT(click(connection->SampleIntroHandler), ElementsAre("introduction"));
+    EXPECT_THAT(click(connection->SampleIntroHandler), ElementsAre("form frmGettingStarted"));
 }
 
 class FailingDispatch : public testing::Test, protected test::WholeWorld {

@@ -27,8 +27,7 @@ protected:
         host.ide->listAddIn(kProgId, "Fernwick", [this] { return fernwick::asAddIn(modules); });
     }
     ~EndToEnd() override {
-        host.ide->close();
-        modules->addIn.gVBInstance = nullptr; // the host holds the add-in that holds it
+        if (host.ide) host.ide->close();
     }
     basic::Ref<vbide::VBProject> connected(const test::SampleProject& sample) {
         const auto project = host.open(sample);
@@ -75,7 +74,7 @@ protected:
     host::Environment environment;
     host::FileSystem files;
     host::Processes processes{[](const std::string&, const std::string&) { return true; }};
-    test::NoClipboard clipboard;
+    test::TextClipboard clipboard{trace};
     test::NoShell shell;
     test::FixedScreen screen;
     test::FixedClock clock;
@@ -88,6 +87,15 @@ protected:
         "QLToolkit.CompilerFactory", [this] { return basic::make<test::FakeCompilerFactory>(compiler); });
     std::shared_ptr<fernwick::Modules> modules = std::make_shared<fernwick::Modules>(platform);
 };
+
+TEST_F(EndToEnd, TheAddInDoesNotKeepItsHostAlive) {
+    connected(hello());
+    const std::weak_ptr<host::Host> link = host.ide;
+    host.ide->close();
+    host.ide.reset();
+    EXPECT_TRUE(link.expired());
+    EXPECT_FALSE(modules->addIn.gVBInstance);
+}
 
 TEST_F(EndToEnd, AProjectCompiles) {
     const auto project = connected(hello());

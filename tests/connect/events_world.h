@@ -8,6 +8,10 @@ struct EventsWorld : ConnectWorld {
     EventsWorld() {
         targets.known = {"Palm-1"};
         connect(vbide::vbext_cm_Startup);
+        registry.set(fernwick::HKEY_CURRENT_USER, "SOFTWARE\\Quinloft\\AddinPrefs", "POS:Quinloft Utilities", "1");
+        registry.written = [this](const std::string& name) {
+            if (name == "POS:Quinloft Utilities") trace.effect("save toolbars");
+        };
         trace.effects.clear();
     }
     ~EventsWorld() {
@@ -16,7 +20,7 @@ struct EventsWorld : ConnectWorld {
     /// A project that the host has taken in and is about to tell of. It is this system's own unless its device is
     /// "none".
     Ref<TracedProject> opened(const std::string& name, const std::string& device = "Palm-1") {
-        const auto project = LifecycleWorld::open(name, device);
+        const auto project = ProjectsWorld::open(name, device);
         projects.RemoveFromProjectsList(project);
         set(project, "TwipsPerPixelX", "15");
         set(project, "TwipsPerPixelY", "15");

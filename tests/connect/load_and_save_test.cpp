@@ -63,15 +63,15 @@ TEST_F(LoadAndSave, AnUnreadableFileIsTheHostsToReport) {
 }
 
 TEST_F(LoadAndSave, AnOldProjectIsNotWritten) {
-    const auto old = LifecycleWorld::open("A");
+    const auto old = ProjectsWorld::open("A");
     set(old, "ProjectVersion", "1.0");
     EXPECT_TRUE(cancelled(old));
     EXPECT_THAT(errors.seen, IsEmpty());
 }
 
 TEST_F(LoadAndSave, OthersAreWritten) {
-    EXPECT_FALSE(cancelled(LifecycleWorld::open("A")));
-    const auto foreign = LifecycleWorld::open("B", "none");
+    EXPECT_FALSE(cancelled(ProjectsWorld::open("A")));
+    const auto foreign = ProjectsWorld::open("B", "none");
     EXPECT_FALSE(cancelled(foreign));
 }
 

@@ -58,7 +58,7 @@ TEST_F(ProjectEvents, ASecondProjectOfTheSameNameIsReported) {
 // ---- what makes a project go ---------------------------------------------------------------------------------------------
 
 TEST_F(ProjectEvents, AProjectOfTheOldFormatIsRemovedAndConverted) {
-    commands.converter = basic::make<test::TracedControl>(trace, "host: import");
+    addImporter();
     const auto project = opened("A");
     set(project, "ProjectVersion", "1.0");
     project->dirty = true;
@@ -70,7 +70,7 @@ TEST_F(ProjectEvents, AProjectOfTheOldFormatIsRemovedAndConverted) {
 TEST_F(ProjectEvents, TheStubOpensTheProjectManagerAndGoesAway) {
     const auto stub = opened("Stub", "");
     set(stub, "StartUpProject", kStub);
-    EXPECT_THAT(tellAdded(stub), ElementsAre("sink: files of Stub", "project manager stands"));
+    EXPECT_THAT(tellAdded(stub), ElementsAre("sink: files of Stub", "project manager"));
     EXPECT_THAT(openNames(), ElementsAre("Stub"));
     EXPECT_THAT(turn(), ElementsAre("active Stub", "host: remove project"));
 }
@@ -79,7 +79,7 @@ TEST_F(ProjectEvents, WhatTheProjectManagerOpensInTheStubsPlaceGetsItsTemplate) 
     targets.templates.project = kTargetsOwn;
     const auto stub = opened("Stub", "");
     set(stub, "StartUpProject", kStub);
-    commands.inProjectManager = [&] {
+    noted.inProjectManager = [&] {
         vbe->removeActive();
         vbe->events->projects->ItemAdded.raise(fromTemplate());
     };
@@ -99,7 +99,7 @@ class UnknownDevice : public ProjectEvents {
 protected:
     /// The steps from the question on.
     Effects decide(const fernwick::UnknownDeviceChoice& choice) {
-        commands.unknownDevice = choice;
+        noted.unknownDevice = choice;
         auto effects = tellAdded(opened("A", "Gone-9"));
         effects.erase(effects.begin(), std::find(effects.begin(), effects.end(), "unknown device of A"));
         return effects;
@@ -238,7 +238,7 @@ TEST_F(ProjectEvents, AClosingOfASavedProjectSavesNothing) {
 }
 
 TEST_F(ProjectEvents, WhatNoDeviceServesIsNotSavedAtItsClosing) {
-    commands.unknownDevice = {true, ""};
+    noted.unknownDevice = {true, ""};
     const auto project = added("A", "Gone-9");
     opened("B");
     project->dirty = true;
@@ -411,7 +411,7 @@ TEST_F(FailingEvents, OfANewProjectCostOnlyThemselves) {
 }
 
 TEST_F(FailingEvents, OfAProjectThatIsTurnedAwayCostOnlyThemselves) {
-    commands.unknownDevice = {false, "/p/B.vbp"};
+    noted.unknownDevice = {false, "/p/B.vbp"};
     test::Ref<test::TracedProject> project;
     sweep(
         [&] {

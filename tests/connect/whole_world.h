@@ -43,10 +43,7 @@ protected:
         compiler->work = [this](FakeCompiler&) { host.folder.write("Hello.0000.qlx", "image"); };
         host.ide->listAddIn(kProgId, "Fernwick", [this] { return fernwick::asAddIn(modules); });
     }
-    ~WholeWorld() {
-        host.ide->close();
-        modules->addIn.gVBInstance = nullptr; // the host holds the add-in that holds it
-    }
+    ~WholeWorld() { host.ide->close(); }
     void store(fernwick::RegistryRoot root, const std::string& path, const std::string& name, const std::string& text) {
         fernwick::modRegistry2 registry{host.registry};
         const fernwick::RegistryKey key{registry, registry.OpenOrCreateKey(root, path, fernwick::KEY_ALL_ACCESS)};

@@ -16,7 +16,7 @@ TEST_F(Preferences, DefaultsWhereNothingIsStored) {
     EXPECT_EQ(prefs.GetZoomWinState(), 1);
     prefs.loadMyDevices();
     EXPECT_TRUE(prefs.gMyDevices.empty());
-    EXPECT_TRUE(world.errors.seen.empty());
+    EXPECT_TRUE(errors.seen.empty());
 }
 
 TEST_F(Preferences, WhatIsSetIsRead) {
@@ -63,7 +63,7 @@ TEST_F(Preferences, AStoreThatMayNotBeWrittenGivesDefaults) {
     EXPECT_EQ(prefs.GetZoomWinState(), 1);
     prefs.gMyDevices = {"PalmOS"};
     EXPECT_TRUE(prefs.saveMyDevices());
-    EXPECT_TRUE(world.errors.seen.empty());
+    EXPECT_TRUE(errors.seen.empty());
 }
 
 TEST_F(Preferences, ACompileWarningStoredAsTextIsFalse) {
@@ -88,8 +88,8 @@ TEST_F(Preferences, ANumberThatIsNoneIsReportedAndTheDefault) {
     setText(kUser, kAddIn, "ProjMgrState", "open");
     EXPECT_EQ(prefs.GetRecentProjColWidth(), -1);
     EXPECT_EQ(prefs.GetProjectManagerState(), 0);
-    EXPECT_EQ(world.errors.seen, (Texts{"modAddinPrefsManagement.GetRecentProjColWidth [13]",
-                                        "modAddinPrefsManagement.GetProjectManagerState [13]"}));
+    EXPECT_EQ(errors.seen, (Texts{"modAddinPrefsManagement.GetRecentProjColWidth [13]",
+                                  "modAddinPrefsManagement.GetProjectManagerState [13]"}));
 }
 
 TEST_F(Preferences, TheTutorialBelongsToTheMachine) {
@@ -132,7 +132,7 @@ TEST_F(Preferences, ADeviceCountThatIsNoNumberIsReported) {
     setText(kUser, kMyDevices, "MyDeviceCount", "many");
     prefs.loadMyDevices();
     EXPECT_TRUE(prefs.gMyDevices.empty());
-    EXPECT_EQ(world.errors.seen, Texts{"modAddinPrefsManagement.loadMyDevices [13]"});
+    EXPECT_EQ(errors.seen, Texts{"modAddinPrefsManagement.loadMyDevices [13]"});
 }
 
 TEST_F(Preferences, AnAbsurdDeviceCountEnds) {
@@ -160,5 +160,5 @@ TEST_F(Preferences, GroupsAreFoundByNameAndByPosition) {
 
 TEST_F(Preferences, TheHostsAddressIsPublishedInCapitals) {
     addIn.SaveVBinstPointer(nullptr);
-    EXPECT_EQ(world.environment.values["VBInstance-3AD1D370-2E73-417D-B685-0E1756D55411"], "0");
+    EXPECT_EQ(environment.values["VBInstance-3AD1D370-2E73-417D-B685-0E1756D55411"], "0");
 }

@@ -7,8 +7,7 @@ namespace {
 using Texts = std::vector<std::string>;
 
 struct DeviceConfig : test::DevicesTest {
-    DeviceServices services{world.errors, user, classes, registry, prefs, references, devices};
-    basic::Ref<test::FakeTarget> target = addTarget("Palm");
+    basic::Ref<test::ListedTarget> target = addTarget("Palm");
 
     /// A control that resolves: identifier, class and library stand in the registry.
     void installControl(const std::string& clsid, const std::string& progId, const std::string& category) {
@@ -18,17 +17,17 @@ struct DeviceConfig : test::DevicesTest {
         support(clsid, category);
     }
     void registerServer(const std::string& clsid, const std::string& path = "/q/Tavlets.dll") {
-        world.registry.set(HKEY_CLASSES_ROOT, "CLSID\\" + clsid + "\\InprocServer32", "", path);
+        registry.set(HKEY_CLASSES_ROOT, "CLSID\\" + clsid + "\\InprocServer32", "", path);
     }
     void support(const std::string& clsid, const std::string& category) {
         target->clsids.push_back(clsid);
         target->categories.push_back(category);
     }
     void storeGroup(const std::string& category, const std::string& position) {
-        world.registry.set(HKEY_LOCAL_MACHINE, "SOFTWARE\\Quinloft\\AddinPrefs\\TavletGroups", category, position);
+        registry.set(HKEY_LOCAL_MACHINE, "SOFTWARE\\Quinloft\\AddinPrefs\\TavletGroups", category, position);
     }
     clsDeviceConfig read() {
-        clsDeviceConfig config{services};
+        clsDeviceConfig config{deviceServices};
         config.ReadDeviceConfig("Palm");
         return config;
     }

@@ -99,13 +99,13 @@ TEST_F(DeviceManagement, WhateverFailsOfThePlatformIsReportedOnceAtMost) {
     addTarget("B");
     int calls = 1;
     for (int failing = 1; failing <= calls; ++failing) {
-        world.errors.seen.clear();
-        world.trace.calls = 0;
-        world.trace.failing = failing;
+        errors.seen.clear();
+        trace.calls = 0;
+        trace.failing = failing;
         devices.gDesignTargetMgr = nullptr;
         devices.IsValidDevice("A");
         devices.GetNumDesignTargets();
-        calls = world.trace.calls;
+        calls = trace.calls;
         EXPECT_LE(reports().size(), 1U) << failing;
     }
 }

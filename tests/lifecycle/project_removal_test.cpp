@@ -93,7 +93,7 @@ TEST_F(ProjectRemoval, WithoutReplacingItKeepsThePathOfTheRequestBefore) {
 }
 
 TEST_F(ProjectRemoval, TheOldFormatGoesToTheImporter) {
-    commands.converter = basic::make<test::TracedControl>(trace, "host: import");
+    addImporter();
     const auto project = open("A");
     set(project, "ProjectVersion", "1.0");
     removal.RemoveProject(project, true, "/p/New.vbp");

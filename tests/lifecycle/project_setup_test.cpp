@@ -182,12 +182,12 @@ protected:
 
 TEST_F(ProjectManager, OpensAtOnceWithoutAProject) {
     start(nullptr);
-    EXPECT_THAT(trace.effects, ElementsAre("project manager"));
+    EXPECT_THAT(trace.effects, ElementsAre("project manager on delay"));
 }
 
 TEST_F(ProjectManager, ClosesACleanProjectWithoutAQuestion) {
     start(open("A", "Palm-1"));
-    EXPECT_THAT(trace.effects, ElementsAre("active A", "host: remove project", "project manager"));
+    EXPECT_THAT(trace.effects, ElementsAre("active A", "host: remove project", "project manager on delay"));
 }
 
 TEST_F(ProjectManager, DoesNotOpenWhenTheUserCancels) {
@@ -206,7 +206,7 @@ TEST_F(ProjectManager, LosesTheChangesWhenTheUserSaysSo) {
     start(project);
     EXPECT_TRUE(did("A dirty 0"));
     EXPECT_FALSE(did("A saved /p/A.vbp"));
-    EXPECT_EQ(trace.effects.back(), "project manager");
+    EXPECT_EQ(trace.effects.back(), "project manager on delay");
     EXPECT_THAT(openNames(), IsEmpty());
 }
 

@@ -1,5 +1,4 @@
 // A sample takes the place of what is open.
-#include "Add-in/lifecycle/SampleOpening.h"
 #include "lifecycle_world.h"
 
 using testing::ElementsAre;
@@ -15,11 +14,10 @@ protected:
     }
     const std::vector<std::string>& pick() {
         trace.effects.clear();
-        opening.open(sample);
+        samples.open(sample);
         return trace.effects;
     }
     fernwick::clsSampleMenuItem sample;
-    fernwick::SampleOpening opening{{platform, errors, addIn, save, commands}};
 };
 
 TEST_F(OpeningASample, WithNothingOpenOnlyOpensIt) { EXPECT_THAT(pick(), ElementsAre("open /s/Tip.vbp alone")); }
@@ -32,10 +30,10 @@ TEST_F(OpeningASample, ClosesTheProjectInItsOrder) {
 TEST_F(OpeningASample, LetsTheHostRunBeforeAndAfterTheRemoval) {
     open("A", "Palm-1");
     loop.Post([this] { trace.effects.push_back("first turn"); });
-    commands.remove = basic::make<test::TracedControl>(trace, "host: remove project", [this] {
+    removeCommand()->whenExecuted = [this] {
         vbe->removeActive();
         loop.Post([this] { trace.effects.push_back("second turn"); });
-    });
+    };
     EXPECT_THAT(pick(),
                 ElementsAre("active A", "first turn", "host: remove project", "second turn", "open /s/Tip.vbp alone"));
 }

@@ -1,5 +1,5 @@
 #pragma once
-// Zip archives byte by byte, so that tests can write what no honest program writes.
+// Writes zip archives byte by byte, including invalid ones.
 #include "Components/Image/image_bytes.h"
 #include <cstdint>
 #include <optional>
@@ -13,17 +13,17 @@ struct ZipEntry {
 
     std::string name, packed;
     std::uint16_t method = kStored;
-    /// What the headers say of the unpacked size; by itself the size of `packed`.
+    /// The unpacked size in the headers. Default: the size of `packed`.
     std::optional<std::uint32_t> size;
 };
 
-inline void writeZipHeader(compiler::ImageWriter& to, const ZipEntry& entry) {
+inline void writeZipHeader(image::Writer& to, const ZipEntry& entry) {
     to.u16(20); // version needed
     to.u16(0);
     to.u16(entry.method);
     to.u16(0);
     to.u16(33); // 1980-01-01
-    to.u32(compiler::crc32(entry.packed));
+    to.u32(image::crc32(entry.packed));
     to.u32(std::uint32_t(entry.packed.size()));
     to.u32(entry.size.value_or(std::uint32_t(entry.packed.size())));
     to.u16(std::uint16_t(entry.name.size()));
@@ -31,7 +31,7 @@ inline void writeZipHeader(compiler::ImageWriter& to, const ZipEntry& entry) {
 }
 
 inline std::string zipOf(const std::vector<ZipEntry>& entries) {
-    compiler::ImageWriter bytes, directory;
+    image::Writer bytes, directory;
     for (const auto& entry : entries) {
         const auto offset = std::uint32_t(bytes.bytes().size());
         bytes.raw("PK\3\4");
@@ -58,13 +58,13 @@ inline std::string zipOf(const std::vector<ZipEntry>& entries) {
     return bytes.bytes();
 }
 
-/// `count` times 258 zeros and one more, packed: about a byte and a half for each 258.
+/// Returns `count` * 258 + 1 zeros in deflate format, about 1.5 bytes per 258.
 inline std::string deflatedZeros(std::size_t count) {
     std::string bits = "110"
                        "00110000"; // the last block, fixed codes; one zero
     for (std::size_t i = 0; i < count; ++i)
         bits += "11000101"
-                "00000"; // 258 bytes as those one before
+                "00000"; // 258 copies of the previous byte
     bits += "0000000";
     std::string bytes((bits.size() + 7) / 8, '\0');
     for (std::size_t i = 0; i < bits.size(); ++i)

@@ -1,16 +1,16 @@
 #pragma once
-// Trees as S-expressions: what the parser's tests compare.
+// Prints syntax trees as S-expressions for the parser's tests.
 #include "Components/QLToolkit/check.h"
 #include "Components/QLToolkit/parser/ast.h"
 #include <charconv>
 #include <fmt/format.h>
 #include <string>
 
-namespace compiler::dump {
+namespace qltoolkit::dump {
 
 class Dumper {
 public:
-    Dumper(const SourceFile& source, const SymbolTable& symbols) : source_(source), symbols_(symbols) {}
+    Dumper(const SourceText& source, const SymbolTable& symbols) : source_(source), symbols_(symbols) {}
 
     std::string module(const Module& m) const {
         std::string text;
@@ -88,34 +88,35 @@ public:
     std::string expr(const Expr* e) const {
         if (!e) return "_";
         switch (e->kind) {
-        case ExprKind::Integer: return std::to_string(compiler::as<IntegerExpr>(*e).value);
-        case ExprKind::Long: return std::to_string(compiler::as<IntegerExpr>(*e).value) + "&";
-        case ExprKind::Currency: return std::to_string(compiler::as<IntegerExpr>(*e).value) + "/10000";
-        case ExprKind::Single: return real(compiler::as<FloatExpr>(*e).value) + "!";
-        case ExprKind::Double: return real(compiler::as<FloatExpr>(*e).value) + "#";
-        case ExprKind::Date: return "#" + real(compiler::as<FloatExpr>(*e).value) + "#";
-        case ExprKind::String: return '"' + stringValue(source_, compiler::as<StringExpr>(*e)) + '"';
+        case ExprKind::Integer: return std::to_string(qltoolkit::as<IntegerExpr>(*e).value);
+        case ExprKind::Long: return std::to_string(qltoolkit::as<IntegerExpr>(*e).value) + "&";
+        case ExprKind::Currency: return std::to_string(qltoolkit::as<IntegerExpr>(*e).value) + "/10000";
+        case ExprKind::Single: return real(qltoolkit::as<FloatExpr>(*e).value) + "!";
+        case ExprKind::Double: return real(qltoolkit::as<FloatExpr>(*e).value) + "#";
+        case ExprKind::Date: return "#" + real(qltoolkit::as<FloatExpr>(*e).value) + "#";
+        case ExprKind::String: return '"' + stringValue(source_, qltoolkit::as<StringExpr>(*e)) + '"';
         case ExprKind::Boolean: return e->detail ? "True" : "False";
         case ExprKind::Empty: return "Empty";
         case ExprKind::Null: return "Null";
         case ExprKind::Nothing: return "Nothing";
         case ExprKind::Me: return "Me";
-        case ExprKind::Name: return name(compiler::as<NameExpr>(*e).name, e->suffix());
-        case ExprKind::Member: return member(".", compiler::as<MemberExpr>(*e));
-        case ExprKind::Bang: return member("!", compiler::as<MemberExpr>(*e));
+        case ExprKind::Name: return name(qltoolkit::as<NameExpr>(*e).name, e->suffix());
+        case ExprKind::Member: return member(".", qltoolkit::as<MemberExpr>(*e));
+        case ExprKind::Bang: return member("!", qltoolkit::as<MemberExpr>(*e));
         case ExprKind::Index:
-            return list("call", expr(compiler::as<IndexExpr>(*e).callee),
-                        arguments(compiler::as<IndexExpr>(*e).arguments));
-        case ExprKind::Paren: return list("paren", expr(compiler::as<UnaryExpr>(*e).operand));
-        case ExprKind::Unary: return list(operatorText(e->op()), expr(compiler::as<UnaryExpr>(*e).operand));
+            return list("call", expr(qltoolkit::as<IndexExpr>(*e).callee),
+                        arguments(qltoolkit::as<IndexExpr>(*e).arguments));
+        case ExprKind::Paren: return list("paren", expr(qltoolkit::as<UnaryExpr>(*e).operand));
+        case ExprKind::Unary: return list(operatorText(e->op()), expr(qltoolkit::as<UnaryExpr>(*e).operand));
         case ExprKind::Binary:
-            return list(operatorText(e->op()), expr(compiler::as<BinaryExpr>(*e).left),
-                        expr(compiler::as<BinaryExpr>(*e).right));
-        case ExprKind::New: return list("new", type(compiler::as<NewExpr>(*e).type));
+            return list(operatorText(e->op()), expr(qltoolkit::as<BinaryExpr>(*e).left),
+                        expr(qltoolkit::as<BinaryExpr>(*e).right));
+        case ExprKind::New: return list("new", type(qltoolkit::as<NewExpr>(*e).type));
         case ExprKind::TypeOf:
-            return list("typeof", expr(compiler::as<TypeOfExpr>(*e).operand), type(compiler::as<TypeOfExpr>(*e).type));
-        case ExprKind::AddressOf: return list("addressof", expr(compiler::as<UnaryExpr>(*e).operand));
-        case ExprKind::Coordinates: return coordinates(compiler::as<CoordinatesExpr>(*e));
+            return list("typeof", expr(qltoolkit::as<TypeOfExpr>(*e).operand),
+                        type(qltoolkit::as<TypeOfExpr>(*e).type));
+        case ExprKind::AddressOf: return list("addressof", expr(qltoolkit::as<UnaryExpr>(*e).operand));
+        case ExprKind::Coordinates: return coordinates(qltoolkit::as<CoordinatesExpr>(*e));
         case ExprKind::Range: return "RANGE";
         }
         return "?";
@@ -170,7 +171,7 @@ private:
     }
     template <class T>
     static const T& st(const Stmt& s) {
-        return compiler::as<T>(s);
+        return qltoolkit::as<T>(s);
     }
 
     std::string stmt(const Stmt& s) const {
@@ -302,7 +303,7 @@ private:
     }
     template <class T>
     static const T& de(const Decl& d) {
-        return compiler::as<T>(d);
+        return qltoolkit::as<T>(d);
     }
 
     std::string decl(const Decl& d) const {
@@ -349,18 +350,18 @@ private:
         return list("def", type(&t), letters);
     }
 
-    const SourceFile& source_;
+    const SourceText& source_;
     const SymbolTable& symbols_;
 };
 
-/// One parsed text and all that belongs to it.
+/// A parsed text with its source and symbols.
 struct Parsed {
     explicit Parsed(std::string text, std::string name = "Test.bas", const ConditionalConstants& constants = {},
                     int page = 1252)
         : source(std::move(name), std::move(text), basic::CodePage(page)),
           result(parseModule(source, symbols, constants)) {}
 
-    /// "line:column number" of each diagnostic, separated by blanks.
+    /// Returns "line:column number" of each diagnostic, separated by blanks.
     std::string diagnostics() const {
         std::string text;
         for (const auto& d : result.diagnostics)
@@ -368,38 +369,38 @@ struct Parsed {
         return text;
     }
     std::string module() const { return result.module ? Dumper{source, symbols}.module(*result.module) : "no module"; }
-    /// The statements of the first procedure.
+    /// Returns the statements of the first procedure.
     std::string body() const {
         for (const Decl* d = result.module ? result.module->declarations : nullptr; d; d = d->next)
             if (d->kind == DeclKind::Procedure) return Dumper{source, symbols}.block(as<ProcedureDecl>(*d).body);
         return "no procedure";
     }
 
-    SourceFile source;
+    SourceText source;
     SymbolTable symbols;
     ParseResult result;
 };
 
-/// The dump of a module, or of its errors if it has any.
+/// Returns the dump of a module, or its errors if there are any.
 inline std::string declarations(const std::string& text) {
     const Parsed parsed{text};
     return parsed.result.diagnostics.empty() ? parsed.module() : parsed.diagnostics();
 }
-/// The dump of statements that stand in a procedure, or of their errors; line 2 is the first.
+/// Returns the dump of statements in a procedure, or their errors. The first statement is on line 2.
 inline std::string statements(const std::string& text) {
     const Parsed parsed{"Sub Test()\n" + text + "\nEnd Sub\n"};
     return parsed.result.diagnostics.empty() ? parsed.body() : parsed.diagnostics();
 }
-/// The dump of the expression.
+/// Returns the dump of an expression.
 inline std::string expression(const std::string& text) {
     const std::string dumped = statements("v = " + text);
     return dumped.starts_with("(let v ") ? dumped.substr(7, dumped.size() - 8) : dumped;
 }
 
-/// A source and what it becomes.
+/// A source text and its expected dump.
 struct Pair {
     const char* source;
     const char* dump;
 };
 
-} // namespace compiler::dump
+} // namespace qltoolkit::dump

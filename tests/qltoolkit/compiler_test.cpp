@@ -4,7 +4,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-using namespace compiler;
+using namespace qltoolkit;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::StartsWith;
@@ -90,7 +90,7 @@ protected:
 
 } // namespace
 
-TEST_F(CompilerComponent, WritesAnImageAndSaysHowFarItIs) {
+TEST_F(CompilerComponent, WritesAnImageAndReportsProgress) {
     add("frmTip.frm", kForm);
     add("modMain.bas", kModule);
     compiler_->SetStartupObject("frmTip");
@@ -99,7 +99,7 @@ TEST_F(CompilerComponent, WritesAnImageAndSaysHowFarItIs) {
     EXPECT_TRUE(compiler_->Build());
     EXPECT_THAT(events_, ElementsAre("started", "Compiling frmTip.frm", "45% completed", "Compiling modMain.bas",
                                      "90% completed", "100% completed", "good"));
-    const auto image = decodeImage(folder_.read("Tips.0000.qlx"));
+    const auto image = image::decode(folder_.read("Tips.0000.qlx"));
     EXPECT_EQ(image.projectName, "Tips");
     EXPECT_EQ(image.startup, "frmTip");
     EXPECT_THAT(image.info, ElementsAre(std::pair<std::string, std::string>("Title", "Tips")));
@@ -108,35 +108,35 @@ TEST_F(CompilerComponent, WritesAnImageAndSaysHowFarItIs) {
     EXPECT_EQ(record_->inputs.size(), 2U);
 }
 
-TEST_F(CompilerComponent, KeepsFormsWithControlsAndProperties) {
+TEST_F(CompilerComponent, StoresFormsWithControlsAndProperties) {
     add("frmTip.frm", kForm);
     ASSERT_TRUE(compiler_->Build());
-    const auto image = decodeImage(folder_.read("Tips.0000.qlx"));
+    const auto image = image::decode(folder_.read("Tips.0000.qlx"));
     ASSERT_EQ(image.forms.size(), 1U);
     const auto& form = image.forms[0];
     EXPECT_EQ(form.name, "frmTip");
     EXPECT_THAT(form.properties,
-                ElementsAre(ImageProperty{"Caption", "\"Tip's \"\"best\"\"\""}, ImageProperty{"Font.Size", "12"}));
+                ElementsAre(image::Property{"Caption", "\"Tip's \"\"best\"\"\""}, image::Property{"Font.Size", "12"}));
     ASSERT_EQ(form.children.size(), 1U);
     EXPECT_EQ(form.children[0].className, "TavletsCtl.QLPicture");
     EXPECT_EQ(form.children[0].index, 3);
-    EXPECT_EQ(form.children[0].properties[1], (ImageProperty{"PictureName", "\"logo.rgx\""}));
+    EXPECT_EQ(form.children[0].properties[1], (image::Property{"PictureName", "\"logo.rgx\""}));
 }
 
-TEST_F(CompilerComponent, KeepsModulesWithMembersAndStrings) {
+TEST_F(CompilerComponent, StoresModulesWithMembersAndStrings) {
     add("modMain.bas", kModule);
     compiler_->SetStartupObject("Sub Main");
     ASSERT_TRUE(compiler_->Build());
-    const auto image = decodeImage(folder_.read("Tips.0000.qlx"));
+    const auto image = image::decode(folder_.read("Tips.0000.qlx"));
     ASSERT_EQ(image.modules.size(), 1U);
     EXPECT_EQ(image.modules[0].name, "modMain");
     EXPECT_EQ(image.modules[0].file, "modMain.bas");
-    EXPECT_THAT(image.modules[0].members, ElementsAre(ImageMember{ImageMemberKind::Sub, true, "Main", 2, 0},
-                                                      ImageMember{ImageMemberKind::Function, false, "Name", 5, 2}));
+    EXPECT_THAT(image.modules[0].members, ElementsAre(image::Member{image::MemberKind::Sub, true, "Main", 2, 0},
+                                                      image::Member{image::MemberKind::Function, false, "Name", 5, 2}));
     EXPECT_THAT(image.modules[0].strings, ElementsAre("Hello ", "x"));
 }
 
-TEST_F(CompilerComponent, AnErrorHasItsPhysicalLineAndLeavesTheOldImage) {
+TEST_F(CompilerComponent, ReportsPhysicalLinesAndKeepsTheOldImageAfterAnError) {
     folder_.write("Tips.0000.qlx", "old");
     add("frmTip.frm", std::string(kForm) + "Sub Broken()\r\n  x = (1 +\r\nEnd Sub\r\n");
     EXPECT_FALSE(compiler_->Build());
@@ -149,16 +149,17 @@ TEST_F(CompilerComponent, AnErrorHasItsPhysicalLineAndLeavesTheOldImage) {
     EXPECT_GT(record_->diagnostics[0].column, 0U);
 }
 
-TEST_F(CompilerComponent, ReportsALibraryInUseAndTheFilesThatControlsName) {
+TEST_F(CompilerComponent, ReportsUsedLibrariesAndFilesNamedByControls) {
     add("frmTip.frm", kForm);
     folder_.write("logo.rgx", "x");
-    compiler_->AddBuildFile(folder_ / "Tavlets.DLL", qltoolkit::ControlLibrary); // only the extension's case differs
+    compiler_->AddBuildFile(folder_ / "Tavlets.DLL",
+                            qltoolkit::ControlLibrary); // differs only in the case of the extension
     ASSERT_TRUE(compiler_->Build());
     EXPECT_THAT(dependencies_, ElementsAre("0 {11111111-2222-3333-4444-555555555555}", "1 logo.rgx"));
     EXPECT_THAT(warnings_, IsEmpty());
 }
 
-TEST_F(CompilerComponent, AControlLibraryWithoutAControlIsNoDependency) {
+TEST_F(CompilerComponent, AnUnusedControlLibraryIsNotADependency) {
     add("modMain.bas", kModule);
     compiler_->AddBuildFile(folder_ / "Tavlets.dll", qltoolkit::ControlLibrary);
     ASSERT_TRUE(compiler_->Build());
@@ -172,7 +173,7 @@ TEST_F(CompilerComponent, AMissingLibraryIsAWarning) {
     EXPECT_THAT(warnings_, ElementsAre(int(Message::LibraryMissing)));
 }
 
-TEST_F(CompilerComponent, MissingSourceMissingStartAndDoubleNamesAreErrors) {
+TEST_F(CompilerComponent, MissingSourcesMissingStartupAndDuplicateNamesAreErrors) {
     compiler_->AddBuildFile(folder_ / "gone.bas", qltoolkit::SourceFile);
     EXPECT_FALSE(compiler_->Build());
     EXPECT_THAT(errors_, ElementsAre("gone.bas:0 1000"));
@@ -199,7 +200,7 @@ TEST_F(CompilerComponent, AnImageThatCannotBeWrittenIsAnError) {
     EXPECT_THAT(errors_, ElementsAre("Tips.0000.qlx:0 " + std::to_string(int(Message::ImageNotWritten))));
 }
 
-TEST_F(CompilerComponent, AnErrorOfAHandlerEndsTheBuildWithoutAnImage) {
+TEST_F(CompilerComponent, AnExceptionFromAHandlerAbortsTheBuild) {
     add("modMain.bas", kModule);
     struct Stop {};
     const auto stop = compiler_->BuildStatus.connect([](const std::string& text) {
@@ -216,7 +217,7 @@ TEST_F(CompilerComponent, ResetForgetsAllInput) {
     compiler_->Reset();
     compiler_->SetOutputPath(folder_ / "Tips");
     EXPECT_TRUE(compiler_->Build());
-    const auto image = decodeImage(folder_.read("Tips.0000.qlx"));
+    const auto image = image::decode(folder_.read("Tips.0000.qlx"));
     EXPECT_THAT(image.modules, IsEmpty());
     EXPECT_THAT(image.info, IsEmpty());
 }

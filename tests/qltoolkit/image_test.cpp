@@ -2,7 +2,7 @@
 #include "Components/Image/image.h"
 #include <gtest/gtest.h>
 
-using namespace compiler;
+using namespace image;
 
 namespace {
 
@@ -14,40 +14,40 @@ Image tipCalculator() {
     image.info = {{"Major", "1"}, {"Title", "Trinkgeld \xC3\xBC"}};
     image.constants = {{"QUINLOFT", 1}, {"Trace", -1}};
     image.libraries = {"QLTavlets.dll"};
-    ImageControl text{"Tavlets.TextBox", "txtBill", 2, {{"Text", "\"12.50\""}, {"Font.Size", "12"}}, {}};
-    image.forms = {{"VB.Form", "frmTip", ImageControl::kNoIndex, {{"Caption", "\"Tip\""}}, {text}}};
-    image.modules = {{ImageModuleKind::Form,
+    Control text{"Tavlets.TextBox", "txtBill", 2, {{"Text", "\"12.50\""}, {"Font.Size", "12"}}, {}};
+    image.forms = {{"VB.Form", "frmTip", Control::kNoIndex, {{"Caption", "\"Tip\""}}, {text}}};
+    image.modules = {{ModuleKind::Form,
                       "frmTip",
                       "frmTip.frm",
                       40,
-                      {{ImageMemberKind::Sub, false, "cmdTip_Click", 21, 0}},
+                      {{MemberKind::Sub, false, "cmdTip_Click", 21, 0}},
                       {"12.50", ""}}};
     return image;
 }
 
 std::string failureOf(std::string_view bytes) {
-    const auto err = basic::attempt([&] { decodeImage(bytes); });
+    const auto err = basic::attempt([&] { decode(bytes); });
     EXPECT_EQ(err.Number, 321);
     return err.Description;
 }
 
 } // namespace
 
-TEST(Image, ComesBackAsItWas) {
+TEST(Image, SurvivesARoundTrip) {
     const Image image = tipCalculator();
-    EXPECT_EQ(decodeImage(encodeImage(image)), image);
-    EXPECT_EQ(decodeImage(encodeImage(Image{})), Image{});
+    EXPECT_EQ(decode(encode(image)), image);
+    EXPECT_EQ(decode(encode(Image{})), Image{});
 }
 
-TEST(Image, SameInputGivesSameBytes) { EXPECT_EQ(encodeImage(tipCalculator()), encodeImage(tipCalculator())); }
+TEST(Image, EncodesEqualImagesEqually) { EXPECT_EQ(encode(tipCalculator()), encode(tipCalculator())); }
 
-TEST(Image, EveryTruncationIsRefused) {
-    const std::string bytes = encodeImage(tipCalculator());
+TEST(Image, RefusesEveryTruncation) {
+    const std::string bytes = encode(tipCalculator());
     for (size_t length = 0; length < bytes.size(); ++length) failureOf(std::string_view(bytes).substr(0, length));
 }
 
-TEST(Image, EveryChangedByteBehindTheHeaderIsRefused) {
-    const std::string bytes = encodeImage(tipCalculator());
+TEST(Image, RefusesEveryChangedByteAfterTheHeader) {
+    const std::string bytes = encode(tipCalculator());
     for (size_t at = 20; at < bytes.size(); ++at) {
         std::string damaged = bytes;
         damaged[at] = char(damaged[at] ^ 0x40);
@@ -55,10 +55,10 @@ TEST(Image, EveryChangedByteBehindTheHeaderIsRefused) {
     }
 }
 
-TEST(Image, SaysWhatItIsNot) {
+TEST(Image, ReportsTheReason) {
     EXPECT_EQ(failureOf("PK\x03\x04 and more of a zip file"),
-              "The compiled file is damaged: it is no compiled application.");
-    std::string later = encodeImage(tipCalculator());
+              "The compiled file is damaged: it is not a compiled application.");
+    std::string later = encode(tipCalculator());
     later[4] = 9;
     EXPECT_EQ(failureOf(later), "The compiled file is damaged: its format is version 9.");
 }

@@ -1,9 +1,9 @@
 #include "tests/qltoolkit/ast_dump.h"
 #include <gtest/gtest.h>
 
-using compiler::dump::Pair;
-using compiler::dump::Parsed;
-using compiler::dump::statements;
+using qltoolkit::dump::Pair;
+using qltoolkit::dump::Parsed;
+using qltoolkit::dump::statements;
 
 namespace {
 

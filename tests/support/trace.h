@@ -2,6 +2,7 @@
 // What a test's world was asked to do, and the one call of it that is to fail.
 #include "Basic/runtime_error.h"
 #include <algorithm>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -21,10 +22,14 @@ public:
     void read() {
         if (++calls == failing) throw basic::RuntimeError(kInjected, "injected");
     }
-    void effect(std::string what) {
+    void effect(std::string what) { effectOf("", std::move(what)); }
+    /// The same; the observer sees whose effect it is.
+    void effectOf(const std::string& whose, std::string what) {
         read();
         effects.push_back(std::move(what));
+        if (observer) observer(whose + effects.back());
     }
+    std::function<void(const std::string& effect)> observer;
 };
 
 /// What a run did not do of what another did.

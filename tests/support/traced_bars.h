@@ -42,12 +42,16 @@ public:
     Ref<office::CommandBar> Parent() const override;
     Ref<office::CommandBarControls> Controls() override;
     void Delete() override;
-    void Execute() override { did("executed"); }
+    void Execute() override {
+        did("executed");
+        if (whenExecuted) whenExecuted();
+    }
 
     std::string caption, tag, toolTip;
     bool group = false, enabled = true, visible = true, removed = false;
     office::MsoButtonStyle style = office::msoButtonAutomatic;
     std::shared_ptr<TracedBar> popup;
+    std::function<void()> whenExecuted;
 
 private:
     template <class T>
@@ -119,7 +123,7 @@ private:
         return value;
     }
     void did(const std::string& what) {
-        trace_.effect(name + ": " + what);
+        trace_.effectOf(bars ? "bar " : "", name + ": " + what);
         if (removed) throw basic::RuntimeError(basic::kAutomationError);
     }
     Trace& trace_;
@@ -160,8 +164,8 @@ public:
     explicit TracedBars(Trace& trace) : trace_(trace) {}
     Ref<office::CommandBar> Item(const std::string& name) const override {
         trace_.read();
-        for (const auto& bar : list)
-            if (bar->name == name) return bar;
+        if (name == refused) throw basic::RuntimeError(basic::kAutomationError);
+        if (const auto bar = named(name)) return bar;
         throw basic::RuntimeError(basic::kInvalidProcedureCall);
     }
     std::vector<Ref<office::CommandBar>> items() const override { return {list.begin(), list.end()}; }
@@ -176,8 +180,14 @@ public:
         return nullptr;
     }
     Ref<office::CommandBar> Add(const std::string& name, int position, bool menuBar) override {
+        if (name == refused) throw basic::RuntimeError(basic::kAutomationError);
         trace_.effect("bar " + name + " at " + std::to_string(position) + (menuBar ? " as menu" : ""));
         return stand(name);
+    }
+    std::shared_ptr<TracedBar> named(const std::string& name) const {
+        for (const auto& bar : list)
+            if (bar->name == name) return bar;
+        return nullptr;
     }
     Ref<TracedBar> stand(const std::string& name) {
         list.push_back(std::make_shared<TracedBar>(trace_, name));
@@ -187,6 +197,8 @@ public:
 
     std::vector<std::shared_ptr<TracedBar>> list;
     Ref<TracedBar> menuBar;
+    /// The name of a bar that the host does not give or make.
+    std::string refused;
 
 private:
     Trace& trace_;
@@ -232,6 +244,21 @@ inline Ref<TracedItem> TracedBar::stand(int id, const std::string& caption) {
     item->popup->name = plain(caption);
     items.push_back(item);
     return item;
+}
+
+/// The bars of a host that has just started.
+inline Ref<TracedBars> hostBars(Trace& trace) {
+    const auto bars = basic::make<TracedBars>(trace);
+    const auto menuBar = bars->menuBar = bars->stand("Menu Bar");
+    menuBar->stand(30002, "&File");
+    menuBar->stand(30004, "&View");
+    menuBar->stand(30038, "&Add-Ins");
+    const auto file = bars->stand("File");
+    file->stand(1, "New");
+    file->stand(2, "Open");
+    file->stand(3, "Save");
+    file->stand(4, "Remove");
+    return bars;
 }
 
 } // namespace test

@@ -126,7 +126,7 @@ public:
         return give("controls in " + p->Name(), controls);
     }
     Ref<vbide::CommandBarEvents> CommandBarEvents(const Ref<office::CommandBarControl>& control) override {
-        return give("item " + control->Caption(), basic::make<vbide::CommandBarEvents>());
+        return give("item " + nameOf(*control.shared()), basic::make<vbide::CommandBarEvents>());
     }
     Ref<vbide::FileControlEvents> FileControlEvents(const Ref<vbide::VBProject>& p) override {
         return p ? give("files of " + p->Name(), files) : give("all files", allFiles);
@@ -144,6 +144,11 @@ public:
     Ref<vbide::VBBuildEvents> build = basic::make<vbide::VBBuildEvents>();
 
 private:
+    /// A toolbar's button is known by its tip.
+    static std::string nameOf(const office::CommandBarControl& control) {
+        const auto caption = control.Caption();
+        return caption.empty() ? control.ToolTipText() : caption;
+    }
     template <class T>
     Ref<T> give(const std::string& what, const Ref<T>& source) {
         trace_.effect("sink: " + what);
@@ -220,7 +225,7 @@ public:
         trace_.read();
         return selected;
     }
-    std::string TemplatePath() const override { return "/vb/Template"; }
+    std::string TemplatePath() const override { return templatePath; }
 
     /// What the host's Remove Project command does.
     void removeActive() {
@@ -240,6 +245,7 @@ public:
     Ref<office::CommandBars> bars;
     Ref<vbide::VBProject> active;
     Ref<vbide::VBComponent> selected;
+    std::string templatePath = "/vb/Template";
 };
 
 } // namespace test

@@ -175,11 +175,22 @@ private:
     Trace& trace_;
 };
 
-struct NoClipboard : fernwick::Clipboard {
-    std::vector<std::string> Formats() const override { return {}; }
-    std::string GetData(const std::string&) const override { return {}; }
-    void SetData(const std::string&, const std::string&) override {}
+/// Holds a text, whose ways away and back are noted. Pictures leave no trace.
+class TextClipboard : public fernwick::Clipboard {
+public:
+    explicit TextClipboard(Trace& trace) : trace_(trace) {}
+    std::vector<std::string> Formats() const override { return {fernwick::kTextFormat}; }
+    std::string GetData(const std::string&) const override {
+        trace_.effect("backup clipboard");
+        return "text";
+    }
+    void SetData(const std::string& format, const std::string&) override {
+        if (format == fernwick::kTextFormat) trace_.effect("restore clipboard");
+    }
     void Clear() override {}
+
+private:
+    Trace& trace_;
 };
 struct NoShell : fernwick::Shell {
     void Start(const std::string&) override {}
@@ -218,7 +229,7 @@ struct TracedPlatform {
     TracedProcesses processes{trace};
     TracedClasses classes{trace};
     TracedEnvironment environment{trace};
-    NoClipboard clipboard;
+    TextClipboard clipboard{trace};
     NoShell shell;
     FixedScreen screen;
     FixedClock clock;

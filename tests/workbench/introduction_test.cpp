@@ -42,6 +42,8 @@ TEST_F(Introduction, IsReadWithTheKeyboardAlone) {
 
 TEST_F(Introduction, EachPageHasItsPicture) {
     show([](QDialog& window) {
+        const auto shown = [&] { return !window.findChild<QLabel*>("pictMain")->pixmap().isNull(); };
+        ASSERT_TRUE(QTest::qWaitFor(shown)); // the first page is filled once the window is on screen
         std::vector<QImage> pictures;
         for (int page = 0; page < 9; ++page, test::click(window, "cmdNext")) {
             const auto drawn = window.findChild<QLabel*>("pictMain");

@@ -26,6 +26,8 @@ TEST(KeywordCaseOfLine, KeywordsGetTheirProperCase) {
     EXPECT_EQ(written("dim a as new collection, b as date"), "Dim a As New collection, b As Date");
     EXPECT_EQ(written("#if quinloft then"), "#If quinloft Then");
     EXPECT_EQ(written("option explicit: dim x as string * 5"), "Option Explicit: Dim x As String * 5");
+    EXPECT_EQ(written("close #1: redim preserve a(cvdate)"), "Close #1: ReDim Preserve a(cvdate)");
+    EXPECT_EQ(written("x = cvar(cdec(1))"), "x = CVar(CDec(1))");
     EXPECT_EQ(written(""), "");
 }
 

@@ -1,7 +1,7 @@
 // The window's own commands and their menus.
 #include "Apps/workbench/project/new_project.h"
 #include "Apps/workbench/project/project_properties.h"
-#include "Host/model/bars/tool_windows.h"
+#include "Host/model/windows/tool_windows.h"
 #include "tests/workbench/desktop.h"
 #include <QAccessible>
 #include <QComboBox>

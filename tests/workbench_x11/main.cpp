@@ -22,11 +22,18 @@ int onDisplayOfItsOwn(int argc, char** argv) {
     return 1;
 }
 
+/// Whether the tests are only to be listed, which needs no display.
+bool isListing(int argc, char** argv) { return argc == 2 && std::string(argv[1]) == "--gtest_list_tests"; }
+
 } // namespace
 
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "xcb");
     if (argc == 2 && std::string(argv[1]) == test::kOwnClipboard) return test::ownClipboard(argc, argv);
+    if (isListing(argc, argv)) {
+        testing::InitGoogleTest(&argc, argv);
+        return RUN_ALL_TESTS();
+    }
     if (qEnvironmentVariableIsEmpty("FERNWICK_TEST_ON_DISPLAY")) return onDisplayOfItsOwn(argc, argv);
 
     const test::OwnHome home;

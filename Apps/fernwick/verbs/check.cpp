@@ -1,8 +1,9 @@
-#include "Apps/fernwick/exit_status.h"
-#include "Apps/fernwick/interruption.h"
-#include "Apps/fernwick/plural.h"
-#include "Apps/fernwick/project_argument.h"
-#include "Apps/fernwick/report.h"
+#include "Components/QLToolkit/check.h"
+#include "Apps/fernwick/options/exit_status.h"
+#include "Apps/fernwick/output/plural.h"
+#include "Apps/fernwick/output/report.h"
+#include "Apps/fernwick/run/interruption.h"
+#include "Apps/fernwick/run/project_argument.h"
 #include "Apps/fernwick/verbs/source_list.h"
 #include "Apps/fernwick/verbs/verbs.h"
 #include "Basic/runtime_error.h"
@@ -21,9 +22,9 @@ struct CheckTotals {
     std::uint64_t lines = 0;
 };
 
-Message messageOf(const compiler::Diagnostic& diagnostic) {
+Message messageOf(const qltoolkit::Diagnostic& diagnostic) {
     Message message;
-    message.isError = diagnostic.severity == compiler::Severity::Error;
+    message.isError = diagnostic.severity == qltoolkit::Severity::Error;
     message.number = diagnostic.number;
     message.text = diagnostic.text;
     message.file = diagnostic.file;
@@ -32,12 +33,12 @@ Message messageOf(const compiler::Diagnostic& diagnostic) {
     return message;
 }
 
-compiler::CheckResult checkOne(const SourceToCheck& source, const basic::CodePage& usual) {
+qltoolkit::CheckResult checkOne(const SourceToCheck& source, const basic::CodePage& usual) {
     host::FileContent content;
     const auto err = basic::attempt([&] { content = host::readFile(source.path); });
-    if (err.Number != 0) return compiler::checkFile(source.path, source.constants, usual); // says what is wrong with it
+    if (err.Number != 0) return qltoolkit::checkFile(source.path, source.constants, usual); // reports the error
     const auto page = host::codePageOf(content.bytes, usual);
-    return compiler::checkSource(source.path, std::move(content.bytes), source.constants, page);
+    return qltoolkit::checkSource(source.path, std::move(content.bytes), source.constants, page);
 }
 
 CheckTotals checkAll(const SourceList& list, const basic::CodePage& usual, const Options& options, Console& console,

@@ -70,7 +70,7 @@ std::vector<Message> storedMessages(const basic::Ref<vbide::VBProject>& project)
     return messages;
 }
 
-std::vector<Message> messagesOfRun(const basic::Ref<vbide::VBProject>& project, const compiler::BuildRecord& build) {
+std::vector<Message> messagesOfRun(const basic::Ref<vbide::VBProject>& project, const qltoolkit::BuildRecord& build) {
     auto messages = storedMessages(project);
     auto diagnostic = build.diagnostics.begin();
     for (auto& message : messages) {

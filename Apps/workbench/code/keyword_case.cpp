@@ -1,36 +1,42 @@
 #include "Apps/workbench/code/keyword_case.h"
+#include "Basic/vb_words.h"
 #include <QHash>
-#include <QStringList>
 
 namespace workbench {
 
 namespace {
 
-/// Reserved words, which cannot be names.
-constexpr auto kReserved =
-    "AddressOf And Any As Boolean ByRef Byte ByVal Call Case CBool CByte CCur CDate CDbl CInt CLng Const CSng "
-    "CStr Currency CVar Declare Dim Do Double Each Else ElseIf Empty End Enum Eqv Event Exit Explicit False "
-    "For Friend Function Get GoSub GoTo If Imp Implements In Integer Is Let Like Long Loop LSet Me Mod New "
-    "Next Nothing Not Null On Option Optional Or ParamArray Preserve Private Property Public RaiseEvent ReDim "
-    "Resume Return RSet Select Set Single Static Stop String Sub Then To True Type TypeOf Until Variant Wend "
-    "While With WithEvents Xor";
-/// Words that are types after As.
-constexpr auto kTypes = "Date Object";
+/// Date is also a function and Object may be a name: they are written as types only after As.
+bool isTypeOnlyAfterAs(const basic::VbWordInfo& word) { return word.text == "Date" || word.text == "Object"; }
 
-QHash<QString, QString> byLowerCase(const char* words) {
+/// Words that cannot be names, and those contextual ones that hardly ever are.
+bool isWrittenEverywhere(const basic::VbWordInfo& word) {
+    if (isTypeOnlyAfterAs(word)) return false;
+    switch (word.kind) {
+    case basic::VbWordKind::Reserved:
+    case basic::VbWordKind::Type:
+    case basic::VbWordKind::Conversion: return true;
+    default: return word.text == "Explicit" || word.text == "Property";
+    }
+}
+
+QHash<QString, QString> byLowerCase(bool (*isWanted)(const basic::VbWordInfo&)) {
     QHash<QString, QString> table;
-    for (const auto& word : QString(words).split(' ')) table.insert(word.toLower(), word);
+    for (const auto& word : basic::vbWords()) {
+        const auto text = QString::fromLatin1(word.text.data(), qsizetype(word.text.size()));
+        if (isWanted(word)) table.insert(text.toLower(), text);
+    }
     return table;
 }
 
 bool isWordPart(QChar c) { return c.isLetterOrNumber() || c == '_'; }
 
-/// Rewrites the keywords of a line.
+/// Rewrites the keywords of one line.
 class KeywordWriter {
 public:
     explicit KeywordWriter(QString line) : line_(std::move(line)) {}
 
-    /// Returns the column of the comment, or the length of a line without one.
+    /// Returns the column of the line's comment, or the line's length if it has none.
     qsizetype run() {
         for (qsizetype at = 0; at < line_.size();) {
             const auto sign = line_[at];
@@ -63,13 +69,13 @@ private:
     }
 
     void word(qsizetype at, qsizetype end) {
-        static const auto kWords = byLowerCase(kReserved), kTypeWords = byLowerCase(kTypes);
+        static const auto words = byLowerCase(isWrittenEverywhere), types = byLowerCase(isTypeOnlyAfterAs);
         const auto before = at > 0 ? line_[at - 1] : QChar(' ');
         const bool isMember = before == '.' || before == '!', isArgument = line_.mid(end).startsWith(":=");
         const auto lower = line_.mid(at, end - at).toLower();
         if (!isMember && !isArgument) {
-            auto written = kWords.value(lower);
-            if (written.isEmpty() && isAfterAs_) written = kTypeWords.value(lower);
+            auto written = words.value(lower);
+            if (written.isEmpty() && isAfterAs_) written = types.value(lower);
             if (!written.isEmpty()) line_.replace(at, end - at, written);
         }
         isAfterAs_ = lower == "as" || (isAfterAs_ && lower == "new");

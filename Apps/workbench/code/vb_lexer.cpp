@@ -1,4 +1,5 @@
 #include "Apps/workbench/code/vb_lexer.h"
+#include "Basic/vb_words.h"
 #include <QFontDatabase>
 #include <array>
 
@@ -11,17 +12,20 @@ constexpr std::array kStyles{"Default",      "Comment",  "Number",     "Keyword"
                              "Preprocessor", "Operator", "Identifier", "Date",    "Unclosed string"};
 enum Style { kDefault, kComment, kNumber, kKeyword, kString, kPreprocessor, kOperator, kIdentifier, kDate, kUnclosed };
 
-/// In lower case, as the lexer compares.
-constexpr auto kWords = "addressof alias and any appactivate as attribute base beep binary boolean byref byte byval "
-                        "call case cbool cbyte ccur cdate cdbl cint clng close compare const csng cstr currency cvar "
-                        "date declare defbool defbyte defcur defdate defdbl defint deflng defobj defsng defstr defvar "
-                        "dim do double each else elseif empty end enum eqv erase error event exit explicit false for "
-                        "friend function get global gosub goto if imp implements in input integer is let lib like "
-                        "line local lock long loop lset me mid mod module name new next not nothing null object on "
-                        "open option optional or output paramarray preserve print private property public put "
-                        "raiseevent random read redim rem reset resume return rset seek select set single static step "
-                        "stop string sub then time to true type typeof unlock until variant wend while width with "
-                        "withevents write xor";
+bool isHighlighted(const basic::VbWordInfo& word) {
+    // Contextual words, but far more often the names of members and variables.
+    for (const auto* name : {"Database", "Tab", "Text"})
+        if (word.text == name) return false;
+    return word.kind <= basic::VbWordKind::Statement;
+}
+
+/// The highlighted words separated by blanks, in lower case as the lexer compares.
+QByteArray highlightedWords() {
+    QByteArray words;
+    for (const auto& word : basic::vbWords())
+        if (isHighlighted(word)) words.append(word.text.data(), qsizetype(word.text.size())).append(' ');
+    return words.toLower();
+}
 
 } // namespace
 
@@ -53,6 +57,9 @@ QString VbLexer::description(int style) const {
     return style >= 0 && style < int(kStyles.size()) ? QString(kStyles[std::size_t(style)]) : QString();
 }
 
-const char* VbLexer::keywords(int set) const { return set == 1 ? kWords : nullptr; }
+const char* VbLexer::keywords(int set) const {
+    static const auto words = highlightedWords();
+    return set == 1 ? words.constData() : nullptr;
+}
 
 } // namespace workbench

@@ -4,7 +4,7 @@
 #include "Apps/workbench/designer/form_reader.h"
 #include "Apps/workbench/designer/place_changes.h"
 #include "Basic/runtime_error.h"
-#include "Host/model/forms/form_controls.h"
+#include "Host/model/forms/control_edits.h"
 #include <QPointer>
 #include <algorithm>
 

@@ -3,7 +3,7 @@
 #include "Add-in/build/messages/udocCompileMsgs.h"
 #include "Apps/workbench/base/run.h"
 #include "Apps/workbench/code/code_windows.h"
-#include "Host/model/bars/tool_window.h"
+#include "Host/model/windows/tool_window.h"
 #include "Host/model/host.h"
 #include <QMainWindow>
 #include <QPointer>

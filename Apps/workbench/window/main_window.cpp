@@ -2,6 +2,7 @@
 #include "Apps/workbench/base/text.h"
 #include "Apps/workbench/base/title.h"
 #include "Apps/workbench/window/commands.h"
+#include "Basic/conversions.h"
 #include <QBoxLayout>
 #include <QCloseEvent>
 #include <QDockWidget>

@@ -5,6 +5,7 @@
 #include "Apps/workbench/designer/design_desk.h"
 #include "Apps/workbench/project/project_explorer.h"
 #include "Apps/workbench/window/docks.h"
+#include "Host/model/host.h"
 #include <QMainWindow>
 
 namespace workbench {

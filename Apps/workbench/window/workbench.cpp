@@ -23,7 +23,6 @@ Workbench::Workbench()
                 }}),
       modules_(std::make_shared<fernwick::Modules>(machine_.platform())),
       host_(host::Host::create(hostOptions())) {
-    // weak, as the add-in keeps the host alive once it is connected
     host_->listAddIn(apps::kAddInProgId, apps::kAddInName,
                      [modules = std::weak_ptr(modules_)] { return fernwick::asAddIn(modules.lock()); });
     buildWindow();
@@ -51,8 +50,6 @@ Workbench::~Workbench() {
     recent_.reset();
     unsaved_.reset();
     window_.reset();
-    // the host keeps its retired add-ins, and this one would keep the host
-    modules_->addIn.gVBInstance = nullptr;
 }
 
 host::HostOptions Workbench::hostOptions() {

@@ -1,9 +1,9 @@
 #pragma once
-// Everything that can go wrong on the way to a Linux handheld, in one table.
-// To add a message: a name and number here, a row in ssh_messages.cpp at its place, a test that provokes it.
+// The errors of connections to Linux handhelds.
+// To add a message: a name and number here, a row in ssh_messages.cpp, and a test that triggers it.
 #include "Add-in/platform/message_info.h"
 #include "Components/QLPipe/device_storage.h"
-#include <initializer_list>
+#include "Components/QLPipe/message_values.h"
 #include <span>
 #include <string>
 #include <string_view>
@@ -44,16 +44,16 @@ enum class SshMessage : std::int32_t {
     FileTooLarge = 20347,
 };
 
-/// All rows by ascending number.
+/// Returns all rows by ascending number.
 [[nodiscard]] std::span<const fernwick::MessageInfo> sshMessages();
 
-/// The error of a row, with `values` in the places of its "%1", "%2" and so on.
-[[nodiscard]] TransferError sshError(SshMessage message, std::initializer_list<std::string> values);
+/// Returns the error of a row with its values filled in.
+[[nodiscard]] TransferError sshError(SshMessage message, MessageValues values);
 
-/// A path as a word of a command that the user is told to type.
+/// Quotes a path for a shell command that is shown to the user.
 [[nodiscard]] std::string shellWord(const std::string& path);
 
-/// What a device said, fit to be shown: control characters become "?", and the rest of a long text goes.
+/// Makes a text from a device safe to display: replaces control characters with "?" and truncates a long text.
 [[nodiscard]] std::string saidByDevice(std::string_view text);
 
 } // namespace qlpipe

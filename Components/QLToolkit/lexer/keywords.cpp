@@ -2,28 +2,32 @@
 #include "Components/QLToolkit/source/name_words.h"
 #include <array>
 
-namespace compiler {
+namespace qltoolkit {
 
 namespace {
 
-constexpr std::array<std::string_view, static_cast<std::size_t>(Keyword::Width) + 1> kWords{
-    "",        "AddressOf",  "And",      "As",       "ByRef",      "ByVal",     "Call",       "Case",    "Close",
-    "Const",   "Declare",    "DefBool",  "DefByte",  "DefCur",     "DefDate",   "DefDbl",     "DefDec",  "DefInt",
-    "DefLng",  "DefObj",     "DefSng",   "DefStr",   "DefVar",     "Dim",       "Do",         "Each",    "Else",
-    "ElseIf",  "Empty",      "End",      "EndIf",    "Enum",       "Eqv",       "Erase",      "Event",   "Exit",
-    "False",   "For",        "Friend",   "Function", "Get",        "Global",    "GoSub",      "GoTo",    "If",
-    "Imp",     "Implements", "In",       "Input",    "Is",         "Let",       "Like",       "Lock",    "Loop",
-    "LSet",    "Me",         "Mod",      "New",      "Next",       "Not",       "Nothing",    "Null",    "On",
-    "Open",    "Option",     "Optional", "Or",       "ParamArray", "Preserve",  "Print",      "Private", "Public",
-    "Put",     "RaiseEvent", "ReDim",    "Rem",      "Resume",     "Return",    "RSet",       "Seek",    "Select",
-    "Set",     "Shared",     "Static",   "Stop",     "Sub",        "Then",      "To",         "True",    "Type",
-    "TypeOf",  "Unlock",     "Until",    "Wend",     "While",      "With",      "WithEvents", "Write",   "Xor",
-    "Any",     "Boolean",    "Byte",     "Currency", "Date",       "Double",    "Integer",    "Long",    "Single",
-    "String",  "Variant",    "Access",   "Alias",    "Append",     "Attribute", "Base",       "Binary",  "CDecl",
-    "Compare", "Database",   "Error",    "Explicit", "Len",        "Lib",       "Line",       "Local",   "Mid",
-    "MidB",    "Module",     "Name",     "Object",   "Output",     "Property",  "Random",     "Read",    "Spc",
-    "Step",    "Tab",        "Text",     "Width",
+struct KeywordRow {
+    std::string_view text;
+    basic::VbWordKind kind;
 };
+
+// Filled at compile time from the same table as basic::vbWords(), which is not constexpr.
+constexpr auto kKeywords = [] {
+    constexpr KeywordRow rows[] = {
+#define VB_WORD(word, kind, asName) {#word, basic::VbWordKind::kind},
+#include "Basic/vb_words.def"
+    };
+    std::array<KeywordRow, static_cast<std::size_t>(kLastKeyword) + 1> keywords{};
+    for (std::size_t i = 1; i < keywords.size(); ++i) keywords[i] = rows[i - 1];
+    return keywords;
+}();
+
+constexpr basic::VbWordKind kindOf(Keyword k) { return kKeywords[static_cast<std::size_t>(k)].kind; }
+constexpr Keyword next(Keyword k) { return static_cast<Keyword>(static_cast<int>(k) + 1); }
+static_assert(kindOf(kLastReserved) == basic::VbWordKind::Reserved &&
+              kindOf(next(kLastReserved)) == basic::VbWordKind::Type);
+static_assert(kindOf(kLastType) == basic::VbWordKind::Type && kindOf(next(kLastType)) == basic::VbWordKind::Contextual);
+static_assert(kindOf(kLastKeyword) == basic::VbWordKind::Contextual);
 
 constexpr std::size_t kLongestWord = 10;
 constexpr std::size_t kSlots = 512;
@@ -47,8 +51,8 @@ constexpr std::size_t slotOf(std::uint64_t first, std::uint32_t length) {
 
 constexpr auto kTable = [] {
     std::array<WordKey, kSlots> table{};
-    for (std::size_t i = 1; i < kWords.size(); ++i) {
-        const auto word = kWords[i];
+    for (std::size_t i = 1; i < kKeywords.size(); ++i) {
+        const auto word = kKeywords[i].text;
         WordKey key{foldBytes(word.substr(0, 8)), 0, static_cast<Keyword>(i)};
         if (word.size() > 8) key.rest = static_cast<std::uint16_t>(foldBytes(word.substr(8)));
         auto slot = slotOf(key.first, static_cast<std::uint32_t>(word.size())) % kSlots;
@@ -58,16 +62,13 @@ constexpr auto kTable = [] {
     return table;
 }();
 
-// Which lengths words with a given first letter have, as bits: most names are told from words by this alone.
+// The lengths of the keywords with a given first letter, as bits. This alone rules out most names.
 constexpr auto kLengths = [] {
     std::array<std::uint16_t, 32> table{};
-    for (const auto word : kWords)
+    for (const auto& [word, kind] : kKeywords)
         if (!word.empty()) table[word[0] & 31] |= static_cast<std::uint16_t>(1u << word.size());
     return table;
 }();
-
-static_assert(kWords.back() == "Width" && kWords[static_cast<std::size_t>(kLastReserved)] == "Xor" &&
-              kWords[static_cast<std::size_t>(kLastType)] == "Variant");
 
 } // namespace
 
@@ -82,6 +83,6 @@ Keyword keywordOf(const char* name, std::uint32_t length) {
     }
 }
 
-std::string_view spelling(Keyword k) { return kWords[static_cast<std::size_t>(k)]; }
+std::string_view spelling(Keyword k) { return kKeywords[static_cast<std::size_t>(k)].text; }
 
-} // namespace compiler
+} // namespace qltoolkit

@@ -1,7 +1,7 @@
 #include "Components/QLToolkit/parser/ast.h"
 #include <algorithm>
 
-namespace compiler {
+namespace qltoolkit {
 
 std::uint32_t Module::codeLine(std::uint32_t physicalLine) const {
     if (physicalLine < source.codeBegin()) return 0;
@@ -10,7 +10,7 @@ std::uint32_t Module::codeLine(std::uint32_t physicalLine) const {
     return physicalLine - source.codeBegin() + 1 - static_cast<std::uint32_t>(hidden - hiddenLines.begin());
 }
 
-std::string stringValue(const SourceFile& source, const StringExpr& e) {
+std::string stringValue(const SourceText& source, const StringExpr& e) {
     std::string text = source.decode(source.text(e.pos + 1, e.pos + 1 + e.length));
     if (e.detail == 0) return text;
     std::string single;
@@ -21,4 +21,4 @@ std::string stringValue(const SourceFile& source, const StringExpr& e) {
     return single;
 }
 
-} // namespace compiler
+} // namespace qltoolkit

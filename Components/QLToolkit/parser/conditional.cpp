@@ -3,7 +3,7 @@
 #include <charconv>
 #include <cmath>
 
-namespace compiler {
+namespace qltoolkit {
 
 namespace {
 
@@ -98,7 +98,7 @@ std::optional<Value> unaryValue(Operator op, const Value& v) {
 
 } // namespace
 
-std::optional<ConditionalValue> Conditions::evaluate(const SourceFile& source, const Expr& e) const {
+std::optional<ConditionalValue> Conditions::evaluate(const SourceText& source, const Expr& e) const {
     switch (e.kind) {
     case ExprKind::Integer:
     case ExprKind::Long: return numberValue(static_cast<double>(as<IntegerExpr>(e).value));
@@ -123,8 +123,8 @@ std::optional<ConditionalValue> Conditions::evaluate(const SourceFile& source, c
     }
 }
 
-// a Or b Or c ... may be long: down its left side in a loop, then up again.
-std::optional<ConditionalValue> Conditions::evaluateChain(const SourceFile& source, const Expr& e) const {
+// Chains such as a Or b Or c ... may be long, so their left side is walked in a loop.
+std::optional<ConditionalValue> Conditions::evaluateChain(const SourceText& source, const Expr& e) const {
     std::vector<const BinaryExpr*> chain;
     const Expr* first = &e;
     for (; first->kind == ExprKind::Binary; first = chain.back()->left) chain.push_back(&as<BinaryExpr>(*first));
@@ -136,4 +136,4 @@ std::optional<ConditionalValue> Conditions::evaluateChain(const SourceFile& sour
     return value;
 }
 
-} // namespace compiler
+} // namespace qltoolkit

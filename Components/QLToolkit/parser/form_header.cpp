@@ -1,7 +1,7 @@
 #include "Components/QLToolkit/parser/form_header.h"
 #include <charconv>
 
-namespace compiler {
+namespace qltoolkit {
 
 namespace {
 
@@ -13,7 +13,7 @@ std::string_view trimmedHeaderText(std::string_view text) {
 
 char lowerAscii(char c) { return c >= 'A' && c <= 'Z' ? char(c + 32) : c; }
 
-/// Takes `word` (lower case) and the blanks behind it off the front. False where something else stands there.
+/// Removes `word` (lower case) and the blanks after it from the front. Returns false if the line begins differently.
 bool takeHeaderWord(std::string_view& line, std::string_view word) {
     if (line.size() < word.size()) return false;
     for (std::size_t i = 0; i < word.size(); ++i)
@@ -23,7 +23,7 @@ bool takeHeaderWord(std::string_view& line, std::string_view word) {
     return true;
 }
 
-/// The value without the comment that the IDE writes behind it; quotes protect a '.
+/// Returns the value without the comment that the IDE appends. A ' in quotes does not begin a comment.
 std::string_view literalOf(std::string_view value) {
     bool quoted = false;
     for (std::size_t i = 0; i < value.size(); ++i) {
@@ -33,21 +33,21 @@ std::string_view literalOf(std::string_view value) {
     return value;
 }
 
-std::int32_t indexOf(const ImageControl& control) {
+std::int32_t indexOf(const image::Control& control) {
     for (const auto& property : control.properties) {
         if (property.name != "Index") continue;
-        std::int32_t index = ImageControl::kNoIndex;
+        std::int32_t index = image::Control::kNoIndex;
         std::from_chars(property.value.data(), property.value.data() + property.value.size(), index);
         return index;
     }
-    return ImageControl::kNoIndex;
+    return image::Control::kNoIndex;
 }
 
 class FormHeaderReader {
 public:
-    explicit FormHeaderReader(const SourceFile& source) : source_(source), line_(source.headerBlock()) {}
+    explicit FormHeaderReader(const SourceText& source) : source_(source), line_(source.headerBlock()) {}
 
-    std::optional<ImageControl> read() {
+    std::optional<image::Control> read() {
         while (line_ > 0 && line_ <= source_.lineCount()) {
             readLine(trimmedHeaderText(source_.line(line_++)));
             if (done_) return std::move(root_);
@@ -72,7 +72,7 @@ private:
 
     void beginControl(std::string_view rest) {
         const auto blank = rest.find(' ');
-        ImageControl control;
+        image::Control control;
         control.className = source_.decode(rest.substr(0, blank));
         if (blank != rest.npos) control.name = source_.decode(trimmedHeaderText(rest.substr(blank)));
         open_.push_back(std::move(control));
@@ -80,7 +80,7 @@ private:
 
     void endControl() {
         if (open_.empty()) return;
-        ImageControl control = std::move(open_.back());
+        image::Control control = std::move(open_.back());
         open_.pop_back();
         control.index = indexOf(control);
         if (open_.empty()) {
@@ -100,19 +100,19 @@ private:
 
     std::string prefix() const { return prefix_.empty() ? std::string() : prefix_.back(); }
 
-    const SourceFile& source_;
+    const SourceText& source_;
     std::uint32_t line_;
-    std::vector<ImageControl> open_;
+    std::vector<image::Control> open_;
     std::vector<std::string> prefix_;
-    ImageControl root_;
+    image::Control root_;
     bool done_ = false;
 };
 
 } // namespace
 
-std::optional<ImageControl> readFormHeader(const SourceFile& source) {
+std::optional<image::Control> readFormHeader(const SourceText& source) {
     if (source.header() != HeaderState::Complete || source.headerBlock() == 0) return std::nullopt;
     return FormHeaderReader{source}.read();
 }
 
-} // namespace compiler
+} // namespace qltoolkit

@@ -1,12 +1,12 @@
 #pragma once
-// What every node begins with, for the parser's make<>().
+// The first members of every node, for the parser's make<>().
 #include "Components/QLToolkit/parser/ast.h"
 
-namespace compiler {
+namespace qltoolkit {
 
 inline Stmt stmtHead(StmtKind kind, Pos pos) { return {kind, pos}; }
 inline Expr exprHead(ExprKind kind, Pos pos) { return {kind, 0, pos}; }
 inline Expr exprHead(ExprKind kind, Operator op, Pos pos) { return {kind, static_cast<std::uint8_t>(op), pos}; }
 inline Decl declHead(DeclKind kind, Visibility visibility, Pos pos) { return {kind, visibility, pos}; }
 
-} // namespace compiler
+} // namespace qltoolkit

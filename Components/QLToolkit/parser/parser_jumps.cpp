@@ -2,7 +2,7 @@
 #include "Components/QLToolkit/parser/node_heads.h"
 #include "Components/QLToolkit/parser/parser.h"
 
-namespace compiler {
+namespace qltoolkit {
 
 /// A label or a line number.
 Target Parser::target() {
@@ -85,4 +85,4 @@ Stmt* Parser::exit() {
     }
 }
 
-} // namespace compiler
+} // namespace qltoolkit

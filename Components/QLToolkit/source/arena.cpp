@@ -1,14 +1,14 @@
 #include "Components/QLToolkit/source/arena.h"
 #include <algorithm>
 
-namespace compiler {
+namespace qltoolkit {
 
 namespace {
 constexpr std::size_t kFirstChunk = 16 * 1024;
 constexpr std::size_t kLargestChunk = 4 * 1024 * 1024;
 } // namespace
 
-// Chunks double up to a limit: a small file costs little, a large one few calls.
+// Chunks double in size up to a limit: a small file needs little memory, a large one few allocations.
 std::uintptr_t Arena::grow(std::size_t size, std::size_t alignment) {
     const std::size_t wanted = std::clamp(footprint_, kFirstChunk, kLargestChunk);
     const std::size_t chunk = std::max(wanted, size + alignment);
@@ -19,4 +19,4 @@ std::uintptr_t Arena::grow(std::size_t size, std::size_t alignment) {
     return (next_ + alignment - 1) & ~(alignment - 1);
 }
 
-} // namespace compiler
+} // namespace qltoolkit

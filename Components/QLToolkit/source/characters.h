@@ -1,9 +1,9 @@
 #pragma once
-// The classes of characters, by byte.
+// Character classes of bytes.
 #include <array>
 #include <cstdint>
 
-namespace compiler {
+namespace qltoolkit {
 
 enum CharClass : std::uint8_t { kBlank = 1, kNameStart = 2, kNamePart = 4, kDigit = 8, kHexDigit = 16, kForeign = 32 };
 
@@ -23,4 +23,4 @@ inline constexpr auto kCharClasses = [] {
 inline bool charIs(char c, unsigned classes) { return (kCharClasses[static_cast<unsigned char>(c)] & classes) != 0; }
 inline bool isLineEnd(char c) { return c == '\r' || c == '\n'; }
 
-} // namespace compiler
+} // namespace qltoolkit

@@ -1,7 +1,7 @@
 #include "Components/QLToolkit/source/diagnostic.h"
 #include <algorithm>
 
-namespace compiler {
+namespace qltoolkit {
 
 void Diagnostics::report(Message message, Pos at, std::string_view detail) {
     add(message, source_.locate(std::min(at, source_.size())), detail);
@@ -31,4 +31,4 @@ Diagnostic fileDiagnostic(Message message, std::string file, std::string_view de
             messageText(message, detail)};
 }
 
-} // namespace compiler
+} // namespace qltoolkit

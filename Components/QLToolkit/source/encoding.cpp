@@ -2,7 +2,7 @@
 #include "Basic/utf8.h"
 #include <cstring>
 
-namespace compiler {
+namespace qltoolkit {
 
 bool isUtf8WithNonAscii(std::string_view bytes) {
     if (bytes.starts_with("\xEF\xBB\xBF")) return true;
@@ -49,4 +49,4 @@ bool hasTypographicMark(std::string_view utf8) {
     return false;
 }
 
-} // namespace compiler
+} // namespace qltoolkit
