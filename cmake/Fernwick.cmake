@@ -3,6 +3,7 @@
 option(FERNWICK_TESTS "Build the tests" ON)
 option(FERNWICK_BENCH "Build the benchmarks" OFF)
 option(FERNWICK_WORKBENCH "Build the desktop, which needs Qt 6" ON)
+option(FERNWICK_CHECK_HEADERS "Make a target that compiles each header alone" OFF)
 option(FERNWICK_FUZZ "Build the fuzz targets (clang)" OFF)
 
 set(CMAKE_CXX_STANDARD 20)
@@ -19,28 +20,41 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
 endif()
 include_directories(${PROJECT_SOURCE_DIR})
 
-# fernwick_library(NAME [LINK ...] [PRIVATE_LINK ...]): a static library of all .cpp files in this folder,
-# sub-folders with a CMakeLists.txt of their own excepted. A folder without a .cpp is an interface library.
+# fernwick_library(NAME [LINK ...] [PRIVATE_LINK ...] [FOLDERS ...]): a static library of all .cpp files in this folder and
+# in the rooms that FOLDERS lists, from the ground up: a room may include those before it, and this folder is on top of them
+# unless the list has it as "." (scripts/check-layers). A folder without a .cpp is an interface library.
 function(fernwick_library name)
   cmake_parse_arguments(arg "" "" "LINK;PRIVATE_LINK;FOLDERS" ${ARGN})
   file(GLOB sources CONFIGURE_DEPENDS *.cpp)
+  file(GLOB headers CONFIGURE_DEPENDS *.h)
+  list(REMOVE_ITEM arg_FOLDERS .)
   foreach(folder IN LISTS arg_FOLDERS)
     file(GLOB more CONFIGURE_DEPENDS ${folder}/*.cpp)
     list(APPEND sources ${more})
+    file(GLOB more CONFIGURE_DEPENDS ${folder}/*.h)
+    list(APPEND headers ${more})
   endforeach()
   if(sources)
     add_library(${name} STATIC ${sources})
     target_link_libraries(${name} PUBLIC ${arg_LINK} PRIVATE ${arg_PRIVATE_LINK})
+    set(scope PUBLIC)
     target_precompile_headers(${name} PRIVATE <algorithm> <functional> <map> <memory> <optional> <string> <string_view> <vector>)
   else()
     add_library(${name} INTERFACE)
     target_link_libraries(${name} INTERFACE ${arg_LINK})
+    set(scope INTERFACE)
+  endif()
+  # The target all_verify_interface_header_sets compiles each header alone, without the precompiled one.
+  if(FERNWICK_CHECK_HEADERS)
+    target_sources(${name} ${scope} FILE_SET HEADERS BASE_DIRS ${CMAKE_CURRENT_SOURCE_DIR} FILES ${headers})
+    set_target_properties(${name} PROPERTIES VERIFY_INTERFACE_HEADER_SETS ON)
   endif()
 endfunction()
 
-# fernwick_test(NAME LINK ...): a test program of all *_test.cpp files in this folder.
+# fernwick_test(NAME LINK ... [PROPERTIES ...]): a test program of all *_test.cpp files in this folder, and what ctest is to
+# know of its tests.
 function(fernwick_test name)
-  cmake_parse_arguments(arg "" "" "LINK" ${ARGN})
+  cmake_parse_arguments(arg "" "" "LINK;PROPERTIES" ${ARGN})
   file(GLOB sources CONFIGURE_DEPENDS *_test.cpp)
   if(NOT sources)
     return()
@@ -51,6 +65,8 @@ function(fernwick_test name)
   target_compile_definitions(${name} PRIVATE FERNWICK_SOURCE_DIR="${PROJECT_SOURCE_DIR}" FERNWICK_BINARY_DIR="${PROJECT_BINARY_DIR}")
   # A fixture may live in an unnamed namespace; in a unity build the compiler takes the test's file for a header.
   target_compile_options(${name} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
-  add_test(NAME ${name} COMMAND ${name} --gtest_brief=1)
-  set_tests_properties(${name} PROPERTIES TIMEOUT 300)
+  # ctest knows each test by its folder and name: ctest -R '^build\.Validate'
+  get_filename_component(folder ${CMAKE_CURRENT_SOURCE_DIR} NAME)
+  gtest_discover_tests(${name} TEST_PREFIX ${folder}. EXTRA_ARGS --gtest_brief=1 DISCOVERY_TIMEOUT 60
+    PROPERTIES TIMEOUT 300 ${arg_PROPERTIES})
 endfunction()

@@ -1,32 +1,31 @@
-// The programs that a project runs around its compile.
-#include "Add-in/build/frmCompile.h"
+#include "Add-in/build/compile_steps.h"
 
 namespace fernwick {
 
-bool frmCompile::RunPreCompileSteps(const Project& project) {
-    Procedure here{use_.errors, "frmCompile.RunPreCompileSteps"};
-    const auto qlProject = use_.projects.GetQLProject(project);
+bool CompileSteps::RunPreCompileSteps(const Project& project) {
+    Procedure here{errors_, "frmCompile.RunPreCompileSteps"};
+    const auto qlProject = projects_.GetQLProject(project);
     if (!here.test([&] { return qlProject->PreCompileStepCount() >= 1; })) return true;
     Array<std::string> steps;
     if (!here.value([&] { return qlProject->GetPreCompileSteps(steps); })) return false;
     return runSteps(here, qlProject, steps);
 }
 
-bool frmCompile::RunPostCompileSteps(const Project& project) {
-    Procedure here{use_.errors, "frmCompile.RunPostCompileSteps"};
-    const auto qlProject = use_.projects.GetQLProject(project);
+bool CompileSteps::RunPostCompileSteps(const Project& project) {
+    Procedure here{errors_, "frmCompile.RunPostCompileSteps"};
+    const auto qlProject = projects_.GetQLProject(project);
     if (!here.test([&] { return qlProject->PostCompileStepCount() >= 1; })) return true;
     Array<std::string> steps;
     if (!here.value([&] { return qlProject->GetPostCompileSteps(steps); })) return false;
     return runSteps(here, qlProject, steps);
 }
 
-/// All of them, whatever the earlier ones returned.
-bool frmCompile::runSteps(Procedure& here, const basic::Ref<clsQLProject>& qlProject, const Array<std::string>& steps) {
+bool CompileSteps::runSteps(Procedure& here, const basic::Ref<clsQLProject>& qlProject,
+                            const Array<std::string>& steps) {
     bool allWell = true;
     for (const auto& step : steps) {
         std::string folder = here.value([&] { return qlProject->ProjectPath(); });
-        if (use_.processes.RunProcess(step, folder) != 0) allWell = false;
+        if (processes_.RunProcess(step, folder) != 0) allWell = false;
     }
     return allWell;
 }

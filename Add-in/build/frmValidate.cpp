@@ -4,10 +4,6 @@
 
 namespace fernwick {
 
-namespace {
-constexpr int kAgainAndAgain = -1;
-}
-
 frmValidate::frmValidate(const ValidationServices& services) : Form(services.platform.interaction), use_(services) {
     ControlBox = false;
 }
@@ -51,7 +47,7 @@ void frmValidate::startAnimation(Procedure& here) {
     finishedImg.Visible(true);
     aniValidate.Visible(true);
     here([&] { aniValidate.Open(use_.install.installed("VB TOOLKIT\\BIN\\QLVALIDATE.AVI")); });
-    here([&] { aniValidate.Play(kAgainAndAgain); });
+    here([&] { aniValidate.Play(Animation::kForever); });
     here([&] { use_.platform.loop.DoEvents(); });
 }
 

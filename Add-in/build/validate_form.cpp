@@ -56,8 +56,10 @@ bool frmValidate::ScanForm(const QLProject& qlProject, const Component& componen
 bool frmValidate::checkFormName(Procedure& here, const Project& project, const Component& component) {
     if (!here.test([&] { return IsReservedWord(component->Name()); })) return true;
     here([&] {
-        ShowValidationError(project, fmt::format(build_texts::kReservedFormName, "name"_a = component->Name()),
-                            component->FileNames(1), 0, message_numbers::kReservedWord);
+        ShowValidationError(
+            project,
+            fmt::format(build_texts::kReservedName, "name"_a = component->Name(), "kind"_a = build_texts::kFormKind),
+            component->FileNames(1), 0, message_numbers::kReservedWord);
     });
     return false;
 }
@@ -92,7 +94,9 @@ bool frmValidate::ScanControls(const Project& project, const Component& componen
         if (!here.test([&] { return IsReservedWord(nameOf(control)); })) continue;
         good = false;
         here([&] {
-            ShowValidationError(project, fmt::format(build_texts::kReservedControlName, "name"_a = nameOf(control)),
+            ShowValidationError(project,
+                                fmt::format(build_texts::kReservedName, "name"_a = nameOf(control),
+                                            "kind"_a = build_texts::kControlKind),
                                 component->FileNames(1), 0, message_numbers::kReservedWord);
         });
     }
@@ -129,9 +133,8 @@ void frmValidate::GenerateFormEventWarning(const Project& project, const Compone
                                            const vbide::Member& member) {
     Procedure here{use_.errors, "frmValidate.GenerateFormEventWarning"};
     here([&] {
-        auto text =
-            fmt::format(build_texts::kFormEventNotSupported, "procedure"_a = member.Name, "form"_a = component->Name());
-        text += insteadOf(basic::UCase(member.Name));
+        const auto text = fmt::format(build_texts::kFormEventNotSupported, "procedure"_a = member.Name,
+                                      "form"_a = component->Name(), "instead"_a = insteadOf(basic::UCase(member.Name)));
         ShowValidationWarning(project, text, component->FileNames(1), member.CodeLocation,
                               message_numbers::kFormEventNotSupported);
     });

@@ -5,10 +5,6 @@
 
 namespace fernwick {
 
-namespace {
-constexpr int kForEver = -1;
-}
-
 PipeForm::PipeForm(const PipeServices& services) : Form(services.platform.interaction), use_(services) {
     ControlBox = false;
 }
@@ -20,7 +16,7 @@ void PipeForm::beginRun(const char* animation, const char* status) {
     basic::Suppressed quietly; // a missing animation stops nothing
     aniSend.Visible(true);
     quietly([&] { aniSend.Open(use_.install.installed(animation)); });
-    quietly([&] { aniSend.Play(kForEver); });
+    quietly([&] { aniSend.Play(Animation::kForever); });
     AddToProgress(status);
 }
 

@@ -53,8 +53,8 @@ int frmSendToDevice::askToCompile(Procedure& here) {
 /// The old image is not validated: the user sends it on his own responsibility.
 bool frmSendToDevice::sendOldImage(Procedure& here, const Project& project) {
     const auto refused = [&] {
-        return user_.MsgBox(deploy_texts::kStillDeploy, vbYesNo + vbQuestion + vbDefaultButton2,
-                            deploy_texts::kTitle) != vbYes;
+        return user_.ask(Question::DeployWithErrors, deploy_texts::kStillDeploy,
+                         vbYesNo + vbQuestion + vbDefaultButton2, deploy_texts::kTitle) != vbYes;
     };
     if (deploy_.messages.NumProjectCompileErrors(project) >= 1 && here.test(refused)) return false;
     deploy_.messages.ClearProjectCompileErrors(project);

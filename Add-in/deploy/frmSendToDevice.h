@@ -3,6 +3,7 @@
 #include "Add-in/build/dependencies/modDependencyManagement.h"
 #include "Add-in/build/frmCompileWarning.h"
 #include "Add-in/build/frmValidate.h"
+#include "Add-in/core/settings_dialog.h"
 #include "Add-in/deploy/PipeForm.h"
 
 namespace fernwick {
@@ -17,7 +18,7 @@ struct DeployServices {
     frmCompile& compile;
     frmCompileWarning& compileWarning;
     frmValidate& validate;
-    IdeCommands& commands;
+    SettingsDialog& settings;
 };
 
 /// Compiles and validates where that is needed, gathers what belongs on the device and hands it to the device's pipe.

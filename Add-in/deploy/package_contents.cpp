@@ -73,7 +73,8 @@ bool frmSendToDevice::addOrAsk(Procedure& here, Package& package, const std::str
         return true;
     }
     const auto text = std::string(question) + "\r\n" + path;
-    return !here.test([&] { return user_.MsgBox(text, vbYesNo + vbExclamation, deploy_texts::kTitle) != vbYes; });
+    return !here.test(
+        [&] { return user_.ask(Question::MissingFile, text, vbYesNo + vbExclamation, deploy_texts::kTitle) != vbYes; });
 }
 
 std::string frmSendToDevice::inProject(Procedure& here, const Package& package, const std::string& name) {

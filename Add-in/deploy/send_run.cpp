@@ -36,10 +36,11 @@ tResourceList frmSendToDevice::readDependencies() {
     const auto project = workingProject_->VBProject();
     const auto dependencies = deploy_.dependencies.ReadProjectDependencies(project);
     if (deploy_.dependencies.ValidateDependencyList(project, dependencies)) return dependencies;
-    if (user_.MsgBox(deploy_texts::kInvalidDependencies, vbYesNo + vbQuestion, deploy_texts::kTitle) != vbYes)
+    if (user_.ask(Question::EditDependencies, deploy_texts::kInvalidDependencies, vbYesNo + vbQuestion,
+                  deploy_texts::kTitle) != vbYes)
         return dependencies;
     user_.SetCursor(vbHourglass);
-    deploy_.commands.ShowQuinloftSettings(project, "Dependencies", false);
+    deploy_.settings.ShowQuinloftSettings(project, "Dependencies", false);
     return deploy_.dependencies.ReadProjectDependencies(project);
 }
 

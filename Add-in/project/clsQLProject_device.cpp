@@ -5,33 +5,18 @@ namespace fernwick {
 
 using designtargetaccess::IQLDesignTarget;
 
-std::string clsQLProject::TargetDevice() const {
-    const auto key = readText("TargetDevice");
-    if (key == "SOFTWARE\\Quinloft\\DesignTargets\\PalmOS") return "PalmOS-DragonBall";
-    if (key == "SOFTWARE\\Quinloft\\DesignTargets\\PocketPC") return "PocketPC-SH3";
-    return key;
-}
-
-void clsQLProject::TargetDevice(const std::string& key) {
-    write("Let_TargetDevice", "TargetDevice", key);
-    SetCompileTargetsList(Array<std::string>{0, {"", key}});
-
-    Procedure here{services_.errors, "clsQLProject.Let_TargetDevice"};
-    if (here.test([&] { return !designTarget_ || designTarget_->Key() != key; }))
-        here([&] { designTarget_ = services_.devices.GetDesignTarget(key); });
-}
+void clsQLProject::designTarget(basic::Ref<IQLDesignTarget> target) { TargetDevice.designTarget = std::move(target); }
 
 void clsQLProject::InitDesignTarget() {
     Procedure here{services_.errors, "clsQLProject.InitDesignTarget"};
-    const auto key = TargetDevice();
-    if (here.test([&] { return !designTarget_ || designTarget_->Key() != key; }))
-        here([&] { designTarget_ = services_.devices.GetDesignTarget(key); });
+    TargetDevice.fetchDesignTarget(here, TargetDevice());
 }
 
 std::string clsQLProject::templatePath(const char* property, std::string (IQLDesignTarget::*path)() const) const {
     Procedure here{services_.errors, std::string("clsQLProject.Get_") + property};
-    if (!designTarget_) return {};
-    return here.value([&] { return (designTarget_.shared().get()->*path)(); });
+    const auto target = designTarget();
+    if (!target) return {};
+    return here.value([&] { return (target.shared().get()->*path)(); });
 }
 
 std::string clsQLProject::VBPTemplate() const { return templatePath("VBPTemplate", &IQLDesignTarget::VBPTemplate); }

@@ -1,4 +1,4 @@
-// Saving what has a file already.
+// Saving of files that exist.
 #include "Add-in/project/clsQLProject.h"
 #include "Add-in/project/project_texts.h"
 #include <fmt/format.h>
@@ -7,16 +7,16 @@ namespace fernwick {
 
 bool clsQLProject::FilesHaveBeenSaved() const {
     Procedure here{services_.errors, "clsQLProject.Get_FilesHaveBeenSaved"};
-    if (here.test([&] { return !files().FileExists(project_->FileName()); })) return false;
-    for (const auto& component : here.value([&] { return project_->VBComponents()->items(); }))
+    if (here.test([&] { return !files().FileExists(VBProject()->FileName()); })) return false;
+    for (const auto& component : here.value([&] { return VBProject()->VBComponents()->items(); }))
         if (here.test([&] { return !files().FileExists(component->FileNames(1)); })) return false;
     return true;
 }
 
 void clsQLProject::SaveFiles() {
     Procedure here{services_.errors, "clsQLProject.SaveFiles"};
-    if (ProjectVersion() == "1.0") return;
-    for (const auto& component : here.value([&] { return project_->VBComponents()->items(); }))
+    if (HasOldFormat()) return;
+    for (const auto& component : here.value([&] { return VBProject()->VBComponents()->items(); }))
         if (here.test([&] { return component->IsDirty(); })) saveComponent(here, component);
     saveProjectFile(here);
 }
@@ -41,13 +41,13 @@ void clsQLProject::saveComponent(Procedure& here, const basic::Ref<vbide::VBComp
 }
 
 void clsQLProject::saveProjectFile(Procedure& here) {
-    const auto path = here.value([&] { return project_->FileName(); });
+    const auto path = here.value([&] { return VBProject()->FileName(); });
     if (!files().FileExists(path)) return;
-    if (services_.templates.ProjectIsFromTemplate(project_)) return; // which users often can't write, and needn't
+    if (services_.templates.ProjectIsFromTemplate(VBProject())) return; // often not writable, and not to be changed
     if (here.test([&] { return warnIfReadOnly(path); })) return;
     here([&] {
-        project_->SaveAs(path);
-        project_->IsDirty(false);
+        VBProject()->SaveAs(path);
+        VBProject()->IsDirty(false);
     });
 }
 

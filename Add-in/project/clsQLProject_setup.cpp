@@ -1,5 +1,7 @@
-// Fitting the project to a device: its settings, toolbox and references.
+// Set-up of the project for a device: settings, toolbox, references and forms.
 #include "Add-in/project/clsQLProject.h"
+#include "Add-in/project/form_fitting.h"
+#include "Add-in/project/form_scaling.h"
 #include "Add-in/project/project_texts.h"
 #include <fmt/format.h>
 
@@ -31,7 +33,7 @@ void clsQLProject::SetupProjectToolbar() {
     if (tavletCount_ <= 0) return;
     for (const auto& tavlet : tavlets_) {
         if (tavlet.progID.empty()) continue;
-        const auto err = basic::attempt([&] { project_->AddToolboxProgID(tavlet.progID); });
+        const auto err = basic::attempt([&] { VBProject()->AddToolboxProgID(tavlet.progID); });
         if (err.Number == 0 || err.Number == basic::kInvalidProcedureCall) continue;
         (void)basic::attempt([&] {
             box(fmt::format(texts::kToolboxFailure, "clsid"_a = tavlet.CLSID, "device"_a = TargetDevice(),
@@ -46,7 +48,7 @@ void clsQLProject::SetupProjectReferences() {
     if (referenceCount_ <= 0) return;
     for (const auto& reference : references_) {
         if (reference.GUID.empty() || reference.Value != 1) continue;
-        const auto err = basic::attempt([&] { project_->References()->AddFromGuid(reference.GUID, 1, 0); });
+        const auto err = basic::attempt([&] { VBProject()->References()->AddFromGuid(reference.GUID, 1, 0); });
         if (err.Number == 0) continue;
         (void)basic::attempt([&] {
             box(fmt::format(texts::kReferenceFailure, "guid"_a = reference.GUID, "device"_a = TargetDevice(),
@@ -61,6 +63,35 @@ void clsQLProject::PublishTavletStyle() {
     here([&] {
         services_.platform.environment.SetEnvironmentVariable(kStyleVariable, std::to_string(TavletStyleID()));
     });
+}
+
+void clsQLProject::SetupDefaultForm(const basic::Ref<vbide::VBComponent>& MyForm) {
+    Procedure here{services_.errors, store().withProjectName("clsDeviceConfig.SetupDefaultForm")};
+    FormFitting{*this, services_.platform.screen}.apply(here, MyForm);
+}
+
+bool clsQLProject::ValidFormSize(const basic::Ref<vbide::VBComponent>& MyForm) {
+    Procedure here{services_.errors, store().withProjectName("clsDeviceConfig.ValidFormSize")};
+    return FormFitting{*this, services_.platform.screen}.hasValidSize(here, MyForm);
+}
+
+void clsQLProject::CheckTwipsMatch() {
+    Procedure here{services_.errors, "clsQLProject.CheckTwipsMatch"};
+    const auto& screen = services_.platform.screen;
+    const Resolution now{here.value([&] { return screen.TwipsPerPixelX(); }),
+                         here.value([&] { return screen.TwipsPerPixelY(); })};
+    const Resolution then{TwipsPerPixelX(), TwipsPerPixelY()};
+    if (then.x != 0) {
+        if (now == then) return;
+        const auto answer = [&] {
+            return services_.platform.interaction.ask(Question::ConvertForms, std::string(texts::kOtherDpi),
+                                                      vbYesNo | vbQuestion, std::string(texts::kFernwick));
+        };
+        if (here.value(answer) != vbYes) return;
+        ScaleForms(VBProject(), now, then);
+    }
+    TwipsPerPixelX(now.x);
+    TwipsPerPixelY(now.y);
 }
 
 } // namespace fernwick

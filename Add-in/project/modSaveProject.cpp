@@ -125,8 +125,10 @@ std::string modSaveProject::askForPath(Procedure& here, const basic::Ref<FileSys
         if (!showSave(dialog)) return {};
         if (!files->FileExists(dialog.FileName)) break;
         const auto question = fmt::format(texts::kReplace, "path"_a = dialog.FileName);
-        answer = here.value(
-            [&] { return user.MsgBox(question, vbYesNo | vbExclamation, std::string(texts::kReplaceTitle)); });
+        answer = here.value([&] {
+            return user.ask(Question::ReplaceFile, question, vbYesNo | vbExclamation,
+                            std::string(texts::kReplaceTitle));
+        });
         if (answer == 0) return {}; // the box could not be shown
     }
     return dialog.FileName;

@@ -1,11 +1,10 @@
-#include "Apps/fernwick/exit_status.h"
-#include "Apps/fernwick/interruption.h"
-#include "Apps/fernwick/refusal.h"
-#include "Apps/fernwick/report.h"
-#include "Apps/fernwick/verbs/verbs.h"
-#include "Apps/fernwick/version.h"
+#include "Apps/fernwick/command_line/parse.h"
+#include "Apps/fernwick/options/exit_status.h"
+#include "Apps/fernwick/options/refusal.h"
+#include "Apps/fernwick/output/report.h"
+#include "Apps/fernwick/output/version_line.h"
+#include "Apps/fernwick/run/interruption.h"
 #include "Basic/runtime_error.h"
-#include <array>
 #include <csignal>
 #include <cstdio>
 #include <cstring>
@@ -14,38 +13,7 @@
 
 namespace {
 
-struct Verb {
-    std::string_view name;
-    int (*run)(const cli::Options&, cli::Console&);
-};
-
-constexpr std::array kVerbs{
-    Verb{"build", cli::runBuild},
-    Verb{"check", cli::runCheck},
-    Verb{"dependencies", cli::runDependencies},
-    Verb{"deploy", cli::runDeploy},
-    Verb{"devices", cli::runDevices},
-    Verb{"doctor", cli::runDoctor},
-    Verb{"explain", cli::runExplain},
-    Verb{"info", cli::runInfo},
-    Verb{"install-runtime", cli::runInstallRuntime},
-    Verb{"messages", cli::runMessages},
-    Verb{"package", cli::runPackage},
-    Verb{"registry", cli::runRegistry},
-    Verb{"settings", cli::runSettings},
-    Verb{"targets", cli::runTargets},
-    Verb{"validate", cli::runValidate},
-    Verb{"version", cli::runVersion},
-    Verb{"workbench", cli::runWorkbench},
-};
-
-int runVerb(const cli::Options& options, cli::Console& console) {
-    for (const auto& verb : kVerbs)
-        if (verb.name == options.verb) return verb.run(options, console);
-    return cli::kWrongUse;
-}
-
-/// A verb that could not do its job: said to the user, and as a result where a format was asked for.
+/// Prints why the command failed, also as JSON or SARIF if requested.
 int failed(int status, const std::string& reason, const cli::Options& options, cli::Console& console) {
     console.err("fernwick: " + reason, cli::Tone::Error);
     cli::Report report;
@@ -58,11 +26,12 @@ int failed(int status, const std::string& reason, const cli::Options& options, c
     return status;
 }
 
-int guarded(const cli::Options& options, cli::Console& console) {
+int guarded(const cli::Parsed& parsed, cli::Console& console) {
+    const auto& options = parsed.options;
     try {
-        return runVerb(options, console);
+        return parsed.run(options, console);
     } catch (const cli::Interrupted&) {
-        return failed(cli::kInterrupted, "interrupted; nothing was left half-written", options, console);
+        return failed(cli::kInterrupted, "interrupted; no file was left incomplete", options, console);
     } catch (const cli::Refusal& refusal) {
         return failed(refusal.status(), refusal.what(), options, console);
     } catch (const basic::RuntimeError& error) {
@@ -71,15 +40,15 @@ int guarded(const cli::Options& options, cli::Console& console) {
     } catch (const std::exception& error) { return failed(cli::kMachineTrouble, error.what(), options, console); }
 }
 
-/// The exit status after a text on standard output.
+/// Prints to standard output and returns the exit status.
 int printed(const std::string& text) {
     const bool good = std::fputs(text.c_str(), stdout) >= 0 && std::fflush(stdout) == 0;
     if (!good) std::fputs("fernwick: standard output could not be written\n", stderr);
     return good ? cli::kGood : cli::kMachineTrouble;
 }
 
-/// Memory that one file's tree frees serves the next file's instead of going back to the system page by page: a third
-/// of the time of a check. The process is over soon enough.
+/// Keeps freed memory for the next file instead of returning it to the system, which took a third of the time of a
+/// check.
 void keepFreedMemory() {
     mallopt(M_MMAP_THRESHOLD, 32 << 20);
     mallopt(M_TRIM_THRESHOLD, 256 << 20);
@@ -88,7 +57,7 @@ void keepFreedMemory() {
 } // namespace
 
 int main(int argc, char** argv) {
-    // asked by every script that looks for the tool: answered before anything else is set up
+    // fast path for scripts that look for the program
     if (argc == 2 && std::strcmp(argv[1], "--version") == 0) return printed(cli::versionLine() + "\n");
 
     const auto parsed = cli::parseCommandLine(argc, argv);
@@ -96,10 +65,10 @@ int main(int argc, char** argv) {
     if (!parsed.run) return parsed.output.empty() ? parsed.status : printed(parsed.output);
 
     keepFreedMemory();
-    std::signal(SIGCHLD, SIG_DFL); // some parents have us throw away how our compile steps end
+    std::signal(SIGCHLD, SIG_DFL); // a parent that ignores it would hide the exit status of compile steps
     cli::watchForInterrupt();
     cli::Console console{parsed.options.verbosity};
-    int status = guarded(parsed.options, console);
+    int status = guarded(parsed, console);
     if (cli::wasInterrupted()) status = cli::kInterrupted;
     if (!console.flush()) {
         console.err("fernwick: standard output could not be written", cli::Tone::Error);

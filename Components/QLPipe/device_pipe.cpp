@@ -1,12 +1,12 @@
 #include "Components/QLPipe/device_pipe.h"
-#include "Components/QLPipe/device_names.h"
-#include "Components/QLPipe/installer.h"
-#include "Components/QLPipe/package_writer.h"
-#include "Components/QLPipe/pipe_messages.h"
-#include "Components/QLPipe/pipe_texts.h"
-#include "Components/QLPipe/project_bundle.h"
-#include "Components/QLPipe/runtime_bundle.h"
-#include "Components/QLPipe/target_limits.h"
+#include "Components/QLPipe/base/device_names.h"
+#include "Components/QLPipe/base/pipe_messages.h"
+#include "Components/QLPipe/base/pipe_texts.h"
+#include "Components/QLPipe/base/target_limits.h"
+#include "Components/QLPipe/package/installer.h"
+#include "Components/QLPipe/package/package_writer.h"
+#include "Components/QLPipe/package/project_bundle.h"
+#include "Components/QLPipe/package/runtime_bundle.h"
 
 namespace qlpipe {
 

@@ -1,8 +1,8 @@
 #pragma once
 // The pipe of a device family.
-#include "Components/QLPipe/package.h"
+#include "Components/QLPipe/base/pipe_messages.h"
+#include "Components/QLPipe/package/package.h"
 #include "Components/QLPipe/pipe_family.h"
-#include "Components/QLPipe/pipe_messages.h"
 #include <optional>
 
 namespace qlpipe {

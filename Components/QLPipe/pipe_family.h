@@ -1,8 +1,8 @@
 #pragma once
 // Device families and the classes that serve them.
 #include "Add-in/platform/pipes.h"
-#include "Components/QLPipe/device_storage.h"
-#include "Components/QLPipe/pipe_services.h"
+#include "Components/QLPipe/base/device_storage.h"
+#include "Components/QLPipe/base/pipe_services.h"
 #include <functional>
 #include <memory>
 #include <span>

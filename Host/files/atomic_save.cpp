@@ -1,4 +1,5 @@
 #include "Host/files/atomic_save.h"
+#include "Host/files/native_path.h"
 #include "Host/files/system_error.h"
 #include <cerrno>
 #include <climits>
@@ -16,9 +17,8 @@ namespace host {
 namespace {
 
 std::string folderOfPath(const std::string& path) {
-    const auto slash = path.rfind('/');
-    if (slash == std::string::npos) return ".";
-    return slash == 0 ? "/" : path.substr(0, slash);
+    const auto folder = folderOf(path);
+    return folder.empty() ? "." : folder;
 }
 
 std::string readLink(const std::string& path) {
@@ -28,24 +28,24 @@ std::string readLink(const std::string& path) {
     return target;
 }
 
-/// The file that a save to `path` replaces: where a chain of links ends, also when nothing stands there yet.
+/// The file that a save to `path` replaces: the end of a chain of links, even if that file does not exist yet.
 std::string throughLinks(std::string path) {
     constexpr int kMostLinks = 40;
     for (int followed = 0; followed < kMostLinks; ++followed) {
         const auto target = readLink(path);
         if (target.empty()) return path;
-        path = target.front() == '/' ? target : folderOfPath(path) + "/" + target;
+        path = target.front() == '/' ? target : pathIn(folderOfPath(path), target);
     }
     throw systemError(ELOOP, "cannot be saved", path);
 }
 
-/// The new file while it is being written; gone with this object unless it took the old one's place.
+/// The new file while it is being written. The destructor deletes it unless it has replaced the old file.
 class SavingFile {
 public:
     SavingFile(const std::string& target, mode_t mode) : target_(target) {
         std::random_device random;
         for (int tries = 0; descriptor_ < 0 && tries < 100; ++tries) {
-            path_ = fmt::format("{}/.fernwick-{:08x}", folderOfPath(target), random());
+            path_ = pathIn(folderOfPath(target), fmt::format(".fernwick-{:08x}", random()));
             descriptor_ = ::open(path_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, mode);
             if (descriptor_ < 0 && errno != EEXIST) break;
         }
@@ -60,7 +60,7 @@ public:
     }
 
     void keepModeAndOwner(const struct stat& old) {
-        // Where the owner can't be kept (somebody else's file in a shared folder) the file is still saved.
+        // The file is saved even if its owner cannot be kept (another user's file in a shared folder).
         if (::fchown(descriptor_, old.st_uid, old.st_gid) != 0 && errno != EPERM) fail(errno);
         if (::fchmod(descriptor_, old.st_mode & 07777) != 0) fail(errno);
     }
@@ -92,7 +92,7 @@ private:
 
 void syncFolder(const std::string& folder) {
     const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (descriptor < 0) return; // a folder that may be written but not read: the rename itself has succeeded
+    if (descriptor < 0) return; // the folder is writable but not readable; the rename itself has succeeded
     ::fsync(descriptor);
     ::close(descriptor);
 }

@@ -1,7 +1,7 @@
 #include "Host/files/code_file.h"
 #include "Basic/case_folding.h"
 #include "Host/files/encoding.h"
-#include "Host/files/trim.h"
+#include "Host/files/text_parts.h"
 #include <algorithm>
 
 namespace host {
@@ -9,7 +9,7 @@ namespace {
 
 constexpr std::string_view kAttribute = "Attribute ";
 
-/// Walks over lines and knows how many bytes it has taken.
+/// Walks over lines and counts the bytes taken.
 class LineWalker {
 public:
     explicit LineWalker(std::string_view bytes) : all_(bytes), rest_(bytes) {}
@@ -35,7 +35,7 @@ std::string_view firstWordOf(std::string_view line) noexcept {
 }
 
 bool isVersionLine(std::string_view line) noexcept {
-    if (line.substr(0, kByteOrderMark.size()) == kByteOrderMark) line.remove_prefix(kByteOrderMark.size());
+    line = withoutByteOrderMark(line);
     const auto word = firstWordOf(line);
     if (!basic::equalNoCase(word, "VERSION")) return false;
     const auto number = trimBlanks(trimBlanks(line).substr(word.size()));
@@ -48,7 +48,7 @@ bool isObjectLine(std::string_view line) noexcept {
     return !line.empty() && line.front() == '=';
 }
 
-/// Skips one balanced Begin block; false when the text ends inside it.
+/// Skips one balanced Begin block. Returns false if the text ends inside it.
 bool skipBeginBlock(LineWalker& lines) noexcept {
     std::size_t depth = 0;
     while (!lines.atEnd()) {
@@ -66,7 +66,7 @@ bool isAttributeLine(std::string_view line) noexcept {
     return line.size() > kAttribute.size() && line.substr(0, kAttribute.size()) == kAttribute;
 }
 
-/// An attribute that stands in the code has a name with ".VB_"; no statement begins like it.
+/// Attributes within the code have names with ".VB_"; no statement begins like that.
 bool isHiddenLine(std::string_view line) noexcept {
     return isAttributeLine(line) && line.find("VB_") != std::string_view::npos &&
            line.find('=') != std::string_view::npos;
@@ -99,9 +99,7 @@ std::optional<std::string_view> attributeValue(std::string_view attributes, std:
         line.remove_prefix(kAttribute.size());
         const auto equals = line.find('=');
         if (equals == std::string_view::npos || !basic::equalNoCase(trimBlanks(line.substr(0, equals)), name)) continue;
-        auto value = trimBlanks(line.substr(equals + 1));
-        if (value.size() >= 2 && value.front() == '"' && value.back() == '"') value = value.substr(1, value.size() - 2);
-        return value;
+        return unquoted(trimBlanks(line.substr(equals + 1)));
     }
     return {};
 }
@@ -154,8 +152,8 @@ void CodeText::insert(std::size_t line, std::string_view text) {
 void CodeText::remove(std::size_t line, std::size_t count) {
     if (count == 0) return;
     const auto first = shown().at(line - 1);
-    const auto behind = line + count - 1;
-    const auto last = behind < shown().size() ? shown()[behind] : lines_.size();
+    const auto next = line + count - 1;
+    const auto last = next < shown().size() ? shown()[next] : lines_.size();
     lines_.erase(lines_.begin() + std::ptrdiff_t(first), lines_.begin() + std::ptrdiff_t(last));
     counted_ = false;
 }

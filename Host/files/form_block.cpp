@@ -1,44 +1,14 @@
 #include "Host/files/form_block.h"
 #include "Basic/case_folding.h"
 #include "Host/files/form_line.h"
-#include "Host/files/property_value.h"
 #include <algorithm>
 #include <fmt/core.h>
 
 namespace host {
 namespace {
 
-constexpr std::string_view kFormLevel = "   ";
+constexpr std::string_view kOneLevel = "   ";
 constexpr std::string_view kFormCrLf = "\r\n";
-constexpr std::size_t kKeyWidth = 16, kBooleanWidth = 4;
-
-std::string_view endOfFormLine(std::string_view wholeLine) { return wholeLine.substr(lineText(wholeLine).size()); }
-
-/// Literal and comment as the designer writes them: Booleans stand in 4 columns, others before two blanks.
-std::string withComment(std::string_view literal, std::string_view comment) {
-    std::string out(literal);
-    if (comment.empty()) return out;
-    const bool boolean = comment == "True" || comment == "False";
-    out.append(boolean && out.size() < kBooleanWidth ? kBooleanWidth - out.size() : 2, ' ');
-    return out.append("'").append(comment);
-}
-
-std::string formPropertyText(std::string_view key, std::string_view literal, std::string_view comment) {
-    return fmt::format("{:<{}}=   {}", key, kKeyWidth, withComment(literal, comment));
-}
-
-std::string formBlockText(std::string_view keyword, std::string_view first, std::string_view second) {
-    return fmt::format("{} {} {}{}", keyword, first, second, second.empty() ? "" : " ");
-}
-
-/// The line with another literal and comment in the same layout.
-std::string rewrittenLine(std::string_view whole, const FormLine& parts, std::string_view literal,
-                          std::string_view comment) {
-    std::string out(parts.value.empty() ? whole.substr(0, whole.find('=') + 1)
-                                        : whole.substr(0, std::size_t(parts.value.data() - whole.data())));
-    if (parts.value.empty()) out += kFormLevel;
-    return out.append(withComment(literal, comment)).append(endOfFormLine(whole));
-}
 
 } // namespace
 
@@ -82,13 +52,12 @@ bool FormBlock::set(std::string_view key, std::string_view literal, std::string_
     Item* item = find(key);
     if (item && item->block) return false;
     if (item) {
-        const auto parts = parseFormLine(item->line);
-        if (parts.value == literal) return false;
-        item->line = rewrittenLine(item->line, parts, literal, comment);
+        if (parseFormLine(item->line).value == literal) return false;
+        item->line = rewrittenLine(item->line, literal, comment);
         return true;
     }
     auto added = std::make_unique<Item>();
-    added->line = newLine(formPropertyText(key, literal, comment));
+    added->line = newLine(propertyLineText(key, literal, comment));
     added->key = basic::foldCase(key);
     added->added = true;
     const auto at = placeFor(added->key);
@@ -117,98 +86,17 @@ void FormBlock::eachProperty(const std::function<void(std::string_view, std::str
     }
 }
 
-void FormBlock::eachPropertyWithin(const SeeLine& see, std::size_t& line) const {
-    ++line;
-    for (const auto& item : items_) {
-        if (item->block) {
-            item->block->eachPropertyWithin(see, line);
-            continue;
-        }
-        if (!item->key.empty()) {
-            const auto parts = parseFormLine(item->line);
-            see(*this, parts.name, parts.value, line);
-        }
-        ++line;
-    }
-    if (!lastLine_.empty()) ++line;
-}
-
-bool FormBlock::renameResources(std::string_view oldFile, std::string_view newFile) {
-    bool changed = false;
-    for (const auto& item : items_) {
-        if (item->block) changed = item->block->renameResources(oldFile, newFile) || changed;
-        if (item->block || item->key.empty()) continue;
-        const auto parts = parseFormLine(item->line);
-        auto value = parsePropertyValue(parts.value);
-        if (value.kind != PropertyValue::Kind::Resource || !basic::equalNoCase(value.resource.file, oldFile)) continue;
-        value.resource.file = newFile;
-        item->line = rewrittenLine(item->line, parts, resourceLiteral(value.resource), parts.comment);
-        changed = true;
-    }
-    return changed;
-}
-
-std::shared_ptr<FormBlock> FormBlock::properties(std::string_view name) const {
-    const Item* item = find(name);
-    return item ? item->block : nullptr;
-}
-
-std::shared_ptr<FormBlock> FormBlock::addProperties(std::string_view name, std::string_view guid) {
-    auto block = std::make_shared<FormBlock>(Kind::Properties, newLine(formBlockText("BeginProperty", name, guid)));
-    block->close(newLine("EndProperty"));
-    auto item = std::make_unique<Item>();
-    item->key = basic::foldCase(name);
-    item->block = block;
-    item->added = true;
-    const auto at = placeFor(item->key);
-    insert(at, std::move(item));
-    return block;
-}
-
-FormBlock::Blocks FormBlock::objects() const {
-    Blocks out;
-    for (const auto& item : items_)
-        if (item->isObject()) out.push_back(item->block);
-    return out;
-}
-
-std::shared_ptr<FormBlock> FormBlock::addObject(std::string_view type, std::string_view name) {
-    auto block = std::make_shared<FormBlock>(Kind::Object, newLine(formBlockText("Begin", type, name)));
-    block->close(newLine("End"));
-    auto item = std::make_unique<Item>();
-    item->block = block;
-    item->added = true;
-    auto at = std::find_if(items_.begin(), items_.end(), [](const auto& i) { return i->isObject(); });
-    insert(at, std::move(item));
-    return block;
-}
-
-std::optional<std::size_t> FormBlock::removeObject(const FormBlock& block) {
-    const auto at = std::find_if(items_.begin(), items_.end(),
-                                 [&](const auto& i) { return i->isObject() && i->block.get() == &block; });
-    if (at == items_.end()) return std::nullopt;
-    const auto place = std::size_t(at - items_.begin());
-    items_.erase(at);
-    return place;
-}
-
-void FormBlock::restoreObject(std::shared_ptr<FormBlock> block, std::size_t place) {
-    auto item = std::make_unique<Item>();
-    item->block = std::move(block);
-    items_.insert(items_.begin() + std::ptrdiff_t(std::min(place, items_.size())), std::move(item));
-}
-
-/// In an Object before the first property that comes later in the alphabet, else behind the last property; in any case
-/// not behind a block whose end is missing, which would swallow it.
+/// In an Object, before the first property that follows in alphabetical order; otherwise after the last property. Never
+/// after a block without an end, which would swallow the new line.
 FormBlock::Items::iterator FormBlock::placeFor(std::string_view key) {
-    auto behindLast = items_.begin();
+    auto afterLast = items_.begin();
     for (auto at = items_.begin(); at != items_.end(); ++at) {
         if ((*at)->block && (*at)->block->lastLine_.empty()) return at;
         if ((*at)->key.empty()) continue;
         if (kind_ == Kind::Object && (*at)->key > key) return at;
-        behindLast = at + 1;
+        afterLast = at + 1;
     }
-    return behindLast;
+    return afterLast;
 }
 
 void FormBlock::insert(Items::iterator at, std::unique_ptr<Item> item) {
@@ -218,10 +106,10 @@ void FormBlock::insert(Items::iterator at, std::unique_ptr<Item> item) {
     if (indexed_ && !raw->key.empty()) index_[raw->key] = raw;
 }
 
-/// A file that breaks off within this block has a last line without an end, behind which no line can stand.
+/// Ends the last line of a file that stops within this block, so that lines can be added after it.
 void FormBlock::ensureLineEnds() {
     const auto ended = [](std::string& line) {
-        if (!line.empty() && endOfFormLine(line).empty()) line += kFormCrLf;
+        if (!line.empty() && lineEndOf(line).empty()) line += kFormCrLf;
     };
     ended(firstLine_);
     if (items_.empty()) return;
@@ -234,8 +122,8 @@ void FormBlock::ensureLineEnds() {
 }
 
 std::string FormBlock::newLine(std::string_view text) const {
-    const auto end = endOfFormLine(firstLine_).empty() ? kFormCrLf : endOfFormLine(firstLine_);
-    return fmt::format("{}{}{}{}", parseFormLine(firstLine_).indent, kFormLevel, text, end);
+    const auto end = lineEndOf(firstLine_).empty() ? kFormCrLf : lineEndOf(firstLine_);
+    return fmt::format("{}{}{}{}", parseFormLine(firstLine_).indent, kOneLevel, text, end);
 }
 
 void FormBlock::append(std::unique_ptr<Item> item) {
@@ -256,21 +144,6 @@ void FormBlock::appendBlock(std::shared_ptr<FormBlock> block) {
     if (block->kind() == Kind::Properties) item->key = basic::foldCase(block->name());
     item->block = std::move(block);
     append(std::move(item));
-}
-
-void FormBlock::writeTo(std::string& out) const {
-    out += firstLine_;
-    for (const auto& item : items_) {
-        out += item->line;
-        if (item->block) item->block->writeTo(out);
-    }
-    out += lastLine_;
-}
-
-std::size_t FormBlock::lineCount() const {
-    std::size_t count = (firstLine_.empty() ? 0 : 1) + (lastLine_.empty() ? 0 : 1);
-    for (const auto& item : items_) count += item->block ? item->block->lineCount() : 1;
-    return count;
 }
 
 } // namespace host

@@ -1,5 +1,5 @@
 #pragma once
-// A block of a form: Begin to End, or BeginProperty to EndProperty, as a tree over the lines of the file.
+// A block of a form (Begin to End, or BeginProperty to EndProperty) as a tree over the lines of the file.
 #include <functional>
 #include <memory>
 #include <optional>
@@ -10,8 +10,8 @@
 
 namespace host {
 
-/// Holds its own lines, so that writing it gives back what was read, and an edit touches only its line.
-/// Names of properties match without regard to case. Of a property that stands twice the last one counts.
+/// Holds its own lines, so unedited lines are written back as they were read. Property names are matched ignoring case.
+/// If a property occurs twice, the last one counts.
 class FormBlock {
 public:
     enum class Kind {
@@ -24,44 +24,44 @@ public:
 
     Kind kind() const { return kind_; }
     std::string_view name() const { return name_; }
-    /// The class ("VB.CommandButton"), for Properties the GUID; either may be missing.
+    /// The class ("VB.CommandButton"), or for Properties the GUID; may be empty.
     std::string_view type() const { return type_; }
     void name(std::string_view newName);
 
-    /// The literal of a property as it stands in the file.
+    /// Returns the literal of a property as written.
     std::optional<std::string> literal(std::string_view key) const;
-    /// The word behind the "'" of a property's line, "" for none.
+    /// Returns the word after "'" in a property's line, "" for none.
     std::string comment(std::string_view key) const;
-    /// Writes a literal and its comment (the word behind "'", empty for none). A property that is there keeps
-    /// its spelling, its layout and, with the same literal, its comment. A new one gets a line in the
-    /// designer's layout: in an Object in the alphabet's order, else at the end. True when the text changed.
+    /// Writes a literal and its comment. An existing property keeps its spelling and layout and, if the literal is the
+    /// same, its comment. A new one gets a line in the designer's layout: in alphabetical order in an Object, otherwise
+    /// at the end. Returns true if the text changed.
     bool set(std::string_view key, std::string_view literal, std::string_view comment = {});
-    /// Takes a property, or a nested Properties block, out. True when there was one.
+    /// Removes a property or a nested Properties block. Returns true if there was one.
     bool remove(std::string_view key);
-    /// True when the property was put there by `set`, not read from the file.
+    /// True if the property was added by `set` and not read from the file.
     bool wasAdded(std::string_view key) const;
     void eachProperty(const std::function<void(std::string_view key, std::string_view literal)>& see) const;
 
-    /// Each property of this block and of all within it, with its line; `line` is that of the block's first line and
-    /// then of the one behind its last.
+    /// Visits the properties of this block and of all blocks within it. `line` is the line number of the block's first
+    /// line and, on return, of the line after its last.
     using SeeLine =
         std::function<void(const FormBlock& owner, std::string_view key, std::string_view literal, std::size_t)>;
     void eachPropertyWithin(const SeeLine& see, std::size_t& line) const;
 
-    /// In this block and all within it, references to the resource file of one name become references to another.
-    /// True when the text changed.
+    /// Redirects references to a resource file, in this block and all blocks within it. Returns true if the text
+    /// changed.
     bool renameResources(std::string_view oldFile, std::string_view newFile);
 
-    /// The nested Properties block of a name, or null.
+    /// Returns a nested Properties block, or null.
     std::shared_ptr<FormBlock> properties(std::string_view name) const;
     std::shared_ptr<FormBlock> addProperties(std::string_view name, std::string_view guid = {});
     /// The nested Object blocks in the order of the file.
     Blocks objects() const;
-    /// A new Object block before the others, where the designer writes the topmost control.
+    /// Adds an Object block before the others, where the designer writes the topmost control.
     std::shared_ptr<FormBlock> addObject(std::string_view type, std::string_view name);
-    /// Takes a nested block out. Gives its place, nothing when it is not one of this block's own.
+    /// Removes a directly nested block. Returns its position, or nothing if there is no such block.
     std::optional<std::size_t> removeObject(const FormBlock& block);
-    /// Puts a nested block that was taken out back to its place, or to the end where that is gone.
+    /// Puts a removed block back at its position, or at the end if the block is shorter now.
     void restoreObject(std::shared_ptr<FormBlock> block, std::size_t place);
 
     void writeTo(std::string& out) const;

@@ -2,18 +2,16 @@
 #include "Basic/case_folding.h"
 #include "Host/files/encoding.h"
 #include "Host/files/form_line.h"
+#include "Host/files/form_reader.h"
 #include "Host/files/property_value.h"
 #include "Host/files/text_file.h"
+#include "Host/files/text_parts.h"
 #include <fmt/core.h>
 
 namespace host {
 namespace {
 
-using LineKind = FormLine::Kind;
-
-constexpr std::string_view kAttributeWord = "Attribute";
-
-/// `Attribute Name = literal` taken apart, as a property line whose key begins behind the first word.
+/// Parses `Attribute Name = literal` as a property line that begins after the first word.
 FormLine attributeParts(std::string_view line) {
     return beginsWithWord(line, kAttributeWord) ? parseFormLine(line.substr(kAttributeWord.size())) : FormLine{};
 }
@@ -25,146 +23,6 @@ std::string joinedFormLines(const std::vector<std::string>& lines) {
 }
 
 } // namespace
-
-/// Reads the head of one file.
-class FormReader {
-public:
-    FormReader(FormFile& file, std::string_view text) : file_(file), rest_(text) {}
-
-    void read() {
-        readBefore();
-        if (file_.root_) readBlock();
-        if (file_.root_) readBetween();
-        while (isAttribute(peek())) file_.attributes_.emplace_back(take());
-        file_.code_ = rest_;
-    }
-
-private:
-    std::string_view peek() const {
-        auto rest = rest_;
-        return rest.empty() ? rest : takeWholeLine(rest);
-    }
-    std::string_view take() {
-        ++line_;
-        return takeWholeLine(rest_);
-    }
-    static bool isAttribute(std::string_view line) { return beginsWithWord(line, kAttributeWord); }
-
-    void problem(std::size_t line, std::string text) {
-        if (file_.problems_.size() < FormFile::kMostProblems) file_.problems_.push_back({line, std::move(text)});
-    }
-
-    /// Up to and with the first Begin. Without a VERSION line only Object lines and Begin belong to the head.
-    void readBefore() {
-        bool versionSeen = false;
-        while (!rest_.empty() && !file_.root_) {
-            auto line = peek();
-            if (line_ == 0 && line.substr(0, 3) == kByteOrderMark) line.remove_prefix(3);
-            const auto parts = parseFormLine(line);
-            const bool version = beginsWithWord(line, "VERSION");
-            const bool object = parts.kind == LineKind::Property && basic::equalNoCase(parts.name, "Object");
-            const bool filler = parts.kind == LineKind::Blank || parts.kind == LineKind::Comment;
-            versionSeen = versionSeen || version;
-            if (parts.kind == LineKind::Begin) {
-                begin();
-            } else if (version || object || (filler && versionSeen)) {
-                file_.before_.emplace_back(take());
-            } else {
-                break;
-            }
-        }
-        if (versionSeen && !file_.root_) problem(line_, "The description of the form is missing.");
-    }
-
-    void begin() {
-        const auto line = take();
-        auto block = std::make_shared<FormBlock>(FormBlock::Kind::Object, std::string(line));
-        file_.root_ = block;
-        open_.push_back({std::move(block), line_});
-    }
-
-    void readBlock() {
-        while (!rest_.empty() && !open_.empty() && !isAttribute(peek())) readInside(take());
-        for (; !open_.empty(); leave()) problem(open_.back().line, "This block has no end.");
-    }
-
-    void readInside(std::string_view line) {
-        const auto parts = parseFormLine(line);
-        switch (parts.kind) {
-        case LineKind::Begin: return enter(FormBlock::Kind::Object, line);
-        case LineKind::BeginProperty: return enter(FormBlock::Kind::Properties, line);
-        case LineKind::End: return endObject(line);
-        case LineKind::EndProperty: return endProperties(line);
-        case LineKind::Other: problem(line_, "This line is neither a property nor a block."); break;
-        default: break;
-        }
-        open_.back().block->appendLine(line);
-    }
-
-    void enter(FormBlock::Kind kind, std::string_view line) {
-        if (open_.size() < FormFile::kDeepest) {
-            open_.push_back({std::make_shared<FormBlock>(kind, std::string(line)), line_});
-            return;
-        }
-        if (tooDeep_++ == 0) problem(line_, "Blocks are nested too deeply.");
-        open_.back().block->appendLine(line);
-    }
-
-    bool endsTooDeep(std::string_view line) {
-        if (tooDeep_ == 0) return false;
-        --tooDeep_;
-        open_.back().block->appendLine(line);
-        return true;
-    }
-
-    /// End closes what is open within its object too: there the EndProperty is missing.
-    void endObject(std::string_view line) {
-        if (endsTooDeep(line)) return;
-        for (; open_.back().block->kind() == FormBlock::Kind::Properties; leave())
-            problem(open_.back().line, "This block has no end.");
-        open_.back().block->close(line);
-        leave();
-    }
-
-    void endProperties(std::string_view line) {
-        if (endsTooDeep(line)) return;
-        if (open_.back().block->kind() == FormBlock::Kind::Properties) {
-            open_.back().block->close(line);
-            return leave();
-        }
-        problem(line_, "\"EndProperty\" without \"BeginProperty\".");
-        open_.back().block->appendLine(line);
-    }
-
-    void leave() {
-        auto closed = std::move(open_.back().block);
-        open_.pop_back();
-        if (!open_.empty()) open_.back().block->appendBlock(std::move(closed));
-    }
-
-    /// After an End too many the head goes on with lines of the form, up to its attributes.
-    void readBetween() {
-        auto ahead = rest_;
-        std::size_t count = 0;
-        for (; !ahead.empty(); ++count) {
-            const auto line = takeWholeLine(ahead);
-            if (isAttribute(line)) break;
-            if (parseFormLine(line).kind == LineKind::Other || ahead.empty()) return;
-        }
-        if (count > 0) problem(line_ + 1, "The form ends before this line.");
-        while (count-- > 0) file_.between_.emplace_back(take());
-    }
-
-    struct Open {
-        std::shared_ptr<FormBlock> block;
-        std::size_t line;
-    };
-    FormFile& file_;
-    std::string_view rest_;
-    std::size_t line_ = 0; // of the line taken last
-    std::vector<Open> open_;
-    std::size_t tooDeep_ = 0;
-};
 
 FormFile FormFile::parse(std::string_view text) {
     FormFile file;
@@ -184,10 +42,9 @@ std::size_t FormFile::firstCodeLine() const {
 
 std::string FormFile::version() const {
     for (std::string_view line : before_) {
-        if (line.substr(0, 3) == kByteOrderMark) line.remove_prefix(3);
-        if (!beginsWithWord(line, "VERSION")) continue;
-        const auto text = lineText(line).substr(8);
-        return std::string(text.substr(0, text.find_last_not_of(" \t") + 1));
+        line = withoutByteOrderMark(line);
+        if (!beginsWithWord(line, kVersionWord)) continue;
+        return std::string(trimRight(lineText(line).substr(kVersionWord.size() + 1)));
     }
     return {};
 }
@@ -196,11 +53,10 @@ std::vector<ObjectLine> FormFile::objects() const {
     std::vector<ObjectLine> out;
     for (const auto& line : before_) {
         const auto parts = parseFormLine(line);
-        if (parts.kind != LineKind::Property) continue;
+        if (parts.kind != FormLine::Kind::Property) continue;
         const auto semicolon = parts.value.find("\";");
         const auto first = semicolon == std::string_view::npos ? parts.value : parts.value.substr(0, semicolon + 1);
-        auto second = parts.value.substr(std::min(first.size() + 1, parts.value.size()));
-        second.remove_prefix(std::min(second.find_first_not_of(" \t"), second.size()));
+        const auto second = trimLeft(parts.value.substr(std::min(first.size() + 1, parts.value.size())));
         out.push_back({parsePropertyValue(first).string, parsePropertyValue(second).string});
     }
     return out;
@@ -213,9 +69,10 @@ void FormFile::addObject(const ObjectLine& line) {
         return;
     const auto text = fmt::format("Object = {}; {}{}", stringLiteral(line.library), stringLiteral(line.file),
                                   bytesOf(ownLineEnd(head())));
-    // behind the lines of its kind, which stand behind the version
+    // after the other Object lines, which follow the version
     auto at = before_.end();
-    while (at != before_.begin() && !beginsWithWord(*(at - 1), "Object") && !beginsWithWord(*(at - 1), "VERSION")) --at;
+    while (at != before_.begin() && !beginsWithWord(*(at - 1), "Object") && !beginsWithWord(*(at - 1), kVersionWord))
+        --at;
     before_.insert(at, text);
 }
 

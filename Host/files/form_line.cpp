@@ -2,27 +2,20 @@
 #include "Basic/case_folding.h"
 #include "Host/files/property_value.h"
 #include "Host/files/text_file.h"
+#include "Host/files/text_parts.h"
+#include <fmt/core.h>
 
 namespace host {
 namespace {
 
-constexpr std::string_view kFormBlanks = " \t";
+constexpr std::size_t kKeyWidth = 16, kBooleanWidth = 4;
+constexpr std::string_view kAfterEquals = "   ";
 
-std::string_view leftTrimmedText(std::string_view text) {
-    const auto first = text.find_first_not_of(kFormBlanks);
-    return first == std::string_view::npos ? text.substr(text.size()) : text.substr(first);
-}
-
-std::string_view rightTrimmedText(std::string_view text) {
-    const auto last = text.find_last_not_of(kFormBlanks);
-    return text.substr(0, last == std::string_view::npos ? 0 : last + 1);
-}
-
-/// The first word of `text`, taken from it together with the blanks behind.
+/// Removes the first word and the blanks after it from `text` and returns the word.
 std::string_view takeFormWord(std::string_view& text) {
-    const auto end = std::min(text.find_first_of(kFormBlanks), text.size());
+    const auto end = std::min(text.find_first_of(kBlanks), text.size());
     const auto word = text.substr(0, end);
-    text = leftTrimmedText(text.substr(end));
+    text = trimLeft(text.substr(end));
     return word;
 }
 
@@ -30,8 +23,8 @@ bool parseKeyword(FormLine& line, std::string_view body) {
     using Kind = FormLine::Kind;
     auto rest = body;
     const auto word = takeFormWord(rest);
-    rest = rightTrimmedText(rest);
-    if (rest.substr(0, 1) == "=") return false; // a property may be named like a keyword
+    rest = trimRight(rest);
+    if (rest.substr(0, 1) == "=") return false; // a property named like a keyword
     if (basic::equalNoCase(word, "Begin")) {
         line.kind = Kind::Begin;
         line.type = takeFormWord(rest);
@@ -50,18 +43,28 @@ bool parseKeyword(FormLine& line, std::string_view body) {
     return true;
 }
 
+/// Literal and comment as the designer writes them: Booleans are padded to 4 columns, others are followed by two
+/// blanks.
+std::string withComment(std::string_view literal, std::string_view comment) {
+    std::string out(literal);
+    if (comment.empty()) return out;
+    const bool boolean = comment == "True" || comment == "False";
+    out.append(boolean && out.size() < kBooleanWidth ? kBooleanWidth - out.size() : 2, ' ');
+    return out.append("'").append(comment);
+}
+
 void parseProperty(FormLine& line, std::string_view body) {
     const auto equals = body.find('=');
     if (equals == std::string_view::npos) return;
-    const auto key = rightTrimmedText(body.substr(0, equals));
+    const auto key = trimRight(body.substr(0, equals));
     if (key.empty() || key.find_first_of(" \t\"") != std::string_view::npos) return;
     line.kind = FormLine::Kind::Property;
     line.name = key;
-    auto rest = leftTrimmedText(body.substr(equals + 1));
+    auto rest = trimLeft(body.substr(equals + 1));
     line.value = rest.substr(0, literalLength(rest));
-    rest = leftTrimmedText(rest.substr(line.value.size()));
+    rest = trimLeft(rest.substr(line.value.size()));
     line.hasComment = !rest.empty() && rest[0] == '\'';
-    if (line.hasComment) line.comment = rightTrimmedText(rest.substr(1));
+    if (line.hasComment) line.comment = trimRight(rest.substr(1));
 }
 
 } // namespace
@@ -81,7 +84,7 @@ std::string_view lineText(std::string_view wholeLine) {
 FormLine parseFormLine(std::string_view whole) {
     FormLine line;
     const auto text = lineText(whole);
-    const auto body = leftTrimmedText(text);
+    const auto body = trimLeft(text);
     line.indent = text.substr(0, text.size() - body.size());
     if (body.empty()) {
         line.kind = FormLine::Kind::Blank;
@@ -93,9 +96,27 @@ FormLine parseFormLine(std::string_view whole) {
     return line;
 }
 
+std::string_view lineEndOf(std::string_view wholeLine) { return wholeLine.substr(lineText(wholeLine).size()); }
+
+std::string propertyLineText(std::string_view key, std::string_view literal, std::string_view comment) {
+    return fmt::format("{:<{}}={}{}", key, kKeyWidth, kAfterEquals, withComment(literal, comment));
+}
+
+std::string blockLineText(std::string_view keyword, std::string_view first, std::string_view second) {
+    return fmt::format("{} {} {}{}", keyword, first, second, second.empty() ? "" : " ");
+}
+
+std::string rewrittenLine(std::string_view whole, std::string_view literal, std::string_view comment) {
+    const auto value = parseFormLine(whole).value;
+    std::string out(value.empty() ? whole.substr(0, whole.find('=') + 1)
+                                  : whole.substr(0, std::size_t(value.data() - whole.data())));
+    if (value.empty()) out += kAfterEquals;
+    return out.append(withComment(literal, comment)).append(lineEndOf(whole));
+}
+
 bool beginsWithWord(std::string_view line, std::string_view word) {
     return line.size() > word.size() && basic::equalNoCase(line.substr(0, word.size()), word) &&
-           kFormBlanks.find(line[word.size()]) != std::string_view::npos;
+           kBlanks.find(line[word.size()]) != std::string_view::npos;
 }
 
 } // namespace host

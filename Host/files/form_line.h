@@ -1,18 +1,18 @@
 #pragma once
-// One line of the head of a form or class file: what kind it is and where its pieces stand.
+// One line of the head of a form or class file: how it is read and written.
 #include <string>
 #include <string_view>
 
 namespace host {
 
-/// The next line of `rest` together with its line end, taken from it. `rest` must not be empty.
+/// Removes the first line from `rest` and returns it with its line end. `rest` must not be empty.
 std::string_view takeWholeLine(std::string_view& rest);
 
-/// The line without its end.
 std::string_view lineText(std::string_view wholeLine);
+std::string_view lineEndOf(std::string_view wholeLine);
 
-/// A head line taken apart. All pieces are views into the line. Blanks and tabs may stand anywhere and are
-/// no sign of depth: nesting goes by the keywords alone, since hand-merged files are indented at will.
+/// The parts of a line, as views into it. Nesting depends on the keywords alone: hand-merged files have any
+/// indentation.
 struct FormLine {
     enum class Kind { Blank, Comment, Begin, BeginProperty, End, EndProperty, Property, Other };
 
@@ -21,13 +21,20 @@ struct FormLine {
     std::string_view name;    ///< Property: its key. BeginProperty: its name. Begin: the name of the object.
     std::string_view type;    ///< Begin: the class. BeginProperty: the GUID, if there is one.
     std::string_view value;   ///< Property: the literal
-    std::string_view comment; ///< Property: what stands behind the "'", which may be empty
+    std::string_view comment; ///< Property: the text after "'", possibly empty
     bool hasComment = false;
 };
 
 FormLine parseFormLine(std::string_view line);
 
-/// True when the line begins with `word` and a blank, at its first column.
+/// True if the line begins with `word` and a blank, at its first column.
 bool beginsWithWord(std::string_view line, std::string_view word);
+
+/// The text of a property line in the designer's layout, without indentation and line end.
+std::string propertyLineText(std::string_view key, std::string_view literal, std::string_view comment);
+/// The text of the first line of a block, without indentation and line end. `second` may be empty.
+std::string blockLineText(std::string_view keyword, std::string_view first, std::string_view second);
+/// The property line with another literal and comment in the same layout.
+std::string rewrittenLine(std::string_view wholeLine, std::string_view literal, std::string_view comment);
 
 } // namespace host

@@ -1,7 +1,7 @@
 #include "Host/files/group_file.h"
 #include "Basic/case_folding.h"
 #include "Host/files/encoding.h"
-#include "Host/files/trim.h"
+#include "Host/files/text_parts.h"
 
 namespace host {
 
@@ -18,8 +18,8 @@ GroupFile::GroupFile(std::string_view bytes, const basic::CodePage& codePage) : 
 }
 
 bool GroupFile::looksLikeGroup(std::string_view bytes) noexcept {
-    if (bytes.substr(0, kByteOrderMark.size()) == kByteOrderMark) bytes.remove_prefix(kByteOrderMark.size());
     constexpr std::string_view kHead = "VBGROUP";
+    bytes = withoutByteOrderMark(bytes);
     return basic::equalNoCase(trimBlanks(bytes.substr(0, kHead.size())), kHead);
 }
 

@@ -1,5 +1,5 @@
 #pragma once
-// A project group (.vbg): the projects that are open together.
+// A project group (.vbg): projects that are opened together.
 #include "Basic/code_page.h"
 #include "Host/files/text_file.h"
 #include <string>
@@ -9,17 +9,17 @@
 namespace host {
 
 struct GroupEntry {
-    std::string path; ///< relative to the group's folder, with "\" as it is written
+    std::string path; ///< as written: relative to the group's folder, with "\"
     bool startUp = false;
     std::size_t line = 0; ///< from 1
 };
 
 class GroupFile {
 public:
-    /// Takes any bytes; lines that list no project are kept.
+    /// Takes any bytes and keeps lines that do not list a project.
     GroupFile(std::string_view bytes, const basic::CodePage& codePage);
 
-    /// True when the bytes begin as a group does.
+    /// True if the bytes begin like a group.
     static bool looksLikeGroup(std::string_view bytes) noexcept;
 
     std::string bytes() const { return joinLines(lines_); }

@@ -9,14 +9,14 @@ namespace {
 constexpr int kInvalidJournal = 321;
 constexpr std::string_view kFirstLine = "Fernwick journal 1\n";
 
-/// Of a journal's own, so that a journal of one build is read by the next one: FNV-1a of 64 bits.
+/// 64-bit FNV-1a; std::hash may differ between builds, and journals outlive the build that wrote them.
 std::uint64_t checkSumOf(std::string_view bytes) noexcept {
     std::uint64_t sum = 0xcbf29ce484222325U;
     for (const char c : bytes) sum = (sum ^ static_cast<unsigned char>(c)) * 0x100000001b3U;
     return sum;
 }
 
-/// On one line.
+/// The text on one line.
 std::string escaped(std::string_view text) {
     std::string line;
     for (const char c : text) {
@@ -47,11 +47,11 @@ std::string formatStamp(const std::optional<FileStamp>& stamp) {
 
 [[noreturn]] void refuse(std::string_view why) { throw hostError(kInvalidJournal, std::string(why)); }
 
-/// Takes the parts of a journal off its front.
+/// Reads the parts of a journal in order.
 class JournalReader {
 public:
     explicit JournalReader(std::string_view bytes) : rest_(bytes) {
-        if (!rest_.starts_with(kFirstLine)) refuse("is no journal of this version");
+        if (!rest_.starts_with(kFirstLine)) refuse("is not a journal of this version");
         rest_.remove_prefix(kFirstLine.size());
     }
 
@@ -67,7 +67,7 @@ public:
     Number number(std::string_view key, int base = 10) {
         auto value = line(key);
         const auto result = takeNumber<Number>(value, base);
-        if (!value.empty()) refuse(fmt::format("has a line {} that is no number", key));
+        if (!value.empty()) refuse(fmt::format("has a line {} that is not a number", key));
         return result;
     }
     std::optional<FileStamp> stamp(std::string_view key) {
@@ -89,7 +89,7 @@ private:
     static Number takeNumber(std::string_view& from, int base = 10) {
         Number number = 0;
         const auto [end, failed] = std::from_chars(from.data(), from.data() + from.size(), number, base);
-        if (failed != std::errc()) refuse("has a number that is none");
+        if (failed != std::errc()) refuse("has a malformed number");
         from.remove_prefix(std::size_t(end - from.data()));
         if (!from.empty() && from.front() == ' ') from.remove_prefix(1);
         return number;
@@ -122,7 +122,7 @@ JournalEntry decodeJournal(std::string_view bytes) {
     const auto size = reader.number<std::uint64_t>("Size=");
     reader.line("");
     if (reader.rest().size() < size) refuse(fmt::format("ends after {} of {} bytes", reader.rest().size(), size));
-    if (!asWritten || reader.rest().size() > size) refuse("is damaged: its check sum is another one");
+    if (!asWritten || reader.rest().size() > size) refuse("is damaged: its checksum does not match");
     entry.bytes = reader.rest();
     return entry;
 }

@@ -1,5 +1,5 @@
 #pragma once
-// A journal: the text of a source file that was not saved yet, as a file of its own that outlives a crash.
+// A journal: a file with the unsaved text of a source file, for recovery after a crash.
 #include "Host/files/text_file.h"
 #include <cstdint>
 #include <optional>
@@ -9,21 +9,21 @@
 namespace host {
 
 struct JournalEntry {
-    std::string project;   ///< the project's file, native; "" for a project that was never saved
+    std::string project;   ///< the native path of the project's file; "" if it was never saved
     std::string component; ///< its name
     int type = 0;          ///< a vbext_ComponentType
-    std::string file;      ///< the component's file, native; "" for one that was never saved
-    /// The file that the text was made from, as it was read. A new component has none.
+    std::string file;      ///< the native path of the component's file; "" if it was never saved
+    /// The file that the text was based on, as it was read. A new component has none.
     std::optional<FileStamp> base;
     std::int64_t written = 0; ///< when, in seconds since 1970, UTC
-    std::string bytes;        ///< the whole source file as a save would have written it
+    std::string bytes;        ///< the whole source file as a save would write it
 };
 
-/// The bytes of a journal file. All texts come back as they were, whatever characters they hold.
+/// Returns the bytes of a journal file. Any text can be encoded and is restored exactly.
 std::string encodeJournal(const JournalEntry& entry);
 
-/// Reads what encodeJournal made. Error 321, which says what is wrong, for anything else: other bytes, a part that is
-/// missing, or a single byte that is not as it was written.
+/// Reads the output of encodeJournal. Error 321 with the reason for anything else: other files, missing parts, and any
+/// changed byte.
 JournalEntry decodeJournal(std::string_view bytes);
 
 } // namespace host

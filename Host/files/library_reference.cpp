@@ -1,8 +1,7 @@
 #include "Host/files/library_reference.h"
 #include "Basic/case_folding.h"
-#include "Host/files/trim.h"
-#include <algorithm>
-#include <cctype>
+#include "Basic/guid.h"
+#include "Host/files/text_parts.h"
 #include <charconv>
 #include <fmt/format.h>
 
@@ -17,22 +16,17 @@ bool takePrefix(std::string_view& text, std::string_view prefix) noexcept {
     return true;
 }
 
-/// Takes what stands before the next `separator`; all that is left where there is none.
-std::string_view takeField(std::string_view& rest, char separator) noexcept {
-    const auto at = rest.find(separator);
-    const auto field = rest.substr(0, at);
-    rest = at == std::string_view::npos ? std::string_view{} : rest.substr(at + 1);
-    return field;
-}
-
 bool readHex(std::string_view text, std::uint32_t& number) noexcept {
     const auto result = std::from_chars(text.data(), text.data() + text.size(), number, 16);
     return result.ec == std::errc{} && result.ptr == text.data() + text.size();
 }
 
 bool readVersion(std::string_view text, LibraryReference& reference) noexcept {
-    const auto major = takeField(text, '.');
-    return readHex(major, reference.major) && readHex(text, reference.minor);
+    const auto version = parseLibraryVersion(text);
+    if (!version) return false;
+    reference.major = version->major;
+    reference.minor = version->minor;
+    return true;
 }
 
 LibraryReference unknownReference(std::string_view value) {
@@ -48,22 +42,18 @@ LibraryReference projectReference(RefKind kind, std::string_view path) {
     return reference;
 }
 
-bool isGuidCharacter(std::string_view text, std::size_t at) noexcept {
-    const bool dash = at == 8 || at == 13 || at == 18 || at == 23;
-    return dash ? text[at] == '-' : std::isxdigit(static_cast<unsigned char>(text[at])) != 0;
-}
-
 } // namespace
 
 std::string normalGuid(std::string_view text) {
-    constexpr std::size_t kGuidLength = 36;
-    if (text.size() == kGuidLength + 2 && text.front() == '{' && text.back() == '}') text = text.substr(1, kGuidLength);
-    if (text.size() != kGuidLength) return {};
-    for (std::size_t at = 0; at < kGuidLength; ++at)
-        if (!isGuidCharacter(text, at)) return {};
-    std::string guid(text);
-    std::transform(guid.begin(), guid.end(), guid.begin(), [](unsigned char c) { return char(std::toupper(c)); });
-    return "{" + guid + "}";
+    const auto guid = basic::parseGuid(text);
+    return guid ? basic::guidText(*guid) : std::string();
+}
+
+std::optional<LibraryVersion> parseLibraryVersion(std::string_view text) noexcept {
+    LibraryVersion version;
+    const auto major = takeField(text, '.');
+    if (!readHex(major, version.major) || !readHex(text, version.minor)) return {};
+    return version;
 }
 
 LibraryReference parseReferenceLine(std::string_view value) {

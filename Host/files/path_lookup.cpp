@@ -1,5 +1,6 @@
 #include "Host/files/path_lookup.h"
 #include "Basic/case_folding.h"
+#include "Host/files/native_path.h"
 #include <algorithm>
 #include <filesystem>
 #include <system_error>
@@ -10,18 +11,12 @@ namespace {
 
 bool isSeparator(char c) noexcept { return c == '\\' || c == '/'; }
 
-std::string joinPath(const std::string& folder, std::string_view name) {
-    std::string path = folder;
-    if (path.empty() || path.back() != '/') path += '/';
-    return path.append(name);
-}
-
 std::string parentOf(const std::string& folder) {
-    const auto slash = folder.rfind('/');
-    return slash == std::string::npos || slash == 0 ? "/" : folder.substr(0, slash);
+    auto parent = folderOf(folder);
+    return parent.empty() ? "/" : parent;
 }
 
-bool isThere(const std::string& path) noexcept { return ::access(path.c_str(), F_OK) == 0; }
+bool exists(const std::string& path) noexcept { return ::access(path.c_str(), F_OK) == 0; }
 
 } // namespace
 
@@ -39,11 +34,11 @@ std::string PathLookup::find(const std::string& folder, std::string_view written
 }
 
 std::string PathLookup::childOf(const std::string& folder, std::string_view name) {
-    const auto exact = joinPath(folder, name);
-    if (isThere(exact)) return exact;
+    const auto exact = pathIn(folder, name);
+    if (exists(exact)) return exact;
     const auto& names = namesIn(folder);
     const auto found = names.find(basic::foldCase(name));
-    return found == names.end() ? exact : joinPath(folder, found->second);
+    return found == names.end() ? exact : pathIn(folder, found->second);
 }
 
 const PathLookup::Names& PathLookup::namesIn(const std::string& folder) {
@@ -53,14 +48,14 @@ const PathLookup::Names& PathLookup::namesIn(const std::string& folder) {
     for (std::filesystem::directory_iterator file(folder, error), end; !error && file != end; file.increment(error)) {
         const auto name = file->path().filename().string();
         auto& kept = entry->second[basic::foldCase(name)];
-        if (kept.empty() || name < kept) kept = name; // one and the same of several, whatever order the folder gives
+        if (kept.empty() || name < kept) kept = name; // independent of the order in which the folder is listed
     }
     return entry->second;
 }
 
 std::string absolutePath(const std::string& path) {
     auto native = path.empty() ? path : std::filesystem::absolute(path).lexically_normal().string();
-    if (path.empty() || isThere(native)) return native;
+    if (path.empty() || exists(native)) return native;
     std::error_code ignored;
     const auto folder = isSeparator(path.front()) ? std::string("/") : std::filesystem::current_path(ignored).string();
     return PathLookup().find(folder, path);

@@ -1,18 +1,18 @@
 #pragma once
-// Names of files as projects write them, found on this machine.
+// Finds the files that projects name.
 #include <string>
 #include <string_view>
 #include <unordered_map>
 
 namespace host {
 
-/// Finds files for the paths of one project or group. It remembers the folders that it has listed, so it is made anew for
-/// each load and not kept.
+/// Finds files for the paths of one project or group. It caches folder listings, so create one for each load and do not
+/// keep it.
 class PathLookup {
 public:
-    /// The native, canonical path of a file written relative to `folder` with "\" or "/" (a leading separator makes it
-    /// absolute), in UTF-8. A name that is not there exactly is found without regard to letter case, name by name;
-    /// what is found neither way is joined as it is written.
+    /// Returns the native, canonical path of a file written relative to `folder` with "\" or "/", in UTF-8; a leading
+    /// separator makes it absolute. A name without an exact match is looked up ignoring letter case. Names that are not
+    /// found at all are joined as written.
     std::string find(const std::string& folder, std::string_view written);
 
 private:
@@ -23,10 +23,10 @@ private:
     std::unordered_map<std::string, Names> listed_;
 };
 
-/// A path as it is given (native, or with "\\" and in another letter case when there is no such file), made absolute.
+/// Makes a path absolute. If no such file exists, it is looked up with "\" as separator and ignoring letter case.
 std::string absolutePath(const std::string& path);
 
-/// A native path as a project in `folder` (native, canonical) writes it: relative where both lie on the same way, with "\".
+/// Returns a native path as a project in `folder` (native, canonical) writes it: relative if possible, with "\".
 std::string writtenPath(const std::string& folder, const std::string& path);
 
 } // namespace host

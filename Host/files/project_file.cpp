@@ -1,67 +1,10 @@
 #include "Host/files/project_file.h"
 #include "Basic/case_folding.h"
-#include "Host/files/encoding.h"
-#include "Host/files/system_error.h"
-#include "Host/files/trim.h"
+#include "Host/files/project_line.h"
+#include "Host/files/text_parts.h"
 #include <fmt/format.h>
 
 namespace host {
-namespace {
-
-/// The name of a section when `line` is its head.
-std::optional<std::string_view> sectionHead(std::string_view line) noexcept {
-    line = trimBlanks(line);
-    if (line.size() < 3 || line.front() != '[' || line.back() != ']') return {};
-    return trimBlanks(line.substr(1, line.size() - 2));
-}
-
-struct KeyAndValue {
-    std::string_view key, value;
-};
-
-std::optional<KeyAndValue> splitKeyLine(std::string_view line) noexcept {
-    if (line.substr(0, kByteOrderMark.size()) == kByteOrderMark) line.remove_prefix(kByteOrderMark.size());
-    const auto at = line.find('=');
-    if (at == std::string_view::npos) return {};
-    return KeyAndValue{trimBlanks(line.substr(0, at)), line.substr(at + 1)};
-}
-
-std::string_view valueOf(const TextLine& line) noexcept {
-    const auto parts = splitKeyLine(line.text);
-    return parts ? parts->value : std::string_view{};
-}
-
-/// The delimiter round a setting's value: a quote, or the "!" that one tool writes in its stead; 0 for none.
-char delimiterOf(std::string_view value) noexcept {
-    if (value.size() < 2 || value.front() != value.back()) return 0;
-    return value.front() == '"' || value.front() == '!' ? value.front() : char(0);
-}
-
-std::string delimited(std::string_view value, char delimiter) {
-    std::string text(value);
-    if (delimiter) text.insert(0, 1, delimiter).push_back(delimiter);
-    return text;
-}
-
-void refuseLineBreak(std::string_view text) {
-    if (text.find_first_of("\r\n") != std::string_view::npos)
-        throw hostError(basic::kInvalidProcedureCall, "A value of a project file cannot hold a line break");
-}
-
-void refuseUnreadableName(std::string_view section, std::string_view key) {
-    const bool unreadable = trimBlanks(section).empty() || trimBlanks(key).empty() ||
-                            key.find('=') != std::string_view::npos || trimBlanks(key).front() == '[';
-    if (unreadable)
-        throw hostError(basic::kInvalidProcedureCall,
-                        fmt::format("A project file cannot hold the key \"{}\" of section \"{}\"", key, section));
-}
-
-std::string memberValue(MemberKind kind, std::string_view name, std::string_view value) {
-    return lineHoldsName(kind) && !name.empty() ? fmt::format("{}; {}", name, value) : std::string(value);
-}
-
-} // namespace
-
 ProjectFile::ProjectFile(std::string_view bytes, basic::CodePage codePage)
     : codePage_(std::move(codePage)), ownEnd_(ownLineEnd(bytes)) {
     Section* current = nullptr;
@@ -119,13 +62,13 @@ ProjectFile::Place ProjectFile::insertAfter(std::optional<Place> line, std::stri
     return lines_.insert(line ? std::next(*line) : lines_.begin(), TextLine{std::move(text), ownEnd_});
 }
 
-// ---- settings ----------------------------------------------------------------------------------------------------------
+// ---- settings -------------------------------------------------------------------------------------------------------
 
 std::optional<std::string> ProjectFile::setting(std::string_view key) const {
     const auto found = settings_.find(basic::foldCase(key));
     if (found == settings_.end()) return {};
     auto value = trimBlanks(valueOf(*found->second));
-    if (delimiterOf(value)) value = value.substr(1, value.size() - 2);
+    if (delimiterAround(value)) value = value.substr(1, value.size() - 2);
     return codePage_.decode(value);
 }
 
@@ -140,8 +83,8 @@ void ProjectFile::setSetting(std::string_view key, std::string_view value) {
     refuseLineBreak(value);
     auto& text = found->second->text;
     const auto old = trimBlanks(valueOf(*found->second));
-    const auto stands = delimiterOf(old);
-    const auto written = codePage_.encode(delimited(value, stands ? stands : usual));
+    const auto present = delimiterAround(old);
+    const auto written = codePage_.encode(delimited(value, present ? present : usual));
     text.replace(std::size_t(old.data() - text.data()), old.size(), written);
 }
 
@@ -154,7 +97,7 @@ void ProjectFile::addSetting(std::size_t order, std::string_view key, std::strin
     known_ = true;
 }
 
-/// The line behind which an absent setting of this order goes: its nearest predecessor, else the last member, else the type.
+/// The line after which to insert a missing setting: its nearest predecessor, else the last member, else the type.
 std::optional<ProjectFile::Place> ProjectFile::lineBefore(std::size_t order) const {
     if (order == kSettingOrder.size() && lastSetting_) return lastSetting_;
     for (auto before = order; before-- > 1;)
@@ -169,7 +112,7 @@ std::optional<ProjectFile::Place> ProjectFile::typeLine() const {
     return type == settings_.end() ? std::nullopt : std::optional(type->second);
 }
 
-// ---- members -----------------------------------------------------------------------------------------------------------
+// ---- members --------------------------------------------------------------------------------------------------------
 
 std::vector<ProjectFile::Member> ProjectFile::members() {
     std::vector<Member> members;
@@ -193,7 +136,7 @@ std::vector<ProjectFile::Member> ProjectFile::members() {
 }
 
 ProjectFile::Place ProjectFile::addMember(MemberKind kind, std::string_view name, std::string_view value) {
-    auto line = lineOf(keyOfMemberKind(kind), memberValue(kind, name, value));
+    auto line = lineOf(keyOfMemberKind(kind), memberLineValue(kind, name, value));
     lastMember_ = insertAfter(lastMember_ ? lastMember_ : typeLine(), std::move(line));
     known_ = true;
     return *lastMember_;
@@ -202,7 +145,7 @@ ProjectFile::Place ProjectFile::addMember(MemberKind kind, std::string_view name
 void ProjectFile::setMember(Place member, std::string_view name, std::string_view value) {
     const auto key = splitKeyLine(member->text)->key;
     const auto kind = *memberKindOfKey(key);
-    member->text = lineOf(key, memberValue(kind, name, value));
+    member->text = lineOf(key, memberLineValue(kind, name, value));
 }
 
 void ProjectFile::removeMember(Place member) {
@@ -214,46 +157,6 @@ void ProjectFile::removeMember(Place member) {
         const auto parts = splitKeyLine((--before)->text);
         if (parts && memberKindOfKey(parts->key)) lastMember_ = before;
     }
-}
-
-// ---- sections ----------------------------------------------------------------------------------------------------------
-
-std::string ProjectFile::readProperty(std::string_view section, std::string_view key) const {
-    if (const auto found = sections_.find(basic::foldCase(trimBlanks(section))); found != sections_.end())
-        if (const auto value = found->second.values.find(basic::foldCase(trimBlanks(key)));
-            value != found->second.values.end())
-            return codePage_.decode(valueOf(*value->second));
-    throw hostError(basic::kInvalidProcedureCall);
-}
-
-bool ProjectFile::writeProperty(std::string_view section, std::string_view key, std::string_view value) {
-    refuseLineBreak(section);
-    refuseUnreadableName(section, key);
-    auto line = lineOf(key, value);
-    const auto head = codePage_.encode(fmt::format("[{}]", section));
-    auto found = sections_.find(basic::foldCase(trimBlanks(section)));
-    if (found == sections_.end()) {
-        const auto place = appendSection(head);
-        found = sections_.emplace(basic::foldCase(trimBlanks(section)), Section{place, {}}).first;
-    }
-    auto& [last, values] = found->second;
-    if (const auto old = values.find(basic::foldCase(trimBlanks(key))); old != values.end()) {
-        auto& text = old->second->text;
-        const auto written = line.substr(line.find('=') + 1);
-        if (valueOf(*old->second) == written) return false;
-        text.replace(text.find('=') + 1, std::string::npos, written);
-        return true;
-    }
-    last = insertAfter(last, std::move(line));
-    values.emplace(basic::foldCase(trimBlanks(key)), last);
-    return true;
-}
-
-ProjectFile::Place ProjectFile::appendSection(std::string_view head) {
-    std::optional<Place> last;
-    if (!lines_.empty()) last = std::prev(lines_.end());
-    if (last && !trimBlanks((*last)->text).empty()) last = insertAfter(last, {});
-    return insertAfter(last, std::string(head));
 }
 
 } // namespace host

@@ -1,5 +1,5 @@
 #pragma once
-// The keys of a project file (.vbp): its members and its settings, in the order in which the IDE writes settings.
+// The keys of a project file (.vbp): members, and settings in the order in which the IDE writes them.
 // Source: counted in real project files; Microsoft, "Project File (.vbp) Format", Visual Basic Concepts.
 #include <array>
 #include <optional>
@@ -7,7 +7,7 @@
 
 namespace host {
 
-/// What a member line lists. Members stand before the settings, in the order of their insertion.
+/// The kind of a member line. Members precede the settings, in the order of their insertion.
 enum class MemberKind {
     Reference,
     Object,
@@ -21,11 +21,11 @@ enum class MemberKind {
     RelatedDoc,
 };
 
-/// The kind that a key (in any letter case) lists; nothing for a setting or an unknown key.
+/// Returns the kind of a key, ignoring case; nothing for a setting or an unknown key.
 std::optional<MemberKind> memberKindOfKey(std::string_view key) noexcept;
 std::string_view keyOfMemberKind(MemberKind kind) noexcept;
 
-/// True for the kinds whose line is "Name; path" rather than a bare path.
+/// True for the kinds whose line is "Name; path" and not only a path.
 bool lineHoldsName(MemberKind kind) noexcept;
 
 /// True for the kinds that are components of the project: all but references, controls and related documents.
@@ -39,7 +39,7 @@ struct SettingKey {
 /// All known settings in the order in which the IDE writes them. "Type" is first, before the members.
 extern const std::array<SettingKey, 49> kSettingOrder;
 
-/// The place in kSettingOrder of a key in any letter case; nothing for an unknown key.
+/// Returns the position of a key in kSettingOrder, ignoring case; nothing for an unknown key.
 std::optional<std::size_t> placeOfSetting(std::string_view key) noexcept;
 
 } // namespace host

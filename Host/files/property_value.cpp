@@ -1,4 +1,5 @@
 #include "Host/files/property_value.h"
+#include "Basic/guid.h"
 #include <charconv>
 #include <cmath>
 #include <fmt/core.h>
@@ -8,7 +9,7 @@ namespace {
 
 constexpr auto kNowhere = std::string_view::npos;
 
-/// The position behind the closing quote of the string that begins at `quote`, or npos.
+/// The position after the closing quote of the string that begins at `quote`, or npos.
 std::size_t endOfString(std::string_view text, std::size_t quote) {
     for (std::size_t at = quote + 1;;) {
         at = text.find('"', at);
@@ -30,7 +31,7 @@ std::string undoubled(std::string_view inner) {
 
 bool isHexDigit(char c) { return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'F') || (c >= 'a' && c <= 'f'); }
 
-/// The hexadecimal digits that `text` begins with, or false when there are none or they exceed T.
+/// Reads the hexadecimal digits at the start of `text`. Returns false if there are none or they exceed T.
 template <class T>
 bool readHex(std::string_view text, T& value, std::size_t& length) {
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value, 16);
@@ -94,14 +95,7 @@ bool isShortcut(std::string_view literal) {
     return key > 0 && literal.size() == key + 1;
 }
 
-bool isGuid(std::string_view literal) {
-    if (literal.size() != 38 || literal.front() != '{' || literal.back() != '}') return false;
-    for (std::size_t i = 1; i < 37; ++i) {
-        const bool dash = i == 9 || i == 14 || i == 19 || i == 24;
-        if (dash ? literal[i] != '-' : !isHexDigit(literal[i])) return false;
-    }
-    return true;
-}
+bool isGuid(std::string_view literal) { return literal.front() == '{' && basic::parseGuid(literal); }
 
 } // namespace
 

@@ -9,7 +9,7 @@ constexpr std::string_view kPictureMark{"lt\0\0", 4};
 /// {0BE35204-8F91-11CE-9DE3-00AA004BB851}, the class of a standard picture.
 constexpr std::string_view kPictureClass{"\x04\x52\xE3\x0B\x91\x8F\xCE\x11\x9D\xE3\x00\xAA\x00\x4B\xB8\x51", 16};
 
-/// Takes integers and bytes from a record. What goes beyond the bytes marks the record as bad and gives nothing.
+/// Reads integers and bytes from a record. A read beyond the end marks the record as bad and returns nothing.
 class RecordReader {
 public:
     RecordReader(std::string_view bytes, std::size_t offset) : good_(offset < bytes.size()) {
@@ -37,7 +37,7 @@ private:
     bool good_;
 };
 
-/// The value when the record was sound, else the default with a warning.
+/// The value if the record is sound, otherwise the default with a warning.
 template <class T>
 Resource<T> resourceRead(const RecordReader& reader, T value, const char* kind, std::size_t offset) {
     if (reader.good()) return {std::move(value), {}};
@@ -57,7 +57,7 @@ std::vector<std::string_view> takeList(RecordReader& reader) {
     return items;
 }
 
-/// A property page's name comes with a NUL at its end.
+/// The name of a property page ends with NUL.
 std::string_view takePage(RecordReader& reader) {
     auto page = reader.take(reader.integer(2));
     if (page.empty() || page.back() != '\0') {

@@ -1,5 +1,5 @@
 #pragma once
-// The binary companion of a form: .frx .ctx .pgx .dsx. Records back to back, no header; the kind of a record
+// The binary companion of a form: .frx .ctx .pgx .dsx. It has consecutive records and no header; the kind of a record
 // is known only from the property that refers to it.
 #include <cstdint>
 #include <string>
@@ -8,32 +8,31 @@
 
 namespace host {
 
-/// What a record holds, or the type's default and the reason why it could not be read.
+/// The content of a record, or the type's default and the reason why it could not be read.
 template <class T>
 struct Resource {
     T value{};
-    std::string warning; ///< "" when the record is sound
+    std::string warning; ///< "" if the record is sound
     explicit operator bool() const { return warning.empty(); }
 };
 
-/// Reads records out of bytes that are kept as they are. Offsets and lengths come from files that are often
-/// stale (the form was copied, the companion is from another day), so each is checked against the bytes that
-/// are there and none decides how much memory is taken. Texts are in the code page of the project; all views
-/// are into this object's bytes. Integers are little-endian.
+/// Reads records from the bytes of a companion. Offsets and lengths come from files that are often stale (a copied
+/// form, an older companion), so each is checked against the size of the file and none is used to allocate memory.
+/// Texts are in the code page of the project; all views point into this object's bytes. Integers are little-endian.
 class ResourceFile {
 public:
     explicit ResourceFile(std::string bytes) : bytes_(std::move(bytes)) {}
     const std::string& bytes() const { return bytes_; }
 
-    /// A picture or icon: the original image file's bytes, "" for an empty picture. Both layouts: of the
-    /// language's own objects (u32 n+8, "lt", u32 n) and of a property bag (with a CLSID before the "lt").
+    /// Returns the image file of a picture or icon, "" for an empty picture. There are two layouts: that of built-in
+    /// objects (u32 n+8, "lt", u32 n) and that of a property bag (with a CLSID before the "lt").
     Resource<std::string_view> picture(std::size_t offset) const;
     /// The string of a `$"file":offset` reference: u32 length, bytes.
     Resource<std::string_view> string(std::size_t offset) const;
     /// The text of a multi-line text box: u8 length, or 255 and u16 length, bytes.
     Resource<std::string_view> text(std::size_t offset) const;
     /// The items of a list box: u16 count, u16 hint, count times (u16 length, bytes); an empty list may have no
-    /// hint. No item is longer than the hint, which tells a list from other bytes.
+    /// hint. No item is longer than the hint, which distinguishes a list from other bytes.
     Resource<std::vector<std::string_view>> list(std::size_t offset) const;
     /// The numbers of a list box's items: a list of decimal texts.
     Resource<std::vector<std::int32_t>> itemData(std::size_t offset) const;

@@ -1,4 +1,5 @@
 #include "Host/files/text_file.h"
+#include "Host/files/native_path.h"
 #include "Host/files/system_error.h"
 #include <algorithm>
 #include <cerrno>
@@ -12,10 +13,9 @@ namespace host {
 namespace {
 
 [[noreturn]] void refuseToOpen(int error, const std::string& path) {
-    const auto slash = path.rfind('/');
-    const bool folderMissing = error == ENOENT && slash != std::string::npos && slash > 0 &&
-                               ::access(path.substr(0, slash).c_str(), F_OK) != 0;
-    if (folderMissing) throw missingFolder("cannot be opened", path);
+    const auto folder = folderOf(path);
+    if (error == ENOENT && !folder.empty() && ::access(folder.c_str(), F_OK) != 0)
+        throw missingFolder("cannot be opened", path);
     throw systemError(error, "cannot be opened", path);
 }
 

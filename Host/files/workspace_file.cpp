@@ -1,5 +1,5 @@
 #include "Host/files/workspace_file.h"
-#include "Host/files/trim.h"
+#include "Host/files/text_parts.h"
 #include <charconv>
 
 namespace host {
@@ -20,7 +20,7 @@ bool readCoordinate(std::string_view text, int& number) noexcept {
     return result.ec == std::errc{} && result.ptr == text.data() + text.size();
 }
 
-/// Five fields from `first` on; nothing when they are no window's place.
+/// Reads five fields from `first` on; nothing if they are not a window's place.
 std::optional<WindowPlace> readPlace(const std::vector<std::string_view>& fields, std::size_t first) {
     constexpr std::size_t kFields = 5;
     if (fields.size() < first + kFields) return {};

@@ -1,5 +1,5 @@
 #pragma once
-// A project's workspace (.vbw): where the windows of its components stood. It belongs to the user, not to the project.
+// A project's workspace (.vbw): the window positions of its components. It belongs to the user, not to the project.
 #include "Basic/code_page.h"
 #include "Host/files/text_file.h"
 #include <optional>
@@ -23,7 +23,7 @@ struct WorkspaceEntry {
 
 class WorkspaceFile {
 public:
-    /// Takes any bytes; lines that tell no window are kept and not listed.
+    /// Takes any bytes and keeps lines that do not describe a window.
     WorkspaceFile(std::string_view bytes, const basic::CodePage& codePage);
 
     std::string bytes() const { return joinLines(lines_); }

@@ -1,5 +1,5 @@
 #pragma once
-// Where a key lies below its root: the names as spelled, and one identity for all spellings.
+// The path of a key below its root: the names as spelled, and one identity for all spellings.
 #include <string>
 #include <string_view>
 #include <vector>
@@ -11,16 +11,16 @@ class KeyPath {
 public:
     KeyPath() = default;
 
-    /// This path with `subkey` behind it; backslashes separate names, and empty names between them don't count.
-    /// RegFailure BadPathname for one that begins with a backslash, InvalidParameter for a name that is longer than
-    /// 255 characters or holds a control character, or for a path of more than 512 names.
+    /// Appends `subkey`. Backslashes separate names; empty names are ignored. RegFailure BadPathname for a leading
+    /// backslash; InvalidParameter for a name that is longer than 255 characters or contains a control character, or
+    /// for a path of more than 512 names.
     KeyPath operator/(std::string_view subkey) const;
 
     const std::vector<std::string>& names() const { return names_; }
-    /// The identity of the key: equal for every spelling.
+    /// The identity of the key, equal for all spellings.
     const std::string& folded() const { return folded_; }
     KeyPath parent() const;
-    /// The names with backslashes between them.
+    /// The names, joined with backslashes.
     std::string text() const;
 
 private:
@@ -30,8 +30,8 @@ private:
     std::string folded_;
 };
 
-/// RegFailure InvalidParameter for a value's name that no registry file could carry: longer than 16383 characters,
-/// with a control character, or not UTF-8.
+/// Throws RegFailure InvalidParameter for a value's name that a registry file cannot hold: longer than 16383
+/// characters, with a control character, or not UTF-8.
 void requireValueName(std::string_view name);
 
 } // namespace host

@@ -1,5 +1,5 @@
 #pragma once
-// The status codes that registry functions answer with; they are those of Windows.
+// The status codes of the registry functions, as on Windows.
 #include <string>
 
 namespace host {
@@ -7,27 +7,31 @@ namespace host {
 enum class RegStatus : int {
     Success = 0,
     NotFound = 2,     ///< no such key or value
-    AccessDenied = 5, ///< also a key that still has subkeys, when it is deleted
+    AccessDenied = 5, ///< also for deleting a key that has subkeys
     InvalidHandle = 6,
     OutOfMemory = 14,
     InvalidParameter = 87,
     DiskFull = 112,
-    BadPathname = 161, ///< a key's path that begins with a backslash
-    Busy = 170,        ///< another process kept the store locked for longer than we wait
-    MoreData = 234,    ///< the buffer is too small; the length needed is told
+    BadPathname = 161, ///< a key's path begins with a backslash
+    Busy = 170,        ///< another process keeps the store locked
+    MoreData = 234,    ///< the buffer is too small; the required length is returned
     NoMoreItems = 259,
     Corrupt = 1015, ///< the store's file is damaged
     IoFailed = 1016,
-    NotRegistryFile = 1017, ///< the store's file is something else, or of a later version
-    KeyDeleted = 1018,      ///< the open key has been deleted meanwhile
+    NotRegistryFile = 1017, ///< the file is not a store, or one of a later version
+    KeyDeleted = 1018,      ///< the open key has been deleted
 };
 
-/// What a status means, in words for a user: "access is denied".
+/// Describes a status for users: "access is denied".
 std::string describe(RegStatus status);
 
-/// How a failure travels inside the store; the registry functions turn it into their status.
+/// A failure within the store. The registry functions return it as their status.
 struct RegFailure {
     RegStatus status;
 };
+
+inline void requireReg(bool condition, RegStatus otherwise) {
+    if (!condition) throw RegFailure{otherwise};
+}
 
 } // namespace host

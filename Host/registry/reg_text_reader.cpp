@@ -1,5 +1,6 @@
-#include "Basic/runtime_error.h"
+#include "Host/files/text_parts.h"
 #include "Host/registry/reg_text.h"
+#include "Host/registry/reg_text_decoding.h"
 #include "Host/registry/utf16.h"
 #include <algorithm>
 #include <charconv>
@@ -10,38 +11,8 @@
 namespace host {
 namespace {
 
-constexpr int kInvalidRegFile = 321;
-constexpr std::string_view kRegHeader = "Windows Registry Editor Version 5.00";
-
-[[noreturn]] void regTextError(std::string_view file, std::size_t line, std::string_view reason) {
-    throw basic::RuntimeError(kInvalidRegFile, fmt::format("{}:{}: {}", file, line, reason), "VBIDE");
-}
-
-std::string decodeUtf8(std::string_view bytes, std::string_view file) {
-    const auto valid = validUtf8Length(bytes);
-    if (valid == bytes.size()) return std::string(bytes);
-    const auto line = 1 + std::count(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(valid), '\n');
-    regTextError(file, static_cast<std::size_t>(line), "the text is neither UTF-16 nor UTF-8");
-}
-
-std::string decodeRegFile(std::string_view bytes, std::string_view file) {
-    const bool marked = bytes.starts_with("\xFF\xFE");
-    if (marked || bytes.starts_with(std::string_view("W\0", 2))) {
-        auto text = utf8FromUtf16Bytes(bytes.substr(marked ? 2 : 0));
-        if (!text) regTextError(file, 1, "the file is cut short or is not UTF-16 text");
-        return std::move(*text);
-    }
-    if (bytes.starts_with("\xFE\xFF")) regTextError(file, 1, "UTF-16 in big-endian byte order is not a registry file");
-    return decodeUtf8(bytes.substr(bytes.starts_with("\xEF\xBB\xBF") ? 3 : 0), file);
-}
-
-std::string_view skipBlanks(std::string_view s) {
-    const auto first = s.find_first_not_of(" \t");
-    return first == s.npos ? std::string_view{} : s.substr(first);
-}
-
 bool isEndOrComment(std::string_view s) {
-    s = skipBlanks(s);
+    s = trimLeft(s);
     return s.empty() || s.front() == ';';
 }
 
@@ -51,7 +22,7 @@ bool takeRegPrefix(std::string_view& s, std::string_view prefix) {
     return true;
 }
 
-/// A number in hexadecimal digits from the front of `s`, of at most `most` digits.
+/// Removes a hexadecimal number of at most `most` digits from the front of `s`.
 std::optional<std::uint32_t> takeHex(std::string_view& s, std::size_t most) {
     std::uint32_t number = 0;
     const auto* end = s.data() + std::min(most, s.size());
@@ -69,7 +40,7 @@ public:
         if (!nextLine() || !line_.starts_with(kRegHeader) || !isEndOrComment(line_.substr(kRegHeader.size())))
             fail(fmt::format("the first line is not \"{}\"", kRegHeader));
         while (nextLine()) {
-            line_ = skipBlanks(line_);
+            line_ = trimLeft(line_);
             if (isEndOrComment(line_)) continue;
             if (line_.front() == '[')
                 readKey();
@@ -102,37 +73,37 @@ private:
     }
 
     void readKey() {
-        const auto close = line_.rfind(']'); // a key's name may hold brackets
-        if (close == line_.npos || !isEndOrComment(line_.substr(close + 1))) fail("\"]\" is missing behind the key");
+        const auto close = line_.rfind(']'); // a key's name may contain brackets
+        if (close == line_.npos || !isEndOrComment(line_.substr(close + 1))) fail("\"]\" is missing after the key");
         auto key = line_.substr(1, close - 1);
         const bool deleted = takeRegPrefix(key, "-");
         if (key.empty()) fail("the key has no name");
         key_ = key;
         add(deleted ? RegInstruction::Kind::DeleteKey : RegInstruction::Kind::MakeKey);
-        if (deleted) key_.clear(); // values that follow would stand under nothing
+        if (deleted) key_.clear(); // values cannot follow
     }
 
     void readValue() {
         if (line_.front() != '@' && line_.front() != '"')
-            fail("a line begins with \"[\", a value's name in quotation marks, \"@\" or \";\"");
-        if (key_.empty()) fail("a value stands outside a key");
+            fail("a line must begin with \"[\", a value's name in quotation marks, \"@\" or \";\"");
+        if (key_.empty()) fail("a value is outside a key");
         auto& made = add(RegInstruction::Kind::SetValue);
         if (!takeRegPrefix(line_, "@")) made.name = readQuoted();
-        line_ = skipBlanks(line_);
-        if (!takeRegPrefix(line_, "=")) fail("\"=\" is missing behind the value's name");
-        line_ = skipBlanks(line_);
+        line_ = trimLeft(line_);
+        if (!takeRegPrefix(line_, "=")) fail("\"=\" is missing after the value's name");
+        line_ = trimLeft(line_);
         if (takeRegPrefix(line_, "-"))
             made.kind = RegInstruction::Kind::DeleteValue;
         else
             made.value = readData();
-        if (!isEndOrComment(line_)) fail(fmt::format("\"{}\" stands behind the data", line_.substr(0, 40)));
+        if (!isEndOrComment(line_)) fail(fmt::format("\"{}\" follows the data", line_.substr(0, 40)));
     }
 
     RegValue readData() {
         if (line_.starts_with('"')) return {fernwick::REG_SZ, readQuoted() + '\0'};
         if (takeRegPrefix(line_, "dword:")) return {fernwick::REG_DWORD, readDword()};
         if (takeRegPrefix(line_, "hex:")) return {fernwick::REG_BINARY, readHexBytes()};
-        if (!takeRegPrefix(line_, "hex(")) fail("the data are none of \"text\", dword:, hex:, hex(type): and -");
+        if (!takeRegPrefix(line_, "hex(")) fail("the data must be \"text\", dword:, hex:, hex(type): or -");
         const auto type = takeHex(line_, 8);
         if (!type || !takeRegPrefix(line_, "):")) fail("the type in hex(type): is not a hexadecimal number");
         auto bytes = readHexBytes();
@@ -150,7 +121,7 @@ private:
                 return text;
             }
             if (line_[i] == '\\' && (++i == line_.size() || (line_[i] != '\\' && line_[i] != '"')))
-                fail("\"\\\" in a text stands before another \"\\\" or a quotation mark only");
+                fail("\"\\\" in a text must be followed by another \"\\\" or a quotation mark");
             text += line_[i];
         }
         fail("the closing quotation mark is missing");
@@ -158,7 +129,7 @@ private:
 
     std::string readDword() {
         const auto number = takeHex(line_, 8);
-        if (!number) fail("dword: has up to eight hexadecimal digits");
+        if (!number) fail("dword: must be followed by up to eight hexadecimal digits");
         std::string bytes;
         for (int shift = 0; shift < 32; shift += 8) bytes += static_cast<char>(*number >> shift & 0xFF);
         return bytes;
@@ -170,18 +141,18 @@ private:
             skipContinuation();
             if (isEndOrComment(line_)) return bytes;
             const auto byte = takeHex(line_, 2);
-            if (!byte) fail("hex data are bytes of two hexadecimal digits with commas between them");
+            if (!byte) fail("hex data must be bytes of two hexadecimal digits, separated by commas");
             bytes += static_cast<char>(*byte);
-            line_ = skipBlanks(line_);
+            line_ = trimLeft(line_);
             if (!takeRegPrefix(line_, ",")) return bytes;
         }
     }
 
     void skipContinuation() {
-        line_ = skipBlanks(line_);
+        line_ = trimLeft(line_);
         while (line_.starts_with('\\') && isEndOrComment(line_.substr(1))) {
-            if (!nextLine()) fail("the file ends behind a \"\\\"");
-            line_ = skipBlanks(line_);
+            if (!nextLine()) fail("the file ends after a \"\\\"");
+            line_ = trimLeft(line_);
         }
     }
 

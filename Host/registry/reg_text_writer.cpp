@@ -1,4 +1,4 @@
-#include "Basic/runtime_error.h"
+#include "Host/files/system_error.h"
 #include "Host/registry/reg_text.h"
 #include "Host/registry/utf16.h"
 #include <algorithm>
@@ -11,9 +11,8 @@ namespace {
 constexpr std::size_t kRegLineWidth = 80;
 
 [[noreturn]] void failNotText(const RegInstruction& of) {
-    throw basic::RuntimeError(
-        basic::kInvalidProcedureCall,
-        fmt::format("The text of the value \"{}\" in the key \"{}\" is not UTF-8.", of.name, of.key), "VBIDE");
+    throw hostError(basic::kInvalidProcedureCall,
+                    fmt::format("The text of the value \"{}\" in the key \"{}\" is not UTF-8.", of.name, of.key));
 }
 
 std::string quotedRegText(std::string_view text) {
@@ -25,14 +24,14 @@ std::string quotedRegText(std::string_view text) {
     return out + '"';
 }
 
-/// Text that one line between quotation marks can carry, with just the closing NUL.
+/// True for text that can be written between quotation marks: no line breaks, one NUL at the end.
 bool fitsInQuotes(std::string_view data) {
     if (data.empty() || data.back() != '\0') return false;
     data.remove_suffix(1);
     return std::none_of(data.begin(), data.end(), [](char c) { return c == '\0' || c == '\r' || c == '\n'; });
 }
 
-/// Bytes as "01,02,…", broken before a line grows over the width; `column` is where the first one stands.
+/// Bytes as "01,02,…", wrapped at the line width; `column` is the position of the first one.
 std::string hexBytes(std::string_view bytes, std::size_t column) {
     std::string out;
     for (std::size_t i = 0; i < bytes.size(); ++i) {
@@ -76,7 +75,7 @@ std::string instructionText(const RegInstruction& one) {
 } // namespace
 
 std::string writeRegText(const std::vector<RegInstruction>& instructions, RegTextEncoding encoding) {
-    std::string text = "Windows Registry Editor Version 5.00\r\n";
+    auto text = fmt::format("{}\r\n", kRegHeader);
     for (const auto& one : instructions) {
         const auto piece = instructionText(one);
         if (validUtf8Length(piece) != piece.size()) failNotText(one);

@@ -1,5 +1,5 @@
 #pragma once
-// One registry database: a file that several processes share, or keys that live in memory only.
+// A registry database: a file that several processes share, or keys in memory.
 #include "Host/registry/key_path.h"
 #include "Host/registry/reg_value.h"
 #include "Host/registry/sqlite.h"
@@ -17,42 +17,39 @@ struct NamedRegValue {
     RegValue value;
 };
 
-/// Keys with their values. Names are found without regard to letter case and keep their spelling. Nothing is opened
-/// before it is needed, and reading makes no file: a database that does not exist reads as one without keys. The root
-/// key is always there. Every failure is a RegFailure.
+/// Keys with their values. Names are looked up ignoring case and keep their spelling. The file is opened at first use,
+/// and reading does not create it: a missing database has no keys but the root. Every failure is a RegFailure.
 class RegistryDatabase {
 public:
     /// Keys in memory.
     RegistryDatabase() = default;
-    /// The database in `file`. What is made for it gets the access rights of its folder; a folder that has to be
-    /// made is for its owner only.
+    /// The database in `file`. New files get the access rights of their folder; new folders are private to their owner.
     explicit RegistryDatabase(std::filesystem::path file) : file_(std::move(file)) {}
 
     bool hasKey(const KeyPath& key);
-    /// In the order of their names, letter case ignored.
+    /// Sorted by name, ignoring case.
     std::vector<std::string> subkeys(const KeyPath& key);
     /// In the order in which they were first set.
     std::vector<NamedRegValue> values(const KeyPath& key);
     std::optional<RegValue> value(const KeyPath& key, const std::string& name);
 
-    /// False when a write would be refused for want of permission.
+    /// False if a write would be refused for lack of permission.
     bool isWritable();
-    /// Makes the key and those above it. True when it was not there.
+    /// Creates the key and its ancestors. Returns true if it did not exist.
     bool createKey(const KeyPath& key);
-    /// Sets a value of a key, which is made if need be.
+    /// Sets a value. Creates the key if needed.
     void setValue(const KeyPath& key, const std::string& name, const RegValue& value);
-    /// False when there is no such value.
+    /// Returns false if there is no such value.
     bool deleteValue(const KeyPath& key, const std::string& name);
-    /// Deletes a key with its values. It must have no subkeys. False when there is no such key.
+    /// Deletes a key without subkeys and its values. Returns false if there is no such key.
     bool deleteKey(const KeyPath& key);
-    /// Runs writes so that all of them happen or none.
+    /// Runs `writes` in a transaction; a nested call joins the outer one.
     void atomically(const std::function<void()>& writes);
 
 private:
     SqliteConnection* forReading();
     SqliteConnection& forWriting();
-    void makeFile() const;
-    void openFile();
+    void open();
     std::optional<std::int64_t> idOf(SqliteConnection& db, const KeyPath& key);
     std::int64_t makeKey(SqliteConnection& db, const KeyPath& key);
 

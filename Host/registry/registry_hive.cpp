@@ -16,7 +16,8 @@ std::vector<std::string> RegistryHive::subkeys(const KeyPath& key) {
     auto names = own_.subkeys(key);
     auto* below = below_();
     if (!below) return names;
-    std::set<std::string, basic::NoCaseLess> merged(names.begin(), names.end()); // our own spelling stays
+    std::set<std::string, basic::NoCaseLess> merged(names.begin(),
+                                                    names.end()); // the database's spelling takes precedence
     for (auto& name : below->subkeys(key)) merged.insert(std::move(name));
     return {merged.begin(), merged.end()};
 }

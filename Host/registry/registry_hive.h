@@ -1,22 +1,22 @@
 #pragma once
-// A store as its users see it: a database over a layer of values that came with the installation.
+// A store as its users see it: a database layered over the values of the installation.
 #include "Host/registry/registry_database.h"
 #include <functional>
 
 namespace host {
 
-/// What the database holds hides what lies below it; writes go to the database only. What lies below can be hidden by
-/// a value of the database but not deleted: AccessDenied.
+/// Values of the database hide those of the layer below. Writes go only to the database. Values of the layer below can
+/// be hidden but not deleted: AccessDenied.
 class RegistryHive {
 public:
-    /// `below` is asked when it is needed; it gives null for no layer.
+    /// `below` returns the layer below, or null; it is called when needed.
     RegistryHive(std::filesystem::path file, std::function<RegistryDatabase*()> below)
         : own_(std::move(file)), below_(std::move(below)) {}
 
     bool hasKey(const KeyPath& key);
-    /// In the order of their names, letter case ignored.
+    /// Sorted by name, ignoring case.
     std::vector<std::string> subkeys(const KeyPath& key);
-    /// Those from below first, each in the order in which they were first set.
+    /// Values of the layer below first, each in the order in which they were first set.
     std::vector<NamedRegValue> values(const KeyPath& key);
     std::optional<RegValue> value(const KeyPath& key, const std::string& name);
 

@@ -24,7 +24,7 @@ std::filesystem::path homeOfUser(const fernwick::Environment& environment) {
     return home.empty() ? homeFolder() : home;
 }
 
-/// A base folder that a variable names; a relative one does not count.
+/// The base folder named by a variable; a relative path is ignored.
 std::filesystem::path baseFolder(const fernwick::Environment& environment, const char* variable, const char* inHome) {
     const std::filesystem::path named = environment.GetEnvironmentVariable(variable);
     return named.is_absolute() ? named : homeOfUser(environment) / inHome;

@@ -4,7 +4,7 @@
 
 namespace host {
 
-/// The folders of the two stores and the installation whose values lie below the machine's.
+/// The folders of the two stores, and the installation whose values are the layer below the machine's.
 struct RegistryPlaces {
     std::filesystem::path user;
     std::filesystem::path machine;
@@ -12,7 +12,7 @@ struct RegistryPlaces {
 };
 
 /// User: $XDG_CONFIG_HOME/fernwick, else ~/.config/fernwick. Machine: $FERNWICK_MACHINE_STORE, else /var/lib/fernwick
-/// where that may be written or made, else $XDG_DATA_HOME/fernwick or ~/.local/share/fernwick. Makes nothing.
+/// if it is writable or can be created, else $XDG_DATA_HOME/fernwick or ~/.local/share/fernwick. Creates nothing.
 RegistryPlaces usualRegistryPlaces(const fernwick::Environment& environment, std::filesystem::path installation);
 
 } // namespace host

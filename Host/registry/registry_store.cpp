@@ -8,8 +8,7 @@ namespace host {
 namespace {
 
 constexpr std::uint32_t kEnumerateSubKeys = 8;
-constexpr std::uint32_t kFirstRoot = 0x80000000, kLastRoot = 0x80000002;
-/// Set value, create subkey, create link, delete, change rights and owner, and the general rights to write and to all.
+/// Set value, create subkey, create link, delete, write DAC, write owner, generic write and generic all.
 constexpr std::uint32_t kRightsToWrite = 2 | 4 | 0x20 | 0x10000 | 0x40000 | 0x80000 | 0x40000000 | 0x10000000;
 constexpr std::uint32_t kCreatedNewKey = 1, kOpenedExistingKey = 2;
 
@@ -21,10 +20,6 @@ std::int32_t statusOf(F&& function) {
     } catch (const RegFailure& failure) {
         return static_cast<std::int32_t>(failure.status);
     } catch (const std::bad_alloc&) { return static_cast<std::int32_t>(RegStatus::OutOfMemory); }
-}
-
-void requireReg(bool condition, RegStatus otherwise) {
-    if (!condition) throw RegFailure{otherwise};
 }
 
 template <class List, class Size>
@@ -42,10 +37,7 @@ RegistryStore::RegistryStore(RegistryPlaces places)
       machine_(places_.machine / "machine.sqlite", [this] {
           auto* values = installed();
           return values ? &values->machine : nullptr;
-      }) {
-    for (auto root = kFirstRoot; root <= kLastRoot; ++root)
-        open_[root] = {placeOfRegRoot(root).value(), fernwick::KEY_ALL_ACCESS, {}, {}};
-}
+      }) {}
 
 InstalledValues* RegistryStore::installed() {
     if (places_.installation.empty()) return nullptr;
@@ -58,28 +50,14 @@ std::vector<std::string> RegistryStore::installationProblems() {
     return values ? values->problems : std::vector<std::string>{};
 }
 
-RegistryStore::OpenKey& RegistryStore::open(std::uint32_t key) {
-    const auto at = open_.find(key);
-    requireReg(at != open_.end(), RegStatus::InvalidHandle);
-    return at->second;
-}
-
-RegistryStore::OpenKey& RegistryStore::openFor(std::uint32_t key, std::uint32_t access) {
-    auto& found = open(key);
-    requireReg((found.access & access) == access, RegStatus::AccessDenied);
-    requireReg(key >= kFirstRoot || hiveOf(found).hasKey(found.place.key), RegStatus::KeyDeleted);
+OpenRegKey& RegistryStore::existing(std::uint32_t key, std::uint32_t access) {
+    auto& found = open_.at(key, access);
+    requireReg(RegistryHandles::isRoot(key) || hiveOf(found).hasKey(found.place.key), RegStatus::KeyDeleted);
     return found;
 }
 
-std::uint32_t RegistryStore::addHandle(RegPlace place, std::uint32_t access) {
-    do lastHandle_ = lastHandle_ % (kFirstRoot - 1) + 1;
-    while (open_.count(lastHandle_));
-    open_[lastHandle_] = {std::move(place), access, {}, {}};
-    return lastHandle_;
-}
-
 void RegistryStore::write(RegistryHive& to, const std::function<void()>& writes) {
-    for (auto& [handle, key] : open_) key.subkeys.reset(), key.values.reset();
+    open_.endEnumerations();
     to.atomically(writes);
 }
 
@@ -87,13 +65,13 @@ std::int32_t RegistryStore::RegOpenKeyEx(std::uint32_t key, const std::string& s
                                          std::uint32_t& result) {
     result = 0;
     return statusOf([&] {
-        const auto& parent = open(key);
+        const auto& parent = open_.at(key);
         auto place = parent.place;
         place.key = place.key / subKey;
-        const bool isRoot = key >= kFirstRoot && subKey.empty();
+        const bool isRoot = RegistryHandles::isRoot(key) && subKey.empty();
         requireReg(isRoot || hiveOf(parent).hasKey(place.key), RegStatus::NotFound);
         requireReg(!(access & kRightsToWrite) || hiveOf(parent).isWritable(), RegStatus::AccessDenied);
-        result = addHandle(std::move(place), access);
+        result = open_.add(std::move(place), access);
     });
 }
 
@@ -101,7 +79,7 @@ std::int32_t RegistryStore::RegCreateKeyEx(std::uint32_t key, const std::string&
                                            std::uint32_t& result, std::uint32_t& disposition) {
     result = disposition = 0;
     return statusOf([&] {
-        const auto& parent = open(key);
+        const auto& parent = open_.at(key);
         auto place = parent.place;
         place.key = place.key / subKey;
         auto& store = hiveOf(parent);
@@ -109,20 +87,17 @@ std::int32_t RegistryStore::RegCreateKeyEx(std::uint32_t key, const std::string&
         requireReg(!(made || access & kRightsToWrite) || store.isWritable(), RegStatus::AccessDenied);
         if (made) write(store, [&] { made = store.createKey(place.key); });
         disposition = made ? kCreatedNewKey : kOpenedExistingKey;
-        result = addHandle(std::move(place), access);
+        result = open_.add(std::move(place), access);
     });
 }
 
 std::int32_t RegistryStore::RegCloseKey(std::uint32_t key) {
-    return statusOf([&] {
-        open(key);
-        if (key < kFirstRoot) open_.erase(key);
-    });
+    return statusOf([&] { open_.close(key); });
 }
 
 std::int32_t RegistryStore::RegQueryInfoKey(std::uint32_t key, fernwick::RegistryKeyInfo& info) {
     return statusOf([&] {
-        auto& of = openFor(key, fernwick::KEY_QUERY_VALUE);
+        auto& of = existing(key, fernwick::KEY_QUERY_VALUE);
         of.subkeys = hiveOf(of).subkeys(of.place.key);
         of.values = hiveOf(of).values(of.place.key);
         info.subKeys = static_cast<std::uint32_t>(of.subkeys->size());
@@ -135,7 +110,7 @@ std::int32_t RegistryStore::RegQueryInfoKey(std::uint32_t key, fernwick::Registr
 
 std::int32_t RegistryStore::RegEnumKeyEx(std::uint32_t key, std::uint32_t index, std::string& name) {
     return statusOf([&] {
-        auto& of = openFor(key, kEnumerateSubKeys);
+        auto& of = existing(key, kEnumerateSubKeys);
         if (index == 0 || !of.subkeys) of.subkeys = hiveOf(of).subkeys(of.place.key);
         requireReg(index < of.subkeys->size(), RegStatus::NoMoreItems);
         name = (*of.subkeys)[index];
@@ -145,7 +120,7 @@ std::int32_t RegistryStore::RegEnumKeyEx(std::uint32_t key, std::uint32_t index,
 std::int32_t RegistryStore::RegEnumValue(std::uint32_t key, std::uint32_t index, std::string& name, std::uint32_t& type,
                                          std::string& data) {
     return statusOf([&] {
-        auto& of = openFor(key, fernwick::KEY_QUERY_VALUE);
+        auto& of = existing(key, fernwick::KEY_QUERY_VALUE);
         if (index == 0 || !of.values) of.values = hiveOf(of).values(of.place.key);
         requireReg(index < of.values->size(), RegStatus::NoMoreItems);
         const auto& found = (*of.values)[index];
@@ -158,7 +133,7 @@ std::int32_t RegistryStore::RegEnumValue(std::uint32_t key, std::uint32_t index,
 std::int32_t RegistryStore::RegQueryValueEx(std::uint32_t key, const std::string& name, std::uint32_t& type,
                                             std::string& data, std::uint32_t& length) {
     return statusOf([&] {
-        auto& of = openFor(key, fernwick::KEY_QUERY_VALUE);
+        auto& of = existing(key, fernwick::KEY_QUERY_VALUE);
         const auto found = hiveOf(of).value(of.place.key, name);
         requireReg(found.has_value(), RegStatus::NotFound);
         type = found->type;
@@ -171,7 +146,7 @@ std::int32_t RegistryStore::RegQueryValueEx(std::uint32_t key, const std::string
 std::int32_t RegistryStore::RegSetValueEx(std::uint32_t key, const std::string& name, std::uint32_t type,
                                           const std::string& data) {
     return statusOf([&] {
-        const auto& of = openFor(key, fernwick::KEY_SET_VALUE);
+        const auto& of = existing(key, fernwick::KEY_SET_VALUE);
         requireValueName(name);
         requireReg(!isRegText(type) || validUtf8Length(data) == data.size(), RegStatus::InvalidParameter);
         write(hiveOf(of), [&] { hiveOf(of).setValue(of.place.key, name, {type, data}); });
@@ -180,7 +155,7 @@ std::int32_t RegistryStore::RegSetValueEx(std::uint32_t key, const std::string& 
 
 std::int32_t RegistryStore::RegDeleteValue(std::uint32_t key, const std::string& name) {
     return statusOf([&] {
-        const auto& of = openFor(key, fernwick::KEY_SET_VALUE);
+        const auto& of = existing(key, fernwick::KEY_SET_VALUE);
         auto& store = hiveOf(of);
         requireReg(store.value(of.place.key, name).has_value(), RegStatus::NotFound);
         write(store, [&] { store.deleteValue(of.place.key, name); });
@@ -189,11 +164,11 @@ std::int32_t RegistryStore::RegDeleteValue(std::uint32_t key, const std::string&
 
 std::int32_t RegistryStore::RegDeleteKey(std::uint32_t key, const std::string& subKey) {
     return statusOf([&] {
-        const auto& parent = open(key);
+        const auto& parent = open_.at(key);
         auto& store = hiveOf(parent);
         const auto path = parent.place.key / subKey;
         requireReg(store.hasKey(path), RegStatus::NotFound);
-        requireReg(key < kFirstRoot || !subKey.empty(), RegStatus::AccessDenied);
+        requireReg(!RegistryHandles::isRoot(key) || !subKey.empty(), RegStatus::AccessDenied);
         write(store, [&] { deleteRegTree(store, path); });
     });
 }

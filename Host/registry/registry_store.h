@@ -1,18 +1,17 @@
 #pragma once
-// The registry functions over the stores of the user and the machine.
+// The registry functions, over the stores of the user and the machine.
 #include "Add-in/platform/registry.h"
 #include "Host/registry/installed_values.h"
-#include "Host/registry/reg_roots.h"
+#include "Host/registry/registry_handles.h"
 #include "Host/registry/registry_hive.h"
 #include "Host/registry/registry_places.h"
 #include <functional>
-#include <map>
 #include <optional>
 
 namespace host {
 
-/// Opens nothing before the first function is called, and makes no file before the first write. Statuses are those of
-/// RegStatus. A key whose store may not be written opens for reading only.
+/// Opens the stores when first needed and creates their files at the first write. Returns the statuses of RegStatus. A
+/// key of a store that is not writable can only be opened for reading.
 class RegistryStore : public fernwick::Registry {
 public:
     explicit RegistryStore(RegistryPlaces places);
@@ -33,32 +32,22 @@ public:
     std::int32_t RegDeleteValue(std::uint32_t key, const std::string& name) override;
     std::int32_t RegDeleteKey(std::uint32_t key, const std::string& subKey) override;
 
-    /// The store behind a root, for import and export. Its failures are RegFailures.
+    /// Returns a store for import and export. Its failures are RegFailures.
     RegistryHive& hive(RegHiveId id) { return id == RegHiveId::User ? user_ : machine_; }
-    /// What was wrong with the installation's .reg files, "file:line: reason". Reads them.
+    /// Reads the installation's .reg files and returns their problems, "file:line: reason".
     std::vector<std::string> installationProblems();
 
 private:
-    struct OpenKey {
-        RegPlace place;
-        std::uint32_t access = 0;
-        /// What an enumeration goes through: as it was at its first index, until we write.
-        std::optional<std::vector<std::string>> subkeys;
-        std::optional<std::vector<NamedRegValue>> values;
-    };
-
     InstalledValues* installed();
-    OpenKey& open(std::uint32_t key);
-    OpenKey& openFor(std::uint32_t key, std::uint32_t access);
-    RegistryHive& hiveOf(const OpenKey& key) { return hive(key.place.hive); }
-    std::uint32_t addHandle(RegPlace place, std::uint32_t access);
+    /// The open key. RegFailure KeyDeleted if it no longer exists.
+    OpenRegKey& existing(std::uint32_t key, std::uint32_t access);
+    RegistryHive& hiveOf(const OpenRegKey& key) { return hive(key.place.hive); }
     void write(RegistryHive& to, const std::function<void()>& writes);
 
     RegistryPlaces places_;
     std::optional<InstalledValues> installed_;
     RegistryHive user_, machine_;
-    std::map<std::uint32_t, OpenKey> open_;
-    std::uint32_t lastHandle_ = 0;
+    RegistryHandles open_;
 };
 
 } // namespace host

@@ -21,7 +21,7 @@ RegStatus statusOfSqlite(int code) {
     case SQLITE_NOTADB: return RegStatus::NotRegistryFile;
     case SQLITE_NOMEM:
     case SQLITE_TOOBIG: return RegStatus::OutOfMemory;
-    case SQLITE_ERROR: return RegStatus::NotRegistryFile; // tables that are not ours
+    case SQLITE_ERROR: return RegStatus::NotRegistryFile; // unknown tables
     default: return RegStatus::IoFailed;
     }
 }
@@ -30,7 +30,7 @@ void requireSqlite(int code) {
     if (code != SQLITE_OK && code != SQLITE_ROW && code != SQLITE_DONE) throw RegFailure{statusOfSqlite(code)};
 }
 
-/// The path as SQLite's file: address, the only form that takes options.
+/// The path as an SQLite file: URI, which can have options.
 std::string sqliteAddress(const std::filesystem::path& file, std::string_view options) {
     std::string address = "file:";
     for (const char c : file.native()) {
@@ -59,7 +59,7 @@ SqliteConnection::SqliteConnection(const std::filesystem::path& file, Mode mode)
     const auto address = sqliteAddress(file, mode == Mode::Immutable ? "?immutable=1" : "");
     sqlite3* db = nullptr;
     const int code = sqlite3_open_v2(address.c_str(), &db, sqliteFlags(mode) | SQLITE_OPEN_URI, nullptr);
-    db_.reset(db); // there is one to close even when opening failed
+    db_.reset(db); // a handle must be closed even if opening failed
     requireSqlite(code);
     sqlite3_busy_timeout(db, kBusyTimeoutMs);
 }
@@ -89,7 +89,7 @@ void SqliteStatement::bind(std::int64_t number) {
 }
 
 void SqliteStatement::bind(const std::string& text) {
-    // As a blob: compared byte by byte, and kept as it is with its NULs.
+    // Blobs are compared bytewise and may contain NULs.
     requireSqlite(sqlite3_bind_blob64(statement_.get(), ++bound_, text.data(), text.size(), SQLITE_TRANSIENT));
 }
 

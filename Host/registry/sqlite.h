@@ -1,5 +1,5 @@
 #pragma once
-// SQLite as far as the registry store needs it. Every failure is a RegFailure.
+// The part of SQLite that the registry store needs. Every failure is a RegFailure.
 #include <cstdint>
 #include <filesystem>
 #include <memory>
@@ -14,16 +14,16 @@ namespace host {
 class SqliteConnection {
 public:
     enum class Mode {
-        Create,    ///< for writing; makes the file
-        Existing,  ///< for writing where the file lets us, else for reading
-        Immutable, ///< reads a file in a folder where SQLite can't put its lock files
+        Create,    ///< for writing; creates the file
+        Existing,  ///< for writing if permitted, otherwise for reading
+        Immutable, ///< for reading in a folder where SQLite cannot create its lock files
     };
     SqliteConnection(const std::filesystem::path& file, Mode mode);
 
     /// A database in memory.
     SqliteConnection();
 
-    /// Runs statements that take and give nothing.
+    /// Runs statements without parameters and results.
     void run(const char* sql);
     bool readOnly() const;
     sqlite3* handle() const { return db_.get(); }
@@ -35,7 +35,7 @@ private:
     std::unique_ptr<sqlite3, Close> db_;
 };
 
-/// One statement with its parameters, bound from 1 in the order given.
+/// One statement with its parameters in order.
 class SqliteStatement {
 public:
     template <class... P>
@@ -59,7 +59,7 @@ private:
     int bound_ = 0;
 };
 
-/// Holds the write lock until it ends; what was not committed is taken back.
+/// Holds the write lock for its lifetime and rolls back unless committed.
 class SqliteTransaction {
 public:
     explicit SqliteTransaction(SqliteConnection& on) : on_(on) { on_.run("BEGIN IMMEDIATE"); }

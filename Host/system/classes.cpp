@@ -1,19 +1,15 @@
 #include "Host/system/classes.h"
+#include "Basic/guid.h"
 #include "Host/files/system_error.h"
+#include "Host/system/classes_key.h"
 #include "Host/system/type_description.h"
-#include <algorithm>
-#include <cctype>
 
 namespace host {
 namespace {
 
-/// A CLSID as it is written: "{01234567-89AB-CDEF-0123-456789ABCDEF}".
-bool isClassId(const std::string& text) {
-    constexpr std::string_view kForm = "{00000000-0000-0000-0000-000000000000}";
-    if (text.size() != kForm.size()) return false;
-    return std::equal(text.begin(), text.end(), kForm.begin(), [](char c, char form) {
-        return form == '0' ? std::isxdigit(static_cast<unsigned char>(c)) != 0 : c == form;
-    });
+/// A CLSID must have braces.
+std::optional<basic::GUID> parseClassId(const std::string& text) {
+    return text.starts_with('{') ? basic::parseGuid(text) : std::nullopt;
 }
 
 } // namespace
@@ -38,14 +34,13 @@ basic::Ref<fernwick::Object> Classes::CreateObject(const std::string& progId) {
 }
 
 bool Classes::CLSIDFromString(const std::string& text, std::string& clsid) const {
-    if (!isClassId(text)) return false;
-    clsid = text;
-    for (auto& c : clsid) c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
-    return true;
+    const auto guid = parseClassId(text);
+    if (guid) clsid = basic::guidText(*guid);
+    return guid.has_value();
 }
 
 std::string Classes::ProgIDFromCLSID(const std::string& clsid) const {
-    return isClassId(clsid) ? defaultValue("CLSID\\" + clsid + "\\ProgID") : "";
+    return parseClassId(clsid) ? defaultValue("CLSID\\" + clsid + "\\ProgID") : "";
 }
 
 std::string Classes::CLSIDFromProgID(const std::string& progId) const {
@@ -53,17 +48,7 @@ std::string Classes::CLSIDFromProgID(const std::string& progId) const {
     return CLSIDFromString(defaultValue(progId + "\\CLSID"), clsid) ? clsid : "";
 }
 
-std::string Classes::defaultValue(const std::string& key) const {
-    std::uint32_t handle = 0, type = 0, length = 0;
-    if (registry_.RegOpenKeyEx(fernwick::HKEY_CLASSES_ROOT, key, fernwick::KEY_READ, handle) != 0) return "";
-    std::string data;
-    if (registry_.RegQueryValueEx(handle, "", type, data, length) == fernwick::ERROR_MORE_DATA) {
-        data.resize(length);
-        if (registry_.RegQueryValueEx(handle, "", type, data, length) != 0) data.clear();
-    }
-    registry_.RegCloseKey(handle);
-    return type == fernwick::REG_SZ ? data.substr(0, data.find('\0')) : "";
-}
+std::string Classes::defaultValue(const std::string& key) const { return classesText(registry_, key).value_or(""); }
 
 basic::Ref<fernwick::TypeLibInfo> Classes::TypeLibInfoFromFile(const std::string& path) const {
     const auto file = path.empty() ? "" : descriptionFileOf(path);

@@ -1,5 +1,5 @@
 #pragma once
-// Classes by name: what registered factories make, and what the registry and the description files tell.
+// Classes by name: instances from registered factories, identities from the registry and from description files.
 #include "Add-in/platform/classes.h"
 #include "Add-in/platform/registry.h"
 #include "Basic/case_folding.h"
@@ -16,12 +16,12 @@ public:
     [[nodiscard]] std::shared_ptr<void> RegisterClass(const std::string& progId, Factory factory) override;
     basic::Ref<fernwick::Object> CreateObject(const std::string& progId) override;
 
-    /// `clsid` is the text in upper case.
+    /// `clsid` receives the text in upper case.
     bool CLSIDFromString(const std::string& text, std::string& clsid) const override;
     std::string ProgIDFromCLSID(const std::string& clsid) const override;
-    /// The class of a ProgID, in braces and upper case; "" for one that is not registered.
+    /// Returns the class of a ProgID, in braces and upper case; "" if it is not registered.
     std::string CLSIDFromProgID(const std::string& progId) const;
-    /// The description file that stands beside the registered `path`, which stays the ContainingFile.
+    /// Reads the description file next to the registered `path`, which remains the ContainingFile.
     basic::Ref<fernwick::TypeLibInfo> TypeLibInfoFromFile(const std::string& path) const override;
 
 private:

@@ -4,7 +4,7 @@
 
 namespace host {
 
-/// A clipboard of our own, for where there is no desktop: formats in the order in which they were set.
+/// A clipboard within this process, for use without a desktop. Formats are in the order in which they were set.
 class Clipboard : public fernwick::Clipboard {
 public:
     std::vector<std::string> Formats() const override;

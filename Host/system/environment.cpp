@@ -12,7 +12,7 @@ std::string Environment::GetEnvironmentVariable(const std::string& name) const {
 
 void Environment::SetEnvironmentVariable(const std::string& name, const std::string& value) {
     if (::setenv(name.c_str(), value.c_str(), 1) == 0) return;
-    if (errno == EINVAL) throw hostError(basic::kInvalidProcedureCall, "\"" + name + "\" is no name of a variable");
+    if (errno == EINVAL) throw hostError(basic::kInvalidProcedureCall, "\"" + name + "\" is not a valid variable name");
     throw systemError(errno, "cannot be set", name);
 }
 

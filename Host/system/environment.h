@@ -3,11 +3,11 @@
 
 namespace host {
 
-/// The environment of this process: what is set here, the programs that are started get.
+/// The environment of this process, which started programs inherit.
 class Environment : public fernwick::Environment {
 public:
     std::string GetEnvironmentVariable(const std::string& name) const override;
-    /// Error 5 for a name that is empty or holds "=".
+    /// Error 5 for an empty name or one with "=".
     void SetEnvironmentVariable(const std::string& name, const std::string& value) override;
 };
 

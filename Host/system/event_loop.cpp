@@ -1,5 +1,6 @@
 #include "Host/system/event_loop.h"
 #include "Host/files/system_error.h"
+#include "Host/system/scoped_flag.h"
 #include <algorithm>
 
 namespace host {
@@ -24,7 +25,7 @@ fernwick::Subscription EventLoop::StartTimer(int interval, std::function<void()>
 }
 
 void EventLoop::deliverPosted() {
-    // A delivery may turn the loop itself and take events that we counted.
+    // An event may run the loop itself and take events that are counted here.
     for (auto left = posted_.size(); left > 0 && !posted_.empty(); --left) {
         const auto event = std::move(posted_.front());
         posted_.pop_front();
@@ -43,13 +44,7 @@ void EventLoop::tickDue() {
 }
 
 void EventLoop::tick(RunningTimer& timer) {
-    struct Ticking {
-        bool& flag;
-        explicit Ticking(bool& f) : flag(f) { flag = true; }
-        Ticking(const Ticking&) = delete;
-        Ticking& operator=(const Ticking&) = delete;
-        ~Ticking() { flag = false; }
-    } ticking{timer.ticking};
+    const ScopedFlag ticking(timer.ticking);
     timer.due = clock_.Monotonic() + timer.interval;
     timer.tick();
 }

@@ -11,23 +11,24 @@
 
 namespace host {
 
-/// Time comes from the clock given. An error that a delivery lets out comes out of the turn; the rest waits for the next.
+/// Uses the given clock. An error thrown by an event leaves DoEvents; the remaining events are delivered next time.
 class EventLoop : public fernwick::EventLoop {
 public:
     explicit EventLoop(const fernwick::Clock& clock) : clock_(clock) {}
 
     void Post(std::function<void()> event) override { posted_.push_back(std::move(event)); }
-    /// A timer never ticks within its own tick; others do, when a tick turns the loop.
+    /// Delivers posted events and due timers. A timer never ticks within its own tick; others do if a tick runs the
+    /// loop.
     void DoEvents() override;
     /// Error 5 for an interval below 1.
     [[nodiscard]] fernwick::Subscription StartTimer(int interval, std::function<void()> tick) override;
 
-    /// Nanoseconds until something is due, 0 for now; nothing where none is posted and no timer runs.
+    /// Returns the nanoseconds until the next event, 0 for now; nothing if no event is posted and no timer runs.
     std::optional<std::int64_t> untilNext();
 
-    /// Turns until nothing is posted and no timer runs, but no longer than `patience` by the clock: a timer that
-    /// nobody stops must not keep a program alive. `sleep` lets the time until the next timer pass. All in nanoseconds.
-    /// False when something is left.
+    /// Runs until no event is posted and no timer runs, but no longer than `patience`: a timer that is never stopped
+    /// must not keep a program alive. `sleep` waits until the next timer. All times in nanoseconds. Returns false if
+    /// something is left.
     bool drain(const std::function<void(std::int64_t)>& sleep, std::int64_t patience = 5'000'000'000);
 
 private:
@@ -42,7 +43,7 @@ private:
     void deliverPosted();
     void tickDue();
     void tick(RunningTimer& timer);
-    /// The nearest time at which a timer is due, if there is one.
+    /// The timer that is due next, or null.
     const RunningTimer* nearest();
 
     const fernwick::Clock& clock_;

@@ -1,5 +1,5 @@
 #pragma once
-// The errors of file operations that a script or an add-in asked for.
+// The errors of file operations that a script or an add-in requested.
 #include "Basic/runtime_error.h"
 #include "Host/files/system_error.h"
 #include <cerrno>
@@ -8,8 +8,8 @@
 
 namespace host {
 
-/// As scripts see them: what the IDE's own saving calls "Path/File access error" (75) for want of permission is
-/// "Permission denied" (70) here, and a file that is looked for in something that is no folder is 76.
+/// Converts an error of the IDE's file operations to the one that scripts get: missing permission is "Permission
+/// denied" (70) and not "Path/File access error" (75).
 inline basic::RuntimeError scriptError(basic::RuntimeError error) {
     const auto number = error.LastDllError;
     const bool denied = number == EACCES || number == EPERM || number == EROFS;
@@ -21,7 +21,7 @@ inline basic::RuntimeError scriptError(int error, const std::string& what, const
     return scriptError(systemError(error, what, path));
 }
 
-/// Runs an operation whose errors are those of the IDE's saving.
+/// Runs an operation and converts its errors.
 template <class F>
 auto withScriptErrors(F&& operation) {
     try {

@@ -4,66 +4,16 @@
 #include "Host/files/path_lookup.h"
 #include "Host/files/text_file.h"
 #include "Host/system/file_error.h"
+#include "Host/system/file_state.h"
 #include "Host/system/home_folder.h"
 #include "Host/system/path_text.h"
 #include "Host/system/text_stream.h"
 #include <algorithm>
-#include <cstdlib>
-#include <fcntl.h>
 #include <filesystem>
-#include <optional>
-#include <sys/stat.h>
 #include <unistd.h>
 
 namespace host {
 namespace {
-
-std::optional<struct stat> stateOf(const std::string& path) {
-    struct stat state {};
-    if (::stat(path.c_str(), &state) != 0) return std::nullopt;
-    return state;
-}
-
-struct stat fileState(const std::string& path) {
-    const auto state = stateOf(path);
-    if (!state) throw scriptError(errno, "cannot be examined", path);
-    if (S_ISDIR(state->st_mode)) throw hostError(basic::kFileNotFound, path + ": is a folder");
-    return *state;
-}
-
-/// Where a file may be made or replaced; the errors of scripts when it may not.
-void requirePlace(const std::string& path, bool overwrite) {
-    const auto folder = parentFolderName(path);
-    const auto around = stateOf(folder);
-    if (!around || !S_ISDIR(around->st_mode))
-        throw hostError(basic::kPathNotFound, folder + ": there is no such folder");
-    const auto there = stateOf(path);
-    if (there && S_ISDIR(there->st_mode)) throw hostError(basic::kPermissionDenied, path + ": is a folder");
-    if (there && !overwrite) throw hostError(basic::kFileAlreadyExists, path + ": is there already");
-    if (there && isReadOnly(path)) throw scriptError(EACCES, "is read-only", path);
-}
-
-void setFileTime(const std::string& path, struct timespec time) {
-    const struct timespec times[2] = {{0, UTIME_OMIT}, time};
-    if (::utimensat(AT_FDCWD, path.c_str(), times, 0) != 0) throw scriptError(errno, "cannot get its time", path);
-}
-
-/// The copy has the source's time, so that a copy is as current as what it was copied from.
-void takeOver(const struct stat& source, const std::string& path, bool isNew) {
-    const struct timespec times[2] = {source.st_atim, source.st_mtim};
-    if (isNew && ::chmod(path.c_str(), source.st_mode & 0777) != 0)
-        throw scriptError(errno, "cannot get its mode", path);
-    if (::utimensat(AT_FDCWD, path.c_str(), times, 0) != 0) throw scriptError(errno, "cannot get its time", path);
-}
-
-std::string makeTemporaryFolder() {
-    std::error_code error;
-    auto around = std::filesystem::temp_directory_path(error);
-    if (error) around = "/tmp";
-    auto path = (around / "fernwick-XXXXXX").string();
-    if (!::mkdtemp(path.data())) throw scriptError(errno, "no temporary folder can be made", around.string());
-    return path;
-}
 
 std::string currentFolder() {
     std::error_code error;
@@ -72,11 +22,6 @@ std::string currentFolder() {
 }
 
 } // namespace
-
-FileSystem::~FileSystem() {
-    std::error_code ignored;
-    if (!temporary_.empty()) std::filesystem::remove_all(temporary_, ignored);
-}
 
 bool FileSystem::FileExists(const std::string& path) const {
     const auto state = path.empty() ? std::nullopt : stateOf(Canonical(path));
@@ -99,7 +44,7 @@ std::int64_t FileSystem::GetSize(const std::string& path) const { return fileSta
 
 std::int64_t FileSystem::GetDateLastModified(const std::string& path) const {
     const auto time = fileState(Canonical(path)).st_mtim;
-    return std::int64_t{time.tv_sec} * 1'000'000'000 + time.tv_nsec;
+    return std::int64_t{time.tv_sec} * kNanosecondsPerSecond + time.tv_nsec;
 }
 
 std::string FileSystem::GetAbsolutePathName(const std::string& path) const {
@@ -127,8 +72,7 @@ bool FileSystem::IsAbsolute(const std::string& path) const { return isAbsolutePa
 
 std::string FileSystem::GetSpecialFolder(fernwick::SpecialFolder folder) const {
     if (folder != fernwick::TemporaryFolder) throw hostError(basic::kInvalidProcedureCall);
-    if (temporary_.empty()) temporary_ = makeTemporaryFolder();
-    return temporary_;
+    return temporary_.path();
 }
 
 std::string FileSystem::HomeFolder() const { return homeFolder(); }
@@ -174,11 +118,9 @@ void FileSystem::WriteBytes(const std::string& path, const std::string& bytes) {
 }
 
 void FileSystem::SetDateLastModified(const std::string& path, std::int64_t time) {
-    constexpr std::int64_t kSecond = 1'000'000'000;
     const auto file = Canonical(path);
     fileState(file);
-    const auto nanoseconds = (time % kSecond + kSecond) % kSecond;
-    setFileTime(file, {(time - nanoseconds) / kSecond, nanoseconds});
+    setFileTime(file, time);
 }
 
 void FileSystem::CopyFile(const std::string& from, const std::string& to, bool overwrite) {
@@ -191,7 +133,7 @@ void FileSystem::CopyFile(const std::string& from, const std::string& to, bool o
     const bool isNew = !stateOf(target);
     const auto bytes = ReadBytes(source);
     withScriptErrors([&] { atomicSave(target, bytes); });
-    takeOver(state, target, isNew);
+    copyTimesAndMode(state, target, isNew);
 }
 
 void FileSystem::DeleteFile(const std::string& path, bool force) {

@@ -6,8 +6,8 @@
 namespace host {
 namespace {
 
-/// A function of Fontconfig. The library is loaded when the first font is asked for: few runs ask for one, and linked
-/// it would cost every run a third of its start.
+/// A function of Fontconfig. The library is loaded when the first font is needed: few runs need one, and linking it
+/// would add a third to the start time of every run.
 template <class Function>
 Function* fontconfigFunction(void* library, const char* name) {
     return library ? reinterpret_cast<Function*>(::dlsym(library, name)) : nullptr;
@@ -22,12 +22,12 @@ struct Fontconfig {
         fontconfigFunction<decltype(FcPatternGetString)>(library, "FcPatternGetString");
     decltype(&FcConfigDestroy) destroy = fontconfigFunction<decltype(FcConfigDestroy)>(library, "FcConfigDestroy");
 
-    bool isThere() const { return load && fonts && text && destroy; }
+    bool isLoaded() const { return load && fonts && text && destroy; }
 };
 
 void addFamilies(const Fontconfig& fontconfig, const FcFontSet* fonts, FontFamilies& to) {
     for (int i = 0; fonts && i < fonts->nfont; ++i) {
-        FcChar8* family = nullptr; // a font has its family's name in several languages
+        FcChar8* family = nullptr; // in several languages
         for (int n = 0; fontconfig.text(fonts->fonts[i], FC_FAMILY, n, &family) == FcResultMatch; ++n)
             to.insert(reinterpret_cast<const char*>(family));
     }
@@ -38,7 +38,7 @@ void addFamilies(const Fontconfig& fontconfig, const FcFontSet* fonts, FontFamil
 FontFamilies installedFontFamilies() {
     FontFamilies families;
     const Fontconfig fontconfig;
-    if (!fontconfig.isThere()) return families;
+    if (!fontconfig.isLoaded()) return families;
     const std::unique_ptr<FcConfig, decltype(&FcConfigDestroy)> config(fontconfig.load(), fontconfig.destroy);
     if (!config) return families;
     for (const auto set : {FcSetSystem, FcSetApplication})

@@ -3,7 +3,7 @@
 
 namespace host {
 
-/// $HOME, else what the system's list of users says, else the root folder.
+/// Returns $HOME, else the user's home folder in the password database, else the root folder.
 std::string homeFolder();
 
 } // namespace host

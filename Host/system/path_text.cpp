@@ -1,11 +1,12 @@
 #include "Host/system/path_text.h"
+#include "Host/files/native_path.h"
 #include <algorithm>
 #include <vector>
 
 namespace host {
 namespace {
 
-/// Native, without separators at its end; the root keeps its own.
+/// The native path without trailing separators; the root keeps its separator.
 std::string trimmedPath(std::string_view path) {
     auto native = nativePath(path);
     while (native.size() > 1 && native.back() == '/') native.pop_back();
@@ -21,22 +22,13 @@ std::string nativePath(std::string_view path) {
 }
 
 std::string parentFolderName(std::string_view path) {
-    auto native = trimmedPath(path);
-    const auto slash = native.rfind('/');
-    if (slash == native.npos || native == "/") return "";
-    native.resize(slash);
-    return native.empty() ? "/" : trimmedPath(native);
-}
-
-std::string lastName(std::string_view path) {
     const auto native = trimmedPath(path);
-    return native.substr(native.rfind('/') + 1);
+    return native == "/" ? "" : trimmedPath(folderOf(native));
 }
 
-std::string baseName(std::string_view path) {
-    const auto name = lastName(path);
-    return name.substr(0, name.rfind('.'));
-}
+std::string lastName(std::string_view path) { return fileNameOf(trimmedPath(path)); }
+
+std::string baseName(std::string_view path) { return baseNameOf(trimmedPath(path)); }
 
 std::string extensionName(std::string_view path) {
     const auto name = lastName(path);
@@ -47,9 +39,7 @@ std::string extensionName(std::string_view path) {
 std::string joinedPath(std::string_view folder, std::string_view name) {
     if (folder.empty()) return nativePath(name);
     const auto first = std::min(name.find_first_not_of("\\/"), name.size());
-    auto joined = trimmedPath(folder);
-    if (joined != "/") joined += '/';
-    return joined + nativePath(name.substr(first));
+    return pathIn(trimmedPath(folder), nativePath(name.substr(first)));
 }
 
 std::string absolutePath(std::string_view base, std::string_view path) {

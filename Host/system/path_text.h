@@ -1,5 +1,5 @@
 #pragma once
-// Paths as texts, without a look at the disk. Either separator may come in; what goes out is native.
+// Operations on the text of paths, without access to the disk. They accept either separator and return native paths.
 #include <string>
 #include <string_view>
 
@@ -7,19 +7,19 @@ namespace host {
 
 std::string nativePath(std::string_view path);
 
-/// "" for a root or a bare name; no separator at the end, but for the root itself.
+/// "" for a root or a bare name. Only the root ends with a separator.
 std::string parentFolderName(std::string_view path);
 /// The last part; "" for a root.
 std::string lastName(std::string_view path);
-/// The last part without what stands from its last point on.
+/// The last part up to its last point.
 std::string baseName(std::string_view path);
-/// What stands behind the last point of the last part.
+/// The text after the last point of the last part.
 std::string extensionName(std::string_view path);
-/// Exactly one separator between the two, whatever they bring along; `name` alone for an empty folder.
+/// Joins the two with exactly one separator; `name` alone for an empty folder.
 std::string joinedPath(std::string_view folder, std::string_view name);
-/// Absolute from `base`, without ".", ".." and doubled separators.
+/// Resolves a path against `base`. Removes ".", ".." and doubled separators.
 std::string absolutePath(std::string_view base, std::string_view path);
-/// A leading separator, as this is a platform without drives.
+/// True for a path with a leading separator; there are no drives on this platform.
 bool isAbsolutePath(std::string_view path);
 
 } // namespace host

@@ -13,7 +13,7 @@ namespace {
 using WaitClock = std::chrono::steady_clock;
 
 constexpr std::int32_t kStillActive = 259;
-/// Who started us had children's ends thrown away, which programs inherit: how this one ended nobody knows.
+/// Our parent ignored SIGCHLD, which is inherited, so the exit status is lost.
 constexpr std::int32_t kUnknownEnd = -1;
 constexpr std::uint32_t kWaitFailed = 0xFFFFFFFF;
 constexpr auto kTimeToEnd = std::chrono::seconds(2);
@@ -23,7 +23,7 @@ std::int32_t exitCodeOf(int state) {
     return WIFEXITED(state) ? WEXITSTATUS(state) : kEndedBySignal + WTERMSIG(state);
 }
 
-/// Takes the signals that end us, and the news of a child's end, while it lives.
+/// Receives termination signals and SIGCHLD during its lifetime.
 class SignalWait {
 public:
     SignalWait() {
@@ -38,8 +38,8 @@ public:
         if (ending_ != 0) ::raise(ending_);
     }
 
-    /// Until something happens: the number of a signal that ends us, else 0. Another thread may take the news of
-    /// the child, so that we look again after a moment anyway.
+    /// Waits for a signal and returns the number of a termination signal, otherwise 0. Times out after a moment, since
+    /// another thread may receive SIGCHLD.
     int next() {
         constexpr struct timespec kMoment { 0, 50'000'000 };
         const int number = ::sigtimedwait(&taken_, nullptr, &kMoment);
@@ -68,13 +68,13 @@ bool Processes::CreateProcess(const std::string& commandLine, const std::string&
     return true;
 }
 
-void Processes::look(Started& at) {
-    if (at.ended) return;
+void Processes::poll(Started& child) {
+    if (child.ended) return;
     int state = 0;
-    const auto answer = ::waitpid(at.id, &state, WNOHANG);
-    if (answer == at.id) at.code = exitCodeOf(state);
-    if (answer == -1 && errno == ECHILD) at.code = kUnknownEnd;
-    at.ended = answer == at.id || at.code == kUnknownEnd;
+    const auto answer = ::waitpid(child.id, &state, WNOHANG);
+    if (answer == child.id) child.code = exitCodeOf(state);
+    if (answer == -1 && errno == ECHILD) child.code = kUnknownEnd;
+    child.ended = answer == child.id || child.code == kUnknownEnd;
 }
 
 std::uint32_t Processes::WaitForSingleObject(std::uint32_t process) {
@@ -88,11 +88,11 @@ std::uint32_t Processes::WaitForSingleObject(std::uint32_t process) {
         killAt = std::min(killAt, WaitClock::now() + kTimeToEnd);
     };
     if (interrupted_()) end(SIGINT);
-    for (look(child); !child.ended; look(child)) {
+    for (poll(child); !child.ended; poll(child)) {
         if (const int ending = signals.next(); ending != 0) end(ending);
         if (WaitClock::now() >= killAt) ::kill(-child.id, SIGKILL);
     }
-    // a shell lets its background commands ignore an interrupt: they must not outlive the step that it ended
+    // A shell makes its background commands ignore interrupts; they must not outlive the interrupted step.
     if (killAt != WaitClock::time_point::max()) ::kill(-child.id, SIGTERM);
     return 0;
 }
@@ -100,7 +100,7 @@ std::uint32_t Processes::WaitForSingleObject(std::uint32_t process) {
 bool Processes::GetExitCodeProcess(std::uint32_t process, std::int32_t& code) {
     const auto at = started_.find(process);
     if (at == started_.end()) return false;
-    look(at->second);
+    poll(at->second);
     code = at->second.ended ? at->second.code : kStillActive;
     return true;
 }

@@ -1,5 +1,5 @@
 #pragma once
-// Programs that are started and waited for.
+// Child processes that are waited for.
 #include "Add-in/platform/processes.h"
 #include <functional>
 #include <map>
@@ -8,15 +8,15 @@
 
 namespace host {
 
-/// A program gets nothing on its standard input and writes to our standard error. Ctrl+C, SIGTERM and SIGHUP that
-/// come while it is waited for go to it and to all that it started; who has not ended after two seconds is killed.
-/// The signal is then raised again, for whoever else waits for it.
+/// A program has an empty standard input and writes to our standard error. SIGINT, SIGTERM and SIGHUP received during
+/// the wait are forwarded to its process group, which is killed if it has not ended after two seconds. The signal is
+/// then raised again for its other handlers.
 class Processes : public fernwick::Processes {
 public:
-    /// Whether a command line may be run in a folder: a project's steps need the user's trust.
+    /// Returns whether a command line may be run in a folder: compile steps run only for folders the user has trusted.
     using Permission = std::function<bool(const std::string& commandLine, const std::string& folder)>;
 
-    /// Whether Ctrl+C came before the wait for a program began: the program is then ended as if it came now.
+    /// Returns whether Ctrl+C was pressed before the wait began; the program is then ended as if it were pressed now.
     using Interrupted = std::function<bool()>;
 
     explicit Processes(
@@ -26,7 +26,8 @@ public:
     bool CreateProcess(const std::string& commandLine, const std::string& workingFolder, int showWindow,
                        std::uint32_t& process) override;
     std::uint32_t WaitForSingleObject(std::uint32_t process) override;
-    /// 259 while it runs, 128 and the signal's number for one that a signal ended. False for an unknown handle.
+    /// The code is 259 while the process runs, and 128 plus the number of the signal that ended it. Returns false for
+    /// an unknown handle.
     bool GetExitCodeProcess(std::uint32_t process, std::int32_t& code) override;
     void CloseHandle(std::uint32_t process) override { started_.erase(process); }
 
@@ -36,7 +37,7 @@ private:
         std::int32_t code = 0;
         bool ended = false;
     };
-    static void look(Started& at);
+    static void poll(Started& child);
 
     Permission mayRun_;
     Interrupted interrupted_;

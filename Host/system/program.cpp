@@ -46,7 +46,7 @@ std::string withoutExe(const std::string& name) {
     return has ? name.substr(0, name.size() - kExe.size()) : "";
 }
 
-/// What a program is started with, released at the end.
+/// Owns the settings of posix_spawn.
 struct SpawnSettings {
     posix_spawn_file_actions_t actions;
     posix_spawnattr_t attributes;

@@ -1,5 +1,5 @@
 #pragma once
-// Finding a program and starting it.
+// Finds and starts programs.
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -9,19 +9,19 @@
 
 namespace host {
 
-/// The program of a command line, found, with its arguments.
+/// The program that a command line runs.
 struct Program {
     std::string path;
     std::vector<std::string> words; ///< the name as written, then the arguments
 };
 
-/// The first reading of `commandLine` whose name is an executable file: as a path from `folder` (either separator, letter
-/// case ignored where there is no exact match), then, for the shortest name without a separator, in PATH.
-/// Where `dropExe` is set a name that ends in ".exe" is also looked for without it.
+/// Returns the first reading of `commandLine` whose name is an executable file: relative to `folder` (either separator,
+/// letter case ignored if there is no exact match), then in PATH for the shortest name if it has no separator. With
+/// `dropExe` a name ending in ".exe" is also looked up without it.
 std::optional<Program> findProgram(std::string_view commandLine, const std::string& folder, bool dropExe);
 
-/// Starts a program in a session of its own, so that it can be ended with all that it started, with nothing on its
-/// standard input and its output on our standard error. 0 when it could not be started.
+/// Starts a program in a new session, so that it can be ended together with its children. Its standard input is empty
+/// and its output goes to our standard error. Returns 0 if it could not be started.
 pid_t startProgram(const Program& program, const std::string& folder);
 
 } // namespace host

@@ -7,7 +7,7 @@ namespace host {
 /// Pictures of an installation tree: "VB Toolkit/Bin/Images/<number>.bmp".
 class Resources : public fernwick::Resources {
 public:
-    /// `installation` is the root of the tree; "" for none, which has no pictures.
+    /// `installation` is the root of the tree; "" if there is none.
     Resources(const fernwick::FileSystemObject& files, std::string installation)
         : files_(files), installation_(std::move(installation)) {}
     std::string LoadBitmap(int id) const override;

@@ -11,12 +11,12 @@ namespace host {
 namespace {
 
 constexpr std::string_view kHelpViewer = "Hh.exe ";
-/// Before the number of a help context.
+/// Precedes the number of a help context.
 constexpr std::string_view kContextSwitch = "-mapid ";
-/// Before a help file with a page of it, and between the two.
+/// Precedes a help file and its page, and separates the two.
 constexpr std::string_view kPageScheme = "ms-its:", kPageMark = "::/";
 
-/// What of a help file is to be shown; without a context and a page its first page.
+/// The part of a help file to show; without a context and a page its first page.
 struct HelpTopic {
     std::string file, context, page;
 };
@@ -78,18 +78,18 @@ void Shell::openHelp(std::string arguments) {
 
 void Shell::show(const std::string& document) {
     const auto opener = findProgram("xdg-open", "/", false);
-    if (!opener || !hasDesktop()) return tell_(document);
+    if (!opener || !hasDesktop()) return report_(document);
     auto program = *opener;
     program.words.push_back(document);
-    forgetEnded();
+    reapEnded();
     if (const auto id = startProgram(program, homeFolder()); id != 0)
         started_.push_back(id);
     else
-        tell_(document);
+        report_(document);
 }
 
 bool Shell::start(const std::string& commandLine) {
-    forgetEnded();
+    reapEnded();
     const auto folder = files_.GetAbsolutePathName("");
     const auto program = findProgram(commandLine, folder, true);
     const auto id = program ? startProgram(*program, folder) : 0;
@@ -97,7 +97,7 @@ bool Shell::start(const std::string& commandLine) {
     return id != 0;
 }
 
-void Shell::forgetEnded() {
+void Shell::reapEnded() {
     std::erase_if(started_, [](pid_t id) { return ::waitpid(id, nullptr, WNOHANG) != 0; });
 }
 

@@ -1,5 +1,5 @@
 #pragma once
-// Programs and documents that are started and left alone.
+// Programs and documents that are started without waiting for them.
 #include "Add-in/platform/files.h"
 #include "Add-in/platform/shell.h"
 #include <functional>
@@ -9,30 +9,29 @@
 
 namespace host {
 
-/// Documents open with xdg-open. Without a desktop, or without xdg-open, `tell` gets the document's path or address.
+/// Opens documents with xdg-open. Without a desktop or xdg-open, passes the document's path or address to `report`.
 class Shell : public fernwick::Shell {
 public:
-    using Tell = std::function<void(const std::string& document)>;
+    using Report = std::function<void(const std::string& document)>;
 
-    Shell(const fernwick::FileSystemObject& files, Tell tell) : files_(files), tell_(std::move(tell)) {}
-    ~Shell() override { forgetEnded(); }
+    Shell(const fernwick::FileSystemObject& files, Report report) : files_(files), report_(std::move(report)) {}
+    ~Shell() override { reapEnded(); }
 
-    /// "Hh.exe " with the path of a compiled help file opens the HTML page of that name beside it; with
-    /// "ms-its:FILE::/PAGE" the page of that name beside the file; with "-mapid NUMBER FILE" the page NUMBER.html in the
-    /// folder of the file's name, or the first page where the number has none. A program whose name ends in ".exe" may
-    /// be installed without it.
+    /// "Hh.exe " followed by a compiled help file opens the HTML page of the same name next to it; "ms-its:FILE::/PAGE"
+    /// opens PAGE next to the file; "-mapid NUMBER FILE" opens NUMBER.html in the folder named like the file, or the
+    /// first page if there is no such page. A program whose name ends in ".exe" may be installed without it.
     void Start(const std::string& commandLine) override;
-    /// A compiled help file opens as with "Hh.exe ". Error 53 for a path where nothing is.
+    /// Compiled help files are opened as with "Hh.exe ". Error 53 for a path that does not exist.
     void Open(const std::string& document) override;
 
 private:
     void openHelp(std::string arguments);
     void show(const std::string& document);
     bool start(const std::string& commandLine);
-    void forgetEnded();
+    void reapEnded();
 
     const fernwick::FileSystemObject& files_;
-    Tell tell_;
+    Report report_;
     std::vector<pid_t> started_;
 };
 

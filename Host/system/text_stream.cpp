@@ -23,7 +23,7 @@ std::string TextReader::ReadLine() {
 void TextReader::WriteLine(const std::string&) { throwBadFileMode(); }
 
 TextWriter::~TextWriter() {
-    // Let go of without Close: nobody is left to be told of a failure.
+    // Released without Close: an error cannot be reported.
     static_cast<void>(basic::attempt([this] { Close(); }));
 }
 

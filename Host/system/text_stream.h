@@ -1,5 +1,5 @@
 #pragma once
-// Text files line by line, each byte a character of Windows-1252.
+// Text files in Windows-1252, read and written by lines.
 #include "Add-in/platform/files.h"
 #include <string>
 #include <string_view>
@@ -20,7 +20,7 @@ private:
     std::string_view rest_;
 };
 
-/// Keeps what is written until it is closed; then the file gets it all at once.
+/// Buffers its lines and writes the file atomically when it is closed.
 class TextWriter : public fernwick::TextStream {
 public:
     explicit TextWriter(std::string path) : path_(std::move(path)) {}
@@ -28,7 +28,7 @@ public:
 
     bool AtEndOfStream() const override;
     std::string ReadLine() override;
-    /// Error 5 for a character that Windows-1252 lacks; the line is then not written.
+    /// Error 5, without a change, if Windows-1252 lacks a character.
     void WriteLine(const std::string& line) override;
     void Close() override;
 

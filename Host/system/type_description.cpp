@@ -1,93 +1,16 @@
 #include "Host/system/type_description.h"
 #include "Host/files/path_lookup.h"
 #include "Host/files/system_error.h"
-#include "Host/files/text_file.h"
+#include "Host/system/description_table.h"
 #include "Host/system/path_text.h"
 #include <algorithm>
 #include <charconv>
 #include <filesystem>
 #include <fmt/format.h>
 #include <map>
-#include <toml++/toml.h>
 
 namespace host {
 namespace {
-
-constexpr int kInvalidDescription = 321;
-
-[[noreturn]] void descriptionError(const std::string& file, std::size_t line, std::string_view reason) {
-    throw hostError(kInvalidDescription, fmt::format("{}:{}: {}", file, line, reason));
-}
-
-/// A table of a description, with the file for its errors.
-class DescriptionTable {
-public:
-    DescriptionTable(const toml::table& table, const std::string& file) : table_(table), file_(file) {}
-
-    std::string text(std::string_view key) const { return value<std::string>(key, "a text").value_or(""); }
-    bool flag(std::string_view key, bool otherwise) const {
-        return value<bool>(key, "true or false").value_or(otherwise);
-    }
-    std::string required(std::string_view key) const {
-        auto found = text(key);
-        if (found.empty()) fail(table_, fmt::format("\"{}\" is missing", key));
-        return found;
-    }
-    std::vector<DescriptionTable> tables(std::string_view key) const {
-        std::vector<DescriptionTable> all;
-        for (const auto& one : array(key)) {
-            if (!one.is_table()) fail(one, fmt::format("\"{}\" is a list of tables", key));
-            all.emplace_back(*one.as_table(), file_);
-        }
-        return all;
-    }
-    std::vector<std::string> texts(std::string_view key) const {
-        std::vector<std::string> all;
-        for (const auto& one : array(key)) {
-            if (!one.is_string()) fail(one, fmt::format("\"{}\" is a list of texts", key));
-            all.push_back(one.as_string()->get());
-        }
-        return all;
-    }
-    fernwick::Variant variant(std::string_view key) const {
-        const auto* node = table_.get(key);
-        if (!node) return {};
-        if (const auto* text = node->as_string()) return text->get();
-        if (const auto* flag = node->as_boolean()) return flag->get();
-        if (const auto* real = node->as_floating_point()) return real->get();
-        if (const auto* number = node->as_integer()) return static_cast<std::int32_t>(number->get());
-        fail(*node, fmt::format("\"{}\" is a text, a number, true or false", key));
-    }
-    long number(std::string_view key) const { return long(value<std::int64_t>(key, "a number").value_or(0)); }
-    [[noreturn]] void fail(std::string_view reason) const { fail(table_, reason); }
-
-private:
-    template <class T>
-    std::optional<T> value(std::string_view key, std::string_view kind) const {
-        const auto* node = table_.get(key);
-        if (!node) return std::nullopt;
-        if (const auto found = node->value_exact<T>()) return found;
-        fail(*node, fmt::format("\"{}\" is {}", key, kind));
-    }
-    const toml::array& array(std::string_view key) const {
-        static const toml::array kNone;
-        const auto* node = table_.get(key);
-        if (node && !node->is_array()) fail(*node, fmt::format("\"{}\" is a list", key));
-        return node ? *node->as_array() : kNone;
-    }
-    [[noreturn]] void fail(const toml::node& at, std::string_view reason) const {
-        descriptionError(file_, at.source().begin.line, reason);
-    }
-
-    const toml::table& table_;
-    const std::string& file_;
-};
-
-toml::table parseDescription(const std::string& file) {
-    try {
-        return toml::parse(readFile(file).bytes, file);
-    } catch (const toml::parse_error& error) { descriptionError(file, error.source().begin.line, error.description()); }
-}
 
 TypeMember memberOf(const DescriptionTable& from) {
     TypeMember member;

@@ -1,5 +1,5 @@
 #pragma once
-// Type libraries: small description files that stand in a registered library's place.
+// Type libraries as small description files, which replace the registered libraries.
 #include "Add-in/platform/variant.h"
 #include <optional>
 #include <string>
@@ -13,16 +13,16 @@ struct TypeParameter {
     bool byRef = false;
 };
 
-/// A property, method or event. The type of a method without a result and of an event is "".
+/// A property, method or event. The type of events and of methods without a result is "".
 struct TypeMember {
     std::string name, type, help;
     std::vector<TypeParameter> parameters;
-    fernwick::Variant defaultValue; ///< Empty where there is none
-    bool readOnly = false;          ///< code can't set it
-    bool design = true;             ///< it can be set while the form is designed
+    fernwick::Variant defaultValue; ///< Empty if there is none
+    bool readOnly = false;          ///< cannot be set by code
+    bool design = true;             ///< can be set in the designer
 };
 
-/// A creatable class with the members of its groups in front of its own; a module has functions only.
+/// A creatable class with the members of its groups before its own. A module has only functions.
 struct TypeClass {
     std::string name, progId, clsid, category, help;
     std::vector<TypeMember> properties, methods, events;
@@ -45,14 +45,14 @@ struct TypeDescription {
     std::vector<TypeClass> modules;
 };
 
-/// The description of the library that is registered under `path`: the file of that name with the extension ".toml"
-/// (native path, letter case ignored where there is no exact match). "" where there is none.
+/// Returns the native path of the description of the library registered as `path`: the file of that name with the
+/// extension ".toml", found ignoring letter case if there is no exact match. "" if there is none.
 std::string descriptionFileOf(const std::string& path);
 
-/// Reads a description with its class files. Errors: 53 no such file; 321 for a faulty one, "file:line: reason".
+/// Reads a description with its class files. Errors: 53 no such file; 321 for an invalid one, "file:line: reason".
 TypeDescription readTypeDescription(const std::string& file);
 
-/// As above, of the library alone, without its classes and modules.
+/// As above, but without enumerations, classes and modules.
 TypeDescription readTypeDescriptionHead(const std::string& file);
 
 } // namespace host

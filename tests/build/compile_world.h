@@ -1,6 +1,5 @@
 #pragma once
 // The compile driver over a host in memory and a compiler that does what it is told.
-#include "Add-in/build/frmCompile.h"
 #include "messages_world.h"
 #include "tests/support/fake_compiler.h"
 
@@ -35,20 +34,9 @@ struct CompileWorld : MessagesWorld {
         trace.effects.clear();
         return compile.CompileProject(project);
     }
-    bool did(const std::string& what) const { return std::count(trace.effects.begin(), trace.effects.end(), what) > 0; }
 
-    fernwick::modAddinPrefsManagement prefs{registry2, errors};
-    fernwick::modDeviceManagement devices{classes, errors};
-    fernwick::modProjectTemplates templates{addIn, install, files, user, errors};
-    fernwick::ProjectServices services{errors, platform, install, addIn, devices, templates};
-    fernwick::modProjectHandler projects{services};
-    fernwick::modProcessControl steps{errors, platform};
-    fernwick::frmSaveProjectFiles saveFiles{user, addIn};
-    fernwick::modDependencyManagement dependencies{{platform, errors, install, messages, commands}};
     basic::Ref<FakeCompiler> compiler = basic::make<FakeCompiler>(trace);
     std::shared_ptr<void> compilerClass;
-    fernwick::frmCompile compile{
-        {platform, errors, registry2, install, projects, messages, dependencies, steps, saveFiles, commands}};
 };
 
 } // namespace test

@@ -34,7 +34,7 @@ protected:
     /// Scans the project, opened by the first call.
     std::vector<std::string> scan(fernwick::ProgressBar* bar = nullptr, fernwick::Label* label = nullptr) {
         if (!opened) opened = host.openFile(sample.writeTo(host.folder, "Demo"));
-        const auto qlProject = basic::make<fernwick::clsQLProject>(services);
+        const auto qlProject = basic::make<fernwick::clsQLProject>(diskServices);
         qlProject->VBProject(opened);
         return onDisk.ScanProjectForFontDependencies(qlProject, bar, label);
     }
@@ -49,8 +49,8 @@ protected:
     fernwick::Platform diskPlatform{user,      loop,  registry, disk,  processes, classes, environment,
                                     clipboard, shell, screen,   clock, resources, {}};
     fernwick::modQLInstallInfo diskInstall{registry2, disk};
-    fernwick::ProjectServices services{errors, diskPlatform, diskInstall, addIn, devices, templates};
-    fernwick::modDependencyManagement onDisk{{diskPlatform, errors, diskInstall, messages, commands}};
+    fernwick::ProjectServices diskServices{errors, diskPlatform, diskInstall, addIn, devices, templates};
+    fernwick::modDependencyManagement onDisk{{diskPlatform, errors, diskInstall, messages, menu}};
     test::SampleProject sample = test::SampleProject("Demo").handheld("PocketPC-ARM");
     basic::Ref<vbide::VBProject> opened;
 };

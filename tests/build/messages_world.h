@@ -1,10 +1,6 @@
 #pragma once
 // A message store over a host in memory, with the real window document.
-#include "Add-in/build/messages/modCompileErrorManagement.h"
-#include "Add-in/build/messages/udocCompileMsgs.h"
-#include "tests/support/host_commands.h"
-#include "tests/support/traced_host.h"
-#include "tests/support/traced_platform.h"
+#include "tests/support/add_in_world.h"
 
 namespace test {
 
@@ -67,9 +63,28 @@ struct FixedWidthFont : fernwick::DeviceContext {
     }
 };
 
-struct MessagesWorld : TracedPlatform {
+/// A platform whose shell, clipboard and pictures are the test's.
+struct MessagesPlatform : TracedPlatform {
+    StartedPrograms programs{trace};
+    CopiedTexts copied{trace};
+    TwoPictures pictures;
+    fernwick::Platform platform{user,
+                                loop,
+                                registry,
+                                files,
+                                processes,
+                                classes,
+                                environment,
+                                copied,
+                                programs,
+                                screen,
+                                clock,
+                                pictures,
+                                TracedPlatform::platform.app};
+};
+
+struct MessagesWorld : AddInWorld<MessagesPlatform> {
     MessagesWorld() {
-        addIn.gVBInstance = vbe;
         vbe->projects->list.push_back(project);
         vbe->active = project;
     }
@@ -87,22 +102,7 @@ struct MessagesWorld : TracedPlatform {
         return all;
     }
 
-    StartedPrograms programs{trace};
-    CopiedTexts copied{trace};
-    TwoPictures pictures;
-    fernwick::Platform desk{user,   loop,     registry, files, processes, classes, environment,
-                            copied, programs, screen,   clock, pictures,  {}};
-    fernwick::modRegistry2 registry2{registry};
-    fernwick::modQLInstallInfo install{registry2, files};
-    fernwick::AddIn addIn{registry2, errors, environment};
-    TracedCommands commands{trace};
-    fernwick::modViewConvertManagement tools{programs, install, errors};
-    basic::Ref<fernwick::udocCompileMsgs> window = basic::make<fernwick::udocCompileMsgs>(
-        fernwick::CompileMsgsServices{desk, errors, addIn, install, commands, tools});
-    basic::Ref<TracedVbe> vbe =
-        basic::make<TracedVbe>(trace, [this](const std::string&) { return basic::Ref<fernwick::Object>(window); });
     basic::Ref<TracedProject> project = basic::make<TracedProject>(trace, "Demo", "/p/Demo.vbp");
-    fernwick::modCompileErrorManagement messages{addIn, errors, platform};
 };
 
 } // namespace test

@@ -19,7 +19,7 @@ protected:
                               .writeTo(host.folder);
         if (opened) host.ide->VBProjects()->Remove(opened);
         opened = host.openFile(path);
-        const auto qlProject = basic::make<fernwick::clsQLProject>(services);
+        const auto qlProject = basic::make<fernwick::clsQLProject>(projectServices);
         qlProject->VBProject(opened);
         return validate.ScanForm(qlProject, opened->VBComponents()->Item(1), events);
     }

@@ -1,8 +1,6 @@
 #pragma once
 // The validator over a project in memory and design targets that know what a test says.
-#include "Add-in/build/frmValidate.h"
 #include "compile_world.h"
-#include "tests/support/fake_targets.h"
 #include "tests/support/traced_form.h"
 
 namespace test {
@@ -26,11 +24,6 @@ struct ValidateWorld : CompileWorld {
         projects.GetQLProject(project)->WriteComponentDependencies(modules);
     }
     std::string status() const { return window->lblStatusText(); }
-
-    FakeTargets targets{classes};
-    fernwick::modReferencesManagement references{registry2, classes, errors};
-    fernwick::DeviceServices deviceServices{errors, user, classes, registry2, prefs, references, devices};
-    fernwick::frmValidate validate{{platform, errors, registry2, install, services, deviceServices, messages, compile}};
 };
 
 } // namespace test

@@ -1,11 +1,12 @@
-"""What an install lays down works by itself."""
+"""The installed program works without the source tree."""
+import gzip
 import os
 import pathlib
 import shutil
 import subprocess
 import unittest
 
-from support import PROGRAM, Home
+from support import PROGRAM, VERSION, Home
 
 BUILD = pathlib.Path(os.environ.get("FERNWICK_BUILD", PROGRAM.parent.parent.parent))
 
@@ -19,8 +20,13 @@ class Install(unittest.TestCase):
             samples = prefix / "share/fernwick/VB Toolkit/Samples"
             self.assertFalse(samples.is_symlink())
             self.assertTrue((prefix / "share/fernwick/VB Toolkit/Bin/welcome.jpg").is_file())
-            self.assertTrue((prefix / "share/man/man1/fernwick.1").is_file())
-            self.assertTrue((prefix / "share/bash-completion/completions/fernwick").is_file())
+            for completion in ("bash-completion/completions/fernwick", "zsh/vendor-completions/_fernwick",
+                               "fish/vendor_completions.d/fernwick.fish"):
+                self.assertTrue((prefix / "share" / completion).is_file())
+            page = gzip.decompress((prefix / "share/man/man1/fernwick.1.gz").read_bytes()).decode()
+            self.assertIn(f"\n.Os Fernwick {VERSION}\n", page)
+            changes = gzip.decompress((prefix / "share/doc/fernwick/changelog.gz").read_bytes()).decode()
+            self.assertTrue(changes.startswith(f"fernwick ({VERSION}) "), changes)
 
             shutil.copytree(samples / "HelloWorld", home.work / "HelloWorld")
             target = prefix / "share/fernwick/targets/PalmOS-DragonBall.toml"

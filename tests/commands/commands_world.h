@@ -1,16 +1,10 @@
 #pragma once
 // The menu and the toolbars over bars in memory.
-#include "Add-in/commands/modClipboardManagement.h"
-#include "Add-in/commands/modMenuManagement.h"
-#include "Add-in/commands/modToolbarManagement.h"
-#include "tests/support/fake_targets.h"
-#include "tests/support/traced_bars.h"
-#include "tests/support/traced_host.h"
-#include "tests/support/traced_platform.h"
+#include "tests/support/add_in_world.h"
 
 namespace test {
 
-/// A clipboard whose formats keep their order. Another program may have it open.
+/// A clipboard that keeps the order of its formats. Another program may block it.
 class TracedClipboard : public fernwick::Clipboard {
 public:
     explicit TracedClipboard(Trace& trace) : trace_(trace) {}
@@ -39,7 +33,7 @@ public:
         if (told) trace_.effects.push_back("clipboard cleared");
         contents.clear();
     }
-    /// Whether the trace tells of it: a face takes three lines.
+    /// Whether changes are recorded: each face takes three lines.
     bool told = false;
 
 private:
@@ -50,7 +44,7 @@ private:
     Trace& trace_;
 };
 
-/// Pictures of one pixel in the mask colour, which tell their number in the byte behind it.
+/// Pictures of one pixel in the mask colour, followed by a byte with their number.
 struct OnePixel : fernwick::Resources {
     mutable std::vector<int> loaded;
     std::string LoadBitmap(int id) const override {
@@ -66,23 +60,33 @@ struct OnePixel : fernwick::Resources {
     }
 };
 
-struct CommandsWorld : TracedPlatform {
-    CommandsWorld() {
-        addIn.gVBInstance = vbe;
-        vbe->bars = bars;
-        const auto menuBar = bars->stand("Menu Bar");
-        bars->menuBar = menuBar;
-        menuBar->stand(30002, "&File");
-        menuBar->stand(30004, "&View");
-        menuBar->stand(30038, "&Add-Ins");
-        const auto file = bars->stand("File");
-        for (const auto* caption : {"New", "Open", "Save", "Remove"}) file->stand(100, caption);
-    }
+/// A platform with the test's own clipboard and pictures.
+struct CommandsPlatform : TracedPlatform {
+    TracedClipboard pasteboard{trace};
+    OnePixel pictures;
+    fernwick::Platform platform{user,
+                                loop,
+                                registry,
+                                files,
+                                processes,
+                                classes,
+                                environment,
+                                pasteboard,
+                                shell,
+                                screen,
+                                clock,
+                                pictures,
+                                TracedPlatform::platform.app};
+};
+
+/// The trace contains all effects on the bars.
+struct CommandsWorld : AddInWorld<CommandsPlatform> {
+    CommandsWorld() { vbe->bars = bars = hostBars(trace); }
     ~CommandsWorld() { EXPECT_EQ(registry.openKeys(), 0U) << "a registry key stayed open"; }
 
     Ref<TracedBar> menuBar() const { return bars->menuBar; }
-    /// The add-in's menu, or one of its popups.
-    Ref<TracedBar> menu(const std::string& popup = "") const {
+    /// Returns the add-in's menu, or one of its popups.
+    Ref<TracedBar> shownMenu(const std::string& popup = "") const {
         const Ref<TracedBar> main = menuBar()->at("Fernwick")->popup;
         return popup.empty() ? main : Ref<TracedBar>(main->at(popup)->popup);
     }
@@ -94,30 +98,15 @@ struct CommandsWorld : TracedPlatform {
     void addSample(const std::string& key, const std::string& name, const std::string& data) {
         registry.set(fernwick::HKEY_LOCAL_MACHINE, "SOFTWARE\\Quinloft\\VB Toolkit\\Samples" + key, name, data);
     }
-    /// What `act` does, in the trace.
+    /// Returns the effects of `act`.
     std::vector<std::string> effectsOf(const std::function<void()>& act) {
         trace.effects.clear();
         act();
         return trace.effects;
     }
-    bool build() { return menus.SetUpQuinloftMenu(vbe); }
+    bool build() { return menu.SetUpQuinloftMenu(vbe); }
 
-    TracedClipboard pasteboard{trace};
-    OnePixel pictures;
-    fernwick::Platform world{user,       loop,  registry, files, processes, classes,     environment,
-                             pasteboard, shell, screen,   clock, pictures,  platform.app};
-    Ref<TracedBars> bars = basic::make<TracedBars>(trace);
-    Ref<TracedVbe> vbe = basic::make<TracedVbe>(trace);
-    FakeTargets targets{classes};
-    fernwick::modRegistry2 registry2{registry};
-    fernwick::modAddinPrefsManagement prefs{registry2, errors};
-    fernwick::AddIn addIn{registry2, errors, environment};
-    fernwick::modDeviceManagement devices{classes, errors};
-    fernwick::CommandItems items;
-    fernwick::modImageManagement images{world};
-    fernwick::modMenuManagement menus{{user, errors, addIn, registry2, devices, images, items}};
-    fernwick::modToolbarManagement toolbars{{errors, addIn, prefs, images, items}};
-    fernwick::modClipboardManagement clips{pasteboard, errors};
+    fernwick::modClipboardManagement& clips = Modules::clipboard;
 };
 
 } // namespace test

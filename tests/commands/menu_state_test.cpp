@@ -1,4 +1,4 @@
-// The menu with a project of ours and without one, its end, the design target's item and the importer's.
+// The menu with and without a project, its removal, the design target's item and the importer's.
 #include "commands_world.h"
 
 using testing::ElementsAre;
@@ -14,15 +14,15 @@ protected:
         trace.effects.clear();
     }
     std::vector<std::string> enabled() {
-        return effectsOf([&] { menus.EnableQuinloftMenu(); });
+        return effectsOf([&] { menu.EnableQuinloftMenu(); });
     }
     std::vector<std::string> disabled() {
-        return effectsOf([&] { menus.DisableQuinloftMenu(); });
+        return effectsOf([&] { menu.DisableQuinloftMenu(); });
     }
     std::vector<std::string> removed() {
-        return effectsOf([&] { menus.RemoveQuinloftMenu(); });
+        return effectsOf([&] { menu.RemoveQuinloftMenu(); });
     }
-    /// Each call of `act` that fails costs its own effect and nothing else. Gives how many calls there were.
+    /// Each failing call of `act` loses its own effect only. Returns the number of calls.
     int sweep(const std::function<void()>& again, const std::function<std::vector<std::string>()>& act, int reports) {
         again();
         const auto before = act();
@@ -39,12 +39,12 @@ protected:
         }
     }
     void rebuild() {
-        menus.RemoveQuinloftMenu();
+        menu.RemoveQuinloftMenu();
         build();
     }
 };
 
-TEST_F(MenuState, EnablingGoesInItsOrderAndLeavesTheLastInstallItem) {
+TEST_F(MenuState, EnablesInOrderExceptTheLastInstallItem) {
     EXPECT_THAT(
         enabled(),
         ElementsAre("Compile and Validate: enabled", "To My Devices: enabled", "Save Project Package...: enabled",
@@ -57,7 +57,7 @@ TEST_F(MenuState, EnablingGoesInItsOrderAndLeavesTheLastInstallItem) {
                     "Palm-1: enabled", "Pocket-1: enabled", "Palm-1: enabled"));
 }
 
-TEST_F(MenuState, DisablingLeavesWhatNeedsNoProject) {
+TEST_F(MenuState, DisablesOnlyWhatNeedsAProject) {
     EXPECT_THAT(disabled(),
                 ElementsAre("Compile and Validate: disabled", "To My Devices: disabled",
                             "Save Project Package...: disabled", "To My Devices: disabled",
@@ -72,7 +72,7 @@ TEST_F(MenuState, WithoutUsableTargetsTheDeviceItemsStay) {
     EXPECT_EQ(disabled().back(), "Fernwick Messages Window: disabled");
 }
 
-TEST_F(MenuState, RemovingTakesTheDevicesFirstAndTheMenuLast) {
+TEST_F(MenuState, RemovesTheDevicesFirstAndTheMenuLast) {
     EXPECT_THAT(removed(),
                 ElementsAre("Palm-1: deleted", "Pocket-1: deleted", "Palm-1: deleted", "Pocket-1: deleted",
                             "Palm-1: deleted", "Pocket-1: deleted", "Compile and Validate: deleted",
@@ -84,7 +84,7 @@ TEST_F(MenuState, RemovingTakesTheDevicesFirstAndTheMenuLast) {
     EXPECT_FALSE(menuBar()->at("Fernwick"));
 }
 
-TEST_F(MenuState, WhatIsGoneAlreadyIsNoHindrance) {
+TEST_F(MenuState, IgnoresDeletedItems) {
     items.gSettingsItem->Delete();
     items.gDeployItems[0]->Delete();
     EXPECT_THAT(disabled(), testing::Contains("Zoom Window: disabled"));
@@ -97,8 +97,8 @@ TEST_F(MenuState, WithoutAMenuNothingHappens) {
     EXPECT_THAT(enabled(), IsEmpty());
     EXPECT_THAT(disabled(), IsEmpty());
     EXPECT_THAT(removed(), IsEmpty());
-    menus.SetupDefaultTargetName("Palm-1");
-    EXPECT_FALSE(menus.FindConverterMenuItem());
+    menu.SetupDefaultTargetName("Palm-1");
+    EXPECT_FALSE(menu.FindConverterMenuItem());
     EXPECT_THAT(errors.seen, IsEmpty());
 }
 
@@ -119,15 +119,15 @@ TEST_F(MenuState, EachCallOfRemovingThatFailsIsIgnored) {
 
 TEST_F(MenuState, OnlyTheOwnTargetShowsItsFace) {
     toolbars.SetupQuinloftToolbar();
-    EXPECT_THAT(effectsOf([&] { menus.SetupDefaultTargetName("Pocket-1"); }),
+    EXPECT_THAT(effectsOf([&] { menu.SetupDefaultTargetName("Pocket-1"); }),
                 ElementsAre("Palm-1: style 2", "Pocket-1: style 3", "?: tip Deploy to &Pocket-1"));
-    EXPECT_THAT(effectsOf([&] { menus.SetupDefaultTargetName("gone"); }),
+    EXPECT_THAT(effectsOf([&] { menu.SetupDefaultTargetName("gone"); }),
                 ElementsAre("Palm-1: style 2", "Pocket-1: style 2", "?: tip Deploy to "));
 }
 
 TEST_F(MenuState, EachCallOfTheOwnTargetThatFailsIsReported) {
     toolbars.SetupQuinloftToolbar();
-    sweep([] {}, [&] { return effectsOf([&] { menus.SetupDefaultTargetName("Pocket-1"); }); }, 1);
+    sweep([] {}, [&] { return effectsOf([&] { menu.SetupDefaultTargetName("Pocket-1"); }); }, 1);
     EXPECT_EQ(errors.seen.back(), "modMenuManagement.SetupDefaultTargetName [50000]");
 }
 
@@ -135,22 +135,22 @@ TEST_F(MenuState, TheImportersItemIsTheLastThatMatches) {
     const auto add = [&](const std::string& caption) {
         return fernwick::modMenuManagement::AddToAddInCommandBar(items.gUtilitiesPopup, caption);
     };
-    EXPECT_FALSE(menus.FindConverterMenuItem());
+    EXPECT_FALSE(menu.FindConverterMenuItem());
     add("The Fernwick Project Converter...");
     const auto last = add("Fernwick Project Converter");
     add("fernwick project converter");
-    EXPECT_EQ(menus.FindConverterMenuItem(), last);
+    EXPECT_EQ(menu.FindConverterMenuItem(), last);
     EXPECT_EQ(items.gConverterItem, last);
     last->Caption("other");
-    menu("Quinloft Utilities")->items.clear();
-    EXPECT_EQ(menus.FindConverterMenuItem(), last); // it stays as it was
+    shownMenu("Quinloft Utilities")->items.clear();
+    EXPECT_EQ(menu.FindConverterMenuItem(), last); // unchanged
 }
 
 TEST_F(MenuState, AnImporterThatCantBeLookedUpIsReported) {
     items.gUtilitiesPopup->Delete();
     trace.calls = 0;
     trace.failing = 1;
-    EXPECT_FALSE(menus.FindConverterMenuItem());
+    EXPECT_FALSE(menu.FindConverterMenuItem());
     EXPECT_THAT(errors.seen, ElementsAre("modMenuManagement.FindConverterMenuItem [50000]"));
 }
 

@@ -1,19 +1,18 @@
 #pragma once
-// The add-in connected to a host in memory, with the interface above it told in the trace.
-#include "Add-in/core/connect/Connect.h"
+// The add-in and a host in memory that connects it.
 #include "tests/lifecycle/lifecycle_world.h"
 
 namespace test {
 
-struct ConnectWorld : LifecycleWorld {
+struct ConnectWorld : ProjectsWorld {
     ConnectWorld() {
         messages.killToolWindow();
         registry.set(fernwick::HKEY_LOCAL_MACHINE, "SOFTWARE\\Quinloft\\AddinPrefs", "StartTutorial", "False");
         trace.effects.clear();
     }
-    /// A project that the host has open and the add-in has not met.
+    /// Opens a project in the host that the add-in does not know.
     Ref<TracedProject> open(const std::string& name, const std::string& device = "") {
-        const auto project = LifecycleWorld::open(name, device);
+        const auto project = ProjectsWorld::open(name, device);
         projects.ClearProjectsList();
         return project;
     }
@@ -21,40 +20,35 @@ struct ConnectWorld : LifecycleWorld {
         trace.effects.clear();
         connection->IDTExtensibility_OnConnection(vbe, mode, self);
     }
+    /// Gives the host fresh bars, without those of an earlier connection.
+    void startHostAnew() {
+        vbe->bars = bars = hostBars(barTrace);
+        items = {};
+    }
     Ref<TracedAddIn> sibling(const std::string& progId, bool connected) {
         vbe->addins->list.push_back(basic::make<TracedAddIn>(trace, progId, connected));
         return vbe->addins->list.back();
     }
     Ref<TracedControl> item(const std::string& name) { return basic::make<TracedControl>(trace, name); }
-    /// What the sinks were assigned, in the order of their assignment.
-    std::vector<std::string> sinks() const {
-        std::vector<std::string> all;
-        for (const auto& effect : trace.effects)
-            if (effect.starts_with("sink: ")) all.push_back(effect.substr(6));
+    /// Sources assigned to sinks of projects, files and builds, in order.
+    std::vector<std::string> sinks() const { return effectsAfter("sink: ", steps()); }
+    /// Items whose sources were assigned to sinks, in order.
+    std::vector<std::string> itemSinks() const { return effectsAfter("sink: item ", trace.effects); }
+    /// All effects except the assignments of items' sinks.
+    std::vector<std::string> steps() const {
+        auto all = trace.effects;
+        std::erase_if(all, [](const std::string& effect) { return effect.starts_with("sink: item "); });
         return all;
     }
+    static std::vector<std::string> effectsAfter(const std::string& beginning, const std::vector<std::string>& all) {
+        std::vector<std::string> some;
+        for (const auto& effect : all)
+            if (effect.starts_with(beginning)) some.push_back(effect.substr(beginning.size()));
+        return some;
+    }
 
-    fernwick::CommandItems items;
+    fernwick::Connect* connection = &this->Modules::connect;
     Ref<TracedAddIn> self = vbe->addins->list.front();
-    fernwick::modDependencyManagement dependencies{{platform, errors, install, messages, commands}};
-    fernwick::modProcessControl steps{errors, platform};
-    fernwick::frmSaveProjectFiles saveFiles{user, addIn};
-    fernwick::frmCompileWarning compileWarning{user, prefs, errors};
-    fernwick::frmCompile compile{
-        {platform, errors, registry2, install, projects, messages, dependencies, steps, saveFiles, commands}};
-    fernwick::frmValidate validate{{platform, errors, registry2, install, services, deviceServices, messages, compile}};
-    fernwick::PipeServices pipes{platform, errors, install, devices};
-    fernwick::frmSendToDevice send{
-        pipes, {addIn, prefs, projects, messages, dependencies, compile, compileWarning, validate, commands}};
-    fernwick::frmSendRuntimeToDevice sendRuntime{pipes};
-    fernwick::modViewConvertManagement tools{shell, install, errors};
-    fernwick::modHelpManagement help{platform, install, errors};
-    fernwick::frmAbout about{platform, errors};
-    fernwick::SampleOpening samples{{platform, errors, addIn, save, commands}};
-    Ref<fernwick::Connect> connection = basic::make<fernwick::Connect>(
-        fernwick::ConnectServices{platform, errors,   prefs,       addIn,   references, devices,  deviceServices,
-                                  items,    projects, messages,    removal, setup,      commands, install,
-                                  compile,  send,     sendRuntime, tools,   help,       about,    samples});
 };
 
 } // namespace test

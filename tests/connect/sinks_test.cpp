@@ -1,4 +1,4 @@
-// Which sink hears which item.
+// The sinks of items.
 #include "connect_world.h"
 
 using testing::ElementsAre;
@@ -35,7 +35,7 @@ protected:
     std::vector<std::string> wired() {
         trace.effects.clear();
         connection->SetupMenuHandlers(vbe);
-        return sinks();
+        return itemSinks();
     }
 };
 
@@ -46,11 +46,9 @@ TEST_F(Sinks, OfTheMenuAreAssignedInOrder) {
     items.gDeployItems = devicesItems("deploy", 2);
     items.gInstallItems = devicesItems("install", 1);
     EXPECT_THAT(wired(),
-                ElementsAre("item settings", "item compile", "item open", "item package all", "item deploy all",
-                            "item install all", "item package0", "item package1", "item deploy0", "item deploy1",
-                            "item download", "item install0", "item database converter", "item weirgate", "item intro",
-                            "item hello", "item directory", "item web", "item guide", "item about", "item zoom",
-                            "item messages"));
+                ElementsAre("settings", "compile", "open", "package all", "deploy all", "install all", "package0",
+                            "package1", "deploy0", "deploy1", "download", "install0", "database converter", "weirgate",
+                            "intro", "hello", "directory", "web", "guide", "about", "zoom", "messages"));
     EXPECT_TRUE(bool(connection->DeployDevice[1]));
     EXPECT_FALSE(bool(connection->DeployDevice[2]));
     EXPECT_FALSE(bool(connection->DeployPalmOSHandler));
@@ -60,10 +58,9 @@ TEST_F(Sinks, WithoutTargetsTheDeviceItemsHaveNone) {
     standMenu();
     items.gPackageItems = devicesItems("package", 2);
     items.gInstallItems = devicesItems("install", 2);
-    EXPECT_THAT(wired(),
-                ElementsAre("item settings", "item compile", "item open", "item package all", "item deploy all",
-                            "item install all", "item database converter", "item weirgate", "item intro", "item hello",
-                            "item directory", "item web", "item guide", "item about", "item zoom", "item messages"));
+    EXPECT_THAT(wired(), ElementsAre("settings", "compile", "open", "package all", "deploy all", "install all",
+                                     "database converter", "weirgate", "intro", "hello", "directory", "web", "guide",
+                                     "about", "zoom", "messages"));
 }
 
 TEST_F(Sinks, AnEleventhDeviceHasNone) {
@@ -81,7 +78,7 @@ TEST_F(Sinks, ThePackageItemsDecideOnTheDeploySlots) {
     items.gPackageItems = devicesItems("p", 3);
     items.gPackageItems[1] = nullptr;
     items.gDeployItems = devicesItems("d", 2);
-    EXPECT_THAT(wired(), ElementsAre("item p0", "item p2", "item d0"));
+    EXPECT_THAT(wired(), ElementsAre("p0", "p2", "d0"));
     EXPECT_THAT(errors.seen, ElementsAre("Connect.SetupMenuHandlers [9]")); // there is no third deploy item
 }
 
@@ -96,12 +93,12 @@ TEST_F(Sinks, AFailedAssignmentLeavesTheOthers) {
     EXPECT_TRUE(bool(connection->CompileProjectHandler));
 }
 
-TEST_F(Sinks, SamplesCarryTheirOwn) {
+TEST_F(Sinks, OfSamplesBelongToTheSamples) {
     const auto popup = basic::make<fernwick::clsSampleMenuItem>(), sample = basic::make<fernwick::clsSampleMenuItem>();
     popup->popupMenu = true;
     sample->myOfficeCommandBar = item("address book");
     items.gSampleItems = {0, {popup, sample}};
-    EXPECT_THAT(wired(), ElementsAre("item address book"));
+    EXPECT_THAT(wired(), ElementsAre("address book"));
     int opened = 0;
     const auto heard = sample->picked.connect([&](fernwick::clsSampleMenuItem& picked) {
         EXPECT_EQ(&picked, sample.shared().get());
@@ -112,28 +109,21 @@ TEST_F(Sinks, SamplesCarryTheirOwn) {
     EXPECT_EQ(opened, 1);
 }
 
-TEST_F(Sinks, OfTheToolbarsAreAssignedInOrder) {
-    items.gToolSettings = item("settings");
-    items.gToolCompile = item("compile");
-    items.gToolDeploy = item("deploy");
-    items.gToolGuide = item("guide");
-    items.gToolZoom = item("zoom");
-    items.gToolOpenProject = item("open");
-    items.gToolDatabaseConverter = item("db converter");
-    items.gToolDatabaseViewer = item("db viewer");
-    items.gToolFontConverter = item("font converter");
-    items.gToolFontViewer = item("font viewer");
-    items.gToolGraphicsConverter = item("graphics converter");
-    items.gToolGraphicsViewer = item("graphics viewer");
-    items.gToolMovieConverter = item("movie converter");
-    items.gToolMovieViewer = item("movie viewer");
-    items.gToolWGConfig = item("configuration");
+TEST_F(Sinks, OfTheMenuPrecedeThoseOfTheToolbars) {
     connect();
-    EXPECT_THAT(sinks(),
-                ElementsAre("build", "projects", "all files", "item settings", "item compile", "item deploy",
-                            "item guide", "item zoom", "item open", "item db converter", "item db viewer",
-                            "item font converter", "item font viewer", "item graphics converter",
-                            "item graphics viewer", "item movie converter", "item movie viewer", "item configuration"));
+    EXPECT_THAT(itemSinks(),
+                ElementsAre("Fernwick &Settings...", "Compile and &Validate", "&Open Fernwick Project...",
+                            "&To My Devices", "&To My Devices", "&To My Devices", "&Database Converter",
+                            "&PDB Database Viewer", "&Font Converter", "F&ont Viewer", "&Graphic Converter",
+                            "G&raphic Viewer", "&Movie Converter", "Mo&vie Viewer", "&Weirgate Configuration",
+                            "Introduction to Fernwick", "Hello World Tutorial", "Open samples directory",
+                            "Quinloft on the &Web...", "Fernwick User's &Guide...", "&About Fernwick...",
+                            "&Zoom Window", "Fernwick &Messages Window", // the toolbars follow
+                            "Fernwick Settings", "Compile and Validate", "Deploy to Device", "Fernwick User's Guide",
+                            "Zoom Level", "Open Fernwick Project", "&Database Converter", "&PDB Database Viewer",
+                            "&Font Converter", "F&ont Viewer", "&Graphic Converter", "G&raphic Viewer",
+                            "&Movie Converter", "Mo&vie Viewer", "&Weirgate Configuration"));
+    EXPECT_THAT(sinks(), ElementsAre("build", "projects", "all files"));
 }
 
 } // namespace

@@ -1,14 +1,11 @@
 #pragma once
 // The modules of the core over a registry in memory.
-#include "Add-in/core/AddIn.h"
-#include "Add-in/core/modAddinPrefsManagement.h"
-#include "Add-in/core/modReferencesManagement.h"
-#include "tests/support/traced_platform.h"
+#include "tests/support/add_in_world.h"
 #include <set>
 
 namespace test {
 
-/// A registry of which whole roots can't be written.
+/// A registry in which whole roots are read-only.
 class GuardedRegistry : public MemoryRegistry {
 public:
     std::set<std::uint32_t> readOnlyRoots;
@@ -25,7 +22,24 @@ public:
     }
 };
 
-class CoreTest : public ::testing::Test {
+struct GuardedPlatform : TracedPlatform {
+    GuardedRegistry store;
+    fernwick::Platform platform{user,
+                                loop,
+                                store,
+                                files,
+                                processes,
+                                classes,
+                                environment,
+                                clipboard,
+                                shell,
+                                screen,
+                                clock,
+                                resources,
+                                TracedPlatform::platform.app};
+};
+
+class CoreTest : public ::testing::Test, protected AddInWorld<GuardedPlatform> {
 protected:
     static constexpr auto kUser = fernwick::HKEY_CURRENT_USER;
     static constexpr auto kMachine = fernwick::HKEY_LOCAL_MACHINE;
@@ -52,11 +66,7 @@ protected:
         return value.ok() ? std::to_string(value.type) + ":" + value.text : "";
     }
 
-    TracedPlatform world;
-    GuardedRegistry store;
-    fernwick::modRegistry2 registry{store};
-    fernwick::modAddinPrefsManagement prefs{registry, world.errors};
-    fernwick::AddIn addIn{registry, world.errors, world.environment};
+    fernwick::modRegistry2& registry = Modules::registry;
 };
 
 } // namespace test

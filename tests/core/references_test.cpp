@@ -5,7 +5,7 @@ using namespace fernwick;
 namespace {
 struct QuinloftControls : test::CoreTest {
     static constexpr const char* kClasses = "SOFTWARE\\Quinloft\\Classes\\";
-    modReferencesManagement references{registry, world.classes, world.errors};
+    modReferencesManagement references{registry, classes, errors};
 };
 } // namespace
 
@@ -18,7 +18,7 @@ TEST_F(QuinloftControls, AreListedInTheRegistry) {
     EXPECT_FALSE(references.IsQuinloftControl("Tavlets.QLNone"));
     EXPECT_FALSE(references.IsQuinloftControl("VB.TextBox"));
     EXPECT_EQ(references.gQuinloftClasses.Item("Tavlets.QLLabel"), "Tavlets.QLLabel");
-    EXPECT_TRUE(world.errors.seen.empty());
+    EXPECT_TRUE(errors.seen.empty());
 }
 
 TEST_F(QuinloftControls, NoneWithoutTheKey) {
@@ -26,4 +26,4 @@ TEST_F(QuinloftControls, NoneWithoutTheKey) {
     EXPECT_EQ(references.gQuinloftClasses.Count(), 0);
 }
 
-TEST_F(QuinloftControls, NoProgIdForATextThatIsNoClass) { EXPECT_EQ(references.GetProgID("Tavlets.QLLabel"), ""); }
+TEST_F(QuinloftControls, HaveNoProgIdForAnInvalidClass) { EXPECT_EQ(references.GetProgID("Tavlets.QLLabel"), ""); }

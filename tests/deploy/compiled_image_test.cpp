@@ -5,7 +5,7 @@ namespace {
 
 class CompiledImage : public testing::Test, protected test::DeployWorld {
 protected:
-    bool isCurrent() { return send.IsCompiledImageCurrent(qlProject); }
+    bool isCurrent() { return sendToDevice.IsCompiledImageCurrent(qlProject); }
     /// Module1's time from that of the image, in nanoseconds.
     void setModule1(std::int64_t later) { setTime("Module1.bas", timeOf("Foo.0000.qlx") + later); }
 };
@@ -74,9 +74,9 @@ TEST_F(CompiledImage, TheShortNameCountsBeforeTheLongOne) {
 
 TEST_F(CompiledImage, WhatTheCompilerWrites) {
     for (const char* file : {"Foo.0000.qlx", "FOO.0001.RPP", "foo.rsp", "Foo..qlx", "Foo.a.b.rpp"})
-        EXPECT_TRUE(send.IsCompilerFile(file, "Foo")) << file;
+        EXPECT_TRUE(sendToDevice.IsCompilerFile(file, "Foo")) << file;
     for (const char* file : {"Foo.qlx", "Foo2.0000.qlx", "Foo.rpp", "Foo.0000.rsp", "Foo.0000.qlx.bak", "Foo", ""})
-        EXPECT_FALSE(send.IsCompilerFile(file, "Foo")) << file;
+        EXPECT_FALSE(sendToDevice.IsCompilerFile(file, "Foo")) << file;
 }
 
 } // namespace

@@ -1,15 +1,10 @@
 #pragma once
 // Projects on disk and devices that do what a test tells them.
-#include "Add-in/build/messages/udocCompileMsgs.h"
-#include "Add-in/deploy/frmSendRuntimeToDevice.h"
-#include "Add-in/deploy/frmSendToDevice.h"
 #include "Host/system/file_system.h"
 #include "fake_pipe.h"
+#include "tests/support/add_in_world.h"
 #include "tests/support/fake_compiler.h"
-#include "tests/support/fake_targets.h"
-#include "tests/support/host_commands.h"
 #include "tests/support/temp_folder.h"
-#include "tests/support/traced_platform.h"
 
 namespace test {
 
@@ -50,28 +45,6 @@ private:
     Trace& trace_;
 };
 
-/// A host whose templates lie in a folder that is there.
-class DiskVbe : public TracedVbe {
-public:
-    DiskVbe(Trace& trace, std::string templates, std::function<Ref<fernwick::Object>(const std::string&)> create)
-        : TracedVbe(trace, std::move(create)), templates_(std::move(templates)) {}
-    std::string TemplatePath() const override { return templates_; }
-
-private:
-    std::string templates_;
-};
-
-/// Lets the user do something in the settings.
-class SettingsCommands : public TracedCommands {
-public:
-    using TracedCommands::TracedCommands;
-    std::function<void()> inSettings;
-    void ShowQuinloftSettings(const Ref<vbide::VBProject>& project, const std::string& page, bool scan) override {
-        TracedCommands::ShowQuinloftSettings(project, page, scan);
-        if (inSettings) inSettings();
-    }
-};
-
 /// Tells in the trace what the form shows.
 inline std::vector<fernwick::Subscription> watchForm(Trace& trace, fernwick::PipeForm& form) {
     const auto tell = [&trace](const std::string& what) {
@@ -89,8 +62,8 @@ inline std::vector<fernwick::Subscription> watchForm(Trace& trace, fernwick::Pip
 }
 
 /// A platform whose files are on disk.
-struct DeployPlatform : TracedPlatform {
-    DeployPlatform() {
+struct DiskPlatform : TracedPlatform {
+    DiskPlatform() {
         registry.set(fernwick::HKEY_LOCAL_MACHINE, "Software\\Quinloft", "RootDir", folder / "install");
         folder.write("install/VB Toolkit/Bin/qldefault.ico", "icon");
         folder.write("install/Fonts/Ari_08B.CMF", "font");
@@ -99,21 +72,31 @@ struct DeployPlatform : TracedPlatform {
     }
     TempFolder folder;
     TracedHostFiles disk{trace};
-    fernwick::Platform onDisk{user,      loop,  registry, disk,  processes, classes,     environment,
-                              clipboard, shell, screen,   clock, resources, platform.app};
-    FakeTargets targets{classes};
+    fernwick::Platform platform{user,
+                                loop,
+                                registry,
+                                disk,
+                                processes,
+                                classes,
+                                environment,
+                                clipboard,
+                                shell,
+                                screen,
+                                clock,
+                                resources,
+                                TracedPlatform::platform.app};
+};
+
+/// The add-in over files on disk, and the devices of one family.
+struct PipesWorld : AddInWorld<DiskPlatform> {
+    PipesWorld() { vbe->templatePath = folder / "Template"; }
     FakePipeFamily family{trace, classes};
-    fernwick::modRegistry2 registry2{registry};
-    fernwick::modQLInstallInfo install{registry2, disk};
-    fernwick::modDeviceManagement devices{classes, errors};
-    fernwick::PipeServices pipes{onDisk, errors, install, devices};
 };
 
 /// The driver around one project, Foo, that was compiled and whose device is Palm.
-struct DeployWorld : DeployPlatform {
+struct DeployWorld : PipesWorld {
     DeployWorld() {
         targets.known = {"Palm"};
-        addIn.gVBInstance = vbe;
         vbe->projects->list.push_back(project);
         vbe->active = project;
         for (const auto& [key, value] : std::map<std::string, std::string>{{"IsQuinloftProject", "True"},
@@ -129,7 +112,7 @@ struct DeployWorld : DeployPlatform {
         messages.createToolWindow();
         compilerClass = classes.RegisterClass("QLToolkit.CompilerFactory",
                                               [this] { return basic::make<FakeCompilerFactory>(compiler); });
-        watches = watchForm(trace, send);
+        watches = watchForm(trace, sendToDevice);
         watches.push_back(window->lblStatusText.watch(
             [this](const std::string& text) { trace.effects.push_back("status: " + text); }));
         trace.effects.clear();
@@ -161,9 +144,8 @@ struct DeployWorld : DeployPlatform {
     void package() { run(true); }
     void run(bool makePackage) {
         trace.effects.clear();
-        send.SendProjectToDevice(qlProject, makePackage, "Palm");
+        sendToDevice.SendProjectToDevice(qlProject, makePackage, "Palm");
     }
-    bool did(const std::string& what) const { return std::count(trace.effects.begin(), trace.effects.end(), what) > 0; }
     /// The texts of the status bar.
     std::vector<std::string> lines() const { return effectsOf("line: "); }
     std::vector<std::string> boxes() const { return effectsOf("box "); }
@@ -180,33 +162,10 @@ struct DeployWorld : DeployPlatform {
         return disk.host::FileSystem::Files(disk.GetSpecialFolder(fernwick::TemporaryFolder));
     }
     /// Whether a run left nothing behind.
-    bool isClean() const { return !send.isLoaded() && family.holders() == 0 && temporaryFiles().empty(); }
+    bool isClean() const { return !sendToDevice.isLoaded() && family.holders() == 0 && temporaryFiles().empty(); }
 
-    fernwick::modAddinPrefsManagement prefs{registry2, errors};
-    fernwick::AddIn addIn{registry2, errors, environment};
-    fernwick::modReferencesManagement references{registry2, classes, errors};
-    fernwick::DeviceServices deviceServices{errors, user, classes, registry2, prefs, references, devices};
-    SettingsCommands commands{trace};
-    fernwick::modViewConvertManagement tools{shell, install, errors};
-    Ref<fernwick::udocCompileMsgs> window = basic::make<fernwick::udocCompileMsgs>(
-        fernwick::CompileMsgsServices{onDisk, errors, addIn, install, commands, tools});
-    Ref<DiskVbe> vbe = basic::make<DiskVbe>(trace, folder / "Template",
-                                            [this](const std::string&) { return Ref<fernwick::Object>(window); });
     Ref<TracedProject> project = basic::make<TracedProject>(trace, "Foo", folder / "Foo/Foo.vbp");
-    fernwick::modProjectTemplates templates{addIn, install, disk, user, errors};
-    fernwick::ProjectServices services{errors, onDisk, install, addIn, devices, templates};
-    fernwick::modProjectHandler projects{services};
-    fernwick::modCompileErrorManagement messages{addIn, errors, onDisk};
-    fernwick::modDependencyManagement dependencies{{onDisk, errors, install, messages, commands}};
-    fernwick::modProcessControl steps{errors, onDisk};
-    fernwick::frmSaveProjectFiles saveFiles{user, addIn};
-    fernwick::frmCompileWarning compileWarning{user, prefs, errors};
     Ref<FakeCompiler> compiler = basic::make<FakeCompiler>(trace);
-    fernwick::frmCompile compile{
-        {onDisk, errors, registry2, install, projects, messages, dependencies, steps, saveFiles, commands}};
-    fernwick::frmValidate validate{{onDisk, errors, registry2, install, services, deviceServices, messages, compile}};
-    fernwick::frmSendToDevice send{
-        pipes, {addIn, prefs, projects, messages, dependencies, compile, compileWarning, validate, commands}};
     Ref<fernwick::clsQLProject> qlProject;
     std::string image;
 

@@ -125,7 +125,7 @@ TEST_F(PackageContents, WhatIsMissingIsLeftOutWhereTheUserAgrees) {
     EXPECT_THAT(questions(), ElementsAre(question("Dependency", "a.pdb"), question("Dependency", "b.prc"),
                                          question("Font", "c.CMF")));
     EXPECT_THAT(family.resources, ElementsAre("Foo.rsp"));
-    EXPECT_EQ(send.LastResult(), true);
+    EXPECT_EQ(sendToDevice.LastResult(), true);
 }
 
 TEST_F(PackageContents, TheFirstNoEndsTheQuestions) {
@@ -143,7 +143,7 @@ TEST_F(PackageContents, TheFirstNoEndsTheQuestions) {
         gather();
         EXPECT_EQ(questions(), asked[yes]);
         EXPECT_TRUE(did("line: Missing executable files, please compile project."));
-        EXPECT_EQ(send.LastResult(), std::nullopt);
+        EXPECT_EQ(sendToDevice.LastResult(), std::nullopt);
     }
 }
 

@@ -50,7 +50,7 @@ TEST_F(SendDriver, ACurrentImageIsOnlyValidated) {
     EXPECT_EQ(trace.effects.front(), "status: Compiling and validating...");
     EXPECT_EQ(stored("NumErrors"), "0");
     EXPECT_EQ(status(), "SUCCESS - Compile and validate completed successfully.");
-    EXPECT_EQ(send.LastResult(), true);
+    EXPECT_EQ(sendToDevice.LastResult(), true);
 }
 
 TEST_F(SendDriver, WhatIsNotValidIsNotSent) {
@@ -58,14 +58,14 @@ TEST_F(SendDriver, WhatIsNotValidIsNotSent) {
     deploy();
     EXPECT_THAT(forms(), ElementsAre("frmValidate"));
     EXPECT_THAT(boxes(), IsEmpty());
-    EXPECT_EQ(send.LastResult(), std::nullopt);
+    EXPECT_EQ(sendToDevice.LastResult(), std::nullopt);
 }
 
 TEST_F(SendDriver, AStaleImageIsCompiledAndValidatedWithoutAQuestionWhereNoneIsWanted) {
     makeStale();
     deploy();
     EXPECT_THAT(forms(), ElementsAre("frmCompile", "frmValidate", "frmSendToDevice"));
-    EXPECT_EQ(send.LastResult(), true);
+    EXPECT_EQ(sendToDevice.LastResult(), true);
 }
 
 TEST_F(SendDriver, AfterTheQuestionItIsCompiledAndValidated) {
@@ -74,7 +74,7 @@ TEST_F(SendDriver, AfterTheQuestionItIsCompiledAndValidated) {
     EXPECT_THAT(forms(), ElementsAre("frmCompileWarning", "frmCompile", "frmValidate", "frmSendToDevice"));
     EXPECT_TRUE(did("beep 32"));
     EXPECT_FALSE(compileWarning.isLoaded());
-    EXPECT_EQ(send.LastResult(), true);
+    EXPECT_EQ(sendToDevice.LastResult(), true);
 }
 
 TEST_F(SendDriver, TheTickKeepsTheQuestionFromComingBack) {
@@ -92,7 +92,7 @@ TEST_F(SendDriver, ACompileThatFailsEndsIt) {
     deploy();
     EXPECT_THAT(forms(), ElementsAre("frmCompile"));
     EXPECT_THAT(boxes(), ElementsAre(kCompileFailed));
-    EXPECT_EQ(send.LastResult(), std::nullopt);
+    EXPECT_EQ(sendToDevice.LastResult(), std::nullopt);
 }
 
 TEST_F(SendDriver, AValidationThatFailsAfterTheCompileEndsIt) {
@@ -100,7 +100,7 @@ TEST_F(SendDriver, AValidationThatFailsAfterTheCompileEndsIt) {
     makeInvalid();
     deploy();
     EXPECT_THAT(forms(), ElementsAre("frmCompile", "frmValidate"));
-    EXPECT_EQ(send.LastResult(), std::nullopt);
+    EXPECT_EQ(sendToDevice.LastResult(), std::nullopt);
 }
 
 TEST_F(SendDriver, TheOldImageIsSentWithoutValidation) {
@@ -109,7 +109,7 @@ TEST_F(SendDriver, TheOldImageIsSentWithoutValidation) {
     deploy();
     EXPECT_THAT(forms(), ElementsAre("frmCompileWarning", "frmSendToDevice"));
     EXPECT_THAT(boxes(), IsEmpty());
-    EXPECT_EQ(send.LastResult(), true);
+    EXPECT_EQ(sendToDevice.LastResult(), true);
 }
 
 TEST_F(SendDriver, TheOldImageOfAProjectWithErrorsIsSentAfterASecondQuestion) {
@@ -119,7 +119,7 @@ TEST_F(SendDriver, TheOldImageOfAProjectWithErrorsIsSentAfterASecondQuestion) {
     deploy();
     EXPECT_THAT(boxes(), ElementsAre(kStillDeploy));
     EXPECT_EQ(stored("NumErrors"), "0");
-    EXPECT_EQ(send.LastResult(), true);
+    EXPECT_EQ(sendToDevice.LastResult(), true);
 }
 
 TEST_F(SendDriver, ItIsNotSentAgainstTheUsersWill) {
@@ -130,7 +130,7 @@ TEST_F(SendDriver, ItIsNotSentAgainstTheUsersWill) {
     EXPECT_THAT(boxes(), ElementsAre(kStillDeploy));
     EXPECT_THAT(forms(), ElementsAre("frmCompileWarning"));
     EXPECT_EQ(stored("NumErrors"), "1");
-    EXPECT_EQ(send.LastResult(), std::nullopt);
+    EXPECT_EQ(sendToDevice.LastResult(), std::nullopt);
 }
 
 TEST_F(SendDriver, CancelEndsIt) {

@@ -46,7 +46,7 @@ TEST_F(SendFailures, AMissingPipe) {
                 ElementsAre(kNoPipe, "pointer 0",
                             "line: Error in QLVBAddIn: (429) ActiveX component can't create object", "animation hidden",
                             "failed shown", kNotDeployedSeeMessages, kMessagesShown, kAllGood));
-    EXPECT_EQ(send.LastResult(), std::nullopt);
+    EXPECT_EQ(sendToDevice.LastResult(), std::nullopt);
     EXPECT_THAT(errors.seen, IsEmpty());
 }
 
@@ -58,13 +58,13 @@ TEST_F(SendFailures, APipeThatIsNone) {
 }
 
 TEST_F(SendFailures, ADeviceWithoutAPipe) {
-    send.SendProjectToDevice(qlProject, false, "Unknown");
+    sendToDevice.SendProjectToDevice(qlProject, false, "Unknown");
     EXPECT_TRUE(did("box 16 Fernwick: ERROR - Could not create .Pipe. Please contact Quinloft technical support."));
-    EXPECT_EQ(send.LastResult(), std::nullopt);
+    EXPECT_EQ(sendToDevice.LastResult(), std::nullopt);
 }
 
 TEST_F(SendFailures, AnErrorBeforeThePipeIsThere) {
-    const auto watch = send.Caption.watch([&](const std::string& caption) {
+    const auto watch = sendToDevice.Caption.watch([&](const std::string& caption) {
         if (!caption.empty()) loop.Post([] { throw basic::RuntimeError(57, "Disk gone", "VBIDE"); });
     });
     deploy();
@@ -74,13 +74,13 @@ TEST_F(SendFailures, AnErrorBeforeThePipeIsThere) {
 }
 
 TEST_F(SendFailures, APipeThatRefusesItsSink) {
-    const auto watch = send.stsUpdate.SimpleText.watch([&](const std::string& text) {
+    const auto watch = sendToDevice.stsUpdate.SimpleText.watch([&](const std::string& text) {
         if (text == "Gathering Project List...") trace.failing = trace.calls + 1;
     });
     deploy();
     EXPECT_THAT(errors.seen, ElementsAre("frmSendToDevice.SendProjectToDevice [50000]"));
     EXPECT_THAT(boxes(), IsEmpty());
-    EXPECT_EQ(send.LastResult(), std::nullopt);
+    EXPECT_EQ(sendToDevice.LastResult(), std::nullopt);
 }
 
 TEST_F(SendFailures, MissingFiles) {
@@ -93,11 +93,11 @@ TEST_F(SendFailures, MissingFiles) {
         ElementsAre("pointer 0", "line: Missing executable files, please compile project.", "animation hidden",
                     "failed shown", "box 16 Fernwick: ERROR - Missing executable files, please compile project.",
                     kAllGood));
-    EXPECT_EQ(send.LastResult(), std::nullopt);
+    EXPECT_EQ(sendToDevice.LastResult(), std::nullopt);
 }
 
 TEST_F(SendFailures, AFolderThatIsGone) {
-    const auto watch = send.stsUpdate.SimpleText.watch([&](const std::string& text) {
+    const auto watch = sendToDevice.stsUpdate.SimpleText.watch([&](const std::string& text) {
         if (text == "Gathering Project List...") std::filesystem::remove_all(path(""));
     });
     deploy();
@@ -111,7 +111,7 @@ TEST_F(SendFailures, FilesThatTheValidatorRefuses) {
     EXPECT_THAT(after("failed shown"), ElementsAre("NumErrors=1", "Error1=ERROR||0|Too large|20100", kMessagesShown,
                                                    kErrorsToFix, kValidationFailed, kMessagesShown));
     EXPECT_FALSE(did("pointer 0")); // pointer and animation go with the form
-    EXPECT_EQ(send.LastResult(), std::nullopt);
+    EXPECT_EQ(sendToDevice.LastResult(), std::nullopt);
 }
 
 TEST_F(SendFailures, TheStatusOfRefusedFilesTellsOfPackageOrDeployment) {
@@ -148,12 +148,12 @@ TEST_F(SendFailures, AValidatorThatErrsAcceptsNothing) {
 
 TEST_F(SendFailures, AValidatorWithoutASinkStillAnswers) {
     family.registerAs(family.validatorClass, "FakePipe.Validation", [this] {
-        if (send.isLoaded()) trace.failing = trace.calls + 1; // the call that comes next
+        if (sendToDevice.isLoaded()) trace.failing = trace.calls + 1; // the call that comes next
         return family.newValidator();
     });
     deploy();
     EXPECT_FALSE(did("validator's sink"));
-    EXPECT_EQ(send.LastResult(), true);
+    EXPECT_EQ(sendToDevice.LastResult(), true);
     EXPECT_THAT(errors.seen, IsEmpty());
 }
 
@@ -172,7 +172,7 @@ TEST_F(SendFailures, AnErrorAndNoSuccess) {
                 ElementsAre(kNoDevice, "animation hidden", "failed shown", "NumErrors=1",
                             "Error1=ERROR||0|No device|20001", kMessagesShown, kNotDeployedSeeMessages, kMessagesShown,
                             "delete qldefault.ico by force", "pointer 0", kMessagesShown));
-    EXPECT_EQ(send.LastResult(), false);
+    EXPECT_EQ(sendToDevice.LastResult(), false);
 }
 
 TEST_F(SendFailures, AnErrorAndYetSuccessEndsSilently) {
@@ -180,7 +180,7 @@ TEST_F(SendFailures, AnErrorAndYetSuccessEndsSilently) {
     deploy();
     EXPECT_THAT(after("failed shown"), ElementsAre("NumErrors=1", "Error1=ERROR||0|No device|20001", kMessagesShown,
                                                    "delete qldefault.ico by force", "pointer 0", kMessagesShown));
-    EXPECT_EQ(send.LastResult(), true);
+    EXPECT_EQ(sendToDevice.LastResult(), true);
 }
 
 TEST_F(SendFailures, NoSuccessWithoutAWord) {
@@ -188,9 +188,9 @@ TEST_F(SendFailures, NoSuccessWithoutAWord) {
     deploy();
     EXPECT_THAT(after("send Foo to Palm"),
                 ElementsAre(kNotDeployed, "delete qldefault.ico by force", "pointer 0", kAllGood));
-    EXPECT_EQ(send.aniSend.Playing(), 0);
-    EXPECT_TRUE(send.aniSend.Visible()); // stopped only
-    EXPECT_EQ(send.LastResult(), false);
+    EXPECT_EQ(sendToDevice.aniSend.Playing(), 0);
+    EXPECT_TRUE(sendToDevice.aniSend.Visible()); // stopped only
+    EXPECT_EQ(sendToDevice.LastResult(), false);
 }
 
 TEST_F(SendFailures, APackageThatCannotBeMade) {
@@ -205,7 +205,7 @@ TEST_F(SendFailures, APackageThatCannotBeMade) {
     EXPECT_THAT(after("package Foo for Palm"),
                 ElementsAre("status: SUCCESS - Make project package completed successfully.", kNoPackage,
                             "delete qldefault.ico by force", "pointer 0", kAllGood));
-    EXPECT_EQ(send.LastResult(), false);
+    EXPECT_EQ(sendToDevice.LastResult(), false);
 }
 
 TEST_F(SendFailures, APackageWithWarningsOnlyIsToldAsADeployment) {
@@ -233,7 +233,7 @@ TEST_F(SendFailures, ThrownErrorsEndTheFormAndAreReported) {
         EXPECT_THAT(boxes(), IsEmpty());
         EXPECT_TRUE(did("delete qldefault.ico by force"));
         EXPECT_EQ(trace.effects.back(), kAllGood);
-        EXPECT_EQ(send.LastResult(), false);
+        EXPECT_EQ(sendToDevice.LastResult(), false);
         EXPECT_TRUE(isClean());
     }
 }
@@ -243,7 +243,7 @@ TEST_F(SendFailures, AProjectFileThatCannotBeReadEndsTheRunAndLeavesNoIcon) {
     deploy();
     EXPECT_THAT(errors.seen, ElementsAre("frmSendToDevice.SendProjectToDevice [53]"));
     EXPECT_TRUE(did("delete qldefault.ico by force"));
-    EXPECT_EQ(send.LastResult(), std::nullopt);
+    EXPECT_EQ(sendToDevice.LastResult(), std::nullopt);
 }
 
 TEST_F(SendFailures, APackageWithoutAPlaceToGoTo) {
@@ -252,7 +252,7 @@ TEST_F(SendFailures, APackageWithoutAPlaceToGoTo) {
     EXPECT_THAT(after("copy qldefault.ico"),
                 ElementsAre("pointer 0", "line: User Canceled", "delete qldefault.ico by force", "animation hidden",
                             "failed shown", kAllGood));
-    EXPECT_EQ(send.LastResult(), std::nullopt);
+    EXPECT_EQ(sendToDevice.LastResult(), std::nullopt);
 }
 
 TEST_F(SendFailures, AnIconThatCannotBeDeletedInTimeGoesWithTheForm) {

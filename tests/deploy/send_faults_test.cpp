@@ -50,18 +50,18 @@ TEST_F(SendFaults, EachCallThatFailsLeavesNothingBehind) {
             answer();
             run(makePackage);
         }
-        EXPECT_EQ(send.LastResult(), true);
+        EXPECT_EQ(sendToDevice.LastResult(), true);
         const auto baseline = trace.effects;
         sweep([&] { run(makePackage); },
               [&](int failing) {
                   EXPECT_TRUE(isClean()) << failing;
                   // a run that came to its end lost what failed and what hung on it, not more
-                  const auto most = send.LastResult() == true ? 4U : baseline.size();
+                  const auto most = sendToDevice.LastResult() == true ? 4U : baseline.size();
                   EXPECT_LE(test::lost(baseline, trace.effects).size(), most) << failing;
               });
         answer();
         run(makePackage);
-        EXPECT_EQ(send.LastResult(), true);
+        EXPECT_EQ(sendToDevice.LastResult(), true);
     }
 }
 
@@ -76,7 +76,7 @@ TEST_F(SendFaults, NorDoesOneInTheFailureOfAPipe) {
 }
 
 TEST_F(SendFaults, NorOneInTheRuntimesRun) {
-    fernwick::frmSendRuntimeToDevice runtime{pipes};
+    auto& runtime = sendRuntime;
     sweep([&] { runtime.SendRuntimeToDevice("Palm"); },
           [&](int failing) {
               EXPECT_FALSE(runtime.isLoaded()) << failing;
@@ -86,8 +86,8 @@ TEST_F(SendFaults, NorOneInTheRuntimesRun) {
 }
 
 TEST_F(SendFaults, NorOneInTheJudgementOfTheImage) {
-    sweep([&] { EXPECT_NO_THROW(send.IsCompiledImageCurrent(qlProject)); }, [](int) {});
-    EXPECT_TRUE(send.IsCompiledImageCurrent(qlProject));
+    sweep([&] { EXPECT_NO_THROW(sendToDevice.IsCompiledImageCurrent(qlProject)); }, [](int) {});
+    EXPECT_TRUE(sendToDevice.IsCompiledImageCurrent(qlProject));
 }
 
 } // namespace

@@ -32,7 +32,7 @@ TEST_F(SendRun, ADeploymentDoesItsStepsInOrder) {
                             "line: Upload Complete", "animation hidden", "finished shown",
                             "delete qldefault.ico by force", "pointer 0",
                             "status: SUCCESS - Compile and validate completed successfully."));
-    EXPECT_EQ(send.LastResult(), true);
+    EXPECT_EQ(sendToDevice.LastResult(), true);
     EXPECT_TRUE(isClean());
     EXPECT_THAT(errors.seen, IsEmpty());
 }
@@ -48,7 +48,7 @@ TEST_F(SendRun, APackageIsMadeInTheProjectFolder) {
                     "delete qldefault.ico by force", "pointer 0",
                     "status: SUCCESS - Compile and validate completed successfully."));
     EXPECT_EQ(family.saveLocation, path(""));
-    EXPECT_EQ(send.LastResult(), true);
+    EXPECT_EQ(sendToDevice.LastResult(), true);
     EXPECT_TRUE(isClean());
 }
 
@@ -74,21 +74,21 @@ TEST_F(SendRun, AProjectWithoutAnIconIsSentWithout) {
     project->properties[{"Quinloft Global", "IconFileName"}] = "none.ico";
     deploy();
     EXPECT_EQ(family.application.TempIconFile, "");
-    EXPECT_EQ(send.LastResult(), true);
+    EXPECT_EQ(sendToDevice.LastResult(), true);
     EXPECT_THAT(trace.effects, Not(Contains(testing::StartsWith("delete"))));
 }
 
 TEST_F(SendRun, TheFormShowsWhatItDoes) {
     family.work = [&](Sink& sink) {
-        EXPECT_EQ(send.Caption(), "Uploading Foo...");
-        EXPECT_EQ(send.aniSend.FileName(), folder / "install/VB Toolkit/Bin/QLUPLOAD.AVI");
-        EXPECT_EQ(send.aniSend.Playing(), -1);
+        EXPECT_EQ(sendToDevice.Caption(), "Uploading Foo...");
+        EXPECT_EQ(sendToDevice.aniSend.FileName(), folder / "install/VB Toolkit/Bin/QLUPLOAD.AVI");
+        EXPECT_EQ(sendToDevice.aniSend.Playing(), -1);
         sink.SendProgress("Half way", 50);
-        EXPECT_EQ(send.prgbarUpdate.Value(), 50.0F);
-        EXPECT_EQ(send.stsUpdate.SimpleText(), "Half way");
+        EXPECT_EQ(sendToDevice.prgbarUpdate.Value(), 50.0F);
+        EXPECT_EQ(sendToDevice.stsUpdate.SimpleText(), "Half way");
         sink.SendComplete();
-        EXPECT_EQ(send.aniSend.Playing(), 0);
-        EXPECT_FALSE(send.ControlBox);
+        EXPECT_EQ(sendToDevice.aniSend.Playing(), 0);
+        EXPECT_FALSE(sendToDevice.ControlBox);
         return true;
     };
     deploy();
@@ -97,8 +97,8 @@ TEST_F(SendRun, TheFormShowsWhatItDoes) {
 
 TEST_F(SendRun, APackageHasACaptionAndAnAnimationOfItsOwn) {
     family.work = [&](Sink&) {
-        EXPECT_EQ(send.Caption(), "Creating Foo Device Package...");
-        EXPECT_EQ(send.aniSend.FileName(), folder / "install/VB Toolkit/Bin/QLCOMPILE.AVI");
+        EXPECT_EQ(sendToDevice.Caption(), "Creating Foo Device Package...");
+        EXPECT_EQ(sendToDevice.aniSend.FileName(), folder / "install/VB Toolkit/Bin/QLCOMPILE.AVI");
         return true;
     };
     package();
@@ -130,21 +130,21 @@ TEST_F(SendRun, LateActivationsDoNothing) {
 TEST_F(SendRun, TheNextRunBeginsAnew) {
     family.work = [](Sink& sink) { return sink.SendError(20001, "No device"), false; };
     deploy();
-    EXPECT_EQ(send.LastResult(), false);
+    EXPECT_EQ(sendToDevice.LastResult(), false);
     family.work = [&](Sink& sink) {
-        EXPECT_FALSE(send.failedImg.Visible());
-        EXPECT_EQ(send.prgbarUpdate.Value(), 0.0F);
+        EXPECT_FALSE(sendToDevice.failedImg.Visible());
+        EXPECT_EQ(sendToDevice.prgbarUpdate.Value(), 0.0F);
         sink.SendComplete();
         return true;
     };
     package();
-    EXPECT_EQ(send.LastResult(), true);
+    EXPECT_EQ(sendToDevice.LastResult(), true);
     EXPECT_EQ(stored("NumErrors"), "0");
 }
 
 TEST_F(SendRun, InvalidDependenciesMayBeEdited) {
     storeDependencies({"none.txt,TXT"});
-    commands.inSettings = [&] {
+    noted.inSettings = [&] {
         folder.write("Foo/data.txt", "");
         storeDependencies({"data.txt,TXT"});
     };
@@ -162,7 +162,7 @@ TEST_F(SendRun, AfterEditingTheyAreNotValidatedAgain) {
     user.answers = {vbYes, vbYes};
     deploy();
     EXPECT_THAT(boxes(), ElementsAre(kInvalid, missing("none.txt")));
-    EXPECT_EQ(send.LastResult(), true);
+    EXPECT_EQ(sendToDevice.LastResult(), true);
 }
 
 TEST_F(SendRun, WithoutEditingItGoesOnWithTheListAsItStands) {
@@ -172,7 +172,7 @@ TEST_F(SendRun, WithoutEditingItGoesOnWithTheListAsItStands) {
     EXPECT_THAT(boxes(), ElementsAre(kInvalid, missing("none.txt")));
     EXPECT_FALSE(did("cursor 11"));
     EXPECT_FALSE(did("settings Dependencies"));
-    EXPECT_EQ(send.LastResult(), true);
+    EXPECT_EQ(sendToDevice.LastResult(), true);
 }
 
 TEST_F(SendRun, TheFilesAreThoseOfTheCurrentProject) {
@@ -193,7 +193,7 @@ TEST_F(SendRun, AWarningIsStoredWithAnOffsetAndShownAtOnce) {
     deploy();
     EXPECT_EQ(stored("Error1"), "WARNING|" + path("Module1.bas") + "|3|Icon is large|3123");
     EXPECT_EQ(status(), "Compiling and validating..."); // messages stand in the place of a status
-    EXPECT_EQ(send.LastResult(), true);
+    EXPECT_EQ(sendToDevice.LastResult(), true);
 }
 
 TEST_F(SendRun, AValidatorTellsInTheSameWay) {
@@ -227,7 +227,7 @@ TEST_F(SendRun, APipeThatNeverTellsItsEndIsReleasedToo) {
     family.work = [](Sink&) { return true; };
     deploy();
     EXPECT_TRUE(isClean());
-    EXPECT_FALSE(send.finishedImg.Visible());
+    EXPECT_FALSE(sendToDevice.finishedImg.Visible());
 }
 
 TEST_F(SendRun, TheFormKeepsNothingOfTheProject) {

@@ -6,22 +6,21 @@ using testing::IsEmpty;
 
 namespace {
 
-class SendRuntime : public testing::Test, protected test::DeployPlatform {
+class SendRuntime : public testing::Test, protected test::PipesWorld {
 protected:
     using Sink = qlpipe::IQLPipeEvents;
 
     SendRuntime() { targets.known = {"Palm"}; }
     void TearDown() override {
-        EXPECT_FALSE(send.isLoaded());
+        EXPECT_FALSE(sendRuntime.isLoaded());
         EXPECT_EQ(family.holders(), 0);
     }
     void run(const std::string& device = "Palm") {
         trace.effects.clear();
-        send.SendRuntimeToDevice(device);
+        sendRuntime.SendRuntimeToDevice(device);
     }
 
-    fernwick::frmSendRuntimeToDevice send{pipes};
-    std::vector<fernwick::Subscription> watches = test::watchForm(trace, send);
+    std::vector<fernwick::Subscription> watches = test::watchForm(trace, sendRuntime);
 };
 
 TEST_F(SendRuntime, DoesItsStepsInOrder) {
@@ -31,17 +30,17 @@ TEST_F(SendRuntime, DoesItsStepsInOrder) {
                             "line: Attempting to create connection...", "line: Gathering Project List...",
                             "pipe's sink", "runtime to Palm", "line: Sending", "line: Upload Complete",
                             "animation hidden", "finished shown", "pointer 0"));
-    EXPECT_EQ(send.LastResult(), true);
+    EXPECT_EQ(sendRuntime.LastResult(), true);
 }
 
 TEST_F(SendRuntime, TheFormShowsWhatItDoes) {
     family.work = [&](Sink& sink) {
-        EXPECT_EQ(send.Caption(), "Load Tamarik");
-        EXPECT_EQ(send.aniSend.FileName(), folder / "install/VB Toolkit/Bin/QLUPLOAD.AVI");
-        EXPECT_EQ(send.aniSend.Playing(), -1);
+        EXPECT_EQ(sendRuntime.Caption(), "Load Tamarik");
+        EXPECT_EQ(sendRuntime.aniSend.FileName(), folder / "install/VB Toolkit/Bin/QLUPLOAD.AVI");
+        EXPECT_EQ(sendRuntime.aniSend.Playing(), -1);
         loop.Post([&] { trace.effects.push_back("posted"); });
         sink.SendProgress("Half way", 50);
-        EXPECT_EQ(send.prgbarUpdate.Value(), 50.0F);
+        EXPECT_EQ(sendRuntime.prgbarUpdate.Value(), 50.0F);
         EXPECT_EQ(trace.effects.back(), "posted");
         return true;
     };
@@ -55,7 +54,7 @@ TEST_F(SendRuntime, AnErrorStaysOnTheScreenUntilTheUserConfirmsIt) {
                                        trace.effects.end());
     EXPECT_THAT(end, ElementsAre("line: ERROR - No device (20001)", "animation hidden", "failed shown",
                                  "box 16 Fernwick: ERROR - No device (20001)", "pointer 0"));
-    EXPECT_EQ(send.LastResult(), false);
+    EXPECT_EQ(sendRuntime.LastResult(), false);
 }
 
 TEST_F(SendRuntime, ALateActivationDoesNothing) { // the box brings the form to the front again
@@ -68,7 +67,7 @@ TEST_F(SendRuntime, WarningsAreNotTold) {
     family.work = [](Sink& sink) { return sink.SendWarning("Old", "", 0, 100), sink.SendComplete(), true; };
     run();
     EXPECT_EQ(trace.effects[trace.effects.size() - 4], "line: Upload Complete");
-    EXPECT_EQ(send.LastResult(), true);
+    EXPECT_EQ(sendRuntime.LastResult(), true);
 }
 
 TEST_F(SendRuntime, ThePipeIsReleasedInsideItsOwnCall) {
@@ -81,17 +80,17 @@ TEST_F(SendRuntime, ThePipeIsReleasedInsideItsOwnCall) {
             return well;
         };
         run();
-        EXPECT_EQ(send.LastResult(), well);
+        EXPECT_EQ(sendRuntime.LastResult(), well);
     }
 }
 
 TEST_F(SendRuntime, WithoutACompletionItDidNotSucceed) {
     family.work = [](Sink&) { return true; };
     run();
-    EXPECT_EQ(send.LastResult(), false);
+    EXPECT_EQ(sendRuntime.LastResult(), false);
     family.work = [](Sink& sink) { return sink.SendError(20001, "Lost"), sink.SendComplete(), true; };
     run();
-    EXPECT_EQ(send.LastResult(), false);
+    EXPECT_EQ(sendRuntime.LastResult(), false);
 }
 
 TEST_F(SendRuntime, AMissingPipe) {
@@ -104,7 +103,7 @@ TEST_F(SendRuntime, AMissingPipe) {
                             "technical support.",
                             "pointer 0", "line: Error in QLVBAddIn: (429) ActiveX component can't create object",
                             "animation hidden", "failed shown"));
-    EXPECT_EQ(send.LastResult(), std::nullopt);
+    EXPECT_EQ(sendRuntime.LastResult(), std::nullopt);
     EXPECT_THAT(errors.seen, IsEmpty());
 }
 
@@ -127,7 +126,7 @@ TEST_F(SendRuntime, AnErrorThatThePipeLetsOutIsReported) {
     run();
     EXPECT_THAT(errors.seen, ElementsAre("frmSendRuntimeToDevice.Form_Activate [57]"));
     EXPECT_EQ(trace.effects.back(), "pointer 0");
-    EXPECT_EQ(send.LastResult(), false);
+    EXPECT_EQ(sendRuntime.LastResult(), false);
 }
 
 TEST_F(SendRuntime, TheNextRunBeginsAnew) {
@@ -135,11 +134,11 @@ TEST_F(SendRuntime, TheNextRunBeginsAnew) {
     run();
     family.offerPipe();
     family.work = [&](Sink& sink) {
-        EXPECT_FALSE(send.failedImg.Visible());
+        EXPECT_FALSE(sendRuntime.failedImg.Visible());
         return sink.SendComplete(), true;
     };
     run();
-    EXPECT_EQ(send.LastResult(), true);
+    EXPECT_EQ(sendRuntime.LastResult(), true);
 }
 
 } // namespace

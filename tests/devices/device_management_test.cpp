@@ -22,12 +22,12 @@ TEST_F(DeviceManagement, TheNumberIsThatOfTheKnownTargetsWhenOneIsUsable) {
     EXPECT_EQ(devices.GetDesignTargets(false), Texts{"B"});
 }
 
-TEST_F(DeviceManagement, KnownTargetsOfWhichNoneIsUsableCountAsNone) {
+TEST_F(DeviceManagement, UnusableTargetsCountAsNone) {
     addTarget("A")->pipe = "Missing";
     EXPECT_EQ(devices.GetNumDesignTargets(), 0);
 }
 
-TEST_F(DeviceManagement, AMissingValidationLeavesTheTargetOutWithoutAWord) {
+TEST_F(DeviceManagement, SilentlySkipsATargetWithoutValidation) {
     addTarget("A")->pipe = "Missing";
     addTarget("B");
     addTarget("C");
@@ -94,18 +94,18 @@ TEST_F(DeviceManagement, AcceleratorsAreStripped) {
     EXPECT_EQ(modDeviceManagement::StripAcceleratorInfo("&&"), "");
 }
 
-TEST_F(DeviceManagement, WhateverFailsOfThePlatformIsReportedOnceAtMost) {
+TEST_F(DeviceManagement, AFailureOfThePlatformIsReportedAtMostOnce) {
     addTarget("A");
     addTarget("B");
     int calls = 1;
     for (int failing = 1; failing <= calls; ++failing) {
-        world.errors.seen.clear();
-        world.trace.calls = 0;
-        world.trace.failing = failing;
+        errors.seen.clear();
+        trace.calls = 0;
+        trace.failing = failing;
         devices.gDesignTargetMgr = nullptr;
         devices.IsValidDevice("A");
         devices.GetNumDesignTargets();
-        calls = world.trace.calls;
+        calls = trace.calls;
         EXPECT_LE(reports().size(), 1U) << failing;
     }
 }

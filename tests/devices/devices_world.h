@@ -1,14 +1,12 @@
 #pragma once
-// Design targets, classes and type libraries as a test names them.
-#include "Add-in/devices/clsDeviceConfig.h"
-#include "Add-in/platform/pipes.h"
+// Design targets, classes and type libraries defined by the test.
+#include "tests/support/add_in_world.h"
 #include "tests/support/scripted_user.h"
-#include "tests/support/traced_platform.h"
 
 namespace test {
 
-struct FakeTarget : designtargetaccess::IQLDesignTarget {
-    explicit FakeTarget(std::string k) : key(std::move(k)) {}
+struct ListedTarget : designtargetaccess::IQLDesignTarget {
+    explicit ListedTarget(std::string k) : key(std::move(k)) {}
     std::string key, platform = "Palm OS", name = "&Palm OS", pipe = "QLPipePalmOS";
     std::string color = "16777215", fontSize = "12", width = "160", height = "160", fontName = "QLPalm", style = "1";
     std::map<std::string, std::string> options;
@@ -48,8 +46,8 @@ struct FakeTarget : designtargetaccess::IQLDesignTarget {
     std::string ClassModuleTemplate() const override { return "/templates/" + key + ".cls"; }
 };
 
-struct FakeTargets : designtargetaccess::IQLDesignTargetMgr {
-    std::vector<basic::Ref<FakeTarget>> list;
+struct ListedTargets : designtargetaccess::IQLDesignTargetMgr {
+    std::vector<basic::Ref<ListedTarget>> list;
     int initialized = 0;
 
     std::int32_t Count() const override { return std::int32_t(list.size()); }
@@ -69,8 +67,8 @@ struct FakeTargets : designtargetaccess::IQLDesignTargetMgr {
     }
 };
 
-struct FakeValidation : qlpipe::IQLPipeValidation {
-    explicit FakeValidation(bool s) : supported(s) {}
+struct FixedValidation : qlpipe::IQLPipeValidation {
+    explicit FixedValidation(bool s) : supported(s) {}
     bool supported;
     bool IsDeviceSupported(const std::string&) override { return supported; }
     bool ValidateFiles(const basic::Ref<vbide::VBProject>&, const qlpipe::ProjectFiles&) override { return true; }
@@ -96,37 +94,51 @@ struct RegisteredClasses : TracedClasses {
     }
 };
 
-class DevicesTest : public ::testing::Test {
+struct DevicesPlatform : TracedPlatform {
+    ScriptedUser user;
+    RegisteredClasses classes{trace};
+    fernwick::Platform platform{user,
+                                loop,
+                                registry,
+                                files,
+                                processes,
+                                classes,
+                                environment,
+                                clipboard,
+                                shell,
+                                screen,
+                                clock,
+                                resources,
+                                TracedPlatform::platform.app};
+};
+
+template <class Machine>
+class DevicesTestOver : public ::testing::Test, protected AddInWorld<Machine> {
 protected:
-    DevicesTest() {
-        manager_ = classes.RegisterClass("DesignTargetAccess.QLDesignTargetMgr", [this] { return targets; });
+    DevicesTestOver() {
+        manager_ = this->classes.RegisterClass("DesignTargetAccess.QLDesignTargetMgr", [this] { return targets; });
         offerPipe("QLPipePalmOS", true);
     }
-    ~DevicesTest() override { EXPECT_EQ(world.registry.openKeys(), 0U) << "a registry key stayed open"; }
+    ~DevicesTestOver() override { EXPECT_EQ(this->registry.openKeys(), 0U) << "a registry key stayed open"; }
 
     void offerPipe(const std::string& pipe, bool supports) {
-        pipes_.push_back(
-            classes.RegisterClass(pipe + ".Validation", [supports] { return basic::make<FakeValidation>(supports); }));
+        pipes_.push_back(this->classes.RegisterClass(pipe + ".Validation",
+                                                     [supports] { return basic::make<FixedValidation>(supports); }));
     }
-    basic::Ref<FakeTarget> addTarget(const std::string& key) {
-        targets->list.push_back(basic::make<FakeTarget>(key));
+    basic::Ref<ListedTarget> addTarget(const std::string& key) {
+        targets->list.push_back(basic::make<ListedTarget>(key));
         return targets->list.back();
     }
     void withoutManager() { manager_.reset(); }
-    const std::vector<std::string>& reports() const { return world.errors.seen; }
+    const std::vector<std::string>& reports() const { return this->errors.seen; }
 
-    TracedPlatform world;
-    ScriptedUser user;
-    RegisteredClasses classes{world.trace};
-    basic::Ref<FakeTargets> targets = basic::make<FakeTargets>();
-    fernwick::modRegistry2 registry{world.registry};
-    fernwick::modAddinPrefsManagement prefs{registry, world.errors};
-    fernwick::modReferencesManagement references{registry, classes, world.errors};
-    fernwick::modDeviceManagement devices{classes, world.errors};
+    basic::Ref<ListedTargets> targets = basic::make<ListedTargets>();
 
 private:
     std::shared_ptr<void> manager_;
     std::vector<std::shared_ptr<void>> pipes_;
 };
+
+using DevicesTest = DevicesTestOver<DevicesPlatform>;
 
 } // namespace test

@@ -28,7 +28,7 @@ std::string whyRefused(const std::string& bytes) {
 
 } // namespace
 
-TEST(JournalFile, ComesBackAsItWas) {
+TEST(JournalFile, IsRestoredExactly) {
     const auto entry = sampleEntry();
     const auto read = decodeJournal(encodeJournal(entry));
     EXPECT_EQ(read.project, entry.project);
@@ -51,35 +51,35 @@ TEST(JournalFile, AComponentWithoutAFileHasNoBase) {
     EXPECT_FALSE(read.base);
 }
 
-TEST(JournalFile, NamesMayHoldAnyCharacter) {
+TEST(JournalFile, NamesMayHaveAnyCharacter) {
     auto entry = sampleEntry();
     entry.file = "/odd\nname\\n and \\ \r\xff/x.bas\\";
     EXPECT_EQ(decodeJournal(encodeJournal(entry)).file, entry.file);
 }
 
-TEST(JournalFile, TellsWhatIsWrongWithOtherBytes) {
+TEST(JournalFile, ReportsTheReasonForRefusingOtherBytes) {
     const auto whole = encodeJournal(sampleEntry());
     const auto with = [&](const std::string& part, const std::string& other) {
         auto bytes = whole;
         return bytes.replace(bytes.find(part), part.size(), other);
     };
     using testing::HasSubstr;
-    EXPECT_THAT(whyRefused(""), HasSubstr("no journal"));
-    EXPECT_THAT(whyRefused("Attribute VB_Name = \"modA\"\r\n"), HasSubstr("no journal"));
-    EXPECT_THAT(whyRefused(with("journal 1", "journal 2")), HasSubstr("no journal of this version"));
+    EXPECT_THAT(whyRefused(""), HasSubstr("not a journal"));
+    EXPECT_THAT(whyRefused("Attribute VB_Name = \"modA\"\r\n"), HasSubstr("not a journal"));
+    EXPECT_THAT(whyRefused(with("journal 1", "journal 2")), HasSubstr("not a journal of this version"));
     EXPECT_THAT(whyRefused(with("Component=", "Component:")), HasSubstr("lacks its line Component="));
     EXPECT_THAT(whyRefused(with("Type=1", "Type=x")), HasSubstr("number"));
-    EXPECT_THAT(whyRefused(with("Type=1\n", "Type=1x\n")), HasSubstr("no number"));
+    EXPECT_THAT(whyRefused(with("Type=1\n", "Type=1x\n")), HasSubstr("not a number"));
     EXPECT_THAT(whyRefused(with("Base=1 2", "Base=1")), HasSubstr("number"));
     EXPECT_THAT(whyRefused(with("Written=17", "Written=99999999999999999999")), HasSubstr("number"));
-    EXPECT_THAT(whyRefused(with("caf", "kaf")), HasSubstr("check sum"));
-    EXPECT_THAT(whyRefused(with("Hello", "Other")), HasSubstr("check sum"));
-    EXPECT_THAT(whyRefused(whole + "x"), HasSubstr("check sum"));
+    EXPECT_THAT(whyRefused(with("caf", "kaf")), HasSubstr("checksum"));
+    EXPECT_THAT(whyRefused(with("Hello", "Other")), HasSubstr("checksum"));
+    EXPECT_THAT(whyRefused(whole + "x"), HasSubstr("checksum"));
     EXPECT_THAT(whyRefused(whole.substr(0, whole.size() - 5)), HasSubstr("ends after"));
 }
 
-/// A power failure may leave any beginning of it, and any byte may be another one.
-TEST(JournalFile, NoDamageIsTakenForTheText) {
+/// A power failure may truncate the file, and any byte may be damaged.
+TEST(JournalFile, AnyDamageIsDetected) {
     const auto whole = encodeJournal(sampleEntry());
     for (std::size_t length = 0; length < whole.size(); ++length)
         EXPECT_EQ(errorOf([&] { decodeJournal(whole.substr(0, length)); }), 321) << length;

@@ -66,7 +66,7 @@ TEST(RegText, ContinuesHexDataOverLines) {
     EXPECT_EQ(valueOf("hex:\\\n  01"), (host::RegValue{3, "\x01"}));
 }
 
-TEST(RegText, TakesUtf16AndUtf8WithEveryLineEnd) {
+TEST(RegText, ReadsUtf16AndUtf8WithAnyLineEnd) {
     const auto text =
         "Windows Registry Editor Version 5.00\n[HKEY_CURRENT_USER\\\xC3\xA4]\r\"a\"=\"\xE2\x82\xAC\"\r\n"s;
     const auto utf16 = host::utf16BytesFromUtf8(text).value();
@@ -79,41 +79,41 @@ TEST(RegText, TakesUtf16AndUtf8WithEveryLineEnd) {
     }
 }
 
-TEST(RegText, NamesTheLineAndTheReasonOfEveryError) {
+TEST(RegText, ReportsTheLineAndTheReasonOfEveryError) {
     EXPECT_EQ(regErrorOf(""), "a.reg:1: the first line is not \"Windows Registry Editor Version 5.00\"");
     EXPECT_EQ(regErrorOf("REGEDIT4\r\n"), "a.reg:1: the first line is not \"Windows Registry Editor Version 5.00\"");
     EXPECT_EQ(regErrorOf("\xFE\xFF\0W"s), "a.reg:1: UTF-16 in big-endian byte order is not a registry file");
-    EXPECT_EQ(regErrorOf("\xFF\xFEW"s), "a.reg:1: the file is cut short or is not UTF-16 text");
+    EXPECT_EQ(regErrorOf("\xFF\xFEW"s), "a.reg:1: the file is truncated or is not UTF-16 text");
     EXPECT_EQ(bodyError("[A]\n\"\xE4\"=-"), "a.reg:4: the text is neither UTF-16 nor UTF-8");
-    EXPECT_EQ(bodyError("[A"), "a.reg:3: \"]\" is missing behind the key");
-    EXPECT_EQ(bodyError("[A] b"), "a.reg:3: \"]\" is missing behind the key");
+    EXPECT_EQ(bodyError("[A"), "a.reg:3: \"]\" is missing after the key");
+    EXPECT_EQ(bodyError("[A] b"), "a.reg:3: \"]\" is missing after the key");
     EXPECT_EQ(bodyError("[]"), "a.reg:3: the key has no name");
     EXPECT_EQ(bodyError("[-]"), "a.reg:3: the key has no name");
-    EXPECT_EQ(bodyError("\"a\"=-"), "a.reg:3: a value stands outside a key");
-    EXPECT_EQ(bodyError("[-A]\n\"a\"=-"), "a.reg:4: a value stands outside a key");
+    EXPECT_EQ(bodyError("\"a\"=-"), "a.reg:3: a value is outside a key");
+    EXPECT_EQ(bodyError("[-A]\n\"a\"=-"), "a.reg:4: a value is outside a key");
     EXPECT_EQ(bodyError("[A]\na=1"),
-              "a.reg:4: a line begins with \"[\", a value's name in quotation marks, \"@\" or \";\"");
+              "a.reg:4: a line must begin with \"[\", a value's name in quotation marks, \"@\" or \";\"");
     EXPECT_EQ(bodyError("[A]\n\"a"), "a.reg:4: the closing quotation mark is missing");
-    EXPECT_EQ(bodyError("[A]\n\"a\""), "a.reg:4: \"=\" is missing behind the value's name");
+    EXPECT_EQ(bodyError("[A]\n\"a\""), "a.reg:4: \"=\" is missing after the value's name");
     EXPECT_EQ(bodyError("[A]\n@=\"C:\\new\""),
-              "a.reg:4: \"\\\" in a text stands before another \"\\\" or a quotation mark only");
+              "a.reg:4: \"\\\" in a text must be followed by another \"\\\" or a quotation mark");
     EXPECT_EQ(bodyError("[A]\n@=\"a\\"),
-              "a.reg:4: \"\\\" in a text stands before another \"\\\" or a quotation mark only");
-    EXPECT_EQ(bodyError("[A]\n@=\"a\" b"), "a.reg:4: \" b\" stands behind the data");
-    EXPECT_EQ(bodyError("[A]\n@=1"), "a.reg:4: the data are none of \"text\", dword:, hex:, hex(type): and -");
-    EXPECT_EQ(bodyError("[A]\n@=dword:"), "a.reg:4: dword: has up to eight hexadecimal digits");
-    EXPECT_EQ(bodyError("[A]\n@=dword:123456789"), "a.reg:4: \"9\" stands behind the data");
+              "a.reg:4: \"\\\" in a text must be followed by another \"\\\" or a quotation mark");
+    EXPECT_EQ(bodyError("[A]\n@=\"a\" b"), "a.reg:4: \" b\" follows the data");
+    EXPECT_EQ(bodyError("[A]\n@=1"), "a.reg:4: the data must be \"text\", dword:, hex:, hex(type): or -");
+    EXPECT_EQ(bodyError("[A]\n@=dword:"), "a.reg:4: dword: must be followed by up to eight hexadecimal digits");
+    EXPECT_EQ(bodyError("[A]\n@=dword:123456789"), "a.reg:4: \"9\" follows the data");
     EXPECT_EQ(bodyError("[A]\n@=hex(g):01"), "a.reg:4: the type in hex(type): is not a hexadecimal number");
     EXPECT_EQ(bodyError("[A]\n@=hex(2:01"), "a.reg:4: the type in hex(type): is not a hexadecimal number");
-    EXPECT_EQ(bodyError("[A]\n@=hex:01,\\\n0x"), "a.reg:5: \"x\" stands behind the data");
+    EXPECT_EQ(bodyError("[A]\n@=hex:01,\\\n0x"), "a.reg:5: \"x\" follows the data");
     EXPECT_EQ(bodyError("[A]\n@=hex:zz"),
-              "a.reg:4: hex data are bytes of two hexadecimal digits with commas between them");
-    EXPECT_EQ(bodyError("[A]\n@=hex:01,\\"), "a.reg:4: the file ends behind a \"\\\"");
+              "a.reg:4: hex data must be bytes of two hexadecimal digits, separated by commas");
+    EXPECT_EQ(bodyError("[A]\n@=hex:01,\\"), "a.reg:4: the file ends after a \"\\\"");
     EXPECT_EQ(bodyError("[A]\n@=hex(2):61"), "a.reg:4: the bytes are not UTF-16 text");
     EXPECT_EQ(bodyError("[A]\n@=hex(1):00,d8"), "a.reg:4: the bytes are not UTF-16 text");
 }
 
-TEST(RegText, WritesWhatRegistryEditorsWrite) {
+TEST(RegText, WritesLikeRegistryEditors) {
     const std::vector<RegInstruction> all{
         {Kind::MakeKey, "HKEY_CURRENT_USER\\A", "", {}, 0},
         {Kind::SetValue, "HKEY_CURRENT_USER\\A", "", {1, "say \"C:\\\"\0"s}, 0},
@@ -135,7 +135,7 @@ TEST(RegText, WritesWhatRegistryEditorsWrite) {
               "\r\n[-HKEY_CURRENT_USER\\Old]\r\n\r\n");
 }
 
-TEST(RegText, ReadsBackWhatItWroteInBothEncodings) {
+TEST(RegText, RoundTripsInBothEncodings) {
     std::vector<RegInstruction> all{{Kind::MakeKey, "HKEY_CURRENT_USER\\\xC3\xA4]", "", {}, 0}};
     const std::vector<host::RegValue> values{{0, "x"},         {1, ""},
                                              {1, "a"},         {1, "\0"s},

@@ -1,5 +1,4 @@
-// A sample takes the place of what is open.
-#include "Add-in/lifecycle/SampleOpening.h"
+// A sample replaces the open projects.
 #include "lifecycle_world.h"
 
 using testing::ElementsAre;
@@ -15,16 +14,15 @@ protected:
     }
     const std::vector<std::string>& pick() {
         trace.effects.clear();
-        opening.open(sample);
+        samples.open(sample);
         return trace.effects;
     }
     fernwick::clsSampleMenuItem sample;
-    fernwick::SampleOpening opening{{platform, errors, addIn, save, commands}};
 };
 
 TEST_F(OpeningASample, WithNothingOpenOnlyOpensIt) { EXPECT_THAT(pick(), ElementsAre("open /s/Tip.vbp alone")); }
 
-TEST_F(OpeningASample, ClosesTheProjectInItsOrder) {
+TEST_F(OpeningASample, ClosesTheProjectInOrder) {
     open("A", "Palm-1");
     EXPECT_THAT(pick(), ElementsAre("active A", "host: remove project", "open /s/Tip.vbp alone"));
 }
@@ -32,15 +30,15 @@ TEST_F(OpeningASample, ClosesTheProjectInItsOrder) {
 TEST_F(OpeningASample, LetsTheHostRunBeforeAndAfterTheRemoval) {
     open("A", "Palm-1");
     loop.Post([this] { trace.effects.push_back("first turn"); });
-    commands.remove = basic::make<test::TracedControl>(trace, "host: remove project", [this] {
+    removeCommand()->whenExecuted = [this] {
         vbe->removeActive();
         loop.Post([this] { trace.effects.push_back("second turn"); });
-    });
+    };
     EXPECT_THAT(pick(),
                 ElementsAre("active A", "first turn", "host: remove project", "second turn", "open /s/Tip.vbp alone"));
 }
 
-TEST_F(OpeningASample, OneThatIsOpenDoesNothing) {
+TEST_F(OpeningASample, DoesNothingForAnOpenSample) {
     const auto project = open("A", "Palm-1");
     project->file = sample.fullPath;
     project->dirty = true;
@@ -54,7 +52,7 @@ TEST_F(OpeningASample, CancelKeepsTheProject) {
     EXPECT_THAT(openNames(), ElementsAre("A"));
 }
 
-TEST_F(OpeningASample, WhatTheUserGivesUpIsNotAskedForAgain) {
+TEST_F(OpeningASample, AsksOnceAboutDiscardedChanges) {
     const auto project = open("A", "Palm-1");
     project->dirty = true;
     user.answers = {fernwick::vbNo};
@@ -70,7 +68,7 @@ TEST_F(OpeningASample, WithoutAPathNamesTheSupport) {
                             "support.example"));
 }
 
-TEST_F(OpeningASample, EachCallThatFailsIsReportedOnce) {
+TEST_F(OpeningASample, AFailingCallIsReportedOnce) {
     for (int failing = 1;; ++failing) {
         vbe->projects->list.clear();
         projects.ClearProjectsList();

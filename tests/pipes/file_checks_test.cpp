@@ -1,4 +1,4 @@
-#include "Components/QLPipe/pipe_messages.h"
+#include "Components/QLPipe/base/pipe_messages.h"
 #include "tests/pipes/pipe_world.h"
 #include "tests/support/test_host.h"
 #include <gmock/gmock.h>

@@ -1,7 +1,7 @@
-#include "Components/QLPipe/package.h"
-#include "Components/QLPipe/package_writer.h"
-#include "Components/QLPipe/pipe_messages.h"
-#include "Components/QLPipe/sha256.h"
+#include "Components/QLPipe/base/pipe_messages.h"
+#include "Components/QLPipe/base/sha256.h"
+#include "Components/QLPipe/package/package.h"
+#include "Components/QLPipe/package/package_writer.h"
 #include "tests/pipes/pipe_world.h"
 #include "tests/pipes/zip_bytes.h"
 #include <gmock/gmock.h>

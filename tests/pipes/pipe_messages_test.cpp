@@ -1,5 +1,5 @@
-#include "Components/QLPipe/late_library.h"
-#include "Components/QLPipe/pipe_messages.h"
+#include "Components/QLPipe/base/late_library.h"
+#include "Components/QLPipe/base/pipe_messages.h"
 #include <gtest/gtest.h>
 #include <set>
 

@@ -1,5 +1,5 @@
 #include "Basic/error_numbers.h"
-#include "Components/QLPipe/pipe_messages.h"
+#include "Components/QLPipe/base/pipe_messages.h"
 #include "tests/pipes/pipe_world.h"
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
-#include "Components/QLPipe/installer.h"
-#include "Components/QLPipe/pipe_messages.h"
+#include "Components/QLPipe/base/pipe_messages.h"
+#include "Components/QLPipe/package/installer.h"
 #include "Components/QLPipe/virtual_device/virtual_device.h"
 #include "tests/pipes/other_process.h"
 #include "tests/pipes/pipe_world.h"

@@ -1,9 +1,9 @@
 // Connection settings of handhelds, and their settings page.
+#include "Components/QLPipe/base/pipe_messages.h"
+#include "Components/QLPipe/base/ssh_messages.h"
 #include "Components/QLPipe/linux_handheld/linux_handheld.h"
 #include "Components/QLPipe/linux_handheld/linux_handheld_settings.h"
-#include "Components/QLPipe/linux_handheld/ssh_messages.h"
 #include "Components/QLPipe/linux_handheld/user_account.h"
-#include "Components/QLPipe/pipe_messages.h"
 #include "tests/pipes/pipe_world.h"
 #include "tests/pipes_ssh/ssh_device.h"
 #include "tests/support/test_host.h"

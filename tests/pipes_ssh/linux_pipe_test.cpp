@@ -1,5 +1,5 @@
 // End-to-end tests of the Linux handheld pipe.
-#include "Components/QLPipe/pipe_messages.h"
+#include "Components/QLPipe/base/pipe_messages.h"
 #include "tests/pipes/pipe_world.h"
 #include "tests/pipes_ssh/ssh_device.h"
 #include "tests/support/test_host.h"

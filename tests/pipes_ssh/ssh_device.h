@@ -1,6 +1,6 @@
 #pragma once
 // A handheld for tests: this computer, accessed by SSH.
-#include "Components/QLPipe/linux_handheld/ssh_messages.h"
+#include "Components/QLPipe/base/ssh_messages.h"
 #include "Components/QLPipe/linux_handheld/ssh_storage.h"
 #include "tests/pipes_ssh/ssh_server.h"
 #include <gmock/gmock.h>

@@ -1,5 +1,5 @@
 // Lost and stalled connections, and devices that fail during a transfer.
-#include "Components/QLPipe/pipe_messages.h"
+#include "Components/QLPipe/base/pipe_messages.h"
 #include "tests/pipes_ssh/cutting_proxy.h"
 #include "tests/pipes_ssh/ssh_device.h"
 #include <sys/mount.h>

@@ -5,17 +5,16 @@ using namespace fernwick;
 
 namespace {
 struct Constants : test::ProjectTest {
-    modProjectHandler projects{services};
-    test::FakeCompiler compiler{world.trace};
+    test::FakeCompiler compiler{trace};
 
     std::string read(const std::string& text) {
         host.folder.write("Hello.vbp", text);
         return projects.GetConditionalCompilationArguments(traced());
     }
     Texts passed(const std::string& text) {
-        world.trace.effects.clear();
+        trace.effects.clear();
         projects.SetConditionalCompilationArguments(text, compiler);
-        return world.trace.effects;
+        return trace.effects;
     }
 };
 } // namespace
@@ -55,5 +54,5 @@ TEST_F(Constants, APieceWithoutAnEqualsSignIsIgnored) { EXPECT_EQ(passed("A:B::C
 
 TEST_F(Constants, AValueThatIsNoNumberIsTheCallersError) {
     EXPECT_EQ(test::errorOf([&] { passed("A = 1:B = x:C = 3"); }), 13);
-    EXPECT_EQ(world.trace.effects, Texts{"constant A=1"});
+    EXPECT_EQ(trace.effects, Texts{"constant A=1"});
 }

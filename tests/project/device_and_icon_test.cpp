@@ -5,7 +5,7 @@ using namespace fernwick;
 
 namespace {
 struct ProjectDevice : test::ProjectTest {
-    basic::Ref<test::FakeTarget> palm = addTarget("Palm"), pocket = addTarget("Pocket");
+    basic::Ref<test::ListedTarget> palm = addTarget("Palm"), pocket = addTarget("Pocket");
     basic::Ref<clsQLProject> project = open(test::SampleProject{}.handheld("Palm"));
 };
 using ProjectIcon = ProjectDevice;
@@ -26,7 +26,7 @@ TEST_F(ProjectDevice, TheDesignTargetIsFetchedOnceForAKey) {
     EXPECT_EQ(project->FormTemplate() + project->ModuleTemplate() + project->ClassModuleTemplate(),
               "/templates/Palm.frm/templates/Palm.bas/templates/Palm.cls");
     const auto first = project->designTarget();
-    targets->list[0] = basic::make<test::FakeTarget>("Palm");
+    targets->list[0] = basic::make<test::ListedTarget>("Palm");
     project->InitDesignTarget();
     project->TargetDevice("Palm");
     EXPECT_EQ(project->designTarget(), first);

@@ -131,16 +131,16 @@ TEST_F(ProjectLists, NoStepsAnyMoreKeepsTheEntries) {
 TEST_F(ProjectLists, EachFailingCallIsReportedOnceAndTheRestWritten) {
     int calls = 1;
     for (int failing = 1; failing <= calls; ++failing) {
-        world.errors.seen.clear();
+        errors.seen.clear();
         const auto vbProject = traced();
         const auto other = wrap(vbProject);
         vbProject->properties[{kDependencies, "NumFontDependencies"}] = "1";
-        world.trace = {};
-        world.trace.failing = failing;
+        trace = {};
+        trace.failing = failing;
         other->WriteProjectFontDependencies({"a", "b"});
-        calls = world.trace.calls;
-        world.trace.failing = 0;
+        calls = trace.calls;
+        trace.failing = 0;
         EXPECT_LE(reports().size(), 1U) << failing;
-        EXPECT_GE(world.trace.effects.size(), 4U) << failing;
+        EXPECT_GE(trace.effects.size(), 4U) << failing;
     }
 }

@@ -5,7 +5,6 @@ using namespace fernwick;
 
 namespace {
 struct ProjectList : test::ProjectTest {
-    modProjectHandler projects{services};
     basic::Ref<vbide::VBProject> hello = host.open(test::SampleProject{}.module("modOne").form("frmMain"));
 };
 using Templates = ProjectList;
@@ -65,14 +64,14 @@ TEST_F(ProjectList, RemovingComponentsLeavesTheirFilesAndNothingElse) {
 TEST_F(ProjectList, EachFailingCallOfARemovalIsReportedOnce) {
     int calls = 1;
     for (int failing = 1; failing <= calls; ++failing) {
-        world.errors.seen.clear();
+        errors.seen.clear();
         const auto vbProject = traced();
         vbProject->add("modOne", "");
         vbProject->add("modTwo", "");
-        world.trace = {};
-        world.trace.failing = failing;
+        trace = {};
+        trace.failing = failing;
         projects.RemoveProjectComponents(wrap(vbProject));
-        calls = world.trace.calls;
+        calls = trace.calls;
         EXPECT_EQ(reports().size(), 1U) << failing;
     }
 }
@@ -107,14 +106,15 @@ TEST_F(Templates, AreWhatLiesInEitherFolder) {
     EXPECT_FALSE(projects.ProjectIsFromTemplate(hello));
     for (const char* folder : {"Template/Projects", "Installed/VB Toolkit/Template/Projects"}) {
         const auto file = test::SampleProject{"Base"}.writeTo(host.folder, folder);
-        EXPECT_TRUE(projects.ProjectIsFromTemplate(basic::make<test::TracedProject>(world.trace, "Base", file)));
+        EXPECT_TRUE(projects.ProjectIsFromTemplate(basic::make<test::TracedProject>(trace, "Base", file)));
     }
     EXPECT_EQ(projects.GetTemplatePath(), path("Template/Projects"));
 }
 
 TEST_F(Templates, MissingFoldersAreToldAndTheTestGoesOn) {
     installAt("/nowhere");
-    addIn.gVBInstance = basic::make<test::TracedVbe>(world.trace);
+    const auto elsewhere = basic::make<test::TracedVbe>(trace);
+    addIn.gVBInstance = elsewhere;
     user.expectBox("Cannot determine the location of the VB template directory. The path determined was invalid.");
     user.expectBox(
         "Cannot determine the location of the Fernwick template directory. The path determined was invalid.");
@@ -126,7 +126,8 @@ TEST_F(Templates, AHostWithoutATemplatePathIsTold) {
         using TracedVbe::TracedVbe;
         std::string TemplatePath() const override { return ""; }
     };
-    addIn.gVBInstance = basic::make<Bare>(world.trace);
+    const auto bare = basic::make<Bare>(trace);
+    addIn.gVBInstance = bare;
     user.expectBox("The registry entry containing the path for visual basic was not found. "
                    "Cannot determine the location of the VB templates.");
     EXPECT_EQ(projects.GetTemplatePath(), "");

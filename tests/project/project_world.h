@@ -1,6 +1,5 @@
 #pragma once
 // Projects of the real host, in a folder of the test's own.
-#include "Add-in/project/modProjectHandler.h"
 #include "Host/system/file_system.h"
 #include "tests/devices/devices_world.h"
 #include "tests/support/test_host.h"
@@ -17,7 +16,16 @@ struct FakeScreen : fernwick::Screen {
     bool FontFamilyExists(const std::string& name) const override { return fonts.contains(name); }
 };
 
-class ProjectTest : public DevicesTest {
+/// A platform whose files are on disk, and the real host.
+struct ProjectPlatform : DevicesPlatform {
+    TestHost host;
+    host::FileSystem files;
+    FakeScreen screen;
+    fernwick::Platform platform{user,      loop,  registry, files, processes, classes, environment,
+                                clipboard, shell, screen,   clock, resources, {}};
+};
+
+class ProjectTest : public DevicesTestOver<ProjectPlatform> {
 protected:
     using Texts = std::vector<std::string>;
 
@@ -29,19 +37,17 @@ protected:
         host.folder.write("Template/Projects/readme.txt", "");
     }
     void installAt(const std::string& folder) {
-        world.registry.set(fernwick::HKEY_LOCAL_MACHINE, "Software\\Quinloft", "RootDir", folder);
+        registry.set(fernwick::HKEY_LOCAL_MACHINE, "Software\\Quinloft", "RootDir", folder);
     }
     /// Opens the project and gives its wrapper.
     basic::Ref<fernwick::clsQLProject> open(const SampleProject& sample) { return wrap(host.open(sample)); }
     basic::Ref<fernwick::clsQLProject> wrap(const basic::Ref<vbide::VBProject>& vbProject) {
-        auto project = basic::make<fernwick::clsQLProject>(services);
+        auto project = basic::make<fernwick::clsQLProject>(projectServices);
         project->VBProject(vbProject);
         return project;
     }
     /// A project that only the host's memory has, for what may fail.
-    basic::Ref<TracedProject> traced() {
-        return basic::make<TracedProject>(world.trace, "Hello", host.folder / "Hello.vbp");
-    }
+    basic::Ref<TracedProject> traced() { return basic::make<TracedProject>(trace, "Hello", host.folder / "Hello.vbp"); }
     static std::string stored(const basic::Ref<fernwick::clsQLProject>& project, const std::string& key,
                               const std::string& section = "Quinloft Global") {
         std::string value = "(none)";
@@ -49,28 +55,6 @@ protected:
         return value;
     }
     std::string path(const std::string& name) const { return host.folder / name; }
-
-    TestHost host;
-    host::FileSystem files;
-    FakeScreen screen;
-    fernwick::Platform platform{user,
-                                world.loop,
-                                world.registry,
-                                files,
-                                world.processes,
-                                classes,
-                                world.environment,
-                                world.clipboard,
-                                world.shell,
-                                screen,
-                                world.clock,
-                                world.resources,
-                                {}};
-    fernwick::modQLInstallInfo install{registry, files};
-    fernwick::AddIn addIn{registry, world.errors, world.environment};
-    fernwick::modProjectTemplates templates{addIn, install, files, user, world.errors};
-    fernwick::ProjectServices services{world.errors, platform, install, addIn, devices, templates};
-    fernwick::DeviceServices deviceServices{world.errors, user, classes, registry, prefs, references, devices};
 };
 
 } // namespace test

@@ -92,10 +92,10 @@ TEST_F(SaveFiles, AFailedSaveLeavesTheDirtyMark) {
     project = wrap(vbProject);
     for (int failing = 1; failing < 40; ++failing) {
         module->dirty = true;
-        world.trace = {};
-        world.trace.failing = failing;
+        trace = {};
+        trace.failing = failing;
         project->SaveFiles();
-        const auto& done = world.trace.effects;
+        const auto& done = trace.effects;
         const bool saved = std::find(done.begin(), done.end(), "modTwo saved " + path("modTwo.bas")) != done.end();
         EXPECT_TRUE(saved || module->dirty) << failing;
     }

@@ -9,8 +9,6 @@ namespace {
 
 struct SaveProject : test::ProjectTest {
     static constexpr int kAsks = vbYesNoCancel | vbQuestion;
-    modProjectHandler projects{services};
-    modSaveProject save{services, projects};
     std::shared_ptr<void> fileSystem =
         classes.RegisterClass("Scripting.FileSystemObject", [] { return basic::make<host::FileSystem>(); });
     basic::Ref<vbide::VBProject> project =
@@ -113,8 +111,8 @@ TEST_F(SaveProject, DialogsStartAtTheHostsFolderElseAtHome) {
         return "";
     });
     EXPECT_FALSE(save.AskForSaveProject(project));
-    world.registry.set(HKEY_LOCAL_MACHINE, "Software\\Microsoft\\VisualStudio\\6.0\\Setup\\Microsoft Visual Basic",
-                       "ProductDir", "/vb");
+    registry.set(HKEY_LOCAL_MACHINE, "Software\\Microsoft\\VisualStudio\\6.0\\Setup\\Microsoft Visual Basic",
+                 "ProductDir", "/vb");
     user.expectSave([&](const CommonDialog& dialog) {
         EXPECT_EQ(dialog.InitDir, "/vb");
         return "";
@@ -142,15 +140,15 @@ TEST_F(SaveProject, WhateverFailsNothingUnsavedCountsAsSaved) {
     vbProject->add("modTwo", path("modTwo.bas"))->dirty = true;
     int calls = 1;
     for (int failing = 1; failing <= calls; ++failing) {
-        world.errors.seen.clear();
-        world.trace = {};
-        world.trace.failing = failing;
+        errors.seen.clear();
+        trace = {};
+        trace.failing = failing;
         const bool saved = save.SaveProject(vbProject, false, "", false, "");
-        calls = world.trace.calls;
+        calls = trace.calls;
         const auto boxes =
             std::erase_if(user.wrong, [](const auto& box) { return box.ends_with("unable to access file system."); });
         EXPECT_EQ(reports().size() + boxes, 1U) << failing;
-        const auto& done = world.trace.effects;
+        const auto& done = trace.effects;
         EXPECT_TRUE(!saved || std::count(done.begin(), done.end(), "modTwo saved " + path("modTwo.bas")) == 1);
     }
 }

@@ -3,14 +3,14 @@
 using namespace fernwick;
 
 namespace {
-struct ProjectSettings : test::ProjectTest {
+struct StoredSettings : test::ProjectTest {
     auto openWith(const std::string& values) {
         return open(test::SampleProject{"A_B"}.sections("\r\n[Quinloft Global]\r\n" + values));
     }
 };
 } // namespace
 
-TEST_F(ProjectSettings, DefaultsWithoutAnyKey) {
+TEST_F(StoredSettings, DefaultsWithoutAnyKey) {
     const auto project = open(test::SampleProject{"A_B"});
     EXPECT_FALSE(project->IsQuinloftProject());
     EXPECT_EQ(project->TargetDevice(), "");
@@ -36,7 +36,7 @@ TEST_F(ProjectSettings, DefaultsWithoutAnyKey) {
     EXPECT_TRUE(reports().empty());
 }
 
-TEST_F(ProjectSettings, WhatIsSetIsStoredAsTextAndRead) {
+TEST_F(StoredSettings, WhatIsSetIsStoredAsTextAndRead) {
     const auto project = open(test::SampleProject{});
     project->TavletStyleID(3);
     project->DefaultFontName("Tahoma");
@@ -63,7 +63,7 @@ TEST_F(ProjectSettings, WhatIsSetIsStoredAsTextAndRead) {
     EXPECT_EQ(project->LastCompileVersion(), "3.5.0 (0624)");
 }
 
-TEST_F(ProjectSettings, TextsThatDontConvertReadAsZero) {
+TEST_F(StoredSettings, TextsThatDontConvertReadAsZero) {
     const auto project = openWith("DefaultFontSize=big\r\nAutoSaveProject=maybe\r\nTwipsPerPixelX=wide\r\n");
     EXPECT_EQ(project->DefaultFontSize(), 0);
     EXPECT_FALSE(project->Autosave());
@@ -71,50 +71,50 @@ TEST_F(ProjectSettings, TextsThatDontConvertReadAsZero) {
     EXPECT_TRUE(reports().empty());
 }
 
-TEST_F(ProjectSettings, ScanReferencesTakesEitherForm) {
+TEST_F(StoredSettings, ScanReferencesTakesEitherForm) {
     EXPECT_FALSE(openWith("ScanReferences=0\r\n")->ScanReferences());
 }
-TEST_F(ProjectSettings, ScanReferencesTakesWords) {
+TEST_F(StoredSettings, ScanReferencesTakesWords) {
     EXPECT_FALSE(openWith("ScanReferences=False\r\n")->ScanReferences());
 }
-TEST_F(ProjectSettings, ScanReferencesOfOtherWordsIsTrueAndReported) {
+TEST_F(StoredSettings, ScanReferencesOfOtherWordsIsTrueAndReported) {
     EXPECT_TRUE(openWith("ScanReferences=perhaps\r\n")->ScanReferences());
     EXPECT_EQ(reports(), Texts{"clsQLProject.Get_ScanReferences [13]"});
 }
 
-TEST_F(ProjectSettings, AnEmptyVersionIsTheOldFormat) {
+TEST_F(StoredSettings, AnEmptyVersionIsTheOldFormat) {
     EXPECT_EQ(openWith("ProjectVersion=\r\n")->ProjectVersion(), "1.0");
 }
 
-TEST_F(ProjectSettings, PathsOfEarlierVersionsReadAsKeys) {
+TEST_F(StoredSettings, PathsOfEarlierVersionsReadAsKeys) {
     const auto project = openWith("TargetDevice=SOFTWARE\\Quinloft\\DesignTargets\\PocketPC\r\n");
     EXPECT_EQ(project->TargetDevice(), "PocketPC-SH3");
     EXPECT_EQ(stored(project, "TargetDevice"), "SOFTWARE\\Quinloft\\DesignTargets\\PocketPC");
 }
-TEST_F(ProjectSettings, ThePalmPathToo) {
+TEST_F(StoredSettings, ThePalmPathToo) {
     EXPECT_EQ(openWith("TargetDevice=SOFTWARE\\Quinloft\\DesignTargets\\PalmOS\r\n")->TargetDevice(),
               "PalmOS-DragonBall");
 }
-TEST_F(ProjectSettings, OldPathsMatchByLetterCase) {
+TEST_F(StoredSettings, OldPathsMatchByLetterCase) {
     EXPECT_EQ(openWith("TargetDevice=Software\\Quinloft\\DesignTargets\\PocketPC\r\n")->TargetDevice(),
               "Software\\Quinloft\\DesignTargets\\PocketPC");
 }
 
-TEST_F(ProjectSettings, TheStartUpMarkerMatchesExactly) {
+TEST_F(StoredSettings, TheStartUpMarkerMatchesExactly) {
     EXPECT_TRUE(openWith("StartUpProject={8A515BDE-2BCC-4ed4-8F0A-99E4522CC1BB}\r\n")->IsStartUpProject());
 }
-TEST_F(ProjectSettings, AStartUpMarkerInSmallLettersIsNone) {
+TEST_F(StoredSettings, AStartUpMarkerInSmallLettersIsNone) {
     EXPECT_FALSE(openWith("StartUpProject={8a515bde-2bcc-4ed4-8f0a-99e4522cc1bb}\r\n")->IsStartUpProject());
 }
 
-TEST_F(ProjectSettings, TheLastSettingsPageCantBeCleared) {
+TEST_F(StoredSettings, TheLastSettingsPageCantBeCleared) {
     const auto project = openWith("");
     project->SetLastSettingsDialog("Compiler Settings");
     project->SetLastSettingsDialog("");
     EXPECT_EQ(project->GetLastSettingsDialog(), "Compiler Settings");
 }
 
-TEST_F(ProjectSettings, NamesShowBlanksOnlyWhereEnabled) {
+TEST_F(StoredSettings, NamesShowBlanksOnlyWhereEnabled) {
     const auto project = openWith("");
     EXPECT_EQ(project->ProjectName(), "A_B");
     EXPECT_EQ(project->DisplayName(), "A_B");
@@ -123,11 +123,11 @@ TEST_F(ProjectSettings, NamesShowBlanksOnlyWhereEnabled) {
     EXPECT_EQ(project->ProjectPath(), host.folder.path());
 }
 
-TEST_F(ProjectSettings, CountsForms) {
+TEST_F(StoredSettings, CountsForms) {
     EXPECT_EQ(open(test::SampleProject{}.form("frmOne").module("modTwo").form("frmThree"))->NumForms(), 2);
 }
 
-TEST_F(ProjectSettings, ANewIdentityIsAGuidWithoutBraces) {
+TEST_F(StoredSettings, ANewIdentityIsAGuidWithoutBraces) {
     const auto project = openWith("");
     project->CreateNewModId();
     const auto first = stored(project, "MODID");
@@ -136,7 +136,7 @@ TEST_F(ProjectSettings, ANewIdentityIsAGuidWithoutBraces) {
     EXPECT_NE(stored(project, "MODID"), first);
 }
 
-TEST_F(ProjectSettings, WhatTheHostRefusesIsReportedUnderItsProperty) {
+TEST_F(StoredSettings, WhatTheHostRefusesIsReportedUnderItsProperty) {
     const auto vbProject = traced();
     vbProject->readOnly = true;
     const auto project = wrap(vbProject);
@@ -145,7 +145,7 @@ TEST_F(ProjectSettings, WhatTheHostRefusesIsReportedUnderItsProperty) {
     EXPECT_EQ(reports(), (Texts{"clsQLProject.Let_DefaultFontSize [75]", "clsQLProject.Let_Autosave [75]"}));
 }
 
-TEST_F(ProjectSettings, AFailedReadThatIsNoAbsentValueIsReportedByThree) {
+TEST_F(StoredSettings, AFailedReadThatIsNoAbsentValueIsReportedByThree) {
     const auto vbProject = traced();
     const auto project = wrap(vbProject);
     vbProject->removed = true;
@@ -157,4 +157,36 @@ TEST_F(ProjectSettings, AFailedReadThatIsNoAbsentValueIsReportedByThree) {
     EXPECT_EQ(reports(),
               (Texts{"clsQLProject.Get_LastCompileVersion [40198]", "clsQLProject.Get_ScanReferences [40198]",
                      "clsQLProject.Get_OpenedFromQLTemplate [40198]", "clsQLProject.Get_ProjectName [40198]"}));
+}
+
+TEST_F(StoredSettings, EverySettingOfTheListReadsAsItsDefaultAtFirst) {
+    const auto project = open(test::SampleProject{});
+    EXPECT_GT(project->settings().size(), 20U);
+    for (const auto* setting : project->settings())
+        EXPECT_EQ(setting->values(), setting->defaults()) << setting->name();
+    EXPECT_TRUE(reports().empty());
+}
+
+TEST_F(StoredSettings, EveryWritableSettingOfTheListReadsAsAssigned) {
+    const std::map<SettingKind, Texts> samples{{SettingKind::Text, {"/text"}},
+                                               {SettingKind::Number, {"-7"}},
+                                               {SettingKind::Decimal, {"12.5"}},
+                                               {SettingKind::Boolean, {"True"}},
+                                               {SettingKind::List, {"one", "two"}}};
+    const auto project = open(test::SampleProject{});
+    for (auto* setting : project->settings()) {
+        if (!setting->isWritable()) continue;
+        setting->assign(samples.at(setting->kind()));
+        EXPECT_EQ(setting->values(), samples.at(setting->kind())) << setting->name();
+    }
+    EXPECT_TRUE(reports().empty());
+}
+
+TEST_F(StoredSettings, DescribesItselfWithoutAProject) {
+    const fernwick::ProjectSettings described{nullptr};
+    const auto& first = *described.settings().front();
+    EXPECT_EQ(first.name(), "IsQuinloftProject");
+    EXPECT_EQ(first.meaning(), "the project is a Fernwick project");
+    EXPECT_FALSE(first.isWritable());
+    EXPECT_EQ(described.settings()[1]->defaults(), Texts{"1.0"});
 }

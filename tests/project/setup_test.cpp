@@ -3,11 +3,11 @@
 using namespace fernwick;
 
 namespace {
-struct ProjectSetup : test::ProjectTest {
-    basic::Ref<test::FakeTarget> palm = addTarget("Palm");
+struct DeviceSetup : test::ProjectTest {
+    basic::Ref<test::ListedTarget> palm = addTarget("Palm");
 
     void support(const std::string& clsid, const std::string& progId) {
-        world.registry.set(HKEY_CLASSES_ROOT, "CLSID\\" + clsid + "\\InprocServer32", "", "/q/Tavlets.dll");
+        registry.set(HKEY_CLASSES_ROOT, "CLSID\\" + clsid + "\\InprocServer32", "", "/q/Tavlets.dll");
         classes.progIds[clsid] = progId;
         classes.libraries["/q/Tavlets.dll"] = {"Tavlets", "/q/Tavlets.dll", "", 1, 0, ""};
         palm->clsids.push_back(clsid);
@@ -18,7 +18,7 @@ struct ProjectSetup : test::ProjectTest {
         read.ReadDeviceConfig("Palm");
         return read;
     }
-    const Texts& effects() const { return world.trace.effects; }
+    const Texts& effects() const { return trace.effects; }
 };
 
 /// Refuses what it is asked for with an error of the test's choice.
@@ -30,7 +30,7 @@ struct RefusingProject : test::TracedProject {
 };
 } // namespace
 
-TEST_F(ProjectSetup, TakesEveryFieldAndTheDeviceLast) {
+TEST_F(DeviceSetup, TakesEveryFieldAndTheDeviceLast) {
     palm->width = "-1";
     palm->options["DefaultFontStyle"] = "2";
     const auto project = wrap(traced());
@@ -41,35 +41,35 @@ TEST_F(ProjectSetup, TakesEveryFieldAndTheDeviceLast) {
     EXPECT_EQ(project->designTarget()->Key(), "Palm");
 }
 
-TEST_F(ProjectSetup, ATemplateTakesTheDeviceOnly) {
+TEST_F(DeviceSetup, ATemplateTakesTheDeviceOnly) {
     wrap(traced())->SetTemplateForDeviceConfig(config());
     EXPECT_EQ(effects(), (Texts{"TargetDevice=Palm", "numCompileTargets=1", "CompileTarget1=Palm"}));
 }
 
-TEST_F(ProjectSetup, ToolboxAndReferencesTakeWhatIsThere) {
+TEST_F(DeviceSetup, ToolboxAndReferencesTakeWhatIsThere) {
     support("{1}", "Tavlets.QLLabel");
     support("{2}", "");
     palm->references = {"{A}", ""};
     user.expectBox("Could not get ProgID of \r\ndefined in Palm");
     const auto project = wrap(traced());
     project->SetTemplateForDeviceConfig(config());
-    world.trace.effects.clear();
+    trace.effects.clear();
     project->SetupProjectToolbar();
     project->SetupProjectReferences();
     EXPECT_EQ(effects(), (Texts{"toolbox Tavlets.QLLabel", "reference {A}"}));
 }
 
-TEST_F(ProjectSetup, NothingIsAddedBeforeTheListsAreThere) {
+TEST_F(DeviceSetup, NothingIsAddedBeforeTheListsAreThere) {
     const auto project = wrap(traced());
     project->SetupProjectToolbar();
     project->SetupProjectReferences();
     EXPECT_EQ(effects(), Texts{});
 }
 
-TEST_F(ProjectSetup, WhatTheHostRefusesGetsABox) {
+TEST_F(DeviceSetup, WhatTheHostRefusesGetsABox) {
     support("{1}", "Tavlets.QLLabel");
     palm->references = {"{A}"};
-    const auto vbProject = basic::make<RefusingProject>(world.trace, "Hello", "");
+    const auto vbProject = basic::make<RefusingProject>(trace, "Hello", "");
     const auto project = wrap(vbProject);
     project->SetTemplateForDeviceConfig(config());
     vbProject->number = 50001;
@@ -80,10 +80,10 @@ TEST_F(ProjectSetup, WhatTheHostRefusesGetsABox) {
     EXPECT_TRUE(reports().empty());
 }
 
-TEST_F(ProjectSetup, Number5PassesForTheToolboxAlone) {
+TEST_F(DeviceSetup, Number5PassesForTheToolboxAlone) {
     support("{1}", "Tavlets.QLLabel");
     palm->references = {"{A}"};
-    const auto vbProject = basic::make<RefusingProject>(world.trace, "Hello", "");
+    const auto vbProject = basic::make<RefusingProject>(trace, "Hello", "");
     const auto project = wrap(vbProject);
     project->SetTemplateForDeviceConfig(config());
     vbProject->number = 5;
@@ -92,25 +92,25 @@ TEST_F(ProjectSetup, Number5PassesForTheToolboxAlone) {
     project->SetupProjectReferences();
 }
 
-TEST_F(ProjectSetup, TheStyleIsPublishedInTheEnvironment) {
+TEST_F(DeviceSetup, TheStyleIsPublishedInTheEnvironment) {
     const auto project = wrap(traced());
     project->TavletStyleID(7);
     project->PublishTavletStyle();
-    EXPECT_EQ(world.environment.values["TavletStyle-DAF573D9-3AB3-4672-A6A7-6C23862A52E9"], "7");
+    EXPECT_EQ(environment.values["TavletStyle-DAF573D9-3AB3-4672-A6A7-6C23862A52E9"], "7");
 }
 
-TEST_F(ProjectSetup, EachFailingCallLeavesTheRestDone) {
+TEST_F(DeviceSetup, EachFailingCallLeavesTheRestDone) {
     support("{1}", "Tavlets.QLLabel");
     palm->references = {"{A}"};
     const auto device = config();
     int calls = 1;
     for (int failing = 1; failing <= calls; ++failing) {
-        world.errors.seen.clear();
-        world.trace = {};
-        world.trace.failing = failing;
+        errors.seen.clear();
+        trace = {};
+        trace.failing = failing;
         const auto project = wrap(traced());
         project->SetProjectForDeviceConfig(device);
-        calls = world.trace.calls;
+        calls = trace.calls;
         EXPECT_EQ(reports().size(), 1U) << failing;
         EXPECT_EQ(effects().size(), 9U) << failing;
         EXPECT_EQ(project->designTarget()->Key(), "Palm") << failing;

@@ -1,6 +1,6 @@
 #pragma once
-// Menus and toolbars in memory, each of whose members counts as a call and may fail. What changes one is told in the
-// trace under the control's caption or the bar's name.
+// Menus and toolbars in memory. Each member counts as a call and may fail; changes are recorded in the trace under the
+// control's caption or the bar's name.
 #include "Add-in/platform/command_bars.h"
 #include "trace.h"
 #include <functional>
@@ -9,7 +9,7 @@ namespace test {
 
 using basic::Ref;
 
-/// A text without its accelerators.
+/// Returns a text without accelerators.
 inline std::string plain(std::string text) {
     std::erase(text, '&');
     return text;
@@ -42,12 +42,16 @@ public:
     Ref<office::CommandBar> Parent() const override;
     Ref<office::CommandBarControls> Controls() override;
     void Delete() override;
-    void Execute() override { did("executed"); }
+    void Execute() override {
+        did("executed");
+        if (whenExecuted) whenExecuted();
+    }
 
     std::string caption, tag, toolTip;
     bool group = false, enabled = true, visible = true, removed = false;
     office::MsoButtonStyle style = office::msoButtonAutomatic;
     std::shared_ptr<TracedBar> popup;
+    std::function<void()> whenExecuted;
 
 private:
     template <class T>
@@ -95,9 +99,9 @@ public:
             if (item->Id() == id) return item;
         return nullptr;
     }
-    /// A control of the host's own.
-    Ref<TracedItem> stand(int id, const std::string& caption);
-    /// By caption, accelerators aside; Nothing when there is none.
+    /// Adds one of the host's own controls.
+    Ref<TracedItem> addControl(int id, const std::string& caption);
+    /// Finds an item by its caption without accelerators; Nothing if there is none.
     Ref<TracedItem> at(const std::string& caption) const {
         for (const auto& item : items)
             if (plain(item->caption) == caption) return item;
@@ -119,7 +123,7 @@ private:
         return value;
     }
     void did(const std::string& what) {
-        trace_.effect(name + ": " + what);
+        trace_.effectOf(bars ? "bar " : "", name + ": " + what);
         if (removed) throw basic::RuntimeError(basic::kAutomationError);
     }
     Trace& trace_;
@@ -160,8 +164,8 @@ public:
     explicit TracedBars(Trace& trace) : trace_(trace) {}
     Ref<office::CommandBar> Item(const std::string& name) const override {
         trace_.read();
-        for (const auto& bar : list)
-            if (bar->name == name) return bar;
+        if (name == refused) throw basic::RuntimeError(basic::kAutomationError);
+        if (const auto bar = named(name)) return bar;
         throw basic::RuntimeError(basic::kInvalidProcedureCall);
     }
     std::vector<Ref<office::CommandBar>> items() const override { return {list.begin(), list.end()}; }
@@ -176,10 +180,16 @@ public:
         return nullptr;
     }
     Ref<office::CommandBar> Add(const std::string& name, int position, bool menuBar) override {
+        if (name == refused) throw basic::RuntimeError(basic::kAutomationError);
         trace_.effect("bar " + name + " at " + std::to_string(position) + (menuBar ? " as menu" : ""));
-        return stand(name);
+        return addBar(name);
     }
-    Ref<TracedBar> stand(const std::string& name) {
+    std::shared_ptr<TracedBar> named(const std::string& name) const {
+        for (const auto& bar : list)
+            if (bar->name == name) return bar;
+        return nullptr;
+    }
+    Ref<TracedBar> addBar(const std::string& name) {
         list.push_back(std::make_shared<TracedBar>(trace_, name));
         list.back()->bars = this;
         return list.back();
@@ -187,6 +197,8 @@ public:
 
     std::vector<std::shared_ptr<TracedBar>> list;
     Ref<TracedBar> menuBar;
+    /// Name of a bar that the host fails to return or create.
+    std::string refused;
 
 private:
     Trace& trace_;
@@ -226,12 +238,27 @@ inline void TracedBar::Delete() {
     removed = true;
     if (bars) std::erase_if(bars->list, [this](const auto& bar) { return bar.get() == this; });
 }
-inline Ref<TracedItem> TracedBar::stand(int id, const std::string& caption) {
+inline Ref<TracedItem> TracedBar::addControl(int id, const std::string& caption) {
     const auto item = std::make_shared<TracedItem>(trace_, office::msoControlPopup, id, shared_from_this());
     item->caption = caption;
     item->popup->name = plain(caption);
     items.push_back(item);
     return item;
+}
+
+/// The bars of a host that has just started.
+inline Ref<TracedBars> hostBars(Trace& trace) {
+    const auto bars = basic::make<TracedBars>(trace);
+    const auto menuBar = bars->menuBar = bars->addBar("Menu Bar");
+    menuBar->addControl(30002, "&File");
+    menuBar->addControl(30004, "&View");
+    menuBar->addControl(30038, "&Add-Ins");
+    const auto file = bars->addBar("File");
+    file->addControl(1, "New");
+    file->addControl(2, "Open");
+    file->addControl(3, "Save");
+    file->addControl(4, "Remove");
+    return bars;
 }
 
 } // namespace test

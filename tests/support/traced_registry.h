@@ -2,6 +2,7 @@
 // A registry in memory.
 #include "Add-in/platform/registry.h"
 #include "Basic/case_folding.h"
+#include <functional>
 #include <map>
 #include <string>
 
@@ -78,6 +79,7 @@ public:
     }
     std::int32_t RegSetValueEx(std::uint32_t key, const std::string& name, std::uint32_t type,
                                const std::string& data) override {
+        if (written) written(name);
         make(full(key, ""))[name] = {type, data};
         return fernwick::ERROR_SUCCESS;
     }
@@ -87,7 +89,9 @@ public:
     std::int32_t RegDeleteKey(std::uint32_t key, const std::string& subKey) override {
         return keys_.erase(full(key, subKey)) ? fernwick::ERROR_SUCCESS : fernwick::ERROR_FILE_NOT_FOUND;
     }
-    /// Handles that nobody closed.
+    /// Called with the name of each value that is stored.
+    std::function<void(const std::string& name)> written;
+    /// Number of handles that were not closed.
     std::size_t openKeys() const { return open_.size(); }
 
 private:
@@ -102,7 +106,7 @@ private:
         const std::string base = handle == open_.end() ? std::to_string(key) : handle->second;
         return subKey.empty() ? base : base + "\\" + subKey;
     }
-    /// The key with all above it.
+    /// Creates the key and its parents.
     Values& make(const std::string& path) {
         for (auto slash = path.find('\\'); slash != std::string::npos; slash = path.find('\\', slash + 1))
             keys_[path.substr(0, slash)];

@@ -1,5 +1,5 @@
-// Tests of the desktop on X. The program starts itself again on a display of its own; there, the window lives in the main
-// thread as always, and the tests are its user in another one: so they go on while a dialog stands.
+// Tests of the desktop on X. The program starts itself again on its own display. There the window runs in the main
+// thread and the tests in another one, so that they continue while a dialog is open.
 #include "tests/workbench/own_home.h"
 #include "tests/workbench_x11/clipboard_owner.h"
 #include <QApplication>
@@ -10,7 +10,7 @@
 
 namespace {
 
-/// Runs this program under the script that makes a display.
+/// Runs this program under the script that starts a display.
 int onDisplayOfItsOwn(int argc, char** argv) {
     std::string script = FERNWICK_SOURCE_DIR "/scripts/with-display";
     std::vector<char*> command{script.data()};
@@ -22,11 +22,18 @@ int onDisplayOfItsOwn(int argc, char** argv) {
     return 1;
 }
 
+/// Whether the tests are only to be listed, which needs no display.
+bool isListing(int argc, char** argv) { return argc == 2 && std::string(argv[1]) == "--gtest_list_tests"; }
+
 } // namespace
 
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "xcb");
     if (argc == 2 && std::string(argv[1]) == test::kOwnClipboard) return test::ownClipboard(argc, argv);
+    if (isListing(argc, argv)) {
+        testing::InitGoogleTest(&argc, argv);
+        return RUN_ALL_TESTS();
+    }
     if (qEnvironmentVariableIsEmpty("FERNWICK_TEST_ON_DISPLAY")) return onDisplayOfItsOwn(argc, argv);
 
     const test::OwnHome home;

@@ -75,7 +75,7 @@ std::vector<std::string> modDependencyManagement::ScanProjectForFontDependencies
 bool modDependencyManagement::canBeScanned(Procedure& here, const Project& project) {
     if (here.test([&] { return project->FileName().empty(); })) {
         box(here, build_texts::kSaveBeforeScan, vbExclamation);
-        here([&] { use_.commands.saveProjectItem()->Execute(); });
+        here([&] { use_.menu.saveProjectItem()->Execute(); });
         return false;
     }
     if (here.test([&] { return project->VBComponents()->Count() == 0; })) {
@@ -134,8 +134,8 @@ void modDependencyManagement::warnOfMissingFont(Procedure& here, const basic::Re
     const char* const remedy = onPalm ? build_texts::kFontMissingOnPalm : build_texts::kFontMissingElsewhere;
     here([&] {
         const auto what = fmt::format(build_texts::kFontMissing, "font"_a = font.name, "size"_a = font.size,
-                                      "style"_a = font.style, "component"_a = form->Name());
-        use_.messages.AddProjectCompileWarning(scan.qlProject->VBProject(), what + remedy, form->FileNames(1), 0,
+                                      "style"_a = font.style, "component"_a = form->Name(), "remedy"_a = remedy);
+        use_.messages.AddProjectCompileWarning(scan.qlProject->VBProject(), what, form->FileNames(1), 0,
                                                message_numbers::kFontMissing);
     });
 }

@@ -3,7 +3,7 @@
 #include "Add-in/build/dependencies/font_file.h"
 #include "Add-in/build/dependencies/resource_list.h"
 #include "Add-in/build/messages/modCompileErrorManagement.h"
-#include "Add-in/core/ide_commands.h"
+#include "Add-in/commands/modMenuManagement.h"
 #include "Add-in/core/modQLInstallInfo.h"
 #include "Add-in/platform/controls.h"
 #include "Add-in/project/clsQLProject.h"
@@ -17,7 +17,7 @@ struct DependencyServices {
     ErrorReport& errors;
     modQLInstallInfo& install;
     modCompileErrorManagement& messages;
-    IdeCommands& commands;
+    modMenuManagement& menu;
 };
 
 class modDependencyManagement {

@@ -70,7 +70,10 @@ bool modDependencyManagement::copyToProject(Procedure& here, const std::string& 
     using namespace fmt::literals;
     auto& files = use_.platform.files;
     const auto question = fmt::format(build_texts::kCopyDependency, "file"_a = path, "folder"_a = folder);
-    if (allowCopy && box(here, question, vbQuestion + vbYesNo) != vbYes) {
+    const auto answer = [&] {
+        return use_.platform.interaction.ask(Question::CopyFile, question, vbQuestion + vbYesNo, build_texts::kTitle);
+    };
+    if (allowCopy && here.value(answer) != vbYes) {
         box(here, build_texts::kNotCopied, vbExclamation);
         return false;
     }

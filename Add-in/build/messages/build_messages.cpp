@@ -1,5 +1,8 @@
 #include "Add-in/build/messages/build_messages.h"
+#include "Add-in/build/messages/build_texts.h"
 #include "Add-in/build/messages/message_numbers.h"
+#include "Basic/text_search.h"
+#include <vector>
 
 namespace fernwick {
 
@@ -7,72 +10,108 @@ namespace {
 
 constexpr bool kError = true, kWarning = false;
 
-// number and whether it is an error, text, meaning, example, remedy
-constexpr MessageInfo kBuildMessages[] = {
-    {message_numbers::kToolsMissing, kError, "Compiler tools could not be loaded. Please contact Quinloft at %1",
-     "The compiler of this installation could not be started, so nothing was compiled.", "fernwick build Hello.vbp",
-     "Repair the installation: the compiler is part of it."},
-    {message_numbers::kReservedWord, kError, "\"%1\" is illegal as a %2 name. It is a reserved word.",
-     "A form or a control has the name of a word of the language. Of words that go together, such as Option Base, "
-     "neither can be a name.",
-     "Begin VB.Form Option", "Rename the form or the control, and its procedures with it."},
-    {message_numbers::kComponentNotSupported, kError,
-     "%1 is not supported and may cause errors on a %2 device.  To ingore this warning and deploy to any device, turn "
-     "off reference checking in the Compiler section of the Fernwick Settings screen. (Double-Click here to open the "
-     "Fernwick Settings.)",
-     "The program uses a library of controls or classes that devices of this platform don't have.",
-     "Object={831FD5D9-1234-4C2B-9C06-0123456789AB}#1.0#0; SomeControl.ocx",
-     "Do without the library, choose a device that has it, or turn reference checking off when you know that the "
-     "device gets it another way."},
-    {message_numbers::kFontMissing, kWarning,
-     "Could Not Find \"%1\" Weight:%2 Style:%3 referenced in %4 If this font is not already on the device, either add "
-     "the font as a dependency, or convert the font and store it in the Quinloft/Fonts directory.",
-     "A control on the form wants a font (%2 is its size; style 0 is regular, 1 bold, 2 italic, 3 both) of which there "
-     "is no converted file, neither in the Fonts folder of the installation nor beside the project. The device draws "
-     "another font instead unless it has this one.",
-     "FontName = \"Arial\"\nFontSize = 9",
-     "Convert the font with the Font Converter, or choose one of the fonts that are installed: a file such as "
-     "Ari_09R.CMF holds Arial, 9 points, regular."},
-    {message_numbers::kControlEventNotSupported, kWarning, "%1 is not supported by Quinloft Fernwick for %2{%3}",
-     "Devices never raise this event of the control, so the procedure never runs.",
-     "Private Sub Picture1_DRAGDROP(Source As Control, X As Single, Y As Single)",
-     "Do the work in an event that devices have, such as Click."},
-    {message_numbers::kFormEventNotSupported, kWarning, "%1 is not supported by Quinloft Fernwick for %2%3",
-     "Devices never raise this event of the form, so the procedure never runs.", "Private Sub Form_Paint()",
-     "Do the work in the event that the message names, or in one of Load, Unload, QueryUnload, Click, KeyDown, KeyUp, "
-     "KeyPress, Resize, Activate, Deactivate, Initialize and Terminate."},
-    {message_numbers::kScaleModeNotPixels, kError, "Form ScaleMode must be set to Pixels",
-     "Devices place controls in pixels. In any other unit the form would come out in another size.",
-     "ScaleMode = 1  'Twip", "Set ScaleMode of the form to 3 - Pixel, and check where its controls stand."},
-    {message_numbers::kStartUpPositionManual, kWarning,
-     "Using a StartUpPosition of Manual could cause the application to not be visible on the device.",
-     "The form would come up where it stands in the designer, which may lie outside of the device's small screen.",
-     "StartUpPosition = 0  'Manual", "Set StartUpPosition of the form to 2 - CenterScreen."},
-    {message_numbers::kFormPicture, kWarning, "The Picture property of Forms is not supported.",
-     "Devices don't draw the picture of a form.", "Picture = \"frmMain.frx\":0000",
-     "Remove the picture, or put it into a picture control."},
-    {message_numbers::kReferenceMissing, kError,
-     "There is a missing reference in this project, please remove the reference.",
-     "The project refers to a library that is not on this machine.",
-     "Reference=*\\G{00000000-1111-2222-3333-444444444444}#1.0#0#Gone.dll#Gone",
-     "Install the library, or remove the reference from the project."},
-    {message_numbers::kBorderStyle, kWarning,
-     "The only valid selections for the BorderStyle property of Forms are \"0 - None\", \"1 - Fixed Single\", or \"3 - "
-     "Fixed Dialog\".",
-     "Windows on devices can't be sized, and none of them is a tool window.", "BorderStyle = 2  'Sizable",
-     "Set BorderStyle of the form to 0, 1 or 3."},
-    {message_numbers::kPictureHelp, kWarning, "%1",
-     "A message about a picture. A double click on it opens the help about pictures. This version gives none itself; "
-     "lists of messages that are stored in projects may hold some.",
-     "", "Read the help page."},
-    {message_numbers::kFilesNotSaved, kError, "Unknown error trying to save files, please contact Quinloft at %1",
-     "Not all files of the project could be saved, so it was neither compiled nor validated.",
-     "chmod a-w frmMain.frm\nfernwick build Hello.vbp",
-     "See to it that the files of the project can be written and that the disk has room, then save them."},
+/// A row of the table, with the text as the add-in formats it.
+struct NamedMessage {
+    std::int32_t number;
+    bool isError;
+    std::string text;
+    std::string_view meaning, example, remedy;
 };
+
+const std::vector<NamedMessage>& namedMessages() {
+    using namespace message_numbers;
+    static const std::vector<NamedMessage> messages = {
+        {kToolsMissing, kError, build_texts::kToolsMissingMessage,
+         "The compiler of this installation could not be started, so nothing was compiled.", "fernwick build Hello.vbp",
+         "Repair the installation: the compiler is part of it."},
+        {kReservedWord, kError, build_texts::kReservedName,
+         "A form or control has the name of a word of the language. Each word of a pair such as Option Base is "
+         "reserved.",
+         "Begin VB.Form Option", "Rename the form or control and its procedures."},
+        {kComponentNotSupported, kError, build_texts::kComponentNotSupported,
+         "The program uses a library of controls or classes that devices of this platform do not have.",
+         "Object={831FD5D9-1234-4C2B-9C06-0123456789AB}#1.0#0; SomeControl.ocx",
+         "Remove the library, choose a device that has it, or turn off reference checking if the device gets the "
+         "library by other means."},
+        {kFontMissing, kWarning,
+         basic::Replace(build_texts::kFontMissing, "{remedy}", build_texts::kFontMissingElsewhere),
+         "A control on the form uses a font (%2 is its size; style 0 is regular, 1 bold, 2 italic, 3 both) for which "
+         "there is no converted file, neither in the installation's Fonts folder nor beside the project. The device "
+         "substitutes another font unless it has this one.",
+         "FontName = \"Arial\"\nFontSize = 9",
+         "Convert the font with the Font Converter, or choose an installed one: a file such as Ari_09R.CMF holds "
+         "Arial, 9 points, regular."},
+        {kControlEventNotSupported, kWarning, build_texts::kControlEventNotSupported,
+         "Devices never raise this event of the control, so the procedure never runs.",
+         "Private Sub Picture1_DRAGDROP(Source As Control, X As Single, Y As Single)",
+         "Use an event that devices raise, such as Click."},
+        {kFormEventNotSupported, kWarning, build_texts::kFormEventNotSupported,
+         "Devices never raise this event of the form, so the procedure never runs.", "Private Sub Form_Paint()",
+         "Use the event that the message names, or one of Load, Unload, QueryUnload, Click, KeyDown, KeyUp, KeyPress, "
+         "Resize, Activate, Deactivate, Initialize and Terminate."},
+        {kScaleModeNotPixels, kError, build_texts::kScaleModeNotPixels,
+         "Devices place controls in pixels. In any other unit the form would have a different size.",
+         "ScaleMode = 1  'Twip", "Set the form's ScaleMode to 3 - Pixel, and check the positions of its controls."},
+        {kStartUpPositionManual, kWarning, build_texts::kStartUpPositionManual,
+         "The form would open at its position in the designer, which may be outside the device's small screen.",
+         "StartUpPosition = 0  'Manual", "Set the form's StartUpPosition to 2 - CenterScreen."},
+        {kFormPicture, kWarning, build_texts::kFormPicture, "Devices do not draw the picture of a form.",
+         "Picture = \"frmMain.frx\":0000", "Remove the picture, or move it to a picture control."},
+        {kReferenceMissing, kError, build_texts::kReferenceMissing,
+         "The project refers to a library that is not on this machine.",
+         "Reference=*\\G{00000000-1111-2222-3333-444444444444}#1.0#0#Gone.dll#Gone",
+         "Install the library, or remove the reference from the project."},
+        {kBorderStyle, kWarning, build_texts::kBorderStyle,
+         "Windows on devices cannot be resized, and there are no tool windows.", "BorderStyle = 2  'Sizable",
+         "Set the form's BorderStyle to 0, 1 or 3."},
+        {kPictureHelp, kWarning, "{text}",
+         "A message about a picture. Double-click it to open the help about pictures. This version does not issue it, "
+         "but it may be stored in projects.",
+         "", "Read the help page."},
+        {kFilesNotSaved, kError, build_texts::kSavingFailed,
+         "Some files of the project could not be saved, so it was neither compiled nor validated.",
+         "chmod a-w frmMain.frm\nfernwick build Hello.vbp",
+         "Make sure that the project's files are writable and that the disk is not full, then save them."},
+    };
+    return messages;
+}
+
+/// Replaces "{name}" by "%1" and so on, and doubled braces by single ones.
+std::string numbered(std::string_view text) {
+    std::string out;
+    int count = 0;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const bool twice = i + 1 < text.size() && text[i + 1] == text[i];
+        if (text[i] == '{' && !twice) {
+            out += '%' + std::to_string(++count);
+            i = text.find('}', i);
+        } else {
+            out += text[i];
+            if ((text[i] == '{' || text[i] == '}') && twice) ++i;
+        }
+    }
+    return out;
+}
+
+std::vector<std::string> numberedTexts() {
+    std::vector<std::string> texts;
+    for (const auto& message : namedMessages()) texts.push_back(numbered(message.text));
+    return texts;
+}
+
+std::vector<MessageInfo> makeTable(const std::vector<std::string>& texts) {
+    std::vector<MessageInfo> table;
+    for (const auto& row : namedMessages())
+        table.push_back({row.number, row.isError, texts[table.size()], row.meaning, row.example, row.remedy});
+    return table;
+}
 
 } // namespace
 
-std::span<const MessageInfo> buildMessages() { return kBuildMessages; }
+std::span<const MessageInfo> buildMessages() {
+    static const auto texts = numberedTexts();
+    static const auto table = makeTable(texts);
+    return table;
+}
 
 } // namespace fernwick

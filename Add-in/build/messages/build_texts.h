@@ -30,26 +30,24 @@ struct Outcome {
 // Before a compile
 inline constexpr char kSaveFilesFirst[] =
     "Cannot compile the project.\r\n\r\nPlease save all project files and then recompile.";
-inline constexpr char kMustBeSavedBefore[] = "All files in the ";
-inline constexpr char kMustBeSavedAfter[] =
-    " project must be saved before compiling.\r\nDo you want to save now and continue compiling?";
-/// The support address follows.
-inline constexpr char kSavingFailed[] = "Unknown error trying to save files, please contact Quinloft at ";
-inline constexpr char kToolsMissing[] = "Compiler tools could not be loaded. Terminating compile.";
-inline constexpr char kPleaseContact[] = "Please contact Quinloft at ";
-inline constexpr char kToolsMissingMessage[] = "Compiler tools could not be loaded. Please contact Quinloft at ";
-/// The project's name stands before it.
-inline constexpr char kReadOnlyProject[] = " is ReadOnly, compile errors will not be saved.";
+inline constexpr char kMustBeSaved[] = "All files in the {project} project must be saved before compiling.\r\n"
+                                       "Do you want to save now and continue compiling?";
+inline constexpr char kSavingFailed[] = "Unknown error trying to save files, please contact Quinloft at {address}";
+inline constexpr char kToolsMissing[] = "Compiler tools could not be loaded. Terminating compile.\r\n"
+                                        "Please contact Quinloft at {address}";
+inline constexpr char kToolsMissingMessage[] =
+    "Compiler tools could not be loaded. Please contact Quinloft at {address}";
+inline constexpr char kReadOnlyProject[] = "{project} is ReadOnly, compile errors will not be saved.";
 inline constexpr char kPreStepsFailed[] =
     "One or more of your pre compile steps may have failed.  Do you wish to continue with compilation?";
 
 // During a compile
-inline constexpr char kCompiling[] = "Compiling ";
+inline constexpr char kCompiling[] = "Compiling {project}...";
 inline constexpr char kBuildStarted[] = "Compiler Build Started";
 inline constexpr char kScanningDependencies[] = "Scanning Project Dependencies...";
 inline constexpr char kFinishedWithError[] = "Compile Finished with Error";
 inline constexpr char kRunningPostSteps[] = "Running PostCompile Steps...";
-inline constexpr char kUnexpectedDependency[] = "Recieved unexpected dependency type from compiler.";
+inline constexpr char kUnexpectedDependency[] = "Recieved unexpected dependency type from compiler."; // sic
 
 // After a compile
 inline constexpr char kPostStepsFailed[] = "Warning, One or more of your post compile steps may have failed.";
@@ -61,9 +59,9 @@ inline constexpr char kSaveBeforeScan[] = "Before scanning for dependencies the 
 inline constexpr char kEmptyProject[] = "This project is empty!";
 inline constexpr char kScanningComponent[] = "Scanning {component}...";
 inline constexpr char kScanFinished[] = "Finished";
-/// The size stands behind the word Weight. What to do about it follows.
+/// The word Weight is followed by the size.
 inline constexpr char kFontMissing[] =
-    "Could Not Find \"{font}\" Weight:{size} Style:{style} referenced in {component}";
+    "Could Not Find \"{font}\" Weight:{size} Style:{style} referenced in {component}{remedy}";
 inline constexpr char kFontMissingOnPalm[] = " Double-click this error to start the Font Converter. Converted font "
                                              "must be located in the Quinloft\\Fonts directory.";
 inline constexpr char kFontMissingElsewhere[] =
@@ -106,8 +104,8 @@ inline constexpr char kComponentNotSupported[] =
     "{name} is not supported and may cause errors on a {platform} device.  To ingore this warning and deploy to any "
     "device, turn off reference checking in the Compiler section of the Fernwick Settings screen. (Double-Click here "
     "to open the Fernwick Settings.)";
-inline constexpr char kReservedFormName[] = "\"{name}\" is illegal as a form name. It is a reserved word.";
-inline constexpr char kReservedControlName[] = "\"{name}\" is illegal as a control name. It is a reserved word.";
+inline constexpr char kReservedName[] = "\"{name}\" is illegal as a {kind} name. It is a reserved word.";
+inline constexpr char kFormKind[] = "form", kControlKind[] = "control";
 inline constexpr char kScaleModeNotPixels[] = "Form ScaleMode must be set to Pixels";
 inline constexpr char kStartUpPositionManual[] =
     "Using a StartUpPosition of Manual could cause the application to not be visible on the device.";
@@ -116,8 +114,8 @@ inline constexpr char kBorderStyle[] = "The only valid selections for the Border
                                        "\"0 - None\", \"1 - Fixed Single\", or \"3 - Fixed Dialog\".";
 inline constexpr char kControlEventNotSupported[] =
     "{procedure} is not supported by Quinloft Fernwick for {class}{{{control}}}";
-inline constexpr char kFormEventNotSupported[] = "{procedure} is not supported by Quinloft Fernwick for {form}";
-// What to use instead, behind the above
+inline constexpr char kFormEventNotSupported[] =
+    "{procedure} is not supported by Quinloft Fernwick for {form}{instead}";
 inline constexpr char kUseClickAndTimer[] = ", consider using the Click Event and TimerMS function";
 inline constexpr char kUseActivate[] = ", consider using the Activate Event";
 inline constexpr char kUseKeyPress[] = ", consider using the KeyPress Event";

@@ -61,7 +61,7 @@ void udocCompileMsgs::actOn(Procedure& here, std::int32_t errorNumber) {
     case message_numbers::kComponentNotSupported:
         here([&] { use.platform.interaction.SetCursor(vbHourglass); });
         here([&] {
-            use.commands.ShowQuinloftSettings(use.addIn.gVBInstance->ActiveVBProject(), kCompilerSettingsPage, false);
+            use.settings.ShowQuinloftSettings(use.addIn.gVBInstance->ActiveVBProject(), kCompilerSettingsPage, false);
         });
         break;
     case message_numbers::kFontMissing:

@@ -48,6 +48,9 @@ void modCompileErrorManagement::ShowFirstProjectError() {
 void modCompileErrorManagement::ProjectStatusText(std::string& successText, std::string& warningText,
                                                   std::string& failureText) {
     Procedure here{errors_, "modCompileErrorManagement.ProjectStatusText"};
+    status_ = errorCount_ > 0     ? RunStatus::Failed
+              : warningCount_ > 0 ? RunStatus::SucceededWithWarnings
+                                  : RunStatus::Succeeded;
     std::string& text = errorCount_ > 0 ? failureText : warningCount_ > 0 ? warningText : successText;
     if (&text != &successText) {
         here([&] { text = basic::Replace(text, "$ERRORNUM$", fmt::to_string(errorCount_)); });
@@ -93,6 +96,7 @@ void modCompileErrorManagement::clearToolWindow() {
     if (!messages_) return;
     basic::Suppressed quietly;
     quietly([&] { messages_->clearMessages(); });
+    status_ = RunStatus::Running;
     errorCount_ = 0;
     warningCount_ = 0;
     quietly([&] { messages_->SetStatusLabel(build_texts::kCompileStatus); });

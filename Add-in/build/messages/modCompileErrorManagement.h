@@ -8,6 +8,9 @@
 
 namespace fernwick {
 
+/// What the status of the messages window shows.
+enum class RunStatus { None, Running, Succeeded, SucceededWithWarnings, Failed };
+
 /// Every compile error, validation finding and deployment error of a project goes through here. The stored list
 /// survives the closing of the project; the window shows the list of the current project.
 class modCompileErrorManagement {
@@ -57,6 +60,7 @@ public:
     void addToToolWindow(const std::string& fileName, const std::string& title, std::int32_t line,
                          const std::string& message, int type, std::int32_t errorNumber, bool addToTop);
 
+    RunStatus status() const { return status_; }
     /// Errors in the window.
     std::int32_t errorCount() const { return errorCount_; }
     /// Warnings in the window that came before the first error.
@@ -73,6 +77,7 @@ private:
     FileTitles titles_;
     basic::Ref<CompileMessages> messages_;
     basic::Ref<vbide::Window> window_;
+    RunStatus status_ = RunStatus::None;
     std::int32_t errorCount_ = 0;
     std::int32_t warningCount_ = 0;
 };

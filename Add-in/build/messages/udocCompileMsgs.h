@@ -6,8 +6,8 @@
 #include "Add-in/build/messages/message_grid.h"
 #include "Add-in/commands/modViewConvertManagement.h"
 #include "Add-in/core/AddIn.h"
-#include "Add-in/core/ide_commands.h"
 #include "Add-in/core/procedure.h"
+#include "Add-in/core/settings_dialog.h"
 #include "Add-in/platform/platform.h"
 #include "Add-in/platform/property.h"
 #include <map>
@@ -21,7 +21,7 @@ struct CompileMsgsServices {
     ErrorReport& errors;
     AddIn& addIn;
     const modQLInstallInfo& install;
-    IdeCommands& commands;
+    SettingsDialog& settings;
     modViewConvertManagement& tools;
 };
 

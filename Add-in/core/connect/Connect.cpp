@@ -9,49 +9,50 @@ constexpr char kResourceEditor[] = "ResEdit6.Connect";
 
 void Connect::IDTExtensibility_OnConnection(const Host& VBInst, vbide::vbext_ConnectMode ConnectMode,
                                             const basic::Ref<vbide::AddIn>& AddInInst) {
-    LastControlEventTime = use_.platform.clock.Now();
-    use_.devices.initDesignTargetMgr();
-    use_.prefs.loadMyDevices();
+    LastControlEventTime = services_.clock.Now();
+    services_.devices.initDesignTargetMgr();
+    services_.prefs.loadMyDevices();
 
-    Procedure here{use_.errors, "Connect.IDTExtensibility_OnConnection(ByVal_VBInst_As_Object,_"
-                                "ByVal_ConnectMode_As_vbext_ConnectMode,_ByVal_AddInInst_As_VBIDE.AddIn,_custom"};
-    here([&] { use_.addIn.SaveVBinstPointer(VBInst); });
-    use_.addIn.gConnectMode = ConnectMode;
+    Procedure here{services_.errors, "Connect.IDTExtensibility_OnConnection(ByVal_VBInst_As_Object,_"
+                                     "ByVal_ConnectMode_As_vbext_ConnectMode,_ByVal_AddInInst_As_VBIDE.AddIn,_custom"};
+    here([&] { services_.addIn.SaveVBinstPointer(VBInst); });
+    services_.addIn.gConnectMode = ConnectMode;
     here([&] { BuildEventsHandler = VBInst->Events()->VBBuildEvents(); });
-    here([&] { use_.removal.Load(); });
+    here([&] { services_.removal.Load(); });
     here([&] { ProjEventsHandler = VBInst->Events()->VBProjectsEvents(); });
     here([&] { GlobalFileControlHandler = VBInst->Events()->FileControlEvents(nullptr); });
-    here([&] { use_.commands.BackupClipboardData(); });
-    use_.references.SaveQuinloftClasses();
+    here([&] { services_.clipboard.BackupClipboardData(); });
+    services_.references.SaveQuinloftClasses();
     if (ConnectMode != vbide::vbext_cm_External) buildInterface(here, VBInst, AddInInst);
-    here([&] { use_.commands.RestoreClipboardData(); });
-    takeUpActiveProject(here, VBInst);
-    if (here.test([&] { return use_.prefs.GetStartTutorial(); })) here([&] { use_.commands.ShowGettingStarted(); });
+    here([&] { services_.clipboard.RestoreClipboardData(); });
+    adoptActiveProject(here, VBInst);
+    if (here.test([&] { return services_.prefs.GetStartTutorial(); }))
+        here([&] { services_.gettingStarted.ShowModal(); });
 }
 
 void Connect::buildInterface(Procedure& here, const Host& VBInst, const basic::Ref<vbide::AddIn>& AddInInst) {
     buildMenu(here, VBInst, AddInInst);
-    if (here.test([&] { return use_.commands.SetupQuinloftToolbar(); }))
+    if (here.test([&] { return services_.toolbars.SetupQuinloftToolbar(); }))
         SetupToolbarHandlers(VBInst);
     else
         failStart(here, connect_texts::kNoToolbar, AddInInst);
-    if (here.test([&] { return use_.commands.SetupSupportToolbar(); }))
+    if (here.test([&] { return services_.toolbars.SetupSupportToolbar(); }))
         SetupSupportToolbarHandlers(VBInst);
     else
         failStart(here, connect_texts::kNoSupportToolbar, AddInInst);
-    use_.messages.createToolWindow();
-    here([&] { use_.commands.createZoomWindow(); });
+    services_.messages.createToolWindow();
+    here([&] { services_.features.createZoomWindow(); });
 }
 
 void Connect::buildMenu(Procedure& here, const Host& VBInst, const basic::Ref<vbide::AddIn>& AddInInst) {
-    if (here.test([&] { return !use_.commands.SetUpQuinloftMenu(VBInst); }))
+    if (here.test([&] { return !services_.menu.SetUpQuinloftMenu(VBInst); }))
         return failStart(here, connect_texts::kNoMenu, AddInInst);
     SetupMenuHandlers(VBInst);
-    meetSiblings(here, VBInst);
+    connectSiblings(here, VBInst);
 }
 
-/// Our own companions come up; the resource editor waits until the start is complete.
-void Connect::meetSiblings(Procedure& here, const Host& VBInst) {
+/// Connects our companions; the resource editor is disconnected until the start is complete.
+void Connect::connectSiblings(Procedure& here, const Host& VBInst) {
     for (const auto& sibling : here.value([&] { return VBInst->Addins()->items(); })) {
         const auto isCompanion = [&] {
             const std::string progId = sibling->ProgId();
@@ -67,28 +68,27 @@ void Connect::meetSiblings(Procedure& here, const Host& VBInst) {
 
 void Connect::failStart(Procedure& here, const char* step, const basic::Ref<vbide::AddIn>& AddInInst) {
     here([&] {
-        use_.platform.interaction.MsgBox(connect_texts::kFailedStepBefore + std::string(step) +
-                                             connect_texts::kFailedStepAfter,
-                                         vbCritical, connect_texts::kTitle);
+        services_.user.MsgBox(connect_texts::kFailedStepBefore + std::string(step) + connect_texts::kFailedStepAfter,
+                              vbCritical, connect_texts::kTitle);
     });
     here([&] { AddInInst->Connect(false); });
 }
 
-/// Other open projects stay unknown until the host reports them.
-void Connect::takeUpActiveProject(Procedure& here, const Host& VBInst) {
+/// Other open projects are unknown until the host reports them.
+void Connect::adoptActiveProject(Procedure& here, const Host& VBInst) {
     if (here.test([&] { return VBInst->VBProjects()->Count() == 0; })) return disableInterface(here);
 
     const auto active = here.value([&] { return VBInst->ActiveVBProject(); });
-    const auto project = use_.projects.AddToProjectsList(active);
+    const auto project = services_.projects.AddToProjectsList(active);
     if (!project) return disableInterface(here);
-    use_.setup.SetupProject(project);
+    services_.setup.SetupProject(project);
     if (!project->IsQuinloftProject()) return disableInterface(here);
     watchProject(here, project->VBProject());
     watchSelectedForm(here, VBInst);
 }
 
 void Connect::watchProject(Procedure& here, const Project& project) {
-    const auto host = use_.addIn.gVBInstance;
+    const basic::Ref<vbide::VBE> host = services_.addIn.gVBInstance;
     here([&] { CompsEventsHandler = host->Events()->VBComponentsEvents(project); });
     here([&] { RefEventsHandler = host->Events()->ReferencesEvents(project); });
 }
@@ -103,30 +103,30 @@ void Connect::watchSelectedForm(Procedure& here, const Host& VBInst) {
 
 void Connect::watchDesigner(const Component& form) {
     const auto project = form->VBE()->ActiveVBProject();
-    ControlsEventsHandler = use_.addIn.gVBInstance->Events()->VBControlsEvents(project, form->Designer());
+    ControlsEventsHandler = services_.addIn.gVBInstance->Events()->VBControlsEvents(project, form->Designer());
 }
 
 void Connect::disableInterface(Procedure& here) {
-    here([&] { use_.commands.DisableQuinloftMenu(); });
-    here([&] { use_.commands.DisableQuinloftToolbar(); });
-    here([&] { use_.commands.DisableSupportToolbar(); });
+    here([&] { services_.menu.DisableQuinloftMenu(); });
+    here([&] { services_.toolbars.DisableQuinloftToolbar(); });
+    here([&] { services_.toolbars.DisableSupportToolbar(); });
 }
 
-/// The tool windows, the environment variable and the siblings stay as they are.
+/// The tool windows, the environment variable and the siblings are left unchanged.
 void Connect::IDTExtensibility_OnDisconnection(vbide::vbext_DisconnectMode) {
-    Procedure here{use_.errors, "Connect.IDTExtensibility_OnDisconnection("
-                                "ByVal_RemoveMode_As_vbext_DisconnectMode,_custom"};
+    Procedure here{services_.errors, "Connect.IDTExtensibility_OnDisconnection("
+                                     "ByVal_RemoveMode_As_vbext_DisconnectMode,_custom"};
     ProjEventsHandler = nullptr;
-    here([&] { use_.commands.RemoveQuinloftMenu(); });
-    here([&] { use_.commands.RemoveQuinloftToolbar(); });
-    here([&] { use_.commands.RemoveSupportToolbar(); });
-    use_.projects.ClearProjectsList();
+    here([&] { services_.menu.RemoveQuinloftMenu(); });
+    here([&] { services_.toolbars.RemoveQuinloftToolbar(); });
+    here([&] { services_.toolbars.RemoveSupportToolbar(); });
+    services_.projects.ClearProjectsList();
 }
 
 void Connect::IDTExtensibility_OnStartupComplete() {
-    Procedure here{use_.errors, "Connect.IDTExtensibility_OnStartupComplete"};
+    Procedure here{services_.errors, "Connect.IDTExtensibility_OnStartupComplete"};
     if (!ResEditWasConnected) return;
-    for (const auto& sibling : here.value([&] { return use_.addIn.gVBInstance->Addins()->items(); }))
+    for (const auto& sibling : here.value([&] { return services_.addIn.gVBInstance->Addins()->items(); }))
         if (here.test([&] { return sibling->ProgId() == kResourceEditor; })) here([&] { sibling->Connect(true); });
 }
 

@@ -2,8 +2,11 @@
 
 namespace fernwick {
 
-Modules::Modules(Platform& p)
+Modules::Modules(Platform& p, const ModuleOverrides& overrides)
     : platform(p),
+      errors(overrides.errors ? *overrides.errors : errorBoxes),
+      settings(overrides.settings ? *overrides.settings : notInThisBuild),
+      features(overrides.features ? *overrides.features : notInThisBuild),
       compileMsgsClass_(
           p.classes.RegisterClass(p.app.Title + ".udocCompileMsgs", [this] { return newCompileMsgs(); })) {}
 
@@ -14,7 +17,7 @@ Modules::~Modules() {
 
 basic::Ref<Object> Modules::newCompileMsgs() {
     const auto document =
-        std::make_shared<udocCompileMsgs>(CompileMsgsServices{platform, errors, addIn, install, commands, tools});
+        std::make_shared<udocCompileMsgs>(CompileMsgsServices{platform, errors, addIn, install, settings, tools});
     documents_.push_back(document);
     return document;
 }

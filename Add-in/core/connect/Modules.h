@@ -1,12 +1,12 @@
 #pragma once
-// The whole add-in, put together.
+// The composition root of the add-in.
 #include "Add-in/build/dependencies/modDependencyManagement.h"
 #include "Add-in/build/frmCompile.h"
 #include "Add-in/build/frmCompileWarning.h"
 #include "Add-in/build/frmValidate.h"
 #include "Add-in/build/messages/udocCompileMsgs.h"
-#include "Add-in/core/connect/CommandSurface.h"
 #include "Add-in/core/connect/Connect.h"
+#include "Add-in/core/connect/not_in_this_build.h"
 #include "Add-in/core/modAddInErrorManagement.h"
 #include "Add-in/deploy/frmSendRuntimeToDevice.h"
 #include "Add-in/deploy/frmSendToDevice.h"
@@ -14,22 +14,33 @@
 
 namespace fernwick {
 
-/// One instance of each module and form, in the order of the house: a member may use only those above it, so that
-/// the compiler forbids a cycle. Two add-ins may live in one process.
+/// Objects that replace the add-in's own; null keeps the add-in's.
+struct ModuleOverrides {
+    ErrorReport* errors = nullptr;
+    SettingsDialog* settings = nullptr;
+    MissingFeatures* features = nullptr;
+};
+
+/// One instance of each module and form, in the order of the rooms: a member may use only those above it, so the
+/// compiler rejects a cycle. Two add-ins may live in one process.
 struct Modules {
-    /// `platform` outlives the add-in.
-    explicit Modules(Platform& platform);
+    /// `platform` and `overrides` must outlive the add-in.
+    explicit Modules(Platform& platform, const ModuleOverrides& overrides = {});
     Modules(const Modules&) = delete;
     ~Modules();
 
     Platform& platform;
     // core
-    modAddInErrorManagement errors{platform.interaction, platform.app};
+    modAddInErrorManagement errorBoxes{platform.interaction, platform.app};
+    ErrorReport& errors;
     modRegistry2 registry{platform.registry};
     modQLInstallInfo install{registry, platform.files};
     modAddinPrefsManagement prefs{registry, errors};
     AddIn addIn{registry, errors, platform.environment};
     modReferencesManagement references{registry, platform.classes, errors};
+    NotInThisBuild notInThisBuild{platform.interaction, addIn};
+    SettingsDialog& settings;
+    MissingFeatures& features;
     // devices
     modDeviceManagement devices{platform.classes, errors};
     DeviceServices deviceServices{errors, platform.interaction, platform.classes, registry, prefs, references, devices};
@@ -44,7 +55,6 @@ struct Modules {
     modHelpManagement help{platform, install, errors};
     frmAbout about{platform, errors};
     frmGettingStarted gettingStarted{platform, install, prefs, errors};
-    CommandSurface commands{platform.interaction, addIn, items, menu, toolbars, clipboard, gettingStarted};
     // project
     modProjectTemplates templates{addIn, install, platform.files, platform.interaction, errors};
     ProjectServices projectServices{errors, platform, install, addIn, devices, templates};
@@ -55,39 +65,53 @@ struct Modules {
     // build
     modCompileErrorManagement messages{addIn, errors, platform};
     modProcessControl processes{errors, platform};
-    modDependencyManagement dependencies{{platform, errors, install, messages, commands}};
+    modDependencyManagement dependencies{{platform, errors, install, messages, menu}};
     frmCompileWarning compileWarning{platform.interaction, prefs, errors};
     frmCompile compile{
-        {platform, errors, registry, install, projects, messages, dependencies, processes, saveFiles, commands}};
+        {platform, errors, registry, install, projects, messages, dependencies, processes, saveFiles, menu}};
     frmValidate validate{{platform, errors, registry, install, projectServices, deviceServices, messages, compile}};
     // deploy
     PipeServices pipeServices{platform, errors, install, devices};
     frmSendToDevice sendToDevice{
-        pipeServices, {addIn, prefs, projects, messages, dependencies, compile, compileWarning, validate, commands}};
+        pipeServices, {addIn, prefs, projects, messages, dependencies, compile, compileWarning, validate, settings}};
     frmSendRuntimeToDevice sendRuntime{pipeServices};
     // lifecycle
-    frmProjectRemoval removal{platform.interaction, platform.loop, addIn, projects, commands, errors};
+    frmProjectRemoval removal{platform.interaction, platform.loop, addIn, projects, items, menu, errors};
     frmDesignTargetNormal chooseTarget{deviceServices};
-    ProjectSetup setup{
-        {addIn, platform.loop, deviceServices, projects, save, messages, chooseTarget, removal, commands}};
-    SampleOpening samples{{platform, errors, addIn, save, commands}};
+    ProjectSetup setup{{errors, platform.interaction, platform.loop, addIn, devices, deviceServices, projects, save,
+                        messages, chooseTarget, removal, items, menu, toolbars, features}};
+    SampleOpening samples{
+        {errors, platform.interaction, platform.loop, platform.files, platform.app, addIn, save, items}};
     // on top
-    Connect connect{{platform, errors,       prefs,       addIn,   references, devices,  deviceServices,
-                     items,    projects,     messages,    removal, setup,      commands, install,
-                     compile,  sendToDevice, sendRuntime, tools,   help,       about,    samples}};
+    Connect connect{{errors,         platform.interaction,
+                     platform.loop,  platform.files,
+                     platform.shell, platform.clock,
+                     platform.app,   prefs,
+                     addIn,          references,
+                     devices,        deviceServices,
+                     items,          clipboard,
+                     menu,           toolbars,
+                     gettingStarted, projects,
+                     messages,       removal,
+                     setup,          settings,
+                     features,       install,
+                     compile,        sendToDevice,
+                     sendRuntime,    tools,
+                     help,           about,
+                     samples}};
 
-    /// The document of the messages window; Nothing until the host has made it.
+    /// The document of the messages window; Nothing until the host has created it.
     basic::Ref<udocCompileMsgs> compileMsgs() const;
 
 private:
     basic::Ref<Object> newCompileMsgs();
 
-    /// What the host made for its tool windows, which stay with it.
+    /// Documents of the host's tool windows, which own them.
     std::vector<std::weak_ptr<udocCompileMsgs>> documents_;
     std::shared_ptr<void> compileMsgsClass_;
 };
 
-/// The add-in as the host holds it: the modules live as long as the answer does.
+/// The add-in as the host owns it: the modules live as long as the returned reference.
 basic::Ref<vbide::IDTExtensibility> asAddIn(const std::shared_ptr<Modules>& modules);
 
 } // namespace fernwick

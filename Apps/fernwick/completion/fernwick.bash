@@ -57,6 +57,7 @@ _fernwick_complete() {
       info) _fernwick_words "$common --verify" ;;
       settings) _fernwick_words "$common $answers --dry-run" ;;
       registry) _fernwick_words "$common --dry-run" ;;
+      help | workbench) _fernwick_words "--help" ;;
       *) _fernwick_words "$common" ;;
     esac
     return
@@ -78,7 +79,7 @@ _fernwick_complete() {
         add | remove) _fernwick_targets ;;
       esac ;;
     explain) _fernwick_words "$(fernwick explain 2>/dev/null | sed 's/^ *\([0-9]*\) .*/\1/')" ;;
-    info) _fernwick_files "vbp|vbg" ;;
+    info | workbench) _fernwick_files "vbp|vbg" ;;
     check) _fernwick_files "vbp|vbg|bas|cls|frm|ctl|pag|dsr|dob" ;;
     help) _fernwick_words "answers build check dependencies deploy devices doctor explain info install-runtime messages package registry settings targets validate version workbench" ;;
     settings)

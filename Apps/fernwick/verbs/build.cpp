@@ -1,9 +1,8 @@
-#include "Add-in/build/messages/build_texts.h"
 #include "Add-in/build/messages/message_numbers.h"
 #include "Apps/common/compile_steps.h"
-#include "Apps/fernwick/depfile.h"
-#include "Apps/fernwick/exit_status.h"
-#include "Apps/fernwick/project_run.h"
+#include "Apps/fernwick/options/exit_status.h"
+#include "Apps/fernwick/output/depfile.h"
+#include "Apps/fernwick/run/project_run.h"
 #include "Apps/fernwick/verbs/stored_messages.h"
 #include "Apps/fernwick/verbs/verbs.h"
 #include "Host/files/atomic_save.h"
@@ -30,9 +29,10 @@ void warnOfLineFeeds(Session& session, Console& console) {
     }
     if (files > 0)
         console.err(
-            fmt::format("fernwick: warning: {} line feeds for line ends, so the stored lines of messages count from "
-                        "another place; unix2dos cures it",
-                        files == 1 ? "1 source file has" : fmt::format("{} source files have", files)),
+            fmt::format(
+                "fernwick: warning: {} line ends without carriage return, so the stored line numbers of messages are "
+                "wrong; fix with unix2dos",
+                files == 1 ? "1 source file has" : fmt::format("{} source files have", files)),
             Tone::Warning);
 }
 
@@ -50,7 +50,7 @@ int dryRun(Session& session, Console& console) {
     return kGood;
 }
 
-/// Compiles, and validates for the device what compiled.
+/// Compiles the project and, on success, validates it for the device.
 Report compileAndValidate(Session& session, const std::string& device) {
     Report report;
     report.verb = "build";
@@ -60,8 +60,8 @@ Report compileAndValidate(Session& session, const std::string& device) {
     const bool good = compiled && session.addIn().validate.ValidateProject(session.project(), device);
     report.messages = messagesOfRun(session.project(), session.machine().build());
     report.statusText = statusText(session);
-    // a compile that ended before the compiler ran leaves its first words
-    if (report.statusText == fernwick::build_texts::kCompilingAndValidating) report.statusText = kNotCompiled;
+    // the compile ended before the compiler ran
+    if (runStatus(session) == fernwick::RunStatus::Running) report.statusText = kNotCompiled;
     report.image = compiled ? session.machine().build().image : std::string();
     report.exitStatus = good ? kGood : kProjectErrors;
     for (const auto& message : report.messages)
@@ -69,7 +69,7 @@ Report compileAndValidate(Session& session, const std::string& device) {
     return report;
 }
 
-/// The image stands, but make would not know of it: trouble.
+/// A failure changes the exit status: make would not see the image's prerequisites.
 void writeDepfile(Session& session, const std::string& path, const std::vector<std::string>& inputs, Report& report) {
     auto& files = session.machine().platform().files;
     const auto err = basic::attempt([&] { files.WriteBytes(path, depfileText(report.image, inputs)); });

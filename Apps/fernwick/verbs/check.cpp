@@ -1,9 +1,9 @@
 #include "Components/QLToolkit/check.h"
-#include "Apps/fernwick/exit_status.h"
-#include "Apps/fernwick/interruption.h"
-#include "Apps/fernwick/plural.h"
-#include "Apps/fernwick/project_argument.h"
-#include "Apps/fernwick/report.h"
+#include "Apps/fernwick/options/exit_status.h"
+#include "Apps/fernwick/output/plural.h"
+#include "Apps/fernwick/output/report.h"
+#include "Apps/fernwick/run/interruption.h"
+#include "Apps/fernwick/run/project_argument.h"
 #include "Apps/fernwick/verbs/source_list.h"
 #include "Apps/fernwick/verbs/verbs.h"
 #include "Basic/runtime_error.h"
@@ -36,8 +36,7 @@ Message messageOf(const qltoolkit::Diagnostic& diagnostic) {
 qltoolkit::CheckResult checkOne(const SourceToCheck& source, const basic::CodePage& usual) {
     host::FileContent content;
     const auto err = basic::attempt([&] { content = host::readFile(source.path); });
-    if (err.Number != 0)
-        return qltoolkit::checkFile(source.path, source.constants, usual); // says what is wrong with it
+    if (err.Number != 0) return qltoolkit::checkFile(source.path, source.constants, usual); // reports the error
     const auto page = host::codePageOf(content.bytes, usual);
     return qltoolkit::checkSource(source.path, std::move(content.bytes), source.constants, page);
 }

@@ -1,6 +1,6 @@
-#include "Apps/fernwick/exit_status.h"
-#include "Apps/fernwick/project_argument.h"
-#include "Apps/fernwick/session.h"
+#include "Apps/fernwick/options/exit_status.h"
+#include "Apps/fernwick/run/project_argument.h"
+#include "Apps/fernwick/run/session.h"
 #include "Apps/fernwick/verbs/stored_messages.h"
 #include "Apps/fernwick/verbs/verbs.h"
 #include <fmt/format.h>
@@ -9,7 +9,7 @@ namespace cli {
 
 namespace {
 
-/// Component and line of its code window, as the messages window shows them.
+/// With the component and the line of its code window, as in the messages window.
 std::string storedText(const Message& message) {
     std::string place = message.component.empty() ? "-" : message.component;
     if (message.codeLine != 0) place += fmt::format(":{}", message.codeLine);

@@ -1,7 +1,7 @@
 #pragma once
 // The messages that a project's file keeps of its last build.
 #include "Add-in/platform/host.h"
-#include "Apps/fernwick/report.h"
+#include "Apps/fernwick/output/report.h"
 #include "Components/QLToolkit/compiler.h"
 
 namespace cli {

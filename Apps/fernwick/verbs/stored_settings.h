@@ -1,6 +1,7 @@
 #pragma once
-// Every stored setting of a project under the name that `fernwick settings` takes.
+// The stored settings of a project under the names that `fernwick settings` takes.
 #include "Add-in/project/clsQLProject.h"
+#include <functional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -8,26 +9,26 @@
 
 namespace cli {
 
-enum class SettingKind { Text, Number, Decimal, Boolean, List };
+using fernwick::SettingKind;
 
 struct StoredSetting {
-    using Values = std::vector<std::string>;
+    using Values = fernwick::ProjectSetting::Values;
 
-    std::string_view name;
-    SettingKind kind;
-    /// One value, or the entries of a list.
-    Values (*read)(const fernwick::clsQLProject& project);
-    /// Null for a setting that only a template or a build writes.
-    void (*write)(fernwick::clsQLProject& project, const Values& values);
-    /// What a project without the setting has.
+    std::string name, meaning;
+    SettingKind kind = SettingKind::Text;
+    /// The values of a project without the setting.
     Values otherwise;
-    std::string_view meaning;
+    /// Returns one value, or the entries of a list.
+    std::function<Values(const fernwick::clsQLProject& project)> read;
+    /// Null for a setting that only a template or a build writes.
+    std::function<void(fernwick::clsQLProject& project, const Values& values)> write;
 };
 
+/// The project's own settings with those of its Linux handheld.
 std::span<const StoredSetting> storedSettings();
 /// Letter case ignored; null for an unknown name.
 const StoredSetting* storedSettingNamed(std::string_view name);
-/// Whether the values can be written to it; "" or what is wrong with them.
+/// Returns "" if the values can be written to the setting, else what is wrong with them.
 std::string wrongWithValues(const StoredSetting& setting, const StoredSetting::Values& values);
 
 } // namespace cli

@@ -1,9 +1,11 @@
 #pragma once
-// The verbs of the command line. Each writes its result through the console and answers its exit status.
-#include "Apps/fernwick/console.h"
-#include "Apps/fernwick/options.h"
+// The commands. Each writes its result to the console and returns the exit status.
+#include "Apps/fernwick/options/options.h"
+#include "Apps/fernwick/output/console.h"
 
 namespace cli {
+
+using RunVerb = int (*)(const Options& options, Console& console);
 
 int runBuild(const Options& options, Console& console);
 int runCheck(const Options& options, Console& console);

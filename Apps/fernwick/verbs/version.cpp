@@ -1,6 +1,6 @@
-#include "Apps/fernwick/version.h"
-#include "Apps/fernwick/exit_status.h"
-#include "Apps/fernwick/json_output.h"
+#include "Apps/fernwick/options/exit_status.h"
+#include "Apps/fernwick/output/json_output.h"
+#include "Apps/fernwick/output/version_line.h"
 #include "Apps/fernwick/verbs/verbs.h"
 
 namespace cli {
@@ -8,7 +8,7 @@ namespace cli {
 int runVersion(const Options& options, Console& console) {
     if (options.format == Format::Json) {
         auto json = jsonResult("version");
-        json["version"] = FERNWICK_VERSION;
+        json["version"] = apps::kVersion;
         console.out(dumpJson(json));
     } else {
         console.out(versionLine() + "\n");

@@ -1,8 +1,11 @@
 #pragma once
-// Draws the host's menus and toolbars, whoever put them there.
+// Draws the host's menus and toolbars, including those of add-ins.
 #include "Apps/workbench/bars/toolbar_docking.h"
+#include "Apps/workbench/base/run.h"
 #include "Apps/workbench/base/theme.h"
 #include "Host/model/bars/bars.h"
+#include <QIcon>
+#include <QKeySequence>
 #include <QTimer>
 #include <functional>
 #include <map>
@@ -16,26 +19,33 @@ class QWidget;
 
 namespace workbench {
 
+/// What the desktop adds to a command of the host's bars.
+struct CommandLook {
+    QKeySequence key;
+    /// Shown if the command has no face in the model.
+    QIcon icon;
+};
+
 class BarsView {
 public:
-    using Run = std::function<void(const std::function<void()>&)>;
+    using LookOf = std::function<CommandLook(int id)>;
 
-    /// `run` does what a click asks for and keeps errors out of Qt's loop. The window and the bars outlive this.
-    BarsView(host::Bars& bars, QMainWindow& window, Run run);
+    /// The window and the bars outlive this.
+    BarsView(host::Bars& bars, QMainWindow& window, Run run, LookOf lookOf);
     ~BarsView();
     BarsView(const BarsView&) = delete;
 
-    /// Draws the model as it is, without waiting for Qt's loop.
+    /// Draws the model at once, without waiting for Qt's loop.
     void draw();
-    /// For what moves toolbars without the model, such as restoring the window.
-    void placeToolBars() { docking_.placeAnew(); }
+    /// Moves the toolbars to their places in the model, after something else than the model moved them.
+    void placeToolBars() { docking_.placeAgain(); }
 
 private:
-    /// What stands for a control as long as the host has it.
+    /// What draws a control, as long as the host has it.
     struct Drawn {
         std::unique_ptr<QAction> button;
         std::unique_ptr<QMenu> popup;
-        /// The face that its picture shows, and for which theme.
+        /// The face and theme that the icon was made for.
         std::optional<std::pair<std::string, Theme>> looks;
         bool current = false;
     };
@@ -45,12 +55,13 @@ private:
     void make(Drawn& drawn, const std::shared_ptr<host::BarControl>& control);
     void makePopup(Drawn& drawn, const std::shared_ptr<host::BarControl>& control);
     void makeButton(Drawn& drawn, const std::shared_ptr<host::BarControl>& control);
-    static void showButton(Drawn& drawn, const host::BarControl& control);
+    void showButton(Drawn& drawn, const host::BarControl& control);
     void dropGone();
 
     host::Bars& bars_;
     QMainWindow& window_;
     Run run_;
+    LookOf lookOf_;
     ToolBarDocking docking_;
     std::map<std::weak_ptr<host::BarControl>, Drawn, std::owner_less<>> drawn_;
     QTimer redraw_;

@@ -47,6 +47,19 @@ void CodeWindows::showPlace(const CodePlace& place) {
     if (auto* const editor = editorOf(place.component)) editor->select(place);
 }
 
+void CodeWindows::step(int by) {
+    if (count() > 0) setCurrentIndex((currentIndex() + by + count()) % count());
+    if (auto* shown = currentWidget()) shown->setFocus();
+}
+
+void CodeWindows::closeCurrent() {
+    if (count() > 0) Q_EMIT tabCloseRequested(currentIndex());
+}
+
+void CodeWindows::closeAll() {
+    for (int index = count() - 1; index >= 0; --index) Q_EMIT tabCloseRequested(index);
+}
+
 std::vector<CodeEditor*> CodeWindows::editors() const {
     std::vector<CodeEditor*> all;
     for (int i = 0; i < count(); ++i)
@@ -69,7 +82,7 @@ void CodeWindows::mark(MarksByComponent marks) {
 
 void CodeWindows::markEditor(CodeEditor& editor) {
     std::vector<LineMark> marks;
-    (void)basic::attempt([&] { // of a removed component nothing is marked
+    (void)basic::attempt([&] { // a removed component has no marks
         const bool ofActive = editor.component()->Collection() == host_.ActiveVBProject()->VBComponents();
         const auto found = marks_.find(editor.component()->Name());
         if (ofActive && found != marks_.end()) marks = found->second;

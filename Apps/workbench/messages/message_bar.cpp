@@ -17,8 +17,8 @@ QString counted(int count, const char* one, const char* many) {
 
 } // namespace
 
-MessageBar::MessageBar(Wishes wishes)
-    : wishes_(std::move(wishes)),
+MessageBar::MessageBar(Callbacks callbacks)
+    : callbacks_(std::move(callbacks)),
       errors_(addKind(fernwick::ERROR_MSG, "errors", "Show the errors")),
       warnings_(addKind(fernwick::WARNING_MSG, "warnings", "Show the warnings")),
       filter_(new QLineEdit),
@@ -29,7 +29,7 @@ MessageBar::MessageBar(Wishes wishes)
     filter_->setAccessibleName("Filter messages");
     filter_->setClearButtonEnabled(true);
     filter_->setMaximumWidth(kMostFilterWidth);
-    connect(filter_, &QLineEdit::textChanged, this, [this](const QString& text) { wishes_.showText(text); });
+    connect(filter_, &QLineEdit::textChanged, this, [this](const QString& text) { callbacks_.showText(text); });
     shown_->setObjectName("messagesShown");
 
     auto* const parts = new QHBoxLayout(this);
@@ -52,7 +52,7 @@ QToolButton* MessageBar::addKind(int type, const char* name, const char* toolTip
     button->setAutoRaise(true);
     button->setFocusPolicy(Qt::StrongFocus);
     button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    connect(button, &QToolButton::toggled, this, [this, type](bool shown) { wishes_.showType(type, shown); });
+    connect(button, &QToolButton::toggled, this, [this, type](bool shown) { callbacks_.showType(type, shown); });
     return button;
 }
 

@@ -1,5 +1,5 @@
 #pragma once
-// The bar above the messages: how many there are of each kind, and which of them show.
+// The bar above the messages: counts them and filters them.
 #include <QPixmap>
 #include <QWidget>
 #include <functional>
@@ -12,23 +12,23 @@ namespace workbench {
 
 class MessageBar final : public QWidget {
 public:
-    /// What the user wishes to see.
-    struct Wishes {
+    /// What the user wants to see.
+    struct Callbacks {
         std::function<void(int type, bool shown)> showType;
         std::function<void(const QString&)> showText;
     };
 
-    explicit MessageBar(Wishes wishes);
+    explicit MessageBar(Callbacks callbacks);
 
     QLineEdit& filter() { return *filter_; }
     void setPictures(const QPixmap& error, const QPixmap& warning);
-    /// `shown` of `all` messages are drawn.
+    /// `shown` of `all` messages pass the filter.
     void showCounts(int errors, int warnings, int shown, int all);
 
 private:
     QToolButton* addKind(int type, const char* name, const char* toolTip);
 
-    Wishes wishes_;
+    Callbacks callbacks_;
     QToolButton* errors_;
     QToolButton* warnings_;
     QLineEdit* filter_;

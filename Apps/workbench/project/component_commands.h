@@ -1,15 +1,19 @@
 #pragma once
-// The commands on one component: the one that the user works with.
-#include "Apps/workbench/window/main_window.h"
+// Commands on components. A null component stands for none, which leaves most of them nothing to do.
+#include "Apps/workbench/project/project_saving.h"
 
 namespace workbench {
 
-/// Saves it, or the project where no component is meant; asks for a name where it has none.
-void saveFile(host::Host& host, MainWindow& window);
-void saveFileAs(MainWindow& window);
-/// Asks about its changes first.
-void removeComponent(MainWindow& window);
-/// Its project begins with it.
-void setAsStartUp(MainWindow& window);
+/// Adds a component to the active project and shows it.
+void addComponent(host::Host& host, vbide::vbext_ComponentType type);
+/// Adds a file that the user chooses to the active project.
+void addFile(host::Host& host, QWidget* window);
+/// Saves the component, or the active project if it is null. Asks for a name where there is none.
+void saveFile(host::Host& host, const ComponentRef& component, QWidget* window);
+void saveFileAs(const ComponentRef& component, QWidget* window);
+/// Asks whether to save its changes first.
+void removeComponent(const ComponentRef& component, QWidget* window);
+/// Makes it the start-up object of its project.
+void setAsStartUp(const ComponentRef& component);
 
 } // namespace workbench

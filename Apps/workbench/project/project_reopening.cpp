@@ -1,6 +1,5 @@
 #include "Apps/workbench/project/project_reopening.h"
 #include "Apps/workbench/code/scintilla.h"
-#include "Apps/workbench/window/main_window.h"
 
 namespace workbench {
 
@@ -29,15 +28,15 @@ void openAgain(CodeWindows& code, const vbide::Ref<vbide::VBProject>& project, c
 
 } // namespace
 
-void reopenProject(host::Host& host, MainWindow& window, const vbide::Ref<vbide::VBProject>& project) {
+void reopenProject(host::Host& host, CodeWindows& code, const vbide::Ref<vbide::VBProject>& project) {
     const auto path = project->FileName();
-    const auto windows = windowsOf(window.code(), project);
-    // nobody shall save at the closing what the user gave up
+    const auto windows = windowsOf(code, project);
+    // so that closing does not save discarded changes
     for (const auto& component : project->VBComponents()->items()) component->IsDirty(false);
     project->IsDirty(false);
     host.VBProjects()->Remove(project);
     const auto again = host.VBProjects()->AddFromFile(path);
-    for (const auto& one : windows) (void)basic::attempt([&] { openAgain(window.code(), again, one); });
+    for (const auto& one : windows) (void)basic::attempt([&] { openAgain(code, again, one); });
 }
 
 } // namespace workbench

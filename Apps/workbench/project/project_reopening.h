@@ -1,13 +1,11 @@
 #pragma once
-// A project that is read from its files once more.
+#include "Apps/workbench/code/code_windows.h"
 #include "Host/model/host.h"
 
 namespace workbench {
 
-class MainWindow;
-
-/// Closes the project without saving anything of it and opens its file again; code windows come back with their cursors.
-/// Errors as those of AddFromFile; the project is closed then.
-void reopenProject(host::Host& host, MainWindow& window, const vbide::Ref<vbide::VBProject>& project);
+/// Closes the project without saving it and opens its file again. Its code windows open again with their cursors.
+/// Errors as those of AddFromFile, which leave the project closed.
+void reopenProject(host::Host& host, CodeWindows& code, const vbide::Ref<vbide::VBProject>& project);
 
 } // namespace workbench

@@ -1,5 +1,6 @@
 #include "Apps/workbench/project/project_saving.h"
 #include "Apps/workbench/base/text.h"
+#include "Apps/workbench/base/title.h"
 #include <QDir>
 #include <QFileDialog>
 #include <QMessageBox>
@@ -9,7 +10,7 @@ namespace workbench {
 
 namespace {
 
-/// What the file of a component of this type is called behind its name.
+/// The file extension of a component of this type.
 const char* extensionOf(vbide::vbext_ComponentType type) {
     switch (type) {
     case vbide::vbext_ct_StdModule: return ".bas";
@@ -22,7 +23,7 @@ const char* extensionOf(vbide::vbext_ComponentType type) {
     }
 }
 
-/// "" for Cancel. The next name is asked for in the same folder.
+/// Returns "" if the user cancels. Updates `folder`, so that the next dialog opens in the same one.
 std::string askForName(const std::string& name, const char* extension, QString& folder, QWidget* window) {
     const auto path = QFileDialog::getSaveFileName(
         window, "Save " + qt(name), QDir(folder).filePath(qt(name) + extension), QString("*%1").arg(extension));
@@ -34,7 +35,7 @@ std::string askForName(const std::string& name, const char* extension, QString& 
 QString folderOf(const std::string& path) { return path.empty() ? QDir::homePath() : QFileInfo(qt(path)).path(); }
 
 QMessageBox::StandardButton askAboutChanges(const std::string& name, QWidget* window) {
-    return QMessageBox::question(window, "Fernwick Workbench", QString("Save the changes to %1?").arg(qt(name)),
+    return QMessageBox::question(window, kTitle, QString("Save the changes to %1?").arg(qt(name)),
                                  QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
 }
 

@@ -1,6 +1,7 @@
 #include "Apps/workbench/unsaved/outside_box.h"
 #include "Apps/workbench/base/text.h"
-#include "Apps/workbench/code/code_texts.h"
+#include "Apps/workbench/base/title.h"
+#include "Apps/workbench/unsaved/unsaved_texts.h"
 #include <QBoxLayout>
 #include <QDialog>
 #include <QDialogButtonBox>
@@ -18,11 +19,11 @@ constexpr int kBoxWidth = 520, kBoxHeight = 300;
 QString lineOf(const OutsideChange& change) {
     const auto file = QFileInfo(qt(change.path)).fileName();
     const auto name = change.component ? QString("%1 (%2)").arg(qt(change.component->Name()), file) : file;
-    if (!change.digest) return QString(code_texts::kOutsideRemoved).arg(name);
+    if (!change.digest) return QString(unsaved_texts::kOutsideRemoved).arg(name);
     if (!change.component)
-        return QString(change.changedHere ? code_texts::kOutsideProjectChangedHere : code_texts::kOutsideProject)
+        return QString(change.changedHere ? unsaved_texts::kOutsideProjectChangedHere : unsaved_texts::kOutsideProject)
             .arg(name);
-    return change.changedHere ? QString(code_texts::kOutsideChangedHere).arg(name) : name;
+    return change.changedHere ? QString(unsaved_texts::kOutsideChangedHere).arg(name) : name;
 }
 
 QListWidget* listOf(const std::vector<OutsideChange>& changes) {
@@ -52,21 +53,21 @@ std::set<std::size_t> askWhatToReload(const std::vector<OutsideChange>& changes,
     for (const auto& change : changes) canReload = canReload || change.digest;
     QDialog box(parent);
     box.setObjectName("outsideBox");
-    box.setWindowTitle(code_texts::kTitle);
+    box.setWindowTitle(kTitle);
     box.resize(kBoxWidth, kBoxHeight);
     auto* const list = listOf(changes);
     auto* const buttons = new QDialogButtonBox;
     if (canReload)
-        buttons->addButton(code_texts::kOutsideReload, QDialogButtonBox::AcceptRole)->setObjectName("reload");
-    auto* const keep =
-        buttons->addButton(canReload ? code_texts::kOutsideKeep : code_texts::kOutsideOk, QDialogButtonBox::RejectRole);
+        buttons->addButton(unsaved_texts::kOutsideReload, QDialogButtonBox::AcceptRole)->setObjectName("reload");
+    auto* const keep = buttons->addButton(canReload ? unsaved_texts::kOutsideKeep : unsaved_texts::kOutsideOk,
+                                          QDialogButtonBox::RejectRole);
     keep->setObjectName("keep");
     QObject::connect(buttons, &QDialogButtonBox::accepted, &box, &QDialog::accept);
     QObject::connect(buttons, &QDialogButtonBox::rejected, &box, &QDialog::reject);
     auto* const rows = new QVBoxLayout(&box);
-    rows->addWidget(labelOf(canReload ? code_texts::kOutsideChanged : code_texts::kOutsideGone));
+    rows->addWidget(labelOf(canReload ? unsaved_texts::kOutsideChanged : unsaved_texts::kOutsideGone));
     rows->addWidget(list);
-    rows->addWidget(labelOf(canReload ? code_texts::kWhatHappens : code_texts::kWrittenAgain));
+    rows->addWidget(labelOf(canReload ? unsaved_texts::kWhatHappens : unsaved_texts::kWrittenAgain));
     rows->addWidget(buttons);
 
     std::set<std::size_t> wanted;

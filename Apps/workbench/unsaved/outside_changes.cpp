@@ -1,9 +1,8 @@
 #include "Apps/workbench/unsaved/outside_changes.h"
 #include "Apps/workbench/base/text.h"
-#include "Apps/workbench/code/code_texts.h"
-#include "Apps/workbench/project/project_reopening.h"
+#include "Apps/workbench/base/title.h"
 #include "Apps/workbench/project/project_saving.h"
-#include "Apps/workbench/window/main_window.h"
+#include "Apps/workbench/unsaved/unsaved_texts.h"
 #include "Host/files/atomic_save.h"
 #include "Host/model/component.h"
 #include "Host/model/project.h"
@@ -17,18 +16,18 @@ namespace workbench {
 
 namespace {
 
-/// Another program writes a file in several steps, and many files one after the other.
+/// Other programs write a file in several steps, and many files in a row.
 constexpr int kMillisecondsOfQuiet = 300;
 
-/// Of a file that is gone.
+/// The digest of a file that was removed.
 constexpr std::uint64_t kGone = 0;
 
 bool isReadHere(const vbide::Ref<vbide::VBProject>& project) { return !project->FileName().empty(); }
 
 } // namespace
 
-OutsideChanges::OutsideChanges(host::Host& host, MainWindow& window, Tell tell)
-    : host_(host), window_(window), tell_(std::move(tell)) {
+OutsideChanges::OutsideChanges(host::Host& host, QWidget& window, Callbacks callbacks)
+    : host_(host), window_(window), callbacks_(std::move(callbacks)) {
     soon_.setSingleShot(true);
     soon_.setInterval(kMillisecondsOfQuiet);
     connect(&soon_, &QTimer::timeout, this, [this] { check(); });
@@ -47,9 +46,9 @@ bool OutsideChanges::eventFilter(QObject* watched, QEvent* event) {
     return QObject::eventFilter(watched, event);
 }
 
-// ---- noticing ---------------------------------------------------------------------------------------------------------
+// ---- noticing -------------------------------------------------------------------------------------------------------
 
-/// Files for what is written into them, folders for what takes their place.
+/// Watches files for writes and their folders for files that are replaced.
 void OutsideChanges::watchFiles() {
     QSet<QString> wanted;
     const auto add = [&wanted](const std::string& path) {
@@ -71,7 +70,7 @@ void OutsideChanges::watchFiles() {
 std::vector<OutsideChange> OutsideChanges::changes() const {
     std::vector<OutsideChange> all;
     for (const auto& project : host_.VBProjects()->items())
-        (void)basic::attempt([&] { lookAt(project, all); }); // one that is going just now
+        (void)basic::attempt([&] { lookAt(project, all); }); // it may be closing
     return all;
 }
 
@@ -94,7 +93,7 @@ void OutsideChanges::look(OutsideChange change, const std::optional<host::FileSt
     if (!stamp) return;
     const bool gone = !QFileInfo::exists(qt(change.path));
     std::optional<host::FileStamp> now;
-    // what can't be read now is looked at again when it changes
+    // a file that cannot be read now is checked again when it changes
     if (!gone) (void)basic::attempt([&] { now = host::changedSince(change.path, *stamp); });
     const bool sameAsHere = now && now->digest == host::digestOf(bytesHere());
     if (!gone && (!now || sameAsHere)) return;
@@ -103,24 +102,24 @@ void OutsideChanges::look(OutsideChange change, const std::optional<host::FileSt
     if (known == known_.end() || known->second != change.digest.value_or(kGone)) all.push_back(std::move(change));
 }
 
-// ---- asking -----------------------------------------------------------------------------------------------------------
+// ---- asking ---------------------------------------------------------------------------------------------------------
 
 void OutsideChanges::check() {
-    if (QApplication::activeModalWidget()) return soon_.start(); // and what a build writes meanwhile is no change
+    if (QApplication::activeModalWidget()) return soon_.start(); // a build may still be writing its files
     (void)basic::attempt([this] { watchFiles(); });
-    if (QGuiApplication::applicationState() != Qt::ApplicationActive) return; // asked when the user comes back
+    if (QGuiApplication::applicationState() != Qt::ApplicationActive)
+        return; // the user is asked on return to the window
     const auto all = changes();
     if (all.empty()) return;
     for (const auto& change : all) known_[change.path] = change.digest.value_or(kGone);
     const auto wanted = askWhatToReload(all, &window_);
-    std::set<std::shared_ptr<vbide::VBProject>> reopened; // with all its components
+    std::set<std::shared_ptr<vbide::VBProject>> reopened; // reopening includes its components
     for (const auto i : wanted)
         if (!all[i].component) reopened.insert(all[i].project.shared());
     for (std::size_t i = 0; i < all.size(); ++i)
         if (!all[i].component || reopened.count(all[i].project.shared()) == 0) carryOut(all[i], wanted.count(i) != 0);
-    window_.code().refreshSoon();
-    window_.explorer().refreshSoon();
-    soon_.start(); // what changed while the question stood
+    callbacks_.refresh();
+    soon_.start(); // for changes while the question was open
 }
 
 void OutsideChanges::settle() {
@@ -130,14 +129,14 @@ void OutsideChanges::settle() {
 void OutsideChanges::carryOut(const OutsideChange& change, bool reload) {
     const auto failed = basic::attempt([&] {
         if (reload) return reread(change);
-        // what the editor shows is not what the file holds: not to be compiled before it was saved
+        // the editor and the file differ, so the text must be saved before a compile
         if (change.component)
             change.component->IsDirty(true);
         else
             change.project->IsDirty(true);
     });
     if (failed.Number != 0 && reload)
-        tell_(QString(code_texts::kNotReloaded).arg(qt(change.path), qt(failed.Description)));
+        callbacks_.warn(QString(unsaved_texts::kNotReloaded).arg(qt(change.path), qt(failed.Description)));
 }
 
 void OutsideChanges::reread(const OutsideChange& change) {
@@ -145,16 +144,16 @@ void OutsideChanges::reread(const OutsideChange& change) {
     if (change.component)
         basic::cast<host::Component>(change.component)->reread();
     else
-        reopenProject(host_, window_, change.project);
+        callbacks_.reopen(change.project);
 }
 
 bool mayReplaceChanged(const std::string& path) {
-    QMessageBox box(QMessageBox::Warning, code_texts::kTitle, QString(code_texts::kReplace).arg(qt(path)),
-                    QMessageBox::NoButton, QApplication::activeWindow());
+    QMessageBox box(QMessageBox::Warning, kTitle, QString(unsaved_texts::kReplace).arg(qt(path)), QMessageBox::NoButton,
+                    QApplication::activeWindow());
     box.setTextFormat(Qt::PlainText);
-    box.setInformativeText(code_texts::kWhatReplaces);
-    auto* const replace = box.addButton(code_texts::kReplaceIt, QMessageBox::AcceptRole);
-    auto* const leave = box.addButton(code_texts::kLeaveIt, QMessageBox::RejectRole);
+    box.setInformativeText(unsaved_texts::kWhatReplaces);
+    auto* const replace = box.addButton(unsaved_texts::kReplaceIt, QMessageBox::AcceptRole);
+    auto* const leave = box.addButton(unsaved_texts::kLeaveIt, QMessageBox::RejectRole);
     box.setDefaultButton(leave);
     box.setEscapeButton(leave);
     box.exec();

@@ -1,5 +1,5 @@
 #pragma once
-// Notices files of open projects that another program changed, and asks the user what to do.
+// Watches the files of open projects for changes by other programs, and asks the user what to do.
 #include "Apps/workbench/unsaved/outside_box.h"
 #include "Host/model/host.h"
 #include <QFileSystemWatcher>
@@ -10,17 +10,21 @@
 
 namespace workbench {
 
-class MainWindow;
-
 class OutsideChanges final : public QObject {
 public:
-    /// Told what goes wrong when a file is read again.
-    using Tell = std::function<void(const QString&)>;
+    struct Callbacks {
+        /// Closes a project without saving it and opens its file again.
+        std::function<void(const vbide::Ref<vbide::VBProject>&)> reopen;
+        /// Draws names and dirty marks again.
+        std::function<void()> refresh;
+        /// Shows an error that occurred while a file was read again.
+        std::function<void(const QString&)> warn;
+    };
 
     /// Host and window outlive this.
-    OutsideChanges(host::Host& host, MainWindow& window, Tell tell);
+    OutsideChanges(host::Host& host, QWidget& window, Callbacks callbacks);
 
-    /// The user knows of all changes so far.
+    /// Treats all changes so far as known to the user.
     void settle();
 
 protected:
@@ -37,16 +41,16 @@ private:
     void reread(const OutsideChange& change);
 
     host::Host& host_;
-    MainWindow& window_;
-    Tell tell_;
+    QWidget& window_;
+    Callbacks callbacks_;
     QFileSystemWatcher watcher_;
     QTimer soon_;
-    /// What stood in a file when the user was asked about it.
+    /// The digest of each file when the user was asked about it.
     std::map<std::string, std::uint64_t> known_;
     std::vector<fernwick::Subscription> watches_;
 };
 
-/// Asks whether a save may replace a file that another program changed.
+/// Asks whether a save may overwrite a file that another program changed.
 bool mayReplaceChanged(const std::string& path);
 
 } // namespace workbench

@@ -1,22 +1,24 @@
 #include "Apps/workbench/unsaved/unsaved_work.h"
-#include "Apps/workbench/code/code_texts.h"
-#include "Apps/workbench/window/main_window.h"
+#include "Apps/workbench/base/title.h"
+#include "Apps/workbench/unsaved/unsaved_texts.h"
 #include <QMessageBox>
 
 namespace workbench {
 
-UnsavedWork::UnsavedWork(host::Host& host, MainWindow& window, std::function<void(const std::string& path)> open)
+UnsavedWork::UnsavedWork(host::Host& host, QWidget& window, Callbacks callbacks)
     : window_(window),
-      journal_(host, window, base_, [this](const QString& why) { tell(QString(code_texts::kNotKept).arg(why)); }),
-      outside_(host, window, [this](const QString& text) { tell(text); }),
+      journal_(host, window, base_, [this](const QString& why) { warn(QString(unsaved_texts::kNotKept).arg(why)); }),
+      outside_(
+          host, window,
+          {std::move(callbacks.reopen), std::move(callbacks.refresh), [this](const QString& text) { warn(text); }}),
       recovery_(host, window, base_,
-                {std::move(open),
+                {std::move(callbacks.open),
                  [this] {
                      journal_.write();
-                     outside_.settle(); // what was restored over, the user has been told
+                     outside_.settle(); // the user already knows of the changes under what was restored
                  },
-                 [this](const QString& text) { tell(text); }}) {}
+                 [this](const QString& text) { warn(text); }}) {}
 
-void UnsavedWork::tell(const QString& text) { QMessageBox::warning(&window_, code_texts::kTitle, text); }
+void UnsavedWork::warn(const QString& text) { QMessageBox::warning(&window_, kTitle, text); }
 
 } // namespace workbench

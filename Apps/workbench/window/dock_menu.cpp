@@ -1,69 +1,46 @@
 #include "Apps/workbench/window/dock_menu.h"
-#include "Apps/workbench/bars/command_icons.h"
-#include "Apps/workbench/base/menu_builder.h"
+#include "Apps/workbench/bars/bar_controls.h"
 #include "Apps/workbench/base/text.h"
-#include "Apps/workbench/window/main_window.h"
+#include "Apps/workbench/window/commands.h"
 #include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
 #include <QDockWidget>
 #include <QPointer>
-#include <algorithm>
-#include <array>
 
 namespace workbench {
 
 namespace {
 
-/// Docks whose command has a key or a mnemonic of its own, by their object names.
-struct KnownDock {
-    const char* name;
-    const char* caption;
-    int id;
-};
-constexpr std::array kKnownDocks{
-    KnownDock{"explorerDock", "&Project Explorer", kExplorerId},
-    KnownDock{"propertiesDock", "Properties &Window", kPropertiesId},
-    KnownDock{"toolboxDock", "Toolbo&x", kToolboxId},
-    KnownDock{"Fernwick Messages", "Fernwick &Messages", kMessagesId},
-};
-
-KnownDock commandOf(const QString& name) {
-    for (const auto& known : kKnownDocks)
-        if (name == known.name) return known;
-    return {"", "", kDockId};
-}
-
-/// What of a dock takes the keys.
-QWidget* keyTarget(QDockWidget& dock) {
+/// The widget within a dock that gets the focus.
+QWidget* focusTarget(QDockWidget& dock) {
     if (!dock.widget() || dock.widget()->focusPolicy() != Qt::NoFocus) return dock.widget();
-    // its list rather than what filters it
+    // its list rather than the filter above it
     if (auto* list = dock.widget()->findChild<QAbstractItemView*>(); list && list->isVisibleTo(&dock)) return list;
     for (auto* inner : dock.widget()->findChildren<QWidget*>())
         if ((inner->focusPolicy() & Qt::TabFocus) != 0 && inner->isVisibleTo(&dock)) return inner;
     return dock.widget();
 }
 
-/// Where the user wants to go: there first, away only from there.
-void goTo(QDockWidget& dock) {
+void focusOrHide(QDockWidget& dock) {
     const auto* const focus = QApplication::focusWidget();
     if (!dock.isHidden() && focus && dock.isAncestorOf(focus)) return dock.hide();
     dock.show();
     dock.raise();
-    if (auto* target = keyTarget(dock)) target->setFocus(Qt::ShortcutFocusReason);
+    if (auto* target = focusTarget(dock)) target->setFocus(Qt::ShortcutFocusReason);
 }
 
 void addSwitch(host::Bar& menu, QDockWidget& dock, bool isFirst) {
-    const auto command = commandOf(dock.objectName());
+    const auto command = dockCommandOf(dock.objectName());
     const auto control = menu.add(office::msoControlButton, command.id);
-    control->Caption(*command.caption != '\0' ? command.caption : text(dock.windowTitle()));
+    control->Caption(command.text ? command.text : text(dock.windowTitle()));
     control->BeginGroup(isFirst);
     control->checked(!dock.isHidden());
     control->action = [link = QPointer(&dock)] {
-        if (link) goTo(*link);
+        if (link) focusOrHide(*link);
     };
     QObject::connect(dock.toggleViewAction(), &QAction::toggled, &dock, [link = std::weak_ptr(control)](bool shown) {
-        if (const auto standing = link.lock()) standing->checked(shown);
+        if (const auto present = link.lock()) present->checked(shown);
     });
 }
 
@@ -80,20 +57,18 @@ void fillToolBars(host::Bars& bars, host::Bar& popup) {
 
 } // namespace
 
-void addDockSwitches(host::Host& host, MainWindow& window) {
+void addDockSwitches(host::Host& host, Docks& docks) {
     const auto menu = controlOf(host, host::kViewMenuId)->popup();
-    for (auto* dock : window.docks()) addSwitch(*menu, *dock, dock == window.docks().front());
-    window.dockAdded = [menu](QDockWidget& dock) { addSwitch(*menu, dock, false); };
+    for (auto* dock : docks.all()) addSwitch(*menu, *dock, dock == docks.all().front());
+    docks.added = [menu](QDockWidget& dock) { addSwitch(*menu, dock, false); };
 }
 
 void addToolBarSwitches(host::Host& host) {
-    menuOf(host, host::kViewMenuId).group().popup(kToolBarsMenuId, "&Toolbars");
     const auto control = controlOf(host, kToolBarsMenuId);
-    const auto fill = [&bars = host.bars(), popup = std::weak_ptr(control->popup())] {
-        if (const auto standing = popup.lock()) fillToolBars(bars, *standing);
+    control->beforeShow = [&bars = host.bars(), popup = std::weak_ptr(control->popup())] {
+        if (const auto present = popup.lock()) fillToolBars(bars, *present);
     };
-    control->beforeShow = fill;
-    fill(); // a popup without anything is not shown
+    control->beforeShow(); // an empty menu would not be shown
 }
 
 } // namespace workbench

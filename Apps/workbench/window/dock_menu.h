@@ -1,16 +1,14 @@
 #pragma once
-// The View menu's switches: a dock each, and a toolbar each.
+// The switches of docks and toolbars in the View menu.
+#include "Apps/workbench/window/docks.h"
 #include "Host/model/host.h"
-
-class QDockWidget;
 
 namespace workbench {
 
-class MainWindow;
-
-/// A switch for each dock that stands and each that comes: shows it and gives it the keys, hides it when it has them.
-void addDockSwitches(host::Host& host, MainWindow& window);
-/// The popup with a switch for each toolbar, filled when it comes up.
+/// Adds a switch for each dock, present and future. It shows the dock and gives it the focus; if the dock has the focus
+/// already, it hides the dock.
+void addDockSwitches(host::Host& host, Docks& docks);
+/// Fills the submenu of the toolbars each time it is shown.
 void addToolBarSwitches(host::Host& host);
 
 } // namespace workbench

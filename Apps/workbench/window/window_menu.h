@@ -4,7 +4,7 @@
 
 namespace workbench {
 
-/// The Window menu: goes from one code window to another and closes them; its list is made when it comes up.
-void addWindowMenu(host::Host& host, CodeWindows& windows);
+/// Lists the open tabs in the Window menu each time it is shown.
+void listWindows(host::Host& host, CodeWindows& windows);
 
 } // namespace workbench

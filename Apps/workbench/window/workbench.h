@@ -1,5 +1,5 @@
 #pragma once
-// The desktop put together: the host, the add-in and the window over them.
+// The desktop as a whole: the host, the add-in and the window over them.
 #include "Add-in/core/connect/Modules.h"
 #include "Apps/common/host_options.h"
 #include "Apps/workbench/bridge/qt_clipboard.h"
@@ -7,23 +7,24 @@
 #include "Apps/workbench/bridge/qt_user.h"
 #include "Apps/workbench/project/recent_projects.h"
 #include "Apps/workbench/unsaved/unsaved_work.h"
+#include "Apps/workbench/window/boxes.h"
+#include "Apps/workbench/window/commands.h"
 #include "Apps/workbench/window/main_window.h"
-#include "Apps/workbench/window/window_commands.h"
 
 namespace workbench {
 
 class Workbench {
 public:
-    /// The window is not shown yet and the add-in not connected.
+    /// Creates the window, which is not shown yet, and the add-in, which is not connected yet.
     Workbench();
     ~Workbench();
     Workbench(const Workbench&) = delete;
 
-    /// Opens a project; what goes wrong is told in a box.
+    /// Opens a project. Errors are shown in a box.
     void open(const std::string& path);
-    /// Opens these projects and connects the add-in so that it comes to know all of them.
+    /// Opens these projects and connects the add-in, in the order that makes the add-in see all of them.
     void begin(const std::vector<std::string>& projects);
-    /// Connects the add-in, which takes up what is open.
+    /// Connects the add-in, which adopts the open project.
     void connect();
 
     MainWindow& window() { return *window_; }
@@ -32,20 +33,19 @@ public:
 
 private:
     host::HostOptions hostOptions();
+    void buildWindow();
+    ProgramActions programActions();
+    UnsavedWork::Callbacks unsavedCallbacks();
     void run(const std::function<void()>& act);
-    void tell(std::exception_ptr error);
-    void tellProblems();
-    WindowDeeds deeds();
     void newProject();
     void startActive();
     bool compiled(const vbide::Ref<vbide::VBProject>& project);
     bool mayRunSteps(const std::string& commandLine, const std::string& folder);
     bool mayClose();
-    std::string askForProject();
 
     host::Clock clock_;
     QtUser user_;
-    QtLoop loop_{clock_, [this](std::exception_ptr error) { tell(std::move(error)); }};
+    QtLoop loop_{clock_, [this](std::exception_ptr error) { showError(std::move(error), window_.get()); }};
     QtClipboard clipboard_;
     apps::Machine machine_;
     apps::InstalledControls controls_{machine_.installation()};

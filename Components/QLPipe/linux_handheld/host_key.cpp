@@ -1,4 +1,4 @@
-#include "Components/QLPipe/linux_handheld/ssh_messages.h"
+#include "Components/QLPipe/base/ssh_messages.h"
 #include "Components/QLPipe/linux_handheld/ssh_session.h"
 #include <cerrno>
 #include <new>

@@ -1,6 +1,6 @@
 #pragma once
 // The functions of libssh that are used, and owners of its objects.
-#include "Components/QLPipe/late_library.h"
+#include "Components/QLPipe/base/late_library.h"
 #include <libssh/libssh.h>
 #include <memory>
 #include <string>

@@ -1,6 +1,10 @@
 #pragma once
 // The family of Linux handhelds, which are reached by SSH.
-#include "Components/QLPipe/pipe_family.h"
+#include "Add-in/platform/pipes.h"
+#include "Components/QLPipe/base/device_storage.h"
+#include "Components/QLPipe/base/pipe_services.h"
+#include <memory>
+#include <string>
 
 namespace qlpipe {
 

@@ -1,7 +1,7 @@
+#include "Components/QLPipe/base/pipe_messages.h"
+#include "Components/QLPipe/base/sha256.h"
 #include "Components/QLPipe/linux_handheld/linux_handheld.h"
 #include "Components/QLPipe/linux_handheld/ssh_storage.h"
-#include "Components/QLPipe/pipe_messages.h"
-#include "Components/QLPipe/sha256.h"
 #include <cerrno>
 #include <fcntl.h>
 #include <filesystem>

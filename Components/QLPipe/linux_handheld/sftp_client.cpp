@@ -1,5 +1,5 @@
 #include "Components/QLPipe/linux_handheld/sftp_client.h"
-#include "Components/QLPipe/linux_handheld/ssh_messages.h"
+#include "Components/QLPipe/base/ssh_messages.h"
 #include <algorithm>
 #include <limits>
 

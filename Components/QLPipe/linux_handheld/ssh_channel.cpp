@@ -1,5 +1,5 @@
 #include "Components/QLPipe/linux_handheld/ssh_channel.h"
-#include "Components/QLPipe/linux_handheld/ssh_messages.h"
+#include "Components/QLPipe/base/ssh_messages.h"
 #include <new>
 
 namespace qlpipe {

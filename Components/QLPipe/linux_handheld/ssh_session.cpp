@@ -1,5 +1,5 @@
 #include "Components/QLPipe/linux_handheld/ssh_session.h"
-#include "Components/QLPipe/linux_handheld/ssh_messages.h"
+#include "Components/QLPipe/base/ssh_messages.h"
 #include <cerrno>
 #include <fcntl.h>
 #include <new>

@@ -1,9 +1,9 @@
 #include "Components/QLPipe/linux_handheld/ssh_storage.h"
-#include "Components/QLPipe/device_names.h"
+#include "Components/QLPipe/base/device_names.h"
+#include "Components/QLPipe/base/pipe_messages.h"
+#include "Components/QLPipe/base/ssh_messages.h"
 #include "Components/QLPipe/linux_handheld/sftp_errors.h"
-#include "Components/QLPipe/linux_handheld/ssh_messages.h"
 #include "Components/QLPipe/linux_handheld/ssh_upload.h"
-#include "Components/QLPipe/pipe_messages.h"
 #include <algorithm>
 #include <random>
 

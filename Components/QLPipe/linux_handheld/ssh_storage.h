@@ -1,6 +1,6 @@
 #pragma once
 // The storage of a Linux handheld.
-#include "Components/QLPipe/device_storage.h"
+#include "Components/QLPipe/base/device_storage.h"
 #include "Components/QLPipe/linux_handheld/sftp_client.h"
 
 namespace qlpipe {

@@ -1,6 +1,6 @@
 // Replacing and removing files and folders on a handheld.
-#include "Components/QLPipe/device_names.h"
-#include "Components/QLPipe/linux_handheld/ssh_messages.h"
+#include "Components/QLPipe/base/device_names.h"
+#include "Components/QLPipe/base/ssh_messages.h"
 #include "Components/QLPipe/linux_handheld/ssh_storage.h"
 #include <algorithm>
 

@@ -1,5 +1,5 @@
+#include "Components/QLPipe/base/ssh_messages.h"
 #include "Components/QLPipe/linux_handheld/linux_handheld_settings.h"
-#include "Components/QLPipe/linux_handheld/ssh_messages.h"
 #include "Components/QLPipe/linux_handheld/user_account.h"
 #include <algorithm>
 #include <cctype>

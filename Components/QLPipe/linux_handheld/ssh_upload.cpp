@@ -1,7 +1,7 @@
 #include "Components/QLPipe/linux_handheld/ssh_upload.h"
-#include "Components/QLPipe/device_names.h"
+#include "Components/QLPipe/base/device_names.h"
+#include "Components/QLPipe/base/sha256.h"
 #include "Components/QLPipe/linux_handheld/ssh_storage.h"
-#include "Components/QLPipe/sha256.h"
 #include <utility>
 
 namespace qlpipe {

@@ -1,5 +1,5 @@
 #pragma once
-#include "Components/QLPipe/device_storage.h"
+#include "Components/QLPipe/base/device_storage.h"
 #include "Components/QLPipe/linux_handheld/sftp_client.h"
 #include <deque>
 

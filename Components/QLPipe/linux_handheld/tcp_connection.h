@@ -1,5 +1,5 @@
 #pragma once
-#include "Components/QLPipe/file_descriptor.h"
+#include "Components/QLPipe/base/file_descriptor.h"
 #include "Components/QLPipe/linux_handheld/linux_handheld_settings.h"
 #include <chrono>
 

@@ -1,6 +1,6 @@
 #include "Components/QLPipe/virtual_device/folder_handle.h"
-#include "Components/QLPipe/device_names.h"
-#include "Components/QLPipe/pipe_messages.h"
+#include "Components/QLPipe/base/device_names.h"
+#include "Components/QLPipe/base/pipe_messages.h"
 #include <algorithm>
 #include <cerrno>
 #include <cstring>

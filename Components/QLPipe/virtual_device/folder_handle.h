@@ -1,6 +1,6 @@
 #pragma once
 // Files inside one folder, opened so that no link can lead out of it.
-#include "Components/QLPipe/file_descriptor.h"
+#include "Components/QLPipe/base/file_descriptor.h"
 #include <string>
 #include <vector>
 

@@ -1,4 +1,4 @@
-#include "Components/QLPipe/target_limits.h"
+#include "Components/QLPipe/base/target_limits.h"
 #include "Components/QLPipe/virtual_device/virtual_device.h"
 
 namespace qlpipe {

@@ -1,7 +1,7 @@
 #include "Components/QLPipe/virtual_device/virtual_device.h"
-#include "Components/QLPipe/device_names.h"
-#include "Components/QLPipe/installer.h"
-#include "Components/QLPipe/pipe_messages.h"
+#include "Components/QLPipe/base/device_names.h"
+#include "Components/QLPipe/base/pipe_messages.h"
+#include "Components/QLPipe/package/installer.h"
 #include "Components/QLPipe/virtual_device/virtual_file.h"
 #include <algorithm>
 #include <cerrno>
@@ -20,7 +20,6 @@ namespace {
 constexpr char kLockFile[] = ".lock";
 /// The temporary name of the old folder during a replacement: ".Hello.old".
 constexpr std::string_view kReplacedBegin = ".", kReplacedEnd = ".old";
-constexpr std::int64_t kLargestManifest = 1024 * 1024;
 
 std::string replacedName(const std::string& name) {
     const auto folder = folderOf(name);

@@ -1,7 +1,7 @@
 #pragma once
 // A device that is simulated by a folder on this machine.
-#include "Components/QLPipe/device_storage.h"
-#include "Components/QLPipe/pipe_services.h"
+#include "Components/QLPipe/base/device_storage.h"
+#include "Components/QLPipe/base/pipe_services.h"
 #include "Components/QLPipe/virtual_device/folder_handle.h"
 #include <chrono>
 #include <optional>

@@ -1,5 +1,5 @@
 #include "Components/QLPipe/virtual_device/virtual_file.h"
-#include "Components/QLPipe/device_names.h"
+#include "Components/QLPipe/base/device_names.h"
 #include <cerrno>
 #include <fcntl.h>
 #include <unistd.h>

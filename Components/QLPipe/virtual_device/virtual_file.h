@@ -1,6 +1,6 @@
 #pragma once
 // A file on a simulated device.
-#include "Components/QLPipe/device_storage.h"
+#include "Components/QLPipe/base/device_storage.h"
 #include "Components/QLPipe/virtual_device/folder_handle.h"
 #include <sys/types.h>
 

@@ -1,3 +1,4 @@
+#include "Host/model/bars/host_menus.h"
 #include "Host/model/bars/bars.h"
 
 namespace host {

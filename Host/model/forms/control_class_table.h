@@ -1,5 +1,5 @@
 #pragma once
-// The properties of the language's own classes, with the values that absent ones have.
+// The properties of the built-in classes, with their defaults.
 #include <array>
 #include <string_view>
 

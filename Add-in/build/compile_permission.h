@@ -1,0 +1,31 @@
+#pragma once
+// Whether a project may be compiled or validated, and the saving that precedes it.
+#include "Add-in/build/compile_services.h"
+
+namespace fernwick {
+
+/// Compared byte for byte with the version that a project was last compiled with.
+inline constexpr char kCompilerVersion[] = "3.5.0 (0624)";
+
+class CompilePermission {
+public:
+    using Project = basic::Ref<vbide::VBProject>;
+
+    explicit CompilePermission(const CompileServices& services) : services_(services) {}
+
+    bool canCompile(const Project& project);
+    bool readyForValidation(const Project& project);
+    bool lastCompileVersionGood(const Project& project);
+    bool ProjectIsDirty(const Project& project);
+
+private:
+    using QLProject = basic::Ref<clsQLProject>;
+
+    bool filesHaveBeenSaved(Procedure& here, const QLProject& qlProject);
+    bool saveForCompile(Procedure& here, const Project& project, const QLProject& qlProject);
+    bool askToSave(Procedure& here, const Project& project, const QLProject& qlProject);
+
+    CompileServices services_;
+};
+
+} // namespace fernwick

@@ -1,0 +1,34 @@
+#pragma once
+#include "Add-in/core/AddIn.h"
+#include "Add-in/core/settings_dialog.h"
+#include "Add-in/lifecycle/missing_features.h"
+
+namespace fernwick {
+
+/// Stands in for the features that this build lacks. What the user asked for is answered with a box at the desktop; what
+/// the add-in does on its own is skipped silently.
+class NotInThisBuild final : public SettingsDialog, public MissingFeatures {
+public:
+    using Project = basic::Ref<vbide::VBProject>;
+
+    NotInThisBuild(Interaction& user, const AddIn& addIn) : user_(user), addIn_(addIn) {}
+
+    void ShowQuinloftSettings(const Project&, const std::string&, bool) override { notInThisBuild(); }
+
+    void createZoomWindow() override {}
+    void InitZoomWindow() override {}
+    void SaveZoomWindowState() override {}
+    void SetZoomForm(const basic::Ref<vbide::VBComponent>&) override {}
+    void ShowProjectManager() override { notInThisBuild(); }
+    void ShowProjectManagerOnDelay() override { notInThisBuild(); }
+    void AddProjectToRecentList(const Project&) override {}
+    /// The project stays: without the converter there is nothing better to offer.
+    UnknownDeviceChoice AskAboutUnknownDevice(const Project&) override;
+    void notInThisBuild() override;
+
+private:
+    Interaction& user_;
+    const AddIn& addIn_;
+};
+
+} // namespace fernwick

@@ -1,0 +1,34 @@
+#pragma once
+// The command lines that a project runs before or after a compile.
+#include "Add-in/core/array.h"
+#include "Add-in/project/project_setting.h"
+
+namespace fernwick {
+
+/// Entries are stored from index 0, unlike those of the other lists.
+class CompileStepList final : public ProjectSetting {
+public:
+    /// `prefix` begins the keys of the count and of the entries.
+    CompileStepList(SettingList* owner, const char* name, const char* meaning, const char* prefix)
+        : ProjectSetting(owner, name, meaning), prefix_(prefix) {}
+
+    std::int32_t count() const;
+    /// False without steps, where the list stays as it is, and where a step is missing.
+    bool get(Array<std::string>& list) const;
+    void set(const Array<std::string>& list);
+    /// Sets the count to 0; the entries stay in the file.
+    void clear();
+
+    SettingKind kind() const override { return SettingKind::List; }
+    Values values() const override;
+    Values defaults() const override { return {}; }
+    bool isWritable() const override { return true; }
+    void assign(const Values& values) override;
+
+private:
+    std::string key(const std::string& end) const { return prefix_ + end; }
+
+    std::string prefix_;
+};
+
+} // namespace fernwick

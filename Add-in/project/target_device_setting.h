@@ -1,0 +1,26 @@
+#pragma once
+// The device of a project: its key, and its design target.
+#include "Add-in/project/compile_target_list.h"
+#include "Add-in/project/setting.h"
+
+namespace fernwick {
+
+/// Setting it makes the device the one compile target too, and fetches its design target.
+class TargetDeviceSetting final : public Setting<std::string> {
+public:
+    TargetDeviceSetting(SettingList* owner, CompileTargetList& targets)
+        : Setting(owner, "TargetDevice", "key of the design target"), targets_(targets) {}
+
+    basic::Ref<designtargetaccess::IQLDesignTarget> designTarget;
+    /// Fetches the design target of a key, unless it is the present one.
+    void fetchDesignTarget(Procedure& here, const std::string& key);
+
+protected:
+    std::string get() const override { return currentDeviceKey(Setting::get()); }
+    void let(const std::string& key) override;
+
+private:
+    CompileTargetList& targets_;
+};
+
+} // namespace fernwick

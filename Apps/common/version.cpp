@@ -1,0 +1,7 @@
+#include "Apps/common/version.h"
+
+namespace apps {
+
+const char* const kVersion = FERNWICK_VERSION;
+
+} // namespace apps

@@ -1,0 +1,81 @@
+// Building a project and sending it to devices.
+#include "Apps/fernwick/command_line/verb_line.h"
+
+namespace cli {
+
+namespace {
+
+constexpr const char* kOwnDevice = " (default: the project's own)";
+
+void addDevices(CLI::App& verb, Raw& raw, const std::string& without) {
+    verb.add_option("--device", raw.options.device, "Design target of the device" + without)->type_name("KEY");
+    verb.add_flag("--my-devices", raw.options.myDevices, "All devices in My Devices, one after the other")
+        ->excludes("--device");
+}
+
+void defineBuild(CLI::App& app, Raw& raw) {
+    auto& build = addVerb(app, raw, "build", runBuild, "Compile a project and validate it for its device",
+                          "fernwick build AddressBook.vbp --depfile AddressBook.d", Result::Messages);
+    addProject(build, raw);
+    addAnswers(build, raw);
+    build
+        .add_option("--device", raw.options.device,
+                    "Design target to validate for; assigned to a project that has none")
+        ->type_name("KEY");
+    build.add_option("--depfile", raw.options.depfile, "Write the files that the image depends on as a make rule")
+        ->type_name("FILE");
+    build.add_flag("-n,--dry-run", raw.options.dryRun, "Show what would be compiled and run, without writing anything")
+        ->excludes("--format");
+    addSteps(build, raw);
+}
+
+void defineValidate(CLI::App& app, Raw& raw) {
+    auto& validate = addVerb(app, raw, "validate", runValidate, "Check a project against what its device supports",
+                             "fernwick validate AddressBook.vbp --forms --device PocketPC-SH3", Result::Messages);
+    addProject(validate, raw);
+    addAnswers(validate, raw);
+    validate.add_option("--device", raw.options.device, std::string("Design target to validate for") + kOwnDevice)
+        ->type_name("KEY");
+    validate.add_flag("--forms", raw.options.forms,
+                      "Also check the names, properties, events and controls of each form");
+}
+
+void definePackage(CLI::App& app, Raw& raw) {
+    auto& package = addVerb(app, raw, "package", runPackage, "Pack a project into a file that devices can install",
+                            "fernwick package AddressBook.vbp\n  fernwick package --list "
+                            "AddressBook.PalmOS-DragonBall.qlpkg",
+                            Result::Messages);
+    package.add_option("PROJECT", raw.options.project, "Project file; with --list or --verify a package file");
+    addDevices(package, raw, kOwnDevice);
+    package.add_flag("--list", raw.options.list, "List the contents of a package");
+    package.add_flag("--verify", raw.options.verify, "Check a package against its manifest")->excludes("--list");
+    addAnswers(package, raw);
+    addSteps(package, raw);
+}
+
+void defineDeploy(CLI::App& app, Raw& raw) {
+    auto& deploy = addVerb(app, raw, "deploy", runDeploy, "Send a project or a package to a device",
+                           "fernwick deploy AddressBook.vbp --my-devices", Result::Messages);
+    deploy.add_option("PROJECT", raw.options.project, "Project file or package file");
+    addDevices(deploy, raw, kOwnDevice);
+    addAnswers(deploy, raw);
+    addSteps(deploy, raw);
+}
+
+void defineInstallRuntime(CLI::App& app, Raw& raw) {
+    auto& runtime = addVerb(app, raw, "install-runtime", runInstallRuntime, "Install the Tamarik runtime on a device",
+                            "fernwick install-runtime --device PalmOS-DragonBall", Result::Messages);
+    addDevices(runtime, raw, "");
+}
+
+} // namespace
+
+void defineProjectVerbs(CLI::App& app, Raw& raw) {
+    defineBuild(app, raw);
+    defineValidate(app, raw);
+    definePackage(app, raw);
+    defineDeploy(app, raw);
+    defineInstallRuntime(app, raw);
+}
+
+} // namespace cli

@@ -1,0 +1,57 @@
+// Commands that read and change what is stored.
+#include "Apps/fernwick/command_line/verb_line.h"
+#include "Apps/fernwick/verbs/stored_settings.h"
+#include <fmt/format.h>
+
+namespace cli {
+
+namespace {
+
+std::string settingNames() {
+    std::string text;
+    for (const auto& setting : storedSettings()) text += fmt::format("  {:<24}{}\n", setting.name, setting.meaning);
+    text.pop_back();
+    return text;
+}
+
+void defineSettings(CLI::App& app, Raw& raw) {
+    auto& settings =
+        addVerb(app, raw, "settings", runSettings, "List, get, set or reset the stored settings of a project",
+                "fernwick settings set AddressBook.vbp TargetDevice PalmOS-DragonBall\n\nSettings:\n" + settingNames());
+    settings.add_option("ACTION", raw.options.action, "list, get, set or reset")
+        ->required()
+        ->check(CLI::IsMember({"list", "get", "set", "reset"}));
+    settings.add_option("OPERANDS", raw.options.operands, "[PROJECT] [NAME [VALUE]]");
+    addDryRun(settings, raw);
+    addAnswers(settings, raw);
+}
+
+void defineRegistry(CLI::App& app, Raw& raw) {
+    auto& registry = addVerb(app, raw, "registry", runRegistry, "Read and write the registry store",
+                             "fernwick registry get 'HKEY_CURRENT_USER\\SOFTWARE\\Quinloft\\AddinPrefs' ZoomWinState");
+    registry.add_option("ACTION", raw.options.action, "get, set, export or import")
+        ->required()
+        ->check(CLI::IsMember({"get", "set", "export", "import"}));
+    registry
+        .add_option("OPERANDS", raw.options.operands, "get KEY [NAME] | set KEY NAME VALUE | export KEY | import FILE")
+        ->required();
+    addDryRun(registry, raw);
+}
+
+void defineDependencies(CLI::App& app, Raw& raw) {
+    auto& dependencies = addVerb(app, raw, "dependencies", runDependencies,
+                                 "List, add or remove the files that are installed with a project",
+                                 "fernwick dependencies AddressBook.vbp add data/cities.pdb logo.bmp");
+    dependencies.add_option("OPERANDS", raw.options.operands, "[PROJECT] [list | add FILE... | remove FILE...]");
+    addAnswers(dependencies, raw);
+}
+
+} // namespace
+
+void defineStoringVerbs(CLI::App& app, Raw& raw) {
+    defineSettings(app, raw);
+    defineRegistry(app, raw);
+    defineDependencies(app, raw);
+}
+
+} // namespace cli

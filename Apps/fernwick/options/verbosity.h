@@ -1,0 +1,7 @@
+#pragma once
+
+namespace cli {
+
+enum class Verbosity { Quiet, Normal, Verbose };
+
+} // namespace cli

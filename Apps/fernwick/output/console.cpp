@@ -1,0 +1,131 @@
+#include "Apps/fernwick/output/console.h"
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+#include <cstdlib>
+#include <fmt/format.h>
+#include <sys/ioctl.h>
+#include <unistd.h>
+
+namespace cli {
+
+namespace {
+
+constexpr int kBarCells = 20;
+
+bool noColorWanted() {
+    const char* value = std::getenv("NO_COLOR");
+    return value && *value;
+}
+
+/// 80 if the terminal does not report its width, as new pseudo-terminals do not.
+size_t terminalWidth() {
+    winsize size{};
+    if (ioctl(STDERR_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0) return size.ws_col;
+    return 80;
+}
+
+/// Returns as many whole UTF-8 characters as fit into `cells`.
+std::string_view cutToCells(std::string_view text, size_t cells) {
+    size_t at = 0;
+    for (; at < text.size() && cells > 0; --cells) {
+        ++at;
+        while (at < text.size() && (static_cast<unsigned char>(text[at]) & 0xC0) == 0x80) ++at;
+    }
+    return text.substr(0, at);
+}
+
+/// Ignores write errors: diagnostics that cannot be written must not end the run.
+void toError(std::string_view text) {
+    std::fwrite(text.data(), 1, text.size(), stderr);
+    std::fflush(stderr);
+}
+
+const char* colourOf(Tone tone) {
+    switch (tone) {
+    case Tone::Error: return "31";
+    case Tone::Warning: return "33";
+    case Tone::Good: return "32";
+    case Tone::Faint: return "2";
+    case Tone::Plain: break;
+    }
+    return "";
+}
+
+} // namespace
+
+Console::Console(Verbosity verbosity)
+    : verbosity_(verbosity),
+      errIsTerminal_(isatty(STDERR_FILENO) == 1),
+      colour_(errIsTerminal_ && !noColorWanted()),
+      canAsk_(errIsTerminal_ && isatty(STDIN_FILENO) == 1) {}
+
+Console::~Console() { endProgress(); }
+
+void Console::out(std::string_view data) {
+    if (std::fwrite(data.data(), 1, data.size(), stdout) != data.size()) outputFailed_ = true;
+}
+
+bool Console::flush() {
+    if (std::fflush(stdout) != 0) outputFailed_ = true;
+    return !outputFailed_;
+}
+
+std::string Console::coloured(std::string_view line, Tone tone) const {
+    if (!colour_ || tone == Tone::Plain) return std::string(line);
+    return fmt::format("\033[{}m{}\033[0m", colourOf(tone), line);
+}
+
+void Console::err(std::string_view line, Tone tone) {
+    clearBar();
+    toError(coloured(line, tone) + "\n");
+}
+
+void Console::note(std::string_view line, Tone tone) {
+    if (verbosity_ != Verbosity::Quiet) err(line, tone);
+}
+
+void Console::detail(std::string_view line) {
+    if (verbosity_ == Verbosity::Verbose) err(line, Tone::Faint);
+}
+
+void Console::progress(float percent, std::string_view text) {
+    if (verbosity_ == Verbosity::Quiet) return;
+    if (errIsTerminal_) {
+        drawBar(percent, text);
+        return;
+    }
+    const bool isPercentage = text.find("% completed") != std::string_view::npos;
+    if (text.empty() || isPercentage || text == lastText_) return;
+    lastText_ = text;
+    toError(std::string(text) + "\n");
+}
+
+void Console::drawBar(float percent, std::string_view text) {
+    const int done = std::clamp(int(std::lround(percent / 100 * kBarCells)), 0, kBarCells);
+    const std::string bar = fmt::format("[{}{}] {:3.0f}% ", std::string(size_t(done), '#'),
+                                        std::string(size_t(kBarCells - done), '.'), percent);
+    const size_t room = terminalWidth() - 1;
+    toError(fmt::format("\r{}{}\033[K", bar, cutToCells(text, room > bar.size() ? room - bar.size() : 0)));
+    barShown_ = true;
+}
+
+void Console::clearBar() {
+    if (barShown_) toError("\r\033[K");
+    barShown_ = false;
+}
+
+void Console::endProgress() {
+    clearBar();
+    lastText_.clear();
+}
+
+std::string Console::ask(std::string_view prompt) {
+    clearBar();
+    toError(prompt);
+    std::string line;
+    for (int c = std::fgetc(stdin); c != EOF && c != '\n'; c = std::fgetc(stdin)) line += char(c);
+    return line;
+}
+
+} // namespace cli

@@ -1,0 +1,55 @@
+#pragma once
+// Data goes to standard output, progress and diagnostics to standard error.
+#include "Apps/fernwick/options/verbosity.h"
+#include <string>
+#include <string_view>
+
+namespace cli {
+
+enum class Tone { Plain, Error, Warning, Good, Faint };
+
+/// Uses colours on a terminal unless NO_COLOR is set, and shows a progress bar only on a terminal.
+class Console {
+public:
+    explicit Console(Verbosity verbosity);
+    ~Console();
+    Console(const Console&) = delete;
+
+    /// Writes data unchanged.
+    void out(std::string_view data);
+    /// Writes a line of diagnostics, replacing the progress bar.
+    void err(std::string_view line, Tone tone = Tone::Plain);
+    /// Like err, but silent under --quiet.
+    void note(std::string_view line, Tone tone = Tone::Plain);
+    /// Like err, but only under --verbose.
+    void detail(std::string_view line);
+
+    /// Shows progress from 0 to 100 with a text. Without a terminal, prints the text when it changes, but no
+    /// percentages.
+    void progress(float percent, std::string_view text);
+    void endProgress();
+
+    /// Whether both input and diagnostics are a terminal.
+    bool canAsk() const { return canAsk_; }
+    /// Prompts and reads a line; returns "" for an empty line or at the end of input. Requires canAsk().
+    std::string ask(std::string_view prompt);
+
+    Verbosity verbosity() const { return verbosity_; }
+    /// Returns whether all data was written; false for a full disk or a closed pipe.
+    bool flush();
+
+private:
+    std::string coloured(std::string_view line, Tone tone) const;
+    void clearBar();
+    void drawBar(float percent, std::string_view text);
+
+    Verbosity verbosity_;
+    bool errIsTerminal_;
+    bool colour_;
+    bool canAsk_;
+    bool barShown_ = false;
+    bool outputFailed_ = false;
+    std::string lastText_;
+};
+
+} // namespace cli

@@ -1,0 +1,31 @@
+#include "Apps/fernwick/output/report.h"
+#include <fmt/format.h>
+
+namespace cli {
+
+std::string textOf(const Message& message, const std::string& project) {
+    std::string place = message.file.empty() ? project : message.file;
+    if (message.line > 0) place += fmt::format(":{}", message.line);
+    return fmt::format("{}: {} {}: {}", place, message.isError ? "error" : "warning", message.number, message.text);
+}
+
+void printMessages(const std::vector<Message>& messages, const std::string& project, Console& console) {
+    for (const auto& message : messages)
+        console.err(textOf(message, project), message.isError ? Tone::Error : Tone::Warning);
+}
+
+bool printFormatted(const Report& report, const Options& options, Console& console) {
+    if (!report.failure.empty()) console.err("fernwick: " + report.failure, Tone::Error);
+    if (options.format == Format::Json) console.out(jsonOf(report));
+    if (options.format == Format::Sarif) console.out(sarifOf(report));
+    return options.format != Format::Text;
+}
+
+void printReport(const Report& report, const Options& options, Console& console) {
+    if (printFormatted(report, options, console)) return;
+    printMessages(report.messages, report.project, console);
+    if (!report.statusText.empty()) console.out(report.statusText + "\n");
+    if (!report.image.empty() && options.verbosity != Verbosity::Quiet) console.out("Image: " + report.image + "\n");
+}
+
+} // namespace cli

@@ -1,0 +1,95 @@
+#include "Apps/fernwick/run/project_run.h"
+#include "Apps/common/compile_steps.h"
+#include "Apps/fernwick/options/exit_status.h"
+#include "Apps/fernwick/run/project_argument.h"
+#include "Host/files/atomic_save.h"
+#include <fmt/format.h>
+
+namespace cli {
+
+namespace {
+
+Refusal unusableTarget(const std::string& key) {
+    return {kWrongUse, fmt::format("{} is not a usable design target; see fernwick targets", key)};
+}
+
+void requireDevice(Session& session, const std::string& wanted) {
+    const bool none = session.addIn().devices.GetNumDesignTargets() == 0;
+    if (!session.isOpen() || none)
+        throw Refusal(kMachineTrouble,
+                      none ? "no usable design target is installed; see fernwick targets. The project was not changed."
+                           : "the project was closed by the add-in");
+    const auto device = session.settings() ? session.settings()->TargetDevice() : std::string();
+    if (device.empty() && !wanted.empty()) throw unusableTarget(wanted);
+    if (device.empty())
+        throw Refusal(kWrongUse,
+                      fmt::format("{}: the project has no device; choose one with --device KEY (see fernwick "
+                                  "targets)",
+                                  session.path()));
+    if (!session.addIn().devices.IsValidDevice(device))
+        throw Refusal(kMachineTrouble, fmt::format("{}: its device {} is not installed or not usable; see fernwick "
+                                                   "targets",
+                                                   session.path(), device));
+}
+
+/// The project file is saved after the image; the image must not appear older.
+void stampImage(Session& session, const std::string& image) {
+    auto& files = session.machine().platform().files;
+    std::int64_t newest = files.GetDateLastModified(image);
+    for (const auto& input : inputsOf(session))
+        if (files.FileExists(input)) newest = std::max(newest, files.GetDateLastModified(input));
+    files.SetDateLastModified(image, newest);
+}
+
+} // namespace
+
+void openProject(Session& session, const Options& options) {
+    session.open(projectArgument(options.project));
+    session.requireFernwickProject();
+    session.requireAllMembers();
+}
+
+void beginWork(Session& session, const Options& options) {
+    session.takeUp();
+    session.trust().prepare(session.machine().registry(), apps::allSteps(*session.settings()));
+    session.forget();
+    session.connect();
+    requireDevice(session, options.device);
+}
+
+void requireUsableDevice(Session& session, const std::string& device) {
+    if (!session.addIn().devices.IsValidDevice(device)) throw unusableTarget(device);
+}
+
+std::string deviceOfRun(Session& session, const Options& options) {
+    if (options.device.empty()) return session.settings()->TargetDevice();
+    requireUsableDevice(session, options.device);
+    return options.device;
+}
+
+std::string statusText(Session& session) {
+    const auto window = session.addIn().compileMsgs();
+    return window ? window->lblStatusText() : std::string();
+}
+
+fernwick::RunStatus runStatus(Session& session) {
+    return session.addIn().compileMsgs() ? session.addIn().messages.status() : fernwick::RunStatus::None;
+}
+
+std::vector<std::string> inputsOf(Session& session) {
+    auto inputs = session.machine().build().inputs;
+    inputs.push_back(session.path());
+    return inputs;
+}
+
+void endWork(Session& session, Report& report) {
+    const bool readOnly = host::isReadOnly(session.path());
+    if (!session.closeAndSave() && !readOnly) {
+        report.failure = session.path() + " cannot be saved";
+        report.exitStatus = kMachineTrouble;
+    }
+    report.boxes = session.user().shown();
+    if (!session.machine().build().image.empty()) stampImage(session, session.machine().build().image);
+}
+
+} // namespace cli

@@ -1,0 +1,34 @@
+#pragma once
+// The beginning and the end of build, validate, package and deploy.
+#include "Apps/fernwick/options/options.h"
+#include "Apps/fernwick/output/report.h"
+#include "Apps/fernwick/run/session.h"
+
+namespace cli {
+
+/// Opens the project given on the command line. Refusal 1 if it is not a usable Fernwick project.
+void openProject(Session& session, const Options& options);
+
+/// Reads the project's compile steps and connects the add-in, which assigns a device if the project has none. Refusals:
+/// no device (2), the device is not installed (3).
+void beginWork(Session& session, const Options& options);
+
+/// Refusal 2 if the device is not a usable design target.
+void requireUsableDevice(Session& session, const std::string& device);
+
+/// Returns the device given by --device, else the project's own. Refusal 2 if it is not usable.
+std::string deviceOfRun(Session& session, const Options& options);
+
+/// Returns the status line of the messages window; "" if there is no window.
+std::string statusText(Session& session);
+/// The meaning of that line.
+fernwick::RunStatus runStatus(Session& session);
+
+/// Saves and closes the project; a failure to save is added to the report. The image's time is set so that it is not
+/// older than its inputs.
+void endWork(Session& session, Report& report);
+
+/// Returns the image's inputs, with the project file last.
+std::vector<std::string> inputsOf(Session& session);
+
+} // namespace cli

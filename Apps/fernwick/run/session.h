@@ -1,0 +1,70 @@
+#pragma once
+// The host and the add-in with one open project.
+#include "Add-in/core/connect/Modules.h"
+#include "Apps/common/host_options.h"
+#include "Apps/fernwick/options/options.h"
+#include "Apps/fernwick/options/refusal.h"
+#include "Apps/fernwick/run/machine.h"
+#include "Apps/fernwick/run/steps_trust.h"
+#include "Host/model/host.h"
+#include <memory>
+
+namespace cli {
+
+class Session {
+public:
+    Session(const Options& options, Console& console);
+    ~Session();
+    Session(const Session&) = delete;
+
+    /// Opens the project in the host and prints problems with its files. Refusal if it does not exist or is not a project.
+    void open(const std::string& path);
+    /// Refusal 1 if it is not a Fernwick project, or one of an older version.
+    void requireFernwickProject();
+    /// Refusal 1 if a source file is missing, unreadable or has the same name as another: without it the image would not
+    /// be complete.
+    void requireAllMembers();
+    /// Adds the project to the add-in's list without connecting the add-in, which is enough for its settings.
+    void takeUp();
+    /// Removes the project from the add-in's list; connecting adds it again.
+    void forget();
+    /// Connects the add-in, which adds the project to its list and assigns a device if it has none.
+    void connect();
+    /// Saves the project's files, with the window state if the add-in is connected, and closes the project. Returns
+    /// false if the project file could not be written.
+    bool closeAndSave();
+    /// Closes without saving anything.
+    void closeUnsaved();
+
+    const basic::Ref<vbide::VBProject>& project() const { return project_; }
+    const basic::Ref<fernwick::clsQLProject>& settings() const { return settings_; }
+    fernwick::Modules& addIn() { return *modules_; }
+    host::Host& host() { return *host_; }
+    Machine& machine() { return machine_; }
+    CommandLineUser& user() { return user_; }
+    StepsTrust& trust() { return trust_; }
+    const std::string& path() const { return path_; }
+    /// Whether the host still has the project; the add-in removes one without a usable device.
+    bool isOpen() const;
+
+private:
+    void close();
+    void printProblems();
+    int deviceRow(const std::string& key);
+    bool hasUnsavedComponents() const;
+
+    const Options& options_;
+    Console& console_;
+    CommandLineUser user_;
+    StepsTrust trust_;
+    Machine machine_;
+    apps::InstalledControls controls_;
+    std::shared_ptr<fernwick::Modules> modules_;
+    std::shared_ptr<host::Host> host_;
+    std::string path_;
+    basic::Ref<vbide::VBProject> project_;
+    basic::Ref<fernwick::clsQLProject> settings_;
+    bool connected_ = false;
+};
+
+} // namespace cli

@@ -1,0 +1,28 @@
+#pragma once
+// What commands do in the code window in front. Each does nothing if there is none.
+#include "Apps/workbench/code/code_windows.h"
+#include "Apps/workbench/code/find_bar.h"
+
+namespace workbench {
+
+class CodeCommands {
+public:
+    /// Both outlive this.
+    CodeCommands(CodeWindows& windows, FindBar& bar) : windows_(windows), bar_(bar) {}
+
+    /// To the next procedure, or the previous one.
+    void goToProcedure(bool backwards);
+    void askForLine(QWidget* parent);
+    /// Shows the declaration of the name at the cursor and remembers the cursor's position.
+    void showDefinition();
+    /// Returns to where showDefinition was used last.
+    void showLastPosition();
+
+private:
+    CodeWindows& windows_;
+    FindBar& bar_;
+    /// Where definitions were asked for, the latest last.
+    std::vector<CodePlace> positions_;
+};
+
+} // namespace workbench

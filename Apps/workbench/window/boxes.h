@@ -1,0 +1,24 @@
+#pragma once
+// The boxes of the program.
+#include "Host/model/host.h"
+#include <QWidget>
+#include <exception>
+#include <string>
+#include <vector>
+
+namespace workbench {
+
+void showError(std::exception_ptr error, QWidget* window);
+/// An error that a handler of the add-in did not catch.
+void showHandlerError(const basic::ErrObject& error, QWidget* window);
+void showInformation(const QString& text, QWidget* window);
+/// Shows what could not be loaded of a project; nothing if everything was.
+void showProblems(const std::vector<host::LoadProblem>& problems, QWidget* window);
+void showNoFernwickProject(const std::string& project, QWidget* window);
+void showAbout(QWidget* window);
+/// "" if the user cancels. The dialog opens in the folder of the most recent project.
+std::string askForProjectFile(QWidget* window);
+/// Whether the user trusts a folder and allows these compile steps.
+bool askToTrust(const std::string& folder, const QStringList& steps);
+
+} // namespace workbench

@@ -1,0 +1,178 @@
+#include "Apps/workbench/window/commands.h"
+#include "Apps/workbench/code/code_lines.h"
+#include "Apps/workbench/code/scintilla.h"
+#include "Apps/workbench/project/component_commands.h"
+#include "Apps/workbench/project/project_properties.h"
+#include "Apps/workbench/project/project_saving.h"
+#include "Apps/workbench/window/main_window.h"
+#include "Apps/workbench/window/start_icon.h"
+#include <QApplication>
+#include <QStyle>
+
+namespace workbench {
+
+namespace {
+
+constexpr auto kAlways = Enabled::Always, kInCode = Enabled::InCode, kInTabs = Enabled::InTabs;
+constexpr QKeyCombination kNoKey{};
+
+template <QStyle::StandardPixmap Picture>
+QIcon styleIcon() {
+    return QApplication::style()->standardIcon(Picture);
+}
+
+/// The editor in front, which commands that are enabled in code have.
+QsciScintilla& textOf(const CommandTargets& on) { return on.window.code().current()->scintilla(); }
+
+CodeCommands& actions(const CommandTargets& on) { return on.window.codeCommands(); }
+
+/// The component that the user works on.
+ComponentRef inHand(const CommandTargets& on) { return on.window.design().inHand(); }
+
+void undo(const CommandTargets& on) {
+    if (auto* const editor = on.window.code().current())
+        editor->scintilla().undo();
+    else
+        on.window.design().undo();
+}
+
+void saveProjectAs(const CommandTargets& on) {
+    if (const auto active = on.host.ActiveVBProject()) saveUnderNewName(active, &on.window);
+}
+
+void editProjectProperties(const CommandTargets& on) {
+    if (const auto active = on.host.ActiveVBProject()) editProperties(active, &on.window);
+}
+
+void switchTheme(const CommandTargets& on) {
+    on.window.setTheme(currentTheme() == Theme::Light ? Theme::Dark : Theme::Light);
+}
+
+const Command kFileCommands[] = {
+    {host::kNewProjectId, "&New Project...", Qt::CTRL | Qt::Key_N, kAlways, [](auto& on) { on.program.newProject(); },
+     styleIcon<QStyle::SP_FileIcon>},
+    {host::kOpenProjectId, nullptr, Qt::CTRL | Qt::Key_O, kAlways, nullptr, styleIcon<QStyle::SP_DialogOpenButton>},
+    {host::kSaveProjectId, nullptr, kNoKey, kAlways, [](auto& on) { on.program.saveProject(); },
+     styleIcon<QStyle::SP_DialogSaveButton>},
+    {host::kRemoveProjectId, nullptr, kNoKey, kAlways, [](auto& on) { on.program.removeProject(); }},
+    {kGroup},
+    {kSaveFileId, "&Save File", Qt::CTRL | Qt::Key_S, kAlways,
+     [](auto& on) { saveFile(on.host, inHand(on), &on.window); }},
+    {kSaveFileAsId, "Save File &As...", kNoKey, kAlways, [](auto& on) { saveFileAs(inHand(on), &on.window); }},
+    {kSaveProjectAsId, "Save Pro&ject As...", kNoKey, kAlways, saveProjectAs},
+    {kGroup},
+    {kRecentMenuId, "Recent &Projects"},
+    {kGroup},
+    {kExitId, "E&xit", Qt::CTRL | Qt::Key_Q, kAlways, [](auto& on) { on.window.close(); }},
+};
+
+const Command kEditCommands[] = {
+    {kUndoId, "&Undo", Qt::CTRL | Qt::Key_Z, kInTabs, undo},
+    {kRedoId, "&Redo", Qt::CTRL | Qt::SHIFT | Qt::Key_Z, kInCode, [](auto& on) { textOf(on).redo(); }},
+    {kGroup},
+    {kCutId, "Cu&t", Qt::CTRL | Qt::Key_X, kInCode, [](auto& on) { textOf(on).cut(); }},
+    {kCopyId, "&Copy", Qt::CTRL | Qt::Key_C, kInCode, [](auto& on) { textOf(on).copy(); }},
+    {kPasteId, "&Paste", Qt::CTRL | Qt::Key_V, kInCode, [](auto& on) { textOf(on).paste(); }},
+    {kCutLineId, "Cut &Line", Qt::CTRL | Qt::Key_Y, kInCode, [](auto& on) { cutLine(textOf(on)); }},
+    {kSelectAllId, "Select &All", Qt::CTRL | Qt::Key_A, kInCode, [](auto& on) { textOf(on).selectAll(); }},
+    {kGroup},
+    {kFindId, "&Find...", Qt::CTRL | Qt::Key_F, kInCode, [](auto& on) { on.window.findBar().open(false); }},
+    {kFindNextId, "Find &Next", Qt::Key_F3, kInCode, [](auto& on) { on.window.findBar().findAgain(false); }},
+    {kFindPreviousId, "Find Pre&vious", Qt::SHIFT | Qt::Key_F3, kInCode,
+     [](auto& on) { on.window.findBar().findAgain(true); }},
+    {kReplaceId, "R&eplace...", Qt::CTRL | Qt::Key_H, kInCode, [](auto& on) { on.window.findBar().open(true); }},
+    {kGroup},
+    {kIndentId, "&Indent", kNoKey, kInCode, [](auto& on) { indentLines(textOf(on)); }},
+    {kOutdentId, "&Outdent", kNoKey, kInCode, [](auto& on) { outdentLines(textOf(on)); }},
+    {kCommentId, "Co&mment Block", kNoKey, kInCode, [](auto& on) { commentLines(textOf(on)); }},
+    {kUncommentId, "Uncomment Bloc&k", kNoKey, kInCode, [](auto& on) { uncommentLines(textOf(on)); }},
+    {kGroup},
+    {kNextProcedureId, "Ne&xt Procedure", Qt::CTRL | Qt::Key_Down, kInCode,
+     [](auto& on) { actions(on).goToProcedure(false); }},
+    {kPreviousProcedureId, "Previou&s Procedure", Qt::CTRL | Qt::Key_Up, kInCode,
+     [](auto& on) { actions(on).goToProcedure(true); }},
+    {kGoToLineId, "&Go to Line...", Qt::CTRL | Qt::Key_G, kInCode,
+     [](auto& on) { actions(on).askForLine(&on.window); }},
+};
+
+// the docks' switches are added after these
+const Command kViewCommands[] = {
+    {kViewCodeId, "&Code", Qt::Key_F7, kAlways, [](auto& on) { on.window.design().showCode(); }},
+    {kViewObjectId, "O&bject", Qt::SHIFT | Qt::Key_F7, kAlways, [](auto& on) { on.window.design().showObject(); }},
+    {kDefinitionId, "&Definition", Qt::SHIFT | Qt::Key_F2, kInCode, [](auto& on) { actions(on).showDefinition(); }},
+    {kLastPositionId, "Last Positio&n", Qt::CTRL | Qt::SHIFT | Qt::Key_F2, kInCode,
+     [](auto& on) { actions(on).showLastPosition(); }},
+    {kGroup},
+    {kToolBarsMenuId, "&Toolbars"},
+    {kThemeId, "&Light or Dark", kNoKey, kAlways, switchTheme},
+};
+
+const Command kProjectCommands[] = {
+    {kAddFormId, "Add &Form", kNoKey, kAlways, [](auto& on) { addComponent(on.host, vbide::vbext_ct_VBForm); }},
+    {kAddModuleId, "Add &Module", kNoKey, kAlways, [](auto& on) { addComponent(on.host, vbide::vbext_ct_StdModule); }},
+    {kAddClassId, "Add &Class Module", kNoKey, kAlways,
+     [](auto& on) { addComponent(on.host, vbide::vbext_ct_ClassModule); }},
+    {kGroup},
+    {kAddFileId, "&Add File...", Qt::CTRL | Qt::Key_D, kAlways, [](auto& on) { addFile(on.host, &on.window); }},
+    {kRemoveComponentId, "&Remove File", kNoKey, kAlways, [](auto& on) { removeComponent(inHand(on), &on.window); }},
+    {kGroup},
+    {kStartUpProjectId, "Set as Start &Up", kNoKey, kAlways, [](auto& on) { setAsStartUp(inHand(on)); }},
+    {kProjectPropertiesId, "&Properties...", kNoKey, kAlways, editProjectProperties},
+};
+
+const Command kRunCommands[] = {
+    {kStartId, "&Start on Device", Qt::Key_F5, kAlways, [](auto& on) { on.program.start(); }, startIcon},
+};
+
+const Command kWindowCommands[] = {
+    {kNextWindowId, "&Next Window", Qt::CTRL | Qt::Key_F6, kAlways, [](auto& on) { on.window.code().step(1); }},
+    {kPreviousWindowId, "&Previous Window", Qt::CTRL | Qt::SHIFT | Qt::Key_F6, kAlways,
+     [](auto& on) { on.window.code().step(-1); }},
+    {kGroup},
+    {kCloseWindowId, "&Close", Qt::CTRL | Qt::Key_F4, kAlways, [](auto& on) { on.window.code().closeCurrent(); }},
+    {kCloseAllWindowsId, "Close &All", kNoKey, kAlways, [](auto& on) { on.window.code().closeAll(); }},
+};
+
+const Command kHelpCommands[] = {
+    {kHelpId, "&Contents", Qt::Key_F1, kAlways, [](auto& on) { on.program.help(); }},
+    {kGroup},
+    {kAboutId, "&About Fernwick Workbench...", kNoKey, kAlways, [](auto& on) { on.program.about(); }},
+};
+
+const DockCommand kDockCommands[] = {
+    {"explorerDock", kExplorerId, "&Project Explorer", Qt::CTRL | Qt::Key_R},
+    {"propertiesDock", kPropertiesId, "Properties &Window", Qt::Key_F4},
+    {"toolboxDock", kToolboxId, "Toolbo&x"},
+    {"Fernwick Messages", kMessagesId, "Fernwick &Messages", Qt::CTRL | Qt::Key_M},
+};
+
+const CommandMenu kCommandMenus[] = {
+    {host::kFileMenuId, kFileCommands},       {host::kEditMenuId, kEditCommands}, {host::kViewMenuId, kViewCommands},
+    {host::kProjectMenuId, kProjectCommands}, {kRunMenuId, kRunCommands},         {kWindowMenuId, kWindowCommands},
+    {host::kHelpMenuId, kHelpCommands},
+};
+
+QKeySequence sequenceOf(QKeyCombination key) {
+    return key.toCombined() == kNoKey.toCombined() ? QKeySequence() : QKeySequence(key);
+}
+
+} // namespace
+
+std::span<const CommandMenu> commandMenus() { return kCommandMenus; }
+
+DockCommand dockCommandOf(const QString& dock) {
+    for (const auto& command : kDockCommands)
+        if (dock == command.dock) return command;
+    return {""};
+}
+
+CommandLook commandLookOf(int id) {
+    for (const auto& menu : kCommandMenus)
+        for (const auto& command : menu.commands)
+            if (command.id == id) return {sequenceOf(command.key), command.icon ? command.icon() : QIcon()};
+    for (const auto& command : kDockCommands)
+        if (command.id == id) return {sequenceOf(command.key), {}};
+    return {};
+}
+
+} // namespace workbench

@@ -1,0 +1,125 @@
+#pragma once
+// The window's commands. commands.cpp has one row for each: its text, key, where it works, what it does, and its icon.
+#include "Apps/workbench/bars/bars_view.h"
+#include <functional>
+#include <span>
+
+namespace workbench {
+
+class MainWindow;
+
+/// Ids of the commands that the window adds to the host's menus.
+enum CommandId : int {
+    kGroup = 0, ///< no command: the next one begins a group
+    kRecentMenuId = 40001,
+    kExitId,
+    kUndoId,
+    kRedoId,
+    kCutId,
+    kCopyId,
+    kPasteId,
+    kSelectAllId,
+    kFindId,
+    kFindNextId,
+    kExplorerId,
+    kThemeId,
+    kRunMenuId,
+    kAddFormId,
+    kAddModuleId,
+    kAddClassId,
+    kAddFileId,
+    kSaveFileId,
+    kSaveFileAsId,
+    kSaveProjectAsId,
+    kViewCodeId,
+    kViewObjectId,
+    kMessagesId,
+    kPropertiesId,
+    kToolboxId,
+    kDockId,
+    kToolBarsMenuId,
+    kToolBarId,
+    kRemoveComponentId,
+    kStartUpProjectId,
+    kProjectPropertiesId,
+    kStartId,
+    kAddInId,
+    kWindowMenuId,
+    kNextWindowId,
+    kPreviousWindowId,
+    kCloseWindowId,
+    kCloseAllWindowsId,
+    kWindowId,
+    kHelpId,
+    kAboutId,
+    kCutLineId = 40201,
+    kFindPreviousId,
+    kReplaceId,
+    kIndentId,
+    kOutdentId,
+    kCommentId,
+    kUncommentId,
+    kNextProcedureId,
+    kPreviousProcedureId,
+    kGoToLineId,
+    kDefinitionId,
+    kLastPositionId,
+};
+
+/// What commands ask of the program.
+struct ProgramActions {
+    std::function<void()> newProject;
+    std::function<void()> saveProject;
+    std::function<void()> removeProject;
+    /// Compiles the active project and sends it to its device.
+    std::function<void()> start;
+    std::function<void()> help;
+    std::function<void()> about;
+};
+
+/// What the commands act on. Host and window outlive the host's bars.
+struct CommandTargets {
+    host::Host& host;
+    MainWindow& window;
+    ProgramActions program;
+};
+
+/// Where a command is enabled.
+enum class Enabled {
+    Always,
+    InCode, ///< while a code window is in front
+    InTabs, ///< while any tab is in front, code or form
+};
+
+struct Command {
+    int id = kGroup;
+    /// Null for a command of the host that keeps its text.
+    const char* text = nullptr;
+    QKeyCombination key{};
+    Enabled enabled = Enabled::Always;
+    /// Null for a submenu, or for a command of the host that keeps its action.
+    void (*act)(const CommandTargets&) = nullptr;
+    QIcon (*icon)() = nullptr;
+};
+
+/// The commands of one menu, in order.
+struct CommandMenu {
+    int id;
+    std::span<const Command> commands;
+};
+std::span<const CommandMenu> commandMenus();
+
+/// The switch of a dock in the View menu.
+struct DockCommand {
+    const char* dock; ///< its object name
+    int id = kDockId;
+    const char* text = nullptr; ///< null: the dock's title
+    QKeyCombination key{};
+};
+/// A dock without a row in the table gets a command without a key.
+DockCommand dockCommandOf(const QString& dock);
+
+/// The key and icon of a command or of a dock's switch.
+CommandLook commandLookOf(int id);
+
+} // namespace workbench

@@ -1,0 +1,82 @@
+#include "Apps/workbench/window/context_menus.h"
+#include "Apps/workbench/bars/bar_controls.h"
+#include "Apps/workbench/base/text.h"
+#include "Apps/workbench/code/scintilla.h"
+#include "Apps/workbench/window/commands.h"
+#include <QMenu>
+
+namespace workbench {
+
+namespace {
+
+const std::vector<int> kOfForm{kViewCodeId, kViewObjectId,      kGroup,           kSaveFileId, kSaveFileAsId,
+                               kGroup,      kRemoveComponentId, kStartUpProjectId};
+const std::vector<int> kOfModule{kViewCodeId,        kGroup,           kSaveFileId, kSaveFileAsId, kGroup,
+                                 kRemoveComponentId, kStartUpProjectId};
+const std::vector<int> kOfProject{host::kSaveProjectId, kSaveProjectAsId, kGroup,
+                                  kAddFormId,           kAddModuleId,     kAddClassId,
+                                  kAddFileId,           kGroup,           host::kRemoveProjectId};
+const std::vector<int> kOfGroup{kAddFormId, kAddModuleId, kAddClassId, kAddFileId};
+
+const std::vector<int> kOfEditor{kCutId,     kCopyId,    kPasteId,      kGroup,          kFindId,
+                                 kReplaceId, kGroup,     kDefinitionId, kLastPositionId, kGroup,
+                                 kIndentId,  kOutdentId, kCommentId,    kUncommentId};
+
+const std::vector<int>& commandsFor(const ProjectExplorer& explorer) {
+    if (const auto component = explorer.currentComponent())
+        return component->Type() == vbide::vbext_ct_VBForm ? kOfForm : kOfModule;
+    return explorer.currentProject() ? kOfProject : kOfGroup;
+}
+
+/// Adds an action for each command and passes it, with the command's key and icon, to `show`.
+void fillFrom(QMenu& menu, host::Host& host, const std::vector<int>& ids, const Run& run,
+              const std::function<void(QAction&, const CommandLook&)>& show) {
+    for (const int id : ids) {
+        if (id == kGroup) {
+            menu.addSeparator();
+            continue;
+        }
+        const auto command = controlOf(host, id);
+        auto* const action = menu.addAction(qt(command->Caption()));
+        show(*action, commandLookOf(id));
+        QObject::connect(action, &QAction::triggered, &menu, [run, command] { run([&] { command->Execute(); }); });
+    }
+}
+
+void showExplorerMenu(host::Host& host, ProjectExplorer& explorer, const Run& run, const QPoint& at) {
+    if (!explorer.currentItem()) return;
+    if (const auto project = explorer.currentProject()) // the commands work on the active one
+        run([&] { host.ActiveVBProject(project); });
+    QMenu menu;
+    fillFrom(menu, host, commandsFor(explorer), run,
+             [](QAction& action, const CommandLook& look) { action.setIcon(look.icon); });
+    menu.exec(explorer.viewport()->mapToGlobal(at));
+}
+
+void showEditorMenu(host::Host& host, const CodeEditor& editor, const Run& run, const QPoint& at) {
+    QMenu menu;
+    menu.setObjectName("editorMenu");
+    fillFrom(menu, host, kOfEditor, run, [](QAction& action, const CommandLook& look) {
+        action.setShortcut(look.key);
+        action.setShortcutVisibleInContextMenu(true);
+    });
+    menu.exec(editor.scintilla().mapToGlobal(at));
+}
+
+} // namespace
+
+void addExplorerMenu(host::Host& host, ProjectExplorer& explorer, Run run) {
+    explorer.setContextMenuPolicy(Qt::CustomContextMenu);
+    QObject::connect(&explorer, &QWidget::customContextMenuRequested, &explorer,
+                     [&host, &explorer, run](const QPoint& at) { showExplorerMenu(host, explorer, run, at); });
+}
+
+void addEditorMenu(host::Host& host, CodeWindows& windows, Run run) {
+    windows.made = [&host, run](CodeEditor& editor) {
+        editor.scintilla().setContextMenuPolicy(Qt::CustomContextMenu);
+        QObject::connect(&editor.scintilla(), &QWidget::customContextMenuRequested, &editor,
+                         [&host, &editor, run](const QPoint& at) { showEditorMenu(host, editor, run, at); });
+    };
+}
+
+} // namespace workbench

@@ -1,0 +1,17 @@
+#pragma once
+// Adds the window's commands to the host's menus, where add-ins find them too.
+#include "Apps/workbench/window/commands.h"
+
+namespace workbench {
+
+/// The toolbar of the window's own commands.
+inline constexpr const char* kStandardToolbar = "Standard";
+
+/// Fills the host's menus and its standard toolbar from the table of commands. The host's own commands to save and
+/// remove a project now ask the user first where the model would not.
+void addMenus(const CommandTargets& targets);
+
+/// The submenu of the recent projects.
+std::shared_ptr<host::Bar> recentMenu(host::Host& host);
+
+} // namespace workbench

@@ -1,0 +1,44 @@
+#pragma once
+// Records the calls of features that the product lacks.
+#include "Add-in/core/settings_dialog.h"
+#include "Add-in/lifecycle/missing_features.h"
+#include "trace.h"
+#include <functional>
+
+namespace test {
+
+class NotedFeatures : public fernwick::SettingsDialog, public fernwick::MissingFeatures {
+public:
+    using Project = basic::Ref<vbide::VBProject>;
+
+    explicit NotedFeatures(Trace& trace) : trace_(trace) {}
+
+    /// What the user does in the settings, and while the project manager is open.
+    std::function<void()> inSettings = [] {}, inProjectManager = [] {};
+    fernwick::UnknownDeviceChoice unknownDevice;
+
+    void ShowQuinloftSettings(const Project&, const std::string& page, bool) override {
+        trace_.effect("settings " + page);
+        inSettings();
+    }
+    void createZoomWindow() override { trace_.effect("create zoom window"); }
+    void InitZoomWindow() override { trace_.effect("init zoom window"); }
+    void SaveZoomWindowState() override { trace_.effect("save zoom window"); }
+    void SetZoomForm(const basic::Ref<vbide::VBComponent>& form) override { trace_.effect("zoom " + form->Name()); }
+    void ShowProjectManager() override {
+        trace_.effect("project manager");
+        inProjectManager();
+    }
+    void ShowProjectManagerOnDelay() override { trace_.effect("project manager on delay"); }
+    void AddProjectToRecentList(const Project& project) override { trace_.effect("recent " + project->Name()); }
+    fernwick::UnknownDeviceChoice AskAboutUnknownDevice(const Project& project) override {
+        trace_.effect("unknown device of " + project->Name());
+        return unknownDevice;
+    }
+    void notInThisBuild() override { trace_.effect("not in this build"); }
+
+private:
+    Trace& trace_;
+};
+
+} // namespace test
