@@ -26,7 +26,7 @@ BundleFile runtimeFile(const fs::path& list, const fs::path& folder, const std::
                 size,
                 {},
                 [path, size] { return std::make_unique<LocalFile>(path, size); }};
-    } catch (const TransferError& error) { unusable(list, error.text); }
+    } catch (const TransferError&) { unusable(list, path + " is missing or cannot be read"); }
 }
 
 void addFiles(Bundle& bundle, const fs::path& list, const fs::path& folder,
