@@ -4,17 +4,18 @@
 
 namespace fernwick {
 
-frmValidate::frmValidate(const ValidationServices& services) : Form(services.platform.interaction), use_(services) {
+frmValidate::frmValidate(const ValidationServices& services)
+    : Form(services.platform.interaction), services_(services) {
     ControlBox = false;
 }
 
 bool frmValidate::ValidateProject(const Project& project, const std::string& deviceKey) {
     using namespace fmt::literals;
-    Procedure here{use_.errors, "frmValidate.ValidateProject"};
+    Procedure here{services_.errors, "frmValidate.ValidateProject"};
     here([&] { Load(); });
     project_ = project;
     deviceKey_ = deviceKey;
-    qlProject_ = basic::make<clsQLProject>(use_.projects);
+    qlProject_ = basic::make<clsQLProject>(services_.projects);
     qlProject_->VBProject(project);
     here([&] { Caption(fmt::format(build_texts::kValidating, "project"_a = project->Name())); });
     activated_ = false;
@@ -27,16 +28,16 @@ bool frmValidate::ValidateProject(const Project& project, const std::string& dev
 void frmValidate::Form_Activate() {
     if (activated_) return;
     activated_ = true;
-    Procedure here{use_.errors, "frmValidate.Form_Activate"};
+    Procedure here{services_.errors, "frmValidate.Form_Activate"};
     startAnimation(here);
     validationGood_ = true;
-    if (use_.compile.readyForValidation(project_))
+    if (services_.compile.readyForValidation(project_))
         validate(here);
     else
         validationGood_ = false;
     if (!validationGood_) {
         build_texts::Outcome outcome;
-        use_.messages.ProjectStatusText(outcome.success, outcome.warning, outcome.failure);
+        services_.messages.ProjectStatusText(outcome.success, outcome.warning, outcome.failure);
     }
     finish(here);
 }
@@ -46,9 +47,9 @@ void frmValidate::startAnimation(Procedure& here) {
     failedImg.Visible(false);
     finishedImg.Visible(true);
     aniValidate.Visible(true);
-    here([&] { aniValidate.Open(use_.install.installed("VB TOOLKIT\\BIN\\QLVALIDATE.AVI")); });
+    here([&] { aniValidate.Open(services_.install.installed("VB TOOLKIT\\BIN\\QLVALIDATE.AVI")); });
     here([&] { aniValidate.Play(Animation::kForever); });
-    here([&] { use_.platform.loop.DoEvents(); });
+    here([&] { services_.platform.loop.DoEvents(); });
 }
 
 /// The files are saved whatever was found.
@@ -68,7 +69,7 @@ void frmValidate::finish(Procedure& here) {
         finishedImg.Visible(true);
     } else {
         failedImg.Visible(true);
-        use_.messages.ShowProjectCompileErrors(project_, true);
+        services_.messages.ShowProjectCompileErrors(project_, true);
     }
     Refresh();
     AddToProgress(build_texts::kValidationFinished);
@@ -81,22 +82,22 @@ void frmValidate::Form_Unload() {
 }
 
 void frmValidate::AddToProgress(const std::string& text) {
-    Procedure here{use_.errors, "frmValidate.AddToProgress"};
+    Procedure here{services_.errors, "frmValidate.AddToProgress"};
     stsUpdate.SimpleText(text);
     stsUpdate.Refresh();
-    here([&] { use_.platform.loop.DoEvents(); });
+    here([&] { services_.platform.loop.DoEvents(); });
 }
 
 void frmValidate::ShowValidationWarning(const Project& project, const std::string& message, const std::string& fileName,
                                         std::int32_t line, std::int32_t errorNumber) {
-    use_.messages.AddProjectCompileWarning(project, message, fileName, line, errorNumber);
-    use_.messages.ShowProjectCompileErrors(project, true);
+    services_.messages.AddProjectCompileWarning(project, message, fileName, line, errorNumber);
+    services_.messages.ShowProjectCompileErrors(project, true);
 }
 
 void frmValidate::ShowValidationError(const Project& project, const std::string& message, const std::string& fileName,
                                       std::int32_t line, std::int32_t errorNumber) {
-    use_.messages.AddProjectCompileError(project, message, fileName, line, errorNumber);
-    use_.messages.ShowProjectCompileErrors(project, true);
+    services_.messages.AddProjectCompileError(project, message, fileName, line, errorNumber);
+    services_.messages.ShowProjectCompileErrors(project, true);
 }
 
 } // namespace fernwick

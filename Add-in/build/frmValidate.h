@@ -79,7 +79,7 @@ private:
                             const vbide::Member& member, const basic::Ref<vbide::VBControl>& control);
     void GenerateFormEventWarning(const Project& project, const Component& component, const vbide::Member& member);
 
-    ValidationServices use_;
+    ValidationServices services_;
     Project project_;
     QLProject qlProject_;
     std::string deviceKey_;

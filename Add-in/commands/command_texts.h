@@ -38,7 +38,7 @@ inline constexpr char kAboutTitle[] = "About Fernwick";
 inline constexpr char kProduct[] = "Quinloft Fernwick";
 inline constexpr char kVersion[] = "Version 3.5.0 (0624)";
 inline constexpr char kMaker[] = "Fernwick turns Visual Basic projects into applications for handheld devices.";
-/// Around the maker's address.
+/// Before and after the vendor's address.
 inline constexpr char kVisit[] = "Visit ";
 inline constexpr char kMoreInformation[] = " for more information.";
 

@@ -1,4 +1,4 @@
-// The menu tree.
+// Building the menu.
 #include "Add-in/commands/modMenuManagement.h"
 
 namespace fernwick {

@@ -1,18 +1,18 @@
-// Where the menu goes, and what else is looked for on the host's bars.
+// Finding the place of the menu and other controls on the host's bars.
 #include "Add-in/commands/modMenuManagement.h"
 #include <fmt/format.h>
 
 namespace fernwick {
 
 namespace {
-/// Ids of the host's own menus View and Add-Ins.
+/// Ids of the host's menus View and Add-Ins.
 constexpr int kViewMenuId = 30004;
 constexpr int kAddInsMenuId = 30038;
-/// The host's own command that saves the active project.
+/// Id of the host's command that saves the active project.
 constexpr int kSaveProjectId = 3;
 } // namespace
 
-/// The bar that the host's own menus stand on, however it is named. Nothing when there is none.
+/// Returns the bar with the host's own menus, whatever its name; Nothing if there is none.
 basic::Ref<office::CommandBar> modMenuManagement::menuBar(basic::Suppressed& quietly) {
     basic::Ref<office::CommandBar> bar;
     quietly([&] {
@@ -27,8 +27,8 @@ basic::Ref<office::CommandBar> modMenuManagement::menuBar(basic::Suppressed& qui
 modMenuManagement::Item modMenuManagement::AddSubMenu(const std::string& barName, const std::string& caption) {
     basic::Suppressed quietly;
     const auto bar = menuBar(quietly);
-    if (!bar) return tellNoMenuBar(barName, quietly.Err), nullptr;
-    quietly([&] { bar->Controls()->Item(caption)->Delete(); }); // left from an earlier run
+    if (!bar) return reportNoMenuBar(barName, quietly.Err), nullptr;
+    quietly([&] { bar->Controls()->Item(caption)->Delete(); }); // from an earlier run
 
     int before = 0;
     for (const auto& control : bar->Controls()->items())
@@ -39,7 +39,7 @@ modMenuManagement::Item modMenuManagement::AddSubMenu(const std::string& barName
     return menu;
 }
 
-void modMenuManagement::tellNoMenuBar(const std::string& barName, const basic::ErrObject& error) {
+void modMenuManagement::reportNoMenuBar(const std::string& barName, const basic::ErrObject& error) {
     using namespace fmt::literals;
     services_.user.MsgBox(fmt::format(command_texts::kNoMenu, "bar"_a = barName, "description"_a = error.Description,
                                       "number"_a = error.Number),

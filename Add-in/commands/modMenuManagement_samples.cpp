@@ -1,4 +1,4 @@
-// The samples menu: three fixed items around what the registry lists.
+// The samples menu: three fixed items, and the samples listed in the registry.
 #include "Add-in/commands/modMenuManagement.h"
 
 namespace fernwick {
@@ -26,8 +26,8 @@ void modMenuManagement::SetupDynamicSamplesMenu(const std::string& keyPath, cons
         SetupDynamicSamplesMenuHelper(below, parent, isFirst);
 }
 
-/// A key without a default value is no node of the menu, and what lies below it is not visited. The nesting of the
-/// menu follows that of the keys: popups come before the samples of their key.
+/// A key without a default value, and its subkeys, are skipped. The menu is nested like the keys; the popups of a key
+/// precede its samples.
 void modMenuManagement::SetupDynamicSamplesMenuHelper(const std::string& keyPath, const Item& parent, bool& isFirst) {
     Procedure here{services_.errors, "modMenuManagement.SetupDynamicSamplesMenuHelper"};
     const RegistryKey key{services_.registry, services_.registry.OpenKey(HKEY_LOCAL_MACHINE, keyPath, KEY_READ)};

@@ -53,7 +53,7 @@ void modMenuManagement::DisableQuinloftMenu() {
     quietlyToFirst(quietly, items_.gPackageItems, count, disable);
 }
 
-/// The top-level popup is deleted last, and what is left in it with it.
+/// The top-level popup is deleted last, with its remaining items.
 void modMenuManagement::RemoveQuinloftMenu() {
     basic::Suppressed quietly;
     const auto remove = [](const Item& item) { item->Delete(); };

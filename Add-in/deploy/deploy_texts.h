@@ -1,22 +1,20 @@
 #pragma once
-// What users read while a project or the runtime goes to a device.
+// Texts shown while a project or the runtime is sent to a device.
 #include "Add-in/build/messages/build_texts.h"
 
 namespace fernwick::deploy_texts {
 
 inline constexpr char kTitle[] = "Fernwick";
-/// Of boxes that say nothing above their text.
+/// For boxes without a title.
 inline constexpr char kNoTitle[] = "";
 
 // Before a project is sent
 inline constexpr char kNotCurrent[] = "The compiled file is not current. Would you like to compile?";
 inline constexpr char kStillDeploy[] = "This project has compile errors. Would you still like to deploy?";
 
-// While it is sent; the project's name stands in the captions' middle
-inline constexpr char kCreating[] = "Creating ";
-inline constexpr char kDevicePackage[] = " Device Package...";
-inline constexpr char kUploading[] = "Uploading ";
-inline constexpr char kUploadingEnd[] = "...";
+// While it is sent
+inline constexpr char kCreating[] = "Creating {project} Device Package...";
+inline constexpr char kUploading[] = "Uploading {project}...";
 inline constexpr char kConnectingPipe[] = "Attempting to pipe create connection...";
 inline constexpr char kGatheringList[] = "Gathering Project List...";
 inline constexpr char kScanningDependencies[] = "Scanning Project for Dependencies...";
@@ -27,19 +25,15 @@ inline constexpr char kUploadComplete[] = "Upload Complete";
 inline constexpr char kPackageMade[] =
     "The project package was successfully created and saved to the specified location.";
 
-// What belongs to it; the path follows on a line of its own
+// The files that belong to it
 inline constexpr char kNoProjectFolder[] = "ERROR - Could not find folder for project path.";
-inline constexpr char kMissingDependency[] = "ERROR: Missing Dependency File, would you like to continue?";
-inline constexpr char kMissingFont[] = "ERROR: Missing Font File, would you like to continue?";
+inline constexpr char kMissingDependency[] = "ERROR: Missing Dependency File, would you like to continue?\r\n{path}";
+inline constexpr char kMissingFont[] = "ERROR: Missing Font File, would you like to continue?\r\n{path}";
 
-// What went wrong
-/// Followed by a ProgID.
-inline constexpr char kNoPipe[] = "ERROR - Could not create ";
-inline constexpr char kContactSupport[] = ". Please contact Quinloft technical support.";
-/// Followed by source, number and description.
-inline constexpr char kErrorIn[] = "Error in ";
-/// Followed by a pipe's message and number.
-inline constexpr char kPipeError[] = "ERROR - ";
+// Failures
+inline constexpr char kNoPipe[] = "ERROR - Could not create {pipe}. Please contact Quinloft technical support.";
+inline constexpr char kErrorIn[] = "Error in {source}: ({number}) {description}";
+inline constexpr char kPipeError[] = "ERROR - {message} ({number})";
 inline constexpr char kMissingFiles[] = "Missing executable files, please compile project.";
 inline constexpr char kMissingFilesBox[] = "ERROR - Missing executable files, please compile project.";
 inline constexpr char kValidationFailedTitle[] = "Validation Failed";
@@ -49,19 +43,16 @@ inline constexpr char kUserCanceled[] = "User Canceled";
 inline constexpr char kNotDeployed[] = "Deployment did not finish due to an error.";
 inline constexpr char kNotDeployedSeeMessages[] =
     "Deployment did not finish due to an error. See the Fernwick Messages Window for details.";
-inline constexpr char kNoPackage[] = "Make project pacakge did not finish due to an error.";
+inline constexpr char kNoPackage[] = "Make project pacakge did not finish due to an error."; // sic
 inline constexpr char kNoPackageSeeMessages[] =
-    "Make project pacakge did not finish due to an error. See the Fernwick Messages Window for details.";
+    "Make project pacakge did not finish due to an error. See the Fernwick Messages Window for details."; // sic
 
-// How the messages window sums it up
+// Outcomes in the messages window
 inline constexpr char kPackageSucceeded[] = "SUCCESS - Make project package completed successfully.";
 inline constexpr char kDeploySucceeded[] = "SUCCESS - Project successfully sent to device.";
-inline constexpr char kPackageWithWarnings[] =
-    "SUCCESS with Warnings - This project can be deployed, but may not function as expected.";
-/// Also that of a package that the pipe could not make.
+/// Also for a package that the pipe could not make.
 inline constexpr char kDeployWithWarnings[] =
     "SUCCESS with Warnings - This project was deployed, but may not function as expected.";
-inline constexpr char kErrorsToFix[] = "FAILED - Errors ($ERRORNUM$ items) must be fixed to deploy this project.";
 
 // The runtime
 inline constexpr char kLoadTamarik[] = "Load Tamarik";

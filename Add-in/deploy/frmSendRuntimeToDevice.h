@@ -1,6 +1,7 @@
 #pragma once
 // Installs the Tamarik runtime on a device.
 #include "Add-in/deploy/PipeForm.h"
+#include "Add-in/deploy/runtime_run.h"
 
 namespace fernwick {
 
@@ -9,20 +10,13 @@ public:
     explicit frmSendRuntimeToDevice(const PipeServices& services);
     const char* typeName() const override { return "frmSendRuntimeToDevice"; }
 
-    /// `DeviceName` is a design target's key. Everything that goes wrong is told in boxes; LastResult says whether
-    /// the pipe told that it completed.
+    /// `DeviceName` is a design target's key. Failures are shown in boxes; LastResult returns whether the pipe reported
+    /// that it completed.
     void SendRuntimeToDevice(const std::string& DeviceName);
 
-protected:
-    void Form_Activate() override;
-
 private:
-    void fail(const basic::ErrObject& error);
-
-    void SendComplete() override;
-    void SendError(std::int32_t errorNumber, const std::string& message) override;
-    /// A runtime has no messages to keep a warning with.
-    void SendWarning(const std::string&, const std::string&, std::int32_t, std::int32_t) override {}
+    ErrorReport& errors_;
+    RuntimeRun run_;
 };
 
 } // namespace fernwick

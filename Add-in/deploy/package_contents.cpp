@@ -1,99 +1,101 @@
-// What belongs on the device, and under which names.
+#include "Add-in/deploy/package_contents.h"
+#include "Add-in/deploy/compiled_image.h"
 #include "Add-in/deploy/deploy_texts.h"
-#include "Add-in/deploy/frmSendToDevice.h"
 #include "Basic/text.h"
+#include <fmt/format.h>
 
 namespace fernwick {
 
 namespace {
 
-/// Lists from 0 on have at least one element.
+/// A list that begins at 0 has at least one element.
 void requireElements(std::size_t count) {
     if (count == 0) throw basic::RuntimeError(basic::kSubscriptOutOfRange);
 }
 
 } // namespace
 
-bool frmSendToDevice::CreateResourceList(const std::string& VBProjectName, const std::string& ProjectPath,
+bool PackageContents::CreateResourceList(const std::string& VBProjectName, const std::string& ProjectPath,
                                          Names& ProjectFileList, Names& ProjectResourceList,
                                          const tResourceList& ProjectDependencies) {
-    Procedure here{use_.errors, location("CreateResourceList")};
-    if (here.test([&] { return !use_.platform.files.FolderExists(ProjectPath); })) {
+    Procedure here{errors_, "frmSendToDevice.CreateResourceList"};
+    if (here.test([&] { return !files_.FolderExists(ProjectPath); })) {
         here([&] { user_.MsgBox(deploy_texts::kNoProjectFolder, vbCritical, deploy_texts::kTitle); });
         return false;
     }
-    Package package{ProjectPath, {}, {}};
-    addCompilerFiles(here, package, VBProjectName);
-    package.fontsFolder = here.value([&] { return use_.install.GetQuinloftFontsDir(); });
-    if (!addDependencies(here, package, ProjectDependencies)) return false;
-    if (!addTavletFiles(here, package) || !addFonts(here, package)) return false;
-    const auto components = here.value([&] { return workingProject_->GetComponentDependencies(); });
+    projectFolder_ = ProjectPath;
+    addCompilerFiles(here, VBProjectName);
+    fontsFolder_ = here.value([&] { return install_.GetQuinloftFontsDir(); });
+    if (!addDependencies(here, ProjectDependencies)) return false;
+    if (!addTavletFiles(here) || !addFonts(here)) return false;
+    const auto components = here.value([&] { return project_->GetComponentDependencies(); });
 
-    ProjectFileList = package.paths.items();
+    ProjectFileList = paths_.items();
     ProjectResourceList.clear();
-    for (const auto& path : ProjectFileList) ProjectResourceList.push_back(nameOnDevice(here, package, path));
+    for (const auto& path : ProjectFileList) ProjectResourceList.push_back(nameOnDevice(here, path));
     ProjectFileList.insert(ProjectFileList.end(), components.begin(), components.end());
     ProjectResourceList.resize(ProjectFileList.size(), qlpipe::kReferenceMarker);
     here([&] { requireElements(ProjectFileList.size()); });
     return true;
 }
 
-/// In the folder itself only.
-void frmSendToDevice::addCompilerFiles(Procedure& here, Package& package, const std::string& projectName) {
-    for (const auto& name : here.value([&] { return use_.platform.files.Files(package.projectFolder); }))
-        if (IsCompilerFile(name, projectName)) package.add(inProject(here, package, name));
+void PackageContents::add(const std::string& path) {
+    if (!paths_.contains(path)) paths_.Add(path, path);
 }
 
-bool frmSendToDevice::addDependencies(Procedure& here, Package& package, const tResourceList& dependencies) {
+/// Without those in subfolders.
+void PackageContents::addCompilerFiles(Procedure& here, const std::string& projectName) {
+    for (const auto& name : here.value([&] { return files_.Files(projectFolder_); }))
+        if (IsCompilerFile(errors_, name, projectName)) add(inProject(here, name));
+}
+
+bool PackageContents::addDependencies(Procedure& here, const tResourceList& dependencies) {
     for (const auto& entry : dependencies) {
         const bool isFont = basic::equalNoCase(entry.FileType, kFontType);
-        const auto path = isFont ? inFonts(here, package, entry.FileName) : inProject(here, package, entry.FileName);
-        if (!addOrAsk(here, package, path, deploy_texts::kMissingDependency)) return false;
+        const auto path = isFont ? inFonts(here, entry.FileName) : inProject(here, entry.FileName);
+        if (!addOrAsk(here, path, deploy_texts::kMissingDependency)) return false;
     }
     return true;
 }
 
-bool frmSendToDevice::addTavletFiles(Procedure& here, Package& package) {
-    for (const auto& name : here.value([&] { return workingProject_->GetTavletFileDependencies(); }))
-        if (!addOrAsk(here, package, inProject(here, package, name), deploy_texts::kMissingDependency)) return false;
+bool PackageContents::addTavletFiles(Procedure& here) {
+    for (const auto& name : here.value([&] { return project_->GetTavletFileDependencies(); }))
+        if (!addOrAsk(here, inProject(here, name), deploy_texts::kMissingDependency)) return false;
     return true;
 }
 
-bool frmSendToDevice::addFonts(Procedure& here, Package& package) {
-    for (const auto& name : here.value([&] { return workingProject_->GetFontDependencies(); }))
-        if (!addOrAsk(here, package, inFonts(here, package, name), deploy_texts::kMissingFont)) return false;
+bool PackageContents::addFonts(Procedure& here) {
+    for (const auto& name : here.value([&] { return project_->GetFontDependencies(); }))
+        if (!addOrAsk(here, inFonts(here, name), deploy_texts::kMissingFont)) return false;
     return true;
 }
 
-/// A file that isn't there is left out where the user agrees. False where he doesn't.
-bool frmSendToDevice::addOrAsk(Procedure& here, Package& package, const std::string& path, const char* question) {
-    const auto& files = use_.platform.files;
-    if (here.test([&] { return files.FileExists(path); })) {
-        here([&] { package.add(files.Canonical(path)); });
+/// A missing file is left out if the user agrees; otherwise the result is false.
+bool PackageContents::addOrAsk(Procedure& here, const std::string& path, const char* question) {
+    if (here.test([&] { return files_.FileExists(path); })) {
+        here([&] { add(files_.Canonical(path)); });
         return true;
     }
-    const auto text = std::string(question) + "\r\n" + path;
+    const auto text = fmt::format(fmt::runtime(question), fmt::arg("path", path));
     return !here.test(
         [&] { return user_.ask(Question::MissingFile, text, vbYesNo + vbExclamation, deploy_texts::kTitle) != vbYes; });
 }
 
-std::string frmSendToDevice::inProject(Procedure& here, const Package& package, const std::string& name) {
-    return here.value([&] { return use_.platform.files.BuildPath(package.projectFolder, name); });
+std::string PackageContents::inProject(Procedure& here, const std::string& name) {
+    return here.value([&] { return files_.BuildPath(projectFolder_, name); });
 }
 
-/// Of the installation, else of the project.
-std::string frmSendToDevice::inFonts(Procedure& here, const Package& package, const std::string& name) {
-    const auto& files = use_.platform.files;
-    if (package.fontsFolder.empty()) return inProject(here, package, name);
-    const auto path = here.value([&] { return files.BuildPath(package.fontsFolder, name); });
-    return here.test([&] { return !files.FileExists(path); }) ? inProject(here, package, name) : path;
+/// In the installation's fonts folder, else in the project's folder.
+std::string PackageContents::inFonts(Procedure& here, const std::string& name) {
+    if (fontsFolder_.empty()) return inProject(here, name);
+    const auto path = here.value([&] { return files_.BuildPath(fontsFolder_, name); });
+    return here.test([&] { return !files_.FileExists(path); }) ? inProject(here, name) : path;
 }
 
 /// Devices look for fonts by their bare names.
-std::string frmSendToDevice::nameOnDevice(Procedure& here, const Package& package, const std::string& path) {
-    if (basic::UCase(basic::Right(path, 3)) == kFontType)
-        return here.value([&] { return use_.platform.files.GetFileName(path); });
-    return deploy_.dependencies.CreateRelativePath(package.projectFolder, path);
+std::string PackageContents::nameOnDevice(Procedure& here, const std::string& path) {
+    if (basic::UCase(basic::Right(path, 3)) == kFontType) return here.value([&] { return files_.GetFileName(path); });
+    return dependencies_.CreateRelativePath(projectFolder_, path);
 }
 
 } // namespace fernwick

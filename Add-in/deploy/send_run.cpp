@@ -1,54 +1,61 @@
-// The run: from the pipe's creation to the end of its call.
+#include "Add-in/deploy/send_run.h"
+#include "Add-in/deploy/PipeForm.h"
 #include "Add-in/deploy/deploy_texts.h"
-#include "Add-in/deploy/frmSendToDevice.h"
+#include "Add-in/deploy/package_contents.h"
 
 namespace fernwick {
 
-/// An error before the pipe stands ends in the failure that all share. From then on there is no trap: what the pipe
-/// lets out ends the form, and the driver reports it.
-void frmSendToDevice::Form_Activate() {
-    if (runStarted_) return;
+void SendRun::begin(const QLProject& project, bool makePackage, const std::string& deviceName) {
+    workingProject_ = project;
+    makePackageMode_ = makePackage;
+    deviceName_ = deviceName;
+}
+
+/// Errors before the pipe exists go to the general failure. From then on there is no trap: an error that leaves the pipe
+/// ends the form, and the driver reports it.
+void SendRun::run() {
     const char* animation = makePackageMode_ ? "VB TOOLKIT\\BIN\\QLCOMPILE.AVI" : "VB TOOLKIT\\BIN\\QLUPLOAD.AVI";
-    auto error = basic::attempt([&] { beginRun(animation, deploy_texts::kConnectingPipe); });
+    auto error = basic::attempt([&] { showBeginning(animation, deploy_texts::kConnectingPipe); });
     if (error.Number == 0) error = createPipe(pipeClassName_);
     if (error.Number != 0) return generalFailure(error);
     send();
 }
 
-void frmSendToDevice::send() {
-    AddToProgress(deploy_texts::kGatheringList);
+void SendRun::send() {
+    dialog_.AddToProgress(deploy_texts::kGatheringList);
     pipe_->SetEventSink(*this);
-    AddToProgress(deploy_texts::kScanningDependencies);
+    dialog_.AddToProgress(deploy_texts::kScanningDependencies);
     const auto dependencies = readDependencies();
-    const std::string path = use_.platform.files.WithSeparator(workingProject_->ProjectPath());
-    const std::string name = deploy_.projects.gCurrentProject->Name();
+    const std::string path = pipeServices_.platform.files.WithSeparator(workingProject_->ProjectPath());
+    const std::string name = services_.projects.gCurrentProject->Name();
 
-    Names files, resources;
-    if (!CreateResourceList(name, path, files, resources, dependencies)) return missingFiles();
+    std::vector<std::string> files, resources;
+    PackageContents contents{pipeServices_, services_.dependencies, workingProject_};
+    if (!contents.CreateResourceList(name, path, files, resources, dependencies)) return missingFiles();
     if (!ValidateForDevicePipe({files, resources})) return validationFailed();
     tempIconFile_ = workingProject_->GetTempIcon();
     transfer(path, {files, resources});
     commonEnd();
 }
 
-/// The run goes on with what the list holds, whatever the user answers.
-tResourceList frmSendToDevice::readDependencies() {
+/// The run continues with whatever the list holds.
+tResourceList SendRun::readDependencies() {
     const auto project = workingProject_->VBProject();
-    const auto dependencies = deploy_.dependencies.ReadProjectDependencies(project);
-    if (deploy_.dependencies.ValidateDependencyList(project, dependencies)) return dependencies;
+    const auto dependencies = services_.dependencies.ReadProjectDependencies(project);
+    if (services_.dependencies.ValidateDependencyList(project, dependencies)) return dependencies;
     if (user_.ask(Question::EditDependencies, deploy_texts::kInvalidDependencies, vbYesNo + vbQuestion,
                   deploy_texts::kTitle) != vbYes)
         return dependencies;
     user_.SetCursor(vbHourglass);
-    deploy_.settings.ShowQuinloftSettings(project, "Dependencies", false);
-    return deploy_.dependencies.ReadProjectDependencies(project);
+    services_.settings.ShowQuinloftSettings(project, "Dependencies", false);
+    return services_.dependencies.ReadProjectDependencies(project);
 }
 
-/// A pipe without a validator takes nothing.
-bool frmSendToDevice::ValidateForDevicePipe(const qlpipe::ProjectFiles& files) {
+/// A pipe without a validator accepts nothing.
+bool SendRun::ValidateForDevicePipe(const qlpipe::ProjectFiles& files) {
     basic::Ref<qlpipe::IQLPipeValidation> validator;
     const auto created = basic::attempt([&] {
-        const auto object = use_.platform.classes.CreateObject(pipeClassName_ + ".Validation");
+        const auto object = pipeServices_.platform.classes.CreateObject(pipeClassName_ + ".Validation");
         validator = basic::cast<qlpipe::IQLPipeValidation>(object);
     });
     if (created.Number != 0) return false;
@@ -59,14 +66,14 @@ bool frmSendToDevice::ValidateForDevicePipe(const qlpipe::ProjectFiles& files) {
     return accepted;
 }
 
-void frmSendToDevice::transfer(const std::string& projectPath, const qlpipe::ProjectFiles& files) {
+void SendRun::transfer(const std::string& projectPath, const qlpipe::ProjectFiles& files) {
     if (makePackageMode_)
         makePackage(projectPath, files);
     else
         sendProject(projectPath, files);
 }
 
-void frmSendToDevice::makePackage(const std::string& projectPath, const qlpipe::ProjectFiles& files) {
+void SendRun::makePackage(const std::string& projectPath, const qlpipe::ProjectFiles& files) {
     std::string saveLocation = projectPath;
     if (saveLocation.empty()) return userCanceled();
     const auto project = workingProject_->VBProject();
@@ -77,7 +84,7 @@ void frmSendToDevice::makePackage(const std::string& projectPath, const qlpipe::
     user_.MsgBox(deploy_texts::kPackageMade, vbInformation, deploy_texts::kNoTitle);
 }
 
-void frmSendToDevice::sendProject(const std::string& projectPath, const qlpipe::ProjectFiles& files) {
+void SendRun::sendProject(const std::string& projectPath, const qlpipe::ProjectFiles& files) {
     const auto project = workingProject_->VBProject();
     const auto info = application(projectPath);
     lastResult_ = false;
@@ -85,7 +92,7 @@ void frmSendToDevice::sendProject(const std::string& projectPath, const qlpipe::
     if (!*lastResult_) deploymentFailed();
 }
 
-qlpipe::ApplicationInfo frmSendToDevice::application(const std::string& projectPath) const {
+qlpipe::ApplicationInfo SendRun::application(const std::string& projectPath) const {
     return {.ProjectPath = projectPath,
             .ProjectName = workingProject_->ProjectName(),
             .TempIconFile = tempIconFile_,
@@ -93,10 +100,16 @@ qlpipe::ApplicationInfo frmSendToDevice::application(const std::string& projectP
             .Version = workingProject_->version()};
 }
 
-void frmSendToDevice::commonEnd() {
+void SendRun::release() {
     (void)basic::attempt([&] { deleteTempIcon(); });
-    MousePointer(vbDefault);
-    Unload();
+    workingProject_ = nullptr;
+    PipeRun::release();
+}
+
+void SendRun::commonEnd() {
+    (void)basic::attempt([&] { deleteTempIcon(); });
+    dialog_.MousePointer(vbDefault);
+    dialog_.Unload();
 }
 
 } // namespace fernwick

@@ -19,7 +19,7 @@ void ProjectSetup::SetupProject(const basic::Ref<clsQLProject>& project) {
         } else {
             switchOff(here);
             if (services_.devices.GetNumDesignTargets() == 0)
-                services_.removal.RemoveProject(project->VBProject(), true, ""); // nothing here can serve it
+                services_.removal.RemoveProject(project->VBProject(), true, ""); // there is no device for it
         }
     }
     here([&] { services_.user.SetCursor(vbArrow); });
@@ -28,7 +28,7 @@ void ProjectSetup::SetupProject(const basic::Ref<clsQLProject>& project) {
 void ProjectSetup::leaveActiveProject(Procedure& here) {
     const auto active = services_.projects.gCurrentProject;
     if (!active || !here.test([&] { return services_.addIn.gVBInstance->VBProjects()->Count() >= 2; })) return;
-    const auto left = services_.projects.FindQLProject(active); // it may be the one that has just been closed
+    const auto left = services_.projects.FindQLProject(active); // it may have just been closed
     if (left && left->IsQuinloftProject()) services_.messages.SaveCompileErrorWindowState(active);
 }
 

@@ -1,5 +1,5 @@
 #pragma once
-// What happens when a project becomes the active one, and when it makes way for the project manager.
+// Sets up the project that becomes active, and closes it for the project manager.
 #include "Add-in/build/messages/modCompileErrorManagement.h"
 #include "Add-in/commands/modMenuManagement.h"
 #include "Add-in/commands/modToolbarManagement.h"
@@ -33,10 +33,10 @@ class ProjectSetup {
 public:
     explicit ProjectSetup(const SetupServices& services) : services_(services) {}
 
-    /// Makes the project the active one: gives it a device where it has none, and switches the interface and the
-    /// messages to it.
+    /// Makes the project the active one: gives it a device if it has none, and updates the menu, the toolbars and the
+    /// messages.
     void SetupProject(const basic::Ref<clsQLProject>& project);
-    /// Closes the current project and shows the project manager; not when saving fails or is cancelled.
+    /// Closes the current project and shows the project manager, unless saving fails or is cancelled.
     void StartProjectManager();
 
 private:

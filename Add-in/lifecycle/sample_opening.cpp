@@ -5,7 +5,7 @@ namespace fernwick {
 
 void SampleOpening::open(const clsSampleMenuItem& sample) {
     Procedure here{services_.errors, "clsSampleMenuItem.myOfficeEvents_Click"};
-    const std::string path = sample.fullPath; // the menu may be built again meanwhile
+    const std::string path = sample.fullPath; // the menu may be rebuilt in the meantime
     if (path.empty())
         return (void)here([&] {
             services_.user.MsgBox(lifecycle_texts::kSampleError + services_.app.SupportWebAddress, vbCritical,
@@ -28,7 +28,7 @@ bool SampleOpening::isOpen(Procedure& here, const std::string& path) {
         [&] { return services_.files.SamePath(services_.addIn.gVBInstance->ActiveVBProject()->FileName(), path); });
 }
 
-/// What it has of changes by now may be lost.
+/// Changes that are still unsaved are discarded.
 void SampleOpening::closeActiveProject(Procedure& here) {
     const basic::Ref<vbide::VBE> host = services_.addIn.gVBInstance;
     const auto project = here.value([&] { return host->ActiveVBProject(); });

@@ -1,5 +1,5 @@
 #pragma once
-// Opens the sample that a user picked from the samples menu.
+// Opens the sample that the user chose from the samples menu.
 #include "Add-in/commands/command_table.h"
 #include "Add-in/project/modSaveProject.h"
 
@@ -21,8 +21,8 @@ class SampleOpening {
 public:
     explicit SampleOpening(const SampleServices& services) : services_(services) {}
 
-    /// The sample takes the place of what is open, which is saved as its user wants. A sample that is open already
-    /// stays, and so does a project whose saving fails or is cancelled.
+    /// Replaces the open projects by the sample; the user decides whether to save. A sample that is already open stays
+    /// open, as does a project whose saving fails or is cancelled.
     void open(const clsSampleMenuItem& sample);
 
 private:

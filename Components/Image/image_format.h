@@ -1,5 +1,6 @@
 #pragma once
 // The constants of the image container, described in docs/qlx-format.md.
+#include <cstddef>
 #include <cstdint>
 #include <string_view>
 

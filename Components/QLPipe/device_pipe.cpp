@@ -55,7 +55,7 @@ std::optional<Bundle> DevicePipe::checkedBundle(const std::string& deviceName, c
 void DevicePipe::send(const std::string& deviceName, const basic::Ref<vbide::VBProject>& project,
                       const Bundle& bundle) {
     Progress progress{sink_, bundle.bytes()};
-    progress.says(fillIn(pipe_texts::kConnecting, {{"device", deviceName}}));
+    progress.setStatus(fillIn(pipe_texts::kConnecting, {{"device", deviceName}}));
     const auto device = family_.open(services_, deviceName, project);
     const bool lacksRuntime = !bundle.isRuntime && !hasRuntime(*device);
     install(*device, bundle, progress);

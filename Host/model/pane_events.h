@@ -1,5 +1,6 @@
 #pragma once
 // Events of code panes and designers, for front ends that draw them.
+#include "Add-in/platform/events.h"
 #include "Add-in/platform/host_project.h"
 
 namespace host {

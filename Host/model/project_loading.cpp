@@ -43,7 +43,7 @@ void Project::loadMember(const ProjectFile::Member& member, PathLookup& lookup, 
         const auto component = readComponent(kind, path, listedName);
         if (!components_->insert(component))
             return problem(path_, line,
-                           fmt::format("{}: another component is named '{}' too", value, component->Name()));
+                           fmt::format("{}: another component is also named '{}'", value, component->Name()));
         component->member(member.place);
         if (!component->source().isWhole()) problem(path, 0, fmt::format("{}: ends inside its designer part", path));
     } catch (const basic::RuntimeError& error) { problem(path_, line, error.Description); }

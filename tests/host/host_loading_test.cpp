@@ -43,7 +43,7 @@ TEST(HostLoading, AMemberListedTwiceCountsOnce) {
                                        .member("Module=b; other.bas", "other.bas", test::moduleText("a")));
     EXPECT_EQ(project->VBComponents()->Count(), 1);
     EXPECT_EQ(problemTexts(host), "Hello.vbp:3: A.BAS: is listed twice\n"
-                                  "Hello.vbp:4: other.bas: another component is named 'a' too\n");
+                                  "Hello.vbp:4: other.bas: another component is also named 'a'\n");
 }
 
 TEST(HostLoading, AFolderInsteadOfAMemberIsReported) {

@@ -123,19 +123,19 @@ TEST_F(ClassLookup, ReadsClassesWithTheMembersOfTheirGroups) {
 TEST_F(ClassLookup, InvalidDescriptionsAreReportedWithTheirLine) {
     const auto file = (folder / "lib.toml").string();
     EXPECT_EQ(errorReading("name = 'Lib'\nguid = 5\n"), 321);
-    EXPECT_EQ(description, file + ":2: \"guid\" is a text");
+    EXPECT_EQ(description, file + ":2: \"guid\" must be a text");
     EXPECT_EQ(errorReading("guid = '{1}'\n"), 321);
     EXPECT_EQ(description, file + ":1: \"name\" is missing");
     for (const auto* version : {"2", "2.", "a.b", "2.1x", "2.99999999999"}) {
         EXPECT_EQ(errorReading("name = 'L'\nguid = 'g'\nversion = '" + std::string(version) + "'\n"), 321) << version;
-        EXPECT_EQ(description, file + ":1: \"version\" is two numbers with a point");
+        EXPECT_EQ(description, file + ":1: \"version\" must be two numbers separated by a point");
     }
     EXPECT_EQ(errorReading("name = 'Lib'\nname = 'twice'\n"), 321);
     EXPECT_EQ(description.rfind(file + ":2: ", 0), 0u) << description;
     EXPECT_EQ(errorReading(kHead + "modules = 3\n"), 321);
-    EXPECT_EQ(description, file + ":5: \"modules\" is a list");
+    EXPECT_EQ(description, file + ":5: \"modules\" must be a list");
     EXPECT_EQ(errorReading(kHead + "modules = [3]\n"), 321);
-    EXPECT_EQ(description, file + ":5: \"modules\" is a list of tables");
+    EXPECT_EQ(description, file + ":5: \"modules\" must be a list of tables");
     EXPECT_EQ(errorReading(kHead + "classes = 'absent'\n"), 76);
     folder.write("c/x.toml", "name = 'X'\nprogid = 'L.X'\nclsid = '{2}'\ngroups = ['none']\n");
     EXPECT_EQ(errorReading(kHead + "classes = 'c'\n"), 321);

@@ -346,9 +346,11 @@ TEST_F(Journals, ADamagedJournalIsReportedOnceAndRenamed) {
     const auto project = twoModules().writeTo(folder);
     const auto whole = host::encodeJournal(entryOf("' kept\r\n"));
     const std::vector<std::pair<std::string, std::string>> kDamages{
-        {"", "is no journal of this version"},   {std::string(1000, '\0'), "is no journal of this version"},
-        {whole.substr(0, 40), "lacks its line"}, {whole.substr(0, whole.size() - 3), "ends after"},
-        {whole + "more", "check sum"},
+        {"", "is not a journal of this version"},
+        {std::string(1000, '\0'), "is not a journal of this version"},
+        {whole.substr(0, 40), "lacks its line"},
+        {whole.substr(0, whole.size() - 3), "ends after"},
+        {whole + "more", "checksum"},
     };
     for (const auto& [bytes, why] : kDamages) {
         folder.write("state/fernwick/journal/gone/0001.journal", bytes);

@@ -25,7 +25,7 @@ public:
     using Project = basic::Ref<vbide::VBProject>;
     using QLProject = basic::Ref<clsQLProject>;
 
-    explicit modDependencyManagement(const DependencyServices& services) : use_(services) {}
+    explicit modDependencyManagement(const DependencyServices& services) : services_(services) {}
 
     // The list, wherever it is kept.
     static void ClearDependencyList(tResourceList& list);
@@ -85,7 +85,7 @@ private:
 
     int box(Procedure& here, const std::string& text, int buttons);
 
-    DependencyServices use_;
+    DependencyServices services_;
     /// Of the last scan. Keys of a collection: letter case counts for nothing.
     basic::Collection<std::string> knownMissingFonts_;
 };

@@ -20,11 +20,14 @@ inline constexpr char kNoHelpPage[] =
     "There is no help page on the message {number}. The list of all messages that have "
     "one opens instead.";
 
-/// The three outcomes of a compile or validation, for ProjectStatusText, which fills in the numbers.
+// The outcomes of a compile or validation
+inline constexpr char kSucceeded[] = "SUCCESS - Compile and validate completed successfully.";
+inline constexpr char kSucceededWithWarnings[] =
+    "SUCCESS with Warnings - This project can be deployed, but may not function as expected.";
+inline constexpr char kErrorsToFix[] = "FAILED - Errors ($ERRORNUM$ items) must be fixed to deploy this project.";
+/// The arguments of ProjectStatusText, which fills in the numbers.
 struct Outcome {
-    std::string success = "SUCCESS - Compile and validate completed successfully.";
-    std::string warning = "SUCCESS with Warnings - This project can be deployed, but may not function as expected.";
-    std::string failure = "FAILED - Errors ($ERRORNUM$ items) must be fixed to deploy this project.";
+    std::string success = kSucceeded, warning = kSucceededWithWarnings, failure = kErrorsToFix;
 };
 
 // Before a compile

@@ -69,7 +69,6 @@ public:
 private:
     void addMessage(const Project& project, const std::string& message, const std::string& fileName, std::int32_t line,
                     int type, std::int32_t errorNumber);
-    void showStored(const Project& project, const std::string& value, int& type);
 
     AddIn& addIn_;
     ErrorReport& errors_;

@@ -18,7 +18,7 @@ std::string withoutLineEnd(std::string message) {
 } // namespace
 
 udocCompileMsgs::udocCompileMsgs(const CompileMsgsServices& services)
-    : use_(services), grid_(services.platform.screen) {
+    : services_(services), grid_(services.platform.screen) {
     grid_.SetGridSizes(0, 0, 0);
 }
 
@@ -29,8 +29,8 @@ void udocCompileMsgs::SetStatusLabel(const std::string& newStatusLabel) {
 
 void udocCompileMsgs::add(const std::string& aFileName, const std::string& aFiletitle, std::int32_t aLineNumber,
                           const std::string& aMessage, int MsgType, std::int32_t errno_, bool AddToTop) {
-    if (!use_) return;
-    Procedure here{use_->errors, "udocCompileMsgs.add"};
+    if (!services_) return;
+    Procedure here{services_->errors, "udocCompileMsgs.add"};
     const auto row = grid_.insert(
         {aFileName, "", aFiletitle, numberCell(aLineNumber), numberCell(errno_), withoutLineEnd(aMessage)}, AddToTop);
     row->type = MsgType == ERROR_MSG || MsgType == WARNING_MSG ? MsgType : 0;
@@ -41,15 +41,15 @@ void udocCompileMsgs::add(const std::string& aFileName, const std::string& aFile
 }
 
 std::shared_ptr<const std::string> udocCompileMsgs::pictureOf(int number) {
-    if (!use_) throw basic::RuntimeError(basic::kObjectVariableNotSet);
+    if (!services_) throw basic::RuntimeError(basic::kObjectVariableNotSet);
     auto& picture = pictures_[number];
-    if (!picture) picture = std::make_shared<const std::string>(use_->platform.resources.LoadBitmap(number));
+    if (!picture) picture = std::make_shared<const std::string>(services_->platform.resources.LoadBitmap(number));
     return picture;
 }
 
 void udocCompileMsgs::clearMessages() {
-    if (!use_) return;
-    Procedure here{use_->errors, "udocCompileMsgs.clearMessages"};
+    if (!services_) return;
+    Procedure here{services_->errors, "udocCompileMsgs.clearMessages"};
     grid_.clear();
     selectedRow_ = 0;
     here([&] { cleared.raise(); });
@@ -64,8 +64,8 @@ void udocCompileMsgs::gotoFirstError() {
 }
 
 void udocCompileMsgs::gotoMessage(std::int32_t MsgIndex) {
-    if (!use_) return;
-    Procedure here{use_->errors, "udocCompileMsgs.gotoMessage"};
+    if (!services_) return;
+    Procedure here{services_->errors, "udocCompileMsgs.gotoMessage"};
     if (MsgIndex > MessageGrid::kFixedRows + rowCount()) return;
     here([&] {
         select(MsgIndex);

@@ -86,7 +86,7 @@ public:
     void drawWith(const DeviceContext* context);
 
     /// The add-in goes while the host still has the window: the rows stay, and lead nowhere.
-    void letGo() { use_.reset(); }
+    void letGo() { services_.reset(); }
 
 private:
     using Cells = std::array<std::string, MessageGrid::kColumns>;
@@ -100,7 +100,7 @@ private:
     void box(const std::string& text, int icon);
 
     /// Nothing when the add-in is gone.
-    std::optional<CompileMsgsServices> use_;
+    std::optional<CompileMsgsServices> services_;
     MessageGrid grid_;
     std::int32_t documentWidth_ = 0, documentHeight_ = 0, gridTop_ = 0;
     StatusSizes statusSizes_;

@@ -1,5 +1,5 @@
 #pragma once
-// The add-in's entry object: what the host calls, and every event that the add-in listens to.
+// The add-in's entry object: the operations that the host calls, and handlers for all events.
 #include "Add-in/commands/command_table.h"
 #include "Add-in/commands/frmAbout.h"
 #include "Add-in/commands/frmGettingStarted.h"
@@ -194,7 +194,7 @@ public:
         on(&vbide::VBProjectsEvents::ItemRemoved, &Connect::ProjEventsHandler_ItemRemoved),
         on(&vbide::VBProjectsEvents::ItemRenamed, &Connect::ProjEventsHandler_ItemRenamed),
         on(&vbide::VBProjectsEvents::ItemActivated, &Connect::ProjEventsHandler_ItemActivated)};
-    // One project: that which was assigned last
+    // One project: the last one assigned
     WithEvents<vbide::VBComponentsEvents> CompsEventsHandler{
         this, on(&vbide::VBComponentsEvents::ItemAdded, &Connect::CompsEventsHandler_ItemAdded),
         on(&vbide::VBComponentsEvents::ItemRenamed, &Connect::CompsEventsHandler_ItemRenamed),
@@ -204,7 +204,7 @@ public:
         this, on(&vbide::ReferencesEvents::ItemAdded, &Connect::RefEventsHandler_ItemAdded)};
     WithEvents<vbide::FileControlEvents> FileControlHandler{
         this, on(&vbide::FileControlEvents::RequestWriteFile, &Connect::FileControlHandler_RequestWriteFile)};
-    // One form designer: that which was assigned last
+    // One form designer: the last one assigned
     WithEvents<vbide::VBControlsEvents> ControlsEventsHandler{this};
     // Build
     WithEvents<vbide::VBBuildEvents> BuildEventsHandler{
@@ -214,15 +214,15 @@ public:
     WithEvents<vbide::FileControlEvents> GlobalFileControlHandler{
         this, on(&vbide::FileControlEvents::BeforeLoadFile, &Connect::GlobalFileControlHandler_BeforeLoadFile)};
 
-    /// The resource editor was taken down at the start. Never cleared.
+    /// Whether the resource editor was disconnected at the start. Never reset.
     bool ResEditWasConnected = false;
     /// Nanoseconds since 1970.
     std::int64_t LastControlEventTime = 0;
-    /// A template project is queued for its reload, and has not arrived yet.
+    /// A template project is queued for reloading and has not been added yet.
     bool TemplateReloadPending = false;
-    /// A component is being replaced by its template, which must not be replaced in its turn.
+    /// A component is being replaced by its template, which must not be replaced itself.
     bool ComponentAddGuard = false;
-    /// The form that was selected last.
+    /// The form selected last.
     basic::Ref<vbide::VBComponent> SelectedForm;
 
 private:
@@ -234,9 +234,9 @@ private:
     std::array<Command, kDeviceSlots> slots(void (Connect::*clicked)(const Item& item));
     void buildInterface(Procedure& here, const Host& VBInst, const basic::Ref<vbide::AddIn>& AddInInst);
     void buildMenu(Procedure& here, const Host& VBInst, const basic::Ref<vbide::AddIn>& AddInInst);
-    void meetSiblings(Procedure& here, const Host& VBInst);
+    void connectSiblings(Procedure& here, const Host& VBInst);
     void failStart(Procedure& here, const char* step, const basic::Ref<vbide::AddIn>& AddInInst);
-    void takeUpActiveProject(Procedure& here, const Host& VBInst);
+    void adoptActiveProject(Procedure& here, const Host& VBInst);
     void watchSelectedForm(Procedure& here, const Host& VBInst);
     void watchProject(Procedure& here, const Project& project);
     void watchDesigner(const Component& form);
@@ -256,17 +256,17 @@ private:
     void CompileErrorWindowHandler_Click();
     void QuinloftSettingsHandler_Click();
     basic::Ref<clsQLProject> activeProject();
-    // Commands on one device, which the item names. An error goes to the host.
+    // Commands for one device, taken from the item. Errors go to the host.
     void DeployDeviceHandler(const Item& item);
     void MakePackageHandler(const Item& item);
     void InstallVMForDevice(const Item& item);
-    // Commands on My Devices. An error goes to the host.
+    // Commands for My Devices. Errors go to the host.
     void DeployAllDevices_Click();
     void MakePackageAllDevices_Click();
     void InstallVMAllDevices_Click();
     bool hasMyDevices();
     void toMyDevices(const std::function<void(const std::string& device)>& act);
-    // Commands that lead elsewhere
+    // Other commands
     void ProjectManagerHandler_Click() { services_.features.notInThisBuild(); }
     void ZoomWindowHandler_Click();
     void DownloadVMHandler_Click();
@@ -279,14 +279,14 @@ private:
     void SampleOpenSampleDirHandler_Click();
     void box(const char* text, int icon);
 
-    // Projects come and go
+    // Projects are added, removed, renamed and activated
     void ProjEventsHandler_ItemAdded(Project VBProject);
     void ProjEventsHandler_ItemRemoved(Project VBProject);
     void ProjEventsHandler_ItemRenamed(Project VBProject, const std::string& OldName);
     void ProjEventsHandler_ItemActivated(Project VBProject);
     void watchAddedProject(Procedure& here);
     void fitTemplate(Procedure& here, const QLProject& project);
-    void takeUpReloaded(Procedure& here, const QLProject& project);
+    void adoptReloaded(Procedure& here, const QLProject& project);
     void addFirstForm(Procedure& here, const QLProject& project);
     void refuseDevice(Procedure& here, const QLProject& project, const std::string& device);
     void closeAdded(Procedure& here, const Project& project);

@@ -1,16 +1,16 @@
-// What the commands do that work on projects and devices.
+// Commands that act on projects and devices.
 #include "Add-in/core/connect/Connect.h"
 #include "Add-in/core/connect/connect_texts.h"
 
 namespace fernwick {
 
 namespace {
-/// No page has this name: the dialog chooses the page itself.
+/// Not the name of a page, so that the dialog chooses the page.
 constexpr char kAnyPage[] = "INVALID DIALOG NAME";
 constexpr char kMyDevicesPage[] = "My Devices";
 } // namespace
 
-/// Nothing, after a report, where the active project is not listed.
+/// Returns Nothing, after a report, if the active project is not listed.
 basic::Ref<clsQLProject> Connect::activeProject() {
     return services_.projects.GetQLProject(services_.addIn.gVBInstance->ActiveVBProject());
 }
@@ -20,7 +20,7 @@ void Connect::CompileProjectHandler_Click() {
     here([&] { services_.compile.CompileProject(services_.addIn.gVBInstance->ActiveVBProject()); });
 }
 
-/// To the project's own design target, without any choice.
+/// Deploys to the project's own design target without asking.
 void Connect::ToolDeployProjectHandler_Click() {
     Procedure here{services_.errors, "Connect.ToolDeployProjectHandler_Click"};
     const auto project = here.value([&] { return activeProject(); });
@@ -32,7 +32,7 @@ void Connect::CompileErrorWindowHandler_Click() {
     here([&] { services_.messages.ShowProjectCompileErrors(services_.addIn.gVBInstance->ActiveVBProject(), false); });
 }
 
-/// Reports come under the name that the command once had.
+/// Errors are reported under the command's former name.
 void Connect::QuinloftSettingsHandler_Click() {
     Procedure here{services_.errors, "Connect.ProjectPropertiesHandler_Click"};
     here([&] { services_.user.SetCursor(vbHourglass); });
@@ -69,7 +69,7 @@ void Connect::InstallVMAllDevices_Click() {
     toMyDevices([&](const std::string& device) { services_.sendRuntime.SendRuntimeToDevice(device); });
 }
 
-/// Asks for devices as long as there are none and the user wants to go on.
+/// Asks for devices until there are some or the user declines.
 bool Connect::hasMyDevices() {
     while (services_.prefs.gMyDevices.empty()) {
         const int answer =
@@ -82,8 +82,7 @@ bool Connect::hasMyDevices() {
     return true;
 }
 
-/// One device after the other, as many as there are now. The run for a device may change the list: error 9 for an entry
-/// that has gone meanwhile.
+/// Acts on each device in the current list. A run may change the list: error 9 for an entry that has been removed.
 void Connect::toMyDevices(const std::function<void(const std::string& device)>& act) {
     const auto& devices = services_.prefs.gMyDevices;
     for (std::size_t i = 0, count = devices.size(); i < count; ++i) {

@@ -1,11 +1,11 @@
-// What happens when components are added to a project, and when the user turns to one.
+// Components are added to a project, selected and activated.
 #include "Add-in/core/connect/Connect.h"
 #include "Add-in/core/connect/connect_texts.h"
 #include "Add-in/core/connect/default_names.h"
 
 namespace fernwick {
 
-/// Nothing for a project of another kind, and for one that the add-in has not met.
+/// Returns Nothing for a project of another kind or one that is not listed.
 Connect::QLProject Connect::activeFernwickProject(Procedure& here) {
     const auto active = here.value([&] { return services_.addIn.gVBInstance->ActiveVBProject(); });
     const auto project = services_.projects.FindQLProject(active);
@@ -18,7 +18,7 @@ void Connect::CompsEventsHandler_ItemAdded(Component VBComponent) {
     const auto project = activeFernwickProject(here);
     if (!project) return;
     vbide::vbext_ComponentType type{};
-    if (!here([&] { type = VBComponent->Type(); })) return; // it has gone meanwhile
+    if (!here([&] { type = VBComponent->Type(); })) return; // removed in the meantime
 
     switch (type) {
     case vbide::vbext_ct_VBForm:
@@ -37,8 +37,8 @@ void Connect::CompsEventsHandler_ItemAdded(Component VBComponent) {
     }
 }
 
-/// Only a blank component under the host's own name makes way. The template's own event comes while the guard is up;
-/// the blank one goes when this event is over.
+/// Only a blank component with the host's default name is replaced. The guard is set during the template's own event;
+/// the blank component is removed after this event.
 bool Connect::replaceByTemplate(Procedure& here, const QLProject& project, const Component& VBComponent,
                                 NameTest isDefault, TemplateOf path) {
     const auto file = here.value([&] { return VBComponent->FileNames(1); });
@@ -53,7 +53,8 @@ bool Connect::replaceByTemplate(Procedure& here, const QLProject& project, const
     return true;
 }
 
-/// A new form gets the device's shape; a form from a template, during whose event the guard is still up, keeps its own.
+/// A new form gets the device's size and font; a form from a template, during whose event the guard is set, keeps its
+/// own.
 void Connect::fitForm(Procedure& here, const QLProject& project, const Component& VBComponent) {
     if (here.test([&] { return VBComponent->FileNames(1).empty() && !ComponentAddGuard; }))
         project->SetupDefaultForm(VBComponent);
@@ -73,7 +74,7 @@ bool Connect::isFormOfOurs(Procedure& here, const Component& VBComponent) {
     return activeFernwickProject(here) && here.test([&] { return VBComponent->Type() == vbide::vbext_ct_VBForm; });
 }
 
-/// A form may be selected before the host has made its designer, which is error 5.
+/// A form may be selected before the host has created its designer; that is error 5.
 void Connect::CompsEventsHandler_ItemSelected(Component VBComponent) {
     Procedure here{services_.errors, "Connect.CompsEventsHandler_ItemSelected"};
     if (!isFormOfOurs(here, VBComponent)) return;
@@ -96,7 +97,7 @@ void Connect::CompsEventsHandler_ItemActivated(Component VBComponent) {
     here([&] { services_.features.SetZoomForm(VBComponent); });
 }
 
-/// Looks the project up, and no more.
+/// Only looks the project up, which reports an unlisted one.
 void Connect::RefEventsHandler_ItemAdded() {
     Procedure here{services_.errors, "Connect.RefEventsHandler_ItemAdded"};
     here([&] { activeProject(); });

@@ -1,11 +1,11 @@
-// Projects of older versions must not be opened as they are, and must not be written back.
+// Projects of older versions must be converted before use, and must not be written.
 #include "Add-in/core/connect/Connect.h"
 #include "Add-in/core/connect/connect_texts.h"
 #include "Basic/like.h"
 
 namespace fernwick {
 
-/// Looks at the file before the host has parsed it. No trap: an unreadable file is the host's to report.
+/// Reads the file before the host parses it. No trap: the host reports an unreadable file.
 void Connect::GlobalFileControlHandler_BeforeLoadFile(basic::Ref<vbide::VBProject> VBProject,
                                                       const std::vector<std::string>&) {
     const std::string path = VBProject->FileName();
@@ -22,8 +22,8 @@ void Connect::GlobalFileControlHandler_BeforeLoadFile(basic::Ref<vbide::VBProjec
         services_.user.MsgBox(connect_texts::kOldProject, vbExclamation, connect_texts::kOldProjectTitle);
 }
 
-/// The host then writes nothing of a project that is about to be converted, and raises no error. What the add-in has not
-/// met, or no longer knows after it was disconnected, is written as ever.
+/// Keeps the host, without an error, from writing a project that is about to be converted. Projects that are not listed
+/// are written as usual.
 void Connect::FileControlHandler_RequestWriteFile(basic::Ref<vbide::VBProject> VBProject, const std::string&,
                                                   bool& Cancel) {
     Procedure here{services_.errors, "Connect.FileControlHandler_RequestWriteFile"};

@@ -1,4 +1,4 @@
-// Commands that lead out of the add-in: help, samples, addresses.
+// Commands that open help, samples and addresses.
 #include "Add-in/core/connect/Connect.h"
 #include "Add-in/core/connect/connect_texts.h"
 

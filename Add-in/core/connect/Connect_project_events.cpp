@@ -1,9 +1,9 @@
-// What happens when the host's projects come, go, change their names and become the active one.
+// The host's projects are added, removed, renamed and activated.
 #include "Add-in/core/connect/Connect.h"
 
 namespace fernwick {
 
-/// DoEvents and dialogs let further events in: what makes a project go is left to the removal's timer.
+/// DoEvents and dialogs let in further events, so projects are removed only by the timer of frmProjectRemoval.
 void Connect::ProjEventsHandler_ItemAdded(Project VBProject) {
     Procedure here{services_.errors, "Connect.ProjEventsHandler_ItemAdded"};
     here([&] { FileControlHandler = services_.addIn.gVBInstance->Events()->FileControlEvents(VBProject); });
@@ -12,7 +12,7 @@ void Connect::ProjEventsHandler_ItemAdded(Project VBProject) {
 
     if (project->IsQuinloftProject() && project->HasOldFormat()) {
         here([&] { VBProject->IsDirty(false); });
-        return services_.removal.RemoveProject(VBProject, true, ""); // the converter follows
+        return services_.removal.RemoveProject(VBProject, true, ""); // the converter is started afterwards
     }
     if (project->IsStartUpProject()) {
         here([&] { services_.features.ShowProjectManager(); });
@@ -38,7 +38,8 @@ void Connect::watchAddedProject(Procedure& here) {
     here([&] { RefEventsHandler = host->Events()->ReferencesEvents(host->ActiveVBProject()); });
 }
 
-/// The host's own template makes way for the design target's, which arrives here in its turn and gets its first form.
+/// A project from the host's template is replaced by one from the design target's template, which is then added here
+/// and receives a first form.
 void Connect::fitTemplate(Procedure& here, const QLProject& project) {
     const bool isNew = here.value([&] {
         const auto vbProject = project->VBProject();
@@ -52,12 +53,12 @@ void Connect::fitTemplate(Procedure& here, const QLProject& project) {
         TemplateReloadPending = true;
         return;
     }
-    if (TemplateReloadPending) takeUpReloaded(here, project);
+    if (TemplateReloadPending) adoptReloaded(here, project);
     addFirstForm(here, project);
 }
 
-/// Its values are the template's; what lives in memory alone is not there yet.
-void Connect::takeUpReloaded(Procedure& here, const QLProject& project) {
+/// Its stored values are the template's; values that exist only in memory are set here.
+void Connect::adoptReloaded(Procedure& here, const QLProject& project) {
     TemplateReloadPending = false;
     project->OpenedFromQLTemplate(true);
     clsDeviceConfig device{services_.deviceServices};
@@ -69,7 +70,8 @@ void Connect::takeUpReloaded(Procedure& here, const QLProject& project) {
     here([&] { services_.menu.SetupDefaultTargetName(project->TargetDevice()); });
 }
 
-/// Its own event gives the form its shape. A template may have taken the form's place by now: it is the last one.
+/// The form's own event gives it its size and font. A template may have replaced it by then, so the last component is
+/// used.
 void Connect::addFirstForm(Procedure& here, const QLProject& project) {
     project->InitDesignTarget();
     const auto components = here.value([&] { return project->VBProject()->VBComponents(); });
@@ -77,7 +79,7 @@ void Connect::addFirstForm(Procedure& here, const QLProject& project) {
     here([&] { components->StartUpObject({false, components->Item(components->Count())}); });
 }
 
-/// A project without a device goes. One whose device isn't available here is the user's to decide about.
+/// A project without a device is removed; for an unavailable device the user decides.
 void Connect::refuseDevice(Procedure& here, const QLProject& project, const std::string& device) {
     const auto vbProject = project->VBProject();
     if (device.empty()) return services_.removal.RemoveProject(vbProject, true, "");
@@ -97,7 +99,7 @@ void Connect::closeAdded(Procedure& here, const Project& project) {
     here([&] { services_.loop.DoEvents(); });
 }
 
-/// The host still counts the project that goes.
+/// At this point the host still counts the project being removed.
 void Connect::ProjEventsHandler_ItemRemoved(Project VBProject) {
     Procedure here{services_.errors, "Connect.ProjEventsHandler_ItemRemoved"};
     QLProject project;
@@ -120,7 +122,7 @@ void Connect::keepState(Procedure& here, const QLProject& project) {
         keepDesktopState(here, vbProject);
 }
 
-/// A run of the command line has none of it, and must not replace what a user arranged at the desktop.
+/// Not at the command line, which must not overwrite the user's desktop settings.
 void Connect::keepDesktopState(Procedure& here, const Project& vbProject) {
     if (here.test([&] { return !services_.projects.ProjectIsFromTemplate(vbProject); }))
         here([&] { services_.features.AddProjectToRecentList(vbProject); });
@@ -128,10 +130,10 @@ void Connect::keepDesktopState(Procedure& here, const Project& vbProject) {
     here([&] { services_.features.SaveZoomWindowState(); });
 }
 
-/// No trap. A new name makes another dependency of the project.
+/// No trap. A renamed project gets a new identity as a dependency.
 void Connect::ProjEventsHandler_ItemRenamed(Project VBProject, const std::string& OldName) {
     const auto project = services_.projects.FindQLProject(VBProject);
-    if (!project) return; // open since before the add-in came
+    if (!project) return; // opened before the add-in was connected
     services_.projects.RenameProjectInList(VBProject, OldName);
     if (!OldName.empty()) project->CreateNewModId();
 }
@@ -152,7 +154,7 @@ bool Connect::isCurrentOurs() const {
     return project && project->IsQuinloftProject();
 }
 
-/// The menu stays as it is while a project runs.
+/// The menu is left unchanged while a project runs.
 void Connect::BuildEventsHandler_EnterRunMode() {
     if (!isCurrentOurs()) return;
     services_.toolbars.DisableQuinloftToolbar();

@@ -1,4 +1,4 @@
-// Wires the items of the menu and the toolbars to their sinks.
+// Assigns the sinks of the menu's and the toolbars' items.
 #include "Add-in/core/connect/Connect.h"
 #include "Add-in/core/modGeneral.h"
 #include <utility>

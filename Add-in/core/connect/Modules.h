@@ -1,5 +1,5 @@
 #pragma once
-// The whole add-in, put together.
+// The composition root of the add-in.
 #include "Add-in/build/dependencies/modDependencyManagement.h"
 #include "Add-in/build/frmCompile.h"
 #include "Add-in/build/frmCompileWarning.h"
@@ -14,7 +14,7 @@
 
 namespace fernwick {
 
-/// Takes the place of the add-in's own objects; a null pointer keeps the add-in's own.
+/// Objects that replace the add-in's own; null keeps the add-in's.
 struct ModuleOverrides {
     ErrorReport* errors = nullptr;
     SettingsDialog* settings = nullptr;
@@ -100,18 +100,18 @@ struct Modules {
                      help,           about,
                      samples}};
 
-    /// The document of the messages window; Nothing until the host has made it.
+    /// The document of the messages window; Nothing until the host has created it.
     basic::Ref<udocCompileMsgs> compileMsgs() const;
 
 private:
     basic::Ref<Object> newCompileMsgs();
 
-    /// What the host made for its tool windows, which stay with it.
+    /// Documents of the host's tool windows, which own them.
     std::vector<std::weak_ptr<udocCompileMsgs>> documents_;
     std::shared_ptr<void> compileMsgsClass_;
 };
 
-/// The add-in as the host holds it: the modules live as long as the answer does.
+/// The add-in as the host owns it: the modules live as long as the returned reference.
 basic::Ref<vbide::IDTExtensibility> asAddIn(const std::shared_ptr<Modules>& modules);
 
 } // namespace fernwick

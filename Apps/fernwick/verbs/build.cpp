@@ -58,7 +58,7 @@ Report compileAndValidate(Session& session, const std::string& device) {
     report.device = device;
     const bool compiled = session.addIn().compile.CompileProject(session.project());
     const bool good = compiled && session.addIn().validate.ValidateProject(session.project(), device);
-    report.messages = messagesOfRun(session.project(), session.machine().build());
+    report.messages = messagesOfRun(session);
     report.statusText = statusText(session);
     // the compile ended before the compiler ran
     if (runStatus(session) == fernwick::RunStatus::Running) report.statusText = kNotCompiled;

@@ -23,7 +23,7 @@ int transfer(const Options& options, Console& console, Way way) {
     report.project = session.path();
     report.devices = serveDevices(session, devices, console, [&](const std::string& device) {
         session.addIn().sendToDevice.SendProjectToDevice(session.settings(), way == Way::Pack, device);
-        return messagesOfRun(session.project(), session.machine().build());
+        return messagesOfRun(session);
     });
     report.exitStatus = statusOf(report.devices, options.myDevices);
     endWork(session, report);

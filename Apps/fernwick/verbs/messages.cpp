@@ -24,7 +24,7 @@ int runMessages(const Options& options, Console& console) {
     Report report;
     report.verb = "messages";
     report.project = session.path();
-    report.messages = storedMessages(session.project());
+    report.messages = storedMessages(session);
     session.closeUnsaved();
     if (options.format == Format::Json) {
         console.out(jsonOf(report));

@@ -1,43 +1,13 @@
 #include "Apps/fernwick/verbs/stored_messages.h"
-#include "Basic/case_folding.h"
-#include "Basic/conversions.h"
-#include "Basic/text_search.h"
+#include "Add-in/build/messages/stored_messages.h"
 #include "Host/model/component.h"
-#include <filesystem>
-#include <unordered_map>
 
 namespace cli {
 
 namespace {
 
-constexpr const char* kErrorsSection = "Quinloft Project Compile Errors";
-constexpr std::size_t kStoredFields = 5;
 /// The compiler's own numbers; the add-in's begin above.
 constexpr int kLastCompilerNumber = 2998;
-
-std::string storedValue(const vbide::VBProject& project, const std::string& key) {
-    std::string value;
-    (void)basic::attempt([&] { value = project.ReadProperty(kErrorsSection, key); });
-    return value;
-}
-
-std::int32_t numberOrZero(const std::string& text) {
-    std::int32_t number = 0;
-    (void)basic::attempt([&] { number = basic::CLng(text); });
-    return number;
-}
-
-std::string fileTitleOf(const std::string& path) { return std::filesystem::path(path).filename().string(); }
-
-using ComponentNames = std::unordered_map<std::string, std::string, basic::NoCaseHash, basic::NoCaseEqual>;
-
-/// Names of the components by their file's name; of two the first.
-ComponentNames componentsByFile(const basic::Ref<vbide::VBProject>& project) {
-    ComponentNames names;
-    for (const auto& component : project->VBComponents()->items())
-        names.emplace(fileTitleOf(component->FileNames(1)), component->Name());
-    return names;
-}
 
 /// 0 for a message without a line.
 int physicalLineOf(const basic::Ref<vbide::VBProject>& project, const Message& message) {
@@ -50,33 +20,29 @@ int physicalLineOf(const basic::Ref<vbide::VBProject>& project, const Message& m
 
 } // namespace
 
-std::vector<Message> storedMessages(const basic::Ref<vbide::VBProject>& project) {
+std::vector<Message> storedMessages(Session& session) {
     std::vector<Message> messages;
-    const auto components = componentsByFile(project);
-    const auto count = numberOrZero(storedValue(*project, "NumErrors"));
-    for (std::int32_t i = 1; i <= count; ++i) {
-        const auto fields = basic::Split(storedValue(*project, "Error" + std::to_string(i)), "|", kStoredFields);
-        if (fields.size() + 1 < kStoredFields) continue; // earlier versions stored no number
+    for (const auto& stored : fernwick::storedMessages(session.project())) {
         Message message;
-        message.isError = fields[0] == "ERROR";
-        message.file = fields[1];
-        message.codeLine = numberOrZero(fields[2]);
-        message.text = fields[3];
-        message.number = fields.size() == kStoredFields ? numberOrZero(fields[4]) : 0;
-        if (const auto found = components.find(fileTitleOf(message.file)); found != components.end())
-            message.component = found->second;
+        message.isError = stored.type == fernwick::ERROR_MSG;
+        message.number = stored.errorNumber;
+        message.text = stored.text;
+        message.file = stored.fileName;
+        message.component = session.addIn().messages.FindFileTitle(session.project(), stored.fileName);
+        message.codeLine = stored.line;
         messages.push_back(std::move(message));
     }
     return messages;
 }
 
-std::vector<Message> messagesOfRun(const basic::Ref<vbide::VBProject>& project, const qltoolkit::BuildRecord& build) {
-    auto messages = storedMessages(project);
-    auto diagnostic = build.diagnostics.begin();
+std::vector<Message> messagesOfRun(Session& session) {
+    auto messages = storedMessages(session);
+    const auto& diagnostics = session.machine().build().diagnostics;
+    auto diagnostic = diagnostics.begin();
     for (auto& message : messages) {
         const bool isCompilers = message.number <= kLastCompilerNumber;
-        if (!isCompilers) message.line = physicalLineOf(project, message);
-        if (!isCompilers || diagnostic == build.diagnostics.end()) continue;
+        if (!isCompilers) message.line = physicalLineOf(session.project(), message);
+        if (!isCompilers || diagnostic == diagnostics.end()) continue;
         message.line = int(diagnostic->line);
         message.column = int(diagnostic->column);
         message.text = diagnostic->text;

@@ -1,16 +1,15 @@
 #pragma once
 // The messages that a project's file keeps of its last build.
-#include "Add-in/platform/host.h"
 #include "Apps/fernwick/output/report.h"
-#include "Components/QLToolkit/compiler.h"
+#include "Apps/fernwick/run/session.h"
 
 namespace cli {
 
-/// In stored order; `line` is 0, `codeLine` the stored one. Entries that can't be read are left out.
-std::vector<Message> storedMessages(const basic::Ref<vbide::VBProject>& project);
+/// In stored order. `line` is 0, `codeLine` the stored one.
+std::vector<Message> storedMessages(Session& session);
 
-/// The same with physical lines: columns too and whole texts of the compiler's messages, from the build that stored
-/// them; those of the others are found from the code window's line.
-std::vector<Message> messagesOfRun(const basic::Ref<vbide::VBProject>& project, const qltoolkit::BuildRecord& build);
+/// The same with physical lines. The compiler's messages have the columns and complete texts of the build that stored
+/// them; the lines of the others are computed from the code window's.
+std::vector<Message> messagesOfRun(Session& session);
 
 } // namespace cli

@@ -41,7 +41,7 @@ int runValidate(const Options& options, Console& console) {
     session.addIn().messages.ClearProjectCompileErrors(session.project());
     bool good = session.addIn().validate.ValidateProject(session.project(), report.device);
     if (options.forms) good = scanForms(session) && good;
-    report.messages = messagesOfRun(session.project(), session.machine().build());
+    report.messages = messagesOfRun(session);
     report.exitStatus = good ? kGood : kProjectErrors;
     report.statusText = closingLine(report);
     endWork(session, report);

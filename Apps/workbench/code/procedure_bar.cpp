@@ -13,6 +13,8 @@ bool isProcedure(const vbide::Member& member) {
 
 namespace {
 
+constexpr int kListGap = 2;
+
 /// The part of a name before its last "_".
 QString handledObject(const vbide::Member& member) {
     const auto name = qt(member.Name);
@@ -66,6 +68,7 @@ ProcedureBar::ProcedureBar(vbide::Ref<vbide::VBComponent> component, std::functi
     procedures_->setObjectName("procedures");
     auto* const lists = new QHBoxLayout(this);
     lists->setContentsMargins(0, 0, 0, 0);
+    lists->setSpacing(kListGap);
     lists->addWidget(objects_);
     lists->addWidget(procedures_);
     connect(objects_, &QComboBox::activated, this, [this] { listProcedures(); });

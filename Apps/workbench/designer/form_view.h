@@ -34,7 +34,7 @@ public:
     const FormPicture& picture() const { return picture_; }
     /// Null if the form itself is selected.
     const vbide::Ref<vbide::VBControl>& selected() const { return selected_; }
-    /// Null selects the form.
+    /// Null, or a control that is not on the form, selects the form.
     void select(const vbide::Ref<vbide::VBControl>& control);
     /// Reads the form again when Qt's loop turns.
     void reloadSoon() { reload_.start(); }

@@ -32,8 +32,7 @@ constexpr fernwick::MessageInfo kPipeMessages[] = {
      "fernwick package Hello.vbp", "Install the Debian package that the message names."},
 
     {kNoImage, kError, "There is no compiled application. Compile the project first.",
-     "None of the files to be sent is a compiled application (.qlx).",
-     "fernwick deploy Hello.vbp --answer not-current=no", "Compile the project, then send it again."},
+     "None of the files to be sent is a compiled application (.qlx).", "", "Compile the project, then send it again."},
     {kImageDamaged, kError, "{file} is not a complete compiled application. {reason} Compile the project again.",
      "The file was truncated or changed after the compiler wrote it.", "", "Compile the project again."},
     {kImageOfOtherCompiler, kError,

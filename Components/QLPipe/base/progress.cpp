@@ -5,10 +5,10 @@ namespace qlpipe {
 
 constexpr std::int32_t kWhole = 100;
 
-void Progress::says(std::string status) {
+void Progress::setStatus(std::string status) {
     if (status == status_) return;
     status_ = std::move(status);
-    tell();
+    report();
 }
 
 void Progress::moved(std::int64_t bytes) {
@@ -16,10 +16,10 @@ void Progress::moved(std::int64_t bytes) {
     const auto percent = total_ > 0 ? std::int32_t(std::min(done_, total_) * kWhole / total_) : kWhole;
     if (percent == percent_) return;
     percent_ = percent;
-    tell();
+    report();
 }
 
-void Progress::tell() {
+void Progress::report() {
     if (sink_) sink_->SendProgress(status_, percent_);
 }
 

@@ -12,11 +12,11 @@ public:
     /// `sink` may be null. `total` is in bytes.
     Progress(IQLPipeEvents* sink, std::int64_t total) : sink_(sink), total_(total) {}
 
-    void says(std::string status);
+    void setStatus(std::string status);
     void moved(std::int64_t bytes);
 
 private:
-    void tell();
+    void report();
 
     IQLPipeEvents* sink_;
     std::int64_t total_;

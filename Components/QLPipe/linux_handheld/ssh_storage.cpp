@@ -2,6 +2,7 @@
 #include "Components/QLPipe/base/device_names.h"
 #include "Components/QLPipe/base/pipe_messages.h"
 #include "Components/QLPipe/base/ssh_messages.h"
+#include "Components/QLPipe/linux_handheld/sftp_errors.h"
 #include "Components/QLPipe/linux_handheld/ssh_upload.h"
 #include <algorithm>
 #include <random>
@@ -12,8 +13,6 @@ namespace {
 
 constexpr std::size_t kLargestRead = 1024 * 1024;
 constexpr std::uint32_t kReadBlock = 32 * 1024;
-/// If an operation fails with less free space than this, the file system is considered full.
-constexpr std::int64_t kFull = 64 * 1024;
 constexpr std::string_view kOwnerPrefix = ".fernwick-owner-";
 
 std::string ownerFile() {
@@ -23,27 +22,12 @@ std::string ownerFile() {
 
 } // namespace
 
-std::vector<std::string> beginnings(const std::string& name) {
+std::vector<std::string> pathPrefixes(const std::string& name) {
     std::vector<std::string> parts;
     for (auto end = name.find('/'); end != std::string::npos; end = name.find('/', end + 1))
         parts.push_back(name.substr(0, end));
     if (!name.empty()) parts.push_back(name);
     return parts;
-}
-
-void demandSftp(SftpClient& client, const std::string& base, const SftpResult& result, const char* action,
-                const std::string& path) {
-    if (result) return;
-    const auto& target = client.channel().target();
-    if (result.code == kSftpNoSuchFile) throw sshError(SshMessage::NotThere, {{"action", action}, {"path", path}});
-    if (result.code == kSftpPermissionDenied)
-        throw sshError(SshMessage::AccessDenied,
-                       {{"action", action}, {"path", path}, {"reason", result.text}, {"user", target.user}});
-    const auto room = result.code == kSftpFailure ? client.freeSpace(base) : -1;
-    if (room >= 0 && room < kFull)
-        throw sshError(SshMessage::DeviceFull, {{"handheld", target.address()}, {"action", action}, {"path", path}});
-    throw sshError(SshMessage::OperationFailed,
-                   {{"handheld", target.address()}, {"action", action}, {"path", path}, {"reason", result.text}});
 }
 
 SshStorage::SshStorage(const SshTarget& target, const SshTimeouts& timeouts, FileDescriptor lock)
@@ -100,7 +84,7 @@ std::int64_t SshStorage::freeSpaceFor(const std::string&) {
 
 SshStorage::Requests SshStorage::startFind(const std::string& name) {
     Requests requests{client_.startLstat(base_)};
-    for (const auto& part : beginnings(name)) requests.push_back(client_.startLstat(pathOf(part)));
+    for (const auto& part : pathPrefixes(name)) requests.push_back(client_.startLstat(pathOf(part)));
     return requests;
 }
 
@@ -109,7 +93,7 @@ std::optional<SftpAttributes> SshStorage::awaitFound(const std::string& name, co
     std::vector<SftpResult> results;
     for (std::size_t i = 0; i < requests.size(); ++i) results.push_back(client_.awaitAttributes(requests[i], found[i]));
 
-    const auto parts = beginnings(name);
+    const auto parts = pathPrefixes(name);
     for (std::size_t i = 0; i < found.size(); ++i) {
         const auto path = i == 0 ? base_ : pathOf(parts[i - 1]);
         if (results[i].code == kSftpNoSuchFile) return std::nullopt;
@@ -183,7 +167,7 @@ void SshStorage::makeBase() {
     SftpAttributes found;
     if (client_.lstat(base_, found)) return;
     // Links above the folder, as in /home, are followed.
-    for (const auto& path : beginnings(base_))
+    for (const auto& path : pathPrefixes(base_))
         if (!path.empty() && client_.lstat(path, found).code == kSftpNoSuchFile)
             demand(client_.makeFolder(path), "make", path);
 }
@@ -193,7 +177,7 @@ void SshStorage::makeFolder(const std::string& folder) {
     if (const auto found = notALink(folder, find(folder)); !found || !found->isFolder()) {
         makeBase();
         if (owner_.empty()) beginWork();
-        for (const auto& part : beginnings(folder)) makeOneFolder(pathOf(part));
+        for (const auto& part : pathPrefixes(folder)) makeOneFolder(pathOf(part));
     }
     folders_.insert(folder);
 }

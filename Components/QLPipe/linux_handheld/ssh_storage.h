@@ -70,10 +70,6 @@ private:
 };
 
 /// Returns "a", "a/b" and "a/b/c" for "a/b/c".
-std::vector<std::string> beginnings(const std::string& name);
-
-/// Throws the TransferError of a failed request. `action` is a verb for the message, with `path` as its object.
-void demandSftp(SftpClient& client, const std::string& base, const SftpResult& result, const char* action,
-                const std::string& path);
+std::vector<std::string> pathPrefixes(const std::string& name);
 
 } // namespace qlpipe

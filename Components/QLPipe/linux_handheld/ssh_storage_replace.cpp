@@ -80,7 +80,7 @@ void SshStorage::putBackOrAway(const std::string& kept) {
     const auto path = pathOf(kReplacedFolder) + "/" + kept;
     // A leftover takes space but is harmless. The next replacement of this name reports it.
     if (find(name)) return (void)removeTree(path);
-    for (const auto& folder : beginnings(folderOf(name))) makeOneFolder(pathOf(folder));
+    for (const auto& folder : pathPrefixes(folderOf(name))) makeOneFolder(pathOf(folder));
     demand(client_.rename(path, pathOf(name)), "rename", path);
 }
 

@@ -32,6 +32,8 @@ inline constexpr char kFilesFolder[] = "files/";
 inline constexpr char kFontsFolder[] = "fonts/";
 inline constexpr char kIconPlace[] = "icon.ico";
 inline constexpr char kManifestName[] = "manifest.json";
+/// Bytes; a larger manifest is refused unread.
+inline constexpr std::int64_t kLargestManifest = 1024 * 1024;
 
 struct Bundle {
     /// The runtime has only a version and files.

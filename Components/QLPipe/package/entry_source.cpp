@@ -49,7 +49,7 @@ zip_int64_t EntrySource::begin() {
     reader_ = file_.open();
     checksum_ = {};
     ended_ = false;
-    progress_.says(fillIn(pipe_texts::kPacking, {{"file", std::string(file_.title())}}));
+    progress_.setStatus(fillIn(pipe_texts::kPacking, {{"file", std::string(file_.title())}}));
     return 0;
 }
 

@@ -20,7 +20,7 @@ std::string stagedPlace(const Bundle& bundle, const BundleFile& file) {
 /// Sends a file and returns its checksum. A reader whose file has a known checksum verifies it.
 std::string sendFile(DeviceStorage& device, const BundleFile& file, const std::string& place, std::span<char> buffer,
                      Progress& progress) {
-    progress.says(fillIn(pipe_texts::kSending, {{"file", std::string(file.title())}}));
+    progress.setStatus(fillIn(pipe_texts::kSending, {{"file", std::string(file.title())}}));
     device.makeFolder(folderOf(place));
     const auto reader = file.open();
     const auto writer = device.create(place);
@@ -88,7 +88,7 @@ void install(DeviceStorage& device, Bundle bundle, Progress& progress) {
     device.remove(kStagingFolder);
     try {
         stage(device, bundle, progress);
-        progress.says(pipe_texts::kFinishing);
+        progress.setStatus(pipe_texts::kFinishing);
         putInPlace(device, bundle);
     } catch (...) {
         removeStaged(device);

@@ -9,8 +9,6 @@
 namespace qlpipe {
 namespace {
 
-constexpr std::int64_t kLargestManifest = 1024 * 1024;
-
 struct ZipFileClose {
     void operator()(zip_file_t* file) const { zipLibrary().fclose(file); }
 };

@@ -88,7 +88,7 @@ private:
 };
 
 void addChecksum(BundleFile& file, std::span<char> buffer, Progress& progress) {
-    progress.says(fillIn(pipe_texts::kReading, {{"file", std::string(file.title())}}));
+    progress.setStatus(fillIn(pipe_texts::kReading, {{"file", std::string(file.title())}}));
     const auto reader = file.open();
     Sha256 checksum;
     while (const auto count = reader->read(buffer)) {

@@ -2,6 +2,7 @@
 #include "Components/QLPipe/base/device_names.h"
 #include "Components/QLPipe/base/pipe_messages.h"
 #include "Components/QLPipe/package/installer.h"
+#include "Components/QLPipe/virtual_device/virtual_file.h"
 #include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
@@ -19,8 +20,6 @@ namespace {
 constexpr char kLockFile[] = ".lock";
 /// The temporary name of the old folder during a replacement: ".Hello.old".
 constexpr std::string_view kReplacedBegin = ".", kReplacedEnd = ".old";
-constexpr std::int64_t kLargestManifest = 1024 * 1024;
-constexpr mode_t kNewFile = 0666;
 
 std::string replacedName(const std::string& name) {
     const auto folder = folderOf(name);
@@ -41,38 +40,6 @@ FolderHandle openRoot(const std::string& path) {
     return root;
 }
 
-/// A file being written. The device must outlive it.
-class VirtualFile final : public StorageFile {
-public:
-    VirtualFile(const FolderHandle& root, std::string name)
-        : root_(root), name_(std::move(name)), parent_(root.openFolder(folderOf(name_))) {
-        constexpr int kFlags = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
-        file_ = FileDescriptor{::openat(parent_.get(), lastPart(name_).c_str(), kFlags, kNewFile)};
-        if (!file_) root_.fail(errno, name_);
-    }
-    ~VirtualFile() override {
-        if (file_) ::unlinkat(parent_.get(), lastPart(name_).c_str(), 0);
-    }
-
-    void write(std::string_view bytes) override {
-        while (!bytes.empty()) {
-            const auto written = ::write(file_.get(), bytes.data(), bytes.size());
-            if (written < 0 && errno == EINTR) continue;
-            if (written < 0) root_.fail(errno, name_);
-            bytes.remove_prefix(std::size_t(written));
-        }
-    }
-    void close() override {
-        if (::fsync(file_.get()) != 0) root_.fail(errno, name_);
-        file_ = FileDescriptor{};
-    }
-
-private:
-    const FolderHandle& root_;
-    std::string name_;
-    FileDescriptor parent_, file_;
-};
-
 } // namespace
 
 VirtualDevice::VirtualDevice(const std::string& folder, std::optional<std::int64_t> memory,
@@ -85,7 +52,7 @@ VirtualDevice::VirtualDevice(const std::string& folder, std::optional<std::int64
 void VirtualDevice::lock(std::chrono::milliseconds patience) {
     constexpr std::chrono::milliseconds kPause{20};
     const auto folder = root_.openFolder("");
-    lock_ = FileDescriptor{::openat(folder.get(), kLockFile, O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, kNewFile)};
+    lock_ = FileDescriptor{::openat(folder.get(), kLockFile, O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, kNewFileMode)};
     if (!lock_) root_.fail(errno, kLockFile);
     const auto end = std::chrono::steady_clock::now() + patience;
     while (::flock(lock_.get(), LOCK_EX | LOCK_NB) != 0) {

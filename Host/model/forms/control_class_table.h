@@ -309,7 +309,7 @@ struct ClassRowsEntry {
     ClassRows rows;
 };
 
-/// What the host gives every control, whatever its class.
+/// Properties that the host provides for every control.
 inline constexpr ClassRows kOtherClassRows{kPlaceRows, kControlRows, kVisibleRows, kTabRows};
 
 inline constexpr ClassRowsEntry kClassRows[] = {

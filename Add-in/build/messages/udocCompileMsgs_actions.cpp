@@ -16,17 +16,17 @@ constexpr char kPicturesPage[] = "::/Quinloft_Tamarik_and_Components_Tamarik And
 } // namespace
 
 void udocCompileMsgs::msgGrid_DblClick() {
-    if (!use_) return;
-    Procedure here{use_->errors, "udocCompileMsgs.msgGrid_DblClick"};
+    if (!services_) return;
+    Procedure here{services_->errors, "udocCompileMsgs.msgGrid_DblClick"};
     if (selectedRow_ <= 0) return;
     const auto cells = message(selectedRow_).cells; // opening the source lets events in, which may clear the rows
     openSource(here, cells);
-    if (use_ && !cells[ErrorColumn].empty()) actOn(here, basic::CLng(cells[ErrorColumn]));
+    if (services_ && !cells[ErrorColumn].empty()) actOn(here, basic::CLng(cells[ErrorColumn]));
 }
 
 void udocCompileMsgs::showSource(std::int32_t row) {
-    if (!use_) return;
-    Procedure here{use_->errors, "udocCompileMsgs.showSource"};
+    if (!services_) return;
+    Procedure here{services_->errors, "udocCompileMsgs.showSource"};
     if (!here([&] { select(row); }) || row == 0) return;
     const auto cells = message(row).cells;
     openSource(here, cells);
@@ -37,7 +37,7 @@ void udocCompileMsgs::openSource(Procedure& here, const Cells& cells) {
     const std::int32_t line = cells[LineColumn].empty() ? -1 : basic::CLng(cells[LineColumn]);
     if (title.empty() || line <= 0) return;
     const auto pane = here.value([&] {
-        return use_->addIn.gVBInstance->ActiveVBProject()->VBComponents()->Item(title)->CodeModule()->CodePane();
+        return services_->addIn.gVBInstance->ActiveVBProject()->VBComponents()->Item(title)->CodeModule()->CodePane();
     });
     if (!pane) return;
     here([&] { pane->Show(); });
@@ -46,8 +46,8 @@ void udocCompileMsgs::openSource(Procedure& here, const Cells& cells) {
 
 /// The host's window holds its picture while the pane's window changes its size, which would flicker.
 void udocCompileMsgs::showLine(Procedure& here, const basic::Ref<vbide::CodePane>& pane, std::int32_t line) {
-    if (!use_) return; // the pane that came up let events in
-    auto& user = use_->platform.interaction;
+    if (!services_) return; // the pane that came up let events in
+    auto& user = services_->platform.interaction;
     here([&] { user.SetRedraw(false); });
     here([&] { pane->Window()->WindowState(vbide::vbext_ws_Normal); });
     here([&] { user.SetRedraw(true); });
@@ -56,21 +56,23 @@ void udocCompileMsgs::showLine(Procedure& here, const basic::Ref<vbide::CodePane
 }
 
 void udocCompileMsgs::actOn(Procedure& here, std::int32_t errorNumber) {
-    const auto use = *use_; // reports and dialogs let events in
+    const auto services = *services_; // reports and dialogs let events in
     switch (errorNumber) {
     case message_numbers::kComponentNotSupported:
-        here([&] { use.platform.interaction.SetCursor(vbHourglass); });
+        here([&] { services.platform.interaction.SetCursor(vbHourglass); });
         here([&] {
-            use.settings.ShowQuinloftSettings(use.addIn.gVBInstance->ActiveVBProject(), kCompilerSettingsPage, false);
+            services.settings.ShowQuinloftSettings(services.addIn.gVBInstance->ActiveVBProject(), kCompilerSettingsPage,
+                                                   false);
         });
         break;
     case message_numbers::kFontMissing:
-        if (!use.tools.OpenViewerConverter(kFontConverter))
+        if (!services.tools.OpenViewerConverter(kFontConverter))
             here([&] { box(build_texts::kNoFontConverter, vbCritical); });
         break;
     case message_numbers::kPictureHelp:
         here([&] {
-            use.platform.shell.Start("Hh.exe ms-its:" + use.install.installed(kPicturesHelpFile) + kPicturesPage);
+            services.platform.shell.Start("Hh.exe ms-its:" + services.install.installed(kPicturesHelpFile) +
+                                          kPicturesPage);
         });
         break;
     default: break;
@@ -78,7 +80,7 @@ void udocCompileMsgs::actOn(Procedure& here, std::int32_t errorNumber) {
 }
 
 void udocCompileMsgs::box(const std::string& text, int icon) {
-    use_->platform.interaction.MsgBox(text, icon, build_texts::kTitle);
+    services_->platform.interaction.MsgBox(text, icon, build_texts::kTitle);
 }
 
 } // namespace fernwick

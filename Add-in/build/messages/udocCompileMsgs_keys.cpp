@@ -32,8 +32,8 @@ std::string inCodePage(const std::string& text) {
 } // namespace
 
 void udocCompileMsgs::msgGrid_KeyDown(int KeyCode, int Shift) {
-    if (!use_) return;
-    Procedure here{use_->errors, "udocCompileMsgs.msgGrid_KeyDown"};
+    if (!services_) return;
+    Procedure here{services_->errors, "udocCompileMsgs.msgGrid_KeyDown"};
     if (KeyCode == vbKeyF1 && Shift == 0) showHelp(here);
     if (KeyCode == vbKeyC && Shift == vbCtrlMask && selectedRow_ > 0) copyRow(here);
 }
@@ -41,12 +41,13 @@ void udocCompileMsgs::msgGrid_KeyDown(int KeyCode, int Shift) {
 void udocCompileMsgs::showHelp(Procedure& here) {
     std::int32_t number = 0;
     if (!here([&] { number = basic::CLng(grid_.cell(selectedRow_, ErrorColumn)); })) return;
-    const auto use = *use_; // the box lets events in
+    const auto services = *services_; // the box lets events in
     const auto page = fmt::format(kHelpPage, number);
-    if (!here.test([&] { return use.platform.files.FileExists(use.install.installed(page)); }))
+    if (!here.test([&] { return services.platform.files.FileExists(services.install.installed(page)); }))
         here([&] { box(basic::Replace(build_texts::kNoHelpPage, "{number}", fmt::to_string(number)), vbExclamation); });
     here([&] {
-        use.platform.shell.Start(fmt::format("Hh.exe -mapid {} {}", number, use.install.installed(kHelpFile)));
+        services.platform.shell.Start(
+            fmt::format("Hh.exe -mapid {} {}", number, services.install.installed(kHelpFile)));
     });
 }
 
@@ -59,7 +60,7 @@ std::string udocCompileMsgs::copyText(std::int32_t row) const {
 /// The text ends with a zero, as the clipboard's plain text does. One with characters beyond the code page is there in full
 /// besides.
 void udocCompileMsgs::copyRow(Procedure& here) {
-    auto& clipboard = use_->platform.clipboard;
+    auto& clipboard = services_->platform.clipboard;
     const auto text = copyText(selectedRow_);
     here([&] { clipboard.Clear(); });
     here([&] { clipboard.SetData(kAnsiTextFormat, inCodePage(text) + '\0'); });

@@ -28,8 +28,8 @@ std::vector<std::string> chosenPaths(const FileSystemObject& files, const std::s
 } // namespace
 
 tResourceList modDependencyManagement::GetNewDependency(const Project& project) {
-    Procedure here{use_.errors, "modDependencyManagement.GetNewDependency"};
-    const auto& files = use_.platform.files;
+    Procedure here{services_.errors, "modDependencyManagement.GetNewDependency"};
+    const auto& files = services_.platform.files;
     CommonDialog dialog;
     here([&] { dialog.InitDir = projectFolder(project); });
     dialog.DialogTitle = build_texts::kSelectDependency;
@@ -38,7 +38,7 @@ tResourceList modDependencyManagement::GetNewDependency(const Project& project) 
     dialog.FilterIndex = 1;
     dialog.MaxFileSize = kMostFileNameBytes;
     tResourceList chosen;
-    if (!here([&] { use_.platform.interaction.ShowOpen(dialog); })) return chosen;
+    if (!here([&] { services_.platform.interaction.ShowOpen(dialog); })) return chosen;
     for (const auto& path : chosenPaths(files, dialog.FileName)) {
         if (!here.test([&] { return files.FileExists(path); })) continue;
         const auto entry = CreateNewDependency(project, path, true);
@@ -49,8 +49,8 @@ tResourceList modDependencyManagement::GetNewDependency(const Project& project) 
 
 tResource modDependencyManagement::CreateNewDependency(const Project& project, const std::string& path,
                                                        bool allowCopy) {
-    Procedure here{use_.errors, "modDependencyManagement.CreateNewDependency"};
-    const auto& files = use_.platform.files;
+    Procedure here{services_.errors, "modDependencyManagement.CreateNewDependency"};
+    const auto& files = services_.platform.files;
     const auto folder = here.value([&] { return projectFolder(project); });
     const auto absolute = here.value([&] { return files.GetAbsolutePathName(path); });
     tResource entry;
@@ -68,10 +68,11 @@ tResource modDependencyManagement::CreateNewDependency(const Project& project, c
 bool modDependencyManagement::copyToProject(Procedure& here, const std::string& path, const std::string& folder,
                                             bool allowCopy) {
     using namespace fmt::literals;
-    auto& files = use_.platform.files;
+    auto& files = services_.platform.files;
     const auto question = fmt::format(build_texts::kCopyDependency, "file"_a = path, "folder"_a = folder);
     const auto answer = [&] {
-        return use_.platform.interaction.ask(Question::CopyFile, question, vbQuestion + vbYesNo, build_texts::kTitle);
+        return services_.platform.interaction.ask(Question::CopyFile, question, vbQuestion + vbYesNo,
+                                                  build_texts::kTitle);
     };
     if (allowCopy && here.value(answer) != vbYes) {
         box(here, build_texts::kNotCopied, vbExclamation);
@@ -82,12 +83,12 @@ bool modDependencyManagement::copyToProject(Procedure& here, const std::string& 
 }
 
 std::string modDependencyManagement::CreateRelativePath(const std::string& baseFolder, const std::string& path) {
-    Procedure here{use_.errors, "modDependencyManagement.CreateRelativePath"};
-    return here.value([&] { return PathBelow(use_.platform.files, baseFolder, path); });
+    Procedure here{services_.errors, "modDependencyManagement.CreateRelativePath"};
+    return here.value([&] { return PathBelow(services_.platform.files, baseFolder, path); });
 }
 
 int modDependencyManagement::box(Procedure& here, const std::string& text, int buttons) {
-    return here.value([&] { return use_.platform.interaction.MsgBox(text, buttons, build_texts::kTitle); });
+    return here.value([&] { return services_.platform.interaction.MsgBox(text, buttons, build_texts::kTitle); });
 }
 
 } // namespace fernwick

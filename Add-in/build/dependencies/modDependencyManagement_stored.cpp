@@ -44,7 +44,7 @@ tResource modDependencyManagement::readDependency(const Project& project, std::i
 }
 
 void modDependencyManagement::ClearProjectDependencies(const Project& project) {
-    Procedure here{use_.errors, "modDependencyManagement.ClearProjectDependencies"};
+    Procedure here{services_.errors, "modDependencyManagement.ClearProjectDependencies"};
     const auto count = storedDependencies(project);
     if (!count) return;
     for (std::int32_t index = 0; index < *count; ++index) {
@@ -56,7 +56,7 @@ void modDependencyManagement::ClearProjectDependencies(const Project& project) {
 }
 
 void modDependencyManagement::WriteProjectDependencies(const Project& project, const tResourceList& list) {
-    Procedure here{use_.errors, "modDependencyManagement.WriteProjectDependencies"};
+    Procedure here{services_.errors, "modDependencyManagement.WriteProjectDependencies"};
     ClearProjectDependencies(project);
     here([&] { project->WriteProperty(kProjectDependencies, kNumDependencies, basic::CStr(list.Count())); });
     std::int32_t index = 0;
@@ -68,36 +68,36 @@ void modDependencyManagement::WriteProjectDependencies(const Project& project, c
 }
 
 bool modDependencyManagement::ValidateDependencyList(const Project& project, const tResourceList& list) {
-    Procedure here{use_.errors, "modDependencyManagement.ValidateDependencyList"};
+    Procedure here{services_.errors, "modDependencyManagement.ValidateDependencyList"};
     const auto folder = here.value([&] { return projectFolder(project); });
     for (const auto& entry : list)
-        if (here.test([&] { return !use_.platform.files.FileExists(placeOf(folder, entry)); })) return false;
+        if (here.test([&] { return !services_.platform.files.FileExists(placeOf(folder, entry)); })) return false;
     return true;
 }
 
 /// Where an entry's file is to be found, there or not: fonts count in the fonts folder first.
 std::string modDependencyManagement::placeOf(const std::string& folder, const tResource& entry) const {
-    const auto& files = use_.platform.files;
+    const auto& files = services_.platform.files;
     const auto installed = entry.FileType == kFontType ? inFontsFolder(entry.FileName) : std::string{};
     return installed.empty() ? files.BuildPath(folder, entry.FileName) : installed;
 }
 
 /// Path of the fonts folder's file of this name; "" for none.
 std::string modDependencyManagement::inFontsFolder(const std::string& name) const {
-    const auto& files = use_.platform.files;
-    const auto folder = use_.install.GetQuinloftFontsDir();
+    const auto& files = services_.platform.files;
+    const auto folder = services_.install.GetQuinloftFontsDir();
     if (folder.empty() || name.empty()) return {};
     const auto path = files.BuildPath(folder, name);
     return files.FileExists(path) ? files.Canonical(path) : std::string{};
 }
 
 std::string modDependencyManagement::projectFolder(const Project& project) const {
-    return use_.platform.files.GetParentFolderName(project->FileName());
+    return services_.platform.files.GetParentFolderName(project->FileName());
 }
 
 /// Error 6 for a file that a 32-bit size can't tell.
 std::int32_t modDependencyManagement::fileSize(const std::string& path) const {
-    return basic::CLng(use_.platform.files.GetSize(path));
+    return basic::CLng(services_.platform.files.GetSize(path));
 }
 
 } // namespace fernwick

@@ -10,12 +10,12 @@ using designtargetaccess::IQLDesignTarget;
 using namespace fmt::literals;
 
 bool frmValidate::ScanReferences(const Project& project) {
-    Procedure here{use_.errors, "frmValidate.ScanReferences"};
+    Procedure here{services_.errors, "frmValidate.ScanReferences"};
     initialiseTargets(here);
     bool good = scanForBroken(here, project);
     if (deviceKey_.empty()) return good;
     basic::Ref<IQLDesignTarget> target;
-    if (here.test([&] { return !use_.devices.devices.gDesignTargetMgr->GetDesignTarget(deviceKey_, target); }))
+    if (here.test([&] { return !services_.devices.devices.gDesignTargetMgr->GetDesignTarget(deviceKey_, target); }))
         return good;
     readDeviceConfig(here);
     for (const auto& moduleId : here.value([&] { return qlProject_->GetComponentDependencies(); }))
@@ -28,7 +28,7 @@ bool frmValidate::ScanReferences(const Project& project) {
 
 /// Without a manager the scan goes on, and the look-up of the target fails.
 void frmValidate::initialiseTargets(Procedure& here) {
-    auto& targets = use_.devices.devices;
+    auto& targets = services_.devices.devices;
     if (targets.gDesignTargetMgr) return;
     targets.initDesignTargetMgr();
     if (targets.gDesignTargetMgr) return;
@@ -48,7 +48,7 @@ bool frmValidate::scanForBroken(Procedure& here, const Project& project) {
 /// Tells the user of controls of the target that this machine lacks.
 void frmValidate::readDeviceConfig(Procedure& here) {
     here([&] {
-        clsDeviceConfig config{use_.devices};
+        clsDeviceConfig config{services_.devices};
         config.ReadDeviceConfig(deviceKey_);
     });
 }
@@ -74,16 +74,16 @@ void frmValidate::reportNotSupported(Procedure& here, const Project& project, co
 }
 
 std::string frmValidate::GetTypeLibDisplayName(const std::string& guid) {
-    Procedure here{use_.errors, "frmValidate.GetTypeLibDisplayName"};
+    Procedure here{services_.errors, "frmValidate.GetTypeLibDisplayName"};
     std::string name = fmt::format(build_texts::kUnknownLibrary, "guid"_a = guid);
-    auto& registry = use_.registry;
+    auto& registry = services_.registry;
     const RegistryKey key{registry,
                           registry.OpenKey(HKEY_LOCAL_MACHINE, "Software\\Quinloft\\Modules\\" + guid, KEY_READ)};
     if (!key) return name;
     const auto path = registry.GetStringValue(key.handle(), "").text;
     if (path.empty()) return name;
     here([&] {
-        const auto library = use_.platform.classes.TypeLibInfoFromFile(path);
+        const auto library = services_.platform.classes.TypeLibInfoFromFile(path);
         if (!library->HelpString.empty()) name = library->HelpString;
     });
     return name;

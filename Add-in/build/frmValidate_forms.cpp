@@ -43,7 +43,7 @@ std::string_view insteadOf(const std::string& eventInCapitals) {
 } // namespace
 
 bool frmValidate::ScanForm(const QLProject& qlProject, const Component& component, bool scanEvents) {
-    Procedure here{use_.errors, "frmValidate.ScanForm"};
+    Procedure here{services_.errors, "frmValidate.ScanForm"};
     const auto project = here.value([&] { return qlProject->VBProject(); });
     bool good = !scanEvents || ScanEvents(project, component);
     if (!checkFormName(here, project, component)) good = false;
@@ -88,7 +88,7 @@ bool frmValidate::checkFormProperties(Procedure& here, const Project& project, c
 
 bool frmValidate::ScanControls(const Project& project, const Component& component,
                                const basic::Ref<vbide::VBForm>& designer) {
-    Procedure here{use_.errors, "frmValidate.ScanControls"};
+    Procedure here{services_.errors, "frmValidate.ScanControls"};
     bool good = true;
     for (const auto& control : here.value([&] { return designer->VBControls()->items(); })) {
         if (!here.test([&] { return IsReservedWord(nameOf(control)); })) continue;
@@ -105,7 +105,7 @@ bool frmValidate::ScanControls(const Project& project, const Component& componen
 
 /// Events give warnings only.
 bool frmValidate::ScanEvents(const Project& project, const Component& component) {
-    Procedure here{use_.errors, "frmValidate.ScanEvents"};
+    Procedure here{services_.errors, "frmValidate.ScanEvents"};
     const auto members = here.value([&] { return component->CodeModule()->Members(); });
     const FormControls controls{here, here.value([&] { return component->Designer(); })};
     for (const auto& member : members) {
@@ -131,7 +131,7 @@ void frmValidate::warnOfControlEvent(Procedure& here, const Project& project, co
 
 void frmValidate::GenerateFormEventWarning(const Project& project, const Component& component,
                                            const vbide::Member& member) {
-    Procedure here{use_.errors, "frmValidate.GenerateFormEventWarning"};
+    Procedure here{services_.errors, "frmValidate.GenerateFormEventWarning"};
     here([&] {
         const auto text = fmt::format(build_texts::kFormEventNotSupported, "procedure"_a = member.Name,
                                       "form"_a = component->Name(), "instead"_a = insteadOf(basic::UCase(member.Name)));

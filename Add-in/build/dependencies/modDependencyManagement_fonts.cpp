@@ -51,7 +51,7 @@ struct modDependencyManagement::FontScan {
 std::vector<std::string> modDependencyManagement::ScanProjectForFontDependencies(const QLProject& qlProject,
                                                                                  ProgressBar* bar, Label* status) {
     using namespace fmt::literals;
-    Procedure here{use_.errors, "modDependencyManagement.ScanProjectForFontDependencies"};
+    Procedure here{services_.errors, "modDependencyManagement.ScanProjectForFontDependencies"};
     FontScan scan{qlProject, {}, {}, {}, {}, {}};
     const auto project = here.value([&] { return qlProject->VBProject(); });
     if (!canBeScanned(here, project)) return {};
@@ -75,7 +75,7 @@ std::vector<std::string> modDependencyManagement::ScanProjectForFontDependencies
 bool modDependencyManagement::canBeScanned(Procedure& here, const Project& project) {
     if (here.test([&] { return project->FileName().empty(); })) {
         box(here, build_texts::kSaveBeforeScan, vbExclamation);
-        here([&] { use_.menu.saveProjectItem()->Execute(); });
+        here([&] { services_.menu.saveProjectItem()->Execute(); });
         return false;
     }
     if (here.test([&] { return project->VBComponents()->Count() == 0; })) {
@@ -86,7 +86,7 @@ bool modDependencyManagement::canBeScanned(Procedure& here, const Project& proje
 }
 
 void modDependencyManagement::ScanFormforDependencies(const basic::Ref<vbide::VBComponent>& form, FontScan& scan) {
-    Procedure here{use_.errors, "modDependencyManagement.ScanFormforDependencies"};
+    Procedure here{services_.errors, "modDependencyManagement.ScanFormforDependencies"};
     for (const auto& control : here.value([&] { return form->Designer()->VBControls()->items(); })) {
         if (!here.test([&] { return hasFont(control->ClassName()); })) continue;
         FontFace font;
@@ -97,33 +97,33 @@ void modDependencyManagement::ScanFormforDependencies(const basic::Ref<vbide::VB
 /// A font that this scan has met before is listed already, or its lack is told.
 void modDependencyManagement::AddFonttoDependencyList(const basic::Ref<vbide::VBComponent>& form, FontScan& scan,
                                                       const FontFace& font) {
-    Procedure here{use_.errors, "modDependencyManagement.AddFonttoDependencyList"};
+    Procedure here{services_.errors, "modDependencyManagement.AddFonttoDependencyList"};
     if (!scan.seen.insert(font).second) return;
     const auto path = findFont(here, scan, font);
     if (!path.empty()) return scan.add(fontEntry(scan, path));
     if (FontAlreadyWarned(font)) return;
     warnOfMissingFont(here, form, scan, font);
-    use_.messages.ShowProjectCompileErrors(scan.qlProject->VBProject(), true);
+    services_.messages.ShowProjectCompileErrors(scan.qlProject->VBProject(), true);
     AddFontToKnownMissingList(font);
 }
 
 /// The file that the Font Converter would write comes first, then any of the fonts folder, then any beside the
 /// project.
 std::string modDependencyManagement::findFont(Procedure& here, FontScan& scan, const FontFace& font) {
-    const auto& files = use_.platform.files;
+    const auto& files = services_.platform.files;
     const auto candidate = inFontsFolder(GetFontFileName(font));
     if (!candidate.empty() && FontFileMatches(files, candidate, font)) return candidate;
     const auto look = [&](std::optional<FontFolder>& folder, const std::string& path) {
         if (!folder) folder = here.value([&] { return FontFolder(files, path); });
         return folder->find(font);
     };
-    const auto installed = look(scan.installed, use_.install.GetQuinloftFontsDir());
+    const auto installed = look(scan.installed, services_.install.GetQuinloftFontsDir());
     return installed.empty() ? look(scan.beside, scan.qlProject->ProjectPath()) : installed;
 }
 
 /// A name that the fonts folder has too is taken for one of its own.
 std::string modDependencyManagement::fontEntry(const FontScan& scan, const std::string& path) {
-    const auto name = use_.platform.files.GetFileName(path);
+    const auto name = services_.platform.files.GetFileName(path);
     return inFontsFolder(name).empty() ? CreateRelativePath(scan.qlProject->ProjectPath(), path) : name;
 }
 
@@ -135,8 +135,8 @@ void modDependencyManagement::warnOfMissingFont(Procedure& here, const basic::Re
     here([&] {
         const auto what = fmt::format(build_texts::kFontMissing, "font"_a = font.name, "size"_a = font.size,
                                       "style"_a = font.style, "component"_a = form->Name(), "remedy"_a = remedy);
-        use_.messages.AddProjectCompileWarning(scan.qlProject->VBProject(), what, form->FileNames(1), 0,
-                                               message_numbers::kFontMissing);
+        services_.messages.AddProjectCompileWarning(scan.qlProject->VBProject(), what, form->FileNames(1), 0,
+                                                    message_numbers::kFontMissing);
     });
 }
 

@@ -1,0 +1,32 @@
+#pragma once
+// The messages that a project's file keeps of its last build: the one reader of their format.
+#include "Add-in/platform/host_project.h"
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace fernwick {
+
+inline constexpr char kErrorsSection[] = "Quinloft Project Compile Errors";
+inline constexpr char kNumErrors[] = "NumErrors";
+
+/// The key of a message; the first one has the number 1.
+std::string storedMessageKey(std::int32_t number);
+
+struct StoredMessage {
+    /// A tMessageType. A message of another stored type has that of the message before it, the first one 0.
+    int type = 0;
+    std::string fileName;
+    /// The code window's; 0 for none.
+    std::int32_t line = 0;
+    std::string text;
+    /// 0 in messages of earlier versions.
+    std::int32_t errorNumber = 0;
+};
+
+/// 0 when the count cannot be read.
+std::int32_t storedMessageCount(const basic::Ref<vbide::VBProject>& project);
+/// In stored order. Messages that cannot be read are left out.
+std::vector<StoredMessage> storedMessages(const basic::Ref<vbide::VBProject>& project);
+
+} // namespace fernwick

@@ -1,0 +1,23 @@
+#pragma once
+// The installation of the runtime on a device.
+#include "Add-in/deploy/pipe_run.h"
+
+namespace fernwick {
+
+class RuntimeRun final : public PipeRun {
+public:
+    RuntimeRun(const PipeServices& services, PipeForm& dialog) : PipeRun(services, dialog) {}
+
+    void begin(const std::string& deviceName);
+    void run() override;
+
+private:
+    void fail(const basic::ErrObject& error);
+
+    void SendComplete() override;
+    void SendError(std::int32_t errorNumber, const std::string& message) override;
+    /// A runtime has no messages to keep a warning with.
+    void SendWarning(const std::string&, const std::string&, std::int32_t, std::int32_t) override {}
+};
+
+} // namespace fernwick
