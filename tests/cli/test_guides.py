@@ -11,7 +11,8 @@ USERS_GUIDE = DOC / "Quinloft_Users_Guide.html"
 ADD_IN_GUIDE = DOC / "Quinloft_AddIn_Guide.html"
 # In the menu's table but never shown: families of devices, and the disabled download.
 UNUSED = {"&Palm OS", "P&ocketPC", "Deploy To Design &Target", "Download Tamarik..."}
-CAPTION = re.compile(r'case k\w+String: return "([^"]+)";')
+# A resource string. 200 to 209 are tool tips.
+CAPTION = re.compile(r'\{(?!20)\d{3}, "([^"]+)"\}')
 
 
 def text_of(page):
@@ -38,7 +39,7 @@ class Guides(unittest.TestCase):
         self.assertEqual(self.missing(USERS_GUIDE, tavlets + targets), [])
 
     def test_the_add_in_guide_names_each_command(self):
-        texts = (ROOT / "Add-in/commands/command_texts.cpp").read_text(encoding="utf-8")
+        texts = "".join(path.read_text(encoding="utf-8") for path in (ROOT / "Add-in/commands").glob("*.h"))
         captions = [c.replace("&", "").removesuffix("...") for c in CAPTION.findall(texts) if c not in UNUSED]
         self.assertGreater(len(captions), 20)
         self.assertEqual(self.missing(ADD_IN_GUIDE, captions), [])
