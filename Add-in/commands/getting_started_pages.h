@@ -26,8 +26,9 @@ inline constexpr char kCaption[] = "Introduction to Fernwick";
 /// Between the page number and the number of pages.
 inline constexpr char kOf[] = " of ";
 inline constexpr char kDontShow[] = "Don't &show this when Fernwick starts";
-inline constexpr char kDontShowTip[] = "The introduction remains in the Fernwick menu under Samples and Tutorials. This "
-                                       "setting applies to all users of this computer";
+inline constexpr char kDontShowTip[] =
+    "The introduction remains in the Fernwick menu under Samples and Tutorials. This "
+    "setting applies to all users of this computer";
 
 inline constexpr char kSupportLink[] = "Support site with Knowledge Base";
 inline constexpr char kSamplesLink[] = "Example code and demos";

@@ -36,7 +36,7 @@ public:
     void RemoveQuinloftToolbar() { remove(items_.gMainToolbar, Toolbar::Main); }
     void RemoveSupportToolbar() { remove(items_.gSupportToolbar, Toolbar::Support); }
 
-    /// A bar that doesn't stand is left alone.
+    /// Do nothing for a bar that was not created.
     void SaveAllToolbarState();
     void RestoreAllToolbarState();
 

@@ -25,16 +25,16 @@ public:
     }
     void SetData(const std::string& format, const std::string& data) override {
         open();
-        if (told) trace_.effects.push_back("clipboard " + format);
+        if (isRecorded) trace_.effects.push_back("clipboard " + format);
         contents.emplace_back(format, data);
     }
     void Clear() override {
         open();
-        if (told) trace_.effects.push_back("clipboard cleared");
+        if (isRecorded) trace_.effects.push_back("clipboard cleared");
         contents.clear();
     }
     /// Whether changes are recorded: each face takes three lines.
-    bool told = false;
+    bool isRecorded = false;
 
 private:
     void open() const {

@@ -14,7 +14,7 @@ namespace {
 
 class Faces : public testing::Test, protected test::CommandsWorld {
 protected:
-    Faces() { pasteboard.told = true; }
+    Faces() { pasteboard.isRecorded = true; }
     test::Ref<test::TracedItem> button =
         std::make_shared<test::TracedItem>(trace, office::msoControlButton, 1, std::weak_ptr<test::TracedBar>());
 };

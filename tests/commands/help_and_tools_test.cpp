@@ -133,9 +133,9 @@ protected:
         registry.set(fernwick::HKEY_LOCAL_MACHINE, "Software\\Quinloft", "RootDir", root);
     }
     const std::string root = FERNWICK_SOURCE_DIR "/installation";
-    std::vector<std::string> told;
+    std::vector<std::string> opened;
     host::FileSystem disk;
-    host::Shell starter{disk, [this](const std::string& document) { told.push_back(document); }};
+    host::Shell starter{disk, [this](const std::string& document) { opened.push_back(document); }};
     fernwick::Platform real{user,       loop,    registry, disk,  processes, classes,     environment,
                             pasteboard, starter, screen,   clock, pictures,  platform.app};
     fernwick::modQLInstallInfo install{registry2, disk};
@@ -148,8 +148,8 @@ TEST_F(InstalledHelp, HasAPageForEachGuide) {
                     help.DisplayHelp(fernwick::kAddInGuideTopic);
                 }),
                 IsEmpty());
-    EXPECT_THAT(told, ElementsAre(root + "/VB Toolkit/doc/Quinloft_Users_Guide.html",
-                                  root + "/VB Toolkit/doc/Quinloft_AddIn_Guide.html"));
+    EXPECT_THAT(opened, ElementsAre(root + "/VB Toolkit/doc/Quinloft_Users_Guide.html",
+                                    root + "/VB Toolkit/doc/Quinloft_AddIn_Guide.html"));
     EXPECT_THAT(errors.seen, IsEmpty());
 }
 
@@ -163,8 +163,8 @@ TEST_F(InstalledHelp, IsLinkedFromTheIntroduction) {
         intro.cmdOpenLink.press();
     }
     intro.Unload();
-    EXPECT_THAT(told, ElementsAre(root + "/VB Toolkit/doc/Hello World Tutorial/hw_write.html",
-                                  root + "/VB Toolkit/Samples", root + "/VB Toolkit/doc/Quinloft_Users_Guide.html"));
+    EXPECT_THAT(opened, ElementsAre(root + "/VB Toolkit/doc/Hello World Tutorial/hw_write.html",
+                                    root + "/VB Toolkit/Samples", root + "/VB Toolkit/doc/Quinloft_Users_Guide.html"));
 }
 
 TEST(StringTable, KeepsWhatTheMenuDoesNotUse) {

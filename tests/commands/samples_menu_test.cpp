@@ -100,8 +100,8 @@ TEST_F(SamplesMenu, AFailureLosesOneBranch) {
         trace.failing = 0;
         if (trace.calls < failing) break;
         EXPECT_LE(errors.injected, 1) << failing; // faces fail silently
-        const auto standing = captions(shownMenu("Samples and Tutorials"));
-        const auto missing = test::lost({fixed[0], fixed[1], "A", fixed[2]}, standing);
+        const auto left = captions(shownMenu("Samples and Tutorials"));
+        const auto missing = test::lost({fixed[0], fixed[1], "A", fixed[2]}, left);
         EXPECT_LE(missing.size(), 1U) << failing;
     }
     EXPECT_THAT(errors.seen, testing::Contains("modMenuManagement.SetupSamplesMenu [50000]"));

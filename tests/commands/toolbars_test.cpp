@@ -189,11 +189,11 @@ TEST_F(Toolbars, AFailingCallEndsTheSetUpWithOneReport) {
         errors.seen.clear();
         trace.calls = 0;
         trace.failing = failing;
-        const bool stands = toolbars.SetupQuinloftToolbar();
+        const bool built = toolbars.SetupQuinloftToolbar();
         trace.failing = 0;
         if (trace.calls < failing) break;
         const std::vector<std::string> report{"modToolbarManagement.SetupQuinloftToolbar [50000]"};
-        if (stands)
+        if (built)
             EXPECT_TRUE(errors.seen.empty() || errors.seen[0] == "modAddinPrefsManagement.ReadToolbarState [50000]");
         else
             EXPECT_EQ(errors.seen, report);

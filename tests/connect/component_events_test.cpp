@@ -22,7 +22,7 @@ protected:
     std::vector<std::string> add(const std::string& name, vbide::vbext_ComponentType type,
                                  const std::string& file = {}) {
         project->components->fileType = type;
-        return tellAdded(component(project, name, type, file));
+        return raiseAdded(component(project, name, type, file));
     }
     std::vector<std::string> names() const {
         std::vector<std::string> all;
@@ -98,10 +98,10 @@ TEST_F(ComponentEvents, DoesNotResizeAFormFromAFile) {
 
 TEST_F(ComponentEvents, AnOpenDesignerIsWatched) {
     const auto form = component(project, "frmMine", kForm, "/p/frmMine.frm");
-    tellAdded(form);
+    raiseAdded(form);
     EXPECT_FALSE(bool(connection->ControlsEventsHandler));
     form->designerOpen = true;
-    EXPECT_THAT(tellAdded(form), Contains("sink: controls in A"));
+    EXPECT_THAT(raiseAdded(form), Contains("sink: controls in A"));
 }
 
 TEST_F(ComponentEvents, OtherTypesAreRefusedAndRemoved) {
@@ -130,7 +130,7 @@ TEST_F(ComponentEvents, WithoutAnActiveProjectNothingHappens) {
 TEST_F(ComponentEvents, ReportsAComponentRemovedInTheMeantimeOnce) {
     const auto module = component(project, "UserControl1", vbide::vbext_ct_UserControl);
     loop.Post([&] { module->removed = true; });
-    EXPECT_THAT(tellAdded(module), IsEmpty());
+    EXPECT_THAT(raiseAdded(module), IsEmpty());
     EXPECT_THAT(errors.seen, ElementsAre("Connect.CompsEventsHandler_ItemAdded [40198]"));
 }
 
@@ -233,12 +233,12 @@ protected:
 };
 
 TEST_F(FailingComponentEvents, OfAddedComponentsLoseOneStep) {
-    const auto tell = [&](const auto& made) { vbe->events->components->ItemAdded.raise(made); };
-    sweep("Module1", kModule, tell);
-    sweep("Class1", kClass, tell);
-    sweep("Form1", kForm, tell);
-    sweep("frmMine", kForm, tell);
-    sweep("UserControl1", vbide::vbext_ct_UserControl, tell);
+    const auto raise = [&](const auto& made) { vbe->events->components->ItemAdded.raise(made); };
+    sweep("Module1", kModule, raise);
+    sweep("Class1", kClass, raise);
+    sweep("Form1", kForm, raise);
+    sweep("frmMine", kForm, raise);
+    sweep("UserControl1", vbide::vbext_ct_UserControl, raise);
 }
 
 TEST_F(FailingComponentEvents, OfSelectedFormsLoseOneStep) {

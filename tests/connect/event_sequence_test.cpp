@@ -15,7 +15,7 @@ protected:
     EventSequence() {
         targets.known = {"Palm-1"};
         connect();
-        tape.heardLast();
+        tape.recordEnds();
     }
     void TearDown() override {
         EXPECT_TRUE(host.failures.empty());

@@ -7,7 +7,7 @@
 
 namespace test {
 
-/// Created before the add-in is connected, it receives each event first; after `heardLast` it also receives each
+/// Created before the add-in is connected, it receives each event first; after `recordEnds` it also receives each
 /// event's end.
 class EventTape {
 public:
@@ -24,7 +24,7 @@ public:
         keep(all->ItemRenamed.connect(
             [this](const auto& project, const auto& old) { note("renamed " + old + " " + project->Name()); }));
     }
-    void heardLast() {
+    void recordEnds() {
         const auto all = events_->VBProjectsEvents();
         for (const auto event : {&vbide::VBProjectsEvents::ItemAdded, &vbide::VBProjectsEvents::ItemRemoved,
                                  &vbide::VBProjectsEvents::ItemActivated})

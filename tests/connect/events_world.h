@@ -31,12 +31,12 @@ struct EventsWorld : ConnectWorld {
         return project;
     }
     /// Returns the effects of the event.
-    std::vector<std::string> tellAdded(const Ref<TracedProject>& project) {
+    std::vector<std::string> raiseAdded(const Ref<TracedProject>& project) {
         trace.effects.clear();
         vbe->events->projects->ItemAdded.raise(project);
         return trace.effects;
     }
-    std::vector<std::string> tellRemoved(const Ref<TracedProject>& project) {
+    std::vector<std::string> raiseRemoved(const Ref<TracedProject>& project) {
         trace.effects.clear();
         vbe->events->projects->ItemRemoved.raise(project);
         return trace.effects;
@@ -44,7 +44,7 @@ struct EventsWorld : ConnectWorld {
     /// A project that the add-in has been notified of.
     Ref<TracedProject> added(const std::string& name, const std::string& device = "Palm-1") {
         const auto project = opened(name, device);
-        tellAdded(project);
+        raiseAdded(project);
         trace.effects.clear();
         return project;
     }
@@ -55,7 +55,7 @@ struct EventsWorld : ConnectWorld {
         take(made);
         return made;
     }
-    std::vector<std::string> tellAdded(const Ref<TracedComponent>& component) {
+    std::vector<std::string> raiseAdded(const Ref<TracedComponent>& component) {
         trace.effects.clear();
         vbe->events->components->ItemAdded.raise(component);
         return trace.effects;

@@ -27,7 +27,7 @@ protected:
 };
 
 TEST_F(ProjectEvents, AddsAProjectInOrder) {
-    EXPECT_THAT(tellAdded(opened("A")),
+    EXPECT_THAT(raiseAdded(opened("A")),
                 ElementsAre("sink: files of A", "enable menu", "enable toolbar", "enable support toolbar",
                             "init zoom window", "Fernwick Messages hidden", "default target Palm-1",
                             "environment TavletStyle-DAF573D9-3AB3-4672-A6A7-6C23862A52E9", "cursor 1",
@@ -38,8 +38,8 @@ TEST_F(ProjectEvents, AddsAProjectInOrder) {
 
 TEST_F(ProjectEvents, AForeignProjectIsListedAndNotWatched) {
     const auto project = opened("A", "none");
-    EXPECT_THAT(tellAdded(project), ElementsAre("sink: files of A", "disable menu", "disable toolbar",
-                                                "disable support toolbar", "Fernwick Messages hidden", "cursor 1"));
+    EXPECT_THAT(raiseAdded(project), ElementsAre("sink: files of A", "disable menu", "disable toolbar",
+                                                 "disable support toolbar", "Fernwick Messages hidden", "cursor 1"));
     EXPECT_TRUE(projects.FindQLProject(project));
 }
 
@@ -62,7 +62,7 @@ TEST_F(ProjectEvents, AProjectOfTheOldFormatIsRemovedAndConverted) {
     const auto project = opened("A");
     set(project, "ProjectVersion", "1.0");
     project->dirty = true;
-    EXPECT_THAT(tellAdded(project), ElementsAre("sink: files of A", "A dirty 0"));
+    EXPECT_THAT(raiseAdded(project), ElementsAre("sink: files of A", "A dirty 0"));
     EXPECT_THAT(openNames(), ElementsAre("A"));
     EXPECT_THAT(turn(), ElementsAre("active A", "host: remove project", "host: import"));
 }
@@ -70,7 +70,7 @@ TEST_F(ProjectEvents, AProjectOfTheOldFormatIsRemovedAndConverted) {
 TEST_F(ProjectEvents, TheStubOpensTheProjectManagerAndIsRemoved) {
     const auto stub = opened("Stub", "");
     set(stub, "StartUpProject", kStub);
-    EXPECT_THAT(tellAdded(stub), ElementsAre("sink: files of Stub", "project manager"));
+    EXPECT_THAT(raiseAdded(stub), ElementsAre("sink: files of Stub", "project manager"));
     EXPECT_THAT(openNames(), ElementsAre("Stub"));
     EXPECT_THAT(turn(), ElementsAre("active Stub", "host: remove project"));
 }
@@ -83,14 +83,14 @@ TEST_F(ProjectEvents, AProjectOpenedByTheProjectManagerGetsItsTemplate) {
         vbe->removeActive();
         vbe->events->projects->ItemAdded.raise(fromTemplate());
     };
-    tellAdded(stub);
+    raiseAdded(stub);
     EXPECT_THAT(turn(), Contains(std::string("open ") + kTargetsOwn + " alone"));
     EXPECT_THAT(errors.seen, IsEmpty());
 }
 
 TEST_F(ProjectEvents, RemovesAProjectWithoutADevice) {
     targets.known = {"Palm-1", "Pocket-1"};
-    EXPECT_THAT(tellAdded(opened("A", "")), Contains("form frmDesignTargetNormal")); // cancelled
+    EXPECT_THAT(raiseAdded(opened("A", "")), Contains("form frmDesignTargetNormal")); // cancelled
     EXPECT_EQ(trace.effects.back(), "restore toolbars");
     EXPECT_THAT(turn(), ElementsAre("active A", "host: remove project"));
 }
@@ -100,7 +100,7 @@ protected:
     /// The effects from the question on.
     Effects decide(const fernwick::UnknownDeviceChoice& choice) {
         noted.unknownDevice = choice;
-        auto effects = tellAdded(opened("A", "Gone-9"));
+        auto effects = raiseAdded(opened("A", "Gone-9"));
         effects.erase(effects.begin(), std::find(effects.begin(), effects.end(), "unknown device of A"));
         return effects;
     }
@@ -127,14 +127,14 @@ TEST_F(UnknownDevice, ClosesTheProject) {
 TEST_F(UnknownDevice, WithoutTargetsDoesNotAsk) {
     targets.known = {};
     loop.timersAreDue = false;
-    EXPECT_THAT(tellAdded(opened("A", "Gone-9")), Not(Contains("unknown device of A")));
+    EXPECT_THAT(raiseAdded(opened("A", "Gone-9")), Not(Contains("unknown device of A")));
     loop.timersAreDue = true;
     EXPECT_THAT(turn(), ElementsAre("active A", "host: remove project")); // requested by the set-up
 }
 
 TEST_F(UnknownDevice, TheProjectMayBeRemovedWhileTheHostRuns) {
     targets.known = {};
-    EXPECT_THAT(tellAdded(opened("A", "Gone-9")), Contains("host: remove project"));
+    EXPECT_THAT(raiseAdded(opened("A", "Gone-9")), Contains("host: remove project"));
     EXPECT_EQ(trace.effects.back(), "restore toolbars");
     EXPECT_THAT(openNames(), IsEmpty());
     EXPECT_THAT(errors.seen, IsEmpty());
@@ -145,7 +145,7 @@ TEST_F(UnknownDevice, TheProjectMayBeRemovedWhileTheHostRuns) {
 TEST_F(ProjectEvents, ReplacesTheHostsTemplateByTheTargets) {
     targets.templates.project = kTargetsOwn;
     const auto project = fromTemplate();
-    tellAdded(project);
+    raiseAdded(project);
     EXPECT_TRUE(connection->TemplateReloadPending);
     EXPECT_EQ(trace.effects.back(), "restore toolbars");
     EXPECT_FALSE(did("add component 5"));
@@ -160,7 +160,7 @@ TEST_F(ProjectEvents, TheReloadedTemplateIsSetUpAndGetsItsFirstForm) {
     const auto project = fromTemplate("Palm-1");
     files.files["/vb/Template/Projects/modBase.bas"] = {};
     component(project, "modBase", vbide::vbext_ct_StdModule, "/vb/Template/Projects/modBase.bas")->dirty = true;
-    const auto effects = tellAdded(project);
+    const auto effects = raiseAdded(project);
     EXPECT_FALSE(connection->TemplateReloadPending);
     const Effects order{"OpenedFromQLTemplate=True",
                         "modBase saved /vb/Template/Projects/modBase.bas",
@@ -182,13 +182,13 @@ TEST_F(ProjectEvents, TheReloadedTemplateIsSetUpAndGetsItsFirstForm) {
 TEST_F(ProjectEvents, DoesNotReloadAReloadedTemplate) {
     targets.templates.project = kTargetsOwn;
     connection->TemplateReloadPending = true;
-    EXPECT_THAT(tellAdded(fromTemplate()), Contains("add component 5")); // gets the only device
+    EXPECT_THAT(raiseAdded(fromTemplate()), Contains("add component 5")); // gets the only device
     EXPECT_FALSE(loop.hasTimers());
 }
 
 TEST_F(ProjectEvents, WithoutATemplateOfTheTargetKeepsTheHosts) {
     const auto project = fromTemplate();
-    EXPECT_THAT(tellAdded(project), Contains("add component 5"));
+    EXPECT_THAT(raiseAdded(project), Contains("add component 5"));
     EXPECT_EQ(project->components->startUp.component, project->components->list.front());
     EXPECT_EQ(project->stored("OpenedFromQLTemplate"), "(none)");
     EXPECT_FALSE(loop.hasTimers());
@@ -202,7 +202,7 @@ TEST_F(ProjectEvents, TheProjectStartsWithAFormsTemplate) {
         if (made->name == "New1") made->name = "Form1";
         next(made);
     };
-    EXPECT_THAT(tellAdded(project), Contains("start up /install/Form.frm"));
+    EXPECT_THAT(raiseAdded(project), Contains("start up /install/Form.frm"));
     EXPECT_THAT(turn(), ElementsAre("remove component Form1"));
 }
 
@@ -210,12 +210,12 @@ TEST_F(ProjectEvents, AProjectWithComponentsIsNotNew) {
     targets.templates.project = kTargetsOwn;
     const auto project = fromTemplate("Palm-1");
     component(project, "Form1", vbide::vbext_ct_VBForm);
-    EXPECT_THAT(tellAdded(project), Not(Contains("add component 5")));
+    EXPECT_THAT(raiseAdded(project), Not(Contains("add component 5")));
     EXPECT_FALSE(loop.hasTimers());
 }
 
 TEST_F(ProjectEvents, AnEmptyProjectOfTheUsersStaysEmpty) {
-    EXPECT_THAT(tellAdded(opened("A")), Not(Contains("add component 5")));
+    EXPECT_THAT(raiseAdded(opened("A")), Not(Contains("add component 5")));
 }
 
 // ---- closing, renaming, activating ---------------------------------------------------------------------------------------
@@ -225,8 +225,8 @@ TEST_F(ProjectEvents, ClosingSavesChanges) {
     opened("B");
     project->dirty = true;
     messages.showToolWindow();
-    EXPECT_THAT(tellRemoved(project), ElementsAre("Visible=TRUE", "A saved /p/A.vbp", "A dirty 0", "recent A",
-                                                  "save toolbars", "save zoom window"));
+    EXPECT_THAT(raiseRemoved(project), ElementsAre("Visible=TRUE", "A saved /p/A.vbp", "A dirty 0", "recent A",
+                                                   "save toolbars", "save zoom window"));
     EXPECT_FALSE(projects.FindQLProject(project));
 }
 
@@ -234,7 +234,7 @@ TEST_F(ProjectEvents, ClosingASavedProjectSavesNothing) {
     const auto project = added("A");
     opened("B");
     messages.showToolWindow();
-    EXPECT_THAT(tellRemoved(project), ElementsAre("recent A", "save toolbars", "save zoom window"));
+    EXPECT_THAT(raiseRemoved(project), ElementsAre("recent A", "save toolbars", "save zoom window"));
 }
 
 TEST_F(ProjectEvents, ClosingAProjectOfAnUnknownDeviceSavesNothing) {
@@ -242,36 +242,36 @@ TEST_F(ProjectEvents, ClosingAProjectOfAnUnknownDeviceSavesNothing) {
     const auto project = added("A", "Gone-9");
     opened("B");
     project->dirty = true;
-    EXPECT_THAT(tellRemoved(project), ElementsAre("recent A", "save toolbars", "save zoom window"));
+    EXPECT_THAT(raiseRemoved(project), ElementsAre("recent A", "save toolbars", "save zoom window"));
 }
 
 TEST_F(ProjectEvents, ATemplateIsNotRemembered) {
     const auto project = added("A");
     opened("B");
     project->file = "/vb/Template/Projects/Fernwick Project.vbp";
-    EXPECT_THAT(tellRemoved(project), ElementsAre("save toolbars", "save zoom window"));
+    EXPECT_THAT(raiseRemoved(project), ElementsAre("save toolbars", "save zoom window"));
 }
 
 TEST_F(ProjectEvents, ClosingTheStubStoresNothing) {
     const auto project = added("A");
     opened("B");
     set(project, "StartUpProject", kStub);
-    EXPECT_THAT(tellRemoved(project), IsEmpty());
+    EXPECT_THAT(raiseRemoved(project), IsEmpty());
 }
 
 TEST_F(ProjectEvents, ClosingOldAndForeignProjectsStoresNothing) {
     const auto old = added("A"), foreign = added("B", "none");
     set(old, "ProjectVersion", "1.0");
     old->dirty = foreign->dirty = true;
-    EXPECT_THAT(tellRemoved(old), IsEmpty());
-    EXPECT_THAT(tellRemoved(foreign), IsEmpty());
+    EXPECT_THAT(raiseRemoved(old), IsEmpty());
+    EXPECT_THAT(raiseRemoved(foreign), IsEmpty());
     EXPECT_FALSE(projects.FindQLProject(old) || projects.FindQLProject(foreign));
 }
 
 TEST_F(ProjectEvents, ClosingTheLastProjectDisablesTheInterface) {
     const auto project = added("A", "none");
     messages.showToolWindow();
-    EXPECT_THAT(tellRemoved(project),
+    EXPECT_THAT(raiseRemoved(project),
                 ElementsAre("disable menu", "disable toolbar", "disable support toolbar", "Fernwick Messages hidden"));
 }
 
@@ -280,12 +280,12 @@ TEST_F(ProjectEvents, TheCommandLineStoresNothingOfTheDesktop) {
     opened("B");
     addIn.gConnectMode = vbide::vbext_cm_CommandLine;
     project->dirty = true;
-    EXPECT_THAT(tellRemoved(project), ElementsAre("A saved /p/A.vbp", "A dirty 0"));
+    EXPECT_THAT(raiseRemoved(project), ElementsAre("A saved /p/A.vbp", "A dirty 0"));
 }
 
 TEST_F(ProjectEvents, ClosingAnUnknownProjectIsSilent) {
     opened("B");
-    EXPECT_THAT(tellRemoved(opened("A")), IsEmpty());
+    EXPECT_THAT(raiseRemoved(opened("A")), IsEmpty());
     EXPECT_THAT(errors.seen, IsEmpty());
 }
 
@@ -329,7 +329,7 @@ TEST_F(ProjectEvents, LeavingAClosedProjectIsNoError) {
     added("Other");
     const auto gone = added("A"), next = added("B");
     vbe->events->projects->ItemActivated.raise(gone);
-    tellRemoved(gone);
+    raiseRemoved(gone);
     std::erase(vbe->projects->list, gone);
     gone->removed = true;
     vbe->events->projects->ItemActivated.raise(next);
