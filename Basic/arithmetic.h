@@ -32,14 +32,14 @@ T Multiply(T a, std::type_identity_t<T> b) {
     return product;
 }
 
-/// -a, for a Byte an Integer, as it has no negative numbers.
+/// Returns -a. The result for a Byte is an Integer, since a Byte cannot be negative.
 template <WholeNumber T>
 auto Negate(T a) {
     using Result = std::conditional_t<std::same_as<T, Byte>, Integer, T>;
     return Subtract<Result>(0, a);
 }
 
-/// VB's \: the quotient without its decimals.
+/// VB's \: the quotient, truncated.
 template <WholeNumber T>
 T IntegerDivide(T a, std::type_identity_t<T> b) {
     if (b == 0) throw RuntimeError(kDivisionByZero);
@@ -49,7 +49,7 @@ T IntegerDivide(T a, std::type_identity_t<T> b) {
     return static_cast<T>(a / b);
 }
 
-/// VB's Mod: what \ leaves, with the sign of `a`.
+/// VB's Mod: the remainder of \, with the sign of `a`.
 template <WholeNumber T>
 T Mod(T a, std::type_identity_t<T> b) {
     if (b == 0) throw RuntimeError(kDivisionByZero);
@@ -59,11 +59,11 @@ T Mod(T a, std::type_identity_t<T> b) {
     return static_cast<T>(a % b);
 }
 
-/// VB's ^, whose result is always a Double. Error 5 for a negative base with an exponent that has decimals and for 0
-/// with a negative exponent; 6 for a result too large.
+/// VB's ^, whose result is always a Double. Error 5 for a negative base with a fractional exponent and for 0 with a
+/// negative exponent; 6 for an overflow.
 Double Power(Double base, Double exponent);
 
-/// VB's /, whose result is a Double. Error 11 for a divisor of 0, but 6 for 0 / 0; 6 for a result too large.
+/// VB's /, whose result is a Double. Error 11 for a divisor of 0, but 6 for 0 / 0; 6 for an overflow.
 Double Divide(Double a, Double b);
 
 template <WholeNumber T>

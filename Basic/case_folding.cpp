@@ -9,7 +9,7 @@ namespace {
 
 constexpr char32_t kBeyondCharacters = 0x110000;
 
-/// The next character folded; a byte of none is itself, behind all characters.
+/// The next character, folded. A byte that is not part of a character is returned as a value above all characters.
 char32_t nextFolded(std::string_view text, std::size_t& at) noexcept {
     const auto byte = static_cast<unsigned char>(text[at]);
     if (byte < 0x80) return ++at, byte >= 'A' && byte <= 'Z' ? byte + 0x20U : byte;

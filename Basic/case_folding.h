@@ -1,5 +1,5 @@
 #pragma once
-// Texts without regard to letter case, by Unicode's simple folding: character by character, the same everywhere.
+// Comparison of texts ignoring case, by Unicode's simple case folding: per character and independent of the locale.
 #include <compare>
 #include <cstddef>
 #include <string>
@@ -7,25 +7,25 @@
 
 namespace basic {
 
-/// How two texts are compared, under VB's names.
+/// VB's names for the ways of comparing texts.
 enum VbCompareMethod { vbBinaryCompare = 0, vbTextCompare = 1 };
 
-/// One character's folded form.
+/// Returns the folded form of a character.
 char32_t foldCharacter(char32_t character) noexcept;
 
-/// The text with each character folded: equal for texts that differ in letter case only.
+/// Folds each character. The results are equal for texts that differ only in case.
 std::string foldCase(std::string_view text);
 
-/// Whether the texts differ in letter case at most.
+/// True if the texts are equal, ignoring case.
 bool equalNoCase(std::string_view a, std::string_view b) noexcept;
 
-/// The order of the folded texts by code point. Equivalent means equalNoCase.
+/// Compares the folded texts by code point; equivalent if equalNoCase.
 std::weak_ordering compareNoCase(std::string_view a, std::string_view b) noexcept;
 
-/// Whether `text` begins with `beginning`, letter case aside.
+/// True if `text` begins with `beginning`, ignoring case.
 bool startsWithNoCase(std::string_view text, std::string_view beginning) noexcept;
 
-// For containers whose keys disregard letter case; each looks up by string_view without a copy.
+// For containers with case-insensitive keys. Lookups by string_view need no copy.
 struct NoCaseHash {
     using is_transparent = void;
     std::size_t operator()(std::string_view text) const noexcept;

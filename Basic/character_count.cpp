@@ -10,7 +10,7 @@ namespace {
 
 constexpr bool continuesCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0) == 0x80; }
 
-/// How many of eight bytes begin a character.
+/// Returns how many of eight bytes begin a character.
 std::size_t beginningsInWord(const char* bytes) {
     std::uint64_t word;
     std::memcpy(&word, bytes, sizeof word);

@@ -1,14 +1,14 @@
 #pragma once
-// From characters to bytes of a text, and back.
+// Conversion between character and byte positions of a text.
 #include <cstddef>
 #include <string_view>
 
 namespace basic {
 
-/// How many characters a text has: its bytes that continue no other.
+/// Returns the number of characters: of bytes that are not continuation bytes.
 std::size_t countCharacters(std::string_view text) noexcept;
 
-/// The byte at which the character number `index`, from 0, begins; the text's size when there are not as many.
+/// Returns the position of the character `index`, from 0; the size of the text if it has fewer characters.
 std::size_t characterOffset(std::string_view text, std::size_t index) noexcept;
 
 } // namespace basic

@@ -22,7 +22,7 @@ constexpr PageName kPageNames[] = {
     {1258, "windows-1258"},
 };
 
-/// Windows-1252's characters 80 to 9F; all others are those of Latin-1.
+/// The characters 80 to 9F of Windows-1252; all others are those of Latin-1.
 constexpr std::array<char16_t, 32> k1252 = {0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
                                             0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
                                             0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
@@ -45,8 +45,8 @@ struct Page1252 {
     }
 };
 
-/// UTF-8 in which a byte that belongs to no character, and each byte of a character that stands for one, is told by
-/// such a character.
+/// UTF-8 with a private-use character for each byte that is not part of a character, and for each byte of such a
+/// private-use character in the input.
 struct PageUtf8 {
     static char32_t next(std::string_view bytes, std::size_t& at) noexcept {
         const std::size_t first = at;

@@ -1,5 +1,5 @@
 #pragma once
-// Windows code pages: the bytes of VB's files as UTF-8 text and back, without losing one.
+// Windows code pages: lossless conversion between the bytes of VB's files and UTF-8.
 #include <memory>
 #include <optional>
 #include <string>
@@ -9,36 +9,36 @@ namespace basic {
 
 class CodePageTable;
 
-/// A code page of Windows: 874, 932, 936, 949, 950, 1250 to 1258, or 65001 for UTF-8. Cheap to copy; one object may
-/// be used by several threads at once. Building a double-byte page takes some milliseconds: keep it.
+/// A Windows code page: 874, 932, 936, 949, 950, 1250 to 1258, or 65001 for UTF-8. Cheap to copy and thread-safe.
+/// Constructing a double-byte page takes some milliseconds, so keep it.
 ///
 /// encode(decode(bytes)) is `bytes` for every byte string. Windows-1252's five undefined bytes are U+0081, U+008D,
-/// U+008F, U+0090 and U+009D. In the other pages each byte that has no character, or whose character belongs to
-/// other bytes, is the private-use character U+F700 + byte.
+/// U+008F, U+0090 and U+009D. In the other pages each byte without a character, or whose character is encoded by
+/// other bytes, becomes the private-use character U+F700 + byte.
 class CodePage {
 public:
-    /// The page of western Windows, VB's default.
+    /// The western European page, VB's default.
     static CodePage windows1252() noexcept { return CodePage(); }
 
-    /// Error 5 for a number that is not one of the above.
+    /// Error 5 for a number not listed above.
     explicit CodePage(int number);
 
     int number() const noexcept { return number_; }
 
-    /// The bytes as UTF-8 text. Never fails.
+    /// Returns the bytes as UTF-8. Never fails.
     std::string decode(std::string_view bytes) const;
 
-    /// The text's bytes. Error 5 when the page lacks a character of it, or when it is no well-formed UTF-8.
+    /// Returns the text in this page. Error 5 if the page lacks a character, or the text is not well-formed UTF-8.
     std::string encode(std::string_view utf8) const;
 
-    /// As encode, but nothing instead of the error.
+    /// As encode, but returns nothing instead of raising the error.
     std::optional<std::string> tryEncode(std::string_view utf8) const;
 
 private:
     CodePage() noexcept = default;
 
     int number_ = 1252;
-    std::shared_ptr<const CodePageTable> table_; // absent for 1252 and 65001, which need none
+    std::shared_ptr<const CodePageTable> table_; // null for 1252 and 65001, which need no table
 };
 
 } // namespace basic

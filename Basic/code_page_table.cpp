@@ -7,7 +7,7 @@ namespace basic {
 
 namespace {
 
-/// ICU's converter, told to stop at what it can't convert and to use no look-alikes.
+/// ICU's converter, configured to stop at errors and not to use fallback mappings.
 class StrictConverter {
 public:
     explicit StrictConverter(const char* name) {
@@ -20,7 +20,7 @@ public:
         if (U_FAILURE(status)) throw RuntimeError(kInvalidProcedureCall);
     }
 
-    /// The one character that is these bytes and that these bytes are; 0 for none.
+    /// The character that converts to these bytes and back; 0 for none.
     char16_t characterOf(std::string_view bytes) const {
         UErrorCode status = U_ZERO_ERROR;
         char16_t character[4] = {};

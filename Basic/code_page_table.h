@@ -8,22 +8,22 @@
 
 namespace basic {
 
-/// First of the private-use characters that stand for bytes without a character: U+F700 + byte, byte 80 to FF.
+/// The first of the private-use characters for bytes without a character: U+F700 + byte, byte 80 to FF.
 inline constexpr char32_t kBytePlane = 0xF700;
 
-/// Whether the character stands for a byte that has none.
+/// True for a character that represents such a byte.
 constexpr bool standsForByte(char32_t c) { return c >= kBytePlane + 0x80 && c <= kBytePlane + 0xFF; }
 
-/// The characters of one code page that come back as the bytes that they were; bytes below 80 are ASCII in all of
-/// them. Built from ICU's converter.
+/// The characters of a code page that can be converted back to the same bytes. Bytes below 80 are ASCII in all pages.
+/// Built from ICU's converter.
 class CodePageTable {
 public:
     explicit CodePageTable(const char* icuName);
 
-    /// The character at byte `at`, which moves behind it.
+    /// Returns the character at byte `at` and advances `at`.
     char32_t next(std::string_view bytes, std::size_t& at) const noexcept;
 
-    /// Appends the character's bytes; false when the page lacks it.
+    /// Appends the bytes of a character. Returns false if the page lacks it.
     bool append(std::string& bytes, char32_t character) const;
 
 private:

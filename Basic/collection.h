@@ -15,7 +15,7 @@
 
 namespace basic {
 
-/// How an item of a collection is named: by its place, counted from 1, or by its key. Keeps no copy of the key.
+/// Identifies an item of a collection by its index, from 1, or by its key. Does not copy the key.
 class CollectionIndex {
 public:
     CollectionIndex(std::integral auto place) : index_(static_cast<std::int64_t>(place)) {}
@@ -30,16 +30,16 @@ private:
     std::variant<std::int64_t, std::string_view> index_;
 };
 
-/// Items in order, some with a key of their own; letter case of keys counts for nothing. Finding by key takes constant
-/// time, everything else that concerns one item logarithmic time. An index outside 1 to Count is error 9, a key that
-/// no item has is error 5. A failed call changes nothing.
+/// Items in order, optionally with keys, which are case-insensitive. Lookup by key takes constant time, all other
+/// operations on one item take logarithmic time. An index outside 1 to Count is error 9, an unknown key is error 5. A
+/// failed call changes nothing.
 template <class T>
 class Collection {
 public:
     Long Count() const noexcept { return static_cast<Long>(items_.size()); }
 
-    /// Appends an item, or puts it before or after another one. Error 457 for a key that is there already, 5 for
-    /// before and after at once.
+    /// Appends an item, or inserts it before or after another one. Error 457 for a duplicate key, 5 if both before
+    /// and after are given.
     void Add(T item, std::optional<std::string> key = std::nullopt,
              std::optional<CollectionIndex> before = std::nullopt,
              std::optional<CollectionIndex> after = std::nullopt) {
@@ -56,7 +56,7 @@ public:
     const T& Item(CollectionIndex index) const { return find(index)->value.item; }
     T& Item(CollectionIndex index) { return find(index)->value.item; }
 
-    /// Whether there is such an item, for what in VB takes a suppressed error.
+    /// True if there is such an item. VB code finds out by suppressing an error.
     bool contains(std::string_view key) const { return keys_.find(key) != keys_.end(); }
 
     void Remove(CollectionIndex index) {
@@ -70,7 +70,7 @@ public:
         items_.clear();
     }
 
-    /// The items in order, to walk over while the collection changes.
+    /// Returns a copy of the items, which can be iterated while the collection changes.
     std::vector<T> items() const {
         std::vector<T> copy;
         copy.reserve(items_.size());
@@ -79,7 +79,7 @@ public:
     }
 
     Collection() = default;
-    Collection(const Collection&) = delete; // VB shares collections; a Ref does
+    Collection(const Collection&) = delete; // collections are shared by Ref, as in VB
     Collection& operator=(const Collection&) = delete;
 
 private:
@@ -88,7 +88,7 @@ private:
     using Keys = std::unordered_map<std::string, Node*, NoCaseHash, NoCaseEqual>;
     struct Entry {
         T item;
-        const std::string* key; // in keys_; null for none
+        const std::string* key; // in keys_; null without a key
     };
 
     Node* find(CollectionIndex index) const {

@@ -44,7 +44,7 @@ std::string withExponent(std::string digits, int exponent) {
     return digits + (exponent < 0 ? "E-" : "E+") + (power.size() < 2 ? "0" : "") + power;
 }
 
-/// Digits d1d2d3... that mean d1.d2d3... times ten to the `exponent`, in at most `most` places where that does.
+/// Writes the digits d1d2d3..., meaning d1.d2d3... * 10^`exponent`, without an exponent if `most` digits are enough.
 std::string layOut(std::string digits, int exponent, int most) {
     const int count = static_cast<int>(digits.size());
     if (exponent >= most || count - 1 - exponent > most) return withExponent(std::move(digits), exponent);
@@ -94,7 +94,7 @@ Double CDbl(const Convertible& value) { return value.number(); }
 
 Single CSng(const Convertible& value) {
     const Double number = value.number();
-    // Half a step beyond the largest Single everything rounds to infinity.
+    // From half a step beyond the largest Single on, values round to infinity.
     if (std::abs(number) >= 0x1.FFFFFFp127) throw RuntimeError(kOverflow);
     return static_cast<Single>(number);
 }

@@ -1,5 +1,5 @@
 #pragma once
-// VB's conversion functions. What they read and write is always en-US, whatever the machine's customs: "." before
+// VB's conversion functions. They always use the en-US format, independent of the machine's locale: "." before
 // decimals, "," between groups of digits, "$", dates month first.
 #include "Basic/types.h"
 #include <concepts>
@@ -12,7 +12,7 @@ namespace basic {
 template <class T>
 concept Number = std::is_arithmetic_v<T> && !std::same_as<T, bool> && !std::same_as<T, char>;
 
-/// What a conversion takes: a number, a Boolean (True is -1) or a text.
+/// The argument of a conversion: a number, a Boolean (True is -1) or a text.
 class Convertible {
 public:
     Convertible(std::same_as<bool> auto value) : number_(value ? -1 : 0) {}
@@ -25,7 +25,7 @@ public:
 
     const std::optional<std::string_view>& text() const { return text_; }
 
-    /// The number, a text read as one: error 13 when it is none, 6 when it is too large.
+    /// Returns the number, or parses the text: error 13 if it is not a number, 6 if it is too large.
     Double number() const;
 
 private:
@@ -33,12 +33,12 @@ private:
     std::optional<std::string_view> text_;
 };
 
-/// False for 0 and the word "False", True for other numbers and the word "True", letter case and surrounding blanks
-/// aside. Error 13 for other texts.
+/// Returns False for 0 and "False", True for other numbers and "True", ignoring case and surrounding blanks. Error 13
+/// for other texts.
 bool CBool(const Convertible& value);
 
-/// The nearest whole number, of two the even one. Texts that are no number are error 13, numbers beyond the type's
-/// range error 6. A text such as "&HFFFF" is a bit pattern of the type: CInt makes -1 of it, CLng 65535.
+/// Rounds to the nearest whole number, halves to even. Error 13 for a text that is not a number, 6 for a number out of
+/// range. A text such as "&HFFFF" is a bit pattern of the type: CInt returns -1, CLng 65535.
 Byte CByte(const Convertible& value);
 Integer CInt(const Convertible& value);
 Long CLng(const Convertible& value);
@@ -47,11 +47,11 @@ Long CLng(const Convertible& value);
 Single CSng(const Convertible& value);
 Double CDbl(const Convertible& value);
 
-/// To the nearest ten-thousandth, of two the even one; a text is read exactly. Errors 13 and 6 as above.
+/// Rounds to the nearest ten-thousandth, halves to even. Texts are parsed exactly. Errors 13 and 6 as above.
 Currency CCur(const Convertible& value);
 
-/// VB's texts: "True" and "False"; 7 significant digits of a Single and 15 of a Double, as "1E+20" when that number of
-/// digits does not do without an exponent; a Currency's decimals without closing zeros.
+/// VB's texts: "True" and "False"; a Single with 7 and a Double with 15 significant digits, with an exponent ("1E+20")
+/// if these digits are not enough; a Currency without trailing zeros.
 std::string CStr(std::same_as<bool> auto value) { return value ? "True" : "False"; }
 std::string CStr(Byte number);
 std::string CStr(Integer number);
@@ -60,17 +60,17 @@ std::string CStr(Single number);
 std::string CStr(Double number);
 std::string CStr(Currency number);
 
-/// Without decimals: Fix drops them, Int goes down to the next whole number.
+/// Fix truncates; Int rounds down.
 Double Fix(const Convertible& value);
 Double Int(const Convertible& value);
 
-/// To `digits` decimals, 0 to 22, halves to the even one. Error 5 for other digits.
+/// Rounds to `digits` decimals, halves to even. Error 5 unless `digits` is in 0 to 22.
 Double Round(const Convertible& value, Long digits = 0);
 
 /// -1, 0 or 1.
 Integer Sgn(const Convertible& value);
 
-/// The magnitude. Error 6 for the lowest Integer and the lowest Long.
+/// The absolute value. Error 6 for the lowest Integer and the lowest Long.
 Integer Abs(Integer number);
 Long Abs(Long number);
 Double Abs(Double number) noexcept;

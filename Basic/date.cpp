@@ -15,20 +15,20 @@ using std::chrono::sys_days;
 using std::chrono::year_month_day;
 
 constexpr sys_days kDayZero = sys_days(std::chrono::year(1899) / 12 / 30);
-constexpr Double kFirstDay = -657434, kBehindLastDay = 2958466; // January 1 of 100 and of 10000
+constexpr Double kFirstDay = -657434, kAfterLastDay = 2958466; // January 1 of 100 and of 10000
 constexpr int kSecondsOfDay = 86400;
 constexpr std::array<std::string_view, 12> kMonths = {"january",   "february", "march",    "april",
                                                       "may",       "june",     "july",     "august",
                                                       "september", "october",  "november", "december"};
 
 Double requireDay(Double days) {
-    if (!(days > kFirstDay - 1 && days < kBehindLastDay)) throw RuntimeError(kOverflow);
+    if (!(days > kFirstDay - 1 && days < kAfterLastDay)) throw RuntimeError(kOverflow);
     return days;
 }
 
 [[noreturn]] void refuseDate() { throw RuntimeError(kTypeMismatch); }
 
-/// A number, a word or a mark of a date's text.
+/// A number, word or punctuation mark of a date.
 struct DateToken {
     enum Kind { kNumber, kWord, kMark } kind;
     std::string_view text;
@@ -70,7 +70,7 @@ int monthOf(std::string_view word) {
     return 0;
 }
 
-/// Reads the tokens of one text from left to right.
+/// Parses the tokens of a text from left to right.
 class DateReader {
 public:
     explicit DateReader(std::string_view text) : tokens_(tokensOf(text)) {}

@@ -21,7 +21,7 @@ bool take(std::string_view& text, char wanted) {
     return true;
 }
 
-/// The exponent behind a mantissa, 0 and nothing taken when none stands there.
+/// Removes and returns the exponent after a mantissa; 0 if there is none.
 Long readExponent(std::string_view& text) {
     std::string_view rest = text;
     if (!take(rest, 'e') && !take(rest, 'd')) return 0;
@@ -41,11 +41,11 @@ int digitValue(char c) {
     return c >= 'a' && c <= 'f' ? c - 'a' + 10 : 16;
 }
 
-/// What may stand around a number, each once.
+/// The marks allowed around a number, each once.
 struct Surroundings {
     bool sign = false, negative = false, currency = false, open = false, closed = false;
 
-    /// Takes one thing; false when something else stands there.
+    /// Removes one mark. Returns false if there is none.
     bool takeFrom(std::string_view& text, bool before) {
         if (text.empty()) return false;
         const char c = text.front();
@@ -71,7 +71,7 @@ Decimal decimalOf(const BitPattern& pattern, int bits) {
     return {negative, size == 0 ? "" : std::to_string(size), 0};
 }
 
-/// Whether the digits from `at` on are more than a half (1), a half (0) or less (-1) of the digit before.
+/// Compares the digits from `at` on with half a unit of the digit before: more (1), equal (0) or less (-1).
 int compareWithHalf(std::string_view digits, std::size_t at) {
     if (digits[at] != '5') return digits[at] > '5' ? 1 : -1;
     return digits.find_first_not_of('0', at + 1) == digits.npos ? 0 : 1;
@@ -81,21 +81,21 @@ int compareWithHalf(std::string_view digits, std::size_t at) {
 
 std::optional<Decimal> readUnsigned(std::string_view& text, bool grouped) {
     Decimal number;
-    bool any = false, behindPoint = false;
-    Long behind = 0;
+    bool any = false, decimal = false;
+    Long decimals = 0;
     for (; !text.empty(); text.remove_prefix(1)) {
         const char c = text.front();
         if (isDigit(c)) {
             if (c != '0' || !number.digits.empty()) number.digits += c;
-            behind += behindPoint;
+            decimals += decimal;
             any = true;
-        } else if (c == '.' && !behindPoint)
-            behindPoint = true;
-        else if (!(c == ',' && grouped && any && !behindPoint))
+        } else if (c == '.' && !decimal)
+            decimal = true;
+        else if (!(c == ',' && grouped && any && !decimal))
             break;
     }
     if (!any) return std::nullopt;
-    number.exponent = readExponent(text) - std::min(behind, kExponentLimit);
+    number.exponent = readExponent(text) - std::min(decimals, kExponentLimit);
     return number;
 }
 
@@ -147,7 +147,7 @@ Currency toCurrency(const Decimal& number) {
     constexpr std::int64_t kDecimals = 4, kMostDigits = 19;
     const std::string& digits = number.digits;
     const auto size = static_cast<std::int64_t>(digits.size());
-    const std::int64_t whole = size + number.exponent + kDecimals; // of the digits those that Currency holds
+    const std::int64_t whole = size + number.exponent + kDecimals; // the digits that Currency keeps
     if (digits.empty() || whole < 0) return {};
     if (whole > kMostDigits) throw RuntimeError(kOverflow);
     std::uint64_t magnitude = 0;

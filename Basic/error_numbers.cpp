@@ -11,7 +11,7 @@ struct StandardError {
     std::string_view description;
 };
 
-/// In the order of the numbers.
+/// Sorted by number.
 constexpr StandardError kStandardErrors[] = {
     {kReturnWithoutGoSub, "Return without GoSub"},
     {kInvalidProcedureCall, "Invalid procedure call or argument"},

@@ -1,5 +1,5 @@
 #pragma once
-// VB's run-time error numbers under names, and their standard texts.
+// Names for VB's run-time error numbers, and their standard descriptions.
 #include <string_view>
 
 namespace basic {
@@ -152,7 +152,7 @@ enum ErrorNumber : int {
     kErrorLoadingFromFile = 31037,
 };
 
-/// The standard text of a number; "Application-defined or object-defined error" for one that has none.
+/// Returns the standard description of a number; "Application-defined or object-defined error" if it has none.
 std::string_view standardDescription(int number) noexcept;
 
 } // namespace basic

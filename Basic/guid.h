@@ -9,7 +9,7 @@
 
 namespace basic {
 
-/// A GUID under the names that Windows gives its parts. Data4 holds bytes in the order of the text.
+/// A GUID with Windows' names for its parts. Data4 has the bytes in the order of the text.
 struct GUID {
     std::uint32_t Data1 = 0;
     std::uint16_t Data2 = 0, Data3 = 0;
@@ -17,13 +17,13 @@ struct GUID {
     friend auto operator<=>(const GUID&, const GUID&) = default;
 };
 
-/// A GUID's text, with braces or without, in any letter case; nothing for another text.
+/// Parses a GUID with or without braces, in any letter case; nothing for any other text.
 std::optional<GUID> parseGuid(std::string_view text) noexcept;
 
-/// In braces and capital letters.
+/// Formats a GUID in braces and upper case.
 std::string guidText(const GUID& guid);
 
-/// A random one (RFC 4122, version 4). Error 51 when the system has no random numbers to give.
+/// Returns a random GUID (RFC 4122, version 4). Error 51 if the system cannot provide random numbers.
 GUID newGuid();
 
 } // namespace basic

@@ -11,10 +11,10 @@ struct LikeRange {
     char32_t first, last;
 };
 
-/// One character of a text: a star stands for any number of them.
+/// A pattern for one character, or for any number of them.
 struct LikeToken {
     bool star = false;
-    bool others = false; // fits what is in none of the ranges
+    bool others = false; // matches characters outside the ranges
     std::vector<LikeRange> ranges;
 
     bool fits(char32_t character) const {
@@ -41,7 +41,7 @@ std::u32string charactersOf(std::string_view text, VbCompareMethod compare) {
 
 [[noreturn]] void refusePattern() { throw RuntimeError(kInvalidPatternString); }
 
-/// The list from behind its "[" on; `at` moves behind its "]".
+/// Parses a list. `at` is after its "[" and moves after its "]".
 LikeToken parseList(std::u32string_view pattern, std::size_t& at) {
     LikeToken token;
     const std::size_t end = pattern.find(U']', at);
@@ -78,7 +78,7 @@ std::vector<LikeToken> parsePattern(std::u32string_view pattern) {
     return tokens;
 }
 
-/// Goes back to the last star only: an earlier one could not do better than it.
+/// Backtracks only to the last star; earlier ones cannot lead to further matches.
 bool matchTokens(std::u32string_view text, const std::vector<LikeToken>& tokens) {
     constexpr std::size_t kNoStar = static_cast<std::size_t>(-1);
     std::size_t at = 0, token = 0, star = kNoStar, starAt = 0;

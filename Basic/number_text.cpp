@@ -24,7 +24,7 @@ std::string withPlaceForSign(std::string text) {
     return text;
 }
 
-/// The beginning of a text without what Val does not see, up to the first character that no number has.
+/// The start of a text without the characters that Val ignores, up to the first one that cannot be part of a number.
 std::string numberBeginning(std::string_view text) {
     std::string seen;
     for (const char c : text) {
@@ -37,7 +37,7 @@ std::string numberBeginning(std::string_view text) {
     return seen;
 }
 
-/// As in the language's literals, up to FFFF it is an Integer, beyond it a Long; a closing "&" makes it a Long.
+/// As for literals: an Integer up to FFFF, otherwise a Long; a final "&" makes it a Long.
 Long literalValue(const BitPattern& pattern) {
     if (pattern.value > 0xFFFFFFFF) throw RuntimeError(kOverflow);
     const bool isLong = pattern.isLong || pattern.value > 0xFFFF;

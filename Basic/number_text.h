@@ -1,29 +1,29 @@
 #pragma once
-// Numbers as texts and back, by VB's functions that know no country's customs.
+// VB's locale-independent functions for numbers and texts.
 #include "Basic/types.h"
 #include <string>
 #include <string_view>
 
 namespace basic {
 
-/// A number's hexadecimal or octal digits: of a negative one those of its two's complement in its own width.
+/// Returns hexadecimal or octal digits; for a negative number those of its two's complement in the width of its type.
 std::string Hex(Integer number);
 std::string Hex(Long number);
 std::string Oct(Integer number);
 std::string Oct(Long number);
 
-/// As CStr, with a blank in the place of the sign of a positive number and no zero before the point.
+/// As CStr, but with a blank instead of a positive sign and without a zero before the point.
 std::string Str(Long number);
 std::string Str(Single number);
 std::string Str(Double number);
 std::string Str(Currency number);
 
-/// The number that a text begins with, 0 for none. Blanks, tabs and line feeds count for nothing, even between
-/// digits; the exponent's letter is E or D; &H and &O numbers are read as literals, so that &HFFFF is -1.
-/// Error 6 for a number too large, no other.
+/// Parses the number at the start of a text, 0 if there is none. Ignores blanks, tabs and line feeds, even between
+/// digits. The exponent's letter is E or D. &H and &O numbers are parsed as literals: &HFFFF is -1.
+/// Error 6 for an overflow; no other errors.
 Double Val(std::string_view text);
 
-/// Whether CDbl takes the text.
+/// True if CDbl accepts the text.
 bool IsNumeric(std::string_view text);
 
 } // namespace basic

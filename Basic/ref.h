@@ -6,7 +6,7 @@
 
 namespace basic {
 
-/// A class whose objects can be held as `T`: the same class, or one derived from it.
+/// A class whose objects can be held as `T`: the same class or a derived one.
 template <class U, class T>
 concept HeldAs = std::convertible_to<std::shared_ptr<U>, std::shared_ptr<T>>;
 
@@ -22,9 +22,9 @@ public:
     template <HeldAs<T> U>
     Ref(const Ref<U>& r) : p_(r.shared()) {}
 
-    /// By value, so that the object is held to the end of the full expression.
+    /// By value, so that the object stays alive until the end of the full expression.
     std::shared_ptr<T> operator->() const { return checked(); }
-    /// The object itself. It is not held: use it only while a Ref to it is in scope.
+    /// The object itself. Does not keep it alive: use it only while a Ref to it is in scope.
     T& operator*() const { return *checked(); }
     explicit operator bool() const { return p_ != nullptr; }
     const std::shared_ptr<T>& shared() const { return p_; }
@@ -46,7 +46,7 @@ Ref<T> make(A&&... a) {
     return std::make_shared<T>(std::forward<A>(a)...);
 }
 
-/// The object of a Ref as another of its types, or Nothing where it is not one.
+/// Converts to another type of the same object; Nothing if the object does not have this type.
 template <class T, class U>
 Ref<T> cast(const Ref<U>& r) {
     return std::dynamic_pointer_cast<T>(r.shared());

@@ -1,5 +1,5 @@
 #pragma once
-// VB's error object: a run-time error on its way, Err as code reads it afterwards, and suppressed errors.
+// VB's errors: the exception, the Err object, and suppressed errors.
 #include "Basic/error_numbers.h"
 #include <concepts>
 #include <exception>
@@ -8,11 +8,11 @@
 
 namespace basic {
 
-/// A VB run-time error. Nothing else crosses an interface of this system.
+/// A VB run-time error. Interfaces of this system throw nothing else.
 class RuntimeError : public std::exception {
 public:
-    /// `number` is VB's error number; an empty description becomes the standard text of that number.
-    /// `lastDllError` is the errno of the system call that failed, 0 for none.
+    /// `number` is VB's error number. An empty description is replaced by the standard one.
+    /// `lastDllError` is the errno of the failed system call, or 0.
     explicit RuntimeError(int number, std::string description = {}, std::string source = "VBAProject",
                           long lastDllError = 0);
     const char* what() const noexcept override { return Description.c_str(); }
@@ -23,7 +23,7 @@ public:
     long LastDllError;
 };
 
-/// Err as VB code reads it: Number 0 means that nothing failed.
+/// VB's Err. Number is 0 if there was no error.
 struct ErrObject {
     int Number = 0;
     std::string Description;
@@ -36,7 +36,7 @@ struct ErrObject {
         : Number(e.Number), Description(e.Description), Source(e.Source), LastDllError(e.LastDllError) {}
 };
 
-/// One suppressed statement: what went wrong, if anything.
+/// Runs a statement with errors suppressed and returns its error, if any.
 template <std::invocable F>
 [[nodiscard]] ErrObject attempt(F&& statement) {
     try {
@@ -45,12 +45,12 @@ template <std::invocable F>
     } catch (const RuntimeError& e) { return ErrObject{e}; }
 }
 
-/// A stretch of suppressed statements. Err keeps the last failure until Clear, as in VB.
+/// A sequence of statements with errors suppressed. Err keeps the last error until Clear, as in VB.
 class Suppressed {
 public:
     ErrObject Err;
 
-    /// One statement of the stretch. False when it failed.
+    /// Runs one statement. Returns false if it failed.
     template <std::invocable F>
     bool operator()(F&& statement) {
         try {

@@ -1,14 +1,14 @@
 #pragma once
-// Values in an order that changes in the middle. Collection stands on this.
+// A sequence with fast insertion in the middle, for Collection.
 #include <cstddef>
 #include <cstdint>
 #include <utility>
 
 namespace basic {
 
-/// A sequence in which inserting, removing and finding by place all take logarithmic time, and in which a value stays
-/// where it is in memory. It is a treap: a tree in order of places in which each node's rank, drawn when it is made,
-/// is above its children's, so that no order of calls makes it deep.
+/// A sequence in which insertion, removal and lookup by position take logarithmic time and values do not move in
+/// memory. It is a treap: a tree ordered by position in which the random rank of each node is above that of its
+/// children, so that it stays balanced for any order of calls.
 template <class T>
 class Sequence {
 public:
@@ -20,7 +20,7 @@ public:
         friend class Sequence;
         Node(T v, std::uint32_t r) : value(std::move(v)), rank(r) {}
         std::uint32_t rank;
-        std::size_t size = 1; // of the tree below, itself included
+        std::size_t size = 1; // of the subtree, including this node
         Node* parent = nullptr;
         Node* left = nullptr;
         Node* right = nullptr;
@@ -33,7 +33,7 @@ public:
 
     std::size_t size() const noexcept { return sizeOf(root_); }
 
-    /// The node at a place from 0 to size() - 1.
+    /// The node at a position from 0 to size() - 1.
     Node* at(std::size_t place) const noexcept {
         Node* node = root_;
         while (place != sizeOf(node->left)) {
@@ -52,7 +52,7 @@ public:
         return place;
     }
 
-    /// A new node at a place from 0 to size().
+    /// Inserts a node at a position from 0 to size().
     Node* insert(std::size_t place, T value) {
         Node* const node = new Node(std::move(value), drawRank());
         Node** slot = &root_;
@@ -77,7 +77,7 @@ public:
         delete node;
     }
 
-    /// Empties the sequence first and destroys the values then, so that a value's end may look at it.
+    /// Empties the sequence before destroying the values, so that their destructors may access it.
     void clear() noexcept {
         Node* node = std::exchange(root_, nullptr);
         while (node) {
@@ -92,7 +92,7 @@ public:
 
     Node* first() const noexcept { return leftmost(root_); }
 
-    /// The node behind this one, or none.
+    /// The next node, or null.
     Node* next(const Node* node) const noexcept {
         if (node->right) return leftmost(node->right);
         while (node->parent && node == node->parent->right) node = node->parent;
@@ -107,13 +107,13 @@ private:
         return node;
     }
 
-    /// The pointer that holds this node.
+    /// The pointer that owns this node.
     Node*& slotOf(Node* node) noexcept {
         if (!node->parent) return root_;
         return node == node->parent->left ? node->parent->left : node->parent->right;
     }
 
-    /// Puts a node in its parent's place and the parent below it.
+    /// Rotates a node above its parent.
     void rotateUp(Node* node) noexcept {
         Node* const parent = node->parent;
         const bool left = node == parent->left;

@@ -13,7 +13,7 @@ std::size_t checkedLength(Long length) {
     return static_cast<std::size_t>(length);
 }
 
-/// The bytes of the first character.
+/// The first character of a text.
 std::string_view firstCharacter(std::string_view text) {
     if (text.empty()) throw RuntimeError(kInvalidProcedureCall);
     std::size_t end = 0;

@@ -5,10 +5,10 @@
 namespace basic {
 
 namespace {
-// Up to this size a plain search, whose worst case is the product of both sizes, is quick enough.
+// Up to this size a plain search, with the product of both sizes as its worst case, is fast enough.
 constexpr std::size_t kShortNeedle = 32;
 
-/// How much of its own end each beginning of `what` (by its last byte) begins with: what a mismatch may keep.
+/// For each prefix of `what`, by its last byte, the length of its longest border: the part that a mismatch may keep.
 std::vector<std::size_t> bordersOf(std::string_view what) {
     std::vector<std::size_t> borders(what.size());
     for (std::size_t i = 1, border = 0; i < what.size(); ++i) {
@@ -19,7 +19,7 @@ std::vector<std::size_t> bordersOf(std::string_view what) {
     return borders;
 }
 
-/// Knuth, Morris and Pratt's search.
+/// The algorithm of Knuth, Morris and Pratt.
 std::size_t findByBorders(std::string_view text, std::string_view what, const std::vector<std::size_t>& borders,
                           std::size_t from) {
     std::size_t matched = 0;

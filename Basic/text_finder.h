@@ -1,5 +1,5 @@
 #pragma once
-// Finding all occurrences of a text, in time that grows with the texts' lengths only. For text_search.cpp.
+// Finds all occurrences of a text in linear time, for text_search.cpp.
 #include "Basic/case_folding.h"
 #include <cstddef>
 #include <optional>
@@ -9,19 +9,19 @@
 
 namespace basic {
 
-/// A stretch of a text's bytes, [first, last).
+/// A range of bytes, [first, last).
 struct ByteRange {
     std::size_t first, last;
 };
 
-/// Looks for one text in another. Both must outlive it; what is looked for must not be empty.
+/// Searches for one text in another. Both must outlive it; the text searched for must not be empty.
 class TextFinder {
 public:
     TextFinder(std::string_view text, std::string_view what, VbCompareMethod compare);
     TextFinder(const TextFinder&) = delete;
     TextFinder& operator=(const TextFinder&) = delete;
 
-    /// The first occurrence at or behind byte `from`.
+    /// The first occurrence at or after byte `from`.
     std::optional<ByteRange> next(std::size_t from) const;
 
     /// The last occurrence.
@@ -35,8 +35,8 @@ private:
 
     std::string foldedText_, foldedWhat_;
     std::string_view text_, what_;
-    std::vector<std::size_t> origins_; // of each folded byte the byte that it comes from; empty when that is its own
-    std::vector<std::size_t> borders_; // of each beginning of a long what_; empty for a short one
+    std::vector<std::size_t> origins_; // the original position of each folded byte; empty if they are equal
+    std::vector<std::size_t> borders_; // of each prefix of a long what_; empty for a short one
 };
 
 } // namespace basic

@@ -15,7 +15,7 @@ Long characterPosition(std::string_view text, std::size_t byte) {
     return static_cast<Long>(countCharacters(text.substr(0, byte)) + 1);
 }
 
-/// -1 means without end, as everywhere in VB.
+/// -1 means unlimited, as everywhere in VB.
 std::size_t countOrAll(Long count) {
     requireArgument(count >= -1);
     return static_cast<std::size_t>(count);

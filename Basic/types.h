@@ -1,5 +1,5 @@
 #pragma once
-// VB's types of numbers in C++.
+// VB's numeric types.
 #include <cstdint>
 #include <limits>
 
@@ -11,13 +11,13 @@ using Long = std::int32_t;
 using Single = float;
 using Double = double;
 
-/// VB's Currency: a number of ten-thousandths, so that 1.5 is `scaled` 15000.
+/// VB's Currency: a number of ten-thousandths; `scaled` is 15000 for 1.5.
 struct Currency {
     std::int64_t scaled = 0;
     friend bool operator==(Currency, Currency) = default;
 };
 
-/// VB's Date: whole days since December 30, 1899; the fraction, counted away from zero, is the time of that day.
+/// VB's Date: whole days since December 30, 1899; the fraction, counted away from zero, is the time of day.
 struct Date {
     double days = 0;
     friend bool operator==(Date, Date) = default;

@@ -1,4 +1,4 @@
-// How cost grows: each job at two sizes in one run, printed as the ratio of the times a piece. Near 1 is linear.
+// Measures growth: runs each job at two sizes and prints the ratio of the times per item. Linear growth is near 1.
 #include "Apps/fernwick/run/session.h"
 #include "Host/files/project_file.h"
 #include "tests/support/form_text.h"
@@ -11,7 +11,7 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-/// The best of five, in seconds.
+/// The best of five runs, in seconds.
 template <class Job>
 double bestOf(Job&& job) {
     double best = 1e9;
@@ -85,7 +85,7 @@ double storeMessages(int count) {
 
 constexpr int kControlsOfForm = 50;
 
-/// A form whose controls have fonts of some sizes, each with a procedure.
+/// A form with controls that have fonts of several sizes and an event procedure each.
 std::string formOf(const std::string& name) {
     static constexpr const char* kClasses[] = {"QLLabel", "QLButton", "QLTextBox", "QLPicture"};
     std::vector<test::FormControl> controls;
@@ -97,7 +97,7 @@ std::string formOf(const std::string& name) {
     return test::deviceForm(name, controls, code);
 }
 
-/// Opens a project of so many forms with the add-in and times the job on it.
+/// Opens a project with this number of forms and the add-in, and times the job.
 template <class Job>
 double withForms(int forms, Job&& job) {
     const test::TempFolder folder;

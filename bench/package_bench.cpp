@@ -1,6 +1,6 @@
-// Packs a folder as an application: package_bench FOLDER PLACE makes PLACE/Hello.PocketPC-ARM.qlpkg.
-#include "Components/QLPipe/device_storage.h"
-#include "Components/QLPipe/package_writer.h"
+// Packs a folder as an application. Usage: package_bench FOLDER TARGET; creates TARGET/Hello.PocketPC-ARM.qlpkg.
+#include "Components/QLPipe/base/device_storage.h"
+#include "Components/QLPipe/package/package_writer.h"
 #include <algorithm>
 #include <cstdio>
 #include <filesystem>

@@ -1,4 +1,4 @@
-"""Packs the same files with package_bench and with zip, turn by turn. Arguments: package_bench, an empty folder."""
+"""Packs the same files with package_bench and zip in turn. Arguments: package_bench, an empty folder."""
 import pathlib
 import random
 import subprocess
@@ -10,7 +10,7 @@ bench, work = sys.argv[1], pathlib.Path(sys.argv[2])
 source = work / "files"
 source.mkdir()
 
-# Half is text of a small vocabulary, half can't be packed: an application's data and its pictures and sounds.
+# Half is text of a small vocabulary, like data; half is incompressible, like pictures and sounds.
 chance = random.Random(1)
 words = ["".join(chance.choices("abcdefghijklmnopqrstuvwxyz", k=chance.randint(2, 9))) for _ in range(2000)]
 for number in range(FILES):

@@ -1,6 +1,6 @@
 #!/bin/sh
-# How long packing 200 files of 50 MB in all takes beside zip -X at the same level, turn by turn, as the ratio of the
-# best times of both. Needs zip, and package_bench of a release build as its argument:
+# Compares packing 200 files (50 MB in total) with zip -X at the same level, run in turn, and prints the ratio of the
+# best times. Needs zip, and package_bench of a release build as its argument:
 #   bench/package_vs_zip.sh build/release/bench/package_bench
 set -eu
 bench=$(realpath "${1:?usage: package_vs_zip.sh PATH/TO/package_bench}")

@@ -1,5 +1,5 @@
-// Parses the files that it is given, one after the other, and tells how long it took.
-// parser_bench [--json] FILE...: status 1 when a file has errors, so that nothing wrong is measured.
+// Parses files and prints the time.
+// Usage: parser_bench [--json] FILE...; the status is 1 if a file has errors, since that would distort the measurement.
 #include "Components/QLToolkit/parser/parse.h"
 #include <chrono>
 #include <cstdio>
@@ -37,7 +37,7 @@ void measure(const char* path, qltoolkit::SymbolTable& symbols, Measured& total)
 } // namespace
 
 int main(int argc, char** argv) {
-    mallopt(M_MMAP_THRESHOLD, 32 << 20); // as in fernwick: what a module frees serves the next
+    mallopt(M_MMAP_THRESHOLD, 32 << 20); // as in fernwick: memory of one module is reused for the next
     mallopt(M_TRIM_THRESHOLD, 256 << 20);
     qltoolkit::SymbolTable symbols;
     Measured total;

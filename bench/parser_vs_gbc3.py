@@ -1,4 +1,4 @@
-"""Writes modules of equal structure in both languages, measures both compilers in turn, prints the ratios."""
+"""Writes modules with the same structure in both languages, measures both compilers in turn and prints the ratios."""
 import json
 import pathlib
 import resource

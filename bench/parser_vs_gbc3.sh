@@ -1,6 +1,6 @@
 #!/bin/sh
-# How long the parser takes beside gbc3's full compile of modules of equal structure, and whether a line costs the same
-# in a module of a million lines. Needs gambas3-devel, and parser_bench of a release build as its argument:
+# Compares the parser with gbc3's full compilation of modules with the same structure, and the time per line in a module
+# of a million lines. Needs gambas3-devel, and parser_bench of a release build as its argument:
 #   bench/parser_vs_gbc3.sh build/release/bench/parser_bench
 set -eu
 bench=$(realpath "${1:?usage: parser_vs_gbc3.sh PATH/TO/parser_bench}")

@@ -1,4 +1,4 @@
-// Sends one file to a Linux handheld, as pipes do. Usage: sftp_upload PORT KEY KNOWN_HOSTS FOLDER FILE
+// Sends one file to a Linux handheld like a pipe. Usage: sftp_upload PORT KEY KNOWN_HOSTS FOLDER FILE
 #include "Components/QLPipe/linux_handheld/ssh_storage.h"
 #include "Components/QLPipe/linux_handheld/user_account.h"
 #include <cstdio>

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# How long a large file takes to a Linux handheld beside scp, both over the loopback to an SSH server of this script's own,
-# in turn. Usage: bench/sftp_vs_scp.sh [PROGRAM] [MEGABYTES]. Prints both and their ratio; status 1 when it is above 1.25.
+# Compares sending a large file to a Linux handheld with scp, in turn, over the loopback to an SSH server started by
+# this script. Usage: bench/sftp_vs_scp.sh [PROGRAM] [MEGABYTES]. Prints both times and their ratio; status 1 if it is
+# above 1.25.
 set -euo pipefail
 program=${1:-$(dirname "$0")/../build/release/bench/sftp_upload}
 megabytes=${2:-200}
@@ -37,7 +38,7 @@ theirs() {
   scp -q -F none -o UserKnownHostsFile="$work/known_hosts" -o IdentitiesOnly=yes -i "$work/user_key" -P "$port" \
     "$work/file" "127.0.0.1:$work/by_scp"
 }
-# Milliseconds.
+# In milliseconds.
 timed() {
   local begin end
   begin=$(date +%s%N)

@@ -1,12 +1,12 @@
 #!/usr/bin/env bash
-# How long the program takes to start, beside another compiler's command of the same kind (Debian's gambas3-devel).
-# Usage: bench/startup.sh [PROGRAM]. Prints both times for a start and their ratio; status 1 when it is above 3.
+# Compares the start time of the program with that of a similar compiler command (Debian's gambas3-devel).
+# Usage: bench/startup.sh [PROGRAM]. Prints both start times and their ratio; status 1 if it is above 3.
 set -euo pipefail
 program=${1:-$(dirname "$0")/../build/release/Apps/fernwick/fernwick}
 command -v gbc3 >/dev/null || { echo "gbc3 is missing: apt-get install gambas3-devel" >&2; exit 3; }
 starts=200
 
-# Microseconds a start, the better of three rounds.
+# Microseconds per start, the best of three rounds.
 measure() {
   local best=0 round begin end
   for round in 1 2 3; do

@@ -1,6 +1,6 @@
-// How long the desktop takes until it is drawn: empty, and with a project of 300 components of which none is shown. What
-// isn't shown is read but not taken apart, so a project costs little more than its files. And how the messages grow: ten
-// times as many cost ten times as much to add and to lay out anew, not more.
+// Measures the time until the desktop is drawn, without a project and with a project of 300 hidden components, which
+// are read but not parsed. Also checks that adding messages and updating their layout takes linear time: ten times as
+// many messages cost ten times as much.
 #include "Apps/workbench/window/workbench.h"
 #include "tests/support/sample_project.h"
 #include "tests/workbench/own_home.h"
@@ -25,7 +25,7 @@ std::string largeProject(const test::TempFolder& folder) {
     return project.writeTo(folder);
 }
 
-/// Milliseconds from nothing to the window's first picture; the best of some rounds.
+/// Milliseconds from construction to the first paint of the window; the best of several rounds.
 double timeToPaint(const std::string& path) {
     double best = 1e9;
     for (int i = 0; i < kRounds; ++i) {
@@ -44,7 +44,7 @@ double timeToPaint(const std::string& path) {
 
 constexpr int kFewMessages = 1'000, kManyMessages = 10'000;
 
-/// Milliseconds of `act`, until all of it is drawn.
+/// Milliseconds of `act` including painting.
 template <class Act>
 double drawn(QWidget& window, Act&& act) {
     const auto begin = std::chrono::steady_clock::now();
@@ -59,8 +59,8 @@ struct MessageTimes {
     double added = 1e9, oneByOne = 1e9, resized = 1e9, filtered = 1e9;
 };
 
-/// Messages of a compile that are added and drawn together, or one by one while events are let in; then a narrower window
-/// and a filter. The best of some rounds.
+/// Times for messages that are added and drawn together, or one by one with event processing; then for a narrower
+/// window and a filter. The best of several rounds.
 MessageTimes timesOfMessages(workbench::Workbench& bench, int count) {
     auto& window = bench.window();
     auto& messages = bench.addIn().messages;
@@ -74,7 +74,7 @@ MessageTimes timesOfMessages(workbench::Workbench& bench, int count) {
     for (int round = 0; round < kRounds; ++round) {
         window.resize(1100, 720);
         messages.clearToolWindow();
-        QTest::qWait(50); // so that the next picture is due
+        QTest::qWait(50); // until the next repaint is due
         const auto all = drawn(window, [&] {
             for (int i = 0; i < count; ++i) add(i);
         });
@@ -94,7 +94,7 @@ MessageTimes timesOfMessages(workbench::Workbench& bench, int count) {
     return best;
 }
 
-/// Whether ten times as many messages take at most twice the time that ten times as much would.
+/// True if ten times as many messages take at most twice the time of linear growth.
 bool messagesGrowLinearly(const std::string& project) {
     constexpr double kMostRatio = 2.0 * kManyMessages / kFewMessages;
     workbench::Workbench bench;
@@ -105,15 +105,15 @@ bool messagesGrowLinearly(const std::string& project) {
     if (!QTest::qWaitForWindowExposed(&bench.window())) return false;
     const auto few = timesOfMessages(bench, kFewMessages), many = timesOfMessages(bench, kManyMessages);
     bool good = true;
-    const auto tell = [&](const char* what, double less, double more) {
+    const auto report = [&](const char* what, double less, double more) {
         fmt::print("{} messages {}: {:.0f} ms, {}: {:.0f} ms, ratio {:.1f} (at most {:.0f})\n", kFewMessages, what,
                    less, kManyMessages, more, more / less, kMostRatio);
         good = good && more / less <= kMostRatio;
     };
-    tell("added at once", few.added, many.added);
-    tell("added one by one", few.oneByOne, many.oneByOne);
-    tell("in a resized window", few.resized, many.resized);
-    tell("filtered", few.filtered, many.filtered);
+    report("added at once", few.added, many.added);
+    report("added one by one", few.oneByOne, many.oneByOne);
+    report("in a resized window", few.resized, many.resized);
+    report("filtered", few.filtered, many.filtered);
     for (const auto& open : bench.host().VBProjects()->items()) open->IsDirty(false);
     return good;
 }
@@ -127,7 +127,7 @@ int main(int argc, char** argv) {
     qputenv("QT_LOGGING_RULES", "qt.qpa.*=false");
     QApplication app(argc, argv);
     workbench::apply(workbench::Theme::Light);
-    (void)timeToPaint({}); // fonts and styles are read once
+    (void)timeToPaint({}); // loads fonts and styles, which are cached
     const auto project = largeProject(home);
     const double empty = timeToPaint({}), large = timeToPaint(project);
     fmt::print("first picture: empty {:.0f} ms, {} components {:.0f} ms, ratio {:.2f} (at most 5)\n", empty,

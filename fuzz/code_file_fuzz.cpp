@@ -1,4 +1,4 @@
-// Any bytes are a source file that is written back as it was, with its lines where the code window shows them.
+// Any bytes are written back unchanged as a source file, and its lines map to the lines of the code window.
 #include "Host/files/code_file.h"
 #include <cstdlib>
 

@@ -1,4 +1,4 @@
-// Every byte string survives every code page, and no text makes encoding fail otherwise than with error 5.
+// Every byte string is preserved by every code page, and encoding fails only with error 5.
 #include "Basic/code_page.h"
 #include "Basic/runtime_error.h"
 #include <array>

@@ -1,4 +1,4 @@
-// Forms: any bytes come back as they were, and an edited form reads as it was edited.
+// Forms: any bytes are preserved, and edits are read back.
 #include "Host/files/form_file.h"
 #include "Host/files/property_value.h"
 #include <cstdlib>

@@ -1,4 +1,4 @@
-// Directories of icon files: whatever the bytes, every image that is counted can be asked for.
+// Directories of icon files: for any bytes, every counted image can be read.
 #include "Add-in/settings/iconReader.h"
 #include "Host/system/file_system.h"
 #include <cstdlib>
@@ -7,7 +7,7 @@
 
 namespace {
 
-/// A file in memory that has a path.
+/// A file in memory with a path.
 const int kMemoryFile = memfd_create("icon", MFD_CLOEXEC);
 
 } // namespace

@@ -1,4 +1,4 @@
-// Journals: any bytes are refused with a word or come back the same.
+// Journals: any bytes are either refused with a reason or preserved.
 #include "Basic/runtime_error.h"
 #include "Host/files/journal_file.h"
 #include <cstdlib>
@@ -12,7 +12,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     } catch (const basic::RuntimeError& refused) {
         if (refused.Number != 321 || refused.Description.empty()) std::abort();
     }
-    // what is not checked before the sum is read in any case
+    // parts before the checksum are parsed in any case
     host::JournalEntry entry;
     entry.project = entry.component = entry.file = entry.bytes = bytes;
     const auto read = host::decodeJournal(host::encodeJournal(entry));

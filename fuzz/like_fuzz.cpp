@@ -1,4 +1,4 @@
-// No pattern makes Like fail otherwise than with error 93, and what it fits agrees with a plain definition of it.
+// Like fails only with error 93, and its matches agree with a simple reference implementation.
 #include "Basic/like.h"
 #include "Basic/runtime_error.h"
 #include <cstdint>
@@ -7,7 +7,7 @@
 
 namespace {
 
-/// Like for patterns of plain ASCII characters, ? and * only.
+/// Like for patterns of ASCII characters, ? and *.
 bool plainLike(std::string_view text, std::string_view pattern) {
     if (pattern.empty()) return text.empty();
     if (pattern[0] == '*') {

@@ -1,5 +1,5 @@
-// Manifests of packages: what is taken is written and read again as the same.
-#include "Components/QLPipe/bundle.h"
+// Manifests of packages: accepted manifests round-trip.
+#include "Components/QLPipe/package/bundle.h"
 #include <cstdint>
 #include <cstdlib>
 

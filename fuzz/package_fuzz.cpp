@@ -1,6 +1,6 @@
-// Packages from anybody: what is taken holds safe names only and reads as its manifest says, what isn't has a reason.
-#include "Components/QLPipe/device_names.h"
-#include "Components/QLPipe/package.h"
+// Untrusted packages: an accepted package has only safe names and matches its manifest; a refused one has a reason.
+#include "Components/QLPipe/base/device_names.h"
+#include "Components/QLPipe/package/package.h"
 #include <cstdint>
 #include <cstdlib>
 #include <sys/mman.h>
@@ -14,7 +14,7 @@ void require(bool holds) {
     if (!holds) std::abort();
 }
 
-/// A file in memory, by its path.
+/// A file in memory with a path.
 class MemoryFile {
 public:
     MemoryFile(const std::uint8_t* data, std::size_t size) : descriptor_(::memfd_create("package", MFD_CLOEXEC)) {

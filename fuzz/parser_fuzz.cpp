@@ -1,5 +1,5 @@
-// Whatever stands in a module, the parser ends, its diagnostics lie inside the file, and its tree can be walked.
-// The first byte chooses the kind of file and the code page.
+// For any module the parser terminates, its diagnostics are inside the file, and its tree can be walked. The first byte
+// selects the kind of file and the code page.
 #include "Components/QLToolkit/check.h"
 #include "tests/qltoolkit/ast_dump.h"
 #include <cstdlib>

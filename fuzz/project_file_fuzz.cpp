@@ -1,4 +1,4 @@
-// Any bytes are a project file that is written back as it was; what is set in it reads back.
+// Any bytes are written back unchanged as a project file, and settings are read back.
 #include "Host/files/library_reference.h"
 #include "Host/files/project_file.h"
 #include <cstdlib>

@@ -1,4 +1,4 @@
-// Files of registry editors: whatever is read is written and read back unchanged, in both encodings.
+// .reg files: accepted files round-trip in both encodings.
 #include "Basic/runtime_error.h"
 #include "Host/registry/reg_text.h"
 #include <cstdint>

@@ -1,4 +1,4 @@
-// Resource files: whatever the bytes and the offset, a record lies within the bytes.
+// Resource files: for any bytes and offset, a record is within the bytes.
 #include "Host/files/resource_file.h"
 #include <cstdlib>
 

@@ -1,4 +1,4 @@
-// What a handheld answers, read as each kind of reply: a device is not to be trusted.
+// Replies of an untrusted handheld, parsed as each kind of reply.
 #include "Components/QLPipe/linux_handheld/sftp_packets.h"
 #include <cstddef>
 #include <cstdlib>

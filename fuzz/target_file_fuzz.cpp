@@ -1,4 +1,4 @@
-// Design target files: whatever is read keeps the promises that the add-in counts on, what isn't has a reason.
+// Design target files: an accepted file satisfies the invariants of the add-in; a refused one has a reason.
 #include "Components/DesignTargetAccess/design_target.h"
 #include "Components/DesignTargetAccess/target_problem.h"
 #include <cstdint>

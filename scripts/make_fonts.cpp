@@ -1,4 +1,4 @@
-// Draws one font of the machine as a converted font for devices; docs/cmf-format.md tells the format.
+// Converts a font of this system for devices. docs/cmf-format.md describes the format.
 // Usage: convert FILE FACE SIZE STYLE PIXELS OUTPUT
 #include <algorithm>
 #include <cstdint>
@@ -17,7 +17,7 @@ namespace {
 constexpr int kFirstCode = 32, kLastCode = 255, kMissingCode = '?';
 constexpr std::size_t kNameAt = 24, kBodyAt = 56, kLongestName = 32;
 
-/// Windows-1252 differs from Unicode here; 0 for the bytes that stand for nothing.
+/// Where Windows-1252 differs from Unicode; 0 for undefined bytes.
 constexpr char32_t kFrom80[32] = {0x20AC, 0,      0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
                                   0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0,      0x017D, 0,
                                   0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
@@ -28,7 +28,7 @@ char32_t characterOf(int code) {
     return code >= 0x80 && code < 0xA0 ? kFrom80[code - 0x80] : char32_t(code);
 }
 
-/// A drawn letter. `width` is how far the next one stands; 0 for none.
+/// A rendered glyph. `width` is the advance; 0 for a missing glyph.
 struct Glyph {
     int width = 0, left = 0, top = 0, columns = 0, rows = 0;
     std::vector<bool> ink;

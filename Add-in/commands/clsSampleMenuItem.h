@@ -1,5 +1,5 @@
 #pragma once
-// One entry of the samples menu.
+// An entry of the samples menu.
 #include "Add-in/platform/command_bars.h"
 #include "Add-in/platform/files.h"
 #include "Add-in/platform/host_events.h"
@@ -7,18 +7,18 @@
 
 namespace fernwick {
 
-/// It hears its own click and tells whoever opens samples, a room above.
+/// Handles the click on its item and raises `picked` for the room that opens samples.
 class clsSampleMenuItem {
 public:
     basic::Ref<office::CommandBarControl> myOfficeCommandBar;
     WithEvents<vbide::CommandBarEvents> myOfficeEvents{
         this, on(&vbide::CommandBarEvents::Click, &clsSampleMenuItem::myOfficeEvents_Click)};
-    /// A popup has no click of its own.
+    /// A popup is not clicked.
     bool popupMenu = false;
     std::string Name;
     /// The sample's project file.
     std::string fullPath;
-    /// The name of that file, and the folder that it lies in.
+    /// The name of that file and its folder.
     std::string sampleVbp(const FileSystemObject& files) const { return files.GetFileName(fullPath); }
     std::string samplePath(const FileSystemObject& files) const { return files.GetParentFolderName(fullPath); }
 

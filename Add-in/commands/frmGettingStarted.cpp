@@ -37,14 +37,14 @@ void frmGettingStarted::Form_Load() {
     Procedure here{errors_, "frmGettingStarted.Form_Load"};
     chkDontShow.Value(here.test([&] { return prefs_.GetStartTutorial(); }) ? 0 : 1);
     dontShowClicks_ = chkDontShow.Click.connect([this] { chkDontShow_Click(); });
-    stands_ = false;
+    isShown_ = false;
     showPage(0);
 }
 
-/// What is to be reported of the first picture comes over the form, not before it. Who closes the form before it stands
-/// never looks for one.
+/// Errors about the first picture are shown on top of the form, so it must be visible first. Closing the form earlier
+/// skips the picture.
 void frmGettingStarted::Form_Activate() {
-    if (std::exchange(stands_, true)) return;
+    if (std::exchange(isShown_, true)) return;
     showPicture();
 }
 
@@ -57,13 +57,13 @@ void frmGettingStarted::showPage(int page) {
     lblTitle.Caption(shown.title);
     lblBody.Caption(shown.body);
     lblPage.Caption(std::to_string(page + 1) + getting_started_texts::kOf + std::to_string(kGettingStartedPages));
-    if (stands_) showPicture();
+    if (isShown_) showPicture();
     showLinks(here, page);
     cmdPrev.Enabled(page > 0);
     cmdNext.Enabled(page < kLastPage);
 }
 
-/// A page whose picture is missing shows none, rather than that of another page.
+/// A page whose picture is missing shows none instead of that of another page.
 void frmGettingStarted::showPicture() {
     Procedure here{errors_, "frmGettingStarted.ShowPage"};
     pictMain.Picture("");
@@ -127,7 +127,7 @@ void frmGettingStarted::cmdNext_Click() {
 
 void frmGettingStarted::cmdDone_Click() { Unload(); }
 
-/// The preference belongs to the machine: a user who may not write there keeps the introduction.
+/// The preference is the machine's: for a user without write access the introduction remains on.
 void frmGettingStarted::chkDontShow_Click() {
     Procedure here{errors_, "frmGettingStarted.chkDontShow_Click"};
     here([&] { prefs_.SetStartTutorial(chkDontShow.Value() == 0); });

@@ -7,7 +7,7 @@
 
 namespace fernwick {
 
-/// A slide show of nine pages. The last two have links to what is installed and to the maker's pages.
+/// A slide show of nine pages. The last two contain links to installed files and the vendor's pages.
 class frmGettingStarted : public Form {
 public:
     frmGettingStarted(Platform& platform, const modQLInstallInfo& install, modAddinPrefsManagement& prefs,
@@ -51,11 +51,11 @@ private:
     modAddinPrefsManagement& prefs_;
     ErrorReport& errors_;
     int page_ = 0;
-    /// The user sees it.
-    bool stands_ = false;
-    /// Where the entries of lstLinks lead to.
+    /// Whether the form is visible.
+    bool isShown_ = false;
+    /// Targets of the entries of lstLinks.
     std::vector<std::string> linkTargets_;
-    /// From the end of the load on: Load puts the box back as designed, and that is nobody's click.
+    /// Connected at the end of Load, because Load resets the box without a click by the user.
     Subscription dontShowClicks_;
 };
 

@@ -2,7 +2,7 @@
 
 namespace fernwick {
 
-/// The blank in "User 's Guide" is known to users of the product, as are those at the ends of some lines.
+/// Blanks at the ends of some lines are part of the texts.
 const std::array<GettingStartedPage, kGettingStartedPages> kGettingStarted{{
     {" 1. Introduction", "welcome.jpg",
      "Welcome to Quinloft Fernwick!\r\n"
@@ -28,7 +28,7 @@ const std::array<GettingStartedPage, kGettingStartedPages> kGettingStarted{{
      " * Compile, Verify, and Deploy options\r\n"
      " * Fernwick Settings\r\n"
      " * Tamarik installation\r\n"
-     "See the 'Fernwick Add-In Guide' in the User 's Guide for more information."},
+     "See the 'Fernwick Add-In Guide' in the User 's Guide for more information."}, // sic
     {" 5. Toolbars", "toolbars.jpg",
      "Fernwick inserts two new toolbars into Visual Basic.\r\n"
      "These toolbars complement the Fernwick menu for one-click "

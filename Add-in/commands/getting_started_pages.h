@@ -1,5 +1,5 @@
 #pragma once
-// What the introduction tells.
+// Texts of the introduction.
 #include <array>
 
 namespace fernwick {
@@ -7,27 +7,27 @@ namespace fernwick {
 /// One page of the slide show.
 struct GettingStartedPage {
     const char* title;
-    /// Name of a file in the add-in's folder.
+    /// File name of its picture in the add-in's folder.
     const char* picture;
-    /// Lines, parted by line ends.
+    /// Lines separated by CR LF.
     const char* body;
 };
 
 inline constexpr int kGettingStartedPages = 9;
 extern const std::array<GettingStartedPage, kGettingStartedPages> kGettingStarted;
 
-/// The pages, from 0, that end in a list of links.
+/// Numbers, from 0, of the pages with links.
 inline constexpr int kWebsitePage = 7;
 inline constexpr int kNextStepsPage = 8;
 
 namespace getting_started_texts {
 
 inline constexpr char kCaption[] = "Introduction to Fernwick";
-/// Between the page's number and the number of pages.
+/// Between the page number and the number of pages.
 inline constexpr char kOf[] = " of ";
 inline constexpr char kDontShow[] = "Don't &show this when Fernwick starts";
-inline constexpr char kDontShowTip[] = "The introduction stays in the menu Fernwick, below Samples and Tutorials. This "
-                                       "setting is all users' of this machine";
+inline constexpr char kDontShowTip[] = "The introduction remains in the Fernwick menu under Samples and Tutorials. This "
+                                       "setting applies to all users of this computer";
 
 inline constexpr char kSupportLink[] = "Support site with Knowledge Base";
 inline constexpr char kSamplesLink[] = "Example code and demos";
@@ -39,7 +39,7 @@ inline constexpr char kGuideLink[] = "Review the User's Guide";
 inline constexpr char kDevelopersLink[] = "Developer's Sector on the Quinloft website";
 
 inline constexpr char kTitle[] = "Fernwick";
-/// Before what a link leads to.
+/// Before the target of the link.
 inline constexpr char kCantOpen[] = "Unable to open resource on network or machine: ";
 
 } // namespace getting_started_texts

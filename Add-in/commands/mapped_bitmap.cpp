@@ -6,10 +6,10 @@ namespace fernwick {
 namespace {
 
 constexpr std::size_t kPixelBytes = 3;
-/// Of the file's header and the picture's together.
+/// Size of the file header and the picture header.
 constexpr std::size_t kHeaderBytes = 54;
 
-/// A number of the headers, lowest byte first.
+/// Reads a little-endian number of the headers.
 std::uint32_t number(const std::string& bmp, std::size_t at, std::size_t bytes) {
     std::uint32_t value = 0;
     for (std::size_t i = 0; i < bytes; ++i) value |= std::uint32_t(std::uint8_t(bmp[at + i])) << 8 * i;
@@ -24,7 +24,7 @@ struct Layout {
     std::size_t start, width, height, rowBytes;
 };
 
-/// Where the pixels stand. Sizes are tested before they are multiplied, for the file may be anybody's.
+/// Layout of the pixels. Sizes are checked before they are multiplied, because the file is not trusted.
 Layout layoutOf(const std::string& bmp) {
     constexpr std::uint32_t kMostPixels = 4096;
     const auto refuse = [] { throw basic::RuntimeError(basic::kInvalidPicture); };

@@ -4,8 +4,8 @@
 
 namespace fernwick {
 
-/// CreateMappedBitmap: a BMP file's bytes with each pixel of the colour `from` in the colour `to`. Error 481 for what is
-/// no uncompressed picture of 24 bits a pixel.
+/// CreateMappedBitmap: returns a BMP file's bytes with pixels of the colour `from` changed to `to`. Error 481 unless it
+/// is an uncompressed picture of 24 bits per pixel.
 std::string mappedBitmap(std::string bmp, Color from, Color to);
 
 } // namespace fernwick

@@ -1,5 +1,5 @@
 #pragma once
-// Keeps the user's clipboard while button faces pass over it.
+// Preserves the user's clipboard while button faces are placed through it.
 #include "Add-in/core/procedure.h"
 #include "Add-in/platform/clipboard.h"
 
@@ -9,17 +9,16 @@ class modClipboardManagement {
 public:
     modClipboardManagement(Clipboard& clipboard, ErrorReport& errors) : clipboard_(clipboard), errors_(errors) {}
 
-    /// Puts the clipboard's contents aside and empties it. A clipboard that another program keeps open stays as it is
-    /// and is not kept.
+    /// Saves the clipboard's contents and empties it. A clipboard blocked by another program is left alone and not
+    /// saved.
     void BackupClipboardData();
-    /// Puts back what was put aside, in the order in which it was found. A clipboard that can't be opened leaves it
-    /// put aside.
+    /// Restores the saved contents in their original order. If the clipboard is blocked they remain saved.
     void RestoreClipboardData();
 
 private:
     struct Kept {
         std::string format;
-        /// "" for a format without data, which comes back without data.
+        /// "" for a format without data, which is restored without data.
         std::string copy;
     };
 

@@ -7,7 +7,7 @@ namespace {
 
 constexpr const char* kHelpFiles[] = {"Quinloft_Users_Guide.chm", "Quinloft_Addin_Guide.chm"};
 
-/// Without an installation the file's bare name, which the box then shows.
+/// Without an installation, returns the bare file name for the box.
 std::string helpFile(const modQLInstallInfo& install, const std::string& name) {
     if (install.GetQuinloftRootDir().empty()) return name;
     return install.installed("VB Toolkit\\doc\\" + name);

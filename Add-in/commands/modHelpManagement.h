@@ -12,7 +12,7 @@ public:
     modHelpManagement(Platform& platform, const modQLInstallInfo& install, ErrorReport& errors)
         : platform_(platform), install_(install), errors_(errors) {}
 
-    /// Shows the help of a HelpTopic; a box where there is none or its file is missing.
+    /// Shows the help of a HelpTopic, or a box if there is none or its file is missing.
     void DisplayHelp(int topic);
 
 private:

@@ -4,7 +4,7 @@
 namespace fernwick {
 
 namespace {
-/// What the pictures have where the menu is to be seen.
+/// Colour of the pictures' transparent parts.
 constexpr Color kMaskColor = RGB(192, 192, 192);
 } // namespace
 

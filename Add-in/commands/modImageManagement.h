@@ -1,16 +1,15 @@
 #pragma once
-#include "Add-in/commands/faces.h"
 #include "Add-in/platform/command_bars.h"
 #include "Add-in/platform/platform.h"
 
 namespace fernwick {
 
-/// Puts pictures on buttons. The only way there leads over the clipboard, which is empty afterwards.
+/// Places pictures on buttons through the clipboard, the host's only way. The clipboard is empty afterwards.
 class modImageManagement {
 public:
     explicit modImageManagement(Platform& platform) : platform_(platform) {}
 
-    /// Always True: a button whose face can't be placed stands without it.
+    /// Always True: if the face can't be placed the button remains without it.
     bool PlaceImageOnButton(const basic::Ref<office::CommandBarControl>& button, int bitmapId);
 
 private:

@@ -1,4 +1,4 @@
-// The menu tree.
+// Building the menu.
 #include "Add-in/commands/modMenuManagement.h"
 
 namespace fernwick {
@@ -13,63 +13,33 @@ bool modMenuManagement::SetUpQuinloftMenu(const Host& VBInst) {
     Keys devices = services_.devices.GetDesignTargets(false);
     kludgeForTopDevices(devices);
     SortDeviceList(devices);
-    items_.gMainMenu = AddSubMenu("Menu Bar", LoadResString(kMenuString));
+    items_.gMainMenu = AddSubMenu("Menu Bar", command_texts::kMenuString.text);
     if (!items_.gMainMenu) return false;
 
     const auto fileItem = [&](int position) { return VBInst->CommandBars()->Item("File")->Controls()->Item(position); };
     items_.gFileThirdItem = fileItem(kThirdFileItem);
     items_.gFileFourthItem = fileItem(kFourthFileItem);
-    addProjectItems(devices);
-    addInstallItems(devices);
-    items_.gOpenProjectItem = button(items_.gMainMenu, kOpenProjectString, {true, kOpenProjectFace});
-    items_.gZoomItem = button(items_.gMainMenu, kZoomString, {true, kZoomFace});
-    items_.gMessagesItem = button(items_.gMainMenu, kMessagesString);
-    addUtilities();
-    addHelpItems();
+    for (const auto& command : kCommands) addCommand(command, devices);
     return true;
 }
 
-void modMenuManagement::addProjectItems(const Keys& devices) {
-    const auto& menu = items_.gMainMenu;
-    items_.gCompileItem = button(menu, kCompileAndValidateString, {false, kCompileFace});
-    items_.gDeployPopup = popup(menu, kDeployToDeviceString);
-    fillFamily({items_.gDeployPopup, items_.gDeployItems, items_.gDeployAllItem}, devices, kDeployFace);
-    items_.gPackagePopup = popup(menu, kSavePackageString);
-    fillFamily({items_.gPackagePopup, items_.gPackageItems, items_.gPackageAllItem}, devices);
-    items_.gSettingsItem = button(menu, kSettingsString, {false, kSettingsFace});
-    items_.gSettingsItem->Enabled(true);
+void modMenuManagement::addCommand(const CommandRow& command, const Keys& devices) {
+    const auto& menu = items_.*command.menu;
+    const bool isButton = command.kind == CommandKind::Button;
+    const auto item = items_.*command.item = isButton ? button(menu, command.caption, {command.group, command.face})
+                                                      : popup(menu, command);
+    setFirstState(item, command.first);
+    if (command.devices) items_.*command.devices = deviceItems(item, devices, command.face);
+    if (command.kind == CommandKind::SamplesPopup) SetupSamplesMenu();
 }
 
-void modMenuManagement::addInstallItems(const Keys& devices) {
-    const auto& menu = items_.gMainMenu;
-    items_.gDownloadItem = button(menu, kDownloadRuntimeString, {true});
-    items_.gDownloadItem->Enabled(false);
-    items_.gDownloadItem->Visible(false);
-    items_.gInstallPopup = popup(menu, kInstallRuntimeString, {true});
-    items_.gInstallPopup->Visible(true);
-    fillFamily({items_.gInstallPopup, items_.gInstallItems, items_.gInstallAllItem}, devices);
-}
-
-void modMenuManagement::addUtilities() {
-    const auto menu = items_.gUtilitiesPopup = popup(items_.gMainMenu, kUtilitiesString, {true});
-    items_.gDatabaseConverterItem = button(menu, kDatabaseConverterString, {false, kDatabaseConverterFace});
-    items_.gDatabaseViewerItem = button(menu, kDatabaseViewerString, {false, kDatabaseViewerFace});
-    items_.gFontConverterItem = button(menu, kFontConverterString, {false, kFontConverterFace});
-    items_.gFontViewerItem = button(menu, kFontViewerString, {false, kFontViewerFace});
-    items_.gGraphicsConverterItem = button(menu, kGraphicsConverterString, {false, kGraphicsConverterFace});
-    items_.gGraphicsViewerItem = button(menu, kGraphicsViewerString, {false, kGraphicsViewerFace});
-    items_.gMovieConverterItem = button(menu, kMovieConverterString, {false, kMovieConverterFace});
-    items_.gMovieViewerItem = button(menu, kMovieViewerString, {false, kMovieViewerFace});
-    items_.gWeirgateItem = button(menu, kWeirgateString, {true, kWeirgateFace});
-}
-
-void modMenuManagement::addHelpItems() {
-    const auto& menu = items_.gMainMenu;
-    items_.gGuideItem = button(menu, kUsersGuideString, {true, kUsersGuideFace});
-    items_.gSamplesPopup = popup(menu, kSamplesString);
-    SetupSamplesMenu();
-    items_.gWebItem = button(menu, kWebString);
-    items_.gAboutItem = button(menu, kAboutString, {true});
+void modMenuManagement::setFirstState(const Item& item, FirstState state) {
+    switch (state) {
+    case FirstState::AsAdded: return;
+    case FirstState::Enabled: return item->Enabled(true);
+    case FirstState::Shown: return item->Visible(true);
+    case FirstState::DisabledAndHidden: item->Enabled(false); item->Visible(false);
+    }
 }
 
 // ---- items -------------------------------------------------------------------------------------------------------------
@@ -87,28 +57,23 @@ modMenuManagement::Item modMenuManagement::AddPopupToAddInCommandBar(const Item&
     return item;
 }
 
-modMenuManagement::Item modMenuManagement::button(const Item& parent, StringId caption, MenuLook look) {
-    const auto item = AddToAddInCommandBar(parent, LoadResString(caption));
+modMenuManagement::Item modMenuManagement::button(const Item& parent, ResString caption, MenuLook look) {
+    const auto item = AddToAddInCommandBar(parent, caption.text);
     if (look.group) item->BeginGroup(true);
     if (look.face != kNoFace) services_.images.PlaceImageOnButton(item, look.face);
     return item;
 }
 
-modMenuManagement::Item modMenuManagement::popup(const Item& parent, StringId caption, MenuLook look) {
-    const auto item = AddPopupToAddInCommandBar(parent, LoadResString(caption));
-    if (look.group) item->BeginGroup(true);
+modMenuManagement::Item modMenuManagement::popup(const Item& parent, const CommandRow& command) {
+    const auto item = AddPopupToAddInCommandBar(parent, command.caption.text);
+    if (command.group) item->BeginGroup(true);
     return item;
 }
 
 // ---- devices -----------------------------------------------------------------------------------------------------------
 
-void modMenuManagement::fillFamily(const Family& family, const Keys& devices, Face face) {
-    family.devices = deviceItems(family.popup, devices, face);
-    family.all = button(family.popup, kToMyDevicesString, {true});
-}
-
-/// An item that stands for no device has no Tag, and nobody listens to it.
-Array<modMenuManagement::Item> modMenuManagement::deviceItems(const Item& popup, const Keys& devices, Face face) {
+/// The item that says there are no devices has no Tag and no sink.
+Array<modMenuManagement::Item> modMenuManagement::deviceItems(const Item& popup, const Keys& devices, int face) {
     Array<Item> all;
     for (const auto& key : devices) {
         const auto item = AddToAddInCommandBar(popup, services_.devices.GetDeviceName(key));

@@ -1,6 +1,5 @@
 #pragma once
 // The add-in's one menu on the host's menu bar.
-#include "Add-in/commands/command_items.h"
 #include "Add-in/commands/command_texts.h"
 #include "Add-in/commands/modImageManagement.h"
 #include "Add-in/commands/modSamplesManagement.h"
@@ -10,7 +9,7 @@
 
 namespace fernwick {
 
-/// What the menu stands on.
+/// The dependencies of the menu.
 struct MenuServices {
     Interaction& user;
     ErrorReport& errors;
@@ -21,13 +20,13 @@ struct MenuServices {
     CommandItems& items;
 };
 
-/// What an item of the menu is besides its caption.
+/// Properties of a menu item besides its caption.
 struct MenuLook {
     bool group = false;
-    Face face = kNoFace;
+    int face = kNoFace;
 };
 
-/// The menu is built once a connection: a design target that is installed later shows at the next one.
+/// The menu is built once for each connection: a design target installed later appears with the next one.
 class modMenuManagement {
 public:
     using Host = basic::Ref<vbide::VBE>;
@@ -36,58 +35,50 @@ public:
 
     explicit modMenuManagement(const MenuServices& services) : services_(services), items_(services.items) {}
 
-    /// False when the top-level popup could not be made; the user was told then. No trap.
+    /// False if the top-level popup could not be added; the user has been informed. No trap.
     bool SetUpQuinloftMenu(const Host& VBInst);
-    /// For an open Fernwick project. The download command stays off for good, and the last install item as it is.
+    /// For an open Fernwick project. The download command remains disabled, and the last install item is left
+    /// unchanged.
     void EnableQuinloftMenu();
-    /// What needs no project stays: a device can get its runtime with no project open. Errors are ignored.
+    /// Commands that need no project remain enabled: a device can get its runtime without one. Errors are ignored.
     void DisableQuinloftMenu();
     /// Errors are ignored.
     void RemoveQuinloftMenu();
 
-    /// A new popup on the menu bar, in front of the host's Add-Ins. Nothing, and a box, where there is no menu bar.
+    /// Adds a popup to the menu bar before the host's Add-Ins menu. Without a menu bar, shows a box and returns
+    /// Nothing.
     Item AddSubMenu(const std::string& barName, const std::string& caption);
     static Item AddToAddInCommandBar(const Item& parent, const std::string& caption);
     static Item AddPopupToAddInCommandBar(const Item& parent, const std::string& caption);
 
-    /// Only the project's own design target shows its face among those to deploy to.
+    /// Among the items to deploy to, only the project's own design target shows its face.
     void SetupDefaultTargetName(const std::string& deviceKey);
-    /// Looks gConverterItem up; the last match counts, and without one it stays as it was.
+    /// Finds gConverterItem; the last match counts. Without a match it is unchanged.
     Item FindConverterMenuItem();
-    /// The host's command that saves the active project; Nothing where the host has none. No trap.
+    /// Returns the host's command that saves the active project; Nothing if the host has none. No trap.
     Item saveProjectItem() const;
 
-    /// Leaves the first design target of each family, which is what stands before the first "-" of a key. A key
-    /// without one is a family of its own.
+    /// Keeps the first design target of each family. A family is the text before the first "-" of a key; a key without
+    /// "-" is always kept.
     static void kludgeForTopDevices(Keys& devices);
     static void SortDeviceList(Keys& devices);
 
     void SetupSamplesMenu();
-    /// Adds a popup to `parent` for each subkey that has a name for it. `isFirst` while none was added yet.
+    /// Adds a popup to `parent` for each subkey that has a caption. `isFirst` is True until one has been added.
     void SetupDynamicSamplesMenu(const std::string& keyPath, const Item& parent, bool& isFirst);
     void SetupDynamicSamplesMenuHelper(const std::string& keyPath, const Item& parent, bool& isFirst);
 
 private:
-    struct Family {
-        Item& popup;
-        Array<Item>& devices;
-        Item& all;
-    };
-
-    Item button(const Item& parent, StringId caption, MenuLook look = {});
-    Item popup(const Item& parent, StringId caption, MenuLook look = {});
-    void addProjectItems(const Keys& devices);
-    void addInstallItems(const Keys& devices);
-    void addUtilities();
-    void addHelpItems();
-    /// The items of a family's popup, which stands.
-    void fillFamily(const Family& family, const Keys& devices, Face face = kNoFace);
-    Array<Item> deviceItems(const Item& popup, const Keys& devices, Face face);
+    void addCommand(const CommandRow& command, const Keys& devices);
+    static void setFirstState(const Item& item, FirstState state);
+    Item button(const Item& parent, ResString caption, MenuLook look = {});
+    Item popup(const Item& parent, const CommandRow& command);
+    Array<Item> deviceItems(const Item& popup, const Keys& devices, int face);
 
     basic::Ref<office::CommandBar> menuBar(basic::Suppressed& quietly);
-    void tellNoMenuBar(const std::string& barName, const basic::ErrObject& error);
+    void reportNoMenuBar(const std::string& barName, const basic::ErrObject& error);
 
-    /// A popup is a sample item without a project.
+    /// A popup is an item without a project file.
     basic::Ref<clsSampleMenuItem> addSampleItem(const Item& control, bool isPopup);
     void addSample(const Item& popup, const modSamplesManagement::Sample& stored);
 

@@ -1,12 +1,12 @@
 #pragma once
-// What the registry lists of samples.
+// The samples listed in the registry.
 #include "Add-in/core/modRegistry2.h"
 
 namespace fernwick {
 
 inline constexpr char kSamplesKey[] = "SOFTWARE\\Quinloft\\VB Toolkit\\Samples";
 
-/// Samples without the nesting that the menu gives them.
+/// A flat list of all samples.
 class modSamplesManagement {
 public:
     struct Sample {
@@ -17,10 +17,10 @@ public:
 
     explicit modSamplesManagement(modRegistry2& registry) : registry_(registry) {}
 
-    /// Reads the list anew.
+    /// Reads the list again.
     void InitSamplesList();
-    /// Appends the samples of a key of the machine, and then those of the keys below it. Also of keys without a name of
-    /// their own, which the menu leaves out.
+    /// Appends the samples of a key of the machine, then those of its subkeys, including keys without a caption, which
+    /// the menu skips.
     void InitSamplesListHelper(const std::string& keyPath);
     int SamplesListLength() const { return int(gSamplesList.size()); }
 
@@ -32,7 +32,7 @@ private:
 
 /// The samples of one key: values with both a name and data.
 std::vector<modSamplesManagement::Sample> samplesOf(modRegistry2& registry, const RegistryKey& key);
-/// Paths of the keys directly below a key, which has this path.
+/// Paths of the direct subkeys of a key, whose path is `keyPath`.
 std::vector<std::string> sampleKeysBelow(modRegistry2& registry, const RegistryKey& key, const std::string& keyPath);
 
 } // namespace fernwick

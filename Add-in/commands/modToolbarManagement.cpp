@@ -1,16 +1,23 @@
 #include "Add-in/commands/modToolbarManagement.h"
 #include "Add-in/devices/modDeviceManagement.h"
+#include <algorithm>
 
 namespace fernwick {
 
+namespace {
+
+/// The caption of the menu's popup.
+std::string supportToolbarName() {
+    const auto isUtilities = [](const CommandRow& row) { return row.item == &CommandItems::gUtilitiesPopup; };
+    const auto row = std::find_if(std::begin(kCommands), std::end(kCommands), isUtilities);
+    return modDeviceManagement::StripAcceleratorInfo(row->caption.text);
+}
+
+} // namespace
+
 bool modToolbarManagement::SetupQuinloftToolbar() try {
-    const auto bar = items_.gMainToolbar = AddToolbar(LoadResString(kToolbarString));
-    items_.gToolCompile = button(bar, kCompileTip, kCompileFace);
-    items_.gToolDeploy = button(bar, kDeployTip, kDeployFace);
-    items_.gToolSettings = button(bar, kSettingsTip, kSettingsFace);
-    items_.gToolOpenProject = button(bar, kOpenProjectTip, kOpenProjectFace, true);
-    items_.gToolZoom = button(bar, kZoomTip, kZoomFace, true);
-    items_.gToolGuide = button(bar, kUsersGuideTip, kUsersGuideFace, true);
+    const auto bar = items_.gMainToolbar = AddToolbar(command_texts::kToolbarString.text);
+    addButtons(bar, Toolbar::Main);
     showDisabled(bar);
     return true;
 } catch (const basic::RuntimeError& error) {
@@ -19,17 +26,8 @@ bool modToolbarManagement::SetupQuinloftToolbar() try {
 }
 
 bool modToolbarManagement::SetupSupportToolbar() try {
-    const auto name = modDeviceManagement::StripAcceleratorInfo(LoadResString(kUtilitiesString));
-    const auto bar = items_.gSupportToolbar = AddToolbar(name);
-    items_.gToolDatabaseConverter = button(bar, kDatabaseConverterString, kDatabaseConverterFace);
-    items_.gToolDatabaseViewer = button(bar, kDatabaseViewerString, kDatabaseViewerFace);
-    items_.gToolFontConverter = button(bar, kFontConverterString, kFontConverterFace);
-    items_.gToolFontViewer = button(bar, kFontViewerString, kFontViewerFace);
-    items_.gToolGraphicsConverter = button(bar, kGraphicsConverterString, kGraphicsConverterFace);
-    items_.gToolGraphicsViewer = button(bar, kGraphicsViewerString, kGraphicsViewerFace);
-    items_.gToolMovieConverter = button(bar, kMovieConverterString, kMovieConverterFace);
-    items_.gToolMovieViewer = button(bar, kMovieViewerString, kMovieViewerFace);
-    items_.gToolWGConfig = button(bar, kWeirgateString, kWeirgateFace);
+    const auto bar = items_.gSupportToolbar = AddToolbar(supportToolbarName());
+    addButtons(bar, Toolbar::Support);
     showDisabled(bar);
     return true;
 } catch (const basic::RuntimeError& error) {
@@ -48,12 +46,16 @@ modToolbarManagement::Item modToolbarManagement::AddControlButtonToolbar(const B
     return bar->Controls()->Add(office::msoControlButton);
 }
 
-modToolbarManagement::Item modToolbarManagement::button(const Bar& bar, StringId tip, Face face, bool group) {
-    const auto item = AddControlButtonToolbar(bar);
-    item->ToolTipText(LoadResString(tip));
-    services_.images.PlaceImageOnButton(item, face);
-    if (group) item->BeginGroup(true);
-    return item;
+void modToolbarManagement::addButtons(const Bar& bar, Toolbar which) {
+    for (const auto& command : kCommands) {
+        const auto& tool = command.tool;
+        if (!tool.item || tool.bar != which) continue;
+        const auto button = AddControlButtonToolbar(bar);
+        button->ToolTipText(tool.tip.text ? tool.tip.text : command.caption.text);
+        services_.images.PlaceImageOnButton(button, command.face);
+        if (tool.group) button->BeginGroup(true);
+        items_.*tool.item = button;
+    }
 }
 
 void modToolbarManagement::showDisabled(const Bar& bar) {
@@ -72,21 +74,14 @@ void modToolbarManagement::disable(const Bar& bar) {
     if (bar) quietly([&] { bar->Enabled(false); });
 }
 
-void modToolbarManagement::RemoveQuinloftToolbar() {
+void modToolbarManagement::remove(const Bar& bar, Toolbar which) {
     basic::Suppressed quietly;
-    for (const auto* item : {&items_.gToolCompile, &items_.gToolDeploy, &items_.gToolSettings, &items_.gToolOpenProject,
-                             &items_.gToolZoom, &items_.gToolGuide})
-        if (*item) quietly([&] { (*item)->Delete(); });
-    if (items_.gMainToolbar) quietly([&] { items_.gMainToolbar->Delete(); });
-}
-
-void modToolbarManagement::RemoveSupportToolbar() {
-    basic::Suppressed quietly;
-    for (const auto* item : {&items_.gToolDatabaseConverter, &items_.gToolDatabaseViewer, &items_.gToolFontConverter,
-                             &items_.gToolFontViewer, &items_.gToolGraphicsConverter, &items_.gToolGraphicsViewer,
-                             &items_.gToolMovieConverter, &items_.gToolMovieViewer, &items_.gToolWGConfig})
-        if (*item) quietly([&] { (*item)->Delete(); });
-    if (items_.gSupportToolbar) quietly([&] { items_.gSupportToolbar->Delete(); });
+    for (const auto& command : kCommands) {
+        const auto& tool = command.tool;
+        if (!tool.item || tool.bar != which) continue;
+        if (const auto& button = items_.*tool.item) quietly([&] { button->Delete(); });
+    }
+    if (bar) quietly([&] { bar->Delete(); });
 }
 
 void modToolbarManagement::SaveAllToolbarState() {

@@ -1,6 +1,5 @@
 #pragma once
 // The two toolbars of the add-in.
-#include "Add-in/commands/command_items.h"
 #include "Add-in/commands/command_texts.h"
 #include "Add-in/commands/modImageManagement.h"
 #include "Add-in/core/AddIn.h"
@@ -8,7 +7,7 @@
 
 namespace fernwick {
 
-/// What the toolbars stand on.
+/// The dependencies of the toolbars.
 struct ToolbarServices {
     ErrorReport& errors;
     AddIn& addIn;
@@ -24,29 +23,30 @@ public:
 
     explicit modToolbarManagement(const ToolbarServices& services) : services_(services), items_(services.items) {}
 
-    /// Each bar comes up disabled, where it last stood. False at the first failure, which is reported.
+    /// Adds a bar, disabled, at its stored position. False at the first failure, which is reported.
     bool SetupQuinloftToolbar();
     bool SetupSupportToolbar();
 
-    /// A bar that doesn't stand is left alone. Disabling ignores errors.
+    /// Do nothing if the bar was not created. Disabling ignores errors.
     void EnableQuinloftToolbar() { enable(items_.gMainToolbar, "EnableQuinloftToolbar"); }
     void EnableSupportToolbar() { enable(items_.gSupportToolbar, "EnableSupportToolbar"); }
     void DisableQuinloftToolbar() { disable(items_.gMainToolbar); }
     void DisableSupportToolbar() { disable(items_.gSupportToolbar); }
     /// Errors are ignored.
-    void RemoveQuinloftToolbar();
-    void RemoveSupportToolbar();
+    void RemoveQuinloftToolbar() { remove(items_.gMainToolbar, Toolbar::Main); }
+    void RemoveSupportToolbar() { remove(items_.gSupportToolbar, Toolbar::Support); }
 
     /// A bar that doesn't stand is left alone.
     void SaveAllToolbarState();
     void RestoreAllToolbarState();
 
-    /// A new bar, docked at the top. One of that name that is left from an earlier run goes away. No trap.
+    /// Adds a bar at the top, after deleting a bar of that name left from an earlier run. No trap.
     Bar AddToolbar(const std::string& name);
     static Item AddControlButtonToolbar(const Bar& bar);
 
 private:
-    Item button(const Bar& bar, StringId tip, Face face, bool group = false);
+    void addButtons(const Bar& bar, Toolbar which);
+    void remove(const Bar& bar, Toolbar which);
     void showDisabled(const Bar& bar);
     void enable(const Bar& bar, const char* procedure);
     static void disable(const Bar& bar);

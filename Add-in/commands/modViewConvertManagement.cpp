@@ -3,7 +3,7 @@
 namespace fernwick {
 
 namespace {
-/// Below the root of the installation, by tool.
+/// By tool, relative to the root of the installation.
 constexpr const char* kPrograms[] = {
     "VB Toolkit\\Bin\\QLPDBC.exe", "VB Toolkit\\Bin\\QLPDBV.exe", "VB Toolkit\\Bin\\QLFonC.exe",
     "VB Toolkit\\Bin\\QLFonV.exe", "VB Toolkit\\Bin\\QLGraC.exe", "VB Toolkit\\Bin\\QLGraV.exe",

@@ -1,5 +1,5 @@
 #pragma once
-// The converters and viewers, which are programs of their own.
+// The converters and viewers, which are separate programs.
 #include "Add-in/core/modQLInstallInfo.h"
 #include "Add-in/core/procedure.h"
 #include "Add-in/platform/shell.h"
@@ -23,7 +23,7 @@ public:
     modViewConvertManagement(Shell& shell, const modQLInstallInfo& install, ErrorReport& errors)
         : shell_(shell), install_(install), errors_(errors) {}
 
-    /// Starts a UtilityTool. False for another number, and, after a report, where the program can't be started.
+    /// Starts a UtilityTool. False for any other number, and, after a report, if the program can't be started.
     bool OpenViewerConverter(int tool);
 
 private:

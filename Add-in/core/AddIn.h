@@ -1,5 +1,5 @@
 #pragma once
-// The host that the add-in runs in, and the preference that comes with it.
+// The add-in's host and a preference.
 #include "Add-in/core/host_reference.h"
 #include "Add-in/core/modRegistry2.h"
 #include "Add-in/core/procedure.h"
@@ -14,14 +14,13 @@ public:
 
     /// The host, from the connection on.
     HostReference gVBInstance;
-    /// How the host connected us. At the command line there is nobody to tell what a click would have done.
+    /// How the host connected the add-in. At the command line, unavailable commands are not reported.
     vbide::vbext_ConnectMode gConnectMode = vbide::vbext_cm_CommandLine;
-    /// Keeps the host and publishes its address for the sibling add-ins of the process. No trap.
+    /// Keeps the host and publishes its address for sibling add-ins in the process. No trap.
     void SaveVBinstPointer(const basic::Ref<vbide::VBE>& VBInst);
 
-    /// Whether to warn that an unsaved project must be saved.
+    /// Whether to warn that an unsaved project must be saved. True is stored as -1.
     bool GetQuinloftSaveWarning();
-    /// True is stored as -1.
     void SetQuinloftSaveWarning(bool value);
 
 private:

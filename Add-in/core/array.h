@@ -1,5 +1,5 @@
 #pragma once
-// VB's dynamic array: not allocated at first, then with a lower bound of its own.
+// VB's dynamic array: unallocated at first, then with a lower bound.
 #include "Basic/runtime_error.h"
 #include <cstdint>
 #include <utility>
@@ -7,28 +7,27 @@
 
 namespace fernwick {
 
-/// Error 9 for the bounds or an element of an array that is not allocated, and for an index outside of the bounds.
+/// Error 9 for the bounds or an element of an unallocated array, and for an index out of bounds.
 template <class T>
 class Array {
 public:
-    /// What one array holds at most: counts come from files and registry values that anybody may have written.
+    /// Maximum size of an array: counts come from files and registry values that are not trusted.
     static constexpr std::int32_t kMostElements = 1 << 20;
 
     Array() = default;
-    /// The array from `lower` on with these elements.
+    /// An array of these elements from index `lower`.
     Array(std::int32_t lower, std::vector<T> elements)
         : allocated_(true), lower_(lower), elements_(std::move(elements)) {}
 
-    /// All elements become those of a new array. Error 9 for an upper bound more than one below the lower one,
-    /// error 7 for more than kMostElements.
+    /// Replaces the array by new elements. Error 9 for an upper bound more than one below the lower one, error 7 for
+    /// more than kMostElements.
     void ReDim(std::int32_t lower, std::int32_t upper) {
         const auto count = std::int64_t{upper} - lower + 1;
         if (count < 0) throw basic::RuntimeError(basic::kSubscriptOutOfRange);
         if (count > kMostElements) throw basic::RuntimeError(basic::kOutOfMemory);
         *this = Array(lower, std::vector<T>(std::size_t(count)));
     }
-    /// One element more; all that stand stay. The first one of an array that is not allocated stands at 0. Error 7 as
-    /// above.
+    /// Appends an element. An unallocated array starts at index 0. Error 7 beyond kMostElements.
     void Append(T element) {
         if (elements_.size() >= std::size_t(kMostElements)) throw basic::RuntimeError(basic::kOutOfMemory);
         elements_.push_back(std::move(element));

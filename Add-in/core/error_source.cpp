@@ -4,7 +4,7 @@
 namespace fernwick {
 
 namespace {
-/// The source of an error that no component has put its name to: it is ours.
+/// The source of an error that no component has set: the add-in's own.
 const std::string kUnnamedSource = basic::RuntimeError(basic::kInvalidProcedureCall).Source;
 } // namespace
 

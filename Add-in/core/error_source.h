@@ -1,10 +1,10 @@
 #pragma once
-// Whose an error is.
+// The source of an error, as shown to users.
 #include "Add-in/platform/platform.h"
 
 namespace fernwick {
 
-/// The source that users read: the add-in's name for an error that no component has put its name to.
+/// Returns the error's source; the add-in's name if no component has set one.
 std::string errorSource(const std::string& source, const App& app);
 
 } // namespace fernwick

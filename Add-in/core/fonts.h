@@ -3,8 +3,8 @@
 
 namespace fernwick {
 
-/// Whether a font family of exactly this name is installed, letter case ignored. What the system would draw in
-/// its place does not count.
+/// Whether a font family of exactly this name is installed, ignoring letter case. Substitutes by the system do not
+/// count.
 inline bool WinFontExists(const Screen& screen, const std::string& name) {
     return !name.empty() && screen.FontFamilyExists(name);
 }

@@ -1,15 +1,15 @@
 #pragma once
-// GUID texts that may lack their braces.
+// GUID texts, which may lack braces.
 #include <string>
 
 namespace fernwick {
 
-/// Whether the text is a GUID, with or without braces; tells which.
+/// Whether the text is a GUID with or without braces; `hadBraces` is set accordingly.
 bool IsGuidText(const std::string& text, bool& hadBraces);
-/// Adds braces to a GUID that has none. False, and the text as it was, for what is no GUID.
+/// Adds missing braces to a GUID. Returns False and leaves the text unchanged if it is not a GUID.
 bool NormaliseGuidText(std::string& text);
 
-/// A new GUID in capital letters, without braces; "{Error}" where the system has none to give.
+/// Returns a new GUID in upper case without braces; "{Error}" if the system cannot create one.
 std::string CreateGUID();
 
 } // namespace fernwick

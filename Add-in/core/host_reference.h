@@ -4,8 +4,8 @@
 
 namespace fernwick {
 
-/// The host as the add-in knows it. The host owns the add-in, so the reference is weak: it is Nothing once the host is
-/// gone, and neither keeps the other alive.
+/// The host as the add-in refers to it. The host owns the add-in, so the reference is weak: it becomes Nothing when the
+/// host is destroyed.
 class HostReference {
 public:
     HostReference& operator=(const basic::Ref<vbide::VBE>& host) {

@@ -9,14 +9,14 @@ class modAddInErrorManagement final : public ErrorReport {
 public:
     modAddInErrorManagement(Interaction& user, const App& app) : user_(user), app_(app) {}
 
-    /// Shows the report box. Errors of our own carry the add-in's name as their source.
+    /// Shows the report box. Errors without a source get the add-in's name.
     void Error_ShowAddInError(const std::string& location, const basic::RuntimeError& error) override;
-    /// The error goes on to who called the procedure; only tests take note.
+    /// The error propagates to the caller of the procedure; only tests record it.
     void escaped(std::string_view) noexcept override {}
 
-    /// Always empty: nothing assigns the module's text, see below.
+    /// Always empty: nothing assigns the module's text.
     std::string Error_GetCurrentLocation() const { return gCurrentLocation; }
-    /// Takes a copy that dies with the call.
+    /// Has no effect: its argument is a copy.
     void Error_SetCurrentLocation(std::string location) const;
 
 private:

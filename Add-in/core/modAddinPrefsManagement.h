@@ -1,5 +1,5 @@
 #pragma once
-// Preferences of the user and of the machine, each a registry value. They are read on demand and written at once.
+// Preferences of the user and of the machine, each a registry value. They are read on demand and written immediately.
 #include "Add-in/core/modRegistry2.h"
 #include "Add-in/core/procedure.h"
 #include "Add-in/platform/command_bars.h"
@@ -7,45 +7,45 @@
 
 namespace fernwick {
 
-/// A preference that can't be read is its default, and one that can't be written stays: no registry failure is
-/// reported. Functions without a trap let errors of conversion out: GetZoomWinState, GetStartTutorial and their
-/// setters.
+/// A preference that can't be read has its default, and a write that fails is ignored: registry errors are not
+/// reported. GetZoomWinState, GetStartTutorial and their setters have no trap, so conversion errors leave them.
 class modAddinPrefsManagement {
 public:
     modAddinPrefsManagement(modRegistry2& registry, ErrorReport& errors) : registry_(registry), errors_(errors) {}
 
-    /// Keys of the design targets that the user ticked in My Devices.
+    /// Keys of the design targets ticked in My Devices.
     std::vector<std::string> gMyDevices;
     void loadMyDevices();
-    /// False only when an error came between.
+    /// Returns False only after an error.
     bool saveMyDevices();
 
-    /// 0 or 1. What is neither becomes 1 in the store too.
+    /// 0 or 1. Any other stored value is replaced by 1.
     std::int32_t GetZoomWinState();
     void SetZoomWinState(std::int32_t state);
 
-    /// Whether the introduction shows at start-up. It belongs to the machine.
+    /// Whether the introduction is shown at start-up, for all users of the machine.
     bool GetStartTutorial();
     void SetStartTutorial(bool value);
 
     bool GetQuinloftCompileWarning();
     void SetQuinloftCompileWarning(bool value);
 
-    /// Twips; -1 for no stored width.
+    /// Twips; -1 if no width is stored.
     std::int32_t GetRecentProjColWidth();
     void SetRecentProjColWidth(std::int32_t width);
 
     std::int32_t GetProjectManagerState();
     void SetProjectManagerState(std::int32_t state);
 
-    /// The groups of the toolbox: a name is a category, its data the category's position. False, and both empty,
-    /// where none are stored.
+    /// Reads the groups of the toolbox: names are categories, data their positions. Returns False, and empty lists, if
+    /// none are stored.
     bool CreateTavletCategoryList(basic::Collection<std::string>& namesByData,
                                   basic::Collection<std::string>& dataByName);
 
-    /// Where a toolbar stands and whether it shows, stored under its name.
+    /// Stores a toolbar's position and visibility under its name.
     void SaveToolbarState(const basic::Ref<office::CommandBar>& bar);
-    /// False at the first value that is not stored as a text: those behind it are left out, what was set stays set.
+    /// Restores them. Stops and returns False at the first value that is not stored as a text; values already set are
+    /// kept.
     bool ReadToolbarState(const basic::Ref<office::CommandBar>& bar);
 
 private:

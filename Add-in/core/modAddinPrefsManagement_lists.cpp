@@ -44,7 +44,7 @@ bool modAddinPrefsManagement::CreateTavletCategoryList(basic::Collection<std::st
     if (!key) return false;
     const auto values = registry_.EnumValues(key.handle());
     if (!values || values->empty()) return false;
-    basic::Suppressed quietly; // a second value of the same position is dropped
+    basic::Suppressed quietly; // a second value with the same position is ignored
     for (const auto& value : *values) {
         quietly([&] { namesByData.Add(value.name, value.text); });
         quietly([&] { dataByName.Add(value.text, value.name); });

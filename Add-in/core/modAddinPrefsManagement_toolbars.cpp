@@ -1,4 +1,4 @@
-// Where the toolbars stood when they were last put away.
+// The stored positions of the toolbars.
 #include "Add-in/core/modAddinPrefsManagement.h"
 #include "Add-in/core/preference_keys.h"
 #include "Basic/conversions.h"
@@ -9,14 +9,14 @@ namespace {
 
 using Bar = basic::Ref<office::CommandBar>;
 
-/// One property of a toolbar, and the beginning of its value's name.
+/// A property of a toolbar and the prefix of its value's name.
 struct ToolbarValue {
     const char* tag;
     std::string (*written)(const Bar&);
     void (*read)(const Bar&, const std::string&);
 };
 
-/// In the order in which they are read: a bar takes its row only where it is docked already.
+/// In reading order: a bar accepts a row only once it is docked.
 constexpr ToolbarValue kToolbarValues[] = {
     {"POS:", [](const Bar& bar) { return std::to_string(bar->Position()); },
      [](const Bar& bar, const std::string& text) { bar->Position(basic::CLng(text)); }},

@@ -7,8 +7,8 @@ namespace fernwick {
 
 namespace {
 
-std::optional<std::string> behindFolder(const FileSystemObject& files, const std::string& folder,
-                                        const std::string& canonicalPath) {
+std::optional<std::string> afterFolder(const FileSystemObject& files, const std::string& folder,
+                                       const std::string& canonicalPath) {
     const auto beginning = files.WithSeparator(files.Canonical(folder));
     if (!basic::startsWithNoCase(canonicalPath, beginning)) return std::nullopt;
     auto rest = canonicalPath.substr(std::min(beginning.size(), canonicalPath.size()));
@@ -23,7 +23,7 @@ std::string GetRelativePath(const FileSystemObject& files, const std::string& ba
     const auto target = files.Canonical(path);
     std::string way;
     for (auto folder = files.GetAbsolutePathName(base); !folder.empty(); folder = files.GetParentFolderName(folder)) {
-        if (const auto rest = behindFolder(files, folder, target)) return way + *rest;
+        if (const auto rest = afterFolder(files, folder, target)) return way + *rest;
         way += "..\\";
     }
     return path;
@@ -31,7 +31,7 @@ std::string GetRelativePath(const FileSystemObject& files, const std::string& ba
 
 std::string PathBelow(const FileSystemObject& files, const std::string& folder, const std::string& path) {
     if (folder.empty()) return {};
-    return behindFolder(files, folder, files.Canonical(path)).value_or("");
+    return afterFolder(files, folder, files.Canonical(path)).value_or("");
 }
 
 } // namespace fernwick

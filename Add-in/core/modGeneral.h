@@ -1,16 +1,16 @@
 #pragma once
-// General helpers on arrays.
+// General helpers for arrays.
 #include "Add-in/core/array.h"
 
 namespace fernwick {
 
-/// Whether the array is not allocated. One with an upper bound of -1 is allocated, though it has no element.
+/// Whether the array is unallocated. An array with an upper bound of -1 is allocated although it is empty.
 template <class T>
 bool IsArrayEmpty(const Array<T>& array) {
     return basic::attempt([&] { (void)array.UBound(); }).Number == basic::kSubscriptOutOfRange;
 }
 
-/// How many elements the array has; 0 for one that is not allocated.
+/// Number of elements; 0 for an unallocated array.
 template <class T>
 std::int32_t SafeUpdim(const Array<T>& array) {
     return IsArrayEmpty(array) ? 0 : array.UBound() - array.LBound() + 1;

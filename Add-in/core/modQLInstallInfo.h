@@ -1,5 +1,5 @@
 #pragma once
-// Where things are installed.
+// Folders of the installation.
 #include "Add-in/core/modRegistry2.h"
 #include "Add-in/platform/files.h"
 
@@ -9,15 +9,15 @@ class modQLInstallInfo {
 public:
     modQLInstallInfo(modRegistry2& registry, const FileSystemObject& files) : registry_(registry), files_(files) {}
 
-    /// Root directory of the installation; "" when it is not known.
+    /// Root directory of the installation; "" if unknown.
     std::string GetQuinloftRootDir() const;
     /// Below the root; "" without one.
     std::string GetQuinloftFontsDir() const;
     std::string GetQuinloftSamplesDir() const;
-    /// Directory of the host IDE; "" when it is not known.
+    /// Directory of the host IDE; "" if unknown.
     std::string GetVBProductDir() const;
 
-    /// A file or folder that the installation lays down, by its name below the root in any letter case.
+    /// Returns the path of an installed file or folder, given its name relative to the root in any letter case.
     std::string installed(const std::string& name) const;
 
 private:

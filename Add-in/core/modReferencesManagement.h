@@ -14,7 +14,7 @@ public:
 
     /// Reads the list of the system's own controls from the registry.
     void SaveQuinloftClasses();
-    /// Whether a control's ProgID names one of the system's own. No trap, never fails.
+    /// Whether the ProgID is that of a control of this system. Never fails.
     bool IsQuinloftControl(const std::string& name) const;
     /// The ProgID of a CLSID in braces; "" on failure.
     std::string GetProgID(const std::string& clsid) const;

@@ -1,5 +1,5 @@
 #pragma once
-// The registry as the add-in uses it: keys by handle, values by type.
+// The registry: keys by handle, values by type.
 #include "Add-in/platform/registry.h"
 #include <optional>
 #include <string>
@@ -13,7 +13,7 @@ using RegistryBytes = std::vector<std::uint8_t>;
 /// A value's data: nothing, text, bytes or a number.
 using RegistryData = std::variant<std::monostate, std::string, RegistryBytes, std::int32_t>;
 
-/// What a read answers. Without status 0 the data are empty.
+/// Result of a read. The data are empty unless the status is 0.
 struct RegistryValue {
     std::int32_t status = ERROR_SUCCESS;
     std::uint32_t type = REG_NONE;
@@ -34,42 +34,42 @@ struct NamedRegistryText {
     std::string name, text;
 };
 
-/// Data as a number. Errors 13 for a text that is none or for bytes, 6 outside of the range.
+/// Data as a number. Error 13 for bytes and for a text that is not a number, 6 if out of range.
 std::int32_t registryNumber(const RegistryData& data);
 
-/// Handles are 32-bit; 0 means failure. Nothing here raises an error.
+/// Handles are 32-bit; 0 means failure. No member raises an error.
 class modRegistry2 {
 public:
     explicit modRegistry2(Registry& registry) : registry_(registry) {}
 
     std::uint32_t OpenKey(std::uint32_t root, const std::string& subKey, std::uint32_t access);
     bool CloseKey(std::uint32_t key);
-    /// Makes the key where it does not stand yet; `key` is 0 unless the status is.
+    /// Creates the key unless it exists; `key` is 0 if that fails.
     std::int32_t CreateKey(std::uint32_t root, const std::string& subKey, std::uint32_t& key);
     std::uint32_t OpenOrCreateKey(std::uint32_t root, const std::string& subKey, std::uint32_t access);
 
-    /// Names of the subkeys; nothing on any error.
+    /// Names of the subkeys; none after an error.
     std::optional<std::vector<std::string>> EnumKeys(std::uint32_t key);
-    /// All values as texts; nothing on any error.
+    /// All values as texts; none after an error.
     std::optional<std::vector<NamedRegistryText>> EnumValues(std::uint32_t key);
     std::optional<std::vector<NamedRegistryValue>> EnumValuesRaw(std::uint32_t key);
 
     RegistryValue GetValue(std::uint32_t key, const std::string& name);
-    /// Texts and numbers as text; any other type gives an empty one.
+    /// Texts and numbers as text; "" for other types.
     RegistryText GetStringValue(std::uint32_t key, const std::string& name);
-    /// Answers a status.
+    /// Returns a status.
     std::int32_t SetValue(std::uint32_t key, const std::string& name, const RegistryData& data, std::uint32_t type);
 
-    /// Each byte's character in the system code page.
+    /// Decodes bytes as characters of the system code page.
     static std::string BytesToString(const RegistryBytes& bytes);
-    /// Each character's code in that page, the code of "?" for a character that it lacks.
+    /// Encodes characters in that page; missing ones become "?".
     static RegistryBytes StringToBytes(const std::string& text);
 
 private:
     Registry& registry_;
 };
 
-/// A key that is closed where it goes out of scope; 0 for one that did not open.
+/// A key that is closed at the end of its scope; 0 if it could not be opened.
 class RegistryKey {
 public:
     RegistryKey(modRegistry2& registry, std::uint32_t key) : registry_(registry), key_(key) {}

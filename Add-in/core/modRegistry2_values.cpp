@@ -13,7 +13,7 @@ constexpr std::size_t kNumberLength = 4;
 bool isTextType(std::uint32_t type) { return type == REG_SZ || type == REG_EXPAND_SZ || type == REG_MULTI_SZ; }
 bool isNumberType(std::uint32_t type) { return type == REG_DWORD || type == REG_DWORD_BIG_ENDIAN; }
 
-/// The four bytes as they lie in memory, for big-endian numbers too: nobody turns them round.
+/// Interprets the four bytes as little-endian, even for big-endian numbers: VB does not swap them.
 std::int32_t numberFromBytes(const std::string& bytes) {
     std::uint32_t number = 0;
     for (std::size_t i = std::min(bytes.size(), kNumberLength); i-- > 0;) number = number << 8 | std::uint8_t(bytes[i]);

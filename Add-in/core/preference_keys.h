@@ -1,5 +1,5 @@
 #pragma once
-// Where preferences are stored. The user's and the machine's stand under the same path of different roots.
+// Registry keys of preferences. The user's and the machine's have the same path under different roots.
 
 namespace fernwick {
 
@@ -8,7 +8,7 @@ inline constexpr const char* kMyDevicesKey = "SOFTWARE\\Quinloft\\AddinPrefs\\My
 inline constexpr const char* kTavletGroupsKey = "SOFTWARE\\Quinloft\\AddinPrefs\\TavletGroups";
 inline constexpr const char* kAddInKey = "SOFTWARE\\Quinloft\\Embedded Toolkit\\AddIn";
 
-/// More than any stored list has. Counts come from stores that anybody may have written to.
+/// Maximum length of a stored list: counts come from stores that are not trusted.
 inline constexpr int kMostStoredEntries = 65536;
 
 } // namespace fernwick

@@ -15,12 +15,13 @@ class ErrorReport {
 public:
     virtual ~ErrorReport() = default;
     virtual void Error_ShowAddInError(const std::string& location, const basic::RuntimeError& error) = 0;
-    /// An error that leaves a trapped procedure: a statement that should have been wrapped. Tests fail on it.
+    /// Called for an error that leaves a trapped procedure, which means that a statement is not wrapped. Tests fail on
+    /// it.
     virtual void escaped(std::string_view location) noexcept = 0;
 };
 
-/// The trap of one procedure, armed from where it is declared: a failing statement is reported under the
-/// procedure's location, and the next one runs.
+/// The trap of one procedure, armed from its declaration: a failing statement is reported under the procedure's
+/// location, and execution continues with the next one.
 class Procedure {
 public:
     Procedure(ErrorReport& report, std::string location)
@@ -30,7 +31,7 @@ public:
     }
     Procedure(const Procedure&) = delete;
 
-    /// One statement. False when it failed.
+    /// Executes one statement. Returns False if it failed.
     template <std::invocable F>
     bool operator()(F&& statement) {
         try {
@@ -41,14 +42,15 @@ public:
             return false;
         }
     }
-    /// The value of an expression, or that of an unset variable when it fails.
+    /// Returns the value of an expression, or a default-constructed value if it fails.
     template <std::invocable F>
     auto value(F&& expression) -> std::remove_cvref_t<std::invoke_result_t<F>> {
         std::remove_cvref_t<std::invoke_result_t<F>> result{};
         (*this)([&] { result = expression(); });
         return result;
     }
-    /// The condition of an If. One that fails counts as true: VB goes on with the branch's first statement.
+    /// Evaluates the condition of an If. A failing condition counts as true: VB resumes with the first statement of the
+    /// branch.
     template <std::predicate F>
     bool test(F&& condition) {
         bool result = true;

@@ -1,5 +1,5 @@
 #pragma once
-// The settings dialog, as rooms below it see it.
+// The settings dialog, as lower rooms use it.
 #include "Add-in/platform/host_project.h"
 #include <string>
 

@@ -41,7 +41,7 @@ void clsDeviceConfig::readFields(Procedure& here, const IQLDesignTarget& target)
     DefaultFontStyle = 0;
     std::string style;
     const bool present = here.value([&] { return target.GetOption("DefaultFontStyle", style); });
-    if (present) (void)basic::attempt([&] { DefaultFontStyle = basic::CLng(style); }); // "bold" is none
+    if (present) (void)basic::attempt([&] { DefaultFontStyle = basic::CLng(style); }); // "bold" is not a number
 }
 
 void clsDeviceConfig::ReadSupportedReferences(const IQLDesignTarget& target) {

@@ -10,9 +10,9 @@ namespace fernwick {
 
 /// One supported control.
 struct ValidTavlet {
-    /// As the target gives it, in braces.
+    /// In braces, as given by the target.
     std::string CLSID;
-    /// The name by which the host knows the control: type library, "Ctl." and class.
+    /// The host's name of the control: type library, "Ctl." and class.
     std::string VBProgID;
     /// The registered ProgID; "" for a control that could not be resolved.
     std::string progID;
@@ -24,15 +24,15 @@ struct ValidTavlet {
     std::string CategoryName;
 };
 
-/// One reference that projects of the device carry.
+/// A reference of the device's projects.
 struct tReference {
     std::string Name;
     std::string GUID;
-    /// 1 for a required one.
+    /// 1 if required.
     std::int32_t Value = 0;
 };
 
-/// What a device configuration needs of the rooms below.
+/// The dependencies of a device configuration.
 struct DeviceServices {
     ErrorReport& errors;
     Interaction& user;
@@ -45,10 +45,10 @@ struct DeviceServices {
 
 class clsDeviceConfig {
 public:
-    /// Makes sure that the design target manager exists.
+    /// Creates the design target manager if necessary.
     explicit clsDeviceConfig(const DeviceServices& services);
 
-    /// The key that was read last, known or not.
+    /// The key that was last read, even if unknown.
     std::string DeviceKey;
     /// Display name with its accelerator.
     std::string DeviceName;
@@ -64,15 +64,15 @@ public:
     /// Bit 0 bold, bit 1 italic.
     std::int32_t DefaultFontStyle = 0;
 
-    /// Fills the object from the target of that key; for an unknown one all but DeviceKey stays.
+    /// Reads the target with this key. For an unknown key only DeviceKey changes.
     void ReadDeviceConfig(const std::string& newDeviceKey);
-    /// Copies the list, from index 1, and gives the number of Tavlets, which falls by one for each that could not
-    /// be resolved while the list keeps its length: walk the bounds and skip an empty progID.
+    /// Copies the list, from index 1, and returns the number of resolved Tavlets. The list also contains those that
+    /// could not be resolved: iterate over its bounds and skip an empty progID.
     std::int32_t GetDeviceTavlets(Array<ValidTavlet>& TavletList) const;
-    /// The same of the references.
+    /// Does the same for references.
     std::int32_t GetDeviceReferences(Array<tReference>& ReferenceList) const;
 
-    /// What stands behind the old path of design targets in a key, up to the next backslash.
+    /// Returns the part of a key after the old path of design targets, up to the next backslash.
     static std::string GetOSName(const std::string& key);
 
 private:

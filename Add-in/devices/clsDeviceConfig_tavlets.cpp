@@ -1,4 +1,4 @@
-// The controls that a target supports, resolved into what the host and the toolbox need of them.
+// Resolves the controls that a target supports to what the host and the toolbox need.
 #include "Add-in/core/core_texts.h"
 #include "Add-in/devices/clsDeviceConfig.h"
 #include "Add-in/devices/device_texts.h"
@@ -80,7 +80,7 @@ void clsDeviceConfig::orderByGroup(Procedure& here, const Array<ValidTavlet>& wo
     }
     tavlets_.ReDim(1, work.UBound());
     std::int32_t next = 1;
-    // One short of the last position: its entries stay out of the list, as do those of unknown categories.
+    // One less than the last position: its entries are left out of the list, as are those of unknown categories.
     for (std::int32_t position = 1; position < positionsByName.Count(); ++position) {
         const auto category = here.value([&] { return namesByPosition.Item(std::to_string(position)); });
         for (const auto& tavlet : work)

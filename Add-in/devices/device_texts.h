@@ -1,5 +1,5 @@
 #pragma once
-// What users read from this room.
+// Texts of this room.
 #include <string_view>
 
 namespace fernwick::texts {

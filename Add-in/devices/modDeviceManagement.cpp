@@ -14,19 +14,19 @@ void modDeviceManagement::initDesignTargetMgr() try {
     errors_.Error_ShowAddInError("modDeviceManagement.initDesignTargetMgr", error);
 }
 
-bool modDeviceManagement::managerStands() {
+bool modDeviceManagement::hasManager() {
     if (!gDesignTargetMgr) initDesignTargetMgr();
     return bool(gDesignTargetMgr);
 }
 
 basic::Ref<IQLDesignTarget> modDeviceManagement::GetDesignTarget(const std::string& key) {
     basic::Ref<IQLDesignTarget> target;
-    if (!managerStands() || !gDesignTargetMgr->GetDesignTarget(key, target)) return nullptr;
+    if (!hasManager() || !gDesignTargetMgr->GetDesignTarget(key, target)) return nullptr;
     return target;
 }
 
 bool modDeviceManagement::IsValidDevice(const std::string& key) try {
-    if (!managerStands() || key.empty()) return false;
+    if (!hasManager() || key.empty()) return false;
     std::int32_t position = 0;
     if (!gDesignTargetMgr->FindDesignTarget(key, position)) return false;
     const auto target = GetDesignTarget(key);
@@ -49,8 +49,8 @@ std::vector<std::string> modDeviceManagement::GetDesignTargets(bool showErrors) 
 
 std::vector<std::string> modDeviceManagement::CreateValidDesignTargetList(bool) try {
     std::vector<std::string> keys;
-    if (!managerStands()) return keys;
-    bool suppressed = false; // errors are, from the first validation that is tried to the end of the loop
+    if (!hasManager()) return keys;
+    bool suppressed = false; // from the first validation to the end of the loop
     for (std::int32_t i = 0, count = gDesignTargetMgr->Count(); i < count; ++i) {
         try {
             const auto target = gDesignTargetMgr->GetDesignTargetByIndex(std::int16_t(i));
@@ -71,7 +71,7 @@ std::vector<std::string> modDeviceManagement::CreateValidDesignTargetList(bool) 
 }
 
 std::int32_t modDeviceManagement::GetNumDesignTargets() try {
-    if (!managerStands()) return 0;
+    if (!hasManager()) return 0;
     const auto count = gDesignTargetMgr->Count();
     return CreateValidDesignTargetList(false).empty() ? 0 : count;
 } catch (const basic::RuntimeError& error) {
@@ -82,7 +82,7 @@ std::int32_t modDeviceManagement::GetNumDesignTargets() try {
 std::string modDeviceManagement::StripAcceleratorInfo(const std::string& text) { return basic::Replace(text, "&", ""); }
 
 std::string modDeviceManagement::GetPipeNameForDevice(const std::string& key) try {
-    if (!managerStands() || key.empty()) return {};
+    if (!hasManager() || key.empty()) return {};
     const auto target = GetDesignTarget(key);
     return target ? target->RequiredPipeProgID() : std::string{};
 } catch (const basic::RuntimeError& error) {

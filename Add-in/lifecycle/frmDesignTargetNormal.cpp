@@ -33,7 +33,7 @@ void frmDesignTargetNormal::Form_Load() {
 void frmDesignTargetNormal::btnOK_Click() {
     Procedure here{services_.errors, "frmDesignTargetNormal.btnOK_Click"};
     const int row = lstQuickDesignTargets.ListIndex();
-    if (row < 0) return; // a double click below the last row
+    if (row < 0) return; // double click below the last row
     const auto key = targetKeys_[std::size_t(row)];
     clsDeviceConfig device{services_};
     device.ReadDeviceConfig(key);

@@ -1,13 +1,12 @@
 #pragma once
-// The user picks the device of a project that has none, or whose device isn't available.
+// Lets the user choose the device of a project that has none, or whose device isn't available.
 #include "Add-in/devices/clsDeviceConfig.h"
 #include "Add-in/platform/controls.h"
 #include "Add-in/project/clsQLProject.h"
 
 namespace fernwick {
 
-/// One key for each platform, which is the text before the first "-": the first key of each counts. A key without
-/// "-" is kept.
+/// Keeps the first key of each platform, which is the text before the first "-". A key without "-" is always kept.
 std::vector<std::string> oneTargetAPlatform(const std::vector<std::string>& keys);
 
 class frmDesignTargetNormal : public Form {
@@ -22,9 +21,9 @@ public:
     CommandButton btnAdvanced{this, "btnAdvanced", "&Advanced...", &frmDesignTargetNormal::btnAdvanced_Click};
     PictureBox Picture1{this, "Picture1", "devices"};
 
-    /// Before the form is shown.
+    /// To be called before the form is shown.
     void SetWorkingProject(const basic::Ref<clsQLProject>& project) { workingProject_ = project; }
-    /// Keys of the rows.
+    /// Keys of the list's rows.
     const std::vector<std::string>& targetKeys() const { return targetKeys_; }
 
 protected:

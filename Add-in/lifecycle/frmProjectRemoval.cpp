@@ -26,7 +26,7 @@ void frmProjectRemoval::RemoveComponent(const Project& project, const basic::Ref
     if (componentsProject_ && componentToRemove_) here([&] { Timer2.Enabled(true); });
 }
 
-/// Opening and closing let events in, and their handlers may ask for more: that is served in this same tick.
+/// Opening and closing let in events whose handlers may make more requests: those are served in the same tick.
 void frmProjectRemoval::Timer1_Timer() {
     Procedure here{errors_, "frmProjectRemoval.Timer1_Timer"};
     for (std::size_t i = 0; i < removalList_.size(); ++i) {
@@ -58,13 +58,13 @@ void frmProjectRemoval::serve(Procedure& here, const Project& project) {
     } else if (componentsOnly_) {
         projects_.RemoveProjectComponents(qlProject);
     } else if (!projectToOpen_.empty()) {
-        replace(here, project, std::exchange(projectToOpen_, {})); // what the opening asks for keeps its own path
+        replace(here, project, std::exchange(projectToOpen_, {})); // requests made while opening keep their own path
     } else if (!projectToLoad_.empty()) {
         openFile(here, std::exchange(projectToLoad_, {}), true);
     }
 }
 
-/// The IDE is never left without a project when others are open.
+/// If other projects are open, the new one is opened before the old one is removed; a single project is removed first.
 void frmProjectRemoval::replace(Procedure& here, const Project& project, const std::string& path) {
     const bool onlyOne = here.test([&] { return addIn_.gVBInstance->VBProjects()->Count() < 2; });
     if (!onlyOne) openFile(here, path, false);

@@ -1,5 +1,5 @@
 #pragma once
-// Requests to drop a project or a component, carried out after the host's event has returned.
+// Requests to remove a project or a component, served after the host's event has returned.
 #include "Add-in/commands/modMenuManagement.h"
 #include "Add-in/core/AddIn.h"
 #include "Add-in/platform/event_loop.h"
@@ -8,7 +8,7 @@
 
 namespace fernwick {
 
-/// Never shown. Loaded at the connection, so that its timers are there for every later handler.
+/// Never shown. It is loaded at the connection so that its timers exist for all later handlers.
 class frmProjectRemoval : public Form {
 public:
     using Project = basic::Ref<vbide::VBProject>;
@@ -18,12 +18,13 @@ public:
         : Form(user), loop_(loop), addIn_(addIn), projects_(projects), items_(items), menu_(menu), errors_(errors) {}
     const char* typeName() const override { return "frmProjectRemoval"; }
 
-    /// Queues the project's removal. With `replaceIt`, `newProject` is opened in its place; an empty name opens none. A
-    /// project that has gone by now needs no removal, and what takes another's place stays remembered.
+    /// Queues the project's removal. With `replaceIt`, `newProject` is opened in its place, or none if it is empty. A
+    /// request for a project that is no longer open is ignored and does not change the pending replacement.
     void RemoveProject(const Project& project, bool replaceIt, const std::string& newProject);
-    /// Queues the project. It is emptied with `componentsOnly`, else `path` is opened in place of all that is open.
+    /// Queues the project: with `componentsOnly` to be emptied, otherwise to be replaced, with all other open projects,
+    /// by `path`.
     void LoadExclusiveProject(const Project& project, const std::string& path, bool componentsOnly);
-    /// Removes the component once both are known: an argument that is Nothing keeps what an earlier call gave.
+    /// Removes the component once both arguments are known: Nothing keeps the value of an earlier call.
     void RemoveComponent(const Project& project, const basic::Ref<vbide::VBComponent>& component);
 
 protected:

@@ -8,7 +8,7 @@
 
 namespace fernwick {
 
-/// TypeLibInfo: what a library's description says of it.
+/// TypeLibInfo: the description of a type library.
 struct TypeLibInfo {
     std::string Name;
     /// The library's file.
@@ -17,7 +17,7 @@ struct TypeLibInfo {
     std::string Guid;
     int MajorVersion = 0;
     int MinorVersion = 0;
-    /// What the library is, in words; may be empty.
+    /// Description; may be empty.
     std::string HelpString;
 };
 
@@ -26,12 +26,12 @@ public:
     virtual ~Classes() = default;
 
     using Factory = std::function<basic::Ref<Object>()>;
-    /// Makes the ProgID creatable for as long as the answer lives. The latest registration counts.
+    /// Makes the ProgID creatable as long as the returned object lives. The latest registration counts.
     [[nodiscard]] virtual std::shared_ptr<void> RegisterClass(const std::string& progId, Factory factory) = 0;
     /// Error 429 for a class that can't be created.
     virtual basic::Ref<Object> CreateObject(const std::string& progId) = 0;
 
-    /// CLSIDFromString: False for a text that is no CLSID in braces.
+    /// CLSIDFromString: False for a text that is not a CLSID in braces.
     virtual bool CLSIDFromString(const std::string& text, std::string& clsid) const = 0;
     /// "" for a class that is not registered.
     virtual std::string ProgIDFromCLSID(const std::string& clsid) const = 0;

@@ -8,7 +8,7 @@ public:
     virtual ~Clock() = default;
     /// Nanoseconds since 1970.
     virtual std::int64_t Now() const = 0;
-    /// Nanoseconds from some fixed point; never goes back.
+    /// Nanoseconds since a fixed point; never decreases.
     virtual std::int64_t Monotonic() const = 0;
 };
 

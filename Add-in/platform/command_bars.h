@@ -22,11 +22,11 @@ enum MsoBarPosition : int { msoBarLeft = 0, msoBarTop = 1, msoBarRight = 2, msoB
 class CommandBarControls;
 class CommandBar;
 
-/// A button or popup of a bar. What was deleted raises errors.
+/// A button or popup of a bar. A deleted one raises errors.
 class CommandBarControl : public Object {
 public:
     virtual int Id() const = 0;
-    /// From 1, the place in its bar.
+    /// Position in its bar, from 1.
     virtual int Index() const = 0;
     virtual MsoControlType Type() const = 0;
     virtual std::string Caption() const = 0;
@@ -44,13 +44,13 @@ public:
     /// What a button shows; error 438 for a popup.
     virtual MsoButtonStyle Style() const = 0;
     virtual void Style(MsoButtonStyle style) = 0;
-    /// Takes the picture on the clipboard for the button's face. Error 5 when there is none, 438 for a popup.
+    /// Sets the button's face from the picture on the clipboard. Error 5 without a picture, 438 for a popup.
     virtual void PasteFace() = 0;
     virtual Ref<CommandBar> Parent() const = 0;
     /// The items of a popup; error 438 for a button.
     virtual Ref<CommandBarControls> Controls() = 0;
     virtual void Delete() = 0;
-    /// Does what a click does.
+    /// Acts as a click does.
     virtual void Execute() = 0;
 };
 
@@ -59,7 +59,7 @@ public:
     virtual int Count() const = 0;
     /// From 1. Error 9 outside of the range.
     virtual Ref<CommandBarControl> Item(int index) const = 0;
-    /// By caption, the "&" left out.
+    /// Finds a control by its caption without "&".
     virtual Ref<CommandBarControl> Item(const std::string& caption) const = 0;
     virtual std::vector<Ref<CommandBarControl>> items() const = 0;
     /// `before` 0 appends.
@@ -82,14 +82,14 @@ public:
     virtual int Top() const = 0;
     virtual void Top(int top) = 0;
     virtual Ref<CommandBarControls> Controls() = 0;
-    /// The first control of this id, popups searched too; Nothing when there is none.
+    /// Returns the first control with this id, in popups too; Nothing if there is none.
     virtual Ref<CommandBarControl> FindControl(int id) = 0;
     virtual void Delete() = 0;
 };
 
 class CommandBars : public Object {
 public:
-    /// A toolbar, or a menu of the host's own. Error 5 for a name that is not there.
+    /// A toolbar or one of the host's own menus. Error 5 for an unknown name.
     virtual Ref<CommandBar> Item(const std::string& name) const = 0;
     virtual std::vector<Ref<CommandBar>> items() const = 0;
     virtual Ref<CommandBar> ActiveMenuBar() const = 0;

@@ -8,16 +8,16 @@
 
 namespace qltoolkit {
 
-/// What an input file is.
+/// Kinds of input files.
 enum BuildFileKind : int { SourceFile = 0, ReferencedLibrary = 1, ControlLibrary = 2 };
-/// What a reported dependency is.
+/// Kinds of reported dependencies.
 enum DependencyType : int { ComponentDependency = 0, FileDependency = 1 };
 
 /// Raises its events from within Build, on the caller's thread.
 class Compiler : public fernwick::Object {
 public:
     fernwick::Event<> BuildStarted;
-    /// Progress begins with its number: "45% completed".
+    /// The text begins with the percentage: "45% completed".
     fernwick::Event<const std::string&> BuildStatus;
     /// Message, file name, line in the file on disk (from 1, 0 for none), error number.
     fernwick::Event<const std::string&, const std::string&, std::int32_t, std::int32_t> BuildError, BuildWarning;
@@ -29,7 +29,7 @@ public:
     virtual void SetOutputPath(const std::string& path) = 0;
     virtual void AddBuildFile(const std::string& path, int kind) = 0;
     virtual bool Build() = 0;
-    /// Forgets all input.
+    /// Discards all input.
     virtual void Reset() = 0;
     /// Name of the start-up component, "Sub Main", or "".
     virtual void SetStartupObject(const std::string& name) = 0;

@@ -1,5 +1,5 @@
 #pragma once
-// The controls that forms are made of.
+// The controls used on forms.
 #include "Add-in/platform/form.h"
 
 namespace fernwick {
@@ -12,10 +12,10 @@ public:
         own_ = Click.connect([form, click] { (form->*click)(); });
     }
     Property<std::string> Caption;
-    /// Return presses it; Escape presses it.
+    /// Pressed by Return, by Escape.
     bool Default = false, Cancel = false;
     Event<> Click;
-    /// What a user does: nothing while it is hidden or disabled.
+    /// Acts as a user's click does: nothing while the button is hidden or disabled.
     void press() {
         if (Visible() && Enabled()) Click.raise();
     }
@@ -24,7 +24,7 @@ private:
     Subscription own_;
 };
 
-/// Value is 0 (clear), 1 (ticked) or 2 (grey). Setting another value raises Click whoever sets it.
+/// Value is 0 (clear), 1 (ticked) or 2 (grey). A change raises Click, by code too.
 class CheckBox : public Control {
 public:
     CheckBox(Form* form, std::string name, std::string caption = {})
@@ -43,7 +43,7 @@ class Label : public Control {
 public:
     Label(Form* form, std::string name, std::string caption = {})
         : Control(form, std::move(name)), Caption(this, std::move(caption)) {}
-    /// One that may be clicked, as a link.
+    /// A label that can be clicked, such as a link.
     template <class F>
     Label(F* form, std::string name, std::string caption, void (F::*click)())
         : Label(form, std::move(name), std::move(caption)) {
@@ -56,14 +56,14 @@ private:
     Subscription own_;
 };
 
-/// Value runs from Min to Max: percent, where nobody says otherwise.
+/// Value is between Min and Max, which default to percent.
 class ProgressBar : public Control {
 public:
     using Control::Control;
     Property<float> Min{this, 0.0F}, Max{this, 100.0F};
     Property<float> Value{this, 0.0F};
 
-    /// From 0 to a number of steps.
+    /// Resets the bar to count this number of steps.
     void start(std::size_t steps) {
         Min(0);
         Max(float(steps));
@@ -72,7 +72,7 @@ public:
     float percent() const { return Max() > Min() ? (Value() - Min()) / (Max() - Min()) * 100 : 0; }
 };
 
-/// In simple-text mode. Setting an equal text tells nobody, so Refresh says that a text was set.
+/// In simple-text mode. Setting an equal text notifies no one, so Refresh raises an event of its own.
 class StatusBar : public Control {
 public:
     using Control::Control;
@@ -87,7 +87,7 @@ public:
         : Control(form, std::move(name)), Picture(this, std::move(picture)) {
         Visible.design(visible);
     }
-    /// Name of the picture that the front end draws.
+    /// Name of the picture for the front end to draw.
     Property<std::string> Picture;
 };
 
@@ -98,9 +98,9 @@ public:
     Animation(Form* form, std::string name, bool visible = false) : Control(form, std::move(name)) {
         Visible.design(visible);
     }
-    /// The file that was opened; "" for none.
+    /// The opened file; "" for none.
     Property<std::string> FileName{this};
-    /// How often it plays: 0 not at all, -1 for ever.
+    /// Number of repetitions: 0 for none, -1 for endless.
     Property<int> Playing{this, 0};
 
     void Open(const std::string& path) { FileName(path); }
@@ -108,7 +108,7 @@ public:
     void Stop() { Playing(0); }
 };
 
-/// Rows with data and one selected row. Setting ListIndex raises Click whoever sets it.
+/// Rows with data and one selected row. Setting ListIndex raises Click, by code too.
 class ListBox : public Control {
 public:
     struct Row {
@@ -139,7 +139,7 @@ public:
     void Selected(int i, bool ticked);
     int NewIndex() const { return newIndex_; }
     void AddItem(std::string text);
-    /// Raises no Click, as VB raises none.
+    /// Raises no Click, as in VB.
     void RemoveItem(int i);
     void Clear();
     int ListIndex() const { return listIndex_; }

@@ -8,20 +8,20 @@
 
 namespace designtargetaccess {
 
-/// What ValidateReference answers of one reference.
+/// Result of ValidateReference.
 struct ReferenceValidity {
-    /// The target's projects may carry it.
+    /// The target's projects may contain the reference.
     bool accepted = false;
-    /// The target's projects must carry it.
+    /// The target's projects must contain the reference.
     bool required = false;
     bool known() const { return accepted || required; }
 };
 
-/// One device platform. Numbers come as text.
+/// One device platform. Numbers are texts.
 class IQLDesignTarget : public fernwick::Object {
 public:
     virtual std::string Key() const = 0;
-    /// The platform in words; empty for a target that isn't offered.
+    /// Name of the platform; empty for a target that isn't offered.
     virtual std::string PlatformName() const = 0;
     /// Display name, with an "&" for the accelerator.
     virtual std::string Name() const = 0;
@@ -44,11 +44,11 @@ public:
     virtual std::int32_t NumSupportedReferences() const = 0;
     /// `reference` is a library's GUID in braces or the name of the library.
     virtual ReferenceValidity ValidateReference(const std::string& reference) const = 0;
-    /// The second look-up: whether the target knows a module by its identifier (a GUID in braces).
+    /// The second look-up: whether the target contains the module with this identifier (a GUID in braces).
     virtual bool FindModule(const std::string& moduleId) const = 0;
-    /// Whether new controls of this class ("QLButton") take TabStop off.
+    /// Whether TabStop is turned off for new controls of this class ("QLButton").
     virtual bool IsTabStopOff(const std::string& className) const = 0;
-    /// Two parallel lists from 0 of what new controls take: "Control.Property", and a number behind "#" or a
+    /// Two parallel lists from 0 with the defaults of new controls: "Control.Property", and a number after "#" or a
     /// plain text.
     virtual void GetPropertyDefaults(std::vector<std::string>& names, std::vector<std::string>& values) const = 0;
     virtual std::int32_t NumPropertyDefaults() const = 0;
@@ -63,7 +63,7 @@ public:
 class IQLDesignTargetMgr : public fernwick::Object {
 public:
     virtual std::int32_t Count() const = 0;
-    /// Once, right after creation.
+    /// Called once, right after creation.
     virtual void Initialize() = 0;
     /// False and Nothing for an unknown key.
     virtual bool GetDesignTarget(const std::string& key, basic::Ref<IQLDesignTarget>& target) const = 0;

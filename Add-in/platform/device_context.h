@@ -9,12 +9,12 @@ struct TextExtent {
     int height = 0;
 };
 
-/// What a window draws its texts with. Front ends that draw windows implement it.
+/// Measures the texts of a window. Implemented by front ends that draw windows.
 class DeviceContext {
 public:
     virtual ~DeviceContext() = default;
-    /// The text in the window's font, on one line: a line break in it is a character like others. Nothing by nothing where
-    /// the system cannot tell.
+    /// Returns the size of the text in the window's font on one line; a line break counts as an ordinary character.
+    /// Zero by zero if the system cannot measure it.
     virtual TextExtent GetTextExtentPoint32(const std::string& text) const noexcept = 0;
 };
 

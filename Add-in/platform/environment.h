@@ -3,7 +3,7 @@
 
 namespace fernwick {
 
-/// The environment of the process, which the add-ins and controls in it share.
+/// The environment of the process, shared by the add-ins and controls in it.
 class Environment {
 public:
     virtual ~Environment() = default;

@@ -6,14 +6,14 @@
 
 namespace fernwick {
 
-/// The thread's message loop. It may be turned from within a delivery.
+/// The thread's message loop. It may be run recursively.
 class EventLoop {
 public:
     virtual ~EventLoop() = default;
     virtual void Post(std::function<void()> event) = 0;
-    /// Delivers what was posted before the call, then the timers that are due.
+    /// Delivers what was posted before the call, then runs the timers that are due.
     virtual void DoEvents() = 0;
-    /// Ticks every `interval` milliseconds for as long as the answer lives.
+    /// Ticks every `interval` milliseconds as long as the returned subscription lives.
     [[nodiscard]] virtual Subscription StartTimer(int interval, std::function<void()> tick) = 0;
 };
 

@@ -1,5 +1,6 @@
 #pragma once
-// Events that may change under their own raise: handlers come, go, raise again, or the event dies.
+// Events that may change during their own raise: handlers may connect, disconnect and raise again, and the event may be
+// destroyed.
 #include <algorithm>
 #include <exception>
 #include <functional>
@@ -9,7 +10,7 @@
 
 namespace fernwick {
 
-/// A handler's place in an event. Letting go of it ends the calls at once, also within a raise.
+/// A handler's registration with an event. Releasing it stops the calls at once, also during a raise.
 class Subscription {
 public:
     Subscription() = default;
@@ -43,22 +44,22 @@ public:
     Event() = default;
     Event(const Event&) = delete;
     Event& operator=(const Event&) = delete;
-    /// An event that died calls nobody any more, not even in a raise that is under way.
+    /// Once destroyed, an event calls no handlers, not even in a raise in progress.
     ~Event() {
         for (auto& slot : *slots_) *slot->live = false;
     }
 
     [[nodiscard]] Subscription connect(std::function<void(Args...)> handler) {
         auto live = std::make_shared<bool>(true);
-        auto grown = std::make_shared<Slots>(*slots_); // a raise under way keeps the list that it began with
+        auto grown = std::make_shared<Slots>(*slots_); // a raise in progress keeps its own list
         std::erase_if(*grown, [](const auto& slot) { return !*slot->live; });
         grown->push_back(std::make_shared<Slot>(Slot{live, std::move(handler)}));
         slots_ = std::move(grown);
         return Subscription{std::move(live)};
     }
 
-    /// Calls every handler that was there when it began and still is. All are served; the first error is
-    /// then passed on to the raiser.
+    /// Calls every handler that was connected at the start and still is. All are called; then the first error is
+    /// thrown.
     void raise(Args... args) const {
         const std::shared_ptr<const Slots> slots = slots_;
         std::exception_ptr first;
@@ -73,7 +74,7 @@ public:
         if (first) std::rethrow_exception(first);
     }
 
-    /// Whether somebody listens: lets a source leave out the work of preparing what nobody hears.
+    /// Whether any handler is connected; lets a source skip the preparation of an event.
     bool hasHandlers() const {
         return std::any_of(slots_->begin(), slots_->end(), [](const auto& slot) { return *slot->live; });
     }

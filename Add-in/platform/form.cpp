@@ -32,7 +32,7 @@ void Form::ShowModal() {
     try {
         user_.showModal(*this);
     } catch (...) {
-        Unload(); // no window is left behind
+        Unload(); // the window must not remain open
         throw;
     }
     Visible(false);

@@ -24,8 +24,8 @@ private:
     Form& form_;
 };
 
-/// A form outlives its windows: a window stands between Load and Unload. Load puts controls back as designed;
-/// fields stay as they are, so that a caller reads the result after Unload.
+/// A form outlives its windows: a window exists between Load and Unload. Load resets the controls to their design
+/// values; fields are kept, so a caller reads the result after Unload.
 class Form : public PropertyOwner {
 public:
     explicit Form(Interaction& user) : user_(user) {}
@@ -37,23 +37,23 @@ public:
     Property<int> MousePointer{this, vbDefault};
     Property<bool> Visible{false};
     Event<> Loaded, Unloaded, Refreshed;
-    /// False: the user cannot close the form.
+    /// False if the user cannot close the form.
     bool ControlBox = true;
 
     void Load();
-    /// Marks the end; the front end takes its window down when showModal returns.
+    /// Marks the form as closed; the front end removes its window when showModal returns.
     void Unload();
     void Hide() { Visible(false); }
-    /// Error 400 for a form that is shown already.
+    /// Error 400 for a form that is already shown.
     void ShowModal();
     void Refresh() { Refreshed.raise(); }
     void SetFocus();
     bool isLoaded() const { return loaded_; }
 
-    /// By the front end: at the first show and each time that the form comes to the front.
+    /// Called by the front end when the form is first shown and whenever it becomes the front window.
     void activate();
     const std::vector<Control*>& Controls() const { return controls_; }
-    /// Error 730 for a name that is not there.
+    /// Error 730 for an unknown name.
     Control& control(const std::string& name) const;
 
 protected:

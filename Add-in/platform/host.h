@@ -1,5 +1,5 @@
 #pragma once
-// The host IDE's object model from the top: VBE and what it gives.
+// The host IDE's object model: VBE and what it contains.
 #include "Add-in/platform/command_bars.h"
 #include "Add-in/platform/host_events.h"
 #include "Add-in/platform/host_project.h"
@@ -31,7 +31,7 @@ public:
     virtual std::string ProgId() const = 0;
     virtual std::string Description() const = 0;
     virtual bool Connect() const = 0;
-    /// Connects or disconnects that add-in.
+    /// Connects or disconnects the add-in.
     virtual void Connect(bool connect) = 0;
 };
 
@@ -45,7 +45,7 @@ public:
 
 class Windows : public Object {
 public:
-    /// Creates the document object of `progId` and a dockable window around it, hidden at first.
+    /// Creates the document object of `progId` in a dockable window that is hidden at first.
     virtual Ref<Window> CreateToolWindow(const Ref<AddIn>& addIn, const std::string& progId, const std::string& caption,
                                          const std::string& guidPosition, Ref<Object>& document) = 0;
     virtual std::vector<Ref<Window>> items() const = 0;
@@ -56,16 +56,16 @@ public:
     virtual int Count() const = 0;
     virtual Ref<VBProject> Item(int index) const = 0;
     virtual std::vector<Ref<VBProject>> items() const = 0;
-    /// Opens a project, or all of a group's. `exclusive` closes what is open first. A file of a template folder opens as
-    /// with AddFromTemplate.
+    /// Opens a project, or all projects of a group. `exclusive` closes the open ones first. A file in a template folder
+    /// is opened as with AddFromTemplate.
     virtual Ref<VBProject> AddFromFile(const std::string& path, bool exclusive = false) = 0;
-    /// A new project from the template's text, with a name that is free. While handlers of ItemAdded run, FileName tells the template; then it has
-    /// no file of its own.
+    /// Creates a project from the template under a free name. While handlers of ItemAdded run, FileName is the
+    /// template's; afterwards the project has no file.
     virtual Ref<VBProject> AddFromTemplate(const std::string& path, bool exclusive = false) = 0;
     virtual void Remove(const Ref<VBProject>& project) = 0;
 };
 
-/// Gives the event sources. A handler fires only while its sink holds the source.
+/// Returns the event sources. A handler is called only while its sink holds the source.
 class Events : public Object {
 public:
     virtual Ref<vbide::VBProjectsEvents> VBProjectsEvents() = 0;
@@ -73,7 +73,7 @@ public:
     virtual Ref<vbide::ReferencesEvents> ReferencesEvents(const Ref<VBProject>& project) = 0;
     virtual Ref<vbide::VBControlsEvents> VBControlsEvents(const Ref<VBProject>& project, const Ref<VBForm>& form) = 0;
     virtual Ref<vbide::CommandBarEvents> CommandBarEvents(const Ref<office::CommandBarControl>& control) = 0;
-    /// With Nothing: the loads and writes of all projects.
+    /// Nothing for the loads and writes of all projects.
     virtual Ref<vbide::FileControlEvents> FileControlEvents(const Ref<VBProject>& project) = 0;
     virtual Ref<vbide::VBBuildEvents> VBBuildEvents() = 0;
 };
@@ -89,11 +89,11 @@ public:
     virtual Ref<VBProject> ActiveVBProject() const = 0;
     virtual void ActiveVBProject(const Ref<VBProject>& project) = 0;
     virtual Ref<VBComponent> SelectedVBComponent() const = 0;
-    /// The folder above the host's project templates; "" when it is not known.
+    /// The folder above the host's project templates; "" if unknown.
     virtual std::string TemplatePath() const = 0;
 };
 
-/// What the host calls of an add-in.
+/// The operations of an add-in that the host calls.
 class IDTExtensibility : public Object {
 public:
     virtual void IDTExtensibility_OnConnection(const Ref<VBE>& VBInst, vbext_ConnectMode ConnectMode,

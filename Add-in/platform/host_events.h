@@ -1,6 +1,6 @@
 #pragma once
-// The event sources of the host IDE. The host owns one object for each source and raises its events
-// synchronously, in the order in which things happen.
+// The event sources of the host IDE. The host owns one object for each source and raises its events synchronously, in
+// the order of what happens.
 #include "Add-in/platform/events.h"
 #include "Basic/ref.h"
 #include <string>
@@ -20,14 +20,14 @@ class Reference;
 using basic::Ref;
 using fernwick::Event;
 
-/// A project that is added is the active one when ItemAdded comes; ItemActivated tells of changes among open projects.
+/// A project is already the active one during its ItemAdded; ItemActivated reports changes among open projects.
 struct VBProjectsEvents {
     Event<Ref<VBProject>> ItemAdded, ItemRemoved, ItemActivated;
     /// The second argument is the old name.
     Event<Ref<VBProject>, const std::string&> ItemRenamed;
 };
 
-/// ItemAdded comes for components that are added to an open project, not for those that it is loaded with.
+/// ItemAdded is raised for components added to an open project, not for those it is loaded with.
 struct VBComponentsEvents {
     Event<Ref<VBComponent>> ItemAdded, ItemRemoved, ItemSelected, ItemActivated, ItemReloaded;
     Event<Ref<VBComponent>, const std::string&> ItemRenamed;
@@ -44,14 +44,14 @@ struct ReferencesEvents {
 };
 
 struct CommandBarEvents {
-    /// `handled` and `CancelDefault` are the handler's answers.
+    /// `handled` and `CancelDefault` are set by the handler.
     Event<Ref<office::CommandBarControl>, bool&, bool&> Click;
 };
 
 struct FileControlEvents {
     /// Before the host reads a project (VBProject.FileName is set, nothing is parsed yet) or a component.
     Event<Ref<VBProject>, const std::vector<std::string>&> BeforeLoadFile;
-    /// Before a file is written; Cancel = True keeps the host from writing it, without an error.
+    /// Before a file is written; Cancel = True prevents it without an error.
     Event<Ref<VBProject>, const std::string&, bool&> RequestWriteFile;
     /// After a write: 0 success, 1 cancelled, 2 failed.
     Event<Ref<VBProject>, const std::string&, int> AfterWriteFile;

@@ -1,6 +1,6 @@
 #pragma once
-// The host's objects of one project: components, references, code and form designers.
-// Every member may raise a RuntimeError; a member of an object that the host has removed always does.
+// The host's objects of one project: components, references, code and form designers. Every member may raise a
+// RuntimeError; a member of a removed object always does.
 #include "Add-in/platform/object.h"
 #include "Add-in/platform/variant.h"
 #include "Basic/ref.h"
@@ -42,11 +42,11 @@ public:
     virtual std::string Name() const = 0;
     virtual Variant Value() const = 0;
     virtual void Value(const Variant& value) = 0;
-    /// The members of an object value, such as those of "Font"; error 424 where the value is no object.
+    /// The members of an object value, such as "Font"; error 424 if the value is not an object.
     virtual Ref<Properties> ObjectValue() const = 0;
 };
 
-/// Properties by name, letter case ignored. Error 9 for a name that the object doesn't have.
+/// Properties by name, ignoring letter case. Error 9 for an unknown name.
 class Properties : public Object {
 public:
     virtual int Count() const = 0;
@@ -60,10 +60,10 @@ class VBControl : public Object {
 public:
     /// The class without its library ("TextBox").
     virtual std::string ClassName() const = 0;
-    /// The class as the form's text names it: library, "." and class ("VB.TextBox").
+    /// The class as written in the form's text: library, "." and class ("VB.TextBox").
     virtual std::string ProgId() const = 0;
     virtual Ref<vbide::Properties> Properties() const = 0;
-    /// The controls that lie directly inside this one.
+    /// The controls directly inside this one.
     virtual std::vector<Ref<VBControl>> ContainedVBControls() const = 0;
 };
 
@@ -81,9 +81,9 @@ public:
 /// The designer of a form.
 class VBForm : public Object {
 public:
-    /// All controls, those within containers too.
+    /// All controls, including those within containers.
     virtual Ref<vbide::VBControls> VBControls() const = 0;
-    /// The controls that lie directly on the form.
+    /// The controls directly on the form.
     virtual std::vector<Ref<VBControl>> ContainedVBControls() const = 0;
 };
 
@@ -108,17 +108,17 @@ struct Member {
     bool Static = false;
 };
 
-/// The code window's lines: the header of the file and hidden attributes are neither shown nor counted.
+/// The code window's lines; the file's header and hidden attributes are neither shown nor counted.
 class CodeModule : public Object {
 public:
     virtual int CountOfLines() const = 0;
     virtual int CountOfDeclarationLines() const = 0;
-    /// Lines joined by CR LF, without one at the end. Error 9 outside of the module.
+    /// Returns lines joined by CR LF, without a final one. Error 9 outside of the module.
     virtual std::string Lines(int startLine, int count) const = 0;
     virtual void InsertLines(int line, const std::string& text) = 0;
     virtual void DeleteLines(int startLine, int count = 1) = 0;
     virtual void ReplaceLine(int line, const std::string& text) = 0;
-    /// Error 35 for a procedure that the module doesn't have.
+    /// Error 35 for an unknown procedure.
     virtual int ProcStartLine(const std::string& name, vbext_ProcKind kind) const = 0;
     virtual int ProcCountLines(const std::string& name, vbext_ProcKind kind) const = 0;
     virtual std::vector<Member> Members() const = 0;
@@ -130,7 +130,7 @@ public:
     virtual std::string Name() const = 0;
     virtual void Name(const std::string& name) = 0;
     virtual vbext_ComponentType Type() const = 0;
-    /// From 1: the component's file, then its binary companion; "" for a component without a file.
+    /// From 1: the component's file, then its binary companion; "" without a file.
     virtual std::string FileNames(int index) const = 0;
     /// 2 for a component with a binary companion.
     virtual int FileCount() const = 0;
@@ -143,7 +143,7 @@ public:
     virtual Ref<vbide::CodeModule> CodeModule() = 0;
     /// Error 438 for a component without properties.
     virtual Ref<vbide::Properties> Properties() = 0;
-    /// The form designer, or Nothing for a component that has none.
+    /// The form designer, or Nothing.
     virtual Ref<VBForm> Designer() = 0;
     virtual bool HasOpenDesigner() const = 0;
     virtual Ref<Window> DesignerWindow() = 0;
@@ -151,7 +151,7 @@ public:
     virtual Ref<VBComponents> Collection() const = 0;
 };
 
-/// What a project starts with: nothing, 0 (Sub Main), or a component.
+/// The start-up object: nothing, 0 (Sub Main), or a component.
 struct StartUp {
     bool isSubMain = false;
     Ref<VBComponent> component;
@@ -162,11 +162,11 @@ public:
     virtual int Count() const = 0;
     /// From 1. Error 9 outside of the range.
     virtual Ref<VBComponent> Item(int index) const = 0;
-    /// Letter case ignored. Error 9 for a name that is not there.
+    /// Ignores letter case. Error 9 for an unknown name.
     virtual Ref<VBComponent> Item(const std::string& name) const = 0;
     virtual std::vector<Ref<VBComponent>> items() const = 0;
     virtual Ref<VBComponent> Add(vbext_ComponentType type) = 0;
-    /// A file of a template folder becomes a new component, with a name that is free and without a file of its own.
+    /// A file from a template folder becomes a new component under a free name and without a file.
     virtual Ref<VBComponent> AddFile(const std::string& path) = 0;
     virtual void Remove(const Ref<VBComponent>& component) = 0;
     virtual StartUp StartUpObject() const = 0;
@@ -180,7 +180,7 @@ public:
     virtual std::string Guid() const = 0;
     virtual int Major() const = 0;
     virtual int Minor() const = 0;
-    /// Native path of the library; one that stands in an Object= line ends in ".oca".
+    /// Native path of the library; that of an Object= line ends in ".oca".
     virtual std::string FullPath() const = 0;
     virtual std::string Description() const = 0;
     virtual bool BuiltIn() const = 0;
@@ -192,7 +192,7 @@ public:
     virtual int Count() const = 0;
     virtual Ref<Reference> Item(int index) const = 0;
     virtual std::vector<Ref<Reference>> items() const = 0;
-    /// The one that is there already is returned without an error.
+    /// Returns an existing reference without an error.
     virtual Ref<Reference> AddFromGuid(const std::string& guid, int major, int minor) = 0;
     virtual Ref<Reference> AddFromFile(const std::string& path) = 0;
     virtual void Remove(const Ref<Reference>& reference) = 0;
@@ -201,16 +201,16 @@ public:
 class VBProject : public Object {
 public:
     virtual std::string Name() const = 0;
-    /// Error 32813 for the name of another open project.
+    /// Error 32813 if another open project has the name.
     virtual void Name(const std::string& name) = 0;
-    /// Native path; "" for a project that was never saved.
+    /// Native path; "" for a project that has never been saved.
     virtual std::string FileName() const = 0;
     virtual bool IsDirty() const = 0;
     virtual void IsDirty(bool dirty) = 0;
     virtual bool Saved() const = 0;
-    /// An add-in's value. Error 5 for an absent section or key.
+    /// A value stored by an add-in. Error 5 if the section or key is missing.
     virtual std::string ReadProperty(const std::string& section, const std::string& key) const = 0;
-    /// Error 5 for a value with a line break, or with a character that the project's code page lacks.
+    /// Error 5 for a value that contains a line break or a character missing in the project's code page.
     virtual void WriteProperty(const std::string& section, const std::string& key, const std::string& value) = 0;
     virtual void SaveAs(const std::string& path) = 0;
     virtual void AddToolboxProgID(const std::string& progId) = 0;

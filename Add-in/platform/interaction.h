@@ -1,5 +1,5 @@
 #pragma once
-// What shows forms and asks the user. Front ends implement it.
+// Shows forms and asks the user. Implemented by front ends.
 #include <string>
 
 namespace fernwick {
@@ -45,7 +45,7 @@ enum FileDialogFlags : int {
     cdlOFNExplorer = 0x80000,
 };
 
-/// MSComDlg.CommonDialog, as far as it is used.
+/// The used part of MSComDlg.CommonDialog.
 struct CommonDialog {
     bool CancelError = false;
     std::string DialogTitle;
@@ -57,7 +57,7 @@ struct CommonDialog {
     int FilterIndex = 1;
     /// A sum of FileDialogFlags.
     int Flags = 0;
-    /// The longest FileName that ShowOpen may give, in bytes.
+    /// Maximum length of ShowOpen's FileName in bytes.
     int MaxFileSize = 256;
 };
 
@@ -65,8 +65,8 @@ class Interaction {
 public:
     virtual ~Interaction() = default;
 
-    /// Runs the form's first Activate and returns when the form is hidden or unloaded. An error that a handler
-    /// lets out ends the form and comes out here; it never travels through a window system's event loop.
+    /// Runs the form's first Activate and returns when the form is hidden or unloaded. An error that leaves a handler
+    /// ends the form and is thrown here; it never passes through a window system's event loop.
     virtual void showModal(Form& form) = 0;
     /// `buttons` is a sum of VbMsgBoxStyle.
     virtual int MsgBox(const std::string& text, int buttons, const std::string& title) = 0;
@@ -74,16 +74,16 @@ public:
     virtual int ask(Question, const std::string& text, int buttons, const std::string& title) {
         return MsgBox(text, buttons, title);
     }
-    /// FileName becomes the chosen path. With CancelError, Cancel is error 32755.
+    /// Sets FileName to the chosen path. With CancelError, Cancel is error 32755.
     virtual void ShowSave(CommonDialog& dialog) = 0;
-    /// FileName becomes the chosen path; several are their folder and the names in it, parted by NUL characters.
-    /// After Cancel it stays as it is, with CancelError that is error 32755.
+    /// Sets FileName to the chosen path; for several files, to their folder and names separated by NUL characters.
+    /// After Cancel it is unchanged; with CancelError, Cancel is error 32755.
     virtual void ShowOpen(CommonDialog& dialog) = 0;
     virtual void MessageBeep(int type) = 0;
-    /// The cursor outside of forms: LoadCursor and SetCursor.
+    /// Sets the cursor outside of forms: LoadCursor and SetCursor.
     virtual void SetCursor(MousePointerShape shape) = 0;
-    /// Whether the host's main window draws, or holds its picture until it may again: its WM_SETREDRAW. A front end without
-    /// a window has no picture to hold.
+    /// Stops and resumes the drawing of the host's main window (WM_SETREDRAW). Does nothing in a front end without a
+    /// window.
     virtual void SetRedraw(bool) {}
 };
 

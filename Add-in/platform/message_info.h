@@ -1,20 +1,20 @@
 #pragma once
-// What is known of a message's number, whoever gives it.
+// The description of a numbered message, whatever its source.
 #include <cstdint>
 #include <string_view>
 
 namespace fernwick {
 
-/// One entry of a table of messages. `explain`, the help pages and the documentation show it.
+/// One entry of a table of messages, shown by `explain`, the help pages and the documentation.
 struct MessageInfo {
     /// As it is stored and shown.
     std::int32_t number;
     bool isError;
-    /// The words, with "%1" and so on for what differs.
+    /// The text, with placeholders such as "{file}" for values.
     std::string_view text;
-    /// When it comes.
+    /// When it is reported.
     std::string_view meaning;
-    /// What provokes it: lines of code, of a project file or a command.
+    /// An example that causes it: lines of code, of a project file or a command.
     std::string_view example;
     /// What to do.
     std::string_view remedy;

@@ -2,7 +2,7 @@
 
 namespace fernwick {
 
-/// What CreateObject gives: an object of any class, to be cast to the interface that its user knows.
+/// The result of CreateObject: an object of any class, to be cast to a known interface.
 class Object {
 public:
     Object() = default;

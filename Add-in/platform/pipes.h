@@ -1,5 +1,5 @@
 #pragma once
-// The objects of a device family's pipe: what carries projects and the runtime to its devices.
+// The objects of a device family's pipe, which transfers projects and the runtime to its devices.
 #include "Add-in/platform/host.h"
 #include "Add-in/platform/object.h"
 #include <cstdint>
@@ -8,8 +8,7 @@
 
 namespace qlpipe {
 
-/// What a pipe's object tells while it works. Raised from inside the object's own call; the sink may let go of
-/// the object in any of them.
+/// Events of a pipe's object, raised within the object's own call. The sink may release the object in any of them.
 class IQLPipeEvents {
 public:
     virtual ~IQLPipeEvents() = default;
@@ -23,23 +22,22 @@ public:
                              std::int32_t warningNumber) = 0;
 };
 
-/// What goes to a device: two lists of equal length. A file has its full path in the first and its name on the
-/// device in the second, with "\" between folders. A component that the device must have already has its
-/// identifier and "REF".
+/// The files for a device: two lists of equal length. For a file they contain its full path and its name on the device,
+/// with "\" between folders; for a component that the device must already have, its identifier and "REF".
 struct ProjectFiles {
     const std::vector<std::string>& ProjectFileList;
     const std::vector<std::string>& ProjectResourceList;
 };
 inline constexpr char kReferenceMarker[] = "REF";
 
-/// What a pipe is told of the application besides its files.
+/// What a pipe receives about the application besides its files.
 struct ApplicationInfo {
-    /// The project's folder, with a separator at its end.
+    /// The project's folder with a trailing separator.
     std::string ProjectPath;
     std::string ProjectName;
-    /// A copy of the icon that lives as long as the call; "" for none.
+    /// A copy of the icon that exists during the call; "" for none.
     std::string TempIconFile;
-    /// What the device shows.
+    /// The name shown on the device.
     std::string DisplayName;
     std::string Version;
 };
@@ -47,16 +45,16 @@ struct ApplicationInfo {
 /// Registered under the pipe's ProgID followed by ".Pipe". Operations are synchronous.
 class IQLPipe : public fernwick::Object {
 public:
-    /// True when the transfer succeeded. What went wrong was told as an error event.
+    /// Returns True if the transfer succeeded. Failures are reported as error events.
     virtual bool SendProject(const std::string& deviceName, const basic::Ref<vbide::VBProject>& project,
                              const ProjectFiles& files, const ApplicationInfo& application) = 0;
-    /// The sink outlives its use here.
+    /// The sink must outlive its use here.
     virtual void SetEventSink(IQLPipeEvents& sink) = 0;
     /// Writes a package into the folder `saveLocation` instead of sending.
     virtual bool MakePackage(const std::string& deviceName, const basic::Ref<vbide::VBProject>& project,
                              const ProjectFiles& files, const ApplicationInfo& application,
                              std::string& saveLocation) = 0;
-    /// Progress and outcome come as events.
+    /// Progress and outcome are reported as events.
     virtual void SendRuntime(const std::string& deviceName) = 0;
 };
 
@@ -65,25 +63,25 @@ class IQLPipeValidation : public fernwick::Object {
 public:
     /// Whether devices of this design target key can be served here.
     virtual bool IsDeviceSupported(const std::string& key) = 0;
-    /// True when devices of the family can take these files. Findings come as events.
+    /// Returns True if devices of the family accept these files. Findings are reported as events.
     virtual bool ValidateFiles(const basic::Ref<vbide::VBProject>& project, const ProjectFiles& files) = 0;
     virtual void SetEventSink(IQLPipeEvents& sink) = 0;
 };
 
-/// A setting that a pipe stores in a project, as a page shows it: a label and a field of text.
+/// A setting that a pipe stores in a project: a label and a text field of a page.
 struct PipeSetting {
     /// Section and key of VBProject::ReadProperty.
     std::string Section, Key;
     std::string Caption;
-    /// What stands in the field; nothing is stored before ApplyPage.
+    /// The field's text; it is not stored before ApplyPage.
     std::string Value;
 };
 
-/// A page of the settings dialog that a pipe contributes: a form without a window of its own. The dialog draws its
-/// fields and writes what the user types into them.
+/// A page that a pipe adds to the settings dialog: a form without its own window. The dialog draws its fields and
+/// updates them with the user's input.
 class IQLPipePage : public fernwick::Object {
 public:
-    /// In the order of the page.
+    /// In page order.
     virtual std::vector<PipeSetting>& Settings() = 0;
     virtual bool Visible() const = 0;
 };
@@ -91,17 +89,17 @@ public:
 /// Registered under the pipe's ProgID followed by ".Configuration".
 class IQLPipeConfiguration : public fernwick::Object {
 public:
-    /// The page for a project, filled with what the project stores; Nothing for a pipe that has none. Twips from the
-    /// dialog's corner.
+    /// Creates the page for a project with the project's stored values; Nothing if the pipe has no page. Offsets from
+    /// the dialog's corner, in twips.
     virtual basic::Ref<IQLPipePage> CreatePage(const basic::Ref<vbide::VBProject>& project, std::int32_t top,
                                                std::int32_t left) = 0;
     virtual void ShowPage() = 0;
     virtual void HidePage() = 0;
-    /// Whether what the user typed can be stored.
+    /// Whether the user's input can be stored.
     virtual bool ValidatePage() = 0;
-    /// Stores it in the project.
+    /// Stores the input in the project.
     virtual void ApplyPage() = 0;
-    /// Lets go of the page and the project.
+    /// Releases the page and the project.
     virtual void ClosePage() = 0;
     virtual bool HasPage() = 0;
     /// Also its node in the dialog's tree; "" for a pipe without a page.

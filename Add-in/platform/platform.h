@@ -1,5 +1,5 @@
 #pragma once
-// All that the add-in is given of the world.
+// Everything that the add-in uses of its surroundings.
 #include "Add-in/platform/classes.h"
 #include "Add-in/platform/clipboard.h"
 #include "Add-in/platform/clock.h"
@@ -15,16 +15,16 @@
 
 namespace fernwick {
 
-/// The App object of the add-in's project, and what the maker supplies with the installation.
+/// The App object of the add-in's project, and addresses from the installation.
 struct App {
     std::string Title = "QLVBAddIn";
-    /// Folder of the add-in and of the files that come with it.
+    /// Folder of the add-in and its files.
     std::string Path;
     std::string SupportWebAddress;
     std::string WebAddress;
-    /// The page that the runtime is downloaded from.
+    /// The page to download the runtime from.
     std::string RuntimeWebAddress;
-    /// Where the maker shows examples, where developers talk to each other, and what there is for them.
+    /// The vendor's pages of examples, the forum, and resources for developers.
     std::string SamplesWebAddress{};
     std::string ForumWebAddress{};
     std::string DevelopersWebAddress{};

@@ -11,11 +11,11 @@ class Processes {
 public:
     virtual ~Processes() = default;
 
-    /// `commandLine` is split by the quoting rules of Windows command lines; there is no shell. False when the
-    /// program could not be started, or may not be. `process` is then 0.
+    /// `commandLine` is split by the quoting rules of Windows command lines, without a shell. False, and `process` 0,
+    /// if the program could not be started or is not allowed.
     virtual bool CreateProcess(const std::string& commandLine, const std::string& workingFolder, int showWindow,
                                std::uint32_t& process) = 0;
-    /// Waits for the end without a limit. 0 when it has ended.
+    /// Waits for the end without a time limit. Returns 0 after it.
     virtual std::uint32_t WaitForSingleObject(std::uint32_t process) = 0;
     virtual bool GetExitCodeProcess(std::uint32_t process, std::int32_t& code) = 0;
     virtual void CloseHandle(std::uint32_t process) = 0;

@@ -1,5 +1,5 @@
 #pragma once
-// Properties of forms and controls: values that tell who watches them.
+// Properties of forms and controls: values that notify watchers.
 #include "Add-in/platform/events.h"
 #include <utility>
 #include <vector>
@@ -13,7 +13,7 @@ protected:
     ~Designed() = default;
 };
 
-/// A form or a control: Load puts what it owns back as designed.
+/// A form or a control, whose properties Load resets to their design values.
 struct PropertyOwner {
     std::vector<Designed*> properties;
     void asDesigned() {
@@ -21,8 +21,8 @@ struct PropertyOwner {
     }
 };
 
-/// A value that tells who watches. The watcher is told after the change; a watch that is let go of, or a
-/// property that dies, ends the telling at once. Setting an equal value tells nobody.
+/// A value that notifies its watchers after each change; setting an equal value does not notify. Releasing a watch or
+/// destroying the property stops notifications at once.
 template <class T>
 class Property final : Designed {
 public:
@@ -34,16 +34,16 @@ public:
     void operator()(T value) {
         if (value == value_) return;
         value_ = std::move(value);
-        const T told = value_; // a watcher may set it again, or destroy us
-        changed_.raise(told);
+        const T copy = value_; // a watcher may set it again, or destroy us
+        changed_.raise(copy);
     }
-    /// Sets the value that Load comes back to.
+    /// Sets the design value, which Load restores.
     void design(T value) {
         designed_ = value;
         (*this)(std::move(value));
     }
-    [[nodiscard]] Subscription watch(std::function<void(const T&)> told) const {
-        return changed_.connect(std::move(told));
+    [[nodiscard]] Subscription watch(std::function<void(const T&)> handler) const {
+        return changed_.connect(std::move(handler));
     }
 
 private:

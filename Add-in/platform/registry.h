@@ -38,7 +38,7 @@ enum RegistryStatus : std::int32_t {
     ERROR_CANTOPEN = 1011,
 };
 
-/// What RegQueryInfoKey tells; lengths are in bytes, without a closing NUL.
+/// Result of RegQueryInfoKey; lengths are in bytes, without a terminating NUL.
 struct RegistryKeyInfo {
     std::uint32_t subKeys = 0;
     std::uint32_t longestSubKeyName = 0;
@@ -47,9 +47,9 @@ struct RegistryKeyInfo {
     std::uint32_t longestValueData = 0;
 };
 
-/// Handles are 32-bit, 0 is none, and a root is a handle that is always open. Data are bytes; the types 1, 2
-/// and 7 are text with a closing NUL. Keys and values match without regard to letter case and keep their
-/// spelling. "" is a key's default value. All functions answer a status and never raise an error.
+/// Handles are 32-bit; 0 is none, and a root is a handle that is always open. Data are bytes; types 1, 2 and 7 are text
+/// with a terminating NUL. Keys and values match without regard to letter case and keep their spelling. "" is a key's
+/// default value. All functions return a status and never raise an error.
 class Registry {
 public:
     virtual ~Registry() = default;
@@ -60,18 +60,18 @@ public:
                                         std::uint32_t& result, std::uint32_t& disposition) = 0;
     virtual std::int32_t RegCloseKey(std::uint32_t key) = 0;
     virtual std::int32_t RegQueryInfoKey(std::uint32_t key, RegistryKeyInfo& info) = 0;
-    /// 259 behind the last one.
+    /// 259 after the last one.
     virtual std::int32_t RegEnumKeyEx(std::uint32_t key, std::uint32_t index, std::string& name) = 0;
     virtual std::int32_t RegEnumValue(std::uint32_t key, std::uint32_t index, std::string& name, std::uint32_t& type,
                                       std::string& data) = 0;
-    /// Fills as many bytes as `data` is long when the value fits, and sets `length` to the value's length. A
-    /// value that is longer than `data` answers 234 and leaves `data` as it is.
+    /// Fills `data` with the value if it fits, and sets `length` to the value's length. If the value is longer than
+    /// `data`, returns 234 and leaves `data` unchanged.
     virtual std::int32_t RegQueryValueEx(std::uint32_t key, const std::string& name, std::uint32_t& type,
                                          std::string& data, std::uint32_t& length) = 0;
     virtual std::int32_t RegSetValueEx(std::uint32_t key, const std::string& name, std::uint32_t type,
                                        const std::string& data) = 0;
     virtual std::int32_t RegDeleteValue(std::uint32_t key, const std::string& name) = 0;
-    /// With all below it.
+    /// With all its subkeys.
     virtual std::int32_t RegDeleteKey(std::uint32_t key, const std::string& subKey) = 0;
 };
 

@@ -3,11 +3,11 @@
 
 namespace fernwick {
 
-/// What is compiled into the add-in's own program on other systems, by number.
+/// Resources of the add-in by number, which other systems compile into the program.
 class Resources {
 public:
     virtual ~Resources() = default;
-    /// A picture as a BMP file's bytes. An error for a number that is not there.
+    /// Returns a picture as a BMP file's bytes. An error for an unknown number.
     virtual std::string LoadBitmap(int id) const = 0;
 };
 

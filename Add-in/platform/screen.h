@@ -10,7 +10,7 @@ constexpr Color RGB(std::uint32_t red, std::uint32_t green, std::uint32_t blue) 
     return red | green << 8 | blue << 16;
 }
 
-/// Parts of the desktop whose colours the system knows.
+/// Parts of the desktop with a system colour.
 enum SysColorIndex : int { COLOR_MENU = 4 };
 
 class Screen {
@@ -19,8 +19,8 @@ public:
     virtual float TwipsPerPixelX() const = 0;
     virtual float TwipsPerPixelY() const = 0;
     virtual Color GetSysColor(SysColorIndex index) const = 0;
-    /// Whether a font family of exactly this name is installed, letter case ignored; what the system would
-    /// put in its place does not count.
+    /// Whether a font family of exactly this name is installed, ignoring letter case. Substitutes by the system do not
+    /// count.
     virtual bool FontFamilyExists(const std::string& name) const = 0;
 };
 

@@ -3,13 +3,13 @@
 
 namespace fernwick {
 
-/// Programs and documents that are started and left alone.
+/// Starts programs and opens documents without waiting for them.
 class Shell {
 public:
     virtual ~Shell() = default;
-    /// A command line. Error 53 when its program is not there.
+    /// Starts a command line. Error 53 if its program does not exist.
     virtual void Start(const std::string& commandLine) = 0;
-    /// A document, folder or address, with the program that is registered for it.
+    /// Opens a document, folder or address with the program registered for it.
     virtual void Open(const std::string& document) = 0;
 };
 

@@ -1,12 +1,11 @@
 #pragma once
-// Sink variables: a handler runs while its variable holds a source.
+// Sink variables: handlers run while their variable holds a source.
 #include "Add-in/platform/events.h"
 #include "Basic/ref.h"
 
 namespace fernwick {
 
-/// One row of a sink: this event of the source goes to that member function, which may leave the
-/// arguments out.
+/// One row of a sink: connects an event of the source to a member function, which may omit the arguments.
 template <class Source, class Owner, class Result, class... Args, class... Taken>
 auto on(Event<Args...> Source::*event, Result (Owner::*handler)(Taken...)) {
     return [event, handler](Source& source, Owner& owner) {
@@ -19,7 +18,7 @@ auto on(Event<Args...> Source::*event, Result (Owner::*handler)(Taken...)) {
     };
 }
 
-/// A sink variable. Its handlers run while it holds a source; assigning another source moves them.
+/// A sink variable. Its handlers run while it holds a source; assigning another source reconnects them.
 template <class Source>
 class WithEvents {
 public:
@@ -32,7 +31,7 @@ public:
           }) {}
     WithEvents(const WithEvents&) = delete;
 
-    /// The old source is let go of first; assigning nothing only lets go.
+    /// The old source is released first; assigning Nothing only releases it.
     WithEvents& operator=(basic::Ref<Source> source) {
         bound_.clear();
         const auto old = std::exchange(source_, std::move(source));

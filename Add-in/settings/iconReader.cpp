@@ -8,10 +8,10 @@ namespace {
 constexpr std::size_t kHeaderSize = 6;
 constexpr std::size_t kRecordSize = 16;
 constexpr std::int16_t kIconType = 1;
-/// Where a BITMAPINFOHEADER has its bit count.
+/// Offset of the bit count in a BITMAPINFOHEADER.
 constexpr std::size_t kBitCountInBitmap = 14;
 
-/// Little endian numbers of a file; what lies behind its end is 0.
+/// Little-endian numbers of a file; 0 beyond its end.
 struct IconBytes {
     std::string bytes;
 
@@ -30,7 +30,7 @@ IconImageDetails recordAt(const IconBytes& file, std::size_t at) {
     image.Planes = file.wordAt(at + 4);
     image.BitCount = file.wordAt(at + 6);
     image.ByteSize = std::int32_t(file.longAt(at + 8));
-    // Many icon editors leave the directory's field at 0, and only the image itself tells.
+    // Many icon editors leave the directory's field at 0; the image itself has the value.
     if (image.BitCount == 0) image.BitCount = file.wordAt(file.longAt(at + 12) + kBitCountInBitmap);
     return image;
 }

@@ -7,7 +7,7 @@
 
 namespace fernwick {
 
-/// What the directory tells of one image. A width or height of 0 stands for 256 pixels.
+/// Directory entry of one image. A width or height of 0 means 256 pixels.
 struct IconImage {
     std::int16_t Width = 0;
     std::int16_t Height = 0;
@@ -16,32 +16,31 @@ struct IconImage {
 };
 
 struct IconImageDetails : IconImage {
-    /// Colours of the palette, 0 for none or 256.
+    /// Number of palette colours; 0 for none or 256.
     std::int16_t ColorCount = 0;
     std::int16_t Planes = 0;
     std::int32_t ByteSize = 0;
 };
 
-/// Never raises an error: what goes wrong is a result.
+/// Reports failures as results and never raises an error.
 class iconReader {
 public:
     enum Result : std::int32_t {
         Done = 0,
-        /// No icon is there to read from, or no image has that index.
+        /// Nothing was loaded, or there is no image with that index.
         NotAvailable = 5,
         BeyondTheLast = 9,
     };
 
     explicit iconReader(const FileSystemObject& files) : files_(files) {}
 
-    /// NotAvailable for a file that isn't there, can't be read or is no icon. What the file is too short for reads
-    /// as 0.
+    /// NotAvailable for a file that is missing, unreadable or not an icon. Fields beyond the end of the file are 0.
     Result LoadIconFile(const std::string& FileName);
-    /// 0 while nothing is loaded.
+    /// 0 unless a file is loaded.
     std::int16_t ImageCount() const { return isLoaded_ ? std::int16_t(images_.size()) : std::int16_t{0}; }
-    /// The path as it was given; "" while nothing is loaded.
+    /// The path as passed to LoadIconFile; "" unless a file is loaded.
     std::string IconFileName() const { return isLoaded_ ? fileName_ : std::string(); }
-    /// `Index` from 1. `image` stays as it is where the result is not Done.
+    /// `Index` counts from 1. `image` is unchanged unless the result is Done.
     Result GetImageInfo(std::int16_t Index, IconImage& image) const;
     Result GetImageDetails(std::int16_t Index, IconImageDetails& image) const;
 

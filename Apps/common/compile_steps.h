@@ -5,7 +5,7 @@
 
 namespace apps {
 
-/// The command lines that a compile of the project runs, those before it first.
+/// Returns the project's compile steps, those before the compile first.
 std::vector<std::string> allSteps(const fernwick::clsQLProject& project);
 
 } // namespace apps

@@ -7,7 +7,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// What every installation tree has.
 bool isInstallation(const fs::path& folder) {
     std::error_code ignored;
     return fs::is_directory(folder / "registry", ignored) && fs::is_directory(folder / "targets", ignored);

@@ -3,11 +3,11 @@
 
 namespace apps {
 
-/// The folder of this program, "" where the system doesn't tell.
+/// Returns the folder of this program; "" if it is unknown.
 std::string programFolder();
 
-/// The root of the installation tree that belongs to this program: the folder `installation` in one of the folders
-/// above it (a build folder), or `share/fernwick` beside its `bin`. "" when there is none.
+/// Returns the root of the installation that belongs to the program in this folder: `share/fernwick` beside its `bin`, or
+/// `installation` in a folder above it (a build). "" if there is none.
 std::string installationBeside(const std::string& programFolder);
 
 } // namespace apps

@@ -10,7 +10,7 @@ const host::DescribedClasses& InstalledControls::described() {
     std::error_code unreadable;
     for (const auto& entry : std::filesystem::directory_iterator(installation_ + "/tavlets", unreadable)) {
         if (entry.path().extension() != ".toml") continue;
-        // a faulty description costs the defaults of its controls; the look-up of its library names the fault
+        // without a valid description its controls have no defaults; the error is reported when its library is looked up
         (void)basic::attempt([&] { described_->add(host::readTypeDescription(entry.path().string())); });
     }
     return *described_;

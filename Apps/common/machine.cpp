@@ -8,7 +8,7 @@ namespace apps {
 
 namespace {
 
-/// "RootDir" of the machine store, "" where it isn't there.
+/// Returns "RootDir" of the machine's store; "" if it is not set.
 std::string storedRootDir(const fernwick::Environment& environment) {
     host::RegistryStore store{host::usualRegistryPlaces(environment, {})};
     std::uint32_t key = 0, type = 0, length = 0;
@@ -35,7 +35,7 @@ Machine::Machine(FrontEnd front)
       registry_(host::usualRegistryPlaces(environment_, installation_)),
       classes_(registry_),
       processes_(std::move(front.mayRun), std::move(front.interrupted)),
-      shell_(files_, std::move(front.tell)),
+      shell_(files_, std::move(front.report)),
       resources_(files_, installation_),
       platform_{front.user,
                 front.loop,

@@ -1,7 +1,7 @@
 #pragma once
-// The machine that a program works on: the host's services over this system.
+// The host's services on this system.
 #include "Add-in/platform/platform.h"
-#include "Components/QLPipe/pipe_services.h"
+#include "Components/QLPipe/base/pipe_services.h"
 #include "Components/QLToolkit/compiler.h"
 #include "Host/registry/registry_store.h"
 #include "Host/system/classes.h"
@@ -15,7 +15,7 @@
 
 namespace apps {
 
-/// What a program has of its own.
+/// The services that each program supplies.
 struct FrontEnd {
     fernwick::Interaction& user;
     fernwick::EventLoop& loop;
@@ -23,11 +23,11 @@ struct FrontEnd {
     /// Whether a command line of a project may run.
     host::Processes::Permission mayRun;
     host::Processes::Interrupted interrupted;
-    /// Told of a document that no program here can show.
-    host::Shell::Report tell;
+    /// Called for a document that no installed program can show.
+    host::Shell::Report report;
 };
 
-/// Opens nothing by itself: stores, fonts and targets are read when they are asked for.
+/// Stores, fonts and targets are read on first use.
 class Machine {
 public:
     explicit Machine(FrontEnd front);
@@ -38,11 +38,10 @@ public:
     host::Classes& classes() { return classes_; }
     const fernwick::Clipboard& clipboard() const { return platform_.clipboard; }
     const std::string& installation() const { return installation_; }
-    /// What the last build did.
+    /// Record of the last build.
     const qltoolkit::BuildRecord& build() const { return *build_; }
-    /// What the pipes did; a run that asks for one transfer clears it first.
+    /// Record of the pipes' transfers; clear it before a run.
     qlpipe::TransferRecord& transfers() { return *transfers_; }
-    /// What pipes stand on.
     qlpipe::PipeServices pipeServices() {
         return {files_, classes_, registry_, environment_, installation_, transfers_};
     }
@@ -66,7 +65,7 @@ private:
     fernwick::Platform platform_;
 };
 
-/// The root of the installation: beside the program, else the machine store's "RootDir".
+/// Returns the root of the installation: beside the program, else "RootDir" in the machine's store.
 std::string findInstallation(const fernwick::Environment& environment);
 
 } // namespace apps

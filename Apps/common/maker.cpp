@@ -5,7 +5,7 @@ namespace apps {
 
 namespace {
 
-/// An installation without its maker's file still builds; messages then name no address.
+/// Empty without the file: messages then contain no addresses.
 toml::table makerOf(const std::string& installation) {
     try {
         return toml::parse_file(installation + "/maker.toml");

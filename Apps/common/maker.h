@@ -4,11 +4,11 @@
 
 namespace apps {
 
-/// The App object with the maker's addresses from `installation`/maker.toml; without that file they are empty. The
-/// add-in's folder is the installation's "VB Toolkit/Bin", without an installation that of the program.
+/// Returns the App object with the addresses from `installation`/maker.toml, which are empty without that file. The
+/// add-in's folder is "VB Toolkit/Bin" of the installation, or the program's folder without an installation.
 fernwick::App appOf(const std::string& installation, const std::string& programFolder);
 
-/// The maker's address below which each message has its page, with "/" at its end; "" where none is known.
+/// Returns the base address of the message pages, ending in "/"; "" if unknown.
 std::string messagePagesOf(const std::string& installation);
 
 } // namespace apps

@@ -13,7 +13,7 @@
 
 namespace {
 
-/// A verb that could not do its job: said to the user, and as a result where a format was asked for.
+/// Prints why the command failed, also as JSON or SARIF if requested.
 int failed(int status, const std::string& reason, const cli::Options& options, cli::Console& console) {
     console.err("fernwick: " + reason, cli::Tone::Error);
     cli::Report report;
@@ -31,7 +31,7 @@ int guarded(const cli::Parsed& parsed, cli::Console& console) {
     try {
         return parsed.run(options, console);
     } catch (const cli::Interrupted&) {
-        return failed(cli::kInterrupted, "interrupted; nothing was left half-written", options, console);
+        return failed(cli::kInterrupted, "interrupted; no file was left incomplete", options, console);
     } catch (const cli::Refusal& refusal) {
         return failed(refusal.status(), refusal.what(), options, console);
     } catch (const basic::RuntimeError& error) {
@@ -40,15 +40,15 @@ int guarded(const cli::Parsed& parsed, cli::Console& console) {
     } catch (const std::exception& error) { return failed(cli::kMachineTrouble, error.what(), options, console); }
 }
 
-/// The exit status after a text on standard output.
+/// Prints to standard output and returns the exit status.
 int printed(const std::string& text) {
     const bool good = std::fputs(text.c_str(), stdout) >= 0 && std::fflush(stdout) == 0;
     if (!good) std::fputs("fernwick: standard output could not be written\n", stderr);
     return good ? cli::kGood : cli::kMachineTrouble;
 }
 
-/// Memory that one file's tree frees serves the next file's instead of going back to the system page by page: a third
-/// of the time of a check. The process is over soon enough.
+/// Keeps freed memory for the next file instead of returning it to the system, which took a third of the time of a
+/// check.
 void keepFreedMemory() {
     mallopt(M_MMAP_THRESHOLD, 32 << 20);
     mallopt(M_TRIM_THRESHOLD, 256 << 20);
@@ -57,7 +57,7 @@ void keepFreedMemory() {
 } // namespace
 
 int main(int argc, char** argv) {
-    // asked by every script that looks for the tool: answered before anything else is set up
+    // fast path for scripts that look for the program
     if (argc == 2 && std::strcmp(argv[1], "--version") == 0) return printed(cli::versionLine() + "\n");
 
     const auto parsed = cli::parseCommandLine(argc, argv);
@@ -65,7 +65,7 @@ int main(int argc, char** argv) {
     if (!parsed.run) return parsed.output.empty() ? parsed.status : printed(parsed.output);
 
     keepFreedMemory();
-    std::signal(SIGCHLD, SIG_DFL); // some parents have us throw away how our compile steps end
+    std::signal(SIGCHLD, SIG_DFL); // a parent that ignores it would hide the exit status of compile steps
     cli::watchForInterrupt();
     cli::Console console{parsed.options.verbosity};
     int status = guarded(parsed, console);

@@ -8,7 +8,7 @@
 #include <csignal>
 
 int main(int argc, char** argv) {
-    std::signal(SIGCHLD, SIG_DFL); // some parents have us throw away how our compile steps end
+    std::signal(SIGCHLD, SIG_DFL); // some parents ignore it, which would hide the exit status of compile steps
     QApplication app(argc, argv);
     QApplication::setOrganizationName("fernwick");
     QApplication::setApplicationName("workbench");
@@ -27,7 +27,7 @@ int main(int argc, char** argv) {
     workbench::apply(workbench::systemTheme());
     workbench::Workbench bench;
     bench.window().show();
-    // when the window stands: what opens and connects may ask
+    // after the window is shown, as opening and connecting may ask questions
     QTimer::singleShot(0, [&] {
         std::vector<std::string> projects;
         for (const auto& project : options.positionalArguments()) projects.push_back(project.toStdString());

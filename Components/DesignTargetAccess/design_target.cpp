@@ -5,7 +5,7 @@
 namespace designtargetaccess {
 namespace {
 
-/// Letter case ignored: of names that the language ignores it in, and of GUID digits.
+/// Ignores case, as the language does in names and GUIDs do in digits.
 bool sameIgnoringCase(std::string_view a, std::string_view b) {
     return std::equal(a.begin(), a.end(), b.begin(), b.end(),
                       [](unsigned char x, unsigned char y) { return std::tolower(x) == std::tolower(y); });

@@ -8,7 +8,7 @@ namespace designtargetaccess {
 
 class DesignTarget final : public IQLDesignTarget {
 public:
-    /// `root` is the installation's root folder; templates lie below it.
+    /// `root` is the installation's root folder, which contains the templates.
     DesignTarget(TargetData data, std::string root);
 
     std::string Key() const override { return data_.key; }

@@ -12,7 +12,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Far above any target: what is larger is no target file.
+/// Far larger than any design target file.
 constexpr std::uintmax_t kLargestTargetFile = 1 << 20;
 
 std::vector<std::string> targetFilesOf(const std::string& folder, std::vector<TargetProblem>& problems) {
@@ -51,7 +51,8 @@ void DesignTargetMgr::readFile(const std::string& path, std::vector<Source>& sou
 
 void DesignTargetMgr::add(Source source) {
     if (!positions_.try_emplace(source.data.key, Count()).second) {
-        problems_.emplace_back(source.path, 0, fmt::format("the key \"{}\" is taken by another file", source.data.key));
+        problems_.emplace_back(source.path, 0,
+                               fmt::format("the key \"{}\" is already used by another file", source.data.key));
         return;
     }
     targets_.push_back(basic::make<DesignTarget>(std::move(source.data), root_));

@@ -8,20 +8,20 @@
 
 namespace designtargetaccess {
 
-/// Reads `root`/targets/*.toml. Targets stand by their number, then by their key; there are none before `Initialize`.
+/// Reads `root`/targets/*.toml. Targets are sorted by number, then by key. There are none before `Initialize`.
 class DesignTargetMgr final : public IQLDesignTargetMgr {
 public:
-    /// `root` is the installation's root folder, without a separator at its end.
+    /// `root` is the installation's root folder, without a trailing separator.
     explicit DesignTargetMgr(std::string root) : root_(std::move(root)) {}
 
     std::int32_t Count() const override { return static_cast<std::int32_t>(targets_.size()); }
-    /// Never fails: a file that can't be read as a target is left out and named in `problems`. No folder is no target.
+    /// Never fails: an invalid file is skipped and listed in `problems`. Without the folder there are no targets.
     void Initialize() override;
     bool GetDesignTarget(const std::string& key, basic::Ref<IQLDesignTarget>& target) const override;
     bool FindDesignTarget(const std::string& key, std::int32_t& position) const override;
     basic::Ref<IQLDesignTarget> GetDesignTargetByIndex(std::int16_t index) const override;
 
-    /// What was wrong with files of the folder, in their order.
+    /// The problems of invalid files, in the order of the files.
     const std::vector<TargetProblem>& problems() const { return problems_; }
 
 private:

@@ -1,5 +1,5 @@
 #pragma once
-// What one file of the targets folder says.
+// The content of a design target file.
 #include <cstdint>
 #include <map>
 #include <string>
@@ -20,7 +20,7 @@ struct TargetReference {
     std::string guid; ///< with braces
 };
 
-struct TargetTemplates { ///< relative to the installation's root, empty for none
+struct TargetTemplates { ///< relative to the installation's root; empty if absent
     std::string project;
     std::string form;
     std::string module;
@@ -28,29 +28,28 @@ struct TargetTemplates { ///< relative to the installation's root, empty for non
 };
 
 struct TargetData {
-    std::int64_t order = 0; ///< position among the targets; equal ones stand in the order of their keys
+    std::int64_t order = 0; ///< position among the targets; equal ones are sorted by key
     std::string key;
     std::string name;     ///< with "&" before the accelerator
-    std::string platform; ///< empty for a target that isn't offered
-    std::string pipe;     ///< ProgID; empty for a target without one
+    std::string platform; ///< empty for a hidden target
+    std::string pipe;     ///< ProgID; may be empty
     std::int64_t style = 0;
-    std::int64_t formWidth = -1; ///< device pixels; -1 for no fixed size
+    std::int64_t formWidth = -1; ///< device pixels; -1 without a fixed size
     std::int64_t formHeight = -1;
-    std::int64_t formColor = 0; ///< &HBBGGRR; 0 leaves the form's colour alone
+    std::int64_t formColor = 0; ///< &HBBGGRR; 0 keeps the form's color
     std::string fontName;
     std::int64_t fontSize = 0; ///< points
     std::map<std::string, std::string> options;
     TargetTemplates templates;
-    std::vector<TargetReference> required; ///< references that projects must carry
-    std::vector<TargetReference> accepted; ///< further ones that they may carry
-    std::vector<std::string> modules;      ///< GUIDs of the libraries whose modules the devices have
+    std::vector<TargetReference> required; ///< references that projects must have
+    std::vector<TargetReference> accepted; ///< further references that they may have
+    std::vector<std::string> modules;      ///< GUIDs of libraries whose modules the devices support
     std::vector<TargetTavlet> tavlets;
     std::vector<std::string> tabStopOff;                             ///< classes
     std::vector<std::pair<std::string, std::string>> tavletDefaults; ///< "QLButton.FontSize", "#8"
 };
 
-/// The target that the text of one file describes (installation/targets/README.md tells the format).
-/// Throws TargetProblem for the first thing that is wrong with it.
+/// Parses a design target file, described in installation/targets/README.md. Throws TargetProblem for its first error.
 TargetData readTarget(std::string_view text, const std::string& fileName);
 
 } // namespace designtargetaccess

@@ -10,7 +10,7 @@ namespace {
 constexpr std::int64_t kLongest = std::numeric_limits<std::int32_t>::max();
 constexpr std::int64_t kWhite = 0xFFFFFF;
 
-/// "{xxxxxxxx-xxxx-xxxx-xxxx-xxxxxxxxxxxx}" in hexadecimal digits.
+/// Accepts "{xxxxxxxx-xxxx-xxxx-xxxx-xxxxxxxxxxxx}" with hexadecimal digits.
 bool isBracedGuid(const std::string& text) {
     static constexpr std::string_view kForm = "{########-####-####-####-############}";
     return std::equal(text.begin(), text.end(), kForm.begin(), kForm.end(), [](char c, char form) {
@@ -35,11 +35,11 @@ void readFont(TomlReader& from, TargetData& target) {
     target.fontSize = from.number("size", 1, kLongest);
 }
 
-/// A template outside of the installation would end up in users' projects.
+/// Templates are copied into users' projects, so they must be inside the installation.
 std::string readTemplate(TomlReader& from, const char* key) {
     std::string path = from.optionalText(key);
     if (path.starts_with('/') || path.find("..") != std::string::npos)
-        from.fail(key, "must be a path below the installation's root");
+        from.fail(key, "must be a path inside the installation");
     return path;
 }
 
@@ -60,7 +60,7 @@ void readReferences(TomlReader& from, TargetData& target) {
     from.tables("accepted", [&](TomlReader& each) { target.accepted.push_back(readReference(each)); });
     target.modules = from.texts("modules");
     if (!std::all_of(target.modules.begin(), target.modules.end(), isBracedGuid))
-        from.fail("modules", "must hold GUIDs in braces");
+        from.fail("modules", "must contain GUIDs in braces");
 }
 
 TargetTavlet readTavlet(TomlReader& from) {

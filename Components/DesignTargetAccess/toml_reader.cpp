@@ -29,7 +29,7 @@ const toml::node& TomlReader::need(const char* key) {
 
 std::string TomlReader::text(const char* key) {
     const auto value = need(key).value_exact<std::string>();
-    if (!value) fail(key, "must be a text");
+    if (!value) fail(key, "must be a string");
     if (value->empty()) fail(key, "must not be empty");
     return *value;
 }
@@ -38,7 +38,7 @@ std::string TomlReader::optionalText(const char* key) {
     const toml::node* node = find(key);
     if (!node) return {};
     const auto value = node->value_exact<std::string>();
-    if (!value) fail(key, "must be a text");
+    if (!value) fail(key, "must be a string");
     return *value;
 }
 
@@ -52,11 +52,11 @@ std::int64_t TomlReader::number(const char* key, std::int64_t least, std::int64_
 std::vector<std::string> TomlReader::texts(const char* key) {
     const toml::node* node = find(key);
     if (!node) return {};
-    if (!node->is_array()) fail(key, "must be a list of texts");
+    if (!node->is_array()) fail(key, "must be a list of strings");
     std::vector<std::string> result;
     for (const toml::node& item : *node->as_array()) {
         const auto value = item.value_exact<std::string>();
-        if (!value) failAt(item, fmt::format("\"{}\" must hold texts only", key));
+        if (!value) failAt(item, fmt::format("\"{}\" must contain only strings", key));
         result.push_back(*value);
     }
     return result;
@@ -94,13 +94,13 @@ void TomlReader::values(const std::string& numberPrefix,
         else if (const auto number = node.value_exact<std::int64_t>())
             read(name, fmt::format("{}{}", numberPrefix, *number));
         else
-            failAt(node, fmt::format("\"{}\" must be a text or a whole number", name));
+            failAt(node, fmt::format("\"{}\" must be a string or a whole number", name));
     }
 }
 
 void TomlReader::finish() const {
     for (const auto& [key, node] : table_)
-        if (!asked_.contains(std::string{key.str()})) failAt(node, fmt::format("\"{}\" is not known here", key.str()));
+        if (!asked_.contains(std::string{key.str()})) failAt(node, fmt::format("\"{}\" is not a known key", key.str()));
 }
 
 } // namespace designtargetaccess

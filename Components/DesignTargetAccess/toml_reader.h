@@ -1,5 +1,5 @@
 #pragma once
-// Typed, complete and strict reading of a TOML table: what is missing, of the wrong kind or unknown is a problem.
+// Strict, typed reading of TOML tables: missing, mistyped and unknown keys are errors.
 #include "Components/DesignTargetAccess/target_problem.h"
 #include <cstdint>
 #include <functional>
@@ -10,7 +10,7 @@
 
 namespace designtargetaccess {
 
-/// A table that is being read. Every key that was not asked for is a problem, found by `finish`.
+/// Reads one table. `finish` reports keys that were not read.
 class TomlReader {
 public:
     TomlReader(const toml::table& table, const std::string& file) : table_(table), file_(file) {}
@@ -19,13 +19,13 @@ public:
     std::string optionalText(const char* key);
     std::int64_t number(const char* key, std::int64_t least, std::int64_t most);
     std::vector<std::string> texts(const char* key);
-    /// Calls `read` for the table under `key`; a missing one is a problem only if it is needed.
+    /// Calls `read` for the table under `key`. A missing table is an error only if it is required.
     void table(const char* key, const std::function<void(TomlReader&)>& read);
     void optionalTable(const char* key, const std::function<void(TomlReader&)>& read);
-    /// Calls `read` for each table of the list under `key`; a missing list is an empty one.
+    /// Calls `read` for each table of the list under `key`. A missing list counts as empty.
     void tables(const char* key, const std::function<void(TomlReader&)>& read);
-    /// Calls `read` with each key of this table and its value: a text as it stands, a whole number as text
-    /// with `numberPrefix` in front.
+    /// Calls `read` with each key of this table and its value: strings unchanged, whole numbers as text with
+    /// `numberPrefix` in front.
     void values(const std::string& numberPrefix, const std::function<void(const std::string&, std::string)>& read);
     [[noreturn]] void fail(const char* key, const std::string& reason) const;
     void finish() const;

@@ -1,5 +1,5 @@
 #pragma once
-// A compiled application as a value, and the container that it is stored in. docs/qlx-format.md tells the format.
+// A compiled application as a value, and its container format, described in docs/qlx-format.md.
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -8,18 +8,18 @@
 
 namespace image {
 
-/// A property as the form's text has it; the value is the literal ("-1", "\"Hello\"", "&H00FF0000&").
+/// A property of a form or control. The value is the literal in the form's text: "-1", "\"Hello\"", "&H00FF0000&".
 struct Property {
     std::string name, value;
     friend bool operator==(const Property&, const Property&) = default;
 };
 
-/// A form or a control on it, with its children in the order of the form's text.
+/// A form, or a control on it, with its children in the order of the form's text.
 struct Control {
     static constexpr std::int32_t kNoIndex = -1;
 
     std::string className, name;
-    /// Index in a control array; kNoIndex outside of one.
+    /// Index in a control array, or kNoIndex.
     std::int32_t index = kNoIndex;
     std::vector<Property> properties;
     std::vector<Control> children;
@@ -28,7 +28,7 @@ struct Control {
 
 enum class MemberKind : std::uint8_t { Sub, Function, PropertyGet, PropertyLet, PropertySet, Event, Declare };
 
-/// What a module offers to others: name, and physical lines from 1.
+/// A procedure, event or Declare of a module. Lines are physical lines from 1.
 struct Member {
     MemberKind kind = MemberKind::Sub;
     bool isPublic = true;
@@ -42,11 +42,11 @@ enum class ModuleKind : std::uint8_t { Module, Class, Form };
 
 struct Module {
     ModuleKind kind = ModuleKind::Module;
-    /// Name, and the file without its folder.
+    /// Module name, and file name without folder.
     std::string name, file;
     std::uint32_t lines = 0;
     std::vector<Member> members;
-    /// String literals of the code, each once, in the order of their first use.
+    /// Distinct string literals of the code, in the order of their first use.
     std::vector<std::string> strings;
     friend bool operator==(const Module&, const Module&) = default;
 };
@@ -54,9 +54,9 @@ struct Module {
 struct Image {
     std::string compilerVersion;
     std::string projectName;
-    /// Name of the start-up component, "Sub Main" or "".
+    /// Name of the startup object, "Sub Main" or "".
     std::string startup;
-    /// Version information in the order in which it was given.
+    /// Version information in its original order.
     std::vector<std::pair<std::string, std::string>> info;
     std::vector<std::pair<std::string, std::int32_t>> constants;
     std::vector<std::string> libraries;
@@ -65,11 +65,11 @@ struct Image {
     friend bool operator==(const Image&, const Image&) = default;
 };
 
-/// The same image gives the same bytes.
+/// Returns the bytes of the container. Equal images have equal bytes.
 std::string encode(const Image& image);
 
-/// Error 321 (invalid file format), with what is wrong, for bytes that are no whole and undamaged image of a
-/// version that this compiler reads.
+/// Returns the image in a container. Raises error 321 (invalid file format) with the reason if the bytes are damaged or
+/// have an unsupported version.
 Image decode(std::string_view bytes);
 
 } // namespace image

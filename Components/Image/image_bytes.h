@@ -1,5 +1,5 @@
 #pragma once
-// Little-endian numbers and texts of the image container.
+// Little-endian numbers and strings of the image container.
 #include "Basic/runtime_error.h"
 #include <array>
 #include <cstdint>
@@ -14,7 +14,7 @@ inline constexpr int kInvalidFileFormat = 321;
 
 [[noreturn]] void imageIsDamaged(const std::string& reason);
 
-/// CRC-32 as zip and PNG have it (polynomial 0xEDB88320, inverted).
+/// CRC-32 as used by zip and PNG (polynomial 0xEDB88320, inverted).
 std::uint32_t crc32(std::string_view bytes);
 
 class Writer {
@@ -29,7 +29,7 @@ private:
     std::string bytes_;
 };
 
-/// Reads within its bytes; running over their end is a damaged image.
+/// Reads bytes. Reading past the end raises error 321.
 class Reader {
 public:
     explicit Reader(std::string_view bytes) : rest_(bytes) {}
@@ -37,8 +37,8 @@ public:
     std::uint16_t u16();
     std::uint32_t u32();
     std::string_view raw(std::size_t length);
-    /// A count of things that take at least `smallest` bytes each: one that cannot be is damage, so nobody
-    /// allocates by it.
+    /// Reads a count of items that take at least `smallest` bytes each. An impossible count raises error 321, so that it
+    /// is never used for an allocation.
     std::uint32_t count(std::size_t smallest);
     bool atEnd() const { return rest_.empty(); }
 
@@ -46,7 +46,7 @@ private:
     std::string_view rest_;
 };
 
-/// Each text once; a text is known by its number.
+/// The string table: distinct strings, identified by number.
 class Strings {
 public:
     std::uint32_t numberOf(const std::string& text);

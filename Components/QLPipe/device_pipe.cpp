@@ -1,12 +1,12 @@
 #include "Components/QLPipe/device_pipe.h"
-#include "Components/QLPipe/device_names.h"
-#include "Components/QLPipe/installer.h"
-#include "Components/QLPipe/package_writer.h"
-#include "Components/QLPipe/pipe_messages.h"
-#include "Components/QLPipe/pipe_texts.h"
-#include "Components/QLPipe/project_bundle.h"
-#include "Components/QLPipe/runtime_bundle.h"
-#include "Components/QLPipe/target_limits.h"
+#include "Components/QLPipe/base/device_names.h"
+#include "Components/QLPipe/base/pipe_messages.h"
+#include "Components/QLPipe/base/pipe_texts.h"
+#include "Components/QLPipe/base/target_limits.h"
+#include "Components/QLPipe/package/installer.h"
+#include "Components/QLPipe/package/package_writer.h"
+#include "Components/QLPipe/package/project_bundle.h"
+#include "Components/QLPipe/package/runtime_bundle.h"
 
 namespace qlpipe {
 
@@ -27,10 +27,10 @@ bool DevicePipe::run(Transfer&& transfer) {
 
 void DevicePipe::needOwnDevice(const std::string& deviceName) const {
     if (!family_.open || !isOfFamily(deviceName, family_.name) || !isSafePart(deviceName))
-        throw transferError(kDeviceNotServed, {deviceName, family_.name});
+        throw transferError(kDeviceNotServed, {{"device", deviceName}, {"family", family_.name}});
 }
 
-void DevicePipe::tell(PipeWarning warning, std::initializer_list<std::string> values) {
+void DevicePipe::warn(PipeWarning warning, MessageValues values) {
     if (sink_) sink_->SendWarning(messageText(warning + kWarningOffset, values), "", 0, warning);
 }
 
@@ -40,7 +40,7 @@ std::optional<Bundle> DevicePipe::checkedBundle(const std::string& deviceName, c
     checkFiles(limitsOf(services_.classes, deviceName), listing);
     bool good = true;
     for (const auto& finding : listing.findings) {
-        if (!finding.isError) continue; // the validation told the hints
+        if (!finding.isError) continue; // the validation has reported the hints
         good = false;
         if (sink_) sink_->SendError(finding.number, finding.text);
     }
@@ -55,13 +55,13 @@ std::optional<Bundle> DevicePipe::checkedBundle(const std::string& deviceName, c
 void DevicePipe::send(const std::string& deviceName, const basic::Ref<vbide::VBProject>& project,
                       const Bundle& bundle) {
     Progress progress{sink_, bundle.bytes()};
-    progress.says(pipe_texts::kConnecting + deviceName + pipe_texts::kDots);
+    progress.setStatus(fillIn(pipe_texts::kConnecting, {{"device", deviceName}}));
     const auto device = family_.open(services_, deviceName, project);
     const bool lacksRuntime = !bundle.isRuntime && !hasRuntime(*device);
     install(*device, bundle, progress);
     for (const auto& file : bundle.files)
         services_.record->installed.push_back(device->location() + "/" + placeOnDevice(bundle, file));
-    if (lacksRuntime) tell(kRuntimeNotInstalled, {device->location(), deviceName});
+    if (lacksRuntime) warn(kRuntimeNotInstalled, {{"device", device->location()}, {"key", deviceName}});
 }
 
 bool DevicePipe::SendProject(const std::string& deviceName, const basic::Ref<vbide::VBProject>& project,
@@ -99,7 +99,8 @@ bool DevicePipe::SendPackage(const Package& package, const std::string& deviceNa
     return run([&] {
         const auto& bundle = package.bundle();
         if (deviceName != bundle.device)
-            throw transferError(kPackageOfOtherDevice, {package.path(), bundle.device, deviceName});
+            throw transferError(kPackageOfOtherDevice,
+                                {{"package", package.path()}, {"device", bundle.device}, {"other", deviceName}});
         needOwnDevice(deviceName);
         send(deviceName, {}, bundle);
         return true;
@@ -118,7 +119,7 @@ bool installPackage(const PipeServices& services, const std::string& path, const
             pipe.SetEventSink(sink);
             return pipe.SendPackage(package, deviceName.empty() ? device : deviceName);
         }
-        throw transferError(kPackageDeviceUnknown, {path, device});
+        throw transferError(kPackageDeviceUnknown, {{"package", path}, {"device", device}});
     } catch (const TransferError& error) {
         sink.SendError(error.number, error.text);
         return false;

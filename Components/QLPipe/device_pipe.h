@@ -1,14 +1,14 @@
 #pragma once
-// The pipe of a family of devices.
-#include "Components/QLPipe/package.h"
+// The pipe of a device family.
+#include "Components/QLPipe/base/pipe_messages.h"
+#include "Components/QLPipe/package/package.h"
 #include "Components/QLPipe/pipe_family.h"
-#include "Components/QLPipe/pipe_messages.h"
 #include <optional>
 
 namespace qlpipe {
 
-/// Turns what the driver asks for into a bundle and hands that to a device of the family or to a package. Every outcome is
-/// told as an event: a TransferError as SendError, success as SendComplete.
+/// Builds bundles and installs them on a device of the family, or writes them into a package. Every outcome is an event:
+/// a TransferError becomes SendError, success becomes SendComplete.
 class DevicePipe final : public IQLPipe {
 public:
     DevicePipe(const PipeFamily& family, PipeServices services) : family_(family), services_(std::move(services)) {}
@@ -16,24 +16,24 @@ public:
     bool SendProject(const std::string& deviceName, const basic::Ref<vbide::VBProject>& project,
                      const ProjectFiles& files, const ApplicationInfo& application) override;
     void SetEventSink(IQLPipeEvents& sink) override { sink_ = &sink; }
-    /// `saveLocation` becomes the package's path.
+    /// Sets `saveLocation` to the package's path.
     bool MakePackage(const std::string& deviceName, const basic::Ref<vbide::VBProject>& project,
                      const ProjectFiles& files, const ApplicationInfo& application, std::string& saveLocation) override;
     void SendRuntime(const std::string& deviceName) override;
 
-    /// Installs what a package holds on a device of the design target that it was made for.
+    /// Installs a package on a device of the design target for which it was made.
     bool SendPackage(const Package& package, const std::string& deviceName);
 
 private:
-    /// The transfer answers whether it came to its end; what it throws is told.
+    /// Runs a transfer, which returns whether it completed. A TransferError that it throws becomes an event.
     template <class Transfer>
     bool run(Transfer&& transfer);
-    /// Tells the errors of the files, all of them. Empty when there is one.
+    /// Reports all errors of the files as events. Returns nothing if there are any.
     std::optional<Bundle> checkedBundle(const std::string& deviceName, const ProjectFiles& files,
                                         const ApplicationInfo& application);
     void send(const std::string& deviceName, const basic::Ref<vbide::VBProject>& project, const Bundle& bundle);
     void needOwnDevice(const std::string& deviceName) const;
-    void tell(PipeWarning warning, std::initializer_list<std::string> values);
+    void warn(PipeWarning warning, MessageValues values);
 
     const PipeFamily& family_;
     PipeServices services_;

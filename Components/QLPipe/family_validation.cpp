@@ -1,5 +1,5 @@
 #include "Components/QLPipe/family_validation.h"
-#include "Components/QLPipe/listed_files.h"
+#include "Components/QLPipe/package/listed_files.h"
 
 namespace qlpipe {
 

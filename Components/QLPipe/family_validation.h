@@ -1,5 +1,5 @@
 #pragma once
-// What devices of a family can take, told before anything is sent.
+// Checks before a transfer whether devices of a family accept the files.
 #include "Add-in/platform/classes.h"
 #include "Add-in/platform/files.h"
 #include "Add-in/platform/pipes.h"
@@ -14,8 +14,8 @@ public:
         : family_(std::move(family)), files_(files), classes_(classes) {}
 
     bool IsDeviceSupported(const std::string& key) override;
-    /// For the project's own device when it is of this family, else for the family's first design target. False when
-    /// there is an error; hints are warnings.
+    /// Checks against the project's device if it belongs to this family, otherwise against the family's first design
+    /// target. Returns false if there is an error. Hints are reported as warnings.
     bool ValidateFiles(const basic::Ref<vbide::VBProject>& project, const ProjectFiles& files) override;
     void SetEventSink(IQLPipeEvents& sink) override { sink_ = &sink; }
 

@@ -1,8 +1,8 @@
 #include "Components/QLPipe/pipe_family.h"
+#include "Components/QLPipe/base/no_page.h"
 #include "Components/QLPipe/device_pipe.h"
 #include "Components/QLPipe/family_validation.h"
 #include "Components/QLPipe/linux_handheld/linux_handheld.h"
-#include "Components/QLPipe/no_page.h"
 #include "Components/QLPipe/virtual_device/virtual_device.h"
 
 namespace qlpipe {

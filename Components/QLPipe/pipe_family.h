@@ -1,8 +1,8 @@
 #pragma once
-// Families of devices, and the classes that serve them.
+// Device families and the classes that serve them.
 #include "Add-in/platform/pipes.h"
-#include "Components/QLPipe/device_storage.h"
-#include "Components/QLPipe/pipe_services.h"
+#include "Components/QLPipe/base/device_storage.h"
+#include "Components/QLPipe/base/pipe_services.h"
 #include <functional>
 #include <memory>
 #include <span>
@@ -10,31 +10,31 @@
 
 namespace qlpipe {
 
-/// A family is one row here and a folder with the storage of its devices.
+/// A family is a row in kPipeFamilies and a folder with the storage of its devices.
 struct PipeFamily {
-    /// What stands before the first "-" of its design targets' keys.
+    /// The part before the first "-" in the keys of its design targets.
     const char* name;
-    /// The ProgID that its design targets name.
+    /// The ProgID in its design targets.
     const char* pipe;
-    /// Opens a device's storage, alone until it is closed; throws TransferError. `project` is Nothing for the runtime and
-    /// for packages. Null for a family without devices to send to.
+    /// Opens a device's storage for exclusive use; throws TransferError. `project` is Nothing for the runtime and for
+    /// packages. Null for a family without devices.
     std::unique_ptr<DeviceStorage> (*open)(const PipeServices& services, const std::string& deviceName,
                                            const basic::Ref<vbide::VBProject>& project);
-    /// Makes what contributes its page to the settings dialog. Null for a family without that class.
+    /// Creates the object with its page of the settings dialog. Null for a family without that class.
     basic::Ref<IQLPipeConfiguration> (*configure)(const PipeServices& services);
 };
 
 std::span<const PipeFamily> pipeFamilies();
 
-/// Makes a new object of a class.
+/// Creates an object of a class.
 using ObjectFactory = std::function<basic::Ref<fernwick::Object>()>;
 
-/// Names every class of the shipped pipes with its ProgID, for whoever makes objects by ProgID.
+/// Registers every class of the pipes under its ProgID.
 void registerPipes(const PipeServices& services,
                    const std::function<void(const std::string& progId, ObjectFactory make)>& add);
 
-/// Installs what a package holds; "" stands for the design target that it was made for. Events and answer are those of
-/// IQLPipe::SendProject.
+/// Installs a package. An empty device means the design target for which the package was made. Raises the events of
+/// IQLPipe::SendProject and returns its result.
 bool installPackage(const PipeServices& services, const std::string& path, const std::string& deviceName,
                     IQLPipeEvents& sink);
 

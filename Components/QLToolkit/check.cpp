@@ -8,7 +8,7 @@ namespace qltoolkit {
 
 namespace {
 
-// False when reading failed; stops beyond the largest size that is accepted.
+// Reads the file, but not much more than kMaxSourceBytes. Returns false if reading failed.
 bool readAll(const std::string& path, std::string& bytes) {
     std::ifstream file(path, std::ios::binary);
     if (!file) return false;

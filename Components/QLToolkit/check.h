@@ -1,5 +1,5 @@
 #pragma once
-// Checking one file without keeping its tree.
+// Checks one file and discards its tree.
 #include "Components/QLToolkit/parser/parse.h"
 #include <string>
 #include <vector>
@@ -12,11 +12,11 @@ struct CheckResult {
     std::uint32_t lines = 0; ///< physical lines, head included
 };
 
-/// Parses a file that is in memory and forgets the tree. `name` gives the kind of file by its extension.
+/// Checks a file that is in memory. The extension of `name` determines the kind of file.
 [[nodiscard]] CheckResult checkSource(std::string name, std::string bytes, const ConditionalConstants& constants = {},
                                       const basic::CodePage& = basic::CodePage::windows1252());
 
-/// The same for a file on disk. A file that is missing, unreadable or a folder is a diagnostic, too.
+/// Checks a file on disk. A file that is missing, unreadable or a folder is reported as a diagnostic, too.
 [[nodiscard]] CheckResult checkFile(const std::string& path, const ConditionalConstants& constants = {},
                                     const basic::CodePage& = basic::CodePage::windows1252());
 

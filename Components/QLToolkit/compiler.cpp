@@ -9,7 +9,7 @@ namespace qltoolkit {
 
 namespace {
 
-/// Sources are most of the work; the rest is the image.
+/// The share of the sources in the progress; the rest is for writing the image.
 constexpr std::size_t kPercentOfSources = 90;
 
 ConditionalConstants conditionalConstants(const std::vector<std::pair<std::string, std::int32_t>>& given) {
@@ -18,7 +18,7 @@ ConditionalConstants conditionalConstants(const std::vector<std::pair<std::strin
     return constants;
 }
 
-/// The text of a string literal; nothing for a literal of another kind.
+/// Returns the text of a string literal, or nothing for any other literal.
 std::optional<std::string> stringLiteral(const std::string& literal) {
     if (literal.size() < 2 || literal.front() != '"' || literal.back() != '"') return std::nullopt;
     return basic::Replace(literal.substr(1, literal.size() - 2), "\"\"", "\"");
@@ -122,7 +122,7 @@ std::optional<ProjectCompiler::Library> ProjectCompiler::findLibrary(const Build
     const auto& files = services_.files;
     const std::string folder = files.GetParentFolderName(file.path);
     const std::string stem = files.BuildPath(folder, files.GetBaseName(file.path));
-    // a project names the library that stood on its author's machine: the extension may be another here
+    // The project has the library's path on its author's machine; the extension may differ here.
     for (const auto& path : {file.path, stem + ".dll", stem + ".ocx", stem + ".tlb"}) {
         const auto info = services_.classes.TypeLibInfoFromFile(path);
         if (info) return Library{path, info->Name, info->Guid, file.kind};
@@ -132,8 +132,8 @@ std::optional<ProjectCompiler::Library> ProjectCompiler::findLibrary(const Build
 
 void ProjectCompiler::reportDependencies(const image::Image& image, const std::vector<Library>& libraries) {
     for (const auto& library : libraries) {
-        // a referenced library's constants need no qualifier, so it counts as in use; one of controls only when a
-        // form has one of them
+        // Constants of a referenced library need no qualifier, so it counts as used. A library of controls is used
+        // only if a form has one of its controls.
         const bool inUse = library.kind == ReferencedLibrary ||
                            std::any_of(image.forms.begin(), image.forms.end(), [&](const image::Control& form) {
                                return usesLibrary(form, library.name + "Ctl.");

@@ -1,5 +1,5 @@
 #pragma once
-// The compiler component: takes the files of a project and makes its image.
+// The compiler component: compiles the files of a project into an image.
 #include "Add-in/platform/classes.h"
 #include "Add-in/platform/compiler.h"
 #include "Add-in/platform/files.h"
@@ -12,17 +12,17 @@
 
 namespace qltoolkit {
 
-/// The version that images carry.
+/// The version that is stored in images.
 inline constexpr const char* kCompilerVersion = "3.5.0 (0624)";
-/// What SetOutputPath's path gets to become the image's.
+/// Appended to the path of SetOutputPath to form the path of the image.
 inline constexpr const char* kImageSuffix = ".0000.qlx";
 
-/// What the last Build did, in more detail than its events tell: physical lines and columns, and what was read.
+/// The result of the last Build in more detail than its events: physical lines and columns, and the files read.
 struct BuildRecord {
     std::vector<Diagnostic> diagnostics;
-    /// Every file that the image was made from.
+    /// Every file that the compiler read.
     std::vector<std::string> inputs;
-    /// "" when none was written.
+    /// Path of the image, or "" if none was written.
     std::string image;
     std::uint64_t lines = 0;
 };
@@ -39,8 +39,8 @@ public:
 
     void SetOutputPath(const std::string& path) override { input_.outputPath = path; }
     void AddBuildFile(const std::string& path, int kind) override { input_.files.push_back({path, kind}); }
-    /// Reads and parses every source file, reports what is wrong with them, and writes the image as a whole or not
-    /// at all. False when there was an error. What a handler of its events lets out ends the build, with no image.
+    /// Parses every source file, reports errors and warnings, and writes the image atomically. Returns false if there
+    /// was an error. An exception from an event handler aborts the build without an image.
     bool Build() override;
     void Reset() override { input_ = {}; }
     void SetStartupObject(const std::string& name) override { input_.startup = name; }

@@ -25,7 +25,7 @@ image::MemberKind imageKindOf(ProcedureKind kind) {
     return image::MemberKind::PropertySet;
 }
 
-/// The first byte behind the last separator of either kind.
+/// Returns the part after the last separator of either kind.
 std::string fileTitle(const std::string& path) {
     const auto slash = path.find_last_of("/\\");
     return slash == path.npos ? path : path.substr(slash + 1);

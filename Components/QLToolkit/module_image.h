@@ -1,11 +1,11 @@
 #pragma once
-// What an image holds of a module.
+// A module's part of an image.
 #include "Components/Image/image.h"
 #include "Components/QLToolkit/parser/ast.h"
 
 namespace qltoolkit {
 
-/// The VB_Name of a module; "" where it has none.
+/// Returns the VB_Name of a module, or "" if it has none.
 std::string moduleName(const Module& module, const SymbolTable& symbols);
 
 image::Module imageOf(const Module& module, const SymbolTable& symbols);

@@ -11,15 +11,16 @@ namespace host {
 /// The mode counts for the superuser too. A file that does not exist is not read-only.
 bool isReadOnly(const std::string& path);
 
-/// Returns the stamp of the file at `path` if another program changed it since it was read as `asRead`, so that it holds
-/// neither the bytes read then nor `bytes`. Returns nothing if it is unchanged or no longer exists. Errors as readFile.
+/// Returns the stamp of the file at `path` if another program changed it since it was read as `asRead`, so that it
+/// holds neither the bytes read then nor `bytes`. Returns nothing if it is unchanged or no longer exists. Errors as
+/// readFile.
 std::optional<FileStamp> changedSince(const std::string& path, const FileStamp& asRead, std::string_view bytes = {});
 
 /// Replaces the contents of `path` with `bytes`. Follows symbolic links and keeps mode and owner. A file that already
-/// holds these bytes is not touched. `asRead` is the stamp of the file that the caller read; none if there was no file or
-/// the user agreed to replace it. On failure the old file is unchanged and no temporary file remains.
-/// Errors: 75 read-only, a folder, or changed on disk since `asRead`; 76 the folder does not exist; 61 the disk is full;
-/// 57 the device failed.
+/// holds these bytes is not touched. `asRead` is the stamp of the file that the caller read; none if there was no file
+/// or the user agreed to replace it. On failure the old file is unchanged and no temporary file remains.
+/// Errors: 75 read-only, a folder, or changed on disk since `asRead`; 76 the folder does not exist; 61 the disk is
+/// full; 57 the device failed.
 FileStamp atomicSave(const std::string& path, std::string_view bytes, const std::optional<FileStamp>& asRead = {});
 
 } // namespace host

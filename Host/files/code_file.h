@@ -1,6 +1,6 @@
 #pragma once
-// The text of a source file (.bas, .cls, .frm and so on): a header that the code window does not show, and the code, whose
-// "Attribute" lines it neither shows nor counts.
+// The text of a source file (.bas, .cls, .frm and so on): a header that the code window does not show, and the code,
+// whose "Attribute" lines it neither shows nor counts.
 #include "Basic/code_page.h"
 #include "Host/files/text_file.h"
 #include <cstddef>
@@ -12,8 +12,8 @@
 
 namespace host {
 
-/// A source file divided after its header: VERSION line, Object lines, one balanced Begin block, then the run of lines that
-/// start with "Attribute ". A file without these has an empty header. The parts are views into the bytes.
+/// A source file divided after its header: VERSION line, Object lines, one balanced Begin block, then the run of lines
+/// that start with "Attribute ". A file without these has an empty header. The parts are views into the bytes.
 struct SourceParts {
     std::string_view designer;   ///< VERSION, Object lines and the Begin block
     std::string_view attributes; ///< the run of Attribute lines

@@ -13,7 +13,7 @@ inline std::string_view withoutByteOrderMark(std::string_view text) noexcept {
 }
 
 /// Returns UTF-8 for a file that starts with a byte order mark or whose non-ASCII characters are all well-formed UTF-8
-/// sequences, otherwise `usual`, the code page of the machine that the project comes from.
+/// sequences, otherwise `usual`, the code page of the machine on which the project was written.
 basic::CodePage codePageOf(std::string_view bytes, const basic::CodePage& usual);
 
 } // namespace host

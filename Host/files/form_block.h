@@ -10,8 +10,8 @@
 
 namespace host {
 
-/// Holds its own lines, so unedited lines are written back as they were read. Property names are matched ignoring case. If
-/// a property occurs twice, the last one counts.
+/// Holds its own lines, so unedited lines are written back as they were read. Property names are matched ignoring case.
+/// If a property occurs twice, the last one counts.
 class FormBlock {
 public:
     enum class Kind {
@@ -42,13 +42,14 @@ public:
     bool wasAdded(std::string_view key) const;
     void eachProperty(const std::function<void(std::string_view key, std::string_view literal)>& see) const;
 
-    /// Visits the properties of this block and of all blocks within it. `line` is the line number of the block's first line
-    /// and, on return, of the line after its last.
+    /// Visits the properties of this block and of all blocks within it. `line` is the line number of the block's first
+    /// line and, on return, of the line after its last.
     using SeeLine =
         std::function<void(const FormBlock& owner, std::string_view key, std::string_view literal, std::size_t)>;
     void eachPropertyWithin(const SeeLine& see, std::size_t& line) const;
 
-    /// Redirects references to a resource file, in this block and all blocks within it. Returns true if the text changed.
+    /// Redirects references to a resource file, in this block and all blocks within it. Returns true if the text
+    /// changed.
     bool renameResources(std::string_view oldFile, std::string_view newFile);
 
     /// Returns a nested Properties block, or null.

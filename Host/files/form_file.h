@@ -20,10 +20,10 @@ struct ObjectLine {
     std::string library, file;
 };
 
-/// The head of the file as a tree over its lines, and the code after it as text. Unedited lines are written back byte for
-/// byte, even if they are faulty. The head is the VERSION line, Object lines, one balanced Begin/End block and the run of
-/// lines that begin with "Attribute " in the first column; the next line is line 1 of the code window. All parts of the
-/// head are optional.
+/// The head of the file as a tree over its lines, and the code after it as text. Unedited lines are written back byte
+/// for byte, even if they are faulty. The head is the VERSION line, Object lines, one balanced Begin/End block and the
+/// run of lines that begin with "Attribute " in the first column; the next line is line 1 of the code window. All parts
+/// of the head are optional.
 class FormFile {
 public:
     /// Blocks nested deeper than this are kept as plain lines and reported.

@@ -43,7 +43,8 @@ bool parseKeyword(FormLine& line, std::string_view body) {
     return true;
 }
 
-/// Literal and comment as the designer writes them: Booleans are padded to 4 columns, others are followed by two blanks.
+/// Literal and comment as the designer writes them: Booleans are padded to 4 columns, others are followed by two
+/// blanks.
 std::string withComment(std::string_view literal, std::string_view comment) {
     std::string out(literal);
     if (comment.empty()) return out;

@@ -11,7 +11,8 @@ std::string_view takeWholeLine(std::string_view& rest);
 std::string_view lineText(std::string_view wholeLine);
 std::string_view lineEndOf(std::string_view wholeLine);
 
-/// The parts of a line, as views into it. Nesting depends on the keywords alone: hand-merged files have any indentation.
+/// The parts of a line, as views into it. Nesting depends on the keywords alone: hand-merged files have any
+/// indentation.
 struct FormLine {
     enum class Kind { Blank, Comment, Begin, BeginProperty, End, EndProperty, Property, Other };
 

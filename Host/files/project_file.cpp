@@ -62,7 +62,7 @@ ProjectFile::Place ProjectFile::insertAfter(std::optional<Place> line, std::stri
     return lines_.insert(line ? std::next(*line) : lines_.begin(), TextLine{std::move(text), ownEnd_});
 }
 
-// ---- settings ----------------------------------------------------------------------------------------------------------
+// ---- settings -------------------------------------------------------------------------------------------------------
 
 std::optional<std::string> ProjectFile::setting(std::string_view key) const {
     const auto found = settings_.find(basic::foldCase(key));
@@ -112,7 +112,7 @@ std::optional<ProjectFile::Place> ProjectFile::typeLine() const {
     return type == settings_.end() ? std::nullopt : std::optional(type->second);
 }
 
-// ---- members -----------------------------------------------------------------------------------------------------------
+// ---- members --------------------------------------------------------------------------------------------------------
 
 std::vector<ProjectFile::Member> ProjectFile::members() {
     std::vector<Member> members;

@@ -39,7 +39,8 @@ public:
     /// True if there is at least one known line: the type, a member or a setting.
     bool looksLikeProject() const noexcept { return known_; }
 
-    /// Returns a setting's value without its delimiters; nothing if there is none. Of several lines the first one counts.
+    /// Returns a setting's value without its delimiters; nothing if there is none. Of several lines the first one
+    /// counts.
     std::optional<std::string> setting(std::string_view key) const;
 
     /// Sets a setting in its line. A missing one is inserted in the order of the IDE.
@@ -62,9 +63,10 @@ public:
     /// Returns a value of a section exactly as written, possibly empty. Error 5 if there is no such section or key.
     std::string readProperty(std::string_view section, std::string_view key) const;
 
-    /// Sets a value of a section. A new key is added after the last one of the section, a new section at the end after one
-    /// blank line. Returns true if the file changed. Error 5, without a change: a line break in any argument, a character
-    /// that the code page lacks, an empty section or key, a key with "=" or an initial "[" (it could not be read back).
+    /// Sets a value of a section. A new key is added after the last one of the section, a new section at the end after
+    /// one blank line. Returns true if the file changed. Error 5, without a change: a line break in any argument, a
+    /// character that the code page lacks, an empty section or key, a key with "=" or an initial "[" (it could not be
+    /// read back).
     bool writeProperty(std::string_view section, std::string_view key, std::string_view value);
 
 private:

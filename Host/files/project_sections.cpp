@@ -35,7 +35,7 @@ std::string ProjectFile::readProperty(std::string_view section, std::string_view
     throw hostError(basic::kInvalidProcedureCall);
 }
 
-/// The position of a section, which is appended if it does not exist.
+/// Returns a section. Appends it if it does not exist.
 ProjectFile::Section& ProjectFile::sectionNamed(std::string_view section) {
     const auto head = codePage_.encode(fmt::format("[{}]", section));
     auto key = basic::foldCase(trimBlanks(section));

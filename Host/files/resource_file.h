@@ -1,6 +1,6 @@
 #pragma once
-// The binary companion of a form: .frx .ctx .pgx .dsx. It has consecutive records and no header; the kind of a record is
-// known only from the property that refers to it.
+// The binary companion of a form: .frx .ctx .pgx .dsx. It has consecutive records and no header; the kind of a record
+// is known only from the property that refers to it.
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -16,16 +16,16 @@ struct Resource {
     explicit operator bool() const { return warning.empty(); }
 };
 
-/// Reads records from the bytes of a companion. Offsets and lengths come from files that are often stale (a copied form,
-/// an older companion), so each is checked against the size of the file and none is used to allocate memory. Texts are in
-/// the code page of the project; all views point into this object's bytes. Integers are little-endian.
+/// Reads records from the bytes of a companion. Offsets and lengths come from files that are often stale (a copied
+/// form, an older companion), so each is checked against the size of the file and none is used to allocate memory.
+/// Texts are in the code page of the project; all views point into this object's bytes. Integers are little-endian.
 class ResourceFile {
 public:
     explicit ResourceFile(std::string bytes) : bytes_(std::move(bytes)) {}
     const std::string& bytes() const { return bytes_; }
 
-    /// Returns the image file of a picture or icon, "" for an empty picture. There are two layouts: that of built-in objects
-    /// (u32 n+8, "lt", u32 n) and that of a property bag (with a CLSID before the "lt").
+    /// Returns the image file of a picture or icon, "" for an empty picture. There are two layouts: that of built-in
+    /// objects (u32 n+8, "lt", u32 n) and that of a property bag (with a CLSID before the "lt").
     Resource<std::string_view> picture(std::size_t offset) const;
     /// The string of a `$"file":offset` reference: u32 length, bytes.
     Resource<std::string_view> string(std::size_t offset) const;

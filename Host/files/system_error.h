@@ -5,8 +5,8 @@
 
 namespace host {
 
-/// Returns the run-time error for a failed system call: VB's number for `error` (an errno), a description with the path,
-/// source "VBIDE" and the errno as last system error.
+/// Returns the run-time error for a failed system call: VB's number for `error` (an errno), a description with the
+/// path, source "VBIDE" and the errno as last system error.
 basic::RuntimeError systemError(int error, const std::string& what, const std::string& path);
 
 /// As systemError, for a file whose folder does not exist: error 76.

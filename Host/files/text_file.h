@@ -29,8 +29,8 @@ std::string joinLines(const std::vector<TextLine>& lines);
 /// The line end for new lines of this text: that of its first line, or CRLF if it has none.
 LineEnd ownLineEnd(std::string_view bytes) noexcept;
 
-/// The state of a file when its bytes were read, and a digest of these bytes: enough to detect a later change by another
-/// program.
+/// The state of a file when its bytes were read, and a digest of these bytes: enough to detect a later change by
+/// another program.
 struct FileStamp {
     std::uint64_t device = 0, inode = 0, size = 0;
     std::int64_t modifiedSeconds = 0, modifiedNanoseconds = 0;
@@ -52,8 +52,8 @@ struct FileContent {
 /// The largest file that is read: 1 GiB. No project file or source is larger.
 inline constexpr std::uint64_t kLargestFile = std::uint64_t{1} << 30;
 
-/// Reads a whole file once. Errors: 53 it does not exist, 76 its folder does not exist, 75 it is a folder, not readable or
-/// not a regular file, 7 larger than kLargestFile, 57 the device failed.
+/// Reads a whole file once. Errors: 53 it does not exist, 76 its folder does not exist, 75 it is a folder, not readable
+/// or not a regular file, 7 larger than kLargestFile, 57 the device failed.
 FileContent readFile(const std::string& path);
 
 /// Reads at most the first `most` bytes of a file of any size. Errors as readFile, except 7.

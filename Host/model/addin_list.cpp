@@ -34,7 +34,7 @@ void ListedAddIn::connectAs(vbide::vbext_ConnectMode mode) {
     }
     connecting_ = false;
     if (connected_) return;
-    // The add-in gave itself up while it was starting: only now is its start over.
+    // The add-in disconnected itself in OnConnection; that takes effect now.
     connected_ = true;
     disconnect(vbide::vbext_dm_UserClosed);
 }

@@ -1,5 +1,5 @@
 #pragma once
-// The add-ins that the host knows, and their life.
+// The listed add-ins, and their connections.
 #include "Add-in/platform/host.h"
 #include <functional>
 #include <memory>
@@ -30,7 +30,7 @@ private:
     std::string progId_, description_;
     Create create_;
     vbide::Ref<vbide::IDTExtensibility> object_;
-    /// The object of the last connection: one of its handlers may be what disconnected it.
+    /// The object of the last connection, kept alive since one of its handlers may be running.
     vbide::Ref<vbide::IDTExtensibility> retired_;
     bool connected_ = false, connecting_ = false;
 };

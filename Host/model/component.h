@@ -1,12 +1,10 @@
 #pragma once
-// A component of a project: a module, class, form or one of their kin, over the text of its file.
-#include "Add-in/platform/host_events.h"
+// A component of a project (module, class, form and so on), over the text of its file.
 #include "Add-in/platform/host_project.h"
 #include "Host/files/project_file.h"
 #include "Host/files/text_file.h"
 #include "Host/model/code/source_file.h"
-#include "Host/model/forms/designer_state.h"
-#include <map>
+#include "Host/model/pane_events.h"
 #include <memory>
 #include <optional>
 #include <string>
@@ -14,14 +12,12 @@
 
 namespace host {
 
-class FormDesigner;
+class ComponentDesigner;
 class ModuleCode;
 class Project;
-class ToolWindow;
 struct LoadedSource;
-struct PaneEvents;
 
-/// Where a component comes from. A new one has none of it.
+/// Where a component was read from. Empty for a new one.
 struct ComponentOrigin {
     std::string path; ///< native
     std::optional<FileStamp> stamp;
@@ -30,8 +26,7 @@ struct ComponentOrigin {
 
 class Component final : public vbide::VBComponent, public std::enable_shared_from_this<Component> {
 public:
-    Component(const std::shared_ptr<Project>& project, vbide::vbext_ComponentType type, std::string name,
-              SourceFile source, ComponentOrigin origin);
+    Component(const std::shared_ptr<Project>& project, LoadedSource loaded, ComponentOrigin origin);
     ~Component() override;
 
     std::string Name() const override;
@@ -57,42 +52,41 @@ public:
     std::shared_ptr<Project> owner() const;
     SourceFile& source() { return source_; }
     const std::string& path() const { return origin_.path; }
+    /// The line in the project's file; none for a component without a file.
     const std::optional<ProjectFile::Place>& member() const { return origin_.member; }
     void member(std::optional<ProjectFile::Place> place) { origin_.member = place; }
-    /// Forgets its file: it was made from a template, from where its resources come until it is saved.
-    void becomeNew();
-    /// Writes another name into its text, before it is taken in.
-    void rename(const std::string& name);
-    /// Of its file as it was read or saved last; none for a component without a file.
+    /// The stamp of the file when it was last read or saved; none for a component without a file.
     const std::optional<FileStamp>& stamp() const { return origin_.stamp; }
-    /// Reads its file again: what was not saved is forgotten, its name is what the file tells. Its designer is another
-    /// object then. Errors, and nothing changed: as readFile; 321 no source of this kind; 32813 the name is taken.
+    /// The source file next to which the companion is: its own, or that of its template until it is saved.
+    const std::string& resourceOwner() const { return origin_.path.empty() ? template_ : origin_.path; }
+
+    /// Detaches the component from its file, which becomes its template.
+    void becomeNew();
+    /// Renames a component that is not yet in the project.
+    void rename(const std::string& name);
+    /// Reads the file again and discards unsaved changes; the file determines the name. Objects of the old designer
+    /// raise errors afterwards. Errors, without a change: as readFile; 321 not a source of this kind; 32813 the name is
+    /// taken.
     void reread();
-    /// Takes this for its source, unsaved: text that was made from its file when that had the stamp `base`. A later save
-    /// over any other file is one over what another program wrote. Errors as above.
+    /// Replaces the source with unsaved text that was based on the file with the stamp `base`. If the file has changed
+    /// since, the next save treats it as changed by another program. Errors as above.
     void restore(std::string bytes, const std::optional<FileStamp>& base);
-    /// The text was edited.
+    /// Marks the component as dirty after an edit of its text.
     void changed() { dirty_ = true; }
-    /// From now on every member raises an error, those of its designer too.
+    /// Detaches the component from its project. All members raise errors from now on, those of its designer too.
     void remove();
-    /// True for the first who asks: a removal is under way.
+    /// Returns true for the first call, false while a removal is in progress.
     bool beginRemoval() { return !std::exchange(removing_, true); }
+
     bool hasDesigner() const;
-    void openDesigner();
-    /// True for this component's own designer; makes none.
-    bool isDesignedBy(const vbide::Ref<vbide::VBForm>& form) const;
-    const vbide::Ref<vbide::VBControlsEvents>& controlsEvents() const { return controlsEvents_; }
+    ComponentDesigner& designer() { return *designer_; }
+    /// Raises an event of the host's panes. Does nothing for a removed component.
+    void raiseToPanes(PaneEvent event);
 
 private:
     void replaceSource(LoadedSource loaded);
     void adoptName(const std::string& name);
-    void tellReplaced();
-    FormDesigner& designer();
-    std::shared_ptr<const ResourceFile> resources(const std::string& name);
-    DesignerHooks designerHooks();
-    /// The file beside which the binary companion lies.
-    const std::string& resourcesOf() const { return origin_.path.empty() ? template_ : origin_.path; }
-    void tellPanes(fernwick::Event<vbide::Ref<vbide::VBComponent>> PaneEvents::*event);
+    void raiseReplaced();
     void copyCompanion(Project& project, const std::string& target);
 
     std::weak_ptr<Project> project_;
@@ -102,15 +96,8 @@ private:
     ComponentOrigin origin_;
     std::string template_;
     bool dirty_ = false, removing_ = false;
-    std::shared_ptr<ToolWindow> designerWindow_;
-    std::vector<fernwick::Subscription> designerEvents_;
     std::shared_ptr<ModuleCode> code_;
-    std::map<std::string, std::shared_ptr<const ResourceFile>> resources_; // by path
-    std::unique_ptr<FormDesigner> designer_;                               // made at first use
-    const vbide::Ref<vbide::VBControlsEvents> controlsEvents_ = basic::make<vbide::VBControlsEvents>();
+    std::unique_ptr<ComponentDesigner> designer_;
 };
-
-/// The name of the binary companion of a component's file: .frx for .frm, .ctx for .ctl and so on.
-std::string companionOf(const std::string& path);
 
 } // namespace host

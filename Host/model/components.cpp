@@ -1,5 +1,8 @@
 #include "Host/model/components.h"
 #include "Host/files/path_lookup.h"
+#include "Host/model/code/component_kind.h"
+#include "Host/model/code/loaded_source.h"
+#include "Host/model/code/names.h"
 #include "Host/model/code/new_source.h"
 #include "Host/model/errors/host_errors.h"
 #include "Host/model/host.h"
@@ -10,17 +13,6 @@ namespace host {
 namespace {
 
 constexpr std::string_view kSubMain = "Sub Main", kNoStartUp = "(None)";
-
-MemberKind kindOfFile(const std::string& path) {
-    const auto extension = path.substr(std::min(path.size(), path.rfind('.')));
-    constexpr std::pair<std::string_view, MemberKind> kKinds[] = {
-        {".frm", MemberKind::Form},        {".bas", MemberKind::Module},       {".cls", MemberKind::Class},
-        {".ctl", MemberKind::UserControl}, {".pag", MemberKind::PropertyPage}, {".dob", MemberKind::UserDocument},
-        {".dsr", MemberKind::Designer}};
-    for (const auto& [ending, kind] : kKinds)
-        if (basic::equalNoCase(extension, ending)) return kind;
-    throw hostError(kInvalidFileFormat, path + ": is no kind of component");
-}
 
 std::string_view withoutNumber(std::string_view name) {
     return name.substr(0, name.find_last_not_of("0123456789") + 1);
@@ -39,8 +31,8 @@ int Components::Count() const {
 }
 
 vbide::Ref<vbide::VBComponent> Components::Item(int index) const {
-    if (index < 1 || index > Count()) throw hostError(basic::kSubscriptOutOfRange);
-    return list_[std::size_t(index) - 1];
+    project();
+    return itemAt(list_, index);
 }
 
 vbide::Ref<vbide::VBComponent> Components::Item(const std::string& name) const {
@@ -59,7 +51,12 @@ std::shared_ptr<Component> Components::named(const std::string& name) const {
     return found == byName_.end() ? nullptr : found->second;
 }
 
-bool Components::take(const std::shared_ptr<Component>& component) {
+void Components::requireFree(const std::string& name, const Component& component) const {
+    const auto other = named(name);
+    if (other && other.get() != &component) throwNameTaken(name);
+}
+
+bool Components::insert(const std::shared_ptr<Component>& component) {
     if (!byName_.try_emplace(component->Name(), component).second) return false;
     list_.push_back(component);
     return true;
@@ -71,71 +68,66 @@ void Components::renamed(Component& component, const std::string& oldName) {
 }
 
 std::string Components::freeName(std::string_view stem) const {
-    for (int number = 1;; ++number)
-        if (auto name = std::string(stem) + std::to_string(number); !named(name)) return name;
+    return firstFreeName(stem, [this](const std::string& name) { return named(name) != nullptr; });
 }
 
 vbide::Ref<vbide::VBComponent> Components::Add(vbide::vbext_ComponentType type) {
     const auto project = this->project();
     const auto stem = newNameOf(type);
-    if (!stem) throw hostError(basic::kInvalidProcedureCall);
-    const auto host = project->host();
-    const auto name = freeName(*stem);
-    const auto component = std::make_shared<Component>(
-        project, type, name, SourceFile(newSource(type, name), host->options().codePage), ComponentOrigin{});
-    take(component);
-    welcomeNew(component);
-    return component;
+    if (stem.empty()) throw hostError(basic::kInvalidProcedureCall);
+    const auto name = freeName(stem);
+    LoadedSource source{SourceFile(newSource(type, name), project->usualCodePage()), type, name, {}};
+    return addNew(std::make_shared<Component>(project, std::move(source), ComponentOrigin{}));
 }
 
-/// A new one comes to the front, unless a handler has removed it or put another in its place.
-void Components::welcomeNew(const std::shared_ptr<Component>& component) {
+/// Adds a component without a file and activates it, unless a handler removes it or activates another one.
+vbide::Ref<vbide::VBComponent> Components::addNew(const std::shared_ptr<Component>& component) {
+    insert(component);
     const auto project = this->project();
     const auto host = project->host();
     const auto inFront = host->SelectedVBComponent();
     project->changed();
-    if (component->hasDesigner()) component->openDesigner();
-    host->tell(project->componentsEvents->ItemAdded, component);
-    const bool stands = std::find(list_.begin(), list_.end(), component) != list_.end();
+    if (component->hasDesigner()) component->DesignerWindow()->Visible(true);
+    host->raise(project->componentsEvents->ItemAdded, component);
+    const bool present = std::find(list_.begin(), list_.end(), component) != list_.end();
     const auto now = host->SelectedVBComponent();
-    if (stands && (!now || now == inFront)) component->Activate();
+    if (present && (!now || now == inFront)) component->Activate();
+    return component;
 }
 
 vbide::Ref<vbide::VBComponent> Components::AddFile(const std::string& path) {
     const auto project = this->project();
     const auto host = project->host();
     const auto native = absolutePath(path);
-    const auto kind = kindOfFile(native);
-    host->tellFile(&vbide::FileControlEvents::BeforeLoadFile, *project, std::vector<std::string>{native});
-    const auto component = project->readComponent(kind, native, {});
+    const auto kind = memberKindOfFile(native);
+    if (!kind) throw hostError(kInvalidFileFormat, native + ": is not a component file");
+    host->raiseFile(&vbide::FileControlEvents::BeforeLoadFile, *project, std::vector<std::string>{native});
+    const auto component = project->readComponent(*kind, native, {});
     if (host->isTemplate(native)) return addTemplate(component);
-    if (!take(component)) throwNameTaken(component->Name());
+    if (!insert(component)) throwNameTaken(component->Name());
     project->writeMember(*component);
     project->changed();
-    host->tellFile(&vbide::FileControlEvents::AfterAddFile, *project, native);
-    host->tell(project->componentsEvents->ItemAdded, component);
+    host->raiseFile(&vbide::FileControlEvents::AfterAddFile, *project, native);
+    host->raise(project->componentsEvents->ItemAdded, component);
     return component;
 }
 
 vbide::Ref<vbide::VBComponent> Components::addTemplate(const std::shared_ptr<Component>& component) {
     component->becomeNew();
     if (named(component->Name())) component->rename(freeName(withoutNumber(component->Name())));
-    take(component);
-    welcomeNew(component);
-    return component;
+    return addNew(component);
 }
 
 std::shared_ptr<Component> Components::addSource(vbide::vbext_ComponentType type, const std::string& name,
                                                  std::string bytes) {
     const auto project = this->project();
-    auto loaded = project->sourceOf(memberKindOf(type), std::move(bytes), name);
+    auto loaded = sourceOf(kindOf(type).member, std::move(bytes), name, project->usualCodePage());
     if (!loaded.name.empty() && named(loaded.name)) throwNameTaken(loaded.name);
-    const auto component =
-        std::make_shared<Component>(project, loaded.type, loaded.name.empty() ? freeName(name) : loaded.name,
-                                    std::move(loaded.source), ComponentOrigin{});
-    take(component);
+    if (loaded.name.empty()) loaded.name = freeName(name);
+    const auto component = std::make_shared<Component>(project, std::move(loaded), ComponentOrigin{});
+    insert(component);
     project->changed();
-    project->host()->tell(project->componentsEvents->ItemAdded, component);
+    project->host()->raise(project->componentsEvents->ItemAdded, component);
     return component;
 }
 
@@ -145,16 +137,16 @@ void Components::Remove(const vbide::Ref<vbide::VBComponent>& component) {
     const auto place = std::find(list_.begin(), list_.end(), own);
     if (!own || place == list_.end()) throw hostError(basic::kInvalidProcedureCall);
     const auto host = project->host();
-    if (!own->beginRemoval()) return; // a handler of its own event asks
-    host->tell(project->componentsEvents->ItemRemoved, component);
+    if (!own->beginRemoval()) return; // requested by a handler of its own event
+    host->raise(project->componentsEvents->ItemRemoved, component);
     std::erase(list_, own);
     byName_.erase(own->Name());
     project->dropMember(*own);
     project->changed();
     const auto path = own->path();
-    host->forget(component);
+    host->componentRemoved(component);
     own->remove();
-    if (!path.empty()) host->tellFile(&vbide::FileControlEvents::AfterRemoveFile, *project, path);
+    if (!path.empty()) host->raiseFile(&vbide::FileControlEvents::AfterRemoveFile, *project, path);
 }
 
 vbide::StartUp Components::StartUpObject() const {

@@ -24,20 +24,22 @@ public:
     // ---- for the host ----
     const std::vector<std::shared_ptr<Component>>& list() const { return list_; }
     std::shared_ptr<Component> named(const std::string& name) const;
-    /// Takes one in without an event. False when its name is taken.
-    bool take(const std::shared_ptr<Component>& component);
-    /// Takes in a component of which only the text is left: it has no file yet. Errors: 321 no source of this kind;
-    /// 32813 its name is taken.
+    /// Error 32813 if a component other than this one has the name.
+    void requireFree(const std::string& name, const Component& component) const;
+    /// Inserts a component without an event. Returns false if its name is taken.
+    bool insert(const std::shared_ptr<Component>& component);
+    /// Adds a component from its text, without a file. Errors: 321 not a source of this kind; 32813 the name is taken.
     std::shared_ptr<Component> addSource(vbide::vbext_ComponentType type, const std::string& name, std::string bytes);
+    /// Must be called after a component was renamed.
     void renamed(Component& component, const std::string& oldName);
-    /// From now on every member of these objects raises an error.
+    /// Detaches the collection from its project. All members of these objects raise errors from now on.
     void close();
 
 private:
     std::shared_ptr<Project> project() const;
     std::string freeName(std::string_view stem) const;
     vbide::Ref<vbide::VBComponent> addTemplate(const std::shared_ptr<Component>& component);
-    void welcomeNew(const std::shared_ptr<Component>& component);
+    vbide::Ref<vbide::VBComponent> addNew(const std::shared_ptr<Component>& component);
 
     Project* project_;
     std::vector<std::shared_ptr<Component>> list_;

@@ -1,12 +1,13 @@
 #include "Host/model/event_sources.h"
 #include "Host/model/bars/bars.h"
+#include "Host/model/component_designer.h"
 #include "Host/model/errors/host_errors.h"
 #include "Host/model/project.h"
 
 namespace host {
 namespace {
 
-/// The host's object behind an interface. Error 91 for Nothing, 5 for an object of another host's making.
+/// The host's implementation of an interface. Error 91 for Nothing, 5 for a foreign object.
 template <class Own, class Interface>
 std::shared_ptr<Own> ownObject(const vbide::Ref<Interface>& object) {
     if (!object) throw hostError(basic::kObjectVariableNotSet);
@@ -32,7 +33,7 @@ vbide::Ref<vbide::VBControlsEvents> EventSources::VBControlsEvents(const vbide::
     const auto own = ownObject<Project>(project);
     if (!form) throw hostError(basic::kObjectVariableNotSet);
     for (const auto& component : own->components().list())
-        if (component->isDesignedBy(form)) return component->controlsEvents();
+        if (component->designer().isDesignerOf(form)) return component->designer().controlsEvents();
     throw hostError(basic::kInvalidProcedureCall);
 }
 

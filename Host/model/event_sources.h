@@ -1,5 +1,5 @@
 #pragma once
-// Gives an add-in the event sources. Each object of the host has one source, whoever asks and however often.
+// The event sources for add-ins. Each object of the host has one source, which all calls return.
 #include "Add-in/platform/host.h"
 
 namespace host {

@@ -15,7 +15,7 @@ namespace {
 
 enum WriteResult : int { kWritten = 0, kWriteCancelled = 1, kWriteFailed = 2 };
 
-/// What the host's own menus do. Somebody may hold a control longer than there is a host.
+/// The commands of the built-in menus. Controls may outlive the host.
 HostCommands commandsOf(const std::weak_ptr<Host>& link) {
     const auto command = [link](void (*run)(Host&)) {
         return [link, run] {
@@ -83,34 +83,34 @@ bool Host::isTemplate(const std::string& path) const {
     return isBelow(options_.templatePath) || std::any_of(others.begin(), others.end(), isBelow);
 }
 
-void Host::welcome(const vbide::Ref<vbide::VBProject>& project) {
+void Host::projectAdded(const vbide::Ref<vbide::VBProject>& project) {
     active_ = project;
-    tell(projectsEvents_->ItemAdded, project);
+    raise(projectsEvents_->ItemAdded, project);
 }
 
 void Host::activate(const vbide::Ref<vbide::VBProject>& project) {
     if (active_ == project || !projects_->holds(project)) return;
     active_ = project;
-    tell(projectsEvents_->ItemActivated, project);
+    raise(projectsEvents_->ItemActivated, project);
 }
 
-void Host::forget(const vbide::Ref<vbide::VBProject>& project) {
+void Host::projectRemoved(const vbide::Ref<vbide::VBProject>& project) {
     if (active_ == project) active_ = nullptr;
     if (!selected_) return;
-    for (const auto& component : project->VBComponents()->items()) forget(component);
+    for (const auto& component : project->VBComponents()->items()) componentRemoved(component);
 }
 
-void Host::forget(const vbide::Ref<vbide::VBComponent>& component) {
+void Host::componentRemoved(const vbide::Ref<vbide::VBComponent>& component) {
     if (selected_ == component) selected_ = nullptr;
 }
 
-// ---- files -------------------------------------------------------------------------------------------------------------
+// ---- files ----------------------------------------------------------------------------------------------------------
 
 vbide::Ref<vbide::VBProject> Host::refTo(Project& project) { return project.shared_from_this(); }
 
 const vbide::FileControlEvents& Host::fileEventsOf(Project& project) const { return *project.fileEvents; }
 
-/// Having agreed to replace what stands there now, the user has not agreed to replace what comes later.
+/// The user agrees to replace the present file, not later changes of it: `asRead` becomes its stamp.
 bool Host::agreesToReplace(const std::string& path, std::string_view bytes, std::optional<FileStamp>& asRead) const {
     if (!asRead || !options_.mayReplaceChanged) return true;
     const auto now = changedSince(path, *asRead, bytes);
@@ -124,17 +124,17 @@ std::optional<FileStamp> Host::writeFile(Project& project, const std::string& pa
                                          std::optional<FileStamp> asRead) {
     using Events = vbide::FileControlEvents;
     bool cancel = false;
-    tellFile(&Events::RequestWriteFile, project, path, cancel);
+    raiseFile(&Events::RequestWriteFile, project, path, cancel);
     try {
         if (cancel || !agreesToReplace(path, bytes, asRead)) {
-            tellFile(&Events::AfterWriteFile, project, path, int(kWriteCancelled));
+            raiseFile(&Events::AfterWriteFile, project, path, int(kWriteCancelled));
             return {};
         }
         const auto stamp = atomicSave(path, bytes, asRead);
-        tellFile(&Events::AfterWriteFile, project, path, int(kWritten));
+        raiseFile(&Events::AfterWriteFile, project, path, int(kWritten));
         return stamp;
     } catch (const basic::RuntimeError&) {
-        tellFile(&Events::AfterWriteFile, project, path, int(kWriteFailed));
+        raiseFile(&Events::AfterWriteFile, project, path, int(kWriteFailed));
         throw;
     }
 }
@@ -145,7 +145,7 @@ void Host::saveProject(const vbide::Ref<vbide::VBProject>& project) {
     if (project->IsDirty() && !project->FileName().empty()) project->SaveAs(project->FileName());
 }
 
-// ---- add-ins -----------------------------------------------------------------------------------------------------------
+// ---- add-ins --------------------------------------------------------------------------------------------------------
 
 void Host::listAddIn(const std::string& progId, const std::string& description,
                      std::function<vbide::Ref<vbide::IDTExtensibility>()> create) {

@@ -1,25 +1,14 @@
 #include "Host/model/module_code.h"
 #include "Basic/case_folding.h"
-#include "Host/model/windows/tool_window.h"
 #include "Host/model/component.h"
 #include "Host/model/errors/host_errors.h"
-#include "Host/model/host.h"
-#include "Host/model/project.h"
+#include "Host/model/module_pane.h"
 #include <algorithm>
 
 namespace host {
 namespace {
 
 constexpr int kProcedureNotFound = 35;
-
-/// Tells who draws the code of a component that has not been removed.
-void tellPane(const std::weak_ptr<Component>& link,
-              fernwick::Event<vbide::Ref<vbide::VBComponent>> PaneEvents::*event) {
-    const auto component = link.lock();
-    if (!component) throwRemoved();
-    const auto host = component->owner()->host();
-    host->tell(host->panes.*event, vbide::Ref<vbide::VBComponent>(component));
-}
 
 } // namespace
 
@@ -32,8 +21,9 @@ CodeText& ModuleCode::text() const {
 
 void ModuleCode::edited() {
     outline_.reset();
-    component_.lock()->changed();
-    tellPane(component_, &PaneEvents::codeChanged);
+    const auto component = component_.lock();
+    component->changed();
+    component->raiseToPanes(&PaneEvents::codeChanged);
 }
 
 int ModuleCode::CountOfLines() const { return int(text().count()); }
@@ -103,33 +93,6 @@ vbide::Ref<vbide::CodePane> ModuleCode::CodePane() {
     text();
     if (!pane_) pane_ = std::make_shared<ModulePane>(component_);
     return pane_;
-}
-
-ModulePane::ModulePane(std::weak_ptr<Component> component)
-    : component_(std::move(component)),
-      window_(std::make_shared<ToolWindow>(component_.lock()->Name())),
-      focused_(window_->focused.connect([this] { tellPane(component_, &PaneEvents::shown); })) {}
-
-void ModulePane::Show() {
-    window_->Visible(true);
-    tellPane(component_, &PaneEvents::shown);
-}
-
-vbide::Ref<vbide::Window> ModulePane::Window() { return window_; }
-
-void ModulePane::SetSelection(int startLine, int startColumn, int endLine, int endColumn) {
-    startLine_ = startLine;
-    startColumn_ = startColumn;
-    endLine_ = endLine;
-    endColumn_ = endColumn;
-    tellPane(component_, &PaneEvents::selectionSet);
-}
-
-void ModulePane::GetSelection(int& startLine, int& startColumn, int& endLine, int& endColumn) const {
-    startLine = startLine_;
-    startColumn = startColumn_;
-    endLine = endLine_;
-    endColumn = endColumn_;
 }
 
 } // namespace host

@@ -1,8 +1,7 @@
 #pragma once
-// The code window's lines of a component, and the pane that shows them.
-#include "Add-in/platform/events.h"
+// The code of a component, in the lines of the code window.
 #include "Add-in/platform/host.h"
-#include "Host/model/code/code_members.h"
+#include "Host/model/code/code_outline.h"
 #include <memory>
 #include <string>
 #include <vector>
@@ -11,7 +10,6 @@ namespace host {
 
 class Component;
 class CodeText;
-class ToolWindow;
 
 class ModuleCode final : public vbide::CodeModule {
 public:
@@ -29,7 +27,7 @@ public:
     vbide::Ref<vbide::CodePane> CodePane() override;
 
     // ---- for the host ----
-    /// The component's source is another one.
+    /// Must be called after the component's source was replaced.
     void replaced() { outline_.reset(); }
 
 private:
@@ -39,24 +37,8 @@ private:
     const CodeOutline::Procedure& procedure(const std::string& name, vbide::vbext_ProcKind kind) const;
 
     std::weak_ptr<Component> component_;
-    mutable std::unique_ptr<CodeOutline> outline_; // of the text as it is; made anew after an edit
+    mutable std::unique_ptr<CodeOutline> outline_; // reset by every edit
     vbide::Ref<vbide::CodePane> pane_;
-};
-
-class ModulePane final : public vbide::CodePane {
-public:
-    explicit ModulePane(std::weak_ptr<Component> component);
-
-    void Show() override;
-    vbide::Ref<vbide::Window> Window() override;
-    void SetSelection(int startLine, int startColumn, int endLine, int endColumn) override;
-    void GetSelection(int& startLine, int& startColumn, int& endLine, int& endColumn) const override;
-
-private:
-    std::weak_ptr<Component> component_;
-    std::shared_ptr<ToolWindow> window_;
-    fernwick::Subscription focused_;
-    int startLine_ = 1, startColumn_ = 1, endLine_ = 1, endColumn_ = 1;
 };
 
 } // namespace host

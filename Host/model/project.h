@@ -1,5 +1,5 @@
 #pragma once
-// A project: the text of its file with components, references and the values of add-ins.
+// A project: the text of its file, with its components, its references and the values of add-ins.
 #include "Add-in/platform/host_events.h"
 #include "Add-in/platform/host_project.h"
 #include "Host/files/path_lookup.h"
@@ -18,20 +18,9 @@ namespace host {
 class Host;
 class ProjectReferences;
 
-/// A component's source as it was read, and what it says of itself.
-struct LoadedSource {
-    SourceFile source;
-    vbide::vbext_ComponentType type;
-    std::string name; ///< "" where the source tells none
-    std::optional<FileStamp> stamp;
-};
-
-/// The kind of line that lists a component of this type.
-MemberKind memberKindOf(vbide::vbext_ComponentType type) noexcept;
-
 class Project final : public vbide::VBProject, public std::enable_shared_from_this<Project> {
 public:
-    /// A project of which nothing is read yet. `path` is "" for a new one.
+    /// Creates an empty project; load() or loadText() must follow. `path` is "" for a new one.
     Project(const std::shared_ptr<Host>& host, std::string path);
     ~Project() override;
 
@@ -52,11 +41,11 @@ public:
     // ---- for the host ----
     /// Error 440 once the project has been removed.
     std::shared_ptr<Host> host() const;
-    /// Reads the project's file and its components'. Errors: as readFile; 321 for what is no project file.
+    /// Reads the files of the project and its components. Errors: as readFile; 321 not a project file.
     void load();
-    /// Makes a new project of this text.
+    /// Reads a new project from this text.
     void loadText(const std::string& text);
-    /// Forgets all file names: a new project made from a template.
+    /// Detaches the project and its components from their files, after loading them from a template.
     void becomeNew();
     const std::vector<LoadProblem>& loadProblems() const { return problems_; }
 
@@ -64,27 +53,29 @@ public:
     const ProjectFile& file() const { return *file_; }
     Components& components() { return *components_; }
     ProjectReferences& references() { return *references_; }
+    /// Marks the project as dirty after an edit of its text.
     void changed() { dirty_ = true; }
-    /// Of its file as it was read or saved last.
+    /// The stamp of the file when it was last read or saved.
     const std::optional<FileStamp>& stamp() const { return stamp_; }
+    /// "" for a project without a file.
     std::string folder() const;
+    /// A native path as member lines of this project write it.
     std::string memberPath(const std::string& path) const;
 
-    /// Reads a component's source. Errors: as readFile; 321 for what is no source of this kind.
-    LoadedSource readSource(MemberKind kind, const std::string& path) const;
-    /// The same of bytes that are no file of the project. Error 321 as above.
-    LoadedSource sourceOf(MemberKind kind, std::string bytes, const std::string& path) const;
-    /// Reads the file of a component. Errors: as readFile; 321 for what is no source of this kind.
+    /// The code page of files that are not UTF-8.
+    const basic::CodePage& usualCodePage() const;
+    /// Reads a component, without adding it. The name is that of the source, else `listedName`, else that of the file.
+    /// Errors: as readFile; 321 not a source of this kind.
     std::shared_ptr<Component> readComponent(MemberKind kind, const std::string& path, const std::string& listedName);
-    /// A component got a file, another file or another name: its line in the project's file.
+    /// Updates or adds the component's line after a change of its file or name.
     void writeMember(Component& component);
     void dropMember(Component& component);
-    /// Settings that name a component follow its new name.
+    /// Updates the settings that name a component.
     void followRename(const std::string& oldName, const std::string& newName);
 
-    /// From now on every member raises an error.
+    /// Detaches the project from the host. All members raise errors from now on.
     void close();
-    /// True for the first who asks: a removal is under way.
+    /// Returns true for the first call, false while a removal is in progress.
     bool beginRemoval() { return !std::exchange(removing_, true); }
 
     const vbide::Ref<vbide::VBComponentsEvents> componentsEvents = basic::make<vbide::VBComponentsEvents>();

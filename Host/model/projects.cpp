@@ -2,7 +2,9 @@
 #include "Basic/case_folding.h"
 #include "Host/files/encoding.h"
 #include "Host/files/group_file.h"
+#include "Host/files/native_path.h"
 #include "Host/files/path_lookup.h"
+#include "Host/model/code/names.h"
 #include "Host/model/code/new_source.h"
 #include "Host/model/errors/host_errors.h"
 #include "Host/model/host.h"
@@ -19,10 +21,7 @@ std::shared_ptr<Host> Projects::host() const {
 
 int Projects::Count() const { return int(list_.size()); }
 
-vbide::Ref<vbide::VBProject> Projects::Item(int index) const {
-    if (index < 1 || index > Count()) throw hostError(basic::kSubscriptOutOfRange);
-    return list_[std::size_t(index) - 1];
-}
+vbide::Ref<vbide::VBProject> Projects::Item(int index) const { return itemAt(list_, index); }
 
 std::vector<vbide::Ref<vbide::VBProject>> Projects::items() const { return {list_.begin(), list_.end()}; }
 
@@ -31,13 +30,13 @@ bool Projects::holds(const vbide::Ref<vbide::VBProject>& project) const {
                        [&](const auto& p) { return vbide::Ref<vbide::VBProject>(p) == project; });
 }
 
-// ---- opening -----------------------------------------------------------------------------------------------------------
+// ---- opening --------------------------------------------------------------------------------------------------------
 
 vbide::Ref<vbide::VBProject> Projects::AddFromFile(const std::string& path, bool exclusive) {
     const auto host = this->host();
     const auto native = absolutePath(path);
     if (host->isTemplate(native)) return AddFromTemplate(native, exclusive);
-    const auto bytes = readFile(native).bytes; // before anything is closed for it
+    const auto bytes = readFile(native).bytes; // may fail: read it before closing other projects
     if (exclusive) removeAll();
     host->problems().clear();
     if (GroupFile::looksLikeGroup(bytes)) return openGroup(native, bytes);
@@ -49,7 +48,7 @@ vbide::Ref<vbide::VBProject> Projects::AddFromFile(const std::string& path, bool
 vbide::Ref<vbide::VBProject> Projects::openGroup(const std::string& path, const std::string& bytes) {
     const auto host = this->host();
     const GroupFile group(bytes, codePageOf(bytes, host->options().codePage));
-    const auto folder = path.substr(0, path.rfind('/'));
+    const auto folder = folderOf(path);
     PathLookup lookup;
     std::shared_ptr<Project> startUp;
     for (const auto& entry : group.entries()) {
@@ -70,24 +69,24 @@ std::shared_ptr<Project> Projects::open(const std::string& path) {
         if (project->FileName() == path)
             throw hostError(basic::kFileAlreadyOpen, fmt::format("{}: is already open", path));
     auto project = std::make_shared<Project>(host, path);
-    host->tellFile(&vbide::FileControlEvents::BeforeLoadFile, *project, std::vector<std::string>{path});
+    host->raiseFile(&vbide::FileControlEvents::BeforeLoadFile, *project, std::vector<std::string>{path});
     project->load();
-    welcome(project);
+    add(project);
     return project;
 }
 
 vbide::Ref<vbide::VBProject> Projects::AddFromTemplate(const std::string& path, bool exclusive) {
     const auto host = this->host();
     const auto native = absolutePath(path);
-    readFile(native); // before anything is closed for it
+    readFile(native); // may fail: read it before closing other projects
     if (exclusive) removeAll();
     host->problems().clear();
     auto project = std::make_shared<Project>(host, native);
-    host->tellFile(&vbide::FileControlEvents::BeforeLoadFile, *project, std::vector<std::string>{native});
+    host->raiseFile(&vbide::FileControlEvents::BeforeLoadFile, *project, std::vector<std::string>{native});
     project->load();
     if (isNameTaken(project->Name())) project->file().setSetting("Name", freeName());
-    // Handlers see where it comes from; then it is a project that was never saved.
-    welcome(project);
+    // Handlers see the path of the template; afterwards the project has no file.
+    add(project);
     host->activate(project);
     if (holds(project)) project->becomeNew();
     return project;
@@ -97,48 +96,45 @@ vbide::Ref<vbide::VBProject> Projects::addNew() {
     const auto host = this->host();
     const auto project = std::make_shared<Project>(host, std::string());
     project->loadText(newProjectText(freeName()));
-    welcome(project);
+    add(project);
     host->activate(project);
     if (holds(project)) project->VBComponents()->Add(vbide::vbext_ct_VBForm);
     return project;
 }
 
 std::string Projects::freeName() const {
-    for (int number = 1;; ++number) {
-        auto name = fmt::format("Project{}", number);
-        if (!isNameTaken(name)) return name;
-    }
+    return firstFreeName("Project", [this](const std::string& name) { return isNameTaken(name); });
 }
 
 bool Projects::isNameTaken(const std::string& name) const {
     return std::any_of(list_.begin(), list_.end(), [&](const auto& p) { return basic::equalNoCase(p->Name(), name); });
 }
 
-void Projects::welcome(const std::shared_ptr<Project>& project) {
+void Projects::add(const std::shared_ptr<Project>& project) {
     const auto host = this->host();
     list_.push_back(project);
     auto& problems = host->problems();
     problems.insert(problems.end(), project->loadProblems().begin(), project->loadProblems().end());
-    host->welcome(project);
+    host->projectAdded(project);
 }
 
-// ---- closing -----------------------------------------------------------------------------------------------------------
+// ---- closing --------------------------------------------------------------------------------------------------------
 
 void Projects::Remove(const vbide::Ref<vbide::VBProject>& project) {
     const auto host = this->host();
     const auto own = basic::cast<Project>(project).shared();
     if (!own || !holds(project)) throw hostError(basic::kInvalidProcedureCall);
-    if (!own->beginRemoval()) return;                        // a handler of its own event asks
-    host->tell(host->projectsEvents().ItemRemoved, project); // it still counts, and answers
+    if (!own->beginRemoval()) return; // requested by a handler of its own event
+    host->raise(host->projectsEvents().ItemRemoved, project);
     std::erase(list_, own);
     const auto path = own->FileName();
-    if (!path.empty()) host->tellFile(&vbide::FileControlEvents::AfterCloseFile, *own, path);
-    host->forget(project);
+    if (!path.empty()) host->raiseFile(&vbide::FileControlEvents::AfterCloseFile, *own, path);
+    host->projectRemoved(project);
     own->close();
-    if (!host->ActiveVBProject() && !list_.empty()) host->activate(list_.back()); // the one that came last
+    if (!host->ActiveVBProject() && !list_.empty()) host->activate(list_.back()); // the newest one
 }
 
-/// The active one goes last, so that none of those that follow it out comes to the front in between.
+/// Removes the active project last, so that no other project is activated in between.
 void Projects::removeAll() {
     const auto active = host()->ActiveVBProject();
     for (const auto& project : items())

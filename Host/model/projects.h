@@ -22,18 +22,18 @@ public:
     void Remove(const vbide::Ref<vbide::VBProject>& project) override;
 
     // ---- for the host ----
-    /// A new, empty project of the host's own, as its menu makes one.
+    /// Adds a new project with an empty form, like the menu command.
     vbide::Ref<vbide::VBProject> addNew();
     void removeAll();
     bool holds(const vbide::Ref<vbide::VBProject>& project) const;
-    /// The host is gone.
+    /// Detaches the collection from the destroyed host.
     void close() { host_ = nullptr; }
 
 private:
     std::shared_ptr<Host> host() const;
     std::shared_ptr<Project> open(const std::string& path);
     vbide::Ref<vbide::VBProject> openGroup(const std::string& path, const std::string& bytes);
-    void welcome(const std::shared_ptr<Project>& project);
+    void add(const std::shared_ptr<Project>& project);
     std::string freeName() const;
     bool isNameTaken(const std::string& name) const;
 

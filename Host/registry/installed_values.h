@@ -14,8 +14,8 @@ struct InstalledValues {
     std::vector<std::string> problems;
 };
 
-/// Reads `root`/registry/*.reg sorted by name. Replaces "%RootDir%" in texts with `root`. Only keys of HKEY_LOCAL_MACHINE
-/// and HKEY_CLASSES_ROOT can be installed. A missing folder installs nothing.
+/// Reads `root`/registry/*.reg sorted by name. Replaces "%RootDir%" in texts with `root`. Only keys of
+/// HKEY_LOCAL_MACHINE and HKEY_CLASSES_ROOT can be installed. A missing folder installs nothing.
 InstalledValues readInstalledValues(const std::filesystem::path& root);
 
 } // namespace host

@@ -12,8 +12,8 @@ public:
     KeyPath() = default;
 
     /// Appends `subkey`. Backslashes separate names; empty names are ignored. RegFailure BadPathname for a leading
-    /// backslash; InvalidParameter for a name that is longer than 255 characters or contains a control character, or for
-    /// a path of more than 512 names.
+    /// backslash; InvalidParameter for a name that is longer than 255 characters or contains a control character, or
+    /// for a path of more than 512 names.
     KeyPath operator/(std::string_view subkey) const;
 
     const std::vector<std::string>& names() const { return names_; }
@@ -30,8 +30,8 @@ private:
     std::string folded_;
 };
 
-/// Throws RegFailure InvalidParameter for a value's name that a registry file cannot hold: longer than 16383 characters,
-/// with a control character, or not UTF-8.
+/// Throws RegFailure InvalidParameter for a value's name that a registry file cannot hold: longer than 16383
+/// characters, with a control character, or not UTF-8.
 void requireValueName(std::string_view name);
 
 } // namespace host

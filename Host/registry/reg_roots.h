@@ -33,8 +33,8 @@ bool deleteRegTree(Store& store, const KeyPath& key) {
     return store.deleteKey(key);
 }
 
-/// Executes an instruction on the key at `key`. Keys are deleted with their subtree; deleting a missing key or value is not
-/// an error.
+/// Executes an instruction on the key at `key`. Keys are deleted with their subtree; deleting a missing key or value is
+/// not an error.
 template <class Store>
 void applyRegInstruction(Store& store, const KeyPath& key, const RegInstruction& one) {
     requireValueName(one.name);

@@ -21,14 +21,14 @@ struct RegInstruction {
     std::size_t line = 0; ///< in the file, from 1; 0 if not read from a file
 };
 
-/// Reads a .reg file in little-endian UTF-16 or UTF-8, with or without a byte order mark and with any line ends. Converts
-/// text values to UTF-8. Error 321 for a syntax error, "`fileName`:line: reason".
+/// Reads a .reg file in little-endian UTF-16 or UTF-8, with or without a byte order mark and with any line ends.
+/// Converts text values to UTF-8. Error 321 for a syntax error, "`fileName`:line: reason".
 std::vector<RegInstruction> readRegText(std::string_view bytes, std::string_view fileName);
 
 enum class RegTextEncoding { Utf16, Utf8 };
 
-/// Returns a file with these instructions and CRLF line ends. Every registry editor reads UTF-16 with its byte order mark.
-/// Error 5 for text data that is not UTF-8.
+/// Returns a file with these instructions and CRLF line ends. Every registry editor reads UTF-16 with its byte order
+/// mark. Error 5 for text data that is not UTF-8.
 std::string writeRegText(const std::vector<RegInstruction>& instructions, RegTextEncoding encoding);
 
 } // namespace host

@@ -159,7 +159,7 @@ private:
     std::string text_;
     std::string_view file_;
     std::size_t at_ = 0;
-    std::string_view line_; ///< what is left of the current line
+    std::string_view line_; ///< the rest of the current line
     std::size_t number_ = 0;
     std::string key_;
     std::vector<RegInstruction> instructions_;

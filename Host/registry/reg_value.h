@@ -13,8 +13,8 @@ constexpr bool isRegText(std::uint32_t type) {
            type == kLink;
 }
 
-/// `data` holds the bytes as set: UTF-8 with a closing NUL for text types, little-endian for numbers. Any 32-bit number is
-/// a valid type.
+/// `data` holds the bytes as set: UTF-8 with a closing NUL for text types, little-endian for numbers. Any 32-bit number
+/// is a valid type.
 struct RegValue {
     std::uint32_t type = fernwick::REG_NONE;
     std::string data;

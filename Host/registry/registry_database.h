@@ -17,8 +17,8 @@ struct NamedRegValue {
     RegValue value;
 };
 
-/// Keys with their values. Names are looked up ignoring case and keep their spelling. The file is opened at first use, and
-/// reading does not create it: a missing database has no keys but the root. Every failure is a RegFailure.
+/// Keys with their values. Names are looked up ignoring case and keep their spelling. The file is opened at first use,
+/// and reading does not create it: a missing database has no keys but the root. Every failure is a RegFailure.
 class RegistryDatabase {
 public:
     /// Keys in memory.

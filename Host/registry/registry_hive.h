@@ -5,8 +5,8 @@
 
 namespace host {
 
-/// Values of the database hide those of the layer below. Writes go only to the database. Values of the layer below can be
-/// hidden but not deleted: AccessDenied.
+/// Values of the database hide those of the layer below. Writes go only to the database. Values of the layer below can
+/// be hidden but not deleted: AccessDenied.
 class RegistryHive {
 public:
     /// `below` returns the layer below, or null; it is called when needed.

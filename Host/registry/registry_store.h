@@ -10,8 +10,8 @@
 
 namespace host {
 
-/// Opens the stores when first needed and creates their files at the first write. Returns the statuses of RegStatus. A key of
-/// a store that is not writable can only be opened for reading.
+/// Opens the stores when first needed and creates their files at the first write. Returns the statuses of RegStatus. A
+/// key of a store that is not writable can only be opened for reading.
 class RegistryStore : public fernwick::Registry {
 public:
     explicit RegistryStore(RegistryPlaces places);

@@ -66,7 +66,7 @@ void DescriptionTable::fail(const toml::node& at, std::string_view reason) const
 }
 
 void DescriptionTable::failKind(const toml::node& at, std::string_view key, std::string_view kind) const {
-    fail(at, fmt::format("\"{}\" is {}", key, kind));
+    fail(at, fmt::format("\"{}\" must be {}", key, kind));
 }
 
 } // namespace host

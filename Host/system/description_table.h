@@ -11,8 +11,8 @@ namespace host {
 /// Reads and parses a file. Errors: as readFile; 321 for a syntax error, "file:line: reason".
 toml::table parseDescription(const std::string& file);
 
-/// A table with the name of its file for messages. A value of the wrong type is error 321, "file:line: reason". Refers to
-/// both and must not outlive them.
+/// A table with the name of its file for messages. A value of the wrong type is error 321, "file:line: reason". Refers
+/// to both and must not outlive them.
 class DescriptionTable {
 public:
     DescriptionTable(const toml::table& table, const std::string& file) : table_(table), file_(file) {}

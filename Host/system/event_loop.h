@@ -17,7 +17,8 @@ public:
     explicit EventLoop(const fernwick::Clock& clock) : clock_(clock) {}
 
     void Post(std::function<void()> event) override { posted_.push_back(std::move(event)); }
-    /// Delivers posted events and due timers. A timer never ticks within its own tick; others do if a tick runs the loop.
+    /// Delivers posted events and due timers. A timer never ticks within its own tick; others do if a tick runs the
+    /// loop.
     void DoEvents() override;
     /// Error 5 for an interval below 1.
     [[nodiscard]] fernwick::Subscription StartTimer(int interval, std::function<void()> tick) override;
@@ -25,9 +26,9 @@ public:
     /// Returns the nanoseconds until the next event, 0 for now; nothing if no event is posted and no timer runs.
     std::optional<std::int64_t> untilNext();
 
-    /// Runs until no event is posted and no timer runs, but no longer than `patience`: a timer that is never stopped must
-    /// not keep a program alive. `sleep` waits until the next timer. All times in nanoseconds. Returns false if something
-    /// is left.
+    /// Runs until no event is posted and no timer runs, but no longer than `patience`: a timer that is never stopped
+    /// must not keep a program alive. `sleep` waits until the next timer. All times in nanoseconds. Returns false if
+    /// something is left.
     bool drain(const std::function<void(std::int64_t)>& sleep, std::int64_t patience = 5'000'000'000);
 
 private:

@@ -8,8 +8,8 @@
 
 namespace host {
 
-/// Converts an error of the IDE's file operations to the one that scripts get: missing permission is "Permission denied"
-/// (70) and not "Path/File access error" (75).
+/// Converts an error of the IDE's file operations to the one that scripts get: missing permission is "Permission
+/// denied" (70) and not "Path/File access error" (75).
 inline basic::RuntimeError scriptError(basic::RuntimeError error) {
     const auto number = error.LastDllError;
     const bool denied = number == EACCES || number == EPERM || number == EROFS;

@@ -40,7 +40,8 @@ public:
     std::string ReadHead(const std::string& path, std::size_t most) const override;
     void WriteBytes(const std::string& path, const std::string& bytes) override;
     void SetDateLastModified(const std::string& path, std::int64_t time) override;
-    /// The copy has the source's times, and a new file also its mode. A destination that ends with a separator is a folder.
+    /// The copy has the source's times, and a new file also its mode. A destination that ends with a separator is a
+    /// folder.
     void CopyFile(const std::string& from, const std::string& to, bool overwrite) override;
     void DeleteFile(const std::string& path, bool force) override;
 

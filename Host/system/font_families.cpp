@@ -6,8 +6,8 @@
 namespace host {
 namespace {
 
-/// A function of Fontconfig. The library is loaded when the first font is needed: few runs need one, and linking it would
-/// add a third to the start time of every run.
+/// A function of Fontconfig. The library is loaded when the first font is needed: few runs need one, and linking it
+/// would add a third to the start time of every run.
 template <class Function>
 Function* fontconfigFunction(void* library, const char* name) {
     return library ? reinterpret_cast<Function*>(::dlsym(library, name)) : nullptr;

@@ -8,9 +8,9 @@
 
 namespace host {
 
-/// A program has an empty standard input and writes to our standard error. SIGINT, SIGTERM and SIGHUP received during the
-/// wait are forwarded to its process group, which is killed if it has not ended after two seconds. The signal is then
-/// raised again for its other handlers.
+/// A program has an empty standard input and writes to our standard error. SIGINT, SIGTERM and SIGHUP received during
+/// the wait are forwarded to its process group, which is killed if it has not ended after two seconds. The signal is
+/// then raised again for its other handlers.
 class Processes : public fernwick::Processes {
 public:
     /// Returns whether a command line may be run in a folder: compile steps run only for folders the user has trusted.
@@ -26,8 +26,8 @@ public:
     bool CreateProcess(const std::string& commandLine, const std::string& workingFolder, int showWindow,
                        std::uint32_t& process) override;
     std::uint32_t WaitForSingleObject(std::uint32_t process) override;
-    /// The code is 259 while the process runs, and 128 plus the number of the signal that ended it. Returns false for an
-    /// unknown handle.
+    /// The code is 259 while the process runs, and 128 plus the number of the signal that ended it. Returns false for
+    /// an unknown handle.
     bool GetExitCodeProcess(std::uint32_t process, std::int32_t& code) override;
     void CloseHandle(std::uint32_t process) override { started_.erase(process); }
 

@@ -20,8 +20,8 @@ struct Program {
 /// `dropExe` a name ending in ".exe" is also looked up without it.
 std::optional<Program> findProgram(std::string_view commandLine, const std::string& folder, bool dropExe);
 
-/// Starts a program in a new session, so that it can be ended together with its children. Its standard input is empty and
-/// its output goes to our standard error. Returns 0 if it could not be started.
+/// Starts a program in a new session, so that it can be ended together with its children. Its standard input is empty
+/// and its output goes to our standard error. Returns 0 if it could not be started.
 pid_t startProgram(const Program& program, const std::string& folder);
 
 } // namespace host

@@ -45,8 +45,8 @@ struct TypeDescription {
     std::vector<TypeClass> modules;
 };
 
-/// Returns the native path of the description of the library registered as `path`: the file of that name with the extension
-/// ".toml", found ignoring letter case if there is no exact match. "" if there is none.
+/// Returns the native path of the description of the library registered as `path`: the file of that name with the
+/// extension ".toml", found ignoring letter case if there is no exact match. "" if there is none.
 std::string descriptionFileOf(const std::string& path);
 
 /// Reads a description with its class files. Errors: 53 no such file; 321 for an invalid one, "file:line: reason".

@@ -5,7 +5,7 @@ using namespace basic;
 
 namespace {
 
-/// The error, or 0 and the result as told.
+/// Checks for this error, or for 0 and this result.
 template <class T, class F>
 void expectResult(F operation, T result, int error) {
     const ErrObject err = attempt([&] { EXPECT_EQ(operation(), result); });
@@ -53,7 +53,7 @@ TYPED_TEST(Arithmetic, OverflowsAndDividesAsItsType) {
     EXPECT_EQ(attempt([&] { (void)Negate(least); }).Number, 6);
 }
 
-TEST(ArithmeticOfBytes, HasNoNegativeNumbers) {
+TEST(ArithmeticOfBytes, NegationGivesAnInteger) {
     EXPECT_EQ(Add(Byte{250}, 5), 255);
     EXPECT_EQ(attempt([] { (void)Add(Byte{250}, 6); }).Number, 6);
     EXPECT_EQ(attempt([] { (void)Subtract(Byte{1}, 2); }).Number, 6);

@@ -28,12 +28,12 @@ TEST(CaseFolding, ComparesByFoldedCharacters) {
     }
 }
 
-TEST(CaseFolding, FoldsToSmallLetters) {
+TEST(CaseFolding, FoldsToLowerCase) {
     EXPECT_EQ(foldCase("Grüße, ÀÉ [Z@]"), "grüße, àé [z@]");
     EXPECT_EQ(foldCase(std::string("A\0B", 3)), std::string("a\0b", 3));
 }
 
-TEST(CaseFolding, FindsBeginnings) {
+TEST(CaseFolding, FindsPrefixes) {
     struct Row {
         std::string text, beginning;
         bool begins;
@@ -49,7 +49,7 @@ TEST(CaseFolding, FindsBeginnings) {
     for (const Row& row : rows) EXPECT_EQ(startsWithNoCase(row.text, row.beginning), row.begins) << row.text;
 }
 
-TEST(CaseFolding, ServesContainers) {
+TEST(CaseFolding, WorksInContainers) {
     std::unordered_map<std::string, int, NoCaseHash, NoCaseEqual> hashed{{"Straße", 1}};
     EXPECT_EQ(hashed.find(std::string_view("STRAßE"))->second, 1);
     std::map<std::string, int, NoCaseLess> ordered{{"b", 1}, {"A", 2}};

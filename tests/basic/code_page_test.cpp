@@ -80,13 +80,13 @@ TEST(CodePage, DecodesToTheCharactersOfThePage) {
     }
 }
 
-TEST(CodePage, BytesWhoseCharacterBelongsToOtherBytesStayApart) {
+TEST(CodePage, BytesWithAnAmbiguousCharacterArePreserved) {
     const CodePage japanese(932);
     EXPECT_EQ(japanese.decode("\x81\xE0"), "≒");
     EXPECT_EQ(japanese.decode("\x87\x90"), "\uF787\uF790");
 }
 
-TEST(CodePage, ALackingCharacterIsError5) {
+TEST(CodePage, AMissingCharacterIsError5) {
     struct Row {
         int page;
         std::string text;
@@ -107,7 +107,7 @@ TEST(CodePage, AnUnknownNumberIsError5) {
         EXPECT_EQ(basic::attempt([&] { CodePage page(number); }).Number, 5) << number;
 }
 
-TEST(CodePage, TheDefaultPageIs1252AndCopiesAreAlike) {
+TEST(CodePage, TheDefaultPageIs1252AndCopiesAreEquivalent) {
     const CodePage page = CodePage::windows1252();
     const CodePage copy = page;
     EXPECT_EQ(copy.number(), 1252);

@@ -32,7 +32,7 @@ TEST(Collection, CountsFromOneAndFindsByKey) {
     EXPECT_EQ(letters.items(), (Texts{"a", "other", "c"}));
 }
 
-TEST(Collection, AddsInPlace) {
+TEST(Collection, AddsBeforeAndAfter) {
     using Index = std::optional<CollectionIndex>;
     struct Row {
         Index before, after;
@@ -56,7 +56,7 @@ TEST(Collection, AddsInPlace) {
     }
 }
 
-TEST(Collection, RefusesAndKeepsWhatItHas) {
+TEST(Collection, AFailedAddChangesNothing) {
     Collection<std::string> letters;
     fillLetters(letters);
     struct Row {
@@ -105,7 +105,7 @@ TEST(Collection, RemovesByIndexAndKey) {
     EXPECT_EQ(letters.Item(""), "");
 }
 
-TEST(Collection, MayChangeWhileItsItemsAreWalked) {
+TEST(Collection, MayChangeWhileItsItemsAreIterated) {
     Collection<Ref<std::string>> texts;
     for (const char* text : {"a", "b", "c"}) texts.Add(make<std::string>(text), text);
     std::string walked;
@@ -117,7 +117,7 @@ TEST(Collection, MayChangeWhileItsItemsAreWalked) {
     EXPECT_EQ(texts.Count(), 0);
 }
 
-TEST(Collection, AgreesWithASimpleOneOverRandomCalls) {
+TEST(Collection, AgreesWithASimpleModelOverRandomCalls) {
     Collection<int> collection;
     std::vector<int> plain;
     std::uint32_t x = 7;
@@ -147,7 +147,7 @@ TEST(Collection, AgreesWithASimpleOneOverRandomCalls) {
     EXPECT_EQ(collection.items(), plain);
 }
 
-TEST(Collection, OfManyItemsIsQuick) {
+TEST(Collection, IsFastWithManyItems) {
     Collection<int> collection;
     constexpr int kItems = 200000;
     for (int i = 0; i < kItems; ++i) collection.Add(i, "key" + std::to_string(i));

@@ -5,7 +5,7 @@
 
 using namespace basic;
 
-TEST(Dates, AreReadAndWritten) {
+TEST(Dates, AreParsedAndFormatted) {
     struct Row {
         std::string text, written;
         double days;

@@ -21,7 +21,7 @@ TEST(ErrorNumbers, HaveTheirStandardTexts) {
     for (const Row& row : rows) EXPECT_EQ(basic::standardDescription(row.number), row.text);
 }
 
-TEST(ErrorNumbers, OthersAreTheApplications) {
+TEST(ErrorNumbers, OthersAreApplicationDefined) {
     for (const int number : {-2147221504, -1, 0, 1, 4, 1000, 31038, 65535})
         EXPECT_EQ(basic::standardDescription(number), "Application-defined or object-defined error") << number;
 }

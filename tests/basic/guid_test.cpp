@@ -4,7 +4,7 @@
 
 using namespace basic;
 
-TEST(Guid, IsReadAndWritten) {
+TEST(Guid, IsParsedAndFormatted) {
     const GUID guid{0x6BF52A50, 0x394A, 0x11D3, {0xB1, 0x53, 0x00, 0xC0, 0x4F, 0x79, 0xFA, 0xA6}};
     const std::string text = "{6BF52A50-394A-11D3-B153-00C04F79FAA6}";
     EXPECT_EQ(guidText(guid), text);
@@ -14,7 +14,7 @@ TEST(Guid, IsReadAndWritten) {
         EXPECT_EQ(parseGuid(form), guid) << form;
 }
 
-TEST(Guid, OtherTextsAreNone) {
+TEST(Guid, OtherTextsAreRejected) {
     for (const std::string text : {"", "{}", "{6BF52A50-394A-11D3-B153-00C04F79FAA6",
                                    "6BF52A50-394A-11D3-B153-00C04F79FAA6}", "6BF52A50-394A-11D3-B153-00C04F79FAA",
                                    "6BF52A50-394A-11D3-B153-00C04F79FAAG", "6BF52A50-394A-11D3-B15300C04F79-FAA6",
@@ -23,7 +23,7 @@ TEST(Guid, OtherTextsAreNone) {
         EXPECT_FALSE(parseGuid(text)) << text;
 }
 
-TEST(Guid, NewOnesAreRandomOfVersion4) {
+TEST(Guid, NewOnesAreRandomVersion4) {
     std::set<GUID> seen;
     for (int i = 0; i < 100; ++i) {
         const GUID guid = newGuid();

@@ -4,7 +4,7 @@
 
 using namespace basic;
 
-TEST(Like, FitsOrNot) {
+TEST(Like, MatchesPatterns) {
     struct Row {
         std::string text, pattern;
         bool fits;
@@ -62,7 +62,7 @@ TEST(Like, FitsOrNot) {
     }
 }
 
-TEST(Like, ComparesTextsFolded) {
+TEST(Like, IgnoresCaseForTextCompare) {
     struct Row {
         std::string text, pattern;
         bool fits;
@@ -83,7 +83,7 @@ TEST(Like, ABadPatternIsError93) {
     EXPECT_EQ(attempt([&] { (void)Like("q", "[Z-a]", vbTextCompare); }).Number, 93);
 }
 
-TEST(Like, ManyStarsTakeNoLongerThanOne) {
+TEST(Like, ManyStarsAreAsFastAsOne) {
     std::string pattern;
     for (int i = 0; i < 100; ++i) pattern += "*a";
     EXPECT_FALSE(Like(std::string(20000, 'a'), pattern + "*b"));

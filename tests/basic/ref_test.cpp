@@ -27,14 +27,14 @@ TEST(Ref, UsingNothingIsError91) {
     EXPECT_EQ(basic::attempt([&] { (void)*nothing; }).Number, 91);
 }
 
-TEST(Ref, GivesTheObjectItself) {
+TEST(Ref, DereferencesToTheObject) {
     const auto node = basic::make<Node>();
     (*node).value = 3;
     EXPECT_EQ(&*node, node.shared().get());
     EXPECT_EQ(node->value, 3);
 }
 
-TEST(Ref, HoldsWhatItNamesToTheEndOfTheCall) {
+TEST(Ref, KeepsItsObjectAliveDuringTheCall) {
     auto node = basic::make<Node>();
     node->self = node;
     std::weak_ptr<Node> watch = node.shared();
@@ -51,14 +51,14 @@ TEST(Ref, ComparesByIdentity) {
     EXPECT_EQ(Ref<Node>(), Ref<Node>(nullptr));
 }
 
-TEST(Ref, CastsOrGivesNothing) {
+TEST(Ref, CastsToAnotherTypeOrNothing) {
     const Ref<Leaf> branch = basic::make<Branch>();
     EXPECT_TRUE(basic::cast<Branch>(branch));
     EXPECT_FALSE(basic::cast<Branch>(basic::make<Leaf>()));
     EXPECT_FALSE(basic::cast<Branch>(Ref<Leaf>()));
 }
 
-TEST(Suppressed, KeepsTheLastFailureUntilCleared) {
+TEST(Suppressed, KeepsTheLastErrorUntilCleared) {
     basic::Suppressed quietly;
     EXPECT_FALSE(quietly([] { throw basic::RuntimeError(5); }));
     EXPECT_TRUE(quietly([] {}));

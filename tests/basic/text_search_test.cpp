@@ -166,7 +166,7 @@ TEST(TextSearch, StrComp) {
     }
 }
 
-TEST(TextSearch, TakesTimeInProportionToTheTexts) {
+TEST(TextSearch, TakesLinearTime) {
     const std::string text(1 << 20, 'a'), what = std::string(1 << 15, 'a') + "b";
     EXPECT_EQ(InStr(text, what), 0);
     EXPECT_EQ(InStr(text, "b" + std::string(1 << 15, 'a')), 0);

@@ -14,21 +14,21 @@ int answerTo(Question question, const std::string& words, const std::string& giv
     return user.ask(question, words, fernwick::vbYesNo, "Fernwick");
 }
 
-TEST(Answers, AQuestionIsFoundWhateverItsWordsAre) {
+TEST(Answers, FindsAQuestionWhateverItsWords) {
     EXPECT_EQ(answerTo(Question::ReplaceFile, "Overwrite it?", "replace-file=yes"), fernwick::vbYes);
     EXPECT_EQ(answerTo(Question::ReplaceFile, "Overwrite it?", "copy-file=yes"), fernwick::vbNo);
 }
 
-TEST(Answers, EveryQuestionOfABoxHasARow) {
+TEST(Answers, HasARowForEveryBoxQuestion) {
     for (int question = 0; question <= int(Question::ReplaceFile); ++question)
         EXPECT_NE(cli::questionOfBox(Question(question)), nullptr) << question;
 }
 
-TEST(Answers, ABoxWithoutAQuestionGetsTheHarmlessAnswer) {
+TEST(Answers, GivesOtherBoxesTheHarmlessAnswer) {
     cli::Console console{cli::Verbosity::Quiet};
     CommandLineUser user{console, {}, {}};
-    EXPECT_EQ(user.MsgBox("Go on?", fernwick::vbYesNo, "Fernwick"), fernwick::vbNo);
-    EXPECT_EQ(user.MsgBox("Go on?", fernwick::vbOKCancel, "Fernwick"), fernwick::vbCancel);
+    EXPECT_EQ(user.MsgBox("Continue?", fernwick::vbYesNo, "Fernwick"), fernwick::vbNo);
+    EXPECT_EQ(user.MsgBox("Continue?", fernwick::vbOKCancel, "Fernwick"), fernwick::vbCancel);
 }
 
 } // namespace

@@ -1,6 +1,6 @@
-# What cases use. A case is a story of commands; its golden file holds what each printed and its status.
+# Functions for the cases. A case is a sequence of commands; its golden file contains their output and status.
 
-# Runs a command and shows it, its output, its errors (behind "! ") and its status.
+# Runs a command and prints it, its output, its errors (after "! ") and its status.
 run() {
   echo "\$ $*"
   local status=0
@@ -8,7 +8,7 @@ run() {
   shown "$status"
 }
 
-# The same for a line of the shell.
+# The same for a shell command line.
 runline() {
   echo "\$ $1"
   local status=0
@@ -22,22 +22,22 @@ shown() {
   [ "$1" -eq 0 ] || echo "[status $1]"
 }
 
-# A remark in the golden file.
+# Prints a remark to the golden file.
 say() { echo "# $*"; }
 
-# A sample of our own to change.
+# Copies a sample.
 sample() { cp -r "$SAMPLES/$1" .; }
 
-# Writes standard input as a file with the line ends of Windows.
+# Writes standard input to a file with CRLF line ends.
 crlf() { sed 's/$/\r/' >"$1"; }
 
-# The stored value of a project file.
+# Prints a stored value of a project file.
 stored() { grep -a "^$2=" "$1" | tr -d '\r' || echo "no $2"; }
 
-# Says whether a file is the same as before.
+# Prints whether two files are identical.
 same() { cmp -s "$1" "$2" && echo "# $1 is unchanged" || echo "# $1 has changed"; }
 
-# A project of one module. module NAME <code
+# Creates a project with one module: module_project NAME <code
 module_project() {
   mkdir -p "$1"
   { printf 'Attribute VB_Name = "%s"\n' "mod$1"; cat; } | crlf "$1/mod$1.bas"

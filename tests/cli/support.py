@@ -1,4 +1,4 @@
-"""What the tests of the command line share: a private home, and outputs without what changes from run to run."""
+"""Shared by the tests of the command line: a private home, and output without what differs between runs."""
 import difflib
 import os
 import pathlib
@@ -15,7 +15,7 @@ APPROVE = os.environ.get("FERNWICK_APPROVE") == "1"
 
 
 class Home:
-    """A folder that goes away, with all that the program keeps of its user and its machine in it."""
+    """A temporary folder for everything that the program stores for the user and the machine."""
 
     def __enter__(self):
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="fernwick-cli-")).resolve()
@@ -49,8 +49,8 @@ class Home:
         shutil.copytree(ROOT / "samples" / name, self.work / name)
         return self.work / name / f"{name}.vbp"
 
-    def stays(self):
-        """What lies in the private temporary folder: nothing, after a run."""
+    def left_behind(self):
+        """The contents of the private temporary folder, which every run must leave empty."""
         return sorted(str(p) for p in (self.folder / "tmp").rglob("*"))
 
     def normal(self, text):
@@ -62,7 +62,7 @@ class Home:
 
 
 def compare(test, path, actual):
-    """The text must be the file's; an approving run rewrites the file instead."""
+    """Fails if the text differs from the file, or rewrites the file if FERNWICK_APPROVE is set."""
     path = pathlib.Path(path)
     expected = path.read_text(encoding="utf-8") if path.exists() else ""
     if actual == expected:
@@ -71,5 +71,5 @@ def compare(test, path, actual):
         path.write_text(actual, encoding="utf-8")
         print(f"approved {path.relative_to(ROOT)}")
         return
-    diff = difflib.unified_diff(expected.splitlines(), actual.splitlines(), str(path.name), "as it is now", lineterm="")
-    test.fail("\n".join(diff) + "\n(scripts/approve accepts it)")
+    diff = difflib.unified_diff(expected.splitlines(), actual.splitlines(), str(path.name), "actual", lineterm="")
+    test.fail("\n".join(diff) + "\n(scripts/approve accepts the change)")

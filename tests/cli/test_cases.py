@@ -1,4 +1,4 @@
-"""Each cases/NAME.cmd is run and compared with cases/NAME.golden."""
+"""Runs each cases/NAME.cmd and compares the output with cases/NAME.golden."""
 import concurrent.futures
 import os
 import subprocess
@@ -6,7 +6,7 @@ import unittest
 
 from support import HERE, Home, compare
 
-# The private store would be shown by no case, and the wait for a process is most of the time: two at once.
+# Each case has its own home, so cases run in parallel.
 WORKERS = os.cpu_count() or 1
 
 
@@ -14,7 +14,7 @@ def transcript(case):
     with Home() as home:
         script = f"set -u\n. '{HERE}/lib.sh'\n. '{case}'\n"
         done = home.run("bash", "-c", script, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, capture_output=False)
-        return home.normal(done.stdout + "".join(f"# left behind: {path}\n" for path in home.stays()))
+        return home.normal(done.stdout + "".join(f"# left behind: {path}\n" for path in home.left_behind()))
 
 
 class Cases(unittest.TestCase):

@@ -1,4 +1,4 @@
-"""How the desktop's program is known to desktops and software centres."""
+"""The desktop entry and the metadata for software centres."""
 import pathlib
 import re
 import subprocess
@@ -26,7 +26,7 @@ class DesktopEntry(unittest.TestCase):
         self.assertEqual(tree.find("releases/release").get("version"), VERSION)
         self.assertEqual(tree.findtext("launchable"), "fernwick-workbench.desktop")
 
-    def test_they_name_the_same_file_type(self):
+    def test_all_name_the_same_file_type(self):
         entry = (PACKAGING / "fernwick-workbench.desktop").read_text(encoding="utf-8")
         offered = re.search(r"^MimeType=(.*);$", entry, re.M)[1]
         namespace = "{http://www.freedesktop.org/standards/shared-mime-info}"
@@ -34,7 +34,7 @@ class DesktopEntry(unittest.TestCase):
         described = ElementTree.parse(PACKAGING / "fernwick-workbench.metainfo.xml").findtext("provides/mediatype")
         self.assertEqual({offered, known, described}, {"application/x-visual-basic-project"})
 
-    def test_all_of_it_is_installed(self):
+    def test_all_files_are_installed(self):
         rules = (ROOT / "cmake/Install.cmake").read_text(encoding="utf-8")
         for file in sorted(pathlib.Path(PACKAGING).iterdir()):
             self.assertIn(f"packaging/{file.name}", rules)

@@ -1,4 +1,4 @@
-"""The doctor over installations that are damaged: it names the damage and its cure, and never falls ill itself."""
+"""`doctor` reports damage to an installation and how to fix it, and does not fail itself."""
 import json
 import os
 import random
@@ -46,10 +46,10 @@ class Doctor(unittest.TestCase):
     def troubles(self):
         return [f"{f['subject']}: {f['detail']}" for f in self.examine() if f["state"] == "trouble"]
 
-    def test_a_whole_installation_is_usable(self):
+    def test_an_undamaged_installation_is_usable(self):
         self.assertEqual(self.troubles(), [])
 
-    def test_each_missing_part_is_named(self):
+    def test_names_each_missing_part(self):
         for part in PARTS:
             with self.subTest(part):
                 self.install()
@@ -57,14 +57,14 @@ class Doctor(unittest.TestCase):
                 shutil.rmtree(path) if path.is_dir() else path.unlink()
                 self.assertIn(part, "\n".join(self.troubles()))
 
-    def test_runtimes(self):
+    def test_names_missing_and_damaged_runtimes(self):
         (self.installed / "VB Toolkit/Runtime/Common/errors.txt").unlink()
         shutil.rmtree(self.installed / "VB Toolkit/Runtime/PalmOS")
         found = "\n".join(self.troubles())
         self.assertIn("target PalmOS-DragonBall: This installation has no runtime for PalmOS", found)
         self.assertRegex(found, "target PocketPC-ARM: The runtime .* can't be used")
 
-    def test_parts_that_are_something_else(self):
+    def test_reports_files_in_place_of_folders(self):
         for part in ("Fonts", "registry", "targets", "tavlets"):
             with self.subTest(part):
                 self.install()
@@ -72,7 +72,7 @@ class Doctor(unittest.TestCase):
                 (self.installed / part).write_text("a file")
                 self.assertNotEqual(self.troubles(), [])
 
-    def test_damaged_files_never_end_it(self):
+    def test_survives_damaged_files(self):
         noise = random.Random(1)
         for path in sorted(p for p in self.installed.rglob("*") if p.is_file()):
             if str(path.relative_to(self.installed)).startswith(KEPT):
@@ -84,7 +84,7 @@ class Doctor(unittest.TestCase):
                     self.examine()
             path.write_bytes(whole)
 
-    def test_stores(self):
+    def test_names_damaged_stores(self):
         for place, name in (("config/fernwick", "user"), ("machine", "machine")):
             with self.subTest(name):
                 folder = self.home.folder / place
@@ -97,14 +97,14 @@ class Doctor(unittest.TestCase):
                 self.assertIn(f"{name}'s store", "\n".join(self.troubles()))
                 (folder / f"{name}.sqlite").rmdir()
 
-    def test_another_root_dir(self):
+    def test_fixes_a_wrong_root_dir(self):
         self.home.run(self.program, "registry", "set", r"HKEY_LOCAL_MACHINE\Software\Quinloft", "RootDir", "/nowhere",
                       check=True)
         found = next(f for f in self.examine() if f["subject"] == "RootDir")
         self.home.run("bash", "-c", found["cure"].replace("fernwick", str(self.program), 1), check=True)
         self.assertEqual(self.troubles(), [])
 
-    def test_devices_of_ones_own(self):
+    def test_names_a_device_that_cannot_be_reached(self):
         place = self.home.work / "devices"
         self.home.env["FERNWICK_DEVICES"] = str(place)
         self.home.run(self.program, "devices", "add", "PalmOS-DragonBall", check=True)
@@ -113,14 +113,14 @@ class Doctor(unittest.TestCase):
         place.write_text("no folder")
         self.assertRegex("\n".join(self.troubles()), "^device PalmOS-DragonBall: ")
 
-    def test_my_devices_that_are_gone(self):
+    def test_fixes_my_devices_without_a_target(self):
         self.home.run(self.program, "devices", "add", "PocketPC-ARM", check=True)
         (self.installed / "targets/PocketPC-ARM.toml").unlink()
         found = next(f for f in self.examine() if f["subject"] == "device PocketPC-ARM")
         self.home.run("bash", "-c", found["cure"].replace("fernwick", str(self.program), 1), check=True)
         self.assertEqual(self.troubles(), [])
 
-    def test_a_damaged_list_of_devices(self):
+    def test_survives_a_damaged_list_of_devices(self):
         self.home.run(self.program, "registry", "set", DEVICES_KEY, "MyDeviceCount", "many", check=True)
         self.examine()
 

@@ -1,4 +1,4 @@
-"""The guides of the installation tell of what there is: each command, verb, control and device, and no link leads nowhere."""
+"""The installed guides describe each command, control and device, and their links are valid."""
 import html
 import re
 import unittest
@@ -9,7 +9,7 @@ from support import ROOT, Home
 DOC = ROOT / "installation/VB Toolkit/doc"
 USERS_GUIDE = DOC / "Quinloft_Users_Guide.html"
 ADD_IN_GUIDE = DOC / "Quinloft_AddIn_Guide.html"
-# What the menu keeps in its table and doesn't show: families of devices, and the download that is off for good.
+# In the menu's table but never shown: families of devices, and the disabled download.
 UNUSED = {"&Palm OS", "P&ocketPC", "Deploy To Design &Target", "Download Tamarik..."}
 CAPTION = re.compile(r'case k\w+String: return "([^"]+)";')
 
@@ -24,7 +24,7 @@ class Guides(unittest.TestCase):
         text = text_of(page)
         return [one for one in wanted if one not in text]
 
-    def test_the_users_guide_names_each_verb(self):
+    def test_the_users_guide_names_each_command_line_command(self):
         with Home() as home:
             usage = home.fernwick("--help", check=True).stdout
         verbs = re.findall(r"^  ([a-z-]+) {2,}", usage.split("Subcommands:")[1], re.M)
@@ -43,7 +43,7 @@ class Guides(unittest.TestCase):
         self.assertGreater(len(captions), 20)
         self.assertEqual(self.missing(ADD_IN_GUIDE, captions), [])
 
-    def test_no_link_leads_nowhere(self):
+    def test_links_are_valid(self):
         pages = [page for page in DOC.rglob("*.html") if page.parent.name != "Quinloft_Error_Codes"]
         self.assertIn(USERS_GUIDE, pages)
         for page in pages:
@@ -55,7 +55,7 @@ class Guides(unittest.TestCase):
                     if anchor:
                         self.assertIn(f'id="{anchor}"', target.read_text(encoding="utf-8"))
 
-    def test_each_help_file_has_its_page(self):
+    def test_each_help_file_has_a_page(self):
         files = list(DOC.glob("*.chm"))
         self.assertGreaterEqual(len(files), 2)
         self.assertEqual([f.name for f in files if not f.with_suffix(".html").is_file()], [])

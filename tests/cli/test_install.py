@@ -1,4 +1,4 @@
-"""What an install lays down works by itself."""
+"""The installed program works without the source tree."""
 import gzip
 import os
 import pathlib

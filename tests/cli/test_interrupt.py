@@ -1,4 +1,4 @@
-"""Ctrl+C ends a run with nothing half-done; a reader that goes away does too."""
+"""An interrupted run, and one whose output is closed, leave no incomplete files."""
 import os
 import signal
 import subprocess
@@ -21,7 +21,7 @@ def fill(folder, procedures):
 
 
 def large_project(home):
-    """One that was built while it was small, so that its file has nothing to take up any more."""
+    """A large project that was built while it was small, so a build does not change its file any more."""
     folder = home.work / "Large"
     folder.mkdir()
     fill(folder, 1)
@@ -48,7 +48,7 @@ class Interrupt(unittest.TestCase):
                                    env=self.home.env, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
                                    stderr=subprocess.PIPE, text=True)
         while when not in (line := process.stderr.readline()):
-            self.assertTrue(line, "the run ended by itself")
+            self.assertTrue(line, "the run ended before it was interrupted")
         process.send_signal(signal.SIGINT)
         with process:
             out, err = process.communicate(timeout=60)
@@ -56,9 +56,9 @@ class Interrupt(unittest.TestCase):
         self.assertEqual(out, "")
         self.assertIn("interrupted", err)
         self.assertEqual({p.name: p.read_bytes() for p in project.parent.iterdir()}, before)
-        self.assertEqual(self.home.stays(), [])
+        self.assertEqual(self.home.left_behind(), [])
 
-    def test_build(self):
+    def test_build_leaves_the_project_unchanged(self):
         self.interrupted(large_project(self.home), "Compiling m2.bas")
 
     def test_deploy_leaves_the_old_application(self):
@@ -74,7 +74,7 @@ class Interrupt(unittest.TestCase):
         self.interrupted(project, "Sending long.wav", *deploy[2:], verb="deploy")
         self.assertEqual({p: p.read_bytes() for p in device.rglob("*") if p.is_file()}, old)
 
-    def test_compile_step(self):
+    def test_compile_step_is_ended(self):
         project = self.home.sample()
         self.home.fernwick("build", str(project), check=True)
         (project.parent / "HelloWorld.0000.qlx").unlink()
@@ -82,7 +82,7 @@ class Interrupt(unittest.TestCase):
         self.interrupted(project, "Compiling HelloWorld", "--trust-steps")
         self.interrupted(project, "running: sleep 60", "--trust-steps", "--verbose")
 
-    def test_a_parent_that_ignores_its_children(self):
+    def test_steps_have_a_status_under_a_parent_that_ignores_sigchld(self):
         project = self.home.sample()
         self.home.fernwick("settings", "set", str(project), "PreCompileSteps", "true")
         process = subprocess.run(["fernwick", "build", str(project), "--trust-steps"], env=self.home.env, timeout=60,
@@ -90,7 +90,7 @@ class Interrupt(unittest.TestCase):
                                  preexec_fn=lambda: signal.signal(signal.SIGCHLD, signal.SIG_IGN))
         self.assertEqual(process.returncode, 0, process.stderr)
 
-    def test_reader_goes_away(self):
+    def test_a_closed_pipe_keeps_the_image(self):
         project = self.home.sample()
         reading, writing = os.pipe()
         os.close(reading)
@@ -99,7 +99,7 @@ class Interrupt(unittest.TestCase):
         os.close(writing)
         self.assertIn(process.returncode, (-signal.SIGPIPE, 3))
         self.assertTrue((project.parent / "HelloWorld.0000.qlx").exists())
-        self.assertEqual(self.home.stays(), [])
+        self.assertEqual(self.home.left_behind(), [])
 
 
 if __name__ == "__main__":

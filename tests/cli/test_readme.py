@@ -1,4 +1,4 @@
-"""The README's transcript is what the program prints."""
+"""The transcript in the README is the output of the program."""
 import re
 import shutil
 import subprocess

@@ -1,4 +1,4 @@
-"""Every result in JSON is as its schema file says; SARIF has what viewers need."""
+"""JSON results match their schemas, and SARIF contains what viewers need."""
 import json
 import unittest
 import zipfile
@@ -39,7 +39,7 @@ class Schemas(unittest.TestCase):
         with form.open("ab") as file:
             file.write(BREAK.encode())
 
-    def test_reports(self):
+    def test_reports_of_projects(self):
         good = self.fits("report", "build", str(self.project))
         self.assertTrue(good["image"].endswith("HelloWorld.0000.qlx"))
         self.fits("report", "messages", str(self.project))
@@ -52,7 +52,7 @@ class Schemas(unittest.TestCase):
         self.fits("report", "messages", str(self.project))
         self.fits("report", "check", str(self.project), status=1)
 
-    def test_devices_served(self):
+    def test_reports_of_devices(self):
         project = str(self.project)
         self.fits("report", "validate", project, "--forms")
         packed = self.fits("report", "package", project)["devices"][0]
@@ -71,12 +71,12 @@ class Schemas(unittest.TestCase):
         results = json.loads(sarif.stdout)["runs"][0]["results"]
         self.assertEqual([r["ruleId"] for r in results], ["20300"])
 
-    def test_failures_of_other_verbs_are_reports(self):
+    def test_failures_of_other_commands_are_reports(self):
         for verb in (["info"], ["settings", "list"], ["messages"]):
             self.fits("report", *verb, "missing.vbp", status=2)
         self.fits("report", "registry", "get", "HKEY_NOWHERE\\x", status=2)
 
-    def test_others(self):
+    def test_other_results(self):
         self.fits("info", "info", str(self.project))
         self.fits("info", "info", "--verify", str(self.project))
         self.fits("settings", "settings", "list", str(self.project))
@@ -98,7 +98,7 @@ class Schemas(unittest.TestCase):
         self.assertTrue(listed["PalmOS-DragonBall"]["mine"])
         self.assertFalse(listed["PocketPC-ARM"]["mine"])
         self.assertEqual(listed["LinuxHandheld-ARM"]["settings"], {"Port": "77"})
-        found = self.fits("doctor", "doctor", status=3)  # no host is set for one of My Devices
+        found = self.fits("doctor", "doctor", status=3)  # one of My Devices has no host
         self.assertFalse(found["usable"])
         self.assertIn("cure", next(f for f in found["findings"] if f["subject"] == "device LinuxHandheld-ARM"))
 
@@ -135,7 +135,7 @@ class Schemas(unittest.TestCase):
             self.assertEqual(rule["helpUri"], f"https://www.quinloft.example/messages/{rule['id']}.html")
             place = result["locations"][0]["physicalLocation"]
             self.assertEqual(place["artifactLocation"]["uri"], (self.project.parent / "frmHello.frm").as_uri())
-            if verb != "messages":  # what is stored knows the code window's lines only
+            if verb != "messages":  # stored messages have only the code window's lines
                 self.assertGreater(place["region"]["startLine"], 1)
                 self.assertGreater(place["region"]["startColumn"], 1)
         failed = self.home.fernwick("build", "missing.vbp", "--format", "sarif")
@@ -144,7 +144,7 @@ class Schemas(unittest.TestCase):
         self.assertEqual(invocation["exitCode"], 2)
 
     def test_every_schema_is_tested(self):
-        # package-1, the manifest of packages, is tested where they are made
+        # package-1 is the manifest, see test_packages
         self.assertEqual(sorted(p.stem for p in (ROOT / "installation/schemas").glob("*.json")),
                          ["dependencies-1", "devices-1", "doctor-1", "explain-1", "info-1", "package-1",
                           "package-listing-1", "registry-1", "report-1", "settings-1", "targets-1", "version-1"])

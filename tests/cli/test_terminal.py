@@ -1,4 +1,4 @@
-"""At a terminal: a bar, colours, and questions."""
+"""Progress bar, colours and questions on a terminal."""
 import os
 import pty
 import select
@@ -27,7 +27,7 @@ class Terminal(unittest.TestCase):
             ready, _, _ = select.select([terminal], [], [], max(0, deadline - time.monotonic()))
             if not ready:
                 os.kill(child, signal.SIGKILL)
-                self.fail(f"it waits for ever after: {shown.decode()}")
+                self.fail(f"no output for a minute after: {shown.decode()}")
             try:
                 piece = os.read(terminal, 65536)
             except OSError:  # the program has ended
@@ -38,14 +38,14 @@ class Terminal(unittest.TestCase):
         os.close(terminal)
         return os.waitstatus_to_exitcode(os.waitpid(child, 0)[1]), shown.decode()
 
-    def test_bar(self):
+    def test_shows_a_progress_bar(self):
         status, shown = self.at_terminal("build", str(self.project), typed="\n")
         self.assertEqual(status, 0, shown)
         self.assertIn("[yes/no/cancel, Return for Yes]", shown)
         self.assertRegex(shown, r"\r\[#*\.*\] +\d+% ")
         self.assertIn("SUCCESS - Compile and validate completed successfully.", shown)
 
-    def test_colours(self):
+    def test_uses_colours_unless_no_color_is_set(self):
         form = self.project.parent / "frmHello.frm"
         form.write_bytes(form.read_bytes() + b"Sub x(\r\n")
         _, shown = self.at_terminal("build", str(self.project), typed="\n")
@@ -53,7 +53,7 @@ class Terminal(unittest.TestCase):
         _, shown = self.at_terminal("build", str(self.project), typed="\n", NO_COLOR="1")
         self.assertNotIn("\033[31m", shown)
 
-    def test_trust_is_asked_once(self):
+    def test_asks_once_for_trust(self):
         self.home.fernwick("settings", "set", str(self.project), "PreCompileSteps", "touch ran", "touch too")
         ran = self.project.parent / "ran"
         status, shown = self.at_terminal("build", str(self.project), typed="\n\n\n")
@@ -68,7 +68,7 @@ class Terminal(unittest.TestCase):
         self.assertNotIn("Trust this folder", shown)
         self.assertTrue(ran.exists())
 
-    def test_question(self):
+    def test_asks_after_a_failed_step(self):
         self.home.fernwick("settings", "set", str(self.project), "PreCompileSteps", "false")
         status, shown = self.at_terminal("build", str(self.project), "--trust-steps", typed="\nyes\n")
         self.assertEqual(status, 0, shown)

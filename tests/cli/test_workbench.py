@@ -1,4 +1,4 @@
-"""The verb that opens the desktop: which program takes over, and what it is given."""
+"""`workbench` starts the desktop program with its project."""
 import os
 import pathlib
 import shutil
@@ -26,20 +26,20 @@ class Workbench(unittest.TestCase):
         return subprocess.run([self.folder / "fernwick", "workbench", *arguments], capture_output=True, text=True,
                               cwd=self.folder, env=dict(os.environ, PATH="/nowhere:/usr/bin:/bin", HOME=str(self.folder)))
 
-    def test_the_desktop_takes_over_with_the_projects_whole_path(self):
+    def test_passes_the_projects_full_path(self):
         self.install_desktop()
         (self.folder / "A.vbp").touch()
         done = self.run_verb("A.vbp")
         self.assertEqual((done.returncode, done.stdout), (0, f"desktop: {self.folder}/A.vbp\n"))
 
-    def test_it_opens_empty_too(self):
+    def test_opens_without_a_project(self):
         self.install_desktop()
         self.assertEqual(self.run_verb().stdout, "desktop: \n")
 
-    def test_a_desktop_that_is_not_installed_is_told(self):
+    def test_reports_a_missing_desktop(self):
         done = self.run_verb()
         self.assertEqual(done.returncode, 3)
-        self.assertIn("there is no program fernwick-workbench", done.stderr)
+        self.assertIn("the desktop program fernwick-workbench is not installed", done.stderr)
 
 
 if __name__ == "__main__":

@@ -1,4 +1,4 @@
-// The user's clipboard survives a start.
+// The user's clipboard is preserved at the start.
 #include "Host/system/clipboard.h"
 #include "commands_world.h"
 
@@ -20,20 +20,20 @@ protected:
         {"text/html", "<b>x</b>"}, {"text/plain", "x"}, {"empty", ""}};
 };
 
-TEST_F(KeptClipboard, ComesBackInAllFormatsAndTheirOrder) {
+TEST_F(KeptClipboard, IsRestoredInAllFormatsInOrder) {
     start();
     EXPECT_EQ(pasteboard.contents, text);
 }
 
-TEST_F(KeptClipboard, IsEmptyMeanwhile) {
+TEST_F(KeptClipboard, IsEmptyInTheMeantime) {
     clips.BackupClipboardData();
     EXPECT_THAT(pasteboard.contents, IsEmpty());
 }
 
-TEST_F(KeptClipboard, AnEmptyOneStaysEmpty) {
+TEST_F(KeptClipboard, EmptyStaysEmpty) {
     start();
     pasteboard.contents.clear();
-    start(); // what was kept the last time is no matter
+    start(); // replaces what was saved last time
     EXPECT_THAT(pasteboard.contents, IsEmpty());
 }
 
@@ -44,7 +44,7 @@ TEST_F(KeptClipboard, IsRestoredOnce) {
     EXPECT_THAT(pasteboard.contents, IsEmpty());
 }
 
-TEST_F(KeptClipboard, OneThatAnotherProgramHoldsIsNotKept) {
+TEST_F(KeptClipboard, IsNotSavedWhileBlocked) {
     pasteboard.isHeld = true;
     clips.BackupClipboardData();
     pasteboard.isHeld = false;
@@ -54,7 +54,7 @@ TEST_F(KeptClipboard, OneThatAnotherProgramHoldsIsNotKept) {
     EXPECT_THAT(errors.seen, IsEmpty());
 }
 
-TEST_F(KeptClipboard, OneThatIsHeldDoesNotKeepFacesOff) {
+TEST_F(KeptClipboard, FacesArePlacedWhileItIsBlocked) {
     pasteboard.isHeld = true;
     clips.BackupClipboardData();
     const auto button =
@@ -62,7 +62,7 @@ TEST_F(KeptClipboard, OneThatIsHeldDoesNotKeepFacesOff) {
     EXPECT_THAT(effectsOf([&] { images.PlaceImageOnButton(button, 109); }), ElementsAre("?: face"));
 }
 
-TEST_F(KeptClipboard, OneThatCantBeOpenedIsRestoredTheNextTime) {
+TEST_F(KeptClipboard, IsRestoredLaterIfBlocked) {
     clips.BackupClipboardData();
     pasteboard.isHeld = true;
     clips.RestoreClipboardData();
@@ -72,7 +72,7 @@ TEST_F(KeptClipboard, OneThatCantBeOpenedIsRestoredTheNextTime) {
     EXPECT_EQ(pasteboard.contents, text);
 }
 
-TEST_F(KeptClipboard, EachCallThatFailsCostsAtMostOneFormat) {
+TEST_F(KeptClipboard, AFailingCallLosesAtMostOneFormat) {
     for (int failing = 1;; ++failing) {
         pasteboard.contents = text;
         errors.seen.clear();

@@ -4,7 +4,7 @@
 
 namespace test {
 
-/// A clipboard whose formats keep their order. Another program may have it open.
+/// A clipboard that keeps the order of its formats. Another program may block it.
 class TracedClipboard : public fernwick::Clipboard {
 public:
     explicit TracedClipboard(Trace& trace) : trace_(trace) {}
@@ -33,7 +33,7 @@ public:
         if (told) trace_.effects.push_back("clipboard cleared");
         contents.clear();
     }
-    /// Whether the trace tells of it: a face takes three lines.
+    /// Whether changes are recorded: each face takes three lines.
     bool told = false;
 
 private:
@@ -44,7 +44,7 @@ private:
     Trace& trace_;
 };
 
-/// Pictures of one pixel in the mask colour, which tell their number in the byte behind it.
+/// Pictures of one pixel in the mask colour, followed by a byte with their number.
 struct OnePixel : fernwick::Resources {
     mutable std::vector<int> loaded;
     std::string LoadBitmap(int id) const override {
@@ -60,7 +60,7 @@ struct OnePixel : fernwick::Resources {
     }
 };
 
-/// A platform whose clipboard and pictures are the test's.
+/// A platform with the test's own clipboard and pictures.
 struct CommandsPlatform : TracedPlatform {
     TracedClipboard pasteboard{trace};
     OnePixel pictures;
@@ -79,13 +79,13 @@ struct CommandsPlatform : TracedPlatform {
                                 TracedPlatform::platform.app};
 };
 
-/// The bars are in the trace in detail.
+/// The trace contains all effects on the bars.
 struct CommandsWorld : AddInWorld<CommandsPlatform> {
     CommandsWorld() { vbe->bars = bars = hostBars(trace); }
     ~CommandsWorld() { EXPECT_EQ(registry.openKeys(), 0U) << "a registry key stayed open"; }
 
     Ref<TracedBar> menuBar() const { return bars->menuBar; }
-    /// The add-in's menu, or one of its popups.
+    /// Returns the add-in's menu, or one of its popups.
     Ref<TracedBar> shownMenu(const std::string& popup = "") const {
         const Ref<TracedBar> main = menuBar()->at("Fernwick")->popup;
         return popup.empty() ? main : Ref<TracedBar>(main->at(popup)->popup);
@@ -98,7 +98,7 @@ struct CommandsWorld : AddInWorld<CommandsPlatform> {
     void addSample(const std::string& key, const std::string& name, const std::string& data) {
         registry.set(fernwick::HKEY_LOCAL_MACHINE, "SOFTWARE\\Quinloft\\VB Toolkit\\Samples" + key, name, data);
     }
-    /// What `act` does, in the trace.
+    /// Returns the effects of `act`.
     std::vector<std::string> effectsOf(const std::function<void()>& act) {
         trace.effects.clear();
         act();

@@ -19,7 +19,7 @@ protected:
         std::make_shared<test::TracedItem>(trace, office::msoControlButton, 1, std::weak_ptr<test::TracedBar>());
 };
 
-TEST_F(Faces, GoOverTheClipboardWhichIsEmptyAfterwards) {
+TEST_F(Faces, UseTheClipboardAndLeaveItEmpty) {
     EXPECT_TRUE(images.PlaceImageOnButton(button, 109));
     EXPECT_THAT(trace.effects, ElementsAre("clipboard cleared", "clipboard image/bmp", "?: face", "clipboard cleared"));
     EXPECT_THAT(pasteboard.contents, IsEmpty());
@@ -69,7 +69,7 @@ TEST(MappedBitmap, ChangesOnlyTheMaskColour) {
     EXPECT_EQ(fernwick::mappedBitmap(bmp, fernwick::RGB(192, 192, 193), fernwick::RGB(1, 2, 3)), bmp);
 }
 
-TEST(MappedBitmap, RefusesWhatIsNoPicture) {
+TEST(MappedBitmap, RefusesOtherData) {
     const auto refused = [](std::string bmp) {
         return test::errorOf([&] { fernwick::mappedBitmap(bmp, 0, 1); }) == basic::kInvalidPicture;
     };
@@ -83,7 +83,7 @@ TEST(MappedBitmap, RefusesWhatIsNoPicture) {
     EXPECT_TRUE(refused(with(28, 8)));   // bits a pixel
     EXPECT_TRUE(refused(with(30, 1)));   // compressed
     EXPECT_TRUE(refused(with(18, 2)));   // wider than its pixels
-    EXPECT_TRUE(refused(with(21, 127))); // as wide as no picture is
+    EXPECT_TRUE(refused(with(21, 127))); // too wide
     EXPECT_TRUE(refused(with(25, -1)));
     EXPECT_TRUE(refused(with(10, 10))); // pixels in the header
     EXPECT_FALSE(refused(with(18, 1)));
@@ -120,7 +120,7 @@ TEST(Pictures, AreAllDifferent) {
     EXPECT_EQ(all.size(), 19U);
 }
 
-TEST(Pictures, OfAnUnknownNumberOrWithoutAnInstallationAreNotThere) {
+TEST(Pictures, AreMissingForAnUnknownNumberOrWithoutAnInstallation) {
     host::FileSystem files;
     const auto load = [&](const std::string& root, int id) {
         return test::errorOf([&] { host::Resources(files, root).LoadBitmap(id); });

@@ -1,4 +1,4 @@
-// The introduction: its pages, where its links lead, and the preference that has it come up.
+// The introduction: its pages, its links, and the preference to show it.
 #include "Add-in/commands/frmGettingStarted.h"
 #include "commands_world.h"
 #include <fstream>
@@ -37,7 +37,7 @@ protected:
     void storeTutorial(const std::string& value) {
         registry.set(fernwick::HKEY_LOCAL_MACHINE, kMachinePrefs, "StartTutorial", value);
     }
-    /// Shows the introduction and does this in it.
+    /// Shows the introduction and runs `act` in it.
     void show(const std::function<void()>& act = [] {}) {
         user.whenShown["frmGettingStarted"] = [act](fernwick::Form&) { act(); };
         intro.ShowModal();
@@ -50,7 +50,7 @@ protected:
         for (int i = 0; i < intro.lstLinks.ListCount(); ++i) all.push_back(intro.lstLinks.List(i));
         return all;
     }
-    /// What opens when each link of a page is chosen.
+    /// What each link of a page opens.
     std::vector<std::string> targetsOfPage(int page) {
         opener.opened.clear();
         show([&] {
@@ -95,7 +95,7 @@ TEST_F(GettingStarted, ShowsItsNinePages) {
     EXPECT_THAT(errors.seen, IsEmpty());
 }
 
-TEST_F(GettingStarted, OnTheFirstPageThereIsNoBack) {
+TEST_F(GettingStarted, TheFirstPageHasNoBack) {
     show([&] {
         EXPECT_FALSE(intro.cmdPrev.Enabled());
         intro.cmdPrev.Click.raise();
@@ -108,7 +108,7 @@ TEST_F(GettingStarted, OnTheFirstPageThereIsNoBack) {
     });
 }
 
-TEST_F(GettingStarted, OnTheLastPageThereIsNoNext) {
+TEST_F(GettingStarted, TheLastPageHasNoNext) {
     show([&] {
         next(8);
         EXPECT_FALSE(intro.cmdNext.Enabled());
@@ -164,11 +164,11 @@ TEST_F(GettingStarted, ALinkIsChosenBeforeItOpens) {
     EXPECT_THAT(opener.opened, IsEmpty());
 }
 
-TEST_F(GettingStarted, TheWebsitesLinksLeadToTheMaker) {
+TEST_F(GettingStarted, TheWebsitePageLinksToTheVendor) {
     EXPECT_THAT(targetsOfPage(7), ElementsAre("https://support", "https://samples", "https://forum"));
 }
 
-TEST_F(GettingStarted, TheNextStepsLeadToWhatIsInstalled) {
+TEST_F(GettingStarted, TheNextStepsLinkToInstalledFiles) {
     EXPECT_THAT(targetsOfPage(8),
                 ElementsAre("/install/VB Toolkit/Doc/Hello World Tutorial/hw_write.html", "/install/VB Toolkit/Samples",
                             "/install/VB Toolkit/Doc/Quinloft_Users_Guide.chm", "https://developers"));
@@ -183,7 +183,7 @@ TEST_F(GettingStarted, ADoubleClickOpensALink) {
     EXPECT_THAT(opener.opened, ElementsAre("https://forum"));
 }
 
-TEST_F(GettingStarted, WhatCantBeOpenedIsNamed) {
+TEST_F(GettingStarted, NamesALinkThatCannotBeOpened) {
     opener.fails = true;
     const auto effects = effectsOf([&] {
         show([&] {
@@ -199,13 +199,13 @@ TEST_F(GettingStarted, WhatCantBeOpenedIsNamed) {
     EXPECT_THAT(errors.seen, IsEmpty());
 }
 
-TEST_F(GettingStarted, WithoutAnInstallationItsLinksStandAndFail) {
+TEST_F(GettingStarted, WithoutAnInstallationTheLinksFail) {
     registry.set(fernwick::HKEY_LOCAL_MACHINE, "Software\\Quinloft", "RootDir", "");
     EXPECT_THAT(targetsOfPage(8), ElementsAre("VB Toolkit/Doc/Hello World Tutorial/hw_write.html", "",
                                               "VB Toolkit/Doc/Quinloft_Users_Guide.chm", "https://developers"));
 }
 
-TEST_F(GettingStarted, APictureThatIsMissingIsReportedAndThePageShown) {
+TEST_F(GettingStarted, ReportsAMissingPictureAndShowsThePage) {
     files.files.erase("/addin/forms.jpg");
     show([&] {
         next();
@@ -219,7 +219,7 @@ TEST_F(GettingStarted, APictureThatIsMissingIsReportedAndThePageShown) {
     EXPECT_THAT(errors.seen, ElementsAre("frmGettingStarted.ShowPage [53]"));
 }
 
-TEST_F(GettingStarted, TheFirstPictureIsLookedForWhenTheFormStands) {
+TEST_F(GettingStarted, LoadsTheFirstPictureOnceVisible) {
     files.files.erase("/addin/welcome.jpg");
     intro.Load();
     EXPECT_THAT(errors.seen, IsEmpty());
@@ -243,7 +243,7 @@ TEST_F(StartPreference, IsWhatTheBoxShows) {
     show([&] { EXPECT_EQ(intro.chkDontShow.Value(), 0); });
     storeTutorial("False");
     show([&] { EXPECT_EQ(intro.chkDontShow.Value(), 1); });
-    EXPECT_EQ(stored(), "False"); // nobody has clicked
+    EXPECT_EQ(stored(), "False"); // without a click
 }
 
 TEST_F(StartPreference, AClickStoresTheOppositeOfTheBox) {
@@ -257,28 +257,28 @@ TEST_F(StartPreference, AClickStoresTheOppositeOfTheBox) {
     EXPECT_EQ(stored(), "False");
 }
 
-TEST_F(StartPreference, ALaterShowLeavesItAsItIs) {
+TEST_F(StartPreference, ALaterShowDoesNotChangeIt) {
     show([&] { intro.chkDontShow.Value(1); });
     show([&] { EXPECT_EQ(intro.chkDontShow.Value(), 1); });
     EXPECT_EQ(stored(), "False");
 }
 
-TEST_F(StartPreference, WithoutWriteAccessTheBoxDoesNotLast) {
+TEST_F(StartPreference, WithoutWriteAccessTheBoxIsNotStored) {
     std::uint32_t root = fernwick::HKEY_LOCAL_MACHINE;
-    registry.RegDeleteKey(root, kMachinePrefs); // can't be opened, and opening makes none
+    registry.RegDeleteKey(root, kMachinePrefs); // can't be opened, and opening does not create it
     show([&] { intro.chkDontShow.Value(1); });
     show([&] { EXPECT_EQ(intro.chkDontShow.Value(), 0); });
     EXPECT_THAT(errors.seen, IsEmpty());
 }
 
-TEST_F(StartPreference, OneThatIsNoBooleanIsReportedAndCountsAsTrue) {
+TEST_F(StartPreference, ANonBooleanIsReportedAndCountsAsTrue) {
     storeTutorial("maybe");
     show([&] { EXPECT_EQ(intro.chkDontShow.Value(), 0); });
     EXPECT_THAT(errors.seen, ElementsAre("frmGettingStarted.Form_Load [13]"));
 }
 
-TEST_F(GettingStarted, EachCallThatFailsCostsOnlyItself) {
-    opener.fails = true; // so that boxes come up
+TEST_F(GettingStarted, AFailingCallLosesOnlyItself) {
+    opener.fails = true; // to get boxes
     const auto session = [&] {
         return effectsOf([&] {
             (void)basic::attempt([&] {

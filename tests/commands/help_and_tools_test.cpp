@@ -37,7 +37,7 @@ protected:
     fernwick::modHelpManagement help{platformWithPrograms, install, errors};
 };
 
-TEST_F(HelpAndTools, NumbersThatAreNoToolsStartNothing) {
+TEST_F(HelpAndTools, UnknownToolNumbersStartNothing) {
     EXPECT_FALSE(tools.OpenViewerConverter(9));
     EXPECT_FALSE(tools.OpenViewerConverter(-1));
     EXPECT_THAT(programs.started, IsEmpty());
@@ -50,7 +50,7 @@ TEST_F(HelpAndTools, AToolThatCantBeStartedIsReported) {
     EXPECT_THAT(errors.seen, ElementsAre("modViewConvertManagement.OpenViewerConverter [53]"));
 }
 
-TEST_F(HelpAndTools, TheConfigurationLiesInAFolderOfItsOwn) {
+TEST_F(HelpAndTools, TheConfigurationIsInItsOwnFolder) {
     EXPECT_TRUE(tools.OpenViewerConverter(fernwick::kWeirgateConfiguration));
     EXPECT_THAT(programs.started, ElementsAre("/install/Weirgate/WGConfig.exe"));
 }
@@ -77,14 +77,14 @@ TEST_F(HelpAndTools, WithoutAnInstallationTheBoxShowsTheBareName) {
                             "location:\r\nQuinloft_Users_Guide.chm"));
 }
 
-TEST_F(HelpAndTools, AViewerOfHelpThatIsMissingIsReported) {
+TEST_F(HelpAndTools, ReportsAMissingHelpViewer) {
     files.files["/install/VB Toolkit/doc/Quinloft_Users_Guide.chm"] = {};
     programs.fails = true;
     help.DisplayHelp(0);
     EXPECT_THAT(errors.seen, ElementsAre("modHelpManagement.DisplayHelp [53]"));
 }
 
-/// The programs of an installation, as scripts that tell that they ran.
+/// The programs of an installation, as scripts that record that they ran.
 class InstalledTools : public testing::Test, protected test::CommandsWorld {
 protected:
     InstalledTools() { registry.set(fernwick::HKEY_LOCAL_MACHINE, "Software\\Quinloft", "RootDir", root.path()); }
@@ -118,13 +118,13 @@ TEST_F(InstalledTools, StartUnderTheirNamesWithOrWithoutTheExtension) {
     EXPECT_THAT(errors.seen, IsEmpty());
 }
 
-TEST_F(InstalledTools, OneThatIsNoProgramIsReported) {
+TEST_F(InstalledTools, ReportAFileThatIsNotAProgram) {
     root.write("VB Toolkit/Bin/QLFonC.exe", "not to be run");
     EXPECT_FALSE(tools.OpenViewerConverter(fernwick::kFontConverter));
     EXPECT_THAT(errors.seen, ElementsAre("modViewConvertManagement.OpenViewerConverter [53]"));
 }
 
-/// The help of this installation, where no desktop shows it.
+/// The help of this installation, without a desktop to show it.
 class InstalledHelp : public testing::Test, protected test::CommandsWorld {
 protected:
     InstalledHelp() {
@@ -153,7 +153,7 @@ TEST_F(InstalledHelp, HasAPageForEachGuide) {
     EXPECT_THAT(errors.seen, IsEmpty());
 }
 
-TEST_F(InstalledHelp, IsWhatTheIntroductionLeadsTo) {
+TEST_F(InstalledHelp, IsLinkedFromTheIntroduction) {
     fernwick::modAddinPrefsManagement preferences{registry2, errors};
     fernwick::frmGettingStarted intro{real, install, preferences, errors};
     intro.Load();
@@ -168,9 +168,9 @@ TEST_F(InstalledHelp, IsWhatTheIntroductionLeadsTo) {
 }
 
 TEST(StringTable, KeepsWhatTheMenuDoesNotUse) {
-    EXPECT_EQ(fernwick::LoadResString(fernwick::kPalmOSString), "&Palm OS");
-    EXPECT_EQ(fernwick::LoadResString(fernwick::kPocketPCString), "P&ocketPC");
-    EXPECT_EQ(fernwick::LoadResString(fernwick::kDeployToTargetString), "Deploy To Design &Target");
+    EXPECT_STREQ(fernwick::command_texts::kPalmOSString.text, "&Palm OS");
+    EXPECT_STREQ(fernwick::command_texts::kPocketPCString.text, "P&ocketPC");
+    EXPECT_STREQ(fernwick::command_texts::kDeployToTargetString.text, "Deploy To Design &Target");
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-// The order in which the menu asks the host, and how its making fails.
+// The order of steps when the menu is built, and failures of the building.
 #include "commands_world.h"
 
 using testing::ElementsAre;
@@ -12,7 +12,7 @@ protected:
     std::vector<std::string> built() {
         return effectsOf([&] { built_ = build(); });
     }
-    /// Of a whole build, what concerns items whose captions begin so.
+    /// The effects of a whole build on items whose captions begin with this.
     std::vector<std::string> builtItem(const std::string& beginning) {
         std::vector<std::string> some;
         const auto all = built();
@@ -41,7 +41,7 @@ TEST_F(MenuOrder, AnItemGetsItsCaptionItsGroupAndItsFace) {
                             "Zoom Window: group", "Zoom Window: face"));
 }
 
-TEST_F(MenuOrder, TheDownloadIsMadeAndTakenAway) {
+TEST_F(MenuOrder, AddsAndHidesTheDownload) {
     EXPECT_THAT(builtItem("Download Tamarik..."),
                 ElementsAre("Fernwick: + button", "?: caption Download Tamarik...", "Download Tamarik...: no group",
                             "Download Tamarik...: group", "Download Tamarik...: disabled",
@@ -66,7 +66,7 @@ TEST_F(MenuOrder, TheOtherFamiliesHaveNoFaces) {
 }
 
 TEST_F(MenuOrder, AnOldMenuIsDeletedFirst) {
-    menuBar()->stand(7, "&Fernwick");
+    menuBar()->addControl(7, "&Fernwick");
     EXPECT_EQ(built()[0], "Fernwick: deleted");
     EXPECT_EQ(built()[0], "Fernwick: deleted");
     EXPECT_THAT(errors.seen, IsEmpty());
@@ -79,7 +79,7 @@ TEST_F(MenuOrder, WithoutItsViewMenuTheBarIsFoundByAddIns) {
 }
 
 TEST_F(MenuOrder, TheBarOfTheViewMenuComesFirst) {
-    bars->stand("Other Bar")->stand(30038, "&Add-Ins");
+    bars->addBar("Other Bar")->addControl(30038, "&Add-Ins");
     std::erase_if(menuBar()->items, [](const auto& item) { return item->caption == "&Add-Ins"; });
     EXPECT_EQ(built()[0], "Menu Bar: + popup");
 }
@@ -90,7 +90,7 @@ TEST_F(MenuOrder, WithoutEitherTheMenuGoesToTheEndOfTheActiveBar) {
     EXPECT_EQ(captions(menuBar()).back(), "&Fernwick");
 }
 
-TEST_F(MenuOrder, WithoutAMenuBarTheUserIsTold) {
+TEST_F(MenuOrder, WithoutAMenuBarInformsTheUser) {
     menuBar()->items.clear();
     bars->menuBar = nullptr;
     EXPECT_THAT(built(), ElementsAre("box 16 ERROR: Could not Add Fernwick Tools Submenu: CRITICAL_ERROR: Could not "
@@ -99,13 +99,13 @@ TEST_F(MenuOrder, WithoutAMenuBarTheUserIsTold) {
     EXPECT_FALSE(items.gFileThirdItem);
 }
 
-TEST_F(MenuOrder, AFailureOfTheSearchIsToldWithItsText) {
+TEST_F(MenuOrder, ShowsTheErrorOfTheSearch) {
     vbe->bars = nullptr;
     EXPECT_THAT(built(),
                 ElementsAre(HasSubstr("'Menu Bar'\r\n\r\nObject variable or With block variable not set (91)")));
 }
 
-TEST_F(MenuOrder, ALaterFailureGoesToWhoBuilds) {
+TEST_F(MenuOrder, ALaterFailureGoesToTheCaller) {
     std::erase_if(bars->list, [](const auto& bar) { return bar->name == "File"; });
     EXPECT_EQ(basic::attempt([&] { build(); }).Number, 5);
     EXPECT_TRUE(items.gMainMenu);
@@ -113,7 +113,7 @@ TEST_F(MenuOrder, ALaterFailureGoesToWhoBuilds) {
     EXPECT_THAT(errors.seen, IsEmpty());
 }
 
-TEST_F(MenuOrder, WhatAFailureLeftIsReplacedByTheNextBuild) {
+TEST_F(MenuOrder, TheNextBuildReplacesAFailedOne) {
     targets.known = {"Palm-1"};
     addSample("\\A", "", "A");
     build();
@@ -127,7 +127,7 @@ TEST_F(MenuOrder, WhatAFailureLeftIsReplacedByTheNextBuild) {
         EXPECT_TRUE(error.Number == 0 || error.Number == test::kInjected) << failing;
         EXPECT_TRUE(build());
         EXPECT_EQ(captions(shownMenu()), whole) << failing;
-        // what could not be deleted, or never got its caption, is left
+        // remove what could not be deleted or has no caption yet
         std::erase_if(menuBar()->items, [](const auto& item) { return item->Id() == 1; });
     }
 }

@@ -1,4 +1,4 @@
-// The menu with a project of ours and without one, its end, the design target's item and the importer's.
+// The menu with and without a project, its removal, the design target's item and the importer's.
 #include "commands_world.h"
 
 using testing::ElementsAre;
@@ -22,7 +22,7 @@ protected:
     std::vector<std::string> removed() {
         return effectsOf([&] { menu.RemoveQuinloftMenu(); });
     }
-    /// Each call of `act` that fails costs its own effect and nothing else. Gives how many calls there were.
+    /// Each failing call of `act` loses its own effect only. Returns the number of calls.
     int sweep(const std::function<void()>& again, const std::function<std::vector<std::string>()>& act, int reports) {
         again();
         const auto before = act();
@@ -44,7 +44,7 @@ protected:
     }
 };
 
-TEST_F(MenuState, EnablingGoesInItsOrderAndLeavesTheLastInstallItem) {
+TEST_F(MenuState, EnablesInOrderExceptTheLastInstallItem) {
     EXPECT_THAT(
         enabled(),
         ElementsAre("Compile and Validate: enabled", "To My Devices: enabled", "Save Project Package...: enabled",
@@ -57,7 +57,7 @@ TEST_F(MenuState, EnablingGoesInItsOrderAndLeavesTheLastInstallItem) {
                     "Palm-1: enabled", "Pocket-1: enabled", "Palm-1: enabled"));
 }
 
-TEST_F(MenuState, DisablingLeavesWhatNeedsNoProject) {
+TEST_F(MenuState, DisablesOnlyWhatNeedsAProject) {
     EXPECT_THAT(disabled(),
                 ElementsAre("Compile and Validate: disabled", "To My Devices: disabled",
                             "Save Project Package...: disabled", "To My Devices: disabled",
@@ -72,7 +72,7 @@ TEST_F(MenuState, WithoutUsableTargetsTheDeviceItemsStay) {
     EXPECT_EQ(disabled().back(), "Fernwick Messages Window: disabled");
 }
 
-TEST_F(MenuState, RemovingTakesTheDevicesFirstAndTheMenuLast) {
+TEST_F(MenuState, RemovesTheDevicesFirstAndTheMenuLast) {
     EXPECT_THAT(removed(),
                 ElementsAre("Palm-1: deleted", "Pocket-1: deleted", "Palm-1: deleted", "Pocket-1: deleted",
                             "Palm-1: deleted", "Pocket-1: deleted", "Compile and Validate: deleted",
@@ -84,7 +84,7 @@ TEST_F(MenuState, RemovingTakesTheDevicesFirstAndTheMenuLast) {
     EXPECT_FALSE(menuBar()->at("Fernwick"));
 }
 
-TEST_F(MenuState, WhatIsGoneAlreadyIsNoHindrance) {
+TEST_F(MenuState, IgnoresDeletedItems) {
     items.gSettingsItem->Delete();
     items.gDeployItems[0]->Delete();
     EXPECT_THAT(disabled(), testing::Contains("Zoom Window: disabled"));
@@ -143,7 +143,7 @@ TEST_F(MenuState, TheImportersItemIsTheLastThatMatches) {
     EXPECT_EQ(items.gConverterItem, last);
     last->Caption("other");
     shownMenu("Quinloft Utilities")->items.clear();
-    EXPECT_EQ(menu.FindConverterMenuItem(), last); // it stays as it was
+    EXPECT_EQ(menu.FindConverterMenuItem(), last); // unchanged
 }
 
 TEST_F(MenuState, AnImporterThatCantBeLookedUpIsReported) {

@@ -1,4 +1,4 @@
-// The menu as it stands on the real host.
+// The menu on the real host.
 #include "Host/model/bars/bars.h"
 #include "commands_world.h"
 #include "tests/support/test_host.h"
@@ -12,7 +12,7 @@ protected:
     MenuTree() { addIn.gVBInstance = host.ide; }
 
     bool buildOnHost() { return menu.SetUpQuinloftMenu(host.ide); }
-    /// One line an item: "--" before what begins a group, its caption, its face; what lies below is indented.
+    /// One line for each item: "--" if it begins a group, caption, face; items of popups are indented.
     static std::string text(const test::Ref<office::CommandBarControls>& controls, const std::string& indent = "") {
         std::string all;
         for (const auto& control : controls->items()) {
@@ -36,7 +36,7 @@ protected:
     test::TestHost host{nullptr, &pasteboard};
 };
 
-TEST_F(MenuTree, StandsInFrontOfAddInsWithAllItsItems) {
+TEST_F(MenuTree, IsBeforeAddInsWithAllItems) {
     targets.known = {"Palm-1"};
     EXPECT_TRUE(buildOnHost());
     EXPECT_THAT(barCaptions(), ElementsAre("&File", "&Edit", "&View", "&Project", "&Fernwick", "&Add-Ins", "&Help"));
@@ -75,7 +75,7 @@ TEST_F(MenuTree, StandsInFrontOfAddInsWithAllItsItems) {
                                                  "--&About Fernwick...\n");
 }
 
-TEST_F(MenuTree, TheDownloadIsOffForGood) {
+TEST_F(MenuTree, TheDownloadStaysDisabled) {
     buildOnHost();
     EXPECT_FALSE(items.gDownloadItem->Enabled());
     EXPECT_FALSE(items.gDownloadItem->Visible());
@@ -116,14 +116,14 @@ TEST_F(MenuTree, EachFamilyHasOneItemSortedByItsKey) {
     }
 }
 
-TEST_F(MenuTree, TwelveFamiliesAllStand) {
+TEST_F(MenuTree, HasItemsForTwelveFamilies) {
     for (int i = 10; i < 22; ++i) targets.known.push_back("F" + std::to_string(i) + "-1");
     buildOnHost();
     EXPECT_EQ(items.gDeployPopup->Controls()->Count(), 13);
     EXPECT_EQ(items.gInstallItems[11]->Tag(), "F21-1");
 }
 
-TEST_F(MenuTree, AMenuThatIsLeftFromAnEarlierRunGoesAway) {
+TEST_F(MenuTree, ReplacesAMenuFromAnEarlierRun) {
     buildOnHost();
     const auto old = items.gMainMenu;
     buildOnHost();
@@ -140,7 +140,7 @@ TEST_F(MenuTree, TheToolbarsOfTheSameNamesLeaveItAlone) {
     EXPECT_EQ(popupText("Quinloft Utilities").substr(0, 19), "&Database Converter");
 }
 
-TEST_F(MenuTree, AFaceThatIsMissingLeavesTheItem) {
+TEST_F(MenuTree, AMissingFaceLeavesTheItem) {
     fernwick::Platform bare{user,       loop,  registry, files, processes, classes,     environment,
                             pasteboard, shell, screen,   clock, resources, platform.app};
     fernwick::modImageManagement noImages{bare};
@@ -177,7 +177,7 @@ TEST(TopDevices, AreTheFirstOfEachFamily) {
     EXPECT_TRUE(topDevices({}).empty());
 }
 
-TEST(TopDevices, AKeyWithoutAFamilyKeepsASlotOfItsOwn) {
+TEST(TopDevices, KeepEachKeyWithoutAFamily) {
     EXPECT_THAT(topDevices({"Palm", "Palm", "Palm-1", "Palm-2"}), ElementsAre("Palm", "Palm", "Palm-1"));
     EXPECT_THAT(topDevices({"Palm-1", "Palm"}), ElementsAre("Palm-1", "Palm"));
 }

@@ -1,4 +1,4 @@
-// The samples that the registry lists.
+// The samples listed in the registry.
 #include "Host/registry/registry_store.h"
 #include "Host/system/file_system.h"
 #include "commands_world.h"
@@ -16,7 +16,7 @@ protected:
         const auto all = shownMenu("Samples and Tutorials");
         return captions(popup.empty() ? all : test::Ref<test::TracedBar>(all->at(popup)->popup));
     }
-    /// Name and project of what stands in the array, "> caption" for a popup.
+    /// Name and project of each entry in the array, "> caption" for a popup.
     std::vector<std::string> listed() {
         std::vector<std::string> all;
         for (const auto& item : items.gSampleItems)
@@ -64,20 +64,20 @@ TEST_F(SamplesMenu, OnlyTheFirstPopupBeginsAGroup) {
     EXPECT_TRUE(all->at(fixed[2])->group);
 }
 
-TEST_F(SamplesMenu, AKeyWithoutANameIsNotListedNorWhatLiesBelow) {
+TEST_F(SamplesMenu, SkipsAKeyWithoutANameAndItsSubkeys) {
     addSample("\\A", "Leaf", "/s/leaf.vbp");
     addSample("\\A\\B", "", "B");
     addSample("\\C", "", "");
     EXPECT_EQ(samples(), fixed);
 }
 
-TEST_F(SamplesMenu, AValueWithoutANameOrDataIsNoSample) {
+TEST_F(SamplesMenu, SkipsAValueWithoutANameOrData) {
     addSample("\\A", "", "A");
     addSample("\\A", "Empty", "");
     EXPECT_THAT(samples("A"), IsEmpty());
 }
 
-TEST_F(SamplesMenu, SamplesThatWentAwayAreForgotten) {
+TEST_F(SamplesMenu, ForgetsRemovedSamples) {
     addSample("\\A", "", "A");
     build();
     std::uint32_t root = fernwick::HKEY_LOCAL_MACHINE;
@@ -86,7 +86,7 @@ TEST_F(SamplesMenu, SamplesThatWentAwayAreForgotten) {
     EXPECT_FALSE(items.gSampleItems.isAllocated());
 }
 
-TEST_F(SamplesMenu, AFailureCostsOneBranchAndTheRestStands) {
+TEST_F(SamplesMenu, AFailureLosesOneBranch) {
     addSample("\\A", "", "A");
     addSample("\\A", "One", "/s/1.vbp");
     addSample("\\A", "Two", "/s/2.vbp");
@@ -99,7 +99,7 @@ TEST_F(SamplesMenu, AFailureCostsOneBranchAndTheRestStands) {
         menu.SetupSamplesMenu();
         trace.failing = 0;
         if (trace.calls < failing) break;
-        EXPECT_LE(errors.injected, 1) << failing; // a face fails without a word
+        EXPECT_LE(errors.injected, 1) << failing; // faces fail silently
         const auto standing = captions(shownMenu("Samples and Tutorials"));
         const auto missing = test::lost({fixed[0], fixed[1], "A", fixed[2]}, standing);
         EXPECT_LE(missing.size(), 1U) << failing;
@@ -108,7 +108,7 @@ TEST_F(SamplesMenu, AFailureCostsOneBranchAndTheRestStands) {
     EXPECT_THAT(errors.seen, testing::Contains("modMenuManagement.SetupDynamicSamplesMenuHelper [50000]"));
 }
 
-TEST_F(SamplesMenu, AnItemTellsItsProjectAndFolder) {
+TEST_F(SamplesMenu, AnItemKnowsItsProjectAndFolder) {
     fernwick::clsSampleMenuItem item;
     item.fullPath = "/s/Tip/Tip.vbp";
     EXPECT_EQ(item.sampleVbp(files), "Tip.vbp");
@@ -137,14 +137,14 @@ TEST_F(SamplesList, IsFlatWithTheSamplesOfAKeyBeforeThoseBelow) {
     EXPECT_EQ(samples.SamplesListLength(), 4);
 }
 
-TEST_F(SamplesList, LeavesOutWhatHasNoNameOrNoData) {
+TEST_F(SamplesList, SkipsEntriesWithoutANameOrData) {
     addSample("\\A", "", "A");
     addSample("\\A", "Empty", "");
     EXPECT_THAT(listed(), IsEmpty());
 }
 
-/// What this installation lists.
-TEST(InstalledSamples, AreProjectsThatAreThere) {
+/// The samples of this installation.
+TEST(InstalledSamples, AreExistingProjects) {
     const test::TempFolder stores;
     host::RegistryStore store{{stores / "user", stores / "machine", FERNWICK_SOURCE_DIR "/installation"}};
     fernwick::modRegistry2 registry{store};
@@ -155,7 +155,7 @@ TEST(InstalledSamples, AreProjectsThatAreThere) {
     for (const auto& sample : samples.gSamplesList) EXPECT_TRUE(disk.FileExists(sample.fullPath)) << sample.fullPath;
 }
 
-TEST_F(SamplesList, IsReadAnewEachTime) {
+TEST_F(SamplesList, IsReadAgainEachTime) {
     EXPECT_THAT(listed(), IsEmpty());
     addSample("\\A", "Leaf", "/s/leaf.vbp");
     EXPECT_THAT(listed(), ElementsAre("Leaf=/s/leaf.vbp"));

@@ -1,4 +1,4 @@
-// The two toolbars, and where they stood.
+// The two toolbars and their stored positions.
 #include "commands_world.h"
 
 using testing::Contains;
@@ -39,7 +39,7 @@ protected:
     }
 };
 
-TEST_F(Toolbars, TheMainOneHasItsButtons) {
+TEST_F(Toolbars, TheMainToolbarHasItsButtons) {
     const auto effects = effectsOf([&] { EXPECT_TRUE(toolbars.SetupQuinloftToolbar()); });
     EXPECT_THAT(tips(bar("Fernwick")),
                 ElementsAre("Compile and Validate", "Deploy to Device", "Fernwick Settings", "--Open Fernwick Project",
@@ -52,7 +52,7 @@ TEST_F(Toolbars, TheMainOneHasItsButtons) {
     EXPECT_EQ(items.gToolGuide->ToolTipText(), "Fernwick User's Guide");
 }
 
-TEST_F(Toolbars, TheOneOfTheUtilitiesHasAButtonForEach) {
+TEST_F(Toolbars, TheSupportToolbarHasAButtonForEachUtility) {
     EXPECT_TRUE(toolbars.SetupSupportToolbar());
     EXPECT_THAT(tips(bar("Quinloft Utilities")),
                 ElementsAre("&Database Converter", "&PDB Database Viewer", "&Font Converter", "F&ont Viewer",
@@ -64,22 +64,22 @@ TEST_F(Toolbars, TheOneOfTheUtilitiesHasAButtonForEach) {
     EXPECT_EQ(items.gToolWGConfig->ToolTipText(), "&Weirgate Configuration");
 }
 
-TEST_F(Toolbars, OneThatACrashLeftIsReplaced) {
-    bars->stand("Fernwick")->left = 99;
+TEST_F(Toolbars, ReplaceOnesLeftByACrash) {
+    bars->addBar("Fernwick")->left = 99;
     const auto effects = effectsOf([&] { toolbars.SetupQuinloftToolbar(); });
     EXPECT_EQ(effects[0], "Fernwick: deleted");
     EXPECT_EQ(effects[1], "bar Fernwick at 1");
     EXPECT_EQ(bar("Fernwick").left, 0);
 }
 
-TEST_F(Toolbars, AFirstStartLeavesThemWhereTheHostPutsThem) {
+TEST_F(Toolbars, AFirstStartKeepsTheHostsPositions) {
     toolbars.SetupQuinloftToolbar();
     EXPECT_FALSE(prefs.ReadToolbarState(items.gMainToolbar));
     EXPECT_EQ(bar("Fernwick").position, 1);
     EXPECT_TRUE(bar("Fernwick").visible);
 }
 
-TEST_F(Toolbars, ComeBackWhereTheyStood) {
+TEST_F(Toolbars, AreRestoredToTheirPositions) {
     storeAll("Fernwick");
     const auto effects = effectsOf([&] { toolbars.SetupQuinloftToolbar(); });
     EXPECT_THAT(std::vector(effects.end() - 6, effects.end()),
@@ -88,7 +88,7 @@ TEST_F(Toolbars, ComeBackWhereTheyStood) {
     EXPECT_TRUE(prefs.ReadToolbarState(items.gMainToolbar));
 }
 
-TEST_F(Toolbars, WithoutAStoredVisibilityThePlaceIsTaken) {
+TEST_F(Toolbars, WithoutAStoredVisibilityOnlyThePositionIsRestored) {
     storeAll("Fernwick");
     std::uint32_t key = registry2.OpenKey(fernwick::HKEY_CURRENT_USER, kPrefs, fernwick::KEY_ALL_ACCESS);
     registry.RegDeleteValue(key, "VISIBLE:Fernwick");
@@ -99,7 +99,7 @@ TEST_F(Toolbars, WithoutAStoredVisibilityThePlaceIsTaken) {
     EXPECT_TRUE(bar("Fernwick").visible);
 }
 
-TEST_F(Toolbars, WhatStandsBehindAMissingValueIsLeftOut) {
+TEST_F(Toolbars, ValuesAfterAMissingOneAreSkipped) {
     storeAll("Fernwick");
     store("INDEX:Fernwick", std::string("\3\0\0\0", 4), fernwick::REG_DWORD); // not a text
     toolbars.SetupQuinloftToolbar();
@@ -107,7 +107,7 @@ TEST_F(Toolbars, WhatStandsBehindAMissingValueIsLeftOut) {
     EXPECT_EQ(bar("Fernwick").left, 0);
 }
 
-TEST_F(Toolbars, ATextThatIsNoNumberIsReportedAndTheNextOneIsRead) {
+TEST_F(Toolbars, ReportsATextThatIsNotANumberAndContinues) {
     storeAll("Fernwick");
     store("LEFT:Fernwick", "far");
     toolbars.SetupQuinloftToolbar();
@@ -131,7 +131,7 @@ TEST_F(Toolbars, AreStoredAsTexts) {
     EXPECT_EQ(bar("Fernwick").left, -7);
 }
 
-TEST_F(Toolbars, EachStoredValueThatFailsCostsOnlyItself) {
+TEST_F(Toolbars, AFailingValueLosesOnlyItself) {
     toolbars.SetupQuinloftToolbar();
     for (int failing = 1; failing <= 10; ++failing) { // the name and the value of five
         errors.seen.clear();
@@ -145,7 +145,7 @@ TEST_F(Toolbars, EachStoredValueThatFailsCostsOnlyItself) {
 }
 
 TEST_F(Toolbars, AreEnabledAndDisabledAsAWhole) {
-    toolbars.EnableQuinloftToolbar(); // no bar stands yet
+    toolbars.EnableQuinloftToolbar(); // no bar exists yet
     toolbars.DisableSupportToolbar();
     toolbars.SetupQuinloftToolbar();
     toolbars.SetupSupportToolbar();
@@ -159,7 +159,7 @@ TEST_F(Toolbars, AreEnabledAndDisabledAsAWhole) {
                             "Quinloft Utilities: disabled"));
 }
 
-TEST_F(Toolbars, ABarThatIsGoneIsReportedWhenItIsEnabledOnly) {
+TEST_F(Toolbars, ADeletedBarIsReportedOnlyWhenEnabled) {
     toolbars.SetupQuinloftToolbar();
     items.gMainToolbar->Delete();
     toolbars.DisableQuinloftToolbar();
@@ -184,7 +184,7 @@ TEST_F(Toolbars, AreRemovedButtonByButton) {
     EXPECT_THAT(errors.seen, IsEmpty());
 }
 
-TEST_F(Toolbars, EachCallOfASetUpThatFailsEndsItWithOneReport) {
+TEST_F(Toolbars, AFailingCallEndsTheSetUpWithOneReport) {
     for (int failing = 1;; ++failing) {
         errors.seen.clear();
         trace.calls = 0;

@@ -1,4 +1,4 @@
-// What the commands do, from the menu and the toolbars.
+// The commands of the menu and the toolbars.
 #include "whole_world.h"
 
 using testing::Contains;
@@ -14,7 +14,7 @@ constexpr char kNotHere[] = "box 64 Fernwick: This command is not in this build 
 class Commands : public testing::Test, protected test::WholeWorld {
 protected:
     void TearDown() override { EXPECT_TRUE(host.failures.empty()); }
-    /// Of a run, what the devices got.
+    /// What the devices received in a run.
     static std::vector<std::string> deliveries(const std::vector<std::string>& seen) {
         std::vector<std::string> some;
         for (const auto& one : seen)
@@ -42,7 +42,7 @@ TEST_F(Commands, APackageItemPackages) {
     EXPECT_THAT(deliveries(click(items().gPackageItems[1])), ElementsAre("package Hello for Pocket-1"));
 }
 
-TEST_F(Commands, TheRuntimeNeedsNoProject) {
+TEST_F(Commands, InstallsTheRuntimeWithoutAProject) {
     connect();
     EXPECT_TRUE(items().gInstallItems[1]->Enabled());
     EXPECT_THAT(deliveries(click(items().gInstallItems[1])), ElementsAre("runtime to Pocket-1"));
@@ -50,13 +50,13 @@ TEST_F(Commands, TheRuntimeNeedsNoProject) {
 
 TEST_F(Commands, TheToolbarSendsToTheProjectsOwnTarget) {
     const auto project = connected();
-    modules->menu.SetupDefaultTargetName("Pocket-1"); // what the menu shows is no matter
+    modules->menu.SetupDefaultTargetName("Pocket-1"); // the menu's state does not matter
     EXPECT_THAT(deliveries(click(items().gToolDeploy)), ElementsAre("send Hello to Palm-1"));
     project->WriteProperty("Quinloft Global", "TargetDevice", "Pocket-1");
     EXPECT_THAT(deliveries(click(items().gToolDeploy)), ElementsAre("send Hello to Pocket-1"));
 }
 
-TEST_F(Commands, MyDevicesAreServedInTheirOrder) {
+TEST_F(Commands, ServesMyDevicesInOrder) {
     connected();
     chooseDevices({"Pocket-1", "Palm-1", "Pocket-1"});
     EXPECT_THAT(deliveries(click(items().gDeployAllItem)),
@@ -75,7 +75,7 @@ TEST_F(Commands, AFailingDeviceDoesNotStopTheList) {
     EXPECT_EQ(deliveries(click(items().gInstallAllItem)).size(), 2U);
 }
 
-TEST_F(Commands, MyDevicesThatAreFewerMeanwhileEndTheList) {
+TEST_F(Commands, AShorterListOfMyDevicesEndsTheRun) {
     connected();
     chooseDevices({"Palm-1", "Pocket-1"});
     family.work = [&](qlpipe::IQLPipeEvents&) { return chooseDevices({"Palm-1"}), true; };
@@ -85,7 +85,7 @@ TEST_F(Commands, MyDevicesThatAreFewerMeanwhileEndTheList) {
     host.failures.clear();
 }
 
-TEST_F(Commands, DevicesThatComeMeanwhileWaitForTheNextTime) {
+TEST_F(Commands, DevicesAddedDuringARunWaitForTheNextOne) {
     connected();
     chooseDevices({"Palm-1"});
     family.work = [&](qlpipe::IQLPipeEvents&) { return chooseDevices({"Palm-1", "Pocket-1"}), true; };
@@ -93,7 +93,7 @@ TEST_F(Commands, DevicesThatComeMeanwhileWaitForTheNextTime) {
     EXPECT_EQ(deliveries(click(items().gInstallAllItem)).size(), 2U);
 }
 
-TEST_F(Commands, WithoutDevicesNoLeavesEverythingAsItWas) {
+TEST_F(Commands, WithoutDevicesAnsweringNoChangesNothing) {
     connected();
     for (const auto& item : {items().gDeployAllItem, items().gPackageAllItem, items().gInstallAllItem}) {
         user.answers = {fernwick::vbNo};
@@ -101,7 +101,7 @@ TEST_F(Commands, WithoutDevicesNoLeavesEverythingAsItWas) {
     }
 }
 
-TEST_F(Commands, WithoutDevicesTheQuestionComesAgainUntilNo) {
+TEST_F(Commands, WithoutDevicesAsksAgainUntilNo) {
     connected();
     user.answers = {fernwick::vbYes, fernwick::vbYes, fernwick::vbNo};
     EXPECT_THAT(click(items().gDeployAllItem),
@@ -126,7 +126,7 @@ TEST_F(Commands, NoAvailableDevicesDoesNothing) {
     }
 }
 
-TEST_F(Commands, TheLastOfTwelveDevicesDoNothing) {
+TEST_F(Commands, DevicesBeyondTheTenthDoNothing) {
     for (int i = 10; i < 20; ++i) targets.known.push_back("A" + std::to_string(i) + "-1");
     connected();
     chooseDevices({});
@@ -136,14 +136,14 @@ TEST_F(Commands, TheLastOfTwelveDevicesDoNothing) {
     EXPECT_THAT(click(items().gPackageItems[10]), IsEmpty());
 }
 
-TEST_F(Commands, TheMessagesWindowShows) {
+TEST_F(Commands, ShowsTheMessagesWindow) {
     connected();
     EXPECT_FALSE(modules->messages.isToolWindowShowing());
     click(items().gMessagesItem);
     EXPECT_TRUE(modules->messages.isToolWindowShowing());
 }
 
-TEST_F(Commands, WhatIsNotHereYetSaysSo) {
+TEST_F(Commands, MissingFeaturesAreReported) {
     connected();
     EXPECT_THAT(click(items().gSettingsItem), ElementsAre("cursor 11", kNotHere));
     EXPECT_THAT(click(items().gToolSettings), ElementsAre("cursor 11", kNotHere));
@@ -151,13 +151,13 @@ TEST_F(Commands, WhatIsNotHereYetSaysSo) {
         EXPECT_THAT(click(item), ElementsAre(kNotHere));
 }
 
-TEST_F(Commands, TheHourglassEndsWhereNoDialogComes) {
+TEST_F(Commands, ResetsTheHourglassWithoutADialog) {
     connected();
     click(items().gSettingsItem);
     EXPECT_THAT(trace.effects, ElementsAre("cursor 11", "cursor 1", kNotHere));
 }
 
-TEST_F(Commands, AtTheCommandLineNothingSaysSo) {
+TEST_F(Commands, AtTheCommandLineMissingFeaturesAreSilent) {
     host.open(hello());
     connect(vbide::vbext_cm_CommandLine);
     EXPECT_THAT(click(items().gSettingsItem), ElementsAre("cursor 11"));
@@ -180,7 +180,7 @@ TEST_F(Commands, TheWebItemOpensTheSupportPages) {
 
 TEST_F(Commands, TheDownloadAsksFirst) {
     connect();
-    items().gDownloadItem->Enabled(true); // it is kept ready
+    items().gDownloadItem->Enabled(true); // the command still works
     const auto question =
         box(1,
             "Quinloft Tamarik\u2122 is required to run deployed applications. Click \"OK\" to download "
@@ -192,7 +192,7 @@ TEST_F(Commands, TheDownloadAsksFirst) {
     EXPECT_THAT(click(items().gDownloadItem), ElementsAre(question, "open https://runtime.example"));
 }
 
-TEST_F(Commands, TheGuideOpensOrItsBoxTellsItsPath) {
+TEST_F(Commands, OpensTheGuideOrShowsItsPath) {
     connect();
     const auto path = host.folder / "install/VB Toolkit/doc/Quinloft_Users_Guide.chm";
     const auto missing = box(48, "Specified Help File Not Found;\r\nHelp file is missing or not in default "
@@ -204,7 +204,7 @@ TEST_F(Commands, TheGuideOpensOrItsBoxTellsItsPath) {
     EXPECT_THAT(click(items().gToolGuide), ElementsAre("start Hh.exe " + path));
 }
 
-TEST_F(Commands, AboutTellsTheVersionAndLeadsToTheMaker) {
+TEST_F(Commands, AboutShowsTheVersionAndALink) {
     connect();
     user.whenShown["frmAbout"] = [&](fernwick::Form& form) {
         auto& about = dynamic_cast<fernwick::frmAbout&>(form);
@@ -235,7 +235,7 @@ TEST_F(Commands, EachUtilityStartsItsProgram) {
             EXPECT_THAT(click(control), ElementsAre("start " + (host.folder / ("install/" + program))));
 }
 
-TEST_F(Commands, AUtilityThatIsMissingHasItsBox) {
+TEST_F(Commands, AMissingUtilityShowsABox) {
     connect();
     shell.hasPrograms = false;
     const auto report = testing::HasSubstr("An Error Has Occurred in modViewConvertManagement.OpenViewerConverter");
@@ -256,7 +256,7 @@ TEST_F(Commands, TheTutorialNeedsAnInstallation) {
     EXPECT_THAT(click(items().gSampleHelloItem), ElementsAre(box(16, "Error finding Fernwick Hello World Tutorial.")));
 }
 
-TEST_F(Commands, TheIntroductionShowsAtAnyTime) {
+TEST_F(Commands, TheIntroductionCanBeShownAtAnyTime) {
     connect();
     EXPECT_FALSE(modules->prefs.GetStartTutorial());
     user.whenShown["frmGettingStarted"] = [](fernwick::Form& form) {
@@ -266,7 +266,7 @@ TEST_F(Commands, TheIntroductionShowsAtAnyTime) {
     EXPECT_THAT(click(items().gSampleIntroItem), ElementsAre("form frmGettingStarted"));
 }
 
-TEST_F(Commands, TheIntroductionEndsAStartInEachMode) {
+TEST_F(Commands, ShowsTheIntroductionLastInEachMode) {
     modules->prefs.SetStartTutorial(true);
     for (const auto mode : {vbide::vbext_cm_AfterStartup, vbide::vbext_cm_Startup, vbide::vbext_cm_External,
                             vbide::vbext_cm_CommandLine}) {
@@ -276,7 +276,7 @@ TEST_F(Commands, TheIntroductionEndsAStartInEachMode) {
     }
 }
 
-TEST_F(Commands, TheSamplesFolderOpensWhereItIs) {
+TEST_F(Commands, OpensTheSamplesFolder) {
     connect();
     EXPECT_THAT(click(items().gSampleDirItem),
                 ElementsAre(box(48, "Could get open the samples directory;\r\nQuinloft Samples are located on the "
@@ -299,14 +299,14 @@ TEST_F(Commands, TheInterfaceFollowsTheProject) {
     EXPECT_EQ(items().gToolDeploy->ToolTipText(), "Deploy to &Palm-1");
 }
 
-TEST_F(Commands, TheClipboardSurvivesTheStart) {
+TEST_F(Commands, TheStartPreservesTheClipboard) {
     clipboard.SetData("text/plain", "mine");
     connect();
     EXPECT_THAT(clipboard.Formats(), ElementsAre("text/plain"));
     EXPECT_EQ(clipboard.GetData("text/plain"), "mine");
 }
 
-TEST_F(Commands, NothingIsLeftAfterTheEnd) {
+TEST_F(Commands, TheEndRemovesEverything) {
     connected();
     host.ide->Addins()->Item(kProgId)->Connect(false);
     EXPECT_EQ(host.ide->CommandBars()->ActiveMenuBar()->Controls()->Count(), 6);
@@ -315,7 +315,7 @@ TEST_F(Commands, NothingIsLeftAfterTheEnd) {
     EXPECT_THAT(click(items().gCompileItem), ElementsAre("form frmCompile"));
 }
 
-TEST_F(Commands, WithoutAMenuItsFailureIsToldAndTheToolbarsStand) {
+TEST_F(Commands, WithoutAMenuReportsItsFailureAndBuildsTheToolbars) {
     host.ide->CommandBars()->ActiveMenuBar()->Delete();
     host.ide->connectAddIn(kProgId, vbide::vbext_cm_Startup);
     EXPECT_THAT(trace.effects, Contains(box(16, "ERROR!\r\n\r\nCould not add Fernwick Tools menu;\r\n"
@@ -347,7 +347,7 @@ TEST_F(Samples, OpenWhereNothingIsOpen) {
     EXPECT_EQ(activeFile(), tip);
 }
 
-TEST_F(Samples, OneThatIsOpenStays) {
+TEST_F(Samples, AnOpenSampleStaysOpen) {
     host.openFile(tip);
     connect();
     change();
@@ -355,7 +355,7 @@ TEST_F(Samples, OneThatIsOpenStays) {
     EXPECT_EQ(host.ide->VBProjects()->Count(), 1);
 }
 
-TEST_F(Samples, TakeThePlaceOfASavedProject) {
+TEST_F(Samples, ReplaceASavedProject) {
     connected();
     host.ide->saveProject(host.ide->ActiveVBProject());
     EXPECT_THAT(click(tipItem()), IsEmpty());
@@ -372,7 +372,7 @@ TEST_F(Samples, AskForChangesAndCancelKeepsTheProject) {
     EXPECT_EQ(activeFile(), host.folder / "Hello.vbp");
 }
 
-TEST_F(Samples, ChangesThatTheUserGivesUpAreLost) {
+TEST_F(Samples, DiscardChangesWhenTheUserDeclines) {
     connected();
     const auto before = host.folder.read("Hello.vbp");
     change();
@@ -382,7 +382,7 @@ TEST_F(Samples, ChangesThatTheUserGivesUpAreLost) {
     EXPECT_EQ(host.folder.read("Hello.vbp"), before);
 }
 
-TEST_F(Samples, ChangesAreSavedFirst) {
+TEST_F(Samples, SaveChangesFirst) {
     connected();
     change();
     user.answers = {fernwick::vbYes};
@@ -391,7 +391,7 @@ TEST_F(Samples, ChangesAreSavedFirst) {
     EXPECT_THAT(host.folder.read("Hello.vbp"), testing::HasSubstr("ScanReferences=False"));
 }
 
-TEST_F(Samples, OneWithoutAProjectNamesTheSupport) {
+TEST_F(Samples, ASampleWithoutAProjectNamesTheSupport) {
     connect();
     modules->samples.open({});
     EXPECT_THAT(trace.effects, Contains(box(16, "There was an error in the samples menu, please contact support at "

@@ -1,4 +1,4 @@
-// What the add-in does when components are added to a project and the user turns to one.
+// Components are added to a project, selected and activated.
 #include "Add-in/core/connect/default_names.h"
 #include "events_world.h"
 
@@ -32,7 +32,7 @@ protected:
     test::Ref<test::TracedProject> project;
 };
 
-TEST_F(ComponentEvents, ABlankModuleMakesWayForTheTemplateWhenTheEventIsOver) {
+TEST_F(ComponentEvents, ReplacesABlankModuleByTheTemplateAfterTheEvent) {
     EXPECT_THAT(add("Module1", kModule), ElementsAre("add file /t/Module.bas"));
     EXPECT_THAT(names(), ElementsAre("Module1", "/t/Module.bas"));
     EXPECT_FALSE(connection->ComponentAddGuard);
@@ -40,12 +40,12 @@ TEST_F(ComponentEvents, ABlankModuleMakesWayForTheTemplateWhenTheEventIsOver) {
     EXPECT_THAT(errors.seen, IsEmpty());
 }
 
-TEST_F(ComponentEvents, ABlankClassToo) {
+TEST_F(ComponentEvents, ReplacesABlankClass) {
     EXPECT_THAT(add("Class1", kClass), ElementsAre("add file /t/Class.cls"));
     EXPECT_FALSE(connection->ComponentAddGuard);
 }
 
-TEST_F(ComponentEvents, ATemplateUnderADefaultNameIsNotReplacedInItsTurn) {
+TEST_F(ComponentEvents, DoesNotReplaceATemplateWithADefaultName) {
     project->components->added = [&, next = project->components->added](const auto& made) {
         made->name = "Module2";
         next(made);
@@ -61,13 +61,13 @@ TEST_F(ComponentEvents, WithoutATemplateTheClassStays) {
     EXPECT_THAT(turn(), IsEmpty());
 }
 
-TEST_F(ComponentEvents, AFileOfTheUsersStaysAsItIs) {
+TEST_F(ComponentEvents, KeepsAComponentFromAFile) {
     EXPECT_THAT(add("Module1", kModule, "/p/Module1.bas"), IsEmpty());
     EXPECT_THAT(add("Form1", kForm, "/p/Form1.frm"), Not(Contains("add file /t/Form.frm")));
     EXPECT_THAT(turn(), IsEmpty());
 }
 
-TEST_F(ComponentEvents, ANameOfTheUsersStays) {
+TEST_F(ComponentEvents, KeepsAComponentWithAnotherName) {
     EXPECT_THAT(add("modMain", kModule), IsEmpty());
     EXPECT_THAT(add("Formular", kForm), Not(Contains("add file /t/Form.frm")));
 }
@@ -77,21 +77,21 @@ TEST_F(ComponentEvents, TheDesignTargetIsFetchedFirst) {
     EXPECT_THAT(add("Module1", kModule), ElementsAre("add file /t/Module.bas"));
 }
 
-TEST_F(ComponentEvents, AFormsTemplateKeepsItsShape) {
+TEST_F(ComponentEvents, DoesNotResizeAFormsTemplate) {
     EXPECT_THAT(add("Form1", kForm), ElementsAre("add file /t/Form.frm"));
     EXPECT_FALSE(connection->ComponentAddGuard);
     EXPECT_THAT(turn(), ElementsAre("remove component Form1"));
-    EXPECT_THAT(errors.seen, IsEmpty()); // a shape would be given through properties, which it has none of here
+    EXPECT_THAT(errors.seen, IsEmpty()); // sizing it would fail: it has no properties here
 }
 
-TEST_F(ComponentEvents, WithoutATemplateTheFormGetsTheDevicesShape) {
+TEST_F(ComponentEvents, WithoutATemplateResizesTheFormForTheDevice) {
     targets.templates.form.clear();
     projects.GetQLProject(project)->designTarget(nullptr);
     add("Form1", kForm);
     EXPECT_THAT(errors.seen, Contains("A clsDeviceConfig.SetupDefaultForm [438]")); // it was tried
 }
 
-TEST_F(ComponentEvents, AFormWithAFileOfItsOwnKeepsItsShape) {
+TEST_F(ComponentEvents, DoesNotResizeAFormFromAFile) {
     add("frmMine", kForm, "/p/frmMine.frm");
     EXPECT_THAT(errors.seen, IsEmpty());
 }
@@ -115,7 +115,7 @@ TEST_F(ComponentEvents, OtherTypesAreRefusedAndRemoved) {
     }
 }
 
-TEST_F(ComponentEvents, AForeignProjectTakesEverything) {
+TEST_F(ComponentEvents, AForeignProjectMayHaveAnyComponent) {
     project = added("B", "none");
     for (const auto type : {kModule, kClass, kForm, vbide::vbext_ct_UserControl})
         EXPECT_THAT(add("Module1", type), IsEmpty()) << type;
@@ -127,14 +127,14 @@ TEST_F(ComponentEvents, WithoutAnActiveProjectNothingHappens) {
     EXPECT_THAT(errors.seen, IsEmpty());
 }
 
-TEST_F(ComponentEvents, AComponentThatGoesMeanwhileIsReportedOnce) {
+TEST_F(ComponentEvents, ReportsAComponentRemovedInTheMeantimeOnce) {
     const auto module = component(project, "UserControl1", vbide::vbext_ct_UserControl);
     loop.Post([&] { module->removed = true; });
     EXPECT_THAT(tellAdded(module), IsEmpty());
     EXPECT_THAT(errors.seen, ElementsAre("Connect.CompsEventsHandler_ItemAdded [40198]"));
 }
 
-TEST_F(ComponentEvents, ATemplateThatIsMissingIsReported) {
+TEST_F(ComponentEvents, ReportsAMissingTemplate) {
     trace.calls = 0;
     project->components->added = [](const auto&) { throw basic::RuntimeError(basic::kFileNotFound); };
     add("Module1", kModule);
@@ -143,7 +143,7 @@ TEST_F(ComponentEvents, ATemplateThatIsMissingIsReported) {
 
 // ---- selected and activated ----------------------------------------------------------------------------------------------
 
-TEST_F(ComponentEvents, TheFormThatTheUserTurnsToIsWatched) {
+TEST_F(ComponentEvents, WatchesTheSelectedForm) {
     const auto form = component(project, "frmMine", kForm);
     form->designerOpen = true;
     vbe->events->components->ItemSelected.raise(form);
@@ -170,7 +170,7 @@ TEST_F(ComponentEvents, ModulesAndForeignFormsAreNotFollowed) {
     EXPECT_THAT(trace.effects, IsEmpty());
 }
 
-TEST_F(ComponentEvents, AnErrorOfASelectedDesignerIsReportedUnlessTheHostHasNoneYet) {
+TEST_F(ComponentEvents, ReportsErrorsOfASelectedDesignerUnlessItDoesNotExistYet) {
     const auto form = component(project, "frmMine", kForm);
     form->designerOpen = true;
     form->vbe = nullptr;
@@ -210,7 +210,7 @@ TEST_F(ComponentEvents, DefaultNamesAreAWordAndANumber) {
     EXPECT_FALSE(IsDefaultClassName(*named("Class1", kForm).shared()));
 }
 
-/// Each of the calls fails once: at most one report.
+/// Each call fails once, with at most one report.
 class FailingComponentEvents : public ComponentEvents {
 protected:
     template <class Raise>
@@ -232,7 +232,7 @@ protected:
     }
 };
 
-TEST_F(FailingComponentEvents, OfAddedComponentsCostOnlyThemselves) {
+TEST_F(FailingComponentEvents, OfAddedComponentsLoseOneStep) {
     const auto tell = [&](const auto& made) { vbe->events->components->ItemAdded.raise(made); };
     sweep("Module1", kModule, tell);
     sweep("Class1", kClass, tell);
@@ -241,7 +241,7 @@ TEST_F(FailingComponentEvents, OfAddedComponentsCostOnlyThemselves) {
     sweep("UserControl1", vbide::vbext_ct_UserControl, tell);
 }
 
-TEST_F(FailingComponentEvents, OfFormsThatTheUserTurnsToCostOnlyThemselves) {
+TEST_F(FailingComponentEvents, OfSelectedFormsLoseOneStep) {
     sweep("frmMine", kForm, [&](const auto& made) { vbe->events->components->ItemSelected.raise(made); });
     sweep("frmMine", kForm, [&](const auto& made) { vbe->events->components->ItemActivated.raise(made); });
 }

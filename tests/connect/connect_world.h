@@ -10,7 +10,7 @@ struct ConnectWorld : ProjectsWorld {
         registry.set(fernwick::HKEY_LOCAL_MACHINE, "SOFTWARE\\Quinloft\\AddinPrefs", "StartTutorial", "False");
         trace.effects.clear();
     }
-    /// A project that the host has open and the add-in does not know.
+    /// Opens a project in the host that the add-in does not know.
     Ref<TracedProject> open(const std::string& name, const std::string& device = "") {
         const auto project = ProjectsWorld::open(name, device);
         projects.ClearProjectsList();
@@ -20,7 +20,7 @@ struct ConnectWorld : ProjectsWorld {
         trace.effects.clear();
         connection->IDTExtensibility_OnConnection(vbe, mode, self);
     }
-    /// The bars of a host that has just started, without what an earlier connection built there.
+    /// Gives the host fresh bars, without those of an earlier connection.
     void startHostAnew() {
         vbe->bars = bars = hostBars(barTrace);
         items = {};
@@ -30,11 +30,11 @@ struct ConnectWorld : ProjectsWorld {
         return vbe->addins->list.back();
     }
     Ref<TracedControl> item(const std::string& name) { return basic::make<TracedControl>(trace, name); }
-    /// The sources that sinks were assigned, in order: those of projects, files and builds.
+    /// Sources assigned to sinks of projects, files and builds, in order.
     std::vector<std::string> sinks() const { return effectsAfter("sink: ", steps()); }
-    /// The items whose sources sinks were assigned, in order.
+    /// Items whose sources were assigned to sinks, in order.
     std::vector<std::string> itemSinks() const { return effectsAfter("sink: item ", trace.effects); }
-    /// What happened, without the sinks of items.
+    /// All effects except the assignments of items' sinks.
     std::vector<std::string> steps() const {
         auto all = trace.effects;
         std::erase_if(all, [](const std::string& effect) { return effect.starts_with("sink: item "); });

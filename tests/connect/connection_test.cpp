@@ -17,7 +17,7 @@ protected:
     }
 };
 
-TEST_F(Connection, StartsInItsOrder) {
+TEST_F(Connection, StartsInOrder) {
     targets.known = {"Palm-1"};
     open("A", "Palm-1");
     clock.now = 4711;
@@ -44,15 +44,15 @@ TEST_F(Connection, PublishesTheHostsAddress) {
     EXPECT_EQ(std::stoull(environment.values["VBInstance-3AD1D370-2E73-417D-B685-0E1756D55411"], nullptr, 16), address);
 }
 
-TEST_F(Connection, FromOutsideThereIsNoInterface) {
-    buildInterface(); // to see that nothing but its state is changed
+TEST_F(Connection, AnExternalConnectionBuildsNoInterface) {
+    buildInterface(); // to observe that it is only disabled
     connect(vbide::vbext_cm_External);
     EXPECT_THAT(trace.effects,
                 ElementsAre(kVariable, "sink: build", "sink: projects", "sink: all files", "backup clipboard",
                             "restore clipboard", "disable menu", "disable toolbar", "disable support toolbar"));
 }
 
-TEST_F(Connection, TheOtherModesAreAlike) {
+TEST_F(Connection, BuildsTheSameInTheOtherModes) {
     connect(vbide::vbext_cm_CommandLine);
     auto before = trace.effects;
     messages.killToolWindow();
@@ -65,7 +65,7 @@ TEST_F(Connection, TheOtherModesAreAlike) {
     EXPECT_EQ(trace.effects, before);
 }
 
-TEST_F(Connection, TakesUpTheActiveProjectOnly) {
+TEST_F(Connection, AddsOnlyTheActiveProject) {
     targets.known = {"Palm-1"};
     open("A", "Palm-1");
     open("B", "Palm-1");
@@ -85,7 +85,7 @@ TEST_F(Connection, AForeignProjectIsNotWatched) {
     EXPECT_FALSE(bool(connection->CompsEventsHandler));
 }
 
-TEST_F(Connection, AProjectThatIsNotListedSwitchesTheInterfaceOff) {
+TEST_F(Connection, DisablesTheInterfaceForAProjectThatIsNotListed) {
     open("A", "Palm-1");
     vbe->active = nullptr; // open, but none is active
     connect();
@@ -122,7 +122,7 @@ TEST_F(SelectedForm, AModuleHasNoControls) {
     EXPECT_FALSE(bool(connection->ControlsEventsHandler));
 }
 
-TEST_F(Connection, ConnectsItsCompanionsWhateverTheyWere) {
+TEST_F(Connection, ConnectsItsCompanions) {
     const auto importer = sibling("QLProjectImport.Connect", false);
     const auto wireless = sibling("QLVBWirelessServices.Connect", true);
     const auto other = sibling("qlprojectimport.connect", false);
@@ -133,7 +133,7 @@ TEST_F(Connection, ConnectsItsCompanionsWhateverTheyWere) {
     EXPECT_FALSE(connection->ResEditWasConnected);
 }
 
-TEST_F(Connection, TheResourceEditorWaitsForTheEndOfTheStart) {
+TEST_F(Connection, ReconnectsTheResourceEditorAfterTheStart) {
     const auto editor = sibling("ResEdit6.Connect", true);
     connect();
     EXPECT_FALSE(editor->connected);
@@ -143,21 +143,21 @@ TEST_F(Connection, TheResourceEditorWaitsForTheEndOfTheStart) {
     EXPECT_TRUE(connection->ResEditWasConnected);
 }
 
-TEST_F(Connection, AResourceEditorThatWasDownStaysDown) {
+TEST_F(Connection, LeavesADisconnectedResourceEditor) {
     const auto editor = sibling("ResEdit6.Connect", false);
     connect();
     connection->IDTExtensibility_OnStartupComplete();
     EXPECT_FALSE(editor->connected);
 }
 
-TEST_F(Connection, WithoutAnEndOfTheStartTheEditorStaysDown) {
+TEST_F(Connection, WithoutStartupCompleteTheEditorStaysDisconnected) {
     const auto editor = sibling("ResEdit6.Connect", true);
     connect(vbide::vbext_cm_AfterStartup);
     connection->IDTExtensibility_OnAddInsUpdate();
     EXPECT_FALSE(editor->connected);
 }
 
-TEST_F(Connection, AFailedMenuLeavesTheSiblingsAndTriesTheToolbars) {
+TEST_F(Connection, AfterAFailedMenuSkipsTheSiblingsAndBuildsTheToolbars) {
     bars->menuBar = nullptr;
     bars->named("Menu Bar")->items.clear();
     items.gCompileItem = item("compile");
@@ -173,7 +173,7 @@ TEST_F(Connection, AFailedMenuLeavesTheSiblingsAndTriesTheToolbars) {
     EXPECT_TRUE(did("support toolbar"));
 }
 
-TEST_F(Connection, AFailedToolbarGoesOn) {
+TEST_F(Connection, ContinuesAfterAFailedToolbar) {
     bars->refused = "Fernwick";
     items.gToolCompile = item("compile");
     connect();
@@ -183,7 +183,7 @@ TEST_F(Connection, AFailedToolbarGoesOn) {
     EXPECT_TRUE(did("support toolbar"));
 }
 
-TEST_F(Connection, AFailedSupportToolbarGoesOn) {
+TEST_F(Connection, ContinuesAfterAFailedSupportToolbar) {
     bars->refused = "Quinloft Utilities";
     connect();
     EXPECT_THAT(trace.effects, Contains(failureBox("Could not add Quinloft Converters and Viewers Toolbar;")));
@@ -191,7 +191,7 @@ TEST_F(Connection, AFailedSupportToolbarGoesOn) {
     EXPECT_TRUE(did("create zoom window"));
 }
 
-TEST_F(Connection, ShowsTheIntroductionWhenItsPreferenceSaysSo) {
+TEST_F(Connection, ShowsTheIntroductionIfPreferred) {
     prefs.SetStartTutorial(true);
     connect();
     EXPECT_EQ(trace.effects.back(), "form frmGettingStarted");
@@ -200,14 +200,14 @@ TEST_F(Connection, ShowsTheIntroductionWhenItsPreferenceSaysSo) {
     EXPECT_FALSE(did("form frmGettingStarted"));
 }
 
-TEST_F(Connection, WithoutAHostItReportsAndEnds) {
+TEST_F(Connection, WithoutAHostReportsAndReturns) {
     connection->IDTExtensibility_OnConnection(nullptr, vbide::vbext_cm_Startup, nullptr);
     EXPECT_THAT(errors.seen, Contains("Connect.IDTExtensibility_OnConnection(ByVal_VBInst_As_Object,_"
                                       "ByVal_ConnectMode_As_vbext_ConnectMode,_ByVal_AddInInst_As_VBIDE.AddIn,_custom "
                                       "[91]"));
 }
 
-TEST_F(Connection, StopsInItsOrder) {
+TEST_F(Connection, StopsInOrder) {
     open("A", "Palm-1");
     connect();
     trace.effects.clear();
@@ -219,14 +219,14 @@ TEST_F(Connection, StopsInItsOrder) {
     EXPECT_THAT(errors.seen, ElementsAre("modProjectHandler.GetQLProject [5]"));
 }
 
-TEST_F(Connection, StopsWhateverTheMode) {
+TEST_F(Connection, StopsTheSameInEachMode) {
     connect();
     trace.effects.clear();
     connection->IDTExtensibility_OnDisconnection(vbide::vbext_dm_HostShutdown);
     EXPECT_THAT(trace.effects, ElementsAre("remove menu", "remove toolbar", "remove support toolbar"));
 }
 
-TEST_F(Connection, EachCallOfTheStartThatFailsCostsOnlyItself) {
+TEST_F(Connection, AFailingCallOfTheStartLosesOneStep) {
     targets.known = {"Palm-1"};
     open("A", "Palm-1");
     const auto editor = sibling("ResEdit6.Connect", true);
@@ -237,7 +237,7 @@ TEST_F(Connection, EachCallOfTheStartThatFailsCostsOnlyItself) {
         projects.ClearProjectsList();
         connect();
     };
-    startAgain(); // stores the screen's resolution, which later starts find
+    startAgain(); // stores the screen's resolution for later starts
     startAgain();
     const auto baseline = steps();
     for (int failing = 1;; ++failing) {
@@ -250,14 +250,14 @@ TEST_F(Connection, EachCallOfTheStartThatFailsCostsOnlyItself) {
         const auto missing = test::lost(baseline, steps());
         EXPECT_LE(errors.injected, 1) << failing;
         EXPECT_TRUE(did("restore clipboard") || missing.size() == 1) << failing;
-        if (did("disable menu")) continue; // the project could not be taken up
-        // what was not built is neither enabled nor given a tip
+        if (did("disable menu")) continue; // the project could not be added
+        // a missing toolbar is neither enabled nor given a tip
         const bool lacksToolbar = did(failureBox("Could not add Fernwick Toolbar;"));
         EXPECT_LE(missing.size(), lacksToolbar ? 4U : 3U) << failing;
     }
 }
 
-TEST_F(Connection, EachCallOfTheStopThatFailsCostsOnlyItself) {
+TEST_F(Connection, AFailingCallOfTheStopLosesOneStep) {
     connect();
     for (int failing = 1; failing <= 3; ++failing) {
         trace.effects.clear();

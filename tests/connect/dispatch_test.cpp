@@ -1,4 +1,4 @@
-// What handlers pass on to dialogs, how they look on whom the user chose, and where their failures show.
+// Handlers call dialogs, respect the user's choice, and report their failures.
 #include "connect_world.h"
 #include "whole_world.h"
 
@@ -11,11 +11,11 @@ namespace {
 constexpr char kQuestion[] = "box 68 No devices selected: To continue with this option, you must first select which "
                              "devices will be used. Continue and select devices?";
 
-/// Handlers over dialogs that only tell that they were called.
+/// Handlers over dialogs that only record their calls.
 class Dispatch : public testing::Test, protected test::ConnectWorld {
 protected:
     Dispatch() { targets.known = {"Palm-1"}; }
-    /// A click on the item of a sink.
+    /// Clicks on the item of a sink.
     std::vector<std::string> click(fernwick::Command& sink) {
         const auto clicked = item("clicked");
         sink = vbe->Events()->CommandBarEvents(clicked);
@@ -44,7 +44,7 @@ TEST_F(Dispatch, WithoutDevicesTheSettingsOpenOnTheirPage) {
     }
 }
 
-TEST_F(Dispatch, DevicesThatAreChosenThereAreServed) {
+TEST_F(Dispatch, ServesTheDevicesChosenInTheSettings) {
     ProjectsWorld::open("A", "Palm-1");
     user.answers = {fernwick::vbYes};
     noted.inSettings = [this] { prefs.gMyDevices = {"Palm-1", "Palm-1"}; };
@@ -53,13 +53,13 @@ TEST_F(Dispatch, DevicesThatAreChosenThereAreServed) {
     EXPECT_EQ(std::count(effects.begin(), effects.end(), "form frmSendRuntimeToDevice"), 2);
 }
 
-TEST_F(Dispatch, TheIntroductionIsAskedFor) {
+TEST_F(Dispatch, ShowsTheIntroduction) {
     EXPECT_THAT(click(connection->SampleIntroHandler), ElementsAre("form frmGettingStarted"));
 }
 
 class FailingDispatch : public testing::Test, protected test::WholeWorld {
 protected:
-    /// The report of a click whose call of that number fails.
+    /// Returns the report of a click in which the call with this number fails.
     std::string reportOf(const Control& control, int failing) {
         trace.calls = 0;
         trace.failing = failing;
@@ -70,7 +70,7 @@ protected:
     static std::string in(const std::string& location) { return "An Error Has Occurred in " + location + " ("; }
 };
 
-TEST_F(FailingDispatch, UtilitiesReportUnderTheirNamesButTheDatabaseViewer) {
+TEST_F(FailingDispatch, UtilitiesReportUnderTheirNamesExceptTheDatabaseViewer) {
     connect();
     shell.hasPrograms = false;
     const auto& all = items();
@@ -93,12 +93,12 @@ TEST_F(FailingDispatch, UtilitiesReportUnderTheirNamesButTheDatabaseViewer) {
         {all.gToolMovieConverter, "ToolMovieConverterHandler"},
         {all.gToolMovieViewer, "ToolMovieViewerHandler"},
         {all.gToolWGConfig, "ToolWGConfigHandler"}};
-    constexpr int kBox = 3; // after the start that failed and its report
+    constexpr int kBox = 3; // after the failed start and its report
     for (const auto& [control, handler] : utilities)
         EXPECT_THAT(reportOf(control, kBox), HasSubstr(in("Connect." + handler + "_Click"))) << handler;
 }
 
-TEST_F(FailingDispatch, WhatCantBeOpenedIsReported) {
+TEST_F(FailingDispatch, ReportsWhatCannotBeOpened) {
     connect();
     host.folder.write("install/VB Toolkit/Samples/readme.txt", "");
     host.folder.write("install/VB Toolkit/doc/Quinloft_Users_Guide.chm", "");
@@ -124,10 +124,10 @@ TEST_F(FailingDispatch, TheDownloadHasNoTrap) {
     EXPECT_EQ(host.failures[0].Number, test::kInjected);
 }
 
-TEST_F(FailingDispatch, ADeviceItemIsNotAskedWhetherThereIsAProject) {
+TEST_F(FailingDispatch, ADeviceItemDoesNotCheckForAProject) {
     connect();
     for (const auto& control : {items().gDeployItems[0], items().gPackageItems[0]}) {
-        control->Enabled(true); // a disabled item would keep this from running
+        control->Enabled(true); // a disabled item is not executed
         click(control);
     }
     EXPECT_THAT(trace.effects, testing::Contains(HasSubstr(in("modProjectHandler.GetQLProject"))));

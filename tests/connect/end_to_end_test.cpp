@@ -51,14 +51,14 @@ protected:
                        fernwick::vbOK, fernwick::vbCritical);
     }
 
-    /// In the machine's store.
+    /// Stores a value for the machine.
     void store(const std::string& path, const std::string& name, const std::string& text) {
         std::uint32_t key = 0, disposition = 0;
         host.registry.RegCreateKeyEx(fernwick::HKEY_LOCAL_MACHINE, path, fernwick::KEY_ALL_ACCESS, key, disposition);
         host.registry.RegSetValueEx(key, name, fernwick::REG_SZ, text + '\0');
         host.registry.RegCloseKey(key);
     }
-    /// An installation with its templates, and the host's.
+    /// Creates an installation with its templates, and the host's templates.
     void installTemplates() {
         store("Software\\Quinloft", "RootDir", host.folder / "install");
         host.folder.write("install/VB Toolkit/Template/Projects/readme.txt", "");
@@ -127,7 +127,7 @@ TEST_F(EndToEnd, AMissingLibraryFailsTheValidation) {
 
 TEST_F(EndToEnd, AnErrorIsStoredWithTheLineOfTheCodeWindow) {
     const auto project = connected(hello());
-    failAt("Form1.frm", 16); // thirteen lines of design data and hidden attributes stand before the code
+    failAt("Form1.frm", 16); // after thirteen lines of design data and hidden attributes
     EXPECT_FALSE(modules->compile.CompileProject(project));
     const auto form = project->VBComponents()->Item("Form1");
     const int codeLines = form->CodeModule()->CountOfLines();
@@ -137,7 +137,7 @@ TEST_F(EndToEnd, AnErrorIsStoredWithTheLineOfTheCodeWindow) {
               "ERROR|" + (host.folder / "Form1.frm") + "|" + std::to_string(line) + "|No such name|1042");
 }
 
-TEST_F(EndToEnd, TheMessagesComeBackWithTheProject) {
+TEST_F(EndToEnd, RestoresTheMessagesWithTheProject) {
     const auto project = connected(hello());
     failAt("Form1.frm", 17);
     modules->compile.CompileProject(project);
@@ -150,7 +150,7 @@ TEST_F(EndToEnd, TheMessagesComeBackWithTheProject) {
               "FAILED - Errors (1 items) must be fixed to deploy this project.");
 }
 
-TEST_F(EndToEnd, AProjectIsCompiledAndSentAndTheNextTimeOnlySent) {
+TEST_F(EndToEnd, CompilesAndSendsAndTheNextTimeOnlySends) {
     const auto project = connected(hello());
     compiler->work = [&](test::FakeCompiler&) { host.folder.write("Hello.0000.qlx", "image"); };
     test::FakePipeFamily family{trace, classes};
@@ -168,7 +168,7 @@ TEST_F(EndToEnd, AProjectIsCompiledAndSentAndTheNextTimeOnlySent) {
     EXPECT_EQ(modules->sendRuntime.LastResult(), true);
 }
 
-TEST_F(EndToEnd, AReadOnlyProjectStaysAsItIs) {
+TEST_F(EndToEnd, AReadOnlyProjectIsUnchanged) {
     const auto project = connected(hello());
     const auto path = host.folder / "Hello.vbp";
     const auto before = host.folder.read("Hello.vbp");
@@ -182,7 +182,7 @@ TEST_F(EndToEnd, AReadOnlyProjectStaysAsItIs) {
     EXPECT_EQ(host.folder.read("Hello.vbp"), before);
 }
 
-TEST_F(EndToEnd, WithoutTargetsTheProjectIsRemovedAndItsFileUntouched) {
+TEST_F(EndToEnd, WithoutTargetsRemovesTheProjectAndKeepsItsFile) {
     targets.known.clear();
     connected(hello());
     const auto before = host.folder.read("Hello.vbp");

@@ -1,4 +1,4 @@
-// The add-in in a real host: whole sequences of events, with further events let in by each DoEvents.
+// The add-in in a real host: sequences of events, with further events during each DoEvents.
 #include "event_tape.h"
 #include "whole_world.h"
 
@@ -27,7 +27,7 @@ protected:
             if (effect.starts_with(kind)) shown.push_back(effect);
         return shown;
     }
-    /// A template project of the host's or, with the installation's folder, of the design targets.
+    /// Creates a template project for the host or, in the installation's folder, for the design targets.
     std::string templateProject(const std::string& folder, const std::string& name, const std::string& device = {}) {
         test::SampleProject project("Project1");
         return host.folder.write(folder + "/" + name, project.handheld(device).text());
@@ -77,15 +77,15 @@ TEST_F(EventSequence, ANewProjectIsMadeFromTheTargetsTemplate) {
     EXPECT_THAT(boxes(), IsEmpty());
 }
 
-TEST_F(EventSequence, ItsFormHasTheDevicesShape) {
+TEST_F(EventSequence, ItsFormHasTheDevicesSize) {
     openNew();
     const auto form = active()->VBComponents()->Item("Form1");
     EXPECT_EQ(fernwick::asDouble(form->Properties()->Item("ScaleWidth")->Value()), 160);
     EXPECT_EQ(form->CodeModule()->Lines(1, 1), "Option Explicit");
-    EXPECT_EQ(stored(active(), "OpenedFromQLTemplate"), "(none)"); // the target has no template of its own
+    EXPECT_EQ(stored(active(), "OpenedFromQLTemplate"), "(none)"); // the target has no template
 }
 
-TEST_F(EventSequence, BesideAnotherProjectTheNewOneComesFirst) {
+TEST_F(EventSequence, BesideAnotherProjectOpensTheNewOneFirst) {
     giveTargetsTemplates();
     host.open(named("Other"));
     tape.lines.clear();
@@ -98,7 +98,7 @@ TEST_F(EventSequence, BesideAnotherProjectTheNewOneComesFirst) {
     EXPECT_THAT(boxes(), IsEmpty());
 }
 
-TEST_F(EventSequence, TheTemplateOfItsFormTakesTheBlanksPlace) {
+TEST_F(EventSequence, ReplacesTheBlankFormByItsTemplate) {
     targets.templates.form = host.folder.write("Template/Forms/Palm.frm", test::formText("frmPalm", "' ours\r\n"));
     openNew();
     EXPECT_EQ(active()->VBComponents()->StartUpObject().component->Name(), "frmPalm");
@@ -106,10 +106,10 @@ TEST_F(EventSequence, TheTemplateOfItsFormTakesTheBlanksPlace) {
     EXPECT_THAT(componentNames(), ElementsAre("frmPalm"));
     const auto form = active()->VBComponents()->Item(1);
     EXPECT_EQ(form->CodeModule()->Lines(1, 1), "' ours");
-    EXPECT_EQ(fernwick::asDouble(form->Properties()->Item("Width")->Value()), 2520); // as the template has it
+    EXPECT_EQ(fernwick::asDouble(form->Properties()->Item("Width")->Value()), 2520); // as in the template
 }
 
-TEST_F(EventSequence, TheUserChoosesAmongDevicesOnce) {
+TEST_F(EventSequence, AsksForTheDeviceOnce) {
     targets.known = {"Palm-1", "Pocket-1"};
     giveTargetsTemplates();
     targets.templates.project = templateProject("install/VB Toolkit/Template/Projects", "Pocket.vbp", "Pocket-1");
@@ -123,7 +123,7 @@ TEST_F(EventSequence, TheUserChoosesAmongDevicesOnce) {
     EXPECT_EQ(std::count(trace.effects.begin(), trace.effects.end(), "form frmDesignTargetNormal"), 1);
 }
 
-TEST_F(EventSequence, WithoutADeviceTheNewProjectGoesAndNobodyIsAskedTwice) {
+TEST_F(EventSequence, WithoutADeviceRemovesTheNewProjectAndAsksOnce) {
     targets.known = {"Palm-1", "Pocket-1"};
     openNew();
     EXPECT_EQ(host.ide->VBProjects()->Count(), 1);
@@ -153,7 +153,7 @@ TEST_F(EventSequence, TwoProjectsOpenedBackToBack) {
     EXPECT_EQ(modules->projects.gCurrentProject, a);
 }
 
-TEST_F(EventSequence, AGroupsProjectsAreAllTakenUp) {
+TEST_F(EventSequence, AddsAllProjectsOfAGroup) {
     named("A").writeTo(host.folder);
     named("B").writeTo(host.folder);
     host.openFile(host.folder.write("Both.vbg", "VBGROUP 5.0\r\nStartupProject=A.vbp\r\nProject=B.vbp\r\n"));
@@ -162,7 +162,7 @@ TEST_F(EventSequence, AGroupsProjectsAreAllTakenUp) {
     for (const auto& project : host.ide->VBProjects()->items()) EXPECT_TRUE(modules->projects.FindQLProject(project));
 }
 
-TEST_F(EventSequence, WhileAProjectRunsTheToolbarsRestAndTheMenuStays) {
+TEST_F(EventSequence, DisablesTheToolbarsButNotTheMenuWhileAProjectRuns) {
     host.open(named("A"));
     const auto build = host.ide->Events()->VBBuildEvents();
     build->EnterRunMode.raise();
@@ -172,7 +172,7 @@ TEST_F(EventSequence, WhileAProjectRunsTheToolbarsRestAndTheMenuStays) {
     EXPECT_TRUE(items().gMainToolbar->Enabled() && items().gSupportToolbar->Enabled());
 }
 
-TEST_F(EventSequence, AProjectMayGoWhileItIsAdded) {
+TEST_F(EventSequence, AProjectMayBeRemovedWhileItIsAdded) {
     loop.Post([this] { host.ide->VBProjects()->Remove(active()); });
     const auto project = host.open(named("A"));
     EXPECT_THAT(tape.lines, ElementsAre("load A.vbp", "added A", " removed A"));
@@ -201,7 +201,7 @@ TEST_F(EventSequence, AComponentMayBeAddedWhileItsProjectIsAdded) {
     EXPECT_THAT(componentNames(), ElementsAre("Module9", "Module2"));
 }
 
-TEST_F(EventSequence, ARemovalThatIsAskedForWhileAProjectIsAddedWaitsForTheTimer) {
+TEST_F(EventSequence, ARemovalRequestedWhileAProjectIsAddedWaitsForTheTimer) {
     const auto importer = items().gUtilitiesPopup->Controls()->Add(office::msoControlButton, 0);
     importer->Caption("Fernwick Project Converter");
     const auto import = host.ide->Events()->CommandBarEvents(importer)->Click.connect(
@@ -214,7 +214,7 @@ TEST_F(EventSequence, ARemovalThatIsAskedForWhileAProjectIsAddedWaitsForTheTimer
     EXPECT_THAT(tape.lines, ElementsAre("load Old.vbp", "added Old", "removed Old", "import"));
 }
 
-TEST_F(EventSequence, AfterADisconnectionFilesAreWrittenAsEver) {
+TEST_F(EventSequence, AfterADisconnectionFilesAreWritten) {
     const auto project = host.open(named("A"));
     host.ide->Addins()->Item(kProgId)->Connect(false);
     project->WriteProperty("A", "key", "value");
@@ -224,7 +224,7 @@ TEST_F(EventSequence, AfterADisconnectionFilesAreWrittenAsEver) {
     EXPECT_THAT(boxes(), IsEmpty());
 }
 
-TEST_F(EventSequence, OfAnOldProjectNothingIsWrittenBack) {
+TEST_F(EventSequence, DoesNotWriteAnOldProject) {
     test::SampleProject old("Old");
     const auto project =
         host.open(old.module("Module9").sections("\r\n[Quinloft Global]\r\nIsQuinloftProject=True\r\n"));
@@ -247,7 +247,7 @@ TEST_F(EventSequence, AProjectOfAnUnknownDeviceStays) {
     EXPECT_FALSE(items().gCompileItem->Enabled());
 }
 
-TEST_F(EventSequence, ANewNameIsFollowed) {
+TEST_F(EventSequence, FollowsARenamedProject) {
     const auto project = host.open(named("A"));
     project->Name("B");
     EXPECT_EQ(modules->projects.GetQLProject(project)->ProjectName(), "B");
@@ -256,7 +256,7 @@ TEST_F(EventSequence, ANewNameIsFollowed) {
 
 // ---- closing -------------------------------------------------------------------------------------------------------------
 
-TEST_F(EventSequence, TheMenuIsOnWhileAProjectOfOursIsOpen) {
+TEST_F(EventSequence, TheMenuIsEnabledWhileAFernwickProjectIsOpen) {
     EXPECT_FALSE(items().gCompileItem->Enabled());
     const auto a = host.open(named("A")), b = host.open(named("B"));
     EXPECT_TRUE(items().gCompileItem->Enabled());
@@ -287,7 +287,7 @@ TEST_F(EventSequence, AClosingSavesTheMessagesWindowAndWhatIsUnsaved) {
     EXPECT_THAT(host.folder.read("Module9.bas"), HasSubstr("' new"));
 }
 
-TEST_F(EventSequence, ToolbarsComeBackWhereTheUserPutThem) {
+TEST_F(EventSequence, RestoresTheToolbarsPositions) {
     const auto project = host.open(named("A"));
     items().gMainToolbar->Position(office::msoBarLeft);
     items().gSupportToolbar->Visible(false);
@@ -299,7 +299,7 @@ TEST_F(EventSequence, ToolbarsComeBackWhereTheUserPutThem) {
     EXPECT_FALSE(items().gSupportToolbar->Visible());
 }
 
-TEST_F(EventSequence, WithoutToolbarsThereIsNothingToKeep) {
+TEST_F(EventSequence, WithoutToolbarsStoresNoPositions) {
     host.ide->Addins()->Item(kProgId)->Connect(false);
     modules = std::make_shared<fernwick::Modules>(platform);
     connect(vbide::vbext_cm_External);
@@ -307,7 +307,7 @@ TEST_F(EventSequence, WithoutToolbarsThereIsNothingToKeep) {
     EXPECT_THAT(boxes(), IsEmpty());
 }
 
-TEST_F(EventSequence, ProjectsThatWereOpenBeforeTheAddInComeAndGoWithoutAWord) {
+TEST_F(EventSequence, IgnoresProjectsOpenedBeforeTheAddIn) {
     host.ide->Addins()->Item(kProgId)->Connect(false);
     const auto a = host.open(named("A")), b = host.open(named("B"));
     connect(vbide::vbext_cm_AfterStartup);
@@ -360,7 +360,7 @@ TEST_F(NewComponents, OfOtherTypesAreRefused) {
                                      box(48, "This component type is not supported on Palm-1 devices")));
 }
 
-TEST_F(NewComponents, ThatAProjectIsLoadedWithAreNone) {
+TEST_F(NewComponents, DoNotIncludeThoseOfALoadedProject) {
     host.open(test::SampleProject("B").module("Module1").form("Form1").handheld("Palm-1"));
     EXPECT_THAT(componentNames(), ElementsAre("Module1", "Form1"));
     EXPECT_THAT(tape.lines, Not(Contains(" Module1 added")));
@@ -374,7 +374,7 @@ TEST_F(NewComponents, AFormIsWatchedAtOnce) {
     EXPECT_EQ(modules->connect.SelectedForm, form);
 }
 
-TEST_F(NewComponents, OfTheProjectThatTheUserTurnsToAreServed) {
+TEST_F(NewComponents, OfTheActivatedProjectAreServed) {
     const auto a = active();
     const auto foreign = host.open(test::SampleProject("B").module("Module9"));
     foreign->VBComponents()->Add(vbide::vbext_ct_StdModule);

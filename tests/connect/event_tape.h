@@ -1,5 +1,5 @@
 #pragma once
-// What the host tells, line by line, with what is told within it set in.
+// Records the host's events, one per line; nested events are indented.
 #include "Host/model/host.h"
 #include <filesystem>
 #include <string>
@@ -7,7 +7,8 @@
 
 namespace test {
 
-/// Made before the add-in is connected, it hears each event first; after `heardLast` it hears the end of each, too.
+/// Created before the add-in is connected, it receives each event first; after `heardLast` it also receives each
+/// event's end.
 class EventTape {
 public:
     explicit EventTape(host::Host& host) : events_(host.Events()) {

@@ -1,5 +1,5 @@
 #pragma once
-// The add-in connected at the desktop, and the events of a host in memory, raised one by one.
+// The add-in connected at the desktop; the test raises the host's events one by one.
 #include "connect_world.h"
 
 namespace test {
@@ -17,8 +17,7 @@ struct EventsWorld : ConnectWorld {
     ~EventsWorld() {
         for (const auto& component : ofHost_) component->vbe = nullptr;
     }
-    /// A project that the host has taken in and is about to tell of. It is this system's own unless its device is
-    /// "none".
+    /// A project that the host has opened and not reported yet. It is a Fernwick project unless its device is "none".
     Ref<TracedProject> opened(const std::string& name, const std::string& device = "Palm-1") {
         const auto project = ProjectsWorld::open(name, device);
         projects.RemoveFromProjectsList(project);
@@ -31,7 +30,7 @@ struct EventsWorld : ConnectWorld {
         trace.effects.clear();
         return project;
     }
-    /// What came of the event.
+    /// Returns the effects of the event.
     std::vector<std::string> tellAdded(const Ref<TracedProject>& project) {
         trace.effects.clear();
         vbe->events->projects->ItemAdded.raise(project);
@@ -42,14 +41,14 @@ struct EventsWorld : ConnectWorld {
         vbe->events->projects->ItemRemoved.raise(project);
         return trace.effects;
     }
-    /// A project that the add-in has taken up.
+    /// A project that the add-in has been notified of.
     Ref<TracedProject> added(const std::string& name, const std::string& device = "Palm-1") {
         const auto project = opened(name, device);
         tellAdded(project);
         trace.effects.clear();
         return project;
     }
-    /// A component that the host has put into the project and is about to tell of.
+    /// A component that the host has added to the project and not reported yet.
     Ref<TracedComponent> component(const Ref<TracedProject>& project, const std::string& name,
                                    vbide::vbext_ComponentType type, const std::string& file = {}) {
         const auto made = project->add(name, file, type);
@@ -72,7 +71,7 @@ private:
         component->vbe = vbe;
         ofHost_.push_back(component);
     }
-    /// They hold the host that holds them.
+    /// They refer to the host, which owns them.
     std::vector<Ref<TracedComponent>> ofHost_;
 };
 

@@ -1,4 +1,4 @@
-// Projects of older versions, as they are loaded and written.
+// Loading and writing projects of older versions.
 #include "connect_world.h"
 
 using testing::ElementsAre;
@@ -9,7 +9,7 @@ namespace {
 class LoadAndSave : public testing::Test, protected test::ConnectWorld {
 protected:
     LoadAndSave() { connect(); }
-    /// What is shown when the host is about to load a project with this text.
+    /// Returns what is shown before the host loads a project with this text.
     std::vector<std::string> load(const std::string& text) {
         files.files["/p/Old.vbp"] = {text};
         trace.effects.clear();
@@ -39,14 +39,14 @@ TEST_F(LoadAndSave, ACurrentProjectGetsNone) {
     EXPECT_THAT(load("ProjectVersion=3.5\r\nIsQuinloftProject=True\r\n"), IsEmpty());
 }
 
-TEST_F(LoadAndSave, AProjectOfTheHostsOwnGetsNone) {
+TEST_F(LoadAndSave, AForeignProjectGetsNone) {
     EXPECT_THAT(load("Type=Exe\r\n"), IsEmpty());
     EXPECT_THAT(load("ProjectVersion=1\r\n"), IsEmpty());
 }
 
 TEST_F(LoadAndSave, LetterCaseCounts) { EXPECT_THAT(load("isquinloftproject=true\r\n"), IsEmpty()); }
 
-TEST_F(LoadAndSave, OnlyABeginningOfALineCounts) {
+TEST_F(LoadAndSave, OnlyTheStartOfALineCounts) {
     EXPECT_THAT(load(" IsQuinloftProject=True\r\n"), IsEmpty());
     EXPECT_EQ(load("IsQuinloftProject=True, more\r\nXProjectVersion=2\r\n").size(), 1U);
 }
@@ -56,7 +56,7 @@ TEST_F(LoadAndSave, ANewProjectIsNotRead) {
     vbe->events->allFiles->BeforeLoadFile.raise(project, {});
 }
 
-TEST_F(LoadAndSave, AnUnreadableFileIsTheHostsToReport) {
+TEST_F(LoadAndSave, LeavesAnUnreadableFileToTheHost) {
     const auto err = basic::attempt([&] { vbe->events->allFiles->BeforeLoadFile.raise(project, {}); });
     EXPECT_EQ(err.Number, basic::kFileNotFound);
     EXPECT_THAT(errors.seen, IsEmpty());
@@ -75,7 +75,7 @@ TEST_F(LoadAndSave, OthersAreWritten) {
     EXPECT_FALSE(cancelled(foreign));
 }
 
-TEST_F(LoadAndSave, AProjectThatIsNotListedIsWrittenWithoutAWord) {
+TEST_F(LoadAndSave, AProjectThatIsNotListedIsWrittenSilently) {
     EXPECT_FALSE(cancelled(project));
     EXPECT_THAT(errors.seen, IsEmpty());
 }

@@ -1,4 +1,4 @@
-// What the add-in does when the host tells of its projects.
+// The host's projects are added, removed, renamed and activated.
 #include "events_world.h"
 
 using testing::Contains;
@@ -26,7 +26,7 @@ protected:
     }
 };
 
-TEST_F(ProjectEvents, AProjectIsTakenUpInOrder) {
+TEST_F(ProjectEvents, AddsAProjectInOrder) {
     EXPECT_THAT(tellAdded(opened("A")),
                 ElementsAre("sink: files of A", "enable menu", "enable toolbar", "enable support toolbar",
                             "init zoom window", "Fernwick Messages hidden", "default target Palm-1",
@@ -43,7 +43,7 @@ TEST_F(ProjectEvents, AForeignProjectIsListedAndNotWatched) {
     EXPECT_TRUE(projects.FindQLProject(project));
 }
 
-TEST_F(ProjectEvents, NothingIsNoProject) {
+TEST_F(ProjectEvents, IgnoresNothing) {
     vbe->events->projects->ItemAdded.raise(nullptr);
     EXPECT_THAT(trace.effects, ElementsAre("sink: all files"));
     EXPECT_THAT(errors.seen, IsEmpty());
@@ -67,7 +67,7 @@ TEST_F(ProjectEvents, AProjectOfTheOldFormatIsRemovedAndConverted) {
     EXPECT_THAT(turn(), ElementsAre("active A", "host: remove project", "host: import"));
 }
 
-TEST_F(ProjectEvents, TheStubOpensTheProjectManagerAndGoesAway) {
+TEST_F(ProjectEvents, TheStubOpensTheProjectManagerAndIsRemoved) {
     const auto stub = opened("Stub", "");
     set(stub, "StartUpProject", kStub);
     EXPECT_THAT(tellAdded(stub), ElementsAre("sink: files of Stub", "project manager"));
@@ -75,7 +75,7 @@ TEST_F(ProjectEvents, TheStubOpensTheProjectManagerAndGoesAway) {
     EXPECT_THAT(turn(), ElementsAre("active Stub", "host: remove project"));
 }
 
-TEST_F(ProjectEvents, WhatTheProjectManagerOpensInTheStubsPlaceGetsItsTemplate) {
+TEST_F(ProjectEvents, AProjectOpenedByTheProjectManagerGetsItsTemplate) {
     targets.templates.project = kTargetsOwn;
     const auto stub = opened("Stub", "");
     set(stub, "StartUpProject", kStub);
@@ -88,7 +88,7 @@ TEST_F(ProjectEvents, WhatTheProjectManagerOpensInTheStubsPlaceGetsItsTemplate) 
     EXPECT_THAT(errors.seen, IsEmpty());
 }
 
-TEST_F(ProjectEvents, AProjectWithoutADeviceGoes) {
+TEST_F(ProjectEvents, RemovesAProjectWithoutADevice) {
     targets.known = {"Palm-1", "Pocket-1"};
     EXPECT_THAT(tellAdded(opened("A", "")), Contains("form frmDesignTargetNormal")); // cancelled
     EXPECT_EQ(trace.effects.back(), "restore toolbars");
@@ -97,7 +97,7 @@ TEST_F(ProjectEvents, AProjectWithoutADeviceGoes) {
 
 class UnknownDevice : public ProjectEvents {
 protected:
-    /// The steps from the question on.
+    /// The effects from the question on.
     Effects decide(const fernwick::UnknownDeviceChoice& choice) {
         noted.unknownDevice = choice;
         auto effects = tellAdded(opened("A", "Gone-9"));
@@ -106,30 +106,30 @@ protected:
     }
 };
 
-TEST_F(UnknownDevice, OfAProjectThatTheUserAcceptsIsWatched) {
+TEST_F(UnknownDevice, WatchesAProjectThatTheUserAccepts) {
     EXPECT_THAT(decide({true, ""}), ElementsAre("unknown device of A", "sink: components of A", "sink: references of A",
                                                 "restore toolbars"));
     EXPECT_THAT(openNames(), ElementsAre("A"));
 }
 
-TEST_F(UnknownDevice, AnotherProjectTakesItsPlace) {
+TEST_F(UnknownDevice, OpensAnotherProjectInstead) {
     EXPECT_THAT(decide({false, "/p/B.vbp"}), ElementsAre("unknown device of A", "A dirty 0", "host: remove project",
                                                          "open /p/B.vbp alone", "restore toolbars"));
     EXPECT_THAT(openNames(), ElementsAre("/p/B.vbp"));
 }
 
-TEST_F(UnknownDevice, TheProjectIsClosedAgain) {
+TEST_F(UnknownDevice, ClosesTheProject) {
     EXPECT_THAT(decide({false, ""}),
                 ElementsAre("unknown device of A", "A dirty 0", "host: remove project", "restore toolbars"));
     EXPECT_THAT(openNames(), IsEmpty());
 }
 
-TEST_F(UnknownDevice, WithoutTargetsNobodyIsAsked) {
+TEST_F(UnknownDevice, WithoutTargetsDoesNotAsk) {
     targets.known = {};
     loop.timersAreDue = false;
     EXPECT_THAT(tellAdded(opened("A", "Gone-9")), Not(Contains("unknown device of A")));
     loop.timersAreDue = true;
-    EXPECT_THAT(turn(), ElementsAre("active A", "host: remove project")); // as the set-up asked
+    EXPECT_THAT(turn(), ElementsAre("active A", "host: remove project")); // requested by the set-up
 }
 
 TEST_F(UnknownDevice, TheProjectMayBeRemovedWhileTheHostRuns) {
@@ -142,7 +142,7 @@ TEST_F(UnknownDevice, TheProjectMayBeRemovedWhileTheHostRuns) {
 
 // ---- templates -----------------------------------------------------------------------------------------------------------
 
-TEST_F(ProjectEvents, TheHostsTemplateMakesWayForTheTargets) {
+TEST_F(ProjectEvents, ReplacesTheHostsTemplateByTheTargets) {
     targets.templates.project = kTargetsOwn;
     const auto project = fromTemplate();
     tellAdded(project);
@@ -179,14 +179,14 @@ TEST_F(ProjectEvents, TheReloadedTemplateIsSetUpAndGetsItsFirstForm) {
     EXPECT_FALSE(loop.hasTimers());
 }
 
-TEST_F(ProjectEvents, AReloadedTemplateIsNotReloadedAgain) {
+TEST_F(ProjectEvents, DoesNotReloadAReloadedTemplate) {
     targets.templates.project = kTargetsOwn;
     connection->TemplateReloadPending = true;
-    EXPECT_THAT(tellAdded(fromTemplate()), Contains("add component 5")); // its device is the only one there is
+    EXPECT_THAT(tellAdded(fromTemplate()), Contains("add component 5")); // gets the only device
     EXPECT_FALSE(loop.hasTimers());
 }
 
-TEST_F(ProjectEvents, WithoutATemplateOfTheTargetTheHostsOwnStays) {
+TEST_F(ProjectEvents, WithoutATemplateOfTheTargetKeepsTheHosts) {
     const auto project = fromTemplate();
     EXPECT_THAT(tellAdded(project), Contains("add component 5"));
     EXPECT_EQ(project->components->startUp.component, project->components->list.front());
@@ -194,7 +194,7 @@ TEST_F(ProjectEvents, WithoutATemplateOfTheTargetTheHostsOwnStays) {
     EXPECT_FALSE(loop.hasTimers());
 }
 
-TEST_F(ProjectEvents, TheTemplateOfAFormIsWhatTheProjectStartsWith) {
+TEST_F(ProjectEvents, TheProjectStartsWithAFormsTemplate) {
     targets.templates.form = "/install/Form.frm";
     const auto project = fromTemplate();
     project->components->fileType = vbide::vbext_ct_VBForm;
@@ -206,7 +206,7 @@ TEST_F(ProjectEvents, TheTemplateOfAFormIsWhatTheProjectStartsWith) {
     EXPECT_THAT(turn(), ElementsAre("remove component Form1"));
 }
 
-TEST_F(ProjectEvents, AProjectThatHasComponentsIsNoNewOne) {
+TEST_F(ProjectEvents, AProjectWithComponentsIsNotNew) {
     targets.templates.project = kTargetsOwn;
     const auto project = fromTemplate("Palm-1");
     component(project, "Form1", vbide::vbext_ct_VBForm);
@@ -220,7 +220,7 @@ TEST_F(ProjectEvents, AnEmptyProjectOfTheUsersStaysEmpty) {
 
 // ---- closing, renaming, activating ---------------------------------------------------------------------------------------
 
-TEST_F(ProjectEvents, AClosingKeepsWhatIsUnsaved) {
+TEST_F(ProjectEvents, ClosingSavesChanges) {
     const auto project = added("A");
     opened("B");
     project->dirty = true;
@@ -230,14 +230,14 @@ TEST_F(ProjectEvents, AClosingKeepsWhatIsUnsaved) {
     EXPECT_FALSE(projects.FindQLProject(project));
 }
 
-TEST_F(ProjectEvents, AClosingOfASavedProjectSavesNothing) {
+TEST_F(ProjectEvents, ClosingASavedProjectSavesNothing) {
     const auto project = added("A");
     opened("B");
     messages.showToolWindow();
     EXPECT_THAT(tellRemoved(project), ElementsAre("recent A", "save toolbars", "save zoom window"));
 }
 
-TEST_F(ProjectEvents, WhatNoDeviceServesIsNotSavedAtItsClosing) {
+TEST_F(ProjectEvents, ClosingAProjectOfAnUnknownDeviceSavesNothing) {
     noted.unknownDevice = {true, ""};
     const auto project = added("A", "Gone-9");
     opened("B");
@@ -252,14 +252,14 @@ TEST_F(ProjectEvents, ATemplateIsNotRemembered) {
     EXPECT_THAT(tellRemoved(project), ElementsAre("save toolbars", "save zoom window"));
 }
 
-TEST_F(ProjectEvents, OfTheStubNothingIsKept) {
+TEST_F(ProjectEvents, ClosingTheStubStoresNothing) {
     const auto project = added("A");
     opened("B");
     set(project, "StartUpProject", kStub);
     EXPECT_THAT(tellRemoved(project), IsEmpty());
 }
 
-TEST_F(ProjectEvents, OfTheOldFormatAndOfForeignProjectsNothingIsKept) {
+TEST_F(ProjectEvents, ClosingOldAndForeignProjectsStoresNothing) {
     const auto old = added("A"), foreign = added("B", "none");
     set(old, "ProjectVersion", "1.0");
     old->dirty = foreign->dirty = true;
@@ -268,14 +268,14 @@ TEST_F(ProjectEvents, OfTheOldFormatAndOfForeignProjectsNothingIsKept) {
     EXPECT_FALSE(projects.FindQLProject(old) || projects.FindQLProject(foreign));
 }
 
-TEST_F(ProjectEvents, TheLastClosingSwitchesTheInterfaceOff) {
+TEST_F(ProjectEvents, ClosingTheLastProjectDisablesTheInterface) {
     const auto project = added("A", "none");
     messages.showToolWindow();
     EXPECT_THAT(tellRemoved(project),
                 ElementsAre("disable menu", "disable toolbar", "disable support toolbar", "Fernwick Messages hidden"));
 }
 
-TEST_F(ProjectEvents, ACommandLineKeepsNothingOfTheDesktop) {
+TEST_F(ProjectEvents, TheCommandLineStoresNothingOfTheDesktop) {
     const auto project = added("A");
     opened("B");
     addIn.gConnectMode = vbide::vbext_cm_CommandLine;
@@ -283,13 +283,13 @@ TEST_F(ProjectEvents, ACommandLineKeepsNothingOfTheDesktop) {
     EXPECT_THAT(tellRemoved(project), ElementsAre("A saved /p/A.vbp", "A dirty 0"));
 }
 
-TEST_F(ProjectEvents, AProjectThatWasNeverMetClosesWithoutAWord) {
+TEST_F(ProjectEvents, ClosingAnUnknownProjectIsSilent) {
     opened("B");
     EXPECT_THAT(tellRemoved(opened("A")), IsEmpty());
     EXPECT_THAT(errors.seen, IsEmpty());
 }
 
-TEST_F(ProjectEvents, ANewNameMakesAnotherDependency) {
+TEST_F(ProjectEvents, ARenamedProjectGetsANewIdentity) {
     const auto project = added("A");
     project->name = "B";
     vbe->events->projects->ItemRenamed.raise(project, "A");
@@ -298,7 +298,7 @@ TEST_F(ProjectEvents, ANewNameMakesAnotherDependency) {
     EXPECT_THAT(errors.seen, IsEmpty());
 }
 
-TEST_F(ProjectEvents, AFirstNameAndAStrangersNameChangeNothing) {
+TEST_F(ProjectEvents, FirstNamesAndUnknownProjectsChangeNothing) {
     const auto project = added("A"), stranger = opened("S");
     vbe->events->projects->ItemRenamed.raise(project, "");
     vbe->events->projects->ItemRenamed.raise(stranger, "T");
@@ -319,13 +319,13 @@ TEST_F(ProjectEvents, AnActivatedProjectIsSetUpAndWatched) {
     EXPECT_FALSE(watches(second));
 }
 
-TEST_F(ProjectEvents, AnActivatedProjectThatWasNeverMetIsLeftAlone) {
+TEST_F(ProjectEvents, IgnoresAnActivatedUnknownProject) {
     vbe->events->projects->ItemActivated.raise(opened("A"));
     EXPECT_THAT(trace.effects, ElementsAre("sink: files of A"));
     EXPECT_THAT(errors.seen, IsEmpty());
 }
 
-TEST_F(ProjectEvents, LeavingAProjectThatHasGoneIsNoError) {
+TEST_F(ProjectEvents, LeavingAClosedProjectIsNoError) {
     added("Other");
     const auto gone = added("A"), next = added("B");
     vbe->events->projects->ItemActivated.raise(gone);
@@ -338,7 +338,7 @@ TEST_F(ProjectEvents, LeavingAProjectThatHasGoneIsNoError) {
 
 // ---- build ---------------------------------------------------------------------------------------------------------------
 
-TEST_F(ProjectEvents, TheToolbarsRestWhileAProjectRuns) {
+TEST_F(ProjectEvents, DisablesTheToolbarsWhileAProjectRuns) {
     added("A");
     vbe->events->build->EnterRunMode.raise();
     vbe->events->build->EnterDesignMode.raise();
@@ -346,7 +346,7 @@ TEST_F(ProjectEvents, TheToolbarsRestWhileAProjectRuns) {
                 ElementsAre("disable toolbar", "disable support toolbar", "enable toolbar", "enable support toolbar"));
 }
 
-TEST_F(ProjectEvents, ARunOfAForeignProjectIsNoneOfOurs) {
+TEST_F(ProjectEvents, IgnoresARunOfAForeignProject) {
     vbe->events->build->EnterRunMode.raise();
     added("A", "none");
     vbe->events->build->EnterRunMode.raise();
@@ -356,7 +356,7 @@ TEST_F(ProjectEvents, ARunOfAForeignProjectIsNoneOfOurs) {
 
 // ---- failures ------------------------------------------------------------------------------------------------------------
 
-/// What each failing call of an event costs: at most one report, and a few of the steps.
+/// Each failing call of an event causes at most one report and loses only a few steps.
 class FailingEvents : public ProjectEvents {
 protected:
     template <class Prepare, class Raise>
@@ -375,7 +375,7 @@ protected:
             trace.failing = 0;
             if (trace.calls < failing) break;
             EXPECT_LE(errors.injected, 1) << failing;
-            // where nothing was reported, a setting could not be read and has its default: another kind of project
+            // without a report, a setting could not be read and its default made this another kind of project
             EXPECT_TRUE(did(last) || errors.injected == 0 || test::lost(baseline, trace.effects) == Effects{last})
                 << failing;
         }
@@ -389,7 +389,7 @@ protected:
     }
 };
 
-TEST_F(FailingEvents, OfAnAddedProjectCostOnlyThemselves) {
+TEST_F(FailingEvents, OfAnAddedProjectLoseOneStep) {
     test::Ref<test::TracedProject> project;
     sweep(
         [&] {
@@ -399,7 +399,7 @@ TEST_F(FailingEvents, OfAnAddedProjectCostOnlyThemselves) {
         [&] { vbe->events->projects->ItemAdded.raise(project); }, "restore toolbars");
 }
 
-TEST_F(FailingEvents, OfANewProjectCostOnlyThemselves) {
+TEST_F(FailingEvents, OfANewProjectLoseOneStep) {
     test::Ref<test::TracedProject> project;
     sweep(
         [&] {
@@ -410,7 +410,7 @@ TEST_F(FailingEvents, OfANewProjectCostOnlyThemselves) {
         [&] { vbe->events->projects->ItemAdded.raise(project); }, "restore toolbars");
 }
 
-TEST_F(FailingEvents, OfAProjectThatIsTurnedAwayCostOnlyThemselves) {
+TEST_F(FailingEvents, OfARefusedProjectLoseOneStep) {
     noted.unknownDevice = {false, "/p/B.vbp"};
     test::Ref<test::TracedProject> project;
     sweep(
@@ -421,7 +421,7 @@ TEST_F(FailingEvents, OfAProjectThatIsTurnedAwayCostOnlyThemselves) {
         [&] { vbe->events->projects->ItemAdded.raise(project); }, "restore toolbars");
 }
 
-TEST_F(FailingEvents, OfAnActivatedProjectCostOnlyThemselves) {
+TEST_F(FailingEvents, OfAnActivatedProjectLoseOneStep) {
     test::Ref<test::TracedProject> project;
     sweep(
         [&] {
@@ -431,7 +431,7 @@ TEST_F(FailingEvents, OfAnActivatedProjectCostOnlyThemselves) {
         [&] { vbe->events->projects->ItemActivated.raise(project); }, "sink: references of A");
 }
 
-TEST_F(FailingEvents, OfARemovedProjectCostOnlyThemselves) {
+TEST_F(FailingEvents, OfARemovedProjectLoseOneStep) {
     test::Ref<test::TracedProject> project;
     sweep(
         [&] {

@@ -1,4 +1,4 @@
-// Which sink hears which item.
+// The sinks of items.
 #include "connect_world.h"
 
 using testing::ElementsAre;
@@ -93,7 +93,7 @@ TEST_F(Sinks, AFailedAssignmentLeavesTheOthers) {
     EXPECT_TRUE(bool(connection->CompileProjectHandler));
 }
 
-TEST_F(Sinks, SamplesCarryTheirOwn) {
+TEST_F(Sinks, OfSamplesBelongToTheSamples) {
     const auto popup = basic::make<fernwick::clsSampleMenuItem>(), sample = basic::make<fernwick::clsSampleMenuItem>();
     popup->popupMenu = true;
     sample->myOfficeCommandBar = item("address book");
@@ -109,7 +109,7 @@ TEST_F(Sinks, SamplesCarryTheirOwn) {
     EXPECT_EQ(opened, 1);
 }
 
-TEST_F(Sinks, OfTheMenuComeBeforeThoseOfTheToolbars) {
+TEST_F(Sinks, OfTheMenuPrecedeThoseOfTheToolbars) {
     connect();
     EXPECT_THAT(itemSinks(),
                 ElementsAre("Fernwick &Settings...", "Compile and &Validate", "&Open Fernwick Project...",

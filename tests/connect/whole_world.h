@@ -1,5 +1,5 @@
 #pragma once
-// The whole add-in over the real host, worked by its menu; the user, the compiler and the devices are the test's.
+// The whole add-in over the real host, used through its menu; user, compiler and devices are fakes.
 #include "Add-in/core/connect/Modules.h"
 #include "Host/system/classes.h"
 #include "Host/system/clipboard.h"
@@ -15,7 +15,7 @@
 
 namespace test {
 
-/// Tells what was started and opened.
+/// Records what was started and opened.
 class TracedShell : public fernwick::Shell {
 public:
     explicit TracedShell(Trace& trace) : trace_(trace) {}
@@ -63,7 +63,7 @@ protected:
         connect();
         return project;
     }
-    /// What came of the user's clicking the item: forms, boxes, what devices got, what was opened.
+    /// Clicks on the item and returns the effects that users see: forms, boxes, transfers, opened documents.
     std::vector<std::string> click(const Control& item) {
         trace.effects.clear();
         item->Execute();

@@ -5,7 +5,7 @@
 
 namespace test {
 
-/// A registry of which whole roots can't be written.
+/// A registry in which whole roots are read-only.
 class GuardedRegistry : public MemoryRegistry {
 public:
     std::set<std::uint32_t> readOnlyRoots;

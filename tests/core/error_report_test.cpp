@@ -29,7 +29,7 @@ TEST_F(ErrorReportTest, ErrorsOfOurOwnCarryTheAddInsName) {
     errors.Error_ShowAddInError("modX.Y", basic::RuntimeError(91));
 }
 
-TEST_F(ErrorReportTest, BracesInATextStandAsTheyAre) {
+TEST_F(ErrorReportTest, KeepsBracesInTexts) {
     user.expectBox("An Error Has Occurred in {location} (QLVBAddIn)\r\nError: [5] {0}\r\nLastDllError: 0\r\n"
                    "Please contact Quinloft at http://support.example",
                    vbOK, vbCritical);

@@ -23,7 +23,7 @@ TEST_F(InstallInfo, AnEmptyRootGivesEmptyFolders) {
     EXPECT_EQ(install.GetVBProductDir(), "");
 }
 
-TEST_F(InstallInfo, FoldersLieBelowTheRootInAnyLetterCase) {
+TEST_F(InstallInfo, FoldersAreBelowTheRootInAnyLetterCase) {
     root.write("vb toolkit/SAMPLES/readme.txt", "");
     installAt(root.path());
     EXPECT_EQ(install.GetQuinloftFontsDir(), root / "Fonts");

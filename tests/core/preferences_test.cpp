@@ -21,7 +21,7 @@ TEST_F(Preferences, DefaultsWhereNothingIsStored) {
 
 TEST_F(Preferences, WhatIsSetIsRead) {
     prefs.SetZoomWinState(1);
-    prefs.GetZoomWinState(); // makes the key
+    prefs.GetZoomWinState(); // creates the key
     prefs.SetZoomWinState(0);
     EXPECT_EQ(prefs.GetZoomWinState(), 0);
     prefs.SetQuinloftCompileWarning(true);
@@ -49,12 +49,12 @@ TEST_F(Preferences, ASaveWarningStoredAsTextIsTrue) {
     EXPECT_TRUE(addIn.GetQuinloftSaveWarning());
 }
 
-TEST_F(Preferences, ReadingTheSaveWarningMakesItsKey) {
+TEST_F(Preferences, ReadingTheSaveWarningCreatesItsKey) {
     addIn.GetQuinloftSaveWarning();
     EXPECT_TRUE(RegistryKey(registry, registry.OpenKey(kUser, kAddIn, KEY_READ)));
 }
 
-TEST_F(Preferences, AStoreThatMayNotBeWrittenGivesDefaults) {
+TEST_F(Preferences, AReadOnlyStoreGivesDefaults) {
     store.readOnlyRoots.insert(kUser);
     EXPECT_TRUE(addIn.GetQuinloftSaveWarning());
     addIn.SetQuinloftSaveWarning(false);
@@ -83,7 +83,7 @@ TEST_F(Preferences, AColumnWidthOfZeroIsRewritten) {
     EXPECT_EQ(stored(kUser, kAddIn, "RecProjColW"), "4:-1");
 }
 
-TEST_F(Preferences, ANumberThatIsNoneIsReportedAndTheDefault) {
+TEST_F(Preferences, AnInvalidNumberIsReportedAndTheDefault) {
     setText(kUser, kAddIn, "RecProjColW", "wide");
     setText(kUser, kAddIn, "ProjMgrState", "open");
     EXPECT_EQ(prefs.GetRecentProjColWidth(), -1);
@@ -101,7 +101,7 @@ TEST_F(Preferences, TheTutorialBelongsToTheMachine) {
     EXPECT_FALSE(prefs.GetStartTutorial());
 }
 
-TEST_F(Preferences, WithoutAccessToTheMachineTheTutorialComesEachTime) {
+TEST_F(Preferences, WithoutAccessToTheMachineShowsTheTutorialEachTime) {
     setText(kMachine, kPrefs, "other", "");
     store.readOnlyRoots.insert(kMachine);
     EXPECT_TRUE(prefs.GetStartTutorial());
@@ -119,23 +119,23 @@ TEST_F(Preferences, AMissingDeviceLeavesNoGapAndSavingRenumbers) {
     EXPECT_TRUE(prefs.saveMyDevices());
     EXPECT_EQ(stored(kUser, kMyDevices, "MyDeviceCount"), "4:2");
     EXPECT_EQ(stored(kUser, kMyDevices, "MyDevice1"), "1:PocketPC");
-    EXPECT_EQ(stored(kUser, kMyDevices, "MyDevice2"), "1:PocketPC"); // out of the count's reach
+    EXPECT_EQ(stored(kUser, kMyDevices, "MyDevice2"), "1:PocketPC"); // beyond the count
 }
 
-TEST_F(Preferences, LoadingTwiceStartsAfresh) {
+TEST_F(Preferences, LoadingTwiceReplacesTheList) {
     prefs.gMyDevices = {"left over"};
     prefs.loadMyDevices();
     EXPECT_TRUE(prefs.gMyDevices.empty());
 }
 
-TEST_F(Preferences, ADeviceCountThatIsNoNumberIsReported) {
+TEST_F(Preferences, ReportsAnInvalidDeviceCount) {
     setText(kUser, kMyDevices, "MyDeviceCount", "many");
     prefs.loadMyDevices();
     EXPECT_TRUE(prefs.gMyDevices.empty());
     EXPECT_EQ(errors.seen, Texts{"modAddinPrefsManagement.loadMyDevices [13]"});
 }
 
-TEST_F(Preferences, AnAbsurdDeviceCountEnds) {
+TEST_F(Preferences, LimitsAnAbsurdDeviceCount) {
     setNumber(kUser, kMyDevices, "MyDeviceCount", 0x7FFFFFFF);
     setText(kUser, kMyDevices, "MyDevice4", "PalmOS");
     prefs.loadMyDevices();
@@ -153,7 +153,7 @@ TEST_F(Preferences, GroupsAreFoundByNameAndByPosition) {
     setText(kMachine, kGroups, "Twice", "2");
     EXPECT_TRUE(prefs.CreateTavletCategoryList(names, positions));
     EXPECT_EQ(names.Item("1"), "Standard");
-    EXPECT_EQ(names.Count(), 2); // the second one at a position is dropped
+    EXPECT_EQ(names.Count(), 2); // the second one at a position is ignored
     EXPECT_EQ(positions.Item("twice"), "2");
     EXPECT_EQ(positions.Count(), 3);
 }

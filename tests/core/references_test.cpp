@@ -26,4 +26,4 @@ TEST_F(QuinloftControls, NoneWithoutTheKey) {
     EXPECT_EQ(references.gQuinloftClasses.Count(), 0);
 }
 
-TEST_F(QuinloftControls, NoProgIdForATextThatIsNoClass) { EXPECT_EQ(references.GetProgID("Tavlets.QLLabel"), ""); }
+TEST_F(QuinloftControls, HaveNoProgIdForAnInvalidClass) { EXPECT_EQ(references.GetProgID("Tavlets.QLLabel"), ""); }

@@ -15,7 +15,7 @@ TEST_F(RegistryTest, MissingKeysAreHandleZero) {
     EXPECT_FALSE(registry.CloseKey(4711));
 }
 
-TEST_F(RegistryTest, WhatMayNotBeCreatedIsHandleZero) {
+TEST_F(RegistryTest, ReadOnlyKeysAreHandleZero) {
     store.readOnlyRoots.insert(kMachine);
     EXPECT_EQ(registry.OpenOrCreateKey(kMachine, "Software\\New", KEY_ALL_ACCESS), 0U);
     std::uint32_t made = 1;
@@ -52,7 +52,7 @@ TEST_F(RegistryTest, AnEmptyValueReadsAsEmptyTextAndStatusZero) {
     EXPECT_EQ(std::get<std::string>(value.data), "");
 }
 
-TEST_F(RegistryTest, AMissingValueAnswersItsStatus) {
+TEST_F(RegistryTest, AMissingValueReturnsItsStatus) {
     const auto value = registry.GetStringValue(key, "nothing");
     EXPECT_EQ(value.status, ERROR_FILE_NOT_FOUND);
     EXPECT_EQ(value.text, "");
@@ -90,7 +90,7 @@ TEST_F(RegistryTest, BytesAndTextAreOneToOne) {
     EXPECT_EQ(modRegistry2::StringToBytes("a→"), (RegistryBytes{'a', '?'}));
 }
 
-TEST(RegistryNumber, TextsThatAreNoNumberAreError13) {
+TEST(RegistryNumber, InvalidTextsAreError13) {
     EXPECT_EQ(registryNumber(std::string("12")), 12);
     EXPECT_EQ(test::errorOf([] { registryNumber(std::string("twelve")); }), 13);
     EXPECT_EQ(test::errorOf([] { registryNumber(RegistryBytes{1}); }), 13);

@@ -12,14 +12,14 @@ std::vector<std::string> keysOf(const DesignTargetMgr& manager) {
     return keys;
 }
 
-TEST(DesignTargetMgr, HasNoTargetsWhereNoFolderIs) {
+TEST(DesignTargetMgr, HasNoTargetsWithoutAFolder) {
     DesignTargetMgr manager{"/nowhere/at/all"};
     manager.Initialize();
     EXPECT_EQ(manager.Count(), 0);
     EXPECT_TRUE(manager.problems().empty());
 }
 
-TEST(DesignTargetMgr, KnowsNothingBeforeItIsInitialized) {
+TEST(DesignTargetMgr, IsEmptyBeforeInitialize) {
     TargetFolder folder;
     folder.add("a.toml", TargetFolder::target("A", 1));
     DesignTargetMgr manager{folder.root()};
@@ -49,7 +49,7 @@ TEST(DesignTargetMgr, FindsByKeyExactly) {
     EXPECT_FALSE(manager->FindDesignTarget("", position));
 }
 
-TEST(DesignTargetMgr, GivesNothingForAnUnknownKey) {
+TEST(DesignTargetMgr, ReturnsNothingForAnUnknownKey) {
     TargetFolder folder;
     folder.add("a.toml", TargetFolder::target("A", 1));
     const auto manager = initialized(folder.root());
@@ -60,7 +60,7 @@ TEST(DesignTargetMgr, GivesNothingForAnUnknownKey) {
     EXPECT_EQ(target->Name(), "&A");
 }
 
-TEST(DesignTargetMgr, GivesNothingOutsideOfTheRange) {
+TEST(DesignTargetMgr, ReturnsNothingOutOfRange) {
     TargetFolder folder;
     folder.add("a.toml", TargetFolder::target("A", 1));
     const auto manager = initialized(folder.root());
@@ -69,7 +69,7 @@ TEST(DesignTargetMgr, GivesNothingOutsideOfTheRange) {
     EXPECT_TRUE(manager->GetDesignTargetByIndex(0));
 }
 
-TEST(DesignTargetMgr, NamesAFaultyFileAndKeepsTheOthers) {
+TEST(DesignTargetMgr, ReportsAnInvalidFileAndKeepsTheOthers) {
     TargetFolder folder;
     folder.add("broken.toml", "order = 1\nkey = \n");
     folder.add("good.toml", TargetFolder::target("Good", 1));
@@ -81,7 +81,7 @@ TEST(DesignTargetMgr, NamesAFaultyFileAndKeepsTheOthers) {
     EXPECT_FALSE(manager->problems()[0].reason.empty());
 }
 
-TEST(DesignTargetMgr, TakesTheFirstOfTwoFilesWithOneKey) {
+TEST(DesignTargetMgr, UsesTheFirstOfTwoFilesWithTheSameKey) {
     TargetFolder folder;
     folder.add("late.toml", TargetFolder::target("A", 2));
     folder.add("soon.toml", TargetFolder::target("A", 1));
@@ -89,7 +89,7 @@ TEST(DesignTargetMgr, TakesTheFirstOfTwoFilesWithOneKey) {
     EXPECT_EQ(manager->Count(), 1);
     ASSERT_EQ(manager->problems().size(), 1u);
     EXPECT_EQ(manager->problems()[0].text(),
-              folder.root() + "/targets/late.toml: the key \"A\" is taken by another file");
+              folder.root() + "/targets/late.toml: the key \"A\" is already used by another file");
 }
 
 TEST(DesignTargetMgr, ReadsOnlyTomlFiles) {
@@ -101,7 +101,7 @@ TEST(DesignTargetMgr, ReadsOnlyTomlFiles) {
     EXPECT_TRUE(manager->problems().empty());
 }
 
-TEST(DesignTargetMgr, NamesWhatCannotBeRead) {
+TEST(DesignTargetMgr, ReportsUnreadableFiles) {
     TargetFolder folder;
     std::filesystem::create_directory(folder.root() + "/targets/folder.toml");
     std::filesystem::create_symlink("nowhere", folder.root() + "/targets/link.toml");
@@ -112,7 +112,7 @@ TEST(DesignTargetMgr, NamesWhatCannotBeRead) {
     EXPECT_EQ(manager->problems().size(), 4u);
 }
 
-TEST(DesignTargetMgr, StartsAnewWhenInitializedAgain) {
+TEST(DesignTargetMgr, ReadsTheFilesAgainWhenReinitialized) {
     TargetFolder folder;
     folder.add("a.toml", TargetFolder::target("A", 1));
     folder.add("b.toml", "nonsense");

@@ -19,7 +19,7 @@ DesignTarget targetWithReferences() {
                       "\" } ]\nmodules = [ \"" + kControls + "\" ]\n");
 }
 
-TEST(DesignTarget, DeliversNumbersAsText) {
+TEST(DesignTarget, ReturnsNumbersAsText) {
     const auto target = targetWith("");
     EXPECT_EQ(target.DefaultFormWidth(), "100");
     EXPECT_EQ(target.DefaultFormHeight(), "-1");
@@ -31,7 +31,7 @@ TEST(DesignTarget, DeliversNumbersAsText) {
     EXPECT_EQ(target.PlatformName(), "Some");
 }
 
-TEST(DesignTarget, HasNeitherPlatformNorPipeWhenItsFileNamesNone) {
+TEST(DesignTarget, MayHaveNeitherPlatformNorPipe) {
     const DesignTarget target{readTarget("order=1\nkey='K'\nname='N'\nstyle=0\n[form]\nwidth=1\nheight=1\ncolor=0\n"
                                          "[font]\nname='F'\nsize=1\n",
                                          "k.toml"),
@@ -40,7 +40,7 @@ TEST(DesignTarget, HasNeitherPlatformNorPipeWhenItsFileNamesNone) {
     EXPECT_EQ(target.RequiredPipeProgID(), "");
 }
 
-TEST(DesignTarget, AnswersOptionsThatItHas) {
+TEST(DesignTarget, ReturnsItsOptions) {
     const auto target = targetWith("[options]\nDefaultFontStyle = 3\nFileKinds = \"CMF TXT\"\n");
     std::string value = "untouched";
     EXPECT_FALSE(target.GetOption("Other", value));
@@ -51,13 +51,13 @@ TEST(DesignTarget, AnswersOptionsThatItHas) {
     EXPECT_EQ(value, "CMF TXT");
 }
 
-TEST(DesignTarget, AnOptionMayHoldAnyText) {
+TEST(DesignTarget, OptionsMayContainAnyText) {
     std::string value;
     EXPECT_TRUE(targetWith("[options]\nDefaultFontStyle = \"bold\"\n").GetOption("DefaultFontStyle", value));
     EXPECT_EQ(value, "bold");
 }
 
-TEST(DesignTarget, GivesTavletsAsParallelLists) {
+TEST(DesignTarget, ReturnsTavletsAsParallelLists) {
     const auto target = targetWith("[tavlets]\nsupported = [ { clsid = \"" + kDevice +
                                    "\", progid = \"L.One\", category = \"Lists\" }, { clsid = \"" + kControls +
                                    "\", progid = \"L.Two\" } ]\n");
@@ -97,7 +97,7 @@ TEST(DesignTarget, ValidatesAReferenceByName) {
     EXPECT_FALSE(target.ValidateReference("").known());
 }
 
-TEST(DesignTarget, LooksModulesUpApartFromReferences) {
+TEST(DesignTarget, LooksUpModulesSeparatelyFromReferences) {
     const auto target = targetWithReferences();
     EXPECT_TRUE(target.FindModule(kControls));
     EXPECT_TRUE(target.FindModule("aaaaaaaa-2222-3333-4444-555555555555"));
@@ -105,7 +105,7 @@ TEST(DesignTarget, LooksModulesUpApartFromReferences) {
     EXPECT_FALSE(target.FindModule(""));
 }
 
-TEST(DesignTarget, GivesControlDefaultsWithNumbersBehindAMark) {
+TEST(DesignTarget, ReturnsControlDefaultsWithAMarkBeforeNumbers) {
     const auto target = targetWith("[tavlets.defaults]\n\"QLButton.FontSize\" = 8\n\"QLLabel.Caption\" = \"#1 a\"\n");
     std::vector<std::string> names, values;
     target.GetPropertyDefaults(names, values);
@@ -114,7 +114,7 @@ TEST(DesignTarget, GivesControlDefaultsWithNumbersBehindAMark) {
     EXPECT_EQ(values, (std::vector<std::string>{"#8", "#1 a"}));
 }
 
-TEST(DesignTarget, WithoutDefaultsLeavesControlsAlone) {
+TEST(DesignTarget, HasNoControlDefaultsUnlessGiven) {
     const auto target = targetWith("");
     std::vector<std::string> names{"old"}, values{"old"};
     target.GetPropertyDefaults(names, values);
@@ -124,14 +124,14 @@ TEST(DesignTarget, WithoutDefaultsLeavesControlsAlone) {
     EXPECT_FALSE(target.IsTabStopOff("QLButton"));
 }
 
-TEST(DesignTarget, SwitchesTabStopOffForTheClassesThatItNames) {
+TEST(DesignTarget, TurnsTabStopOffForItsClasses) {
     const auto target = targetWith("[tavlets]\ntab_stop_off = [\"QLButton\"]\n");
     EXPECT_TRUE(target.IsTabStopOff("QLButton"));
     EXPECT_TRUE(target.IsTabStopOff("qlbutton"));
     EXPECT_FALSE(target.IsTabStopOff("QLLabel"));
 }
 
-TEST(DesignTarget, HasTemplatesBelowTheRoot) {
+TEST(DesignTarget, HasTemplatesInsideTheRoot) {
     const auto target = targetWith("[templates]\nproject = \"T/P.vbp\"\nclass = \"T/C.cls\"\n");
     EXPECT_EQ(target.VBPTemplate(), "/root/T/P.vbp");
     EXPECT_EQ(target.FormTemplate(), "");

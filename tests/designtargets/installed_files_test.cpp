@@ -6,7 +6,7 @@ namespace {
 using installed::kRoot;
 using installed::leadsSomewhere;
 
-TEST(InstalledFiles, OfEveryLiteralPathAreThere) {
+TEST(InstalledFiles, ExistForEveryLiteralPath) {
     for (const char* path :
          {R"(\VB TOOLKIT\BIN\QLCOMPILE.AVI)", R"(\VB TOOLKIT\BIN\QLVALIDATE.AVI)", R"(\VB TOOLKIT\BIN\QLUPLOAD.AVI)",
           R"(\VB TOOLKIT\BIN\QLDEFAULT.ico)", R"(\Fonts)", R"(\VB Toolkit\Samples)", R"(\VB Toolkit\Template\Projects)",
@@ -19,16 +19,16 @@ TEST(InstalledFiles, OfEveryLiteralPathAreThere) {
         EXPECT_TRUE(leadsSomewhere(kRoot, path)) << path;
 }
 
-/// The tools are programs of their own, and a folder's literal ends before their names.
+/// The tools are separate programs, and the path of a folder ends before their names.
 bool isShipped(const std::string& path) { return !path.ends_with(".exe") && !path.ends_with('\\'); }
 
-/// A help topic "file.chm::/page.html" is the page beside the file.
+/// The help topic "file.chm::/page.html" is the page next to the file.
 std::string pageOf(const std::string& path) {
     const auto topic = path.find("::/");
     return topic == std::string::npos ? path : path.substr(0, path.rfind('\\', topic) + 1) + path.substr(topic + 3);
 }
 
-TEST(InstalledFiles, AreThereForWhatTheAddInNames) {
+TEST(InstalledFiles, ExistForEveryNameInTheAddIn) {
     for (const auto& entry : std::filesystem::recursive_directory_iterator{FERNWICK_SOURCE_DIR "/Add-in"}) {
         if (entry.path().extension() != ".cpp" && entry.path().extension() != ".h") continue;
         const std::string text = installed::lower(installed::replaced(installed::content(entry.path()), "\\\\", "\\"));
@@ -39,13 +39,13 @@ TEST(InstalledFiles, AreThereForWhatTheAddInNames) {
     }
 }
 
-TEST(InstalledFiles, OfHelpHaveAPageBesideThem) {
+TEST(InstalledFiles, IncludeAPageForEachHelpFile) {
     const auto helpFiles = installed::filesOf(kRoot + "/VB Toolkit/doc", ".chm");
     EXPECT_EQ(helpFiles.size(), 4u);
     for (auto path : helpFiles) EXPECT_TRUE(std::filesystem::exists(path.replace_extension(".html"))) << path;
 }
 
-TEST(InstalledFiles, HaveHelpLinksThatLeadSomewhere) {
+TEST(InstalledFiles, HaveNoDeadHelpLinks) {
     for (const auto& path : installed::filesOf(kRoot + "/VB Toolkit/doc", ".html"))
         for (const std::string& link : installed::textsAfter(installed::content(path), "href=\"", "\"#")) {
             const std::string target = installed::replaced(link, "%20", " ");
@@ -53,7 +53,7 @@ TEST(InstalledFiles, HaveHelpLinksThatLeadSomewhere) {
         }
 }
 
-TEST(InstalledFiles, OfAnimationsAreSmallAndWhole) {
+TEST(InstalledFiles, IncludeSmallValidAnimations) {
     for (const char* name : {"QLCOMPILE.AVI", "QLVALIDATE.AVI", "QLUPLOAD.AVI"}) {
         const std::string bytes = installed::content(kRoot + "/VB Toolkit/Bin/" + name);
         ASSERT_GT(bytes.size(), 12u) << name;
@@ -64,7 +64,7 @@ TEST(InstalledFiles, OfAnimationsAreSmallAndWhole) {
     }
 }
 
-TEST(InstalledFiles, OfTheIconHoldTwoImagesInsideTheFile) {
+TEST(InstalledFiles, IncludeAnIconWithTwoImages) {
     const std::string bytes = installed::content(kRoot + "/VB Toolkit/Bin/QLDEFAULT.ico");
     ASSERT_GT(bytes.size(), 6u + 2 * 16u);
     EXPECT_EQ(bytes.substr(0, 6), std::string("\0\0\1\0\2\0", 6));
@@ -76,7 +76,7 @@ TEST(InstalledFiles, OfTheIconHoldTwoImagesInsideTheFile) {
     EXPECT_EQ(number(6 + 16 + 12) + number(6 + 16 + 8), bytes.size());
 }
 
-TEST(InstalledFiles, OfTheRegistryAreWrittenAsRegistryEditorsDo) {
+TEST(InstalledFiles, IncludeWellFormedRegistryFiles) {
     const auto files = installed::filesOf(kRoot + "/registry", ".reg");
     EXPECT_EQ(files.size(), 4u);
     for (const auto& path : files) {
@@ -87,7 +87,7 @@ TEST(InstalledFiles, OfTheRegistryAreWrittenAsRegistryEditorsDo) {
     }
 }
 
-TEST(InstalledFiles, AreFoundFromRegisteredPaths) {
+TEST(InstalledFiles, ExistForEveryRegisteredPath) {
     const auto keys = installed::registered();
     EXPECT_EQ(keys.at("hkey_local_machine\\software\\quinloft").at("rootdir"), "%RootDir%");
     EXPECT_EQ(keys.at("hkey_local_machine\\software\\microsoft\\visualstudio\\6.0\\setup\\microsoft visual basic")

@@ -1,5 +1,5 @@
 #pragma once
-// The installation tree of the repository, read at the level of text.
+// The installation tree in the repository, read as text.
 #include <algorithm>
 #include <cctype>
 #include <filesystem>
@@ -32,7 +32,7 @@ inline std::vector<std::filesystem::path> filesOf(const std::string& folder, con
     return files;
 }
 
-/// What follows each `prefix` in the text, up to one of the `stops`.
+/// Returns the texts after each `prefix`, up to one of the `stops`.
 inline std::vector<std::string> textsAfter(const std::string& text, const std::string& prefix, const char* stops) {
     std::vector<std::string> found;
     for (auto at = text.find(prefix); at != std::string::npos; at = text.find(prefix, at)) {
@@ -42,14 +42,14 @@ inline std::vector<std::string> textsAfter(const std::string& text, const std::s
     return found;
 }
 
-/// The text with each `from` replaced.
+/// Returns the text with each `from` replaced.
 inline std::string replaced(std::string text, const std::string& from, const std::string& to) {
     for (auto at = text.find(from); at != std::string::npos; at = text.find(from, at + to.size()))
         text.replace(at, from.size(), to);
     return text;
 }
 
-/// Whether a path with "\" or "/" between its parts leads from `root` to something, letter case ignored.
+/// Returns whether a path with "\" or "/" exists in `root`, regardless of case.
 inline bool leadsSomewhere(std::filesystem::path root, std::string path) {
     std::replace(path.begin(), path.end(), '\\', '/');
     std::istringstream parts{path};
@@ -68,8 +68,8 @@ inline bool leadsSomewhere(std::filesystem::path root, std::string path) {
 
 using Values = std::map<std::string, std::string>;
 
-/// Keys in lower case, with their values by name in lower case; "@" is the default value. The reader of .reg files is
-/// tested elsewhere; the shipped ones hold texts only.
+/// Returns keys in lower case, with their values by name in lower case; "@" is the default value. Supports only strings,
+/// which is all that the shipped .reg files contain.
 inline std::map<std::string, Values> registered() {
     std::map<std::string, Values> keys;
     for (const auto& path : filesOf(kRoot + "/registry", ".reg")) {
@@ -87,7 +87,7 @@ inline std::map<std::string, Values> registered() {
     return keys;
 }
 
-/// A registered path below the root, without the root.
+/// Returns a registered path inside the root, without the root.
 inline std::string belowRoot(const std::string& registeredPath) {
     static const std::string kPlaceholder = "%RootDir%/";
     return registeredPath.starts_with(kPlaceholder) ? registeredPath.substr(kPlaceholder.size()) : "not below the root";

@@ -12,7 +12,7 @@ std::vector<std::filesystem::path> projectFiles() {
     return projects;
 }
 
-/// The files that the project names as its forms, modules and classes.
+/// Returns the forms, modules and classes of the project.
 std::vector<std::filesystem::path> membersOf(const std::filesystem::path& project) {
     const std::string text = installed::content(project);
     std::vector<std::filesystem::path> files;
@@ -24,7 +24,7 @@ std::vector<std::filesystem::path> membersOf(const std::filesystem::path& projec
     return files;
 }
 
-/// The text of the design target file that the project names.
+/// Returns the text of the project's design target file.
 std::string targetOf(const std::filesystem::path& project) {
     const auto keys = installed::textsAfter(installed::content(project), "\r\nTargetDevice=", "\r");
     return keys.size() == 1 ? installed::content(installed::kRoot + "/targets/" + keys[0] + ".toml") : std::string{};
@@ -41,7 +41,7 @@ TEST(Samples, AreThreeProjectsWithTheirMembers) {
     EXPECT_EQ(membersOf(kSamples + "/AddressBook/AddressBook.vbp").size(), 4u);
 }
 
-TEST(Samples, KeepTheLineEndsOfTheIde) {
+TEST(Samples, HaveTheLineEndsOfTheIde) {
     for (const auto& entry : std::filesystem::recursive_directory_iterator{kSamples}) {
         if (!entry.is_regular_file() || entry.path().extension() == ".md") continue;
         const std::string text = installed::content(entry.path());
@@ -65,7 +65,7 @@ TEST(Samples, AreFernwickProjectsForAShippedTarget) {
     }
 }
 
-TEST(Samples, UseTavletsThatTheirDeviceHas) {
+TEST(Samples, UseTavletsOfTheirDevice) {
     for (const auto& project : projectFiles()) {
         const std::string target = targetOf(project);
         int controls = 0;
@@ -79,8 +79,8 @@ TEST(Samples, UseTavletsThatTheirDeviceHas) {
     }
 }
 
-/// Every handler belongs to a control that is there, or to the form.
-TEST(Samples, HandleEventsOfTheirOwnControls) {
+/// Every handler belongs to an existing control or the form.
+TEST(Samples, HandleEventsOfExistingControls) {
     for (const auto& project : projectFiles())
         for (const auto& member : membersOf(project)) {
             const std::string text = installed::content(member);

@@ -67,15 +67,15 @@ TEST_F(ShippedTargets, AreComplete) {
     }
 }
 
-TEST_F(ShippedTargets, NameTemplatesThatAreThere) {
+TEST_F(ShippedTargets, NameExistingTemplates) {
     for (const auto& each : all())
         for (const std::string& path :
              {each->VBPTemplate(), each->FormTemplate(), each->ModuleTemplate(), each->ClassModuleTemplate()})
             EXPECT_TRUE(path.empty() || std::filesystem::is_regular_file(path)) << path;
 }
 
-/// A project that is opened from a target's template keeps the template's values, so they must be the target's.
-TEST_F(ShippedTargets, HaveProjectTemplatesWithTheirOwnValues) {
+/// A new project keeps the values of the template, so they must match the target.
+TEST_F(ShippedTargets, HaveProjectTemplatesWithMatchingValues) {
     for (const auto& each : all()) {
         SCOPED_TRACE(each->VBPTemplate());
         const std::string text = installed::content(each->VBPTemplate());
@@ -94,7 +94,7 @@ TEST_F(ShippedTargets, HaveProjectTemplatesWithTheirOwnValues) {
     }
 }
 
-TEST_F(ShippedTargets, AcceptWhatTheirProjectsRefer) {
+TEST_F(ShippedTargets, AcceptTheReferencesOfTheirTemplates) {
     for (const auto& each : all()) {
         std::vector<std::string> guids;
         each->GetSupportedReferences(guids);
@@ -109,7 +109,7 @@ TEST_F(ShippedTargets, AcceptWhatTheirProjectsRefer) {
     }
 }
 
-TEST_F(ShippedTargets, OfOneFamilyDifferInTheirNames) {
+TEST_F(ShippedTargets, HaveUniqueNamesWithinAFamily) {
     std::set<std::string> names;
     for (const auto& each : all()) EXPECT_TRUE(names.insert(each->Name()).second) << each->Name();
 }

@@ -32,7 +32,7 @@ std::map<std::string, toml::table> classes() {
     return result;
 }
 
-/// The class with its groups, as one list of members.
+/// Returns the members of the class and its groups.
 std::vector<toml::table> membersOf(const toml::table& tavlet, const char* kind) {
     std::vector<toml::table> members;
     for (const auto& name : *tavlet["groups"].as_array())
@@ -74,7 +74,7 @@ TEST(ShippedTavlets, AreRegisteredInEveryPlace) {
     }
 }
 
-TEST(ShippedTavlets, AreDescribedWhereverTheyAreRegistered) {
+TEST(ShippedTavlets, AreDescribedIfRegistered) {
     std::set<std::string> described;
     for (const auto& [name, tavlet] : classes()) EXPECT_TRUE(described.insert(lower(textOf(tavlet, "clsid"))).second);
     const std::string prefix = "hkey_classes_root\\clsid\\";
@@ -82,7 +82,7 @@ TEST(ShippedTavlets, AreDescribedWhereverTheyAreRegistered) {
         if (key.starts_with(prefix)) { EXPECT_TRUE(described.contains(key.substr(prefix.size(), 38))) << key; }
 }
 
-TEST(ShippedTavlets, OfEveryTargetAreDescribed) {
+TEST(ShippedTavlets, AreDescribedForEveryTarget) {
     const auto described = classes();
     designtargetaccess::DesignTargetMgr manager{installed::kRoot};
     manager.Initialize();
@@ -98,8 +98,8 @@ TEST(ShippedTavlets, OfEveryTargetAreDescribed) {
     }
 }
 
-/// The walk over the groups stops one short of their count, and takes positions from 1 without a gap.
-TEST(ShippedTavlets, AreInGroupsThatReachTheToolbox) {
+/// The toolbox stops one short of the count of groups, and needs positions from 1 without a gap.
+TEST(ShippedTavlets, AreInGroupsShownInTheToolbox) {
     const auto groups = registered().at("hkey_local_machine\\software\\quinloft\\addinprefs\\tavletgroups");
     std::set<std::string> positions;
     for (const auto& [name, position] : groups) positions.insert(position);
@@ -117,7 +117,7 @@ TEST(ShippedTavlets, AreInGroupsThatReachTheToolbox) {
     EXPECT_NE(groups.at("other"), last);
 }
 
-TEST(ShippedTavlets, HaveGroupsTypesAndNamesThatHold) {
+TEST(ShippedTavlets, HaveValidGroupsTypesAndNames) {
     std::set<std::string> groups;
     for (const auto& each : tablesOf(library(), "groups")) groups.insert(textOf(each, "name"));
     const auto types = knownTypes();
@@ -142,7 +142,7 @@ TEST(ShippedTavlets, HaveGroupsTypesAndNamesThatHold) {
     }
 }
 
-TEST(ShippedTavlets, OfferWhatTheFontScanReads) {
+TEST(ShippedTavlets, HaveTheMembersThatTheFontScanReads) {
     const auto tavlets = classes();
     std::set<std::string> withFont;
     for (const auto& [name, tavlet] : tavlets)

@@ -1,5 +1,5 @@
 #pragma once
-// A root folder of a test's own with target files in it.
+// A temporary root folder with target files.
 #include "Components/DesignTargetAccess/design_target_mgr.h"
 #include <cstdlib>
 #include <filesystem>
@@ -24,7 +24,7 @@ public:
     void add(const std::string& fileName, const std::string& text) const {
         std::ofstream{root_ + "/targets/" + fileName, std::ios::binary} << text;
     }
-    /// The least that makes a target, and `more` behind it.
+    /// Returns a minimal target followed by `more`.
     static std::string target(const std::string& key, int order, const std::string& more = {}) {
         return "order = " + std::to_string(order) + "\nkey = \"" + key + "\"\nname = \"&" + key +
                "\"\nplatform = \"Some\"\npipe = \"QLPipeSome\"\nstyle = 4\n"

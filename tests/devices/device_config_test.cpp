@@ -9,7 +9,7 @@ using Texts = std::vector<std::string>;
 struct DeviceConfig : test::DevicesTest {
     basic::Ref<test::ListedTarget> target = addTarget("Palm");
 
-    /// A control that resolves: identifier, class and library stand in the registry.
+    /// Registers a control completely: identifier, class and library.
     void installControl(const std::string& clsid, const std::string& progId, const std::string& category) {
         registerServer(clsid);
         classes.progIds[clsid] = progId;
@@ -46,7 +46,7 @@ struct DeviceConfig : test::DevicesTest {
 
 } // namespace
 
-TEST_F(DeviceConfig, TakesEveryFieldOfTheTarget) {
+TEST_F(DeviceConfig, ReadsEveryFieldOfTheTarget) {
     const auto config = read();
     EXPECT_EQ(config.DeviceKey, "Palm");
     EXPECT_EQ(config.DeviceName, "&Palm OS");
@@ -70,7 +70,7 @@ TEST_F(DeviceConfig, TheFontStyleIsTheOneFieldWithADefault) {
     EXPECT_TRUE(reports().empty());
 }
 
-TEST_F(DeviceConfig, ANumberThatIsNoneIsReportedAndTheRestRead) {
+TEST_F(DeviceConfig, ReportsAnInvalidNumberAndReadsTheRest) {
     target->height = "tall";
     const auto config = read();
     EXPECT_EQ(config.defaultFormHeight, 0);
@@ -89,7 +89,7 @@ TEST_F(DeviceConfig, WithoutAManagerNothingIsRead) {
     withoutManager();
     const auto config = read();
     EXPECT_EQ(config.DeviceKey, "");
-    EXPECT_EQ(reports().size(), 2U); // by the constructor, then by the read
+    EXPECT_EQ(reports().size(), 2U); // by the constructor and by the read
 }
 
 TEST_F(DeviceConfig, NoTavletsButReferences) {
@@ -118,13 +118,13 @@ TEST_F(DeviceConfig, ResolvesAControl) {
     EXPECT_EQ(label.CategoryName, "Other");
 }
 
-TEST_F(DeviceConfig, WithoutGroupsTheTargetsOrderStays) {
+TEST_F(DeviceConfig, WithoutGroupsKeepsTheTargetsOrder) {
     installControl("{1}", "T.Second", "Z");
     installControl("{2}", "T.First", "A");
     EXPECT_EQ(progIdsOf(read()), (Texts{"T.Second", "T.First"}));
 }
 
-TEST_F(DeviceConfig, GroupsOrderTheListAndTheLastOneStaysOut) {
+TEST_F(DeviceConfig, GroupsOrderTheListWithoutTheLastOne) {
     installControl("{1}", "T.Last", "End");
     installControl("{2}", "T.B", "Second");
     installControl("{3}", "T.A", "First");
@@ -136,7 +136,7 @@ TEST_F(DeviceConfig, GroupsOrderTheListAndTheLastOneStaysOut) {
     EXPECT_EQ(progIdsOf(read()), (Texts{"T.A", "T.B", "", "", ""}));
 }
 
-TEST_F(DeviceConfig, APositionThatIsMissingIsReported) {
+TEST_F(DeviceConfig, ReportsAMissingPosition) {
     installControl("{1}", "T.A", "First");
     storeGroup("First", "2");
     storeGroup("End", "4");
@@ -151,7 +151,7 @@ TEST_F(DeviceConfig, AControlWithoutAServerKey) {
     user.expectBox("Could not get ProgID of T.A\r\ndefined in Palm");
     const auto config = read();
     EXPECT_EQ(tavletCount(config), 0);
-    EXPECT_EQ(progIdsOf(config), Texts{"T.A"}); // the entry keeps its place
+    EXPECT_EQ(progIdsOf(config), Texts{"T.A"}); // the entry remains
 }
 
 TEST_F(DeviceConfig, AControlWithoutAProgId) {
@@ -164,7 +164,7 @@ TEST_F(DeviceConfig, AControlWithoutAProgId) {
     EXPECT_EQ(progIdsOf(config), (Texts{"", "T.B"}));
 }
 
-TEST_F(DeviceConfig, AControlWhoseTextIsNoClass) {
+TEST_F(DeviceConfig, AControlWithAnInvalidClass) {
     registerServer("nonsense");
     support("nonsense", "");
     user.expectBox("Could not get ProgID of \r\ndefined in Palm");

@@ -22,12 +22,12 @@ TEST_F(DeviceManagement, TheNumberIsThatOfTheKnownTargetsWhenOneIsUsable) {
     EXPECT_EQ(devices.GetDesignTargets(false), Texts{"B"});
 }
 
-TEST_F(DeviceManagement, KnownTargetsOfWhichNoneIsUsableCountAsNone) {
+TEST_F(DeviceManagement, UnusableTargetsCountAsNone) {
     addTarget("A")->pipe = "Missing";
     EXPECT_EQ(devices.GetNumDesignTargets(), 0);
 }
 
-TEST_F(DeviceManagement, AMissingValidationLeavesTheTargetOutWithoutAWord) {
+TEST_F(DeviceManagement, SilentlySkipsATargetWithoutValidation) {
     addTarget("A")->pipe = "Missing";
     addTarget("B");
     addTarget("C");
@@ -94,7 +94,7 @@ TEST_F(DeviceManagement, AcceleratorsAreStripped) {
     EXPECT_EQ(modDeviceManagement::StripAcceleratorInfo("&&"), "");
 }
 
-TEST_F(DeviceManagement, WhateverFailsOfThePlatformIsReportedOnceAtMost) {
+TEST_F(DeviceManagement, AFailureOfThePlatformIsReportedAtMostOnce) {
     addTarget("A");
     addTarget("B");
     int calls = 1;

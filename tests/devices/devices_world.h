@@ -1,5 +1,5 @@
 #pragma once
-// Design targets, classes and type libraries as a test names them.
+// Design targets, classes and type libraries defined by the test.
 #include "tests/support/add_in_world.h"
 #include "tests/support/scripted_user.h"
 

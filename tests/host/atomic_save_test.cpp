@@ -18,7 +18,7 @@ struct stat stateOfFile(const std::string& path) {
     return state;
 }
 
-/// While it lives, no file of this process grows beyond `bytes`: a disk that is full.
+/// Limits the size of files of this process during its lifetime, to simulate a full disk.
 class FullDisk {
 public:
     explicit FullDisk(rlim_t bytes) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
@@ -47,7 +47,7 @@ TEST(AtomicSave, WritesANewFileAndReplacesAnOldOne) {
     EXPECT_EQ(folder.count(), 1u);
 }
 
-TEST(AtomicSave, DoesNotTouchAFileThatHoldsTheseBytes) {
+TEST(AtomicSave, DoesNotTouchAFileWithTheSameBytes) {
     const TempFolder folder;
     const auto path = folder.write("a.bas", "same");
     const auto before = stateOfFile(path);
@@ -65,7 +65,7 @@ TEST(AtomicSave, KeepsTheMode) {
     EXPECT_EQ(stateOfFile(path).st_mode & 07777, 0640u);
 }
 
-TEST(AtomicSave, SavesThroughALinkAndLeavesIt) {
+TEST(AtomicSave, SavesThroughALinkAndKeepsIt) {
     const TempFolder folder;
     folder.write("real/a.bas", "one");
     std::filesystem::create_symlink("real/a.bas", folder / "link.bas");
@@ -77,7 +77,7 @@ TEST(AtomicSave, SavesThroughALinkAndLeavesIt) {
     EXPECT_TRUE(std::filesystem::is_symlink(folder / "link.bas"));
 }
 
-TEST(AtomicSave, EndsInACircleOfLinks) {
+TEST(AtomicSave, RefusesCircularLinks) {
     const TempFolder folder;
     std::filesystem::create_symlink("b", folder / "a");
     std::filesystem::create_symlink("a", folder / "b");
@@ -97,7 +97,7 @@ TEST(AtomicSave, RefusesAReadOnlyFileForTheSuperuserToo) {
     EXPECT_FALSE(host::isReadOnly(folder / "missing"));
 }
 
-TEST(AtomicSave, LeavesTheOldFileAndNothingBesideItWhenTheDiskIsFull) {
+TEST(AtomicSave, KeepsTheOldFileAndLeavesNoOtherWhenTheDiskIsFull) {
     const TempFolder folder;
     const auto path = folder.write("a.bas", "one");
     {
@@ -115,7 +115,7 @@ TEST(AtomicSave, RefusesAFolderAndAMissingFolder) {
     EXPECT_EQ(errorOf([&] { atomicSave(folder / "no/a.bas", "x"); }), 76);
 }
 
-TEST(AtomicSave, DoesNotOverwriteWhatSomebodyElseWrote) {
+TEST(AtomicSave, DoesNotOverwriteChangesOfAnotherProgram) {
     const TempFolder folder;
     const auto path = folder.write("a.bas", "one");
     const auto asRead = readFile(path).stamp;
@@ -126,7 +126,7 @@ TEST(AtomicSave, DoesNotOverwriteWhatSomebodyElseWrote) {
     EXPECT_EQ(folder.read("a.bas"), "other");
 }
 
-TEST(AtomicSave, TakesAFileThatWasOnlyTouchedForUnchanged) {
+TEST(AtomicSave, TreatsATouchedFileAsUnchanged) {
     const TempFolder folder;
     const auto path = folder.write("a.bas", "one");
     const auto asRead = readFile(path).stamp;

@@ -24,7 +24,7 @@ void expectWhole(const std::string& bytes) {
 
 } // namespace
 
-TEST(CodeFile, CutsBehindTheHeader) {
+TEST(CodeFile, SplitsAfterTheHeader) {
     const auto bytes = kClassHead + kClassAttributes + "Option Explicit\r\n";
     const auto parts = splitSource(bytes);
     EXPECT_EQ(parts.designer, kClassHead);
@@ -61,13 +61,13 @@ TEST(CodeFile, ObjectLinesAndNestedBlocksBelongToTheHeader) {
     EXPECT_TRUE(parts.balanced);
 }
 
-TEST(CodeFile, ATruncatedHeaderIsToldAndTakesNoCode) {
+TEST(CodeFile, ATruncatedHeaderIsReportedAndHasNoCode) {
     const auto parts = splitSource("VERSION 5.00\r\nBegin VB.Form a \r\n   Caption =   \"x");
     EXPECT_FALSE(parts.balanced);
     EXPECT_EQ(parts.code, "");
 }
 
-TEST(CodeFile, GivesBackWhateverItGot) {
+TEST(CodeFile, PreservesAnyBytes) {
     expectWhole("");
     expectWhole("\0\0\0\r\n\r\n"s);
     expectWhole("VERSION 5.00");
@@ -95,7 +95,7 @@ TEST(CodeFile, HidesAttributesInsideTheCodeAndDoesNotCountThem) {
     EXPECT_EQ(code.windowLine(8), 5u);
 }
 
-TEST(CodeFile, CountsAtNulsAndLoneReturns) {
+TEST(CodeFile, CountsLinesWithNulsAndLoneReturns) {
     const auto code = codeOf("a\rb\nc\r\n"s + std::string(142, '\0') + "\r\n\r\n");
     EXPECT_EQ(code.count(), 5u);
     EXPECT_EQ(code.line(2), "b");
@@ -116,7 +116,7 @@ TEST(CodeFile, InsertsOnlyTheNewLines) {
     EXPECT_EQ(empty.bytes(), "\r\nOption Explicit\r\n");
 }
 
-TEST(CodeFile, AHiddenAttributeStaysBehindItsHead) {
+TEST(CodeFile, AHiddenAttributeStaysAfterItsHead) {
     auto code = codeOf("Sub A()\r\nAttribute A.VB_Description = \"x\"\r\nEnd Sub\r\n");
     code.insert(2, "y");
     EXPECT_EQ(code.bytes(), "Sub A()\r\nAttribute A.VB_Description = \"x\"\r\ny\r\nEnd Sub\r\n");

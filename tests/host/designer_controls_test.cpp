@@ -72,7 +72,7 @@ TEST_F(Controls, AreTheSameObjectsEachTime) {
     EXPECT_FALSE(all()->Item(2) == all()->Item(3));
     EXPECT_EQ(basic::attempt([&] { all()->Item(0); }).Number, 9);
     EXPECT_EQ(basic::attempt([&] { all()->Item(8); }).Number, 9);
-    EXPECT_EQ(basic::attempt([&] { all()->Item("nobody"); }).Number, 9);
+    EXPECT_EQ(basic::attempt([&] { all()->Item("noSuchControl"); }).Number, 9);
 }
 
 TEST_F(Controls, HaveTheirClassWithAndWithoutLibrary) {
@@ -94,7 +94,7 @@ TEST_F(Controls, HaveLinesAndDefaultsAsProperties) {
     EXPECT_EQ(basic::attempt([&] { of("mnuOpen", "Shortcut")->Value(std::string("a\r\nb")); }).Number, 380);
 }
 
-TEST_F(Controls, OfAnUnknownClassSayThemselvesWhatTheirValuesAre) {
+TEST_F(Controls, OfAnUnknownClassTakeTheKindFromTheLiteral) {
     open(kControls);
     EXPECT_EQ(of("btnOK", "odd")->Value(), Variant(std::int32_t{5}));
     EXPECT_EQ(of("btnOK", "Yes")->Value(), Variant(true));
@@ -106,11 +106,11 @@ TEST_F(Controls, OfAnUnknownClassSayThemselvesWhatTheirValuesAre) {
               "-       Odd             =   5\n+       Odd             =   6\n+       TabStop         =   0   'False\n");
 }
 
-TEST_F(Controls, GivenTheirOwnValuesAgainStayAsTheyAre) {
+TEST_F(Controls, KeepTheirTextWhenSetToTheirOwnValues) {
     open(kControls);
     for (const auto& control : all()->items())
         for (const auto& property : control->Properties()->items())
-            (void)basic::attempt([&] { property->Value(property->Value()); }); // pictures can't be set
+            (void)basic::attempt([&] { property->Value(property->Value()); }); // pictures cannot be set
     EXPECT_EQ(file->text(), original);
     EXPECT_EQ(changes, 0);
 }
@@ -147,13 +147,13 @@ TEST_F(Controls, OfADescribedClassHaveItsDefaults) {
     EXPECT_EQ(all()->Add("tavlets.qlbutton")->ProgId(), "TavletsCtl.QLButton");
 }
 
-TEST_F(Controls, AreAddedInFrontAndTold) {
-    std::vector<std::string> told;
+TEST_F(Controls, AreAddedInFrontAndReported) {
+    std::vector<std::string> reported;
     host::DesignerHooks hooks;
-    hooks.controlAdded = [&](const Ref<vbide::VBControl>& c) { told.push_back(c->ProgId()); };
+    hooks.controlAdded = [&](const Ref<vbide::VBControl>& c) { reported.push_back(c->ProgId()); };
     open(kControls, hooks);
     const auto added = all()->Add("VB.CommandButton");
-    EXPECT_THAT(told, ElementsAre("VB.CommandButton"));
+    EXPECT_THAT(reported, ElementsAre("VB.CommandButton"));
     EXPECT_EQ(changes, 1);
     EXPECT_EQ(added, control("Command1"));
     EXPECT_EQ(difference(), R"(+    Begin VB.CommandButton Command1 
@@ -169,16 +169,16 @@ TEST_F(Controls, AreAddedInFrontAndTold) {
     EXPECT_EQ(basic::attempt([&] { all()->Add("VB.X\r\nEnd"); }).Number, 429);
 }
 
-TEST_F(Controls, AreRemovedWithWhatIsInThem) {
-    std::vector<Ref<vbide::VBControl>> told;
+TEST_F(Controls, AreRemovedWithTheirContents) {
+    std::vector<Ref<vbide::VBControl>> reported;
     host::DesignerHooks hooks;
-    hooks.controlRemoved = [&](const Ref<vbide::VBControl>& c) { told.push_back(c); };
+    hooks.controlRemoved = [&](const Ref<vbide::VBControl>& c) { reported.push_back(c); };
     open(kControls, hooks);
     const auto frame = control("fraAll"), option = control("optSize");
     const auto left = frame->Properties()->Item("Left");
     all()->Remove(frame);
     EXPECT_THAT(names(all()->items()), ElementsAre("btnOK", "lstSum", "mnuFile", "mnuOpen"));
-    EXPECT_THAT(told, ElementsAre(frame));
+    EXPECT_THAT(reported, ElementsAre(frame));
     EXPECT_EQ(basic::attempt([&] { option->ClassName(); }).Number, 440);
     EXPECT_EQ(basic::attempt([&] { left->Value(); }).Number, 440);
     EXPECT_EQ(basic::attempt([&] { all()->Remove(frame); }).Number, 5);
@@ -186,7 +186,7 @@ TEST_F(Controls, AreRemovedWithWhatIsInThem) {
     EXPECT_EQ(changes, 1);
 }
 
-TEST_F(Controls, MayBeRemovedWhileTheirAdditionIsTold) {
+TEST_F(Controls, MayBeRemovedInTheirAddedEvent) {
     host::DesignerHooks hooks;
     hooks.controlAdded = [&](const Ref<vbide::VBControl>& c) { all()->Remove(c); };
     open(kControls, hooks);
@@ -195,14 +195,14 @@ TEST_F(Controls, MayBeRemovedWhileTheirAdditionIsTold) {
 }
 
 TEST_F(Controls, AreRenamedInTheirBeginLine) {
-    std::string told;
+    std::string reported;
     host::DesignerHooks hooks;
     hooks.controlRenamed = [&](const Ref<vbide::VBControl>&, const std::string& oldName, int index) {
-        told = oldName + "(" + std::to_string(index) + ")";
+        reported = oldName + "(" + std::to_string(index) + ")";
     };
     open(kControls, hooks);
     of("optSize", "Name")->Value(std::string("optLarge"));
-    EXPECT_EQ(told, "optSize(3)");
+    EXPECT_EQ(reported, "optSize(3)");
     EXPECT_EQ(difference(), "-       Begin VB.OptionButton optSize \n+       Begin VB.OptionButton optLarge \n");
     EXPECT_EQ(control("optlarge"), all()->Item(2));
 }

@@ -61,7 +61,7 @@ Attribute VB_Name = "frmScreen"
 
 class FormProperties : public DesignerTest {};
 
-TEST_F(FormProperties, AreFoundByNameWithoutRegardToCase) {
+TEST_F(FormProperties, AreFoundByNameIgnoringCase) {
     open(kNewForm);
     EXPECT_EQ(get("CAPTION"), text("Form1"));
     EXPECT_EQ(get("startupposition"), number(3));
@@ -69,7 +69,7 @@ TEST_F(FormProperties, AreFoundByNameWithoutRegardToCase) {
     EXPECT_EQ(designer->Properties()->Item("showintaskbar")->Name(), "ShowInTaskbar");
 }
 
-TEST_F(FormProperties, ThatAreAbsentHaveTheirDefaults) {
+TEST_F(FormProperties, WithoutALineHaveTheirDefaults) {
     open(kNewForm);
     EXPECT_EQ(get("BorderStyle"), number(2));
     EXPECT_EQ(get("ScaleMode"), number(1));
@@ -105,7 +105,7 @@ TEST_F(FormProperties, SettingAnEqualValueChangesNothing) {
     EXPECT_EQ(file->text(), original);
 }
 
-TEST_F(FormProperties, SettingEditsTheLineAndTells) {
+TEST_F(FormProperties, SettingEditsTheLineAndReportsTheChange) {
     open(kNewForm);
     set("StartUpPosition", number(2));
     EXPECT_EQ(difference(),
@@ -117,7 +117,7 @@ TEST_F(FormProperties, SettingEditsTheLineAndTells) {
     EXPECT_THAT(file->text(), HasSubstr("   BackColor       =   &H0000FF00&\r\n   Caption "));
 }
 
-TEST_F(FormProperties, ALineThatWasAddedGoesWithItsDefault) {
+TEST_F(FormProperties, SettingTheDefaultRemovesAnAddedLine) {
     open(kNewForm);
     set("KeyPreview", Variant(true));
     set("KeyPreview", Variant(false));
@@ -125,7 +125,7 @@ TEST_F(FormProperties, ALineThatWasAddedGoesWithItsDefault) {
     EXPECT_EQ(changes, 2);
 }
 
-TEST_F(FormProperties, ALineOfTheFileStaysWithItsDefault) {
+TEST_F(FormProperties, SettingTheDefaultKeepsALineOfTheFile) {
     open(kNewForm);
     set("StartUpPosition", number(0));
     EXPECT_THAT(file->text(), HasSubstr("   StartUpPosition =   0  'Manual\r\n"));
@@ -163,7 +163,7 @@ TEST_F(FormProperties, OfARemovedFormRaiseErrors) {
     EXPECT_EQ(basic::attempt([&] { controls->Count(); }).Number, 440);
 }
 
-TEST_F(FormProperties, TheNameIsTheHostsToChange) {
+TEST_F(FormProperties, TheHostRenamesTheForm) {
     std::string renamed;
     host::DesignerHooks hooks;
     hooks.renameForm = [&](const std::string& name) { renamed = name; };
@@ -173,7 +173,7 @@ TEST_F(FormProperties, TheNameIsTheHostsToChange) {
     EXPECT_EQ(file->text(), original);
 }
 
-TEST(FormDesigner, AFileWithoutAFormHasNone) {
+TEST(FormDesigner, AFileWithoutAFormIsRefused) {
     const auto file = std::make_shared<host::FormFile>(host::FormFile::parse("Dim x\r\n"));
     EXPECT_EQ(basic::attempt([&] { host::FormDesigner(file, basic::CodePage::windows1252()); }).Number, 380);
 }
@@ -224,7 +224,7 @@ TEST_F(FormGeometryTest, PixelsHaveFifteenTwips) {
     EXPECT_THAT(file->text(), HasSubstr("ScaleWidth      =   160\r\n"));
 }
 
-TEST_F(FormGeometryTest, AnotherScaleConvertsTheControlsOnTheFormAndBackExactly) {
+TEST_F(FormGeometryTest, ChangingTheScaleConvertsTheControlsAndBackExactly) {
     open(kScreen);
     set("ScaleMode", number(3));
     EXPECT_EQ(of("fraAll", "Left")->Value(), real(8.333));
@@ -234,7 +234,7 @@ TEST_F(FormGeometryTest, AnotherScaleConvertsTheControlsOnTheFormAndBackExactly)
     EXPECT_EQ(file->text(), original);
 }
 
-TEST_F(FormGeometryTest, WhatWasEditedInBetweenIsNotPutBack) {
+TEST_F(FormGeometryTest, LinesEditedInBetweenAreNotRestored) {
     open(kScreen);
     set("ScaleMode", number(3));
     of("fraAll", "Left")->Value(number(10));
@@ -251,7 +251,7 @@ TEST_F(FormGeometryTest, AUserScaleIsKept) {
     EXPECT_EQ(get("ScaleWidth"), real(2400));
 }
 
-TEST_F(FormGeometryTest, AbsurdNumbersInTheFileDoNoHarm) {
+TEST_F(FormGeometryTest, AbsurdNumbersInTheFileAreHandled) {
     open(crLf("VERSION 5.00\nBegin VB.Form A \n   ClientWidth     =   1e308\n   ClientHeight    =   \"x\"\n"
               "   BorderStyle     =   77\n   ScaleMode       =   -3\n   ScaleWidth      =   0\n"
               "   Begin VB.Label L \n      Left            =   1e300\n   End\nEnd\n"));
@@ -308,13 +308,13 @@ TEST_F(FormFont, AFormWithoutOneGetsAWholeBlock) {
 )");
 }
 
-TEST_F(FormFont, AnotherPropertyIsNoObject) {
+TEST_F(FormFont, AnotherPropertyIsNotAnObject) {
     open(kScreen);
     EXPECT_EQ(basic::attempt([&] { designer->Properties()->Item("Width")->ObjectValue(); }).Number, 424);
     EXPECT_EQ(basic::attempt([&] { font()->Item("Width"); }).Number, 9);
 }
 
-// What the add-in does to forms, statement by statement.
+// Edits that the add-in makes to forms.
 
 TEST_F(DesignerTest, ShapingANewFormForADeviceChangesOnlyTheseLines) {
     open(kNewForm);
@@ -361,7 +361,7 @@ Attribute VB_Name = "Form1"
 )"));
 }
 
-TEST_F(DesignerTest, AskingForTheSizeInPixelsLeavesNoTrace) {
+TEST_F(DesignerTest, ReadingTheSizeInPixelsLeavesNoTrace) {
     open(kScreen);
     const auto before = get("ScaleMode");
     set("ScaleMode", number(3));
@@ -371,7 +371,7 @@ TEST_F(DesignerTest, AskingForTheSizeInPixelsLeavesNoTrace) {
     EXPECT_EQ(file->text(), original);
 }
 
-TEST_F(DesignerTest, AWordInAnotherLanguageComesBackToo) {
+TEST_F(DesignerTest, AWordInAnotherLanguageIsRestoredToo) {
     open(crLf("VERSION 5.00\nBegin VB.Form A \n   ClientWidth     =   300\n   ScaleMode       =   2  'Punkt\nEnd\n"));
     set("ScaleMode", number(3));
     set("ScaleMode", number(2));

@@ -1,5 +1,5 @@
+#include "Host/model/forms/control_edits.h"
 #include "Host/model/forms/described_classes.h"
-#include "Host/model/forms/form_controls.h"
 #include "Host/model/forms/form_places.h"
 #include "Host/model/forms/property_source.h"
 #include "tests/host/designer_support.h"
@@ -10,7 +10,7 @@ using fernwick::Variant;
 
 using testing::ElementsAre;
 
-// What a front end that draws forms and their properties is told beyond the add-in's view of them.
+// The interfaces for front ends that draw forms and their properties.
 
 namespace {
 
@@ -82,7 +82,7 @@ protected:
     }
 };
 
-TEST_F(FrontEndsView, FormsHaveAnInnerRectangleAndAFrame) {
+TEST_F(FrontEndsView, FormsHaveAClientAreaAndAFrame) {
     const auto extent = host::extentOf(designer->Designer());
     EXPECT_EQ(extent.width, 3600);
     EXPECT_EQ(extent.height, 2400);
@@ -101,7 +101,7 @@ TEST_F(FrontEndsView, ControlsArePlacedInTheUnitsOfTheirContainer) {
     EXPECT_EQ(unitsInside("tavAll").x, 15);
 }
 
-TEST_F(FrontEndsView, EnumerationsTellTheirWords) {
+TEST_F(FrontEndsView, EnumerationsHaveTheirWords) {
     EXPECT_THAT(wordsOf(host::detailsOf(of("picUser", "BorderStyle"))), ElementsAre("0 None", "1 Fixed Single"));
     EXPECT_TRUE(wordsOf(host::detailsOf(of("picUser", "Width"))).empty());
     EXPECT_TRUE(host::detailsOf(of("picUser", "BackColor")).showsColour());
@@ -114,17 +114,17 @@ TEST_F(FrontEndsView, PicturesAndListsComeFromTheResourceFile) {
     EXPECT_EQ(host::imageOf(of("picUser", "Picture")), "BM12");
     EXPECT_EQ(host::imageOf(of("picInches", "Picture")), "");
     EXPECT_THAT(host::itemsOf(of("lstNames", "List")), ElementsAre("Jo", "Ann"));
-    EXPECT_TRUE(host::itemsOf(of("picUser", "Picture")).empty()); // a picture is no list
+    EXPECT_TRUE(host::itemsOf(of("picUser", "Picture")).empty()); // a picture is not a list
     EXPECT_EQ(host::imageOf(of("lstNames", "List")), "");
 }
 
-TEST_F(FrontEndsView, AMissingResourceFileHasNeither) {
+TEST_F(FrontEndsView, WithoutAResourceFileThereIsNeither) {
     open(kDrawnForm);
     EXPECT_EQ(host::imageOf(of("picUser", "Picture")), "");
     EXPECT_TRUE(host::itemsOf(of("lstNames", "List")).empty());
 }
 
-TEST_F(FrontEndsView, ANameThatIsTakenIsRefused) {
+TEST_F(FrontEndsView, ATakenNameIsRefused) {
     const auto name = [&](const char* ofControl) { return of(ofControl, "Name"); };
     const auto refused = [&](const char* ofControl, const std::string& newName) {
         return basic::attempt([&] { name(ofControl)->Value(newName); }).Description;
@@ -153,10 +153,10 @@ TEST(DescribedProperties, KnowTheirEnumerationsAndColours) {
     EXPECT_THAT(wordsOf(*combo->find("Style")), ElementsAre("0 qlDropDownCombo", "2 qlDropDownList"));
     EXPECT_TRUE(combo->find("BackColor")->showsColour());
     EXPECT_FALSE(combo->find("MaxLength")->showsColour());
-    EXPECT_EQ(combo->find("Style")->kind, host::PropertyKind::Integer); // no word stands behind it in a form
+    EXPECT_EQ(combo->find("Style")->kind, host::PropertyKind::Integer); // forms have no word after it
 }
 
-// ---- what happens to designers ------------------------------------------------------------------------------------------
+// ---- events of designers --------------------------------------------------------------------------------------------
 
 namespace {
 
@@ -164,30 +164,30 @@ struct PaneLog {
     explicit PaneLog(host::Host& host) {
         const auto note = [this](const char* what) {
             return [this, what](const vbide::Ref<vbide::VBComponent>& component) {
-                told.push_back(what + (" " + component->Name()) + (component->HasOpenDesigner() ? " open" : ""));
+                reported.push_back(what + (" " + component->Name()) + (component->HasOpenDesigner() ? " open" : ""));
             };
         };
         watches.push_back(host.panes.designerShown.connect(note("shown")));
         watches.push_back(host.panes.designerOpened.connect(note("changed")));
         watches.push_back(host.panes.designChanged.connect(note("edited")));
     }
-    std::vector<std::string> told;
+    std::vector<std::string> reported;
     std::vector<fernwick::Subscription> watches;
 };
 
 } // namespace
 
-TEST(DesignerPanes, AreToldOfOpeningShowingAndClosing) {
+TEST(DesignerPanes, ReportOpeningShowingAndClosing) {
     test::TestHost host;
     const auto form = host.open(test::SampleProject().form("frmA"))->VBComponents()->Item(1);
     PaneLog log(*host.ide);
     form->Activate();
     form->Activate();
     form->DesignerWindow()->Close();
-    EXPECT_THAT(log.told, ElementsAre("changed frmA open", "shown frmA open", "shown frmA open", "changed frmA"));
+    EXPECT_THAT(log.reported, ElementsAre("changed frmA open", "shown frmA open", "shown frmA open", "changed frmA"));
 }
 
-TEST(DesignerPanes, AreToldOfEditsWhoeverMakesThem) {
+TEST(DesignerPanes, ReportAllEdits) {
     test::TestHost host;
     const auto form = host.open(test::SampleProject().form("frmA"))->VBComponents()->Item(1);
     PaneLog log(*host.ide);
@@ -195,7 +195,7 @@ TEST(DesignerPanes, AreToldOfEditsWhoeverMakesThem) {
     form->Properties()->Item("Caption")->Value(std::string("New"));
     const auto added = form->Designer()->VBControls()->Add("VB.Label");
     form->Designer()->VBControls()->Remove(added);
-    EXPECT_THAT(log.told, ElementsAre("edited frmA", "edited frmA", "edited frmA"));
+    EXPECT_THAT(log.reported, ElementsAre("edited frmA", "edited frmA", "edited frmA"));
 }
 
 TEST(DesignerPanes, ADesignersWindowOutlivesItsForm) {
@@ -207,10 +207,10 @@ TEST(DesignerPanes, ADesignersWindowOutlivesItsForm) {
     PaneLog log(*host.ide);
     project->VBComponents()->Remove(form);
     window->Close();
-    EXPECT_TRUE(log.told.empty());
+    EXPECT_TRUE(log.reported.empty());
 }
 
-// ---- controls that come and go ------------------------------------------------------------------------------------------
+// ---- adding and removing controls------------------------------------------------------------------------------------
 
 TEST_F(FrontEndsView, AControlIsAddedWithinAContainerInItsUnits) {
     const auto added = host::addControl(designer->Designer(), control("picUser"), "VB.TextBox");
@@ -220,7 +220,7 @@ TEST_F(FrontEndsView, AControlIsAddedWithinAContainerInItsUnits) {
     EXPECT_EQ(control("picUser")->ContainedVBControls().front(), added);
 }
 
-TEST_F(FrontEndsView, ARemovedControlGoesBackWhereItStood) {
+TEST_F(FrontEndsView, ARemovedControlIsRestoredInPlace) {
     const auto frame = control("fraAll");
     const auto first = host::removeControl(designer->Designer(), frame);
     const auto second = host::removeControl(designer->Designer(), control("picUser"));
@@ -232,14 +232,14 @@ TEST_F(FrontEndsView, ARemovedControlGoesBackWhereItStood) {
     EXPECT_EQ(basic::attempt([&] { host::removeControl(designer->Designer(), nullptr); }).Number, 5);
 }
 
-TEST_F(FrontEndsView, NothingGoesBackIntoAContainerThatIsGone) {
+TEST_F(FrontEndsView, NothingIsRestoredInARemovedContainer) {
     const auto inner = host::addControl(designer->Designer(), control("fraAll"), "VB.TextBox");
     const auto removed = host::removeControl(designer->Designer(), inner);
     host::removeControl(designer->Designer(), control("fraAll"));
     EXPECT_EQ(basic::attempt([&] { host::restoreControl(designer->Designer(), removed); }).Number, 440);
 }
 
-TEST(ObjectLines, ComeWithTheFirstControlOfTheirLibrary) {
+TEST(ObjectLines, AreAddedWithTheFirstControlOfTheirLibrary) {
     test::TestHost host;
     const auto project =
         host.open(test::SampleProject()

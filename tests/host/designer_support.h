@@ -5,14 +5,14 @@
 #include <gtest/gtest.h>
 #include <string>
 
-/// The text with CR LF at the end of its lines.
+/// The text with CRLF line ends.
 inline std::string crLf(const std::string& text) {
     std::string out;
     for (const char c : text) out += c == '\n' ? std::string("\r\n") : std::string(1, c);
     return out;
 }
 
-/// The lines that `changed` has in the place of other ones of `original`, and those, as "- old" and "+ new".
+/// The lines in which `changed` differs from `original`, as "- old" and "+ new".
 inline std::string changedLines(const std::string& original, const std::string& changed) {
     const auto lines = [](const std::string& text) {
         std::vector<std::string> out;

@@ -2,9 +2,9 @@
 #include "Host/model/forms/form_designer.h"
 #include <gtest/gtest.h>
 
-// The shipped device controls on a form: what the scan for fonts reads of them.
+// The shipped device controls on a form, as read by the font scan.
 
-TEST(TavletsOnAForm, TellTheirFontsThoughNoLineSaysThem) {
+TEST(TavletsOnAForm, HaveTheirDefaultFontsWithoutALine) {
     const auto library = host::readTypeDescription(FERNWICK_SOURCE_DIR "/installation/tavlets/Tavlets.toml");
     host::DescribedClasses described;
     described.add(library);

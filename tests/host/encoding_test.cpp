@@ -8,7 +8,7 @@ namespace {
 const auto kWestern = CodePage::windows1252();
 }
 
-TEST(Encoding, TellsUtf8FileByFile) {
+TEST(Encoding, DetectsUtf8ForEachFile) {
     EXPECT_EQ(codePageOf("plain", kWestern).number(), 1252);
     EXPECT_EQ(codePageOf("Gr\xF6\xDF"
                          "e",
@@ -21,7 +21,7 @@ TEST(Encoding, TellsUtf8FileByFile) {
     EXPECT_EQ(codePageOf("\xEF\xBB\xBFx", kWestern).number(), 65001);
 }
 
-TEST(Encoding, APairOfBytesIsNoProofAgainstADoubleBytePage) {
+TEST(Encoding, TwoByteSequencesDoNotOverrideADoubleBytePage) {
     EXPECT_EQ(codePageOf("\xC3\xA9", CodePage(936)).number(), 936);
     EXPECT_EQ(codePageOf("表", CodePage(932)).number(), 65001);
 }

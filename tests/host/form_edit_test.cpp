@@ -7,7 +7,7 @@ using host::FormFile;
 
 namespace {
 
-/// A form with a line of every kind, in which only these edits change something.
+/// A form with lines of every kind, to check that edits change only their own line.
 std::string formWithOddLines() {
     return "VERSION 5.00\r\nBegin VB.Form A \r\n   'a remark\r\n   Caption         =   \"A\"\r\n\r\n"
            "   BeginProperty Font \r\n      Name            =   \"Tahoma\"\r\n   EndProperty\r\n   odd line\r\n"
@@ -50,7 +50,7 @@ TEST(FormEdits, AnySequenceOfEditsReadsBackAsMade) {
     }
 }
 
-TEST(FormEdits, PuttingBackWhatWasThereGivesTheSameBytes) {
+TEST(FormEdits, UndoingAnEditRestoresTheBytes) {
     const auto text = formWithOddLines();
     auto form = FormFile::parse(text);
     for (const std::string key : {"Aardvark", "Caption2", "Zebra", "_Version"}) {
@@ -62,7 +62,7 @@ TEST(FormEdits, PuttingBackWhatWasThereGivesTheSameBytes) {
     EXPECT_EQ(form.text(), text);
 }
 
-TEST(FormEdits, OfAPropertyThatStandsTwiceTheLastCounts) {
+TEST(FormEdits, TheLastOfTwoEqualPropertiesCounts) {
     auto form = FormFile::parse(
         "VERSION 5.00\r\nBegin VB.Form A \r\n   Tag             =   1\r\n   TAG             =   2\r\nEnd\r\n");
     EXPECT_EQ(form.root()->literal("Tag"), "2");
@@ -71,7 +71,7 @@ TEST(FormEdits, OfAPropertyThatStandsTwiceTheLastCounts) {
               "VERSION 5.00\r\nBegin VB.Form A \r\n   Tag             =   1\r\n   TAG             =   3\r\nEnd\r\n");
 }
 
-TEST(FormEdits, LookingUpEveryPropertyOfALargeBlockIsQuick) {
+TEST(FormEdits, LookingUpEveryPropertyOfALargeBlockIsFast) {
     std::string text = "VERSION 5.00\r\nBegin VB.Form A \r\n";
     constexpr int kMany = 100'000;
     for (int i = 0; i < kMany; ++i) text += "   Key" + std::to_string(i) + " = " + std::to_string(i) + "\r\n";

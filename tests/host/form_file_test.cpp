@@ -50,7 +50,7 @@ std::vector<std::string> linesOf(const std::string& text) {
     return lines;
 }
 
-/// The lines between the ones that both texts begin and end with: of the original, and of the changed text.
+/// The lines of both texts between their common beginning and end.
 std::pair<std::string, std::string> difference(const std::string& original, const std::string& changed) {
     auto a = linesOf(original), b = linesOf(changed);
     while (!a.empty() && !b.empty() && a.back() == b.back()) a.pop_back(), b.pop_back();
@@ -118,7 +118,7 @@ TEST(FormFile, AChangedValueGetsItsOwnCommentOrNone) {
     EXPECT_THAT(form.text(), HasSubstr("         Enabled         =   -1  'True\r\n"));
 }
 
-TEST(FormFile, ANewPropertyStandsInTheAlphabetsOrder) {
+TEST(FormFile, ANewPropertyIsInsertedAlphabetically) {
     auto form = FormFile::parse(kForm);
     form.root()->set("ClientTop", "330");
     form.root()->set("BackColor", "&H00C0C0C0&");
@@ -140,7 +140,7 @@ TEST(FormFile, ALongKeyHasNoBlankBeforeItsEqualsSign) {
     EXPECT_THAT(form.text(), HasSubstr("\r\n         DataSourceMemberX=   7\r\n         Enabled "));
 }
 
-TEST(FormFile, RemovingTakesOutTheLinesAndNoOthers) {
+TEST(FormFile, RemovingRemovesOnlyTheseLines) {
     auto form = FormFile::parse(kForm);
     EXPECT_TRUE(form.root()->remove("FONT"));
     EXPECT_FALSE(form.root()->remove("FONT"));
@@ -185,7 +185,7 @@ TEST(FormFile, AttributesAreEditedAndAdded) {
     EXPECT_EQ(form.firstCodeLine(), 27U);
 }
 
-TEST(FormFile, AnAttributeBehindABrokenOffLineGetsALineOfItsOwn) {
+TEST(FormFile, AnAttributeAfterATruncatedLineGetsItsOwnLine) {
     auto form = FormFile::parse("VERSION 5.00\nBegin VB.Form A \nEnd");
     form.attribute("VB_Name", "\"A\"");
     EXPECT_EQ(form.text(), "VERSION 5.00\nBegin VB.Form A \nEnd\nAttribute VB_Name = \"A\"\n");
@@ -206,9 +206,9 @@ TEST(FormFile, ClassesAndModulesHaveASmallerHead) {
     EXPECT_EQ(FormFile::parse("").text(), "");
 }
 
-// Files as they are found in the world.
+// Forms as found in real projects.
 
-TEST(FormFileInTheWorld, ResourceNameWithABackslashByteIsNoPath) {
+TEST(RealFormFile, AResourceNameWithABackslashByteIsNotAPath) {
     const std::string bytes =
         "VERSION 5.00\r\nBegin VB.Form A \r\n   Icon            =   \"\x95\x5C.frx\":0000\r\nEnd\r\n";
     const basic::CodePage japanese(932);
@@ -217,7 +217,7 @@ TEST(FormFileInTheWorld, ResourceNameWithABackslashByteIsNoPath) {
     EXPECT_EQ(japanese.encode(form.text()), bytes);
 }
 
-TEST(FormFileInTheWorld, MergedByHandNestsByKeywords) {
+TEST(RealFormFile, MergedByHandNestsByKeywords) {
     const std::string text = "VERSION 5.00\nBegin VB.Form A\nCaption = \"x\"\n      Begin VB.TextBox T\n_extentx = 5\n"
                              "BeginProperty Font\nName = \"Arial\"\nEndProperty\nEnd\n\tBegin VB.Label L\n   End\nEnd\n"
                              "Attribute VB_Name = \"A\"\n";
@@ -231,7 +231,7 @@ TEST(FormFileInTheWorld, MergedByHandNestsByKeywords) {
     EXPECT_THAT(form.text(), HasSubstr("\nCaption = \"y\"\n"));
 }
 
-TEST(FormFileInTheWorld, BothFormsOfObjectLines) {
+TEST(RealFormFile, BothFormsOfObjectLines) {
     const auto form = FormFile::parse("VERSION 5.00\r\nObject = \"*\\ADropStack.vbp\"\r\n"
                                       "Object = \"{831FDD16-0C5C-11D2-A9FC-0000F8754DA1}#2.0#0\"; \"A.OCX\"\r\n"
                                       "Begin VB.Form A \r\nEnd\r\n");
@@ -242,7 +242,7 @@ TEST(FormFileInTheWorld, BothFormsOfObjectLines) {
     EXPECT_EQ(form.objects()[1].file, "A.OCX");
 }
 
-TEST(FormFileInTheWorld, AnUnknownLineInsideABlockIsKept) {
+TEST(RealFormFile, AnUnknownLineInsideABlockIsKept) {
     const std::string text =
         "VERSION 5.00\r\nBegin {78E93846-85FD-11D0-8487-00A0C90DC8A9} Report \r\n"
         "   'Downloaded from somewhere\r\n   Caption         =   \"R\"\r\n   what is this\r\nEnd\r\n";
@@ -255,7 +255,7 @@ TEST(FormFileInTheWorld, AnUnknownLineInsideABlockIsKept) {
                 HasSubstr("Caption         =   \"R\"\r\n   Tag             =   \"t\"\r\n   what is this\r\n"));
 }
 
-TEST(FormFileInTheWorld, ExponentsAndDecimalCommasAreKept) {
+TEST(RealFormFile, ExponentsAndDecimalCommasAreKept) {
     const std::string text =
         "VERSION 5.00\r\nBegin VB.Form A \r\n   BeginProperty Font \r\n      Size            =   8,25\r\n"
         "   EndProperty\r\n   Left            =   1.00110e5\r\nEnd\r\n";
@@ -265,13 +265,13 @@ TEST(FormFileInTheWorld, ExponentsAndDecimalCommasAreKept) {
     EXPECT_EQ(form.root()->literal("Left"), "1.00110e5");
 }
 
-TEST(FormFileInTheWorld, NoLineEndBehindTheLastLineStaysSo) {
+TEST(RealFormFile, AMissingFinalLineEndStaysMissing) {
     for (const std::string text : {"VERSION 5.00\r\nBegin VB.Form A \r\nEnd", "Attribute VB_Name = \"A\"",
                                    "VERSION 5.00\r\nBegin VB.Form A \r\nEnd\r\nAttribute VB_Name = \"A\"\r\nEnd Sub"})
         EXPECT_EQ(FormFile::parse(text).text(), text);
 }
 
-TEST(FormFileInTheWorld, AByteOrderMarkIsKept) {
+TEST(RealFormFile, AByteOrderMarkIsKept) {
     const std::string text = "\xEF\xBB\xBFVERSION 5.00\r\nBegin VB.Form A \r\nEnd\r\n";
     const auto form = FormFile::parse(text);
     EXPECT_EQ(form.text(), text);
@@ -279,14 +279,14 @@ TEST(FormFileInTheWorld, AByteOrderMarkIsKept) {
     EXPECT_TRUE(form.root());
 }
 
-TEST(FormFileInTheWorld, TheAttributeRunIsOpenEnded) {
+TEST(RealFormFile, TheAttributeRunIsOpenEnded) {
     const auto form = FormFile::parse("VERSION 1.0 CLASS\r\nBEGIN\r\nEND\r\nAttribute VB_Name = \"A\"\r\n"
                                       "Attribute VB_Base = \"0{X}\"\r\nAttribute VB_Customizable = False\r\nDim a\r\n");
     EXPECT_EQ(form.code(), "Dim a\r\n");
     EXPECT_EQ(form.attribute("VB_Customizable"), "False");
 }
 
-// Broken files: the rest stays usable.
+// Damaged files, whose other parts remain usable.
 
 TEST(BrokenForm, AMissingEndIsReportedAndTheAttributesAreFound) {
     const std::string text =
@@ -312,7 +312,7 @@ TEST(BrokenForm, ATruncatedFormCanStillBeEdited) {
     }
 }
 
-TEST(BrokenForm, AnEndTooManyDoesNotHideTheAttributes) {
+TEST(BrokenForm, ASuperfluousEndDoesNotHideTheAttributes) {
     const std::string text = "VERSION 5.00\r\nBegin VB.Form A \r\nEnd\r\n   Caption         =   \"a\"\r\nEnd\r\n"
                              "Attribute VB_Name = \"A\"\r\nDim x\r\n";
     const auto form = FormFile::parse(text);

@@ -55,7 +55,7 @@ TEST(PropertyValue, ShortcutsAndGuids) {
     EXPECT_EQ(parsePropertyValue("{831FDD16-0C5C-11D2-A9FC-0000F8754DAG}").kind, Kind::Shortcut);
 }
 
-TEST(PropertyValue, WhatIsNoLiteralKeepsItsText) {
+TEST(PropertyValue, AnInvalidLiteralKeepsItsText) {
     for (const char* odd : {"\"open",
                             "$",
                             "$\"a\"",

@@ -77,7 +77,7 @@ TEST(ResourceFile, AnOffsetBeyondTheEndIsAWarning) {
     EXPECT_EQ(file.picture(0x9C4).warning, "There is no picture at 09C4 of the resource file.");
 }
 
-TEST(ResourceFile, AnAbsurdLengthTakesNoMemory) {
+TEST(ResourceFile, AnAbsurdLengthAllocatesNoMemory) {
     const ResourceFile file(u32(0xFFFFFFF0) + mark() + u32(0xFFFFFFE8) + "x");
     EXPECT_FALSE(file.picture(0));
     EXPECT_FALSE(file.string(0));
@@ -86,7 +86,7 @@ TEST(ResourceFile, AnAbsurdLengthTakesNoMemory) {
     EXPECT_EQ(file.string(0).value, "");
 }
 
-TEST(ResourceFile, APictureWhoseLengthsDisagreeIsNone) {
+TEST(ResourceFile, APictureWithInconsistentLengthsIsRejected) {
     EXPECT_FALSE(ResourceFile(u32(12) + mark() + u32(3) + "GIF.").picture(0));
     EXPECT_FALSE(ResourceFile(u32(11) + "no!!" + u32(3) + "GIF").picture(0));
     auto bag = bagPicture("GIF");

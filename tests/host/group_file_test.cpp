@@ -17,7 +17,7 @@ TEST(GroupFile, ListsItsProjects) {
     EXPECT_EQ(group.bytes(), bytes);
 }
 
-TEST(GroupFile, IsToldByItsFirstLine) {
+TEST(GroupFile, IsRecognisedByItsFirstLine) {
     EXPECT_TRUE(GroupFile::looksLikeGroup("VBGROUP 5.0\r\n"));
     EXPECT_FALSE(GroupFile::looksLikeGroup("Type=Exe\r\n"));
     EXPECT_FALSE(GroupFile::looksLikeGroup(""));

@@ -42,7 +42,7 @@ public:
     void IDTExtensibility_OnAddInsUpdate() override {}
 };
 
-/// Makes one kind of document.
+/// Creates one kind of document.
 class DocumentClasses final : public fernwick::Classes {
 public:
     std::shared_ptr<void> RegisterClass(const std::string&, Factory) override { return nullptr; }
@@ -79,7 +79,7 @@ TEST(HostAddins, ConnectAndDisconnect) {
     EXPECT_EQ(errorOf([&] { host.ide->connectAddIn("None", vbide::vbext_cm_Startup); }), 9);
 }
 
-TEST(HostAddins, OneThatGivesUpIsDisconnectedWhenItsStartIsOver) {
+TEST(HostAddins, OneThatDisconnectsItselfIsDisconnectedAfterItsStart) {
     TestHost host;
     Calls calls;
     host.ide->listAddIn("A", "", [&] { return basic::make<NotedAddIn>(calls, true); });
@@ -88,7 +88,7 @@ TEST(HostAddins, OneThatGivesUpIsDisconnectedWhenItsStartIsOver) {
     EXPECT_FALSE(host.ide->Addins()->Item("A")->Connect());
 }
 
-TEST(HostAddins, OneThatFailsToStartIsNotConnected) {
+TEST(HostAddins, AFailedStartLeavesItDisconnected) {
     TestHost host;
     host.ide->listAddIn("A", "", [] { return basic::make<FailingAddIn>(); });
     EXPECT_EQ(errorOf([&] { host.ide->connectAddIn("A", vbide::vbext_cm_Startup); }), 13);
@@ -107,18 +107,18 @@ TEST(HostAddins, ClosingRemovesTheProjectsFirst) {
     EXPECT_EQ(calls, (Calls{"connection 1 0", "connected", "removed", "disconnection 0"}));
 }
 
-TEST(HostAddins, AToolWindowIsMadeAroundADocumentAndHidden) {
+TEST(HostAddins, AToolWindowHasADocumentAndIsHidden) {
     DocumentClasses classes;
     TestHost host(&classes);
     host.ide->listAddIn("QLVBAddIn.Connect", "", [] { return basic::make<FailingAddIn>(); });
     const auto addIn = host.ide->Addins()->Item("QLVBAddIn.Connect");
     Ref<vbide::Object> document;
-    int told = 0;
-    const auto added = host.ide->toolWindows().added.connect([&] { ++told; });
+    int reported = 0;
+    const auto added = host.ide->toolWindows().added.connect([&] { ++reported; });
     const auto window = host.ide->Windows()->CreateToolWindow(addIn, "QLVBAddIn.udocCompileMsgs", "Fernwick Messages",
                                                               "{8531D96D-DE1E-11d2-8E96-00104B78F251}", document);
     EXPECT_TRUE(document);
-    EXPECT_EQ(told, 1);
+    EXPECT_EQ(reported, 1);
     EXPECT_EQ(host.ide->toolWindows().list().front()->document(), document);
     EXPECT_FALSE(window->Visible());
     EXPECT_EQ(window->Caption(), "Fernwick Messages");

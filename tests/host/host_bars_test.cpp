@@ -17,7 +17,7 @@ TEST(HostBars, TheFileMenuBeginsWithNewOpenSaveAndRemove) {
     EXPECT_EQ(host.ide->CommandBars()->FindControl(3), file->Controls()->Item(3));
 }
 
-TEST(HostBars, TheHostsMenusAreFoundByTheirIds) {
+TEST(HostBars, BuiltInMenusAreFoundByTheirIds) {
     TestHost host;
     const auto bars = host.ide->CommandBars();
     const auto view = bars->FindControl(30004);
@@ -29,7 +29,7 @@ TEST(HostBars, TheHostsMenusAreFoundByTheirIds) {
     EXPECT_EQ(errorOf([&] { bars->Item("None"); }), 5);
 }
 
-TEST(HostBars, ANewMenuStandsInFrontOfAddIns) {
+TEST(HostBars, ANewMenuIsInsertedBeforeAddIns) {
     TestHost host;
     const auto bar = host.ide->CommandBars()->ActiveMenuBar();
     const auto addIns = host.ide->CommandBars()->FindControl(30038);
@@ -51,7 +51,7 @@ TEST(HostBars, ANewMenuStandsInFrontOfAddIns) {
     EXPECT_EQ(errorOf([&] { bar->Controls()->Add(office::msoControlButton, 99); }), 5);
 }
 
-TEST(HostBars, APopupOfAnAddInIsNoBarOfTheList) { // a toolbar may bear its name
+TEST(HostBars, APopupOfAnAddInIsNotFoundByName) { // a toolbar may have the same name
     TestHost host;
     const auto bars = host.ide->CommandBars();
     bars->ActiveMenuBar()->Controls()->Add(office::msoControlPopup)->Caption("&Fernwick");
@@ -98,7 +98,7 @@ TEST(HostBars, AClickReachesItsHandlersBeforeTheCommand) {
     EXPECT_EQ(clicks, 2);
 }
 
-TEST(HostBars, AnErrorOfAClickHandlerIsTold) {
+TEST(HostBars, AnErrorOfAClickHandlerIsReported) {
     TestHost host;
     const auto button = host.ide->CommandBars()->Item("File")->Controls()->Add();
     const auto clicked =
@@ -108,7 +108,7 @@ TEST(HostBars, AnErrorOfAClickHandlerIsTold) {
     EXPECT_EQ(host.failures[0].Number, 13);
 }
 
-TEST(HostBars, SaveSavesWhatHasAFile) {
+TEST(HostBars, SaveSavesComponentsWithAFile) {
     TestHost host;
     const auto project = host.open(SampleProject().module("modA"));
     const auto fresh = project->VBComponents()->Add(vbide::vbext_ct_StdModule);
@@ -135,7 +135,7 @@ TEST(HostBars, RemoveRemovesTheActiveProjectAndNewMakesOne) {
     EXPECT_EQ(host.ide->VBProjects()->Count(), 1);
 }
 
-TEST(HostBars, AToolbarRemembersItsPlace) {
+TEST(HostBars, AToolbarKeepsItsPosition) {
     TestHost host;
     const auto bars = host.ide->CommandBars();
     const auto bar = bars->Add("Fernwick", 1, false);
@@ -155,18 +155,18 @@ TEST(HostBars, AToolbarRemembersItsPlace) {
     EXPECT_EQ(bars->ActiveMenuBar()->Name(), "Menu Bar");
 }
 
-TEST(HostBars, AFrontEndIsToldOfEachChange) {
+TEST(HostBars, EachChangeIsReported) {
     TestHost host;
-    int told = 0;
-    const auto watch = host.ide->bars().changed.connect([&] { ++told; });
+    int reported = 0;
+    const auto watch = host.ide->bars().changed.connect([&] { ++reported; });
     const auto menu = host.ide->CommandBars()->ActiveMenuBar()->Controls()->Add(office::msoControlPopup);
-    EXPECT_EQ(told, 1);
+    EXPECT_EQ(reported, 1);
     menu->Caption("&Tools");
-    EXPECT_EQ(told, 2);
+    EXPECT_EQ(reported, 2);
     menu->Controls()->Add()->Enabled(false);
-    EXPECT_EQ(told, 4);
+    EXPECT_EQ(reported, 4);
     host.ide->CommandBars()->ActiveMenuBar()->Visible(false);
-    EXPECT_EQ(told, 5);
+    EXPECT_EQ(reported, 5);
     menu->Delete();
-    EXPECT_EQ(told, 6);
+    EXPECT_EQ(reported, 6);
 }

@@ -1,5 +1,5 @@
 #include "Host/files/code_file.h"
-#include "Host/model/code/code_members.h"
+#include "Host/model/code/code_outline.h"
 #include "tests/support/test_host.h"
 
 using test::errorOf;
@@ -37,7 +37,7 @@ TEST(HostCode, LinesAreThoseOfTheCodeWindow) {
     EXPECT_FALSE(project->VBComponents()->Item(1)->IsDirty());
 }
 
-TEST(HostCode, EditsChangeTheFileThereAlone) {
+TEST(HostCode, EditsChangeOnlyTheirLines) {
     TestHost host;
     const auto project = host.open(SampleProject().module("modA", "a\r\nb\nc"));
     const auto component = project->VBComponents()->Item(1);
@@ -55,7 +55,7 @@ TEST(HostCode, EditsChangeTheFileThereAlone) {
     EXPECT_EQ(host.folder.read("modA.bas"), test::moduleText("modA", "a\r\nx\r\nB\nend\r\n"));
 }
 
-TEST(HostCode, ListsWhatAModuleDeclares) {
+TEST(HostCode, ListsTheDeclarationsOfAModule) {
     const auto outline = outlineOfText("Option Explicit\r\n"
                                        "Private a As Long, b(1 To 3, 2) As String, WithEvents c As Timer\r\n"
                                        "Public Const kOne = 1, kTwo = \"a, b\" ' x, y\r\n"
@@ -97,13 +97,13 @@ TEST(HostCode, FindsProceduresByNameAndKind) {
     EXPECT_EQ(code->ProcStartLine("B", vbide::vbext_pk_Proc), 6);
 }
 
-TEST(HostCode, SurvivesCodeThatIsNone) {
+TEST(HostCode, HandlesInvalidCode) {
     for (const auto* text : {"", "Sub", "Property", "Public", "Private ,,", "Sub A(", "\"", "[", "Dim [", "Type X",
                              "End Sub", "_", " _\r\n _", "Const"})
         EXPECT_NO_THROW(outlineOfText(text)) << text;
 }
 
-TEST(HostCode, APaneRemembersItsSelection) {
+TEST(HostCode, APaneKeepsItsSelection) {
     TestHost host;
     const auto pane =
         host.open(SampleProject().module("modA", "a\r\n"))->VBComponents()->Item(1)->CodeModule()->CodePane();
@@ -116,13 +116,13 @@ TEST(HostCode, APaneRemembersItsSelection) {
     EXPECT_TRUE(pane->Window()->Visible());
 }
 
-TEST(HostCode, AFrontEndIsToldOfPanesAndEdits) {
+TEST(HostCode, PanesAndEditsAreReported) {
     TestHost host;
     const auto project = host.open(SampleProject().module("modA", "Sub A()\r\nEnd Sub\r\n"));
     const auto code = project->VBComponents()->Item(1)->CodeModule();
-    std::string told;
+    std::string reported;
     const auto note = [&](const char* what) {
-        return [&told, what](const auto& component) { told += component->Name() + " " + what + ";"; };
+        return [&reported, what](const auto& component) { reported += component->Name() + " " + what + ";"; };
     };
     const auto shown = host.ide->panes.shown.connect(note("shown"));
     const auto selected = host.ide->panes.selectionSet.connect(note("selected"));
@@ -131,7 +131,7 @@ TEST(HostCode, AFrontEndIsToldOfPanesAndEdits) {
     code->CodePane()->Window()->SetFocus();
     code->CodePane()->SetSelection(2, 1, 2, 9999);
     code->ReplaceLine(1, "Sub B()");
-    EXPECT_EQ(told, "modA shown;modA shown;modA selected;modA changed;");
+    EXPECT_EQ(reported, "modA shown;modA shown;modA selected;modA changed;");
 }
 
 TEST(HostCode, APaneOfARemovedComponentCannotBeShown) {

@@ -1,3 +1,4 @@
+#include "Host/model/code/component_kind.h"
 #include "Host/model/component.h"
 #include "tests/support/test_host.h"
 
@@ -5,7 +6,7 @@ using test::errorOf;
 using test::SampleProject;
 using test::TestHost;
 
-TEST(HostComponents, TellWhatTheyAre) {
+TEST(HostComponents, HaveTheirNamesTypesAndFiles) {
     TestHost host;
     const auto project =
         host.open(SampleProject()
@@ -49,7 +50,7 @@ TEST(HostComponents, ANewFormHasNoFileAndAnOpenDesigner) {
     EXPECT_EQ(errorOf([&] { project->VBComponents()->Add(vbide::vbext_ct_RelatedDocument); }), 5);
 }
 
-TEST(HostComponents, SavingANewOneListsItBehindTheLastMember) {
+TEST(HostComponents, SavingANewOneListsItAfterTheLastMember) {
     TestHost host;
     const auto project = host.open(SampleProject().form("frmA"));
     const auto module = project->VBComponents()->Add(vbide::vbext_ct_StdModule);
@@ -72,7 +73,7 @@ TEST(HostComponents, AClassAndAModuleHaveNoDesigner) {
     }
 }
 
-TEST(HostComponents, AnEditedPropertyChangesItsLineAlone) {
+TEST(HostComponents, AnEditedPropertyChangesOnlyItsLine) {
     TestHost host;
     const auto project = host.open(SampleProject().form("frmA", "' code\r\n"));
     const auto form = project->VBComponents()->Item(1);
@@ -84,7 +85,7 @@ TEST(HostComponents, AnEditedPropertyChangesItsLineAlone) {
     EXPECT_EQ(host.folder.read("frmA.frm"), expected);
 }
 
-TEST(HostComponents, ANewNameGoesIntoTheFileTheProjectAndTheStartUp) {
+TEST(HostComponents, ANewNameIsWrittenToTheFileTheProjectAndTheStartUp) {
     TestHost host;
     const auto project = host.open(SampleProject().form("frmA").module("modA").startup("frmA"));
     const auto form = project->VBComponents()->Item("frmA");
@@ -102,7 +103,7 @@ TEST(HostComponents, ANewNameGoesIntoTheFileTheProjectAndTheStartUp) {
     EXPECT_EQ(errorOf([&] { form->Name(""); }), 380);
 }
 
-TEST(HostComponents, AddAFileThatIsThere) {
+TEST(HostComponents, AnExistingFileCanBeAdded) {
     TestHost host;
     host.folder.write("lib/modX.bas", test::moduleText("modX"));
     const auto project = host.open(SampleProject().form("frmA"));
@@ -116,7 +117,7 @@ TEST(HostComponents, AddAFileThatIsThere) {
     EXPECT_EQ(errorOf([&] { project->VBComponents()->AddFile(host.folder / "Hello.vbp"); }), 321);
 }
 
-TEST(HostComponents, AddAFileOfATemplateFolder) {
+TEST(HostComponents, AFileOfATemplateFolderIsAddedAsNew) {
     TestHost host;
     const auto template_ =
         host.folder.write("Template/Modules/Our Module.bas", test::moduleText("Module1", "' ours\r\n"));
@@ -133,7 +134,7 @@ TEST(HostComponents, AddAFileOfATemplateFolder) {
     EXPECT_EQ(project->VBComponents()->AddFile(template_)->Name(), "Module3");
 }
 
-TEST(HostComponents, AFormFromATemplateTakesItsPicturesAlong) {
+TEST(HostComponents, AFormFromATemplateKeepsItsPictures) {
     TestHost host;
     host.folder.write("Template/Forms/frmOurs.frx", "bytes");
     auto text = test::formText("frmOurs");
@@ -147,7 +148,7 @@ TEST(HostComponents, AFormFromATemplateTakesItsPicturesAlong) {
     EXPECT_NE(host.folder.read("frmMine.frm").find("\"frmMine.frx\":0000"), std::string::npos);
 }
 
-TEST(HostComponents, ARemovedOneLeavesTheProjectsFileAndRaisesErrors) {
+TEST(HostComponents, ARemovedOneIsNoLongerListedAndRaisesErrors) {
     TestHost host;
     const auto project = host.open(SampleProject().form("frmA").module("modA"));
     const auto form = project->VBComponents()->Item(1);
@@ -180,7 +181,7 @@ TEST(HostComponents, TheStartUpIsAComponentSubMainOrNeither) {
     EXPECT_FALSE(host.open(SampleProject("Other").startup("frmGone"))->VBComponents()->StartUpObject().component);
 }
 
-TEST(HostComponents, AFormsResourcesGoWithItToAnotherName) {
+TEST(HostComponents, SavingAFormUnderAnotherNameCopiesItsResources) {
     TestHost host;
     host.folder.write("frmA.frx", "bytes");
     auto text = test::formText("frmA");

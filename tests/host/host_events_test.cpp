@@ -13,7 +13,7 @@ namespace {
 
 using Calls = std::vector<std::string>;
 
-/// Writes down the events of a host in their order.
+/// Logs the events of a host.
 class EventLog {
 public:
     explicit EventLog(TestHost& host) : events_(host.ide->Events()) {
@@ -70,14 +70,14 @@ private:
 
 } // namespace
 
-TEST(HostEvents, AnOpeningTellsLoadAndAdded) {
+TEST(HostEvents, OpeningRaisesLoadAndAdded) {
     TestHost host;
     EventLog log(host);
     host.open(SampleProject().form("frmA"));
     EXPECT_EQ(log.calls, (Calls{"loading Hello.vbp", "added Hello"}));
 }
 
-TEST(HostEvents, BeforeALoadTheProjectKnowsItsFileAndNothingElse) {
+TEST(HostEvents, BeforeALoadTheProjectHasOnlyItsFileName) {
     TestHost host;
     std::string file;
     int components = -1;
@@ -106,7 +106,7 @@ TEST(HostEvents, TheNewProjectIsActiveWhenItIsAdded) {
     EXPECT_EQ(log.calls, (Calls{"activated First"}));
 }
 
-TEST(HostEvents, ARemovalCountsTheProjectStill) {
+TEST(HostEvents, ARemovedProjectStillCountsInItsEvent) {
     TestHost host;
     const auto project = host.open(SampleProject());
     int counted = 0;
@@ -134,7 +134,7 @@ TEST(HostEvents, RemovingTheActiveProjectActivatesAnother) {
     EXPECT_EQ(errorOf([&] { host.ide->ActiveVBProject(second); }), 5);
 }
 
-TEST(HostEvents, AmongSeveralTheOneThatCameLastFollowsIt) {
+TEST(HostEvents, RemovingTheActiveProjectActivatesTheNewest) {
     TestHost host;
     const auto first = host.open(SampleProject("First"));
     host.open(SampleProject("Second"));
@@ -144,7 +144,7 @@ TEST(HostEvents, AmongSeveralTheOneThatCameLastFollowsIt) {
     EXPECT_EQ(host.ide->ActiveVBProject(), third);
 }
 
-TEST(HostEvents, AWriteIsAskedForAndReported) {
+TEST(HostEvents, AWriteIsRequestedAndReported) {
     TestHost host;
     const auto project = host.open(SampleProject().form("frmA"));
     EventLog log(host);
@@ -208,7 +208,7 @@ TEST(HostEvents, AComponentThatAHandlerRemovesIsNotActivated) {
     EXPECT_EQ(errorOf([&] { control->Name(); }), 440);
 }
 
-TEST(HostEvents, ControlsTellTheSourceOfTheirForm) {
+TEST(HostEvents, ControlsRaiseEventsOfTheirForm) {
     TestHost host;
     const auto project = host.open(SampleProject().form("frmA").form("frmB"));
     const auto form = project->VBComponents()->Item(1)->Designer();
@@ -275,7 +275,7 @@ TEST(HostEvents, AProjectMayBeRemovedWhileItIsAdded) {
     EXPECT_EQ(errorOf([&] { project->Name(); }), 440);
 }
 
-TEST(HostEvents, ARemovalAskedForWithinItsOwnEventHappensOnce) {
+TEST(HostEvents, ARemovalRequestedInItsOwnEventHappensOnce) {
     TestHost host;
     const auto project = host.open(SampleProject().form("frmA"));
     EventLog log(host);
@@ -291,7 +291,7 @@ TEST(HostEvents, ARemovalAskedForWithinItsOwnEventHappensOnce) {
     EXPECT_EQ(host.ide->VBProjects()->Count(), 0);
 }
 
-TEST(HostEvents, AProjectIsOpenedInAnothersPlaceWhileThatIsAdded) {
+TEST(HostEvents, AProjectMayReplaceAnotherInItsAddedEvent) {
     TestHost host;
     const auto second = SampleProject("Second").writeTo(host.folder);
     bool first = true;
@@ -303,7 +303,7 @@ TEST(HostEvents, AProjectIsOpenedInAnothersPlaceWhileThatIsAdded) {
     EXPECT_EQ(host.ide->ActiveVBProject()->Name(), "Second");
 }
 
-TEST(HostEvents, ClosingAllBringsNoneOfThemToTheFront) {
+TEST(HostEvents, ClosingAllActivatesNone) {
     TestHost host;
     host.open(SampleProject("First"));
     host.ide->ActiveVBProject(host.open(SampleProject("Second")));
@@ -313,7 +313,7 @@ TEST(HostEvents, ClosingAllBringsNoneOfThemToTheFront) {
     EXPECT_EQ(log.calls, (Calls{"removed First", "removed Second", "removed Third"}));
 }
 
-TEST(HostEvents, AComponentThatAHandlerPutsInFrontStaysThere) {
+TEST(HostEvents, AComponentActivatedByAHandlerStaysActive) {
     TestHost host;
     const auto template_ = host.folder.write("Template/Modules/Template.bas", test::moduleText("Module1"));
     const auto project = host.open(SampleProject());
@@ -325,7 +325,7 @@ TEST(HostEvents, AComponentThatAHandlerPutsInFrontStaysThere) {
     EXPECT_EQ(host.ide->SelectedVBComponent()->Name(), "Module2");
 }
 
-TEST(HostEvents, ARenamedProjectTellsItsOldName) {
+TEST(HostEvents, ARenamedProjectReportsItsOldName) {
     TestHost host;
     const auto project = host.open(SampleProject());
     EventLog log(host);

@@ -20,7 +20,7 @@ std::string problemTexts(const TestHost& host) {
 
 } // namespace
 
-TEST(HostLoading, AMissingMemberIsToldAndItsLineKept) {
+TEST(HostLoading, AMissingMemberIsReportedAndItsLineKept) {
     TestHost host;
     const auto sample = SampleProject().member("Form=Gone.frm").module("modMain");
     const auto project = host.open(sample);
@@ -35,7 +35,7 @@ TEST(HostLoading, AMissingMemberIsToldAndItsLineKept) {
     EXPECT_NE(host.folder.read("Hello.vbp").find("Form=Gone.frm\r\n"), std::string::npos);
 }
 
-TEST(HostLoading, AMemberThatIsThereTwiceCountsOnce) {
+TEST(HostLoading, AMemberListedTwiceCountsOnce) {
     TestHost host;
     const auto project = host.open(SampleProject()
                                        .module("a")
@@ -43,10 +43,10 @@ TEST(HostLoading, AMemberThatIsThereTwiceCountsOnce) {
                                        .member("Module=b; other.bas", "other.bas", test::moduleText("a")));
     EXPECT_EQ(project->VBComponents()->Count(), 1);
     EXPECT_EQ(problemTexts(host), "Hello.vbp:3: A.BAS: is listed twice\n"
-                                  "Hello.vbp:4: other.bas: another component is named 'a' too\n");
+                                  "Hello.vbp:4: other.bas: another component is also named 'a'\n");
 }
 
-TEST(HostLoading, AFolderForAMemberIsTold) {
+TEST(HostLoading, AFolderInsteadOfAMemberIsReported) {
     TestHost host;
     std::filesystem::create_directory(host.folder / "dir.bas");
     const auto project = host.open(SampleProject().member("Module=d; dir.bas").module("ok"));
@@ -54,7 +54,7 @@ TEST(HostLoading, AFolderForAMemberIsTold) {
     EXPECT_NE(problemTexts(host).find("dir.bas"), std::string::npos);
 }
 
-TEST(HostLoading, WhatIsNoSourceIsReportedAndNeverRewritten) {
+TEST(HostLoading, AnInvalidSourceIsReportedAndNeverRewritten) {
     TestHost host;
     const auto script = "LOAD DATA\nINFILE 'x.dat'\nINTO TABLE t\n"s;
     std::string noise;
@@ -71,7 +71,7 @@ TEST(HostLoading, WhatIsNoSourceIsReportedAndNeverRewritten) {
     EXPECT_EQ(host.folder.read("noise.cls"), noise);
 }
 
-TEST(HostLoading, ATruncatedFormIsToldAndUsable) {
+TEST(HostLoading, ATruncatedFormIsReportedAndUsable) {
     TestHost host;
     const auto cut = "VERSION 5.00\r\nBegin VB.Form frmCut \r\n   Caption         =   \"x"s;
     const auto project = host.open(SampleProject().member("Form=frmCut.frm", "frmCut.frm", cut));
@@ -121,7 +121,7 @@ TEST(HostLoading, DecodesAMembersPathByTheProjectsCodePage) {
     EXPECT_EQ(plain.folder.read("Big5.vbp"), written);
 }
 
-TEST(HostLoading, SaysWhatIsNoProject) {
+TEST(HostLoading, RefusesOtherFiles) {
     TestHost host;
     const auto png = host.folder.write("picture.vbp", "\x89PNG\r\n\x1a\n\0\0"s);
     EXPECT_EQ(errorOf([&] { host.openFile(host.folder / "none.vbp"); }), 53);
@@ -160,7 +160,7 @@ TEST(HostLoading, AProjectOpensOnlyOnce) {
     EXPECT_EQ(host.ide->VBProjects()->Count(), 1);
 }
 
-TEST(HostLoading, AnExclusiveOpeningClosesWhatIsOpenButOnlyForAFileThatIsThere) {
+TEST(HostLoading, AnExclusiveOpeningClosesOtherProjectsOnlyForAnExistingFile) {
     TestHost host;
     const auto first = host.open(SampleProject("First"));
     EXPECT_EQ(errorOf([&] { host.ide->VBProjects()->AddFromFile(host.folder / "none.vbp", true); }), 53);
@@ -171,7 +171,7 @@ TEST(HostLoading, AnExclusiveOpeningClosesWhatIsOpenButOnlyForAFileThatIsThere) 
     EXPECT_EQ(errorOf([&] { first->Name(); }), 440);
 }
 
-TEST(HostLoading, ANewProjectFromATemplateHasNoFilesOfItsOwn) {
+TEST(HostLoading, ANewProjectFromATemplateHasNoFiles) {
     TestHost host;
     const auto path = SampleProject("Template").form("frmT").handheld().writeTo(host.folder, "Template/Projects");
     basic::Ref<vbide::VBProject> seen;
@@ -196,11 +196,11 @@ TEST(HostLoading, AFileOfATemplateFolderOpensAsANewProject) {
     const auto first = host.openFile(path), second = host.openFile(path);
     EXPECT_EQ(first->FileName(), "");
     EXPECT_EQ(first->Name(), "Project1");
-    EXPECT_EQ(second->Name(), "Project2"); // as with new projects of the host's own
+    EXPECT_EQ(second->Name(), "Project2"); // as for new projects without a template
     EXPECT_NE(host.openFile(SampleProject("Templates").writeTo(host.folder, "Templates"))->FileName(), "");
 }
 
-TEST(HostLoading, ThreeThousandComponentsLoadQuickly) {
+TEST(HostLoading, ThreeThousandComponentsLoadFast) {
     TestHost host;
     SampleProject big("Big");
     for (int i = 1; i <= 3000; ++i) big.module("mod" + std::to_string(i), "Option Explicit\r\n");
@@ -209,6 +209,6 @@ TEST(HostLoading, ThreeThousandComponentsLoadQuickly) {
     const auto project = host.openFile(path);
     const auto took = std::chrono::steady_clock::now() - start;
     EXPECT_EQ(project->VBComponents()->Count(), 3000);
-    EXPECT_LT(took, std::chrono::seconds(5)); // well below a second where nothing else runs
+    EXPECT_LT(took, std::chrono::seconds(5)); // well below a second on an idle machine
     EXPECT_EQ(project->VBComponents()->Item("MOD2999")->CodeModule()->CountOfLines(), 1);
 }

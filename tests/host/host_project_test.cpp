@@ -13,7 +13,7 @@ const auto kTwoComponents =
 
 } // namespace
 
-TEST(HostProject, TellsWhatItsFileSays) {
+TEST(HostProject, HasTheValuesOfItsFile) {
     TestHost host;
     const auto project = host.open(kTwoComponents);
     EXPECT_EQ(project->Name(), "Hello");
@@ -56,7 +56,7 @@ TEST(HostProject, WritingTheSameValueIsNoChange) {
     EXPECT_FALSE(project->IsDirty());
 }
 
-TEST(HostProject, AFailedSaveLeavesTheOldFileAndTheMark) {
+TEST(HostProject, AFailedSaveKeepsTheOldFileAndTheDirtyMark) {
     TestHost host;
     const auto project = host.open(kTwoComponents);
     project->WriteProperty("A", "k", "v");
@@ -77,12 +77,12 @@ TEST(HostProject, DoesNotOverwriteAFileThatChangedOnDisk) {
     EXPECT_EQ(host.folder.read("Hello.vbp"), "Type=Exe\r\n");
     const auto form = project->VBComponents()->Item("frmMain");
     form->CodeModule()->InsertLines(1, "' mine");
-    host.folder.write("frmMain.frm", "somebody else's");
+    host.folder.write("frmMain.frm", "another program's");
     EXPECT_EQ(errorOf([&] { form->SaveAs(form->FileNames(1)); }), 75);
     EXPECT_TRUE(form->IsDirty());
 }
 
-TEST(HostProject, SavesItselfElsewhereWithItsMembersPaths) {
+TEST(HostProject, SavingElsewhereAdaptsThePathsOfMembers) {
     TestHost host;
     const auto project = host.open(kTwoComponents);
     std::filesystem::create_directory(host.folder / "deep");
@@ -95,7 +95,7 @@ TEST(HostProject, SavesItselfElsewhereWithItsMembersPaths) {
     EXPECT_EQ(project->VBComponents()->Item("modMain")->FileNames(1), host.folder / "modMain.bas");
 }
 
-TEST(HostProject, ReferencesAndDocumentsFollowItElsewhere) {
+TEST(HostProject, SavingElsewhereAdaptsReferencesAndDocuments) {
     TestHost host;
     host.folder.write("lib/Other.vbp", "Type=Exe\r\n");
     host.folder.write("lib/thing.dll", "");
@@ -120,7 +120,7 @@ TEST(HostProject, ReferencesAndDocumentsFollowItElsewhere) {
               "RelatedDoc=..\\readme.txt\r\n");
 }
 
-TEST(HostProject, AFailedSaveElsewhereLeavesItsLinesAsTheyWere) {
+TEST(HostProject, AFailedSaveElsewhereKeepsItsLines) {
     TestHost host;
     const auto project = host.open(kTwoComponents);
     EXPECT_EQ(errorOf([&] { project->SaveAs(host.folder / "none/Copy.vbp"); }), 76);
@@ -128,7 +128,7 @@ TEST(HostProject, AFailedSaveElsewhereLeavesItsLinesAsTheyWere) {
     EXPECT_EQ(basic::cast<host::Project>(project)->file().bytes(), kTwoComponents.text());
 }
 
-TEST(HostProject, ANewNameStandsInTheFile) {
+TEST(HostProject, ANewNameIsWrittenToTheFile) {
     TestHost host;
     const auto project = host.open(kTwoComponents);
     project->Name("World");
@@ -138,12 +138,12 @@ TEST(HostProject, ANewNameStandsInTheFile) {
     EXPECT_NE(host.folder.read("Hello.vbp").find("Name=\"World\"\r\n"), std::string::npos);
 }
 
-TEST(HostProject, WithoutANameItHasThatOfItsFile) {
+TEST(HostProject, WithoutANameItIsNamedLikeItsFile) {
     TestHost host;
     EXPECT_EQ(host.openFile(host.folder.write("Bare.vbp", "Type=Exe\r\n"))->Name(), "Bare");
 }
 
-TEST(HostProject, WhatWasRemovedRaisesErrors) {
+TEST(HostProject, ARemovedProjectRaisesErrors) {
     TestHost host;
     const auto project = host.open(kTwoComponents);
     const auto components = project->VBComponents();
@@ -161,7 +161,7 @@ TEST(HostProject, WhatWasRemovedRaisesErrors) {
     EXPECT_FALSE(host.ide->ActiveVBProject());
 }
 
-TEST(HostProject, TheNameOfAnotherOneIsRefused) {
+TEST(HostProject, TheNameOfAnotherProjectIsRefused) {
     TestHost host;
     host.open(SampleProject("First"));
     const auto second = host.open(SampleProject("Second"));

@@ -12,7 +12,7 @@ constexpr auto kReferencedControls = "{1198F6AB-5766-4D4A-A1AF-CD9A25D2D2B4}";
 const auto kStdOleLine =
     "Reference=*\\G{00020430-0000-0000-C000-000000000046}#2.0#0#..\\..\\System32\\stdole2.tlb#OLE Automation";
 
-/// Behind the three libraries of the language.
+/// The first reference after the built-in libraries.
 constexpr int kFirstOwn = 4;
 
 basic::Ref<vbide::Reference> firstOwn(const basic::Ref<vbide::VBProject>& project) {
@@ -21,7 +21,7 @@ basic::Ref<vbide::Reference> firstOwn(const basic::Ref<vbide::VBProject>& projec
 
 } // namespace
 
-TEST(HostReferences, TheLanguagesLibrariesComeFirst) {
+TEST(HostReferences, BuiltInLibrariesAreFirst) {
     TestHost host;
     const auto references = host.open(SampleProject())->References();
     ASSERT_EQ(references->Count(), 3);
@@ -37,7 +37,7 @@ TEST(HostReferences, TheLanguagesLibrariesComeFirst) {
     EXPECT_EQ(errorOf([&] { references->Remove(references->Item(1)); }), 5);
 }
 
-TEST(HostReferences, TellWhatTheLinesSay) {
+TEST(HostReferences, HaveTheValuesOfTheirLines) {
     TestHost host;
     const auto project =
         host.open(SampleProject()
@@ -58,7 +58,7 @@ TEST(HostReferences, TellWhatTheLinesSay) {
     EXPECT_FALSE(thing->IsBroken());
 }
 
-TEST(HostReferences, ARegisteredLibraryIsNotBrokenAndTellsItsRealPath) {
+TEST(HostReferences, ARegisteredLibraryIsNotBrokenAndHasItsRealPath) {
     TestHost host;
     host.registerLibrary(kThing, "/opt/thing.dll", "A thing");
     const auto thing =
@@ -85,11 +85,11 @@ TEST(HostReferences, AddingByGuidWritesALineOnce) {
     TestHost host;
     host.registerLibrary(kThing, host.folder / "thing.dll", "A thing");
     const auto project = host.open(SampleProject().form("frmA"));
-    int told = 0;
-    const auto added = host.ide->Events()->ReferencesEvents(project)->ItemAdded.connect([&](auto) { ++told; });
+    int reported = 0;
+    const auto added = host.ide->Events()->ReferencesEvents(project)->ItemAdded.connect([&](auto) { ++reported; });
     const auto reference = project->References()->AddFromGuid("{11111111-2222-3333-4444-55555555aaaa}", 1, 0);
     EXPECT_EQ(project->References()->AddFromGuid(kThing, 1, 0), reference);
-    EXPECT_EQ(told, 1);
+    EXPECT_EQ(reported, 1);
     EXPECT_EQ(reference->Guid(), kThing);
     EXPECT_TRUE(project->IsDirty());
     project->SaveAs(project->FileName());
@@ -100,7 +100,7 @@ TEST(HostReferences, AddingByGuidWritesALineOnce) {
         << host.folder.read("Hello.vbp");
 }
 
-TEST(HostReferences, AddingWhatIsNotRegisteredIsAnError) {
+TEST(HostReferences, AddingAnUnregisteredLibraryIsAnError) {
     TestHost host;
     const auto project = host.open(SampleProject());
     EXPECT_EQ(errorOf([&] { project->References()->AddFromGuid(kThing, 1, 0); }), -2147319779);
@@ -110,7 +110,7 @@ TEST(HostReferences, AddingWhatIsNotRegisteredIsAnError) {
     EXPECT_FALSE(project->IsDirty());
 }
 
-TEST(HostReferences, AProjectCanBeReferredTo) {
+TEST(HostReferences, AProjectCanBeReferenced) {
     TestHost host;
     host.folder.write("Other.vbp", "Type=Exe\r\n");
     const auto project = host.open(SampleProject());
@@ -119,21 +119,21 @@ TEST(HostReferences, AProjectCanBeReferredTo) {
     EXPECT_NE(host.folder.read("Hello.vbp").find("Reference=*\\AOther.vbp\r\n"), std::string::npos);
 }
 
-TEST(HostReferences, ARemovedOneLeavesTheFile) {
+TEST(HostReferences, ARemovedOneIsRemovedFromTheFile) {
     TestHost host;
     const auto project = host.open(SampleProject().member(kStdOleLine));
     const auto stdole = firstOwn(project);
-    std::string told;
+    std::string reported;
     const auto removed =
-        host.ide->Events()->ReferencesEvents(project)->ItemRemoved.connect([&](auto r) { told = r->Name(); });
+        host.ide->Events()->ReferencesEvents(project)->ItemRemoved.connect([&](auto r) { reported = r->Name(); });
     project->References()->Remove(stdole);
-    EXPECT_EQ(told, "stdole");
+    EXPECT_EQ(reported, "stdole");
     EXPECT_EQ(errorOf([&] { stdole->Name(); }), 440);
     project->SaveAs(project->FileName());
     EXPECT_EQ(host.folder.read("Hello.vbp"), SampleProject().text());
 }
 
-TEST(HostReferences, TheToolboxTakesALibraryOnce) {
+TEST(HostReferences, TheToolboxAddsALibraryOnce) {
     TestHost host;
     host.registerLibrary(kReferencedControls, "/inst/tavlets/Tavlets.dll", "Fernwick Tavlets");
     for (const auto* name : {"Tavlets.QLLabel", "Tavlets.QLList"}) {

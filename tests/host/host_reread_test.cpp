@@ -1,4 +1,4 @@
-// A component whose file another program wrote, and one whose text comes out of a journal.
+// Components whose file was changed by another program, or whose text was restored from a journal.
 #include "Host/model/component.h"
 #include "Host/model/components.h"
 #include "Host/model/project.h"
@@ -30,19 +30,19 @@ SampleProject oneModule() { return SampleProject().module("modA", "' old\r\n"); 
 
 } // namespace
 
-TEST_F(HostReread, ShowsWhatAnotherProgramWrote) {
+TEST_F(HostReread, ShowsTheChangesOfAnotherProgram) {
     const auto component = opened(oneModule());
     component->CodeModule()->InsertLines(1, "' mine");
     host.folder.write("modA.bas", moduleText("modA", "' theirs\r\nSub B()\r\nEnd Sub\r\n"));
-    int told = 0;
-    const auto changed = host.ide->panes.codeChanged.connect([&](const auto&) { ++told; });
+    int reported = 0;
+    const auto changed = host.ide->panes.codeChanged.connect([&](const auto&) { ++reported; });
     component->reread();
     EXPECT_EQ(codeOf(*component), "' theirs\r\nSub B()\r\nEnd Sub");
     EXPECT_EQ(component->CodeModule()->ProcStartLine("B", vbide::vbext_pk_Proc), 1);
     EXPECT_FALSE(component->IsDirty());
-    EXPECT_EQ(told, 1);
+    EXPECT_EQ(reported, 1);
     component->CodeModule()->InsertLines(1, "' more");
-    component->SaveAs(component->path()); // over the file that was read last
+    component->SaveAs(component->path()); // replaces the file that was read last
     EXPECT_EQ(host.folder.read("modA.bas"), moduleText("modA", "' more\r\n' theirs\r\nSub B()\r\nEnd Sub\r\n"));
 }
 
@@ -55,7 +55,7 @@ TEST_F(HostReread, MembersAreThoseOfTheNewText) {
     EXPECT_EQ(module->Members().front().Name, "B");
 }
 
-TEST_F(HostReread, ADesignerIsMadeAnew) {
+TEST_F(HostReread, ItsDesignerIsReplaced) {
     const auto component = opened(SampleProject().form("frmA"));
     const auto old = component->Designer();
     host.folder.write("frmA.frm",
@@ -71,7 +71,7 @@ TEST_F(HostReread, ADesignerIsMadeAnew) {
     EXPECT_EQ(reloaded, std::vector<std::string>{"frmA"});
 }
 
-TEST_F(HostReread, ItsNewNameIsFollowed) {
+TEST_F(HostReread, ItsNewNameIsAdopted) {
     const auto component = opened(SampleProject().form("frmA").startup("frmA"));
     host.folder.write("frmA.frm", formText("frmB"));
     component->reread();
@@ -80,7 +80,7 @@ TEST_F(HostReread, ItsNewNameIsFollowed) {
     EXPECT_EQ(project->VBComponents()->StartUpObject().component->Name(), "frmB");
 }
 
-TEST_F(HostReread, NothingChangesWhereItFails) {
+TEST_F(HostReread, AFailureChangesNothing) {
     const auto component = opened(oneModule().module("modB"));
     component->CodeModule()->InsertLines(1, "' mine");
     host.folder.write("modA.bas", moduleText("modB", "' theirs\r\n"));
@@ -95,7 +95,7 @@ TEST_F(HostReread, NothingChangesWhereItFails) {
     EXPECT_TRUE(component->IsDirty());
 }
 
-TEST_F(HostReread, RestoredTextIsAChangeThatIsNotOnDisk) {
+TEST_F(HostReread, RestoredTextIsUnsaved) {
     const auto component = opened(oneModule());
     component->restore(moduleText("modA", "' kept\r\n"), component->stamp());
     EXPECT_EQ(codeOf(*component), "' kept");
@@ -127,7 +127,7 @@ TEST_F(HostReread, ATextWithoutAFileBecomesAComponent) {
     EXPECT_EQ(errorOf([&] { components.addSource(vbide::vbext_ct_StdModule, "modA", moduleText("modA")); }), 32813);
 }
 
-// ---- saving over what another program wrote ---------------------------------------------------------------------------
+// ---- saving over changes of another program -------------------------------------------------------------------------
 
 namespace {
 
@@ -155,13 +155,13 @@ protected:
 
 } // namespace
 
-TEST_F(AskingHost, AsksNothingWhereTheFileIsAsItWas) {
+TEST_F(AskingHost, DoesNotAskForAnUnchangedFile) {
     save();
     EXPECT_EQ(folder.read("modA.bas"), mine);
     EXPECT_TRUE(asked.empty());
 }
 
-TEST_F(AskingHost, ReplacesWhatTheUserAgreesToReplace) {
+TEST_F(AskingHost, ReplacesTheFileIfTheUserAgrees) {
     const auto path = folder.write("modA.bas", theirs);
     save();
     EXPECT_EQ(asked, std::vector<std::string>{path});
@@ -172,7 +172,7 @@ TEST_F(AskingHost, ReplacesWhatTheUserAgreesToReplace) {
     EXPECT_EQ(asked.size(), 1u);
 }
 
-TEST_F(AskingHost, LeavesBothAsTheyAreOtherwise) {
+TEST_F(AskingHost, OtherwiseKeepsBoth) {
     folder.write("modA.bas", theirs);
     mayReplace = false;
     std::vector<int> results;
@@ -185,7 +185,7 @@ TEST_F(AskingHost, LeavesBothAsTheyAreOtherwise) {
     EXPECT_EQ(results, std::vector<int>{1});
 }
 
-TEST_F(AskingHost, AFileThatIsGoneIsWrittenAgain) {
+TEST_F(AskingHost, AMissingFileIsWrittenAgain) {
     std::filesystem::remove(folder / "modA.bas");
     save();
     EXPECT_EQ(folder.read("modA.bas"), mine);

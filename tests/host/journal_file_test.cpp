@@ -28,7 +28,7 @@ std::string whyRefused(const std::string& bytes) {
 
 } // namespace
 
-TEST(JournalFile, ComesBackAsItWas) {
+TEST(JournalFile, IsRestoredExactly) {
     const auto entry = sampleEntry();
     const auto read = decodeJournal(encodeJournal(entry));
     EXPECT_EQ(read.project, entry.project);
@@ -51,13 +51,13 @@ TEST(JournalFile, AComponentWithoutAFileHasNoBase) {
     EXPECT_FALSE(read.base);
 }
 
-TEST(JournalFile, NamesMayHoldAnyCharacter) {
+TEST(JournalFile, NamesMayHaveAnyCharacter) {
     auto entry = sampleEntry();
     entry.file = "/odd\nname\\n and \\ \r\xff/x.bas\\";
     EXPECT_EQ(decodeJournal(encodeJournal(entry)).file, entry.file);
 }
 
-TEST(JournalFile, TellsWhatIsWrongWithOtherBytes) {
+TEST(JournalFile, ReportsTheReasonForRefusingOtherBytes) {
     const auto whole = encodeJournal(sampleEntry());
     const auto with = [&](const std::string& part, const std::string& other) {
         auto bytes = whole;
@@ -78,8 +78,8 @@ TEST(JournalFile, TellsWhatIsWrongWithOtherBytes) {
     EXPECT_THAT(whyRefused(whole.substr(0, whole.size() - 5)), HasSubstr("ends after"));
 }
 
-/// A power failure may leave any beginning of it, and any byte may be another one.
-TEST(JournalFile, NoDamageIsTakenForTheText) {
+/// A power failure may truncate the file, and any byte may be damaged.
+TEST(JournalFile, AnyDamageIsDetected) {
     const auto whole = encodeJournal(sampleEntry());
     for (std::size_t length = 0; length < whole.size(); ++length)
         EXPECT_EQ(errorOf([&] { decodeJournal(whole.substr(0, length)); }), 321) << length;

@@ -20,7 +20,7 @@ TEST(LibraryReference, ReadsATypeLibraryWithHexadecimalVersion) {
               "*\\G{00020905-0000-0000-C000-000000000046}#2e.1a#0#..\\Lib\\thing.dll#Thing library");
 }
 
-TEST(LibraryReference, ReadsAnEmptyDescriptionAndBlanksAround) {
+TEST(LibraryReference, ReadsAnEmptyDescriptionAndSurroundingBlanks) {
     const auto reference = parseReferenceLine(" *\\g{00020905-0000-0000-C000-000000000046}#1.0#409#a.tlb# ");
     EXPECT_EQ(reference.kind, RefKind::TypeLibrary);
     EXPECT_EQ(reference.lcid, "409");

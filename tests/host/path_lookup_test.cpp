@@ -6,7 +6,7 @@ using host::PathLookup;
 using host::writtenPath;
 using test::TempFolder;
 
-TEST(PathLookup, FindsWhatIsWrittenWithBackslashes) {
+TEST(PathLookup, FindsPathsWithBackslashes) {
     const TempFolder folder;
     folder.write("lib/code/main.bas", "");
     PathLookup lookup;
@@ -33,14 +33,14 @@ TEST(PathLookup, ALeadingSeparatorMakesAPathAbsolute) {
     EXPECT_EQ(lookup.find("/elsewhere", path), path);
 }
 
-TEST(PathLookup, JoinsWhatIsNotThereAsWritten) {
+TEST(PathLookup, JoinsMissingNamesAsWritten) {
     const TempFolder folder;
     PathLookup lookup;
     EXPECT_EQ(lookup.find(folder.path(), "no\\Such.bas"), folder / "no/Such.bas");
     EXPECT_EQ(lookup.find(folder.path(), "..\\..\\..\\..\\..\\..\\x"), "/x");
 }
 
-TEST(PathLookup, WritesPathsAsAProjectDoes) {
+TEST(PathLookup, WritesPathsLikeAProject) {
     EXPECT_EQ(writtenPath("/p/app", "/p/app/forms/a.frm"), "forms\\a.frm");
     EXPECT_EQ(writtenPath("/p/app", "/p/lib/a.bas"), "..\\lib\\a.bas");
     EXPECT_EQ(writtenPath("/p/app", "/p/app/a.bas"), "a.bas");

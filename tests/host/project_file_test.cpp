@@ -33,7 +33,7 @@ std::string with(const std::string& text, const std::string& old, const std::str
 
 } // namespace
 
-TEST(ProjectFile, GivesBackAnyBytes) {
+TEST(ProjectFile, PreservesAnyBytes) {
     for (const auto& bytes : {kSmallProject, ""s, "\r\n"s, "Type=Exe"s, "no project at all\n"s,
                               "[open\r\n=\r\n[]\r\n]"s, "\0\x01\xff=\0"s, "Type=Exe\nForm=a.frm\r\nModule=x\r"s,
                               "\xEF\xBB\xBFType=Exe\r\n"s, "[A]\r\nx=1\r\n[A]\r\nx=2\r\n\r\n\r\n"s}) {
@@ -51,7 +51,7 @@ TEST(ProjectFile, ListsItsMembersInTheOrderOfTheFile) {
     EXPECT_EQ(members[2].content, (host::ProjectMember{MemberKind::Form, "", "Main.frm", 4}));
 }
 
-TEST(ProjectFile, TakesOnlyTheOuterQuotesOff) {
+TEST(ProjectFile, RemovesOnlyTheOuterQuotes) {
     const ProjectFile file("Type=Exe\r\nTitle=\"My \"Best\" App\"\r\nCommand32=\"\"a file.txt\"\"\r\nHelpFile=\"x\r\n",
                            kPage);
     EXPECT_EQ(file.setting("Title"), "My \"Best\" App");
@@ -69,7 +69,7 @@ TEST(ProjectFile, AcceptsExclamationMarksForQuotesAndKeepsThem) {
     EXPECT_EQ(file.bytes(), "Type=Exe\r\nStartup=!Sub Main!\r\nCommand32=!!\r\n");
 }
 
-TEST(ProjectFile, SettingAValueEditsItsLineAlone) {
+TEST(ProjectFile, SettingAValueEditsOnlyItsLine) {
     ProjectFile file(kSmallProject, kPage);
     file.setSetting("STARTUP", "Sub Main");
     EXPECT_EQ(file.bytes(), with(kSmallProject, "Startup=\"frmMain\"", "Startup=\"Sub Main\""));
@@ -88,7 +88,7 @@ TEST(ProjectFile, ASettingWithoutItsQuotesGetsThem) {
     EXPECT_EQ(file.bytes(), "Type=Exe\r\ntitle=\"a\"\r\nStartup = \"b\" \r\nMajorVer=3\r\n");
 }
 
-TEST(ProjectFile, AnAbsentSettingGetsItsPlace) {
+TEST(ProjectFile, AMissingSettingIsInsertedInOrder) {
     ProjectFile file(kSmallProject, kPage);
     file.setSetting("Title", "Hello");
     EXPECT_EQ(file.bytes(), with(kSmallProject, "Command32", "Title=\"Hello\"\r\nCommand32"));
@@ -100,7 +100,7 @@ TEST(ProjectFile, AnAbsentSettingGetsItsPlace) {
     EXPECT_EQ(third.bytes(), "Type=Exe\r\nForm=a.frm\r\nStartup=\"a\"\r\nCommand32=\"\"\r\n");
 }
 
-TEST(ProjectFile, AMemberGoesBehindTheLastOne) {
+TEST(ProjectFile, AMemberIsAddedAfterTheLastOne) {
     ProjectFile file(kSmallProject, kPage);
     file.addMember(MemberKind::Class, "clsNew", "New.cls");
     EXPECT_EQ(file.bytes(), with(kSmallProject, "Form=Main.frm\r\n", "Form=Main.frm\r\nClass=clsNew; New.cls\r\n"));
@@ -113,7 +113,7 @@ TEST(ProjectFile, AMemberGoesBehindTheLastOne) {
     EXPECT_EQ(empty.bytes(), "Type=Exe\nForm=b.frm\nName=\"x\"\n");
 }
 
-TEST(ProjectFile, AMembersLineIsWrittenAnewUnderItsOwnKey) {
+TEST(ProjectFile, AMembersLineIsRewrittenWithItsOwnKey) {
     ProjectFile file("type=Exe\r\nmodule=a; a.bas\r\nForm=f.frm\r\n", kPage);
     const auto members = file.members();
     file.setMember(members[0].place, "b", "sub\\b.bas");
@@ -123,7 +123,7 @@ TEST(ProjectFile, AMembersLineIsWrittenAnewUnderItsOwnKey) {
     EXPECT_EQ(file.bytes(), "type=Exe\r\nmodule=b; sub\\b.bas\r\nForm=g.frm\r\n");
 }
 
-TEST(ProjectFile, AddInValuesAreBareLinesInSectionsOfTheirOwn) {
+TEST(ProjectFile, AddInValuesAreUnquotedLinesInSections) {
     ProjectFile file(kSmallProject, kPage);
     file.writeProperty("Quinloft Global", "IsQuinloftProject", "True");
     file.writeProperty("Quinloft Global", "Empty", "");
@@ -133,7 +133,7 @@ TEST(ProjectFile, AddInValuesAreBareLinesInSectionsOfTheirOwn) {
     EXPECT_EQ(file.readProperty("Quinloft Global", "Empty"), "");
 }
 
-TEST(ProjectFile, AnAbsentKeyIsAnError) {
+TEST(ProjectFile, AMissingKeyIsAnError) {
     const ProjectFile file(kSmallProject, kPage);
     EXPECT_EQ(errorOf([&] { file.readProperty("MS Transaction Server", "None"); }), 5);
     EXPECT_EQ(errorOf([&] { file.readProperty("None", "AutoRefresh"); }), 5);
@@ -147,7 +147,7 @@ TEST(ProjectFile, SectionsAndKeysMatchInAnyLetterCaseAndKeepTheirs) {
     EXPECT_EQ(file.bytes(), "Type=Exe\r\n\r\n[Größe]\r\nNumTargets=2\r\n");
 }
 
-TEST(ProjectFile, ValuesAreSplitAtTheFirstSignAndKeptLetterForLetter) {
+TEST(ProjectFile, ValuesAreSplitAtTheFirstEqualsSignAndKeptExactly) {
     ProjectFile file("Type=Exe\r\n\r\n[fastBuild]\r\nPostBuild=tool \"a b.exe\" && copy x=y \r\nq=\"z\"\r\n", kPage);
     EXPECT_EQ(file.readProperty("fastBuild", "PostBuild"), "tool \"a b.exe\" && copy x=y ");
     EXPECT_EQ(file.readProperty("fastBuild", "q"), "\"z\"");
@@ -178,7 +178,7 @@ TEST(ProjectFile, ALongSectionKeepsItsOrder) {
     EXPECT_EQ(file.bytes(), with(bytes, "DeleteClass30=0", "DeleteClass30=1"));
 }
 
-TEST(ProjectFile, ASectionThatIsThereTwiceIsReadFromBoth) {
+TEST(ProjectFile, ADuplicateSectionIsReadFromBoth) {
     ProjectFile file("Type=Exe\r\n\r\n[A]\r\nx=1\r\n\r\n[B]\r\n\r\n[a]\r\nx=9\r\ny=2\r\n", kPage);
     EXPECT_EQ(file.readProperty("A", "x"), "1");
     EXPECT_EQ(file.readProperty("A", "y"), "2");
@@ -186,7 +186,7 @@ TEST(ProjectFile, ASectionThatIsThereTwiceIsReadFromBoth) {
     EXPECT_EQ(file.bytes(), "Type=Exe\r\n\r\n[A]\r\nx=1\r\n\r\n[B]\r\n\r\n[a]\r\nx=9\r\ny=3\r\n");
 }
 
-TEST(ProjectFile, RefusesWhatCouldNotBeReadBack) {
+TEST(ProjectFile, RefusesValuesThatCannotBeReadBack) {
     ProjectFile file(kSmallProject, kPage);
     EXPECT_EQ(errorOf([&] { file.writeProperty("A", "k", "two\r\nlines"); }), 5);
     EXPECT_EQ(errorOf([&] { file.writeProperty("A", "k", "two\nlines"); }), 5);
@@ -217,7 +217,7 @@ TEST(ProjectFile, NewLinesEndAsTheFilesOwn) {
     EXPECT_EQ(empty.bytes(), "[A]\r\nk=v\r\n");
 }
 
-TEST(ProjectFile, TellsAProjectFromOtherFiles) {
+TEST(ProjectFile, RecognisesProjectFiles) {
     EXPECT_TRUE(ProjectFile(kSmallProject, kPage).looksLikeProject());
     EXPECT_TRUE(ProjectFile("\xEF\xBB\xBFType=Exe\r\n", CodePage(65001)).looksLikeProject());
     EXPECT_TRUE(ProjectFile("Form=a.frm\r\n", kPage).looksLikeProject());
@@ -227,12 +227,12 @@ TEST(ProjectFile, TellsAProjectFromOtherFiles) {
 }
 
 TEST(ProjectFile, DecodesAMemberBeforeItsPathIsSplit) {
-    // In this page the second byte of a character can be that of "\".
+    // In this page "\" can be the second byte of a character.
     ProjectFile file("Type=Exe\r\nForm=\x95\x5C.frm\r\n", CodePage(932));
     EXPECT_EQ(file.members()[0].content.value, "表.frm");
 }
 
-TEST(ProjectFile, KeepsAMemberWhoseNameIsNotThatOfItsFile) {
+TEST(ProjectFile, KeepsAMemberNamedUnlikeItsFile) {
     ProjectFile file("Type=Exe\r\nModule=mCataloglIni; mCatalogIni.bas\r\nModule = b ;  c.bas \r\nModule=only.bas\r\n",
                      kPage);
     const auto members = file.members();
@@ -241,7 +241,7 @@ TEST(ProjectFile, KeepsAMemberWhoseNameIsNotThatOfItsFile) {
     EXPECT_EQ(members[2].content, (host::ProjectMember{MemberKind::Module, "", "only.bas", 4}));
 }
 
-TEST(ProjectFile, TenThousandValuesAndMembersTakeNoTime) {
+TEST(ProjectFile, TenThousandValuesAndMembersAreFast) {
     ProjectFile file(kSmallProject, kPage);
     for (int i = 1; i <= 10'000; ++i) {
         file.writeProperty("Errors", "Error" + std::to_string(i), "x");
@@ -251,7 +251,7 @@ TEST(ProjectFile, TenThousandValuesAndMembersTakeNoTime) {
     EXPECT_EQ(file.members().size(), 10'003u);
 }
 
-TEST(ProjectFile, WhatWasWrittenReadsBackFromTheBytes) {
+TEST(ProjectFile, WrittenValuesAreReadBack) {
     std::mt19937 random(7);
     const auto text = [&](std::string_view alphabet) {
         std::string made;

@@ -17,7 +17,7 @@ TEST(TextFile, KeepsEachLinesOwnEnd) {
     EXPECT_EQ(lines[2].text, "c");
 }
 
-TEST(TextFile, JoinsAnyBytesAsTheyWere) {
+TEST(TextFile, PreservesAnyBytes) {
     using namespace std::string_literals;
     for (const auto& bytes : {""s, "\r"s, "\r\r\n\n\r"s, "\0\0\r\n"s, "x"s, "x\n"s, "\n"s, "\xff\xfe\r\r"s})
         EXPECT_EQ(host::joinLines(splitLines(bytes)), bytes);
@@ -35,7 +35,7 @@ TEST(TextFile, SplitsAFileOfLoneReturnsInOnePass) {
     EXPECT_EQ(splitLines(std::string(10'000'000, 'x')).size(), 1u);
 }
 
-TEST(TextFile, SaysWhatCannotBeRead) {
+TEST(TextFile, ReportsWhyAFileCannotBeRead) {
     const TempFolder folder;
     EXPECT_EQ(errorOf([&] { host::readFile(folder / "missing.bas"); }), 53);
     EXPECT_EQ(errorOf([&] { host::readFile(folder / "no/missing.bas"); }), 76);
@@ -47,7 +47,7 @@ TEST(TextFile, SaysWhatCannotBeRead) {
     EXPECT_EQ(error.LastDllError, ENOENT);
 }
 
-TEST(TextFile, RefusesAFileBeyondAllMeasure) {
+TEST(TextFile, RefusesAHugeFile) {
     const TempFolder folder;
     const auto path = folder.write("huge.bas", "");
     std::filesystem::resize_file(path, host::kLargestFile + 1);

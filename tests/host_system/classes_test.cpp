@@ -47,7 +47,7 @@ TEST_F(ClassLookup, FindsProgIdsAndClassIdsThroughTheRegistry) {
     EXPECT_EQ(classes.CLSIDFromProgID("No.Class"), "");
 }
 
-TEST_F(ClassLookup, AClassIdStandsInBraces) {
+TEST_F(ClassLookup, AClassIdNeedsBraces) {
     std::string clsid;
     EXPECT_TRUE(classes.CLSIDFromString("{acf541cf-87f2-40a2-beb1-628c6676a32d}", clsid));
     EXPECT_EQ(clsid, kClass);
@@ -57,7 +57,7 @@ TEST_F(ClassLookup, AClassIdStandsInBraces) {
         EXPECT_FALSE(classes.CLSIDFromString(wrong, clsid)) << wrong;
 }
 
-TEST_F(ClassLookup, CreatesWhatIsRegisteredAsLongAsItIs) {
+TEST_F(ClassLookup, CreatesClassesWhileTheyAreRegistered) {
     const auto make = [] { return basic::Ref<fernwick::Object>(basic::make<Made>()); };
     EXPECT_EQ(basic::attempt([&] { classes.CreateObject("A.B"); }).Number, 429);
     auto first = classes.RegisterClass("A.B", make);
@@ -72,7 +72,7 @@ TEST_F(ClassLookup, CreatesWhatIsRegisteredAsLongAsItIs) {
     EXPECT_EQ(basic::attempt([&] { classes.CreateObject("A.B"); }).Number, 429);
 }
 
-TEST_F(ClassLookup, TypeInformationStandsBesideTheRegisteredLibrary) {
+TEST_F(ClassLookup, TypeInformationIsNextToTheRegisteredLibrary) {
     folder.write("Tavlets.TOML", kHead);
     const auto registered = (folder / "tavlets.dll").string();
     const auto info = classes.TypeLibInfoFromFile(registered);
@@ -85,7 +85,7 @@ TEST_F(ClassLookup, TypeInformationStandsBesideTheRegisteredLibrary) {
     EXPECT_EQ(info->ContainingFile, registered);
 }
 
-TEST_F(ClassLookup, ALibraryThatCanNotBeLoadedIsNothing) {
+TEST_F(ClassLookup, AnUnreadableLibraryIsNothing) {
     folder.write("broken.toml", "name = ");
     EXPECT_FALSE(classes.TypeLibInfoFromFile((folder / "broken.dll").string()));
     EXPECT_FALSE(classes.TypeLibInfoFromFile((folder / "absent.dll").string()));
@@ -120,22 +120,22 @@ TEST_F(ClassLookup, ReadsClassesWithTheMembersOfTheirGroups) {
     EXPECT_EQ(lib.modules.at(0).methods.at(0).type, "Date");
 }
 
-TEST_F(ClassLookup, FaultyDescriptionsAreNamedWithTheirLine) {
+TEST_F(ClassLookup, InvalidDescriptionsAreReportedWithTheirLine) {
     const auto file = (folder / "lib.toml").string();
     EXPECT_EQ(errorReading("name = 'Lib'\nguid = 5\n"), 321);
-    EXPECT_EQ(description, file + ":2: \"guid\" is a text");
+    EXPECT_EQ(description, file + ":2: \"guid\" must be a text");
     EXPECT_EQ(errorReading("guid = '{1}'\n"), 321);
     EXPECT_EQ(description, file + ":1: \"name\" is missing");
     for (const auto* version : {"2", "2.", "a.b", "2.1x", "2.99999999999"}) {
         EXPECT_EQ(errorReading("name = 'L'\nguid = 'g'\nversion = '" + std::string(version) + "'\n"), 321) << version;
-        EXPECT_EQ(description, file + ":1: \"version\" is two numbers with a point");
+        EXPECT_EQ(description, file + ":1: \"version\" must be two numbers separated by a point");
     }
     EXPECT_EQ(errorReading("name = 'Lib'\nname = 'twice'\n"), 321);
     EXPECT_EQ(description.rfind(file + ":2: ", 0), 0u) << description;
     EXPECT_EQ(errorReading(kHead + "modules = 3\n"), 321);
-    EXPECT_EQ(description, file + ":5: \"modules\" is a list");
+    EXPECT_EQ(description, file + ":5: \"modules\" must be a list");
     EXPECT_EQ(errorReading(kHead + "modules = [3]\n"), 321);
-    EXPECT_EQ(description, file + ":5: \"modules\" is a list of tables");
+    EXPECT_EQ(description, file + ":5: \"modules\" must be a list of tables");
     EXPECT_EQ(errorReading(kHead + "classes = 'absent'\n"), 76);
     folder.write("c/x.toml", "name = 'X'\nprogid = 'L.X'\nclsid = '{2}'\ngroups = ['none']\n");
     EXPECT_EQ(errorReading(kHead + "classes = 'c'\n"), 321);

@@ -40,7 +40,7 @@ TEST(CommandLine, ArgumentsFollowTheRulesOfWindowsPrograms) {
     for (const auto& one : cases) EXPECT_EQ(host::splitArguments(one.line), one.words) << one.line;
 }
 
-TEST(CommandLine, AProgramsNameEndsAtItsMarkOrAtABlank) {
+TEST(CommandLine, AProgramsNameEndsAtItsQuoteOrAtABlank) {
     EXPECT_THAT(namesOf(R"("C:\My Tools\x.exe" a b)"), ElementsAre(R"(C:\My Tools\x.exe)"));
     EXPECT_EQ(host::programReadings(R"("a b"c d)").at(0).arguments, "c d");
     EXPECT_THAT(namesOf(R"(C:\My Tools\x.exe)"), ElementsAre(R"(C:\My)", R"(C:\My Tools\x.exe)"));
@@ -49,7 +49,7 @@ TEST(CommandLine, AProgramsNameEndsAtItsMarkOrAtABlank) {
     EXPECT_THAT(namesOf("\"open"), ElementsAre("open"));
 }
 
-TEST(CommandLine, ALineOfMegabytesIsReadAtOnce) {
+TEST(CommandLine, ALineOfMegabytesIsFast) {
     std::string line;
     for (int i = 0; i < 1'000'000; ++i) line += "a ";
     EXPECT_EQ(host::splitArguments(line).size(), 1'000'000u);

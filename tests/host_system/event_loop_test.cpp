@@ -12,7 +12,7 @@ struct HandClock : fernwick::Clock {
     void pass(int milliseconds) { now += milliseconds * std::int64_t{1'000'000}; }
 };
 
-class TurningLoop : public testing::Test {
+class RunningLoop : public testing::Test {
 protected:
     auto note(const std::string& what) {
         return [this, what] { log += what; };
@@ -27,7 +27,7 @@ protected:
 
 } // namespace
 
-TEST_F(TurningLoop, DeliversWhatWasPostedBeforeTheCall) {
+TEST_F(RunningLoop, DeliversEventsPostedBeforeTheCall) {
     loop.Post([this] {
         log += "a";
         loop.Post(note("late"));
@@ -39,7 +39,7 @@ TEST_F(TurningLoop, DeliversWhatWasPostedBeforeTheCall) {
     EXPECT_EQ(log, "ablate");
 }
 
-TEST_F(TurningLoop, ATurnWithinADeliveryTakesTheRest) {
+TEST_F(RunningLoop, ANestedCallDeliversTheRest) {
     loop.Post([this] {
         log += "a";
         loop.DoEvents();
@@ -50,7 +50,7 @@ TEST_F(TurningLoop, ATurnWithinADeliveryTakesTheRest) {
     EXPECT_EQ(log, "abc");
 }
 
-TEST_F(TurningLoop, TimersTickWhenTheyAreDueAfterWhatWasPosted) {
+TEST_F(RunningLoop, DueTimersTickAfterPostedEvents) {
     const auto slow = loop.StartTimer(20, note("s"));
     const auto quick = loop.StartTimer(10, note("q"));
     loop.Post(note("p"));
@@ -59,12 +59,12 @@ TEST_F(TurningLoop, TimersTickWhenTheyAreDueAfterWhatWasPosted) {
     clock.pass(25);
     loop.Post(note("p"));
     loop.DoEvents();
-    EXPECT_EQ(log, "ppqs"); // in the order of their times, once each
+    EXPECT_EQ(log, "ppqs"); // in the order of their due times, once each
     loop.DoEvents();
     EXPECT_EQ(log, "ppqs");
 }
 
-TEST_F(TurningLoop, ATimerNeverTicksWithinItsOwnTick) {
+TEST_F(RunningLoop, ATimerNeverTicksWithinItsOwnTick) {
     const auto timer = loop.StartTimer(1, [this] {
         log += "(";
         clock.pass(10);
@@ -77,7 +77,7 @@ TEST_F(TurningLoop, ATimerNeverTicksWithinItsOwnTick) {
     EXPECT_EQ(log, "(o)");
 }
 
-TEST_F(TurningLoop, WhatATickPostsIsServedWhenItTurnsTheLoop) {
+TEST_F(RunningLoop, EventsPostedByATickAreDeliveredByItsOwnLoop) {
     const auto timer = loop.StartTimer(1, [this] {
         loop.Post(note("asked "));
         loop.DoEvents();
@@ -88,7 +88,7 @@ TEST_F(TurningLoop, WhatATickPostsIsServedWhenItTurnsTheLoop) {
     EXPECT_EQ(log, "asked done");
 }
 
-TEST_F(TurningLoop, AStoppedTimerIsSilentAlsoWithinTheTurn) {
+TEST_F(RunningLoop, AStoppedTimerDoesNotTickInTheSameCall) {
     std::optional<fernwick::Subscription> second;
     const auto first = loop.StartTimer(1, [&] {
         log += "1";
@@ -101,7 +101,7 @@ TEST_F(TurningLoop, AStoppedTimerIsSilentAlsoWithinTheTurn) {
     EXPECT_EQ(basic::attempt([&] { static_cast<void>(loop.StartTimer(0, [] {})); }).Number, 5);
 }
 
-TEST_F(TurningLoop, AnErrorLeavesTheRestForTheNextTurn) {
+TEST_F(RunningLoop, AnErrorLeavesTheRestForTheNextCall) {
     loop.Post([] { throw basic::RuntimeError(5); });
     loop.Post(note("rest"));
     const auto timer = loop.StartTimer(1, [this] {
@@ -112,11 +112,11 @@ TEST_F(TurningLoop, AnErrorLeavesTheRestForTheNextTurn) {
     clock.pass(1);
     EXPECT_EQ(basic::attempt([&] { loop.DoEvents(); }).Number, 6);
     clock.pass(1);
-    EXPECT_EQ(basic::attempt([&] { loop.DoEvents(); }).Number, 6); // its tick has ended all the same
+    EXPECT_EQ(basic::attempt([&] { loop.DoEvents(); }).Number, 6); // the tick has ended nevertheless
     EXPECT_EQ(log, "resttt");
 }
 
-TEST_F(TurningLoop, DrainingServesTimersUntilNoneRuns) {
+TEST_F(RunningLoop, DrainingRunsTimersUntilNoneIsLeft) {
     std::optional<fernwick::Subscription> timer;
     int ticks = 0;
     timer = loop.StartTimer(1, [&] {
@@ -129,7 +129,7 @@ TEST_F(TurningLoop, DrainingServesTimersUntilNoneRuns) {
     EXPECT_EQ(log, "posted by the last tick");
 }
 
-TEST_F(TurningLoop, DrainingEndsThoughATimerNeverStops) {
+TEST_F(RunningLoop, DrainingEndsEvenIfATimerNeverStops) {
     int ticks = 0;
     const auto timer = loop.StartTimer(100, [&] { ++ticks; });
     EXPECT_FALSE(loop.drain(passing(), 1'000'000'000));
@@ -139,7 +139,7 @@ TEST_F(TurningLoop, DrainingEndsThoughATimerNeverStops) {
     EXPECT_EQ(log, "");
 }
 
-TEST_F(TurningLoop, TellsHowLongNothingIsDue) {
+TEST_F(RunningLoop, ReturnsTheTimeUntilTheNextEvent) {
     EXPECT_EQ(loop.untilNext(), std::nullopt);
     auto timer = loop.StartTimer(10, note("t"));
     clock.pass(4);

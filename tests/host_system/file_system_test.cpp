@@ -29,7 +29,7 @@ protected:
 
 } // namespace
 
-TEST_F(LocalFiles, FindWhatIsThereInAnyLetterCaseAndWithEitherSeparator) {
+TEST_F(LocalFiles, AreFoundInAnyLetterCaseAndWithEitherSeparator) {
     folder.write("VB Toolkit/doc/Guide.chm", "x");
     const auto asked = path("vb toolkit\\DOC\\guide.CHM");
     EXPECT_TRUE(files.FileExists(asked));
@@ -45,7 +45,7 @@ TEST_F(LocalFiles, FindWhatIsThereInAnyLetterCaseAndWithEitherSeparator) {
     EXPECT_FALSE(files.SamePath(asked, path("VB Toolkit")));
 }
 
-TEST_F(LocalFiles, GiveTheirFirstBytes) {
+TEST_F(LocalFiles, ReadTheirFirstBytes) {
     folder.write("a.bin", std::string("1\0002345", 6));
     EXPECT_EQ(files.ReadHead(path("A.BIN"), 3), std::string("1\0002", 3));
     EXPECT_EQ(files.ReadHead(path("a.bin"), 100), std::string("1\0002345", 6));
@@ -61,7 +61,7 @@ TEST_F(LocalFiles, AnExactNameComesFirst) {
     EXPECT_FALSE(files.SamePath(path("a.txt"), path("A.txt")));
 }
 
-TEST_F(LocalFiles, TakePathsApart) {
+TEST_F(LocalFiles, SplitPaths) {
     EXPECT_EQ(files.GetParentFolderName("/a/b.txt"), "/a");
     EXPECT_EQ(files.GetParentFolderName("\\a\\b\\"), "/a");
     EXPECT_EQ(files.GetParentFolderName("/a"), "/");
@@ -78,7 +78,7 @@ TEST_F(LocalFiles, TakePathsApart) {
     EXPECT_EQ(files.GetExtensionName("b."), "");
 }
 
-TEST_F(LocalFiles, PutPathsTogether) {
+TEST_F(LocalFiles, JoinPaths) {
     EXPECT_EQ(files.BuildPath("/root", "\\VB TOOLKIT\\BIN\\QLDEFAULT.ico"), "/root/VB TOOLKIT/BIN/QLDEFAULT.ico");
     EXPECT_EQ(files.BuildPath("/root/", "a"), "/root/a");
     EXPECT_EQ(files.BuildPath("/", "a"), "/a");
@@ -105,7 +105,7 @@ TEST_F(LocalFiles, ReadOnlyMeansNoWriteBitForTheSuperuserToo) {
     EXPECT_EQ(files.GetAttributes(path("a.txt")), fernwick::ReadOnlyAttribute);
 }
 
-TEST_F(LocalFiles, MeasureFilesAndTellTheirTime) {
+TEST_F(LocalFiles, HaveTheirSizeAndTime) {
     folder.write("a.txt", "12345");
     EXPECT_EQ(files.GetSize(path("A.TXT")), 5);
     files.SetDateLastModified(path("a.txt"), 1'234'567'890'123'456'789);
@@ -114,7 +114,7 @@ TEST_F(LocalFiles, MeasureFilesAndTellTheirTime) {
     EXPECT_EQ(files.GetDateLastModified(path("a.txt")), -1);
 }
 
-TEST_F(LocalFiles, WhatIsNotThereIsError53) {
+TEST_F(LocalFiles, AMissingFileIsError53) {
     for (const auto& absent : {path("absent"), folder.path().string()}) {
         EXPECT_EQ(errorOf([&] { files.GetAttributes(absent); }), 53) << absent;
         EXPECT_EQ(errorOf([&] { files.GetSize(absent); }), 53) << absent;
@@ -129,7 +129,7 @@ TEST_F(LocalFiles, WhatIsNotThereIsError53) {
     EXPECT_EQ(errorOf([&] { files.Files(path("absent")); }), 76);
 }
 
-TEST_F(LocalFiles, ReadLinesAtEveryKindOfEnd) {
+TEST_F(LocalFiles, ReadLinesWithAnyLineEnd) {
     folder.write("a.txt", "one\r\ntwo\nthree\rfour\r\n\r\nlast \x80\x81");
     const auto stream = files.OpenTextFile(path("a.txt"));
     std::vector<std::string> lines;
@@ -140,7 +140,7 @@ TEST_F(LocalFiles, ReadLinesAtEveryKindOfEnd) {
     stream->Close();
 }
 
-TEST_F(LocalFiles, WriteLinesWithCrLfAndEveryByteAsItWas) {
+TEST_F(LocalFiles, WriteLinesWithCrLfAndPreserveBytes) {
     std::string bytes;
     for (int b = 0; b < 256; ++b)
         if (b != '\r' && b != '\n') bytes += static_cast<char>(b);
@@ -156,7 +156,7 @@ TEST_F(LocalFiles, WriteLinesWithCrLfAndEveryByteAsItWas) {
     EXPECT_EQ(errorOf([&] { to->WriteLine("late"); }), 54);
 }
 
-TEST_F(LocalFiles, AStreamThatIsLetGoOfIsWritten) {
+TEST_F(LocalFiles, AReleasedStreamIsWritten) {
     files.CreateTextFile(path("out.txt"), false)->WriteLine("x");
     EXPECT_EQ(folder.read("out.txt"), "x\r\n");
 }
@@ -175,7 +175,7 @@ TEST_F(LocalFiles, CreatingAFileHasTheErrorsOfScripts) {
     EXPECT_EQ(folder.read("a.txt"), "x");
 }
 
-TEST_F(LocalFiles, WhatCouldNotBeStoredIsReportedByClose) {
+TEST_F(LocalFiles, CloseReportsAFailedWrite) {
     std::filesystem::create_directory(folder / "sub");
     const auto stream = files.CreateTextFile(path("sub/a.txt"), true);
     stream->WriteLine("x");
@@ -183,7 +183,7 @@ TEST_F(LocalFiles, WhatCouldNotBeStoredIsReportedByClose) {
     EXPECT_NE(errorOf([&] { stream->Close(); }), 0);
 }
 
-TEST_F(LocalFiles, CopiesReplaceTheWholeFileAndTakeItsTime) {
+TEST_F(LocalFiles, CopiesReplaceTheWholeFileAndKeepItsTime) {
     folder.write("from.txt", "new bytes"), folder.write("To.txt", "old");
     files.SetDateLastModified(path("from.txt"), 1'000'000'000'000'000'001);
     setMode("from.txt", 0755);
@@ -202,7 +202,7 @@ TEST_F(LocalFiles, CopiesReplaceTheWholeFileAndTakeItsTime) {
     EXPECT_THAT(files.Files(folder.path().string()), testing::ElementsAre("fresh", "from.txt", "To.txt"));
 }
 
-TEST_F(LocalFiles, ACopyThatMayNotBeMadeLeavesTheDestination) {
+TEST_F(LocalFiles, ARefusedCopyLeavesTheDestination) {
     folder.write("from.txt", "new"), folder.write("to.txt", "old");
     EXPECT_EQ(errorOf([&] { files.CopyFile(path("from.txt"), path("to.txt"), false); }), 58);
     setMode("to.txt", 0444);
@@ -213,7 +213,7 @@ TEST_F(LocalFiles, ACopyThatMayNotBeMadeLeavesTheDestination) {
     EXPECT_EQ(folder.read("to.txt"), "old");
 }
 
-TEST_F(LocalFiles, DeletingSparesReadOnlyFilesUnlessForced) {
+TEST_F(LocalFiles, DeletingKeepsReadOnlyFilesUnlessForced) {
     folder.write("a.txt", "x");
     setMode("a.txt", 0444);
     EXPECT_EQ(errorOf([&] { files.DeleteFile(path("a.txt"), false); }), 70);
@@ -222,13 +222,13 @@ TEST_F(LocalFiles, DeletingSparesReadOnlyFilesUnlessForced) {
     EXPECT_FALSE(files.FileExists(path("a.txt")));
 }
 
-TEST_F(LocalFiles, ListsAreSortedWithoutRegardToLetterCase) {
+TEST_F(LocalFiles, ListsAreSortedIgnoringCase) {
     for (const auto* name : {"b", "A", "c", "B", "\xC3\xA4"}) folder.write(name, "");
     std::filesystem::create_directory(folder / "folder");
     EXPECT_THAT(files.Files(folder.path().string()), testing::ElementsAre("A", "B", "b", "c", "\xC3\xA4"));
 }
 
-TEST_F(LocalFiles, TheTemporaryFolderIsPrivateAndGoesWithUs) {
+TEST_F(LocalFiles, TheTemporaryFolderIsPrivateAndDeletedAtTheEnd) {
     std::string temporary;
     {
         host::FileSystem ours;

@@ -47,7 +47,7 @@ struct GivenEnvironment : Environment {
 
 } // namespace
 
-TEST_F(InstalledRegistry, ServesTheInstallationsValuesWithoutAStore) {
+TEST_F(InstalledRegistry, HasTheInstallationsValuesWithoutAStore) {
     install("a.reg", "[HKEY_LOCAL_MACHINE\\SOFTWARE\\Quinloft]\r\n\"RootDir\"=\"%RootDir%\"\r\n"
                      "\"Two\"=\"%RootDir%/a;%RootDir%/b\"\r\n");
     install("b.reg", "[HKEY_CLASSES_ROOT\\A.B\\CLSID]\r\n@=\"{1}\"\r\n");
@@ -73,7 +73,7 @@ TEST_F(InstalledRegistry, TheMachinesStoreHidesTheLayerAndMergesWithIt) {
                      "HKEY_LOCAL_MACHINE\\K\\B/\nHKEY_LOCAL_MACHINE\\K\\B/\n");
 }
 
-TEST_F(InstalledRegistry, WhatIsInstalledCanNotBeDeleted) {
+TEST_F(InstalledRegistry, InstalledValuesCannotBeDeleted) {
     install("a.reg", "[HKEY_LOCAL_MACHINE\\K]\n\"one\"=\"1\"\n");
     ASSERT_EQ(set(HKEY_LOCAL_MACHINE, "K", "own", "x"), 0);
     ASSERT_EQ(set(HKEY_LOCAL_MACHINE, "K\\Sub", "own", "x"), 0);
@@ -86,7 +86,7 @@ TEST_F(InstalledRegistry, WhatIsInstalledCanNotBeDeleted) {
     EXPECT_EQ(store.RegDeleteKey(HKEY_LOCAL_MACHINE, "K\\Sub"), 0);
 }
 
-TEST_F(InstalledRegistry, AFaultyFileIsNamedAndTheOthersCount) {
+TEST_F(InstalledRegistry, AnInvalidFileIsReportedAndTheOthersCount) {
     install("a.reg", "[HKEY_LOCAL_MACHINE\\K\nbroken");
     install("b.reg", "[HKEY_CURRENT_USER\\K]\n[HKEY_LOCAL_MACHINE\\K]\n\"one\"=\"1\"\n");
     EXPECT_EQ(get(HKEY_LOCAL_MACHINE, "K", "one"), "1");
@@ -102,7 +102,7 @@ TEST_F(InstalledRegistry, ReadsTheShippedInstallation) {
     EXPECT_EQ(shipped.RegOpenKeyEx(HKEY_LOCAL_MACHINE, "Software\\Quinloft", KEY_QUERY_VALUE, key), 0);
 }
 
-TEST_F(InstalledRegistry, ImportsWhatWasExported) {
+TEST_F(InstalledRegistry, ImportsExportedFiles) {
     importText("[HKCU\\Software\\A]\n\"s\"=\"text\"\n\"d\"=dword:5\n[HKCU\\Software\\A\\B]\n@=hex:01\n");
     const auto out = host::exportRegistry(store, "hkcu\\Software\\A");
     const auto bytes = host::writeRegText(out, host::RegTextEncoding::Utf16);
@@ -113,7 +113,7 @@ TEST_F(InstalledRegistry, ImportsWhatWasExported) {
               bytes);
 }
 
-TEST_F(InstalledRegistry, AnImportThatFailsChangesNothing) {
+TEST_F(InstalledRegistry, AFailedImportChangesNothing) {
     auto err = basic::attempt([&] { importText("[HKCU\\A]\n\"good\"=\"1\"\n[HKEY_USERS\\A]\n"); });
     EXPECT_EQ(err.Number, 5);
     EXPECT_EQ(err.Description, "in.reg:4: HKEY_USERS\\A: there is no such root key");
@@ -123,7 +123,7 @@ TEST_F(InstalledRegistry, AnImportThatFailsChangesNothing) {
     EXPECT_EQ(get(HKEY_CURRENT_USER, "A", "good"), "status 2");
 }
 
-TEST_F(InstalledRegistry, AnImportIntoAStoreThatMayNotBeWrittenIsDenied) {
+TEST_F(InstalledRegistry, AnImportIntoAReadOnlyStoreIsDenied) {
     folder.write("machine", "a file where the folder should be");
     const auto err = basic::attempt([&] { importText("[HKLM\\A]\n"); });
     EXPECT_EQ(err.Number, 70);

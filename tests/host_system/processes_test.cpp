@@ -12,7 +12,7 @@ namespace {
 
 class RunningProcesses : public testing::Test {
 protected:
-    /// What RunProcess makes of a step: -1 when it could not be started.
+    /// Runs a step like RunProcess: -1 if it cannot be started.
     std::int32_t run(const std::string& commandLine) { return runIn(commandLine, folder.path().string()); }
     std::int32_t runIn(const std::string& commandLine, const std::string& in) {
         std::uint32_t process = 0;
@@ -46,7 +46,7 @@ TEST_F(RunningProcesses, GiveTheExitCode) {
     EXPECT_EQ(run("sh -c \"kill -9 $$\""), 137);
 }
 
-TEST_F(RunningProcesses, WhatCanNotBeStartedIsMinusOne) {
+TEST_F(RunningProcesses, AMissingProgramGivesMinusOne) {
     EXPECT_EQ(run("no-such-program-anywhere x"), -1);
     EXPECT_EQ(run(""), -1);
     EXPECT_EQ(run("  "), -1);
@@ -66,16 +66,16 @@ TEST_F(RunningProcesses, ThereIsNoShell) {
     EXPECT_EQ(run("exit 0"), -1);
 }
 
-TEST_F(RunningProcesses, RunInTheirFolderWithTheirProgramFoundThere) {
+TEST_F(RunningProcesses, RunInTheirFolderAndFindProgramsThere) {
     script("Tools/My Step.sh", "#!/bin/sh\npwd > where\nexit 3\n");
     EXPECT_EQ(run("\"tools\\my step.sh\""), 3);
-    EXPECT_EQ(run("Tools\\My Step.sh"), 3); // a name with blanks needs no marks when there is such a file
+    EXPECT_EQ(run("Tools\\My Step.sh"), 3); // a name with blanks needs no quotes if the file exists
     EXPECT_EQ(folder.read("where"), folder.path().string() + "\n");
     script("local-step", "#!/bin/sh\nexit 4\n");
     EXPECT_EQ(run("local-step"), 4);
 }
 
-TEST_F(RunningProcesses, HaveNothingToReadAndWriteToStandardError) {
+TEST_F(RunningProcesses, HaveEmptyInputAndWriteToStandardError) {
     testing::internal::CaptureStdout();
     testing::internal::CaptureStderr();
     EXPECT_EQ(run("sh -c \"cat; echo out; echo err >&2\""), 0);
@@ -83,7 +83,7 @@ TEST_F(RunningProcesses, HaveNothingToReadAndWriteToStandardError) {
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "out\nerr\n");
 }
 
-TEST_F(RunningProcesses, WhatMayNotRunCouldNotBeStarted) {
+TEST_F(RunningProcesses, AForbiddenProgramIsNotStarted) {
     allowed = false;
     EXPECT_EQ(run("touch ran"), -1);
     EXPECT_EQ(asked, "touch ran in " + folder.path().string());
@@ -96,7 +96,7 @@ TEST_F(RunningProcesses, UnknownHandlesFail) {
     EXPECT_FALSE(processes.GetExitCodeProcess(99, code));
 }
 
-TEST_F(RunningProcesses, OneThatRunsSaysSo) {
+TEST_F(RunningProcesses, ARunningProcessIsStillActive) {
     std::uint32_t process = 0;
     std::int32_t code = 0;
     ASSERT_TRUE(processes.CreateProcess("sleep 0.2", folder.path().string(), 0, process));
@@ -107,7 +107,7 @@ TEST_F(RunningProcesses, OneThatRunsSaysSo) {
     EXPECT_EQ(code, 0);
 }
 
-TEST_F(RunningProcesses, OneWhoseEndIsThrownAwayCountsAsFailed) {
+TEST_F(RunningProcesses, AnUnknownExitStatusCountsAsFailed) {
     const auto before = ::signal(SIGCHLD, SIG_IGN);
     EXPECT_EQ(run("true"), -1);
     ::signal(SIGCHLD, before);
@@ -117,12 +117,12 @@ namespace {
 
 volatile sig_atomic_t interrupted = 0;
 
-/// A child that waits for a step; it ends with 50 when the interrupt ended the step, with 51 when it had to be killed.
+/// A child that waits for a step. Its exit code is 50 if the interrupt ended the step, 51 if the step had to be killed.
 pid_t waitForStepInAChild(const std::string& step, const std::string& in) {
     const auto child = ::fork();
     if (child != 0) return child;
     ::signal(SIGINT, [](int) { interrupted = 1; });
-    // the interrupt may come before the wait begins
+    // the interrupt may arrive before the wait begins
     host::Processes processes{[](const auto&, const auto&) { return true; }, [] { return interrupted != 0; }};
     std::uint32_t process = 0;
     std::int32_t code = 0;
@@ -143,7 +143,7 @@ void waitForFile(const std::filesystem::path& file) {
         std::this_thread::sleep_for(std::chrono::milliseconds(10));
 }
 
-/// A process that has ended may wait for its parent to look: a zombie runs no more.
+/// A zombie, which its parent has not yet waited for, is not running.
 bool isGone(pid_t process) {
     for (int i = 0; i < 200; ++i) {
         std::ifstream status("/proc/" + std::to_string(process) + "/stat");
@@ -156,7 +156,7 @@ bool isGone(pid_t process) {
 
 } // namespace
 
-TEST_F(RunningProcesses, AnInterruptEndsTheStepAndAllThatItStarted) {
+TEST_F(RunningProcesses, AnInterruptEndsTheStepAndItsChildren) {
     script("step", "#!/bin/sh\ntouch started\nsleep 60 &\necho $! > sleeper\nwait\n");
     const auto child = waitForStepInAChild("./step", folder.path().string());
     waitForFile(folder / "sleeper");

@@ -66,7 +66,7 @@ TEST(RegText, ContinuesHexDataOverLines) {
     EXPECT_EQ(valueOf("hex:\\\n  01"), (host::RegValue{3, "\x01"}));
 }
 
-TEST(RegText, TakesUtf16AndUtf8WithEveryLineEnd) {
+TEST(RegText, ReadsUtf16AndUtf8WithAnyLineEnd) {
     const auto text =
         "Windows Registry Editor Version 5.00\n[HKEY_CURRENT_USER\\\xC3\xA4]\r\"a\"=\"\xE2\x82\xAC\"\r\n"s;
     const auto utf16 = host::utf16BytesFromUtf8(text).value();
@@ -79,7 +79,7 @@ TEST(RegText, TakesUtf16AndUtf8WithEveryLineEnd) {
     }
 }
 
-TEST(RegText, NamesTheLineAndTheReasonOfEveryError) {
+TEST(RegText, ReportsTheLineAndTheReasonOfEveryError) {
     EXPECT_EQ(regErrorOf(""), "a.reg:1: the first line is not \"Windows Registry Editor Version 5.00\"");
     EXPECT_EQ(regErrorOf("REGEDIT4\r\n"), "a.reg:1: the first line is not \"Windows Registry Editor Version 5.00\"");
     EXPECT_EQ(regErrorOf("\xFE\xFF\0W"s), "a.reg:1: UTF-16 in big-endian byte order is not a registry file");
@@ -113,7 +113,7 @@ TEST(RegText, NamesTheLineAndTheReasonOfEveryError) {
     EXPECT_EQ(bodyError("[A]\n@=hex(1):00,d8"), "a.reg:4: the bytes are not UTF-16 text");
 }
 
-TEST(RegText, WritesWhatRegistryEditorsWrite) {
+TEST(RegText, WritesLikeRegistryEditors) {
     const std::vector<RegInstruction> all{
         {Kind::MakeKey, "HKEY_CURRENT_USER\\A", "", {}, 0},
         {Kind::SetValue, "HKEY_CURRENT_USER\\A", "", {1, "say \"C:\\\"\0"s}, 0},
@@ -135,7 +135,7 @@ TEST(RegText, WritesWhatRegistryEditorsWrite) {
               "\r\n[-HKEY_CURRENT_USER\\Old]\r\n\r\n");
 }
 
-TEST(RegText, ReadsBackWhatItWroteInBothEncodings) {
+TEST(RegText, RoundTripsInBothEncodings) {
     std::vector<RegInstruction> all{{Kind::MakeKey, "HKEY_CURRENT_USER\\\xC3\xA4]", "", {}, 0}};
     const std::vector<host::RegValue> values{{0, "x"},         {1, ""},
                                              {1, "a"},         {1, "\0"s},

@@ -56,7 +56,7 @@ protected:
     std::uint32_t type = 0;
 };
 
-/// A store on its own, as another process would have it.
+/// An independent store, as in another process.
 struct OtherProcess : host::RegistryStore {
     using RegistryStore::RegistryStore;
 };
@@ -65,7 +65,7 @@ const std::string kPrefs = "SOFTWARE\\Quinloft\\AddinPrefs";
 
 } // namespace
 
-TEST_F(RegistryFunctions, ReadingMakesNoFiles) {
+TEST_F(RegistryFunctions, ReadingCreatesNoFiles) {
     EXPECT_EQ(open(HKEY_CURRENT_USER, kPrefs), 0u);
     EXPECT_EQ(status, 2);
     EXPECT_EQ(open(HKEY_LOCAL_MACHINE, kPrefs, KEY_ALL_ACCESS), 0u);
@@ -88,7 +88,7 @@ TEST_F(RegistryFunctions, KeepValuesForAnotherProcess) {
     EXPECT_EQ(length, 2u);
 }
 
-TEST_F(RegistryFunctions, CreateTellsNewFromExisting) {
+TEST_F(RegistryFunctions, CreateDistinguishesNewFromExisting) {
     std::uint32_t key = 0, disposition = 0;
     EXPECT_EQ(store.RegCreateKeyEx(HKEY_CURRENT_USER, "A\\B", 15, key, disposition), 0);
     EXPECT_EQ(disposition, 1u);
@@ -97,7 +97,7 @@ TEST_F(RegistryFunctions, CreateTellsNewFromExisting) {
     EXPECT_EQ(subkeys(HKEY_CURRENT_USER), std::vector<std::string>{"A"});
 }
 
-TEST_F(RegistryFunctions, AskingForTheSizeAnswersMoreData) {
+TEST_F(RegistryFunctions, QueryingTheSizeReturnsMoreData) {
     const auto key = create(HKEY_CURRENT_USER, "A");
     set(key, "v", "text");
     std::string none;
@@ -113,7 +113,7 @@ TEST_F(RegistryFunctions, AskingForTheSizeAnswersMoreData) {
     EXPECT_EQ(roomy, "text\0??"s);
 }
 
-TEST_F(RegistryFunctions, AnEmptyValueAnswersSuccessAtOnce) {
+TEST_F(RegistryFunctions, QueryingAnEmptyValueReturnsSuccess) {
     const auto key = create(HKEY_CURRENT_USER, "A");
     ASSERT_EQ(store.RegSetValueEx(key, "v", REG_SZ, ""), 0);
     std::string none;
@@ -146,12 +146,12 @@ TEST_F(RegistryFunctions, FoldCaseBySimpleFoldingAndKeepTheSpelling) {
     EXPECT_NE(open(HKEY_CURRENT_USER, "STRA\xE1\xBA\x9E"
                                       "E"),
               0u);                                     // capital sharp s
-    EXPECT_EQ(open(HKEY_CURRENT_USER, "STRASSE"), 0u); // which full folding would find
+    EXPECT_EQ(open(HKEY_CURRENT_USER, "STRASSE"), 0u); // full folding would find it
     set(key, "I", "plain");
-    EXPECT_EQ(get(key, "\xC4\xB1"), "status 2"); // the dotless i of another locale's rules
+    EXPECT_EQ(get(key, "\xC4\xB1"), "status 2"); // dotless i, folded only by Turkic rules
 }
 
-TEST_F(RegistryFunctions, EnumerateKeysByNameAndValuesAsTheyCame) {
+TEST_F(RegistryFunctions, EnumerateKeysByNameAndValuesInOrder) {
     const auto key = create(HKEY_CURRENT_USER, "A");
     for (const auto* name : {"b", "C", "a"}) create(key, name), set(key, name, "x");
     EXPECT_EQ(subkeys(key), (std::vector<std::string>{"a", "b", "C"}));
@@ -160,7 +160,7 @@ TEST_F(RegistryFunctions, EnumerateKeysByNameAndValuesAsTheyCame) {
     EXPECT_EQ(status, 259);
 }
 
-TEST_F(RegistryFunctions, AnEnumerationSeesWhatWasWrittenMeanwhile) {
+TEST_F(RegistryFunctions, AnEnumerationSeesLaterWrites) {
     const auto key = create(HKEY_CURRENT_USER, "A");
     set(key, "one", "1"), set(key, "two", "2");
     EXPECT_EQ(values(key).size(), 2u);
@@ -169,7 +169,7 @@ TEST_F(RegistryFunctions, AnEnumerationSeesWhatWasWrittenMeanwhile) {
     EXPECT_EQ(store.RegEnumValue(key, 1, name, type, data), 259);
 }
 
-TEST_F(RegistryFunctions, QueryInfoCountsAndMeasures) {
+TEST_F(RegistryFunctions, QueryInfoReturnsCountsAndLengths) {
     const auto key = create(HKEY_CURRENT_USER, "A");
     create(key, "long name"), create(key, "b");
     set(key, "name", "12345");
@@ -182,7 +182,7 @@ TEST_F(RegistryFunctions, QueryInfoCountsAndMeasures) {
     EXPECT_EQ(info.longestValueData, 6u);
 }
 
-TEST_F(RegistryFunctions, HandlesCarryTheirAccess) {
+TEST_F(RegistryFunctions, HandlesHaveAccessRights) {
     set(create(HKEY_CURRENT_USER, "A"), "v", "x");
     std::string name, data;
     const auto writer = open(HKEY_CURRENT_USER, "A", KEY_SET_VALUE);
@@ -195,7 +195,7 @@ TEST_F(RegistryFunctions, HandlesCarryTheirAccess) {
     EXPECT_EQ(store.RegDeleteValue(reader, "v"), 5);
 }
 
-TEST_F(RegistryFunctions, WrongHandlesAndNamesHaveTheirStatus) {
+TEST_F(RegistryFunctions, InvalidHandlesAndNamesHaveTheirStatus) {
     const auto key = create(HKEY_CURRENT_USER, "A");
     EXPECT_EQ(store.RegCloseKey(key), 0);
     EXPECT_EQ(store.RegCloseKey(key), 6);
@@ -213,7 +213,7 @@ TEST_F(RegistryFunctions, WrongHandlesAndNamesHaveTheirStatus) {
     EXPECT_EQ(store.RegSetValueEx(again, "v", REG_SZ, "\xE4\0"s), 87);
 }
 
-TEST_F(RegistryFunctions, DeletingAKeyTakesAllBelowAndEndsItsHandles) {
+TEST_F(RegistryFunctions, DeletingAKeyDeletesItsSubtreeAndInvalidatesItsHandles) {
     const auto inner = create(HKEY_CURRENT_USER, "A\\B\\C");
     set(inner, "v", "x");
     EXPECT_EQ(store.RegDeleteKey(HKEY_CURRENT_USER, "a\\b"), 0);
@@ -235,7 +235,7 @@ TEST_F(RegistryFunctions, ClassesRootIsTheMachinesClasses) {
     EXPECT_FALSE(std::filesystem::exists(folder / "config"));
 }
 
-TEST_F(RegistryFunctions, AMachineStoreThatMayNotBeWrittenIsReadAllTheSame) {
+TEST_F(RegistryFunctions, AReadOnlyMachineStoreIsReadable) {
     set(create(HKEY_LOCAL_MACHINE, kPrefs), "StartTutorial", "True");
     std::filesystem::permissions(folder / "machine/machine.sqlite", std::filesystem::perms(0444));
     std::filesystem::permissions(folder / "machine", std::filesystem::perms(0555));
@@ -257,7 +257,7 @@ TEST_F(RegistryFunctions, AUserWithoutRightsOnTheMachineStoreReadsIt) {
     std::filesystem::permissions(folder.path(), std::filesystem::perms(0755));
     std::filesystem::permissions(folder / "machine", std::filesystem::perms(0755));
     std::filesystem::permissions(folder / "machine/machine.sqlite", std::filesystem::perms(0644));
-    store.~RegistryStore(); // the writer is gone, and its lock files with it
+    store.~RegistryStore(); // closes the writer and removes its lock files
     new (&store) host::RegistryStore(places);
     if (::getuid() != 0) GTEST_SKIP() << "needs root to become another user";
     const auto child = ::fork();
@@ -275,7 +275,7 @@ TEST_F(RegistryFunctions, AUserWithoutRightsOnTheMachineStoreReadsIt) {
     EXPECT_EQ(WEXITSTATUS(ended), 5);
 }
 
-TEST_F(RegistryFunctions, AMachineStoreThatCannotBeMadeDeniesAccess) {
+TEST_F(RegistryFunctions, AnUnwritableMachineStoreDeniesAccess) {
     folder.write("file", "");
     OtherProcess other{{folder / "config", folder / "file/machine", {}}};
     std::uint32_t key = 0, disposition = 0;
@@ -294,7 +294,7 @@ TEST_F(RegistryFunctions, AForeignOrDamagedFileHasItsStatus) {
     EXPECT_EQ(folder.read("config/fernwick/user.sqlite"), "");
 }
 
-TEST_F(RegistryFunctions, ATornDatabaseHasItsStatus) {
+TEST_F(RegistryFunctions, ATruncatedDatabaseHasItsStatus) {
     {
         OtherProcess writer{places};
         std::uint32_t key = 0, disposition = 0;

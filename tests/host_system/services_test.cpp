@@ -24,7 +24,7 @@ TEST(LocalEnvironment, IsThatOfTheProcess) {
     EXPECT_EQ(basic::attempt([&] { environment.SetEnvironmentVariable("", "c"); }).Number, 5);
 }
 
-TEST(LocalClock, TellsTheTimeOfTheSystem) {
+TEST(LocalClock, HasTheTimeOfTheSystem) {
     const host::Clock clock;
     const auto expected = std::chrono::system_clock::now().time_since_epoch();
     EXPECT_NEAR(double(clock.Now()), double(std::chrono::nanoseconds(expected).count()), 5e9);
@@ -33,7 +33,7 @@ TEST(LocalClock, TellsTheTimeOfTheSystem) {
     EXPECT_GE(clock.Monotonic() - before, 2'000'000);
 }
 
-TEST(PrivateClipboard, KeepsFormatsInTheirOrder) {
+TEST(PrivateClipboard, KeepsTheOrderOfFormats) {
     host::Clipboard clipboard;
     clipboard.SetData("text", "a"), clipboard.SetData("image", std::string("\0b", 2)), clipboard.SetData("text", "c");
     EXPECT_THAT(clipboard.Formats(), ElementsAre("text", "image"));
@@ -44,7 +44,7 @@ TEST(PrivateClipboard, KeepsFormatsInTheirOrder) {
     EXPECT_THAT(clipboard.Formats(), testing::IsEmpty());
 }
 
-TEST(LocalScreen, HasFifteenTwipsAPixel) {
+TEST(LocalScreen, HasFifteenTwipsPerPixel) {
     const host::Screen screen;
     EXPECT_EQ(screen.TwipsPerPixelX(), 15);
     EXPECT_EQ(screen.TwipsPerPixelY(), 15);
@@ -52,7 +52,7 @@ TEST(LocalScreen, HasFifteenTwipsAPixel) {
 
 namespace {
 
-/// Fontconfig with just the fonts that a test gives it, and a rule that offers a substitute for any family.
+/// Fontconfig with only the fonts of a test and a rule that substitutes any family.
 class ScreenFonts : public testing::Test {
 protected:
     void SetUp() override {
@@ -71,13 +71,13 @@ protected:
 
 } // namespace
 
-TEST_F(ScreenFonts, ExistByTheirExactFamilyOnly) {
+TEST_F(ScreenFonts, ExistOnlyUnderTheirExactFamily) {
     const host::Screen screen;
     if (!std::filesystem::exists("/usr/share/fonts/truetype/dejavu")) GTEST_SKIP() << "fonts-dejavu-core is missing";
     EXPECT_TRUE(screen.FontFamilyExists("DejaVu Sans"));
     EXPECT_TRUE(screen.FontFamilyExists("dejavu sans"));
     EXPECT_FALSE(screen.FontFamilyExists("DejaVu"));
-    EXPECT_FALSE(screen.FontFamilyExists("Tahoma")); // a substitute does not count
+    EXPECT_FALSE(screen.FontFamilyExists("Tahoma")); // substitutes do not count
     EXPECT_FALSE(screen.FontFamilyExists("QLPalm"));
     EXPECT_FALSE(screen.FontFamilyExists(""));
 }
@@ -102,22 +102,22 @@ protected:
 
     TempFolder folder;
     host::FileSystem files;
-    std::vector<std::string> told;
-    host::Shell shell{files, [this](const std::string& document) { told.push_back(document); }};
+    std::vector<std::string> reported;
+    host::Shell shell{files, [this](const std::string& document) { reported.push_back(document); }};
 };
 
 } // namespace
 
-TEST_F(LocalShell, TellsTheAddressWhereThereIsNoDesktop) {
+TEST_F(LocalShell, ReportsTheAddressWithoutADesktop) {
     folder.write("Doc/Page.html", "");
     shell.Open("http://www.example.com/");
     shell.Open(path("doc\\page.html"));
     shell.Open(path("Doc"));
-    EXPECT_THAT(told, ElementsAre("http://www.example.com/", path("Doc/Page.html"), path("Doc")));
+    EXPECT_THAT(reported, ElementsAre("http://www.example.com/", path("Doc/Page.html"), path("Doc")));
     EXPECT_EQ(basic::attempt([&] { shell.Open(path("absent.html")); }).Number, 53);
 }
 
-TEST_F(LocalShell, OpensWithTheDesktopsOpener) {
+TEST_F(LocalShell, OpensDocumentsWithXdgOpen) {
     script("bin/xdg-open", "echo \"$1\" > '" + path("opened") + "'\n");
     const std::string before = std::getenv("PATH");
     ::setenv("PATH", (path("bin") + ":" + before).c_str(), 1);
@@ -125,30 +125,30 @@ TEST_F(LocalShell, OpensWithTheDesktopsOpener) {
     shell.Open("http://www.example.com/a b?c=$d");
     ::setenv("PATH", before.c_str(), 1);
     EXPECT_EQ(waitFor("opened"), "http://www.example.com/a b?c=$d\n");
-    EXPECT_TRUE(told.empty());
+    EXPECT_TRUE(reported.empty());
 }
 
-TEST_F(LocalShell, HelpOpensThePageBesideTheHelpFile) {
+TEST_F(LocalShell, HelpOpensThePageNextToTheHelpFile) {
     folder.write("VB Toolkit/doc/Guide.chm", "see Guide.html");
     folder.write("VB Toolkit/doc/Guide.html", "");
     shell.Start("Hh.exe " + path("VB Toolkit\\doc\\Guide.chm"));
-    EXPECT_THAT(told, ElementsAre(path("VB Toolkit/doc/Guide.html")));
+    EXPECT_THAT(reported, ElementsAre(path("VB Toolkit/doc/Guide.html")));
     EXPECT_EQ(basic::attempt([&] { shell.Start("Hh.exe " + path("Other.chm")); }).Number, 53);
 }
 
-TEST_F(LocalShell, AHelpFileThatIsOpenedShowsItsFirstPage) {
+TEST_F(LocalShell, OpeningAHelpFileShowsItsFirstPage) {
     folder.write("doc/Guide.chm", "see Guide.html");
     EXPECT_EQ(basic::attempt([&] { shell.Open(path("doc/Guide.chm")); }).Number, 53);
     folder.write("doc/Guide.html", "");
     shell.Open(path("doc\\GUIDE.CHM"));
-    EXPECT_THAT(told, ElementsAre(path("doc/Guide.html")));
+    EXPECT_THAT(reported, ElementsAre(path("doc/Guide.html")));
     EXPECT_EQ(basic::attempt([&] { shell.Open(path("Other.chm")); }).Number, 53);
 }
 
 TEST_F(LocalShell, HelpOpensTheNamedPageOfAHelpFile) {
     folder.write("VB Toolkit/doc/Guide_PNG Files.html", "");
     shell.Start("Hh.exe ms-its:" + path("vb toolkit\\doc\\Guide.chm") + "::/Guide_PNG Files.html");
-    EXPECT_THAT(told, ElementsAre(path("VB Toolkit/doc/Guide_PNG Files.html")));
+    EXPECT_THAT(reported, ElementsAre(path("VB Toolkit/doc/Guide_PNG Files.html")));
     const auto absent = "Hh.exe ms-its:" + path("VB Toolkit\\doc\\Guide.chm") + "::/Other.html";
     EXPECT_EQ(basic::attempt([&] { shell.Start(absent); }).Number, 53);
 }
@@ -158,13 +158,13 @@ TEST_F(LocalShell, HelpOpensThePageOfAContext) {
     folder.write("doc/Codes/1042.html", "");
     shell.Start("Hh.exe -mapid 1042 " + path("doc\\Codes.chm"));
     shell.Start("Hh.exe -mapid 1042 \"" + path("doc\\Codes.chm") + "\"");
-    EXPECT_THAT(told, ElementsAre(path("doc/Codes/1042.html"), path("doc/Codes/1042.html")));
+    EXPECT_THAT(reported, ElementsAre(path("doc/Codes/1042.html"), path("doc/Codes/1042.html")));
 }
 
 TEST_F(LocalShell, AContextWithoutAPageOpensTheFirstOne) {
     folder.write("doc/Codes.html", "");
     shell.Start("Hh.exe -mapid 7 " + path("doc\\Codes.chm"));
-    EXPECT_THAT(told, ElementsAre(path("doc/Codes.html")));
+    EXPECT_THAT(reported, ElementsAre(path("doc/Codes.html")));
     EXPECT_EQ(basic::attempt([&] { shell.Start("Hh.exe -mapid 7"); }).Number, 53);
 }
 
@@ -176,8 +176,8 @@ TEST_F(LocalShell, HelpOpensThePagesOfTheInstallation) {
     shell.Start("Hh.exe ms-its:" + root +
                 "\\VB Toolkit\\doc\\Quinloft_Tamarik_and_Components.chm::/"
                 "Quinloft_Tamarik_and_Components_Tamarik And PNG Files.html");
-    EXPECT_THAT(told, ElementsAre(doc + "Quinloft_Error_Codes/1300.html", doc + "Quinloft_Error_Codes.html",
-                                  doc + "Quinloft_Tamarik_and_Components_Tamarik And PNG Files.html"));
+    EXPECT_THAT(reported, ElementsAre(doc + "Quinloft_Error_Codes/1300.html", doc + "Quinloft_Error_Codes.html",
+                                      doc + "Quinloft_Tamarik_and_Components_Tamarik And PNG Files.html"));
 }
 
 TEST_F(LocalShell, ProgramsMayBeInstalledWithoutTheirExtension) {

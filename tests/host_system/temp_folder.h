@@ -1,5 +1,5 @@
 #pragma once
-// A folder for one test, gone with it.
+// A temporary folder for one test.
 #include <filesystem>
 #include <fstream>
 #include <iterator>

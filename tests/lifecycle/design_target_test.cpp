@@ -36,7 +36,7 @@ TEST_F(DesignTarget, ListsOneRowAPlatformByItsName) {
     show([&] { EXPECT_EQ(chooseTarget.lstQuickDesignTargets.ListCount(), 2); });
 }
 
-TEST_F(DesignTarget, OKWaitsForARow) {
+TEST_F(DesignTarget, OKNeedsARow) {
     show([&] {
         EXPECT_FALSE(chooseTarget.btnOK.Enabled());
         chooseTarget.lstQuickDesignTargets.ListIndex(1);

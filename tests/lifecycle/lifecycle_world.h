@@ -1,16 +1,16 @@
 #pragma once
-// Projects that are opened and closed, over a host in memory whose menu and toolbars are built.
+// Projects are opened and closed in a host in memory whose menu and toolbars have been built.
 #include "tests/support/add_in_world.h"
 
 namespace test {
 
-/// The open projects of the host. A project is this system's own unless its device is "none".
+/// The host's open projects. A project is a Fernwick project unless its device is "none".
 struct ProjectsWorld : AddInWorld<> {
     ProjectsWorld() {
         messages.createToolWindow();
         trace.effects.clear();
     }
-    /// An open project that the add-in knows.
+    /// Opens a project that the add-in knows.
     Ref<TracedProject> open(const std::string& name, const std::string& device = "") {
         const auto path = "/p/" + name + ".vbp";
         files.files[path] = {};

@@ -8,7 +8,7 @@ namespace {
 class ProjectRemoval : public testing::Test, protected test::LifecycleWorld {
 protected:
     ProjectRemoval() { removal.Load(); }
-    /// Turns the loop and tells what was done.
+    /// Runs one turn of the loop and returns its effects.
     std::vector<std::string> turn() {
         trace.effects.clear();
         loop.turn();
@@ -26,7 +26,7 @@ TEST_F(ProjectRemoval, WaitsForTheNextTurn) {
     EXPECT_FALSE(loop.hasTimers());
 }
 
-TEST_F(ProjectRemoval, AProjectOfAnotherKindIsDropped) {
+TEST_F(ProjectRemoval, IgnoresAForeignProject) {
     removal.RemoveProject(open("A", "none"), true, "");
     EXPECT_THAT(turn(), IsEmpty());
     EXPECT_THAT(openNames(), ElementsAre("A"));
@@ -42,7 +42,7 @@ TEST_F(ProjectRemoval, AProjectThatIsNotListedIsReportedAndTheNextServed) {
     EXPECT_THAT(openNames(), ElementsAre("Stranger"));
 }
 
-TEST_F(ProjectRemoval, AProjectThatHasGoneIsNotQueued) {
+TEST_F(ProjectRemoval, DoesNotQueueAClosedProject) {
     const auto gone = open("A");
     vbe->removeActive();
     const auto project = open("B");
@@ -52,7 +52,7 @@ TEST_F(ProjectRemoval, AProjectThatHasGoneIsNotQueued) {
     EXPECT_THAT(errors.seen, IsEmpty());
 }
 
-TEST_F(ProjectRemoval, AProjectThatGoesBeforeTheTurnIsLeftAlone) {
+TEST_F(ProjectRemoval, SkipsAProjectClosedBeforeTheTurn) {
     open("Other");
     removal.RemoveProject(open("A"), true, "");
     vbe->removeActive();
@@ -61,21 +61,21 @@ TEST_F(ProjectRemoval, AProjectThatGoesBeforeTheTurnIsLeftAlone) {
     EXPECT_THAT(errors.seen, IsEmpty());
 }
 
-TEST_F(ProjectRemoval, TheOnlyProjectGoesBeforeItsReplacementComes) {
+TEST_F(ProjectRemoval, RemovesASingleProjectBeforeOpeningItsReplacement) {
     const auto project = open("A");
     project->dirty = true;
     removal.RemoveProject(project, true, "/p/B.vbp");
     EXPECT_THAT(turn(), ElementsAre("A dirty 0", "active A", "host: remove project", "open /p/B.vbp alone"));
 }
 
-TEST_F(ProjectRemoval, AmongOthersTheReplacementComesFirst) {
+TEST_F(ProjectRemoval, AmongOthersOpensTheReplacementFirst) {
     open("Other");
     removal.RemoveProject(open("A"), true, "/p/B.vbp");
     EXPECT_THAT(turn(), ElementsAre("open /p/B.vbp", "A dirty 0", "active A", "host: remove project"));
     EXPECT_THAT(openNames(), ElementsAre("Other", "/p/B.vbp"));
 }
 
-TEST_F(ProjectRemoval, AReplacementServesOneProjectOnly) {
+TEST_F(ProjectRemoval, AReplacementIsUsedOnce) {
     open("Other");
     const auto a = open("A"), b = open("B");
     removal.RemoveProject(a, true, "/p/New.vbp");
@@ -84,7 +84,7 @@ TEST_F(ProjectRemoval, AReplacementServesOneProjectOnly) {
                                     "host: remove project"));
 }
 
-TEST_F(ProjectRemoval, WithoutReplacingItKeepsThePathOfTheRequestBefore) {
+TEST_F(ProjectRemoval, WithoutReplacementKeepsTheEarlierPath) {
     open("Other");
     const auto a = open("A");
     removal.RemoveProject(a, true, "/p/New.vbp");
@@ -92,7 +92,7 @@ TEST_F(ProjectRemoval, WithoutReplacingItKeepsThePathOfTheRequestBefore) {
     EXPECT_EQ(turn().front(), "open /p/New.vbp");
 }
 
-TEST_F(ProjectRemoval, TheOldFormatGoesToTheImporter) {
+TEST_F(ProjectRemoval, StartsTheImporterForTheOldFormat) {
     addImporter();
     const auto project = open("A");
     set(project, "ProjectVersion", "1.0");
@@ -110,7 +110,7 @@ TEST_F(ProjectRemoval, WithoutAnImporterTheOldFormatIsJustRemoved) {
     EXPECT_THAT(errors.seen, IsEmpty());
 }
 
-TEST_F(ProjectRemoval, LoadsAProjectInPlaceOfAll) {
+TEST_F(ProjectRemoval, LoadsAProjectInsteadOfAllOthers) {
     removal.LoadExclusiveProject(open("A"), "/p/New.vbp", false);
     EXPECT_THAT(turn(), ElementsAre("active A", "host: remove project", "open /p/New.vbp alone"));
     EXPECT_THAT(openNames(), ElementsAre("/p/New.vbp"));
@@ -127,7 +127,7 @@ TEST_F(ProjectRemoval, EmptiesAProject) {
     EXPECT_FALSE(did("open /p/New.vbp"));
 }
 
-TEST_F(ProjectRemoval, ServesWhatIsAskedForDuringTheTick) {
+TEST_F(ProjectRemoval, ServesRequestsMadeDuringTheTick) {
     const auto stub = open("Stub");
     vbe->projects->opened = [&](const test::Ref<test::TracedProject>& opened) {
         set(opened, "IsQuinloftProject", "True");
@@ -151,7 +151,7 @@ TEST_F(ProjectRemoval, AComponentIsRemovedOnTheNextTurn) {
     EXPECT_FALSE(loop.hasTimers());
 }
 
-TEST_F(ProjectRemoval, AComponentThatIsMissingIsWaitedFor) {
+TEST_F(ProjectRemoval, WaitsForAMissingComponent) {
     const auto project = open("A");
     const auto form = project->add("Form1", "/p/Form1.frm");
     removal.RemoveComponent(project, nullptr);
@@ -160,13 +160,13 @@ TEST_F(ProjectRemoval, AComponentThatIsMissingIsWaitedFor) {
     EXPECT_THAT(turn(), ElementsAre("remove component Form1"));
 }
 
-TEST_F(ProjectRemoval, UnloadedItForgetsItsRequests) {
+TEST_F(ProjectRemoval, UnloadingDiscardsTheRequests) {
     removal.RemoveProject(open("A"), true, "");
     removal.Unload();
     EXPECT_THAT(turn(), IsEmpty());
 }
 
-TEST_F(ProjectRemoval, EachCallThatFailsCostsOnlyItself) {
+TEST_F(ProjectRemoval, AFailingCallLosesOnlyItself) {
     for (int failing = 1;; ++failing) {
         vbe->projects->list.clear();
         projects.ClearProjectsList();

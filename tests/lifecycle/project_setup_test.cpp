@@ -21,7 +21,7 @@ protected:
     }
 };
 
-TEST_F(SetupProject, SwitchesTheInterfaceOnForAValidDevice) {
+TEST_F(SetupProject, EnablesTheInterfaceForAValidDevice) {
     targets.known = {"Palm-1"};
     const auto project = open("A", "Palm-1");
     setUp(project);
@@ -32,7 +32,7 @@ TEST_F(SetupProject, SwitchesTheInterfaceOnForAValidDevice) {
                                            "environment TavletStyle-DAF573D9-3AB3-4672-A6A7-6C23862A52E9", "cursor 1"));
 }
 
-TEST_F(SetupProject, ReadsItsMessagesAndShowsThemAsTheyWere) {
+TEST_F(SetupProject, RestoresTheMessagesWindow) {
     targets.known = {"Palm-1"};
     const auto project = open("A", "Palm-1");
     project->properties[{"Quinloft Project Compile Errors", "NumErrors"}] = "1";
@@ -43,13 +43,13 @@ TEST_F(SetupProject, ReadsItsMessagesAndShowsThemAsTheyWere) {
     EXPECT_TRUE(messages.isToolWindowShowing());
 }
 
-TEST_F(SetupProject, AForeignProjectSwitchesItOff) {
+TEST_F(SetupProject, DisablesTheInterfaceForAForeignProject) {
     setUp(open("A", "none"));
     EXPECT_THAT(trace.effects, ElementsAre("disable menu", "disable toolbar", "disable support toolbar",
                                            "Fernwick Messages hidden", "cursor 1"));
 }
 
-TEST_F(SetupProject, OfTheStartUpProjectNothingMoreIsDone) {
+TEST_F(SetupProject, OnlyActivatesTheStartUpProject) {
     const auto project = open("A");
     set(project, "StartUpProject", "{8A515BDE-2BCC-4ed4-8F0A-99E4522CC1BB}");
     setUp(project);
@@ -80,7 +80,7 @@ TEST_F(SetupProject, AsksAmongSeveralTargets) {
     EXPECT_TRUE(did("enable menu"));
 }
 
-TEST_F(SetupProject, CancelledItSwitchesOffAndKeepsTheProject) {
+TEST_F(SetupProject, CancellingDisablesTheInterfaceAndKeepsTheProject) {
     targets.known = {"Palm-1", "Pocket-2"};
     const auto project = open("A");
     setUp(project);
@@ -90,7 +90,7 @@ TEST_F(SetupProject, CancelledItSwitchesOffAndKeepsTheProject) {
     EXPECT_EQ(project->stored("TargetDevice"), "(none)");
 }
 
-TEST_F(SetupProject, ADeviceThatStoppedBeingValidIsAskedForAgain) {
+TEST_F(SetupProject, AsksAgainForADeviceThatIsNoLongerValid) {
     targets.known = {"Palm-1", "Pocket-2"};
     int shown = 0;
     user.whenShown["frmDesignTargetNormal"] = [&](fernwick::Form&) {
@@ -108,7 +108,7 @@ TEST_F(SetupProject, ADeviceThatStoppedBeingValidIsAskedForAgain) {
     EXPECT_TRUE(did("enable menu"));
 }
 
-TEST_F(SetupProject, WithoutAnyTargetTheProjectIsRemoved) {
+TEST_F(SetupProject, WithoutTargetsRemovesTheProject) {
     const auto project = open("A");
     setUp(project);
     EXPECT_TRUE(did("disable menu"));
@@ -118,7 +118,7 @@ TEST_F(SetupProject, WithoutAnyTargetTheProjectIsRemoved) {
     EXPECT_FALSE(did("A saved /p/A.vbp"));
 }
 
-TEST_F(SetupProject, TargetsThatAreAllRefusedCountAsNone) {
+TEST_F(SetupProject, RefusedTargetsDoNotCount) {
     targets.known = {"Palm-1"};
     targets.refused = {"Palm-1"};
     setUp(open("A", "Palm-1"));
@@ -127,7 +127,7 @@ TEST_F(SetupProject, TargetsThatAreAllRefusedCountAsNone) {
     EXPECT_THAT(openNames(), IsEmpty());
 }
 
-TEST_F(SetupProject, ADeviceThatIsNotHereSwitchesOffAndKeepsTheProject) {
+TEST_F(SetupProject, AnUnavailableDeviceDisablesTheInterfaceAndKeepsTheProject) {
     targets.known = {"Palm-1"};
     setUp(open("A", "Gone-9"));
     EXPECT_TRUE(did("disable menu"));
@@ -143,7 +143,7 @@ TEST_F(SetupProject, LeavingAProjectKeepsItsWindowState) {
     EXPECT_EQ(first->stored("Visible"), "TRUE");
 }
 
-TEST_F(SetupProject, AloneItHasNothingToLeave) {
+TEST_F(SetupProject, ASingleProjectIsNotLeft) {
     targets.known = {"Palm-1"};
     const auto first = open("A", "Palm-1");
     setUp(first);
@@ -152,7 +152,7 @@ TEST_F(SetupProject, AloneItHasNothingToLeave) {
     EXPECT_EQ(first->stored("Visible"), "(none)");
 }
 
-TEST_F(SetupProject, EachCallThatFailsCostsOnlyItself) {
+TEST_F(SetupProject, AFailingCallLosesOnlyItself) {
     targets.known = {"Palm-1"};
     const auto project = open("A", "Palm-1");
     const auto qlProject = projects.GetQLProject(project);
@@ -199,7 +199,7 @@ TEST_F(ProjectManager, DoesNotOpenWhenTheUserCancels) {
                 ElementsAre("box 35 Save Project: Save project before opening Fernwick project manager?"));
 }
 
-TEST_F(ProjectManager, LosesTheChangesWhenTheUserSaysSo) {
+TEST_F(ProjectManager, DiscardsTheChangesWhenTheUserDeclines) {
     const auto project = open("A", "Palm-1");
     project->dirty = true;
     user.answers = {fernwick::vbNo};

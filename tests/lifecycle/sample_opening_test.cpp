@@ -1,4 +1,4 @@
-// A sample takes the place of what is open.
+// A sample replaces the open projects.
 #include "lifecycle_world.h"
 
 using testing::ElementsAre;
@@ -22,7 +22,7 @@ protected:
 
 TEST_F(OpeningASample, WithNothingOpenOnlyOpensIt) { EXPECT_THAT(pick(), ElementsAre("open /s/Tip.vbp alone")); }
 
-TEST_F(OpeningASample, ClosesTheProjectInItsOrder) {
+TEST_F(OpeningASample, ClosesTheProjectInOrder) {
     open("A", "Palm-1");
     EXPECT_THAT(pick(), ElementsAre("active A", "host: remove project", "open /s/Tip.vbp alone"));
 }
@@ -38,7 +38,7 @@ TEST_F(OpeningASample, LetsTheHostRunBeforeAndAfterTheRemoval) {
                 ElementsAre("active A", "first turn", "host: remove project", "second turn", "open /s/Tip.vbp alone"));
 }
 
-TEST_F(OpeningASample, OneThatIsOpenDoesNothing) {
+TEST_F(OpeningASample, DoesNothingForAnOpenSample) {
     const auto project = open("A", "Palm-1");
     project->file = sample.fullPath;
     project->dirty = true;
@@ -52,7 +52,7 @@ TEST_F(OpeningASample, CancelKeepsTheProject) {
     EXPECT_THAT(openNames(), ElementsAre("A"));
 }
 
-TEST_F(OpeningASample, WhatTheUserGivesUpIsNotAskedForAgain) {
+TEST_F(OpeningASample, AsksOnceAboutDiscardedChanges) {
     const auto project = open("A", "Palm-1");
     project->dirty = true;
     user.answers = {fernwick::vbNo};
@@ -68,7 +68,7 @@ TEST_F(OpeningASample, WithoutAPathNamesTheSupport) {
                             "support.example"));
 }
 
-TEST_F(OpeningASample, EachCallThatFailsIsReportedOnce) {
+TEST_F(OpeningASample, AFailingCallIsReportedOnce) {
     for (int failing = 1;; ++failing) {
         vbe->projects->list.clear();
         projects.ClearProjectsList();

@@ -1,5 +1,5 @@
 #pragma once
-// Work in a process of its own, to be killed or to compete with.
+// Runs a function in a separate process.
 #include <functional>
 #include <stdexcept>
 #include <sys/wait.h>
@@ -10,7 +10,7 @@ namespace test {
 
 class OtherProcess {
 public:
-    /// `work` answers the exit status.
+    /// `work` returns the exit status.
     explicit OtherProcess(const std::function<int()>& work) : id_(::fork()) {
         if (id_ < 0) throw std::runtime_error("no process");
         if (id_ == 0) ::_exit(work());
@@ -21,7 +21,7 @@ public:
         if (id_ > 0) wait();
     }
 
-    /// What waitpid tells.
+    /// Returns the status from waitpid.
     int wait() {
         int status = 0;
         ::waitpid(std::exchange(id_, 0), &status, 0);

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Manifests as the product writes them are as their schema says, and the schema refuses what a reader refuses."""
+"""Checks that written manifests match their schema, and that the schema refuses what readers refuse."""
 import copy
 import json
 import pathlib

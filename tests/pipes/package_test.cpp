@@ -1,7 +1,7 @@
-#include "Components/QLPipe/package.h"
-#include "Components/QLPipe/package_writer.h"
-#include "Components/QLPipe/pipe_messages.h"
-#include "Components/QLPipe/sha256.h"
+#include "Components/QLPipe/base/pipe_messages.h"
+#include "Components/QLPipe/base/sha256.h"
+#include "Components/QLPipe/package/package.h"
+#include "Components/QLPipe/package/package_writer.h"
 #include "tests/pipes/pipe_world.h"
 #include "tests/pipes/zip_bytes.h"
 #include <gmock/gmock.h>
@@ -29,7 +29,7 @@ protected:
         bytes.resize(package.bundle().files.at(index).open()->read(bytes));
         return bytes;
     }
-    /// Of the folder of packages.
+    /// Number of files in the folder of packages.
     std::size_t files() const {
         return std::size_t(std::distance(fs::directory_iterator(world.folder / "packages"), fs::directory_iterator()));
     }
@@ -40,7 +40,7 @@ protected:
     bool folder_ = fs::create_directory(world.folder / "packages");
 };
 
-TEST_F(MakePackage, HoldsTheWholeApplication) {
+TEST_F(MakePackage, ContainsTheWholeApplication) {
     project.image().add("Data/Größe.txt", "size").add("empty.txt", "").list("{LIBRARY}", "REF");
     project.list(world.folder.write("Fonts/Small.cmf", "font"), "Small.cmf").icon = world.folder.write("icon", "ico");
     const Package package{make()};
@@ -54,7 +54,7 @@ TEST_F(MakePackage, HoldsTheWholeApplication) {
     EXPECT_THAT(package.bundle().references, ElementsAre("{LIBRARY}"));
 }
 
-TEST_F(MakePackage, BearsTheNamesOfProjectAndDevice) {
+TEST_F(MakePackage, IsNamedAfterProjectAndDevice) {
     EXPECT_EQ(world.package(project.image(), "packages"), world.folder / "packages/Hello.PocketPC-ARM.qlpkg");
     EXPECT_EQ(world.services.record->package, world.folder / "packages/Hello.PocketPC-ARM.qlpkg");
     EXPECT_TRUE(world.services.record->succeeded);
@@ -62,7 +62,7 @@ TEST_F(MakePackage, BearsTheNamesOfProjectAndDevice) {
     EXPECT_EQ(files(), 1u);
 }
 
-TEST_F(MakePackage, GivesTheSameBytesForTheSameInput) {
+TEST_F(MakePackage, IsReproducible) {
     project.image().add("b.txt", "b").add("a.txt", "a").list("{B}", "REF").list("{A}", "REF");
     const auto first = world.folder.read("packages/" + fs::path(make()).filename().string());
     project.reverse();
@@ -81,10 +81,10 @@ TEST_F(MakePackage, WritesNeitherTimesNorExtraFields) {
         EXPECT_EQ(bytes.substr(at + 28, 2), std::string(2, '\0')) << "length of extra fields";
     }
     EXPECT_EQ(headers, 3);
-    EXPECT_EQ(bytes.find("manifest.json"), 30u) << "it stands first";
+    EXPECT_EQ(bytes.find("manifest.json"), 30u) << "the first entry";
 }
 
-TEST_F(MakePackage, TellsItsProgressByBytes) {
+TEST_F(MakePackage, ReportsProgressInBytes) {
     project.image().add("half.txt", std::string(100'000, 'x'));
     EXPECT_NE(make(), "");
     auto words = world.sink.statuses;
@@ -103,23 +103,23 @@ TEST_F(MakePackage, ReplacesAnOlderPackage) {
     EXPECT_EQ(files(), 1u);
 }
 
-TEST_F(MakePackage, RemovesWhatARunThatWasKilledLeft) {
+TEST_F(MakePackage, RemovesFilesOfKilledRuns) {
     const auto process = std::to_string(std::numeric_limits<pid_t>::max()); // no process has this number
     world.folder.write("packages/.Hello.PocketPC-ARM.qlpkg." + process + ".part.Xa1", "half");
     world.folder.write("packages/.Hello.PocketPC-ARM.qlpkg." + std::to_string(::getpid()) + ".part.Xa1", "running");
     world.folder.write("packages/.Hello.PocketPC-ARM.qlpkg.notes", "another file");
     project.image();
     EXPECT_NE(make(), "");
-    EXPECT_EQ(files(), 3u) << "the package, a running process's file and one that is not ours";
+    EXPECT_EQ(files(), 3u) << "the package, the file of a running process and an unrelated file";
 }
 
-TEST_F(MakePackage, TellsWhereItCannotWrite) {
+TEST_F(MakePackage, ReportsAPackageThatCannotBeWritten) {
     project.image();
     EXPECT_EQ(world.package(project, "nowhere"), "");
     EXPECT_THAT(world.sink.errorNumbers(), ElementsAre(qlpipe::kPackageNotWritten));
     fs::create_directories(world.folder / "packages/Hello.PocketPC-ARM.qlpkg");
     EXPECT_EQ(make(), "");
-    EXPECT_EQ(files(), 1u) << "nothing stays beside it";
+    EXPECT_EQ(files(), 1u) << "no temporary file is left";
 }
 
 TEST_F(MakePackage, ChecksTheFilesForItsDevice) {
@@ -129,7 +129,7 @@ TEST_F(MakePackage, ChecksTheFilesForItsDevice) {
     EXPECT_EQ(world.services.record->package, "");
 }
 
-/// Packing reads each file again, and the manifest stands already.
+/// Packing reads each file again, after the manifest was written.
 TEST_F(MakePackage, RefusesAFileThatChangesWhileItIsPacked) {
     const auto old = world.package(project.image().add("z.txt", "one"), "packages");
     const auto bytes = world.folder.read("packages/Hello.PocketPC-ARM.qlpkg");
@@ -152,7 +152,7 @@ TEST_F(MakePackage, RefusesAFileThatVanishesWhileItIsPacked) {
     EXPECT_EQ(files(), 0u);
 }
 
-TEST_F(MakePackage, LetsOutWhatTheSinkThrowsWhileFilesArePacked) {
+TEST_F(MakePackage, PassesOnExceptionsOfTheSink) {
     project.image();
     world.sink.onProgress = [&] {
         if (world.sink.statuses.back().starts_with("Packing")) throw basic::RuntimeError(51);
@@ -163,7 +163,7 @@ TEST_F(MakePackage, LetsOutWhatTheSinkThrowsWhileFilesArePacked) {
 
 // ---- installing ---------------------------------------------------------------------------------------------------
 
-TEST_F(MakePackage, IsInstalledAsIfItWereSent) {
+TEST_F(MakePackage, InstallsTheSameFilesAsSending) {
     project.image().add("Data/a.txt", "a").list(world.folder.write("Small.cmf", "font"), "Small.cmf");
     EXPECT_TRUE(world.send(project));
     const auto sent = world.onDevice("applications/Hello/manifest.json");
@@ -176,7 +176,7 @@ TEST_F(MakePackage, IsInstalledAsIfItWereSent) {
     EXPECT_THAT(world.sink.errors, IsEmpty());
 }
 
-TEST_F(MakePackage, IsInstalledOnItsOwnKindOfDeviceOnly) {
+TEST_F(MakePackage, IsInstalledOnlyOnItsDevice) {
     const auto path = world.package(project.image());
     for (const char* device : {"PocketPC-SH3", "PalmOS-DragonBall", "nonsense"})
         EXPECT_FALSE(qlpipe::installPackage(world.services, path, device, world.sink));
@@ -184,8 +184,8 @@ TEST_F(MakePackage, IsInstalledOnItsOwnKindOfDeviceOnly) {
     EXPECT_TRUE(qlpipe::installPackage(world.services, path, "PocketPC-ARM", world.sink));
 }
 
-/// The files that the schema is tested with are what is written.
-TEST(Manifests, AreWrittenAsTheyWereRead) {
+/// The samples of the schema test are written unchanged.
+TEST(Manifests, SurviveARoundTrip) {
     for (const char* name : {"application", "runtime"}) {
         std::ifstream file{FERNWICK_SOURCE_DIR "/fuzz/corpus/manifest/" + std::string(name) + ".json"};
         const std::string text{std::istreambuf_iterator<char>{file}, {}};
@@ -193,9 +193,9 @@ TEST(Manifests, AreWrittenAsTheyWereRead) {
     }
 }
 
-// ---- packages from anybody ------------------------------------------------------------------------------------
+// ---- untrusted packages ------------------------------------------------------------------------------------
 
-/// Packages that are put together by hand.
+/// Hand-made packages.
 class ForeignPackage : public testing::Test {
 protected:
     ForeignPackage() {
@@ -216,7 +216,7 @@ protected:
         all.insert(all.begin(), {"manifest.json", manifest, 0, {}});
         return test::zipOf(all);
     }
-    /// The error of a package that is read as a whole; 0 for none.
+    /// Reads the whole package and returns the error number, or 0.
     std::int32_t read(const std::string& packageBytes) {
         try {
             Package{world.folder.write("x.qlpkg", packageBytes)}.verify();
@@ -239,27 +239,27 @@ protected:
     std::vector<test::ZipEntry> entries;
 };
 
-TEST_F(ForeignPackage, IsTakenWhenItIsWhole) {
+TEST_F(ForeignPackage, IsAcceptedIfComplete) {
     name("files/a.txt", "a");
     add("files/a.txt", "a");
     EXPECT_EQ(read(), 0);
 }
 
-TEST_F(ForeignPackage, IsRefusedWhenItIsNoZip) {
+TEST_F(ForeignPackage, IsRefusedIfNotAZip) {
     EXPECT_EQ(read(""), qlpipe::kPackageUnreadable);
     EXPECT_EQ(read("hello"), qlpipe::kPackageUnreadable);
     for (const auto& path : {world.folder / "none.qlpkg", world.folder.path(), std::string("/dev/zero")})
         EXPECT_THROW(Package{path}, qlpipe::TransferError) << path;
 }
 
-TEST_F(ForeignPackage, IsRefusedWhenItIsCutShort) {
+TEST_F(ForeignPackage, IsRefusedIfTruncated) {
     name("files/a.txt", "a");
     add("files/a.txt", "a");
     const auto whole = bytes(qlpipe::writeManifest(bundle));
     for (std::size_t length = 0; length < whole.size(); length += 7) EXPECT_NE(read(whole.substr(0, length)), 0);
 }
 
-TEST_F(ForeignPackage, IsRefusedWhenAnyByteChanged) {
+TEST_F(ForeignPackage, IsRefusedIfAnyByteChanged) {
     name("files/a.txt", std::string(50, 'a'));
     add("files/a.txt", std::string(50, 'a'));
     const auto whole = bytes(qlpipe::writeManifest(bundle));
@@ -270,7 +270,7 @@ TEST_F(ForeignPackage, IsRefusedWhenAnyByteChanged) {
     }
 }
 
-TEST_F(ForeignPackage, IsRefusedWhenAFileIsNotTheOneOfTheManifest) {
+TEST_F(ForeignPackage, IsRefusedIfAFileDoesNotMatchTheManifest) {
     name("files/a.txt", "old");
     add("files/a.txt", "new");
     EXPECT_EQ(read(), qlpipe::kPackageEntryChanged);
@@ -278,14 +278,14 @@ TEST_F(ForeignPackage, IsRefusedWhenAFileIsNotTheOneOfTheManifest) {
     EXPECT_EQ(read(), qlpipe::kPackageEntryChanged);
 }
 
-TEST_F(ForeignPackage, IsRefusedWithEntriesTooManyOrTooFew) {
+TEST_F(ForeignPackage, IsRefusedWithExtraOrMissingEntries) {
     name("files/a.txt", "a");
     EXPECT_EQ(read(), qlpipe::kPackageEntryMissing);
     add("files/a.txt", "a");
     add("files/b.txt", "b");
     EXPECT_EQ(read(), qlpipe::kPackageEntryExtra);
     entries.back().name = "files/a.txt";
-    EXPECT_NE(read(), 0) << "an entry that is there twice";
+    EXPECT_NE(read(), 0) << "a duplicate entry";
     entries.back().name = "manifest.json";
     EXPECT_NE(read(), 0) << "a second manifest";
 }
@@ -306,7 +306,7 @@ TEST_F(ForeignPackage, IsRefusedWithUnsafeNames) {
     }
 }
 
-TEST_F(ForeignPackage, IsRefusedWithNamesThatDifferInLetterCaseOnly) {
+TEST_F(ForeignPackage, IsRefusedWithNamesThatDifferOnlyInCase) {
     for (const char* place : {"files/a.txt", "files/A.TXT"}) {
         name(place, "a");
         add(place, "a");
@@ -314,7 +314,7 @@ TEST_F(ForeignPackage, IsRefusedWithNamesThatDifferInLetterCaseOnly) {
     EXPECT_EQ(read(), qlpipe::kPackageManifest);
 }
 
-TEST_F(ForeignPackage, IsRefusedWithAManifestThatIsNone) {
+TEST_F(ForeignPackage, IsRefusedWithAnInvalidManifest) {
     EXPECT_EQ(read(test::zipOf({})), qlpipe::kPackageManifest);
     EXPECT_EQ(read(test::zipOf({{"files/a.txt", "a", 0, {}}})), qlpipe::kPackageManifest);
     for (const char* text :
@@ -326,7 +326,7 @@ TEST_F(ForeignPackage, IsRefusedWithAManifestThatIsNone) {
     EXPECT_EQ(read(bytes(std::string(1024 * 1024 + 1, ' '))), qlpipe::kPackageManifest);
 }
 
-TEST_F(ForeignPackage, IsRefusedWithAMemberOfAnotherKind) {
+TEST_F(ForeignPackage, IsRefusedWithAMemberOfTheWrongType) {
     name("files/a.txt", "a");
     add("files/a.txt", "a");
     for (const auto& [from, to] : {std::pair{"\"project\": \"Hello\"", "\"project\": 7"},
@@ -342,17 +342,17 @@ TEST_F(ForeignPackage, IsRefusedWithAMemberOfAnotherKind) {
     EXPECT_EQ(readManifest("\"schemaVersion\": 1", "\"schemaVersion\": 2"), qlpipe::kPackageVersion);
 }
 
-TEST_F(ForeignPackage, UnpacksNoMoreThanItsManifestSays) {
+TEST_F(ForeignPackage, UnpacksNoMoreThanTheSizeInTheManifest) {
     const std::string claimed = "ten bytes!";
     name("files/a.txt", claimed);
-    // a quarter of a gigabyte from a megabyte and a half
+    // 256 MB of zeros packed into 1.5 MB
     entries.push_back({"files/a.txt", test::deflatedZeros(1'000'000), test::ZipEntry::kDeflated, 10});
     EXPECT_NE(read(), 0);
     entries.back().size.reset();
     EXPECT_EQ(read(), qlpipe::kPackageEntryChanged);
 }
 
-TEST_F(ForeignPackage, LeavesTheOldApplicationWhenItIsRefused) {
+TEST_F(ForeignPackage, KeepsTheOldApplicationIfRefused) {
     test::ProjectFolder project{world.folder};
     EXPECT_TRUE(world.send(project.image().add("a.txt", "old")));
     name("files/a.txt", "new");
@@ -366,7 +366,7 @@ TEST_F(ForeignPackage, LeavesTheOldApplicationWhenItIsRefused) {
     EXPECT_FALSE(world.services.record->succeeded);
 }
 
-TEST_F(ForeignPackage, IsRefusedForADeviceThatNoPipeServes) {
+TEST_F(ForeignPackage, IsRefusedForADeviceWithoutAPipe) {
     bundle.device = "Phone-X";
     const auto path = world.folder.write("x.qlpkg", bytes(qlpipe::writeManifest(bundle)));
     EXPECT_FALSE(qlpipe::installPackage(world.services, path, "", world.sink));

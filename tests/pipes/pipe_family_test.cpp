@@ -41,7 +41,7 @@ TEST(PipeFamilies, ServeTheShippedTargets) {
     }
 }
 
-TEST(PipeFamilies, OfVirtualDevicesHaveNoPage) {
+TEST(PipeFamilies, WithSimulatedDevicesHaveNoPage) {
     test::PipeWorld world;
     for (const char* pipe : {"QLPipePalmOS", "QLPipePocketPC"}) {
         const auto configuration = world.create<qlpipe::IQLPipeConfiguration>(pipe + std::string(".Configuration"));

@@ -1,5 +1,5 @@
-#include "Components/QLPipe/late_library.h"
-#include "Components/QLPipe/pipe_messages.h"
+#include "Components/QLPipe/base/late_library.h"
+#include "Components/QLPipe/base/pipe_messages.h"
 #include <gtest/gtest.h>
 #include <set>
 
@@ -7,7 +7,7 @@ namespace {
 
 using namespace qlpipe;
 
-TEST(PipeMessages, AreCompleteAndHaveNumbersOfTheirOwn) {
+TEST(PipeMessages, AreCompleteAndHaveUniqueNumbers) {
     std::set<std::int32_t> numbers;
     for (const auto table : pipeMessages())
         for (const auto& message : table) {
@@ -17,7 +17,7 @@ TEST(PipeMessages, AreCompleteAndHaveNumbersOfTheirOwn) {
         }
 }
 
-TEST(PipeMessages, KeepToTheirRanges) {
+TEST(PipeMessages, HaveNumbersInTheirRanges) {
     for (const auto table : pipeMessages())
         for (const auto& message : table) {
             const auto first = message.isError ? 20000 : 3100, last = message.isError ? 20999 : 3899;
@@ -25,9 +25,10 @@ TEST(PipeMessages, KeepToTheirRanges) {
         }
 }
 
-TEST(PipeMessages, FillInWhatDiffers) {
-    EXPECT_EQ(messageText(kNameTwice, {"a%2", "b"}),
-              "a%2 and b would have the same name on the device. Rename one of them.");
+TEST(PipeMessages, FillInNamedValues) {
+    EXPECT_EQ(messageText(kNameTwice, {{"file", "a{other}"}, {"other", "b"}}),
+              "a{other} and b would have the same name on the device. Rename one of them.");
+    EXPECT_EQ(fillIn("{a} {b} {", {{"a", "1"}}), "1 {b} ");
     EXPECT_EQ(messageText(kNoImage), "There is no compiled application. Compile the project first.");
     EXPECT_EQ(messageText(1), "");
     EXPECT_EQ(transferError(kNoImage).number, kNoImage);
@@ -41,10 +42,10 @@ TEST(PipeMessages, GroupTheDigitsOfSizes) {
     EXPECT_EQ(bytesInWords(123'456'789), "123,456,789 bytes");
 }
 
-TEST(LateLibrary, NamesThePackageThatIsMissing) {
+TEST(LateLibrary, NamesTheMissingPackage) {
     try {
         LateLibrary library("libnowhere.so.1", "libnowhere1");
-        FAIL() << "loaded a library that is not there";
+        FAIL() << "loaded a library that does not exist";
     } catch (const TransferError& error) {
         EXPECT_EQ(error.number, kLibraryMissing);
         EXPECT_EQ(error.text,

@@ -1,5 +1,5 @@
 #pragma once
-// What pipes need of the world, over a temporary folder.
+// The pipes' dependencies in a temporary folder.
 #include "Components/DesignTargetAccess/design_target_mgr.h"
 #include "Components/Image/image.h"
 #include "Components/QLPipe/pipe_family.h"
@@ -26,7 +26,7 @@ public:
     std::map<std::string, std::string> values;
 };
 
-/// What a pipe told, in its order.
+/// Records the events of a pipe.
 class RecordingSink : public qlpipe::IQLPipeEvents {
 public:
     void SendProgress(const std::string& status, std::int32_t percent) override {
@@ -67,7 +67,7 @@ public:
     std::function<void()> onProgress, onEnd;
 };
 
-/// An image as the compiler writes it.
+/// Returns an image as the compiler writes it.
 inline std::string imageOf(const std::string& project, const std::string& compilerVersion = "3.5.0 (0624)",
                            std::size_t padding = 0) {
     image::Image image;
@@ -77,13 +77,13 @@ inline std::string imageOf(const std::string& project, const std::string& compil
     return image::encode(image);
 }
 
-/// The files of a project in a folder, and the two lists that name them.
+/// The files of a project and the two lists of their names.
 class ProjectFolder {
 public:
     explicit ProjectFolder(const TempFolder& folder, std::string name = "Hello")
         : name_(std::move(name)), folder_(folder) {}
 
-    /// A file whose name on the device is its name in the project.
+    /// Adds a file with the same name on the device and in the project.
     ProjectFolder& add(const std::string& name, const std::string& bytes) {
         auto resource = name;
         std::replace(resource.begin(), resource.end(), '/', '\\');
@@ -112,7 +112,7 @@ private:
     const TempFolder& folder_;
 };
 
-/// The machine that pipes run on, with the shipped design targets.
+/// A machine with pipes and the shipped design targets.
 class PipeWorld {
 public:
     explicit PipeWorld(const std::string& installation = kShippedInstallation)
@@ -138,12 +138,12 @@ public:
     bool send(const ProjectFolder& project, const std::string& device = kDevice) {
         return pipe()->SendProject(device, {}, project.files(), project.application());
     }
-    /// The path of the package, "" when there is none.
+    /// Makes a package and returns its path, or "".
     std::string package(const ProjectFolder& project, const std::string& subfolder = "") {
         auto location = folder / subfolder + "/";
         return pipe()->MakePackage(kDevice, {}, project.files(), project.application(), location) ? location : "";
     }
-    /// What a file on the device holds.
+    /// Returns the content of a file on the device.
     std::string onDevice(const std::string& name, const std::string& device = kDevice) const {
         return folder.read("devices/" + device + "/" + name);
     }

@@ -1,5 +1,5 @@
 #include "Basic/error_numbers.h"
-#include "Components/QLPipe/pipe_messages.h"
+#include "Components/QLPipe/base/pipe_messages.h"
 #include "tests/pipes/pipe_world.h"
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -11,7 +11,7 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::StartsWith;
 
-/// An installation of a test's own, with the list of one family's runtime.
+/// A temporary installation with the runtime of one family.
 class Runtime : public testing::Test {
 protected:
     void list(const std::string& text) { write("PocketPC/runtime.toml", text); }
@@ -29,7 +29,7 @@ protected:
     test::PipeWorld world{installation.path()};
 };
 
-TEST_F(Runtime, GoesToTheDeviceAsAWhole) {
+TEST_F(Runtime, IsInstalledCompletely) {
     write("PocketPC/bin/tamarik", "program");
     write("PocketPC/Small.cmf", "font");
     write("Common/errors.txt", "texts");
@@ -43,7 +43,7 @@ TEST_F(Runtime, GoesToTheDeviceAsAWhole) {
     EXPECT_THAT(world.services.record->installed, Each(StartsWith(world.folder / "devices/PocketPC-ARM/runtime/")));
 }
 
-TEST_F(Runtime, ReplacesTheOlderOne) {
+TEST_F(Runtime, ReplacesAnOlderRuntime) {
     write("PocketPC/old", "old");
     list("version = \"1.0\"\nfiles = [\"old\"]\ncommon = []\n");
     world.pipe()->SendRuntime("PocketPC-ARM");
@@ -54,7 +54,7 @@ TEST_F(Runtime, ReplacesTheOlderOne) {
     EXPECT_FALSE(world.isOnDevice("runtime/files/old"));
 }
 
-TEST_F(Runtime, IsMissedWhereTheInstallationHasNone) { fails(qlpipe::kRuntimeNotShipped, "PocketPC"); }
+TEST_F(Runtime, IsReportedIfMissingInTheInstallation) { fails(qlpipe::kRuntimeNotShipped, "PocketPC"); }
 
 TEST_F(Runtime, IsRefusedWithADamagedList) {
     for (const char* text : {"version = ", "files = []\ncommon = []\n", "version = \"1\"\ncommon = []\n",
@@ -64,23 +64,23 @@ TEST_F(Runtime, IsRefusedWithADamagedList) {
     }
 }
 
-TEST_F(Runtime, IsRefusedWithAFileThatIsNotThereOrElsewhere) {
+TEST_F(Runtime, IsRefusedWithAMissingFileOrOneOutsideItsFolder) {
     list("version = \"1.0\"\nfiles = [\"gone\"]\ncommon = []\n");
     fails(qlpipe::kRuntimeUnusable, "gone");
     list("version = \"1.0\"\nfiles = [\"../secret\"]\ncommon = []\n");
     fails(qlpipe::kRuntimeUnusable, "../secret");
     list("version = \"1.0\"\nfiles = [7]\ncommon = []\n");
-    fails(qlpipe::kRuntimeUnusable, "no name");
+    fails(qlpipe::kRuntimeUnusable, "is not a file name");
 }
 
-TEST_F(Runtime, IsRefusedWithOneFileTwice) {
+TEST_F(Runtime, IsRefusedWithADuplicateFile) {
     write("PocketPC/a", "1");
     write("Common/A", "2");
     list("version = \"1.0\"\nfiles = [\"a\"]\ncommon = [\"A\"]\n");
     fails(qlpipe::kRuntimeUnusable, "twice");
 }
 
-TEST(ShippedRuntime, GoesToEachFamilyOfVirtualDevices) {
+TEST(ShippedRuntime, IsAvailableForEachFamilyOfSimulatedDevices) {
     test::PipeWorld world;
     world.pipe("QLPipePalmOS")->SendRuntime("PalmOS-DragonBall");
     world.pipe()->SendRuntime("PocketPC-SH3");
@@ -88,7 +88,7 @@ TEST(ShippedRuntime, GoesToEachFamilyOfVirtualDevices) {
     EXPECT_THAT(world.onDevice("runtime/manifest.json", "PalmOS-DragonBall"), HasSubstr("3.5.0 (0624)"));
 }
 
-TEST(ShippedRuntime, HasTheLanguagesTextsOfErrors) {
+TEST(ShippedRuntime, HasTheErrorTextsOfTheLanguage) {
     std::ifstream lines{test::kShippedInstallation + "/VB Toolkit/Runtime/Common/errors.txt"};
     int count = 0;
     for (std::string line; std::getline(lines, line); ++count) {

@@ -1,4 +1,4 @@
-#include "Components/QLPipe/pipe_messages.h"
+#include "Components/QLPipe/base/pipe_messages.h"
 #include "tests/pipes/pipe_world.h"
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -16,7 +16,7 @@ protected:
     test::ProjectFolder project{world.folder};
 };
 
-TEST_F(SendProject, LaysTheApplicationOutOnTheDevice) {
+TEST_F(SendProject, InstallsTheApplication) {
     project.image().add("Data/prices.pdb", "prices").add("notes.txt", "notes");
     project.icon = world.folder.write("icon.tmp", "icon");
     EXPECT_TRUE(world.send(project));
@@ -28,7 +28,7 @@ TEST_F(SendProject, LaysTheApplicationOutOnTheDevice) {
     EXPECT_FALSE(world.isOnDevice(".incoming"));
 }
 
-TEST_F(SendProject, PutsFontsWhereAllApplicationsFindThem) {
+TEST_F(SendProject, InstallsFontsForAllApplications) {
     const auto font = world.folder.write("Fonts/Small.cmf", "font");
     project.image().list(font, "Small.cmf");
     EXPECT_TRUE(world.send(project));
@@ -46,14 +46,14 @@ TEST_F(SendProject, ReplacesTheWholeApplication) {
     EXPECT_FALSE(world.isOnDevice("applications/Hello/files/old.txt"));
 }
 
-TEST_F(SendProject, LeavesOtherApplicationsAlone) {
+TEST_F(SendProject, DoesNotAffectOtherApplications) {
     test::ProjectFolder other{world.folder, "Other"};
     EXPECT_TRUE(world.send(other.image()));
     EXPECT_TRUE(world.send(project.image()));
     EXPECT_TRUE(world.isOnDevice("applications/Other/files/Other.0000.qlx"));
 }
 
-TEST_F(SendProject, TellsItsProgressByBytesAndThenThatItIsComplete) {
+TEST_F(SendProject, ReportsProgressInBytesAndCompletion) {
     project.image().add("half.txt", std::string(4 * test::imageOf("Hello").size(), 'x'));
     EXPECT_TRUE(world.send(project));
     EXPECT_THAT(sink.statuses,
@@ -64,7 +64,7 @@ TEST_F(SendProject, TellsItsProgressByBytesAndThenThatItIsComplete) {
     EXPECT_THAT(sink.errors, IsEmpty());
 }
 
-TEST_F(SendProject, RecordsWhereEachFileWent) {
+TEST_F(SendProject, RecordsTheLocation) {
     EXPECT_TRUE(world.send(project.image().add("Small.CMF", "font")));
     EXPECT_THAT(world.services.record->installed,
                 ElementsAre(world.folder / "devices/PocketPC-ARM/applications/Hello/files/Hello.0000.qlx",
@@ -72,7 +72,7 @@ TEST_F(SendProject, RecordsWhereEachFileWent) {
     EXPECT_TRUE(world.services.record->succeeded);
 }
 
-TEST_F(SendProject, WarnsWhenTheRuntimeIsMissingAfterwards) {
+TEST_F(SendProject, WarnsIfTheRuntimeIsMissing) {
     EXPECT_TRUE(world.send(project.image()));
     EXPECT_THAT(sink.warningNumbers(), ElementsAre(qlpipe::kRuntimeNotInstalled));
     EXPECT_THAT(sink.warnings[0].second, HasSubstr("install-runtime --device PocketPC-ARM"));
@@ -82,14 +82,14 @@ TEST_F(SendProject, WarnsWhenTheRuntimeIsMissingAfterwards) {
     EXPECT_EQ(sink.warnings.size(), 1u);
 }
 
-TEST_F(SendProject, NamesTheComponentsThatTheDeviceMustHave) {
+TEST_F(SendProject, ListsTheRequiredComponents) {
     project.list("{CA647498-D486-4FC0-841B-DA55C9A0F114}", "REF").image();
     EXPECT_TRUE(world.send(project));
     EXPECT_THAT(world.onDevice("applications/Hello/manifest.json"),
                 HasSubstr("{CA647498-D486-4FC0-841B-DA55C9A0F114}"));
 }
 
-TEST_F(SendProject, GoesOnWithoutAnIconThatIsNotThere) {
+TEST_F(SendProject, ContinuesWithoutAMissingIcon) {
     project.icon = world.folder / "gone.ico";
     EXPECT_TRUE(world.send(project.image()));
     EXPECT_THAT(sink.warningNumbers(), testing::Contains(qlpipe::kIconMissing));
@@ -106,7 +106,7 @@ TEST_F(SendProject, RefusesADeviceOfAnotherFamily) {
     EXPECT_EQ(sink.completed, 0);
 }
 
-TEST_F(SendProject, ChecksTheFilesForTheDeviceThatItIsGiven) {
+TEST_F(SendProject, ChecksTheFilesForTheGivenDevice) {
     project.image().add("film.mid", std::string(100'000, 'x'));
     EXPECT_TRUE(world.send(project));
     EXPECT_FALSE(
@@ -115,13 +115,13 @@ TEST_F(SendProject, ChecksTheFilesForTheDeviceThatItIsGiven) {
     EXPECT_FALSE(world.services.record->succeeded);
 }
 
-TEST_F(SendProject, TellsAllErrorsOfTheFiles) {
+TEST_F(SendProject, ReportsAllErrorsOfTheFiles) {
     project.add("a.exe", "x").add("b.exe", "x");
     EXPECT_FALSE(world.send(project));
     EXPECT_THAT(sink.errorNumbers(), ElementsAre(qlpipe::kNoImage, qlpipe::kKindNotTaken, qlpipe::kKindNotTaken));
 }
 
-TEST_F(SendProject, RefusesAProjectNameThatIsNoFolder) {
+TEST_F(SendProject, RefusesAProjectNameThatIsNotAFolderName) {
     auto application = project.image().application();
     for (const char* name : {"", "..", "a/b", ".hidden"}) {
         sink.errors.clear();
@@ -131,8 +131,8 @@ TEST_F(SendProject, RefusesAProjectNameThatIsNoFolder) {
     }
 }
 
-/// The driver lets go of the pipe in the very events that the pipe raises.
-TEST_F(SendProject, OutlivesBeingLetGoOfInItsEvents) {
+/// The driver releases the pipe within its events.
+TEST_F(SendProject, MayBeReleasedDuringItsEvents) {
     auto pipe = world.pipe();
     sink.onEnd = [&] { pipe = {}; };
     EXPECT_TRUE(pipe->SendProject("PocketPC-ARM", {}, project.image().files(), project.application()));
@@ -147,7 +147,7 @@ TEST_F(SendProject, WorksWithoutASink) {
     EXPECT_TRUE(pipe->SendProject("PocketPC-ARM", {}, project.image().files(), project.application()));
 }
 
-TEST_F(SendProject, LeavesTheOldApplicationWhenTheSinkFails) {
+TEST_F(SendProject, KeepsTheOldApplicationIfTheSinkFails) {
     EXPECT_TRUE(world.send(project.image().add("old.txt", "old")));
     sink.onProgress = [] { throw basic::RuntimeError(5); };
     test::ProjectFolder next{world.folder};
@@ -157,7 +157,7 @@ TEST_F(SendProject, LeavesTheOldApplicationWhenTheSinkFails) {
     EXPECT_FALSE(world.isOnDevice(".incoming"));
 }
 
-TEST_F(SendProject, FindsTheDevicesFolderAsTheUserSetIt) {
+TEST_F(SendProject, UsesTheDevicesFolderOfTheEnvironment) {
     world.environment.values = {{"XDG_DATA_HOME", world.folder / "data"}};
     EXPECT_TRUE(world.send(project.image()));
     EXPECT_EQ(world.folder.read("data/fernwick/devices/PocketPC-ARM/applications/Hello/files/Hello.0000.qlx"),

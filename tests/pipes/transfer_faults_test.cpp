@@ -1,5 +1,5 @@
-#include "Components/QLPipe/installer.h"
-#include "Components/QLPipe/pipe_messages.h"
+#include "Components/QLPipe/base/pipe_messages.h"
+#include "Components/QLPipe/package/installer.h"
 #include "Components/QLPipe/virtual_device/virtual_device.h"
 #include "tests/pipes/other_process.h"
 #include "tests/pipes/pipe_world.h"
@@ -16,7 +16,7 @@ using qlpipe::StorageFile;
 using testing::ElementsAre;
 using testing::HasSubstr;
 
-/// A device whose n-th operation fails, as one does whose disk is full.
+/// A device whose n-th operation fails with a full disk.
 class FailingDevice : public DeviceStorage {
 public:
     FailingDevice(DeviceStorage& device, int failing) : device_(device), left_(failing) {}
@@ -52,7 +52,7 @@ private:
     };
 
     void count() {
-        if (--left_ == 0) throw qlpipe::transferError(qlpipe::kDeviceDiskFull, {location()});
+        if (--left_ == 0) throw qlpipe::transferError(qlpipe::kDeviceDiskFull, {{"device", location()}});
     }
 
     DeviceStorage& device_;
@@ -85,7 +85,7 @@ protected:
     qlpipe::Progress silent{nullptr, 0};
 };
 
-TEST_F(TransferFaults, LeaveTheOldApplicationOrTheNewOneWhole) {
+TEST_F(TransferFaults, LeaveACompleteApplication) {
     qlpipe::VirtualDevice device{world.folder / "devices/PocketPC-ARM", {}};
     int failures = 0;
     for (bool more = true; more; ++failures) {
@@ -105,22 +105,22 @@ TEST_F(TransferFaults, LeaveTheOldApplicationOrTheNewOneWhole) {
     EXPECT_GT(failures, 15);
 }
 
-TEST_F(TransferFaults, TellOfADeviceWithoutRoomAndLeaveItAsItIs) {
+TEST_F(TransferFaults, ReportAFullDeviceAndDoNotChangeIt) {
     project.image().add("a.pdb", std::string(5'000'000, 'x'));
     for (int i = 0; i < 6; ++i) project.add(std::to_string(i) + ".pdb", std::string(4'000'000, 'x'));
     EXPECT_TRUE(world.send(project, "PocketPC-SH3"));
-    EXPECT_TRUE(world.send(project, "PocketPC-SH3")) << "sent again it takes the old one's place";
+    EXPECT_TRUE(world.send(project, "PocketPC-SH3")) << "replaces the old one";
     test::ProjectFolder other{world.folder, "Other"};
     EXPECT_FALSE(world.send(other.image().add("b.pdb", std::string(5'000'000, 'x')), "PocketPC-SH3"));
     EXPECT_THAT(world.sink.errorNumbers(), ElementsAre(qlpipe::kDeviceFull));
-    EXPECT_THAT(world.sink.errors[0].second, HasSubstr("bytes are needed"));
+    EXPECT_THAT(world.sink.errors[0].second, HasSubstr("bytes needed"));
     EXPECT_TRUE(world.isOnDevice("applications/Hello/files/a.pdb", "PocketPC-SH3"));
     EXPECT_FALSE(world.isOnDevice("applications/Other", "PocketPC-SH3"));
 }
 
-// ---- files that change under the transfer ---------------------------------------------------------------------
+// ---- files that change during a transfer ---------------------------------------------------------------------
 
-/// Sends a project whose file something happens to when the transfer has begun.
+/// Sends a project and changes a file after the transfer has begun.
 class ChangingFiles : public TransferFaults {
 protected:
     void expectRefusal(const std::function<void()>& happens, std::int32_t number) {
@@ -170,7 +170,7 @@ TEST_F(ChangingFiles, AreRefusedWhenTheyShrinkWhileTheyAreRead) {
 
 // ---- processes ------------------------------------------------------------------------------------------------
 
-TEST_F(TransferFaults, LeaveTheOldApplicationWholeWhenTheProcessIsKilled) {
+TEST_F(TransferFaults, KeepTheOldApplicationIfTheProcessIsKilled) {
     EXPECT_TRUE(world.send(project.image().add("a.txt", "old")));
     world.folder.write("project/a.txt", "new");
     project.add("large.wav", std::string(1'000'000, 'x'));
@@ -191,7 +191,7 @@ TEST_F(TransferFaults, LeaveTheOldApplicationWholeWhenTheProcessIsKilled) {
     EXPECT_FALSE(world.isOnDevice(".incoming"));
 }
 
-TEST_F(TransferFaults, LetTwoProcessesSendOneAfterTheOther) {
+TEST_F(TransferFaults, SerializeTwoProcesses) {
     project.image().add("large.wav", std::string(5'000'000, 'x'));
     const auto sending = [&] { return world.send(project) ? 0 : 1; };
     test::OtherProcess first{sending}, second{sending};
@@ -201,17 +201,17 @@ TEST_F(TransferFaults, LetTwoProcessesSendOneAfterTheOther) {
     EXPECT_FALSE(world.isOnDevice(".incoming"));
 }
 
-/// From here on the system refuses to write more than that into a file of this process.
+/// Limits the size of files that this process can write.
 void refuseFilesAbove(rlim_t bytes) {
     ::signal(SIGXFSZ, SIG_IGN);
     const rlimit limit{bytes, bytes};
     ::setrlimit(RLIMIT_FSIZE, &limit);
 }
 
-TEST_F(TransferFaults, TellThatTheSystemRefusesToWrite) {
+TEST_F(TransferFaults, ReportAWriteError) {
     EXPECT_TRUE(world.send(project.image().add("a.txt", "old")));
     const auto package = world.folder.read(world.package(project).substr(world.folder.path().size() + 1));
-    std::string noise(1'000'000, '\0'); // which can't be packed
+    std::string noise(1'000'000, '\0'); // cannot be compressed
     std::uint32_t state = 1;
     for (auto& byte : noise) byte = char((state = state * 1664525 + 1013904223) >> 24);
     project.add("noise.wav", noise);
@@ -236,13 +236,13 @@ std::int64_t peakKilobytes() {
     return usage.ru_maxrss;
 }
 
-TEST_F(TransferFaults, TakeNoMemoryByTheSizeOfAFile) {
+TEST_F(TransferFaults, NeedConstantMemory) {
     constexpr std::int64_t kMostKilobytes = 32 * 1024;
     project.image().add("film.wav", "");
     fs::resize_file(project.path("film.wav"), 200'000'000);
     test::OtherProcess other{[&] {
         const auto before = peakKilobytes();
-        // a device without a design target has no limits
+        // A device without a design target has no limits.
         auto place = world.folder.path();
         const bool sent = world.send(project, "PocketPC-Large");
         const bool packed =

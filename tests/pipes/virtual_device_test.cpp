@@ -1,5 +1,5 @@
-#include "Components/QLPipe/installer.h"
-#include "Components/QLPipe/pipe_messages.h"
+#include "Components/QLPipe/base/pipe_messages.h"
+#include "Components/QLPipe/package/installer.h"
 #include "Components/QLPipe/virtual_device/virtual_device.h"
 #include "tests/pipes/other_process.h"
 #include "tests/support/temp_folder.h"
@@ -47,7 +47,7 @@ protected:
     std::string path = folder / "device";
 };
 
-TEST_F(VirtualDevices, KeepFilesInFolders) {
+TEST_F(VirtualDevices, StoreFilesInFolders) {
     auto device = open();
     put(device, "applications/Hello/files/b.txt", "bee");
     put(device, "applications/Hello/files/a.txt", "");
@@ -61,13 +61,13 @@ TEST_F(VirtualDevices, KeepFilesInFolders) {
     EXPECT_THAT(device.list("applications"), IsEmpty());
 }
 
-TEST_F(VirtualDevices, LeaveNothingOfAFileThatWasNotClosed) {
+TEST_F(VirtualDevices, DiscardAFileThatWasNotClosed) {
     auto device = open();
     device.create("a.txt")->write("half");
     EXPECT_FALSE(isThere("a.txt"));
 }
 
-TEST_F(VirtualDevices, CreateNothingOverAnotherFileOrInNoFolder) {
+TEST_F(VirtualDevices, RefuseToCreateExistingFilesAndFilesInMissingFolders) {
     auto device = open();
     put(device, "a.txt", "old");
     EXPECT_EQ(numberOf([&] { device.create("a.txt"); }), qlpipe::kStorageFailed);
@@ -75,7 +75,7 @@ TEST_F(VirtualDevices, CreateNothingOverAnotherFileOrInNoFolder) {
     EXPECT_EQ(read("a.txt"), "old");
 }
 
-TEST_F(VirtualDevices, ReplaceAFileOrAFolderByAnother) {
+TEST_F(VirtualDevices, ReplaceFilesAndFolders) {
     auto device = open();
     put(device, "new.txt", "new");
     put(device, "old.txt", "old");
@@ -89,28 +89,28 @@ TEST_F(VirtualDevices, ReplaceAFileOrAFolderByAnother) {
     EXPECT_FALSE(isThere("one"));
 }
 
-TEST_F(VirtualDevices, ReadNoManifestOfMoreThanAMegabyte) {
+TEST_F(VirtualDevices, RefuseAManifestOfMoreThanAMegabyte) {
     auto device = open();
     put(device, "large", std::string(1024 * 1024 + 1, 'x'));
     EXPECT_EQ(numberOf([&] { device.read("large"); }), qlpipe::kStorageFileTooLarge);
     EXPECT_EQ(numberOf([&] { device.read("none"); }), qlpipe::kStorageFailed);
 }
 
-TEST_F(VirtualDevices, HaveTheMemoryThatNothingTakes) {
+TEST_F(VirtualDevices, ReportTheirFreeMemory) {
     auto device = open(1000);
     EXPECT_EQ(device.freeSpaceFor("applications/Hello"), 1000);
     put(device, "applications/Hello/a", std::string(300, 'x'));
     put(device, "fonts/Small.cmf", std::string(200, 'x'));
     put(device, "runtime/files/r", std::string(100, 'x'));
     EXPECT_EQ(device.freeSpaceFor("applications/Other"), 400);
-    EXPECT_EQ(device.freeSpaceFor("applications/Hello"), 700) << "what is replaced makes room";
+    EXPECT_EQ(device.freeSpaceFor("applications/Hello"), 700) << "the replaced folder frees its space";
     put(device, "fonts/Large.cmf", std::string(800, 'x'));
     EXPECT_EQ(device.freeSpaceFor("applications/Other"), 0);
 }
 
 // ---- nothing leads out of the device's folder ---------------------------------------------------------------------
 
-TEST_F(VirtualDevices, FollowNoLinkInTheirFolder) {
+TEST_F(VirtualDevices, DoNotFollowLinksInTheirFolder) {
     fs::create_directories(folder / "outside");
     folder.write("outside/secret", "secret");
     auto device = open();
@@ -127,7 +127,7 @@ TEST_F(VirtualDevices, FollowNoLinkInTheirFolder) {
     EXPECT_EQ(std::distance(fs::directory_iterator(folder / "outside"), fs::directory_iterator()), 1);
 }
 
-TEST_F(VirtualDevices, ReplaceAndRemoveLinksAndNotWhatTheyLeadTo) {
+TEST_F(VirtualDevices, ReplaceAndRemoveLinksNotTheirTargets) {
     folder.write("outside/secret", "secret");
     auto device = open(1000);
     put(device, "new/a.txt", "new");
@@ -141,20 +141,20 @@ TEST_F(VirtualDevices, ReplaceAndRemoveLinksAndNotWhatTheyLeadTo) {
     EXPECT_EQ(folder.read("outside/secret"), "secret");
 }
 
-TEST_F(VirtualDevices, AreNoLinksThemselves) {
+TEST_F(VirtualDevices, MustNotBeLinks) {
     fs::create_directories(folder / "outside");
     fs::create_symlink(folder / "outside", path);
     EXPECT_EQ(numberOf([&] { open(); }), qlpipe::kStorageLink);
 }
 
-TEST_F(VirtualDevices, TellWhereTheirFolderCannotBeMade) {
+TEST_F(VirtualDevices, ReportAFolderThatCannotBeCreated) {
     folder.write("device", "a file");
     EXPECT_NE(numberOf([&] { open(); }), 0);
     EXPECT_EQ(folder.read("device"), "a file");
 }
 
-TEST_F(VirtualDevices, SayThatTheDiskIsFull) {
-    const qlpipe::FolderHandle root{qlpipe::Descriptor{}, "/devices/Palm"};
+TEST_F(VirtualDevices, ReportAFullDisk) {
+    const qlpipe::FolderHandle root{qlpipe::FileDescriptor{}, "/devices/Palm"};
     EXPECT_EQ(numberOf([&] { root.fail(ENOSPC, "a"); }), qlpipe::kDeviceDiskFull);
     EXPECT_EQ(numberOf([&] { root.fail(EDQUOT, "a"); }), qlpipe::kDeviceDiskFull);
     EXPECT_EQ(numberOf([&] { root.fail(EIO, "a"); }), qlpipe::kStorageFailed);
@@ -162,7 +162,7 @@ TEST_F(VirtualDevices, SayThatTheDiskIsFull) {
 
 // ---- interruptions ------------------------------------------------------------------------------------------------
 
-TEST_F(VirtualDevices, TakeBackAReplacementThatWasCutOff) {
+TEST_F(VirtualDevices, UndoAnInterruptedReplacement) {
     folder.write("device/applications/.Hello.old/a.txt", "old");
     folder.write("device/.runtime.old/r", "old");
     open();
@@ -170,7 +170,7 @@ TEST_F(VirtualDevices, TakeBackAReplacementThatWasCutOff) {
     EXPECT_EQ(read("runtime/r"), "old");
 }
 
-TEST_F(VirtualDevices, EndAReplacementThatLackedOnlyTheRemoval) {
+TEST_F(VirtualDevices, CompleteAReplacementThatLacksOnlyTheRemoval) {
     folder.write("device/applications/.Hello.old/a.txt", "old");
     folder.write("device/applications/Hello/a.txt", "new");
     folder.write("device/.incoming/bundle/b.txt", "half");
@@ -180,7 +180,7 @@ TEST_F(VirtualDevices, EndAReplacementThatLackedOnlyTheRemoval) {
     EXPECT_FALSE(isThere(".incoming"));
 }
 
-/// From here on the process can't exchange two names in one step, as on file systems that don't know how.
+/// Disables the atomic exchange of names for this process, as on file systems without it.
 void refuseExchange() {
     const sock_filter kRules[] = {BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, nr)),
                                   BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, SYS_renameat2, 0, 1),
@@ -191,7 +191,7 @@ void refuseExchange() {
         ::_exit(2);
 }
 
-TEST_F(VirtualDevices, ReplaceAFolderInTwoStepsWhereOneIsNotPossible) {
+TEST_F(VirtualDevices, ReplaceAFolderInTwoStepsWithoutAtomicExchange) {
     test::OtherProcess other{[&] {
         auto device = open();
         put(device, "one/a.txt", "1");
@@ -230,7 +230,7 @@ TEST_F(VirtualDevices, WaitForTheOtherTransfer) {
     EXPECT_TRUE(isThere("ended"));
 }
 
-TEST_F(VirtualDevices, AreFreeAfterATransferThatWasKilled) {
+TEST_F(VirtualDevices, AreFreeAfterAKilledTransfer) {
     test::OtherProcess other{[&] {
         const auto device = open();
         ::raise(SIGKILL);

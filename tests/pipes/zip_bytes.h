@@ -1,5 +1,5 @@
 #pragma once
-// Zip archives byte by byte, so that tests can write what no honest program writes.
+// Writes zip archives byte by byte, including invalid ones.
 #include "Components/Image/image_bytes.h"
 #include <cstdint>
 #include <optional>
@@ -13,7 +13,7 @@ struct ZipEntry {
 
     std::string name, packed;
     std::uint16_t method = kStored;
-    /// What the headers say of the unpacked size; by itself the size of `packed`.
+    /// The unpacked size in the headers. Default: the size of `packed`.
     std::optional<std::uint32_t> size;
 };
 
@@ -58,13 +58,13 @@ inline std::string zipOf(const std::vector<ZipEntry>& entries) {
     return bytes.bytes();
 }
 
-/// `count` times 258 zeros and one more, packed: about a byte and a half for each 258.
+/// Returns `count` * 258 + 1 zeros in deflate format, about 1.5 bytes per 258.
 inline std::string deflatedZeros(std::size_t count) {
     std::string bits = "110"
                        "00110000"; // the last block, fixed codes; one zero
     for (std::size_t i = 0; i < count; ++i)
         bits += "11000101"
-                "00000"; // 258 bytes as those one before
+                "00000"; // 258 copies of the previous byte
     bits += "0000000";
     std::string bytes((bits.size() + 7) / 8, '\0');
     for (std::size_t i = 0; i < bits.size(); ++i)

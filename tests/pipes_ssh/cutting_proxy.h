@@ -1,5 +1,5 @@
 #pragma once
-// A network that misbehaves on schedule.
+// A proxy that cuts or blocks connections.
 #include "tests/pipes_ssh/ssh_server.h"
 #include <atomic>
 #include <limits>
@@ -9,8 +9,7 @@
 
 namespace test {
 
-/// Passes one connection after the other on to a port of this computer, and cuts each after so many bytes that went
-/// to the server.
+/// Forwards one connection after the other to a local port, and cuts each after a number of bytes sent to the server.
 class CuttingProxy {
 public:
     explicit CuttingProxy(std::uint16_t to) : to_(to), listener_(listenOnLoopback()), thread_([this] { run(); }) {}
@@ -22,11 +21,11 @@ public:
 
     std::uint16_t port() const { return portOfSocket(listener_); }
     static constexpr std::size_t kNever = std::numeric_limits<std::size_t>::max();
-    /// For the connections to come.
+    /// Applies to later connections.
     void cutAfter(std::size_t bytes) { cutAfter_ = bytes; }
-    /// From now on nothing is passed on, and nothing is closed.
+    /// Stops forwarding without closing the connection.
     void freeze(bool frozen) { frozen_ = frozen; }
-    /// What the last connection has sent to the server.
+    /// Number of bytes that the last connection sent to the server.
     std::size_t sent() const { return sent_; }
 
 private:

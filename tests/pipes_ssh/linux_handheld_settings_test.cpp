@@ -1,9 +1,9 @@
-// What users and projects say of a handheld, and the page on which they say it.
+// Connection settings of handhelds, and their settings page.
+#include "Components/QLPipe/base/pipe_messages.h"
+#include "Components/QLPipe/base/ssh_messages.h"
 #include "Components/QLPipe/linux_handheld/linux_handheld.h"
 #include "Components/QLPipe/linux_handheld/linux_handheld_settings.h"
-#include "Components/QLPipe/linux_handheld/ssh_messages.h"
 #include "Components/QLPipe/linux_handheld/user_account.h"
-#include "Components/QLPipe/pipe_messages.h"
 #include "tests/pipes/pipe_world.h"
 #include "tests/pipes_ssh/ssh_device.h"
 #include "tests/support/test_host.h"
@@ -24,13 +24,13 @@ protected:
     basic::Ref<vbide::VBProject> project = host.open(test::SampleProject{});
 };
 
-TEST_F(HandheldSettings, OfAUserAreKeptForEachTarget) {
+TEST_F(HandheldSettings, OfTheUserAreStoredForEachTarget) {
     qlpipe::writeUserSettings(host.registry, kKey, kAll);
     EXPECT_EQ(qlpipe::readUserSettings(host.registry, kKey), kAll);
     EXPECT_EQ(qlpipe::readUserSettings(host.registry, "LinuxHandheld-MIPS"), LinuxHandheldSettings{});
 }
 
-TEST_F(HandheldSettings, ThatAreTakenBackAreGone) {
+TEST_F(HandheldSettings, AreDeletedWhenCleared) {
     qlpipe::writeUserSettings(host.registry, kKey, kAll);
     qlpipe::writeUserSettings(host.registry, kKey, {"other", "", "", "", "", ""});
     EXPECT_EQ(qlpipe::readUserSettings(host.registry, kKey), (LinuxHandheldSettings{"other", "", "", "", "", ""}));
@@ -43,25 +43,25 @@ TEST_F(HandheldSettings, ThatAreTakenBackAreGone) {
     EXPECT_EQ(info.values, 1u);
 }
 
-TEST_F(HandheldSettings, OfAProjectStandInItsFile) {
+TEST_F(HandheldSettings, OfAProjectAreStoredInItsFile) {
     qlpipe::writeProjectSettings(project, kAll);
     EXPECT_EQ(project->ReadProperty("Quinloft Linux Handheld", "KeyFile"), "~/.ssh/pda");
     EXPECT_EQ(qlpipe::readProjectSettings(project), kAll);
 }
 
-TEST_F(HandheldSettings, ThatStayTheSameAreNotWritten) {
+TEST_F(HandheldSettings, AreNotWrittenIfUnchanged) {
     qlpipe::writeProjectSettings(project, {});
     EXPECT_FALSE(project->IsDirty());
     EXPECT_EQ(qlpipe::readProjectSettings(project), LinuxHandheldSettings{});
 }
 
-TEST_F(HandheldSettings, OfAProjectGoBeforeTheUsersEachForItself) {
+TEST_F(HandheldSettings, OfAProjectOverrideTheUsersIndividually) {
     const LinuxHandheldSettings ofProject{"", "", "root", "", "games", ""};
     const auto both = qlpipe::layered(ofProject, kAll);
     EXPECT_EQ(both, (LinuxHandheldSettings{"pda", "2222", "root", "~/.ssh/pda", "games", "/etc/hosts_known"}));
 }
 
-TEST_F(HandheldSettings, ThatAreNotSetHaveUsualValues) {
+TEST_F(HandheldSettings, HaveDefaults) {
     const auto target = qlpipe::sshTarget({"pda", "", "", "", "", ""}, kKey);
     EXPECT_EQ(target.host, "pda");
     EXPECT_EQ(target.port, 22);
@@ -73,7 +73,7 @@ TEST_F(HandheldSettings, ThatAreNotSetHaveUsualValues) {
     EXPECT_EQ(target.address(), "pda");
 }
 
-TEST_F(HandheldSettings, ThatAreSetCount) {
+TEST_F(HandheldSettings, AreUsedIfSet) {
     const auto target = qlpipe::sshTarget(kAll, kKey);
     EXPECT_EQ(target.address(), "pda:2222");
     EXPECT_EQ(target.user, "joe");
@@ -83,18 +83,18 @@ TEST_F(HandheldSettings, ThatAreSetCount) {
     EXPECT_FALSE(target.usualKnownHosts);
 }
 
-TEST_F(HandheldSettings, TakeTheFolderBelowTheHomeFolderThere) {
+TEST_F(HandheldSettings, ResolveTheFolderInTheHomeFolder) {
     for (const char* folder : {"games", "~/games", "games/", "~/games//"})
         EXPECT_EQ(qlpipe::sshTarget({"pda", "", "", "", folder, ""}, kKey).folder, "games");
 }
 
-TEST_F(HandheldSettings, SayHowToSetTheHost) {
+TEST_F(HandheldSettings, ExplainHowToSetTheHost) {
     const auto error = transferErrorOf([] { (void)qlpipe::sshTarget({}, kKey); });
     expectError(error, SshMessage::HostNotSet,
                 {"fernwick devices set LinuxHandheld-ARM Host=", "fernwick settings set PROJECT HandheldHost"});
 }
 
-TEST_F(HandheldSettings, RefuseWhatCantBeMeant) {
+TEST_F(HandheldSettings, RefuseInvalidValues) {
     const auto refuse = [](const LinuxHandheldSettings& settings, const std::vector<std::string>& words) {
         expectError(transferErrorOf([&] { (void)qlpipe::sshTarget(settings, kKey); }), SshMessage::SettingInvalid,
                     words);
@@ -107,7 +107,7 @@ TEST_F(HandheldSettings, RefuseWhatCantBeMeant) {
     for (const char* folder : {"/", "~", ".", "~/"}) refuse({"pda", "", "", "", folder, ""}, {"Folder"});
 }
 
-/// The page as the settings dialog uses it.
+/// The page, used like the settings dialog does.
 class HandheldPage : public HandheldSettings {
 protected:
     basic::Ref<qlpipe::IQLPipePage> open() { return configuration->CreatePage(project, 0, 0); }
@@ -134,7 +134,7 @@ TEST_F(HandheldPage, HasAFieldForEachSetting) {
     EXPECT_THAT(keys, testing::ElementsAre("Host", "Port", "User", "KeyFile", "Folder", "KnownHosts"));
 }
 
-TEST_F(HandheldPage, StoresWhatWasTypedWhenItIsApplied) {
+TEST_F(HandheldPage, StoresTheFieldsWhenApplied) {
     type("Host", "pda");
     EXPECT_EQ(qlpipe::readProjectSettings(project), LinuxHandheldSettings{});
     EXPECT_TRUE(configuration->ValidatePage());
@@ -144,7 +144,7 @@ TEST_F(HandheldPage, StoresWhatWasTypedWhenItIsApplied) {
     EXPECT_EQ(page->Settings().front().Value, "pda");
 }
 
-TEST_F(HandheldPage, RefusesWhatNoTransferWouldTake) {
+TEST_F(HandheldPage, RefusesInvalidValues) {
     type("Port", "ssh");
     EXPECT_FALSE(configuration->ValidatePage());
     type("Port", "2222");
@@ -161,7 +161,7 @@ TEST_F(HandheldPage, ShowsAndHidesItself) {
     EXPECT_FALSE(page->Visible());
 }
 
-TEST_F(HandheldPage, DoesNothingWhenItIsClosed) {
+TEST_F(HandheldPage, DoesNothingAfterClosing) {
     type("Host", "pda");
     configuration->ClosePage();
     configuration->ApplyPage();
@@ -171,7 +171,7 @@ TEST_F(HandheldPage, DoesNothingWhenItIsClosed) {
     EXPECT_FALSE(configuration->CreatePage({}, 0, 0));
 }
 
-TEST(SshMessages, AreWholeAndInOrder) {
+TEST(SshMessages, AreCompleteAndSorted) {
     std::int32_t last = 20299;
     for (const auto& message : qlpipe::sshMessages()) {
         EXPECT_GT(message.number, last);
@@ -183,7 +183,7 @@ TEST(SshMessages, AreWholeAndInOrder) {
     }
 }
 
-TEST(SshMessages, ShowNoControlCharactersOfADevice) {
+TEST(SshMessages, ReplaceControlCharactersOfDevices) {
     EXPECT_EQ(qlpipe::saidByDevice("a\x1B[31mb\n\x7F"), "a?[31mb??");
     EXPECT_EQ(qlpipe::saidByDevice(std::string(1000, 'x')).size(), 200u);
 }

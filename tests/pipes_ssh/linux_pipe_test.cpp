@@ -1,5 +1,5 @@
-// The pipe of Linux handhelds from end to end: what the add-in calls, and what is on the device then.
-#include "Components/QLPipe/pipe_messages.h"
+// End-to-end tests of the Linux handheld pipe.
+#include "Components/QLPipe/base/pipe_messages.h"
 #include "tests/pipes/pipe_world.h"
 #include "tests/pipes_ssh/ssh_device.h"
 #include "tests/support/test_host.h"
@@ -50,7 +50,7 @@ TEST_F(LinuxPipe, SendsAProject) {
     EXPECT_THAT(connect()->list(""), ElementsAre("applications"));
 }
 
-TEST_F(LinuxPipe, SendsTheRuntimeOnceAndThenMissesItNoMore) {
+TEST_F(LinuxPipe, DoesNotWarnAboutTheRuntimeAfterSendingIt) {
     project.image();
     EXPECT_TRUE(send());
     EXPECT_THAT(sink.warningNumbers(), ElementsAre(qlpipe::kRuntimeNotInstalled));
@@ -61,7 +61,7 @@ TEST_F(LinuxPipe, SendsTheRuntimeOnceAndThenMissesItNoMore) {
     EXPECT_EQ(sink.warnings.size(), 1u);
 }
 
-TEST_F(LinuxPipe, TellsHowToSetTheHost) {
+TEST_F(LinuxPipe, ExplainsHowToSetTheHost) {
     setUser({});
     world.pipe("QLPipeLinux")->SendRuntime(kDevice);
     ASSERT_THAT(sink.errorNumbers(), ElementsAre(int(SshMessage::HostNotSet)));
@@ -69,7 +69,7 @@ TEST_F(LinuxPipe, TellsHowToSetTheHost) {
     EXPECT_EQ(sink.completed, 0);
 }
 
-TEST_F(LinuxPipe, TakesWhatTheProjectSaysBeforeWhatTheUserSays) {
+TEST_F(LinuxPipe, PrefersTheProjectsSettings) {
     test::TestHost host;
     const auto vbProject = host.open(test::SampleProject{});
     auto user = settings();
@@ -84,7 +84,7 @@ TEST_F(LinuxPipe, TakesWhatTheProjectSaysBeforeWhatTheUserSays) {
     EXPECT_FALSE(std::filesystem::exists(server.folder / "unused"));
 }
 
-TEST_F(LinuxPipe, TellsWhatWentWrongAndKeepsTheOldApplication) {
+TEST_F(LinuxPipe, ReportsAnErrorAndKeepsTheOldApplication) {
     project.image();
     EXPECT_TRUE(send());
     server.makeKey("stranger");

@@ -1,4 +1,4 @@
-// Who is reached, and who is let in.
+// Connecting, verifying the host key and authenticating.
 #include "tests/pipes_ssh/cutting_proxy.h"
 #include "tests/pipes_ssh/ssh_device.h"
 #include <optional>
@@ -11,7 +11,7 @@ using qlpipe::SshStorage;
 using test::expectError;
 using test::transferErrorOf;
 
-/// A variable of the environment for the time of a test; nullopt takes it away.
+/// Sets an environment variable during a test, or unsets it for nullopt.
 class Variable {
 public:
     Variable(const char* name, const std::optional<std::string>& value) : name_(name) {
@@ -36,7 +36,7 @@ protected:
     Variable noAgent{"SSH_AUTH_SOCK", std::nullopt};
 };
 
-/// With an SSH agent that holds nothing yet.
+/// With an SSH agent without keys.
 class SshAgent : public SshConnection {
 protected:
     SshAgent() {
@@ -55,7 +55,7 @@ protected:
         ::chmod((server.folder / key).c_str(), 0600);
         test::runProgram({"ssh-add", "-q", server.folder / key}, server.folder / "log");
     }
-    /// With a key in the agent that the device knows, and a file of it that has a passphrase.
+    /// Adds a key that the device knows to the agent, and protects its file with a passphrase.
     void addProtectedKey() const {
         add("user_key");
         test::runProgram({"ssh-keygen", "-q", "-p", "-P", "", "-N", "secret", "-f", server.folder / "user_key"},
@@ -67,9 +67,9 @@ protected:
     Variable variable{"SSH_AUTH_SOCK", socket};
 };
 
-TEST_F(SshConnection, LetsTheUserInByHisKeyFile) { EXPECT_NO_THROW(connect()); }
+TEST_F(SshConnection, AuthenticatesWithTheKeyFile) { EXPECT_NO_THROW(connect()); }
 
-TEST_F(SshConnection, TakesTheUsualKeysWithoutAKeyFile) {
+TEST_F(SshConnection, UsesTheDefaultKeysWithoutAKeyFile) {
     std::filesystem::create_directory(server.folder / ".ssh");
     std::filesystem::rename(server.folder / "user_key", server.folder / ".ssh/id_ed25519");
     const Variable home{"HOME", server.folder.path()};
@@ -78,7 +78,7 @@ TEST_F(SshConnection, TakesTheUsualKeysWithoutAKeyFile) {
     EXPECT_NO_THROW((SshStorage{to, patient()}));
 }
 
-TEST_F(SshConnection, RefusesAnUnknownHostAndSaysHowToMakeItKnown) {
+TEST_F(SshConnection, RefusesAnUnknownHostAndExplainsHowToAcceptIt) {
     server.folder.write("known_hosts", "");
     const auto error = refusal(target());
     expectError(error, SshMessage::HostKeyUnknown,
@@ -89,18 +89,18 @@ TEST_F(SshConnection, RefusesAnUnknownHostAndSaysHowToMakeItKnown) {
     EXPECT_NO_THROW(connect());
 }
 
-TEST_F(SshConnection, KnowsHostsWhoseNamesAreHashed) {
+TEST_F(SshConnection, AcceptsHashedHostNames) {
     test::runProgram({"ssh-keygen", "-H", "-f", server.folder / "known_hosts"}, server.folder / "log");
     EXPECT_THAT(server.folder.read("known_hosts"), testing::StartsWith("|1|"));
     EXPECT_NO_THROW(connect());
 }
 
-TEST_F(SshConnection, TakesAMissingFileOfKnownHostsForOneThatKnowsNobody) {
+TEST_F(SshConnection, TreatsAMissingKnownHostsFileAsEmpty) {
     std::filesystem::remove(server.folder / "known_hosts");
     expectError(refusal(target()), SshMessage::HostKeyUnknown, {server.fingerprint("host_key")});
 }
 
-TEST_F(SshConnection, RefusesAHostWhoseKeyHasChangedAndSaysHowToAcceptIt) {
+TEST_F(SshConnection, RefusesAChangedHostKeyAndExplainsHowToAcceptIt) {
     server.makeKey("other_key");
     server.folder.write("known_hosts", server.knownHost(server.port, "other_key"));
     const auto error = refusal(target());
@@ -111,27 +111,27 @@ TEST_F(SshConnection, RefusesAHostWhoseKeyHasChangedAndSaysHowToAcceptIt) {
     EXPECT_EQ(transferErrorOf([&] { connect(); }).text, "no error");
 }
 
-TEST_F(SshConnection, RefusesToGuessWhenKnownHostsCantBeRead) {
+TEST_F(SshConnection, FailsIfKnownHostsCannotBeRead) {
     auto to = target();
     to.knownHosts = server.folder / "known_hosts/below_a_file";
     expectError(refusal(to), SshMessage::KnownHostsUnreadable, {to.knownHosts});
 }
 
-TEST_F(SshConnection, RefusesAKeyThatTheDeviceDoesNotKnow) {
+TEST_F(SshConnection, ReportsAKeyThatTheDeviceRefuses) {
     server.makeKey("stranger");
     auto to = target();
     to.keyFile = server.folder / "stranger";
     expectError(refusal(to), SshMessage::KeysRefused, {to.keyFile, "ssh-copy-id", std::to_string(server.port)});
 }
 
-TEST_F(SshConnection, SaysWhenThereIsNoKeyAtAll) {
+TEST_F(SshConnection, ReportsThatThereAreNoKeys) {
     const Variable home{"HOME", server.folder / "nobody"};
     auto to = target();
     to.keyFile = "";
-    expectError(refusal(to), SshMessage::KeysRefused, {"there was none"});
+    expectError(refusal(to), SshMessage::KeysRefused, {"there are none"});
 }
 
-TEST_F(SshConnection, SaysWhichKeyFileCantBeUsed) {
+TEST_F(SshConnection, ReportsAnUnusableKeyFile) {
     auto to = target();
     to.keyFile = server.folder / "none";
     expectError(refusal(to), SshMessage::KeyFileMissing, {to.keyFile, "No such file", "KeyFile"});
@@ -139,16 +139,17 @@ TEST_F(SshConnection, SaysWhichKeyFileCantBeUsed) {
     expectError(refusal(to), SshMessage::KeyFileUnusable, {to.keyFile});
 }
 
-TEST_F(SshConnection, AsksForNoPassphraseButTellsOfTheAgent) {
+TEST_F(SshConnection, RefersToTheAgentForAPassphrase) {
     auto to = target();
     to.keyFile = server.folder / "it's protected";
     for (const auto& kind : {std::vector<std::string>{"-t", "ed25519"}, {"-t", "ecdsa", "-m", "PEM"}}) {
         server.makeKey("it's protected", "secret", kind);
-        expectError(refusal(to), SshMessage::KeyNeedsAgent, {"ssh-add '", "it'\\''s protected'", "no agent runs"});
+        expectError(refusal(to), SshMessage::KeyNeedsAgent,
+                    {"ssh-add '", "it'\\''s protected'", "no agent is running"});
     }
 }
 
-TEST_F(SshConnection, TakesKeysOfOtherKinds) {
+TEST_F(SshConnection, AcceptsOtherTypesOfKeys) {
     auto to = target();
     to.keyFile = server.folder / "other";
     for (const auto& kind : {std::vector<std::string>{"-t", "ecdsa", "-m", "PEM"}, {"-t", "rsa", "-b", "2048"}}) {
@@ -158,19 +159,19 @@ TEST_F(SshConnection, TakesKeysOfOtherKinds) {
     }
 }
 
-TEST_F(SshAgent, LetsTheUserInByAKeyOfTheAgent) {
+TEST_F(SshAgent, AuthenticatesWithAKeyOfTheAgent) {
     add("user_key");
     auto to = target();
     to.keyFile = "";
     EXPECT_NO_THROW((SshStorage{to, patient()}));
 }
 
-TEST_F(SshAgent, LetsTheUserInByTheAgentsCopyOfAProtectedKey) {
+TEST_F(SshAgent, AuthenticatesWithTheAgentsCopyOfAProtectedKey) {
     addProtectedKey();
     EXPECT_NO_THROW(connect());
 }
 
-TEST_F(SshAgent, TriesTheNextKeyWhenTheDeviceDoesNotKnowTheFirst) {
+TEST_F(SshAgent, TriesTheNextKeyIfTheFirstIsRefused) {
     server.makeKey("stranger");
     add("stranger");
     add("user_key");
@@ -179,14 +180,14 @@ TEST_F(SshAgent, TriesTheNextKeyWhenTheDeviceDoesNotKnowTheFirst) {
     EXPECT_NO_THROW((SshStorage{to, patient()}));
 }
 
-TEST_F(SshAgent, SaysThatTheAgentLacksTheProtectedKey) {
+TEST_F(SshAgent, ReportsThatTheAgentDoesNotHaveTheProtectedKey) {
     server.makeKey("protected", "secret");
     auto to = target();
     to.keyFile = server.folder / "protected";
     expectError(refusal(to), SshMessage::KeyNeedsAgent, {"ssh-add '" + to.keyFile + "'", "none of the agent's keys"});
 }
 
-TEST_F(SshAgent, SaysWhatWasTriedWhenTheServerHasEnough) {
+TEST_F(SshAgent, ReportsTheKeysTriedIfTheServerDisconnects) {
     for (int i = 0; i < 8; ++i) {
         const auto key = "stranger" + std::to_string(i);
         server.makeKey(key);
@@ -197,7 +198,7 @@ TEST_F(SshAgent, SaysWhatWasTriedWhenTheServerHasEnough) {
     expectError(refusal(to), SshMessage::KeysRefused, {"SSH agent", "KeyFile"});
 }
 
-TEST_F(SshConnection, SaysWhenNothingListens) {
+TEST_F(SshConnection, ReportsARefusedConnection) {
     expectError(refusal(targetAt(test::freePort())), SshMessage::NotConnected, {"127.0.0.1:", "Connection refused"});
 }
 
@@ -219,14 +220,14 @@ TEST_F(SshConnection, ReachesAHandheldByIpv6) {
     EXPECT_EQ(transferErrorOf([&] { SshStorage{to, patient()}; }).text, "no error");
 }
 
-TEST_F(SshConnection, SaysWhenTheNameIsUnknown) {
+TEST_F(SshConnection, ReportsAnUnknownHostName) {
     auto to = target();
-    // no part of a name is so long, so that nobody is asked
+    // An invalid label, so that no name server is queried.
     to.host = std::string(64, 'x') + ".invalid";
     expectError(refusal(to), SshMessage::HostNotFound, {to.host, "Host"});
 }
 
-TEST_F(SshConnection, WaitsNotForEverForAServerThatNeverSpeaks) {
+TEST_F(SshConnection, TimesOutIfTheServerSendsNothing) {
     const int silent = test::listenOnLoopback();
     auto timeouts = patient();
     timeouts.connect = std::chrono::milliseconds(200);
@@ -239,7 +240,7 @@ TEST_F(SshConnection, WaitsNotForEverForAServerThatNeverSpeaks) {
     ::close(silent);
 }
 
-TEST_F(SshConnection, SaysWhenAnotherProgramAnswers) {
+TEST_F(SshConnection, ReportsAServerThatIsNotSsh) {
     const int listener = test::listenOnLoopback();
     std::thread other([listener] {
         const int socket = ::accept(listener, nullptr, nullptr);
@@ -251,7 +252,7 @@ TEST_F(SshConnection, SaysWhenAnotherProgramAnswers) {
     ::close(listener);
 }
 
-TEST(SshServerWithoutSftp, IsToldApart) {
+TEST(SshServerWithoutSftp, IsReported) {
     for (const char* configuration : {"", "Subsystem sftp /nowhere/sftp-server\n"}) {
         const test::SshServer server{configuration};
         const qlpipe::SshTarget to{"127.0.0.1",
@@ -265,7 +266,7 @@ TEST(SshServerWithoutSftp, IsToldApart) {
     }
 }
 
-TEST(SshServerThatPrints, IsToldApart) {
+TEST(SshServerThatPrints, IsReported) {
     const test::SshServer server{"Subsystem sftp echo Welcome to this handheld; cat\n"};
     const qlpipe::SshTarget to{"127.0.0.1",
                                server.port,
@@ -277,15 +278,15 @@ TEST(SshServerThatPrints, IsToldApart) {
     expectError(transferErrorOf([&] { SshStorage{to, {}}; }), SshMessage::AnswerInvalid, {".bashrc"});
 }
 
-/// Begins as it should, and then says what no server would: to the first request, whose number is 1.
-TEST(SshServerThatTalksNonsense, IsToldApart) {
+/// Starts correctly and then sends an invalid reply to the first request, which has number 1.
+TEST(SshServerThatTalksNonsense, IsReported) {
     using namespace std::string_literals;
     const std::pair<std::string, const char*> nonsense[]{
         {"\0\xFF\xFF\xFF"s, "16777215 bytes"},
-        {"\0\0\0\x09\x65\0\0\0\x07\0\0\0\0"s, "no request"},
+        {"\0\0\0\x09\x65\0\0\0\x07\0\0\0\0"s, "without a request"},
         {"\0\0\0\x09\x65\0\0\0\x01\0\0\0\0"s, "without a result"},
         {"\0\0\0\x05\x66\0\0\0\x01"s, "kind 102"},
-        {"\0\0\0\x09\x69\0\0\0\x01\0\0\0\x01"s, "cut short"},
+        {"\0\0\0\x09\x69\0\0\0\x01\0\0\0\x01"s, "truncated"},
     };
     const test::TempFolder folder;
     const test::SshServer server{"Subsystem sftp cat " + (folder / "answer") + " -\n"};
@@ -302,7 +303,7 @@ TEST(SshServerThatTalksNonsense, IsToldApart) {
     }
 }
 
-TEST(SshServerThatWantsMore, IsToldApart) {
+TEST(SshServerThatWantsMore, IsReported) {
     const test::SshServer server{"Subsystem sftp internal-sftp\nAuthenticationMethods publickey,publickey\n"};
     const qlpipe::SshTarget to{"127.0.0.1",
                                server.port,
@@ -314,7 +315,7 @@ TEST(SshServerThatWantsMore, IsToldApart) {
     expectError(transferErrorOf([&] { SshStorage{to, {}}; }), SshMessage::KeyNotEnough, {"AuthenticationMethods"});
 }
 
-TEST_F(SshConnection, KeepsNoDescriptorsOpen) {
+TEST_F(SshConnection, ClosesAllDescriptors) {
     const auto open = [] {
         return std::distance(std::filesystem::directory_iterator("/proc/self/fd"),
                              std::filesystem::directory_iterator());

@@ -1,6 +1,6 @@
 #pragma once
-// A handheld for tests: this computer, reached by SSH.
-#include "Components/QLPipe/linux_handheld/ssh_messages.h"
+// A handheld for tests: this computer, accessed by SSH.
+#include "Components/QLPipe/base/ssh_messages.h"
 #include "Components/QLPipe/linux_handheld/ssh_storage.h"
 #include "tests/pipes_ssh/ssh_server.h"
 #include <gmock/gmock.h>
@@ -8,7 +8,7 @@
 
 namespace test {
 
-/// The error that a step ends with; number 0 for none.
+/// Returns the error thrown by a step, or number 0.
 template <class Step>
 qlpipe::TransferError transferErrorOf(Step&& step) {
     try {
@@ -17,14 +17,14 @@ qlpipe::TransferError transferErrorOf(Step&& step) {
     } catch (const qlpipe::TransferError& error) { return error; }
 }
 
-/// That it is of a row, and says so much.
+/// Expects an error of this row whose text contains `words`.
 inline void expectError(const qlpipe::TransferError& error, qlpipe::SshMessage message,
                         const std::vector<std::string>& words = {}) {
     EXPECT_EQ(error.number, std::int32_t(message)) << error.text;
     for (const auto& word : words) EXPECT_THAT(error.text, testing::HasSubstr(word));
 }
 
-/// The folder of applications on a server of its own.
+/// A test with its own SSH server.
 class SshDevice : public testing::Test {
 protected:
     qlpipe::SshTarget target() const { return targetAt(server.port); }
@@ -37,7 +37,7 @@ protected:
                 server.folder / "known_hosts",
                 false};
     }
-    /// A busy machine may take its time, where the test is not about time.
+    /// Generous timeouts for busy machines.
     static qlpipe::SshTimeouts patient() {
         using namespace std::chrono_literals;
         return {30s, 30s, 30s};
@@ -62,7 +62,7 @@ inline void put(qlpipe::DeviceStorage& device, const std::string& name, std::str
     file->close();
 }
 
-/// An application of two files in its folder, put in place of what is there.
+/// Deploys an application of two files, replacing an existing one.
 inline void deploy(qlpipe::DeviceStorage& device, const std::string& content) {
     device.remove("incoming");
     device.makeFolder("incoming/data");

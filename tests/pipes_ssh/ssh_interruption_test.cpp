@@ -1,5 +1,5 @@
-// Connections that break, stall, and devices that fail in the middle.
-#include "Components/QLPipe/pipe_messages.h"
+// Lost and stalled connections, and devices that fail during a transfer.
+#include "Components/QLPipe/base/pipe_messages.h"
 #include "tests/pipes_ssh/cutting_proxy.h"
 #include "tests/pipes_ssh/ssh_device.h"
 #include <sys/mount.h>
@@ -26,14 +26,14 @@ protected:
     std::unique_ptr<SshStorage> connectByProxy(const qlpipe::SshTimeouts& timeouts = patient()) const {
         return std::make_unique<SshStorage>(targetAt(proxy.port()), timeouts);
     }
-    /// The application as the next connection finds it.
+    /// Returns the application as seen by the next connection.
     std::string wholeApplication() { return wholeApplication(*connect()); }
     static std::string wholeApplication(SshStorage& device) {
         const auto content = device.read("applications/Game/Game.qlx");
         EXPECT_EQ(device.read("applications/Game/data/levels.txt"), content + " levels");
         return content;
     }
-    /// With little to wait for, in tests that wait to the end.
+    /// Short timeouts for tests that wait for them.
     static qlpipe::SshTimeouts impatient() {
         auto timeouts = patient();
         timeouts.operation = timeouts.flush = std::chrono::milliseconds(300);
@@ -43,12 +43,12 @@ protected:
     CuttingProxy proxy{server.port};
 };
 
-TEST_F(SshInterruption, LeavesAWholeApplicationWhereverItCuts) {
+TEST_F(SshInterruption, LeavesACompleteApplicationWhereverItHappens) {
     deploy(*connect(), "old");
     deploy(*connectByProxy(), "old");
     const auto all = proxy.sent();
     int broken = 0;
-    // the last of it first: there the old application gives way to the new one
+    // Begins at the end, where the old application is replaced.
     for (std::size_t left = 1; left < all; left += left < 2000 ? 110 : 1300) {
         proxy.cutAfter(all - left);
         const auto error = transferErrorOf([&] { deploy(*connectByProxy(), "new"); });
@@ -63,21 +63,21 @@ TEST_F(SshInterruption, LeavesAWholeApplicationWhereverItCuts) {
     EXPECT_GT(broken, 10);
 }
 
-TEST_F(SshInterruption, PutsBackWhatWasSetAsideWhenTheNewOneNeverCame) {
+TEST_F(SshInterruption, IsUndoneIfTheNewFolderIsMissing) {
     server.folder.write("device/.fernwick-replaced/applications%2FGame/Game.qlx", "old");
     server.folder.write("device/.fernwick-replaced/applications%2FGame/data/levels.txt", "old levels");
     EXPECT_EQ(wholeApplication(), "old");
     EXPECT_TRUE(std::filesystem::is_empty(server.folder / "device/.fernwick-replaced"));
 }
 
-TEST_F(SshInterruption, RemovesWhatWasSetAsideWhenTheNewOneStands) {
+TEST_F(SshInterruption, IsCleanedUpIfTheNewFolderExists) {
     deploy(*connect(), "new");
     server.folder.write("device/.fernwick-replaced/applications%2FGame/Game.qlx", "old");
     EXPECT_EQ(wholeApplication(), "new");
     EXPECT_TRUE(std::filesystem::is_empty(server.folder / "device/.fernwick-replaced"));
 }
 
-TEST_F(SshInterruption, LeavesAloneWhatItNeverSetAside) {
+TEST_F(SshInterruption, DoesNotRestoreUnknownNames) {
     for (const char* name : {"..%2F..%2Fescaped", "%2Fescaped", "50%off"})
         server.folder.write("device/.fernwick-replaced/" + std::string{name} + "/file", "x");
     connect();
@@ -85,7 +85,7 @@ TEST_F(SshInterruption, LeavesAloneWhatItNeverSetAside) {
     EXPECT_TRUE(isOnDevice(".fernwick-replaced/50%off/file"));
 }
 
-TEST_F(SshInterruption, SaysThatTheConnectionBroke) {
+TEST_F(SshInterruption, ReportsALostConnection) {
     const auto device = connectByProxy();
     device->makeFolder("a");
     const auto file = device->create("a/file");
@@ -98,20 +98,20 @@ TEST_F(SshInterruption, SaysThatTheConnectionBroke) {
     EXPECT_FALSE(isOnDevice("a/file"));
 }
 
-TEST_F(SshInterruption, SaysThatTheServerWasKilled) {
+TEST_F(SshInterruption, ReportsAKilledServer) {
     const auto device = connect();
     device->makeFolder("a");
     server.kill();
     expectError(transferErrorOf([&] { put(*device, "a/file", "x"); }), SshMessage::ConnectionLost);
 }
 
-TEST_F(SshInterruption, WaitsNotForEverForAReply) {
+TEST_F(SshInterruption, TimesOutWithoutAReply) {
     const auto device = connectByProxy(impatient());
     proxy.freeze(true);
     expectError(transferErrorOf([&] { device->exists("a"); }), SshMessage::Stalled, {"0.3 seconds"});
 }
 
-TEST_F(SshInterruption, WaitsNotForEverForRoomInTheNetwork) {
+TEST_F(SshInterruption, TimesOutIfTheNetworkIsBlocked) {
     auto timeouts = impatient();
     const auto device = connectByProxy(timeouts);
     device->makeFolder("a");
@@ -124,7 +124,7 @@ TEST_F(SshInterruption, WaitsNotForEverForRoomInTheNetwork) {
                 SshMessage::Stalled, {"0.3 seconds"});
 }
 
-TEST_F(SshInterruption, WaitsForAServerThatIsSlow) {
+TEST_F(SshInterruption, WaitsForASlowServer) {
     auto timeouts = patient();
     const auto device = connectByProxy(timeouts);
     proxy.freeze(true);
@@ -136,7 +136,7 @@ TEST_F(SshInterruption, WaitsForAServerThatIsSlow) {
     thaw.join();
 }
 
-TEST_F(SshInterruption, ListsNoPieceThatAnInterruptionLeftAndOverwritesIt) {
+TEST_F(SshInterruption, LeavesAnUnlistedPartThatIsOverwritten) {
     {
         const auto device = connectByProxy();
         device->makeFolder("a");
@@ -156,7 +156,7 @@ TEST_F(SshInterruption, ListsNoPieceThatAnInterruptionLeftAndOverwritesIt) {
     EXPECT_EQ(onDevice("a/file"), "new");
 }
 
-TEST_F(SshInterruption, StopsWhenALaterTransferTakesTheDevice) {
+TEST_F(SshInterruption, StopsIfALaterTransferTakesTheDevice) {
     const auto first = connect(), second = connect();
     first->makeFolder("incoming");
     put(*first, "incoming/a", "first");
@@ -174,20 +174,20 @@ TEST_F(SshInterruption, StopsWhenALaterTransferTakesTheDevice) {
     EXPECT_EQ(onDevice("applications/a"), "second");
 }
 
-TEST_F(SshInterruption, LooksAtADeviceWithoutTakingIt) {
+TEST_F(SshInterruption, DoesNotTakeTheDeviceForReading) {
     const auto first = connect();
     first->makeFolder("incoming");
     EXPECT_THAT(connect()->list(""), ElementsAre("incoming"));
     EXPECT_NO_THROW(put(*first, "incoming/a", "first"));
 }
 
-/// A folder of a few kilobytes on the device, where the test may mount one.
+/// A device with a disk of a few kilobytes, if the test may mount one.
 class SshFullDevice : public SshInterruption {
 protected:
     void SetUp() override {
         std::filesystem::create_directory(server.folder / "device");
         mounted = ::mount("tmpfs", (server.folder / "device").c_str(), "tmpfs", 0, "size=64k") == 0;
-        if (!mounted) GTEST_SKIP() << "only root may mount a small disk";
+        if (!mounted) GTEST_SKIP() << "only root can mount a small disk";
     }
     void TearDown() override {
         if (mounted) ::umount2((server.folder / "device").c_str(), MNT_DETACH);
@@ -195,19 +195,19 @@ protected:
     bool mounted = false;
 };
 
-TEST_F(SshFullDevice, KeepsTheOldApplicationAndSaysThatThereIsNoRoom) {
+TEST_F(SshFullDevice, KeepsTheOldApplicationAndReportsTheFullDevice) {
     const auto device = connect();
     deploy(*device, "old");
     EXPECT_GT(device->freeSpaceFor("applications/Game"), 0);
     EXPECT_LE(device->freeSpaceFor("applications/Game"), 64 * 1024);
     expectError(transferErrorOf([&] { deploy(*device, std::string(200'000, 'x')); }), SshMessage::DeviceFull,
-                {"no room", "device/incoming/Game.qlx"});
+                {"not enough space", "device/incoming/Game.qlx"});
     EXPECT_EQ(wholeApplication(), "old");
     EXPECT_TRUE(connect()->list("incoming").size() < 2);
 }
 
-/// A server on which nothing can be written, also by root.
-TEST(SshReadOnlyDevice, SaysWhatItMayNotDo) {
+/// A server on which nobody can write, not even root.
+TEST(SshReadOnlyDevice, ReportsTheRefusedOperation) {
     const test::SshServer server{"Subsystem sftp internal-sftp -R\n"};
     server.folder.write("device/file", "x");
     SshStorage device{{"127.0.0.1", server.port, qlpipe::userName(), server.folder / "user_key",
@@ -218,13 +218,14 @@ TEST(SshReadOnlyDevice, SaysWhatItMayNotDo) {
              [&] { device.create("new"); },
              [&] { device.remove("file"); },
          })
-        expectError(transferErrorOf(step), SshMessage::AccessDenied,
-                    {qlpipe::userName() + " write into", "/device (Permission denied)", "Folder"});
+        expectError(
+            transferErrorOf(step), SshMessage::AccessDenied,
+            {qlpipe::userName() + " may not write to", "/device on the handheld (Permission denied)", "Folder"});
     EXPECT_EQ(device.read("file"), "x");
 }
 
-/// New keys in the middle of a transfer, as in very long ones.
-TEST(SshServerThatChangesKeys, DisturbsNothing) {
+/// Key re-exchange during a transfer, as in very long ones.
+TEST(SshServerThatChangesKeys, DoesNotDisturbATransfer) {
     const test::SshServer server{"Subsystem sftp internal-sftp\nRekeyLimit 512K\n"};
     SshStorage device{{"127.0.0.1", server.port, qlpipe::userName(), server.folder / "user_key",
                        server.folder / "device", server.folder / "known_hosts", false},
@@ -236,8 +237,8 @@ TEST(SshServerThatChangesKeys, DisturbsNothing) {
     EXPECT_TRUE(server.folder.read("device/a/file") == bytes);
 }
 
-/// A server of the kind that has nothing beyond the bare protocol.
-TEST(SshPlainServer, ServesAllTheSame) {
+/// A server without protocol extensions.
+TEST(SshPlainServer, IsSupported) {
     const test::SshServer server{"Subsystem sftp internal-sftp -P posix-rename,fsync,statvfs\n"};
     SshStorage device{{"127.0.0.1", server.port, qlpipe::userName(), server.folder / "user_key",
                        server.folder / "device", server.folder / "known_hosts", false},

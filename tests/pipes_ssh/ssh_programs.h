@@ -1,5 +1,5 @@
 #pragma once
-// Programs of OpenSSH that tests start, and stop.
+// Runs OpenSSH programs for tests.
 #include <csignal>
 #include <cstdlib>
 #include <fcntl.h>
@@ -15,7 +15,7 @@ extern char** environ;
 
 namespace test {
 
-/// A program that runs until its owner goes. What it prints goes to a file.
+/// Runs a program until this object is destroyed. Its output is written to a file.
 class RunningProgram {
 public:
     RunningProgram(const std::vector<std::string>& command, const std::string& output) {
@@ -35,12 +35,12 @@ public:
     ~RunningProgram() { stop(); }
 
     pid_t pid() const { return pid_; }
-    /// Whether it has ended of itself.
+    /// Returns whether the program has exited.
     bool hasEnded() {
         if (pid_ != 0 && ::waitpid(pid_, nullptr, WNOHANG) == pid_) pid_ = 0;
         return pid_ == 0;
     }
-    /// Its exit status, when it has ended.
+    /// The exit status after it has exited.
     int wait() {
         int status = 0;
         ::waitpid(std::exchange(pid_, 0), &status, 0);
@@ -56,7 +56,7 @@ private:
     pid_t pid_ = 0;
 };
 
-/// Runs a program to its end.
+/// Runs a program and waits for it.
 inline void runProgram(const std::vector<std::string>& command, const std::string& output) {
     if (RunningProgram{command, output}.wait() != 0) throw std::runtime_error(command[0] + " failed");
 }

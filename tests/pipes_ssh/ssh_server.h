@@ -1,5 +1,5 @@
 #pragma once
-// An OpenSSH server of the test's own on 127.0.0.1, with keys and folders below one temporary folder.
+// An OpenSSH server on 127.0.0.1 with keys and folders in a temporary folder.
 #include "Components/QLPipe/linux_handheld/user_account.h"
 #include "tests/pipes_ssh/ssh_programs.h"
 #include "tests/support/temp_folder.h"
@@ -13,7 +13,7 @@
 
 namespace test {
 
-/// A TCP socket on 127.0.0.1 that listens, at a port of the system's choice unless told.
+/// Returns a listening TCP socket on 127.0.0.1. Port 0 lets the system choose.
 inline int listenOnLoopback(std::uint16_t port = 0) {
     const int listener = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
     sockaddr_in address{};
@@ -32,7 +32,7 @@ inline std::uint16_t portOfSocket(int socket) {
     return ntohs(address.sin_port);
 }
 
-/// A port at which nothing listens.
+/// Returns an unused port.
 inline std::uint16_t freePort() {
     const int listener = listenOnLoopback();
     const auto port = portOfSocket(listener);
@@ -40,7 +40,7 @@ inline std::uint16_t freePort() {
     return port;
 }
 
-/// The socket of a new connection, or -1.
+/// Accepts a connection and returns its socket, or -1.
 inline int connectToLoopback(std::uint16_t port) {
     const int socket = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
     sockaddr_in address{};
@@ -54,13 +54,13 @@ inline int connectToLoopback(std::uint16_t port) {
 
 class SshServer {
 public:
-    /// `more` are lines for its sshd_config.
+    /// `more` are further lines of sshd_config.
     explicit SshServer(const std::string& more = "Subsystem sftp internal-sftp\n") {
         makeKey("host_key");
         makeKey("user_key");
         folder.write("authorized_keys", folder.read("user_key.pub"));
         ::chmod((folder / "authorized_keys").c_str(), 0600);
-        // as root, the server wants it, and a container may lack it
+        // Required when running as root; containers may lack it.
         if (::geteuid() == 0) ::mkdir("/run/sshd", 0755);
         for (int attempt = 0; attempt < 5 && !server_; ++attempt) {
             port = freePort();
@@ -70,7 +70,7 @@ public:
         folder.write("known_hosts", knownHost(port, "host_key"));
     }
 
-    /// After it was killed, at the same port. Another program may have taken that; then there is no server.
+    /// Restarts a killed server at the same port. Fails if another program uses the port by now.
     void start() {
         server_ = std::make_unique<RunningProgram>(
             std::vector<std::string>{"/usr/sbin/sshd", "-D", "-e", "-f", folder / "sshd_config"}, folder / "log");
@@ -84,7 +84,7 @@ public:
         server_.reset();
     }
 
-    /// `more` are options of ssh-keygen.
+    /// `more` are further options of ssh-keygen.
     void makeKey(const std::string& name, const std::string& passphrase = "",
                  const std::vector<std::string>& more = {"-t", "ed25519"}) const {
         std::filesystem::remove(folder / name);
@@ -92,11 +92,11 @@ public:
         command.insert(command.end(), more.begin(), more.end());
         runProgram(command, folder / "log");
     }
-    /// The line of a key in known_hosts.
+    /// Returns the known_hosts line of a key.
     std::string knownHost(std::uint16_t atPort, const std::string& key) const {
         return "[127.0.0.1]:" + std::to_string(atPort) + " " + folder.read(key + ".pub");
     }
-    /// "SHA256:..." as ssh-keygen prints it.
+    /// Returns "SHA256:..." as printed by ssh-keygen.
     std::string fingerprint(const std::string& key) const {
         const auto output = folder / (key + ".fingerprint");
         runProgram({"ssh-keygen", "-lf", folder / (key + ".pub")}, output);
@@ -105,7 +105,7 @@ public:
         return line.substr(begin, line.find(' ', begin) - begin);
     }
 
-    /// Of the server and of all that it has started for connections.
+    /// Process IDs of the server and its connections.
     void signalAll(int signal) const {
         for (const pid_t pid : descendants(server_->pid())) ::kill(pid, signal);
     }

@@ -1,4 +1,4 @@
-// The storage of a Linux handheld, as pipes use it.
+// The storage of a Linux handheld.
 #include "tests/pipes_ssh/ssh_device.h"
 
 namespace {
@@ -22,7 +22,7 @@ TEST_F(SshStorageTest, DeploysAnApplication) {
     EXPECT_THAT(device->list("applications/Game"), ElementsAre("Game.qlx", "data"));
 }
 
-TEST_F(SshStorageTest, ReplacesAnApplicationWithAllThatWasInIt) {
+TEST_F(SshStorageTest, ReplacesAnApplicationCompletely) {
     const auto device = connect();
     deploy(*device, "one");
     put(*device, "applications/Game/old.txt", "old");
@@ -33,12 +33,12 @@ TEST_F(SshStorageTest, ReplacesAnApplicationWithAllThatWasInIt) {
     EXPECT_TRUE(std::filesystem::is_empty(server.folder / "device/.fernwick-replaced"));
 }
 
-TEST_F(SshStorageTest, SaysWhereItIs) {
+TEST_F(SshStorageTest, ReportsItsLocation) {
     EXPECT_EQ(connect()->location(),
               qlpipe::userName() + "@127.0.0.1:" + std::to_string(server.port) + ":" + (server.folder / "device"));
 }
 
-TEST_F(SshStorageTest, TakesAFolderWithoutASlashForOneInTheHomeFolder) {
+TEST_F(SshStorageTest, ResolvesARelativeFolderInTheHomeFolder) {
     auto to = target();
     to.folder = "fernwick-test-that-is-never-made";
     const auto location = qlpipe::SshStorage{to, patient()}.location();
@@ -46,7 +46,7 @@ TEST_F(SshStorageTest, TakesAFolderWithoutASlashForOneInTheHomeFolder) {
     EXPECT_THAT(location, testing::HasSubstr(std::to_string(server.port) + ":/"));
 }
 
-TEST_F(SshStorageTest, LooksWithoutMakingAnything) {
+TEST_F(SshStorageTest, CreatesNothingWhenReading) {
     const auto device = connect();
     EXPECT_THAT(device->list("applications"), IsEmpty());
     EXPECT_FALSE(device->exists("applications/Game"));
@@ -84,7 +84,7 @@ TEST_F(SshStorageTest, WritesAnEmptyFile) {
     EXPECT_EQ(device->read("a/empty"), "");
 }
 
-TEST_F(SshStorageTest, LeavesNothingOfAFileThatWasNotClosed) {
+TEST_F(SshStorageTest, DiscardsAFileThatWasNotClosed) {
     const auto device = connect();
     device->makeFolder("a");
     {
@@ -108,7 +108,7 @@ TEST_F(SshStorageTest, ReplacesAFile) {
     EXPECT_THAT(device->list("a"), ElementsAre("list"));
 }
 
-TEST_F(SshStorageTest, RemovesAFolderWithAllThatIsInIt) {
+TEST_F(SshStorageTest, RemovesAFolderWithItsContent) {
     const auto device = connect();
     device->makeFolder("a/b/c");
     for (int i = 0; i < 150; ++i) server.folder.write("device/a/b/file" + std::to_string(i), "x");
@@ -117,14 +117,14 @@ TEST_F(SshStorageTest, RemovesAFolderWithAllThatIsInIt) {
     EXPECT_FALSE(isOnDevice("a"));
 }
 
-TEST_F(SshStorageTest, RefusesANameThatIsTaken) {
+TEST_F(SshStorageTest, RefusesAnExistingName) {
     const auto device = connect();
     deploy(*device, "one");
     expectError(transferErrorOf([&] { device->create("applications/Game"); }), SshMessage::NameTaken,
                 {"device/applications/Game"});
 }
 
-TEST_F(SshStorageTest, RefusesAFileWhereAFolderIsNeeded) {
+TEST_F(SshStorageTest, RefusesAFileInPlaceOfAFolder) {
     server.folder.write("device/applications", "a file");
     const auto device = connect();
     for (const auto& step : std::vector<std::function<void()>>{
@@ -143,7 +143,7 @@ TEST_F(SshStorageTest, RefusesToReadALargeFile) {
     EXPECT_EQ(device->read("small").size(), 1024u * 1024u);
 }
 
-TEST_F(SshStorageTest, SaysWhatIsNotThere) {
+TEST_F(SshStorageTest, ReportsAMissingFile) {
     const auto device = connect();
     device->makeFolder("a");
     expectError(transferErrorOf([&] { device->read("none"); }), SshMessage::NotThere, {"read", "device/none"});
@@ -155,10 +155,10 @@ TEST_F(SshStorageTest, ReadsOnlyFiles) {
     device->makeFolder("a");
     ::mkfifo((server.folder / "device/a/pipe").c_str(), 0600);
     for (const char* name : {"a", "a/pipe"})
-        expectError(transferErrorOf([&] { device->read(name); }), SshMessage::OperationFailed, {"no file"});
+        expectError(transferErrorOf([&] { device->read(name); }), SshMessage::OperationFailed, {"not a file"});
 }
 
-TEST_F(SshStorageTest, WritesThroughNoLinkThatLiesInItsWay) {
+TEST_F(SshStorageTest, DoesNotWriteThroughLinks) {
     server.folder.write("outside", "mine");
     const auto device = connect();
     device->makeFolder("a");
@@ -175,7 +175,7 @@ TEST_F(SshStorageTest, WritesThroughNoLinkThatLiesInItsWay) {
     EXPECT_EQ(onDevice("a/file"), "new");
 }
 
-TEST_F(SshStorageTest, FollowsNoLinkOutOfTheFolder) {
+TEST_F(SshStorageTest, DoesNotFollowLinksOutOfTheFolder) {
     deploy(*connect(), "one");
     server.folder.write("outside/Game/file", "mine");
     std::filesystem::create_symlink(server.folder / "outside", server.folder / "device/linked");
@@ -193,7 +193,7 @@ TEST_F(SshStorageTest, FollowsNoLinkOutOfTheFolder) {
     EXPECT_EQ(server.folder.read("outside/Game/file"), "mine");
 }
 
-TEST_F(SshStorageTest, RemovesALinkAndNotWhereItLeads) {
+TEST_F(SshStorageTest, RemovesALinkNotItsTarget) {
     server.folder.write("outside/file", "mine");
     server.folder.write("device/Game/file", "x");
     std::filesystem::create_symlink(server.folder / "outside", server.folder / "device/Game/linked");
@@ -202,7 +202,7 @@ TEST_F(SshStorageTest, RemovesALinkAndNotWhereItLeads) {
     EXPECT_EQ(server.folder.read("outside/file"), "mine");
 }
 
-TEST_F(SshStorageTest, TakesALinkThatTheUserSetAsItsFolder) {
+TEST_F(SshStorageTest, AcceptsALinkAsItsFolder) {
     std::filesystem::create_directory(server.folder / "card");
     std::filesystem::create_symlink(server.folder / "card", server.folder / "device");
     const auto device = connect();

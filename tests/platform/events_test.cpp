@@ -10,7 +10,7 @@ using fernwick::Subscription;
 using fernwick::WithEvents;
 using Calls = std::vector<std::string>;
 
-TEST(Event, ServesThoseThatWereThereAndStillAre) {
+TEST(Event, CallsHandlersConnectedBeforeAndStill) {
     Event<> event;
     Calls calls;
     Subscription goes, comes;
@@ -29,7 +29,7 @@ TEST(Event, ServesThoseThatWereThereAndStillAre) {
     EXPECT_EQ(calls, (Calls{"first", "last", "late"}));
 }
 
-TEST(Event, ServesAllAndPassesTheFirstErrorOn) {
+TEST(Event, CallsAllHandlersAndThrowsTheFirstError) {
     Event<int> event;
     Calls calls;
     const auto a = event.connect([&](int) { throw basic::RuntimeError(5, "first"); });
@@ -39,7 +39,7 @@ TEST(Event, ServesAllAndPassesTheFirstErrorOn) {
     EXPECT_EQ(calls, Calls{"7"});
 }
 
-TEST(Event, MayDieInItsOwnRaise) {
+TEST(Event, MayBeDestroyedDuringItsRaise) {
     auto event = std::make_unique<Event<>>();
     int calls = 0;
     const auto a = event->connect([&] {
@@ -121,7 +121,7 @@ TEST(WithEvents, FollowsItsSource) {
     EXPECT_FALSE(listener.sink);
 }
 
-TEST(WithEvents, MayLetGoOfTheLastReferenceWithinTheRaise) {
+TEST(WithEvents, MayReleaseTheLastReferenceDuringTheRaise) {
     Listener listener;
     auto source = basic::make<Source>();
     const std::weak_ptr<Source> watch = source.shared();
@@ -134,7 +134,7 @@ TEST(WithEvents, MayLetGoOfTheLastReferenceWithinTheRaise) {
     EXPECT_EQ(listener.calls, (Calls{"silent", "still here"}));
 }
 
-TEST(WithEvents, LetsGoWhenItDies) {
+TEST(WithEvents, ReleasesItsSourceWhenDestroyed) {
     const auto source = basic::make<Source>();
     {
         Listener listener;

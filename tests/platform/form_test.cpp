@@ -49,7 +49,7 @@ struct Presser : Interaction {
 
 } // namespace
 
-TEST(Form, FieldsOutliveUnloadAndControlsComeBackAsDesigned) {
+TEST(Form, KeepsFieldsAfterUnloadAndResetsControls) {
     Presser user;
     frmQuestion form{user};
     form.Load();
@@ -81,7 +81,7 @@ TEST(Form, ShowingAShownFormIsError400) {
     EXPECT_EQ(form.activations, 2);
 }
 
-TEST(Form, AnErrorLetOutEndsTheFormAndComesOut) {
+TEST(Form, AnErrorEndsTheFormAndIsThrown) {
     Presser user;
     frmQuestion form{user};
     form.fail = true;
@@ -158,10 +158,10 @@ TEST(Property, WatcherMayEndItselfSetAgainOrDestroyTheProperty) {
     });
     (*property)(2);
     EXPECT_FALSE(property);
-    EXPECT_EQ(told, (std::vector<int>{2, 2, 3, -3})); // the outer -2 is not told: the property died within
+    EXPECT_EQ(told, (std::vector<int>{2, 2, 3, -3})); // no outer -2: the property was destroyed
 }
 
-TEST(Property, EqualValuesTellNobody) {
+TEST(Property, EqualValuesDoNotNotify) {
     Property<std::string> property{"a"};
     int told = 0;
     const auto watch = property.watch([&](const std::string&) { ++told; });

@@ -7,7 +7,7 @@ using namespace fernwick;
 
 namespace {
 
-/// Every timer is due at every turn.
+/// All timers are due at each turn.
 class EagerLoop : public EventLoop {
 public:
     void Post(std::function<void()> event) override { queue_.push_back(std::move(event)); }
@@ -49,7 +49,7 @@ TEST(Timer, TicksOnlyWhileEnabledAndNeverInsideItsOwnTick) {
     EXPECT_FALSE(ticker.timer.Enabled());
 }
 
-TEST(Timer, TicksAgainAfterATickThatFailed) {
+TEST(Timer, TicksAgainAfterAFailedTick) {
     EagerLoop loop;
     Ticker ticker{loop};
     ticker.failOnce = true;

@@ -1,5 +1,5 @@
 #pragma once
-// Trees as S-expressions: what the parser's tests compare.
+// Prints syntax trees as S-expressions for the parser's tests.
 #include "Components/QLToolkit/check.h"
 #include "Components/QLToolkit/parser/ast.h"
 #include <charconv>
@@ -354,14 +354,14 @@ private:
     const SymbolTable& symbols_;
 };
 
-/// One parsed text and all that belongs to it.
+/// A parsed text with its source and symbols.
 struct Parsed {
     explicit Parsed(std::string text, std::string name = "Test.bas", const ConditionalConstants& constants = {},
                     int page = 1252)
         : source(std::move(name), std::move(text), basic::CodePage(page)),
           result(parseModule(source, symbols, constants)) {}
 
-    /// "line:column number" of each diagnostic, separated by blanks.
+    /// Returns "line:column number" of each diagnostic, separated by blanks.
     std::string diagnostics() const {
         std::string text;
         for (const auto& d : result.diagnostics)
@@ -369,7 +369,7 @@ struct Parsed {
         return text;
     }
     std::string module() const { return result.module ? Dumper{source, symbols}.module(*result.module) : "no module"; }
-    /// The statements of the first procedure.
+    /// Returns the statements of the first procedure.
     std::string body() const {
         for (const Decl* d = result.module ? result.module->declarations : nullptr; d; d = d->next)
             if (d->kind == DeclKind::Procedure) return Dumper{source, symbols}.block(as<ProcedureDecl>(*d).body);
@@ -381,23 +381,23 @@ struct Parsed {
     ParseResult result;
 };
 
-/// The dump of a module, or of its errors if it has any.
+/// Returns the dump of a module, or its errors if there are any.
 inline std::string declarations(const std::string& text) {
     const Parsed parsed{text};
     return parsed.result.diagnostics.empty() ? parsed.module() : parsed.diagnostics();
 }
-/// The dump of statements that stand in a procedure, or of their errors; line 2 is the first.
+/// Returns the dump of statements in a procedure, or their errors. The first statement is on line 2.
 inline std::string statements(const std::string& text) {
     const Parsed parsed{"Sub Test()\n" + text + "\nEnd Sub\n"};
     return parsed.result.diagnostics.empty() ? parsed.body() : parsed.diagnostics();
 }
-/// The dump of the expression.
+/// Returns the dump of an expression.
 inline std::string expression(const std::string& text) {
     const std::string dumped = statements("v = " + text);
     return dumped.starts_with("(let v ") ? dumped.substr(7, dumped.size() - 8) : dumped;
 }
 
-/// A source and what it becomes.
+/// A source text and its expected dump.
 struct Pair {
     const char* source;
     const char* dump;

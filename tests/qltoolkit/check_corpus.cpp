@@ -1,6 +1,6 @@
-// Parses every source file below folders and prints what it finds: for real code, where every diagnostic is either a
-// damaged file or a fault of the parser.
-//   check_corpus CODEPAGE FOLDER_OR_FILE...        status 1 when there are errors
+// Parses all source files in folders and prints the diagnostics. Used with real code, where each diagnostic is either a
+// damaged file or a bug in the parser.
+//   check_corpus CODEPAGE FOLDER_OR_FILE...        exit status 1 if there are errors
 #include "Components/QLToolkit/check.h"
 #include <cstdio>
 #include <cstdlib>

@@ -90,7 +90,7 @@ protected:
 
 } // namespace
 
-TEST_F(CompilerComponent, WritesAnImageAndSaysHowFarItIs) {
+TEST_F(CompilerComponent, WritesAnImageAndReportsProgress) {
     add("frmTip.frm", kForm);
     add("modMain.bas", kModule);
     compiler_->SetStartupObject("frmTip");
@@ -108,7 +108,7 @@ TEST_F(CompilerComponent, WritesAnImageAndSaysHowFarItIs) {
     EXPECT_EQ(record_->inputs.size(), 2U);
 }
 
-TEST_F(CompilerComponent, KeepsFormsWithControlsAndProperties) {
+TEST_F(CompilerComponent, StoresFormsWithControlsAndProperties) {
     add("frmTip.frm", kForm);
     ASSERT_TRUE(compiler_->Build());
     const auto image = image::decode(folder_.read("Tips.0000.qlx"));
@@ -123,7 +123,7 @@ TEST_F(CompilerComponent, KeepsFormsWithControlsAndProperties) {
     EXPECT_EQ(form.children[0].properties[1], (image::Property{"PictureName", "\"logo.rgx\""}));
 }
 
-TEST_F(CompilerComponent, KeepsModulesWithMembersAndStrings) {
+TEST_F(CompilerComponent, StoresModulesWithMembersAndStrings) {
     add("modMain.bas", kModule);
     compiler_->SetStartupObject("Sub Main");
     ASSERT_TRUE(compiler_->Build());
@@ -136,7 +136,7 @@ TEST_F(CompilerComponent, KeepsModulesWithMembersAndStrings) {
     EXPECT_THAT(image.modules[0].strings, ElementsAre("Hello ", "x"));
 }
 
-TEST_F(CompilerComponent, AnErrorHasItsPhysicalLineAndLeavesTheOldImage) {
+TEST_F(CompilerComponent, ReportsPhysicalLinesAndKeepsTheOldImageAfterAnError) {
     folder_.write("Tips.0000.qlx", "old");
     add("frmTip.frm", std::string(kForm) + "Sub Broken()\r\n  x = (1 +\r\nEnd Sub\r\n");
     EXPECT_FALSE(compiler_->Build());
@@ -149,16 +149,17 @@ TEST_F(CompilerComponent, AnErrorHasItsPhysicalLineAndLeavesTheOldImage) {
     EXPECT_GT(record_->diagnostics[0].column, 0U);
 }
 
-TEST_F(CompilerComponent, ReportsALibraryInUseAndTheFilesThatControlsName) {
+TEST_F(CompilerComponent, ReportsUsedLibrariesAndFilesNamedByControls) {
     add("frmTip.frm", kForm);
     folder_.write("logo.rgx", "x");
-    compiler_->AddBuildFile(folder_ / "Tavlets.DLL", qltoolkit::ControlLibrary); // only the extension's case differs
+    compiler_->AddBuildFile(folder_ / "Tavlets.DLL",
+                            qltoolkit::ControlLibrary); // differs only in the case of the extension
     ASSERT_TRUE(compiler_->Build());
     EXPECT_THAT(dependencies_, ElementsAre("0 {11111111-2222-3333-4444-555555555555}", "1 logo.rgx"));
     EXPECT_THAT(warnings_, IsEmpty());
 }
 
-TEST_F(CompilerComponent, AControlLibraryWithoutAControlIsNoDependency) {
+TEST_F(CompilerComponent, AnUnusedControlLibraryIsNotADependency) {
     add("modMain.bas", kModule);
     compiler_->AddBuildFile(folder_ / "Tavlets.dll", qltoolkit::ControlLibrary);
     ASSERT_TRUE(compiler_->Build());
@@ -172,7 +173,7 @@ TEST_F(CompilerComponent, AMissingLibraryIsAWarning) {
     EXPECT_THAT(warnings_, ElementsAre(int(Message::LibraryMissing)));
 }
 
-TEST_F(CompilerComponent, MissingSourceMissingStartAndDoubleNamesAreErrors) {
+TEST_F(CompilerComponent, MissingSourcesMissingStartupAndDuplicateNamesAreErrors) {
     compiler_->AddBuildFile(folder_ / "gone.bas", qltoolkit::SourceFile);
     EXPECT_FALSE(compiler_->Build());
     EXPECT_THAT(errors_, ElementsAre("gone.bas:0 1000"));
@@ -199,7 +200,7 @@ TEST_F(CompilerComponent, AnImageThatCannotBeWrittenIsAnError) {
     EXPECT_THAT(errors_, ElementsAre("Tips.0000.qlx:0 " + std::to_string(int(Message::ImageNotWritten))));
 }
 
-TEST_F(CompilerComponent, AnErrorOfAHandlerEndsTheBuildWithoutAnImage) {
+TEST_F(CompilerComponent, AnExceptionFromAHandlerAbortsTheBuild) {
     add("modMain.bas", kModule);
     struct Stop {};
     const auto stop = compiler_->BuildStatus.connect([](const std::string& text) {

@@ -33,20 +33,20 @@ std::string failureOf(std::string_view bytes) {
 
 } // namespace
 
-TEST(Image, ComesBackAsItWas) {
+TEST(Image, SurvivesARoundTrip) {
     const Image image = tipCalculator();
     EXPECT_EQ(decode(encode(image)), image);
     EXPECT_EQ(decode(encode(Image{})), Image{});
 }
 
-TEST(Image, SameInputGivesSameBytes) { EXPECT_EQ(encode(tipCalculator()), encode(tipCalculator())); }
+TEST(Image, EncodesEqualImagesEqually) { EXPECT_EQ(encode(tipCalculator()), encode(tipCalculator())); }
 
-TEST(Image, EveryTruncationIsRefused) {
+TEST(Image, RefusesEveryTruncation) {
     const std::string bytes = encode(tipCalculator());
     for (size_t length = 0; length < bytes.size(); ++length) failureOf(std::string_view(bytes).substr(0, length));
 }
 
-TEST(Image, EveryChangedByteBehindTheHeaderIsRefused) {
+TEST(Image, RefusesEveryChangedByteAfterTheHeader) {
     const std::string bytes = encode(tipCalculator());
     for (size_t at = 20; at < bytes.size(); ++at) {
         std::string damaged = bytes;
@@ -55,9 +55,9 @@ TEST(Image, EveryChangedByteBehindTheHeaderIsRefused) {
     }
 }
 
-TEST(Image, SaysWhatItIsNot) {
+TEST(Image, ReportsTheReason) {
     EXPECT_EQ(failureOf("PK\x03\x04 and more of a zip file"),
-              "The compiled file is damaged: it is no compiled application.");
+              "The compiled file is damaged: it is not a compiled application.");
     std::string later = encode(tipCalculator());
     later[4] = 9;
     EXPECT_EQ(failureOf(later), "The compiled file is damaged: its format is version 9.");

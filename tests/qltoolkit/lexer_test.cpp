@@ -1,4 +1,4 @@
-// What the tables of the parser's tests do not show: names in foreign letters, continuations, odd bytes.
+// Cases that the parser's tests do not cover: names in foreign letters, continuations, unusual bytes.
 #include "Components/QLToolkit/lexer/keywords.h"
 #include "tests/qltoolkit/ast_dump.h"
 #include <gtest/gtest.h>
@@ -17,28 +17,28 @@ std::string continuedLines(int count) {
 
 } // namespace
 
-TEST(Lexer, TwentyFourContinuationsAndNoMore) {
+TEST(Lexer, AcceptsTwentyFourContinuations) {
     EXPECT_EQ(statements(continuedLines(24)).find("(let x"), 0u);
     EXPECT_EQ(statements(continuedLines(25)), "26:6 1103");
-    EXPECT_EQ(statements(continuedLines(30)), "26:6 1103") << "one report a statement";
+    EXPECT_EQ(statements(continuedLines(30)), "26:6 1103") << "one report per statement";
     EXPECT_EQ(statements(continuedLines(25) + "\ny = (1"), "26:6 1103 28:7 1801");
 }
 
-TEST(Lexer, NamesInTheCodePageOfTheProject) {
+TEST(Lexer, ReadsNamesInTheProjectsCodePage) {
     const Parsed western{"Dim stra\xDF"
                          "e As Long, \xC9t\xE9\n",
                          "Test.bas"};
     EXPECT_EQ(western.module(), "(dim stra\xC3\x9F"
                                 "e:Long \xC3\x89t\xC3\xA9)");
     const Parsed japanese{"Dim \x83\x5C\x83\x7C As Long\n", "Test.bas", {}, 932};
-    EXPECT_EQ(japanese.module(), "(dim \xE3\x82\xBD\xE3\x83\x9D:Long)") << "second bytes that look like \\ and |";
+    EXPECT_EQ(japanese.module(), "(dim \xE3\x82\xBD\xE3\x83\x9D:Long)") << "second bytes equal to \\ and |";
     const Parsed chinese{"Dim \xD6\xD0\xCE\xC4$\n", "Test.bas", {}, 936};
     EXPECT_EQ(chinese.module(), "(dim \xE4\xB8\xAD\xE6\x96\x87$)");
     const Parsed utf8{"Dim \xC3\xA9t\xC3\xA9\n"};
     EXPECT_EQ(utf8.module(), "(dim \xC3\xA9t\xC3\xA9)");
 }
 
-TEST(Lexer, LetterCaseDoesNotMatterInForeignNamesEither) {
+TEST(Lexer, IgnoresCaseInForeignNames) {
     Parsed p{"Dim \xC9T\xC9, \xE9t\xE9, AbC, aBc, [aBC]\n"};
     EXPECT_EQ(p.module(), "(dim \xC3\x89T\xC3\x89 \xC3\x89T\xC3\x89 AbC AbC AbC)");
     EXPECT_EQ(p.symbols.intern("\xC3\xA9t\xC3\xA9"), p.symbols.intern("\xC3\x89T\xC3\x89"));
@@ -46,7 +46,7 @@ TEST(Lexer, LetterCaseDoesNotMatterInForeignNamesEither) {
     EXPECT_NE(p.symbols.intern("@"), p.symbols.intern("`")) << "one bit apart";
 }
 
-TEST(Lexer, TypographyIsNamed) {
+TEST(Lexer, ReportsTypographicQuotes) {
     EXPECT_EQ(Parsed("Sub A()\nx = \x93"
                      "a\x94\nEnd Sub")
                   .diagnostics(),
@@ -57,7 +57,7 @@ TEST(Lexer, TypographyIsNamed) {
                   .diagnostics(),
               "2:3 1100");
     const Parsed quotes{"Sub A()\nx = \x93\x94\nEnd Sub"};
-    EXPECT_EQ(quotes.result.diagnostics[0].text, "The character \xE2\x80\x9C\xE2\x80\x9D has no meaning here.");
+    EXPECT_EQ(quotes.result.diagnostics[0].text, "The character \xE2\x80\x9C\xE2\x80\x9D is not valid here.");
 }
 
 TEST(Lexer, WideBlanksSeparateWords) {
@@ -81,15 +81,15 @@ TEST(Lexer, WideBlanksSeparateWords) {
               "(dim \xC3\xA9)");
 }
 
-TEST(Lexer, EndsOfLinesOfAllKinds) {
+TEST(Lexer, AcceptsAllKindsOfLineEnds) {
     EXPECT_EQ(Parsed("Dim a\rDim b\r\nDim c\nDim d\r\r\nDim e").module(), "(dim a) (dim b) (dim c) (dim d) (dim e)");
     EXPECT_EQ(Parsed("Dim a _\r  , b _\r\n , c").module(), "(dim a b c)");
     EXPECT_EQ(Parsed("Dim a ' x _\r y\rDim b").module(), "(dim a) (dim b)");
-    EXPECT_EQ(Parsed("Dim a _").diagnostics(), "1:7 1100") << "nothing to go on with";
+    EXPECT_EQ(Parsed("Dim a _").diagnostics(), "1:7 1100") << "no line to continue";
     EXPECT_EQ(Parsed("\n\n' only comments\n").module(), "");
 }
 
-TEST(Lexer, TypeCharactersAndWhatOnlyLooksLikeThem) {
+TEST(Lexer, DistinguishesTypeCharactersFromOperators) {
     EXPECT_EQ(statements("Print#1, a"), "(print# 1 a)");
     EXPECT_EQ(statements("x = a&\"b\""), "2:7 1501") << "the & belongs to the name, as in VB";
     EXPECT_EQ(statements("x = a & \"b\""), "(let x (& a \"b\"))");
@@ -98,13 +98,13 @@ TEST(Lexer, TypeCharactersAndWhatOnlyLooksLikeThem) {
     EXPECT_EQ(statements("x! = 1"), "(let x! 1)");
 }
 
-TEST(Lexer, LongNames) {
+TEST(Lexer, LimitsTheLengthOfNames) {
     EXPECT_EQ(statements(std::string(255, 'a') + " = 1"), "(let " + std::string(255, 'a') + " 1)");
     EXPECT_EQ(statements(std::string(256, 'a') + " = 1"), "2:1 1106");
     EXPECT_EQ(statements(std::string(256, '\xE9') + " = 1"), "2:1 1106");
 }
 
-TEST(Keywords, AreFoundInEveryCase) {
+TEST(Keywords, AreFoundRegardlessOfCase) {
     for (int i = 1; i <= static_cast<int>(qltoolkit::kLastKeyword); ++i) {
         const auto k = static_cast<Keyword>(i);
         std::string word(qltoolkit::spelling(k));

@@ -1,4 +1,4 @@
-// Hostile sizes: depth, length, number of errors. Nothing crashes, nothing takes longer than its size.
+// Extreme depths, lengths and numbers of errors: no crash, and linear time.
 #include "tests/qltoolkit/ast_dump.h"
 #include <chrono>
 #include <gtest/gtest.h>
@@ -16,7 +16,7 @@ std::string repeat(const std::string& text, std::size_t count) {
 
 std::string inSub(const std::string& text) { return "Sub A()\n" + text + "\nEnd Sub\n"; }
 
-/// Diagnostics of a procedure with these statements.
+/// Returns the diagnostics of a procedure with these statements.
 std::string errorsOf(const std::string& text) { return Parsed{inSub(text)}.diagnostics(); }
 
 double secondsFor(const std::string& text) {
@@ -28,7 +28,7 @@ double secondsFor(const std::string& text) {
 
 } // namespace
 
-TEST(ParserLimits, ExpressionsNestTwoHundredDeep) {
+TEST(ParserLimits, ExpressionsCanBeNestedTwoHundredDeep) {
     EXPECT_EQ(errorsOf("x = " + repeat("(", 190) + "1" + repeat(")", 190)), "");
     EXPECT_EQ(errorsOf("x = " + repeat("(", 100'000) + "1" + repeat(")", 100'000)), "2:205 1804");
     EXPECT_EQ(errorsOf("x = " + repeat("-", 100'000) + "1"), "2:205 1804");
@@ -37,19 +37,19 @@ TEST(ParserLimits, ExpressionsNestTwoHundredDeep) {
     EXPECT_EQ(errorsOf("f (" + repeat("(", 100'000)).substr(0, 2), "2:");
 }
 
-TEST(ParserLimits, BlocksNestTwoHundredDeep) {
+TEST(ParserLimits, BlocksCanBeNestedTwoHundredDeep) {
     EXPECT_EQ(errorsOf(repeat("If a Then\n", 190) + repeat("End If\n", 190)), "");
     for (const auto* head :
          {"If a Then\n", "For i = 1 To 2\n", "Do\n", "With a\n", "While a\n", "Select Case a\nCase 1\n"}) {
         const Parsed parsed{inSub(repeat(head, 50'000)) + "Sub B()\nx = )\nEnd Sub\n"};
         ASSERT_EQ(parsed.result.diagnostics.size(), 2u) << head;
         EXPECT_EQ(parsed.result.diagnostics[0].number, 1529) << head;
-        EXPECT_EQ(parsed.result.diagnostics[1].number, 1800) << "the next procedure is read";
+        EXPECT_EQ(parsed.result.diagnostics[1].number, 1800) << "the next procedure is parsed";
     }
     EXPECT_EQ(errorsOf(repeat("If a Then ", 50'000) + "x = 1"), "2:2001 1529");
 }
 
-TEST(ParserLimits, ChainsMayBeLong) {
+TEST(ParserLimits, AcceptsLongChains) {
     EXPECT_EQ(errorsOf("x = 1" + repeat(" + 1", 1'000'000)), "");
     EXPECT_EQ(errorsOf("x = a" + repeat(".b", 1'000'000)), "");
     EXPECT_EQ(errorsOf("x = a" + repeat("(1)", 1'000'000)), "");
@@ -58,7 +58,7 @@ TEST(ParserLimits, ChainsMayBeLong) {
     EXPECT_EQ(Parsed("#If 1" + repeat(" And 1", 100'000) + " Then\nDim a\n#End If").diagnostics(), "");
 }
 
-TEST(ParserLimits, ALineOfTenMegabytes) {
+TEST(ParserLimits, AcceptsALineOfTenMegabytes) {
     constexpr std::size_t kTenMegabytes = 10'000'000;
     EXPECT_EQ(errorsOf("x = \"" + std::string(kTenMegabytes, 'a') + "\""), "");
     EXPECT_EQ(errorsOf("' " + std::string(kTenMegabytes, 'a')), "");
@@ -69,16 +69,16 @@ TEST(ParserLimits, ALineOfTenMegabytes) {
     EXPECT_EQ(errorsOf("x = " + std::string(kTenMegabytes, ')')), "2:5 1800");
 }
 
-TEST(ParserLimits, FiveHundredErrorsEndAFile) {
+TEST(ParserLimits, StopsAfterFiveHundredErrors) {
     const Parsed parsed{inSub(repeat("x = \n", 100'000))};
     ASSERT_EQ(parsed.result.errors, 501u);
     EXPECT_EQ(parsed.result.diagnostics.back().number, 1009);
-    EXPECT_EQ(parsed.result.diagnostics.back().text, "More than 500 errors: the rest of the file was not checked.");
+    EXPECT_EQ(parsed.result.diagnostics.back().text, "More than 500 errors; the rest of the file was not checked.");
     EXPECT_EQ(parsed.result.diagnostics.front().line, 2u);
     EXPECT_NE(parsed.result.module, nullptr);
 }
 
-TEST(ParserLimits, TimeAndMemoryGrowWithTheSource) {
+TEST(ParserLimits, TimeAndMemoryAreLinear) {
     const std::string procedure =
         inSub("    total = first * 2 + second(i).value ' why\n    If a > b Then\n        f x, \"text\"\n    End If");
     const std::string small = repeat(procedure, 2'000), large = repeat(procedure, 40'000);
@@ -89,7 +89,7 @@ TEST(ParserLimits, TimeAndMemoryGrowWithTheSource) {
     EXPECT_LT(parsed.result.module->arena.footprint(), large.size() * 20);
 }
 
-TEST(ParserLimits, ManyNames) {
+TEST(ParserLimits, AcceptsManyNames) {
     std::string text;
     for (int i = 0; i < 100'000; ++i) text += "Dim name" + std::to_string(i) + "\n";
     const Parsed parsed{text};

@@ -24,13 +24,13 @@ TEST(Messages, EveryRowIsComplete) {
     }
 }
 
-TEST(Messages, TheDetailTakesItsPlace) {
+TEST(Messages, TheDetailReplacesThePlaceholder) {
     EXPECT_EQ(messageText(Message::ThenExpected, "end of line"), "Expected: Then, found: end of line.");
     EXPECT_EQ(messageText(Message::DateInvalid, "ignored").find("ignored"), std::string::npos);
-    EXPECT_EQ(messageText(Message::ThenExpected, "%1"), "Expected: Then, found: %1.");
+    EXPECT_EQ(messageText(Message::ThenExpected, "{found}"), "Expected: Then, found: {found}.");
 }
 
-TEST(Messages, TextsNameWhatStandsThere) {
+TEST(Messages, TextsQuoteTheSource) {
     const auto text = [](const char* line) {
         const Parsed parsed{std::string("Sub A()\n") + line + "\nEnd Sub\n"};
         return parsed.result.diagnostics.empty() ? "" : parsed.result.diagnostics[0].text;
@@ -38,9 +38,13 @@ TEST(Messages, TextsNameWhatStandsThere) {
     EXPECT_EQ(text("If x = 5"), "Expected: Then, found: end of line.");
     EXPECT_EQ(text("x = 5 +"), "Expected: an expression, found: end of the statement.");
     EXPECT_EQ(text("x = (1: y = 2"), "Expected: ), found: :.");
-    EXPECT_EQ(text("Dim Next As Long"), "Next is a word of the language and cannot be a name.");
+    EXPECT_EQ(text("Dim Next As Long"), "Next is a reserved word and cannot be used as a name.");
     EXPECT_EQ(text("x = 40000%"), "The number 40000% is too large for its type.");
     EXPECT_EQ(text("x = \xC9t\xE9 \xE9t\xE9"), "Expected: end of the statement, found: \xC3\xA9t\xC3\xA9.");
+    EXPECT_EQ(text("End Sub\nSub B(ParamArray x)"), "ParamArray needs parentheses after the name: ParamArray x().");
+    EXPECT_EQ(text("End Sub\nFunction F()\nEnd Function\nFunction G()"),
+              "Expected: End Function, to match the beginning of the procedure.");
+    EXPECT_EQ(text("Sub B()"), "This procedure has no End Sub.");
     EXPECT_EQ(text("x = y \"a very long text that would fill the whole line and more if it were not cut\""),
               "Expected: end of the statement, found: \"a very long text that would fill the whole line and more if.");
 }

@@ -13,7 +13,7 @@ void expectBlocks(std::initializer_list<Pair> pairs) {
 
 } // namespace
 
-TEST(ParseBlocks, IfOverSeveralLines) {
+TEST(ParseBlocks, BlockIf) {
     expectBlocks(
         {{"If a Then\nx = 1\nEnd If", "(if a {(let x 1)})"},
          {"If a Then ' why\nx = 1\nElse\ny = 2\nEnd If", "(if a {(let x 1)} else {(let y 2)})"},
@@ -24,7 +24,7 @@ TEST(ParseBlocks, IfOverSeveralLines) {
          {"If a _\n And b Then\nEnd If", "(if (and a b) {})"}});
 }
 
-TEST(ParseBlocks, IfOnOneLine) {
+TEST(ParseBlocks, SingleLineIf) {
     expectBlocks(
         {{"If a Then x = 1", "(if1 a {(let x 1)})"},
          {"If a Then x = 1 Else y = 2", "(if1 a {(let x 1)} else {(let y 2)})"},
@@ -81,9 +81,9 @@ TEST(ParseBlocks, Loops) {
                   {"With New Thing\nEnd With", "(with (new Thing) {})"}});
 }
 
-// ---------------------------------------------------------------- what is wrong with blocks
+// ---------------------------------------------------------------- invalid blocks
 
-TEST(ParseBlocks, HeadsWithErrorsStillOpenTheirBlocks) {
+TEST(ParseBlocks, FirstLinesWithErrorsStillOpenTheirBlocks) {
     expectBlocks({{"If a = Then\nx = 1\nElse\ny = 2\nEnd If", "2:8 1800"},
                   {"If a\nx = 1\nEnd If", "2:5 1502"},
                   {"If a b Then\nx = 1\nEnd If", "2:6 1502"},
@@ -101,7 +101,7 @@ TEST(ParseBlocks, HeadsWithErrorsStillOpenTheirBlocks) {
                   {"If a Then\nElseIf b\nx = 1\nEnd If", "3:9 1502"}});
 }
 
-TEST(ParseBlocks, UnclosedBlocksAreReportedOnceAtTheirHeads) {
+TEST(ParseBlocks, UnclosedBlocksAreReportedOnceAtTheirBeginning) {
     expectBlocks({{"If a Then\nx = 1", "2:1 1503"},
                   {"For i = 1 To 2\nIf a Then\nNext", "3:1 1503"},
                   {"For i = 1 To 2\nWith a\nIf b Then\nNext", "4:1 1503"},
@@ -136,7 +136,7 @@ TEST(ParseBlocks, StrayEnds) {
                   {"Do While a\nLoop Until b", "3:6 1517"}});
 }
 
-TEST(ParseBlocks, ErrorsInAStatementLeaveTheOthersAlone) {
+TEST(ParseBlocks, ErrorsDoNotAffectOtherStatements) {
     expectBlocks({{"x = 1 +\ny = 2\nz = * 3\nw = 4", "2:8 1800 4:5 1800"},
                   {"x = \"open\ny = (1\nIf a Then\nz = )\nEnd If", "2:5 1101 3:7 1801 5:5 1800"},
                   {"x = 1 1 2 3 4", "2:7 1501"},

@@ -158,7 +158,7 @@ TEST(ParseDeclarations, Attributes) {
 
 // ---------------------------------------------------------------- conditional compilation
 
-TEST(ConditionalCompilation, TakesOneBranch) {
+TEST(ConditionalCompilation, CompilesOneBranch) {
     expectDeclarations(
         {{"#If True Then\nDim a\n#Else\nDim b\n#End If", "(dim a)"},
          {"#If False Then\nDim a\n#Else\nDim b\n#End If", "(dim b)"},
@@ -172,7 +172,7 @@ TEST(ConditionalCompilation, TakesOneBranch) {
           "(sub A[] {(if x {(let y 1)})})"}});
 }
 
-TEST(ConditionalCompilation, ComputesConditions) {
+TEST(ConditionalCompilation, EvaluatesConditions) {
     const auto taken = [](const std::string& condition) {
         const std::string dump =
             declarations("#Const Two = 2\n#Const Word = \"Abc\"\n#If " + condition + " Then\nDim yes\n#End If");
@@ -208,7 +208,7 @@ TEST(ConditionalCompilation, ComputesConditions) {
         EXPECT_EQ(taken(condition), "3:5 1203") << condition;
 }
 
-TEST(ConditionalCompilation, ProjectsBringTheirConstants) {
+TEST(ConditionalCompilation, UsesTheProjectsConstants) {
     const auto constants = qltoolkit::parseConditionalConstants("Fast = 1 : Level = -5:bad:QUINLOFT=0: Wrong = x");
     ASSERT_EQ(constants.size(), 3u);
     const Parsed parsed{"#If fast And Level = -5 And QUINLOFT = 0 Then\nDim yes\n#End If", "Test.bas", constants};

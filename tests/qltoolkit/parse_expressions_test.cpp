@@ -75,7 +75,7 @@ TEST(ParseExpressions, Dates) {
                        {"#1/1/2000# - #1/1/1999#", "(- #36526# #36161#)"}});
 }
 
-TEST(ParseExpressions, PowersOfOperators) {
+TEST(ParseExpressions, OperatorPrecedence) {
     expectExpressions({{"-2 ^ 2", "(neg (^ 2 2))"},
                        {"2 ^ -3", "(^ 2 (neg 3))"},
                        {"2 ^ 3 ^ 4", "(^ (^ 2 3) 4)"},
@@ -168,7 +168,7 @@ TEST(ParseExpressions, Arguments) {
                        {"f(x = 1)", "(call f (= x 1))"}});
 }
 
-TEST(ParseExpressions, WordsThatAreOperands) {
+TEST(ParseExpressions, KeywordsAsOperands) {
     expectExpressions({{"True", "True"},
                        {"False", "False"},
                        {"Null", "Null"},
@@ -182,7 +182,7 @@ TEST(ParseExpressions, WordsThatAreOperands) {
                        {"Not TypeOf a Is Label", "(not (typeof a Label))"}});
 }
 
-TEST(ParseExpressions, MissingPieces) {
+TEST(ParseExpressions, MissingParts) {
     expectExpressions({{"", "2:4 1800"},
                        {"5 +", "2:8 1800"},
                        {"(1 + 2", "2:11 1801"},

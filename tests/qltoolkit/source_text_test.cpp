@@ -29,7 +29,7 @@ TEST(SourceText, ColumnsCountCharacters) {
     EXPECT_EQ(SourceText("a.bas", "ab\r\n").locate(4), (Location{1, 5}));
 }
 
-TEST(SourceText, EncodingIsToldPerFile) {
+TEST(SourceText, DetectsTheEncodingOfEachFile) {
     EXPECT_EQ(SourceText("a.bas", "' caf\xC3\xA9").codePage().number(), 65001);
     EXPECT_EQ(SourceText("a.bas", "' caf\xE9").codePage().number(), 1252);
     EXPECT_EQ(SourceText("a.bas", "' cafe").codePage().number(), 1252);
@@ -62,7 +62,7 @@ TEST(SourceText, FindsWhereTheCodeBegins) {
     EXPECT_EQ(SourceText("F.frm", "VERSION 5.00\nBegin VB.Form F \n").header(), HeaderState::Unclosed);
 }
 
-TEST(SourceText, CodeLinesAreThoseOfTheCodeWindow) {
+TEST(SourceText, NumbersLinesLikeTheCodeWindow) {
     const Parsed p{
         "VERSION 1.0 CLASS\nBEGIN\nEND\nAttribute VB_Name = \"C\"\nDim a\nAttribute a.VB_VarHelpID = -1\nDim b\n",
         "C.cls"};
@@ -73,9 +73,9 @@ TEST(SourceText, CodeLinesAreThoseOfTheCodeWindow) {
     EXPECT_EQ(m.codeLine(7), 2u);
 }
 
-// ---------------------------------------------------------------- files that are not what they should be
+// ---------------------------------------------------------------- invalid files
 
-TEST(CheckSource, FilesThatAreNoVb) {
+TEST(CheckSource, ReportsFilesThatAreNotVb) {
     const auto numbers = [](const char* name, std::string bytes) {
         std::string text;
         for (const auto& d : qltoolkit::checkSource(name, std::move(bytes)).diagnostics)
@@ -99,13 +99,13 @@ TEST(CheckSource, FilesThatAreNoVb) {
               "0:1004 ");
 }
 
-TEST(CheckSource, NulsBehindTheCodeDoNotMatter) {
+TEST(CheckSource, IgnoresNulsAfterTheCode) {
     const auto r = qltoolkit::checkSource("M.bas", "Sub A()\r\nEnd Sub\r\n" + std::string(142, '\0') + "\r\n\r\n");
     EXPECT_THAT(r.diagnostics, testing::IsEmpty());
     EXPECT_EQ(qltoolkit::checkSource("M.bas", std::string("Dim\0a\nDim\x1A", 10)).errors, 1u);
 }
 
-TEST(CheckFile, MissingUnreadableAndFolders) {
+TEST(CheckFile, ReportsMissingFilesAndFolders) {
     const auto number = [](const std::string& path) { return qltoolkit::checkFile(path).diagnostics.at(0).number; };
     EXPECT_EQ(number("/nowhere/M.bas"), 1000);
     EXPECT_EQ(number("/tmp"), 1002);

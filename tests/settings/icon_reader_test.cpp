@@ -1,4 +1,4 @@
-// What the directory of an icon file tells, well formed or not.
+// The directory of an icon file, well-formed or not.
 #include "Add-in/settings/iconReader.h"
 #include "Host/system/file_system.h"
 #include "tests/support/temp_folder.h"
@@ -20,7 +20,7 @@ struct Image {
     std::uint32_t size = 40, offset = 0;
 };
 
-/// An icon file's beginning; `count` where it isn't that of the images.
+/// The beginning of an icon file; `count` replaces the number of images.
 std::string icon(const std::vector<Image>& images, int count = -1, int type = 1) {
     auto bytes = number(0, 2) + number(std::uint32_t(type), 2) +
                  number(std::uint32_t(count < 0 ? int(images.size()) : count), 2);
@@ -39,7 +39,7 @@ std::string bitmapHeader(int bits) {
 class IconReader : public testing::Test {
 protected:
     iconReader::Result load(const std::string& bytes) { return reader.LoadIconFile(folder.write("My.ico", bytes)); }
-    /// The bit count of an image; -1 for one that gives no data.
+    /// The bit count of an image; -1 if there are no data.
     int bits(std::int16_t index) {
         fernwick::IconImage image;
         return reader.GetImageInfo(index, image) == iconReader::Done ? image.BitCount : -1;
@@ -50,7 +50,7 @@ protected:
     iconReader reader{files};
 };
 
-TEST_F(IconReader, TellsEachImageOfTheDirectory) {
+TEST_F(IconReader, ReadsEachImageOfTheDirectory) {
     EXPECT_EQ(load(icon({{16, 16, 4, 16, 1, 296, 38}, {32, 0, 24, 0, 2, 3240, 334}})), iconReader::Done);
     EXPECT_EQ(reader.ImageCount(), 2);
     EXPECT_EQ(reader.IconFileName(), folder / "My.ico");
@@ -69,7 +69,7 @@ TEST_F(IconReader, TellsEachImageOfTheDirectory) {
     EXPECT_EQ(image.ByteSize, 3240);
 }
 
-TEST_F(IconReader, LooksIntoTheImageWhereTheDirectoryDoesNotTellTheBits) {
+TEST_F(IconReader, ReadsTheBitsFromTheImageIfTheDirectoryLacksThem) {
     const auto first = icon({{16, 16, 0, 0, 0, 40, 38}, {16, 16, 0, 0, 0, 40, 78}});
     EXPECT_EQ(load(first + bitmapHeader(32) + bitmapHeader(8)), iconReader::Done);
     EXPECT_EQ(bits(1), 32);
@@ -88,7 +88,7 @@ TEST_F(IconReader, AnIndexOutsideOfTheDirectoryGivesNoData) {
     EXPECT_EQ(image.Width, 99);
 }
 
-TEST_F(IconReader, NothingIsThereBeforeAFileIsLoaded) {
+TEST_F(IconReader, IsEmptyBeforeAFileIsLoaded) {
     EXPECT_EQ(reader.ImageCount(), 0);
     EXPECT_EQ(reader.IconFileName(), "");
     fernwick::IconImage image;
@@ -101,7 +101,7 @@ TEST_F(IconReader, AMissingFileIsNoIcon) {
     EXPECT_EQ(reader.LoadIconFile(folder.path()), 5);
 }
 
-TEST_F(IconReader, ABitmapUnderTheNameOfAnIconIsNone) {
+TEST_F(IconReader, RefusesABitmapNamedLikeAnIcon) {
     EXPECT_EQ(load("BM" + number(630, 4) + number(0, 4) + number(118, 4) + bitmapHeader(24)), 5);
     EXPECT_EQ(load(icon({{16, 16, 4}}, -1, 2)), 5); // a cursor
     EXPECT_EQ(reader.ImageCount(), 0);
@@ -113,7 +113,7 @@ TEST_F(IconReader, ADirectoryWithoutImagesIsAnIcon) {
     EXPECT_EQ(bits(1), -1);
 }
 
-TEST_F(IconReader, AFailedLoadForgetsTheFileBefore) {
+TEST_F(IconReader, AFailedLoadDiscardsTheEarlierFile) {
     EXPECT_EQ(load(icon({{16, 16, 4}})), iconReader::Done);
     EXPECT_EQ(load("no icon"), 5);
     EXPECT_EQ(reader.ImageCount(), 0);
@@ -121,16 +121,16 @@ TEST_F(IconReader, AFailedLoadForgetsTheFileBefore) {
     EXPECT_EQ(bits(1), -1);
 }
 
-TEST_F(IconReader, AnotherFileTakesThePlaceOfTheFirst) {
+TEST_F(IconReader, AnotherFileReplacesTheFirst) {
     load(icon({{16, 16, 4}, {32, 32, 8}}));
     load(icon({{48, 48, 24}}));
     EXPECT_EQ(reader.ImageCount(), 1);
     EXPECT_EQ(bits(1), 24);
 }
 
-TEST_F(IconReader, WhatAFileIsTooShortForIsZero) {
+TEST_F(IconReader, FieldsBeyondTheEndAreZero) {
     const auto whole = icon({{16, 16, 0, 0, 0, 40, 0xFFFFFFF8}});
-    EXPECT_EQ(load(whole), iconReader::Done); // the image lies beyond the end
+    EXPECT_EQ(load(whole), iconReader::Done); // the image is beyond the end
     EXPECT_EQ(bits(1), 0);
     for (std::size_t size = 0; size < whole.size(); ++size)
         EXPECT_EQ(load(whole.substr(0, size)), size < 3 ? 5 : iconReader::Done) << size;

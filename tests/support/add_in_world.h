@@ -1,5 +1,5 @@
 #pragma once
-// The whole add-in over a platform and a host in memory. Every other world is a few lines on top.
+// The whole add-in over a platform and a host in memory. Every other world adds a few lines.
 #include "Add-in/core/connect/Modules.h"
 #include "bar_steps.h"
 #include "fake_targets.h"
@@ -10,15 +10,15 @@
 
 namespace test {
 
-/// A platform in memory and what the add-in is given besides it.
+/// A platform in memory, and the objects that the add-in takes besides it.
 template <class Machine>
 struct AddInMachine : Machine {
     NotedFeatures noted{this->trace};
     FakeTargets targets{this->classes};
 };
 
-/// The add-in's modules under their own names; where the platform has a part of the same name, the name is the
-/// platform's. `Machine` is a TracedPlatform with parts of the test's own.
+/// The add-in's modules under their own names; a name that the platform has too is the platform's. `Machine` is a
+/// TracedPlatform, with parts of the test where it needs its own.
 template <class Machine = TracedPlatform>
 struct AddInWorld : AddInMachine<Machine>, fernwick::Modules {
     using Machine::clipboard;
@@ -52,10 +52,10 @@ struct AddInWorld : AddInMachine<Machine>, fernwick::Modules {
     }
 
     fernwick::modRegistry2& registry2 = Modules::registry;
-    /// What happens on the bars in detail; the steps that it consists of are in `trace`.
+    /// All effects on the bars. `trace` contains only the steps that they belong to.
     Trace barTrace;
     Ref<TracedBars> bars = hostBars(barTrace);
-    /// The document of the messages window, which the host makes by its ProgID.
+    /// The document of the messages window, which the host creates by its ProgID.
     Ref<fernwick::udocCompileMsgs> window =
         basic::cast<fernwick::udocCompileMsgs>(this->classes.CreateObject("QLVBAddIn.udocCompileMsgs"));
     Ref<TracedVbe> vbe =

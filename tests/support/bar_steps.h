@@ -1,12 +1,12 @@
 #pragma once
-// Which step of the add-in an effect on the host's bars belongs to: one line of a trace for each step, where the effects
-// themselves are many.
+// Maps effects on the host's bars to steps of the add-in, so that a trace has one line for each step instead of
+// hundreds of effects.
 #include <map>
 #include <string>
 
 namespace test {
 
-/// The step that this effect begins; "" for the effects that follow it. Effects on toolbars begin with "bar ".
+/// Returns the step that begins with this effect; "" for its further effects. Effects on toolbars begin with "bar ".
 inline std::string barStep(const std::string& effect) {
     static const std::map<std::string, std::string> steps{
         {"bar Menu Bar: + popup before 3", "menu"},

@@ -5,7 +5,7 @@
 
 namespace test {
 
-/// The number of the run-time error that `statement` raises; 0 when it raises none.
+/// Returns the number of the run-time error that `statement` raises; 0 for none.
 template <class F>
 int errorOf(F&& statement) {
     return basic::attempt(std::forward<F>(statement)).Number;

@@ -1,5 +1,5 @@
 #pragma once
-// A compiler that does what a test tells it.
+// A compiler controlled by the test.
 #include "Add-in/platform/compiler.h"
 #include "trace.h"
 #include <functional>
@@ -9,9 +9,9 @@ namespace test {
 class FakeCompiler : public qltoolkit::Compiler {
 public:
     explicit FakeCompiler(Trace& trace) : trace_(trace) {}
-    /// What happens between the start and the end of Build.
+    /// Called between the start and the end of Build.
     std::function<void(FakeCompiler&)> work;
-    /// What Build answers, and what BuildFinished tells.
+    /// Result of Build, argument of BuildFinished.
     bool built = true, finished = true;
 
     void SetOutputPath(const std::string& path) override { trace_.effect("output " + path); }

@@ -7,14 +7,14 @@
 
 namespace test {
 
-/// Libraries and modules that the targets know, by their identifiers.
+/// Identifiers of the libraries and modules that the targets know.
 struct KnownModules {
     std::set<std::string> references, modules;
     /// Identifiers of the libraries that each project must carry.
     std::vector<std::string> required;
 };
 
-/// Paths of the templates that each target has.
+/// Paths of each target's templates.
 struct TargetTemplates {
     std::string project, form, module, classModule;
 };
@@ -57,7 +57,7 @@ private:
     const TargetTemplates& templates_;
 };
 
-/// What is installed, changed by a test at any time.
+/// The installed targets, which a test may change at any time.
 struct FakeTargets {
     /// Keys of the known targets.
     std::vector<std::string> known;

@@ -6,13 +6,13 @@
 
 namespace test {
 
-/// A font of 12 points, regular, is what a control has of itself.
+/// A control's default font is 12 points, regular.
 struct FormControl {
     std::string className, name, font;
     int style = 0, size = 12;
 };
 
-/// The text of a form that devices take as it is, but for the lines in `changed` ("ScaleMode = 1").
+/// Returns the text of a form that devices accept unchanged, except for the lines in `changed` ("ScaleMode = 1").
 inline std::string deviceForm(const std::string& name, const std::vector<FormControl>& controls,
                               const std::string& code = {}, const std::vector<std::string>& changed = {}) {
     std::string text = "VERSION 5.00\r\nBegin VB.Form " + name + " \r\n";

@@ -1,5 +1,5 @@
 #pragma once
-// The features that the product lacks, noted in the trace.
+// Records the calls of features that the product lacks.
 #include "Add-in/core/settings_dialog.h"
 #include "Add-in/lifecycle/missing_features.h"
 #include "trace.h"

@@ -1,5 +1,5 @@
 #pragma once
-// Takes the common reports of a test instead of showing them.
+// Records error reports instead of showing them.
 #include "Add-in/core/procedure.h"
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -14,7 +14,7 @@ public:
     std::vector<std::string> seen;
     int injected = 0;
 
-    /// An error that left a trapped procedure is a statement that should have been wrapped.
+    /// An error that leaves a trapped procedure: a statement is not wrapped.
     ~RecordingReport() override { EXPECT_EQ(escapes_, "") << "errors left these procedures"; }
     void Error_ShowAddInError(const std::string& location, const basic::RuntimeError& error) override {
         seen.push_back(location + " [" + std::to_string(error.Number) + "]");

@@ -1,5 +1,5 @@
 #pragma once
-// Projects for tests, as the IDE writes them.
+// Projects for tests, in the IDE's format.
 #include "tests/support/temp_folder.h"
 #include <string>
 #include <utility>
@@ -7,7 +7,7 @@
 
 namespace test {
 
-/// The text of a source file of each kind, CR LF at each line's end.
+/// Texts of source files, with CR LF line ends.
 inline std::string formText(const std::string& name, const std::string& code = {}) {
     return "VERSION 5.00\r\nBegin VB.Form " + name + " \r\n   Caption         =   \"" + name +
            "\"\r\n   ClientHeight    =   2400\r\n   ClientLeft      =   60\r\n   ClientTop       =   345\r\n"
@@ -28,12 +28,12 @@ inline std::string classText(const std::string& name, const std::string& code = 
            code;
 }
 
-/// A project that is built up and then written into a folder.
+/// A project that is built step by step and then written to a folder.
 class SampleProject {
 public:
     explicit SampleProject(std::string name = "Hello") : name_(std::move(name)) {}
 
-    /// Member lines and files; `code` is what the code window shows.
+    /// Adds a member line and its file; `code` is the visible part of the code.
     SampleProject& form(const std::string& name, const std::string& code = {}) {
         return member("Form=" + name + ".frm", name + ".frm", formText(name, code));
     }
@@ -43,7 +43,7 @@ public:
     SampleProject& classModule(const std::string& name, const std::string& code = {}) {
         return member("Class=" + name + "; " + name + ".cls", name + ".cls", classText(name, code));
     }
-    /// A member line, and its file where the name is not empty.
+    /// Adds a member line, and its file if the name is not empty.
     SampleProject& member(const std::string& line, const std::string& file = {}, const std::string& text = {}) {
         members_ += line + "\r\n";
         if (!file.empty()) files_.emplace_back(file, text);
@@ -53,12 +53,12 @@ public:
         startup_ = name;
         return *this;
     }
-    /// Lines of sections behind the settings.
+    /// Adds lines of sections after the settings.
     SampleProject& sections(const std::string& lines) {
         sections_ += lines;
         return *this;
     }
-    /// The values that make it a project of ours, for a device where one is given.
+    /// Adds the values that make it a Fernwick project, with a device unless it is empty.
     SampleProject& handheld(const std::string& device = {}) {
         sections("\r\n[Quinloft Global]\r\nIsQuinloftProject=True\r\nProjectVersion=3.5\r\n");
         return device.empty() ? *this : sections("TargetDevice=" + device + "\r\n");
@@ -68,7 +68,7 @@ public:
         return "Type=Exe\r\n" + members_ + "Startup=\"" + startup_ + "\"\r\nCommand32=\"\"\r\nName=\"" + name_ +
                "\"\r\nMajorVer=1\r\nMinorVer=0\r\nRevisionVer=0\r\nAutoIncrementVer=0\r\n" + sections_;
     }
-    /// Writes the files and gives the project's path.
+    /// Writes the files and returns the project's path.
     std::string writeTo(const TempFolder& folder, const std::string& subfolder = {}) const {
         const auto base = subfolder.empty() ? std::string() : subfolder + "/";
         for (const auto& [file, text] : files_) folder.write(base + file, text);

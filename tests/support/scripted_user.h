@@ -1,5 +1,5 @@
 #pragma once
-// A user who knows what comes.
+// A user who follows a script.
 #include "Add-in/platform/controls.h"
 #include "Add-in/platform/interaction.h"
 #include <deque>
@@ -9,9 +9,8 @@
 
 namespace test {
 
-/// Expects boxes, forms and dialogs in order, letter for letter. What comes unexpected is recorded, never thrown, and
-/// answered by Cancel; the test fails at the end. A form that lies under a box is activated again, as a window
-/// system does.
+/// Expects boxes, forms and dialogs in order, with their exact texts. Anything unexpected is recorded and answered by
+/// Cancel, never thrown; the test fails at the end. As in a window system, a form below a box is activated again.
 class ScriptedUser final : public fernwick::Interaction {
 public:
     ~ScriptedUser() {
@@ -23,7 +22,7 @@ public:
                    const std::string& title = "Fernwick") {
         script_.push_back({boxText(text, buttons, title), [answer](void*) { return answer; }});
     }
-    /// `act` does what the user does while the form stands.
+    /// `act` is what the user does while the form is open.
     void expectForm(const std::string& typeName, std::function<void(fernwick::Form&)> act = {}) {
         script_.push_back({"form " + typeName, [act](void* form) {
                                if (act) act(*static_cast<fernwick::Form*>(form));
@@ -33,7 +32,7 @@ public:
     void expectFormAndPress(const std::string& typeName, const std::string& button) {
         expectForm(typeName, [button](fernwick::Form& form) { press(form, button); });
     }
-    /// A save dialog; `act` sets the file name, "" stands for Cancel.
+    /// Expects a save dialog; `act` returns the file name, "" for Cancel.
     void expectSave(std::function<std::string(const fernwick::CommonDialog&)> act) {
         script_.push_back({"save dialog", [act](void* given) {
                                auto& dialog = *static_cast<fernwick::CommonDialog*>(given);
@@ -42,7 +41,7 @@ public:
                                return chosen.empty() ? 0 : 1;
                            }});
     }
-    /// An open dialog; `act` gives the file names, "" stands for Cancel.
+    /// Expects an open dialog; `act` returns the file names, "" for Cancel.
     void expectOpen(std::function<std::string(const fernwick::CommonDialog&)> act) {
         script_.push_back({"open dialog", [act](void* given) {
                                auto& dialog = *static_cast<fernwick::CommonDialog*>(given);
@@ -55,7 +54,7 @@ public:
         dynamic_cast<fernwick::CommandButton&>(form.control(button)).press();
     }
 
-    /// Whether nothing was shown at all.
+    /// Whether nothing was shown.
     bool sawNothing() const { return shownCount_ == 0; }
     std::vector<std::string> wrong;
     fernwick::MousePointerShape cursor = fernwick::vbDefault;

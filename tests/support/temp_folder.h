@@ -1,5 +1,5 @@
 #pragma once
-// A folder of a test's own, gone with it.
+// A temporary folder, deleted at the end of the test.
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -27,7 +27,7 @@ public:
     const std::string& path() const { return path_; }
     std::string operator/(std::string_view name) const { return path_ + "/" + std::string(name); }
 
-    /// Writes a file (and the folders above it) and gives its path.
+    /// Writes a file, creating its folders, and returns its path.
     std::string write(std::string_view name, std::string_view bytes) const {
         const auto path = *this / name;
         std::filesystem::create_directories(std::filesystem::path(path).parent_path());
@@ -39,7 +39,7 @@ public:
         bytes << std::ifstream(*this / name, std::ios::binary).rdbuf();
         return bytes.str();
     }
-    /// How many entries the folder has.
+    /// Number of entries in the folder.
     std::size_t count() const {
         return std::size_t(
             std::distance(std::filesystem::directory_iterator(path_), std::filesystem::directory_iterator()));

@@ -42,7 +42,7 @@ public:
 
     TempFolder folder;
     host::RegistryStore registry{{folder / "store/user", folder / "store/machine", {}}};
-    /// What handlers let out.
+    /// Errors that left event handlers.
     std::vector<basic::ErrObject> failures;
     std::shared_ptr<host::Host> ide;
 };

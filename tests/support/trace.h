@@ -1,5 +1,5 @@
 #pragma once
-// What a test's world was asked to do, and the one call of it that is to fail.
+// Records the calls of a test's world, and makes one of them fail.
 #include "Basic/runtime_error.h"
 #include <algorithm>
 #include <functional>
@@ -12,18 +12,18 @@ constexpr int kInjected = 50000;
 
 class Trace {
 public:
-    /// The calls that did something, in their order.
+    /// Calls that changed something, in order.
     std::vector<std::string> effects;
-    /// From 1: this call fails; 0 for none.
+    /// Number, from 1, of the call that fails; 0 for none.
     int failing = 0;
-    /// Calls so far.
+    /// Number of calls so far.
     int calls = 0;
 
     void read() {
         if (++calls == failing) throw basic::RuntimeError(kInjected, "injected");
     }
     void effect(std::string what) { effectOf("", std::move(what)); }
-    /// The same; the observer sees whose effect it is.
+    /// The same; the observer also receives the owner of the effect.
     void effectOf(const std::string& whose, std::string what) {
         read();
         effects.push_back(std::move(what));
@@ -32,7 +32,7 @@ public:
     std::function<void(const std::string& effect)> observer;
 };
 
-/// What a run did not do of what another did.
+/// Returns the effects of one run that are missing in another.
 inline std::vector<std::string> lost(const std::vector<std::string>& before, std::vector<std::string> now) {
     std::vector<std::string> missing;
     for (const auto& effect : before)

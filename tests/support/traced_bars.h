@@ -1,6 +1,6 @@
 #pragma once
-// Menus and toolbars in memory, each of whose members counts as a call and may fail. What changes one is told in the
-// trace under the control's caption or the bar's name.
+// Menus and toolbars in memory. Each member counts as a call and may fail; changes are recorded in the trace under the
+// control's caption or the bar's name.
 #include "Add-in/platform/command_bars.h"
 #include "trace.h"
 #include <functional>
@@ -9,7 +9,7 @@ namespace test {
 
 using basic::Ref;
 
-/// A text without its accelerators.
+/// Returns a text without accelerators.
 inline std::string plain(std::string text) {
     std::erase(text, '&');
     return text;
@@ -99,9 +99,9 @@ public:
             if (item->Id() == id) return item;
         return nullptr;
     }
-    /// A control of the host's own.
-    Ref<TracedItem> stand(int id, const std::string& caption);
-    /// By caption, accelerators aside; Nothing when there is none.
+    /// Adds one of the host's own controls.
+    Ref<TracedItem> addControl(int id, const std::string& caption);
+    /// Finds an item by its caption without accelerators; Nothing if there is none.
     Ref<TracedItem> at(const std::string& caption) const {
         for (const auto& item : items)
             if (plain(item->caption) == caption) return item;
@@ -182,14 +182,14 @@ public:
     Ref<office::CommandBar> Add(const std::string& name, int position, bool menuBar) override {
         if (name == refused) throw basic::RuntimeError(basic::kAutomationError);
         trace_.effect("bar " + name + " at " + std::to_string(position) + (menuBar ? " as menu" : ""));
-        return stand(name);
+        return addBar(name);
     }
     std::shared_ptr<TracedBar> named(const std::string& name) const {
         for (const auto& bar : list)
             if (bar->name == name) return bar;
         return nullptr;
     }
-    Ref<TracedBar> stand(const std::string& name) {
+    Ref<TracedBar> addBar(const std::string& name) {
         list.push_back(std::make_shared<TracedBar>(trace_, name));
         list.back()->bars = this;
         return list.back();
@@ -197,7 +197,7 @@ public:
 
     std::vector<std::shared_ptr<TracedBar>> list;
     Ref<TracedBar> menuBar;
-    /// The name of a bar that the host does not give or make.
+    /// Name of a bar that the host fails to return or create.
     std::string refused;
 
 private:
@@ -238,7 +238,7 @@ inline void TracedBar::Delete() {
     removed = true;
     if (bars) std::erase_if(bars->list, [this](const auto& bar) { return bar.get() == this; });
 }
-inline Ref<TracedItem> TracedBar::stand(int id, const std::string& caption) {
+inline Ref<TracedItem> TracedBar::addControl(int id, const std::string& caption) {
     const auto item = std::make_shared<TracedItem>(trace_, office::msoControlPopup, id, shared_from_this());
     item->caption = caption;
     item->popup->name = plain(caption);
@@ -249,15 +249,15 @@ inline Ref<TracedItem> TracedBar::stand(int id, const std::string& caption) {
 /// The bars of a host that has just started.
 inline Ref<TracedBars> hostBars(Trace& trace) {
     const auto bars = basic::make<TracedBars>(trace);
-    const auto menuBar = bars->menuBar = bars->stand("Menu Bar");
-    menuBar->stand(30002, "&File");
-    menuBar->stand(30004, "&View");
-    menuBar->stand(30038, "&Add-Ins");
-    const auto file = bars->stand("File");
-    file->stand(1, "New");
-    file->stand(2, "Open");
-    file->stand(3, "Save");
-    file->stand(4, "Remove");
+    const auto menuBar = bars->menuBar = bars->addBar("Menu Bar");
+    menuBar->addControl(30002, "&File");
+    menuBar->addControl(30004, "&View");
+    menuBar->addControl(30038, "&Add-Ins");
+    const auto file = bars->addBar("File");
+    file->addControl(1, "New");
+    file->addControl(2, "Open");
+    file->addControl(3, "Save");
+    file->addControl(4, "Remove");
     return bars;
 }
 

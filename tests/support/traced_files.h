@@ -1,5 +1,5 @@
 #pragma once
-// Files in memory, with "/" for their separator. Each member that looks at one counts as a call and may fail.
+// Files in memory, with "/" as separator. Each read counts as a call and may fail.
 #include "Add-in/platform/files.h"
 #include "Basic/case_folding.h"
 #include "trace.h"
@@ -18,12 +18,12 @@ public:
         std::int64_t time = 1;
     };
     std::map<std::string, File> files;
-    /// How often a whole file was read.
+    /// Number of whole files read.
     mutable int reads = 0;
-    /// How often a folder was listed, and the beginning of a file read.
+    /// Number of folders listed, and of beginnings of files read.
     mutable int listings = 0, headsRead = 0;
 
-    /// A question that never fails.
+    /// Never fails.
     bool FileExists(const std::string& path) const override { return files.count(Canonical(path)) > 0; }
     bool FolderExists(const std::string& path) const override {
         const auto at = files.lower_bound(Canonical(path) + "/");

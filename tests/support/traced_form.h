@@ -1,10 +1,10 @@
 #pragma once
-// A form designer in memory, each of whose members counts as a call and may fail.
+// A form designer in memory. Each member counts as a call and may fail.
 #include "tests/support/traced_project.h"
 
 namespace test {
 
-/// Properties by their exact names; one may be an object with properties of its own.
+/// Properties by exact name; a value may be an object with its own properties.
 class TracedProperties : public vbide::Properties {
 public:
     explicit TracedProperties(Trace& trace) : trace_(trace) {}
@@ -98,7 +98,7 @@ private:
     Ref<List> list_;
 };
 
-/// The properties of a form that devices take as it is.
+/// Properties of a form that devices accept unchanged.
 inline Ref<TracedProperties> formProperties(Trace& trace) {
     auto form = basic::make<TracedProperties>(trace);
     form->values = {{"ScaleMode", 3}, {"StartupPosition", 2}, {"BorderStyle", 1}};

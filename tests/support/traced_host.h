@@ -1,5 +1,5 @@
 #pragma once
-// The host from the top in memory, each of whose members counts as a call and may fail.
+// The host in memory. Each member counts as a call and may fail.
 #include "Add-in/platform/classes.h"
 #include "traced_project.h"
 #include <functional>
@@ -87,7 +87,7 @@ private:
     Trace& trace_;
 };
 
-/// Makes documents as the host does, by their ProgID.
+/// Creates documents by their ProgID, as the host does.
 class TracedWindows : public vbide::Windows {
 public:
     TracedWindows(Trace& trace, std::function<Ref<fernwick::Object>(const std::string&)> create)
@@ -110,7 +110,7 @@ private:
     std::function<Ref<fernwick::Object>(const std::string&)> create_;
 };
 
-/// Hands out one source of each kind and tells for what.
+/// Returns one source of each kind and records what it is for.
 class TracedEvents : public vbide::Events {
 public:
     explicit TracedEvents(Trace& trace) : trace_(trace) {}
@@ -133,7 +133,7 @@ public:
     }
     Ref<vbide::VBBuildEvents> VBBuildEvents() override { return give("build", build); }
 
-    /// The error with which form designers are refused; 0 for none.
+    /// The error raised for form designers; 0 for none.
     int refused = 0;
     Ref<vbide::VBProjectsEvents> projects = basic::make<vbide::VBProjectsEvents>();
     Ref<vbide::VBComponentsEvents> components = basic::make<vbide::VBComponentsEvents>();
@@ -144,7 +144,7 @@ public:
     Ref<vbide::VBBuildEvents> build = basic::make<vbide::VBBuildEvents>();
 
 private:
-    /// A toolbar's button is known by its tip.
+    /// Toolbar buttons are named by their tip.
     static std::string nameOf(const office::CommandBarControl& control) {
         const auto caption = control.Caption();
         return caption.empty() ? control.ToolTipText() : caption;
@@ -227,7 +227,7 @@ public:
     }
     std::string TemplatePath() const override { return templatePath; }
 
-    /// What the host's Remove Project command does.
+    /// Acts as the host's Remove Project command.
     void removeActive() {
         projects->Remove(active);
         if (const auto gone = basic::cast<TracedProject>(active)) gone->removed = true;

@@ -1,5 +1,5 @@
 #pragma once
-// The world of a test: a platform in memory, all of whose calls are told in one trace and may fail.
+// A platform in memory, whose calls are recorded in one trace and may fail.
 #include "Add-in/platform/controls.h"
 #include "Add-in/platform/platform.h"
 #include "recording_report.h"
@@ -11,16 +11,16 @@
 
 namespace test {
 
-/// Shows nothing. Boxes are answered from a queue, forms by what the test says; a form comes to the front again
-/// after each box over it, as with windows.
+/// Shows nothing. Boxes are answered from a queue, forms by the test. As in a window system, a form is activated again
+/// after each box over it.
 class TracedUser : public fernwick::Interaction {
 public:
     explicit TracedUser(Trace& trace) : trace_(trace) {}
-    /// Answers of boxes that ask something, in their order.
+    /// Answers to boxes with a question, in order.
     std::deque<int> answers;
     std::map<std::string, std::function<void(fernwick::Form&)>> whenShown;
     std::string chosen;
-    /// The last open dialog as it was shown.
+    /// The last open dialog.
     fernwick::CommonDialog opened;
 
     void showModal(fernwick::Form& form) override {
@@ -45,7 +45,7 @@ public:
         return answer;
     }
     void ShowSave(fernwick::CommonDialog&) override { trace_.effect("save dialog"); }
-    /// Chooses what `chosen` says; "" stands for Cancel.
+    /// Chooses `chosen`; "" cancels.
     void ShowOpen(fernwick::CommonDialog& dialog) override {
         trace_.effect("open dialog");
         opened = dialog;
@@ -64,7 +64,7 @@ inline void press(fernwick::Form& form, const std::string& button) {
     dynamic_cast<fernwick::CommandButton&>(form.control(button)).press();
 }
 
-/// Turned by hand: each DoEvents is one turn, and so is a test's own.
+/// Run by hand: each DoEvents and each call of `turn` is one turn.
 class ManualLoop : public fernwick::EventLoop {
 public:
     explicit ManualLoop(Trace& trace) : trace_(trace) {}
@@ -94,7 +94,7 @@ private:
     fernwick::Event<> timers_;
 };
 
-/// Programs end at once, with the code that stands for their command line; one without a code can't be started.
+/// Programs end at once with the exit code stored for their command line; those without one can't be started.
 class TracedProcesses : public fernwick::Processes {
 public:
     explicit TracedProcesses(Trace& trace) : trace_(trace) {}
@@ -140,7 +140,7 @@ public:
         if (factory == factories_.end()) throw basic::RuntimeError(basic::kCantCreateObject);
         return factory->second();
     }
-    /// As if it had never been registered.
+    /// Makes the class unknown.
     void forget(const std::string& progId) { factories_.erase(progId); }
     bool CLSIDFromString(const std::string&, std::string&) const override { return false; }
     std::string ProgIDFromCLSID(const std::string&) const override { return {}; }
@@ -150,7 +150,7 @@ public:
         return library == libraries.end() ? nullptr : basic::make<fernwick::TypeLibInfo>(library->second);
     }
 
-    /// Type libraries by their paths.
+    /// Type libraries by path.
     std::map<std::string, fernwick::TypeLibInfo> libraries;
 
 private:
@@ -175,7 +175,7 @@ private:
     Trace& trace_;
 };
 
-/// Holds a text, whose ways away and back are noted. Pictures leave no trace.
+/// Contains a text. Saving and restoring it is recorded; pictures are not.
 class TextClipboard : public fernwick::Clipboard {
 public:
     explicit TextClipboard(Trace& trace) : trace_(trace) {}

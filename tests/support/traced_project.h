@@ -1,5 +1,5 @@
 #pragma once
-// A project of the host's object model in memory, each of whose members counts as a call and may fail.
+// A project of the host's object model in memory. Each member counts as a call and may fail.
 #include "Add-in/platform/host.h"
 #include "Basic/case_folding.h"
 #include "trace.h"
@@ -178,7 +178,7 @@ public:
         trace_.read();
         return {list.begin(), list.end()};
     }
-    /// Both tell `added`, as the host raises its event, before they return.
+    /// Both call `added` before they return, as the host raises its event.
     Ref<vbide::VBComponent> Add(vbide::vbext_ComponentType type) override {
         trace_.effect("add component " + std::to_string(type));
         return take("New" + std::to_string(list.size() + 1), {}, type);
@@ -209,7 +209,7 @@ public:
 
     std::vector<Ref<TracedComponent>> list;
     vbide::StartUp startUp;
-    /// Of what a file becomes.
+    /// Type of components made from files.
     vbide::vbext_ComponentType fileType = vbide::vbext_ct_StdModule;
     std::function<void(const Ref<TracedComponent>&)> added;
 

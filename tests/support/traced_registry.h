@@ -91,7 +91,7 @@ public:
     }
     /// Called with the name of each value that is stored.
     std::function<void(const std::string& name)> written;
-    /// Handles that were not closed.
+    /// Number of handles that were not closed.
     std::size_t openKeys() const { return open_.size(); }
 
 private:
@@ -106,7 +106,7 @@ private:
         const std::string base = handle == open_.end() ? std::to_string(key) : handle->second;
         return subKey.empty() ? base : base + "\\" + subKey;
     }
-    /// The key with all above it.
+    /// Creates the key and its parents.
     Values& make(const std::string& path) {
         for (auto slash = path.find('\\'); slash != std::string::npos; slash = path.find('\\', slash + 1))
             keys_[path.substr(0, slash)];

@@ -1,4 +1,4 @@
-// A project of hundreds of components: code is read when somebody looks at it.
+// A project of hundreds of components: code is read when it is shown.
 #include "tests/workbench/open_desktop.h"
 #include <QElapsedTimer>
 #include <fmt/format.h>
@@ -20,7 +20,7 @@ protected:
 
 } // namespace
 
-TEST_F(BigProject, OpensWithoutAnEditorAndShowsOnlyWhatIsAskedFor) {
+TEST_F(BigProject, OpensNoEditorUntilOneIsAskedFor) {
     open(sample());
     EXPECT_EQ(project()->VBComponents()->Count(), kModules);
     EXPECT_EQ(window().code().count(), 0);
@@ -29,12 +29,12 @@ TEST_F(BigProject, OpensWithoutAnEditorAndShowsOnlyWhatIsAskedFor) {
     EXPECT_EQ(window().code().findChildren<QsciScintilla*>().size(), 1);
 }
 
-TEST_F(BigProject, AKeyDoesNotWaitForTheOthers) {
+TEST_F(BigProject, TypingDoesNotDependOnTheProjectsSize) {
     open(sample());
     auto& editor = code("mod7");
     QElapsedTimer time;
     time.start();
-    QTest::keyClicks(&editor, "' a line of fifty keys, which nobody has to wait for");
+    QTest::keyClicks(&editor, "' a line of fifty keys, each of which must be quick");
     constexpr int kMillisecondsForAll = 2000; // they take a tenth of it
     EXPECT_LT(time.elapsed(), kMillisecondsForAll);
     EXPECT_EQ(held("mod7").substr(0, 16), "' a line of fift");

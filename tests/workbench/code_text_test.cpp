@@ -1,6 +1,5 @@
-// What a user does to an editor's text arrives in the host's module.
+// Edits in an editor reach the host's module.
 #include "Apps/workbench/code/code_editor.h"
-#include "Apps/workbench/code/procedure_list.h"
 #include "Apps/workbench/code/scintilla.h"
 #include "tests/support/test_host.h"
 #include <QApplication>
@@ -52,13 +51,13 @@ TEST_F(Code, AnUntouchedModuleStaysClean) {
     EXPECT_FALSE(component->IsDirty());
 }
 
-TEST_F(Code, AModuleWithoutCodeTakesItsFirstLines) {
+TEST_F(Code, AnEmptyModuleAcceptsItsFirstLines) {
     editorOf(moduleOf(""));
     text().insert("Sub A()\nEnd Sub");
     EXPECT_EQ(held(), "Sub A()\nEnd Sub");
 }
 
-TEST_F(Code, ALineThatIsPushedDownTakesItsHiddenAttributesAlong) {
+TEST_F(Code, APushedDownLineKeepsItsHiddenAttributes) {
     editorOf(test::SampleProject().classModule("clsA",
                                                "Public Sub A()\r\nAttribute A.VB_Description = \"x\"\r\nEnd Sub\r\n"));
     text().insertAt("\n", 0, 0);
@@ -79,8 +78,8 @@ TEST_F(Code, UndoIsAnEditLikeAnyOther) {
     EXPECT_EQ(held(), "Sub A()\nEnd Sub");
 }
 
-/// Whatever is done, the module holds what the editor shows.
-TEST_F(Code, AThousandEditsArriveInTheModule) {
+/// The module equals the editor after any edit.
+TEST_F(Code, AThousandEditsReachTheModule) {
     editorOf(moduleOf("Option Explicit\r\n\r\nSub A()\r\n    Beep\r\nEnd Sub\r\n"));
     std::mt19937 dice(7);
     const auto upTo = [&dice](long most) { return long(dice() % std::uint32_t(most + 1)); };
@@ -107,7 +106,7 @@ TEST_F(Code, ACharacterThatTheFileCannotHoldIsRefused) {
     EXPECT_EQ(held(), shown());
 }
 
-TEST_F(Code, ARefusedCharacterTakesNothingWithIt) {
+TEST_F(Code, ARefusedCharacterReplacesNothing) {
     editorOf(moduleOf("Sub A()\r\nEnd Sub\r\n"));
     QTest::keyClicks(&text(), "x");
     text().setSelection(0, 0, 1, 3);
@@ -126,7 +125,7 @@ TEST_F(Code, ARefusedCharacterTakesNothingWithIt) {
     EXPECT_EQ(held(), "Sub A()\nEnd Sub");
 }
 
-TEST_F(Code, WhatTheFileHoldsIsTypedAndPasted) {
+TEST_F(Code, CharactersOfTheFilesCodePageAreTypedAndPasted) {
     editorOf(moduleOf("' \r\n"));
     QTest::keyClick(&text(), Qt::Key_End, Qt::ControlModifier);
     QTest::sendKeyEvent(QTest::Click, &text(), Qt::Key_unknown, QString::fromUtf8("\u00e4"), Qt::NoModifier);
@@ -142,7 +141,7 @@ TEST_F(Code, EditsOfOthersAreShown) {
     EXPECT_EQ(shown(), "Sub A()\n    Beep\nEnd Sub");
 }
 
-TEST_F(Code, TheListsNameObjectsAndTheirProcedures) {
+TEST_F(Code, TheListsShowObjectsAndTheirProcedures) {
     editorOf(test::SampleProject().form("frmA",
                                         "Private Sub Form_Load()\r\nEnd Sub\r\nPrivate Sub My_Own()\r\nEnd Sub\r\n"));
     auto& objects = *editor->findChild<QComboBox*>("objects");
@@ -157,7 +156,7 @@ TEST_F(Code, TheListsNameObjectsAndTheirProcedures) {
     EXPECT_EQ(procedures.currentText(), "My_Own");
 }
 
-TEST_F(Code, AProcedureThatIsChosenComesUp) {
+TEST_F(Code, ChoosingAProcedureShowsIt) {
     editorOf(moduleOf("Sub A()\r\nEnd Sub\r\nSub B()\r\nEnd Sub\r\n"));
     auto& procedures = *editor->findChild<QComboBox*>("procedures");
     procedures.setCurrentIndex(procedures.findText("B"));

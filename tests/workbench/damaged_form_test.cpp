@@ -1,5 +1,6 @@
-// What is wrong with a form's text is drawn as far as it goes.
+// Damaged forms are drawn as far as they can be read.
 #include "Apps/workbench/designer/form_painter.h"
+#include "Apps/workbench/designer/form_reader.h"
 #include "Host/model/host.h"
 #include "tests/support/sample_project.h"
 #include "tests/support/test_host.h"
@@ -35,7 +36,7 @@ const std::string kWholeForm =
     "   Begin VB.Menu mnuOne \r\n      Caption         =   \"&One\"\r\n   End\r\nEnd\r\nAttribute VB_Name = "
     "\"frmMain\"\r\n";
 
-/// Reads and draws a form of this text; what comes of it, a null picture for a text that is no form.
+/// Reads and draws a form with this text; a null picture if the text is not a form.
 QImage drawn(const std::string& text, const std::string& resources = {}) {
     test::TestHost host;
     if (!resources.empty()) host.folder.write("frmMain.frx", resources);
@@ -62,13 +63,13 @@ std::string with(const std::string& from, const std::string& to) {
 
 } // namespace
 
-TEST(DamagedForms, AWholeOneIsDrawn) {
+TEST(DamagedForms, AnIntactFormIsDrawn) {
     const auto image = drawn(kWholeForm);
     EXPECT_EQ(image.size(), QSize(208, 146)); // its frame of 4 and 23 pixels, a menu bar of 19
     EXPECT_EQ(image.pixelColor(100, 140), QColor(255, 0, 0));
 }
 
-TEST(DamagedForms, OneThatBreaksOffIsDrawnToThere) {
+TEST(DamagedForms, ATruncatedFormIsDrawnUpToItsEnd) {
     for (std::size_t length = 0; length < kWholeForm.size(); length += 7) {
         const auto image = drawn(kWholeForm.substr(0, length));
         const auto begun = kWholeForm.find("ClientWidth     =   3000");
@@ -76,7 +77,7 @@ TEST(DamagedForms, OneThatBreaksOffIsDrawnToThere) {
     }
 }
 
-TEST(DamagedForms, WrongValuesDrawTheRest) {
+TEST(DamagedForms, TheRestIsDrawnBesideInvalidValues) {
     for (const std::string value :
          {"", "\"\"", "\"text", "-1", "0", "1e30", "-99999999", "99999999999999999999", "&H", "&HFFFFFFFF&",
           "&H80000099&", "nonsense", "{DEL}", "$\"frmMain.frx\":FFFFFFFF", "\"frmMain.frx\":ZZ", "1,5", "nan", "inf"}) {
@@ -92,7 +93,7 @@ TEST(DamagedForms, WrongValuesDrawTheRest) {
     }
 }
 
-TEST(DamagedForms, BlocksThatDoNotEndAreDrawn) {
+TEST(DamagedForms, UnclosedBlocksAreDrawn) {
     EXPECT_FALSE(drawn(with("   End\r\n", "")).isNull());
     EXPECT_FALSE(drawn(with("EndProperty\r\n", "")).isNull());
     EXPECT_FALSE(drawn(with("Begin VB.", "Begin ")).isNull());
@@ -101,7 +102,7 @@ TEST(DamagedForms, BlocksThatDoNotEndAreDrawn) {
     EXPECT_TRUE(drawn(with("Begin", "Bgin")).isNull());
 }
 
-TEST(DamagedForms, ResourcesThatAreOfAnotherDayAreLeftOut) {
+TEST(DamagedForms, OutdatedResourcesAreLeftOut) {
     const std::string picture("\x0c\0\0\0lt\0\0\x04\0\0\0BM12", 16);
     for (const auto& bytes :
          {std::string("x"), picture, picture.substr(0, 14), std::string(64, '\xff'), std::string(64, '\0')})

@@ -1,5 +1,5 @@
 #pragma once
-// The whole desktop with a form on its designer.
+// The whole desktop with an open form designer.
 #include "Apps/workbench/base/text.h"
 #include "Apps/workbench/designer/design_desk.h"
 #include "Apps/workbench/designer/form_canvas.h"
@@ -22,13 +22,13 @@ protected:
 
     workbench::DesignDesk& desk() { return window().design(); }
     workbench::PropertiesWindow& properties() { return desk().properties(); }
-    /// Lets everything be done that waits for Qt's loop, on a busy machine too: what is not urgent comes last there.
+    /// Runs Qt's loop until nothing is pending, including events of low priority.
 
     void openSample(const std::string& name) {
         bench->open(sample(name));
         settle();
     }
-    /// A project of one form with these lines in its description, and its designer.
+    /// Opens a project of one form with these lines in its description, and the designer.
     void openForm(const std::string& lines, const std::string& code = {}) {
         auto text = formText("frmMain", code);
         for (auto at = text.find("2400"); at != std::string::npos; at = text.find("2400")) text.replace(at, 4, kSize);
@@ -87,7 +87,7 @@ protected:
     QModelIndex valueCell(const QString& property) {
         return properties().rows().index(properties().rows().rowOf(property), 1);
     }
-    /// Types a value into its row and commits it with the Enter key.
+    /// Types a value into its row and presses Enter.
     void type(const QString& property, const QString& value) {
         auto& table = properties().table();
         table.setCurrentIndex(valueCell(property));
@@ -100,12 +100,12 @@ protected:
         QTest::keyClick(editor, Qt::Key_Return);
         settle();
     }
-    /// What saving writes now.
+    /// The text that saving would write.
     std::string saved(const std::string& name) {
         component(name)->SaveAs(component(name)->FileNames(1));
         return folder.read(std::filesystem::relative(component(name)->FileNames(1), folder.path()).string());
     }
-    /// The lines that differ, as "- old" and "+ new"; texts of equal length of lines.
+    /// The lines that differ, as "- old" and "+ new". The texts have the same number of lines.
     static std::string difference(const std::string& before, const std::string& after) {
         const auto lines = [](const std::string& text) {
             std::vector<std::string> all;
@@ -124,7 +124,7 @@ protected:
         return out;
     }
 
-    /// Width and height of that form's inner rectangle, in twips: 416 pixels.
+    /// Width and height of that form's inner rectangle in twips (416 pixels).
     static constexpr const char* kSize = "6240";
     std::string original;
 };

@@ -17,7 +17,7 @@ protected:
         component(name)->CodeModule()->CodePane()->Show();
         return *window().code().editorOf(component(name));
     }
-    /// The texts of the explorer, an entry below another one behind it with its depth.
+    /// The texts of the explorer's entries from top to bottom, indented by depth.
     std::vector<std::string> explorerEntries() {
         std::vector<std::string> entries;
         for (QTreeWidgetItemIterator at(&window().explorer()); *at; ++at) {
@@ -38,7 +38,7 @@ protected:
         QTest::mouseDClick(tree.viewport(), Qt::LeftButton, {}, at);
     }
     std::vector<std::string> compile() { return carryOut("&Fernwick", "Compile and &Validate"); }
-    /// Chooses the command, saves where that is asked, and gives the texts of the boxes that come.
+    /// Chooses the command, confirms saving, and returns the texts of the boxes that were shown.
     std::vector<std::string> carryOut(const QString& menu, const QString& item) {
         std::vector<std::string> boxes;
         answer([&boxes](QDialog& window) {
@@ -52,7 +52,7 @@ protected:
         settle();
         return boxes;
     }
-    /// Does this with every question that comes, until it is stopped.
+    /// Calls `act` with each question until answers_ is stopped.
     void answer(std::function<void(QDialog&)> act) {
         answers_.disconnect();
         QObject::connect(&answers_, &QTimer::timeout, [act] {

@@ -1,5 +1,5 @@
 #pragma once
-// What a user does in the windows that come up.
+// Answers modal windows in a user's place.
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDialog>
@@ -10,7 +10,7 @@
 
 namespace test {
 
-/// Does this when the next modal window stands. Looks from Qt's loop, as only there a window comes up.
+/// Calls `act` with the next modal window once it is shown.
 template <class Window = QDialog>
 void whenShown(std::type_identity_t<std::function<void(Window&)>> act) {
     QTimer::singleShot(10, qApp, [act] {

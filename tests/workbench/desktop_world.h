@@ -1,5 +1,5 @@
 #pragma once
-// The add-in's world at the desktop, without a host.
+// The platform of the desktop, without a host.
 #include "Add-in/platform/platform.h"
 #include "Apps/workbench/bridge/qt_clipboard.h"
 #include "Apps/workbench/bridge/qt_loop.h"
@@ -22,7 +22,7 @@ namespace test {
 class DesktopWorld : public testing::Test {
 protected:
     TempFolder folder;
-    /// What deliveries of the loop let out.
+    /// Errors of the loop's deliveries.
     int failures = 0;
     host::Clock clock;
     workbench::QtUser user;

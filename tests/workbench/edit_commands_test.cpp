@@ -1,6 +1,6 @@
-// What the commands and keys of the code windows do.
-#include "Apps/workbench/window/commands.h"
+// The commands and keys of the code windows.
 #include "Apps/workbench/code/definition.h"
+#include "Apps/workbench/window/commands.h"
 #include "tests/workbench/open_desktop.h"
 #include <QApplication>
 #include <QClipboard>
@@ -38,7 +38,7 @@ constexpr auto kThreeLines = "a\r\n    b\r\nc\r\n";
 
 } // namespace
 
-TEST_F(EditCommands, AreThereOnlyWhileThereIsAnEditor) {
+TEST_F(EditCommands, AreEnabledOnlyWithAnEditor) {
     open(test::SampleProject().module("modA"));
     EXPECT_FALSE(menuItem("&Edit", "&Undo")->isEnabled());
     EXPECT_FALSE(menuItem("&Edit", "R&eplace...")->isEnabled());
@@ -51,7 +51,7 @@ TEST_F(EditCommands, AreThereOnlyWhileThereIsAnEditor) {
     EXPECT_EQ(window().code().count(), 0);
 }
 
-TEST_F(EditCommands, LeaveWindowsOfOtherKindsAlone) {
+TEST_F(EditCommands, DoNothingInOtherTabs) {
     edit(kThreeLines);
     window().code().setCurrentIndex(window().code().addTab(new QWidget, "a form"));
     settle();
@@ -71,7 +71,7 @@ TEST_F(EditCommands, TabIndentsTheSelectedLines) {
     EXPECT_EQ(held("modA"), "a\n    b\nc");
 }
 
-TEST_F(EditCommands, IndentAndOutdentDoItFromTheMenu) {
+TEST_F(EditCommands, IndentAndOutdentWorkFromTheMenu) {
     auto& editor = edit(kThreeLines);
     editor.setSelection(0, 0, 2, 0);
     choose("&Indent");
@@ -95,7 +95,7 @@ TEST_F(EditCommands, ABlockBecomesACommentAndCodeAgain) {
     EXPECT_EQ(held("modA"), "'a\n'    b\n'c");
 }
 
-TEST_F(EditCommands, UncommentTakesOneSignOfEachLineThatHasOne) {
+TEST_F(EditCommands, UncommentRemovesOneSignFromEachLine) {
     auto& editor = edit("''a\r\n    'b\r\nc ' d\r\n\r\n");
     editor.selectAll();
     choose("Uncomment Bloc&k");
@@ -114,7 +114,7 @@ TEST_F(EditCommands, CtrlYCutsTheLine) {
     EXPECT_EQ(held("modA"), "a\nc");
 }
 
-TEST_F(EditCommands, ANewLineIsIndentedAsTheOneAbove) {
+TEST_F(EditCommands, ANewLineIsIndentedLikeTheOneAbove) {
     auto& editor = edit(kThreeLines);
     editor.setCursorPosition(1, 5);
     press(editor, Qt::Key_Return);
@@ -137,7 +137,7 @@ TEST_F(EditCommands, CtrlUpAndDownGoFromProcedureToProcedure) {
     EXPECT_EQ(cursor(), "modA 2:1");
 }
 
-TEST_F(EditCommands, GoToLineGoesThere) {
+TEST_F(EditCommands, GoToLineMovesTheCursor) {
     auto& editor = edit(kThreeLines);
     test::whenShown<QInputDialog>([](QInputDialog& dialog) {
         dialog.setIntValue(3);
@@ -156,7 +156,7 @@ TEST_F(EditCommands, CtrlTabGoesToTheNextWindow) {
     EXPECT_EQ(held("modB"), "");
 }
 
-TEST_F(EditCommands, TheEditorsOwnMenuHasThem) {
+TEST_F(EditCommands, AreInTheEditorsContextMenu) {
     auto& editor = edit(kThreeLines);
     editor.setSelection(0, 0, 2, 0);
     QStringList entries;
@@ -176,13 +176,13 @@ TEST_F(EditCommands, TheEditorsOwnMenuHasThem) {
     EXPECT_EQ(held("modA"), "'a\n'    b\nc");
 }
 
-// ---- definitions ------------------------------------------------------------------------------------------------------
+// ---- definitions ----------------------------------------------------------------------------------------------------
 
 namespace {
 
 class Definitions : public EditCommands {
 protected:
-    /// Asks for the definition of what stands at this place, from 1; gives where that leads, and what is selected.
+    /// Asks for the definition of the name at this place (from 1); returns the new place and the selection.
     std::string definition(const std::string& module, int line, int column) {
         auto& editor = code(module);
         editor.setCursorPosition(line - 1, column - 1);
@@ -209,7 +209,7 @@ protected:
 
 } // namespace
 
-TEST_F(Definitions, AreFoundInTheProcedureTheModuleAndTheOthers) {
+TEST_F(Definitions, AreFoundInProcedureModuleAndOtherModules) {
     openBoth();
     EXPECT_EQ(definition("modB", 3, 6), "modB 2:9 a");
     EXPECT_EQ(definition("modB", 3, 10), "modA 12:17 Twice");
@@ -231,13 +231,13 @@ TEST_F(Definitions, AComponentsNameLeadsToItsCode) {
     EXPECT_EQ(definition("modB", 6, 6), "clsC 1:1 ");
 }
 
-TEST_F(Definitions, WhatIsPrivateElsewhereIsNotMeant) {
+TEST_F(Definitions, PrivateNamesOfOtherModulesAreIgnored) {
     openBoth();
     EXPECT_EQ(definition("modB", 4, 6), "modB 4:6 ");
     EXPECT_EQ(window().findChild<QLabel*>("findSaid")->text(), "\"Hidden\" is not declared in this project.");
 }
 
-TEST_F(Definitions, NothingIsLookedForInCommentsAndTexts) {
+TEST_F(Definitions, CommentsAndStringsAreIgnored) {
     const auto name = [](const char* line, int column) { return workbench::nameAt(line, column).name.toStdString(); };
     EXPECT_EQ(name("a = b ' c", 9), "");
     EXPECT_EQ(name("a = \"b c\"", 6), "");
@@ -271,7 +271,7 @@ TEST_F(Definitions, CtrlShiftF2GoesBackStepByStep) {
     EXPECT_EQ(cursor(), "modB 3:10");
 }
 
-TEST_F(Definitions, PositionsInWhatWasRemovedAreSkipped) {
+TEST_F(Definitions, PositionsInRemovedComponentsAreSkipped) {
     openBoth();
     definition("modB", 3, 10);
     project()->VBComponents()->Remove(component("modB"));

@@ -1,4 +1,4 @@
-// The project explorer: what it shows, and its menu.
+// The project explorer and its context menu.
 #include "tests/workbench/desktop.h"
 #include <QMenu>
 #include <gmock/gmock.h>
@@ -10,7 +10,7 @@ using testing::Not;
 namespace {
 
 struct DesktopExplorer : test::Desktop {
-    /// Opens the menu of an entry, does this with it, and gives its commands.
+    /// Opens the menu of an entry, calls `act` with it, and returns its commands.
     std::vector<std::string> menuOf(const QString& text, const QString& chosen = {}) {
         auto& tree = window().explorer();
         tree.setCurrentItem(entry(text));
@@ -35,7 +35,7 @@ struct DesktopExplorer : test::Desktop {
 
 } // namespace
 
-TEST_F(DesktopExplorer, EntriesHavePicturesAndTheProjectsAreAllThere) {
+TEST_F(DesktopExplorer, ListsAllProjectsWithIcons) {
     openSample("HelloWorld");
     openSample("AddressBook");
     EXPECT_EQ(window().explorer().topLevelItemCount(), 2);
@@ -44,7 +44,7 @@ TEST_F(DesktopExplorer, EntriesHavePicturesAndTheProjectsAreAllThere) {
     EXPECT_FALSE(entry("HelloWorld")->font(0).bold());
 }
 
-TEST_F(DesktopExplorer, AComponentsMenu) {
+TEST_F(DesktopExplorer, AComponentHasItsCommands) {
     openSample("AddressBook");
     EXPECT_THAT(menuOf("frmList"),
                 ElementsAre("&Code", "O&bject", "&Save File", "Save File &As...", "&Remove File", "Set as Start &Up"));
@@ -53,7 +53,7 @@ TEST_F(DesktopExplorer, AComponentsMenu) {
     EXPECT_EQ(window().code().tabText(0), "clsPerson");
 }
 
-TEST_F(DesktopExplorer, AProjectsMenuIsAboutThatProject) {
+TEST_F(DesktopExplorer, AProjectsMenuActsOnThatProject) {
     openSample("HelloWorld");
     openSample("AddressBook");
     menuOf("HelloWorld", "Add &Class Module");
@@ -62,7 +62,7 @@ TEST_F(DesktopExplorer, AProjectsMenuIsAboutThatProject) {
     EXPECT_EQ(entry("ClassModule1")->parent()->parent(), entry("HelloWorld"));
 }
 
-TEST_F(DesktopExplorer, AGroupsMenuAddsToIt) {
+TEST_F(DesktopExplorer, AGroupsMenuAddsComponents) {
     openSample("AddressBook");
     EXPECT_THAT(menuOf("Forms"), ElementsAre("Add &Form", "Add &Module", "Add &Class Module", "&Add File..."));
 }

@@ -1,7 +1,7 @@
 // Finding and replacing, from one line of code to a whole project.
-#include "Apps/workbench/window/commands.h"
 #include "Apps/workbench/code/code_pattern.h"
 #include "Apps/workbench/code/find_bar.h"
+#include "Apps/workbench/window/commands.h"
 #include "tests/workbench/open_desktop.h"
 #include <QCheckBox>
 #include <QComboBox>
@@ -27,22 +27,22 @@ constexpr workbench::FindOptions kAsPattern{false, false, true};
 
 } // namespace
 
-TEST(CodePattern, CapitalsCountWhereTheUserSaysSo) {
+TEST(CodePattern, CaseCountsOnlyWithMatchCase) {
     EXPECT_EQ(hits("beep", "Beep: BEEP: beep"), (Parts{"Beep", "BEEP", "beep"}));
     EXPECT_EQ(hits("beep", "Beep: BEEP: beep", {true, false, false}), (Parts{"beep"}));
 }
 
-TEST(CodePattern, AWholeWordIsPartOfNoOther) {
+TEST(CodePattern, WholeWordsAreNotPartsOfLongerOnes) {
     EXPECT_EQ(hits("lbl", "lbl.Caption = lblName & m_lbl & lbl", {false, true, false}), (Parts{"lbl", "lbl"}));
     EXPECT_EQ(hits("über", "über überall", {false, true, false}), (Parts{"über"}));
 }
 
-TEST(CodePattern, SignsThatMeanSomethingElsewhereAreThemselves) {
+TEST(CodePattern, SpecialCharactersOfExpressionsAreLiteral) {
     EXPECT_EQ(hits("a(1).b*", "a(1).b* + aX1Yxb"), (Parts{"a(1).b*"}));
     EXPECT_EQ(hits("[x]", "x[x]"), (Parts{"[x]"}));
 }
 
-TEST(CodePattern, PatternsAreThoseOfLike) {
+TEST(CodePattern, PatternsFollowLike) {
     EXPECT_EQ(hits("c?t", "cat cut ct", kAsPattern), (Parts{"cat", "cut"}));
     EXPECT_EQ(hits("m#", "m1 mx m2", kAsPattern), (Parts{"m1", "m2"}));
     EXPECT_EQ(hits("Dim * As", "Dim a As X, b As Y", kAsPattern), (Parts{"Dim a As"}));
@@ -54,9 +54,9 @@ TEST(CodePattern, PatternsAreThoseOfLike) {
     EXPECT_EQ(hits("a.b", "a.b axb", kAsPattern), (Parts{"a.b"}));
 }
 
-TEST(CodePattern, WhatIsNoneIsTold) {
-    EXPECT_EQ(workbench::CodePattern("[a", kAsPattern).error(), "The pattern lacks a ].");
-    EXPECT_EQ(workbench::CodePattern("", {}).error(), "There is nothing to look for.");
+TEST(CodePattern, InvalidPatternsHaveAnError) {
+    EXPECT_EQ(workbench::CodePattern("[a", kAsPattern).error(), "The pattern has a [ without a ].");
+    EXPECT_EQ(workbench::CodePattern("", {}).error(), "Enter a text to find.");
     EXPECT_NE(workbench::CodePattern("[z-a]", kAsPattern).error(), "");
     EXPECT_TRUE(hits("[a", "[a", kAsPattern).empty());
     EXPECT_TRUE(hits("*", "", kAsPattern).empty());
@@ -112,7 +112,7 @@ protected:
 
 } // namespace
 
-TEST_F(Finding, OneAfterTheOtherAndRoundWithAWord) {
+TEST_F(Finding, FindsAllHitsAndReportsTheWrapAround) {
     open(threeModules());
     code("modA").setCursorPosition(2, 0);
     look("x");
@@ -139,7 +139,7 @@ TEST_F(Finding, Backwards) {
     EXPECT_EQ(said(), "The search continued from the end.");
 }
 
-TEST_F(Finding, InTheProcedureAlone) {
+TEST_F(Finding, CanBeLimitedToTheProcedure) {
     open(threeModules());
     code("modA").setCursorPosition(2, 0);
     look("x", "Current Procedure");
@@ -148,7 +148,7 @@ TEST_F(Finding, InTheProcedureAlone) {
     EXPECT_THAT(next(2), ElementsAre("modA 1:5 x", "modA 1:5 x"));
 }
 
-TEST_F(Finding, InTheProjectWindowsOpenWhereSomethingIsFound) {
+TEST_F(Finding, InAProjectOpensWindowsOnlyForHits) {
     open(threeModules());
     code("modA").setCursorPosition(5, 4);
     look("x", "Current Project");
@@ -164,7 +164,7 @@ TEST_F(Finding, InTheProjectWindowsOpenWhereSomethingIsFound) {
     EXPECT_EQ(said(), "The search continued from the end.");
 }
 
-TEST_F(Finding, WhatIsNotThereIsTold) {
+TEST_F(Finding, ReportsWhatWasNotFound) {
     open(threeModules());
     code("modA").setCursorPosition(2, 0);
     look("nowhere");
@@ -173,7 +173,7 @@ TEST_F(Finding, WhatIsNotThereIsTold) {
     look("[", "Current Module");
     in<QCheckBox>("pattern").setChecked(true);
     press("findNext");
-    EXPECT_EQ(said(), "The pattern lacks a ].");
+    EXPECT_EQ(said(), "The pattern has a [ without a ].");
 }
 
 TEST_F(Finding, KeysWorkInTheEditorAndInTheBar) {
@@ -202,7 +202,7 @@ TEST_F(Finding, KeysWorkInTheEditorAndInTheBar) {
     EXPECT_TRUE(in<QLineEdit>("replaceWith").isVisible());
 }
 
-TEST_F(Finding, ASelectionOfSeveralLinesIsNotWhatIsLookedFor) {
+TEST_F(Finding, IgnoresASelectionOfSeveralLines) {
     open(threeModules());
     code("modA").setSelection(0, 0, 1, 3);
     look("x");
@@ -211,7 +211,7 @@ TEST_F(Finding, ASelectionOfSeveralLinesIsNotWhatIsLookedFor) {
     EXPECT_EQ(in<QLineEdit>("findWhat").text(), "x");
 }
 
-TEST_F(Finding, TheWordComesWithoutTheBarToo) {
+TEST_F(Finding, ShowsTheResultEvenIfTheBarWasHidden) {
     open(threeModules());
     auto& editor = code("modA");
     window().activateWindow();
@@ -225,7 +225,7 @@ TEST_F(Finding, TheWordComesWithoutTheBarToo) {
     EXPECT_TRUE(editor.hasFocus());
 }
 
-TEST_F(Finding, F3WithoutAnythingToLookForAsks) {
+TEST_F(Finding, F3WithoutATextOpensTheBar) {
     open(threeModules());
     code("modA");
     menuItem("&Edit", "Find &Next")->trigger();
@@ -245,9 +245,9 @@ TEST_F(Finding, OptionsAreRemembered) {
     EXPECT_EQ(other.findChild<QComboBox*>("findScope")->currentText(), "Current Project");
 }
 
-// ---- replacing --------------------------------------------------------------------------------------------------------
+// ---- replacing ------------------------------------------------------------------------------------------------------
 
-TEST_F(Finding, ReplaceTakesWhatIsSelectedAndFindsTheNext) {
+TEST_F(Finding, ReplaceReplacesTheSelectionAndFindsTheNext) {
     open(threeModules());
     code("modA").setCursorPosition(1, 0);
     look("x");
@@ -259,7 +259,7 @@ TEST_F(Finding, ReplaceTakesWhatIsSelectedAndFindsTheNext) {
     EXPECT_EQ(component("modA")->CodeModule()->Lines(3, 1), "    count = x");
 }
 
-TEST_F(Finding, ReplaceAllIsOneStepToUndo) {
+TEST_F(Finding, ReplaceAllIsOneUndoStep) {
     open(threeModules());
     auto& editor = code("modA");
     const auto before = held("modA");
@@ -274,7 +274,7 @@ TEST_F(Finding, ReplaceAllIsOneStepToUndo) {
     EXPECT_EQ(held("modC"), "Dim x");
 }
 
-TEST_F(Finding, ReplaceAllInTheProcedureLeavesTheOthers) {
+TEST_F(Finding, ReplaceAllInTheProcedureLeavesOtherProcedures) {
     open(threeModules());
     code("modA").setCursorPosition(5, 0);
     look("x", "Current Procedure");
@@ -283,7 +283,7 @@ TEST_F(Finding, ReplaceAllInTheProcedureLeavesTheOthers) {
     EXPECT_EQ(held("modA"), "Dim x\nSub A()\n    x = x\nEnd Sub\nSub B()\n    y = 1\nEnd Sub");
 }
 
-TEST_F(Finding, ReplaceAllInTheProjectTellsTheModules) {
+TEST_F(Finding, ReplaceAllInTheProjectCountsTheModules) {
     open(threeModules());
     code("modA");
     look("x", "Current Project");
@@ -298,7 +298,7 @@ TEST_F(Finding, ReplaceAllInTheProjectTellsTheModules) {
     EXPECT_FALSE(component("modB")->IsDirty());
 }
 
-TEST_F(Finding, LongerLettersOfAFileAreCountedAsLetters) {
+TEST_F(Finding, MultiByteCharactersCountAsOne) {
     open(test::SampleProject().module("modA", "s = \"\xe4\xf6\xfc x \xe4 x\"\r\n")); // in the file's code page
     look("x");
     code("modA");
@@ -308,7 +308,7 @@ TEST_F(Finding, LongerLettersOfAFileAreCountedAsLetters) {
     EXPECT_EQ(held("modA"), "s = \"\xc3\xa4\xc3\xb6\xc3\xbc \xc3\xbc \xc3\xa4 \xc3\xbc\"");
 }
 
-TEST_F(Finding, WhatTheFileCannotHoldIsToldOnceAndNothingReplaced) {
+TEST_F(Finding, ACharacterThatTheFileCannotHoldIsReportedOnceAndNothingReplaced) {
     open(threeModules());
     const auto before = held("modA");
     code("modA");
@@ -323,7 +323,7 @@ TEST_F(Finding, WhatTheFileCannotHoldIsToldOnceAndNothingReplaced) {
     EXPECT_EQ(code("modA").text().toStdString(), before);
 }
 
-/// To be looked at.
+/// Pictures for review.
 TEST_F(Finding, LooksLikeItsPictures) {
     open(threeModules());
     code("modA");

@@ -1,4 +1,4 @@
-// Forms on their designers: drawn from their text, edited by mouse and keyboard.
+// Form designers: drawing, and editing by mouse and keyboard.
 #include "Host/model/component.h"
 #include "tests/workbench/designer_desktop.h"
 #include <QBuffer>
@@ -269,7 +269,7 @@ TEST_F(FormDesigners, OfDeviceControlsLookLikeTheirPicture) {
     EXPECT_TRUE(canvas().grab().save(FERNWICK_BINARY_DIR "/designer-devices.png"));
 }
 
-// ---- opening and closing ------------------------------------------------------------------------------------------------
+// ---- opening and closing --------------------------------------------------------------------------------------------
 
 TEST_F(FormDesigners, OpenByADoubleClickInTheExplorer) {
     openSample("AddressBook");
@@ -285,7 +285,7 @@ TEST_F(FormDesigners, OpenByADoubleClickInTheExplorer) {
     EXPECT_FALSE(component("frmList")->HasOpenDesigner());
 }
 
-TEST_F(FormDesigners, TellAddInsOnceThatTheyAreActive) {
+TEST_F(FormDesigners, NotifyAddInsOnceWhenActivated) {
     openSample("AddressBook");
     std::vector<std::string> told;
     const auto project = bench->host().ActiveVBProject();
@@ -312,7 +312,7 @@ TEST_F(FormDesigners, CloseWithTheirTab) {
     EXPECT_EQ(window().code().count(), 1);
 }
 
-TEST_F(FormDesigners, GoWithTheirProject) {
+TEST_F(FormDesigners, CloseWithTheirProject) {
     openForm(kShowcase);
     clickOn("cmdOK");
     bench->host().VBProjects()->Remove(bench->host().ActiveVBProject());
@@ -321,7 +321,7 @@ TEST_F(FormDesigners, GoWithTheirProject) {
     EXPECT_EQ(properties().rows().rowCount(), 0);
 }
 
-TEST_F(FormDesigners, StayAsTheyAreWhileASaveClosesTheirWindow) {
+TEST_F(FormDesigners, SurviveASaveThatClosesTheDesigner) {
     openForm(kShowcase);
     clickOn("cmdOK");
     const auto* const before = &view();
@@ -332,7 +332,7 @@ TEST_F(FormDesigners, StayAsTheyAreWhileASaveClosesTheirWindow) {
     EXPECT_EQ(selected(), "cmdOK");
 }
 
-TEST_F(FormDesigners, AndCodeGiveWayToEachOtherByKeys) {
+TEST_F(FormDesigners, SwitchToTheirCodeAndBackByKeys) {
     openForm(kShowcase);
     ASSERT_EQ(menuItem("&View", "&Code")->shortcut(), QKeySequence("F7"));
     ASSERT_EQ(menuItem("&View", "O&bject")->shortcut(), QKeySequence("Shift+F7"));
@@ -357,7 +357,7 @@ TEST_F(FormDesigners, AFormWithoutADescriptionOpensItsCode) {
     EXPECT_EQ(window().code().current()->component(), component("frmBare"));
 }
 
-TEST_F(FormDesigners, ANewFormComesUpOnItsDesigner) {
+TEST_F(FormDesigners, ANewFormOpensItsDesigner) {
     openForm(kShowcase);
     menuItem("&Project", "Add &Form")->trigger();
     settle();
@@ -366,9 +366,9 @@ TEST_F(FormDesigners, ANewFormComesUpOnItsDesigner) {
     EXPECT_EQ(shown("Caption"), "Form1");
 }
 
-// ---- selecting ----------------------------------------------------------------------------------------------------------
+// ---- selecting ------------------------------------------------------------------------------------------------------
 
-TEST_F(FormDesigners, SelectWhatIsClickedAndShowItsProperties) {
+TEST_F(FormDesigners, SelectTheClickedControlAndShowItsProperties) {
     openForm(kShowcase);
     EXPECT_EQ(selected(), "");
     EXPECT_EQ(shown("(Name)"), "frmMain");
@@ -382,7 +382,7 @@ TEST_F(FormDesigners, SelectWhatIsClickedAndShowItsProperties) {
     EXPECT_EQ(shown("(Name)"), "frmMain");
 }
 
-TEST_F(FormDesigners, GoFromControlToControlByKeys) {
+TEST_F(FormDesigners, SelectControlsByKeys) {
     openForm(R"(   Begin VB.TextBox txtB 
       Height          =   300
       Left            =   1500
@@ -421,7 +421,7 @@ TEST_F(FormDesigners, GoFromControlToControlByKeys) {
     EXPECT_EQ(selected(), "");
 }
 
-TEST_F(FormDesigners, SelectTheControlInFront) {
+TEST_F(FormDesigners, SelectTheTopmostControl) {
     openForm(R"(   Begin VB.CommandButton cmdFront 
       Height          =   600
       Left            =   120
@@ -443,10 +443,10 @@ TEST_F(FormDesigners, SelectTheControlInFront) {
 )");
     clickOn("cmdBack");
     EXPECT_EQ(selected(), "cmdFront");
-    EXPECT_EQ(view().picture().controls.front().name, "lblDrawn"); // behind what is a window
+    EXPECT_EQ(view().picture().controls.front().name, "lblDrawn"); // below controls that are windows
 }
 
-// ---- editing ------------------------------------------------------------------------------------------------------------
+// ---- editing --------------------------------------------------------------------------------------------------------
 
 TEST_F(FormDesigners, MoveByTheGridWithControlAndArrows) {
     openForm(kShowcase);
@@ -478,13 +478,13 @@ TEST_F(FormDesigners, MoveByTheMouseOntoTheGrid) {
     EXPECT_EQ(selected(), "imgFrame");
 }
 
-TEST_F(FormDesigners, ATremblingHandMovesNothing) {
+TEST_F(FormDesigners, SmallMouseMovesMoveNothing) {
     openForm(kShowcase);
     drag(middleOf("txtName"), {1, 1});
     EXPECT_FALSE(component("frmMain")->IsDirty());
 }
 
-TEST_F(FormDesigners, ControlsInAContainerStandOnItsGridInItsUnits) {
+TEST_F(FormDesigners, ControlsInAContainerSnapToItsGridInItsUnits) {
     openForm(R"(   Begin VB.PictureBox picBox 
       Height          =   1500
       Left            =   125
@@ -518,7 +518,7 @@ TEST_F(FormDesigners, AreSizedByTheirGrips) {
     EXPECT_EQ(valueOf("txtName", "Width"), "0");
 }
 
-TEST_F(FormDesigners, ALineIsPulledByItsEnds) {
+TEST_F(FormDesigners, ALineIsDraggedByItsEnds) {
     openForm(kShowcase);
     clickOn("linUnder");
     drag(pointOn(placeOf("linUnder").topLeft()), {16, -24});
@@ -538,7 +538,7 @@ TEST_F(FormDesigners, TheFormIsSizedByItsGrips) {
               "+   ClientWidth     =   7440\n+   ScaleHeight     =   6840\n+   ScaleWidth      =   7440\n");
 }
 
-TEST_F(FormDesigners, RemoveWithTheDeleteKeyAndTellAddIns) {
+TEST_F(FormDesigners, RemoveWithTheDeleteKeyAndNotifyAddIns) {
     openForm(kShowcase);
     int removed = 0;
     const auto form = component("frmMain");
@@ -556,7 +556,7 @@ TEST_F(FormDesigners, RemoveWithTheDeleteKeyAndTellAddIns) {
     EXPECT_TRUE(desk().forms().current());
 }
 
-TEST_F(FormDesigners, TakeChangesBack) {
+TEST_F(FormDesigners, UndoChanges) {
     openForm(kShowcase);
     clickOn("cmdOK");
     key(Qt::Key_Right, Qt::ControlModifier);
@@ -569,7 +569,7 @@ TEST_F(FormDesigners, TakeChangesBack) {
     EXPECT_EQ(saved("frmMain"), original);
 }
 
-TEST_F(FormDesigners, ARemovedControlComesBackWithAllWithinIt) {
+TEST_F(FormDesigners, UndoRestoresAControlWithItsContents) {
     openForm(kShowcase);
     QTest::mouseClick(&canvas(), Qt::LeftButton, {}, pointOn(placeOf("fraChoice").topLeft() + QPointF(3, 3)));
     key(Qt::Key_Right, Qt::ControlModifier);
@@ -582,7 +582,7 @@ TEST_F(FormDesigners, ARemovedControlComesBackWithAllWithinIt) {
     EXPECT_EQ(saved("frmMain"), original);
 }
 
-TEST_F(FormDesigners, WhatAnotherTookAwayIsNotInTheWayOfUndo) {
+TEST_F(FormDesigners, UndoSkipsControlsThatAnAddInRemoved) {
     openForm(kShowcase);
     clickOn("cmdOff");
     key(Qt::Key_Right, Qt::ControlModifier);
@@ -593,7 +593,7 @@ TEST_F(FormDesigners, WhatAnotherTookAwayIsNotInTheWayOfUndo) {
     EXPECT_EQ(valueOf("cmdOff", "Left"), "4800");
 }
 
-TEST_F(FormDesigners, ShowWhatOthersChange) {
+TEST_F(FormDesigners, ShowChangesByOthers) {
     openForm(kShowcase);
     control("cmdOK")->Properties()->Item("Left")->Value(std::int32_t{120});
     component("frmMain")->Properties()->Item("Caption")->Value(std::string("Elsewhere"));
@@ -605,7 +605,7 @@ TEST_F(FormDesigners, ShowWhatOthersChange) {
     EXPECT_EQ(window().code().tabText(0), "frmMain (Form) *");
 }
 
-TEST_F(FormDesigners, OfDevicesPlaceInTheUnitsOfTheirForm) {
+TEST_F(FormDesigners, OfDevicesUseTheUnitsOfTheirForm) {
     openSample("AddressBook");
     const auto before = folder.read("AddressBook/frmPerson.frm");
     design("frmPerson");
@@ -615,9 +615,9 @@ TEST_F(FormDesigners, OfDevicesPlaceInTheUnitsOfTheirForm) {
     EXPECT_EQ(difference(before, saved("frmPerson")), "-      Left            =   4\n+      Left            =   12\n");
 }
 
-// ---- code ---------------------------------------------------------------------------------------------------------------
+// ---- code -----------------------------------------------------------------------------------------------------------
 
-TEST_F(FormDesigners, ADoubleClickMakesTheHandler) {
+TEST_F(FormDesigners, ADoubleClickAddsTheHandler) {
     openForm(kShowcase, "Option Explicit\r\n");
     doubleClickOn("cmdOK");
     design("frmMain");
@@ -648,14 +648,14 @@ TEST_F(FormDesigners, HandlersHaveTheParametersOfTheirEvents) {
                           "Private Sub tmrClock_Timer()", "Private Sub txtName_Change()", "Private Sub Form_Load()"));
 }
 
-TEST_F(FormDesigners, WhatHasNoEventsLeadsToTheCode) {
+TEST_F(FormDesigners, AControlWithoutEventsOpensTheCode) {
     openForm(kShowcase, "' code\r\n");
     doubleClickOn("linUnder");
     ASSERT_TRUE(window().code().current());
     EXPECT_EQ(component("frmMain")->CodeModule()->CountOfLines(), 1);
 }
 
-TEST_F(FormDesigners, MenusLeadToTheirHandlers) {
+TEST_F(FormDesigners, MenuItemsOpenTheirHandlers) {
     openForm(kShowcase);
     const auto bar = workbench::menuPlaces(view().picture());
     ASSERT_EQ(bar.size(), 2u);
@@ -672,7 +672,7 @@ TEST_F(FormDesigners, MenusLeadToTheirHandlers) {
     EXPECT_THAT(component("frmMain")->CodeModule()->Lines(1, 1), "Private Sub mnuOpen_Click()");
 }
 
-// ---- the toolbox --------------------------------------------------------------------------------------------------------
+// ---- the toolbox ----------------------------------------------------------------------------------------------------
 
 TEST_F(FormDesigners, TheToolboxOffersTheControlsOfTheProject) {
     openForm("");
@@ -699,7 +699,7 @@ TEST_F(FormDesigners, AToolDrawsAControlWithTheMouse) {
     EXPECT_EQ(saved("frmMain"), original);
 }
 
-TEST_F(FormDesigners, AToolDrawsIntoTheContainerInFront) {
+TEST_F(FormDesigners, AToolDrawsIntoTheTopmostContainer) {
     openForm(kShowcase);
     pick("TextBox");
     drag(pointOn(placeOf("picBox").topLeft() + QPointF(2 + 20, 2 + 20)), {48, 24});
@@ -726,7 +726,7 @@ TEST_F(FormDesigners, ADoubleClickInTheToolboxAddsAtOnce) {
     EXPECT_EQ(view().picture().find(control("QLCheckBox1"))->look.text, "CheckBox");
 }
 
-TEST_F(FormDesigners, EscapePutsTheToolBack) {
+TEST_F(FormDesigners, EscapeCancelsTheTool) {
     openForm("");
     pick("Frame");
     key(Qt::Key_Escape);
@@ -735,7 +735,7 @@ TEST_F(FormDesigners, EscapePutsTheToolBack) {
     EXPECT_TRUE(view().picture().controls.empty());
 }
 
-TEST_F(FormDesigners, AddInsAreToldOfWhatIsDrawn) {
+TEST_F(FormDesigners, AddInsAreNotifiedOfNewControls) {
     openForm("");
     std::vector<std::string> added;
     const auto events =
@@ -746,7 +746,7 @@ TEST_F(FormDesigners, AddInsAreToldOfWhatIsDrawn) {
     EXPECT_THAT(added, ElementsAre("VB.Shape"));
 }
 
-TEST_F(FormDesigners, WhatAnAddInTakesOffAgainIsNotSelected) {
+TEST_F(FormDesigners, AControlThatAnAddInRemovesAtOnceIsNotSelected) {
     openForm("");
     const auto controls = component("frmMain")->Designer()->VBControls();
     const auto events =
@@ -758,8 +758,8 @@ TEST_F(FormDesigners, WhatAnAddInTakesOffAgainIsNotSelected) {
     EXPECT_EQ(saved("frmMain"), original);
 }
 
-/// As when a box of an add-in stands and its project is closed meanwhile.
-TEST_F(FormDesigners, AFormMayGoWhileItIsEdited) {
+/// An add-in may show a box during the edit, and the project may be closed meanwhile.
+TEST_F(FormDesigners, AFormMayBeClosedWhileItIsEdited) {
     openForm(kShowcase);
     const auto form = component("frmMain");
     const auto events = bench->host().Events()->VBControlsEvents(bench->host().ActiveVBProject(), form->Designer());
@@ -773,9 +773,9 @@ TEST_F(FormDesigners, AFormMayGoWhileItIsEdited) {
     EXPECT_EQ(window().code().count(), 0);
 }
 
-// ---- drawing ------------------------------------------------------------------------------------------------------------
+// ---- drawing --------------------------------------------------------------------------------------------------------
 
-TEST_F(FormDesigners, DrawControlsInTheirColoursWhereTheyStand) {
+TEST_F(FormDesigners, DrawControlsInTheirColoursAndPlaces) {
     openForm(kShowcase);
     const auto image = canvas().grab().toImage();
     const auto at = [&](double x, double y) { return image.pixelColor(pointOn({x, y})); };
@@ -787,7 +787,7 @@ TEST_F(FormDesigners, DrawControlsInTheirColoursWhereTheyStand) {
     EXPECT_EQ(at(8, 0), QColor(Qt::black));
 }
 
-TEST_F(FormDesigners, FontsOfPalmsAreAsLargeAsOnThem) {
+TEST_F(FormDesigners, FontsOfPalmsHaveTheirSize) {
     openSample("AddressBook");
     design("frmPerson");
     EXPECT_EQ(view().picture().find(control("btnOK"))->look.font.pixelSize(), 12); // 12 points, 72 an inch
@@ -796,7 +796,7 @@ TEST_F(FormDesigners, FontsOfPalmsAreAsLargeAsOnThem) {
     EXPECT_EQ(view().picture().find(control("lblAmount"))->look.font.pixelSize(), 11); // 8 points, 96 an inch
 }
 
-TEST_F(FormDesigners, DimWhatIsInvisible) {
+TEST_F(FormDesigners, DimInvisibleControls) {
     const auto form = [](const char* visible) {
         return std::string(
                    "   Begin VB.TextBox txtSeen \n      Height          =   900\n      Left            =   120\n"
@@ -811,7 +811,7 @@ TEST_F(FormDesigners, DimWhatIsInvisible) {
     EXPECT_EQ(canvas().grab().toImage().pixelColor(pointOn({30, 30})), QColor(Qt::white));
 }
 
-TEST_F(FormDesigners, KeepWhatLiesInAContainerWithinIt) {
+TEST_F(FormDesigners, ClipControlsToTheirContainer) {
     openForm(kShowcase);
     const auto* box = view().picture().find(control("picBox"));
     const auto* inside = view().picture().find(control("lblInside"));
@@ -840,7 +840,7 @@ TEST_F(FormDesigners, DrawPicturesFromTheResourceFile) {
     EXPECT_EQ(shown("Picture"), "(Bitmap)");
 }
 
-TEST_F(FormDesigners, WithManyControlsAreFluid) {
+TEST_F(FormDesigners, AreFastWithManyControls) {
     std::string lines;
     for (int i = 0; i < 500; ++i)
         lines += "   Begin VB.CommandButton cmd" + std::to_string(i) + " \n      Caption         =   \"" +
@@ -861,7 +861,7 @@ TEST_F(FormDesigners, WithManyControlsAreFluid) {
     EXPECT_EQ(view().picture().controls.size(), 500u);
 }
 
-TEST_F(FormDesigners, AreDrawnAnewWhenTheirFileIsReadAgain) {
+TEST_F(FormDesigners, AreDrawnAgainWhenTheirFileIsReloaded) {
     openForm(kShowcase);
     clickOn("cmdOK");
     auto text = original;

@@ -48,13 +48,13 @@ std::set<std::string> formsOfTheSource() {
 
 } // namespace
 
-TEST_F(Forms, EachFormOfTheAddInIsHere) {
+TEST_F(Forms, EachFormOfTheAddInIsTested) {
     std::set<std::string> here{"frmProjectRemoval"}; // never shown
     for (const auto* form : all()) here.insert(form->typeName());
     EXPECT_EQ(here, formsOfTheSource());
 }
 
-TEST_F(Forms, EachControlHasAWidgetOfItsKind) {
+TEST_F(Forms, EachControlHasASuitableWidget) {
     for (auto* form : all()) EXPECT_NO_THROW(FormWindow(*form, nullptr)) << form->typeName();
 }
 
@@ -67,11 +67,11 @@ TEST_F(Forms, EachWidgetHasAControl) {
     }
 }
 
-TEST_F(Forms, AFormWithoutAWindowSaysSo) {
+TEST_F(Forms, AFormWithoutAWindowIsAnError) {
     EXPECT_EQ(test::errorOf([&] { FormWindow(modules.removal, nullptr); }), 53);
 }
 
-TEST_F(Forms, AWidgetOfAnotherKindIsRefused) {
+TEST_F(Forms, AnUnsuitableWidgetIsRefused) {
     QLabel label;
     workbench::Binding binding{[](std::exception_ptr) {}};
     EXPECT_EQ(test::errorOf([&] { workbench::bind(modules.saveWarning.btnOK, label, binding); }), 13);
@@ -146,7 +146,7 @@ TEST_F(Forms, ARowIsChosenAndDoubleClicked) {
     EXPECT_FALSE(form.isLoaded());
 }
 
-TEST_F(Forms, RowsComeAndGoWithTheModel) {
+TEST_F(Forms, RowsFollowTheModel) {
     ChooserForm form{user};
     test::whenShown([&form](QDialog& window) {
         auto& rows = form.lstQuickDesignTargets;
@@ -232,7 +232,7 @@ TEST_F(Progress, HasNoCloseBoxAndCannotBeClosed) {
     form.ShowModal();
 }
 
-TEST_F(Progress, AnErrorEndsTheFormAndComesOutOfShowModal) {
+TEST_F(Progress, AnErrorEndsTheFormAndIsThrownByShowModal) {
     form.work = [] { throw basic::RuntimeError(51, "broken"); };
     EXPECT_EQ(test::errorOf([&] { form.ShowModal(); }), 51);
     EXPECT_FALSE(form.isLoaded());
@@ -275,7 +275,7 @@ TEST_F(Progress, ItsAnimationMovesWhileItsWorkRuns) {
     form.ShowModal();
 }
 
-TEST(MovingPicture, ReadsAFilmAndRefusesAnythingElse) {
+TEST(MovingPicture, ReadsAnAnimationAndRefusesAnythingElse) {
     QFile film(FERNWICK_SOURCE_DIR "/installation/VB Toolkit/Bin/QLCOMPILE.AVI");
     ASSERT_TRUE(film.open(QIODevice::ReadOnly));
     const auto bytes = film.readAll();

@@ -1,4 +1,4 @@
-// The introduction's window: its pictures, its keys, and the tick that lasts.
+// The introduction's window: its pictures, its keys, and the stored check box.
 #include "Add-in/core/connect/Modules.h"
 #include "Apps/workbench/base/theme.h"
 #include "Apps/workbench/bridge/form_window.h"
@@ -56,7 +56,7 @@ TEST_F(Introduction, EachPageHasItsPicture) {
     });
 }
 
-TEST_F(Introduction, ItsTextHasRoomAndItsButtonsStay) {
+TEST_F(Introduction, ItsTextFitsAndItsButtonsStayInPlace) {
     show([](QDialog& window) {
         const auto size = window.size();
         for (int page = 0; page < 9; ++page, test::click(window, "cmdNext")) {
@@ -91,7 +91,7 @@ TEST_F(Introduction, ALinkIsOpenedFromTheList) {
 
 namespace {
 
-/// A desktop whose add-in was asked for the introduction at its start.
+/// A desktop that shows the introduction at its start.
 class FirstStart : public testing::Test {
 protected:
     FirstStart() { workbench::apply(workbench::Theme::Light); }

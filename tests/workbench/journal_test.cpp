@@ -1,4 +1,4 @@
-// Text that was not saved outlives the program.
+// Unsaved changes survive the program.
 #include "Apps/workbench/unsaved/journal_folder.h"
 #include "Host/files/journal_file.h"
 #include "tests/workbench/open_desktop.h"
@@ -29,7 +29,7 @@ protected:
     static host::JournalEntry read(const QString& path) {
         return host::decodeJournal(host::readFile(path.toStdString()).bytes);
     }
-    /// Another program of the same user that types into the project and dies. Gives what the journals held.
+    /// Runs another program of the same user that types into the project, and kills it.
     void crash(const std::string& project, const std::string& typed) {
         QProcess other;
         auto environment = QProcessEnvironment::systemEnvironment();
@@ -46,7 +46,7 @@ protected:
         ::kill(pid_t(other.processId()), SIGKILL);
         EXPECT_TRUE(other.waitForFinished());
     }
-    /// What a program that is gone left: this text of a component.
+    /// Writes a journal as left by a dead program. Returns its path.
     QString leave(const host::JournalEntry& entry) {
         const auto path = QDir(workbench::journalBase() + "/gone").filePath(QString("%1.journal").arg(++left_, 4));
         folder.write(QDir(QString::fromStdString(folder.path())).relativeFilePath(path).toStdString(),
@@ -73,7 +73,7 @@ private:
     int left_ = 0;
 };
 
-/// The program that dies; a part of the test of what survives it.
+/// The program that is killed; started by other tests.
 class Killed : public test::OpenDesktop {
 protected:
     Killed() : OpenDesktop(qgetenv("FERNWICK_TEST_STATE")) {}
@@ -88,7 +88,7 @@ TEST_F(Killed, DISABLED_TypesUntilItIsKilled) {
     QTest::qWait(kLongestWait * 2);
 }
 
-TEST_F(Journals, WhatWasTypedSurvivesAKilledProgram) {
+TEST_F(Journals, TypedTextSurvivesAKilledProgram) {
     const auto project = twoModules().writeTo(folder);
     crash(project, "' typed ");
     answerWith("Restore");
@@ -106,7 +106,7 @@ TEST_F(Journals, WhatWasTypedSurvivesAKilledProgram) {
     EXPECT_TRUE(journals().isEmpty());
 }
 
-TEST_F(Journals, KeepWhatIsDoneToAForm) {
+TEST_F(Journals, StoreChangesToAForm) {
     open(test::SampleProject().member("Form=frmA.frm", "frmA.frm", test::formText("frmA")));
     component("frmA")->Properties()->Item("Caption")->Value(std::string("Survives"));
     ASSERT_TRUE(QTest::qWaitFor([] { return !journals().isEmpty(); }, kLongestWait));
@@ -139,7 +139,7 @@ TEST_F(Journals, TypingIsWrittenAboutASecondLaterAndNotAtEachKey) {
     EXPECT_TRUE(QTest::qWaitFor([] { return journals().size() == 2; }));
 }
 
-TEST_F(Journals, AWindowThatBlocksThisOneFindsAllWritten) {
+TEST_F(Journals, AreWrittenBeforeAWindowBlocksThisOne) {
     open(twoModules());
     QTest::keyClicks(&code("modA"), "abc");
     qsizetype there = -1;
@@ -162,7 +162,7 @@ TEST_F(Journals, SavingRemovesThem) {
     EXPECT_TRUE(QTest::qWaitFor([] { return journals().isEmpty(); }));
 }
 
-TEST_F(Journals, GivingUpTheChangesRemovesThem) {
+TEST_F(Journals, DiscardingTheChangesRemovesThem) {
     open(twoModules());
     QTest::keyClicks(&code("modA"), "a");
     ASSERT_TRUE(QTest::qWaitFor([] { return !journals().isEmpty(); }));
@@ -179,7 +179,7 @@ TEST_F(Journals, AProgramThatEndsLeavesNoFolderBehind) {
     EXPECT_TRUE(QDir(workbench::journalBase()).isEmpty());
 }
 
-TEST_F(Journals, AProjectWithoutAnyAsksNothing) {
+TEST_F(Journals, AProjectWithoutJournalsAsksNothing) {
     open(twoModules());
     end();
     start();
@@ -206,7 +206,7 @@ TEST_F(Journals, DiscardRemovesIt) {
     EXPECT_TRUE(journals().isEmpty());
 }
 
-TEST_F(Journals, WhatIsKeptForLaterIsOfferedWhenTheProjectOpensAgain) {
+TEST_F(Journals, KeptJournalsAreOfferedWhenTheProjectOpensAgain) {
     const auto path = twoModules().writeTo(folder);
     leave(entryOf("' kept\r\n"));
     answerWith("Keep for Later");
@@ -223,7 +223,7 @@ TEST_F(Journals, WhatIsKeptForLaterIsOfferedWhenTheProjectOpensAgain) {
     EXPECT_EQ(held("modA"), "' kept");
 }
 
-TEST_F(Journals, AtTheStartTheProjectIsOpenedForIt) {
+TEST_F(Journals, AtTheStartTheirProjectIsOpened) {
     twoModules().writeTo(folder);
     leave(entryOf("' kept\r\n"));
     answerWith("Restore");
@@ -248,7 +248,7 @@ TEST_F(Journals, AProjectThatCannotBeOpenedKeepsThem) {
     EXPECT_EQ(journals().size(), 1);
 }
 
-TEST_F(Journals, ANewerFileOnDiskIsToldAndNotReplacedWithoutAQuestion) {
+TEST_F(Journals, AChangedFileIsReportedAndNotOverwrittenWithoutAQuestion) {
     const auto project = twoModules().writeTo(folder);
     leave(entryOf("' kept\r\n"));
     folder.write("modA.bas", moduleText("modA", "' newer\r\n"));
@@ -258,14 +258,14 @@ TEST_F(Journals, ANewerFileOnDiskIsToldAndNotReplacedWithoutAQuestion) {
     EXPECT_THAT(boxes, ElementsAre(HasSubstr("modA (modA.bas) - changed on disk since")));
     EXPECT_EQ(held("modA"), "' kept");
     QTest::qWait(700);
-    EXPECT_EQ(boxes.size(), 1u); // told once
+    EXPECT_EQ(boxes.size(), 1u); // reported once
     answerWith("Don't Save");
     component("modA")->SaveAs(folder / "modA.bas");
     EXPECT_THAT(boxes, ElementsAre(HasSubstr("was changed by another program")));
     EXPECT_EQ(folder.read("modA.bas"), moduleText("modA", "' newer\r\n"));
 }
 
-TEST_F(Journals, WhatDiffersFromTheFileCanBeLookedAt) {
+TEST_F(Journals, DifferencesFromTheFileCanBeShown) {
     const auto project = twoModules().writeTo(folder);
     leave(entryOf("' kept\r\n"));
     QString details;
@@ -293,7 +293,7 @@ TEST_F(Journals, TheNewestOfSeveralTextsIsRestoredAndTheOthersKept) {
     EXPECT_TRUE(QFile::exists(first));
 }
 
-TEST_F(Journals, AComponentThatWasNeverSavedComesBack) {
+TEST_F(Journals, AComponentThatWasNeverSavedIsRestored) {
     const auto project = twoModules().writeTo(folder);
     auto entry = entryOf("' kept\r\n");
     entry.component = "modNew";
@@ -308,7 +308,7 @@ TEST_F(Journals, AComponentThatWasNeverSavedComesBack) {
     EXPECT_EQ(component("modNew")->FileNames(1), "");
 }
 
-TEST_F(Journals, AProjectThatWasNeverSavedComesBackAsANewOne) {
+TEST_F(Journals, AProjectThatWasNeverSavedIsRestoredAsANewOne) {
     twoModules().writeTo(folder);
     auto entry = entryOf("");
     entry.project = entry.file = "";
@@ -326,7 +326,7 @@ TEST_F(Journals, AProjectThatWasNeverSavedComesBackAsANewOne) {
     EXPECT_EQ(held("Form1"), "' kept");
 }
 
-TEST_F(Journals, AnotherProgramThatRunsKeepsItsOwn) {
+TEST_F(Journals, JournalsOfARunningProgramAreNotOffered) {
     open(twoModules());
     QTest::keyClicks(&code("modA"), "mine");
     ASSERT_TRUE(QTest::qWaitFor([] { return journals().size() == 1; }));
@@ -342,13 +342,15 @@ TEST_F(Journals, AnotherProgramThatRunsKeepsItsOwn) {
     EXPECT_EQ(journals().size(), 1);
 }
 
-TEST_F(Journals, ADamagedOneIsToldOnceAndSetAside) {
+TEST_F(Journals, ADamagedJournalIsReportedOnceAndRenamed) {
     const auto project = twoModules().writeTo(folder);
     const auto whole = host::encodeJournal(entryOf("' kept\r\n"));
     const std::vector<std::pair<std::string, std::string>> kDamages{
-        {"", "is no journal of this version"},   {std::string(1000, '\0'), "is no journal of this version"},
-        {whole.substr(0, 40), "lacks its line"}, {whole.substr(0, whole.size() - 3), "ends after"},
-        {whole + "more", "check sum"},
+        {"", "is not a journal of this version"},
+        {std::string(1000, '\0'), "is not a journal of this version"},
+        {whole.substr(0, 40), "lacks its line"},
+        {whole.substr(0, whole.size() - 3), "ends after"},
+        {whole + "more", "checksum"},
     };
     for (const auto& [bytes, why] : kDamages) {
         folder.write("state/fernwick/journal/gone/0001.journal", bytes);
@@ -362,7 +364,7 @@ TEST_F(Journals, ADamagedOneIsToldOnceAndSetAside) {
     EXPECT_TRUE(journals().isEmpty());
 }
 
-TEST_F(Journals, WhereNothingCanBeKeptTheUserIsToldOnce) {
+TEST_F(Journals, AFailureToWriteIsReportedOnce) {
     folder.write("state", "a file where a folder should be");
     open(twoModules());
     answerWith("OK");

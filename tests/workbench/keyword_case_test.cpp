@@ -1,4 +1,4 @@
-// Keywords are written properly when the user leaves the line in which he typed them.
+// Keywords get their proper case when the user leaves the typed line.
 #include "Apps/workbench/code/keyword_case.h"
 #include "tests/workbench/open_desktop.h"
 
@@ -14,13 +14,13 @@ protected:
         open(test::SampleProject().module("modA", lines));
         return code("modA");
     }
-    /// Lets the cursor's place be told and what comes of it be done.
+    /// Waits until the cursor's move has been handled.
     void settleLine() { QTest::qWait(100); }
 };
 
 } // namespace
 
-TEST(KeywordCaseOfLine, KeywordsAreWrittenAsTheLanguageDoes) {
+TEST(KeywordCaseOfLine, KeywordsGetTheirProperCase) {
     EXPECT_EQ(written("public sub main()"), "Public Sub main()");
     EXPECT_EQ(written("  IF a THEN exit sub else b = not c"), "  If a Then Exit Sub Else b = Not c");
     EXPECT_EQ(written("dim a as new collection, b as date"), "Dim a As New collection, b As Date");
@@ -31,7 +31,7 @@ TEST(KeywordCaseOfLine, KeywordsAreWrittenAsTheLanguageDoes) {
     EXPECT_EQ(written(""), "");
 }
 
-TEST(KeywordCaseOfLine, EverythingElseStaysAsItIs) {
+TEST(KeywordCaseOfLine, EverythingElseIsUnchanged) {
     for (const char* line :
          {"' if then", "s = \"if \" & t & \"\"\"then\"", "x.next = y.end", "rs!type = 1", "name = date",
           "call_me = ifx + xif", "f type:=1", "[end] = 2", "überif = 1", "line = base"})
@@ -42,7 +42,7 @@ TEST(KeywordCaseOfLine, EverythingElseStaysAsItIs) {
     EXPECT_EQ(written("if x then ' if then"), "If x Then ' if then");
 }
 
-TEST(KeywordCaseOfLine, ACommentMayGoOnInTheNextLine) {
+TEST(KeywordCaseOfLine, ACommentMayContinueOnTheNextLine) {
     EXPECT_TRUE(workbench::continuesComment("' why _"));
     EXPECT_TRUE(workbench::continuesComment("Beep ' why _"));
     EXPECT_TRUE(workbench::continuesComment("Rem why _"));
@@ -51,7 +51,7 @@ TEST(KeywordCaseOfLine, ACommentMayGoOnInTheNextLine) {
     EXPECT_FALSE(workbench::continuesComment("' why"));
 }
 
-TEST_F(KeywordCase, OfTheLineThatTheUserTypedAndLeft) {
+TEST_F(KeywordCase, IsCorrectedWhenTheUserLeavesATypedLine) {
     auto& text = edit("sub a()\r\n\r\nend sub\r\n");
     text.setCursorPosition(1, 0);
     QTest::keyClicks(&text, "dim x as long");
@@ -81,7 +81,7 @@ TEST_F(KeywordCase, CanBeUndoneAndIsNotDoneAgain) {
     EXPECT_EQ(held("modA"), "Dim x\n");
 }
 
-TEST_F(KeywordCase, WhatCommandsAndAddInsDoIsLeftAlone) {
+TEST_F(KeywordCase, IsUnchangedInEditsOfCommandsAndAddIns) {
     auto& text = edit("beep\r\nbeep\r\n");
     text.insertAt("if ", 0, 0);
     component("modA")->CodeModule()->InsertLines(1, "if x then");
@@ -90,7 +90,7 @@ TEST_F(KeywordCase, WhatCommandsAndAddInsDoIsLeftAlone) {
     EXPECT_EQ(held("modA"), "if x then\nif beep\nbeep");
 }
 
-TEST_F(KeywordCase, WhatAnAddInPutInTheTypedLinesPlaceIsLeftAlone) {
+TEST_F(KeywordCase, IsUnchangedInALineThatAnAddInReplaced) {
     auto& text = edit("\r\n\r\n");
     QTest::keyClicks(&text, "dim x");
     component("modA")->CodeModule()->InsertLines(1, "if x then");

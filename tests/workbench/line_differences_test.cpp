@@ -19,7 +19,7 @@ TEST(LineDifferences, EqualTextsHaveNone) {
     EXPECT_TRUE(lines("", "").empty());
 }
 
-TEST(LineDifferences, WhatCameWentAndChanged) {
+TEST(LineDifferences, ListAddedRemovedAndChangedLines) {
     EXPECT_THAT(lines("a\nb\nc\nd\ne", "a\nB\nc\ne\nf"),
                 ElementsAre("line 2:", "- b", "+ B", "line 4:", "- d", "line 5:", "+ f"));
     EXPECT_THAT(lines("", "a\nb"), ElementsAre("line 1:", "+ a", "+ b"));
@@ -27,7 +27,7 @@ TEST(LineDifferences, WhatCameWentAndChanged) {
     EXPECT_THAT(lines("b", "a\nb"), ElementsAre("line 1:", "+ a"));
 }
 
-TEST(LineDifferences, LongOnesAreCutWithAWord) {
+TEST(LineDifferences, LongListsAreCut) {
     EXPECT_THAT(lines("", "a\nb\nc\nd", 3), ElementsAre("line 1:", "+ a", "+ b", "..."));
 }
 

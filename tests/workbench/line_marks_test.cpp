@@ -1,4 +1,4 @@
-// Lines that messages point to.
+// Marks for the lines of messages.
 #include "tests/workbench/open_desktop.h"
 #include <QHelpEvent>
 #include <QToolTip>
@@ -28,7 +28,7 @@ TEST_F(LineMarks, MoveWithTheirLines) {
     EXPECT_EQ(marks().textAt(1).toStdString(), "");
 }
 
-TEST_F(LineMarks, TheSameMessagesDrawnAgainStayWhereTheyAre) {
+TEST_F(LineMarks, StayInPlaceWhenTheSameMessagesAreShownAgain) {
     marks().show({{2, true, "x"}});
     text().insertAt("\n", 0, 0);
     marks().show({{2, true, "x"}});
@@ -39,7 +39,7 @@ TEST_F(LineMarks, TheSameMessagesDrawnAgainStayWhereTheyAre) {
     EXPECT_EQ(text().markersAtLine(1), 0u);
 }
 
-TEST_F(LineMarks, LinesThatAreNotThereAreTheNearest) {
+TEST_F(LineMarks, OfMissingLinesAreAtTheNearestLine) {
     marks().show({{0, true, "x"}, {99, false, "y"}, {-7, false, "z"}});
     EXPECT_EQ(marks().lines(), (std::vector<int>{0, 2, 0}));
     EXPECT_EQ(marks().textAt(0).toStdString(), "x\nz");
@@ -53,7 +53,7 @@ TEST_F(LineMarks, StayWhenAnAddInEditsTheCode) {
     EXPECT_EQ(marks().textAt(marks().lines()[0]).toStdString(), "x");
 }
 
-TEST_F(LineMarks, TheMouseTellsWhatTheMessagesSay) {
+TEST_F(LineMarks, ShowTheirMessagesInAToolTip) {
     marks().show({{2, true, "Expected: <identifier>"}, {2, false, "and more"}});
     const auto over = [this](int line) {
         const int y = text().textHeight(0) * line + 3;

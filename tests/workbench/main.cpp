@@ -1,4 +1,4 @@
-// Tests of the desktop draw into memory, with a store and settings of their own.
+// The tests draw into memory and use their own settings.
 #include "tests/workbench/own_home.h"
 #include <QApplication>
 #include <QLabel>
@@ -8,7 +8,7 @@
 
 namespace {
 
-/// A window that no test answers would stand for ever: tells which, and ends the program.
+/// Reports a window that no test answers and ends the program, which would wait forever.
 void endWhenStuck() {
     constexpr int kMostSeconds = 30;
     static QWidget* standing = nullptr;
@@ -17,7 +17,7 @@ void endWhenStuck() {
     seconds = now && now == standing ? seconds + 1 : 0;
     standing = now;
     if (seconds < kMostSeconds) return;
-    std::fprintf(stderr, "nobody answers '%s'\n", qPrintable(now->windowTitle()));
+    std::fprintf(stderr, "unanswered window: '%s'\n", qPrintable(now->windowTitle()));
     for (const auto* label : now->findChildren<QLabel*>()) std::fprintf(stderr, "  %s\n", qPrintable(label->text()));
     std::abort();
 }

@@ -1,4 +1,4 @@
-// The window's own commands, and how they are reached.
+// The window's own commands and their menus.
 #include "Apps/workbench/project/new_project.h"
 #include "Apps/workbench/project/project_properties.h"
 #include "Host/model/windows/tool_windows.h"
@@ -26,7 +26,7 @@ namespace {
 struct DesktopMenus : test::Desktop {
     ~DesktopMenus() override { answers_.stop(); }
 
-    /// Letters that stand for two items of one menu, popups below it included, with the items.
+    /// Returns the items whose mnemonic another item of the same menu has, including submenus.
     static std::vector<std::string> clashes(const QMenu& menu) {
         std::map<QChar, QString> known;
         std::vector<std::string> found;
@@ -63,7 +63,7 @@ struct DesktopMenus : test::Desktop {
     }
 };
 
-/// What a screen reader says when the keys come there.
+/// Whether a screen reader can name the widget that gets the focus.
 bool hasAName(QWidget& widget) {
     auto* const accessible = QAccessible::queryAccessibleInterface(&widget);
     return accessible && !accessible->text(QAccessible::Name).isEmpty();
@@ -99,7 +99,7 @@ TEST_F(DesktopMenus, EveryCommandIsReachedByTheKeyboard) {
     EXPECT_THAT(unreached, IsEmpty());
 }
 
-TEST_F(DesktopMenus, NoKeyStandsForTwoCommands) {
+TEST_F(DesktopMenus, NoKeyHasTwoCommands) {
     openSample("AddressBook");
     std::set<QString> keys;
     for (const auto* top : window().menuBar()->actions())
@@ -111,7 +111,7 @@ TEST_F(DesktopMenus, NoKeyStandsForTwoCommands) {
     EXPECT_TRUE(keys.count("F5") && keys.count("F7") && keys.count("Ctrl+R") && keys.count("F1"));
 }
 
-TEST_F(DesktopMenus, WhateverTakesTheKeysHasAName) {
+TEST_F(DesktopMenus, EveryFocusableWidgetHasAName) {
     openSample("AddressBook");
     editor("frmList");
     bench->addIn().messages.ShowProjectCompileErrors(project(), true);
@@ -124,7 +124,7 @@ TEST_F(DesktopMenus, WhateverTakesTheKeysHasAName) {
     }
 }
 
-// ---- File --------------------------------------------------------------------------------------------------------------
+// ---- File -----------------------------------------------------------------------------------------------------------
 
 TEST_F(DesktopMenus, TheFirstFourOfTheFileMenuAreTheHosts) {
     const auto items = texts(*top("&File"));
@@ -133,7 +133,7 @@ TEST_F(DesktopMenus, TheFirstFourOfTheFileMenuAreTheHosts) {
                 ElementsAre("&New Project...", "&Open Project...", "Sa&ve Project", "&Remove Project"));
 }
 
-TEST_F(DesktopMenus, ANewProjectIsOfTheKindThatTheUserChooses) {
+TEST_F(DesktopMenus, ANewProjectHasTheChosenKind) {
     test::whenShown<workbench::NewProjectDialog>([](workbench::NewProjectDialog& dialog) {
         auto& kinds = *dialog.findChild<QListWidget*>("kinds");
         EXPECT_EQ(kinds.currentItem()->text(), "Fernwick Project");
@@ -147,7 +147,7 @@ TEST_F(DesktopMenus, ANewProjectIsOfTheKindThatTheUserChooses) {
     EXPECT_EQ(project()->VBComponents()->Count(), 1);
 }
 
-TEST_F(DesktopMenus, TheTemplateOfFernwickProjectsMakesOne) {
+TEST_F(DesktopMenus, TheTemplateCreatesAFernwickProject) {
     test::whenShown<workbench::NewProjectDialog>([](workbench::NewProjectDialog& dialog) { dialog.accept(); });
     menuItem("&File", "&New Project...")->trigger();
     ASSERT_TRUE(project());
@@ -160,7 +160,7 @@ TEST_F(DesktopMenus, NoNewProjectWhenTheUserCancels) {
     EXPECT_FALSE(project());
 }
 
-TEST_F(DesktopMenus, SaveFileSavesTheOneThatTheUserWorksWith) {
+TEST_F(DesktopMenus, SaveFileSavesTheCurrentComponent) {
     openSample("AddressBook");
     component("frmPerson")->CodeModule()->InsertLines(1, "' other");
     component("frmList")->CodeModule()->InsertLines(1, "' this");
@@ -171,9 +171,9 @@ TEST_F(DesktopMenus, SaveFileSavesTheOneThatTheUserWorksWith) {
     EXPECT_TRUE(component("frmPerson")->IsDirty());
 }
 
-// ---- View --------------------------------------------------------------------------------------------------------------
+// ---- View -----------------------------------------------------------------------------------------------------------
 
-TEST_F(DesktopMenus, ADocksCommandGoesThereFirstAndHidesItThen) {
+TEST_F(DesktopMenus, ADocksCommandFocusesItFirstAndThenHidesIt) {
     openSample("HelloWorld");
     editor("frmHello").scintilla().setFocus();
     window().activateWindow();
@@ -191,7 +191,7 @@ TEST_F(DesktopMenus, ADocksCommandGoesThereFirstAndHidesItThen) {
     EXPECT_TRUE(window().explorerDock().isVisible() && command->isChecked());
 }
 
-TEST_F(DesktopMenus, TheMessagesHaveTheirCommandWhenTheyStand) {
+TEST_F(DesktopMenus, TheMessagesHaveACommandOnceTheyExist) {
     EXPECT_FALSE(menuItem("&View", "Fernwick &Messages"));
     openSample("HelloWorld");
     ASSERT_TRUE(menuItem("&View", "Fernwick &Messages"));
@@ -223,7 +223,7 @@ TEST_F(DesktopMenus, ToolbarsAreSwitchedInTheirMenu) {
     EXPECT_FALSE(toolBars->actions().front()->isChecked());
 }
 
-// ---- Project, Run, Add-Ins, Window -------------------------------------------------------------------------------------
+// ---- Project, Run, Add-Ins, Window ----------------------------------------------------------------------------------
 
 TEST_F(DesktopMenus, AFileIsRemovedFromItsProject) {
     openSample("AddressBook");
@@ -234,7 +234,7 @@ TEST_F(DesktopMenus, AFileIsRemovedFromItsProject) {
     EXPECT_TRUE(entry("frmList"));
 }
 
-TEST_F(DesktopMenus, AFileThatIsNotSavedIsAskedAbout) {
+TEST_F(DesktopMenus, RemovingAnUnsavedFileAsks) {
     openSample("AddressBook");
     editor("clsPerson");
     component("clsPerson")->CodeModule()->InsertLines(1, "' lost");
@@ -250,7 +250,7 @@ TEST_F(DesktopMenus, TheProjectStartsWithTheChosenComponent) {
     EXPECT_EQ(project()->VBComponents()->StartUpObject().component, component("frmPerson"));
 }
 
-TEST_F(DesktopMenus, AProjectsPropertiesAreItsNameAndWhatItStartsWith) {
+TEST_F(DesktopMenus, AProjectsPropertiesAreItsNameAndStartUpObject) {
     openSample("AddressBook");
     test::whenShown<workbench::ProjectProperties>([](workbench::ProjectProperties& dialog) {
         EXPECT_EQ(dialog.findChild<QComboBox*>("startUp")->currentText(), "frmList");
@@ -265,7 +265,7 @@ TEST_F(DesktopMenus, AProjectsPropertiesAreItsNameAndWhatItStartsWith) {
     EXPECT_TRUE(project()->IsDirty());
 }
 
-TEST_F(DesktopMenus, AProjectGetsNoNameThatIsNone) {
+TEST_F(DesktopMenus, AnInvalidProjectNameIsRefused) {
     openSample("AddressBook");
     test::whenShown<workbench::ProjectProperties>([](workbench::ProjectProperties& dialog) {
         auto* const ok = dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
@@ -281,7 +281,7 @@ TEST_F(DesktopMenus, AProjectGetsNoNameThatIsNone) {
     EXPECT_EQ(project()->Name(), "AddressBook");
 }
 
-TEST_F(DesktopMenus, StartingCompilesAndPutsItOnTheDevice) {
+TEST_F(DesktopMenus, StartingCompilesAndSendsToTheDevice) {
     qputenv("FERNWICK_DEVICES", QByteArray::fromStdString(folder / "devices"));
     openSample("HelloWorld");
     EXPECT_THAT(carryOut("&Run", "&Start on Device"), IsEmpty());
@@ -331,7 +331,7 @@ TEST_F(DesktopMenus, TheWindowMenuListsWhatIsOpen) {
     EXPECT_EQ(window().code().count(), 0);
 }
 
-// ---- closing -----------------------------------------------------------------------------------------------------------
+// ---- closing --------------------------------------------------------------------------------------------------------
 
 TEST_F(DesktopMenus, ClosingAsksOnceForEachProjectAndCancelKeepsAll) {
     openSample("HelloWorld");
@@ -359,7 +359,7 @@ TEST_F(DesktopMenus, ClosingRemovesTheProjectsAsAUserWould) {
     EXPECT_EQ(bench->host().VBProjects()->Count(), 0);
 }
 
-TEST_F(DesktopMenus, WhatTheUserDiscardsIsNotSavedByAnybody) {
+TEST_F(DesktopMenus, DiscardedChangesAreNotSaved) {
     openSample("HelloWorld");
     component("frmHello")->CodeModule()->InsertLines(1, "' discarded");
     test::whenShown<QMessageBox>([](QMessageBox& box) { box.button(QMessageBox::Discard)->click(); });

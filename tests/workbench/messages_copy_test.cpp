@@ -1,4 +1,4 @@
-// Copies of messages, their help, and what the list offers.
+// Copying messages, their help, and the context menu.
 #include "tests/workbench/messages_desktop.h"
 #include <QMimeData>
 #include <gmock/gmock.h>
@@ -12,7 +12,7 @@ using MessagesCopy = test::MessagesDesktop;
 
 } // namespace
 
-TEST_F(MessagesCopy, AreCopiedOneAsItsText) {
+TEST_F(MessagesCopy, AreCopiedAsText) {
     error("No such näme", 3, 1042);
     settle();
     list().setFocus();
@@ -23,7 +23,7 @@ TEST_F(MessagesCopy, AreCopiedOneAsItsText) {
               "File Title: modA, Line: 3, Error Number: 1042, Message: No such näme");
 }
 
-TEST_F(MessagesCopy, OfOtherScriptsAreCopiedWhole) {
+TEST_F(MessagesCopy, OfOtherScriptsAreCopiedUnchanged) {
     error("\u4e2d", 3, 1042);
     settle();
     list().setCurrentIndex(at(0));
@@ -32,7 +32,7 @@ TEST_F(MessagesCopy, OfOtherScriptsAreCopiedWhole) {
     EXPECT_EQ(QGuiApplication::clipboard()->text(), "File Title: modA, Line: 3, Error Number: 1042, Message: \u4e2d");
 }
 
-TEST_F(MessagesCopy, AreCopiedSeveralAsLinesAndATable) {
+TEST_F(MessagesCopy, AreCopiedAsLinesAndATable) {
     warning("first", 2, 7);
     warning("hidden", 3);
     warning("a < b", 4);
@@ -49,7 +49,7 @@ TEST_F(MessagesCopy, AreCopiedSeveralAsLinesAndATable) {
               "<tr><td>modA</td><td>2</td><td>7</td><td>first</td></tr>\n</table>\n");
 }
 
-TEST_F(MessagesCopy, AreCopiedAllThatShow) {
+TEST_F(MessagesCopy, AreAllCopiedThatPassTheFilter) {
     for (const auto* text : {"one", "two", "three"}) warning(text, 2);
     settle();
     filter().setText("t");
@@ -58,8 +58,8 @@ TEST_F(MessagesCopy, AreCopiedAllThatShow) {
     EXPECT_FALSE(QGuiApplication::clipboard()->text().contains("one"));
 }
 
-/// The window's own commands have these keys for its editors.
-TEST_F(MessagesCopy, KeepTheirKeysFromTheEditorsCommands) {
+/// These keys are also shortcuts of the window's commands for editors.
+TEST_F(MessagesCopy, UseTheirKeysInsteadOfTheEditors) {
     error("message", 3);
     component()->CodeModule()->CodePane()->Show();
     window().code().current()->scintilla().selectAll();
@@ -75,7 +75,7 @@ TEST_F(MessagesCopy, KeepTheirKeysFromTheEditorsCommands) {
     EXPECT_EQ(selected().size(), 2U);
 }
 
-TEST_F(MessagesCopy, HaveHelpByTheirNumber) {
+TEST_F(MessagesCopy, HaveAHelpPageByTheirNumber) {
     error("m", 3, 1300);
     settle();
     list().setCurrentIndex(at(0));
@@ -91,14 +91,14 @@ TEST_F(MessagesCopy, WithoutAHelpPageSaySo) {
                 ElementsAre(HasSubstr("no help page on the message 999"), HasSubstr("Quinloft_Error_Codes.html")));
 }
 
-TEST_F(MessagesCopy, WithNoneChosenHelpIsReported) {
+TEST_F(MessagesCopy, ReportHelpWithoutASelection) {
     error("m", 3, 1300);
     settle();
     EXPECT_THAT(boxesOf([this] { QTest::keyClick(&list(), Qt::Key_F1); }),
                 ElementsAre(HasSubstr("udocCompileMsgs.msgGrid_KeyDown")));
 }
 
-TEST_F(MessagesCopy, OfferWhatCanBeDone) {
+TEST_F(MessagesCopy, HaveAContextMenu) {
     EXPECT_FALSE(part<QAction>("goToMessage").isEnabled());
     EXPECT_FALSE(part<QAction>("copyAllMessages").isEnabled());
     error("without a number", 3);

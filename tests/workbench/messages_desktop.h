@@ -22,7 +22,7 @@ protected:
     using Grid = fernwick::MessageGrid;
 
     MessagesDesktop() {
-        qunsetenv("DISPLAY"); // help is told in a box
+        qunsetenv("DISPLAY"); // help is shown in a box
         qunsetenv("WAYLAND_DISPLAY");
         QSettings().clear();
         std::string code = "Sub Main()\r\n";
@@ -36,7 +36,7 @@ protected:
         QSettings().clear();
         QGuiApplication::clipboard()->clear();
     }
-    /// The program anew.
+    /// Starts the program again.
     void start() {
         end();
         RunningBench::start();
@@ -66,7 +66,7 @@ protected:
     vbide::Ref<vbide::VBComponent> component() { return RunningBench::component("modA"); }
     void error(const QString& text, int line = 0, int number = 0) { add(text, line, number, fernwick::ERROR_MSG); }
     void warning(const QString& text, int line = 0, int number = 0) { add(text, line, number, fernwick::WARNING_MSG); }
-    /// Messages are drawn a moment after they came.
+    /// Waits, as messages are drawn a moment after they were added.
     static void settle() { RunningBench::settle(40); }
 
     QModelIndex at(int row, int column = Grid::MessageColumn) { return list().model()->index(row, column); }
@@ -93,7 +93,7 @@ protected:
         QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, where);
         QTest::mouseDClick(list().viewport(), Qt::LeftButton, {}, where);
     }
-    /// A key for the window, wherever the focus is.
+    /// Sends a key to the window, wherever the focus is.
     void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}, QWidget* focus = nullptr) {
         if (!focus) focus = QApplication::focusWidget();
         QTest::keyClick(focus ? focus : &window(), key, modifiers);
@@ -102,7 +102,7 @@ protected:
         auto* const editor = window().code().current();
         return editor ? editor->scintilla().selectedText().trimmed().prepend("    ").toStdString() : "";
     }
-    /// The texts of the boxes that come, each answered with OK.
+    /// The texts of the boxes that were shown and answered with OK.
     std::vector<std::string> boxesOf(const std::function<void()>& act) {
         std::vector<std::string> boxes;
         QTimer answers;

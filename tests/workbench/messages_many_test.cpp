@@ -25,7 +25,7 @@ constexpr int kMany = 10'000;
 
 } // namespace
 
-TEST_F(MessagesMany, TenThousandAreMeasuredOnceAndDrawnAtOnce) {
+TEST_F(MessagesMany, TenThousandAreMeasuredOnceAndDrawnTogether) {
     CountedFont font;
     PaintCount paints;
     document().drawWith(&font);
@@ -41,8 +41,8 @@ TEST_F(MessagesMany, TenThousandAreMeasuredOnceAndDrawnAtOnce) {
     document().drawWith(nullptr);
 }
 
-/// A build that lets events in at each of its messages.
-TEST_F(MessagesMany, OneByOneAreDrawnNoFasterThanPictures) {
+/// A build that processes events at each of its messages.
+TEST_F(MessagesMany, OneByOneAreDrawnAtMostOncePerFrame) {
     int draws = 0;
     view().drawn = [&draws] { ++draws; };
     QElapsedTimer time;

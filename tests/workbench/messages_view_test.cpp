@@ -1,4 +1,4 @@
-// The messages window at the desktop: what the user sees of the messages and does with them.
+// The messages window of the desktop.
 #include "tests/workbench/messages_desktop.h"
 #include <QHeaderView>
 #include <QLabel>
@@ -36,7 +36,7 @@ TEST_F(Messages, HaveTheWidthsOfTheDocument) {
     EXPECT_NEAR(list().columnWidth(Grid::MessageColumn), rest * 0.76, 3);
 }
 
-TEST_F(Messages, HaveTheirPicturesAndABoldHeader) {
+TEST_F(Messages, HavePicturesAndABoldHeader) {
     error("e");
     warning("w");
     settle();
@@ -45,7 +45,7 @@ TEST_F(Messages, HaveTheirPicturesAndABoldHeader) {
     EXPECT_FALSE(list().model()->headerData(Grid::PictureColumn, Qt::Horizontal, Qt::FontRole).value<QFont>().bold());
 }
 
-TEST_F(Messages, AreAsHighAsTheDocumentSays) {
+TEST_F(Messages, HaveTheHeightsOfTheDocument) {
     error("short");
     settle();
     EXPECT_EQ(list().visualRect(at(0)).height(), document().msgGrid().rowHeight(1) / 15);
@@ -55,7 +55,7 @@ TEST_F(Messages, AreAsHighAsTheDocumentSays) {
     EXPECT_GT(list().visualRect(at(0)).height(), 2 * list().fontMetrics().height());
 }
 
-TEST_F(Messages, GrowInANarrowerWindow) {
+TEST_F(Messages, GetHigherInANarrowerWindow) {
     error(QString("word ").repeated(25));
     settle();
     const int wide = list().visualRect(at(0)).height();
@@ -64,7 +64,7 @@ TEST_F(Messages, GrowInANarrowerWindow) {
     EXPECT_GT(list().visualRect(at(0)).height(), wide);
 }
 
-TEST_F(Messages, GrowInALargerFont) {
+TEST_F(Messages, GetHigherInALargerFont) {
     error("short");
     settle();
     auto font = list().font();
@@ -124,7 +124,7 @@ TEST_F(Messages, AreFilteredByTheirTexts) {
     EXPECT_TRUE(shown().empty());
 }
 
-TEST_F(Messages, OfNoKindAlwaysShow) {
+TEST_F(Messages, OfNoKindAreAlwaysShown) {
     document().add("", "", 0, "neither", 0, 0, false);
     settle();
     part<QToolButton>("errors").click();
@@ -132,7 +132,7 @@ TEST_F(Messages, OfNoKindAlwaysShow) {
     EXPECT_THAT(shown(), ElementsAre("neither"));
 }
 
-TEST_F(Messages, AreSortedByTheirHeadersAndPutBack) {
+TEST_F(Messages, AreSortedByTheirHeadersAndBack) {
     for (const int line : {3, 20, 2}) warning(QString("line %1").arg(line), line);
     settle();
     const auto click = [this] {
@@ -151,7 +151,7 @@ TEST_F(Messages, AreSortedByTheirHeadersAndPutBack) {
     EXPECT_THAT(shown(), ElementsAre("line 3", "line 20", "line 2", "line 10"));
 }
 
-TEST_F(Messages, LeadToTheirLineByADoubleClick) {
+TEST_F(Messages, OpenTheirLineByADoubleClick) {
     error("here", 3);
     settle();
     doubleClick(at(0));
@@ -160,7 +160,7 @@ TEST_F(Messages, LeadToTheirLineByADoubleClick) {
     EXPECT_TRUE(window().updatesEnabled());
 }
 
-TEST_F(Messages, LeadToTheirLineWhenTheyAreFilteredAndSorted) {
+TEST_F(Messages, OpenTheirLineWhenFilteredAndSorted) {
     for (int line = 2; line < 6; ++line) warning(QString("odd even").mid(line % 2 * 4, 4), line);
     settle();
     filter().setText("odd");
@@ -171,7 +171,7 @@ TEST_F(Messages, LeadToTheirLineWhenTheyAreFilteredAndSorted) {
     EXPECT_EQ(document().selectedRow(), 3);
 }
 
-TEST_F(Messages, LeadToTheirLineByTheEnterKey) {
+TEST_F(Messages, OpenTheirLineByTheEnterKey) {
     error("here", 3);
     settle();
     list().setCurrentIndex(at(0));
@@ -179,7 +179,7 @@ TEST_F(Messages, LeadToTheirLineByTheEnterKey) {
     EXPECT_EQ(selectedCode(), kThirdLine);
 }
 
-TEST_F(Messages, ThatCameAboveLeaveTheChosenOneChosen) {
+TEST_F(Messages, AddedAtTheTopKeepTheSelection) {
     error("old", 3);
     settle();
     list().setCurrentIndex(at(0));
@@ -192,7 +192,7 @@ TEST_F(Messages, ThatCameAboveLeaveTheChosenOneChosen) {
     EXPECT_THAT(selected(), ElementsAre("old"));
 }
 
-TEST_F(Messages, ShowTheFirstErrorThatTheAddInGoesTo) {
+TEST_F(Messages, SelectTheFirstErrorThatTheAddInGoesTo) {
     warning("project", 0);
     warning("line", 3);
     document().gotoFirstError();
@@ -228,7 +228,7 @@ TEST_F(Messages, AreReachedByKeys) {
     EXPECT_TRUE(list().hasFocus());
 }
 
-TEST_F(Messages, HaveNamesForThoseWhoHearThem) {
+TEST_F(Messages, HaveAccessibleNames) {
     error("e");
     settle();
     EXPECT_EQ(list().accessibleName(), "Messages");
@@ -236,7 +236,7 @@ TEST_F(Messages, HaveNamesForThoseWhoHearThem) {
     EXPECT_EQ(at(0, Grid::PictureColumn).data(Qt::AccessibleTextRole), "Error");
 }
 
-TEST_F(Messages, OfAnAddInThatWentLeadNowhere) {
+TEST_F(Messages, OfADisconnectedAddInOpenNothing) {
     error("here", 3);
     settle();
     document().disconnect();
@@ -248,7 +248,7 @@ TEST_F(Messages, OfAnAddInThatWentLeadNowhere) {
     EXPECT_EQ(shown().size(), 1U);
 }
 
-/// One picture for each theme, to be looked at.
+/// One picture for each theme, for review.
 TEST_F(Messages, LookLikeTheirPictures) {
     fillForPicture();
     for (const auto& [theme, name] :

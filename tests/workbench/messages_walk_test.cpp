@@ -1,4 +1,4 @@
-// From one message to the next.
+// The commands to the next and previous message.
 #include "tests/workbench/messages_desktop.h"
 #include <gmock/gmock.h>
 
@@ -12,7 +12,7 @@ constexpr auto kCodeOfThirdLine = "    Beep 2";
 
 } // namespace
 
-TEST_F(MessagesWalk, AreWalkedThroughAllAroundFromTheEditor) {
+TEST_F(MessagesWalk, AreVisitedInACircleFromTheEditor) {
     for (const int line : {3, 5, 4}) warning(QString("line %1").arg(line), line);
     component()->CodeModule()->CodePane()->Show();
     settle();
@@ -26,7 +26,7 @@ TEST_F(MessagesWalk, AreWalkedThroughAllAroundFromTheEditor) {
     EXPECT_EQ(selectedCode(), "    Beep 3");
 }
 
-TEST_F(MessagesWalk, AreWalkedThroughAsTheyAreShown) {
+TEST_F(MessagesWalk, AreVisitedInTheOrderShown) {
     for (const int line : {3, 5, 4}) warning(QString("line %1").arg(line), line);
     settle();
     list().sortByColumn(Grid::LineColumn, Qt::AscendingOrder);
@@ -36,14 +36,14 @@ TEST_F(MessagesWalk, AreWalkedThroughAsTheyAreShown) {
     EXPECT_THAT(selected(), ElementsAre("line 4"));
 }
 
-TEST_F(MessagesWalk, ThatStartSomethingDoNotWhenTheyAreWalkedThrough) {
+TEST_F(MessagesWalk, ThatStartSomethingDoNotWhenVisited) {
     error("settings", 0, 4119);
     settle();
-    key(Qt::Key_F6); // a box would stand until the test is ended
+    key(Qt::Key_F6); // a box would stay open until the test times out
     EXPECT_THAT(selected(), ElementsAre("settings"));
 }
 
-TEST_F(MessagesWalk, AreWalkedThroughInTheLatestWindow) {
+TEST_F(MessagesWalk, AreVisitedInTheLatestWindow) {
     warning("of the window before", 2);
     settle();
     messages().killToolWindow();
@@ -55,12 +55,12 @@ TEST_F(MessagesWalk, AreWalkedThroughInTheLatestWindow) {
     EXPECT_THAT(shown(), ElementsAre("here"));
 }
 
-TEST_F(MessagesWalk, WithNoneAWalkGoesNowhere) {
+TEST_F(MessagesWalk, WithoutMessagesNothingIsVisited) {
     key(Qt::Key_F6);
     EXPECT_FALSE(window().code().current());
 }
 
-TEST_F(MessagesWalk, AreWalkedThroughByTheUsersOwnKeys) {
+TEST_F(MessagesWalk, AreVisitedByTheUsersOwnKeys) {
     QSettings().setValue("messages/nextKey", "Ctrl+F8");
     start();
     warning("here", 3);

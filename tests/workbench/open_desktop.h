@@ -1,5 +1,5 @@
 #pragma once
-// The whole desktop with a small project on disk, for tests of what its user does with code.
+// The whole desktop with a small project on disk, for tests of code windows.
 #include "Apps/workbench/base/text.h"
 #include "Apps/workbench/code/scintilla.h"
 #include "tests/workbench/running_bench.h"
@@ -9,12 +9,12 @@
 
 namespace test {
 
-/// Milliseconds after which what was waited for does not come any more.
+/// The longest time to wait for something, in milliseconds.
 inline constexpr int kLongestWait = 20000;
 
 class OpenDesktop : public RunningBench {
 protected:
-    /// With a place of its own for the user's state, or this one.
+    /// Uses this folder for the user's state, or one of its own.
     explicit OpenDesktop(const QByteArray& state = {}) {
         qputenv("XDG_STATE_HOME", state.isEmpty() ? QByteArray::fromStdString(folder / "state") : state);
         start();
@@ -38,7 +38,8 @@ protected:
     std::string held(const std::string& name) {
         return workbench::codeOf(*component(name)->CodeModule()).toStdString();
     }
-    /// Answers each window that comes, until the next call: boxes with their text, forms as `form` says.
+    /// Answers each window until the next call: records the text of boxes and calls `box`, or calls `form` for other
+    /// dialogs.
     void answer(
         std::function<void(QMessageBox&)> box, std::function<void(QDialog&)> form = [](QDialog&) {}) {
         boxes.clear();
@@ -53,7 +54,7 @@ protected:
         });
         answers_.start(10);
     }
-    /// Presses the button of each box whose words these are.
+    /// Presses the button with this text in each box.
     void answerWith(const QString& button) {
         answer([button](QMessageBox& box) { press(box, button); });
     }
@@ -64,7 +65,7 @@ protected:
         box.reject();
     }
 
-    /// The texts of the boxes that came since the last `answer`.
+    /// The texts of the boxes since the last call of answer().
     std::vector<std::string> boxes;
 
 private:

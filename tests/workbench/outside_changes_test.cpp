@@ -11,7 +11,7 @@ using testing::HasSubstr;
 
 namespace {
 
-/// Longer than changes are waited for.
+/// Longer than the delay before a check.
 constexpr int kQuiet = 700;
 
 class OutsideChanges : public test::OpenDesktop {
@@ -22,8 +22,7 @@ protected:
         ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
         QTest::qWait(kQuiet); // files are watched
     }
-    /// Answers the question that comes with this button; before, ticks the rows that begin with these words and no
-    /// others, where any are given.
+    /// Answers the next question with this button, after checking the rows that begin with these words.
     void answerOutside(const char* button, QStringList ticked = {}) {
         rows.clear();
         questions = 0;
@@ -53,13 +52,13 @@ protected:
     void save() { menuItem("&File", "Sa&ve Project")->trigger(); }
 
     int questions = 0;
-    /// What the question listed.
+    /// The rows of the question.
     std::vector<std::string> rows;
 };
 
 } // namespace
 
-TEST_F(OutsideChanges, AFileThatNobodyTouchedHereIsReadAgain) {
+TEST_F(OutsideChanges, AnUneditedFileIsReloaded) {
     openTwo();
     auto& editor = code("modA");
     answerOutside("reload");
@@ -102,7 +101,7 @@ TEST_F(OutsideChanges, CursorAndScrollStayWhereTheyAre) {
     EXPECT_EQ(editor.firstVisibleLine(), 110);
 }
 
-TEST_F(OutsideChanges, OneQuestionTellsOfAll) {
+TEST_F(OutsideChanges, OneQuestionListsAllFiles) {
     openTwo();
     type("modB", "mine ");
     answerOutside("reload");
@@ -110,13 +109,12 @@ TEST_F(OutsideChanges, OneQuestionTellsOfAll) {
     folder.write("modB.bas", moduleText("modB", "' theirs\r\n"));
     waitForQuestion();
     EXPECT_EQ(questions, 1);
-    EXPECT_THAT(rows,
-                ElementsAre("[x] modA (modA.bas)", "[ ] modB (modB.bas) - reloading loses your unsaved changes"));
+    EXPECT_THAT(rows, ElementsAre("[x] modA (modA.bas)", "[ ] modB (modB.bas) - reloading loses your unsaved changes"));
     EXPECT_EQ(held("modA"), "' theirs");
     EXPECT_EQ(held("modB"), "mine ' b");
 }
 
-TEST_F(OutsideChanges, TheUserMayTakeTheirsOverHisOwn) {
+TEST_F(OutsideChanges, TheUserMayReloadAnEditedFile) {
     openTwo();
     type("modA", "mine ");
     answerOutside("reload", {"modA"});
@@ -126,7 +124,7 @@ TEST_F(OutsideChanges, TheUserMayTakeTheirsOverHisOwn) {
     EXPECT_FALSE(component("modA")->IsDirty());
 }
 
-TEST_F(OutsideChanges, WhatIsKeptIsNotSavedOverTheirsWithoutAQuestion) {
+TEST_F(OutsideChanges, KeptTextIsNotSavedWithoutAQuestion) {
     openTwo();
     type("modA", "mine ");
     answerOutside("keep");
@@ -143,8 +141,8 @@ TEST_F(OutsideChanges, WhatIsKeptIsNotSavedOverTheirsWithoutAQuestion) {
     EXPECT_FALSE(component("modA")->IsDirty());
 }
 
-/// Otherwise a compile, which reads files, would compile what the editor does not show.
-TEST_F(OutsideChanges, WhatIsKeptCountsAsUnsaved) {
+/// A compile reads files, so it would otherwise compile something else than the editor shows.
+TEST_F(OutsideChanges, KeptTextCountsAsUnsaved) {
     openTwo();
     answerOutside("keep");
     folder.write("modA.bas", moduleText("modA", "' theirs\r\n"));
@@ -157,7 +155,7 @@ TEST_F(OutsideChanges, WhatIsKeptCountsAsUnsaved) {
     EXPECT_TRUE(QTest::qWaitFor([this] { return questions == 2; }, kLongestWait));
 }
 
-TEST_F(OutsideChanges, AFileThatIsGoneIsToldAndWrittenAgainByASave) {
+TEST_F(OutsideChanges, ARemovedFileIsReportedAndWrittenAgainBySaving) {
     openTwo();
     answerOutside("keep");
     std::filesystem::remove(folder / "modA.bas");
@@ -184,7 +182,7 @@ TEST_F(OutsideChanges, AProjectFileIsOpenedAgainWithItsWindows) {
     EXPECT_EQ(window().code().current()->place().column, 2);
 }
 
-TEST_F(OutsideChanges, TheSameBytesAreNoChange) {
+TEST_F(OutsideChanges, TheSameBytesAreNotAChange) {
     openTwo();
     answerOutside("keep");
     folder.write("modA.bas", moduleText("modA", "' a\r\n"));
@@ -217,7 +215,7 @@ TEST_F(OutsideChanges, OwnSavesAndBuildsAskNothing) {
     EXPECT_THAT(folder.read("HelloWorld/frmHello.frm"), HasSubstr("' y' x"));
 }
 
-TEST_F(OutsideChanges, WhatCannotBeReadAgainIsToldAndKept) {
+TEST_F(OutsideChanges, AFailedReloadIsReportedAndTheTextKept) {
     openTwo();
     answerOutside("reload");
     folder.write("modA.bas", moduleText("modB", "' another name\r\n"));

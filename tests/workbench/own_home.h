@@ -1,5 +1,5 @@
 #pragma once
-// A user of the test's own.
+// A home folder for the test.
 #include "Add-in/core/modRegistry2.h"
 #include "Host/registry/registry_store.h"
 #include "Host/system/environment.h"
@@ -8,7 +8,7 @@
 
 namespace test {
 
-/// Settings, stores and state of this process are below this folder from now on.
+/// Moves the settings and state of this process to this folder.
 struct OwnHome : TempFolder {
     OwnHome() {
         for (const char* place : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME", "XDG_RUNTIME_DIR",
@@ -17,7 +17,7 @@ struct OwnHome : TempFolder {
     }
 };
 
-/// It would wait for its user at the end of each start.
+/// It would wait for an answer at each start.
 inline void leaveOutIntroduction() {
     host::RegistryStore store{host::usualRegistryPlaces(host::Environment{}, {})};
     fernwick::modRegistry2 registry{store};

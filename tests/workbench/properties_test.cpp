@@ -1,4 +1,4 @@
-// The properties of what is selected: shown as the IDE shows them, edited line by line.
+// The properties window.
 #include "tests/workbench/designer_desktop.h"
 #include <QComboBox>
 #include <QFontDialog>
@@ -47,7 +47,7 @@ const std::string kInspected = R"(   BorderStyle     =   1  'Fixed Single
 class Properties : public test::DesignerDesktop {
 protected:
     void select(const std::string& name) { view().select(name.empty() ? nullptr : control(name)); }
-    /// Edits a value that is refused, and gives the text of the box that says so.
+    /// Edits a value that is refused. Returns the text of the error box.
     std::string refusal(const QString& property, const QString& value) {
         return boxOf([&] { type(property, value); });
     }
@@ -68,7 +68,7 @@ protected:
         QTest::mouseDClick(table.viewport(), Qt::LeftButton, {}, table.visualRect(valueCell(property)).center());
         settle();
     }
-    /// The list in which a row's value is chosen.
+    /// The list of a row's choices.
     QComboBox* listOf(const QString& property) {
         auto& table = properties().table();
         table.setCurrentIndex(valueCell(property));
@@ -97,7 +97,7 @@ TEST_F(Properties, AreShownAsTheIdeShowsThem) {
     EXPECT_EQ(shown("ScaleMode"), "1 - Twip");
 }
 
-TEST_F(Properties, OfControlsKnowTheirEnumerationsAndKeepInternalsToThemselves) {
+TEST_F(Properties, OfControlsShowEnumerationsAndHideInternals) {
     openForm(kInspected);
     select("cboKind");
     EXPECT_EQ(shown("Style"), "2 - qlDropDownList");
@@ -109,7 +109,7 @@ TEST_F(Properties, OfControlsKnowTheirEnumerationsAndKeepInternalsToThemselves) 
     EXPECT_EQ(shown("Index"), "3");
 }
 
-TEST_F(Properties, AreListedInTheAlphabet) {
+TEST_F(Properties, AreListedAlphabetically) {
     openForm(kInspected);
     QStringList names;
     for (int row = 1; row < properties().rows().rowCount(); ++row)
@@ -120,7 +120,7 @@ TEST_F(Properties, AreListedInTheAlphabet) {
     EXPECT_GT(names.size(), 30);
 }
 
-TEST_F(Properties, FollowTheSelectionAndLeadIt) {
+TEST_F(Properties, FollowTheSelectionAndChangeIt) {
     openForm(kInspected);
     EXPECT_EQ(textsOf(properties().objects()), (QStringList{"frmMain Form", "cmdOK CommandButton", "txtName TextBox",
                                                             "optSize(3) OptionButton", "cboKind QLComboBox"}));
@@ -132,7 +132,7 @@ TEST_F(Properties, FollowTheSelectionAndLeadIt) {
     EXPECT_EQ(shown("Caption"), "&OK");
 }
 
-TEST_F(Properties, StayOnTheRowOfAPropertyFromObjectToObject) {
+TEST_F(Properties, KeepTheCurrentPropertyBetweenObjects) {
     openForm(kInspected);
     select("cmdOK");
     properties().table().setCurrentIndex(valueCell("Width"));
@@ -140,9 +140,9 @@ TEST_F(Properties, StayOnTheRowOfAPropertyFromObjectToObject) {
     EXPECT_EQ(properties().table().currentIndex(), valueCell("Width"));
 }
 
-// ---- editing ------------------------------------------------------------------------------------------------------------
+// ---- editing --------------------------------------------------------------------------------------------------------
 
-TEST_F(Properties, AnEditChangesItsLineAndNoOther) {
+TEST_F(Properties, AnEditChangesOnlyItsLine) {
     openSample("TipCalculator");
     const auto before = folder.read("TipCalculator/frmTip.frm");
     design("frmTip");
@@ -171,7 +171,7 @@ TEST_F(Properties, AMoveOnTheFormShowsInItsRows) {
     EXPECT_EQ(shown("Top"), "240");
 }
 
-TEST_F(Properties, ALineThatCameWithAnEditGoesWithTheDefault) {
+TEST_F(Properties, TheDefaultRemovesTheLine) {
     openForm(kInspected);
     select("cmdOK");
     type("ToolTipText", "Ends it");
@@ -180,7 +180,7 @@ TEST_F(Properties, ALineThatCameWithAnEditGoesWithTheDefault) {
     EXPECT_EQ(saved("frmMain"), original);
 }
 
-TEST_F(Properties, EnumerationsAreWrittenWithTheirWord) {
+TEST_F(Properties, EnumerationsAreWrittenWithTheirName) {
     openForm(kInspected);
     auto* const list = listOf("BorderStyle");
     ASSERT_TRUE(list);
@@ -193,7 +193,7 @@ TEST_F(Properties, EnumerationsAreWrittenWithTheirWord) {
               "-   BorderStyle     =   1  'Fixed Single\n+   BorderStyle     =   3  'Fixed Dialog\n");
 }
 
-TEST_F(Properties, ADoubleClickGoesOnToTheNextValue) {
+TEST_F(Properties, ADoubleClickChoosesTheNextValue) {
     openForm(kInspected);
     select("cmdOK");
     doubleClick("Default");
@@ -222,7 +222,7 @@ TEST_F(Properties, ColoursAreChosenByNameOrTyped) {
     EXPECT_EQ(view().picture().find(control("txtName"))->look.back, QColor(0, 255, 0));
 }
 
-TEST_F(Properties, EscapeLeavesTheValue) {
+TEST_F(Properties, EscapeKeepsTheValue) {
     openForm(kInspected);
     auto& table = properties().table();
     table.setCurrentIndex(valueCell("Caption"));
@@ -236,7 +236,7 @@ TEST_F(Properties, EscapeLeavesTheValue) {
     EXPECT_FALSE(component("frmMain")->IsDirty());
 }
 
-TEST_F(Properties, PicturesAreNotTyped) {
+TEST_F(Properties, PicturesCannotBeTyped) {
     openForm(kInspected);
     EXPECT_FALSE(valueCell("Icon").flags() & Qt::ItemIsEditable);
     EXPECT_TRUE(valueCell("Caption").flags() & Qt::ItemIsEditable);
@@ -262,7 +262,7 @@ TEST_F(Properties, AFontIsChosenInItsDialog) {
     EXPECT_EQ(shown("Font"), "MS Sans Serif");
 }
 
-TEST_F(Properties, OfAFormAreThereBesideItsCodeToo) {
+TEST_F(Properties, OfAFormAreShownWithItsCodeToo) {
     openForm(kInspected);
     menuItem("&View", "&Code")->trigger();
     EXPECT_EQ(properties().objects().currentText(), "frmMain Form");
@@ -273,7 +273,7 @@ TEST_F(Properties, OfAFormAreThereBesideItsCodeToo) {
     EXPECT_EQ(properties().objects().currentText(), "txtName TextBox");
 }
 
-TEST_F(Properties, WhatSaysNothingAndIsUnknownIsNotTyped) {
+TEST_F(Properties, UnknownEmptyPropertiesCannotBeTyped) {
     openForm("   Begin VB.Menu mnuOne \n      Caption         =   \"One\"\n   End\n   Begin VB.Menu mnuTwo \n"
              "      Caption         =   \"Two\"\n      Shortcut        =   ^T\n   End\n");
     select("mnuOne");
@@ -286,7 +286,7 @@ TEST_F(Properties, WhatSaysNothingAndIsUnknownIsNotTyped) {
     EXPECT_EQ(refusal("Shortcut", "F5"), "Invalid property value");
 }
 
-TEST_F(Properties, TextsOfSeveralLinesAreShownButNotTyped) {
+TEST_F(Properties, TextsOfSeveralLinesCannotBeTyped) {
     folder.write("frmMain.frx", std::string("\x08One\r\nTwo", 9));
     openForm("   Begin VB.TextBox txtLines \n      MultiLine       =   -1  'True\n"
              "      Text            =   \"frmMain.frx\":0000\n   End\n");
@@ -295,9 +295,9 @@ TEST_F(Properties, TextsOfSeveralLinesAreShownButNotTyped) {
     EXPECT_FALSE(valueCell("Text").flags() & Qt::ItemIsEditable);
 }
 
-// ---- refusals -----------------------------------------------------------------------------------------------------------
+// ---- refusals -------------------------------------------------------------------------------------------------------
 
-TEST_F(Properties, WhatMakesNoSenseIsRefusedAndTheOldValueStays) {
+TEST_F(Properties, InvalidValuesAreRefused) {
     openForm(kInspected);
     select("cmdOK");
     EXPECT_EQ(refusal("Left", "here"), "Type mismatch");
@@ -331,7 +331,7 @@ TEST_F(Properties, NamesAreIdentifiersAndUnique) {
     EXPECT_EQ(properties().objects().currentText(), "cmdFine CommandButton");
 }
 
-TEST_F(Properties, AFormIsRenamedWhereItsNameStands) {
+TEST_F(Properties, RenamingAFormChangesItsName) {
     openForm(kInspected);
     type("(Name)", "frmOther");
     EXPECT_EQ(component("frmOther")->Name(), "frmOther");
@@ -339,9 +339,9 @@ TEST_F(Properties, AFormIsRenamedWhereItsNameStands) {
     EXPECT_EQ(properties().objects().currentText(), "frmOther Form");
 }
 
-// ---- what has a name only -----------------------------------------------------------------------------------------------
+// ---- objects with only a name ---------------------------------------------------------------------------------------
 
-TEST_F(Properties, ModulesClassesAndProjectsHaveANameOnly) {
+TEST_F(Properties, ModulesClassesAndProjectsHaveOnlyAName) {
     openSample("AddressBook");
     component("clsPerson")->CodeModule()->CodePane()->Show();
     EXPECT_EQ(properties().rows().rowCount(), 1);
@@ -360,7 +360,7 @@ TEST_F(Properties, ModulesClassesAndProjectsHaveANameOnly) {
     EXPECT_EQ(bench->host().ActiveVBProject()->Name(), "Addresses");
 }
 
-TEST_F(Properties, AreEmptyWithoutAnythingOpen) {
+TEST_F(Properties, AreEmptyWithoutAnOpenTab) {
     EXPECT_EQ(properties().rows().rowCount(), 0);
     EXPECT_EQ(properties().objects().count(), 0);
     ASSERT_TRUE(menuItem("&View", "Properties &Window"));

@@ -14,7 +14,7 @@ class DesktopUser : public test::DesktopWorld {
 protected:
     static void expectBox(std::function<void(QMessageBox&)> act) { test::whenShown<QMessageBox>(std::move(act)); }
     static std::string defaultButton(QMessageBox& box) { return box.defaultButton()->text().remove('&').toStdString(); }
-    /// Types a name into the file dialog that comes.
+    /// Types a name into the next file dialog.
     static void chooseFile(const std::string& name) {
         test::whenShown<QFileDialog>([name](QFileDialog& dialog) {
             dialog.findChild<QLineEdit*>("fileNameEdit")->setText(QString::fromStdString(name));
@@ -37,7 +37,7 @@ TEST_F(DesktopUser, ABoxHasItsTitleTextIconAndButtons) {
     EXPECT_EQ(user.MsgBox("ERROR!\r\n\r\n<b>Failing", vbCritical, "Fernwick"), vbOK);
 }
 
-TEST_F(DesktopUser, TheDefaultButtonIsTheFirstUnlessTheSecondIsAsked) {
+TEST_F(DesktopUser, TheDefaultButtonIsTheFirstUnlessSpecified) {
     expectBox([](QMessageBox& box) {
         EXPECT_EQ(defaultButton(box), "Yes");
         box.button(QMessageBox::No)->click();
@@ -67,7 +67,7 @@ TEST_F(DesktopUser, ASaveDialogGivesThePathWithItsExtension) {
     EXPECT_EQ(dialog.FileName, folder / "mine.reg");
 }
 
-TEST_F(DesktopUser, CancelIsAnErrorWhereTheDialogSaysSo) {
+TEST_F(DesktopUser, CancelIsAnErrorIfTheDialogWantsIt) {
     CommonDialog dialog;
     dialog.FileName = "before";
     test::whenShown<QFileDialog>([](QFileDialog& shown) { shown.reject(); });
@@ -78,7 +78,7 @@ TEST_F(DesktopUser, CancelIsAnErrorWhereTheDialogSaysSo) {
     EXPECT_EQ(test::errorOf([&] { user.ShowOpen(dialog); }), kCancelWasSelected);
 }
 
-TEST_F(DesktopUser, SeveralFilesAreTheirFolderAndNames) {
+TEST_F(DesktopUser, SeveralFilesAreReturnedAsFolderAndNames) {
     folder.write("a.pdb", "");
     folder.write("b.pdb", "");
     CommonDialog dialog;
@@ -92,7 +92,7 @@ TEST_F(DesktopUser, SeveralFilesAreTheirFolderAndNames) {
     EXPECT_EQ(test::errorOf([&] { user.ShowOpen(dialog); }), 20476);
 }
 
-TEST_F(DesktopUser, TheLoopDeliversAndTicksWhileQtTurns) {
+TEST_F(DesktopUser, TheLoopDeliversWhileQtsLoopRuns) {
     std::string log;
     loop.Post([&] { log += "p"; });
     auto timer = loop.StartTimer(5, [&] { log += "t"; });
@@ -118,7 +118,7 @@ TEST_F(DesktopUser, ATickThatShowsABoxLetsOtherTimersTick) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return back; }));
 }
 
-TEST_F(DesktopUser, AnErrorOfADeliveryIsToldAndStaysOutOfQtsLoop) {
+TEST_F(DesktopUser, AnErrorOfADeliveryIsReportedAndDoesNotReachQtsLoop) {
     loop.Post([] { throw basic::RuntimeError(5, "x"); });
     EXPECT_TRUE(QTest::qWaitFor([&] { return failures == 1; }));
 }
@@ -142,7 +142,7 @@ TEST_F(DesktopUser, TheDesktopsClipboardChangesWhenTheLoopTurns) {
     EXPECT_EQ(QGuiApplication::clipboard()->text(), "a");
 }
 
-TEST_F(DesktopUser, AClipboardThatIsPutBackWasNeverTouched) {
+TEST_F(DesktopUser, ARestoredClipboardIsNotTouched) {
     QGuiApplication::clipboard()->setText("copied elsewhere");
     int changes = 0;
     const auto watch = QObject::connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, [&] { ++changes; });

@@ -12,7 +12,7 @@
 
 namespace test {
 
-/// What every test of the desktop has: the program, a folder for its projects, and a user who waits.
+/// The base of all tests of the desktop: the program and a folder for its projects.
 class RunningBench : public testing::Test {
 protected:
     RunningBench() { workbench::apply(workbench::Theme::Light); }
@@ -23,7 +23,7 @@ protected:
         window().show();
         settle();
     }
-    /// Ends as after the user's "no" to saving.
+    /// Ends the program without saving.
     void end() {
         if (!bench) return;
         for (const auto& open : bench->host().VBProjects()->items()) clean(open);
@@ -38,14 +38,14 @@ protected:
         bench->connect();
         settle();
     }
-    /// A copy of that sample.
+    /// Copies a sample and returns its project file.
     std::string sample(const std::string& name) {
         std::filesystem::copy(std::filesystem::path(FERNWICK_SOURCE_DIR) / "samples" / name, folder / name,
                               std::filesystem::copy_options::recursive);
         return folder / (name + "/" + name + ".vbp");
     }
-    /// Lets everything be done and drawn that waits for Qt's loop, on a busy machine too, where the wait may end before
-    /// its turn; one drawing may ask for another.
+    /// Waits, then runs Qt's loop until nothing is pending, as on a busy machine the wait may end early and drawing may
+    /// cause more drawing.
     static void settle(int milliseconds = 20) {
         QTest::qWait(milliseconds);
         constexpr int kMostTurns = 100;
@@ -56,7 +56,7 @@ protected:
     workbench::MainWindow& window() { return bench->window(); }
     vbide::Ref<vbide::VBProject> project() { return bench->host().ActiveVBProject(); }
     vbide::Ref<vbide::VBComponent> component(const std::string& name) { return project()->VBComponents()->Item(name); }
-    /// Null where there is none.
+    /// Null if there is none.
     QAction* menuItem(const QString& menu, const QString& item) {
         for (auto* top : window().menuBar()->actions())
             if (top->text() == menu)

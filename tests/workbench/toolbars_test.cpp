@@ -1,4 +1,4 @@
-// Toolbars: the model's places and the window's are the same ones.
+// Toolbars are in the same places in the model and in the window.
 #include "tests/workbench/desktop.h"
 #include <QSettings>
 #include <QToolBar>
@@ -26,7 +26,7 @@ struct DesktopToolBars : test::Desktop {
         workbench::setPlace(bar(name), place);
         settle();
     }
-    /// As with the mouse, from the toolbar's handle to this point of the window.
+    /// Drags the toolbar by its handle to this point of the window.
     void drag(const QString& name, const QPoint& to) {
         auto& dragged = toolBar(name);
         const QPoint handle(4, 4);
@@ -43,13 +43,13 @@ struct DesktopToolBars : test::Desktop {
 
 } // namespace
 
-TEST_F(DesktopToolBars, NewOnesStandBesideEachOtherAtTheTop) {
+TEST_F(DesktopToolBars, NewOnesAreSideBySideAtTheTop) {
     EXPECT_EQ(window().toolBarArea(&toolBar("Fernwick")), Qt::TopToolBarArea);
     EXPECT_EQ(toolBar("Fernwick").y(), toolBar("Standard").y());
     EXPECT_GT(toolBar("Quinloft Utilities").x(), toolBar("Fernwick").x());
 }
 
-TEST_F(DesktopToolBars, TheModelLearnsWhereTheyCameToStand) {
+TEST_F(DesktopToolBars, TheModelGetsTheirFinalPlaces) {
     EXPECT_EQ(place("Fernwick").left, toolBar("Fernwick").x() - toolBar("Standard").x());
     EXPECT_EQ(place("Fernwick").row, 1);
     EXPECT_GT(place("Quinloft Utilities").left, place("Fernwick").left);
@@ -84,7 +84,7 @@ TEST_F(DesktopToolBars, RowsOfTheOtherSidesCountFromTheOutside) {
     }
 }
 
-TEST_F(DesktopToolBars, AFloatingBarStandsWhereTheModelSaysAndDocksAgain) {
+TEST_F(DesktopToolBars, AFloatingBarFollowsTheModelAndDocksAgain) {
     move("Fernwick", {true, office::msoBarFloating, 1, 321, 234});
     ASSERT_TRUE(toolBar("Fernwick").isFloating());
     EXPECT_TRUE(toolBar("Fernwick").isVisible());
@@ -95,7 +95,7 @@ TEST_F(DesktopToolBars, AFloatingBarStandsWhereTheModelSaysAndDocksAgain) {
     EXPECT_EQ(toolBar("Fernwick").y(), toolBar("Standard").y());
 }
 
-TEST_F(DesktopToolBars, DraggingIsToldToTheModelAtOnce) {
+TEST_F(DesktopToolBars, DraggingUpdatesTheModelAtOnce) {
     drag("Fernwick", QPoint(8, 400));
     EXPECT_EQ(place("Fernwick").position, office::msoBarLeft);
     drag("Fernwick", QPoint(500, 400));
@@ -104,7 +104,7 @@ TEST_F(DesktopToolBars, DraggingIsToldToTheModelAtOnce) {
     EXPECT_EQ(QPoint(place("Fernwick").left, place("Fernwick").top), toolBar("Fernwick").pos());
 }
 
-TEST_F(DesktopToolBars, HidingIsToldToTheModelBothWays) {
+TEST_F(DesktopToolBars, HidingIsSynchronizedBothWays) {
     toolBar("Fernwick").toggleViewAction()->trigger();
     EXPECT_FALSE(bar("Fernwick").Visible());
     settle();
@@ -113,7 +113,7 @@ TEST_F(DesktopToolBars, HidingIsToldToTheModelBothWays) {
     EXPECT_TRUE(toolBar("Fernwick").isVisible());
 }
 
-TEST_F(DesktopToolBars, APositionThatIsNoneStandsAtTheTop) {
+TEST_F(DesktopToolBars, AnInvalidPositionMeansTheTop) {
     move("Fernwick", {true, 7, 1, 0, 0});
     EXPECT_EQ(place("Fernwick").position, office::msoBarTop);
     EXPECT_TRUE(toolBar("Fernwick").isVisible());
@@ -125,8 +125,8 @@ TEST_F(DesktopToolBars, ADisabledBarCanStillBeMoved) {
     for (const auto* button : toolBar("Fernwick").actions()) EXPECT_TRUE(button->isSeparator() || !button->isEnabled());
 }
 
-/// The add-in stores places when a project goes and restores them when one comes, in the user's store.
-TEST_F(DesktopToolBars, PlacesComeBackAfterARestart) {
+/// The add-in stores the places when a project closes and restores them when one opens.
+TEST_F(DesktopToolBars, PlacesAreRestoredAfterARestart) {
     move("Standard", {true, office::msoBarBottom, 1, 0, 0});
     drag("Fernwick", QPoint(8, 400));
     move("Quinloft Utilities", {false, office::msoBarTop, 2, 0, 0});

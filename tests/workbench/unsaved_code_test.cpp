@@ -1,4 +1,4 @@
-// What is compiled is what the user sees: code that was typed is saved before a compile, or nothing is compiled.
+// Typed code is saved before a compile, or nothing is compiled.
 #include "tests/workbench/open_desktop.h"
 #include <filesystem>
 
@@ -20,7 +20,7 @@ protected:
         QTest::keyClicks(&editor, text);
         QTest::keyClick(&editor, Qt::Key_Return);
     }
-    /// Presses this at the question about saving, and OK everywhere else.
+    /// Presses this button at the question about saving, and OK in all other boxes.
     void compile(const char* button) {
         answer([](QMessageBox& box) { press(box, "OK"); },
                [this, button](QDialog& form) {
@@ -38,7 +38,7 @@ protected:
 
 } // namespace
 
-TEST_F(UnsavedCode, YesSavesAndCompilesWhatWasTyped) {
+TEST_F(UnsavedCode, YesSavesAndCompilesTypedCode) {
     compile("btnYes"); // from here on only what is typed asks
     questions = 0;
     type("' typed");
@@ -49,7 +49,7 @@ TEST_F(UnsavedCode, YesSavesAndCompilesWhatWasTyped) {
     EXPECT_FALSE(component("frmHello")->IsDirty());
 }
 
-TEST_F(UnsavedCode, AnErrorInWhatWasTypedIsFoundByTheCompile) {
+TEST_F(UnsavedCode, TheCompileFindsErrorsInTypedCode) {
     type("Sub Broken(");
     compile("btnYes");
     EXPECT_GE(questions, 1); // a slow window may be pressed twice
@@ -57,7 +57,7 @@ TEST_F(UnsavedCode, AnErrorInWhatWasTypedIsFoundByTheCompile) {
     EXPECT_EQ(code("frmHello").markersAtLine(0), 1u << 1);
 }
 
-TEST_F(UnsavedCode, NoCompilesNothingAndLeavesAll) {
+TEST_F(UnsavedCode, NoCompilesNothingAndChangesNothing) {
     type("' typed");
     compile("btnNo");
     EXPECT_GE(questions, 1); // a slow window may be pressed twice
@@ -67,7 +67,7 @@ TEST_F(UnsavedCode, NoCompilesNothingAndLeavesAll) {
     EXPECT_TRUE(component("frmHello")->IsDirty());
 }
 
-TEST_F(UnsavedCode, ClosingTheQuestionIsNoToo) {
+TEST_F(UnsavedCode, ClosingTheQuestionMeansNo) {
     type("' typed");
     answer([](QMessageBox& box) { press(box, "OK"); },
            [this](QDialog& form) {

@@ -24,7 +24,7 @@ TEST_F(Desktop, StartsEmpty) {
     EXPECT_EQ(menuItem("&File", "&Open Project...")->shortcut(), QKeySequence("Ctrl+O"));
 }
 
-TEST_F(Desktop, TheAddInKnowsAllProjectsOfAStart) {
+TEST_F(Desktop, TheAddInSeesAllProjectsOfTheStart) {
     bench->begin({sample("HelloWorld"), sample("AddressBook")});
     settle();
     for (const auto& one : bench->host().VBProjects()->items()) {
@@ -34,7 +34,7 @@ TEST_F(Desktop, TheAddInKnowsAllProjectsOfAStart) {
     }
 }
 
-TEST_F(Desktop, AStartWithAGroupIsOneWithItsProjects) {
+TEST_F(Desktop, AStartWithAGroupOpensItsProjects) {
     sample("HelloWorld");
     sample("AddressBook");
     bench->begin({folder.write("both.vbg", "VBGROUP 5.0\r\nStartupProject=HelloWorld\\HelloWorld.vbp\r\n"
@@ -114,7 +114,7 @@ TEST_F(Desktop, TypingLeavesTheExplorerAsTheUserArrangedIt) {
     EXPECT_EQ(window().explorer().currentItem()->text(0), "frmPerson (frmPerson.frm) *");
 }
 
-TEST_F(Desktop, ComponentsComeGoAndAreRenamed) {
+TEST_F(Desktop, ComponentsAreAddedRemovedAndRenamed) {
     openSample("HelloWorld");
     menuItem("&Project", "Add &Module")->trigger();
     settle();
@@ -131,7 +131,7 @@ TEST_F(Desktop, ComponentsComeGoAndAreRenamed) {
     EXPECT_EQ(window().code().count(), 0);
 }
 
-TEST_F(Desktop, AnErrorOfABuildLeadsToItsLine) {
+TEST_F(Desktop, AnErrorOfABuildOpensItsLine) {
     openSample("HelloWorld");
     auto& code = editor("frmHello");
     const int line = code.scintilla().lines();
@@ -152,14 +152,14 @@ TEST_F(Desktop, AnErrorOfABuildLeadsToItsLine) {
     EXPECT_EQ(code.scintilla().selectedText(), "Sub Broken(");
 }
 
-TEST_F(Desktop, AGoodBuildMakesTheImage) {
+TEST_F(Desktop, ASuccessfulBuildWritesTheImage) {
     openSample("HelloWorld");
     EXPECT_TRUE(compile().empty());
     EXPECT_THAT(window().findChild<QLabel*>("lblStatusText")->text().toStdString(), HasSubstr("SUCCESS"));
     EXPECT_TRUE(std::filesystem::exists(folder / "HelloWorld/HelloWorld.0000.qlx"));
 }
 
-TEST_F(Desktop, AProjectOfNoDeviceIsNotBuiltAndTheUserTold) {
+TEST_F(Desktop, AProjectWithoutADeviceIsNotBuilt) {
     open(test::SampleProject("Plain").module("modMain").writeTo(folder));
     EXPECT_THAT(carryOut("&Run", "&Start on Device"), ElementsAre(HasSubstr("Plain is not a Fernwick project")));
 }
@@ -194,7 +194,7 @@ TEST_F(Desktop, MenusFollowTheHostsModel) {
     EXPECT_FALSE(menuItem("&Fernwick", "&Zoom Window"));
 }
 
-TEST_F(Desktop, TheAddInsMenuStandsThereWithItsFaces) {
+TEST_F(Desktop, TheAddInsMenuHasItsFaces) {
     openSample("HelloWorld");
     auto* compile = menuItem("&Fernwick", "Compile and &Validate");
     ASSERT_TRUE(compile);
@@ -204,7 +204,7 @@ TEST_F(Desktop, TheAddInsMenuStandsThereWithItsFaces) {
     EXPECT_EQ(face.pixelColor(0, 0).alpha(), 0);
 }
 
-TEST_F(Desktop, SeparatorsStandWhereGroupsBegin) {
+TEST_F(Desktop, SeparatorsMarkGroups) {
     const auto edit = bench->host().CommandBars()->Item("Edit");
     int groups = 0, lines = 0;
     for (const auto& control : edit->Controls()->items()) groups += control->BeginGroup();
@@ -215,7 +215,7 @@ TEST_F(Desktop, SeparatorsStandWhereGroupsBegin) {
     EXPECT_EQ(lines, groups);
 }
 
-TEST_F(Desktop, AClickThatFailsIsToldInABox) {
+TEST_F(Desktop, AFailedCommandIsReportedInABox) {
     const auto file = bench->host().CommandBars()->Item("File");
     const auto item = file->Controls()->Add();
     item->Caption("Fail");
@@ -242,7 +242,7 @@ TEST_F(Desktop, RemovingAnUnsavedProjectAsks) {
     EXPECT_TRUE(explorerEntries().empty());
 }
 
-TEST_F(Desktop, ChangesThatAreGivenUpAreNotSavedAtTheClosing) {
+TEST_F(Desktop, DiscardedChangesAreNotSavedOnClosing) {
     openSample("HelloWorld");
     component("frmHello")->CodeModule()->InsertLines(1, "' lost");
     project()->WriteProperty("A", "key", "lost");
@@ -253,7 +253,7 @@ TEST_F(Desktop, ChangesThatAreGivenUpAreNotSavedAtTheClosing) {
     EXPECT_THAT(folder.read("HelloWorld/HelloWorld.vbp"), Not(HasSubstr("key=lost")));
 }
 
-TEST_F(Desktop, ChangesAreGivenUpOnlyWhenTheWindowCloses) {
+TEST_F(Desktop, ChangesAreDiscardedOnlyWhenTheWindowCloses) {
     openSample("HelloWorld");
     openSample("AddressBook");
     for (const auto& each : bench->host().VBProjects()->items()) each->WriteProperty("A", "key", "value");
@@ -278,7 +278,7 @@ TEST_F(Desktop, AFormOfAHandheldProjectGetsTheDevicesShape) {
     EXPECT_TRUE(window().design().forms().current());
 }
 
-TEST_F(Desktop, ANewProjectComesFromTheTemplateOfTheDeviceThatTheUserChooses) {
+TEST_F(Desktop, ANewProjectUsesTheTemplateOfTheChosenDevice) {
     bench->connect();
     test::whenShown([](QDialog& window) {
         window.findChild<QListWidget*>("lstQuickDesignTargets")->setCurrentRow(1);
@@ -322,7 +322,7 @@ TEST_F(Desktop, RecentProjectsOpenAgain) {
     EXPECT_EQ(project()->FileName(), path);
 }
 
-TEST_F(Desktop, AMissingProjectIsToldInABox) {
+TEST_F(Desktop, AMissingProjectIsReportedInABox) {
     test::whenShown<QMessageBox>([](QMessageBox& box) {
         EXPECT_THAT(box.text().toStdString(), HasSubstr("none.vbp"));
         box.button(QMessageBox::Ok)->click();
@@ -330,7 +330,7 @@ TEST_F(Desktop, AMissingProjectIsToldInABox) {
     bench->open(folder / "none.vbp");
 }
 
-TEST_F(Desktop, WhatCouldNotBeLoadedIsTold) {
+TEST_F(Desktop, LoadProblemsAreReported) {
     test::whenShown<QMessageBox>([](QMessageBox& box) {
         EXPECT_THAT(box.text().toStdString(), HasSubstr("gone.bas"));
         box.button(QMessageBox::Ok)->click();
@@ -339,7 +339,7 @@ TEST_F(Desktop, WhatCouldNotBeLoadedIsTold) {
     settle();
 }
 
-TEST_F(Desktop, LayoutAndThemeComeBack) {
+TEST_F(Desktop, LayoutAndThemeAreRestored) {
     window().resize(900, 500);
     window().explorerDock().setFloating(true);
     window().setTheme(workbench::Theme::Dark);
@@ -352,7 +352,7 @@ TEST_F(Desktop, LayoutAndThemeComeBack) {
     QSettings().clear();
 }
 
-TEST_F(Desktop, TheMessagesComeBackWhereTheyStood) {
+TEST_F(Desktop, TheMessagesDockIsRestored) {
     openSample("HelloWorld");
     auto* dock = window().findChild<QDockWidget*>("Fernwick Messages");
     dock->show();
@@ -368,7 +368,7 @@ TEST_F(Desktop, TheMessagesComeBackWhereTheyStood) {
     QSettings().clear();
 }
 
-TEST_F(Desktop, ItLooksAsTheDesktopDoesUntilTheUserChooses) {
+TEST_F(Desktop, FollowsTheDesktopsThemeUntilTheUserChooses) {
     QSettings().clear();
     window().saveLayout();
     workbench::apply(workbench::Theme::Dark); // as the desktop's palette is
@@ -384,7 +384,7 @@ TEST_F(Desktop, ItLooksAsTheDesktopDoesUntilTheUserChooses) {
     QSettings().clear();
 }
 
-/// Forms, in the same way.
+/// Pictures of the forms, for review.
 TEST_F(Desktop, FormsLookLikeTheirPictures) {
     openSample("HelloWorld");
     auto& form = bench->addIn().compileWarning;
@@ -400,7 +400,7 @@ TEST_F(Desktop, FormsLookLikeTheirPictures) {
     form.Unload();
 }
 
-/// One picture of the whole window for each theme, to be looked at.
+/// One picture of the whole window for each theme, for review.
 TEST_F(Desktop, LooksLikeItsPictures) {
     openSample("AddressBook");
     auto& code = editor("frmList");

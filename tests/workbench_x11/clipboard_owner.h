@@ -8,7 +8,7 @@ inline constexpr char kOwnedText[] = "copied elsewhere", kOwnedHtml[] = "<b>copi
 inline constexpr unsigned kOwnedColour = 0xff2a6fc9;
 inline constexpr int kOwnedSize = 24;
 
-/// Puts text, HTML and a picture on the clipboard, says so on its output, and stays.
+/// Puts text, HTML and a picture on the clipboard, prints that it is ready, and keeps running.
 int ownClipboard(int& argc, char** argv);
 
 } // namespace test

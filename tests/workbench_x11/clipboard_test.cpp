@@ -1,4 +1,4 @@
-// What another program has put on the clipboard survives the add-in's start, which needs the clipboard for its faces.
+// The clipboard's contents survive the add-in's start, which uses the clipboard for the faces of its buttons.
 #include "tests/workbench_x11/clipboard_owner.h"
 #include "tests/workbench_x11/x_desktop.h"
 #include <QCoreApplication>
@@ -20,7 +20,7 @@ struct SharedClipboard : XDesktop {
         owner.kill();
         owner.waitForFinished();
     }
-    /// As a third program gets it.
+    /// Reads the clipboard as a third program does.
     static QByteArray pasted(const QString& format) {
         QProcess reader;
         reader.start("xclip", {"-selection", "clipboard", "-o", "-t", format});
@@ -40,21 +40,21 @@ struct SharedClipboard : XDesktop {
 
 } // namespace
 
-TEST_F(SharedClipboard, AllItsFormatsAreThereAfterTheStart) {
+TEST_F(SharedClipboard, KeepsAllFormatsAfterTheStart) {
     expectAllOfIt();
     connect();
     expectAllOfIt();
 }
 
-TEST_F(SharedClipboard, ItStaysWithItsOwner) {
+TEST_F(SharedClipboard, StaysWithItsOwner) {
     connect();
     owner.kill();
     owner.waitForFinished();
     EXPECT_EQ(pasted("UTF8_STRING").toStdString(), "");
 }
 
-/// Ten seconds would be a hang; Qt itself asks an owner for five.
-TEST_F(SharedClipboard, AnOwnerThatHangsNeitherHangsTheStartNorLosesItsContents) {
+/// Ten seconds would be a hang; Qt itself waits five for an owner.
+TEST_F(SharedClipboard, AHangingOwnerNeitherBlocksTheStartNorLosesItsContents) {
     ::kill(pid_t(owner.processId()), SIGSTOP);
     connect();
     ::kill(pid_t(owner.processId()), SIGCONT);

@@ -22,7 +22,7 @@ void moveTo(QStringList& arguments, const QPoint& at) {
 
 QString plain(QString caption) { return caption.remove('&'); }
 
-/// Where to click, in the window that stands above all others.
+/// Where to click in the topmost window.
 std::optional<QPoint> buttonInDialog(const QStringList& names) {
     auto* const dialog = QApplication::activeModalWidget();
     if (!dialog || !dialog->isVisible()) return {};
@@ -33,13 +33,13 @@ std::optional<QPoint> buttonInDialog(const QStringList& names) {
     return {};
 }
 
-/// The words of the dialog that stands.
-std::string standing() {
+/// The text of the open dialog.
+std::string openDialog() {
     auto* const dialog = QApplication::activeModalWidget();
-    if (!dialog) return "no dialog stands";
+    if (!dialog) return "no open dialog";
     QString words = dialog->windowTitle();
     for (const auto* label : dialog->findChildren<QLabel*>()) words += " | " + label->text();
-    return "there stands: " + words.toStdString();
+    return "open dialog: " + words.toStdString();
 }
 
 } // namespace
@@ -50,7 +50,7 @@ void eventually(const std::string& expected, const std::function<bool()>& isSo) 
     QElapsedTimer waiting;
     waiting.start();
     while (!ask(isSo)) {
-        if (waiting.elapsed() > kMostWaiting) throw std::runtime_error("never: " + expected + "; " + ask(standing));
+        if (waiting.elapsed() > kMostWaiting) throw std::runtime_error("never: " + expected + "; " + ask(openDialog));
         QThread::msleep(kBetweenLooks);
     }
 }

@@ -1,5 +1,5 @@
 #pragma once
-// A user's hands and eyes: real events of mouse and keyboard, and looks at the window from its own thread.
+// Sends real mouse and keyboard events, and inspects the window from the test's thread.
 #include <QApplication>
 #include <QPoint>
 #include <QRect>
@@ -12,7 +12,7 @@ class QWidget;
 
 namespace test {
 
-/// Asks in the window's thread, wherever its loop turns.
+/// Runs a function in the window's thread and returns its result.
 template <class Question>
 auto ask(Question&& question) {
     using Answer = std::invoke_result_t<Question>;
@@ -26,26 +26,26 @@ auto ask(Question&& question) {
     }
 }
 
-/// Has the window's thread do something that may show a dialog; doesn't wait for its end.
+/// Runs a function that may show a dialog in the window's thread, without waiting for it.
 void begin(std::function<void()> act);
 
-/// Looks until it is so. After half a minute it fails with what was expected, and ends the test.
+/// Waits until a condition is true. Fails the test after half a minute.
 void eventually(const std::string& expected, const std::function<bool()>& isSo);
 
-/// The program that sends the events, with these arguments.
+/// Runs the program that sends events, with these arguments.
 void xdotool(const QStringList& arguments);
 
-/// Keys by their X names, "ctrl+s", one after the other; text as it is typed.
+/// Presses keys with these X names, such as "ctrl+s"; types a text.
 void press(const QStringList& keys);
 void type(const QString& text);
-/// Points of the screen.
+/// All points are in screen coordinates.
 void click(const QPoint& at);
 void doubleClick(const QPoint& at);
 void rightClick(const QPoint& at);
-/// With steps in between, as a hand does.
+/// Drags in several steps, as a user does.
 void drag(const QPoint& from, const QPoint& to);
 
-/// The middle of a part of a widget on the screen; of the whole without one.
+/// The centre of a part of a widget, or of the whole widget, on the screen.
 QPoint middleOf(QWidget& widget, const QRect& part = {});
 
 enum class With { Mouse, Keyboard };
@@ -53,8 +53,7 @@ struct Answer {
     With with;
     QStringList buttons;
 };
-/// Answers whatever dialogs with such buttons come, until it is so: by a click, or by Return where the button is the one
-/// that Return presses.
+/// Answers all dialogs with such buttons until a condition is true: by a click, or by Return for the default button.
 void answerUntil(const std::string& expected, const Answer& answer, const std::function<bool()>& isSo);
 
 } // namespace test

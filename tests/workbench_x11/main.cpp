@@ -1,5 +1,5 @@
-// Tests of the desktop on X. The program starts itself again on a display of its own; there, the window lives in the main
-// thread as always, and the tests are its user in another one: so they go on while a dialog stands.
+// Tests of the desktop on X. The program starts itself again on its own display. There the window runs in the main
+// thread and the tests in another one, so that they continue while a dialog is open.
 #include "tests/workbench/own_home.h"
 #include "tests/workbench_x11/clipboard_owner.h"
 #include <QApplication>
@@ -10,7 +10,7 @@
 
 namespace {
 
-/// Runs this program under the script that makes a display.
+/// Runs this program under the script that starts a display.
 int onDisplayOfItsOwn(int argc, char** argv) {
     std::string script = FERNWICK_SOURCE_DIR "/scripts/with-display";
     std::vector<char*> command{script.data()};

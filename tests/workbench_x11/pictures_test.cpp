@@ -1,4 +1,4 @@
-// The pictures of the README, from the real window: scripts/make-window-pictures lays them down.
+// The pictures of the README, taken from the real window by scripts/make-window-pictures.
 #include "tests/workbench_x11/x_desktop.h"
 #include <QScreen>
 
@@ -10,7 +10,7 @@ struct Pictures : XDesktop {
     Pictures() {
         ask([this] { window().resize(960, 600); });
     }
-    /// The part of the screen that the window takes.
+    /// The part of the screen that the window covers.
     QImage taken(const char* name) {
         const auto picture = ask([this] {
             const auto frame = window().frameGeometry();

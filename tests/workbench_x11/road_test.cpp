@@ -1,4 +1,4 @@
-// From an edit to the device, once by the mouse alone and once by the keyboard alone.
+// From an edit to the device, once with the mouse only and once with the keyboard only.
 #include "tests/workbench_x11/x_desktop.h"
 #include <QToolBar>
 #include <gmock/gmock.h>

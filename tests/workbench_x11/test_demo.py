@@ -15,7 +15,7 @@ class Demo(unittest.TestCase):
         return subprocess.run([ROOT / "scripts/demo", *arguments], capture_output=True, text=True, timeout=120,
                               stdin=subprocess.DEVNULL, env=known | environment, check=False)
 
-    def test_it_leaves_a_picture_of_the_window(self):
+    def test_it_writes_a_picture_of_the_window(self):
         with tempfile.TemporaryDirectory() as folder:
             picture = pathlib.Path(folder) / "window.png"
             done = self.run_demo("--window", "--picture", picture, "HelloWorld", TMPDIR=folder)
@@ -24,16 +24,16 @@ class Demo(unittest.TestCase):
             self.assertEqual(picture.read_bytes()[:8], b"\x89PNG\r\n\x1a\n")
             self.assertEqual(list(pathlib.Path(folder).iterdir()), [picture])  # nothing else is left
 
-    def test_without_a_display_it_says_so(self):
+    def test_without_a_display_it_fails(self):
         done = self.run_demo("--window")
         self.assertEqual(done.returncode, 3)
         self.assertIn("there is no display here", done.stderr)
 
-    def test_a_sample_that_is_none_is_told(self):
+    def test_an_unknown_sample_is_reported(self):
         done = self.run_demo("--window", "Nothing")
         self.assertEqual((done.returncode, done.stderr), (2, "no such sample: Nothing\n"))
 
-    def test_wrong_use_is_told(self):
+    def test_wrong_use_is_reported(self):
         self.assertEqual(self.run_demo("--picture", "x.png").returncode, 2)
         self.assertEqual(self.run_demo("--unknown").returncode, 2)
 

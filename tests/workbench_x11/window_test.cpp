@@ -1,4 +1,4 @@
-// The window as a user arranges it, and the program as the desktop starts it.
+// The window's layout, and the program as started by the desktop.
 #include "tests/workbench_x11/x_desktop.h"
 #include <QDockWidget>
 #include <QProcess>
@@ -22,7 +22,7 @@ struct Window : XDesktop {
     QPoint handleOf(const QString& name) {
         return ask([&] { return toolBar(name).mapToGlobal(QPoint(4, 4)); });
     }
-    /// As the user does, and starts again.
+    /// Closes the window and starts again.
     void restart() {
         choose("&File", "E&xit");
         eventually("the window is closed", [this] { return !window().isVisible(); });
@@ -45,14 +45,14 @@ TEST_F(Window, WithAProjectTheAddInsCommandsAreEnabled) {
     EXPECT_TRUE(ask([this] { return menu("&Fernwick")->actions().front()->isEnabled(); }));
 }
 
-TEST_F(Window, ToolbarsComeBackWhereTheUserDraggedThem) {
+TEST_F(Window, DraggedToolbarsAreRestored) {
     connect();
     drag(handleOf("Fernwick"), ask([this] { return window().mapToGlobal(QPoint(6, 300)); }));
     eventually("it is at the left", [this] { return bar("Fernwick").Position() == office::msoBarLeft; });
     drag(handleOf("Quinloft Utilities"), ask([this] { return window().mapToGlobal(QPoint(400, 350)); }));
     eventually("it floats", [this] { return bar("Quinloft Utilities").Position() == office::msoBarFloating; });
     const std::vector left{place("Fernwick"), place("Quinloft Utilities"), place("Standard")};
-    ask([this] { bench->addIn().toolbars.SaveAllToolbarState(); }); // as when a project goes
+    ask([this] { bench->addIn().toolbars.SaveAllToolbarState(); }); // as when a project closes
     restart();
     eventually("it floats again", [this] { return toolBar("Quinloft Utilities").isFloating(); });
     EXPECT_EQ((std::vector{place("Fernwick"), place("Quinloft Utilities"), place("Standard")}), left);
@@ -63,7 +63,7 @@ TEST_F(Window, ToolbarsComeBackWhereTheUserDraggedThem) {
     });
 }
 
-TEST_F(Window, ADockComesBackWhereTheUserDraggedIt) {
+TEST_F(Window, ADraggedDockIsRestored) {
     openSample("HelloWorld");
     const auto title = ask([this] { return window().explorerDock().mapToGlobal(QPoint(60, 8)); });
     drag(title, ask([this] { return window().mapToGlobal(QPoint(500, 400)); }));
@@ -72,7 +72,7 @@ TEST_F(Window, ADockComesBackWhereTheUserDraggedIt) {
     EXPECT_TRUE(ask([this] { return window().explorerDock().isFloating(); }));
 }
 
-TEST_F(Window, TheLetterOfTwoMenusReachesBoth) {
+TEST_F(Window, AMnemonicOfTwoMenusReachesBoth) {
     connect();
     std::set<QString> reached;
     for (int times = 0; times < 2; ++times) {
@@ -102,8 +102,8 @@ TEST_F(Window, CopiedCodeReachesOtherPrograms) {
     EXPECT_EQ(reader.readAllStandardOutput(), "Option Explicit");
 }
 
-/// The right button and then the keys.
-TEST_F(Window, TheExplorersMenuIsAboutItsEntry) {
+/// Opens it with the right button and chooses with the keyboard.
+TEST_F(Window, TheExplorersMenuActsOnItsEntry) {
     openSample("AddressBook");
     rightClick(explorerEntry("clsPerson (clsPerson.cls)"));
     eventually("a menu", [] { return QApplication::activePopupWidget() != nullptr; });
@@ -112,12 +112,12 @@ TEST_F(Window, TheExplorersMenuIsAboutItsEntry) {
                [this] { return window().code().current() && window().code().tabText(0) == "clsPerson"; });
 }
 
-TEST(Program, OpensTheProjectThatItIsGivenAndEndsWithItsWindow) {
+TEST(Program, OpensTheGivenProjectAndEndsWithItsWindow) {
     QProcess program;
     program.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     program.start(FERNWICK_WORKBENCH_PROGRAM, {FERNWICK_SOURCE_DIR "/samples/HelloWorld/HelloWorld.vbp"});
     xdotool({"search", "--sync", "--onlyvisible", "--name", "^HelloWorld - Fernwick Workbench$"});
-    // first whatever stands before the window
+    // first the dialogs in front of the window
     constexpr int kMostDialogs = 20, kBetween = 300;
     for (int closed = 0; closed < kMostDialogs && !program.waitForFinished(kBetween); ++closed) press({"alt+F4"});
     EXPECT_EQ(program.state(), QProcess::NotRunning);

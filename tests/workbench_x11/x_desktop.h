@@ -1,5 +1,5 @@
 #pragma once
-// The whole desktop on a display, with a user in front of it.
+// The whole desktop on a display, with a user's actions.
 #include "Apps/workbench/base/text.h"
 #include "Apps/workbench/code/scintilla.h"
 #include "Apps/workbench/window/workbench.h"
@@ -25,7 +25,7 @@ protected:
     }
     ~XDesktop() override {
         ask([this] {
-            // what a dialog's loop stands on can't go while it turns
+            // the objects below a dialog's loop must not be destroyed while it runs
             if (QApplication::activeModalWidget()) std::_Exit(1);
             for (const auto& project : bench->host().VBProjects()->items()) {
                 project->IsDirty(false);
@@ -35,7 +35,7 @@ protected:
         });
     }
 
-    /// Shows the window; the introduction doesn't come.
+    /// Shows the window without the introduction.
     void start() {
         ask([this] {
             workbench::apply(workbench::Theme::Light);
@@ -49,7 +49,7 @@ protected:
         begin([this] { bench->connect(); });
         eventually("the add-in's menu", [this] { return menu("&Fernwick") != nullptr; });
     }
-    /// A copy of it.
+    /// Copies a sample.
     void openSample(const std::string& name) {
         std::filesystem::copy(std::filesystem::path(FERNWICK_SOURCE_DIR) / "samples" / name, folder / name,
                               std::filesystem::copy_options::recursive);
@@ -99,7 +99,7 @@ protected:
             return found.isEmpty() ? QPoint() : middleOf(*tree.viewport(), tree.visualItemRect(found.front()));
         });
     }
-    /// The middle of the first occurrence of a word in the code that is shown.
+    /// The centre of the first occurrence of a word in the code that is shown.
     QPoint wordInCode(const char* word) {
         return ask([&] {
             auto& shown = *code();

@@ -9,7 +9,7 @@ constexpr char kResourceEditor[] = "ResEdit6.Connect";
 
 void Connect::IDTExtensibility_OnConnection(const Host& VBInst, vbide::vbext_ConnectMode ConnectMode,
                                             const basic::Ref<vbide::AddIn>& AddInInst) {
-    LastControlEventTime = services_.platform.clock.Now();
+    LastControlEventTime = services_.clock.Now();
     services_.devices.initDesignTargetMgr();
     services_.prefs.loadMyDevices();
 
@@ -25,7 +25,7 @@ void Connect::IDTExtensibility_OnConnection(const Host& VBInst, vbide::vbext_Con
     services_.references.SaveQuinloftClasses();
     if (ConnectMode != vbide::vbext_cm_External) buildInterface(here, VBInst, AddInInst);
     here([&] { services_.clipboard.RestoreClipboardData(); });
-    takeUpActiveProject(here, VBInst);
+    adoptActiveProject(here, VBInst);
     if (here.test([&] { return services_.prefs.GetStartTutorial(); }))
         here([&] { services_.gettingStarted.ShowModal(); });
 }
@@ -48,11 +48,11 @@ void Connect::buildMenu(Procedure& here, const Host& VBInst, const basic::Ref<vb
     if (here.test([&] { return !services_.menu.SetUpQuinloftMenu(VBInst); }))
         return failStart(here, connect_texts::kNoMenu, AddInInst);
     SetupMenuHandlers(VBInst);
-    meetSiblings(here, VBInst);
+    connectSiblings(here, VBInst);
 }
 
-/// Our own companions come up; the resource editor waits until the start is complete.
-void Connect::meetSiblings(Procedure& here, const Host& VBInst) {
+/// Connects our companions; the resource editor is disconnected until the start is complete.
+void Connect::connectSiblings(Procedure& here, const Host& VBInst) {
     for (const auto& sibling : here.value([&] { return VBInst->Addins()->items(); })) {
         const auto isCompanion = [&] {
             const std::string progId = sibling->ProgId();
@@ -68,15 +68,14 @@ void Connect::meetSiblings(Procedure& here, const Host& VBInst) {
 
 void Connect::failStart(Procedure& here, const char* step, const basic::Ref<vbide::AddIn>& AddInInst) {
     here([&] {
-        services_.platform.interaction.MsgBox(connect_texts::kFailedStepBefore + std::string(step) +
-                                                  connect_texts::kFailedStepAfter,
-                                              vbCritical, connect_texts::kTitle);
+        services_.user.MsgBox(connect_texts::kFailedStepBefore + std::string(step) + connect_texts::kFailedStepAfter,
+                              vbCritical, connect_texts::kTitle);
     });
     here([&] { AddInInst->Connect(false); });
 }
 
-/// Other open projects stay unknown until the host reports them.
-void Connect::takeUpActiveProject(Procedure& here, const Host& VBInst) {
+/// Other open projects are unknown until the host reports them.
+void Connect::adoptActiveProject(Procedure& here, const Host& VBInst) {
     if (here.test([&] { return VBInst->VBProjects()->Count() == 0; })) return disableInterface(here);
 
     const auto active = here.value([&] { return VBInst->ActiveVBProject(); });
@@ -113,7 +112,7 @@ void Connect::disableInterface(Procedure& here) {
     here([&] { services_.toolbars.DisableSupportToolbar(); });
 }
 
-/// The tool windows, the environment variable and the siblings stay as they are.
+/// The tool windows, the environment variable and the siblings are left unchanged.
 void Connect::IDTExtensibility_OnDisconnection(vbide::vbext_DisconnectMode) {
     Procedure here{services_.errors, "Connect.IDTExtensibility_OnDisconnection("
                                      "ByVal_RemoveMode_As_vbext_DisconnectMode,_custom"};

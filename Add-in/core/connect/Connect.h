@@ -1,6 +1,6 @@
 #pragma once
-// The add-in's entry object: what the host calls, and every event that the add-in listens to.
-#include "Add-in/commands/command_items.h"
+// The add-in's entry object: the operations that the host calls, and handlers for all events.
+#include "Add-in/commands/command_table.h"
 #include "Add-in/commands/frmAbout.h"
 #include "Add-in/commands/frmGettingStarted.h"
 #include "Add-in/commands/modClipboardManagement.h"
@@ -11,37 +11,51 @@
 #include "Add-in/core/settings_dialog.h"
 #include "Add-in/deploy/frmSendRuntimeToDevice.h"
 #include "Add-in/deploy/frmSendToDevice.h"
-#include "Add-in/lifecycle/ProjectSetup.h"
-#include "Add-in/lifecycle/SampleOpening.h"
+#include "Add-in/lifecycle/project_setup.h"
+#include "Add-in/lifecycle/sample_opening.h"
 #include <array>
 
 namespace fernwick {
 
+class Command;
 class Connect;
+
+/// Sinks and the items that they listen to, in the order in which they are assigned.
+struct SinkOfItem {
+    Command* sink;
+    CommandItems::Item CommandItems::*item;
+};
+using SinkTable = std::vector<SinkOfItem>;
 
 /// The sink of a menu item or button.
 class Command : public WithEvents<vbide::CommandBarEvents> {
 public:
     using Item = CommandItems::Item;
 
+    /// For a sink that is never assigned.
     explicit Command(Connect* owner) : WithEvents(owner) {}
-    Command(Connect* owner, void (Connect::*clicked)());
-    /// The clicked item tells what to do.
+    Command(Connect* owner, SinkTable& table, Item CommandItems::*item, void (Connect::*clicked)());
+    /// Starts a utility; a failure is reported under `location`.
+    Command(Connect* owner, SinkTable& table, Item CommandItems::*item, UtilityTool tool, const char* location);
+    /// For an item of one device: the handler takes the device from the clicked item.
     Command(Connect* owner, void (Connect::*clicked)(const Item& item));
-    /// Starts a utility; what goes wrong is reported under `location`.
-    Command(Connect* owner, UtilityTool tool, const char* location);
     using WithEvents::operator=;
 };
 
-/// What the connection stands on.
+/// The dependencies of the connection.
 struct ConnectServices {
-    Platform& platform;
     ErrorReport& errors;
+    Interaction& user;
+    EventLoop& loop;
+    FileSystemObject& files;
+    Shell& shell;
+    const Clock& clock;
+    const App& app;
     modAddinPrefsManagement& prefs;
     AddIn& addIn;
     modReferencesManagement& references;
     modDeviceManagement& devices;
-    DeviceServices deviceServices;
+    const DeviceServices& deviceServices;
     CommandItems& items;
     modClipboardManagement& clipboard;
     modMenuManagement& menu;
@@ -64,9 +78,13 @@ struct ConnectServices {
 };
 
 class Connect : public vbide::IDTExtensibility {
+    struct SinkTables {
+        SinkTable menu, download, utilities, samples, help, toolbar, supportToolbar;
+    } sinks_;
+
 public:
     using Host = basic::Ref<vbide::VBE>;
-    /// Later device items of a family stand in the menu and do nothing.
+    /// Further device items of a popup have no sink and do nothing.
     static constexpr int kDeviceSlots = 10;
 
     explicit Connect(const ConnectServices& services) : services_(services) {}
@@ -79,59 +97,91 @@ public:
     /// Assigns the sinks of the menu's items.
     void SetupMenuHandlers(const Host& VBInst);
 
-    // Main menu
-    Command QuinloftSettingsHandler{this, &Connect::QuinloftSettingsHandler_Click};
-    Command CompileProjectHandler{this, &Connect::CompileProjectHandler_Click};
-    Command ProjectManagerHandler{this, &Connect::ProjectManagerHandler_Click};
-    Command MakePackageAllDevices{this, &Connect::MakePackageAllDevices_Click};
-    Command DeployAllDevices{this, &Connect::DeployAllDevices_Click};
-    Command InstallVMAllDevices{this, &Connect::InstallVMAllDevices_Click};
-    Command DownloadVMHandler{this, &Connect::DownloadVMHandler_Click};
-    Command AddinOnlineHelpHandler{this, &Connect::AddinOnlineHelpHandler_Click};
-    Command AddinUsersGuideHandler{this, &Connect::AddinUsersGuideHandler_Click};
-    Command AboutHandler{this, &Connect::AboutHandler_Click};
-    Command ZoomWindowHandler{this, &Connect::ZoomWindowHandler_Click};
-    Command CompileErrorWindowHandler{this, &Connect::CompileErrorWindowHandler_Click};
+    // Each sink of the menu and the toolbars: its table, its item and its handler
+    Command QuinloftSettingsHandler{this, sinks_.menu, &CommandItems::gSettingsItem,
+                                    &Connect::QuinloftSettingsHandler_Click};
+    Command CompileProjectHandler{this, sinks_.menu, &CommandItems::gCompileItem,
+                                  &Connect::CompileProjectHandler_Click};
+    Command ProjectManagerHandler{this, sinks_.menu, &CommandItems::gOpenProjectItem,
+                                  &Connect::ProjectManagerHandler_Click};
+    Command MakePackageAllDevices{this, sinks_.menu, &CommandItems::gPackageAllItem,
+                                  &Connect::MakePackageAllDevices_Click};
+    Command DeployAllDevices{this, sinks_.menu, &CommandItems::gDeployAllItem, &Connect::DeployAllDevices_Click};
+    Command InstallVMAllDevices{this, sinks_.menu, &CommandItems::gInstallAllItem, &Connect::InstallVMAllDevices_Click};
+    Command DownloadVMHandler{this, sinks_.download, &CommandItems::gDownloadItem, &Connect::DownloadVMHandler_Click};
+    Command AddinOnlineHelpHandler{this, sinks_.help, &CommandItems::gWebItem, &Connect::AddinOnlineHelpHandler_Click};
+    Command AddinUsersGuideHandler{this, sinks_.help, &CommandItems::gGuideItem,
+                                   &Connect::AddinUsersGuideHandler_Click};
+    Command AboutHandler{this, sinks_.help, &CommandItems::gAboutItem, &Connect::AboutHandler_Click};
+    Command ZoomWindowHandler{this, sinks_.help, &CommandItems::gZoomItem, &Connect::ZoomWindowHandler_Click};
+    Command CompileErrorWindowHandler{this, sinks_.help, &CommandItems::gMessagesItem,
+                                      &Connect::CompileErrorWindowHandler_Click};
 
-    // Device slots: the clicked item's Tag tells the device
+    // Items of devices, one for each family
     std::array<Command, kDeviceSlots> MakePackageDevice{slots(&Connect::MakePackageHandler)};
     std::array<Command, kDeviceSlots> DeployDevice{slots(&Connect::DeployDeviceHandler)};
     std::array<Command, kDeviceSlots> InstallVMDevice{slots(&Connect::InstallVMForDevice)};
 
-    // Utilities menu. The viewer's reports have always come under the converter's name.
-    Command MenuDatabaseConverterHandler{this, kDatabaseConverter, "Connect.MenuDatabaseConverterHandler_Click"};
-    Command MenuDatabaseViewerHandler{this, kDatabaseViewer, "Connect.MenuDatabaseConverterHandler_Click"};
-    Command MenuFontConverterHandler{this, kFontConverter, "Connect.MenuFontConverterHandler_Click"};
-    Command MenuFontViewerHandler{this, kFontViewer, "Connect.MenuFontViewerHandler_Click"};
-    Command MenuGraphicsConverterHandler{this, kGraphicsConverter, "Connect.MenuGraphicsConverterHandler_Click"};
-    Command MenuGraphicsViewerHandler{this, kGraphicsViewer, "Connect.MenuGraphicsViewerHandler_Click"};
-    Command MenuMovieConverterHandler{this, kMovieConverter, "Connect.MenuMovieConverterHandler_Click"};
-    Command MenuMovieViewerHandler{this, kMovieViewer, "Connect.MenuMovieViewerHandler_Click"};
-    Command MenuWeirgateHandler{this, kWeirgateConfiguration, "Connect.MenuWeirgateHandler_Click"};
+    // Utilities. Failures of the viewer are reported under the converter's name, as they always were.
+    Command MenuDatabaseConverterHandler{this, sinks_.utilities, &CommandItems::gDatabaseConverterItem,
+                                         kDatabaseConverter, "Connect.MenuDatabaseConverterHandler_Click"};
+    Command MenuDatabaseViewerHandler{this, sinks_.utilities, &CommandItems::gDatabaseViewerItem, kDatabaseViewer,
+                                      "Connect.MenuDatabaseConverterHandler_Click"};
+    Command MenuFontConverterHandler{this, sinks_.utilities, &CommandItems::gFontConverterItem, kFontConverter,
+                                     "Connect.MenuFontConverterHandler_Click"};
+    Command MenuFontViewerHandler{this, sinks_.utilities, &CommandItems::gFontViewerItem, kFontViewer,
+                                  "Connect.MenuFontViewerHandler_Click"};
+    Command MenuGraphicsConverterHandler{this, sinks_.utilities, &CommandItems::gGraphicsConverterItem,
+                                         kGraphicsConverter, "Connect.MenuGraphicsConverterHandler_Click"};
+    Command MenuGraphicsViewerHandler{this, sinks_.utilities, &CommandItems::gGraphicsViewerItem, kGraphicsViewer,
+                                      "Connect.MenuGraphicsViewerHandler_Click"};
+    Command MenuMovieConverterHandler{this, sinks_.utilities, &CommandItems::gMovieConverterItem, kMovieConverter,
+                                      "Connect.MenuMovieConverterHandler_Click"};
+    Command MenuMovieViewerHandler{this, sinks_.utilities, &CommandItems::gMovieViewerItem, kMovieViewer,
+                                   "Connect.MenuMovieViewerHandler_Click"};
+    Command MenuWeirgateHandler{this, sinks_.utilities, &CommandItems::gWeirgateItem, kWeirgateConfiguration,
+                                "Connect.MenuWeirgateHandler_Click"};
 
     // Samples menu
-    Command SampleIntroHandler{this, &Connect::SampleIntroHandler_Click};
-    Command SampleHelloWorldHandler{this, &Connect::SampleHelloWorldHandler_Click};
-    Command SampleOpenSampleDirHandler{this, &Connect::SampleOpenSampleDirHandler_Click};
+    Command SampleIntroHandler{this, sinks_.samples, &CommandItems::gSampleIntroItem,
+                               &Connect::SampleIntroHandler_Click};
+    Command SampleHelloWorldHandler{this, sinks_.samples, &CommandItems::gSampleHelloItem,
+                                    &Connect::SampleHelloWorldHandler_Click};
+    Command SampleOpenSampleDirHandler{this, sinks_.samples, &CommandItems::gSampleDirItem,
+                                       &Connect::SampleOpenSampleDirHandler_Click};
 
     // Main toolbar
-    Command ToolQuinloftSettingsHandler{this, &Connect::ToolQuinloftSettingsHandler_Click};
-    Command ToolCompileProjectHandler{this, &Connect::ToolCompileProjectHandler_Click};
-    Command ToolDeployProjectHandler{this, &Connect::ToolDeployProjectHandler_Click};
-    Command ToolAddinUsersGuideHandler{this, &Connect::ToolAddinUsersGuideHandler_Click};
-    Command ToolZoomWindowHandler{this, &Connect::ToolZoomWindowHandler_Click};
-    Command ToolProjectManagerHandler{this, &Connect::ToolProjectManagerHandler_Click};
+    Command ToolQuinloftSettingsHandler{this, sinks_.toolbar, &CommandItems::gToolSettings,
+                                        &Connect::QuinloftSettingsHandler_Click};
+    Command ToolCompileProjectHandler{this, sinks_.toolbar, &CommandItems::gToolCompile,
+                                      &Connect::CompileProjectHandler_Click};
+    Command ToolDeployProjectHandler{this, sinks_.toolbar, &CommandItems::gToolDeploy,
+                                     &Connect::ToolDeployProjectHandler_Click};
+    Command ToolAddinUsersGuideHandler{this, sinks_.toolbar, &CommandItems::gToolGuide,
+                                       &Connect::AddinUsersGuideHandler_Click};
+    Command ToolZoomWindowHandler{this, sinks_.toolbar, &CommandItems::gToolZoom, &Connect::ZoomWindowHandler_Click};
+    Command ToolProjectManagerHandler{this, sinks_.toolbar, &CommandItems::gToolOpenProject,
+                                      &Connect::ProjectManagerHandler_Click};
 
     // Support toolbar
-    Command ToolDatabaseConverterHandler{this, kDatabaseConverter, "Connect.ToolDatabaseConverterHandler_Click"};
-    Command ToolDatabaseViewerHandler{this, kDatabaseViewer, "Connect.MenuDatabaseConverterHandler_Click"};
-    Command ToolFontConverterHandler{this, kFontConverter, "Connect.ToolFontConverterHandler_Click"};
-    Command ToolFontViewerHandler{this, kFontViewer, "Connect.ToolFontViewerHandler_Click"};
-    Command ToolGraphicsConverterHandler{this, kGraphicsConverter, "Connect.ToolGraphicsConverterHandler_Click"};
-    Command ToolGraphicsViewerHandler{this, kGraphicsViewer, "Connect.ToolGraphicsViewerHandler_Click"};
-    Command ToolMovieConverterHandler{this, kMovieConverter, "Connect.ToolMovieConverterHandler_Click"};
-    Command ToolMovieViewerHandler{this, kMovieViewer, "Connect.ToolMovieViewerHandler_Click"};
-    Command ToolWGConfigHandler{this, kWeirgateConfiguration, "Connect.ToolWGConfigHandler_Click"};
+    Command ToolDatabaseConverterHandler{this, sinks_.supportToolbar, &CommandItems::gToolDatabaseConverter,
+                                         kDatabaseConverter, "Connect.ToolDatabaseConverterHandler_Click"};
+    Command ToolDatabaseViewerHandler{this, sinks_.supportToolbar, &CommandItems::gToolDatabaseViewer, kDatabaseViewer,
+                                      "Connect.MenuDatabaseConverterHandler_Click"};
+    Command ToolFontConverterHandler{this, sinks_.supportToolbar, &CommandItems::gToolFontConverter, kFontConverter,
+                                     "Connect.ToolFontConverterHandler_Click"};
+    Command ToolFontViewerHandler{this, sinks_.supportToolbar, &CommandItems::gToolFontViewer, kFontViewer,
+                                  "Connect.ToolFontViewerHandler_Click"};
+    Command ToolGraphicsConverterHandler{this, sinks_.supportToolbar, &CommandItems::gToolGraphicsConverter,
+                                         kGraphicsConverter, "Connect.ToolGraphicsConverterHandler_Click"};
+    Command ToolGraphicsViewerHandler{this, sinks_.supportToolbar, &CommandItems::gToolGraphicsViewer, kGraphicsViewer,
+                                      "Connect.ToolGraphicsViewerHandler_Click"};
+    Command ToolMovieConverterHandler{this, sinks_.supportToolbar, &CommandItems::gToolMovieConverter, kMovieConverter,
+                                      "Connect.ToolMovieConverterHandler_Click"};
+    Command ToolMovieViewerHandler{this, sinks_.supportToolbar, &CommandItems::gToolMovieViewer, kMovieViewer,
+                                   "Connect.ToolMovieViewerHandler_Click"};
+    Command ToolWGConfigHandler{this, sinks_.supportToolbar, &CommandItems::gToolWGConfig, kWeirgateConfiguration,
+                                "Connect.ToolWGConfigHandler_Click"};
 
     // Kept in the interface; never assigned
     Command DeployPalmOSHandler{this};
@@ -144,7 +194,7 @@ public:
         on(&vbide::VBProjectsEvents::ItemRemoved, &Connect::ProjEventsHandler_ItemRemoved),
         on(&vbide::VBProjectsEvents::ItemRenamed, &Connect::ProjEventsHandler_ItemRenamed),
         on(&vbide::VBProjectsEvents::ItemActivated, &Connect::ProjEventsHandler_ItemActivated)};
-    // One project: that which was assigned last
+    // One project: the last one assigned
     WithEvents<vbide::VBComponentsEvents> CompsEventsHandler{
         this, on(&vbide::VBComponentsEvents::ItemAdded, &Connect::CompsEventsHandler_ItemAdded),
         on(&vbide::VBComponentsEvents::ItemRenamed, &Connect::CompsEventsHandler_ItemRenamed),
@@ -154,7 +204,7 @@ public:
         this, on(&vbide::ReferencesEvents::ItemAdded, &Connect::RefEventsHandler_ItemAdded)};
     WithEvents<vbide::FileControlEvents> FileControlHandler{
         this, on(&vbide::FileControlEvents::RequestWriteFile, &Connect::FileControlHandler_RequestWriteFile)};
-    // One form designer: that which was assigned last
+    // One form designer: the last one assigned
     WithEvents<vbide::VBControlsEvents> ControlsEventsHandler{this};
     // Build
     WithEvents<vbide::VBBuildEvents> BuildEventsHandler{
@@ -164,15 +214,15 @@ public:
     WithEvents<vbide::FileControlEvents> GlobalFileControlHandler{
         this, on(&vbide::FileControlEvents::BeforeLoadFile, &Connect::GlobalFileControlHandler_BeforeLoadFile)};
 
-    /// The resource editor was taken down at the start. Never cleared.
+    /// Whether the resource editor was disconnected at the start. Never reset.
     bool ResEditWasConnected = false;
     /// Nanoseconds since 1970.
     std::int64_t LastControlEventTime = 0;
-    /// A template project is queued for its reload, and has not arrived yet.
+    /// A template project is queued for reloading and has not been added yet.
     bool TemplateReloadPending = false;
-    /// A component is being replaced by its template, which must not be replaced in its turn.
+    /// A component is being replaced by its template, which must not be replaced itself.
     bool ComponentAddGuard = false;
-    /// The form that was selected last.
+    /// The form selected last.
     basic::Ref<vbide::VBComponent> SelectedForm;
 
 private:
@@ -184,9 +234,9 @@ private:
     std::array<Command, kDeviceSlots> slots(void (Connect::*clicked)(const Item& item));
     void buildInterface(Procedure& here, const Host& VBInst, const basic::Ref<vbide::AddIn>& AddInInst);
     void buildMenu(Procedure& here, const Host& VBInst, const basic::Ref<vbide::AddIn>& AddInInst);
-    void meetSiblings(Procedure& here, const Host& VBInst);
+    void connectSiblings(Procedure& here, const Host& VBInst);
     void failStart(Procedure& here, const char* step, const basic::Ref<vbide::AddIn>& AddInInst);
-    void takeUpActiveProject(Procedure& here, const Host& VBInst);
+    void adoptActiveProject(Procedure& here, const Host& VBInst);
     void watchSelectedForm(Procedure& here, const Host& VBInst);
     void watchProject(Procedure& here, const Project& project);
     void watchDesigner(const Component& form);
@@ -198,33 +248,29 @@ private:
     void SetupSupportToolbarHandlers(const Host& VBInst);
     void setupDeviceSlots(Procedure& here, const Host& VBInst);
     void wire(Procedure& here, const Host& VBInst, Command& sink, const Item& item);
+    void wireAll(Procedure& here, const Host& VBInst, const SinkTable& table);
 
     // Commands on the active project
     void CompileProjectHandler_Click();
-    void ToolCompileProjectHandler_Click() { CompileProjectHandler_Click(); }
     void ToolDeployProjectHandler_Click();
     void CompileErrorWindowHandler_Click();
     void QuinloftSettingsHandler_Click();
-    void ToolQuinloftSettingsHandler_Click() { QuinloftSettingsHandler_Click(); }
     basic::Ref<clsQLProject> activeProject();
-    // Commands on one device, which the item names. An error goes to the host.
+    // Commands for one device, taken from the item. Errors go to the host.
     void DeployDeviceHandler(const Item& item);
     void MakePackageHandler(const Item& item);
     void InstallVMForDevice(const Item& item);
-    // Commands on My Devices. An error goes to the host.
+    // Commands for My Devices. Errors go to the host.
     void DeployAllDevices_Click();
     void MakePackageAllDevices_Click();
     void InstallVMAllDevices_Click();
     bool hasMyDevices();
     void toMyDevices(const std::function<void(const std::string& device)>& act);
-    // Commands that lead elsewhere
+    // Other commands
     void ProjectManagerHandler_Click() { services_.features.notInThisBuild(); }
-    void ToolProjectManagerHandler_Click() { services_.features.notInThisBuild(); }
     void ZoomWindowHandler_Click();
-    void ToolZoomWindowHandler_Click() { ZoomWindowHandler_Click(); }
     void DownloadVMHandler_Click();
     void AddinUsersGuideHandler_Click();
-    void ToolAddinUsersGuideHandler_Click() { AddinUsersGuideHandler_Click(); }
     void AddinOnlineHelpHandler_Click();
     void AboutHandler_Click();
     void OpenUtility(UtilityTool tool, const char* location);
@@ -233,14 +279,14 @@ private:
     void SampleOpenSampleDirHandler_Click();
     void box(const char* text, int icon);
 
-    // Projects come and go
+    // Projects are added, removed, renamed and activated
     void ProjEventsHandler_ItemAdded(Project VBProject);
     void ProjEventsHandler_ItemRemoved(Project VBProject);
     void ProjEventsHandler_ItemRenamed(Project VBProject, const std::string& OldName);
     void ProjEventsHandler_ItemActivated(Project VBProject);
     void watchAddedProject(Procedure& here);
     void fitTemplate(Procedure& here, const QLProject& project);
-    void takeUpReloaded(Procedure& here, const QLProject& project);
+    void adoptReloaded(Procedure& here, const QLProject& project);
     void addFirstForm(Procedure& here, const QLProject& project);
     void refuseDevice(Procedure& here, const QLProject& project, const std::string& device);
     void closeAdded(Procedure& here, const Project& project);

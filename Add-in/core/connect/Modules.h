@@ -1,12 +1,12 @@
 #pragma once
-// The whole add-in, put together.
+// The composition root of the add-in.
 #include "Add-in/build/dependencies/modDependencyManagement.h"
 #include "Add-in/build/frmCompile.h"
 #include "Add-in/build/frmCompileWarning.h"
 #include "Add-in/build/frmValidate.h"
 #include "Add-in/build/messages/udocCompileMsgs.h"
 #include "Add-in/core/connect/Connect.h"
-#include "Add-in/core/connect/NotInThisBuild.h"
+#include "Add-in/core/connect/not_in_this_build.h"
 #include "Add-in/core/modAddInErrorManagement.h"
 #include "Add-in/deploy/frmSendRuntimeToDevice.h"
 #include "Add-in/deploy/frmSendToDevice.h"
@@ -14,7 +14,7 @@
 
 namespace fernwick {
 
-/// Takes the place of the add-in's own objects; a null pointer keeps the add-in's own.
+/// Objects that replace the add-in's own; null keeps the add-in's.
 struct ModuleOverrides {
     ErrorReport* errors = nullptr;
     SettingsDialog* settings = nullptr;
@@ -78,27 +78,40 @@ struct Modules {
     // lifecycle
     frmProjectRemoval removal{platform.interaction, platform.loop, addIn, projects, items, menu, errors};
     frmDesignTargetNormal chooseTarget{deviceServices};
-    ProjectSetup setup{{addIn, platform.loop, deviceServices, projects, save, messages, chooseTarget, removal, items,
-                        menu, toolbars, features}};
-    SampleOpening samples{{platform, errors, addIn, save, items}};
+    ProjectSetup setup{{errors, platform.interaction, platform.loop, addIn, devices, deviceServices, projects, save,
+                        messages, chooseTarget, removal, items, menu, toolbars, features}};
+    SampleOpening samples{
+        {errors, platform.interaction, platform.loop, platform.files, platform.app, addIn, save, items}};
     // on top
-    Connect connect{{platform,    errors,    prefs,    addIn,    references,     devices,  deviceServices,
-                     items,       clipboard, menu,     toolbars, gettingStarted, projects, messages,
-                     removal,     setup,     settings, features, install,        compile,  sendToDevice,
-                     sendRuntime, tools,     help,     about,    samples}};
+    Connect connect{{errors,         platform.interaction,
+                     platform.loop,  platform.files,
+                     platform.shell, platform.clock,
+                     platform.app,   prefs,
+                     addIn,          references,
+                     devices,        deviceServices,
+                     items,          clipboard,
+                     menu,           toolbars,
+                     gettingStarted, projects,
+                     messages,       removal,
+                     setup,          settings,
+                     features,       install,
+                     compile,        sendToDevice,
+                     sendRuntime,    tools,
+                     help,           about,
+                     samples}};
 
-    /// The document of the messages window; Nothing until the host has made it.
+    /// The document of the messages window; Nothing until the host has created it.
     basic::Ref<udocCompileMsgs> compileMsgs() const;
 
 private:
     basic::Ref<Object> newCompileMsgs();
 
-    /// What the host made for its tool windows, which stay with it.
+    /// Documents of the host's tool windows, which own them.
     std::vector<std::weak_ptr<udocCompileMsgs>> documents_;
     std::shared_ptr<void> compileMsgsClass_;
 };
 
-/// The add-in as the host holds it: the modules live as long as the answer does.
+/// The add-in as the host owns it: the modules live as long as the returned reference.
 basic::Ref<vbide::IDTExtensibility> asAddIn(const std::shared_ptr<Modules>& modules);
 
 } // namespace fernwick

@@ -1,5 +1,5 @@
 #pragma once
-// What users read while the add-in starts and projects are loaded.
+// Texts shown while the add-in starts and projects are loaded.
 
 namespace fernwick::connect_texts {
 
@@ -7,13 +7,13 @@ inline constexpr char kTitle[] = "Fernwick";
 inline constexpr char kNoMenu[] = "Could not add Fernwick Tools menu;";
 inline constexpr char kNoToolbar[] = "Could not add Fernwick Toolbar;";
 inline constexpr char kNoSupportToolbar[] = "Could not add Quinloft Converters and Viewers Toolbar;";
-/// Around the step that failed.
+/// Before and after the step that failed.
 inline constexpr char kFailedStepBefore[] = "ERROR!\r\n\r\n";
 inline constexpr char kFailedStepAfter[] = "\r\nFailing to install Fernwick Add-In";
 
 inline constexpr char kNotInThisBuild[] = "This command is not in this build of Fernwick.";
 
-/// Around the device's key.
+/// Before and after the device's key.
 inline constexpr char kTypeNotSupportedBefore[] = "This component type is not supported on ";
 inline constexpr char kTypeNotSupportedAfter[] = " devices";
 
@@ -28,14 +28,13 @@ inline constexpr char kDownload[] =
 inline constexpr char kNoUtility[] = "Could Not Launch Converter/Viewer;\r\n"
                                      "Application is missing or not in default location.\r\n\r\n"
                                      "The Viewers and Converters can be found on the Quinloft website.";
-/// The wording of this one and the samples' is known to users of the product as it stands.
-inline constexpr char kNoConfiguration[] =
-    "Could Launch Weirgate Configuration;\r\nApplication is missing or not in default location.";
+inline constexpr char kNoConfiguration[] = "Could Launch Weirgate Configuration;\r\n" // sic
+                                           "Application is missing or not in default location.";
 
 inline constexpr char kNoTutorial[] = "Error finding Fernwick Hello World Tutorial.";
 inline constexpr char kNoSamplesDir[] = "Error getting Fernwick samples directory.";
-inline constexpr char kSamplesDirMissing[] =
-    "Could get open the samples directory;\r\nQuinloft Samples are located on the Quinloft website..";
+inline constexpr char kSamplesDirMissing[] = "Could get open the samples directory;\r\n"               // sic
+                                             "Quinloft Samples are located on the Quinloft website.."; // sic
 
 inline constexpr char kOldProjectTitle[] = "Warning: Pre Quinloft Fernwick 3.5 Project";
 inline constexpr char kOldProject[] =

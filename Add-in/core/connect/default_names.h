@@ -1,10 +1,10 @@
 #pragma once
-// Whether a component still has the name that the host gave it.
+// Whether a component still has the host's default name: a word in any letter case and a number.
 #include "Add-in/platform/host_project.h"
 
 namespace fernwick {
 
-/// "Form1": a form, and a number behind the word, whose letter case is ignored.
+/// "Form1": a form.
 bool IsDefaultFormName(const vbide::VBComponent& component);
 /// "Module1": a standard module.
 bool IsDefaultModuleName(const vbide::VBComponent& component);

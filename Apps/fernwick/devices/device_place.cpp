@@ -1,7 +1,7 @@
 #include "Apps/fernwick/devices/device_place.h"
 #include "Basic/case_folding.h"
-#include "Components/QLPipe/bundle.h"
-#include "Components/QLPipe/installer.h"
+#include "Components/QLPipe/package/bundle.h"
+#include "Components/QLPipe/package/installer.h"
 
 namespace cli {
 
@@ -9,7 +9,7 @@ namespace {
 
 using qlpipe::DeviceStorage;
 
-/// "" for none; the next transfer puts a damaged one right.
+/// "" for none. A damaged runtime is replaced by the next transfer.
 std::string runtimeVersion(DeviceStorage& storage) {
     if (!qlpipe::hasRuntime(storage)) return {};
     try {
@@ -38,7 +38,7 @@ DevicePlace placeOfDevice(Machine& machine, const std::string& key, const std::s
     const auto* family = pipeFamilyOf(pipe);
     DevicePlace place;
     if (!family || !family->open) {
-        place.problem = "nothing can be sent to devices of " + pipe;
+        place.problem = "the pipe " + pipe + " cannot send anything";
         return place;
     }
     try {

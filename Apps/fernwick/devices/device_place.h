@@ -8,22 +8,22 @@
 namespace cli {
 
 struct DevicePlace {
-    /// A folder, or "user@host:folder"; "" for a device that can't be reached.
+    /// A folder, or "user@host:folder"; "" if the device cannot be reached.
     std::string location;
-    /// Version of the runtime that is installed there; "" for none.
+    /// Version of the installed runtime; "" for none.
     std::string runtime;
-    /// Bytes; -1 where the device doesn't tell.
+    /// -1 if unknown.
     std::int64_t freeBytes = -1;
-    /// Why it can't be reached, and what to do; "" for one that can.
+    /// Why the device cannot be reached, and what to do; "" if it can.
     std::string problem;
-    /// That message's number; 0 for none.
+    /// The number of that message; 0 for none.
     std::int32_t problemNumber = 0;
 };
 
-/// The family that a design target's pipe serves; null for a pipe that is none of the shipped ones.
+/// Returns the device family of a pipe; null for a pipe that is not part of Fernwick.
 const qlpipe::PipeFamily* pipeFamilyOf(const std::string& pipe);
 
-/// Asks the device itself, which may be a network away. `pipe` is the ProgID that its design target names.
+/// Queries the device, possibly over the network. `pipe` is the ProgID in its design target.
 DevicePlace placeOfDevice(Machine& machine, const std::string& key, const std::string& pipe);
 
 } // namespace cli

@@ -15,7 +15,7 @@ std::string reasonOf(const DeviceOutcome& outcome) {
         if (reason.empty() && message.isError) reason = message.text;
     for (const auto& box : outcome.boxes)
         if (reason.empty() && box.critical) reason = box.text;
-    return reason.empty() ? "it did not finish" : reason.substr(0, reason.find_first_of("\r\n"));
+    return reason.empty() ? "the transfer did not finish" : reason.substr(0, reason.find_first_of("\r\n"));
 }
 
 bool isSuccess(fernwick::RunStatus status) {
@@ -66,13 +66,13 @@ void printTable(const Report& report, const std::string& done, Console& console)
 std::vector<std::string> devicesToServe(Session& session, const Options& options, const std::string& own) {
     if (options.myDevices) {
         const auto& devices = session.addIn().prefs.gMyDevices;
-        if (devices.empty()) throw Refusal(kWrongUse, "My Devices is empty; fernwick devices add KEY fills it");
+        if (devices.empty()) throw Refusal(kWrongUse, "My Devices is empty; add devices with fernwick devices add KEY");
         return devices;
     }
     const auto& device = options.device.empty() ? own : options.device;
     if (device.empty())
-        throw Refusal(kWrongUse, "which device? --device KEY names one (fernwick targets lists them), --my-devices "
-                                 "takes all of My Devices");
+        throw Refusal(kWrongUse, "no device given; choose one with --device KEY (see fernwick targets), or all of My "
+                                 "Devices with --my-devices");
     requireUsableDevice(session, device);
     return {device};
 }
@@ -100,9 +100,9 @@ void printOutcomes(const Report& report, const std::string& done, bool list, con
         printMessages(outcome.messages, report.project.empty() ? outcome.device : report.project, console);
     if (list) return printTable(report, done, console);
     const auto& outcome = report.devices.front();
-    // a run that ended early leaves the words of the last good one
-    const bool boasts = !outcome.good && outcome.statusIsSuccess;
-    if (!outcome.statusText.empty() && !boasts) console.out(outcome.statusText + "\n");
+    // a run that ended early still shows the status of the compile
+    const bool isOutdated = !outcome.good && outcome.statusIsSuccess;
+    if (!outcome.statusText.empty() && !isOutdated) console.out(outcome.statusText + "\n");
     if (outcome.good && options.verbosity != Verbosity::Quiet) printPlaces(outcome, done, console);
     if (!outcome.good) console.err(fmt::format("fernwick: {}: {}", outcome.device, outcome.reason), Tone::Error);
 }

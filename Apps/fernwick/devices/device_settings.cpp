@@ -2,7 +2,7 @@
 #include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/options/refusal.h"
 #include "Basic/case_folding.h"
-#include "Components/QLPipe/device_storage.h"
+#include "Components/QLPipe/base/device_storage.h"
 #include <fmt/format.h>
 
 namespace cli {
@@ -12,7 +12,7 @@ namespace {
 using qlpipe::kLinuxHandheldSettings;
 using qlpipe::LinuxHandheldSettings;
 
-/// The one family whose devices are reached over a network.
+/// Only Linux handhelds are reached over a network.
 bool isReachedBySsh(const std::string& pipe) { return basic::equalNoCase(pipe, "QLPipeLinux"); }
 
 std::string knownSettingNames() {
@@ -24,16 +24,16 @@ std::string knownSettingNames() {
 void assign(LinuxHandheldSettings& settings, const std::string& assignment) {
     const auto equals = assignment.find('=');
     if (equals == assignment.npos)
-        throw Refusal(kWrongUse, fmt::format("devices set takes NAME=VALUE, not {}", assignment));
+        throw Refusal(kWrongUse, fmt::format("devices set expects NAME=VALUE, not {}", assignment));
     const auto name = assignment.substr(0, equals), value = assignment.substr(equals + 1);
     if (std::any_of(value.begin(), value.end(), [](unsigned char c) { return c < ' '; }))
-        throw Refusal(kWrongUse, fmt::format("{}: a value has no control characters", name));
+        throw Refusal(kWrongUse, fmt::format("{}: values must not contain control characters", name));
     for (const auto& setting : kLinuxHandheldSettings) {
         if (!basic::equalNoCase(setting.name, name)) continue;
         settings.*setting.value = value;
         return;
     }
-    throw Refusal(kWrongUse, fmt::format("no setting {}; known: {}", name, knownSettingNames()));
+    throw Refusal(kWrongUse, fmt::format("unknown setting {}; the settings are {}", name, knownSettingNames()));
 }
 
 } // namespace
@@ -56,7 +56,7 @@ DeviceSettings readDeviceSettings(fernwick::Registry& registry, const std::strin
 void changeDeviceSettings(fernwick::Registry& registry, const std::string& key, const std::string& pipe,
                           const std::vector<std::string>& assignments) {
     if (!isReachedBySsh(pipe))
-        throw Refusal(kWrongUse, fmt::format("{} has no settings: its devices are folders on this machine", key));
+        throw Refusal(kWrongUse, fmt::format("{} has no settings: its devices are folders on this computer", key));
     auto settings = qlpipe::readUserSettings(registry, key);
     const auto before = settings;
     for (const auto& assignment : assignments) assign(settings, assignment);

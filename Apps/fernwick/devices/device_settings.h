@@ -1,5 +1,5 @@
 #pragma once
-// How a device is reached, as the user says it for all projects.
+// How a device is reached: the user's settings for all projects.
 #include "Add-in/platform/registry.h"
 #include "Components/QLPipe/linux_handheld/linux_handheld_settings.h"
 #include <string>
@@ -8,20 +8,19 @@
 
 namespace cli {
 
-/// Name and value; "" for a value that is not set.
+/// Names and values; "" for a setting without a value.
 using DeviceSettings = std::vector<std::pair<std::string, std::string>>;
 
-/// The settings of a device in their order; none for a device that is reached without any. `pipe` is the ProgID that its
-/// design target names.
+/// Returns the settings of a device; none if its family has no settings. `pipe` is the ProgID in its design target.
 DeviceSettings readDeviceSettings(fernwick::Registry& registry, const std::string& key, const std::string& pipe);
 
-/// Stores assignments "NAME=VALUE"; an empty value takes the setting away. Nothing is stored when one of them can't be
-/// meant. Refusals: an unknown name or a bad value (2), a store that can't be written (3).
+/// Stores assignments "NAME=VALUE"; an empty value removes the setting. Stores nothing if one of them is invalid.
+/// Refusals: an unknown name or an invalid value (2), a store that cannot be written (3).
 void changeDeviceSettings(fernwick::Registry& registry, const std::string& key, const std::string& pipe,
                           const std::vector<std::string>& assignments);
 
-/// Refusal 2 for settings of a Linux handheld that can't be meant: they are told to be wrong where they are set, not
-/// where a transfer fails. The host may come later.
+/// Refusal 2 for invalid settings of a Linux handheld, so that mistakes are reported when they are made, not by a
+/// transfer. The host may still be missing.
 void requireMeantSettings(qlpipe::LinuxHandheldSettings settings, const std::string& key);
 
 } // namespace cli

@@ -9,7 +9,7 @@ namespace cli {
 
 namespace {
 
-/// As the add-in decides it, but without a report for a pipe that can't be made.
+/// The add-in's rule, but without an error report if the pipe cannot be created.
 bool isUsable(Machine& machine, const designtargetaccess::IQLDesignTarget& target) {
     bool supported = false;
     (void)basic::attempt([&] {

@@ -4,7 +4,7 @@
 #include "Apps/fernwick/devices/device_place.h"
 #include "Apps/fernwick/doctor/findings.h"
 #include "Components/DesignTargetAccess/design_target_mgr.h"
-#include "Components/QLPipe/runtime_bundle.h"
+#include "Components/QLPipe/package/runtime_bundle.h"
 #include <fmt/format.h>
 
 namespace cli {
@@ -14,33 +14,32 @@ namespace {
 using designtargetaccess::DesignTargetMgr;
 using designtargetaccess::IQLDesignTarget;
 
-/// Why an object of the class can't be made; "" when it can.
+/// Returns why an object of the class cannot be created; "" if it can.
 template <class T>
-std::string unmakeable(Machine& machine, const std::string& progId, basic::Ref<T>& made) {
+std::string creationProblem(Machine& machine, const std::string& progId, basic::Ref<T>& made) {
     const auto err = basic::attempt([&] { made = basic::cast<T>(machine.classes().CreateObject(progId)); });
     if (err.Number != 0) return err.Description;
-    return made ? std::string() : progId + " is something else";
+    return made ? std::string() : progId + " does not have the expected interface";
 }
 
 std::string targetSubject(const IQLDesignTarget& target) { return "target " + target.Key(); }
 
-/// Cures of a target's faults are edits of its file.
 std::string correctTarget(const char* what) {
-    return fmt::format("Correct {} in its file in targets/, or install Fernwick again.", what);
+    return fmt::format("Correct {} in its file in targets/, or reinstall Fernwick.", what);
 }
 
 std::string pipeProblem(Machine& machine, const IQLDesignTarget& target) {
     basic::Ref<qlpipe::IQLPipeValidation> validation;
     const auto pipe = target.RequiredPipeProgID();
-    const auto problem = unmakeable(machine, pipe + ".Validation", validation);
-    if (!problem.empty()) return fmt::format("its pipe {} can't be made: {}", pipe, problem);
+    const auto problem = creationProblem(machine, pipe + ".Validation", validation);
+    if (!problem.empty()) return fmt::format("its pipe {} cannot be created: {}", pipe, problem);
     bool supported = false;
     const auto err = basic::attempt([&] { supported = validation->IsDeviceSupported(target.Key()); });
     if (err.Number != 0) return fmt::format("its pipe {} fails: {}", pipe, err.Description);
-    if (!supported) return fmt::format("its pipe {} doesn't serve it", pipe);
+    if (!supported) return fmt::format("its pipe {} does not support it", pipe);
     basic::Ref<qlpipe::IQLPipe> transfer;
-    const auto unsendable = unmakeable(machine, pipe + ".Pipe", transfer);
-    return unsendable.empty() ? unsendable : fmt::format("nothing can be sent by its pipe {}: {}", pipe, unsendable);
+    const auto unsendable = creationProblem(machine, pipe + ".Pipe", transfer);
+    return unsendable.empty() ? unsendable : fmt::format("its pipe {} cannot send anything: {}", pipe, unsendable);
 }
 
 std::string missingTemplate(Machine& machine, const IQLDesignTarget& target) {
@@ -59,7 +58,7 @@ std::string unregisteredTavlets(Machine& machine, const IQLDesignTarget& target)
     return names;
 }
 
-/// What the installation puts on the target's devices: its version, or what is wrong with it.
+/// The runtime for the target's devices: its version, or what is wrong with it.
 struct ShippedRuntime {
     std::string version, problem;
 };
@@ -75,7 +74,7 @@ ShippedRuntime shippedRuntime(Machine& machine, const IQLDesignTarget& target) {
 void examineTarget(Machine& machine, const IQLDesignTarget& target, Findings& to) {
     const auto subject = targetSubject(target);
     if (target.PlatformName().empty() || target.RequiredPipeProgID().empty()) {
-        to.push_back(goodFinding(subject, "is not offered: it has no platform or no pipe"));
+        to.push_back(goodFinding(subject, "is not offered, because it has no platform or no pipe"));
         return;
     }
     const auto before = to.size();
@@ -85,12 +84,12 @@ void examineTarget(Machine& machine, const IQLDesignTarget& target, Findings& to
         to.push_back(
             troubleFinding(subject, fmt::format("its template {} is missing", path), correctTarget("the name")));
     if (const auto names = unregisteredTavlets(machine, target); !names.empty())
-        to.push_back(troubleFinding(subject, "controls that are not registered: " + names,
-                                    "Install Fernwick again: registry/tavlets.reg registers them."));
+        to.push_back(troubleFinding(subject, "these controls are not registered: " + names,
+                                    "Reinstall Fernwick: registry/tavlets.reg registers them."));
     const auto runtime = shippedRuntime(machine, target);
     if (!runtime.problem.empty())
         to.push_back(
-            troubleFinding(subject, runtime.problem, "Install Fernwick again: VB Toolkit/Runtime has the runtimes."));
+            troubleFinding(subject, runtime.problem, "Reinstall Fernwick: the runtimes are in VB Toolkit/Runtime."));
     if (to.size() == before)
         to.push_back(
             goodFinding(subject, fmt::format("pipe {}, runtime {}", target.RequiredPipeProgID(), runtime.version)));
@@ -100,21 +99,21 @@ void examineTarget(Machine& machine, const IQLDesignTarget& target, Findings& to
 
 void examineCompiler(Machine& machine, Findings& to) {
     basic::Ref<qltoolkit::CompilerFactory> factory;
-    auto problem = unmakeable(machine, "QLToolkit.CompilerFactory", factory);
+    auto problem = creationProblem(machine, "QLToolkit.CompilerFactory", factory);
     if (problem.empty()) problem = basic::attempt([&] { (void)factory->CreateCompiler(); }).Description;
     to.push_back(problem.empty() ? goodFinding("compiler", "QLToolkit")
-                                 : troubleFinding("compiler", problem, "Install Fernwick again."));
+                                 : troubleFinding("compiler", problem, "Reinstall Fernwick."));
 }
 
 void examineTargets(Machine& machine, Findings& to) {
     DesignTargetMgr targets{machine.installation()};
     targets.Initialize();
     for (const auto& problem : targets.problems())
-        to.push_back(troubleFinding("target file", problem.text(), "Correct the line, or install the file again."));
+        to.push_back(troubleFinding("target file", problem.text(), "Correct the line, or reinstall the file."));
     for (std::int16_t i = 0; i < targets.Count(); ++i) examineTarget(machine, *targets.GetDesignTargetByIndex(i), to);
     if (targets.Count() == 0)
-        to.push_back(troubleFinding("targets", "none is installed",
-                                    "Install Fernwick again: without a design target nothing can be compiled."));
+        to.push_back(troubleFinding("targets", "none are installed",
+                                    "Reinstall Fernwick: without a design target nothing can be compiled."));
 }
 
 } // namespace cli

@@ -1,4 +1,4 @@
-// The devices that the user's projects go to.
+// The user's devices.
 #include "Add-in/core/connect/Modules.h"
 #include "Apps/fernwick/devices/device_place.h"
 #include "Apps/fernwick/devices/my_devices.h"
@@ -17,12 +17,12 @@ std::string placeWords(const DevicePlace& place) {
     return words + (place.runtime.empty() ? ", no runtime" : ", runtime " + place.runtime);
 }
 
-std::string cureOfAbsent(const DeviceRow& row, const DevicePlace& place) {
+std::string fixForAbsent(const DeviceRow& row, const DevicePlace& place) {
     const auto* message = messageNumbered(place.problemNumber);
     return message ? std::string(message->remedy) : fmt::format("fernwick devices remove {}", row.key);
 }
 
-/// A device that the user did not choose need not be there.
+/// Only devices in My Devices have to be available.
 Finding::State stateOfAbsent(const DeviceRow& row) {
     return row.isMine ? Finding::State::Trouble : Finding::State::Warning;
 }
@@ -30,10 +30,10 @@ Finding::State stateOfAbsent(const DeviceRow& row) {
 Finding findingOfDevice(Machine& machine, const DeviceRow& row) {
     const auto subject = "device " + row.key;
     if (!row.isUsable)
-        return troubleFinding(subject, "is in My Devices, but its design target is not usable here",
+        return troubleFinding(subject, "is in My Devices, but its design target is not usable",
                               fmt::format("fernwick devices remove {}", row.key));
     const auto place = placeOfDevice(machine, row.key, row.pipe);
-    if (!place.problem.empty()) return {stateOfAbsent(row), subject, place.problem, cureOfAbsent(row, place)};
+    if (!place.problem.empty()) return {stateOfAbsent(row), subject, place.problem, fixForAbsent(row, place)};
     if (place.runtime.empty())
         return warningFinding(subject, placeWords(place), fmt::format("fernwick install-runtime --device {}", row.key));
     return goodFinding(subject, placeWords(place));

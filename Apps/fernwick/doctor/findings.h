@@ -1,30 +1,28 @@
 #pragma once
-// What `doctor` looks at, and what it finds.
+// The examinations of `doctor` and their findings.
 #include "Apps/fernwick/run/machine.h"
 #include <string>
 #include <vector>
 
 namespace cli {
 
-/// One thing that runs stand on.
 struct Finding {
     enum class State {
         Good,
-        Warning, ///< usable, with something to know
+        Warning, ///< usable, with restrictions
         Trouble, ///< not usable
     };
     State state = State::Good;
     std::string subject;
-    /// What was found.
     std::string detail;
-    /// What sets it right, in one line; "" for a good one.
-    std::string cure;
+    /// How to fix it, in one line; "" for a good finding.
+    std::string fix;
 };
 
 using Findings = std::vector<Finding>;
 
-// The examinations. Each adds what it finds, good things too. They write nothing, but a device's folder that is not there
-// is made when it is looked for.
+// Each examination adds its findings, also good ones. They write nothing, except that the missing folder of a simulated
+// device is created.
 void examineInstallation(Machine& machine, Findings& to);
 void examineStores(Machine& machine, Findings& to);
 void examineCompiler(Machine& machine, Findings& to);
@@ -35,11 +33,11 @@ void examineDevices(Machine& machine, Findings& to);
 inline Finding goodFinding(std::string subject, std::string detail) {
     return {Finding::State::Good, std::move(subject), std::move(detail), {}};
 }
-inline Finding warningFinding(std::string subject, std::string detail, std::string cure) {
-    return {Finding::State::Warning, std::move(subject), std::move(detail), std::move(cure)};
+inline Finding warningFinding(std::string subject, std::string detail, std::string fix) {
+    return {Finding::State::Warning, std::move(subject), std::move(detail), std::move(fix)};
 }
-inline Finding troubleFinding(std::string subject, std::string detail, std::string cure) {
-    return {Finding::State::Trouble, std::move(subject), std::move(detail), std::move(cure)};
+inline Finding troubleFinding(std::string subject, std::string detail, std::string fix) {
+    return {Finding::State::Trouble, std::move(subject), std::move(detail), std::move(fix)};
 }
 
 } // namespace cli

@@ -1,4 +1,4 @@
-// The converted fonts, and those that projects of a target begin with.
+// The converted fonts, and the default font of each target.
 #include "Add-in/build/dependencies/font_folder.h"
 #include "Add-in/core/modQLInstallInfo.h"
 #include "Apps/fernwick/doctor/findings.h"
@@ -20,11 +20,11 @@ std::string faceWords(const FontFace& face) {
     return fmt::format("{} {}{}", face.name, face.size, style);
 }
 
-/// "" for a file that holds a font.
+/// "" if the file contains a font.
 std::string fontProblem(const fernwick::FileSystemObject& files, const std::string& path) {
     const auto face = fernwick::CheckFontFile(files, path);
-    if (!face) return "can't be read";
-    return face->name.empty() || face->size <= 0 ? "is no converted font" : std::string();
+    if (!face) return "cannot be read";
+    return face->name.empty() || face->size <= 0 ? "is not a converted font" : std::string();
 }
 
 void examineFontFiles(const fernwick::FileSystemObject& files, const std::string& folder, Findings& to) {
@@ -61,8 +61,9 @@ void examineDefaultFonts(Machine& machine, const std::string& folder, Findings& 
         if (const auto path = fonts.find(face); !path.empty())
             to.push_back(goodFinding(subject, fmt::format("{}: {}", faceWords(face), path)));
         else
-            to.push_back(warningFinding(subject, fmt::format("{} is not converted: compiles warn", faceWords(face)),
-                                        fmt::format("Convert it with the Font Converter into {}.", folder)));
+            to.push_back(warningFinding(
+                subject, fmt::format("{} has not been converted; compiling gives a warning", faceWords(face)),
+                fmt::format("Convert it with the Font Converter into {}.", folder)));
     }
 }
 
@@ -73,8 +74,8 @@ void examineFonts(Machine& machine, Findings& to) {
     fernwick::modRegistry2 registry{machine.registry()};
     const auto folder = fernwick::modQLInstallInfo{registry, files}.GetQuinloftFontsDir();
     if (folder.empty() || !files.FolderExists(folder)) {
-        to.push_back(troubleFinding("fonts", folder.empty() ? "the folder is not known" : folder + " is not there",
-                                    "Install Fernwick again."));
+        to.push_back(troubleFinding("fonts", folder.empty() ? "their folder is unknown" : folder + " does not exist",
+                                    "Reinstall Fernwick."));
         return;
     }
     examineFontFiles(files, folder, to);

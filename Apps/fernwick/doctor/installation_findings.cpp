@@ -1,4 +1,4 @@
-// The tree that the installation laid down, and the values that it brought.
+// The installed files and the installed registry values.
 #include "Add-in/core/modQLInstallInfo.h"
 #include "Apps/fernwick/doctor/findings.h"
 #include <fmt/format.h>
@@ -10,7 +10,7 @@ namespace {
 
 constexpr const char* kInstallation = "installation";
 
-/// What every installation lays down, by its name below the root.
+/// Parts of every installation, relative to its root.
 constexpr const char* kInstalledFolders[] = {
     "Fonts",
     "Template/Projects",
@@ -46,9 +46,7 @@ constexpr const char* kInstalledFiles[] = {
     "registry/tavlets.reg",
 };
 
-std::string installAgain(const std::string& part) {
-    return fmt::format("Install Fernwick again: {} is part of it.", part);
-}
+std::string installAgain(const std::string& part) { return fmt::format("Reinstall Fernwick: {} is part of it.", part); }
 
 void examineParts(const std::string& root, const fernwick::FileSystemObject& files, Findings& to) {
     const auto before = to.size();
@@ -62,7 +60,7 @@ void examineParts(const std::string& root, const fernwick::FileSystemObject& fil
     if (to.size() == before) to.push_back(goodFinding(kInstallation, root));
 }
 
-/// The add-in goes by the stored value, which a machine's store may hide.
+/// The add-in uses the stored value, and the machine's store can override that of the installation.
 void examineRootDir(const std::string& root, Machine& machine, Findings& to) {
     const auto& files = machine.platform().files;
     fernwick::modRegistry2 registry{machine.registry()};
@@ -75,10 +73,10 @@ void examineRootDir(const std::string& root, Machine& machine, Findings& to) {
 
 void examineInstalledValues(Machine& machine, Findings& to) {
     for (const auto& problem : machine.registry().installationProblems())
-        to.push_back(troubleFinding("installed values", problem, "Correct the line, or install the file again."));
+        to.push_back(troubleFinding("installed values", problem, "Correct the line, or reinstall the file."));
 }
 
-/// Messages name no address where this file is damaged.
+/// Without a valid file, messages contain no addresses.
 void examineMaker(const std::string& file, Findings& to) {
     try {
         (void)toml::parse_file(file);
@@ -96,8 +94,8 @@ void examineInstallation(Machine& machine, Findings& to) {
     if (root.empty() || !files.FolderExists(root)) {
         to.push_back(troubleFinding(kInstallation,
                                     root.empty() ? "was not found beside the program or through RootDir"
-                                                 : fmt::format("{} is not there", root),
-                                    "Install Fernwick again, or name its folder: fernwick registry set "
+                                                 : fmt::format("{} does not exist", root),
+                                    "Reinstall Fernwick, or set its folder: fernwick registry set "
                                     "'HKEY_LOCAL_MACHINE\\Software\\Quinloft' RootDir FOLDER"));
         return;
     }

@@ -1,4 +1,4 @@
-// The stores of the user and of the machine.
+// The registry stores of the user and of the machine.
 #include "Apps/fernwick/doctor/findings.h"
 #include "Host/registry/reg_status.h"
 #include <fmt/format.h>
@@ -13,7 +13,7 @@ struct Store {
     std::string file;
 };
 
-/// "" when it can be read.
+/// Returns why the store cannot be read; "" if it can.
 std::string unreadable(host::RegistryHive& hive) {
     try {
         (void)hive.subkeys(host::KeyPath{});
@@ -27,19 +27,19 @@ bool canBeWritten(host::RegistryHive& hive) {
     } catch (const host::RegFailure&) { return false; }
 }
 
-/// Of a store that can be read only. Many users may not write the machine's: they just don't change it.
+/// Only a warning for the machine's store: many users have no write access and need none.
 Finding readOnlyStore(const Store& store) {
     if (store.id == host::RegHiveId::Machine)
-        return warningFinding(store.subject, fmt::format("{} can be read, not written", store.file),
+        return warningFinding(store.subject, fmt::format("{} is read-only", store.file),
                               "Give your group write access to it and its folder, or set FERNWICK_MACHINE_STORE.");
-    return troubleFinding(store.subject, fmt::format("{} can be read, not written", store.file),
+    return troubleFinding(store.subject, fmt::format("{} is read-only", store.file),
                           "Give yourself write access to it and its folder, or set XDG_CONFIG_HOME.");
 }
 
 Finding examineStore(const Store& store, host::RegistryHive& hive) {
     if (const auto reason = unreadable(hive); !reason.empty())
-        return troubleFinding(store.subject, fmt::format("{} can't be read: {}", store.file, reason),
-                              "Put back a copy of the file, or move it away: an empty one is made when it is needed.");
+        return troubleFinding(store.subject, fmt::format("{} cannot be read: {}", store.file, reason),
+                              "Restore a copy of the file, or move it away: a new one is created when needed.");
     return canBeWritten(hive) ? goodFinding(store.subject, store.file) : readOnlyStore(store);
 }
 

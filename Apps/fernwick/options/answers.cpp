@@ -7,24 +7,25 @@ namespace cli {
 
 namespace {
 
+// The two kinds of askers.
 using Box = fernwick::Question;
 using FormType = std::string_view;
 
 constexpr std::array kQuestions{
     KnownQuestion{"save-files", FormType("frmSaveProjectFiles"), Reply::No,
-                  "save files before compiling (yes when nothing in the host is unsaved)"},
+                  "save files before compiling? (yes if nothing is unsaved)"},
     KnownQuestion{"save-warning", FormType("frmSaveWarning"), Reply::Ok, "the project must be saved"},
     KnownQuestion{"not-current", FormType("frmCompileWarning"), Reply::Yes,
                   "the compiled file is not current: compile?"},
-    KnownQuestion{"device", FormType("frmDesignTargetNormal"), Reply::Cancel, "which device (--device chooses)"},
+    KnownQuestion{"device", FormType("frmDesignTargetNormal"), Reply::Cancel, "which device? (see --device)"},
     KnownQuestion{"failed-step", Box::FailedStep, Reply::No, "a pre-compile step failed: continue?"},
     KnownQuestion{"convert-dpi", Box::ConvertForms, Reply::No, "convert forms from another screen resolution?"},
-    KnownQuestion{"copy-file", Box::CopyFile, Reply::No, "copy a dependency into the project's folder?"},
+    KnownQuestion{"copy-file", Box::CopyFile, Reply::No, "copy a dependency to the project folder?"},
     KnownQuestion{"missing-file", Box::MissingFile, Reply::No, "a dependency or font file is missing: continue?"},
     KnownQuestion{"edit-list", Box::EditDependencies, Reply::No, "edit the project's dependencies?"},
     KnownQuestion{"deploy-errors", Box::DeployWithErrors, Reply::No,
                   "the project has compile errors: deploy the old image?"},
-    KnownQuestion{"replace-file", Box::ReplaceFile, Reply::No, "replace a file?"},
+    KnownQuestion{"replace-file", Box::ReplaceFile, Reply::No, "overwrite an existing file?"},
 };
 
 template <class Test>

@@ -1,5 +1,5 @@
 #pragma once
-// How the command line answers the add-in's questions.
+// The answers to the add-in's questions.
 #include "Add-in/platform/interaction.h"
 #include <map>
 #include <optional>
@@ -12,16 +12,16 @@ namespace cli {
 enum class Reply { Yes, No, Cancel, Ok };
 
 std::string_view replyName(Reply reply);
-/// yes, no, cancel or ok, letter case ignored.
+/// yes, no, cancel or ok, in any letter case.
 std::optional<Reply> replyNamed(std::string_view name);
 
 /// A question that the add-in can ask.
 struct KnownQuestion {
-    /// What --answer calls it.
+    /// The name for --answer.
     std::string_view name;
     /// The type of the form, or the question of the message box.
     std::variant<std::string_view, fernwick::Question> asker;
-    /// The answer that a script gets.
+    /// The answer without options and without a terminal.
     Reply otherwise;
     std::string_view meaning;
 };
@@ -30,17 +30,17 @@ struct KnownQuestion {
 const KnownQuestion* questionOfForm(std::string_view typeName);
 const KnownQuestion* questionOfBox(fernwick::Question question);
 const KnownQuestion* questionNamed(std::string_view name);
-/// The table as help text, a line each.
+/// The table as help text, one line each.
 std::string describeQuestions();
 
-/// What the options say, above the table.
+/// The answers given by options. They override the table.
 class Answers {
 public:
     /// --yes and --no.
     void everything(Reply reply) { all_ = reply; }
-    /// --answer NAME=REPLY. False for a name or reply that is not known.
+    /// --answer NAME=REPLY. Returns false if the name or the reply is unknown.
     bool add(std::string_view assignment);
-    /// The reply that the options give to a question; none where they are silent.
+    /// The reply that the options give to a question, if any.
     std::optional<Reply> given(const KnownQuestion* question) const;
 
 private:

@@ -2,21 +2,20 @@
 
 namespace cli {
 
-/// What the program answers to the shell.
 enum ExitStatus : int {
-    /// The job is done.
+    /// Success.
     kGood = 0,
-    /// Errors in the project, or a project that the verb refuses.
+    /// Errors in the project, or a project that the command cannot use.
     kProjectErrors = 1,
-    /// Wrong use of the command line.
+    /// Wrong usage.
     kWrongUse = 2,
-    /// Trouble with the installation or the machine.
+    /// A problem with the installation or the system.
     kMachineTrouble = 3,
-    /// Of My Devices some failed.
+    /// Some of My Devices failed.
     kSomeDevicesFailed = 4,
-    /// Of My Devices all failed.
+    /// All of My Devices failed.
     kAllDevicesFailed = 5,
-    /// Ended by Ctrl+C.
+    /// Ctrl+C.
     kInterrupted = 130,
 };
 

@@ -4,7 +4,7 @@
 
 namespace cli {
 
-/// A verb that can't go on: words for the user and the exit status.
+/// Ends a command with a message and an exit status.
 class Refusal : public std::exception {
 public:
     Refusal(int status, std::string text) : status_(status), text_(std::move(text)) {}

@@ -1,6 +1,6 @@
 #include "Apps/fernwick/output/catalogue.h"
 #include "Add-in/build/messages/build_messages.h"
-#include "Components/QLPipe/pipe_messages.h"
+#include "Components/QLPipe/base/pipe_messages.h"
 #include "Components/QLToolkit/source/messages.h"
 #include <algorithm>
 #include <cstdlib>

@@ -1,5 +1,5 @@
 #pragma once
-// Every message that Fernwick can give, whoever gives it, in one list.
+// All messages of the compiler, the add-in and the pipes in one list.
 #include "Add-in/platform/message_info.h"
 #include <cstdint>
 #include <span>
@@ -8,11 +8,11 @@
 
 namespace cli {
 
-/// By ascending number.
+/// In ascending order of the numbers.
 std::span<const fernwick::MessageInfo> catalogue();
-/// Null for a number that no message has.
+/// Null for an unknown number.
 const fernwick::MessageInfo* messageNumbered(std::int32_t number);
-/// At most `most` numbers of messages, those next to `number` first.
+/// At most `most` known numbers, the nearest to `number` first.
 std::vector<std::int32_t> numbersNear(std::int32_t number, std::size_t most);
 
 /// "error" or "warning".

@@ -18,14 +18,14 @@ bool noColorWanted() {
     return value && *value;
 }
 
-/// 80 where the terminal doesn't tell, as new pseudo-terminals don't.
+/// 80 if the terminal does not report its width, as new pseudo-terminals do not.
 size_t terminalWidth() {
     winsize size{};
     if (ioctl(STDERR_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0) return size.ws_col;
     return 80;
 }
 
-/// As many whole UTF-8 characters as fit into `cells`.
+/// Returns as many whole UTF-8 characters as fit into `cells`.
 std::string_view cutToCells(std::string_view text, size_t cells) {
     size_t at = 0;
     for (; at < text.size() && cells > 0; --cells) {
@@ -35,7 +35,7 @@ std::string_view cutToCells(std::string_view text, size_t cells) {
     return text.substr(0, at);
 }
 
-/// Diagnostics that nobody can take don't end the run.
+/// Ignores write errors: diagnostics that cannot be written must not end the run.
 void toError(std::string_view text) {
     std::fwrite(text.data(), 1, text.size(), stderr);
     std::fflush(stderr);

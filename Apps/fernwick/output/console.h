@@ -1,5 +1,5 @@
 #pragma once
-// Standard output carries data, standard error progress and diagnostics.
+// Data goes to standard output, progress and diagnostics to standard error.
 #include "Apps/fernwick/options/verbosity.h"
 #include <string>
 #include <string_view>
@@ -8,34 +8,34 @@ namespace cli {
 
 enum class Tone { Plain, Error, Warning, Good, Faint };
 
-/// Where this run writes. Colours only on a terminal and without NO_COLOR; a progress bar only on a terminal.
+/// Uses colours on a terminal unless NO_COLOR is set, and shows a progress bar only on a terminal.
 class Console {
 public:
     explicit Console(Verbosity verbosity);
     ~Console();
     Console(const Console&) = delete;
 
-    /// Data, as it is.
+    /// Writes data unchanged.
     void out(std::string_view data);
-    /// A line of diagnostics; the progress bar makes room for it.
+    /// Writes a line of diagnostics, replacing the progress bar.
     void err(std::string_view line, Tone tone = Tone::Plain);
     /// Like err, but silent under --quiet.
     void note(std::string_view line, Tone tone = Tone::Plain);
     /// Like err, but only under --verbose.
     void detail(std::string_view line);
 
-    /// How far a run is, 0 to 100, and what it does. On a terminal one line is redrawn; elsewhere the text is
-    /// printed where it changes, and percentages are left to the bar.
+    /// Shows progress from 0 to 100 with a text. Without a terminal, prints the text when it changes, but no
+    /// percentages.
     void progress(float percent, std::string_view text);
     void endProgress();
 
-    /// A question at the terminal. `canAsk` first: False when there is nobody to ask.
+    /// Whether both input and diagnostics are a terminal.
     bool canAsk() const { return canAsk_; }
-    /// The line that was typed, without its end; "" for Return alone or the end of input.
+    /// Prompts and reads a line; returns "" for an empty line or at the end of input. Requires canAsk().
     std::string ask(std::string_view prompt);
 
     Verbosity verbosity() const { return verbosity_; }
-    /// Whether all data reached standard output; False for a full disk or a closed pipe.
+    /// Returns whether all data was written; false for a full disk or a closed pipe.
     bool flush();
 
 private:

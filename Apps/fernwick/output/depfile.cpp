@@ -4,7 +4,7 @@ namespace cli {
 
 namespace {
 
-/// make takes blanks, "#", "$" and backslashes before them for its own.
+/// Escapes the characters that are special to make.
 std::string makeName(const std::string& path) {
     std::string name;
     for (const char c : path) {

@@ -4,8 +4,8 @@
 
 namespace cli {
 
-/// A rule in make's format: the target and what it was made from. Each prerequisite stands as a target of its own
-/// too, so that a file that is gone doesn't stop make.
+/// Returns a make rule for the target. Each prerequisite is also a target without a rule, so that a deleted file does
+/// not stop make.
 std::string depfileText(const std::string& target, const std::vector<std::string>& prerequisites);
 
 } // namespace cli

@@ -1,5 +1,5 @@
 #pragma once
-// The result of a verb that gives messages, and its three forms of output.
+// The result of a command that reports messages, and its output formats.
 #include "Apps/fernwick/options/options.h"
 #include "Apps/fernwick/output/console.h"
 #include "Apps/fernwick/output/shown_box.h"
@@ -16,22 +16,22 @@ struct Message {
     std::string file;
     /// Physical line and column in the file, from 1; 0 for none.
     int line = 0, column = 0;
-    /// Name of the component, and the line of its code window; "" and 0 for none.
+    /// Name of the component and line in its code window; "" and 0 for none.
     std::string component;
     int codeLine = 0;
 };
 
-/// What came of serving one device.
+/// The outcome for one device.
 struct DeviceOutcome {
     std::string device;
     bool good = false;
-    /// What the run put where, in words for users; or the package's path. Empty when nothing was put.
+    /// What was installed where, for display, or the package's path.
     std::vector<std::string> places;
     std::string statusText;
     bool statusIsSuccess = false;
     std::vector<Message> messages;
     std::vector<ShownBox> boxes;
-    /// Why it failed, in one line; "" for a good one.
+    /// Why it failed, in one line; "" on success.
     std::string reason;
 };
 
@@ -39,30 +39,31 @@ struct Report {
     std::string verb;
     std::string project;
     std::string device;
-    /// "" where none was made.
+    /// "" if no image was made.
     std::string image;
     std::string statusText;
     std::vector<Message> messages;
     std::vector<ShownBox> boxes;
-    /// Of the verbs that serve devices.
+    /// Only of commands that serve devices.
     std::vector<DeviceOutcome> devices;
     int exitStatus = 0;
-    /// What kept the verb from its job; "" for nothing.
+    /// What prevented the command; "" for nothing.
     std::string failure;
 };
 
-/// `file:line: error 1042: text`. A message without a file names the project.
+/// Returns `file:line: error 1042: text`, with the project for a message without a file.
 std::string textOf(const Message& message, const std::string& project);
-/// Schema: installation/schemas/report-1.json. Ends with a line end.
+/// Schema: installation/schemas/report-1.json. Ends with a newline.
 std::string jsonOf(const Report& report);
-/// SARIF 2.1.0. Ends with a line end.
+/// SARIF 2.1.0. Ends with a newline.
 std::string sarifOf(const Report& report);
 
-/// To standard error, a line each.
+/// Writes the messages to standard error, one line each.
 void printMessages(const std::vector<Message>& messages, const std::string& project, Console& console);
-/// Tells a failure, and writes the result where a format was asked for. False where it is to be written as text.
+/// Prints the failure, if any, and writes JSON or SARIF if requested. Returns false if the result is to be written as
+/// text.
 bool printFormatted(const Report& report, const Options& options, Console& console);
-/// Writes the result in the format asked for; as text the messages and failures go to standard error.
+/// Writes the result in the requested format. As text, messages and failures go to standard error.
 void printReport(const Report& report, const Options& options, Console& console);
 
 } // namespace cli

@@ -5,7 +5,7 @@
 
 namespace cli {
 
-/// The words in lines of at most `width` characters; a longer word has a line of its own.
+/// Wraps the words into lines of at most `width` characters; a longer word gets its own line.
 inline std::string wrapped(std::string_view text, std::size_t width) {
     const auto lengthOf = [](std::string_view word) { // characters, not bytes
         return std::size_t(std::count_if(word.begin(), word.end(), [](char c) { return (c & 0xC0) != 0x80; }));

@@ -1,59 +1,21 @@
 #include "Apps/fernwick/run/command_line_user.h"
+#include "Apps/fernwick/run/form_controls.h"
 #include "Apps/fernwick/run/interruption.h"
 #include <fmt/format.h>
 
 namespace cli {
 
-using fernwick::CommandButton;
 using fernwick::Form;
 using fernwick::Subscription;
 
 namespace {
 
-// The same question, unchanged, this often: its answer doesn't settle it.
+// How often the same question may be repeated before it gets the harmless answer, and before the run ends.
 constexpr int kRepeatsToHarmless = 2;
 constexpr int kRepeatsToEnd = 4;
 
-/// Asks nothing: it is closed without a word, and before it looks for its pictures.
+/// Asks nothing, so it is closed without being activated.
 constexpr std::string_view kIntroduction = "frmGettingStarted";
-
-template <class C>
-C* firstControl(Form& form) {
-    for (auto* control : form.Controls())
-        if (auto* found = dynamic_cast<C*>(control)) return found;
-    return nullptr;
-}
-
-CommandButton* button(Form& form, const char* name) {
-    for (auto* control : form.Controls())
-        if (control->Name == name) return dynamic_cast<CommandButton*>(control);
-    return nullptr;
-}
-
-CommandButton* cancelButton(Form& form) {
-    for (auto* control : form.Controls())
-        if (auto* found = dynamic_cast<CommandButton*>(control); found && found->Cancel) return found;
-    return button(form, "btnCancel");
-}
-
-CommandButton* buttonOf(Form& form, Reply reply) {
-    switch (reply) {
-    case Reply::Yes:
-        if (auto* yes = button(form, "btnYes")) return yes;
-        return button(form, "btnOK");
-    case Reply::Ok: return button(form, "btnOK");
-    case Reply::No:
-        if (auto* no = button(form, "btnNo")) return no;
-        break;
-    case Reply::Cancel: break;
-    }
-    return cancelButton(form);
-}
-
-std::string formText(Form& form) {
-    const auto* label = firstControl<fernwick::Label>(form);
-    return label ? label->Caption() : std::string();
-}
 
 std::string oneLine(std::string text) {
     std::string line;
@@ -92,7 +54,7 @@ void CommandLineUser::answerForm(Form& form) {
             chooseDevice(form);
             continue;
         }
-        if (!question) console_.note(fmt::format("{}: closed without an answer", form.typeName()));
+        if (!question) console_.note(fmt::format("{}: cancelled, because it has no known answer", form.typeName()));
         const std::string text = oneLine(formText(form));
         Reply otherwise = question ? question->otherwise : Reply::Cancel;
         if (question && question->name == "save-files" && !context_.hostHasUnsaved()) otherwise = Reply::Yes;
@@ -193,7 +155,7 @@ void CommandLineUser::show(const std::string& title, const std::string& text, in
 void CommandLineUser::guardAgainstRepeats(const std::string& what, Reply& reply, Reply harmless) {
     repeats_ = what == lastQuestion_ ? repeats_ + 1 : 0;
     lastQuestion_ = what;
-    if (repeats_ >= kRepeatsToEnd) throw StuckQuestion("the same question keeps coming back: " + what);
+    if (repeats_ >= kRepeatsToEnd) throw StuckQuestion("the same question is repeated without end: " + what);
     if (repeats_ >= kRepeatsToHarmless) reply = harmless;
 }
 

@@ -1,5 +1,5 @@
 #pragma once
-// The add-in's user at the command line.
+// The add-in's user interface on the command line.
 #include "Add-in/platform/controls.h"
 #include "Apps/fernwick/options/answers.h"
 #include "Apps/fernwick/output/console.h"
@@ -9,19 +9,18 @@
 
 namespace cli {
 
-/// What a question may want to know of the run.
+/// What the answers depend on.
 struct UserContext {
-    /// Whether something in the host is not saved yet.
+    /// Whether the host has unsaved changes.
     std::function<bool()> hostHasUnsaved = [] { return true; };
-    /// The design target of --device; "" for none.
+    /// The design target given by --device; "" for none.
     std::string device;
-    /// The row of a device list that shows this design target, -1 for none.
+    /// The row of this design target in the device list, -1 for none.
     std::function<int(const std::string& device)> deviceRow = [](const std::string&) { return -1; };
 };
 
-/// Shows progress forms as a bar and boxes as lines, and answers from the options, at the terminal, or from the
-/// table of answers. Nothing ever blocks a script, and no question is answered for ever: one that keeps coming
-/// back ends the run.
+/// Shows progress forms as a bar and message boxes as lines. Answers questions from the options, else at the terminal,
+/// else from the table. Never blocks a script; a question that keeps being repeated ends the run.
 class CommandLineUser : public fernwick::Interaction {
 public:
     CommandLineUser(Console& console, Answers answers, UserContext context)
@@ -30,7 +29,7 @@ public:
     void showModal(fernwick::Form& form) override;
     int MsgBox(const std::string& text, int buttons, const std::string& title) override;
     int ask(fernwick::Question question, const std::string& text, int buttons, const std::string& title) override;
-    /// The command line chooses no files: Cancel.
+    // File dialogs are cancelled.
     void ShowSave(fernwick::CommonDialog& dialog) override { cancel(dialog); }
     void ShowOpen(fernwick::CommonDialog& dialog) override { cancel(dialog); }
     void MessageBeep(int) override {}

@@ -4,7 +4,7 @@
 namespace cli {
 
 namespace {
-// The one thing a signal handler may touch.
+// Written by the signal handler.
 volatile std::sig_atomic_t interruptNoted = 0;
 
 void noteInterrupt(int signal) {

@@ -1,5 +1,5 @@
 #pragma once
-// Ends of a run that no error trap may hold up: they unwind through the add-in to main.
+// Exceptions that end a run. They are not errors of the add-in, so they pass through its error traps to main.
 #include <exception>
 #include <string>
 
@@ -10,7 +10,7 @@ struct Interrupted : std::exception {
     const char* what() const noexcept override { return "Interrupted"; }
 };
 
-/// A question that came back unchanged after its answer.
+/// A question that is repeated although it was answered.
 class StuckQuestion : public std::exception {
 public:
     explicit StuckQuestion(std::string text) : text_(std::move(text)) {}
@@ -20,9 +20,9 @@ private:
     std::string text_;
 };
 
-/// From here on Ctrl+C is noted rather than ending the process at once. A second one ends it.
+/// From now on the first Ctrl+C is only recorded; a second one ends the process.
 void watchForInterrupt();
-/// Raises Interrupted when Ctrl+C was pressed.
+/// Throws Interrupted if Ctrl+C was pressed.
 void checkInterrupt();
 bool wasInterrupted();
 

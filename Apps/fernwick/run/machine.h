@@ -1,5 +1,5 @@
 #pragma once
-// The machine that a run of the command line works on.
+// The system's services for the command line.
 #include "Apps/common/machine.h"
 #include "Apps/fernwick/run/command_line_user.h"
 #include "Host/system/clipboard.h"
@@ -7,7 +7,7 @@
 
 namespace cli {
 
-/// What stands in for a desktop.
+/// Replacements for the services of a desktop.
 struct NoDesktop {
     host::Clock monotonic;
     host::EventLoop loop{monotonic};
@@ -17,7 +17,7 @@ struct NoDesktop {
 class Machine : private NoDesktop, public apps::Machine {
 public:
     Machine(Console& console, CommandLineUser& user, host::Processes::Permission mayRun);
-    /// Turns the event loop until nothing is due.
+    /// Runs the event loop until nothing is due.
     void drain();
 };
 

@@ -3,8 +3,7 @@
 
 namespace cli {
 
-/// The project that a verb works on: the one given, or the only .vbp of the current folder. Refused (2)
-/// where there is none or more than one.
+/// Returns the given project, or the only .vbp file in the current folder. Refusal 2 if there is none or several.
 std::string projectArgument(const std::string& given);
 
 } // namespace cli

@@ -9,26 +9,30 @@ namespace cli {
 
 namespace {
 
+Refusal unusableTarget(const std::string& key) {
+    return {kWrongUse, fmt::format("{} is not a usable design target; see fernwick targets", key)};
+}
+
 void requireDevice(Session& session, const std::string& wanted) {
     const bool none = session.addIn().devices.GetNumDesignTargets() == 0;
     if (!session.isOpen() || none)
         throw Refusal(kMachineTrouble,
-                      none ? "no usable design target is installed; see fernwick targets. The project was not touched."
+                      none ? "no usable design target is installed; see fernwick targets. The project was not changed."
                            : "the project was closed by the add-in");
     const auto device = session.settings() ? session.settings()->TargetDevice() : std::string();
-    if (device.empty() && !wanted.empty())
-        throw Refusal(kWrongUse, fmt::format("{} is no usable design target; fernwick targets lists them", wanted));
+    if (device.empty() && !wanted.empty()) throw unusableTarget(wanted);
     if (device.empty())
-        throw Refusal(kWrongUse, fmt::format("{}: the project has no device; choose one with --device KEY (fernwick "
-                                             "targets lists them)",
-                                             session.path()));
+        throw Refusal(kWrongUse,
+                      fmt::format("{}: the project has no device; choose one with --device KEY (see fernwick "
+                                  "targets)",
+                                  session.path()));
     if (!session.addIn().devices.IsValidDevice(device))
-        throw Refusal(kMachineTrouble, fmt::format("{}: its device {} is not installed or not usable here; fernwick "
-                                                   "targets lists what is",
+        throw Refusal(kMachineTrouble, fmt::format("{}: its device {} is not installed or not usable; see fernwick "
+                                                   "targets",
                                                    session.path(), device));
 }
 
-/// The project's file is saved after the image was written: the image must not look older than it.
+/// The project file is saved after the image; the image must not appear older.
 void stampImage(Session& session, const std::string& image) {
     auto& files = session.machine().platform().files;
     std::int64_t newest = files.GetDateLastModified(image);
@@ -54,8 +58,7 @@ void beginWork(Session& session, const Options& options) {
 }
 
 void requireUsableDevice(Session& session, const std::string& device) {
-    if (!session.addIn().devices.IsValidDevice(device))
-        throw Refusal(kWrongUse, fmt::format("{} is no usable design target; fernwick targets lists them", device));
+    if (!session.addIn().devices.IsValidDevice(device)) throw unusableTarget(device);
 }
 
 std::string deviceOfRun(Session& session, const Options& options) {
@@ -82,7 +85,7 @@ std::vector<std::string> inputsOf(Session& session) {
 void endWork(Session& session, Report& report) {
     const bool readOnly = host::isReadOnly(session.path());
     if (!session.closeAndSave() && !readOnly) {
-        report.failure = session.path() + " could not be saved";
+        report.failure = session.path() + " cannot be saved";
         report.exitStatus = kMachineTrouble;
     }
     report.boxes = session.user().shown();

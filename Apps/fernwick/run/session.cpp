@@ -1,6 +1,9 @@
 #include "Apps/fernwick/run/session.h"
 #include "Add-in/lifecycle/frmDesignTargetNormal.h"
+#include "Add-in/project/project_format.h"
+#include "Add-in/project/project_store.h"
 #include "Apps/fernwick/options/exit_status.h"
+#include "Apps/fernwick/output/file_errors.h"
 #include "Apps/fernwick/output/plural.h"
 #include "Host/files/path_lookup.h"
 #include "Host/model/project.h"
@@ -8,21 +11,6 @@
 #include <unordered_set>
 
 namespace cli {
-
-int statusOfOpening(int number) {
-    switch (number) {
-    case basic::kFileNotFound:
-    case basic::kPathNotFound: return kWrongUse;
-    case basic::kPermissionDenied:
-    case basic::kPathFileAccessError:
-    case basic::kDeviceIOError: return kMachineTrouble;
-    default: return kProjectErrors;
-    }
-}
-
-std::string withFile(const std::string& path, const std::string& description) {
-    return description.rfind(path + ":", 0) == 0 ? description : path + ": " + description;
-}
 
 Session::Session(const Options& options, Console& console)
     : options_(options),
@@ -40,8 +28,8 @@ Session::Session(const Options& options, Console& console)
     context.hostHasUnsaved = [this] { return hasUnsavedComponents(); };
     context.deviceRow = [this](const std::string& key) { return deviceRow(key); };
     if (machine_.installation().empty())
-        console.err("fernwick: no installation was found beside the program or through RootDir; design targets and "
-                    "controls are missing",
+        console.err("fernwick: no installation was found beside the program or through RootDir; there are no design "
+                    "targets and controls",
                     Tone::Warning);
     auto hostOptions = apps::hostOptionsOf(machine_, controls_);
     hostOptions.handlerFailed = [&console](const basic::ErrObject& error) {
@@ -53,7 +41,7 @@ Session::Session(const Options& options, Console& console)
 }
 
 Session::~Session() {
-    // an interrupted run: nothing is saved, and the host lets go before the add-in does
+    // after an interruption nothing is saved; the host must release the add-in first
     (void)basic::attempt([this] { closeUnsaved(); });
 }
 
@@ -63,14 +51,14 @@ void Session::open(const std::string& path) {
         throw Refusal(kWrongUse, fmt::format("{}: is a folder; name the project file in it", path));
     const auto err = basic::attempt([&] { project_ = host_->VBProjects()->AddFromFile(path_); });
     if (err.Number != 0) throw Refusal(statusOfOpening(err.Number), withFile(path_, err.Description));
-    tellProblems();
+    printProblems();
 }
 
-void Session::tellProblems() {
+void Session::printProblems() {
     for (const auto& problem : host_->loadProblems()) {
         const auto place = problem.line > 0 ? fmt::format("{}:{}", problem.file, problem.line) : problem.file;
         const auto prefix = problem.file + ": ";
-        const auto text = problem.text.rfind(prefix, 0) == 0 ? problem.text.substr(prefix.size()) : problem.text;
+        const auto text = problem.text.starts_with(prefix) ? problem.text.substr(prefix.size()) : problem.text;
         console_.err(fmt::format("{}: warning: {}", place, text), Tone::Warning);
     }
 }
@@ -87,28 +75,28 @@ void Session::requireAllMembers() {
         if (loaded.count(lookup.find(own->folder(), member.content.value)) == 0) ++unusable;
     }
     if (unusable > 0)
-        throw Refusal(kProjectErrors, fmt::format("{}: {} of the project can't be used; see above", path_,
+        throw Refusal(kProjectErrors, fmt::format("{}: {} of the project cannot be used; see above", path_,
                                                   plural(unusable, "source file")));
 }
 
 void Session::requireFernwickProject() {
     const auto read = [this](const char* key) {
         std::string value;
-        (void)basic::attempt([&] { value = project_->ReadProperty("Quinloft Global", key); });
+        (void)basic::attempt([&] { value = project_->ReadProperty(fernwick::kGlobalSection, key); });
         return value;
     };
     if (!basic::equalNoCase(read("IsQuinloftProject"), "True"))
         throw Refusal(
             kProjectErrors,
             fmt::format("{}: not a Fernwick project: its section [Quinloft Global] has no line "
-                        "IsQuinloftProject=True. Make one from the template \"Fernwick Project\", or add that "
+                        "IsQuinloftProject=True. Create one from the template \"Fernwick Project\", or add that "
                         "section with ProjectVersion=3.5.",
                         path_));
     const auto version = read("ProjectVersion");
     if (version.empty() || version == fernwick::kOldProjectFormat)
         throw Refusal(kProjectErrors,
-                      fmt::format("{}: made by a Fernwick before 3.5 (version 1.0); it must be converted before it can "
-                                  "be used. Nothing was written.",
+                      fmt::format("{}: created by a version of Fernwick before 3.5 (version 1.0) and must be converted "
+                                  "first. Nothing was written.",
                                   path_));
 }
 
@@ -136,7 +124,7 @@ bool Session::isOpen() const {
 }
 
 bool Session::closeAndSave() {
-    // an add-in that is connected keeps files and window state itself when the project goes
+    // a connected add-in saves files and window state when the project is removed
     if (!connected_ && isOpen() && !project_->Saved()) settings_->SaveFiles();
     bool saved = true;
     const auto closing = host_->Events()->VBProjectsEvents()->ItemRemoved.connect([&](const auto& project) {
@@ -148,7 +136,7 @@ bool Session::closeAndSave() {
 
 void Session::closeUnsaved() {
     if (!host_) return;
-    for (const auto& project : host_->VBProjects()->items()) project->IsDirty(false); // nobody is to save it now
+    for (const auto& project : host_->VBProjects()->items()) project->IsDirty(false);
     close();
 }
 

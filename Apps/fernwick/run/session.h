@@ -1,5 +1,5 @@
 #pragma once
-// One open project at the command line: the host, the add-in, and how both end.
+// The host and the add-in with one open project.
 #include "Add-in/core/connect/Modules.h"
 #include "Apps/common/host_options.h"
 #include "Apps/fernwick/options/options.h"
@@ -11,32 +11,27 @@
 
 namespace cli {
 
-/// The exit status for a project that can't be opened, by the number of the error.
-int statusOfOpening(int number);
-/// The description of an error with the file in front, where it isn't there already.
-std::string withFile(const std::string& path, const std::string& description);
-
 class Session {
 public:
     Session(const Options& options, Console& console);
     ~Session();
     Session(const Session&) = delete;
 
-    /// Opens the project in the host. Refusals: it is not there or is no project. Problems with its files are told.
+    /// Opens the project in the host and prints problems with its files. Refusal if it does not exist or is not a project.
     void open(const std::string& path);
-    /// Refusal 1 for a project that is not a Fernwick project, or one of an older version.
+    /// Refusal 1 if it is not a Fernwick project, or one of an older version.
     void requireFernwickProject();
-    /// Refusal 1 for a project that lists a source file which is missing, unreadable or has another's name: what would
-    /// come of the rest is not the project.
+    /// Refusal 1 if a source file is missing, unreadable or has the same name as another: without it the image would not
+    /// be complete.
     void requireAllMembers();
-    /// Lists the project with the add-in without connecting it: enough to read and write settings.
+    /// Adds the project to the add-in's list without connecting the add-in, which is enough for its settings.
     void takeUp();
-    /// Takes the project off the add-in's list again: connecting lists it anew.
+    /// Removes the project from the add-in's list; connecting adds it again.
     void forget();
-    /// Connects the add-in to the host, which takes up the project and gives it a device where it has none.
+    /// Connects the add-in, which adds the project to its list and assigns a device if it has none.
     void connect();
-    /// As at a user's closing: the project's files are saved, with the window state where the add-in is connected.
-    /// False when the project's file could not be written.
+    /// Saves the project's files, with the window state if the add-in is connected, and closes the project. Returns
+    /// false if the project file could not be written.
     bool closeAndSave();
     /// Closes without saving anything.
     void closeUnsaved();
@@ -49,12 +44,12 @@ public:
     CommandLineUser& user() { return user_; }
     StepsTrust& trust() { return trust_; }
     const std::string& path() const { return path_; }
-    /// Whether the host still has the project: one that nothing here can serve is removed from it.
+    /// Whether the host still has the project; the add-in removes one without a usable device.
     bool isOpen() const;
 
 private:
     void close();
-    void tellProblems();
+    void printProblems();
     int deviceRow(const std::string& key);
     bool hasUnsavedComponents() const;
 

@@ -11,7 +11,7 @@ void StepsTrust::prepare(fernwick::Registry& registry, std::vector<std::string> 
 }
 
 bool StepsTrust::mayRun(const std::string& commandLine, const std::string& folder) {
-    checkInterrupt(); // pressed just before: no step starts any more
+    checkInterrupt(); // do not start another step
     if (!decided_) decided_ = decide(folder);
     if (*decided_)
         console_.detail(fmt::format("running: {}", commandLine));
@@ -24,15 +24,15 @@ bool StepsTrust::decide(const std::string& folder) {
     if (options_.noSteps) return false;
     if (options_.trustSteps || (folders_ && folders_->holds(folder))) return true;
     if (console_.canAsk()) return askUser(folder);
-    console_.err(fmt::format("The project in {} runs compile steps, and its folder is not trusted yet: allow them with "
-                             "--trust-steps, or answer at a terminal.",
+    console_.err(fmt::format("The project in {} has compile steps, and its folder is not trusted. Run them with "
+                             "--trust-steps, or once from a terminal to trust the folder.",
                              folder),
                  Tone::Warning);
     return false;
 }
 
 bool StepsTrust::askUser(const std::string& folder) {
-    console_.err(fmt::format("The project in {} runs these command lines around a compile:", folder));
+    console_.err(fmt::format("The project in {} runs these commands before and after a compile:", folder));
     for (const auto& step : steps_) console_.err("  " + step);
     if (!basic::equalNoCase(console_.ask("Trust this folder and run them? [yes/no, Return for No] "), "yes"))
         return false;

@@ -9,16 +9,15 @@
 
 namespace cli {
 
-/// A project can name any command line, so the first time that a folder's project would run one, the user is asked
-/// with the exact commands. Folders that were trusted are kept in the user's store. Without a terminal nothing runs
-/// unless --trust-steps says so.
+/// A project can contain any command line, so the user is asked, with the exact commands, before a folder's project runs
+/// one for the first time. Trusted folders are stored for the user. Without a terminal, --trust-steps is needed.
 class StepsTrust {
 public:
     StepsTrust(const Options& options, Console& console) : options_(options), console_(console) {}
 
-    /// The store of trusted folders, and all steps of the project: what the question shows.
+    /// Sets the store of trusted folders and the steps that the question shows.
     void prepare(fernwick::Registry& registry, std::vector<std::string> steps);
-    /// Whether this command line may run in this folder. Says why not.
+    /// Returns whether this command line may run in this folder, and prints why not.
     bool mayRun(const std::string& commandLine, const std::string& folder);
 
 private:

@@ -29,9 +29,10 @@ void warnOfLineFeeds(Session& session, Console& console) {
     }
     if (files > 0)
         console.err(
-            fmt::format("fernwick: warning: {} line feeds for line ends, so the stored lines of messages count from "
-                        "another place; unix2dos cures it",
-                        files == 1 ? "1 source file has" : fmt::format("{} source files have", files)),
+            fmt::format(
+                "fernwick: warning: {} line ends without carriage return, so the stored line numbers of messages are "
+                "wrong; fix with unix2dos",
+                files == 1 ? "1 source file has" : fmt::format("{} source files have", files)),
             Tone::Warning);
 }
 
@@ -49,7 +50,7 @@ int dryRun(Session& session, Console& console) {
     return kGood;
 }
 
-/// Compiles, and validates for the device what compiled.
+/// Compiles the project and, on success, validates it for the device.
 Report compileAndValidate(Session& session, const std::string& device) {
     Report report;
     report.verb = "build";
@@ -59,7 +60,7 @@ Report compileAndValidate(Session& session, const std::string& device) {
     const bool good = compiled && session.addIn().validate.ValidateProject(session.project(), device);
     report.messages = messagesOfRun(session);
     report.statusText = statusText(session);
-    // a compile that ended before the compiler ran leaves its first words
+    // the compile ended before the compiler ran
     if (runStatus(session) == fernwick::RunStatus::Running) report.statusText = kNotCompiled;
     report.image = compiled ? session.machine().build().image : std::string();
     report.exitStatus = good ? kGood : kProjectErrors;
@@ -68,7 +69,7 @@ Report compileAndValidate(Session& session, const std::string& device) {
     return report;
 }
 
-/// The image stands, but make would not know of it: trouble.
+/// A failure changes the exit status: make would not see the image's prerequisites.
 void writeDepfile(Session& session, const std::string& path, const std::vector<std::string>& inputs, Report& report) {
     auto& files = session.machine().platform().files;
     const auto err = basic::attempt([&] { files.WriteBytes(path, depfileText(report.image, inputs)); });

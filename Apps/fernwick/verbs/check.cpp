@@ -36,8 +36,7 @@ Message messageOf(const qltoolkit::Diagnostic& diagnostic) {
 qltoolkit::CheckResult checkOne(const SourceToCheck& source, const basic::CodePage& usual) {
     host::FileContent content;
     const auto err = basic::attempt([&] { content = host::readFile(source.path); });
-    if (err.Number != 0)
-        return qltoolkit::checkFile(source.path, source.constants, usual); // says what is wrong with it
+    if (err.Number != 0) return qltoolkit::checkFile(source.path, source.constants, usual); // reports the error
     const auto page = host::codePageOf(content.bytes, usual);
     return qltoolkit::checkSource(source.path, std::move(content.bytes), source.constants, page);
 }

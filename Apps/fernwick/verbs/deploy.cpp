@@ -1,4 +1,4 @@
-// Sending a project to devices, and packing it for them.
+// `deploy` and `package`.
 #include "Apps/fernwick/devices/device_runs.h"
 #include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/run/project_run.h"
@@ -12,7 +12,7 @@ namespace {
 
 enum class Way { Send, Pack };
 
-int carry(const Options& options, Console& console, Way way) {
+int transfer(const Options& options, Console& console, Way way) {
     Session session{options, console};
     openProject(session, options);
     beginWork(session, options);
@@ -35,13 +35,13 @@ int carry(const Options& options, Console& console, Way way) {
 
 int runDeploy(const Options& options, Console& console) {
     if (isPackageFile(options.project)) return installPackage(options, console);
-    return carry(options, console, Way::Send);
+    return transfer(options, console, Way::Send);
 }
 
 int runPackage(const Options& options, Console& console) {
     if (options.list) return listPackage(options, console);
     if (options.verify) return verifyPackage(options, console);
-    return carry(options, console, Way::Pack);
+    return transfer(options, console, Way::Pack);
 }
 
 } // namespace cli

@@ -14,7 +14,6 @@ namespace cli {
 
 namespace {
 
-/// What the verb works on.
 struct MyDevices {
     MyDevices(const Options& options, Console& console)
         : user(console, options.answers, {}),
@@ -40,15 +39,15 @@ std::string knownKeys(const std::vector<DeviceRow>& rows) {
 const DeviceRow& knownDevice(const MyDevices& devices, const std::string& key) {
     const auto* row = deviceWithKey(devices.rows, key);
     if (!row || !row->isUsable)
-        throw Refusal(kWrongUse,
-                      fmt::format("no usable device has the key {}; known: {}", key, knownKeys(devices.rows)));
+        throw Refusal(kWrongUse, fmt::format("{} is not a usable device; the usable devices are {}", key,
+                                             knownKeys(devices.rows)));
     return *row;
 }
 
 // ---- list ----
 
 void printRow(const DeviceRow& row, const DevicePlace& place, Console& console) {
-    std::string where = !row.isUsable ? "not usable here" : !place.problem.empty() ? "-" : place.location;
+    std::string where = !row.isUsable ? "not usable" : !place.problem.empty() ? "-" : place.location;
     if (!place.runtime.empty()) where += fmt::format("  (runtime {})", place.runtime);
     console.out(fmt::format("{} {:<20}  {:<18}  {}\n", row.isMine ? "*" : " ", row.key, row.name, where));
     if (place.problem.empty()) return;
@@ -96,19 +95,19 @@ int listDevices(MyDevices& devices, const Options& options, Console& console) {
 
 // ---- add, remove ----
 
-/// The add-in says nothing when the store can't be written.
+/// Checks the result, because the add-in does not report a store that cannot be written.
 void saveDevices(MyDevices& devices, std::vector<std::string> keys) {
     auto& prefs = devices.addIn.prefs;
     prefs.gMyDevices = keys;
     (void)prefs.saveMyDevices();
     prefs.loadMyDevices();
-    if (prefs.gMyDevices != keys) throw Refusal(kMachineTrouble, "My Devices could not be stored; see fernwick doctor");
+    if (prefs.gMyDevices != keys) throw Refusal(kMachineTrouble, "My Devices could not be saved; see fernwick doctor");
 }
 
 void requireKeys(const Options& options) {
     if (options.operands.empty())
         throw Refusal(kWrongUse,
-                      fmt::format("devices {} takes the keys of devices; fernwick devices lists them", options.action));
+                      fmt::format("devices {} expects the keys of devices; see fernwick devices", options.action));
 }
 
 int addDevices(MyDevices& devices, const Options& options, Console&) {
@@ -127,7 +126,7 @@ int removeDevices(MyDevices& devices, const Options& options, Console&) {
     requireKeys(options);
     auto keys = devices.addIn.prefs.gMyDevices;
     for (const auto& operand : options.operands) {
-        // what is in the list can leave it, usable or not
+        // an unusable device in the list can be removed
         if (!deviceWithKey(devices.rows, operand)) (void)knownDevice(devices, operand);
         std::erase_if(keys, [&](const std::string& one) { return basic::equalNoCase(one, operand); });
     }
@@ -138,7 +137,7 @@ int removeDevices(MyDevices& devices, const Options& options, Console&) {
 // ---- set ----
 
 int setDevice(MyDevices& devices, const Options& options, Console&) {
-    if (options.operands.size() < 2) throw Refusal(kWrongUse, "devices set takes KEY NAME=VALUE...");
+    if (options.operands.size() < 2) throw Refusal(kWrongUse, "devices set expects KEY NAME=VALUE...");
     const auto& row = knownDevice(devices, options.operands.front());
     changeDeviceSettings(devices.machine.registry(), row.key, row.pipe,
                          {options.operands.begin() + 1, options.operands.end()});

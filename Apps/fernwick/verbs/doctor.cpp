@@ -22,10 +22,10 @@ constexpr Examination kExaminations[] = {
     {"targets", examineTargets},           {"fonts", examineFonts},   {"devices", examineDevices},
 };
 
-/// What is so badly damaged that its own examination fails is a finding too.
+/// A failing examination is a finding, too.
 void examineGuarded(const Examination& one, Machine& machine, Findings& to) {
     const auto failed = [&](const std::string& reason) {
-        to.push_back(troubleFinding(one.subject, "can't be examined: " + reason, "Install Fernwick again."));
+        to.push_back(troubleFinding(one.subject, "cannot be examined: " + reason, "Reinstall Fernwick."));
     };
     try {
         one.examine(machine, to);
@@ -54,15 +54,15 @@ Json jsonOfFindings(const Findings& findings) {
     json["findings"] = Json::array();
     for (const auto& one : findings) {
         Json finding{{"state", stateName(one.state)}, {"subject", one.subject}, {"detail", one.detail}};
-        if (!one.cure.empty()) finding["cure"] = one.cure;
+        if (!one.fix.empty()) finding["cure"] = one.fix;
         json["findings"].push_back(finding);
     }
     return json;
 }
 
-std::string closingWords(const Findings& findings) {
+std::string closingLine(const Findings& findings) {
     const auto troubles = countOf(findings, State::Trouble), warnings = countOf(findings, State::Warning);
-    auto text = troubles == 0 ? std::string("All is usable") : fmt::format("{} not usable", troubles);
+    auto text = troubles == 0 ? std::string("Everything is usable") : fmt::format("{} not usable", troubles);
     if (warnings > 0) text += ", " + plural(warnings, "warning");
     return text + ".";
 }
@@ -73,9 +73,9 @@ void printFindings(const Findings& findings, Verbosity verbosity, Console& conso
     for (const auto& one : findings) {
         if (verbosity == Verbosity::Quiet && one.state == State::Good) continue;
         console.out(fmt::format("{:<7}  {:<{}}  {}\n", stateName(one.state), one.subject, width, one.detail));
-        if (!one.cure.empty()) console.out(fmt::format("{:<7}  {:<{}}  -> {}\n", "", "", width, one.cure));
+        if (!one.fix.empty()) console.out(fmt::format("{:<7}  {:<{}}  -> {}\n", "", "", width, one.fix));
     }
-    if (verbosity != Verbosity::Quiet) console.out(closingWords(findings) + "\n");
+    if (verbosity != Verbosity::Quiet) console.out(closingLine(findings) + "\n");
 }
 
 } // namespace

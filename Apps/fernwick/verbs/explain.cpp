@@ -22,7 +22,7 @@ std::int32_t numberOf(const std::string& operand) {
     const auto* end = operand.data() + operand.size();
     const auto read = std::from_chars(operand.data(), end, number);
     if (read.ec != std::errc{} || read.ptr != end)
-        throw Refusal(kWrongUse, fmt::format("explain takes the numbers of messages, not {}", operand));
+        throw Refusal(kWrongUse, fmt::format("explain expects message numbers, not {}", operand));
     return number;
 }
 
@@ -37,7 +37,7 @@ const MessageInfo& messageOfOperand(const std::string& operand) {
     const auto number = numberOf(operand);
     const auto* message = messageNumbered(number);
     if (!message)
-        throw Refusal(kWrongUse, fmt::format("no message has the number {}; the nearest are {}", number,
+        throw Refusal(kWrongUse, fmt::format("there is no message {}; the nearest are {}", number,
                                              listed(numbersNear(number, kNearOnes))));
     return *message;
 }

@@ -13,7 +13,7 @@ int runInstallRuntime(const Options& options, Console& console) {
     report.verb = options.verb;
     report.devices = serveDevices(session, devices, console, [&](const std::string& device) {
         session.addIn().sendRuntime.SendRuntimeToDevice(device);
-        return std::vector<Message>(); // the runtime has no place among a project's messages: boxes are the report
+        return std::vector<Message>(); // there is no project to store them: message boxes are the report
     });
     report.exitStatus = statusOf(report.devices, options.myDevices);
     session.closeUnsaved();

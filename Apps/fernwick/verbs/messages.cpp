@@ -9,7 +9,7 @@ namespace cli {
 
 namespace {
 
-/// Component and line of its code window, as the messages window shows them.
+/// With the component and the line of its code window, as in the messages window.
 std::string storedText(const Message& message) {
     std::string place = message.component.empty() ? "-" : message.component;
     if (message.codeLine != 0) place += fmt::format(":{}", message.codeLine);

@@ -1,22 +1,20 @@
 #include "Apps/fernwick/verbs/package_file.h"
+#include "Apps/common/file_names.h"
 #include "Apps/fernwick/devices/device_runs.h"
 #include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/output/json_output.h"
 #include "Apps/fernwick/output/plural.h"
 #include "Apps/fernwick/run/interruption.h"
-#include "Basic/case_folding.h"
-#include "Components/QLPipe/package.h"
+#include "Components/QLPipe/base/pipe_messages.h"
+#include "Components/QLPipe/package/package.h"
 #include "Components/QLPipe/pipe_family.h"
-#include "Components/QLPipe/pipe_messages.h"
 #include <filesystem>
 
 namespace cli {
 
 namespace {
 
-constexpr std::string_view kPackageExtension = ".qlpkg";
-
-/// Shows a pipe's progress, and keeps what it says.
+/// Shows a pipe's progress and collects its messages.
 class PipeListener final : public qlpipe::IQLPipeEvents {
 public:
     explicit PipeListener(Console& console) : console_(console) {}
@@ -47,14 +45,14 @@ private:
 };
 
 std::string packageOperand(const Options& options) {
-    if (options.project.empty()) throw Refusal(kWrongUse, "which package? Name its .qlpkg file");
+    if (options.project.empty()) throw Refusal(kWrongUse, "no package given; name its .qlpkg file");
     std::error_code ignored;
     if (!std::filesystem::exists(options.project, ignored))
-        throw Refusal(kWrongUse, fmt::format("{}: there is no such file", options.project));
+        throw Refusal(kWrongUse, fmt::format("{}: file not found", options.project));
     return std::filesystem::absolute(options.project, ignored).lexically_normal().string();
 }
 
-/// What a reading of the package answers; a damaged one is an error in it.
+/// Returns what `read` returns. Refusal 1 for a damaged package.
 template <class Read>
 auto readPackage(const std::string& path, Read&& read) {
     try {
@@ -96,11 +94,7 @@ std::vector<Message> sendPackage(Session& session, const std::string& path, cons
 
 } // namespace
 
-bool isPackageFile(const std::string& operand) {
-    return operand.size() > kPackageExtension.size() &&
-           basic::equalNoCase(std::string_view(operand).substr(operand.size() - kPackageExtension.size()),
-                              kPackageExtension);
-}
+bool isPackageFile(const std::string& operand) { return apps::hasExtension(operand, ".qlpkg"); }
 
 int listPackage(const Options& options, Console& console) {
     const auto path = packageOperand(options);
@@ -122,7 +116,7 @@ int verifyPackage(const Options& options, Console& console) {
         console.out(dumpJson(jsonOfBundle(path, bundle)));
     else
         console.out(
-            fmt::format("{}: {}, all as the manifest says\n", options.project, plural(bundle.files.size(), "file")));
+            fmt::format("{}: {}, all matching the manifest\n", options.project, plural(bundle.files.size(), "file")));
     return kGood;
 }
 

@@ -24,7 +24,7 @@ const char* kindName(vbide::vbext_ComponentType type) {
     return "related document";
 }
 
-/// The value, or the type's empty one where it can't be read.
+/// Returns the value, or an empty one if it cannot be read.
 template <class Read>
 auto valueOrEmpty(Read&& read) {
     decltype(read()) value{};

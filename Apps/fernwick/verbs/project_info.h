@@ -1,5 +1,5 @@
 #pragma once
-// What a project holds, as `info` tells it.
+// The contents of a project for `info`.
 #include "Apps/fernwick/output/json_output.h"
 #include "Apps/fernwick/run/session.h"
 #include <string>
@@ -27,12 +27,13 @@ struct ProjectInfo {
     std::vector<host::LoadProblem> problems;
 };
 
-/// Of a session that has opened a project and taken it up.
+/// Requires a session with an open project after takeUp().
 ProjectInfo infoOf(Session& session);
 
 std::size_t codeLinesOf(const ProjectInfo& info);
 std::size_t brokenReferencesOf(const ProjectInfo& info);
 
 Json jsonOfInfo(const ProjectInfo& info);
+std::string textOfInfo(const ProjectInfo& info);
 
 } // namespace cli

@@ -25,13 +25,13 @@ host::RegistryStore openStore() {
     return host::RegistryStore{host::usualRegistryPlaces(environment, apps::installationBeside(apps::programFolder()))};
 }
 
-/// Lines with the line ends of a terminal.
 std::string withoutCarriageReturns(std::string text) {
     std::erase(text, '\r');
     return text;
 }
 
-/// The right side of a value's line: quoted, dword: or hex: as given, anything else becomes a text.
+/// Returns the right side of a value's line. Quoted text, dword: and hex: are used as given; anything else becomes a
+/// string.
 std::string rightSide(const std::string& value) {
     const auto begins = [&](std::string_view with) { return value.compare(0, with.size(), with) == 0; };
     if (begins("\"") || begins("dword:") || begins("hex:") || begins("hex(")) return value;
@@ -43,7 +43,7 @@ std::string rightSide(const std::string& value) {
     return quoted + "\"";
 }
 
-/// The values' lines of a .reg file, without what stands around them.
+/// Returns only the lines of the values in a .reg file.
 std::string linesOf(const std::vector<RegInstruction>& values) {
     auto text = withoutCarriageReturns(host::writeRegText(values, host::RegTextEncoding::Utf8));
     text.erase(0, text.find('\n') + 1);
@@ -51,7 +51,7 @@ std::string linesOf(const std::vector<RegInstruction>& values) {
     return text;
 }
 
-/// The value's quoted name, or "@", and the "=" behind it.
+/// Measures the value's quoted name, or "@", and the "=" after it.
 std::size_t lengthOfLeftSide(std::string_view line) {
     std::size_t at = 1;
     if (line.front() == '"') {
@@ -84,7 +84,7 @@ int printValues(const Options& options, Console& console, const std::vector<RegI
     }
     if (withHeader)
         console.out(withoutCarriageReturns(host::writeRegText(found, host::RegTextEncoding::Utf8)));
-    else if (!found.empty()) // the key was given: its values are enough
+    else if (!found.empty()) // the key is known, so its values are enough
         console.out(linesOf(found) + "\n");
     return kGood;
 }
@@ -98,7 +98,8 @@ int get(const Options& options, Console& console) {
         return one.kind != RegInstruction::Kind::SetValue || one.key != key || otherName;
     });
     if (found.empty() && options.operands.size() > 1)
-        throw Refusal(kProjectErrors, fmt::format("{}: no value {}", options.operands[0], options.operands[1]));
+        throw Refusal(kProjectErrors,
+                      fmt::format("{}: there is no value {}", options.operands[0], options.operands[1]));
     return printValues(options, console, found, false);
 }
 
@@ -163,8 +164,8 @@ int runRegistry(const Options& options, Console& console) {
     const auto action = std::find_if(kRegistryActions.begin(), kRegistryActions.end(),
                                      [&](const RegistryAction& one) { return one.name == options.action; });
     if (options.operands.size() < action->fewest || options.operands.size() > action->most)
-        throw Refusal(kWrongUse,
-                      fmt::format("registry {} takes {}; see fernwick help registry", action->name, action->operands));
+        throw Refusal(kWrongUse, fmt::format("registry {} expects {}; see fernwick help registry", action->name,
+                                             action->operands));
     try {
         return action->run(options, console);
     } catch (const basic::RuntimeError& error) {

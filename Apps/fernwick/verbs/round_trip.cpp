@@ -1,4 +1,5 @@
 #include "Apps/fernwick/verbs/round_trip.h"
+#include "Apps/common/file_names.h"
 #include "Apps/fernwick/run/interruption.h"
 #include "Basic/runtime_error.h"
 #include "Host/files/encoding.h"
@@ -7,8 +8,10 @@
 #include "Host/files/project_file.h"
 #include "Host/files/property_value.h"
 #include "Host/files/resource_file.h"
-#include "Host/model/component.h"
+#include "Host/model/code/component_kind.h"
+#include "Host/model/code/source_file.h"
 #include <algorithm>
+#include <filesystem>
 #include <unordered_set>
 
 namespace cli {
@@ -29,7 +32,7 @@ FileVerdict unread(const std::string& file, const basic::ErrObject& error) {
 class ProjectVerifier {
 public:
     ProjectVerifier(const std::string& path, const basic::CodePage& usual)
-        : path_(path), folder_(path.substr(0, path.rfind('/'))), usual_(usual) {}
+        : path_(path), folder_(apps::folderOf(path)), usual_(usual) {}
 
     std::vector<FileVerdict> run() {
         const auto content = host::readFile(path_);
@@ -58,9 +61,8 @@ private:
 
     void resourcesOf(const std::string& file, const host::FormFile& form) {
         if (!form.root()) return;
-        const auto slash = file.rfind('/');
-        const std::string folder = file.substr(0, slash);
-        resource(lookup_.find(folder, host::companionOf(file).substr(slash + 1)), false);
+        const auto folder = apps::folderOf(file);
+        resource(lookup_.find(folder, std::filesystem::path(host::companionOf(file)).filename().string()), false);
         auto line = form.rootLine();
         form.root()->eachPropertyWithin(
             [&](const host::FormBlock&, std::string_view, std::string_view literal, std::size_t) {

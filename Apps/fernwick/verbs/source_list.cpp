@@ -1,24 +1,18 @@
 #include "Apps/fernwick/verbs/source_list.h"
-#include "Basic/case_folding.h"
+#include "Apps/common/file_names.h"
+#include "Apps/fernwick/output/file_errors.h"
 #include "Basic/runtime_error.h"
 #include "Host/files/encoding.h"
 #include "Host/files/group_file.h"
 #include "Host/files/path_lookup.h"
 #include "Host/files/project_file.h"
-#include <filesystem>
-#include <fmt/format.h>
 
 namespace cli {
 
 namespace {
 
-bool hasExtension(const std::string& path, std::string_view extension) {
-    return basic::equalNoCase(std::filesystem::path(path).extension().string(), extension);
-}
-
-std::string folderOf(const std::string& path) {
-    return std::filesystem::absolute(path).parent_path().lexically_normal().string();
-}
+using apps::folderOf;
+using apps::hasExtension;
 
 class SourceCollector {
 public:
@@ -33,9 +27,7 @@ public:
             else
                 list_.sources.push_back({path, {}});
         });
-        if (err.Number == 0) return;
-        const bool named = err.Description.rfind(path + ":", 0) == 0;
-        list_.problems.push_back(named ? err.Description : fmt::format("{}: {}", path, err.Description));
+        if (err.Number != 0) list_.problems.push_back(withFile(path, err.Description));
     }
 
     SourceList take() { return std::move(list_); }

@@ -1,5 +1,5 @@
 #pragma once
-// The source files that `check` goes through.
+// The source files for `check`.
 #include "Basic/code_page.h"
 #include "Components/QLToolkit/parser/conditional_constants.h"
 #include <string>
@@ -14,11 +14,11 @@ struct SourceToCheck {
 
 struct SourceList {
     std::vector<SourceToCheck> sources;
-    /// What kept a project or group from being read: "file: reason".
+    /// Why projects or groups could not be read: "file: reason".
     std::vector<std::string> problems;
 };
 
-/// A source file stands for itself, a project for its components, a group for its projects' ones.
+/// Returns the source files themselves, the components of projects, and those of the projects of groups.
 SourceList listSources(const std::vector<std::string>& operands, const basic::CodePage& usual);
 
 } // namespace cli

@@ -52,13 +52,13 @@ int runTargets(const Options& options, Console& console) {
     targets.Initialize();
     const auto rows = targetRows(targets, session.addIn().devices);
     for (const auto& problem : targets.problems()) console.err(problem.text(), Tone::Error);
-    if (rows.empty()) console.err("fernwick: no design target is installed", Tone::Error);
+    if (rows.empty()) console.err("fernwick: no design targets are installed", Tone::Error);
     if (options.format == Format::Json) {
         console.out(dumpJson(jsonOfTargets(rows, targets)));
     } else {
         for (const auto& row : rows)
             console.out(fmt::format("{:<24}{:<28}{:>5} x {:<6}{}\n", row.key, row.name, row.width, row.height,
-                                    row.usable ? "usable" : "not usable here"));
+                                    row.usable ? "usable" : "not usable"));
     }
     return rows.empty() || !targets.problems().empty() ? kMachineTrouble : kGood;
 }

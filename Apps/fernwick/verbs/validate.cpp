@@ -9,7 +9,7 @@ namespace cli {
 
 namespace {
 
-/// What the driver's own run leaves out: names, properties, events and controls of each form.
+/// Checks the names, properties, events and controls of each form, which ValidateProject does not.
 bool scanForms(Session& session) {
     bool good = true;
     for (const auto& component : session.project()->VBComponents()->items())
@@ -37,7 +37,7 @@ int runValidate(const Options& options, Console& console) {
     report.verb = options.verb;
     report.project = session.path();
     report.device = deviceOfRun(session, options);
-    // as before a deployment, so that messages don't pile up from run to run
+    // as before a deployment, so that messages do not accumulate
     session.addIn().messages.ClearProjectCompileErrors(session.project());
     bool good = session.addIn().validate.ValidateProject(session.project(), report.device);
     if (options.forms) good = scanForms(session) && good;

@@ -11,7 +11,7 @@ namespace {
 constexpr const char* kProgram = "fernwick-workbench";
 } // namespace
 
-/// The desktop takes the place of this process. It stands beside this program, in its own folder of a build, or on PATH.
+/// Replaces this process by the desktop program, which is beside this program, in a build's own folder, or on PATH.
 int runWorkbench(const Options& options, Console& console) {
     if (!console.flush()) return kMachineTrouble;
     auto project = options.project.empty() ? std::string() : host::absolutePath(options.project);
@@ -21,7 +21,7 @@ int runWorkbench(const Options& options, Console& console) {
     for (const auto& place : {folder + "/" + kProgram, folder + "/../workbench/" + kProgram})
         ::execv(place.c_str(), arguments);
     ::execvp(kProgram, arguments);
-    throw Refusal(kMachineTrouble, "the desktop is not installed: there is no program fernwick-workbench");
+    throw Refusal(kMachineTrouble, "the desktop program fernwick-workbench is not installed");
 }
 
 } // namespace cli

@@ -1,5 +1,5 @@
 #pragma once
-// Access to the host's menus for those who add commands to them.
+// Access to the host's menus, for adding commands.
 #include "Host/model/bars/bars.h"
 #include "Host/model/host.h"
 #include <memory>

@@ -1,5 +1,5 @@
 #include "Apps/workbench/bars/bars_view.h"
-#include "Apps/workbench/base/pictures.h"
+#include "Apps/workbench/bars/bar_face.h"
 #include "Apps/workbench/base/text.h"
 #include "Apps/workbench/base/theme.h"
 #include <QAction>
@@ -19,7 +19,7 @@ bool showsAnything(const host::Bar& bar) {
     return std::any_of(bar.list().begin(), bar.list().end(), [](const auto& control) { return control->Visible(); });
 }
 
-/// What the window has other than the model's: left alone where it is the same, for a menu may be open.
+/// Does nothing if the widget has these actions already, because a menu may be open.
 void setActions(QWidget& widget, const QList<QAction*>& wanted, const QList<bool>& groups) {
     QList<QAction*> there;
     QList<bool> therefore;
@@ -46,20 +46,6 @@ void setActions(QWidget& widget, const QList<QAction*>& wanted, const QList<bool
     }
 }
 
-/// The dark lines of a face would vanish on a dark bar.
-QImage withLightLines(const QImage& face) {
-    constexpr int kDarkest = 60;
-    auto light = face.convertToFormat(QImage::Format_RGB32);
-    for (int y = 0; y < light.height(); ++y)
-        for (int x = 0; x < light.width(); ++x) {
-            const auto colour = light.pixelColor(x, y);
-            if (qGray(colour.rgb()) < kDarkest)
-                light.setPixelColor(
-                    x, y, QColor::fromHsv(colour.hsvHue(), colour.hsvSaturation() / 2, 255 - colour.value() / 4));
-        }
-    return light;
-}
-
 } // namespace
 
 BarsView::BarsView(host::Bars& bars, QMainWindow& window, Run run, LookOf lookOf)
@@ -72,7 +58,7 @@ BarsView::BarsView(host::Bars& bars, QMainWindow& window, Run run, LookOf lookOf
     constexpr int kFaceSize = 16;
     window.setIconSize({kFaceSize, kFaceSize});
     redraw_.setSingleShot(true);
-    redraw_.setInterval(0); // a menu is built by hundreds of changes
+    redraw_.setInterval(0); // building a menu causes hundreds of changes
     QObject::connect(&redraw_, &QTimer::timeout, [this] { draw(); });
     draw();
 }
@@ -127,20 +113,12 @@ void BarsView::showButton(Drawn& drawn, const host::BarControl& control) {
     const auto looks = std::pair(control.face(), currentTheme());
     if (drawn.looks != looks) {
         drawn.looks = looks;
-        action.setIcon(iconOf(control, looks.second));
+        const auto face = iconOfFace(control.face(), looks.second);
+        action.setIcon(face.isNull() ? lookOf_(control.Id()).icon : face);
     }
     action.setIconVisibleInMenu(control.Style() != office::msoButtonCaption);
     action.setCheckable(control.checked().has_value());
     action.setChecked(control.checked().value_or(false));
-}
-
-QIcon BarsView::iconOf(const host::BarControl& control, Theme theme) const {
-    auto face = imageOf(control.face());
-    if (face.isNull()) return lookOf_(control.Id()).icon;
-    if (theme == Theme::Dark) face = withLightLines(face);
-    QIcon icon;
-    for (const int scale : {1, 2, 3}) icon.addPixmap(seeThrough(face, scale));
-    return icon;
 }
 
 void BarsView::make(Drawn& drawn, const std::shared_ptr<host::BarControl>& control) {
@@ -163,18 +141,18 @@ void BarsView::makePopup(Drawn& drawn, const std::shared_ptr<host::BarControl>& 
 
 void BarsView::makeButton(Drawn& drawn, const std::shared_ptr<host::BarControl>& control) {
     drawn.button = std::make_unique<QAction>();
-    // a key that two of them had would work for neither
+    // a shortcut that two actions share works for neither
     const auto bar = control->Parent();
     const auto all = bars_.items();
     const bool isInToolbar = std::find(all.begin(), all.end(), bar) != all.end();
     if (!isInToolbar) drawn.button->setShortcut(lookOf_(control->Id()).key);
     QObject::connect(drawn.button.get(), &QAction::triggered, [this, link = std::weak_ptr(control)] {
         if (const auto clicked = link.lock()) run_([&] { clicked->Execute(); });
-        redraw_.start(); // Qt has turned a switch over, whatever came of it
+        redraw_.start(); // Qt has toggled a checkable action, even if the command failed
     });
 }
 
-/// Later, for it may be a click on one of them that removed it.
+/// Deletes actions later, as a click on the action itself may have removed the control.
 void BarsView::dropGone() {
     for (auto at = drawn_.begin(); at != drawn_.end();) {
         if (at->second.current) {

@@ -1,5 +1,5 @@
 #pragma once
-// Draws the host's menus and toolbars, whoever put them there.
+// Draws the host's menus and toolbars, including those of add-ins.
 #include "Apps/workbench/bars/toolbar_docking.h"
 #include "Apps/workbench/base/run.h"
 #include "Apps/workbench/base/theme.h"
@@ -35,17 +35,17 @@ public:
     ~BarsView();
     BarsView(const BarsView&) = delete;
 
-    /// Draws the model as it is, without waiting for Qt's loop.
+    /// Draws the model at once, without waiting for Qt's loop.
     void draw();
-    /// For what moves toolbars without the model, such as restoring the window.
-    void placeToolBars() { docking_.placeAnew(); }
+    /// Moves the toolbars to their places in the model, after something else than the model moved them.
+    void placeToolBars() { docking_.placeAgain(); }
 
 private:
-    /// What stands for a control as long as the host has it.
+    /// What draws a control, as long as the host has it.
     struct Drawn {
         std::unique_ptr<QAction> button;
         std::unique_ptr<QMenu> popup;
-        /// The face that its picture shows, and for which theme.
+        /// The face and theme that the icon was made for.
         std::optional<std::pair<std::string, Theme>> looks;
         bool current = false;
     };
@@ -56,7 +56,6 @@ private:
     void makePopup(Drawn& drawn, const std::shared_ptr<host::BarControl>& control);
     void makeButton(Drawn& drawn, const std::shared_ptr<host::BarControl>& control);
     void showButton(Drawn& drawn, const host::BarControl& control);
-    QIcon iconOf(const host::BarControl& control, Theme theme) const;
     void dropGone();
 
     host::Bars& bars_;

@@ -2,106 +2,41 @@
 #include "Apps/workbench/base/text.h"
 #include <QEvent>
 #include <QLayout>
-#include <QSettings>
 #include <algorithm>
-#include <array>
 #include <set>
 
 namespace workbench {
 
 namespace {
 
-struct Side {
-    office::MsoBarPosition position;
-    Qt::ToolBarArea area;
-};
-constexpr std::array kSides{
-    Side{office::msoBarTop, Qt::TopToolBarArea},
-    Side{office::msoBarBottom, Qt::BottomToolBarArea},
-    Side{office::msoBarLeft, Qt::LeftToolBarArea},
-    Side{office::msoBarRight, Qt::RightToolBarArea},
-};
-
-/// What is no side stands at the top, as a new bar does.
-Qt::ToolBarArea areaOf(int position) {
-    for (const auto& side : kSides)
-        if (side.position == position) return side.area;
-    return Qt::TopToolBarArea;
-}
-
-bool isPlace(int position) {
-    return position == office::msoBarFloating ||
-           std::any_of(kSides.begin(), kSides.end(), [=](const Side& side) { return side.position == position; });
-}
-
 int positionOf(const QMainWindow& window, const QToolBar& toolBar) {
     if (toolBar.isFloating()) return office::msoBarFloating;
     const auto area = window.toolBarArea(&toolBar);
-    for (const auto& side : kSides)
+    for (const auto& side : kBarSides)
         if (side.area == area) return side.position;
     return office::msoBarTop;
 }
 
-bool isUpright(int position) { return position == office::msoBarLeft || position == office::msoBarRight; }
-
-/// Across the rows, from the outermost one.
+/// The position across the rows, counted from the outermost one.
 int across(const QPoint& at, int position) {
     const int way = isUpright(position) ? at.x() : at.y();
     return position == office::msoBarRight || position == office::msoBarBottom ? -way : way;
 }
 
-int begin(const BarPlace& place) { return isUpright(place.position) ? place.top : place.left; }
-
 } // namespace
-
-// ---- a toolbar ---------------------------------------------------------------------------------------------------------
 
 QSize DockedBar::sizeHint() const {
     const auto room = orientation() == Qt::Vertical ? QSize(0, room_) : QSize(room_, 0);
     return QToolBar::sizeHint() + (isFloating() ? QSize() : room);
 }
 
-void DockedBar::roomBehind(int pixels) {
+void DockedBar::spaceAfter(int pixels) {
     if (std::exchange(room_, pixels) != pixels) updateGeometry();
 }
 
-// ---- its place ---------------------------------------------------------------------------------------------------------
-
-BarPlace placeOf(const host::Bar& bar) {
-    return {bar.Visible(), bar.Position(), bar.RowIndex(), bar.Left(), bar.Top()};
-}
-
-void setPlace(host::Bar& bar, const BarPlace& place) {
-    bar.Visible(place.visible);
-    bar.Position(place.position);
-    bar.RowIndex(place.row);
-    bar.Left(place.left);
-    bar.Top(place.top);
-}
-
-namespace {
-
-QString keyOf(const host::Bar& bar) { return "toolbars/" + qt(bar.Name()); }
-
-} // namespace
-
-void storePlace(const host::Bar& bar) {
-    const auto place = placeOf(bar);
-    QSettings().setValue(keyOf(bar), QVariantList{place.visible, place.position, place.row, place.left, place.top});
-}
-
-void restorePlace(host::Bar& bar) {
-    const auto stored = QSettings().value(keyOf(bar)).toList();
-    constexpr qsizetype kValues = 5;
-    if (stored.size() != kValues) return;
-    setPlace(bar, {stored[0].toBool(), stored[1].toInt(), stored[2].toInt(), stored[3].toInt(), stored[4].toInt()});
-}
-
-// ---- all of them -------------------------------------------------------------------------------------------------------
-
 ToolBarDocking::ToolBarDocking(QMainWindow& window) : window_(window) {
     settled_.setSingleShot(true);
-    settled_.setInterval(0); // when the window has laid out what the user let go of
+    settled_.setInterval(0); // after the window has laid out what the user dropped
     connect(&settled_, &QTimer::timeout, this, [this] { writeBack(); });
     window.installEventFilter(this);
 }
@@ -116,7 +51,7 @@ QToolBar& ToolBarDocking::toolBarOf(const std::shared_ptr<host::Bar>& bar) {
     connect(toolBar->toggleViewAction(), &QAction::triggered, this, [link = std::weak_ptr(bar)](bool shows) {
         if (const auto toggled = link.lock()) toggled->Visible(shows);
     });
-    constexpr int kNowhere = -1; // so that it is placed
+    constexpr int kNowhere = -1; // so that place() moves it
     entries_.push_back({bar, toolBar, {.position = kNowhere}});
     return *toolBar;
 }
@@ -139,7 +74,7 @@ ToolBarDocking::Row ToolBarDocking::side(int position) {
     for (auto& entry : entries_)
         if (entry.placed.position == position) found.push_back(&entry);
     std::stable_sort(found.begin(), found.end(), [](const Entry* one, const Entry* other) {
-        return std::pair(one->placed.row, begin(one->placed)) < std::pair(other->placed.row, begin(other->placed));
+        return std::pair(one->placed.row, one->placed.begin()) < std::pair(other->placed.row, other->placed.begin());
     });
     return found;
 }
@@ -154,14 +89,14 @@ void ToolBarDocking::layOut() {
     for (auto& entry : entries_) {
         entry.placed = placeOf(*entry.bar);
         if (!isPlace(entry.placed.position)) entry.placed.position = office::msoBarTop;
-        entry.toolBar->roomBehind(0);
+        entry.toolBar->spaceAfter(0);
     }
-    for (const auto& [position, area] : kSides) {
+    for (const auto& [position, area] : kBarSides) {
         dock(side(position));
         makeRoom(shownAt(position));
     }
     for (const auto* entry : side(office::msoBarFloating)) floatBar(*entry);
-    settled_.start(); // an add-in is to store where they came to stand
+    settled_.start(); // so that an add-in can store their final places
 }
 
 void ToolBarDocking::dock(const Row& side) {
@@ -186,13 +121,13 @@ void ToolBarDocking::makeRoom(const Row& side) {
         const auto size = side[i]->toolBar->sizeHint();
         end += isUpright(placed.position) ? size.height() : size.width();
         const bool sameRow = next.row == placed.row;
-        const int room = sameRow ? std::max(0, begin(next) - end) : 0;
-        side[i]->toolBar->roomBehind(room);
+        const int room = sameRow ? std::max(0, next.begin() - end) : 0;
+        side[i]->toolBar->spaceAfter(room);
         end = sameRow ? end + room : 0;
     }
 }
 
-/// As Qt itself does with a toolbar that is dragged away.
+/// Uses the window flags that Qt sets when a toolbar is dragged away.
 void ToolBarDocking::floatBar(const Entry& entry) {
     if (window_.toolBarArea(entry.toolBar) == Qt::NoToolBarArea) window_.addToolBar(entry.toolBar);
     entry.toolBar->setWindowFlags(Qt::Tool | Qt::FramelessWindowHint);
@@ -212,7 +147,7 @@ void ToolBarDocking::writeBack() {
     window_.layout()->activate();
     for (auto& entry : entries_)
         if (entry.placed.visible) entry.placed.position = positionOf(window_, *entry.toolBar);
-    for (const auto& [position, area] : kSides) readSide(shownAt(position), position);
+    for (const auto& [position, area] : kBarSides) readSide(shownAt(position), position);
     for (auto* entry : shownAt(office::msoBarFloating)) {
         entry->placed.left = entry->toolBar->x();
         entry->placed.top = entry->toolBar->y();

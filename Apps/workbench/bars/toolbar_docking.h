@@ -1,54 +1,39 @@
 #pragma once
-// Where the toolbars stand: the host's model says it, and what the user drags is written back to the model.
-#include "Host/model/bars/bars.h"
+// Places the toolbars as the host's model says, and writes what the user drags back to the model.
+#include "Apps/workbench/bars/bar_place.h"
 #include <QMainWindow>
 #include <QTimer>
 #include <QToolBar>
-#include <compare>
 #include <memory>
 #include <vector>
 
 namespace workbench {
 
-/// A toolbar with room behind it, so that the next one of its row begins where it is to.
+/// A toolbar with space after it, so that the next one of its row begins in its place.
 class DockedBar final : public QToolBar {
 public:
     using QToolBar::QToolBar;
 
     QSize sizeHint() const override;
     /// Pixels along the row.
-    void roomBehind(int pixels);
+    void spaceAfter(int pixels);
 
 private:
     int room_ = 0;
 };
 
-/// A bar's properties, as an add-in stores them. Docked, `left` and `top` count from the corner of the bars of its side,
-/// floating from the corner of the screen; `row` counts from 1, the outermost.
-struct BarPlace {
-    bool visible = true;
-    int position = office::msoBarTop, row = 1, left = 0, top = 0;
-    auto operator<=>(const BarPlace&) const = default;
-};
-BarPlace placeOf(const host::Bar& bar);
-void setPlace(host::Bar& bar, const BarPlace& place);
-
-/// The place of one of the host's own bars in the user's settings; what is not stored there stays.
-void storePlace(const host::Bar& bar);
-void restorePlace(host::Bar& bar);
-
 class ToolBarDocking final : public QObject {
 public:
     explicit ToolBarDocking(QMainWindow& window);
 
-    /// The toolbar of a bar, made when it has none.
+    /// Returns the toolbar of a bar, creating it if necessary.
     QToolBar& toolBarOf(const std::shared_ptr<host::Bar>& bar);
-    /// Toolbars of bars that are not among these go.
+    /// Deletes the toolbars of all other bars.
     void keep(const std::vector<std::shared_ptr<host::Bar>>& bars);
-    /// Moves the toolbars to where the model has them; none when all stand there.
+    /// Moves the toolbars to their places in the model, unless all are there.
     void place();
-    /// As place, also when something else than the user has moved them.
-    void placeAnew() { layOut(); }
+    /// Like place, but always moves them.
+    void placeAgain() { layOut(); }
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -57,7 +42,7 @@ private:
     struct Entry {
         std::shared_ptr<host::Bar> bar;
         DockedBar* toolBar;
-        /// As it was placed or written back last.
+        /// When it was last placed or written back.
         BarPlace placed;
     };
 
@@ -69,7 +54,7 @@ private:
     void floatBar(const Entry& entry);
     void writeBack();
     static void readSide(const Row& side, int position);
-    /// In their order, row by row.
+    /// The toolbars of a side in order, row by row.
     Row side(int position);
     Row shownAt(int position);
 

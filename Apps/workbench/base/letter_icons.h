@@ -1,5 +1,5 @@
 #pragma once
-// Pictures of projects and components, drawn as fine as the screen is.
+// The icons of projects and components, sharp on every screen.
 #include "Add-in/platform/host_project.h"
 #include <QIcon>
 

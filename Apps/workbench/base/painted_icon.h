@@ -4,7 +4,7 @@
 
 namespace workbench {
 
-/// An icon that is painted for each screen as fine as that is.
+/// An icon that is painted at the resolution of each screen.
 class PaintedIcon : public QIconEngine {
 public:
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {

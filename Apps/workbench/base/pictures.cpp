@@ -20,7 +20,7 @@ constexpr std::array kPictures{
     Picture{"devices", QStyle::SP_ComputerIcon},
 };
 
-/// The grey that stands for nothing in a picture of the installation.
+/// The background grey of the installation's pictures.
 const QColor kPictureGround(192, 192, 192);
 
 } // namespace

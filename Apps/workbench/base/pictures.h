@@ -5,16 +5,16 @@
 
 namespace workbench {
 
-/// The picture that a form asks for by name, in the window's style, or by the path of its file; an empty one for a name
-/// that is not known and for a file that is no picture.
+/// Returns a form's picture, either one of the style's by its name or a file by its path. Null for an unknown name or a
+/// file that is not a picture.
 QPixmap pictureNamed(const std::string& name, const QWidget& window);
 
-/// Of a BMP file's bytes; an empty one for what is no picture.
+/// Decodes a BMP file's bytes. Null if they are not a picture.
 QImage imageOf(const std::string& bmp);
-/// With the grey that stands for nothing in the installation's pictures see-through, and each pixel as whole pixels of a
-/// screen with this device pixel ratio.
+/// Makes the background grey of the installation's pictures transparent and scales the picture to this device pixel
+/// ratio, without smoothing.
 QPixmap seeThrough(const QImage& image, int scale = 1);
-/// Both at once.
+/// imageOf and seeThrough in one step.
 QPixmap pictureOf(const std::string& bmp);
 
 } // namespace workbench

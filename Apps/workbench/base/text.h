@@ -1,5 +1,5 @@
 #pragma once
-// Between the system's texts and Qt's.
+// Conversion between UTF-8 strings and Qt's.
 #include <QString>
 #include <string>
 

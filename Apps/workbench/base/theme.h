@@ -1,5 +1,5 @@
 #pragma once
-// How the desktop looks.
+// The colours of the desktop.
 #include <QColor>
 #include <QPalette>
 
@@ -7,13 +7,13 @@ namespace workbench {
 
 enum class Theme { Light, Dark };
 
-/// Light or dark as the desktop is.
+/// The theme that is closer to the palette in use.
 Theme systemTheme();
-/// The whole program in one style, so that it looks alike on every desktop.
+/// Sets the style and palette of the whole program, so that it looks the same on every desktop.
 void apply(Theme theme);
 Theme currentTheme();
 
-/// The colours of code.
+/// The colours of the code windows.
 struct CodeColours {
     QColor paper, text, keyword, comment, string, number, directive, margin, marginText, currentLine, error, warning;
 };

@@ -2,7 +2,7 @@
 
 namespace workbench {
 
-/// On every screen: forms and windows of the language are measured as on one of 96 dots an inch.
+/// The same on every screen: the language measures forms and windows as if all had 96 dots per inch.
 inline constexpr int kTwipsPerPixel = 15;
 
 } // namespace workbench

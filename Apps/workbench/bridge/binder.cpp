@@ -17,7 +17,7 @@ namespace {
 
 using namespace fernwick;
 
-/// Without Q_OBJECT Qt knows a class by its base alone.
+/// Qt's own findChildren needs Q_OBJECT to tell a class from its base.
 template <class W>
 std::vector<W*> childrenOf(const QWidget& window) {
     std::vector<W*> found;
@@ -44,7 +44,7 @@ void bindCheckBox(CheckBox& control, QCheckBox& widget, Binding& binding) {
                      [&](bool ticked) { binding.act([&] { control.Value(ticked ? 1 : 0); }); });
 }
 
-/// Has a label clicked as a link.
+/// Makes a label look and react like a link.
 class ClickedLabel final : public QObject {
 public:
     ClickedLabel(QLabel& widget, std::function<void()> clicked) : QObject(&widget), clicked_(std::move(clicked)) {
@@ -67,7 +67,7 @@ void bindLabel(fernwick::Label& control, QLabel& widget, Binding& binding) {
     binding.show(control.Caption, [&widget](const std::string& caption) { widget.setText(qt(caption)); });
 }
 
-/// Drawn at once: the work that it tells of leaves no time to Qt's loop.
+/// Draws at once, as the work in progress does not return to Qt's loop.
 void bindProgressBar(ProgressBar& control, QProgressBar& widget, Binding& binding) {
     const auto draw = [&control, &widget](float) {
         constexpr int kSteps = 1000;
@@ -123,7 +123,7 @@ void bindListBox(ListBox& control, QListWidget& widget, Binding& binding) {
     };
     show({ListBox::Change::Reset, -1});
     binding.keep(control.changed.connect(show));
-    // the current row may be one that nobody chose: the focus takes the first
+    // not the current row: getting the focus makes the first row current without a choice
     QObject::connect(&widget, &QListWidget::itemSelectionChanged, &widget, [&] {
         const auto chosen = widget.selectedItems();
         const int row = chosen.isEmpty() ? -1 : widget.row(chosen.front());
@@ -138,7 +138,7 @@ bool tryBind(Control& control, QWidget& widget, Binding& binding) {
     auto* const own = dynamic_cast<C*>(&control);
     if (!own) return false;
     auto* const drawn = dynamic_cast<W*>(&widget);
-    if (!drawn) throw basic::RuntimeError(basic::kTypeMismatch, "Widget '" + control.Name + "' is of another kind");
+    if (!drawn) throw basic::RuntimeError(basic::kTypeMismatch, "Widget '" + control.Name + "' is of the wrong kind");
     bindKind(*own, *drawn, binding);
     return true;
 }
@@ -156,7 +156,7 @@ constexpr std::array kKinds{
 void bind(Control& control, QWidget& widget, Binding& binding) {
     bool known = false;
     for (const auto& kind : kKinds) known = known || kind(control, widget, binding);
-    if (!known) throw basic::RuntimeError(basic::kTypeMismatch, "Control '" + control.Name + "' is of no known kind");
+    if (!known) throw basic::RuntimeError(basic::kTypeMismatch, "Control '" + control.Name + "' is of an unknown kind");
     binding.show(control.Visible, [&widget](bool visible) { widget.setVisible(visible); });
     binding.show(control.Enabled, [&widget](bool enabled) { widget.setEnabled(enabled); });
     binding.show(control.ToolTipText, [&widget](const std::string& tip) { widget.setToolTip(qt(tip)); });

@@ -1,5 +1,5 @@
 #pragma once
-// Ties the controls of a form to the widgets of a window that have their names.
+// Binds the controls of a form to the widgets with the same names.
 #include "Add-in/platform/controls.h"
 #include <QWidget>
 #include <exception>
@@ -9,7 +9,7 @@
 
 namespace workbench {
 
-/// What lasts as long as a form's window stands.
+/// The connections of a form's window, released with it.
 class Binding {
 public:
     using Failed = std::function<void(std::exception_ptr)>;
@@ -23,7 +23,7 @@ public:
         keep(property.watch([show](const T& value) { show(value); }));
     }
     void keep(fernwick::Subscription subscription) { kept_.push_back(std::move(subscription)); }
-    /// Does what the user asked for. What a handler lets out goes to the window, not into Qt's loop.
+    /// Runs what the user asked for and passes an error to the window, as no exception may cross Qt's loop.
     template <class Act>
     void act(Act&& act) const {
         try {
@@ -36,11 +36,10 @@ private:
     std::vector<fernwick::Subscription> kept_;
 };
 
-/// Ties one control to its widget. Error 13 for a widget that is not of the control's kind.
+/// Binds one control to its widget. Error 13 if the widget does not suit the kind of control.
 void bind(fernwick::Control& control, QWidget& widget, Binding& binding);
 
-/// Ties every control of a form to the widget of its name in `window`. Error 730, with the name, for a control
-/// without a widget.
+/// Binds every control of a form to the widget with its name in `window`. Error 730, with the name, if there is none.
 void bindControls(fernwick::Form& form, QWidget& window, Binding& binding);
 
 } // namespace workbench

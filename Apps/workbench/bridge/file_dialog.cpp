@@ -12,13 +12,13 @@ using namespace fernwick;
 
 constexpr int kBufferTooSmall = 20476;
 
-/// "Icons|*.ico;*.bmp|All|*" as Qt writes it.
+/// "Icons|*.ico;*.bmp|All|*" in the syntax of Qt.
 QStringList nameFilters(const std::string& filter) {
     QStringList filters;
     const auto parts = qt(filter).split('|', Qt::SkipEmptyParts);
     for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
         auto description = parts[i];
-        const auto patterns = description.indexOf('('); // it often repeats them
+        const auto patterns = description.indexOf('('); // the description often repeats the patterns
         if (patterns >= 0) description.truncate(patterns);
         filters << QString("%1 (%2)").arg(description.trimmed(), QString(parts[i + 1]).replace(';', ' '));
     }
@@ -32,12 +32,12 @@ void prepare(QFileDialog& window, const CommonDialog& dialog) {
         window.selectNameFilter(filters[std::clamp<qsizetype>(dialog.FilterIndex - 1, 0, filters.size() - 1)]);
     }
     if (!dialog.InitDir.empty()) window.setDirectory(qt(dialog.InitDir));
-    const bool isOneName = dialog.FileName.find('\0') == std::string::npos; // it may be several of an earlier choice
+    const bool isOneName = dialog.FileName.find('\0') == std::string::npos; // an earlier choice may have left several
     if (!dialog.FileName.empty() && isOneName) window.selectFile(qt(dialog.FileName));
     window.setDefaultSuffix(qt(dialog.DefaultExt));
 }
 
-/// One path, or the folder and the names in it.
+/// Returns one path, or the folder followed by the names in it.
 std::string namesOf(const QStringList& files) {
     if (files.size() == 1) return text(files.front());
     auto names = text(QFileInfo(files.front()).path());

@@ -6,7 +6,7 @@ namespace workbench {
 
 enum class FileQuestion { Open, Save };
 
-/// Interaction's ShowOpen and ShowSave. Whether an existing file may be replaced is the caller's question.
+/// Implements ShowOpen and ShowSave. The caller asks whether to overwrite an existing file.
 void askForFile(fernwick::CommonDialog& dialog, FileQuestion question, QWidget* parent);
 
 } // namespace workbench

@@ -21,7 +21,7 @@ class FormLoader final : public QUiLoader {
         if (className != "MovingPicture") return QUiLoader::createWidget(className, parent, name);
         auto widget = std::make_unique<MovingPicture>(parent);
         widget->setObjectName(name);
-        return widget.release(); // the parent's
+        return widget.release(); // owned by the parent
     }
 };
 
@@ -60,7 +60,8 @@ void FormWindow::bindForm() {
     }));
 }
 
-/// A window system shows a window some time after it was asked to; the work of a progress form would not let it.
+/// The window system shows a window asynchronously. Without waiting, the work of a progress form would keep it from
+/// being drawn.
 void FormWindow::waitUntilDrawn() {
     constexpr int kPatience = 500, kTurn = 10; // milliseconds
     QElapsedTimer waited;
@@ -74,7 +75,7 @@ void FormWindow::run() {
     show();
     waitUntilDrawn();
     QTimer::singleShot(0, this, [this] { activateForm(); });
-    if (form_.Visible() && !error_) loop_.exec(); // a timer may have ended it meanwhile
+    if (form_.Visible() && !error_) loop_.exec(); // a timer may have ended it already
     hide();
     if (error_) std::rethrow_exception(std::exchange(error_, nullptr));
 }

@@ -6,22 +6,22 @@
 
 namespace workbench {
 
-/// Loads forms/TYPENAME.ui, which is made to be edited in Qt Designer: object names are the names of the controls.
+/// Loads forms/TYPENAME.ui, which can be edited in Qt Designer; object names are the names of the controls.
 /// Error 53 for a form without such a file.
 class FormWindow final : public QDialog {
 public:
     FormWindow(fernwick::Form& form, QWidget* parent);
 
-    /// Shows the form, runs its first Activate when it stands, and turns Qt's loop until it is hidden or unloaded. An
-    /// error that a handler let out ends it and comes out here.
+    /// Shows the form, raises its first Activate once it is visible, and runs Qt's loop until the form is hidden or
+    /// unloaded. An error that a handler does not catch ends the loop and is thrown here.
     void run();
-    /// The form comes to the front again.
+    /// Raises Activate again when the form comes to the front.
     void activateForm();
 
 protected:
-    /// A progress form has no close box; another form unloads.
+    /// Unloads the form, unless it has no close box.
     void closeEvent(QCloseEvent* event) override;
-    /// Escape presses the button that says so.
+    /// Called for Escape: presses the Cancel button.
     void reject() override;
 
 private:

@@ -9,7 +9,7 @@ namespace {
 constexpr int kMillisecondsAFrame = 100;
 constexpr int kChunkHead = 8, kListHead = 12, kBitmapFileHead = 14;
 
-/// A frame is a bitmap without the head of a bitmap's file.
+/// A frame is a bitmap without the file header.
 QImage imageOfFrame(const QByteArray& format, const QByteArray& pixels) {
     QByteArray bitmap(kBitmapFileHead, '\0');
     bitmap[0] = 'B';

@@ -7,18 +7,18 @@
 
 namespace workbench {
 
-/// The frames of an uncompressed AVI film with a palette, of which entry 0 is transparent; none for what is no such film.
+/// Returns the frames of an uncompressed AVI with a palette; entry 0 is transparent. Empty for any other file.
 std::vector<QPixmap> framesOf(const QByteArray& avi);
 
 class MovingPicture final : public QLabel {
 public:
     explicit MovingPicture(QWidget* parent);
 
-    /// A file that can't be read shows nothing.
+    /// Shows nothing if the file cannot be read.
     void open(const QString& path);
-    /// So many times, -1 for ever, 0 not at all.
+    /// Plays the animation this many times: -1 repeats it, 0 stops it.
     void play(int times);
-    /// For work that leaves no time to Qt's loop: draws the frame that is due by now.
+    /// Draws the frame that is due now. For work that does not return to Qt's loop.
     void drawDue();
 
 private:

@@ -32,7 +32,7 @@ void QtLoop::arm() {
 }
 
 void QtLoop::wake() {
-    arm(); // first: a delivery may show a form, whose nested loop must be woken too
+    arm(); // first, as a delivery may show a form whose nested loop must wake too
     try {
         loop_.DoEvents();
     } catch (...) { failed_(std::current_exception()); }

@@ -1,12 +1,12 @@
 #pragma once
-// The add-in's message loop, turned by Qt's.
+// The add-in's message loop on top of Qt's.
 #include "Host/system/event_loop.h"
 #include <QObject>
 
 namespace workbench {
 
-/// Deliveries happen when Qt's loop runs, nested ones too. What a delivery lets out is told to `failed`, for no error
-/// crosses Qt's loop; in DoEvents it comes out to the caller.
+/// Delivers whenever Qt's loop runs, including nested loops. An error of a delivery is passed to `failed`, because no
+/// exception may cross Qt's loop; DoEvents throws it to its caller.
 class QtLoop final : public fernwick::EventLoop {
 public:
     using Failed = std::function<void(std::exception_ptr)>;
@@ -18,8 +18,8 @@ public:
     [[nodiscard]] fernwick::Subscription StartTimer(int interval, std::function<void()> tick) override;
 
 private:
-    /// Has Qt wake us when the next delivery is due. Each wake has a timer of its own: one that is being served would
-    /// not fire in a nested loop.
+    /// Starts a timer for the next delivery. Each delivery has its own timer, as a timer that is being served does not
+    /// fire in a nested loop.
     void arm();
     void wake();
 

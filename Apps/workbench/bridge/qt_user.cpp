@@ -22,7 +22,7 @@ struct BoxButton {
 constexpr BoxButton kOk{QMessageBox::Ok, vbOK}, kCancel{QMessageBox::Cancel, vbCancel}, kYes{QMessageBox::Yes, vbYes},
     kNo{QMessageBox::No, vbNo};
 
-/// In the order in which default buttons are counted.
+/// In the order that vbDefaultButton1, 2 and 3 refer to.
 std::vector<BoxButton> buttonsOf(int style) {
     switch (style & kButtons) {
     case vbOKCancel: return {kOk, kCancel};

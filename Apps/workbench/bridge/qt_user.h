@@ -1,5 +1,5 @@
 #pragma once
-// The add-in's user at the desktop.
+// The add-in's dialogs on the desktop.
 #include "Add-in/platform/interaction.h"
 #include <QWidget>
 #include <vector>
@@ -13,14 +13,14 @@ public:
     void showModal(fernwick::Form& form) override;
     int MsgBox(const std::string& text, int buttons, const std::string& title) override;
     void ShowSave(fernwick::CommonDialog& dialog) override;
-    /// Error 20476 for names that are together longer than MaxFileSize.
+    /// Error 20476 if the names together are longer than MaxFileSize.
     void ShowOpen(fernwick::CommonDialog& dialog) override;
     void MessageBeep(int type) override;
-    /// Until Qt's loop turns, as the next move of the mouse would end it.
+    /// Lasts until Qt's loop turns, as the next mouse move would reset it.
     void SetCursor(fernwick::MousePointerShape shape) override;
     void SetRedraw(bool redraw) override;
 
-    /// Above which windows stand; null for none.
+    /// The parent of boxes and forms; null for none.
     QWidget* mainWindow = nullptr;
 
 private:

@@ -9,7 +9,7 @@ namespace workbench {
 
 namespace {
 
-/// Lines of one module that are looked through.
+/// The lines of one module to be searched.
 struct Stretch {
     vbide::Ref<vbide::VBComponent> component;
     LineRange lines{0, std::numeric_limits<int>::max()};
@@ -37,7 +37,7 @@ bool isBefore(const CodePlace& a, int line, int column) {
     return std::pair(a.line, a.column) < std::pair(line, column);
 }
 
-/// The first hit from the end of `from` on, or the last one before it.
+/// Returns the first hit after the end of `from`, or the last one before it.
 std::optional<CodePlace> beyond(const std::vector<CodePlace>& places, const CodePlace& from, bool backwards) {
     std::optional<CodePlace> before;
     for (const auto& place : places) {
@@ -57,7 +57,7 @@ std::optional<Found> findNext(const CodePattern& pattern, FindScope scope, const
     const int start = int(own - stretches.begin());
     if (start == count) return {};
     if (const auto place = beyond(hitsOf(pattern, *own), from, backwards)) return Found{*place, false};
-    // the others in their order, then what of its own module has not been looked through
+    // the other modules in order, then the rest of its own module
     for (int step = 1; step <= count; ++step) {
         const int at = start + (backwards ? -step : step);
         const auto places = hitsOf(pattern, stretches[std::size_t((at + count) % count)]);
@@ -79,7 +79,7 @@ LineRange procedureAround(vbide::CodeModule& module, int line) {
     for (const auto& member : module.Members())
         for (const auto kind : {vbext_pk_Proc, vbext_pk_Get, vbext_pk_Let, vbext_pk_Set}) {
             int first = 0, count = 0;
-            (void)basic::attempt([&] { // a member that is no such procedure
+            (void)basic::attempt([&] { // the member may not be a procedure of this kind
                 first = module.ProcStartLine(member.Name, kind) - 1;
                 count = module.ProcCountLines(member.Name, kind);
             });

@@ -1,5 +1,5 @@
 #pragma once
-// Looks through the code of a project as the host holds it, whether a window shows it or not.
+// Searches the code of a project in the host, whether a window shows it or not.
 #include "Add-in/platform/host_project.h"
 #include "Apps/workbench/code/code_pattern.h"
 #include <optional>
@@ -16,27 +16,27 @@ struct CodePlace {
 
 struct Found {
     CodePlace place;
-    /// The search came to the end of what it looks through, and went on at its other end.
+    /// The search reached one end of its scope and continued from the other.
     bool wentRound = false;
 };
 
-/// The next hit behind `from`, or before it. In a project the modules follow one another as it lists them. `from` itself
-/// is found when it is the only one.
+/// Returns the next hit after `from`, or before it. Modules are searched in the order of the project. `from` itself is
+/// found if it is the only hit.
 std::optional<Found> findNext(const CodePattern& pattern, FindScope scope, const CodePlace& from, bool backwards);
 
-/// All hits of one module, in the order of its code.
+/// All hits of one module, in ascending order.
 struct ModuleHits {
     vbide::Ref<vbide::VBComponent> component;
     std::vector<CodePlace> places;
 };
-/// The modules that have any.
+/// Returns the modules that have any hits.
 std::vector<ModuleHits> findAll(const CodePattern& pattern, FindScope scope, const CodePlace& from);
 
 /// Lines from 0, the last one included.
 struct LineRange {
     int first = 0, last = 0;
 };
-/// The procedure in which a line stands; the declarations above the first one where it stands in none.
+/// Returns the procedure that contains a line; the declarations at the top if none does.
 LineRange procedureAround(vbide::CodeModule& module, int line);
 
 } // namespace workbench

@@ -17,7 +17,7 @@ void CodeInput::inputMethodEvent(QInputMethodEvent* event) {
     const QScopedValueRollback within(typing_, true);
     if (event->commitString().isEmpty() || accepts_(event->commitString()))
         return QsciScintilla::inputMethodEvent(event);
-    QInputMethodEvent nothing; // what was composed goes, and nothing comes
+    QInputMethodEvent nothing; // replaces what was composed by nothing
     QsciScintilla::inputMethodEvent(&nothing);
 }
 
@@ -31,7 +31,7 @@ void CodeInput::dragMoveEvent(QDragMoveEvent* event) {
     QsciScintilla::dragMoveEvent(event);
 }
 
-/// While something is only dragged over the text nobody has to be told.
+/// While something is only dragged over the text, a refusal must not be reported.
 bool CodeInput::canInsertFromMimeData(const QMimeData* source) const {
     return QsciScintilla::canInsertFromMimeData(source) && (dragging_ || accepts_(source->text()));
 }

@@ -1,5 +1,5 @@
 #pragma once
-// The editing component, which takes in only what a file can hold.
+// The editing component, restricted to characters that the file can hold.
 #include "Apps/workbench/code/scintilla.h"
 #include <functional>
 
@@ -7,12 +7,12 @@ namespace workbench {
 
 class CodeInput final : public QsciScintilla {
 public:
-    /// Asked of each text that the user types, pastes or drops, before anything of the old one goes for it.
+    /// Called with each text that the user types, pastes or drops, before it replaces anything.
     using Accepts = std::function<bool(const QString&)>;
 
     explicit CodeInput(Accepts accepts) : accepts_(std::move(accepts)) {}
 
-    /// Whether what happens just now comes from the user's keys.
+    /// Whether the current change comes from the user's keys.
     bool isTyping() const { return typing_; }
 
 protected:

@@ -6,8 +6,8 @@ namespace workbench {
 
 namespace {
 
-/// Does this with each line of the selection. A line at whose start the selection ends is not a part of it. What was
-/// selected stays so, as whole lines.
+/// Calls `act` with each selected line, or the cursor's. A line at whose start the selection ends does not count. The
+/// lines stay selected as a whole.
 void eachLine(QsciScintilla& editor, const std::function<void(int)>& act) {
     int first = 0, column = 0, last = 0, lastColumn = 0;
     editor.getSelection(&first, &column, &last, &lastColumn);
@@ -27,7 +27,7 @@ void bind(QsciCommandSet& commands, QsciCommand::Command command, int key) {
     if (auto* const one = commands.find(command)) one->setKey(key);
 }
 
-/// Leaves the key to the window's commands.
+/// Removes the key, so that the window's commands get it.
 void leave(QsciCommandSet& commands, int key) {
     auto* const command = commands.boundTo(key);
     if (!command) return;
@@ -36,6 +36,28 @@ void leave(QsciCommandSet& commands, int key) {
 }
 
 } // namespace
+
+QString lineText(const QsciScintilla& editor, int line) {
+    auto shown = editor.text(line);
+    while (shown.endsWith('\n') || shown.endsWith('\r')) shown.chop(1);
+    return shown;
+}
+
+void replaceLine(QsciScintilla& editor, int line, const QString& now) {
+    const auto start = editor.SendScintilla(QsciScintillaBase::SCI_POSITIONFROMLINE, line);
+    const auto length = long(lineText(editor, line).toUtf8().size());
+    const auto bytes = now.toUtf8();
+    editor.SendScintilla(QsciScintillaBase::SCI_SETTARGETSTART, start);
+    editor.SendScintilla(QsciScintillaBase::SCI_SETTARGETEND, start + length);
+    editor.SendScintilla(QsciScintillaBase::SCI_REPLACETARGET, std::size_t(bytes.size()), bytes.constData());
+}
+
+int currentLine(const QsciScintilla& editor) {
+    int line = 0, column = 0, lastLine = 0, lastColumn = 0;
+    editor.getSelection(&line, &column, &lastLine, &lastColumn);
+    if (line < 0) editor.getCursorPosition(&line, &column);
+    return line;
+}
 
 void indentLines(QsciScintilla& editor) {
     eachLine(editor, [&editor](int line) { editor.indent(line); });

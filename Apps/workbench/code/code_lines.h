@@ -1,21 +1,29 @@
 #pragma once
-// What commands do to the lines of an editor in which something is selected, or the cursor stands. Each is one step to
-// undo.
+// Lines of an editor, and the commands on them.
+#include <QString>
 
 class QsciScintilla;
 
 namespace workbench {
 
+/// A line (from 0) without its line end.
+QString lineText(const QsciScintilla& editor, int line);
+void replaceLine(QsciScintilla& editor, int line, const QString& now);
+/// The first line of the selection, or the cursor's if nothing is selected.
+int currentLine(const QsciScintilla& editor);
+
+// ---- commands on the selected lines, or the cursor's: each is one undo step ----
+
 void indentLines(QsciScintilla& editor);
 void outdentLines(QsciScintilla& editor);
-/// Puts a ' before each line.
+/// Inserts a ' at the start of each line.
 void commentLines(QsciScintilla& editor);
-/// Takes away the first ' of each line that begins with one, blanks before it left alone.
+/// Removes the first ' of each line that begins with one, after any blanks.
 void uncommentLines(QsciScintilla& editor);
-/// Moves the line of the cursor to the clipboard.
+/// Cuts the cursor's line to the clipboard.
 void cutLine(QsciScintilla& editor);
 
-/// Keys as the language's own IDE has them, where the editing component has others.
+/// Changes the keys of the editing component to those of the language's own IDE, and leaves others to the window.
 void bindKeys(QsciScintilla& editor);
 
 } // namespace workbench

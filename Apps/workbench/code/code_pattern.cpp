@@ -5,10 +5,10 @@ namespace workbench {
 
 namespace {
 
-constexpr auto kNothingToFind = "There is nothing to look for.";
-constexpr auto kUnclosedList = "The pattern lacks a ].";
+constexpr auto kNothingToFind = "Enter a text to find.";
+constexpr auto kUnclosedList = "The pattern has a [ without a ].";
 
-/// The list behind a "[" up to its "]"; nothing where that is missing. "]" can stand in no list.
+/// Converts the list after a "[", up to its "]". Empty if that is missing. A list cannot contain "]".
 std::optional<QString> listAt(const QString& pattern, qsizetype& at) {
     const auto end = pattern.indexOf(']', at + 1);
     if (end < 0) return {};
@@ -20,7 +20,7 @@ std::optional<QString> listAt(const QString& pattern, qsizetype& at) {
     return (none ? "[^" : "[") + list.replace('\\', "\\\\").replace('[', "\\[").replace('^', "\\^") + "]";
 }
 
-/// The same in the words of a regular expression; nothing for a pattern that is none.
+/// Converts a pattern to a regular expression. Empty for an invalid pattern.
 std::optional<QString> expressionOf(const QString& pattern) {
     QString expression;
     for (qsizetype at = 0; at < pattern.size(); ++at) {
@@ -30,7 +30,7 @@ std::optional<QString> expressionOf(const QString& pattern) {
         } else if (sign == '#') {
             expression += "[0-9]";
         } else if (sign == '*') {
-            // as little as will do; at the end of the pattern that would be nothing
+            // the shortest match, except at the end of the pattern, where it would be empty
             expression += at + 1 == pattern.size() ? ".*" : ".*?";
         } else if (sign == '[') {
             const auto list = listAt(pattern, at);

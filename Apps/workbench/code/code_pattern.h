@@ -1,5 +1,5 @@
 #pragma once
-// What is looked for in lines of code.
+// The text or pattern to find in lines of code.
 #include <QRegularExpression>
 #include <QString>
 #include <vector>
@@ -9,7 +9,8 @@ namespace workbench {
 struct FindOptions {
     bool matchCase = false;
     bool wholeWord = false;
-    /// As the language's Like reads it: ? one character, # one digit, * any, [a-z] and [!a-z] one of or none of these.
+    /// The syntax of the language's Like: ? one character, # one digit, * any characters, [a-z] one of these, [!a-z]
+    /// none of these.
     bool pattern = false;
 };
 
@@ -24,9 +25,9 @@ class CodePattern {
 public:
     CodePattern(const QString& what, FindOptions options);
 
-    /// Why it can't be looked for; "" when it can.
+    /// Why it is invalid; "" if it is valid.
     QString error() const { return error_; }
-    /// From left to right. None overlaps another one, and none is empty.
+    /// Returns the hits from left to right. They do not overlap, and none is empty.
     std::vector<LineHit> hitsIn(const QString& line) const;
 
 private:

@@ -1,25 +1,25 @@
 #pragma once
-// The lines of a component's code on their way between the host and an editor.
+// Transfers the lines of a component's code between the host and an editor.
 #include "Add-in/platform/host_project.h"
 #include <QString>
 #include <functional>
 
 namespace workbench {
 
-/// The whole code of a module, with LF between its lines.
+/// Returns the whole code of a module, its lines separated by LF.
 QString codeOf(vbide::CodeModule& module);
 
-/// What the user did to the editor's text, from line `first` (from 0) on.
+/// An edit of the editor's text, beginning in line `first` (from 0).
 struct LineEdit {
     int first = 0;
-    /// So many lines more, or less where it is negative.
+    /// The number of lines added; negative if lines were removed.
     int added = 0;
-    /// Where the line begins: it is what stood there that moved, and its hidden attributes go with it.
+    /// Whether the edit was at the start of the line, so that the old line moved, along with its hidden attributes.
     bool atStart = false;
 };
 
-/// Does the same to the module. `line` gives the editor's line as it is now. Error 5 for a character that the file's
-/// code page lacks.
+/// Makes the same edit in the module. `line` returns a line of the editor after the edit. Error 5 for a character that
+/// the file's code page lacks.
 void passOn(vbide::CodeModule& module, const LineEdit& edit, const std::function<std::string(int)>& line);
 
 } // namespace workbench

@@ -82,7 +82,7 @@ void CodeWindows::mark(MarksByComponent marks) {
 
 void CodeWindows::markEditor(CodeEditor& editor) {
     std::vector<LineMark> marks;
-    (void)basic::attempt([&] { // of a removed component nothing is marked
+    (void)basic::attempt([&] { // a removed component has no marks
         const bool ofActive = editor.component()->Collection() == host_.ActiveVBProject()->VBComponents();
         const auto found = marks_.find(editor.component()->Name());
         if (ofActive && found != marks_.end()) marks = found->second;

@@ -1,5 +1,5 @@
 #pragma once
-// The open code windows, each a tab; other windows may stand among them.
+// The tabs of the code windows; form views are tabs here too.
 #include "Apps/workbench/code/code_editor.h"
 #include "Host/model/host.h"
 #include <QTabWidget>
@@ -10,16 +10,16 @@ namespace workbench {
 /// The marks of a project's components, by name.
 using MarksByComponent = std::map<std::string, std::vector<LineMark>>;
 
-/// Follows the host: a pane that the model shows comes up, the windows of what is removed go. Code is read when its
-/// window opens.
+/// Follows the host: shows the pane that the model shows, and closes the windows of removed components. Code is read
+/// when its window opens.
 class CodeWindows final : public QTabWidget {
 public:
     CodeWindows(host::Host& host, CodeEditor::Refused refused);
 
     void open(const vbide::Ref<vbide::VBComponent>& component);
-    /// Selects a part of a component's code in its window, which comes to the front. Error 440 for one that was removed.
+    /// Shows a component's window and selects a part of its code. Error 440 if the component was removed.
     void showPlace(const CodePlace& place);
-    /// Told of each window that was made.
+    /// Called for each window that is created.
     std::function<void(CodeEditor&)> made = [](CodeEditor&) {};
     /// Shows the next tab, or the previous one for -1, and starts again at the other end.
     void step(int by);
@@ -27,13 +27,12 @@ public:
     void closeAll();
     /// Null for a component without a window.
     CodeEditor* editorOf(const vbide::Ref<vbide::VBComponent>& component) const;
-    /// Null when no code window is in front.
+    /// Null if no code window is in front.
     CodeEditor* current() const;
-    /// Messages of the active project.
+    /// Shows the messages of the active project as marks.
     void mark(MarksByComponent marks);
     void colour(Theme theme);
-    /// Names and dirty marks may be others, and windows of components that the host no longer has go, when Qt's loop
-    /// turns.
+    /// Updates names and dirty marks and closes the windows of removed components when Qt's loop turns.
     void refreshSoon() { refresh_.start(); }
 
 private:

@@ -12,7 +12,7 @@ namespace {
 bool isNamePart(QChar c) { return c.isLetterOrNumber() || c == '_'; }
 bool isSame(const QString& a, const QString& b) { return a.compare(b, Qt::CaseInsensitive) == 0; }
 
-/// A line without its comment; what texts say is blank.
+/// A line without its comment, and with blank string literals.
 QString codeOnly(QString line) {
     bool inText = false;
     for (qsizetype i = 0; i < line.size(); ++i) {
@@ -31,7 +31,7 @@ QRegularExpression expression(const QString& pattern) {
                                            QRegularExpression::UseUnicodePropertiesOption);
 }
 
-/// The lines of a component, looked through for declarations of one name.
+/// Searches the lines of a component for declarations of one name.
 class DeclarationFinder {
 public:
     DeclarationFinder(vbide::Ref<vbide::VBComponent> component, QString name)
@@ -40,7 +40,7 @@ public:
           name_(std::move(name)),
           word_(expression("\\b" + QRegularExpression::escape(name_) + "\\b")) {}
 
-    /// Parameters and what Dim, Static, Const and ReDim declare in a procedure.
+    /// Finds parameters and what Dim, Static, Const and ReDim declare in a procedure.
     std::optional<CodePlace> inProcedure(int line) const {
         const auto range = procedureAround(*component_->CodeModule(), line);
         static const auto head =
@@ -61,20 +61,20 @@ public:
         return {};
     }
 
-    /// Procedures, variables, constants, events, types and enumerations of the module; those that others see where it is
-    /// looked into from without.
-    std::optional<CodePlace> inModule(bool fromWithout) const {
+    /// Finds procedures, variables, constants, events, types and enumerations of the module; only public ones if the
+    /// search comes from another module.
+    std::optional<CodePlace> inModule(bool fromOutside) const {
         constexpr int kPrivate = 1;
         for (const auto& member : component_->CodeModule()->Members())
-            if (isSame(qt(member.Name), name_) && (!fromWithout || member.Scope != kPrivate))
+            if (isSame(qt(member.Name), name_) && (!fromOutside || member.Scope != kPrivate))
                 if (auto place = wordFrom(member.CodeLocation - 1)) return place;
-        return inBlocks(fromWithout);
+        return inBlocks(fromOutside);
     }
 
 private:
     static bool isParameter(const QString& code, qsizetype at) { return code.left(at).contains('('); }
 
-    /// A name that is declared, and not a type behind As, a value behind = or a size.
+    /// A name that is declared, not a type after As, a value after = or a size.
     std::optional<CodePlace> declaredIn(int line, const QString& code, bool inHead) const {
         for (auto matches = word_.globalMatch(code); matches.hasNext();) {
             const auto match = matches.next();
@@ -90,8 +90,8 @@ private:
     }
     bool isContinuation(int line) const { return line > 0 && codeOnly(lines_[line - 1]).endsWith(" _"); }
 
-    /// Types and enumerations, and the constants within the latter.
-    std::optional<CodePlace> inBlocks(bool fromWithout) const {
+    /// Finds types, enumerations and the constants of enumerations.
+    std::optional<CodePlace> inBlocks(bool fromOutside) const {
         static const auto begins = expression("^\\s*(?:(Public|Private)\\s+)?(Type|Enum)\\s+(\\w+)");
         static const auto ends = expression("^\\s*End\\s+(?:Type|Enum)\\b");
         bool inEnum = false, hidden = false;
@@ -100,7 +100,7 @@ private:
             const auto code = codeOnly(lines_[line]);
             if (const auto begun = begins.match(code); begun.hasMatch()) {
                 inEnum = isSame(begun.captured(2), "Enum");
-                hidden = isSame(begun.captured(1), "Private") && fromWithout;
+                hidden = isSame(begun.captured(1), "Private") && fromOutside;
                 if (!hidden && isSame(begun.captured(3), name_)) return wordFrom(line);
             } else if (ends.match(code).hasMatch()) {
                 inEnum = false;
@@ -111,7 +111,7 @@ private:
         return {};
     }
 
-    /// The name in a statement that begins in this line.
+    /// Finds the name in the statement that begins in this line.
     std::optional<CodePlace> wordFrom(int line) const {
         for (; line >= 0 && line < lines_.size(); ++line) {
             const auto code = codeOnly(lines_[line]);
@@ -159,7 +159,7 @@ std::optional<CodePlace> definitionOf(const NameInCode& name, const CodePlace& a
     if (const auto owner = componentNamed(name.object, at))
         return DeclarationFinder(owner, name.name).inModule(owner != at.component);
     const DeclarationFinder own(at.component, name.name);
-    // behind the point of a variable stands a member of its class, wherever that is
+    // after a variable and a point comes a member of its class, not a local name
     if (name.object.isEmpty())
         if (auto place = own.inProcedure(at.line)) return place;
     if (auto place = own.inModule(false)) return place;

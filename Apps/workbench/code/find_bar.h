@@ -1,26 +1,26 @@
 #pragma once
-// The bar below the code windows that finds and replaces.
+// The bar for finding and replacing below the code windows.
 #include "Apps/workbench/base/run.h"
 #include "Apps/workbench/code/code_finder.h"
 #include "Apps/workbench/code/code_windows.h"
 #include <QWidget>
 #include <functional>
 
-class QCheckBox;
-class QComboBox;
 class QLabel;
 class QLineEdit;
 
 namespace workbench {
 
+class FindOptionsRow;
+
 class FindBar final : public QWidget {
 public:
-    /// Hidden until it is opened. The code windows outlive it.
+    /// Creates the bar hidden. The code windows outlive it.
     FindBar(CodeWindows& code, Run run);
 
-    /// Comes up with the selection, where it is a part of one line, as what to look for.
+    /// Shows the bar. A selection within one line becomes the text to find.
     void open(bool replacing);
-    /// Looks for the same once more; comes up where there is nothing to look for yet.
+    /// Finds the same text again; shows the bar if there is no text yet.
     void findAgain(bool backwards);
     /// Shows an error below the fields, and the bar if it is hidden.
     void showError(const QString& text);
@@ -32,12 +32,8 @@ protected:
 private:
     QWidget* findRow();
     QWidget* replaceRow();
-    QWidget* optionRow();
-    void restoreOptions();
-    void storeOptions() const;
 
     CodePattern pattern() const;
-    FindScope scope() const;
     bool canLookFor(const CodePattern& pattern);
     void say(const QString& text, bool isError = false);
     void bringUp(const CodePlace& place);
@@ -47,8 +43,7 @@ private:
     CodeWindows& code_;
     Run run_;
     QLineEdit *what_, *with_;
-    QCheckBox *matchCase_, *wholeWord_, *asPattern_;
-    QComboBox* scope_;
+    FindOptionsRow* options_;
     QLabel* said_;
     QWidget* replacing_;
 };

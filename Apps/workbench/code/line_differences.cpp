@@ -6,7 +6,7 @@ namespace workbench {
 
 namespace {
 
-/// Beyond so many pairs of lines what differs counts as one run.
+/// If there are more pairs of lines, all differences count as one run.
 constexpr qsizetype kMostPairs = 4'000'000;
 
 QStringList linesOf(QString text) {
@@ -15,7 +15,7 @@ QStringList linesOf(QString text) {
     return lines;
 }
 
-/// How many lines the rests of two texts have in common, for each pair of rests.
+/// The length of the longest common subsequence of lines, for each pair of tails of two texts.
 class CommonLines {
 public:
     CommonLines(const QStringList& oldLines, const QStringList& newLines) : width_(newLines.size() + 1) {

@@ -11,7 +11,7 @@ namespace {
 constexpr int kMarkMargin = 1, kMarkMarginWidth = 14;
 constexpr int kErrorMark = 1, kWarningMark = 2;
 
-/// The line at a point of the viewport, in the margin too.
+/// The line at a point of the viewport, including the margin.
 int lineAt(const QsciScintilla& text, const QPoint& at) {
     const auto position = text.SendScintilla(QsciScintillaBase::SCI_POSITIONFROMPOINT, (unsigned long)at.x(), at.y());
     return int(text.SendScintilla(QsciScintillaBase::SCI_LINEFROMPOSITION, position));

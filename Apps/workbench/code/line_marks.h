@@ -1,5 +1,5 @@
 #pragma once
-// Marks in the margin of an editor for lines that messages point to.
+// Marks in the margin of an editor for the lines of messages.
 #include "Apps/workbench/base/theme.h"
 #include <QObject>
 #include <string>
@@ -9,7 +9,7 @@ class QsciScintilla;
 
 namespace workbench {
 
-/// A line that a message points to, from 1.
+/// The line of a message, from 1.
 struct LineMark {
     int line = 0;
     bool isError = false;
@@ -18,19 +18,19 @@ struct LineMark {
     friend bool operator==(const LineMark&, const LineMark&) = default;
 };
 
-/// Marks move with their lines when the text is edited. The mouse over a marked line tells what the messages say.
+/// Marks move with their lines when the text is edited. A tool tip on a marked line shows its messages.
 class LineMarks final : public QObject {
 public:
     /// The text outlives this.
     explicit LineMarks(QsciScintilla& text);
 
-    /// Shows these; a line that the text does not have is its nearest. The same ones as before stay where edits have moved
-    /// them.
+    /// Shows these marks; a line beyond the text is moved to the last one. The same marks as before stay where edits
+    /// have moved them.
     void show(const std::vector<LineMark>& marks);
-    /// The lines where they are now, and the way back when the text has been replaced as a whole.
+    /// The present lines of the marks, for putBack after the whole text was replaced.
     std::vector<int> lines() const;
     void putBack(const std::vector<int>& lines);
-    /// What the messages of a line (from 0) say, each on a line of its own.
+    /// The messages of a line (from 0), one per line.
     QString textAt(int line) const;
     void colour(Theme theme);
 
@@ -42,7 +42,7 @@ private:
 
     QsciScintilla& text_;
     std::vector<LineMark> marks_;
-    std::vector<int> handles_; ///< of the marks, in their order
+    std::vector<int> handles_; ///< of the marks, in order
 };
 
 } // namespace workbench

@@ -1,5 +1,5 @@
 #pragma once
-// The editing component, whose headers need the two words that Qt otherwise leaves to us.
+// The editing component. Its headers need two keywords that QT_NO_KEYWORDS disables.
 #define slots Q_SLOTS
 #define signals Q_SIGNALS
 #include <Qsci/qscicommandset.h>

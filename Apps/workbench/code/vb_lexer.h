@@ -1,5 +1,5 @@
 #pragma once
-// Visual Basic for the editor.
+// Syntax highlighting of Visual Basic.
 #include "Apps/workbench/base/theme.h"
 #include "Apps/workbench/code/scintilla.h"
 
@@ -11,7 +11,7 @@ public:
 
     void colour(Theme theme);
     const char* language() const override { return "Visual Basic"; }
-    /// The editing component has such a lexer built in.
+    /// The name of Scintilla's built-in lexer.
     const char* lexer() const override { return "vb"; }
     QString description(int style) const override;
     const char* keywords(int set) const override;

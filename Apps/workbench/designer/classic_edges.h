@@ -1,29 +1,29 @@
 #pragma once
-// The edges, texts and small parts of the classic desktop, which forms are made of.
+// The edges, texts and small parts that controls of the classic desktop consist of.
 #include "Apps/workbench/designer/control_look.h"
 #include <QPainter>
 
 namespace workbench {
 
-/// Draws the border inside the rectangle and gives what it leaves.
+/// Draws the border inside the rectangle and returns the rest.
 QRectF drawBorder(QPainter& painter, const QRectF& place, ControlBorder border);
-/// A button's surface with its edge; gives what the edge leaves.
+/// Draws a button's surface and edge and returns the rest.
 QRectF drawRaised(QPainter& painter, const QRectF& place, const QColor& surface);
 
-/// Which way a small triangle points.
+/// The direction of a small triangle.
 enum class Pointing { Up, Down, Left, Right };
 void drawTriangle(QPainter& painter, const QRectF& within, Pointing pointing, const QColor& colour);
-/// A button with a triangle, as scroll bars and combo boxes have.
+/// Draws a button with a triangle, as in scroll bars and combo boxes.
 void drawArrowButton(QPainter& painter, const QRectF& place, Pointing pointing);
-/// `thumb` from 0 to 1; a negative one draws none.
+/// `thumb` is the position from 0 to 1; negative for no thumb.
 void drawScrollBar(QPainter& painter, const QRectF& place, bool across, double thumb);
-/// Draws the scroll bars of a field or list inside its border and gives what they leave.
+/// Draws the scroll bars of a field or list inside its border and returns the rest.
 QRectF drawBars(QPainter& painter, const QRectF& place, const ControlLook& look);
 
-/// The text in the look's font and colour; of a disabled control embossed.
+/// Draws text in the look's font and colour, embossed for a disabled control.
 void drawCaption(QPainter& painter, const QRectF& place, const ControlLook& look, int flags, const QString& text);
 
-/// The box of a check box, or the circle of an option.
+/// The size of a check box's box and an option's circle.
 inline constexpr double kCheckSize = 13;
 void drawCheck(QPainter& painter, const QRectF& place, int value);
 void drawOption(QPainter& painter, const QRectF& place, bool chosen);

@@ -1,11 +1,11 @@
 #pragma once
-// Draws one control as what it is, in the colours of its form.
+// Draws one control of a form.
 #include "Apps/workbench/designer/form_picture.h"
 #include <QPainter>
 
 namespace workbench {
 
-/// At its place, within its clip. What the user would not see when the program runs is dimmed.
+/// Draws the control in its place, within its clip. A control that is invisible at run time is dimmed.
 void drawControl(QPainter& painter, const DrawnControl& control);
 
 } // namespace workbench

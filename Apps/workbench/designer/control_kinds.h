@@ -1,5 +1,5 @@
 #pragma once
-// What a control is to the eye.
+// Kinds of controls by their appearance.
 #include <string>
 
 namespace workbench {
@@ -22,17 +22,17 @@ enum class ControlKind {
     Grid,
     TabStrip,
     Menu,
-    Hidden, ///< not seen when the program runs: a timer, a data base
+    Hidden, ///< invisible at run time, such as a timer or a database
     Other,
 };
 
-/// The kind of a class as a form's text names it ("VB.Label", "TavletsCtl.QLLabel"), letter case ignored.
+/// Returns the kind of a class as named in a form's text ("VB.Label", "TavletsCtl.QLLabel"), ignoring case.
 ControlKind kindOfControl(const std::string& className);
-/// Controls of devices have borders, fonts and colours of their own.
+/// Whether it is a control of devices, which has its own properties for borders, fonts and colours.
 bool isDeviceControl(const std::string& className);
-/// Drawn by its container, and so behind all controls that are windows.
+/// Whether its container draws it, below all controls that are windows.
 bool isWindowless(ControlKind kind);
-/// Others can lie within it.
+/// Whether it can contain other controls.
 bool isContainer(const std::string& className);
 
 } // namespace workbench

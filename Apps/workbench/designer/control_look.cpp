@@ -1,5 +1,5 @@
 #include "Apps/workbench/designer/control_look.h"
-#include "Apps/workbench/designer/form_colours.h"
+#include "Apps/workbench/properties/form_colours.h"
 #include "Basic/case_folding.h"
 #include <algorithm>
 #include <array>
@@ -21,7 +21,7 @@ Qt::Alignment alignmentOf(int value) {
     return entryOr(kAlignments, value, Qt::AlignLeft);
 }
 
-/// Device controls name their border; those of the language have a line or, in three dimensions, an edge.
+/// Device controls specify the border; the language's controls have a line, or a sunken edge if they are 3D.
 ControlBorder borderOf(bool ofDevice, const PropertyReader& read, bool byDefault) {
     constexpr std::array kBorders{ControlBorder::None, ControlBorder::Single, ControlBorder::Raised,
                                   ControlBorder::Sunken};

@@ -1,7 +1,7 @@
 #pragma once
-// How one control looks, read from its properties.
+// The appearance of one control, read from its properties.
 #include "Apps/workbench/designer/control_kinds.h"
-#include "Apps/workbench/designer/property_reader.h"
+#include "Apps/workbench/properties/property_reader.h"
 #include <QLineF>
 #include <QPixmap>
 #include <QStringList>
@@ -20,13 +20,13 @@ struct ControlLook {
     ControlBorder border = ControlBorder::None;
     bool transparent = false, wrapped = false, mnemonic = true, enabled = true;
     int value = 0;         ///< 0, 1, 2: off, on, neither
-    bool boxRight = false; ///< check and option: the box stands behind the text
+    bool boxRight = false; ///< check and option: the box is to the right of the text
     bool arrow = true;     ///< combo: the list drops down
     bool checks = false;   ///< list: a box before each item
     bool barAcross = false, barDown = false;
     double thumb = 0; ///< scroll bars: from 0 to 1
     QPixmap picture;
-    bool stretched = false, unreadable = false; ///< a picture that there is, but can't be drawn
+    bool stretched = false, unreadable = false; ///< there is a picture, but it cannot be read
     // shapes and lines
     int shape = 0;
     Qt::PenStyle penStyle = Qt::SolidLine;

@@ -26,7 +26,7 @@ DesignDesk::DesignDesk(host::Host& host, CodeWindows& tabs, ProjectExplorer& exp
 }
 
 void DesignDesk::watch() {
-    // the explorer knows of each component that comes, goes or changes its name
+    // the explorer follows each component that is added, removed or renamed
     connect(&explorer_, &QTreeWidget::itemChanged, this, [this] { refreshSoon(); });
     connect(explorer_.model(), &QAbstractItemModel::modelReset, this, [this] { refreshSoon(); });
     watches_.push_back(host_.panes.designChanged.connect([this](const auto&) {
@@ -54,7 +54,7 @@ void DesignDesk::followExplorer() {
     if (const auto component = explorer_.currentComponent()) properties_->inspect(component);
 }
 
-/// The language's own controls, and those of the libraries that the project refers to.
+/// Offers the language's own controls and those of the libraries that the project refers to.
 void DesignDesk::listTools() {
     std::vector<std::string> libraries, offered;
     (void)basic::attempt([&] {
@@ -68,7 +68,7 @@ void DesignDesk::listTools() {
     toolbox_->offer(offered);
 }
 
-/// As a double click in the toolbox does.
+/// Called for a double click in the toolbox.
 void DesignDesk::addInMiddle(const std::string& progId) {
     auto* const view = forms_->current();
     if (!view) return;

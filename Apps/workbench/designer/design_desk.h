@@ -1,32 +1,33 @@
 #pragma once
-// Form views and the properties window, tied to the tabs and the explorer: what is selected in one shows in the others.
+// Connects form views, properties window, toolbox, tabs and explorer: a selection in one shows in the others.
 #include "Apps/workbench/base/run.h"
 #include "Apps/workbench/code/code_windows.h"
 #include "Apps/workbench/designer/form_windows.h"
-#include "Apps/workbench/designer/properties_window.h"
 #include "Apps/workbench/designer/toolbox.h"
 #include "Apps/workbench/project/project_explorer.h"
+#include "Apps/workbench/properties/properties_window.h"
 
 namespace workbench {
 
 class DesignDesk final : public QObject {
 public:
-    /// All of them outlive this. The properties window and the toolbox are made here, for docks.
+    /// All of them outlive this. Creates the properties window and the toolbox, which the caller puts into docks.
     DesignDesk(host::Host& host, CodeWindows& tabs, ProjectExplorer& explorer, Run run);
 
     FormWindows& forms() { return *forms_; }
     PropertiesWindow& properties() { return *properties_; }
     Toolbox& toolbox() { return *toolbox_; }
 
-    /// What the user works on: an entry of the explorer that has the focus, else the tab in front.
+    /// The component that the user works on: that of the explorer's current entry if the explorer has the focus, else
+    /// that of the tab in front.
     vbide::Ref<vbide::VBComponent> inHand() const;
-    /// Shows a component's form, or its code where it has none.
+    /// Shows a component's form, or its code if it has no form.
     void open(const vbide::Ref<vbide::VBComponent>& component);
-    /// The code of what the user works on.
+    /// Shows the code of the component that the user works on.
     void showCode();
-    /// Its form; where that is in front already, its code.
+    /// Shows its form, or its code if the form is in front already.
     void showObject();
-    /// Takes back the last change of the form in front. False when no form is in front.
+    /// Undoes the last change of the form in front. False if no form is in front.
     bool undo();
 
 private:

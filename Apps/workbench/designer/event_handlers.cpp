@@ -69,7 +69,7 @@ Handler handlerOfForm(vbide::vbext_ComponentType type) {
     }
 }
 
-/// A member of a control array is told by its index, in front of all else.
+/// The handler of a control array has the index as its first parameter.
 Handler handlerOfControl(const vbide::VBControl& control) {
     const auto className = control.ProgId();
     const auto properties = control.Properties();
@@ -83,7 +83,7 @@ Handler handlerOfControl(const vbide::VBControl& control) {
     return {};
 }
 
-/// The first line of a procedure's body; 0 where there is no such procedure.
+/// Returns the first line of a procedure's body; 0 if there is no such procedure.
 int bodyOf(const vbide::CodeModule& module, const std::string& name) {
     for (const auto& member : module.Members())
         if (member.type == vbide::Member::Method && basic::equalNoCase(member.Name, name))
@@ -91,7 +91,7 @@ int bodyOf(const vbide::CodeModule& module, const std::string& name) {
     return 0;
 }
 
-/// Behind all other code, with a blank line before it. Gives the first line of its body.
+/// Adds the handler after all other code, with a blank line before it. Returns the first line of its body.
 int addHandler(vbide::CodeModule& module, const Handler& handler) {
     const int last = module.CountOfLines();
     const bool apart = last > 0 && module.Lines(last, 1).find_first_not_of(" \t") != std::string::npos;

@@ -1,10 +1,6 @@
 #include "Apps/workbench/designer/form_canvas.h"
-#include "Apps/workbench/base/text.h"
 #include "Apps/workbench/designer/form_painter.h"
-#include <QAction>
 #include <QKeyEvent>
-#include <QMenu>
-#include <QMouseEvent>
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
@@ -13,28 +9,7 @@ namespace workbench {
 
 namespace {
 
-constexpr int kCanvasMargin = 8;
-constexpr double kDragBegins = 3;
 const QColor kGripColour("#0a246a");
-
-/// The items of a menu, each leading to its code.
-void fillMenu(QMenu& menu, const std::vector<DrawnMenu>& items, FormView& view) {
-    for (const auto& item : items) {
-        if (item.caption == "-") {
-            menu.addSeparator();
-        } else if (!item.items.empty()) {
-            fillMenu(*menu.addMenu(item.caption), item.items, view);
-        } else {
-            auto* const action = menu.addAction(item.caption);
-            action->setCheckable(item.checked);
-            action->setChecked(item.checked);
-            QObject::connect(action, &QAction::triggered, &view, [&view, control = item.control] {
-                view.select(control);
-                view.openCode(control);
-            });
-        }
-    }
-}
 
 QPointF directionOf(int key) {
     switch (key) {
@@ -66,7 +41,7 @@ QSize FormCanvas::sizeHint() const {
     return (whole + QSizeF(2 * kCanvasMargin, 2 * kCanvasMargin)).toSize();
 }
 
-// ---- places ------------------------------------------------------------------------------------------------------------
+// ---- places ---------------------------------------------------------------------------------------------------------
 
 QPointF FormCanvas::innerCorner() const {
     const auto border = view_.picture().border();
@@ -86,7 +61,7 @@ std::vector<GripPlace> FormCanvas::grips() const {
     const auto place = onCanvas(selectedPlace());
     const auto* drawn = view_.drawnSelection();
     if (!drawn) {
-        // a menu is selected without a place of its own
+        // a selected menu has no place
         if (view_.selected()) return {};
         const auto frame = view_.picture().frame;
         return gripsOf(place.adjusted(0, 0, frame.right() + kGripSize / 2, frame.bottom() + kGripSize / 2),
@@ -106,7 +81,7 @@ Grip FormCanvas::gripAt(const QPointF& onWidget) const {
     return Grip::None;
 }
 
-// ---- drawing -----------------------------------------------------------------------------------------------------------
+// ---- drawing --------------------------------------------------------------------------------------------------------
 
 void FormCanvas::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
@@ -132,91 +107,7 @@ void FormCanvas::drawSelection(QPainter& painter) const {
         painter.drawRect(QRectF(grip.at - QPointF(kGripSize, kGripSize) / 2, QSizeF(kGripSize, kGripSize)));
 }
 
-// ---- the mouse ---------------------------------------------------------------------------------------------------------
-
-void FormCanvas::mousePressEvent(QMouseEvent* event) {
-    if (event->button() != Qt::LeftButton) return;
-    const auto at = event->position();
-    if (beginNew(at)) return;
-    if (const auto grip = gripAt(at); grip != Grip::None) return beginDrag(at, grip);
-    if (openMenu(at)) return;
-    const auto* drawn = view_.picture().at(onForm(at));
-    const auto control = drawn ? drawn->control : nullptr;
-    view_.select(control);
-    if (control) beginDrag(at, Grip::None);
-}
-
-/// With a tool in hand the mouse draws the place of a new control.
-bool FormCanvas::beginNew(const QPointF& onWidget) {
-    const auto tool = view_.callbacks().tool();
-    if (tool.empty()) return false;
-    view_.select(nullptr);
-    const QRectF place(onGrid(onForm(onWidget), {}), QSizeF());
-    drag_ = Drag{onWidget, Grip::None, place, place, {}, false, tool};
-    return true;
-}
-
-void FormCanvas::beginDrag(const QPointF& onWidget, Grip grip) {
-    const auto* drawn = view_.drawnSelection();
-    const auto place = selectedPlace();
-    drag_ = Drag{
-        onWidget, grip, place, place, drawn ? drawn->origin : QPointF(), drawn && drawn->look.kind == ControlKind::Line,
-        {}};
-}
-
-void FormCanvas::mouseMoveEvent(QMouseEvent* event) {
-    if (!drag_) {
-        const bool draws = !view_.callbacks().tool().empty();
-        return setCursor(draws ? Qt::CrossCursor : cursorOf(gripAt(event->position())));
-    }
-    const auto by = event->position() - drag_->from;
-    // a hand that trembles moves nothing
-    if (drag_->now == drag_->before && by.manhattanLength() < kDragBegins) return;
-    drag_->now = drag_->tool.empty()
-                     ? pulled(drag_->before, drag_->grip, by, drag_->origin, drag_->isLine)
-                     : QRectF(drag_->before.topLeft(), onGrid(onForm(event->position()), {})).normalized();
-    update();
-}
-
-void FormCanvas::mouseReleaseEvent(QMouseEvent*) {
-    if (!drag_) return;
-    const auto drag = *drag_;
-    drag_.reset();
-    update();
-    if (!drag.tool.empty()) {
-        view_.callbacks().toolUsed();
-        view_.add(drag.tool, drag.now);
-    } else if (drag.now != drag.before) {
-        view_.place(drag.now);
-    }
-}
-
-void FormCanvas::mouseDoubleClickEvent(QMouseEvent* event) {
-    if (event->button() != Qt::LeftButton || openMenu(event->position())) return;
-    const auto* drawn = view_.picture().at(onForm(event->position()));
-    view_.openCode(drawn ? drawn->control : nullptr);
-}
-
-bool FormCanvas::openMenu(const QPointF& onWidget) {
-    const auto& form = view_.picture();
-    const auto onWhole = onWidget - QPointF(kCanvasMargin, kCanvasMargin);
-    for (const auto& [number, place] : menuPlaces(form)) {
-        if (!place.contains(onWhole)) continue;
-        view_.select(form.menus[number].control);
-        auto* const menu = new QMenu(this);
-        menu->setAttribute(Qt::WA_DeleteOnClose);
-        fillMenu(*menu, form.menus[number].items, view_);
-        if (menu->isEmpty()) {
-            delete menu;
-            return true;
-        }
-        menu->popup(mapToGlobal((place.bottomLeft() + QPointF(kCanvasMargin, kCanvasMargin)).toPoint()));
-        return true;
-    }
-    return false;
-}
-
-// ---- the keyboard ------------------------------------------------------------------------------------------------------
+// ---- the keyboard ---------------------------------------------------------------------------------------------------
 
 void FormCanvas::keyPressEvent(QKeyEvent* event) {
     const auto direction = directionOf(event->key());
@@ -249,7 +140,7 @@ void FormCanvas::nudge(const QPointF& step, bool size) {
     if (isLine || (place.width() >= 0 && place.height() >= 0)) view_.place(place);
 }
 
-/// The Tab key goes from control to control, as in the designer.
+/// The Tab key selects the next control.
 bool FormCanvas::focusNextPrevChild(bool next) {
     if (view_.picture().controls.empty()) return QWidget::focusNextPrevChild(next);
     view_.selectNext(next ? 1 : -1);

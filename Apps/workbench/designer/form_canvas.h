@@ -1,18 +1,21 @@
 #pragma once
-// The paper that a form is drawn on, and what the mouse and the keyboard do there.
+// The widget that a form is drawn on, with its mouse and keyboard handling.
 #include "Apps/workbench/designer/form_grips.h"
 #include "Apps/workbench/designer/form_view.h"
 #include <QWidget>
 
 namespace workbench {
 
+/// Pixels around the form.
+inline constexpr int kCanvasMargin = 8;
+
 class FormCanvas final : public QWidget {
 public:
     explicit FormCanvas(FormView& view);
 
-    /// The view has read the form anew.
+    /// Called after the view has read the form again.
     void formChanged();
-    /// The place of a control, or of the form's inner rectangle, on this widget.
+    /// Converts a place on the form's inner rectangle to this widget.
     QRectF onCanvas(const QRectF& place) const;
 
 protected:
@@ -28,19 +31,19 @@ protected:
     QSize sizeHint() const override;
 
 private:
-    /// A move or a change of size under way.
+    /// A move or a change of size in progress.
     struct Drag {
         QPointF from;
-        Grip grip = Grip::None; ///< none moves
+        Grip grip = Grip::None; ///< None moves the whole
         QRectF before, now;
         QPointF origin; ///< of the grid
         bool isLine = false;
-        std::string tool; ///< what is being drawn, "" for nothing new
+        std::string tool; ///< the class of a new control, "" for a move
     };
 
     QPointF innerCorner() const;
     QPointF onForm(const QPointF& onWidget) const;
-    /// What is selected: its place on the form.
+    /// The place of the selected control, or of the form.
     QRectF selectedPlace() const;
     std::vector<GripPlace> grips() const;
     Grip gripAt(const QPointF& onWidget) const;

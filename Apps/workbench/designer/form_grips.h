@@ -1,5 +1,5 @@
 #pragma once
-// The grips of what is selected on a form, and what pulling them does.
+// The grips of the selection on a form, and the effect of dragging them.
 #include <QCursor>
 #include <QRectF>
 #include <vector>
@@ -10,25 +10,25 @@ enum class Grip { None, TopLeft, Top, TopRight, Left, Right, BottomLeft, Bottom,
 
 struct GripPlace {
     Grip grip = Grip::None;
-    QPointF at; ///< its middle
+    QPointF at; ///< its centre
 };
 inline constexpr double kGripSize = 6;
 
 enum class GripsOf {
-    Control, ///< eight round it
+    Control, ///< eight around it
     Line,    ///< its two ends
     Form,    ///< right, bottom and their corner
-    Fixed,   ///< as eight, but none can be pulled
+    Fixed,   ///< eight, none of which can be dragged
 };
-/// Of a place; `what` says which there are.
+/// Returns the grips around a place.
 std::vector<GripPlace> gripsOf(const QRectF& place, GripsOf what);
 
 Qt::CursorShape cursorOf(Grip grip);
 
 QPointF onGrid(const QPointF& point, const QPointF& origin);
 
-/// The place when a grip (none: the place itself) is pulled by so much. What moves stands on the grid, whose corner is
-/// `origin`; a place that was pulled through itself has no size. The ends of a line move freely.
+/// Returns the place after a grip, or with Grip::None the whole place, was dragged by `by`. Edges that move snap to the
+/// grid with the corner `origin`. A size does not become negative, except for lines.
 QRectF pulled(const QRectF& place, Grip grip, const QPointF& by, const QPointF& origin, bool isLine);
 
 } // namespace workbench

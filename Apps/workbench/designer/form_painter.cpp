@@ -20,7 +20,7 @@ QFont titleFont(double pixels, bool bold) {
     return font;
 }
 
-/// A dot at each step, from the inner corner on.
+/// Draws a dot at each step, from the inner corner.
 void drawGridDots(QPainter& painter, const QRectF& area, const QColor& paper) {
     QPixmap tile(QSize(kGridStep, kGridStep));
     tile.fill(Qt::transparent);
@@ -47,7 +47,7 @@ void drawTitleButton(QPainter& painter, const QRectF& place, TitleSign sign) {
     }
 }
 
-/// Gives the left end of the buttons.
+/// Returns the left end of the buttons.
 double drawTitleButtons(QPainter& painter, const FormPicture& form, const QRectF& bar) {
     double right = bar.right() - 2;
     const auto add = [&](bool there, TitleSign sign, double gap) {

@@ -1,143 +1,28 @@
 #include "Apps/workbench/designer/form_picture.h"
-#include "Apps/workbench/base/text.h"
-#include "Apps/workbench/designer/form_colours.h"
-#include "Basic/runtime_error.h"
-#include "Host/model/forms/form_places.h"
 #include <QLineF>
 #include <algorithm>
+#include <cmath>
 
 namespace workbench {
 
 namespace {
 
-/// A control that is not seen at run time has a small square on the form.
-constexpr double kHiddenSize = 28;
-/// What a size may be: coordinates beyond this are damage.
-constexpr double kLargestPixels = 16384;
-constexpr std::int32_t kFormColour = std::int32_t(0x8000000f);
-
-using Controls = std::vector<vbide::Ref<vbide::VBControl>>;
-
-double bounded(double pixels) { return std::clamp(pixels, -kLargestPixels, kLargestPixels); }
-
-/// Reads the controls of one form.
-class ControlsReader {
-public:
-    explicit ControlsReader(FormPicture& picture) : picture_(picture) {}
-
-    struct Space {
-        QPointF origin;
-        QRectF clip;
-        host::TwipsPerUnit units;
-        int container = -1;
-    };
-
-    void read(const Controls& controls, const Space& space) {
-        // the first in the text is in front; what its container draws is behind all windows
-        for (const bool windowless : {true, false})
-            for (auto at = controls.rbegin(); at != controls.rend(); ++at)
-                (void)basic::attempt([&] { readOne(*at, space, windowless); });
-    }
-
-private:
-    void readOne(const vbide::Ref<vbide::VBControl>& control, const Space& space, bool windowless) {
-        const auto className = control->ProgId();
-        const auto kind = kindOfControl(className);
-        if (kind == ControlKind::Menu || isWindowless(kind) != windowless) return;
-        const PropertyReader read(control->Properties());
-        DrawnControl drawn;
-        drawn.control = control;
-        drawn.name = nameWithIndex(read);
-        drawn.className = qt(control->ClassName());
-        drawn.tabIndex = read.number("TabIndex");
-        drawn.visible = read.flag("Visible", true);
-        drawn.look = lookOf(className, read);
-        drawn.origin = space.origin;
-        drawn.unitX = space.units.x / kTwipsPerPixel;
-        drawn.unitY = space.units.y / kTwipsPerPixel;
-        drawn.container = space.container;
-        place(drawn, read);
-        drawn.clip = space.clip & drawn.place.normalized().adjusted(-1, -1, 1, 1);
-        picture_.controls.push_back(drawn);
-        readWithin(control, drawn, space);
-    }
-
-    static QString nameWithIndex(const PropertyReader& read) {
-        const int index = read.number("Index", -1);
-        return index < 0 ? read.text("Name") : QString("%1(%2)").arg(read.text("Name")).arg(index);
-    }
-
-    static void place(DrawnControl& drawn, const PropertyReader& read) {
-        const auto across = [&](const char* name) { return bounded(read.real(name) * drawn.unitX); };
-        const auto down = [&](const char* name) { return bounded(read.real(name) * drawn.unitY); };
-        auto& kind = drawn.look.kind;
-        if (kind == ControlKind::Line) {
-            drawn.place = {QPointF(across("X1"), down("Y1")), QPointF(across("X2"), down("Y2"))};
-        } else {
-            const bool hasSize = read.has("Width");
-            if (kind == ControlKind::Other && !hasSize) kind = ControlKind::Hidden;
-            const bool hidden = kind == ControlKind::Hidden;
-            drawn.place = {across("Left"), down("Top"), hidden ? kHiddenSize : std::max(0.0, across("Width")),
-                           hidden ? kHiddenSize : std::max(0.0, down("Height"))};
-        }
-        drawn.place.translate(drawn.origin);
-    }
-
-    /// What lies in a picture box lies inside its border; a frame is measured from its edge.
-    static double borderWithin(const ControlLook& look) {
-        if (look.kind != ControlKind::PictureBox || look.border == ControlBorder::None) return 0;
-        return look.border == ControlBorder::Single ? 1 : 2;
-    }
-
-    void readWithin(const vbide::Ref<vbide::VBControl>& control, const DrawnControl& drawn, const Space& around) {
-        const auto inner = control->ContainedVBControls();
-        if (inner.empty()) return;
-        Space space;
-        const double border = borderWithin(drawn.look);
-        const auto inside = drawn.place.adjusted(border, border, -border, -border);
-        space.origin = inside.topLeft();
-        space.clip = drawn.clip & inside;
-        space.units = around.units;
-        (void)basic::attempt([&] { space.units = host::unitsIn(control, around.units); });
-        space.container = int(picture_.controls.size()) - 1;
-        read(inner, space);
-    }
-
-    FormPicture& picture_;
-};
-
-std::vector<DrawnMenu> menusOf(const Controls& controls) {
-    std::vector<DrawnMenu> menus;
-    for (const auto& control : controls) {
-        if (kindOfControl(control->ProgId()) != ControlKind::Menu) continue;
-        const PropertyReader read(control->Properties());
-        menus.push_back({control, read.text("Caption"), read.flag("Visible", true), read.flag("Enabled", true),
-                         read.flag("Checked"), menusOf(control->ContainedVBControls())});
-    }
-    return menus;
-}
-
-void readFrame(FormPicture& picture, const vbide::Ref<vbide::VBForm>& form, const PropertyReader& read) {
-    constexpr int kFixedTool = 4, kDialog = 3;
-    const auto extent = host::extentOf(form);
-    const auto pixels = [](double twips) { return bounded(twips / kTwipsPerPixel); };
-    picture.inner = {std::max(0.0, pixels(extent.width)), std::max(0.0, pixels(extent.height))};
-    picture.frame = {pixels(extent.left), pixels(extent.top), pixels(extent.right), pixels(extent.bottom)};
-    const int style = read.number("BorderStyle", 2);
-    picture.smallTitle = style >= kFixedTool;
-    picture.controlBox = read.flag("ControlBox", true);
-    const bool hasSizeButtons = picture.controlBox && style < kDialog;
-    picture.minButton = hasSizeButtons && read.flag("MinButton", true);
-    picture.maxButton = hasSizeButtons && read.flag("MaxButton", true);
-}
-
-/// Whether a place is so near to a line.
+/// Whether a place is within `reach` of a line.
 bool isNear(const QLineF& line, const QPointF& place, double reach) {
     const auto along = line.p2() - line.p1(), there = place - line.p1();
     const double length = QPointF::dotProduct(along, along);
     const double part = length == 0 ? 0 : std::clamp(QPointF::dotProduct(there, along) / length, 0.0, 1.0);
     const auto apart = there - along * part;
     return QPointF::dotProduct(apart, apart) <= reach * reach;
+}
+
+/// The distance to go in a direction, with a deviation to the side counted twice. Negative for what is not in that
+/// direction.
+double wayTo(const QPointF& from, const QPointF& to, const QPointF& direction) {
+    const auto way = to - from;
+    const double ahead = QPointF::dotProduct(way, direction);
+    const double aside = std::abs(QPointF::dotProduct(way, QPointF(direction.y(), direction.x())));
+    return ahead <= 0 || aside > 2 * ahead ? -1 : ahead + 2 * aside;
 }
 
 } // namespace
@@ -155,7 +40,7 @@ const DrawnControl* FormPicture::find(const vbide::Ref<vbide::VBControl>& contro
 }
 
 const DrawnControl* FormPicture::at(const QPointF& place) const {
-    // a line is hit beside its pixels too
+    // a line is also hit close to its pixels
     constexpr double kReach = 3;
     for (auto drawn = controls.rbegin(); drawn != controls.rend(); ++drawn) {
         const auto& line = drawn->place;
@@ -174,18 +59,23 @@ std::vector<const DrawnControl*> FormPicture::tabOrder() const {
     return order;
 }
 
-FormPicture pictureOfForm(vbide::VBComponent& component) {
-    const auto form = component.Designer();
-    const PropertyReader read(component.Properties());
-    FormPicture picture;
-    picture.caption = read.text("Caption");
-    picture.back = read.colour("BackColor", formColour(kFormColour));
-    picture.picture = read.picture("Picture");
-    readFrame(picture, form, read);
-    const auto controls = form->ContainedVBControls();
-    picture.menus = menusOf(controls);
-    ControlsReader(picture).read(controls, {{}, QRectF({}, picture.inner), host::unitsOn(form), -1});
-    return picture;
+const DrawnControl* FormPicture::containerAt(const QPointF& place) const {
+    const auto* drawn = at(place);
+    while (drawn && !isContainer(drawn->control->ProgId()))
+        drawn = drawn->container < 0 ? nullptr : &controls[std::size_t(drawn->container)];
+    return drawn;
+}
+
+const DrawnControl* FormPicture::beside(const DrawnControl& from, const QPointF& direction) const {
+    const DrawnControl* nearest = nullptr;
+    double shortest = 0;
+    for (const auto& candidate : controls) {
+        const double way = wayTo(from.place.center(), candidate.place.center(), direction);
+        if (way < 0 || (nearest && way >= shortest)) continue;
+        nearest = &candidate;
+        shortest = way;
+    }
+    return nearest;
 }
 
 } // namespace workbench

@@ -1,5 +1,5 @@
 #pragma once
-// What there is to draw of a form, read from its text once. Logical pixels, 15 twips each, whatever the screen.
+// What there is to draw of a form, in logical pixels of 15 twips.
 #include "Add-in/platform/host_project.h"
 #include "Apps/workbench/base/twips.h"
 #include "Apps/workbench/designer/control_look.h"
@@ -13,14 +13,14 @@ struct DrawnControl {
     vbide::Ref<vbide::VBControl> control;
     QString name, className;
     int tabIndex = 0;
-    /// Its place on the inner rectangle of the form, and the part of it that its containers let through.
+    /// Its place on the inner rectangle of the form, and the part that its containers do not clip.
     QRectF place, clip;
-    /// What its container's place is measured from, and pixels for one unit in it.
+    /// The origin of its container's coordinates, and the pixels per unit.
     QPointF origin;
     double unitX = 1, unitY = 1;
     ControlLook look;
     bool visible = true;
-    /// The control that it lies in, -1 for the form.
+    /// The index of its container, -1 for the form.
     int container = -1;
 };
 
@@ -38,25 +38,25 @@ struct FormPicture {
     QColor back;
     QPixmap picture;
     bool controlBox = true, minButton = true, maxButton = true, smallTitle = false;
-    /// The menu bar; what does not show stands there too.
+    /// The menu bar, including invisible menus.
     std::vector<DrawnMenu> menus;
-    /// From the back to the front, each behind the container that it lies in.
+    /// From back to front, each after its container.
     std::vector<DrawnControl> controls;
 
     /// The frame with the menu bar.
     QMarginsF border() const;
     bool hasMenuBar() const;
-    /// Null for one that is not drawn, such as a menu.
+    /// Null if the control is not drawn, such as a menu.
     const DrawnControl* find(const vbide::Ref<vbide::VBControl>& control) const;
-    /// The control in front at a place on the inner rectangle, null for the form itself.
+    /// The topmost control at a place on the inner rectangle, null for the form itself.
     const DrawnControl* at(const QPointF& place) const;
+    /// The innermost container at a place, null for the form itself.
+    const DrawnControl* containerAt(const QPointF& place) const;
+    /// The nearest control in a direction of the screen, null if there is none.
+    const DrawnControl* beside(const DrawnControl& from, const QPointF& direction) const;
     /// Controls in the order of the Tab key.
     std::vector<const DrawnControl*> tabOrder() const;
 };
-
-/// Reads a component that has a designer. Error 380 for a file without the description of a form; what else is damaged is
-/// drawn as far as it goes.
-FormPicture pictureOfForm(vbide::VBComponent& component);
 
 /// The height of a menu bar.
 inline constexpr int kMenuBarHeight = 19;

@@ -1,7 +1,7 @@
 #pragma once
-// A form on its designer: drawn, and edited by mouse and keyboard.
-#include "Apps/workbench/designer/design_history.h"
+// The designer of a form: draws it and lets the user edit it by mouse and keyboard.
 #include "Apps/workbench/designer/form_picture.h"
+#include "Apps/workbench/properties/design_history.h"
 #include <QScrollArea>
 #include <QTimer>
 #include <functional>
@@ -15,46 +15,46 @@ class FormView final : public QScrollArea {
 public:
     /// What the view asks of the desktop.
     struct Callbacks {
-        /// Does it, and tells the user of an error.
+        /// Runs an edit and shows an error in a box.
         std::function<void(const std::function<void()>&)> run;
-        /// Another control is selected, or the form itself.
+        /// The selection changed.
         std::function<void()> selected;
-        /// The user works here now.
+        /// The view got the focus.
         std::function<void()> focused;
-        /// The class that is picked in the toolbox, "" for none.
+        /// Returns the class that is selected in the toolbox, "" for none.
         std::function<std::string()> tool;
-        /// The tool has done its work, or is put back.
+        /// The tool was used or cancelled.
         std::function<void()> toolUsed;
     };
 
-    /// Reads the form. Error 380 for a file without the description of one.
+    /// Reads the form. Error 380 for a file without the description of a form.
     FormView(vbide::Ref<vbide::VBComponent> component, DesignHistory& history, Callbacks callbacks);
 
     const vbide::Ref<vbide::VBComponent>& component() const { return component_; }
     const FormPicture& picture() const { return picture_; }
-    /// Nothing when the form itself is selected.
+    /// Null if the form itself is selected.
     const vbide::Ref<vbide::VBControl>& selected() const { return selected_; }
-    /// A control that is not on the form selects the form.
+    /// Null, or a control that is not on the form, selects the form.
     void select(const vbide::Ref<vbide::VBControl>& control);
-    /// The form's text changed: reads it when Qt's loop turns.
+    /// Reads the form again when Qt's loop turns.
     void reloadSoon() { reload_.start(); }
-    /// Takes back the last change of this form.
+    /// Undoes the last change of this form.
     void undo();
 
     // ---- for the canvas ----
     const DrawnControl* drawnSelection() const { return picture_.find(selected_); }
-    /// Puts the selected control, or the form's inner rectangle, there; only what differs is written.
+    /// Moves or resizes the selected control, or the form's inner rectangle. Writes only what differs.
     void place(const QRectF& place);
     void removeSelected();
-    /// Adds a control of a class there, in the container that is in front at the place's corner, and selects it. A place
-    /// without a size gets the usual one.
+    /// Adds a control of a class to the topmost container at the place's corner, and selects it. Without a size, the
+    /// control gets the usual one.
     void add(const std::string& progId, const QRectF& place);
-    /// The code of the selected control's default event.
+    /// Shows the handler of the selected control's default event.
     void openCode();
     void openCode(const vbide::Ref<vbide::VBControl>& control);
-    /// The next one in the order of tabs, by steps of 1 or -1.
+    /// Selects the next control in tab order (1), or the previous one (-1).
     void selectNext(int step);
-    /// The nearest one in a direction of the screen.
+    /// Selects the nearest control in a direction.
     void selectBeside(const QPointF& direction);
     const Callbacks& callbacks() const { return callbacks_; }
 
@@ -63,9 +63,10 @@ protected:
 
 private:
     void reload();
-    /// Gives a new control its place, and its name to show.
+    /// Sets the place and the caption of a new control.
     void finish(const vbide::Ref<vbide::VBControl>& added, const QRectF& place);
-    /// Does it, tells of an error, and reads the form again. What an add-in shows meanwhile may close this view.
+    /// Runs an edit, shows an error in a box, and reads the form again. A dialog of an add-in may close this view in
+    /// the meantime.
     void edit(const std::function<void()>& act);
 
     vbide::Ref<vbide::VBComponent> component_;

@@ -7,7 +7,7 @@ namespace workbench {
 FormWindows::FormWindows(host::Host& host, CodeWindows& tabs, DesignHistory& history, Callbacks callbacks)
     : QObject(&tabs), host_(host), tabs_(tabs), history_(history), callbacks_(std::move(callbacks)) {
     refresh_.setSingleShot(true);
-    refresh_.setInterval(0); // a save closes a designer and opens it again
+    refresh_.setInterval(0); // saving closes a designer and opens it again
     connect(&refresh_, &QTimer::timeout, this, [this] { refresh(); });
     connect(&tabs, &QTabWidget::tabCloseRequested, this, [this](int index) { closed(tabs_.widget(index)); });
     connect(&tabs, &QTabWidget::currentChanged, this, [this] {
@@ -32,13 +32,13 @@ void FormWindows::open(const vbide::Ref<vbide::VBComponent>& component) {
     if (viewOf(component)) return;
     FormView* view = nullptr;
     const auto focused = [this, component] { activate(component); };
-    // a file without the description of a form has no view
+    // fails for a file without the description of a form
     const auto failed = basic::attempt([&] {
-        view =
-            new FormView(component, history_, {callbacks_.run, callbacks_.selected, focused, callbacks_.tool, callbacks_.toolUsed});
+        view = new FormView(component, history_,
+                            {callbacks_.run, callbacks_.selected, focused, callbacks_.tool, callbacks_.toolUsed});
     });
     if (failed.Number != 0) return component->DesignerWindow()->Close();
-    opening_ = true; // that is no user's choice
+    opening_ = true; // as the user did not choose this form
     tabs_.addTab(view, qt(component->Name()));
     opening_ = false;
     refresh();
@@ -70,7 +70,7 @@ FormView* FormWindows::viewOf(const vbide::Ref<vbide::VBComponent>& component) c
 
 FormView* FormWindows::current() const { return dynamic_cast<FormView*>(tabs_.currentWidget()); }
 
-/// The user closed a tab: the designer is closed with it.
+/// Closes the designer with its tab.
 void FormWindows::closed(QWidget* tab) {
     if (auto* view = dynamic_cast<FormView*>(tab))
         (void)basic::attempt([&] { view->component()->DesignerWindow()->Close(); });
@@ -79,7 +79,7 @@ void FormWindows::closed(QWidget* tab) {
 void FormWindows::refresh() {
     for (auto* view : views()) {
         bool open = false;
-        (void)basic::attempt([&] { // of a removed component nothing is open
+        (void)basic::attempt([&] { // fails for a removed component
             const auto& component = view->component();
             open = component->HasOpenDesigner();
             tabs_.setTabText(tabs_.indexOf(view),

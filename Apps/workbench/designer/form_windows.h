@@ -1,19 +1,19 @@
 #pragma once
-// The open form views, tabs beside those of code.
+// The open form views, which are tabs beside the code windows.
 #include "Apps/workbench/code/code_windows.h"
 #include "Apps/workbench/designer/form_view.h"
 
 namespace workbench {
 
-/// Follows the host: a designer that opens gets a tab, one that closes loses it, and one that comes to the front is shown.
-/// A form is read when its tab opens.
+/// Follows the host: opens, shows and closes a tab when the host does so with the designer. A form is read when its tab
+/// opens.
 class FormWindows final : public QObject {
 public:
     struct Callbacks {
         std::function<void(const std::function<void()>&)> run;
-        /// Another form or control is selected, or the one that is has changed.
+        /// The selected form or control changed.
         std::function<void()> selected;
-        /// As those of FormView.
+        /// See FormView::Callbacks.
         std::function<std::string()> tool;
         std::function<void()> toolUsed;
     };
@@ -24,16 +24,16 @@ public:
     std::vector<FormView*> views() const;
     /// Null for a component without a form view.
     FormView* viewOf(const vbide::Ref<vbide::VBComponent>& component) const;
-    /// Null when no form view is in front.
+    /// Null if no form view is in front.
     FormView* current() const;
-    /// Titles may be others, and views of components that the host no longer has go, when Qt's loop turns.
+    /// Updates the titles and closes the views of removed components when Qt's loop turns.
     void refreshSoon() { refresh_.start(); }
 
 private:
     void open(const vbide::Ref<vbide::VBComponent>& component);
     void show(const vbide::Ref<vbide::VBComponent>& component);
     void closed(QWidget* tab);
-    /// The user works on this form now: the host tells so, once.
+    /// Makes the host raise its event, once, for the form that the user works on.
     void activate(const vbide::Ref<vbide::VBComponent>& component);
     void refresh();
 

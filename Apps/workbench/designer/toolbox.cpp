@@ -19,7 +19,7 @@ constexpr std::array kOwnTools{
 
 QString titleOfTool(const std::string& progId) { return qt(progId.substr(progId.find('.') + 1)); }
 
-/// A small control of the kind, drawn as on a form.
+/// Draws a small control of the kind, as on a form.
 QIcon iconOfTool(const std::string& progId) {
     DrawnControl control;
     control.className = titleOfTool(progId);
@@ -41,7 +41,7 @@ QIcon iconOfTool(const std::string& progId) {
     look.rows = look.columns = 2;
     look.fixedRows = 1;
     look.fill = QColor("#9a9a9a");
-    if (look.kind == ControlKind::Line) look.fore = QColor(Qt::gray); // on light and on dark
+    if (look.kind == ControlKind::Line) look.fore = QColor(Qt::gray); // visible on light and dark
     look.items = QStringList{"-", "-"};
     const bool down = look.kind == ControlKind::VScrollBar, across = look.kind == ControlKind::HScrollBar;
     control.place = QRectF(down ? 5 : 1, across ? 5 : 2, down ? 10 : 18, across ? 10 : 16);
@@ -53,7 +53,7 @@ QIcon iconOfTool(const std::string& progId) {
     return picture;
 }
 
-/// An arrow, seen on light and dark.
+/// An arrow that is visible on light and dark.
 QIcon pointerIcon() {
     QPixmap picture(kToolSize, kToolSize);
     picture.fill(Qt::transparent);
@@ -72,7 +72,7 @@ Toolbox::Toolbox(std::function<void(const std::string&)> add) {
     setAccessibleName("Toolbox");
     setIconSize({kToolSize, kToolSize});
     setUniformItemSizes(true);
-    offered_ = {kPointer}; // none of them is listed yet
+    offered_ = {kPointer}; // differs from an empty list, so that offer() fills the toolbox
     offer({});
     connect(this, &QListWidget::itemActivated, this, [this, add](QListWidgetItem* item) {
         const auto chosen = text(item->data(Qt::UserRole).toString());

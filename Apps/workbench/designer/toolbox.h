@@ -1,5 +1,5 @@
 #pragma once
-// The controls that a form can be given.
+// The controls that can be added to a form.
 #include <QListWidget>
 #include <functional>
 #include <string>
@@ -7,17 +7,17 @@
 
 namespace workbench {
 
-/// A list of control classes. The one that is picked is drawn onto the form with the mouse; a double click or the Enter
+/// A list of control classes. The user draws the selected one onto the form with the mouse; a double click or the Enter
 /// key adds it at once.
 class Toolbox final : public QListWidget {
 public:
     explicit Toolbox(std::function<void(const std::string& progId)> add);
 
-    /// The language's own classes, and these behind them.
+    /// Lists the language's own classes, followed by these.
     void offer(const std::vector<std::string>& more);
-    /// The class that is picked as a form's text names it; "" for the pointer.
+    /// The selected class as named in a form's text; "" for the pointer.
     std::string tool() const;
-    /// Picks the pointer.
+    /// Selects the pointer.
     void putBack();
 
 private:

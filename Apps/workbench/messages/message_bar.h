@@ -1,5 +1,5 @@
 #pragma once
-// The bar above the messages: how many there are of each kind, and which of them show.
+// The bar above the messages: counts them and filters them.
 #include <QPixmap>
 #include <QWidget>
 #include <functional>
@@ -12,7 +12,7 @@ namespace workbench {
 
 class MessageBar final : public QWidget {
 public:
-    /// What the user callbacks to see.
+    /// What the user wants to see.
     struct Callbacks {
         std::function<void(int type, bool shown)> showType;
         std::function<void(const QString&)> showText;
@@ -22,7 +22,7 @@ public:
 
     QLineEdit& filter() { return *filter_; }
     void setPictures(const QPixmap& error, const QPixmap& warning);
-    /// `shown` of `all` messages are drawn.
+    /// `shown` of `all` messages pass the filter.
     void showCounts(int errors, int warnings, int shown, int all);
 
 private:

@@ -1,4 +1,4 @@
-// What the user does with messages.
+// The commands of the messages window.
 #include "Apps/workbench/messages/message_bar.h"
 #include "Apps/workbench/messages/message_copy.h"
 #include "Apps/workbench/messages/message_list.h"
@@ -35,7 +35,8 @@ QAction* MessagesView::addCommand(const char* text, const char* name, std::funct
     return action;
 }
 
-/// The list takes its keys itself, as the window's commands have some of them too; those of the walk are the window's.
+/// The list handles the keys that are shortcuts of the window too. Only the keys to the next and previous message are
+/// shortcuts of the window.
 void MessagesView::addCommands() {
     goTo_ = addCommand("&Go To\tEnter", "goToMessage", [this] { goTo(list_->currentIndex()); });
     help_ = addCommand("&Help on This Message\tF1", "helpOnMessage", [this] { help(); });
@@ -81,7 +82,7 @@ bool MessagesView::pressed(const QKeyEvent& key) {
     return true;
 }
 
-/// Down and Enter lead from the filter to what it left.
+/// Down and Enter move from the filter to the filtered list.
 bool MessagesView::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent*>(event)->key();
@@ -99,7 +100,7 @@ void MessagesView::goTo(const QModelIndex& index) {
     if (const auto number = numberOf(index); number > 0) run_([&] { document_->gotoMessage(number); });
 }
 
-/// All around, in the order that is drawn.
+/// Moves in the order of the list and starts again at its other end.
 void MessagesView::step(int by) {
     draw();
     const int rows = shown_.rowCount();

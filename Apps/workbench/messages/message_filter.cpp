@@ -7,7 +7,7 @@ using Grid = fernwick::MessageGrid;
 
 namespace {
 
-/// A folder would be found in all of a project's messages.
+/// A folder's name would match all messages of a project.
 QString withoutFolder(const QString& path) {
     return path.mid(std::max(path.lastIndexOf('/'), path.lastIndexOf('\\')) + 1);
 }

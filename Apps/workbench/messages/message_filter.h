@@ -4,12 +4,12 @@
 
 namespace workbench {
 
-/// Which messages are drawn and in which order. What commands use are the numbers of the list behind it.
+/// Filters and sorts the messages that are drawn. Commands use the row numbers of the source model.
 class MessageFilter final : public QSortFilterProxyModel {
 public:
-    /// Messages that are neither errors nor warnings always show.
+    /// Messages that are neither errors nor warnings are always shown.
     void showType(int type, bool shown);
-    /// Only messages with this text in one of their cells, letter case ignored; "" for all.
+    /// Shows only messages with this text in one of their cells, ignoring case; "" shows all.
     void showText(const QString& text);
 
 protected:

@@ -11,8 +11,8 @@ namespace {
 
 using Grid = fernwick::MessageGrid;
 
-/// Heights are the document's, which reckons by the text's length; where words that are kept whole, or lines of its own,
-/// make a message need more, it is not cut. Only rows in sight are asked.
+/// The document estimates heights from the length of the text. This makes rows higher that need more because of word
+/// wrap or line breaks. Only visible rows are measured.
 class MessageCells final : public QStyledItemDelegate {
 public:
     explicit MessageCells(QTreeView* list) : QStyledItemDelegate(list), list_(*list) {}
@@ -29,7 +29,7 @@ private:
     const QTreeView& list_;
 };
 
-/// Keys that the window's own commands have too.
+/// Keys that are also shortcuts of the window.
 bool isOurs(const QKeyEvent& key) {
     return key.matches(QKeySequence::Copy) || key.matches(QKeySequence::SelectAll) || key.key() == Qt::Key_F1;
 }

@@ -10,15 +10,15 @@ class MessageList final : public QTreeView {
 public:
     MessageList();
 
-    /// What texts measure here.
+    /// Measures text in the list's font.
     const fernwick::DeviceContext& deviceContext() const { return texts_; }
-    /// Takes a key that means something to the messages; false leaves it to the list.
+    /// Handles a key; false leaves it to the list.
     std::function<bool(const QKeyEvent&)> pressed = [](const QKeyEvent&) { return false; };
-    /// Texts measure otherwise than before.
+    /// The font changed, and with it the size of texts.
     std::function<void()> fontChanged = [] {};
-    /// The room for the rows is another one.
+    /// The list was resized.
     std::function<void()> resized = [] {};
-    /// Rows may have other heights than before.
+    /// Measures the heights of the rows again.
     void layOutAgain() { scheduleDelayedItemsLayout(); }
 
 protected:

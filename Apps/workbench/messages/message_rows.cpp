@@ -22,7 +22,7 @@ int qtAlignment(fernwick::FlexAlignment alignment) {
 
 const Grid::ColumnDesign& designOf(int column) { return Grid::design(Grid::Column(column)); }
 
-/// Texts that come from Windows have its line ends.
+/// Messages may have Windows line ends.
 QString withPlainLineEnds(QString text) { return text.replace("\r\n", "\n").replace('\r', '\n'); }
 
 QString typeName(int type) {
@@ -30,7 +30,7 @@ QString typeName(int type) {
     return type == fernwick::WARNING_MSG ? "Warning" : QString();
 }
 
-/// The whole message, and where it points to. A tool tip would take a text with angle brackets for one with marks.
+/// The whole message and its file and line. Escaped, as Qt would interpret angle brackets as HTML.
 QString toolTipOf(const Grid::Row& row) {
     QString tip = QString("<p style='white-space:pre-wrap'>%1</p>")
                       .arg(withPlainLineEnds(qt(row.cells[Grid::MessageColumn])).toHtmlEscaped());
@@ -47,7 +47,7 @@ MessageRows::MessageRows(basic::Ref<Document> document) : document_(std::move(do
     newAtEnd_ = document_->rowCount() - Grid::kFixedRows;
     watches_.push_back(document_->added.connect([this](bool atTop) { ++(atTop ? newAtTop_ : newAtEnd_); }));
     watches_.push_back(document_->cleared.connect([this] { forget(); }));
-    takeUp();
+    update();
 }
 
 int MessageRows::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : rows_; }
@@ -61,7 +61,7 @@ void MessageRows::forget() {
     endResetModel();
 }
 
-void MessageRows::takeUp() {
+void MessageRows::update() {
     if (const int many = newAtTop_; many > 0) {
         beginInsertRows({}, 0, many - 1);
         rows_ += many;

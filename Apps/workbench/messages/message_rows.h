@@ -1,5 +1,5 @@
 #pragma once
-// The rows of the messages window as Qt's views read them.
+// The rows of the messages window as a Qt model.
 #include "Add-in/build/messages/udocCompileMsgs.h"
 #include <QAbstractTableModel>
 #include <QPixmap>
@@ -7,8 +7,8 @@
 
 namespace workbench {
 
-/// Order, texts and heights are the document's. Rows that it gets show when they are taken up, all at once; those
-/// that it loses go at once.
+/// Order, texts and heights come from the document. New rows appear together at the next update(); removed rows
+/// disappear at once.
 class MessageRows final : public QAbstractTableModel {
 public:
     using Document = fernwick::udocCompileMsgs;
@@ -22,14 +22,14 @@ public:
     QVariant data(const QModelIndex& index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
-    void takeUp();
+    void update();
     /// The row's number in the document, from 1.
     std::int32_t numberOf(int row) const { return row + newAtTop_ + 1; }
-    /// -1 for the header and for what has not been taken up.
+    /// -1 for the header and for rows that update() has not added yet.
     int rowOf(std::int32_t number) const;
-    /// How many rows are of this type.
+    /// The number of rows of this type.
     int count(int type) const;
-    /// Of a type; an empty one where the installation has none.
+    /// The picture of a type; null if the installation has none.
     QPixmap picture(int type) const;
 
 private:

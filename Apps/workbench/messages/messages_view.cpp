@@ -18,7 +18,7 @@ namespace {
 
 using Grid = fernwick::MessageGrid;
 
-/// Between two drawings: a build may let Qt's loop turn at each of its messages.
+/// The minimum time between two updates, as a build may turn Qt's loop at each of its messages.
 constexpr int kMillisecondsOfPicture = 16;
 constexpr int kStatusPadding = 3, kStatusGap = 5;
 
@@ -55,7 +55,7 @@ MessagesView::MessagesView(basic::Ref<Document> document, Run run)
 }
 
 MessagesView::~MessagesView() {
-    list_->selectionModel()->disconnect(this); // the rows go before the list
+    list_->selectionModel()->disconnect(this); // the model is destroyed before the list
     document_->drawWith(nullptr);
 }
 
@@ -97,7 +97,7 @@ void MessagesView::watchDocument() {
     watches_.push_back(document_->lblStatusText.watch(soon));
 }
 
-// ---- drawing -----------------------------------------------------------------------------------------------------------
+// ---- drawing --------------------------------------------------------------------------------------------------------
 
 void MessagesView::drawSoon() {
     if (redraw_.isActive()) return;
@@ -107,7 +107,7 @@ void MessagesView::drawSoon() {
 
 void MessagesView::draw() {
     redraw_.stop();
-    rows_.takeUp();
+    rows_.update();
     bar_->showCounts(rows_.count(fernwick::ERROR_MSG), rows_.count(fernwick::WARNING_MSG), shown_.rowCount(),
                      rows_.rowCount());
     status_->setText(qt(document_->lblStatus()));
@@ -148,7 +148,7 @@ void MessagesView::changeEvent(QEvent* event) {
 }
 
 void MessagesView::showChosen() {
-    draw(); // the message may be one that has just come
+    draw(); // the message may have been added just now
     const int row = rows_.rowOf(document_->selectedRow());
     list_->setCurrentIndex(row < 0 ? QModelIndex() : shown_.mapFromSource(rows_.index(row, Grid::TitleColumn)));
 }

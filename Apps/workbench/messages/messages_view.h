@@ -1,5 +1,5 @@
 #pragma once
-// The messages window, drawn from the document that the add-in keeps.
+// The messages window, drawn from the add-in's document.
 #include "Apps/workbench/base/run.h"
 #include "Apps/workbench/messages/message_filter.h"
 #include "Apps/workbench/messages/message_rows.h"
@@ -16,8 +16,7 @@ namespace workbench {
 class MessageBar;
 class MessageList;
 
-/// Draws many changes at once. Filter and order are the view's own: what it asks of the document it asks by the
-/// document's numbers.
+/// Draws many changes together. Filter and order belong to the view; it addresses messages by the document's numbers.
 class MessagesView final : public QWidget {
 public:
     using Document = fernwick::udocCompileMsgs;
@@ -26,10 +25,10 @@ public:
     ~MessagesView() override;
 
     const basic::Ref<Document>& document() const { return document_; }
-    /// Told when the rows have been drawn anew.
+    /// Called after the rows were drawn again.
     std::function<void()> drawn = [] {};
-    /// The commands that lead from one message to the next and the one before, for the window to have their keys. Keys are
-    /// the user's settings "messages/nextKey" and "messages/previousKey".
+    /// The commands that go to the next and previous message, which the window adds to its actions. Their keys are the
+    /// user's settings "messages/nextKey" and "messages/previousKey".
     const QList<QAction*>& walk() const { return walk_; }
 
 protected:

@@ -1,5 +1,5 @@
 #pragma once
-// What kind of project a new one is to be.
+// Asks for the kind of a new project.
 #include <QDialog>
 #include <optional>
 #include <string>
@@ -9,19 +9,19 @@ class QListWidget;
 
 namespace workbench {
 
-/// A row of the dialog: the host's own empty project, or a template of its folder.
+/// A row of the dialog: the host's own empty project, or a template.
 struct ProjectKind {
     std::string name;
     /// The template's path; "" for the host's own.
     std::string path;
 };
 
-/// The host's own first, then the templates of this folder, sorted by name without regard to letter case.
+/// The host's own kind first, then the templates of this folder, sorted by name, ignoring case.
 std::vector<ProjectKind> projectKinds(const std::string& templateFolder);
 
 class NewProjectDialog final : public QDialog {
 public:
-    /// The kind of Fernwick projects is chosen where there is one.
+    /// Selects the kind of Fernwick projects if there is one.
     NewProjectDialog(std::vector<ProjectKind> kinds, QWidget* parent);
 
     const ProjectKind& chosen() const;
@@ -31,7 +31,7 @@ private:
     QListWidget* list_;
 };
 
-/// Nothing when the user cancels. Without a template there is nothing to ask.
+/// Empty if the user cancels. Does not ask if there are no templates.
 std::optional<ProjectKind> askForProjectKind(const std::string& templateFolder, QWidget* parent);
 
 } // namespace workbench

@@ -29,7 +29,7 @@ constexpr std::array kGroups{
     Group{"Related Documents", vbide::vbext_ct_RelatedDocument},
 };
 
-/// Its place in the table, the table's end for a type that the tree doesn't show.
+/// Returns the index in the table; its size for a type that the tree does not show.
 std::size_t groupOf(vbide::vbext_ComponentType type) {
     const auto found = std::find_if(kGroups.begin(), kGroups.end(), [type](const auto& g) { return g.type == type; });
     return std::size_t(found - kGroups.begin());
@@ -37,7 +37,7 @@ std::size_t groupOf(vbide::vbext_ComponentType type) {
 
 QString fileTitle(const std::string& path) { return qt(path.substr(path.rfind('/') + 1)); }
 
-/// "frmHello (frmHello.frm)", with a star while it is not saved.
+/// "frmHello (frmHello.frm)", with a star if it is not saved.
 QString entryText(const std::string& name, const std::string& path, bool dirty) {
     return QString("%1 (%2)%3").arg(qt(name), path.empty() ? qt(name) : fileTitle(path), dirty ? " *" : "");
 }
@@ -51,7 +51,7 @@ ProjectExplorer::ProjectExplorer(vbide::Ref<vbide::VBE> host, Callbacks callback
     setHeaderHidden(true);
     setUniformRowHeights(true);
     redraw_.setSingleShot(true);
-    redraw_.setInterval(0); // a project comes as hundreds of events
+    redraw_.setInterval(0); // adding a project causes hundreds of events
     connect(&redraw_, &QTimer::timeout, this, [this] { draw(); });
     connect(this, &QTreeWidget::itemActivated, this, [this] { openCurrent(); });
     watchProjects();
@@ -99,7 +99,8 @@ void ProjectExplorer::draw() {
 
 void ProjectExplorer::addEntries() {
     if (projects_.empty()) return;
-    const auto folder = style()->standardIcon(QStyle::SP_DirIcon); // looked up in themes, so once for all
+    const auto folder =
+        style()->standardIcon(QStyle::SP_DirIcon); // looked up only once, as finding it in themes is slow
     std::size_t component = 0;
     for (std::size_t i = 0; i < projects_.size(); ++i) {
         auto* const top = new QTreeWidgetItem(this);
@@ -122,7 +123,7 @@ void ProjectExplorer::addEntries() {
     }
 }
 
-/// What may change without another entry: names, files, marks of what is not saved, and which project is active.
+/// Updates what can change without new entries: names, files, dirty marks and the active project.
 void ProjectExplorer::showTexts() {
     for (QTreeWidgetItemIterator at(this); *at; ++at) {
         if (const auto number = (*at)->data(kNameColumn, kProjectNumber).toULongLong()) {

@@ -10,19 +10,19 @@ namespace workbench {
 
 class ProjectExplorer final : public QTreeWidget {
 public:
-    /// What the user does with an entry.
+    /// What the explorer asks of the desktop.
     struct Callbacks {
         std::function<void(vbide::Ref<vbide::VBProject>)> activateProject;
         std::function<void(vbide::Ref<vbide::VBComponent>)> openCode;
-        /// The tree was drawn, as after every change of projects and components.
+        /// The tree was drawn, as it is after every change of projects and components.
         std::function<void()> drawn = [] {};
     };
 
     ProjectExplorer(vbide::Ref<vbide::VBE> host, Callbacks callbacks);
 
-    /// The components that are drawn may be others, or dirty; drawn when Qt's loop turns.
+    /// Draws the tree again when Qt's loop turns.
     void refreshSoon() { redraw_.start(); }
-    /// What the chosen entry stands for; Nothing for another kind of entry.
+    /// The selected project or component; Nothing for another kind of entry.
     vbide::Ref<vbide::VBProject> currentProject() const;
     vbide::Ref<vbide::VBComponent> currentComponent() const;
 
@@ -36,7 +36,7 @@ private:
 
     vbide::Ref<vbide::VBE> host_;
     Callbacks callbacks_;
-    /// Entries keep their number among these, 0 for none.
+    /// Entries store an index into these, plus 1; 0 for none.
     std::vector<vbide::Ref<vbide::VBProject>> projects_;
     std::vector<vbide::Ref<vbide::VBComponent>> components_;
     QTimer redraw_;

@@ -27,7 +27,7 @@ ProjectProperties::ProjectProperties(vbide::Ref<vbide::VBProject> project, QWidg
     startUp_->setObjectName("startUp");
     listStartUps();
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-    // as the language wants its names
+    // the language's rule for names
     static const QRegularExpression kName("\\p{L}[\\p{L}\\p{N}_]{0,39}");
     name_->setValidator(new QRegularExpressionValidator(kName, name_));
     connect(name_, &QLineEdit::textChanged, this,

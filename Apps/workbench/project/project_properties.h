@@ -1,5 +1,5 @@
 #pragma once
-// A project's name, and what it starts with.
+// The dialog for a project's name and start-up object.
 #include "Add-in/platform/host_project.h"
 #include <QDialog>
 #include <vector>
@@ -13,21 +13,21 @@ class ProjectProperties final : public QDialog {
 public:
     ProjectProperties(vbide::Ref<vbide::VBProject> project, QWidget* parent);
 
-    /// Sets what the user has changed. Errors as those of VBProject.Name, which leave the rest as it was.
+    /// Sets what the user changed. Errors as those of VBProject.Name, which leave the rest unchanged.
     void setChanged();
 
 private:
     void listStartUps();
 
     vbide::Ref<vbide::VBProject> project_;
-    /// What the entries of the list stand for.
+    /// The meaning of each entry of the list.
     std::vector<vbide::StartUp> startUps_;
     QLineEdit* name_;
     QComboBox* startUp_;
     int startedWith_ = 0;
 };
 
-/// Shows them, and sets them when the user says so.
+/// Shows the dialog and sets what the user changed, unless the user cancels.
 void editProperties(const vbide::Ref<vbide::VBProject>& project, QWidget* parent);
 
 } // namespace workbench

@@ -31,7 +31,7 @@ void openAgain(CodeWindows& code, const vbide::Ref<vbide::VBProject>& project, c
 void reopenProject(host::Host& host, CodeWindows& code, const vbide::Ref<vbide::VBProject>& project) {
     const auto path = project->FileName();
     const auto windows = windowsOf(code, project);
-    // so that closing saves none of what the user gave up
+    // so that closing does not save discarded changes
     for (const auto& component : project->VBComponents()->items()) component->IsDirty(false);
     project->IsDirty(false);
     host.VBProjects()->Remove(project);

@@ -10,7 +10,7 @@ namespace workbench {
 
 namespace {
 
-/// What the file of a component of this type is called behind its name.
+/// The file extension of a component of this type.
 const char* extensionOf(vbide::vbext_ComponentType type) {
     switch (type) {
     case vbide::vbext_ct_StdModule: return ".bas";
@@ -23,7 +23,7 @@ const char* extensionOf(vbide::vbext_ComponentType type) {
     }
 }
 
-/// "" for Cancel. The next name is asked for in the same folder.
+/// Returns "" if the user cancels. Updates `folder`, so that the next dialog opens in the same one.
 std::string askForName(const std::string& name, const char* extension, QString& folder, QWidget* window) {
     const auto path = QFileDialog::getSaveFileName(
         window, "Save " + qt(name), QDir(folder).filePath(qt(name) + extension), QString("*%1").arg(extension));

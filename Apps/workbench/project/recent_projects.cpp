@@ -21,8 +21,8 @@ RecentProjects::RecentProjects(host::Host& host, std::shared_ptr<host::Bar> menu
     watches_.push_back(events->ItemAdded.connect([this, &host](auto project) {
         if (!host.isTemplate(project->FileName())) remember(project);
     }));
-    watches_.push_back(
-        events->ItemRemoved.connect([this](auto project) { remember(project); })); // it may have a file now
+    watches_.push_back(events->ItemRemoved.connect(
+        [this](auto project) { remember(project); })); // it may have been saved in the meantime
     fill();
 }
 

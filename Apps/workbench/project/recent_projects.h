@@ -1,5 +1,5 @@
 #pragma once
-// The projects that were open last, in the host's File menu.
+// The recently opened projects in the host's File menu.
 #include "Host/model/host.h"
 #include <QStringList>
 #include <functional>
@@ -16,7 +16,7 @@ class RecentProjects {
 public:
     using Open = std::function<void(const std::string& path)>;
 
-    /// `menu` is the popup that is filled; the list is kept in the user's settings.
+    /// Fills the submenu `menu`. The list is stored in the user's settings.
     RecentProjects(host::Host& host, std::shared_ptr<host::Bar> menu, Open open);
 
     static QStringList stored();

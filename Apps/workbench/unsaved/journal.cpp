@@ -19,12 +19,12 @@ Journal::Journal(host::Host& host, QWidget& window, QString base, Failed failed)
     soon_.setInterval(kMillisecondsOfTyping);
     connect(&soon_, &QTimer::timeout, this, [this] { write(); });
     tidySoon_.setSingleShot(true);
-    tidySoon_.setInterval(0); // a save takes the mark away after it has told
+    tidySoon_.setInterval(0); // the host clears the dirty mark after it raises the event
     connect(&tidySoon_, &QTimer::timeout, this, [this] { dropSaved(); });
     window.installEventFilter(this);
 
     const auto soon = [this](const auto&) {
-        if (!soon_.isActive()) soon_.start(); // not put off by more typing
+        if (!soon_.isActive()) soon_.start(); // typing more does not delay it
     };
     watches_.push_back(host.panes.codeChanged.connect(soon));
     watches_.push_back(host.panes.designChanged.connect(soon));
@@ -49,7 +49,7 @@ void Journal::write() {
             for (const auto& component : project->VBComponents()->items())
                 if (component->IsDirty()) keep(project, component);
     });
-    // before it is told, for the box that tells it blocks the window
+    // before the error is shown, as its box blocks the window, which writes again
     const bool wasFailing = std::exchange(failing_, failed.Number != 0);
     if (failing_ && !wasFailing) failed_(qt(failed.Description));
 }
@@ -79,7 +79,7 @@ void Journal::keep(const vbide::Ref<vbide::VBProject>& project, const vbide::Ref
 void Journal::dropSaved() {
     for (auto at = kept_.begin(); at != kept_.end();) {
         bool dirty = false;
-        (void)basic::attempt([&] { dirty = at->first->IsDirty(); }); // one that was removed is given up
+        (void)basic::attempt([&] { dirty = at->first->IsDirty(); }); // a removed component is discarded
         if (!dirty) QFile::remove(at->second.path);
         at = dirty ? std::next(at) : kept_.erase(at);
     }

@@ -1,5 +1,5 @@
 #pragma once
-// Keeps what is not saved yet beside the user's state, so that it outlives a crash.
+// Stores unsaved changes, so that they survive a crash.
 #include "Apps/workbench/unsaved/journal_folder.h"
 #include "Host/model/host.h"
 #include <QObject>
@@ -10,18 +10,18 @@
 
 namespace workbench {
 
-/// Each changed component of each open project is written about a second after it was changed, and at once when a window
-/// comes up that blocks this one, as that of a compile. What is saved or given up is removed.
+/// Writes each changed component of each open project about a second after the change, and at once when another window
+/// blocks this one, such as that of a compile. Removes what was saved or discarded.
 class Journal final : public QObject {
 public:
-    /// Told why text can't be kept, once until it can again.
+    /// Called with the reason when writing fails; not again until it has succeeded once.
     using Failed = std::function<void(const QString& why)>;
 
-    /// The host outlives this. `window` is the one that others block.
+    /// The host outlives this. `window` is the one that other windows block.
     Journal(host::Host& host, QWidget& window, QString base, Failed failed);
     ~Journal() override;
 
-    /// Writes what is not written yet.
+    /// Writes all changes now.
     void write();
 
 protected:
@@ -39,7 +39,7 @@ private:
     QString base_;
     Failed failed_;
     bool failing_ = false;
-    std::shared_ptr<JournalFolder> folder_; ///< made when there is something to keep
+    std::shared_ptr<JournalFolder> folder_; ///< created when there is something to store
     std::map<std::shared_ptr<vbide::VBComponent>, Kept> kept_;
     int count_ = 0;
     QTimer soon_, tidySoon_;

@@ -15,7 +15,7 @@ namespace {
 
 constexpr auto kLockName = "lock";
 
-/// False once somebody has removed the file that is locked.
+/// False if the locked file was removed.
 bool stillStands(int lock, const std::string& path) {
     struct stat held {
     }, there{};
@@ -35,13 +35,13 @@ std::shared_ptr<JournalFolder> JournalFolder::locked(const QString& path) {
     if (lock < 0) return nullptr;
     std::shared_ptr<JournalFolder> folder(new JournalFolder(path, lock));
     if (::flock(lock, LOCK_EX | LOCK_NB) == 0 && stillStands(lock, file)) return folder;
-    folder->path_.clear(); // not ours to tidy up
+    folder->path_.clear(); // not ours to remove
     return nullptr;
 }
 
 std::shared_ptr<JournalFolder> JournalFolder::create(const QString& base) {
     QDir().mkpath(base);
-    // one that has no lock yet looks left behind, and may go again before it has one
+    // another program may take a new folder without a lock for an abandoned one and remove it
     constexpr int kTries = 10;
     for (int tries = 0; tries < kTries; ++tries) {
         auto pattern = text(base + "/XXXXXX");

@@ -1,5 +1,5 @@
 #pragma once
-// Where text that was not saved is kept: a folder for each running program, locked as long as it runs.
+// The folders of journals: one for each running program, locked while it runs.
 #include <QString>
 #include <QStringList>
 #include <memory>
@@ -7,29 +7,29 @@
 
 namespace workbench {
 
-/// Above the folders of all programs of this user: in $XDG_STATE_HOME, else in ~/.local/state.
+/// The parent folder for all programs of this user: in $XDG_STATE_HOME, else in ~/.local/state.
 QString journalBase();
 
 class JournalFolder {
 public:
-    /// A new one that only this user may read. Error 75 where it can't be made.
+    /// Creates a folder that only this user can read. Error 75 if it cannot be created.
     static std::shared_ptr<JournalFolder> create(const QString& base);
-    /// The folders of programs that have ended and left something in them, the oldest first. While one is held nobody
-    /// else gets it.
+    /// Returns the folders of programs that ended and left journals, the oldest first. They stay locked as long as they
+    /// are held.
     static std::vector<std::shared_ptr<JournalFolder>> leftBehind(const QString& base);
 
     JournalFolder(const JournalFolder&) = delete;
-    /// Lets go of the lock; an empty folder goes.
+    /// Releases the lock and removes the folder if it is empty.
     ~JournalFolder();
 
     /// Its journals, the oldest first.
     QStringList journals() const;
-    /// A name in it.
+    /// The path of a name in it.
     QString operator/(const QString& name) const { return path_ + "/" + name; }
 
 private:
     JournalFolder(QString path, int lock) : path_(std::move(path)), lock_(lock) {}
-    /// Null when somebody else holds it.
+    /// Null if another program holds it.
     static std::shared_ptr<JournalFolder> locked(const QString& path);
 
     QString path_;

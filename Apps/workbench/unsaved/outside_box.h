@@ -8,20 +8,20 @@
 
 namespace workbench {
 
-/// One file of an open project that is another one than the project was read from.
+/// A project file that changed on disk since it was read.
 struct OutsideChange {
     vbide::Ref<vbide::VBProject> project;
-    /// Nothing for the project's own file.
+    /// Null for the project's own file.
     vbide::Ref<vbide::VBComponent> component;
     std::string path;
-    /// Of what stands there now; nothing when the file is gone.
+    /// The digest of the present contents; empty if the file was removed.
     std::optional<std::uint64_t> digest;
-    /// Reading it again would lose something that is not saved.
+    /// Reloading it would lose unsaved changes.
     bool changedHere = false;
 };
 
-/// Tells of them in one window. The numbers of those that the user wants to read again; those where nothing would be lost
-/// are offered ticked.
+/// Lists the changes in one dialog and returns the indexes of those that the user wants to reload. Those that lose
+/// nothing are checked at first.
 std::set<std::size_t> askWhatToReload(const std::vector<OutsideChange>& changes, QWidget* parent);
 
 } // namespace workbench

@@ -16,10 +16,10 @@ namespace workbench {
 
 namespace {
 
-/// Another program writes a file in several steps, and many files one after the other.
+/// Other programs write a file in several steps, and many files in a row.
 constexpr int kMillisecondsOfQuiet = 300;
 
-/// Of a file that is gone.
+/// The digest of a file that was removed.
 constexpr std::uint64_t kGone = 0;
 
 bool isReadHere(const vbide::Ref<vbide::VBProject>& project) { return !project->FileName().empty(); }
@@ -46,9 +46,9 @@ bool OutsideChanges::eventFilter(QObject* watched, QEvent* event) {
     return QObject::eventFilter(watched, event);
 }
 
-// ---- noticing ---------------------------------------------------------------------------------------------------------
+// ---- noticing -------------------------------------------------------------------------------------------------------
 
-/// Files for what is written into them, folders for what takes their place.
+/// Watches files for writes and their folders for files that are replaced.
 void OutsideChanges::watchFiles() {
     QSet<QString> wanted;
     const auto add = [&wanted](const std::string& path) {
@@ -70,7 +70,7 @@ void OutsideChanges::watchFiles() {
 std::vector<OutsideChange> OutsideChanges::changes() const {
     std::vector<OutsideChange> all;
     for (const auto& project : host_.VBProjects()->items())
-        (void)basic::attempt([&] { lookAt(project, all); }); // one that is going just now
+        (void)basic::attempt([&] { lookAt(project, all); }); // it may be closing
     return all;
 }
 
@@ -93,7 +93,7 @@ void OutsideChanges::look(OutsideChange change, const std::optional<host::FileSt
     if (!stamp) return;
     const bool gone = !QFileInfo::exists(qt(change.path));
     std::optional<host::FileStamp> now;
-    // what can't be read now is looked at again when it changes
+    // a file that cannot be read now is checked again when it changes
     if (!gone) (void)basic::attempt([&] { now = host::changedSince(change.path, *stamp); });
     const bool sameAsHere = now && now->digest == host::digestOf(bytesHere());
     if (!gone && (!now || sameAsHere)) return;
@@ -102,17 +102,18 @@ void OutsideChanges::look(OutsideChange change, const std::optional<host::FileSt
     if (known == known_.end() || known->second != change.digest.value_or(kGone)) all.push_back(std::move(change));
 }
 
-// ---- asking -----------------------------------------------------------------------------------------------------------
+// ---- asking ---------------------------------------------------------------------------------------------------------
 
 void OutsideChanges::check() {
-    if (QApplication::activeModalWidget()) return soon_.start(); // and what a build writes meanwhile is no change
+    if (QApplication::activeModalWidget()) return soon_.start(); // a build may still be writing its files
     (void)basic::attempt([this] { watchFiles(); });
-    if (QGuiApplication::applicationState() != Qt::ApplicationActive) return; // asked when the user comes back
+    if (QGuiApplication::applicationState() != Qt::ApplicationActive)
+        return; // the user is asked on return to the window
     const auto all = changes();
     if (all.empty()) return;
     for (const auto& change : all) known_[change.path] = change.digest.value_or(kGone);
     const auto wanted = askWhatToReload(all, &window_);
-    std::set<std::shared_ptr<vbide::VBProject>> reopened; // with all its components
+    std::set<std::shared_ptr<vbide::VBProject>> reopened; // reopening includes its components
     for (const auto i : wanted)
         if (!all[i].component) reopened.insert(all[i].project.shared());
     for (std::size_t i = 0; i < all.size(); ++i)
@@ -128,7 +129,7 @@ void OutsideChanges::settle() {
 void OutsideChanges::carryOut(const OutsideChange& change, bool reload) {
     const auto failed = basic::attempt([&] {
         if (reload) return reread(change);
-        // what the editor shows is not what the file holds: not to be compiled before it was saved
+        // the editor and the file differ, so the text must be saved before a compile
         if (change.component)
             change.component->IsDirty(true);
         else

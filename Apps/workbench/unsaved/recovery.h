@@ -1,7 +1,6 @@
 #pragma once
-// Offers the user what a program that ended without saving left in its journal.
-#include "Apps/workbench/unsaved/journal_folder.h"
-#include "Host/files/journal_file.h"
+// Offers to restore what programs that ended without saving left in their journals.
+#include "Apps/workbench/unsaved/survivors.h"
 #include "Host/model/host.h"
 #include <QTimer>
 #include <QWidget>
@@ -9,15 +8,6 @@
 #include <set>
 
 namespace workbench {
-
-/// One text that survived.
-struct Survivor {
-    std::shared_ptr<JournalFolder> folder; ///< held, so that nobody else offers it
-    QString path;
-    host::JournalEntry entry;
-    /// Its file is another one than the text was made from.
-    bool changedOnDisk = false;
-};
 
 class Recovery {
 public:
@@ -32,13 +22,12 @@ public:
 
     Recovery(host::Host& host, QWidget& window, QString base, Callbacks callbacks);
 
-    /// Asks, when Qt's loop turns and no window waits for the user: for each project with survivors once, until it
-    /// opens again. Those of projects that are not open are opened first.
+    /// Asks when Qt's loop turns and no dialog is open: once for each project with unsaved changes, until it is opened
+    /// again. Restoring opens a project that is not open.
     void offerAllSoon();
 
 private:
     void offerAll();
-    std::vector<Survivor> survivors();
     void setAside(const QString& path, const QString& why);
     void offer(const std::string& project, std::vector<Survivor> all);
     void restore(const std::string& project, const std::vector<Survivor>& all);
@@ -48,7 +37,7 @@ private:
     QWidget& window_;
     QString base_;
     Callbacks callbacks_;
-    std::set<std::string> asked_; ///< projects, until they open again
+    std::set<std::string> asked_; ///< projects, until they are opened again
     QTimer soon_;
     std::vector<fernwick::Subscription> watches_;
 };

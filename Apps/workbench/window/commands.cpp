@@ -48,8 +48,6 @@ void switchTheme(const CommandTargets& on) {
     on.window.setTheme(currentTheme() == Theme::Light ? Theme::Dark : Theme::Light);
 }
 
-// clang-format off: one row for each command
-
 const Command kFileCommands[] = {
     {host::kNewProjectId, "&New Project...", Qt::CTRL | Qt::Key_N, kAlways, [](auto& on) { on.program.newProject(); },
      styleIcon<QStyle::SP_FileIcon>},
@@ -147,8 +145,6 @@ const DockCommand kDockCommands[] = {
     {"toolboxDock", kToolboxId, "Toolbo&x"},
     {"Fernwick Messages", kMessagesId, "Fernwick &Messages", Qt::CTRL | Qt::Key_M},
 };
-
-// clang-format on
 
 const CommandMenu kCommandMenus[] = {
     {host::kFileMenuId, kFileCommands},       {host::kEditMenuId, kEditCommands}, {host::kViewMenuId, kViewCommands},

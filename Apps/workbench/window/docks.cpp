@@ -2,7 +2,7 @@
 #include "Apps/workbench/base/text.h"
 #include "Apps/workbench/messages/messages_view.h"
 #include "Basic/conversions.h"
-#include "Host/model/bars/tool_windows.h"
+#include "Host/model/windows/tool_windows.h"
 #include <QAction>
 #include <QDockWidget>
 

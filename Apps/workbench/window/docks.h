@@ -3,8 +3,8 @@
 #include "Add-in/build/messages/udocCompileMsgs.h"
 #include "Apps/workbench/base/run.h"
 #include "Apps/workbench/code/code_windows.h"
-#include "Host/model/bars/tool_window.h"
 #include "Host/model/host.h"
+#include "Host/model/windows/tool_window.h"
 #include <QMainWindow>
 #include <QPointer>
 #include <map>

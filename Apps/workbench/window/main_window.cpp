@@ -88,7 +88,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     event->accept();
 }
 
-// ---- stored settings ---------------------------------------------------------------------------------------------------
+// ---- stored settings ------------------------------------------------------------------------------------------------
 
 void MainWindow::restoreLayout() {
     const QSettings settings;

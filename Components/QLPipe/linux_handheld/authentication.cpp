@@ -1,4 +1,4 @@
-#include "Components/QLPipe/linux_handheld/ssh_messages.h"
+#include "Components/QLPipe/base/ssh_messages.h"
 #include "Components/QLPipe/linux_handheld/ssh_session.h"
 #include "Components/QLPipe/linux_handheld/user_account.h"
 #include <cerrno>
@@ -15,7 +15,7 @@ struct KeyFile {
     bool hasPassphrase = false;
 };
 
-/// Called for a key that has a passphrase: notes it and gives none.
+/// Passphrase callback: records that the key has a passphrase and provides none.
 int notePassphrase(const char*, char*, std::size_t, int, int, void* noted) {
     *static_cast<bool*>(noted) = true;
     return -1;
@@ -30,7 +30,7 @@ KeyFile readKeyFile(const std::string& path) {
     return file;
 }
 
-/// The ways to let a user in, tried one after the other.
+/// The methods of authentication, tried one after the other.
 class Authentication {
 public:
     explicit Authentication(const SshSession& session) : session_(session), target_(session.target()) {}
@@ -43,7 +43,7 @@ public:
 
     bool byAgent() {
         if (!agentRuns()) return false;
-        tried("those of the SSH agent");
+        tried("the keys of the SSH agent");
         return accepted(
             session_.finish(SSH_AUTH_AGAIN, [&] { return libssh().ssh_userauth_agent(session_.get(), nullptr); }));
     }
@@ -54,7 +54,7 @@ public:
             if (::access(path.c_str(), R_OK) != 0) continue;
             const auto file = readKeyFile(path);
             if (file.key && byFile(path, file)) return true;
-            if (file.hasPassphrase) tried(path + ", which has a passphrase and so comes from the agent only");
+            if (file.hasPassphrase) tried(path + ", which has a passphrase and is used only through the agent");
         }
         return false;
     }
@@ -65,20 +65,23 @@ public:
     }
 
     [[noreturn]] void refuse() const {
-        throw sshError(SshMessage::KeysRefused,
-                       {target_.user + "@" + target_.address(), tried_.empty() ? "there was none" : tried_,
-                        std::to_string(target_.port), target_.user + "@" + target_.host});
+        throw sshError(SshMessage::KeysRefused, {{"account", target_.user + "@" + target_.address()},
+                                                 {"tried", tried_.empty() ? "there are none" : tried_},
+                                                 {"port", std::to_string(target_.port)},
+                                                 {"login", target_.user + "@" + target_.host}});
     }
 
 private:
     void tried(const std::string& what) { tried_ += (tried_.empty() ? "" : "; ") + what; }
 
     bool accepted(int result) const {
-        if (result == SSH_AUTH_PARTIAL) throw sshError(SshMessage::KeyNotEnough, {target_.address(), target_.user});
-        // the server hangs up after a few keys that it doesn't know
+        if (result == SSH_AUTH_PARTIAL)
+            throw sshError(SshMessage::KeyNotEnough, {{"handheld", target_.address()}, {"user", target_.user}});
+        // Servers disconnect after a few unknown keys.
         if (result == SSH_AUTH_ERROR && session_.problem().find("Too many") != std::string::npos) refuse();
         if (result == SSH_AUTH_ERROR)
-            throw sshError(SshMessage::ConnectionLost, {target_.address(), session_.problem()});
+            throw sshError(SshMessage::ConnectionLost,
+                           {{"handheld", target_.address()}, {"reason", session_.problem()}});
         return result == SSH_AUTH_SUCCESS;
     }
 
@@ -89,15 +92,16 @@ private:
 
 void authenticateByFile(Authentication& ways, const std::string& path) {
     if (::access(path.c_str(), R_OK) != 0)
-        throw sshError(SshMessage::KeyFileMissing, {path, std::generic_category().message(errno)});
+        throw sshError(SshMessage::KeyFileMissing,
+                       {{"file", path}, {"reason", std::generic_category().message(errno)}});
     const auto file = readKeyFile(path);
-    if (!file.key && !file.hasPassphrase) throw sshError(SshMessage::KeyFileUnusable, {path});
+    if (!file.key && !file.hasPassphrase) throw sshError(SshMessage::KeyFileUnusable, {{"file", path}});
     if (file.key && ways.byFile(path, file)) return;
     if (ways.byAgent()) return;
     if (file.key) ways.refuse();
     const char* why = Authentication::agentRuns() ? "none of the agent's keys was accepted"
-                                                  : "no agent runs here (SSH_AUTH_SOCK is not set)";
-    throw sshError(SshMessage::KeyNeedsAgent, {path, why, shellWord(path)});
+                                                  : "no agent is running (SSH_AUTH_SOCK is not set)";
+    throw sshError(SshMessage::KeyNeedsAgent, {{"file", path}, {"reason", why}, {"quotedFile", shellWord(path)}});
 }
 
 } // namespace

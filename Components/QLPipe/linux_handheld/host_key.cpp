@@ -1,4 +1,4 @@
-#include "Components/QLPipe/linux_handheld/ssh_messages.h"
+#include "Components/QLPipe/base/ssh_messages.h"
 #include "Components/QLPipe/linux_handheld/ssh_session.h"
 #include <cerrno>
 #include <new>
@@ -10,13 +10,13 @@ namespace qlpipe {
 namespace {
 
 struct HostKey {
-    /// As ssh-keygen names it: "ED25519".
+    /// The name that ssh-keygen uses: "ED25519".
     std::string kind;
-    /// As it stands in the name of the file that holds it: "ed25519".
+    /// The name in the key's file name: "ed25519".
     std::string fileKind;
     /// "SHA256:" and the hash.
     std::string fingerprint;
-    /// The line that makes it known.
+    /// The line for the known hosts file.
     std::string line;
 };
 
@@ -43,7 +43,8 @@ std::string fingerprintOf(ssh_key key) {
 HostKey hostKeyOf(const SshSession& session) {
     const auto demand = [&](int result) {
         if (result != SSH_OK)
-            throw sshError(SshMessage::HandshakeFailed, {session.target().address(), session.problem()});
+            throw sshError(SshMessage::HandshakeFailed,
+                           {{"handheld", session.target().address()}, {"reason", session.problem()}});
     };
     ssh_key key = nullptr;
     demand(libssh().ssh_get_server_publickey(session.get(), &key));
@@ -60,18 +61,24 @@ HostKey hostKeyOf(const SshSession& session) {
 [[noreturn]] void refuseHost(const SshSession& session, SshMessage message) {
     const auto& target = session.target();
     const auto key = hostKeyOf(session);
-    throw sshError(message, {target.address(), key.kind, key.fingerprint, key.fileKind, key.line,
-                             shellWord(target.knownHosts), key.line.substr(0, key.line.find(' '))});
+    throw sshError(message, {{"handheld", target.address()},
+                             {"kind", key.kind},
+                             {"fingerprint", key.fingerprint},
+                             {"keyFile", key.fileKind},
+                             {"line", key.line},
+                             {"knownHosts", shellWord(target.knownHosts)},
+                             {"host", key.line.substr(0, key.line.find(' '))}});
 }
 
 } // namespace
 
 void checkHostKey(const SshSession& session) {
     const auto& file = session.target().knownHosts;
-    // a file that may not be read would look like one that knows nobody
+    // libssh treats an unreadable file like an empty one.
     if (::access(file.c_str(), R_OK) != 0 && errno != ENOENT)
-        throw sshError(SshMessage::KnownHostsUnreadable,
-                       {file, std::generic_category().message(errno), session.target().address()});
+        throw sshError(SshMessage::KnownHostsUnreadable, {{"file", file},
+                                                          {"reason", std::generic_category().message(errno)},
+                                                          {"handheld", session.target().address()}});
     switch (libssh().ssh_session_is_known_server(session.get())) {
     case SSH_KNOWN_HOSTS_OK: return;
     case SSH_KNOWN_HOSTS_CHANGED:
@@ -80,7 +87,8 @@ void checkHostKey(const SshSession& session) {
     case SSH_KNOWN_HOSTS_NOT_FOUND: refuseHost(session, SshMessage::HostKeyUnknown);
     case SSH_KNOWN_HOSTS_ERROR: break;
     }
-    throw sshError(SshMessage::KnownHostsUnreadable, {file, session.problem(), session.target().address()});
+    throw sshError(SshMessage::KnownHostsUnreadable,
+                   {{"file", file}, {"reason", session.problem()}, {"handheld", session.target().address()}});
 }
 
 } // namespace qlpipe

@@ -1,6 +1,6 @@
 #pragma once
-// The functions of libssh that are used, and what owns its objects.
-#include "Components/QLPipe/late_library.h"
+// The functions of libssh that are used, and owners of its objects.
+#include "Components/QLPipe/base/late_library.h"
 #include <libssh/libssh.h>
 #include <memory>
 #include <string>
@@ -8,10 +8,9 @@
 
 namespace qlpipe {
 
-/// libssh, loaded when the first handheld is reached. The functions keep their names.
+/// libssh, loaded for the first handheld. The functions keep their names.
 ///
-/// Its own SFTP is left alone: it waits without end for a server that has gone quiet, and has one write under way at a
-/// time.
+/// libssh's SFTP is not used: it waits indefinitely for a server that does not answer, and sends one write at a time.
 struct LibsshLibrary {
     LateLibrary library{"libssh.so.4", "libssh-4"};
 
@@ -50,10 +49,10 @@ struct LibsshLibrary {
 #undef FERNWICK_LIBSSH
 };
 
-/// Throws TransferError where it can't be loaded.
+/// Throws TransferError if it cannot be loaded.
 const LibsshLibrary& libssh();
 
-/// Deletes with a function of libssh.
+/// Deleter that calls a function of libssh.
 template <auto Function>
 struct LibsshDelete {
     template <class T>

@@ -1,14 +1,19 @@
 #pragma once
-// The family of handhelds that run Linux and are reached by SSH.
-#include "Components/QLPipe/pipe_family.h"
+// The family of Linux handhelds, which are reached by SSH.
+#include "Add-in/platform/pipes.h"
+#include "Components/QLPipe/base/device_storage.h"
+#include "Components/QLPipe/base/pipe_services.h"
+#include <memory>
+#include <string>
 
 namespace qlpipe {
 
-/// The handheld of a design target, by the project's settings over the user's. Another transfer from this account waits.
+/// Opens the handheld of a design target. The project's settings override the user's. Other transfers from this account
+/// wait until it is closed.
 std::unique_ptr<DeviceStorage> openLinuxHandheld(const PipeServices& services, const std::string& deviceName,
                                                  const basic::Ref<vbide::VBProject>& project);
 
-/// The page "Linux Handheld", on which a project says how its handheld is reached.
+/// Creates the settings page "Linux Handheld".
 basic::Ref<IQLPipeConfiguration> configureLinuxHandheld(const PipeServices& services);
 
 } // namespace qlpipe

@@ -16,7 +16,7 @@ public:
     bool Visible() const override { return isVisible_; }
     void show(bool visible) { isVisible_ = visible; }
 
-    /// What the fields say, by their order.
+    /// The texts of the fields, in their order.
     LinuxHandheldSettings typed() const {
         LinuxHandheldSettings settings;
         for (std::size_t i = 0; i < kLinuxHandheldSettings.size(); ++i)
@@ -29,11 +29,11 @@ private:
     bool isVisible_ = false;
 };
 
-/// The fields are text; no value that the transfer would refuse is stored, nor one that a project file can't hold.
+/// Stores neither values that a transfer would refuse nor values that a project file cannot contain.
 bool canBeStored(LinuxHandheldSettings settings) {
     for (const auto& [name, value, caption] : kLinuxHandheldSettings)
         if ((settings.*value).find_first_of("\r\n") != std::string::npos) return false;
-    // a project may leave the host to the user's own settings
+    // A project may use the host of the user's settings.
     if (settings.Host.empty()) settings.Host = "handheld";
     try {
         (void)sshTarget(settings, "");

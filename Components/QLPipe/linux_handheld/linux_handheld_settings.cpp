@@ -5,7 +5,7 @@ namespace qlpipe {
 
 namespace {
 
-/// A key of the registry, closed with its owner. 0 where it could not be opened.
+/// Owns a registry key and closes it. 0 if it could not be opened.
 class OpenKey {
 public:
     OpenKey(fernwick::Registry& registry, std::uint32_t key) : registry_(registry), key_(key) {}
@@ -15,7 +15,7 @@ public:
         if (key_) registry_.RegCloseKey(key_);
     }
 
-    /// "" for a value that is absent or no text.
+    /// Returns "" for a missing value or one that is not a string.
     std::string text(const char* name) const {
         std::uint32_t type = 0, length = 0;
         std::string data;
@@ -51,7 +51,7 @@ LinuxHandheldSettings readProjectSettings(const basic::Ref<vbide::VBProject>& pr
     LinuxHandheldSettings settings;
     if (!project) return settings;
     for (const auto& [name, value, caption] : kLinuxHandheldSettings)
-        // an absent value is an error of the host
+        // The host raises an error for a missing value.
         (void)basic::attempt(
             [&, name = name, value = value] { settings.*value = project->ReadProperty(kLinuxHandheldSection, name); });
     return settings;

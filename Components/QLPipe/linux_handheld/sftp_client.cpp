@@ -1,5 +1,5 @@
 #include "Components/QLPipe/linux_handheld/sftp_client.h"
-#include "Components/QLPipe/linux_handheld/ssh_messages.h"
+#include "Components/QLPipe/base/ssh_messages.h"
 #include <algorithm>
 #include <limits>
 
@@ -7,10 +7,10 @@ namespace qlpipe {
 
 namespace {
 
-/// What OpenSSH takes for a packet's longest.
+/// The maximum packet size of OpenSSH.
 constexpr std::uint32_t kLongestPacket = 256 * 1024;
 constexpr std::uint32_t kSftpOwnVersion = 3;
-/// No folder of ours has so many names; a device that goes on for ever is stopped.
+/// Protects against a device that sends entries without end.
 constexpr std::size_t kMostEntries = 100'000;
 
 } // namespace
@@ -20,7 +20,7 @@ SftpClient::SftpClient(const SshTarget& target, const SshTimeouts& timeouts) : c
 void SftpClient::start() {
     const auto reply = firstReply();
     PacketReader reader{reply.bytes};
-    if (reply.type != kSftpVersion || reader.number() < kSftpOwnVersion) throwInvalid("another kind of SFTP");
+    if (reply.type != kSftpVersion || reader.number() < kSftpOwnVersion) throwInvalid("an unsupported SFTP version");
     while (reader.isWhole() && !reader.isAtEnd()) {
         const auto name = reader.text();
         reader.text();
@@ -28,14 +28,15 @@ void SftpClient::start() {
     }
 }
 
-/// A server whose program for transfers is missing accepts the transfer and then ends it.
+/// A server whose SFTP program is missing accepts the transfer and then closes it.
 SftpClient::Reply SftpClient::firstReply() try {
     auto packet = PacketWriter{kSftpInit}.number(kSftpOwnVersion);
     channel_.send(packet.finished());
     return receive(channel_.timeouts().connect);
 } catch (const TransferError& error) {
     if (error.number != std::int32_t(SshMessage::ConnectionLost)) throw;
-    throw sshError(SshMessage::TransferNotOffered, {channel_.target().address(), "its program does not start"});
+    throw sshError(SshMessage::TransferNotOffered,
+                   {{"handheld", channel_.target().address()}, {"reason", "its program did not start"}});
 }
 
 PacketWriter SftpClient::request(SftpPacket type) { return PacketWriter{type}.number(++lastRequest_); }
@@ -70,7 +71,7 @@ SftpClient::Reply SftpClient::await(Request request, std::chrono::milliseconds p
         auto reply = receive(patience);
         PacketReader reader{reply.bytes};
         const auto found = underWay_.find(reader.number());
-        if (!reader.isWhole() || found == underWay_.end() || found->second) throwInvalid("a reply to no request");
+        if (!reader.isWhole() || found == underWay_.end() || found->second) throwInvalid("a reply without a request");
         reply.bytes.erase(0, 4);
         found->second = std::move(reply);
     }
@@ -83,14 +84,14 @@ template <class Read>
 SftpResult SftpClient::readReply(const Reply& reply, std::uint8_t type, Read read) {
     PacketReader reader{reply.bytes};
     if (reply.type == kSftpStatus) {
-        // old servers leave out the words
+        // Old servers omit the message.
         SftpResult result{reader.number(), saidByDevice(reader.text())};
         if (result && type != kSftpStatus) throwInvalid("success without a result");
         return result;
     }
     if (reply.type != type) throwInvalid("a packet of kind " + std::to_string(reply.type));
     read(reader);
-    if (!reader.isWhole()) throwInvalid("a packet that is cut short");
+    if (!reader.isWhole()) throwInvalid("a truncated packet");
     return {};
 }
 
@@ -108,7 +109,7 @@ SftpResult SftpClient::lstat(const std::string& path, SftpAttributes& attributes
 
 SftpResult SftpClient::realPath(const std::string& path, std::string& real) {
     return readReply(await(startOnPath(kSftpRealPath, path)), kSftpName, [&](PacketReader& reader) {
-        if (reader.number() != 1) throwInvalid("a path that is several");
+        if (reader.number() != 1) throwInvalid("more than one path");
         real = reader.text();
     });
 }
@@ -163,11 +164,11 @@ bool SftpClient::readEntries(const Reply& reply, std::vector<Entry>& entries, Sf
     result = readReply(reply, kSftpName, [&](PacketReader& reader) {
         for (auto count = reader.number(); count > 0 && reader.isWhole(); --count) {
             const auto name = reader.text();
-            reader.text(); // the line of a long listing, for people
+            reader.text(); // long name, for display
             const auto attributes = reader.attributes();
-            // names that could lead out of the folder are not names
+            // Such a name could lead out of the folder.
             if (name.find('/') != std::string_view::npos) throwInvalid("a name with a slash");
-            if (entries.size() == kMostEntries) throwInvalid("a folder without end");
+            if (entries.size() == kMostEntries) throwInvalid("a folder with too many entries");
             if (!name.empty() && name != "." && name != "..") entries.push_back({std::string{name}, attributes});
         }
     });
@@ -179,9 +180,9 @@ std::int64_t SftpClient::freeSpace(const std::string& folder) {
     std::uint64_t bytes = 0;
     const auto sent = send(request(kSftpExtended).text("statvfs@openssh.com").text(folder));
     const auto result = readReply(await(sent), kSftpExtendedReply, [&](PacketReader& reader) {
-        reader.number64(); // preferred block
+        reader.number64(); // preferred block size
         const auto block = reader.number64();
-        reader.number64(), reader.number64(); // all blocks, all free ones
+        reader.number64(), reader.number64(); // total blocks, free blocks
         const auto blocks = reader.number64();
         if (__builtin_mul_overflow(block, blocks, &bytes)) bytes = std::numeric_limits<std::int64_t>::max();
     });
@@ -190,7 +191,7 @@ std::int64_t SftpClient::freeSpace(const std::string& folder) {
 
 void SftpClient::throwInvalid(const std::string& what) {
     channel_.giveUp();
-    throw sshError(SshMessage::AnswerInvalid, {channel_.target().address(), what});
+    throw sshError(SshMessage::AnswerInvalid, {{"handheld", channel_.target().address()}, {"reason", what}});
 }
 
 } // namespace qlpipe

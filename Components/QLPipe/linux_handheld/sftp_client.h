@@ -1,5 +1,5 @@
 #pragma once
-// The requests of SFTP over one channel. Several may be under way at once.
+// SFTP requests over one channel. Several may be pending at once.
 #include "Components/QLPipe/linux_handheld/sftp_packets.h"
 #include "Components/QLPipe/linux_handheld/ssh_channel.h"
 #include <map>
@@ -10,21 +10,21 @@
 
 namespace qlpipe {
 
-/// Paths are the device's own. A request that the device refuses is an SftpResult; only what ends the connection, or
-/// makes no sense, is thrown as TransferError.
+/// Paths are paths on the device. A refused request returns an SftpResult; a lost connection or an invalid reply throws
+/// TransferError.
 class SftpClient {
 public:
     SftpClient(const SshTarget& target, const SshTimeouts& timeouts);
 
-    /// A request under way. Each is awaited once, in any order.
+    /// A pending request. Each must be awaited once, in any order.
     using Request = std::uint32_t;
     Request startLstat(const std::string& path) { return startOnPath(kSftpLstat, path); }
     Request startRemove(const std::string& path) { return startOnPath(kSftpRemove, path); }
     Request startClose(const std::string& handle) { return startOnPath(kSftpClose, handle); }
-    /// Puts a file on the device's disk; nothing where the device doesn't offer it.
+    /// Flushes a file to the device's disk. Does nothing if the device does not support this.
     std::optional<Request> startFlush(const std::string& handle);
     Request startWrite(const std::string& handle, std::uint64_t offset, std::string_view bytes);
-    /// The attributes, or why there are none.
+    /// Sets the attributes, or returns an error.
     SftpResult awaitAttributes(Request request, SftpAttributes& attributes);
     SftpResult awaitResult(Request request) { return awaitResult(request, channel_.timeouts().operation); }
     SftpResult awaitResult(Request request, std::chrono::milliseconds patience);
@@ -32,12 +32,12 @@ public:
     SftpResult lstat(const std::string& path, SftpAttributes& attributes);
     SftpResult realPath(const std::string& path, std::string& real);
     SftpResult open(const std::string& path, SftpOpenMode mode, std::string& handle);
-    /// "" at the end of the file.
+    /// Sets "" at the end of the file.
     SftpResult read(const std::string& handle, std::uint64_t offset, std::uint32_t size, std::string& bytes);
     SftpResult close(const std::string& handle);
     SftpResult makeFolder(const std::string& path);
     SftpResult removeFolder(const std::string& path);
-    /// Puts a file in another's place where the device offers that; else the place must be free, as it must for folders.
+    /// Renames. Replaces an existing file if the device supports this; otherwise, and for folders, the name must be free.
     SftpResult rename(const std::string& from, const std::string& to);
     bool renameReplaces() const { return offers("posix-rename@openssh.com"); }
 
@@ -45,9 +45,9 @@ public:
         std::string name;
         SftpAttributes attributes;
     };
-    /// In the device's order, "." and ".." left out.
+    /// In the device's order, without "." and "..".
     SftpResult list(const std::string& folder, std::vector<Entry>& entries);
-    /// Bytes for ordinary users; -1 where the device doesn't tell.
+    /// Bytes available to ordinary users, or -1 if unknown.
     std::int64_t freeSpace(const std::string& folder);
 
     const SshChannel& channel() const { return channel_; }
@@ -66,7 +66,7 @@ private:
     Reply receive(std::chrono::milliseconds patience);
     Reply await(Request request, std::chrono::milliseconds patience);
     Reply await(Request request) { return await(request, channel_.timeouts().operation); }
-    /// Reads a reply of the kind `type`; a status in its place is the result.
+    /// Reads a reply of the kind `type`. A status reply instead becomes the result.
     template <class Read>
     SftpResult readReply(const Reply& reply, std::uint8_t type, Read read);
     SftpResult handleOf(Request request, std::string& handle);
@@ -74,10 +74,10 @@ private:
     [[noreturn]] void throwInvalid(const std::string& what);
 
     SshChannel channel_;
-    /// Names of what the device offers beyond the version.
+    /// Names of the device's protocol extensions.
     std::set<std::string> extensions_;
     Request lastRequest_ = 0;
-    /// What is under way; a reply once it has come.
+    /// Pending requests, with the reply once it has arrived.
     std::map<Request, std::optional<Reply>> underWay_;
 };
 

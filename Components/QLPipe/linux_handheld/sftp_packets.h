@@ -1,5 +1,5 @@
 #pragma once
-// SFTP, version 3: its numbers, and packets as bytes.
+// SFTP version 3: constants and packets.
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -40,21 +40,21 @@ enum SftpCode : std::uint32_t {
 
 enum SftpOpenMode : std::uint32_t {
     kSftpForReading = 1,
-    /// A new file for writing: creates it, and fails where there is anything, also a link.
+    /// Creates a file for writing. Fails if the name exists, even as a link.
     kSftpNewFile = 2 | 8 | 32,
 };
 
-/// How a request ended, and what the device said to it.
+/// The status of a request, and the device's message.
 struct [[nodiscard]] SftpResult {
     std::uint32_t code = kSftpOk;
     std::string text;
     explicit operator bool() const { return code == kSftpOk; }
 };
 
-/// What a device tells of a file or folder.
+/// Attributes of a file or folder.
 struct SftpAttributes {
     std::uint64_t size = 0;
-    /// As in POSIX, with the kind; 0 where the device doesn't tell.
+    /// POSIX mode including the file type; 0 if unknown.
     std::uint32_t permissions = 0;
 
     bool isFolder() const { return (permissions & 0170000) == 0040000; }
@@ -62,7 +62,7 @@ struct SftpAttributes {
     bool isLink() const { return (permissions & 0170000) == 0120000; }
 };
 
-/// A packet on its way out: the length stands in front of it.
+/// Builds a packet, which begins with its length.
 class PacketWriter {
 public:
     explicit PacketWriter(SftpPacket type) { number8(type); }
@@ -84,7 +84,7 @@ public:
         return *this;
     }
 
-    /// The whole packet. Nothing can be added any more.
+    /// Completes and returns the packet. Nothing can be added afterwards.
     std::string_view finished() {
         const auto size = std::uint32_t(bytes_.size() - 4);
         for (std::size_t i = 0; i < 4; ++i) bytes_[i] = char(size >> (24 - 8 * i));
@@ -95,7 +95,7 @@ private:
     std::string bytes_ = std::string(4, '\0');
 };
 
-/// A packet that came. What is not there reads as zero or "", and `isWhole` tells it afterwards.
+/// Reads a received packet. Missing values read as zero or "", after which `isWhole` returns false.
 class PacketReader {
 public:
     explicit PacketReader(std::string_view bytes) : rest_(bytes) {}

@@ -1,5 +1,5 @@
 #include "Components/QLPipe/linux_handheld/ssh_channel.h"
-#include "Components/QLPipe/linux_handheld/ssh_messages.h"
+#include "Components/QLPipe/base/ssh_messages.h"
 #include <new>
 
 namespace qlpipe {
@@ -11,14 +11,15 @@ SshChannel::SshChannel(const SshTarget& target, const SshTimeouts& timeouts) : s
     if (!channel_) throw std::bad_alloc();
     const auto demand = [this](int result) {
         if (result != SSH_OK)
-            throw sshError(SshMessage::TransferNotOffered, {session_.target().address(), session_.problem()});
+            throw sshError(SshMessage::TransferNotOffered,
+                           {{"handheld", session_.target().address()}, {"reason", session_.problem()}});
     };
     demand(session_.finish(SSH_AGAIN, [this] { return libssh().ssh_channel_open_session(channel_.get()); }));
     demand(session_.finish(SSH_AGAIN, [this] { return libssh().ssh_channel_request_sftp(channel_.get()); }));
 }
 
 void SshChannel::send(std::string_view bytes) {
-    if (!isOpen_) throwLost("it was given up before");
+    if (!isOpen_) throwLost("it was closed earlier");
     auto since = SshSession::Clock::now();
     while (!bytes.empty()) {
         const int taken = libssh().ssh_channel_write(channel_.get(), bytes.data(), std::uint32_t(bytes.size()));
@@ -36,7 +37,7 @@ void SshChannel::receive(char* bytes, std::size_t size, std::chrono::millisecond
     while (size > 0) {
         const int got = libssh().ssh_channel_read_timeout(channel_.get(), bytes, std::uint32_t(size), 0, 0);
         if (got < 0) throwLost(session_.problem());
-        if (got == 0 && libssh().ssh_channel_is_eof(channel_.get())) throwLost("the handheld ended the file transfer");
+        if (got == 0 && libssh().ssh_channel_is_eof(channel_.get())) throwLost("the handheld closed the file transfer");
         bytes += got;
         size -= std::size_t(got);
         if (got > 0)
@@ -50,12 +51,12 @@ void SshChannel::waitFor(std::chrono::milliseconds patience, SshSession::Clock::
     if (!session_.isConnected()) throwLost(session_.problem());
     if (session_.wait(since + patience)) return;
     giveUp();
-    throw sshError(SshMessage::Stalled, {target().address(), secondsText(patience)});
+    throw sshError(SshMessage::Stalled, {{"handheld", target().address()}, {"seconds", secondsText(patience)}});
 }
 
 void SshChannel::throwLost(const std::string& why) {
     giveUp();
-    throw sshError(SshMessage::ConnectionLost, {target().address(), why});
+    throw sshError(SshMessage::ConnectionLost, {{"handheld", target().address()}, {"reason", why}});
 }
 
 } // namespace qlpipe

@@ -4,22 +4,22 @@
 
 namespace qlpipe {
 
-/// The bytes of the file transfer. Every wait for the device has an end; what goes wrong is a TransferError, and then
-/// the channel is of no more use.
+/// The byte stream of a file transfer. Every wait has a timeout. After a TransferError the channel cannot be used any
+/// more.
 class SshChannel {
 public:
-    /// Connects, checks the device's key, lets the user in and opens the file transfer.
+    /// Connects, verifies the device's key, authenticates the user and opens the file transfer.
     SshChannel(const SshTarget& target, const SshTimeouts& timeouts);
 
     void send(std::string_view bytes);
-    /// Fills `bytes`, however long the rest takes as long as something comes within `patience`.
+    /// Fills `bytes`. Fails only if nothing arrives for `patience`.
     void receive(char* bytes, std::size_t size, std::chrono::milliseconds patience);
 
     const SshTarget& target() const { return session_.target(); }
     const SshTimeouts& timeouts() const { return session_.timeouts(); }
-    /// Whether it can still be used.
+    /// Returns whether the channel can still be used.
     bool isOpen() const { return isOpen_; }
-    /// For whoever can make no sense of what comes.
+    /// Closes the channel after an invalid reply.
     void giveUp() { isOpen_ = false; }
 
 private:

@@ -1,5 +1,5 @@
 #include "Components/QLPipe/linux_handheld/ssh_session.h"
-#include "Components/QLPipe/linux_handheld/ssh_messages.h"
+#include "Components/QLPipe/base/ssh_messages.h"
 #include <cerrno>
 #include <fcntl.h>
 #include <new>
@@ -22,13 +22,13 @@ SshSession::SshSession(const SshTarget& target, const SshTimeouts& timeouts)
     : target_(target), timeouts_(timeouts), session_(libssh().ssh_new()) {
     if (!session_) throw std::bad_alloc();
     auto socket = connectTo(target, timeouts.connect);
-    setOptions(socket.number());
+    setOptions(socket.get());
     libssh().ssh_set_blocking(get(), 0);
-    // from its first step on, libssh closes the socket
+    // From its first step on, libssh owns the socket.
     socket.release();
     if (finish(SSH_AGAIN, [this] { return libssh().ssh_connect(get()); }) != SSH_OK)
-        throw sshError(SshMessage::HandshakeFailed, {target_.address(), problem()});
-    // libssh has made the socket block, and a device that stops reading would hold us in a write
+        throw sshError(SshMessage::HandshakeFailed, {{"handheld", target_.address()}, {"reason", problem()}});
+    // libssh has made the socket blocking; a write could block if the device stops reading.
     const int fd = libssh().ssh_get_fd(get());
     ::fcntl(fd, F_SETFL, ::fcntl(fd, F_GETFL) | O_NONBLOCK);
 }
@@ -36,12 +36,14 @@ SshSession::SshSession(const SshTarget& target, const SshTimeouts& timeouts)
 void SshSession::setOptions(int socket) const {
     const auto set = [this](ssh_options_e option, const void* value) {
         if (libssh().ssh_options_set(get(), option, value) != SSH_OK)
-            throw sshError(SshMessage::SettingInvalid, {"Host", target_.host, "it is neither a name nor an address"});
+            throw sshError(
+                SshMessage::SettingInvalid,
+                {{"setting", "Host"}, {"value", target_.host}, {"reason", "it is neither a name nor an address"}});
     };
     const bool no = false;
     const unsigned port = target_.port;
     const bool isIpv6 = target_.host.find(':') != std::string::npos;
-    // the settings say it all: what stands in ~/.ssh/config is for other programs
+    // ~/.ssh/config is ignored: the settings are complete.
     set(SSH_OPTIONS_PROCESS_CONFIG, &no);
     set(SSH_OPTIONS_HOST, (isIpv6 ? "[" + target_.host + "]" : target_.host).c_str());
     set(SSH_OPTIONS_PORT, &port);
@@ -58,12 +60,13 @@ bool SshSession::wait(Clock::time_point deadline) const {
     if (left <= 0) return false;
     const bool isWriting = (libssh().ssh_get_poll_flags(get()) & SSH_WRITE_PENDING) != 0;
     pollfd event{libssh().ssh_get_fd(get()), short(POLLIN | (isWriting ? POLLOUT : 0)), 0};
-    // an error shows itself in the step that follows
+    // The next step reports an error.
     return !isConnected() || ::poll(&event, 1, int(left)) != 0;
 }
 
 void SshSession::throwNoAnswer() const {
-    throw sshError(SshMessage::NoAnswer, {target_.address(), secondsText(timeouts_.connect)});
+    throw sshError(SshMessage::NoAnswer,
+                   {{"handheld", target_.address()}, {"seconds", secondsText(timeouts_.connect)}});
 }
 
 } // namespace qlpipe

@@ -1,14 +1,14 @@
 #pragma once
-// One SSH connection, from the first byte to the open channel of the file transfer.
+// One SSH connection.
 #include "Components/QLPipe/linux_handheld/libssh_library.h"
 #include "Components/QLPipe/linux_handheld/tcp_connection.h"
 #include <string_view>
 
 namespace qlpipe {
 
-/// A connection on which both sides agreed on keys. Nobody has looked at the device's yet.
+/// A connection after the key exchange. The device's key has not been verified yet.
 ///
-/// libssh never blocks here: it does what can be done at once, and the waiting is ours, with an end.
+/// libssh is used in non-blocking mode; all waiting is done here, with timeouts.
 class SshSession {
 public:
     SshSession(const SshTarget& target, const SshTimeouts& timeouts);
@@ -16,27 +16,27 @@ public:
     const SshTarget& target() const { return target_; }
     const SshTimeouts& timeouts() const { return timeouts_; }
     ssh_session get() const { return session_.get(); }
-    /// What libssh says of its last failure.
+    /// Returns the text of the last error of libssh.
     std::string problem() const;
 
     bool isConnected() const { return libssh().ssh_get_fd(get()) >= 0; }
 
-    /// Repeats a step of libssh for as long as it answers `again`. SSH_ERROR when the connection is gone; throws
-    /// after the connect timeout.
+    /// Repeats a step of libssh while it returns `again`. Returns SSH_ERROR if the connection is lost. Throws after the
+    /// connect timeout.
     template <class Step>
     int finish(int again, Step step) const {
         const auto deadline = Clock::now() + timeouts_.connect;
         for (;;) {
             const int result = step();
             if (result != again) return result;
-            // libssh goes on hoping after the other side has hung up
+            // libssh does not notice that the other side has disconnected.
             if (!isConnected()) return SSH_ERROR;
             if (!wait(deadline)) throwNoAnswer();
         }
     }
 
     using Clock = std::chrono::steady_clock;
-    /// Until something may have moved on the connection. False at the deadline.
+    /// Waits for activity on the connection. Returns false at the deadline.
     [[nodiscard]] bool wait(Clock::time_point deadline) const;
 
 private:
@@ -48,10 +48,11 @@ private:
     OwnedSession session_;
 };
 
-/// Throws TransferError unless the device's key is among the known ones.
+/// Throws TransferError unless the device's key is known.
 void checkHostKey(const SshSession& session);
 
-/// Lets the user in by the key file, the agent or the usual keys; throws TransferError. No password is ever asked for.
+/// Authenticates the user with the key file, the agent or the default keys. Never asks for a password. Throws
+/// TransferError.
 void authenticate(const SshSession& session);
 
 } // namespace qlpipe

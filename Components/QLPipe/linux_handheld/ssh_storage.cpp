@@ -1,8 +1,9 @@
 #include "Components/QLPipe/linux_handheld/ssh_storage.h"
-#include "Components/QLPipe/device_names.h"
-#include "Components/QLPipe/linux_handheld/ssh_messages.h"
+#include "Components/QLPipe/base/device_names.h"
+#include "Components/QLPipe/base/pipe_messages.h"
+#include "Components/QLPipe/base/ssh_messages.h"
+#include "Components/QLPipe/linux_handheld/sftp_errors.h"
 #include "Components/QLPipe/linux_handheld/ssh_upload.h"
-#include "Components/QLPipe/pipe_messages.h"
 #include <algorithm>
 #include <random>
 
@@ -12,8 +13,6 @@ namespace {
 
 constexpr std::size_t kLargestRead = 1024 * 1024;
 constexpr std::uint32_t kReadBlock = 32 * 1024;
-/// A file system with less room is taken for a full one when it fails.
-constexpr std::int64_t kFull = 64 * 1024;
 constexpr std::string_view kOwnerPrefix = ".fernwick-owner-";
 
 std::string ownerFile() {
@@ -23,24 +22,12 @@ std::string ownerFile() {
 
 } // namespace
 
-std::vector<std::string> beginnings(const std::string& name) {
+std::vector<std::string> pathPrefixes(const std::string& name) {
     std::vector<std::string> parts;
     for (auto end = name.find('/'); end != std::string::npos; end = name.find('/', end + 1))
         parts.push_back(name.substr(0, end));
     if (!name.empty()) parts.push_back(name);
     return parts;
-}
-
-void demandSftp(SftpClient& client, const std::string& base, const SftpResult& result, const char* action,
-                const std::string& path) {
-    if (result) return;
-    const auto& target = client.channel().target();
-    if (result.code == kSftpNoSuchFile) throw sshError(SshMessage::NotThere, {action, path});
-    if (result.code == kSftpPermissionDenied)
-        throw sshError(SshMessage::AccessDenied, {action, path, result.text, target.user});
-    const auto room = result.code == kSftpFailure ? client.freeSpace(base) : -1;
-    if (room >= 0 && room < kFull) throw sshError(SshMessage::DeviceFull, {target.address(), action, path});
-    throw sshError(SshMessage::OperationFailed, {target.address(), action, path, result.text});
 }
 
 SshStorage::SshStorage(const SshTarget& target, const SshTimeouts& timeouts, FileDescriptor lock)
@@ -53,7 +40,7 @@ SshStorage::~SshStorage() {
     if (owner_.empty() || !client_.channel().isOpen()) return;
     try {
         (void)client_.awaitResult(client_.startRemove(owner_));
-    } catch (const TransferError&) {} // the next transfer removes it
+    } catch (const TransferError&) {} // The next transfer removes it.
 }
 
 void SshStorage::beginWork() {
@@ -63,7 +50,7 @@ void SshStorage::beginWork() {
         if (name.starts_with(kOwnerPrefix)) (void)client_.awaitResult(client_.startRemove(pathOf(name)));
     const auto path = pathOf(ownerFile());
     std::string handle;
-    demand(client_.open(path, kSftpNewFile, handle), "write into", base_);
+    demand(client_.open(path, kSftpNewFile, handle), "write to", base_);
     (void)client_.close(handle);
     owner_ = path;
 }
@@ -76,7 +63,7 @@ void SshStorage::takeFolder(const std::string& folder) {
     }
     base_ = folder.starts_with('/') ? folder : home + "/" + folder;
     SftpAttributes found;
-    // the folder itself may be a link: the user chose it
+    // The folder itself may be a link, because the user chose it.
     if (client_.lstat(base_, found) && found.isLink()) {
         const auto link = base_;
         demand(client_.realPath(link, base_), "find", link);
@@ -89,7 +76,7 @@ std::string SshStorage::location() const {
 }
 
 std::int64_t SshStorage::freeSpaceFor(const std::string&) {
-    // the old and the new application lie side by side until the new one is whole
+    // The old and the new application exist side by side until the new one is complete.
     auto path = base_;
     for (SftpAttributes found; !client_.lstat(path, found) && !path.empty();) path = folderOf(path);
     return client_.freeSpace(path.empty() ? "/" : path);
@@ -97,7 +84,7 @@ std::int64_t SshStorage::freeSpaceFor(const std::string&) {
 
 SshStorage::Requests SshStorage::startFind(const std::string& name) {
     Requests requests{client_.startLstat(base_)};
-    for (const auto& part : beginnings(name)) requests.push_back(client_.startLstat(pathOf(part)));
+    for (const auto& part : pathPrefixes(name)) requests.push_back(client_.startLstat(pathOf(part)));
     return requests;
 }
 
@@ -106,14 +93,14 @@ std::optional<SftpAttributes> SshStorage::awaitFound(const std::string& name, co
     std::vector<SftpResult> results;
     for (std::size_t i = 0; i < requests.size(); ++i) results.push_back(client_.awaitAttributes(requests[i], found[i]));
 
-    const auto parts = beginnings(name);
+    const auto parts = pathPrefixes(name);
     for (std::size_t i = 0; i < found.size(); ++i) {
         const auto path = i == 0 ? base_ : pathOf(parts[i - 1]);
         if (results[i].code == kSftpNoSuchFile) return std::nullopt;
-        demand(results[i], "look at", path);
+        demand(results[i], "examine", path);
         if (i + 1 == found.size()) break;
-        if (found[i].isLink()) throw sshError(SshMessage::LinkRefused, {path});
-        if (!found[i].isFolder()) throw sshError(SshMessage::NotFolder, {path});
+        if (found[i].isLink()) throw sshError(SshMessage::LinkRefused, {{"path", path}});
+        if (!found[i].isFolder()) throw sshError(SshMessage::NotFolder, {{"path", path}});
     }
     return found.back();
 }
@@ -125,12 +112,12 @@ std::optional<SftpAttributes> SshStorage::findAsOwner(const std::string& name) {
     SftpAttributes found;
     const bool isOwner = client_.awaitAttributes(owner, found).code != kSftpNoSuchFile;
     const auto answer = awaitFound(name, requests);
-    if (!isOwner) throw transferError(kDeviceBusy, {location()});
+    if (!isOwner) throw transferError(kDeviceBusy, {{"device", location()}});
     return answer;
 }
 
 std::optional<SftpAttributes> SshStorage::notALink(const std::string& name, std::optional<SftpAttributes> found) const {
-    if (found && found->isLink()) throw sshError(SshMessage::LinkRefused, {pathOf(name)});
+    if (found && found->isLink()) throw sshError(SshMessage::LinkRefused, {{"path", pathOf(name)}});
     return found;
 }
 
@@ -139,7 +126,7 @@ bool SshStorage::exists(const std::string& name) { return find(name).has_value()
 std::vector<std::string> SshStorage::list(const std::string& folder) {
     const auto found = notALink(folder, find(folder));
     if (!found) return {};
-    if (!found->isFolder()) throw sshError(SshMessage::NotFolder, {pathOf(folder)});
+    if (!found->isFolder()) throw sshError(SshMessage::NotFolder, {{"path", pathOf(folder)}});
     std::vector<SftpClient::Entry> entries;
     demand(client_.list(pathOf(folder), entries), "list", pathOf(folder));
     std::vector<std::string> names;
@@ -151,9 +138,9 @@ std::vector<std::string> SshStorage::list(const std::string& folder) {
 
 std::string SshStorage::read(const std::string& file) {
     const auto path = pathOf(file);
-    // a pipe or a device would keep the handheld waiting
+    // Reading from a FIFO or a device could block.
     if (const auto found = notALink(file, find(file)); found && !found->isFile())
-        demand({kSftpFailure, "it is no file"}, "read", path);
+        demand({kSftpFailure, "it is not a file"}, "read", path);
     std::string handle, bytes, block;
     demand(client_.open(path, kSftpForReading, handle), "read", path);
     SftpResult result;
@@ -163,7 +150,7 @@ std::string SshStorage::read(const std::string& file) {
     } while (result && !block.empty() && bytes.size() <= kLargestRead);
     (void)client_.close(handle);
     demand(result, "read", path);
-    if (bytes.size() > kLargestRead) throw sshError(SshMessage::FileTooLarge, {path});
+    if (bytes.size() > kLargestRead) throw sshError(SshMessage::FileTooLarge, {{"path", path}});
     return bytes;
 }
 
@@ -171,15 +158,16 @@ void SshStorage::makeOneFolder(const std::string& path) {
     SftpAttributes found;
     const auto result = client_.lstat(path, found);
     if (result.code == kSftpNoSuchFile) return demand(client_.makeFolder(path), "make", path);
-    demand(result, "look at", path);
-    if (!found.isFolder()) throw sshError(found.isLink() ? SshMessage::LinkRefused : SshMessage::NotFolder, {path});
+    demand(result, "examine", path);
+    if (!found.isFolder())
+        throw sshError(found.isLink() ? SshMessage::LinkRefused : SshMessage::NotFolder, {{"path", path}});
 }
 
 void SshStorage::makeBase() {
     SftpAttributes found;
     if (client_.lstat(base_, found)) return;
-    // above our folder links are the handheld's own affair, as in /home
-    for (const auto& path : beginnings(base_))
+    // Links above the folder, as in /home, are followed.
+    for (const auto& path : pathPrefixes(base_))
         if (!path.empty() && client_.lstat(path, found).code == kSftpNoSuchFile)
             demand(client_.makeFolder(path), "make", path);
 }
@@ -189,13 +177,13 @@ void SshStorage::makeFolder(const std::string& folder) {
     if (const auto found = notALink(folder, find(folder)); !found || !found->isFolder()) {
         makeBase();
         if (owner_.empty()) beginWork();
-        for (const auto& part : beginnings(folder)) makeOneFolder(pathOf(part));
+        for (const auto& part : pathPrefixes(folder)) makeOneFolder(pathOf(part));
     }
     folders_.insert(folder);
 }
 
 std::unique_ptr<StorageFile> SshStorage::create(const std::string& file) {
-    if (findAsOwner(file)) throw sshError(SshMessage::NameTaken, {pathOf(file)});
+    if (findAsOwner(file)) throw sshError(SshMessage::NameTaken, {{"path", pathOf(file)}});
     return std::make_unique<SshUpload>(client_, base_, pathOf(file));
 }
 

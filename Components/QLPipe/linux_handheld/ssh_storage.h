@@ -1,23 +1,23 @@
 #pragma once
 // The storage of a Linux handheld.
-#include "Components/QLPipe/device_storage.h"
+#include "Components/QLPipe/base/device_storage.h"
 #include "Components/QLPipe/linux_handheld/sftp_client.h"
 
 namespace qlpipe {
 
-/// What begins so is ours alone and never listed.
+/// Names with this prefix are internal and never listed.
 inline constexpr std::string_view kOwnPrefix = ".fernwick-";
 
-/// Below one folder of the handheld. Names of our own there keep interruptions and other computers from doing harm:
+/// The storage inside one folder of the handheld. Internal files protect against interruptions and other computers:
 ///
-/// - A file is written as .fernwick-part-HASH and gets its name when it is closed.
-/// - What is replaced goes to the folder .fernwick-replaced under its name, "/" as "%2F", until the new one stands. What
-///   the next connection finds there goes back to its place if that is empty, and else away.
-/// - .fernwick-owner-NUMBER stands as long as a transfer works. Who begins to work removes those of others; who finds his
-///   own gone has lost the device to a later transfer, and stops before he mixes with it.
+/// - A file is written as .fernwick-part-HASH and renamed when it is closed.
+/// - A replaced folder is moved to .fernwick-replaced, with "/" in its name encoded as "%2F", until the new one is in
+///   place. The next connection restores what it finds there if the original place is empty, and removes it otherwise.
+/// - .fernwick-owner-NUMBER exists during a transfer. A new transfer removes the files of others. A transfer whose file is
+///   gone has lost the device to a later one and stops before the two mix.
 class SshStorage final : public DeviceStorage {
 public:
-    /// `lock` is held as long as the storage.
+    /// Holds `lock` during the storage's lifetime.
     explicit SshStorage(const SshTarget& target, const SshTimeouts& timeouts = {},
                         FileDescriptor lock = FileDescriptor{});
     ~SshStorage() override;
@@ -39,16 +39,16 @@ private:
     using Requests = std::vector<SftpClient::Request>;
     Requests startFind(const std::string& name);
     std::optional<SftpAttributes> awaitFound(const std::string& name, const Requests& requests);
-    /// Nothing for what is not there. Throws for a name behind a link or a file.
+    /// Returns nothing if the name does not exist. Throws if its path contains a link or a file.
     std::optional<SftpAttributes> find(const std::string& name) { return awaitFound(name, startFind(name)); }
-    /// For work that begins with it: throws when a later transfer has the device.
+    /// Like find, but throws if a later transfer has taken the device.
     std::optional<SftpAttributes> findAsOwner(const std::string& name);
-    /// What was found, which must not be a link.
+    /// Like find, but throws for a link.
     std::optional<SftpAttributes> notALink(const std::string& name, std::optional<SftpAttributes> found) const;
     void makeOneFolder(const std::string& path);
     void makeBase();
 
-    /// Makes this the transfer that works; another that does stops.
+    /// Makes this transfer the owner of the device. The previous owner stops.
     void beginWork();
 
     void replace(const std::string& from, const std::string& to);
@@ -61,19 +61,15 @@ private:
 
     FileDescriptor lock_;
     SftpClient client_;
-    /// The folder's full path on the handheld.
+    /// Absolute path of the folder on the handheld.
     std::string base_;
-    /// The path of our owner's file; "" before there is one.
+    /// Path of this transfer's owner file, or "" before it exists.
     std::string owner_;
-    /// Folders that were seen or made, so that they need not be looked for with each file.
+    /// Folders that are known to exist, so that they are not checked for every file.
     std::set<std::string> folders_;
 };
 
-/// "a", "a/b" and "a/b/c" of "a/b/c".
-std::vector<std::string> beginnings(const std::string& name);
-
-/// Throws the TransferError of a request that failed; `action` is what was to be done with `path`, in words.
-void demandSftp(SftpClient& client, const std::string& base, const SftpResult& result, const char* action,
-                const std::string& path);
+/// Returns "a", "a/b" and "a/b/c" for "a/b/c".
+std::vector<std::string> pathPrefixes(const std::string& name);
 
 } // namespace qlpipe

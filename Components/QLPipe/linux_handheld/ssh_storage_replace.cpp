@@ -1,6 +1,6 @@
-// How one thing takes another's place on a handheld, and how things go.
-#include "Components/QLPipe/device_names.h"
-#include "Components/QLPipe/linux_handheld/ssh_messages.h"
+// Replacing and removing files and folders on a handheld.
+#include "Components/QLPipe/base/device_names.h"
+#include "Components/QLPipe/base/ssh_messages.h"
 #include "Components/QLPipe/linux_handheld/ssh_storage.h"
 #include <algorithm>
 
@@ -8,10 +8,10 @@ namespace qlpipe {
 
 namespace {
 
-/// Deeper folders are no work of ours.
+/// The maximum depth of folders to remove.
 constexpr int kDeepest = 64;
 constexpr std::size_t kRemovalsUnderWay = 64;
-/// Where what is replaced is kept until the new one stands.
+/// Holds replaced folders until the new ones are in place.
 constexpr char kReplacedFolder[] = ".fernwick-replaced";
 
 std::string keptName(const std::string& name) {
@@ -20,7 +20,7 @@ std::string keptName(const std::string& name) {
     return kept;
 }
 
-/// "" for a name that keptName never gives.
+/// Returns the original name, or "" for a name that keptName does not produce.
 std::string nameOfKept(const std::string& kept) {
     std::string name;
     for (std::size_t i = 0; i < kept.size(); ++i) {
@@ -41,14 +41,14 @@ std::string nameOfKept(const std::string& kept) {
 
 void SshStorage::replaceFile(const std::string& from, const std::string& to) {
     const auto there = notALink(to, findAsOwner(to));
-    if (there && there->isFolder()) throw sshError(SshMessage::NameTaken, {pathOf(to)});
+    if (there && there->isFolder()) throw sshError(SshMessage::NameTaken, {{"path", pathOf(to)}});
     if (there && !client_.renameReplaces()) return replace(from, to);
     demand(client_.rename(pathOf(from), pathOf(to)), "rename", pathOf(from));
 }
 
 void SshStorage::replaceFolder(const std::string& from, const std::string& to) {
     const auto there = notALink(to, findAsOwner(to));
-    if (there && !there->isFolder()) throw sshError(SshMessage::NotFolder, {pathOf(to)});
+    if (there && !there->isFolder()) throw sshError(SshMessage::NotFolder, {{"path", pathOf(to)}});
     folders_.clear();
     if (there) return replace(from, to);
     demand(client_.rename(pathOf(from), pathOf(to)), "rename", pathOf(from));
@@ -58,7 +58,7 @@ void SshStorage::replace(const std::string& from, const std::string& to) {
     makeOneFolder(pathOf(kReplacedFolder));
     const auto kept = pathOf(kReplacedFolder) + "/" + keptName(to);
     demand(removeTree(kept), "remove", kept);
-    if (!find(from)) throw sshError(SshMessage::NotThere, {"rename", pathOf(from)});
+    if (!find(from)) throw sshError(SshMessage::NotThere, {{"action", "rename"}, {"path", pathOf(from)}});
     demand(client_.rename(pathOf(to), kept), "rename", pathOf(to));
     const auto renamed = client_.rename(pathOf(from), pathOf(to));
     if (!renamed) (void)client_.rename(kept, pathOf(to));
@@ -78,9 +78,9 @@ void SshStorage::putBackOrAway(const std::string& kept) {
     const auto name = nameOfKept(kept);
     if (name.empty()) return;
     const auto path = pathOf(kReplacedFolder) + "/" + kept;
-    // what can't be removed takes room but does no harm; the next replacement of this name says so
+    // A leftover takes space but is harmless. The next replacement of this name reports it.
     if (find(name)) return (void)removeTree(path);
-    for (const auto& folder : beginnings(folderOf(name))) makeOneFolder(pathOf(folder));
+    for (const auto& folder : pathPrefixes(folderOf(name))) makeOneFolder(pathOf(folder));
     demand(client_.rename(path, pathOf(name)), "rename", path);
 }
 
@@ -92,7 +92,7 @@ void SshStorage::remove(const std::string& name) {
 }
 
 SftpResult SshStorage::removeTree(const std::string& path, int depth) {
-    if (depth > kDeepest) return {kSftpFailure, "its folders are too deep"};
+    if (depth > kDeepest) return {kSftpFailure, "its folders are nested too deeply"};
     SftpAttributes found;
     auto result = client_.lstat(path, found);
     if (result && found.isFolder()) {
@@ -102,7 +102,7 @@ SftpResult SshStorage::removeTree(const std::string& path, int depth) {
         if (result) result = client_.removeFolder(path);
     } else if (result)
         result = client_.awaitResult(client_.startRemove(path));
-    // another one was quicker
+    // Another transfer has already removed it.
     return result.code == kSftpNoSuchFile ? SftpResult{} : result;
 }
 

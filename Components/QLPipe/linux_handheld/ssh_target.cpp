@@ -1,5 +1,5 @@
+#include "Components/QLPipe/base/ssh_messages.h"
 #include "Components/QLPipe/linux_handheld/linux_handheld_settings.h"
-#include "Components/QLPipe/linux_handheld/ssh_messages.h"
 #include "Components/QLPipe/linux_handheld/user_account.h"
 #include <algorithm>
 #include <cctype>
@@ -10,17 +10,17 @@ namespace qlpipe {
 namespace {
 
 [[noreturn]] void refuseSetting(const char* name, const std::string& value, const char* why) {
-    throw sshError(SshMessage::SettingInvalid, {name, value, why});
+    throw sshError(SshMessage::SettingInvalid, {{"setting", name}, {"value", value}, {"reason", why}});
 }
 
-/// Hosts and users stand in commands that messages tell the user to type, so they hold nothing that a shell would take
-/// for more than a name.
+/// Hosts and users appear in shell commands in messages, so characters with a meaning in a shell are refused.
 std::string plainWord(const char* name, const std::string& value) {
     const auto plain = [](unsigned char c) {
         return c >= 0x80 || std::isalnum(c) || std::string_view{"-._:%"}.find(char(c)) != std::string_view::npos;
     };
-    if (!std::ranges::all_of(value, plain)) refuseSetting(name, value, "it holds a character that names don't have");
-    if (value.starts_with('-')) refuseSetting(name, value, "a name does not begin with -");
+    if (!std::ranges::all_of(value, plain))
+        refuseSetting(name, value, "it contains a character that is not allowed in names");
+    if (value.starts_with('-')) refuseSetting(name, value, "a name must not begin with -");
     return value;
 }
 
@@ -29,7 +29,7 @@ std::uint16_t portOf(const std::string& text) {
     std::uint16_t port = 0;
     const auto [end, problem] = std::from_chars(text.data(), text.data() + text.size(), port);
     if (problem != std::errc{} || end != text.data() + text.size() || port == 0)
-        refuseSetting("Port", text, "a port is a number from 1 to 65535");
+        refuseSetting("Port", text, "a port must be a number from 1 to 65535");
     return port;
 }
 
@@ -40,11 +40,11 @@ std::string localPath(const std::string& path) {
 
 std::string remoteFolder(std::string folder) {
     if (folder.empty()) return "fernwick";
-    if (folder.find('\0') != std::string::npos) refuseSetting("Folder", folder, "it holds a zero");
+    if (folder.find('\0') != std::string::npos) refuseSetting("Folder", folder, "it contains a zero byte");
     if (folder.starts_with("~/")) folder.erase(0, 2);
     while (folder.size() > 1 && folder.ends_with('/')) folder.pop_back();
     if (folder == "/" || folder == "." || folder == "~" || folder.empty())
-        refuseSetting("Folder", folder, "Fernwick needs a folder of its own");
+        refuseSetting("Folder", folder, "Fernwick needs a separate folder");
     return folder;
 }
 
@@ -53,13 +53,13 @@ std::string remoteFolder(std::string folder) {
 std::string SshTarget::address() const { return port == 22 ? host : host + ":" + std::to_string(port); }
 
 SshTarget sshTarget(const LinuxHandheldSettings& settings, const std::string& deviceKey) {
-    if (settings.Host.empty()) throw sshError(SshMessage::HostNotSet, {deviceKey});
+    if (settings.Host.empty()) throw sshError(SshMessage::HostNotSet, {{"device", deviceKey}});
     SshTarget target;
     target.host = plainWord("Host", settings.Host);
     target.port = portOf(settings.Port);
     target.user = plainWord("User", settings.User.empty() ? userName() : settings.User);
     target.keyFile = localPath(settings.KeyFile);
-    if (target.user.empty()) refuseSetting("User", "", "this computer doesn't know who you are");
+    if (target.user.empty()) refuseSetting("User", "", "your user name is not known on this computer");
     target.folder = remoteFolder(settings.Folder);
     target.usualKnownHosts = settings.KnownHosts.empty();
     target.knownHosts = localPath(target.usualKnownHosts ? "~/.ssh/known_hosts" : settings.KnownHosts);

@@ -1,18 +1,18 @@
 #include "Components/QLPipe/linux_handheld/ssh_upload.h"
-#include "Components/QLPipe/device_names.h"
+#include "Components/QLPipe/base/device_names.h"
+#include "Components/QLPipe/base/sha256.h"
 #include "Components/QLPipe/linux_handheld/ssh_storage.h"
-#include "Components/QLPipe/sha256.h"
 #include <utility>
 
 namespace qlpipe {
 
 namespace {
 
-/// A block that every server takes, and so many of them that a network of 20 ms and 100 MB/s stays busy.
+/// A block size that every server accepts, and enough pending blocks to saturate a network of 20 ms and 100 MB/s.
 constexpr std::size_t kBlock = 32 * 1024;
 constexpr std::size_t kBlocksUnderWay = 64;
 
-/// Beside the file, and no longer than names may be, however long the file's own is.
+/// Returns a temporary name in the same folder. It is short enough even if the file's name has the maximum length.
 std::string partOf(const std::string& path) {
     Sha256 hash;
     hash.add(lastPart(path));
@@ -24,7 +24,7 @@ std::string partOf(const std::string& path) {
 SshUpload::SshUpload(SftpClient& client, std::string base, std::string path)
     : client_(client), base_(std::move(base)), path_(std::move(path)), part_(partOf(path_)) {
     block_.reserve(kBlock);
-    // what an interrupted transfer left, or a link that somebody put there
+    // Removes the file of an interrupted transfer, or a link in its place.
     const auto removal = client_.startRemove(part_);
     const auto opened = client_.open(part_, kSftpNewFile, handle_);
     (void)client_.awaitResult(removal);
@@ -35,7 +35,7 @@ SshUpload::~SshUpload() {
     if (isDone_ || !client_.channel().isOpen()) return;
     try {
         discard();
-    } catch (const TransferError&) {} // what is left is overwritten or removed the next time
+    } catch (const TransferError&) {} // The next transfer overwrites or removes it.
 }
 
 void SshUpload::write(std::string_view bytes) {
@@ -62,7 +62,7 @@ void SshUpload::awaitOldest() {
 
 void SshUpload::close() {
     if (!block_.empty()) sendBlock();
-    // all at once, for a small file costs little more than the ways there and back
+    // Sent together, because small files are dominated by latency.
     const auto flushed = client_.startFlush(handle_);
     const auto closed = client_.startClose(std::exchange(handle_, {}));
     while (!underWay_.empty()) awaitOldest();

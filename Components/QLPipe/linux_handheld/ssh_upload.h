@@ -1,15 +1,15 @@
 #pragma once
-#include "Components/QLPipe/device_storage.h"
+#include "Components/QLPipe/base/device_storage.h"
 #include "Components/QLPipe/linux_handheld/sftp_client.h"
 #include <deque>
 
 namespace qlpipe {
 
-/// A file on its way to a handheld. It goes in blocks, many of them under way at once, so that neither the way there
-/// and back nor the handheld's disk is waited for with each.
+/// Uploads a file to a handheld. Many blocks are pending at once, so that neither the network's latency nor the handheld's
+/// disk delays each block.
 class SshUpload final : public StorageFile {
 public:
-    /// `path` is the file's on the handheld, `base` the folder whose room is looked at when a write fails.
+    /// `path` is the path on the handheld. `base` is the folder whose free space is checked when a write fails.
     SshUpload(SftpClient& client, std::string base, std::string path);
     ~SshUpload() override;
 
@@ -24,7 +24,7 @@ private:
 
     SftpClient& client_;
     std::string base_, path_, part_;
-    /// "" when nothing is open.
+    /// "" if no file is open.
     std::string handle_;
     bool isDone_ = false;
     std::string block_;

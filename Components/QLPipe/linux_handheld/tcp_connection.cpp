@@ -1,5 +1,5 @@
 #include "Components/QLPipe/linux_handheld/tcp_connection.h"
-#include "Components/QLPipe/linux_handheld/ssh_messages.h"
+#include "Components/QLPipe/base/ssh_messages.h"
 #include <cerrno>
 #include <fcntl.h>
 #include <memory>
@@ -23,11 +23,12 @@ Addresses addressesOf(const SshTarget& target) {
     wanted.ai_flags = AI_NUMERICSERV;
     addrinfo* found = nullptr;
     const int problem = ::getaddrinfo(target.host.c_str(), std::to_string(target.port).c_str(), &wanted, &found);
-    if (problem != 0) throw sshError(SshMessage::HostNotFound, {target.host, ::gai_strerror(problem)});
+    if (problem != 0)
+        throw sshError(SshMessage::HostNotFound, {{"handheld", target.host}, {"reason", ::gai_strerror(problem)}});
     return {found, &::freeaddrinfo};
 }
 
-/// 0, or the errno of what went wrong; ETIMEDOUT at the deadline.
+/// Returns 0 or an errno, ETIMEDOUT at the deadline.
 int waitForConnection(int socket, Clock::time_point deadline) {
     for (;;) {
         const auto left = std::chrono::ceil<std::chrono::milliseconds>(deadline - Clock::now()).count();
@@ -43,14 +44,14 @@ int waitForConnection(int socket, Clock::time_point deadline) {
 }
 
 int connectSocket(int socket, const addrinfo& address, Clock::time_point deadline) {
-    // small requests go out at once instead of waiting for the answer to the one before
+    // Sends small requests immediately instead of waiting for the previous reply.
     const int on = 1;
     ::setsockopt(socket, IPPROTO_TCP, TCP_NODELAY, &on, sizeof on);
     if (::connect(socket, address.ai_addr, address.ai_addrlen) == 0) return 0;
     return errno == EINPROGRESS ? waitForConnection(socket, deadline) : errno;
 }
 
-/// The end of an attempt that leaves as much time to each of those behind it.
+/// Returns the deadline of an attempt that leaves the same time to each of the remaining ones.
 Clock::time_point shareOf(Clock::time_point deadline, int attempts) {
     return Clock::now() + (deadline - Clock::now()) / attempts;
 }
@@ -71,11 +72,13 @@ FileDescriptor connectTo(const SshTarget& target, std::chrono::milliseconds time
     for (const auto* address = addresses.get(); address; address = address->ai_next) {
         FileDescriptor socket{
             ::socket(address->ai_family, address->ai_socktype | SOCK_CLOEXEC | SOCK_NONBLOCK, address->ai_protocol)};
-        problem = socket.number() < 0 ? errno : connectSocket(socket.number(), *address, shareOf(deadline, left--));
+        problem = socket.get() < 0 ? errno : connectSocket(socket.get(), *address, shareOf(deadline, left--));
         if (problem == 0) return socket;
     }
-    if (problem == ETIMEDOUT) throw sshError(SshMessage::NoAnswer, {target.address(), secondsText(timeout)});
-    throw sshError(SshMessage::NotConnected, {target.address(), std::generic_category().message(problem)});
+    if (problem == ETIMEDOUT)
+        throw sshError(SshMessage::NoAnswer, {{"handheld", target.address()}, {"seconds", secondsText(timeout)}});
+    throw sshError(SshMessage::NotConnected,
+                   {{"handheld", target.address()}, {"reason", std::generic_category().message(problem)}});
 }
 
 } // namespace qlpipe

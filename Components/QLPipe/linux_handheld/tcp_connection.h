@@ -1,24 +1,24 @@
 #pragma once
-#include "Components/QLPipe/linux_handheld/file_descriptor.h"
+#include "Components/QLPipe/base/file_descriptor.h"
 #include "Components/QLPipe/linux_handheld/linux_handheld_settings.h"
 #include <chrono>
 
 namespace qlpipe {
 
-/// How long a handheld may keep one waiting.
+/// Timeouts of a connection.
 struct SshTimeouts {
-    /// For the address and the first words, and for each step up to the open file transfer.
+    /// For connecting, and for each step until the file transfer is open.
     std::chrono::milliseconds connect{15'000};
-    /// Between two signs of life.
+    /// Without any activity.
     std::chrono::milliseconds operation{30'000};
-    /// For a file to reach the disk, which slow memory cards take long for.
+    /// For flushing a file to disk, which is slow on memory cards.
     std::chrono::milliseconds flush{120'000};
 };
 
-/// A connection to the first of the host's addresses that takes it. Throws TransferError.
+/// Connects to the first of the host's addresses that accepts. Throws TransferError.
 [[nodiscard]] FileDescriptor connectTo(const SshTarget& target, std::chrono::milliseconds timeout);
 
-/// In words for users: "15", "0.5".
+/// Returns the seconds for users: "15", "0.5".
 [[nodiscard]] std::string secondsText(std::chrono::milliseconds time);
 
 } // namespace qlpipe

@@ -1,12 +1,12 @@
 #pragma once
-// Who works at this computer.
+// The user of this computer.
 #include <string>
 
 namespace qlpipe {
 
-/// The name under which the user is logged in here; "" where the system doesn't know him.
+/// Returns the user name, or "" if the system does not know it.
 [[nodiscard]] std::string userName();
-/// $HOME, else what the system has for the user.
+/// Returns $HOME, or the home folder in the user database.
 [[nodiscard]] std::string homeFolder();
 
 } // namespace qlpipe

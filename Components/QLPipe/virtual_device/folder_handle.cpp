@@ -1,6 +1,6 @@
 #include "Components/QLPipe/virtual_device/folder_handle.h"
-#include "Components/QLPipe/device_names.h"
-#include "Components/QLPipe/pipe_messages.h"
+#include "Components/QLPipe/base/device_names.h"
+#include "Components/QLPipe/base/pipe_messages.h"
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
@@ -24,7 +24,7 @@ std::vector<std::string> partsOf(const std::string& name) {
     return parts;
 }
 
-/// Names in an open folder. The descriptor stays open and may be used for more.
+/// Returns the names in an open folder. The descriptor stays open.
 std::vector<std::string> namesIn(int folder) {
     std::vector<std::string> names;
     const int own = ::openat(folder, ".", kFolderFlags);
@@ -46,11 +46,11 @@ bool isFolder(int parent, const std::string& name) {
     return ::fstatat(parent, name.c_str(), &state, AT_SYMLINK_NOFOLLOW) == 0 && S_ISDIR(state.st_mode);
 }
 
-/// 0, or what went wrong.
+/// Returns 0 or an errno.
 int removeTree(int parent, const std::string& name) {
     if (::unlinkat(parent, name.c_str(), 0) == 0 || errno == ENOENT) return 0;
     if (!isFolder(parent, name)) return errno;
-    if (const Descriptor folder{::openat(parent, name.c_str(), kFolderFlags)}; folder)
+    if (const FileDescriptor folder{::openat(parent, name.c_str(), kFolderFlags)}; folder)
         for (const auto& entry : namesIn(folder.get()))
             if (const int error = removeTree(folder.get(), entry)) return error;
     return ::unlinkat(parent, name.c_str(), AT_REMOVEDIR) == 0 || errno == ENOENT ? 0 : errno;
@@ -63,7 +63,8 @@ std::int64_t bytesIn(int folder) {
         if (::fstatat(folder, name.c_str(), &state, AT_SYMLINK_NOFOLLOW) != 0) continue;
         if (S_ISREG(state.st_mode)) sum += state.st_size;
         if (!S_ISDIR(state.st_mode)) continue;
-        if (const Descriptor below{::openat(folder, name.c_str(), kFolderFlags)}; below) sum += bytesIn(below.get());
+        if (const FileDescriptor below{::openat(folder, name.c_str(), kFolderFlags)}; below)
+            sum += bytesIn(below.get());
     }
     return sum;
 }
@@ -71,7 +72,7 @@ std::int64_t bytesIn(int folder) {
 int syncFolders(int folder) {
     for (const auto& name : namesIn(folder)) {
         if (!isFolder(folder, name)) continue;
-        const Descriptor below{::openat(folder, name.c_str(), kFolderFlags)};
+        const FileDescriptor below{::openat(folder, name.c_str(), kFolderFlags)};
         if (!below) return errno;
         if (const int error = syncFolders(below.get())) return error;
     }
@@ -80,22 +81,18 @@ int syncFolders(int folder) {
 
 } // namespace
 
-Descriptor::~Descriptor() {
-    if (value_ >= 0) ::close(value_);
-}
-
 void FolderHandle::fail(int error, const std::string& name) const {
     const auto path = name.empty() ? location_ : location_ + "/" + name;
-    if (error == ELOOP || error == ENOTDIR) throw transferError(kStorageLink, {path});
-    if (error == ENOSPC || error == EDQUOT) throw transferError(kDeviceDiskFull, {location_});
-    throw transferError(kStorageFailed, {path, std::strerror(error)});
+    if (error == ELOOP || error == ENOTDIR) throw transferError(kStorageLink, {{"path", path}});
+    if (error == ENOSPC || error == EDQUOT) throw transferError(kDeviceDiskFull, {{"device", location_}});
+    throw transferError(kStorageFailed, {{"path", path}, {"reason", std::strerror(error)}});
 }
 
-Descriptor FolderHandle::findFolder(const std::string& name) const {
-    Descriptor folder{::openat(folder_.get(), ".", kFolderFlags)};
+FileDescriptor FolderHandle::findFolder(const std::string& name) const {
+    FileDescriptor folder{::openat(folder_.get(), ".", kFolderFlags)};
     if (!folder) fail(errno, "");
     for (const auto& part : partsOf(name)) {
-        Descriptor next{::openat(folder.get(), part.c_str(), kFolderFlags)};
+        FileDescriptor next{::openat(folder.get(), part.c_str(), kFolderFlags)};
         if (!next && errno == ENOENT) return next;
         if (!next) fail(errno, name);
         folder = std::move(next);
@@ -103,7 +100,7 @@ Descriptor FolderHandle::findFolder(const std::string& name) const {
     return folder;
 }
 
-Descriptor FolderHandle::openFolder(const std::string& name) const {
+FileDescriptor FolderHandle::openFolder(const std::string& name) const {
     auto folder = findFolder(name);
     if (!folder) fail(ENOENT, name);
     return folder;
@@ -117,7 +114,7 @@ void FolderHandle::makeFolders(const std::string& name) const {
         if ((!isNew && errno != EEXIST) || (isNew && ::fsync(parent.get()) != 0)) fail(errno, name);
         done += (done.empty() ? "" : "/") + part;
     }
-    openFolder(name); // what stood there already may be a link or a file
+    openFolder(name); // an existing entry may be a link or a file
 }
 
 std::vector<std::string> FolderHandle::names(const std::string& folder) const {

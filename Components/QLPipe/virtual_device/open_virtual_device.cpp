@@ -1,4 +1,4 @@
-#include "Components/QLPipe/target_limits.h"
+#include "Components/QLPipe/base/target_limits.h"
 #include "Components/QLPipe/virtual_device/virtual_device.h"
 
 namespace qlpipe {
@@ -8,7 +8,7 @@ std::string devicesFolder(const PipeServices& services) {
     const auto& environment = services.environment;
     if (auto own = environment.GetEnvironmentVariable("FERNWICK_DEVICES"); !own.empty()) return own;
     auto data = environment.GetEnvironmentVariable("XDG_DATA_HOME");
-    // the variable counts only when it holds an absolute path
+    // Only an absolute path is valid.
     if (!data.starts_with('/')) data = services.files.HomeFolder() + "/.local/share";
     return data + "/fernwick/devices";
 }

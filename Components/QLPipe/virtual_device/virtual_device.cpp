@@ -1,7 +1,8 @@
 #include "Components/QLPipe/virtual_device/virtual_device.h"
-#include "Components/QLPipe/device_names.h"
-#include "Components/QLPipe/installer.h"
-#include "Components/QLPipe/pipe_messages.h"
+#include "Components/QLPipe/base/device_names.h"
+#include "Components/QLPipe/base/pipe_messages.h"
+#include "Components/QLPipe/package/installer.h"
+#include "Components/QLPipe/virtual_device/virtual_file.h"
 #include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
@@ -17,10 +18,8 @@ namespace qlpipe {
 namespace {
 
 constexpr char kLockFile[] = ".lock";
-/// What a folder is called between the two renames of a replacement: ".Hello.old".
+/// The temporary name of the old folder during a replacement: ".Hello.old".
 constexpr std::string_view kReplacedBegin = ".", kReplacedEnd = ".old";
-constexpr std::int64_t kLargestManifest = 1024 * 1024;
-constexpr mode_t kNewFile = 0666;
 
 std::string replacedName(const std::string& name) {
     const auto folder = folderOf(name);
@@ -28,50 +27,18 @@ std::string replacedName(const std::string& name) {
            std::string(kReplacedEnd);
 }
 
-/// The device's folder may be reached through links of the user's; it must not be one itself.
+/// The path to the device's folder may contain links, but the folder itself must not be one.
 FolderHandle openRoot(const std::string& path) {
     std::error_code failed;
     std::filesystem::create_directories(path, failed);
-    if (failed) throw transferError(kStorageFailed, {path, failed.message()});
-    Descriptor folder{::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC)};
+    if (failed) throw transferError(kStorageFailed, {{"path", path}, {"reason", failed.message()}});
+    FileDescriptor folder{::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC)};
     const int error = errno;
     const bool isOpen = bool(folder);
     FolderHandle root{std::move(folder), path};
     if (!isOpen) root.fail(error, "");
     return root;
 }
-
-/// A file below the device's folder that is being written. The device outlives it.
-class VirtualFile final : public StorageFile {
-public:
-    VirtualFile(const FolderHandle& root, std::string name)
-        : root_(root), name_(std::move(name)), parent_(root.openFolder(folderOf(name_))) {
-        constexpr int kFlags = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
-        file_ = Descriptor{::openat(parent_.get(), lastPart(name_).c_str(), kFlags, kNewFile)};
-        if (!file_) root_.fail(errno, name_);
-    }
-    ~VirtualFile() override {
-        if (file_) ::unlinkat(parent_.get(), lastPart(name_).c_str(), 0);
-    }
-
-    void write(std::string_view bytes) override {
-        while (!bytes.empty()) {
-            const auto written = ::write(file_.get(), bytes.data(), bytes.size());
-            if (written < 0 && errno == EINTR) continue;
-            if (written < 0) root_.fail(errno, name_);
-            bytes.remove_prefix(std::size_t(written));
-        }
-    }
-    void close() override {
-        if (::fsync(file_.get()) != 0) root_.fail(errno, name_);
-        file_ = Descriptor{};
-    }
-
-private:
-    const FolderHandle& root_;
-    std::string name_;
-    Descriptor parent_, file_;
-};
 
 } // namespace
 
@@ -85,12 +52,12 @@ VirtualDevice::VirtualDevice(const std::string& folder, std::optional<std::int64
 void VirtualDevice::lock(std::chrono::milliseconds patience) {
     constexpr std::chrono::milliseconds kPause{20};
     const auto folder = root_.openFolder("");
-    lock_ = Descriptor{::openat(folder.get(), kLockFile, O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, kNewFile)};
+    lock_ = FileDescriptor{::openat(folder.get(), kLockFile, O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, kNewFileMode)};
     if (!lock_) root_.fail(errno, kLockFile);
     const auto end = std::chrono::steady_clock::now() + patience;
     while (::flock(lock_.get(), LOCK_EX | LOCK_NB) != 0) {
         if (errno != EWOULDBLOCK && errno != EINTR) root_.fail(errno, kLockFile);
-        if (std::chrono::steady_clock::now() >= end) throw transferError(kDeviceBusy, {location()});
+        if (std::chrono::steady_clock::now() >= end) throw transferError(kDeviceBusy, {{"device", location()}});
         std::this_thread::sleep_for(kPause);
     }
 }
@@ -101,7 +68,7 @@ void VirtualDevice::recover() {
     recoverFolder(kApplicationsFolder);
 }
 
-/// A replacement that was cut off between its two renames is taken back; one whose end was only the removal is ended.
+/// Undoes a replacement that was interrupted between its two renames; completes one that lacks only the removal.
 void VirtualDevice::recoverFolder(const std::string& folder) {
     for (const auto& name : list(folder)) {
         if (!name.starts_with(kReplacedBegin) || !name.ends_with(kReplacedEnd)) continue;
@@ -115,7 +82,7 @@ void VirtualDevice::recoverFolder(const std::string& folder) {
     }
 }
 
-/// The device is not larger than its disk.
+/// Limited by the free space of the disk.
 std::int64_t VirtualDevice::freeSpaceFor(const std::string& folder) {
     struct statvfs disk {};
     const bool known = ::fstatvfs(lock_.get(), &disk) == 0;
@@ -129,12 +96,13 @@ std::int64_t VirtualDevice::freeSpaceFor(const std::string& folder) {
 
 std::string VirtualDevice::read(const std::string& file) {
     const auto folder = root_.openFolder(folderOf(file));
-    const Descriptor source{
+    const FileDescriptor source{
         ::openat(folder.get(), lastPart(file).c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC)};
     if (!source) root_.fail(errno, file);
     struct stat state {};
     if (::fstat(source.get(), &state) != 0) root_.fail(errno, file);
-    if (state.st_size > kLargestManifest) throw transferError(kStorageFileTooLarge, {location() + "/" + file});
+    if (state.st_size > kLargestManifest)
+        throw transferError(kStorageFileTooLarge, {{"path", location() + "/" + file}});
     std::string bytes(std::size_t(state.st_size), '\0');
     const auto count = ::pread(source.get(), bytes.data(), bytes.size(), 0);
     if (count < 0) root_.fail(errno, file);
@@ -155,7 +123,7 @@ void VirtualDevice::rename(const std::string& from, const std::string& to) {
 
 void VirtualDevice::replaceFile(const std::string& from, const std::string& to) { rename(from, to); }
 
-/// False where the file system can't exchange two names in one step.
+/// Returns false if the file system cannot exchange two names atomically.
 bool VirtualDevice::exchange(const std::string& from, const std::string& to) {
     const auto source = root_.openFolder(folderOf(from)), target = root_.openFolder(folderOf(to));
     if (::renameat2(source.get(), lastPart(from).c_str(), target.get(), lastPart(to).c_str(), RENAME_EXCHANGE) != 0) {

@@ -1,7 +1,7 @@
 #pragma once
-// A device that is a folder on this machine.
-#include "Components/QLPipe/device_storage.h"
-#include "Components/QLPipe/pipe_services.h"
+// A device that is simulated by a folder on this machine.
+#include "Components/QLPipe/base/device_storage.h"
+#include "Components/QLPipe/base/pipe_services.h"
 #include "Components/QLPipe/virtual_device/folder_handle.h"
 #include <chrono>
 #include <optional>
@@ -12,13 +12,13 @@ class VBProject;
 
 namespace qlpipe {
 
-/// The storage of a device whose memory is a folder. One transfer at a time has it; others wait.
+/// The storage of a simulated device. Only one transfer can use it at a time; others wait.
 class VirtualDevice final : public DeviceStorage {
 public:
     static constexpr std::chrono::milliseconds kUsualPatience{30'000};
 
-    /// Makes the folder where there is none and puts right what an interrupted transfer left. `memory` in bytes, none for
-    /// a device as large as its disk. Throws TransferError, after `patience` that the device is in use.
+    /// Creates the folder if necessary and cleans up after an interrupted transfer. `memory` is in bytes; without it the
+    /// device is as large as its disk. Throws TransferError, also if the device is still in use after `patience`.
     VirtualDevice(const std::string& folder, std::optional<std::int64_t> memory,
                   std::chrono::milliseconds patience = kUsualPatience);
 
@@ -42,11 +42,11 @@ private:
 
     FolderHandle root_;
     std::optional<std::int64_t> memory_;
-    Descriptor lock_;
+    FileDescriptor lock_;
 };
 
-/// The device of a design target: a folder of that name in $FERNWICK_DEVICES, else in fernwick/devices of the user's data
-/// folder, with the memory of its target.
+/// Opens the device of a design target: the folder with its name in $FERNWICK_DEVICES, or in fernwick/devices of the user's
+/// data folder, with the memory of the target.
 std::unique_ptr<DeviceStorage> openVirtualDevice(const PipeServices& services, const std::string& deviceName,
                                                  const basic::Ref<vbide::VBProject>& project);
 

@@ -14,9 +14,9 @@ constexpr std::array<std::string_view, 12> kMonths{"january",   "february", "mar
 struct DateParts {
     std::array<int, 3> numbers{};
     int count = 0;
-    int month = 0;       // named
-    int monthPlace = -1; // how many numbers stood before the name
-    int firstDigits = 0; // digits of the first number: four of them are a year
+    int month = 0;       // from its name
+    int monthPlace = -1; // count of numbers before the name
+    int firstDigits = 0; // digits of the first number; four mean a year
 };
 
 class DateReader {

@@ -18,64 +18,6 @@ void Lexer::report(Message message, Pos at, std::string_view detail) {
     if (!quiet_) diagnostics_.report(message, at, detail);
 }
 
-// Where the text of the current physical line ends, its line end not counted.
-Pos Lexer::contentEnd() const {
-    Pos end = line_ < source_.lineCount() ? source_.lineStart(line_ + 1) : source_.size();
-    if (end > pos_ && base_[end - 1] == '\n') --end;
-    if (end > pos_ && base_[end - 1] == '\r') --end;
-    return end;
-}
-
-// Steps over lines that are empty or hold only a comment, so that the parser never sees them.
-void Lexer::startLine() {
-    continuations_ = 0;
-    const auto lines = source_.lineCount();
-    while (line_ <= lines) {
-        const char* p = base_ + pos_;
-        while (charIs(*p, kBlank)) ++p;
-        pos_ = static_cast<Pos>(p - base_);
-        if (*p == '\'')
-            skipComment();
-        else if (!isLineEnd(*p))
-            return;
-        ++line_;
-        pos_ = line_ <= lines ? source_.lineStart(line_) : source_.size();
-    }
-}
-
-void Lexer::endLine(Token& token, Pos at) {
-    token.kind = TokenKind::EndOfLine;
-    token.begin = token.end = at;
-    ++line_;
-    pos_ = line_ <= source_.lineCount() ? source_.lineStart(line_) : source_.size();
-    atLineStart_ = true;
-}
-
-void Lexer::skipComment() {
-    for (;;) {
-        const Pos end = contentEnd();
-        Pos last = end;
-        while (last > pos_ && charIs(base_[last - 1], kBlank)) --last;
-        const bool goesOn = last >= pos_ + 2 && base_[last - 1] == '_' && charIs(base_[last - 2], kBlank);
-        pos_ = end;
-        if (!goesOn || line_ >= source_.lineCount()) return;
-        ++line_;
-        pos_ = source_.lineStart(line_);
-    }
-}
-
-// " _" and nothing but blanks up to the end of the line.
-bool Lexer::continueLine(const char* underscore) {
-    const char* p = underscore + 1;
-    while (charIs(*p, kBlank)) ++p;
-    if (!isLineEnd(*p) || line_ >= source_.lineCount()) return false;
-    if (++continuations_ == kMaxContinuations + 1)
-        report(Message::TooManyContinuations, static_cast<Pos>(underscore - base_));
-    ++line_;
-    pos_ = source_.lineStart(line_);
-    return true;
-}
-
 void Lexer::next(Token& token) {
     const bool atStart = atLineStart_;
     if (atStart) {
@@ -86,7 +28,7 @@ void Lexer::next(Token& token) {
     while (!readToken(token, atStart)) token.spaceBefore = true;
 }
 
-// False when only a blank of some kind was read: a joined line, a wide blank, a NUL.
+// Returns false if only a blank was read: a line continuation, a wide blank or a NUL.
 bool Lexer::readToken(Token& token, bool atStart) {
     const char* p = base_ + pos_;
     if (charIs(*p, kBlank)) {
@@ -122,7 +64,7 @@ bool Lexer::readToken(Token& token, bool atStart) {
     return true;
 }
 
-// A NUL, which counts as a blank unless it is the end, or an underscore that joins lines, or should.
+// Handles a NUL, which is a blank unless the file ends, and an underscore, which must continue the line.
 bool Lexer::readRareBlank(Token& token, const char* p) {
     if (*p == '_') {
         if (continueLine(p)) return false;
@@ -140,51 +82,6 @@ bool Lexer::readRareBlank(Token& token, const char* p) {
 bool Lexer::startsDirective(const char* p) const {
     do { ++p; } while (charIs(*p, kBlank));
     return charIs(*p, kNameStart);
-}
-
-void Lexer::readOperator(Token& token, char c) {
-    const char after = base_[pos_ + 1];
-    token.end = ++pos_;
-    switch (c) {
-    case ':':
-        token.kind = after == '=' ? TokenKind::ColonEqual : TokenKind::Colon;
-        if (after == '=') token.end = ++pos_;
-        return;
-    case ',': token.kind = TokenKind::Comma; return;
-    case ';': token.kind = TokenKind::Semicolon; return;
-    case '.': token.kind = TokenKind::Dot; return;
-    case '!': token.kind = TokenKind::Bang; return;
-    case '(': token.kind = TokenKind::LeftParen; return;
-    case ')': token.kind = TokenKind::RightParen; return;
-    case '#': token.kind = TokenKind::Hash; return;
-    case '^': token.kind = TokenKind::Caret; return;
-    case '*': token.kind = TokenKind::Star; return;
-    case '/': token.kind = TokenKind::Slash; return;
-    case '\\': token.kind = TokenKind::Backslash; return;
-    case '+': token.kind = TokenKind::Plus; return;
-    case '-': token.kind = TokenKind::Minus; return;
-    case '&': return readRadix(token, base_ + pos_, (after | 0x20) == 'h' ? 4 : 3);
-    case '=': {
-        token.kind = after == '<' ? TokenKind::LessEqual : after == '>' ? TokenKind::GreaterEqual : TokenKind::Equal;
-        if (after == '<' || after == '>') token.end = ++pos_;
-        return;
-    }
-    case '<': return readLess(token);
-    case '>': return readGreater(token);
-    default: --pos_; return readInvalid(token);
-    }
-}
-
-void Lexer::readLess(Token& token) {
-    const char after = base_[pos_];
-    token.kind = after == '=' ? TokenKind::LessEqual : after == '>' ? TokenKind::NotEqual : TokenKind::Less;
-    if (token.kind != TokenKind::Less) token.end = ++pos_;
-}
-
-void Lexer::readGreater(Token& token) {
-    const char after = base_[pos_];
-    token.kind = after == '=' ? TokenKind::GreaterEqual : after == '<' ? TokenKind::NotEqual : TokenKind::Greater;
-    if (token.kind != TokenKind::Greater) token.end = ++pos_;
 }
 
 void Lexer::readInvalid(Token& token) {
@@ -256,19 +153,6 @@ bool Lexer::colonFollows(const Token& token) const {
     const char* p = base_ + token.end;
     while (charIs(*p, kBlank)) ++p;
     return p[0] == ':' && p[1] != '=';
-}
-
-bool Lexer::skipToDirective() {
-    for (; line_ <= source_.lineCount(); ++line_) {
-        const char* p = base_ + source_.lineStart(line_);
-        while (charIs(*p, kBlank)) ++p;
-        if (*p != '#' || !startsDirective(p)) continue;
-        pos_ = static_cast<Pos>(p - base_);
-        atLineStart_ = true;
-        return true;
-    }
-    pos_ = source_.size();
-    return false;
 }
 
 } // namespace qltoolkit

@@ -1,5 +1,5 @@
 #pragma once
-// Characters to tokens, one at a time and in one pass. Lines that hold no code yield nothing.
+// Splits source text into tokens, in one pass and on demand. Lines without code produce no tokens.
 #include "Components/QLToolkit/lexer/token.h"
 #include "Components/QLToolkit/source/diagnostic.h"
 
@@ -7,33 +7,34 @@ namespace qltoolkit {
 
 class Lexer {
 public:
-    /// Starts at the Attribute lines of the head.
+    /// Starts at the Attribute lines of the header.
     Lexer(const SourceText&, Diagnostics&);
 
     void next(Token&);
 
-    /// The token after the current one, without going there. Not to be asked at the end of a line.
+    /// Returns the token after the current one without advancing. Must not be called at the end of a line.
     [[nodiscard]] Token peek();
-    /// True when the characters right behind `token` are ":=".
+    /// Returns true if `token` is followed directly by ":=".
     [[nodiscard]] bool assignsByName(const Token& token) const;
 
-    /// True when a colon, but not ":=", comes right behind `token`.
+    /// Returns true if `token` is followed directly by a colon, but not by ":=".
     [[nodiscard]] bool colonFollows(const Token& token) const;
 
-    /// Goes on behind `hash`, reads the date up to the next #, and makes `hash` its token (kind Date).
-    /// False, with the token as it was, when there is no date.
+    /// Reads the date from `hash` up to the next # and changes `hash` to a token of kind Date. Returns false and leaves
+    /// the token unchanged if there is no date.
     bool readDate(Token& hash);
-    /// Goes to the end of the comment whose first word was read (Rem).
+    /// Skips the rest of a comment after its Rem.
     void skipComment();
-    /// At the beginning of a line: goes to the next line that begins with # and a letter. False at the end of the file.
+    /// Called at the beginning of a line: skips to the next line that begins with # and a letter. Returns false at the
+    /// end of the file.
     bool skipToDirective();
 
-    /// While set, nothing is reported: for what follows an error on the same line.
+    /// Suppresses messages, for the rest of a line with an error.
     void quiet(bool on) { quiet_ = on; }
-    /// Physical line of the character that comes next.
+    /// Physical line of the next character.
     [[nodiscard]] std::uint32_t line() const { return line_; }
 
-    /// The longest chain of lines joined by " _".
+    /// The maximum number of line continuations in one statement.
     static constexpr int kMaxContinuations = 24;
     static constexpr Pos kMaxNameBytes = 255;
 

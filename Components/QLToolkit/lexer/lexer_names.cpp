@@ -37,8 +37,8 @@ void Lexer::readForeignName(Token& token, const char* p) {
     readSuffix(token);
 }
 
-// A type character belongs to the name that it touches. "!" followed by a name is access to a collection instead, and
-// reserved words take none (Print#1, Close#1), but for $ (Input$).
+// A type character directly after a name belongs to it. There are two exceptions: "!" before a name accesses a
+// collection, and reserved words have no type character (Print#1, Close#1) other than $ (Input$).
 void Lexer::readSuffix(Token& token) {
     const char c = base_[pos_];
     switch (c) {

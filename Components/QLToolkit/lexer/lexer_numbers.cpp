@@ -21,14 +21,14 @@ const char* skipDigits(const char* p) {
     return p;
 }
 
-// An exponent counts only when a digit follows, so that "1 To 2" without blanks stays readable.
+// An exponent needs a digit, so that "1Else" is read as 1 and Else.
 const char* skipExponent(const char* p) {
     if (!isExponentMark(*p)) return p;
     const char* digits = p[1] == '+' || p[1] == '-' ? p + 2 : p + 1;
     return charIs(*digits, kDigit) ? skipDigits(digits) : p;
 }
 
-// from_chars knows neither the D of a Double's exponent nor a value that is too small to hold.
+// from_chars supports neither the D of a Double's exponent nor values that underflow.
 double toDouble(const char* begin, const char* end, bool& tooLarge) {
     std::string text(begin, end);
     for (char& c : text)
@@ -95,8 +95,8 @@ void Lexer::finishReal(Token& token, const char* begin, const char* end) {
     if (tooLarge) report(Message::NumberTooLarge, token.begin, source_.text(token.begin, token.end));
 }
 
-// &H and &O with at least one digit; otherwise the & joins strings. Without a suffix four hexadecimal digits are an
-// Integer with its sign: &HFFFF is -1.
+// &H and &O need at least one digit; otherwise the & concatenates strings. Without a suffix, up to four hexadecimal
+// digits are a signed Integer: &HFFFF is -1.
 void Lexer::readRadix(Token& token, const char* p, int bits) {
     const char mark = static_cast<char>(*p | 0x20);
     const auto isDigit = [bits](char c) { return bits == 4 ? charIs(c, kHexDigit) : c >= '0' && c <= '7'; };

@@ -1,5 +1,5 @@
 #pragma once
-// What the lexer hands to the parser.
+// The tokens of the lexer.
 #include "Components/QLToolkit/lexer/keywords.h"
 #include "Components/QLToolkit/source/source_text.h"
 
@@ -18,7 +18,7 @@ enum class TokenKind : std::uint8_t {
     Double,
     Date,      ///< real holds the value; a # becomes one by Lexer::readDate
     String,    ///< begin and end include the quotes
-    Directive, ///< the # of #If, #Else and their kin at the beginning of a line
+    Directive, ///< the # of #If, #Else and so on at the beginning of a line
     Hash,
     Comma,
     Semicolon,
@@ -45,12 +45,12 @@ enum class TokenKind : std::uint8_t {
 
 struct Token {
     TokenKind kind = TokenKind::EndOfFile;
-    Keyword keyword = Keyword::None; ///< for Identifier: the word that it would be without its type character
+    Keyword keyword = Keyword::None; ///< for Identifier: the keyword that it would be without its type character
     char suffix = 0;
     bool spaceBefore = false;
     bool bracketed = false;
-    bool foreign = false; ///< the name is not plain ASCII
-    bool doubled = false; ///< String: a quote in it is doubled
+    bool foreign = false; ///< the name contains characters other than ASCII
+    bool doubled = false; ///< String: contains a doubled quote
     Pos begin = 0;
     Pos end = 0;
     union {

@@ -1,5 +1,5 @@
 #pragma once
-// The part of the tree that a module consists of: declarations, procedures among them.
+// Declarations, including procedures.
 #include "Components/QLToolkit/parser/ast_statements.h"
 
 namespace qltoolkit {
@@ -72,7 +72,7 @@ struct Parameter {
 };
 
 enum class ProcedureKind : std::uint8_t { Sub, Function, PropertyGet, PropertyLet, PropertySet };
-/// What a procedure and a Declare say about themselves.
+/// The signature of a procedure or a Declare.
 struct Signature {
     ProcedureKind kind;
     TypeSuffix suffix = 0;
@@ -98,7 +98,7 @@ struct ProcedureDecl : Decl {
     Pos end;
 }; ///< end: pos of End Sub
 
-/// `Attribute a.b.VB_Name = value, value`: the path without its last part, the last part, the values as literals.
+/// `Attribute a.b.VB_Name = value, value`: the path without its last part, the last part, and the values as literals.
 struct AttributeDecl : Decl {
     Span<Symbol> path;
     Symbol name;

@@ -1,5 +1,5 @@
 #pragma once
-// The part of the tree that has values: expressions, and the names of types.
+// Expressions, and the names of types.
 #include "Components/QLToolkit/source/arena.h"
 #include "Components/QLToolkit/source/source_text.h"
 #include "Components/QLToolkit/source/symbol_table.h"
@@ -8,7 +8,7 @@ namespace qltoolkit {
 
 struct Expr;
 
-/// '\0', '%', '&', '!', '#', '@' or '$': the type character that stood behind a name or number.
+/// '\0', '%', '&', '!', '#', '@' or '$': the type character of a name or number.
 using TypeSuffix = char;
 
 enum class TypeKind : std::uint8_t {
@@ -25,10 +25,10 @@ enum class TypeKind : std::uint8_t {
     Object,
     Any,         ///< parameters of Declare only
     FixedString, ///< String * length
-    Named        ///< a class, a Type or an Enum, with or without its library
+    Named        ///< a class, a Type or an Enum, optionally with its library
 };
 
-/// What stands behind As. Null where nothing does: then the suffix, DefType or Variant decides.
+/// The type after As. Null without As: then the suffix, DefType or Variant determines the type.
 struct TypeRef {
     TypeKind kind;
     bool isNew = false;   ///< As New
@@ -63,7 +63,7 @@ enum class ExprKind : std::uint8_t {
     TypeOf,
     AddressOf,
     Coordinates,
-    Range ///< the bounds of ReDim on their way through the parser; no finished tree has one
+    Range ///< bounds of ReDim within the parser; never part of a finished tree
 };
 
 enum class Operator : std::uint8_t {
@@ -129,7 +129,7 @@ struct Argument {
     Symbol name = Symbol::None; ///< name:=value
     bool byVal = false;         ///< ByVal value, for parameters declared As Any
 };
-/// pos is that of the callee. callee(arguments): a call or an element of an array; only the names tell which.
+/// callee(arguments): a call or an array element, which cannot be distinguished by syntax. pos is that of the callee.
 struct IndexExpr : Expr {
     const Expr* callee;
     Span<Argument> arguments;

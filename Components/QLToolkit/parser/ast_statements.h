@@ -1,5 +1,5 @@
 #pragma once
-// The part of the tree that runs: statements.
+// Statements.
 #include "Components/QLToolkit/parser/ast_expressions.h"
 
 namespace qltoolkit {
@@ -60,36 +60,36 @@ enum class StmtKind : std::uint8_t {
 };
 
 /// Every statement. Return, Stop, End, the Exit family, ResumeNext, OnErrorResumeNext, OnErrorOff (GoTo 0) and
-/// OnErrorClear (GoTo -1) have nothing more.
+/// OnErrorClear (GoTo -1) have no further members.
 struct Stmt {
     StmtKind kind;
     Pos pos;
     const Stmt* next = nullptr;
 };
 
-/// Statements in a row, linked by next.
+/// A list of statements, linked by next.
 struct Block {
     const Stmt* first = nullptr;
 };
 
-/// Where a jump goes: a label, or a line number when name is None.
+/// The target of a jump: a label, or a line number if name is None.
 struct Target {
     Symbol name = Symbol::None;
     std::uint32_t number = 0;
     Pos pos = 0;
 };
 
-/// Label, LineNumber, GoTo, GoSub, OnErrorGoTo, Resume (number 0 and no name: a plain Resume).
+/// Label, LineNumber, GoTo, GoSub, OnErrorGoTo, Resume (without number and name: a plain Resume).
 struct TargetStmt : Stmt {
     Target target;
 };
-/// Let, Set, LSet, RSet. explicitLet when the word Let stands there.
+/// Let, Set, LSet, RSet. explicitLet if the word Let was written.
 struct AssignStmt : Stmt {
     const Expr* target;
     const Expr* value;
     bool explicitLet = false;
 };
-/// Mid(target, start, length) = value; MidB, Mid$ and MidB$ alike.
+/// Mid(target, start, length) = value; also MidB, Mid$ and MidB$.
 struct MidAssignStmt : Stmt {
     bool bytes;
     const Expr *target, *start, *length, *value;
@@ -103,7 +103,7 @@ struct CallStmt : Stmt {
 struct Bound {
     const Expr* lower;
     const Expr* upper;
-}; ///< lower is null where `To` is absent
+}; ///< lower is null without `To`
 
 /// A variable of Dim, Private, Static, ..., a member of a Type, an element of ReDim by name.
 struct Variable {
@@ -111,7 +111,7 @@ struct Variable {
     Pos pos;
     TypeSuffix suffix = 0;
     bool withEvents = false;
-    bool isArray = false; ///< without bounds: a dynamic array
+    bool isArray = false; ///< dynamic if it has no bounds
     const TypeRef* type = nullptr;
     Span<Bound> bounds;
 };
@@ -164,7 +164,7 @@ struct CaseBranch {
     Block body;
     Pos pos;
 }; ///< no items: Case Else
-/// before: Dim, Static and Const that stand above the first Case.
+/// before: Dim, Static and Const before the first Case.
 struct SelectStmt : Stmt {
     const Expr* value;
     Block before;
@@ -221,7 +221,7 @@ struct OpenStmt : Stmt {
     const Expr *path, *number, *recordLength;
 };
 /// Get, Put (number, record, variable), Seek (number, position), Lock and Unlock (number, from, to),
-/// LineInput (number, variable), Width (number, width), NameAs (old, new). What is absent is null.
+/// LineInput (number, variable), Width (number, width), NameAs (old, new). Absent operands are null.
 struct FileStmt : Stmt {
     const Expr *first, *second, *third;
 };

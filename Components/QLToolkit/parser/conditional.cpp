@@ -123,7 +123,7 @@ std::optional<ConditionalValue> Conditions::evaluate(const SourceText& source, c
     }
 }
 
-// a Or b Or c ... may be long: down its left side in a loop, then up again.
+// Chains such as a Or b Or c ... may be long, so their left side is walked in a loop.
 std::optional<ConditionalValue> Conditions::evaluateChain(const SourceText& source, const Expr& e) const {
     std::vector<const BinaryExpr*> chain;
     const Expr* first = &e;

@@ -1,5 +1,5 @@
 #pragma once
-// Conditional compilation: the constants, and which branch of an #If counts.
+// Conditional compilation: its constants, and the open #If blocks.
 #include "Components/QLToolkit/parser/ast.h"
 #include <optional>
 #include <string>
@@ -8,7 +8,7 @@
 
 namespace qltoolkit {
 
-/// A constant's value: Empty, a number (True is -1), or a text.
+/// A constant's value: Empty, a number (True is -1) or a string.
 struct ConditionalValue {
     enum class Kind : std::uint8_t { Empty, Number, Text };
     Kind kind = Kind::Empty;
@@ -16,18 +16,18 @@ struct ConditionalValue {
     std::string text;
 };
 
-/// The constants that are defined, and the stack of open #If.
+/// The defined constants and the stack of open #If blocks.
 class Conditions {
 public:
     void define(Symbol name, ConditionalValue value) { constants_[name] = std::move(value); }
 
-    /// The value of an expression over constants; a name that nobody defined is Empty. Nothing when the expression
-    /// uses what is not known while compiling (a call, a member) or does not fit (text with numbers).
+    /// Returns the value of a constant expression, in which undefined names are Empty. Returns nothing if the
+    /// expression is not constant (a call, a member) or mixes strings with numbers.
     [[nodiscard]] std::optional<ConditionalValue> evaluate(const SourceText&, const Expr&) const;
 
     struct Open {
         Pos pos;
-        bool taken;  ///< a branch of it was compiled, or none can be as the surroundings are left out
+        bool taken;  ///< a branch was compiled, or none can be because the enclosing code is skipped
         bool active; ///< the current branch is compiled
         bool seenElse;
     };

@@ -7,11 +7,11 @@
 
 namespace qltoolkit {
 
-/// Constants of conditional compilation by name, as a project's settings give them. QUINLOFT, Win32 and VBA6 are
-/// predefined; what stands here comes on top and wins.
+/// Constants of conditional compilation by name. They are added to the predefined QUINLOFT, Win32 and VBA6, and
+/// override them.
 using ConditionalConstants = std::vector<std::pair<std::string, long>>;
 
-/// The value of a project's CondComp setting, "Name = 1 : Other = -1". Entries that are not of this form are left out.
+/// Parses the CondComp setting of a project, "Name = 1 : Other = -1". Ignores entries of any other form.
 [[nodiscard]] ConditionalConstants parseConditionalConstants(std::string_view);
 
 } // namespace qltoolkit

@@ -13,7 +13,7 @@ std::string_view trimmedHeaderText(std::string_view text) {
 
 char lowerAscii(char c) { return c >= 'A' && c <= 'Z' ? char(c + 32) : c; }
 
-/// Takes `word` (lower case) and the blanks behind it off the front. False where something else stands there.
+/// Removes `word` (lower case) and the blanks after it from the front. Returns false if the line begins differently.
 bool takeHeaderWord(std::string_view& line, std::string_view word) {
     if (line.size() < word.size()) return false;
     for (std::size_t i = 0; i < word.size(); ++i)
@@ -23,7 +23,7 @@ bool takeHeaderWord(std::string_view& line, std::string_view word) {
     return true;
 }
 
-/// The value without the comment that the IDE writes behind it; quotes protect a '.
+/// Returns the value without the comment that the IDE appends. A ' in quotes does not begin a comment.
 std::string_view literalOf(std::string_view value) {
     bool quoted = false;
     for (std::size_t i = 0; i < value.size(); ++i) {

@@ -1,11 +1,11 @@
 #pragma once
-// Lists of unknown length on their way into the arena.
+// Builds lists of unknown length before they are copied into the arena.
 #include "Components/QLToolkit/source/arena.h"
 #include <vector>
 
 namespace qltoolkit {
 
-/// Collects one list on top of a vector that all lists of its type share, nested ones too.
+/// Collects one list at the end of a vector that is shared by all lists of its type, including nested ones.
 template <class T>
 class ListBuilder {
 public:

@@ -1,5 +1,5 @@
 #pragma once
-// What every node begins with, for the parser's make<>().
+// The first members of every node, for the parser's make<>().
 #include "Components/QLToolkit/parser/ast.h"
 
 namespace qltoolkit {

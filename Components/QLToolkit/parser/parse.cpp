@@ -7,7 +7,7 @@ namespace {
 
 bool hasDesigner(FileKind kind) { return kind >= FileKind::Form; }
 
-// False when the text is not worth parsing.
+// Returns false if the file should not be parsed.
 bool checkShape(const SourceText& source, Diagnostics& diagnostics) {
     if (source.isBinary()) {
         diagnostics.reportFile(Message::FileBinary);
@@ -40,7 +40,7 @@ ParseResult parseModule(const SourceText& source, SymbolTable& symbols, const Co
         try {
             Parser{source, symbols, diagnostics, constants, *result.module}.parse();
         } catch (const TooManyErrors&) {
-            // The rest stays unread; the last diagnostic says so.
+            // The last diagnostic reports that the rest was not read.
         }
     }
     result.errors = diagnostics.errors();

@@ -1,5 +1,5 @@
 #pragma once
-// The parser's entry point: a file's text becomes a tree and diagnostics.
+// The parser's entry point: turns a file's text into a tree and diagnostics.
 #include "Components/QLToolkit/parser/ast.h"
 #include "Components/QLToolkit/parser/conditional_constants.h"
 #include "Components/QLToolkit/source/diagnostic.h"
@@ -9,8 +9,8 @@
 namespace qltoolkit {
 
 struct ParseResult {
-    std::unique_ptr<Module> module; ///< what could be understood, after errors too; null when it is no VB file at all
-    std::vector<Diagnostic> diagnostics; ///< sorted by place
+    std::unique_ptr<Module> module;      ///< the valid part after errors; null if this is not a VB file
+    std::vector<Diagnostic> diagnostics; ///< sorted by position
     std::size_t errors = 0;
 };
 

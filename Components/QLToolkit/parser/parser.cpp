@@ -44,7 +44,7 @@ void Parser::advance() {
         directive();
 }
 
-// The lexer may have reported an error in this statement already: then this one only follows from it.
+// If the lexer has reported an error in this statement, this one is only a consequence.
 void Parser::fail(Message message, Pos where, std::string_view detail) {
     if (!at(TokenKind::Invalid)) report(message, where, detail);
     throw SyntaxError{};
@@ -54,7 +54,6 @@ void Parser::report(Message message, Pos where, std::string_view detail) {
     if (diagnostics_.errors() == errorsBefore_) diagnostics_.report(message, where, detail);
 }
 
-/// Goes to the end of the line that has the error.
 void Parser::recover() {
     lexer_.quiet(true);
     while (!tok_.endsLine()) lexer_.next(tok_);

@@ -1,11 +1,8 @@
 #pragma once
-// Tokens to a tree, by recursive descent. What an error leaves out is a statement, in the worst case a procedure; the
-// parser then goes on, so that one run finds many errors, and reports one per statement.
+// A recursive-descent parser. After an error it skips the statement, or in the worst case the procedure, and continues,
+// so that one run finds many errors. It reports one error per statement.
 //
-// Its member functions stand in several files, by subject: parser.cpp (foundation), parser_module.cpp,
-// parser_variables.cpp, parser_procedures.cpp, parser_blocks.cpp, parser_branches.cpp, parser_loops.cpp,
-// parser_statements.cpp, parser_jumps.cpp, parser_files.cpp, parser_calls.cpp, parser_expressions.cpp,
-// parser_directives.cpp.
+// The member functions are defined by subject in parser.cpp (foundation) and parser_*.cpp.
 #include "Components/QLToolkit/lexer/lexer.h"
 #include "Components/QLToolkit/parser/ast.h"
 #include "Components/QLToolkit/parser/conditional.h"
@@ -16,20 +13,20 @@
 
 namespace qltoolkit {
 
-/// How deep expressions may nest, and statements in one another.
+/// The maximum depth of nested expressions and of nested statements.
 inline constexpr int kMaxDepth = 200;
 
 class Parser {
 public:
     Parser(const SourceText&, SymbolTable&, Diagnostics&, const ConditionalConstants&, Module&);
 
-    /// Parses the whole file into the module. Call once. Throws TooManyErrors.
+    /// Parses the whole file into the module. Must be called once. Throws TooManyErrors.
     void parse();
 
 private:
-    /// A reported error on its way to the place where parsing goes on.
+    /// Thrown after an error was reported, to the function that can continue.
     struct SyntaxError {};
-    /// The same, when the rest of the procedure can't be understood.
+    /// Thrown when the rest of the procedure cannot be parsed.
     struct ProcedureAbandoned {};
 
     enum class BlockKind : std::uint8_t { Procedure, If, Select, For, Do, While, With };
@@ -37,9 +34,9 @@ private:
     struct OpenBlock {
         BlockKind kind;
         Pos pos;
-        bool doubtful; // an error in its head leaves open whether it is a block at all
+        bool doubtful; // after an error in its first line, it may not be a block at all
     };
-    /// One level deeper for the life of the object.
+    /// Increments a depth during its lifetime.
     class Nesting {
     public:
         explicit Nesting(int& depth) : depth_(depth) { ++depth_; }
@@ -49,7 +46,7 @@ private:
     private:
         int& depth_;
     };
-    /// Statements in the order in which they are found.
+    /// A list of statements under construction.
     struct BlockBuilder {
         Block block;
         Stmt* last = nullptr;
@@ -251,7 +248,7 @@ private:
     void skipInactive();
     void endOfDirective();
 
-    /// Names that the grammar itself must know.
+    /// Names with a special meaning in the grammar.
     struct KnownNames {
         Symbol mid, midB, line, circle, pset, scale, name, doEvents, print;
     };
@@ -281,13 +278,13 @@ private:
     Token tok_;
     Pos previousEnd_ = 0;
     Decl* lastDeclaration_ = nullptr;
-    std::size_t errorsBefore_ = 0; // when the statement began: it reports only once
-    bool lineStart_ = true;        // nothing but blanks stands before the token
-    bool strayReported_ = false;   // one report for a run of statements outside a procedure
-    bool nextGoesOn_ = false;      // after the comma of `Next a, b`
-    bool cutShort_ = false;        // a block ended with its surroundings: the token belongs to them
+    std::size_t errorsBefore_ = 0; // at the beginning of the statement, which reports one error
+    bool lineStart_ = true;        // only blanks precede the token on its line
+    bool strayReported_ = false;   // consecutive statements outside a procedure are reported once
+    bool inNextList_ = false;      // after the comma of `Next a, b`
+    bool cutShort_ = false;        // a block ended with an enclosing one, to which the token belongs
     bool inReDim_ = false;
-    Pos unclosedAt_ = ~Pos{0}; // the token that revealed an unclosed block: reported once
+    Pos unclosedAt_ = ~Pos{0}; // the token at which an unclosed block was reported
     int depth_ = 0;
     int statementDepth_ = 0;
     std::vector<OpenBlock> blocks_;
@@ -295,7 +292,7 @@ private:
     Scratch scratch_;
 };
 
-/// The head of a block: after an error in it the body is read all the same, so that its end is no second error.
+/// Parses the first line of a block. The body is parsed even after an error, so that its end is not a second error.
 template <class F>
 void Parser::head(F&& parseHead) {
     try {

@@ -1,4 +1,4 @@
-// Statements in rows and in one another, and what to do when their ends don't match.
+// Lists of statements, nested blocks, and recovery from missing or mismatched ends.
 #include "Components/QLToolkit/parser/node_heads.h"
 #include "Components/QLToolkit/parser/parser.h"
 
@@ -29,14 +29,14 @@ void Parser::closeBlock() {
     blocks_.pop_back();
 }
 
-// Reads statements up to the end of the innermost block, which has been opened, or of one around it.
+// Parses statements up to the end of the innermost open block, or of an enclosing one.
 Block Parser::block(BlockKind kind) {
     BlockBuilder body;
     for (;;) {
         errorsBefore_ = diagnostics_.errors();
-        if (nextGoesOn_) {
+        if (inNextList_) {
             if (kind == BlockKind::For) break;
-            nextGoesOn_ = false;
+            inNextList_ = false;
             stray(Message::NextWithoutFor);
         }
         while (at(TokenKind::EndOfLine) || at(TokenKind::Colon)) {
@@ -54,9 +54,9 @@ void Parser::statementLine(BlockBuilder& body) {
     try {
         const bool first = lineStart_;
         lineStart_ = false;
-        if (first && label(body)) return; // what ends a block may stand behind it
+        if (first && label(body)) return; // the end of a block may follow
         if (Stmt* stmt = statement()) body.add(stmt);
-        if (!nextGoesOn_ && !cutShort_) expectEndOfStatement();
+        if (!inNextList_ && !cutShort_) expectEndOfStatement();
     } catch (const SyntaxError&) { recover(); }
     cutShort_ = false;
 }
@@ -86,8 +86,8 @@ bool Parser::label(BlockBuilder& body) {
 
 // ---------------------------------------------------------------- ends of blocks
 
-// True when the token ends the innermost block, be it properly or because a block around it ends or a procedure begins.
-// A stray end is reported and left out.
+// Returns true if the token ends the innermost block, either properly or because an enclosing block ends or a procedure
+// begins. A stray end is reported and skipped.
 bool Parser::endsBlock(BlockKind kind) {
     if (at(TokenKind::EndOfFile)) return kind == BlockKind::Procedure || unclosed();
     if (lineStart_ && kind != BlockKind::Procedure && atProcedureHead()) return unclosed();
@@ -131,7 +131,7 @@ bool Parser::stray(Message message) {
     return false;
 }
 
-// The innermost block has no end. One token may reveal several: only the first is reported.
+// Reports that the innermost block has no end. If one token ends several blocks, only the first is reported.
 bool Parser::unclosed() {
     if (unclosedAt_ != tok_.begin) {
         unclosedAt_ = tok_.begin;
@@ -141,7 +141,7 @@ bool Parser::unclosed() {
     return true;
 }
 
-// End Select, End With; absent when a block around has ended, which is reported.
+// Parses End Select or End With. It is missing if an enclosing block has ended, which was already reported.
 void Parser::endBlock(Keyword which) {
     if (!at(Keyword::End) || !lexer_.peek().is(which)) {
         cutShort_ = true;

@@ -18,7 +18,7 @@ Stmt* Parser::ifStatement() {
     try {
         test = condition();
     } catch (const SyntaxError&) {
-        // A line that ends in Then, or has none, opens a block; the error must not make its End If one more.
+        // A line without Then, or ending with it, opens a block: its End If must not become a second error.
         const bool opens = recoverToThen();
         if (!opens) throw;
     }
@@ -26,7 +26,7 @@ Stmt* Parser::ifStatement() {
     return singleLineIf(pos, test);
 }
 
-// True when the line has no Then, or ends with it.
+// Returns true if the line has no Then or ends with it.
 bool Parser::recoverToThen() {
     lexer_.quiet(true);
     bool sawThen = false;
@@ -123,7 +123,7 @@ Stmt* Parser::selectStatement() {
     return make<SelectStmt>(stmtHead(StmtKind::Select, pos), value, before, branches.finish(module_.arena));
 }
 
-// Only declarations may stand between Select Case and the first Case.
+// Only declarations are allowed between Select Case and the first Case.
 Block Parser::skipToCase() {
     const auto errors = diagnostics_.errors();
     skipLineEnds();

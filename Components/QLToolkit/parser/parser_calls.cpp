@@ -1,4 +1,4 @@
-// Statements that begin with a name: calls in both forms, assignments, and methods with a grammar of their own.
+// Statements that begin with a name: both forms of calls, assignments, and methods with special syntax.
 #include "Components/QLToolkit/parser/node_heads.h"
 #include "Components/QLToolkit/parser/parser.h"
 
@@ -78,7 +78,7 @@ Stmt* Parser::callWithoutParentheses(Pos pos, const Expr* callee) {
     return makeCall(pos, callee, arguments);
 }
 
-// `f (a)`, `f (a), b` and `f (a) & b, c`: what stood in parentheses was the first argument or began it.
+// `f (a)`, `f (a), b` and `f (a) & b, c`: the parentheses were the first argument or its beginning.
 Stmt* Parser::callWithParentheses(Pos pos, const IndexExpr& call) {
     const auto& inner = call.arguments;
     if (inner.size() == 2 && inner[0].name == Symbol::None && drawsAtCoordinates(call.callee))
@@ -102,92 +102,11 @@ Stmt* Parser::makeCall(Pos pos, const Expr* callee, ListBuilder<Argument>& argum
     return make<CallStmt>(stmtHead(StmtKind::Call, pos), call);
 }
 
-void Parser::restOfArguments(ListBuilder<Argument>& arguments) {
-    for (;;) {
-        if (at(TokenKind::Comma) || endsStatement())
-            arguments.add({});
-        else
-            arguments.add(argument());
-        if (!accept(TokenKind::Comma)) return;
-    }
-}
-
-Span<Argument> Parser::argumentsInParentheses() {
-    advance();
-    if (accept(TokenKind::RightParen)) return {};
-    ListBuilder<Argument> arguments{scratch_.arguments};
-    for (;;) {
-        if (at(TokenKind::Comma) || at(TokenKind::RightParen))
-            arguments.add({});
-        else
-            arguments.add(argument());
-        if (!accept(TokenKind::Comma)) break;
-    }
-    expect(TokenKind::RightParen, Message::ParenthesisExpected);
-    checkArguments(arguments);
-    return arguments.finish(module_.arena);
-}
-
-Argument Parser::argument() {
-    Argument a;
-    if (tok_.isWord() && lexer_.assignsByName(tok_)) {
-        a.name = symbolOf(tok_);
-        advance();
-        advance();
-    }
-    a.byVal = accept(Keyword::ByVal);
-    if (at(TokenKind::Hash) && !lexer_.readDate(tok_)) advance(); // Input(5, #1)
-    a.value = expression();
-    if (inReDim_ && at(Keyword::To)) {
-        const Pos pos = tok_.begin;
-        advance();
-        const Expr* upper = expression();
-        a.value = make<BinaryExpr>(Expr{ExprKind::Range, 0, pos}, a.value, upper);
-    }
-    return a;
-}
-
-// Behind an argument by name only arguments by name may follow.
-void Parser::checkArguments(const ListBuilder<Argument>& arguments) {
-    bool named = false;
-    for (std::size_t i = 0; i < arguments.size(); ++i) {
-        if (named && arguments[i].name == Symbol::None)
-            fail(Message::PositionalAfterNamed, arguments[i].value ? arguments[i].value->pos : here());
-        named |= arguments[i].name != Symbol::None;
-    }
-}
-
 Stmt* Parser::coordinateCall(Pos pos, const Expr* callee, const IndexExpr* first) {
     ListBuilder<Argument> arguments{scratch_.arguments};
     arguments.add({coordinates(first)});
     if (accept(TokenKind::Comma)) restOfArguments(arguments);
     return makeCall(pos, callee, arguments);
-}
-
-// [Step] (x, y) [- [Step] (x, y)], or only the part from the minus on. `first`: (x, y) was read as arguments.
-const Expr* Parser::coordinates(const IndexExpr* first) {
-    auto* c = make<CoordinatesExpr>(Expr{ExprKind::Coordinates, 0, first ? first->pos : tok_.begin}, false, false,
-                                    nullptr, nullptr, nullptr, nullptr);
-    if (first) {
-        c->x1 = first->arguments[0].value;
-        c->y1 = first->arguments[1].value;
-        if (!c->x1 || !c->y1) fail(Message::CoordinatesExpected, first->pos);
-    } else if (!at(TokenKind::Minus)) {
-        c->step1 = accept(Keyword::Step);
-        point(c->x1, c->y1);
-    }
-    if (!accept(TokenKind::Minus)) return c;
-    c->step2 = accept(Keyword::Step);
-    point(c->x2, c->y2);
-    return c;
-}
-
-void Parser::point(const Expr*& x, const Expr*& y) {
-    expect(TokenKind::LeftParen, Message::CoordinatesExpected);
-    x = expression();
-    expect(TokenKind::Comma, Message::CommaExpected);
-    y = expression();
-    expect(TokenKind::RightParen, Message::ParenthesisExpected);
 }
 
 } // namespace qltoolkit

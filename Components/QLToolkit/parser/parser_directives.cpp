@@ -1,9 +1,9 @@
-// Conditional compilation: #Const, #If, #ElseIf, #Else, #End If. It happens below the statements, whenever a line begins.
+// Conditional compilation: #Const, #If, #ElseIf, #Else, #End If. Handled in advance(), so that statements never see it.
 #include "Components/QLToolkit/parser/parser.h"
 
 namespace qltoolkit {
 
-// The token is the # of a directive. Leaves with the first token behind it that counts.
+// Called at the # of a directive. Advances to the first token after it that is compiled.
 void Parser::directive() {
     const auto previousEnd = previousEnd_;
     while (at(TokenKind::Directive)) {
@@ -41,7 +41,7 @@ void Parser::ifDirective(Pos pos) {
     const bool outer = conditions_.active();
     conditions_.open().push_back({pos, !outer, false, false});
     if (!outer) return recover();
-    // Taken beforehand: when the condition has an error, no branch is compiled and nothing else is reported.
+    // Set first: after an error in the condition no branch is compiled, and nothing else is reported.
     conditions_.open().back().taken = true;
     const bool active = directiveCondition();
     conditions_.open().back().active = active;
@@ -111,7 +111,7 @@ void Parser::endOfDirective() {
     if (!tok_.endsLine()) failHere(Message::EndOfStatementExpected);
 }
 
-// Leaves out lines up to the next directive, whatever they hold.
+// Skips lines up to the next directive.
 void Parser::skipInactive() {
     if (lexer_.skipToDirective()) return lexer_.next(tok_);
     tok_ = {};

@@ -1,4 +1,4 @@
-// Expressions, by the power of their operators.
+// Expressions, by operator precedence.
 #include "Components/QLToolkit/parser/node_heads.h"
 #include "Components/QLToolkit/parser/parser.h"
 
@@ -7,7 +7,7 @@ namespace qltoolkit {
 namespace {
 
 struct OperatorInfo {
-    std::uint8_t power = 0; // 0: no operator
+    std::uint8_t power = 0; // 0 if not an operator
     Operator op = Operator::Power;
 };
 
@@ -61,7 +61,7 @@ const Expr* Parser::binary(int minPower) {
     return binaryRest(operand(), minPower);
 }
 
-// The left side grows in this loop, so that a long chain needs no stack.
+// The left side grows in this loop, so that long chains do not recurse.
 const Expr* Parser::binaryRest(const Expr* left, int minPower) {
     for (;;) {
         const auto [power, op] = operatorOf(tok_);
@@ -174,55 +174,6 @@ const Expr* Parser::typeOf() {
     const Expr* object = reference();
     expect(Keyword::Is, Message::IsExpected);
     return make<TypeOfExpr>(exprHead(ExprKind::TypeOf, pos), object, className());
-}
-
-const Expr* Parser::name() {
-    const auto suffix = static_cast<std::uint8_t>(at(TokenKind::Identifier) ? tok_.suffix : '\0');
-    const auto* e = make<NameExpr>(Expr{ExprKind::Name, suffix, tok_.begin}, symbolOf(tok_));
-    advance();
-    return e;
-}
-
-const Expr* Parser::withMember() { return member(nullptr); }
-
-// The token is the . or ! before the member's name. Behind it every word is a name.
-const Expr* Parser::member(const Expr* base) {
-    const ExprKind kind = at(TokenKind::Dot) ? ExprKind::Member : ExprKind::Bang;
-    advance();
-    if (!tok_.isWord()) failHere(Message::MemberNameExpected);
-    const auto suffix = static_cast<std::uint8_t>(at(TokenKind::Identifier) ? tok_.suffix : '\0');
-    const auto* e = make<MemberExpr>(Expr{kind, suffix, tok_.begin}, symbolOf(tok_), base);
-    advance();
-    return e;
-}
-
-// What follows an operand: .member !member (arguments). At the head of a statement (callee) a blank before . or !
-// begins the first argument instead: `Show .Caption`.
-const Expr* Parser::postfix(const Expr* base, bool callee) {
-    for (;;) {
-        switch (tok_.kind) {
-        case TokenKind::Dot:
-        case TokenKind::Bang:
-            if (callee && tok_.spaceBefore && base->kind != ExprKind::Index) return base;
-            base = member(base);
-            break;
-        case TokenKind::LeftParen: {
-            if (callee && lastName(base) == known_.print) return base; // Debug.Print (a); (b)
-            base = make<IndexExpr>(exprHead(ExprKind::Index, base->pos), base, argumentsInParentheses());
-            break;
-        }
-        default: return base;
-        }
-    }
-}
-
-/// A variable, property or element: what can stand where a value is stored.
-const Expr* Parser::reference() {
-    if (at(TokenKind::Dot) || at(TokenKind::Bang)) return postfix(withMember(), false);
-    if (at(Keyword::Me)) return keywordOperand();
-    if (at(TokenKind::LeftParen)) return parenthesized();
-    if (!atName() && !(at(TokenKind::Keyword) && isTypeWord(tok_.keyword))) failHere(Message::NameExpected);
-    return postfix(name(), false);
 }
 
 } // namespace qltoolkit

@@ -1,4 +1,4 @@
-// The statements for files: Open, Close, Get, Put, Seek, Lock, Unlock, Input, Line Input, Width, Print #, Write #.
+// File statements: Open, Close, Get, Put, Seek, Lock, Unlock, Input, Line Input, Width, Print #, Write #.
 #include "Components/QLToolkit/parser/node_heads.h"
 #include "Components/QLToolkit/parser/parser.h"
 
@@ -137,7 +137,7 @@ Stmt* Parser::printFile(StmtKind kind) {
     return make<PrintStmt>(stmtHead(kind, pos), number, printItems());
 }
 
-// Values with ; or , between them, before them and behind them. Two that touch count as separated by a semicolon.
+// Values separated, preceded and followed by ; or ,. Adjacent values count as separated by a semicolon.
 Span<PrintItem> Parser::printItems() {
     ListBuilder<PrintItem> items{scratch_.printItems};
     while (!endsStatement()) {

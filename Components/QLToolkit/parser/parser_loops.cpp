@@ -41,16 +41,16 @@ Stmt* Parser::forCounterStatement(Pos pos) {
     return make<ForStmt>(stmtHead(StmtKind::For, pos), variable, from, to, step, body);
 }
 
-// Next [a [, b ...]]: the names behind a comma belong to the loops around.
+// Next [a [, b ...]]: names after a comma belong to the enclosing loops.
 void Parser::endFor(const Expr* variable) {
     closeBlock();
-    if (!nextGoesOn_ && !at(Keyword::Next)) {
+    if (!inNextList_ && !at(Keyword::Next)) {
         cutShort_ = true;
         return;
     }
-    if (nextGoesOn_ && tok_.endsStatement()) failHere(Message::NameExpected);
-    if (!nextGoesOn_) advance();
-    nextGoesOn_ = false;
+    if (inNextList_ && tok_.endsStatement()) failHere(Message::NameExpected);
+    if (!inNextList_) advance();
+    inNextList_ = false;
     if (endsStatement()) return;
     const Pos pos = tok_.begin;
     const std::string text = tokenText();
@@ -58,7 +58,7 @@ void Parser::endFor(const Expr* variable) {
     const bool bothNames = variable && variable->kind == ExprKind::Name && named->kind == ExprKind::Name;
     if (bothNames && as<NameExpr>(*variable).name != as<NameExpr>(*named).name)
         report(Message::NextWrongVariable, pos, text);
-    nextGoesOn_ = accept(TokenKind::Comma);
+    inNextList_ = accept(TokenKind::Comma);
 }
 
 Stmt* Parser::doStatement() {

@@ -6,22 +6,6 @@ namespace qltoolkit {
 
 namespace {
 
-TypeKind typeOfDefWord(Keyword k) {
-    switch (k) {
-    case Keyword::DefBool: return TypeKind::Boolean;
-    case Keyword::DefByte: return TypeKind::Byte;
-    case Keyword::DefCur: return TypeKind::Currency;
-    case Keyword::DefDate: return TypeKind::Date;
-    case Keyword::DefDbl: return TypeKind::Double;
-    case Keyword::DefInt: return TypeKind::Integer;
-    case Keyword::DefLng: return TypeKind::Long;
-    case Keyword::DefObj: return TypeKind::Object;
-    case Keyword::DefSng: return TypeKind::Single;
-    case Keyword::DefStr: return TypeKind::String;
-    default: return TypeKind::Variant;
-    }
-}
-
 Visibility visibilityOf(Keyword k) {
     switch (k) {
     case Keyword::Public: return Visibility::Public;
@@ -80,7 +64,7 @@ void Parser::modifiedDeclaration() {
     declarationAfter(visibility, pos);
 }
 
-// What may stand with or without Public and Private.
+// Declarations with or without Public or Private.
 void Parser::declarationAfter(Visibility visibility, Pos pos) {
     const bool modified = visibility != Visibility::Default;
     if (!at(TokenKind::Keyword)) failHere(Message::DeclarationExpected);
@@ -99,7 +83,8 @@ void Parser::declarationAfter(Visibility visibility, Pos pos) {
     strayStatement();
 }
 
-// A line that may stand only in a procedure. A missing head would make each of its lines an error: one is enough.
+// Reports a line that is allowed only in a procedure. Consecutive lines are reported once, because the first line of
+// their procedure may be missing.
 void Parser::strayStatement() {
     const Token after = at(Keyword::End) ? lexer_.peek() : Token{};
     const bool end = after.is(Keyword::Sub) || after.is(Keyword::Function) || after.is(Keyword::Property);
@@ -116,7 +101,7 @@ bool Parser::atPropertyHead() {
            after.is(TokenKind::Identifier);
 }
 
-// Sub, Function or Property, with what may stand before them: these begin a procedure even inside another.
+// Returns true at Sub, Function or Property with optional modifiers. They begin a procedure even inside another.
 bool Parser::atProcedureHead() {
     if (!at(TokenKind::Keyword)) return false;
     switch (tok_.keyword) {
@@ -135,87 +120,6 @@ bool Parser::atProcedureHead() {
     default: return false;
     }
 }
-
-// ---------------------------------------------------------------- Attribute
-
-bool Parser::atAttribute() {
-    return at(Keyword::Attribute) && tok_.begin == source_.lineStart(source_.lineOf(tok_.begin)) &&
-           lexer_.peek().isWord();
-}
-
-void Parser::attribute() {
-    const Pos pos = tok_.begin;
-    const auto line = source_.lineOf(pos);
-    if (line >= source_.codeBegin()) module_.hiddenLines.push_back(line);
-    advance();
-    ListBuilder<Symbol> path{scratch_.symbols};
-    for (;;) {
-        if (!tok_.isWord()) failHere(Message::AttributeInvalid);
-        path.add(symbolOf(tok_));
-        advance();
-        if (!accept(TokenKind::Dot)) break;
-    }
-    expect(TokenKind::Equal, Message::AttributeInvalid);
-    ListBuilder<const Expr*> values{scratch_.expressions};
-    do { values.add(expression()); } while (accept(TokenKind::Comma));
-    const Symbol name = path.back();
-    const auto whole = path.finish(module_.arena);
-    addDeclaration(make<AttributeDecl>(declHead(DeclKind::Attribute, Visibility::Default, pos),
-                                       Span<Symbol>{whole.begin(), whole.size() - 1}, name,
-                                       values.finish(module_.arena)));
-}
-
-// ---------------------------------------------------------------- Option, DefType, Implements
-
-void Parser::option() {
-    const Pos pos = tok_.begin;
-    advance();
-    const auto made = [&](DeclKind kind) { addDeclaration(make<Decl>(declHead(kind, Visibility::Default, pos))); };
-    if (accept(Keyword::Explicit)) return made(DeclKind::OptionExplicit);
-    if (accept(Keyword::Private)) {
-        expect(Keyword::Module, Message::OptionUnknown);
-        return made(DeclKind::OptionPrivateModule);
-    }
-    if (accept(Keyword::Compare)) {
-        if (accept(Keyword::Text)) return made(DeclKind::OptionCompareText);
-        if (accept(Keyword::Binary)) return made(DeclKind::OptionCompareBinary);
-        if (accept(Keyword::Database)) return made(DeclKind::OptionCompareDatabase);
-        failHere(Message::OptionUnknown);
-    }
-    expect(Keyword::Base, Message::OptionUnknown);
-    if (!at(TokenKind::Integer) || tok_.integer > 1) failHere(Message::OptionBaseInvalid);
-    addDeclaration(make<OptionBaseDecl>(declHead(DeclKind::OptionBase, Visibility::Default, pos),
-                                        static_cast<std::uint32_t>(tok_.integer)));
-    advance();
-}
-
-// DefInt A-C, X
-void Parser::defType() {
-    const Pos pos = tok_.begin;
-    const TypeKind type = typeOfDefWord(tok_.keyword);
-    advance();
-    const auto letter = [&]() -> unsigned {
-        const char c = static_cast<char>(source_.data()[tok_.begin] | 0x20);
-        if (!tok_.isWord() || tok_.end != tok_.begin + 1 || c < 'a' || c > 'z') failHere(Message::DefTypeRange);
-        advance();
-        return static_cast<unsigned>(c - 'a');
-    };
-    std::uint32_t letters = 0;
-    do {
-        const unsigned first = letter();
-        const unsigned last = accept(TokenKind::Minus) ? letter() : first;
-        for (unsigned l = std::min(first, last); l <= std::max(first, last); ++l) letters |= 1u << l;
-    } while (accept(TokenKind::Comma));
-    addDeclaration(make<DefTypeDecl>(declHead(DeclKind::DefType, Visibility::Default, pos), type, letters));
-}
-
-void Parser::implements() {
-    const Pos pos = tok_.begin;
-    advance();
-    addDeclaration(make<ImplementsDecl>(declHead(DeclKind::Implements, Visibility::Default, pos), className()));
-}
-
-// ---------------------------------------------------------------- variables, constants, events, Declare
 
 void Parser::variables(Visibility visibility, Pos pos) {
     addDeclaration(make<VariablesDecl>(declHead(DeclKind::Variables, visibility, pos), variableList()));
@@ -257,7 +161,7 @@ void Parser::declareDeclaration(Visibility visibility, Pos pos) {
     addDeclaration(d);
 }
 
-// Alias "#123" calls by number.
+// Alias "#123" identifies a procedure by its number.
 void Parser::checkOrdinal(const StringExpr& alias) {
     const auto text = source_.text(alias.pos + 1, alias.pos + 1 + alias.length);
     if (!text.starts_with('#')) return;

@@ -28,11 +28,11 @@ void Parser::procedure(Visibility visibility, bool isStatic, Pos pos) {
     } catch (const ProcedureAbandoned&) { skipProcedure(); }
     blocks_.clear();
     openCount_ = {};
-    nextGoesOn_ = cutShort_ = false;
+    inNextList_ = cutShort_ = false;
     endProcedure(*p);
 }
 
-// The token is Sub, Function or Property. `kind` is set at once, so that the End fits when the next word is missing.
+// Called at Sub, Function or Property. Sets `kind` first, so that the End matches even if the next word is missing.
 void Parser::procedureKind(ProcedureKind& kind) {
     const bool isProperty = at(Keyword::Property);
     kind = isProperty ? ProcedureKind::PropertyGet : at(Keyword::Sub) ? ProcedureKind::Sub : ProcedureKind::Function;
@@ -61,7 +61,7 @@ const TypeRef* Parser::resultType() {
     return type;
 }
 
-// lastIsValue: the last one is the value that a Property Let or Set assigns; it is no argument and never optional.
+// lastIsValue: the last parameter is the value of a Property Let or Set, which is never optional.
 Span<Parameter> Parser::parameters(bool ofDeclare, bool lastIsValue) {
     advance();
     if (accept(TokenKind::RightParen)) return {};
@@ -102,7 +102,7 @@ Parameter Parser::parameter(bool ofDeclare) {
 }
 
 void Parser::checkParameter(const Parameter& p, const Parameter* previous, bool anyOrder) {
-    if (p.paramArray && !p.isArray) fail(Message::ParamArrayNotArray, p.pos);
+    if (p.paramArray && !p.isArray) fail(Message::ParamArrayNotArray, p.pos, symbols_.spelling(p.name));
     if (p.paramArray && (p.passing != Passing::Default || p.optional)) fail(Message::ParamArrayQualified, p.pos);
     if (!previous) return;
     if (previous->paramArray) fail(Message::ParameterAfterParamArray, p.pos);
@@ -124,7 +124,7 @@ void Parser::endProcedure(ProcedureDecl& p) {
     expectEndOfStatement();
 }
 
-// Leaves out lines up to the End of the procedure or the beginning of the next.
+// Skips lines up to the End of the procedure or the beginning of the next one.
 void Parser::skipProcedure() {
     lexer_.quiet(true);
     for (;;) {

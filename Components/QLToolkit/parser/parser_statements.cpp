@@ -1,10 +1,10 @@
-// Statements that begin with a word of the language, but for blocks, jumps and files.
+// Statements that begin with a keyword, except blocks, jumps and file statements.
 #include "Components/QLToolkit/parser/node_heads.h"
 #include "Components/QLToolkit/parser/parser.h"
 
 namespace qltoolkit {
 
-// Null when there was only a comment or an Attribute line.
+// Returns null for a comment or an Attribute line.
 Stmt* Parser::statement() {
     switch (tok_.kind) {
     case TokenKind::Identifier:
@@ -85,7 +85,7 @@ Stmt* Parser::simple(StmtKind kind) {
     return make<Stmt>(stmtHead(kind, pos));
 }
 
-// A Type or Enum is left out with all its lines: they would be errors, too.
+// Skips all lines of a Type or Enum, which would be further errors.
 void Parser::failInsideProcedure() {
     const Pos pos = tok_.begin;
     const std::string text = tokenText();
@@ -134,7 +134,7 @@ Stmt* Parser::reDim() {
     return make<ReDimStmt>(stmtHead(StmtKind::ReDim, pos), preserve, items.finish(module_.arena));
 }
 
-// The bounds are read as the last pair of parentheses of what is redimensioned: a.b(i).c(1 To 5)
+// The bounds are the last pair of parentheses: a.b(i).c(1 To 5)
 ReDimItem Parser::reDimItem() {
     inReDim_ = true;
     const Expr* target = reference();

@@ -1,4 +1,4 @@
-// Variables, constants and their types; Type and Enum.
+// Variables, constants and their types.
 #include "Components/QLToolkit/parser/node_heads.h"
 #include "Components/QLToolkit/parser/parser.h"
 
@@ -86,7 +86,7 @@ Span<Constant> Parser::constantList() {
     return list.finish(module_.arena);
 }
 
-// The token is As.
+// Called at As.
 const TypeRef* Parser::asClause(bool allowNew) {
     advance();
     const bool isNew = at(Keyword::New);
@@ -127,115 +127,6 @@ const TypeRef* Parser::className(bool isNew) {
         advance();
     }
     return type;
-}
-
-// ---------------------------------------------------------------- Type and Enum
-
-void Parser::typeDeclaration(Visibility visibility, Pos pos) {
-    advance();
-    Symbol name = Symbol::None;
-    head([&] { name = expectName(); });
-    ListBuilder<Variable> members{scratch_.variables};
-    const auto errors = diagnostics_.errors();
-    for (skipLineEnds(); !atMemberListEnd(Keyword::Type); skipLineEnds()) {
-        errorsBefore_ = diagnostics_.errors();
-        try {
-            typeMember(members);
-            expectEndOfStatement();
-        } catch (const SyntaxError&) { recover(); }
-    }
-    errorsBefore_ = diagnostics_.errors();
-    if (members.size() == 0 && diagnostics_.errors() == errors && at(Keyword::End))
-        report(Message::TypeMembersMissing, pos);
-    addDeclaration(make<TypeDecl>(declHead(DeclKind::Type, visibility, pos), name, members.finish(module_.arena)));
-    endMemberList(Keyword::Type, Message::EndTypeMissing, pos);
-}
-
-// Every word may name a member, words of the language too.
-void Parser::typeMember(ListBuilder<Variable>& members) {
-    if (atRem()) return;
-    Variable v{};
-    if (!tok_.isWord()) failHere(Message::NameExpected);
-    v.pos = tok_.begin;
-    v.suffix = at(TokenKind::Identifier) ? tok_.suffix : '\0';
-    v.name = symbolOf(tok_);
-    advance();
-    if (!at(TokenKind::LeftParen) && !at(Keyword::As) && !v.suffix) failHere(Message::AsExpected);
-    variableType(v);
-    members.add(v);
-}
-
-void Parser::enumDeclaration(Visibility visibility, Pos pos) {
-    advance();
-    Symbol name = Symbol::None;
-    head([&] { name = expectName(); });
-    ListBuilder<Constant> members{scratch_.constants};
-    for (skipLineEnds(); !atMemberListEnd(Keyword::Enum); skipLineEnds()) {
-        errorsBefore_ = diagnostics_.errors();
-        try {
-            enumMember(members);
-            expectEndOfStatement();
-        } catch (const SyntaxError&) { recover(); }
-    }
-    errorsBefore_ = diagnostics_.errors();
-    addDeclaration(make<EnumDecl>(declHead(DeclKind::Enum, visibility, pos), name, members.finish(module_.arena)));
-    endMemberList(Keyword::Enum, Message::EndEnumMissing, pos);
-}
-
-void Parser::enumMember(ListBuilder<Constant>& members) {
-    if (atRem()) return;
-    Constant c{};
-    c.name = expectName(&c.pos);
-    if (accept(TokenKind::Equal)) c.value = expression();
-    members.add(c);
-}
-
-/// Steps over a comment that begins with Rem.
-bool Parser::atRem() {
-    if (!at(Keyword::Rem)) return false;
-    lexer_.skipComment();
-    advance();
-    return true;
-}
-
-// True at the End of the list, and at what can only follow it when that is missing.
-bool Parser::atMemberListEnd(Keyword kind) {
-    if (at(TokenKind::EndOfFile)) return true;
-    if (!at(TokenKind::Keyword) || !isReserved(tok_.keyword)) return atPropertyHead();
-    switch (tok_.keyword) {
-    case Keyword::End: {
-        const Token after = lexer_.peek();
-        return after.is(kind) || after.is(Keyword::Sub) || after.is(Keyword::Function) || after.is(Keyword::Property);
-    }
-    case Keyword::Public:
-    case Keyword::Private:
-    case Keyword::Friend:
-    case Keyword::Global:
-    case Keyword::Dim:
-    case Keyword::Static:
-    case Keyword::Sub:
-    case Keyword::Function:
-    case Keyword::Const:
-    case Keyword::Enum:
-    case Keyword::Type:
-    case Keyword::Declare:
-    case Keyword::Option: {
-        const Token after = lexer_.peek();
-        return !after.is(Keyword::As) && !after.is(TokenKind::LeftParen) && !after.is(TokenKind::Equal);
-    }
-    default: return false;
-    }
-}
-
-void Parser::endMemberList(Keyword kind, Message missing, Pos pos) {
-    if (!at(Keyword::End) || !lexer_.peek().is(kind)) {
-        report(missing, pos);
-        cutShort_ = true;
-        return;
-    }
-    advance();
-    advance();
-    expectEndOfStatement();
 }
 
 } // namespace qltoolkit

@@ -8,7 +8,7 @@ constexpr std::size_t kFirstChunk = 16 * 1024;
 constexpr std::size_t kLargestChunk = 4 * 1024 * 1024;
 } // namespace
 
-// Chunks double up to a limit: a small file costs little, a large one few calls.
+// Chunks double in size up to a limit: a small file needs little memory, a large one few allocations.
 std::uintptr_t Arena::grow(std::size_t size, std::size_t alignment) {
     const std::size_t wanted = std::clamp(footprint_, kFirstChunk, kLargestChunk);
     const std::size_t chunk = std::max(wanted, size + alignment);

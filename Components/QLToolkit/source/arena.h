@@ -1,5 +1,5 @@
 #pragma once
-// Memory for trees: taken piece by piece, given back all at once.
+// Memory for trees: allocated piece by piece, freed all at once.
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -9,7 +9,7 @@
 
 namespace qltoolkit {
 
-/// A row of T that lies in an arena.
+/// An array of T in an arena.
 template <class T>
 class Span {
 public:
@@ -26,7 +26,7 @@ private:
     std::uint32_t size_ = 0;
 };
 
-/// What is made here lives until the arena goes; no destructor runs, hence only trivially destructible types.
+/// Objects made here live as long as the arena. No destructor runs, so only trivially destructible types are allowed.
 class Arena {
 public:
     Arena() = default;
@@ -48,7 +48,7 @@ public:
         return {static_cast<const T*>(room), static_cast<std::uint32_t>(count)};
     }
 
-    /// Bytes taken from the system.
+    /// Bytes allocated from the system.
     [[nodiscard]] std::size_t footprint() const { return footprint_; }
 
 private:

@@ -1,5 +1,5 @@
 #pragma once
-// The classes of characters, by byte.
+// Character classes of bytes.
 #include <array>
 #include <cstdint>
 

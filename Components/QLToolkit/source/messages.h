@@ -1,6 +1,6 @@
 #pragma once
-// Everything that the compiler can say, in one table: numbers are stable, texts may be improved.
-// To add a message: a name and number here, a row in messages.cpp at its place, a test that provokes it.
+// All messages of the compiler in one table. Numbers are stable, texts may be improved.
+// To add a message: a name and number here, a row in messages.cpp, and a test that triggers it.
 #include <cstdint>
 #include <span>
 #include <string>
@@ -10,9 +10,9 @@ namespace qltoolkit {
 
 enum class Severity : std::uint8_t { Warning, Error };
 
-/// The numbers. 1000: files, 1100: characters, 1200: conditional compilation, 1300: declarations, 1500: statements,
-/// 1800: expressions, 1900: whole projects. 2000 to 2998 belong to names, types and code generation; 2999 and above are
-/// never used.
+/// Numbers by subject. 1000: files, 1100: characters, 1200: conditional compilation, 1300: declarations,
+/// 1500: statements, 1800: expressions, 1900: whole projects. 2000 to 2998 are reserved for names, types and code
+/// generation. Numbers from 2999 do not belong to the compiler.
 enum class Message : std::uint16_t {
     FileMissing = 1000,
     FileUnreadable = 1001,
@@ -129,7 +129,7 @@ enum class Message : std::uint16_t {
     ImageNotWritten = 1903,
 };
 
-/// One row of the catalogue. "%1" in the text is the word that the message is about.
+/// One row of the table. A text has at most one placeholder in braces, such as "{found}".
 struct MessageInfo {
     Message message;
     Severity severity;
@@ -139,9 +139,10 @@ struct MessageInfo {
     std::string_view remedy;
 };
 
-/// All rows by ascending number.
+/// Returns all rows by ascending number.
 [[nodiscard]] std::span<const MessageInfo> allMessages();
 [[nodiscard]] const MessageInfo& messageInfo(Message);
+/// Returns the text with its placeholder replaced by `detail`.
 [[nodiscard]] std::string messageText(Message, std::string_view detail);
 
 } // namespace qltoolkit

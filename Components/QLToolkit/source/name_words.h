@@ -1,14 +1,14 @@
 #pragma once
-// A name's bytes as words of 8 with ASCII letters folded: how names are hashed and keywords are found.
+// Names as 8-byte words with ASCII letters folded, for hashing names and finding keywords.
 #include <cstdint>
 #include <cstring>
 
 namespace qltoolkit {
 
-/// Sets bit 5 of each byte: folds ASCII letters, keeps digits, and maps no two characters of names to one.
+/// Sets bit 5 of each byte. This folds ASCII letters, keeps digits, and keeps all characters of names distinct.
 inline constexpr std::uint64_t kFoldMask = 0x2020202020202020u;
 
-/// Up to 8 bytes from `at`, folded; bytes beyond `length` are 0. Reads 8 bytes in any case.
+/// Returns up to 8 folded bytes from `at`; bytes beyond `length` are 0. Always reads 8 bytes.
 inline std::uint64_t foldedWord(const char* at, std::uint32_t length) {
     std::uint64_t word;
     std::memcpy(&word, at, sizeof word);

@@ -24,7 +24,7 @@ std::string_view firstWord(std::string_view line) {
 
 bool isAttributeLine(std::string_view line) { return line.size() > 10 && equalWords(line.substr(0, 10), "attribute "); }
 
-// Text has tabs, line ends, now and then a form feed, NULs or the end mark of old editors; not much else below a blank.
+// Text contains tabs and line ends, and occasionally form feeds, NULs or Ctrl+Z, but hardly any other control characters.
 bool looksBinary(std::string_view bytes) {
     if (bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF")) return true;
     const auto sample = bytes.substr(0, 8192);
@@ -114,7 +114,7 @@ Location SourceText::locate(Pos at) const {
     return {number, column};
 }
 
-// The rule that holds for every file: VERSION, Object lines, one balanced block, then Attribute lines at column 0.
+// Every file has this order: VERSION, Object lines, one balanced block, then Attribute lines at column 0.
 void SourceText::findCode() {
     std::uint32_t at = 1;
     const auto last = lineCount();

@@ -1,5 +1,5 @@
 #pragma once
-// A source file in memory: its bytes, its code page, its physical lines, and the place where its code begins.
+// A source file in memory: its bytes, code page and physical lines, and where its code begins.
 #include "Basic/code_page.h"
 #include <cstdint>
 #include <string>
@@ -11,34 +11,34 @@ namespace qltoolkit {
 /// A byte offset into a source file. SourceText::locate turns it into line and column.
 using Pos = std::uint32_t;
 
-/// What a file is, told by its extension.
+/// Kind of file, by its extension.
 enum class FileKind : std::uint8_t { Unknown, Module, Class, Form, UserControl, PropertyPage, Designer, UserDocument };
 
-/// Letter case does not matter; Unknown for every extension that holds no code.
+/// Ignores case. Returns Unknown for the extension of a file that is not source code.
 [[nodiscard]] FileKind fileKindOf(std::string_view path);
 
-/// Where something stands: physical line and column from 1; the column counts characters, not bytes.
+/// Physical line and column, both from 1. The column counts characters, not bytes.
 struct Location {
     std::uint32_t line = 1;
     std::uint32_t column = 1;
     bool operator==(const Location&) const = default;
 };
 
-/// How the head of a file looks: the VERSION line, Object lines, the block of properties and the Attribute lines.
+/// State of the header: the VERSION line, Object lines, the property block and the Attribute lines.
 enum class HeaderState : std::uint8_t {
-    Missing,  ///< there is no VERSION line (Attribute lines may stand at the top all the same)
+    Missing,  ///< no VERSION line (Attribute lines are still possible)
     Complete, ///< a VERSION line and a balanced block, or a VERSION line alone
-    Unclosed, ///< the block that begins at headerBlock() never ends
+    Unclosed, ///< the block that begins at headerBlock() has no end
 };
 
 /// The largest file that positions can address.
 inline constexpr std::size_t kMaxSourceBytes = std::size_t{1} << 30;
 
-/// The bytes of one file. Everything that refers to it (tokens, trees, diagnostics) needs it to live on.
+/// The bytes of one file. It must outlive everything that refers to it, such as tokens and trees.
 class SourceText {
 public:
-    /// `bytes` as they stand on disk, at most kMaxSourceBytes, and their code page. A file that begins with a byte
-    /// order mark, or whose bytes above 127 are all UTF-8, is read as UTF-8 instead.
+    /// Takes the bytes of the file, at most kMaxSourceBytes, and their code page. A file that begins with a byte order
+    /// mark, or whose bytes above 127 are all UTF-8, is read as UTF-8 instead.
     SourceText(std::string name, std::string bytes, basic::CodePage = basic::CodePage::windows1252());
     SourceText(const SourceText&) = delete;
     SourceText& operator=(const SourceText&) = delete;
@@ -48,33 +48,33 @@ public:
     [[nodiscard]] const basic::CodePage& codePage() const { return page_; }
 
     [[nodiscard]] Pos size() const { return size_; }
-    /// All bytes. At least kPadding NULs follow the last one, so that a reader may look ahead without a test.
+    /// Returns all bytes, followed by at least kPadding NULs so that readers can look ahead without a check.
     [[nodiscard]] const char* data() const { return bytes_.data(); }
     [[nodiscard]] std::string_view text(Pos begin, Pos end) const { return {data() + begin, end - begin}; }
 
-    /// Physical lines: each ends at CRLF, LF or a lone CR; a rest without a line end counts.
+    /// Number of physical lines. Lines end with CRLF, LF or a lone CR; an unterminated last line counts.
     [[nodiscard]] std::uint32_t lineCount() const { return static_cast<std::uint32_t>(lineStarts_.size()) - 1; }
-    /// The first byte of the physical line (from 1). lineStart(lineCount() + 1) is size().
+    /// First byte of a physical line (from 1). lineStart(lineCount() + 1) is size().
     [[nodiscard]] Pos lineStart(std::uint32_t line) const { return lineStarts_[line - 1]; }
-    /// The physical line without its end.
+    /// A physical line without its line end.
     [[nodiscard]] std::string_view line(std::uint32_t number) const;
     [[nodiscard]] std::uint32_t lineOf(Pos) const;
     [[nodiscard]] Location locate(Pos) const;
 
     [[nodiscard]] HeaderState header() const { return header_; }
-    /// Line of the BEGIN that opens the block of properties; 0 without one.
+    /// Line of the BEGIN of the property block, or 0 if there is none.
     [[nodiscard]] std::uint32_t headerBlock() const { return headerBlock_; }
-    /// Lines of the top run of Attribute lines: first, and one past the last. Equal when there are none.
+    /// Lines of the Attribute lines at the top: the first, and one past the last. Equal if there are none.
     [[nodiscard]] std::uint32_t attributesBegin() const { return attributesBegin_; }
-    /// Line 1 of the code window as a physical line; lineCount() + 1 in a file without code.
+    /// Physical line of line 1 of the code window; lineCount() + 1 in a file without code.
     [[nodiscard]] std::uint32_t codeBegin() const { return codeBegin_; }
 
-    /// True when this cannot be VB source: UTF-16, or full of control characters.
+    /// Returns true if the file cannot be VB source: UTF-16, or text with many control characters.
     [[nodiscard]] bool isBinary() const { return binary_; }
 
-    /// Bytes of this file as UTF-8.
+    /// Returns bytes of this file as UTF-8.
     [[nodiscard]] std::string decode(std::string_view bytes) const;
-    /// True when `byte` is the first of two bytes of one character in this file's code page.
+    /// Returns true if `byte` begins a two-byte character in this file's code page.
     [[nodiscard]] bool isLeadByte(unsigned char byte) const;
 
     static constexpr std::size_t kPadding = 16;

@@ -39,8 +39,8 @@ Symbol SymbolTable::internAscii(const char* name, std::uint32_t length) {
     return add({firstWord, hash, length, spelling, spelling, length});
 }
 
-// The folded form goes through the same words as an ASCII name, so that both ways lead to one symbol; what the words
-// cannot tell apart (names in brackets may hold anything) the comparison of all bytes does.
+// Hashes the folded form like an ASCII name, so that both functions return the same symbol. Names that differ but have
+// the same words (names in brackets may contain anything) are distinguished by comparing all bytes.
 Symbol SymbolTable::intern(std::string_view utf8) {
     std::string folded = basic::foldCase(utf8);
     const auto length = static_cast<std::uint32_t>(folded.size());

@@ -1,5 +1,5 @@
 #pragma once
-// Names: each gets a number, letter case does not matter. One table serves all modules of a project.
+// Numbers for names, regardless of case. All modules of a project share one table.
 #include "Components/QLToolkit/source/arena.h"
 #include <cstdint>
 #include <string_view>
@@ -7,20 +7,20 @@
 
 namespace qltoolkit {
 
-/// A name, whatever the case of its letters.
+/// A name, regardless of case.
 enum class Symbol : std::uint32_t { None = 0 };
 
 class SymbolTable {
 public:
     SymbolTable();
 
-    /// The symbol of a name of ASCII letters, digits and underscores, all of them readable 8 bytes beyond its end
-    /// (a SourceText's text is).
+    /// Returns the symbol of a name of ASCII letters, digits and underscores. Reads up to 8 bytes beyond its end, as a
+    /// SourceText allows.
     Symbol internAscii(const char* name, std::uint32_t length);
-    /// The symbol of any name, given as UTF-8.
+    /// Returns the symbol of any name, given as UTF-8.
     Symbol intern(std::string_view utf8);
 
-    /// The spelling in which the name was seen first, as UTF-8. Empty for None.
+    /// Returns the first spelling of the name as UTF-8, or "" for None.
     [[nodiscard]] std::string_view spelling(Symbol symbol) const {
         const Entry& e = entries_[static_cast<std::uint32_t>(symbol)];
         return {e.spelling, e.spellingLength};
@@ -29,7 +29,7 @@ public:
 
 private:
     struct Entry {
-        std::uint64_t firstWord; // the first 8 folded bytes: they tell most names apart
+        std::uint64_t firstWord; // the first 8 folded bytes, which distinguish most names
         std::uint32_t hash;
         std::uint32_t foldedLength;
         const char* folded;

@@ -13,11 +13,7 @@ std::shared_ptr<Bar> BarItems::bar() const {
 
 int BarItems::Count() const { return int(bar()->list().size()); }
 
-office::Ref<office::CommandBarControl> BarItems::Item(int index) const {
-    const auto bar = this->bar();
-    if (index < 1 || index > Count()) throw hostError(basic::kSubscriptOutOfRange);
-    return bar->list()[std::size_t(index) - 1];
-}
+office::Ref<office::CommandBarControl> BarItems::Item(int index) const { return itemAt(bar()->list(), index); }
 
 office::Ref<office::CommandBarControl> BarItems::Item(const std::string& caption) const {
     const auto wanted = withoutMnemonic(caption);

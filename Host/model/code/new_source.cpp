@@ -1,5 +1,6 @@
 #include "Host/model/code/new_source.h"
 #include <fmt/format.h>
+#include <string_view>
 
 namespace host {
 namespace {
@@ -8,6 +9,9 @@ constexpr std::string_view kFormSize = "   ClientHeight    =   3090\r\n"
                                        "   ClientLeft      =   60\r\n"
                                        "   ClientTop       =   450\r\n"
                                        "   ClientWidth     =   4680\r\n";
+
+constexpr std::string_view kFormScale = "   ScaleHeight     =   3090\r\n"
+                                        "   ScaleWidth      =   4680\r\n";
 
 std::string attributes(const std::string& name, bool creatable, bool predeclared, bool exposed) {
     const auto word = [](bool value) { return value ? "True" : "False"; };
@@ -19,29 +23,17 @@ std::string attributes(const std::string& name, bool creatable, bool predeclared
                        name, word(creatable), word(predeclared), word(exposed));
 }
 
-std::string newForm(const std::string& name) {
+/// `scale` is the part of the form that an MDI form does not have.
+std::string newForm(std::string_view className, const std::string& name, std::string_view scale) {
     return fmt::format("VERSION 5.00\r\n"
-                       "Begin VB.Form {0} \r\n"
+                       "Begin {1} {0} \r\n"
                        "   Caption         =   \"{0}\"\r\n"
-                       "{1}"
+                       "{2}"
                        "   LinkTopic       =   \"{0}\"\r\n"
-                       "   ScaleHeight     =   3090\r\n"
-                       "   ScaleWidth      =   4680\r\n"
+                       "{3}"
                        "   StartUpPosition =   3  'Windows Default\r\n"
                        "End\r\n",
-                       name, kFormSize) +
-           attributes(name, false, true, false);
-}
-
-std::string newMdiForm(const std::string& name) {
-    return fmt::format("VERSION 5.00\r\n"
-                       "Begin VB.MDIForm {0} \r\n"
-                       "   Caption         =   \"{0}\"\r\n"
-                       "{1}"
-                       "   LinkTopic       =   \"{0}\"\r\n"
-                       "   StartUpPosition =   3  'Windows Default\r\n"
-                       "End\r\n",
-                       name, kFormSize) +
+                       name, className, kFormSize, scale) +
            attributes(name, false, true, false);
 }
 
@@ -73,24 +65,11 @@ std::string newDesigner(std::string_view className, const std::string& name, boo
 
 } // namespace
 
-std::optional<std::string_view> newNameOf(vbide::vbext_ComponentType type) noexcept {
-    switch (type) {
-    case vbide::vbext_ct_StdModule: return "Module";
-    case vbide::vbext_ct_ClassModule: return "Class";
-    case vbide::vbext_ct_VBForm: return "Form";
-    case vbide::vbext_ct_VBMDIForm: return "MDIForm";
-    case vbide::vbext_ct_PropPage: return "PropertyPage";
-    case vbide::vbext_ct_UserControl: return "UserControl";
-    case vbide::vbext_ct_DocObject: return "UserDocument";
-    default: return {};
-    }
-}
-
 std::string newSource(vbide::vbext_ComponentType type, const std::string& name) {
     switch (type) {
     case vbide::vbext_ct_ClassModule: return newClass(name);
-    case vbide::vbext_ct_VBForm: return newForm(name);
-    case vbide::vbext_ct_VBMDIForm: return newMdiForm(name);
+    case vbide::vbext_ct_VBForm: return newForm("VB.Form", name, kFormScale);
+    case vbide::vbext_ct_VBMDIForm: return newForm("VB.MDIForm", name, {});
     case vbide::vbext_ct_PropPage: return newDesigner("VB.PropertyPage", name, false);
     case vbide::vbext_ct_UserControl: return newDesigner("VB.UserControl", name, false);
     case vbide::vbext_ct_DocObject: return newDesigner("VB.UserDocument", name, true);

@@ -6,12 +6,6 @@
 namespace host {
 namespace {
 
-std::string unquotedText(std::string_view literal) {
-    if (literal.size() >= 2 && literal.front() == '"' && literal.back() == '"')
-        literal = literal.substr(1, literal.size() - 2);
-    return std::string(literal);
-}
-
 std::size_t lineCountOf(std::string_view bytes) noexcept {
     std::size_t count = 0;
     LineEnd end = LineEnd::None;
@@ -35,7 +29,7 @@ std::string SourceFile::bytes() const {
 }
 
 std::string SourceFile::name() const {
-    if (form_) return unquotedText(form_->attribute("VB_Name").value_or(""));
+    if (form_) return std::string(unquoted(form_->attribute("VB_Name").value_or("")));
     const auto attributes = std::string_view(bytes_).substr(attributesAt_, codeAt_ - attributesAt_);
     return codePage_.decode(attributeValue(attributes, "VB_Name").value_or(""));
 }

@@ -1,5 +1,5 @@
 #pragma once
-// The source file of one component in memory: its designer part and its code, each taken apart at first use.
+// The source file of a component in memory. The designer part and the code are each parsed at first use.
 #include "Basic/code_page.h"
 #include "Host/files/code_file.h"
 #include "Host/files/form_file.h"
@@ -14,35 +14,33 @@ class SourceFile {
 public:
     SourceFile(std::string bytes, basic::CodePage codePage);
 
-    /// The whole file; the bytes that were read where nothing was changed.
+    /// Returns the whole file; unchanged parts as they were read.
     std::string bytes() const;
 
-    /// VB_Name, the component's identity; "" where the file tells none.
+    /// VB_Name, the identity of the component; "" if the file has none.
     std::string name() const;
-    /// Writes VB_Name and, where there is one, the name in the designer's first line. Error 5, and nothing changed: a
-    /// character that the code page lacks.
+    /// Writes VB_Name and the name in the designer's first line, if any. Error 5, without a change, if the code page
+    /// lacks a character.
     void name(const std::string& name);
 
-    /// The head as a tree. Edits in it show in bytes().
+    /// The head as a tree. Edits of it are reflected in bytes().
     const std::shared_ptr<FormFile>& form();
-    /// From now on the head is this tree: a designer holds its form itself.
-    void form(std::shared_ptr<FormFile> held) { form_ = std::move(held); }
-    /// The class in the designer's first line ("VB.Form"), "" where there is none.
+    /// The class in the designer's first line ("VB.Form"), "" if there is none.
     std::string designerClass() const;
-    /// The head refers to its binary companion by this name instead of that one.
+    /// Changes the name by which the head refers to its binary companion.
     void renameCompanion(const std::string& oldName, const std::string& newName);
     CodeText& code();
     /// Physical lines above line 1 of the code window.
     std::size_t headLines() const;
 
     const basic::CodePage& codePage() const { return codePage_; }
-    /// False for a designer part that ends before its last End, and for bytes that are no source text.
+    /// False for a designer part that ends before its last End.
     bool isWhole() const { return whole_; }
 
 private:
     basic::CodePage codePage_;
     LineEnd ownEnd_;
-    std::string bytes_; // until code is taken apart: the head and the code; then the head alone
+    std::string bytes_; // the head and the code; only the head once the code is parsed
     std::size_t attributesAt_ = 0, codeAt_ = 0;
     bool whole_ = true;
     std::shared_ptr<FormFile> form_;

@@ -4,10 +4,10 @@
 
 namespace host {
 
-/// What was wrong with a file that was opened. The rest of the project stays usable.
+/// A problem with a file that was opened. The rest of the project remains usable.
 struct LoadProblem {
-    std::string file;     ///< the file where it shows: the project for a member that is missing
-    std::size_t line = 0; ///< physical line, from 1; 0 for the file as a whole
+    std::string file;     ///< the file to show; the project's file for a missing member
+    std::size_t line = 0; ///< physical line, from 1; 0 for the whole file
     std::string text;
 
     friend bool operator==(const LoadProblem&, const LoadProblem&) = default;

@@ -56,11 +56,7 @@ public:
     basic::Ref<vbide::Properties> object(const std::string&) const override { return nullptr; }
 
 private:
-    std::shared_ptr<DesignerState> live() const {
-        auto state = liveDesigner(state_);
-        if (!state->holds(*owner_)) throw hostError(basic::kAutomationError, "The control has been removed.");
-        return state;
-    }
+    std::shared_ptr<DesignerState> live() const { return liveDesigner(state_, *owner_); }
     PropertyValue literalOf(const ClassProperty& member) const {
         const auto font = owner_->properties(property_);
         const auto literal = font ? font->literal(member.name) : std::nullopt;
@@ -78,10 +74,10 @@ private:
         state->checkText(written.literal);
         state->set(*block(), member.name, written.literal, written.comment);
     }
-    /// The font's block; a new one has all members, as the designer writes them.
+    /// Returns the font's block. A new one gets all members, as in the designer.
     std::shared_ptr<FormBlock> block() {
         if (auto font = owner_->properties(property_)) return font;
-        owner_->remove(property_); // a font that stood in the resource file
+        owner_->remove(property_); // a font in the resource file
         const bool own = owner_->type().substr(0, kOwnClasses.size()) == kOwnClasses;
         auto font = owner_->addProperties(property_, own ? std::string_view() : kFontGuid);
         for (const auto& member : members_->properties) {

@@ -1,7 +1,8 @@
 #include "Host/model/forms/block_properties.h"
 #include "Basic/case_folding.h"
 #include "Host/files/form_line.h"
-#include "Host/files/system_error.h"
+#include "Host/model/code/names.h"
+#include "Host/model/errors/host_errors.h"
 #include "Host/model/forms/block_objects.h"
 #include "Host/model/forms/form_controls.h"
 #include "Host/model/forms/property_text.h"
@@ -13,26 +14,12 @@ namespace {
 
 constexpr std::string_view kNameProperty = "Name";
 
-bool isControlName(std::string_view name) {
-    const auto isLetter = [](char c) {
-        return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || static_cast<unsigned char>(c) >= 0x80;
-    };
-    if (name.empty() || !isLetter(name[0])) return false;
-    for (const char c : name)
-        if (!isLetter(c) && !(c >= '0' && c <= '9') && c != '_') return false;
-    return true;
-}
-
 } // namespace
 
 BlockProperties::BlockProperties(std::weak_ptr<DesignerState> state, std::shared_ptr<FormBlock> block)
     : state_(std::move(state)), block_(std::move(block)) {}
 
-std::shared_ptr<DesignerState> BlockProperties::live() const {
-    auto state = liveDesigner(state_);
-    if (!state->holds(*block_)) throw hostError(basic::kAutomationError, "The control has been removed.");
-    return state;
-}
+std::shared_ptr<DesignerState> BlockProperties::live() const { return liveDesigner(state_, *block_); }
 
 bool BlockProperties::isShown(std::string_view) const { return true; }
 
@@ -99,10 +86,10 @@ void BlockProperties::plainValue(DesignerState& state, const ClassProperty& prop
     const auto written = literalOfValue(property, value, before);
     const auto wanted = parsePropertyValue(written.literal);
     if (valueOfLiteral(property, wanted, written.comment) == now) return;
-    const bool saysNothing = !property.fallback.empty() &&
-                             valueOfLiteral(property, wanted, written.comment) ==
-                                 valueOfLiteral(property, parsePropertyValue(property.fallback), written.comment);
-    if (saysNothing && block_->wasAdded(property.name)) return state.remove(*block_, property.name);
+    const bool isDefault = !property.fallback.empty() &&
+                           valueOfLiteral(property, wanted, written.comment) ==
+                               valueOfLiteral(property, parsePropertyValue(property.fallback), written.comment);
+    if (isDefault && block_->wasAdded(property.name)) return state.remove(*block_, property.name);
     state.set(*block_, property.name, written.literal, written.comment);
 }
 
@@ -140,7 +127,7 @@ std::vector<std::string> BlockProperties::list(const std::string& name) const {
     return items;
 }
 
-/// Members of one control array share their name and differ in their index.
+/// Members of a control array share their name and have different indexes.
 void BlockProperties::checkNameIsFree(DesignerState& state, const std::string& newName) const {
     const auto indexOf = [](const FormBlock& block) { return block.literal("Index"); };
     bool taken = block_.get() != &state.root() && basic::equalNoCase(newName, state.root().name());
@@ -155,15 +142,14 @@ void BlockProperties::checkNameIsFree(DesignerState& state, const std::string& n
 void BlockProperties::rename(DesignerState& state, const std::string& newName) {
     const std::string oldName(block_->name());
     if (newName == oldName) return;
-    if (!isControlName(newName))
-        throw hostError(basic::kInvalidPropertyValue, fmt::format("'{}' is not a legal object name", newName));
+    if (!isLegalName(newName)) throwIllegalName(newName);
     checkNameIsFree(state, newName);
     if (block_.get() == &state.root() && state.hooks.renameForm) return state.hooks.renameForm(newName);
     state.checkText(newName);
     const auto index = fernwick::asLong(plainValue(state, describe(state, "Index")));
     block_->name(newName);
     state.controlsChanged();
-    state.tellChanged();
+    state.raiseChanged();
     const auto control = state.controlOf(*block_);
     if (control && state.hooks.controlRenamed) state.hooks.controlRenamed(control, oldName, index);
 }

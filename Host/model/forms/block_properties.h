@@ -1,12 +1,12 @@
 #pragma once
-// The properties of a form or control over the lines of its block.
+// The properties of a form or control, over the lines of its block.
 #include "Host/model/forms/designer_state.h"
 #include "Host/model/forms/property_source.h"
 
 namespace host {
 
-/// A property that stands in no line has the value that its class gives it. A value that is set to what it is
-/// already changes nothing; a line that was added here goes again when it would say what its absence says.
+/// A property without a line has the default of its class. Setting the present value changes nothing. Setting the
+/// default removes a line that was added before, but keeps one that was read from the file.
 class BlockProperties : public PropertySource {
 public:
     BlockProperties(std::weak_ptr<DesignerState> state, std::shared_ptr<FormBlock> block);
@@ -21,7 +21,7 @@ public:
     std::vector<std::string> list(const std::string& name) const override;
 
 protected:
-    /// The state, after a check that the block still stands in the form (error 440).
+    /// Returns the state. Error 440 if the block is no longer in the form.
     std::shared_ptr<DesignerState> live() const;
     FormBlock& block() const { return *block_; }
     virtual bool isShown(std::string_view key) const;
@@ -30,7 +30,7 @@ private:
     vbide::Variant plainValue(DesignerState& state, const ClassProperty& property) const;
     void plainValue(DesignerState& state, const ClassProperty& property, const vbide::Variant& value);
     ClassProperty describe(DesignerState& state, const std::string& name) const;
-    /// The record that a property refers to: its file, null for none, and its place there.
+    /// The resource file, or null, and the offset that a property refers to.
     std::pair<std::shared_ptr<const ResourceFile>, std::size_t> record(const std::string& name) const;
     void rename(DesignerState& state, const std::string& newName);
     void checkNameIsFree(DesignerState& state, const std::string& newName) const;

@@ -1,30 +1,24 @@
 #include "Host/model/forms/control_class.h"
 #include "Basic/case_folding.h"
+#include "Host/files/text_parts.h"
 #include "Host/model/forms/control_class_table.h"
 
 namespace host {
 namespace {
 
-std::string_view takeRowField(std::string_view& row, char separator) {
-    const auto end = row.find(separator);
-    const auto field = row.substr(0, end);
-    row.remove_prefix(end == std::string_view::npos ? row.size() : end + 1);
-    return field;
-}
-
-/// A row is "Name kind fallback words", the words with "|" between them.
+/// A row is "Name kind fallback words", with "|" between the words.
 ClassProperty propertyOfRow(std::string_view row) {
     ClassProperty property;
-    property.name = takeRowField(row, ' ');
-    property.kind = static_cast<PropertyKind>(takeRowField(row, ' ').front());
-    property.fallback = takeRowField(row, ' ');
-    while (!row.empty()) property.words.emplace_back(takeRowField(row, '|'));
+    property.name = takeField(row, ' ');
+    property.kind = static_cast<PropertyKind>(takeField(row, ' ').front());
+    property.fallback = takeField(row, ' ');
+    while (!row.empty()) property.words.emplace_back(takeField(row, '|'));
     return property;
 }
 
 void addClassRows(ControlClass& target, std::string_view rows) {
     while (!rows.empty())
-        if (const auto row = takeRowField(rows, '\n'); !row.empty()) target.properties.push_back(propertyOfRow(row));
+        if (const auto row = takeField(rows, '\n'); !row.empty()) target.properties.push_back(propertyOfRow(row));
 }
 
 } // namespace

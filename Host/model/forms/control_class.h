@@ -1,5 +1,5 @@
 #pragma once
-// What a class of forms or controls tells of its properties: their kinds and what an absent one is.
+// The properties of a class of forms or controls, with their kinds and defaults.
 #include <memory>
 #include <string>
 #include <string_view>
@@ -7,16 +7,16 @@
 
 namespace host {
 
-/// What a property's literal means, and how a value is written.
+/// The meaning of a property's literal and the form in which values are written.
 enum class PropertyKind : char {
-    Unknown = '?', ///< as the literal itself says
+    Unknown = '?', ///< determined by the literal
     Boolean = 'B',
     Integer = 'I',
-    Enumeration = 'E', ///< an integer with a word behind it
+    Enumeration = 'E', ///< an integer followed by a word as comment
     Single = 'S',
     Colour = 'C',
     Text = 'T',
-    LongText = 'L', ///< a text that a resource file holds with a length of one byte
+    LongText = 'L', ///< a text that resource files store with a length of one byte
     Font = 'F',
     Picture = 'P',
 };
@@ -30,26 +30,26 @@ struct PropertyChoice {
 struct ClassProperty {
     std::string name;
     PropertyKind kind = PropertyKind::Unknown;
-    std::string fallback;           ///< the literal that an absent property stands for
+    std::string fallback;           ///< the literal of the default
     std::vector<std::string> words; ///< Enumeration: the words of 0, 1, 2, ...
-    /// The names of an integer's values where a type library describes them; they never stand in a form.
+    /// The names of an integer's values in its type library. They are not written to forms.
     std::vector<PropertyChoice> named = {};
-    bool isColour = false; ///< an integer that a type library calls a colour
+    bool isColour = false; ///< an integer that is a colour according to its type library
 
-    /// The values that there are to choose from, for one that is no enumeration none.
+    /// The values to choose from; none for a property that is not an enumeration.
     std::vector<PropertyChoice> choices() const;
     bool showsColour() const { return isColour || kind == PropertyKind::Colour; }
 };
 
 struct ControlClass {
     std::vector<ClassProperty> properties;
-    /// Null for a name that the class does not have; letter case is ignored.
+    /// Looks up a property, ignoring case. Null if the class does not have it.
     const ClassProperty* find(std::string_view name) const;
-    /// The word that the designer writes behind a value; "" for none.
+    /// The word that the designer writes after a value; "" for none.
     static std::string_view word(const ClassProperty& property, long value);
 };
 
-/// The language's own classes ("VB.Form", "VB.TextBox"). For any other class what every control has.
+/// Returns a built-in class ("VB.Form", "VB.TextBox"); for any other class the properties that all controls have.
 std::shared_ptr<const ControlClass> builtInClass(std::string_view className);
 
 } // namespace host

@@ -1,5 +1,5 @@
 #pragma once
-// The properties of the language's own classes, with the values that absent ones have.
+// The properties of the built-in classes, with their defaults.
 #include <array>
 #include <string_view>
 
@@ -309,7 +309,7 @@ struct ClassRowsEntry {
     ClassRows rows;
 };
 
-/// What the host gives every control, whatever its class.
+/// Properties that the host provides for every control.
 inline constexpr ClassRows kOtherClassRows{kPlaceRows, kControlRows, kVisibleRows, kTabRows};
 
 inline constexpr ClassRowsEntry kClassRows[] = {

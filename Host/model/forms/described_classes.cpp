@@ -6,7 +6,7 @@
 namespace host {
 namespace {
 
-/// The kind that a control's own property bag writes: colours and enumerations are plain numbers there.
+/// The kind that a control's property bag writes: colours and enumerations are written as plain numbers.
 PropertyKind kindOfType(const std::string& type) {
     if (type == "Boolean") return PropertyKind::Boolean;
     if (type == "String") return PropertyKind::Text;
@@ -35,7 +35,7 @@ ClassProperty describedProperty(const TypeDescription& library, const TypeMember
     return property;
 }
 
-/// What a form can hold of a class. The index belongs to the form, not to the control, and -1 means none.
+/// The properties of a class that forms can contain. Index is a property of the form, not the control; -1 means none.
 std::shared_ptr<const ControlClass> describedClass(const TypeDescription& library, const TypeClass& described) {
     auto made = std::make_shared<ControlClass>();
     made->properties.push_back({"Index", PropertyKind::Integer, "-1", {}});

@@ -1,5 +1,5 @@
 #pragma once
-// Control classes whose properties stand in the description of their type library.
+// Control classes from the descriptions of type libraries.
 #include "Host/model/forms/control_class.h"
 #include "Host/system/type_description.h"
 #include <string>
@@ -7,18 +7,18 @@
 
 namespace host {
 
-/// Looks up controls by the class that stands in a form ("TavletsCtl.QLLabel": the library's name, "Ctl." and the
-/// class) and by ProgID ("Tavlets.QLLabel"), both without regard to case.
+/// Looks up controls by their class in forms ("TavletsCtl.QLLabel": the library's name, "Ctl." and the class) and by
+/// ProgID ("Tavlets.QLLabel"), ignoring case.
 class DescribedClasses {
 public:
-    /// Adds the controls of a library. Those added first stay.
+    /// Adds the controls of a library. Classes added before take precedence.
     void add(const TypeDescription& library);
 
-    /// Null for a class that no library describes.
+    /// Returns null for an unknown class.
     std::shared_ptr<const ControlClass> find(const std::string& className) const;
-    /// The class that a form's text uses for a ProgID; the ProgID itself where no library describes it.
+    /// Returns the class in forms for a ProgID; the ProgID itself if it is unknown.
     std::string classOfProgId(const std::string& progId) const;
-    /// All classes as a form's text names them, in the alphabet's order.
+    /// Returns all classes as written in forms, in alphabetical order.
     std::vector<std::string> classNames() const;
 
 private:

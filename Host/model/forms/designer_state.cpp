@@ -6,8 +6,8 @@
 
 namespace host {
 
-DesignerState::DesignerState(std::shared_ptr<FormFile> form, basic::CodePage page, DesignerHooks toldTo)
-    : file(std::move(form)), codePage(std::move(page)), hooks(std::move(toldTo)) {}
+DesignerState::DesignerState(std::shared_ptr<FormFile> form, basic::CodePage page, DesignerHooks given)
+    : file(std::move(form)), codePage(std::move(page)), hooks(std::move(given)) {}
 
 const ControlClass& DesignerState::classOf(const FormBlock& block) {
     const std::string name(block.type());
@@ -25,14 +25,14 @@ void DesignerState::checkText(std::string_view text) const {
 
 void DesignerState::set(FormBlock& block, std::string_view key, const std::string& literal, std::string_view comment) {
     checkText(literal);
-    if (block.set(key, literal, comment)) tellChanged();
+    if (block.set(key, literal, comment)) raiseChanged();
 }
 
 void DesignerState::remove(FormBlock& block, std::string_view key) {
-    if (block.remove(key)) tellChanged();
+    if (block.remove(key)) raiseChanged();
 }
 
-void DesignerState::tellChanged() const {
+void DesignerState::raiseChanged() const {
     if (hooks.changed) hooks.changed();
 }
 
@@ -63,7 +63,7 @@ void DesignerState::listControls() {
     listed_ = true;
 }
 
-/// A control keeps its object as long as its block stands in the form.
+/// A control keeps its object as long as its block is in the form.
 void DesignerState::listControls(const FormBlock& container, const ControlsByBlock& before) {
     for (const auto& block : container.objects()) {
         const auto known = before.find(block.get());
@@ -78,6 +78,12 @@ void DesignerState::listControls(const FormBlock& container, const ControlsByBlo
 std::shared_ptr<DesignerState> liveDesigner(const std::weak_ptr<DesignerState>& state) {
     auto live = state.lock();
     if (!live) throw hostError(basic::kAutomationError, "The form has been removed.");
+    return live;
+}
+
+std::shared_ptr<DesignerState> liveDesigner(const std::weak_ptr<DesignerState>& state, const FormBlock& block) {
+    auto live = liveDesigner(state);
+    if (!live->holds(block)) throw hostError(basic::kAutomationError, "The control has been removed.");
     return live;
 }
 

@@ -1,5 +1,5 @@
 #pragma once
-// What the objects of one form designer share.
+// The state that the objects of a form designer share.
 #include "Add-in/platform/host_project.h"
 #include "Basic/code_page.h"
 #include "Host/files/form_file.h"
@@ -13,38 +13,38 @@
 
 namespace host {
 
-/// What the designer needs of its component and tells it. Any of them may be empty.
+/// The connection of a designer to its component. All functions are optional.
 struct DesignerHooks {
     /// The form's text changed.
     std::function<void()> changed;
     std::function<void(const basic::Ref<vbide::VBControl>&)> controlAdded, controlRemoved;
-    /// After a renaming, with the old name and index (-1 for none).
+    /// Called after a control was renamed, with its old name and index (-1 for none).
     std::function<void(const basic::Ref<vbide::VBControl>&, const std::string&, int)> controlRenamed;
-    /// Renames the form, whose name stands in more places than its block. Without it the block alone is renamed.
+    /// Renames the form with all uses of its name. Without it only the block is renamed.
     std::function<void(const std::string& newName)> renameForm;
-    /// The resource file of a name that stands in the form; null when it is not there.
+    /// The resource file that the form refers to by this name; null if it does not exist.
     std::function<std::shared_ptr<const ResourceFile>(const std::string& fileName)> resources;
-    /// The properties of a class that is not the language's own; null when nothing is known of it.
+    /// The properties of a class that is not built in; null if it is unknown.
     std::function<std::shared_ptr<const ControlClass>(const std::string& className)> classes;
-    /// The class that a form's text uses for a ProgID ("Tavlets.QLLabel" is TavletsCtl.QLLabel).
+    /// The class as written in forms for a ProgID (TavletsCtl.QLLabel for "Tavlets.QLLabel").
     std::function<std::string(const std::string& progId)> classOfProgId;
-    /// The Object line that a form needs for a control of this class; nothing where it needs none.
+    /// The Object line that a form needs for a control of this class, if any.
     std::function<std::optional<ObjectLine>(const std::string& className)> objectLine;
 };
 
-/// A line whose number depends on the form's scale, before and after a change of it.
+/// A line with a number that depends on the form's scale, before and after a change of the scale.
 struct ScaledLine {
     std::shared_ptr<FormBlock> block;
     std::string key, before, after;
 };
 struct ScaleChange {
     int from = -1, to = -1; ///< scale modes
-    std::string word;       ///< what stood behind the mode before
+    std::string word;       ///< the comment of the mode before the change
     std::vector<ScaledLine> lines;
 };
 
-/// Owned by the designer alone. The objects that it hands out know it weakly, so that they stay valid objects
-/// whose members raise errors when the form is gone.
+/// Owned by the designer. The objects that it returns have weak references, so they remain valid after the form is
+/// removed and raise errors.
 class DesignerState : public std::enable_shared_from_this<DesignerState> {
 public:
     DesignerState(std::shared_ptr<FormFile> file, basic::CodePage codePage, DesignerHooks hooks);
@@ -57,21 +57,21 @@ public:
     FormBlock& root() { return *file->root(); }
     const ControlClass& classOf(const FormBlock& block);
 
-    /// Edits one property. Error 5 and no change for text that the code page lacks. Tells `changed` when the
-    /// text changed.
+    /// Edits one property and calls `changed` if the text changed. Error 5, without a change, if the code page lacks a
+    /// character.
     void set(FormBlock& block, std::string_view key, const std::string& literal, std::string_view comment = {});
     void remove(FormBlock& block, std::string_view key);
     void checkText(std::string_view text) const;
-    void tellChanged() const;
+    void raiseChanged() const;
 
-    /// All controls in the order of the text, nested ones behind their container.
+    /// All controls in the order of the text; nested ones follow their container.
     const std::vector<basic::Ref<vbide::VBControl>>& controls();
-    /// Nothing for a block that is no control of this form any more.
+    /// Nothing if the block is no longer a control of this form.
     basic::Ref<vbide::VBControl> controlOf(const FormBlock& block);
     bool holds(const FormBlock& block);
-    /// To be called when control blocks come, go or change their names.
+    /// Must be called after control blocks were added, removed or renamed.
     void controlsChanged() { listed_ = false; }
-    /// The first control of a name, letter case ignored; Nothing when there is none.
+    /// The first control with this name, ignoring case, or Nothing.
     basic::Ref<vbide::VBControl> controlNamed(const std::string& name);
 
 private:
@@ -86,7 +86,9 @@ private:
     std::unordered_map<std::string, basic::Ref<vbide::VBControl>> byName_;
 };
 
-/// The state behind an object of a form. Error 440 when the form is gone.
+/// Returns the state. Error 440 if the form has been removed.
 std::shared_ptr<DesignerState> liveDesigner(const std::weak_ptr<DesignerState>& state);
+/// Also error 440 if the block has been removed from the form.
+std::shared_ptr<DesignerState> liveDesigner(const std::weak_ptr<DesignerState>& state, const FormBlock& block);
 
 } // namespace host

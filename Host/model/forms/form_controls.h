@@ -1,5 +1,5 @@
 #pragma once
-// The controls of a form.
+// The objects of a form and its controls.
 #include "Host/model/forms/designer_state.h"
 
 namespace host {
@@ -10,7 +10,7 @@ public:
 
     /// The class without its library: "TextBox".
     std::string ClassName() const override;
-    /// As the form's text names it: "VB.TextBox".
+    /// The class as written in the form: "VB.TextBox".
     std::string ProgId() const override;
     basic::Ref<vbide::Properties> Properties() const override;
     std::vector<basic::Ref<vbide::VBControl>> ContainedVBControls() const override;
@@ -29,32 +29,17 @@ public:
 
     int Count() const override;
     basic::Ref<vbide::VBControl> Item(int index) const override;
-    /// Of a control array the member that stands first in the text.
+    /// Returns the first control of this name in the text, for a control array its first member.
     basic::Ref<vbide::VBControl> Item(const std::string& name) const override;
     std::vector<basic::Ref<vbide::VBControl>> items() const override;
-    /// Puts a control on the form, in front of the others. Its name is its class with the lowest number that is free.
+    /// Adds a control in front of the others. Its name is that of its class with the lowest free number.
     basic::Ref<vbide::VBControl> Add(const std::string& progId) override;
-    /// Takes a control and those inside it off the form. Error 5 for one that is not on this form.
+    /// Removes a control with its contained controls. Error 5 if it is not on this form.
     void Remove(const basic::Ref<vbide::VBControl>& control) override;
 
 private:
     std::weak_ptr<DesignerState> state_;
 };
-
-/// A control that was taken off its form, and where it stood.
-struct RemovedControl {
-    std::shared_ptr<FormBlock> container, block;
-    std::size_t place = 0;
-};
-
-// ---- for front ends -----------------------------------------------------------------------------------------------------
-/// As VBControls.Add, within a control that is a container; Nothing for the form itself.
-basic::Ref<vbide::VBControl> addControl(const basic::Ref<vbide::VBForm>& form,
-                                        const basic::Ref<vbide::VBControl>& container, const std::string& progId);
-/// As VBControls.Remove.
-RemovedControl removeControl(const basic::Ref<vbide::VBForm>& form, const basic::Ref<vbide::VBControl>& control);
-/// Puts a control back where it stood, as one that was added. Error 440 when its container is gone.
-void restoreControl(const basic::Ref<vbide::VBForm>& form, const RemovedControl& removed);
 
 class FormModel : public vbide::VBForm {
 public:
@@ -63,7 +48,7 @@ public:
     basic::Ref<vbide::VBControls> VBControls() const override;
     std::vector<basic::Ref<vbide::VBControl>> ContainedVBControls() const override;
 
-    /// Error 440 when the form is gone.
+    /// Error 440 if the form has been removed.
     std::shared_ptr<DesignerState> state() const { return liveDesigner(state_); }
 
 private:

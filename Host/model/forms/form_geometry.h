@@ -1,41 +1,36 @@
 #pragma once
-// Place, size and scale of a form, over the lines that say them.
+// Position, size and scale of a form, over its lines.
 #include "Host/model/forms/designer_state.h"
+#include "Host/model/forms/scale_modes.h"
 #include <string>
 #include <vector>
 
 namespace host {
 
-/// The units of a scale, in twips for one unit; 1 where the mode has none of its own.
-struct TwipsPerUnit {
-    double x = 1, y = 1;
-};
-TwipsPerUnit twipsPerUnit(int scaleMode);
-
-/// The inner rectangle of a form and the frame round it, in twips.
+/// The size of the client area of a form and of the frame around it, in twips.
 struct FormExtent {
     double width = 0, height = 0;
-    double left = 0, top = 0, right = 0, bottom = 0; ///< widths of the frame
+    double left = 0, top = 0, right = 0, bottom = 0; ///< of the frame
 };
 
-/// The file holds the inner rectangle (ClientLeft, ClientTop, ClientWidth, ClientHeight, in twips) and its size in
-/// the form's own units (ScaleWidth, ScaleHeight). Left, Top, Width and Height are those of the outer rectangle: a
-/// frame wider, whose size comes from BorderStyle. A pixel has 15 twips.
+/// The file has the client area (ClientLeft, ClientTop, ClientWidth, ClientHeight, in twips) and its size in the form's
+/// units (ScaleWidth, ScaleHeight). Left, Top, Width and Height include the frame, whose size depends on BorderStyle. A
+/// pixel has 15 twips.
 class FormGeometry {
 public:
     explicit FormGeometry(DesignerState& state) : state_(state), root_(state.root()) {}
 
-    /// True for the names that this class answers for.
+    /// True for the properties that this class implements.
     static bool owns(std::string_view name);
-    /// True for the lines behind those names, which are no properties themselves.
+    /// True for lines that are not properties themselves.
     static bool isClientLine(std::string_view key);
 
     double value(std::string_view name) const;
-    /// Errors 6 and 380 for sizes that no form has. A change of the inner size changes ScaleWidth and ScaleHeight; a
-    /// change of the scale changes them and the places and sizes of the controls that lie directly on the form.
+    /// Errors 6 and 380 for invalid sizes. Changing the client size changes ScaleWidth and ScaleHeight. Changing the
+    /// scale also changes the positions and sizes of the controls directly on the form.
     void value(std::string_view name, double value);
 
-    /// The scale of the form's own units.
+    /// The size of the form's units.
     TwipsPerUnit scale() const;
     FormExtent extent() const;
 

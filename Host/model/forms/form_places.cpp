@@ -8,13 +8,12 @@ namespace {
 
 constexpr std::string_view kOwnLibrary = "VB.";
 constexpr std::string_view kOwnScale = "VB.PictureBox";
-constexpr int kUserScaleMode = 0;
 
 double numberOfProperty(const vbide::VBControl& control, const char* name) {
     return fernwick::asDouble(control.Properties()->Item(name)->Value());
 }
 
-/// So many twips for one of the units that a picture box of this size counts across or down.
+/// The size of a user-defined unit in twips.
 double userUnit(double size, double units) { return size > 0 && units > 0 ? size / units : 1; }
 
 } // namespace
@@ -35,7 +34,7 @@ TwipsPerUnit unitsIn(const basic::Ref<vbide::VBControl>& container, const TwipsP
     if (!basic::equalNoCase(className, kOwnScale)) return {};
     const auto& control = *container;
     const auto mode = int(numberOfProperty(control, "ScaleMode"));
-    if (mode != kUserScaleMode) return twipsPerUnit(mode);
+    if (mode != kUserScale) return twipsPerUnit(mode);
     return {userUnit(numberOfProperty(control, "Width") * around.x, numberOfProperty(control, "ScaleWidth")),
             userUnit(numberOfProperty(control, "Height") * around.y, numberOfProperty(control, "ScaleHeight"))};
 }

@@ -1,18 +1,18 @@
 #pragma once
-// Where a form and the controls on it stand, in twips, whatever units the form's text uses.
+// The positions of a form and its controls in twips, independent of the units in its text.
 #include "Add-in/platform/host_project.h"
 #include "Host/model/forms/form_geometry.h"
 
 namespace host {
 
-/// Error 440 for a form that is gone; all zero for a form of another host.
+/// Error 440 for a removed form; all zero for a form of another host.
 FormExtent extentOf(const basic::Ref<vbide::VBForm>& form);
 
-/// The units in which the controls directly on a form are placed.
+/// The units of the controls directly on a form.
 TwipsPerUnit unitsOn(const basic::Ref<vbide::VBForm>& form);
 
-/// The units in which the controls directly inside a control are placed: a picture box has a scale of its own, other
-/// containers of the language place in twips, and what lies in a device control has the units `around` it.
+/// The units of the controls directly inside a control. A picture box has its own scale, other built-in containers use
+/// twips, and device controls use the units `around` them.
 TwipsPerUnit unitsIn(const basic::Ref<vbide::VBControl>& container, const TwipsPerUnit& around);
 
 } // namespace host

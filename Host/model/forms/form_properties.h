@@ -4,7 +4,7 @@
 
 namespace host {
 
-/// As those of any block, but place, size and scale follow FormGeometry.
+/// As for any block, but position, size and scale are those of FormGeometry.
 class FormProperties : public BlockProperties {
 public:
     using BlockProperties::BlockProperties;

@@ -44,7 +44,7 @@ private:
     std::shared_ptr<PropertySource> source_;
 };
 
-/// What `ask` of the source says of a property of this host's; of any other one nothing.
+/// Calls `ask` for a property of this host; returns an empty answer for any other property.
 template <class Answer>
 Answer askSource(const basic::Ref<vbide::Property>& property, Answer (PropertySource::*ask)(const std::string&) const) {
     const auto model = basic::cast<PropertyModel>(property);

@@ -37,7 +37,7 @@ WrittenValue writtenText(const std::string& text) {
     return {stringLiteral(text), {}};
 }
 
-/// A shortcut or GUID stands without quotes, so it must be one.
+/// A shortcut or GUID has no quotes, so the text must be one.
 WrittenValue writtenBare(const std::string& text, Literal kind) {
     if (parsePropertyValue(text).kind != kind) throw hostError(basic::kInvalidPropertyValue);
     return {text, {}};

@@ -1,5 +1,5 @@
 #pragma once
-// A property's value as the add-in sees it, from the literal of its line and back.
+// Conversion between the literals of properties and the values that add-ins see.
 #include "Add-in/platform/variant.h"
 #include "Host/files/property_value.h"
 #include "Host/model/forms/control_class.h"
@@ -7,17 +7,17 @@
 
 namespace host {
 
-/// The value of a literal for a property of this kind; `comment` is the word behind it, which alone tells a
-/// Boolean from a number where the kind is unknown. A resource reads as the text of its reference.
+/// Returns the value of a literal. `comment` is the word after it, which distinguishes Booleans from numbers if the
+/// kind is unknown. The value of a resource is the text of its reference.
 fernwick::Variant valueOfLiteral(const ClassProperty& property, const PropertyValue& literal, std::string_view comment);
 
 struct WrittenValue {
     std::string literal, comment;
 };
 
-/// The literal of a value. `before` is the literal that stands there, which decides where the kind is unknown.
-/// Error 13 for a value of another type, 6 beyond the kind's range, 380 for a text with a control character: such
-/// a text can't stand in a line.
+/// Returns the literal of a value. `before` is the present literal, which determines the form if the kind is unknown.
+/// Error 13 for a value of the wrong type, 6 for an overflow, 380 for a text with a control character, which lines
+/// cannot hold.
 WrittenValue literalOfValue(const ClassProperty& property, const fernwick::Variant& value, const PropertyValue& before);
 
 } // namespace host

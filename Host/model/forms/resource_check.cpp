@@ -6,8 +6,8 @@
 namespace host {
 namespace {
 
-/// What is wrong with the record of a property, "" for nothing. Of records whose layout is the control's own matter only
-/// the beginning is checked.
+/// The problem with the record of a property, "" for none. Records with a layout specific to the control are only
+/// checked for their position.
 std::string recordWarning(const ResourceFile& file, const ClassProperty* property, std::string_view key,
                           const ResourceReference& reference) {
     const auto offset = reference.offset;

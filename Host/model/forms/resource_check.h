@@ -1,11 +1,11 @@
 #pragma once
-// Whether the resource references of a form find what they name.
+// Checks the resource references of a form.
 #include "Host/model/forms/designer_state.h"
 
 namespace host {
 
-/// A warning for each reference to a missing file, beyond its end, or to bytes that are no record of the property's
-/// kind. Copied and renamed forms have them, so they never keep a form from being used.
+/// Returns a warning for each reference to a missing file, beyond its end, or to a record of the wrong kind. Copied and
+/// renamed forms have such references, so they are not errors.
 std::vector<FormProblem> checkResources(DesignerState& state);
 
 } // namespace host

@@ -1,4 +1,4 @@
-say forms that were laid out at another screen resolution
+say forms from another screen resolution
 sample HelloWorld
 cd HelloWorld
 sed -i 's/^TwipsPerPixel\(.\)=15/TwipsPerPixel\1=12/' HelloWorld.vbp
@@ -9,7 +9,7 @@ cd ../other
 run fernwick build --answer convert-dpi=yes
 stored HelloWorld.vbp TwipsPerPixelX
 diff --text "$SAMPLES/HelloWorld/frmHello.frm" frmHello.frm | head -20 | tr -d '\r'
-say every question alike
+say all questions at once
 cd ..
 sample TipCalculator
 sed -i 's/^TwipsPerPixel\(.\)=15/TwipsPerPixel\1=12/' TipCalculator/TipCalculator.vbp

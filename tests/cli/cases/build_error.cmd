@@ -6,7 +6,7 @@ run fernwick build
 run ls
 stored HelloWorld.vbp NumErrors
 stored HelloWorld.vbp Error1
-say a new process shows the same
+say a new process prints the same
 run fernwick messages
 run fernwick messages --format json
 sed -i '/x = = 1/d' frmHello.frm

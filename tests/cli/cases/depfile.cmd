@@ -7,7 +7,7 @@ all: AddressBook.0000.qlx
 AddressBook.0000.qlx: AddressBook.vbp
 	fernwick build --quiet --depfile book.d
 M
-say make finds nothing to do
+say make has nothing to do
 run make --no-print-directory
 cd .. && cp -r "$SAMPLES/AddressBook" plain && cd plain
 cat >Makefile <<'M'
@@ -22,6 +22,6 @@ say one source is newer
 touch modAddressBook.bas
 run make --no-print-directory
 run make --no-print-directory
-say a source that is gone: fernwick says so, not make
+say a deleted source is reported by fernwick, not by make
 rm modAddressBook.bas
 run make --no-print-directory

@@ -1,4 +1,4 @@
-say "Sending compiles a project that was never compiled, and says what is where on the device."
+say "Sending compiles a project that was not compiled before, and lists the installed files."
 sample AddressBook
 cd AddressBook
 run fernwick deploy AddressBook.vbp
@@ -10,6 +10,6 @@ run fernwick deploy AddressBook.vbp
 run fernwick install-runtime --device PalmOS-DragonBall
 run fernwick deploy AddressBook.vbp --quiet
 
-say "An error in the code: nothing is sent."
+say "With an error in the code nothing is sent."
 printf 'Sub Broken()\r\n  x = = 1\r\nEnd Sub\r\n' >>modAddressBook.bas
 run fernwick deploy AddressBook.vbp

@@ -1,4 +1,4 @@
-say "A dependency that has gone: its questions, refused without an answer."
+say "The questions about a missing dependency are answered with no."
 sample HelloWorld
 cd HelloWorld
 run fernwick install-runtime --device PalmOS-DragonBall --quiet
@@ -7,10 +7,10 @@ run fernwick dependencies HelloWorld.vbp add prices.txt
 run fernwick deploy HelloWorld.vbp --quiet
 rm prices.txt
 run fernwick deploy HelloWorld.vbp
-say "Going on leaves it out."
+say "With yes it is left out."
 run fernwick deploy HelloWorld.vbp --answer missing-file=yes
 
-say "An old image is sent only when the user wants to be asked, and insists."
+say "An outdated image is sent only on request."
 fernwick registry set 'HKEY_CURRENT_USER\SOFTWARE\Quinloft\Embedded Toolkit\AddIn' CompileWarning dword:00000001
 touch -d '1 minute ago' HelloWorld.0000.qlx
 run fernwick deploy HelloWorld.vbp --answer not-current=no --answer missing-file=yes

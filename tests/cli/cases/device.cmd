@@ -13,6 +13,6 @@ run fernwick build
 say a device that is not installed
 sed -i 's/^TargetDevice=.*/TargetDevice=Toaster\r/' HelloWorld.vbp
 run fernwick build
-say the other device is not taken silently
+say no other device is chosen instead
 sed -i 's/^TargetDevice=.*/TargetDevice=PalmOS-DragonBall\r/' HelloWorld.vbp
 run fernwick build --device PocketPC-SH3

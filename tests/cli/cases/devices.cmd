@@ -1,6 +1,6 @@
 run fernwick devices
 run fernwick devices --verbose
-say the list, in any letter case, each once
+say keys in any letter case, each added once
 run fernwick devices add palmos-dragonball PocketPC-ARM
 run fernwick devices add PalmOS-DragonBall
 run fernwick devices list
@@ -8,11 +8,11 @@ run fernwick registry get 'HKEY_CURRENT_USER\SOFTWARE\Quinloft\AddinPrefs\MyDevi
 run fernwick devices remove POCKETPC-ARM PocketPC-SH3
 run fernwick devices remove PocketPC-ARM
 run fernwick devices
-say why one of them can not be reached is told
+say why a device cannot be reached
 run fernwick devices add LinuxHandheld-ARM
 run fernwick devices
 run fernwick devices remove LinuxHandheld-ARM
-say keys that nobody knows change nothing
+say unknown keys change nothing
 run fernwick devices add PocketPC-ARM Psion-5
 run fernwick devices remove Psion-5
 run fernwick devices add
@@ -20,7 +20,7 @@ run fernwick devices remove
 run fernwick devices sell PalmOS-DragonBall
 run fernwick devices add Psion-5 --format json
 run fernwick devices
-say one that is not installed any more can leave the list
+say a device that is no longer installed can be removed
 run fernwick registry set 'HKEY_CURRENT_USER\SOFTWARE\Quinloft\AddinPrefs\MyDevices' MyDevice0 Psion-5
 run fernwick devices
 run fernwick devices remove Psion-5
@@ -37,7 +37,7 @@ run fernwick devices set LinuxHandheld-ARM
 run fernwick devices set PalmOS-DragonBall Host=here
 run fernwick devices set Psion-5 Host=here
 run fernwick registry get 'HKEY_CURRENT_USER\Software\Quinloft\Devices\LinuxHandheld-ARM'
-say a store that can not be written
+say a store that cannot be written
 mkdir -p "$XDG_CONFIG_HOME/fernwick"
 rm -f "$XDG_CONFIG_HOME"/fernwick/*
 echo 'no store' >"$XDG_CONFIG_HOME/fernwick/user.sqlite"

@@ -9,12 +9,12 @@ doctor() { runline "elsewhere/bin/fernwick doctor $* | sed -E 's/[0-9.]+ [KMGT]B
 doctor
 doctor --quiet
 run elsewhere/bin/fernwick devices add PalmOS-DragonBall
-say fonts: one that serves, one that is none, one that is damaged
+say a valid font, a file that is not a font, and a damaged font
 printf '\3\14\0\0\0%19s%s' '' QLPalm >$installed/Fonts/QLP_12R.CMF
 printf 'x' >$installed/Fonts/Bad_08R.CMF
 doctor --quiet
 rm $installed/Fonts/Bad_08R.CMF
-say pieces that are missing or broken
+say missing and damaged parts
 rm "$installed/VB Toolkit/Bin/QLDEFAULT.ico" $installed/Template/Projects/*.vbp
 printf 'name = \n' >$installed/maker.toml
 printf '[HKEY_LOCAL_MACHINE\n' >>$installed/registry/libraries.reg
@@ -22,7 +22,7 @@ printf 'key = \n' >$installed/targets/bad.toml
 sed -i 's/^pipe *=.*/pipe = "QLPipeNobodyHas"/' $installed/targets/PalmOS-DragonBall.toml
 doctor --quiet
 run fernwick doctor --format sarif
-say none at all
+say no installation
 rm -r $installed
 doctor
 runline 'elsewhere/bin/fernwick doctor >all; echo status $?'

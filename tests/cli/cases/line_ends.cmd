@@ -7,7 +7,7 @@ Attribute Main.VB_Description = "Starts"
 End Sub
 M
 cd Lines
-say an attribute inside the code is a line of the file and none of the code window
+say an attribute inside the code is a line of the file, but not of the code window
 run fernwick build
 run fernwick messages
 stored Lines.vbp Error1

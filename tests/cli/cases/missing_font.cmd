@@ -1,4 +1,4 @@
-say "A font that no converted file has: one warning a build, however many controls want it; the build is good."
+say "A missing font gives one warning per build, however many controls use it, and the build succeeds."
 sample HelloWorld
 cd HelloWorld
 sed -i 's/^      Caption  .*/&\n      FontName        =   "Wingless"\r/' frmHello.frm

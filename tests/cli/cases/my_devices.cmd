@@ -1,4 +1,4 @@
-say "My Devices are served one after the other; a failing one stops none of the rest."
+say "My Devices are served one after the other, also after a failure."
 sample HelloWorld
 cd HelloWorld
 run fernwick deploy HelloWorld.vbp --my-devices

@@ -9,7 +9,7 @@ say an installation without targets
 mkdir -p elsewhere/share/fernwick/targets elsewhere/share/fernwick/registry
 run elsewhere/bin/fernwick build HelloWorld/HelloWorld.vbp
 run elsewhere/bin/fernwick targets
-say one with a faulty target
+say an installation with a faulty target
 printf 'key = \n' >elsewhere/share/fernwick/targets/bad.toml
 run elsewhere/bin/fernwick targets
 same HelloWorld/HelloWorld.vbp before

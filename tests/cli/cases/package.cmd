@@ -1,4 +1,4 @@
-say "Packing compiles where it must, and gives the same bytes for the same project."
+say "Packing compiles if needed, and gives the same bytes for the same project."
 sample AddressBook
 cd AddressBook
 run fernwick package AddressBook.vbp
@@ -9,7 +9,7 @@ run fernwick package --list AddressBook.PalmOS-DragonBall.qlpkg
 run fernwick package --verify AddressBook.PalmOS-DragonBall.qlpkg
 unzip -tq AddressBook.PalmOS-DragonBall.qlpkg
 
-say "A package that was cut short, changed, or is none."
+say "A truncated package, a changed one, and a file that is not a package."
 head -c 1000 AddressBook.PalmOS-DragonBall.qlpkg >short.qlpkg
 run fernwick package --verify short.qlpkg
 cp AddressBook.PalmOS-DragonBall.qlpkg changed.qlpkg

@@ -1,4 +1,4 @@
-say a form that a conversion has changed and that can not be saved
+say a converted form that cannot be saved
 sample HelloWorld
 cd HelloWorld
 sed -i 's/^TwipsPerPixel\(.\)=15/TwipsPerPixel\1=12/' HelloWorld.vbp

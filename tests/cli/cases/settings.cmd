@@ -27,7 +27,7 @@ run fernwick settings reset --dry-run
 run fernwick settings reset
 run fernwick settings list
 
-say "What a project says for itself of its handheld."
+say "A project overrides the settings of its handheld."
 run fernwick settings set HelloWorld.vbp HandheldHost handheld.local
 run fernwick settings set HelloWorld.vbp HandheldPort ssh
 run fernwick settings set HelloWorld.vbp HandheldPort 2222

@@ -6,12 +6,12 @@ cd Stepped
 fernwick settings set PreCompileSteps 'touch one' 'false' 'sh -c "echo two; touch three"'
 fernwick settings set PostCompileSteps 'touch after'
 run fernwick settings get PreCompileSteps
-say all three run, and no build
+say all three run, but nothing is compiled
 run fernwick build --trust-steps
 run ls
 stored Stepped.vbp NumErrors
 rm -f one three
-say continue all the same
+say continue after a failed step
 run fernwick build --trust-steps --answer failed-step=yes
 run ls
 rm -f one three after Stepped.0000.qlx

@@ -4,13 +4,13 @@ End Sub
 M
 cd Trusted
 fernwick settings set PreCompileSteps 'touch ran'
-say nobody said that this folder is trusted
+say the folder is not trusted
 run fernwick build
 run ls
 run fernwick build --no-steps
 run fernwick build --trust-steps
 run ls
-say once is not for ever
+say --trust-steps does not trust the folder permanently
 rm ran
 run fernwick build
 run ls

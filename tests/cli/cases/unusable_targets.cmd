@@ -1,4 +1,4 @@
-say targets that their own validation refuses: nobody is asked, the project stays as it is
+say targets rejected by their own validation: no question is asked, and the project is unchanged
 sample HelloWorld
 sed -i '/^TargetDevice/d;/^numCompileTargets/d;/^CompileTarget1/d' HelloWorld/HelloWorld.vbp
 cp HelloWorld/HelloWorld.vbp before

@@ -1,4 +1,4 @@
-say "Reserved names, properties and events that the device doesn't know come with --forms alone, at their lines."
+say "Reserved names, and properties and events that the device does not support, are reported with --forms, at their lines."
 sample HelloWorld
 cd HelloWorld
 sed -i 's/^Attribute VB_Name = .*/Attribute VB_Name = "Option"\r/; s/^Begin VB.Form frmHello/Begin VB.Form Option/; s/ScaleMode *= *3.*/ScaleMode       =   1\r/' frmHello.frm

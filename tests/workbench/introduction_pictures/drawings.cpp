@@ -43,7 +43,7 @@ struct Tavlet {
     const char* sign;
 };
 
-/// A tile with a sign for the control, and the small "i" of a device control in its corner.
+/// A tile with a symbol for the control, and the small "i" of a device control in its corner.
 void drawTavlet(Slide& slide, const QRectF& tile, const Tavlet& tavlet) {
     constexpr int kSign = 26, kSignHeight = 44, kMark = 15;
     slide.panel(tile);

@@ -6,17 +6,17 @@ namespace introduction {
 
 class Stage;
 
-// Of the desktop itself
+// Pictures of the desktop
 QImage welcome(Stage& stage);
-/// With a handheld that has the form's size.
+/// Shows a handheld with the size of the form.
 QImage forms(Stage& stage);
 QImage menu(Stage& stage);
 QImage toolbars(Stage& stage);
 QImage finished(Stage& stage);
-/// The choice that File > New Project gives.
+/// The dialog of File > New Project.
 QImage projectTemplate();
 
-// Of what the desktop doesn't draw
+// Pictures of other programs
 QImage tavlets();
 QImage startMenu();
 QImage website();

@@ -9,7 +9,7 @@ namespace introduction {
 
 namespace {
 
-/// A handheld whose square screen tells its size in pixels.
+/// A handheld with its screen size in pixels on its screen.
 void drawHandheld(Slide& slide, const QRectF& place, const QString& size) {
     constexpr qreal kFrame = 14, kButton = 9, kButtons = 4;
     constexpr int kText = 15;
@@ -47,7 +47,7 @@ QImage forms(Stage& stage) {
     return slide.finished();
 }
 
-/// The window's upper left corner, with the menu dropped down.
+/// The upper left corner of the window with an open menu.
 QImage menu(Stage& stage) {
     constexpr QSize kPart(600, 400);
     constexpr qreal kScale = qreal(kWidth) / kPart.width();

@@ -16,7 +16,7 @@ Slide::Slide() : image_(kWidth * kSharpness, kHeight * kSharpness, QImage::Forma
 void Slide::put(QWidget& widget, const QRectF& place, const QRect& part) {
     const auto grabbed = widget.grab(part.isNull() ? widget.rect() : part).toImage();
     const auto pixels = (painter_.transform().mapRect(place).size() * kSharpness).toSize();
-    // scaled by itself: a painter looks at too few points of a picture that becomes smaller
+    // scaled separately, as QPainter uses too few pixels when it shrinks a picture
     auto scaled = grabbed.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     scaled.setDevicePixelRatio(1);
     painter_.drawImage(place, scaled, QRectF(scaled.rect()));

@@ -16,7 +16,7 @@ constexpr int kWindowWidth = 840, kWindowHeight = 560;
 constexpr int kPatience = 200, kTurn = 20; // milliseconds
 constexpr char kDevice[] = "PalmOS-DragonBall";
 
-/// Nobody sits here: the default button answers each question, as that of saving before a compile.
+/// Answers each question with its default button, such as that about saving before a compile.
 void answerQuestion() {
     auto* const window = qobject_cast<QDialog*>(QApplication::activeModalWidget());
     if (!window || !window->isVisible()) return;

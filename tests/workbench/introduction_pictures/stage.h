@@ -19,7 +19,7 @@ public:
     void showForm();
     /// Compiles and validates, and shows the messages.
     void compile();
-    /// A menu of the menu bar, and where it drops down.
+    /// Opens a menu of the menu bar and returns its place.
     QMenu& menu(const QString& title);
     QPoint below(QMenu& menu);
     QToolBar& toolBar(const QString& title);

@@ -1,0 +1,17 @@
+#include "Add-in/core/connect/not_in_this_build.h"
+#include "Add-in/core/connect/connect_texts.h"
+
+namespace fernwick {
+
+UnknownDeviceChoice NotInThisBuild::AskAboutUnknownDevice(const Project&) {
+    notInThisBuild();
+    return {true, {}};
+}
+
+void NotInThisBuild::notInThisBuild() {
+    if (addIn_.gConnectMode == vbide::vbext_cm_CommandLine) return;
+    user_.SetCursor(vbArrow); // commands that open a dialog wait for it with an hourglass
+    user_.MsgBox(connect_texts::kNotInThisBuild, vbInformation, connect_texts::kTitle);
+}
+
+} // namespace fernwick

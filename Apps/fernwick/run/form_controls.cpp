@@ -1,0 +1,39 @@
+#include "Apps/fernwick/run/form_controls.h"
+
+namespace cli {
+
+using fernwick::CommandButton;
+using fernwick::Form;
+
+CommandButton* button(Form& form, const char* name) {
+    for (auto* control : form.Controls())
+        if (control->Name == name) return dynamic_cast<CommandButton*>(control);
+    return nullptr;
+}
+
+CommandButton* cancelButton(Form& form) {
+    for (auto* control : form.Controls())
+        if (auto* found = dynamic_cast<CommandButton*>(control); found && found->Cancel) return found;
+    return button(form, "btnCancel");
+}
+
+CommandButton* buttonOf(Form& form, Reply reply) {
+    switch (reply) {
+    case Reply::Yes:
+        if (auto* yes = button(form, "btnYes")) return yes;
+        return button(form, "btnOK");
+    case Reply::Ok: return button(form, "btnOK");
+    case Reply::No:
+        if (auto* no = button(form, "btnNo")) return no;
+        break;
+    case Reply::Cancel: break;
+    }
+    return cancelButton(form);
+}
+
+std::string formText(Form& form) {
+    const auto* label = firstControl<fernwick::Label>(form);
+    return label ? label->Caption() : std::string();
+}
+
+} // namespace cli

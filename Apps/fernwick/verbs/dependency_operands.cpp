@@ -1,0 +1,39 @@
+#include "Apps/fernwick/verbs/dependency_operands.h"
+#include "Apps/common/file_names.h"
+#include "Apps/fernwick/options/exit_status.h"
+#include "Apps/fernwick/options/refusal.h"
+#include <fmt/format.h>
+
+namespace cli {
+
+namespace {
+
+bool isDependencyAction(const std::string& operand) {
+    return operand == "list" || operand == "add" || operand == "remove";
+}
+
+} // namespace
+
+DependencyOperands dependencyOperands(const std::vector<std::string>& operands) {
+    DependencyOperands parsed;
+    auto next = operands.begin();
+    bool hasAction = false;
+    for (; next != operands.end(); ++next) {
+        if (parsed.project.empty() && apps::hasExtension(*next, ".vbp"))
+            parsed.project = *next;
+        else if (!hasAction && isDependencyAction(*next))
+            parsed.action = *next, hasAction = true;
+        else
+            break;
+    }
+    parsed.files.assign(next, operands.end());
+    if (!hasAction && !parsed.files.empty())
+        throw Refusal(kWrongUse, fmt::format("dependencies expects list, add or remove, not {}", parsed.files.front()));
+    if (hasAction && parsed.files.empty() != (parsed.action == "list"))
+        throw Refusal(kWrongUse, parsed.action == "list"
+                                     ? "dependencies list expects no files"
+                                     : fmt::format("dependencies {}: no files given", parsed.action));
+    return parsed;
+}
+
+} // namespace cli

@@ -1,0 +1,94 @@
+#include "Apps/workbench/code/find_options.h"
+#include <QBoxLayout>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QSettings>
+#include <algorithm>
+
+namespace workbench {
+
+namespace {
+
+constexpr auto kCaseKey = "find/matchCase", kWordKey = "find/wholeWord", kPatternKey = "find/pattern",
+               kScopeKey = "find/scope";
+constexpr int kLabelWidth = 62, kFindGap = 6;
+
+struct ScopeName {
+    FindScope scope;
+    const char *caption, *name;
+};
+constexpr ScopeName kScopes[] = {
+    {FindScope::Procedure, "Current Procedure", "current procedure"},
+    {FindScope::Module, "Current Module", "current module"},
+    {FindScope::Project, "Current Project", "current project"},
+};
+
+QCheckBox* findOption(const char* name, const char* caption, const char* tip) {
+    auto* const made = new QCheckBox(caption);
+    made->setObjectName(name);
+    made->setToolTip(tip);
+    return made;
+}
+
+} // namespace
+
+QHBoxLayout* findRowOf(QWidget* widget) {
+    auto* const row = new QHBoxLayout(widget);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(kFindGap);
+    return row;
+}
+
+QLabel* findLabel(const char* caption, QWidget* buddy) {
+    auto* const label = new QLabel(caption);
+    label->setFixedWidth(kLabelWidth);
+    label->setBuddy(buddy);
+    return label;
+}
+
+FindOptionsRow::FindOptionsRow()
+    : scope_(new QComboBox),
+      matchCase_(findOption("matchCase", "Match ca&se", "Distinguish capital and small letters")),
+      wholeWord_(findOption("wholeWord", "Whole w&ord", "Do not match parts of longer words")),
+      asPattern_(
+          findOption("pattern", "Pa&ttern",
+                     "? any character, # any digit, * any characters, [a-z] one of these, [!a-z] none of these")) {
+    scope_->setObjectName("findScope");
+    scope_->setAccessibleName("Look in");
+    scope_->setToolTip("Where to look");
+    for (const auto& one : kScopes) scope_->addItem(one.caption);
+    auto* const row = findRowOf(this);
+    row->addWidget(findLabel("&In:", scope_));
+    row->addWidget(scope_);
+    for (auto* option : {matchCase_, wholeWord_, asPattern_}) row->addWidget(option);
+    row->addStretch(1);
+    restore();
+}
+
+FindOptions FindOptionsRow::options() const {
+    return {matchCase_->isChecked(), wholeWord_->isChecked(), asPattern_->isChecked()};
+}
+
+FindScope FindOptionsRow::scope() const { return kScopes[scope_->currentIndex()].scope; }
+
+const char* FindOptionsRow::scopeName() const { return kScopes[scope_->currentIndex()].name; }
+
+void FindOptionsRow::restore() {
+    const QSettings settings;
+    matchCase_->setChecked(settings.value(kCaseKey).toBool());
+    wholeWord_->setChecked(settings.value(kWordKey).toBool());
+    asPattern_->setChecked(settings.value(kPatternKey).toBool());
+    const int module = int(FindScope::Module);
+    scope_->setCurrentIndex(std::clamp(settings.value(kScopeKey, module).toInt(), 0, scope_->count() - 1));
+}
+
+void FindOptionsRow::store() const {
+    QSettings settings;
+    settings.setValue(kCaseKey, matchCase_->isChecked());
+    settings.setValue(kWordKey, wholeWord_->isChecked());
+    settings.setValue(kPatternKey, asPattern_->isChecked());
+    settings.setValue(kScopeKey, scope_->currentIndex());
+}
+
+} // namespace workbench

@@ -1,0 +1,15 @@
+#pragma once
+// The values of properties that put a control or a form in a place.
+#include "Apps/workbench/designer/form_picture.h"
+#include "Apps/workbench/properties/design_history.h"
+
+namespace workbench {
+
+/// In the units of the control's container. Only what differs is set.
+std::vector<DesignChange> changesOfPlace(const DrawnControl& drawn, const QRectF& place);
+/// The place of a new control, and its name as caption or text. A place without a size leaves the size as it is.
+std::vector<DesignChange> changesOfNew(const DrawnControl& drawn, const QRectF& place);
+/// A form's size includes its frame.
+std::vector<DesignChange> changesOfForm(const FormPicture& form, const QRectF& inner);
+
+} // namespace workbench

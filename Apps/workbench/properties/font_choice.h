@@ -1,0 +1,10 @@
+#pragma once
+#include "Apps/workbench/properties/design_history.h"
+#include <QWidget>
+
+namespace workbench {
+
+/// Asks for a font, starting with the one that these members of a property "Font" describe. Empty if the user cancels.
+std::vector<DesignChange> askForFont(const vbide::Ref<vbide::Properties>& members, QWidget* parent);
+
+} // namespace workbench

@@ -1,0 +1,27 @@
+#pragma once
+// Colours as forms store them.
+#include <QColor>
+#include <QString>
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+namespace workbench {
+
+/// Converts &H00BBGGRR, or &H800000nn for a system colour. System colours are those of the classic desktop, so that a
+/// form looks the same everywhere.
+QColor formColour(std::int32_t value);
+
+/// "&H8000000F&".
+QString formColourText(std::int32_t value);
+/// Parses a hexadecimal number with or without "&" at the end, or a decimal one. Empty if it is not a colour.
+std::optional<std::int32_t> formColourOf(const QString& text);
+
+struct NamedColour {
+    QString name;
+    std::int32_t value = 0;
+};
+/// The system colours, then a palette.
+const std::vector<NamedColour>& namedColours();
+
+} // namespace workbench

@@ -1,0 +1,58 @@
+#pragma once
+// The properties of one object as a table of names and values.
+#include "Apps/workbench/properties/inspected_object.h"
+#include "Host/model/forms/property_source.h"
+#include <QAbstractTableModel>
+#include <QStringList>
+#include <functional>
+#include <vector>
+
+namespace workbench {
+
+class PropertyRows final : public QAbstractTableModel {
+public:
+    enum Column { kNameColumn, kValueColumn, kColumns };
+    /// Called if a value is refused; the old one remains.
+    using Refused = std::function<void(std::exception_ptr)>;
+
+    explicit PropertyRows(Refused refused) : refused_(std::move(refused)) {}
+
+    /// Shows these properties in alphabetical order, the name first.
+    void show(InspectedObject object);
+    /// Reads the values again.
+    void reread();
+
+    /// The details of a row's property.
+    const host::ClassProperty& details(int row) const { return rows_[std::size_t(row)].details; }
+    const vbide::Ref<vbide::Property>& property(int row) const { return rows_[std::size_t(row)].property; }
+    /// The choices of a row; empty if any value can be typed.
+    QStringList choices(int row) const;
+    /// The row of a property, -1 if the object has no such property.
+    int rowOf(const QString& name) const;
+    /// Sets a value as if the user had typed it. False if it was refused.
+    bool type(int row, const QString& typed);
+    /// Sets the next value of an enumeration or a Boolean.
+    void cycle(int row);
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    bool setData(const QModelIndex& index, const QVariant& value, int role) override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
+
+private:
+    struct Row {
+        vbide::Ref<vbide::Property> property;
+        host::ClassProperty details;
+        QString name, shown;
+    };
+    static Row rowOfProperty(const vbide::Ref<vbide::Property>& property);
+    QVariant swatch(const Row& row) const;
+
+    Refused refused_;
+    InspectedObject object_;
+    std::vector<Row> rows_;
+};
+
+} // namespace workbench

@@ -1,0 +1,27 @@
+#pragma once
+// File names on a device.
+#include <string>
+#include <string_view>
+
+namespace qlpipe {
+
+/// Returns the name with "/" as separator; projects use "\".
+std::string withSlashes(std::string name);
+
+/// Returns true for a valid part of a name: UTF-8, 1 to 255 bytes, without separators, drive letters and control
+/// characters, and not beginning with a dot. Names with a leading dot are reserved for the storage.
+bool isSafePart(std::string_view part) noexcept;
+
+/// Returns true for a relative name of safe parts, separated by "/".
+bool isSafeName(std::string_view name) noexcept;
+
+/// Returns the extension without its dot, in upper case, or "".
+std::string kindOf(std::string_view name);
+
+/// Returns the part before the last "/", or "" for a bare name.
+std::string folderOf(const std::string& name);
+
+/// Returns the part after the last "/".
+std::string lastPart(const std::string& name);
+
+} // namespace qlpipe

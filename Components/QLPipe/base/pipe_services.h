@@ -1,0 +1,34 @@
+#pragma once
+// The pipes' dependencies, and their results for the front end.
+#include "Add-in/platform/classes.h"
+#include "Add-in/platform/environment.h"
+#include "Add-in/platform/files.h"
+#include "Add-in/platform/registry.h"
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace qlpipe {
+
+/// What the pipes of a run did, for reports. Only pipes write it.
+struct TransferRecord {
+    /// Locations on devices, for users, in the order of the transfers.
+    std::vector<std::string> installed;
+    /// Path of the last package written, or "".
+    std::string package;
+    /// Whether the last transfer succeeded.
+    bool succeeded = false;
+};
+
+/// Must outlive all objects created by the pipes.
+struct PipeServices {
+    fernwick::FileSystemObject& files;
+    fernwick::Classes& classes;
+    fernwick::Registry& registry;
+    fernwick::Environment& environment;
+    /// Root of the installation tree, or "" without one.
+    std::string installation;
+    std::shared_ptr<TransferRecord> record = std::make_shared<TransferRecord>();
+};
+
+} // namespace qlpipe

@@ -1,0 +1,17 @@
+#pragma once
+// Writes an application into a package, a zip archive described in docs/package-format.md.
+#include "Add-in/platform/pipes.h"
+#include "Components/QLPipe/package/bundle.h"
+#include <string>
+
+namespace qlpipe {
+
+/// Returns "<ProjectName>.<DeviceKey>.qlpkg".
+std::string packageName(const Bundle& bundle);
+
+/// Writes the package to a temporary file and renames it, replacing an existing package. The same bundle produces the
+/// same bytes. Files are read twice in chunks, once for the checksum and once for packing. `sink` may be null. Throws
+/// TransferError and exceptions of the sink.
+void writePackage(const std::string& path, Bundle bundle, IQLPipeEvents* sink);
+
+} // namespace qlpipe

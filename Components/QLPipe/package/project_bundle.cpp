@@ -1,0 +1,46 @@
+#include "Components/QLPipe/package/project_bundle.h"
+#include "Components/QLPipe/base/device_names.h"
+#include "Components/QLPipe/base/pipe_messages.h"
+#include <algorithm>
+
+namespace qlpipe {
+namespace {
+
+BundleFile bundleFile(FileKind kind, std::string place, const std::string& path, std::int64_t size) {
+    return {kind, std::move(place), size, {}, [path, size] { return std::make_unique<LocalFile>(path, size); }};
+}
+
+void addIcon(Bundle& bundle, FileListing& listing, const std::string& path) {
+    if (path.empty()) return;
+    try {
+        bundle.files.push_back(bundleFile(FileKind::Icon, kIconPlace, path, sizeOfLocalFile(path)));
+    } catch (const TransferError&) {
+        // Applications also run without an icon.
+        listing.findings.push_back(
+            {false, kIconMissing, messageText(kIconMissing + kWarningOffset, {{"file", path}}), path});
+    }
+}
+
+} // namespace
+
+Bundle projectBundle(FileListing& listing, const ApplicationInfo& application, const std::string& device) {
+    if (!isSafePart(application.ProjectName))
+        throw transferError(kUnsafeName, {{"file", "The project"}, {"name", application.ProjectName}});
+    Bundle bundle;
+    bundle.project = application.ProjectName;
+    bundle.displayName = application.DisplayName;
+    bundle.version = application.Version;
+    bundle.device = device;
+    bundle.references = listing.references;
+    std::sort(bundle.references.begin(), bundle.references.end());
+    for (const auto& file : listing.files) {
+        const auto folder = file.kind == FileKind::Font ? kFontsFolder : kFilesFolder;
+        bundle.files.push_back(bundleFile(file.kind, folder + file.name, file.path, file.size));
+    }
+    addIcon(bundle, listing, application.TempIconFile);
+    std::sort(bundle.files.begin(), bundle.files.end(),
+              [](const BundleFile& a, const BundleFile& b) { return a.place < b.place; });
+    return bundle;
+}
+
+} // namespace qlpipe

@@ -1,0 +1,87 @@
+#include "Host/model/component_designer.h"
+#include "Host/files/native_path.h"
+#include "Host/files/path_lookup.h"
+#include "Host/model/component.h"
+#include "Host/model/host.h"
+#include "Host/model/project.h"
+#include "Host/model/project_references.h"
+#include "Host/model/windows/tool_window.h"
+
+namespace host {
+namespace {
+
+std::shared_ptr<const ResourceFile> readResources(const std::string& path) {
+    try {
+        return std::make_shared<ResourceFile>(readFile(path).bytes);
+    } catch (const basic::RuntimeError&) {
+        return nullptr; // the properties of a form without its companion have their defaults
+    }
+}
+
+} // namespace
+
+FormDesigner& ComponentDesigner::designer() {
+    auto& source = component_.source();
+    if (!designer_) designer_ = std::make_unique<FormDesigner>(source.form(), source.codePage(), hooks());
+    return *designer_;
+}
+
+DesignerHooks ComponentDesigner::hooks() {
+    // The designer does not outlive the component.
+    auto& component = component_;
+    const auto raise = [&component](const auto& event, const auto&... arguments) {
+        component.owner()->host()->raise(event, arguments...);
+    };
+    DesignerHooks hooks;
+    hooks.changed = [&component] {
+        component.changed();
+        component.raiseToPanes(&PaneEvents::designChanged);
+    };
+    hooks.controlAdded = [this, raise](const auto& control) { raise(controlsEvents_->ItemAdded, control); };
+    hooks.controlRemoved = [this, raise](const auto& control) { raise(controlsEvents_->ItemRemoved, control); };
+    hooks.controlRenamed = [this, raise](const auto& control, const std::string& oldName, int oldIndex) {
+        raise(controlsEvents_->ItemRenamed, control, oldName, oldIndex);
+    };
+    hooks.renameForm = [&component](const std::string& name) { component.Name(name); };
+    hooks.objectLine = [&component](const std::string& className) {
+        return component.owner()->references().objectLineOf(className);
+    };
+    hooks.resources = [this](const std::string& name) { return resources(name); };
+    const auto& options = component.owner()->host()->options();
+    hooks.classes = options.controlClasses;
+    hooks.classOfProgId = options.classOfProgId;
+    return hooks;
+}
+
+/// Cached, since a form refers to its companion many times.
+std::shared_ptr<const ResourceFile> ComponentDesigner::resources(const std::string& name) {
+    PathLookup lookup;
+    const auto path = lookup.find(folderOf(component_.resourceOwner()), name);
+    const auto [entry, isNew] = resources_.try_emplace(path);
+    if (isNew) entry->second = readResources(path);
+    return entry->second;
+}
+
+bool ComponentDesigner::isDesignerOf(const vbide::Ref<vbide::VBForm>& form) const {
+    return designer_ && designer_->Designer() == form;
+}
+
+bool ComponentDesigner::isOpen() const { return window_ && window_->Visible(); }
+
+std::shared_ptr<ToolWindow> ComponentDesigner::window() {
+    if (window_) return window_;
+    window_ = std::make_shared<ToolWindow>(component_.Name());
+    const auto forward = [&component = component_](PaneEvent event) {
+        return [&component, event] { component.raiseToPanes(event); };
+    };
+    windowEvents_.push_back(window_->changed.connect(forward(&PaneEvents::designerOpened)));
+    windowEvents_.push_back(window_->focused.connect(forward(&PaneEvents::designerShown)));
+    return window_;
+}
+
+void ComponentDesigner::reset() {
+    designer_.reset();
+    resources_.clear();
+}
+
+} // namespace host

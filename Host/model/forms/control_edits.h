@@ -1,0 +1,35 @@
+#pragma once
+// Adding and removing the controls of a form.
+#include "Host/model/forms/designer_state.h"
+#include "Host/model/forms/form_geometry.h"
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace host {
+
+/// A removed control and its former position.
+struct RemovedControl {
+    std::shared_ptr<FormBlock> container, block;
+    std::size_t place = 0;
+};
+
+/// The class without its library: "TextBox".
+std::string classNameOf(std::string_view type);
+
+/// Adds a control to a container with this scale. Error 429 for an invalid ProgID.
+basic::Ref<vbide::VBControl> addControlTo(DesignerState& state, FormBlock& container, const TwipsPerUnit& scale,
+                                          const std::string& progId);
+/// Error 5 if the control is not on this form.
+RemovedControl removeControlFrom(DesignerState& state, const basic::Ref<vbide::VBControl>& control);
+
+// ---- for front ends -------------------------------------------------------------------------------------------------
+/// As VBControls.Add, in a control that is a container; Nothing for the form itself.
+basic::Ref<vbide::VBControl> addControl(const basic::Ref<vbide::VBForm>& form,
+                                        const basic::Ref<vbide::VBControl>& container, const std::string& progId);
+/// As VBControls.Remove.
+RemovedControl removeControl(const basic::Ref<vbide::VBForm>& form, const basic::Ref<vbide::VBControl>& control);
+/// Restores a control at its former position and raises ItemAdded. Error 440 if its container has been removed.
+void restoreControl(const basic::Ref<vbide::VBForm>& form, const RemovedControl& removed);
+
+} // namespace host
