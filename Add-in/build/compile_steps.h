@@ -5,8 +5,8 @@
 
 namespace fernwick {
 
-/// Every step runs, whatever the earlier ones returned. False when one returned another code than 0, or when the stored
-/// list cannot be read.
+/// Every step runs, whatever the earlier ones returned. The result is false when a step's exit code was not 0, or when
+/// the stored list cannot be read.
 class CompileSteps {
 public:
     using Project = basic::Ref<vbide::VBProject>;

@@ -1,5 +1,5 @@
 #pragma once
-// Which procedures of a form are events, and whose.
+// Which procedures of a form handle events, and of which object.
 #include "Add-in/platform/host_project.h"
 #include <optional>
 #include <string>
@@ -13,18 +13,18 @@ class Procedure;
 /// A procedure that handles an event of a control.
 struct ControlEvent {
     basic::Ref<vbide::VBControl> control;
-    /// What stands behind the control's name and its underscore.
+    /// The part after the control's name and its underscore.
     std::string name;
 };
 
-/// The controls of one form by name, for a form has many procedures and many controls.
+/// The controls of one form, indexed by name because a form has many procedures and many controls.
 class FormControls {
 public:
-    /// A control whose name can't be read is reported and left out.
+    /// Reports and leaves out a control whose name cannot be read.
     FormControls(Procedure& here, const basic::Ref<vbide::VBForm>& designer);
 
-    /// The first control, in the designer's order, with whose name and "_" the procedure's name begins: "Pic" claims
-    /// "Pic_2_Click" too. Letter case counts.
+    /// Returns the first control, in the designer's order, for which the procedure's name begins with the control's
+    /// name and "_": "Pic" claims "Pic_2_Click" too. Case-sensitive.
     std::optional<ControlEvent> IsControlEvent(const std::string& procedureName) const;
 
 private:
@@ -32,11 +32,11 @@ private:
     std::unordered_map<std::string, std::size_t> places_;
 };
 
-/// Letter case counts: "form_load" is none.
+/// Case-sensitive: "form_load" is not an event.
 bool IsFormEvent(const std::string& name);
-/// False for "DRAGDROP" and "DRAGOVER", so written, alone: the compiler knows the rest.
+/// False only for "DRAGDROP" and "DRAGOVER" in capitals: the compiler knows the other events.
 bool IsValidTavletEvent(const std::string& eventName);
-/// Whether devices raise this event of forms ("Form_Load"), letter case aside.
+/// Whether devices raise this event of forms ("Form_Load"). Case-insensitive.
 bool IsValidFormEvent(const std::string& name);
 
 } // namespace fernwick

@@ -27,7 +27,7 @@ bool frmCompile::CompileProject(const Project& project) {
     return false;
 }
 
-/// A later Activate, as after a message box, finds the run begun.
+/// A later Activate, for example after a message box, must not start a second run.
 void frmCompile::Form_Activate() {
     if (activated_) return;
     activated_ = true;

@@ -15,7 +15,7 @@ bool frmValidate::ValidateProject(const Project& project, const std::string& dev
     here([&] { Load(); });
     project_ = project;
     deviceKey_ = deviceKey;
-    qlProject_ = basic::make<clsQLProject>(services_.projects);
+    qlProject_ = basic::make<clsQLProject>(services_.projectServices);
     qlProject_->VBProject(project);
     here([&] { Caption(fmt::format(build_texts::kValidating, "project"_a = project->Name())); });
     activated_ = false;
@@ -24,7 +24,7 @@ bool frmValidate::ValidateProject(const Project& project, const std::string& dev
     return validationGood_;
 }
 
-/// The whole run. A later Activate finds it begun.
+/// The whole run. A later Activate must not start a second one.
 void frmValidate::Form_Activate() {
     if (activated_) return;
     activated_ = true;
@@ -52,7 +52,7 @@ void frmValidate::startAnimation(Procedure& here) {
     here([&] { services_.platform.loop.DoEvents(); });
 }
 
-/// The files are saved whatever was found.
+/// The files are saved even if errors were found.
 void frmValidate::validate(Procedure& here) {
     if (here.test([&] { return project_->VBComponents()->Count() > 0; })) {
         here([&] { prgbarUpdate.start(std::size_t(project_->VBComponents()->Count())); });

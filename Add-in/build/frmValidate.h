@@ -5,20 +5,20 @@
 
 namespace fernwick {
 
-/// What the validator stands on.
+/// The dependencies of the validator.
 struct ValidationServices {
     Platform& platform;
     ErrorReport& errors;
     modRegistry2& registry;
     modQLInstallInfo& install;
-    const ProjectServices& projects;
-    const DeviceServices& devices;
+    const ProjectServices& projectServices;
+    const DeviceServices& deviceServices;
     modCompileErrorManagement& messages;
     frmCompile& compile;
 };
 
-/// A modal progress dialog without buttons. It validates in its first Activate event and unloads itself. What it
-/// finds becomes messages of the project; nothing stops a scan, so that one run gives the whole list.
+/// A modal progress dialog without buttons. It validates in its first Activate event and unloads itself. Findings
+/// become messages of the project; nothing stops a scan, so one run gives the whole list.
 class frmValidate : public Form {
 public:
     using Project = basic::Ref<vbide::VBProject>;
@@ -34,14 +34,14 @@ public:
     PictureBox finishedImg{this, "finishedImg", "finished", false};
     PictureBox failedImg{this, "failedImg", "failed", false};
 
-    /// Validates for a device and saves the project's files. True when no error was found. An empty key leaves
-    /// the checks against a device out.
+    /// Validates for a device and saves the project's files. True when no error was found. With an empty key the checks
+    /// against a device are skipped.
     bool ValidateProject(const Project& project, const std::string& deviceKey);
-    /// Checks one form: its name, properties and control names, and its events where `scanEvents` says so. False
-    /// when an error was found; warnings don't count. No part of ValidateProject.
+    /// Checks one form: its name, properties and control names, and with `scanEvents` its events. False when an error
+    /// was found; warnings do not count. Not part of ValidateProject.
     bool ScanForm(const QLProject& qlProject, const Component& component, bool scanEvents);
 
-    /// Stores and shows the message, and brings up the messages window. `line` is the code window's, 0 for none.
+    /// Stores and shows the message, and shows the messages window. `line` is the code window's, 0 for none.
     void ShowValidationWarning(const Project& project, const std::string& message, const std::string& fileName,
                                std::int32_t line, std::int32_t errorNumber);
     void ShowValidationError(const Project& project, const std::string& message, const std::string& fileName,

@@ -1,4 +1,4 @@
-// Whether devices support what a form is and does.
+// Whether devices support a form's properties, controls and events.
 #include "Add-in/build/control_events.h"
 #include "Add-in/build/frmValidate.h"
 #include "Add-in/build/messages/build_texts.h"
@@ -32,7 +32,7 @@ std::string nameOf(const basic::Ref<vbide::VBControl>& control) {
 std::string_view insteadOf(const std::string& eventInCapitals) {
     static constexpr std::pair<std::string_view, std::string_view> kInstead[] = {
         {"FORM_DBLCLICK", build_texts::kUseClickAndTimer}, {"FORM_GOTFOCUS", build_texts::kUseActivate},
-        {"FORM_KEYUP", build_texts::kUseKeyPress}, // for those who call with an event that is supported
+        {"FORM_KEYUP", build_texts::kUseKeyPress}, // unreachable from ScanEvents; kept for direct callers
         {"FORM_LOSTFOCUS", build_texts::kUseDeactivate},   {"FORM_MOUSEUP", build_texts::kUseClick},
         {"FORM_PAINT", build_texts::kUseActivate}};
     for (const auto& [event, instead] : kInstead)

@@ -15,7 +15,8 @@ bool frmValidate::ScanReferences(const Project& project) {
     bool good = scanForBroken(here, project);
     if (deviceKey_.empty()) return good;
     basic::Ref<IQLDesignTarget> target;
-    if (here.test([&] { return !services_.devices.devices.gDesignTargetMgr->GetDesignTarget(deviceKey_, target); }))
+    if (here.test(
+            [&] { return !services_.deviceServices.devices.gDesignTargetMgr->GetDesignTarget(deviceKey_, target); }))
         return good;
     readDeviceConfig(here);
     for (const auto& moduleId : here.value([&] { return qlProject_->GetComponentDependencies(); }))
@@ -26,9 +27,9 @@ bool frmValidate::ScanReferences(const Project& project) {
     return good;
 }
 
-/// Without a manager the scan goes on, and the look-up of the target fails.
+/// Without a manager the scan continues, and the lookup of the target fails.
 void frmValidate::initialiseTargets(Procedure& here) {
-    auto& targets = services_.devices.devices;
+    auto& targets = services_.deviceServices.devices;
     if (targets.gDesignTargetMgr) return;
     targets.initDesignTargetMgr();
     if (targets.gDesignTargetMgr) return;
@@ -45,16 +46,16 @@ bool frmValidate::scanForBroken(Procedure& here, const Project& project) {
     return good;
 }
 
-/// Tells the user of controls of the target that this machine lacks.
+/// Informs the user about controls of the target that this machine lacks.
 void frmValidate::readDeviceConfig(Procedure& here) {
     here([&] {
-        clsDeviceConfig config{services_.devices};
+        clsDeviceConfig config{services_.deviceServices};
         config.ReadDeviceConfig(deviceKey_);
     });
 }
 
-/// A module that the target doesn't know as a reference passes only where the project has no reference to it, and
-/// the target knows it otherwise.
+/// A module that the target does not list as a reference is accepted only if the project has no reference to it and the
+/// target lists it as a module.
 bool frmValidate::isSupported(Procedure& here, const Project& project, const basic::Ref<IQLDesignTarget>& target,
                               const std::string& moduleId) {
     if (here.test([&] { return target->ValidateReference(moduleId).known(); })) return true;

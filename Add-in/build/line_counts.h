@@ -1,19 +1,19 @@
 #pragma once
-// How many lines source files have on disk.
+// The line counts of source files on disk.
 #include "Add-in/platform/files.h"
 #include <map>
 #include <string>
 
 namespace fernwick {
 
-/// Counts by carriage returns, as the code window's line is reckoned: a lone line feed ends no line, nor does the
-/// end of the file. Kept by path, size and time, for a run asks for one file thousands of times.
+/// Counts carriage returns, like the code window: neither a lone line feed nor the end of the file ends a line. Counts
+/// are cached by path, size and time, because a run asks for one file thousands of times.
 class LineCounts {
 public:
     explicit LineCounts(const FileSystemObject& files) : files_(files) {}
 
     void forget() { counted_.clear(); }
-    /// Error 53 where there is no file.
+    /// Error 53 for a missing file.
     std::int32_t getLineCount(const std::string& fileName);
 
 private:

@@ -1,5 +1,5 @@
 #pragma once
-// Runs the programs that a project names around its compile.
+// Runs the programs that a project starts before and after its compile.
 #include "Add-in/core/procedure.h"
 #include "Add-in/platform/platform.h"
 
@@ -11,7 +11,7 @@ public:
         : errors_(errors), processes_(platform.processes), app_(platform.app) {}
 
     /// Starts the program minimised and waits for its end without a limit. An empty `workingFolder` becomes the
-    /// add-in's own folder. The exit code, or -1 when the program could not be started or waited for.
+    /// add-in's own folder. Returns the exit code, or -1 when the program could not be started or waited for.
     std::int32_t RunProcess(const std::string& commandLine, std::string& workingFolder);
 
 private:

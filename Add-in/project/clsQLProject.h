@@ -24,7 +24,7 @@ public:
     std::string ProjectPath() const { return store().folder(); }
     /// Whether ProjectVersion is that of the old format.
     bool HasOldFormat() const { return ProjectVersion() == kOldProjectFormat; }
-    /// Whether this is the blank project that the host starts with.
+    /// Whether this is the blank project that the host opens at its start.
     bool IsStartUpProject() const;
     std::int32_t NumForms() const;
     /// Stores a new identity of the project as a dependency.

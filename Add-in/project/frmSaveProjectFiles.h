@@ -10,8 +10,8 @@ public:
     frmSaveProjectFiles(Interaction& user, AddIn& addIn);
     const char* typeName() const override { return "frmSaveProjectFiles"; }
 
-    /// Shows the question; True for Yes. The caller reads the tick of chkWarning and unloads the form. Errors of
-    /// the form come out of it.
+    /// Shows the question and returns whether the answer was Yes. The caller reads chkWarning and unloads the form.
+    /// Errors of the form reach the caller.
     bool AskForProjectSave(const std::string& question);
 
     Label lblWarning{this, "lblWarning"};

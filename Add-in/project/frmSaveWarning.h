@@ -1,5 +1,5 @@
 #pragma once
-// Tells that an unsaved project must be saved.
+// Informs the user that an unsaved project must be saved.
 #include "Add-in/core/AddIn.h"
 #include "Add-in/platform/controls.h"
 

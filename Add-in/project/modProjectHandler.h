@@ -1,5 +1,5 @@
 #pragma once
-// The projects that are open in the host, and the one that is the active one.
+// The projects that are open in the host, and the active one.
 #include "Add-in/platform/compiler.h"
 #include "Add-in/project/clsQLProject.h"
 #include "Basic/collection.h"
@@ -16,15 +16,16 @@ public:
     bool gOpeningProject = false;
 
     void ClearProjectsList();
-    /// The new wrapper; Nothing for no project. A second project of the same name is reported and not listed.
+    /// Returns the new wrapper; Nothing without a project. A second project of the same name is reported and not
+    /// listed.
     basic::Ref<clsQLProject> AddToProjectsList(const basic::Ref<vbide::VBProject>& project);
     void RemoveFromProjectsList(const basic::Ref<vbide::VBProject>& project);
     /// An empty old name changes nothing.
     void RenameProjectInList(const basic::Ref<vbide::VBProject>& project, const std::string& OldName);
-    /// A project that is not listed is reported and gives Nothing.
+    /// Reports a project that is not listed, and returns Nothing.
     basic::Ref<clsQLProject> GetQLProject(const basic::Ref<vbide::VBProject>& project);
-    /// For one that need not be listed, such as a project that was open before the add-in came, or that has gone:
-    /// Nothing then, and no report. The project itself is not asked.
+    /// Like GetQLProject, but returns Nothing without a report for a project that is not listed, such as one that was
+    /// open before the add-in was connected or has been removed. The project itself is not called.
     basic::Ref<clsQLProject> FindQLProject(const basic::Ref<vbide::VBProject>& project) const;
 
     bool ProjectIsFromTemplate(const basic::Ref<vbide::VBProject>& project) {
@@ -34,15 +35,15 @@ public:
 
     /// The "CondComp" text of the project file; "" where it has none.
     std::string GetConditionalCompilationArguments(const basic::Ref<vbide::VBProject>& project);
-    /// Passes constants such as "A = 1 : B = -1" to the compiler, reserved names excepted, which get a box. No trap:
-    /// a value that is no number is error 13.
+    /// Passes constants such as "A = 1 : B = -1" to the compiler. A reserved name is refused with a box. No trap: a
+    /// value that is not a number is error 13.
     void SetConditionalCompilationArguments(const std::string& text, qltoolkit::Compiler& compiler);
 
-    /// Replaces what is open by a new project from the template.
+    /// Replaces the open projects by a new one from the template.
     void OpenNewQuinloftProject();
-    /// Replaces what is open by this project. No trap.
+    /// Replaces the open projects by this one. No trap.
     void OpenQuinloftProjectFromPath(const std::string& path);
-    /// Empties a temporary project without a question of the host. Its files end up nowhere.
+    /// Removes the components of a temporary project without a question from the host. Their files are discarded.
     void RemoveProjectComponents(const basic::Ref<clsQLProject>& project);
 
 private:

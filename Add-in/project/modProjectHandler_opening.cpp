@@ -6,7 +6,7 @@ namespace fernwick {
 
 namespace {
 
-/// The flag is up while the add-in opens a project, however that ends.
+/// Sets the flag while the add-in opens a project, and clears it however that ends.
 class Opening {
 public:
     explicit Opening(bool& flag) : flag_(flag) { flag_ = true; }

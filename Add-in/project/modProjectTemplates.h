@@ -1,5 +1,5 @@
 #pragma once
-// Where project templates lie: the part of modProjectHandler that project objects need too.
+// The folders of project templates: the part of modProjectHandler that project objects need too.
 #include "Add-in/core/AddIn.h"
 #include "Add-in/core/modQLInstallInfo.h"
 #include "Add-in/platform/interaction.h"
@@ -12,10 +12,10 @@ public:
                         ErrorReport& errors)
         : addIn_(addIn), install_(install), files_(files), user_(user), errors_(errors) {}
 
-    /// Whether the project's file lies in a template folder, the host's or the system's. A box for each of the two
-    /// that is not there.
+    /// Whether the project's file is in a template folder, the host's or the system's. Shows a box for each of the two
+    /// that is missing.
     bool ProjectIsFromTemplate(const basic::Ref<vbide::VBProject>& project);
-    /// The host's folder of project templates; a box and "" when it is not known.
+    /// Returns the host's folder of project templates. Shows a box and returns "" when it is not known.
     std::string GetTemplatePath();
 
 private:

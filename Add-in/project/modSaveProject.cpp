@@ -7,7 +7,7 @@ namespace fernwick {
 
 namespace {
 
-/// What a save dialog needs to know of a kind of component; the kinds that are missing are left to the host.
+/// Properties of a kind of component for the save dialog; the host saves the other kinds.
 struct SaveableKind {
     vbide::vbext_ComponentType type;
     std::string_view extension, filter;
@@ -50,7 +50,8 @@ bool modSaveProject::ProjectIsDirty(const basic::Ref<vbide::VBProject>& project)
     Procedure here{services_.errors, "modSaveProject.ProjectIsDirty"};
     bool dirty = here.test([&] { return project->IsDirty(); });
     std::vector<basic::Ref<vbide::VBComponent>> components;
-    if (!here([&] { components = project->VBComponents()->items(); })) dirty = true; // what can't be told may be lost
+    if (!here([&] { components = project->VBComponents()->items(); }))
+        dirty = true; // what cannot be determined might be lost
     for (const auto& component : components) {
         if (!here.test([&] { return saveableKind(*component.operator->()) != nullptr; })) continue;
         if (here.test([&] { return component->FileNames(1).empty() || component->IsDirty(); })) dirty = true;

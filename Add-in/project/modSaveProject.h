@@ -1,5 +1,5 @@
 #pragma once
-// Saves a project as its user would: with questions and save dialogs.
+// Saves a project interactively, with questions and save dialogs.
 #include "Add-in/project/modProjectHandler.h"
 
 namespace fernwick {
@@ -9,13 +9,14 @@ public:
     modSaveProject(const ProjectServices& services, modProjectHandler& projects)
         : services_(services), projects_(projects) {}
 
-    /// Whether what follows may go on: the project is saved, needs no saving, or its changes may be lost, as the
-    /// user says where `ask` is set. `failure` is shown where it was not saved otherwise than by Cancel.
+    /// Returns whether the caller may proceed: the project is saved, needs no saving, or its changes may be discarded,
+    /// as the user decides if `ask` is set. Shows `failure` if the project was not saved for a reason other than
+    /// Cancel.
     bool SaveProject(const basic::Ref<vbide::VBProject>& project, bool ask, const std::string& question,
                      bool showFailure, const std::string& failure);
     /// Whether the project or a component of it has changes, or a component has no file.
     bool ProjectIsDirty(const basic::Ref<vbide::VBProject>& project);
-    /// Saves all, with a dialog for what has no file yet. False when the user cancels one.
+    /// Saves everything, with a dialog for each file that does not exist yet. False when the user cancels one.
     bool AskForSaveProject(const basic::Ref<vbide::VBProject>& project);
 
 private:
@@ -24,7 +25,7 @@ private:
                        const basic::Ref<vbide::VBComponent>& component, const std::string& folder);
     bool saveProjectFile(Procedure& here, const basic::Ref<FileSystemObject>& files,
                          const basic::Ref<vbide::VBProject>& project, const std::string& folder);
-    /// The path that the user chooses; "" for Cancel.
+    /// Returns the path that the user chooses; "" for Cancel.
     std::string askForPath(Procedure& here, const basic::Ref<FileSystemObject>& files, const std::string& folder,
                            const std::string& name, std::string_view filter);
     /// False for Cancel.

@@ -7,7 +7,7 @@
 
 namespace fernwick {
 
-/// What the project objects and the modules around them lean on.
+/// The dependencies of project objects and of the modules around them.
 struct ProjectServices {
     ErrorReport& errors;
     Platform& platform;

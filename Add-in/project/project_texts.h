@@ -1,5 +1,5 @@
 #pragma once
-// What users read from this room.
+// Texts of this room that users see.
 #include <string_view>
 
 namespace fernwick::texts {
@@ -30,7 +30,7 @@ inline constexpr std::string_view kReservedConstant = "{name} is not allowed as 
 inline constexpr std::string_view kSaveProjectTitle = "Save Project";
 inline constexpr std::string_view kNotSavedTitle = "Project Not Saved";
 inline constexpr std::string_view kNoFileSystem =
-    "An error has occured while saving file, unable to access file system.";
+    "An error has occured while saving file, unable to access file system."; // sic
 inline constexpr std::string_view kSaveFileTitle = "Save File";
 inline constexpr std::string_view kReplaceTitle = "Save File As";
 inline constexpr std::string_view kReplace = "{path} already exists.  Do you want to replace it?";

@@ -22,7 +22,7 @@ TEST(BuildMessages, HaveOneRowForEachNumber) {
                 testing::ElementsAre(2999, 4097, 4119, 8193, 8198, 8199, 8200, 8201, 8202, 8205, 8206, 8208, 12289));
 }
 
-TEST(BuildMessages, SayWhatTheyMeanAndWhatToDo) {
+TEST(BuildMessages, HaveAMeaningAndARemedy) {
     for (const auto& info : buildMessages()) {
         EXPECT_FALSE(info.text.empty() || info.meaning.empty() || info.remedy.empty()) << info.number;
         EXPECT_TRUE(info.meaning.ends_with('.') && info.remedy.ends_with('.')) << info.number;
@@ -35,7 +35,7 @@ TEST(BuildMessages, AreErrorsOrWarningsAsTheyAreStored) {
     for (const auto number : {8193, 8198, 8199, 8201, 8202, 8206, 8208}) EXPECT_FALSE(row(number).isError) << number;
 }
 
-TEST(BuildMessages, NumberThePlacesOfTheirTexts) {
+TEST(BuildMessages, NumberTheirPlaceholders) {
     EXPECT_EQ(row(numbers::kToolsMissing).text, "Compiler tools could not be loaded. Please contact Quinloft at %1");
     EXPECT_EQ(row(numbers::kReservedWord).text, "\"%1\" is illegal as a %2 name. It is a reserved word.");
     EXPECT_EQ(row(numbers::kControlEventNotSupported).text, "%1 is not supported by Quinloft Fernwick for %2{%3}");

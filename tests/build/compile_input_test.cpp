@@ -1,4 +1,4 @@
-// What the compiler is given.
+// The compiler's input.
 #include "Add-in/build/type_lib_dll.h"
 #include "compile_world.h"
 
@@ -22,7 +22,7 @@ protected:
         registry.set(fernwick::HKEY_CLASSES_ROOT, std::string("TypeLib\\") + kGuid + "\\" + version + "\\0\\win32", "",
                      path);
     }
-    /// The libraries that the compiler got.
+    /// The libraries passed to the compiler.
     std::vector<std::string> libraries() {
         run();
         std::vector<std::string> all;
@@ -34,13 +34,13 @@ protected:
 
 using testing::ElementsAre;
 
-TEST_F(CompileInput, LeavesBuiltInLibrariesOut) {
+TEST_F(CompileInput, SkipsBuiltInLibraries) {
     reference("/lib/vb6.olb")->builtIn = true;
     reference("/windows/StdOle2.tlb");
     EXPECT_THAT(libraries(), IsEmpty());
 }
 
-TEST_F(CompileInput, ABrokenReferenceIsLeftOutWithoutAWord) {
+TEST_F(CompileInput, SkipsABrokenReferenceSilently) {
     reference("/lib/a.tlb")->broken = true;
     reference("/lib/b.tlb");
     EXPECT_THAT(libraries(), ElementsAre("file 1 /lib/b.tlb"));
@@ -60,18 +60,18 @@ TEST_F(CompileInput, TheRegisteredNameMayBeInCapitals) {
     EXPECT_THAT(libraries(), ElementsAre("file 2 /tavlets/QLTAVLETS.DLL"));
 }
 
-TEST_F(CompileInput, AControlThatIsNotRegisteredIsExpectedBesideItsDescription) {
+TEST_F(CompileInput, AnUnregisteredControlIsExpectedBesideItsDescription) {
     reference("/lib/Tavlets.oca");
     EXPECT_THAT(libraries(), ElementsAre("file 2 /lib/Tavlets.DLL"));
 }
 
-TEST_F(CompileInput, ALibraryOfAnotherVersionIsNoStandIn) {
+TEST_F(CompileInput, ALibraryOfAnotherVersionIsNotUsed) {
     reference("/lib/Tavlets.oca");
     registerLibrary("3.0", "/tavlets/QLTavlets.dll");
     EXPECT_THAT(libraries(), ElementsAre("file 2 /lib/Tavlets.DLL"));
 }
 
-TEST_F(CompileInput, ARegisteredOcxGivesItsNameOnly) {
+TEST_F(CompileInput, ARegisteredOcxIsReplacedByItsDll) {
     reference("/lib/Tavlets.oca");
     registerLibrary("1.0", "/tavlets/QLTavlets.ocx");
     EXPECT_THAT(libraries(), ElementsAre("file 2 /tavlets/QLTavlets.DLL"));
@@ -102,13 +102,13 @@ TEST_F(CompileInput, AReservedConstantGetsABoxAndTheOtherIsPassed) {
     EXPECT_THAT(trace.effects, Contains("box 48 Fernwick: Win32 is not allowed as Conditional Compilation Constant"));
 }
 
-TEST_F(CompileInput, AConstantThatIsNoNumberIsReported) {
+TEST_F(CompileInput, AConstantThatIsNotANumberIsReported) {
     files.files["/p/Demo.vbp"] = {"CondComp=\"A = x\"\r\n"};
     EXPECT_TRUE(run());
     EXPECT_THAT(errors.seen, ElementsAre("frmCompile.Form_Activate [13]"));
 }
 
-TEST_F(CompileInput, GivesTheVersionInformationThatThereIs) {
+TEST_F(CompileInput, PassesNonEmptyVersionInformation) {
     files.files["/p/Demo.vbp"] = {
         "Name=\"Demo\"\r\nTitle=\"T\"\r\nMajorVer=1\r\nMinorVer=2\r\nRevisionVer=3\r\nVersionComments=\"C\"\r\n"
         "VersionCompanyName=\"Co\"\r\nVersionFileDescription=\"D\"\r\nVersionLegalCopyright=\"R\"\r\n"
@@ -122,13 +122,13 @@ TEST_F(CompileInput, GivesTheVersionInformationThatThereIs) {
                                    "FileDescription=D"));
 }
 
-TEST(FindTypeLibDll, TellsWhyThereIsNone) {
+TEST(FindTypeLibDll, ReturnsWhyTheLibraryIsMissing) {
     test::MemoryRegistry store;
     fernwick::modRegistry2 registry{store};
     std::string path = "/lib/a.oca";
     const auto find = [&] { return fernwick::FindTypeLibDll(registry, kGuid, 2, 7, path); };
     const std::string library = std::string("TypeLib\\") + kGuid;
-    EXPECT_EQ(find(), 1); // no such library
+    EXPECT_EQ(find(), 1); // unknown library
     store.set(fernwick::HKEY_CLASSES_ROOT, library, "x", "");
     EXPECT_EQ(find(), 1); // without versions
     store.set(fernwick::HKEY_CLASSES_ROOT, library + "\\beta", "x", "");

@@ -1,4 +1,4 @@
-// From the lines of the compiler to those of the code window.
+// Conversion of the compiler's lines to those of the code window.
 #include "Add-in/build/line_counts.h"
 #include "compile_world.h"
 
@@ -9,7 +9,7 @@ namespace {
 
 class CompileLines : public testing::Test, protected test::CompileWorld {
 protected:
-    /// The stored line of an error that the compiler reports there.
+    /// Returns the stored line of an error that the compiler reports at a line.
     std::string lineOf(const std::string& file, int line) {
         compiler->work = [&](test::FakeCompiler& c) { c.BuildError.raise("m", file, line, 1); };
         run();
@@ -24,12 +24,12 @@ TEST_F(CompileLines, TheHeaderOfDesignDataDoesNotCount) {
     EXPECT_EQ(lineOf("/p/Form1.bas", 5), "2");
 }
 
-TEST_F(CompileLines, OfAFileWithLineFeedsAloneNoLineCounts) {
+TEST_F(CompileLines, LoneLineFeedsDoNotCount) {
     addModule("Module1", "Sub A()\nx\nEnd Sub\n")->code->lines = 3;
     EXPECT_EQ(lineOf("/p/Module1.bas", 2), "5");
 }
 
-TEST_F(CompileLines, AMessageWithoutAFileOrLineStaysAtNone) {
+TEST_F(CompileLines, AMessageWithoutAFileOrLineHasNoLine) {
     addModule("Module1");
     EXPECT_EQ(lineOf("", 7), "0");
     EXPECT_EQ(lineOf("/p/Module1.bas", 0), "0");
@@ -37,7 +37,7 @@ TEST_F(CompileLines, AMessageWithoutAFileOrLineStaysAtNone) {
     EXPECT_THAT(errors.seen, IsEmpty());
 }
 
-TEST_F(CompileLines, AFileThatIsNoComponentIsReported) {
+TEST_F(CompileLines, AFileOfNoComponentIsReported) {
     files.files["/p/Other.bas"] = {"a\r\nb\r\n"};
     EXPECT_EQ(lineOf("/p/Other.bas", 5), "3");
     EXPECT_THAT(errors.seen, ElementsAre("frmCompile.FixupLineNumber [9]"));
@@ -62,14 +62,14 @@ protected:
     }
 };
 
-TEST_F(LineCount, GoesByCarriageReturns) {
+TEST_F(LineCount, CountsCarriageReturns) {
     EXPECT_EQ(of(""), 0);
     EXPECT_EQ(of("a\r\nb\r\nlast"), 2);
     EXPECT_EQ(of("a\nb\n"), 0);
     EXPECT_EQ(of("a\rb\rc"), 2);
 }
 
-TEST_F(LineCount, DoesNotLookAtTheCharacterBehindOne) {
+TEST_F(LineCount, SkipsTheCharacterAfterACarriageReturn) {
     EXPECT_EQ(of("a\r\r\nb"), 1);
     EXPECT_EQ(of("\r\r\r"), 2);
     EXPECT_EQ(of("a\r"), 1);
@@ -81,7 +81,7 @@ TEST_F(LineCount, NoticesAChangedFile) {
     EXPECT_EQ(counts.getLineCount("/f"), 1);
     files.files["/f"] = {"a\r\r\n", 0, 1};
     EXPECT_EQ(counts.getLineCount("/f"), 1);
-    files.files["/f"] = {"\r\n\r\n", 0, 2}; // as long, but later
+    files.files["/f"] = {"\r\n\r\n", 0, 2}; // same size, but later
     EXPECT_EQ(counts.getLineCount("/f"), 2);
 }
 

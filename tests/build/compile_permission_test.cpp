@@ -1,4 +1,4 @@
-// Whether a compile may begin.
+// The conditions of a compile.
 #include "Add-in/build/frmCompileWarning.h"
 #include "compile_world.h"
 
@@ -31,7 +31,7 @@ TEST_F(CompilePermission, ACleanProjectOfThisVersionIsNotSaved) {
     EXPECT_THAT(trace.effects, IsEmpty());
 }
 
-TEST_F(CompilePermission, OfAnotherVersionItIsSavedFirst) {
+TEST_F(CompilePermission, AProjectOfAnotherVersionIsSavedFirst) {
     set("Quinloft Global", "LastCompileVersion", "3.5.0 (0623)");
     set("Quinloft Global", "AutoSaveProject", "True");
     EXPECT_FALSE(compile.lastCompileVersionGood(project));
@@ -45,7 +45,7 @@ TEST_F(CompilePermission, ForAValidationTheVersionDoesNotMatter) {
     EXPECT_THAT(trace.effects, IsEmpty());
 }
 
-TEST_F(CompilePermission, AFileThatIsNotOnDiskStartsTheHostsSaving) {
+TEST_F(CompilePermission, AMissingFileStartsTheHostsSaving) {
     files.files.erase("/p/Module1.bas");
     EXPECT_FALSE(compile.readyForValidation(project));
     EXPECT_THAT(trace.effects, ElementsAre("box 64 Fernwick: Cannot compile the project.\r\n\r\n"
@@ -83,7 +83,7 @@ TEST_F(CompilePermission, NoMeansThatNothingElseHappens) {
     EXPECT_EQ(stored("AutoSaveProject"), "(none)");
 }
 
-TEST_F(CompilePermission, WhatStaysDirtyIsAMessage) {
+TEST_F(CompilePermission, AFailedSaveBecomesAMessage) {
     module->dirty = true;
     files.files["/p/Module1.bas"].attributes = fernwick::ReadOnlyAttribute;
     set("Quinloft Global", "AutoSaveProject", "True");
@@ -93,7 +93,7 @@ TEST_F(CompilePermission, WhatStaysDirtyIsAMessage) {
               "ERROR||0|Unknown error trying to save files, please contact Quinloft at support.example|12289");
 }
 
-TEST_F(CompilePermission, ARefusedRunKeepsTheMessagesOfTheLast) {
+TEST_F(CompilePermission, ARefusedRunKeepsEarlierMessages) {
     messages.AddProjectCompileError(project, "old", "", 0, 1);
     module->dirty = true;
     answerSaving("btnNo");
@@ -123,7 +123,7 @@ protected:
     }
 };
 
-TEST_F(CompileWarning, AnswersByItsButtonsAndBeeps) {
+TEST_F(CompileWarning, BeepsAndReturnsTheButtonPressed) {
     trace.effects.clear();
     EXPECT_EQ(answer("btnYes", false), 6);
     EXPECT_EQ(answer("btnNo", false), 7);
@@ -140,7 +140,7 @@ TEST_F(CompileWarning, AllButtonsStoreTheOppositeOfTheTick) {
     }
 }
 
-TEST_F(CompileWarning, ClosedByItsWindowItIsCancelled) {
+TEST_F(CompileWarning, ClosingTheWindowMeansCancel) {
     answer("btnYes", false);
     user.whenShown.clear();
     form.ShowModal();

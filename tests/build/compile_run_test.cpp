@@ -18,7 +18,7 @@ protected:
     std::string status() { return window->lblStatusText(); }
 };
 
-TEST_F(CompileRun, DoesItsStepsInOrder) {
+TEST_F(CompileRun, PerformsItsStepsInOrder) {
     addModule("Module1");
     project->components->startUp.isSubMain = true;
     project->references->list.push_back(basic::make<test::TracedReference>(trace, "/lib/Tools.tlb"));
@@ -36,14 +36,14 @@ TEST_F(CompileRun, DoesItsStepsInOrder) {
     EXPECT_FALSE(compile.isLoaded());
 }
 
-TEST_F(CompileRun, AnEmptyProjectReachesTheCompilerToo) {
+TEST_F(CompileRun, CompilesAnEmptyProject) {
     EXPECT_TRUE(run());
     EXPECT_THAT(trace.effects, Contains("output /p/Demo"));
     EXPECT_THAT(trace.effects, Contains("start-up ''"));
     EXPECT_THAT(trace.effects, Contains("build"));
 }
 
-TEST_F(CompileRun, ShowsWhatItDoes) {
+TEST_F(CompileRun, ShowsItsProgress) {
     std::vector<std::string> texts;
     const auto watch = compile.stsUpdate.SimpleText.watch([&](const std::string& text) { texts.push_back(text); });
     compiler->work = [&](test::FakeCompiler& c) {
@@ -69,9 +69,8 @@ TEST_F(CompileRun, ShowsWhatItDoes) {
     EXPECT_EQ(compile.MousePointer(), fernwick::vbDefault);
 }
 
-TEST_F(CompileRun, LateActivationsDoNotStartItAgain) {
-    files.files["/p/Demo.vbp"].attributes =
-        fernwick::ReadOnlyAttribute; // the notice brings the form to the front again
+TEST_F(CompileRun, LaterActivationsDoNotRestartIt) {
+    files.files["/p/Demo.vbp"].attributes = fernwick::ReadOnlyAttribute; // the notice activates the form again
     run();
     EXPECT_EQ(std::count(trace.effects.begin(), trace.effects.end(), "build"), 1);
 }
@@ -81,10 +80,10 @@ TEST_F(CompileRun, AReadOnlyProjectIsCompiledAndNotSaved) {
     EXPECT_TRUE(run());
     EXPECT_THAT(trace.effects, Contains("box 64 Fernwick: Demo is ReadOnly, compile errors will not be saved."));
     EXPECT_THAT(trace.effects, Not(Contains("Demo saved /p/Demo.vbp")));
-    EXPECT_EQ(stored("NumTavletFileDependencies"), "0"); // in the host only
+    EXPECT_EQ(stored("NumTavletFileDependencies"), "0"); // in the host, not on disk
 }
 
-TEST_F(CompileRun, AFailedBuildTellsAndOpensTheFirstError) {
+TEST_F(CompileRun, AFailedBuildIsReportedAndOpensTheFirstError) {
     addModule("Module1");
     compiler->built = compiler->finished = false;
     compiler->work = [](test::FakeCompiler& c) { c.BuildError.raise("No such name", "/p/Module1.bas", 2, 1042); };
@@ -106,7 +105,7 @@ TEST_F(CompileRun, AWarningShowsTheWindowAtOnce) {
     EXPECT_EQ(status(), "SUCCESS with Warnings - This project can be deployed, but may not function as expected.");
 }
 
-TEST_F(CompileRun, TheAnswerOfBuildLeadsTheRunAndTheEventTheResult) {
+TEST_F(CompileRun, BuildsResultControlsTheRunAndTheEventItsOutcome) {
     compiler->built = false;
     EXPECT_TRUE(run());
     EXPECT_FALSE(did("Demo saved /p/Demo.vbp"));
@@ -116,7 +115,7 @@ TEST_F(CompileRun, TheAnswerOfBuildLeadsTheRunAndTheEventTheResult) {
     EXPECT_TRUE(did("Demo saved /p/Demo.vbp"));
 }
 
-TEST_F(CompileRun, AStoppedRunIsNoSuccessThoughTheLastOneWas) {
+TEST_F(CompileRun, AStoppedRunDoesNotInheritAnEarlierSuccess) {
     EXPECT_TRUE(run());
     files.files.erase("/p/Demo.vbp");
     EXPECT_FALSE(run());
@@ -139,7 +138,7 @@ TEST_F(CompileRun, WithoutACompilerItKeepsOldMessagesAndAddsOne) {
     EXPECT_THAT(errors.seen, IsEmpty());
 }
 
-TEST_F(CompileRun, AFactoryOfAnotherKindIsNoCompiler) {
+TEST_F(CompileRun, RefusesAFactoryOfAnotherClass) {
     compilerClass = classes.RegisterClass("QLToolkit.CompilerFactory", [] { return basic::make<fernwick::Object>(); });
     EXPECT_FALSE(run());
     EXPECT_THAT(stored("Error1"), HasSubstr("|2999"));
@@ -161,7 +160,7 @@ TEST_F(CompileRun, RecordsWhatTheCompilerDependedOn) {
     EXPECT_EQ(stored("ComponentDependency2"), "{8A516A61-1B8E-11D3-8C4B-0050046ECCF2}");
 }
 
-TEST_F(CompileRun, ForgetsTheDependenciesOfTheRunBefore) {
+TEST_F(CompileRun, ForgetsTheDependenciesOfThePreviousRun) {
     compiler->work = [](test::FakeCompiler& c) { c.AddDependency.raise("Tool.prc", 1); };
     run();
     run();
@@ -177,7 +176,7 @@ TEST_F(CompileRun, StoresTheFontsOfTheLastScan) {
     EXPECT_EQ(stored("FontDependency1"), "");
 }
 
-TEST_F(CompileRun, StoresTheFontsThatItsFormsNeedAndWarnsOfMissingOnesEachTime) {
+TEST_F(CompileRun, StoresTheFontsOfItsFormsAndWarnsAboutMissingOnesEachTime) {
     const auto designer = basic::make<test::TracedDesigner>(trace);
     project->add("frmMain", "/p/frmMain.frm", vbide::vbext_ct_VBForm)->designer = designer;
     designer->add("QLLabel", "Arial", 0, 12);
@@ -194,13 +193,13 @@ TEST_F(CompileRun, StoresTheFontsThatItsFormsNeedAndWarnsOfMissingOnesEachTime) 
     }
 }
 
-TEST_F(CompileRun, TellsOfADependencyThatItDoesNotKnow) {
+TEST_F(CompileRun, ReportsAnUnknownDependencyType) {
     compiler->work = [](test::FakeCompiler& c) { c.AddDependency.raise("x", 7); };
     EXPECT_TRUE(run());
     EXPECT_THAT(trace.effects, Contains("box 0 Fernwick: Recieved unexpected dependency type from compiler."));
 }
 
-TEST_F(CompileRun, EachCallThatFailsCostsOnlyItself) {
+TEST_F(CompileRun, AFailingCallSkipsOnlyItself) {
     addModule("Module1");
     project->components->startUp.component = project->components->list.front();
     project->references->list.push_back(basic::make<test::TracedReference>(trace, "/lib/Tools.oca"));
@@ -224,7 +223,7 @@ TEST_F(CompileRun, EachCallThatFailsCostsOnlyItself) {
         for (const auto& seen : errors.seen) EXPECT_THAT(seen, testing::ContainsRegex("\\[(50000|91|5|9)\\]"));
         EXPECT_FALSE(compile.isLoaded()) << failing;
         if (did("build")) {
-            // the first call finds the wrapper, without which nothing is written to the project
+            // without the wrapper, which the first call finds, nothing is written to the project
             EXPECT_LE(test::lost(baseline, trace.effects).size(), failing == 1 ? 8U : 2U) << failing;
         }
     }

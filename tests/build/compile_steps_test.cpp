@@ -1,4 +1,4 @@
-// The programs around a compile.
+// The programs that run before and after a compile.
 #include "compile_world.h"
 
 using testing::Contains;
@@ -27,7 +27,7 @@ protected:
     }
 };
 
-TEST_F(CompileSteps, WithoutStepsNothingRunsAndNobodyIsAsked) {
+TEST_F(CompileSteps, WithoutStepsNothingRunsOrAsks) {
     EXPECT_TRUE(run());
     EXPECT_THAT(ran(), ElementsAre("build"));
 }
@@ -42,7 +42,7 @@ TEST_F(CompileSteps, AllRunThoughTheSecondFails) {
     EXPECT_FALSE(compile.isLoaded());
 }
 
-TEST_F(CompileSteps, ThatFailedDoNotStopAUserWhoGoesOn) {
+TEST_F(CompileSteps, AUserMayContinueAfterAFailedStep) {
     steps("Pre", {"a"});
     processes.codes = {{"a", 3}};
     user.answers = {fernwick::vbYes};
@@ -50,7 +50,7 @@ TEST_F(CompileSteps, ThatFailedDoNotStopAUserWhoGoesOn) {
     EXPECT_THAT(ran(), ElementsAre("run a in /p show 2", "build"));
 }
 
-TEST_F(CompileSteps, AnAnswerOfNoKeepsTheStatusAndDropsOldMessages) {
+TEST_F(CompileSteps, NoKeepsTheStatusAndClearsOldMessages) {
     messages.AddProjectCompileError(project, "old", "", 0, 1);
     steps("Pre", {"missing"});
     user.answers = {fernwick::vbNo};
@@ -75,7 +75,7 @@ TEST_F(CompileSteps, PostStepsRunOnlyAfterAGoodBuild) {
     EXPECT_THAT(trace.effects, Not(Contains(kPostFailed)));
 }
 
-TEST_F(CompileSteps, AStepThatIsMissingInTheListIsAFailure) {
+TEST_F(CompileSteps, AMissingStepIsAFailure) {
     steps("Pre", {"a"});
     set("Quinloft Compiler Options", "PreCompileStepCount", "2");
     user.answers = {fernwick::vbYes};
@@ -90,19 +90,19 @@ protected:
     std::string folder = "/p";
 };
 
-TEST_F(RunProcess, GivesTheExitCode) {
+TEST_F(RunProcess, ReturnsTheExitCode) {
     processes.codes = {{"tool \"a b\"", 12}};
     EXPECT_EQ(control.RunProcess("tool \"a b\"", folder), 12);
     EXPECT_THAT(trace.effects, ElementsAre("run tool \"a b\" in /p show 2", "close 7"));
 }
 
-TEST_F(RunProcess, WithoutAFolderItRunsInTheAddInsOwn) {
+TEST_F(RunProcess, RunsInTheAddInsFolderByDefault) {
     folder.clear();
     control.RunProcess("x", folder);
     EXPECT_EQ(folder, "/addin");
 }
 
-TEST_F(RunProcess, WhatCannotBeStartedOrWaitedForIsMinusOne) {
+TEST_F(RunProcess, ReturnsMinusOneForAFailedStartOrWait) {
     EXPECT_EQ(control.RunProcess("missing", folder), -1);
     processes.codes = {{"tool", 0}};
     processes.waitFails = true;

@@ -1,4 +1,4 @@
-// Converted font files: their names, and what their heads tell.
+// Converted font files: their names and headers.
 #include "Add-in/build/dependencies/font_file.h"
 #include "tests/support/traced_files.h"
 
@@ -12,7 +12,7 @@ std::string padded(std::string bytes, std::size_t size) {
     return bytes;
 }
 
-/// A head of the plain form.
+/// A header without a wrapper.
 std::string head(int version, int size, int more, int style, const std::string& face) {
     std::string bytes = {char(version), char(size), char(more), 'x', char(style)};
     return padded(bytes, 24) + padded(face, 32);
@@ -34,7 +34,7 @@ protected:
 
 } // namespace
 
-TEST(FontFileName, TellsFaceSizeAndStyle) {
+TEST(FontFileName, ContainsFaceSizeAndStyle) {
     EXPECT_EQ(fernwick::GetFontFileName({"Arial", 1, 8}), "Ari_08B.CMF");
     EXPECT_EQ(fernwick::GetFontFileName({"Arial", 0, 12}), "Ari_12R.CMF");
     EXPECT_EQ(fernwick::GetFontFileName({"Arial", 2, 9}), "Ari_09I.CMF");
@@ -44,12 +44,12 @@ TEST(FontFileName, TellsFaceSizeAndStyle) {
     EXPECT_EQ(fernwick::GetFontFileName({"Größe", 0, 8}), "Grö_08R.CMF");
 }
 
-TEST(FontHead, TellsStyleSizeAndFace) {
+TEST(FontHead, ContainsStyleSizeAndFace) {
     EXPECT_EQ(readFontHead(head(2, 12, 5, 3, "Arial")), (FontFace{"Arial", 3, 12}));
     EXPECT_EQ(readFontHead(head(1, 8, 1, 0, "Tahoma")), (FontFace{"Tahoma", 0, 8}));
 }
 
-TEST(FontHead, OfVersionThreeTellsTheSizeInTwoParts) {
+TEST(FontHead, VersionThreeStoresTheSizeInTwoParts) {
     EXPECT_EQ(readFontHead(head(3, 255, 45, 0, "Arial")).size, 300);
     EXPECT_EQ(readFontHead(head(4, 12, 5, 0, "Arial")).size, 12);
 }
@@ -64,13 +64,13 @@ TEST(FontHead, TheFaceEndsAtAZeroOrAfter32Bytes) {
               "Größe");
 }
 
-TEST(FontHead, StandsBehindAWrapperWhoseVersionIsTwo) {
+TEST(FontHead, FollowsAWrapperOfVersionTwo) {
     for (const std::size_t length : {0, 1, 12, 255})
         EXPECT_EQ(readFontHead(wrapped(length, head(3, 12, 5, 2, "Arial"))), (FontFace{"Arial", 2, 12})) << length;
     EXPECT_LE(wrapped(255, head(3, 12, 5, 2, "Arial")).size(), fernwick::kFontHeadBytes);
 }
 
-TEST(FontHead, OfACutFileReadsAsZeros) {
+TEST(FontHead, TruncatedHeadersReadAsZeros) {
     EXPECT_EQ(readFontHead(""), FontFace{});
     EXPECT_EQ(readFontHead("FIL"), FontFace{});
     EXPECT_EQ(readFontHead(wrapped(3, "")), FontFace{});
@@ -93,7 +93,7 @@ TEST_F(FontFiles, MatchInSizeAndStyleToo) {
     EXPECT_FALSE(matches("Arial", {"Arial", 1, 11}));
 }
 
-TEST_F(FontFiles, OneThatCannotBeOpenedMatchesNothing) {
+TEST_F(FontFiles, AnUnreadableFileMatchesNothing) {
     EXPECT_EQ(fernwick::CheckFontFile(files, "/gone.cmf"), std::nullopt);
     EXPECT_FALSE(fernwick::FontFileMatches(files, "/gone.cmf", {}));
 }

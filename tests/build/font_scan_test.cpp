@@ -64,7 +64,7 @@ TEST_F(FontScan, FindsTheFileOfTheConvertersNameFirst) {
 }
 
 TEST_F(FontScan, ThenAnyFileOfTheFontsFolderInItsOrder) {
-    font("Fonts/Ari_12R.CMF", "Ariadne", 0, 12); // of that name, and another font
+    font("Fonts/Ari_12R.CMF", "Ariadne", 0, 12); // same file name, but another font
     font("Fonts/a.txt", "Arial", 0, 12);
     font("Fonts/c.cmf", "Arial", 0, 12);
     font("Fonts/B.Cmf", "Arial CMF", 0, 12);
@@ -79,13 +79,13 @@ TEST_F(FontScan, ThenAnyFileBesideTheProject) {
     EXPECT_THAT(scan(), ElementsAre("mine.cmf"));
 }
 
-TEST_F(FontScan, NamesTheFileAsItStandsOnDisk) {
+TEST_F(FontScan, NamesTheFileAsOnDisk) {
     font("fonts/ari_12r.cmf", "ArialCMF", 0, 12);
     form("frmMain", {{"QLLabel", "lblA", "Arial"}});
     EXPECT_THAT(scan(), ElementsAre("ari_12r.cmf"));
 }
 
-TEST_F(FontScan, ListsEachFileOnceWhoeverNeedsIt) {
+TEST_F(FontScan, ListsEachFileOnce) {
     font("Fonts/Ari_12R.CMF", "ArialCMF", 0, 12);
     font("Fonts/Tah_08R.CMF", "Tahoma", 0, 8);
     form("frmA", {{"QLLabel", "lblA", "Arial"}, {"QLButton", "btnA", "ArialCMF"}, {"QLGrid", "grdA", "Arial"}});
@@ -93,7 +93,7 @@ TEST_F(FontScan, ListsEachFileOnceWhoeverNeedsIt) {
     EXPECT_THAT(scan(), ElementsAre("Ari_12R.CMF", "Tah_08R.CMF"));
 }
 
-TEST_F(FontScan, EightClassesHaveFontsAndOthersNone) {
+TEST_F(FontScan, EightClassesHaveFonts) {
     std::vector<FormControl> controls;
     int size = 10;
     for (const char* name : {"QLButton", "QLCheckBox", "QLComboBox", "QLGrid", "QLLabel", "QLListBox", "QLRadioButton",
@@ -106,9 +106,9 @@ TEST_F(FontScan, EightClassesHaveFontsAndOthersNone) {
     EXPECT_THAT(scan(), ElementsAre("11.cmf", "12.cmf", "13.cmf", "14.cmf", "15.cmf", "16.cmf", "17.cmf", "18.cmf"));
 }
 
-TEST_F(FontScan, AMissingFontIsOneWarningAScanAndOneMoreInTheNext) {
+TEST_F(FontScan, AMissingFontIsOneWarningInEachScan) {
     form("frmA", {{"QLLabel", "lblA", "Arial", 1, 8}, {"QLLabel", "lblB", "Arial", 1, 8}});
-    form("frmB", {{"QLLabel", "lblC", "ARIAL", 1, 8}}); // what is warned about is kept without regard to letter case
+    form("frmB", {{"QLLabel", "lblC", "ARIAL", 1, 8}}); // warnings are tracked regardless of case
     EXPECT_THAT(scan(), IsEmpty());
     const std::string row = "frmA||8193|Could Not Find \"Arial\" Weight:8 Style:1 referenced in frmA If this font is "
                             "not already on the device, either add the font as a dependency, or convert the font and "
@@ -122,7 +122,7 @@ TEST_F(FontScan, AMissingFontIsOneWarningAScanAndOneMoreInTheNext) {
     EXPECT_THAT(warnings(), ElementsAre(row, row));
 }
 
-TEST_F(FontScan, ForPalmTheWarningLeadsToTheConverter) {
+TEST_F(FontScan, ForPalmTheWarningNamesTheConverter) {
     sample = test::SampleProject("Demo").handheld("PalmOS-DragonBall");
     form("frmA", {{"QLLabel", "lblA", "Arial", 0, 12}});
     scan();
@@ -145,7 +145,7 @@ TEST_F(FontScan, ModulesAndClassesHaveNone) {
     EXPECT_THAT(errors.seen, IsEmpty());
 }
 
-TEST_F(FontScan, AFontFileThatCannotBeOpenedIsNoMatch) {
+TEST_F(FontScan, AnUnreadableFontFileDoesNotMatch) {
     host.folder.write("Fonts/Ari_12R.CMF/inside", ""); // a folder of that name
     form("frmA", {{"QLLabel", "lblA", "Arial"}});
     EXPECT_THAT(scan(), IsEmpty());
@@ -161,7 +161,7 @@ public:
     fernwick::Label label{this, "label"};
 };
 
-TEST_F(FontScan, ShowsHowFarItIs) {
+TEST_F(FontScan, ShowsItsProgress) {
     sample.module("Module1");
     form("frmA", {});
     frmScan shown{user};
@@ -195,7 +195,7 @@ protected:
     basic::Ref<test::TracedDesigner> designer;
 };
 
-TEST_F(FontScanInMemory, AnUnsavedProjectIsToBeSavedFirst) {
+TEST_F(FontScanInMemory, AnUnsavedProjectMustBeSavedFirst) {
     project->file.clear();
     EXPECT_THAT(scan(), IsEmpty());
     EXPECT_THAT(trace.effects,
@@ -203,7 +203,7 @@ TEST_F(FontScanInMemory, AnUnsavedProjectIsToBeSavedFirst) {
                             "host: save project"));
 }
 
-TEST_F(FontScanInMemory, AnEmptyProjectIsToldOf) {
+TEST_F(FontScanInMemory, AnEmptyProjectIsReported) {
     project->components->list.clear();
     EXPECT_THAT(scan(), IsEmpty());
     EXPECT_THAT(trace.effects, ElementsAre("box 48 Fernwick: This project is empty!"));
@@ -224,7 +224,7 @@ TEST_F(FontScanInMemory, WithoutAnInstallationTheProjectsOwnFontsCount) {
     EXPECT_THAT(scan(), ElementsAre("own.cmf"));
 }
 
-TEST_F(FontScanInMemory, ListsFoldersAndReadsFilesOnceHoweverManyControlsAsk) {
+TEST_F(FontScanInMemory, ListsFoldersAndReadsFilesOnce) {
     for (int i = 0; i < 20; ++i) files.files["/install/Fonts/" + std::to_string(i) + ".cmf"] = {fontFile("F", 0, i)};
     for (int i = 0; i < 300; ++i) designer->add("QLLabel", "F", 0, i % 30);
     EXPECT_EQ(scan().size(), 20U);
@@ -232,14 +232,14 @@ TEST_F(FontScanInMemory, ListsFoldersAndReadsFilesOnceHoweverManyControlsAsk) {
     EXPECT_EQ(files.headsRead, 20);
 }
 
-TEST_F(FontScanInMemory, AControlWithoutAFontPropertyIsReportedAndLeftOut) {
+TEST_F(FontScanInMemory, AControlWithoutAFontPropertyIsReportedAndSkipped) {
     designer->add("QLLabel", "Arial", 0, 12)->properties->values.erase("FontSize");
     EXPECT_THAT(scan(), IsEmpty());
     EXPECT_THAT(errors.seen, ElementsAre("modDependencyManagement.ScanFormforDependencies [9]"));
     EXPECT_THAT(rows(), IsEmpty());
 }
 
-TEST_F(FontScanInMemory, EachCallThatFailsCostsOnlyItself) {
+TEST_F(FontScanInMemory, AFailingCallSkipsOnlyItself) {
     files.files["/install/Fonts/a.cmf"] = {fontFile("Arial", 0, 12)};
     designer->add("QLLabel", "Arial", 0, 12);
     designer->add("QLLabel", "Gone", 0, 12);

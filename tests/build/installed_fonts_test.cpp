@@ -34,7 +34,7 @@ TEST_P(InstalledFonts, HaveTheLettersOfWesternLanguages) {
     const auto widthOf = [&](int code) { return byte(std::size_t(72 + code - byte(66))); };
     for (int code = ' '; code <= '~'; ++code) EXPECT_GT(widthOf(code), 0) << code;
     for (const int code : {0x80, 0xC4, 0xE9, 0xF1, 0xFF}) EXPECT_GT(widthOf(code), 0) << code;
-    EXPECT_GT(widthOf(byte(68)), 0); // what stands for missing ones
+    EXPECT_GT(widthOf(byte(68)), 0); // the replacement character
     EXPECT_EQ(widthOf(0x81), 0);
 }
 

@@ -1,4 +1,4 @@
-// What a double click does about a message, and what the keys do.
+// The actions of a double-click and of keys on a message.
 #include "messages_world.h"
 
 using testing::AnyOf;
@@ -18,7 +18,7 @@ protected:
     void add(const std::string& title, int line, int number, const std::string& message = "m") {
         window->add("f", title, line, message, fernwick::ERROR_MSG, number, false);
     }
-    /// What a double click on the row does.
+    /// Returns the effects of a double-click on the row.
     std::vector<std::string> doubleClick(int row = 1) {
         window->select(row);
         trace.effects.clear();
@@ -48,7 +48,7 @@ TEST_F(MessageActions, WithoutALineOrATitleNothingOpens) {
     for (int row = 1; row <= 3; ++row) EXPECT_THAT(doubleClick(row), IsEmpty()) << row;
 }
 
-TEST_F(MessageActions, WithoutALineTheNumberActsAllTheSame) {
+TEST_F(MessageActions, WithoutALineTheNumberStillActs) {
     add("Form1", 0, 8208);
     EXPECT_THAT(doubleClick(), ElementsAre(kPicturesPage));
 }
@@ -68,7 +68,7 @@ TEST_F(MessageActions, AMissingFontStartsTheConverter) {
     EXPECT_THAT(doubleClick(), ElementsAre(std::string("start ") + kFontConverterPath));
 }
 
-TEST_F(MessageActions, AConverterThatDoesNotStartIsToldInABox) {
+TEST_F(MessageActions, AConverterThatDoesNotStartIsReportedInABox) {
     programs.missing = kFontConverterPath;
     add("", 0, 8193);
     EXPECT_THAT(doubleClick(),
@@ -98,7 +98,7 @@ TEST_F(MessageActions, OtherNumbersDoNothing) {
     }
 }
 
-TEST_F(MessageActions, AWalkThroughTheMessagesOpensLinesOnly) {
+TEST_F(MessageActions, ShowSourceOpensTheLineOnly) {
     add("Form1", 3, 4119);
     add("", 0, 8193);
     window->showSource(1);
@@ -113,7 +113,7 @@ TEST_F(MessageActions, AWalkThroughTheMessagesOpensLinesOnly) {
     EXPECT_THAT(errors.seen, ElementsAre("udocCompileMsgs.showSource [30009]"));
 }
 
-TEST_F(MessageActions, MessagesThatGoWhileOneIsChosenLeadNowhere) {
+TEST_F(MessageActions, MessagesClearedDuringASelectionDoNothing) {
     add("Form1", 3, 8208);
     const auto watch = window->chosen.connect([this] { window->clearMessages(); });
     window->gotoMessage(1);
@@ -121,8 +121,8 @@ TEST_F(MessageActions, MessagesThatGoWhileOneIsChosenLeadNowhere) {
     EXPECT_TRUE(errors.seen.empty());
 }
 
-/// Each call fails in turn: one report, and the rest as before. What opens the line hangs on the pane.
-TEST_F(MessageActions, EachStepThatFailsIsReportedAndTheNextOneRuns) {
+/// Each call fails in turn: one report, and the rest unchanged. Opening the line depends on the pane.
+TEST_F(MessageActions, AFailingStepIsReportedAndTheNextOneRuns) {
     add("Form1", 3, 4119);
     const auto baseline = doubleClick();
     ASSERT_EQ(baseline.size(), 8U);
@@ -172,7 +172,7 @@ TEST_F(MessageActions, MissingHelpIsReported) {
     EXPECT_THAT(errors.seen, ElementsAre("udocCompileMsgs.msgGrid_KeyDown [53]"));
 }
 
-TEST_F(MessageActions, ControlCCopiesTheRowInPlaceOfWhatWasThere) {
+TEST_F(MessageActions, ControlCReplacesTheClipboardByTheRow) {
     add("Form1", 12, 1042, "No such name");
     EXPECT_THAT(press(67, 2), ElementsAre("clipboard cleared", "copy text/plain;charset=windows-1252"));
     EXPECT_EQ(copied.texts.size(), 1U);
@@ -180,7 +180,7 @@ TEST_F(MessageActions, ControlCCopiesTheRowInPlaceOfWhatWasThere) {
               std::string("File Title: Form1, Line: 12, Error Number: 1042, Message: No such name") + '\0');
 }
 
-TEST_F(MessageActions, ACopyHasEmptyCellsAndLineBreaksAsTheyStand) {
+TEST_F(MessageActions, ACopyKeepsEmptyCellsAndLineBreaks) {
     add("", 0, 0, "first\r\nsecond");
     press(67, 2);
     EXPECT_EQ(copied.texts[fernwick::kAnsiTextFormat],
@@ -194,7 +194,7 @@ TEST_F(MessageActions, ACopyIsInTheSingleByteCodePage) {
               std::string("File Title: Men\xFC, Line: 12, Error Number: , Message: 10 \x80") + '\0');
 }
 
-TEST_F(MessageActions, CharactersThatTheCodePageLacksAreInTheFullTextBesides) {
+TEST_F(MessageActions, CharactersBeyondTheCodePageAreCopiedInFullText) {
     add("Form1", 12, 0, "中 é");
     press(67, 2);
     EXPECT_EQ(copied.texts[fernwick::kAnsiTextFormat],
@@ -211,7 +211,7 @@ TEST_F(MessageActions, OtherKeysAndTheHeaderCopyNothing) {
     EXPECT_TRUE(errors.seen.empty());
 }
 
-TEST_F(MessageActions, AClipboardThatIsHeldIsReported) {
+TEST_F(MessageActions, ALockedClipboardIsReported) {
     add("Form1", 12, 1042);
     for (const int failing : {1, 2}) {
         trace.calls = 0;

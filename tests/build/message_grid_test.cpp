@@ -1,4 +1,4 @@
-// The rows of the messages window: their order, their cells, and how high they stand. 15 twips are a pixel.
+// The rows of the messages window: their order, cells and heights. 15 twips are a pixel.
 #include "messages_world.h"
 
 using fernwick::MessageGrid;
@@ -10,7 +10,7 @@ class MessageRows : public testing::Test, protected test::MessagesWorld {
 protected:
     MessageRows() {
         window->drawWith(&font);
-        resize(1020, 400); // leaves 1000 pixels to the texts, 760 of them to the message
+        resize(1020, 400); // 1000 pixels are left for the texts, 760 of them for the message
     }
     ~MessageRows() override { window->drawWith(nullptr); }
     void resize(int width, int height) { window->UserDocument_Resize(width * 15, height * 15, 40 * 15); }
@@ -29,12 +29,12 @@ TEST_F(MessageRows, HoldSixCells) {
     EXPECT_THAT(window->message(1).cells, ElementsAre("/p/Form1.frm", "", "Form1", "12", "1042", "No such name"));
 }
 
-TEST_F(MessageRows, LeaveZeroesOut) {
+TEST_F(MessageRows, OmitZeros) {
     window->add("", "", 0, "m", fernwick::WARNING_MSG, 0, false);
     EXPECT_THAT(window->message(1).cells, ElementsAre("", "", "", "", "", "m"));
 }
 
-TEST_F(MessageRows, StandBelowTheHeader) {
+TEST_F(MessageRows, AreInsertedBelowTheHeader) {
     const auto& grid = window->msgGrid();
     EXPECT_EQ(grid.cell(0, MessageGrid::FileNameColumn), "FileName");
     EXPECT_EQ(grid.cell(0, MessageGrid::PictureColumn), "");
@@ -55,7 +55,7 @@ TEST_F(MessageRows, HaveTheDesignOfTheirColumns) {
     }
 }
 
-TEST_F(MessageRows, ShareTheWidthThatThePictureLeaves) {
+TEST_F(MessageRows, ShareTheWidthBesideThePicture) {
     EXPECT_EQ(width(MessageGrid::FileNameColumn), 0);
     EXPECT_EQ(width(MessageGrid::PictureColumn), 20);
     EXPECT_EQ(width(MessageGrid::TitleColumn), 100);
@@ -64,7 +64,7 @@ TEST_F(MessageRows, ShareTheWidthThatThePictureLeaves) {
     EXPECT_EQ(width(MessageGrid::MessageColumn), 760);
 }
 
-TEST_F(MessageRows, AreNeverWithoutWidth) {
+TEST_F(MessageRows, AlwaysHaveAWidth) {
     resize(5, 400);
     for (const auto column : {MessageGrid::TitleColumn, MessageGrid::LineColumn, MessageGrid::MessageColumn})
         EXPECT_EQ(window->msgGrid().columnWidth(column), 1);
@@ -79,13 +79,13 @@ TEST_F(MessageRows, KeepTheGridsHeightWhenTheWindowIsTooLow) {
     EXPECT_EQ(window->msgGrid().width(), 1020 * 15);
 }
 
-TEST_F(MessageRows, AreAsHighAsAPictureAtLeast) {
+TEST_F(MessageRows, AreAtLeastAsHighAsAPicture) {
     add("short");
     EXPECT_EQ(height(1), 20);
     EXPECT_EQ(window->msgGrid().rowHeightMin(), 16 * 15);
 }
 
-TEST_F(MessageRows, GetALineForEachTimeThatTheMessageFillsItsColumn) {
+TEST_F(MessageRows, AreAsHighAsTheirWrappedMessage) {
     add(std::string(75, 'x')); // 750 of 760 pixels
     add(std::string(76, 'x'));
     add(std::string(2 * 76, 'x'));
@@ -95,23 +95,23 @@ TEST_F(MessageRows, GetALineForEachTimeThatTheMessageFillsItsColumn) {
 }
 
 TEST_F(MessageRows, AreMeasuredWithALineBreakInTheMiddleButNotAtTheEnd) {
-    add(std::string(37, 'x') + "\r\n" + std::string(37, 'x') + "\r\n"); // 76 characters as it stands
+    add(std::string(37, 'x') + "\r\n" + std::string(37, 'x') + "\r\n"); // 76 characters with the line break
     EXPECT_EQ(height(1), 2 * 16);
     add(std::string(75, 'x') + "\r\n");
     EXPECT_EQ(height(2), 20);
 }
 
-TEST_F(MessageRows, GrowInANarrowerWindowAndAreNotMeasuredAnew) {
+TEST_F(MessageRows, GrowInANarrowerWindowWithoutMeasuring) {
     add(std::string(75, 'x'));
     font.measured = 0;
-    resize(520, 400); // 380 pixels to the message
+    resize(520, 400); // 380 pixels for the message
     EXPECT_EQ(height(1), 2 * 16);
     resize(1020, 400);
     EXPECT_EQ(height(1), 20);
     EXPECT_LE(font.measured, 2); // the status line's label
 }
 
-TEST_F(MessageRows, AreMeasuredWhenTheyComeAndNotAgain) {
+TEST_F(MessageRows, AreMeasuredOnceWhenAdded) {
     font.measured = 0;
     for (int i = 0; i < 100; ++i) add("m");
     EXPECT_EQ(font.measured, 100);
@@ -132,7 +132,7 @@ TEST_F(MessageRows, AreNoLowerThanALineOfTheLatest) {
     EXPECT_EQ(height(1), 40);
 }
 
-TEST_F(MessageRows, HaveTheirLeastHeightWhereNoWindowDrawsThem) {
+TEST_F(MessageRows, HaveTheMinimumHeightWithoutAWindow) {
     window->drawWith(nullptr);
     add(std::string(1000, 'x'));
     EXPECT_EQ(height(1), 20);
@@ -149,7 +149,7 @@ TEST_F(MessageRows, ShowThePictureOfTheirType) {
     EXPECT_EQ(pictures.loads, 2);
 }
 
-TEST_F(MessageRows, WithoutTheirPictureAreRowsAllTheSame) {
+TEST_F(MessageRows, MayLackTheirPicture) {
     int told = 0;
     const auto watch = window->added.connect([&told](bool) { ++told; });
     pictures.away = true;
@@ -162,8 +162,8 @@ TEST_F(MessageRows, WithoutTheirPictureAreRowsAllTheSame) {
     EXPECT_TRUE(errors.seen.empty());
 }
 
-/// Whoever draws the row when he is told of it finds it finished.
-TEST_F(MessageRows, AreToldOfWhenTheyAreFinished) {
+/// A handler that draws the row when it is added finds it complete.
+TEST_F(MessageRows, AreAnnouncedWhenComplete) {
     std::vector<bool> places;
     const auto watch = window->added.connect([&](bool atTop) {
         places.push_back(atTop);
@@ -178,14 +178,14 @@ TEST_F(MessageRows, AreToldOfWhenTheyAreFinished) {
     EXPECT_THAT(places, ElementsAre(true, false, true));
 }
 
-TEST_F(MessageRows, ThatAWindowFailsToDrawAreReportedAndStay) {
+TEST_F(MessageRows, AreKeptWhenDrawingFails) {
     const auto watch = window->added.connect([](bool) { throw basic::RuntimeError(7); });
     add("e");
     EXPECT_THAT(errors.seen, ElementsAre("udocCompileMsgs.add [7]"));
     EXPECT_EQ(window->rowCount(), 2);
 }
 
-TEST_F(MessageRows, GoWhenTheyAreCleared) {
+TEST_F(MessageRows, AreRemovedWhenCleared) {
     add("e");
     window->select(1);
     int told = 0;
@@ -196,9 +196,9 @@ TEST_F(MessageRows, GoWhenTheyAreCleared) {
     EXPECT_EQ(told, 1);
 }
 
-TEST_F(MessageRows, LeaveTheStatusLineToTheWholeWindow) {
+TEST_F(MessageRows, LeaveTheStatusLineTheWholeWidth) {
     EXPECT_EQ(window->statusSizes().separatorWidth, 1020 * 15);
-    EXPECT_EQ(window->statusSizes().textLeft, 75 + 7 * 10 * 15); // behind "Status:"
+    EXPECT_EQ(window->statusSizes().textLeft, 75 + 7 * 10 * 15); // after "Status:"
     EXPECT_EQ(window->statusSizes().textLeft + window->statusSizes().textWidth, 1020 * 15 - 75);
     window->SetStatusLabel("Compile Status:");
     EXPECT_EQ(window->statusSizes().textLeft, 75 + 15 * 10 * 15);

@@ -27,7 +27,7 @@ protected:
     basic::Ref<test::TracedComponent> form, module;
 };
 
-TEST_F(MessageStore, KeepsAMessageTwice) {
+TEST_F(MessageStore, ShowsAndStoresAMessage) {
     error("No such name");
     EXPECT_THAT(rows(), ElementsAre("Form1|3|1042|No such name"));
     EXPECT_EQ(stored("NumErrors"), "1");
@@ -96,7 +96,7 @@ TEST_F(MessageStore, OnlyTheStoredCopyIsFiltered) {
     EXPECT_THAT(rows(), ElementsAre("Form1|3|1042|a:b 'c' d e f"));
 }
 
-TEST_F(MessageStore, ReadsBackInStoredOrderAndCountsAnew) {
+TEST_F(MessageStore, ReadsBackInStoredOrderAndCountsAgain) {
     warning("w");
     error("a");
     error("b");
@@ -108,14 +108,14 @@ TEST_F(MessageStore, ReadsBackInStoredOrderAndCountsAnew) {
     EXPECT_EQ(window->lblStatus(), "Compile Status:");
 }
 
-TEST_F(MessageStore, AMissingMessageLosesOnlyItself) {
+TEST_F(MessageStore, AMissingMessageIsSkipped) {
     for (const char* text : {"a", "b", "c"}) error(text);
     project->properties.erase({test::kMessagesSection, "Error2"});
     messages.ReadProjectErrors(project);
     EXPECT_THAT(rows(), ElementsAre("Form1|3|1042|a", "Form1|3|1042|c"));
 }
 
-TEST_F(MessageStore, AnUnknownTypeTakesThatOfTheMessageBefore) {
+TEST_F(MessageStore, AnUnknownTypeReadsAsThePreviousMessagesType) {
     store("NumErrors", "3");
     store("Error1", "UNKNOWN||0|first|0");
     store("Error2", "WARNING||0|second|0");
@@ -126,7 +126,7 @@ TEST_F(MessageStore, AnUnknownTypeTakesThatOfTheMessageBefore) {
     EXPECT_EQ(messages.warningCount(), 2);
 }
 
-TEST_F(MessageStore, OfOtherTypesItStoresThatTheyAreUnknown) {
+TEST_F(MessageStore, OtherTypesAreStoredAsUnknown) {
     messages.AddProjectError(project, "m", "f", 7, 0, 9);
     EXPECT_EQ(stored("Error1"), "UNKNOWN|f|7|m|9");
     EXPECT_THAT(rows(), IsEmpty());
@@ -146,7 +146,7 @@ TEST_F(MessageStore, ALaterFieldKeepsItsSeparators) {
     EXPECT_THAT(rows(), ElementsAre("|5||text"));
 }
 
-TEST_F(MessageStore, DamagedEntriesAreLeftOut) {
+TEST_F(MessageStore, DamagedEntriesAreSkipped) {
     store("NumErrors", "3");
     store("Error1", "");
     store("Error2", "ERROR|only");
@@ -155,7 +155,7 @@ TEST_F(MessageStore, DamagedEntriesAreLeftOut) {
     EXPECT_THAT(rows(), ElementsAre("|||text"));
 }
 
-TEST_F(MessageStore, ADamagedCountReadsAsNone) {
+TEST_F(MessageStore, ADamagedCountReadsAsZero) {
     store("NumErrors", "many");
     messages.ReadProjectErrors(project);
     EXPECT_EQ(messages.NumProjectCompileErrors(project), 0);
@@ -164,7 +164,7 @@ TEST_F(MessageStore, ADamagedCountReadsAsNone) {
     EXPECT_EQ(stored("NumErrors"), "1");
 }
 
-TEST_F(MessageStore, AnAbsurdCountDoesNotHang) {
+TEST_F(MessageStore, AnExcessiveCountIsLimited) {
     store("NumErrors", "2147483647");
     messages.ReadProjectErrors(project);
     EXPECT_THAT(rows(), IsEmpty());
@@ -197,25 +197,25 @@ TEST_F(MessageStore, AReadOnlyProjectIsSilent) {
     EXPECT_EQ(stored("NumErrors"), "1");
 }
 
-TEST_F(MessageStore, WithoutAWindowTheMessageIsStoredAllTheSame) {
+TEST_F(MessageStore, WithoutAWindowTheMessageIsStillStored) {
     messages.killToolWindow();
     error("a");
     EXPECT_EQ(messages.errorCount(), 0);
     EXPECT_EQ(stored("NumErrors"), "1");
 }
 
-TEST_F(MessageStore, TitlesGoByFileNameWithoutRegardToCaseAndFolder) {
+TEST_F(MessageStore, TitlesIgnoreCaseAndFolder) {
     EXPECT_EQ(messages.FindFileTitle(project, "/elsewhere/MODULE1.BAS"), "Module1");
     EXPECT_EQ(messages.FindFileTitle(project, "/p/Other.bas"), "");
     EXPECT_EQ(messages.FindFileTitle(project, ""), "");
 }
 
-TEST_F(MessageStore, OfTwoFilesOfOneNameTheFirstCounts) {
+TEST_F(MessageStore, TheFirstOfTwoFilesWithOneNameIsUsed) {
     project->add("Copy", "/q/Form1.frm");
     EXPECT_EQ(messages.FindFileTitle(project, "/q/Form1.frm"), "Form1");
 }
 
-TEST_F(MessageStore, AMessageWithoutAFileHasNoTitleThoughAComponentHasNone) {
+TEST_F(MessageStore, AMessageWithoutAFileHasNoTitle) {
     project->add("New", "");
     EXPECT_EQ(messages.FindFileTitle(project, ""), "");
 }
@@ -236,7 +236,7 @@ TEST_F(MessageStore, ANewRunSeesNewComponents) {
     EXPECT_EQ(messages.FindFileTitle(project, "Late.bas"), "Late");
 }
 
-TEST_F(MessageStore, LookUpsAreNotAWalkEach) {
+TEST_F(MessageStore, LookupsAreCached) {
     for (int i = 0; i < 300; ++i) project->add("C" + std::to_string(i), "/p/C" + std::to_string(i) + ".bas");
     trace.calls = 0;
     for (int i = 0; i < 10'000; ++i) messages.FindFileTitle(project, "/p/C299.bas");
@@ -244,9 +244,9 @@ TEST_F(MessageStore, LookUpsAreNotAWalkEach) {
     EXPECT_LT(trace.calls, 25'000);
 }
 
-TEST_F(MessageStore, AComponentThatFailsIsReportedOnceAndTakenForTheOne) {
+TEST_F(MessageStore, AFailingComponentIsReportedOnceAndUsed) {
     trace.calls = 0;
-    trace.failing = 3; // the components, their list, the first one's file
+    trace.failing = 3; // the calls: the components, their list, the first one's file
     EXPECT_EQ(messages.FindFileTitle(project, "Module1.bas"), "Form1");
     EXPECT_THAT(errors.seen, ElementsAre("modCompileErrorManagement.FindFileTitle [50000]"));
 }

@@ -40,7 +40,7 @@ TEST_F(MessageWindow, HidingWithoutAWindowDoesNothing) {
     EXPECT_THAT(trace.effects, IsEmpty());
 }
 
-TEST_F(MessageWindow, AHostThatMakesNoneIsReported) {
+TEST_F(MessageWindow, AFailedCreationIsReported) {
     vbe->addins->list.clear();
     messages.createToolWindow();
     EXPECT_THAT(errors.seen, ElementsAre("modCompileErrorManagement.createToolWindow [9]",
@@ -84,7 +84,7 @@ TEST_F(MessageWindow, GoesToTheFirstMessageWithALineWhateverItsType) {
                 ElementsAre("Form1 pane", "redraw off", "Form1 state 0", "redraw on", "Form1 focus", "12,1-12,9999"));
 }
 
-TEST_F(MessageWindow, WithoutALineThereIsNowhereToGo) {
+TEST_F(MessageWindow, WithoutALineNothingOpens) {
     window->add("f", "Form1", 0, "m", fernwick::ERROR_MSG, 1, false);
     window->gotoFirstError();
     EXPECT_EQ(window->selectedRow(), 0);
@@ -93,7 +93,7 @@ TEST_F(MessageWindow, WithoutALineThereIsNowhereToGo) {
     EXPECT_EQ(window->selectedRow(), 1);
 }
 
-TEST_F(MessageWindow, TheHeaderLeadsNowhere) {
+TEST_F(MessageWindow, TheHeaderOpensNothing) {
     window->add("f", "Form1", 3, "m", fernwick::ERROR_MSG, 1, false);
     window->gotoMessage(0);
     EXPECT_THAT(trace.effects, IsEmpty());
@@ -105,16 +105,16 @@ TEST_F(MessageWindow, AMissingComponentIsReportedOnce) {
     EXPECT_THAT(errors.seen, ElementsAre("udocCompileMsgs.msgGrid_DblClick [9]"));
 }
 
-TEST_F(MessageWindow, ARowBehindTheLastIsReported) {
+TEST_F(MessageWindow, ARowAfterTheLastIsReported) {
     window->gotoMessage(2);
     EXPECT_THAT(errors.seen, ElementsAre("udocCompileMsgs.gotoMessage [30009]"));
-    window->gotoMessage(3); // too far to be tried
+    window->gotoMessage(3); // beyond the last row
     EXPECT_EQ(errors.seen.size(), 1U);
 }
 
-TEST_F(MessageWindow, LeadsNowhereWhenTheAddInIsGone) {
+TEST_F(MessageWindow, DoesNothingAfterTheAddInIsDisconnected) {
     window->add("f", "Form1", 3, "m", fernwick::ERROR_MSG, 1, false);
-    window->letGo();
+    window->disconnect();
     window->gotoMessage(1);
     EXPECT_THAT(trace.effects, IsEmpty());
     EXPECT_EQ(rows().size(), 1U);

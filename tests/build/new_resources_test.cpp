@@ -29,27 +29,27 @@ protected:
     }
 };
 
-TEST_F(NewResources, OneBelowTheProjectIsNamedFromThere) {
+TEST_F(NewResources, AFileBelowTheProjectHasARelativeName) {
     EXPECT_EQ(create("/p/Media/a.bmp"), (tResource{"Media\\a.bmp", "BMP", 5}));
     EXPECT_EQ(create("/P/media/a.bmp").FileName, "media\\a.bmp");
     EXPECT_THAT(trace.effects, IsEmpty());
 }
 
-TEST_F(NewResources, OneOutsideIsCopiedWhenTheUserAgrees) {
+TEST_F(NewResources, AFileOutsideIsCopiedWhenTheUserAgrees) {
     user.answers = {fernwick::vbYes};
     EXPECT_EQ(create("/media/b.wav"), (tResource{"b.wav", "WAV", 3}));
     EXPECT_THAT(trace.effects, ElementsAre(kCopyQuestion));
     EXPECT_EQ(files.files["/p/b.wav"].bytes, "123");
 }
 
-TEST_F(NewResources, OneOutsideIsNotAddedWithoutACopy) {
+TEST_F(NewResources, AFileOutsideIsNotAddedWithoutACopy) {
     user.answers = {fernwick::vbNo};
     EXPECT_EQ(create("/media/b.wav"), tResource{});
     EXPECT_THAT(trace.effects, ElementsAre(kCopyQuestion, "box 48 Fernwick: Error copying file!"));
     EXPECT_EQ(files.files.count("/p/b.wav"), 0U);
 }
 
-TEST_F(NewResources, OneOutsideIsCopiedUnaskedWhereNobodyIsToBeAsked) {
+TEST_F(NewResources, AFileOutsideIsCopiedWithoutAQuestionIfNotAllowedToAsk) {
     EXPECT_EQ(create("/media/b.wav", false).FileName, "b.wav");
     EXPECT_EQ(files.files["/p/b.wav"].bytes, "123");
     EXPECT_THAT(trace.effects, IsEmpty());
@@ -84,18 +84,18 @@ TEST_F(NewResources, TheDialogStartsAtTheProjectAndTakesSeveralFiles) {
               "Nokia Ringtone (*.rng)|*.rng|UIQ208 Ringtone (*.imy)|*.imy|Text File (*.txt)|*.txt|");
 }
 
-TEST_F(NewResources, OneChosenFileComesAsItsPath) {
+TEST_F(NewResources, OneChosenFileIsReturnedAsItsPath) {
     EXPECT_THAT(choose("/p/Media/a.bmp"), ElementsAre(tResource{"Media\\a.bmp", "BMP", 5}));
     EXPECT_THAT(choose("/p/Media/gone.bmp"), IsEmpty());
 }
 
-TEST_F(NewResources, SeveralComeAsTheirFolderAndNames) {
+TEST_F(NewResources, SeveralChosenFilesAreReturnedAsFolderAndNames) {
     files.files["/p/Media/c.png"] = {"1"};
     EXPECT_THAT(choose(partedByNul({"/p/Media", "a.bmp", "gone.bmp", "c.png", "a.bmp"})),
                 ElementsAre(tResource{"Media\\a.bmp", "BMP", 5}, tResource{"Media\\c.png", "PNG", 1}));
 }
 
-TEST_F(NewResources, OneThatTheUserDoesNotCopyIsLeftOutOfSeveral) {
+TEST_F(NewResources, AFileThatTheUserDoesNotCopyIsSkipped) {
     files.files["/media/a.bmp"] = {"1"};
     user.answers = {fernwick::vbNo, fernwick::vbYes};
     EXPECT_THAT(choose(partedByNul({"/media", "a.bmp", "b.wav"})), ElementsAre(tResource{"b.wav", "WAV", 3}));
@@ -103,7 +103,7 @@ TEST_F(NewResources, OneThatTheUserDoesNotCopyIsLeftOutOfSeveral) {
 
 TEST_F(NewResources, ADialogThatFailsIsReportedAndChoosesNothing) {
     user.chosen = "/p/Media/a.bmp";
-    trace.failing = trace.calls + 2; // behind the project's folder
+    trace.failing = trace.calls + 2; // after the project's folder
     EXPECT_EQ(dependencies.GetNewDependency(project).Count(), 0);
     EXPECT_EQ(errors.injected, 1);
 }

@@ -22,7 +22,7 @@ std::vector<std::string> namesOf(const tResourceList& list) {
 
 } // namespace
 
-TEST(ResourceList, AddsAtTheEndAndLeavesOutWhatHasNoName) {
+TEST(ResourceList, AppendsEntriesThatHaveAName) {
     auto list = listOf({"a.bmp", "b.bmp"});
     Dependencies::AddDependency({"", "BMP", 7}, list);
     Dependencies::AddDependency({"a.bmp"}, list);
@@ -37,7 +37,7 @@ TEST(ResourceList, ClearLeavesNothing) {
     EXPECT_EQ(list.Count(), 0);
 }
 
-TEST(ResourceList, HoldsExactNamesAndFindsThemInAnyLetterCase) {
+TEST(ResourceList, ContainsExactNamesAndFindsThemInAnyCase) {
     const auto list = listOf({"a.bmp", "B.bmp", "b.BMP"});
     EXPECT_TRUE(Dependencies::ResourceinDependencyList("B.bmp", list));
     EXPECT_FALSE(Dependencies::ResourceinDependencyList("A.bmp", list));
@@ -45,7 +45,7 @@ TEST(ResourceList, HoldsExactNamesAndFindsThemInAnyLetterCase) {
     EXPECT_EQ(Dependencies::FindResourceIndex("c.bmp", list), -1);
 }
 
-TEST(ResourceList, RemovingMovesTheLaterOnesDown) {
+TEST(ResourceList, RemovingMovesLaterEntriesDown) {
     auto list = listOf({"a", "b", "c"});
     Dependencies::RemoveDependency(1, list);
     EXPECT_EQ(namesOf(list), (std::vector<std::string>{"a", "c"}));

@@ -47,7 +47,7 @@ TEST_F(StoredResources, ClearingWhatWasNeverWrittenWritesNothing) {
     EXPECT_THAT(trace.effects, IsEmpty());
 }
 
-TEST_F(StoredResources, ComeBackWithTheirSizes) {
+TEST_F(StoredResources, AreReadWithTheirSizes) {
     files.files["/p/a.bmp"] = {"12345"};
     files.files["/p/Ari_12R.CMF"] = {"12"};
     files.files["/install/Fonts/Tah_08R.CMF"] = {"123"};
@@ -59,7 +59,7 @@ TEST_F(StoredResources, ComeBackWithTheirSizes) {
     EXPECT_THAT(errors.seen, IsEmpty());
 }
 
-TEST_F(StoredResources, AnEntryThatCannotBeReadIsBlankAndTheOthersCome) {
+TEST_F(StoredResources, AnUnreadableEntryIsBlankAndTheOthersAreRead) {
     set(kDependencies, "NumDependencies", "4");
     set(kDependencies, "Dependencies0", "");
     set(kDependencies, "Dependencies2", "a,b.bmp,BMP");
@@ -83,12 +83,12 @@ TEST_F(StoredResources, AreValidWhenAllFilesAreInTheirPlaces) {
     EXPECT_TRUE(allThere({picture, own, installed}));
     EXPECT_TRUE(allThere({}));
     EXPECT_FALSE(allThere({picture, {"b.bmp", "BMP"}}));
-    EXPECT_FALSE(allThere({{"Tah_08R.CMF", "BMP"}})); // of another kind, it must lie in the project's folder
+    EXPECT_FALSE(allThere({{"Tah_08R.CMF", "BMP"}})); // of another kind, so it must be in the project's folder
     EXPECT_FALSE(allThere({{"", ""}}));
     EXPECT_THAT(trace.effects, IsEmpty());
 }
 
-TEST_F(StoredResources, EachFailingCallOfAWriteCostsOnlyItself) {
+TEST_F(StoredResources, AFailingCallOfAWriteSkipsOnlyItself) {
     const tResourceList list{{{"a", "A"}, {"b", "B"}}};
     dependencies.WriteProjectDependencies(project, list);
     trace.effects.clear();
@@ -103,7 +103,7 @@ TEST_F(StoredResources, EachFailingCallOfAWriteCostsOnlyItself) {
         trace.failing = 0;
         if (calls < failing) break;
         EXPECT_LE(errors.injected, 1) << failing;
-        // without the count nothing is cleared
+        // without a count nothing is cleared
         EXPECT_LE(test::lost(baseline, trace.effects).size(), failing == 1 ? 3U : 1U) << failing;
     }
 }

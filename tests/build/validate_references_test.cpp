@@ -1,4 +1,4 @@
-// Libraries that a project uses and its device doesn't have.
+// Libraries that a project uses and its device does not have.
 #include "validate_world.h"
 
 using testing::ElementsAre;
@@ -49,7 +49,7 @@ TEST_F(ValidateReferences, AnUnknownDeviceEndsTheChecks) {
     EXPECT_THAT(errors.seen, IsEmpty());
 }
 
-TEST_F(ValidateReferences, OneThatTheTargetKnowsGivesNoMessage) {
+TEST_F(ValidateReferences, AKnownReferenceGivesNoMessage) {
     addReference(kId);
     dependOn({kId});
     targets.knows.references = {kId};
@@ -57,23 +57,23 @@ TEST_F(ValidateReferences, OneThatTheTargetKnowsGivesNoMessage) {
     EXPECT_THAT(rows(), IsEmpty());
 }
 
-TEST_F(ValidateReferences, OneOfTheProjectThatTheTargetDoesNotKnowIsAnError) {
+TEST_F(ValidateReferences, AnUnknownReferenceOfTheProjectIsAnError) {
     addReference(kId);
     dependOn({kId});
-    targets.knows.modules = {kId}; // which is asked for what the project doesn't refer to
+    targets.knows.modules = {kId}; // only consulted for modules that the project does not refer to
     EXPECT_FALSE(run());
     EXPECT_THAT(rows(), ElementsAre(notSupported(std::string("TypeLib with UUID = ") + kId)));
     EXPECT_EQ(stored("Error1").substr(0, 9), "ERROR||0|");
 }
 
-TEST_F(ValidateReferences, TheProjectsGuidsAreComparedWithTheirLetterCase) {
+TEST_F(ValidateReferences, GuidsAreCaseSensitive) {
     addReference("{8a516a60-1b8e-11d3-8c4b-0050046eccf2}");
     dependOn({kId});
     targets.knows.modules = {kId};
     EXPECT_TRUE(run());
 }
 
-TEST_F(ValidateReferences, AModuleWithoutAReferenceIsAskedForASecondTime) {
+TEST_F(ValidateReferences, AModuleWithoutAReferenceIsLookedUpAmongModules) {
     dependOn({kId, "{B}"});
     targets.knows.modules = {"{B}"};
     EXPECT_FALSE(run());
@@ -92,7 +92,7 @@ TEST_F(ValidateReferences, AreNamedByTheirLibrarysDescription) {
     EXPECT_EQ(registry.openKeys(), 0U);
 }
 
-TEST_F(ValidateReferences, ALibraryThatDoesNotDescribeItselfIsNamedByItsIdentifier) {
+TEST_F(ValidateReferences, ALibraryWithoutADescriptionIsNamedByItsIdentifier) {
     dependOn({kId});
     module("/modules/some.dll", "");
     EXPECT_FALSE(run());
@@ -102,7 +102,7 @@ TEST_F(ValidateReferences, ALibraryThatDoesNotDescribeItselfIsNamedByItsIdentifi
     EXPECT_THAT(errors.seen, IsEmpty());
 }
 
-TEST_F(ValidateReferences, ALibraryThatIsGoneIsReportedAndNamedByItsIdentifier) {
+TEST_F(ValidateReferences, AMissingLibraryIsReportedAndNamedByItsIdentifier) {
     dependOn({kId});
     module("/modules/some.dll", "");
     classes.libraries.clear();
@@ -111,7 +111,7 @@ TEST_F(ValidateReferences, ALibraryThatIsGoneIsReportedAndNamedByItsIdentifier) 
     EXPECT_THAT(rows(), ElementsAre(notSupported(std::string("TypeLib with UUID = ") + kId)));
 }
 
-TEST_F(ValidateReferences, WithoutALibraryOfTargetsTheLookUpsFailIntoTheReport) {
+TEST_F(ValidateReferences, WithoutDesignTargetsTheLookupsAreReported) {
     classes.forget("DesignTargetAccess.QLDesignTargetMgr");
     addReference("{2}", true);
     dependOn({kId});

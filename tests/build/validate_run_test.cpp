@@ -12,7 +12,7 @@ constexpr char kCompileFailed[] = "FAILED - Errors (1 items) must be fixed to de
 
 class ValidateRun : public testing::Test, protected test::ValidateWorld {};
 
-TEST_F(ValidateRun, OfAProjectWithoutFindingsSaysNothing) {
+TEST_F(ValidateRun, ShowsNoMessageWithoutFindings) {
     window->SetStatusText("as the compile left it");
     EXPECT_TRUE(run());
     EXPECT_THAT(rows(), IsEmpty());
@@ -21,7 +21,7 @@ TEST_F(ValidateRun, OfAProjectWithoutFindingsSaysNothing) {
     EXPECT_FALSE(validate.isLoaded());
 }
 
-TEST_F(ValidateRun, ShowsWhatItDoes) {
+TEST_F(ValidateRun, ShowsItsProgress) {
     std::vector<std::string> told;
     const auto atWork = validate.aniValidate.Playing.watch([&](int playing) {
         if (playing == 0) return;
@@ -43,7 +43,7 @@ TEST_F(ValidateRun, ShowsWhatItDoes) {
     EXPECT_EQ(validate.prgbarUpdate.Value(), 0);
 }
 
-TEST_F(ValidateRun, ThatFailsShowsThePictureTheWindowAndTheStatus) {
+TEST_F(ValidateRun, AFailureShowsThePictureTheWindowAndTheStatus) {
     addReference("{1}", true);
     bool failed = false;
     const auto watch = validate.failedImg.Visible.watch([&](bool visible) { failed = visible; });
@@ -53,7 +53,7 @@ TEST_F(ValidateRun, ThatFailsShowsThePictureTheWindowAndTheStatus) {
     EXPECT_TRUE(messages.isToolWindowShowing());
 }
 
-TEST_F(ValidateRun, LateActivationsDoNotStartItAgain) {
+TEST_F(ValidateRun, LaterActivationsDoNotRestartIt) {
     addReference("{1}", true);
     const auto again = validate.Refreshed.connect([&] { validate.activate(); });
     EXPECT_FALSE(run());
@@ -82,7 +82,7 @@ TEST_F(ValidateRun, SavesTheFilesEvenWhenReferencesFail) {
     EXPECT_THAT(trace.effects, Contains("Demo saved /p/Demo.vbp")); // the messages changed the project
 }
 
-TEST_F(ValidateRun, AProjectThatMayNotBeValidatedIsNeitherScannedNorSaved) {
+TEST_F(ValidateRun, ARefusedProjectIsNeitherScannedNorSaved) {
     addReference("{1}", true);
     files.files.erase("/p/Demo.vbp");
     messages.AddProjectCompileError(project, "from the compile", "", 0, 1);
@@ -94,21 +94,21 @@ TEST_F(ValidateRun, AProjectThatMayNotBeValidatedIsNeitherScannedNorSaved) {
     EXPECT_EQ(status(), kCompileFailed);
 }
 
-TEST_F(ValidateRun, AfterACompileOfAnotherVersionNothingIsSavedAgain) {
+TEST_F(ValidateRun, ACompileOfAnotherVersionDoesNotCauseASave) {
     set("Quinloft Global", "LastCompileVersion", "3.5.0 (0623)");
     EXPECT_TRUE(run());
     EXPECT_THAT(trace.effects, Not(Contains("form frmSaveProjectFiles")));
 }
 
-TEST_F(ValidateRun, AStoppedRunIsNoSuccessThoughTheLastOneWas) {
+TEST_F(ValidateRun, AStoppedRunDoesNotInheritAnEarlierSuccess) {
     EXPECT_TRUE(run());
-    validate.Visible(true); // it stands already, so that it can't be shown
+    validate.Visible(true); // already visible, so it cannot be shown modally
     EXPECT_FALSE(run());
     EXPECT_THAT(errors.seen, ElementsAre("frmValidate.ValidateProject [400]"));
     validate.Visible(false);
 }
 
-TEST_F(ValidateRun, EachCallThatFailsCostsOnlyItself) {
+TEST_F(ValidateRun, AFailingCallSkipsOnlyItself) {
     addReference("{1}", true);
     dependOn({"{A}", "{B}"});
     targets.knows.references = {"{A}"};

@@ -1,4 +1,4 @@
-// Whether the image on disk is that of the project as it stands.
+// Whether the image on disk is up to date.
 #include "deploy_world.h"
 
 namespace {
@@ -6,7 +6,7 @@ namespace {
 class CompiledImage : public testing::Test, protected test::DeployWorld {
 protected:
     bool isCurrent() { return sendToDevice.IsCompiledImageCurrent(qlProject); }
-    /// Module1's time from that of the image, in nanoseconds.
+    /// Sets the difference of Module1's time to the image's, in nanoseconds.
     void setModule1(std::int64_t later) { setTime("Module1.bas", timeOf("Foo.0000.qlx") + later); }
 };
 
@@ -37,11 +37,11 @@ TEST_F(CompiledImage, UnsavedChangesMakeItStale) {
     EXPECT_FALSE(isCurrent());
 }
 
-TEST_F(CompiledImage, AComponentThatWasNeverSavedDoesNotCount) {
+TEST_F(CompiledImage, AnUnsavedNewComponentIsIgnored) {
     project->add("Module2", "")->dirty = true;
     EXPECT_TRUE(isCurrent());
     project->components->list.erase(project->components->list.begin());
-    EXPECT_FALSE(isCurrent()); // no component that could be read
+    EXPECT_FALSE(isCurrent()); // no component can be read
     EXPECT_TRUE(errors.seen.empty());
 }
 
@@ -57,13 +57,13 @@ TEST_F(CompiledImage, AnImageOfAnotherCompilerVersionIsNotCurrent) {
     }
 }
 
-TEST_F(CompiledImage, WithoutAFileThereIsNone) {
+TEST_F(CompiledImage, WithoutAFileItIsNotCurrent) {
     std::filesystem::remove(image);
     EXPECT_FALSE(isCurrent());
     EXPECT_TRUE(errors.seen.empty());
 }
 
-TEST_F(CompiledImage, TheShortNameCountsBeforeTheLongOne) {
+TEST_F(CompiledImage, TheShortNameTakesPrecedence) {
     folder.write("Foo/Foo.qlx", "");
     setTime("Foo.qlx", timeOf("Module1.bas") - 1);
     EXPECT_FALSE(isCurrent());
@@ -72,7 +72,7 @@ TEST_F(CompiledImage, TheShortNameCountsBeforeTheLongOne) {
     EXPECT_TRUE(isCurrent());
 }
 
-TEST_F(CompiledImage, WhatTheCompilerWrites) {
+TEST_F(CompiledImage, RecognisesTheCompilersFiles) {
     for (const char* file : {"Foo.0000.qlx", "FOO.0001.RPP", "foo.rsp", "Foo..qlx", "Foo.a.b.rpp"})
         EXPECT_TRUE(sendToDevice.IsCompilerFile(file, "Foo")) << file;
     for (const char* file : {"Foo.qlx", "Foo2.0000.qlx", "Foo.rpp", "Foo.0000.rsp", "Foo.0000.qlx.bak", "Foo", ""})

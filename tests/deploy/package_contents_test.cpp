@@ -1,4 +1,4 @@
-// What goes to the device, in which order and under which names.
+// The files sent to the device, their order and their names.
 #include "deploy_world.h"
 
 using fernwick::vbNo;
@@ -20,7 +20,7 @@ protected:
     void storeTavletFiles(const Names& names) { store("NumTavletFileDependencies", "TavletFileDependency", names); }
     void storeFonts(const Names& names) { store("NumFontDependencies", "FontDependency", names); }
     void storeComponents(const Names& ids) { store("NumComponentDependencies", "ComponentDependency", ids); }
-    /// Sends the image as it is, whatever its age.
+    /// Sends the image regardless of its age.
     void gather() {
         project->properties[{"Quinloft Global", "LastCompileVersion"}] = "older";
         prefs.SetQuinloftCompileWarning(true);
@@ -31,7 +31,7 @@ protected:
     std::string question(const std::string& kind, const std::string& file) const {
         return "box 52 Fernwick: ERROR: Missing " + kind + " File, would you like to continue?\r\n" + path(file);
     }
-    /// Answers of the question whether to edit the dependencies, and then of the missing files'.
+    /// Answers to the question whether to edit the dependencies, then to those about missing files.
     void answer(std::initializer_list<int> answers) {
         user.answers = {vbNo};
         user.answers.insert(user.answers.end(), answers);
@@ -50,7 +50,7 @@ TEST_F(PackageContents, TheCompilersFilesOfTheProjectComeFirst) {
     EXPECT_THAT(family.files, ElementsAre(path("Foo.0000.qlx"), path("FOO.0001.RPP"), path("foo.rsp")));
 }
 
-TEST_F(PackageContents, ThenTheUsersFilesThoseOfControlsFontsAndComponents) {
+TEST_F(PackageContents, ThenFollowTheUsersFilesControlsFontsAndComponents) {
     addFiles({"Foo.0000.qlx", "Data/cities.pdb", "tool.prc"});
     storeDependencies({"Data\\cities.pdb,PDB"});
     storeTavletFiles({"tool.prc"});
@@ -64,7 +64,7 @@ TEST_F(PackageContents, ThenTheUsersFilesThoseOfControlsFontsAndComponents) {
     EXPECT_THAT(boxes(), IsEmpty());
 }
 
-TEST_F(PackageContents, AFileInTwoListsStandsOnceAtItsFirstPlace) {
+TEST_F(PackageContents, AFileInTwoListsIsListedOnceAtItsFirstPlace) {
     addFiles({"a.pdb", "b.pdb", "Foo.rsp"});
     storeDependencies({"b.pdb,PDB", "a.pdb,PDB", "Foo.rsp,RSP"});
     storeTavletFiles({"A.PDB", "b.pdb"});
@@ -72,7 +72,7 @@ TEST_F(PackageContents, AFileInTwoListsStandsOnceAtItsFirstPlace) {
     EXPECT_THAT(family.resources, ElementsAre("Foo.rsp", "b.pdb", "a.pdb"));
 }
 
-TEST_F(PackageContents, AFontOfTheProjectGoesUnderItsBareNameToo) {
+TEST_F(PackageContents, AFontOfTheProjectIsSentUnderItsBareName) {
     addFiles({"Fonts/My_10R.cmf", "Oth_10R.CMF"});
     storeDependencies({"Fonts\\My_10R.cmf,CMF"});
     storeFonts({"Oth_10R.CMF"});
@@ -81,14 +81,14 @@ TEST_F(PackageContents, AFontOfTheProjectGoesUnderItsBareNameToo) {
     EXPECT_THAT(family.resources, ElementsAre("My_10R.cmf", "Oth_10R.CMF"));
 }
 
-TEST_F(PackageContents, AFontOfTheInstallationCountsBeforeTheProjects) {
+TEST_F(PackageContents, AnInstalledFontTakesPrecedenceOverTheProjects) {
     addFiles({"Ari_08B.CMF"});
     storeDependencies({"Ari_08B.CMF,cmf"});
     gather();
     EXPECT_THAT(family.files, ElementsAre(folder / "install/Fonts/Ari_08B.CMF"));
 }
 
-TEST_F(PackageContents, OtherFilesAreNotLookedForAmongTheFonts) {
+TEST_F(PackageContents, OtherFilesAreNotSearchedInTheFontsFolder) {
     folder.write("install/Fonts/a.gdr", "");
     storeDependencies({"a.gdr,GDR"});
     answer({vbNo});
@@ -96,18 +96,18 @@ TEST_F(PackageContents, OtherFilesAreNotLookedForAmongTheFonts) {
     EXPECT_THAT(questions(), ElementsAre(question("Dependency", "a.gdr")));
 }
 
-TEST_F(PackageContents, WithoutAnInstallationFontsAreThoseOfTheProject) {
+TEST_F(PackageContents, WithoutAnInstallationTheProjectsFontsAreUsed) {
     registry.set(fernwick::HKEY_LOCAL_MACHINE, "Software\\Quinloft", "RootDir", "");
     addFiles({"Ari_08B.CMF"});
     storeFonts({"Ari_08B.CMF"});
     const auto before = std::filesystem::current_path();
-    std::filesystem::current_path(folder / "install/Fonts"); // where the process happens to be does not count
+    std::filesystem::current_path(folder / "install/Fonts"); // the current folder is irrelevant
     gather();
     std::filesystem::current_path(before);
     EXPECT_THAT(family.files, ElementsAre(path("Ari_08B.CMF")));
 }
 
-TEST_F(PackageContents, NamesMatchInAnyLetterCase) {
+TEST_F(PackageContents, NamesMatchInAnyCase) {
     addFiles({"Data/Cities.pdb"});
     storeDependencies({"DATA\\CITIES.PDB,PDB"});
     gather();
@@ -115,7 +115,7 @@ TEST_F(PackageContents, NamesMatchInAnyLetterCase) {
     EXPECT_THAT(family.resources, ElementsAre("Data\\Cities.pdb"));
 }
 
-TEST_F(PackageContents, WhatIsMissingIsLeftOutWhereTheUserAgrees) {
+TEST_F(PackageContents, MissingFilesAreSkippedWhenTheUserAgrees) {
     addFiles({"Foo.rsp"});
     storeDependencies({"a.pdb,PDB"});
     storeTavletFiles({"b.prc"});
@@ -154,7 +154,7 @@ TEST_F(PackageContents, ComponentsAloneAreAPackage) {
     EXPECT_THAT(family.resources, ElementsAre("REF"));
 }
 
-TEST_F(PackageContents, NothingAtAllIsReportedAndSent) {
+TEST_F(PackageContents, AnEmptyPackageIsReportedAndSent) {
     gather();
     EXPECT_THAT(errors.seen, ElementsAre("frmSendToDevice.CreateResourceList [9]"));
     EXPECT_THAT(family.files, IsEmpty());

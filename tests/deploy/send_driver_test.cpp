@@ -1,4 +1,4 @@
-// Whether a project must be compiled and validated before it is sent, and what is said at the end.
+// Whether a project must be compiled and validated before it is sent, and the final messages.
 #include "deploy_world.h"
 
 using fernwick::vbCancel;
@@ -35,7 +35,7 @@ protected:
             test::press(form, button);
         };
     }
-    /// What the project uses isn't there.
+    /// Makes a reference of the project missing.
     void makeInvalid() {
         project->references->list.push_back(basic::make<test::TracedReference>(trace, "/lib/Gone.tlb"));
         project->references->list.back()->broken = true;
@@ -53,7 +53,7 @@ TEST_F(SendDriver, ACurrentImageIsOnlyValidated) {
     EXPECT_EQ(sendToDevice.LastResult(), true);
 }
 
-TEST_F(SendDriver, WhatIsNotValidIsNotSent) {
+TEST_F(SendDriver, AnInvalidProjectIsNotSent) {
     makeInvalid();
     deploy();
     EXPECT_THAT(forms(), ElementsAre("frmValidate"));
@@ -61,14 +61,14 @@ TEST_F(SendDriver, WhatIsNotValidIsNotSent) {
     EXPECT_EQ(sendToDevice.LastResult(), std::nullopt);
 }
 
-TEST_F(SendDriver, AStaleImageIsCompiledAndValidatedWithoutAQuestionWhereNoneIsWanted) {
+TEST_F(SendDriver, AStaleImageIsCompiledWithoutAQuestionIfTheUserWantsNone) {
     makeStale();
     deploy();
     EXPECT_THAT(forms(), ElementsAre("frmCompile", "frmValidate", "frmSendToDevice"));
     EXPECT_EQ(sendToDevice.LastResult(), true);
 }
 
-TEST_F(SendDriver, AfterTheQuestionItIsCompiledAndValidated) {
+TEST_F(SendDriver, YesCompilesAndValidates) {
     answerNotCurrent("btnYes");
     package();
     EXPECT_THAT(forms(), ElementsAre("frmCompileWarning", "frmCompile", "frmValidate", "frmSendToDevice"));
@@ -77,7 +77,7 @@ TEST_F(SendDriver, AfterTheQuestionItIsCompiledAndValidated) {
     EXPECT_EQ(sendToDevice.LastResult(), true);
 }
 
-TEST_F(SendDriver, TheTickKeepsTheQuestionFromComingBack) {
+TEST_F(SendDriver, TheTickSuppressesTheQuestion) {
     answerNotCurrent("btnYes");
     const auto tick = compileWarning.Loaded.connect([&] { compileWarning.chkWarning.Value(1); });
     deploy();
@@ -86,7 +86,7 @@ TEST_F(SendDriver, TheTickKeepsTheQuestionFromComingBack) {
     EXPECT_THAT(forms(), ElementsAre("frmCompile", "frmValidate", "frmSendToDevice"));
 }
 
-TEST_F(SendDriver, ACompileThatFailsEndsIt) {
+TEST_F(SendDriver, AFailedCompileEndsTheRun) {
     makeStale();
     compiler->built = compiler->finished = false;
     deploy();
@@ -95,7 +95,7 @@ TEST_F(SendDriver, ACompileThatFailsEndsIt) {
     EXPECT_EQ(sendToDevice.LastResult(), std::nullopt);
 }
 
-TEST_F(SendDriver, AValidationThatFailsAfterTheCompileEndsIt) {
+TEST_F(SendDriver, AFailedValidationAfterTheCompileEndsTheRun) {
     makeStale();
     makeInvalid();
     deploy();
@@ -122,7 +122,7 @@ TEST_F(SendDriver, TheOldImageOfAProjectWithErrorsIsSentAfterASecondQuestion) {
     EXPECT_EQ(sendToDevice.LastResult(), true);
 }
 
-TEST_F(SendDriver, ItIsNotSentAgainstTheUsersWill) {
+TEST_F(SendDriver, NoToTheSecondQuestionSendsNothing) {
     answerNotCurrent("btnNo");
     messages.AddProjectCompileError(project, "old", "", 0, 1);
     user.answers = {vbNo};
@@ -133,7 +133,7 @@ TEST_F(SendDriver, ItIsNotSentAgainstTheUsersWill) {
     EXPECT_EQ(sendToDevice.LastResult(), std::nullopt);
 }
 
-TEST_F(SendDriver, CancelEndsIt) {
+TEST_F(SendDriver, CancelEndsTheRun) {
     answerNotCurrent("btnCancel");
     messages.AddProjectCompileError(project, "old", "", 0, 1);
     deploy();
@@ -142,7 +142,7 @@ TEST_F(SendDriver, CancelEndsIt) {
     EXPECT_EQ(stored("NumErrors"), "1");
 }
 
-TEST_F(SendDriver, MessagesStandInThePlaceOfTheFinalStatus) {
+TEST_F(SendDriver, MessagesReplaceTheFinalStatus) {
     family.work = [](qlpipe::IQLPipeEvents& sink) {
         sink.SendWarning("Large", "", 0, 100);
         sink.SendComplete();
@@ -153,7 +153,7 @@ TEST_F(SendDriver, MessagesStandInThePlaceOfTheFinalStatus) {
     EXPECT_EQ(trace.effects.back(), "Fernwick Messages shown");
 }
 
-TEST_F(SendDriver, AQuestionThatCannotBeAskedIsNoYes) {
+TEST_F(SendDriver, AFailedQuestionDoesNotCountAsYes) {
     answerNotCurrent("btnYes");
     const auto watch = compileWarning.Caption.watch([&](const std::string& caption) {
         if (!caption.empty()) trace.failing = trace.calls + 1;

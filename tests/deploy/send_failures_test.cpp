@@ -1,4 +1,4 @@
-// A run that fails at each of its points: what the user is told, and that nothing is left behind.
+// A run that fails at each of its points: what the user is shown, and that nothing is left behind.
 #include "deploy_world.h"
 
 using testing::Contains;
@@ -28,12 +28,12 @@ protected:
     using Sink = qlpipe::IQLPipeEvents;
 
     void TearDown() override { EXPECT_TRUE(isClean()); }
-    /// What came after the first effect of this text.
+    /// Returns the effects after the first one with this text.
     std::vector<std::string> after(const std::string& what) const {
         const auto at = std::find(trace.effects.begin(), trace.effects.end(), what);
         return {at == trace.effects.end() ? at : at + 1, trace.effects.end()};
     }
-    /// The pipe tells an error and answers.
+    /// The pipe reports an error and returns.
     void pipeErrs(bool result) {
         family.work = [result](Sink& sink) { return sink.SendError(20001, "No device"), result; };
     }
@@ -50,7 +50,7 @@ TEST_F(SendFailures, AMissingPipe) {
     EXPECT_THAT(errors.seen, IsEmpty());
 }
 
-TEST_F(SendFailures, APipeThatIsNone) {
+TEST_F(SendFailures, AnObjectThatIsNotAPipe) {
     family.registerAs(family.pipeClass, "FakePipe.Pipe", [] { return basic::make<fernwick::Object>(); });
     deploy();
     EXPECT_THAT(boxes(), ElementsAre(kNoPipe, kNotDeployedSeeMessages));
@@ -63,7 +63,7 @@ TEST_F(SendFailures, ADeviceWithoutAPipe) {
     EXPECT_EQ(sendToDevice.LastResult(), std::nullopt);
 }
 
-TEST_F(SendFailures, AnErrorBeforeThePipeIsThere) {
+TEST_F(SendFailures, AnErrorBeforeThePipeExists) {
     const auto watch = sendToDevice.Caption.watch([&](const std::string& caption) {
         if (!caption.empty()) loop.Post([] { throw basic::RuntimeError(57, "Disk gone", "VBIDE"); });
     });
@@ -96,7 +96,7 @@ TEST_F(SendFailures, MissingFiles) {
     EXPECT_EQ(sendToDevice.LastResult(), std::nullopt);
 }
 
-TEST_F(SendFailures, AFolderThatIsGone) {
+TEST_F(SendFailures, AMissingFolder) {
     const auto watch = sendToDevice.stsUpdate.SimpleText.watch([&](const std::string& text) {
         if (text == "Gathering Project List...") std::filesystem::remove_all(path(""));
     });
@@ -110,11 +110,11 @@ TEST_F(SendFailures, FilesThatTheValidatorRefuses) {
     deploy();
     EXPECT_THAT(after("failed shown"), ElementsAre("NumErrors=1", "Error1=ERROR||0|Too large|20100", kMessagesShown,
                                                    kErrorsToFix, kValidationFailed, kMessagesShown));
-    EXPECT_FALSE(did("pointer 0")); // pointer and animation go with the form
+    EXPECT_FALSE(did("pointer 0")); // the pointer and the animation disappear with the form
     EXPECT_EQ(sendToDevice.LastResult(), std::nullopt);
 }
 
-TEST_F(SendFailures, TheStatusOfRefusedFilesTellsOfPackageOrDeployment) {
+TEST_F(SendFailures, TheStatusOfRefusedFilesNamesPackageOrDeployment) {
     family.validate = [](Sink&) { return false; };
     deploy();
     EXPECT_TRUE(did("status: SUCCESS - Project successfully sent to device."));
@@ -139,7 +139,7 @@ TEST_F(SendFailures, WithoutAValidatorNothingIsSent) {
     EXPECT_THAT(errors.seen, IsEmpty());
 }
 
-TEST_F(SendFailures, AValidatorThatErrsAcceptsNothing) {
+TEST_F(SendFailures, AFailingValidatorAcceptsNothing) {
     family.validate = [](Sink&) -> bool { throw basic::RuntimeError(57); };
     package();
     EXPECT_THAT(boxes(), ElementsAre(kValidationFailed));
@@ -148,7 +148,7 @@ TEST_F(SendFailures, AValidatorThatErrsAcceptsNothing) {
 
 TEST_F(SendFailures, AValidatorWithoutASinkStillAnswers) {
     family.registerAs(family.validatorClass, "FakePipe.Validation", [this] {
-        if (sendToDevice.isLoaded()) trace.failing = trace.calls + 1; // the call that comes next
+        if (sendToDevice.isLoaded()) trace.failing = trace.calls + 1; // the next call
         return family.newValidator();
     });
     deploy();
@@ -165,7 +165,7 @@ TEST_F(SendFailures, AnErrorOfTheValidatorThatAcceptsLeavesNoPipeToSendWith) {
     EXPECT_EQ(stored("Error1"), "ERROR||0|Too large|20100");
 }
 
-TEST_F(SendFailures, AnErrorAndNoSuccess) {
+TEST_F(SendFailures, AnErrorEventAndAFailure) {
     pipeErrs(false);
     deploy();
     EXPECT_THAT(after("send Foo to Palm"),
@@ -175,7 +175,7 @@ TEST_F(SendFailures, AnErrorAndNoSuccess) {
     EXPECT_EQ(sendToDevice.LastResult(), false);
 }
 
-TEST_F(SendFailures, AnErrorAndYetSuccessEndsSilently) {
+TEST_F(SendFailures, AnErrorEventAndSuccessEndSilently) {
     pipeErrs(true);
     deploy();
     EXPECT_THAT(after("failed shown"), ElementsAre("NumErrors=1", "Error1=ERROR||0|No device|20001", kMessagesShown,
@@ -183,13 +183,13 @@ TEST_F(SendFailures, AnErrorAndYetSuccessEndsSilently) {
     EXPECT_EQ(sendToDevice.LastResult(), true);
 }
 
-TEST_F(SendFailures, NoSuccessWithoutAWord) {
+TEST_F(SendFailures, AFailureWithoutAnEvent) {
     family.work = [](Sink&) { return false; };
     deploy();
     EXPECT_THAT(after("send Foo to Palm"),
                 ElementsAre(kNotDeployed, "delete qldefault.ico by force", "pointer 0", kAllGood));
     EXPECT_EQ(sendToDevice.aniSend.Playing(), 0);
-    EXPECT_TRUE(sendToDevice.aniSend.Visible()); // stopped only
+    EXPECT_TRUE(sendToDevice.aniSend.Visible()); // stopped, but still visible
     EXPECT_EQ(sendToDevice.LastResult(), false);
 }
 
@@ -208,14 +208,14 @@ TEST_F(SendFailures, APackageThatCannotBeMade) {
     EXPECT_EQ(sendToDevice.LastResult(), false);
 }
 
-TEST_F(SendFailures, APackageWithWarningsOnlyIsToldAsADeployment) {
+TEST_F(SendFailures, APackageWithOnlyWarningsHasADeploymentsStatus) {
     family.work = [](Sink& sink) { return sink.SendWarning("Large", "", 0, 100), false; };
     package();
     EXPECT_TRUE(did("status: SUCCESS with Warnings - This project was deployed, but may not function as expected."));
     EXPECT_THAT(boxes(), ElementsAre(kNoPackage));
 }
 
-TEST_F(SendFailures, ADeploymentThatFailsHasNoStatusOfItsOwn) {
+TEST_F(SendFailures, AFailedDeploymentSetsNoStatus) {
     family.work = [](Sink& sink) { return sink.SendWarning("Large", "", 0, 100), false; };
     deploy();
     EXPECT_THAT(effectsOf("status: "), ElementsAre("Compiling and validating..."));
@@ -246,7 +246,7 @@ TEST_F(SendFailures, AProjectFileThatCannotBeReadEndsTheRunAndLeavesNoIcon) {
     EXPECT_EQ(sendToDevice.LastResult(), std::nullopt);
 }
 
-TEST_F(SendFailures, APackageWithoutAPlaceToGoTo) {
+TEST_F(SendFailures, APackageWithoutAFolder) {
     disk.nowhere = true;
     package();
     EXPECT_THAT(after("copy qldefault.ico"),
@@ -255,7 +255,7 @@ TEST_F(SendFailures, APackageWithoutAPlaceToGoTo) {
     EXPECT_EQ(sendToDevice.LastResult(), std::nullopt);
 }
 
-TEST_F(SendFailures, AnIconThatCannotBeDeletedInTimeGoesWithTheForm) {
+TEST_F(SendFailures, AnIconThatCannotBeDeletedIsDeletedWithTheForm) {
     family.work = [&](Sink&) { return trace.failing = trace.calls + 1, true; };
     deploy();
     EXPECT_TRUE(did("delete qldefault.ico by force"));

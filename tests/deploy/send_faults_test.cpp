@@ -1,11 +1,11 @@
-// The n-th call of the world fails, for all n: one report at most, and nothing is left behind.
+// The n-th call of the environment fails, for all n: one report at most, and nothing is left behind.
 #include "deploy_world.h"
 
 using testing::ContainsRegex;
 
 namespace {
 
-/// What a pipe tells in a run that goes well.
+/// The events of a pipe in a successful run.
 bool tellAll(qlpipe::IQLPipeEvents& sink) {
     sink.SendProgress("Sending", 50);
     sink.SendWarning("Large", "", 0, 100);
@@ -22,7 +22,7 @@ protected:
         store("NumFontDependencies", "FontDependency", {"Ari_08B.CMF"});
         family.work = tellAll;
     }
-    /// Each of the user's answers of one run.
+    /// All of the user's answers in one run.
     void answer() { user.answers = {fernwick::vbNo, fernwick::vbYes}; }
 
     template <class Run, class Check>
@@ -44,9 +44,9 @@ protected:
     }
 };
 
-TEST_F(SendFaults, EachCallThatFailsLeavesNothingBehind) {
+TEST_F(SendFaults, AFailingCallLeavesNothingBehind) {
     for (const bool makePackage : {false, true}) {
-        for (int i = 0; i < 2; ++i) { // the second run finds what the first one leaves
+        for (int i = 0; i < 2; ++i) { // the second run finds what the first one left
             answer();
             run(makePackage);
         }
@@ -55,7 +55,7 @@ TEST_F(SendFaults, EachCallThatFailsLeavesNothingBehind) {
         sweep([&] { run(makePackage); },
               [&](int failing) {
                   EXPECT_TRUE(isClean()) << failing;
-                  // a run that came to its end lost what failed and what hung on it, not more
+                  // a complete run lost only the failed step and those that depend on it
                   const auto most = sendToDevice.LastResult() == true ? 4U : baseline.size();
                   EXPECT_LE(test::lost(baseline, trace.effects).size(), most) << failing;
               });
@@ -65,17 +65,17 @@ TEST_F(SendFaults, EachCallThatFailsLeavesNothingBehind) {
     }
 }
 
-TEST_F(SendFaults, NorDoesOneInARunThatThePipeRefuses) {
+TEST_F(SendFaults, AFailingCallOfARefusedRunLeavesNothingBehind) {
     family.work = [](qlpipe::IQLPipeEvents& sink) { return sink.SendError(20001, "No device"), false; };
     sweep([&] { deploy(); }, [&](int failing) { EXPECT_TRUE(isClean()) << failing; });
 }
 
-TEST_F(SendFaults, NorDoesOneInTheFailureOfAPipe) {
+TEST_F(SendFaults, AFailingCallOfAFailedPipeLeavesNothingBehind) {
     family.pipeClass.reset();
     sweep([&] { package(); }, [&](int failing) { EXPECT_TRUE(isClean()) << failing; });
 }
 
-TEST_F(SendFaults, NorOneInTheRuntimesRun) {
+TEST_F(SendFaults, AFailingCallOfTheRuntimesRunLeavesNothingBehind) {
     auto& runtime = sendRuntime;
     sweep([&] { runtime.SendRuntimeToDevice("Palm"); },
           [&](int failing) {
@@ -85,7 +85,7 @@ TEST_F(SendFaults, NorOneInTheRuntimesRun) {
     EXPECT_EQ(runtime.LastResult(), true);
 }
 
-TEST_F(SendFaults, NorOneInTheJudgementOfTheImage) {
+TEST_F(SendFaults, AFailingCallOfTheImageCheckLeavesNothingBehind) {
     sweep([&] { EXPECT_NO_THROW(sendToDevice.IsCompiledImageCurrent(qlProject)); }, [](int) {});
     EXPECT_TRUE(sendToDevice.IsCompiledImageCurrent(qlProject));
 }

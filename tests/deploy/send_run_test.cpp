@@ -1,4 +1,4 @@
-// A run from its first Activate to its end, as long as nothing fails.
+// A successful run, from its first Activate to its end.
 #include "deploy_world.h"
 
 using fernwick::vbNo;
@@ -21,7 +21,7 @@ protected:
     long count(const std::string& what) { return std::count(trace.effects.begin(), trace.effects.end(), what); }
 };
 
-TEST_F(SendRun, ADeploymentDoesItsStepsInOrder) {
+TEST_F(SendRun, ADeploymentPerformsItsStepsInOrder) {
     deploy();
     EXPECT_THAT(trace.effects,
                 ElementsAre("status: Compiling and validating...", "form frmValidate", "Foo saved " + path("Foo.vbp"),
@@ -52,7 +52,7 @@ TEST_F(SendRun, APackageIsMadeInTheProjectFolder) {
     EXPECT_TRUE(isClean());
 }
 
-TEST_F(SendRun, ThePipeIsToldOfTheApplication) {
+TEST_F(SendRun, ThePipeReceivesTheApplicationsData) {
     project->name = "My_App";
     projects.RenameProjectInList(project, "Foo");
     project->properties[{"Quinloft Global", "SpacesInNameEnabled"}] = "True";
@@ -70,7 +70,7 @@ TEST_F(SendRun, ThePipeIsToldOfTheApplication) {
     EXPECT_EQ(family.application.Version, "1.2.3");
 }
 
-TEST_F(SendRun, AProjectWithoutAnIconIsSentWithout) {
+TEST_F(SendRun, AProjectWithoutAnIconIsSentWithoutOne) {
     project->properties[{"Quinloft Global", "IconFileName"}] = "none.ico";
     deploy();
     EXPECT_EQ(family.application.TempIconFile, "");
@@ -78,7 +78,7 @@ TEST_F(SendRun, AProjectWithoutAnIconIsSentWithout) {
     EXPECT_THAT(trace.effects, Not(Contains(testing::StartsWith("delete"))));
 }
 
-TEST_F(SendRun, TheFormShowsWhatItDoes) {
+TEST_F(SendRun, TheFormShowsItsProgress) {
     family.work = [&](Sink& sink) {
         EXPECT_EQ(sendToDevice.Caption(), "Uploading Foo...");
         EXPECT_EQ(sendToDevice.aniSend.FileName(), folder / "install/VB Toolkit/Bin/QLUPLOAD.AVI");
@@ -95,7 +95,7 @@ TEST_F(SendRun, TheFormShowsWhatItDoes) {
     EXPECT_TRUE(did("line: Half way"));
 }
 
-TEST_F(SendRun, APackageHasACaptionAndAnAnimationOfItsOwn) {
+TEST_F(SendRun, APackageHasItsOwnCaptionAndAnimation) {
     family.work = [&](Sink&) {
         EXPECT_EQ(sendToDevice.Caption(), "Creating Foo Device Package...");
         EXPECT_EQ(sendToDevice.aniSend.FileName(), folder / "install/VB Toolkit/Bin/QLCOMPILE.AVI");
@@ -118,8 +118,8 @@ TEST_F(SendRun, ProgressLetsTheHostProcessItsMessages) {
     EXPECT_EQ(count("posted again"), 1);
 }
 
-TEST_F(SendRun, LateActivationsDoNothing) {
-    storeDependencies({"none.txt,TXT"}); // each box brings the form to the front again
+TEST_F(SendRun, LaterActivationsDoNothing) {
+    storeDependencies({"none.txt,TXT"}); // each box activates the form again
     user.answers = {vbNo, vbYes};
     deploy();
     EXPECT_EQ(boxes().size(), 2U);
@@ -127,7 +127,7 @@ TEST_F(SendRun, LateActivationsDoNothing) {
     EXPECT_EQ(count("send Foo to Palm"), 1);
 }
 
-TEST_F(SendRun, TheNextRunBeginsAnew) {
+TEST_F(SendRun, TheNextRunStartsFresh) {
     family.work = [](Sink& sink) { return sink.SendError(20001, "No device"), false; };
     deploy();
     EXPECT_EQ(sendToDevice.LastResult(), false);
@@ -165,7 +165,7 @@ TEST_F(SendRun, AfterEditingTheyAreNotValidatedAgain) {
     EXPECT_EQ(sendToDevice.LastResult(), true);
 }
 
-TEST_F(SendRun, WithoutEditingItGoesOnWithTheListAsItStands) {
+TEST_F(SendRun, WithoutEditingTheListIsUsedUnchanged) {
     storeDependencies({"none.txt,TXT"});
     user.answers = {vbNo, vbYes};
     deploy();
@@ -192,11 +192,11 @@ TEST_F(SendRun, AWarningIsStoredWithAnOffsetAndShownAtOnce) {
     };
     deploy();
     EXPECT_EQ(stored("Error1"), "WARNING|" + path("Module1.bas") + "|3|Icon is large|3123");
-    EXPECT_EQ(status(), "Compiling and validating..."); // messages stand in the place of a status
+    EXPECT_EQ(status(), "Compiling and validating..."); // messages replace a status
     EXPECT_EQ(sendToDevice.LastResult(), true);
 }
 
-TEST_F(SendRun, AValidatorTellsInTheSameWay) {
+TEST_F(SendRun, AValidatorRaisesTheSameEvents) {
     family.validate = [](Sink& sink) {
         sink.SendProgress("Checking", 10);
         sink.SendWarning("Long name", "", 0, 100);
@@ -223,7 +223,7 @@ TEST_F(SendRun, ThePipeIsReleasedInsideItsOwnCallAndLivesToItsEnd) {
     }
 }
 
-TEST_F(SendRun, APipeThatNeverTellsItsEndIsReleasedToo) {
+TEST_F(SendRun, APipeThatNeverReportsItsEndIsReleased) {
     family.work = [](Sink&) { return true; };
     deploy();
     EXPECT_TRUE(isClean());

@@ -1,4 +1,4 @@
-// The runtime's way to a device.
+// Sending the runtime to a device.
 #include "deploy_world.h"
 
 using testing::ElementsAre;
@@ -23,7 +23,7 @@ protected:
     std::vector<fernwick::Subscription> watches = test::watchForm(trace, sendRuntime);
 };
 
-TEST_F(SendRuntime, DoesItsStepsInOrder) {
+TEST_F(SendRuntime, PerformsItsStepsInOrder) {
     run();
     EXPECT_THAT(trace.effects,
                 ElementsAre("form frmSendRuntimeToDevice", "pointer 11", "animation shown",
@@ -33,7 +33,7 @@ TEST_F(SendRuntime, DoesItsStepsInOrder) {
     EXPECT_EQ(sendRuntime.LastResult(), true);
 }
 
-TEST_F(SendRuntime, TheFormShowsWhatItDoes) {
+TEST_F(SendRuntime, TheFormShowsItsProgress) {
     family.work = [&](Sink& sink) {
         EXPECT_EQ(sendRuntime.Caption(), "Load Tamarik");
         EXPECT_EQ(sendRuntime.aniSend.FileName(), folder / "install/VB Toolkit/Bin/QLUPLOAD.AVI");
@@ -57,13 +57,13 @@ TEST_F(SendRuntime, AnErrorStaysOnTheScreenUntilTheUserConfirmsIt) {
     EXPECT_EQ(sendRuntime.LastResult(), false);
 }
 
-TEST_F(SendRuntime, ALateActivationDoesNothing) { // the box brings the form to the front again
+TEST_F(SendRuntime, ALaterActivationDoesNothing) { // the box activates the form again
     family.work = [](Sink& sink) { return sink.SendError(20001, "No device"), true; };
     run();
     EXPECT_EQ(std::count(trace.effects.begin(), trace.effects.end(), "runtime to Palm"), 1);
 }
 
-TEST_F(SendRuntime, WarningsAreNotTold) {
+TEST_F(SendRuntime, WarningsAreIgnored) {
     family.work = [](Sink& sink) { return sink.SendWarning("Old", "", 0, 100), sink.SendComplete(), true; };
     run();
     EXPECT_EQ(trace.effects[trace.effects.size() - 4], "line: Upload Complete");
@@ -113,7 +113,7 @@ TEST_F(SendRuntime, ADeviceWithoutAPipe) {
               "box 16 Fernwick: ERROR - Could not create .Pipe. Please contact Quinloft technical support.");
 }
 
-TEST_F(SendRuntime, AnErrorBeforeThePipeIsThereHasNoBox) {
+TEST_F(SendRuntime, AnErrorBeforeThePipeExistsShowsNoBox) {
     loop.Post([] { throw basic::RuntimeError(57, "Disk gone", "VBIDE"); });
     run();
     EXPECT_THAT(trace.effects, ElementsAre("form frmSendRuntimeToDevice", "pointer 11", "pointer 0",
@@ -121,7 +121,7 @@ TEST_F(SendRuntime, AnErrorBeforeThePipeIsThereHasNoBox) {
     EXPECT_THAT(errors.seen, IsEmpty());
 }
 
-TEST_F(SendRuntime, AnErrorThatThePipeLetsOutIsReported) {
+TEST_F(SendRuntime, AnErrorThatLeavesThePipeIsReported) {
     family.work = [](Sink&) -> bool { throw basic::RuntimeError(57, "Link lost", "FakePipe"); };
     run();
     EXPECT_THAT(errors.seen, ElementsAre("frmSendRuntimeToDevice.Form_Activate [57]"));
@@ -129,7 +129,7 @@ TEST_F(SendRuntime, AnErrorThatThePipeLetsOutIsReported) {
     EXPECT_EQ(sendRuntime.LastResult(), false);
 }
 
-TEST_F(SendRuntime, TheNextRunBeginsAnew) {
+TEST_F(SendRuntime, TheNextRunStartsFresh) {
     family.pipeClass.reset();
     run();
     family.offerPipe();

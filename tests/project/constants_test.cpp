@@ -19,13 +19,13 @@ struct Constants : test::ProjectTest {
 };
 } // namespace
 
-TEST_F(Constants, StandQuotedInTheProjectFile) {
+TEST_F(Constants, AreReadFromAQuotedLine) {
     EXPECT_EQ(read("Type=Exe\r\nCondComp=\"A = 1 : B = -1\"\r\nCondComp=\"C = 1\"\r\n"), "A = 1 : B = -1");
     EXPECT_EQ(read("CondComp=\"\"\r\n"), "");
     EXPECT_TRUE(reports().empty());
 }
 
-TEST_F(Constants, NoLineMeansNone) {
+TEST_F(Constants, AreEmptyWithoutALine) {
     EXPECT_EQ(read("Type=Exe\r\ncondcomp=\"A = 1\"\r\n"), "");
     EXPECT_TRUE(reports().empty());
 }
@@ -38,11 +38,11 @@ TEST_F(Constants, ALineWithoutQuotesOrAFileIsReported) {
                                 "modProjectHandler.GetConditionalCompilationArguments [53]"}));
 }
 
-TEST_F(Constants, EachGoesToTheCompiler) {
+TEST_F(Constants, ArePassedToTheCompiler) {
     EXPECT_EQ(passed("A = 1 : B=-1:C= 2 "), (Texts{"constant A=1", "constant B=-1", "constant C=2"}));
 }
 
-TEST_F(Constants, ReservedNamesGetABoxWithTheNameAsTyped) {
+TEST_F(Constants, ReservedNamesAreRefusedInABox) {
     user.expectBox("WIN32 is not allowed as Conditional Compilation Constant");
     EXPECT_EQ(passed("A = 1:WIN32 = 2"), Texts{"constant A=1"});
     user.expectBox("win32 is not allowed as Conditional Compilation Constant");
@@ -52,7 +52,7 @@ TEST_F(Constants, ReservedNamesGetABoxWithTheNameAsTyped) {
 
 TEST_F(Constants, APieceWithoutAnEqualsSignIsIgnored) { EXPECT_EQ(passed("A:B::C = 3"), Texts{"constant C=3"}); }
 
-TEST_F(Constants, AValueThatIsNoNumberIsTheCallersError) {
+TEST_F(Constants, AValueThatIsNotANumberRaisesAnError) {
     EXPECT_EQ(test::errorOf([&] { passed("A = 1:B = x:C = 3"); }), 13);
     EXPECT_EQ(trace.effects, Texts{"constant A=1"});
 }

@@ -11,7 +11,7 @@ struct ProjectDevice : test::ProjectTest {
 using ProjectIcon = ProjectDevice;
 } // namespace
 
-TEST_F(ProjectDevice, SettingItMakesItTheOneCompileTarget) {
+TEST_F(ProjectDevice, SettingTheDeviceMakesItTheOnlyCompileTarget) {
     project->TargetDevice("Pocket");
     EXPECT_EQ(project->TargetDevice(), "Pocket");
     EXPECT_EQ(stored(project, "NumCompileTargets"), "1");
@@ -49,25 +49,25 @@ TEST_F(ProjectIcon, TheDefaultIconIsStoredAsNothing) {
     EXPECT_EQ(stored(project, "IconFileName"), "");
 }
 
-TEST_F(ProjectIcon, OneInTheProjectFolderIsStoredRelative) {
+TEST_F(ProjectIcon, AnIconInTheProjectFolderIsStoredRelative) {
     host.folder.write("Icons/my.ico", "");
     project->IconFileName(path("Icons/my.ico"));
     EXPECT_EQ(stored(project, "IconFileName"), "Icons\\my.ico");
     EXPECT_EQ(project->IconFileName(), path("Icons/my.ico"));
 }
 
-TEST_F(ProjectIcon, OneElsewhereIsStoredAsGiven) {
+TEST_F(ProjectIcon, AnIconElsewhereIsStoredAsGiven) {
     project->IconFileName("/usr/share/my.ico");
     EXPECT_EQ(stored(project, "IconFileName"), "/usr/share/my.ico");
     EXPECT_EQ(project->IconFileName(), "/usr/share/my.ico");
 }
 
-TEST_F(ProjectIcon, APathWithADriveIsReturnedAsItStands) {
+TEST_F(ProjectIcon, APathWithADriveIsReturnedUnchanged) {
     project->VBProject()->WriteProperty("Quinloft Global", "IconFileName", "C:\\Icons\\my.ico");
     EXPECT_EQ(project->IconFileName(), "C:\\Icons\\my.ico");
 }
 
-TEST_F(ProjectIcon, AProjectWithoutAFileStoresItAsGiven) {
+TEST_F(ProjectIcon, AProjectWithoutAFileStoresTheIconAsGiven) {
     const auto fresh = wrap(host.ide->VBProjects()->AddFromTemplate(test::SampleProject{"T"}.writeTo(host.folder)));
     fresh->IconFileName(path("my.ico"));
     EXPECT_EQ(stored(fresh, "IconFileName"), path("my.ico"));
@@ -82,7 +82,7 @@ TEST_F(ProjectIcon, ThePipeGetsACopyInTheTemporaryFolder) {
     EXPECT_EQ(host.folder.read("Icons/my.ico"), "new");
 }
 
-TEST_F(ProjectIcon, ACopyThatIsReadOnlyGivesWayToTheNext) {
+TEST_F(ProjectIcon, AReadOnlyCopyIsReplaced) {
     const auto icon = host.folder.write("my.ico", "icon");
     std::filesystem::permissions(icon, std::filesystem::perms::owner_read);
     project->IconFileName(icon);
@@ -102,7 +102,7 @@ TEST_F(ProjectIcon, TheDefaultIconIsCopiedTooAndACopyThatFailsIsReported) {
     const auto copy = project->GetTempIcon();
     EXPECT_EQ(files.ReadBytes(copy), "icon");
     files.DeleteFile(copy, true);
-    std::filesystem::create_directory(copy); // nothing can be copied there
+    std::filesystem::create_directory(copy); // prevents the copy
     EXPECT_EQ(project->GetTempIcon(), copy);
     EXPECT_EQ(reports(), (std::vector<std::string>{"clsQLProject.GetTempIcon [70]"}));
 }

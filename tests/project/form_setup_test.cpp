@@ -42,7 +42,7 @@ TEST_F(FormSetup, TakesSizeStyleAndPosition) {
 TEST_F(FormSetup, AHeightOfMinusOneIsKept) {
     openForm({}, "DefaultFormWidth=160\r\nDefaultFormHeight=-1\r\n");
     project->SetupDefaultForm(form);
-    EXPECT_EQ(number("ScaleHeight"), 2400 / 15); // what the form had
+    EXPECT_EQ(number("ScaleHeight"), 2400 / 15); // the form's own
     EXPECT_EQ(number("ScaleWidth"), 160);
     EXPECT_EQ(number("BorderStyle"), 1);
     EXPECT_EQ(asText(font("Name")), "QLPalm");
@@ -79,7 +79,7 @@ TEST_F(FormSetup, AFontOfSizeZeroFallsBack) {
     EXPECT_EQ(asDouble(font("Size")), 12);
 }
 
-TEST_F(FormSetup, AColourOfZeroLeavesTheFormsOwn) {
+TEST_F(FormSetup, AColourOfZeroKeepsTheFormsOwn) {
     openForm();
     const auto color = get("BackColor");
     project->SetupDefaultForm(form);
@@ -89,25 +89,25 @@ TEST_F(FormSetup, AColourOfZeroLeavesTheFormsOwn) {
     EXPECT_EQ(number("BackColor"), 0xFFFFFF);
 }
 
-TEST_F(FormSetup, AnEmptyModuleDemandsDeclarations) {
+TEST_F(FormSetup, AnEmptyModuleGetsOptionExplicit) {
     openForm();
     project->SetupDefaultForm(form);
     EXPECT_EQ(code(), "Option Explicit");
 }
 
-TEST_F(FormSetup, APartOfTheWordsIsLookedForInThem) {
+TEST_F(FormSetup, AModuleWithAPartOfTheStatementGetsOptionExplicit) {
     openForm("Option\r\n");
     project->SetupDefaultForm(form);
     EXPECT_EQ(code(), "Option Explicit\r\nOption");
 }
 
-TEST_F(FormSetup, AModuleWithAnythingElseStays) {
+TEST_F(FormSetup, AModuleWithOtherCodeIsUnchanged) {
     openForm("option explicit\r\n");
     project->SetupDefaultForm(form);
     EXPECT_EQ(code(), "option explicit");
 }
 
-TEST_F(FormSetup, AFormOfAnotherSizeIsWrongAndKeepsItsScale) {
+TEST_F(FormSetup, AFormOfAnotherSizeIsInvalidAndKeepsItsScale) {
     openForm({}, kSized);
     form->Properties()->Item("ScaleMode")->Value(std::int32_t{1});
     EXPECT_FALSE(project->ValidFormSize(form));

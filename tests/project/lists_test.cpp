@@ -32,7 +32,7 @@ TEST_F(ProjectLists, ComponentsAreStoredInCapitalsFontsAsGiven) {
     EXPECT_EQ(stored(project, "FontDependency1", kDependencies), "Abc");
 }
 
-TEST_F(ProjectLists, EmptyEntriesAreEntries) {
+TEST_F(ProjectLists, EmptyEntriesAreKept) {
     store(kDependencies, "NumFontDependencies", "2");
     store(kDependencies, "FontDependency1", "");
     store(kDependencies, "FontDependency2", "x");
@@ -46,7 +46,7 @@ TEST_F(ProjectLists, AMissingEntryIsReportedUnderTheProjectsName) {
     EXPECT_EQ(reports(), Texts{"Hello clsQLProject.GetFontDependencies [5]"});
 }
 
-TEST_F(ProjectLists, ACountThatIsNoneOrAbsurdIsNone) {
+TEST_F(ProjectLists, AnInvalidOrExcessiveCountReadsAsZero) {
     for (const char* count : {"many", "2000000000", "-3"}) {
         store(kDependencies, "NumFontDependencies", count);
         EXPECT_EQ(project->GetFontDependencies(), Texts{}) << count;
@@ -54,7 +54,7 @@ TEST_F(ProjectLists, ACountThatIsNoneOrAbsurdIsNone) {
     EXPECT_TRUE(reports().empty());
 }
 
-TEST_F(ProjectLists, TheTargetListLeavesSlotZeroOut) {
+TEST_F(ProjectLists, TheTargetListIgnoresSlotZero) {
     project->SetCompileTargetsList(Array<std::string>{0, {"", "Palm"}});
     EXPECT_EQ(stored(project, "numCompileTargets"), "1");
     EXPECT_EQ(stored(project, "CompileTarget0"), "(none)");
@@ -72,7 +72,7 @@ TEST_F(ProjectLists, OnlyNumbersSurviveTheReadingOfTargets) {
     EXPECT_FALSE(project->IsSetCompileTarget("Palm"));
 }
 
-TEST_F(ProjectLists, WithoutTargetsTheListStaysAsItIs) {
+TEST_F(ProjectLists, WithoutTargetsTheListIsUnchanged) {
     Array<std::string> list{0, {"mine"}};
     project->GetCompileTargetsList(list);
     EXPECT_EQ(list[0], "mine");
@@ -85,7 +85,7 @@ TEST_F(ProjectLists, AnUnallocatedTargetListIsReported) {
     EXPECT_EQ(stored(project, "numCompileTargets"), "(none)");
 }
 
-TEST_F(ProjectLists, WithoutStepsTheListStaysAsItIs) {
+TEST_F(ProjectLists, WithoutStepsTheListIsUnchanged) {
     Array<std::string> list{0, {"mine"}};
     EXPECT_FALSE(project->GetPreCompileSteps(list));
     EXPECT_EQ(list[0], "mine");
@@ -115,13 +115,13 @@ TEST_F(ProjectLists, AMissingStepEndsTheReading) {
     EXPECT_TRUE(reports().empty());
 }
 
-TEST_F(ProjectLists, AStepCountThatIsNoneIsReported) {
+TEST_F(ProjectLists, AnInvalidStepCountIsReported) {
     store(kOptions, "PostCompileStepCount", "three");
     EXPECT_EQ(project->PostCompileStepCount(), 0);
     EXPECT_EQ(reports(), Texts{"clsQLProject.GetCompileStepCount [13]"});
 }
 
-TEST_F(ProjectLists, NoStepsAnyMoreKeepsTheEntries) {
+TEST_F(ProjectLists, ClearingTheStepsKeepsTheEntries) {
     project->SetPostCompileSteps(Array<std::string>{0, {"a"}});
     project->ZeroPostCompileSteps();
     EXPECT_EQ(stored(project, "PostCompileStepCount", kOptions), "0");

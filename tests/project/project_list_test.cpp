@@ -18,14 +18,14 @@ TEST_F(ProjectList, FindsTheWrapperByTheProjectsName) {
     EXPECT_TRUE(reports().empty());
 }
 
-TEST_F(ProjectList, ASecondOfTheNameIsReported) {
+TEST_F(ProjectList, ASecondProjectOfTheSameNameIsReported) {
     const auto first = projects.AddToProjectsList(hello);
     EXPECT_TRUE(projects.AddToProjectsList(hello));
     EXPECT_EQ(projects.GetQLProject(hello), first);
     EXPECT_EQ(reports(), Texts{"modProjectHandler.AddToProjectsList [457]"});
 }
 
-TEST_F(ProjectList, WhatIsNotListedIsReported) {
+TEST_F(ProjectList, AnUnlistedProjectIsReported) {
     EXPECT_FALSE(projects.GetQLProject(hello));
     projects.RemoveFromProjectsList(hello);
     EXPECT_EQ(reports(), (Texts{"modProjectHandler.GetQLProject [5]", "modProjectHandler.RemoveFromProjectsList [5]"}));
@@ -76,7 +76,7 @@ TEST_F(ProjectList, EachFailingCallOfARemovalIsReportedOnce) {
     }
 }
 
-TEST_F(ProjectList, OpeningReplacesWhatIsOpenAndLowersTheFlag) {
+TEST_F(ProjectList, OpeningReplacesOpenProjectsAndClearsTheFlag) {
     test::SampleProject{"Other"}.writeTo(host.folder);
     projects.OpenQuinloftProjectFromPath(path("Other.vbp"));
     EXPECT_EQ(host.ide->VBProjects()->Count(), 1);
@@ -102,7 +102,7 @@ TEST_F(Templates, AMissingTemplateMeansACorruptInstallation) {
     EXPECT_EQ(host.ide->ActiveVBProject(), hello);
 }
 
-TEST_F(Templates, AreWhatLiesInEitherFolder) {
+TEST_F(Templates, AreTheProjectsInEitherFolder) {
     EXPECT_FALSE(projects.ProjectIsFromTemplate(hello));
     for (const char* folder : {"Template/Projects", "Installed/VB Toolkit/Template/Projects"}) {
         const auto file = test::SampleProject{"Base"}.writeTo(host.folder, folder);
@@ -111,7 +111,7 @@ TEST_F(Templates, AreWhatLiesInEitherFolder) {
     EXPECT_EQ(projects.GetTemplatePath(), path("Template/Projects"));
 }
 
-TEST_F(Templates, MissingFoldersAreToldAndTheTestGoesOn) {
+TEST_F(Templates, MissingFoldersAreReportedAndTheTestContinues) {
     installAt("/nowhere");
     const auto elsewhere = basic::make<test::TracedVbe>(trace);
     addIn.gVBInstance = elsewhere;
@@ -121,7 +121,7 @@ TEST_F(Templates, MissingFoldersAreToldAndTheTestGoesOn) {
     EXPECT_FALSE(projects.ProjectIsFromTemplate(hello));
 }
 
-TEST_F(Templates, AHostWithoutATemplatePathIsTold) {
+TEST_F(Templates, AHostWithoutATemplatePathIsReported) {
     struct Bare : test::TracedVbe {
         using TracedVbe::TracedVbe;
         std::string TemplatePath() const override { return ""; }

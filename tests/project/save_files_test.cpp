@@ -101,20 +101,20 @@ TEST_F(SaveFiles, AFailedSaveLeavesTheDirtyMark) {
     }
 }
 
-TEST_F(SaveFiles, AComponentWithoutAFileIsPassedOver) {
+TEST_F(SaveFiles, AComponentWithoutAFileIsSkipped) {
     project->VBProject()->VBComponents()->Add(vbide::vbext_ct_StdModule);
     project->SaveFiles();
     EXPECT_TRUE(user.sawNothing());
     EXPECT_FALSE(project->FilesHaveBeenSaved());
 }
 
-TEST_F(SaveFiles, FilesHaveBeenSavedWhenAllAreThere) {
+TEST_F(SaveFiles, FilesHaveBeenSavedWhenAllExist) {
     EXPECT_TRUE(project->FilesHaveBeenSaved());
     std::filesystem::remove(path("modOne.bas"));
     EXPECT_FALSE(project->FilesHaveBeenSaved());
 }
 
-TEST_F(SaveFiles, ADesignerWindowIsClosedForTheSaveAndComesBack) {
+TEST_F(SaveFiles, ADesignerWindowIsClosedForTheSaveAndReopened) {
     const auto window = component("frmMain")->DesignerWindow();
     window->Visible(true);
     ASSERT_TRUE(component("frmMain")->HasOpenDesigner());

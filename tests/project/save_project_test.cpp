@@ -17,7 +17,7 @@ struct SaveProject : test::ProjectTest {
     basic::Ref<vbide::VBComponent> add(vbide::vbext_ComponentType type) { return project->VBComponents()->Add(type); }
     void change() { project->VBComponents()->Item("modOne")->CodeModule()->InsertLines(1, "' changed"); }
     bool ask() { return save.SaveProject(project, true, "Save?", true, "Not saved."); }
-    /// The dialog that comes is `expected`; the user chooses `answer`.
+    /// The dialog shown must equal `expected`; the user chooses `answer`.
     void expectSave(const std::string& name, const std::string& filter, const std::string& answer) {
         user.expectSave([=](const CommonDialog& dialog) {
             EXPECT_EQ(dialog.DialogTitle, "Save File");
@@ -37,7 +37,7 @@ TEST_F(SaveProject, ACleanProjectAsksNothing) {
     EXPECT_TRUE(user.sawNothing());
 }
 
-TEST_F(SaveProject, YesSavesWhatHasAFileWithoutADialog) {
+TEST_F(SaveProject, YesSavesExistingFilesWithoutADialog) {
     change();
     project->WriteProperty("Quinloft Global", "IconWarning", "True");
     user.expectBox("Save?", vbYes, kAsks, "Save Project");
@@ -46,7 +46,7 @@ TEST_F(SaveProject, YesSavesWhatHasAFileWithoutADialog) {
     EXPECT_THAT(host.folder.read("Hello.vbp"), ::testing::HasSubstr("IconWarning=True"));
 }
 
-TEST_F(SaveProject, NoEmptiesTheProjectAndGoesOn) {
+TEST_F(SaveProject, NoEmptiesTheProjectAndContinues) {
     change();
     user.expectBox("Save?", vbNo, kAsks, "Save Project");
     EXPECT_TRUE(ask());
@@ -68,7 +68,7 @@ TEST_F(SaveProject, CancelInADialogShowsTheFailure) {
     EXPECT_FALSE(ask());
 }
 
-TEST_F(SaveProject, ChosenPathsAreTaken) {
+TEST_F(SaveProject, ChosenPathsAreUsed) {
     const auto form = add(vbide::vbext_ct_VBForm);
     const auto classModule = add(vbide::vbext_ct_ClassModule);
     expectSave(form->Name() + ".frm", "Form Files (*.frm)|*.frm|All Files (*.*)|*.*|", path("new.frm"));
@@ -78,7 +78,7 @@ TEST_F(SaveProject, ChosenPathsAreTaken) {
     EXPECT_FALSE(save.ProjectIsDirty(project));
 }
 
-TEST_F(SaveProject, AFileThatIsThereAsksAndNoReturnsToTheDialog) {
+TEST_F(SaveProject, AnExistingFileIsConfirmedAndNoReturnsToTheDialog) {
     add(vbide::vbext_ct_StdModule);
     host.folder.write("old.bas", "old");
     const auto question = path("old.bas") + " already exists.  Do you want to replace it?";
@@ -135,7 +135,7 @@ TEST_F(SaveProject, DirtyMeansTheProjectAComponentOrAMissingFile) {
     EXPECT_TRUE(save.ProjectIsDirty(project));
 }
 
-TEST_F(SaveProject, WhateverFailsNothingUnsavedCountsAsSaved) {
+TEST_F(SaveProject, NoFailureMakesUnsavedChangesCountAsSaved) {
     const auto vbProject = traced();
     vbProject->add("modTwo", path("modTwo.bas"))->dirty = true;
     int calls = 1;
@@ -182,7 +182,7 @@ TEST_F(SaveQuestions, NoIsFalseAndLeavesTheWarningOn) {
     question.Unload();
 }
 
-TEST_F(SaveQuestions, AFormerAnswerIsForgotten) {
+TEST_F(SaveQuestions, AnEarlierAnswerIsForgotten) {
     user.expectFormAndPress("frmSaveProjectFiles", "btnYes");
     EXPECT_TRUE(question.AskForProjectSave("Save now?"));
     question.Unload();

@@ -36,7 +36,7 @@ TEST_F(StoredSettings, DefaultsWithoutAnyKey) {
     EXPECT_TRUE(reports().empty());
 }
 
-TEST_F(StoredSettings, WhatIsSetIsStoredAsTextAndRead) {
+TEST_F(StoredSettings, WrittenValuesAreStoredAsTextAndReadBack) {
     const auto project = open(test::SampleProject{});
     project->TavletStyleID(3);
     project->DefaultFontName("Tahoma");
@@ -63,7 +63,7 @@ TEST_F(StoredSettings, WhatIsSetIsStoredAsTextAndRead) {
     EXPECT_EQ(project->LastCompileVersion(), "3.5.0 (0624)");
 }
 
-TEST_F(StoredSettings, TextsThatDontConvertReadAsZero) {
+TEST_F(StoredSettings, UnconvertibleTextsReadAsZero) {
     const auto project = openWith("DefaultFontSize=big\r\nAutoSaveProject=maybe\r\nTwipsPerPixelX=wide\r\n");
     EXPECT_EQ(project->DefaultFontSize(), 0);
     EXPECT_FALSE(project->Autosave());
@@ -71,10 +71,8 @@ TEST_F(StoredSettings, TextsThatDontConvertReadAsZero) {
     EXPECT_TRUE(reports().empty());
 }
 
-TEST_F(StoredSettings, ScanReferencesTakesEitherForm) {
-    EXPECT_FALSE(openWith("ScanReferences=0\r\n")->ScanReferences());
-}
-TEST_F(StoredSettings, ScanReferencesTakesWords) {
+TEST_F(StoredSettings, ScanReferencesReadsNumbers) { EXPECT_FALSE(openWith("ScanReferences=0\r\n")->ScanReferences()); }
+TEST_F(StoredSettings, ScanReferencesReadsWords) {
     EXPECT_FALSE(openWith("ScanReferences=False\r\n")->ScanReferences());
 }
 TEST_F(StoredSettings, ScanReferencesOfOtherWordsIsTrueAndReported) {
@@ -91,11 +89,11 @@ TEST_F(StoredSettings, PathsOfEarlierVersionsReadAsKeys) {
     EXPECT_EQ(project->TargetDevice(), "PocketPC-SH3");
     EXPECT_EQ(stored(project, "TargetDevice"), "SOFTWARE\\Quinloft\\DesignTargets\\PocketPC");
 }
-TEST_F(StoredSettings, ThePalmPathToo) {
+TEST_F(StoredSettings, ThePalmPathOfEarlierVersionsReadsAsAKey) {
     EXPECT_EQ(openWith("TargetDevice=SOFTWARE\\Quinloft\\DesignTargets\\PalmOS\r\n")->TargetDevice(),
               "PalmOS-DragonBall");
 }
-TEST_F(StoredSettings, OldPathsMatchByLetterCase) {
+TEST_F(StoredSettings, OldPathsAreCaseSensitive) {
     EXPECT_EQ(openWith("TargetDevice=Software\\Quinloft\\DesignTargets\\PocketPC\r\n")->TargetDevice(),
               "Software\\Quinloft\\DesignTargets\\PocketPC");
 }
@@ -103,7 +101,7 @@ TEST_F(StoredSettings, OldPathsMatchByLetterCase) {
 TEST_F(StoredSettings, TheStartUpMarkerMatchesExactly) {
     EXPECT_TRUE(openWith("StartUpProject={8A515BDE-2BCC-4ed4-8F0A-99E4522CC1BB}\r\n")->IsStartUpProject());
 }
-TEST_F(StoredSettings, AStartUpMarkerInSmallLettersIsNone) {
+TEST_F(StoredSettings, ALowerCaseStartUpMarkerDoesNotMatch) {
     EXPECT_FALSE(openWith("StartUpProject={8a515bde-2bcc-4ed4-8f0a-99e4522cc1bb}\r\n")->IsStartUpProject());
 }
 
@@ -136,7 +134,7 @@ TEST_F(StoredSettings, ANewIdentityIsAGuidWithoutBraces) {
     EXPECT_NE(stored(project, "MODID"), first);
 }
 
-TEST_F(StoredSettings, WhatTheHostRefusesIsReportedUnderItsProperty) {
+TEST_F(StoredSettings, AFailedWriteIsReportedUnderItsProperty) {
     const auto vbProject = traced();
     vbProject->readOnly = true;
     const auto project = wrap(vbProject);
@@ -145,7 +143,7 @@ TEST_F(StoredSettings, WhatTheHostRefusesIsReportedUnderItsProperty) {
     EXPECT_EQ(reports(), (Texts{"clsQLProject.Let_DefaultFontSize [75]", "clsQLProject.Let_Autosave [75]"}));
 }
 
-TEST_F(StoredSettings, AFailedReadThatIsNoAbsentValueIsReportedByThree) {
+TEST_F(StoredSettings, ThreeSettingsReportFailedReads) {
     const auto vbProject = traced();
     const auto project = wrap(vbProject);
     vbProject->removed = true;

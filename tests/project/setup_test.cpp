@@ -21,7 +21,7 @@ struct DeviceSetup : test::ProjectTest {
     const Texts& effects() const { return trace.effects; }
 };
 
-/// Refuses what it is asked for with an error of the test's choice.
+/// Refuses requests with an error of the test's choice.
 struct RefusingProject : test::TracedProject {
     using TracedProject::TracedProject;
     int number = 0;
@@ -46,7 +46,7 @@ TEST_F(DeviceSetup, ATemplateTakesTheDeviceOnly) {
     EXPECT_EQ(effects(), (Texts{"TargetDevice=Palm", "numCompileTargets=1", "CompileTarget1=Palm"}));
 }
 
-TEST_F(DeviceSetup, ToolboxAndReferencesTakeWhatIsThere) {
+TEST_F(DeviceSetup, ToolboxAndReferencesSkipEmptyEntries) {
     support("{1}", "Tavlets.QLLabel");
     support("{2}", "");
     palm->references = {"{A}", ""};
@@ -59,14 +59,14 @@ TEST_F(DeviceSetup, ToolboxAndReferencesTakeWhatIsThere) {
     EXPECT_EQ(effects(), (Texts{"toolbox Tavlets.QLLabel", "reference {A}"}));
 }
 
-TEST_F(DeviceSetup, NothingIsAddedBeforeTheListsAreThere) {
+TEST_F(DeviceSetup, NothingIsAddedWithoutLists) {
     const auto project = wrap(traced());
     project->SetupProjectToolbar();
     project->SetupProjectReferences();
     EXPECT_EQ(effects(), Texts{});
 }
 
-TEST_F(DeviceSetup, WhatTheHostRefusesGetsABox) {
+TEST_F(DeviceSetup, ARefusalOfTheHostIsShownInABox) {
     support("{1}", "Tavlets.QLLabel");
     palm->references = {"{A}"};
     const auto vbProject = basic::make<RefusingProject>(trace, "Hello", "");
@@ -80,7 +80,7 @@ TEST_F(DeviceSetup, WhatTheHostRefusesGetsABox) {
     EXPECT_TRUE(reports().empty());
 }
 
-TEST_F(DeviceSetup, Number5PassesForTheToolboxAlone) {
+TEST_F(DeviceSetup, Error5IsIgnoredForTheToolboxOnly) {
     support("{1}", "Tavlets.QLLabel");
     palm->references = {"{A}"};
     const auto vbProject = basic::make<RefusingProject>(trace, "Hello", "");
@@ -99,7 +99,7 @@ TEST_F(DeviceSetup, TheStyleIsPublishedInTheEnvironment) {
     EXPECT_EQ(environment.values["TavletStyle-DAF573D9-3AB3-4672-A6A7-6C23862A52E9"], "7");
 }
 
-TEST_F(DeviceSetup, EachFailingCallLeavesTheRestDone) {
+TEST_F(DeviceSetup, EachFailingCallLeavesTheOthersDone) {
     support("{1}", "Tavlets.QLLabel");
     palm->references = {"{A}"};
     const auto device = config();

@@ -30,7 +30,7 @@ struct Twips : test::ProjectTest {
 };
 } // namespace
 
-TEST_F(Twips, WithoutARecordTheScreensAreStored) {
+TEST_F(Twips, WithoutARecordTheScreensResolutionIsStored) {
     openForm("");
     screen.x = 12;
     project->CheckTwipsMatch();

@@ -3,7 +3,7 @@
 using namespace fernwick;
 
 namespace {
-/// What the project file on disk says counts, so the host needs no project of it.
+/// Only the project file on disk matters, so no host project is needed.
 struct ProjectVersion : test::ProjectTest {
     auto withFile(const std::string& text) {
         const auto vbProject = traced();
@@ -20,15 +20,15 @@ TEST_F(ProjectVersion, ALaterLineReplacesAnEarlierOne) {
     EXPECT_EQ(withFile("MajorVer=2\r\nMinorVer=3\r\nRevisionVer=14\r\nMinorVer=4\r\n")->version(), "2.4.14");
 }
 
-TEST_F(ProjectVersion, KeysMatchByLetterCaseAndFromTheStart) {
+TEST_F(ProjectVersion, KeysAreCaseSensitiveAndStartTheLine) {
     EXPECT_EQ(withFile("majorver=2\r\nXMinorVer=3\r\n")->version(), "0.0.0");
 }
 
-TEST_F(ProjectVersion, ANumberThatIsNoneIsTheCallersError) {
+TEST_F(ProjectVersion, AnInvalidNumberRaisesAnError) {
     EXPECT_EQ(test::errorOf([&] { withFile("MajorVer=two\r\n")->version(); }), 13);
 }
 
-TEST_F(ProjectVersion, AProjectWithoutAFileIsTheCallersError) {
+TEST_F(ProjectVersion, AProjectWithoutAFileRaisesAnError) {
     const auto project = wrap(traced());
     EXPECT_EQ(test::errorOf([&] { project->version(); }), 53);
     EXPECT_EQ(test::errorOf([&] { project->GetAppInfo(); }), 53);
@@ -55,7 +55,7 @@ TEST_F(ProjectVersion, ANameInALaterSectionWins) {
     EXPECT_EQ(withFile("Name=\"App\"\r\n\r\n[Other]\r\nName=Late\r\n")->GetAppInfo().ExeName, "Late");
 }
 
-TEST_F(ProjectVersion, TheRevisionGoesUpByOneWhateverIsAsked) {
+TEST_F(ProjectVersion, TheRevisionIsAlwaysIncrementedByOne) {
     const auto project = withFile("Type=Exe\nRevisionVer=9\nAutoIncrementVer=1\nTitle=\"\xFC\"\n");
     project->IncerementRevision(5);
     EXPECT_EQ(text(), "Type=Exe\r\nRevisionVer=10\r\nAutoIncrementVer=1\r\nTitle=\"\xFC\"\r\n");
@@ -71,7 +71,7 @@ TEST_F(ProjectVersion, NothingIsWrittenWithoutAutoIncrement) {
 
 TEST_F(ProjectVersion, NoSuchLineMeansOff) { EXPECT_FALSE(withFile("Type=Exe\r\n")->AutoIncrementVersion()); }
 
-TEST_F(ProjectVersion, AHighestRevisionStaysAndIsTheCallersError) {
+TEST_F(ProjectVersion, AnOverflowingRevisionIsKeptAndRaisesAnError) {
     const auto project = withFile("RevisionVer=2147483647\r\nAutoIncrementVer=1\r\n");
     EXPECT_EQ(test::errorOf([&] { project->IncerementRevision(1); }), 6);
     EXPECT_EQ(text(), "RevisionVer=2147483647\r\nAutoIncrementVer=1\r\n");

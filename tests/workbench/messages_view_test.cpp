@@ -239,7 +239,7 @@ TEST_F(Messages, HaveAccessibleNames) {
 TEST_F(Messages, OfADisconnectedAddInOpenNothing) {
     error("here", 3);
     settle();
-    document().letGo();
+    document().disconnect();
     list().setCurrentIndex(at(0));
     QTest::keyClick(&list(), Qt::Key_Return);
     window().resize(600, 600);

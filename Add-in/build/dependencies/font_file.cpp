@@ -15,7 +15,7 @@ constexpr std::size_t kBehindWrapperLength = 19;
 constexpr int kWrappedVersion = 2;
 constexpr int kTwoPartVersion = 3;
 
-// Places in the head
+// Offsets in the header
 constexpr std::size_t kVersionAt = 0, kSizeAt = 1, kMoreSizeAt = 2, kStyleAt = 4, kNameAt = 24;
 constexpr std::size_t kLongestName = 32;
 
@@ -23,7 +23,7 @@ int byteAt(std::string_view bytes, std::size_t at) {
     return at < bytes.size() ? static_cast<unsigned char>(bytes[at]) : 0;
 }
 
-/// The bytes from a place on; none behind the end.
+/// Returns the bytes from an offset; none beyond the end.
 std::string_view from(std::string_view bytes, std::size_t at) { return bytes.substr(std::min(at, bytes.size())); }
 
 std::string faceNameIn(std::string_view head) {

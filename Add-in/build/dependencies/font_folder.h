@@ -5,16 +5,16 @@
 
 namespace fernwick {
 
-/// A folder's converted fonts as they are when it is made: a scan asks for many fonts, and reads each file once.
+/// A snapshot of a folder's converted fonts: a scan looks up many fonts, and each file is read once.
 class FontFolder {
 public:
-    /// None.
+    /// An empty folder.
     FontFolder() = default;
-    /// A folder that isn't there has none, nor has a file that can't be opened. Errors 70 and 76 for a folder that
-    /// can't be listed.
+    /// A missing folder is empty, and files that cannot be opened are left out. Errors 70 and 76 for a folder that
+    /// cannot be listed.
     FontFolder(const FileSystemObject& files, const std::string& folder);
 
-    /// Path of the first file, in the folder's order, that holds the font; "" for none.
+    /// Returns the path of the first file, in the folder's order, that holds the font; "" for none.
     std::string find(const FontFace& font) const;
 
 private:

@@ -1,5 +1,5 @@
 #pragma once
-// What travels to a device with the compiled image: the user's list of files, and the fonts that forms name.
+// The files that are sent to a device with the compiled image: the user's list of files, and the fonts that forms use.
 #include "Add-in/build/dependencies/font_file.h"
 #include "Add-in/build/dependencies/resource_list.h"
 #include "Add-in/build/messages/modCompileErrorManagement.h"
@@ -11,7 +11,7 @@
 
 namespace fernwick {
 
-/// What the dependency module stands on.
+/// The dependencies of the dependency module.
 struct DependencyServices {
     Platform& platform;
     ErrorReport& errors;
@@ -27,38 +27,38 @@ public:
 
     explicit modDependencyManagement(const DependencyServices& services) : services_(services) {}
 
-    // The list, wherever it is kept.
+    // The list in memory.
     static void ClearDependencyList(tResourceList& list);
     /// Whether an entry has exactly this name.
     static bool ResourceinDependencyList(const std::string& name, const tResourceList& list);
-    /// Appends it; a resource without a name is left out.
+    /// Appends the resource if it has a name.
     static void AddDependency(const tResource& resource, tResourceList& list);
-    /// Index of the first entry of this name, letter case ignored; -1 for none.
+    /// Returns the index of the first entry of this name, regardless of case; -1 for none.
     static std::int32_t FindResourceIndex(const std::string& name, const tResourceList& list);
-    /// Nothing for -1. Error 9 outside of the list.
+    /// Does nothing for -1. Error 9 outside the list.
     static void RemoveDependency(std::int32_t index, tResourceList& list);
 
     // The list that is stored in the project.
-    /// As many entries as are stored; one that can't be read is blank. A missing file has the size 0.
+    /// Returns as many entries as are stored; one that cannot be read is blank. A missing file has the size 0.
     tResourceList ReadProjectDependencies(const Project& project);
     void WriteProjectDependencies(const Project& project, const tResourceList& list);
     void ClearProjectDependencies(const Project& project);
-    /// Whether all files are there: fonts in the fonts folder or the project's, others in the project's.
+    /// Whether all files exist: fonts in the fonts folder or the project's folder, others in the project's folder.
     bool ValidateDependencyList(const Project& project, const tResourceList& list);
 
     // Files that the user adds.
-    /// Lets the user choose files and gives those that are there, each once; none after Cancel.
+    /// Lets the user choose files and returns those that exist, each once; none after Cancel.
     tResourceList GetNewDependency(const Project& project);
-    /// The entry of a file. One outside of the project's folder is copied there: with `allowCopy` the user is asked
-    /// first, and the entry is blank when he refuses. The copy replaces a file of that name.
+    /// Returns the entry of a file. A file outside the project's folder is copied there, replacing a file of that name.
+    /// With `allowCopy` the user is asked first, and the entry is blank after No.
     tResource CreateNewDependency(const Project& project, const std::string& path, bool allowCopy);
-    /// What stands behind the folder in a path below it, with "\" for its separators; "" for any other path.
+    /// Returns the part of a path below the folder, with "\" as its separator; "" for any other path.
     std::string CreateRelativePath(const std::string& baseFolder, const std::string& path);
 
     // Fonts.
-    /// Names of the converted fonts that the controls on the project's forms need: bare for those of the fonts
-    /// folder, else relative to the project's folder. Each missing one gets one warning. The bar and the label are
-    /// those of a form that shows the scan.
+    /// Returns the names of the converted fonts that the project's controls need: bare for those in the fonts folder,
+    /// else relative to the project's folder. Each missing font gets one warning. The bar and the label belong to a
+    /// form that shows the scan.
     std::vector<std::string> ScanProjectForFontDependencies(const QLProject& qlProject, ProgressBar* bar = nullptr,
                                                             Label* status = nullptr);
 
@@ -86,7 +86,7 @@ private:
     int box(Procedure& here, const std::string& text, int buttons);
 
     DependencyServices services_;
-    /// Of the last scan. Keys of a collection: letter case counts for nothing.
+    /// Those of the last scan, as keys of a collection, which ignore case.
     basic::Collection<std::string> knownMissingFonts_;
 };
 

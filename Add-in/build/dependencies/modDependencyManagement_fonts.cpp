@@ -35,7 +35,7 @@ std::string missingFontKey(const FontFace& font) { return fmt::format("{}:{}:{}"
 
 } // namespace
 
-/// One scan: what it is about, what it found, and what it needn't look for again.
+/// The state of one scan.
 struct modDependencyManagement::FontScan {
     QLProject qlProject;
     std::vector<std::string> fonts;
@@ -71,7 +71,7 @@ std::vector<std::string> modDependencyManagement::ScanProjectForFontDependencies
     return scan.fonts;
 }
 
-/// Otherwise the user is told why.
+/// Informs the user if the result is false.
 bool modDependencyManagement::canBeScanned(Procedure& here, const Project& project) {
     if (here.test([&] { return project->FileName().empty(); })) {
         box(here, build_texts::kSaveBeforeScan, vbExclamation);
@@ -94,7 +94,7 @@ void modDependencyManagement::ScanFormforDependencies(const basic::Ref<vbide::VB
     }
 }
 
-/// A font that this scan has met before is listed already, or its lack is told.
+/// A font that this scan has seen before is already listed or reported.
 void modDependencyManagement::AddFonttoDependencyList(const basic::Ref<vbide::VBComponent>& form, FontScan& scan,
                                                       const FontFace& font) {
     Procedure here{services_.errors, "modDependencyManagement.AddFonttoDependencyList"};
@@ -107,7 +107,7 @@ void modDependencyManagement::AddFonttoDependencyList(const basic::Ref<vbide::VB
     AddFontToKnownMissingList(font);
 }
 
-/// The file that the Font Converter would write comes first, then any of the fonts folder, then any beside the
+/// The file that the Font Converter would write takes precedence, then any in the fonts folder, then any beside the
 /// project.
 std::string modDependencyManagement::findFont(Procedure& here, FontScan& scan, const FontFace& font) {
     const auto& files = services_.platform.files;
@@ -121,7 +121,7 @@ std::string modDependencyManagement::findFont(Procedure& here, FontScan& scan, c
     return installed.empty() ? look(scan.beside, scan.qlProject->ProjectPath()) : installed;
 }
 
-/// A name that the fonts folder has too is taken for one of its own.
+/// A name that also exists in the fonts folder refers to the file there.
 std::string modDependencyManagement::fontEntry(const FontScan& scan, const std::string& path) {
     const auto name = services_.platform.files.GetFileName(path);
     return inFontsFolder(name).empty() ? CreateRelativePath(scan.qlProject->ProjectPath(), path) : name;

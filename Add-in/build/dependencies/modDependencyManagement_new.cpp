@@ -10,12 +10,12 @@ namespace fernwick {
 
 namespace {
 
-/// Room for many names: the dialog gives up where they don't fit.
+/// Space for many names: the dialog fails if they do not fit.
 constexpr int kMostFileNameBytes = 32767;
 constexpr int kDependencyDialogFlags =
     cdlOFNExplorer | cdlOFNAllowMultiselect | cdlOFNPathMustExist | cdlOFNFileMustExist | cdlOFNHideReadOnly;
 
-/// Several names come as their folder and the names in it.
+/// Several chosen names are returned as their folder, followed by the names in it.
 std::vector<std::string> chosenPaths(const FileSystemObject& files, const std::string& fileName) {
     auto names = basic::Split(fileName, std::string(1, '\0'));
     if (names.size() < 2) return names;
@@ -64,7 +64,7 @@ tResource modDependencyManagement::CreateNewDependency(const Project& project, c
     return entry;
 }
 
-/// False when the user refuses. A copy that fails is reported like any other step.
+/// False when the user refuses. A failed copy is reported like any other step.
 bool modDependencyManagement::copyToProject(Procedure& here, const std::string& path, const std::string& folder,
                                             bool allowCopy) {
     using namespace fmt::literals;

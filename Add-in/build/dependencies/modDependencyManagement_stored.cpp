@@ -1,4 +1,4 @@
-// The list of dependency files as it lies in the project.
+// The list of dependency files that is stored in the project.
 #include "Add-in/build/dependencies/modDependencyManagement.h"
 #include "Add-in/core/preference_keys.h"
 #include "Basic/conversions.h"
@@ -15,7 +15,7 @@ constexpr char kNumDependencies[] = "NumDependencies";
 
 std::string dependencyKey(std::int32_t index) { return fmt::format("Dependencies{}", index); }
 
-/// Nothing when it can't be read. A damaged count counts as 0.
+/// Empty if it cannot be read. A damaged count reads as 0.
 std::optional<std::int32_t> storedDependencies(const basic::Ref<vbide::VBProject>& project) {
     std::optional<std::int32_t> count;
     (void)basic::attempt([&] { count = basic::CLng(project->ReadProperty(kProjectDependencies, kNumDependencies)); });
@@ -75,14 +75,14 @@ bool modDependencyManagement::ValidateDependencyList(const Project& project, con
     return true;
 }
 
-/// Where an entry's file is to be found, there or not: fonts count in the fonts folder first.
+/// Returns where an entry's file is expected, whether it exists or not. For fonts, the fonts folder takes precedence.
 std::string modDependencyManagement::placeOf(const std::string& folder, const tResource& entry) const {
     const auto& files = services_.platform.files;
     const auto installed = entry.FileType == kFontType ? inFontsFolder(entry.FileName) : std::string{};
     return installed.empty() ? files.BuildPath(folder, entry.FileName) : installed;
 }
 
-/// Path of the fonts folder's file of this name; "" for none.
+/// Returns the path of the file of this name in the fonts folder; "" for none.
 std::string modDependencyManagement::inFontsFolder(const std::string& name) const {
     const auto& files = services_.platform.files;
     const auto folder = services_.install.GetQuinloftFontsDir();
@@ -95,7 +95,7 @@ std::string modDependencyManagement::projectFolder(const Project& project) const
     return services_.platform.files.GetParentFolderName(project->FileName());
 }
 
-/// Error 6 for a file that a 32-bit size can't tell.
+/// Error 6 for a file whose size exceeds 32 bits.
 std::int32_t modDependencyManagement::fileSize(const std::string& path) const {
     return basic::CLng(services_.platform.files.GetSize(path));
 }

@@ -12,7 +12,7 @@ struct tResource {
     std::string FileName{};
     /// The extension in upper case ("CMF").
     std::string FileType{};
-    /// Bytes when it was read or added; 0 when that is not known.
+    /// Size in bytes when it was read or added; 0 if unknown.
     std::int32_t FileSize = 0;
     /// "???" until a page of the settings fills it.
     std::string Description = "???";
@@ -22,7 +22,7 @@ struct tResource {
 /// The FileType of converted fonts, which the fonts folder may hold for all projects.
 inline constexpr char kFontType[] = "CMF";
 
-/// A counted array of them, indexed from 0.
+/// A counted array of dependency files, indexed from 0.
 struct tResourceList {
     std::vector<tResource> entries;
 

@@ -1,5 +1,5 @@
 #pragma once
-// What is known of the messages that the add-in itself gives.
+// The table of the messages that the add-in itself issues.
 #include "Add-in/platform/message_info.h"
 #include <span>
 

@@ -1,5 +1,5 @@
 #pragma once
-// What users read of a build.
+// Texts of a build that users see.
 #include <string>
 
 namespace fernwick::build_texts {
@@ -12,10 +12,11 @@ inline constexpr char kStatusLabelAtFirst[] = "Status:";
 inline constexpr char kCompileStatus[] = "Compile Status:";
 inline constexpr char kCompilingAndValidating[] = "Compiling and validating...";
 
-/// The wording is known to users of the product as it stands.
+/// The wording is kept because users know it.
+// sic: Could Launch
 inline constexpr char kNoFontConverter[] = "ERROR!\r\n\r\nCould Launch Converter/Viewer;\r\n"
                                            "Application is missing or not in default location.";
-/// The list comes up behind it.
+/// The list of messages opens after it.
 inline constexpr char kNoHelpPage[] =
     "There is no help page on the message {number}. The list of all messages that have "
     "one opens instead.";
@@ -71,7 +72,7 @@ inline constexpr char kFontMissingElsewhere[] =
     " If this font is not already on the device, either add the font as a dependency, or convert the font and store "
     "it in the Quinloft/Fonts directory.";
 inline constexpr char kSelectDependency[] = "Select a dependency file.";
-/// Behind the Symbian databases no "|" stands: that kind and the next are shown as projects know them.
+/// There is no "|" after the Symbian databases: that kind and the next are displayed as one, as they always were.
 inline constexpr char kDependencyKinds[] = "All Files(*.*)|*.*|"
                                            "Quinloft Font(*.cmf)|*.cmf|"
                                            "True Type Font (*.ttf)|*.ttf|"
@@ -103,7 +104,7 @@ inline constexpr char kNoDesignTargets[] = "Error Creating DesignTargetAccess Ob
 inline constexpr char kReferenceMissing[] =
     "There is a missing reference in this project, please remove the reference.";
 inline constexpr char kUnknownLibrary[] = "TypeLib with UUID = {guid}";
-inline constexpr char kComponentNotSupported[] =
+inline constexpr char kComponentNotSupported[] = // sic: ingore
     "{name} is not supported and may cause errors on a {platform} device.  To ingore this warning and deploy to any "
     "device, turn off reference checking in the Compiler section of the Fernwick Settings screen. (Double-Click here "
     "to open the Fernwick Settings.)";

@@ -6,7 +6,7 @@
 
 namespace fernwick {
 
-/// Also the number of the picture that stands beside the message.
+/// Also the number of the picture that is shown beside the message.
 enum tMessageType : int { ERROR_MSG = 101, WARNING_MSG = 102 };
 
 /// The document object of the tool window "Fernwick Messages". Rows count from 1.
@@ -19,7 +19,7 @@ public:
     virtual void add(const std::string& aFileName, const std::string& aFiletitle, std::int32_t aLineNumber,
                      const std::string& aMessage, int MsgType, std::int32_t errno_, bool AddToTop) = 0;
     virtual void clearMessages() = 0;
-    /// Goes to the first message that has a source line, whatever its type.
+    /// Selects and opens the first message that has a source line, whatever its type.
     virtual void gotoFirstError() = 0;
     /// Selects the row and opens its source line.
     virtual void gotoMessage(std::int32_t MsgIndex) = 0;

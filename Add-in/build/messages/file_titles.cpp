@@ -41,7 +41,7 @@ std::string FileTitles::walkOn(Procedure& here, const std::string& name) {
         const auto component = components_[walked_++];
         std::string own;
         const bool found = here.test([&] { return (own = fileNameOf(component)) == name; });
-        if (!own.empty()) byFile_.emplace(own, component); // of two with this name the first counts
+        if (!own.empty()) byFile_.emplace(own, component); // the first of two files with this name takes precedence
         if (found) return here.value([&] { return component->Name(); });
     }
     return {};

@@ -1,5 +1,5 @@
 #pragma once
-// Which component of a project has a file, remembered within a run.
+// Looks up the component of a file. The results are cached within a run.
 #include "Add-in/platform/files.h"
 #include "Add-in/platform/host_project.h"
 #include <map>
@@ -10,15 +10,15 @@ namespace fernwick {
 
 class Procedure;
 
-/// A run brings thousands of messages for few files, so the walk over the components is kept: it goes on where
-/// the last one stopped, and a remembered component is asked again whether the file is still its own.
+/// A run issues thousands of messages for few files, so the walk over the components is cached. It continues where the
+/// last lookup stopped, and a cached component is checked for still having the file.
 class FileTitles {
 public:
     explicit FileTitles(const FileSystemObject& files) : files_(files) {}
 
-    /// A run begins: the components may have changed.
+    /// Called at the start of a run, because the components may have changed.
     void forget() { project_ = nullptr; }
-    /// Name of the first component whose file has this name, letter case ignored; "" for none.
+    /// Returns the name of the first component whose file has this name, regardless of case; "" for none.
     std::string find(Procedure& here, const basic::Ref<vbide::VBProject>& project, const std::string& fileName);
 
 private:

@@ -9,9 +9,9 @@ namespace fernwick {
 namespace {
 
 constexpr int kInvalidRowValue = 30009;
-/// In pixels: as wide as a picture, and the least that a row with one needs.
+/// In pixels: the width of a picture and the minimum height of a row with one.
 constexpr int kPicturePixels = 20;
-/// In twips, where no text says more.
+/// In twips, for rows without text.
 constexpr std::int32_t kLeastRowHeight = 20;
 
 constexpr std::array<MessageGrid::ColumnDesign, MessageGrid::kColumns> kDesign{{
@@ -23,7 +23,7 @@ constexpr std::array<MessageGrid::ColumnDesign, MessageGrid::kColumns> kDesign{{
     {"Message/Warning/Error", true, flexAlignLeftCenter, flexAlignGeneral, 0.76},
 }};
 
-/// The nearest whole number, of two the even one; a length beyond what a grid can hold is its greatest.
+/// Rounds half to even. A length beyond the grid's maximum becomes that maximum.
 std::int32_t twips(double length) {
     return std::int32_t(std::clamp(std::nearbyint(length), 0.0, double(std::numeric_limits<std::int32_t>::max())));
 }

@@ -1,5 +1,5 @@
 #pragma once
-// The grid of the messages window without its drawing: columns, rows, and how high each row stands. Lengths are in twips.
+// The grid of the messages window without its drawing: columns, rows and row heights. Lengths are in twips.
 #include "Add-in/platform/device_context.h"
 #include "Add-in/platform/screen.h"
 #include <array>
@@ -10,12 +10,12 @@
 
 namespace fernwick {
 
-/// Where a cell's text stands in its cell, as the grid numbers it.
+/// The alignment of a cell's text, as the grid numbers it.
 enum FlexAlignment : int {
     flexAlignLeftCenter = 1,
     flexAlignCenterTop = 3,
     flexAlignCenterCenter = 4,
-    /// Texts at the left.
+    /// Aligns texts to the left.
     flexAlignGeneral = 9,
 };
 
@@ -32,7 +32,7 @@ public:
         bool isHeaderBold;
         FlexAlignment cells;
         FlexAlignment headers;
-        /// Of the width that the picture leaves.
+        /// Share of the width that is left beside the picture.
         double share;
     };
 
@@ -42,7 +42,7 @@ public:
         int type = 0;
         /// A BMP file's bytes; null for a row without a picture.
         std::shared_ptr<const std::string> picture;
-        /// Of the message, measured when it came.
+        /// The message's size, measured when it was added.
         TextExtent extent;
         std::int32_t height = 0;
     };
@@ -53,25 +53,25 @@ public:
 
     /// The header row included.
     std::int32_t rowCount() const { return std::int32_t(rows_.size()) + kFixedRows; }
-    /// From 1. Error 30009 outside of the messages.
+    /// Counts from 1. Error 30009 for a row that is not a message.
     const Row& row(std::int32_t index) const;
-    /// Row 0 is the header. Error 30009 for a row that is not there.
+    /// Row 0 is the header. Error 30009 for a row that does not exist.
     std::string cell(std::int32_t index, Column column) const;
 
-    /// The row is new, and stands right below the header or at the end. It stays valid when rows come and go.
+    /// Inserts a new row below the header or at the end. It stays valid when other rows are added or removed.
     std::shared_ptr<Row> insert(std::array<std::string, kColumns> cells, bool atTop);
     void clear() { rows_.clear(); }
 
-    /// Null where no window draws the grid: texts then measure nothing. It outlives the grid or is taken back.
+    /// Null if no window draws the grid; texts then have no size. The context must outlive the grid or be reset.
     void measureWith(const DeviceContext* context) { context_ = context; }
     TextExtent measured(const std::string& text) const noexcept;
-    /// Remembers how long the row's message is.
+    /// Stores the size of the row's message.
     void measure(Row& row) { row.extent = measured(row.cells[MessageColumn]); }
     void measureAll();
-    /// As many lines as the message fills the last column.
+    /// Sets the row's height to the lines that the message needs in the last column.
     void fitHeight(Row& row);
 
-    /// The document's size, and where in it the grid begins.
+    /// Sets the document's size and the grid's position in it.
     void SetGridSizes(std::int32_t documentWidth, std::int32_t documentHeight, std::int32_t top);
     std::int32_t width() const { return width_; }
     std::int32_t height() const { return height_; }

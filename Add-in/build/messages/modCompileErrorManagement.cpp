@@ -92,7 +92,7 @@ bool modCompileErrorManagement::isToolWindowShowing() {
 }
 
 void modCompileErrorManagement::clearToolWindow() {
-    titles_.forget(); // a run begins here
+    titles_.forget(); // a run starts here
     if (!messages_) return;
     basic::Suppressed quietly;
     quietly([&] { messages_->clearMessages(); });

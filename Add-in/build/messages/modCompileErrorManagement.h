@@ -11,8 +11,8 @@ namespace fernwick {
 /// What the status of the messages window shows.
 enum class RunStatus { None, Running, Succeeded, SucceededWithWarnings, Failed };
 
-/// Every compile error, validation finding and deployment error of a project goes through here. The stored list
-/// survives the closing of the project; the window shows the list of the current project.
+/// Receives every compile error, validation finding and deployment error of a project. The stored list persists when
+/// the project is closed; the window shows the list of the current project.
 class modCompileErrorManagement {
 public:
     using Project = basic::Ref<vbide::VBProject>;
@@ -31,7 +31,7 @@ public:
                          std::int32_t line, int type, std::int32_t errorNumber);
     /// Empties the window and the stored list.
     void ClearProjectCompileErrors(const Project& project);
-    /// How many messages are stored, warnings included; 0 when that cannot be read.
+    /// Returns how many messages are stored, including warnings; 0 when the count cannot be read.
     std::int32_t NumProjectCompileErrors(const Project& project);
     void ShowProjectCompileErrors(const Project& project, bool onlyIfAny);
     void HideProjectCompileErrors() { hideToolWindow(); }
@@ -44,11 +44,11 @@ public:
     void SaveCompileErrorWindowState(const Project& project);
     bool GetCompileErrorWindowState(const Project& project);
 
-    /// Name of the component that has this file; "" for none.
+    /// Returns the name of the component that has this file; "" for none.
     std::string FindFileTitle(const Project& project, const std::string& fileName);
-    /// Sets the status by the counts of the messages shown, and fills the numbers into the text that is used.
+    /// Sets the status according to the messages shown, and fills the counts into the text that is used.
     void ProjectStatusText(std::string& successText, std::string& warningText, std::string& failureText);
-    /// The message as it is stored: on one line, without "|" and quotation marks.
+    /// Returns the message as it is stored: on one line, without "|" and quotation marks.
     static std::string FilterCompileMessage(const std::string& text);
 
     void createToolWindow();
@@ -63,7 +63,7 @@ public:
     RunStatus status() const { return status_; }
     /// Errors in the window.
     std::int32_t errorCount() const { return errorCount_; }
-    /// Warnings in the window that came before the first error.
+    /// Warnings in the window that were added before the first error.
     std::int32_t warningCount() const { return warningCount_; }
 
 private:

@@ -36,7 +36,7 @@ void udocCompileMsgs::add(const std::string& aFileName, const std::string& aFile
     row->type = MsgType == ERROR_MSG || MsgType == WARNING_MSG ? MsgType : 0;
     grid_.measure(*row);
     grid_.fitHeight(*row);
-    (void)basic::attempt([&] { row->picture = pictureOf(MsgType); }); // a row without its picture is a row
+    (void)basic::attempt([&] { row->picture = pictureOf(MsgType); }); // a row may lack its picture
     here([&] { added.raise(AddToTop); });
 }
 

@@ -1,6 +1,5 @@
 #pragma once
-// The messages window without its drawing: the rows in their order, and the way from a message to what can be done about
-// it.
+// The messages window without its drawing: the rows in their order, and the actions on them.
 #include "Add-in/build/messages/build_texts.h"
 #include "Add-in/build/messages/compile_messages.h"
 #include "Add-in/build/messages/message_grid.h"
@@ -15,7 +14,7 @@
 
 namespace fernwick {
 
-/// What the messages window stands on.
+/// The dependencies of the messages window.
 struct CompileMsgsServices {
     const Platform& platform;
     ErrorReport& errors;
@@ -33,7 +32,7 @@ public:
     using enum MessageGrid::Column;
     using Row = MessageGrid::Row;
 
-    /// Where the status line's parts stand, in twips.
+    /// The layout of the status line, in twips.
     struct StatusSizes {
         std::int32_t separatorWidth = 0, textLeft = 0, textWidth = 0;
     };
@@ -43,11 +42,11 @@ public:
     /// Caption before the status.
     Property<std::string> lblStatus{build_texts::kStatusLabelAtFirst};
     Property<std::string> lblStatusText;
-    /// There is one more row; true: right below the header.
+    /// A row was added; true: right below the header.
     Event<bool> added;
-    /// There are no messages any more.
+    /// The messages were cleared.
     Event<> cleared;
-    /// gotoMessage has chosen another row.
+    /// gotoMessage has selected another row.
     Event<> chosen;
 
     void SetStatusLabel(const std::string& newStatusLabel) override;
@@ -61,32 +60,32 @@ public:
     const MessageGrid& msgGrid() const { return grid_; }
     /// The header row included.
     std::int32_t rowCount() const { return grid_.rowCount(); }
-    /// From 1. Error 30009 outside of the messages.
+    /// Counts from 1. Error 30009 for a row that is not a message.
     const Row& message(std::int32_t row) const { return grid_.row(row); }
     /// 0 for the header.
     std::int32_t selectedRow() const { return selectedRow_; }
     const StatusSizes& statusSizes() const { return statusSizes_; }
-    /// A BMP file's bytes. An error for a number that has no picture, and when the add-in is gone.
+    /// Returns a BMP file's bytes. An error for a number without a picture, and when the add-in is disconnected.
     std::shared_ptr<const std::string> pictureOf(int number);
-    /// What a copy of the row says.
+    /// Returns the text of a copy of the row.
     std::string copyText(std::int32_t row) const;
 
-    // ---- by the window ----
-    /// The user chose a row; 0 is the header. Error 30009 for one that is not there.
+    // Called by the window:
+    /// Called when the user selects a row; 0 is the header. Error 30009 for a row that does not exist.
     void select(std::int32_t row);
     void msgGrid_DblClick();
-    /// F1 shows the help on the chosen row's number, Ctrl+C copies the row. `Shift` is a sum of ShiftConstants.
+    /// F1 shows the help on the selected row's number, Ctrl+C copies the row. `Shift` is a sum of ShiftConstants.
     void msgGrid_KeyDown(int KeyCode, int Shift);
-    /// Chooses the row and opens its source line, if it has one, but does nothing else about it: for a walk through all
+    /// Selects the row and opens its source line, if it has one, without the message's action: for a walk through all
     /// messages.
     void showSource(std::int32_t row);
-    /// The window's inner size and where in it the grid begins, in twips.
+    /// Sets the window's inner size and the grid's position in it, in twips.
     void UserDocument_Resize(std::int32_t width, std::int32_t height, std::int32_t gridTop);
-    /// What the window measures texts with, null when it goes; once more when its font is another.
+    /// Sets the context that measures texts, null when the window is closed. Called again when its font changes.
     void drawWith(const DeviceContext* context);
 
-    /// The add-in goes while the host still has the window: the rows stay, and lead nowhere.
-    void letGo() { services_.reset(); }
+    /// Called when the add-in is disconnected while the host keeps the window: the rows stay, but without actions.
+    void disconnect() { services_.reset(); }
 
 private:
     using Cells = std::array<std::string, MessageGrid::kColumns>;
@@ -99,13 +98,13 @@ private:
     void copyRow(Procedure& here);
     void box(const std::string& text, int icon);
 
-    /// Nothing when the add-in is gone.
+    /// Empty when the add-in is disconnected.
     std::optional<CompileMsgsServices> services_;
     MessageGrid grid_;
     std::int32_t documentWidth_ = 0, documentHeight_ = 0, gridTop_ = 0;
     StatusSizes statusSizes_;
     std::int32_t selectedRow_ = 0;
-    /// Those that were loaded, by number.
+    /// Loaded pictures, by number.
     std::map<int, std::shared_ptr<const std::string>> pictures_;
 };
 

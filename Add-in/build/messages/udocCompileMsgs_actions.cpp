@@ -1,4 +1,4 @@
-// From a message to what can be done about it.
+// The actions on messages.
 #include "Add-in/build/messages/message_numbers.h"
 #include "Add-in/build/messages/udocCompileMsgs.h"
 #include "Basic/conversions.h"
@@ -7,7 +7,7 @@ namespace fernwick {
 
 namespace {
 
-/// Behind the end of any line: the whole line is selected.
+/// Beyond the end of any line, so the whole line is selected.
 constexpr int kEndOfLine = 9999;
 constexpr char kCompilerSettingsPage[] = "Compiler Settings";
 constexpr char kPicturesHelpFile[] = "VB Toolkit\\doc\\Quinloft_Tamarik_and_Components.chm";
@@ -19,7 +19,7 @@ void udocCompileMsgs::msgGrid_DblClick() {
     if (!services_) return;
     Procedure here{services_->errors, "udocCompileMsgs.msgGrid_DblClick"};
     if (selectedRow_ <= 0) return;
-    const auto cells = message(selectedRow_).cells; // opening the source lets events in, which may clear the rows
+    const auto cells = message(selectedRow_).cells; // opening the source processes events, which may clear the rows
     openSource(here, cells);
     if (services_ && !cells[ErrorColumn].empty()) actOn(here, basic::CLng(cells[ErrorColumn]));
 }
@@ -44,9 +44,9 @@ void udocCompileMsgs::openSource(Procedure& here, const Cells& cells) {
     showLine(here, pane, line);
 }
 
-/// The host's window holds its picture while the pane's window changes its size, which would flicker.
+/// Redrawing of the host's window is suspended while the pane's window is resized, to avoid flicker.
 void udocCompileMsgs::showLine(Procedure& here, const basic::Ref<vbide::CodePane>& pane, std::int32_t line) {
-    if (!services_) return; // the pane that came up let events in
+    if (!services_) return; // showing the pane processed events
     auto& user = services_->platform.interaction;
     here([&] { user.SetRedraw(false); });
     here([&] { pane->Window()->WindowState(vbide::vbext_ws_Normal); });
@@ -56,7 +56,7 @@ void udocCompileMsgs::showLine(Procedure& here, const basic::Ref<vbide::CodePane
 }
 
 void udocCompileMsgs::actOn(Procedure& here, std::int32_t errorNumber) {
-    const auto services = *services_; // reports and dialogs let events in
+    const auto services = *services_; // reports and dialogs process events
     switch (errorNumber) {
     case message_numbers::kComponentNotSupported:
         here([&] { services.platform.interaction.SetCursor(vbHourglass); });

@@ -11,9 +11,9 @@ namespace fernwick {
 namespace {
 
 constexpr char kHelpFile[] = "VB Toolkit\\doc\\Quinloft_Error_Codes.chm";
-/// The pages of the help file stand in the folder of its name, each under its number.
+/// The pages of the help file are in the folder of its name, each under its number.
 constexpr char kHelpPage[] = "VB Toolkit\\doc\\Quinloft_Error_Codes\\{}.html";
-/// For a character that the code page lacks.
+/// Replaces a character that the code page lacks.
 constexpr char kNoSuchCharacter = '?';
 
 std::string inCodePage(const std::string& text) {
@@ -41,7 +41,7 @@ void udocCompileMsgs::msgGrid_KeyDown(int KeyCode, int Shift) {
 void udocCompileMsgs::showHelp(Procedure& here) {
     std::int32_t number = 0;
     if (!here([&] { number = basic::CLng(grid_.cell(selectedRow_, ErrorColumn)); })) return;
-    const auto services = *services_; // the box lets events in
+    const auto services = *services_; // the box processes events
     const auto page = fmt::format(kHelpPage, number);
     if (!here.test([&] { return services.platform.files.FileExists(services.install.installed(page)); }))
         here([&] { box(basic::Replace(build_texts::kNoHelpPage, "{number}", fmt::to_string(number)), vbExclamation); });
@@ -57,8 +57,8 @@ std::string udocCompileMsgs::copyText(std::int32_t row) const {
            ", Error Number: " + cells[ErrorColumn] + ", Message: " + cells[MessageColumn];
 }
 
-/// The text ends with a zero, as the clipboard's plain text does. One with characters beyond the code page is there in full
-/// besides.
+/// The text ends with a zero, like all plain text of the clipboard. If it has characters beyond the code page, the full
+/// text is copied too.
 void udocCompileMsgs::copyRow(Procedure& here) {
     auto& clipboard = services_->platform.clipboard;
     const auto text = copyText(selectedRow_);

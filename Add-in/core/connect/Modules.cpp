@@ -12,7 +12,7 @@ Modules::Modules(Platform& p, const ModuleOverrides& overrides)
 
 Modules::~Modules() {
     for (const auto& document : documents_)
-        if (const auto window = document.lock()) window->letGo();
+        if (const auto window = document.lock()) window->disconnect();
 }
 
 basic::Ref<Object> Modules::newCompileMsgs() {
