@@ -1,9 +1,9 @@
 #pragma once
 // One open project of the host.
 #include "Add-in/devices/clsDeviceConfig.h"
-#include "Add-in/project/application_info.h"
 #include "Add-in/project/designer_windows.h"
-#include "Add-in/project/project_settings.h"
+#include "Add-in/project/stored/application_info.h"
+#include "Add-in/project/stored/project_settings.h"
 
 namespace fernwick {
 

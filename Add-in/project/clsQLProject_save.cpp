@@ -1,6 +1,6 @@
 // Saving of files that exist.
 #include "Add-in/project/clsQLProject.h"
-#include "Add-in/project/project_texts.h"
+#include "Add-in/project/stored/project_texts.h"
 #include <fmt/format.h>
 
 namespace fernwick {

@@ -2,7 +2,7 @@
 #include "Add-in/project/clsQLProject.h"
 #include "Add-in/project/form_fitting.h"
 #include "Add-in/project/form_scaling.h"
-#include "Add-in/project/project_texts.h"
+#include "Add-in/project/stored/project_texts.h"
 #include <fmt/format.h>
 
 namespace fernwick {

@@ -1,6 +1,6 @@
 #pragma once
 // The designer windows of a project's forms.
-#include "Add-in/project/project_store.h"
+#include "Add-in/project/stored/project_store.h"
 #include <vector>
 
 namespace fernwick {

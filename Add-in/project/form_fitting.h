@@ -2,7 +2,7 @@
 // The shape of new forms, as a project's settings give it.
 #include "Add-in/platform/host_project.h"
 #include "Add-in/platform/screen.h"
-#include "Add-in/project/project_settings.h"
+#include "Add-in/project/stored/project_settings.h"
 
 namespace fernwick {
 

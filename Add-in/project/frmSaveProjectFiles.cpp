@@ -1,6 +1,6 @@
 #include "Add-in/project/frmSaveProjectFiles.h"
 #include "Add-in/core/core_texts.h"
-#include "Add-in/project/project_texts.h"
+#include "Add-in/project/stored/project_texts.h"
 
 namespace fernwick {
 

@@ -1,5 +1,5 @@
 #include "Add-in/project/frmSaveWarning.h"
-#include "Add-in/project/project_texts.h"
+#include "Add-in/project/stored/project_texts.h"
 
 namespace fernwick {
 

@@ -1,6 +1,6 @@
 // Conditional compilation constants.
 #include "Add-in/project/modProjectHandler.h"
-#include "Add-in/project/project_texts.h"
+#include "Add-in/project/stored/project_texts.h"
 #include "Basic/conversions.h"
 #include "Basic/text.h"
 #include "Basic/text_search.h"

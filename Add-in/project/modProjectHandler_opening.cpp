@@ -1,6 +1,6 @@
 // Opening projects on the user's behalf.
 #include "Add-in/project/modProjectHandler.h"
-#include "Add-in/project/project_texts.h"
+#include "Add-in/project/stored/project_texts.h"
 
 namespace fernwick {
 

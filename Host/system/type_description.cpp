@@ -80,7 +80,8 @@ void readVersion(const DescriptionTable& table, TypeDescription& into) {
     const auto major = std::from_chars(version.data(), end, into.majorVersion);
     const bool pointed = major.ec == std::errc{} && major.ptr != end && *major.ptr == '.';
     const auto minor = pointed ? std::from_chars(major.ptr + 1, end, into.minorVersion) : major;
-    if (!pointed || minor.ec != std::errc{} || minor.ptr != end) table.fail("\"version\" must be two numbers separated by a point");
+    if (!pointed || minor.ec != std::errc{} || minor.ptr != end)
+        table.fail("\"version\" must be two numbers separated by a point");
 }
 
 TypeDescription headOf(const DescriptionTable& table) {

@@ -1,8 +1,8 @@
 #pragma once
 // The compile targets that a project stores, from index 1.
 #include "Add-in/core/array.h"
-#include "Add-in/project/device_keys.h"
-#include "Add-in/project/project_store.h"
+#include "Add-in/project/stored/device_keys.h"
+#include "Add-in/project/stored/project_store.h"
 
 namespace fernwick {
 

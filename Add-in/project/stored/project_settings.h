@@ -1,10 +1,10 @@
 #pragma once
 // Every stored setting of a project, in the order in which lists show them.
-#include "Add-in/project/compile_step_list.h"
-#include "Add-in/project/dependency_list.h"
-#include "Add-in/project/icon_setting.h"
-#include "Add-in/project/project_format.h"
-#include "Add-in/project/target_device_setting.h"
+#include "Add-in/project/stored/compile_step_list.h"
+#include "Add-in/project/stored/dependency_list.h"
+#include "Add-in/project/stored/icon_setting.h"
+#include "Add-in/project/stored/project_format.h"
+#include "Add-in/project/stored/target_device_setting.h"
 
 namespace fernwick {
 

@@ -3,7 +3,7 @@
 #include "Add-in/core/modQLInstallInfo.h"
 #include "Add-in/devices/modDeviceManagement.h"
 #include "Add-in/platform/platform.h"
-#include "Add-in/project/modProjectTemplates.h"
+#include "Add-in/project/stored/modProjectTemplates.h"
 
 namespace fernwick {
 

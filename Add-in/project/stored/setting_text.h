@@ -1,6 +1,6 @@
 #pragma once
 // Values of settings as the text that the project file stores.
-#include "Add-in/project/project_setting.h"
+#include "Add-in/project/stored/project_setting.h"
 
 namespace fernwick {
 

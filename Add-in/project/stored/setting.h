@@ -1,8 +1,8 @@
 #pragma once
 // Declares a setting of a project: `Setting<bool> Autosave{this, "Autosave", "save without asking"};` is read by
 // `project.Autosave()` and written by `project.Autosave(true)`.
-#include "Add-in/project/project_setting.h"
-#include "Add-in/project/setting_text.h"
+#include "Add-in/project/stored/project_setting.h"
+#include "Add-in/project/stored/setting_text.h"
 
 namespace fernwick {
 

@@ -1,4 +1,4 @@
-#include "Add-in/project/icon_setting.h"
+#include "Add-in/project/stored/icon_setting.h"
 #include "Add-in/core/modFileManagement.h"
 #include "Basic/case_folding.h"
 #include "Basic/text_search.h"

@@ -1,4 +1,4 @@
-#include "Add-in/project/project_store.h"
+#include "Add-in/project/stored/project_store.h"
 #include "Basic/conversions.h"
 
 namespace fernwick {

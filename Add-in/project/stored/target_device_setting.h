@@ -1,7 +1,7 @@
 #pragma once
 // The device of a project: its key, and its design target.
-#include "Add-in/project/compile_target_list.h"
-#include "Add-in/project/setting.h"
+#include "Add-in/project/stored/compile_target_list.h"
+#include "Add-in/project/stored/setting.h"
 
 namespace fernwick {
 

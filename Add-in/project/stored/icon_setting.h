@@ -1,6 +1,6 @@
 #pragma once
 // The application icon of a project.
-#include "Add-in/project/setting.h"
+#include "Add-in/project/stored/setting.h"
 
 namespace fernwick {
 

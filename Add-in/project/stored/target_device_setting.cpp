@@ -1,4 +1,4 @@
-#include "Add-in/project/target_device_setting.h"
+#include "Add-in/project/stored/target_device_setting.h"
 
 namespace fernwick {
 

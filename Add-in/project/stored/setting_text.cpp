@@ -1,4 +1,4 @@
-#include "Add-in/project/setting_text.h"
+#include "Add-in/project/stored/setting_text.h"
 #include "Basic/conversions.h"
 
 namespace fernwick {

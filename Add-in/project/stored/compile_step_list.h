@@ -1,7 +1,7 @@
 #pragma once
 // The command lines that a project runs before or after a compile.
 #include "Add-in/core/array.h"
-#include "Add-in/project/project_setting.h"
+#include "Add-in/project/stored/project_setting.h"
 
 namespace fernwick {
 

@@ -1,6 +1,6 @@
 #pragma once
 // A list of dependencies that a build stores in the project: a count, and entries under numbered keys from 1.
-#include "Add-in/project/project_setting.h"
+#include "Add-in/project/stored/project_setting.h"
 
 namespace fernwick {
 

@@ -1,4 +1,4 @@
-#include "Add-in/project/application_info.h"
+#include "Add-in/project/stored/application_info.h"
 #include "Basic/arithmetic.h"
 #include "Basic/conversions.h"
 #include "Basic/ref.h"

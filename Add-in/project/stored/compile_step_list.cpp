@@ -1,4 +1,4 @@
-#include "Add-in/project/compile_step_list.h"
+#include "Add-in/project/stored/compile_step_list.h"
 #include "Add-in/core/preference_keys.h"
 #include "Basic/conversions.h"
 

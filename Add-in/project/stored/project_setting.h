@@ -1,6 +1,6 @@
 #pragma once
 // A stored setting of a project, as lists of settings show it.
-#include "Add-in/project/project_store.h"
+#include "Add-in/project/stored/project_store.h"
 #include <span>
 #include <string_view>
 #include <vector>

@@ -2,7 +2,7 @@
 // The text values that a project keeps in its file.
 #include "Add-in/core/procedure.h"
 #include "Add-in/platform/host_project.h"
-#include "Add-in/project/project_services.h"
+#include "Add-in/project/stored/project_services.h"
 
 namespace fernwick {
 
