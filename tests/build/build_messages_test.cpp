@@ -35,12 +35,16 @@ TEST(BuildMessages, AreErrorsOrWarningsAsTheyAreStored) {
     for (const auto number : {8193, 8198, 8199, 8201, 8202, 8206, 8208}) EXPECT_FALSE(row(number).isError) << number;
 }
 
-TEST(BuildMessages, NumberTheirPlaceholders) {
-    EXPECT_EQ(row(numbers::kToolsMissing).text, "Compiler tools could not be loaded. Please contact Quinloft at %1");
-    EXPECT_EQ(row(numbers::kReservedWord).text, "\"%1\" is illegal as a %2 name. It is a reserved word.");
-    EXPECT_EQ(row(numbers::kControlEventNotSupported).text, "%1 is not supported by Quinloft Fernwick for %2{%3}");
-    EXPECT_EQ(row(numbers::kFormEventNotSupported).text, "%1 is not supported by Quinloft Fernwick for %2%3");
+TEST(BuildMessages, NameTheirPlaceholders) {
+    EXPECT_EQ(row(numbers::kToolsMissing).text,
+              "Compiler tools could not be loaded. Please contact Quinloft at {address}");
     EXPECT_EQ(row(numbers::kScaleModeNotPixels).text, build_texts::kScaleModeNotPixels);
+    EXPECT_EQ(row(numbers::kFormEventNotSupported).text, build_texts::kFormEventNotSupported);
+}
+
+TEST(BuildMessages, ShowBracesOfTheTextOnce) {
+    EXPECT_EQ(row(numbers::kControlEventNotSupported).text,
+              "{procedure} is not supported by Quinloft Fernwick for {class}{{control}}");
 }
 
 } // namespace

@@ -20,6 +20,13 @@ protected:
         test::whenShown(act);
         modules.gettingStarted.ShowModal();
     }
+    /// Runs `act` once the first page has its picture: the form draws it after its window is on screen.
+    static void whenPictured(const std::function<void(QDialog&)>& act) {
+        test::whenShown<QDialog>([act](QDialog& window) {
+            const bool isPictured = !window.findChild<QLabel*>("pictMain")->pixmap().isNull();
+            isPictured ? act(window) : whenPictured(act);
+        });
+    }
     static QString text(QDialog& window, const char* label) { return window.findChild<QLabel*>(label)->text(); }
     fernwick::Modules modules{platform};
 };
@@ -41,9 +48,7 @@ TEST_F(Introduction, IsReadWithTheKeyboardAlone) {
 }
 
 TEST_F(Introduction, EachPageHasItsPicture) {
-    show([](QDialog& window) {
-        const auto shown = [&] { return !window.findChild<QLabel*>("pictMain")->pixmap().isNull(); };
-        ASSERT_TRUE(QTest::qWaitFor(shown)); // the first page is filled once the window is on screen
+    whenPictured([](QDialog& window) {
         std::vector<QImage> pictures;
         for (int page = 0; page < 9; ++page, test::click(window, "cmdNext")) {
             const auto drawn = window.findChild<QLabel*>("pictMain");
@@ -54,6 +59,7 @@ TEST_F(Introduction, EachPageHasItsPicture) {
         }
         window.close();
     });
+    modules.gettingStarted.ShowModal();
 }
 
 TEST_F(Introduction, ItsTextFitsAndItsButtonsStayInPlace) {

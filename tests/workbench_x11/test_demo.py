@@ -27,7 +27,7 @@ class Demo(unittest.TestCase):
     def test_without_a_display_it_fails(self):
         done = self.run_demo("--window")
         self.assertEqual(done.returncode, 3)
-        self.assertIn("there is no display here", done.stderr)
+        self.assertIn("no display was found", done.stderr)
 
     def test_an_unknown_sample_is_reported(self):
         done = self.run_demo("--window", "Nothing")

@@ -2,6 +2,7 @@
 #include "Add-in/build/messages/build_texts.h"
 #include "Add-in/build/messages/message_numbers.h"
 #include "Basic/text_search.h"
+#include <utility>
 #include <vector>
 
 namespace fernwick {
@@ -17,6 +18,11 @@ struct NamedMessage {
     std::string text;
     std::string_view meaning, example, remedy;
 };
+
+/// Returns the text of a format, in which single braces are doubled.
+std::string unescaped(std::string format) {
+    return basic::Replace(basic::Replace(std::move(format), "{{", "{"), "}}", "}");
+}
 
 const std::vector<NamedMessage>& namedMessages() {
     using namespace message_numbers;
@@ -41,7 +47,7 @@ const std::vector<NamedMessage>& namedMessages() {
          "FontName = \"Arial\"\nFontSize = 9",
          "Convert the font with the Font Converter, or choose an installed one: a file such as Ari_09R.CMF holds "
          "Arial, 9 points, regular."},
-        {kControlEventNotSupported, kWarning, build_texts::kControlEventNotSupported,
+        {kControlEventNotSupported, kWarning, unescaped(build_texts::kControlEventNotSupported),
          "Devices never raise this event of the control, so the procedure never runs.",
          "Private Sub Picture1_DRAGDROP(Source As Control, X As Single, Y As Single)",
          "Use an event that devices raise, such as Click."},
@@ -76,41 +82,18 @@ const std::vector<NamedMessage>& namedMessages() {
     return messages;
 }
 
-/// Replaces "{name}" by "%1" and so on, and doubled braces by single ones.
-std::string numbered(std::string_view text) {
-    std::string out;
-    int count = 0;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const bool twice = i + 1 < text.size() && text[i + 1] == text[i];
-        if (text[i] == '{' && !twice) {
-            out += '%' + std::to_string(++count);
-            i = text.find('}', i);
-        } else {
-            out += text[i];
-            if ((text[i] == '{' || text[i] == '}') && twice) ++i;
-        }
-    }
-    return out;
-}
-
-std::vector<std::string> numberedTexts() {
-    std::vector<std::string> texts;
-    for (const auto& message : namedMessages()) texts.push_back(numbered(message.text));
-    return texts;
-}
-
-std::vector<MessageInfo> makeTable(const std::vector<std::string>& texts) {
+/// Returns the table; the texts belong to `messages`.
+std::vector<MessageInfo> makeTable(const std::vector<NamedMessage>& messages) {
     std::vector<MessageInfo> table;
-    for (const auto& row : namedMessages())
-        table.push_back({row.number, row.isError, texts[table.size()], row.meaning, row.example, row.remedy});
+    for (const auto& row : messages)
+        table.push_back({row.number, row.isError, row.text, row.meaning, row.example, row.remedy});
     return table;
 }
 
 } // namespace
 
 std::span<const MessageInfo> buildMessages() {
-    static const auto texts = numberedTexts();
-    static const auto table = makeTable(texts);
+    static const auto table = makeTable(namedMessages());
     return table;
 }
 
