@@ -23,7 +23,7 @@ bool CompilePermission::readyForValidation(const Project& project) {
     return !ProjectIsDirty(project) || saveForCompile(here, project, qlProject);
 }
 
-/// Otherwise informs the user and starts the host's own saving, which this run does not wait for.
+/// Returns whether the files were saved before. If not, informs the user and starts the host's Save command, and the compile ends.
 bool CompilePermission::filesHaveBeenSaved(Procedure& here, const QLProject& qlProject) {
     if (!here.test([&] { return !qlProject->FilesHaveBeenSaved(); })) return true;
     here([&] {
@@ -44,7 +44,7 @@ bool CompilePermission::saveForCompile(Procedure& here, const Project& project, 
     return saved;
 }
 
-/// After Yes, a tick means not to ask again.
+/// Returns true for Yes, and then stores the tick as Autosave: later compiles save without asking.
 bool CompilePermission::askToSave(Procedure& here, const Project& project, const QLProject& qlProject) {
     std::string question;
     here([&] { question = fmt::format(build_texts::kMustBeSaved, "project"_a = project->Name()); });

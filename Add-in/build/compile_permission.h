@@ -1,10 +1,10 @@
 #pragma once
-// Whether a project may be compiled or validated, and the saving that precedes it.
+// Whether a project may be compiled or validated, and saves it first if needed.
 #include "Add-in/build/compile_services.h"
 
 namespace fernwick {
 
-/// Compared byte for byte with the version that a project was last compiled with.
+/// The compiler's version, compared exactly with that of the project's last good compile.
 inline constexpr char kCompilerVersion[] = "3.5.0 (0624)";
 
 class CompilePermission {

@@ -66,7 +66,7 @@ bool CompileRun::createCompiler() {
     return false;
 }
 
-/// What was created so far is released with the dialog.
+/// Reports that the compiler could not be created. Unloading the dialog releases the factory.
 void CompileRun::reportMissingTools(basic::Suppressed& quietly) {
     quietly.Err.Clear();
     succeeded_ = false;

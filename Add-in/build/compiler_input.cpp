@@ -7,7 +7,7 @@ namespace fernwick {
 
 namespace {
 
-/// The DLL with the name of a cached description, or of a registered library that is not a .DLL.
+/// Returns the path with the extension "DLL".
 std::string withDllExtension(const FileSystemObject& files, const std::string& path) {
     return path.substr(0, path.size() - files.GetExtensionName(path).size()) + "DLL";
 }

@@ -24,9 +24,9 @@ public:
     bool CompileProject(const Project& project);
     /// Whether a compile may proceed, after any saving that was needed.
     bool canCompile(const Project& project) { return permission_.canCompile(project); }
-    /// The same decision for a validation, whatever compiler version the project was last compiled with.
+    /// Whether a validation may proceed, after any saving that was needed. Ignores the compiler version.
     bool readyForValidation(const Project& project) { return permission_.readyForValidation(project); }
-    /// Whether this compiler version made the project's last good compile.
+    /// Whether the project's last good compile used this compiler version.
     bool lastCompileVersionGood(const Project& project) { return permission_.lastCompileVersionGood(project); }
     /// Whether a component of the project has unsaved changes.
     bool ProjectIsDirty(const Project& project) { return permission_.ProjectIsDirty(project); }

@@ -18,7 +18,7 @@ struct ValidationServices {
 };
 
 /// A modal progress dialog without buttons. It validates in its first Activate event and unloads itself. Findings
-/// become messages of the project; nothing stops a scan, so one run gives the whole list.
+/// become messages of the project; a scan continues after a finding, so one run reports all of them.
 class frmValidate : public Form {
 public:
     using Project = basic::Ref<vbide::VBProject>;
@@ -41,7 +41,7 @@ public:
     /// was found; warnings do not count. Not part of ValidateProject.
     bool ScanForm(const QLProject& qlProject, const Component& component, bool scanEvents);
 
-    /// Stores and shows the message, and shows the messages window. `line` is the code window's, 0 for none.
+    /// Stores and shows the message, and shows the messages window. `line` is the line in the code window, or 0 for none.
     void ShowValidationWarning(const Project& project, const std::string& message, const std::string& fileName,
                                std::int32_t line, std::int32_t errorNumber);
     void ShowValidationError(const Project& project, const std::string& message, const std::string& fileName,

@@ -32,7 +32,7 @@ std::string nameOf(const basic::Ref<vbide::VBControl>& control) {
 std::string_view insteadOf(const std::string& eventInCapitals) {
     static constexpr std::pair<std::string_view, std::string_view> kInstead[] = {
         {"FORM_DBLCLICK", build_texts::kUseClickAndTimer}, {"FORM_GOTFOCUS", build_texts::kUseActivate},
-        {"FORM_KEYUP", build_texts::kUseKeyPress}, // unreachable from ScanEvents; kept for direct callers
+        {"FORM_KEYUP", build_texts::kUseKeyPress}, // never used, as IsValidFormEvent accepts KeyUp
         {"FORM_LOSTFOCUS", build_texts::kUseDeactivate},   {"FORM_MOUSEUP", build_texts::kUseClick},
         {"FORM_PAINT", build_texts::kUseActivate}};
     for (const auto& [event, instead] : kInstead)

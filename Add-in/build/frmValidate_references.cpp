@@ -46,7 +46,7 @@ bool frmValidate::scanForBroken(Procedure& here, const Project& project) {
     return good;
 }
 
-/// Informs the user about controls of the target that this machine lacks.
+/// Reads the device's configuration for its side effect: it reports controls that this machine lacks.
 void frmValidate::readDeviceConfig(Procedure& here) {
     here([&] {
         clsDeviceConfig config{services_.deviceServices};

@@ -4,7 +4,7 @@ namespace fernwick {
 
 namespace {
 
-/// The character after a carriage return is skipped, whatever it is.
+/// The character after a carriage return, usually a line feed, is skipped; "\r\r" therefore counts as one.
 std::int32_t countCarriageReturns(const std::string& bytes) {
     std::int32_t count = 0;
     for (auto at = bytes.find('\r'); at != std::string::npos; at = bytes.find('\r', at + 2)) ++count;

@@ -1,5 +1,5 @@
 #pragma once
-// The library of a cached control description.
+// Finds the control library that a cached type description (.oca) was made from.
 #include "Add-in/core/modRegistry2.h"
 
 namespace fernwick {

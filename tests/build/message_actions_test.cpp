@@ -148,9 +148,10 @@ TEST_F(MessageActions, F1ShowsTheHelpOnTheNumber) {
 
 TEST_F(MessageActions, F1OnANumberWithoutAPageSaysSoAndShowsTheList) {
     add("Form1", 12, 999);
-    EXPECT_THAT(press(112), ElementsAre("box 48 Fernwick: There is no help page on the message 999. The list of all "
-                                        "messages that have one opens instead.",
-                                        "start Hh.exe -mapid 999 /install/VB Toolkit/doc/Quinloft_Error_Codes.chm"));
+    EXPECT_THAT(press(112),
+                ElementsAre("box 48 Fernwick: There is no help page for message 999. The list of all help pages "
+                            "opens instead.",
+                            "start Hh.exe -mapid 999 /install/VB Toolkit/doc/Quinloft_Error_Codes.chm"));
 }
 
 TEST_F(MessageActions, F1OnTheHeaderIsReported) {

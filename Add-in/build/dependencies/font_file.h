@@ -26,11 +26,11 @@ inline constexpr std::size_t kFontHeadBytes = 512;
 FontFace readFontHead(std::string_view head);
 /// Returns the font of a file; empty if it cannot be opened.
 std::optional<FontFace> CheckFontFile(const FileSystemObject& files, const std::string& path);
-/// Returns the name under which the Font Converter stores a font: "Ari_08B.CMF" for bold Arial of 8 points.
+/// Returns the name under which the Font Converter stores a font: "Ari_08B.CMF" for 8-point bold Arial.
 std::string GetFontFileName(const FontFace& font);
 /// Returns the face names under which a converted font is known.
 std::array<std::string, 3> convertedFaceNames(const std::string& name);
-/// Whether the file holds this font. Its face name may be followed by the converter's mark.
+/// Whether the file holds this font. The face name in the file may end in "CMF" or " CMF".
 bool FontFileMatches(const FileSystemObject& files, const std::string& path, const FontFace& font);
 
 } // namespace fernwick

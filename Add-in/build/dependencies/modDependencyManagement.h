@@ -11,7 +11,7 @@
 
 namespace fernwick {
 
-/// The dependencies of the dependency module.
+/// The services that modDependencyManagement uses.
 struct DependencyServices {
     Platform& platform;
     ErrorReport& errors;
@@ -35,7 +35,7 @@ public:
     static void AddDependency(const tResource& resource, tResourceList& list);
     /// Returns the index of the first entry of this name, regardless of case; -1 for none.
     static std::int32_t FindResourceIndex(const std::string& name, const tResourceList& list);
-    /// Does nothing for -1. Error 9 outside the list.
+    /// Does nothing for -1. -1 is ignored; error 9 for any other index outside the list.
     static void RemoveDependency(std::int32_t index, tResourceList& list);
 
     // The list that is stored in the project.
@@ -86,7 +86,7 @@ private:
     int box(Procedure& here, const std::string& text, int buttons);
 
     DependencyServices services_;
-    /// Those of the last scan, as keys of a collection, which ignore case.
+    /// The missing fonts that the last scan reported, by missingFontKey; keys ignore case.
     basic::Collection<std::string> knownMissingFonts_;
 };
 

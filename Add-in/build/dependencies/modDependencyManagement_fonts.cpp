@@ -35,7 +35,7 @@ std::string missingFontKey(const FontFace& font) { return fmt::format("{}:{}:{}"
 
 } // namespace
 
-/// The state of one scan.
+/// What a scan found, and the fonts of the installation (`installed`) and of the project's folder (`beside`), read on first use.
 struct modDependencyManagement::FontScan {
     QLProject qlProject;
     std::vector<std::string> fonts;
@@ -71,7 +71,7 @@ std::vector<std::string> modDependencyManagement::ScanProjectForFontDependencies
     return scan.fonts;
 }
 
-/// Informs the user if the result is false.
+/// Returns whether the project can be scanned; otherwise informs the user.
 bool modDependencyManagement::canBeScanned(Procedure& here, const Project& project) {
     if (here.test([&] { return project->FileName().empty(); })) {
         box(here, build_texts::kSaveBeforeScan, vbExclamation);

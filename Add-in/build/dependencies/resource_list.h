@@ -14,7 +14,7 @@ struct tResource {
     std::string FileType{};
     /// Size in bytes when it was read or added; 0 if unknown.
     std::int32_t FileSize = 0;
-    /// "???" until a page of the settings fills it.
+    /// "???" until the settings dialog fills it in.
     std::string Description = "???";
     friend bool operator==(const tResource&, const tResource&) = default;
 };
@@ -22,7 +22,7 @@ struct tResource {
 /// The FileType of converted fonts, which the fonts folder may hold for all projects.
 inline constexpr char kFontType[] = "CMF";
 
-/// A counted array of dependency files, indexed from 0.
+/// A list of dependency files, indexed from 0.
 struct tResourceList {
     std::vector<tResource> entries;
 

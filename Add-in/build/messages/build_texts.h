@@ -18,8 +18,7 @@ inline constexpr char kNoFontConverter[] = "ERROR!\r\n\r\nCould Launch Converter
                                            "Application is missing or not in default location.";
 /// The list of messages opens after it.
 inline constexpr char kNoHelpPage[] =
-    "There is no help page on the message {number}. The list of all messages that have "
-    "one opens instead.";
+    "There is no help page for message {number}. The list of all help pages opens instead.";
 
 // The outcomes of a compile or validation
 inline constexpr char kSucceeded[] = "SUCCESS - Compile and validate completed successfully.";
@@ -63,7 +62,7 @@ inline constexpr char kSaveBeforeScan[] = "Before scanning for dependencies the 
 inline constexpr char kEmptyProject[] = "This project is empty!";
 inline constexpr char kScanningComponent[] = "Scanning {component}...";
 inline constexpr char kScanFinished[] = "Finished";
-/// The word Weight is followed by the size.
+/// "Weight" is the size (sic).
 inline constexpr char kFontMissing[] =
     "Could Not Find \"{font}\" Weight:{size} Style:{style} referenced in {component}{remedy}";
 inline constexpr char kFontMissingOnPalm[] = " Double-click this error to start the Font Converter. Converted font "

@@ -1,5 +1,5 @@
 #pragma once
-// The messages window, as the message store sees it.
+// The messages window, as modCompileErrorManagement uses it.
 #include "Add-in/platform/object.h"
 #include <cstdint>
 #include <string>

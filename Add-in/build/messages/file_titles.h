@@ -11,7 +11,7 @@ namespace fernwick {
 class Procedure;
 
 /// A run issues thousands of messages for few files, so the walk over the components is cached. It continues where the
-/// last lookup stopped, and a cached component is checked for still having the file.
+/// last lookup stopped, and a cached component is used only while it still has that file.
 class FileTitles {
 public:
     explicit FileTitles(const FileSystemObject& files) : files_(files) {}

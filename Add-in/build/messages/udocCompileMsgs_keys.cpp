@@ -57,7 +57,7 @@ std::string udocCompileMsgs::copyText(std::int32_t row) const {
            ", Error Number: " + cells[ErrorColumn] + ", Message: " + cells[MessageColumn];
 }
 
-/// The text ends with a zero, like all plain text of the clipboard. If it has characters beyond the code page, the full
+/// Plain text on the clipboard ends with a NUL character. If it has characters beyond the code page, the full
 /// text is copied too.
 void udocCompileMsgs::copyRow(Procedure& here) {
     auto& clipboard = services_->platform.clipboard;

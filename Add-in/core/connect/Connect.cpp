@@ -51,7 +51,7 @@ void Connect::buildMenu(Procedure& here, const Host& VBInst, const basic::Ref<vb
     connectSiblings(here, VBInst);
 }
 
-/// Connects our companions; the resource editor is disconnected until the start is complete.
+/// Connects the other Quinloft add-ins and disconnects the resource editor until OnStartupComplete.
 void Connect::connectSiblings(Procedure& here, const Host& VBInst) {
     for (const auto& sibling : here.value([&] { return VBInst->Addins()->items(); })) {
         const auto isCompanion = [&] {

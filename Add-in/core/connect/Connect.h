@@ -84,7 +84,7 @@ class Connect : public vbide::IDTExtensibility {
 
 public:
     using Host = basic::Ref<vbide::VBE>;
-    /// Further device items of a popup have no sink and do nothing.
+    /// The number of sinks of each device popup. Items beyond it have no sink and do nothing.
     static constexpr int kDeviceSlots = 10;
 
     explicit Connect(const ConnectServices& services) : services_(services) {}
@@ -122,7 +122,7 @@ public:
     std::array<Command, kDeviceSlots> DeployDevice{slots(&Connect::DeployDeviceHandler)};
     std::array<Command, kDeviceSlots> InstallVMDevice{slots(&Connect::InstallVMForDevice)};
 
-    // Utilities. Failures of the viewer are reported under the converter's name, as they always were.
+    // Utilities. Errors of the database viewer are reported under the name of the database converter.
     Command MenuDatabaseConverterHandler{this, sinks_.utilities, &CommandItems::gDatabaseConverterItem,
                                          kDatabaseConverter, "Connect.MenuDatabaseConverterHandler_Click"};
     Command MenuDatabaseViewerHandler{this, sinks_.utilities, &CommandItems::gDatabaseViewerItem, kDatabaseViewer,
@@ -216,7 +216,7 @@ public:
 
     /// Whether the resource editor was disconnected at the start. Never reset.
     bool ResEditWasConnected = false;
-    /// Nanoseconds since 1970.
+    /// Time of the connection in nanoseconds since 1970. The add-in does not read it.
     std::int64_t LastControlEventTime = 0;
     /// A template project is queued for reloading and has not been added yet.
     bool TemplateReloadPending = false;

@@ -130,7 +130,7 @@ void Connect::keepDesktopState(Procedure& here, const Project& vbProject) {
     here([&] { services_.features.SaveZoomWindowState(); });
 }
 
-/// No trap. A renamed project gets a new identity as a dependency.
+/// No trap. A renamed project gets a new module identifier.
 void Connect::ProjEventsHandler_ItemRenamed(Project VBProject, const std::string& OldName) {
     const auto project = services_.projects.FindQLProject(VBProject);
     if (!project) return; // opened before the add-in was connected
