@@ -1,5 +1,5 @@
 #pragma once
-// One compile, from the check of the project to the stored results. The dialog shows how it proceeds.
+// One compile, from the check of the project to the stored results. The dialog shows its progress.
 #include "Add-in/build/compile_permission.h"
 #include "Add-in/build/compile_steps.h"
 #include "Add-in/build/line_counts.h"
@@ -19,7 +19,7 @@ public:
     CompileRun(const CompileRun&) = delete;
 
     void begin(const Project& project, const QLProject& qlProject);
-    /// The whole run; it unloads the dialog.
+    /// Performs the whole run and unloads the dialog.
     void run(Procedure& here);
     /// Releases the project and the compiler.
     void release();

@@ -5,7 +5,7 @@
 
 namespace fernwick {
 
-/// Every step runs, whatever the earlier ones returned. The result is false when a step's exit code was not 0, or when
+/// Runs every step, whatever the earlier ones returned. The result is false when a step's exit code was not 0, or when
 /// the stored list cannot be read.
 class CompileSteps {
 public:

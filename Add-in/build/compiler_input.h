@@ -13,7 +13,7 @@ public:
     CompilerInput(const CompileServices& services, const WithEvents<qltoolkit::Compiler>& compiler)
         : services_(services), files_(services.platform.files), compiler_(compiler) {}
 
-    /// References, components, output path, start-up object and constants.
+    /// Passes the references, components, output path, start-up object and constants.
     void pass(Procedure& here, const Project& project);
     void SendAppInfoToCompiler(const basic::Ref<clsQLProject>& qlProject);
 

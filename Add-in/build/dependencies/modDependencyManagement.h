@@ -86,7 +86,7 @@ private:
     int box(Procedure& here, const std::string& text, int buttons);
 
     DependencyServices services_;
-    /// Those of the last scan, as keys of a collection, which ignore case.
+    /// The missing fonts of the last scan, as keys of a collection, which ignore case.
     basic::Collection<std::string> knownMissingFonts_;
 };
 

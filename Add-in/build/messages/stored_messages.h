@@ -1,5 +1,5 @@
 #pragma once
-// The messages that a project's file keeps of its last build: the one reader of their format.
+// The messages of the last build, as stored in a project's file. Only this file reads their format.
 #include "Add-in/platform/host_project.h"
 #include <cstdint>
 #include <string>
@@ -17,7 +17,7 @@ struct StoredMessage {
     /// A tMessageType. A message of another stored type has that of the message before it, the first one 0.
     int type = 0;
     std::string fileName;
-    /// The code window's; 0 for none.
+    /// The line of the code window; 0 for none.
     std::int32_t line = 0;
     std::string text;
     /// 0 in messages of earlier versions.
