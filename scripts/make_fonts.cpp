@@ -108,7 +108,7 @@ void convert(const std::vector<std::string>& arguments) {
     const auto& name = arguments[1];
     const int size = std::stoi(arguments[2]), style = std::stoi(arguments[3]);
     if (name.size() > kLongestName || size < 1 || size > 255 || style < 0 || style > 3)
-        throw std::runtime_error("no such font can be told in a file");
+        throw std::runtime_error("the name, size or style is out of the range of the file format");
     std::vector<Glyph> glyphs;
     for (int code = kFirstCode; code <= kLastCode; ++code) glyphs.push_back(face.draw(characterOf(code)));
     std::ofstream output(arguments[5], std::ios::binary);

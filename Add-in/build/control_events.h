@@ -1,5 +1,5 @@
 #pragma once
-// Which procedures of a form handle events, and of which object.
+// Finds the procedures of a form that handle events, and the objects that raise them.
 #include "Add-in/platform/host_project.h"
 #include <optional>
 #include <string>
@@ -20,7 +20,7 @@ struct ControlEvent {
 /// The controls of one form, indexed by name because a form has many procedures and many controls.
 class FormControls {
 public:
-    /// Reports and leaves out a control whose name cannot be read.
+    /// Skips a control whose name cannot be read, after a report.
     FormControls(Procedure& here, const basic::Ref<vbide::VBForm>& designer);
 
     /// Returns the first control, in the designer's order, for which the procedure's name begins with the control's

@@ -5,7 +5,7 @@
 
 namespace fernwick {
 
-/// Nothing, or an array that is not allocated, for what was not built.
+/// The items and buttons that were built; Nothing, or an unallocated array, for the others.
 struct CommandItems {
     using Item = basic::Ref<office::CommandBarControl>;
 
@@ -63,7 +63,7 @@ enum class Toolbar { Main, Support };
 struct ToolButton {
     CommandItems::Item CommandItems::*item = nullptr;
     Toolbar bar = Toolbar::Main;
-    /// The menu's caption where none is given.
+    /// Defaults to the menu's caption.
     ResString tip{};
     bool group = false;
 };
@@ -81,11 +81,11 @@ struct CommandRow {
     CommandKind kind = CommandKind::Button;
     /// The popup that the item is in.
     CommandItems::Item CommandItems::*menu = &CommandItems::gMainMenu;
-    /// The popup's items for devices, where it has any.
+    /// The popup's items for devices, if it has any.
     Array<CommandItems::Item> CommandItems::*devices = nullptr;
     FirstState first = FirstState::AsAdded;
     Needs needs = Needs::Nothing;
-    /// When the item is enabled and disabled: lower turns come first, equal turns in the order of the rows.
+    /// The order in which items are enabled and disabled: lower turns first, equal turns in the order of the rows.
     int turn = kLastTurn;
     ToolButton tool{};
 };

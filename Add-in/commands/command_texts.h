@@ -30,7 +30,7 @@ inline constexpr char kNoMenu[] =
 
 inline constexpr char kTitle[] = "Fernwick";
 inline constexpr char kNoHelp[] = "No help is available on this topic";
-/// Before the path.
+/// Followed by the path.
 inline constexpr char kHelpMissing[] =
     "Specified Help File Not Found;\r\nHelp file is missing or not in default location:\r\n";
 
@@ -38,7 +38,7 @@ inline constexpr char kAboutTitle[] = "About Fernwick";
 inline constexpr char kProduct[] = "Quinloft Fernwick";
 inline constexpr char kVersion[] = "Version 3.5.0 (0624)";
 inline constexpr char kMaker[] = "Fernwick turns Visual Basic projects into applications for handheld devices.";
-/// Before and after the vendor's address.
+/// The texts before and after the vendor's address.
 inline constexpr char kVisit[] = "Visit ";
 inline constexpr char kMoreInformation[] = " for more information.";
 

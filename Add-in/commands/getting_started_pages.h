@@ -23,7 +23,7 @@ inline constexpr int kNextStepsPage = 8;
 namespace getting_started_texts {
 
 inline constexpr char kCaption[] = "Introduction to Fernwick";
-/// Between the page number and the number of pages.
+/// Separates the page number from the number of pages.
 inline constexpr char kOf[] = " of ";
 inline constexpr char kDontShow[] = "Don't &show this when Fernwick starts";
 inline constexpr char kDontShowTip[] =
@@ -40,7 +40,7 @@ inline constexpr char kGuideLink[] = "Review the User's Guide";
 inline constexpr char kDevelopersLink[] = "Developer's Sector on the Quinloft website";
 
 inline constexpr char kTitle[] = "Fernwick";
-/// Before the target of the link.
+/// Followed by the target of the link.
 inline constexpr char kCantOpen[] = "Unable to open resource on network or machine: ";
 
 } // namespace getting_started_texts

@@ -8,7 +8,7 @@ namespace fernwick {
 class SettingsDialog {
 public:
     virtual ~SettingsDialog() = default;
-    /// Opens the dialog on a page and returns when it has closed. An unknown page name lets the dialog choose.
+    /// Opens the dialog on a page and returns when it has closed. For an unknown page name the dialog chooses.
     virtual void ShowQuinloftSettings(const basic::Ref<vbide::VBProject>& project, const std::string& pageName,
                                       bool scanOnActivate) = 0;
 };

@@ -25,7 +25,7 @@ inline constexpr char kUploadComplete[] = "Upload Complete";
 inline constexpr char kPackageMade[] =
     "The project package was successfully created and saved to the specified location.";
 
-// The files that belong to it
+// The files to be sent
 inline constexpr char kNoProjectFolder[] = "ERROR - Could not find folder for project path.";
 inline constexpr char kMissingDependency[] = "ERROR: Missing Dependency File, would you like to continue?\r\n{path}";
 inline constexpr char kMissingFont[] = "ERROR: Missing Font File, would you like to continue?\r\n{path}";

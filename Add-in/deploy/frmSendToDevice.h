@@ -1,12 +1,12 @@
 #pragma once
-// Carries a project to a device, or into a package.
+// Sends a project to a device, or writes it into a package.
 #include "Add-in/deploy/PipeForm.h"
 #include "Add-in/deploy/send_permission.h"
 #include "Add-in/deploy/send_run.h"
 
 namespace fernwick {
 
-/// Compiles and validates if needed, gathers what belongs on the device and passes it to the device's pipe.
+/// Compiles and validates if needed, collects the files for the device and passes them to the device's pipe.
 class frmSendToDevice : public PipeForm {
 public:
     using QLProject = basic::Ref<clsQLProject>;

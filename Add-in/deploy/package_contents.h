@@ -1,5 +1,5 @@
 #pragma once
-// The files that belong on a device with a project, and their names there.
+// The files that are sent to a device with a project, and their names there.
 #include "Add-in/build/dependencies/modDependencyManagement.h"
 #include "Add-in/deploy/pipe_services.h"
 
@@ -18,7 +18,7 @@ public:
           dependencies_(dependencies),
           project_(std::move(project)) {}
 
-    /// The lists stay as they are when the result is false.
+    /// The lists are unchanged if the result is false.
     bool CreateResourceList(const std::string& VBProjectName, const std::string& ProjectPath, Names& ProjectFileList,
                             Names& ProjectResourceList, const tResourceList& ProjectDependencies);
 

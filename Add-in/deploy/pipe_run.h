@@ -8,7 +8,7 @@ namespace fernwick {
 
 class PipeForm;
 
-/// Has a pipe do its work, receives its events, and shows them in a dialog.
+/// Runs a pipe, receives its events and shows them in a dialog.
 class PipeRun : public qlpipe::IQLPipeEvents {
 public:
     PipeRun(const PipeRun&) = delete;

@@ -16,7 +16,7 @@ private:
 
     void SendComplete() override;
     void SendError(std::int32_t errorNumber, const std::string& message) override;
-    /// A runtime has no messages to keep a warning with.
+    /// Ignores warnings: they are stored with a project's messages, and the runtime has no project.
     void SendWarning(const std::string&, const std::string&, std::int32_t, std::int32_t) override {}
 };
 

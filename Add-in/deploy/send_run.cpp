@@ -11,8 +11,8 @@ void SendRun::begin(const QLProject& project, bool makePackage, const std::strin
     deviceName_ = deviceName;
 }
 
-/// Errors before the pipe exists go to the general failure. From then on there is no trap: an error that leaves the pipe
-/// ends the form, and the driver reports it.
+/// Reports errors before the pipe exists with generalFailure. From then on there is no trap: an error that leaves the
+/// pipe ends the form, and the driver reports it.
 void SendRun::run() {
     const char* animation = makePackageMode_ ? "VB TOOLKIT\\BIN\\QLCOMPILE.AVI" : "VB TOOLKIT\\BIN\\QLUPLOAD.AVI";
     auto error = basic::attempt([&] { showBeginning(animation, deploy_texts::kConnectingPipe); });

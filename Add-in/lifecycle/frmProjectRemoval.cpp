@@ -26,7 +26,7 @@ void frmProjectRemoval::RemoveComponent(const Project& project, const basic::Ref
     if (componentsProject_ && componentToRemove_) here([&] { Timer2.Enabled(true); });
 }
 
-/// Opening and closing let in events whose handlers may make more requests: those are served in the same tick.
+/// Opening and closing raise events whose handlers may make more requests; those are served in the same tick.
 void frmProjectRemoval::Timer1_Timer() {
     Procedure here{errors_, "frmProjectRemoval.Timer1_Timer"};
     for (std::size_t i = 0; i < removalList_.size(); ++i) {

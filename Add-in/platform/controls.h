@@ -72,7 +72,7 @@ public:
     float percent() const { return Max() > Min() ? (Value() - Min()) / (Max() - Min()) * 100 : 0; }
 };
 
-/// In simple-text mode. Setting an equal text notifies no one, so Refresh raises an event of its own.
+/// In simple-text mode. Setting an equal text notifies no one, so Refresh has a separate event.
 class StatusBar : public Control {
 public:
     using Control::Control;

@@ -1,5 +1,5 @@
 #pragma once
-// Everything that the add-in uses of its surroundings.
+// All services that the add-in uses.
 #include "Add-in/platform/classes.h"
 #include "Add-in/platform/clipboard.h"
 #include "Add-in/platform/clock.h"

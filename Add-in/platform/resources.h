@@ -3,7 +3,7 @@
 
 namespace fernwick {
 
-/// Resources of the add-in by number, which other systems compile into the program.
+/// The add-in's resources by number. Windows links them into the program.
 class Resources {
 public:
     virtual ~Resources() = default;

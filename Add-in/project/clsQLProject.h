@@ -33,7 +33,7 @@ public:
     // The device.
     basic::Ref<designtargetaccess::IQLDesignTarget> designTarget() const { return TargetDevice.designTarget; }
     void designTarget(basic::Ref<designtargetaccess::IQLDesignTarget> target);
-    /// Fetches the design target of TargetDevice, unless it is the present one.
+    /// Fetches the design target of TargetDevice, unless it is already set.
     void InitDesignTarget();
     /// The design target's templates; "" without one.
     std::string VBPTemplate() const;
@@ -46,7 +46,7 @@ public:
 
     // The application icon.
     std::string DefaultIconFileName() const { return IconFileName.defaultIcon(); }
-    /// Returns the path of a copy in the temporary folder, which the caller deletes; "" where there is no icon.
+    /// Returns the path of a copy in the temporary folder, which the caller deletes; "" if there is no icon.
     std::string GetTempIcon() const { return IconFileName.temporaryCopy(); }
 
     // Version and application data, read from the project file on disk. Errors go to the caller.
@@ -64,26 +64,26 @@ public:
     void WriteProjectFontDependencies(const std::vector<std::string>& ProjectFontDependencies);
     std::vector<std::string> GetFontDependencies() const { return fontDependencies_.values(); }
     std::int32_t NumCompileTargets() const { return compileTargets_.count(); }
-    /// From index 1; without a stored count the list stays as it is. An entry that is not a number reads as "".
+    /// From index 1; without a stored count the list is unchanged. An entry that is not a number reads as "".
     void GetCompileTargetsList(Array<std::string>& newCompileTargetsList) const;
     /// Stores the entries from 1 to the upper bound.
     void SetCompileTargetsList(const Array<std::string>& newCompileTargets);
     bool IsSetCompileTarget(const std::string& compareTargetName) const;
     std::int32_t PostCompileStepCount() const { return postCompileSteps_.count(); }
     std::int32_t PreCompileStepCount() const { return preCompileSteps_.count(); }
-    /// From index 0. False without steps, where the list stays as it is, and where a step is missing.
+    /// From index 0. Returns false if there are no steps, leaving the list unchanged, or if a step is missing.
     bool GetPostCompileSteps(Array<std::string>& list) const { return postCompileSteps_.get(list); }
     bool GetPreCompileSteps(Array<std::string>& list) const { return preCompileSteps_.get(list); }
     void SetPostCompileSteps(const Array<std::string>& list) { postCompileSteps_.set(list); }
     void SetPreCompileSteps(const Array<std::string>& list) { preCompileSteps_.set(list); }
-    /// Sets the count to 0; the entries stay in the file.
+    /// Sets the count to 0; the entries remain in the file.
     void ZeroPostCompileSteps() { postCompileSteps_.clear(); }
     void ZeroPreCompileSteps() { preCompileSteps_.clear(); }
 
     // Set-up for a device configuration.
-    /// For a project that gets its first device or another one.
+    /// Sets up a project whose device was set for the first time or changed.
     void SetProjectForDeviceConfig(const clsDeviceConfig& newDeviceConfig);
-    /// For a project that has its properties from a template.
+    /// Sets up a project whose properties are those of a template.
     void SetTemplateForDeviceConfig(const clsDeviceConfig& newDeviceConfig);
     void SetupProjectToolbar();
     void SetupProjectReferences();
@@ -94,13 +94,13 @@ public:
     void CheckTwipsMatch();
     void CloseOpenDesignerWins() { designerWindows_.closeAll(); }
     void ReopenDesignerWins() { designerWindows_.reopen(); }
-    /// Publishes the style in which the controls of this process draw.
+    /// Publishes the style in which the controls of this process are drawn.
     void PublishTavletStyle();
 
     // Saving.
     /// Whether the project file and every component's file are on disk.
     bool FilesHaveBeenSaved() const;
-    /// Saves what is dirty and has a file; nothing in a project of the old format.
+    /// Saves dirty components that have a file. Does nothing for a project of the old format.
     void SaveFiles();
 
 private:

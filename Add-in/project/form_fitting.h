@@ -1,5 +1,5 @@
 #pragma once
-// The shape of new forms, as a project's settings give it.
+// The size, font and colour of new forms, from a project's settings.
 #include "Add-in/platform/host_project.h"
 #include "Add-in/platform/screen.h"
 #include "Add-in/project/stored/project_settings.h"

@@ -10,7 +10,7 @@ struct Resolution {
     friend bool operator==(const Resolution&, const Resolution&) = default;
 };
 
-/// Scales every form and its controls. What cannot be converted is left as it is.
+/// Scales every form and its controls. What cannot be converted is left unchanged.
 void ScaleForms(const basic::Ref<vbide::VBProject>& project, Resolution now, Resolution then);
 
 } // namespace fernwick

@@ -33,7 +33,7 @@ public:
     }
     std::string GetTemplatePath() { return services_.templates.GetTemplatePath(); }
 
-    /// The "CondComp" text of the project file; "" where it has none.
+    /// The "CondComp" text of the project file; "" if it has none.
     std::string GetConditionalCompilationArguments(const basic::Ref<vbide::VBProject>& project);
     /// Passes constants such as "A = 1 : B = -1" to the compiler. A reserved name is refused with a box. No trap: a
     /// value that is not a number is error 13.

@@ -17,7 +17,7 @@ namespace host {
 struct SourceParts {
     std::string_view designer;   ///< VERSION, Object lines and the Begin block
     std::string_view attributes; ///< the run of Attribute lines
-    std::string_view code;       ///< line 1 of the code window and all that follows
+    std::string_view code;       ///< line 1 of the code window and everything after it
     bool balanced = true;        ///< false: the file ends inside the Begin block
 };
 SourceParts splitSource(std::string_view bytes);

@@ -45,7 +45,7 @@ std::string formatStamp(const std::optional<FileStamp>& stamp) {
                        stamp->modifiedNanoseconds, stamp->digest);
 }
 
-[[noreturn]] void refuse(std::string_view why) { throw hostError(kInvalidJournal, std::string(why)); }
+[[noreturn]] void refuse(std::string_view why) { throw hostError(kInvalidJournal, fmt::format("the file {}", why)); }
 
 /// Reads the parts of a journal in order.
 class JournalReader {

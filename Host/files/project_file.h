@@ -39,8 +39,8 @@ public:
     /// True if there is at least one known line: the type, a member or a setting.
     bool looksLikeProject() const noexcept { return known_; }
 
-    /// Returns a setting's value without its delimiters; nothing if there is none. Of several lines the first one
-    /// counts.
+    /// Returns a setting's value without its delimiters; nothing if there is none. The first of several
+    /// lines counts.
     std::optional<std::string> setting(std::string_view key) const;
 
     /// Sets a setting in its line. A missing one is inserted in the order of the IDE.

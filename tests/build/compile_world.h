@@ -1,5 +1,5 @@
 #pragma once
-// The compile driver over a host in memory and a compiler that does what it is told.
+// The compile driver over a host in memory and a compiler that the test controls.
 #include "messages_world.h"
 #include "tests/support/fake_compiler.h"
 
@@ -29,7 +29,7 @@ struct CompileWorld : MessagesWorld {
         component->code->lines = 2;
         return component;
     }
-    /// Runs a compile; what it did is then in `trace.effects`.
+    /// Runs a compile and records its effects in `trace.effects`.
     bool run() {
         trace.effects.clear();
         return compile.CompileProject(project);

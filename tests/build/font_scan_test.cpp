@@ -165,12 +165,12 @@ TEST_F(FontScan, ShowsItsProgress) {
     sample.module("Module1");
     form("frmA", {});
     frmScan shown{user};
-    std::vector<std::string> told;
-    const auto watchBar = shown.bar.Value.watch([&](float value) { told.push_back(fmt::format("{}", value)); });
-    const auto watchLabel = shown.label.Caption.watch([&](const std::string& text) { told.push_back(text); });
+    std::vector<std::string> notified;
+    const auto watchBar = shown.bar.Value.watch([&](float value) { notified.push_back(fmt::format("{}", value)); });
+    const auto watchLabel = shown.label.Caption.watch([&](const std::string& text) { notified.push_back(text); });
     shown.bar.Value(7);
     scan(&shown.bar, &shown.label);
-    EXPECT_THAT(told, ElementsAre("7", "0", "Scanning Module1...", "1", "Scanning frmA...", "2", "Finished"));
+    EXPECT_THAT(notified, ElementsAre("7", "0", "Scanning Module1...", "1", "Scanning frmA...", "2", "Finished"));
     EXPECT_EQ(shown.bar.Min(), 0);
     EXPECT_EQ(shown.bar.Max(), 2);
     EXPECT_EQ(shown.bar.percent(), 100);

@@ -150,15 +150,15 @@ TEST_F(MessageRows, ShowThePictureOfTheirType) {
 }
 
 TEST_F(MessageRows, MayLackTheirPicture) {
-    int told = 0;
-    const auto watch = window->added.connect([&told](bool) { ++told; });
+    int notified = 0;
+    const auto watch = window->added.connect([&notified](bool) { ++notified; });
     pictures.away = true;
     add("e");
     add("of another type", 7);
     EXPECT_EQ(window->message(1).picture, nullptr);
     EXPECT_EQ(window->message(1).type, fernwick::ERROR_MSG);
     EXPECT_EQ(window->message(2).type, 0);
-    EXPECT_EQ(told, 2);
+    EXPECT_EQ(notified, 2);
     EXPECT_TRUE(errors.seen.empty());
 }
 
@@ -188,12 +188,12 @@ TEST_F(MessageRows, AreKeptWhenDrawingFails) {
 TEST_F(MessageRows, AreRemovedWhenCleared) {
     add("e");
     window->select(1);
-    int told = 0;
-    const auto watch = window->cleared.connect([&told] { ++told; });
+    int notified = 0;
+    const auto watch = window->cleared.connect([&notified] { ++notified; });
     window->clearMessages();
     EXPECT_EQ(window->rowCount(), 1);
     EXPECT_EQ(window->selectedRow(), 0);
-    EXPECT_EQ(told, 1);
+    EXPECT_EQ(notified, 1);
 }
 
 TEST_F(MessageRows, LeaveTheStatusLineTheWholeWidth) {

@@ -6,7 +6,7 @@ namespace test {
 
 constexpr char kMessagesSection[] = "Quinloft Project Compile Errors";
 
-/// Tells what is started; a program that is named here is not there.
+/// Records what is started. The program `missing` does not exist.
 struct StartedPrograms : fernwick::Shell {
     explicit StartedPrograms(Trace& t) : trace(t) {}
     void Start(const std::string& commandLine) override {
@@ -20,7 +20,7 @@ private:
     Trace& trace;
 };
 
-/// A clipboard that holds what was there before.
+/// A clipboard with initial contents.
 struct CopiedTexts : fernwick::Clipboard {
     explicit CopiedTexts(Trace& t) : trace(t) {}
     std::vector<std::string> Formats() const override { return {}; }

@@ -22,7 +22,7 @@ TEST_F(ValidateRun, ShowsNoMessageWithoutFindings) {
 }
 
 TEST_F(ValidateRun, ShowsItsProgress) {
-    std::vector<std::string> told;
+    std::vector<std::string> notified;
     const auto atWork = validate.aniValidate.Playing.watch([&](int playing) {
         if (playing == 0) return;
         EXPECT_EQ(validate.Caption(), "Validating Demo...");
@@ -30,15 +30,15 @@ TEST_F(ValidateRun, ShowsItsProgress) {
         EXPECT_TRUE(validate.finishedImg.Visible() && validate.aniValidate.Visible());
         EXPECT_FALSE(validate.failedImg.Visible());
         EXPECT_EQ(validate.aniValidate.FileName(), "/install/VB TOOLKIT/BIN/QLVALIDATE.AVI");
-        told.push_back("plays " + std::to_string(playing));
+        notified.push_back("plays " + std::to_string(playing));
     });
     const auto text = validate.stsUpdate.SimpleText.watch([&](const std::string& now) {
         EXPECT_FALSE(validate.aniValidate.Visible());
         EXPECT_EQ(validate.MousePointer(), fernwick::vbDefault);
-        told.push_back(now);
+        notified.push_back(now);
     });
     run();
-    EXPECT_THAT(told, ElementsAre("plays -1", "Finished"));
+    EXPECT_THAT(notified, ElementsAre("plays -1", "Finished"));
     EXPECT_EQ(validate.prgbarUpdate.Max(), 1);
     EXPECT_EQ(validate.prgbarUpdate.Value(), 0);
 }

@@ -1,5 +1,5 @@
 #pragma once
-// The validator over a project in memory and design targets that know what a test says.
+// The validator over a project in memory and design targets that the test defines.
 #include "compile_world.h"
 #include "tests/support/traced_form.h"
 

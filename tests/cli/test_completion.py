@@ -116,7 +116,7 @@ class Completion(unittest.TestCase):
         for row in shell(self.home, list(expected)).splitlines():
             line, words = row.split(":", 1)
             offered[line] = {word for word in words.split() if not re.fullmatch("-[a-z]", word)}
-        # help is a topic of its own only for some shells
+        # only some shells complete help as a separate topic
         for words in (expected, offered):
             words["fernwick help "].discard("help")
         self.assertEqual(offered.keys(), expected.keys())

@@ -55,7 +55,7 @@ TEST_F(ProjectEvents, ASecondProjectOfTheSameNameIsReported) {
     EXPECT_THAT(errors.seen, ElementsAre("modProjectHandler.AddToProjectsList [457]"));
 }
 
-// ---- what makes a project go ---------------------------------------------------------------------------------------------
+// ---- reasons to remove a project -----------------------------------------------------------------------------------------
 
 TEST_F(ProjectEvents, AProjectOfTheOldFormatIsRemovedAndConverted) {
     addImporter();

@@ -1,5 +1,5 @@
 #pragma once
-// Projects on disk and devices that do what a test tells them.
+// Projects on disk, and devices that the test controls.
 #include "Host/system/file_system.h"
 #include "fake_pipe.h"
 #include "tests/support/add_in_world.h"
@@ -8,11 +8,11 @@
 
 namespace test {
 
-/// Files on disk. Each call that reads one or changes it may fail; the questions whether one exists never do.
+/// Files on disk. Each call that reads or changes a file may fail; checks for existence never do.
 class TracedHostFiles : public host::FileSystem {
 public:
     explicit TracedHostFiles(Trace& trace) : trace_(trace) {}
-    /// As on a system where a project may lie in no folder at all.
+    /// As if the project's folder were unknown.
     bool nowhere = false;
     std::string WithSeparator(const std::string& folder) const override {
         return nowhere ? "" : host::FileSystem::WithSeparator(folder);
@@ -45,9 +45,9 @@ private:
     Trace& trace_;
 };
 
-/// Tells in the trace what the form shows.
+/// Records in the trace what the form shows.
 inline std::vector<fernwick::Subscription> watchForm(Trace& trace, fernwick::PipeForm& form) {
-    const auto tell = [&trace](const std::string& what) {
+    const auto record = [&trace](const std::string& what) {
         return [&trace, what](bool visible) { trace.effects.push_back(what + (visible ? " shown" : " hidden")); };
     };
     std::vector<fernwick::Subscription> watches;
@@ -55,9 +55,9 @@ inline std::vector<fernwick::Subscription> watchForm(Trace& trace, fernwick::Pip
         form.stsUpdate.Refreshed.connect([&] { trace.effects.push_back("line: " + form.stsUpdate.SimpleText()); }));
     watches.push_back(
         form.MousePointer.watch([&](int shape) { trace.effects.push_back("pointer " + std::to_string(shape)); }));
-    watches.push_back(form.aniSend.Visible.watch(tell("animation")));
-    watches.push_back(form.finishedImg.Visible.watch(tell("finished")));
-    watches.push_back(form.failedImg.Visible.watch(tell("failed")));
+    watches.push_back(form.aniSend.Visible.watch(record("animation")));
+    watches.push_back(form.finishedImg.Visible.watch(record("finished")));
+    watches.push_back(form.failedImg.Visible.watch(record("failed")));
     return watches;
 }
 
@@ -93,7 +93,7 @@ struct PipesWorld : AddInWorld<DiskPlatform> {
     FakePipeFamily family{trace, classes};
 };
 
-/// The driver around one project, Foo, that was compiled and whose device is Palm.
+/// The driver with one project, Foo, which has been compiled and whose device is Palm.
 struct DeployWorld : PipesWorld {
     DeployWorld() {
         targets.known = {"Palm"};
@@ -139,7 +139,7 @@ struct DeployWorld : PipesWorld {
             project->properties[{"Quinloft Project Dependencies", "Dependencies" + std::to_string(i)}] = values[i];
     }
 
-    /// What each did is then in `trace.effects`.
+    /// Each records its effects in `trace.effects`.
     void deploy() { run(false); }
     void package() { run(true); }
     void run(bool makePackage) {

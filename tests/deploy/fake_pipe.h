@@ -1,5 +1,5 @@
 #pragma once
-// A device family's pipe that does what a test tells it.
+// A device family's pipe that the test controls.
 #include "Add-in/platform/classes.h"
 #include "Add-in/platform/pipes.h"
 #include "tests/support/trace.h"
@@ -8,7 +8,7 @@
 
 namespace test {
 
-/// What the objects of the family do and what they were given.
+/// The behaviour of the family's objects, and the arguments they received.
 struct FakePipeFamily {
     using Sink = qlpipe::IQLPipeEvents;
     using Names = std::vector<std::string>;
@@ -23,24 +23,24 @@ struct FakePipeFamily {
     void offerValidator() {
         registerAs(validatorClass, "FakePipe.Validation", [this] { return newValidator(); });
     }
-    /// The class is made of something else from now on.
+    /// Replaces the factory of a class.
     void registerAs(std::shared_ptr<void>& registered, const std::string& progId, fernwick::Classes::Factory factory) {
         registered.reset();
         registered = classes_.RegisterClass(progId, std::move(factory));
     }
     basic::Ref<fernwick::Object> newValidator() { return basic::make<Validator>(*this); }
-    /// Who holds the last pipe that was made: 0 when it was released.
+    /// The number of references to the pipe created last; 0 once it has been released.
     long holders() const { return last_.use_count(); }
 
     Trace& trace;
-    /// What the pipe does in SendProject, MakePackage and SendRuntime, and answers in the first two.
+    /// Called in SendProject, MakePackage and SendRuntime; the result is that of the first two.
     std::function<bool(Sink&)> work = [](Sink& sink) {
         sink.SendProgress("Sending", 50);
         sink.SendComplete();
         return true;
     };
     std::function<bool(Sink&)> validate = [](Sink&) { return true; };
-    // What the last call was given.
+    // The arguments of the last call.
     Names files, resources;
     qlpipe::ApplicationInfo application;
     std::string saveLocation;
@@ -76,7 +76,7 @@ private:
         }
 
     private:
-        /// Uses itself at the end, as a real pipe does, whoever let go of it meanwhile.
+        /// Accesses a member at the end, as a real pipe does, even if all references were released in the meantime.
         bool work() {
             if (sink_) done_ = family_.work(*sink_);
             return done_;

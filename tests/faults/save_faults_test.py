@@ -21,7 +21,7 @@ BUILD = ["build", "HelloWorld.vbp", "--yes"]
 
 
 class Project:
-    """A copy of the sample in a folder of its own, with private stores."""
+    """A copy of the sample in a separate folder, with private stores."""
 
     def __init__(self):
         self.base = pathlib.Path(tempfile.mkdtemp(prefix="fernwick-faults-"))
@@ -83,7 +83,7 @@ class Saves(unittest.TestCase):
                 self.project.restore()
                 self.project.run(SET, f"{calls}:signal=KILL:when={when}")
                 self.check_old_or_new(f"killed at {calls} {when}")
-        # what a killed save left beside the file does not stand in the next one's way
+        # leftovers of a killed save must not make the next one fail
         again = self.project.run(SET)
         self.assertEqual(again.returncode, 0, again.stderr)
         self.assertTrue(self.check_old_or_new("after the kills"))

@@ -248,7 +248,7 @@ TEST(RealFormFile, AnUnknownLineInsideABlockIsKept) {
         "   'Downloaded from somewhere\r\n   Caption         =   \"R\"\r\n   what is this\r\nEnd\r\n";
     auto form = FormFile::parse(text);
     EXPECT_EQ(form.text(), text);
-    ASSERT_EQ(form.problems().size(), 1U) << "a comment is no problem";
+    ASSERT_EQ(form.problems().size(), 1U) << "a comment is not a problem";
     EXPECT_EQ(form.problems()[0].line, 5U);
     form.root()->set("Tag", "\"t\"");
     EXPECT_THAT(form.text(),

@@ -206,7 +206,7 @@ TEST_F(SshFullDevice, KeepsTheOldApplicationAndReportsTheFullDevice) {
     EXPECT_TRUE(connect()->list("incoming").size() < 2);
 }
 
-/// A server on which nobody can write, not even root.
+/// A server on which no user can write, not even root.
 TEST(SshReadOnlyDevice, ReportsTheRefusedOperation) {
     const test::SshServer server{"Subsystem sftp internal-sftp -R\n"};
     server.folder.write("device/file", "x");

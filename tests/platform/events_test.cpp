@@ -13,18 +13,18 @@ using Calls = std::vector<std::string>;
 TEST(Event, CallsHandlersConnectedBeforeAndStill) {
     Event<> event;
     Calls calls;
-    Subscription goes, comes;
+    Subscription removed, added;
     const auto first = event.connect([&] {
         calls.push_back("first");
-        goes.reset();
-        comes = event.connect([&] { calls.push_back("late"); });
+        removed.reset();
+        added = event.connect([&] { calls.push_back("late"); });
     });
-    goes = event.connect([&] { calls.push_back("never"); });
+    removed = event.connect([&] { calls.push_back("never"); });
     const auto last = event.connect([&] { calls.push_back("last"); });
     event.raise();
     EXPECT_EQ(calls, (Calls{"first", "last"}));
     calls.clear();
-    const auto before = std::move(comes);
+    const auto before = std::move(added);
     event.raise();
     EXPECT_EQ(calls, (Calls{"first", "last", "late"}));
 }

@@ -142,30 +142,30 @@ TEST(ListBox, SelectsClicksAndRemoves) {
 
 TEST(Property, WatcherMayEndItselfSetAgainOrDestroyTheProperty) {
     auto property = std::make_unique<Property<int>>(1);
-    std::vector<int> told;
+    std::vector<int> notified;
     Subscription self;
     self = property->watch([&](int v) {
-        told.push_back(v);
+        notified.push_back(v);
         self.reset();
     });
     const auto again = property->watch([&](int v) {
-        told.push_back(v);
+        notified.push_back(v);
         if (v == 2) (*property)(3);
     });
     const auto kill = property->watch([&](int v) {
-        told.push_back(-v);
+        notified.push_back(-v);
         if (v == 3) property.reset();
     });
     (*property)(2);
     EXPECT_FALSE(property);
-    EXPECT_EQ(told, (std::vector<int>{2, 2, 3, -3})); // no outer -2: the property was destroyed
+    EXPECT_EQ(notified, (std::vector<int>{2, 2, 3, -3})); // no outer -2: the property was destroyed
 }
 
 TEST(Property, EqualValuesDoNotNotify) {
     Property<std::string> property{"a"};
-    int told = 0;
-    const auto watch = property.watch([&](const std::string&) { ++told; });
+    int notified = 0;
+    const auto watch = property.watch([&](const std::string&) { ++notified; });
     property("a");
     property("b");
-    EXPECT_EQ(told, 1);
+    EXPECT_EQ(notified, 1);
 }

@@ -1,5 +1,5 @@
 #pragma once
-// Projects of the real host, in a folder of the test's own.
+// Projects of the real host, in a temporary folder.
 #include "Host/system/file_system.h"
 #include "tests/devices/devices_world.h"
 #include "tests/support/test_host.h"
@@ -39,14 +39,14 @@ protected:
     void installAt(const std::string& folder) {
         registry.set(fernwick::HKEY_LOCAL_MACHINE, "Software\\Quinloft", "RootDir", folder);
     }
-    /// Opens the project and gives its wrapper.
+    /// Opens the project and returns its wrapper.
     basic::Ref<fernwick::clsQLProject> open(const SampleProject& sample) { return wrap(host.open(sample)); }
     basic::Ref<fernwick::clsQLProject> wrap(const basic::Ref<vbide::VBProject>& vbProject) {
         auto project = basic::make<fernwick::clsQLProject>(projectServices);
         project->VBProject(vbProject);
         return project;
     }
-    /// A project that only the host's memory has, for what may fail.
+    /// A project in memory, whose calls may fail.
     basic::Ref<TracedProject> traced() { return basic::make<TracedProject>(trace, "Hello", host.folder / "Hello.vbp"); }
     static std::string stored(const basic::Ref<fernwick::clsQLProject>& project, const std::string& key,
                               const std::string& section = "Quinloft Global") {

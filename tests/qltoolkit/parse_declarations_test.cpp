@@ -165,7 +165,7 @@ TEST(ConditionalCompilation, CompilesOneBranch) {
          {"#If 0 Then\nDim a\n#ElseIf 1 Then\nDim b\n#ElseIf 1 Then\nDim c\n#Else\nDim d\n#End If", "(dim b)"},
          {"#If 0 Then\n#If 1 Then\nDim a\n#Else\nDim b\n#End If\n#Else\nDim c\n#End If", "(dim c)"},
          {"#If 1 Then\n#If 0 Then\nDim a\n#End If\nDim b\n#End If", "(dim b)"},
-         {"#If False Then\nthis is no VB at all \"\n(((\n#End If\nDim a", "(dim a)"},
+         {"#If False Then\nthis is not VB at all \"\n(((\n#End If\nDim a", "(dim a)"},
          {"  # If 1 Then ' yes\nDim a\n # End If ' done", "(dim a)"},
          {"#If 0 Then\n#Region\n#EndIf\nDim a", "(dim a)"},
          {"Sub A()\nIf x Then\n#If 0 Then\nEnd If\n#Else\ny = 1\nEnd If\n#End If\nEnd Sub",

@@ -45,7 +45,7 @@ QImage drawn(const std::string& text, const std::string& resources = {}) {
     QImage image;
     (void)basic::attempt([&] {
         const auto form = workbench::pictureOfForm(*project->VBComponents()->Item(1));
-        constexpr double kMost = 2000; // no more paper than this
+        constexpr double kMost = 2000; // the size of the image at most
         image = QImage(wholeSize(form).boundedTo({kMost, kMost}).toSize().expandedTo({1, 1}), QImage::Format_RGB32);
         image.fill(Qt::white);
         QPainter painter(&image);

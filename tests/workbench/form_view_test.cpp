@@ -287,19 +287,21 @@ TEST_F(FormDesigners, OpenByADoubleClickInTheExplorer) {
 
 TEST_F(FormDesigners, NotifyAddInsOnceWhenActivated) {
     openSample("AddressBook");
-    std::vector<std::string> told;
+    std::vector<std::string> notified;
     const auto project = bench->host().ActiveVBProject();
     const auto events = bench->host().Events()->VBComponentsEvents(project);
-    const auto selected = events->ItemSelected.connect([&](auto one) { told.push_back("selected " + one->Name()); });
-    const auto activated = events->ItemActivated.connect([&](auto one) { told.push_back("activated " + one->Name()); });
+    const auto selected =
+        events->ItemSelected.connect([&](auto one) { notified.push_back("selected " + one->Name()); });
+    const auto activated =
+        events->ItemActivated.connect([&](auto one) { notified.push_back("activated " + one->Name()); });
     design("frmPerson");
-    EXPECT_THAT(told, ElementsAre("selected frmPerson", "activated frmPerson"));
+    EXPECT_THAT(notified, ElementsAre("selected frmPerson", "activated frmPerson"));
     design("frmList");
-    told.clear();
+    notified.clear();
     window().code().setCurrentIndex(0);
-    EXPECT_THAT(told, ElementsAre("selected frmPerson", "activated frmPerson"));
+    EXPECT_THAT(notified, ElementsAre("selected frmPerson", "activated frmPerson"));
     clickOn("btnOK");
-    EXPECT_EQ(told.size(), 2u);
+    EXPECT_EQ(notified.size(), 2u);
 }
 
 TEST_F(FormDesigners, CloseWithTheirTab) {

@@ -346,8 +346,10 @@ TEST_F(Journals, ADamagedJournalIsReportedOnceAndRenamed) {
     const auto project = twoModules().writeTo(folder);
     const auto whole = host::encodeJournal(entryOf("' kept\r\n"));
     const std::vector<std::pair<std::string, std::string>> kDamages{
-        {"", "is not a journal of this version"},    {std::string(1000, '\0'), "is not a journal of this version"},
-        {whole.substr(0, 40), "lacks its line"},     {whole.substr(0, whole.size() - 3), "ends after"},
+        {"", "the file is not a journal of this version"},
+        {std::string(1000, '\0'), "is not a journal of this version"},
+        {whole.substr(0, 40), "lacks its line"},
+        {whole.substr(0, whole.size() - 3), "ends after"},
         {whole + "more", "checksum does not match"},
     };
     for (const auto& [bytes, why] : kDamages) {

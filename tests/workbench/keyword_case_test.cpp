@@ -56,10 +56,10 @@ TEST_F(KeywordCase, IsCorrectedWhenTheUserLeavesATypedLine) {
     text.setCursorPosition(1, 0);
     QTest::keyClicks(&text, "dim x as long");
     settleLine();
-    EXPECT_EQ(held("modA"), "sub a()\ndim x as long\nend sub"); // not under the user's hands
+    EXPECT_EQ(held("modA"), "sub a()\ndim x as long\nend sub"); // not while the user is typing
     QTest::keyClick(&text, Qt::Key_Return);
     settleLine();
-    EXPECT_EQ(held("modA"), "sub a()\nDim x As Long\n\nend sub"); // and no line that he left alone
+    EXPECT_EQ(held("modA"), "sub a()\nDim x As Long\n\nend sub"); // nor a line that was not edited
     EXPECT_EQ(text.text().toStdString(), held("modA"));
     int line = 0, column = 0;
     text.getCursorPosition(&line, &column);

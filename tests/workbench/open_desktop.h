@@ -14,7 +14,7 @@ inline constexpr int kLongestWait = 20000;
 
 class OpenDesktop : public RunningBench {
 protected:
-    /// Uses this folder for the user's state, or one of its own.
+    /// Uses this folder for the user's state; a temporary one by default.
     explicit OpenDesktop(const QByteArray& state = {}) {
         qputenv("XDG_STATE_HOME", state.isEmpty() ? QByteArray::fromStdString(folder / "state") : state);
         start();

@@ -141,7 +141,7 @@ TEST_F(OutsideChanges, KeptTextIsNotSavedWithoutAQuestion) {
     EXPECT_FALSE(component("modA")->IsDirty());
 }
 
-/// A compile reads files, so it would otherwise compile something else than the editor shows.
+/// A compile reads files, so it would otherwise compile something other than the editor shows.
 TEST_F(OutsideChanges, KeptTextCountsAsUnsaved) {
     openTwo();
     answerOutside("keep");

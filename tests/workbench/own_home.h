@@ -17,7 +17,7 @@ struct OwnHome : TempFolder {
     }
 };
 
-/// It would wait for an answer at each start.
+/// Otherwise it would wait for an answer at each start.
 inline void leaveOutIntroduction() {
     host::RegistryStore store{host::usualRegistryPlaces(host::Environment{}, {})};
     fernwick::modRegistry2 registry{store};

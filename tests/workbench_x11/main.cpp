@@ -1,5 +1,5 @@
 // Tests of the desktop on X. The program starts itself again on its own display. There the window runs in the main
-// thread and the tests in another one, so that they continue while a dialog is open.
+// thread and the tests in another thread, so that they continue while a dialog is open.
 #include "tests/workbench/own_home.h"
 #include "tests/workbench_x11/clipboard_owner.h"
 #include <QApplication>

@@ -17,7 +17,7 @@ struct StoredMessage {
     /// A tMessageType. A tMessageType. An unknown stored type becomes that of the previous message, or 0 for the first.
     int type = 0;
     std::string fileName;
-    /// The code window's; 0 for none.
+    /// The line of the code window; 0 for none.
     std::int32_t line = 0;
     std::string text;
     /// 0 in messages of earlier versions.

@@ -3,7 +3,7 @@
 
 namespace fernwick {
 
-/// DoEvents and dialogs let in further events, so projects are removed only by the timer of frmProjectRemoval.
+/// DoEvents and dialogs process further events, so projects are removed only by the timer of frmProjectRemoval.
 void Connect::ProjEventsHandler_ItemAdded(Project VBProject) {
     Procedure here{services_.errors, "Connect.ProjEventsHandler_ItemAdded"};
     here([&] { FileControlHandler = services_.addIn.gVBInstance->Events()->FileControlEvents(VBProject); });

@@ -7,13 +7,13 @@ inline constexpr char kTitle[] = "Fernwick";
 inline constexpr char kNoMenu[] = "Could not add Fernwick Tools menu;";
 inline constexpr char kNoToolbar[] = "Could not add Fernwick Toolbar;";
 inline constexpr char kNoSupportToolbar[] = "Could not add Quinloft Converters and Viewers Toolbar;";
-/// Before and after the step that failed.
+/// The texts before and after the step that failed.
 inline constexpr char kFailedStepBefore[] = "ERROR!\r\n\r\n";
 inline constexpr char kFailedStepAfter[] = "\r\nFailing to install Fernwick Add-In";
 
 inline constexpr char kNotInThisBuild[] = "This command is not in this build of Fernwick.";
 
-/// Before and after the device's key.
+/// The texts before and after the device's key.
 inline constexpr char kTypeNotSupportedBefore[] = "This component type is not supported on ";
 inline constexpr char kTypeNotSupportedAfter[] = " devices";
 

@@ -5,7 +5,7 @@
 
 namespace fernwick {
 
-/// Stands in for the features that this build lacks. What the user asked for is answered with a box at the desktop; what
+/// Stands in for the features that this build lacks. At the desktop, a user's request is answered with a box; what
 /// the add-in does on its own is skipped silently.
 class NotInThisBuild final : public SettingsDialog, public MissingFeatures {
 public:

@@ -17,11 +17,11 @@ class ApplicationInfo {
 public:
     ApplicationInfo(FileSystemObject& files, std::string path) : files_(files), path_(std::move(path)) {}
 
-    /// "<major>.<minor>.<revision>", each 0 where the file has none.
+    /// "<major>.<minor>.<revision>", each 0 if the file lacks it.
     std::string version() const;
     AppInfo read() const;
     bool incrementsRevision() const;
-    /// Adds 1 to the revision. Does nothing where the file or its copy cannot be opened.
+    /// Adds 1 to the revision. Does nothing if the file or its copy cannot be opened.
     void incrementRevision() const;
 
 private:

@@ -13,10 +13,10 @@ public:
         : ProjectSetting(owner, name, meaning), prefix_(prefix) {}
 
     std::int32_t count() const;
-    /// False without steps, where the list stays as it is, and where a step is missing.
+    /// Returns false if there are no steps, leaving the list unchanged, or if a step is missing.
     bool get(Array<std::string>& list) const;
     void set(const Array<std::string>& list);
-    /// Sets the count to 0; the entries stay in the file.
+    /// Sets the count to 0; the entries remain in the file.
     void clear();
 
     SettingKind kind() const override { return SettingKind::List; }

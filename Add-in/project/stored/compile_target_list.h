@@ -11,7 +11,7 @@ public:
     explicit CompileTargetList(ProjectStore& store) : store_(store) {}
 
     std::int32_t count() const;
-    /// Without a stored count the list stays as it is. An entry that is not a number reads as "".
+    /// Without a stored count the list is unchanged. An entry that is not a number reads as "".
     void get(Array<std::string>& list) const;
     /// Stores the entries from 1 to the upper bound.
     void set(const Array<std::string>& list);

@@ -20,7 +20,7 @@ void DependencyList::setCount(std::int32_t count) {
 
 void DependencyList::clear() {
     Procedure here{store().errors(), location("Clear" + name())};
-    // An entry's key stays with an empty value: the host has no way to remove a key.
+    // An entry's key remains, with an empty value: the host cannot remove a key.
     for (std::int32_t i = 1, last = count(); i <= last; ++i) store().write(here, kDependenciesSection, entryKey(i), "");
     setCount(0);
 }

@@ -13,7 +13,7 @@ public:
     void write(const Values& entries);
 
     SettingKind kind() const override { return SettingKind::List; }
-    /// Entries that cannot be read are reported and left out.
+    /// Skips entries that cannot be read, after a report.
     Values values() const override;
     Values defaults() const override { return {}; }
     bool isWritable() const override { return false; }

@@ -11,7 +11,7 @@ public:
     using Setting::Setting;
 
     std::string defaultIcon() const;
-    /// Returns the path of a copy in the temporary folder, which the caller deletes; "" where there is no icon.
+    /// Returns the path of a copy in the temporary folder, which the caller deletes; "" if there is no icon.
     std::string temporaryCopy() const;
 
     /// "" for the default icon.

@@ -8,7 +8,7 @@
 
 namespace fernwick {
 
-/// An empty name leaves the stored one.
+/// An empty name does not replace the stored one.
 class LastPageSetting final : public Setting<std::string> {
 public:
     using Setting::Setting;
@@ -47,7 +47,7 @@ public:
         this, "Autosave", "save without asking when a compile needs it", false, {.key = "AutoSaveProject"}};
     LastPageSetting LastSettingsDialog{
         this, "LastSettingsDialog", "settings page shown last", "", {.writer = "SetLastSettingsDialog"}};
-    /// Twips per pixel of the screen at which the forms were laid out; 0 for no record.
+    /// Twips per pixel of the screen at which the forms were laid out; 0 if unknown.
     Setting<float> TwipsPerPixelX{this, "TwipsPerPixelX", "screen resolution of the forms"};
     Setting<float> TwipsPerPixelY{this, "TwipsPerPixelY", "screen resolution of the forms"};
     Setting<std::string> LastCompileVersion{

@@ -6,7 +6,7 @@
 
 namespace fernwick {
 
-/// Where a setting differs from the plain ones.
+/// How a setting differs from a plain one.
 struct SettingTraits {
     /// The key in the project file; null for the setting's name.
     const char* key = nullptr;

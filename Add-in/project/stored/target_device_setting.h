@@ -5,14 +5,14 @@
 
 namespace fernwick {
 
-/// Setting it makes the device the one compile target too, and fetches its design target.
+/// Setting it also makes the device the only compile target and fetches its design target.
 class TargetDeviceSetting final : public Setting<std::string> {
 public:
     TargetDeviceSetting(SettingList* owner, CompileTargetList& targets)
         : Setting(owner, "TargetDevice", "key of the design target"), targets_(targets) {}
 
     basic::Ref<designtargetaccess::IQLDesignTarget> designTarget;
-    /// Fetches the design target of a key, unless it is the present one.
+    /// Fetches the design target of a key, unless it is already set.
     void fetchDesignTarget(Procedure& here, const std::string& key);
 
 protected:

@@ -1,5 +1,5 @@
 #pragma once
-// What the definitions of the commands share.
+// Helpers for the definitions of the commands.
 #include "Apps/fernwick/options/options.h"
 #include "Apps/fernwick/verbs/verbs.h"
 #include <CLI/CLI.hpp>

@@ -1,5 +1,5 @@
 #pragma once
-// Where the device of a design target is, and what is on it.
+// The location of a design target's device, and its contents.
 #include "Apps/fernwick/run/machine.h"
 #include "Components/QLPipe/pipe_family.h"
 #include <cstdint>

@@ -1,5 +1,5 @@
 #pragma once
-// How a device is reached: the user's settings for all projects.
+// The user's connection settings of a device, for all projects.
 #include "Add-in/platform/registry.h"
 #include "Components/QLPipe/linux_handheld/linux_handheld_settings.h"
 #include <string>

@@ -9,7 +9,7 @@
 
 namespace cli {
 
-/// What the answers depend on.
+/// The facts that answers depend on.
 struct UserContext {
     /// Whether the host has unsaved changes.
     std::function<bool()> hostHasUnsaved = [] { return true; };

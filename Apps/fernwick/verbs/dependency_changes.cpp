@@ -20,7 +20,7 @@ std::string projectFolderOf(Session& session) {
     return session.machine().platform().files.GetParentFolderName(session.path());
 }
 
-/// Returns why the file cannot be copied without overwriting another one; "" if it can.
+/// Returns why the file cannot be copied without overwriting another file; "" if it can.
 std::string takenPlace(Session& session, const NewDependency& added) {
     if (!added.relative.empty()) return {};
     const auto& files = session.machine().platform().files;

@@ -11,7 +11,7 @@ namespace cli {
 
 namespace {
 
-/// The operands as what they mean: [PROJECT] [NAME [VALUE...]].
+/// The parsed operands: [PROJECT] [NAME [VALUE...]].
 struct SettingOperands {
     std::string project, name;
     std::vector<std::string> values;
@@ -35,8 +35,8 @@ const StoredSetting& settingOf(const SettingOperands& operands) {
     const auto* setting = storedSettingNamed(operands.name);
     if (!setting)
         throw Refusal(kWrongUse, operands.name.empty()
-                                     ? "which setting? fernwick help settings names them"
-                                     : fmt::format("no setting {}; fernwick help settings names them", operands.name));
+                                     ? "no setting given; see fernwick help settings"
+                                     : fmt::format("unknown setting {}; see fernwick help settings", operands.name));
     return *setting;
 }
 
@@ -82,10 +82,10 @@ int getSetting(const Options& options, Console& console, const StoredSetting& se
 
 void requireInstalledDevice(Session& session, const StoredSetting& setting, const std::vector<std::string>& values) {
     if (setting.name != "TargetDevice" || session.addIn().devices.IsValidDevice(values.front())) return;
-    throw Refusal(kWrongUse, fmt::format("{} is no usable design target; fernwick targets lists them", values.front()));
+    throw Refusal(kWrongUse, fmt::format("{} is not a usable design target; see fernwick targets", values.front()));
 }
 
-/// Writes what differs, so that setting a value that is there changes nothing.
+/// Writes the values unless the project has them already.
 void writeSetting(Session& session, const StoredSetting& setting, const std::vector<std::string>& values,
                   Console& console, bool dryRun) {
     auto& project = *session.settings();
@@ -98,7 +98,7 @@ void writeSetting(Session& session, const StoredSetting& setting, const std::vec
     setting.write(project, values);
     if (session.user().shown().size() > boxes)
         throw Refusal(kProjectErrors,
-                      fmt::format("{} was not set: the project's file can't hold the value", setting.name));
+                      fmt::format("{} was not set: the project file cannot store this value", setting.name));
     console.detail(
         fmt::format("{}: {} -> {}", setting.name, joinedValues(before), joinedValues(setting.read(project))));
 }
@@ -114,7 +114,7 @@ int setSetting(Session& session, const SettingOperands& operands, const Options&
 int resetSettings(Session& session, const SettingOperands& operands, const Options& options, Console& console) {
     if (!operands.name.empty()) {
         const auto& setting = settingOf(operands);
-        if (!setting.write) throw Refusal(kWrongUse, fmt::format("{} is not set by hand", setting.name));
+        if (!setting.write) throw Refusal(kWrongUse, fmt::format("{} is read-only", setting.name));
         writeSetting(session, setting, setting.otherwise, console, options.dryRun);
         return kGood;
     }

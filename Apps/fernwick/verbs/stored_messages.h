@@ -1,5 +1,5 @@
 #pragma once
-// The messages that a project's file keeps of its last build.
+// The messages of the last build that are stored in a project's file.
 #include "Apps/fernwick/output/report.h"
 #include "Apps/fernwick/run/session.h"
 

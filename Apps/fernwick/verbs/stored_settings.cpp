@@ -54,7 +54,7 @@ std::vector<StoredSetting> handheldSettings() {
             handheldSetting(&Settings::KnownHosts, "HandheldKnownHosts", "file of known hosts")};
 }
 
-/// The handheld's settings go before the lists that only a build writes.
+/// The handheld's settings precede the lists that only a build writes.
 std::vector<StoredSetting> makeSettingTable() {
     std::vector<StoredSetting> table;
     const fernwick::ProjectSettings described{nullptr};
@@ -80,9 +80,9 @@ const StoredSetting* storedSettingNamed(std::string_view name) {
 }
 
 std::string wrongWithValues(const StoredSetting& setting, const Values& values) {
-    if (!setting.write) return fmt::format("{} is not set by hand", setting.name);
+    if (!setting.write) return fmt::format("{} is read-only", setting.name);
     for (const auto& value : values)
-        if (value.find_first_of("\r\n") != value.npos) return "a stored value has no line breaks";
+        if (value.find_first_of("\r\n") != value.npos) return "a stored value must not contain line breaks";
     if (setting.kind == SettingKind::List) return {};
     if (values.size() != 1) return fmt::format("{} takes one value", setting.name);
     const auto err = basic::attempt([&] {

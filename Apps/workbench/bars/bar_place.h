@@ -17,7 +17,7 @@ inline constexpr std::array kBarSides{
     BarSide{office::msoBarLeft, Qt::LeftToolBarArea},
     BarSide{office::msoBarRight, Qt::RightToolBarArea},
 };
-/// The top, as for a new bar, if the position is not a side.
+/// Returns the side of a position; the top, as for a new bar, if it is not a side.
 Qt::ToolBarArea areaOf(int position);
 /// Whether it is a side or floating.
 bool isPlace(int position);
@@ -30,7 +30,7 @@ struct BarPlace {
     bool visible = true;
     int position = office::msoBarTop, row = 1, left = 0, top = 0;
     auto operator<=>(const BarPlace&) const = default;
-    /// Where it begins along its row.
+    /// The position along its row.
     int begin() const { return isUpright(position) ? top : left; }
 };
 BarPlace placeOf(const host::Bar& bar);

@@ -37,7 +37,7 @@ public:
 
     /// Draws the model at once, without waiting for Qt's loop.
     void draw();
-    /// Moves the toolbars to their places in the model, after something else than the model moved them.
+    /// Moves the toolbars to their places in the model, after something other than the model moved them.
     void placeToolBars() { docking_.placeAgain(); }
 
 private:

@@ -58,15 +58,15 @@ QToolBar& ToolBarDocking::toolBarOf(const std::shared_ptr<host::Bar>& bar) {
 
 void ToolBarDocking::keep(const std::vector<std::shared_ptr<host::Bar>>& bars) {
     std::erase_if(entries_, [&](const Entry& entry) {
-        const bool goes = std::find(bars.begin(), bars.end(), entry.bar) == bars.end();
-        if (goes) entry.toolBar->deleteLater();
-        return goes;
+        const bool removed = std::find(bars.begin(), bars.end(), entry.bar) == bars.end();
+        if (removed) entry.toolBar->deleteLater();
+        return removed;
     });
 }
 
 void ToolBarDocking::place() {
-    const auto stands = [](const Entry& entry) { return entry.placed == placeOf(*entry.bar); };
-    if (!std::all_of(entries_.begin(), entries_.end(), stands)) layOut();
+    const auto isInPlace = [](const Entry& entry) { return entry.placed == placeOf(*entry.bar); };
+    if (!std::all_of(entries_.begin(), entries_.end(), isInPlace)) layOut();
 }
 
 ToolBarDocking::Row ToolBarDocking::side(int position) {

@@ -1,5 +1,5 @@
 #pragma once
-// Places the toolbars as the host's model says, and writes what the user drags back to the model.
+// Places the toolbars according to the host's model, and writes the places to which the user drags them to the model.
 #include "Apps/workbench/bars/bar_place.h"
 #include <QMainWindow>
 #include <QTimer>
@@ -9,7 +9,7 @@
 
 namespace workbench {
 
-/// A toolbar with space after it, so that the next one of its row begins in its place.
+/// A toolbar followed by space, so that the next one in its row begins at its stored position.
 class DockedBar final : public QToolBar {
 public:
     using QToolBar::QToolBar;
@@ -30,7 +30,7 @@ public:
     QToolBar& toolBarOf(const std::shared_ptr<host::Bar>& bar);
     /// Deletes the toolbars of all other bars.
     void keep(const std::vector<std::shared_ptr<host::Bar>>& bars);
-    /// Moves the toolbars to their places in the model, unless all are there.
+    /// Moves the toolbars to their places in the model, unless all are in place.
     void place();
     /// Like place, but always moves them.
     void placeAgain() { layOut(); }

@@ -23,7 +23,7 @@ public:
         keep(property.watch([show](const T& value) { show(value); }));
     }
     void keep(fernwick::Subscription subscription) { kept_.push_back(std::move(subscription)); }
-    /// Runs what the user asked for and passes an error to the window, as no exception may cross Qt's loop.
+    /// Runs an action of the user and passes an error to the window, as no exception may cross Qt's loop.
     template <class Act>
     void act(Act&& act) const {
         try {

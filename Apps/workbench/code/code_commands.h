@@ -1,5 +1,5 @@
 #pragma once
-// What commands do in the code window in front. Each does nothing if there is none.
+// The commands of the code window in front. They do nothing if there is none.
 #include "Apps/workbench/code/code_windows.h"
 #include "Apps/workbench/code/find_bar.h"
 
@@ -21,7 +21,7 @@ public:
 private:
     CodeWindows& windows_;
     FindBar& bar_;
-    /// Where definitions were asked for, the latest last.
+    /// Places at which definitions were asked for, the latest last.
     std::vector<CodePlace> positions_;
 };
 

@@ -57,7 +57,7 @@ std::optional<Found> findNext(const CodePattern& pattern, FindScope scope, const
     const int start = int(own - stretches.begin());
     if (start == count) return {};
     if (const auto place = beyond(hitsOf(pattern, *own), from, backwards)) return Found{*place, false};
-    // the other modules in order, then the rest of its own module
+    // the other modules in order, then the rest of the first one
     for (int step = 1; step <= count; ++step) {
         const int at = start + (backwards ? -step : step);
         const auto places = hitsOf(pattern, stretches[std::size_t((at + count) % count)]);

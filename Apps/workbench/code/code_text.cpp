@@ -17,9 +17,9 @@ void passOn(vbide::CodeModule& module, const LineEdit& edit, const std::function
     // an editor has at least one line, a module may have none
     if (module.CountOfLines() == 0) return module.InsertLines(1, lines(0, edit.added + 1));
 
-    const int changed = edit.first + 1, behind = edit.atStart ? changed : changed + 1;
-    if (edit.added > 0) module.InsertLines(behind, lines(behind - 1, edit.added));
-    if (edit.added < 0) module.DeleteLines(behind, -edit.added);
+    const int changed = edit.first + 1, next = edit.atStart ? changed : changed + 1;
+    if (edit.added > 0) module.InsertLines(next, lines(next - 1, edit.added));
+    if (edit.added < 0) module.DeleteLines(next, -edit.added);
     const int kept = edit.atStart && edit.added > 0 ? changed + edit.added : changed;
     const auto now = line(kept - 1);
     if (module.Lines(kept, 1) != now) module.ReplaceLine(kept, now);

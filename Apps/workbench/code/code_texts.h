@@ -10,7 +10,7 @@ inline constexpr auto kNotFound = "\"%1\" was not found in the %2.";
 inline constexpr auto kReplaced = "%1 replaced.", kReplacedInModules = "%1 replaced in %2 modules.";
 inline constexpr auto kRefused = "Nothing was replaced in %1: see the message.";
 
-// what a file cannot hold, and what a project does not declare
+// characters that a file cannot contain, and names that a project does not declare
 inline constexpr auto kMissingCharacter = "The code page of this file has no character \"%1\".";
 inline constexpr auto kNotDeclared = "\"%1\" is not declared in this project.";
 

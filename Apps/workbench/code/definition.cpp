@@ -159,7 +159,7 @@ std::optional<CodePlace> definitionOf(const NameInCode& name, const CodePlace& a
     if (const auto owner = componentNamed(name.object, at))
         return DeclarationFinder(owner, name.name).inModule(owner != at.component);
     const DeclarationFinder own(at.component, name.name);
-    // after a variable and a point comes a member of its class, not a local name
+    // a variable and a point are followed by a member of its class, not by a local name
     if (name.object.isEmpty())
         if (auto place = own.inProcedure(at.line)) return place;
     if (auto place = own.inModule(false)) return place;

@@ -1,5 +1,5 @@
 #pragma once
-// The row of the find bar that says where and how to search.
+// The row of the find bar with the scope and the options of the search.
 #include "Apps/workbench/code/code_finder.h"
 #include <QWidget>
 

@@ -1,5 +1,5 @@
 #pragma once
-// Correcting the letter case of keywords.
+// Corrects the letter case of keywords.
 #include <QString>
 
 namespace workbench {

@@ -24,7 +24,7 @@ public:
     /// The text outlives this.
     explicit LineMarks(QsciScintilla& text);
 
-    /// Shows these marks; a line beyond the text is moved to the last one. The same marks as before stay where edits
+    /// Shows these marks; a line beyond the text is moved to the last one. Marks already shown stay where edits
     /// have moved them.
     void show(const std::vector<LineMark>& marks);
     /// The present lines of the marks, for putBack after the whole text was replaced.

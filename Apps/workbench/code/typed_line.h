@@ -5,8 +5,8 @@ class QsciScintilla;
 
 namespace workbench {
 
-/// The line in which the user types. When the cursor leaves it, its keywords get their proper case, as an undo step of
-/// its own.
+/// The line in which the user types. When the cursor leaves it, its keywords get their proper case, as a separate undo
+/// step.
 class TypedLine final : public QObject {
 public:
     /// The text outlives this.

@@ -16,7 +16,7 @@ bool isNear(const QLineF& line, const QPointF& place, double reach) {
     return QPointF::dotProduct(apart, apart) <= reach * reach;
 }
 
-/// The distance to go in a direction, with a deviation to the side counted twice. Negative for what is not in that
+/// The distance in a direction, with a deviation to the side counted twice. Negative for what is not in that
 /// direction.
 double wayTo(const QPointF& from, const QPointF& to, const QPointF& direction) {
     const auto way = to - from;

@@ -1,5 +1,5 @@
 #pragma once
-// What there is to draw of a form, in logical pixels of 15 twips.
+// The visible parts of a form, in logical pixels of 15 twips.
 #include "Add-in/platform/host_project.h"
 #include "Apps/workbench/base/twips.h"
 #include "Apps/workbench/designer/control_look.h"

@@ -13,7 +13,7 @@ class FormCanvas;
 
 class FormView final : public QScrollArea {
 public:
-    /// What the view asks of the desktop.
+    /// The view's calls to the desktop.
     struct Callbacks {
         /// Runs an edit and shows an error in a box.
         std::function<void(const std::function<void()>&)> run;

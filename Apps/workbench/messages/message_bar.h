@@ -12,7 +12,7 @@ namespace workbench {
 
 class MessageBar final : public QWidget {
 public:
-    /// What the user wants to see.
+    /// Called for what the user wants to see.
     struct Callbacks {
         std::function<void(int type, bool shown)> showType;
         std::function<void(const QString&)> showText;

@@ -8,7 +8,7 @@ void addComponent(host::Host& host, vbide::vbext_ComponentType type) {
     const auto active = host.ActiveVBProject();
     if (!active) return;
     active->VBComponents()->Add(type);
-    const auto added = host.SelectedVBComponent(); // an add-in may have replaced the one that was added
+    const auto added = host.SelectedVBComponent(); // an add-in may have replaced the added component
     if (added && !added->HasOpenDesigner()) added->CodeModule()->CodePane()->Show();
 }
 

@@ -1,5 +1,5 @@
 #pragma once
-// Commands on components. A null component stands for none, which leaves most of them nothing to do.
+// Commands on components. Most of them do nothing for a null component.
 #include "Apps/workbench/project/project_saving.h"
 
 namespace workbench {
@@ -8,7 +8,7 @@ namespace workbench {
 void addComponent(host::Host& host, vbide::vbext_ComponentType type);
 /// Adds a file that the user chooses to the active project.
 void addFile(host::Host& host, QWidget* window);
-/// Saves the component, or the active project if it is null. Asks for a name where there is none.
+/// Saves the component, or the active project if it is null. Asks for a name if there is none.
 void saveFile(host::Host& host, const ComponentRef& component, QWidget* window);
 void saveFileAs(const ComponentRef& component, QWidget* window);
 /// Asks whether to save its changes first.

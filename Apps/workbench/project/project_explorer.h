@@ -10,7 +10,7 @@ namespace workbench {
 
 class ProjectExplorer final : public QTreeWidget {
 public:
-    /// What the explorer asks of the desktop.
+    /// The explorer's calls to the desktop.
     struct Callbacks {
         std::function<void(vbide::Ref<vbide::VBProject>)> activateProject;
         std::function<void(vbide::Ref<vbide::VBComponent>)> openCode;

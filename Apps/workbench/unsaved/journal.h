@@ -17,7 +17,7 @@ public:
     /// Called with the reason when writing fails; not again until it has succeeded once.
     using Failed = std::function<void(const QString& why)>;
 
-    /// The host outlives this. `window` is the one that other windows block.
+    /// The host outlives this. `window` is the window that modal dialogs block.
     Journal(host::Host& host, QWidget& window, QString base, Failed failed);
     ~Journal() override;
 

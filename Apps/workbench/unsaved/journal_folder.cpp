@@ -41,7 +41,7 @@ std::shared_ptr<JournalFolder> JournalFolder::locked(const QString& path) {
 
 std::shared_ptr<JournalFolder> JournalFolder::create(const QString& base) {
     QDir().mkpath(base);
-    // another program may take a new folder without a lock for an abandoned one and remove it
+    // another program may mistake a new folder without a lock for an abandoned one and remove it
     constexpr int kTries = 10;
     for (int tries = 0; tries < kTries; ++tries) {
         auto pattern = text(base + "/XXXXXX");

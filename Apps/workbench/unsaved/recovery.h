@@ -1,5 +1,5 @@
 #pragma once
-// Offers to restore what programs that ended without saving left in their journals.
+// Offers to restore the journals of programs that ended without saving.
 #include "Apps/workbench/unsaved/survivors.h"
 #include "Host/model/host.h"
 #include <QTimer>

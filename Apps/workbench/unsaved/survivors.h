@@ -1,5 +1,5 @@
 #pragma once
-// What programs that ended without saving left in their journals, and how it is described to the user.
+// The journals of programs that ended without saving, and their descriptions for the user.
 #include "Apps/workbench/unsaved/journal_folder.h"
 #include "Host/files/journal_file.h"
 #include <functional>

@@ -15,7 +15,7 @@ UnsavedWork::UnsavedWork(host::Host& host, QWidget& window, Callbacks callbacks)
                 {std::move(callbacks.open),
                  [this] {
                      journal_.write();
-                     outside_.settle(); // the user already knows of the changes under what was restored
+                     outside_.settle(); // the user already knows of the changes on disk to files that were restored
                  },
                  [this](const QString& text) { warn(text); }}) {}
 

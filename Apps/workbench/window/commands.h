@@ -66,7 +66,7 @@ enum CommandId : int {
     kLastPositionId,
 };
 
-/// What commands ask of the program.
+/// The program's actions that commands call.
 struct ProgramActions {
     std::function<void()> newProject;
     std::function<void()> saveProject;

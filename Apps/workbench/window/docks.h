@@ -27,7 +27,7 @@ public:
 
     /// Draws the host's tool windows now and whenever one is added.
     void followToolWindows();
-    /// Shows or hides the docks as the host's tool windows are.
+    /// Shows or hides the docks like the host's tool windows.
     void showAsInHost();
 
 private:

@@ -1,5 +1,5 @@
 #pragma once
-// The window of the IDE: it draws the host's model and has no behaviour of the add-in.
+// The window of the IDE: it draws the host's model and contains none of the add-in's behaviour.
 #include "Apps/workbench/bars/bars_view.h"
 #include "Apps/workbench/code/code_commands.h"
 #include "Apps/workbench/designer/design_desk.h"

@@ -7,8 +7,8 @@ namespace workbench {
 /// The toolbar of the window's own commands.
 inline constexpr const char* kStandardToolbar = "Standard";
 
-/// Fills the host's menus and its standard toolbar from the table of commands. The host's own commands to save and
-/// remove a project now ask the user first where the model would not.
+/// Fills the host's menus and its standard toolbar from the table of commands. Changes the host's own commands
+/// to save and remove a project, so that they ask the user first.
 void addMenus(const CommandTargets& targets);
 
 /// The submenu of the recent projects.

@@ -98,7 +98,7 @@ void Workbench::open(const std::string& path) {
     run([&] { host_->VBProjects()->AddFromFile(path); });
 }
 
-/// A connecting add-in adopts one open project. Of several it learns only from the host's events.
+/// An add-in adopts one open project when it is connected; it learns of further ones only from the host's events.
 void Workbench::begin(const std::vector<std::string>& projects) {
     const auto isGroup = [](const std::string& path) { return qt(path).endsWith(".vbg", Qt::CaseInsensitive); };
     const bool several = projects.size() > 1 || std::any_of(projects.begin(), projects.end(), isGroup);

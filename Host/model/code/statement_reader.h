@@ -1,5 +1,5 @@
 #pragma once
-// The statements of a module and their words, as far as its outline needs them.
+// Reads the statements of a module and their words, as far as its outline needs them.
 #include "Host/files/code_file.h"
 #include <cstddef>
 #include <string>
