@@ -7,7 +7,7 @@ set(CPACK_PACKAGE_CONTACT "${FERNWICK_MAINTAINER}")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "turns Visual Basic projects into applications for handhelds")
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
   "Fernwick compiles Visual Basic 6 projects for Palm OS, Pocket PC and Linux
-handhelds, checks them against their device, packs them and puts them there.
+handhelds, checks them against their device, and packages and installs them.
 It works on the real project files and changes nothing in them but what it
 stores on purpose.
 .

@@ -1,5 +1,5 @@
 #pragma once
-// The window's commands. commands.cpp has one row for each: its text, key, where it works, what it does, and its icon.
+// The window's commands. commands.cpp has one row for each: its text, key, icon, action, and where it is enabled.
 #include "Apps/workbench/bars/bars_view.h"
 #include <functional>
 #include <span>
