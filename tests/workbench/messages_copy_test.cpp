@@ -88,7 +88,7 @@ TEST_F(MessagesCopy, WithoutAHelpPageSaySo) {
     settle();
     list().setCurrentIndex(at(0));
     EXPECT_THAT(boxesOf([this] { QTest::keyClick(&list(), Qt::Key_F1); }),
-                ElementsAre(HasSubstr("no help page on the message 999"), HasSubstr("Quinloft_Error_Codes.html")));
+                ElementsAre(HasSubstr("no help page for message 999"), HasSubstr("Quinloft_Error_Codes.html")));
 }
 
 TEST_F(MessagesCopy, ReportHelpWithoutASelection) {
