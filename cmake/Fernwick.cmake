@@ -46,7 +46,7 @@ function(fernwick_library name)
   endif()
   # The target all_verify_interface_header_sets compiles each header alone, without the precompiled one.
   if(FERNWICK_CHECK_HEADERS)
-    target_sources(${name} ${scope} FILE_SET HEADERS BASE_DIRS ${CMAKE_CURRENT_SOURCE_DIR} FILES ${headers})
+    target_sources(${name} ${scope} FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR} FILES ${headers})
     set_target_properties(${name} PROPERTIES VERIFY_INTERFACE_HEADER_SETS ON)
   endif()
 endfunction()

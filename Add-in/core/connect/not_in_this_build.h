@@ -2,6 +2,7 @@
 #include "Add-in/core/AddIn.h"
 #include "Add-in/core/settings_dialog.h"
 #include "Add-in/lifecycle/missing_features.h"
+#include "Add-in/platform/interaction.h"
 
 namespace fernwick {
 

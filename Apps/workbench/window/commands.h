@@ -1,6 +1,7 @@
 #pragma once
 // The window's commands. commands.cpp has one row for each: its text, key, icon, action, and where it is enabled.
 #include "Apps/workbench/bars/bars_view.h"
+#include "Host/model/host.h"
 #include <functional>
 #include <span>
 
