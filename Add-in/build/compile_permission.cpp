@@ -23,7 +23,8 @@ bool CompilePermission::readyForValidation(const Project& project) {
     return !ProjectIsDirty(project) || saveForCompile(here, project, qlProject);
 }
 
-/// Returns whether the files were saved before. If not, informs the user and starts the host's Save command, and the compile ends.
+/// Returns whether the files were saved before. If not, informs the user and starts the host's Save command, and the
+/// compile ends.
 bool CompilePermission::filesHaveBeenSaved(Procedure& here, const QLProject& qlProject) {
     if (!here.test([&] { return !qlProject->FilesHaveBeenSaved(); })) return true;
     here([&] {

@@ -1,5 +1,5 @@
 #pragma once
-// Whether a project may be compiled or validated, and saves it first if needed.
+// Decides whether a project may be compiled or validated, and saves it first if needed.
 #include "Add-in/build/compile_services.h"
 
 namespace fernwick {

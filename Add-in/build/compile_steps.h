@@ -5,7 +5,7 @@
 
 namespace fernwick {
 
-/// Runs every step, even after one has failed. The functions return false if a step's exit code was not 0, or when
+/// Runs every step, even after one has failed. The functions return false if an exit code is not 0, or
 /// the stored list cannot be read.
 class CompileSteps {
 public:

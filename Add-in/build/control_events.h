@@ -34,7 +34,8 @@ private:
 
 /// Case-sensitive: "form_load" is not an event.
 bool IsFormEvent(const std::string& name);
-/// False only for "DRAGDROP" and "DRAGOVER". Case-sensitive, so "DragDrop" is accepted. The compiler checks other events.
+/// False only for "DRAGDROP" and "DRAGOVER". Case-sensitive, so "DragDrop" is accepted. The compiler checks other
+/// events.
 bool IsValidTavletEvent(const std::string& eventName);
 /// Whether devices raise this event of forms ("Form_Load"). Case-insensitive.
 bool IsValidFormEvent(const std::string& name);

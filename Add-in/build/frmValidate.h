@@ -41,7 +41,8 @@ public:
     /// was found; warnings do not count. Not part of ValidateProject.
     bool ScanForm(const QLProject& qlProject, const Component& component, bool scanEvents);
 
-    /// Stores and shows the message, and shows the messages window. `line` is the line in the code window, or 0 for none.
+    /// Stores and shows the message, and shows the messages window. `line` is the line in the code window, or 0 for
+    /// none.
     void ShowValidationWarning(const Project& project, const std::string& message, const std::string& fileName,
                                std::int32_t line, std::int32_t errorNumber);
     void ShowValidationError(const Project& project, const std::string& message, const std::string& fileName,

@@ -10,7 +10,8 @@ public:
     modProcessControl(ErrorReport& errors, const Platform& platform)
         : errors_(errors), processes_(platform.processes), app_(platform.app) {}
 
-    /// Starts the program minimised and waits until it ends, without a timeout. An empty `workingFolder` is set to the add-in's folder. Returns the exit code, or -1 when the program could not be started or waited for.
+    /// Starts the program minimised and waits until it ends, without a timeout. An empty `workingFolder` is set to the
+    /// add-in's folder. Returns the exit code, or -1 when the program could not be started or waited for.
     std::int32_t RunProcess(const std::string& commandLine, std::string& workingFolder);
 
 private:

@@ -38,7 +38,8 @@ std::int32_t lookUpTypeLib(modRegistry2& registry, const std::string& guid, int 
 
     const auto versions = registry.EnumKeys(all.handle());
     if (!versions || highestVersion(*versions) < 0) return kNotFound;
-    // A library of another version is not a substitute: the caller falls back to the DLL with the name of the description.
+    // A library of another version is not a substitute: the caller falls back to the DLL with the name of the
+    // description.
     return basic::kTypeMismatch;
 }
 

@@ -42,7 +42,8 @@ void modMenuManagement::setFirstState(const Item& item, FirstState state) {
     }
 }
 
-// ---- items -------------------------------------------------------------------------------------------------------------
+// ---- items
+// -------------------------------------------------------------------------------------------------------------
 
 modMenuManagement::Item modMenuManagement::AddToAddInCommandBar(const Item& parent, const std::string& caption) {
     const auto item = parent->Controls()->Add();
@@ -70,7 +71,8 @@ modMenuManagement::Item modMenuManagement::popup(const Item& parent, const Comma
     return item;
 }
 
-// ---- devices -----------------------------------------------------------------------------------------------------------
+// ---- devices
+// -----------------------------------------------------------------------------------------------------------
 
 /// The item that says there are no devices has no Tag and no sink.
 Array<modMenuManagement::Item> modMenuManagement::deviceItems(const Item& popup, const Keys& devices, int face) {

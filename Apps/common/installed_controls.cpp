@@ -10,7 +10,8 @@ const host::DescribedClasses& InstalledControls::described() {
     std::error_code unreadable;
     for (const auto& entry : std::filesystem::directory_iterator(installation_ + "/tavlets", unreadable)) {
         if (entry.path().extension() != ".toml") continue;
-        // without a valid description its controls have no defaults; the error is reported when its library is looked up
+        // without a valid description its controls have no defaults; the error is reported when its library is looked
+        // up
         (void)basic::attempt([&] { described_->add(host::readTypeDescription(entry.path().string())); });
     }
     return *described_;

@@ -37,8 +37,8 @@ public:
     std::uint16_t u16();
     std::uint32_t u32();
     std::string_view raw(std::size_t length);
-    /// Reads a count of items that take at least `smallest` bytes each. An impossible count raises error 321, so that it
-    /// is never used for an allocation.
+    /// Reads a count of items that take at least `smallest` bytes each. An impossible count raises error 321, so that
+    /// it is never used for an allocation.
     std::uint32_t count(std::size_t smallest);
     bool atEnd() const { return rest_.empty(); }
 

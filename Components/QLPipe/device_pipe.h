@@ -7,8 +7,8 @@
 
 namespace qlpipe {
 
-/// Builds bundles and installs them on a device of the family, or writes them into a package. Every outcome is an event:
-/// a TransferError becomes SendError, success becomes SendComplete.
+/// Builds bundles and installs them on a device of the family, or writes them into a package. Every outcome is an
+/// event: a TransferError becomes SendError, success becomes SendComplete.
 class DevicePipe final : public IQLPipe {
 public:
     DevicePipe(const PipeFamily& family, PipeServices services) : family_(family), services_(std::move(services)) {}

@@ -138,7 +138,8 @@ TEST_F(MessageActions, AFailingStepIsReportedAndTheNextOneRuns) {
     }
 }
 
-// ---- keys --------------------------------------------------------------------------------------------------------------
+// ---- keys
+// --------------------------------------------------------------------------------------------------------------
 
 TEST_F(MessageActions, F1ShowsTheHelpOnTheNumber) {
     files.files["/install/VB Toolkit/doc/Quinloft_Error_Codes/1042.html"] = {};

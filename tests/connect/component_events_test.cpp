@@ -141,7 +141,8 @@ TEST_F(ComponentEvents, ReportsAMissingTemplate) {
     EXPECT_THAT(errors.seen, ElementsAre("Connect.CompsEventsHandler_ItemAdded [53]"));
 }
 
-// ---- selected and activated ----------------------------------------------------------------------------------------------
+// ---- selected and activated
+// ----------------------------------------------------------------------------------------------
 
 TEST_F(ComponentEvents, WatchesTheSelectedForm) {
     const auto form = component(project, "frmMine", kForm);
@@ -191,7 +192,8 @@ TEST_F(ComponentEvents, ARenamedComponentAndAnAddedReferenceChangeNothing) {
     EXPECT_THAT(errors.seen, IsEmpty());
 }
 
-// ---- names ---------------------------------------------------------------------------------------------------------------
+// ---- names
+// ---------------------------------------------------------------------------------------------------------------
 
 TEST_F(ComponentEvents, DefaultNamesAreAWordAndANumber) {
     const auto named = [&](const std::string& name, vbide::vbext_ComponentType type) {

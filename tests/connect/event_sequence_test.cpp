@@ -59,7 +59,8 @@ protected:
     test::EventTape tape{*host.ide};
 };
 
-// ---- new projects --------------------------------------------------------------------------------------------------------
+// ---- new projects
+// --------------------------------------------------------------------------------------------------------
 
 TEST_F(EventSequence, ANewProjectIsMadeFromTheTargetsTemplate) {
     giveTargetsTemplates();
@@ -142,7 +143,8 @@ TEST_F(EventSequence, TheStubLeadsToTheProjectManager) {
     EXPECT_EQ(host.ide->VBProjects()->Count(), 0);
 }
 
-// ---- existing projects ---------------------------------------------------------------------------------------------------
+// ---- existing projects
+// ---------------------------------------------------------------------------------------------------
 
 TEST_F(EventSequence, TwoProjectsOpenedBackToBack) {
     const auto a = host.open(named("A")), b = host.open(named("B"));
@@ -254,7 +256,8 @@ TEST_F(EventSequence, FollowsARenamedProject) {
     EXPECT_EQ(stored(project, "MODID").size(), 36u);
 }
 
-// ---- closing -------------------------------------------------------------------------------------------------------------
+// ---- closing
+// -------------------------------------------------------------------------------------------------------------
 
 TEST_F(EventSequence, TheMenuIsEnabledWhileAFernwickProjectIsOpen) {
     EXPECT_FALSE(items().gCompileItem->Enabled());
@@ -318,7 +321,8 @@ TEST_F(EventSequence, IgnoresProjectsOpenedBeforeTheAddIn) {
     EXPECT_THAT(boxes(), IsEmpty());
 }
 
-// ---- components ----------------------------------------------------------------------------------------------------------
+// ---- components
+// ----------------------------------------------------------------------------------------------------------
 
 class NewComponents : public EventSequence {
 protected:

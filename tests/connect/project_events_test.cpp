@@ -55,7 +55,8 @@ TEST_F(ProjectEvents, ASecondProjectOfTheSameNameIsReported) {
     EXPECT_THAT(errors.seen, ElementsAre("modProjectHandler.AddToProjectsList [457]"));
 }
 
-// ---- reasons to remove a project -----------------------------------------------------------------------------------------
+// ---- reasons to remove a project
+// -----------------------------------------------------------------------------------------
 
 TEST_F(ProjectEvents, AProjectOfTheOldFormatIsRemovedAndConverted) {
     addImporter();
@@ -140,7 +141,8 @@ TEST_F(UnknownDevice, TheProjectMayBeRemovedWhileTheHostRuns) {
     EXPECT_THAT(errors.seen, IsEmpty());
 }
 
-// ---- templates -----------------------------------------------------------------------------------------------------------
+// ---- templates
+// -----------------------------------------------------------------------------------------------------------
 
 TEST_F(ProjectEvents, ReplacesTheHostsTemplateByTheTargets) {
     targets.templates.project = kTargetsOwn;
@@ -218,7 +220,8 @@ TEST_F(ProjectEvents, AnEmptyProjectOfTheUsersStaysEmpty) {
     EXPECT_THAT(raiseAdded(opened("A")), Not(Contains("add component 5")));
 }
 
-// ---- closing, renaming, activating ---------------------------------------------------------------------------------------
+// ---- closing, renaming, activating
+// ---------------------------------------------------------------------------------------
 
 TEST_F(ProjectEvents, ClosingSavesChanges) {
     const auto project = added("A");
@@ -336,7 +339,8 @@ TEST_F(ProjectEvents, LeavingAClosedProjectIsNoError) {
     EXPECT_THAT(errors.seen, IsEmpty());
 }
 
-// ---- build ---------------------------------------------------------------------------------------------------------------
+// ---- build
+// ---------------------------------------------------------------------------------------------------------------
 
 TEST_F(ProjectEvents, DisablesTheToolbarsWhileAProjectRuns) {
     added("A");
@@ -354,7 +358,8 @@ TEST_F(ProjectEvents, IgnoresARunOfAForeignProject) {
     EXPECT_THAT(trace.effects, IsEmpty());
 }
 
-// ---- failures ------------------------------------------------------------------------------------------------------------
+// ---- failures
+// ------------------------------------------------------------------------------------------------------------
 
 /// Each failing call of an event causes at most one report and loses only a few steps.
 class FailingEvents : public ProjectEvents {

@@ -68,8 +68,8 @@ inline bool leadsSomewhere(std::filesystem::path root, std::string path) {
 
 using Values = std::map<std::string, std::string>;
 
-/// Returns keys in lower case, with their values by name in lower case; "@" is the default value. Supports only strings,
-/// because the shipped .reg files contain nothing else.
+/// Returns keys in lower case, with their values by name in lower case; "@" is the default value. Supports only
+/// strings, because the shipped .reg files contain nothing else.
 inline std::map<std::string, Values> registered() {
     std::map<std::string, Values> keys;
     for (const auto& path : filesOf(kRoot + "/registry", ".reg")) {

@@ -10,7 +10,8 @@ class FontFolder {
 public:
     /// An empty folder.
     FontFolder() = default;
-    /// A missing folder is empty, and files that cannot be opened are left out. Error 70 (permission denied) or 76 (path not found) for a folder that cannot be listed.
+    /// A missing folder is empty, and files that cannot be opened are left out. Error 70 (permission denied) or 76
+    /// (path not found) for a folder that cannot be listed.
     FontFolder(const FileSystemObject& files, const std::string& folder);
 
     /// Returns the path of the first file, in the folder's order, that holds the font; "" for none.

@@ -35,7 +35,7 @@ public:
     static void AddDependency(const tResource& resource, tResourceList& list);
     /// Returns the index of the first entry of this name, regardless of case; -1 for none.
     static std::int32_t FindResourceIndex(const std::string& name, const tResourceList& list);
-    /// Does nothing for -1. -1 is ignored; error 9 for any other index outside the list.
+    /// Does nothing for -1; error 9 for any other index outside the list.
     static void RemoveDependency(std::int32_t index, tResourceList& list);
 
     // The list that is stored in the project.

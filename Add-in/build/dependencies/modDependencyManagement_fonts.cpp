@@ -35,7 +35,8 @@ std::string missingFontKey(const FontFace& font) { return fmt::format("{}:{}:{}"
 
 } // namespace
 
-/// What a scan found, and the fonts of the installation (`installed`) and of the project's folder (`beside`), read on first use.
+/// What a scan found, and the fonts of the installation (`installed`) and of the project's folder (`beside`), read on
+/// first use.
 struct modDependencyManagement::FontScan {
     QLProject qlProject;
     std::vector<std::string> fonts;

@@ -64,7 +64,7 @@ tResource modDependencyManagement::CreateNewDependency(const Project& project, c
     return entry;
 }
 
-/// False when the user refuses. Returns false if the user declines. A failed copy is reported and still returns true.
+/// Returns false if the user declines. A failed copy is reported and still returns true.
 bool modDependencyManagement::copyToProject(Procedure& here, const std::string& path, const std::string& folder,
                                             bool allowCopy) {
     using namespace fmt::literals;

@@ -15,7 +15,7 @@ constexpr char kNumDependencies[] = "NumDependencies";
 
 std::string dependencyKey(std::int32_t index) { return fmt::format("Dependencies{}", index); }
 
-/// Empty if it cannot be read. Returns the stored count: empty if it cannot be read, 0 if it exceeds kMostStoredEntries.
+/// Returns the stored count: empty if it cannot be read, 0 if it exceeds kMostStoredEntries.
 std::optional<std::int32_t> storedDependencies(const basic::Ref<vbide::VBProject>& project) {
     std::optional<std::int32_t> count;
     (void)basic::attempt([&] { count = basic::CLng(project->ReadProperty(kProjectDependencies, kNumDependencies)); });

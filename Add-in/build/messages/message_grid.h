@@ -58,7 +58,8 @@ public:
     /// Row 0 is the header. Error 30009 for a row that does not exist.
     std::string cell(std::int32_t index, Column column) const;
 
-    /// Inserts a new row below the header or at the end. The returned row stays valid when other rows are added or removed.
+    /// Inserts a new row below the header or at the end. The returned row stays valid when other rows are added or
+    /// removed.
     std::shared_ptr<Row> insert(std::array<std::string, kColumns> cells, bool atTop);
     void clear() { rows_.clear(); }
 

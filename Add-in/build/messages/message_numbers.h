@@ -1,5 +1,6 @@
 #pragma once
-// Numbers of the messages that the add-in itself issues. They are stored in projects, identify help pages and select what a double-click does, so a number is never reused. build_messages.cpp describes them.
+// Numbers of the messages that the add-in itself issues. They are stored in projects, identify help pages and select
+// what a double-click does, so a number is never reused. build_messages.cpp describes them.
 #include <cstdint>
 
 namespace fernwick::message_numbers {

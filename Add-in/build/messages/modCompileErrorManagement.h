@@ -20,7 +20,8 @@ public:
     modCompileErrorManagement(AddIn& addIn, ErrorReport& errors, const Platform& platform)
         : addIn_(addIn), errors_(errors), app_(platform.app), titles_(platform.files) {}
 
-    /// Shows the message at the top of the window's list and stores it. `line` is the line in the code window, or 0 for none.
+    /// Shows the message at the top of the window's list and stores it. `line` is the line in the code window, or 0 for
+    /// none.
     void AddProjectCompileError(const Project& project, const std::string& message, const std::string& fileName,
                                 std::int32_t line, std::int32_t errorNumber);
     /// Shows the message at the end of the window's list and stores it.

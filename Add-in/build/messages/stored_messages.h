@@ -1,5 +1,5 @@
 #pragma once
-// The messages that a project's file keeps of its last build: and no other code reads this format.
+// The messages that a project's file keeps of its last build. No other code reads this format.
 #include "Add-in/platform/host_project.h"
 #include <cstdint>
 #include <string>
@@ -14,7 +14,7 @@ inline constexpr char kNumErrors[] = "NumErrors";
 std::string storedMessageKey(std::int32_t number);
 
 struct StoredMessage {
-    /// A tMessageType. A tMessageType. An unknown stored type becomes that of the previous message, or 0 for the first.
+    /// A tMessageType. An unknown stored type becomes that of the previous message, or 0 for the first.
     int type = 0;
     std::string fileName;
     /// The line of the code window; 0 for none.

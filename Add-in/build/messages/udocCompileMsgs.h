@@ -76,7 +76,8 @@ public:
     void msgGrid_DblClick();
     /// F1 shows the help on the selected row's number, Ctrl+C copies the row. `Shift` is a sum of ShiftConstants.
     void msgGrid_KeyDown(int KeyCode, int Shift);
-    /// Selects the row and opens its source line, if it has one, without the message's double-click action, to step through the messages.
+    /// Selects the row and opens its source line, if it has one, without the message's double-click action, to step
+    /// through the messages.
     void showSource(std::int32_t row);
     /// Sets the window's inner size and the grid's position in it, in twips.
     void UserDocument_Resize(std::int32_t width, std::int32_t height, std::int32_t gridTop);

@@ -147,7 +147,8 @@ void Connect::ProjEventsHandler_ItemActivated(Project VBProject) {
     if (project->IsQuinloftProject()) watchProject(here, VBProject);
 }
 
-// ---- build -------------------------------------------------------------------------------------------------------------
+// ---- build
+// -------------------------------------------------------------------------------------------------------------
 
 bool Connect::isCurrentOurs() const {
     const auto project = services_.projects.FindQLProject(services_.projects.gCurrentProject);

@@ -6,8 +6,8 @@
 
 namespace fernwick {
 
-/// Stands in for the features that this build lacks. At the desktop, a user's request is answered with a box; what
-/// the add-in does on its own is skipped silently.
+/// The placeholder for the features that this build lacks. In the desktop, a command shows a message box; calls that
+/// the add-in makes by itself do nothing.
 class NotInThisBuild final : public SettingsDialog, public MissingFeatures {
 public:
     using Project = basic::Ref<vbide::VBProject>;

@@ -12,8 +12,8 @@ std::vector<std::string> devicesToServe(Session& session, const Options& options
 /// Runs the add-in for one device and returns the messages of the run.
 using ServeDevice = std::function<std::vector<Message>(const std::string& device)>;
 
-/// Serves the devices one after the other, also after a failure. An outcome is good if the pipe succeeded without errors
-/// and without critical message boxes.
+/// Serves the devices one after the other, also after a failure. An outcome is good if the pipe succeeded without
+/// errors and without critical message boxes.
 std::vector<DeviceOutcome> serveDevices(Session& session, const std::vector<std::string>& devices, Console& console,
                                         const ServeDevice& serve);
 

@@ -17,12 +17,13 @@ public:
     ~Session();
     Session(const Session&) = delete;
 
-    /// Opens the project in the host and prints problems with its files. Refusal if it does not exist or is not a project.
+    /// Opens the project in the host and prints problems with its files. Refusal if it does not exist or is not a
+    /// project.
     void open(const std::string& path);
     /// Refusal 1 if it is not a Fernwick project, or one of an older version.
     void requireFernwickProject();
-    /// Refusal 1 if a source file is missing, unreadable or has the same name as another: without it the image would not
-    /// be complete.
+    /// Refusal 1 if a source file is missing, unreadable or has the same name as another: without it the image would
+    /// not be complete.
     void requireAllMembers();
     /// Adds the project to the add-in's list without connecting the add-in, which is enough for its settings.
     void takeUp();

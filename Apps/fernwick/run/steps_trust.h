@@ -9,8 +9,8 @@
 
 namespace cli {
 
-/// A project can contain any command line, so the user is asked, with the exact commands, before a folder's project runs
-/// one for the first time. Trusted folders are stored for the user. Without a terminal, --trust-steps is needed.
+/// A project can contain any command line, so the user is asked, with the exact commands, before a folder's project
+/// runs one for the first time. Trusted folders are stored for the user. Without a terminal, --trust-steps is needed.
 class StepsTrust {
 public:
     StepsTrust(const Options& options, Console& console) : options_(options), console_(console) {}

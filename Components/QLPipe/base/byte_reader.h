@@ -16,7 +16,8 @@ public:
     virtual std::size_t read(std::span<char> buffer) = 0;
 };
 
-/// Returns the size of a file on the development machine. Throws TransferError for anything but a readable regular file.
+/// Returns the size of a file on the development machine. Throws TransferError for anything but a readable regular
+/// file.
 std::int64_t sizeOfLocalFile(const std::string& path);
 
 /// Opens a file on the development machine. Throws TransferError if it no longer has `size` bytes, its size when it was

@@ -34,8 +34,8 @@ public:
 
     /// Returns the location for users: a folder, or "user@host:folder".
     virtual std::string location() const = 0;
-    /// Returns the number of bytes available for a folder, or -1 if unknown. If the folder exists, it will be replaced: a
-    /// device that does not need to hold both folders at once adds the size of the old one.
+    /// Returns the number of bytes available for a folder, or -1 if unknown. If the folder exists, it will be replaced:
+    /// a device that does not need to hold both folders at once adds the size of the old one.
     virtual std::int64_t freeSpaceFor(const std::string& folder) = 0;
     virtual bool exists(const std::string& name) = 0;
     /// Returns the sorted names in a folder, or nothing if the folder does not exist.

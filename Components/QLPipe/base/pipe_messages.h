@@ -11,8 +11,8 @@
 
 namespace qlpipe {
 
-/// Errors, 20000 to 20999. 20000: general, 20100: files of an application, 20200: devices, 20300: devices reached by SSH
-/// (in linux_handheld), 20400: packages.
+/// Errors, 20000 to 20999. 20000: general, 20100: files of an application, 20200: devices, 20300: devices reached by
+/// SSH (in linux_handheld), 20400: packages.
 enum PipeError : std::int32_t {
     kLibraryMissing = 20001,
 

@@ -6,7 +6,8 @@
 
 namespace qlpipe {
 
-/// Calls SendProgress only if the text or the percentage changes, because the sink processes the host's events each time.
+/// Calls SendProgress only if the text or the percentage changes, because the sink processes the host's events each
+/// time.
 class Progress {
 public:
     /// `sink` may be null. `total` is in bytes.

@@ -37,7 +37,8 @@ public:
     SftpResult close(const std::string& handle);
     SftpResult makeFolder(const std::string& path);
     SftpResult removeFolder(const std::string& path);
-    /// Renames. Replaces an existing file if the device supports this; otherwise, and for folders, the name must be free.
+    /// Renames. Replaces an existing file if the device supports this; otherwise, and for folders, the name must be
+    /// free.
     SftpResult rename(const std::string& from, const std::string& to);
     bool renameReplaces() const { return offers("posix-rename@openssh.com"); }
 

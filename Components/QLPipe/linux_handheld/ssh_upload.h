@@ -5,8 +5,8 @@
 
 namespace qlpipe {
 
-/// Uploads a file to a handheld. Many blocks are pending at once, so that neither the network's latency nor the handheld's
-/// disk delays each block.
+/// Uploads a file to a handheld. Many blocks are pending at once, so that neither the network's latency nor the
+/// handheld's disk delays each block.
 class SshUpload final : public StorageFile {
 public:
     /// `path` is the path on the handheld. `base` is the folder whose free space is checked when a write fails.

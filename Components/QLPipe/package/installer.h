@@ -17,9 +17,9 @@ inline constexpr char kStagingFolder[] = ".incoming";
 std::string placeOnDevice(const Bundle& bundle);
 std::string placeOnDevice(const Bundle& bundle, const BundleFile& file);
 
-/// Sends the files, then replaces the old folder with the new one. An application's fonts, which all applications share,
-/// are replaced first. If anything fails, the old application is unchanged. Throws TransferError and exceptions of the
-/// sink.
+/// Sends the files, then replaces the old folder with the new one. An application's fonts, which all applications
+/// share, are replaced first. If anything fails, the old application is unchanged. Throws TransferError and exceptions
+/// of the sink.
 void install(DeviceStorage& device, Bundle bundle, Progress& progress);
 
 bool hasRuntime(DeviceStorage& device);

@@ -5,8 +5,8 @@
 
 namespace qlpipe {
 
-/// Returns the application for a device, with its files sorted by place. `listing` must not contain errors. A missing icon
-/// becomes a finding. Throws TransferError.
+/// Returns the application for a device, with its files sorted by place. `listing` must not contain errors. A missing
+/// icon becomes a finding. Throws TransferError.
 Bundle projectBundle(FileListing& listing, const ApplicationInfo& application, const std::string& device);
 
 } // namespace qlpipe

@@ -7,8 +7,8 @@ namespace qlpipe {
 /// Throws the error of a package that cannot be written.
 [[noreturn]] void packageNotWritten(const std::string& package, const std::string& reason);
 
-/// The file ".<name>.<process>.part", so that an incomplete package is not mistaken for a complete one. Removes it unless
-/// it is finished.
+/// The file ".<name>.<process>.part", so that an incomplete package is not mistaken for a complete one. Removes it
+/// unless it is finished.
 class UnfinishedPackage {
 public:
     explicit UnfinishedPackage(const std::string& target);

@@ -6,8 +6,8 @@
 
 namespace qlpipe {
 
-/// A root folder. Names are relative to it, with "/" as separator. Each part is opened relative to the previous one without
-/// following links, so everything opened is inside the root regardless of what other programs do.
+/// A root folder. Names are relative to it, with "/" as separator. Each part is opened relative to the previous one
+/// without following links, so everything opened is inside the root regardless of what other programs do.
 class FolderHandle {
 public:
     /// The root is the open `folder`. `location` is its name in errors.

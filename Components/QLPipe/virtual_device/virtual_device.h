@@ -17,8 +17,8 @@ class VirtualDevice final : public DeviceStorage {
 public:
     static constexpr std::chrono::milliseconds kUsualPatience{30'000};
 
-    /// Creates the folder if necessary and cleans up after an interrupted transfer. `memory` is in bytes; without it the
-    /// device is as large as its disk. Throws TransferError, also if the device is still in use after `patience`.
+    /// Creates the folder if necessary and cleans up after an interrupted transfer. `memory` is in bytes; without it
+    /// the device is as large as its disk. Throws TransferError, also if the device is still in use after `patience`.
     VirtualDevice(const std::string& folder, std::optional<std::int64_t> memory,
                   std::chrono::milliseconds patience = kUsualPatience);
 
@@ -45,8 +45,8 @@ private:
     FileDescriptor lock_;
 };
 
-/// Opens the device of a design target: the folder with its name in $FERNWICK_DEVICES, or in fernwick/devices of the user's
-/// data folder, with the memory of the target.
+/// Opens the device of a design target: the folder with its name in $FERNWICK_DEVICES, or in fernwick/devices of the
+/// user's data folder, with the memory of the target.
 std::unique_ptr<DeviceStorage> openVirtualDevice(const PipeServices& services, const std::string& deviceName,
                                                  const basic::Ref<vbide::VBProject>& project);
 

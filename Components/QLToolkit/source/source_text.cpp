@@ -24,7 +24,8 @@ std::string_view firstWord(std::string_view line) {
 
 bool isAttributeLine(std::string_view line) { return line.size() > 10 && equalWords(line.substr(0, 10), "attribute "); }
 
-// Text contains tabs and line ends, and occasionally form feeds, NULs or Ctrl+Z, but hardly any other control characters.
+// Text contains tabs and line ends, and occasionally form feeds, NULs or Ctrl+Z, but hardly any other control
+// characters.
 bool looksBinary(std::string_view bytes) {
     if (bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF")) return true;
     const auto sample = bytes.substr(0, 8192);
