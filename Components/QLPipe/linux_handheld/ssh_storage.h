@@ -13,8 +13,8 @@ inline constexpr std::string_view kOwnPrefix = ".fernwick-";
 /// - A file is written as .fernwick-part-HASH and renamed when it is closed.
 /// - A replaced folder is moved to .fernwick-replaced, with "/" in its name encoded as "%2F", until the new one is in
 ///   place. The next connection restores what it finds there if the original place is empty, and removes it otherwise.
-/// - .fernwick-owner-NUMBER exists during a transfer. A new transfer removes the files of others. A transfer whose file
-/// is   missing has lost the device to a later one and stops before the two mix.
+/// - .fernwick-owner-NUMBER exists during a transfer. A new transfer removes the files of others. A transfer whose
+///   file is missing has lost the device to a later one and stops before the two mix.
 class SshStorage final : public DeviceStorage {
 public:
     /// Holds `lock` during the storage's lifetime.
