@@ -35,9 +35,10 @@ void CompileRun::run(Procedure& here) {
     succeeded_ = false;
     startAnimation(here);
     notifyReadOnly(here);
-    CompilerInput input{services_, Compiler};
+    here([&] { Compiler.source()->Reset(); });
     tavletFileDependencies_.clear();
     componentDependencies_.clear();
+    CompilerInput input{services_, Compiler};
     input.pass(here, project_);
     services_.messages.ClearProjectCompileErrors(project_);
     if (!preStepsAllow(here)) return finish(here);

@@ -15,7 +15,6 @@ std::string withDllExtension(const FileSystemObject& files, const std::string& p
 } // namespace
 
 void CompilerInput::pass(Procedure& here, const Project& project) {
-    here([&] { compiler_.source()->Reset(); });
     passReferences(here, project);
     passComponents(here, project);
     here([&] {
@@ -64,7 +63,10 @@ void CompilerInput::passStartupObject(Procedure& here, const Project& project) {
 void CompilerInput::passConstants(Procedure& here, const Project& project) {
     const std::string constants = services_.projects.GetConditionalCompilationArguments(project);
     if (constants.empty()) return;
-    here([&] { services_.projects.SetConditionalCompilationArguments(constants, *compiler_.source()); });
+    here([&] {
+        const auto compiler = compiler_.source(); // held, because a box may be shown
+        services_.projects.SetConditionalCompilationArguments(constants, *compiler);
+    });
 }
 
 void CompilerInput::SendAppInfoToCompiler(const basic::Ref<clsQLProject>& qlProject) {

@@ -13,7 +13,7 @@ public:
     CompilerInput(const CompileServices& services, const WithEvents<qltoolkit::Compiler>& compiler)
         : services_(services), files_(services.platform.files), compiler_(compiler) {}
 
-    /// Resets the compiler and passes it references, components, output path, start-up object and constants.
+    /// Passes references, components, output path, start-up object and constants to the compiler.
     void pass(Procedure& here, const Project& project);
     void SendAppInfoToCompiler(const basic::Ref<clsQLProject>& qlProject);
 

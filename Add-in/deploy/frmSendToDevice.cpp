@@ -27,7 +27,7 @@ void frmSendToDevice::SendProjectToDevice(const QLProject& WorkingProject, bool 
     const auto& caption = MakePackageMode ? deploy_texts::kCreating : deploy_texts::kUploading;
     here([&] { Caption(fmt::format(fmt::runtime(caption), "project"_a = project->Name())); });
     runStarted_ = false;
-    run_.choosePipe();
+    run_.choosePipe(DeviceName);
     here([&] { ShowModal(); });
     showOutcome(project);
 }

@@ -15,7 +15,7 @@ public:
     void forgetResult() { lastResult_.reset(); }
     void begin(const QLProject& project, bool makePackage, const std::string& deviceName);
     /// Looks up the pipe of the device.
-    void choosePipe() { pipeClassName_ = pipeServices_.devices.GetPipeNameForDevice(deviceName_); }
+    void choosePipe(const std::string& device) { pipeClassName_ = pipeServices_.devices.GetPipeNameForDevice(device); }
     void run() override;
     void release() override;
 

@@ -41,7 +41,8 @@ const std::vector<NamedMessage>& namedMessages() {
          "library by other means."},
         {kFontMissing, kWarning,
          basic::Replace(build_texts::kFontMissing, "{remedy}", build_texts::kFontMissingElsewhere),
-         "A control on the form uses a font (%2 is its size; style 0 is regular, 1 bold, 2 italic, 3 both) for which "
+         "A control on the form uses a font ({size} is its size; style 0 is regular, 1 bold, 2 italic, 3 both) for "
+         "which "
          "there is no converted file, neither in the installation's Fonts folder nor beside the project. The device "
          "substitutes another font unless it has this one.",
          "FontName = \"Arial\"\nFontSize = 9",
