@@ -26,7 +26,7 @@ public:
     virtual ~Classes() = default;
 
     using Factory = std::function<basic::Ref<Object>()>;
-    /// Makes the ProgID creatable as long as the returned object lives. The latest registration counts.
+    /// Makes the ProgID creatable as long as the returned object lives. The latest registration takes effect.
     [[nodiscard]] virtual std::shared_ptr<void> RegisterClass(const std::string& progId, Factory factory) = 0;
     /// Error 429 for a class that can't be created.
     virtual basic::Ref<Object> CreateObject(const std::string& progId) = 0;

@@ -12,7 +12,7 @@ public:
         own_ = Click.connect([form, click] { (form->*click)(); });
     }
     Property<std::string> Caption;
-    /// Pressed by Return, by Escape.
+    /// Whether Return presses the button (Default), and whether Escape does (Cancel).
     bool Default = false, Cancel = false;
     Event<> Click;
     /// Acts as a user's click does: nothing while the button is hidden or disabled.
@@ -24,7 +24,7 @@ private:
     Subscription own_;
 };
 
-/// Value is 0 (clear), 1 (ticked) or 2 (grey). A change raises Click, by code too.
+/// Value is 0 (clear), 1 (ticked) or 2 (grey). Every change raises Click, even one made by code.
 class CheckBox : public Control {
 public:
     CheckBox(Form* form, std::string name, std::string caption = {})
@@ -108,7 +108,7 @@ public:
     void Stop() { Playing(0); }
 };
 
-/// Rows with data and one selected row. Setting ListIndex raises Click, by code too.
+/// Rows with data and one selected row. Setting ListIndex raises Click, even from code.
 class ListBox : public Control {
 public:
     struct Row {

@@ -17,7 +17,7 @@ struct ReferenceValidity {
     bool known() const { return accepted || required; }
 };
 
-/// One device platform. Numbers are texts.
+/// One device platform. Numbers are returned as text.
 class IQLDesignTarget : public fernwick::Object {
 public:
     virtual std::string Key() const = 0;
@@ -44,7 +44,7 @@ public:
     virtual std::int32_t NumSupportedReferences() const = 0;
     /// `reference` is a library's GUID in braces or the name of the library.
     virtual ReferenceValidity ValidateReference(const std::string& reference) const = 0;
-    /// The second look-up: whether the target contains the module with this identifier (a GUID in braces).
+    /// Whether the target contains the module with this identifier (a GUID in braces).
     virtual bool FindModule(const std::string& moduleId) const = 0;
     /// Whether TabStop is turned off for new controls of this class ("QLButton").
     virtual bool IsTabStopOff(const std::string& className) const = 0;

@@ -65,7 +65,7 @@ public:
     virtual void Remove(const Ref<VBProject>& project) = 0;
 };
 
-/// Returns the event sources. A handler is called only while its sink holds the source.
+/// The event sources. A handler is called only while its sink holds the source.
 class Events : public Object {
 public:
     virtual Ref<vbide::VBProjectsEvents> VBProjectsEvents() = 0;
@@ -73,7 +73,7 @@ public:
     virtual Ref<vbide::ReferencesEvents> ReferencesEvents(const Ref<VBProject>& project) = 0;
     virtual Ref<vbide::VBControlsEvents> VBControlsEvents(const Ref<VBProject>& project, const Ref<VBForm>& form) = 0;
     virtual Ref<vbide::CommandBarEvents> CommandBarEvents(const Ref<office::CommandBarControl>& control) = 0;
-    /// Nothing for the loads and writes of all projects.
+    /// Pass Nothing to observe the loads and writes of all projects.
     virtual Ref<vbide::FileControlEvents> FileControlEvents(const Ref<VBProject>& project) = 0;
     virtual Ref<vbide::VBBuildEvents> VBBuildEvents() = 0;
 };

@@ -1,6 +1,6 @@
 #pragma once
 // The event sources of the host IDE. The host owns one object for each source and raises its events synchronously, in
-// the order of what happens.
+// the order in which things happen.
 #include "Add-in/platform/events.h"
 #include "Basic/ref.h"
 #include <string>

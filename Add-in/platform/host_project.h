@@ -192,7 +192,7 @@ public:
     virtual int Count() const = 0;
     virtual Ref<Reference> Item(int index) const = 0;
     virtual std::vector<Ref<Reference>> items() const = 0;
-    /// Returns an existing reference without an error.
+    /// Returns the existing reference if the project already has this library.
     virtual Ref<Reference> AddFromGuid(const std::string& guid, int major, int minor) = 0;
     virtual Ref<Reference> AddFromFile(const std::string& path) = 0;
     virtual void Remove(const Ref<Reference>& reference) = 0;
@@ -210,7 +210,7 @@ public:
     virtual bool Saved() const = 0;
     /// A value stored by an add-in. Error 5 if the section or key is missing.
     virtual std::string ReadProperty(const std::string& section, const std::string& key) const = 0;
-    /// Error 5 for a value that contains a line break or a character missing in the project's code page.
+    /// Error 5 for a value that contains a line break or a character missing from the project's code page.
     virtual void WriteProperty(const std::string& section, const std::string& key, const std::string& value) = 0;
     virtual void SaveAs(const std::string& path) = 0;
     virtual void AddToolboxProgID(const std::string& progId) = 0;

@@ -21,7 +21,7 @@ enum VbMsgBoxStyle : int {
     vbDefaultButton2 = 256,
 };
 
-/// The questions that a front end can answer without the user. Each has one place that asks it.
+/// The questions that a front end can answer without the user. Each is asked in only one place.
 enum class Question {
     FailedStep,
     ConvertForms,
@@ -45,7 +45,7 @@ enum FileDialogFlags : int {
     cdlOFNExplorer = 0x80000,
 };
 
-/// The used part of MSComDlg.CommonDialog.
+/// The part of MSComDlg.CommonDialog that the add-in uses.
 struct CommonDialog {
     bool CancelError = false;
     std::string DialogTitle;

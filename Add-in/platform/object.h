@@ -2,7 +2,7 @@
 
 namespace fernwick {
 
-/// The result of CreateObject: an object of any class, to be cast to a known interface.
+/// The base of all objects. CreateObject returns one, and the caller casts it to a known interface.
 class Object {
 public:
     Object() = default;

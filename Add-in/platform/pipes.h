@@ -48,7 +48,7 @@ public:
     /// Returns True if the transfer succeeded. Failures are reported as error events.
     virtual bool SendProject(const std::string& deviceName, const basic::Ref<vbide::VBProject>& project,
                              const ProjectFiles& files, const ApplicationInfo& application) = 0;
-    /// The sink must outlive its use here.
+    /// The sink must exist as long as the pipe raises events.
     virtual void SetEventSink(IQLPipeEvents& sink) = 0;
     /// Writes a package into the folder `saveLocation` instead of sending.
     virtual bool MakePackage(const std::string& deviceName, const basic::Ref<vbide::VBProject>& project,

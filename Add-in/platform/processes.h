@@ -15,7 +15,7 @@ public:
     /// if the program could not be started or is not allowed.
     virtual bool CreateProcess(const std::string& commandLine, const std::string& workingFolder, int showWindow,
                                std::uint32_t& process) = 0;
-    /// Waits for the end without a time limit. Returns 0 after it.
+    /// Waits until the process has ended, without a time limit. Returns 0 on success.
     virtual std::uint32_t WaitForSingleObject(std::uint32_t process) = 0;
     virtual bool GetExitCodeProcess(std::uint32_t process, std::int32_t& code) = 0;
     virtual void CloseHandle(std::uint32_t process) = 0;

@@ -34,7 +34,7 @@ public:
     void operator()(T value) {
         if (value == value_) return;
         value_ = std::move(value);
-        const T copy = value_; // a watcher may set it again, or destroy us
+        const T copy = value_; // a watcher may set the value again or destroy this property
         changed_.raise(copy);
     }
     /// Sets the design value, which Load restores.

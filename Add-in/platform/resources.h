@@ -3,7 +3,7 @@
 
 namespace fernwick {
 
-/// The add-in's resources by number. Windows links them into the program.
+/// The add-in's resources by number. On Windows they are linked into the program.
 class Resources {
 public:
     virtual ~Resources() = default;

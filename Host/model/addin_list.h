@@ -30,7 +30,7 @@ private:
     std::string progId_, description_;
     Create create_;
     vbide::Ref<vbide::IDTExtensibility> object_;
-    /// The object of the last connection, kept alive since one of its handlers may be running.
+    /// The object of the last connection, kept alive because one of its handlers may be running.
     vbide::Ref<vbide::IDTExtensibility> retired_;
     bool connected_ = false, connecting_ = false;
 };

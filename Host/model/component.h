@@ -57,7 +57,7 @@ public:
     void member(std::optional<ProjectFile::Place> place) { origin_.member = place; }
     /// The stamp of the file when it was last read or saved; none for a component without a file.
     const std::optional<FileStamp>& stamp() const { return origin_.stamp; }
-    /// The source file next to which the companion is: its own, or that of its template until it is saved.
+    /// The source file that has the binary companion beside it: its own, or that of its template until it is saved.
     const std::string& resourceOwner() const { return origin_.path.empty() ? template_ : origin_.path; }
 
     /// Detaches the component from its file, which becomes its template.

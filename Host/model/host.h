@@ -46,7 +46,7 @@ public:
     void connectAddIn(const std::string& progId, vbide::vbext_ConnectMode mode);
     /// Notifies connected add-ins that the start is complete.
     void startupComplete();
-    /// Closes the host like the user: removes all projects, then disconnects all add-ins.
+    /// Closes the host as the user would: removes all projects, then disconnects all add-ins.
     void close();
     /// Saves the dirty components that have a file, then the project if it is dirty.
     void saveProject(const vbide::Ref<vbide::VBProject>& project);

@@ -22,7 +22,7 @@ struct FontFace {
 /// The number of bytes at the start of a file that identify its font.
 inline constexpr std::size_t kFontHeadBytes = 512;
 
-/// Returns the font of a file that begins with these bytes. Bytes beyond their end read as zeros.
+/// Returns the font of a file that begins with these bytes. Missing bytes are read as zeros.
 FontFace readFontHead(std::string_view head);
 /// Returns the font of a file; empty if it cannot be opened.
 std::optional<FontFace> CheckFontFile(const FileSystemObject& files, const std::string& path);

@@ -16,7 +16,7 @@ inline constexpr char kCompilingAndValidating[] = "Compiling and validating...";
 // sic: Could Launch
 inline constexpr char kNoFontConverter[] = "ERROR!\r\n\r\nCould Launch Converter/Viewer;\r\n"
                                            "Application is missing or not in default location.";
-/// Shown before the list of messages is opened.
+/// Shown before the list of help pages opens.
 inline constexpr char kNoHelpPage[] =
     "There is no help page for message {number}. The list of all help pages opens instead.";
 

@@ -19,7 +19,7 @@ enum FlexAlignment : int {
     flexAlignGeneral = 9,
 };
 
-/// Returns its argument, but at least 1: for widths and divisors.
+/// Returns the length, or 1 if it is smaller; used for widths and divisors.
 constexpr std::int32_t keepPositive(std::int32_t length) { return length < 1 ? 1 : length; }
 
 class MessageGrid {
@@ -51,7 +51,7 @@ public:
 
     static const ColumnDesign& design(Column column);
 
-    /// The header row included.
+    /// Includes the header row.
     std::int32_t rowCount() const { return std::int32_t(rows_.size()) + kFixedRows; }
     /// Counts from 1. Error 30009 for a row that is not a message.
     const Row& row(std::int32_t index) const;

@@ -1,5 +1,5 @@
 #pragma once
-// The messages that a project's file keeps of its last build. No other code reads this format.
+// The messages of the last build, as stored in the project file. No other code reads this format.
 #include "Add-in/platform/host_project.h"
 #include <cstdint>
 #include <string>

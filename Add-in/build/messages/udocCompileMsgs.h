@@ -42,7 +42,7 @@ public:
     /// Caption before the status.
     Property<std::string> lblStatus{build_texts::kStatusLabelAtFirst};
     Property<std::string> lblStatusText;
-    /// A row was added; true: right below the header.
+    /// Raised when a row has been added; the argument is true if it is right below the header.
     Event<bool> added;
     /// The messages were cleared.
     Event<> cleared;
@@ -58,7 +58,7 @@ public:
     void gotoMessage(std::int32_t MsgIndex) override;
 
     const MessageGrid& msgGrid() const { return grid_; }
-    /// The header row included.
+    /// Includes the header row.
     std::int32_t rowCount() const { return grid_.rowCount(); }
     /// Counts from 1. Error 30009 for a row that is not a message.
     const Row& message(std::int32_t row) const { return grid_.row(row); }
@@ -67,7 +67,7 @@ public:
     const StatusSizes& statusSizes() const { return statusSizes_; }
     /// Returns a BMP file's bytes. An error for a number without a picture, and when the add-in is disconnected.
     std::shared_ptr<const std::string> pictureOf(int number);
-    /// Returns the text of a copy of the row.
+    /// Returns the text that copying the row puts on the clipboard.
     std::string copyText(std::int32_t row) const;
 
     // Called by the window:

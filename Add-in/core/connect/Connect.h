@@ -20,7 +20,7 @@ namespace fernwick {
 class Command;
 class Connect;
 
-/// Sinks and the items that they listen to, in the order in which they are assigned.
+/// A sink and the item that it listens to. A table lists them in the order of assignment.
 struct SinkOfItem {
     Command* sink;
     CommandItems::Item CommandItems::*item;
@@ -84,7 +84,7 @@ class Connect : public vbide::IDTExtensibility {
 
 public:
     using Host = basic::Ref<vbide::VBE>;
-    /// The number of sinks of each device popup. Items beyond it have no sink and do nothing.
+    /// The number of sinks of each device popup. Items beyond this number have no sink and do nothing.
     static constexpr int kDeviceSlots = 10;
 
     explicit Connect(const ConnectServices& services) : services_(services) {}

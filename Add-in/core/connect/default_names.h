@@ -1,5 +1,5 @@
 #pragma once
-// Whether a component still has the host's default name: a word in any letter case and a number.
+// Whether a component still has the host's default name: a word in any letter case, followed by a number.
 #include "Add-in/platform/host_project.h"
 
 namespace fernwick {

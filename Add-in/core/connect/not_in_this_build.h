@@ -23,7 +23,7 @@ public:
     void ShowProjectManager() override { notInThisBuild(); }
     void ShowProjectManagerOnDelay() override { notInThisBuild(); }
     void AddProjectToRecentList(const Project&) override {}
-    /// The project stays: without the converter there is nothing better to offer.
+    /// Keeps the project open, because this build has no converter to offer.
     UnknownDeviceChoice AskAboutUnknownDevice(const Project&) override;
     void notInThisBuild() override;
 

@@ -21,7 +21,7 @@ std::string deviceOfRun(Session& session, const Options& options);
 
 /// Returns the status line of the messages window; "" if there is no window.
 std::string statusText(Session& session);
-/// The meaning of that line.
+/// Returns the run status that this line shows.
 fernwick::RunStatus runStatus(Session& session);
 
 /// Saves and closes the project; a failure to save is added to the report. The image's time is set so that it is not

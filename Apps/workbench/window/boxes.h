@@ -1,5 +1,5 @@
 #pragma once
-// The boxes of the program.
+// The message boxes and file dialogs of the program.
 #include "Host/model/host.h"
 #include <QWidget>
 #include <exception>

@@ -78,7 +78,7 @@ struct ProgramActions {
     std::function<void()> about;
 };
 
-/// What the commands act on. Host and window outlive the host's bars.
+/// What the commands act on. Host and window must outlive the host's bars.
 struct CommandTargets {
     host::Host& host;
     MainWindow& window;

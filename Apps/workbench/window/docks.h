@@ -15,7 +15,7 @@ namespace workbench {
 
 class Docks final : public QObject {
 public:
-    /// Messages mark their lines in the code windows. All of them outlive this.
+    /// Messages mark their lines in the code windows. All arguments must outlive this object.
     Docks(host::Host& host, QMainWindow& window, CodeWindows& code, Run run);
 
     /// The name identifies the dock in the stored layout.

@@ -22,7 +22,7 @@ public:
 
     /// Opens a project. Errors are shown in a box.
     void open(const std::string& path);
-    /// Opens these projects and connects the add-in, in the order that makes the add-in see all of them.
+    /// Opens these projects and connects the add-in, in an order in which the add-in sees all of them.
     void begin(const std::vector<std::string>& projects);
     /// Connects the add-in, which adopts the open project.
     void connect();
