@@ -1,6 +1,7 @@
 #include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/output/json_output.h"
 #include "Apps/fernwick/run/project_argument.h"
+#include "Apps/fernwick/run/project_run.h"
 #include "Apps/fernwick/run/session.h"
 #include "Apps/fernwick/verbs/stored_settings.h"
 #include "Apps/fernwick/verbs/verbs.h"
@@ -80,11 +81,6 @@ int getSetting(const Options& options, Console& console, const StoredSetting& se
     return kGood;
 }
 
-void requireInstalledDevice(Session& session, const StoredSetting& setting, const std::vector<std::string>& values) {
-    if (setting.name != "TargetDevice" || session.addIn().devices.IsValidDevice(values.front())) return;
-    throw Refusal(kWrongUse, fmt::format("{} is not a usable design target; see fernwick targets", values.front()));
-}
-
 /// Writes the values unless the project has them already.
 void writeSetting(Session& session, const StoredSetting& setting, const std::vector<std::string>& values,
                   Console& console, bool dryRun) {
@@ -106,7 +102,7 @@ void writeSetting(Session& session, const StoredSetting& setting, const std::vec
 int setSetting(Session& session, const SettingOperands& operands, const Options& options, Console& console) {
     const auto& setting = settingOf(operands);
     if (const auto wrong = wrongWithValues(setting, operands.values); !wrong.empty()) throw Refusal(kWrongUse, wrong);
-    requireInstalledDevice(session, setting, operands.values);
+    if (setting.name == "TargetDevice") requireUsableDevice(session, operands.values.front());
     writeSetting(session, setting, operands.values, console, options.dryRun);
     return kGood;
 }
