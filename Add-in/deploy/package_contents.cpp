@@ -1,6 +1,7 @@
 #include "Add-in/deploy/package_contents.h"
 #include "Add-in/deploy/compiled_image.h"
 #include "Add-in/deploy/deploy_texts.h"
+#include "Add-in/platform/pipes.h"
 #include "Basic/text.h"
 #include <fmt/format.h>
 

@@ -1,6 +1,7 @@
 // Saving a project, and its lines for the files of its components.
 #include "Host/files/library_reference.h"
 #include "Host/files/native_path.h"
+#include "Host/files/system_error.h"
 #include "Host/model/code/component_kind.h"
 #include "Host/model/host.h"
 #include "Host/model/project.h"

@@ -1,6 +1,7 @@
 #include "Components/QLPipe/linux_handheld/ssh_upload.h"
 #include "Components/QLPipe/base/device_names.h"
 #include "Components/QLPipe/base/sha256.h"
+#include "Components/QLPipe/linux_handheld/sftp_errors.h"
 #include "Components/QLPipe/linux_handheld/ssh_storage.h"
 #include <utility>
 
