@@ -91,6 +91,7 @@ private:
 std::string packageName(const Bundle& bundle) { return bundle.project + "." + bundle.device + ".qlpkg"; }
 
 void writePackage(const std::string& path, Bundle bundle, IQLPipeEvents* sink, unsigned threads) {
+    needReadable(bundle);
     Progress progress{sink, 2 * bundle.bytes() + manifestSize(bundle)};
     addChecksums(
         bundle.files, threads,
