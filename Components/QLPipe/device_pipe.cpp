@@ -59,7 +59,8 @@ void DevicePipe::send(const std::string& deviceName, const basic::Ref<vbide::VBP
                       const Bundle& bundle) {
     Progress progress{sink_, bundle.bytes()};
     progress.setStatus(fillIn(pipe_texts::kConnecting, {{"device", deviceName}}));
-    const auto device = family_.open(services_, deviceName, project);
+    const auto device = family_.open(
+        services_, {deviceName, project, [this](PipeWarning number, MessageValues values) { warn(number, values); }});
     const bool lacksRuntime = !bundle.isRuntime && !hasRuntime(*device);
     install(*device, bundle, progress);
     for (const auto& file : bundle.files)
