@@ -3,6 +3,7 @@
 #include "Basic/error_numbers.h"
 #include <concepts>
 #include <exception>
+#include <new>
 #include <string>
 #include <utility>
 
@@ -36,11 +37,19 @@ struct ErrObject {
         : Number(e.Number), Description(e.Description), Source(e.Source), LastDllError(e.LastDllError) {}
 };
 
+/// Runs a statement. Raises error 7 if it runs out of memory.
+template <std::invocable F>
+decltype(auto) withinMemory(F&& statement) {
+    try {
+        return statement();
+    } catch (const std::bad_alloc&) { throw RuntimeError(kOutOfMemory); }
+}
+
 /// Runs a statement with errors suppressed and returns its error, if any.
 template <std::invocable F>
 [[nodiscard]] ErrObject attempt(F&& statement) {
     try {
-        statement();
+        withinMemory(statement);
         return {};
     } catch (const RuntimeError& e) { return ErrObject{e}; }
 }
@@ -54,7 +63,7 @@ public:
     template <std::invocable F>
     bool operator()(F&& statement) {
         try {
-            statement();
+            withinMemory(statement);
             return true;
         } catch (const RuntimeError& e) {
             Err = ErrObject{e};

@@ -20,7 +20,7 @@ set(CPACK_DEBIAN_PACKAGE_SECTION devel)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 # Linked libraries are found by dpkg-shlibdeps. Those that are loaded at run time are named here: LateLibrary and dlopen.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-set(CPACK_DEBIAN_PACKAGE_DEPENDS "adduser, libfontconfig1, libssh-4, libzip4")
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "adduser, libfontconfig1, libssh-4, libzip4, zlib1g")
 # Qt loads the icon by its plugin for SVG, and Wayland by another; without them it has its own icon and X11.
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-dejavu-core, libqt6svg6")
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS "qt6-wayland")

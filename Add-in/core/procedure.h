@@ -35,7 +35,7 @@ public:
     template <std::invocable F>
     bool operator()(F&& statement) {
         try {
-            statement();
+            basic::withinMemory(statement);
             return true;
         } catch (const basic::RuntimeError& error) {
             report_.Error_ShowAddInError(location_, error);

@@ -4,6 +4,7 @@
 #include "Apps/fernwick/output/report.h"
 #include "Apps/fernwick/output/version_line.h"
 #include "Apps/fernwick/run/interruption.h"
+#include "Basic/printable.h"
 #include "Basic/runtime_error.h"
 #include <csignal>
 #include <cstdio>
@@ -29,7 +30,7 @@ int failed(int status, const std::string& reason, const cli::Options& options, c
 int guarded(const cli::Parsed& parsed, cli::Console& console) {
     const auto& options = parsed.options;
     try {
-        return parsed.run(options, console);
+        return basic::withinMemory([&] { return parsed.run(options, console); });
     } catch (const cli::Interrupted&) {
         return failed(cli::kInterrupted, "interrupted; no file was left incomplete", options, console);
     } catch (const cli::Refusal& refusal) {
@@ -61,7 +62,7 @@ int main(int argc, char** argv) {
     if (argc == 2 && std::strcmp(argv[1], "--version") == 0) return printed(cli::versionLine() + "\n");
 
     const auto parsed = cli::parseCommandLine(argc, argv);
-    if (!parsed.error.empty()) std::fprintf(stderr, "%s\n", parsed.error.c_str());
+    if (!parsed.error.empty()) std::fprintf(stderr, "%s\n", basic::printable(parsed.error, "\n").c_str());
     if (!parsed.run) return parsed.output.empty() ? parsed.status : printed(parsed.output);
 
     keepFreedMemory();

@@ -1,5 +1,6 @@
 #pragma once
 // A compiled application as a value, and its container format, described in docs/qlx-format.md.
+#include "Components/Image/shared_text.h"
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -10,7 +11,7 @@ namespace image {
 
 /// A property of a form or control. The value is the literal in the form's text: "-1", "\"Hello\"", "&H00FF0000&".
 struct Property {
-    std::string name, value;
+    SharedText name, value;
     friend bool operator==(const Property&, const Property&) = default;
 };
 
@@ -18,7 +19,7 @@ struct Property {
 struct Control {
     static constexpr std::int32_t kNoIndex = -1;
 
-    std::string className, name;
+    SharedText className, name;
     /// Index in a control array, or kNoIndex.
     std::int32_t index = kNoIndex;
     std::vector<Property> properties;
@@ -32,7 +33,7 @@ enum class MemberKind : std::uint8_t { Sub, Function, PropertyGet, PropertyLet, 
 struct Member {
     MemberKind kind = MemberKind::Sub;
     bool isPublic = true;
-    std::string name;
+    SharedText name;
     std::uint32_t firstLine = 0;
     std::uint32_t parameters = 0;
     friend bool operator==(const Member&, const Member&) = default;
@@ -43,29 +44,35 @@ enum class ModuleKind : std::uint8_t { Module, Class, Form };
 struct Module {
     ModuleKind kind = ModuleKind::Module;
     /// Module name, and file name without folder.
-    std::string name, file;
+    SharedText name, file;
     std::uint32_t lines = 0;
     std::vector<Member> members;
     /// Distinct string literals of the code, in the order of their first use.
-    std::vector<std::string> strings;
+    std::vector<SharedText> strings;
     friend bool operator==(const Module&, const Module&) = default;
 };
 
 struct Image {
-    std::string compilerVersion;
-    std::string projectName;
+    SharedText compilerVersion;
+    SharedText projectName;
     /// Name of the startup object, "Sub Main" or "".
-    std::string startup;
+    SharedText startup;
     /// Version information in its original order.
-    std::vector<std::pair<std::string, std::string>> info;
-    std::vector<std::pair<std::string, std::int32_t>> constants;
-    std::vector<std::string> libraries;
+    std::vector<std::pair<SharedText, SharedText>> info;
+    std::vector<std::pair<SharedText, std::int32_t>> constants;
+    std::vector<SharedText> libraries;
     std::vector<Control> forms;
     std::vector<Module> modules;
     friend bool operator==(const Image&, const Image&) = default;
 };
 
-/// Returns the bytes of the container. Equal images have equal bytes.
+// Limits of writers and readers.
+/// Bytes.
+inline constexpr std::int64_t kLargestImage = 64 * 1024 * 1024;
+/// Controls inside each other, below their form.
+inline constexpr int kDeepestControl = 200;
+
+/// Returns the bytes of the container. Equal images have equal bytes. Raises error 321 for an image beyond the limits.
 std::string encode(const Image& image);
 
 /// Returns the image in a container. Raises error 321 (invalid file format) with the reason if the bytes are damaged or

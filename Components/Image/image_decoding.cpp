@@ -6,14 +6,12 @@ namespace image {
 
 namespace {
 
-constexpr int kDeepestControl = 200;
-
 /// Reads a section.
 struct SectionReader {
-    const std::vector<std::string>& strings;
+    const std::vector<SharedText>& strings;
     Reader in;
 
-    std::string text() {
+    SharedText text() {
         const auto number = in.u32();
         if (number >= strings.size()) imageIsDamaged("a string is missing");
         return strings[number];
@@ -29,10 +27,10 @@ struct SectionReader {
     }
 };
 
-std::vector<std::string> decodeStrings(std::string_view bytes) {
+std::vector<SharedText> decodeStrings(std::string_view bytes) {
     Reader in{bytes};
-    std::vector<std::string> texts(in.count(4));
-    for (auto& text : texts) text = in.raw(in.u32());
+    std::vector<SharedText> texts(in.count(4));
+    for (auto& text : texts) text = std::string(in.raw(in.u32()));
     if (!in.atEnd()) imageIsDamaged("the string table is too long");
     return texts;
 }
@@ -95,6 +93,7 @@ Module decodeModule(SectionReader& r) {
 /// Validates the container and returns the bytes of its sections by name.
 std::unordered_map<std::string, std::string_view> sectionsOf(std::string_view bytes) {
     Reader in{bytes};
+    if (std::int64_t(bytes.size()) > kLargestImage) imageIsDamaged("it is too large");
     if (in.raw(kMagic.size()) != kMagic) imageIsDamaged("it is not a compiled application");
     const auto major = in.u16();
     if (major != kMajor) imageIsDamaged("its format is version " + std::to_string(major));

@@ -35,7 +35,12 @@ std::string encodeProject(const Image& image, Strings& strings) {
     return w.out.bytes();
 }
 
-void encodeControl(SectionWriter& w, const Control& control) {
+[[noreturn]] void exceedsLimits(const char* reason) {
+    throw basic::RuntimeError(kInvalidFileFormat, reason, "QLToolkit");
+}
+
+void encodeControl(SectionWriter& w, const Control& control, int depth) {
+    if (depth > kDeepestControl) exceedsLimits("The controls of a form are nested too deeply.");
     w.text(control.className);
     w.text(control.name);
     w.out.u32(std::uint32_t(control.index));
@@ -45,13 +50,13 @@ void encodeControl(SectionWriter& w, const Control& control) {
         w.text(property.value);
     }
     w.count(control.children.size());
-    for (const auto& child : control.children) encodeControl(w, child);
+    for (const auto& child : control.children) encodeControl(w, child, depth + 1);
 }
 
 std::string encodeForms(const Image& image, Strings& strings) {
     SectionWriter w{strings, {}};
     w.count(image.forms.size());
-    for (const auto& form : image.forms) encodeControl(w, form);
+    for (const auto& form : image.forms) encodeControl(w, form, 0);
     return w.out.bytes();
 }
 
@@ -92,7 +97,9 @@ std::string encode(const Image& image) {
     sections.emplace_back(kStrings, table.bytes());
 
     Writer body;
-    std::size_t offset = kHeaderSize + sections.size() * kSectionEntrySize;
+    std::size_t offset = kHeaderSize + sections.size() * kSectionEntrySize, size = offset;
+    for (const auto& section : sections) size += section.second.size();
+    if (std::int64_t(size) > kLargestImage) exceedsLimits("The compiled application is too large.");
     for (const auto& [name, content] : sections) {
         body.raw(name);
         body.u32(std::uint32_t(offset));

@@ -38,25 +38,29 @@ std::optional<Bundle> DevicePipe::checkedBundle(const std::string& deviceName, c
                                                 const ApplicationInfo& application) {
     auto listing = listFiles(services_.files, files);
     checkFiles(limitsOf(services_.classes, deviceName), listing);
-    bool good = true;
-    for (const auto& finding : listing.findings) {
-        if (!finding.isError) continue; // the validation has reported the hints
-        good = false;
-        if (sink_) sink_->SendError(finding.number, finding.text);
-    }
-    if (!good) return {};
+    if (!report(listing, false)) return {}; // the validation has reported the hints
     listing.findings.clear();
     auto bundle = projectBundle(listing, application, deviceName);
-    for (const auto& finding : listing.findings)
-        if (sink_) sink_->SendWarning(finding.text, finding.source, 0, finding.number);
+    report(listing, true);
     return bundle;
+}
+
+bool DevicePipe::report(const FileListing& listing, bool withHints) {
+    bool good = true;
+    for (const auto& finding : listing.findings) {
+        good = good && !finding.isError;
+        if (sink_ && finding.isError) sink_->SendError(finding.number, finding.text);
+        if (sink_ && !finding.isError && withHints) sink_->SendWarning(finding.text, finding.source, 0, finding.number);
+    }
+    return good;
 }
 
 void DevicePipe::send(const std::string& deviceName, const basic::Ref<vbide::VBProject>& project,
                       const Bundle& bundle) {
     Progress progress{sink_, bundle.bytes()};
     progress.setStatus(fillIn(pipe_texts::kConnecting, {{"device", deviceName}}));
-    const auto device = family_.open(services_, deviceName, project);
+    const auto device = family_.open(
+        services_, {deviceName, project, [this](PipeWarning number, MessageValues values) { warn(number, values); }});
     const bool lacksRuntime = !bundle.isRuntime && !hasRuntime(*device);
     install(*device, bundle, progress);
     for (const auto& file : bundle.files)
@@ -102,6 +106,9 @@ bool DevicePipe::SendPackage(const Package& package, const std::string& deviceNa
             throw transferError(kPackageOfOtherDevice,
                                 {{"package", package.path()}, {"device", bundle.device}, {"other", deviceName}});
         needOwnDevice(deviceName);
+        auto listing = listFiles(bundle, package.path());
+        checkFiles(limitsOf(services_.classes, deviceName), listing);
+        if (!report(listing, true)) return false;
         send(deviceName, {}, bundle);
         return true;
     });

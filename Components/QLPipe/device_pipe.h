@@ -1,6 +1,7 @@
 #pragma once
 // The pipe of a device family.
 #include "Components/QLPipe/base/pipe_messages.h"
+#include "Components/QLPipe/package/listed_files.h"
 #include "Components/QLPipe/package/package.h"
 #include "Components/QLPipe/pipe_family.h"
 #include <optional>
@@ -21,7 +22,8 @@ public:
                      const ProjectFiles& files, const ApplicationInfo& application, std::string& saveLocation) override;
     void SendRuntime(const std::string& deviceName) override;
 
-    /// Installs a package on a device of the design target for which it was made.
+    /// Installs a package on a device of the design target for which it was made, after the same checks as for a
+    /// project.
     bool SendPackage(const Package& package, const std::string& deviceName);
 
 private:
@@ -31,6 +33,8 @@ private:
     /// Reports all errors of the files as events. Returns nothing if there are any.
     std::optional<Bundle> checkedBundle(const std::string& deviceName, const ProjectFiles& files,
                                         const ApplicationInfo& application);
+    /// Raises the errors, and on request the hints. Returns false if there is an error.
+    bool report(const FileListing& listing, bool withHints);
     void send(const std::string& deviceName, const basic::Ref<vbide::VBProject>& project, const Bundle& bundle);
     void needOwnDevice(const std::string& deviceName) const;
     void warn(PipeWarning warning, MessageValues values);

@@ -1,8 +1,8 @@
 #pragma once
 // Device families and the classes that serve them.
 #include "Add-in/platform/pipes.h"
+#include "Components/QLPipe/base/device_request.h"
 #include "Components/QLPipe/base/device_storage.h"
-#include "Components/QLPipe/base/pipe_services.h"
 #include <functional>
 #include <memory>
 #include <span>
@@ -16,10 +16,9 @@ struct PipeFamily {
     const char* name;
     /// The ProgID in its design targets.
     const char* pipe;
-    /// Opens a device's storage for exclusive use; throws TransferError. `project` is Nothing for the runtime and for
-    /// packages. Null for a family without devices.
-    std::unique_ptr<DeviceStorage> (*open)(const PipeServices& services, const std::string& deviceName,
-                                           const basic::Ref<vbide::VBProject>& project);
+    /// Opens a device's storage, for exclusive use unless it is only read; throws TransferError. Null for a family without
+    /// devices.
+    std::unique_ptr<DeviceStorage> (*open)(const PipeServices& services, const DeviceRequest& request);
     /// Creates the object with its page of the settings dialog. Null for a family without that class.
     basic::Ref<IQLPipeConfiguration> (*configure)(const PipeServices& services);
 };

@@ -46,8 +46,8 @@ bool ProjectCompiler::compile() {
     image.compilerVersion = kCompilerVersion;
     image.projectName = services_.files.GetFileName(input_.outputPath);
     image.startup = input_.startup;
-    image.info = input_.info;
-    image.constants = input_.constants;
+    image.info.assign(input_.info.begin(), input_.info.end());
+    image.constants.assign(input_.constants.begin(), input_.constants.end());
 
     SymbolTable symbols;
     compileSources(image, symbols);

@@ -106,7 +106,8 @@ image::Module imageOf(const Module& module, const SymbolTable& symbols) {
     image.file = fileTitle(module.source.name());
     image.lines = module.source.lineCount();
     image.members = MemberList{module, symbols}.take();
-    image.strings = stringsOf(module);
+    auto texts = stringsOf(module);
+    image.strings.assign(std::make_move_iterator(texts.begin()), std::make_move_iterator(texts.end()));
     return image;
 }
 

@@ -69,5 +69,12 @@ TEST(Suppressed, KeepsTheLastErrorUntilCleared) {
 
 TEST(Attempt, LetsOtherExceptionsThrough) {
     EXPECT_EQ(basic::attempt([] {}).Number, 0);
-    EXPECT_THROW((void)basic::attempt([] { throw std::bad_alloc(); }), std::bad_alloc);
+    EXPECT_THROW((void)basic::attempt([] { throw std::logic_error("a mistake"); }), std::logic_error);
+}
+
+TEST(Attempt, TurnsALackOfMemoryIntoError7) {
+    EXPECT_EQ(basic::attempt([] { throw std::bad_alloc(); }).Number, 7);
+    basic::Suppressed quietly;
+    EXPECT_FALSE(quietly([] { throw std::bad_alloc(); }));
+    EXPECT_EQ(quietly.Err.Number, 7);
 }

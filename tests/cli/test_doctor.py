@@ -49,6 +49,15 @@ class Doctor(unittest.TestCase):
     def test_an_undamaged_installation_is_usable(self):
         self.assertEqual(self.troubles(), [])
 
+    def test_changes_nothing_and_neither_does_devices(self):
+        before = self.everything()
+        self.assertEqual(self.home.run(self.program, "devices", text=False).returncode, 0)
+        self.examine()
+        self.assertEqual(self.everything(), before)
+
+    def everything(self):
+        return sorted((str(path), path.lstat().st_mtime_ns) for path in self.home.folder.rglob("*") if path.name != "tmp")
+
     def test_names_each_missing_part(self):
         for part in PARTS:
             with self.subTest(part):
@@ -109,7 +118,6 @@ class Doctor(unittest.TestCase):
         self.home.env["FERNWICK_DEVICES"] = str(place)
         self.home.run(self.program, "devices", "add", "PalmOS-DragonBall", check=True)
         self.assertEqual(self.troubles(), [])
-        shutil.rmtree(place)
         place.write_text("no folder")
         self.assertRegex("\n".join(self.troubles()), "^device PalmOS-DragonBall: ")
 

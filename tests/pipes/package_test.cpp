@@ -152,6 +152,43 @@ TEST_F(MakePackage, RefusesAFileThatVanishesWhileItIsPacked) {
     EXPECT_EQ(files(), 0u);
 }
 
+/// Every reader would refuse it.
+TEST_F(MakePackage, RefusesMoreFilesThanAManifestCanList) {
+    project.image();
+    const auto file = world.folder.write("x.txt", "x");
+    for (int i = 0; i < 6000; ++i) project.list(file, std::string(60, 'n') + std::to_string(i) + ".txt");
+    EXPECT_EQ(make(), "");
+    EXPECT_FALSE(world.send(project));
+    EXPECT_THAT(world.sink.errorNumbers(), ElementsAre(qlpipe::kListTooLong, qlpipe::kListTooLong));
+    EXPECT_THAT(world.sink.errors[0].second, HasSubstr("at most 1,048,576 bytes"));
+    EXPECT_EQ(files(), 0u);
+    EXPECT_FALSE(world.isOnDevice(".incoming"));
+}
+
+/// A changed bit behind the end of a compressed stream changes nothing; any other change before the directory is found.
+TEST_F(MakePackage, IsRefusedIfAnyOtherByteBeforeItsDirectoryChanged) {
+    project.image().add("a.txt", "aaaaaaaaaaaaaaaaaaaa");
+    const auto path = make();
+    const auto manifest = qlpipe::writeManifest(Package{path}.bundle());
+    const auto whole = world.folder.read("packages/Hello.PocketPC-ARM.qlpkg");
+    std::size_t header = 0;
+    for (std::size_t at = 0; at < whole.find("PK\1\2"); ++at) {
+        if (whole.compare(at, 4, "PK\3\4") == 0) header = at;
+        const auto nameLength = static_cast<unsigned char>(whole[header + 26]);
+        for (const char bit : {'\x01', '\x80'}) {
+            auto changed = whole;
+            changed[at] = char(changed[at] ^ bit);
+            world.folder.write("packages/Hello.PocketPC-ARM.qlpkg", changed);
+            try {
+                const Package package{path};
+                package.verify();
+                EXPECT_EQ(qlpipe::writeManifest(package.bundle()), manifest) << at;
+                EXPECT_GE(at, header + 30 + nameLength) << "a header";
+            } catch (const qlpipe::TransferError&) {}
+        }
+    }
+}
+
 TEST_F(MakePackage, PassesOnExceptionsOfTheSink) {
     project.image();
     world.sink.onProgress = [&] {
@@ -343,18 +380,118 @@ TEST_F(ForeignPackage, IsRefusedWithAMemberOfTheWrongType) {
 }
 
 TEST_F(ForeignPackage, UnpacksNoMoreThanTheSizeInTheManifest) {
-    const std::string claimed = "ten bytes!";
-    name("files/a.txt", claimed);
+    name("files/a.txt", "ten bytes!");
     // 256 MB of zeros packed into 1.5 MB
     entries.push_back({"files/a.txt", test::deflatedZeros(1'000'000), test::ZipEntry::kDeflated, 10});
-    EXPECT_NE(read(), 0);
-    entries.back().size.reset();
+    const Package package{world.folder.write("x.qlpkg", bytes(qlpipe::writeManifest(bundle)))};
+    const auto reader = package.bundle().files.at(0).open();
+    std::string buffer(8, '\0');
+    std::size_t unpacked = 0;
+    std::int32_t number = 0;
+    try {
+        while (const auto count = reader->read(buffer)) unpacked += count;
+    } catch (const qlpipe::TransferError& error) { number = error.number; }
+    EXPECT_EQ(number, qlpipe::kPackageEntryChanged);
+    EXPECT_LE(unpacked, 10u);
+}
+
+TEST_F(ForeignPackage, IsRefusedIfItsSizesDoNotMatchTheManifest) {
+    name("files/a.txt", "ten bytes!");
+    entries.push_back({"files/a.txt", test::deflatedZeros(1'000), test::ZipEntry::kDeflated, {}});
     EXPECT_EQ(read(), qlpipe::kPackageEntryChanged);
+}
+
+TEST_F(ForeignPackage, IsRefusedIfAFileIsAlsoAFolder) {
+    for (const char* place : {"files/a", "files/A/b"}) {
+        name(place, "x");
+        add(place, "x");
+    }
+    EXPECT_EQ(read(), qlpipe::kPackageManifest);
+}
+
+TEST_F(ForeignPackage, IsRefusedWithNamesThatAreTooLong) {
+    const auto nested = [](std::size_t parts, const std::string& part) {
+        std::string place = "files";
+        for (std::size_t i = 0; i < parts; ++i) place += "/" + part;
+        return place;
+    };
+    const auto readNamed = [&](const std::string& place) {
+        bundle.files.clear();
+        name(place, "x");
+        entries = {{place, "x", 0, {}}};
+        return read();
+    };
+    EXPECT_EQ(readNamed(nested(32, "a")), 0);
+    EXPECT_EQ(readNamed(nested(33, "a")), qlpipe::kPackageUnsafeName);
+    EXPECT_EQ(readNamed(nested(4, std::string(255, 'a'))), 0);
+    EXPECT_EQ(readNamed(nested(4, std::string(255, 'a')) + "/b"), qlpipe::kPackageUnsafeName);
+}
+
+/// A terminal would obey control characters, and a line feed could imitate a line of the message.
+TEST_F(ForeignPackage, HasItsNamesEscapedInMessages) {
+    name("files/a\n\033[2Jb", "x");
+    add("files/a\n\033[2Jb", "x");
+    try {
+        Package{world.folder.write("x.qlpkg", bytes(qlpipe::writeManifest(bundle)))};
+        FAIL();
+    } catch (const qlpipe::TransferError& error) { EXPECT_THAT(error.text, HasSubstr("a\\n\\u001B[2Jb,")); }
+}
+
+// ---- the checks before a package is installed ---------------------------------------------------------------
+
+/// Packages whose device would not accept them as projects.
+class UncheckedPackage : public ForeignPackage {
+protected:
+    void addFile(const std::string& place, const std::string& content) {
+        name(place, content);
+        add(place, content);
+    }
+    bool install() {
+        const auto path = world.folder.write("x.qlpkg", bytes(qlpipe::writeManifest(bundle)));
+        return qlpipe::installPackage(world.services, path, "", world.sink);
+    }
+};
+
+TEST_F(UncheckedPackage, IsInstalledIfItsDeviceAcceptsIt) {
+    addFile("files/Hello.0000.qlx", test::imageOf("Hello"));
+    addFile("files/empty.txt", "");
+    EXPECT_TRUE(install());
+    EXPECT_THAT(world.sink.warningNumbers(), ElementsAre(qlpipe::kFileEmpty, qlpipe::kRuntimeNotInstalled));
+}
+
+TEST_F(UncheckedPackage, IsRefusedLikeAProject) {
+    addFile("files/Hello.0000.qlx", test::imageOf("Hello", "9.9"));
+    addFile("files/a.exe", "x");
+    EXPECT_FALSE(install());
+    EXPECT_THAT(world.sink.errorNumbers(), ElementsAre(qlpipe::kImageOfOtherCompiler, qlpipe::kKindNotTaken));
+    EXPECT_FALSE(world.isOnDevice("applications"));
+}
+
+TEST_F(UncheckedPackage, NeedsAnImage) {
+    addFile("files/a.txt", "x");
+    EXPECT_FALSE(install());
+    EXPECT_THAT(world.sink.errorNumbers(), ElementsAre(qlpipe::kNoImage));
+}
+
+TEST_F(UncheckedPackage, HasItsImageCheckedWhateverItsManifestCallsIt) {
+    addFile("files/Hello.0000.qlx", "not an image");
+    EXPECT_FALSE(install());
+    EXPECT_THAT(world.sink.errorNumbers(), ElementsAre(qlpipe::kImageDamaged));
+}
+
+TEST_F(UncheckedPackage, IsRefusedIfItIsTooLargeForItsDevice) {
+    bundle.device = "PalmOS-DragonBall";
+    addFile("files/Hello.0000.qlx", test::imageOf("Hello"));
+    addFile("files/a.pdb", std::string(65'537, 'x'));
+    EXPECT_FALSE(install());
+    EXPECT_THAT(world.sink.errorNumbers(), ElementsAre(qlpipe::kFileTooLarge));
 }
 
 TEST_F(ForeignPackage, KeepsTheOldApplicationIfRefused) {
     test::ProjectFolder project{world.folder};
     EXPECT_TRUE(world.send(project.image().add("a.txt", "old")));
+    name("files/Hello.0000.qlx", test::imageOf("Hello"));
+    add("files/Hello.0000.qlx", test::imageOf("Hello"));
     name("files/a.txt", "new");
     name("files/b.txt", "new");
     add("files/a.txt", "new");

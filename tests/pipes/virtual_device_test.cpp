@@ -2,6 +2,7 @@
 #include "Components/QLPipe/package/installer.h"
 #include "Components/QLPipe/virtual_device/virtual_device.h"
 #include "tests/pipes/other_process.h"
+#include "tests/support/deep_folder.h"
 #include "tests/support/temp_folder.h"
 #include <cstddef>
 #include <filesystem>
@@ -10,6 +11,7 @@
 #include <linux/filter.h>
 #include <linux/seccomp.h>
 #include <sys/prctl.h>
+#include <sys/resource.h>
 #include <sys/syscall.h>
 #include <thread>
 
@@ -29,6 +31,16 @@ std::int32_t numberOf(Operation&& operation) {
         operation();
         return 0;
     } catch (const TransferError& error) { return error.number; }
+}
+
+/// Lets every system call with this number fail in this process.
+void failCalls(std::uint32_t call, std::uint32_t error) {
+    const sock_filter kRules[] = {
+        BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, nr)), BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, call, 0, 1),
+        BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ERRNO | error), BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ALLOW)};
+    const sock_fprog kProgram{std::size(kRules), const_cast<sock_filter*>(kRules)};
+    if (::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) != 0 || ::prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &kProgram) != 0)
+        ::_exit(2);
 }
 
 class VirtualDevices : public testing::Test {
@@ -154,10 +166,18 @@ TEST_F(VirtualDevices, ReportAFolderThatCannotBeCreated) {
 }
 
 TEST_F(VirtualDevices, ReportAFullDisk) {
-    const qlpipe::FolderHandle root{qlpipe::FileDescriptor{}, "/devices/Palm"};
-    EXPECT_EQ(numberOf([&] { root.fail(ENOSPC, "a"); }), qlpipe::kDeviceDiskFull);
-    EXPECT_EQ(numberOf([&] { root.fail(EDQUOT, "a"); }), qlpipe::kDeviceDiskFull);
-    EXPECT_EQ(numberOf([&] { root.fail(EIO, "a"); }), qlpipe::kStorageFailed);
+    for (const auto& [error, number] : {std::pair{ENOSPC, qlpipe::kDeviceDiskFull},
+                                        {EDQUOT, qlpipe::kDeviceDiskFull},
+                                        {EIO, qlpipe::kStorageFailed}}) {
+        test::OtherProcess other{[&, error = error, number = number] {
+            auto device = open();
+            const auto file = device.create("a.txt");
+            failCalls(SYS_write, std::uint32_t(error));
+            return numberOf([&] { file->write("a"); }) == number ? 0 : 1;
+        }};
+        EXPECT_TRUE(other.succeeds()) << error;
+        EXPECT_FALSE(isThere("a.txt"));
+    }
 }
 
 // ---- interruptions ------------------------------------------------------------------------------------------------
@@ -181,15 +201,7 @@ TEST_F(VirtualDevices, CompleteAReplacementThatLacksOnlyTheRemoval) {
 }
 
 /// Disables the atomic exchange of names for this process, as on file systems without it.
-void refuseExchange() {
-    const sock_filter kRules[] = {BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, nr)),
-                                  BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, SYS_renameat2, 0, 1),
-                                  BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ERRNO | EINVAL),
-                                  BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ALLOW)};
-    const sock_fprog kProgram{std::size(kRules), const_cast<sock_filter*>(kRules)};
-    if (::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) != 0 || ::prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &kProgram) != 0)
-        ::_exit(2);
-}
+void refuseExchange() { failCalls(SYS_renameat2, EINVAL); }
 
 TEST_F(VirtualDevices, ReplaceAFolderInTwoStepsWithoutAtomicExchange) {
     test::OtherProcess other{[&] {
@@ -205,6 +217,74 @@ TEST_F(VirtualDevices, ReplaceAFolderInTwoStepsWithoutAtomicExchange) {
     EXPECT_FALSE(isThere("two/b.txt"));
     EXPECT_FALSE(isThere(".two.old"));
     EXPECT_FALSE(isThere("one"));
+}
+
+TEST_F(VirtualDevices, LeaveFoldersAloneThatNoReplacementMade) {
+    for (const char* name : {".old", "..old", "..x.old", ".a\\b.old"})
+        for (const char* parent : {"", "applications/"})
+            folder.write("device/" + (parent + std::string(name)) + "/a.txt", "old");
+    open();
+    for (const char* name : {".old", "..old", "..x.old", ".a\\b.old"})
+        for (const char* parent : {"", "applications/"}) EXPECT_EQ(read(parent + std::string(name) + "/a.txt"), "old");
+}
+
+TEST_F(VirtualDevices, RemoveFoldersOfAnyDepth) {
+    folder.write("device/.incoming/moved0", "a name that is in use");
+    test::nestFolders(path + "/.incoming", 300);
+    test::OtherProcess other{[&] {
+        const rlimit fewFiles{120, 120};
+        ::setrlimit(RLIMIT_NOFILE, &fewFiles);
+        return numberOf([&] { open(); });
+    }};
+    EXPECT_TRUE(other.succeeds());
+    EXPECT_FALSE(isThere(".incoming"));
+}
+
+TEST_F(VirtualDevices, DoNotCountFoldersThatAreTooDeep) {
+    fs::create_directories(path + "/applications/Hello");
+    test::nestFolders(path + "/applications/Hello", 100);
+    auto device = open(1000);
+    EXPECT_EQ(numberOf([&] { device.freeSpaceFor("applications/Other"); }), qlpipe::kStorageFailed);
+    device.remove("applications/Hello");
+    EXPECT_EQ(device.freeSpaceFor("applications/Other"), 1000);
+}
+
+TEST_F(VirtualDevices, ReportFoldersThatCannotBeRead) {
+    test::OtherProcess other{[&] {
+        auto device = open(1000);
+        put(device, "applications/Hello/a.txt", "a");
+        failCalls(SYS_getdents64, EIO);
+        const bool lists = numberOf([&] { device.list("applications"); }) == qlpipe::kStorageFailed;
+        const bool counts = numberOf([&] { device.freeSpaceFor("fonts"); }) == qlpipe::kStorageFailed;
+        const bool removes = numberOf([&] { device.remove("applications"); }) == qlpipe::kStorageFailed;
+        return lists && counts && removes ? 0 : 1;
+    }};
+    EXPECT_TRUE(other.succeeds());
+    EXPECT_TRUE(isThere("applications/Hello/a.txt"));
+}
+
+// ---- looking at a device --------------------------------------------------------------------------------------------
+
+TEST_F(VirtualDevices, AreNotMadeByLooking) {
+    const auto device = VirtualDevice::openToRead(path, 1000);
+    EXPECT_EQ(device->location(), path);
+    EXPECT_FALSE(device->exists("runtime/manifest.json"));
+    EXPECT_THAT(device->list(""), IsEmpty());
+    EXPECT_EQ(device->freeSpaceFor(".incoming"), 1000);
+    EXPECT_GT(VirtualDevice::openToRead(path, {})->freeSpaceFor(".incoming"), 0);
+    EXPECT_FALSE(fs::exists(path));
+}
+
+TEST_F(VirtualDevices, DoNotChangeByLookingEvenWhenInUse) {
+    auto transfer = open();
+    put(transfer, ".incoming/a.txt", "half");
+    put(transfer, "runtime/manifest.json", "{}");
+    folder.write("device/applications/.Hello.old/a.txt", "old");
+    const auto device = VirtualDevice::openToRead(path, 1000);
+    EXPECT_EQ(device->read("runtime/manifest.json"), "{}");
+    EXPECT_EQ(device->freeSpaceFor(".incoming"), 995);
+    EXPECT_TRUE(isThere(".incoming/a.txt"));
+    EXPECT_TRUE(isThere("applications/.Hello.old/a.txt"));
 }
 
 // ---- one transfer at a time ---------------------------------------------------------------------------------------

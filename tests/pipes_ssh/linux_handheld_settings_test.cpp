@@ -45,8 +45,18 @@ TEST_F(HandheldSettings, AreDeletedWhenCleared) {
 
 TEST_F(HandheldSettings, OfAProjectAreStoredInItsFile) {
     qlpipe::writeProjectSettings(project, kAll);
-    EXPECT_EQ(project->ReadProperty("Quinloft Linux Handheld", "KeyFile"), "~/.ssh/pda");
-    EXPECT_EQ(qlpipe::readProjectSettings(project), kAll);
+    EXPECT_EQ(project->ReadProperty("Quinloft Linux Handheld", "Folder"), "/opt/apps");
+    EXPECT_EQ(qlpipe::readProjectSettings(project), (LinuxHandheldSettings{"", "", "", "", "/opt/apps", ""}));
+    EXPECT_EQ(qlpipe::ignoredProjectSettings(project), "");
+}
+
+/// A project from someone else must not choose the machine, the user or the keys.
+TEST_F(HandheldSettings, OfAProjectDoNotRedirectAConnection) {
+    for (const char* name : {"Host", "Port", "User", "KeyFile", "KnownHosts", "Folder"})
+        project->WriteProperty("Quinloft Linux Handheld", name, "x");
+    EXPECT_EQ(qlpipe::readProjectSettings(project), (LinuxHandheldSettings{"", "", "", "", "x", ""}));
+    EXPECT_EQ(qlpipe::ignoredProjectSettings(project), "Host, Port, User, KeyFile, KnownHosts");
+    EXPECT_EQ(qlpipe::ignoredProjectSettings({}), "");
 }
 
 TEST_F(HandheldSettings, AreNotWrittenIfUnchanged) {
@@ -55,10 +65,10 @@ TEST_F(HandheldSettings, AreNotWrittenIfUnchanged) {
     EXPECT_EQ(qlpipe::readProjectSettings(project), LinuxHandheldSettings{});
 }
 
-TEST_F(HandheldSettings, OfAProjectOverrideTheUsersIndividually) {
-    const LinuxHandheldSettings ofProject{"", "", "root", "", "games", ""};
+TEST_F(HandheldSettings, OfAProjectOverrideTheUsersFolder) {
+    const LinuxHandheldSettings ofProject{"", "", "", "", "games", ""};
     const auto both = qlpipe::layered(ofProject, kAll);
-    EXPECT_EQ(both, (LinuxHandheldSettings{"pda", "2222", "root", "~/.ssh/pda", "games", "/etc/hosts_known"}));
+    EXPECT_EQ(both, (LinuxHandheldSettings{"pda", "2222", "joe", "~/.ssh/pda", "games", "/etc/hosts_known"}));
 }
 
 TEST_F(HandheldSettings, HaveDefaults) {
@@ -90,8 +100,7 @@ TEST_F(HandheldSettings, ResolveTheFolderInTheHomeFolder) {
 
 TEST_F(HandheldSettings, ExplainHowToSetTheHost) {
     const auto error = transferErrorOf([] { (void)qlpipe::sshTarget({}, kKey); });
-    expectError(error, SshMessage::HostNotSet,
-                {"fernwick devices set LinuxHandheld-ARM Host=", "fernwick settings set PROJECT HandheldHost"});
+    expectError(error, SshMessage::HostNotSet, {"fernwick devices set LinuxHandheld-ARM Host="});
 }
 
 TEST_F(HandheldSettings, RefuseInvalidValues) {
@@ -122,7 +131,7 @@ protected:
     basic::Ref<qlpipe::IQLPipePage> page = open();
 };
 
-TEST_F(HandheldPage, HasAFieldForEachSetting) {
+TEST_F(HandheldPage, HasAFieldForTheSettingsOfProjects) {
     EXPECT_TRUE(configuration->HasPage());
     EXPECT_EQ(configuration->PageName(), "Linux Handheld");
     std::vector<std::string> keys;
@@ -131,25 +140,25 @@ TEST_F(HandheldPage, HasAFieldForEachSetting) {
         EXPECT_NE(setting.Caption, "");
         keys.push_back(setting.Key);
     }
-    EXPECT_THAT(keys, testing::ElementsAre("Host", "Port", "User", "KeyFile", "Folder", "KnownHosts"));
+    EXPECT_THAT(keys, testing::ElementsAre("Folder"));
 }
 
 TEST_F(HandheldPage, StoresTheFieldsWhenApplied) {
-    type("Host", "pda");
+    type("Folder", "games");
     EXPECT_EQ(qlpipe::readProjectSettings(project), LinuxHandheldSettings{});
     EXPECT_TRUE(configuration->ValidatePage());
     configuration->ApplyPage();
-    EXPECT_EQ(project->ReadProperty("Quinloft Linux Handheld", "Host"), "pda");
+    EXPECT_EQ(project->ReadProperty("Quinloft Linux Handheld", "Folder"), "games");
     page = open();
-    EXPECT_EQ(page->Settings().front().Value, "pda");
+    EXPECT_EQ(page->Settings().front().Value, "games");
 }
 
 TEST_F(HandheldPage, RefusesInvalidValues) {
-    type("Port", "ssh");
+    type("Folder", "/");
     EXPECT_FALSE(configuration->ValidatePage());
-    type("Port", "2222");
+    type("Folder", "games");
     EXPECT_TRUE(configuration->ValidatePage());
-    type("KeyFile", "a\nb");
+    type("Folder", "a\nb");
     EXPECT_FALSE(configuration->ValidatePage());
 }
 
@@ -162,7 +171,7 @@ TEST_F(HandheldPage, ShowsAndHidesItself) {
 }
 
 TEST_F(HandheldPage, DoesNothingAfterClosing) {
-    type("Host", "pda");
+    type("Folder", "games");
     configuration->ClosePage();
     configuration->ApplyPage();
     configuration->ShowPage();
@@ -184,7 +193,7 @@ TEST(SshMessages, AreCompleteAndSorted) {
 }
 
 TEST(SshMessages, ReplaceControlCharactersOfDevices) {
-    EXPECT_EQ(qlpipe::saidByDevice("a\x1B[31mb\n\x7F"), "a?[31mb??");
+    EXPECT_EQ(qlpipe::fillIn("{said}", {{"said", qlpipe::saidByDevice("a\x1B[31mb\n")}}), "a\\u001B[31mb\\n");
     EXPECT_EQ(qlpipe::saidByDevice(std::string(1000, 'x')).size(), 200u);
 }
 

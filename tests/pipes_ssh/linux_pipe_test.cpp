@@ -69,7 +69,7 @@ TEST_F(LinuxPipe, ExplainsHowToSetTheHost) {
     EXPECT_EQ(sink.completed, 0);
 }
 
-TEST_F(LinuxPipe, PrefersTheProjectsSettings) {
+TEST_F(LinuxPipe, PrefersTheProjectsFolder) {
     test::TestHost host;
     const auto vbProject = host.open(test::SampleProject{});
     auto user = settings();
@@ -82,6 +82,18 @@ TEST_F(LinuxPipe, PrefersTheProjectsSettings) {
     EXPECT_TRUE(send(vbProject));
     EXPECT_TRUE(std::filesystem::exists(server.folder / "own/applications/Hello/manifest.json"));
     EXPECT_FALSE(std::filesystem::exists(server.folder / "unused"));
+}
+
+TEST_F(LinuxPipe, ShowsWhichSettingsOfAProjectItIgnores) {
+    test::TestHost host;
+    const auto vbProject = host.open(test::SampleProject{});
+    vbProject->WriteProperty("Quinloft Linux Handheld", "Host", "elsewhere.example");
+    vbProject->WriteProperty("Quinloft Linux Handheld", "KnownHosts", "/dev/null");
+    project.image();
+    EXPECT_TRUE(send(vbProject));
+    EXPECT_THAT(sink.warningNumbers(), testing::Contains(qlpipe::kProjectSettingsIgnored));
+    EXPECT_THAT(sink.warnings.front().second, HasSubstr("Host, KnownHosts"));
+    EXPECT_EQ(onDevice("applications/Hello/files/Hello.0000.qlx"), test::imageOf("Hello"));
 }
 
 TEST_F(LinuxPipe, ReportsAnErrorAndKeepsTheOldApplication) {
@@ -102,7 +114,7 @@ TEST_F(LinuxPipe, WaitsForAnotherTransferOfTheSameAccount) {
     auto first = world.services;
     auto device = std::find_if(qlpipe::pipeFamilies().begin(), qlpipe::pipeFamilies().end(), [](const auto& family) {
                       return std::string{family.pipe} == "QLPipeLinux";
-                  })->open(first, kDevice, {});
+                  })->open(first, {kDevice, {}, {}});
     std::thread end([&] {
         std::this_thread::sleep_for(std::chrono::milliseconds(100));
         isOver = true;

@@ -1,5 +1,6 @@
 // The storage of a Linux handheld.
 #include "tests/pipes_ssh/ssh_device.h"
+#include "tests/support/deep_folder.h"
 
 namespace {
 
@@ -53,6 +54,27 @@ TEST_F(SshStorageTest, CreatesNothingWhenReading) {
     device->remove("applications/Game");
     EXPECT_GT(device->freeSpaceFor("applications/Game"), 0);
     EXPECT_FALSE(isOnDevice(""));
+}
+
+TEST_F(SshStorageTest, RemovesFoldersOfAnyDepth) {
+    const auto device = connect();
+    device->makeFolder(".incoming");
+    test::nestFolders(server.folder / "device/.incoming", 200);
+    EXPECT_EQ(transferErrorOf([&] { device->remove(".incoming"); }).text, "no error");
+    EXPECT_FALSE(isOnDevice(".incoming"));
+}
+
+TEST_F(SshStorageTest, ChangesNothingWhenOpenedToRead) {
+    deploy(*connect(), "one");
+    std::filesystem::create_directories(server.folder / "device/.fernwick-replaced");
+    std::filesystem::rename(server.folder / "device/applications/Game",
+                            server.folder / "device/.fernwick-replaced/applications%2FGame");
+    {
+        qlpipe::SshStorage device{target(), patient(), qlpipe::FileDescriptor{}, qlpipe::SshUse::Read};
+        EXPECT_FALSE(device.exists("applications/Game"));
+    }
+    EXPECT_TRUE(isOnDevice(".fernwick-replaced/applications%2FGame"));
+    EXPECT_TRUE(connect()->exists("applications/Game"));
 }
 
 TEST_F(SshStorageTest, ReadsBackWhatItWrote) {

@@ -55,6 +55,40 @@ TEST(Image, RefusesEveryChangedByteAfterTheHeader) {
     }
 }
 
+/// A text of 100 KB that 100,000 literals refer to would otherwise need 10 GB.
+TEST(Image, SharesTextsThatOccurOften) {
+    Image image;
+    image.modules.emplace_back().strings.assign(100'000, SharedText(std::string(100'000, 'x')));
+    const auto bytes = encode(image);
+    EXPECT_LT(bytes.size(), 600'000u);
+    const auto decoded = decode(bytes);
+    const auto& texts = decoded.modules.at(0).strings;
+    EXPECT_EQ(&texts.front().str(), &texts.back().str());
+}
+
+Control nested(int levels) {
+    Control control;
+    for (int i = 0; i < levels; ++i) {
+        Control parent;
+        parent.children.push_back(std::move(control));
+        control = std::move(parent);
+    }
+    return control;
+}
+
+TEST(Image, HasTheSameLimitsForWritersAndReaders) {
+    Image image;
+    image.forms = {nested(kDeepestControl)};
+    EXPECT_EQ(decode(encode(image)), image);
+    image.forms = {nested(kDeepestControl + 1)};
+    EXPECT_EQ(basic::attempt([&] { encode(image); }).Description, "The controls of a form are nested too deeply.");
+    image.forms = {};
+    image.startup = std::string(std::size_t(kLargestImage), 'x');
+    EXPECT_EQ(basic::attempt([&] { encode(image); }).Description, "The compiled application is too large.");
+    EXPECT_EQ(failureOf(image.startup), "The compiled file is damaged: it is not a compiled application.");
+    EXPECT_EQ(failureOf(image.startup.str() + "x"), "The compiled file is damaged: it is too large.");
+}
+
 TEST(Image, ReportsTheReason) {
     EXPECT_EQ(failureOf("PK\x03\x04 and more of a zip file"),
               "The compiled file is damaged: it is not a compiled application.");

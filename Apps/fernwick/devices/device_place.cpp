@@ -42,7 +42,8 @@ DevicePlace placeOfDevice(Machine& machine, const std::string& key, const std::s
         return place;
     }
     try {
-        return placeOf(*family->open(machine.pipeServices(), key, {}));
+        return placeOf(
+            *family->open(machine.pipeServices(), {.device = key, .project = {}, .warn = {}, .isReadOnly = true}));
     } catch (const qlpipe::TransferError& error) {
         place.problem = error.text;
         place.problemNumber = error.number;

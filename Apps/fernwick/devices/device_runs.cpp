@@ -1,6 +1,7 @@
 #include "Apps/fernwick/devices/device_runs.h"
 #include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/run/project_run.h"
+#include "Basic/printable.h"
 #include <algorithm>
 #include <fmt/format.h>
 
@@ -50,7 +51,7 @@ DeviceOutcome serveOne(Session& session, const std::string& device, const ServeD
 
 void printPlaces(const DeviceOutcome& outcome, const std::string& done, Console& console) {
     console.out(fmt::format("{}: {}\n", outcome.device, done));
-    for (const auto& place : outcome.places) console.out(fmt::format("  {}\n", place));
+    for (const auto& place : outcome.places) console.out(fmt::format("  {}\n", basic::printable(place)));
 }
 
 void printTable(const Report& report, const std::string& done, Console& console) {

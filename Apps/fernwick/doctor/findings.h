@@ -21,8 +21,7 @@ struct Finding {
 
 using Findings = std::vector<Finding>;
 
-// Each examination adds its findings, also good ones. They write nothing, except that the missing folder of a simulated
-// device is created.
+// Each examination adds its findings, also good ones, and changes nothing.
 void examineInstallation(Machine& machine, Findings& to);
 void examineStores(Machine& machine, Findings& to);
 void examineCompiler(Machine& machine, Findings& to);

@@ -1,4 +1,5 @@
 #include "Apps/fernwick/output/console.h"
+#include "Basic/printable.h"
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
@@ -62,7 +63,9 @@ Console::Console(Verbosity verbosity)
 
 Console::~Console() { endProgress(); }
 
-void Console::out(std::string_view data) {
+void Console::out(std::string_view text) { data(basic::printable(text, "\n\t")); }
+
+void Console::data(std::string_view data) {
     if (std::fwrite(data.data(), 1, data.size(), stdout) != data.size()) outputFailed_ = true;
 }
 
@@ -76,9 +79,11 @@ std::string Console::coloured(std::string_view line, Tone tone) const {
     return fmt::format("\033[{}m{}\033[0m", colourOf(tone), line);
 }
 
-void Console::err(std::string_view line, Tone tone) {
+void Console::err(std::string_view line, Tone tone) { errLines(basic::printable(line), tone); }
+
+void Console::errLines(std::string_view text, Tone tone) {
     clearBar();
-    toError(coloured(line, tone) + "\n");
+    toError(coloured(basic::printable(text, "\n"), tone) + "\n");
 }
 
 void Console::note(std::string_view line, Tone tone) {
@@ -89,8 +94,9 @@ void Console::detail(std::string_view line) {
     if (verbosity_ == Verbosity::Verbose) err(line, Tone::Faint);
 }
 
-void Console::progress(float percent, std::string_view text) {
+void Console::progress(float percent, std::string_view status) {
     if (verbosity_ == Verbosity::Quiet) return;
+    const auto text = basic::printable(status);
     if (errIsTerminal_) {
         drawBar(percent, text);
         return;
@@ -98,7 +104,7 @@ void Console::progress(float percent, std::string_view text) {
     const bool isPercentage = text.find("% completed") != std::string_view::npos;
     if (text.empty() || isPercentage || text == lastText_) return;
     lastText_ = text;
-    toError(std::string(text) + "\n");
+    toError(text + "\n");
 }
 
 void Console::drawBar(float percent, std::string_view text) {
@@ -122,7 +128,7 @@ void Console::endProgress() {
 
 std::string Console::ask(std::string_view prompt) {
     clearBar();
-    toError(prompt);
+    toError(basic::printable(prompt, "\n"));
     std::string line;
     for (int c = std::fgetc(stdin); c != EOF && c != '\n'; c = std::fgetc(stdin)) line += char(c);
     return line;

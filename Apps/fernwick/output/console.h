@@ -15,10 +15,15 @@ public:
     ~Console();
     Console(const Console&) = delete;
 
+    /// Writes text of whole lines. Like all text here, it goes through basic::printable, because names and values of
+    /// foreign files could otherwise control the terminal.
+    void out(std::string_view text);
     /// Writes data unchanged.
-    void out(std::string_view data);
+    void data(std::string_view data);
     /// Writes a line of diagnostics, replacing the progress bar.
     void err(std::string_view line, Tone tone = Tone::Plain);
+    /// Like err, for a text of several lines.
+    void errLines(std::string_view text, Tone tone);
     /// Like err, but silent under --quiet.
     void note(std::string_view line, Tone tone = Tone::Plain);
     /// Like err, but only under --verbose.

@@ -149,7 +149,7 @@ void CommandLineUser::show(const std::string& title, const std::string& text, in
         line += c;
         if (c == '\n') line += "  ";
     }
-    console_.err(line, critical ? Tone::Error : Tone::Warning);
+    console_.errLines(line, critical ? Tone::Error : Tone::Warning);
 }
 
 void CommandLineUser::guardAgainstRepeats(const std::string& what, Reply& reply, Reply harmless) {

@@ -8,6 +8,7 @@
 #include "Apps/fernwick/run/interruption.h"
 #include "Apps/fernwick/verbs/verbs.h"
 #include "Basic/case_folding.h"
+#include "Basic/printable.h"
 #include <fmt/format.h>
 
 namespace cli {
@@ -49,7 +50,8 @@ const DeviceRow& knownDevice(const MyDevices& devices, const std::string& key) {
 void printRow(const DeviceRow& row, const DevicePlace& place, Console& console) {
     std::string where = !row.isUsable ? "not usable" : !place.problem.empty() ? "-" : place.location;
     if (!place.runtime.empty()) where += fmt::format("  (runtime {})", place.runtime);
-    console.out(fmt::format("{} {:<20}  {:<18}  {}\n", row.isMine ? "*" : " ", row.key, row.name, where));
+    console.out(
+        fmt::format("{} {:<20}  {:<18}  {}\n", row.isMine ? "*" : " ", row.key, row.name, basic::printable(where)));
     if (place.problem.empty()) return;
     const auto why = fmt::format("{}: {}", row.key, place.problem);
     return row.isMine ? console.note(why, Tone::Warning) : console.detail(why);

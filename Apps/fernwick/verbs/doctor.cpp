@@ -4,6 +4,7 @@
 #include "Apps/fernwick/output/plural.h"
 #include "Apps/fernwick/run/interruption.h"
 #include "Apps/fernwick/verbs/verbs.h"
+#include "Basic/printable.h"
 #include <fmt/format.h>
 
 namespace cli {
@@ -72,7 +73,8 @@ void printFindings(const Findings& findings, Verbosity verbosity, Console& conso
     for (const auto& one : findings) width = std::max(width, one.subject.size());
     for (const auto& one : findings) {
         if (verbosity == Verbosity::Quiet && one.state == State::Good) continue;
-        console.out(fmt::format("{:<7}  {:<{}}  {}\n", stateName(one.state), one.subject, width, one.detail));
+        console.out(
+            fmt::format("{:<7}  {:<{}}  {}\n", stateName(one.state), one.subject, width, basic::printable(one.detail)));
         if (!one.fix.empty()) console.out(fmt::format("{:<7}  {:<{}}  -> {}\n", "", "", width, one.fix));
     }
     if (verbosity != Verbosity::Quiet) console.out(closingLine(findings) + "\n");

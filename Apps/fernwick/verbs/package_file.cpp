@@ -5,6 +5,7 @@
 #include "Apps/fernwick/output/json_output.h"
 #include "Apps/fernwick/output/plural.h"
 #include "Apps/fernwick/run/interruption.h"
+#include "Basic/printable.h"
 #include "Components/QLPipe/base/pipe_messages.h"
 #include "Components/QLPipe/package/package.h"
 #include "Components/QLPipe/pipe_family.h"
@@ -76,12 +77,16 @@ Json jsonOfBundle(const std::string& path, const qlpipe::Bundle& bundle) {
     return json;
 }
 
+/// The texts of a package are not trusted: a line feed could imitate a line of this output.
 void printBundle(const qlpipe::Bundle& bundle, Console& console) {
-    console.out(fmt::format("{} {} for {}\n", bundle.displayName, bundle.version, bundle.device));
+    using basic::printable;
+    console.out(fmt::format("{} {} for {}\n", printable(bundle.displayName), printable(bundle.version),
+                            printable(bundle.device)));
     std::size_t width = 0;
     for (const auto& file : bundle.files) width = std::max(width, file.place.size());
-    for (const auto& file : bundle.files) console.out(fmt::format("  {:<{}}  {:>10}\n", file.place, width, file.size));
-    for (const auto& reference : bundle.references) console.out(fmt::format("  needs {}\n", reference));
+    for (const auto& file : bundle.files)
+        console.out(fmt::format("  {:<{}}  {:>10}\n", printable(file.place), width, file.size));
+    for (const auto& reference : bundle.references) console.out(fmt::format("  needs {}\n", printable(reference)));
 }
 
 std::vector<Message> sendPackage(Session& session, const std::string& path, const std::string& device,
@@ -109,14 +114,14 @@ int listPackage(const Options& options, Console& console) {
 int verifyPackage(const Options& options, Console& console) {
     const auto path = packageOperand(options);
     const auto bundle = readPackage(path, [](const qlpipe::Package& package) {
-        package.verify();
+        package.verify(checkInterrupt);
         return package.bundle();
     });
     if (options.format == Format::Json)
         console.out(dumpJson(jsonOfBundle(path, bundle)));
     else
-        console.out(
-            fmt::format("{}: {}, all matching the manifest\n", options.project, plural(bundle.files.size(), "file")));
+        console.out(fmt::format("{}: {}, all matching the manifest\n", basic::printable(options.project),
+                                plural(bundle.files.size(), "file")));
     return kGood;
 }
 

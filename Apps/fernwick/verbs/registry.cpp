@@ -83,7 +83,7 @@ int printValues(const Options& options, Console& console, const std::vector<RegI
         return kGood;
     }
     if (withHeader)
-        console.out(withoutCarriageReturns(host::writeRegText(found, host::RegTextEncoding::Utf8)));
+        console.data(withoutCarriageReturns(host::writeRegText(found, host::RegTextEncoding::Utf8)));
     else if (!found.empty()) // the key is known, so its values are enough
         console.out(linesOf(found) + "\n");
     return kGood;
@@ -106,7 +106,7 @@ int get(const Options& options, Console& console) {
 int change(const Options& options, Console& console, const std::vector<RegInstruction>& instructions,
            const std::string& origin) {
     if (options.dryRun) {
-        console.out(withoutCarriageReturns(host::writeRegText(instructions, host::RegTextEncoding::Utf8)));
+        console.data(withoutCarriageReturns(host::writeRegText(instructions, host::RegTextEncoding::Utf8)));
         return kGood;
     }
     auto store = openStore();

@@ -44,25 +44,15 @@ StoredSetting handheldSetting(std::string qlpipe::LinuxHandheldSettings::*value,
             }};
 }
 
-std::vector<StoredSetting> handheldSettings() {
-    using Settings = qlpipe::LinuxHandheldSettings;
-    return {handheldSetting(&Settings::Host, "HandheldHost", "name or address of the Linux handheld"),
-            handheldSetting(&Settings::Port, "HandheldPort", "port of its SSH server"),
-            handheldSetting(&Settings::User, "HandheldUser", "user on it"),
-            handheldSetting(&Settings::KeyFile, "HandheldKeyFile", "private key for it"),
-            handheldSetting(&Settings::Folder, "HandheldFolder", "where applications go on it"),
-            handheldSetting(&Settings::KnownHosts, "HandheldKnownHosts", "file of known hosts")};
-}
-
-/// The handheld's settings precede the lists that only a build writes.
+/// The handheld's setting precedes the lists that only a build writes.
 std::vector<StoredSetting> makeSettingTable() {
     std::vector<StoredSetting> table;
     const fernwick::ProjectSettings described{nullptr};
     for (const auto* setting : described.settings()) table.push_back(projectSetting(*setting, table.size()));
     const auto builtList = std::find_if(table.begin(), table.end(),
                                         [](const auto& row) { return row.kind == SettingKind::List && !row.write; });
-    auto handheld = handheldSettings();
-    table.insert(builtList, std::make_move_iterator(handheld.begin()), std::make_move_iterator(handheld.end()));
+    table.insert(builtList, handheldSetting(&qlpipe::LinuxHandheldSettings::Folder, "HandheldFolder",
+                                            "where applications go on a Linux handheld"));
     return table;
 }
 

@@ -29,12 +29,14 @@ bool isSafePart(std::string_view part) noexcept {
 }
 
 bool isSafeName(std::string_view name) noexcept {
-    for (;;) {
+    if (name.size() > kLongestName) return false;
+    for (std::size_t parts = 1; parts <= kMostParts; ++parts) {
         const auto end = name.find('/');
         if (!isSafePart(name.substr(0, end))) return false;
         if (end == std::string_view::npos) return true;
         name.remove_prefix(end + 1);
     }
+    return false;
 }
 
 std::string kindOf(std::string_view name) {

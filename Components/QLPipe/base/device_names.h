@@ -12,7 +12,13 @@ std::string withSlashes(std::string name);
 /// characters, and not beginning with a dot. Names with a leading dot are reserved for the storage.
 bool isSafePart(std::string_view part) noexcept;
 
-/// Returns true for a relative name of safe parts, separated by "/".
+/// Longest name of a file on a device, without the folders that Fernwick adds: parts, and bytes.
+inline constexpr std::size_t kMostParts = 32, kLongestName = 1024;
+
+/// Folders inside each other that a device can have; a transfer makes fewer.
+inline constexpr std::size_t kDeepestFolder = 2 * kMostParts;
+
+/// Returns true for a relative name of at most kMostParts safe parts and kLongestName bytes, separated by "/".
 bool isSafeName(std::string_view name) noexcept;
 
 /// Returns the extension without its dot, in upper case, or "".

@@ -1,4 +1,5 @@
 #include "Components/QLPipe/base/message_values.h"
+#include "Basic/printable.h"
 #include <algorithm>
 
 namespace qlpipe {
@@ -11,7 +12,8 @@ std::string fillIn(std::string_view pattern, MessageValues values) {
         if (end == pattern.npos) break;
         const auto name = pattern.substr(begin + 1, end - begin - 1);
         const auto* value = std::ranges::find(values, name, &MessageValue::name);
-        text += value == values.end() ? pattern.substr(begin, end + 1 - begin) : std::string_view(value->text);
+        text +=
+            value == values.end() ? std::string(pattern.substr(begin, end + 1 - begin)) : basic::printable(value->text);
         pattern.remove_prefix(end + 1);
     }
     return text;

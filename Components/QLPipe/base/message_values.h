@@ -14,7 +14,8 @@ struct MessageValue {
 
 using MessageValues = std::initializer_list<MessageValue>;
 
-/// Returns the text with its values filled in. Braces inside a value have no meaning.
+/// Returns the text with its values filled in, as basic::printable shows them, because they come from packages, devices
+/// and file names. Braces inside a value have no meaning.
 [[nodiscard]] std::string fillIn(std::string_view pattern, MessageValues values);
 
 } // namespace qlpipe

@@ -26,6 +26,14 @@ constexpr fernwick::MessageInfo kPipeMessages[] = {
     {shown(kIconMissing), kWarning, "The icon {file} was not found; the device's default icon is used.",
      "The application's icon file did not exist when the project was sent.", "",
      "Choose the icon again on the Application page of the project's settings."},
+    {shown(kProjectSettingsIgnored), kWarning,
+     "The project's settings of the Linux handheld are ignored, except for its folder: {settings}. Only your own "
+     "settings "
+     "determine the connection. Set them with: fernwick devices set {device} NAME=VALUE",
+     "A project file can come from someone else, so it cannot choose the machine, the user or the keys of a "
+     "connection.",
+     "Host=192.168.1.20 in the section Quinloft Linux Handheld of a project file",
+     "Remove these lines from the project file. If they are right, set them with fernwick devices set."},
 
     {kLibraryMissing, kError, "The library {library} is not installed. Install it with: apt-get install {package}",
      "Packages and device connections need libraries that are optional for the rest of the system.",
@@ -62,7 +70,8 @@ constexpr fernwick::MessageInfo kPipeMessages[] = {
      "{file} cannot be sent to the device under the name \"{name}\". Copy the file into the project's folder and give "
      "it a simple name.",
      "Names on a device are relative to the application's folder and must stay inside it: drives, \"..\" and control "
-     "characters are not allowed, nor are more than 255 bytes between two separators.",
+     "characters are not allowed, nor are more than 255 bytes between two separators, 32 folders and names, or 1,024 "
+     "bytes.",
      "..\\Shared\\prices.pdb", "Copy the file into the project's folder."},
     {kFileMissing, kError, "{file} no longer exists. Restore it, or remove it from the dependencies, and try again.",
      "The file was deleted or renamed after the list of files was made.", "", "Restore the file and try again."},
@@ -71,6 +80,11 @@ constexpr fernwick::MessageInfo kPipeMessages[] = {
     {kFileChanged, kError, "{file} changed while it was being sent. Try again when no other program is writing to it.",
      "The file no longer has the content that it had when the transfer began. The device is unchanged.", "",
      "Wait until the other program has finished, then try again."},
+    {kListTooLong, kError,
+     "The list of the application's files has {size}; packages and devices accept at most {limit}. Use fewer files or "
+     "shorter names.",
+     "The manifest of an application, which lists its files, has a maximum size.", "a project with 10,000 dependencies",
+     "Use fewer files, or join small files into one."},
 
     {kDeviceNotServed, kError,
      "{device} is not a device of the family {family}. Choose a design target of this family.",

@@ -29,6 +29,7 @@ enum PipeError : std::int32_t {
     kFileMissing = 20110,
     kFileUnreadable = 20111,
     kFileChanged = 20112,
+    kListTooLong = 20113,
 
     kDeviceNotServed = 20200,
     kDeviceBusy = 20201,
@@ -58,6 +59,8 @@ enum PipeWarning : std::int32_t {
     kFileEmpty = 110,
     kFileLargerThanHeap = 111,
     kIconMissing = 112,
+
+    kProjectSettingsIgnored = 300,
 };
 
 /// Added to a warning's number when it is shown.

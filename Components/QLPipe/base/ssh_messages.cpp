@@ -15,10 +15,8 @@ constexpr fernwick::MessageInfo error(M number, std::string_view text, std::stri
 // number, text, meaning, example, remedy
 constexpr fernwick::MessageInfo kSshMessages[] = {
     error(M::HostNotSet,
-          "The address of the handheld is not set. Set it with: fernwick devices set {device} Host=ADDRESS, or for one "
-          "project with: fernwick settings set PROJECT HandheldHost ADDRESS",
-          "A Linux handheld is reached over the network. Neither the project nor the user's settings contain its "
-          "address.",
+          "The address of the handheld is not set. Set it with: fernwick devices set {device} Host=ADDRESS",
+          "A Linux handheld is reached over the network. The user's settings do not contain its address.",
           "fernwick deploy Game.vbp --device LinuxHandheld-ARM",
           "fernwick devices set LinuxHandheld-ARM Host=192.168.1.20"),
     error(M::SettingInvalid, "Invalid value \"{value}\" for the Linux handheld setting {setting}: {reason}.",
@@ -157,10 +155,8 @@ std::string shellWord(const std::string& path) {
 }
 
 std::string saidByDevice(std::string_view text) {
-    std::string shown{text.substr(0, 200)};
-    for (char& c : shown)
-        if (static_cast<unsigned char>(c) < 0x20 || c == 0x7F) c = '?';
-    return shown;
+    constexpr std::size_t kLongest = 200;
+    return std::string(text.substr(0, kLongest));
 }
 
 } // namespace qlpipe

@@ -53,7 +53,7 @@ enum class SshMessage : std::int32_t {
 /// Quotes a path for a shell command that is shown to the user.
 [[nodiscard]] std::string shellWord(const std::string& path);
 
-/// Makes a text from a device safe to display: replaces control characters with "?" and truncates a long text.
+/// Truncates a long text from a device for a message.
 [[nodiscard]] std::string saidByDevice(std::string_view text);
 
 } // namespace qlpipe

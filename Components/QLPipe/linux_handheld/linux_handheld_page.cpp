@@ -9,8 +9,11 @@ namespace {
 class LinuxHandheldPage final : public IQLPipePage {
 public:
     explicit LinuxHandheldPage(const LinuxHandheldSettings& stored) {
-        for (const auto& [name, value, caption] : kLinuxHandheldSettings)
-            fields_.push_back({kLinuxHandheldSection, name, caption, stored.*value});
+        for (const auto& setting : kLinuxHandheldSettings) {
+            if (!setting.isOfProjects) continue;
+            settings_.push_back(&setting);
+            fields_.push_back({kLinuxHandheldSection, setting.name, setting.caption, stored.*setting.value});
+        }
     }
     std::vector<PipeSetting>& Settings() override { return fields_; }
     bool Visible() const override { return isVisible_; }
@@ -19,21 +22,21 @@ public:
     /// The texts of the fields, in their order.
     LinuxHandheldSettings typed() const {
         LinuxHandheldSettings settings;
-        for (std::size_t i = 0; i < kLinuxHandheldSettings.size(); ++i)
-            settings.*kLinuxHandheldSettings[i].value = fields_[i].Value;
+        for (std::size_t i = 0; i < settings_.size(); ++i) settings.*settings_[i]->value = fields_[i].Value;
         return settings;
     }
 
 private:
+    std::vector<const LinuxHandheldSetting*> settings_;
     std::vector<PipeSetting> fields_;
     bool isVisible_ = false;
 };
 
 /// Stores neither values that a transfer would refuse nor values that a project file cannot contain.
 bool canBeStored(LinuxHandheldSettings settings) {
-    for (const auto& [name, value, caption] : kLinuxHandheldSettings)
+    for (const auto& [name, value, caption, isOfProjects] : kLinuxHandheldSettings)
         if ((settings.*value).find_first_of("\r\n") != std::string::npos) return false;
-    // A project may use the host of the user's settings.
+    // The host is one of the user's settings.
     if (settings.Host.empty()) settings.Host = "handheld";
     try {
         (void)sshTarget(settings, "");

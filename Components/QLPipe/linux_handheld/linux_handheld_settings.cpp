@@ -45,22 +45,37 @@ std::string deviceSettingsKey(const std::string& deviceKey) { return "Software\\
 
 constexpr int kPathFileAccessError = 75;
 
+/// The host raises an error for a missing value.
+std::string projectValue(const vbide::VBProject& project, const char* name) {
+    std::string value;
+    (void)basic::attempt([&] { value = project.ReadProperty(kLinuxHandheldSection, name); });
+    return value;
+}
+
 } // namespace
 
 LinuxHandheldSettings readProjectSettings(const basic::Ref<vbide::VBProject>& project) {
     LinuxHandheldSettings settings;
     if (!project) return settings;
-    for (const auto& [name, value, caption] : kLinuxHandheldSettings)
-        // The host raises an error for a missing value.
-        (void)basic::attempt(
-            [&, name = name, value = value] { settings.*value = project->ReadProperty(kLinuxHandheldSection, name); });
+    for (const auto& setting : kLinuxHandheldSettings)
+        if (setting.isOfProjects) settings.*setting.value = projectValue(*project, setting.name);
     return settings;
+}
+
+std::string ignoredProjectSettings(const basic::Ref<vbide::VBProject>& project) {
+    std::string names;
+    if (!project) return names;
+    for (const auto& setting : kLinuxHandheldSettings)
+        if (!setting.isOfProjects && !projectValue(*project, setting.name).empty())
+            names += (names.empty() ? "" : ", ") + std::string(setting.name);
+    return names;
 }
 
 void writeProjectSettings(const basic::Ref<vbide::VBProject>& project, const LinuxHandheldSettings& settings) {
     const auto stored = readProjectSettings(project);
-    for (const auto& [name, value, caption] : kLinuxHandheldSettings)
-        if (settings.*value != stored.*value) project->WriteProperty(kLinuxHandheldSection, name, settings.*value);
+    for (const auto& [name, value, caption, isOfProjects] : kLinuxHandheldSettings)
+        if (isOfProjects && settings.*value != stored.*value)
+            project->WriteProperty(kLinuxHandheldSection, name, settings.*value);
 }
 
 LinuxHandheldSettings readUserSettings(fernwick::Registry& registry, const std::string& deviceKey) {
@@ -70,7 +85,7 @@ LinuxHandheldSettings readUserSettings(fernwick::Registry& registry, const std::
         handle = 0;
     const OpenKey key{registry, handle};
     LinuxHandheldSettings settings;
-    for (const auto& [name, value, caption] : kLinuxHandheldSettings) settings.*value = key.text(name);
+    for (const auto& [name, value, caption, isOfProjects] : kLinuxHandheldSettings) settings.*value = key.text(name);
     return settings;
 }
 
@@ -81,13 +96,13 @@ void writeUserSettings(fernwick::Registry& registry, const std::string& deviceKe
                                 handle, disposition) != fernwick::ERROR_SUCCESS)
         handle = 0;
     const OpenKey key{registry, handle};
-    for (const auto& [name, value, caption] : kLinuxHandheldSettings)
+    for (const auto& [name, value, caption, isOfProjects] : kLinuxHandheldSettings)
         if (!key || !key.store(name, settings.*value)) throw basic::RuntimeError(kPathFileAccessError);
 }
 
 LinuxHandheldSettings layered(const LinuxHandheldSettings& project, const LinuxHandheldSettings& user) {
     auto settings = user;
-    for (const auto& [name, value, caption] : kLinuxHandheldSettings)
+    for (const auto& [name, value, caption, isOfProjects] : kLinuxHandheldSettings)
         if (!(project.*value).empty()) settings.*value = project.*value;
     return settings;
 }

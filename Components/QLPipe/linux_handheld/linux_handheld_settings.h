@@ -33,22 +33,27 @@ struct LinuxHandheldSetting {
     std::string LinuxHandheldSettings::*value;
     /// The label of its field.
     const char* caption;
+    /// Whether a project may have it. Projects come from anywhere, so they must not choose which machine is reached, nor
+    /// by whom or with which keys.
+    bool isOfProjects = false;
 };
 inline constexpr std::array<LinuxHandheldSetting, 6> kLinuxHandheldSettings{{
     {"Host", &LinuxHandheldSettings::Host, "Name or address:"},
     {"Port", &LinuxHandheldSettings::Port, "Port (22):"},
     {"User", &LinuxHandheldSettings::User, "User:"},
     {"KeyFile", &LinuxHandheldSettings::KeyFile, "Key file:"},
-    {"Folder", &LinuxHandheldSettings::Folder, "Folder on the handheld (fernwick):"},
+    {"Folder", &LinuxHandheldSettings::Folder, "Folder on the handheld (fernwick):", true},
     {"KnownHosts", &LinuxHandheldSettings::KnownHosts, "File of known hosts:"},
 }};
 
 /// The section of the project file with the project's settings.
 inline constexpr char kLinuxHandheldSection[] = "Quinloft Linux Handheld";
 
-/// Reads the settings of a project. Does not raise errors: missing settings are empty.
+/// Reads the settings that a project may have. Does not raise errors: missing settings are empty.
 [[nodiscard]] LinuxHandheldSettings readProjectSettings(const basic::Ref<vbide::VBProject>& project);
-/// Stores the settings that changed. Raises the host's errors.
+/// Returns the names of the other settings that the project file contains: "Host, Port".
+[[nodiscard]] std::string ignoredProjectSettings(const basic::Ref<vbide::VBProject>& project);
+/// Stores the settings that changed and that a project may have. Raises the host's errors.
 void writeProjectSettings(const basic::Ref<vbide::VBProject>& project, const LinuxHandheldSettings& settings);
 
 /// Reads the user's settings, stored in HKEY_CURRENT_USER under "Software\Quinloft\Devices\" and the key of the design

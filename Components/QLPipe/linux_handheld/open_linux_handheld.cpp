@@ -40,12 +40,21 @@ FileDescriptor lockHandheld(const std::string& folder, const std::string& place)
     return lock;
 }
 
+void warnOfIgnoredSettings(const DeviceRequest& request) {
+    const auto names = ignoredProjectSettings(request.project);
+    if (request.warn && !names.empty())
+        request.warn(kProjectSettingsIgnored, {{"settings", names}, {"device", request.device}});
+}
+
 } // namespace
 
-std::unique_ptr<DeviceStorage> openLinuxHandheld(const PipeServices& services, const std::string& deviceName,
-                                                 const basic::Ref<vbide::VBProject>& project) {
-    const auto settings = layered(readProjectSettings(project), readUserSettings(services.registry, deviceName));
-    const auto target = sshTarget(settings, deviceName);
+std::unique_ptr<DeviceStorage> openLinuxHandheld(const PipeServices& services, const DeviceRequest& request) {
+    warnOfIgnoredSettings(request);
+    const auto settings =
+        layered(readProjectSettings(request.project), readUserSettings(services.registry, request.device));
+    const auto target = sshTarget(settings, request.device);
+    if (request.isReadOnly)
+        return std::make_unique<SshStorage>(target, SshTimeouts{}, FileDescriptor{}, SshUse::Read);
     return std::make_unique<SshStorage>(target, SshTimeouts{}, lockHandheld(locksFolder(services), placeOf(target)));
 }
 

@@ -4,6 +4,7 @@
 #include "Components/QLPipe/base/ssh_messages.h"
 #include "Components/QLPipe/linux_handheld/sftp_errors.h"
 #include "Components/QLPipe/linux_handheld/ssh_upload.h"
+#include "Components/QLPipe/package/bundle.h"
 #include <algorithm>
 #include <random>
 
@@ -11,7 +12,7 @@ namespace qlpipe {
 
 namespace {
 
-constexpr std::size_t kLargestRead = 1024 * 1024;
+constexpr std::size_t kLargestRead = kLargestManifest;
 constexpr std::uint32_t kReadBlock = 32 * 1024;
 constexpr std::string_view kOwnerPrefix = ".fernwick-owner-";
 
@@ -30,10 +31,10 @@ std::vector<std::string> pathPrefixes(const std::string& name) {
     return parts;
 }
 
-SshStorage::SshStorage(const SshTarget& target, const SshTimeouts& timeouts, FileDescriptor lock)
+SshStorage::SshStorage(const SshTarget& target, const SshTimeouts& timeouts, FileDescriptor lock, SshUse use)
     : lock_(std::move(lock)), client_(target, timeouts) {
     takeFolder(target.folder);
-    recover();
+    if (use == SshUse::Transfer) recover();
 }
 
 SshStorage::~SshStorage() {

@@ -8,6 +8,9 @@ namespace qlpipe {
 /// Names with this prefix are internal and never listed.
 inline constexpr std::string_view kOwnPrefix = ".fernwick-";
 
+/// What a storage is opened for. Reading changes nothing on the handheld.
+enum class SshUse { Read, Transfer };
+
 /// The storage inside one folder of the handheld. Internal files protect against interruptions and other computers:
 ///
 /// - A file is written as .fernwick-part-HASH and renamed when it is closed.
@@ -19,7 +22,7 @@ class SshStorage final : public DeviceStorage {
 public:
     /// Holds `lock` during the storage's lifetime.
     explicit SshStorage(const SshTarget& target, const SshTimeouts& timeouts = {},
-                        FileDescriptor lock = FileDescriptor{});
+                        FileDescriptor lock = FileDescriptor{}, SshUse use = SshUse::Transfer);
     ~SshStorage() override;
 
     std::string location() const override;
@@ -54,8 +57,15 @@ private:
     void replace(const std::string& from, const std::string& to);
     void recover();
     void putBackOrAway(const std::string& kept);
-    SftpResult removeTree(const std::string& path, int depth = 0);
-    SftpResult removeEntries(const std::string& folder, const std::vector<SftpClient::Entry>& entries, int depth);
+    /// A tree that is being removed. Folders that are too deep for the recursion are moved up to its top first.
+    struct Removal {
+        std::string top;
+        std::size_t moved = 0;
+    };
+    SftpResult removeTree(const std::string& path);
+    SftpResult removeTree(const std::string& path, Removal& removal, std::size_t depth);
+    SftpResult removeEntries(const std::string& folder, const std::vector<SftpClient::Entry>& entries, Removal& removal,
+                             std::size_t depth);
 
     void demand(const SftpResult& result, const char* action, const std::string& path);
 

@@ -8,8 +8,8 @@ namespace qlpipe {
 
 namespace {
 
-/// The maximum depth of folders to remove.
-constexpr int kDeepest = 64;
+/// Begins the names of folders that are moved up to be removed. A number follows.
+constexpr std::string_view kMovedPrefix = ".fernwick-moved-";
 constexpr std::size_t kRemovalsUnderWay = 64;
 /// Holds replaced folders until the new ones are in place.
 constexpr char kReplacedFolder[] = ".fernwick-replaced";
@@ -91,15 +91,27 @@ void SshStorage::remove(const std::string& name) {
     demand(removeTree(pathOf(name)), "remove", pathOf(name));
 }
 
-SftpResult SshStorage::removeTree(const std::string& path, int depth) {
-    if (depth > kDeepest) return {kSftpFailure, "its folders are nested too deeply"};
+SftpResult SshStorage::removeTree(const std::string& path) {
+    Removal removal{path};
+    for (;;) {
+        const auto before = removal.moved;
+        auto result = removeTree(path, removal, 0);
+        if (!result || removal.moved == before) return result;
+    }
+}
+
+SftpResult SshStorage::removeTree(const std::string& path, Removal& removal, std::size_t depth) {
+    if (depth > kDeepestFolder)
+        return client_.rename(path, removal.top + "/" + std::string(kMovedPrefix) + std::to_string(removal.moved++));
     SftpAttributes found;
+    const auto moved = removal.moved;
     auto result = client_.lstat(path, found);
     if (result && found.isFolder()) {
         std::vector<SftpClient::Entry> entries;
         result = client_.list(path, entries);
-        if (result) result = removeEntries(path, entries, depth);
-        if (result) result = client_.removeFolder(path);
+        if (result) result = removeEntries(path, entries, removal, depth);
+        const bool isTopToBeRepeated = depth == 0 && removal.moved != moved;
+        if (result && !isTopToBeRepeated) result = client_.removeFolder(path);
     } else if (result)
         result = client_.awaitResult(client_.startRemove(path));
     // Another transfer has already removed it.
@@ -107,7 +119,7 @@ SftpResult SshStorage::removeTree(const std::string& path, int depth) {
 }
 
 SftpResult SshStorage::removeEntries(const std::string& folder, const std::vector<SftpClient::Entry>& entries,
-                                     int depth) {
+                                     Removal& removal, std::size_t depth) {
     SftpResult first;
     std::vector<SftpClient::Request> requests;
     const auto awaitAll = [&] {
@@ -119,7 +131,7 @@ SftpResult SshStorage::removeEntries(const std::string& folder, const std::vecto
     for (const auto& [name, attributes] : entries) {
         const auto path = folder + "/" + name;
         if (attributes.isFolder() || attributes.permissions == 0) {
-            if (auto result = removeTree(path, depth + 1); !result && first) first = std::move(result);
+            if (auto result = removeTree(path, removal, depth + 1); !result && first) first = std::move(result);
         } else
             requests.push_back(client_.startRemove(path));
         if (requests.size() == kRemovalsUnderWay) awaitAll();

@@ -32,8 +32,10 @@ inline constexpr char kFilesFolder[] = "files/";
 inline constexpr char kFontsFolder[] = "fonts/";
 inline constexpr char kIconPlace[] = "icon.ico";
 inline constexpr char kManifestName[] = "manifest.json";
-/// Bytes; a larger manifest is refused unread.
+/// Bytes; a larger manifest is neither written nor read.
 inline constexpr std::int64_t kLargestManifest = 1024 * 1024;
+/// Bytes of one file, for writers and readers.
+inline constexpr std::int64_t kLargestFile = std::int64_t{1} << 40;
 
 struct Bundle {
     /// The runtime has only a version and files.
@@ -56,6 +58,12 @@ std::string writeManifest(const Bundle& bundle);
 
 /// Returns the size of the manifest in bytes. The checksums need not be known yet.
 std::int64_t manifestSize(Bundle bundle);
+
+/// Throws TransferError for a bundle that readers would refuse because of its size.
+void needReadable(const Bundle& bundle);
+
+/// Returns the place of a file that is also the folder of another file, regardless of letter case; "" for none.
+std::string fileUsedAsFolder(const std::vector<BundleFile>& files);
 
 /// Thrown for an invalid manifest.
 struct ManifestProblem {

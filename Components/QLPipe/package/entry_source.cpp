@@ -3,7 +3,6 @@
 #include "Components/QLPipe/base/pipe_texts.h"
 #include <cerrno>
 #include <cstring>
-#include <utility>
 
 namespace qlpipe {
 
@@ -26,7 +25,7 @@ zip_int64_t EntrySource::answer(void* data, zip_uint64_t length, zip_source_cmd_
     switch (command) {
     case ZIP_SOURCE_OPEN: return kept([&] { return begin(); });
     case ZIP_SOURCE_READ: return kept([&] { return read(static_cast<char*>(data), length); });
-    case ZIP_SOURCE_CLOSE: reader_.reset(); return 0;
+    case ZIP_SOURCE_CLOSE: return 0;
     case ZIP_SOURCE_STAT: return state(static_cast<zip_stat_t*>(data));
     case ZIP_SOURCE_ERROR: return readError(data, length);
     case ZIP_SOURCE_FREE: return 0;
@@ -46,27 +45,33 @@ zip_int64_t EntrySource::kept(Step&& step) noexcept {
 }
 
 zip_int64_t EntrySource::begin() {
-    reader_ = file_.open();
-    checksum_ = {};
-    ended_ = false;
     progress_.setStatus(fillIn(pipe_texts::kPacking, {{"file", std::string(file_.title())}}));
     return 0;
 }
 
-/// Fails if the file no longer matches the checksum in the manifest, which was written first.
 zip_int64_t EntrySource::read(char* data, zip_uint64_t length) {
-    const auto count = reader_->read({data, std::size_t(length)});
-    checksum_.add({data, count});
-    const bool ends = count == 0 && !std::exchange(ended_, true);
-    if (ends && checksum_.hex() != file_.sha256) throw transferError(kFileChanged, {{"file", file_.place}});
-    progress_.moved(std::int64_t(count));
+    while (given_ == block_.bytes.size() && !block_.isLast) takeBlock();
+    const auto count = block_.bytes.copy(data, std::size_t(length), given_);
+    given_ += count;
     return zip_int64_t(count);
 }
 
+void EntrySource::takeBlock() {
+    block_ = blocks_.take([] {}).value();
+    given_ = 0;
+    progress_.moved(block_.unpackedSize);
+}
+
+/// libzip writes the entry as it is if its method is known, and asks for the CRC at the end.
 zip_int64_t EntrySource::state(zip_stat_t* stat) const noexcept {
     *stat = {};
-    stat->valid = ZIP_STAT_SIZE;
+    stat->valid = ZIP_STAT_SIZE | ZIP_STAT_COMP_METHOD;
     stat->size = zip_uint64_t(file_.size);
+    stat->comp_method = ZIP_CM_DEFLATE;
+    if (block_.isLast) {
+        stat->valid |= ZIP_STAT_CRC;
+        stat->crc = block_.crc;
+    }
     return sizeof *stat;
 }
 

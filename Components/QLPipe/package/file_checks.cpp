@@ -11,8 +11,6 @@ namespace qlpipe {
 namespace {
 
 constexpr char kCompilerVersion[] = "3.5.0 (0624)";
-/// Larger images are not read, regardless of the platform.
-constexpr std::int64_t kLargestImage = 256 * 1024 * 1024;
 
 /// Finds the problems of one listing.
 class FileChecks {
@@ -55,7 +53,7 @@ private:
     }
 
     void checkImage(const ListedFile& file) {
-        const auto most = std::min(limits_.imageBytes.value_or(kLargestImage), kLargestImage);
+        const auto most = std::min(limits_.imageBytes.value_or(image::kLargestImage), image::kLargestImage);
         if (file.size > most)
             return error(kImageTooLarge,
                          {{"file", file.name},
@@ -64,7 +62,7 @@ private:
                           {"limit", bytesInWords(most)}},
                          file.path);
         try {
-            const auto version = image::decode(readWhole(file)).compilerVersion;
+            const std::string version = image::decode(readWhole(file)).compilerVersion;
             if (version != kCompilerVersion)
                 error(kImageOfOtherCompiler,
                       {{"file", file.name}, {"version", version}, {"required", kCompilerVersion}}, file.path);
@@ -134,9 +132,9 @@ private:
     }
 
     static std::string readWhole(const ListedFile& file) {
-        LocalFile reader{file.path, file.size};
+        const auto reader = file.open();
         std::string bytes(std::size_t(file.size), '\0');
-        for (std::size_t at = 0; at < bytes.size();) at += reader.read(std::span{bytes}.subspan(at));
+        for (std::size_t at = 0; at < bytes.size();) at += reader->read(std::span{bytes}.subspan(at));
         return bytes;
     }
 

@@ -84,6 +84,7 @@ std::string placeOnDevice(const Bundle& bundle, const BundleFile& file) {
 }
 
 void install(DeviceStorage& device, Bundle bundle, Progress& progress) {
+    needReadable(bundle);
     needRoom(device, bundle);
     device.remove(kStagingFolder);
     try {

@@ -16,7 +16,15 @@ ListedFile listFile(const std::string& path, const std::string& resource) {
     auto name = withSlashes(resource);
     if (!isSafeName(name)) throw transferError(kUnsafeName, {{"file", path}, {"name", resource}});
     const auto kind = kindOfFile(name);
-    return {path, std::move(name), kind, sizeOfLocalFile(path)};
+    const auto size = sizeOfLocalFile(path);
+    return {path, std::move(name), kind, size, [path, size] { return std::make_unique<LocalFile>(path, size); }};
+}
+
+/// What is named like an image must be one, whatever the manifest says.
+ListedFile listFile(const std::string& package, const BundleFile& file) {
+    auto name = file.place.substr(file.place.find('/') + 1);
+    const auto kind = kindOfFile(name) == FileKind::Image ? FileKind::Image : file.kind;
+    return {package, std::move(name), kind, file.size, file.open};
 }
 
 } // namespace
@@ -35,6 +43,14 @@ FileListing listFiles(const fernwick::FileSystemObject& files, const ProjectFile
             listing.files.push_back(listFile(files.Canonical(entry), resource));
         } catch (const TransferError& error) { listing.findings.push_back({true, error.number, error.text, entry}); }
     }
+    return listing;
+}
+
+FileListing listFiles(const Bundle& bundle, const std::string& package) {
+    FileListing listing;
+    listing.references = bundle.references;
+    for (const auto& file : bundle.files)
+        if (file.kind != FileKind::Icon) listing.files.push_back(listFile(package, file));
     return listing;
 }
 

@@ -9,14 +9,15 @@
 
 namespace qlpipe {
 
-/// One file of the project.
+/// One file of the project or of a package.
 struct ListedFile {
-    /// Path on the development machine.
+    /// Path on the development machine, of the package for a file inside it.
     std::string path;
     /// Name on the device, with "/" as separator.
     std::string name;
     FileKind kind;
     std::int64_t size;
+    std::function<std::unique_ptr<ByteReader>()> open;
 };
 
 /// An error or a warning about a file.
@@ -38,6 +39,9 @@ struct FileListing {
 
 /// Returns the files of the two lists. A file that cannot be sent at all becomes a finding instead.
 FileListing listFiles(const fernwick::FileSystemObject& files, const ProjectFiles& project);
+
+/// Returns the files of a package, which are checked like those of a project.
+FileListing listFiles(const Bundle& bundle, const std::string& package);
 
 /// Adds the findings for devices with these limits, in the order of the files.
 void checkFiles(const TargetLimits& limits, FileListing& listing);

@@ -1,5 +1,6 @@
 #include "Basic/case_folding.h"
 #include "Components/QLPipe/base/device_names.h"
+#include "Components/QLPipe/base/pipe_messages.h"
 #include "Components/QLPipe/base/sha256.h"
 #include "Components/QLPipe/package/bundle.h"
 #include <algorithm>
@@ -13,7 +14,6 @@ namespace {
 using Json = nlohmann::ordered_json;
 
 constexpr int kManifestVersion = 1;
-constexpr std::int64_t kLargestFile = std::int64_t{1} << 40;
 constexpr int kIndent = 2;
 
 struct KindName {
@@ -102,6 +102,8 @@ void readFiles(const Json& object, Bundle& bundle) {
         const auto& place = bundle.files.back().place;
         if (!places.insert(place).second) malformed(place + " is listed twice");
     }
+    if (const auto place = fileUsedAsFolder(bundle.files); !place.empty())
+        malformed(place + " is both a file and a folder");
 }
 
 void readApplication(const Json& object, Bundle& bundle) {
@@ -144,6 +146,26 @@ Json filesOf(const Bundle& bundle) {
 std::int64_t Bundle::bytes() const {
     return std::accumulate(files.begin(), files.end(), std::int64_t{0},
                            [](std::int64_t sum, const BundleFile& file) { return sum + file.size; });
+}
+
+void needReadable(const Bundle& bundle) {
+    if (const auto size = manifestSize(bundle); size > kLargestManifest)
+        throw transferError(kListTooLong, {{"size", bytesInWords(size)}, {"limit", bytesInWords(kLargestManifest)}});
+    for (const auto& file : bundle.files)
+        if (file.size > kLargestFile)
+            throw transferError(kFileTooLarge, {{"file", file.place},
+                                                {"size", bytesInWords(file.size)},
+                                                {"platform", bundle.device},
+                                                {"limit", bytesInWords(kLargestFile)}});
+}
+
+std::string fileUsedAsFolder(const std::vector<BundleFile>& files) {
+    std::set<std::string, basic::NoCaseLess> folders;
+    for (const auto& file : files)
+        for (auto folder = folderOf(file.place); !folder.empty(); folder = folderOf(folder)) folders.insert(folder);
+    const auto found =
+        std::find_if(files.begin(), files.end(), [&](const BundleFile& file) { return folders.contains(file.place); });
+    return found == files.end() ? std::string() : found->place;
 }
 
 std::string writeManifest(const Bundle& bundle) {

@@ -1,8 +1,10 @@
 #include "Components/QLPipe/package/package.h"
 #include "Components/QLPipe/base/pipe_messages.h"
 #include "Components/QLPipe/base/sha256.h"
+#include "Components/QLPipe/package/zip_headers.h"
 #include "Components/QLPipe/package/zip_library.h"
 #include <filesystem>
+#include <fstream>
 #include <map>
 #include <utility>
 
@@ -22,25 +24,16 @@ public:
         std::string reason;
         std::error_code ignored;
         // Reading from a FIFO could block forever.
-        if (!std::filesystem::is_regular_file(path, ignored))
-            throw transferError(kPackageUnreadable, {{"package", path_}, {"reason", "the file does not exist"}});
+        if (!std::filesystem::is_regular_file(path, ignored)) refuse("the file does not exist");
         archive_ = openZip(path, ZIP_RDONLY | ZIP_CHECKCONS, reason);
-        if (!archive_) throw transferError(kPackageUnreadable, {{"package", path_}, {"reason", reason}});
+        if (!archive_) refuse(reason);
+        entries_ = listEntries();
+        std::ifstream file{path, std::ios::binary};
+        if (!headersAgree(file, entries_)) refuse("its lists of entries do not agree");
     }
 
     /// Returns the entries in the order of the archive.
-    std::vector<std::pair<std::string, std::int64_t>> entries() const {
-        std::vector<std::pair<std::string, std::int64_t>> found;
-        const auto count = zip_.get_num_entries(archive_.get(), 0);
-        for (zip_int64_t i = 0; i < count; ++i) {
-            zip_stat_t state{};
-            if (zip_.stat_index(archive_.get(), zip_uint64_t(i), ZIP_FL_ENC_RAW, &state) != 0) unreadable();
-            constexpr auto kNeeded = ZIP_STAT_NAME | ZIP_STAT_SIZE;
-            if ((state.valid & kNeeded) != kNeeded) unreadable();
-            found.emplace_back(state.name, std::int64_t(state.size));
-        }
-        return found;
-    }
+    const std::vector<ZipEntry>& entries() const { return entries_; }
 
     using File = std::unique_ptr<zip_file_t, ZipFileClose>;
     File openEntry(std::size_t index) const {
@@ -50,21 +43,34 @@ public:
     }
     std::size_t read(zip_file_t* file, std::span<char> buffer) const {
         const auto count = zip_.fread(file, buffer.data(), buffer.size());
-        if (count < 0)
-            throw transferError(kPackageUnreadable, {{"package", path_}, {"reason", "an entry cannot be unpacked"}});
+        if (count < 0) refuse("an entry cannot be unpacked");
         return std::size_t(count);
     }
 
     const std::string& path() const { return path_; }
 
 private:
-    [[noreturn]] void unreadable() const {
-        throw transferError(kPackageUnreadable, {{"package", path_}, {"reason", zipReason(archive_.get())}});
+    std::vector<ZipEntry> listEntries() const {
+        std::vector<ZipEntry> found;
+        const auto count = zip_.get_num_entries(archive_.get(), 0);
+        for (zip_int64_t i = 0; i < count; ++i) {
+            zip_stat_t state{};
+            if (zip_.stat_index(archive_.get(), zip_uint64_t(i), ZIP_FL_ENC_RAW, &state) != 0) unreadable();
+            constexpr auto kNeeded = ZIP_STAT_NAME | ZIP_STAT_SIZE | ZIP_STAT_COMP_SIZE;
+            if ((state.valid & kNeeded) != kNeeded) unreadable();
+            found.push_back({state.name, std::int64_t(state.size), std::int64_t(state.comp_size)});
+        }
+        return found;
+    }
+    [[noreturn]] void unreadable() const { refuse(zipReason(archive_.get())); }
+    [[noreturn]] void refuse(const std::string& reason) const {
+        throw transferError(kPackageUnreadable, {{"package", path_}, {"reason", reason}});
     }
 
     const ZipLibrary& zip_ = zipLibrary();
     std::string path_;
     ZipArchive archive_;
+    std::vector<ZipEntry> entries_;
 };
 
 namespace {
@@ -101,16 +107,20 @@ private:
 };
 
 std::string readManifestEntry(const Archive& archive) {
-    const auto entries = archive.entries();
-    if (entries.empty() || entries.front().first != kManifestName)
+    const auto& entries = archive.entries();
+    if (entries.empty() || entries.front().name != kManifestName)
         throw transferError(kPackageManifest, {{"package", archive.path()}, {"reason", "it is not the first entry"}});
-    const auto size = entries.front().second;
+    const auto size = entries.front().size;
     if (size < 0 || size > kLargestManifest)
-        throw transferError(kPackageManifest, {{"package", archive.path()}, {"reason", "it is larger than 1 MB"}});
+        throw transferError(kPackageManifest, {{"package", archive.path()},
+                                               {"reason", "it has more than " + bytesInWords(kLargestManifest)}});
     const auto file = archive.openEntry(0);
-    std::string text(std::size_t(size), '\0');
+    // One byte more, so that the end is read, where libzip compares the checksum.
+    std::string text(std::size_t(size) + 1, '\0');
     std::size_t done = 0;
     while (const auto count = archive.read(file.get(), std::span{text}.subspan(done))) done += count;
+    if (done != std::size_t(size))
+        throw transferError(kPackageEntryChanged, {{"package", archive.path()}, {"entry", kManifestName}});
     text.resize(done);
     return text;
 }
@@ -141,9 +151,9 @@ std::map<std::string, std::size_t> matchEntries(const Archive& archive, const Bu
     std::map<std::string, std::int64_t> sizes;
     for (const auto& file : bundle.files) sizes.emplace(file.place, file.size);
     std::map<std::string, std::size_t> positions;
-    const auto entries = archive.entries();
+    const auto& entries = archive.entries();
     for (std::size_t i = 1; i < entries.size(); ++i) {
-        const auto& [name, size] = entries[i];
+        const auto& [name, size, packedSize] = entries[i];
         const auto named = sizes.find(name);
         if (named == sizes.end() || !positions.emplace(name, i).second)
             throw transferError(kPackageEntryExtra, {{"package", archive.path()}, {"entry", name}});
@@ -171,10 +181,10 @@ Package::~Package() = default;
 
 const std::string& Package::path() const { return archive_->path(); }
 
-void Package::verify() const {
+void Package::verify(const std::function<void()>& pause) const {
     std::vector<char> buffer(kChunkBytes);
     for (const auto& file : bundle_.files)
-        for (const auto reader = file.open(); reader->read(buffer) != 0;) {}
+        for (const auto reader = file.open(); reader->read(buffer) != 0;) pause();
 }
 
 } // namespace qlpipe

@@ -17,8 +17,9 @@ public:
     /// Returns its content. Files can be opened one at a time, as long as the result or the package exists.
     const Bundle& bundle() const { return bundle_; }
     const std::string& path() const;
-    /// Reads all files. Throws TransferError for the first one that does not match the manifest.
-    void verify() const;
+    /// Reads all files and calls `pause` now and then, which may throw. Throws TransferError for the first file that does
+    /// not match the manifest.
+    void verify(const std::function<void()>& pause = [] {}) const;
 
     class Archive;
 

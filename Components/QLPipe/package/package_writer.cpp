@@ -16,7 +16,6 @@ namespace {
 /// 1980-01-01 00:00, the earliest time in the zip format.
 constexpr zip_uint16_t kDosTime = 0, kDosDate = (1 << 5) | 1;
 constexpr zip_uint32_t kAttributes = zip_uint32_t{S_IFREG | 0644} << 16;
-constexpr zip_uint32_t kLevel = 6;
 
 /// Bytes in memory.
 class TextReader final : public ByteReader {
@@ -41,16 +40,16 @@ BundleFile manifestEntry(const std::string& text) {
 
 class PackageWriter {
 public:
-    PackageWriter(const std::string& target, Progress& progress)
-        : target_(target), progress_(progress), unfinished_(target) {
+    PackageWriter(const std::string& target, PackedBlocks& blocks, Progress& progress)
+        : target_(target), blocks_(blocks), progress_(progress), unfinished_(target) {
         std::string reason;
         archive_ = openZip(unfinished_.path(), ZIP_CREATE | ZIP_TRUNCATE, reason);
         if (!archive_) packageNotWritten(target_, reason);
     }
 
-    /// `file` must outlive this object.
+    /// `file` must outlive this object. Files are added in the order of their blocks.
     void add(const BundleFile& file) {
-        auto& entry = sources_.emplace_back(file, progress_, failure_);
+        auto& entry = sources_.emplace_back(file, blocks_, progress_, failure_);
         zip_source_t* source = zip_.source_function(archive_.get(), EntrySource::serve, &entry);
         if (!source) fail();
         const auto index = zip_.file_add(archive_.get(), file.place.c_str(), source, ZIP_FL_ENC_UTF_8);
@@ -59,13 +58,12 @@ public:
             fail();
         }
         const auto at = zip_uint64_t(index);
-        if (zip_.set_file_compression(archive_.get(), at, ZIP_CM_DEFLATE, kLevel) != 0 ||
-            zip_.file_set_dostime(archive_.get(), at, kDosTime, kDosDate, 0) != 0 ||
+        if (zip_.file_set_dostime(archive_.get(), at, kDosTime, kDosDate, 0) != 0 ||
             zip_.file_set_external_attributes(archive_.get(), at, 0, ZIP_OPSYS_UNIX, kAttributes) != 0)
             fail();
     }
 
-    /// Makes libzip read, pack and write all entries.
+    /// Makes libzip write all entries.
     void finish() {
         if (zip_.close(archive_.get()) != 0) fail();
         archive_.release();
@@ -80,6 +78,7 @@ private:
 
     const ZipLibrary& zip_ = zipLibrary();
     std::string target_;
+    PackedBlocks& blocks_;
     Progress& progress_;
     UnfinishedPackage unfinished_;
     std::exception_ptr failure_;
@@ -87,30 +86,26 @@ private:
     ZipArchive archive_;
 };
 
-void addChecksum(BundleFile& file, std::span<char> buffer, Progress& progress) {
-    progress.setStatus(fillIn(pipe_texts::kReading, {{"file", std::string(file.title())}}));
-    const auto reader = file.open();
-    Sha256 checksum;
-    while (const auto count = reader->read(buffer)) {
-        checksum.add({buffer.data(), count});
-        progress.moved(std::int64_t(count));
-    }
-    file.sha256 = checksum.hex();
-}
-
 } // namespace
 
 std::string packageName(const Bundle& bundle) { return bundle.project + "." + bundle.device + ".qlpkg"; }
 
-void writePackage(const std::string& path, Bundle bundle, IQLPipeEvents* sink) {
+void writePackage(const std::string& path, Bundle bundle, IQLPipeEvents* sink, unsigned threads) {
+    needReadable(bundle);
     Progress progress{sink, 2 * bundle.bytes() + manifestSize(bundle)};
-    std::vector<char> buffer(kChunkBytes);
-    for (auto& file : bundle.files) addChecksum(file, buffer, progress);
+    addChecksums(
+        bundle.files, threads,
+        [&](const BundleFile& file) {
+            progress.setStatus(fillIn(pipe_texts::kReading, {{"file", std::string(file.title())}}));
+        },
+        [&](std::int64_t bytes) { progress.moved(bytes); });
     const auto manifest = writeManifest(bundle);
     const auto first = manifestEntry(manifest);
-    PackageWriter writer{path, progress};
-    writer.add(first);
-    for (const auto& file : bundle.files) writer.add(file);
+    std::vector<const BundleFile*> files{&first};
+    for (const auto& file : bundle.files) files.push_back(&file);
+    PackedBlocks blocks{threads, blocksOf(files)};
+    PackageWriter writer{path, blocks, progress};
+    for (const auto* file : files) writer.add(*file);
     writer.finish();
 }
 

@@ -6,14 +6,12 @@
 namespace qlpipe {
 namespace {
 
-BundleFile bundleFile(FileKind kind, std::string place, const std::string& path, std::int64_t size) {
-    return {kind, std::move(place), size, {}, [path, size] { return std::make_unique<LocalFile>(path, size); }};
-}
-
 void addIcon(Bundle& bundle, FileListing& listing, const std::string& path) {
     if (path.empty()) return;
     try {
-        bundle.files.push_back(bundleFile(FileKind::Icon, kIconPlace, path, sizeOfLocalFile(path)));
+        const auto size = sizeOfLocalFile(path);
+        bundle.files.push_back(
+            {FileKind::Icon, kIconPlace, size, {}, [path, size] { return std::make_unique<LocalFile>(path, size); }});
     } catch (const TransferError&) {
         // Applications also run without an icon.
         listing.findings.push_back(
@@ -35,7 +33,7 @@ Bundle projectBundle(FileListing& listing, const ApplicationInfo& application, c
     std::sort(bundle.references.begin(), bundle.references.end());
     for (const auto& file : listing.files) {
         const auto folder = file.kind == FileKind::Font ? kFontsFolder : kFilesFolder;
-        bundle.files.push_back(bundleFile(file.kind, folder + file.name, file.path, file.size));
+        bundle.files.push_back({file.kind, folder + file.name, file.size, {}, file.open});
     }
     addIcon(bundle, listing, application.TempIconFile);
     std::sort(bundle.files.begin(), bundle.files.end(),

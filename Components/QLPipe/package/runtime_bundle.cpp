@@ -36,7 +36,7 @@ void addFiles(Bundle& bundle, const fs::path& list, const fs::path& folder,
         bundle.files.push_back(runtimeFile(list, folder, name.value_or(std::string())));
 }
 
-/// Refuses two files with the same place.
+/// Refuses two files with the same place, and a file in the place of a folder.
 void sortFiles(Bundle& bundle, const fs::path& list) {
     auto& files = bundle.files;
     std::sort(files.begin(), files.end(),
@@ -44,6 +44,8 @@ void sortFiles(Bundle& bundle, const fs::path& list) {
     const auto twice = std::adjacent_find(
         files.begin(), files.end(), [](const auto& a, const auto& b) { return basic::equalNoCase(a.place, b.place); });
     if (twice != files.end()) unusable(list, "\"" + twice->place + "\" is listed twice");
+    if (const auto place = fileUsedAsFolder(files); !place.empty())
+        unusable(list, "\"" + place + "\" is both a file and a folder");
 }
 
 } // namespace

@@ -20,7 +20,6 @@ struct ZipLibrary {
     decltype(&::zip_source_function) source_function = library["zip_source_function"];
     decltype(&::zip_source_free) source_free = library["zip_source_free"];
     decltype(&::zip_file_add) file_add = library["zip_file_add"];
-    decltype(&::zip_set_file_compression) set_file_compression = library["zip_set_file_compression"];
     decltype(&::zip_file_set_dostime) file_set_dostime = library["zip_file_set_dostime"];
     decltype(&::zip_file_set_external_attributes) file_set_external_attributes =
         library["zip_file_set_external_attributes"];

@@ -10,7 +10,7 @@ namespace qlpipe {
 /// without following links, so everything opened is inside the root regardless of what other programs do.
 class FolderHandle {
 public:
-    /// The root is the open `folder`. `location` is its name in errors.
+    /// The root is the open `folder`, or a folder that does not exist if that is empty. `location` is its name in errors.
     FolderHandle(FileDescriptor folder, std::string location)
         : folder_(std::move(folder)), location_(std::move(location)) {}
 

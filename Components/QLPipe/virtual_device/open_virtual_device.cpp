@@ -15,10 +15,11 @@ std::string devicesFolder(const PipeServices& services) {
 
 } // namespace
 
-std::unique_ptr<DeviceStorage> openVirtualDevice(const PipeServices& services, const std::string& deviceName,
-                                                 const basic::Ref<vbide::VBProject>&) {
-    return std::make_unique<VirtualDevice>(devicesFolder(services) + "/" + deviceName,
-                                           limitsOf(services.classes, deviceName).storageBytes);
+std::unique_ptr<DeviceStorage> openVirtualDevice(const PipeServices& services, const DeviceRequest& request) {
+    const auto folder = devicesFolder(services) + "/" + request.device;
+    const auto memory = limitsOf(services.classes, request.device).storageBytes;
+    if (request.isReadOnly) return VirtualDevice::openToRead(folder, memory);
+    return std::make_unique<VirtualDevice>(folder, memory);
 }
 
 } // namespace qlpipe

@@ -27,26 +27,54 @@ std::string replacedName(const std::string& name) {
            std::string(kReplacedEnd);
 }
 
+/// Returns the original name, or "" for a name that replacedName does not produce, such as ".old" or "..old".
+std::string replacedTitle(std::string_view name) {
+    if (!name.starts_with(kReplacedBegin) || !name.ends_with(kReplacedEnd)) return {};
+    if (name.size() <= kReplacedBegin.size() + kReplacedEnd.size()) return {};
+    name.remove_prefix(kReplacedBegin.size());
+    name.remove_suffix(kReplacedEnd.size());
+    return isSafePart(name) ? std::string(name) : std::string();
+}
+
 /// The path to the device's folder may contain links, but the folder itself must not be one.
 FolderHandle openRoot(const std::string& path) {
+    FileDescriptor folder{::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC)};
+    const int error = errno;
+    const bool isKnown = folder || error == ENOENT;
+    FolderHandle root{std::move(folder), path};
+    if (!isKnown) root.fail(error, "");
+    return root;
+}
+
+FolderHandle makeRoot(const std::string& path) {
     std::error_code failed;
     std::filesystem::create_directories(path, failed);
     if (failed) throw transferError(kStorageFailed, {{"path", path}, {"reason", failed.message()}});
-    FileDescriptor folder{::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC)};
-    const int error = errno;
-    const bool isOpen = bool(folder);
-    FolderHandle root{std::move(folder), path};
-    if (!isOpen) root.fail(error, "");
-    return root;
+    return openRoot(path);
+}
+
+/// Returns the bytes that are free on the disk of a path, whose last parts need not exist; -1 if unknown.
+std::int64_t freeOnDisk(std::filesystem::path path) {
+    struct statvfs disk {};
+    while (::statvfs(path.c_str(), &disk) != 0) {
+        if (errno != ENOENT || !path.has_relative_path()) return -1;
+        path = path.parent_path();
+    }
+    return std::int64_t(disk.f_bavail) * std::int64_t(disk.f_frsize);
 }
 
 } // namespace
 
 VirtualDevice::VirtualDevice(const std::string& folder, std::optional<std::int64_t> memory,
                              std::chrono::milliseconds patience)
-    : root_(openRoot(folder)), memory_(memory) {
+    : root_(makeRoot(folder)), memory_(memory) {
     lock(patience);
     recover();
+}
+
+std::unique_ptr<VirtualDevice> VirtualDevice::openToRead(const std::string& folder,
+                                                         std::optional<std::int64_t> memory) {
+    return std::unique_ptr<VirtualDevice>(new VirtualDevice{openRoot(folder), memory});
 }
 
 void VirtualDevice::lock(std::chrono::milliseconds patience) {
@@ -71,10 +99,10 @@ void VirtualDevice::recover() {
 /// Undoes a replacement that was interrupted between its two renames; completes one that lacks only the removal.
 void VirtualDevice::recoverFolder(const std::string& folder) {
     for (const auto& name : list(folder)) {
-        if (!name.starts_with(kReplacedBegin) || !name.ends_with(kReplacedEnd)) continue;
+        const auto title = replacedTitle(name);
+        if (title.empty()) continue;
         const auto prefix = folder.empty() ? "" : folder + "/";
-        const auto middle = name.size() - kReplacedBegin.size() - kReplacedEnd.size();
-        const auto original = prefix + name.substr(kReplacedBegin.size(), middle);
+        const auto original = prefix + title;
         if (exists(original))
             remove(prefix + name);
         else
@@ -84,14 +112,13 @@ void VirtualDevice::recoverFolder(const std::string& folder) {
 
 /// Limited by the free space of the disk.
 std::int64_t VirtualDevice::freeSpaceFor(const std::string& folder) {
-    struct statvfs disk {};
-    const bool known = ::fstatvfs(lock_.get(), &disk) == 0;
-    const auto onDisk = known ? std::int64_t(disk.f_bavail) * std::int64_t(disk.f_frsize) : -1;
+    const auto onDisk = freeOnDisk(location());
     if (!memory_) return onDisk;
-    std::int64_t used = -root_.bytesBelow(folder);
+    // What an interrupted transfer left does not count, because the next one removes it.
+    std::int64_t used = folder == kStagingFolder ? 0 : -root_.bytesBelow(folder);
     for (const char* part : {kApplicationsFolder, kDeviceFontsFolder, kRuntimeFolder}) used += root_.bytesBelow(part);
     const auto inMemory = std::max<std::int64_t>(*memory_ - used, 0);
-    return known ? std::min(inMemory, onDisk) : inMemory;
+    return onDisk >= 0 ? std::min(inMemory, onDisk) : inMemory;
 }
 
 std::string VirtualDevice::read(const std::string& file) {

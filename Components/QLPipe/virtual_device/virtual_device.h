@@ -1,14 +1,10 @@
 #pragma once
 // A device that is simulated by a folder on this machine.
+#include "Components/QLPipe/base/device_request.h"
 #include "Components/QLPipe/base/device_storage.h"
-#include "Components/QLPipe/base/pipe_services.h"
 #include "Components/QLPipe/virtual_device/folder_handle.h"
 #include <chrono>
 #include <optional>
-
-namespace vbide {
-class VBProject;
-}
 
 namespace qlpipe {
 
@@ -22,6 +18,9 @@ public:
     VirtualDevice(const std::string& folder, std::optional<std::int64_t> memory,
                   std::chrono::milliseconds patience = kUsualPatience);
 
+    /// Opens the device for reading, also while a transfer uses it, and changes nothing, not even if it does not exist.
+    static std::unique_ptr<VirtualDevice> openToRead(const std::string& folder, std::optional<std::int64_t> memory);
+
     std::string location() const override { return root_.location(); }
     std::int64_t freeSpaceFor(const std::string& folder) override;
     bool exists(const std::string& name) override { return root_.exists(name); }
@@ -34,6 +33,7 @@ public:
     void remove(const std::string& name) override { root_.remove(name); }
 
 private:
+    VirtualDevice(FolderHandle root, std::optional<std::int64_t> memory) : root_(std::move(root)), memory_(memory) {}
     void lock(std::chrono::milliseconds patience);
     void recover();
     void recoverFolder(const std::string& folder);
@@ -47,7 +47,6 @@ private:
 
 /// Opens the device of a design target: the folder with its name in $FERNWICK_DEVICES, or in fernwick/devices of the
 /// user's data folder, with the memory of the target.
-std::unique_ptr<DeviceStorage> openVirtualDevice(const PipeServices& services, const std::string& deviceName,
-                                                 const basic::Ref<vbide::VBProject>& project);
+std::unique_ptr<DeviceStorage> openVirtualDevice(const PipeServices& services, const DeviceRequest& request);
 
 } // namespace qlpipe

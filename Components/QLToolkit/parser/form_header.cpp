@@ -37,7 +37,8 @@ std::int32_t indexOf(const image::Control& control) {
     for (const auto& property : control.properties) {
         if (property.name != "Index") continue;
         std::int32_t index = image::Control::kNoIndex;
-        std::from_chars(property.value.data(), property.value.data() + property.value.size(), index);
+        const auto& text = property.value.str();
+        std::from_chars(text.data(), text.data() + text.size(), index);
         return index;
     }
     return image::Control::kNoIndex;

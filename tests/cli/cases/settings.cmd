@@ -27,11 +27,11 @@ run fernwick settings reset --dry-run
 run fernwick settings reset
 run fernwick settings list
 
-say "A project overrides the settings of its handheld."
+say "A project overrides the folder on its handheld, but not where that is."
 run fernwick settings set HelloWorld.vbp HandheldHost handheld.local
-run fernwick settings set HelloWorld.vbp HandheldPort ssh
-run fernwick settings set HelloWorld.vbp HandheldPort 2222
-run fernwick settings get HelloWorld.vbp HandheldPort
+run fernwick settings set HelloWorld.vbp HandheldFolder /
+run fernwick settings set HelloWorld.vbp HandheldFolder games
+run fernwick settings get HelloWorld.vbp HandheldFolder
 grep -a -A3 'Quinloft Linux Handheld' HelloWorld.vbp | tr -d '\r'
-run fernwick settings reset HelloWorld.vbp HandheldPort
-run fernwick settings get HelloWorld.vbp HandheldPort
+run fernwick settings reset HelloWorld.vbp HandheldFolder
+run fernwick settings get HelloWorld.vbp HandheldFolder
