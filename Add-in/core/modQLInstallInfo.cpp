@@ -1,4 +1,5 @@
 #include "Add-in/core/modQLInstallInfo.h"
+#include "Basic/runtime_error.h"
 
 namespace fernwick {
 
@@ -21,16 +22,19 @@ std::string modQLInstallInfo::GetVBProductDir() const {
     return folder.ok() ? folder.text : std::string{};
 }
 
-std::string modQLInstallInfo::GetQuinloftFontsDir() const { return below("Fonts"); }
+std::string modQLInstallInfo::GetQuinloftFontsDir() const { return installed("Fonts"); }
 
-std::string modQLInstallInfo::GetQuinloftSamplesDir() const { return below("VB Toolkit\\Samples"); }
+std::string modQLInstallInfo::GetQuinloftSamplesDir() const { return installed("VB Toolkit\\Samples"); }
 
 std::string modQLInstallInfo::installed(const std::string& name) const {
-    return files_.Canonical(files_.BuildPath(GetQuinloftRootDir(), name));
+    const auto root = GetQuinloftRootDir();
+    return root.empty() ? std::string{} : files_.Canonical(files_.BuildPath(root, name));
 }
 
-std::string modQLInstallInfo::below(const std::string& name) const {
-    return GetQuinloftRootDir().empty() ? std::string{} : installed(name);
+std::string modQLInstallInfo::requireInstalled(const std::string& name) const {
+    const auto path = installed(name);
+    if (path.empty()) throw basic::RuntimeError(basic::kFileNotFound, "No installation was found for " + name);
+    return path;
 }
 
 } // namespace fernwick

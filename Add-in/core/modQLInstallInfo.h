@@ -17,12 +17,13 @@ public:
     /// Directory of the host IDE; "" if unknown.
     std::string GetVBProductDir() const;
 
-    /// Returns the path of an installed file or folder, given its name relative to the root in any letter case.
+    /// Returns the path of an installed file or folder, given its name relative to the root in any letter case. Without
+    /// a root the path is empty, so that nothing is found in the current folder.
     std::string installed(const std::string& name) const;
+    /// Does the same for a file that is needed: error 53 without a root.
+    std::string requireInstalled(const std::string& name) const;
 
 private:
-    std::string below(const std::string& name) const;
-
     modRegistry2& registry_;
     const FileSystemObject& files_;
 };

@@ -155,6 +155,15 @@ TEST_F(MessageActions, F1OnANumberWithoutAPageSaysSoAndShowsTheList) {
                             "start Hh.exe -mapid 999 /install/VB Toolkit/doc/Quinloft_Error_Codes.chm"));
 }
 
+TEST_F(MessageActions, WithoutAnInstallationNoHelpInTheCurrentFolderOpens) {
+    registry.set(fernwick::HKEY_LOCAL_MACHINE, "Software\\Quinloft", "RootDir", "");
+    add("Form1", 12, 999);
+    EXPECT_THAT(press(112), Not(Contains(HasSubstr("start "))));
+    EXPECT_THAT(errors.seen, ElementsAre("udocCompileMsgs.msgGrid_KeyDown [53]"));
+    add("Form1", 0, 8208);
+    EXPECT_THAT(doubleClick(), Not(Contains(HasSubstr("start "))));
+}
+
 TEST_F(MessageActions, F1OnTheHeaderIsReported) {
     add("Form1", 12, 1042);
     EXPECT_THAT(press(112, 0, 0), IsEmpty());

@@ -77,6 +77,15 @@ TEST_F(HelpAndTools, WithoutAnInstallationTheBoxShowsTheBareName) {
                             "location:\r\nQuinloft_Users_Guide.chm"));
 }
 
+TEST_F(HelpAndTools, WithoutAnInstallationNothingInTheCurrentFolderIsStarted) {
+    installAt("");
+    files.files["Quinloft_Users_Guide.chm"] = files.files["VB Toolkit/Bin/QLFonC.exe"] = {};
+    help.DisplayHelp(0);
+    EXPECT_FALSE(tools.OpenViewerConverter(fernwick::kFontConverter));
+    EXPECT_THAT(programs.started, IsEmpty());
+    EXPECT_THAT(errors.seen, ElementsAre("modViewConvertManagement.OpenViewerConverter [53]"));
+}
+
 TEST_F(HelpAndTools, ReportsAMissingHelpViewer) {
     files.files["/install/VB Toolkit/doc/Quinloft_Users_Guide.chm"] = {};
     programs.fails = true;

@@ -2,6 +2,7 @@
 #include "Add-in/core/modQLInstallInfo.h"
 #include "Host/system/file_system.h"
 #include "core_world.h"
+#include "tests/support/errors.h"
 #include "tests/support/temp_folder.h"
 
 using namespace fernwick;
@@ -21,6 +22,14 @@ TEST_F(InstallInfo, AnEmptyRootGivesEmptyFolders) {
     EXPECT_EQ(install.GetQuinloftFontsDir(), "");
     EXPECT_EQ(install.GetQuinloftSamplesDir(), "");
     EXPECT_EQ(install.GetVBProductDir(), "");
+}
+
+TEST_F(InstallInfo, WithoutARootNothingIsInstalledInTheCurrentFolder) {
+    for (const bool isStored : {false, true}) {
+        if (isStored) installAt("");
+        EXPECT_EQ(install.installed("VB Toolkit\\Bin\\QLFonC.exe"), "");
+        EXPECT_EQ(test::errorOf([&] { install.requireInstalled("Weirgate\\WGConfig.exe"); }), 53);
+    }
 }
 
 TEST_F(InstallInfo, FoldersAreBelowTheRootInAnyLetterCase) {

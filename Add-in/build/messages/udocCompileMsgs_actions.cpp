@@ -71,7 +71,7 @@ void udocCompileMsgs::actOn(Procedure& here, std::int32_t errorNumber) {
         break;
     case message_numbers::kPictureHelp:
         here([&] {
-            services.platform.shell.Start("Hh.exe ms-its:" + services.install.installed(kPicturesHelpFile) +
+            services.platform.shell.Start("Hh.exe ms-its:" + services.install.requireInstalled(kPicturesHelpFile) +
                                           kPicturesPage);
         });
         break;

@@ -47,7 +47,7 @@ void udocCompileMsgs::showHelp(Procedure& here) {
         here([&] { box(basic::Replace(build_texts::kNoHelpPage, "{number}", fmt::to_string(number)), vbExclamation); });
     here([&] {
         services.platform.shell.Start(
-            fmt::format("Hh.exe -mapid {} {}", number, services.install.installed(kHelpFile)));
+            fmt::format("Hh.exe -mapid {} {}", number, services.install.requireInstalled(kHelpFile)));
     });
 }
 

@@ -11,7 +11,7 @@ bool modProjectTemplates::ProjectIsFromTemplate(const basic::Ref<vbide::VBProjec
     if (!files_.FolderExists(ofHost)) here([&] { warn(texts::kNoHostTemplates); });
     const auto ofSystem = here.value([&] { return install_.installed("VB Toolkit\\Template\\Projects"); });
     if (!files_.FolderExists(ofSystem)) here([&] { warn(texts::kNoTemplates); });
-    return folder == ofHost || folder == ofSystem;
+    return folder == ofHost || (folder == ofSystem && !ofSystem.empty());
 }
 
 std::string modProjectTemplates::GetTemplatePath() {
