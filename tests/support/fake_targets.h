@@ -12,6 +12,8 @@ struct KnownModules {
     std::set<std::string> references, modules;
     /// Identifiers of the libraries that each project must carry.
     std::vector<std::string> required;
+    /// Identifiers of the controls that the targets support.
+    std::vector<std::string> tavlets;
 };
 
 /// Paths of each target's templates.
@@ -34,9 +36,13 @@ public:
     std::string DefaultFontName() const override { return "Font"; }
     std::string TavletStyleID() const override { return "2"; }
     bool GetOption(const std::string&, std::string&) const override { return false; }
-    void GetSupportedTavlets(std::vector<std::string>&, std::vector<std::string>&,
-                             std::vector<std::string>&) const override {}
-    std::int32_t NumSupportedTavlets() const override { return 0; }
+    void GetSupportedTavlets(std::vector<std::string>& clsids, std::vector<std::string>& progIds,
+                             std::vector<std::string>& categories) const override {
+        clsids = knows_.tavlets;
+        progIds.resize(clsids.size());
+        categories.resize(clsids.size());
+    }
+    std::int32_t NumSupportedTavlets() const override { return std::int32_t(knows_.tavlets.size()); }
     void GetSupportedReferences(std::vector<std::string>& guids) const override { guids = knows_.required; }
     std::int32_t NumSupportedReferences() const override { return std::int32_t(knows_.required.size()); }
     designtargetaccess::ReferenceValidity ValidateReference(const std::string& reference) const override {
@@ -105,6 +111,7 @@ private:
         bool IsDeviceSupported(const std::string& key) override { return targets_.refused.count(key) == 0; }
         bool ValidateFiles(const basic::Ref<vbide::VBProject>&, const qlpipe::ProjectFiles&) override { return true; }
         void SetEventSink(qlpipe::IQLPipeEvents&) override {}
+        void SetDevice(const std::string&) override {}
 
     private:
         const FakeTargets& targets_;
