@@ -112,6 +112,18 @@ std::optional<std::string> CodePage::tryEncode(std::string_view utf8) const {
     return number_ == kUtf8Page ? encodeText(PageUtf8{}, utf8) : encodeText(Page1252{}, utf8);
 }
 
+std::string CodePage::replaceMissing(std::string_view utf8) const {
+    if (tryEncode(utf8)) return std::string(utf8);
+    std::string text;
+    for (std::size_t at = 0; at < utf8.size();) {
+        const auto from = at;
+        nextCharacter(utf8, at);
+        const auto character = utf8.substr(from, at - from);
+        text += tryEncode(character) ? character : "?";
+    }
+    return text;
+}
+
 std::string CodePage::encode(std::string_view utf8) const {
     if (auto bytes = tryEncode(utf8)) return *std::move(bytes);
     throw RuntimeError(kInvalidProcedureCall);

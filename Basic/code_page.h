@@ -34,6 +34,9 @@ public:
     /// As encode, but returns nothing instead of raising the error.
     std::optional<std::string> tryEncode(std::string_view utf8) const;
 
+    /// Returns the text with "?" instead of each character that encode would refuse.
+    std::string replaceMissing(std::string_view utf8) const;
+
 private:
     CodePage() noexcept = default;
 

@@ -46,11 +46,13 @@ bool frmValidate::scanForBroken(Procedure& here, const Project& project) {
     return good;
 }
 
-/// Reads the device's configuration for its side effect: it reports controls that this machine lacks.
+/// Reads the device's configuration and its controls for the side effect: it reports controls that this machine lacks.
 void frmValidate::readDeviceConfig(Procedure& here) {
     here([&] {
         clsDeviceConfig config{services_.deviceServices};
         config.ReadDeviceConfig(deviceKey_);
+        Array<ValidTavlet> tavlets;
+        config.GetDeviceTavlets(tavlets);
     });
 }
 

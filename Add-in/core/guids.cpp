@@ -1,5 +1,4 @@
 #include "Add-in/core/guids.h"
-#include "Basic/guid.h"
 #include "Basic/runtime_error.h"
 
 namespace fernwick {
@@ -16,8 +15,8 @@ bool NormaliseGuidText(std::string& text) {
     return true;
 }
 
-std::string CreateGUID() try {
-    const auto text = basic::guidText(basic::newGuid());
+std::string CreateGUID(basic::GUID (*create)()) try {
+    const auto text = basic::guidText(create());
     return text.substr(1, text.size() - 2);
 } catch (const basic::RuntimeError&) { return "{Error}"; }
 

@@ -1,5 +1,6 @@
 #pragma once
 // GUID texts, which may lack braces.
+#include "Basic/guid.h"
 #include <string>
 
 namespace fernwick {
@@ -10,6 +11,6 @@ bool IsGuidText(const std::string& text, bool& hadBraces);
 bool NormaliseGuidText(std::string& text);
 
 /// Returns a new GUID in upper case without braces; "{Error}" if the system cannot create one.
-std::string CreateGUID();
+std::string CreateGUID(basic::GUID (*create)() = basic::newGuid);
 
 } // namespace fernwick

@@ -16,7 +16,8 @@ void modAddinPrefsManagement::loadMyDevices() try {
 void modAddinPrefsManagement::readMyDevices(std::uint32_t key) {
     const auto stored = registry_.GetValue(key, "MyDeviceCount");
     if (!stored.ok()) return;
-    const auto count = std::min(registryNumber(stored.data), kMostStoredEntries);
+    const auto count = registryNumber(stored.data);
+    if (count > kMostStoredEntries) return; // damaged
     for (std::int32_t i = 0; i < count; ++i) {
         auto device = registry_.GetStringValue(key, "MyDevice" + std::to_string(i));
         if (device.ok()) gMyDevices.push_back(std::move(device.text));

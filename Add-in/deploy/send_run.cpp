@@ -51,7 +51,8 @@ tResourceList SendRun::readDependencies() {
     return services_.dependencies.ReadProjectDependencies(project);
 }
 
-/// A pipe without a validator accepts nothing.
+/// A pipe without a validator accepts nothing. The files are judged by the device of this run, which may not be the
+/// project's own.
 bool SendRun::ValidateForDevicePipe(const qlpipe::ProjectFiles& files) {
     basic::Ref<qlpipe::IQLPipeValidation> validator;
     const auto created = basic::attempt([&] {
@@ -62,6 +63,7 @@ bool SendRun::ValidateForDevicePipe(const qlpipe::ProjectFiles& files) {
     bool accepted = false;
     basic::Suppressed quietly;
     quietly([&] { validator->SetEventSink(*this); });
+    quietly([&] { validator->SetDevice(deviceName_); });
     quietly([&] { accepted = validator->ValidateFiles(workingProject_->VBProject(), files); });
     return accepted;
 }

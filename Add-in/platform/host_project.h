@@ -212,6 +212,8 @@ public:
     virtual std::string ReadProperty(const std::string& section, const std::string& key) const = 0;
     /// Error 5 for a value that contains a line break or a character missing from the project's code page.
     virtual void WriteProperty(const std::string& section, const std::string& key, const std::string& value) = 0;
+    /// Returns the text with "?" instead of what WriteProperty refuses.
+    virtual std::string StorableText(const std::string& text) const = 0;
     virtual void SaveAs(const std::string& path) = 0;
     virtual void AddToolboxProgID(const std::string& progId) = 0;
     virtual Ref<vbide::References> References() = 0;

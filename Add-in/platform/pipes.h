@@ -63,9 +63,11 @@ class IQLPipeValidation : public fernwick::Object {
 public:
     /// Whether devices of this design target key can be served here.
     virtual bool IsDeviceSupported(const std::string& key) = 0;
-    /// Returns True if devices of the family accept these files. Findings are reported as events.
+    /// Returns True if the device accepts these files. Findings are reported as events.
     virtual bool ValidateFiles(const basic::Ref<vbide::VBProject>& project, const ProjectFiles& files) = 0;
     virtual void SetEventSink(IQLPipeEvents& sink) = 0;
+    /// Sets the design target whose limits ValidateFiles applies. Without it, that is the project's.
+    virtual void SetDevice(const std::string& key) = 0;
 };
 
 /// A setting that a pipe stores in a project: a label and a text field of a page.

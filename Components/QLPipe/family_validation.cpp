@@ -7,7 +7,7 @@ bool FamilyValidation::IsDeviceSupported(const std::string& key) { return isOfFa
 
 bool FamilyValidation::ValidateFiles(const basic::Ref<vbide::VBProject>& project, const ProjectFiles& files) {
     auto listing = listFiles(files_, files);
-    checkFiles(limitsOf(classes_, deviceToCheckFor(classes_, project, family_)), listing);
+    checkFiles(limitsOf(classes_, device_.empty() ? deviceToCheckFor(classes_, project, family_) : device_), listing);
     bool good = true;
     for (const auto& finding : listing.findings) {
         if (finding.isError) good = false;

@@ -14,13 +14,14 @@ public:
         : family_(std::move(family)), files_(files), classes_(classes) {}
 
     bool IsDeviceSupported(const std::string& key) override;
-    /// Checks against the project's device if it belongs to this family, otherwise against the family's first design
-    /// target. Returns false if there is an error. Hints are reported as warnings.
+    /// Checks against the device that was set. Without one, checks against the project's device if it belongs to this
+    /// family, otherwise against the family's first design target. Returns false if there is an error. Hints are reported as warnings.
     bool ValidateFiles(const basic::Ref<vbide::VBProject>& project, const ProjectFiles& files) override;
     void SetEventSink(IQLPipeEvents& sink) override { sink_ = &sink; }
+    void SetDevice(const std::string& key) override { device_ = key; }
 
 private:
-    std::string family_;
+    std::string family_, device_;
     const fernwick::FileSystemObject& files_;
     fernwick::Classes& classes_;
     IQLPipeEvents* sink_ = nullptr;

@@ -68,6 +68,8 @@ public:
     /// character that the code page lacks, an empty section or key, a key with "=" or an initial "[" (it could not be
     /// read back).
     bool writeProperty(std::string_view section, std::string_view key, std::string_view value);
+    /// Returns the text with "?" instead of line breaks and of characters that the code page lacks.
+    std::string storableText(std::string_view text) const;
 
 private:
     using Index = std::unordered_map<std::string, Place>;

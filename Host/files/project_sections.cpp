@@ -4,6 +4,7 @@
 #include "Host/files/project_line.h"
 #include "Host/files/system_error.h"
 #include "Host/files/text_parts.h"
+#include <algorithm>
 #include <fmt/format.h>
 
 namespace host {
@@ -54,6 +55,13 @@ bool ProjectFile::writeProperty(std::string_view section, std::string_view key, 
     last = insertAfter(last, std::move(line));
     values.emplace(basic::foldCase(trimBlanks(key)), last);
     return true;
+}
+
+std::string ProjectFile::storableText(std::string_view text) const {
+    auto storable = codePage_.replaceMissing(text);
+    std::replace_if(
+        storable.begin(), storable.end(), [](char c) { return c == '\r' || c == '\n'; }, '?');
+    return storable;
 }
 
 ProjectFile::Place ProjectFile::appendSection(std::string_view head) {

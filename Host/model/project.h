@@ -32,6 +32,7 @@ public:
     bool Saved() const override;
     std::string ReadProperty(const std::string& section, const std::string& key) const override;
     void WriteProperty(const std::string& section, const std::string& key, const std::string& value) override;
+    std::string StorableText(const std::string& text) const override { return file_->storableText(text); }
     void SaveAs(const std::string& path) override;
     void AddToolboxProgID(const std::string& progId) override;
     vbide::Ref<vbide::References> References() override;

@@ -1,6 +1,6 @@
 #include "Host/system/classes.h"
 #include "Basic/guid.h"
-#include "Host/files/system_error.h"
+#include "Basic/runtime_error.h"
 #include "Host/system/classes_key.h"
 
 namespace host {
@@ -26,9 +26,7 @@ basic::Ref<fernwick::Object> Classes::CreateObject(const std::string& progId) {
     auto registrations = known == factories_.end() ? Registrations{} : known->second; // a factory may register more
     while (!registrations.empty() && registrations.back().first.expired()) registrations.pop_back();
     auto made = registrations.empty() ? nullptr : registrations.back().second();
-    if (!made)
-        throw hostError(basic::kCantCreateObject,
-                        std::string(basic::standardDescription(basic::kCantCreateObject)) + ": " + progId);
+    if (!made) throw basic::RuntimeError(basic::kCantCreateObject); // an error of the caller, not of the host
     return made;
 }
 

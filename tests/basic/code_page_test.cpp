@@ -102,6 +102,17 @@ TEST(CodePage, AMissingCharacterIsError5) {
     }
 }
 
+TEST(CodePage, AMissingCharacterCanBeReplaced) {
+    const auto western = CodePage::windows1252();
+    EXPECT_EQ(western.replaceMissing("10 € é"), "10 € é");
+    EXPECT_EQ(western.replaceMissing("aПé中😀z"), "a?é??z");
+    EXPECT_EQ(western.replaceMissing("a\xC3(\xFF"), "a?(?");
+    EXPECT_EQ(CodePage(1251).replaceMissing("Пé"), "П?");
+    EXPECT_EQ(CodePage(932).replaceMissing("中é"), "中?");
+    EXPECT_EQ(CodePage(65001).replaceMissing("中é😀"), "中é😀");
+    EXPECT_EQ(western.replaceMissing(""), "");
+}
+
 TEST(CodePage, AnUnknownNumberIsError5) {
     for (const int number : {0, -1, 1, 1249, 1259, 65000, 99999})
         EXPECT_EQ(basic::attempt([&] { CodePage page(number); }).Number, 5) << number;

@@ -40,6 +40,23 @@ TEST_F(CompileInput, SkipsBuiltInLibraries) {
     EXPECT_THAT(libraries(), IsEmpty());
 }
 
+TEST_F(CompileInput, SkipsEachLibraryWhoseNameEndsLikeTheBuiltInOnes) {
+    reference("/windows/mystdole2.tlb");
+    reference("/windows/stdole2.tlb.old");
+    reference("/windows/stdole3.tlb");
+    EXPECT_THAT(libraries(), ElementsAre("file 1 /windows/stdole2.tlb.old", "file 1 /windows/stdole3.tlb"));
+}
+
+TEST_F(CompileInput, PathsAreAbsolute) {
+    reference("\\lib\\Tools.tlb");
+    reference("\\lib\\Tavlets.oca");
+    addModule("One")->file = "\\p\\One.bas";
+    run();
+    EXPECT_THAT(trace.effects, Contains("file 1 /lib/Tools.tlb"));
+    EXPECT_THAT(trace.effects, Contains("file 2 /lib/Tavlets.DLL"));
+    EXPECT_THAT(trace.effects, Contains("file 0 /p/One.bas"));
+}
+
 TEST_F(CompileInput, SkipsABrokenReferenceSilently) {
     reference("/lib/a.tlb")->broken = true;
     reference("/lib/b.tlb");
@@ -75,6 +92,13 @@ TEST_F(CompileInput, ARegisteredOcxIsReplacedByItsDll) {
     reference("/lib/Tavlets.oca");
     registerLibrary("1.0", "/tavlets/QLTavlets.ocx");
     EXPECT_THAT(libraries(), ElementsAre("file 2 /tavlets/QLTavlets.DLL"));
+}
+
+TEST_F(CompileInput, ARegisteredPathMustBeAPlainText) {
+    reference("/lib/Tavlets.oca");
+    registry.set(fernwick::HKEY_CLASSES_ROOT, std::string("TypeLib\\") + kGuid + "\\1.0\\0\\win32", "",
+                 std::string("/tavlets/QLTavlets.dll") + '\0', fernwick::REG_EXPAND_SZ);
+    EXPECT_THAT(libraries(), ElementsAre("file 2 /tavlets/QLTavlets.DLL")); // the path, with a replaced extension
 }
 
 TEST_F(CompileInput, ReferencesComeBeforeComponentsInTheirOrder) {

@@ -30,10 +30,12 @@ TEST_F(CompileLines, LoneLineFeedsDoNotCount) {
 }
 
 TEST_F(CompileLines, AMessageWithoutAFileOrLineHasNoLine) {
-    addModule("Module1");
+    // A header, so that a conversion would be seen
+    addModule("Form1", "VERSION 5.00\r\nBegin VB.Form Form1\r\nEnd\r\nSub A()\r\nEnd Sub\r\n");
     EXPECT_EQ(lineOf("", 7), "0");
-    EXPECT_EQ(lineOf("/p/Module1.bas", 0), "0");
-    EXPECT_EQ(lineOf("/p/Module1.bas", -3), "0");
+    EXPECT_EQ(lineOf("/p/Form1.bas", 0), "0");
+    EXPECT_EQ(lineOf("/p/Form1.bas", -3), "0");
+    EXPECT_EQ(lineOf("/p/Form1.bas", 1), "-2");
     EXPECT_THAT(errors.seen, IsEmpty());
 }
 

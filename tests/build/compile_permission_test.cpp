@@ -75,6 +75,16 @@ TEST_F(CompilePermission, TheTickSavesWithoutAskingFromNowOn) {
     EXPECT_THAT(trace.effects, Not(Contains("form frmSaveProjectFiles")));
 }
 
+TEST_F(CompilePermission, TheTickIsStoredBeforeTheFilesAreSaved) {
+    module->dirty = true;
+    answerSaving("btnYes", true);
+    EXPECT_TRUE(compile.canCompile(project));
+    const auto stored = std::find(trace.effects.begin(), trace.effects.end(), "AutoSaveProject=True");
+    const auto saved = std::find(trace.effects.begin(), trace.effects.end(), "Demo saved /p/Demo.vbp");
+    ASSERT_NE(saved, trace.effects.end());
+    EXPECT_LT(stored - trace.effects.begin(), saved - trace.effects.begin()); // so the file has it
+}
+
 TEST_F(CompilePermission, NoMeansThatNothingElseHappens) {
     module->dirty = true;
     answerSaving("btnNo", true);
@@ -138,6 +148,11 @@ TEST_F(CompileWarning, AllButtonsStoreTheOppositeOfTheTick) {
         answer(button, true);
         EXPECT_FALSE(prefs.GetQuinloftCompileWarning()) << button;
     }
+}
+
+TEST_F(CompileWarning, TheTickExplainsItself) {
+    EXPECT_EQ(form.chkWarning.Caption(), "Don't show me this again");
+    EXPECT_EQ(form.chkWarning.ToolTipText(), "Check this box to not see this warning dialog again");
 }
 
 TEST_F(CompileWarning, ClosingTheWindowMeansCancel) {

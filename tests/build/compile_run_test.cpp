@@ -139,8 +139,10 @@ TEST_F(CompileRun, WithoutACompilerItKeepsOldMessagesAndAddsOne) {
 }
 
 TEST_F(CompileRun, RefusesAFactoryOfAnotherClass) {
-    compilerClass = classes.RegisterClass("QLToolkit.CompilerFactory", [] { return basic::make<fernwick::Object>(); });
+    int created = 0;
+    registerFactory([&created] { return ++created, basic::make<fernwick::Object>(); });
     EXPECT_FALSE(run());
+    EXPECT_EQ(created, 1);
     EXPECT_THAT(stored("Error1"), HasSubstr("|2999"));
 }
 
@@ -229,6 +231,116 @@ TEST_F(CompileRun, AFailingCallSkipsOnlyItself) {
     }
     EXPECT_TRUE(run());
     EXPECT_EQ(status(), "SUCCESS with Warnings - This project can be deployed, but may not function as expected.");
+}
+
+// What the form shows on the way
+
+class CompileProgress : public CompileRun {
+protected:
+    /// Notes what was shown, in order.
+    std::vector<std::string> seen;
+    std::vector<std::string> runAndSee() {
+        run();
+        return seen;
+    }
+    const fernwick::Subscription failed = compile.failedImg.Visible.watch([this](bool visible) {
+        if (visible) seen.push_back("failed");
+    });
+    const fernwick::Subscription text =
+        compile.stsUpdate.SimpleText.watch([this](const std::string& now) { seen.push_back(now); });
+};
+
+TEST_F(CompileProgress, ARefusedRunShowsThePictureOfFailure) {
+    files.files.erase("/p/Demo.vbp");
+    EXPECT_THAT(runAndSee(), ElementsAre("failed"));
+}
+
+TEST_F(CompileProgress, AFailedBuildShowsThePictureAndTheText) {
+    compiler->built = compiler->finished = false;
+    EXPECT_THAT(runAndSee(), ElementsAre("Compiler Build Started", "failed", "Compile Finished with Error"));
+}
+
+TEST_F(CompileProgress, TheFormHasTheFocusBeforeItShowsTheEnd) {
+    const auto painted = compile.Refreshed.connect(
+        [this] { seen.push_back(compile.finishedImg.Visible() ? "painted with the end" : "painted"); });
+    compiler->work = [this](test::FakeCompiler&) { seen.clear(); };
+    runAndSee();
+    ASSERT_GE(seen.size(), 3U);
+    EXPECT_EQ(seen[0], "painted"); // a form that gets the focus paints itself
+    EXPECT_EQ(seen[1], "Scanning Project Dependencies...");
+    EXPECT_EQ(seen[2], "painted with the end");
+}
+
+TEST_F(CompileProgress, ThePercentageHasAFraction) {
+    compiler->work = [this](test::FakeCompiler& c) {
+        c.BuildStatus.raise("45.5% completed");
+        EXPECT_EQ(compile.prgbarUpdate.Value(), 45.5F);
+    };
+    EXPECT_TRUE(run());
+}
+
+TEST_F(CompileProgress, AStatusIsPaintedAndTheHostProcessesItsEventsAfterwards) {
+    const auto painted = compile.Refreshed.connect([this] {
+        seen.push_back("painted");
+        loop.Post([this] { seen.push_back("processed"); });
+    });
+    compiler->work = [this](test::FakeCompiler& c) {
+        seen.clear();
+        c.BuildStatus.raise("Linking");
+        EXPECT_THAT(seen, ElementsAre("Linking", "painted", "processed"));
+    };
+    EXPECT_TRUE(run());
+}
+
+TEST_F(CompileProgress, EachTextIsPaintedAndTheHostProcessesItsEvents) {
+    const auto painted = compile.stsUpdate.Refreshed.connect([this] {
+        seen.push_back("painted");
+        loop.Post([this] { seen.push_back("processed"); });
+    });
+    compile.displayInfo("Information");
+    compile.displayError("Error");
+    EXPECT_THAT(seen, ElementsAre("Information", "painted", "processed", "Error", "painted", "processed"));
+}
+
+TEST_F(CompileProgress, TheAnimationPlaysBeforeTheNoticeOfAReadOnlyProject) {
+    files.files["/p/Demo.vbp"].attributes = fernwick::ReadOnlyAttribute;
+    int notices = 0;
+    trace.observer = [&](const std::string& effect) {
+        if (effect.find("ReadOnly") == std::string::npos) return;
+        EXPECT_EQ(compile.aniCompile.Playing(), fernwick::Animation::kForever);
+        ++notices;
+    };
+    EXPECT_TRUE(run());
+    EXPECT_EQ(notices, 1);
+}
+
+/// A compiler class that cannot create a compiler.
+class NoCompilerFactory : public qltoolkit::CompilerFactory {
+public:
+    basic::Ref<qltoolkit::Compiler> CreateCompiler() override { throw basic::RuntimeError(basic::kCantCreateObject); }
+};
+
+TEST_F(CompileRun, AFactoryWithoutACompilerIsReleasedWithTheForm) {
+    std::weak_ptr<fernwick::Object> made;
+    registerFactory([&made] {
+        const auto factory = std::make_shared<NoCompilerFactory>();
+        made = factory;
+        return factory;
+    });
+    bool heldDuringTheBox = false;
+    trace.observer = [&](const std::string& effect) {
+        if (effect.find("could not be loaded") != std::string::npos && effect.starts_with("box"))
+            heldDuringTheBox = !made.expired();
+    };
+    EXPECT_FALSE(run());
+    EXPECT_TRUE(heldDuringTheBox);
+    EXPECT_TRUE(made.expired());
+}
+
+TEST_F(CompileRun, TheCompilerIsReleasedAtTheEnd) {
+    const auto before = compiler.shared().use_count();
+    EXPECT_TRUE(run());
+    EXPECT_EQ(compiler.shared().use_count(), before);
 }
 
 } // namespace

@@ -96,6 +96,37 @@ TEST_F(CompileSteps, AMissingStepIsAFailure) {
     EXPECT_THAT(ran(), ElementsAre("build"));
 }
 
+TEST_F(CompileSteps, AMissingPostStepIsAFailureToo) {
+    steps("Post", {"a"});
+    set("Quinloft Compiler Options", "PostCompileStepCount", "2");
+    EXPECT_TRUE(run());
+    EXPECT_THAT(trace.effects, Contains(kPostFailed));
+    EXPECT_THAT(ran(), ElementsAre("build"));
+}
+
+TEST_F(CompileSteps, RunBeforeTheCompilerReceivesTheApplicationsData) {
+    files.files["/p/Demo.vbp"] = {"Title=\"Demo\"\r\n"};
+    steps("Pre", {"a"});
+    user.answers = {fernwick::vbNo};
+    EXPECT_FALSE(run());
+    EXPECT_THAT(trace.effects, Not(Contains("version Title=Demo")));
+    processes.codes = {{"a", 0}};
+    EXPECT_TRUE(run());
+    EXPECT_THAT(trace.effects, Contains("version Title=Demo"));
+}
+
+TEST_F(CompileSteps, ADamagedCountRunsNothing) {
+    steps("Pre", {"a"});
+    steps("Post", {"a"});
+    processes.codes = {{"a", 0}};
+    for (const char* count : {"65537", "2147483647", "-1"}) {
+        set("Quinloft Compiler Options", "PreCompileStepCount", count);
+        set("Quinloft Compiler Options", "PostCompileStepCount", count);
+        EXPECT_TRUE(run()) << count;
+        EXPECT_THAT(ran(), ElementsAre("build")) << count;
+    }
+}
+
 class RunProcess : public testing::Test, protected test::TracedPlatform {
 protected:
     fernwick::modProcessControl control{errors, platform};

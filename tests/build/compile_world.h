@@ -19,8 +19,12 @@ struct CompileWorld : MessagesWorld {
         project->properties[{section, key}] = value;
     }
     void registerCompiler() {
-        compilerClass = classes.RegisterClass("QLToolkit.CompilerFactory",
-                                              [this] { return basic::make<FakeCompilerFactory>(compiler); });
+        registerFactory([this] { return basic::make<FakeCompilerFactory>(compiler); });
+    }
+    /// Replaces the compiler's class.
+    void registerFactory(fernwick::Classes::Factory factory) {
+        compilerClass.reset();
+        compilerClass = classes.RegisterClass("QLToolkit.CompilerFactory", std::move(factory));
     }
     Ref<TracedComponent> addModule(const std::string& name, const std::string& text = "Sub Main()\r\nEnd Sub\r\n") {
         const auto path = "/p/" + name + ".bas";

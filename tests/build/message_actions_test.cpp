@@ -60,7 +60,10 @@ TEST_F(MessageActions, TheHeaderDoesNothing) {
 
 TEST_F(MessageActions, AnUnsupportedComponentOpensTheCompilerSettings) {
     add("", 0, 4119);
+    vbe->active = basic::make<test::TracedProject>(trace, "Other", "/p/Other.vbp");
     EXPECT_THAT(doubleClick(), ElementsAre("cursor 11", "settings Compiler Settings"));
+    EXPECT_EQ(noted.settingsOf, vbe->active);
+    EXPECT_FALSE(noted.scansInSettings);
 }
 
 TEST_F(MessageActions, AMissingFontStartsTheConverter) {

@@ -206,4 +206,28 @@ TEST_F(MessageRows, LeaveTheStatusLineTheWholeWidth) {
     EXPECT_EQ(window->statusSizes().textWidth, 1);
 }
 
+/// A screen whose pixels are not square.
+struct LowPixels : test::FixedScreen {
+    float TwipsPerPixelY() const override { return 12; }
+};
+
+TEST(MessageGridScale, WidthsFollowTheScreensXAndHeightsItsY) {
+    const LowPixels screen;
+    const test::FixedWidthFont font; // 10 by 16 pixels
+    MessageGrid grid{screen};
+    grid.measureWith(&font);
+    grid.SetGridSizes(1020 * 15, 400 * 12, 0);
+    EXPECT_EQ(grid.columnWidth(MessageGrid::PictureColumn), 20 * 15);
+    EXPECT_EQ(grid.columnWidth(MessageGrid::MessageColumn), 760 * 15);
+    const auto heightOf = [&](std::size_t characters) {
+        const auto row = grid.insert({"", "", "", "", "", std::string(characters, 'x')}, false);
+        grid.measure(*row);
+        grid.fitHeight(*row);
+        return row->height;
+    };
+    EXPECT_EQ(heightOf(75), 20 * 12);
+    EXPECT_EQ(heightOf(76), 2 * 16 * 12);
+    EXPECT_EQ(grid.rowHeightMin(), 16 * 12);
+}
+
 } // namespace

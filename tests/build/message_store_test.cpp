@@ -164,12 +164,45 @@ TEST_F(MessageStore, ADamagedCountReadsAsZero) {
     EXPECT_EQ(stored("NumErrors"), "1");
 }
 
-TEST_F(MessageStore, AnExcessiveCountIsLimited) {
-    store("NumErrors", "2147483647");
+TEST_F(MessageStore, ADamagedCountIsAnEmptyList) {
+    store("Error1", "ERROR||0|stored|0");
+    for (const char* count : {"100001", "2147483647", "-1", "-2147483648", "99999999999"}) {
+        store("NumErrors", count);
+        trace.calls = 0;
+        messages.ReadProjectErrors(project);
+        EXPECT_THAT(rows(), IsEmpty()) << count;
+        EXPECT_EQ(messages.NumProjectCompileErrors(project), 0) << count;
+        EXPECT_LT(trace.calls, 10) << count; // no entry is read
+        error("new");
+        EXPECT_EQ(stored("NumErrors"), "1") << count;
+    }
+}
+
+TEST_F(MessageStore, ALongListIsRead) {
+    store("NumErrors", "100000");
+    store("Error1", "ERROR||0|first|0");
+    store("Error100000", "WARNING||0|last|0");
     messages.ReadProjectErrors(project);
-    EXPECT_THAT(rows(), IsEmpty());
-    error("a");
-    EXPECT_EQ(stored("NumErrors"), "2147483647");
+    EXPECT_THAT(rows(), ElementsAre("|||first", "|||last"));
+}
+
+/// One more would make the whole list unreadable.
+TEST_F(MessageStore, AFullListIsNotExtended) {
+    store("NumErrors", "99999");
+    error("the last");
+    error("one more");
+    EXPECT_EQ(stored("NumErrors"), "100000");
+    EXPECT_EQ(stored("Error100000"), "ERROR|/p/Form1.frm|3|the last|1042");
+    EXPECT_EQ(rows().size(), 2U);
+}
+
+/// File names are stored as they are, although such a one cannot be read back.
+TEST_F(MessageStore, AFileNameWithASeparatorIsMisread) {
+    messages.AddProjectCompileError(project, "m", "/p/a|b.frm", 3, 1042);
+    EXPECT_EQ(stored("Error1"), "ERROR|/p/a|b.frm|3|m|1042");
+    messages.ReadProjectErrors(project);
+    EXPECT_THAT(rows(), ElementsAre("|||3"));
+    EXPECT_THAT(errors.seen, IsEmpty());
 }
 
 TEST_F(MessageStore, ClearingKeepsTheEntriesAndResetsTheCount) {
@@ -227,6 +260,14 @@ TEST_F(MessageStore, FollowsARenamedAndARemovedComponent) {
     project->components->Remove(form);
     project->add("Second", "/q/Form1.frm");
     EXPECT_EQ(messages.FindFileTitle(project, "Form1.frm"), "Second");
+}
+
+TEST_F(MessageStore, ClearingSetsLabelAndStatus) {
+    window->SetStatusLabel("Label:");
+    window->SetStatusText("Text");
+    messages.clearToolWindow();
+    EXPECT_EQ(window->lblStatus(), "Compile Status:");
+    EXPECT_EQ(window->lblStatusText(), "Compiling and validating...");
 }
 
 TEST_F(MessageStore, ANewComponentIsSeenAtOnce) {

@@ -35,6 +35,41 @@ TEST_F(MessageWindow, ShowsOnlyIfThereAreMessages) {
     EXPECT_TRUE(showing());
 }
 
+TEST_F(MessageWindow, IsNotShownForACountBelowZero) {
+    store("NumErrors", "-3");
+    messages.ShowProjectCompileErrors(project, true);
+    EXPECT_FALSE(showing());
+}
+
+TEST_F(MessageWindow, IsMadeWhenAProjectIsRead) {
+    store("NumErrors", "1");
+    store("Error1", "ERROR||0|stored|0");
+    messages.ReadProjectErrors(project);
+    EXPECT_EQ(rows().size(), 1U);
+    EXPECT_EQ(trace.effects.front(), "window QLVBAddIn.udocCompileMsgs {8531D96D-DE1E-11d2-8E96-00104B78F251}");
+    EXPECT_FALSE(showing());
+}
+
+TEST_F(MessageWindow, IsMadeAgainIfItsDocumentIsMissing) {
+    const auto whole = vbe->windows;
+    const auto break_ = [&] {
+        messages.killToolWindow();
+        vbe->windows =
+            basic::make<test::TracedWindows>(trace, [](const std::string&) { return basic::make<fernwick::Object>(); });
+        messages.createToolWindow(); // a window without messages
+        vbe->windows = whole;
+    };
+    break_();
+    messages.createToolWindow();
+    messages.AddProjectCompileError(project, "m", "", 0, 0);
+    EXPECT_EQ(rows().size(), 1U);
+    break_();
+    messages.showToolWindow();
+    EXPECT_TRUE(showing());
+    messages.AddProjectCompileError(project, "m", "", 0, 0);
+    EXPECT_EQ(rows().size(), 2U);
+}
+
 TEST_F(MessageWindow, HidingWithoutAWindowDoesNothing) {
     messages.HideProjectCompileErrors();
     EXPECT_THAT(trace.effects, IsEmpty());

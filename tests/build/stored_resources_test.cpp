@@ -69,7 +69,7 @@ TEST_F(StoredResources, AnUnreadableEntryIsBlankAndTheOthersAreRead) {
 }
 
 TEST_F(StoredResources, ADamagedCountIsAnEmptyList) {
-    for (const char* count : {"", "x", "0", "-3", "2000000000", "99999999999"}) {
+    for (const char* count : {"", "x", "0", "-3", "65537", "2000000000", "99999999999"}) {
         set(kDependencies, "NumDependencies", count);
         EXPECT_EQ(read().Count(), 0) << count;
     }

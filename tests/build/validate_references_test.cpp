@@ -111,6 +111,15 @@ TEST_F(ValidateReferences, AMissingLibraryIsReportedAndNamedByItsIdentifier) {
     EXPECT_THAT(rows(), ElementsAre(notSupported(std::string("TypeLib with UUID = ") + kId)));
 }
 
+TEST_F(ValidateReferences, AControlThatThisMachineLacksIsReported) {
+    targets.knows.tavlets = {kId};
+    EXPECT_TRUE(run());
+    EXPECT_THAT(trace.effects, testing::Contains("box 48 Fernwick: Could not get ProgID of \r\ndefined in Palm-1"));
+    set("Quinloft Global", "ScanReferences", "False");
+    EXPECT_TRUE(run());
+    EXPECT_THAT(trace.effects, testing::Not(testing::Contains(testing::StartsWith("box"))));
+}
+
 TEST_F(ValidateReferences, WithoutDesignTargetsTheLookupsAreReported) {
     classes.forget("DesignTargetAccess.QLDesignTargetMgr");
     addReference("{2}", true);

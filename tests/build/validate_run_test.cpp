@@ -92,6 +92,7 @@ TEST_F(ValidateRun, ARefusedProjectIsNeitherScannedNorSaved) {
     EXPECT_THAT(trace.effects, Not(Contains("Demo saved /p/Demo.vbp")));
     EXPECT_EQ(rows().size(), 1U);
     EXPECT_EQ(status(), kCompileFailed);
+    EXPECT_TRUE(messages.isToolWindowShowing()); // no finding of this run has shown it
 }
 
 TEST_F(ValidateRun, ACompileOfAnotherVersionDoesNotCauseASave) {

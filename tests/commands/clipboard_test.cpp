@@ -37,6 +37,15 @@ TEST_F(KeptClipboard, EmptyStaysEmpty) {
     EXPECT_THAT(pasteboard.contents, IsEmpty());
 }
 
+/// What an earlier start saved and could not restore does not come back.
+TEST_F(KeptClipboard, EmptyStaysEmptyAfterAStartThatCouldNotRestore) {
+    clips.BackupClipboardData();
+    pasteboard.contents.clear();
+    clips.BackupClipboardData();
+    clips.RestoreClipboardData();
+    EXPECT_THAT(pasteboard.contents, IsEmpty());
+}
+
 TEST_F(KeptClipboard, IsRestoredOnce) {
     start();
     pasteboard.contents.clear();

@@ -1,5 +1,6 @@
 // Help, the utilities' programs and the texts of the string table.
 #include "Add-in/commands/command_texts.h"
+#include "Add-in/commands/frmAbout.h"
 #include "Add-in/commands/frmGettingStarted.h"
 #include "Add-in/commands/modHelpManagement.h"
 #include "Add-in/commands/modViewConvertManagement.h"
@@ -180,6 +181,18 @@ TEST(StringTable, KeepsWhatTheMenuDoesNotUse) {
     EXPECT_STREQ(fernwick::command_texts::kPalmOSString.text, "&Palm OS");
     EXPECT_STREQ(fernwick::command_texts::kPocketPCString.text, "P&ocketPC");
     EXPECT_STREQ(fernwick::command_texts::kDeployToTargetString.text, "Deploy To Design &Target");
+}
+
+TEST(About, NamesTheProductItsVersionAndItsMaker) {
+    test::TracedPlatform machine;
+    machine.platform.app.WebAddress = "web.example";
+    const fernwick::frmAbout about{machine.platform, machine.errors};
+    EXPECT_EQ(about.Caption(), "About Fernwick");
+    EXPECT_EQ(about.lblProduct.Caption(), "Quinloft Fernwick");
+    EXPECT_EQ(about.lblVersion.Caption(), "Version 3.5.0 (0624)");
+    EXPECT_EQ(about.lblMaker.Caption(), "Fernwick turns Visual Basic projects into applications for handheld devices.");
+    EXPECT_EQ(about.lblWebAddress.Caption(), "Visit web.example for more information.");
+    EXPECT_EQ(about.btnOK.Caption(), "OK");
 }
 
 } // namespace

@@ -136,9 +136,11 @@ TEST_F(MenuState, TheImportersItemIsTheLastThatMatches) {
         return fernwick::modMenuManagement::AddToAddInCommandBar(items.gUtilitiesPopup, caption);
     };
     EXPECT_FALSE(menu.FindConverterMenuItem());
-    add("The Fernwick Project Converter...");
-    const auto last = add("Fernwick Project Converter");
+    const auto first = add("Fernwick Project Converter");
+    EXPECT_EQ(menu.FindConverterMenuItem(), first);
+    const auto last = add("The Fernwick Project Converter..."); // contains the words
     add("fernwick project converter");
+    add("Fernwick Project");
     EXPECT_EQ(menu.FindConverterMenuItem(), last);
     EXPECT_EQ(items.gConverterItem, last);
     last->Caption("other");

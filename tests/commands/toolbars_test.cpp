@@ -203,4 +203,30 @@ TEST_F(Toolbars, AFailingCallEndsTheSetUpWithOneReport) {
     EXPECT_EQ(errors.seen.back(), "modToolbarManagement.SetupSupportToolbar [91]");
 }
 
+/// A store of the user that cannot be opened.
+struct ClosedStore : test::MemoryRegistry {
+    std::int32_t RegOpenKeyEx(std::uint32_t, const std::string&, std::uint32_t, std::uint32_t&) override {
+        return fernwick::ERROR_ACCESS_DENIED;
+    }
+    std::int32_t RegCreateKeyEx(std::uint32_t, const std::string&, std::uint32_t, std::uint32_t&,
+                                std::uint32_t&) override {
+        return fernwick::ERROR_ACCESS_DENIED;
+    }
+};
+
+TEST_F(Toolbars, AStoreThatCannotBeOpenedIsIgnored) {
+    toolbars.SetupQuinloftToolbar();
+    ClosedStore closed;
+    fernwick::modRegistry2 closedRegistry{closed};
+    fernwick::modAddinPrefsManagement noPrefs{closedRegistry, errors};
+    const auto effects = effectsOf([&] {
+        trace.calls = 0;
+        noPrefs.SaveToolbarState(items.gMainToolbar);
+        EXPECT_EQ(trace.calls, 0); // nothing is asked of the bar
+        EXPECT_FALSE(noPrefs.ReadToolbarState(items.gMainToolbar));
+    });
+    EXPECT_THAT(effects, IsEmpty());
+    EXPECT_THAT(errors.seen, IsEmpty());
+}
+
 } // namespace

@@ -53,6 +53,50 @@ TEST_F(Dispatch, ServesTheDevicesChosenInTheSettings) {
     EXPECT_EQ(std::count(effects.begin(), effects.end(), "form frmSendRuntimeToDevice"), 2);
 }
 
+TEST_F(Dispatch, TheSettingsDoNotScanWhenTheyOpen) {
+    ProjectsWorld::open("A", "Palm-1");
+    for (auto* sink : {&connection->QuinloftSettingsHandler, &connection->DeployAllDevices}) {
+        user.answers = {fernwick::vbYes, fernwick::vbNo};
+        noted.scansInSettings = true;
+        click(*sink);
+        EXPECT_EQ(noted.settingsOf, vbe->active);
+        EXPECT_FALSE(noted.scansInSettings);
+    }
+}
+
+/// The first call of a handler to the host or to a feature fails.
+TEST_F(Dispatch, CommandsReportUnderTheirOwnNames) {
+    ProjectsWorld::open("A", "Palm-1");
+    const std::vector<std::pair<fernwick::Command*, std::string>> commands{
+        {&connection->CompileProjectHandler, "CompileProjectHandler"},
+        {&connection->ToolCompileProjectHandler, "CompileProjectHandler"},
+        {&connection->ToolDeployProjectHandler, "ToolDeployProjectHandler"},
+        {&connection->CompileErrorWindowHandler, "CompileErrorWindowHandler"},
+        {&connection->ZoomWindowHandler, "ZoomWindowHandler"},
+        {&connection->ToolZoomWindowHandler, "ZoomWindowHandler"}};
+    for (const auto& [sink, handler] : commands) {
+        *sink = vbe->Events()->CommandBarEvents(item("clicked"));
+        errors.seen.clear();
+        trace.calls = 0;
+        trace.failing = 1;
+        bool handled = false, cancel = false;
+        sink->source()->Click.raise(item("clicked"), handled, cancel);
+        trace.failing = 0;
+        ASSERT_FALSE(errors.seen.empty()) << handler;
+        EXPECT_EQ(errors.seen.front(), "Connect." + handler + "_Click [50000]");
+    }
+}
+
+TEST_F(Dispatch, ADeviceItemDoesNotCheckForAProject) {
+    for (auto* sink : {&connection->DeployDevice[0], &connection->MakePackageDevice[0]}) {
+        errors.seen.clear();
+        click(*sink);
+        ASSERT_FALSE(errors.seen.empty());
+        EXPECT_EQ(errors.seen.front(), "modProjectHandler.GetQLProject [91]");
+        EXPECT_THAT(errors.seen, testing::Contains("frmSendToDevice.SendProjectToDevice [91]")); // called all the same
+    }
+}
+
 TEST_F(Dispatch, ShowsTheIntroduction) {
     EXPECT_THAT(click(connection->SampleIntroHandler), ElementsAre("form frmGettingStarted"));
 }
@@ -122,15 +166,6 @@ TEST_F(FailingDispatch, TheDownloadHasNoTrap) {
     reportOf(items().gDownloadItem, 2);
     ASSERT_EQ(host.failures.size(), 1U);
     EXPECT_EQ(host.failures[0].Number, test::kInjected);
-}
-
-TEST_F(FailingDispatch, ADeviceItemDoesNotCheckForAProject) {
-    connect();
-    for (const auto& control : {items().gDeployItems[0], items().gPackageItems[0]}) {
-        control->Enabled(true); // a disabled item is not executed
-        click(control);
-    }
-    EXPECT_THAT(trace.effects, testing::Contains(HasSubstr(in("modProjectHandler.GetQLProject"))));
 }
 
 } // namespace

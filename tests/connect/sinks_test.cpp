@@ -32,6 +32,13 @@ protected:
         for (int i = 0; i < count; ++i) all.push_back(item(family + std::to_string(i)));
         return {0, all};
     }
+    /// Returns the effects of a click on a sample.
+    std::vector<std::string> clicked(fernwick::clsSampleMenuItem& sample) {
+        trace.effects.clear();
+        bool handled = false, cancel = false;
+        sample.myOfficeEvents.source()->Click.raise(sample.myOfficeCommandBar, handled, cancel);
+        return trace.effects;
+    }
     std::vector<std::string> wired() {
         trace.effects.clear();
         connection->SetupMenuHandlers(vbe);
@@ -157,14 +164,23 @@ TEST_F(Sinks, OfSamplesBelongToTheSamples) {
     sample->myOfficeCommandBar = item("address book");
     items.gSampleItems = {0, {popup, sample}};
     EXPECT_THAT(wired(), ElementsAre("address book"));
-    int opened = 0;
-    const auto heard = sample->picked.connect([&](fernwick::clsSampleMenuItem& picked) {
-        EXPECT_EQ(&picked, sample.shared().get());
-        ++opened;
-    });
-    bool handled = false, cancel = false;
-    sample->myOfficeEvents.source()->Click.raise(sample->myOfficeCommandBar, handled, cancel);
-    EXPECT_EQ(opened, 1);
+    EXPECT_FALSE(bool(popup->myOfficeEvents));
+    sample->fullPath = "/s/Tip.vbp";
+    EXPECT_THAT(clicked(*sample), ElementsAre("open /s/Tip.vbp alone"));
+}
+
+TEST_F(Sinks, AssignedTwiceHandleAClickOnce) {
+    items.gSettingsItem = item("settings");
+    const auto sample = basic::make<fernwick::clsSampleMenuItem>();
+    sample->myOfficeCommandBar = item("address book");
+    sample->fullPath = "/s/Tip.vbp";
+    items.gSampleItems = {0, {sample}};
+    wired();
+    const auto replaced = connection->QuinloftSettingsHandler.source();
+    EXPECT_THAT(wired(), ElementsAre("settings", "address book"));
+    EXPECT_THAT(clicked(*sample), ElementsAre("open /s/Tip.vbp alone"));
+    EXPECT_FALSE(replaced->Click.hasHandlers());
+    EXPECT_TRUE(connection->QuinloftSettingsHandler.source()->Click.hasHandlers());
 }
 
 TEST_F(Sinks, OfTheMenuPrecedeThoseOfTheToolbars) {

@@ -1,4 +1,5 @@
 #include "Add-in/core/guids.h"
+#include "Basic/runtime_error.h"
 #include <gtest/gtest.h>
 
 using namespace fernwick;
@@ -23,6 +24,10 @@ TEST(Guids, WithAndWithoutBraces) {
     text = "none";
     EXPECT_FALSE(NormaliseGuidText(text));
     EXPECT_EQ(text, "none");
+}
+
+TEST(Guids, WithoutANewOneTheTextSaysSo) {
+    EXPECT_EQ(CreateGUID([]() -> basic::GUID { throw basic::RuntimeError(basic::kInvalidProcedureCall); }), "{Error}");
 }
 
 TEST(Guids, NewOnesHaveNoBracesAndDiffer) {

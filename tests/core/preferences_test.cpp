@@ -136,11 +136,14 @@ TEST_F(Preferences, ReportsAnInvalidDeviceCount) {
     EXPECT_EQ(errors.seen, Texts{"modAddinPrefsManagement.loadMyDevices [13]"});
 }
 
-TEST_F(Preferences, LimitsAnAbsurdDeviceCount) {
-    setNumber(kUser, kMyDevices, "MyDeviceCount", 0x7FFFFFFF);
+TEST_F(Preferences, ADamagedDeviceCountIsAnEmptyList) {
     setText(kUser, kMyDevices, "MyDevice4", "PalmOS");
+    setNumber(kUser, kMyDevices, "MyDeviceCount", 65536);
     prefs.loadMyDevices();
     EXPECT_EQ(prefs.gMyDevices, Texts{"PalmOS"});
+    setNumber(kUser, kMyDevices, "MyDeviceCount", 65537);
+    prefs.loadMyDevices();
+    EXPECT_EQ(prefs.gMyDevices, Texts{});
 }
 
 TEST_F(Preferences, GroupsAreFoundByNameAndByPosition) {

@@ -1,5 +1,6 @@
 #pragma once
 // Projects on disk, and devices that the test controls.
+#include "Host/system/classes.h"
 #include "Host/system/file_system.h"
 #include "fake_pipe.h"
 #include "tests/support/add_in_world.h"
@@ -90,6 +91,11 @@ struct DiskPlatform : TracedPlatform {
 /// The add-in over files on disk, and the devices of one family.
 struct PipesWorld : AddInWorld<DiskPlatform> {
     PipesWorld() { vbe->templatePath = folder / "Template"; }
+    /// Removes the pipe. Its creation then fails as on a real platform.
+    void removePipe() {
+        family.registerAs(family.pipeClass, "FakePipe.Pipe",
+                          [this] { return host::Classes{registry}.CreateObject("FakePipe.Pipe"); });
+    }
     FakePipeFamily family{trace, classes};
 };
 

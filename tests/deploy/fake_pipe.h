@@ -98,6 +98,7 @@ private:
             family_.trace.effect("validator's sink");
             sink_ = &sink;
         }
+        void SetDevice(const std::string& key) override { family_.trace.effect("validate for " + key); }
 
     private:
         FakePipeFamily& family_;

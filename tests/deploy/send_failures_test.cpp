@@ -33,6 +33,16 @@ protected:
         const auto at = std::find(trace.effects.begin(), trace.effects.end(), what);
         return {at == trace.effects.end() ? at : at + 1, trace.effects.end()};
     }
+    /// Returns how many references to the pipe there are while each box of a failure is shown.
+    std::vector<long> holdersAtBoxes(bool makePackage) {
+        std::vector<long> holders;
+        trace.observer = [&](const std::string& effect) {
+            if (effect.starts_with("box 16")) holders.push_back(family.holders());
+        };
+        run(makePackage);
+        trace.observer = {};
+        return holders;
+    }
     /// The pipe reports an error and returns.
     void pipeErrs(bool result) {
         family.work = [result](Sink& sink) { return sink.SendError(20001, "No device"), result; };
@@ -40,7 +50,7 @@ protected:
 };
 
 TEST_F(SendFailures, AMissingPipe) {
-    family.pipeClass.reset();
+    removePipe();
     deploy();
     EXPECT_THAT(after("line: Attempting to pipe create connection..."),
                 ElementsAre(kNoPipe, "pointer 0",
@@ -260,6 +270,56 @@ TEST_F(SendFailures, AnIconThatCannotBeDeletedIsDeletedWithTheForm) {
     deploy();
     EXPECT_TRUE(did("delete qldefault.ico by force"));
     EXPECT_THAT(errors.seen, IsEmpty());
+}
+
+TEST_F(SendFailures, ThePipeIsReleasedBeforeTheBoxOfTheFailure) {
+    family.work = [](Sink&) { return false; };
+    EXPECT_THAT(holdersAtBoxes(false), ElementsAre(0));
+    EXPECT_THAT(holdersAtBoxes(true), ElementsAre(0));
+    storeDependencies({"none.txt,TXT"});
+    user.answers = {fernwick::vbNo, fernwick::vbNo};
+    EXPECT_THAT(holdersAtBoxes(false), ElementsAre(0)); // files are missing
+}
+
+TEST_F(SendFailures, TheAnimationStopsAtTheBoxOfAFailedPackage) {
+    family.work = [](Sink&) { return false; };
+    int playing = 1;
+    trace.observer = [&](const std::string& effect) {
+        if (effect == kNoPackage) playing = sendToDevice.aniSend.Playing();
+    };
+    package();
+    EXPECT_EQ(playing, 0);
+    EXPECT_TRUE(sendToDevice.aniSend.Visible()); // stopped, but still visible
+}
+
+/// The host's active project may be another one than the project that was sent.
+TEST_F(SendFailures, TheMessagesAreThoseOfTheHostsActiveProject) {
+    pipeErrs(false);
+    for (const bool makePackage : {false, true}) {
+        trace.observer = [&](const std::string& effect) {
+            if (effect == kNotDeployedSeeMessages || effect == kNoPackageSeeMessages) trace.failing = trace.calls + 1;
+        };
+        errors.seen.clear();
+        run(makePackage); // the call after the box fails: the host is asked for its active project
+        trace.observer = {};
+        EXPECT_THAT(errors.seen, ElementsAre("frmSendToDevice.SendProjectToDevice [50000]"));
+    }
+}
+
+TEST_F(SendFailures, MessagesThatCannotBeStoredLeaveAnEmptyStatus) {
+    const auto endWith = [this](const std::function<void(Sink&)>& message) {
+        project->readOnly = false;
+        family.work = [this, message](Sink& sink) {
+            project->readOnly = true;
+            message(sink);
+            return true;
+        };
+        deploy();
+        return status();
+    };
+    EXPECT_EQ(endWith([](Sink& sink) { sink.SendWarning("Large", "", 0, 100); }), "");
+    EXPECT_EQ(endWith([](Sink& sink) { sink.SendError(20001, "Lost"); }), "");
+    EXPECT_EQ(endWith([](Sink&) {}), "SUCCESS - Compile and validate completed successfully.");
 }
 
 } // namespace

@@ -28,8 +28,8 @@ TEST_F(SendRun, ADeploymentPerformsItsStepsInOrder) {
                             "Foo dirty 0", "form frmSendToDevice", "pointer 11", "animation shown",
                             "line: Attempting to pipe create connection...", "line: Gathering Project List...",
                             "pipe's sink", "line: Scanning Project for Dependencies...", "validator's sink",
-                            "validate files of Foo", "copy qldefault.ico", "send Foo to Palm", "line: Sending",
-                            "line: Upload Complete", "animation hidden", "finished shown",
+                            "validate for Palm", "validate files of Foo", "copy qldefault.ico", "send Foo to Palm",
+                            "line: Sending", "line: Upload Complete", "animation hidden", "finished shown",
                             "delete qldefault.ico by force", "pointer 0",
                             "status: SUCCESS - Compile and validate completed successfully."));
     EXPECT_EQ(sendToDevice.LastResult(), true);
@@ -154,6 +154,8 @@ TEST_F(SendRun, InvalidDependenciesMayBeEdited) {
     const auto question = std::find(trace.effects.begin(), trace.effects.end(), kInvalid);
     EXPECT_THAT((std::vector<std::string>{question + 1, question + 3}),
                 ElementsAre("cursor 11", "settings Dependencies"));
+    EXPECT_EQ(noted.settingsOf, project);
+    EXPECT_FALSE(noted.scansInSettings);
     EXPECT_THAT(family.resources, ElementsAre("Foo.0000.qlx", "data.txt"));
 }
 
@@ -194,6 +196,17 @@ TEST_F(SendRun, AWarningIsStoredWithAnOffsetAndShownAtOnce) {
     EXPECT_EQ(stored("Error1"), "WARNING|" + path("Module1.bas") + "|3|Icon is large|3123");
     EXPECT_EQ(status(), "Compiling and validating..."); // messages replace a status
     EXPECT_EQ(sendToDevice.LastResult(), true);
+}
+
+/// The project's own device may be another one.
+TEST_F(SendRun, TheFilesAreJudgedForTheDeviceOfTheRun) {
+    targets.known = {"Palm", "Pocket"};
+    project->properties[{"Quinloft Global", "TargetDevice"}] = "Palm";
+    for (const bool makePackage : {false, true}) {
+        trace.effects.clear();
+        sendToDevice.SendProjectToDevice(qlProject, makePackage, "Pocket");
+        EXPECT_THAT(effectsOf("validate "), ElementsAre("for Pocket", "files of Foo"));
+    }
 }
 
 TEST_F(SendRun, AValidatorRaisesTheSameEvents) {

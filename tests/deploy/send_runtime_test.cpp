@@ -42,9 +42,14 @@ TEST_F(SendRuntime, TheFormShowsItsProgress) {
         sink.SendProgress("Half way", 50);
         EXPECT_EQ(sendRuntime.prgbarUpdate.Value(), 50.0F);
         EXPECT_EQ(trace.effects.back(), "posted");
+        sink.SendComplete();
+        EXPECT_EQ(sendRuntime.aniSend.Playing(), 0);
+        EXPECT_FALSE(sendRuntime.ControlBox);
         return true;
     };
     run();
+    EXPECT_TRUE(did("line: Half way"));
+    EXPECT_TRUE(did("finished shown"));
 }
 
 TEST_F(SendRuntime, AnErrorStaysOnTheScreenUntilTheUserConfirmsIt) {
@@ -68,6 +73,27 @@ TEST_F(SendRuntime, WarningsAreIgnored) {
     run();
     EXPECT_EQ(trace.effects[trace.effects.size() - 4], "line: Upload Complete");
     EXPECT_EQ(sendRuntime.LastResult(), true);
+}
+
+TEST_F(SendRuntime, NothingReachesTheMessagesOfTheProject) {
+    const auto project = basic::make<test::TracedProject>(trace, "Foo", folder / "Foo/Foo.vbp");
+    vbe->active = project;
+    projects.AddToProjectsList(project);
+    projects.gCurrentProject = project;
+    messages.createToolWindow();
+    family.work = [](Sink& sink) {
+        sink.SendWarning("Old", "", 0, 100);
+        sink.SendError(20001, "No device");
+        return false;
+    };
+    run();
+    EXPECT_TRUE(did("box 16 Fernwick: ERROR - No device (20001)"));
+    removePipe();
+    run();
+    EXPECT_EQ(project->stored("NumErrors"), "(none)");
+    EXPECT_EQ(window->rowCount(), 1);
+    EXPECT_FALSE(messages.isToolWindowShowing());
+    EXPECT_EQ(window->lblStatusText(), "");
 }
 
 TEST_F(SendRuntime, ThePipeIsReleasedInsideItsOwnCall) {
@@ -94,7 +120,7 @@ TEST_F(SendRuntime, WithoutACompletionItDidNotSucceed) {
 }
 
 TEST_F(SendRuntime, AMissingPipe) {
-    family.pipeClass.reset();
+    removePipe();
     run();
     EXPECT_THAT(trace.effects,
                 ElementsAre("form frmSendRuntimeToDevice", "pointer 11", "animation shown",
@@ -130,7 +156,7 @@ TEST_F(SendRuntime, AnErrorThatLeavesThePipeIsReported) {
 }
 
 TEST_F(SendRuntime, TheNextRunStartsFresh) {
-    family.pipeClass.reset();
+    removePipe();
     run();
     family.offerPipe();
     family.work = [&](Sink& sink) {

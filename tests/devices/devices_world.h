@@ -73,6 +73,7 @@ struct FixedValidation : qlpipe::IQLPipeValidation {
     bool IsDeviceSupported(const std::string&) override { return supported; }
     bool ValidateFiles(const basic::Ref<vbide::VBProject>&, const qlpipe::ProjectFiles&) override { return true; }
     void SetEventSink(qlpipe::IQLPipeEvents&) override {}
+    void SetDevice(const std::string&) override {}
 };
 
 struct DevicesPlatform : TracedPlatform {

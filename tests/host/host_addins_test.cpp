@@ -125,7 +125,10 @@ TEST(HostAddins, AToolWindowHasADocumentAndIsHidden) {
     EXPECT_EQ(host.ide->Windows()->items().size(), 1u);
     window->SetFocus();
     EXPECT_TRUE(window->Visible());
-    EXPECT_EQ(errorOf([&] { host.ide->Windows()->CreateToolWindow(addIn, "None.Such", "", "", document); }), 429);
+    const auto refused =
+        basic::attempt([&] { host.ide->Windows()->CreateToolWindow(addIn, "None.Such", "", "", document); });
+    EXPECT_EQ(refused.Number, 429);
+    EXPECT_EQ(refused.Source, "VBIDE"); // the host creates the document
     EXPECT_EQ(errorOf([&] { host.ide->Windows()->CreateToolWindow(nullptr, "x", "", "", document); }), 5);
     EXPECT_EQ(host.ide->TemplatePath(), host.folder / "Template");
 }

@@ -61,6 +61,16 @@ TEST_F(OpeningASample, AsksOnceAboutDiscardedChanges) {
     EXPECT_THAT(openNames(), ElementsAre("/s/Tip.vbp"));
 }
 
+TEST_F(OpeningASample, OpensWhenTheProjectHasGoneMeanwhile) {
+    open("A", "Palm-1")->dirty = true;
+    user.answers = {fernwick::vbNo};
+    trace.observer = [this](const std::string& effect) {
+        if (effect.starts_with("box")) vbe->active = nullptr; // closed while the question is shown
+    };
+    EXPECT_THAT(pick(), ElementsAre(testing::StartsWith("box"), "open /s/Tip.vbp alone"));
+    EXPECT_THAT(errors.seen, IsEmpty());
+}
+
 TEST_F(OpeningASample, WithoutAPathNamesTheSupport) {
     sample.fullPath.clear();
     EXPECT_THAT(pick(),

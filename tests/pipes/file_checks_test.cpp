@@ -184,6 +184,19 @@ TEST_F(ValidateFiles, ChecksForTheFamilysFirstTargetIfTheProjectIsForAnotherFami
     EXPECT_THAT(sink.errorNumbers(), ElementsAre(qlpipe::kFileTooLarge));
 }
 
+TEST_F(ValidateFiles, ChecksForTheDeviceOfTheRunWhateverTheProjectsIs) {
+    project.image().add("film.wav", std::string(34'000'000, 'x'));
+    const auto judge = [&](const std::string& device, const basic::Ref<vbide::VBProject>& vbProject) {
+        const auto validation = world.create<qlpipe::IQLPipeValidation>("QLPipePocketPC.Validation");
+        validation->SetDevice(device);
+        return validation->ValidateFiles(vbProject, project.files());
+    };
+    const auto arm = ide.open(test::SampleProject("Arm").handheld("PocketPC-ARM"));
+    const auto palm = ide.open(test::SampleProject("Palm").handheld("PalmOS-DragonBall"));
+    EXPECT_TRUE(judge("PocketPC-ARM", palm)) << "an ARM device has 64 MB";
+    EXPECT_FALSE(judge("PocketPC-SH3", arm)) << "an SH3 device has 32 MB";
+}
+
 TEST_F(ValidateFiles, ServesTheSshFamily) {
     project.image().add("manual.doc", "x");
     EXPECT_FALSE(validate("QLPipeLinux"));

@@ -47,7 +47,7 @@ TEST_F(ProjectLists, AMissingEntryIsReportedUnderTheProjectsName) {
 }
 
 TEST_F(ProjectLists, AnInvalidOrExcessiveCountReadsAsZero) {
-    for (const char* count : {"many", "2000000000", "-3"}) {
+    for (const char* count : {"many", "65537", "2000000000", "-3"}) {
         store(kDependencies, "NumFontDependencies", count);
         EXPECT_EQ(project->GetFontDependencies(), Texts{}) << count;
     }
@@ -77,6 +77,17 @@ TEST_F(ProjectLists, WithoutTargetsTheListIsUnchanged) {
     project->GetCompileTargetsList(list);
     EXPECT_EQ(list[0], "mine");
     EXPECT_FALSE(project->IsSetCompileTarget(""));
+}
+
+TEST_F(ProjectLists, AnInvalidOrExcessiveTargetCountReadsAsZero) {
+    Array<std::string> list{0, {"mine"}};
+    for (const char* count : {"many", "65537", "2147483647", "-3"}) {
+        store("Quinloft Global", "NumCompileTargets", count);
+        project->GetCompileTargetsList(list);
+        EXPECT_EQ(project->NumCompileTargets(), 0) << count;
+        EXPECT_EQ(list[0], "mine") << count;
+    }
+    EXPECT_TRUE(reports().empty());
 }
 
 TEST_F(ProjectLists, AnUnallocatedTargetListIsReported) {

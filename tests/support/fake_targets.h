@@ -10,8 +10,10 @@ namespace test {
 /// Identifiers of the libraries and modules that the targets know.
 struct KnownModules {
     std::set<std::string> references, modules;
-    /// Identifiers of the libraries that each project must carry, and of the controls.
-    std::vector<std::string> required, tavlets;
+    /// Identifiers of the libraries that each project must carry.
+    std::vector<std::string> required;
+    /// Identifiers of the controls that the targets support.
+    std::vector<std::string> tavlets;
 };
 
 /// Paths of each target's templates.
@@ -34,9 +36,10 @@ public:
     std::string DefaultFontName() const override { return "Font"; }
     std::string TavletStyleID() const override { return "2"; }
     bool GetOption(const std::string&, std::string&) const override { return false; }
-    void GetSupportedTavlets(std::vector<std::string>& clsids, std::vector<std::string>&,
+    void GetSupportedTavlets(std::vector<std::string>& clsids, std::vector<std::string>& progIds,
                              std::vector<std::string>& categories) const override {
         clsids = knows_.tavlets;
+        progIds.resize(clsids.size());
         categories.resize(clsids.size());
     }
     std::int32_t NumSupportedTavlets() const override { return std::int32_t(knows_.tavlets.size()); }
@@ -108,6 +111,7 @@ private:
         bool IsDeviceSupported(const std::string& key) override { return targets_.refused.count(key) == 0; }
         bool ValidateFiles(const basic::Ref<vbide::VBProject>&, const qlpipe::ProjectFiles&) override { return true; }
         void SetEventSink(qlpipe::IQLPipeEvents&) override {}
+        void SetDevice(const std::string&) override {}
 
     private:
         const FakeTargets& targets_;

@@ -17,8 +17,14 @@ public:
     std::function<void()> inSettings = [] {}, inProjectManager = [] {};
     fernwick::UnknownDeviceChoice unknownDevice;
 
-    void ShowQuinloftSettings(const Project&, const std::string& page, bool) override {
+    /// The arguments of the last call that opened the settings.
+    Project settingsOf;
+    bool scansInSettings = false;
+
+    void ShowQuinloftSettings(const Project& project, const std::string& page, bool scanOnActivate) override {
         trace_.effect("settings " + page);
+        settingsOf = project;
+        scansInSettings = scanOnActivate;
         inSettings();
     }
     void createZoomWindow() override { trace_.effect("create zoom window"); }

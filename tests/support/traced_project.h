@@ -313,6 +313,7 @@ public:
         properties[{section, key}] = value;
         dirty = true;
     }
+    std::string StorableText(const std::string& text) const override { return text; }
     void SaveAs(const std::string& path) override {
         trace_.effect(name + " saved " + path);
         dirty = false;

@@ -27,12 +27,13 @@ public:
     /// Shows the message at the end of the window's list and stores it.
     void AddProjectCompileWarning(const Project& project, const std::string& message, const std::string& fileName,
                                   std::int32_t line, std::int32_t errorNumber);
-    /// Stores only. Failures are silent: a project may be read-only.
+    /// Stores only, with "?" instead of characters that the project's code page lacks. Failures are silent: a project
+    /// may be read-only. Nothing is added to a full list (kMostStoredMessages).
     void AddProjectError(const Project& project, const std::string& message, const std::string& fileName,
                          std::int32_t line, int type, std::int32_t errorNumber);
     /// Empties the window and the stored list.
     void ClearProjectCompileErrors(const Project& project);
-    /// Returns how many messages are stored, including warnings; 0 when the count cannot be read.
+    /// Returns how many messages are stored, including warnings; 0 when the count cannot be read or is damaged.
     std::int32_t NumProjectCompileErrors(const Project& project);
     void ShowProjectCompileErrors(const Project& project, bool onlyIfAny);
     void HideProjectCompileErrors() { hideToolWindow(); }

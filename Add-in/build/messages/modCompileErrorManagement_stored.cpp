@@ -3,7 +3,6 @@
 #include "Add-in/build/messages/modCompileErrorManagement.h"
 #include "Add-in/build/messages/stored_messages.h"
 #include <fmt/format.h>
-#include <limits>
 
 namespace fernwick {
 
@@ -41,11 +40,12 @@ std::string modCompileErrorManagement::FilterCompileMessage(const std::string& t
 void modCompileErrorManagement::AddProjectError(const Project& project, const std::string& message,
                                                 const std::string& fileName, std::int32_t line, int type,
                                                 std::int32_t errorNumber) {
-    std::int32_t count = storedMessageCount(project);
-    if (count < std::numeric_limits<std::int32_t>::max()) ++count;
-    const std::string value =
+    const std::int32_t count = storedMessageCount(project) + 1;
+    if (count > kMostStoredMessages) return; // the whole list would count as damaged
+    std::string value =
         fmt::format("{}|{}|{}|{}|{}", typeWord(type), fileName, line, FilterCompileMessage(message), errorNumber);
     basic::Suppressed quietly;
+    quietly([&] { value = project->StorableText(value); });
     quietly([&] { project->WriteProperty(kErrorsSection, kNumErrors, fmt::to_string(count)); });
     quietly([&] { project->WriteProperty(kErrorsSection, storedMessageKey(count), value); });
 }

@@ -4,7 +4,6 @@
 #include "Basic/runtime_error.h"
 #include "Basic/text.h"
 #include "Basic/text_search.h"
-#include <algorithm>
 #include <fmt/format.h>
 #include <optional>
 
@@ -12,8 +11,6 @@ namespace fernwick {
 
 namespace {
 
-/// Limits the reading, so that a damaged count does not block the IDE for hours.
-constexpr std::int32_t kMostMessagesRead = 100'000;
 constexpr std::size_t kFields = 5, kFieldsWithoutNumber = 4;
 
 std::int32_t numberOrZero(const std::string& text) {
@@ -39,14 +36,13 @@ std::string storedMessageKey(std::int32_t number) { return fmt::format("Error{}"
 std::int32_t storedMessageCount(const basic::Ref<vbide::VBProject>& project) {
     std::int32_t count = 0;
     (void)basic::attempt([&] { count = basic::CLng(project->ReadProperty(kErrorsSection, kNumErrors)); });
-    return count;
+    return count >= 0 && count <= kMostStoredMessages ? count : 0;
 }
 
 std::vector<StoredMessage> storedMessages(const basic::Ref<vbide::VBProject>& project) {
     std::vector<StoredMessage> messages;
     int type = 0;
-    for (std::int32_t number = 1, last = std::min(storedMessageCount(project), kMostMessagesRead); number <= last;
-         ++number) {
+    for (std::int32_t number = 1, last = storedMessageCount(project); number <= last; ++number) {
         std::optional<StoredMessage> message;
         (void)basic::attempt(
             [&] { message = parsed(project->ReadProperty(kErrorsSection, storedMessageKey(number)), type); });

@@ -24,7 +24,10 @@ struct StoredMessage {
     std::int32_t errorNumber = 0;
 };
 
-/// 0 when the count cannot be read.
+/// A larger count is damaged, so that it does not block the IDE for hours.
+inline constexpr std::int32_t kMostStoredMessages = 100'000;
+
+/// 0 when the count cannot be read or is damaged.
 std::int32_t storedMessageCount(const basic::Ref<vbide::VBProject>& project);
 /// In stored order. Messages that cannot be read are left out.
 std::vector<StoredMessage> storedMessages(const basic::Ref<vbide::VBProject>& project);

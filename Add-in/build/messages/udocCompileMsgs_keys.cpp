@@ -3,7 +3,6 @@
 #include "Basic/code_page.h"
 #include "Basic/conversions.h"
 #include "Basic/text_search.h"
-#include "Basic/utf8.h"
 #include <fmt/format.h>
 
 namespace fernwick {
@@ -13,20 +12,9 @@ namespace {
 constexpr char kHelpFile[] = "VB Toolkit\\doc\\Quinloft_Error_Codes.chm";
 /// The pages of the help file are in the folder of its name, each under its number.
 constexpr char kHelpPage[] = "VB Toolkit\\doc\\Quinloft_Error_Codes\\{}.html";
-/// Replaces a character that the code page lacks.
-constexpr char kNoSuchCharacter = '?';
-
 std::string inCodePage(const std::string& text) {
     const auto page = basic::CodePage::windows1252();
-    if (auto bytes = page.tryEncode(text)) return *bytes;
-    std::string bytes;
-    for (std::size_t at = 0; at < text.size();) {
-        const auto from = at;
-        basic::nextCharacter(text, at);
-        bytes +=
-            page.tryEncode(std::string_view(text).substr(from, at - from)).value_or(std::string(1, kNoSuchCharacter));
-    }
-    return bytes;
+    return page.encode(page.replaceMissing(text));
 }
 
 } // namespace

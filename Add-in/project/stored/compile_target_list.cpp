@@ -1,5 +1,4 @@
 #include "Add-in/project/stored/compile_target_list.h"
-#include "Add-in/core/preference_keys.h"
 #include "Basic/conversions.h"
 #include <algorithm>
 
@@ -9,10 +8,7 @@ namespace {
 std::string targetKey(std::int32_t index) { return "CompileTarget" + std::to_string(index); }
 } // namespace
 
-std::int32_t CompileTargetList::count() const {
-    const auto count = store_.readCount(kGlobalSection, "NumCompileTargets");
-    return count <= kMostStoredEntries ? count : 0;
-}
+std::int32_t CompileTargetList::count() const { return store_.readCount(kGlobalSection, "NumCompileTargets"); }
 
 void CompileTargetList::get(Array<std::string>& list) const {
     Procedure here{store_.errors(), "clsQLProject.GetCompileTargetsList"};

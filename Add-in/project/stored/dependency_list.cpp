@@ -1,5 +1,4 @@
 #include "Add-in/project/stored/dependency_list.h"
-#include "Add-in/core/preference_keys.h"
 #include "Basic/conversions.h"
 
 namespace fernwick {
@@ -8,10 +7,7 @@ std::string DependencyList::location(const std::string& procedure) const {
     return store().withProjectName("clsQLProject." + procedure);
 }
 
-std::int32_t DependencyList::count() const {
-    const auto count = store().readCount(kDependenciesSection, countKey());
-    return count <= kMostStoredEntries ? count : 0;
-}
+std::int32_t DependencyList::count() const { return store().readCount(kDependenciesSection, countKey()); }
 
 void DependencyList::setCount(std::int32_t count) {
     Procedure here{store().errors(), location("SetNum" + name())};

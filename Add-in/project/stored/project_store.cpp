@@ -1,4 +1,5 @@
 #include "Add-in/project/stored/project_store.h"
+#include "Add-in/core/preference_keys.h"
 #include "Basic/conversions.h"
 
 namespace fernwick {
@@ -6,7 +7,7 @@ namespace fernwick {
 std::int32_t ProjectStore::readCount(const char* section, const std::string& key) const {
     std::int32_t count = 0;
     (void)basic::attempt([&] { count = basic::CLng(read(section, key)); });
-    return count;
+    return count >= 0 && count <= kMostStoredEntries ? count : 0;
 }
 
 void ProjectStore::write(Procedure& here, const char* section, const std::string& key, const std::string& value) {

@@ -25,7 +25,7 @@ public:
 
     /// Error 5 for a key that is absent.
     std::string read(const char* section, const std::string& key) const { return project->ReadProperty(section, key); }
-    /// 0 for a value that is absent or not a number.
+    /// The length of a stored list; 0 for a value that is absent, not a number or damaged.
     std::int32_t readCount(const char* section, const std::string& key) const;
     void write(Procedure& here, const char* section, const std::string& key, const std::string& value);
     /// Reports a failed read, unless the value is merely absent.

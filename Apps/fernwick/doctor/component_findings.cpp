@@ -18,7 +18,7 @@ using designtargetaccess::IQLDesignTarget;
 template <class T>
 std::string creationProblem(Machine& machine, const std::string& progId, basic::Ref<T>& made) {
     const auto err = basic::attempt([&] { made = basic::cast<T>(machine.classes().CreateObject(progId)); });
-    if (err.Number != 0) return err.Description;
+    if (err.Number != 0) return fmt::format("{}: {}", err.Description, progId);
     return made ? std::string() : progId + " does not have the expected interface";
 }
 

@@ -8,7 +8,8 @@ vbide::Ref<vbide::Window> ToolWindows::CreateToolWindow(const vbide::Ref<vbide::
                                                         const std::string&, vbide::Ref<vbide::Object>& document) {
     if (!addIn) throw hostError(basic::kInvalidProcedureCall);
     if (!classes_) throw hostError(basic::kCantCreateObject);
-    document = classes_->CreateObject(progId);
+    const auto failed = basic::attempt([&] { document = classes_->CreateObject(progId); });
+    if (failed.Number != 0) throw hostError(failed.Number, failed.Description);
     const auto window = std::make_shared<ToolWindow>(caption, document);
     list_.push_back(window);
     added.raise();
