@@ -69,6 +69,8 @@ public:
     /// read back).
     bool writeProperty(std::string_view section, std::string_view key, std::string_view value);
 
+    const basic::CodePage& codePage() const { return codePage_; }
+
 private:
     using Index = std::unordered_map<std::string, Place>;
     struct Section {

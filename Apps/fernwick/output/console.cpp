@@ -120,12 +120,9 @@ void Console::endProgress() {
     lastText_.clear();
 }
 
-std::string Console::ask(std::string_view prompt) {
+void Console::prompt(std::string_view text) {
     clearBar();
-    toError(prompt);
-    std::string line;
-    for (int c = std::fgetc(stdin); c != EOF && c != '\n'; c = std::fgetc(stdin)) line += char(c);
-    return line;
+    toError(text);
 }
 
 } // namespace cli

@@ -5,13 +5,14 @@
 
 namespace cli {
 
-/// The argument of `info`: a project, or a group with its projects.
-struct InfoSubject {
-    std::string group; ///< "" for a single project
+/// The argument of a command: a project, or a group with its projects.
+struct ProjectGroup {
+    std::string path; ///< "" for a single project
     std::vector<std::string> projects;
 };
 
-/// Refusal for a group that cannot be read. `usual` is the code page of files that are not UTF-8.
-InfoSubject infoSubjectOf(const std::string& path, const basic::CodePage& usual);
+/// Each project of a group once. A member that is not a project file is still in the list: opening it fails. Refusal for
+/// a group that cannot be read. `usual` is the code page of files that are not UTF-8.
+ProjectGroup projectGroupOf(const std::string& path, const basic::CodePage& usual);
 
 } // namespace cli
