@@ -14,6 +14,7 @@ public:
     /// The error propagates to the caller of the procedure; only tests record it.
     void escaped(std::string_view) noexcept override {}
 
+    int reports() const override { return reports_; }
     /// Always empty: nothing assigns the module's text.
     std::string Error_GetCurrentLocation() const { return gCurrentLocation; }
     /// Has no effect: its argument is a copy.
@@ -22,6 +23,7 @@ public:
 private:
     Interaction& user_;
     const App& app_;
+    int reports_ = 0;
     const std::string gCurrentLocation;
 };
 

@@ -15,6 +15,8 @@ class ErrorReport {
 public:
     virtual ~ErrorReport() = default;
     virtual void Error_ShowAddInError(const std::string& location, const basic::RuntimeError& error) = 0;
+    /// How many reports were shown.
+    virtual int reports() const { return 0; }
     /// Called for an error that leaves a trapped procedure, which means that a statement is not wrapped. Tests fail on
     /// it.
     virtual void escaped(std::string_view location) noexcept = 0;

@@ -48,6 +48,8 @@ public:
     virtual std::string BuildPath(const std::string& folder, const std::string& name) const = 0;
     /// The path as on disk if the file exists in another letter case, otherwise its native form.
     virtual std::string Canonical(const std::string& path) const = 0;
+    /// The file that a path leads to. A front end may keep some of a project's files elsewhere.
+    virtual std::string PlaceOnDisk(const std::string& path) const { return Canonical(path); }
     virtual bool SamePath(const std::string& a, const std::string& b) const = 0;
     /// The folder's path with a trailing separator.
     virtual std::string WithSeparator(const std::string& folder) const = 0;

@@ -31,17 +31,18 @@ std::string findInstallation(const fernwick::Environment& environment) {
 }
 
 Machine::Machine(FrontEnd front)
-    : installation_(findInstallation(environment_)),
+    : files_(std::move(front.files)),
+      installation_(findInstallation(environment_)),
       registry_(host::usualRegistryPlaces(environment_, installation_)),
       classes_(registry_),
-      processes_(std::move(front.mayRun), std::move(front.interrupted)),
-      shell_(files_, std::move(front.report)),
-      resources_(files_, installation_),
+      processes_(std::move(front.processes)),
+      shell_(*files_, std::move(front.report)),
+      resources_(*files_, installation_),
       platform_{front.user,
                 front.loop,
                 registry_,
-                files_,
-                processes_,
+                *files_,
+                *processes_,
                 classes_,
                 environment_,
                 front.clipboard,
@@ -60,7 +61,7 @@ void Machine::registerComponents() {
     add("DesignTargetAccess.QLDesignTargetMgr",
         [this] { return basic::make<designtargetaccess::DesignTargetMgr>(installation_); });
     add("QLToolkit.CompilerFactory", [this] {
-        return basic::make<qltoolkit::ProjectCompilerFactory>(qltoolkit::CompilerServices{files_, classes_, build_});
+        return basic::make<qltoolkit::ProjectCompilerFactory>(qltoolkit::CompilerServices{*files_, classes_, build_});
     });
     add("Scripting.FileSystemObject", [] { return basic::make<host::FileSystem>(); });
     qlpipe::registerPipes(pipeServices(), add);

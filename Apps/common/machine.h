@@ -12,6 +12,7 @@
 #include "Host/system/resources.h"
 #include "Host/system/screen.h"
 #include "Host/system/shell.h"
+#include <memory>
 
 namespace apps {
 
@@ -20,11 +21,11 @@ struct FrontEnd {
     fernwick::Interaction& user;
     fernwick::EventLoop& loop;
     fernwick::Clipboard& clipboard;
-    /// Whether a command line of a project may run.
-    host::Processes::Permission mayRun;
-    host::Processes::Interrupted interrupted;
+    /// Runs the command lines of projects.
+    std::unique_ptr<fernwick::Processes> processes;
     /// Called for a document that no installed program can show.
     host::Shell::Report report;
+    std::unique_ptr<host::FileSystem> files = std::make_unique<host::FileSystem>();
 };
 
 /// Stores, fonts and targets are read on first use.
@@ -43,7 +44,7 @@ public:
     /// Record of the pipes' transfers; clear it before a run.
     qlpipe::TransferRecord& transfers() { return *transfers_; }
     qlpipe::PipeServices pipeServices() {
-        return {files_, classes_, registry_, environment_, installation_, transfers_};
+        return {*files_, classes_, registry_, environment_, installation_, transfers_};
     }
 
 private:
@@ -51,11 +52,11 @@ private:
 
     host::Environment environment_;
     host::Clock clock_;
-    host::FileSystem files_;
+    std::unique_ptr<host::FileSystem> files_;
     std::string installation_;
     host::RegistryStore registry_;
     host::Classes classes_;
-    host::Processes processes_;
+    std::unique_ptr<fernwick::Processes> processes_;
     host::Shell shell_;
     host::Screen screen_;
     host::Resources resources_;

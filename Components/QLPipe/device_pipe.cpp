@@ -84,7 +84,8 @@ bool DevicePipe::MakePackage(const std::string& deviceName, const basic::Ref<vbi
         needOwnDevice(deviceName);
         const auto bundle = checkedBundle(deviceName, files, application);
         if (!bundle) return false;
-        const auto path = services_.files.BuildPath(services_.files.Canonical(saveLocation), packageName(*bundle));
+        const auto& disk = services_.files;
+        const auto path = disk.PlaceOnDisk(disk.BuildPath(saveLocation, packageName(*bundle)));
         writePackage(path, *bundle, sink_);
         services_.record->package = saveLocation = path;
         return true;

@@ -71,6 +71,8 @@ public:
     /// Returns the text with "?" instead of line breaks and of characters that the code page lacks.
     std::string storableText(std::string_view text) const;
 
+    const basic::CodePage& codePage() const { return codePage_; }
+
 private:
     using Index = std::unordered_map<std::string, Place>;
     struct Section {

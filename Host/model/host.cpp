@@ -130,7 +130,7 @@ std::optional<FileStamp> Host::writeFile(Project& project, const std::string& pa
             raiseFile(&Events::AfterWriteFile, project, path, int(kWriteCancelled));
             return {};
         }
-        const auto stamp = atomicSave(path, bytes, asRead);
+        const auto stamp = options_.writesFiles ? atomicSave(path, bytes, asRead) : asRead.value_or(FileStamp{});
         raiseFile(&Events::AfterWriteFile, project, path, int(kWritten));
         return stamp;
     } catch (const basic::RuntimeError&) {

@@ -35,6 +35,8 @@ struct HostOptions {
     /// Called before a save replaces a file that another program changed since it was read; false cancels the save.
     /// Without this function such a save fails with error 75.
     std::function<bool(const std::string& path)> mayReplaceChanged;
+    /// False to keep the changes of a save in memory only, so that the files on disk stay as they are.
+    bool writesFiles = true;
     /// Asks the user which project to open; "" for none. Without it the menu command does nothing.
     std::function<std::string()> askForProject;
 };

@@ -10,6 +10,9 @@ namespace host {
 /// The first line of a .reg file.
 inline constexpr std::string_view kRegHeader = "Windows Registry Editor Version 5.00";
 
+/// The first line of a file of earlier registry editors, whose texts are in the system's code page, here 1252.
+inline constexpr std::string_view kOldRegHeader = "REGEDIT4";
+
 /// One instruction of a .reg file. Instructions are executed in the file's order.
 struct RegInstruction {
     enum class Kind { MakeKey, DeleteKey, SetValue, DeleteValue };
@@ -21,7 +24,8 @@ struct RegInstruction {
     std::size_t line = 0; ///< in the file, from 1; 0 if not read from a file
 };
 
-/// Reads a .reg file in little-endian UTF-16 or UTF-8, with or without a byte order mark and with any line ends.
+/// Reads a .reg file in little-endian UTF-16 or UTF-8, with or without a byte order mark and with any line ends, or one
+/// with the old header.
 /// Converts text values to UTF-8. Error 321 for a syntax error, "`fileName`:line: reason".
 std::vector<RegInstruction> readRegText(std::string_view bytes, std::string_view fileName);
 

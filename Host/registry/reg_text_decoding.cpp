@@ -1,6 +1,8 @@
 #include "Host/registry/reg_text_decoding.h"
+#include "Basic/code_page.h"
 #include "Host/files/encoding.h"
 #include "Host/files/system_error.h"
+#include "Host/registry/reg_text.h"
 #include "Host/registry/utf16.h"
 #include <algorithm>
 #include <fmt/format.h>
@@ -31,6 +33,7 @@ std::string decodeRegFile(std::string_view bytes, std::string_view file) {
         return std::move(*text);
     }
     if (bytes.starts_with("\xFE\xFF")) regTextError(file, 1, "UTF-16 in big-endian byte order is not a registry file");
+    if (bytes.starts_with(kOldRegHeader)) return basic::CodePage::windows1252().decode(bytes);
     return checkedUtf8(withoutByteOrderMark(bytes), file);
 }
 

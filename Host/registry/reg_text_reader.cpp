@@ -1,3 +1,4 @@
+#include "Basic/code_page.h"
 #include "Host/files/text_parts.h"
 #include "Host/registry/reg_text.h"
 #include "Host/registry/reg_text_decoding.h"
@@ -37,8 +38,9 @@ public:
     RegTextReader(std::string text, std::string_view file) : text_(std::move(text)), file_(file) {}
 
     std::vector<RegInstruction> read() {
-        if (!nextLine() || !line_.starts_with(kRegHeader) || !isEndOrComment(line_.substr(kRegHeader.size())))
+        if (!nextLine() || (!isHeader(kRegHeader) && !isHeader(kOldRegHeader)))
             fail(fmt::format("the first line is not \"{}\"", kRegHeader));
+        isOld_ = isHeader(kOldRegHeader);
         while (nextLine()) {
             line_ = trimLeft(line_);
             if (isEndOrComment(line_)) continue;
@@ -53,6 +55,10 @@ public:
 private:
     [[noreturn]] void fail(std::string_view reason) const {
         regTextError(file_, std::max<std::size_t>(number_, 1), reason);
+    }
+
+    bool isHeader(std::string_view header) const {
+        return line_.starts_with(header) && isEndOrComment(line_.substr(header.size()));
     }
 
     bool nextLine() {
@@ -108,6 +114,7 @@ private:
         if (!type || !takeRegPrefix(line_, "):")) fail("the type in hex(type): is not a hexadecimal number");
         auto bytes = readHexBytes();
         if (!isRegText(*type)) return {*type, std::move(bytes)};
+        if (isOld_) return {*type, basic::CodePage::windows1252().decode(bytes)};
         auto text = utf8FromUtf16Bytes(bytes);
         if (!text) fail("the bytes are not UTF-16 text");
         return {*type, std::move(*text)};
@@ -162,6 +169,7 @@ private:
     std::string_view line_; ///< the rest of the current line
     std::size_t number_ = 0;
     std::string key_;
+    bool isOld_ = false;
     std::vector<RegInstruction> instructions_;
 };
 

@@ -24,26 +24,26 @@ std::string currentFolder() {
 } // namespace
 
 bool FileSystem::FileExists(const std::string& path) const {
-    const auto state = path.empty() ? std::nullopt : stateOf(Canonical(path));
+    const auto state = path.empty() ? std::nullopt : stateOf(PlaceOnDisk(path));
     return state && !S_ISDIR(state->st_mode);
 }
 
 bool FileSystem::FolderExists(const std::string& path) const {
-    const auto state = path.empty() ? std::nullopt : stateOf(Canonical(path));
+    const auto state = path.empty() ? std::nullopt : stateOf(PlaceOnDisk(path));
     return state && S_ISDIR(state->st_mode);
 }
 
 int FileSystem::GetAttributes(const std::string& path) const {
-    const auto file = Canonical(path);
+    const auto file = PlaceOnDisk(path);
     fileState(file);
     return (isReadOnly(file) ? fernwick::ReadOnlyAttribute : 0) |
            (lastName(file).starts_with('.') ? fernwick::HiddenAttribute : 0);
 }
 
-std::int64_t FileSystem::GetSize(const std::string& path) const { return fileState(Canonical(path)).st_size; }
+std::int64_t FileSystem::GetSize(const std::string& path) const { return fileState(PlaceOnDisk(path)).st_size; }
 
 std::int64_t FileSystem::GetDateLastModified(const std::string& path) const {
-    const auto time = fileState(Canonical(path)).st_mtim;
+    const auto time = fileState(PlaceOnDisk(path)).st_mtim;
     return std::int64_t{time.tv_sec} * kNanosecondsPerSecond + time.tv_nsec;
 }
 
@@ -98,35 +98,35 @@ basic::Ref<fernwick::TextStream> FileSystem::OpenTextFile(const std::string& pat
 }
 
 basic::Ref<fernwick::TextStream> FileSystem::CreateTextFile(const std::string& path, bool overwrite) {
-    const auto file = Canonical(path);
+    const auto file = PlaceOnDisk(path);
     requirePlace(file, overwrite);
     return basic::make<TextWriter>(file);
 }
 
 std::string FileSystem::ReadBytes(const std::string& path) const {
-    return withScriptErrors([&] { return readFile(Canonical(path)).bytes; });
+    return withScriptErrors([&] { return readFile(PlaceOnDisk(path)).bytes; });
 }
 
 std::string FileSystem::ReadHead(const std::string& path, std::size_t most) const {
-    return withScriptErrors([&] { return readFileHead(Canonical(path), most); });
+    return withScriptErrors([&] { return readFileHead(PlaceOnDisk(path), most); });
 }
 
 void FileSystem::WriteBytes(const std::string& path, const std::string& bytes) {
-    const auto file = Canonical(path);
+    const auto file = PlaceOnDisk(path);
     requirePlace(file, true);
     withScriptErrors([&] { atomicSave(file, bytes); });
 }
 
 void FileSystem::SetDateLastModified(const std::string& path, std::int64_t time) {
-    const auto file = Canonical(path);
+    const auto file = PlaceOnDisk(path);
     fileState(file);
     setFileTime(file, time);
 }
 
 void FileSystem::CopyFile(const std::string& from, const std::string& to, bool overwrite) {
-    const auto source = Canonical(from);
+    const auto source = PlaceOnDisk(from);
     const bool intoFolder = to.ends_with('/') || to.ends_with('\\');
-    const auto target = Canonical(intoFolder ? joinedPath(to, lastName(source)) : to);
+    const auto target = PlaceOnDisk(intoFolder ? joinedPath(to, lastName(source)) : to);
     const auto state = fileState(source);
     if (source == target) return;
     requirePlace(target, overwrite);
@@ -137,7 +137,7 @@ void FileSystem::CopyFile(const std::string& from, const std::string& to, bool o
 }
 
 void FileSystem::DeleteFile(const std::string& path, bool force) {
-    const auto file = Canonical(path);
+    const auto file = PlaceOnDisk(path);
     fileState(file);
     if (!force && isReadOnly(file)) throw scriptError(EACCES, "is read-only", file);
     if (::unlink(file.c_str()) != 0) throw scriptError(errno, "cannot be deleted", file);

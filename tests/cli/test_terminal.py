@@ -41,7 +41,7 @@ class Terminal(unittest.TestCase):
     def test_shows_a_progress_bar(self):
         status, shown = self.at_terminal("build", str(self.project), typed="\n")
         self.assertEqual(status, 0, shown)
-        self.assertIn("[yes/no/cancel, Return for Yes]", shown)
+        self.assertIn("[yes/no, Return for Yes]", shown)
         self.assertRegex(shown, r"\r\[#*\.*\] +\d+% ")
         self.assertIn("SUCCESS - Compile and validate completed successfully.", shown)
 

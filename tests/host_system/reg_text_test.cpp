@@ -81,7 +81,7 @@ TEST(RegText, ReadsUtf16AndUtf8WithAnyLineEnd) {
 
 TEST(RegText, ReportsTheLineAndTheReasonOfEveryError) {
     EXPECT_EQ(regErrorOf(""), "a.reg:1: the first line is not \"Windows Registry Editor Version 5.00\"");
-    EXPECT_EQ(regErrorOf("REGEDIT4\r\n"), "a.reg:1: the first line is not \"Windows Registry Editor Version 5.00\"");
+    EXPECT_EQ(regErrorOf("REGEDIT3\r\n"), "a.reg:1: the first line is not \"Windows Registry Editor Version 5.00\"");
     EXPECT_EQ(regErrorOf("\xFE\xFF\0W"s), "a.reg:1: UTF-16 in big-endian byte order is not a registry file");
     EXPECT_EQ(regErrorOf("\xFF\xFEW"s), "a.reg:1: the file is truncated or is not UTF-16 text");
     EXPECT_EQ(bodyError("[A]\n\"\xE4\"=-"), "a.reg:4: the text is neither UTF-16 nor UTF-8");
@@ -158,4 +158,16 @@ TEST(RegText, RoundTripsInBothEncodings) {
 TEST(RegText, RefusesToWriteTextThatIsNotUtf8) {
     const RegInstruction bad{Kind::SetValue, "HKEY_CURRENT_USER\\A", "v", {2, "\xE4\0"s}, 0};
     EXPECT_EQ(basic::attempt([&] { host::writeRegText({bad}, host::RegTextEncoding::Utf16); }).Number, 5);
+}
+
+TEST(RegText, ReadsFilesOfOlderEditorsInCodePage1252) {
+    const auto all = host::readRegText("REGEDIT4\r\n\r\n[HKEY_CURRENT_USER\\A]\r\n\"caf\xE9\"=\"na\xEFve\"\r\n"
+                                       "\"path\"=hex(2):25,e9,25,00\r\n\"number\"=dword:1\r\n",
+                                       "a.reg");
+    ASSERT_EQ(all.size(), 4u);
+    EXPECT_EQ(all[1].name, "café");
+    EXPECT_EQ(all[1].value, (host::RegValue{fernwick::REG_SZ, "naïve\0"s}));
+    EXPECT_EQ(all[2].value, (host::RegValue{fernwick::REG_EXPAND_SZ, "%é%\0"s}));
+    EXPECT_EQ(all[3].value.type, std::uint32_t(fernwick::REG_DWORD));
+    EXPECT_EQ(regErrorOf("REGEDIT41\r\n"), "a.reg:1: the first line is not \"Windows Registry Editor Version 5.00\"");
 }

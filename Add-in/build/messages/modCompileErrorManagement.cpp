@@ -22,6 +22,7 @@ void modCompileErrorManagement::addMessage(const Project& project, const std::st
                                            std::int32_t errorNumber) {
     const std::string title = FindFileTitle(project, fileName);
     addToToolWindow(fileName, title, line, message, type, errorNumber, type == ERROR_MSG);
+    run_.push_back({type, fileName, line, message, errorNumber});
     AddProjectError(project, message, fileName, line, type, errorNumber);
 }
 

@@ -2,6 +2,7 @@
 // The messages of a project: stored in the project, and shown in the tool window.
 #include "Add-in/build/messages/compile_messages.h"
 #include "Add-in/build/messages/file_titles.h"
+#include "Add-in/build/messages/stored_messages.h"
 #include "Add-in/core/AddIn.h"
 #include "Add-in/core/procedure.h"
 #include "Add-in/platform/platform.h"
@@ -62,6 +63,10 @@ public:
     void addToToolWindow(const std::string& fileName, const std::string& title, std::int32_t line,
                          const std::string& message, int type, std::int32_t errorNumber, bool addToTop);
 
+    /// The messages since the list was last cleared, with their full texts: the stored list cannot hold every character
+    /// and may not be writable.
+    const std::vector<StoredMessage>& messagesOfRun() const { return run_; }
+
     RunStatus status() const { return status_; }
     /// Errors in the window.
     std::int32_t errorCount() const { return errorCount_; }
@@ -78,6 +83,7 @@ private:
     FileTitles titles_;
     basic::Ref<CompileMessages> messages_;
     basic::Ref<vbide::Window> window_;
+    std::vector<StoredMessage> run_;
     RunStatus status_ = RunStatus::None;
     std::int32_t errorCount_ = 0;
     std::int32_t warningCount_ = 0;

@@ -51,6 +51,7 @@ void modCompileErrorManagement::AddProjectError(const Project& project, const st
 }
 
 void modCompileErrorManagement::ClearProjectCompileErrors(const Project& project) {
+    run_.clear();
     clearToolWindow();
     if (NumProjectCompileErrors(project) == 0) return;
     basic::Suppressed quietly;

@@ -24,8 +24,15 @@ void defineBuild(CLI::App& app, Raw& raw) {
         ->type_name("KEY");
     build.add_option("--depfile", raw.options.depfile, "Write the files that the image depends on as a make rule")
         ->type_name("FILE");
+    build
+        .add_option("--depfile-target", raw.options.depfileTarget,
+                    "Target of this rule (default: the image, relative if the project was named so)")
+        ->type_name("NAME")
+        ->needs("--depfile");
     build.add_flag("-n,--dry-run", raw.options.dryRun, "Show what would be compiled and run, without writing anything")
         ->excludes("--format");
+    addOutput(build, raw);
+    addNoWait(build, raw);
     addSteps(build, raw);
 }
 
@@ -38,6 +45,8 @@ void defineValidate(CLI::App& app, Raw& raw) {
         ->type_name("KEY");
     validate.add_flag("--forms", raw.options.forms,
                       "Also check the names, properties, events and controls of each form");
+    validate.add_flag("--no-store", raw.options.noStore, "Store nothing in the project file");
+    addNoWait(validate, raw);
 }
 
 void definePackage(CLI::App& app, Raw& raw) {
@@ -50,7 +59,18 @@ void definePackage(CLI::App& app, Raw& raw) {
     package.add_flag("--list", raw.options.list, "List the contents of a package");
     package.add_flag("--verify", raw.options.verify, "Check a package against its manifest")->excludes("--list");
     addAnswers(package, raw);
+    addOutput(package, raw);
+    addNoWait(package, raw);
     addSteps(package, raw);
+}
+
+void defineClean(CLI::App& app, Raw& raw) {
+    auto& clean = addVerb(app, raw, "clean", runClean, "Delete the images and packages of a project",
+                          "fernwick clean AddressBook.vbp");
+    addProject(clean, raw);
+    clean.add_option("--output", raw.options.output, "Folder that was given to build or package")->type_name("DIR");
+    addNoWait(clean, raw);
+    addDryRun(clean, raw);
 }
 
 void defineDeploy(CLI::App& app, Raw& raw) {
@@ -59,6 +79,8 @@ void defineDeploy(CLI::App& app, Raw& raw) {
     deploy.add_option("PROJECT", raw.options.project, "Project file or package file");
     addDevices(deploy, raw, kOwnDevice);
     addAnswers(deploy, raw);
+    addOutput(deploy, raw);
+    addNoWait(deploy, raw);
     addSteps(deploy, raw);
 }
 
@@ -73,6 +95,7 @@ void defineInstallRuntime(CLI::App& app, Raw& raw) {
 void defineProjectVerbs(CLI::App& app, Raw& raw) {
     defineBuild(app, raw);
     defineValidate(app, raw);
+    defineClean(app, raw);
     definePackage(app, raw);
     defineDeploy(app, raw);
     defineInstallRuntime(app, raw);

@@ -8,7 +8,10 @@ namespace {
 void defineCheck(CLI::App& app, Raw& raw) {
     auto& check = addVerb(app, raw, "check", runCheck, "Parse source files or whole projects and report all errors",
                           "fernwick check Form1.frm Module1.bas", Result::Messages);
-    check.add_option("FILE", raw.options.operands, ".bas, .cls, .frm, .ctl, .vbp or .vbg files");
+    check.add_option("FILE", raw.options.operands,
+                     ".bas, .cls, .frm, .ctl, .vbp or .vbg files, folders, or - for standard input");
+    check.add_option("--name", raw.options.sourceName, "File name of standard input, whose extension says what it is")
+        ->type_name("FILE");
     check.add_option("--code-page", raw.options.codePage, "Code page of files that are not UTF-8 (default: 1252)")
         ->type_name("N");
 }

@@ -21,7 +21,10 @@ void defineSettings(CLI::App& app, Raw& raw) {
     settings.add_option("ACTION", raw.options.action, "list, get, set or reset")
         ->required()
         ->check(CLI::IsMember({"list", "get", "set", "reset"}));
-    settings.add_option("OPERANDS", raw.options.operands, "[PROJECT] [NAME [VALUE]]");
+    settings.add_option("OPERANDS", raw.options.operands,
+                        "list [PROJECT] | get [PROJECT] NAME | set [PROJECT] NAME VALUE... | reset [PROJECT] NAME");
+    settings.add_flag("--all", raw.options.all, "Reset every setting");
+    addNoWait(settings, raw);
     addDryRun(settings, raw);
     addAnswers(settings, raw);
 }
@@ -29,12 +32,15 @@ void defineSettings(CLI::App& app, Raw& raw) {
 void defineRegistry(CLI::App& app, Raw& raw) {
     auto& registry = addVerb(app, raw, "registry", runRegistry, "Read and write the registry store",
                              "fernwick registry get 'HKEY_CURRENT_USER\\SOFTWARE\\Quinloft\\AddinPrefs' ZoomWinState");
-    registry.add_option("ACTION", raw.options.action, "get, set, export or import")
+    registry.add_option("ACTION", raw.options.action, "get, set, delete, export or import")
         ->required()
-        ->check(CLI::IsMember({"get", "set", "export", "import"}));
+        ->check(CLI::IsMember({"get", "set", "delete", "export", "import"}));
     registry
-        .add_option("OPERANDS", raw.options.operands, "get KEY [NAME] | set KEY NAME VALUE | export KEY | import FILE")
+        .add_option("OPERANDS", raw.options.operands,
+                    "get KEY [NAME] | set KEY NAME VALUE | delete KEY [NAME] | export KEY | import FILE")
         ->required();
+    registry.add_flag("--bare", raw.options.bare, "Print only the data of a value, without its name and type (get)");
+    registry.add_flag("--utf16", raw.options.utf16, "Write the file as regedit does, in UTF-16 (export)");
     addDryRun(registry, raw);
 }
 
@@ -44,6 +50,7 @@ void defineDependencies(CLI::App& app, Raw& raw) {
                                  "fernwick dependencies AddressBook.vbp add data/cities.pdb logo.bmp");
     dependencies.add_option("OPERANDS", raw.options.operands, "[PROJECT] [list | add FILE... | remove FILE...]");
     addAnswers(dependencies, raw);
+    addNoWait(dependencies, raw);
 }
 
 } // namespace

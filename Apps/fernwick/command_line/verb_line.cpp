@@ -44,8 +44,18 @@ void addAnswers(CLI::App& verb, Raw& raw) {
 
 void addSteps(CLI::App& verb, Raw& raw) {
     verb.add_flag("--trust-steps", raw.options.trustSteps, "Run the project's compile steps without asking");
-    verb.add_flag("--no-steps", raw.options.noSteps, "Do not run the project's compile steps")
-        ->excludes("--trust-steps");
+    verb.add_flag("--no-steps", raw.options.noSteps, "Skip the project's compile steps")->excludes("--trust-steps");
+}
+
+void addOutput(CLI::App& verb, Raw& raw) {
+    verb.add_option("--output", raw.options.output,
+                    "Folder for image, package and results; nothing is stored in the project")
+        ->type_name("DIR");
+    verb.add_flag("--no-store", raw.options.noStore, "Store nothing in the project file");
+}
+
+void addNoWait(CLI::App& verb, Raw& raw) {
+    verb.add_flag("--no-wait", raw.options.noWait, "Fail if another run writes the project, instead of waiting");
 }
 
 void addDryRun(CLI::App& verb, Raw& raw) {

@@ -30,6 +30,10 @@ void addProject(CLI::App& verb, Raw& raw);
 void addAnswers(CLI::App& verb, Raw& raw);
 /// --trust-steps and --no-steps.
 void addSteps(CLI::App& verb, Raw& raw);
+/// --output and --no-store.
+void addOutput(CLI::App& verb, Raw& raw);
+/// --no-wait.
+void addNoWait(CLI::App& verb, Raw& raw);
 /// --dry-run of a command that only writes.
 void addDryRun(CLI::App& verb, Raw& raw);
 

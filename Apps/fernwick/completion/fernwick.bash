@@ -41,33 +41,38 @@ _fernwick_complete() {
     --answer) _fernwick_words "$(fernwick help answers 2>/dev/null | sed -n 's/^  \([a-z-]*\) .*/\1=/p')"
       compopt -o nospace 2>/dev/null; return ;;
     --depfile) _fernwick_files "d"; return ;;
+    --output) _fernwick_files "!(*)"; return ;;
+    --name | --depfile-target) return ;;
     --code-page) _fernwick_words "1250 1251 1252 932 936 949 950 65001"; return ;;
   esac
   local common="--format --quiet --verbose --help" answers="--yes --no --answer"
+  local outcome="--output --no-store --no-wait"
   if [[ $cur == -* ]]; then
     case $verb in
       "") _fernwick_words "--help --version" ;;
-      build) _fernwick_words "$common $answers --device --depfile --dry-run --trust-steps --no-steps" ;;
-      check) _fernwick_words "$common --code-page" ;;
-      dependencies) _fernwick_words "$common $answers" ;;
-      deploy) _fernwick_words "$common $answers --device --my-devices --trust-steps --no-steps" ;;
+      build) _fernwick_words "$common $answers $outcome --device --depfile --depfile-target --dry-run --trust-steps --no-steps" ;;
+      check) _fernwick_words "$common --name --code-page" ;;
+      clean) _fernwick_words "$common --output --no-wait --dry-run" ;;
+      dependencies) _fernwick_words "$common $answers --no-wait" ;;
+      deploy) _fernwick_words "$common $answers $outcome --device --my-devices --trust-steps --no-steps" ;;
       install-runtime) _fernwick_words "$common --device --my-devices" ;;
-      package) _fernwick_words "$common $answers --device --my-devices --list --verify --trust-steps --no-steps" ;;
-      validate) _fernwick_words "$common $answers --device --forms" ;;
+      package) _fernwick_words "$common $answers $outcome --device --my-devices --list --verify --trust-steps --no-steps" ;;
+      validate) _fernwick_words "$common $answers --device --forms --no-store --no-wait" ;;
       info) _fernwick_words "$common --verify" ;;
-      settings) _fernwick_words "$common $answers --dry-run" ;;
-      registry) _fernwick_words "$common --dry-run" ;;
+      settings) _fernwick_words "$common $answers --all --no-wait --dry-run" ;;
+      registry) _fernwick_words "$common --bare --utf16 --dry-run" ;;
       help | workbench) _fernwick_words "--help" ;;
       *) _fernwick_words "$common" ;;
     esac
     return
   fi
   case $verb in
-    "") _fernwick_words "build check dependencies deploy devices doctor explain help info install-runtime messages package registry settings targets validate version workbench" ;;
-    build | messages | validate) _fernwick_files "vbp" ;;
+    "") _fernwick_words "build check clean dependencies deploy devices doctor explain help info install-runtime messages package registry settings targets validate version workbench" ;;
+    messages) _fernwick_files "vbp" ;;
+    build | clean | validate) _fernwick_files "vbp|vbg" ;;
     dependencies) [[ -z $action || ${action,,} == *.vbp ]] && _fernwick_words "list add remove"
       if [[ -z $action ]]; then _fernwick_files "vbp"; else _fernwick_files "*"; fi ;;
-    deploy | package) _fernwick_files "vbp|qlpkg" ;;
+    deploy | package) _fernwick_files "vbp|vbg|qlpkg" ;;
     devices)
       case $action in
         "") _fernwick_words "list add remove set" ;;
@@ -81,7 +86,7 @@ _fernwick_complete() {
     explain) _fernwick_words "$(fernwick explain 2>/dev/null | sed 's/^ *\([0-9]*\) .*/\1/')" ;;
     info | workbench) _fernwick_files "vbp|vbg" ;;
     check) _fernwick_files "vbp|vbg|bas|cls|frm|ctl|pag|dsr|dob" ;;
-    help) _fernwick_words "answers build check dependencies deploy devices doctor explain info install-runtime messages package registry settings targets validate version workbench" ;;
+    help) _fernwick_words "answers build check clean dependencies deploy devices doctor explain info install-runtime messages package registry settings targets validate version workbench" ;;
     settings)
       case $action in
         "") _fernwick_words "list get set reset" ;;
@@ -94,7 +99,7 @@ _fernwick_complete() {
       esac ;;
     registry)
       case $action in
-        "") _fernwick_words "get set export import" ;;
+        "") _fernwick_words "get set delete export import" ;;
         import) _fernwick_files "reg" ;;
         *) _fernwick_words 'HKEY_CURRENT_USER HKEY_LOCAL_MACHINE HKEY_CLASSES_ROOT' ;;
       esac ;;

@@ -25,7 +25,7 @@ function __fernwick_complete
     set -l previous
     for word in (commandline -opc)[2..]
         if not string match -q -- '-*' $word
-            and not contains -- "$previous" --format --device --depfile --answer --code-page
+            and not contains -- "$previous" --format --device --depfile --depfile-target --output --name --answer --code-page
             if test -z "$verb"
                 set verb $word
             else if test -z "$action"
@@ -44,6 +44,11 @@ function __fernwick_complete
             return
         case --depfile
             __fish_complete_suffix .d
+            return
+        case --output
+            __fish_complete_directories
+            return
+        case --name --depfile-target
             return
         case --answer
             __fernwick_help Questions help answers | string replace \t =\t
@@ -66,15 +71,16 @@ function __fernwick_complete
         case help
             echo answers
             __fernwick_help Subcommands: --help
-        case build messages validate
+        case messages
             __fish_complete_suffix .vbp
-        case info workbench
+        case build clean info validate workbench
             __fish_complete_suffix .vbp
             __fish_complete_suffix .vbg
         case check
             __fish_complete_path (commandline -ct)
         case deploy package
             __fish_complete_suffix .vbp
+            __fish_complete_suffix .vbg
             __fish_complete_suffix .qlpkg
         case explain
             fernwick explain 2>/dev/null | string replace -r '^ *(\d+) +\S+ +' '$1\t'
@@ -117,7 +123,7 @@ function __fernwick_complete
         case registry
             switch "$action"
                 case ''
-                    printf '%s\n' get set export import
+                    printf '%s\n' get set delete export import
                 case import
                     __fish_complete_suffix .reg
                 case '*'

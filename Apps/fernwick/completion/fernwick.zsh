@@ -40,7 +40,7 @@ _fernwick_numbers() {
 _fernwick() {
   local verb action word previous=
   for word in ${words[2,CURRENT-1]}; do
-    if [[ $word != -* && $previous != --(format|device|depfile|answer|code-page) ]]; then
+    if [[ $word != -* && $previous != --(format|device|depfile|depfile-target|output|name|answer|code-page) ]]; then
       if [[ -z $verb ]]; then verb=$word; elif [[ -z $action ]]; then action=$word; fi
     fi
     previous=$word
@@ -50,6 +50,8 @@ _fernwick() {
     --format) _fernwick_formats $verb; return ;;
     --device) _fernwick_targets; return ;;
     --depfile) _files -g '(#i)*.d'; return ;;
+    --output) _files -/; return ;;
+    --name | --depfile-target) return ;;
     --answer) compset -P '*=' && compadd yes no cancel ok || _fernwick_help questions Questions help answers; return ;;
     --code-page) compadd 1250 1251 1252 932 936 949 950 65001; return ;;
   esac
@@ -60,10 +62,10 @@ _fernwick() {
   case $verb in
     "") _fernwick_help verbs Subcommands: --help ;;
     help) compadd answers; _fernwick_help verbs Subcommands: --help ;;
-    build | messages | validate) _files -g '(#i)*.vbp' ;;
-    info | workbench) _files -g '(#i)*.(vbp|vbg)' ;;
+    messages) _files -g '(#i)*.vbp' ;;
+    build | clean | info | validate | workbench) _files -g '(#i)*.(vbp|vbg)' ;;
     check) _files -g '(#i)*.(vbp|vbg|bas|cls|frm|ctl|pag|dsr|dob)' ;;
-    deploy | package) _files -g '(#i)*.(vbp|qlpkg)' ;;
+    deploy | package) _files -g '(#i)*.(vbp|vbg|qlpkg)' ;;
     explain) _fernwick_numbers ;;
     dependencies)
       [[ -z $action || ${action:l} == *.vbp ]] && compadd list add remove
@@ -87,7 +89,7 @@ _fernwick() {
       esac ;;
     registry)
       case $action in
-        "") compadd get set export import ;;
+        "") compadd get set delete export import ;;
         import) _files -g '(#i)*.reg' ;;
         *) compadd -S '\' HKEY_CURRENT_USER HKEY_LOCAL_MACHINE HKEY_CLASSES_ROOT ;;
       esac ;;

@@ -23,6 +23,14 @@ bool isSuccess(fernwick::RunStatus status) {
     return status == fernwick::RunStatus::Succeeded || status == fernwick::RunStatus::SucceededWithWarnings;
 }
 
+/// The status line is that of the compile if the transfer left none, and of neither while messages stay stored.
+void completeStatus(DeviceOutcome& outcome, bool isRunning) {
+    if (isRunning) outcome.statusText.clear();
+    if (outcome.good || (!outcome.statusText.empty() && !outcome.statusIsSuccess)) return;
+    outcome.statusText = "FAILED - The transfer did not finish.";
+    outcome.statusIsSuccess = false;
+}
+
 DeviceOutcome serveOne(Session& session, const std::string& device, const ServeDevice& serve) {
     DeviceOutcome outcome;
     outcome.device = device;
@@ -46,6 +54,7 @@ DeviceOutcome serveOne(Session& session, const std::string& device, const ServeD
     } else {
         outcome.reason = reasonOf(outcome);
     }
+    completeStatus(outcome, runStatus(session) == fernwick::RunStatus::Running);
     return outcome;
 }
 

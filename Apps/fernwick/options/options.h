@@ -27,6 +27,22 @@ struct Options {
     /// `validate` also scans forms.
     bool forms = false;
     std::string depfile;
+    /// The target in the depfile; "" for the image.
+    std::string depfileTarget;
+    /// The folder for image, package and results; "" for the project's.
+    std::string output;
+    /// The project file receives no results.
+    bool noStore = false;
+    /// Fail if another run writes the project.
+    bool noWait = false;
+    /// `settings reset` of every setting.
+    bool all = false;
+    /// `registry get` of the data alone.
+    bool bare = false;
+    /// `registry export` in regedit's own encoding.
+    bool utf16 = false;
+    /// Of standard input, for `check -`.
+    std::string sourceName = "stdin.bas";
     bool trustSteps = false;
     bool noSteps = false;
     bool list = false;

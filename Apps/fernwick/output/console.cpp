@@ -126,12 +126,9 @@ void Console::endProgress() {
     lastText_.clear();
 }
 
-std::string Console::ask(std::string_view prompt) {
+void Console::prompt(std::string_view text) {
     clearBar();
-    toError(basic::printable(prompt, "\n"));
-    std::string line;
-    for (int c = std::fgetc(stdin); c != EOF && c != '\n'; c = std::fgetc(stdin)) line += char(c);
-    return line;
+    toError(basic::printable(text, "\n"));
 }
 
 } // namespace cli

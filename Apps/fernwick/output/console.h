@@ -36,8 +36,8 @@ public:
 
     /// Whether both input and diagnostics are a terminal.
     bool canAsk() const { return canAsk_; }
-    /// Prompts and reads a line; returns "" for an empty line or at the end of input. Requires canAsk().
-    std::string ask(std::string_view prompt);
+    /// Writes the beginning of a line that the user completes.
+    void prompt(std::string_view text);
 
     Verbosity verbosity() const { return verbosity_; }
     /// Returns whether all data was written; false for a full disk or a closed pipe.

@@ -1,4 +1,5 @@
 #include "Apps/fernwick/output/depfile.h"
+#include <algorithm>
 
 namespace cli {
 
@@ -17,11 +18,18 @@ std::string makeName(const std::string& path) {
 
 } // namespace
 
-std::string depfileText(const std::string& target, const std::vector<std::string>& prerequisites) {
-    std::string text = makeName(target) + ":";
-    for (const auto& path : prerequisites) text += " \\\n  " + makeName(path);
-    text += "\n";
-    for (const auto& path : prerequisites) text += "\n" + makeName(path) + ":\n";
+std::string depfileText(const std::vector<DepfileRule>& rules) {
+    std::string text;
+    std::vector<std::string> named;
+    for (const auto& rule : rules) {
+        text += makeName(rule.target) + ":";
+        for (const auto& path : rule.prerequisites) {
+            text += " \\\n  " + makeName(path);
+            if (std::find(named.begin(), named.end(), path) == named.end()) named.push_back(path);
+        }
+        text += "\n";
+    }
+    for (const auto& path : named) text += "\n" + makeName(path) + ":\n";
     return text;
 }
 

@@ -10,6 +10,8 @@ namespace cli {
 
 struct Message {
     bool isError = true;
+    /// False for a stored message that is neither an error nor a warning.
+    bool isKnown = true;
     int number = 0;
     std::string text;
     /// Full path; "" for a message without a file.
@@ -46,11 +48,17 @@ struct Report {
     std::vector<ShownBox> boxes;
     /// Only of commands that serve devices.
     std::vector<DeviceOutcome> devices;
+    /// The files that the image depends on.
+    std::vector<std::string> inputs;
+    /// The members of a group, whose messages are also in `messages`.
+    std::vector<Report> projects;
     int exitStatus = 0;
     /// What prevented the command; "" for nothing.
     std::string failure;
 };
 
+/// "error", "warning" or "unknown".
+std::string_view severityOf(const Message& message);
 /// Returns `file:line: error 1042: text`, with the project for a message without a file.
 std::string textOf(const Message& message, const std::string& project);
 /// Schema: installation/schemas/report-1.json. Ends with a newline.

@@ -6,7 +6,7 @@ namespace cli {
 namespace {
 
 Json jsonOfMessage(const Message& message) {
-    Json json{{"severity", message.isError ? "error" : "warning"}, {"number", message.number}, {"text", message.text}};
+    Json json{{"severity", severityOf(message)}, {"number", message.number}, {"text", message.text}};
     if (!message.file.empty()) json["file"] = message.file;
     if (message.line > 0) json["line"] = message.line;
     if (message.column > 0) json["column"] = message.column;
@@ -37,9 +37,7 @@ Json jsonOfDevice(const DeviceOutcome& outcome) {
             {"boxes", jsonOfBoxes(outcome.boxes)}};
 }
 
-} // namespace
-
-std::string jsonOf(const Report& report) {
+Json jsonOfReport(const Report& report) {
     Json json{{"schemaVersion", kSchemaVersion},
               {"verb", report.verb},
               {"project", report.project},
@@ -54,7 +52,12 @@ std::string jsonOf(const Report& report) {
         json["devices"] = Json::array();
         for (const auto& outcome : report.devices) json["devices"].push_back(jsonOfDevice(outcome));
     }
-    return dumpJson(json);
+    for (const auto& project : report.projects) json["projects"].push_back(jsonOfReport(project));
+    return json;
 }
+
+} // namespace
+
+std::string jsonOf(const Report& report) { return dumpJson(jsonOfReport(report)); }
 
 } // namespace cli

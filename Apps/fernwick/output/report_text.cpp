@@ -3,10 +3,15 @@
 
 namespace cli {
 
+std::string_view severityOf(const Message& message) {
+    if (!message.isKnown) return "unknown";
+    return message.isError ? "error" : "warning";
+}
+
 std::string textOf(const Message& message, const std::string& project) {
     std::string place = message.file.empty() ? project : message.file;
     if (message.line > 0) place += fmt::format(":{}", message.line);
-    return fmt::format("{}: {} {}: {}", place, message.isError ? "error" : "warning", message.number, message.text);
+    return fmt::format("{}: {} {}: {}", place, severityOf(message), message.number, message.text);
 }
 
 void printMessages(const std::vector<Message>& messages, const std::string& project, Console& console) {

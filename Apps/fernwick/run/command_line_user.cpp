@@ -1,6 +1,9 @@
 #include "Apps/fernwick/run/command_line_user.h"
+#include "Add-in/build/messages/build_texts.h"
+#include "Add-in/deploy/deploy_texts.h"
 #include "Apps/fernwick/run/form_controls.h"
 #include "Apps/fernwick/run/interruption.h"
+#include <algorithm>
 #include <fmt/format.h>
 
 namespace cli {
@@ -24,6 +27,32 @@ std::string oneLine(std::string text) {
         line += c == '\n' ? ' ' : c;
     }
     return line;
+}
+
+/// Whether a prescribed text sends the user to the messages window, which the command line lacks.
+bool namesMessagesWindow(std::string_view text) {
+    constexpr std::string_view kTexts[] = {
+        fernwick::build_texts::kCompileFailed, fernwick::deploy_texts::kValidationFailed,
+        fernwick::deploy_texts::kNotDeployedSeeMessages, fernwick::deploy_texts::kNoPackageSeeMessages};
+    return std::find(std::begin(kTexts), std::end(kTexts), text) != std::end(kTexts);
+}
+
+std::vector<Reply> repliesOf(int buttonSet) {
+    switch (buttonSet) {
+    case fernwick::vbYesNo: return {Reply::Yes, Reply::No};
+    case fernwick::vbYesNoCancel: return {Reply::Yes, Reply::No, Reply::Cancel};
+    case fernwick::vbOKCancel: return {Reply::Ok, Reply::Cancel};
+    default: return {};
+    }
+}
+
+/// --yes and --no answer boxes without such a button, too.
+Reply offered(Reply reply, int buttonSet) {
+    const bool asksYes = buttonSet == fernwick::vbYesNo || buttonSet == fernwick::vbYesNoCancel;
+    if (reply == Reply::Cancel && buttonSet == fernwick::vbYesNo) return Reply::No;
+    if (reply == Reply::No && buttonSet == fernwick::vbOKCancel) return Reply::Cancel;
+    if (reply == Reply::Ok && asksYes) return Reply::Yes;
+    return reply == Reply::Yes && buttonSet == fernwick::vbOKCancel ? Reply::Ok : reply;
 }
 
 } // namespace
@@ -56,14 +85,13 @@ void CommandLineUser::answerForm(Form& form) {
         }
         if (!question) console_.note(fmt::format("{}: cancelled, because it has no known answer", form.typeName()));
         const std::string text = oneLine(formText(form));
+        show(form.Caption(), text, 0);
         Reply otherwise = question ? question->otherwise : Reply::Cancel;
         if (question && question->name == "save-files" && !context_.hostHasUnsaved()) otherwise = Reply::Yes;
-        Reply reply = replyTo(question, otherwise, text, button(form, "btnYes") != nullptr);
+        Reply reply = replyTo(question, {repliesOf(form), otherwise, Reply::Cancel});
         guardAgainstRepeats(form.typeName() + text, reply, Reply::Cancel);
         auto* pressed = buttonOf(form, reply);
-        show(form.Caption(), text, 0);
-        shown_.back().answer = pressed ? replyName(reply) : "closed";
-        console_.err(fmt::format("  answer: {}", shown_.back().answer), Tone::Faint);
+        answered(pressed ? std::string(replyName(reply)) : "closed");
         if (pressed)
             pressed->press();
         else
@@ -71,20 +99,15 @@ void CommandLineUser::answerForm(Form& form) {
     }
 }
 
+/// The key given by --device need not be in the list, which has one row for each platform.
 void CommandLineUser::chooseDevice(Form& form) {
-    auto* list = firstControl<fernwick::ListBox>(form);
-    const int row = context_.device.empty() || !list ? -1 : context_.deviceRow(context_.device);
     show(form.Caption(), "Choose a device for the project.", 0);
-    if (row >= 0 && row < list->ListCount()) {
-        shown_.back().answer = list->List(row);
-        console_.err(fmt::format("  answer: {}", list->List(row)), Tone::Faint);
-        list->ListIndex(row);
-        if (auto* ok = button(form, "btnOK")) ok->press();
-    } else {
-        shown_.back().answer = replyName(Reply::Cancel);
-        console_.err(fmt::format("  answer: {}", shown_.back().answer), Tone::Faint);
-        if (auto* cancel = cancelButton(form)) cancel->press();
-    }
+    auto key = context_.device;
+    if (key.empty() && console_.canAsk()) key = askKey(console_, context_.deviceRows(), context_.isDevice);
+    const bool usable = !key.empty() && context_.isDevice(key);
+    answered(usable ? key : std::string(replyName(Reply::Cancel)));
+    if (usable) context_.assignDevice(key);
+    if (auto* cancel = cancelButton(form)) cancel->press();
     if (form.Visible()) form.Unload();
 }
 
@@ -105,16 +128,11 @@ int CommandLineUser::answerBox(const KnownQuestion* question, const std::string&
         shown_.back().answer = replyName(Reply::Ok);
         return fernwick::vbOK;
     }
-    const bool asksYes = set == fernwick::vbYesNo || set == fernwick::vbYesNoCancel;
     const Reply harmless = set == fernwick::vbYesNo ? Reply::No : Reply::Cancel;
-    Reply reply = replyTo(question, question ? question->otherwise : harmless, "", asksYes);
-    if (reply == Reply::Cancel && set == fernwick::vbYesNo) reply = Reply::No;
-    if (reply == Reply::No && set == fernwick::vbOKCancel) reply = Reply::Cancel;
-    if (reply == Reply::Ok && asksYes) reply = Reply::Yes;
-    if (reply == Reply::Yes && set == fernwick::vbOKCancel) reply = Reply::Ok;
+    const ReplyChoices choices{repliesOf(set), question ? question->otherwise : harmless, harmless};
+    Reply reply = offered(replyTo(question, choices), set);
     guardAgainstRepeats(title + text, reply, harmless);
-    shown_.back().answer = replyName(reply);
-    console_.err(fmt::format("  answer: {}", replyName(reply)), Tone::Faint);
+    answered(std::string(replyName(reply)));
     switch (reply) {
     case Reply::Yes: return fernwick::vbYes;
     case Reply::No: return fernwick::vbNo;
@@ -131,12 +149,15 @@ void CommandLineUser::cancel(const fernwick::CommonDialog& dialog) {
         throw basic::RuntimeError(fernwick::kCancelWasSelected, "Cancel was selected.", "CommonDialog");
 }
 
-Reply CommandLineUser::replyTo(const KnownQuestion* question, Reply otherwise, const std::string& text, bool canBeYes) {
+Reply CommandLineUser::replyTo(const KnownQuestion* question, const ReplyChoices& choices) {
     if (const auto given = answers_.given(question)) return *given;
-    if (!console_.canAsk() || !canBeYes) return otherwise;
-    const std::string typed = console_.ask(
-        fmt::format("{}{}[yes/no/cancel, Return for {}] ", text, text.empty() ? "" : " ", replyName(otherwise)));
-    return replyNamed(typed).value_or(otherwise);
+    const bool canBeAsked = console_.canAsk() && choices.replies.size() > 1;
+    return canBeAsked ? askReply(console_, choices) : choices.otherwise;
+}
+
+void CommandLineUser::answered(const std::string& answer) {
+    shown_.back().answer = answer;
+    console_.err(fmt::format("  answer: {}", answer), Tone::Faint);
 }
 
 void CommandLineUser::show(const std::string& title, const std::string& text, int buttons) {
@@ -150,6 +171,7 @@ void CommandLineUser::show(const std::string& title, const std::string& text, in
         if (c == '\n') line += "  ";
     }
     console_.errLines(line, critical ? Tone::Error : Tone::Warning);
+    if (context_.storesMessages && namesMessagesWindow(text)) console_.note("  see fernwick messages", Tone::Faint);
 }
 
 void CommandLineUser::guardAgainstRepeats(const std::string& what, Reply& reply, Reply harmless) {

@@ -4,6 +4,7 @@
 #include "Apps/fernwick/options/answers.h"
 #include "Apps/fernwick/output/console.h"
 #include "Apps/fernwick/output/shown_box.h"
+#include "Apps/fernwick/run/terminal_reply.h"
 #include <functional>
 #include <vector>
 
@@ -13,10 +14,15 @@ namespace cli {
 struct UserContext {
     /// Whether the host has unsaved changes.
     std::function<bool()> hostHasUnsaved = [] { return true; };
+    /// Whether messages are stored in the project, where another command finds them.
+    bool storesMessages = true;
     /// The design target given by --device; "" for none.
     std::string device;
-    /// The row of this design target in the device list, -1 for none.
-    std::function<int(const std::string& device)> deviceRow = [](const std::string&) { return -1; };
+    /// The rows of the device list.
+    std::function<std::vector<KeyedRow>()> deviceRows = [] { return std::vector<KeyedRow>(); };
+    std::function<bool(const std::string& key)> isDevice = [](const std::string&) { return false; };
+    /// Assigns the device with this key to the project.
+    std::function<void(const std::string& key)> assignDevice = [](const std::string&) {};
 };
 
 /// Shows progress forms as a bar and message boxes as lines. Answers questions from the options, else at the terminal,
@@ -43,7 +49,9 @@ private:
     void cancel(const fernwick::CommonDialog& dialog);
     void answerForm(fernwick::Form& form);
     void chooseDevice(fernwick::Form& form);
-    Reply replyTo(const KnownQuestion* question, Reply otherwise, const std::string& prompt, bool canBeYes);
+    Reply replyTo(const KnownQuestion* question, const ReplyChoices& choices);
+    /// Notes the answer to the last box, and prints it.
+    void answered(const std::string& answer);
     void show(const std::string& title, const std::string& text, int buttons);
     void guardAgainstRepeats(const std::string& what, Reply& reply, Reply harmless);
 

@@ -31,6 +31,16 @@ CommandButton* buttonOf(Form& form, Reply reply) {
     return cancelButton(form);
 }
 
+std::vector<Reply> repliesOf(Form& form) {
+    std::vector<Reply> replies;
+    if (button(form, "btnYes")) replies.push_back(Reply::Yes);
+    if (button(form, "btnOK")) replies.push_back(Reply::Ok);
+    if (button(form, "btnNo")) replies.push_back(Reply::No);
+    const auto* cancel = cancelButton(form);
+    if (cancel && cancel->Name != "btnNo") replies.push_back(Reply::Cancel);
+    return replies;
+}
+
 std::string formText(Form& form) {
     const auto* label = firstControl<fernwick::Label>(form);
     return label ? label->Caption() : std::string();

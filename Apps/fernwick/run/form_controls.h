@@ -2,6 +2,7 @@
 // Finds controls of a form for answering it without a window.
 #include "Add-in/platform/controls.h"
 #include "Apps/fernwick/options/answers.h"
+#include <vector>
 
 namespace cli {
 
@@ -19,6 +20,8 @@ fernwick::CommandButton* button(fernwick::Form& form, const char* name);
 fernwick::CommandButton* cancelButton(fernwick::Form& form);
 /// Returns the button for a reply; No and Cancel fall back to the cancel button.
 fernwick::CommandButton* buttonOf(fernwick::Form& form, Reply reply);
+/// Returns the replies that the form has a button for.
+std::vector<Reply> repliesOf(fernwick::Form& form);
 /// Returns the text of the first label.
 std::string formText(fernwick::Form& form);
 

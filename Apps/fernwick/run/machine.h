@@ -16,7 +16,10 @@ struct NoDesktop {
 
 class Machine : private NoDesktop, public apps::Machine {
 public:
-    Machine(Console& console, CommandLineUser& user, host::Processes::Permission mayRun);
+    Machine(Console& console, CommandLineUser& user, std::unique_ptr<fernwick::Processes> processes,
+            std::unique_ptr<host::FileSystem> files);
+    /// Without a project: no command lines are run.
+    Machine(Console& console, CommandLineUser& user);
     /// Runs the event loop until nothing is due.
     void drain();
 };

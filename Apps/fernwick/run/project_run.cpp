@@ -2,7 +2,6 @@
 #include "Apps/common/compile_steps.h"
 #include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/run/project_argument.h"
-#include "Host/files/atomic_save.h"
 #include <fmt/format.h>
 
 namespace cli {
@@ -32,6 +31,16 @@ void requireDevice(Session& session, const std::string& wanted) {
                                                    session.path(), device));
 }
 
+/// Without these the image would lack controls, fonts or libraries, which the add-in would only report as warnings.
+void requireInstalledParts(Session& session) {
+    const auto& root = session.machine().installation();
+    const auto& files = session.machine().platform().files;
+    if (root.empty()) return; // reported
+    for (const char* part : {"Fonts", "libraries", "registry", "tavlets", "targets"})
+        if (!files.FolderExists(files.BuildPath(root, part)))
+            throw Refusal(kMachineTrouble, fmt::format("{}/{} is missing; see fernwick doctor", root, part));
+}
+
 /// The project file is saved after the image; the image must not appear older.
 void stampImage(Session& session, const std::string& image) {
     auto& files = session.machine().platform().files;
@@ -44,9 +53,12 @@ void stampImage(Session& session, const std::string& image) {
 } // namespace
 
 void openProject(Session& session, const Options& options) {
-    session.open(projectArgument(options.project));
+    const auto project = projectArgument(options.project);
+    if (!options.dryRun) session.lock(project);
+    session.open(project);
     session.requireFernwickProject();
     session.requireAllMembers();
+    if (!options.dryRun) session.requireStorableResults();
 }
 
 void beginWork(Session& session, const Options& options) {
@@ -55,6 +67,7 @@ void beginWork(Session& session, const Options& options) {
     session.forget();
     session.connect();
     requireDevice(session, options.device);
+    requireInstalledParts(session);
 }
 
 void requireUsableDevice(Session& session, const std::string& device) {
@@ -82,14 +95,24 @@ std::vector<std::string> inputsOf(Session& session) {
     return inputs;
 }
 
-void endWork(Session& session, Report& report) {
-    const bool readOnly = host::isReadOnly(session.path());
-    if (!session.closeAndSave() && !readOnly) {
+std::string imageOfRun(Session& session) {
+    const auto& image = session.machine().build().image;
+    return image.empty() ? image : session.machine().platform().files.PlaceOnDisk(image);
+}
+
+void endWork(Session& session, Report& report, const Options& options) {
+    auto& files = session.machine().platform().files;
+    if (session.addIn().errors.reports() > 0) report.exitStatus = kMachineTrouble;
+    const auto image = imageOfRun(session);
+    if (!session.closeAndSave()) {
         report.failure = session.path() + " cannot be saved";
         report.exitStatus = kMachineTrouble;
     }
     report.boxes = session.user().shown();
-    if (!session.machine().build().image.empty()) stampImage(session, session.machine().build().image);
+    if (!image.empty()) stampImage(session, image);
+    if (options.output.empty()) return;
+    const auto name = files.GetBaseName(session.path()) + ".report.json";
+    files.WriteBytes(files.BuildPath(files.GetAbsolutePathName(options.output), name), jsonOf(report));
 }
 
 } // namespace cli

@@ -6,11 +6,12 @@
 
 namespace cli {
 
-/// Opens the project given on the command line. Refusal 1 if it is not a usable Fernwick project.
+/// Opens the project given on the command line once no other run writes it. Refusals: not a usable Fernwick project
+/// (1), the results cannot be stored (3).
 void openProject(Session& session, const Options& options);
 
 /// Reads the project's compile steps and connects the add-in, which assigns a device if the project has none. Refusals:
-/// no device (2), the device is not installed (3).
+/// no device (2), the device or another part that a build needs is not installed (3).
 void beginWork(Session& session, const Options& options);
 
 /// Refusal 2 if the device is not a usable design target.
@@ -26,7 +27,11 @@ fernwick::RunStatus runStatus(Session& session);
 
 /// Saves and closes the project; a failure to save is added to the report. The image's time is set so that it is not
 /// older than its inputs.
-void endWork(Session& session, Report& report);
+/// With --output the report is also stored there.
+void endWork(Session& session, Report& report, const Options& options);
+
+/// Returns the path of the image; "" if the run made none.
+std::string imageOfRun(Session& session);
 
 /// Returns the image's inputs, with the project file last.
 std::vector<std::string> inputsOf(Session& session);

@@ -1,10 +1,13 @@
 #include "Apps/fernwick/run/session.h"
+#include "Add-in/devices/clsDeviceConfig.h"
 #include "Add-in/lifecycle/frmDesignTargetNormal.h"
 #include "Add-in/project/stored/project_format.h"
 #include "Add-in/project/stored/project_store.h"
+#include "Apps/common/file_names.h"
 #include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/output/file_errors.h"
 #include "Apps/fernwick/output/plural.h"
+#include "Apps/fernwick/run/step_processes.h"
 #include "Host/files/path_lookup.h"
 #include "Host/model/project.h"
 #include <fmt/format.h>
@@ -17,21 +20,23 @@ Session::Session(const Options& options, Console& console)
       console_(console),
       user_(console, options.answers, {}),
       trust_(options, console),
-      machine_(console, user_,
-               [this](const std::string& commandLine, const std::string& folder) {
-                   return trust_.mayRun(commandLine, folder);
-               }),
+      files_(new OutputFiles),
+      machine_(console, user_, std::make_unique<StepProcesses>(options, trust_, console),
+               std::unique_ptr<host::FileSystem>(files_)),
       controls_(machine_.installation()),
       connections_(machine_.platform()) {
     auto& context = user_.context();
     context.device = options.device;
     context.hostHasUnsaved = [this] { return hasUnsavedComponents(); };
-    context.deviceRow = [this](const std::string& key) { return deviceRow(key); };
+    context.storesMessages = stores();
+    answerDeviceList(context);
     if (machine_.installation().empty())
         console.err("fernwick: no installation was found beside the program or through RootDir; there are no design "
                     "targets and controls",
                     Tone::Warning);
     auto hostOptions = apps::hostOptionsOf(machine_, controls_);
+    hostOptions.writesFiles = stores();
+    if (!stores()) files_->storeNothing();
     hostOptions.handlerFailed = [&console](const basic::ErrObject& error) {
         console.err(fmt::format("fernwick: {} (error {})", error.Description, error.Number), Tone::Warning);
     };
@@ -48,6 +53,9 @@ void Session::open(const std::string& path) {
     path_ = machine_.platform().files.GetAbsolutePathName(path);
     if (machine_.platform().files.FolderExists(path_))
         throw Refusal(kWrongUse, fmt::format("{}: is a folder; name the project file in it", path));
+    if (apps::hasExtension(path_, ".vbg"))
+        throw Refusal(kWrongUse, fmt::format("{}: is a project group; name one of its projects", path));
+    if (!options_.output.empty()) files_->redirect(files_->GetParentFolderName(path_), options_.output);
     const auto err = basic::attempt([&] { project_ = host_->VBProjects()->AddFromFile(path_); });
     if (err.Number != 0) throw Refusal(statusOfOpening(err.Number), withFile(path_, err.Description));
     printProblems();
@@ -76,6 +84,29 @@ void Session::requireAllMembers() {
     if (unusable > 0)
         throw Refusal(kProjectErrors, fmt::format("{}: {} of the project cannot be used; see above", path_,
                                                   plural(unusable, "source file")));
+}
+
+void Session::lock(const std::string& path) {
+    const auto place = options_.output.empty() ? path : files_->BuildPath(options_.output, files_->GetFileName(path));
+    lock_.emplace(place, !options_.noWait, console_);
+}
+
+void Session::requireWritableProject() {
+    if (files_->GetAttributes(path_) & fernwick::ReadOnlyAttribute)
+        throw Refusal(kMachineTrouble, path_ + ": the project file is read-only");
+}
+
+void Session::requireStorableResults() {
+    if (stores() && files_->GetAttributes(path_) & fernwick::ReadOnlyAttribute)
+        throw Refusal(kMachineTrouble, path_ + ": the project file is read-only, so the results of a build cannot be "
+                                               "stored in it; use --output DIR or --no-store");
+    if (options_.output.empty()) requireWritableFolder(files_->GetParentFolderName(path_));
+    if (!stores()) return;
+    for (const auto& component : project_->VBComponents()->items())
+        if (component->FileNames(1).find('|') != std::string::npos)
+            throw Refusal(kProjectErrors,
+                          fmt::format("{}: stored messages cannot hold a path with \"|\"; rename the file or folder",
+                                      component->FileNames(1)));
 }
 
 void Session::requireFernwickProject() {
@@ -152,11 +183,20 @@ bool Session::hasUnsavedComponents() const {
                        [](const auto& component) { return component->IsDirty(); });
 }
 
-int Session::deviceRow(const std::string& key) {
-    const auto& shown = addIn().chooseTarget.targetKeys();
-    for (std::size_t row = 0; row < shown.size(); ++row)
-        if (shown[row] == key) return int(row);
-    return -1;
+void Session::answerDeviceList(UserContext& context) {
+    context.deviceRows = [this] {
+        std::vector<KeyedRow> rows;
+        auto& devices = addIn().devices;
+        for (const auto& key : addIn().chooseTarget.targetKeys())
+            rows.push_back({key, devices.StripAcceleratorInfo(devices.GetDeviceName(key))});
+        return rows;
+    };
+    context.isDevice = [this](const std::string& key) { return addIn().devices.IsValidDevice(key); };
+    context.assignDevice = [this](const std::string& key) {
+        fernwick::clsDeviceConfig device{addIn().deviceServices};
+        device.ReadDeviceConfig(key);
+        addIn().projects.GetQLProject(project_)->SetProjectForDeviceConfig(device);
+    };
 }
 
 } // namespace cli

@@ -5,6 +5,8 @@
 #include "Apps/fernwick/options/options.h"
 #include "Apps/fernwick/options/refusal.h"
 #include "Apps/fernwick/run/machine.h"
+#include "Apps/fernwick/run/output_files.h"
+#include "Apps/fernwick/run/project_lock.h"
 #include "Apps/fernwick/run/steps_trust.h"
 #include "Host/model/host.h"
 #include <memory>
@@ -20,6 +22,13 @@ public:
     /// Opens the project in the host and prints problems with its files. Refusal if it does not exist or is not a
     /// project.
     void open(const std::string& path);
+    /// Waits until no other run writes this project or its output folder, before open(). Refusal 1 with --no-wait.
+    void lock(const std::string& path);
+    /// Refusal 3 for a read-only project file.
+    void requireWritableProject();
+    /// Refusal 3 if the results of a build cannot be stored, 1 if the stored form of messages cannot hold the paths of
+    /// the project's files.
+    void requireStorableResults();
     /// Refusal 1 if it is not a Fernwick project, or one of an older version.
     void requireFernwickProject();
     /// Refusal 1 if a source file is missing, unreadable or has the same name as another: without it the image would
@@ -45,19 +54,22 @@ public:
     CommandLineUser& user() { return user_; }
     StepsTrust& trust() { return trust_; }
     const std::string& path() const { return path_; }
+    /// Whether the project's file receives settings and results.
+    bool stores() const { return !options_.noStore && options_.output.empty(); }
     /// Whether the host still has the project; the add-in removes one without a usable device.
     bool isOpen() const;
 
 private:
     void close();
     void printProblems();
-    int deviceRow(const std::string& key);
+    void answerDeviceList(UserContext& context);
     bool hasUnsavedComponents() const;
 
     const Options& options_;
     Console& console_;
     CommandLineUser user_;
     StepsTrust trust_;
+    OutputFiles* files_; ///< the machine's
     Machine machine_;
     apps::InstalledControls controls_;
     fernwick::Connections connections_;
@@ -65,6 +77,7 @@ private:
     std::string path_;
     basic::Ref<vbide::VBProject> project_;
     basic::Ref<fernwick::clsQLProject> settings_;
+    std::optional<ProjectLock> lock_;
     bool connected_ = false;
 };
 

@@ -1,6 +1,6 @@
 #include "Apps/fernwick/run/steps_trust.h"
 #include "Apps/fernwick/run/interruption.h"
-#include "Basic/case_folding.h"
+#include "Apps/fernwick/run/terminal_reply.h"
 #include <fmt/format.h>
 
 namespace cli {
@@ -21,7 +21,6 @@ bool StepsTrust::mayRun(const std::string& commandLine, const std::string& folde
 }
 
 bool StepsTrust::decide(const std::string& folder) {
-    if (options_.noSteps) return false;
     if (options_.trustSteps || (folders_ && folders_->holds(folder))) return true;
     if (console_.canAsk()) return askUser(folder);
     console_.err(fmt::format("The project in {} has compile steps, and its folder is not trusted. Run them with "
@@ -34,8 +33,8 @@ bool StepsTrust::decide(const std::string& folder) {
 bool StepsTrust::askUser(const std::string& folder) {
     console_.err(fmt::format("The project in {} runs these commands before and after a compile:", folder));
     for (const auto& step : steps_) console_.err("  " + step);
-    if (!basic::equalNoCase(console_.ask("Trust this folder and run them? [yes/no, Return for No] "), "yes"))
-        return false;
+    console_.err("Trust this folder and run them?");
+    if (askReply(console_, {{Reply::Yes, Reply::No}, Reply::No, Reply::No}) != Reply::Yes) return false;
     if (folders_) folders_->add(folder);
     return true;
 }

@@ -3,12 +3,18 @@
 #include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/output/depfile.h"
 #include "Apps/fernwick/run/project_run.h"
+#include "Apps/fernwick/verbs/group_run.h"
 #include "Apps/fernwick/verbs/stored_messages.h"
 #include "Apps/fernwick/verbs/verbs.h"
+#include "Components/QLToolkit/source/messages.h"
 #include "Host/files/atomic_save.h"
+#include <algorithm>
+#include <filesystem>
 #include <fmt/format.h>
 
 namespace cli {
+
+namespace fs = std::filesystem;
 
 namespace {
 
@@ -17,7 +23,7 @@ constexpr const char* kNotCompiled = "FAILED - The project was not compiled.";
 std::string imagePathOf(const Session& session) {
     auto& files = const_cast<Session&>(session).machine().platform().files;
     const auto folder = files.GetParentFolderName(session.path());
-    return files.BuildPath(folder, session.project()->Name() + qltoolkit::kImageSuffix);
+    return files.PlaceOnDisk(files.BuildPath(folder, session.project()->Name() + qltoolkit::kImageSuffix));
 }
 
 void warnOfLineFeeds(Session& session, Console& console) {
@@ -36,7 +42,7 @@ void warnOfLineFeeds(Session& session, Console& console) {
             Tone::Warning);
 }
 
-int dryRun(Session& session, Console& console) {
+void printPlan(Session& session, Console& console) {
     session.takeUp();
     auto& files = session.machine().platform().files;
     console.out(fmt::format("project  {}\ndevice   {}\n", session.path(), session.settings()->TargetDevice()));
@@ -47,7 +53,11 @@ int dryRun(Session& session, Console& console) {
     for (const auto& step : apps::allSteps(*session.settings())) console.out(fmt::format("step     {}\n", step));
     console.out(fmt::format("image    {}\n", imagePathOf(session)));
     session.closeUnsaved();
-    return kGood;
+}
+
+bool isMachineTrouble(const Message& message) {
+    return message.number == fernwick::message_numbers::kToolsMissing ||
+           message.number == int(qltoolkit::Message::ImageNotWritten);
 }
 
 /// Compiles the project and, on success, validates it for the device.
@@ -62,41 +72,84 @@ Report compileAndValidate(Session& session, const std::string& device) {
     report.statusText = statusText(session);
     // the compile ended before the compiler ran
     if (runStatus(session) == fernwick::RunStatus::Running) report.statusText = kNotCompiled;
-    report.image = compiled ? session.machine().build().image : std::string();
+    report.image = compiled ? imageOfRun(session) : std::string();
     report.exitStatus = good ? kGood : kProjectErrors;
-    for (const auto& message : report.messages)
-        if (message.number == fernwick::message_numbers::kToolsMissing) report.exitStatus = kMachineTrouble;
+    if (std::any_of(report.messages.begin(), report.messages.end(), isMachineTrouble))
+        report.exitStatus = kMachineTrouble;
     return report;
 }
 
-/// A failure changes the exit status: make would not see the image's prerequisites.
-void writeDepfile(Session& session, const std::string& path, const std::vector<std::string>& inputs, Report& report) {
-    auto& files = session.machine().platform().files;
-    const auto err = basic::attempt([&] { files.WriteBytes(path, depfileText(report.image, inputs)); });
+/// As the project was named on the command line: relative to the current folder, or absolute.
+std::string pathAsNamed(const std::string& path, bool relative) {
+    const auto near = fs::path(path).lexically_proximate(fs::current_path());
+    return relative && *near.begin() != ".." ? near.string() : path;
+}
+
+DepfileRule ruleFor(const Report& report, const Options& options) {
+    const bool relative = fs::path(options.project).is_relative();
+    const bool imageIsRelative = options.output.empty() ? relative : fs::path(options.output).is_relative();
+    DepfileRule rule{options.depfileTarget, {}};
+    if (rule.target.empty()) rule.target = pathAsNamed(report.image, imageIsRelative);
+    for (const auto& input : report.inputs) rule.prerequisites.push_back(pathAsNamed(input, relative));
+    return rule;
+}
+
+/// One rule for each image; with a target of its own one rule for all of them.
+std::vector<DepfileRule> rulesFor(const Report& report, const Options& options) {
+    if (report.projects.empty()) return {ruleFor(report, options)};
+    std::vector<DepfileRule> rules;
+    for (const auto& member : report.projects) {
+        auto rule = ruleFor(member, options);
+        rule.prerequisites.push_back(pathAsNamed(report.project, fs::path(options.project).is_relative()));
+        auto& all = options.depfileTarget.empty() || rules.empty() ? rules.emplace_back(DepfileRule{rule.target, {}})
+                                                                   : rules.front();
+        all.prerequisites.insert(all.prerequisites.end(), rule.prerequisites.begin(), rule.prerequisites.end());
+    }
+    return rules;
+}
+
+/// Only after a complete build: without an image make would not see its prerequisites. A failure changes the exit
+/// status.
+void writeDepfile(const Options& options, Report& report) {
+    const auto isMade = [](const Report& one) { return !one.image.empty(); };
+    const bool made =
+        report.projects.empty() ? isMade(report) : std::all_of(report.projects.begin(), report.projects.end(), isMade);
+    if (options.depfile.empty() || !made) return;
+    const auto err =
+        basic::attempt([&] { host::FileSystem{}.WriteBytes(options.depfile, depfileText(rulesFor(report, options))); });
     if (err.Number == 0) return;
-    report.failure = fmt::format("{}: cannot be written: {}", path, err.Description);
+    report.failure = fmt::format("{}: cannot be written: {}", options.depfile, err.Description);
     report.exitStatus = kMachineTrouble;
 }
 
-int build(Session& session, const Options& options, Console& console) {
-    openProject(session, options);
-    if (options.dryRun) return dryRun(session, console);
-    beginWork(session, options);
+Report dryRun(Session& session, const Options& options, Console& console) {
+    printPlan(session, console);
+    Report report;
+    report.verb = options.verb;
+    report.project = session.path();
+    return report;
+}
 
+Report buildProject(const Options& options, Console& console) {
+    Session session{options, console};
+    openProject(session, options);
+    if (options.dryRun) return dryRun(session, options, console);
+    beginWork(session, options);
     Report report = compileAndValidate(session, deviceOfRun(session, options));
     warnOfLineFeeds(session, console);
-    const auto inputs = inputsOf(session);
-    endWork(session, report);
-    if (!report.image.empty() && !options.depfile.empty()) writeDepfile(session, options.depfile, inputs, report);
-    printReport(report, options, console);
-    return report.exitStatus;
+    report.inputs = inputsOf(session);
+    endWork(session, report, options);
+    return report;
 }
 
 } // namespace
 
 int runBuild(const Options& options, Console& console) {
-    Session session{options, console};
-    return build(session, options, console);
+    Report report = runProjects(options, console, buildProject);
+    if (options.dryRun) return report.exitStatus;
+    writeDepfile(options, report);
+    printProjects(report, options, console, printReport);
+    return report.exitStatus;
 }
 
 } // namespace cli

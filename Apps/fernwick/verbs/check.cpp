@@ -12,6 +12,8 @@
 #include "Host/files/text_file.h"
 #include <chrono>
 #include <fmt/format.h>
+#include <iostream>
+#include <iterator>
 
 namespace cli {
 
@@ -33,7 +35,16 @@ Message messageOf(const qltoolkit::Diagnostic& diagnostic) {
     return message;
 }
 
-qltoolkit::CheckResult checkOne(const SourceToCheck& source, const basic::CodePage& usual) {
+constexpr std::string_view kStandardInput = "-";
+
+qltoolkit::CheckResult checkStandardInput(const Options& options, const basic::CodePage& usual) {
+    std::string bytes{std::istreambuf_iterator<char>(std::cin), {}};
+    const auto page = host::codePageOf(bytes, usual);
+    return qltoolkit::checkSource(options.sourceName, std::move(bytes), {}, page);
+}
+
+qltoolkit::CheckResult checkOne(const SourceToCheck& source, const Options& options, const basic::CodePage& usual) {
+    if (source.path == kStandardInput) return checkStandardInput(options, usual);
     host::FileContent content;
     const auto err = basic::attempt([&] { content = host::readFile(source.path); });
     if (err.Number != 0) return qltoolkit::checkFile(source.path, source.constants, usual); // reports the error
@@ -46,7 +57,7 @@ CheckTotals checkAll(const SourceList& list, const basic::CodePage& usual, const
     CheckTotals totals;
     for (const auto& source : list.sources) {
         checkInterrupt();
-        const auto result = checkOne(source, usual);
+        const auto result = checkOne(source, options, usual);
         ++totals.files;
         totals.lines += result.lines;
         totals.errors += result.errors;

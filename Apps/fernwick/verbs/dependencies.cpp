@@ -36,7 +36,9 @@ int listDependencies(Session& session, const Options& options, Console& console)
 int runDependencies(const Options& options, Console& console) {
     auto operands = dependencyOperands(options.operands);
     Session session{options, console};
-    session.open(projectArgument(operands.project));
+    const auto project = projectArgument(operands.project);
+    if (operands.action != "list") session.lock(project);
+    session.open(project);
     session.takeUp();
     return operands.action == "list" ? listDependencies(session, options, console)
                                      : changeDependencies(session, operands, console);

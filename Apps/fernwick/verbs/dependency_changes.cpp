@@ -116,6 +116,7 @@ bool isMissing(Session& session, const tResource& entry) {
 
 int changeDependencies(Session& session, const DependencyOperands& operands, Console& console) {
     session.requireFernwickProject();
+    session.requireWritableProject();
     const auto before = session.addIn().dependencies.ReadProjectDependencies(session.project());
     auto list = before;
     int status = kGood;

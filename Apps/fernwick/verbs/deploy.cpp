@@ -2,6 +2,7 @@
 #include "Apps/fernwick/devices/device_runs.h"
 #include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/run/project_run.h"
+#include "Apps/fernwick/verbs/group_run.h"
 #include "Apps/fernwick/verbs/package_file.h"
 #include "Apps/fernwick/verbs/stored_messages.h"
 #include "Apps/fernwick/verbs/verbs.h"
@@ -12,7 +13,7 @@ namespace {
 
 enum class Way { Send, Pack };
 
-int transfer(const Options& options, Console& console, Way way) {
+Report transfer(const Options& options, Console& console, Way way) {
     Session session{options, console};
     openProject(session, options);
     beginWork(session, options);
@@ -26,22 +27,35 @@ int transfer(const Options& options, Console& console, Way way) {
         return messagesOfRun(session);
     });
     report.exitStatus = statusOf(report.devices, options.myDevices);
-    endWork(session, report);
-    printOutcomes(report, way == Way::Pack ? "packed" : "sent", options.myDevices, options, console);
-    return report.exitStatus;
+    endWork(session, report, options);
+    return report;
+}
+
+Report send(const Options& options, Console& console) { return transfer(options, console, Way::Send); }
+Report pack(const Options& options, Console& console) { return transfer(options, console, Way::Pack); }
+
+void printSent(const Report& report, const Options& options, Console& console) {
+    printOutcomes(report, "sent", options.myDevices, options, console);
+}
+void printPacked(const Report& report, const Options& options, Console& console) {
+    printOutcomes(report, "packed", options.myDevices, options, console);
 }
 
 } // namespace
 
 int runDeploy(const Options& options, Console& console) {
     if (isPackageFile(options.project)) return installPackage(options, console);
-    return transfer(options, console, Way::Send);
+    const Report report = runProjects(options, console, send);
+    printProjects(report, options, console, printSent);
+    return report.exitStatus;
 }
 
 int runPackage(const Options& options, Console& console) {
     if (options.list) return listPackage(options, console);
     if (options.verify) return verifyPackage(options, console);
-    return transfer(options, console, Way::Pack);
+    const Report report = runProjects(options, console, pack);
+    printProjects(report, options, console, printPacked);
+    return report.exitStatus;
 }
 
 } // namespace cli

@@ -17,9 +17,7 @@ namespace {
 
 struct MyDevices {
     MyDevices(const Options& options, Console& console)
-        : user(console, options.answers, {}),
-          machine(console, user, [](const std::string&, const std::string&) { return false; }),
-          addIn(machine.platform()) {
+        : user(console, options.answers, {}), machine(console, user), addIn(machine.platform()) {
         addIn.prefs.loadMyDevices();
         rows = deviceRows(machine, addIn.prefs.gMyDevices);
     }

@@ -84,7 +84,7 @@ void printFindings(const Findings& findings, Verbosity verbosity, Console& conso
 
 int runDoctor(const Options& options, Console& console) {
     CommandLineUser user{console, options.answers, {}};
-    Machine machine{console, user, [](const std::string&, const std::string&) { return false; }};
+    Machine machine{console, user};
     Findings findings;
     for (const auto& one : kExaminations) {
         checkInterrupt();

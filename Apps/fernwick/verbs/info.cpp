@@ -1,7 +1,7 @@
 #include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/run/project_argument.h"
-#include "Apps/fernwick/verbs/info_subject.h"
 #include "Apps/fernwick/verbs/info_verify.h"
+#include "Apps/fernwick/verbs/project_group.h"
 #include "Apps/fernwick/verbs/project_info.h"
 #include "Apps/fernwick/verbs/verbs.h"
 
@@ -18,7 +18,7 @@ ProjectInfo infoOfProject(const std::string& path, const Options& options, Conso
     return info;
 }
 
-int showProjects(const InfoSubject& subject, const Options& options, Console& console) {
+int showProjects(const ProjectGroup& subject, const Options& options, Console& console) {
     auto json = jsonResult("info");
     json["projects"] = Json::array();
     int status = kGood;
@@ -29,7 +29,7 @@ int showProjects(const InfoSubject& subject, const Options& options, Console& co
             json["projects"].push_back(jsonOfInfo(info));
             if (options.format == Format::Text) console.out(std::exchange(gap, "\n") + textOfInfo(info));
         } catch (const Refusal& refusal) {
-            if (subject.group.empty()) throw;
+            if (subject.path.empty()) throw;
             status = kProjectErrors;
             console.err(std::string("fernwick: ") + refusal.what(), Tone::Error);
         }
@@ -42,7 +42,7 @@ int showProjects(const InfoSubject& subject, const Options& options, Console& co
 
 int runInfo(const Options& options, Console& console) {
     const basic::CodePage usual{options.codePage};
-    const auto subject = infoSubjectOf(projectArgument(options.project), usual);
+    const auto subject = projectGroupOf(projectArgument(options.project), usual);
     return options.verify ? verifyRoundTrip(subject, options, console, usual) : showProjects(subject, options, console);
 }
 

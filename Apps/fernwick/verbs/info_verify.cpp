@@ -23,9 +23,9 @@ std::string verdictName(FileVerdict::Kind kind) {
     return "unreadable";
 }
 
-std::vector<FileVerdict> verdictsOf(const InfoSubject& subject, const basic::CodePage& usual) {
+std::vector<FileVerdict> verdictsOf(const ProjectGroup& subject, const basic::CodePage& usual) {
     std::vector<FileVerdict> verdicts;
-    if (!subject.group.empty()) verdicts.push_back(verifyGroup(subject.group, usual));
+    if (!subject.path.empty()) verdicts.push_back(verifyGroup(subject.path, usual));
     for (const auto& path : subject.projects) {
         std::vector<FileVerdict> more;
         const auto err = basic::attempt([&] { more = verifyProject(path, usual); });
@@ -69,7 +69,7 @@ Json jsonOfVerdicts(const std::vector<FileVerdict>& verdicts) {
 
 } // namespace
 
-int verifyRoundTrip(const InfoSubject& subject, const Options& options, Console& console,
+int verifyRoundTrip(const ProjectGroup& subject, const Options& options, Console& console,
                     const basic::CodePage& usual) {
     const auto verdicts = verdictsOf(subject, usual);
     const int status = countOfVerdicts(verdicts, FileVerdict::Kind::Changes) > 0 ? kProjectErrors : kGood;

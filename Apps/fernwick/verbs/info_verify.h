@@ -2,12 +2,13 @@
 // `info --verify`.
 #include "Apps/fernwick/options/options.h"
 #include "Apps/fernwick/output/console.h"
-#include "Apps/fernwick/verbs/info_subject.h"
+#include "Apps/fernwick/verbs/project_group.h"
 #include "Basic/code_page.h"
 
 namespace cli {
 
 /// Prints the verdict on each file and returns the exit status: 1 if one would change.
-int verifyRoundTrip(const InfoSubject& subject, const Options& options, Console& console, const basic::CodePage& usual);
+int verifyRoundTrip(const ProjectGroup& subject, const Options& options, Console& console,
+                    const basic::CodePage& usual);
 
 } // namespace cli

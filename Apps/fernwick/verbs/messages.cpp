@@ -13,7 +13,7 @@ namespace {
 std::string storedText(const Message& message) {
     std::string place = message.component.empty() ? "-" : message.component;
     if (message.codeLine != 0) place += fmt::format(":{}", message.codeLine);
-    return fmt::format("{}: {} {}: {}", place, message.isError ? "error" : "warning", message.number, message.text);
+    return fmt::format("{}: {} {}: {}", place, severityOf(message), message.number, message.text);
 }
 
 } // namespace

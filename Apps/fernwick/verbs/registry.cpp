@@ -89,7 +89,31 @@ int printValues(const Options& options, Console& console, const std::vector<RegI
     return kGood;
 }
 
+/// The text of a value: its characters, decimal digits, or hexadecimal bytes. Several texts have one line each.
+std::string bareText(const host::RegValue& value) {
+    auto data = value.data;
+    if (value.type == fernwick::REG_DWORD && data.size() == sizeof(std::uint32_t)) {
+        std::uint32_t number = 0;
+        for (std::size_t i = data.size(); i-- > 0;) number = number << 8 | static_cast<unsigned char>(data[i]);
+        return std::to_string(number);
+    }
+    if (host::isRegText(value.type)) {
+        while (!data.empty() && data.back() == '\0') data.pop_back();
+        std::replace(data.begin(), data.end(), '\0', '\n');
+        return data;
+    }
+    std::string digits;
+    for (const unsigned char byte : data) digits += fmt::format("{:02x}", byte);
+    return digits;
+}
+
+int printBare(const std::vector<RegInstruction>& found, Console& console) {
+    for (const auto& one : found) console.out(bareText(one.value) + "\n");
+    return kGood;
+}
+
 int get(const Options& options, Console& console) {
+    if (options.bare && options.operands.size() < 2) throw Refusal(kWrongUse, "registry get --bare expects KEY NAME");
     auto store = openStore();
     auto found = host::exportRegistry(store, options.operands[0]);
     const std::string key = found.empty() ? std::string() : found.front().key;
@@ -100,6 +124,7 @@ int get(const Options& options, Console& console) {
     if (found.empty() && options.operands.size() > 1)
         throw Refusal(kProjectErrors,
                       fmt::format("{}: there is no value {}", options.operands[0], options.operands[1]));
+    if (options.bare && options.format == Format::Text) return printBare(found, console);
     return printValues(options, console, found, false);
 }
 
@@ -119,6 +144,29 @@ int set(const Options& options, Console& console) {
     const std::string left = name.empty() ? "@" : rightSide(name);
     const auto text = fmt::format("{}[{}]\r\n{}={}\r\n", kRegHeader, key, left, rightSide(value));
     return change(options, console, host::readRegText(text, "value"), "value");
+}
+
+/// Refusal 1 if there is no such key or value.
+void requireStored(const std::string& key, const std::string* name) {
+    auto store = openStore();
+    const auto stored = host::exportRegistry(store, key);
+    const auto isValue = [&](const RegInstruction& one) {
+        return one.kind == RegInstruction::Kind::SetValue && one.key == stored.front().key &&
+               basic::equalNoCase(one.name, *name);
+    };
+    if (name && std::none_of(stored.begin(), stored.end(), isValue))
+        throw Refusal(kProjectErrors, fmt::format("{}: there is no value {}", key, *name));
+}
+
+/// A key with everything below it, or one value.
+int remove(const Options& options, Console& console) {
+    const auto& key = options.operands[0];
+    const auto* name = options.operands.size() > 1 ? &options.operands[1] : nullptr;
+    if (key.find('\\') == key.npos) throw Refusal(kWrongUse, key + ": a root key cannot be changed");
+    requireStored(key, name);
+    using Kind = RegInstruction::Kind;
+    if (!name) return change(options, console, {{Kind::DeleteKey, key, {}, {}, 0}}, key);
+    return change(options, console, {{Kind::MakeKey, key, {}, {}, 0}, {Kind::DeleteValue, key, *name, {}, 0}}, key);
 }
 
 int importFile(const Options& options, Console& console) {
@@ -142,12 +190,16 @@ struct RegistryAction {
 
 int exportKey(const Options& options, Console& console) {
     auto store = openStore();
-    return printValues(options, console, host::exportRegistry(store, options.operands[0]), true);
+    const auto found = host::exportRegistry(store, options.operands[0]);
+    if (!options.utf16 || options.format != Format::Text) return printValues(options, console, found, true);
+    console.out(host::writeRegText(found, host::RegTextEncoding::Utf16));
+    return kGood;
 }
 
 constexpr std::array kRegistryActions{
     RegistryAction{"get", "KEY [NAME]", 1, 2, get}, RegistryAction{"set", "KEY NAME VALUE", 3, 3, set},
-    RegistryAction{"export", "KEY", 1, 1, exportKey}, RegistryAction{"import", "FILE", 1, 1, importFile}};
+    RegistryAction{"delete", "KEY [NAME]", 1, 2, remove}, RegistryAction{"export", "KEY", 1, 1, exportKey},
+    RegistryAction{"import", "FILE", 1, 1, importFile}};
 
 int statusOfRegistryError(int number) {
     switch (number) {

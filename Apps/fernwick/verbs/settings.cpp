@@ -1,11 +1,14 @@
+#include "Apps/common/file_names.h"
 #include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/output/json_output.h"
 #include "Apps/fernwick/run/project_argument.h"
 #include "Apps/fernwick/run/project_run.h"
 #include "Apps/fernwick/run/session.h"
+#include "Apps/fernwick/verbs/new_project_settings.h"
 #include "Apps/fernwick/verbs/stored_settings.h"
 #include "Apps/fernwick/verbs/verbs.h"
 #include "Basic/case_folding.h"
+#include "Host/model/project.h"
 #include <fmt/format.h>
 
 namespace cli {
@@ -19,7 +22,7 @@ struct SettingOperands {
 };
 
 bool namesProject(const std::string& operand) {
-    return operand.size() > 4 && basic::equalNoCase(std::string_view(operand).substr(operand.size() - 4), ".vbp");
+    return apps::hasExtension(operand, ".vbp") || apps::hasExtension(operand, ".vbg");
 }
 
 SettingOperands splitOperands(std::vector<std::string> operands) {
@@ -81,47 +84,75 @@ int getSetting(const Options& options, Console& console, const StoredSetting& se
     return kGood;
 }
 
+std::string changeOf(const StoredSetting& setting, const std::vector<std::string>& before,
+                     const std::vector<std::string>& after) {
+    return fmt::format("{}: {} -> {}", setting.name, joinedValues(before), joinedValues(after));
+}
+
+/// Before anything is written: the add-in would report an unexpected error.
+void requireStorable(Session& session, const StoredSetting& setting, const std::vector<std::string>& values) {
+    const auto project = basic::cast<host::Project>(session.project());
+    if (!project) return;
+    const auto& page = project->file().codePage();
+    for (const auto& value : values)
+        if (!page.tryEncode(value))
+            throw Refusal(kProjectErrors,
+                          fmt::format("{} was not set: the code page {} of the project file cannot store {}",
+                                      setting.name, page.number(), value));
+}
+
 /// Writes the values unless the project has them already.
-void writeSetting(Session& session, const StoredSetting& setting, const std::vector<std::string>& values,
-                  Console& console, bool dryRun) {
-    auto& project = *session.settings();
-    const auto before = setting.read(project);
-    if (dryRun) {
-        console.out(fmt::format("{}: {} -> {}\n", setting.name, joinedValues(before), joinedValues(values)));
-        return;
-    }
+void writeSetting(Session& session, const StoredSetting& setting, const std::vector<std::string>& values) {
+    requireStorable(session, setting, values);
     const auto boxes = session.user().shown().size();
-    setting.write(project, values);
+    setting.write(*session.settings(), values);
     if (session.user().shown().size() > boxes)
         throw Refusal(kProjectErrors,
                       fmt::format("{} was not set: the project file cannot store this value", setting.name));
-    console.detail(
-        fmt::format("{}: {} -> {}", setting.name, joinedValues(before), joinedValues(setting.read(project))));
 }
 
 int setSetting(Session& session, const SettingOperands& operands, const Options& options, Console& console) {
     const auto& setting = settingOf(operands);
     if (const auto wrong = wrongWithValues(setting, operands.values); !wrong.empty()) throw Refusal(kWrongUse, wrong);
     if (setting.name == "TargetDevice") requireUsableDevice(session, operands.values.front());
-    writeSetting(session, setting, operands.values, console, options.dryRun);
+    const auto before = setting.read(*session.settings());
+    if (options.dryRun)
+        console.out(changeOf(setting, before, operands.values) + "\n");
+    else
+        writeSetting(session, setting, operands.values);
+    console.detail(changeOf(setting, before, setting.read(*session.settings())));
     return kGood;
 }
 
+std::vector<const StoredSetting*> settingsToReset(const SettingOperands& operands, const Options& options) {
+    std::vector<const StoredSetting*> settings;
+    if (operands.name.empty() && !options.all)
+        throw Refusal(kWrongUse, "settings reset expects the name of a setting, or --all");
+    if (!operands.name.empty() && options.all)
+        throw Refusal(kWrongUse, "settings reset takes a name or --all, not both");
+    if (!operands.name.empty()) settings.push_back(&writableSetting(settingOf(operands)));
+    if (options.all)
+        for (const auto& setting : storedSettings())
+            if (setting.write) settings.push_back(&setting);
+    return settings;
+}
+
 int resetSettings(Session& session, const SettingOperands& operands, const Options& options, Console& console) {
-    if (!operands.name.empty()) {
-        const auto& setting = settingOf(operands);
-        if (!setting.write) throw Refusal(kWrongUse, fmt::format("{} is read-only", setting.name));
-        writeSetting(session, setting, setting.otherwise, console, options.dryRun);
-        return kGood;
+    const auto settings = settingsToReset(operands, options);
+    const auto fresh = newProjectSettings(session);
+    for (const auto* setting : settings) {
+        const auto before = setting->read(*session.settings());
+        const auto& after = fresh.at(setting->name);
+        if (before == after) continue;
+        if (!options.dryRun) writeSetting(session, *setting, after);
+        if (options.format == Format::Text) console.out(changeOf(*setting, before, after) + "\n");
     }
-    for (const auto& setting : storedSettings())
-        if (setting.write && setting.read(*session.settings()) != setting.otherwise)
-            writeSetting(session, setting, setting.otherwise, console, options.dryRun);
     return kGood;
 }
 
 int changeSettings(Session& session, const SettingOperands& operands, const Options& options, Console& console) {
     session.requireFernwickProject();
+    if (!options.dryRun) session.requireWritableProject();
     const bool isSet = options.action == "set";
     const int status =
         isSet ? setSetting(session, operands, options, console) : resetSettings(session, operands, options, console);
@@ -136,7 +167,9 @@ int changeSettings(Session& session, const SettingOperands& operands, const Opti
 
 int runSettings(const Options& options, Console& console) {
     const auto operands = splitOperands(options.operands);
+    const bool writes = options.action == "set" || options.action == "reset";
     Session session{options, console};
+    if (writes && !options.dryRun) session.lock(operands.project);
     session.open(operands.project);
     session.takeUp();
     if (options.action == "list") return listSettings(options, console, *session.settings());

@@ -6,8 +6,13 @@
 #include "Host/files/group_file.h"
 #include "Host/files/path_lookup.h"
 #include "Host/files/project_file.h"
+#include <algorithm>
+#include <filesystem>
+#include <unordered_set>
 
 namespace cli {
+
+namespace fs = std::filesystem;
 
 namespace {
 
@@ -19,20 +24,59 @@ public:
     explicit SourceCollector(const basic::CodePage& usual) : usual_(usual) {}
 
     void add(const std::string& path) {
-        const auto err = basic::attempt([&] {
-            if (hasExtension(path, ".vbp"))
+        std::error_code ignored;
+        noteProblem(path, [&] {
+            if (fs::is_directory(path, ignored))
+                addFolder(path);
+            else if (hasExtension(path, ".vbp"))
                 addProject(path);
             else if (hasExtension(path, ".vbg"))
                 addGroup(path);
             else
-                list_.sources.push_back({path, {}});
+                addSource(path, {});
         });
-        if (err.Number != 0) list_.problems.push_back(withFile(path, err.Description));
     }
 
     SourceList take() { return std::move(list_); }
 
 private:
+    template <class Read>
+    void noteProblem(const std::string& path, Read&& read) {
+        const auto err = basic::attempt(read);
+        if (err.Number != 0) list_.problems.push_back(withFile(path, err.Description));
+    }
+
+    /// The first mention of a file counts.
+    void addSource(const std::string& path, const qltoolkit::ConditionalConstants& constants) {
+        if (seen_.insert(host::absolutePath(path)).second) list_.sources.push_back({path, constants});
+    }
+
+    /// The projects first, since their constants apply to their sources; then the sources of no project.
+    void addFolder(const std::string& folder) {
+        std::vector<std::string> projects, sources;
+        std::error_code failed;
+        fs::recursive_directory_iterator at(folder, fs::directory_options::skip_permission_denied, failed), end;
+        for (; !failed && at != end; at.increment(failed)) {
+            const auto path = at->path().string();
+            std::error_code ignored;
+            if (at->path().filename().string().starts_with('.')) at.disable_recursion_pending();
+            if (!at->is_regular_file(ignored)) continue;
+            if (hasExtension(path, ".vbp")) projects.push_back(path);
+            if (isSource(path)) sources.push_back(path);
+        }
+        if (failed) throw basic::RuntimeError(basic::kPathFileAccessError, failed.message());
+        std::sort(projects.begin(), projects.end());
+        std::sort(sources.begin(), sources.end());
+        for (const auto& path : projects) noteProblem(path, [&] { addProject(path); });
+        for (const auto& path : sources) addSource(path, {});
+        if (projects.empty() && sources.empty()) list_.problems.push_back(folder + ": contains no sources");
+    }
+
+    static bool isSource(const std::string& path) {
+        const auto is = [&](const char* extension) { return hasExtension(path, extension); };
+        return is(".bas") || is(".cls") || is(".frm") || is(".ctl");
+    }
+
     void addProject(const std::string& path) {
         const auto content = host::readFile(path);
         const auto page = host::codePageOf(content.bytes, usual_);
@@ -43,7 +87,7 @@ private:
         host::PathLookup lookup;
         for (const auto& member : project.members())
             if (host::isComponentKind(member.content.kind))
-                list_.sources.push_back({lookup.find(folderOf(path), member.content.value), constants});
+                addSource(lookup.find(folderOf(path), member.content.value), constants);
     }
 
     void addGroup(const std::string& path) {
@@ -52,11 +96,15 @@ private:
             throw basic::RuntimeError(basic::kInvalidProcedureCall, "not a Visual Basic project group");
         const host::GroupFile group{content.bytes, host::codePageOf(content.bytes, usual_)};
         host::PathLookup lookup;
-        for (const auto& entry : group.entries()) add(lookup.find(folderOf(path), entry.path));
+        for (const auto& entry : group.entries()) {
+            const auto project = lookup.find(folderOf(path), entry.path);
+            noteProblem(project, [&] { addProject(project); });
+        }
     }
 
     const basic::CodePage& usual_;
     SourceList list_;
+    std::unordered_set<std::string> seen_;
 };
 
 } // namespace

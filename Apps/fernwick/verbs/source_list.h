@@ -18,7 +18,8 @@ struct SourceList {
     std::vector<std::string> problems;
 };
 
-/// Returns the source files themselves, the components of projects, and those of the projects of groups.
+/// Returns each source file once: those given, the components of projects, those of the projects of groups, and all
+/// sources in and below folders, except in hidden ones.
 SourceList listSources(const std::vector<std::string>& operands, const basic::CodePage& usual);
 
 } // namespace cli

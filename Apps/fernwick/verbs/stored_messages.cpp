@@ -1,5 +1,6 @@
 #include "Apps/fernwick/verbs/stored_messages.h"
 #include "Add-in/build/messages/stored_messages.h"
+#include "Basic/text_search.h"
 #include "Host/model/component.h"
 
 namespace cli {
@@ -18,34 +19,41 @@ int physicalLineOf(const basic::Ref<vbide::VBProject>& project, const Message& m
     return int(source.headLines() + source.code().physicalLine(std::size_t(message.codeLine)));
 }
 
+/// A message is printed on one line.
+std::string oneLine(const std::string& text) { return basic::Replace(basic::Replace(text, "\r\n", " "), "\n", " "); }
+
+Message messageOf(Session& session, const fernwick::StoredMessage& stored) {
+    Message message;
+    message.isError = stored.type == fernwick::ERROR_MSG;
+    message.isKnown = message.isError || stored.type == fernwick::WARNING_MSG;
+    message.number = stored.errorNumber;
+    message.text = oneLine(stored.text);
+    message.file = stored.fileName;
+    message.component = session.addIn().messages.FindFileTitle(session.project(), stored.fileName);
+    message.codeLine = stored.line;
+    return message;
+}
+
 } // namespace
 
 std::vector<Message> storedMessages(Session& session) {
     std::vector<Message> messages;
-    for (const auto& stored : fernwick::storedMessages(session.project())) {
-        Message message;
-        message.isError = stored.type == fernwick::ERROR_MSG;
-        message.number = stored.errorNumber;
-        message.text = stored.text;
-        message.file = stored.fileName;
-        message.component = session.addIn().messages.FindFileTitle(session.project(), stored.fileName);
-        message.codeLine = stored.line;
-        messages.push_back(std::move(message));
-    }
+    for (const auto& stored : fernwick::storedMessages(session.project()))
+        messages.push_back(messageOf(session, stored));
     return messages;
 }
 
 std::vector<Message> messagesOfRun(Session& session) {
-    auto messages = storedMessages(session);
+    std::vector<Message> messages;
     const auto& diagnostics = session.machine().build().diagnostics;
     auto diagnostic = diagnostics.begin();
-    for (auto& message : messages) {
+    for (const auto& added : session.addIn().messages.messagesOfRun()) {
+        auto& message = messages.emplace_back(messageOf(session, added));
         const bool isCompilers = message.number <= kLastCompilerNumber;
         if (!isCompilers) message.line = physicalLineOf(session.project(), message);
         if (!isCompilers || diagnostic == diagnostics.end()) continue;
         message.line = int(diagnostic->line);
         message.column = int(diagnostic->column);
-        message.text = diagnostic->text;
         ++diagnostic;
     }
     return messages;

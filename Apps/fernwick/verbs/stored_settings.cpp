@@ -1,5 +1,7 @@
 #include "Apps/fernwick/verbs/stored_settings.h"
 #include "Apps/fernwick/devices/device_settings.h"
+#include "Apps/fernwick/options/exit_status.h"
+#include "Apps/fernwick/options/refusal.h"
 #include "Basic/case_folding.h"
 #include "Basic/conversions.h"
 #include <algorithm>
@@ -69,8 +71,13 @@ const StoredSetting* storedSettingNamed(std::string_view name) {
     return nullptr;
 }
 
+const StoredSetting& writableSetting(const StoredSetting& setting) {
+    if (!setting.write) throw Refusal(kWrongUse, fmt::format("{} is read-only", setting.name));
+    return setting;
+}
+
 std::string wrongWithValues(const StoredSetting& setting, const Values& values) {
-    if (!setting.write) return fmt::format("{} is read-only", setting.name);
+    (void)writableSetting(setting);
     for (const auto& value : values)
         if (value.find_first_of("\r\n") != value.npos) return "a stored value must not contain line breaks";
     if (setting.kind == SettingKind::List) return {};

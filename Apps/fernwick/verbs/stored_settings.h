@@ -28,7 +28,9 @@ struct StoredSetting {
 std::span<const StoredSetting> storedSettings();
 /// Letter case ignored; null for an unknown name.
 const StoredSetting* storedSettingNamed(std::string_view name);
-/// Returns "" if the values can be written to the setting, else what is wrong with them.
+/// Returns the setting. Refusal 2 if it is read-only.
+const StoredSetting& writableSetting(const StoredSetting& setting);
+/// Refusal 2 for a read-only setting. Returns "" if the values can be written to the setting, else what is wrong with them.
 std::string wrongWithValues(const StoredSetting& setting, const StoredSetting::Values& values);
 
 } // namespace cli

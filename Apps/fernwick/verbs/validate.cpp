@@ -1,6 +1,7 @@
 #include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/output/plural.h"
 #include "Apps/fernwick/run/project_run.h"
+#include "Apps/fernwick/verbs/group_run.h"
 #include "Apps/fernwick/verbs/stored_messages.h"
 #include "Apps/fernwick/verbs/verbs.h"
 #include <algorithm>
@@ -26,9 +27,7 @@ std::string closingLine(const Report& report) {
                        plural(report.messages.size() - errors, "warning"));
 }
 
-} // namespace
-
-int runValidate(const Options& options, Console& console) {
+Report validateProject(const Options& options, Console& console) {
     Session session{options, console};
     openProject(session, options);
     beginWork(session, options);
@@ -44,8 +43,15 @@ int runValidate(const Options& options, Console& console) {
     report.messages = messagesOfRun(session);
     report.exitStatus = good ? kGood : kProjectErrors;
     report.statusText = closingLine(report);
-    endWork(session, report);
-    printReport(report, options, console);
+    endWork(session, report, options);
+    return report;
+}
+
+} // namespace
+
+int runValidate(const Options& options, Console& console) {
+    const Report report = runProjects(options, console, validateProject);
+    printProjects(report, options, console, printReport);
     return report.exitStatus;
 }
 

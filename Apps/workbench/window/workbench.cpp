@@ -14,10 +14,9 @@ namespace workbench {
 
 Workbench::Workbench()
     : machine_({user_, loop_, clipboard_,
-                [this](const std::string& commandLine, const std::string& folder) {
+                std::make_unique<host::Processes>([this](const std::string& commandLine, const std::string& folder) {
                     return mayRunSteps(commandLine, folder);
-                },
-                [] { return false; },
+                }),
                 [this](const std::string& document) {
                     showInformation("No installed program can show " + qt(document), window_.get());
                 }}),

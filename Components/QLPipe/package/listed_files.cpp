@@ -40,7 +40,7 @@ FileListing listFiles(const fernwick::FileSystemObject& files, const ProjectFile
             continue;
         }
         try {
-            listing.files.push_back(listFile(files.Canonical(entry), resource));
+            listing.files.push_back(listFile(files.PlaceOnDisk(entry), resource));
         } catch (const TransferError& error) { listing.findings.push_back({true, error.number, error.text, entry}); }
     }
     return listing;

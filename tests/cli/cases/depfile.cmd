@@ -11,8 +11,8 @@ say make has nothing to do
 run make --no-print-directory
 cd .. && cp -r "$SAMPLES/AddressBook" plain && cd plain
 cat >Makefile <<'M'
-all: $(CURDIR)/AddressBook.0000.qlx
-$(CURDIR)/AddressBook.0000.qlx:
+all: AddressBook.0000.qlx
+AddressBook.0000.qlx:
 	@fernwick build --quiet --depfile book.d
 -include book.d
 M
@@ -25,3 +25,14 @@ run make --no-print-directory
 say a deleted source is reported by fernwick, not by make
 rm modAddressBook.bas
 run make --no-print-directory
+cd ..
+say the target is named as the project is, or as told
+sample HelloWorld
+run fernwick build --quiet HelloWorld/HelloWorld.vbp --depfile hello.d
+run head -1 hello.d
+run fernwick build --quiet "$PWD/HelloWorld/HelloWorld.vbp" --depfile hello.d
+run head -2 hello.d
+run fernwick build --quiet HelloWorld/HelloWorld.vbp --output made --depfile hello.d --depfile-target all
+run head -2 hello.d
+run fernwick build --quiet HelloWorld/HelloWorld.vbp --output made --depfile hello.d
+run head -1 hello.d

@@ -16,3 +16,8 @@ run fernwick build
 say no other device is chosen instead
 sed -i 's/^TargetDevice=.*/TargetDevice=PalmOS-DragonBall\r/' HelloWorld.vbp
 run fernwick build --device PocketPC-SH3
+say the option names a design target, not a row of the form
+cp before HelloWorld.vbp
+run fernwick build --device PocketPC-ARM
+stored HelloWorld.vbp TargetDevice
+run fernwick validate

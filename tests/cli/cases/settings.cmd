@@ -13,6 +13,7 @@ run fernwick settings set ProjectVersion 9
 run fernwick settings set TargetDevice Toaster
 run fernwick settings set DefaultFontName "$(printf 'a\nb')"
 run fernwick settings set DefaultFontName '日本'
+run fernwick settings reset ProjectVersion
 run fernwick settings set DefaultFontSize 12
 same HelloWorld.vbp before
 run fernwick settings set DefaultFontSize 9 --verbose
@@ -23,8 +24,10 @@ run fernwick settings get PostCompileSteps
 run fernwick settings get PostCompileSteps --format json
 run fernwick settings reset PostCompileSteps
 run fernwick settings reset ScanReferences
-run fernwick settings reset --dry-run
 run fernwick settings reset
+run fernwick settings set DefaultFormWidth 1
+run fernwick settings reset --all --dry-run
+run fernwick settings reset --all
 run fernwick settings list
 
 say "A project overrides the folder on its handheld, but not where that is."

@@ -24,3 +24,8 @@ run fernwick build --trust-steps
 fernwick settings reset PostCompileSteps
 fernwick settings reset PreCompileSteps
 run fernwick build
+say a step whose program does not exist
+fernwick settings set PreCompileSteps 'touch one' 'nosuchprog -x'
+run fernwick build --trust-steps
+say skipped steps do not stop the build
+run fernwick build --no-steps

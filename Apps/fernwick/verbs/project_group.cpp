@@ -1,4 +1,4 @@
-#include "Apps/fernwick/verbs/info_subject.h"
+#include "Apps/fernwick/verbs/project_group.h"
 #include "Apps/common/file_names.h"
 #include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/options/refusal.h"
@@ -8,23 +8,28 @@
 #include "Host/files/group_file.h"
 #include "Host/files/path_lookup.h"
 #include "Host/files/text_file.h"
+#include <algorithm>
 #include <fmt/format.h>
 
 namespace cli {
 
-InfoSubject infoSubjectOf(const std::string& path, const basic::CodePage& usual) {
+ProjectGroup projectGroupOf(const std::string& path, const basic::CodePage& usual) {
     if (!apps::hasExtension(path, ".vbg")) return {{}, {path}};
-    InfoSubject subject;
-    subject.group = host::absolutePath(path);
+    ProjectGroup subject;
+    subject.path = host::absolutePath(path);
     host::FileContent content;
-    const auto err = basic::attempt([&] { content = host::readFile(subject.group); });
-    if (err.Number != 0) throw Refusal(statusOfOpening(err.Number), withFile(subject.group, err.Description));
+    const auto err = basic::attempt([&] { content = host::readFile(subject.path); });
+    if (err.Number != 0) throw Refusal(statusOfOpening(err.Number), withFile(subject.path, err.Description));
     if (!host::GroupFile::looksLikeGroup(content.bytes))
         throw Refusal(kProjectErrors, fmt::format("{}: is not a Visual Basic project group", path));
     host::PathLookup lookup;
-    const auto folder = apps::folderOf(subject.group);
+    const auto folder = apps::folderOf(subject.path);
     const host::GroupFile group{content.bytes, host::codePageOf(content.bytes, usual)};
-    for (const auto& entry : group.entries()) subject.projects.push_back(lookup.find(folder, entry.path));
+    for (const auto& entry : group.entries()) {
+        const auto project = lookup.find(folder, entry.path);
+        const auto& listed = subject.projects;
+        if (std::find(listed.begin(), listed.end(), project) == listed.end()) subject.projects.push_back(project);
+    }
     return subject;
 }
 
