@@ -357,9 +357,8 @@ private:
 /// A parsed text with its source and symbols.
 struct Parsed {
     explicit Parsed(std::string text, std::string name = "Test.bas", const ConditionalConstants& constants = {},
-                    int page = 1252)
-        : source(std::move(name), std::move(text), basic::CodePage(page)),
-          result(parseModule(source, symbols, constants)) {}
+                    const basic::CodePage& page = basic::CodePage::windows1252())
+        : source(std::move(name), std::move(text), page), result(parseModule(source, symbols, constants)) {}
 
     /// Returns "line:column number" of each diagnostic, separated by blanks.
     std::string diagnostics() const {

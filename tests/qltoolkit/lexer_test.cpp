@@ -30,9 +30,9 @@ TEST(Lexer, ReadsNamesInTheProjectsCodePage) {
                          "Test.bas"};
     EXPECT_EQ(western.module(), "(dim stra\xC3\x9F"
                                 "e:Long \xC3\x89t\xC3\xA9)");
-    const Parsed japanese{"Dim \x83\x5C\x83\x7C As Long\n", "Test.bas", {}, 932};
+    const Parsed japanese{"Dim \x83\x5C\x83\x7C As Long\n", "Test.bas", {}, basic::CodePage(932)};
     EXPECT_EQ(japanese.module(), "(dim \xE3\x82\xBD\xE3\x83\x9D:Long)") << "second bytes equal to \\ and |";
-    const Parsed chinese{"Dim \xD6\xD0\xCE\xC4$\n", "Test.bas", {}, 936};
+    const Parsed chinese{"Dim \xD6\xD0\xCE\xC4$\n", "Test.bas", {}, basic::CodePage(936)};
     EXPECT_EQ(chinese.module(), "(dim \xE4\xB8\xAD\xE6\x96\x87$)");
     const Parsed utf8{"Dim \xC3\xA9t\xC3\xA9\n"};
     EXPECT_EQ(utf8.module(), "(dim \xC3\xA9t\xC3\xA9)");
@@ -53,7 +53,7 @@ TEST(Lexer, ReportsTypographicQuotes) {
               "2:5 1100");
     EXPECT_EQ(Parsed("Sub A()\nf a\xA3\xAC"
                      "b\nEnd Sub",
-                     "T.bas", {}, 936)
+                     "T.bas", {}, basic::CodePage(936))
                   .diagnostics(),
               "2:3 1100");
     const Parsed quotes{"Sub A()\nx = \x93\x94\nEnd Sub"};
@@ -63,12 +63,12 @@ TEST(Lexer, ReportsTypographicQuotes) {
 TEST(Lexer, WideBlanksSeparateWords) {
     EXPECT_EQ(Parsed("Dim\x81\x40"
                      "a\n",
-                     "T.bas", {}, 932)
+                     "T.bas", {}, basic::CodePage(932))
                   .module(),
               "(dim a)");
     EXPECT_EQ(Parsed("Dim\xA1\xA1"
                      "a\n",
-                     "T.bas", {}, 936)
+                     "T.bas", {}, basic::CodePage(936))
                   .module(),
               "(dim a)");
     EXPECT_EQ(Parsed("Dim\xA0"

@@ -49,6 +49,24 @@ TEST(ParserLimits, BlocksCanBeNestedTwoHundredDeep) {
     EXPECT_EQ(errorsOf(repeat("If a Then ", 50'000) + "x = 1"), "2:2001 1529");
 }
 
+TEST(ParserLimits, HeadersCanBeNestedTwoHundredDeep) {
+    const auto form = [](const std::string& begin, const std::string& end, std::size_t depth) {
+        return Parsed("VERSION 5.00\n" + repeat(begin, depth) + repeat(end, depth) + "Dim a\n", "Test.frm")
+            .diagnostics();
+    };
+    EXPECT_EQ(form("Begin VB.Frame F\n", "End\n", 200), "");
+    EXPECT_EQ(form("Begin VB.Frame F\n", "End\n", 100'000), "202:1 1010");
+    EXPECT_EQ(Parsed("VERSION 5.00\nBegin VB.Form F\n" + repeat("BeginProperty a\n", 100'000), "A.frm").diagnostics(),
+              "202:1 1010");
+}
+
+TEST(ParserLimits, DirectivesCanBeNestedWithoutLimit) {
+    EXPECT_EQ(Parsed(repeat("#If 1 Then\n", 100'000) + "Dim a\n" + repeat("#End If\n", 100'000)).diagnostics(), "");
+    EXPECT_EQ(Parsed(repeat("#If 0 Then\n", 100'000) + "(((\n" + repeat("#End If\n", 100'000)).diagnostics(), "");
+    EXPECT_EQ(Parsed("#If " + repeat("CLng(", 100'000) + "1" + repeat(")", 100'000) + " Then\n#End If").diagnostics(),
+              "1:1005 1804");
+}
+
 TEST(ParserLimits, AcceptsLongChains) {
     EXPECT_EQ(errorsOf("x = 1" + repeat(" + 1", 1'000'000)), "");
     EXPECT_EQ(errorsOf("x = a" + repeat(".b", 1'000'000)), "");

@@ -43,7 +43,7 @@ TEST(Messages, TextsQuoteTheSource) {
     EXPECT_EQ(text("x = \xC9t\xE9 \xE9t\xE9"), "Expected: end of the statement, found: \xC3\xA9t\xC3\xA9.");
     EXPECT_EQ(text("End Sub\nSub B(ParamArray x)"), "ParamArray needs parentheses after the name: ParamArray x().");
     EXPECT_EQ(text("End Sub\nFunction F()\nEnd Function\nFunction G()"),
-              "Expected: End Function, to match the beginning of the procedure.");
+              "This line should be End Function. The procedure ends here nevertheless.");
     EXPECT_EQ(text("Sub B()"), "This procedure has no End Sub.");
     EXPECT_EQ(text("x = y \"a very long text that would fill the whole line and more if it were not cut\""),
               "Expected: end of the statement, found: \"a very long text that would fill the whole line and more if.");

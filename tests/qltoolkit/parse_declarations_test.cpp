@@ -86,6 +86,8 @@ TEST(ParseDeclarations, Declare) {
          {"Public Declare Function F Lib \"a\" Alias \"#12\" (ByVal s$) As Long",
           "(public:declare function F[byval:s$]:Long \"a\" \"#12\")"},
          {"Declare Sub S CDecl Lib \"a\" ()", "(declare sub S[] \"a\")"},
+         {"Declare Function F& CDecl Lib \"a\" Alias \"f\" (ByVal x As Long)",
+          "(declare function F&[byval:x:Long] \"a\" \"f\")"},
          {"Declare Sub S Lib \"a\" (Optional ByVal x As Long, ParamArray y() As Variant)",
           "(declare sub S[optional:byval:x:Long paramarray:y[]:Variant] \"a\")"},
          {"Declare Sub S \"a\"", "1:15 1310"},
@@ -116,6 +118,10 @@ TEST(ParseDeclarations, Procedures) {
          {"Static Sub A()\nEnd Sub", "(static:sub A[] {})"},
          {"Private Static Function A()\nEnd Function", "(private:static:function A[] {})"},
          {"Friend Sub A()\nEnd Sub", "(friend:sub A[] {})"},
+         {"Function F CDecl(ByVal x As Long) As Long\nEnd Function", "(function F[byval:x:Long]:Long {})"},
+         {"Private Sub A CDecl ()\nEnd Sub", "(private:sub A[] {})"},
+         {"Property Get P CDecl() As Long\nEnd Property", "(get P[]:Long {})"},
+         {"Sub CDecl()\nEnd Sub", "(sub CDecl[] {})"},
          {"Sub A(Optional x As Long = 5, Optional ByVal y = \"a\")\nEnd Sub",
           "(sub A[optional:x:Long=5 optional:byval:y=\"a\"] {})"},
          {"Sub A(x, ParamArray y())\nEnd Sub", "(sub A[x paramarray:y[]] {})"},
@@ -138,12 +144,22 @@ TEST(ParseDeclarations, ProceduresWithErrors) {
                         {"Function F%() As Long\nEnd Function", "1:15 1328"},
                         {"Sub A(x\nEnd Sub", "1:8 1801"},
                         {"Property P()\nEnd Property", "1:10 1318"},
-                        {"Sub A()\nEnd Function\nSub B()\nEnd Sub", "2:1 1316"},
                         {"Sub A()\nx = 1\nSub B()\nEnd Sub", "1:1 1315"},
                         {"Sub A()\nIf x Then\nPrivate Sub B()\nEnd Sub", "2:1 1503"},
                         {"Sub A()", "1:1 1315"},
                         {"End Sub", "1:1 1317"},
                         {"x = 1\ny = 2\nz = 3\nDim a\nw = 4", "1:1 1305 5:1 1305"}});
+}
+
+TEST(ParseDeclarations, AnotherKindOfEndClosesAProcedureWithAWarning) {
+    for (const auto* text : {"Sub A()\nEnd Function\nSub B()\nEnd Sub", "Property Get P()\nEnd Function\nDim a",
+                             "Function F()\nEnd Property", "Function F()\nEnd Sub"}) {
+        const Parsed parsed{text};
+        EXPECT_EQ(parsed.diagnostics(), "2:1 1333") << text;
+        EXPECT_EQ(parsed.result.errors, 0u) << text;
+    }
+    EXPECT_EQ(Parsed("Sub A()\nIf x Then\nEnd Function").diagnostics(), "2:1 1503 3:1 1333");
+    EXPECT_EQ(Parsed("Property Get P()\nEnd Function\nDim a").module(), "(get P[] {}) (dim a)");
 }
 
 TEST(ParseDeclarations, Attributes) {
@@ -200,11 +216,32 @@ TEST(ConditionalCompilation, EvaluatesConditions) {
                                   "-Two = -2",
                                   "&HFF = 255",
                                   "Two / 4 = 0.5",
-                                  "Undefined = \"\""})
+                                  "Undefined = \"\"",
+                                  "CLng(\"5\") = 5",
+                                  "clng(Two) = 2",
+                                  "CInt(2.5) = 2 And CInt(3.5) = 4",
+                                  "CByte(255) = &HFF",
+                                  "CBool(5) = True",
+                                  "CBool(Undefined) = False",
+                                  "CCur(1.23456) = 1.2346",
+                                  "CSng(0.1) <> 0.1 And CDbl(\"0.1\") = 0.1",
+                                  "CDate(\"1/1/2000\") = #1/1/2000#",
+                                  "CStr(Two) = \"2\"",
+                                  "CVar(Word) = Word",
+                                  "CLngPtr(7) = CLngLng(7)",
+                                  "Int(-2.5) = -3 And Fix(-2.5) = -2",
+                                  "Abs(-3) = 3 And Sgn(-3) = -1",
+                                  "Len(Word) = 3 And LenB(Word) = 6",
+                                  "Len(Undefined) = 0 And Len(5) = 2 And Len(70000) = 4 And Len(0.5) = 8",
+                                  "Not CBool(Len(\"\"))",
+                                  "Int(Abs(CDbl(-Two))) = 2",
+                                  "Word Like \"A*\""})
         EXPECT_EQ(taken(condition), "yes") << condition;
     for (const auto* condition : {"Two = 3", "Not Two = 2", "Undefined", "Mac", "Win16", "Win64"})
         EXPECT_EQ(taken(condition), "no") << condition;
-    for (const auto* condition : {"f(1)", "a.b", "1 \\ 0", "1 Mod 0", "1 / 0", "Word", "Word + 1", "1E300 And 1"})
+    for (const auto* condition :
+         {"f(1)", "a.b", "1 \\ 0", "1 Mod 0", "1 / 0", "Word", "Word + 1", "1E300 And 1", "CInt(40000)", "CLng(Word)",
+          "CLng()", "CLng(1, 2)", "Dir(\"a\")", "Two Is Two", "Sgn(x:=1)", "a.Len(1)", "Word Like \"[\""})
         EXPECT_EQ(taken(condition), "3:5 1203") << condition;
 }
 

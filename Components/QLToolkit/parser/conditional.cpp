@@ -1,6 +1,10 @@
 #include "Components/QLToolkit/parser/conditional.h"
 #include "Basic/case_folding.h"
-#include <charconv>
+#include "Basic/conversions.h"
+#include "Basic/like.h"
+#include "Basic/runtime_error.h"
+#include "Components/QLToolkit/parser/conditional_functions.h"
+#include "Components/QLToolkit/source/characters.h"
 #include <cmath>
 
 namespace qltoolkit {
@@ -66,15 +70,15 @@ std::optional<Value> compareValues(Operator op, const T& left, const T& right) {
 
 bool isComparison(Operator op) { return op >= Operator::Equal && op <= Operator::GreaterEqual; }
 
-std::string textOf(const Value& v) {
-    if (v.kind == Value::Kind::Text) return v.text;
-    if (v.kind == Value::Kind::Empty) return {};
-    char buffer[32];
-    const auto end = std::to_chars(buffer, buffer + sizeof buffer, v.number).ptr;
-    return {buffer, end};
+std::optional<Value> like(const Value& left, const Value& right) {
+    std::optional<Value> result;
+    (void)basic::attempt([&] { result = truthValue(basic::Like(textOf(left), textOf(right))); });
+    return result;
 }
 
 std::optional<Value> binaryValue(Operator op, const Value& left, const Value& right) {
+    if (op == Operator::Like) return like(left, right);
+    if (op == Operator::Is) return {};
     if (op == Operator::Concat) return Value{Value::Kind::Text, 0, textOf(left) + textOf(right)};
     const bool texts = left.kind == Value::Kind::Text || right.kind == Value::Kind::Text;
     if (!texts)
@@ -96,7 +100,18 @@ std::optional<Value> unaryValue(Operator op, const Value& v) {
     return numberValue(~*bits);
 }
 
+std::string_view wordAt(const SourceText& source, Pos begin) {
+    Pos end = begin;
+    while (charIs(source.data()[end], kNamePart)) ++end;
+    return source.text(begin, end);
+}
+
 } // namespace
+
+std::string textOf(const ConditionalValue& v) {
+    if (v.kind == Value::Kind::Text) return v.text;
+    return v.kind == Value::Kind::Empty ? std::string() : basic::CStr(v.number);
+}
 
 std::optional<ConditionalValue> Conditions::evaluate(const SourceText& source, const Expr& e) const {
     switch (e.kind) {
@@ -119,8 +134,17 @@ std::optional<ConditionalValue> Conditions::evaluate(const SourceText& source, c
         return v ? unaryValue(e.op(), *v) : std::nullopt;
     }
     case ExprKind::Binary: return evaluateChain(source, e);
+    case ExprKind::Index: return evaluateCall(source, as<IndexExpr>(e));
     default: return {};
     }
+}
+
+std::optional<ConditionalValue> Conditions::evaluateCall(const SourceText& source, const IndexExpr& e) const {
+    if (e.callee->kind != ExprKind::Name || e.arguments.size() != 1) return {};
+    const Argument& argument = *e.arguments.begin();
+    if (!argument.value || argument.byVal || argument.name != Symbol::None) return {};
+    const auto value = evaluate(source, *argument.value);
+    return value ? callConditionalFunction(wordAt(source, e.callee->pos), *value) : std::nullopt;
 }
 
 // Chains such as a Or b Or c ... may be long, so their left side is walked in a loop.

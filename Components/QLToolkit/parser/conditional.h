@@ -16,13 +16,17 @@ struct ConditionalValue {
     std::string text;
 };
 
+/// Returns the value as the operator & joins it.
+[[nodiscard]] std::string textOf(const ConditionalValue&);
+
 /// The defined constants and the stack of open #If blocks.
 class Conditions {
 public:
     void define(Symbol name, ConditionalValue value) { constants_[name] = std::move(value); }
 
     /// Returns the value of a constant expression, in which undefined names are Empty. Returns nothing if the
-    /// expression is not constant (a call, a member) or mixes strings with numbers.
+    /// expression is not constant (a member, a call of a function that is not in conditional_functions.h) or mixes
+    /// strings with numbers.
     [[nodiscard]] std::optional<ConditionalValue> evaluate(const SourceText&, const Expr&) const;
 
     struct Open {
@@ -36,6 +40,7 @@ public:
 
 private:
     [[nodiscard]] std::optional<ConditionalValue> evaluateChain(const SourceText&, const Expr&) const;
+    [[nodiscard]] std::optional<ConditionalValue> evaluateCall(const SourceText&, const IndexExpr&) const;
 
     std::unordered_map<Symbol, ConditionalValue> constants_;
     std::vector<Open> open_;

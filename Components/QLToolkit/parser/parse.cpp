@@ -25,6 +25,10 @@ bool checkShape(const SourceText& source, Diagnostics& diagnostics) {
         diagnostics.report(Message::HeaderUnclosed, source.lineStart(source.headerBlock()));
         return false;
     }
+    if (source.header() == HeaderState::TooDeep) {
+        diagnostics.report(Message::HeaderTooDeep, source.lineStart(source.headerBlock()));
+        return false;
+    }
     const bool noHead = source.header() == HeaderState::Missing && source.attributesBegin() == source.codeBegin();
     if (noHead && source.kind() == FileKind::Class) diagnostics.reportFile(Message::HeaderMissing);
     return true;

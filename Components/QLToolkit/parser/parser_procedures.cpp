@@ -44,6 +44,7 @@ void Parser::procedureKind(ProcedureKind& kind) {
 
 void Parser::signature(Signature& s) {
     s.name = expectName(&s.namePos, &s.suffix);
+    accept(Keyword::CDecl);
     if (at(TokenKind::LeftParen)) s.parameters = parameters(false, s.kind >= ProcedureKind::PropertyLet);
     if (at(Keyword::As)) {
         if (s.suffix) failHere(Message::SuffixAndType);
@@ -118,7 +119,7 @@ void Parser::endProcedure(ProcedureDecl& p) {
         cutShort_ = true;
         return;
     }
-    if (!after.is(wanted)) report(Message::EndProcedureWrong, tok_.begin, spelling(wanted));
+    if (!after.is(wanted)) report(Message::EndProcedureOther, tok_.begin, spelling(wanted));
     advance();
     advance();
     expectEndOfStatement();

@@ -40,6 +40,9 @@ constexpr MessageInfo kMessageTable[] = {
      "Option Explicit", "Copy the header of another class file and change VB_Name."},
     {M::TooManyErrors, S::Error, "More than {count} errors; the rest of the file was not checked.",
      "Checking stops when a file has too many errors.", "", "Fix the errors reported so far and check again."},
+    {M::HeaderTooDeep, S::Error, "The blocks of the file's header are nested too deeply.",
+     "Controls and properties can be nested up to 200 levels deep.", "",
+     "Restore the file from a backup, or move controls out of their containers."},
 
     {M::InvalidCharacter, S::Error, "The character {found} is not valid here.",
      "Outside strings and comments, code consists of letters, digits and the language's own symbols. Typographic "
@@ -71,11 +74,11 @@ constexpr MessageInfo kMessageTable[] = {
      "A line that begins with # must be a directive of conditional compilation.", "#Elif x Then",
      "Correct the directive."},
     {M::ConditionInvalid, S::Error,
-     "This expression is not constant. Only numbers, strings and constants of conditional compilation are allowed "
-     "here.",
-     "Conditions are evaluated during compilation, where functions and object members are not available. Strings "
-     "cannot be mixed with numbers.",
-     "#If Len(\"a\") Then", "Use only literals, operators and names defined by #Const."},
+     "This expression is not constant. Only numbers, strings, constants of conditional compilation and conversions are "
+     "allowed here.",
+     "Conditions are evaluated during compilation. Int, Fix, Abs, Sgn, Len, LenB and the conversions such as CLng are "
+     "available, other functions and object members are not. Strings cannot be mixed with numbers.",
+     "#If Dir(\"a\") Then", "Use only literals, operators, these functions and names defined by #Const."},
     {M::ConditionAfterElse, S::Error, "{directive} after #Else.", "#Else must be the last branch of an #If.",
      "#Else\n#Else", "Move the branch before #Else, or delete it."},
     {M::DirectiveThenMissing, S::Error, "Expected: Then.", "#If and #ElseIf end with Then.", "#If Win32", "Add Then."},
@@ -121,9 +124,6 @@ constexpr MessageInfo kMessageTable[] = {
     {M::EndProcedureMissing, S::Error, "This procedure has no End {keyword}.",
      "Another procedure begins, or the file ends, before this procedure is closed.", "Sub A()\nSub B()\nEnd Sub",
      "Add the missing End line."},
-    {M::EndProcedureWrong, S::Error, "Expected: End {keyword}, to match the beginning of the procedure.",
-     "Sub, Function and Property are each closed by their own End statement.", "Function A()\nEnd Sub",
-     "Correct the End line or the first line of the procedure."},
     {M::EndWithoutProcedure, S::Error, "{found} outside a procedure.", "No Sub, Function or Property is open here.",
      "End Sub", "Delete the line, or restore the first line of the procedure."},
     {M::PropertyKindExpected, S::Error, "Expected: Get, Let or Set, found: {found}.",
@@ -168,6 +168,10 @@ constexpr MessageInfo kMessageTable[] = {
      "Correct the number, or use the procedure's name."},
     {M::EventParameter, S::Error, "An event's parameters cannot be Optional or ParamArray.",
      "An event handler always receives all arguments.", "Event Done(Optional x)", "Delete the word."},
+    {M::EndProcedureOther, S::Warning, "This line should be End {keyword}. The procedure ends here nevertheless.",
+     "Sub, Function and Property are each closed by their own End statement. Another one is accepted, because the "
+     "language's own development environment accepts it.",
+     "Function A()\nEnd Sub", "Correct the End line or the first line of the procedure."},
 
     {M::StatementExpected, S::Error, "Expected: a statement, found: {found}.", "A statement cannot begin like this.",
      "5 = x", "Correct the beginning of the line."},

@@ -24,6 +24,7 @@ enum class Message : std::uint16_t {
     HeaderUnclosed = 1007,
     HeaderMissing = 1008,
     TooManyErrors = 1009,
+    HeaderTooDeep = 1010,
 
     InvalidCharacter = 1100,
     StringUnclosed = 1101,
@@ -56,7 +57,6 @@ enum class Message : std::uint16_t {
     EndTypeMissing = 1313,
     EndEnumMissing = 1314,
     EndProcedureMissing = 1315,
-    EndProcedureWrong = 1316,
     EndWithoutProcedure = 1317,
     PropertyKindExpected = 1318,
     ParameterAfterParamArray = 1319,
@@ -73,6 +73,7 @@ enum class Message : std::uint16_t {
     AttributeInvalid = 1330,
     OrdinalAliasInvalid = 1331,
     EventParameter = 1332,
+    EndProcedureOther = 1333,
 
     StatementExpected = 1500,
     EndOfStatementExpected = 1501,

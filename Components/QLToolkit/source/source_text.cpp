@@ -136,12 +136,18 @@ std::uint32_t SourceText::skipBlock(std::uint32_t begin) {
     std::size_t depth = 0;
     for (auto at = begin; at <= lineCount(); ++at) {
         const auto word = firstWord(line(at));
-        if (equalWords(word, "begin") || equalWords(word, "beginproperty"))
-            ++depth;
-        else if ((equalWords(word, "end") || equalWords(word, "endproperty")) && --depth == 0)
+        if (equalWords(word, "begin") || equalWords(word, "beginproperty")) {
+            if (++depth > kDeepestHeaderBlock) return headerTooDeep(at);
+        } else if ((equalWords(word, "end") || equalWords(word, "endproperty")) && --depth == 0)
             return at + 1;
     }
     header_ = HeaderState::Unclosed;
+    return lineCount() + 1;
+}
+
+std::uint32_t SourceText::headerTooDeep(std::uint32_t at) {
+    header_ = HeaderState::TooDeep;
+    headerBlock_ = at;
     return lineCount() + 1;
 }
 

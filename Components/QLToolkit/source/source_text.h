@@ -29,7 +29,11 @@ enum class HeaderState : std::uint8_t {
     Missing,  ///< no VERSION line (Attribute lines are still possible)
     Complete, ///< a VERSION line and a balanced block, or a VERSION line alone
     Unclosed, ///< the block that begins at headerBlock() has no end
+    TooDeep,  ///< the block that begins at headerBlock() is inside kDeepestHeaderBlock others
 };
+
+/// The number of blocks that can be nested in a header. Images can hold no deeper controls.
+inline constexpr std::size_t kDeepestHeaderBlock = 200;
 
 /// The largest file that positions can address.
 inline constexpr std::size_t kMaxSourceBytes = std::size_t{1} << 30;
@@ -62,7 +66,7 @@ public:
     [[nodiscard]] Location locate(Pos) const;
 
     [[nodiscard]] HeaderState header() const { return header_; }
-    /// Line of the BEGIN of the property block, or 0 if there is none.
+    /// Line of the BEGIN of the property block, or of the one that is too deep; 0 if there is none.
     [[nodiscard]] std::uint32_t headerBlock() const { return headerBlock_; }
     /// Lines of the Attribute lines at the top: the first, and one past the last. Equal if there are none.
     [[nodiscard]] std::uint32_t attributesBegin() const { return attributesBegin_; }
@@ -83,6 +87,7 @@ private:
     void splitLines();
     void findCode();
     std::uint32_t skipBlock(std::uint32_t line);
+    std::uint32_t headerTooDeep(std::uint32_t line);
 
     std::string name_;
     std::string bytes_;
