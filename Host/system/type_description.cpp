@@ -53,6 +53,8 @@ TypeClass readClass(const std::string& file, const Groups& groups) {
     made.clsid = table.required("clsid");
     made.category = table.text("category");
     made.help = table.text("help");
+    made.width = int(table.number("width"));
+    made.height = int(table.number("height"));
     for (const auto& group : table.texts("groups")) addGroup(table, groups, group, made);
     addMembers(table, made);
     return made;

@@ -26,6 +26,7 @@ struct TypeMember {
 struct TypeClass {
     std::string name, progId, clsid, category, help;
     std::vector<TypeMember> properties, methods, events;
+    int width = 0, height = 0; ///< of a new control in pixels; 0 if the description does not say
 };
 
 struct TypeValue {

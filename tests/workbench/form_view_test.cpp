@@ -716,7 +716,7 @@ TEST_F(FormDesigners, AClickWithAToolAddsTheUsualSize) {
     EXPECT_EQ(valueOf("Timer1", "Left"), "600");
     pick("Label");
     QTest::mouseClick(&canvas(), Qt::LeftButton, {}, pointOn({80, 160}));
-    EXPECT_EQ(placeOf("Label1"), QRectF(80, 160, 81, 33));
+    EXPECT_EQ(placeOf("Label1"), QRectF(80, 160, 81, 17));
 }
 
 TEST_F(FormDesigners, ADoubleClickInTheToolboxAddsAtOnce) {

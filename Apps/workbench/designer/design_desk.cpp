@@ -1,6 +1,6 @@
 #include "Apps/workbench/designer/design_desk.h"
 #include "Apps/workbench/designer/form_grips.h"
-#include "Basic/case_folding.h"
+#include "Apps/workbench/designer/offered_controls.h"
 #include "Basic/runtime_error.h"
 
 namespace workbench {
@@ -54,17 +54,13 @@ void DesignDesk::followExplorer() {
     if (const auto component = explorer_.currentComponent()) properties_->inspect(component);
 }
 
-/// Offers the language's own controls and those of the libraries that the project refers to.
+/// Offers the language's own controls, those of the libraries that the project refers to and its user controls.
 void DesignDesk::listTools() {
-    std::vector<std::string> libraries, offered;
+    std::vector<std::string> offered;
     (void)basic::attempt([&] {
         if (const auto active = host_.ActiveVBProject())
-            for (const auto& reference : active->References()->items()) libraries.push_back(reference->Name());
+            offered = offeredControls(host_.options(), *active, forms_->current()->component());
     });
-    const auto& installed = host_.options().controlClassNames;
-    for (const auto& name : installed ? installed() : std::vector<std::string>{})
-        for (const auto& library : libraries)
-            if (basic::startsWithNoCase(name, library + "Ctl.")) offered.push_back(name);
     toolbox_->offer(offered);
 }
 

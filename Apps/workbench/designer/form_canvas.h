@@ -17,8 +17,11 @@ public:
     void formChanged();
     /// Converts a place on the form's inner rectangle to this widget.
     QRectF onCanvas(const QRectF& place) const;
+    /// The name and class of a control that is drawn as a symbol or a box; else "".
+    QString tipAt(const QPointF& onWidget) const;
 
 protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;

@@ -1,7 +1,10 @@
 // What the mouse does on a form.
+#include "Apps/workbench/base/text.h"
 #include "Apps/workbench/designer/form_canvas.h"
 #include "Apps/workbench/designer/form_menu.h"
+#include <QHelpEvent>
 #include <QMouseEvent>
+#include <QToolTip>
 
 namespace workbench {
 
@@ -11,6 +14,19 @@ namespace {
 constexpr double kDragBegins = 3;
 
 } // namespace
+
+bool FormCanvas::event(QEvent* event) {
+    if (event->type() != QEvent::ToolTip) return QWidget::event(event);
+    const auto& help = static_cast<const QHelpEvent&>(*event);
+    QToolTip::showText(help.globalPos(), tipAt(help.pos()), this);
+    return true;
+}
+
+QString FormCanvas::tipAt(const QPointF& onWidget) const {
+    const auto* drawn = view_.picture().at(onForm(onWidget));
+    const bool isSymbol = drawn && (drawn->look.kind == ControlKind::Other || drawn->look.kind == ControlKind::Hidden);
+    return isSymbol ? QString("%1 (%2)").arg(drawn->name, qt(drawn->control->ProgId())) : QString();
+}
 
 void FormCanvas::mousePressEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton) return;

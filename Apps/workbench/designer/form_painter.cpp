@@ -1,6 +1,7 @@
 #include "Apps/workbench/designer/form_painter.h"
-#include "Apps/workbench/designer/classic_edges.h"
-#include "Apps/workbench/designer/control_drawing.h"
+#include "Apps/workbench/drawing/classic_edges.h"
+#include "Apps/workbench/drawing/control_drawing.h"
+#include "Apps/workbench/properties/form_fonts.h"
 #include <QFontMetricsF>
 #include <algorithm>
 
@@ -9,13 +10,11 @@ namespace workbench {
 namespace {
 
 constexpr int kDarkPaper = 128;
-constexpr double kTitlePixels = 11, kMenuPixels = 11, kMenuGap = 7, kTitleButton = 16, kTitleButtonHeight = 14;
+constexpr double kTitlePoints = 8.25, kMenuGap = 7, kTitleButton = 16, kTitleButtonHeight = 14;
 const QColor kFormFace("#d4d0c8"), kTitleColour("#0a246a");
 
-QFont titleFont(double pixels, bool bold) {
-    QFont font;
-    font.setFamilies({"Tahoma", "Liberation Sans", "Arial"});
-    font.setPixelSize(int(pixels));
+QFont titleFont(bool bold) {
+    auto font = formFont("Tahoma", kTitlePoints);
     font.setBold(bold);
     return font;
 }
@@ -69,7 +68,7 @@ void drawTitle(QPainter& painter, const FormPicture& form, const QSizeF& whole) 
                      form.frame.top() - form.frame.left() - 1);
     painter.fillRect(bar, kTitleColour);
     const double right = drawTitleButtons(painter, form, bar);
-    painter.setFont(titleFont(kTitlePixels, !form.smallTitle));
+    painter.setFont(titleFont(!form.smallTitle));
     painter.setPen(Qt::white);
     painter.drawText(QRectF(bar.topLeft() + QPointF(4, 0), QPointF(right, bar.bottom())),
                      int(Qt::AlignLeft | Qt::AlignVCenter), form.caption);
@@ -78,11 +77,17 @@ void drawTitle(QPainter& painter, const FormPicture& form, const QSizeF& whole) 
 void drawMenuBar(QPainter& painter, const FormPicture& form) {
     if (!form.hasMenuBar()) return;
     painter.fillRect(QRectF(form.frame.left(), form.frame.top(), form.inner.width(), kMenuBarHeight), kFormFace);
-    painter.setFont(titleFont(kMenuPixels, false));
+    painter.setFont(titleFont(false));
     for (const auto& [number, place] : menuPlaces(form)) {
         painter.setPen(form.menus[number].enabled ? Qt::black : Qt::gray);
         painter.drawText(place, int(Qt::AlignCenter) | Qt::TextShowMnemonic, form.menus[number].caption);
     }
+}
+
+void drawControls(QPainter& painter, const FormPicture& form) {
+    const auto shown = painter.clipBoundingRect();
+    for (const auto& control : form.controls)
+        if (control.clip.intersects(shown)) drawControl(painter, control);
 }
 
 } // namespace
@@ -94,7 +99,7 @@ QSizeF wholeSize(const FormPicture& form) {
 
 std::vector<std::pair<std::size_t, QRectF>> menuPlaces(const FormPicture& form) {
     std::vector<std::pair<std::size_t, QRectF>> places;
-    const QFontMetricsF metrics(titleFont(kMenuPixels, false));
+    const QFontMetricsF metrics(titleFont(false));
     double left = form.frame.left();
     for (std::size_t i = 0; i < form.menus.size(); ++i) {
         if (!form.menus[i].visible) continue;
@@ -117,10 +122,14 @@ void paintForm(QPainter& painter, const FormPicture& form) {
     if (!form.picture.isNull()) painter.drawPixmap(inner.topLeft(), form.picture);
     drawGridDots(painter, inner, form.back);
     painter.translate(inner.topLeft());
-    const auto shown = painter.clipBoundingRect();
-    for (const auto& control : form.controls)
-        if (control.clip.intersects(shown)) drawControl(painter, control);
+    drawControls(painter, form);
     painter.restore();
+}
+
+void paintInner(QPainter& painter, const FormPicture& form) {
+    painter.setClipRect(QRectF({}, form.inner), Qt::IntersectClip);
+    if (!form.picture.isNull()) painter.drawPixmap(QPointF(), form.picture);
+    drawControls(painter, form);
 }
 
 } // namespace workbench

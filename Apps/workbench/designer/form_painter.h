@@ -10,6 +10,8 @@ inline constexpr int kGridStep = 8;
 
 /// Draws the form with its frame from the painter's origin. Skips what the painter clips.
 void paintForm(QPainter& painter, const FormPicture& form);
+/// Draws what is inside of the frame, without the grid.
+void paintInner(QPainter& painter, const FormPicture& form);
 /// The size with its frame.
 QSizeF wholeSize(const FormPicture& form);
 /// The index and the place, on the whole form, of each visible menu of the bar.

@@ -2,27 +2,12 @@
 // The visible parts of a form, in logical pixels of 15 twips.
 #include "Add-in/platform/host_project.h"
 #include "Apps/workbench/base/twips.h"
-#include "Apps/workbench/designer/control_look.h"
+#include "Apps/workbench/drawing/drawn_control.h"
 #include <QMarginsF>
 #include <QRectF>
 #include <vector>
 
 namespace workbench {
-
-struct DrawnControl {
-    vbide::Ref<vbide::VBControl> control;
-    QString name, className;
-    int tabIndex = 0;
-    /// Its place on the inner rectangle of the form, and the part that its containers do not clip.
-    QRectF place, clip;
-    /// The origin of its container's coordinates, and the pixels per unit.
-    QPointF origin;
-    double unitX = 1, unitY = 1;
-    ControlLook look;
-    bool visible = true;
-    /// The index of its container, -1 for the form.
-    int container = -1;
-};
 
 struct DrawnMenu {
     vbide::Ref<vbide::VBControl> control;

@@ -1,5 +1,6 @@
 #include "Apps/workbench/designer/form_reader.h"
 #include "Apps/workbench/base/text.h"
+#include "Apps/workbench/designer/user_controls.h"
 #include "Apps/workbench/properties/form_colours.h"
 #include "Basic/runtime_error.h"
 #include "Host/model/forms/form_places.h"
@@ -13,6 +14,8 @@ namespace {
 constexpr double kHiddenSize = 28;
 /// Coordinates beyond this are considered damaged.
 constexpr double kLargestPixels = 16384;
+/// Controls on hidden tabs are moved to the left by 5000 pixels.
+constexpr double kFarLeft = -2500;
 constexpr std::int32_t kFormColour = std::int32_t(0x8000000f);
 
 using Controls = std::vector<vbide::Ref<vbide::VBControl>>;
@@ -22,13 +25,17 @@ double bounded(double pixels) { return std::clamp(pixels, -kLargestPixels, kLarg
 /// Reads the controls of one form.
 class ControlsReader {
 public:
-    explicit ControlsReader(FormPicture& picture) : picture_(picture) {}
+    /// `depth` counts the user controls around this form.
+    ControlsReader(FormPicture& picture, vbide::VBComponent& component, int depth)
+        : picture_(picture), userControls_(component, depth) {}
 
     struct Space {
         QPointF origin;
         QRectF clip;
         host::TwipsPerUnit units;
         int container = -1;
+        /// Controls that are not shown.
+        std::vector<QString> absent = {};
     };
 
     void read(const Controls& controls, const Space& space) {
@@ -47,15 +54,18 @@ private:
         DrawnControl drawn;
         drawn.control = control;
         drawn.name = nameWithIndex(read);
+        if (std::find(space.absent.begin(), space.absent.end(), drawn.name) != space.absent.end()) return;
         drawn.className = qt(control->ClassName());
         drawn.tabIndex = read.number("TabIndex");
         drawn.visible = read.flag("Visible", true);
         drawn.look = lookOf(className, read);
+        if (kind == ControlKind::Other) userControls_.read(drawn.look, className);
         drawn.origin = space.origin;
         drawn.unitX = space.units.x / kTwipsPerPixel;
         drawn.unitY = space.units.y / kTwipsPerPixel;
         drawn.container = space.container;
         place(drawn, read);
+        if (drawn.place.left() - space.origin.x() < kFarLeft) return;
         drawn.clip = space.clip & drawn.place.normalized().adjusted(-1, -1, 1, 1);
         picture_.controls.push_back(drawn);
         readWithin(control, drawn, space);
@@ -99,10 +109,12 @@ private:
         space.units = around.units;
         (void)basic::attempt([&] { space.units = host::unitsIn(control, around.units); });
         space.container = int(picture_.controls.size()) - 1;
+        space.absent = drawn.look.absent;
         read(inner, space);
     }
 
     FormPicture& picture_;
+    UserControls userControls_;
 };
 
 std::vector<DrawnMenu> menusOf(const Controls& controls) {
@@ -132,7 +144,7 @@ void readFrame(FormPicture& picture, const vbide::Ref<vbide::VBForm>& form, cons
 
 } // namespace
 
-FormPicture pictureOfForm(vbide::VBComponent& component) {
+FormPicture pictureOfForm(vbide::VBComponent& component, int depth) {
     const auto form = component.Designer();
     const PropertyReader read(component.Properties());
     FormPicture picture;
@@ -142,7 +154,7 @@ FormPicture pictureOfForm(vbide::VBComponent& component) {
     readFrame(picture, form, read);
     const auto controls = form->ContainedVBControls();
     picture.menus = menusOf(controls);
-    ControlsReader(picture).read(controls, {{}, QRectF({}, picture.inner), host::unitsOn(form), -1});
+    ControlsReader(picture, component, depth).read(controls, {{}, QRectF({}, picture.inner), host::unitsOn(form), -1});
     return picture;
 }
 

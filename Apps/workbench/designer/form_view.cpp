@@ -2,6 +2,7 @@
 #include "Apps/workbench/designer/event_handlers.h"
 #include "Apps/workbench/designer/form_canvas.h"
 #include "Apps/workbench/designer/form_reader.h"
+#include "Apps/workbench/designer/new_control.h"
 #include "Apps/workbench/designer/place_changes.h"
 #include "Basic/runtime_error.h"
 #include "Host/model/forms/control_edits.h"
@@ -82,12 +83,24 @@ void FormView::add(const std::string& progId, const QRectF& place) {
 
 void FormView::finish(const vbide::Ref<vbide::VBControl>& added, const QRectF& place) {
     edit([this, added, place, component = component_] {
-        for (const auto& change : changesOfNew(*picture_.find(added), place))
-            added->Properties()->Item(change.property)->Value(change.value);
         const auto form = component->Designer();
+        setFontOfForm(component->Properties(), added->Properties());
+        picture_ = pictureOfForm(*component); // the size depends on the font
+        for (const auto& change : changesOfNew(*picture_.find(added), withSize(added, place)))
+            added->Properties()->Item(change.property)->Value(change.value);
         history_.did(component, [form, added] { host::removeControl(form, added); });
     });
     select(added);
+}
+
+/// A click has no size.
+QRectF FormView::withSize(const vbide::Ref<vbide::VBControl>& added, const QRectF& place) const {
+    if (place.width() > 0 && place.height() > 0) return place;
+    const auto& drawn = *picture_.find(added);
+    const auto around =
+        drawn.container < 0 ? QRectF({}, picture_.inner) : picture_.controls[std::size_t(drawn.container)].place;
+    const auto room = QRectF(place.topLeft(), around.bottomRight()).size();
+    return {place.topLeft(), usualSize(drawn, component_->Designer(), room)};
 }
 
 void FormView::undo() {

@@ -63,7 +63,8 @@ protected:
 
 private:
     void reload();
-    /// Sets the place and the caption of a new control.
+    QRectF withSize(const vbide::Ref<vbide::VBControl>& added, const QRectF& place) const;
+    /// Sets the font, the place and the caption of a new control.
     void finish(const vbide::Ref<vbide::VBControl>& added, const QRectF& place);
     /// Runs an edit, shows an error in a box, and reads the form again. A dialog of an add-in may close this view in
     /// the meantime.

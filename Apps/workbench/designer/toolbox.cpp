@@ -1,6 +1,6 @@
 #include "Apps/workbench/designer/toolbox.h"
 #include "Apps/workbench/base/text.h"
-#include "Apps/workbench/designer/control_drawing.h"
+#include "Apps/workbench/drawing/control_drawing.h"
 #include <QPainter>
 #include <array>
 

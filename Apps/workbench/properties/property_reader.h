@@ -6,6 +6,8 @@
 #include <QPixmap>
 #include <QString>
 #include <QStringList>
+#include <optional>
+#include <string>
 
 namespace workbench {
 
@@ -14,24 +16,26 @@ class PropertyReader {
 public:
     explicit PropertyReader(vbide::Ref<vbide::Properties> properties) : properties_(std::move(properties)) {}
 
-    bool has(const char* name) const;
-    QString text(const char* name) const;
-    int number(const char* name, int fallback = 0) const;
-    double real(const char* name, double fallback = 0) const;
-    bool flag(const char* name, bool fallback = false) const;
-    QColor colour(const char* name, const QColor& fallback) const;
-    /// Reads a property "Font". There are 96 pixels per inch, or 72 for the font of Palms.
+    bool has(const std::string& name) const;
+    QString text(const std::string& name) const;
+    int number(const std::string& name, int fallback = 0) const;
+    double real(const std::string& name, double fallback = 0) const;
+    bool flag(const std::string& name, bool fallback = false) const;
+    QColor colour(const std::string& name, const QColor& fallback) const;
+    /// Reads a property "Font".
     QFont font() const;
     /// Reads the properties FontName, FontSize and FontStyle of a device control.
     QFont deviceFont() const;
     /// Null if there is none or it cannot be read.
-    QPixmap picture(const char* name) const;
+    QPixmap picture(const std::string& name) const;
     /// Whether there is a picture, readable or not.
-    bool hasPicture(const char* name) const;
-    QStringList items(const char* name) const;
+    bool hasPicture(const std::string& name) const;
+    QStringList items(const std::string& name) const;
+    /// The members of a property that is a group of values, such as a list's columns.
+    std::optional<PropertyReader> group(const std::string& name) const;
 
 private:
-    fernwick::Variant value(const char* name) const;
+    fernwick::Variant value(const std::string& name) const;
 
     vbide::Ref<vbide::Properties> properties_;
 };

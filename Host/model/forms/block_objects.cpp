@@ -123,7 +123,46 @@ private:
     std::string property_;
 };
 
+class GroupProperties : public PropertySource {
+public:
+    GroupProperties(std::weak_ptr<DesignerState> state, std::shared_ptr<FormBlock> owner,
+                    std::shared_ptr<FormBlock> group)
+        : state_(std::move(state)), owner_(std::move(owner)), group_(std::move(group)) {}
+
+    std::vector<std::string> names() const override {
+        std::vector<std::string> out;
+        group_->eachProperty([&](std::string_view key, std::string_view) { out.emplace_back(key); });
+        return out;
+    }
+    std::string spelling(const std::string& name) const override {
+        return group_->literal(name) || group_->properties(name) ? name : "";
+    }
+    vbide::Variant value(const std::string& name) const override {
+        const auto state = liveDesigner(state_, *owner_);
+        const ClassProperty property{name, PropertyKind::Unknown, {}, {}};
+        const auto literal = parsePropertyValue(group_->literal(name).value_or(""));
+        if (literal.kind == PropertyValue::Kind::Resource) return resourceText(*state, property, literal.resource);
+        return valueOfLiteral(property, literal, {});
+    }
+    void value(const std::string&, const vbide::Variant&) override {
+        throw hostError(basic::kPropertyOrMethodNotSupported);
+    }
+    basic::Ref<vbide::Properties> object(const std::string& name) const override {
+        const auto inner = group_->properties(name);
+        return inner ? groupOf(state_, owner_, inner) : nullptr;
+    }
+
+private:
+    std::weak_ptr<DesignerState> state_;
+    std::shared_ptr<FormBlock> owner_, group_;
+};
+
 } // namespace
+
+basic::Ref<vbide::Properties> groupOf(std::weak_ptr<DesignerState> state, std::shared_ptr<FormBlock> owner,
+                                      const std::shared_ptr<FormBlock>& group) {
+    return propertiesOf(std::make_shared<GroupProperties>(std::move(state), std::move(owner), group));
+}
 
 basic::Ref<vbide::Properties> fontOf(std::weak_ptr<DesignerState> state, std::shared_ptr<FormBlock> owner,
                                      std::string property) {

@@ -1,5 +1,5 @@
 #pragma once
-// The object values of properties: fonts and pictures.
+// The object values of properties: fonts, pictures and groups.
 #include "Host/files/property_value.h"
 #include "Host/model/forms/designer_state.h"
 #include "Host/model/forms/property_source.h"
@@ -15,6 +15,11 @@ basic::Ref<vbide::Properties> fontOf(std::weak_ptr<DesignerState> state, std::sh
 /// does not have it.
 basic::Ref<vbide::Properties> pictureOf(std::weak_ptr<DesignerState> state, std::shared_ptr<FormBlock> owner,
                                         std::string property);
+
+/// Returns the values in a BeginProperty block, such as the columns of a list, all read-only. Members that are blocks
+/// themselves are objects.
+basic::Ref<vbide::Properties> groupOf(std::weak_ptr<DesignerState> state, std::shared_ptr<FormBlock> owner,
+                                      const std::shared_ptr<FormBlock>& group);
 
 /// Returns the text that a resource reference refers to; "" if the resource file does not have it.
 std::string resourceText(const DesignerState& state, const ClassProperty& property, const ResourceReference& reference);

@@ -98,6 +98,7 @@ basic::Ref<vbide::Properties> BlockProperties::object(const std::string& name) c
     const auto property = describe(*state, name);
     if (property.kind == PropertyKind::Font) return fontOf(state_, block_, name);
     if (property.kind == PropertyKind::Picture) return pictureOf(state_, block_, name);
+    if (const auto group = block_->properties(name)) return groupOf(state_, block_, group);
     return nullptr;
 }
 

@@ -43,6 +43,7 @@ struct ClassProperty {
 
 struct ControlClass {
     std::vector<ClassProperty> properties;
+    int width = 0, height = 0; ///< of a new control in pixels; 0 if unknown
     /// Looks up a property, ignoring case. Null if the class does not have it.
     const ClassProperty* find(std::string_view name) const;
     /// The word that the designer writes after a value; "" for none.

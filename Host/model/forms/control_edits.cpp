@@ -109,6 +109,13 @@ basic::Ref<vbide::VBControl> addControl(const basic::Ref<vbide::VBForm>& form,
     return addControlTo(*state, *model->block(), unitsIn(container, scale), progId);
 }
 
+PixelSize describedSize(const basic::Ref<vbide::VBForm>& form, const basic::Ref<vbide::VBControl>& control) {
+    const auto model = basic::cast<ControlModel>(control);
+    if (!model) return {};
+    const auto& described = stateOf(form)->classOf(*model->block());
+    return {described.width, described.height};
+}
+
 RemovedControl removeControl(const basic::Ref<vbide::VBForm>& form, const basic::Ref<vbide::VBControl>& control) {
     return removeControlFrom(*stateOf(form), control);
 }

@@ -23,10 +23,16 @@ basic::Ref<vbide::VBControl> addControlTo(DesignerState& state, FormBlock& conta
 /// Error 5 if the control is not on this form.
 RemovedControl removeControlFrom(DesignerState& state, const basic::Ref<vbide::VBControl>& control);
 
+struct PixelSize {
+    int width = 0, height = 0;
+};
+
 // ---- for front ends -------------------------------------------------------------------------------------------------
 /// As VBControls.Add, in a control that is a container; Nothing for the form itself.
 basic::Ref<vbide::VBControl> addControl(const basic::Ref<vbide::VBForm>& form,
                                         const basic::Ref<vbide::VBControl>& container, const std::string& progId);
+/// The size of a new control according to the description of its class; 0 by 0 if there is none.
+PixelSize describedSize(const basic::Ref<vbide::VBForm>& form, const basic::Ref<vbide::VBControl>& control);
 /// As VBControls.Remove.
 RemovedControl removeControl(const basic::Ref<vbide::VBForm>& form, const basic::Ref<vbide::VBControl>& control);
 /// Restores a control at its former position and raises ItemAdded. Error 440 if its container has been removed.

@@ -38,6 +38,8 @@ ClassProperty describedProperty(const TypeDescription& library, const TypeMember
 /// The properties of a class that forms can contain. Index is a property of the form, not the control; -1 means none.
 std::shared_ptr<const ControlClass> describedClass(const TypeDescription& library, const TypeClass& described) {
     auto made = std::make_shared<ControlClass>();
+    made->width = described.width;
+    made->height = described.height;
     made->properties.push_back({"Index", PropertyKind::Integer, "-1", {}});
     for (const auto& member : described.properties)
         if (member.design && !member.readOnly && member.parameters.empty())

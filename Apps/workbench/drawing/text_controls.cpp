@@ -1,5 +1,5 @@
-#include "Apps/workbench/designer/classic_edges.h"
-#include "Apps/workbench/designer/control_painters.h"
+#include "Apps/workbench/drawing/classic_edges.h"
+#include "Apps/workbench/drawing/control_painters.h"
 #include <algorithm>
 #include <cmath>
 

@@ -1,5 +1,5 @@
-#include "Apps/workbench/designer/classic_edges.h"
-#include "Apps/workbench/designer/control_painters.h"
+#include "Apps/workbench/drawing/classic_edges.h"
+#include "Apps/workbench/drawing/control_painters.h"
 #include <algorithm>
 #include <cmath>
 
@@ -10,7 +10,7 @@ namespace {
 constexpr double kPlaceholderText = 11;
 const QColor kDrawnFace("#d4d0c8");
 
-/// Draws a dashed box with a text.
+/// Draws a dashed box with a line of text.
 void drawPlaceholder(QPainter& painter, const QRectF& place, const QString& text) {
     painter.setPen(QPen(Qt::darkGray, 1, Qt::DashLine));
     painter.drawRect(place.adjusted(0, 0, -1, -1));
@@ -18,7 +18,9 @@ void drawPlaceholder(QPainter& painter, const QRectF& place, const QString& text
     font.setPixelSize(int(kPlaceholderText));
     painter.setFont(font);
     painter.setPen(Qt::darkGray);
-    painter.drawText(place.adjusted(2, 2, -2, -2), int(Qt::AlignCenter) | Qt::TextWordWrap, text);
+    const auto inner = place.adjusted(2, 2, -2, -2);
+    const auto shown = QFontMetricsF(font).elidedText(text, Qt::ElideRight, inner.width());
+    painter.drawText(inner, int(Qt::AlignCenter), shown);
 }
 
 QPen penOf(const ControlLook& look) {
@@ -95,25 +97,6 @@ void drawGrid(QPainter& painter, const DrawnControl& control) {
     painter.restore();
 }
 
-void drawTabs(QPainter& painter, const DrawnControl& control) {
-    const auto& look = control.look;
-    const QFontMetricsF metrics(look.font);
-    const double height = std::min(metrics.height() + 8, control.place.height());
-    fillBack(painter, control);
-    painter.setPen(Qt::gray);
-    painter.drawRect(control.place.adjusted(0, height - 1, -1, -1));
-    double left = control.place.left();
-    for (const auto& item : look.items) {
-        const auto text = item.isEmpty() ? control.name : item;
-        const QRectF tab(left, control.place.top(), metrics.horizontalAdvance(text) + 12, height);
-        painter.fillRect(tab, kDrawnFace);
-        painter.setPen(Qt::gray);
-        painter.drawRect(tab.adjusted(0, 0, -1, -1));
-        drawCaption(painter, tab, look, int(Qt::AlignCenter), text);
-        left = tab.right();
-    }
-}
-
 void drawHidden(QPainter& painter, const DrawnControl& control) {
     const auto inner = drawRaised(painter, control.place, kDrawnFace).adjusted(3, 3, -3, -3);
     painter.save();
@@ -137,9 +120,18 @@ void drawHidden(QPainter& painter, const DrawnControl& control) {
     painter.restore();
 }
 
+/// One line, as several rarely fit; the designer shows the rest as a tip.
 void drawOther(QPainter& painter, const DrawnControl& control) {
     painter.fillRect(control.place, control.look.back);
-    drawPlaceholder(painter, control.place, control.name + "\n" + control.className);
+    drawPlaceholder(painter, control.place, QString("%1 (%2)").arg(control.name, control.className));
+}
+
+void drawUserControl(QPainter& painter, const DrawnControl& control) {
+    fillBack(painter, control);
+    painter.save();
+    painter.setClipRect(control.place, Qt::IntersectClip);
+    painter.drawPixmap(control.place.topLeft(), control.look.picture);
+    painter.restore();
 }
 
 } // namespace workbench

@@ -1,6 +1,6 @@
-#include "Apps/workbench/designer/control_drawing.h"
-#include "Apps/workbench/designer/classic_edges.h"
-#include "Apps/workbench/designer/control_painters.h"
+#include "Apps/workbench/drawing/control_drawing.h"
+#include "Apps/workbench/drawing/classic_edges.h"
+#include "Apps/workbench/drawing/control_painters.h"
 
 namespace workbench {
 
@@ -31,6 +31,17 @@ void drawControl(QPainter& painter, const DrawnControl& control) {
     case ControlKind::VScrollBar: drawScrollBar(painter, control.place, false, control.look.thumb); break;
     case ControlKind::Grid: drawGrid(painter, control); break;
     case ControlKind::TabStrip: drawTabs(painter, control); break;
+    case ControlKind::TabbedBox: drawTabbedBox(painter, control); break;
+    case ControlKind::ColumnList: drawColumns(painter, control); break;
+    case ControlKind::Tree: drawTree(painter, control); break;
+    case ControlKind::ToolBar: drawToolBar(painter, control); break;
+    case ControlKind::StatusBar: drawStatusBar(painter, control); break;
+    case ControlKind::ProgressBar: drawProgress(painter, control); break;
+    case ControlKind::Slider: drawSlider(painter, control); break;
+    case ControlKind::DateBox: drawDateBox(painter, control); break;
+    case ControlKind::UpDown: drawUpDown(painter, control); break;
+    case ControlKind::DataBar: drawDataBar(painter, control); break;
+    case ControlKind::UserControl: drawUserControl(painter, control); break;
     case ControlKind::Menu: break;
     case ControlKind::Hidden: drawHidden(painter, control); break;
     case ControlKind::Other: drawOther(painter, control); break;

@@ -1,6 +1,6 @@
 #pragma once
 // Draws one control of a form.
-#include "Apps/workbench/designer/form_picture.h"
+#include "Apps/workbench/drawing/drawn_control.h"
 #include <QPainter>
 
 namespace workbench {

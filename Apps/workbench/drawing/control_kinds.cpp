@@ -1,4 +1,4 @@
-#include "Apps/workbench/designer/control_kinds.h"
+#include "Apps/workbench/drawing/control_kinds.h"
 #include "Basic/case_folding.h"
 #include <array>
 #include <string_view>
@@ -33,6 +33,43 @@ constexpr std::array kKindsOfClasses{
     KindOfClass{"VB.VScrollBar", ControlKind::VScrollBar},
     KindOfClass{"VB.Timer", ControlKind::Hidden},
     KindOfClass{"VB.Menu", ControlKind::Menu},
+    KindOfClass{"VB.Data", ControlKind::DataBar},
+    KindOfClass{"MSComctlLib.ListView", ControlKind::ColumnList},
+    KindOfClass{"MSComctlLib.TreeView", ControlKind::Tree},
+    KindOfClass{"MSComctlLib.Toolbar", ControlKind::ToolBar},
+    KindOfClass{"MSComctlLib.StatusBar", ControlKind::StatusBar},
+    KindOfClass{"MSComctlLib.ProgressBar", ControlKind::ProgressBar},
+    KindOfClass{"MSComctlLib.Slider", ControlKind::Slider},
+    KindOfClass{"MSComctlLib.TabStrip", ControlKind::TabStrip},
+    KindOfClass{"MSComctlLib.ImageList", ControlKind::Hidden},
+    KindOfClass{"ComctlLib.ListView", ControlKind::ColumnList},
+    KindOfClass{"ComctlLib.TreeView", ControlKind::Tree},
+    KindOfClass{"ComctlLib.Toolbar", ControlKind::ToolBar},
+    KindOfClass{"ComctlLib.StatusBar", ControlKind::StatusBar},
+    KindOfClass{"ComctlLib.ProgressBar", ControlKind::ProgressBar},
+    KindOfClass{"ComctlLib.Slider", ControlKind::Slider},
+    KindOfClass{"ComctlLib.TabStrip", ControlKind::TabStrip},
+    KindOfClass{"ComctlLib.ImageList", ControlKind::Hidden},
+    KindOfClass{"MSComctlLib.ImageCombo", ControlKind::ComboBox},
+    KindOfClass{"MSComCtl2.DTPicker", ControlKind::DateBox},
+    KindOfClass{"MSComCtl2.UpDown", ControlKind::UpDown},
+    KindOfClass{"ComCtl2.UpDown", ControlKind::UpDown},
+    KindOfClass{"MSMask.MaskEdBox", ControlKind::TextBox},
+    KindOfClass{"RichTextLib.RichTextBox", ControlKind::TextBox},
+    KindOfClass{"TabDlg.SSTab", ControlKind::TabbedBox},
+    KindOfClass{"MSFlexGridLib.MSFlexGrid", ControlKind::Grid},
+    KindOfClass{"MSHierarchicalFlexGridLib.MSHFlexGrid", ControlKind::Grid},
+    KindOfClass{"MSDataGridLib.DataGrid", ControlKind::Grid},
+    KindOfClass{"MSDBGrid.DBGrid", ControlKind::Grid},
+    KindOfClass{"MSDataListLib.DataList", ControlKind::ListBox},
+    KindOfClass{"MSDataListLib.DataCombo", ControlKind::ComboBox},
+    KindOfClass{"MSDBCtls.DBList", ControlKind::ListBox},
+    KindOfClass{"MSDBCtls.DBCombo", ControlKind::ComboBox},
+    KindOfClass{"MSAdodcLib.Adodc", ControlKind::DataBar},
+    KindOfClass{"MSComDlg.CommonDialog", ControlKind::Hidden},
+    KindOfClass{"MSWinsockLib.Winsock", ControlKind::Hidden},
+    KindOfClass{"InetCtlsObjects.Inet", ControlKind::Hidden},
+    KindOfClass{"MSCommLib.MSComm", ControlKind::Hidden},
     KindOfClass{"TavletsCtl.QLLabel", ControlKind::Label},
     KindOfClass{"TavletsCtl.QLTextBox", ControlKind::TextBox},
     KindOfClass{"TavletsCtl.QLButton", ControlKind::Button},
@@ -61,7 +98,8 @@ constexpr std::array kKindsOfClasses{
     KindOfClass{"TavletsCtl.QLSound", ControlKind::Hidden},
 };
 
-constexpr std::array<std::string_view, 3> kContainers{"VB.Frame", "VB.PictureBox", "TavletsCtl.QLFrame"};
+constexpr std::array<std::string_view, 4> kContainers{"VB.Frame", "VB.PictureBox", "TavletsCtl.QLFrame",
+                                                      "TabDlg.SSTab"};
 
 } // namespace
 

@@ -1,4 +1,4 @@
-#include "Apps/workbench/designer/classic_edges.h"
+#include "Apps/workbench/drawing/classic_edges.h"
 #include <algorithm>
 
 namespace workbench {

@@ -1,6 +1,6 @@
 #pragma once
 // The edges, texts and small parts that controls of the classic desktop consist of.
-#include "Apps/workbench/designer/control_look.h"
+#include "Apps/workbench/drawing/control_look.h"
 #include <QPainter>
 
 namespace workbench {

@@ -1,10 +1,11 @@
 #pragma once
 // The appearance of one control, read from its properties.
-#include "Apps/workbench/designer/control_kinds.h"
+#include "Apps/workbench/drawing/control_kinds.h"
 #include "Apps/workbench/properties/property_reader.h"
 #include <QLineF>
 #include <QPixmap>
 #include <QStringList>
+#include <vector>
 
 namespace workbench {
 
@@ -36,6 +37,13 @@ struct ControlLook {
     // grids
     int rows = 0, columns = 0, fixedRows = 0, fixedColumns = 0;
     bool gridLines = true;
+    // tabs, bars and lists with columns; `items` has their captions
+    std::vector<double> widths;  ///< of columns and panels, in pixels; 0 shares the rest
+    int current = 0;             ///< the tab that is shown
+    int perRow = 0;              ///< tabs in a row; 0 for all
+    double tabHeight = 0;        ///< in pixels; 0 for that of the font
+    bool across = true;          ///< the direction of a slider, progress bar or pair of arrows
+    std::vector<QString> absent; ///< names of controls on tabs that are not shown
 };
 
 ControlLook lookOf(const std::string& className, const PropertyReader& read);

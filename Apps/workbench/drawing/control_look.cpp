@@ -1,4 +1,5 @@
-#include "Apps/workbench/designer/control_look.h"
+#include "Apps/workbench/drawing/control_look.h"
+#include "Apps/workbench/drawing/collection_look.h"
 #include "Apps/workbench/properties/form_colours.h"
 #include "Basic/case_folding.h"
 #include <algorithm>
@@ -56,6 +57,7 @@ void readLabel(ControlLook& look, bool ofDevice, const PropertyReader& read) {
 void readField(ControlLook& look, bool ofDevice, const PropertyReader& read) {
     constexpr int kAcross = 1, kDown = 2, kBoth = 3;
     look.text = read.text("Text");
+    if (look.text.isEmpty()) look.text = read.text("Mask");
     look.border = borderOf(ofDevice, read, true);
     look.alignment = alignmentOf(read.number("Alignment"));
     look.wrapped = read.flag("MultiLine");
@@ -167,8 +169,7 @@ ControlLook lookOf(const std::string& className, const PropertyReader& read) {
     case ControlKind::Shape: readShape(look, ofDevice, read); break;
     case ControlKind::Line: readPen(look, ofDevice, read); break;
     case ControlKind::Grid: readGrid(look, read); break;
-    case ControlKind::TabStrip: look.items = read.text("Tabs").split('|'); break;
-    default: break;
+    default: readCollection(look, ofDevice, read); break;
     }
     return look;
 }
