@@ -1,5 +1,5 @@
 #include "Host/registry/reg_text_decoding.h"
-#include "Host/files/encoding.h"
+#include "Host/files/byte_order_mark.h"
 #include "Host/files/system_error.h"
 #include "Host/registry/utf16.h"
 #include <algorithm>

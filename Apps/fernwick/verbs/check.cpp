@@ -1,5 +1,6 @@
 #include "Components/QLToolkit/check.h"
 #include "Apps/fernwick/options/exit_status.h"
+#include "Apps/fernwick/output/code_page_note.h"
 #include "Apps/fernwick/output/plural.h"
 #include "Apps/fernwick/output/report.h"
 #include "Apps/fernwick/run/interruption.h"
@@ -7,8 +8,8 @@
 #include "Apps/fernwick/verbs/source_list.h"
 #include "Apps/fernwick/verbs/verbs.h"
 #include "Basic/runtime_error.h"
-#include "Host/files/encoding.h"
 #include "Host/files/path_lookup.h"
+#include "Host/files/project_code_page.h"
 #include "Host/files/text_file.h"
 #include <chrono>
 #include <fmt/format.h>
@@ -33,20 +34,23 @@ Message messageOf(const qltoolkit::Diagnostic& diagnostic) {
     return message;
 }
 
-qltoolkit::CheckResult checkOne(const SourceToCheck& source, const basic::CodePage& usual) {
+qltoolkit::CheckResult checkOne(const SourceToCheck& source, Console& console) {
     host::FileContent content;
     const auto err = basic::attempt([&] { content = host::readFile(source.path); });
-    if (err.Number != 0) return qltoolkit::checkFile(source.path, source.constants, usual); // reports the error
-    const auto page = host::codePageOf(content.bytes, usual);
-    return qltoolkit::checkSource(source.path, std::move(content.bytes), source.constants, page);
+    if (err.Number != 0) return qltoolkit::checkFile(source.path, source.constants); // reports the error
+    if (source.page)
+        return qltoolkit::checkSource(source.path, std::move(content.bytes), source.constants, *source.page);
+    const auto detected = host::codePageOfSource(content.bytes);
+    reportCodePage(console, source.path, detected);
+    return qltoolkit::checkSource(source.path, std::move(content.bytes), source.constants, detected.page);
 }
 
-CheckTotals checkAll(const SourceList& list, const basic::CodePage& usual, const Options& options, Console& console,
-                     Report& report) {
+CheckTotals checkAll(const SourceList& list, const Options& options, Console& console, Report& report) {
     CheckTotals totals;
+    for (const auto& [project, page] : list.projects) reportCodePage(console, project, page);
     for (const auto& source : list.sources) {
         checkInterrupt();
-        const auto result = checkOne(source, usual);
+        const auto result = checkOne(source, console);
         ++totals.files;
         totals.lines += result.lines;
         totals.errors += result.errors;
@@ -69,8 +73,7 @@ int runCheck(const Options& options, Console& console) {
     const auto begin = std::chrono::steady_clock::now();
     auto operands = options.operands;
     if (operands.empty()) operands.push_back(projectArgument(""));
-    const basic::CodePage usual{options.codePage};
-    const auto list = listSources(operands, usual);
+    const auto list = listSources(operands, options.codePage);
 
     Report report;
     report.verb = "check";
@@ -78,7 +81,7 @@ int runCheck(const Options& options, Console& console) {
         report.failure += (report.failure.empty() ? "" : "\n") + problem;
         console.err("fernwick: " + problem, Tone::Error);
     }
-    const auto totals = checkAll(list, usual, options, console, report);
+    const auto totals = checkAll(list, options, console, report);
     report.exitStatus = totals.errors > 0 || !list.problems.empty() ? kProjectErrors : kGood;
     const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - begin;
     report.statusText = fmt::format("{}, {}, {}", plural(totals.files, "file"), plural(totals.lines, "line"),

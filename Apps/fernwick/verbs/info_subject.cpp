@@ -4,15 +4,15 @@
 #include "Apps/fernwick/options/refusal.h"
 #include "Apps/fernwick/output/file_errors.h"
 #include "Basic/runtime_error.h"
-#include "Host/files/encoding.h"
 #include "Host/files/group_file.h"
 #include "Host/files/path_lookup.h"
+#include "Host/files/project_code_page.h"
 #include "Host/files/text_file.h"
 #include <fmt/format.h>
 
 namespace cli {
 
-InfoSubject infoSubjectOf(const std::string& path, const basic::CodePage& usual) {
+InfoSubject infoSubjectOf(const std::string& path) {
     if (!apps::hasExtension(path, ".vbg")) return {{}, {path}};
     InfoSubject subject;
     subject.group = host::absolutePath(path);
@@ -21,9 +21,10 @@ InfoSubject infoSubjectOf(const std::string& path, const basic::CodePage& usual)
     if (err.Number != 0) throw Refusal(statusOfOpening(err.Number), withFile(subject.group, err.Description));
     if (!host::GroupFile::looksLikeGroup(content.bytes))
         throw Refusal(kProjectErrors, fmt::format("{}: is not a Visual Basic project group", path));
-    host::PathLookup lookup;
     const auto folder = apps::folderOf(subject.group);
-    const host::GroupFile group{content.bytes, host::codePageOf(content.bytes, usual)};
+    const auto page = host::codePageOfProject(content.bytes, folder).page;
+    host::PathLookup lookup(page);
+    const host::GroupFile group{content.bytes, basic::codePageOfFile(content.bytes, page)};
     for (const auto& entry : group.entries()) subject.projects.push_back(lookup.find(folder, entry.path));
     return subject;
 }

@@ -1,5 +1,4 @@
 #pragma once
-#include "Basic/code_page.h"
 #include <string>
 #include <vector>
 
@@ -11,7 +10,7 @@ struct InfoSubject {
     std::vector<std::string> projects;
 };
 
-/// Refusal for a group that cannot be read. `usual` is the code page of files that are not UTF-8.
-InfoSubject infoSubjectOf(const std::string& path, const basic::CodePage& usual);
+/// Refusal for a group that cannot be read.
+InfoSubject infoSubjectOf(const std::string& path);
 
 } // namespace cli

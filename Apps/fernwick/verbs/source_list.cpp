@@ -2,9 +2,9 @@
 #include "Apps/common/file_names.h"
 #include "Apps/fernwick/output/file_errors.h"
 #include "Basic/runtime_error.h"
-#include "Host/files/encoding.h"
 #include "Host/files/group_file.h"
 #include "Host/files/path_lookup.h"
+#include "Host/files/project_code_page.h"
 #include "Host/files/project_file.h"
 
 namespace cli {
@@ -16,7 +16,7 @@ using apps::hasExtension;
 
 class SourceCollector {
 public:
-    explicit SourceCollector(const basic::CodePage& usual) : usual_(usual) {}
+    explicit SourceCollector(const std::optional<basic::CodePage>& given) : given_(given) {}
 
     void add(const std::string& path) {
         const auto err = basic::attempt([&] {
@@ -25,7 +25,7 @@ public:
             else if (hasExtension(path, ".vbg"))
                 addGroup(path);
             else
-                list_.sources.push_back({path, {}});
+                list_.sources.push_back({path, {}, given_});
         });
         if (err.Number != 0) list_.problems.push_back(withFile(path, err.Description));
     }
@@ -35,34 +35,36 @@ public:
 private:
     void addProject(const std::string& path) {
         const auto content = host::readFile(path);
-        const auto page = host::codePageOf(content.bytes, usual_);
-        host::ProjectFile project{content.bytes, page};
+        const auto detected = host::codePageOfProject(content.bytes, folderOf(path), given_);
+        host::ProjectFile project{content.bytes, basic::codePageOfFile(content.bytes, detected.page)};
         if (!project.looksLikeProject())
             throw basic::RuntimeError(basic::kInvalidProcedureCall, "not a Visual Basic project");
         const auto constants = qltoolkit::parseConditionalConstants(project.setting("CondComp").value_or(""));
-        host::PathLookup lookup;
+        list_.projects.emplace_back(path, detected);
+        host::PathLookup lookup(detected.page);
         for (const auto& member : project.members())
             if (host::isComponentKind(member.content.kind))
-                list_.sources.push_back({lookup.find(folderOf(path), member.content.value), constants});
+                list_.sources.push_back({lookup.find(folderOf(path), member.content.value), constants, detected.page});
     }
 
     void addGroup(const std::string& path) {
         const auto content = host::readFile(path);
         if (!host::GroupFile::looksLikeGroup(content.bytes))
             throw basic::RuntimeError(basic::kInvalidProcedureCall, "not a Visual Basic project group");
-        const host::GroupFile group{content.bytes, host::codePageOf(content.bytes, usual_)};
-        host::PathLookup lookup;
+        const auto page = host::codePageOfProject(content.bytes, folderOf(path), given_).page;
+        const host::GroupFile group{content.bytes, basic::codePageOfFile(content.bytes, page)};
+        host::PathLookup lookup(page);
         for (const auto& entry : group.entries()) add(lookup.find(folderOf(path), entry.path));
     }
 
-    const basic::CodePage& usual_;
+    const std::optional<basic::CodePage>& given_;
     SourceList list_;
 };
 
 } // namespace
 
-SourceList listSources(const std::vector<std::string>& operands, const basic::CodePage& usual) {
-    SourceCollector collector{usual};
+SourceList listSources(const std::vector<std::string>& operands, const std::optional<basic::CodePage>& given) {
+    SourceCollector collector{given};
     for (const auto& operand : operands) collector.add(operand);
     return collector.take();
 }

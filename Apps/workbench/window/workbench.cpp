@@ -1,5 +1,6 @@
 #include "Apps/workbench/window/workbench.h"
 #include "Apps/common/compile_steps.h"
+#include "Apps/common/source_code_page.h"
 #include "Apps/common/trusted_folders.h"
 #include "Apps/workbench/base/text.h"
 #include "Apps/workbench/project/new_project.h"
@@ -23,6 +24,7 @@ Workbench::Workbench()
                 }}),
       modules_(std::make_shared<fernwick::Modules>(machine_.platform())),
       host_(host::Host::create(hostOptions())) {
+    apps::compileInHostCodePages(machine_, host_);
     host_->listAddIn(apps::kAddInProgId, apps::kAddInName,
                      [modules = std::weak_ptr(modules_)] { return fernwick::asAddIn(modules.lock()); });
     buildWindow();
