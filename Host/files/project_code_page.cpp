@@ -99,12 +99,12 @@ basic::DetectedCodePage codePageOfSource(std::string_view bytes, const std::opti
 std::string_view textOf(basic::CodePageReason reason) noexcept {
     switch (reason) {
     case basic::CodePageReason::Default: return "the default";
-    case basic::CodePageReason::Given: return "the command line";
-    case basic::CodePageReason::Key: return "its project file";
-    case basic::CodePageReason::Utf8: return "all its files";
-    case basic::CodePageReason::Charset: return "the Charset of its forms";
-    case basic::CodePageReason::FileNames: return "the names of its files";
-    case basic::CodePageReason::Text: return "its text";
+    case basic::CodePageReason::Given: return "given on the command line";
+    case basic::CodePageReason::Key: return "according to its project file";
+    case basic::CodePageReason::Utf8: return "according to all its files";
+    case basic::CodePageReason::Charset: return "according to the Charset of its forms";
+    case basic::CodePageReason::FileNames: return "according to the names of its files";
+    case basic::CodePageReason::Text: return "according to its text";
     }
     return {};
 }

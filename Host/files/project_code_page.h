@@ -18,7 +18,7 @@ basic::DetectedCodePage codePageOfProject(std::string_view bytes, const std::str
 /// As codePageOfProject, for a source file without a project.
 basic::DetectedCodePage codePageOfSource(std::string_view bytes, const std::optional<basic::CodePage>& given = {});
 
-/// Returns how the page was determined, such as "the Charset of its forms".
+/// Returns how the page was determined, such as "according to the Charset of its forms".
 std::string_view textOf(basic::CodePageReason reason) noexcept;
 
 } // namespace host

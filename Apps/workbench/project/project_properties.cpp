@@ -76,7 +76,7 @@ void ProjectProperties::listCodePages() {
     if (detected.reason == basic::CodePageReason::Key)
         codePage_->setCurrentIndex(codePage_->findData(detected.page.number()));
     else
-        codePage_->setItemText(0, QString("Detected: %1, according to %2")
+        codePage_->setItemText(0, QString("Detected: %1, %2")
                                       .arg(detected.page.number())
                                       .arg(QString::fromUtf8(reason.data(), int(reason.size()))));
 }
