@@ -1,5 +1,6 @@
 #include "Basic/code_page.h"
 #include "Basic/code_page_table.h"
+#include "Basic/double_byte.h"
 #include "Basic/runtime_error.h"
 #include "Basic/utf8.h"
 #include <algorithm>
@@ -9,18 +10,29 @@ namespace basic {
 
 namespace {
 
-constexpr int kUtf8Page = 65001;
+constexpr CodePageName kPageNames[] = {
+    {874, "windows-874", "Thai"},
+    {932, "windows-932", "Japanese"},
+    {936, "windows-936", "Simplified Chinese"},
+    {949, "windows-949", "Korean"},
+    {950, "windows-950", "Traditional Chinese"},
+    {1250, "windows-1250", "Central European"},
+    {1251, "windows-1251", "Cyrillic"},
+    {1252, nullptr, "Western European"},
+    {1253, "windows-1253", "Greek"},
+    {1254, "windows-1254", "Turkish"},
+    {1255, "windows-1255", "Hebrew"},
+    {1256, "windows-1256", "Arabic"},
+    {1257, "windows-1257", "Baltic"},
+    {1258, "windows-1258", "Vietnamese"},
+    {kUtf8Page, nullptr, "Unicode, UTF-8"},
+};
 
-struct PageName {
-    int number;
-    const char* icu;
-};
-constexpr PageName kPageNames[] = {
-    {874, "windows-874"},   {932, "windows-932"},   {936, "windows-936"},   {949, "windows-949"},
-    {950, "windows-950"},   {1250, "windows-1250"}, {1251, "windows-1251"}, {1253, "windows-1253"},
-    {1254, "windows-1254"}, {1255, "windows-1255"}, {1256, "windows-1256"}, {1257, "windows-1257"},
-    {1258, "windows-1258"},
-};
+const CodePageName* nameOf(int number) noexcept {
+    const auto* const found = std::find_if(std::begin(kPageNames), std::end(kPageNames),
+                                           [&](const CodePageName& known) { return known.number == number; });
+    return found == std::end(kPageNames) ? nullptr : found;
+}
 
 /// The characters 80 to 9F of Windows-1252; all others are those of Latin-1.
 constexpr std::array<char16_t, 32> k1252 = {0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
@@ -94,12 +106,18 @@ std::optional<std::string> encodeText(const Page& page, std::string_view text) {
 
 } // namespace
 
+bool CodePage::isKnown(int number) noexcept { return nameOf(number) != nullptr; }
+
+std::span<const CodePageName> CodePage::all() noexcept { return kPageNames; }
+
+bool CodePage::isDoubleByte(int number) noexcept {
+    return std::find(kDoubleBytePages.begin(), kDoubleBytePages.end(), number) != kDoubleBytePages.end();
+}
+
 CodePage::CodePage(int number) : number_(number) {
-    if (number == 1252 || number == kUtf8Page) return;
-    const auto* const name = std::find_if(std::begin(kPageNames), std::end(kPageNames),
-                                          [&](const PageName& known) { return known.number == number; });
-    if (name == std::end(kPageNames)) throw RuntimeError(kInvalidProcedureCall);
-    table_ = std::make_shared<const CodePageTable>(name->icu);
+    const auto* const name = nameOf(number);
+    if (!name) throw RuntimeError(kInvalidProcedureCall);
+    if (name->icu) table_ = std::make_shared<const CodePageTable>(name->icu);
 }
 
 std::string CodePage::decode(std::string_view bytes) const {

@@ -2,12 +2,21 @@
 // Windows code pages: lossless conversion between the bytes of VB's files and UTF-8.
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
 namespace basic {
 
 class CodePageTable;
+
+inline constexpr int kUtf8Page = 65001;
+
+struct CodePageName {
+    int number;
+    const char* icu;       ///< ICU's name; null for the pages that need no converter
+    const char* languages; ///< such as "Central European"
+};
 
 /// A Windows code page: 874, 932, 936, 949, 950, 1250 to 1258, or 65001 for UTF-8. Cheap to copy and thread-safe.
 /// Constructing a double-byte page takes some milliseconds, so keep it.
@@ -19,6 +28,14 @@ class CodePage {
 public:
     /// The western European page, VB's default.
     static CodePage windows1252() noexcept { return CodePage(); }
+
+    /// True for the numbers listed above.
+    static bool isKnown(int number) noexcept;
+    /// All pages by ascending number.
+    static std::span<const CodePageName> all() noexcept;
+
+    static bool isDoubleByte(int number) noexcept;
+    bool isDoubleByte() const noexcept { return isDoubleByte(number_); }
 
     /// Error 5 for a number not listed above.
     explicit CodePage(int number);

@@ -1,5 +1,5 @@
-// Every byte string is preserved by every code page, and encoding fails only with error 5.
-#include "Basic/code_page.h"
+// Every byte string is preserved by every code page, also by the detected one, and encoding fails only with error 5.
+#include "Basic/code_page_detection.h"
 #include "Basic/runtime_error.h"
 #include <array>
 #include <cstdint>
@@ -16,5 +16,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (page.encode(text) != bytes) std::abort();
     if (!basic::CodePage(65001).tryEncode(text)) std::abort(); // well-formed UTF-8
     (void)page.tryEncode(bytes);
+    basic::CodePageEvidence evidence;
+    evidence.addFile(bytes);
+    if (!basic::CodePage::isKnown(evidence.detect().page.number())) std::abort();
     return 0;
 }

@@ -61,7 +61,8 @@ void Machine::registerComponents() {
     add("DesignTargetAccess.QLDesignTargetMgr",
         [this] { return basic::make<designtargetaccess::DesignTargetMgr>(installation_); });
     add("QLToolkit.CompilerFactory", [this] {
-        return basic::make<qltoolkit::ProjectCompilerFactory>(qltoolkit::CompilerServices{*files_, classes_, build_});
+        return basic::make<qltoolkit::ProjectCompilerFactory>(
+            qltoolkit::CompilerServices{*files_, classes_, build_, codePageOfSource_});
     });
     add("Scripting.FileSystemObject", [] { return basic::make<host::FileSystem>(); });
     qlpipe::registerPipes(pipeServices(), add);

@@ -39,6 +39,10 @@ public:
     host::Classes& classes() { return classes_; }
     const fernwick::Clipboard& clipboard() const { return platform_.clipboard; }
     const std::string& installation() const { return installation_; }
+    /// Sets the code page of a source file for the compiler, by its path.
+    void codePageOfSource(std::function<basic::CodePage(const std::string& path)> page) {
+        codePageOfSource_ = std::move(page);
+    }
     /// Record of the last build.
     const qltoolkit::BuildRecord& build() const { return *build_; }
     /// Record of the pipes' transfers; clear it before a run.
@@ -60,6 +64,7 @@ private:
     host::Shell shell_;
     host::Screen screen_;
     host::Resources resources_;
+    std::function<basic::CodePage(const std::string&)> codePageOfSource_;
     std::shared_ptr<qltoolkit::BuildRecord> build_ = std::make_shared<qltoolkit::BuildRecord>();
     std::shared_ptr<qlpipe::TransferRecord> transfers_ = std::make_shared<qlpipe::TransferRecord>();
     std::vector<std::shared_ptr<void>> registered_;

@@ -81,7 +81,8 @@ void ProjectCompiler::compileSource(const std::string& path, image::Image& image
         return report(fileDiagnostic(message, path, err.Description));
     }
     services_.record->inputs.push_back(path);
-    const SourceText source{path, std::move(bytes)};
+    const auto page = services_.codePageOf ? services_.codePageOf(path) : basic::CodePage::windows1252();
+    const SourceText source{path, std::move(bytes), page};
     const auto parsed = parseModule(source, symbols, conditionalConstants(input_.constants));
     services_.record->lines += source.lineCount();
     for (const auto& diagnostic : parsed.diagnostics) report(diagnostic);

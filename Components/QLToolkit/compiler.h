@@ -5,6 +5,7 @@
 #include "Add-in/platform/files.h"
 #include "Components/Image/image.h"
 #include "Components/QLToolkit/parser/parse.h"
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -31,6 +32,8 @@ struct CompilerServices {
     fernwick::FileSystemObject& files;
     const fernwick::Classes& classes;
     std::shared_ptr<BuildRecord> record = std::make_shared<BuildRecord>();
+    /// The code page of a source file, by its path. Without it sources are Windows-1252 or UTF-8.
+    std::function<basic::CodePage(const std::string& path)> codePageOf = {};
 };
 
 class ProjectCompiler : public Compiler {

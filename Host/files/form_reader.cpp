@@ -1,6 +1,6 @@
 #include "Host/files/form_reader.h"
 #include "Basic/case_folding.h"
-#include "Host/files/encoding.h"
+#include "Host/files/byte_order_mark.h"
 #include "Host/files/form_line.h"
 
 namespace host {

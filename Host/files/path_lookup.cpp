@@ -1,5 +1,6 @@
 #include "Host/files/path_lookup.h"
 #include "Basic/case_folding.h"
+#include "Basic/utf8.h"
 #include "Host/files/native_path.h"
 #include <algorithm>
 #include <filesystem>
@@ -47,10 +48,17 @@ const PathLookup::Names& PathLookup::namesIn(const std::string& folder) {
     std::error_code error;
     for (std::filesystem::directory_iterator file(folder, error), end; !error && file != end; file.increment(error)) {
         const auto name = file->path().filename().string();
-        auto& kept = entry->second[basic::foldCase(name)];
+        auto& kept = entry->second[basic::foldCase(textOf(name))];
         if (kept.empty() || name < kept) kept = name; // independent of the order in which the folder is listed
     }
     return entry->second;
+}
+
+/// Archives of projects are often unpacked with the bytes of the code page in which they were made.
+std::string PathLookup::textOf(std::string_view nameOnDisk) const {
+    for (std::size_t at = basic::asciiRun(nameOnDisk, 0); at < nameOnDisk.size();)
+        if (basic::nextCharacter(nameOnDisk, at) == basic::kNoCharacter) return codePage_.decode(nameOnDisk);
+    return std::string(nameOnDisk);
 }
 
 std::string absolutePath(const std::string& path) {

@@ -1,5 +1,6 @@
 #pragma once
 // Finds the files that projects name.
+#include "Basic/code_page.h"
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -10,9 +11,12 @@ namespace host {
 /// keep it.
 class PathLookup {
 public:
+    /// `codePage` is that of the project, in which file systems may have stored names, too.
+    explicit PathLookup(basic::CodePage codePage = basic::CodePage::windows1252()) : codePage_(std::move(codePage)) {}
+
     /// Returns the native, canonical path of a file written relative to `folder` with "\" or "/", in UTF-8; a leading
-    /// separator makes it absolute. A name without an exact match is looked up ignoring letter case. Names that are not
-    /// found at all are joined as written.
+    /// separator makes it absolute. A name without an exact match is looked up ignoring letter case, and among the names
+    /// on disk that are not UTF-8. Names that are not found at all are joined as written.
     std::string find(const std::string& folder, std::string_view written);
 
 private:
@@ -20,6 +24,9 @@ private:
     const Names& namesIn(const std::string& folder);
     std::string childOf(const std::string& folder, std::string_view name);
 
+    std::string textOf(std::string_view nameOnDisk) const;
+
+    basic::CodePage codePage_;
     std::unordered_map<std::string, Names> listed_;
 };
 

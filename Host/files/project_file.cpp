@@ -7,12 +7,26 @@
 namespace host {
 ProjectFile::ProjectFile(std::string_view bytes, basic::CodePage codePage)
     : codePage_(std::move(codePage)), ownEnd_(ownLineEnd(bytes)) {
-    Section* current = nullptr;
     while (!bytes.empty()) {
         TextLine line;
         line.text = takeLine(bytes, line.end);
-        indexLine(lines_.insert(lines_.end(), std::move(line)), current);
+        lines_.push_back(std::move(line));
     }
+    indexLines();
+}
+
+void ProjectFile::codePage(basic::CodePage page) {
+    codePage_ = std::move(page);
+    indexLines();
+}
+
+void ProjectFile::indexLines() {
+    sections_.clear();
+    settings_.clear();
+    lastMember_.reset();
+    lastSetting_.reset();
+    Section* current = nullptr;
+    for (auto line = lines_.begin(); line != lines_.end(); ++line) indexLine(line, current);
 }
 
 void ProjectFile::indexLine(Place line, Section*& current) {
@@ -95,6 +109,13 @@ void ProjectFile::addSetting(std::size_t order, std::string_view key, std::strin
     settings_.emplace(basic::foldCase(key), place);
     if (!lastSetting_ || before == lastSetting_) lastSetting_ = place;
     known_ = true;
+}
+
+void ProjectFile::removeSetting(std::string_view key) {
+    const auto found = settings_.find(basic::foldCase(key));
+    if (found == settings_.end()) return;
+    lines_.erase(found->second);
+    indexLines();
 }
 
 /// The line after which to insert a missing setting: its nearest predecessor, else the last member, else the type.

@@ -47,6 +47,12 @@ public:
     /// Error 5, without a change: a line break in the value, a character that the code page lacks.
     void setSetting(std::string_view key, std::string_view value);
 
+    /// Removes the line of a setting, if there is one.
+    void removeSetting(std::string_view key);
+
+    /// Reads the same bytes in another page. Places remain valid.
+    void codePage(basic::CodePage page);
+
     struct Member {
         Place place;
         ProjectMember content;
@@ -80,6 +86,7 @@ private:
         Index values;
     };
 
+    void indexLines();
     void indexLine(Place line, Section*& current);
     void indexKeyLine(Place line, Section* current);
     std::string lineOf(std::string_view key, std::string_view value) const;

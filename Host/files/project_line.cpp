@@ -1,5 +1,5 @@
 #include "Host/files/project_line.h"
-#include "Host/files/encoding.h"
+#include "Host/files/byte_order_mark.h"
 #include "Host/files/system_error.h"
 #include "Host/files/text_parts.h"
 #include <fmt/format.h>

@@ -71,6 +71,8 @@ public:
     /// Replaces the source with unsaved text that was based on the file with the stamp `base`. If the file has changed
     /// since, the next save treats it as changed by another program. Errors as above.
     void restore(std::string bytes, const std::optional<FileStamp>& base);
+    /// Reads the same bytes in the present code page of the project. Errors as above.
+    void decodeAgain();
     /// Marks the component as dirty after an edit of its text.
     void changed() { dirty_ = true; }
     /// Detaches the component from its project. All members raise errors from now on, those of its designer too.

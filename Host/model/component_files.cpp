@@ -68,16 +68,23 @@ void Component::becomeNew() {
 }
 
 void Component::reread() {
-    replaceSource(readSource(kindOf(type_).member, origin_.path, owner()->usualCodePage()));
+    replaceSource(readSource(kindOf(type_).member, origin_.path, owner()->codePage().page));
     dirty_ = false;
     raiseReplaced();
 }
 
 void Component::restore(std::string bytes, const std::optional<FileStamp>& base) {
-    auto loaded = sourceOf(kindOf(type_).member, std::move(bytes), origin_.path, owner()->usualCodePage());
+    auto loaded = sourceOf(kindOf(type_).member, std::move(bytes), origin_.path, owner()->codePage().page);
     loaded.stamp = base;
     replaceSource(std::move(loaded));
     dirty_ = true;
+    raiseReplaced();
+}
+
+void Component::decodeAgain() {
+    auto loaded = sourceOf(kindOf(type_).member, source_.bytes(), origin_.path, owner()->codePage().page);
+    loaded.stamp = origin_.stamp;
+    replaceSource(std::move(loaded));
     raiseReplaced();
 }
 

@@ -76,7 +76,7 @@ vbide::Ref<vbide::VBComponent> Components::Add(vbide::vbext_ComponentType type) 
     const auto stem = newNameOf(type);
     if (stem.empty()) throw hostError(basic::kInvalidProcedureCall);
     const auto name = freeName(stem);
-    LoadedSource source{SourceFile(newSource(type, name), project->usualCodePage()), type, name, {}};
+    LoadedSource source{SourceFile(newSource(type, name), project->codePage().page), type, name, {}};
     return addNew(std::make_shared<Component>(project, std::move(source), ComponentOrigin{}));
 }
 
@@ -121,7 +121,7 @@ vbide::Ref<vbide::VBComponent> Components::addTemplate(const std::shared_ptr<Com
 std::shared_ptr<Component> Components::addSource(vbide::vbext_ComponentType type, const std::string& name,
                                                  std::string bytes) {
     const auto project = this->project();
-    auto loaded = sourceOf(kindOf(type).member, std::move(bytes), name, project->usualCodePage());
+    auto loaded = sourceOf(kindOf(type).member, std::move(bytes), name, project->codePage().page);
     if (!loaded.name.empty() && named(loaded.name)) throwNameTaken(loaded.name);
     if (loaded.name.empty()) loaded.name = freeName(name);
     const auto component = std::make_shared<Component>(project, std::move(loaded), ComponentOrigin{});

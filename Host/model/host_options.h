@@ -6,6 +6,7 @@
 #include "Host/model/forms/control_class.h"
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -13,8 +14,8 @@ namespace host {
 
 /// The services and settings that a host uses. All are optional.
 struct HostOptions {
-    /// The code page of files that are not UTF-8.
-    basic::CodePage codePage = basic::CodePage::windows1252();
+    /// The code page of all projects' files that are not UTF-8. Without it the page of each project is detected.
+    std::optional<basic::CodePage> codePage;
     /// The folder of the host's project templates.
     std::string templatePath;
     /// Further folders of templates. Files opened or added from any of these folders become new, without a file.

@@ -9,7 +9,7 @@ namespace host {
 Project::Project(const std::shared_ptr<Host>& host, std::string path)
     : host_(host),
       path_(std::move(path)),
-      file_(std::make_unique<ProjectFile>("", host->options().codePage)),
+      file_(std::make_unique<ProjectFile>("", basic::CodePage::windows1252())),
       components_(std::make_shared<Components>(*this)),
       references_(std::make_shared<ProjectReferences>(*this)) {}
 
@@ -26,8 +26,6 @@ void Project::close() {
     references_->close();
     host_.reset();
 }
-
-const basic::CodePage& Project::usualCodePage() const { return host()->options().codePage; }
 
 std::string Project::folder() const { return folderOf(path_); }
 

@@ -2,6 +2,7 @@
 // A project: the text of its file, with its components, its references and the values of add-ins.
 #include "Add-in/platform/host_events.h"
 #include "Add-in/platform/host_project.h"
+#include "Basic/code_page_detection.h"
 #include "Host/files/path_lookup.h"
 #include "Host/files/project_file.h"
 #include "Host/model/components.h"
@@ -63,8 +64,11 @@ public:
     /// A native path as member lines of this project write it.
     std::string memberPath(const std::string& path) const;
 
-    /// The code page of files that are not UTF-8.
-    const basic::CodePage& usualCodePage() const;
+    /// The code page of files that are not UTF-8 themselves, and how it was determined.
+    const basic::DetectedCodePage& codePage() const { return codePage_; }
+    /// Stores the page in the project file, or removes it from there to have it detected, and reads the components' bytes
+    /// in the new page; unsaved edits remain. Error 5, without a change, for an unknown page.
+    void codePage(std::optional<int> page);
     /// Reads a component, without adding it. The name is that of the source, else `listedName`, else that of the file.
     /// Errors: as readFile; 321 not a source of this kind.
     std::shared_ptr<Component> readComponent(MemberKind kind, const std::string& path, const std::string& listedName);
@@ -93,6 +97,7 @@ private:
 
     std::weak_ptr<Host> host_;
     std::string path_;
+    basic::DetectedCodePage codePage_;
     std::optional<FileStamp> stamp_;
     std::unique_ptr<ProjectFile> file_;
     std::shared_ptr<Components> components_;

@@ -1,5 +1,5 @@
-#include "Host/files/encoding.h"
 #include "Host/files/native_path.h"
+#include "Host/files/project_code_page.h"
 #include "Host/model/code/loaded_source.h"
 #include "Host/model/errors/host_errors.h"
 #include "Host/model/host.h"
@@ -11,17 +11,34 @@ namespace host {
 
 void Project::load() {
     auto content = readFile(path_);
-    const auto page = codePageOf(content.bytes, usualCodePage());
-    auto file = std::make_unique<ProjectFile>(content.bytes, page);
+    const auto page = codePageOfProject(content.bytes, folder(), host()->options().codePage);
+    auto file = std::make_unique<ProjectFile>(content.bytes, basic::codePageOfFile(content.bytes, page.page));
     if (!file->looksLikeProject())
         throw hostError(kInvalidFileFormat, fmt::format("{}: is not a Visual Basic project file", path_));
     file_ = std::move(file);
+    codePage_ = page;
     stamp_ = content.stamp;
     loadMembers();
 }
 
+void Project::codePage(std::optional<int> page) {
+    const auto host = this->host();
+    if (page && !basic::CodePage::isKnown(*page)) throw hostError(basic::kInvalidProcedureCall);
+    if (page)
+        file_->setSetting(kCodePageKey, std::to_string(*page));
+    else
+        file_->removeSetting(kCodePageKey);
+    dirty_ = true;
+    const auto bytes = file_->bytes();
+    codePage_ = codePageOfProject(bytes, folder(), host->options().codePage);
+    file_->codePage(basic::codePageOfFile(bytes, codePage_.page));
+    const auto components = components_->list(); // handlers may remove components
+    for (const auto& component : components) (void)basic::attempt([&] { component->decodeAgain(); });
+}
+
 void Project::loadText(const std::string& text) {
-    file_ = std::make_unique<ProjectFile>(text, usualCodePage());
+    codePage_ = codePageOfProject(text, folder(), host()->options().codePage);
+    file_ = std::make_unique<ProjectFile>(text, codePage_.page);
     loadMembers();
     dirty_ = true;
 }
@@ -29,7 +46,7 @@ void Project::loadText(const std::string& text) {
 void Project::loadMembers() {
     const auto members = file_->members();
     references_->load(members);
-    PathLookup lookup;
+    PathLookup lookup(codePage_.page);
     std::unordered_set<std::string> seen;
     for (const auto& member : members)
         if (isComponentKind(member.content.kind)) loadMember(member, lookup, seen);
@@ -51,7 +68,7 @@ void Project::loadMember(const ProjectFile::Member& member, PathLookup& lookup, 
 
 std::shared_ptr<Component> Project::readComponent(MemberKind kind, const std::string& path,
                                                   const std::string& listedName) {
-    auto loaded = readSource(kind, path, usualCodePage());
+    auto loaded = readSource(kind, path, codePage_.page);
     if (loaded.name.empty()) loaded.name = listedName.empty() ? baseNameOf(path) : listedName;
     const auto stamp = loaded.stamp;
     return std::make_shared<Component>(shared_from_this(), std::move(loaded), ComponentOrigin{path, stamp, {}});

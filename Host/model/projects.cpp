@@ -1,9 +1,9 @@
 #include "Host/model/projects.h"
 #include "Basic/case_folding.h"
-#include "Host/files/encoding.h"
 #include "Host/files/group_file.h"
 #include "Host/files/native_path.h"
 #include "Host/files/path_lookup.h"
+#include "Host/files/project_code_page.h"
 #include "Host/model/code/names.h"
 #include "Host/model/code/new_source.h"
 #include "Host/model/errors/host_errors.h"
@@ -47,9 +47,10 @@ vbide::Ref<vbide::VBProject> Projects::AddFromFile(const std::string& path, bool
 
 vbide::Ref<vbide::VBProject> Projects::openGroup(const std::string& path, const std::string& bytes) {
     const auto host = this->host();
-    const GroupFile group(bytes, codePageOf(bytes, host->options().codePage));
     const auto folder = folderOf(path);
-    PathLookup lookup;
+    const auto page = codePageOfProject(bytes, folder, host->options().codePage).page;
+    const GroupFile group(bytes, basic::codePageOfFile(bytes, page));
+    PathLookup lookup(page);
     std::shared_ptr<Project> startUp;
     for (const auto& entry : group.entries()) {
         const auto failed = basic::attempt([&] {

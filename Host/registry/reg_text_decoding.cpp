@@ -1,6 +1,6 @@
 #include "Host/registry/reg_text_decoding.h"
 #include "Basic/code_page.h"
-#include "Host/files/encoding.h"
+#include "Host/files/byte_order_mark.h"
 #include "Host/files/system_error.h"
 #include "Host/registry/reg_text.h"
 #include "Host/registry/utf16.h"

@@ -55,7 +55,8 @@ public:
 class CompilerComponent : public testing::Test {
 protected:
     CompilerComponent() {
-        compiler_ = basic::make<ProjectCompilerFactory>(CompilerServices{files_, classes_, record_})->CreateCompiler();
+        const CompilerServices services{files_, classes_, record_, [this](const std::string&) { return page_; }};
+        compiler_ = basic::make<ProjectCompilerFactory>(services)->CreateCompiler();
         subscriptions_.push_back(compiler_->BuildStarted.connect([this] { events_.push_back("started"); }));
         subscriptions_.push_back(
             compiler_->BuildStatus.connect([this](const std::string& text) { events_.push_back(text); }));
@@ -81,6 +82,7 @@ protected:
     test::TempFolder folder_;
     host::FileSystem files_;
     OneLibrary classes_;
+    basic::CodePage page_ = basic::CodePage::windows1252();
     std::shared_ptr<BuildRecord> record_ = std::make_shared<BuildRecord>();
     basic::Ref<qltoolkit::Compiler> compiler_;
     std::vector<std::string> events_, errors_, dependencies_;
@@ -89,6 +91,13 @@ protected:
 };
 
 } // namespace
+
+TEST_F(CompilerComponent, ReadsSourcesInTheirCodePage) {
+    page_ = basic::CodePage(950);
+    add("modMain.bas", page_.encode("Attribute VB_Name = \"modMain\"\r\nSub 計算()\r\nEnd Sub\r\n"));
+    EXPECT_TRUE(compiler_->Build());
+    EXPECT_EQ(image::decode(folder_.read("Tips.0000.qlx")).modules[0].members[0].name, "計算");
+}
 
 TEST_F(CompilerComponent, WritesAnImageAndReportsProgress) {
     add("frmTip.frm", kForm);

@@ -265,6 +265,27 @@ TEST_F(DesktopMenus, AProjectsPropertiesAreItsNameAndStartUpObject) {
     EXPECT_TRUE(project()->IsDirty());
 }
 
+TEST_F(DesktopMenus, AProjectsCodePageIsShownAndChanged) {
+    const auto cyrillic = basic::CodePage(1251).encode("' Привет\r\n");
+    open(test::SampleProject().module("modA", cyrillic).writeTo(folder));
+    EXPECT_TRUE(editor("modA").scintilla().text().startsWith("' Ïðèâåò"));
+    test::whenShown<workbench::ProjectProperties>([](workbench::ProjectProperties& dialog) {
+        auto* const pages = dialog.findChild<QComboBox*>("codePage");
+        EXPECT_EQ(pages->currentText(), "Detected: 1252, the default");
+        pages->setCurrentText("1251 (Cyrillic)");
+        dialog.accept();
+    });
+    menuItem("&Project", "&Properties...")->trigger();
+    settle();
+    EXPECT_TRUE(editor("modA").scintilla().text().startsWith("' Привет"));
+    editor("modA").scintilla().insertAt("' Файл\n", 0, 0);
+    settle();
+    component("modA")->SaveAs(component("modA")->FileNames(1));
+    EXPECT_EQ(folder.read("modA.bas"), test::moduleText("modA", basic::CodePage(1251).encode("' Файл\r\n") + cyrillic));
+    project()->SaveAs(project()->FileName());
+    EXPECT_THAT(folder.read("Hello.vbp"), HasSubstr("\r\nCodePage=1251\r\n"));
+}
+
 TEST_F(DesktopMenus, AnInvalidProjectNameIsRefused) {
     openSample("AddressBook");
     test::whenShown<workbench::ProjectProperties>([](workbench::ProjectProperties& dialog) {

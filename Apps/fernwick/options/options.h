@@ -2,6 +2,8 @@
 // The options and operands of one command.
 #include "Apps/fernwick/options/answers.h"
 #include "Apps/fernwick/options/verbosity.h"
+#include "Basic/code_page.h"
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -47,8 +49,8 @@ struct Options {
     bool noSteps = false;
     bool list = false;
     bool verify = false;
-    /// Code page of source files that are not UTF-8.
-    int codePage = 1252;
+    /// Code page of source files that are not UTF-8; detected if none is given.
+    std::optional<basic::CodePage> codePage;
 };
 
 } // namespace cli

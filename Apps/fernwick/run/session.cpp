@@ -4,7 +4,9 @@
 #include "Add-in/project/stored/project_format.h"
 #include "Add-in/project/stored/project_store.h"
 #include "Apps/common/file_names.h"
+#include "Apps/common/source_code_page.h"
 #include "Apps/fernwick/options/exit_status.h"
+#include "Apps/fernwick/output/code_page_note.h"
 #include "Apps/fernwick/output/file_errors.h"
 #include "Apps/fernwick/output/plural.h"
 #include "Apps/fernwick/run/step_processes.h"
@@ -41,6 +43,7 @@ Session::Session(const Options& options, Console& console)
         console.err(fmt::format("fernwick: {} (error {})", error.Description, error.Number), Tone::Warning);
     };
     host_ = host::Host::create(std::move(hostOptions));
+    apps::compileInHostCodePages(machine_, host_);
     host_->listAddIn(apps::kAddInProgId, apps::kAddInName, [this] { return connections_.create(); });
 }
 
@@ -59,6 +62,9 @@ void Session::open(const std::string& path) {
     const auto err = basic::attempt([&] { project_ = host_->VBProjects()->AddFromFile(path_); });
     if (err.Number != 0) throw Refusal(statusOfOpening(err.Number), withFile(path_, err.Description));
     printProblems();
+    for (const auto& project : host_->VBProjects()->items())
+        if (const auto own = basic::cast<host::Project>(project))
+            reportCodePage(console_, own->FileName(), own->codePage());
 }
 
 void Session::printProblems() {
@@ -75,7 +81,7 @@ void Session::requireAllMembers() {
     if (!own) return;
     std::unordered_set<std::string> loaded;
     for (const auto& component : project_->VBComponents()->items()) loaded.insert(component->FileNames(1));
-    host::PathLookup lookup;
+    host::PathLookup lookup(own->codePage().page);
     std::size_t unusable = 0;
     for (const auto& member : own->file().members()) {
         if (!host::isComponentKind(member.content.kind)) continue;

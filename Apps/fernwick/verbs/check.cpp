@@ -1,5 +1,6 @@
 #include "Components/QLToolkit/check.h"
 #include "Apps/fernwick/options/exit_status.h"
+#include "Apps/fernwick/output/code_page_note.h"
 #include "Apps/fernwick/output/plural.h"
 #include "Apps/fernwick/output/report.h"
 #include "Apps/fernwick/run/interruption.h"
@@ -7,8 +8,8 @@
 #include "Apps/fernwick/verbs/source_list.h"
 #include "Apps/fernwick/verbs/verbs.h"
 #include "Basic/runtime_error.h"
-#include "Host/files/encoding.h"
 #include "Host/files/path_lookup.h"
+#include "Host/files/project_code_page.h"
 #include "Host/files/text_file.h"
 #include <chrono>
 #include <fmt/format.h>
@@ -37,27 +38,29 @@ Message messageOf(const qltoolkit::Diagnostic& diagnostic) {
 
 constexpr std::string_view kStandardInput = "-";
 
-qltoolkit::CheckResult checkStandardInput(const Options& options, const basic::CodePage& usual) {
-    std::string bytes{std::istreambuf_iterator<char>(std::cin), {}};
-    const auto page = host::codePageOf(bytes, usual);
-    return qltoolkit::checkSource(options.sourceName, std::move(bytes), {}, page);
+qltoolkit::CheckResult checkBytes(const std::string& name, std::string bytes, const SourceToCheck& source,
+                                  Console& console) {
+    if (source.page) return qltoolkit::checkSource(name, std::move(bytes), source.constants, *source.page);
+    const auto detected = host::codePageOfSource(bytes);
+    reportCodePage(console, name, detected);
+    return qltoolkit::checkSource(name, std::move(bytes), source.constants, detected.page);
 }
 
-qltoolkit::CheckResult checkOne(const SourceToCheck& source, const Options& options, const basic::CodePage& usual) {
-    if (source.path == kStandardInput) return checkStandardInput(options, usual);
+qltoolkit::CheckResult checkOne(const SourceToCheck& source, const Options& options, Console& console) {
+    if (source.path == kStandardInput)
+        return checkBytes(options.sourceName, {std::istreambuf_iterator<char>(std::cin), {}}, source, console);
     host::FileContent content;
     const auto err = basic::attempt([&] { content = host::readFile(source.path); });
-    if (err.Number != 0) return qltoolkit::checkFile(source.path, source.constants, usual); // reports the error
-    const auto page = host::codePageOf(content.bytes, usual);
-    return qltoolkit::checkSource(source.path, std::move(content.bytes), source.constants, page);
+    if (err.Number != 0) return qltoolkit::checkFile(source.path, source.constants); // reports the error
+    return checkBytes(source.path, std::move(content.bytes), source, console);
 }
 
-CheckTotals checkAll(const SourceList& list, const basic::CodePage& usual, const Options& options, Console& console,
-                     Report& report) {
+CheckTotals checkAll(const SourceList& list, const Options& options, Console& console, Report& report) {
     CheckTotals totals;
+    for (const auto& [project, page] : list.projects) reportCodePage(console, project, page);
     for (const auto& source : list.sources) {
         checkInterrupt();
-        const auto result = checkOne(source, options, usual);
+        const auto result = checkOne(source, options, console);
         ++totals.files;
         totals.lines += result.lines;
         totals.errors += result.errors;
@@ -80,8 +83,7 @@ int runCheck(const Options& options, Console& console) {
     const auto begin = std::chrono::steady_clock::now();
     auto operands = options.operands;
     if (operands.empty()) operands.push_back(projectArgument(""));
-    const basic::CodePage usual{options.codePage};
-    const auto list = listSources(operands, usual);
+    const auto list = listSources(operands, options.codePage);
 
     Report report;
     report.verb = "check";
@@ -89,7 +91,7 @@ int runCheck(const Options& options, Console& console) {
         report.failure += (report.failure.empty() ? "" : "\n") + problem;
         console.err("fernwick: " + problem, Tone::Error);
     }
-    const auto totals = checkAll(list, usual, options, console, report);
+    const auto totals = checkAll(list, options, console, report);
     report.exitStatus = totals.errors > 0 || !list.problems.empty() ? kProjectErrors : kGood;
     const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - begin;
     report.statusText = fmt::format("{}, {}, {}", plural(totals.files, "file"), plural(totals.lines, "line"),

@@ -10,9 +10,9 @@
 #include "Basic/case_folding.h"
 #include "Basic/runtime_error.h"
 #include "Components/QLToolkit/compiler.h"
-#include "Host/files/encoding.h"
 #include "Host/files/native_path.h"
 #include "Host/files/path_lookup.h"
+#include "Host/files/project_code_page.h"
 #include "Host/files/project_file.h"
 #include "Host/system/file_system.h"
 #include <fmt/format.h>
@@ -23,7 +23,8 @@ namespace {
 
 std::string projectNameIn(const std::string& path) {
     const auto content = host::readFile(path);
-    const host::ProjectFile project{content.bytes, host::codePageOf(content.bytes, basic::CodePage::windows1252())};
+    const auto page = host::codePageOfProject(content.bytes, apps::folderOf(path)).page;
+    const host::ProjectFile project{content.bytes, basic::codePageOfFile(content.bytes, page)};
     if (!project.looksLikeProject()) throw Refusal(kProjectErrors, path + ": is not a Visual Basic project file");
     const auto name = project.setting("Name").value_or("");
     return name.empty() ? host::baseNameOf(path) : name;
@@ -59,7 +60,7 @@ void cleanProject(const std::string& given, const Options& options, Console& con
 int runClean(const Options& options, Console& console) {
     auto json = jsonResult("clean");
     json["deleted"] = Json::array();
-    const auto group = projectGroupOf(projectArgument(options.project), basic::CodePage::windows1252());
+    const auto group = projectGroupOf(projectArgument(options.project));
     for (const auto& project : group.projects) {
         try {
             cleanProject(project, options, console, json["deleted"]);

@@ -110,7 +110,7 @@ void printTable(const Report& report, Console& console) {
 Report runProjects(const Options& options, Console& console, RunProject run) {
     auto member = options;
     member.project = projectArgument(options.project);
-    const auto group = projectGroupOf(member.project, basic::CodePage::windows1252());
+    const auto group = projectGroupOf(member.project);
     if (group.path.empty()) return run(member, console);
     Report report;
     report.verb = options.verb;

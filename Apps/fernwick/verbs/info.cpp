@@ -41,9 +41,8 @@ int showProjects(const ProjectGroup& subject, const Options& options, Console& c
 } // namespace
 
 int runInfo(const Options& options, Console& console) {
-    const basic::CodePage usual{options.codePage};
-    const auto subject = projectGroupOf(projectArgument(options.project), usual);
-    return options.verify ? verifyRoundTrip(subject, options, console, usual) : showProjects(subject, options, console);
+    const auto subject = projectGroupOf(projectArgument(options.project));
+    return options.verify ? verifyRoundTrip(subject, options, console) : showProjects(subject, options, console);
 }
 
 } // namespace cli

@@ -23,12 +23,12 @@ std::string verdictName(FileVerdict::Kind kind) {
     return "unreadable";
 }
 
-std::vector<FileVerdict> verdictsOf(const ProjectGroup& subject, const basic::CodePage& usual) {
+std::vector<FileVerdict> verdictsOf(const ProjectGroup& subject) {
     std::vector<FileVerdict> verdicts;
-    if (!subject.path.empty()) verdicts.push_back(verifyGroup(subject.path, usual));
+    if (!subject.path.empty()) verdicts.push_back(verifyGroup(subject.path));
     for (const auto& path : subject.projects) {
         std::vector<FileVerdict> more;
-        const auto err = basic::attempt([&] { more = verifyProject(path, usual); });
+        const auto err = basic::attempt([&] { more = verifyProject(path); });
         if (err.Number != 0)
             throw Refusal(statusOfOpening(err.Number), withFile(host::absolutePath(path), err.Description));
         verdicts.insert(verdicts.end(), more.begin(), more.end());
@@ -69,9 +69,8 @@ Json jsonOfVerdicts(const std::vector<FileVerdict>& verdicts) {
 
 } // namespace
 
-int verifyRoundTrip(const ProjectGroup& subject, const Options& options, Console& console,
-                    const basic::CodePage& usual) {
-    const auto verdicts = verdictsOf(subject, usual);
+int verifyRoundTrip(const ProjectGroup& subject, const Options& options, Console& console) {
+    const auto verdicts = verdictsOf(subject);
     const int status = countOfVerdicts(verdicts, FileVerdict::Kind::Changes) > 0 ? kProjectErrors : kGood;
     if (options.format == Format::Json) {
         console.out(dumpJson(jsonOfVerdicts(verdicts)));

@@ -8,7 +8,6 @@
 namespace cli {
 
 /// Prints the verdict on each file and returns the exit status: 1 if one would change.
-int verifyRoundTrip(const ProjectGroup& subject, const Options& options, Console& console,
-                    const basic::CodePage& usual);
+int verifyRoundTrip(const ProjectGroup& subject, const Options& options, Console& console);
 
 } // namespace cli

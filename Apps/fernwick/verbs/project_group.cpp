@@ -4,16 +4,16 @@
 #include "Apps/fernwick/options/refusal.h"
 #include "Apps/fernwick/output/file_errors.h"
 #include "Basic/runtime_error.h"
-#include "Host/files/encoding.h"
 #include "Host/files/group_file.h"
 #include "Host/files/path_lookup.h"
+#include "Host/files/project_code_page.h"
 #include "Host/files/text_file.h"
 #include <algorithm>
 #include <fmt/format.h>
 
 namespace cli {
 
-ProjectGroup projectGroupOf(const std::string& path, const basic::CodePage& usual) {
+ProjectGroup projectGroupOf(const std::string& path) {
     if (!apps::hasExtension(path, ".vbg")) return {{}, {path}};
     ProjectGroup subject;
     subject.path = host::absolutePath(path);
@@ -22,9 +22,10 @@ ProjectGroup projectGroupOf(const std::string& path, const basic::CodePage& usua
     if (err.Number != 0) throw Refusal(statusOfOpening(err.Number), withFile(subject.path, err.Description));
     if (!host::GroupFile::looksLikeGroup(content.bytes))
         throw Refusal(kProjectErrors, fmt::format("{}: is not a Visual Basic project group", path));
-    host::PathLookup lookup;
     const auto folder = apps::folderOf(subject.path);
-    const host::GroupFile group{content.bytes, host::codePageOf(content.bytes, usual)};
+    const auto page = host::codePageOfProject(content.bytes, folder).page;
+    host::PathLookup lookup(page);
+    const host::GroupFile group{content.bytes, basic::codePageOfFile(content.bytes, page)};
     for (const auto& entry : group.entries()) {
         const auto project = lookup.find(folder, entry.path);
         const auto& listed = subject.projects;

@@ -1,5 +1,4 @@
 #pragma once
-#include "Basic/code_page.h"
 #include <string>
 #include <vector>
 
@@ -12,7 +11,7 @@ struct ProjectGroup {
 };
 
 /// Each project of a group once. A member that is not a project file is still in the list: opening it fails. Refusal for
-/// a group that cannot be read. `usual` is the code page of files that are not UTF-8.
-ProjectGroup projectGroupOf(const std::string& path, const basic::CodePage& usual);
+/// a group that cannot be read.
+ProjectGroup projectGroupOf(const std::string& path);
 
 } // namespace cli

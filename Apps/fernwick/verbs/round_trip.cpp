@@ -2,9 +2,9 @@
 #include "Apps/common/file_names.h"
 #include "Apps/fernwick/run/interruption.h"
 #include "Basic/runtime_error.h"
-#include "Host/files/encoding.h"
 #include "Host/files/group_file.h"
 #include "Host/files/path_lookup.h"
+#include "Host/files/project_code_page.h"
 #include "Host/files/project_file.h"
 #include "Host/files/property_value.h"
 #include "Host/files/resource_file.h"
@@ -31,12 +31,13 @@ FileVerdict unread(const std::string& file, const basic::ErrObject& error) {
 
 class ProjectVerifier {
 public:
-    ProjectVerifier(const std::string& path, const basic::CodePage& usual)
-        : path_(path), folder_(apps::folderOf(path)), usual_(usual) {}
+    explicit ProjectVerifier(const std::string& path) : path_(path), folder_(apps::folderOf(path)) {}
 
     std::vector<FileVerdict> run() {
         const auto content = host::readFile(path_);
-        host::ProjectFile project{content.bytes, host::codePageOf(content.bytes, usual_)};
+        page_ = host::codePageOfProject(content.bytes, folder_).page;
+        lookup_ = host::PathLookup(page_);
+        host::ProjectFile project{content.bytes, basic::codePageOfFile(content.bytes, page_)};
         if (!project.looksLikeProject())
             throw basic::RuntimeError(basic::kInvalidFileFormat, path_ + ": is not a Visual Basic project file");
         verdicts_.push_back(compared(path_, content.bytes, project.bytes()));
@@ -52,7 +53,7 @@ private:
         host::FileContent content;
         const auto err = basic::attempt([&] { content = host::readFile(file); });
         if (err.Number != 0) return verdicts_.push_back(unread(file, err));
-        host::SourceFile source{content.bytes, host::codePageOf(content.bytes, usual_)};
+        host::SourceFile source{content.bytes, basic::codePageOfFile(content.bytes, page_)};
         const auto& form = source.form();
         source.code();
         verdicts_.push_back(compared(file, content.bytes, source.bytes()));
@@ -84,7 +85,7 @@ private:
     }
 
     std::string path_, folder_;
-    const basic::CodePage& usual_;
+    basic::CodePage page_ = basic::CodePage::windows1252();
     host::PathLookup lookup_;
     std::unordered_set<std::string> seen_;
     std::vector<FileVerdict> verdicts_;
@@ -92,13 +93,14 @@ private:
 
 } // namespace
 
-std::vector<FileVerdict> verifyProject(const std::string& path, const basic::CodePage& usual) {
-    return ProjectVerifier{host::absolutePath(path), usual}.run();
+std::vector<FileVerdict> verifyProject(const std::string& path) {
+    return ProjectVerifier{host::absolutePath(path)}.run();
 }
 
-FileVerdict verifyGroup(const std::string& path, const basic::CodePage& usual) {
+FileVerdict verifyGroup(const std::string& path) {
     const auto content = host::readFile(path);
-    const host::GroupFile group{content.bytes, host::codePageOf(content.bytes, usual)};
+    const auto page = host::codePageOfProject(content.bytes, apps::folderOf(path)).page;
+    const host::GroupFile group{content.bytes, basic::codePageOfFile(content.bytes, page)};
     return compared(path, content.bytes, group.bytes());
 }
 

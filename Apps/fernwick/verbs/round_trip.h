@@ -22,9 +22,9 @@ struct FileVerdict {
 
 /// Checks the project file, its components and their resource files, each once, in the project's order, by parsing and
 /// writing them as far as the host can. Errors: 321 if it is not a project; those of reading the project file.
-std::vector<FileVerdict> verifyProject(const std::string& path, const basic::CodePage& usual);
+std::vector<FileVerdict> verifyProject(const std::string& path);
 
 /// Checks only the group file, not its projects.
-FileVerdict verifyGroup(const std::string& path, const basic::CodePage& usual);
+FileVerdict verifyGroup(const std::string& path);
 
 } // namespace cli

@@ -2,9 +2,9 @@
 #include "Apps/common/file_names.h"
 #include "Apps/fernwick/output/file_errors.h"
 #include "Basic/runtime_error.h"
-#include "Host/files/encoding.h"
 #include "Host/files/group_file.h"
 #include "Host/files/path_lookup.h"
+#include "Host/files/project_code_page.h"
 #include "Host/files/project_file.h"
 #include <algorithm>
 #include <filesystem>
@@ -21,7 +21,7 @@ using apps::hasExtension;
 
 class SourceCollector {
 public:
-    explicit SourceCollector(const basic::CodePage& usual) : usual_(usual) {}
+    explicit SourceCollector(const std::optional<basic::CodePage>& given) : given_(given) {}
 
     void add(const std::string& path) {
         std::error_code ignored;
@@ -33,7 +33,7 @@ public:
             else if (hasExtension(path, ".vbg"))
                 addGroup(path);
             else
-                addSource(path, {});
+                addSource(path, {}, given_);
         });
     }
 
@@ -47,8 +47,9 @@ private:
     }
 
     /// The first mention of a file counts.
-    void addSource(const std::string& path, const qltoolkit::ConditionalConstants& constants) {
-        if (seen_.insert(host::absolutePath(path)).second) list_.sources.push_back({path, constants});
+    void addSource(const std::string& path, const qltoolkit::ConditionalConstants& constants,
+                   const std::optional<basic::CodePage>& page) {
+        if (seen_.insert(host::absolutePath(path)).second) list_.sources.push_back({path, constants, page});
     }
 
     /// The projects first, since their constants apply to their sources; then the sources of no project.
@@ -68,7 +69,7 @@ private:
         std::sort(projects.begin(), projects.end());
         std::sort(sources.begin(), sources.end());
         for (const auto& path : projects) noteProblem(path, [&] { addProject(path); });
-        for (const auto& path : sources) addSource(path, {});
+        for (const auto& path : sources) addSource(path, {}, given_);
         if (projects.empty() && sources.empty()) list_.problems.push_back(folder + ": contains no sources");
     }
 
@@ -79,38 +80,40 @@ private:
 
     void addProject(const std::string& path) {
         const auto content = host::readFile(path);
-        const auto page = host::codePageOf(content.bytes, usual_);
-        host::ProjectFile project{content.bytes, page};
+        const auto detected = host::codePageOfProject(content.bytes, folderOf(path), given_);
+        host::ProjectFile project{content.bytes, basic::codePageOfFile(content.bytes, detected.page)};
         if (!project.looksLikeProject())
             throw basic::RuntimeError(basic::kInvalidProcedureCall, "not a Visual Basic project");
         const auto constants = qltoolkit::parseConditionalConstants(project.setting("CondComp").value_or(""));
-        host::PathLookup lookup;
+        list_.projects.emplace_back(path, detected);
+        host::PathLookup lookup(detected.page);
         for (const auto& member : project.members())
             if (host::isComponentKind(member.content.kind))
-                addSource(lookup.find(folderOf(path), member.content.value), constants);
+                addSource(lookup.find(folderOf(path), member.content.value), constants, detected.page);
     }
 
     void addGroup(const std::string& path) {
         const auto content = host::readFile(path);
         if (!host::GroupFile::looksLikeGroup(content.bytes))
             throw basic::RuntimeError(basic::kInvalidProcedureCall, "not a Visual Basic project group");
-        const host::GroupFile group{content.bytes, host::codePageOf(content.bytes, usual_)};
-        host::PathLookup lookup;
+        const auto page = host::codePageOfProject(content.bytes, folderOf(path), given_).page;
+        const host::GroupFile group{content.bytes, basic::codePageOfFile(content.bytes, page)};
+        host::PathLookup lookup(page);
         for (const auto& entry : group.entries()) {
             const auto project = lookup.find(folderOf(path), entry.path);
             noteProblem(project, [&] { addProject(project); });
         }
     }
 
-    const basic::CodePage& usual_;
+    const std::optional<basic::CodePage>& given_;
     SourceList list_;
     std::unordered_set<std::string> seen_;
 };
 
 } // namespace
 
-SourceList listSources(const std::vector<std::string>& operands, const basic::CodePage& usual) {
-    SourceCollector collector{usual};
+SourceList listSources(const std::vector<std::string>& operands, const std::optional<basic::CodePage>& given) {
+    SourceCollector collector{given};
     for (const auto& operand : operands) collector.add(operand);
     return collector.take();
 }

@@ -1,5 +1,7 @@
 #include "Apps/workbench/project/project_properties.h"
 #include "Apps/workbench/base/text.h"
+#include "Host/files/project_code_page.h"
+#include "Host/model/project.h"
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFormLayout>
@@ -21,11 +23,14 @@ ProjectProperties::ProjectProperties(vbide::Ref<vbide::VBProject> project, QWidg
     : QDialog(parent),
       project_(std::move(project)),
       name_(new QLineEdit(qt(project_->Name()))),
-      startUp_(new QComboBox) {
+      startUp_(new QComboBox),
+      codePage_(new QComboBox) {
     setWindowTitle(qt(project_->Name()) + " - Project Properties");
     name_->setObjectName("name");
     startUp_->setObjectName("startUp");
     listStartUps();
+    codePage_->setObjectName("codePage");
+    listCodePages();
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     // the language's rule for names
     static const QRegularExpression kName("\\p{L}[\\p{L}\\p{N}_]{0,39}");
@@ -37,6 +42,7 @@ ProjectProperties::ProjectProperties(vbide::Ref<vbide::VBProject> project, QWidg
     auto* const rows = new QFormLayout(this);
     rows->addRow("Project &name:", name_);
     rows->addRow("&Start with:", startUp_);
+    rows->addRow("&Code page:", codePage_);
     rows->addRow(buttons);
 }
 
@@ -57,11 +63,40 @@ void ProjectProperties::listStartUps() {
     startUp_->setCurrentIndex(startedWith_);
 }
 
+/// The first entry, without a number, has the page detected.
+void ProjectProperties::listCodePages() {
+    const auto own = basic::cast<host::Project>(project_);
+    codePage_->setEnabled(bool(own));
+    codePage_->addItem("Detected automatically");
+    for (const auto& page : basic::CodePage::all())
+        codePage_->addItem(QString("%1 (%2)").arg(page.number).arg(page.languages), page.number);
+    if (!own) return;
+    const auto& detected = own->codePage();
+    const auto reason = host::textOf(detected.reason);
+    if (detected.reason == basic::CodePageReason::Key)
+        codePage_->setCurrentIndex(codePage_->findData(detected.page.number()));
+    else
+        codePage_->setItemText(0, QString("Detected: %1, %2")
+                                      .arg(detected.page.number())
+                                      .arg(QString::fromUtf8(reason.data(), int(reason.size()))));
+}
+
+void ProjectProperties::setCodePage() {
+    const auto own = basic::cast<host::Project>(project_);
+    if (!own) return;
+    const auto chosen = codePage_->currentData();
+    const bool stored = own->codePage().reason == basic::CodePageReason::Key;
+    const auto page = chosen.isValid() ? std::optional(chosen.toInt()) : std::nullopt;
+    const bool same = page ? stored && own->codePage().page.number() == *page : !stored;
+    if (!same) own->codePage(page);
+}
+
 void ProjectProperties::setChanged() {
     const auto name = text(name_->text());
     if (name != project_->Name()) project_->Name(name);
     if (startUp_->currentIndex() != startedWith_)
         project_->VBComponents()->StartUpObject(startUps_[std::size_t(startUp_->currentIndex())]);
+    setCodePage();
 }
 
 void editProperties(const vbide::Ref<vbide::VBProject>& project, QWidget* parent) {

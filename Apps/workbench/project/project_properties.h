@@ -1,5 +1,5 @@
 #pragma once
-// The dialog for a project's name and start-up object.
+// The dialog for a project's name, start-up object and code page.
 #include "Add-in/platform/host_project.h"
 #include <QDialog>
 #include <vector>
@@ -18,12 +18,15 @@ public:
 
 private:
     void listStartUps();
+    void listCodePages();
+    void setCodePage();
 
     vbide::Ref<vbide::VBProject> project_;
     /// The meaning of each entry of the list.
     std::vector<vbide::StartUp> startUps_;
     QLineEdit* name_;
     QComboBox* startUp_;
+    QComboBox* codePage_;
     int startedWith_ = 0;
 };
 

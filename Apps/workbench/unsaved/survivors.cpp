@@ -2,7 +2,7 @@
 #include "Apps/workbench/base/text.h"
 #include "Apps/workbench/code/line_differences.h"
 #include "Apps/workbench/unsaved/unsaved_texts.h"
-#include "Host/files/encoding.h"
+#include "Host/files/project_code_page.h"
 #include "Host/model/host.h"
 #include <QDateTime>
 #include <QFile>
@@ -66,7 +66,7 @@ QString detailsOf(const std::vector<Survivor>& all) {
         std::string onDisk;
         (void)basic::attempt([&] { onDisk = host::readFile(entry.file).bytes; });
         const auto shown = [](const std::string& bytes) {
-            return qt(host::codePageOf(bytes, basic::CodePage::windows1252()).decode(bytes));
+            return qt(host::codePageOfSource(bytes).page.decode(bytes));
         };
         details << QString(unsaved_texts::kDifferences).arg(qt(entry.file.empty() ? entry.component : entry.file));
         details << differencesOf(shown(onDisk), shown(entry.bytes)) << "";

@@ -1,5 +1,6 @@
 #include "Apps/workbench/window/workbench.h"
 #include "Apps/common/compile_steps.h"
+#include "Apps/common/source_code_page.h"
 #include "Apps/common/trusted_folders.h"
 #include "Apps/workbench/base/text.h"
 #include "Apps/workbench/project/new_project.h"
@@ -22,6 +23,7 @@ Workbench::Workbench()
                 }}),
       connections_(machine_.platform()),
       host_(host::Host::create(hostOptions())) {
+    apps::compileInHostCodePages(machine_, host_);
     host_->listAddIn(apps::kAddInProgId, apps::kAddInName, [this] { return connections_.create(); });
     buildWindow();
     problemsSoon_.setSingleShot(true);

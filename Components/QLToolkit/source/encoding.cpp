@@ -4,26 +4,6 @@
 
 namespace qltoolkit {
 
-bool isUtf8WithNonAscii(std::string_view bytes) {
-    if (bytes.starts_with("\xEF\xBB\xBF")) return true;
-    bool found = false;
-    for (std::size_t at = basic::asciiRun(bytes, 0); at < bytes.size(); at += basic::asciiRun(bytes, at)) {
-        if (basic::nextCharacter(bytes, at) == basic::kNoCharacter) return false;
-        found = true;
-    }
-    return found;
-}
-
-bool isLeadByteOf(int codePage, unsigned char byte) {
-    switch (codePage) {
-    case 932: return (byte >= 0x81 && byte <= 0x9F) || (byte >= 0xE0 && byte <= 0xFC);
-    case 936:
-    case 949:
-    case 950: return byte >= 0x81 && byte <= 0xFE;
-    default: return false;
-    }
-}
-
 bool isWideBlank(int codePage, const char* text) {
     const auto is = [text](const char* bytes) { return std::memcmp(text, bytes, 2) == 0; };
     switch (codePage) {
@@ -36,7 +16,9 @@ bool isWideBlank(int codePage, const char* text) {
     }
 }
 
-unsigned wideBlankBytes(int codePage) { return codePage == kUtf8Page || isLeadByteOf(codePage, 0x81) ? 2 : 1; }
+unsigned wideBlankBytes(int codePage) {
+    return codePage == kUtf8Page || basic::CodePage::isDoubleByte(codePage) ? 2 : 1;
+}
 
 bool hasTypographicMark(std::string_view utf8) {
     for (std::size_t at = basic::asciiRun(utf8, 0); at < utf8.size(); at += basic::asciiRun(utf8, at)) {

@@ -1,4 +1,5 @@
 #include "Components/QLToolkit/source/source_text.h"
+#include "Basic/code_page_detection.h"
 #include "Components/QLToolkit/source/encoding.h"
 #include <algorithm>
 #include <array>
@@ -60,7 +61,7 @@ SourceText::SourceText(std::string name, std::string bytes, basic::CodePage page
       kind_(fileKindOf(name_)),
       page_(std::move(page)) {
     binary_ = looksBinary(bytes_);
-    if (isUtf8WithNonAscii(bytes_)) page_ = basic::CodePage(kUtf8Page);
+    page_ = basic::codePageOfFile(bytes_, page_);
     bytes_.append(kPadding, '\0');
     splitLines();
     findCode();
@@ -153,6 +154,6 @@ std::uint32_t SourceText::headerTooDeep(std::uint32_t at) {
 
 std::string SourceText::decode(std::string_view bytes) const { return page_.decode(bytes); }
 
-bool SourceText::isLeadByte(unsigned char byte) const { return isLeadByteOf(page_.number(), byte); }
+bool SourceText::isLeadByte(unsigned char byte) const { return basic::isLeadByte(page_.number(), byte); }
 
 } // namespace qltoolkit

@@ -41,8 +41,8 @@ inline constexpr std::size_t kMaxSourceBytes = std::size_t{1} << 30;
 /// The bytes of one file. It must outlive everything that refers to it, such as tokens and trees.
 class SourceText {
 public:
-    /// Takes the bytes of the file, at most kMaxSourceBytes, and their code page. A file that begins with a byte order
-    /// mark, or whose bytes above 127 are all UTF-8, is read as UTF-8 instead.
+    /// Takes the bytes of the file, at most kMaxSourceBytes, and the code page of its project. A file that is UTF-8
+    /// itself is read as that; see basic::codePageOfFile.
     SourceText(std::string name, std::string bytes, basic::CodePage = basic::CodePage::windows1252());
     SourceText(const SourceText&) = delete;
     SourceText& operator=(const SourceText&) = delete;

@@ -1,5 +1,5 @@
 #include "Host/model/code/loaded_source.h"
-#include "Host/files/encoding.h"
+#include "Basic/code_page_detection.h"
 #include "Host/model/code/component_kind.h"
 #include "Host/model/errors/host_errors.h"
 #include <algorithm>
@@ -29,7 +29,7 @@ void refuseOtherFiles(MemberKind kind, const std::string& path, std::string_view
 
 LoadedSource sourceOf(MemberKind kind, std::string bytes, const std::string& path, const basic::CodePage& usual) {
     refuseOtherFiles(kind, path, bytes);
-    const auto page = codePageOf(bytes, usual);
+    const auto page = basic::codePageOfFile(bytes, usual);
     SourceFile source(std::move(bytes), page);
     const auto type = typeOf(kind, source.designerClass());
     auto name = source.name();

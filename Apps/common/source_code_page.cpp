@@ -1,0 +1,27 @@
+#include "Apps/common/source_code_page.h"
+#include "Host/model/project.h"
+
+namespace apps {
+
+namespace {
+
+basic::CodePage codePageOf(host::Host& host, const std::string& path) {
+    for (const auto& project : host.VBProjects()->items()) {
+        const auto own = basic::cast<host::Project>(project);
+        if (!own) continue;
+        for (const auto& component : own->components().list())
+            if (component->path() == path) return component->source().codePage();
+    }
+    return basic::CodePage::windows1252();
+}
+
+} // namespace
+
+void compileInHostCodePages(Machine& machine, const std::shared_ptr<host::Host>& host) {
+    machine.codePageOfSource([open = std::weak_ptr(host)](const std::string& path) {
+        const auto host = open.lock();
+        return host ? codePageOf(*host, path) : basic::CodePage::windows1252();
+    });
+}
+
+} // namespace apps
