@@ -5,7 +5,7 @@ namespace fernwick {
 bool CompileSteps::RunPreCompileSteps(const Project& project) {
     Procedure here{errors_, "frmCompile.RunPreCompileSteps"};
     const auto qlProject = projects_.GetQLProject(project);
-    if (!here.test([&] { return qlProject->PreCompileStepCount() >= 1; })) return true;
+    if (here.test([&] { return qlProject->PreCompileStepCount() < 1; })) return true;
     Array<std::string> steps;
     if (!here.value([&] { return qlProject->GetPreCompileSteps(steps); })) return false;
     return runSteps(here, qlProject, steps);
@@ -14,7 +14,7 @@ bool CompileSteps::RunPreCompileSteps(const Project& project) {
 bool CompileSteps::RunPostCompileSteps(const Project& project) {
     Procedure here{errors_, "frmCompile.RunPostCompileSteps"};
     const auto qlProject = projects_.GetQLProject(project);
-    if (!here.test([&] { return qlProject->PostCompileStepCount() >= 1; })) return true;
+    if (here.test([&] { return qlProject->PostCompileStepCount() < 1; })) return true;
     Array<std::string> steps;
     if (!here.value([&] { return qlProject->GetPostCompileSteps(steps); })) return false;
     return runSteps(here, qlProject, steps);

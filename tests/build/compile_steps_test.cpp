@@ -75,6 +75,18 @@ TEST_F(CompileSteps, PostStepsRunOnlyAfterAGoodBuild) {
     EXPECT_THAT(trace.effects, Not(Contains(kPostFailed)));
 }
 
+TEST_F(CompileSteps, ACountThatFailsMeansNone) {
+    steps("Pre", {"a"});
+    steps("Post", {"a"});
+    projects.ClearProjectsList();
+    fernwick::CompileSteps run{errors, projects, Modules::processes};
+    EXPECT_TRUE(run.RunPreCompileSteps(project));
+    EXPECT_TRUE(run.RunPostCompileSteps(project));
+    EXPECT_THAT(ran(), IsEmpty());
+    EXPECT_THAT(errors.seen, ElementsAre("modProjectHandler.GetQLProject [5]", "frmCompile.RunPreCompileSteps [91]",
+                                         "modProjectHandler.GetQLProject [5]", "frmCompile.RunPostCompileSteps [91]"));
+}
+
 TEST_F(CompileSteps, AMissingStepIsAFailure) {
     steps("Pre", {"a"});
     set("Quinloft Compiler Options", "PreCompileStepCount", "2");

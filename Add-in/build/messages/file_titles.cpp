@@ -4,16 +4,27 @@
 
 namespace fernwick {
 
+void FileTitles::beginRun() {
+    startOver({});
+    inRun_ = true;
+}
+
+void FileTitles::endRun() {
+    startOver({});
+    inRun_ = false;
+}
+
 std::string FileTitles::find(Procedure& here, const basic::Ref<vbide::VBProject>& project,
                              const std::string& fileName) {
     const std::string name = here.value([&] { return basic::LCase(files_.GetFileName(fileName)); });
     if (name.empty()) return {};
 
-    if (!(project_ == project)) startOver(here, project);
+    auto components = here.value([&] { return project->VBComponents()->items(); });
+    if (!inRun_ || components != components_) startOver(std::move(components));
     if (const auto known = byFile_.find(name); known != byFile_.end()) {
         const auto component = known->second;
         if (stillHas(component, name)) return here.value([&] { return component->Name(); });
-        startOver(here, project);
+        startOver(components_);
     }
     return walkOn(here, name);
 }
@@ -28,12 +39,10 @@ bool FileTitles::stillHas(const basic::Ref<vbide::VBComponent>& component, const
     return err.Number == 0 && same;
 }
 
-void FileTitles::startOver(Procedure& here, const basic::Ref<vbide::VBProject>& project) {
-    project_ = nullptr;
+void FileTitles::startOver(Components components) {
     byFile_.clear();
     walked_ = 0;
-    components_.clear();
-    if (here([&] { components_ = project->VBComponents()->items(); })) project_ = project;
+    components_ = std::move(components);
 }
 
 std::string FileTitles::walkOn(Procedure& here, const std::string& name) {

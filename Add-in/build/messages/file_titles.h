@@ -10,26 +10,30 @@ namespace fernwick {
 
 class Procedure;
 
-/// A run issues thousands of messages for few files, so the walk over the components is cached. It continues where the
-/// last lookup stopped, and a cached component is used only while it still has that file.
+/// A run issues thousands of messages for few files, so the walk over the components is cached during a run. It continues
+/// where the last lookup stopped, starts again when the project's components have changed, and a cached component is used
+/// only while it still has that file. Outside a run each lookup walks over the components.
 class FileTitles {
 public:
     explicit FileTitles(const FileSystemObject& files) : files_(files) {}
 
-    /// Called at the start of a run, because the components may have changed.
-    void forget() { project_ = nullptr; }
+    void beginRun();
+    /// Releases the components.
+    void endRun();
     /// Returns the name of the first component whose file has this name, regardless of case; "" for none.
     std::string find(Procedure& here, const basic::Ref<vbide::VBProject>& project, const std::string& fileName);
 
 private:
+    using Components = std::vector<basic::Ref<vbide::VBComponent>>;
+
     std::string fileNameOf(const basic::Ref<vbide::VBComponent>& component) const;
     bool stillHas(const basic::Ref<vbide::VBComponent>& component, const std::string& name) const;
-    void startOver(Procedure& here, const basic::Ref<vbide::VBProject>& project);
+    void startOver(Components components);
     std::string walkOn(Procedure& here, const std::string& name);
 
     const FileSystemObject& files_;
-    basic::Ref<vbide::VBProject> project_;
-    std::vector<basic::Ref<vbide::VBComponent>> components_;
+    bool inRun_ = false;
+    Components components_;
     std::size_t walked_ = 0;
     std::map<std::string, basic::Ref<vbide::VBComponent>> byFile_;
 };

@@ -48,6 +48,7 @@ void modCompileErrorManagement::ShowFirstProjectError() {
 void modCompileErrorManagement::ProjectStatusText(std::string& successText, std::string& warningText,
                                                   std::string& failureText) {
     Procedure here{errors_, "modCompileErrorManagement.ProjectStatusText"};
+    titles_.endRun();
     status_ = errorCount_ > 0     ? RunStatus::Failed
               : warningCount_ > 0 ? RunStatus::SucceededWithWarnings
                                   : RunStatus::Succeeded;
@@ -92,7 +93,7 @@ bool modCompileErrorManagement::isToolWindowShowing() {
 }
 
 void modCompileErrorManagement::clearToolWindow() {
-    titles_.forget(); // a run starts here
+    titles_.beginRun();
     if (!messages_) return;
     basic::Suppressed quietly;
     quietly([&] { messages_->clearMessages(); });
