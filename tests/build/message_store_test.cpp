@@ -168,10 +168,10 @@ TEST_F(MessageStore, ADamagedCountIsAnEmptyList) {
     store("Error1", "ERROR||0|stored|0");
     for (const char* count : {"100001", "2147483647", "-1", "-2147483648", "99999999999"}) {
         store("NumErrors", count);
+        ASSERT_EQ(messages.NumProjectCompileErrors(project), 0) << count; // reading such a list takes minutes
         trace.calls = 0;
         messages.ReadProjectErrors(project);
         EXPECT_THAT(rows(), IsEmpty()) << count;
-        EXPECT_EQ(messages.NumProjectCompileErrors(project), 0) << count;
         EXPECT_LT(trace.calls, 10) << count; // no entry is read
         error("new");
         EXPECT_EQ(stored("NumErrors"), "1") << count;

@@ -46,6 +46,7 @@ TEST_F(MessageWindow, IsMadeWhenAProjectIsRead) {
     store("Error1", "ERROR||0|stored|0");
     messages.ReadProjectErrors(project);
     EXPECT_EQ(rows().size(), 1U);
+    ASSERT_FALSE(trace.effects.empty());
     EXPECT_EQ(trace.effects.front(), "window QLVBAddIn.udocCompileMsgs {8531D96D-DE1E-11d2-8E96-00104B78F251}");
     EXPECT_FALSE(showing());
 }

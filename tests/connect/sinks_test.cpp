@@ -161,6 +161,7 @@ TEST_F(Sinks, AFailedAssignmentLeavesTheOthers) {
 TEST_F(Sinks, OfSamplesBelongToTheSamples) {
     const auto popup = basic::make<fernwick::clsSampleMenuItem>(), sample = basic::make<fernwick::clsSampleMenuItem>();
     popup->popupMenu = true;
+    popup->myOfficeCommandBar = item("popup");
     sample->myOfficeCommandBar = item("address book");
     items.gSampleItems = {0, {popup, sample}};
     EXPECT_THAT(wired(), ElementsAre("address book"));
