@@ -106,7 +106,8 @@ void Session::requireStorableResults() {
     if (stores() && files_->GetAttributes(path_) & fernwick::ReadOnlyAttribute)
         throw Refusal(kMachineTrouble, path_ + ": the project file is read-only, so the results of a build cannot be "
                                                "stored in it; use --output DIR or --no-store");
-    if (options_.output.empty()) requireWritableFolder(files_->GetParentFolderName(path_));
+    const bool makesImage = options_.verb != "validate";
+    if (options_.output.empty() && (makesImage || stores())) requireWritableFolder(files_->GetParentFolderName(path_));
     if (!stores()) return;
     for (const auto& component : project_->VBComponents()->items())
         if (component->FileNames(1).find('|') != std::string::npos)

@@ -116,10 +116,11 @@ int setSetting(Session& session, const SettingOperands& operands, const Options&
     if (const auto wrong = wrongWithValues(setting, operands.values); !wrong.empty()) throw Refusal(kWrongUse, wrong);
     if (setting.name == "TargetDevice") requireUsableDevice(session, operands.values.front());
     const auto before = setting.read(*session.settings());
-    if (options.dryRun)
+    if (options.dryRun) {
         console.out(changeOf(setting, before, operands.values) + "\n");
-    else
-        writeSetting(session, setting, operands.values);
+        return kGood;
+    }
+    writeSetting(session, setting, operands.values);
     console.detail(changeOf(setting, before, setting.read(*session.settings())));
     return kGood;
 }

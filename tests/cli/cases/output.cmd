@@ -3,6 +3,7 @@ sample HelloWorld
 chmod -R a-w HelloWorld
 run fernwick build HelloWorld/HelloWorld.vbp
 run fernwick build HelloWorld/HelloWorld.vbp --no-store
+run fernwick validate HelloWorld/HelloWorld.vbp --no-store
 run fernwick build HelloWorld/HelloWorld.vbp --output made
 run ls HelloWorld made
 run grep exitStatus made/HelloWorld.report.json
