@@ -159,7 +159,7 @@ TEST_F(MakePackage, RefusesMoreFilesThanAManifestCanList) {
     for (int i = 0; i < 6000; ++i) project.list(file, std::string(60, 'n') + std::to_string(i) + ".txt");
     EXPECT_EQ(make(), "");
     EXPECT_FALSE(world.send(project));
-    EXPECT_THAT(world.sink.errorNumbers(), ElementsAre(qlpipe::kListTooLong, qlpipe::kListTooLong));
+    ASSERT_THAT(world.sink.errorNumbers(), ElementsAre(qlpipe::kListTooLong, qlpipe::kListTooLong));
     EXPECT_THAT(world.sink.errors[0].second, HasSubstr("at most 1,048,576 bytes"));
     EXPECT_EQ(files(), 0u);
     EXPECT_FALSE(world.isOnDevice(".incoming"));

@@ -53,8 +53,7 @@ std::unique_ptr<DeviceStorage> openLinuxHandheld(const PipeServices& services, c
     const auto settings =
         layered(readProjectSettings(request.project), readUserSettings(services.registry, request.device));
     const auto target = sshTarget(settings, request.device);
-    if (request.isReadOnly)
-        return std::make_unique<SshStorage>(target, SshTimeouts{}, FileDescriptor{}, SshUse::Read);
+    if (request.isReadOnly) return std::make_unique<SshStorage>(target, SshTimeouts{}, FileDescriptor{}, SshUse::Read);
     return std::make_unique<SshStorage>(target, SshTimeouts{}, lockHandheld(locksFolder(services), placeOf(target)));
 }
 
