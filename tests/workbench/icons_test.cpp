@@ -62,11 +62,11 @@ TEST_F(Icons, DeviceControlsComeFirstAndLookDifferent) {
 }
 
 TEST_F(Icons, TheThemesCommandHasATick) {
-    EXPECT_FALSE(menuItem("&View", "&Dark Theme")->isChecked());
-    menuItem("&View", "&Dark Theme")->trigger();
+    EXPECT_FALSE(menuItem("&View", "Dar&k Theme")->isChecked());
+    menuItem("&View", "Dar&k Theme")->trigger();
     settle();
-    EXPECT_TRUE(menuItem("&View", "&Dark Theme")->isChecked());
-    menuItem("&View", "&Dark Theme")->trigger();
+    EXPECT_TRUE(menuItem("&View", "Dar&k Theme")->isChecked());
+    menuItem("&View", "Dar&k Theme")->trigger();
     QSettings().clear();
 }
 

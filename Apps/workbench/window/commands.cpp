@@ -95,7 +95,7 @@ const Command kViewCommands[] = {
      [](auto& on) { actions(on).showLastPosition(); }},
     {kGroup},
     {kToolBarsMenuId, "&Toolbars"},
-    {kThemeId, "&Dark Theme", kNoKey, kAlways, switchTheme},
+    {kThemeId, "Dar&k Theme", kNoKey, kAlways, switchTheme},
 };
 
 const Command kProjectCommands[] = {
