@@ -376,7 +376,7 @@ TEST_F(Desktop, FollowsTheDesktopsThemeUntilTheUserChooses) {
         workbench::Workbench next;
         EXPECT_EQ(workbench::currentTheme(), workbench::Theme::Dark);
     }
-    menuItem("&View", "&Light or Dark")->trigger();
+    menuItem("&View", "Dar&k Theme")->trigger();
     EXPECT_EQ(workbench::currentTheme(), workbench::Theme::Light);
     workbench::apply(workbench::Theme::Dark);
     workbench::Workbench chosen;

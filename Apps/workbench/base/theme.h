@@ -13,6 +13,9 @@ Theme systemTheme();
 void apply(Theme theme);
 Theme currentTheme();
 
+/// The colour of the edges of fields and boxes.
+QColor edgeColour(Theme theme);
+
 /// The colours of the code windows.
 struct CodeColours {
     QColor paper, text, keyword, comment, string, number, directive, margin, marginText, currentLine, error, warning;

@@ -13,6 +13,8 @@ class FormCanvas final : public QWidget {
 public:
     explicit FormCanvas(FormView& view);
 
+    FormView& view() { return view_; }
+
     /// Called after the view has read the form again.
     void formChanged();
     /// Converts a place on the form's inner rectangle to this widget.

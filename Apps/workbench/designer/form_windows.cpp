@@ -1,11 +1,13 @@
 #include "Apps/workbench/designer/form_windows.h"
 #include "Apps/workbench/base/text.h"
+#include "Apps/workbench/designer/form_accessibility.h"
 #include "Basic/runtime_error.h"
 
 namespace workbench {
 
 FormWindows::FormWindows(host::Host& host, CodeWindows& tabs, DesignHistory& history, Callbacks callbacks)
     : QObject(&tabs), host_(host), tabs_(tabs), history_(history), callbacks_(std::move(callbacks)) {
+    exposeDesigners();
     refresh_.setSingleShot(true);
     refresh_.setInterval(0); // saving closes a designer and opens it again
     connect(&refresh_, &QTimer::timeout, this, [this] { refresh(); });

@@ -1,7 +1,7 @@
 #include "Apps/workbench/designer/toolbox.h"
+#include "Apps/workbench/base/drawn_icons.h"
 #include "Apps/workbench/base/text.h"
-#include "Apps/workbench/drawing/control_drawing.h"
-#include <QPainter>
+#include "Apps/workbench/drawing/control_kinds.h"
 #include <array>
 
 namespace workbench {
@@ -9,7 +9,7 @@ namespace workbench {
 namespace {
 
 constexpr auto kPointer = "Pointer";
-constexpr int kToolSize = 20, kOval = 2;
+constexpr int kToolSize = 20;
 
 /// In the order of the language's own toolbox.
 constexpr std::array kOwnTools{
@@ -18,52 +18,6 @@ constexpr std::array kOwnTools{
     "VB.DriveListBox", "VB.DirListBox", "VB.FileListBox", "VB.Shape",      "VB.Line",          "VB.Image"};
 
 QString titleOfTool(const std::string& progId) { return qt(progId.substr(progId.find('.') + 1)); }
-
-/// Draws a small control of the kind, as on a form.
-QIcon iconOfTool(const std::string& progId) {
-    DrawnControl control;
-    control.className = titleOfTool(progId);
-    auto& look = control.look;
-    look.kind = kindOfControl(progId);
-    look.back = look.kind == ControlKind::Button       ? QColor("#d4d0c8")
-                : look.kind == ControlKind::PictureBox ? QColor("#8fc1e8")
-                                                       : QColor(Qt::white);
-    look.border = look.kind == ControlKind::Button  ? ControlBorder::Raised
-                  : look.kind == ControlKind::Image ? ControlBorder::None
-                                                    : ControlBorder::Single;
-    look.font.setPixelSize(11);
-    look.text = look.kind == ControlKind::Label ? "A" : look.kind == ControlKind::TextBox ? "ab" : "";
-    look.mnemonic = false;
-    look.alignment = Qt::AlignHCenter;
-    look.value = 1;
-    look.shape = kOval;
-    look.brush = Qt::SolidPattern;
-    look.rows = look.columns = 2;
-    look.fixedRows = 1;
-    look.fill = QColor("#9a9a9a");
-    if (look.kind == ControlKind::Line) look.fore = QColor(Qt::gray); // visible on light and dark
-    look.items = QStringList{"-", "-"};
-    const bool down = look.kind == ControlKind::VScrollBar, across = look.kind == ControlKind::HScrollBar;
-    control.place = QRectF(down ? 5 : 1, across ? 5 : 2, down ? 10 : 18, across ? 10 : 16);
-    control.clip = QRectF(0, 0, kToolSize, kToolSize);
-    QPixmap picture(kToolSize, kToolSize);
-    picture.fill(Qt::transparent);
-    QPainter painter(&picture);
-    drawControl(painter, control);
-    return picture;
-}
-
-/// An arrow that is visible on light and dark.
-QIcon pointerIcon() {
-    QPixmap picture(kToolSize, kToolSize);
-    picture.fill(Qt::transparent);
-    QPainter painter(&picture);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(Qt::gray);
-    painter.drawPolygon(QPolygonF{{6, 3}, {6, 15}, {9, 12.5}, {11, 17}, {13, 16}, {11, 11.5}, {15, 11.5}});
-    return picture;
-}
 
 } // namespace
 
@@ -85,14 +39,17 @@ void Toolbox::offer(const std::vector<std::string>& more) {
     if (more == offered_) return;
     offered_ = more;
     clear();
-    addItem(new QListWidgetItem(pointerIcon(), kPointer));
+    addItem(new QListWidgetItem(drawnIcon(kPointer), kPointer));
     const auto list = [this](const std::string& progId) {
-        auto* const entry = new QListWidgetItem(iconOfTool(progId), titleOfTool(progId), this);
+        auto* const entry = new QListWidgetItem(iconOfControl(progId), titleOfTool(progId), this);
         entry->setData(Qt::UserRole, qt(progId));
         entry->setToolTip(qt(progId));
     };
+    for (const auto& other : more)
+        if (isDeviceControl(other)) list(other);
     for (const auto* own : kOwnTools) list(own);
-    for (const auto& other : more) list(other);
+    for (const auto& other : more)
+        if (!isDeviceControl(other)) list(other);
     putBack();
 }
 

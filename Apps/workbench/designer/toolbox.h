@@ -13,7 +13,7 @@ class Toolbox final : public QListWidget {
 public:
     explicit Toolbox(std::function<void(const std::string& progId)> add);
 
-    /// Lists the language's own classes, followed by these.
+    /// Lists these and the language's own classes; those of devices first.
     void offer(const std::vector<std::string>& more);
     /// The selected class as named in a form's text; "" for the pointer.
     std::string tool() const;

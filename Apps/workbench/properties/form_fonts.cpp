@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <map>
+#include <utility>
 
 namespace workbench {
 
@@ -47,6 +49,8 @@ constexpr std::array kFamilies{
     FormFamily{"Terminal", kLikeCourier, kCourierWidth},
 };
 
+bool isPalm(const QString& family) { return family.compare(kPalmFamily, Qt::CaseInsensitive) == 0; }
+
 bool isInstalled(const QString& family) { return QFontDatabase::hasFamily(family); }
 
 const FormFamily* familyNamed(const QString& name) {
@@ -83,19 +87,27 @@ int pixelsOf(double points, bool ofPalms) {
     return std::max(1, int(std::lround(size * (ofPalms ? kPixelsPerInchOfPalms : kPixelsPerInch) / kPointsPerInch)));
 }
 
-} // namespace
-
-QFont formFont(const QString& family, double points) {
-    const auto name = family.isEmpty() ? QString(kUsualFamily) : family;
-    const bool ofPalms = name.compare(kPalmFamily, Qt::CaseInsensitive) == 0;
+QFont substituted(const QString& name, int pixels) {
     QFont font(name);
-    font.setPixelSize(pixelsOf(points, ofPalms));
+    font.setPixelSize(pixels);
     if (isInstalled(name)) return font;
     const auto* known = familyNamed(name);
-    const auto substitute = installedOf(ofPalms ? kLikePalm : known ? known->similar : kLikeArial);
+    const auto substitute = installedOf(isPalm(name) ? kLikePalm : known ? known->similar : kLikeArial);
     if (!substitute.isEmpty()) font.setFamily(substitute);
     if (known) fit(font, known->letterWidth);
     return font;
+}
+
+} // namespace
+
+/// Cached, since measuring a font takes longer than drawing a control with it.
+QFont formFont(const QString& family, double points) {
+    static std::map<std::pair<QString, int>, QFont> cache;
+    const auto name = family.isEmpty() ? QString(kUsualFamily) : family;
+    const int pixels = pixelsOf(points, isPalm(name));
+    const auto [entry, isNew] = cache.try_emplace({name, pixels});
+    if (isNew) entry->second = substituted(name, pixels);
+    return entry->second;
 }
 
 } // namespace workbench

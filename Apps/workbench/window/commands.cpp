@@ -4,10 +4,8 @@
 #include "Apps/workbench/project/component_commands.h"
 #include "Apps/workbench/project/project_properties.h"
 #include "Apps/workbench/project/project_saving.h"
+#include "Apps/workbench/window/command_icons.h"
 #include "Apps/workbench/window/main_window.h"
-#include "Apps/workbench/window/start_icon.h"
-#include <QApplication>
-#include <QStyle>
 
 namespace workbench {
 
@@ -15,11 +13,6 @@ namespace {
 
 constexpr auto kAlways = Enabled::Always, kInCode = Enabled::InCode, kInTabs = Enabled::InTabs;
 constexpr QKeyCombination kNoKey{};
-
-template <QStyle::StandardPixmap Picture>
-QIcon styleIcon() {
-    return QApplication::style()->standardIcon(Picture);
-}
 
 /// The editor in front, which commands that are enabled in code have.
 QsciScintilla& textOf(const CommandTargets& on) { return on.window.code().current()->scintilla(); }
@@ -49,11 +42,9 @@ void switchTheme(const CommandTargets& on) {
 }
 
 const Command kFileCommands[] = {
-    {host::kNewProjectId, "&New Project...", Qt::CTRL | Qt::Key_N, kAlways, [](auto& on) { on.program.newProject(); },
-     styleIcon<QStyle::SP_FileIcon>},
-    {host::kOpenProjectId, nullptr, Qt::CTRL | Qt::Key_O, kAlways, nullptr, styleIcon<QStyle::SP_DialogOpenButton>},
-    {host::kSaveProjectId, nullptr, kNoKey, kAlways, [](auto& on) { on.program.saveProject(); },
-     styleIcon<QStyle::SP_DialogSaveButton>},
+    {host::kNewProjectId, "&New Project...", Qt::CTRL | Qt::Key_N, kAlways, [](auto& on) { on.program.newProject(); }},
+    {host::kOpenProjectId, nullptr, Qt::CTRL | Qt::Key_O, kAlways},
+    {host::kSaveProjectId, nullptr, kNoKey, kAlways, [](auto& on) { on.program.saveProject(); }},
     {host::kRemoveProjectId, nullptr, kNoKey, kAlways, [](auto& on) { on.program.removeProject(); }},
     {kGroup},
     {kSaveFileId, "&Save File", Qt::CTRL | Qt::Key_S, kAlways,
@@ -104,7 +95,7 @@ const Command kViewCommands[] = {
      [](auto& on) { actions(on).showLastPosition(); }},
     {kGroup},
     {kToolBarsMenuId, "&Toolbars"},
-    {kThemeId, "&Light or Dark", kNoKey, kAlways, switchTheme},
+    {kThemeId, "Dar&k Theme", kNoKey, kAlways, switchTheme},
 };
 
 const Command kProjectCommands[] = {
@@ -121,7 +112,7 @@ const Command kProjectCommands[] = {
 };
 
 const Command kRunCommands[] = {
-    {kStartId, "&Start on Device", Qt::Key_F5, kAlways, [](auto& on) { on.program.start(); }, startIcon},
+    {kStartId, "&Start on Device", Qt::Key_F5, kAlways, [](auto& on) { on.program.start(); }},
 };
 
 const Command kWindowCommands[] = {
@@ -169,9 +160,9 @@ DockCommand dockCommandOf(const QString& dock) {
 CommandLook commandLookOf(int id) {
     for (const auto& menu : kCommandMenus)
         for (const auto& command : menu.commands)
-            if (command.id == id) return {sequenceOf(command.key), command.icon ? command.icon() : QIcon()};
+            if (command.id == id) return {sequenceOf(command.key), iconOfCommand(id)};
     for (const auto& command : kDockCommands)
-        if (command.id == id) return {sequenceOf(command.key), {}};
+        if (command.id == id) return {sequenceOf(command.key), iconOfCommand(id)};
     return {};
 }
 

@@ -1,5 +1,5 @@
 #pragma once
-// The window's commands. commands.cpp has one row for each: its text, key, icon, action, and where it is enabled.
+// The window's commands. commands.cpp has one row for each: its text, key, action, and where it is enabled.
 #include "Apps/workbench/bars/bars_view.h"
 #include "Host/model/host.h"
 #include <functional>
@@ -100,7 +100,6 @@ struct Command {
     Enabled enabled = Enabled::Always;
     /// Null for a submenu, or for a command of the host that keeps its action.
     void (*act)(const CommandTargets&) = nullptr;
-    QIcon (*icon)() = nullptr;
 };
 
 /// The commands of one menu, in order.

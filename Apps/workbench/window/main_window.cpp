@@ -1,4 +1,5 @@
 #include "Apps/workbench/window/main_window.h"
+#include "Apps/workbench/bars/bar_controls.h"
 #include "Apps/workbench/base/text.h"
 #include "Apps/workbench/base/title.h"
 #include "Apps/workbench/window/commands.h"
@@ -92,7 +93,8 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 
 void MainWindow::restoreLayout() {
     const QSettings settings;
-    if (settings.contains(kThemeKey)) showTheme(settings.value(kThemeKey) == kDark ? Theme::Dark : Theme::Light);
+    const auto stored = settings.value(kThemeKey) == kDark ? Theme::Dark : Theme::Light;
+    showTheme(settings.contains(kThemeKey) ? stored : currentTheme());
     restoreGeometry(settings.value(kGeometryKey).toByteArray());
     restoreState(settings.value(kStateKey).toByteArray(), kLayoutVersion);
     docks_.showAsInHost(); // the project stores whether its messages are shown
@@ -116,6 +118,7 @@ void MainWindow::setTheme(Theme theme) {
 void MainWindow::showTheme(Theme theme) {
     apply(theme);
     code_->colour(theme);
+    if (const auto command = controlOf(host_, kThemeId)) command->checked(theme == Theme::Dark);
     bars_.draw();
 }
 

@@ -1,0 +1,74 @@
+#include "Apps/workbench/window/command_icons.h"
+#include "Apps/workbench/base/drawn_icons.h"
+#include "Apps/workbench/window/commands.h"
+#include <array>
+
+namespace workbench {
+
+namespace {
+
+struct CommandIcon {
+    int id;
+    const char* icon;
+};
+constexpr std::array kCommandIcons{
+    CommandIcon{host::kNewProjectId, "New"},
+    CommandIcon{host::kOpenProjectId, "Open"},
+    CommandIcon{host::kSaveProjectId, "Save"},
+    CommandIcon{host::kRemoveProjectId, "Remove"},
+    CommandIcon{kSaveFileId, "Save"},
+    CommandIcon{kSaveFileAsId, "SaveAs"},
+    CommandIcon{kSaveProjectAsId, "SaveAs"},
+    CommandIcon{kExitId, "Exit"},
+    CommandIcon{kUndoId, "Undo"},
+    CommandIcon{kRedoId, "Redo"},
+    CommandIcon{kCutId, "Cut"},
+    CommandIcon{kCopyId, "Copy"},
+    CommandIcon{kPasteId, "Paste"},
+    CommandIcon{kCutLineId, "CutLine"},
+    CommandIcon{kSelectAllId, "SelectAll"},
+    CommandIcon{kFindId, "Find"},
+    CommandIcon{kFindNextId, "FindNext"},
+    CommandIcon{kFindPreviousId, "FindPrevious"},
+    CommandIcon{kReplaceId, "Replace"},
+    CommandIcon{kIndentId, "Indent"},
+    CommandIcon{kOutdentId, "Outdent"},
+    CommandIcon{kCommentId, "Comment"},
+    CommandIcon{kUncommentId, "Uncomment"},
+    CommandIcon{kNextProcedureId, "Down"},
+    CommandIcon{kPreviousProcedureId, "Up"},
+    CommandIcon{kGoToLineId, "GoTo"},
+    CommandIcon{kViewCodeId, "Code"},
+    CommandIcon{kViewObjectId, "Form"},
+    CommandIcon{kDefinitionId, "Definition"},
+    CommandIcon{kLastPositionId, "Back"},
+    CommandIcon{kThemeId, "Theme"},
+    CommandIcon{kExplorerId, "Explorer"},
+    CommandIcon{kPropertiesId, "Properties"},
+    CommandIcon{kToolboxId, "Toolbox"},
+    CommandIcon{kMessagesId, "Messages"},
+    CommandIcon{kAddFormId, "Form"},
+    CommandIcon{kAddModuleId, "Module"},
+    CommandIcon{kAddClassId, "Class"},
+    CommandIcon{kAddFileId, "AddFile"},
+    CommandIcon{kRemoveComponentId, "Remove"},
+    CommandIcon{kStartUpProjectId, "StartUp"},
+    CommandIcon{kProjectPropertiesId, "Properties"},
+    CommandIcon{kStartId, "Start"},
+    CommandIcon{kNextWindowId, "NextWindow"},
+    CommandIcon{kPreviousWindowId, "PreviousWindow"},
+    CommandIcon{kCloseWindowId, "Close"},
+    CommandIcon{kCloseAllWindowsId, "CloseAll"},
+    CommandIcon{kHelpId, "Help"},
+    CommandIcon{kAboutId, "About"},
+};
+
+} // namespace
+
+QIcon iconOfCommand(int id) {
+    for (const auto& entry : kCommandIcons)
+        if (entry.id == id) return drawnIcon(entry.icon);
+    return {};
+}
+
+} // namespace workbench
