@@ -23,7 +23,7 @@ void Project::load() {
 void Project::loadText(const std::string& text) {
     file_ = std::make_unique<ProjectFile>(text, usualCodePage());
     loadMembers();
-    dirty_ = true;
+    dirty_.set(true);
 }
 
 void Project::loadMembers() {
