@@ -25,6 +25,8 @@ struct FrontEnd {
     host::Processes::Interrupted interrupted;
     /// Called for a document that no installed program can show.
     host::Shell::Report report;
+    /// See host::Shell::Started.
+    host::Shell::Started opening = [] {};
 };
 
 /// Stores, fonts and targets are read on first use.
@@ -35,6 +37,7 @@ public:
 
     fernwick::Platform& platform() { return platform_; }
     host::RegistryStore& registry() { return registry_; }
+    host::Shell& shell() { return shell_; }
     host::Classes& classes() { return classes_; }
     const fernwick::Clipboard& clipboard() const { return platform_.clipboard; }
     const std::string& installation() const { return installation_; }
