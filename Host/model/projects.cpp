@@ -51,6 +51,7 @@ vbide::Ref<vbide::VBProject> Projects::openGroup(const std::string& path, const 
     const auto folder = folderOf(path);
     PathLookup lookup;
     std::shared_ptr<Project> startUp;
+    openingGroup_ = path;
     for (const auto& entry : group.entries()) {
         const auto failed = basic::attempt([&] {
             const auto project = open(lookup.find(folder, entry.path));
@@ -58,6 +59,7 @@ vbide::Ref<vbide::VBProject> Projects::openGroup(const std::string& path, const 
         });
         if (failed.Number != 0) host->problems().push_back({path, entry.line, failed.Description});
     }
+    openingGroup_.clear();
     if (!startUp) throw hostError(kInvalidFileFormat, fmt::format("{}: none of its projects can be opened", path));
     host->activate(startUp);
     return startUp;
@@ -99,6 +101,17 @@ vbide::Ref<vbide::VBProject> Projects::addNew() {
     add(project);
     host->activate(project);
     if (holds(project)) project->VBComponents()->Add(vbide::vbext_ct_VBForm);
+    return project;
+}
+
+vbide::Ref<vbide::VBProject> Projects::addRestored(const std::string& text, const std::function<void(Project&)>& fill) {
+    const auto host = this->host();
+    const auto project = std::make_shared<Project>(host, std::string());
+    project->loadText(text);
+    if (isNameTaken(project->Name())) project->file().setSetting("Name", freeName());
+    fill(*project);
+    add(project);
+    host->activate(project);
     return project;
 }
 
