@@ -38,6 +38,8 @@ ProjectProperties::ProjectProperties(vbide::Ref<vbide::VBProject> project, QWidg
     rows->addRow("Project &name:", name_);
     rows->addRow("&Start with:", startUp_);
     rows->addRow(buttons);
+    constexpr int kTitleButtons = 120;
+    setMinimumWidth(fontMetrics().horizontalAdvance(windowTitle()) + kTitleButtons);
 }
 
 void ProjectProperties::listStartUps() {
