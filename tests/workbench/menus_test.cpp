@@ -333,6 +333,7 @@ TEST_F(DesktopMenus, StartingCompilesAndSendsToTheDevice) {
     EXPECT_THAT(window().findChild<QLabel*>("noticeText")->text().toStdString(), HasSubstr("It needs Tamarik"));
     const auto buttons = window().notice().findChildren<QPushButton*>();
     ASSERT_EQ(buttons.size(), 2);
+    EXPECT_TRUE(window().grab().save(FERNWICK_BINARY_DIR "/workbench-notice.png"));
     EXPECT_EQ(buttons[0]->text(), "&Install Tamarik");
     EXPECT_EQ(buttons[1]->text(), "Show &Folder");
     buttons[0]->click();
