@@ -55,8 +55,8 @@ public:
     Components& components() { return *components_; }
     const Components& components() const { return *components_; }
     ProjectReferences& references() { return *references_; }
-    /// Marks the project as dirty after an edit of its text, unless the text is again that of the file.
-    void changed() { dirty_.edited(); }
+    /// Marks the project as dirty: a component without a file changes nothing in its text.
+    void changed() { dirty_.set(true); }
     /// The stamp of the file when it was last read or saved.
     const std::optional<FileStamp>& stamp() const { return stamp_; }
     /// "" for a project without a file.
