@@ -330,7 +330,8 @@ TEST_F(DesktopMenus, StartingCompilesAndSendsToTheDevice) {
         files += file.path().filename() == "HelloWorld.0000.qlx";
     EXPECT_EQ(files, 1);
     EXPECT_TRUE(window().notice().isVisible());
-    EXPECT_THAT(window().findChild<QLabel*>("noticeText")->text().toStdString(), HasSubstr("It needs Tamarik"));
+    EXPECT_THAT(window().findChild<QLabel*>("noticeText")->text().toStdString(),
+                HasSubstr("sent to Palm OS. It needs Tamarik"));
     const auto buttons = window().notice().findChildren<QPushButton*>();
     ASSERT_EQ(buttons.size(), 2);
     EXPECT_TRUE(window().grab().save(FERNWICK_BINARY_DIR "/workbench-notice.png"));

@@ -42,6 +42,9 @@ NoticeBar::Offer TransferNotice::installRuntime(const std::string& device) {
     return {kInstallTamarik, [this, device] { run_([&] { addIn_.sendRuntime.SendRuntimeToDevice(device); }); }};
 }
 
-QString TransferNotice::nameOf(const std::string& device) { return qt(addIn_.devices.GetDeviceName(device)); }
+QString TransferNotice::nameOf(const std::string& device) {
+    auto& devices = addIn_.devices;
+    return qt(devices.StripAcceleratorInfo(devices.GetDeviceName(device)));
+}
 
 } // namespace workbench
