@@ -14,7 +14,7 @@ constexpr const char* kPrograms[] = {
 bool modViewConvertManagement::OpenViewerConverter(int tool) {
     Procedure here{errors_, "modViewConvertManagement.OpenViewerConverter"};
     if (tool < 0 || tool >= int(std::size(kPrograms))) return false;
-    return here([&] { shell_.Start(install_.requireInstalled(kPrograms[tool])); });
+    return here.value([&] { return shell_.Start(install_.requireInstalled(kPrograms[tool])); }) != 0;
 }
 
 } // namespace fernwick

@@ -36,7 +36,7 @@ Machine::Machine(FrontEnd front)
       registry_(host::usualRegistryPlaces(environment_, installation_)),
       classes_(registry_),
       processes_(std::move(front.processes)),
-      shell_(*files_, std::move(front.report)),
+      shell_(*files_, std::move(front.report), std::move(front.opening)),
       resources_(*files_, installation_),
       platform_{front.user,
                 front.loop,

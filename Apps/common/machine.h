@@ -26,6 +26,8 @@ struct FrontEnd {
     /// Called for a document that no installed program can show.
     host::Shell::Report report;
     std::unique_ptr<host::FileSystem> files = std::make_unique<host::FileSystem>();
+    /// See host::Shell::Started.
+    host::Shell::Started opening = [] {};
 };
 
 /// Stores, fonts and targets are read on first use.
@@ -36,6 +38,7 @@ public:
 
     fernwick::Platform& platform() { return platform_; }
     host::RegistryStore& registry() { return registry_; }
+    host::Shell& shell() { return shell_; }
     host::Classes& classes() { return classes_; }
     const fernwick::Clipboard& clipboard() const { return platform_.clipboard; }
     const std::string& installation() const { return installation_; }

@@ -1,6 +1,5 @@
 #include "Apps/common/version.h"
 #include "Apps/workbench/base/letter_icons.h"
-#include "Apps/workbench/base/title.h"
 #include "Apps/workbench/window/workbench.h"
 #include <QApplication>
 #include <QCommandLineParser>
@@ -12,7 +11,6 @@ int main(int argc, char** argv) {
     QApplication app(argc, argv);
     QApplication::setOrganizationName("fernwick");
     QApplication::setApplicationName("workbench");
-    QApplication::setApplicationDisplayName(workbench::kTitle);
     QApplication::setApplicationVersion(apps::kVersion);
     QApplication::setDesktopFileName("fernwick-workbench");
     QApplication::setWindowIcon(QIcon::fromTheme("fernwick-workbench", workbench::projectIcon()));

@@ -65,6 +65,9 @@ void DevicePipe::send(const std::string& deviceName, const basic::Ref<vbide::VBP
     install(*device, bundle, progress);
     for (const auto& file : bundle.files)
         services_.record->installed.push_back(device->location() + "/" + placeOnDevice(bundle, file));
+    services_.record->device = deviceName;
+    services_.record->location = device->location();
+    services_.record->lacksRuntime = lacksRuntime;
     if (lacksRuntime) warn(kRuntimeNotInstalled, {{"device", device->location()}, {"key", deviceName}});
 }
 

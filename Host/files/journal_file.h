@@ -1,5 +1,5 @@
 #pragma once
-// A journal: a file with the unsaved text of a source file, for recovery after a crash.
+// A journal: a file with the unsaved text of a source or project file, for recovery after a crash.
 #include "Host/files/text_file.h"
 #include <cstdint>
 #include <optional>
@@ -9,9 +9,9 @@
 namespace host {
 
 struct JournalEntry {
-    std::string project;   ///< the native path of the project's file; "" if it was never saved
-    std::string component; ///< its name
-    int type = 0;          ///< a vbext_ComponentType
+    std::string project;   ///< the native path of the project's file; its name, or "", if it was never saved
+    std::string component; ///< its name; "" for the text of the project's own file
+    int type = 0;          ///< a vbext_ComponentType; 0 for the project's own file
     std::string file;      ///< the native path of the component's file; "" if it was never saved
     /// The file that the text was based on, as it was read. A new component has none.
     std::optional<FileStamp> base;

@@ -39,7 +39,7 @@ void Component::Name(const std::string& name) {
     if (!isLegalName(name)) throwIllegalName(name);
     project->components().requireFree(name, *this);
     source_.name(name);
-    dirty_ = true;
+    dirty_.edited();
     adoptName(name);
 }
 
@@ -55,12 +55,12 @@ vbide::vbext_ComponentType Component::Type() const {
 
 bool Component::IsDirty() const {
     owner();
-    return dirty_;
+    return dirty_.isSet(origin_.stamp, [this] { return source_.bytes(); });
 }
 
 void Component::IsDirty(bool dirty) {
     owner();
-    dirty_ = dirty;
+    dirty_.set(dirty);
 }
 
 bool Component::Saved() const { return !IsDirty(); }

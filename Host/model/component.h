@@ -3,6 +3,7 @@
 #include "Add-in/platform/host_project.h"
 #include "Host/files/project_file.h"
 #include "Host/files/text_file.h"
+#include "Host/model/code/dirty_mark.h"
 #include "Host/model/code/source_file.h"
 #include "Host/model/pane_events.h"
 #include <memory>
@@ -73,8 +74,8 @@ public:
     void restore(std::string bytes, const std::optional<FileStamp>& base);
     /// Reads the same bytes in the present code page of the project. Errors as above.
     void decodeAgain();
-    /// Marks the component as dirty after an edit of its text.
-    void changed() { dirty_ = true; }
+    /// Marks the component as dirty after an edit of its text, unless the text is again that of the file.
+    void changed() { dirty_.edited(); }
     /// Detaches the component from its project. All members raise errors from now on, those of its designer too.
     void remove();
     /// Returns true for the first call, false while a removal is in progress.
@@ -97,7 +98,8 @@ private:
     SourceFile source_;
     ComponentOrigin origin_;
     std::string template_;
-    bool dirty_ = false, removing_ = false;
+    DirtyMark dirty_;
+    bool removing_ = false;
     std::shared_ptr<ModuleCode> code_;
     std::unique_ptr<ComponentDesigner> designer_;
 };

@@ -46,7 +46,7 @@ void Component::SaveAs(const std::string& path) {
         project->host()->writeFile(*project, target, source_.bytes(), same ? origin_.stamp : std::nullopt);
     if (!stamp) return;
     origin_.stamp = stamp;
-    dirty_ = false;
+    dirty_.set(false);
     if (same) return;
     origin_.path = target;
     project->writeMember(*this);
@@ -64,12 +64,12 @@ void Component::copyCompanion(Project& project, const std::string& target) {
 void Component::becomeNew() {
     template_ = origin_.path;
     origin_ = {};
-    dirty_ = true;
+    dirty_.set(true);
 }
 
 void Component::reread() {
     replaceSource(readSource(kindOf(type_).member, origin_.path, owner()->codePage().page));
-    dirty_ = false;
+    dirty_.set(false);
     raiseReplaced();
 }
 
@@ -77,7 +77,7 @@ void Component::restore(std::string bytes, const std::optional<FileStamp>& base)
     auto loaded = sourceOf(kindOf(type_).member, std::move(bytes), origin_.path, owner()->codePage().page);
     loaded.stamp = base;
     replaceSource(std::move(loaded));
-    dirty_ = true;
+    dirty_.set(true);
     raiseReplaced();
 }
 

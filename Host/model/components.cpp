@@ -127,7 +127,7 @@ std::shared_ptr<Component> Components::addSource(vbide::vbext_ComponentType type
     const auto component = std::make_shared<Component>(project, std::move(loaded), ComponentOrigin{});
     insert(component);
     project->changed();
-    project->host()->raise(project->componentsEvents->ItemAdded, component);
+    component->raiseToPanes(&PaneEvents::codeChanged);
     return component;
 }
 

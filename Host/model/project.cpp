@@ -44,7 +44,7 @@ void Project::Name(const std::string& name) {
         if (other != vbide::Ref<vbide::VBProject>(shared_from_this()) && basic::equalNoCase(other->Name(), name))
             throwNameTaken(name);
     file_->setSetting("Name", name);
-    dirty_ = true;
+    dirty_.edited();
     host->raise(host->projectsEvents().ItemRenamed, shared_from_this(), oldName);
 }
 
@@ -55,12 +55,12 @@ std::string Project::FileName() const {
 
 bool Project::IsDirty() const {
     host();
-    return dirty_;
+    return dirty_.isSet(stamp_, [this] { return file_->bytes(); });
 }
 
 void Project::IsDirty(bool dirty) {
     host();
-    dirty_ = dirty;
+    dirty_.set(dirty);
 }
 
 bool Project::Saved() const { return !IsDirty(); }
@@ -72,7 +72,7 @@ std::string Project::ReadProperty(const std::string& section, const std::string&
 
 void Project::WriteProperty(const std::string& section, const std::string& key, const std::string& value) {
     host();
-    if (file_->writeProperty(section, key, value)) dirty_ = true;
+    if (file_->writeProperty(section, key, value)) dirty_.edited();
 }
 
 void Project::AddToolboxProgID(const std::string& progId) {
@@ -100,7 +100,7 @@ void Project::followRename(const std::string& oldName, const std::string& newNam
 void Project::becomeNew() {
     path_.clear();
     stamp_.reset();
-    dirty_ = true;
+    dirty_.set(true);
     for (const auto& component : components_->list()) {
         dropMember(*component);
         component->becomeNew();

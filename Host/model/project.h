@@ -5,6 +5,7 @@
 #include "Basic/code_page_detection.h"
 #include "Host/files/path_lookup.h"
 #include "Host/files/project_file.h"
+#include "Host/model/code/dirty_mark.h"
 #include "Host/model/components.h"
 #include "Host/model/errors/load_problem.h"
 #include <memory>
@@ -54,9 +55,10 @@ public:
     ProjectFile& file() { return *file_; }
     const ProjectFile& file() const { return *file_; }
     Components& components() { return *components_; }
+    const Components& components() const { return *components_; }
     ProjectReferences& references() { return *references_; }
-    /// Marks the project as dirty after an edit of its text.
-    void changed() { dirty_ = true; }
+    /// Marks the project as dirty: a component without a file changes nothing in its text.
+    void changed() { dirty_.set(true); }
     /// The stamp of the file when it was last read or saved.
     const std::optional<FileStamp>& stamp() const { return stamp_; }
     /// "" for a project without a file.
@@ -103,7 +105,8 @@ private:
     std::shared_ptr<Components> components_;
     std::shared_ptr<ProjectReferences> references_;
     std::vector<LoadProblem> problems_;
-    bool dirty_ = false, removing_ = false;
+    DirtyMark dirty_;
+    bool removing_ = false;
 };
 
 } // namespace host

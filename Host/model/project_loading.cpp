@@ -40,7 +40,7 @@ void Project::loadText(const std::string& text) {
     codePage_ = codePageOfProject(text, folder(), host()->options().codePage);
     file_ = std::make_unique<ProjectFile>(text, codePage_.page);
     loadMembers();
-    dirty_ = true;
+    dirty_.set(true);
 }
 
 void Project::loadMembers() {

@@ -64,7 +64,7 @@ bool Project::save(const std::optional<FileStamp>& asRead) {
     const auto stamp = host()->writeFile(*this, path_, file_->bytes(), asRead);
     if (!stamp) return false;
     stamp_ = stamp;
-    dirty_ = false;
+    dirty_.set(false);
     return true;
 }
 
@@ -98,7 +98,7 @@ void Project::writeMember(Component& component) {
         file_->setMember(*component.member(), name, value);
     else
         component.member(file_->addMember(kind, name, value));
-    dirty_ = true;
+    dirty_.edited();
 }
 
 void Project::dropMember(Component& component) {

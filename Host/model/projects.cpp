@@ -52,6 +52,7 @@ vbide::Ref<vbide::VBProject> Projects::openGroup(const std::string& path, const 
     const GroupFile group(bytes, basic::codePageOfFile(bytes, page));
     PathLookup lookup(page);
     std::shared_ptr<Project> startUp;
+    openingGroup_ = path;
     for (const auto& entry : group.entries()) {
         const auto failed = basic::attempt([&] {
             const auto project = open(lookup.find(folder, entry.path));
@@ -59,6 +60,7 @@ vbide::Ref<vbide::VBProject> Projects::openGroup(const std::string& path, const 
         });
         if (failed.Number != 0) host->problems().push_back({path, entry.line, failed.Description});
     }
+    openingGroup_.clear();
     if (!startUp) throw hostError(kInvalidFileFormat, fmt::format("{}: none of its projects can be opened", path));
     host->activate(startUp);
     return startUp;
@@ -100,6 +102,17 @@ vbide::Ref<vbide::VBProject> Projects::addNew() {
     add(project);
     host->activate(project);
     if (holds(project)) project->VBComponents()->Add(vbide::vbext_ct_VBForm);
+    return project;
+}
+
+vbide::Ref<vbide::VBProject> Projects::addRestored(const std::string& text, const std::function<void(Project&)>& fill) {
+    const auto host = this->host();
+    const auto project = std::make_shared<Project>(host, std::string());
+    project->loadText(text);
+    if (isNameTaken(project->Name())) project->file().setSetting("Name", freeName());
+    fill(*project);
+    add(project);
+    host->activate(project);
     return project;
 }
 

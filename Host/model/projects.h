@@ -1,6 +1,7 @@
 #pragma once
 // The open projects.
 #include "Add-in/platform/host.h"
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -24,6 +25,11 @@ public:
     // ---- for the host ----
     /// Adds a new project with an empty form, like the menu command.
     vbide::Ref<vbide::VBProject> addNew();
+    /// Adds a project that was never saved, from the text of its file. `fill` adds its components before any handler
+    /// sees the project.
+    vbide::Ref<vbide::VBProject> addRestored(const std::string& text, const std::function<void(Project&)>& fill);
+    /// The group whose projects are being opened; "" for none.
+    const std::string& openingGroup() const { return openingGroup_; }
     void removeAll();
     bool holds(const vbide::Ref<vbide::VBProject>& project) const;
     /// Detaches the collection from the destroyed host.
@@ -39,6 +45,7 @@ private:
 
     Host* host_;
     std::vector<std::shared_ptr<Project>> list_;
+    std::string openingGroup_;
 };
 
 } // namespace host

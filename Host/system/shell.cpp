@@ -49,9 +49,21 @@ bool hasDesktop() {
 
 } // namespace
 
-void Shell::Start(const std::string& commandLine) {
-    if (basic::startsWithNoCase(commandLine, kHelpViewer)) return openHelp(commandLine.substr(kHelpViewer.size()));
-    if (!start(commandLine)) throw hostError(basic::kFileNotFound, commandLine + ": there is no such program");
+Shell::~Shell() { (void)reapEnded(); }
+
+int Shell::Start(const std::string& commandLine) {
+    constexpr int kHelpTask = 1;
+    if (basic::startsWithNoCase(commandLine, kHelpViewer)) {
+        openHelp(commandLine.substr(kHelpViewer.size()));
+        return kHelpTask;
+    }
+    const auto folder = files_.GetAbsolutePathName("");
+    const auto program = findProgram(commandLine, folder, true);
+    if (!program) return 0;
+    const auto id = startProgram(*program, folder);
+    if (id == 0) throw hostError(basic::kFileNotFound, commandLine + ": cannot be started");
+    children_.push_back({id, {}});
+    return int(id);
 }
 
 void Shell::Open(const std::string& document) {
@@ -81,24 +93,27 @@ void Shell::show(const std::string& document) {
     if (!opener || !hasDesktop()) return report_(document);
     auto program = *opener;
     program.words.push_back(document);
-    reapEnded();
-    if (const auto id = startProgram(program, homeFolder()); id != 0)
-        started_.push_back(id);
-    else
-        report_(document);
+    const auto id = startProgram(program, homeFolder());
+    if (id == 0) return report_(document);
+    children_.push_back({id, document});
+    started_();
 }
 
-bool Shell::start(const std::string& commandLine) {
-    reapEnded();
-    const auto folder = files_.GetAbsolutePathName("");
-    const auto program = findProgram(commandLine, folder, true);
-    const auto id = program ? startProgram(*program, folder) : 0;
-    if (id != 0) started_.push_back(id);
-    return id != 0;
+bool Shell::checkOpened() {
+    for (const auto& document : reapEnded()) report_(document);
+    return !children_.empty();
 }
 
-void Shell::reapEnded() {
-    std::erase_if(started_, [](pid_t id) { return ::waitpid(id, nullptr, WNOHANG) != 0; });
+std::vector<std::string> Shell::reapEnded() {
+    std::vector<std::string> failed;
+    std::erase_if(children_, [&failed](const Child& child) {
+        int status = 0;
+        if (::waitpid(child.id, &status, WNOHANG) == 0) return false;
+        const bool succeeded = WIFEXITED(status) && WEXITSTATUS(status) == 0;
+        if (!succeeded && !child.document.empty()) failed.push_back(child.document);
+        return true;
+    });
+    return failed;
 }
 
 } // namespace host

@@ -153,7 +153,7 @@ TEST_F(MessageActions, F1ShowsTheHelpOnTheNumber) {
 TEST_F(MessageActions, F1OnANumberWithoutAPageSaysSoAndShowsTheList) {
     add("Form1", 12, 999);
     EXPECT_THAT(press(112),
-                ElementsAre("box 48 Fernwick: There is no help page for message 999. The list of all help pages "
+                ElementsAre("box 64 Fernwick: There is no help page for message 999. The list of all help pages "
                             "opens instead.",
                             "start Hh.exe -mapid 999 /install/VB Toolkit/doc/Quinloft_Error_Codes.chm"));
 }

@@ -9,9 +9,10 @@ constexpr char kMessagesSection[] = "Quinloft Project Compile Errors";
 /// Records what is started. The program `missing` does not exist.
 struct StartedPrograms : fernwick::Shell {
     explicit StartedPrograms(Trace& t) : trace(t) {}
-    void Start(const std::string& commandLine) override {
+    int Start(const std::string& commandLine) override {
         trace.effect("start " + commandLine);
         if (commandLine == missing) throw basic::RuntimeError(basic::kFileNotFound);
+        return 1;
     }
     void Open(const std::string&) override {}
     std::string missing;

@@ -22,7 +22,7 @@ protected:
     struct Opener : fernwick::Shell {
         std::vector<std::string> opened;
         bool fails = false;
-        void Start(const std::string&) override {}
+        int Start(const std::string&) override { return 1; }
         void Open(const std::string& document) override {
             if (fails) throw basic::RuntimeError(basic::kFileNotFound);
             opened.push_back(document);

@@ -21,10 +21,11 @@ class HelpAndTools : public testing::Test, protected test::CommandsWorld {
 protected:
     struct Shell : fernwick::Shell {
         std::vector<std::string> started;
-        bool fails = false;
-        void Start(const std::string& commandLine) override {
+        bool fails = false, isInstalled = true;
+        int Start(const std::string& commandLine) override {
             if (fails) throw basic::RuntimeError(basic::kFileNotFound);
             started.push_back(commandLine);
+            return isInstalled ? 1 : 0;
         }
         void Open(const std::string&) override {}
     };

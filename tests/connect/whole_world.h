@@ -20,9 +20,10 @@ class TracedShell : public fernwick::Shell {
 public:
     explicit TracedShell(Trace& trace) : trace_(trace) {}
     bool hasPrograms = true;
-    void Start(const std::string& commandLine) override {
+    int Start(const std::string& commandLine) override {
         trace_.effect("start " + commandLine);
         if (!hasPrograms) throw basic::RuntimeError(basic::kFileNotFound);
+        return 1;
     }
     void Open(const std::string& document) override { trace_.effect("open " + document); }
 

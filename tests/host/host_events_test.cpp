@@ -220,11 +220,12 @@ TEST(HostEvents, ControlsRaiseEventsOfTheirForm) {
         [&](Ref<vbide::VBControl> control) { calls.push_back("added " + control->ClassName()); });
     const auto removed = source->ItemRemoved.connect([&](Ref<vbide::VBControl> control) { gone = control; });
     const auto control = form->VBControls()->Add("VB.TextBox");
+    EXPECT_TRUE(project->VBComponents()->Item(1)->IsDirty());
     project->VBComponents()->Item(2)->Designer()->VBControls()->Add("VB.Label");
     form->VBControls()->Remove(control);
     EXPECT_EQ(calls, (Calls{"added TextBox"}));
     EXPECT_EQ(gone, control);
-    EXPECT_TRUE(project->VBComponents()->Item(1)->IsDirty());
+    EXPECT_FALSE(project->VBComponents()->Item(1)->IsDirty()); // its text is that of its file again
     EXPECT_EQ(errorOf([&] { host.ide->Events()->VBControlsEvents(project, nullptr); }), 91);
 }
 

@@ -82,7 +82,7 @@ TEST_F(SshConnection, RefusesAnUnknownHostAndExplainsHowToAcceptIt) {
     server.folder.write("known_hosts", "");
     const auto error = refusal(target());
     expectError(error, SshMessage::HostKeyUnknown,
-                {server.fingerprint("host_key"), "ssh-keygen -lf /etc/ssh/ssh_host_ed25519_key.pub"});
+                {"ED25519 " + server.fingerprint("host_key"), "ssh-keygen -lf /etc/ssh/ssh_host_ed25519_key.pub"});
     EXPECT_FALSE(isOnDevice(""));
     const auto command = error.text.substr(error.text.find("echo '"));
     ASSERT_EQ(std::system(command.c_str()), 0) << command;

@@ -213,7 +213,7 @@ private:
     Trace& trace_;
 };
 struct NoShell : fernwick::Shell {
-    void Start(const std::string&) override {}
+    int Start(const std::string&) override { return 1; }
     void Open(const std::string&) override {}
 };
 struct FixedScreen : fernwick::Screen {

@@ -16,7 +16,7 @@ protected:
     workbench::CodeEditor& editorOf(const test::SampleProject& sample) {
         project = host.open(sample);
         component = project->VBComponents()->Item(1);
-        editor = std::make_unique<workbench::CodeEditor>(component, [this](std::exception_ptr) { ++refused; });
+        editor = std::make_unique<workbench::CodeEditor>(component, names, [this](std::exception_ptr) { ++refused; });
         watch = host.ide->panes.codeChanged.connect([this](const auto&) { editor->codeChanged(); });
         return *editor;
     }
@@ -34,6 +34,7 @@ protected:
     }
 
     test::TestHost host;
+    workbench::ProjectNames names{*host.ide};
     basic::Ref<vbide::VBProject> project;
     basic::Ref<vbide::VBComponent> component;
     std::unique_ptr<workbench::CodeEditor> editor;

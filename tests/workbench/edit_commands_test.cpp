@@ -7,7 +7,9 @@
 #include <QComboBox>
 #include <QInputDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
+#include <QSettings>
 
 using testing::ElementsAre;
 using testing::HasSubstr;
@@ -60,6 +62,67 @@ TEST_F(EditCommands, DoNothingInOtherTabs) {
     window().code().setCurrentIndex(0);
     settle();
     EXPECT_TRUE(menuItem("&Edit", "&Undo")->isEnabled());
+}
+
+TEST_F(EditCommands, ActOnTheCodeOnlyWhileItHasTheFocus) {
+    auto& editor = edit(kThreeLines);
+    window().explorer().setFocus();
+    settle();
+    for (const char* item :
+         {"&Undo", "&Redo", "Cu&t", "&Paste", "Cut &Line", "Select &All", "&Indent", "Co&mment Block"})
+        EXPECT_FALSE(menuItem("&Edit", item)->isEnabled()) << item;
+    EXPECT_TRUE(menuItem("&Edit", "&Find...")->isEnabled());
+    for (const int key : {Qt::Key_A, Qt::Key_X, Qt::Key_Y}) press(window().explorer(), key, Qt::ControlModifier);
+    bench->host().CommandBars()->FindControl(workbench::kCutLineId)->Execute();
+    EXPECT_EQ(held("modA"), "a\n    b\nc");
+    editor.setFocus();
+    settle();
+    EXPECT_TRUE(menuItem("&Edit", "Cut &Line")->isEnabled());
+}
+
+TEST_F(EditCommands, ActOnATextFieldThatHasTheFocus) {
+    edit(kThreeLines);
+    choose("&Find...");
+    auto& what = *window().findChild<QLineEdit*>("findWhat");
+    what.setText("some text");
+    what.deselect();
+    settle();
+    EXPECT_FALSE(menuItem("&Edit", "Cut &Line")->isEnabled());
+    choose("Select &All");
+    EXPECT_EQ(what.selectedText(), "some text");
+    choose("Cu&t");
+    EXPECT_EQ(what.text(), "");
+    choose("&Undo");
+    EXPECT_EQ(what.text(), "some text");
+    EXPECT_EQ(held("modA"), "a\n    b\nc");
+}
+
+TEST_F(EditCommands, KeysWithCtrlAltOrMetaInsertNothing) {
+    auto& editor = edit(kThreeLines);
+    for (const auto with : {Qt::ControlModifier, Qt::AltModifier, Qt::MetaModifier})
+        for (const int key : {Qt::Key_1, Qt::Key_Equal, Qt::Key_Period, Qt::Key_Plus, Qt::Key_Slash, Qt::Key_B})
+            press(editor, key, with);
+    EXPECT_EQ(held("modA"), "a\n    b\nc");
+    QSettings().clear(); // the zoom
+    QTest::keyClicks(&editor, "x");
+    EXPECT_EQ(held("modA"), "xa\n    b\nc");
+}
+
+TEST_F(EditCommands, ZoomChangesAllCodeWindowsAndIsKept) {
+    open(test::SampleProject().module("modA").module("modB"));
+    const auto zoomOf = [](QsciScintilla& editor) { return editor.SendScintilla(QsciScintilla::SCI_GETZOOM); };
+    auto& first = code("modA");
+    auto& second = code("modB");
+    press(second, Qt::Key_Plus, Qt::ControlModifier);
+    press(second, Qt::Key_Equal, Qt::ControlModifier);
+    EXPECT_EQ(zoomOf(first), 2);
+    EXPECT_EQ(zoomOf(second), 2);
+    press(second, Qt::Key_Minus, Qt::ControlModifier);
+    EXPECT_EQ(zoomOf(first), 1);
+    EXPECT_EQ(QSettings().value("code/zoom"), 1);
+    press(second, Qt::Key_0, Qt::ControlModifier);
+    EXPECT_EQ(zoomOf(first), 0);
+    EXPECT_EQ(held("modB"), "");
 }
 
 TEST_F(EditCommands, TabIndentsTheSelectedLines) {
@@ -234,7 +297,9 @@ TEST_F(Definitions, AComponentsNameLeadsToItsCode) {
 TEST_F(Definitions, PrivateNamesOfOtherModulesAreIgnored) {
     openBoth();
     EXPECT_EQ(definition("modB", 4, 6), "modB 4:6 ");
-    EXPECT_EQ(window().findChild<QLabel*>("findSaid")->text(), "\"Hidden\" is not declared in this project.");
+    EXPECT_EQ(window().findChild<QLabel*>("noticeText")->text(), "\"Hidden\" is not declared in this project.");
+    EXPECT_TRUE(window().notice().isVisible());
+    EXPECT_FALSE(window().findBar().isVisible());
 }
 
 TEST_F(Definitions, CommentsAndStringsAreIgnored) {

@@ -72,3 +72,22 @@ TEST_F(DesktopExplorer, ANewProjectHasNoFilesYet) {
     menuOf("HelloWorld", "Add &Module");
     EXPECT_TRUE(entry("CodeModule1 (CodeModule1) *"));
 }
+
+TEST_F(DesktopExplorer, SortsWithoutRegardToLetterCaseAndShowsPathsInTips) {
+    open(test::SampleProject().module("modB").module("MODA").module("ModC").writeTo(folder));
+    EXPECT_THAT(explorerEntries(), ElementsAre("Hello (Hello.vbp)", " Modules", "  MODA (MODA.bas)",
+                                               "  modB (modB.bas)", "  ModC (ModC.bas)"));
+    EXPECT_EQ(entry("modB")->toolTip(0).toStdString(), "modB (modB.bas)\n" + (folder / "modB.bas"));
+}
+
+TEST_F(DesktopExplorer, AGroupsMenuActsOnItsProject) {
+    openSample("HelloWorld");
+    openSample("AddressBook");
+    auto* const forms = entry("HelloWorld")->child(0);
+    window().explorer().setCurrentItem(forms);
+    QTimer::singleShot(50, [] {
+        if (auto* const menu = QApplication::activePopupWidget()) menu->close();
+    });
+    Q_EMIT window().explorer().customContextMenuRequested(window().explorer().visualItemRect(forms).center());
+    EXPECT_EQ(project()->Name(), "HelloWorld");
+}

@@ -1,9 +1,11 @@
 // Unsaved changes survive the program.
 #include "Apps/workbench/unsaved/journal_folder.h"
 #include "Host/files/journal_file.h"
+#include "Host/model/component.h"
 #include "tests/workbench/open_desktop.h"
 #include <QDir>
 #include <QDirIterator>
+#include <QListWidget>
 #include <QProcess>
 #include <csignal>
 #include <filesystem>
@@ -196,7 +198,7 @@ TEST_F(Journals, AProjectWithoutJournalsAsksNothing) {
     EXPECT_FALSE(component("modA")->IsDirty());
 }
 
-TEST_F(Journals, DiscardRemovesIt) {
+TEST_F(Journals, DiscardMovesItToAFolderThatTheBoxNames) {
     const auto project = twoModules().writeTo(folder);
     leave(entryOf("' kept\r\n"));
     answerWith("Discard");
@@ -204,6 +206,11 @@ TEST_F(Journals, DiscardRemovesIt) {
     waitForBox();
     EXPECT_EQ(held("modA"), "' a");
     EXPECT_TRUE(journals().isEmpty());
+    const auto discarded = QFileInfo(workbench::journalBase()).path() + "/discarded";
+    EXPECT_THAT(boxes, ElementsAre(HasSubstr(discarded.toStdString())));
+    QDirIterator kept(discarded, {"modA.bas"}, QDir::Files, QDirIterator::Subdirectories);
+    ASSERT_TRUE(kept.hasNext());
+    EXPECT_EQ(host::readFile(kept.next().toStdString()).bytes, moduleText("modA", "' kept\r\n"));
 }
 
 TEST_F(Journals, KeptJournalsAreOfferedWhenTheProjectOpensAgain) {
@@ -324,6 +331,44 @@ TEST_F(Journals, AProjectThatWasNeverSavedIsRestoredAsANewOne) {
     EXPECT_EQ(project()->FileName(), "");
     EXPECT_EQ(project()->VBComponents()->Count(), 1);
     EXPECT_EQ(held("Form1"), "' kept");
+}
+
+/// The device, the settings, and the designs of forms in which only code was typed.
+TEST_F(Journals, AFernwickProjectThatWasNeverSavedKeepsItsValuesAndDesigns) {
+    bench->connect();
+    test::whenShown([](QDialog& window) {
+        window.findChild<QListWidget*>("lstQuickDesignTargets")->setCurrentRow(1);
+        window.findChild<QAbstractButton*>("btnOK")->click();
+    });
+    bench->open(FERNWICK_SOURCE_DIR "/installation/Template/Projects/Fernwick Project.vbp");
+    ASSERT_TRUE(QTest::qWaitFor([this] { return project() && project()->VBComponents()->Count() == 1; }, kLongestWait));
+    settle();
+    component("Form1")->IsDirty(false);
+    project()->WriteProperty("Quinloft Global", "DisplayName", "Not saved");
+    component("Form1")->CodeModule()->InsertLines(1, "' typed");
+    const auto design = basic::cast<host::Component>(component("Form1"))->source().bytes();
+    ASSERT_TRUE(QTest::qWaitFor([] { return journals().size() == 2; }, kLongestWait));
+    QStringList kept;
+    for (const auto& journal : journals()) {
+        kept << journal + ".kept";
+        QFile::copy(journal, kept.back());
+    }
+    clean(project());
+    bench->host().VBProjects()->Remove(project());
+    settle();
+    for (const auto& journal : kept) {
+        auto entry = read(journal);
+        leave(entry);
+    }
+    answerWith("Restore");
+    bench->connect();
+    waitForBox();
+    EXPECT_THAT(boxes, ElementsAre(HasSubstr("The project's own settings")));
+    QTest::qWait(200);
+    EXPECT_EQ(project()->ReadProperty("Quinloft Global", "TargetDevice"), "PocketPC-SH3");
+    EXPECT_EQ(project()->ReadProperty("Quinloft Global", "DisplayName"), "Not saved");
+    ASSERT_EQ(project()->VBComponents()->Count(), 1);
+    EXPECT_EQ(basic::cast<host::Component>(component("Form1"))->source().bytes(), design);
 }
 
 TEST_F(Journals, JournalsOfARunningProgramAreNotOffered) {

@@ -1,4 +1,5 @@
 // Keywords get their proper case when the user leaves the typed line.
+#include "Apps/workbench/code/declared_names.h"
 #include "Apps/workbench/code/keyword_case.h"
 #include "tests/workbench/open_desktop.h"
 
@@ -97,4 +98,47 @@ TEST_F(KeywordCase, IsUnchangedInALineThatAnAddInReplaced) {
     text.setCursorPosition(2, 0);
     settleLine();
     EXPECT_EQ(held("modA"), "if x then\ndim x\n");
+}
+
+TEST_F(KeywordCase, IsCorrectedInAnIndentedLineLeftByEnter) {
+    auto& text = edit("sub a()\r\n    \r\nend sub\r\n");
+    text.setCursorPosition(1, 4);
+    QTest::keyClicks(&text, "dim x as long");
+    QTest::keyClick(&text, Qt::Key_Return);
+    QTest::keyClicks(&text, "if x then");
+    QTest::keyClick(&text, Qt::Key_Return);
+    settleLine();
+    EXPECT_EQ(held("modA"), "sub a()\n    Dim x As Long\n    If x Then\n    \nend sub");
+}
+
+TEST_F(KeywordCase, NamesTakeTheCaseOfTheirDeclarations) {
+    open(test::SampleProject()
+             .module("modA", "Private mCount As Long\r\nSub Work(ByVal theSize As Long)\r\n    Dim Total As Long\r\n"
+                             "\r\nEnd Sub\r\nSub Other(Optional ByRef THESIZE)\r\nEnd Sub\r\n")
+             .module("modB", "Public Const Most = 5, Least = 1\r\nPrivate Hidden\r\n"
+                             "Public Enum Kinds\r\n    KindOne\r\nEnd Enum\r\nFunction Twice(x)\r\nEnd Function\r\n"));
+    auto& text = code("modA");
+    text.setCursorPosition(3, 0);
+    QTest::keyClicks(&text,
+                     "total = MCOUNT + thesize + modb.TWICE(most) + KINDONE + hidden + x.least + \"total\" ' total");
+    QTest::keyClick(&text, Qt::Key_Down);
+    settleLine();
+    EXPECT_EQ(text.text(3).trimmed().toStdString(),
+              "Total = mCount + theSize + modB.Twice(Most) + KindOne + hidden + x.least + \"total\" ' total");
+}
+
+TEST(DeclaredNames, AreReadInOneWalk) {
+    const auto names = workbench::declaredNames(
+        {"Option Explicit", "Private Declare Function Beep2 Lib \"a\" (ByVal X As Long) As Long",
+         "Private Type Point: Left As Long: End Type", "Public Event Done(ByVal Why As Long)", "Property Get Size() _",
+         "    As Long", "    Static Last, Sum(1 To Most) As Long", "End Property", "Dim After"});
+    EXPECT_EQ(names.own.values().size(), 5);
+    EXPECT_EQ(names.own.value("after"), "After");
+    EXPECT_EQ(names.shared.value("done"), "Done");
+    EXPECT_EQ(names.shared.value("beep2"), "");
+    ASSERT_EQ(names.procedures.size(), 1U);
+    EXPECT_EQ(names.procedures[0].first, 4);
+    EXPECT_EQ(names.procedures[0].last, 7);
+    EXPECT_EQ(names.procedures[0].names.value("sum"), "Sum");
+    EXPECT_EQ(names.procedures[0].names.value("last"), "Last");
 }

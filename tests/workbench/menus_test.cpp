@@ -7,6 +7,7 @@
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QDockWidget>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
@@ -173,22 +174,60 @@ TEST_F(DesktopMenus, SaveFileSavesTheCurrentComponent) {
 
 // ---- View -----------------------------------------------------------------------------------------------------------
 
-TEST_F(DesktopMenus, ADocksCommandFocusesItFirstAndThenHidesIt) {
+TEST_F(DesktopMenus, ADocksCommandShowsAndFocusesIt) {
     openSample("HelloWorld");
     editor("frmHello").scintilla().setFocus();
     window().activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
-    auto* command = menuItem("&View", "&Project Explorer");
-    EXPECT_TRUE(command->isChecked());
-    command->trigger();
+    const auto pressCtrlR = [this] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_R, Qt::ControlModifier); };
+    pressCtrlR();
     EXPECT_TRUE(window().explorer().hasFocus());
-    command->trigger();
+    pressCtrlR();
     settle();
-    EXPECT_FALSE(window().explorerDock().isVisible());
-    EXPECT_FALSE(command->isChecked());
-    command->trigger();
+    EXPECT_TRUE(window().explorerDock().isVisible());
+    EXPECT_TRUE(window().explorer().hasFocus());
+    window().explorerDock().hide();
+    menuItem("&View", "&Project Explorer")->trigger();
+    EXPECT_TRUE(window().explorerDock().isVisible());
+}
+
+TEST_F(DesktopMenus, ViewListsWindowsThenToolbarsThenTheLook) {
+    openSample("HelloWorld");
+    show(*top("&View"));
+    EXPECT_THAT(texts(*top("&View")),
+                ElementsAre("&Code", "O&bject", "&Definition", "Last Positio&n", "&Project Explorer",
+                            "Properties &Window", "Toolbo&x", "Fernwick &Messages", "&Toolbars", "Zoom &In",
+                            "Zoom O&ut", "&Reset Zoom", "&Light or Dark"));
+}
+
+TEST_F(DesktopMenus, ALetterOfTwoMenusOpensTheFirstAndThenTheSecond) {
+    bench->connect();
     settle();
-    EXPECT_TRUE(window().explorerDock().isVisible() && command->isChecked());
+    window().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
+    QTest::keyClick(&window(), Qt::Key_F, Qt::AltModifier);
+    ASSERT_EQ(QApplication::activePopupWidget(), top("&File"));
+    QTest::keyClick(top("&File"), Qt::Key_F);
+    ASSERT_EQ(QApplication::activePopupWidget(), top("&Fernwick"));
+    QTest::keyClick(top("&Fernwick"), Qt::Key_Escape);
+}
+
+TEST_F(DesktopMenus, CommandsOfMissingFeaturesAreDisabledAndSayWhy) {
+    openSample("HelloWorld");
+    for (const char* item : {"Fernwick &Settings...", "&Open Fernwick Project...", "&Zoom Window"}) {
+        auto* const action = menuItem("&Fernwick", item);
+        ASSERT_TRUE(action) << item;
+        EXPECT_FALSE(action->isEnabled()) << item;
+        EXPECT_THAT(action->toolTip().toStdString(), HasSubstr("does not have this command yet")) << item;
+    }
+    EXPECT_TRUE(menuItem("&Fernwick", "Compile and &Validate")->isEnabled());
+}
+
+TEST_F(DesktopMenus, TipsShowNoMnemonics) {
+    openSample("HelloWorld");
+    for (const auto* bar : window().findChildren<QToolBar*>())
+        for (const auto* button : bar->actions())
+            EXPECT_FALSE(button->toolTip().contains('&')) << button->toolTip().toStdString();
 }
 
 TEST_F(DesktopMenus, TheMessagesHaveACommandOnceTheyExist) {
@@ -212,6 +251,7 @@ TEST_F(DesktopMenus, ADockThatTheUserHidesIsHiddenForTheAddIn) {
 }
 
 TEST_F(DesktopMenus, ToolbarsAreSwitchedInTheirMenu) {
+    ASSERT_TRUE(menuItem("&View", "&Toolbars")->isVisible());
     auto* toolBars = menuItem("&View", "&Toolbars")->menu();
     show(*toolBars);
     ASSERT_THAT(texts(*toolBars), Contains("Standard"));
@@ -310,7 +350,33 @@ TEST_F(DesktopMenus, StartingCompilesAndSendsToTheDevice) {
     for (const auto& file : std::filesystem::recursive_directory_iterator(folder / "devices"))
         files += file.path().filename() == "HelloWorld.0000.qlx";
     EXPECT_EQ(files, 1);
+    EXPECT_TRUE(window().notice().isVisible());
+    EXPECT_THAT(window().findChild<QLabel*>("noticeText")->text().toStdString(),
+                HasSubstr("sent to Palm OS. It needs Tamarik"));
+    const auto buttons = window().notice().findChildren<QPushButton*>();
+    ASSERT_EQ(buttons.size(), 2);
+    EXPECT_TRUE(window().grab().save(FERNWICK_BINARY_DIR "/workbench-notice.png"));
+    EXPECT_EQ(buttons[0]->text(), "&Install Tamarik");
+    EXPECT_EQ(buttons[1]->text(), "Show &Folder");
+    buttons[0]->click();
+    EXPECT_THAT(window().findChild<QLabel*>("noticeText")->text().toStdString(), HasSubstr("Tamarik was installed on"));
+    EXPECT_EQ(window().findChild<QLabel*>("lblStatusText")->text().indexOf("Compiling"), -1);
     qunsetenv("FERNWICK_DEVICES");
+}
+
+TEST_F(DesktopMenus, APackageIsNamedAndItsFolderOffered) {
+    openSample("HelloWorld");
+    answer([](QDialog& window) {
+        auto* const box = dynamic_cast<QMessageBox*>(&window);
+        box ? box->button(QMessageBox::Ok)->click() : test::click(window, "btnYes");
+    });
+    const auto project = bench->addIn().projects.FindQLProject(this->project());
+    bench->addIn().sendToDevice.SendProjectToDevice(project, true, project->TargetDevice());
+    answers_.stop();
+    EXPECT_TRUE(window().notice().isVisible());
+    EXPECT_THAT(window().findChild<QLabel*>("noticeText")->text().toStdString(),
+                HasSubstr("The package is " + (folder / "HelloWorld/")));
+    EXPECT_EQ(window().notice().findChildren<QPushButton*>().size(), 1);
 }
 
 TEST_F(DesktopMenus, StartingWithErrorsShowsThemAndSendsNothing) {
@@ -321,6 +387,20 @@ TEST_F(DesktopMenus, StartingWithErrorsShowsThemAndSendsNothing) {
     EXPECT_TRUE(window().findChild<QDockWidget*>("Fernwick Messages")->isVisible());
     EXPECT_FALSE(std::filesystem::exists(folder / "devices"));
     qunsetenv("FERNWICK_DEVICES");
+}
+
+TEST_F(DesktopMenus, StartingNeedsTheAddIn) {
+    bench->open(sample("HelloWorld"));
+    EXPECT_THAT(carryOut("&Run", "&Start on Device"), ElementsAre(HasSubstr("add-in is not connected")));
+}
+
+TEST_F(DesktopMenus, StartingNeedsAProjectThatTheAddInKnows) {
+    bench->open(sample("HelloWorld"));
+    bench->open(sample("AddressBook"));
+    bench->connect();
+    bench->host().ActiveVBProject(bench->host().VBProjects()->Item(1));
+    EXPECT_THAT(carryOut("&Run", "&Start on Device"),
+                ElementsAre(HasSubstr("HelloWorld was opened before the Fernwick add-in was connected")));
 }
 
 TEST_F(DesktopMenus, AnAddInIsConnectedFromItsMenu) {

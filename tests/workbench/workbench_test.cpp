@@ -6,8 +6,10 @@
 #include <QListWidget>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QScreen>
 #include <QSettings>
 #include <QTreeView>
+#include <QWindow>
 #include <gmock/gmock.h>
 
 using testing::ElementsAre;
@@ -32,6 +34,28 @@ TEST_F(Desktop, TheAddInSeesAllProjectsOfTheStart) {
         bench->host().ActiveVBProject(one);
         EXPECT_EQ(bench->addIn().projects.gCurrentProject, one);
     }
+}
+
+TEST_F(Desktop, AnOldProjectIsRefusedAtTheDoorAndNotWritten) {
+    const auto path = sample("HelloWorld");
+    auto old = folder.read("HelloWorld/HelloWorld.vbp");
+    const std::string version = "ProjectVersion=3.5";
+    ASSERT_NE(old.find(version), std::string::npos);
+    old.erase(old.find(version), version.size() + 2);
+    folder.write("HelloWorld/HelloWorld.vbp", old);
+    answer([](QDialog& box) { box.reject(); });
+    bench->begin({path});
+    EXPECT_TRUE(QTest::qWaitFor([this] { return bench->host().VBProjects()->Count() == 0; }));
+    QTest::qWait(100);
+    answers_.stop();
+    EXPECT_EQ(folder.read("HelloWorld/HelloWorld.vbp"), old);
+}
+
+TEST_F(Desktop, TheFirstWindowFitsTheScreen) {
+    const auto free = window().screen()->availableSize(); // smaller than the usual size
+    ASSERT_LT(free.width(), 1100);
+    EXPECT_LE(window().frameGeometry().width(), free.width());
+    EXPECT_LE(window().frameGeometry().height(), free.height());
 }
 
 TEST_F(Desktop, AStartWithAGroupOpensItsProjects) {
@@ -157,6 +181,49 @@ TEST_F(Desktop, ASuccessfulBuildWritesTheImage) {
     EXPECT_TRUE(compile().empty());
     EXPECT_THAT(window().findChild<QLabel*>("lblStatusText")->text().toStdString(), HasSubstr("SUCCESS"));
     EXPECT_TRUE(std::filesystem::exists(folder / "HelloWorld/HelloWorld.0000.qlx"));
+}
+
+TEST_F(Desktop, OpeningAProjectDoesNotShowTheStatusOfARun) {
+    openSample("HelloWorld");
+    bench->addIn().messages.ShowProjectCompileErrors(project(), false);
+    settle(40);
+    EXPECT_EQ(window().findChild<QLabel*>("lblStatusText")->text(), "");
+}
+
+/// A progress form makes room for the question that interrupts it.
+TEST_F(Desktop, OneWindowAtATimeIsShownWhileCompiling) {
+    openSample("HelloWorld");
+    component("frmHello")->CodeModule()->InsertLines(1, "' unsaved");
+    int mostShown = 0;
+    answer([&](QDialog& window) {
+        int shown = 0;
+        for (const auto* one : QApplication::topLevelWidgets()) shown += one->isVisible() && one->isModal();
+        mostShown = std::max(mostShown, shown);
+        test::click(window, "btnYes");
+    });
+    menuItem("&Fernwick", "Compile and &Validate")->trigger();
+    answers_.stop();
+    EXPECT_EQ(mostShown, 1);
+    EXPECT_TRUE(std::filesystem::exists(folder / "HelloWorld/HelloWorld.0000.qlx"));
+}
+
+TEST_F(Desktop, AProgressFormBlocksTheWindow) {
+    openSample("HelloWorld");
+    component("frmHello")->CodeModule()->InsertLines(1, "' unsaved");
+    int asked = 0;
+    answer([&](QDialog& question) {
+        ++asked;
+        QTest::keyClick(window().windowHandle(), Qt::Key_O, Qt::ControlModifier);
+        QTest::keyClick(window().windowHandle(), Qt::Key_Q, Qt::ControlModifier);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(QApplication::activeModalWidget(), &question);
+        EXPECT_TRUE(window().isVisible());
+        test::click(question, "btnYes");
+    });
+    menuItem("&Fernwick", "Compile and &Validate")->trigger();
+    answers_.stop();
+    EXPECT_EQ(asked, 1);
+    EXPECT_EQ(bench->host().VBProjects()->Count(), 1);
 }
 
 TEST_F(Desktop, AProjectWithoutADeviceIsNotBuilt) {
@@ -320,6 +387,65 @@ TEST_F(Desktop, RecentProjectsOpenAgain) {
     EXPECT_EQ(recent->menu()->actions().front()->text().toStdString(), "&1 " + path);
     recent->menu()->actions().front()->trigger();
     EXPECT_EQ(project()->FileName(), path);
+}
+
+TEST_F(Desktop, TheRecentListHasAGroupInsteadOfItsProjects) {
+    QSettings().clear();
+    sample("HelloWorld");
+    sample("AddressBook");
+    const auto group = folder.write("both.vbg", "VBGROUP 5.0\r\nStartupProject=HelloWorld\\HelloWorld.vbp\r\n"
+                                                "Project=AddressBook\\AddressBook.vbp\r\n");
+    bench->begin({group});
+    settle();
+    EXPECT_EQ(workbench::RecentProjects::stored(), QStringList{QString::fromStdString(group)});
+    bench->host().close();
+    EXPECT_EQ(workbench::RecentProjects::stored(), QStringList{QString::fromStdString(group)});
+}
+
+TEST_F(Desktop, TheProjectOfTheWindowInFrontIsActive) {
+    bench->connect();
+    bench->open(sample("HelloWorld"));
+    bench->open(sample("AddressBook"));
+    window().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
+    settle();
+    EXPECT_EQ(project()->Name(), "AddressBook");
+    doubleClick(entry("frmHello"));
+    settle();
+    EXPECT_EQ(project()->Name(), "HelloWorld");
+    EXPECT_TRUE(entry("HelloWorld")->font(0).bold());
+    doubleClick(entry("modAddressBook"));
+    settle();
+    EXPECT_EQ(project()->Name(), "AddressBook");
+    window().code().setCurrentIndex(0);
+    window().code().currentWidget()->setFocus();
+    settle();
+    EXPECT_EQ(project()->Name(), "HelloWorld");
+}
+
+TEST_F(Desktop, UndoingAllChangesClearsTheDirtyMark) {
+    openSample("HelloWorld");
+    auto& text = editor("frmHello").scintilla();
+    QTest::keyClicks(&text, "x");
+    settle();
+    EXPECT_EQ(window().code().tabText(0), "frmHello *");
+    text.undo();
+    settle();
+    EXPECT_EQ(window().code().tabText(0), "frmHello");
+    EXPECT_FALSE(component("frmHello")->IsDirty());
+    EXPECT_TRUE(window().close()); // without a question
+}
+
+TEST_F(Desktop, OpeningASecondProjectLeavesTheFirstUnchanged) {
+    bench->connect();
+    bench->open(sample("HelloWorld"));
+    settle();
+    const auto first = project();
+    bench->open(sample("AddressBook"));
+    settle();
+    EXPECT_FALSE(first->IsDirty());
+    EXPECT_FALSE(project()->IsDirty());
+    EXPECT_TRUE(entry("HelloWorld (HelloWorld.vbp)"));
 }
 
 TEST_F(Desktop, AMissingProjectIsReportedInABox) {

@@ -32,7 +32,7 @@ void udocCompileMsgs::showHelp(Procedure& here) {
     const auto services = *services_; // the box processes events
     const auto page = fmt::format(kHelpPage, number);
     if (!here.test([&] { return services.platform.files.FileExists(services.install.installed(page)); }))
-        here([&] { box(basic::Replace(build_texts::kNoHelpPage, "{number}", fmt::to_string(number)), vbExclamation); });
+        here([&] { box(basic::Replace(build_texts::kNoHelpPage, "{number}", fmt::to_string(number)), vbInformation); });
     here([&] {
         services.platform.shell.Start(
             fmt::format("Hh.exe -mapid {} {}", number, services.install.requireInstalled(kHelpFile)));

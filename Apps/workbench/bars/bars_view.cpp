@@ -13,7 +13,10 @@ namespace workbench {
 
 namespace {
 
-QString withoutMnemonic(QString caption) { return caption.remove('&').remove("..."); }
+QString tipOf(const host::BarControl& control) {
+    const auto& own = control.ToolTipText();
+    return qt(host::withoutMnemonic(own.empty() ? control.Caption() : own)).remove("...");
+}
 
 bool showsAnything(const host::Bar& bar) {
     return std::any_of(bar.list().begin(), bar.list().end(), [](const auto& control) { return control->Visible(); });
@@ -54,6 +57,7 @@ BarsView::BarsView(host::Bars& bars, QMainWindow& window, Run run, LookOf lookOf
       run_(std::move(run)),
       lookOf_(std::move(lookOf)),
       docking_(window),
+      letters_(*window.menuBar()),
       changed_(bars.changed.connect([this] { redraw_.start(); })) {
     constexpr int kFaceSize = 16;
     window.setIconSize({kFaceSize, kFaceSize});
@@ -72,7 +76,7 @@ void BarsView::draw() {
     for (const auto& bar : bars_.items()) {
         const auto own = basic::cast<host::Bar>(bar).shared();
         if (bar == bars_.ActiveMenuBar()) {
-            fill(*window_.menuBar(), *own);
+            fillMenuBar(*own);
             continue;
         }
         fill(docking_.toolBarOf(own), *own);
@@ -93,16 +97,23 @@ void BarsView::fill(QWidget& widget, const host::Bar& bar) {
     setActions(widget, actions, groups);
 }
 
+void BarsView::fillMenuBar(const host::Bar& bar) {
+    fill(*window_.menuBar(), bar);
+    for (auto* action : window_.menuBar()->actions())
+        if (action->menu()) letters_.follow(*action->menu());
+}
+
 QAction* BarsView::actionOf(const std::shared_ptr<host::BarControl>& control) {
     auto& drawn = drawn_[control];
     drawn.current = true;
     if (!drawn.button && !drawn.popup) make(drawn, control);
     auto* const action = drawn.popup ? drawn.popup->menuAction() : drawn.button.get();
     const auto caption = qt(control->Caption());
-    action->setToolTip(control->ToolTipText().empty() ? withoutMnemonic(caption) : qt(control->ToolTipText()));
-    action->setText(caption.isEmpty() ? action->toolTip() : caption); // screen readers read the text
+    const auto whyNot = unavailable(*control);
+    action->setToolTip(whyNot.isEmpty() ? tipOf(*control) : whyNot);
+    action->setText(caption.isEmpty() ? tipOf(*control) : caption); // screen readers read the text
     if (drawn.button) showButton(drawn, *control);
-    action->setEnabled(control->Enabled() && control->Parent()->Enabled());
+    action->setEnabled(control->Enabled() && control->Parent()->Enabled() && whyNot.isEmpty());
     action->setVisible(control->Visible() && (!drawn.popup || showsAnything(*control->popup())));
     if (drawn.popup) fill(*drawn.popup, *control->popup());
     return action;
@@ -145,7 +156,8 @@ void BarsView::makeButton(Drawn& drawn, const std::shared_ptr<host::BarControl>&
     const auto bar = control->Parent();
     const auto all = bars_.items();
     const bool isInToolbar = std::find(all.begin(), all.end(), bar) != all.end();
-    if (!isInToolbar) drawn.button->setShortcut(lookOf_(control->Id()).key);
+    const auto look = lookOf_(control->Id());
+    if (!isInToolbar) drawn.button->setShortcuts(QList{look.key, look.otherKey});
     QObject::connect(drawn.button.get(), &QAction::triggered, [this, link = std::weak_ptr(control)] {
         if (const auto clicked = link.lock()) run_([&] { clicked->Execute(); });
         redraw_.start(); // Qt has toggled a checkable action, even if the command failed

@@ -1,5 +1,6 @@
 #pragma once
 // Draws the host's menus and toolbars, including those of add-ins.
+#include "Apps/workbench/bars/shared_letters.h"
 #include "Apps/workbench/bars/toolbar_docking.h"
 #include "Apps/workbench/base/run.h"
 #include "Apps/workbench/base/theme.h"
@@ -21,7 +22,7 @@ namespace workbench {
 
 /// What the desktop adds to a command of the host's bars.
 struct CommandLook {
-    QKeySequence key;
+    QKeySequence key, otherKey;
     /// Shown if the command has no face in the model.
     QIcon icon;
 };
@@ -34,6 +35,10 @@ public:
     BarsView(host::Bars& bars, QMainWindow& window, Run run, LookOf lookOf);
     ~BarsView();
     BarsView(const BarsView&) = delete;
+
+    /// Why a command cannot be used yet, though an add-in enables it; empty for the others. The command is drawn as
+    /// disabled and has this text as its tool tip.
+    std::function<QString(const host::BarControl&)> unavailable = [](const host::BarControl&) { return QString(); };
 
     /// Draws the model at once, without waiting for Qt's loop.
     void draw();
@@ -51,6 +56,7 @@ private:
     };
 
     void fill(QWidget& widget, const host::Bar& bar);
+    void fillMenuBar(const host::Bar& bar);
     QAction* actionOf(const std::shared_ptr<host::BarControl>& control);
     void make(Drawn& drawn, const std::shared_ptr<host::BarControl>& control);
     void makePopup(Drawn& drawn, const std::shared_ptr<host::BarControl>& control);
@@ -63,6 +69,7 @@ private:
     Run run_;
     LookOf lookOf_;
     ToolBarDocking docking_;
+    SharedLetters letters_;
     std::map<std::weak_ptr<host::BarControl>, Drawn, std::owner_less<>> drawn_;
     QTimer redraw_;
     fernwick::Subscription changed_;

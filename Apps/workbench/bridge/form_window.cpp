@@ -9,6 +9,7 @@
 #include <QUiLoader>
 #include <QVBoxLayout>
 #include <QWindow>
+#include <algorithm>
 #include <memory>
 #include <utility>
 
@@ -78,6 +79,12 @@ void FormWindow::run() {
     if (form_.Visible() && !error_) loop_.exec(); // a timer may have ended it already
     hide();
     if (error_) std::rethrow_exception(std::exchange(error_, nullptr));
+}
+
+bool FormWindow::isProgress() const {
+    const auto controls = form_.Controls();
+    return std::none_of(controls.begin(), controls.end(),
+                        [](const auto* control) { return dynamic_cast<const fernwick::CommandButton*>(control); });
 }
 
 void FormWindow::activateForm() {

@@ -17,6 +17,10 @@ public:
     void run();
     /// Raises Activate again when the form comes to the front.
     void activateForm();
+    /// Whether the form only shows progress: it has no buttons.
+    bool isProgress() const;
+    /// Whether the form has not been hidden or unloaded.
+    bool isWanted() const { return form_.Visible() && !error_; }
 
 protected:
     /// Unloads the form, unless it has no close box.

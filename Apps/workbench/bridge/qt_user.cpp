@@ -1,4 +1,5 @@
 #include "Apps/workbench/bridge/qt_user.h"
+#include "Apps/workbench/base/message_box.h"
 #include "Apps/workbench/base/text.h"
 #include "Apps/workbench/bridge/file_dialog.h"
 #include "Apps/workbench/bridge/form_window.h"
@@ -44,34 +45,60 @@ QMessageBox::Icon boxIconOf(int style) {
 
 } // namespace
 
-QWidget* QtUser::top() const { return forms_.empty() ? mainWindow : forms_.back(); }
+/// A window in front of the latest form. A progress form is hidden meanwhile: it has nothing to press, and two windows
+/// on top of each other confuse.
+class QtUser::InFront {
+public:
+    explicit InFront(const QtUser& user) : form_(user.forms_.empty() ? nullptr : user.forms_.back()) {
+        isHidden_ = form_ && form_->isVisible() && form_->isProgress();
+        if (isHidden_) form_->hide();
+    }
+    InFront(const InFront&) = delete;
+    ~InFront() {
+        if (isHidden_ && form_->isWanted()) form_->show();
+        if (form_) form_->activateForm();
+    }
+
+private:
+    FormWindow* form_;
+    bool isHidden_;
+};
+
+/// The parent of the next window.
+QWidget* QtUser::top() const {
+    const bool isAbove = !forms_.empty() && forms_.back()->isVisible();
+    return isAbove ? forms_.back() : mainWindow;
+}
 
 void QtUser::showModal(Form& form) {
-    FormWindow window(form, top());
-    struct Standing {
-        std::vector<FormWindow*>& forms;
-        Standing(std::vector<FormWindow*>& all, FormWindow* one) : forms(all) { forms.push_back(one); }
-        Standing(const Standing&) = delete;
-        ~Standing() {
-            forms.pop_back();
-            if (!forms.empty()) forms.back()->activateForm();
-        }
-    } standing{forms_, &window};
-    window.run();
+    {
+        const InFront inFront(*this);
+        FormWindow window(form, top());
+        struct Standing {
+            std::vector<FormWindow*>& forms;
+            Standing(std::vector<FormWindow*>& all, FormWindow* one) : forms(all) { forms.push_back(one); }
+            Standing(const Standing&) = delete;
+            ~Standing() { forms.pop_back(); }
+        } standing{forms_, &window};
+        window.run();
+    }
+    closed(form);
 }
 
 int QtUser::MsgBox(const std::string& text, int buttons, const std::string& title) {
+    const InFront inFront(*this);
     QMessageBox box(boxIconOf(buttons), qt(title), qt(text).remove('\r'), QMessageBox::NoButton, top());
     box.setTextFormat(Qt::PlainText);
     const auto offered = buttonsOf(buttons);
-    for (const auto& button : offered) box.addButton(button.drawn);
+    QMessageBox::StandardButtons buttonsShown;
+    for (const auto& button : offered) buttonsShown |= button.drawn;
+    addButtons(box, buttonsShown);
     const auto chosen = std::size_t((buttons & kDefaultButton) / vbDefaultButton2);
     box.setDefaultButton(offered[std::min(chosen, offered.size() - 1)].drawn);
     const int pressed = box.exec();
     int result = vbCancel;
     for (const auto& button : offered)
         if (button.drawn == pressed) result = button.result;
-    if (!forms_.empty()) forms_.back()->activateForm();
     return result;
 }
 

@@ -2,6 +2,7 @@
 // The add-in's dialogs on the desktop.
 #include "Add-in/platform/interaction.h"
 #include <QWidget>
+#include <functional>
 #include <vector>
 
 namespace workbench {
@@ -22,8 +23,13 @@ public:
 
     /// The parent of boxes and forms; null for none.
     QWidget* mainWindow = nullptr;
+    bool isShowingForm() const { return !forms_.empty(); }
+    /// Called when a form has closed.
+    std::function<void(const fernwick::Form&)> closed = [](const fernwick::Form&) {};
 
 private:
+    class InFront;
+
     QWidget* top() const;
 
     std::vector<FormWindow*> forms_;

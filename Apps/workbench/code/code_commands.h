@@ -1,14 +1,14 @@
 #pragma once
 // The commands of the code window in front. They do nothing if there is none.
+#include "Apps/workbench/base/notice_bar.h"
 #include "Apps/workbench/code/code_windows.h"
-#include "Apps/workbench/code/find_bar.h"
 
 namespace workbench {
 
 class CodeCommands {
 public:
     /// Both outlive this.
-    CodeCommands(CodeWindows& windows, FindBar& bar) : windows_(windows), bar_(bar) {}
+    CodeCommands(CodeWindows& windows, NoticeBar& notice) : windows_(windows), notice_(notice) {}
 
     /// To the next procedure, or the previous one.
     void goToProcedure(bool backwards);
@@ -20,7 +20,7 @@ public:
 
 private:
     CodeWindows& windows_;
-    FindBar& bar_;
+    NoticeBar& notice_;
     /// Places at which definitions were asked for, the latest last.
     std::vector<CodePlace> positions_;
 };

@@ -31,14 +31,14 @@ QString firstMissing(const basic::CodePage& page, const QString& inserted) {
 
 } // namespace
 
-CodeEditor::CodeEditor(vbide::Ref<vbide::VBComponent> component, Refused refused)
+CodeEditor::CodeEditor(vbide::Ref<vbide::VBComponent> component, ProjectNames& names, Refused refused)
     : component_(std::move(component)),
       module_(component_->CodeModule()),
       refused_(std::move(refused)),
       procedures_(new ProcedureBar(component_, [this](int line) { goToLine(line); })),
       text_(new CodeInput([this](const QString& inserted) { return accepts(inserted); })),
       marks_(*text_),
-      typedLine_(*text_),
+      typedLine_(*text_, [this, &names](int line) { return names.at(component_, line); }),
       lexer_(new VbLexer(this)) {
     auto* const rows = new QVBoxLayout(this);
     rows->setContentsMargins(0, 0, 0, 0);
@@ -87,6 +87,13 @@ void CodeEditor::colour(Theme theme) {
     marks_.colour(theme);
 }
 
+void CodeEditor::zoomTo(int points) {
+    text_->zoomTo(points);
+    widenMargin();
+}
+
+void CodeEditor::widenMargin() { text_->setMarginWidth(kNumberMargin, QString::number(text_->lines() * 10)); }
+
 void CodeEditor::load() {
     loading_ = true;
     typedLine_.forget();
@@ -99,7 +106,7 @@ void CodeEditor::load() {
     text_->setCursorPosition(std::min(line, text_->lines() - 1), column);
     text_->setFirstVisibleLine(top);
     marks_.putBack(marked);
-    text_->setMarginWidth(kNumberMargin, QString::number(text_->lines() * 10));
+    widenMargin();
     loading_ = false;
 }
 

@@ -4,6 +4,7 @@
 #include "Apps/workbench/code/code_finder.h"
 #include "Apps/workbench/code/code_text.h"
 #include "Apps/workbench/code/line_marks.h"
+#include "Apps/workbench/code/project_names.h"
 #include "Apps/workbench/code/typed_line.h"
 #include <QTimer>
 #include <QWidget>
@@ -26,7 +27,8 @@ public:
     /// any other refusal the host's text is restored.
     using Refused = std::function<void(std::exception_ptr)>;
 
-    CodeEditor(vbide::Ref<vbide::VBComponent> component, Refused refused);
+    /// `names` outlives this.
+    CodeEditor(vbide::Ref<vbide::VBComponent> component, ProjectNames& names, Refused refused);
 
     const vbide::Ref<vbide::VBComponent>& component() const { return component_; }
     QsciScintilla& scintilla() const;
@@ -36,6 +38,8 @@ public:
     void showSelection();
     LineMarks& marks() { return marks_; }
     void colour(Theme theme);
+    /// Enlarges the text by this many points; negative to make it smaller.
+    void zoomTo(int points);
 
     /// The part of the selection in its first line, or the cursor.
     CodePlace place() const;
@@ -56,6 +60,7 @@ public:
 
 private:
     void prepareText();
+    void widenMargin();
     void load();
     bool accepts(const QString& inserted);
     void edited(int position, int linesAdded, bool isUndo);

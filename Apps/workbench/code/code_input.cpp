@@ -7,10 +7,27 @@
 
 namespace workbench {
 
+namespace {
+
+/// Whether the key is pressed with one that makes it a command. AltGr, which enters characters, is none of these.
+bool isChord(const QKeyEvent& event) {
+    return (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0;
+}
+
+} // namespace
+
 void CodeInput::keyPressEvent(QKeyEvent* event) {
     const QScopedValueRollback within(typing_, true);
+    if (isChord(*event)) return pressWithoutText(*event);
     const auto typed = event->text();
     if (typed.isEmpty() || !typed[0].isPrint() || accepts_(typed)) QsciScintilla::keyPressEvent(event);
+}
+
+/// The component knows some of these keys, but would insert the others like plain ones.
+void CodeInput::pressWithoutText(QKeyEvent& event) {
+    QKeyEvent bare(event.type(), event.key(), event.modifiers(), QString(), event.isAutoRepeat());
+    QsciScintilla::keyPressEvent(&bare);
+    event.setAccepted(bare.isAccepted());
 }
 
 void CodeInput::inputMethodEvent(QInputMethodEvent* event) {

@@ -23,6 +23,8 @@ protected:
     bool canInsertFromMimeData(const QMimeData* source) const override;
 
 private:
+    void pressWithoutText(QKeyEvent& event);
+
     Accepts accepts_;
     bool dragging_ = false, typing_ = false;
 };

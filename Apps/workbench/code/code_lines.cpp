@@ -87,6 +87,7 @@ void cutLine(QsciScintilla& editor) { editor.SendScintilla(QsciScintillaBase::SC
 void bindKeys(QsciScintilla& editor) {
     auto& commands = *editor.standardCommands();
     for (const int key : {int(Qt::CTRL) | Qt::Key_Up, int(Qt::CTRL) | Qt::Key_Down, int(Qt::CTRL) | Qt::Key_D,
+                          int(Qt::CTRL) | Qt::Key_Plus, int(Qt::CTRL) | Qt::Key_Minus, int(Qt::CTRL) | Qt::Key_Slash,
                           int(Qt::CTRL) | Qt::Key_L, int(Qt::CTRL) | Qt::Key_T, int(Qt::CTRL) | Qt::Key_U,
                           int(Qt::CTRL) | int(Qt::SHIFT) | Qt::Key_L, int(Qt::CTRL) | int(Qt::SHIFT) | Qt::Key_T,
                           int(Qt::CTRL) | int(Qt::SHIFT) | Qt::Key_U})

@@ -1,10 +1,18 @@
 #include "Apps/workbench/code/code_windows.h"
 #include "Apps/workbench/base/text.h"
+#include "Apps/workbench/code/scintilla.h"
 #include "Basic/runtime_error.h"
+#include <QSettings>
+#include <algorithm>
 
 namespace workbench {
 
-CodeWindows::CodeWindows(host::Host& host, CodeEditor::Refused refused) : host_(host), refused_(std::move(refused)) {
+namespace {
+constexpr auto kZoomKey = "code/zoom";
+} // namespace
+
+CodeWindows::CodeWindows(host::Host& host, CodeEditor::Refused refused)
+    : host_(host), refused_(std::move(refused)), names_(host), zoom_(QSettings().value(kZoomKey).toInt()) {
     setObjectName("codeWindows");
     setDocumentMode(true);
     setTabsClosable(true);
@@ -31,7 +39,10 @@ CodeWindows::CodeWindows(host::Host& host, CodeEditor::Refused refused) : host_(
 void CodeWindows::open(const vbide::Ref<vbide::VBComponent>& component) {
     auto* editor = editorOf(component);
     if (!editor) {
-        editor = new CodeEditor(component, refused_);
+        editor = new CodeEditor(component, names_, refused_);
+        editor->zoomTo(zoom_);
+        connect(&editor->scintilla(), &QsciScintilla::SCN_ZOOM, this,
+                [this, editor] { zoomTo(int(editor->scintilla().SendScintilla(QsciScintilla::SCI_GETZOOM))); });
         made(*editor);
         addTab(editor, qt(component->Name()));
         editor->showSelection();
@@ -92,6 +103,18 @@ void CodeWindows::markEditor(CodeEditor& editor) {
 
 void CodeWindows::colour(Theme theme) {
     for (auto* editor : editors()) editor->colour(theme);
+}
+
+void CodeWindows::zoomBy(int points) { zoomTo(zoom_ + points); }
+
+void CodeWindows::resetZoom() { zoomTo(0); }
+
+void CodeWindows::zoomTo(int points) {
+    constexpr int kSmallest = -6, kLargest = 20;
+    const int wanted = std::clamp(points, kSmallest, kLargest);
+    if (std::exchange(zoom_, wanted) == wanted) return;
+    QSettings().setValue(kZoomKey, zoom_);
+    for (auto* editor : editors()) editor->zoomTo(zoom_);
 }
 
 void CodeWindows::refresh() {

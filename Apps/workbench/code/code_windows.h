@@ -32,17 +32,23 @@ public:
     /// Shows the messages of the active project as marks.
     void mark(MarksByComponent marks);
     void colour(Theme theme);
+    /// Changes the text size of all code windows, in points. It is kept in the user's settings.
+    void zoomBy(int points);
+    void resetZoom();
     /// Updates names and dirty marks and closes the windows of removed components when Qt's loop turns.
     void refreshSoon() { refresh_.start(); }
 
 private:
     std::vector<CodeEditor*> editors() const;
     void markEditor(CodeEditor& editor);
+    void zoomTo(int points);
     void refresh();
 
     host::Host& host_;
     CodeEditor::Refused refused_;
+    ProjectNames names_;
     MarksByComponent marks_;
+    int zoom_ = 0;
     QTimer refresh_;
     std::vector<fernwick::Subscription> watches_;
 };

@@ -1,6 +1,7 @@
 #include "Apps/workbench/code/definition.h"
 #include "Apps/workbench/base/text.h"
 #include "Apps/workbench/code/code_text.h"
+#include "Apps/workbench/code/name_part.h"
 #include <QRegularExpression>
 #include <QStringList>
 #include <algorithm>
@@ -9,7 +10,6 @@ namespace workbench {
 
 namespace {
 
-bool isNamePart(QChar c) { return c.isLetterOrNumber() || c == '_'; }
 bool isSame(const QString& a, const QString& b) { return a.compare(b, Qt::CaseInsensitive) == 0; }
 
 /// A line without its comment, and with blank string literals.

@@ -139,6 +139,4 @@ void FindBar::say(const QString& text, bool isError) {
     said_->setPalette(palette);
 }
 
-void FindBar::showError(const QString& text) { say(text, true); }
-
 } // namespace workbench

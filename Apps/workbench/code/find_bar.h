@@ -22,8 +22,6 @@ public:
     void open(bool replacing);
     /// Finds the same text again; shows the bar if there is no text yet.
     void findAgain(bool backwards);
-    /// Shows an error below the fields, and the bar if it is hidden.
-    void showError(const QString& text);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

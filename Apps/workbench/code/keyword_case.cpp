@@ -1,4 +1,5 @@
 #include "Apps/workbench/code/keyword_case.h"
+#include "Apps/workbench/code/name_part.h"
 #include "Basic/vb_words.h"
 #include <QHash>
 
@@ -29,12 +30,10 @@ QHash<QString, QString> byLowerCase(bool (*isWanted)(const basic::VbWordInfo&)) 
     return table;
 }
 
-bool isWordPart(QChar c) { return c.isLetterOrNumber() || c == '_'; }
-
 /// Rewrites the keywords of one line.
 class KeywordWriter {
 public:
-    explicit KeywordWriter(QString line) : line_(std::move(line)) {}
+    KeywordWriter(QString line, const NameLookup& names) : line_(std::move(line)), names_(names) {}
 
     /// Returns the column of the line's comment, or the line's length if it has none.
     qsizetype run() {
@@ -43,9 +42,9 @@ public:
             if (sign == '\'') return at;
             if (sign == '"' || sign == '[') {
                 at = after(at, sign == '"' ? '"' : ']');
-            } else if (isWordPart(sign)) {
+            } else if (isNamePart(sign)) {
                 qsizetype end = at;
-                while (end < line_.size() && isWordPart(line_[end])) ++end;
+                while (end < line_.size() && isNamePart(line_[end])) ++end;
                 if (beginsStatement_ && line_.mid(at, end - at).compare("Rem", Qt::CaseInsensitive) == 0) {
                     line_.replace(at, end - at, "Rem");
                     return at;
@@ -73,26 +72,38 @@ private:
         const auto before = at > 0 ? line_[at - 1] : QChar(' ');
         const bool isMember = before == '.' || before == '!', isArgument = line_.mid(end).startsWith(":=");
         const auto lower = line_.mid(at, end - at).toLower();
-        if (!isMember && !isArgument) {
-            auto written = words.value(lower);
-            if (written.isEmpty() && isAfterAs_) written = types.value(lower);
-            if (!written.isEmpty()) line_.replace(at, end - at, written);
-        }
+        QString written;
+        if (!isMember && !isArgument) written = words.value(lower);
+        if (!isMember && !isArgument && written.isEmpty() && isAfterAs_) written = types.value(lower);
+        if (written.isEmpty() && !isArgument && before != '!') written = names_(lower, isMember ? objectAt(at) : "");
+        if (written.size() == end - at) line_.replace(at, end - at, written);
         isAfterAs_ = lower == "as" || (isAfterAs_ && lower == "new");
+        lastAt_ = at;
+        lastEnd_ = end;
+    }
+
+    /// The word before the point in front of a member; something that is no name for a call or a With.
+    QString objectAt(qsizetype member) const {
+        return lastEnd_ == member - 1 ? line_.mid(lastAt_, lastEnd_ - lastAt_) : QString(".");
     }
 
     QString line_;
+    const NameLookup& names_;
+    qsizetype lastAt_ = 0, lastEnd_ = 0;
     bool beginsStatement_ = true, isAfterAs_ = false;
 };
 
 } // namespace
 
-QString withKeywordCase(const QString& line) {
-    KeywordWriter writer(line);
+QString withKeywordCase(const QString& line, const NameLookup& names) {
+    KeywordWriter writer(line, names);
     writer.run();
     return writer.line();
 }
 
-bool continuesComment(const QString& line) { return line.endsWith(" _") && KeywordWriter(line).run() < line.size(); }
+bool continuesComment(const QString& line) {
+    const NameLookup noNames = [](const QString&, const QString&) { return QString(); };
+    return line.endsWith(" _") && KeywordWriter(line, noNames).run() < line.size();
+}
 
 } // namespace workbench

@@ -1,27 +1,37 @@
 #pragma once
+#include "Apps/workbench/code/keyword_case.h"
 #include <QObject>
+#include <vector>
 
 class QsciScintilla;
 
 namespace workbench {
 
-/// The line in which the user types. When the cursor leaves it, its keywords get their proper case, as a separate undo
-/// step.
+/// The line in which the user types. When the cursor leaves it, its keywords and names get their proper case, as a
+/// separate undo step.
 class TypedLine final : public QObject {
 public:
+    /// The names that can be used in a line.
+    using NamesAt = std::function<NameLookup(int line)>;
+
     /// The text outlives this.
-    explicit TypedLine(QsciScintilla& text);
+    TypedLine(QsciScintilla& text, NamesAt namesAt);
 
     /// Called after each edit with the line (from 0) in which the user typed, or -1 for any other edit. Lines that are
     /// added or removed, and edits elsewhere, end the typing.
     void typed(int line, int linesAdded);
-    void forget() { line_ = -1; }
+    void forget();
 
 private:
+    void leaveSoon();
     void leave();
+    void correct(int line);
 
     QsciScintilla& text_;
+    NamesAt namesAt_;
     int line_ = -1; ///< -1 for none
+    /// Lines that were left for another one, as by automatic indentation after Enter.
+    std::vector<int> left_;
 };
 
 } // namespace workbench

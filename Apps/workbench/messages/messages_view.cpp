@@ -111,7 +111,7 @@ void MessagesView::draw() {
     bar_->showCounts(rows_.count(fernwick::ERROR_MSG), rows_.count(fernwick::WARNING_MSG), shown_.rowCount(),
                      rows_.rowCount());
     status_->setText(qt(document_->lblStatus()));
-    statusText_->setText(qt(document_->lblStatusText()));
+    statusText_->setText(isStatusCurrent() ? qt(document_->lblStatusText()) : QString());
     statusText_->setToolTip(statusText_->text());
     layOutStatus();
     enableCommands();

@@ -25,6 +25,11 @@ public:
     ~MessagesView() override;
 
     const basic::Ref<Document>& document() const { return document_; }
+    /// Whether the status is that of a run. Otherwise it is not shown: a project that was just opened, and a run that set
+    /// no outcome, would seem to be compiling.
+    std::function<bool()> isStatusCurrent = [] { return true; };
+    /// Draws the messages when Qt's loop turns.
+    void drawSoon();
     /// Called after the rows were drawn again.
     std::function<void()> drawn = [] {};
     /// The commands that go to the next and previous message, which the window adds to its actions. Their keys are the
@@ -41,7 +46,6 @@ private:
     void addCommands();
     QAction* addCommand(const char* text, const char* name, std::function<void()> act);
     void watchDocument();
-    void drawSoon();
     void draw();
     void layOut();
     void layOutStatus();

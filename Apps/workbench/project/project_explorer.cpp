@@ -35,11 +35,26 @@ std::size_t groupOf(vbide::vbext_ComponentType type) {
     return std::size_t(found - kGroups.begin());
 }
 
+/// Sorted without regard to letter case.
+class Entry final : public QTreeWidgetItem {
+public:
+    using QTreeWidgetItem::QTreeWidgetItem;
+    bool operator<(const QTreeWidgetItem& other) const override {
+        return text(kNameColumn).compare(other.text(kNameColumn), Qt::CaseInsensitive) < 0;
+    }
+};
+
 QString fileTitle(const std::string& path) { return qt(path.substr(path.rfind('/') + 1)); }
 
 /// "frmHello (frmHello.frm)", with a star if it is not saved.
 QString entryText(const std::string& name, const std::string& path, bool dirty) {
     return QString("%1 (%2)%3").arg(qt(name), path.empty() ? qt(name) : fileTitle(path), dirty ? " *" : "");
+}
+
+/// The dock may be too narrow for the text.
+void showEntry(QTreeWidgetItem& entry, const QString& text, const std::string& path) {
+    entry.setText(kNameColumn, text);
+    entry.setToolTip(kNameColumn, path.empty() ? text : text + "\n" + qt(path));
 }
 
 } // namespace
@@ -114,7 +129,7 @@ void ProjectExplorer::addEntries() {
         for (const auto last = component + std::size_t(projects_[i]->VBComponents()->Count()); component < last;) {
             const auto group = groupOf(components_[component++]->Type());
             if (group == kGroups.size()) continue;
-            auto* const entry = new QTreeWidgetItem(groups[group]);
+            auto* const entry = new Entry(groups[group]);
             entry->setData(kNameColumn, kComponentNumber, qulonglong(component));
             entry->setIcon(kNameColumn, componentIcon(components_[component - 1]->Type()));
         }
@@ -128,13 +143,14 @@ void ProjectExplorer::showTexts() {
     for (QTreeWidgetItemIterator at(this); *at; ++at) {
         if (const auto number = (*at)->data(kNameColumn, kProjectNumber).toULongLong()) {
             const auto& project = projects_[number - 1];
-            (*at)->setText(kNameColumn, entryText(project->Name(), project->FileName(), project->IsDirty()));
+            showEntry(**at, entryText(project->Name(), project->FileName(), project->IsDirty()), project->FileName());
             auto font = this->font();
             font.setBold(host_->ActiveVBProject() == project);
             (*at)->setFont(kNameColumn, font);
         } else if (const auto number = (*at)->data(kNameColumn, kComponentNumber).toULongLong()) {
             const auto& component = components_[number - 1];
-            (*at)->setText(kNameColumn, entryText(component->Name(), component->FileNames(1), component->IsDirty()));
+            showEntry(**at, entryText(component->Name(), component->FileNames(1), component->IsDirty()),
+                      component->FileNames(1));
         }
     }
     for (int i = 0; i < topLevelItemCount(); ++i)
@@ -152,6 +168,13 @@ vbide::Ref<vbide::VBComponent> ProjectExplorer::currentComponent() const {
     const auto* item = currentItem();
     const auto number = item ? item->data(kNameColumn, kComponentNumber).toULongLong() : 0;
     return number ? components_[number - 1] : nullptr;
+}
+
+vbide::Ref<vbide::VBProject> ProjectExplorer::projectOfCurrent() const {
+    const auto* item = currentItem();
+    while (item && item->parent()) item = item->parent();
+    const auto number = item ? item->data(kNameColumn, kProjectNumber).toULongLong() : 0;
+    return number ? projects_[number - 1] : nullptr;
 }
 
 void ProjectExplorer::openCurrent() {

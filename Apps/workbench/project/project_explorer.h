@@ -25,6 +25,8 @@ public:
     /// The selected project or component; Nothing for another kind of entry.
     vbide::Ref<vbide::VBProject> currentProject() const;
     vbide::Ref<vbide::VBComponent> currentComponent() const;
+    /// The project that the selected entry belongs to, whatever its kind.
+    vbide::Ref<vbide::VBProject> projectOfCurrent() const;
 
 private:
     void watchProjects();

@@ -44,6 +44,8 @@ ProjectProperties::ProjectProperties(vbide::Ref<vbide::VBProject> project, QWidg
     rows->addRow("&Start with:", startUp_);
     rows->addRow("&Code page:", codePage_);
     rows->addRow(buttons);
+    constexpr int kTitleButtons = 120;
+    setMinimumWidth(fontMetrics().horizontalAdvance(windowTitle()) + kTitleButtons);
 }
 
 void ProjectProperties::listStartUps() {

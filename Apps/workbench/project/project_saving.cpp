@@ -1,9 +1,8 @@
 #include "Apps/workbench/project/project_saving.h"
+#include "Apps/workbench/base/message_box.h"
 #include "Apps/workbench/base/text.h"
-#include "Apps/workbench/base/title.h"
 #include <QDir>
 #include <QFileDialog>
-#include <QMessageBox>
 #include <algorithm>
 
 namespace workbench {
@@ -35,8 +34,8 @@ std::string askForName(const std::string& name, const char* extension, QString& 
 QString folderOf(const std::string& path) { return path.empty() ? QDir::homePath() : QFileInfo(qt(path)).path(); }
 
 QMessageBox::StandardButton askAboutChanges(const std::string& name, QWidget* window) {
-    return QMessageBox::question(window, kTitle, QString("Save the changes to %1?").arg(qt(name)),
-                                 QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
+    return showBox(window, QMessageBox::Question, QString("Save the changes to %1?").arg(qt(name)),
+                   QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
 }
 
 void forgetChanges(const ProjectRef& project) {
@@ -51,6 +50,15 @@ bool saveUnderName(const ComponentRef& component, QString folder, QWidget* windo
 }
 
 } // namespace
+
+ProjectRef projectOf(const ComponentRef& component) {
+    ProjectRef owner;
+    (void)basic::attempt([&] { // fails for a removed component
+        for (const auto& project : component->VBE()->VBProjects()->items())
+            if (project->VBComponents() == component->Collection()) owner = project;
+    });
+    return owner;
+}
 
 bool isUnsaved(const ProjectRef& project) {
     const auto components = project->VBComponents()->items();
@@ -92,7 +100,7 @@ bool saveWithName(const ComponentRef& component, QWidget* window) {
 
 bool saveUnderNewName(const ComponentRef& component, QWidget* window) {
     const auto path = component->FileNames(1);
-    const auto project = component->VBE()->ActiveVBProject();
+    const auto project = projectOf(component);
     return saveUnderName(component, folderOf(path.empty() && project ? project->FileName() : path), window);
 }
 

@@ -9,6 +9,9 @@ namespace workbench {
 using ProjectRef = vbide::Ref<vbide::VBProject>;
 using ComponentRef = vbide::Ref<vbide::VBComponent>;
 
+/// The project that a component belongs to; Nothing for a removed component.
+ProjectRef projectOf(const ComponentRef& component);
+
 /// Saves the project and its components and asks for missing file names. False if the user cancels. Errors as those of
 /// SaveAs.
 bool saveWithNames(host::Host& host, const ProjectRef& project, QWidget* window);

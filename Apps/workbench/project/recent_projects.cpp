@@ -1,6 +1,7 @@
 #include "Apps/workbench/project/recent_projects.h"
 #include "Apps/workbench/base/text.h"
 #include "Host/model/bars/bars.h"
+#include "Host/model/projects.h"
 #include <QSettings>
 
 namespace workbench {
@@ -19,15 +20,20 @@ RecentProjects::RecentProjects(host::Host& host, std::shared_ptr<host::Bar> menu
     : menu_(std::move(menu)), open_(std::move(open)) {
     const auto events = host.Events()->VBProjectsEvents();
     watches_.push_back(events->ItemAdded.connect([this, &host](auto project) {
-        if (!host.isTemplate(project->FileName())) remember(project);
+        const auto path = project->FileName();
+        const auto& group = host.projects().openingGroup();
+        if (!group.empty()) members_.insert(path);
+        if (!host.isTemplate(path)) remember(group.empty() ? path : group);
     }));
-    watches_.push_back(events->ItemRemoved.connect(
-        [this](auto project) { remember(project); })); // it may have been saved in the meantime
+    watches_.push_back(events->ItemRemoved.connect([this](auto project) {
+        const auto path = project->FileName(); // it may have been saved in the meantime
+        if (members_.erase(path) == 0) remember(path);
+    }));
     fill();
 }
 
-void RecentProjects::remember(const vbide::Ref<vbide::VBProject>& project) {
-    const auto path = qt(project->FileName());
+void RecentProjects::remember(const std::string& file) {
+    const auto path = qt(file);
     if (path.isEmpty()) return;
     auto recent = stored();
     recent.removeAll(path);

@@ -4,6 +4,8 @@
 #include <QStringList>
 #include <functional>
 #include <memory>
+#include <set>
+#include <string>
 
 namespace host {
 class Bar;
@@ -22,11 +24,13 @@ public:
     static QStringList stored();
 
 private:
-    void remember(const vbide::Ref<vbide::VBProject>& project);
+    void remember(const std::string& file);
     void fill();
 
     std::shared_ptr<host::Bar> menu_;
     Open open_;
+    /// The open projects of groups. The list has their group instead.
+    std::set<std::string> members_;
     std::vector<fernwick::Subscription> watches_;
 };
 

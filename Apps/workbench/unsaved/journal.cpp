@@ -1,16 +1,54 @@
 #include "Apps/workbench/unsaved/journal.h"
 #include "Apps/workbench/base/text.h"
 #include "Host/files/atomic_save.h"
-#include "Host/files/journal_file.h"
 #include "Host/model/component.h"
+#include "Host/model/project.h"
 #include <QDateTime>
 #include <QEvent>
 #include <QFile>
+#include <algorithm>
+#include <set>
 
 namespace workbench {
 
 namespace {
+
 constexpr int kMillisecondsOfTyping = 1000;
+
+/// The text of a project that was never saved is nowhere else, nor are its components that the user left unchanged.
+bool isKeptWhole(const host::Project& project) {
+    const auto& all = project.components().list();
+    return project.FileName().empty() &&
+           (project.IsDirty() || std::any_of(all.begin(), all.end(), [](const auto& one) { return one->IsDirty(); }));
+}
+
+host::JournalEntry entryOf(const host::Project& project) {
+    host::JournalEntry entry;
+    entry.project = project.FileName().empty() ? project.Name() : project.FileName();
+    entry.bytes = project.file().bytes();
+    entry.written = QDateTime::currentSecsSinceEpoch();
+    return entry;
+}
+
+host::JournalEntry entryOf(const host::Project& project, host::Component& component) {
+    auto entry = entryOf(project);
+    entry.component = component.Name();
+    entry.type = component.Type();
+    entry.file = component.path();
+    entry.base = component.stamp();
+    entry.bytes = component.source().bytes();
+    return entry;
+}
+
+void addUnsaved(const vbide::Ref<vbide::VBProject>& project, std::set<std::shared_ptr<void>>& unsaved) {
+    const auto own = basic::cast<host::Project>(project).shared();
+    if (!own) return;
+    const bool isWhole = isKeptWhole(*own);
+    if (isWhole) unsaved.insert(own);
+    for (const auto& component : own->components().list())
+        if (isWhole || component->IsDirty()) unsaved.insert(component);
+}
+
 } // namespace
 
 Journal::Journal(host::Host& host, QWidget& window, QString base, Failed failed)
@@ -45,44 +83,42 @@ void Journal::write() {
     soon_.stop();
     dropSaved();
     const auto failed = basic::attempt([this] {
-        for (const auto& project : host_.VBProjects()->items())
-            for (const auto& component : project->VBComponents()->items())
-                if (component->IsDirty()) keep(project, component);
+        for (const auto& project : host_.VBProjects()->items()) keepProject(project);
     });
     // before the error is shown, as its box blocks the window, which writes again
     const bool wasFailing = std::exchange(failing_, failed.Number != 0);
     if (failing_ && !wasFailing) failed_(qt(failed.Description));
 }
 
-void Journal::keep(const vbide::Ref<vbide::VBProject>& project, const vbide::Ref<vbide::VBComponent>& component) {
-    const auto own = basic::cast<host::Component>(component).shared();
+void Journal::keepProject(const vbide::Ref<vbide::VBProject>& project) {
+    const auto own = basic::cast<host::Project>(project).shared();
     if (!own) return;
-    host::JournalEntry entry;
-    entry.bytes = own->source().bytes();
-    const auto digest = host::digestOf(entry.bytes);
-    const auto known = kept_.find(own);
-    if (known != kept_.end() && known->second.digest == digest) return;
+    if (isKeptWhole(*own)) keep(own, entryOf(*own));
+    for (const auto& component : own->components().list())
+        if (component->IsDirty() || isKeptWhole(*own)) keep(component, entryOf(*own, *component));
+}
 
-    entry.project = project->FileName();
-    entry.component = own->Name();
-    entry.type = own->Type();
-    entry.file = own->path();
-    entry.base = own->stamp();
-    entry.written = QDateTime::currentSecsSinceEpoch();
+void Journal::keep(const std::shared_ptr<void>& what, host::JournalEntry entry) {
+    const auto digest = host::digestOf(entry.bytes);
+    const auto known = kept_.find(what);
+    if (known != kept_.end() && known->second.digest == digest) return;
     if (!folder_) folder_ = JournalFolder::create(base_);
     const auto path =
         known != kept_.end() ? known->second.path : *folder_ / QString("%1.journal").arg(++count_, 4, 10, QChar('0'));
     host::atomicSave(text(path), host::encodeJournal(entry));
-    kept_[own] = {path, digest};
+    kept_[what] = {path, digest};
 }
 
 void Journal::dropSaved() {
-    for (auto at = kept_.begin(); at != kept_.end();) {
-        bool dirty = false;
-        (void)basic::attempt([&] { dirty = at->first->IsDirty(); }); // a removed component is discarded
-        if (!dirty) QFile::remove(at->second.path);
-        at = dirty ? std::next(at) : kept_.erase(at);
-    }
+    std::set<std::shared_ptr<void>> unsaved;
+    (void)basic::attempt([&] {
+        for (const auto& project : host_.VBProjects()->items()) addUnsaved(project, unsaved);
+    });
+    std::erase_if(kept_, [&unsaved](const auto& kept) {
+        const bool drops = unsaved.count(kept.first) == 0;
+        if (drops) QFile::remove(kept.second.path);
+        return drops;
+    });
 }
 
 } // namespace workbench

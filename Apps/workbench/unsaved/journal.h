@@ -1,6 +1,7 @@
 #pragma once
 // Stores unsaved changes, so that they survive a crash.
 #include "Apps/workbench/unsaved/journal_folder.h"
+#include "Host/files/journal_file.h"
 #include "Host/model/host.h"
 #include <QObject>
 #include <QTimer>
@@ -10,7 +11,7 @@
 
 namespace workbench {
 
-/// Writes each changed component of each open project about a second after the change, and at once when another window
+/// Writes each changed component of each open project, and all of a project that was never saved, about a second after the change, and at once when another window
 /// blocks this one, such as that of a compile. Removes what was saved or discarded.
 class Journal final : public QObject {
 public:
@@ -32,7 +33,8 @@ private:
         QString path;
         std::uint64_t digest = 0;
     };
-    void keep(const vbide::Ref<vbide::VBProject>& project, const vbide::Ref<vbide::VBComponent>& component);
+    void keepProject(const vbide::Ref<vbide::VBProject>& project);
+    void keep(const std::shared_ptr<void>& what, host::JournalEntry entry);
     void dropSaved();
 
     host::Host& host_;
@@ -40,7 +42,8 @@ private:
     Failed failed_;
     bool failing_ = false;
     std::shared_ptr<JournalFolder> folder_; ///< created when there is something to store
-    std::map<std::shared_ptr<vbide::VBComponent>, Kept> kept_;
+    /// By component, or by project for a project's own text.
+    std::map<std::shared_ptr<void>, Kept> kept_;
     int count_ = 0;
     QTimer soon_, tidySoon_;
     std::vector<fernwick::Subscription> watches_;

@@ -28,20 +28,24 @@ std::shared_ptr<host::Component> ownerOf(host::Project& project, const host::Jou
     return nullptr;
 }
 
+/// No handler hears of an added component: the add-in would replace a "Form1" by its template.
 void putBack(host::Project& project, const host::JournalEntry& entry) {
-    auto component = ownerOf(project, entry);
-    if (component)
+    if (isOfProject(entry)) return;
+    if (const auto component = ownerOf(project, entry))
         component->restore(entry.bytes, entry.base);
     else
-        component =
-            project.components().addSource(vbide::vbext_ComponentType(entry.type), entry.component, entry.bytes);
-    component->CodeModule()->CodePane()->Show();
+        project.components().addSource(vbide::vbext_ComponentType(entry.type), entry.component, entry.bytes);
+}
+
+void show(host::Project& project, const host::JournalEntry& entry) {
+    if (const auto component = isOfProject(entry) ? nullptr : ownerOf(project, entry))
+        component->CodeModule()->CodePane()->Show();
 }
 
 } // namespace
 
 Recovery::Recovery(host::Host& host, QWidget& window, QString base, Callbacks callbacks)
-    : host_(host), window_(window), base_(std::move(base)), callbacks_(std::move(callbacks)) {
+    : host_(host), window_(window), base_(std::move(base)), discarded_(base_), callbacks_(std::move(callbacks)) {
     soon_.setSingleShot(true);
     QObject::connect(&soon_, &QTimer::timeout, [this] { offerAll(); });
     watches_.push_back(host.Events()->VBProjectsEvents()->ItemAdded.connect([this](const auto& project) {
@@ -73,7 +77,8 @@ void Recovery::offer(const std::string& project, std::vector<Survivor> all) {
     for (const auto& survivor : all) lines << lineOf(survivor);
     QMessageBox box(QMessageBox::Question, kTitle, headlineOf(project, all), QMessageBox::NoButton, &window_);
     box.setTextFormat(Qt::PlainText);
-    box.setInformativeText(lines.join('\n') + "\n\n" + unsaved_texts::kWhatRestoreDoes);
+    box.setInformativeText(lines.join('\n') + "\n\n" +
+                           QString(unsaved_texts::kWhatRestoreDoes).arg(discarded_.folder()));
     box.setDetailedText(detailsOf(all));
     auto* const restores = box.addButton(unsaved_texts::kRestore, QMessageBox::AcceptRole);
     auto* const discards = box.addButton(unsaved_texts::kDiscard, QMessageBox::DestructiveRole);
@@ -81,24 +86,42 @@ void Recovery::offer(const std::string& project, std::vector<Survivor> all) {
     box.setDefaultButton(restores);
     box.exec();
     if (box.clickedButton() == restores) restore(project, all);
-    if (box.clickedButton() == discards)
-        for (const auto& survivor : all) QFile::remove(survivor.path);
+    if (box.clickedButton() == discards) discard(all);
+}
+
+void Recovery::discard(const std::vector<Survivor>& all) {
+    const auto failed = basic::attempt([&] {
+        for (const auto& survivor : all) discarded_.keep(survivor);
+    });
+    if (failed.Number != 0)
+        callbacks_.warn(QString(unsaved_texts::kNotDiscarded).arg(discarded_.folder(), qt(failed.Description)));
 }
 
 void Recovery::restore(const std::string& path, const std::vector<Survivor>& all) {
-    const auto project = basic::cast<host::Project>(opened(path)).shared();
-    if (!project) return; // the reason has been shown
     std::vector<QString> done;
-    for (const auto& survivor : all) {
-        const auto failed = basic::attempt([&] { putBack(*project, survivor.entry); });
-        if (failed.Number == 0)
-            done.push_back(survivor.path);
-        else
-            callbacks_.warn(
-                QString(unsaved_texts::kNotRestored).arg(qt(survivor.entry.component), qt(failed.Description)));
+    const auto putAllBack = [&](host::Project& project) {
+        for (const auto& survivor : all)
+            if (putBackOrWarn(project, survivor.entry)) done.push_back(survivor.path);
+    };
+    std::shared_ptr<host::Project> project;
+    const auto own = std::find_if(all.begin(), all.end(), [](const auto& one) { return isOfProject(one.entry); });
+    if (own != all.end()) {
+        project = basic::cast<host::Project>(host_.projects().addRestored(own->entry.bytes, putAllBack)).shared();
+    } else {
+        project = basic::cast<host::Project>(opened(path)).shared();
+        if (!project) return; // the reason has been shown
+        putAllBack(*project);
     }
+    for (const auto& survivor : all) (void)basic::attempt([&] { show(*project, survivor.entry); });
     callbacks_.keep(); // so that there is a journal at any time
     for (const auto& journal : done) QFile::remove(journal);
+}
+
+bool Recovery::putBackOrWarn(host::Project& project, const host::JournalEntry& entry) {
+    const auto failed = basic::attempt([&] { putBack(project, entry); });
+    if (failed.Number != 0)
+        callbacks_.warn(QString(unsaved_texts::kNotRestored).arg(qt(entry.component), qt(failed.Description)));
+    return failed.Number == 0;
 }
 
 vbide::Ref<vbide::VBProject> Recovery::opened(const std::string& path) {
@@ -107,7 +130,7 @@ vbide::Ref<vbide::VBProject> Recovery::opened(const std::string& path) {
             if (project->FileName() == path) return project;
         return nullptr;
     };
-    if (path.empty()) return host_.projects().addNew();
+    if (isNeverSaved(path)) return host_.projects().addNew();
     if (auto open = find()) return open;
     callbacks_.open(path);
     asked_.insert(path);

@@ -1,5 +1,6 @@
 #pragma once
 // Offers to restore the journals of programs that ended without saving.
+#include "Apps/workbench/unsaved/discarded_changes.h"
 #include "Apps/workbench/unsaved/survivors.h"
 #include "Host/model/host.h"
 #include <QTimer>
@@ -31,11 +32,14 @@ private:
     void setAside(const QString& path, const QString& why);
     void offer(const std::string& project, std::vector<Survivor> all);
     void restore(const std::string& project, const std::vector<Survivor>& all);
+    bool putBackOrWarn(host::Project& project, const host::JournalEntry& entry);
+    void discard(const std::vector<Survivor>& all);
     vbide::Ref<vbide::VBProject> opened(const std::string& path);
 
     host::Host& host_;
     QWidget& window_;
     QString base_;
+    DiscardedChanges discarded_;
     Callbacks callbacks_;
     std::set<std::string> asked_; ///< projects, until they are opened again
     QTimer soon_;

@@ -50,8 +50,13 @@ std::vector<Survivor> survivorsIn(const QString& base,
     return all;
 }
 
+bool isOfProject(const host::JournalEntry& entry) { return entry.component.empty(); }
+
+bool isNeverSaved(const std::string& project) { return !project.starts_with('/'); }
+
 QString lineOf(const Survivor& survivor) {
     const auto& entry = survivor.entry;
+    if (isOfProject(entry)) return unsaved_texts::kProjectsOwn;
     const auto file = qt(entry.file);
     const auto name =
         file.isEmpty() ? qt(entry.component) : QString("%1 (%2)").arg(qt(entry.component), QFileInfo(file).fileName());
@@ -78,7 +83,7 @@ QString headlineOf(const std::string& project, const std::vector<Survivor>& all)
     std::int64_t last = 0;
     for (const auto& survivor : all) last = std::max(last, survivor.entry.written);
     const auto when = QLocale().toString(QDateTime::fromSecsSinceEpoch(last), QLocale::ShortFormat);
-    const auto name = project.empty() ? QString(unsaved_texts::kNeverSaved) : QFileInfo(qt(project)).fileName();
+    const auto name = isNeverSaved(project) ? QString(unsaved_texts::kNeverSaved) : QFileInfo(qt(project)).fileName();
     return all.size() == 1 ? QString(unsaved_texts::kOneRecovered).arg(name, when)
                            : QString(unsaved_texts::kRecovered).arg(name, when).arg(all.size());
 }

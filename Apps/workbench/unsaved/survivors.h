@@ -22,6 +22,11 @@ std::vector<Survivor> survivorsIn(const QString& base,
 /// The newest text of each component. The older ones are offered another time.
 std::vector<Survivor> newestOf(std::vector<Survivor> all);
 
+/// Whether the text is that of a project's own file.
+bool isOfProject(const host::JournalEntry& entry);
+/// Whether a journal's project, a path or a name, was never saved.
+bool isNeverSaved(const std::string& project);
+
 /// Which project, how many files, and when they were written.
 QString headlineOf(const std::string& project, const std::vector<Survivor>& all);
 QString lineOf(const Survivor& survivor);

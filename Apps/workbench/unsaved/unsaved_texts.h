@@ -7,10 +7,13 @@ namespace workbench::unsaved_texts {
 inline constexpr auto kOneRecovered = "Unsaved changes to one file of %1 were recovered (from %2).";
 inline constexpr auto kRecovered = "Unsaved changes to %3 files of %1 were recovered (from %2).";
 inline constexpr auto kNeverSaved = "a project that was never saved";
+inline constexpr auto kProjectsOwn = "The project's own settings";
 inline constexpr auto kChangedOnDisk = "%1 - changed on disk since; saving will ask before overwriting it";
 inline constexpr auto kGoneFromDisk = "%1 - no longer on disk; saving will write it again";
 inline constexpr auto kDifferences = "%1 (- on disk, + recovered)";
-inline constexpr auto kWhatRestoreDoes = "Restore puts the changes into the editor without saving them.";
+inline constexpr auto kWhatRestoreDoes = "Restore puts the changes into the editor without saving them.\n"
+                                         "Discard moves them to files in %1";
+inline constexpr auto kNotDiscarded = "The changes could not be moved to %1 and are kept for later: %2";
 inline constexpr auto kRestore = "&Restore", kDiscard = "&Discard", kLater = "&Keep for Later";
 inline constexpr auto kDamaged = "Unsaved changes could not be recovered: %1\n\nThey remain in %2";
 inline constexpr auto kNotRestored = "The changes to %1 could not be restored and are kept for later: %2";

@@ -1,7 +1,6 @@
 #include "Apps/workbench/unsaved/unsaved_work.h"
-#include "Apps/workbench/base/title.h"
+#include "Apps/workbench/base/message_box.h"
 #include "Apps/workbench/unsaved/unsaved_texts.h"
-#include <QMessageBox>
 
 namespace workbench {
 
@@ -19,6 +18,6 @@ UnsavedWork::UnsavedWork(host::Host& host, QWidget& window, Callbacks callbacks)
                  },
                  [this](const QString& text) { warn(text); }}) {}
 
-void UnsavedWork::warn(const QString& text) { QMessageBox::warning(&window_, kTitle, text); }
+void UnsavedWork::warn(const QString& text) { showBox(&window_, QMessageBox::Warning, text); }
 
 } // namespace workbench

@@ -1,4 +1,5 @@
 #include "Apps/workbench/window/boxes.h"
+#include "Apps/workbench/base/message_box.h"
 #include "Apps/workbench/base/text.h"
 #include "Apps/workbench/base/title.h"
 #include "Apps/workbench/project/recent_projects.h"
@@ -15,6 +16,12 @@ constexpr auto kNoFernwickProject =
     "%1 is not a Fernwick project: its section [Quinloft Global] has no line IsQuinloftProject=True. Create a project "
     "from the template \"Fernwick Project\", or add that section with ProjectVersion=3.5.";
 
+constexpr auto kNotConnected =
+    "The Fernwick add-in is not connected. Choose Fernwick in the Add-Ins menu to connect it.";
+constexpr auto kOpenedTooEarly =
+    "%1 was opened before the Fernwick add-in was connected. Close the project and open it "
+    "again.";
+
 constexpr auto kAboutTitle = "About Fernwick Workbench";
 constexpr auto kAbout = "<b>Fernwick Workbench %1</b><p>Turns Visual Basic 6 projects into applications for handhelds."
                         "<p>With Qt %2.";
@@ -30,17 +37,16 @@ void showError(std::exception_ptr error, QWidget* window) {
     try {
         std::rethrow_exception(std::move(error));
     } catch (const basic::RuntimeError& e) {
-        QMessageBox::critical(window, kTitle, qt(e.Description));
-    } catch (const std::exception& e) { QMessageBox::critical(window, kTitle, e.what()); }
+        showBox(window, QMessageBox::Critical, qt(e.Description));
+    } catch (const std::exception& e) { showBox(window, QMessageBox::Critical, e.what()); }
 }
 
-void showHandlerError(const basic::ErrObject& error, QWidget* window) {
-    QMessageBox::warning(
-        window, kTitle,
-        QString("%1 (error %2 of %3)").arg(qt(error.Description)).arg(error.Number).arg(qt(error.Source)));
+void showHandlerError(const basic::ErrObject& error, const std::string& source, QWidget* window) {
+    showBox(window, QMessageBox::Warning,
+            QString("%1 (error %2 of %3)").arg(qt(error.Description)).arg(error.Number).arg(qt(source)));
 }
 
-void showInformation(const QString& text, QWidget* window) { QMessageBox::information(window, kTitle, text); }
+void showInformation(const QString& text, QWidget* window) { showBox(window, QMessageBox::Information, text); }
 
 void showProblems(const std::vector<host::LoadProblem>& problems, QWidget* window) {
     if (problems.empty()) return;
@@ -49,13 +55,20 @@ void showProblems(const std::vector<host::LoadProblem>& problems, QWidget* windo
     constexpr qsizetype kMostShown = 5;
     QMessageBox box(QMessageBox::Warning, kTitle,
                     "Parts of the project could not be loaded:\n\n" + lines.mid(0, kMostShown).join('\n'),
-                    QMessageBox::Ok, window);
+                    QMessageBox::NoButton, window);
+    addButtons(box, QMessageBox::Ok);
     if (lines.size() > kMostShown) box.setDetailedText(lines.join('\n'));
     box.exec();
 }
 
 void showNoFernwickProject(const std::string& project, QWidget* window) {
     showInformation(QString(kNoFernwickProject).arg(qt(project)), window);
+}
+
+void showNotConnected(QWidget* window) { showInformation(kNotConnected, window); }
+
+void showOpenedTooEarly(const std::string& project, QWidget* window) {
+    showInformation(QString(kOpenedTooEarly).arg(qt(project)), window);
 }
 
 void showAbout(QWidget* window) {
@@ -74,7 +87,8 @@ bool askToTrust(const std::string& folder, const QStringList& steps) {
                     QString("The project in %1 runs these command lines before or after a compile:\n\n%2\n\nTrust this "
                             "folder and run them?")
                         .arg(qt(folder), steps.join('\n')),
-                    QMessageBox::Yes | QMessageBox::No, QApplication::activeWindow());
+                    QMessageBox::NoButton, QApplication::activeWindow());
+    addButtons(box, QMessageBox::Yes | QMessageBox::No);
     box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(QMessageBox::No);
     return box.exec() == QMessageBox::Yes;

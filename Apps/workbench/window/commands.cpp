@@ -11,10 +11,11 @@ namespace workbench {
 
 namespace {
 
-constexpr auto kAlways = Enabled::Always, kInCode = Enabled::InCode, kInTabs = Enabled::InTabs;
+constexpr auto kAlways = Enabled::Always, kInCode = Enabled::InCode, kInEditor = Enabled::InEditor,
+               kInText = Enabled::InText, kCanUndo = Enabled::CanUndo;
 constexpr QKeyCombination kNoKey{};
 
-/// The editor in front, which commands that are enabled in code have.
+/// The editor in front, which commands that are enabled in an editor have.
 QsciScintilla& textOf(const CommandTargets& on) { return on.window.code().current()->scintilla(); }
 
 CodeCommands& actions(const CommandTargets& on) { return on.window.codeCommands(); }
@@ -22,12 +23,7 @@ CodeCommands& actions(const CommandTargets& on) { return on.window.codeCommands(
 /// The component that the user works on.
 ComponentRef inHand(const CommandTargets& on) { return on.window.design().inHand(); }
 
-void undo(const CommandTargets& on) {
-    if (auto* const editor = on.window.code().current())
-        editor->scintilla().undo();
-    else
-        on.window.design().undo();
-}
+EditFocus& edited(const CommandTargets& on) { return on.window.editFocus(); }
 
 void saveProjectAs(const CommandTargets& on) {
     if (const auto active = on.host.ActiveVBProject()) saveUnderNewName(active, &on.window);
@@ -58,14 +54,14 @@ const Command kFileCommands[] = {
 };
 
 const Command kEditCommands[] = {
-    {kUndoId, "&Undo", Qt::CTRL | Qt::Key_Z, kInTabs, undo},
-    {kRedoId, "&Redo", Qt::CTRL | Qt::SHIFT | Qt::Key_Z, kInCode, [](auto& on) { textOf(on).redo(); }},
+    {kUndoId, "&Undo", Qt::CTRL | Qt::Key_Z, kCanUndo, [](auto& on) { edited(on).undo(); }},
+    {kRedoId, "&Redo", Qt::CTRL | Qt::SHIFT | Qt::Key_Z, kInText, [](auto& on) { edited(on).edit("redo"); }},
     {kGroup},
-    {kCutId, "Cu&t", Qt::CTRL | Qt::Key_X, kInCode, [](auto& on) { textOf(on).cut(); }},
-    {kCopyId, "&Copy", Qt::CTRL | Qt::Key_C, kInCode, [](auto& on) { textOf(on).copy(); }},
-    {kPasteId, "&Paste", Qt::CTRL | Qt::Key_V, kInCode, [](auto& on) { textOf(on).paste(); }},
-    {kCutLineId, "Cut &Line", Qt::CTRL | Qt::Key_Y, kInCode, [](auto& on) { cutLine(textOf(on)); }},
-    {kSelectAllId, "Select &All", Qt::CTRL | Qt::Key_A, kInCode, [](auto& on) { textOf(on).selectAll(); }},
+    {kCutId, "Cu&t", Qt::CTRL | Qt::Key_X, kInText, [](auto& on) { edited(on).edit("cut"); }},
+    {kCopyId, "&Copy", Qt::CTRL | Qt::Key_C, kInText, [](auto& on) { edited(on).edit("copy"); }},
+    {kPasteId, "&Paste", Qt::CTRL | Qt::Key_V, kInText, [](auto& on) { edited(on).edit("paste"); }},
+    {kCutLineId, "Cut &Line", Qt::CTRL | Qt::Key_Y, kInEditor, [](auto& on) { cutLine(textOf(on)); }},
+    {kSelectAllId, "Select &All", Qt::CTRL | Qt::Key_A, kInText, [](auto& on) { edited(on).edit("selectAll"); }},
     {kGroup},
     {kFindId, "&Find...", Qt::CTRL | Qt::Key_F, kInCode, [](auto& on) { on.window.findBar().open(false); }},
     {kFindNextId, "Find &Next", Qt::Key_F3, kInCode, [](auto& on) { on.window.findBar().findAgain(false); }},
@@ -73,28 +69,34 @@ const Command kEditCommands[] = {
      [](auto& on) { on.window.findBar().findAgain(true); }},
     {kReplaceId, "R&eplace...", Qt::CTRL | Qt::Key_H, kInCode, [](auto& on) { on.window.findBar().open(true); }},
     {kGroup},
-    {kIndentId, "&Indent", kNoKey, kInCode, [](auto& on) { indentLines(textOf(on)); }},
-    {kOutdentId, "&Outdent", kNoKey, kInCode, [](auto& on) { outdentLines(textOf(on)); }},
-    {kCommentId, "Co&mment Block", kNoKey, kInCode, [](auto& on) { commentLines(textOf(on)); }},
-    {kUncommentId, "Uncomment Bloc&k", kNoKey, kInCode, [](auto& on) { uncommentLines(textOf(on)); }},
+    {kIndentId, "&Indent", kNoKey, kInEditor, [](auto& on) { indentLines(textOf(on)); }},
+    {kOutdentId, "&Outdent", kNoKey, kInEditor, [](auto& on) { outdentLines(textOf(on)); }},
+    {kCommentId, "Co&mment Block", kNoKey, kInEditor, [](auto& on) { commentLines(textOf(on)); }},
+    {kUncommentId, "Uncomment Bloc&k", kNoKey, kInEditor, [](auto& on) { uncommentLines(textOf(on)); }},
     {kGroup},
-    {kNextProcedureId, "Ne&xt Procedure", Qt::CTRL | Qt::Key_Down, kInCode,
+    {kNextProcedureId, "Ne&xt Procedure", Qt::CTRL | Qt::Key_Down, kInEditor,
      [](auto& on) { actions(on).goToProcedure(false); }},
-    {kPreviousProcedureId, "Previou&s Procedure", Qt::CTRL | Qt::Key_Up, kInCode,
+    {kPreviousProcedureId, "Previou&s Procedure", Qt::CTRL | Qt::Key_Up, kInEditor,
      [](auto& on) { actions(on).goToProcedure(true); }},
-    {kGoToLineId, "&Go to Line...", Qt::CTRL | Qt::Key_G, kInCode,
+    {kGoToLineId, "&Go to Line...", Qt::CTRL | Qt::Key_G, kInEditor,
      [](auto& on) { actions(on).askForLine(&on.window); }},
 };
 
-// the docks' switches are added after these
+// the commands that show docks are added before the toolbars
 const Command kViewCommands[] = {
     {kViewCodeId, "&Code", Qt::Key_F7, kAlways, [](auto& on) { on.window.design().showCode(); }},
     {kViewObjectId, "O&bject", Qt::SHIFT | Qt::Key_F7, kAlways, [](auto& on) { on.window.design().showObject(); }},
-    {kDefinitionId, "&Definition", Qt::SHIFT | Qt::Key_F2, kInCode, [](auto& on) { actions(on).showDefinition(); }},
-    {kLastPositionId, "Last Positio&n", Qt::CTRL | Qt::SHIFT | Qt::Key_F2, kInCode,
+    {kDefinitionId, "&Definition", Qt::SHIFT | Qt::Key_F2, kInEditor, [](auto& on) { actions(on).showDefinition(); }},
+    {kLastPositionId, "Last Positio&n", Qt::CTRL | Qt::SHIFT | Qt::Key_F2, kInEditor,
      [](auto& on) { actions(on).showLastPosition(); }},
     {kGroup},
     {kToolBarsMenuId, "&Toolbars"},
+    {kGroup},
+    {kZoomInId, "Zoom &In", Qt::CTRL | Qt::Key_Plus, kInCode, [](auto& on) { on.window.code().zoomBy(+1); },
+     Qt::CTRL | Qt::Key_Equal},
+    {kZoomOutId, "Zoom O&ut", Qt::CTRL | Qt::Key_Minus, kInCode, [](auto& on) { on.window.code().zoomBy(-1); }},
+    {kResetZoomId, "&Reset Zoom", Qt::CTRL | Qt::Key_0, kInCode, [](auto& on) { on.window.code().resetZoom(); }},
+    {kGroup},
     {kThemeId, "Dar&k Theme", kNoKey, kAlways, switchTheme},
 };
 
@@ -160,9 +162,10 @@ DockCommand dockCommandOf(const QString& dock) {
 CommandLook commandLookOf(int id) {
     for (const auto& menu : kCommandMenus)
         for (const auto& command : menu.commands)
-            if (command.id == id) return {sequenceOf(command.key), iconOfCommand(id)};
+            if (command.id == id)
+                return {sequenceOf(command.key), sequenceOf(command.otherKey), iconOfCommand(id)};
     for (const auto& command : kDockCommands)
-        if (command.id == id) return {sequenceOf(command.key), iconOfCommand(id)};
+        if (command.id == id) return {sequenceOf(command.key), {}, iconOfCommand(id)};
     return {};
 }
 

@@ -65,6 +65,9 @@ enum CommandId : int {
     kGoToLineId,
     kDefinitionId,
     kLastPositionId,
+    kZoomInId,
+    kZoomOutId,
+    kResetZoomId,
 };
 
 /// The program's actions that commands call.
@@ -88,8 +91,10 @@ struct CommandTargets {
 /// Where a command is enabled.
 enum class Enabled {
     Always,
-    InCode, ///< while a code window is in front
-    InTabs, ///< while any tab is in front, code or form
+    InCode,   ///< while a code window is in front
+    InEditor, ///< while the text of a code window has the focus
+    InText,   ///< while any text that can be edited has the focus
+    CanUndo,  ///< the same, and while a form that is in front has the focus
 };
 
 struct Command {
@@ -100,6 +105,8 @@ struct Command {
     Enabled enabled = Enabled::Always;
     /// Null for a submenu, or for a command of the host that keeps its action.
     void (*act)(const CommandTargets&) = nullptr;
+    /// A second key, which menus do not show.
+    QKeyCombination otherKey{};
 };
 
 /// The commands of one menu, in order.
@@ -109,7 +116,7 @@ struct CommandMenu {
 };
 std::span<const CommandMenu> commandMenus();
 
-/// The switch of a dock in the View menu.
+/// The command that shows a dock, in the View menu.
 struct DockCommand {
     const char* dock; ///< its object name
     int id = kDockId;
@@ -119,7 +126,7 @@ struct DockCommand {
 /// A dock without a row in the table gets a command without a key.
 DockCommand dockCommandOf(const QString& dock);
 
-/// The key and icon of a command or of a dock's switch.
+/// The keys and icon of a command.
 CommandLook commandLookOf(int id);
 
 } // namespace workbench

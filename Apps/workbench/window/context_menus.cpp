@@ -45,7 +45,7 @@ void fillFrom(QMenu& menu, host::Host& host, const std::vector<int>& ids, const 
 
 void showExplorerMenu(host::Host& host, ProjectExplorer& explorer, const Run& run, const QPoint& at) {
     if (!explorer.currentItem()) return;
-    if (const auto project = explorer.currentProject()) // the commands work on the active one
+    if (const auto project = explorer.projectOfCurrent()) // the commands work on the active one
         run([&] { host.ActiveVBProject(project); });
     QMenu menu;
     fillFrom(menu, host, commandsFor(explorer), run,

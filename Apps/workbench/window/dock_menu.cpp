@@ -3,8 +3,6 @@
 #include "Apps/workbench/base/text.h"
 #include "Apps/workbench/window/commands.h"
 #include <QAbstractItemView>
-#include <QAction>
-#include <QApplication>
 #include <QDockWidget>
 #include <QPointer>
 
@@ -22,26 +20,21 @@ QWidget* focusTarget(QDockWidget& dock) {
     return dock.widget();
 }
 
-void focusOrHide(QDockWidget& dock) {
-    const auto* const focus = QApplication::focusWidget();
-    if (!dock.isHidden() && focus && dock.isAncestorOf(focus)) return dock.hide();
+void showAndFocus(QDockWidget& dock) {
     dock.show();
     dock.raise();
     if (auto* target = focusTarget(dock)) target->setFocus(Qt::ShortcutFocusReason);
 }
 
-void addSwitch(host::Bar& menu, QDockWidget& dock, bool isFirst) {
+void addCommand(host::Host& host, QDockWidget& dock, bool isFirst) {
+    const auto menu = controlOf(host, host::kViewMenuId)->popup();
     const auto command = dockCommandOf(dock.objectName());
-    const auto control = menu.add(office::msoControlButton, command.id);
+    const auto control = menu->add(office::msoControlButton, command.id, controlOf(host, kToolBarsMenuId)->Index());
     control->Caption(command.text ? command.text : text(dock.windowTitle()));
     control->BeginGroup(isFirst);
-    control->checked(!dock.isHidden());
     control->action = [link = QPointer(&dock)] {
-        if (link) focusOrHide(*link);
+        if (link) showAndFocus(*link);
     };
-    QObject::connect(dock.toggleViewAction(), &QAction::toggled, &dock, [link = std::weak_ptr(control)](bool shown) {
-        if (const auto present = link.lock()) present->checked(shown);
-    });
 }
 
 void fillToolBars(host::Bars& bars, host::Bar& popup) {
@@ -57,10 +50,9 @@ void fillToolBars(host::Bars& bars, host::Bar& popup) {
 
 } // namespace
 
-void addDockSwitches(host::Host& host, Docks& docks) {
-    const auto menu = controlOf(host, host::kViewMenuId)->popup();
-    for (auto* dock : docks.all()) addSwitch(*menu, *dock, dock == docks.all().front());
-    docks.added = [menu](QDockWidget& dock) { addSwitch(*menu, dock, false); };
+void addDockCommands(host::Host& host, Docks& docks) {
+    for (auto* dock : docks.all()) addCommand(host, *dock, dock == docks.all().front());
+    docks.added = [&host](QDockWidget& dock) { addCommand(host, dock, false); };
 }
 
 void addToolBarSwitches(host::Host& host) {

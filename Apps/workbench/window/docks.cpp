@@ -50,6 +50,7 @@ void Docks::drawToolWindow(const std::shared_ptr<host::ToolWindow>& window) {
     if (!messages) return; // the only kind of document that the desktop can draw
     const auto title = qt(window->Caption());
     auto* const view = new MessagesView(messages, run_);
+    view->isStatusCurrent = [this] { return isStatusCurrent(); };
     view->drawn = [this, messages] { markMessages(*messages); };
     window_.addActions(view->walk());
     auto* dock = window_.findChild<QDockWidget*>(title);
@@ -60,6 +61,11 @@ void Docks::drawToolWindow(const std::shared_ptr<host::ToolWindow>& window) {
         dock = add(title, title, view, Qt::BottomDockWidgetArea);
     drawn_[window] = dock;
     follow(*window, *dock);
+}
+
+void Docks::drawMessagesSoon() {
+    for (const auto& [window, dock] : drawn_)
+        if (auto* const view = dock ? dynamic_cast<MessagesView*>(dock->widget()) : nullptr) view->drawSoon();
 }
 
 void Docks::follow(host::ToolWindow& window, QDockWidget& dock) {

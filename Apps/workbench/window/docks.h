@@ -25,6 +25,10 @@ public:
     /// Called for each dock that is added later.
     std::function<void(QDockWidget&)> added = [](QDockWidget&) {};
 
+    /// See MessagesView.
+    std::function<bool()> isStatusCurrent = [] { return true; };
+    void drawMessagesSoon();
+
     /// Draws the host's tool windows now and whenever one is added.
     void followToolWindows();
     /// Shows or hides the docks like the host's tool windows.

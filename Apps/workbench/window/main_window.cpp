@@ -2,11 +2,14 @@
 #include "Apps/workbench/bars/bar_controls.h"
 #include "Apps/workbench/base/text.h"
 #include "Apps/workbench/base/title.h"
+#include "Apps/workbench/project/project_saving.h"
 #include "Apps/workbench/window/commands.h"
 #include "Basic/conversions.h"
+#include <QApplication>
 #include <QBoxLayout>
 #include <QCloseEvent>
 #include <QDockWidget>
+#include <QScreen>
 #include <QSettings>
 
 namespace workbench {
@@ -27,7 +30,8 @@ MainWindow::MainWindow(host::Host& host, Run run, MayClose mayClose)
       mayClose_(std::move(mayClose)),
       code_(new CodeWindows(host, [this](std::exception_ptr error) { run_([&] { std::rethrow_exception(error); }); })),
       findBar_(new FindBar(*code_, run_)),
-      codeCommands_(*code_, *findBar_),
+      notice_(new NoticeBar),
+      codeCommands_(*code_, *notice_),
       docks_(host, *this, *code_, run_),
       explorer_(new ProjectExplorer(host.shared_from_this(),
                                     {[this](auto project) { run_([&] { host_.ActiveVBProject(project); }); },
@@ -35,18 +39,27 @@ MainWindow::MainWindow(host::Host& host, Run run, MayClose mayClose)
                                      [this] { code_->refreshSoon(); }})),
       explorerDock_(docks_.add("explorerDock", "Project", explorer_, Qt::RightDockWidgetArea)),
       design_(new DesignDesk(host, *code_, *explorer_, run_)),
+      editFocus_(new EditFocus(*code_, *design_)),
       propertiesDock_(docks_.add("propertiesDock", "Properties", &design_->properties(), Qt::RightDockWidgetArea)),
       toolboxDock_(docks_.add("toolboxDock", "Toolbox", &design_->toolbox(), Qt::LeftDockWidgetArea)),
       bars_(host.bars(), *this, run_, commandLookOf) {
     setObjectName("workbench");
     buildCentre();
-    resize(kUsualWidth, kUsualHeight);
+    resize(usualSize());
     resizeDocks({explorerDock_, toolboxDock_}, {kUsualExplorerWidth, kUsualToolboxWidth}, Qt::Horizontal);
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
     setAnimated(false); // a toolbar must be in its final place when its place is written to the model
     watchProjects();
+    watchFocus();
     docks_.followToolWindows();
     showTitle();
+}
+
+/// Leaves room for the frame, which has no size yet.
+QSize MainWindow::usualSize() const {
+    constexpr int kFrameWidth = 16, kFrameHeight = 48;
+    const auto free = screen()->availableSize() - QSize(kFrameWidth, kFrameHeight);
+    return QSize(kUsualWidth, kUsualHeight).boundedTo(free);
 }
 
 /// The tabs, with the find bar below them.
@@ -56,6 +69,7 @@ void MainWindow::buildCentre() {
     rows->setContentsMargins(0, 0, 0, 0);
     rows->setSpacing(0);
     rows->addWidget(code_, 1);
+    rows->addWidget(notice_);
     rows->addWidget(findBar_);
     setCentralWidget(centre);
     code_->setAccessibleName("Code windows");
@@ -73,6 +87,27 @@ void MainWindow::watchProjects() {
     watches_.push_back(events->ItemRemoved.connect(soon));
     watches_.push_back(events->ItemRenamed.connect(soon));
     watches_.push_back(host_.panes.codeChanged.connect([this](const auto&) { explorer_->refreshSoon(); }));
+}
+
+/// As in the language's own IDE, the project of the window that the user works in is the active one.
+void MainWindow::watchFocus() {
+    activateSoon_.setSingleShot(true);
+    activateSoon_.setInterval(0); // saving closes a designer and opens it again
+    connect(&activateSoon_, &QTimer::timeout, this, [this] { activateProjectInFront(); });
+    connect(code_, &QTabWidget::currentChanged, this, [this] { activateSoon_.start(); });
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+        if (now && code_->isAncestorOf(now)) activateSoon_.start();
+    });
+}
+
+void MainWindow::activateProjectInFront() {
+    auto* const focus = QApplication::focusWidget();
+    if (!focus || !code_->isAncestorOf(focus)) return; // a run goes on, or the user is elsewhere
+    const auto* const form = design_->forms().current();
+    const auto* const editor = code_->current();
+    const auto component = form ? form->component() : editor ? editor->component() : nullptr;
+    const auto project = component ? projectOf(component) : nullptr;
+    if (project && project != host_.ActiveVBProject()) run_([&] { host_.ActiveVBProject(project); });
 }
 
 void MainWindow::showTitle() {

@@ -1,10 +1,13 @@
 #pragma once
 // The window of the IDE: it draws the host's model and contains none of the add-in's behaviour.
 #include "Apps/workbench/bars/bars_view.h"
+#include "Apps/workbench/base/notice_bar.h"
 #include "Apps/workbench/code/code_commands.h"
+#include "Apps/workbench/code/find_bar.h"
 #include "Apps/workbench/designer/design_desk.h"
 #include "Apps/workbench/project/project_explorer.h"
 #include "Apps/workbench/window/docks.h"
+#include "Apps/workbench/window/edit_focus.h"
 #include "Host/model/host.h"
 #include <QMainWindow>
 
@@ -19,10 +22,13 @@ public:
 
     CodeWindows& code() { return *code_; }
     FindBar& findBar() { return *findBar_; }
+    NoticeBar& notice() { return *notice_; }
     CodeCommands& codeCommands() { return codeCommands_; }
     ProjectExplorer& explorer() { return *explorer_; }
     /// Form views and the properties window.
     DesignDesk& design() { return *design_; }
+    EditFocus& editFocus() { return *editFocus_; }
+    BarsView& bars() { return bars_; }
     Docks& docks() { return docks_; }
     QDockWidget& explorerDock() { return *explorerDock_; }
     QDockWidget& propertiesDock() { return *propertiesDock_; }
@@ -40,7 +46,10 @@ protected:
 
 private:
     void buildCentre();
+    QSize usualSize() const;
     void watchProjects();
+    void watchFocus();
+    void activateProjectInFront();
     void showTitle();
     void showTheme(Theme theme);
 
@@ -49,16 +58,18 @@ private:
     MayClose mayClose_;
     CodeWindows* code_;
     FindBar* findBar_;
+    NoticeBar* notice_;
     CodeCommands codeCommands_;
     Docks docks_;
     ProjectExplorer* explorer_;
     QDockWidget* explorerDock_;
     DesignDesk* design_;
+    EditFocus* editFocus_;
     QDockWidget* propertiesDock_;
     QDockWidget* toolboxDock_;
     /// The host's own bars, whose places are in the user's settings.
     std::vector<office::Ref<office::CommandBar>> ownBars_;
-    QTimer titleSoon_;
+    QTimer titleSoon_, activateSoon_;
     std::vector<fernwick::Subscription> watches_;
     BarsView bars_;
 };

@@ -11,9 +11,13 @@ namespace {
 
 constexpr int kTopOfWindow = 1;
 
-using Controls = std::vector<std::shared_ptr<host::BarControl>>;
+/// A control that is enabled only in some places.
+struct PlacedControl {
+    std::shared_ptr<host::BarControl> control;
+    Enabled where;
+};
 
-/// Fills the menus and keeps the controls that are enabled only in some tabs.
+/// Fills the menus and keeps the controls that are enabled only in some places.
 class MenuFiller {
 public:
     explicit MenuFiller(const CommandTargets& targets) : targets_(targets) {}
@@ -27,8 +31,7 @@ public:
             else
                 add(*bar, command, std::exchange(group, false));
     }
-    const Controls& inCode() const { return inCode_; }
-    const Controls& inTabs() const { return inTabs_; }
+    const std::vector<PlacedControl>& placed() const { return placed_; }
 
 private:
     void add(host::Bar& bar, const Command& command, bool group) {
@@ -40,30 +43,25 @@ private:
         }
         if (command.text) control->Caption(command.text);
         if (command.act) control->action = actionOf(command);
-        if (command.enabled == Enabled::InCode) inCode_.push_back(control);
-        if (command.enabled == Enabled::InTabs) inTabs_.push_back(control);
+        if (command.enabled != Enabled::Always) placed_.push_back({control, command.enabled});
     }
 
     /// An add-in may execute a control that is disabled.
     std::function<void()> actionOf(const Command& command) const {
-        if (command.enabled != Enabled::InCode) return [on = targets_, act = command.act] { act(on); };
-        return [on = targets_, act = command.act] {
-            if (on.window.code().current()) act(on);
+        return [on = targets_, act = command.act, where = command.enabled] {
+            if (on.window.editFocus().allows(where)) act(on);
         };
     }
 
     CommandTargets targets_;
-    Controls inCode_, inTabs_;
+    std::vector<PlacedControl> placed_;
 };
 
-void enableWithTabs(CodeWindows& tabs, const Controls& inCode, const Controls& inTabs) {
-    const auto enable = [&tabs, inCode, inTabs](int index) {
-        const bool hasTab = index >= 0, hasEditor = hasTab && tabs.current();
-        for (const auto& control : inCode) control->Enabled(hasEditor);
-        for (const auto& control : inTabs) control->Enabled(hasTab);
+void enableWhereAllowed(EditFocus& focus, const std::vector<PlacedControl>& placed) {
+    focus.changed = [&focus, placed] {
+        for (const auto& [control, where] : placed) control->Enabled(focus.allows(where));
     };
-    QObject::connect(&tabs, &QTabWidget::currentChanged, &tabs, enable);
-    enable(tabs.currentIndex());
+    focus.changed();
 }
 
 /// Lists the add-ins, each a switch that connects it.
@@ -106,12 +104,12 @@ void addMenus(const CommandTargets& targets) {
     addTopMenu(host, kWindowMenuId, "&Window", host::kHelpMenuId);
     MenuFiller filler(targets);
     for (const auto& menu : commandMenus()) filler.fill(menu);
-    enableWithTabs(targets.window.code(), filler.inCode(), filler.inTabs());
+    enableWhereAllowed(targets.window.editFocus(), filler.placed());
+    addStandardToolbar(host);
     addToolBarSwitches(host);
-    addDockSwitches(host, targets.window.docks());
+    addDockCommands(host, targets.window.docks());
     addAddInsMenu(host);
     listWindows(host, targets.window.code());
-    addStandardToolbar(host);
 }
 
 std::shared_ptr<host::Bar> recentMenu(host::Host& host) { return controlOf(host, kRecentMenuId)->popup(); }

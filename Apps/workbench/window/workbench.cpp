@@ -1,4 +1,5 @@
 #include "Apps/workbench/window/workbench.h"
+#include "Add-in/core/error_source.h"
 #include "Apps/common/compile_steps.h"
 #include "Apps/common/source_code_page.h"
 #include "Apps/common/trusted_folders.h"
@@ -8,8 +9,9 @@
 #include "Apps/workbench/project/project_saving.h"
 #include "Apps/workbench/window/context_menus.h"
 #include "Apps/workbench/window/menus.h"
+#include "Apps/workbench/window/missing_commands.h"
+#include "Apps/workbench/window/page_window.h"
 #include "Host/model/projects.h"
-#include <algorithm>
 
 namespace workbench {
 
@@ -18,9 +20,8 @@ Workbench::Workbench()
                 std::make_unique<host::Processes>([this](const std::string& commandLine, const std::string& folder) {
                     return mayRunSteps(commandLine, folder);
                 }),
-                [this](const std::string& document) {
-                    showInformation("No installed program can show " + qt(document), window_.get());
-                }}),
+                [this](const std::string& document) { showWithoutBrowser(qt(document), window_.get()); },
+                std::make_unique<host::FileSystem>(), [this] { openingCheck_.start(); }}),
       connections_(machine_.platform()),
       host_(host::Host::create(hostOptions())) {
     apps::compileInHostCodePages(machine_, host_);
@@ -31,6 +32,12 @@ Workbench::Workbench()
     QObject::connect(&problemsSoon_, &QTimer::timeout, [this] { showProblems(host_->loadProblems(), window_.get()); });
     projectAdded_ =
         host_->Events()->VBProjectsEvents()->ItemAdded.connect([this](const auto&) { problemsSoon_.start(); });
+    constexpr int kMillisecondsBetweenChecks = 200;
+    openingCheck_.setInterval(kMillisecondsBetweenChecks);
+    QObject::connect(&openingCheck_, &QTimer::timeout, [this] {
+        if (!machine_.shell().checkOpened()) openingCheck_.stop();
+    });
+    window_->bars().unavailable = [this](const auto& control) { return whyUnavailable(addIn(), control); };
     window_->restoreLayout();
 }
 
@@ -43,6 +50,19 @@ void Workbench::buildWindow() {
     addEditorMenu(*host_, window_->code(), runHere);
     recent_ = std::make_unique<RecentProjects>(*host_, recentMenu(*host_), [this](const auto& path) { open(path); });
     unsaved_ = std::make_unique<UnsavedWork>(*host_, *window_, unsavedCallbacks());
+    watchForms();
+}
+
+void Workbench::watchForms() {
+    transfers_ =
+        std::make_unique<TransferNotice>(machine_, connections_, window_->notice(), [this](const auto& act) { run(act); });
+    user_.closed = [this](const fernwick::Form& form) {
+        window_->docks().drawMessagesSoon();
+        transfers_->formClosed(form);
+    };
+    window_->docks().isStatusCurrent = [this] {
+        return user_.isShowingForm() || addIn().messages.status() != fernwick::RunStatus::Running;
+    };
 }
 
 Workbench::~Workbench() {
@@ -54,7 +74,9 @@ Workbench::~Workbench() {
 
 host::HostOptions Workbench::hostOptions() {
     auto options = apps::hostOptionsOf(machine_, controls_);
-    options.handlerFailed = [this](const basic::ErrObject& error) { showHandlerError(error, window_.get()); };
+    options.handlerFailed = [this](const basic::ErrObject& error) {
+        showHandlerError(error, fernwick::errorSource(error.Source, machine_.platform().app), window_.get());
+    };
     options.mayReplaceChanged = mayReplaceChanged;
     options.askForProject = [this] { return askForProjectFile(window_.get()); };
     return options;
@@ -98,13 +120,9 @@ void Workbench::open(const std::string& path) {
     run([&] { host_->VBProjects()->AddFromFile(path); });
 }
 
-/// An add-in adopts one open project when it is connected; it learns of further ones only from the host's events.
 void Workbench::begin(const std::vector<std::string>& projects) {
-    const auto isGroup = [](const std::string& path) { return qt(path).endsWith(".vbg", Qt::CaseInsensitive); };
-    const bool several = projects.size() > 1 || std::any_of(projects.begin(), projects.end(), isGroup);
-    if (several) connect();
+    connect();
     for (const auto& project : projects) open(project);
-    if (!several) connect();
 }
 
 void Workbench::connect() {
@@ -124,10 +142,14 @@ void Workbench::run(const std::function<void()>& act) {
 void Workbench::startActive() {
     const auto active = host_->ActiveVBProject();
     if (!active) return;
-    const auto project = addIn().projects.GetQLProject(active);
-    if (!project || !project->IsQuinloftProject()) return showNoFernwickProject(active->Name(), window_.get());
+    if (!isConnected()) return showNotConnected(window_.get());
+    const auto project = addIn().projects.FindQLProject(active);
+    if (!project) return showOpenedTooEarly(active->Name(), window_.get());
+    if (!project->IsQuinloftProject()) return showNoFernwickProject(active->Name(), window_.get());
     if (compiled(active)) addIn().sendToDevice.SendProjectToDevice(project, false, project->TargetDevice());
 }
+
+bool Workbench::isConnected() const { return host_->Addins()->Item(apps::kAddInProgId)->Connect(); }
 
 /// Shows the messages if the project does not compile.
 bool Workbench::compiled(const vbide::Ref<vbide::VBProject>& project) {

@@ -10,6 +10,7 @@
 #include "Apps/workbench/window/boxes.h"
 #include "Apps/workbench/window/commands.h"
 #include "Apps/workbench/window/main_window.h"
+#include "Apps/workbench/window/transfer_notice.h"
 
 namespace workbench {
 
@@ -22,9 +23,9 @@ public:
 
     /// Opens a project. Errors are shown in a box.
     void open(const std::string& path);
-    /// Opens these projects and connects the add-in, in an order in which the add-in sees all of them.
+    /// Connects the add-in, then opens these projects, so that all of them pass its handlers.
     void begin(const std::vector<std::string>& projects);
-    /// Connects the add-in, which adopts the open project.
+    /// Connects the add-in, which adopts the active project.
     void connect();
 
     MainWindow& window() { return *window_; }
@@ -35,11 +36,13 @@ public:
 private:
     host::HostOptions hostOptions();
     void buildWindow();
+    void watchForms();
     ProgramActions programActions();
     UnsavedWork::Callbacks unsavedCallbacks();
     void run(const std::function<void()>& act);
     void newProject();
     void startActive();
+    bool isConnected() const;
     bool compiled(const vbide::Ref<vbide::VBProject>& project);
     bool mayRunSteps(const std::string& commandLine, const std::string& folder);
     bool mayClose();
@@ -55,7 +58,8 @@ private:
     std::unique_ptr<MainWindow> window_;
     std::unique_ptr<RecentProjects> recent_;
     std::unique_ptr<UnsavedWork> unsaved_;
-    QTimer problemsSoon_;
+    std::unique_ptr<TransferNotice> transfers_;
+    QTimer problemsSoon_, openingCheck_;
     fernwick::Subscription projectAdded_;
 };
 

@@ -16,6 +16,9 @@ struct TransferRecord {
     std::vector<std::string> installed;
     /// Path of the last package written, or "".
     std::string package;
+    /// Key and location of the device of the last transfer, and whether it lacks the runtime that the application needs.
+    std::string device, location;
+    bool lacksRuntime = false;
     /// Whether the last transfer succeeded.
     bool succeeded = false;
 };

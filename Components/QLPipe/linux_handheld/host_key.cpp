@@ -1,5 +1,6 @@
 #include "Components/QLPipe/base/ssh_messages.h"
 #include "Components/QLPipe/linux_handheld/ssh_session.h"
+#include <cctype>
 #include <cerrno>
 #include <new>
 #include <system_error>
@@ -30,6 +31,11 @@ std::string fileKindOf(ssh_keytypes_e type) {
     }
 }
 
+std::string inCapitals(std::string text) {
+    for (auto& c : text) c = char(std::toupper(static_cast<unsigned char>(c)));
+    return text;
+}
+
 std::string fingerprintOf(ssh_key key) {
     unsigned char* hash = nullptr;
     std::size_t length = 0;
@@ -55,7 +61,7 @@ HostKey hostKeyOf(const SshSession& session) {
     const auto type = libssh().ssh_key_type(key);
     std::string text = line;
     text.erase(text.find_last_not_of('\n') + 1);
-    return {libssh().ssh_key_type_to_char(type), fileKindOf(type), fingerprintOf(key), text};
+    return {inCapitals(fileKindOf(type)), fileKindOf(type), fingerprintOf(key), text};
 }
 
 [[noreturn]] void refuseHost(const SshSession& session, SshMessage message) {

@@ -34,7 +34,6 @@ struct LibsshLibrary {
 
     FERNWICK_LIBSSH(ssh_key_free);
     FERNWICK_LIBSSH(ssh_key_type);
-    FERNWICK_LIBSSH(ssh_key_type_to_char);
     FERNWICK_LIBSSH(ssh_pki_import_privkey_file);
     FERNWICK_LIBSSH(ssh_userauth_publickey);
     FERNWICK_LIBSSH(ssh_userauth_agent);
