@@ -10,7 +10,7 @@ namespace {
 constexpr int kHalfLight = 128;
 
 QPalette paletteOf(const QColor& window, const QColor& base, const QColor& button, const QColor& text,
-                   const QColor& highlight, const QColor& faint, const QColor& link) {
+                   const QColor& highlight, const QColor& faint, const QColor& link, const QColor& quiet) {
     QPalette palette(text, button, button.lighter(120), button.darker(160), button.darker(125), text, Qt::white, base,
                      window);
     palette.setColor(QPalette::AlternateBase, window);
@@ -21,8 +21,7 @@ QPalette paletteOf(const QColor& window, const QColor& base, const QColor& butto
     palette.setColor(QPalette::PlaceholderText, faint);
     palette.setColor(QPalette::Link, link);
     // a list without the focus shows its row, but not as the one that keys act on
-    palette.setColor(QPalette::Inactive, QPalette::Highlight, faint);
-    palette.setColor(QPalette::Inactive, QPalette::HighlightedText, base);
+    palette.setColor(QPalette::Inactive, QPalette::Highlight, quiet);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         palette.setColor(QPalette::Disabled, role, faint);
     return palette;
@@ -30,8 +29,8 @@ QPalette paletteOf(const QColor& window, const QColor& base, const QColor& butto
 
 QPalette paletteOf(Theme theme) {
     return theme == Theme::Light
-               ? paletteOf("#f0f0f0", "#ffffff", "#f4f4f4", "#1b1b1b", "#2a6fc9", "#646464", "#1f5fb4")
-               : paletteOf("#2b2d30", "#1e1f22", "#35373b", "#dcdde0", "#3574c4", "#a2a4a9", "#7fb3f5");
+               ? paletteOf("#f0f0f0", "#ffffff", "#f4f4f4", "#1b1b1b", "#2a6fc9", "#646464", "#1f5fb4", "#646a73")
+               : paletteOf("#2b2d30", "#1e1f22", "#35373b", "#dcdde0", "#3574c4", "#a2a4a9", "#7fb3f5", "#4f535a");
 }
 
 const CodeColours kLightCode{"#ffffff", "#1b1b1b", "#0033b3", "#2e7d32", "#a3381c", "#1750a8",
