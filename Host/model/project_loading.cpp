@@ -28,7 +28,7 @@ void Project::codePage(std::optional<int> page) {
         file_->setSetting(kCodePageKey, std::to_string(*page));
     else
         file_->removeSetting(kCodePageKey);
-    dirty_ = true;
+    dirty_.set(true);
     const auto bytes = file_->bytes();
     codePage_ = codePageOfProject(bytes, folder(), host->options().codePage);
     file_->codePage(basic::codePageOfFile(bytes, codePage_.page));
