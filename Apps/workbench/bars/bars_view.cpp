@@ -99,8 +99,8 @@ QAction* BarsView::actionOf(const std::shared_ptr<host::BarControl>& control) {
     if (!drawn.button && !drawn.popup) make(drawn, control);
     auto* const action = drawn.popup ? drawn.popup->menuAction() : drawn.button.get();
     const auto caption = qt(control->Caption());
+    action->setText(caption);
     action->setToolTip(control->ToolTipText().empty() ? withoutMnemonic(caption) : qt(control->ToolTipText()));
-    action->setText(caption.isEmpty() ? action->toolTip() : caption); // screen readers read the text
     if (drawn.button) showButton(drawn, *control);
     action->setEnabled(control->Enabled() && control->Parent()->Enabled());
     action->setVisible(control->Visible() && (!drawn.popup || showsAnything(*control->popup())));
