@@ -110,8 +110,8 @@ QAction* BarsView::actionOf(const std::shared_ptr<host::BarControl>& control) {
     auto* const action = drawn.popup ? drawn.popup->menuAction() : drawn.button.get();
     const auto caption = qt(control->Caption());
     const auto whyNot = unavailable(*control);
+    action->setText(caption);
     action->setToolTip(whyNot.isEmpty() ? tipOf(*control) : whyNot);
-    action->setText(caption.isEmpty() ? tipOf(*control) : caption); // screen readers read the text
     if (drawn.button) showButton(drawn, *control);
     action->setEnabled(control->Enabled() && control->Parent()->Enabled() && whyNot.isEmpty());
     action->setVisible(control->Visible() && (!drawn.popup || showsAnything(*control->popup())));
