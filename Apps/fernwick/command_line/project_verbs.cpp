@@ -24,8 +24,7 @@ void defineBuild(CLI::App& app, Raw& raw) {
         ->type_name("KEY");
     build.add_option("--depfile", raw.options.depfile, "Write the files that the image depends on as a make rule")
         ->type_name("FILE");
-    build.add_flag("-n,--dry-run", raw.options.dryRun, "Show what would be compiled and run, without writing anything")
-        ->excludes("--format");
+    build.add_flag("-n,--dry-run", raw.options.dryRun, "Show what would be compiled and run, without writing anything");
     addSteps(build, raw);
 }
 

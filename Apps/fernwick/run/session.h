@@ -43,6 +43,7 @@ public:
     host::Host& host() { return *host_; }
     Machine& machine() { return machine_; }
     CommandLineUser& user() { return user_; }
+    Console& console() { return console_; }
     StepsTrust& trust() { return trust_; }
     const std::string& path() const { return path_; }
     /// Whether the host still has the project; the add-in removes one without a usable device.

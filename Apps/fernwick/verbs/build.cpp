@@ -1,7 +1,7 @@
 #include "Add-in/build/messages/message_numbers.h"
-#include "Apps/common/compile_steps.h"
 #include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/output/depfile.h"
+#include "Apps/fernwick/run/build_plan.h"
 #include "Apps/fernwick/run/project_run.h"
 #include "Apps/fernwick/verbs/stored_messages.h"
 #include "Apps/fernwick/verbs/verbs.h"
@@ -36,16 +36,9 @@ void warnOfLineFeeds(Session& session, Console& console) {
             Tone::Warning);
 }
 
-int dryRun(Session& session, Console& console) {
+int dryRun(Session& session, const Options& options, Console& console) {
     session.takeUp();
-    auto& files = session.machine().platform().files;
-    console.out(fmt::format("project  {}\ndevice   {}\n", session.path(), session.settings()->TargetDevice()));
-    for (const auto& component : session.project()->VBComponents()->items())
-        console.out(fmt::format("source   {}\n", files.GetAbsolutePathName(component->FileNames(1))));
-    for (const auto& reference : session.project()->References()->items())
-        if (!reference->BuiltIn()) console.out(fmt::format("library  {}\n", reference->FullPath()));
-    for (const auto& step : apps::allSteps(*session.settings())) console.out(fmt::format("step     {}\n", step));
-    console.out(fmt::format("image    {}\n", imagePathOf(session)));
+    printPlan(session, imagePathOf(session), options, console);
     session.closeUnsaved();
     return kGood;
 }
@@ -80,7 +73,7 @@ void writeDepfile(Session& session, const std::string& path, const std::vector<s
 
 int build(Session& session, const Options& options, Console& console) {
     openProject(session, options);
-    if (options.dryRun) return dryRun(session, console);
+    if (options.dryRun) return dryRun(session, options, console);
     beginWork(session, options);
 
     Report report = compileAndValidate(session, deviceOfRun(session, options));

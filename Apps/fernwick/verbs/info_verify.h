@@ -7,7 +7,8 @@
 
 namespace cli {
 
-/// Prints the verdict on each file and returns the exit status: 1 if one would change.
+/// Prints the verdict on each file and returns the exit status: 1 if one would change,
+/// is missing or cannot be read.
 int verifyRoundTrip(const InfoSubject& subject, const Options& options, Console& console, const basic::CodePage& usual);
 
 } // namespace cli

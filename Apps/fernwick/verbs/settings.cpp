@@ -1,4 +1,5 @@
 #include "Apps/fernwick/options/exit_status.h"
+#include "Apps/fernwick/options/suggestions.h"
 #include "Apps/fernwick/output/json_output.h"
 #include "Apps/fernwick/run/project_argument.h"
 #include "Apps/fernwick/run/project_run.h"
@@ -32,12 +33,18 @@ SettingOperands splitOperands(std::vector<std::string> operands) {
     return split;
 }
 
+std::string unknownSetting(const std::string& name) {
+    std::vector<std::string> names;
+    for (const auto& setting : storedSettings()) names.push_back(setting.name);
+    const auto near = didYouMean(name, names);
+    return fmt::format("unknown setting {}{}", name, near.empty() ? "; see fernwick help settings" : near);
+}
+
 const StoredSetting& settingOf(const SettingOperands& operands) {
     const auto* setting = storedSettingNamed(operands.name);
     if (!setting)
-        throw Refusal(kWrongUse, operands.name.empty()
-                                     ? "no setting given; see fernwick help settings"
-                                     : fmt::format("unknown setting {}; see fernwick help settings", operands.name));
+        throw Refusal(kWrongUse, operands.name.empty() ? "no setting given; see fernwick help settings"
+                                                       : unknownSetting(operands.name));
     return *setting;
 }
 
@@ -47,10 +54,14 @@ std::string joinedValues(const std::vector<std::string>& values) {
     return text;
 }
 
+Json jsonOfValues(const StoredSetting& setting, const StoredSetting::Values& values) {
+    return setting.kind == SettingKind::List ? Json(values) : Json(values.front());
+}
+
 Json jsonOfSetting(const StoredSetting& setting, const fernwick::clsQLProject& project) {
     const auto values = setting.read(project);
     Json json{{"name", setting.name}};
-    json["value"] = setting.kind == SettingKind::List ? Json(values) : Json(values.front());
+    json["value"] = jsonOfValues(setting, values);
     json["writable"] = setting.write != nullptr;
     json["meaning"] = setting.meaning;
     return json;
@@ -81,55 +92,76 @@ int getSetting(const Options& options, Console& console, const StoredSetting& se
     return kGood;
 }
 
-/// Writes the values unless the project has them already.
-void writeSetting(Session& session, const StoredSetting& setting, const std::vector<std::string>& values,
-                  Console& console, bool dryRun) {
+struct SettingChange {
+    const StoredSetting& setting;
+    StoredSetting::Values before, after;
+};
+
+/// Writes the value unless it is a dry run.
+SettingChange changeSetting(Session& session, const StoredSetting& setting, const StoredSetting::Values& values,
+                            bool dryRun) {
     auto& project = *session.settings();
-    const auto before = setting.read(project);
-    if (dryRun) {
-        console.out(fmt::format("{}: {} -> {}\n", setting.name, joinedValues(before), joinedValues(values)));
-        return;
-    }
+    SettingChange change{setting, setting.read(project), values};
+    if (dryRun) return change;
     const auto boxes = session.user().shown().size();
     setting.write(project, values);
     if (session.user().shown().size() > boxes)
         throw Refusal(kProjectErrors,
                       fmt::format("{} was not set: the project file cannot store this value", setting.name));
-    console.detail(
-        fmt::format("{}: {} -> {}", setting.name, joinedValues(before), joinedValues(setting.read(project))));
+    change.after = setting.read(project);
+    return change;
 }
 
-int setSetting(Session& session, const SettingOperands& operands, const Options& options, Console& console) {
+std::vector<SettingChange> setSetting(Session& session, const SettingOperands& operands, bool dryRun) {
     const auto& setting = settingOf(operands);
     if (const auto wrong = wrongWithValues(setting, operands.values); !wrong.empty()) throw Refusal(kWrongUse, wrong);
-    if (setting.name == "TargetDevice") requireUsableDevice(session, operands.values.front());
-    writeSetting(session, setting, operands.values, console, options.dryRun);
-    return kGood;
+    auto values = operands.values;
+    if (setting.name == "TargetDevice") values = {usableDevice(session, values.front())};
+    return {changeSetting(session, setting, values, dryRun)};
 }
 
-int resetSettings(Session& session, const SettingOperands& operands, const Options& options, Console& console) {
+std::vector<SettingChange> resetSettings(Session& session, const SettingOperands& operands, bool dryRun) {
     if (!operands.name.empty()) {
         const auto& setting = settingOf(operands);
         if (!setting.write) throw Refusal(kWrongUse, fmt::format("{} is read-only", setting.name));
-        writeSetting(session, setting, setting.otherwise, console, options.dryRun);
-        return kGood;
+        return {changeSetting(session, setting, setting.otherwise, dryRun)};
     }
+    std::vector<SettingChange> changes;
     for (const auto& setting : storedSettings())
         if (setting.write && setting.read(*session.settings()) != setting.otherwise)
-            writeSetting(session, setting, setting.otherwise, console, options.dryRun);
-    return kGood;
+            changes.push_back(changeSetting(session, setting, setting.otherwise, dryRun));
+    return changes;
+}
+
+Json jsonOfChanges(const std::vector<SettingChange>& changes, bool dryRun) {
+    auto json = jsonResult("settings");
+    json["dryRun"] = dryRun;
+    json["changes"] = Json::array();
+    for (const auto& [setting, before, after] : changes)
+        json["changes"].push_back({{"name", setting.name},
+                                   {"before", jsonOfValues(setting, before)},
+                                   {"after", jsonOfValues(setting, after)}});
+    return json;
+}
+
+void printChanges(const std::vector<SettingChange>& changes, const Options& options, Console& console) {
+    if (options.format == Format::Json) return console.out(dumpJson(jsonOfChanges(changes, options.dryRun)));
+    for (const auto& [setting, before, after] : changes) {
+        const auto line = fmt::format("{}: {} -> {}", setting.name, joinedValues(before), joinedValues(after));
+        options.dryRun ? console.out(line + "\n") : console.detail(line);
+    }
 }
 
 int changeSettings(Session& session, const SettingOperands& operands, const Options& options, Console& console) {
     session.requireFernwickProject();
-    const bool isSet = options.action == "set";
-    const int status =
-        isSet ? setSetting(session, operands, options, console) : resetSettings(session, operands, options, console);
-    if (options.dryRun) {
+    const auto changes = options.action == "set" ? setSetting(session, operands, options.dryRun)
+                                                 : resetSettings(session, operands, options.dryRun);
+    if (options.dryRun)
         session.closeUnsaved();
-        return status;
-    }
-    return session.closeAndSave() ? status : kMachineTrouble;
+    else if (!session.closeAndSave())
+        throw Refusal(kMachineTrouble, session.path() + " cannot be saved");
+    printChanges(changes, options, console);
+    return kGood;
 }
 
 } // namespace

@@ -1,11 +1,13 @@
 #include "Apps/fernwick/verbs/source_list.h"
 #include "Apps/common/file_names.h"
+#include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/output/file_errors.h"
 #include "Basic/runtime_error.h"
 #include "Host/files/encoding.h"
 #include "Host/files/group_file.h"
 #include "Host/files/path_lookup.h"
 #include "Host/files/project_file.h"
+#include <algorithm>
 
 namespace cli {
 
@@ -18,16 +20,19 @@ class SourceCollector {
 public:
     explicit SourceCollector(const basic::CodePage& usual) : usual_(usual) {}
 
-    void add(const std::string& path) {
+    /// `isNamed` is false for the projects of a group.
+    void add(const std::string& path, bool isNamed) {
         const auto err = basic::attempt([&] {
             if (hasExtension(path, ".vbp"))
                 addProject(path);
             else if (hasExtension(path, ".vbg"))
                 addGroup(path);
             else
-                list_.sources.push_back({path, {}});
+                list_.sources.push_back({path, {}, isNamed});
         });
-        if (err.Number != 0) list_.problems.push_back(withFile(path, err.Description));
+        if (err.Number == 0) return;
+        list_.problems.push_back(withFile(path, err.Description));
+        list_.status = std::max(list_.status, isNamed ? statusOfNamedFile(path, err.Number) : int(kProjectErrors));
     }
 
     SourceList take() { return std::move(list_); }
@@ -43,7 +48,7 @@ private:
         host::PathLookup lookup;
         for (const auto& member : project.members())
             if (host::isComponentKind(member.content.kind))
-                list_.sources.push_back({lookup.find(folderOf(path), member.content.value), constants});
+                list_.sources.push_back({lookup.find(folderOf(path), member.content.value), constants, false});
     }
 
     void addGroup(const std::string& path) {
@@ -52,7 +57,7 @@ private:
             throw basic::RuntimeError(basic::kInvalidProcedureCall, "not a Visual Basic project group");
         const host::GroupFile group{content.bytes, host::codePageOf(content.bytes, usual_)};
         host::PathLookup lookup;
-        for (const auto& entry : group.entries()) add(lookup.find(folderOf(path), entry.path));
+        for (const auto& entry : group.entries()) add(lookup.find(folderOf(path), entry.path), false);
     }
 
     const basic::CodePage& usual_;
@@ -63,7 +68,7 @@ private:
 
 SourceList listSources(const std::vector<std::string>& operands, const basic::CodePage& usual) {
     SourceCollector collector{usual};
-    for (const auto& operand : operands) collector.add(operand);
+    for (const auto& operand : operands) collector.add(operand, true);
     return collector.take();
 }
 
