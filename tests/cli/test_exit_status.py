@@ -7,6 +7,7 @@ import contextlib
 import json
 import os
 import re
+import resource
 import shutil
 import signal
 import subprocess
@@ -198,6 +199,16 @@ def interrupt_at_start():
     os.kill(os.getpid(), signal.SIGINT)
 
 
+def fill_disk():
+    """No file can grow, as on a full disk."""
+    signal.signal(signal.SIGXFSZ, signal.SIG_IGN)
+    resource.setrlimit(resource.RLIMIT_FSIZE, (0, 0))
+
+
+def files_of(work):
+    return {str(path.relative_to(work)): path.read_bytes() for path in work.rglob("*") if path.is_file()}
+
+
 class ExitStatus(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
@@ -261,6 +272,19 @@ class ExitStatus(unittest.TestCase):
                     self.check(*cell, done)
         if not CAN_DROP_ROOT:
             self.skipTest("unreadable and read-only files need another user than root: install setpriv")
+
+    def test_a_full_disk_leaves_all_files_as_they_are(self):
+        for verb, *arguments in (("settings", "set", PROJECT, "DefaultFontSize", "9"),
+                                 ("dependencies", PROJECT, "add", "HelloWorld/data.txt"),
+                                 ("registry", "set", KEY, "Name", "value"), ("devices", "add", "PocketPC-ARM"),
+                                 ("build", PROJECT), ("package", PROJECT)):
+            for form in ("text", "json"):
+                with self.subTest(f"{verb} / {form}"), prepared(self.template, Cell(MACHINE)) as home:
+                    before = files_of(home.work)
+                    done = home.run("fernwick", verb, *arguments, "--format", form, preexec_fn=fill_disk)
+                    self.assertEqual(done.returncode, MACHINE, done.stdout + done.stderr)
+                    self.assertEqual(files_of(home.work), before)
+                    self.assertEqual(home.left_behind(), [])
 
     def check(self, verb, condition, form, done):
         cell = TABLE[verb][condition]
