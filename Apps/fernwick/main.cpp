@@ -14,7 +14,8 @@
 
 namespace {
 
-/// Prints why the command failed, also as JSON or SARIF if requested.
+/// Prints why the command failed, also as JSON or SARIF if requested. A second document would make the first one
+/// unreadable.
 int failed(int status, const std::string& reason, const cli::Options& options, cli::Console& console) {
     console.err("fernwick: " + reason, cli::Tone::Error);
     cli::Report report;
@@ -22,15 +23,33 @@ int failed(int status, const std::string& reason, const cli::Options& options, c
     report.project = options.project;
     report.exitStatus = status;
     report.failure = reason;
-    if (options.format == cli::Format::Json) console.out(cli::jsonOf(report));
-    if (options.format == cli::Format::Sarif) console.out(cli::sarifOf(report));
+    if (!console.hasData()) cli::printDocument(report, options, console);
+    return status;
+}
+
+/// Gives a command that has no data, because it only changes something, a document too.
+int withDocument(int status, const cli::Options& options, cli::Console& console) {
+    if (console.hasData()) return status;
+    cli::Report report;
+    report.verb = options.verb;
+    report.project = options.project;
+    report.exitStatus = status;
+    cli::printDocument(report, options, console);
+    return status;
+}
+
+int misused(const cli::Parsed& parsed, cli::Console& console) {
+    const int status = failed(cli::kWrongUse, parsed.error, parsed.options, console);
+    console.err(parsed.hint);
     return status;
 }
 
 int guarded(const cli::Parsed& parsed, cli::Console& console) {
     const auto& options = parsed.options;
     try {
-        return basic::withinMemory([&] { return parsed.run(options, console); });
+        cli::checkInterrupt();
+        const int status = basic::withinMemory([&] { return parsed.run(options, console); });
+        return withDocument(status, options, console);
     } catch (const cli::Interrupted&) {
         return failed(cli::kInterrupted, "interrupted; no file was left incomplete", options, console);
     } catch (const cli::Refusal& refusal) {
@@ -62,18 +81,18 @@ int main(int argc, char** argv) {
     if (argc == 2 && std::strcmp(argv[1], "--version") == 0) return printed(cli::versionLine() + "\n");
 
     const auto parsed = cli::parseCommandLine(argc, argv);
-    if (!parsed.error.empty()) std::fprintf(stderr, "%s\n", basic::printable(parsed.error, "\n").c_str());
-    if (!parsed.run) return parsed.output.empty() ? parsed.status : printed(parsed.output);
+    if (!parsed.output.empty()) return printed(parsed.output);
 
     keepFreedMemory();
     std::signal(SIGCHLD, SIG_DFL); // a parent that ignores it would hide the exit status of compile steps
     cli::watchForInterrupt();
-    cli::Console console{parsed.options.verbosity};
-    int status = guarded(parsed, console);
+    cli::Console console{parsed.options.verbosity, parsed.options.color};
+    int status = parsed.run ? guarded(parsed, console) : misused(parsed, console);
     if (cli::wasInterrupted()) status = cli::kInterrupted;
     if (!console.flush()) {
         console.err("fernwick: standard output could not be written", cli::Tone::Error);
         if (status == cli::kGood) status = cli::kMachineTrouble;
     }
+    console.detail(fmt::format("{}: exit status {}", parsed.options.verb, status));
     return status;
 }

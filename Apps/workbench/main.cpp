@@ -1,14 +1,18 @@
 #include "Apps/common/version.h"
+#include "Apps/workbench/base/display_guard.h"
 #include "Apps/workbench/base/letter_icons.h"
 #include "Apps/workbench/window/workbench.h"
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QIcon>
 #include <csignal>
+#include <optional>
 
 int main(int argc, char** argv) {
     std::signal(SIGCHLD, SIG_DFL); // some parents ignore it, which would hide the exit status of compile steps
+    std::optional<workbench::DisplayGuard> guard(std::in_place);
     QApplication app(argc, argv);
+    guard.reset();
     QApplication::setOrganizationName("fernwick");
     QApplication::setApplicationName("workbench");
     QApplication::setApplicationVersion(apps::kVersion);

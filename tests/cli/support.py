@@ -57,6 +57,7 @@ class Home:
         for path, name in ((str(self.work), "WORK"), (str(self.folder), "HOME"), (str(ROOT), "SOURCE")):
             text = text.replace(path, name)
         text = re.sub(r"\bin \d+\.\d+ s\b", "in N s", text)
+        text = re.sub(r"(?m)^(! )?\[\d+\.\d+ s\] ", r"\1[N s] ", text)
         return text.replace(f"fernwick {VERSION}", "fernwick VERSION").replace(f'"version": "{VERSION}"',
                                                                                '"version": "VERSION"')
 

@@ -96,7 +96,7 @@ class Completion(unittest.TestCase):
 
     def expected(self):
         """Lines of a shell, and what it offers at their end."""
-        verbs = self.names("Subcommands", "--help")
+        verbs = self.names("Commands", "--help")
         self.assertGreater(len(verbs), 15)
         lines = {"fernwick ": set(verbs), "fernwick help ": {"answers", *verbs}, "fernwick --": self.long_options("--help")}
         for verb in verbs:
@@ -108,6 +108,9 @@ class Completion(unittest.TestCase):
             name for name in self.names("Settings", "help", "settings") if name.startswith("Handheld")}
         lines["fernwick build --device "] = set(re.findall(r"^\S+", self.home.fernwick("targets").stdout, re.M))
         lines["fernwick devices "] = {"list", "add", "remove", "set"}
+        lines["fernwick completion "] = {"bash", "zsh", "fish"}
+        lines["fernwick --color "] = lines["fernwick build --color "] = {"auto", "always", "never"}
+        lines["fernwick --format json -q "] = set(verbs)
         return lines
 
     def check(self, shell):
@@ -123,6 +126,11 @@ class Completion(unittest.TestCase):
         wrong = {line: {"missing": sorted(words - offered[line]), "too many": sorted(offered[line] - words)}
                  for line, words in expected.items() if words != offered[line]}
         self.assertEqual(wrong, {})
+
+    def test_the_command_prints_the_installed_scripts(self):
+        for shell in ("bash", "zsh", "fish"):
+            printed = self.home.fernwick("completion", shell, check=True).stdout
+            self.assertEqual(printed, (COMPLETION / f"fernwick.{shell}").read_text(encoding="utf-8"))
 
     def test_bash(self):
         self.check(bash)

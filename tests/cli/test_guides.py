@@ -28,9 +28,33 @@ class Guides(unittest.TestCase):
     def test_the_users_guide_names_each_command_line_command(self):
         with Home() as home:
             usage = home.fernwick("--help", check=True).stdout
-        verbs = re.findall(r"^  ([a-z-]+) {2,}", usage.split("Subcommands:")[1], re.M)
+        verbs = re.findall(r"^  ([a-z-]+) {2,}", usage.split("Commands:")[1].split("Exit status:")[0], re.M)
         self.assertGreater(len(verbs), 10)
         self.assertEqual(self.missing(USERS_GUIDE, [f"fernwick {verb}" for verb in verbs]), [])
+
+    def test_all_pages_have_the_same_exit_statuses(self):
+        with Home() as home:
+            usage = home.fernwick("--help", check=True).stdout
+        statuses = re.findall(r"^  (\d+) +(.+)$", usage.split("Exit status:")[1], re.M)
+        self.assertEqual([int(number) for number, _ in statuses], [0, 1, 2, 3, 4, 5, 130])
+        enum = (ROOT / "Apps/fernwick/options/exit_status.h").read_text(encoding="utf-8")
+        self.assertEqual(re.findall(r" = (\d+),", enum), [number for number, _ in statuses])
+        readme = re.findall(r"^\| (\d+) \| (.+) \|$", (ROOT / "README.md").read_text(encoding="utf-8"), re.M)
+        self.assertEqual(readme, statuses)
+        guide = re.findall(r"<tr><td>(\d+)</td><td>(.+)</td></tr>", USERS_GUIDE.read_text(encoding="utf-8"))
+        self.assertEqual(guide, statuses)
+        manual = (ROOT / "docs/man/fernwick.1").read_text(encoding="utf-8").split(".Sh EXIT STATUS")[1].split("\n.Sh ")[0]
+        self.assertEqual(re.findall(r"^\.It (\d+)$", manual, re.M), [number for number, _ in statuses])
+
+    def test_the_manual_page_names_each_command_and_option(self):
+        manual = (ROOT / "docs/man/fernwick.1").read_text(encoding="utf-8")
+        with Home() as home:
+            usage = home.fernwick("--help", check=True).stdout
+            for verb in re.findall(r"^  ([a-z-]+) {2,}", usage.split("Commands:")[1].split("Exit status:")[0], re.M):
+                self.assertRegex(manual, rf"(?m)^\.Cm .*\b{verb}\b", verb)
+                for option in re.findall(r"^  .*--([a-z-]+)", home.fernwick("help", verb, check=True).stdout, re.M):
+                    if option not in ("help", "version"):
+                        self.assertIn(f"Fl -{option}", manual.replace(" | -", " | Fl -").replace(" , -", " , Fl -"), verb)
 
     def test_the_users_guide_names_each_tavlet_and_target(self):
         tavlets = [path.stem for path in (ROOT / "installation/tavlets/classes").glob("*.toml")]

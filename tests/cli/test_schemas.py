@@ -45,7 +45,7 @@ class Schemas(unittest.TestCase):
         self.fits("report", "messages", str(self.project))
         self.fits("report", "check", str(self.project))
         self.fits("report", "build", "missing.vbp", status=2)
-        self.fits("report", "check", "missing.vbp", status=1)
+        self.fits("report", "check", "missing.vbp", status=2)
         self.broken()
         bad = self.fits("report", "build", str(self.project), status=1)
         self.assertEqual([m["severity"] for m in bad["messages"]], ["error"])
@@ -69,7 +69,7 @@ class Schemas(unittest.TestCase):
         self.assertEqual(listed["device"], "PalmOS-DragonBall")
         sarif = self.home.fernwick("deploy", project, "--my-devices", "--format", "sarif")
         results = json.loads(sarif.stdout)["runs"][0]["results"]
-        self.assertEqual([r["ruleId"] for r in results], ["20300"])
+        self.assertEqual([r["ruleId"] for r in results], ["FW20300"])
 
     def test_failures_of_other_commands_are_reports(self):
         for verb in (["info"], ["settings", "list"], ["messages"]):
@@ -129,25 +129,84 @@ class Schemas(unittest.TestCase):
             run = json.loads(done.stdout)["runs"][0]
             self.assertEqual(run["tool"]["driver"]["name"], "fernwick")
             result = run["results"][0]
-            self.assertRegex(result["ruleId"], r"^\d+$")
+            self.assertRegex(result["ruleId"], r"^FW\d+$")
             rule = next(r for r in run["tool"]["driver"]["rules"] if r["id"] == result["ruleId"])
             self.assertTrue(rule["help"]["text"])
-            self.assertEqual(rule["helpUri"], f"https://www.quinloft.example/messages/{rule['id']}.html")
+            self.assertRegex(rule["name"], r"^([A-Z][a-z]+)+$")
+            self.assertEqual(rule["helpUri"], f"https://www.quinloft.example/messages/{rule['id'][2:]}.html")
+            self.assertEqual(run["tool"]["driver"]["informationUri"], "https://www.quinloft.example/")
+            self.assertEqual(run["automationDetails"]["id"], f"fernwick-{verb}/")
+            self.assertTrue(run["invocations"][0]["executionSuccessful"])
             place = result["locations"][0]["physicalLocation"]
-            self.assertEqual(place["artifactLocation"]["uri"], (self.project.parent / "frmHello.frm").as_uri())
+            self.assertEqual(place["artifactLocation"], {"uri": "HelloWorld/frmHello.frm", "uriBaseId": "SRCROOT"})
+            self.assertEqual(run["originalUriBaseIds"]["SRCROOT"]["uri"], self.home.work.as_uri() + "/")
             if verb != "messages":  # stored messages have only the code window's lines
                 self.assertGreater(place["region"]["startLine"], 1)
                 self.assertGreater(place["region"]["startColumn"], 1)
+                self.assertGreater(place["region"]["endColumn"], place["region"]["startColumn"])
         failed = self.home.fernwick("build", "missing.vbp", "--format", "sarif")
         invocation = json.loads(failed.stdout)["runs"][0]["invocations"][0]
         self.assertFalse(invocation["executionSuccessful"])
         self.assertEqual(invocation["exitCode"], 2)
 
+    def test_sarif_names_files_from_the_source_root(self):
+        self.broken()
+
+        def first_uri(root):
+            done = self.home.fernwick("check", str(self.project), "--format", "sarif", "--source-root", root)
+            location = json.loads(done.stdout)["runs"][0]["results"][0]["locations"][0]
+            return location["physicalLocation"]["artifactLocation"]
+
+        self.assertEqual(first_uri("HelloWorld"), {"uri": "frmHello.frm", "uriBaseId": "SRCROOT"})
+        (self.home.work / "link").symlink_to(self.home.work)
+        self.assertEqual(first_uri("link")["uri"], "HelloWorld/frmHello.frm")
+        (self.home.work / "other").mkdir()
+        self.assertEqual(first_uri("other"), {"uri": (self.project.parent / "frmHello.frm").as_uri()})
+
+    def test_sarif_ends_a_region_after_the_word(self):
+        (self.home.work / "a.bas").write_bytes(b"Sub A()\r\n  x = 1 xyz9_ 2\r\nEnd Sub\r\n")
+        done = self.home.fernwick("check", "a.bas", "--format", "sarif")
+        regions = [r["locations"][0]["physicalLocation"]["region"] for r in json.loads(done.stdout)["runs"][0]["results"]]
+        self.assertIn({"startLine": 2, "startColumn": 9, "endColumn": 14}, regions)
+
+    def test_commands_that_only_change_something_have_a_document(self):
+        project = str(self.project)
+        (self.project.parent / "prices.pdb").write_text("12345")
+        for arguments in (["dependencies", project, "add", str(self.project.parent / "prices.pdb")],
+                          ["devices", "add", "PalmOS-DragonBall"], ["devices", "remove", "palmos-dragonball"],
+                          ["registry", "set", r"HKEY_CURRENT_USER\Software\Quinloft", "Name", "value"]):
+            report = self.fits("report", *arguments)
+            self.assertEqual((report["verb"], report["exitStatus"], report["failure"]), (arguments[0], 0, None))
+        change = self.fits("settings-changes", "settings", "set", project, "DefaultFontSize", "9")
+        self.assertEqual([(c["name"], c["after"], change["dryRun"]) for c in change["changes"]],
+                         [("DefaultFontSize", "9", False)])
+
+    def test_dry_runs_have_a_document(self):
+        project = str(self.project)
+        plan = self.fits("build-plan", "build", "-n", project)
+        self.assertTrue(plan["image"].endswith("HelloWorld.0000.qlx"))
+        self.assertEqual([s.split("/")[-1] for s in plan["sources"]], ["frmHello.frm"])
+        change = self.fits("settings-changes", "settings", "set", "-n", project, "PreCompileSteps", "a", "b")
+        self.assertEqual((change["dryRun"], change["changes"][0]["after"]), (True, ["a", "b"]))
+        key = r"HKEY_CURRENT_USER\Software\Quinloft"
+        values = self.fits("registry", "registry", "set", "-n", key, "Name", "value")["values"]
+        self.assertEqual([(v["name"], v["value"]) for v in values], [("Name", '"value"')])
+        self.fits("report", "registry", "get", key, status=1)
+
+    def test_mistakes_on_the_command_line_have_a_document(self):
+        for arguments in (["biuld"], ["build", "--nonsense"], ["build", "-q", "-v"], ["settings"],
+                          ["build", "--answer", "x=yes"], ["-q"]):
+            report = self.fits("report", *arguments, status=2)
+            self.assertTrue(report["failure"])
+        first = self.home.fernwick("--format=json", "build", "--nonsense")
+        self.assertEqual(json.loads(first.stdout)["verb"], "build")
+
     def test_every_schema_is_tested(self):
         # package-1 is the manifest, see test_packages
         self.assertEqual(sorted(p.stem for p in (ROOT / "installation/schemas").glob("*.json")),
-                         ["dependencies-1", "devices-1", "doctor-1", "explain-1", "info-1", "package-1",
-                          "package-listing-1", "registry-1", "report-1", "settings-1", "targets-1", "version-1"])
+                         ["build-plan-1", "dependencies-1", "devices-1", "doctor-1", "explain-1", "info-1", "package-1",
+                          "package-listing-1", "registry-1", "report-1", "settings-1", "settings-changes-1",
+                          "targets-1", "version-1"])
 
 
 if __name__ == "__main__":

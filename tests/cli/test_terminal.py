@@ -20,7 +20,7 @@ class Terminal(unittest.TestCase):
         child, terminal = pty.fork()
         if child == 0:
             os.chdir(self.home.work)
-            os.execvpe("fernwick", ["fernwick", *arguments], self.home.env | environment)
+            os.execvpe("fernwick", ["fernwick", *arguments], self.home.env | {"TERM": "xterm"} | environment)
         os.write(terminal, typed.encode())
         shown, deadline = b"", time.monotonic() + 60
         while True:
@@ -52,6 +52,37 @@ class Terminal(unittest.TestCase):
         self.assertIn("\033[31m", shown)
         _, shown = self.at_terminal("build", str(self.project), typed="\n", NO_COLOR="1")
         self.assertNotIn("\033[31m", shown)
+
+    def test_a_percentage_is_shown_once(self):
+        _, shown = self.at_terminal("build", str(self.project), typed="\n")
+        self.assertNotIn("% completed", shown)
+        self.assertRegex(shown, r"\d+% Compiling frmHello.frm")
+
+    def test_color_overrides_the_terminal(self):
+        form = self.project.parent / "frmHello.frm"
+        form.write_bytes(form.read_bytes() + b"Sub x(\r\n")
+        check = ["check", str(self.project)]
+        _, shown = self.at_terminal(*check, "--color", "never")
+        self.assertNotIn("\033[31m", shown)
+        _, shown = self.at_terminal(*check, "--color=always", NO_COLOR="1")
+        self.assertIn("\033[31m", shown)
+        self.assertIn("\033[31m", self.home.fernwick("--color", "always", *check).stderr)
+        self.assertNotIn("\033", self.home.fernwick(*check).stderr)
+        self.home.env["CLICOLOR_FORCE"] = "1"
+        self.assertIn("\033[31m", self.home.fernwick(*check).stderr)
+
+    def test_simple_terminals_and_build_servers_get_lines(self):
+        for variable in ({"TERM": "dumb"}, {"CI": "true"}):
+            status, shown = self.at_terminal("build", str(self.project), "--yes", **variable)
+            self.assertEqual(status, 0, shown)
+            self.assertNotIn("\033", shown)
+            self.assertNotIn("[###", shown)
+            self.assertIn("Compiling frmHello.frm\r\n", shown)
+
+    def test_a_build_server_is_not_asked(self):
+        status, shown = self.at_terminal("build", str(self.project), CI="true")
+        self.assertEqual(status, 0, shown)
+        self.assertNotIn("Return for", shown)
 
     def test_asks_once_for_trust(self):
         self.home.fernwick("settings", "set", str(self.project), "PreCompileSteps", "touch ran", "touch too")

@@ -9,6 +9,9 @@ import unittest
 
 from support import PROGRAM
 
+BUILD = pathlib.Path(os.environ.get("FERNWICK_BUILD", PROGRAM.parent.parent.parent))
+DESKTOP = BUILD / "Apps/workbench/fernwick-workbench"
+
 
 class Workbench(unittest.TestCase):
     def setUp(self):
@@ -40,6 +43,16 @@ class Workbench(unittest.TestCase):
         done = self.run_verb()
         self.assertEqual(done.returncode, 3)
         self.assertIn("the desktop program fernwick-workbench is not installed", done.stderr)
+
+    @unittest.skipUnless(DESKTOP.exists(), "the desktop is not built")
+    def test_a_missing_display_is_reported(self):
+        env = {name: value for name, value in os.environ.items()
+               if name not in ("DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "XDG_RUNTIME_DIR")}
+        for display in ({}, {"DISPLAY": ":4711"}):
+            done = subprocess.run([PROGRAM, "workbench"], capture_output=True, text=True, cwd=self.folder, timeout=60,
+                                  env=env | {"HOME": str(self.folder)} | display)
+            self.assertEqual((done.returncode, done.stdout), (3, ""), done.stderr)
+            self.assertIn("there is no display or it cannot be reached", done.stderr)
 
 
 if __name__ == "__main__":

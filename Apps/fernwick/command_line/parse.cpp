@@ -1,6 +1,8 @@
 #include "Apps/fernwick/command_line/parse.h"
+#include "Apps/fernwick/command_line/help_text.h"
+#include "Apps/fernwick/command_line/usage_errors.h"
 #include "Apps/fernwick/command_line/verb_line.h"
-#include "Apps/fernwick/options/exit_status.h"
+#include "Apps/fernwick/options/suggestions.h"
 #include "Apps/fernwick/output/version_line.h"
 #include <fmt/format.h>
 
@@ -8,24 +10,48 @@ namespace cli {
 
 namespace {
 
-/// Omits CLI11's notes on types and exclusions.
-class HelpFormatter : public CLI::Formatter {
-public:
-    std::string make_option_opts(const CLI::Option* option) const override {
-        const auto type = option->get_type_name();
-        const auto colon = type.find(':'); // IsMember appends its values
-        const bool bare = option->get_items_expected_max() == 0 || !option->nonpositional() || type == "TEXT";
-        return bare ? std::string() : " " + type.substr(0, colon);
+/// The parser with all commands.
+struct CommandLine {
+    CommandLine() {
+        app.formatter(helpFormatter());
+        app.footer(kExitText);
+        app.require_subcommand(1);
+        app.option_defaults()->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
+        app.set_help_flag("-h,--help", "Print this help and exit");
+        app.set_version_flag("--version", versionLine(), "Print the version and exit");
+        addCommon(app, raw, {"text", "json", "sarif", "markdown"});
+        defineProjectVerbs(app, raw);
+        defineReadingVerbs(app, raw);
+        defineStoringVerbs(app, raw);
+        defineToolVerbs(app, raw);
+        addCommonToVerbs(raw);
+        help = app.add_subcommand("help", "Print help on a command or on answers");
+        help->add_option("TOPIC", topic, "A command, or answers");
+        for (auto* verb : app.get_subcommands({})) verb->group("Commands");
     }
-    std::string make_usage(const CLI::App* app, std::string name) const override {
-        return CLI::Formatter::make_usage(app, app->get_parent() ? "fernwick " + name : name);
-    }
+
+    Raw raw;
+    std::string topic;
+    CLI::App app{"Turns Visual Basic projects into applications for handheld devices.", "fernwick"};
+    CLI::App* help = nullptr;
 };
 
-std::string answersHelp() {
-    return "Questions, their answers in scripts, and their meanings:\n\n" + describeQuestions() +
-           "\nForms that are not listed are cancelled; other message boxes are answered with no or cancel.\n"
-           "--yes and --no answer every question, --answer NAME=REPLY answers one.\n";
+Parsed textToPrint(std::string text) {
+    Parsed parsed;
+    parsed.output = std::move(text);
+    return parsed;
+}
+
+/// The help of a parser that has not parsed anything, which is the program's own.
+std::string programHelp() { return CommandLine().app.help(); }
+
+Parsed mistake(std::string error, const std::string& verb, Format format = Format::Text) {
+    Parsed parsed;
+    parsed.options.verb = verb;
+    parsed.options.format = format;
+    parsed.error = std::move(error);
+    parsed.hint = fmt::format("See fernwick {}--help.", verb.empty() ? "" : verb + " ");
+    return parsed;
 }
 
 Format formatNamed(std::string_view name) {
@@ -34,83 +60,79 @@ Format formatNamed(std::string_view name) {
     return name == "markdown" ? Format::Markdown : Format::Text;
 }
 
+ColorUse colorNamed(std::string_view name) {
+    if (name == "always") return ColorUse::Always;
+    return name == "never" ? ColorUse::Never : ColorUse::Auto;
+}
+
+/// Returns what is wrong with options that are right one by one; "" if nothing is.
+std::string wrongTogether(const Raw& raw, bool hasFormat) {
+    if (raw.quiet && raw.verbose) return "--quiet and --verbose exclude each other";
+    if (hasFormat) return {};
+    return fmt::format("{} has no format {}; use {}", raw.options.verb, raw.format, listedWords(raw.formats));
+}
+
 Parsed finish(Raw& raw) {
-    Parsed parsed;
     auto& options = raw.options;
     options.format = formatNamed(raw.format);
+    options.color = colorNamed(raw.color);
     options.verbosity = raw.quiet ? Verbosity::Quiet : raw.verbose ? Verbosity::Verbose : Verbosity::Normal;
+    const bool hasFormat = std::find(raw.formats.begin(), raw.formats.end(), raw.format) != raw.formats.end();
+    if (const auto wrong = wrongTogether(raw, hasFormat); !wrong.empty())
+        return mistake(wrong, options.verb, hasFormat ? options.format : Format::Text);
     if (raw.yes) options.answers.everything(Reply::Yes);
     if (raw.no) options.answers.everything(Reply::No);
     for (const auto& answer : raw.answers) {
-        if (options.answers.add(answer)) continue;
-        parsed.status = kWrongUse;
-        parsed.error =
-            fmt::format("fernwick: --answer {}: unknown question or reply; see fernwick help answers", answer);
+        const auto wrong = options.answers.add(answer);
+        if (wrong.empty()) continue;
+        auto parsed = mistake("--answer: " + wrong, options.verb, options.format);
+        parsed.hint = "See fernwick help answers.";
         return parsed;
     }
+    Parsed parsed;
     parsed.options = std::move(options);
     parsed.run = raw.run;
     return parsed;
 }
 
-std::string wrongVerb(const std::string& given, const CLI::ParseError& error) {
-    if (given.empty()) return "no command given";
-    return given.front() == '-' ? error.what() : "unknown command: " + given;
-}
-
-Parsed textToPrint(std::string text) {
-    Parsed parsed;
-    parsed.output = std::move(text);
-    return parsed;
+/// The format that a command line with a mistake asks for.
+Format formatIn(const std::vector<std::string>& arguments) {
+    Format format = Format::Text;
+    for (std::size_t i = 0; i < arguments.size() && arguments[i] != "--"; ++i) {
+        if (arguments[i].starts_with("--format=")) format = formatNamed(arguments[i].substr(9));
+        if (arguments[i] == "--format" && i + 1 < arguments.size()) format = formatNamed(arguments[i + 1]);
+    }
+    return format;
 }
 
 /// --help ends the parsing like an error does.
-Parsed ended(CLI::App& app, const CLI::ParseError& error, const std::string& given) {
-    const auto verbs = app.get_subcommands();
+Parsed ended(const CommandLine& line, const CLI::ParseError& error, const std::vector<std::string>& arguments) {
+    const auto verbs = line.app.get_subcommands();
     if (error.get_exit_code() == int(CLI::ExitCodes::Success))
-        return textToPrint(verbs.empty() ? app.help() : verbs.back()->help());
-    Parsed parsed;
-    parsed.status = kWrongUse;
-    parsed.error =
-        fmt::format("fernwick: {}\nSee fernwick {}--help.", verbs.empty() ? wrongVerb(given, error) : error.what(),
-                    verbs.empty() ? "" : verbs.front()->get_name() + " ");
-    return parsed;
+        return textToPrint(verbs.empty() ? programHelp() : verbs.back()->help());
+    return mistake(usageError(line.app, error), verbs.empty() ? "" : verbs.front()->get_name(), formatIn(arguments));
 }
 
-Parsed helpOn(CLI::App& app, const std::string& topic) {
-    if (topic.empty()) return textToPrint(app.help());
+Parsed helpOn(const CLI::App& app, const std::string& topic) {
+    if (topic.empty()) return textToPrint(programHelp());
     if (topic == "answers") return textToPrint(answersHelp());
     const auto verbs = app.get_subcommands([&](const CLI::App* one) { return one->get_name() == topic; });
     if (!verbs.empty()) return textToPrint(verbs.front()->help());
-    Parsed parsed;
-    parsed.status = kWrongUse;
-    parsed.error = fmt::format("fernwick: no help topic {}; see fernwick --help", topic);
-    return parsed;
+    auto topics = verbNames(app);
+    topics.push_back("answers");
+    return mistake(fmt::format("no help topic {}{}", topic, didYouMean(topic, topics)), "");
 }
 
 } // namespace
 
 Parsed parseCommandLine(int argc, const char* const* argv) {
-    Raw raw;
-    std::string topic;
-    CLI::App app{"Turns Visual Basic projects into applications for handheld devices.", "fernwick"};
-    app.formatter(std::make_shared<HelpFormatter>());
-    app.footer(kExitText);
-    app.require_subcommand(1);
-    app.set_version_flag("--version", versionLine());
-    defineProjectVerbs(app, raw);
-    defineReadingVerbs(app, raw);
-    defineStoringVerbs(app, raw);
-    defineToolVerbs(app, raw);
-    auto* help = app.add_subcommand("help", "Print help on a command or on answers");
-    help->add_option("TOPIC", topic, "A command, or answers");
-
+    CommandLine line;
     try {
-        app.parse(argc, argv);
+        line.app.parse(argc, argv);
     } catch (const CLI::CallForVersion&) {
         return textToPrint(versionLine() + "\n");
-    } catch (const CLI::ParseError& error) { return ended(app, error, argc > 1 ? argv[1] : ""); }
-    return help->parsed() ? helpOn(app, topic) : finish(raw);
+    } catch (const CLI::ParseError& error) { return ended(line, error, {argv + std::min(argc, 1), argv + argc}); }
+    return line.help->parsed() ? helpOn(line.app, line.topic) : finish(line.raw);
 }
 
 } // namespace cli

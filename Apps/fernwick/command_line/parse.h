@@ -5,14 +5,16 @@
 
 namespace cli {
 
-/// Either a command to run with its options, or a text to print and an exit status.
+/// A command to run with its options, a text to print, or what is wrong with the command line.
 struct Parsed {
     Options options;
     /// Null when there is only something to print.
     RunVerb run = nullptr;
     std::string output;
+    /// After a mistake the options have at least the format.
     std::string error;
-    int status = 0;
+    /// Where to find help on the mistake.
+    std::string hint;
 };
 
 Parsed parseCommandLine(int argc, const char* const* argv);

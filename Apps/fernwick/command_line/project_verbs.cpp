@@ -29,8 +29,7 @@ void defineBuild(CLI::App& app, Raw& raw) {
                     "Target of this rule (default: the image, relative if the project was named so)")
         ->type_name("NAME")
         ->needs("--depfile");
-    build.add_flag("-n,--dry-run", raw.options.dryRun, "Show what would be compiled and run, without writing anything")
-        ->excludes("--format");
+    build.add_flag("-n,--dry-run", raw.options.dryRun, "Show what would be compiled and run, without writing anything");
     addOutput(build, raw);
     addNoWait(build, raw);
     addSteps(build, raw);

@@ -1,4 +1,5 @@
 // Commands that read and change what is stored.
+#include "Apps/fernwick/command_line/usage_errors.h"
 #include "Apps/fernwick/command_line/verb_line.h"
 #include "Apps/fernwick/verbs/stored_settings.h"
 #include <fmt/format.h>
@@ -20,7 +21,7 @@ void defineSettings(CLI::App& app, Raw& raw) {
                 "fernwick settings set AddressBook.vbp TargetDevice PalmOS-DragonBall\n\nSettings:\n" + settingNames());
     settings.add_option("ACTION", raw.options.action, "list, get, set or reset")
         ->required()
-        ->check(CLI::IsMember({"list", "get", "set", "reset"}));
+        ->check(oneOf("action", {"list", "get", "set", "reset"}));
     settings.add_option("OPERANDS", raw.options.operands,
                         "list [PROJECT] | get [PROJECT] NAME | set [PROJECT] NAME VALUE... | reset [PROJECT] NAME");
     settings.add_flag("--all", raw.options.all, "Reset every setting");
@@ -34,7 +35,7 @@ void defineRegistry(CLI::App& app, Raw& raw) {
                              "fernwick registry get 'HKEY_CURRENT_USER\\SOFTWARE\\Quinloft\\AddinPrefs' ZoomWinState");
     registry.add_option("ACTION", raw.options.action, "get, set, delete, export or import")
         ->required()
-        ->check(CLI::IsMember({"get", "set", "delete", "export", "import"}));
+        ->check(oneOf("action", {"get", "set", "delete", "export", "import"}));
     registry
         .add_option("OPERANDS", raw.options.operands,
                     "get KEY [NAME] | set KEY NAME VALUE | delete KEY [NAME] | export KEY | import FILE")

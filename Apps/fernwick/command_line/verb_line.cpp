@@ -1,33 +1,48 @@
 #include "Apps/fernwick/command_line/verb_line.h"
-#include <fmt/format.h>
+#include "Apps/fernwick/command_line/usage_errors.h"
+#include "Apps/fernwick/options/suggestions.h"
+#include <algorithm>
 
 namespace cli {
 
 namespace {
 
-void addCommon(CLI::App& verb, Raw& raw, Result result) {
-    std::vector<std::string> formats{"text", "json"};
-    if (result == Result::Messages) formats.push_back("sarif");
-    if (result == Result::Pages) formats.push_back("markdown");
-    verb.add_option("--format", raw.format,
-                    "Output format: text" + (formats.size() == 2 ? " or json" : ", json or " + formats.back()))
-        ->check(CLI::IsMember(formats))
-        ->type_name("FORMAT");
-    verb.add_flag("-q,--quiet", raw.quiet, "Print only errors and data");
-    verb.add_flag("-v,--verbose", raw.verbose, "Print more details");
+std::vector<std::string> formatsOf(Result result) {
+    if (result == Result::Messages) return {"text", "json", "sarif"};
+    if (result == Result::Pages) return {"text", "json", "markdown"};
+    return {"text", "json"};
 }
 
 } // namespace
 
+void addCommon(CLI::App& to, Raw& raw, const std::vector<std::string>& formats) {
+    to.add_option("--format", raw.format, "Output format: " + listedWords(formats))->type_name("FORMAT");
+    if (to.get_parent() && std::find(formats.begin(), formats.end(), "sarif") != formats.end())
+        to.add_option("--source-root", raw.options.sourceRoot,
+                      "Folder that the paths in SARIF are relative to (default: the current folder)")
+            ->type_name("FOLDER");
+    to.add_flag("-q,--quiet", raw.quiet, "Print only errors and data");
+    to.add_flag("-v,--verbose", raw.verbose, "Also print what is read, why something is rebuilt, and times");
+    to.add_option("--color", raw.color, "Colored diagnostics: auto, always or never")
+        ->type_name("WHEN")
+        ->check(oneOf("value", {"auto", "always", "never"}));
+}
+
+void addCommonToVerbs(Raw& raw) {
+    for (const auto& [verb, formats] : raw.common) addCommon(*verb, raw, formats);
+}
+
 CLI::App& addVerb(CLI::App& app, Raw& raw, const char* name, RunVerb run, const char* purpose,
                   const std::string& example, Result result) {
     auto& verb = *app.add_subcommand(name, purpose);
-    verb.footer(fmt::format("Example:\n  {}\n\n{}", example, kExitText));
-    verb.callback([&raw, name, run] {
+    verb.footer("Example:\n  " + example);
+    const auto formats = formatsOf(result);
+    verb.callback([&raw, name, run, formats] {
         raw.options.verb = name;
         raw.run = run;
+        raw.formats = formats;
     });
-    addCommon(verb, raw, result);
+    raw.common.emplace_back(&verb, formats);
     return verb;
 }
 
@@ -39,7 +54,9 @@ void addAnswers(CLI::App& verb, Raw& raw) {
     verb.add_flag("-y,--yes", raw.yes, "Answer yes to every question");
     verb.add_flag("--no", raw.no, "Answer no to every question")->excludes("--yes");
     verb.add_option("--answer", raw.answers, "Answer one question: NAME=yes|no|cancel|ok (see fernwick help answers)")
-        ->type_name("NAME=REPLY");
+        ->type_name("NAME=REPLY")
+        ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)
+        ->allow_extra_args(false);
 }
 
 void addSteps(CLI::App& verb, Raw& raw) {
@@ -59,8 +76,7 @@ void addNoWait(CLI::App& verb, Raw& raw) {
 }
 
 void addDryRun(CLI::App& verb, Raw& raw) {
-    verb.add_flag("-n,--dry-run", raw.options.dryRun, "Show what would change, without writing anything")
-        ->excludes("--format");
+    verb.add_flag("-n,--dry-run", raw.options.dryRun, "Show what would change, without writing anything");
 }
 
 } // namespace cli

@@ -10,19 +10,33 @@ namespace cli {
 struct Raw {
     Options options;
     RunVerb run = nullptr;
-    std::string format = "text";
+    std::string format = "text", color = "auto";
     std::vector<std::string> answers;
     bool yes = false, no = false, quiet = false, verbose = false;
+    /// The formats of the named command.
+    std::vector<std::string> formats{"text"};
+    /// The commands that take the common options.
+    std::vector<std::pair<CLI::App*, std::vector<std::string>>> common;
 };
 
-inline constexpr const char* kExitText = "Exit status: 0 success, 1 errors in the project, 2 wrong usage,\n"
-                                         "3 a problem with the installation or the system, 130 interrupted;\n"
-                                         "4 some of My Devices failed, 5 all of them failed.";
+inline constexpr const char* kExitText = "Exit status:\n"
+                                         "  0    success\n"
+                                         "  1    errors in the project; refused or failed work\n"
+                                         "  2    wrong usage, such as an unknown name or a missing file\n"
+                                         "  3    a problem with the installation or the system\n"
+                                         "  4    some of My Devices failed\n"
+                                         "  5    all of My Devices failed\n"
+                                         "  130  interrupted";
 
 /// Commands that report messages can write SARIF, and the one that documents messages can write Markdown.
 enum class Result { Data, Messages, Pages };
 
-/// Adds a command with --format, --quiet and --verbose.
+/// Adds --format, --quiet, --verbose and --color.
+void addCommon(CLI::App& to, Raw& raw, const std::vector<std::string>& formats);
+/// Adds them to each command of addVerb, after the command's own options.
+void addCommonToVerbs(Raw& raw);
+
+/// Adds a command that takes the common options.
 CLI::App& addVerb(CLI::App& app, Raw& raw, const char* name, RunVerb run, const char* purpose,
                   const std::string& example, Result result = Result::Data);
 void addProject(CLI::App& verb, Raw& raw);

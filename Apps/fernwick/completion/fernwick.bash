@@ -1,5 +1,5 @@
 # Completion of fernwick for bash: source it, or install it as /usr/share/bash-completion/completions/fernwick.
-# What only the program knows (targets, names of settings) is asked of the program.
+# Commands, options and other names come from the program's own help.
 
 _fernwick_files() { # extensions, separated by "|"
   local IFS=$'\n'
@@ -13,18 +13,33 @@ _fernwick_files() { # extensions, separated by "|"
 
 _fernwick_words() { COMPREPLY+=($(compgen -W "$1" -- "$cur")); }
 
+# Offers the names in a section of the help: the section's heading, the program's arguments.
+_fernwick_help() {
+  _fernwick_words "$(fernwick "${@:2}" 2>/dev/null | awk -v heading="$1" '
+    index($0, heading) == 1 { inside = 1; next }
+    inside && /^  [^ ]/ { gsub(",", " ", $1); print $1; entries++ }
+    inside && entries && /^$/ { exit }')"
+}
+
 _fernwick_targets() { _fernwick_words "$(fernwick targets 2>/dev/null | cut -d' ' -f1)"; }
 
-_fernwick_settings() { _fernwick_words "$(fernwick help settings 2>/dev/null | sed -n '/^Settings:/,$s/^  \([A-Z][A-Za-z]*\) .*/\1/p')"; }
+_fernwick_settings() { _fernwick_help Settings: help settings; }
+
+_fernwick_formats() { _fernwick_words "$(fernwick help $verb 2>/dev/null | sed -n 's/^  --format .*: //p' | sed 's/,\| or / /g')"; }
+
+_fernwick_options='--format|--color|--device|--depfile|--answer|--code-page|--source-root' # with a value
 
 _fernwick() {
   local cur=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} verb= action= word
   local extglob=$(shopt -p extglob)
   shopt -s extglob
   COMPREPLY=()
+  local before=
   for word in "${COMP_WORDS[@]:1:COMP_CWORD-1}"; do
-    [[ $word == -* ]] && continue
-    if [[ -z $verb ]]; then verb=$word; elif [[ -z $action ]]; then action=$word; fi
+    if [[ $word != -* && $before != @($_fernwick_options) ]]; then
+      if [[ -z $verb ]]; then verb=$word; elif [[ -z $action ]]; then action=$word; fi
+    fi
+    before=$word
   done
   _fernwick_complete
   $extglob
@@ -32,11 +47,9 @@ _fernwick() {
 
 _fernwick_complete() {
   case $previous in
-    --format)
-      case $verb in build | check | deploy | install-runtime | messages | package | validate)
-        _fernwick_words "text json sarif" ;; explain) _fernwick_words "text json markdown" ;;
-        *) _fernwick_words "text json" ;; esac
-      return ;;
+    --format) _fernwick_formats; return ;;
+    --color) _fernwick_words "auto always never"; return ;;
+    --source-root) COMPREPLY+=($(compgen -d -S / -- "$cur")); compopt -o nospace 2>/dev/null; return ;;
     --device) _fernwick_targets; return ;;
     --answer) _fernwick_words "$(fernwick help answers 2>/dev/null | sed -n 's/^  \([a-z-]*\) .*/\1=/p')"
       compopt -o nospace 2>/dev/null; return ;;
@@ -45,29 +58,12 @@ _fernwick_complete() {
     --name | --depfile-target) return ;;
     --code-page) _fernwick_words "1250 1251 1252 932 936 949 950 65001"; return ;;
   esac
-  local common="--format --quiet --verbose --help" answers="--yes --no --answer"
-  local outcome="--output --no-store --no-wait"
   if [[ $cur == -* ]]; then
-    case $verb in
-      "") _fernwick_words "--help --version" ;;
-      build) _fernwick_words "$common $answers $outcome --device --depfile --depfile-target --dry-run --trust-steps --no-steps" ;;
-      check) _fernwick_words "$common --name --code-page" ;;
-      clean) _fernwick_words "$common --output --no-wait --dry-run" ;;
-      dependencies) _fernwick_words "$common $answers --no-wait" ;;
-      deploy) _fernwick_words "$common $answers $outcome --device --my-devices --trust-steps --no-steps" ;;
-      install-runtime) _fernwick_words "$common --device --my-devices" ;;
-      package) _fernwick_words "$common $answers $outcome --device --my-devices --list --verify --trust-steps --no-steps" ;;
-      validate) _fernwick_words "$common $answers --device --forms --no-store --no-wait" ;;
-      info) _fernwick_words "$common --verify" ;;
-      settings) _fernwick_words "$common $answers --all --no-wait --dry-run" ;;
-      registry) _fernwick_words "$common --bare --utf16 --dry-run" ;;
-      help | workbench) _fernwick_words "--help" ;;
-      *) _fernwick_words "$common" ;;
-    esac
+    if [[ -z $verb ]]; then _fernwick_help Options: --help; else _fernwick_help Options: help "$verb"; fi
     return
   fi
   case $verb in
-    "") _fernwick_words "build check clean dependencies deploy devices doctor explain help info install-runtime messages package registry settings targets validate version workbench" ;;
+    "") _fernwick_help Commands: --help ;;
     messages) _fernwick_files "vbp" ;;
     build | clean | validate) _fernwick_files "vbp|vbg" ;;
     dependencies) [[ -z $action || ${action,,} == *.vbp ]] && _fernwick_words "list add remove"
@@ -86,7 +82,8 @@ _fernwick_complete() {
     explain) _fernwick_words "$(fernwick explain 2>/dev/null | sed 's/^ *\([0-9]*\) .*/\1/')" ;;
     info | workbench) _fernwick_files "vbp|vbg" ;;
     check) _fernwick_files "vbp|vbg|bas|cls|frm|ctl|pag|dsr|dob" ;;
-    help) _fernwick_words "answers build check clean dependencies deploy devices doctor explain info install-runtime messages package registry settings targets validate version workbench" ;;
+    help) _fernwick_words answers; _fernwick_help Commands: --help ;;
+    completion) _fernwick_words "bash zsh fish" ;;
     settings)
       case $action in
         "") _fernwick_words "list get set reset" ;;

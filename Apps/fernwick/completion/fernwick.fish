@@ -1,5 +1,5 @@
 # Completion of fernwick for fish: install it in /usr/share/fish/vendor_completions.d or in ~/.config/fish/completions.
-# Verbs, options and other names come from the program's own help.
+# Commands, options and other names come from the program's own help.
 
 # The entries of a section of the help with their meanings: the section's heading, the program's arguments.
 function __fernwick_help
@@ -25,7 +25,7 @@ function __fernwick_complete
     set -l previous
     for word in (commandline -opc)[2..]
         if not string match -q -- '-*' $word
-            and not contains -- "$previous" --format --device --depfile --depfile-target --output --name --answer --code-page
+            and not contains -- "$previous" --format --color --device --depfile --depfile-target --output --name --answer --code-page --source-root
             if test -z "$verb"
                 set verb $word
             else if test -z "$action"
@@ -38,6 +38,12 @@ function __fernwick_complete
     switch "$previous"
         case --format
             fernwick help $verb 2>/dev/null | string replace -rf '^  --format .*: ' '' | string split -n ', ' | string split ' or '
+            return
+        case --color
+            printf '%s\n' auto always never
+            return
+        case --source-root
+            __fish_complete_directories (commandline -ct)
             return
         case --device
             __fernwick_targets
@@ -67,10 +73,12 @@ function __fernwick_complete
     end
     switch "$verb"
         case ''
-            __fernwick_help Subcommands: --help
+            __fernwick_help Commands: --help
         case help
             echo answers
-            __fernwick_help Subcommands: --help
+            __fernwick_help Commands: --help
+        case completion
+            printf '%s\n' bash zsh fish
         case messages
             __fish_complete_suffix .vbp
         case build clean info validate workbench

@@ -1,6 +1,6 @@
 #compdef fernwick
 # Completion of fernwick for zsh: install it as _fernwick in a folder of $fpath, such as /usr/share/zsh/vendor-completions.
-# Verbs, options and other names come from the program's own help.
+# Commands, options and other names come from the program's own help.
 
 # Offers the entries of a section of the help with their meanings: the tag, the section's heading, the program's arguments.
 _fernwick_help() {
@@ -40,7 +40,7 @@ _fernwick_numbers() {
 _fernwick() {
   local verb action word previous=
   for word in ${words[2,CURRENT-1]}; do
-    if [[ $word != -* && $previous != --(format|device|depfile|depfile-target|output|name|answer|code-page) ]]; then
+    if [[ $word != -* && $previous != --(format|color|device|depfile|depfile-target|output|name|answer|code-page|source-root) ]]; then
       if [[ -z $verb ]]; then verb=$word; elif [[ -z $action ]]; then action=$word; fi
     fi
     previous=$word
@@ -48,6 +48,8 @@ _fernwick() {
 
   case $previous in
     --format) _fernwick_formats $verb; return ;;
+    --color) compadd auto always never; return ;;
+    --source-root) _files -/; return ;;
     --device) _fernwick_targets; return ;;
     --depfile) _files -g '(#i)*.d'; return ;;
     --output) _files -/; return ;;
@@ -60,8 +62,9 @@ _fernwick() {
     return
   fi
   case $verb in
-    "") _fernwick_help verbs Subcommands: --help ;;
-    help) compadd answers; _fernwick_help verbs Subcommands: --help ;;
+    "") _fernwick_help verbs Commands: --help ;;
+    help) compadd answers; _fernwick_help verbs Commands: --help ;;
+    completion) compadd bash zsh fish ;;
     messages) _files -g '(#i)*.vbp' ;;
     build | clean | info | validate | workbench) _files -g '(#i)*.(vbp|vbg)' ;;
     check) _files -g '(#i)*.(vbp|vbg|bas|cls|frm|ctl|pag|dsr|dob)' ;;

@@ -63,6 +63,17 @@ void printPlaces(const DeviceOutcome& outcome, const std::string& done, Console&
     for (const auto& place : outcome.places) console.out(fmt::format("  {}\n", basic::printable(place)));
 }
 
+/// The data of --quiet.
+void printPlacesOnly(const Report& report, Console& console) {
+    for (const auto& outcome : report.devices)
+        for (const auto& place : outcome.places) console.out(place + "\n");
+}
+
+void printFailures(const Report& report, Console& console) {
+    for (const auto& outcome : report.devices)
+        if (!outcome.good) console.err(fmt::format("fernwick: {}: {}", outcome.device, outcome.reason), Tone::Error);
+}
+
 void printTable(const Report& report, const std::string& done, Console& console) {
     std::size_t width = 0;
     for (const auto& outcome : report.devices) width = std::max(width, outcome.device.size());
@@ -83,8 +94,7 @@ std::vector<std::string> devicesToServe(Session& session, const Options& options
     if (device.empty())
         throw Refusal(kWrongUse, "no device given; choose one with --device KEY (see fernwick targets), or all of My "
                                  "Devices with --my-devices");
-    requireUsableDevice(session, device);
-    return {device};
+    return {usableDevice(session, device)};
 }
 
 std::vector<DeviceOutcome> serveDevices(Session& session, const std::vector<std::string>& devices, Console& console,
@@ -108,13 +118,16 @@ void printOutcomes(const Report& report, const std::string& done, bool list, con
     if (printFormatted(report, options, console)) return;
     for (const auto& outcome : report.devices)
         printMessages(outcome.messages, report.project.empty() ? outcome.device : report.project, console);
+    const bool quiet = options.verbosity == Verbosity::Quiet;
+    if (quiet) printPlacesOnly(report, console);
+    if (quiet && list) return printFailures(report, console);
     if (list) return printTable(report, done, console);
     const auto& outcome = report.devices.front();
     // a run that ended early still shows the status of the compile
     const bool isOutdated = !outcome.good && outcome.statusIsSuccess;
-    if (!outcome.statusText.empty() && !isOutdated) console.out(outcome.statusText + "\n");
-    if (outcome.good && options.verbosity != Verbosity::Quiet) printPlaces(outcome, done, console);
-    if (!outcome.good) console.err(fmt::format("fernwick: {}: {}", outcome.device, outcome.reason), Tone::Error);
+    if (!quiet && !outcome.statusText.empty() && !isOutdated) console.out(outcome.statusText + "\n");
+    if (!quiet && outcome.good) printPlaces(outcome, done, console);
+    printFailures(report, console);
 }
 
 } // namespace cli

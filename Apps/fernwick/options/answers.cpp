@@ -1,4 +1,5 @@
 #include "Apps/fernwick/options/answers.h"
+#include "Apps/fernwick/options/suggestions.h"
 #include "Basic/case_folding.h"
 #include <array>
 #include <fmt/format.h>
@@ -33,6 +34,12 @@ const KnownQuestion* find(Test&& test) {
     for (const auto& question : kQuestions)
         if (test(question)) return &question;
     return nullptr;
+}
+
+std::vector<std::string> questionNames() {
+    std::vector<std::string> names;
+    for (const auto& question : kQuestions) names.emplace_back(question.name);
+    return names;
 }
 
 } // namespace
@@ -72,14 +79,16 @@ std::string describeQuestions() {
     return text;
 }
 
-bool Answers::add(std::string_view assignment) {
+std::string Answers::add(std::string_view assignment) {
     const auto equals = assignment.find('=');
-    if (equals == assignment.npos) return false;
-    const auto* question = questionNamed(assignment.substr(0, equals));
-    const auto reply = replyNamed(assignment.substr(equals + 1));
-    if (!question || !reply) return false;
+    if (equals == assignment.npos) return fmt::format("{} has no reply; write NAME=REPLY", assignment);
+    const auto name = assignment.substr(0, equals), given = assignment.substr(equals + 1);
+    const auto* question = questionNamed(name);
+    if (!question) return fmt::format("unknown question {}{}", name, didYouMean(name, questionNames()));
+    const auto reply = replyNamed(given);
+    if (!reply) return fmt::format("unknown reply {}; use yes, no, cancel or ok", given);
     named_[std::string(question->name)] = *reply;
-    return true;
+    return {};
 }
 
 std::optional<Reply> Answers::given(const KnownQuestion* question) const {

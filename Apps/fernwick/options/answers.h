@@ -38,8 +38,8 @@ class Answers {
 public:
     /// --yes and --no.
     void everything(Reply reply) { all_ = reply; }
-    /// --answer NAME=REPLY. Returns false if the name or the reply is unknown.
-    bool add(std::string_view assignment);
+    /// --answer NAME=REPLY. Returns what is wrong with it; "" if nothing is.
+    std::string add(std::string_view assignment);
     /// The reply that the options give to a question, if any.
     std::optional<Reply> given(const KnownQuestion* question) const;
 

@@ -1,6 +1,7 @@
 #pragma once
 // The options and operands of one command.
 #include "Apps/fernwick/options/answers.h"
+#include "Apps/fernwick/options/color_use.h"
 #include "Apps/fernwick/options/verbosity.h"
 #include "Basic/code_page.h"
 #include <optional>
@@ -22,6 +23,9 @@ struct Options {
 
     Format format = Format::Text;
     Verbosity verbosity = Verbosity::Normal;
+    ColorUse color = ColorUse::Auto;
+    /// The folder that SARIF's paths are relative to; "" for the current one.
+    std::string sourceRoot;
     Answers answers;
     bool dryRun = false;
     std::string device;

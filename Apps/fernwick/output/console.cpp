@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
-#include <cstdlib>
 #include <fmt/format.h>
 #include <sys/ioctl.h>
 #include <unistd.h>
@@ -13,11 +12,6 @@ namespace cli {
 namespace {
 
 constexpr int kBarCells = 20;
-
-bool noColorWanted() {
-    const char* value = std::getenv("NO_COLOR");
-    return value && *value;
-}
 
 /// 80 if the terminal does not report its width, as new pseudo-terminals do not.
 size_t terminalWidth() {
@@ -55,17 +49,15 @@ const char* colourOf(Tone tone) {
 
 } // namespace
 
-Console::Console(Verbosity verbosity)
-    : verbosity_(verbosity),
-      errIsTerminal_(isatty(STDERR_FILENO) == 1),
-      colour_(errIsTerminal_ && !noColorWanted()),
-      canAsk_(errIsTerminal_ && isatty(STDIN_FILENO) == 1) {}
+Console::Console(Verbosity verbosity, ColorUse colour)
+    : verbosity_(verbosity), terminal_(terminalFor(colour, terminalFacts())) {}
 
 Console::~Console() { endProgress(); }
 
 void Console::out(std::string_view text) { data(basic::printable(text, "\n\t")); }
 
 void Console::data(std::string_view data) {
+    hasData_ = hasData_ || !data.empty();
     if (std::fwrite(data.data(), 1, data.size(), stdout) != data.size()) outputFailed_ = true;
 }
 
@@ -75,7 +67,7 @@ bool Console::flush() {
 }
 
 std::string Console::coloured(std::string_view line, Tone tone) const {
-    if (!colour_ || tone == Tone::Plain) return std::string(line);
+    if (!terminal_.colour || tone == Tone::Plain) return std::string(line);
     return fmt::format("\033[{}m{}\033[0m", colourOf(tone), line);
 }
 
@@ -91,20 +83,24 @@ void Console::note(std::string_view line, Tone tone) {
 }
 
 void Console::detail(std::string_view line) {
-    if (verbosity_ == Verbosity::Verbose) err(line, Tone::Faint);
+    if (verbosity_ != Verbosity::Verbose) return;
+    const std::chrono::duration<double> passed = std::chrono::steady_clock::now() - begin_;
+    err(fmt::format("[{:.3f} s] {}", passed.count(), line), Tone::Faint);
 }
 
 void Console::progress(float percent, std::string_view status) {
     if (verbosity_ == Verbosity::Quiet) return;
     const auto text = basic::printable(status);
-    if (errIsTerminal_) {
-        drawBar(percent, text);
-        return;
+    const bool isPercentage = text.ends_with("% completed"); // the bar shows it
+    const bool isNew = !text.empty() && !isPercentage && text != lastText_;
+    if (isNew) lastText_ = text;
+    if (verbosity_ == Verbosity::Verbose) {
+        if (isNew) detail(lastText_);
+    } else if (terminal_.progressBar) {
+        drawBar(percent, lastText_);
+    } else if (isNew) {
+        toError(lastText_ + "\n");
     }
-    const bool isPercentage = text.find("% completed") != std::string_view::npos;
-    if (text.empty() || isPercentage || text == lastText_) return;
-    lastText_ = text;
-    toError(text + "\n");
 }
 
 void Console::drawBar(float percent, std::string_view text) {

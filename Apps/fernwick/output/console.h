@@ -1,6 +1,8 @@
 #pragma once
 // Data goes to standard output, progress and diagnostics to standard error.
 #include "Apps/fernwick/options/verbosity.h"
+#include "Apps/fernwick/output/terminal.h"
+#include <chrono>
 #include <string>
 #include <string_view>
 
@@ -8,10 +10,9 @@ namespace cli {
 
 enum class Tone { Plain, Error, Warning, Good, Faint };
 
-/// Uses colours on a terminal unless NO_COLOR is set, and shows a progress bar only on a terminal.
 class Console {
 public:
-    explicit Console(Verbosity verbosity);
+    explicit Console(Verbosity verbosity, ColorUse colour = ColorUse::Auto);
     ~Console();
     Console(const Console&) = delete;
 
@@ -26,20 +27,22 @@ public:
     void errLines(std::string_view text, Tone tone);
     /// Like err, but silent under --quiet.
     void note(std::string_view line, Tone tone = Tone::Plain);
-    /// Like err, but only under --verbose.
+    /// Like err, but only under --verbose and after the time since the start.
     void detail(std::string_view line);
 
-    /// Shows progress from 0 to 100 with a text. Without a terminal, prints the text when it changes, but no
-    /// percentages.
+    /// Shows progress from 0 to 100 with a text, which may be a percentage, too. Without a progress bar, prints the
+    /// text when it changes, but no percentages; under --verbose with the time.
     void progress(float percent, std::string_view text);
     void endProgress();
 
-    /// Whether both input and diagnostics are a terminal.
-    bool canAsk() const { return canAsk_; }
+    /// Whether a question reaches a user.
+    bool canAsk() const { return terminal_.questions; }
     /// Writes the beginning of a line that the user completes.
     void prompt(std::string_view text);
 
     Verbosity verbosity() const { return verbosity_; }
+    /// Whether data was written.
+    bool hasData() const { return hasData_; }
     /// Returns whether all data was written; false for a full disk or a closed pipe.
     bool flush();
 
@@ -49,9 +52,9 @@ private:
     void drawBar(float percent, std::string_view text);
 
     Verbosity verbosity_;
-    bool errIsTerminal_;
-    bool colour_;
-    bool canAsk_;
+    Terminal terminal_;
+    std::chrono::steady_clock::time_point begin_ = std::chrono::steady_clock::now();
+    bool hasData_ = false;
     bool barShown_ = false;
     bool outputFailed_ = false;
     std::string lastText_;

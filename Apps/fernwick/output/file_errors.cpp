@@ -1,6 +1,7 @@
 #include "Apps/fernwick/output/file_errors.h"
 #include "Apps/fernwick/options/exit_status.h"
 #include "Basic/runtime_error.h"
+#include <filesystem>
 
 namespace cli {
 
@@ -13,6 +14,11 @@ int statusOfOpening(int number) {
     case basic::kDeviceIOError: return kMachineTrouble;
     default: return kProjectErrors;
     }
+}
+
+int statusOfNamedFile(const std::string& path, int number) {
+    std::error_code unknown;
+    return std::filesystem::is_directory(path, unknown) ? int(kWrongUse) : statusOfOpening(number);
 }
 
 std::string withFile(const std::string& path, const std::string& description) {

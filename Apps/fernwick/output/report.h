@@ -63,11 +63,13 @@ std::string_view severityOf(const Message& message);
 std::string textOf(const Message& message, const std::string& project);
 /// Schema: installation/schemas/report-1.json. Ends with a newline.
 std::string jsonOf(const Report& report);
-/// SARIF 2.1.0. Ends with a newline.
-std::string sarifOf(const Report& report);
+/// SARIF 2.1.0, with the paths below `sourceRoot` relative to it; "" for the current folder. Ends with a newline.
+std::string sarifOf(const Report& report, const std::string& sourceRoot);
 
 /// Writes the messages to standard error, one line each.
 void printMessages(const std::vector<Message>& messages, const std::string& project, Console& console);
+/// Writes JSON or SARIF if requested.
+void printDocument(const Report& report, const Options& options, Console& console);
 /// Prints the failure, if any, and writes JSON or SARIF if requested. Returns false if the result is to be written as
 /// text.
 bool printFormatted(const Report& report, const Options& options, Console& console);

@@ -19,18 +19,26 @@ void printMessages(const std::vector<Message>& messages, const std::string& proj
         console.err(textOf(message, project), message.isError ? Tone::Error : Tone::Warning);
 }
 
+void printDocument(const Report& report, const Options& options, Console& console) {
+    if (options.format == Format::Json) console.out(jsonOf(report));
+    if (options.format == Format::Sarif) console.out(sarifOf(report, options.sourceRoot));
+}
+
 bool printFormatted(const Report& report, const Options& options, Console& console) {
     if (!report.failure.empty()) console.err("fernwick: " + report.failure, Tone::Error);
-    if (options.format == Format::Json) console.out(jsonOf(report));
-    if (options.format == Format::Sarif) console.out(sarifOf(report));
+    printDocument(report, options, console);
     return options.format != Format::Text;
 }
 
 void printReport(const Report& report, const Options& options, Console& console) {
     if (printFormatted(report, options, console)) return;
     printMessages(report.messages, report.project, console);
+    if (options.verbosity == Verbosity::Quiet) {
+        if (!report.image.empty()) console.out(report.image + "\n");
+        return;
+    }
     if (!report.statusText.empty()) console.out(report.statusText + "\n");
-    if (!report.image.empty() && options.verbosity != Verbosity::Quiet) console.out("Image: " + report.image + "\n");
+    if (!report.image.empty()) console.out("Image: " + report.image + "\n");
 }
 
 } // namespace cli

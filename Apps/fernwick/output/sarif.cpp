@@ -1,9 +1,13 @@
 #include "Apps/common/machine.h"
 #include "Apps/common/maker.h"
 #include "Apps/common/version.h"
+#include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/output/catalogue.h"
 #include "Apps/fernwick/output/json_output.h"
 #include "Apps/fernwick/output/report.h"
+#include "Apps/fernwick/output/rule_names.h"
+#include "Apps/fernwick/output/source_uri.h"
+#include "Apps/fernwick/output/token_ends.h"
 #include <fmt/format.h>
 #include <set>
 
@@ -11,24 +15,42 @@ namespace cli {
 
 namespace {
 
-std::string uriOf(const std::string& path) {
-    std::string uri = "file://";
-    for (const unsigned char c : path) {
-        const bool plain = std::isalnum(c) != 0 || std::string_view("-._~/").find(char(c)) != std::string_view::npos;
-        uri += plain ? std::string(1, char(c)) : fmt::format("%{:02X}", c);
-    }
-    return uri;
-}
+constexpr const char* kSourceRootId = "SRCROOT";
 
-/// A message without a file is located at the project.
-Json sarifLocation(const Message& message, const std::string& project) {
-    Json physical{{"artifactLocation", {{"uri", uriOf(message.file.empty() ? project : message.file)}}}};
-    if (message.line > 0) {
-        physical["region"] = {{"startLine", message.line}};
-        if (message.column > 0) physical["region"]["startColumn"] = message.column;
+/// The places of the messages of one report.
+class Locations {
+public:
+    Locations(const Report& report, const std::string& sourceRoot) : project_(report.project), root_(sourceRoot) {}
+
+    /// A message without a file is located at the project; without a project it has no location.
+    Json of(const Message& message) {
+        const auto& path = message.file.empty() ? project_ : message.file;
+        if (path.empty()) return Json::array();
+        Json physical{{"artifactLocation", artifact(path)}};
+        if (message.line > 0) physical["region"] = region(message);
+        return Json::array({{{"physicalLocation", physical}}});
     }
-    return {{"physicalLocation", physical}};
-}
+    Json baseIds() const { return {{kSourceRootId, {{"uri", root_.uri()}}}}; }
+
+private:
+    Json artifact(const std::string& path) const {
+        const auto relative = root_.relativeUri(path);
+        if (relative.empty()) return {{"uri", fileUri(path)}};
+        return {{"uri", relative}, {"uriBaseId", kSourceRootId}};
+    }
+    Json region(const Message& message) {
+        Json region{{"startLine", message.line}};
+        if (message.column == 0) return region;
+        region["startColumn"] = message.column;
+        if (const auto end = ends_.endColumn(message.file, message.line, message.column); end > 0)
+            region["endColumn"] = end;
+        return region;
+    }
+
+    const std::string& project_;
+    SourceRoot root_;
+    TokenEnds ends_;
+};
 
 /// Including those of the devices.
 std::vector<const Message*> allMessages(const Report& report) {
@@ -40,7 +62,8 @@ std::vector<const Message*> allMessages(const Report& report) {
 }
 
 Json ruleOf(const fernwick::MessageInfo& message, const std::string& pages) {
-    Json rule{{"id", std::to_string(message.number)},
+    Json rule{{"id", ruleId(message.number)},
+              {"name", ruleName(message)},
               {"shortDescription", {{"text", message.text}}},
               {"fullDescription", {{"text", message.meaning}}},
               {"help", {{"text", message.remedy}}},
@@ -50,24 +73,38 @@ Json ruleOf(const fernwick::MessageInfo& message, const std::string& pages) {
 }
 
 /// One rule for each number that the catalogue has, in ascending order.
-Json sarifRules(const std::set<int>& numbers) {
+Json sarifRules(const std::set<int>& numbers, const std::string& installation) {
     Json rules = Json::array();
-    if (numbers.empty()) return rules;
-    const auto pages = apps::messagePagesOf(apps::findInstallation(host::Environment{}));
+    const auto pages = apps::messagePagesOf(installation);
     for (const auto number : numbers)
         if (const auto* known = messageNumbered(number)) rules.push_back(ruleOf(*known, pages));
     return rules;
 }
 
-Json sarifResult(const Message& message, const std::string& project) {
-    return {{"ruleId", std::to_string(message.number)},
+Json sarifDriver(const std::set<int>& numbers) {
+    const auto installation = apps::findInstallation(host::Environment{});
+    Json driver{{"name", "fernwick"}, {"version", apps::kVersion}};
+    if (const auto address = apps::appOf(installation, {}).WebAddress; !address.empty())
+        driver["informationUri"] = address;
+    driver["rules"] = sarifRules(numbers, installation);
+    return driver;
+}
+
+Json sarifResult(const Message& message, Locations& locations) {
+    return {{"ruleId", ruleId(message.number)},
             {"level", message.isError ? "error" : "warning"},
             {"message", {{"text", message.text}}},
-            {"locations", Json::array({sarifLocation(message, project)})}};
+            {"locations", locations.of(message)}};
+}
+
+/// Findings are results of a successful execution.
+bool wasExecuted(const Report& report) {
+    const auto status = report.exitStatus;
+    return report.failure.empty() && status != kWrongUse && status != kMachineTrouble && status != kInterrupted;
 }
 
 Json sarifInvocation(const Report& report) {
-    Json invocation{{"executionSuccessful", report.exitStatus == 0}, {"exitCode", report.exitStatus}};
+    Json invocation{{"executionSuccessful", wasExecuted(report)}, {"exitCode", report.exitStatus}};
     if (!report.failure.empty())
         invocation["toolExecutionNotifications"] =
             Json::array({{{"level", "error"}, {"message", {{"text", report.failure}}}}});
@@ -76,16 +113,20 @@ Json sarifInvocation(const Report& report) {
 
 } // namespace
 
-std::string sarifOf(const Report& report) {
+std::string sarifOf(const Report& report, const std::string& sourceRoot) {
     Json results = Json::array();
     std::set<int> numbers;
+    Locations locations{report, sourceRoot};
     for (const auto* message : allMessages(report)) {
         numbers.insert(message->number);
-        results.push_back(sarifResult(*message, report.project));
+        results.push_back(sarifResult(*message, locations));
     }
-    const Json driver{{"name", "fernwick"}, {"version", apps::kVersion}, {"rules", sarifRules(numbers)}};
-    const Json run{
-        {"tool", {{"driver", driver}}}, {"invocations", Json::array({sarifInvocation(report)})}, {"results", results}};
+    const Json run{{"tool", {{"driver", sarifDriver(numbers)}}},
+                   {"automationDetails", {{"id", fmt::format("fernwick-{}/", report.verb)}}},
+                   {"originalUriBaseIds", locations.baseIds()},
+                   {"columnKind", "unicodeCodePoints"},
+                   {"invocations", Json::array({sarifInvocation(report)})},
+                   {"results", results}};
     return dumpJson({{"$schema", "https://json.schemastore.org/sarif-2.1.0.json"},
                      {"version", "2.1.0"},
                      {"runs", Json::array({run})}});

@@ -16,7 +16,13 @@ void noteInterrupt(int signal) {
 }
 } // namespace
 
-void watchForInterrupt() { std::signal(SIGINT, noteInterrupt); }
+void watchForInterrupt() {
+    std::signal(SIGINT, noteInterrupt);
+    sigset_t interrupt; // a parent may have blocked it
+    sigemptyset(&interrupt);
+    sigaddset(&interrupt, SIGINT);
+    sigprocmask(SIG_UNBLOCK, &interrupt, nullptr);
+}
 
 bool wasInterrupted() { return interruptNoted != 0; }
 

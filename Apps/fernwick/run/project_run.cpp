@@ -1,15 +1,21 @@
 #include "Apps/fernwick/run/project_run.h"
 #include "Apps/common/compile_steps.h"
 #include "Apps/fernwick/options/exit_status.h"
+#include "Apps/fernwick/options/suggestions.h"
 #include "Apps/fernwick/run/project_argument.h"
+#include "Apps/fernwick/run/verbose.h"
+#include "Basic/case_folding.h"
+#include "Host/files/atomic_save.h"
 #include <fmt/format.h>
 
 namespace cli {
 
 namespace {
 
-Refusal unusableTarget(const std::string& key) {
-    return {kWrongUse, fmt::format("{} is not a usable design target; see fernwick targets", key)};
+Refusal unusableTarget(Session& session, const std::string& key) {
+    const auto near = didYouMean(key, session.addIn().devices.GetDesignTargets(false));
+    return {kWrongUse,
+            fmt::format("{} is not a usable design target{}", key, near.empty() ? "; see fernwick targets" : near)};
 }
 
 void requireDevice(Session& session, const std::string& wanted) {
@@ -19,7 +25,7 @@ void requireDevice(Session& session, const std::string& wanted) {
                       none ? "no usable design target is installed; see fernwick targets. The project was not changed."
                            : "the project was closed by the add-in");
     const auto device = session.settings() ? session.settings()->TargetDevice() : std::string();
-    if (device.empty() && !wanted.empty()) throw unusableTarget(wanted);
+    if (device.empty() && !wanted.empty()) throw unusableTarget(session, wanted);
     if (device.empty())
         throw Refusal(kWrongUse,
                       fmt::format("{}: the project has no device; choose one with --device KEY (see fernwick "
@@ -59,25 +65,30 @@ void openProject(Session& session, const Options& options) {
     session.requireFernwickProject();
     session.requireAllMembers();
     if (!options.dryRun) session.requireStorableResults();
+    showSources(session);
 }
 
 void beginWork(Session& session, const Options& options) {
     session.takeUp();
     session.trust().prepare(session.machine().registry(), apps::allSteps(*session.settings()));
     session.forget();
+    if (!options.device.empty()) session.user().context().device = usableDevice(session, options.device);
     session.connect();
     requireDevice(session, options.device);
     requireInstalledParts(session);
+    showStateOfImage(session);
 }
 
-void requireUsableDevice(Session& session, const std::string& device) {
-    if (!session.addIn().devices.IsValidDevice(device)) throw unusableTarget(device);
+std::string usableDevice(Session& session, const std::string& given) {
+    auto& devices = session.addIn().devices;
+    if (devices.IsValidDevice(given)) return given;
+    for (auto& key : devices.GetDesignTargets(false))
+        if (basic::equalNoCase(key, given)) return key;
+    throw unusableTarget(session, given);
 }
 
 std::string deviceOfRun(Session& session, const Options& options) {
-    if (options.device.empty()) return session.settings()->TargetDevice();
-    requireUsableDevice(session, options.device);
-    return options.device;
+    return options.device.empty() ? session.settings()->TargetDevice() : usableDevice(session, options.device);
 }
 
 std::string statusText(Session& session) {
@@ -103,6 +114,7 @@ std::string imageOfRun(Session& session) {
 void endWork(Session& session, Report& report, const Options& options) {
     auto& files = session.machine().platform().files;
     if (session.addIn().errors.reports() > 0) report.exitStatus = kMachineTrouble;
+    showOtherInputs(session);
     const auto image = imageOfRun(session);
     if (!session.closeAndSave()) {
         report.failure = session.path() + " cannot be saved";

@@ -14,8 +14,9 @@ void openProject(Session& session, const Options& options);
 /// no device (2), the device or another part that a build needs is not installed (3).
 void beginWork(Session& session, const Options& options);
 
-/// Refusal 2 if the device is not a usable design target.
-void requireUsableDevice(Session& session, const std::string& device);
+/// Returns the key of a usable design target as it is installed; letter case of `given` is ignored. Refusal 2 for any
+/// other key.
+std::string usableDevice(Session& session, const std::string& given);
 
 /// Returns the device given by --device, else the project's own. Refusal 2 if it is not usable.
 std::string deviceOfRun(Session& session, const Options& options);

@@ -52,6 +52,7 @@ public:
     host::Host& host() { return *host_; }
     Machine& machine() { return machine_; }
     CommandLineUser& user() { return user_; }
+    Console& console() { return console_; }
     StepsTrust& trust() { return trust_; }
     const std::string& path() const { return path_; }
     /// Whether the project's file receives settings and results.

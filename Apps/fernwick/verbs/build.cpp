@@ -1,7 +1,7 @@
 #include "Add-in/build/messages/message_numbers.h"
-#include "Apps/common/compile_steps.h"
 #include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/output/depfile.h"
+#include "Apps/fernwick/run/build_plan.h"
 #include "Apps/fernwick/run/project_run.h"
 #include "Apps/fernwick/verbs/group_run.h"
 #include "Apps/fernwick/verbs/stored_messages.h"
@@ -42,17 +42,14 @@ void warnOfLineFeeds(Session& session, Console& console) {
             Tone::Warning);
 }
 
-void printPlan(Session& session, Console& console) {
+Report dryRun(Session& session, const Options& options, Console& console) {
     session.takeUp();
-    auto& files = session.machine().platform().files;
-    console.out(fmt::format("project  {}\ndevice   {}\n", session.path(), session.settings()->TargetDevice()));
-    for (const auto& component : session.project()->VBComponents()->items())
-        console.out(fmt::format("source   {}\n", files.GetAbsolutePathName(component->FileNames(1))));
-    for (const auto& reference : session.project()->References()->items())
-        if (!reference->BuiltIn()) console.out(fmt::format("library  {}\n", reference->FullPath()));
-    for (const auto& step : apps::allSteps(*session.settings())) console.out(fmt::format("step     {}\n", step));
-    console.out(fmt::format("image    {}\n", imagePathOf(session)));
+    printPlan(session, imagePathOf(session), options, console);
     session.closeUnsaved();
+    Report report;
+    report.verb = options.verb;
+    report.project = session.path();
+    return report;
 }
 
 bool isMachineTrouble(const Message& message) {
@@ -120,14 +117,6 @@ void writeDepfile(const Options& options, Report& report) {
     if (err.Number == 0) return;
     report.failure = fmt::format("{}: cannot be written: {}", options.depfile, err.Description);
     report.exitStatus = kMachineTrouble;
-}
-
-Report dryRun(Session& session, const Options& options, Console& console) {
-    printPlan(session, console);
-    Report report;
-    report.verb = options.verb;
-    report.project = session.path();
-    return report;
 }
 
 Report buildProject(const Options& options, Console& console) {

@@ -23,7 +23,20 @@ namespace {
 struct CheckTotals {
     std::size_t files = 0, errors = 0;
     std::uint64_t lines = 0;
+    int status = kGood;
 };
+
+/// An error that is a mistake on the command line or the system's trouble is not one of the project.
+int statusOfDiagnostic(const qltoolkit::Diagnostic& diagnostic, bool isNamed) {
+    if (diagnostic.severity != qltoolkit::Severity::Error) return kGood;
+    if (!isNamed) return kProjectErrors;
+    switch (qltoolkit::Message(diagnostic.number)) {
+    case qltoolkit::Message::FileMissing:
+    case qltoolkit::Message::FileIsFolder: return kWrongUse;
+    case qltoolkit::Message::FileUnreadable: return kMachineTrouble;
+    default: return kProjectErrors;
+    }
+}
 
 Message messageOf(const qltoolkit::Diagnostic& diagnostic) {
     Message message;
@@ -61,10 +74,12 @@ CheckTotals checkAll(const SourceList& list, const Options& options, Console& co
     for (const auto& source : list.sources) {
         checkInterrupt();
         const auto result = checkOne(source, options, console);
+        console.detail(fmt::format("read {}: {}", source.path, plural(result.lines, "line")));
         ++totals.files;
         totals.lines += result.lines;
         totals.errors += result.errors;
         for (const auto& diagnostic : result.diagnostics) {
+            totals.status = std::max(totals.status, statusOfDiagnostic(diagnostic, source.isNamed));
             auto message = messageOf(diagnostic);
             if (options.format == Format::Text) {
                 console.err(textOf(message, ""), message.isError ? Tone::Error : Tone::Warning);
@@ -92,12 +107,11 @@ int runCheck(const Options& options, Console& console) {
         console.err("fernwick: " + problem, Tone::Error);
     }
     const auto totals = checkAll(list, options, console, report);
-    report.exitStatus = totals.errors > 0 || !list.problems.empty() ? kProjectErrors : kGood;
+    report.exitStatus = std::max(totals.status, list.status);
     const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - begin;
     report.statusText = fmt::format("{}, {}, {}", plural(totals.files, "file"), plural(totals.lines, "line"),
                                     plural(totals.errors, "error"));
-    if (options.format == Format::Json) console.out(jsonOf(report));
-    if (options.format == Format::Sarif) console.out(sarifOf(report));
+    printDocument(report, options, console);
     if (options.format == Format::Text && options.verbosity != Verbosity::Quiet)
         console.out(fmt::format("{} in {:.2f} s\n", report.statusText, taken.count()));
     return report.exitStatus;

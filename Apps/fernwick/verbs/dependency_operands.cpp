@@ -2,6 +2,7 @@
 #include "Apps/common/file_names.h"
 #include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/options/refusal.h"
+#include "Apps/fernwick/options/suggestions.h"
 #include <fmt/format.h>
 
 namespace cli {
@@ -28,7 +29,8 @@ DependencyOperands dependencyOperands(const std::vector<std::string>& operands) 
     }
     parsed.files.assign(next, operands.end());
     if (!hasAction && !parsed.files.empty())
-        throw Refusal(kWrongUse, fmt::format("dependencies expects list, add or remove, not {}", parsed.files.front()));
+        throw Refusal(kWrongUse, fmt::format("dependencies expects list, add or remove, not {}{}", parsed.files.front(),
+                                             didYouMean(parsed.files.front(), {"list", "add", "remove"})));
     if (hasAction && parsed.files.empty() != (parsed.action == "list"))
         throw Refusal(kWrongUse, parsed.action == "list"
                                      ? "dependencies list expects no files"

@@ -4,6 +4,7 @@
 #include "Apps/fernwick/devices/my_devices.h"
 #include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/options/refusal.h"
+#include "Apps/fernwick/options/suggestions.h"
 #include "Apps/fernwick/output/json_output.h"
 #include "Apps/fernwick/run/interruption.h"
 #include "Apps/fernwick/verbs/verbs.h"
@@ -28,18 +29,23 @@ struct MyDevices {
     std::vector<DeviceRow> rows;
 };
 
-std::string knownKeys(const std::vector<DeviceRow>& rows) {
-    std::string keys;
+std::vector<std::string> usableKeys(const std::vector<DeviceRow>& rows) {
+    std::vector<std::string> keys;
     for (const auto& row : rows)
-        if (row.isUsable) keys += (keys.empty() ? "" : ", ") + row.key;
-    return keys.empty() ? "none" : keys;
+        if (row.isUsable) keys.push_back(row.key);
+    return keys;
+}
+
+std::string notUsable(const std::string& key, const std::vector<std::string>& keys) {
+    const auto near = didYouMean(key, keys);
+    if (near.empty() && keys.empty()) return fmt::format("{} is not a usable device; none is installed", key);
+    return fmt::format("{} is not a usable device{}", key,
+                       near.empty() ? "; the usable devices are " + listedWords(keys, "and") : near);
 }
 
 const DeviceRow& knownDevice(const MyDevices& devices, const std::string& key) {
     const auto* row = deviceWithKey(devices.rows, key);
-    if (!row || !row->isUsable)
-        throw Refusal(kWrongUse, fmt::format("{} is not a usable device; the usable devices are {}", key,
-                                             knownKeys(devices.rows)));
+    if (!row || !row->isUsable) throw Refusal(kWrongUse, notUsable(key, usableKeys(devices.rows)));
     return *row;
 }
 

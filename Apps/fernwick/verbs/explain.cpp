@@ -3,9 +3,9 @@
 #include "Apps/fernwick/output/catalogue.h"
 #include "Apps/fernwick/output/json_output.h"
 #include "Apps/fernwick/output/message_pages.h"
+#include "Apps/fernwick/output/rule_names.h"
 #include "Apps/fernwick/output/wrapped_text.h"
 #include "Apps/fernwick/verbs/verbs.h"
-#include <charconv>
 #include <fmt/format.h>
 
 namespace cli {
@@ -18,12 +18,9 @@ constexpr std::size_t kNearOnes = 3;
 constexpr std::size_t kTextWidth = 78;
 
 std::int32_t numberOf(const std::string& operand) {
-    std::int32_t number = 0;
-    const auto* end = operand.data() + operand.size();
-    const auto read = std::from_chars(operand.data(), end, number);
-    if (read.ec != std::errc{} || read.ptr != end)
-        throw Refusal(kWrongUse, fmt::format("explain expects message numbers, not {}", operand));
-    return number;
+    const auto number = ruleNumber(operand);
+    if (!number) throw Refusal(kWrongUse, fmt::format("explain expects message numbers, not {}", operand));
+    return *number;
 }
 
 std::string listed(const std::vector<std::int32_t>& numbers) {

@@ -112,6 +112,8 @@ Report runProjects(const Options& options, Console& console, RunProject run) {
     member.project = projectArgument(options.project);
     const auto group = projectGroupOf(member.project);
     if (group.path.empty()) return run(member, console);
+    if (options.dryRun && options.format != Format::Text)
+        throw Refusal(kWrongUse, "--dry-run has a JSON document only for a single project, not for a group");
     Report report;
     report.verb = options.verb;
     report.project = group.path;

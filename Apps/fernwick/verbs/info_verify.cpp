@@ -71,7 +71,8 @@ Json jsonOfVerdicts(const std::vector<FileVerdict>& verdicts) {
 
 int verifyRoundTrip(const ProjectGroup& subject, const Options& options, Console& console) {
     const auto verdicts = verdictsOf(subject);
-    const int status = countOfVerdicts(verdicts, FileVerdict::Kind::Changes) > 0 ? kProjectErrors : kGood;
+    const bool allSame = countOfVerdicts(verdicts, FileVerdict::Kind::Same) == verdicts.size();
+    const int status = allSame ? kGood : kProjectErrors;
     if (options.format == Format::Json) {
         console.out(dumpJson(jsonOfVerdicts(verdicts)));
         return status;

@@ -7,7 +7,7 @@
 
 namespace cli {
 
-/// Prints the verdict on each file and returns the exit status: 1 if one would change.
+/// Prints the verdict on each file and returns the exit status: 1 if one would change, is missing or cannot be read.
 int verifyRoundTrip(const ProjectGroup& subject, const Options& options, Console& console);
 
 } // namespace cli

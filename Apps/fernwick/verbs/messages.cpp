@@ -26,11 +26,8 @@ int runMessages(const Options& options, Console& console) {
     report.project = session.path();
     report.messages = storedMessages(session);
     session.closeUnsaved();
-    if (options.format == Format::Json) {
-        console.out(jsonOf(report));
-    } else if (options.format == Format::Sarif) {
-        console.out(sarifOf(report));
-    } else {
+    printDocument(report, options, console);
+    if (options.format == Format::Text) {
         for (const auto& message : report.messages) console.out(storedText(message) + "\n");
         if (report.messages.empty()) console.note("no stored messages");
     }

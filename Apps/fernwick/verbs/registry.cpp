@@ -1,14 +1,15 @@
 #include "Apps/common/installation.h"
 #include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/options/refusal.h"
+#include "Apps/fernwick/output/file_errors.h"
 #include "Apps/fernwick/output/json_output.h"
 #include "Apps/fernwick/verbs/verbs.h"
 #include "Basic/case_folding.h"
 #include "Basic/runtime_error.h"
+#include "Host/files/text_file.h"
 #include "Host/registry/reg_exchange.h"
 #include "Host/system/environment.h"
 #include <fmt/format.h>
-#include <fstream>
 #include <iostream>
 #include <iterator>
 
@@ -130,10 +131,7 @@ int get(const Options& options, Console& console) {
 
 int change(const Options& options, Console& console, const std::vector<RegInstruction>& instructions,
            const std::string& origin) {
-    if (options.dryRun) {
-        console.data(withoutCarriageReturns(host::writeRegText(instructions, host::RegTextEncoding::Utf8)));
-        return kGood;
-    }
+    if (options.dryRun) return printValues(options, console, instructions, true);
     auto store = openStore();
     host::importRegistry(store, instructions, origin);
     return kGood;
@@ -175,9 +173,8 @@ int importFile(const Options& options, Console& console) {
     if (path == "-") {
         bytes.assign(std::istreambuf_iterator<char>(std::cin), {});
     } else {
-        std::ifstream file(path, std::ios::binary);
-        if (!file) throw Refusal(kWrongUse, path + ": cannot be read");
-        bytes.assign(std::istreambuf_iterator<char>(file), {});
+        const auto err = basic::attempt([&] { bytes = host::readFile(path).bytes; });
+        if (err.Number != 0) throw Refusal(statusOfNamedFile(path, err.Number), withFile(path, err.Description));
     }
     return change(options, console, host::readRegText(bytes, path), path);
 }

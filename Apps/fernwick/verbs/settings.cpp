@@ -1,5 +1,6 @@
 #include "Apps/common/file_names.h"
 #include "Apps/fernwick/options/exit_status.h"
+#include "Apps/fernwick/options/suggestions.h"
 #include "Apps/fernwick/output/json_output.h"
 #include "Apps/fernwick/run/project_argument.h"
 #include "Apps/fernwick/run/project_run.h"
@@ -35,12 +36,18 @@ SettingOperands splitOperands(std::vector<std::string> operands) {
     return split;
 }
 
+std::string unknownSetting(const std::string& name) {
+    std::vector<std::string> names;
+    for (const auto& setting : storedSettings()) names.push_back(setting.name);
+    const auto near = didYouMean(name, names);
+    return fmt::format("unknown setting {}{}", name, near.empty() ? "; see fernwick help settings" : near);
+}
+
 const StoredSetting& settingOf(const SettingOperands& operands) {
     const auto* setting = storedSettingNamed(operands.name);
     if (!setting)
-        throw Refusal(kWrongUse, operands.name.empty()
-                                     ? "no setting given; see fernwick help settings"
-                                     : fmt::format("unknown setting {}; see fernwick help settings", operands.name));
+        throw Refusal(kWrongUse, operands.name.empty() ? "no setting given; see fernwick help settings"
+                                                       : unknownSetting(operands.name));
     return *setting;
 }
 
@@ -50,10 +57,14 @@ std::string joinedValues(const std::vector<std::string>& values) {
     return text;
 }
 
+Json jsonOfValues(const StoredSetting& setting, const StoredSetting::Values& values) {
+    return setting.kind == SettingKind::List ? Json(values) : Json(values.front());
+}
+
 Json jsonOfSetting(const StoredSetting& setting, const fernwick::clsQLProject& project) {
     const auto values = setting.read(project);
     Json json{{"name", setting.name}};
-    json["value"] = setting.kind == SettingKind::List ? Json(values) : Json(values.front());
+    json["value"] = jsonOfValues(setting, values);
     json["writable"] = setting.write != nullptr;
     json["meaning"] = setting.meaning;
     return json;
@@ -84,13 +95,13 @@ int getSetting(const Options& options, Console& console, const StoredSetting& se
     return kGood;
 }
 
-std::string changeOf(const StoredSetting& setting, const std::vector<std::string>& before,
-                     const std::vector<std::string>& after) {
-    return fmt::format("{}: {} -> {}", setting.name, joinedValues(before), joinedValues(after));
-}
+struct SettingChange {
+    const StoredSetting& setting;
+    StoredSetting::Values before, after;
+};
 
 /// Before anything is written: the add-in would report an unexpected error.
-void requireStorable(Session& session, const StoredSetting& setting, const std::vector<std::string>& values) {
+void requireStorable(Session& session, const StoredSetting& setting, const StoredSetting::Values& values) {
     const auto project = basic::cast<host::Project>(session.project());
     if (!project) return;
     const auto& page = project->file().codePage();
@@ -101,28 +112,28 @@ void requireStorable(Session& session, const StoredSetting& setting, const std::
                                       setting.name, page.number(), value));
 }
 
-/// Writes the values unless the project has them already.
-void writeSetting(Session& session, const StoredSetting& setting, const std::vector<std::string>& values) {
+/// Writes the values unless it is a dry run.
+SettingChange changeSetting(Session& session, const StoredSetting& setting, const StoredSetting::Values& values,
+                            bool dryRun) {
+    auto& project = *session.settings();
+    SettingChange change{setting, setting.read(project), values};
     requireStorable(session, setting, values);
+    if (dryRun) return change;
     const auto boxes = session.user().shown().size();
     setting.write(*session.settings(), values);
     if (session.user().shown().size() > boxes)
         throw Refusal(kProjectErrors,
                       fmt::format("{} was not set: the project file cannot store this value", setting.name));
+    change.after = setting.read(project);
+    return change;
 }
 
-int setSetting(Session& session, const SettingOperands& operands, const Options& options, Console& console) {
+std::vector<SettingChange> setSetting(Session& session, const SettingOperands& operands, bool dryRun) {
     const auto& setting = settingOf(operands);
     if (const auto wrong = wrongWithValues(setting, operands.values); !wrong.empty()) throw Refusal(kWrongUse, wrong);
-    if (setting.name == "TargetDevice") requireUsableDevice(session, operands.values.front());
-    const auto before = setting.read(*session.settings());
-    if (options.dryRun) {
-        console.out(changeOf(setting, before, operands.values) + "\n");
-        return kGood;
-    }
-    writeSetting(session, setting, operands.values);
-    console.detail(changeOf(setting, before, setting.read(*session.settings())));
-    return kGood;
+    auto values = operands.values;
+    if (setting.name == "TargetDevice") values = {usableDevice(session, values.front())};
+    return {changeSetting(session, setting, values, dryRun)};
 }
 
 std::vector<const StoredSetting*> settingsToReset(const SettingOperands& operands, const Options& options) {
@@ -138,30 +149,47 @@ std::vector<const StoredSetting*> settingsToReset(const SettingOperands& operand
     return settings;
 }
 
-int resetSettings(Session& session, const SettingOperands& operands, const Options& options, Console& console) {
+std::vector<SettingChange> resetSettings(Session& session, const SettingOperands& operands, const Options& options) {
+    std::vector<SettingChange> changes;
     const auto settings = settingsToReset(operands, options);
     const auto fresh = newProjectSettings(session);
-    for (const auto* setting : settings) {
-        const auto before = setting->read(*session.settings());
-        const auto& after = fresh.at(setting->name);
-        if (before == after) continue;
-        if (!options.dryRun) writeSetting(session, *setting, after);
-        if (options.format == Format::Text) console.out(changeOf(*setting, before, after) + "\n");
+    for (const auto* setting : settings)
+        if (const auto& after = fresh.at(setting->name); setting->read(*session.settings()) != after)
+            changes.push_back(changeSetting(session, *setting, after, options.dryRun));
+    return changes;
+}
+
+Json jsonOfChanges(const std::vector<SettingChange>& changes, bool dryRun) {
+    auto json = jsonResult("settings");
+    json["dryRun"] = dryRun;
+    json["changes"] = Json::array();
+    for (const auto& [setting, before, after] : changes)
+        json["changes"].push_back({{"name", setting.name},
+                                   {"before", jsonOfValues(setting, before)},
+                                   {"after", jsonOfValues(setting, after)}});
+    return json;
+}
+
+/// A user who sets a value knows what changes; one who resets does not.
+void printChanges(const std::vector<SettingChange>& changes, const Options& options, Console& console) {
+    if (options.format == Format::Json) return console.out(dumpJson(jsonOfChanges(changes, options.dryRun)));
+    for (const auto& [setting, before, after] : changes) {
+        const auto line = fmt::format("{}: {} -> {}", setting.name, joinedValues(before), joinedValues(after));
+        options.dryRun || options.action == "reset" ? console.out(line + "\n") : console.detail(line);
     }
-    return kGood;
 }
 
 int changeSettings(Session& session, const SettingOperands& operands, const Options& options, Console& console) {
     session.requireFernwickProject();
     if (!options.dryRun) session.requireWritableProject();
-    const bool isSet = options.action == "set";
-    const int status =
-        isSet ? setSetting(session, operands, options, console) : resetSettings(session, operands, options, console);
-    if (options.dryRun) {
+    const auto changes = options.action == "set" ? setSetting(session, operands, options.dryRun)
+                                                 : resetSettings(session, operands, options);
+    if (options.dryRun)
         session.closeUnsaved();
-        return status;
-    }
-    return session.closeAndSave() ? status : kMachineTrouble;
+    else if (!session.closeAndSave())
+        throw Refusal(kMachineTrouble, session.path() + " cannot be saved");
+    printChanges(changes, options, console);
+    return kGood;
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "Apps/fernwick/verbs/source_list.h"
 #include "Apps/common/file_names.h"
+#include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/output/file_errors.h"
 #include "Basic/runtime_error.h"
 #include "Host/files/group_file.h"
@@ -25,7 +26,7 @@ public:
 
     void add(const std::string& path) {
         std::error_code ignored;
-        noteProblem(path, [&] {
+        noteProblem(path, true, [&] {
             if (fs::is_directory(path, ignored))
                 addFolder(path);
             else if (hasExtension(path, ".vbp"))
@@ -33,23 +34,29 @@ public:
             else if (hasExtension(path, ".vbg"))
                 addGroup(path);
             else
-                addSource(path, {}, given_);
+                addSource({path, {}, given_, true});
         });
     }
 
     SourceList take() { return std::move(list_); }
 
 private:
+    /// `isNamed`: the command line names the file.
     template <class Read>
-    void noteProblem(const std::string& path, Read&& read) {
+    void noteProblem(const std::string& path, bool isNamed, Read&& read) {
         const auto err = basic::attempt(read);
-        if (err.Number != 0) list_.problems.push_back(withFile(path, err.Description));
+        if (err.Number == 0) return;
+        addProblem(withFile(path, err.Description), isNamed ? statusOfNamedFile(path, err.Number) : kProjectErrors);
+    }
+
+    void addProblem(std::string text, int status) {
+        list_.problems.push_back(std::move(text));
+        list_.status = std::max(list_.status, status);
     }
 
     /// The first mention of a file counts.
-    void addSource(const std::string& path, const qltoolkit::ConditionalConstants& constants,
-                   const std::optional<basic::CodePage>& page) {
-        if (seen_.insert(host::absolutePath(path)).second) list_.sources.push_back({path, constants, page});
+    void addSource(SourceToCheck source) {
+        if (seen_.insert(host::absolutePath(source.path)).second) list_.sources.push_back(std::move(source));
     }
 
     /// The projects first, since their constants apply to their sources; then the sources of no project.
@@ -68,9 +75,9 @@ private:
         if (failed) throw basic::RuntimeError(basic::kPathFileAccessError, failed.message());
         std::sort(projects.begin(), projects.end());
         std::sort(sources.begin(), sources.end());
-        for (const auto& path : projects) noteProblem(path, [&] { addProject(path); });
-        for (const auto& path : sources) addSource(path, {}, given_);
-        if (projects.empty() && sources.empty()) list_.problems.push_back(folder + ": contains no sources");
+        for (const auto& path : projects) noteProblem(path, false, [&] { addProject(path); });
+        for (const auto& path : sources) addSource({path, {}, given_, false});
+        if (projects.empty() && sources.empty()) addProblem(folder + ": contains no sources", kProjectErrors);
     }
 
     static bool isSource(const std::string& path) {
@@ -89,7 +96,7 @@ private:
         host::PathLookup lookup(detected.page);
         for (const auto& member : project.members())
             if (host::isComponentKind(member.content.kind))
-                addSource(lookup.find(folderOf(path), member.content.value), constants, detected.page);
+                addSource({lookup.find(folderOf(path), member.content.value), constants, detected.page, false});
     }
 
     void addGroup(const std::string& path) {
@@ -101,7 +108,7 @@ private:
         host::PathLookup lookup(page);
         for (const auto& entry : group.entries()) {
             const auto project = lookup.find(folderOf(path), entry.path);
-            noteProblem(project, [&] { addProject(project); });
+            noteProblem(project, false, [&] { addProject(project); });
         }
     }
 

@@ -14,6 +14,8 @@ struct SourceToCheck {
     qltoolkit::ConditionalConstants constants;
     /// That of its project or on the command line; none for a single file, which has its own.
     std::optional<basic::CodePage> page;
+    /// Whether the command line names it, not a project.
+    bool isNamed = false;
 };
 
 struct SourceList {
@@ -22,6 +24,8 @@ struct SourceList {
     std::vector<std::pair<std::string, basic::DetectedCodePage>> projects;
     /// Why projects or groups could not be read: "file: reason".
     std::vector<std::string> problems;
+    /// The exit status for the worst of them; 0 for none.
+    int status = 0;
 };
 
 /// Returns each source file once: those given, the components of projects, those of the projects of groups, and all

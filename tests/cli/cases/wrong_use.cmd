@@ -11,5 +11,25 @@ run fernwick build
 run fernwick settings
 run fernwick registry get
 run fernwick registry set HKEY_CURRENT_USER
+run fernwick biuld
+run fernwick upload
+run fernwick help biuld
+run fernwick build --formt json
+run fernwick build -z
+run fernwick build --depfile
+run fernwick build a.vbp b.vbp
+run fernwick build --answer devic=yes
+run fernwick build --answer device=perhaps
+run fernwick build --color pink
+run fernwick build -q -v
+run fernwick check --code-page abc
+run fernwick settings lsit
+run fernwick completion ksh
+run fernwick explain FW1
+sample HelloWorld
+run fernwick settings get HelloWorld/HelloWorld.vbp DefaultFontSice
+run fernwick settings set HelloWorld/HelloWorld.vbp TargetDevice PocketPC-ARN
+run fernwick build HelloWorld/HelloWorld.vbp --device pocketpc
+run fernwick devices add palmos
 touch a.vbp b.VBP
 run fernwick build
