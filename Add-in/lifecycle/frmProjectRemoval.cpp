@@ -33,8 +33,17 @@ void frmProjectRemoval::Timer1_Timer() {
         const Project project = removalList_[i];
         serve(here, project);
     }
-    removalList_.clear();
+    discardRequests();
     here([&] { Timer1.Enabled(false); });
+    here([&] { ReplacementsEnded.raise(); });
+}
+
+/// A path or flag of a request that could not be served must not apply to a later one.
+void frmProjectRemoval::discardRequests() {
+    removalList_.clear();
+    projectToOpen_.clear();
+    projectToLoad_.clear();
+    componentsOnly_ = false;
 }
 
 bool frmProjectRemoval::isOpen(const Project& project) const {
@@ -55,7 +64,7 @@ void frmProjectRemoval::serve(Procedure& here, const Project& project) {
     if (oldFormat) {
         const auto importer = here.value([&] { return menu_.FindConverterMenuItem(); });
         if (importer) here([&] { importer->Execute(); });
-    } else if (componentsOnly_) {
+    } else if (std::exchange(componentsOnly_, false)) {
         projects_.RemoveProjectComponents(qlProject);
     } else if (!projectToOpen_.empty()) {
         replace(here, project, std::exchange(projectToOpen_, {})); // requests made while opening keep their own path
@@ -67,12 +76,13 @@ void frmProjectRemoval::serve(Procedure& here, const Project& project) {
 /// If other projects are open, the new one is opened before the old one is removed; a single project is removed first.
 void frmProjectRemoval::replace(Procedure& here, const Project& project, const std::string& path) {
     const bool onlyOne = here.test([&] { return addIn_.gVBInstance->VBProjects()->Count() < 2; });
-    if (!onlyOne) openFile(here, path, false);
+    bool opened = onlyOne || openFile(here, path, false);
     here([&] { project->IsDirty(false); });
     activate(here, project);
     removeActive(here);
     here([&] { loop_.DoEvents(); });
-    if (onlyOne) openFile(here, path, true);
+    if (onlyOne) opened = openFile(here, path, true);
+    if (!opened) here([&] { ReplacementsEnded.raise(); });
 }
 
 void frmProjectRemoval::activate(Procedure& here, const Project& project) {
@@ -84,22 +94,23 @@ void frmProjectRemoval::removeActive(Procedure& here) {
     here([&] { items_.gFileFourthItem->Execute(); });
 }
 
-void frmProjectRemoval::openFile(Procedure& here, const std::string& path, bool exclusive) {
-    here([&] { addIn_.gVBInstance->VBProjects()->AddFromFile(path, exclusive); });
+bool frmProjectRemoval::openFile(Procedure& here, const std::string& path, bool exclusive) {
+    return here([&] { addIn_.gVBInstance->VBProjects()->AddFromFile(path, exclusive); });
 }
 
 void frmProjectRemoval::Timer2_Timer() {
     Procedure here{errors_, "frmProjectRemoval.Timer2_Timer"};
-    const auto project = componentsProject_;
-    const auto component = componentToRemove_;
+    const auto project = std::exchange(componentsProject_, nullptr);
+    const auto component = std::exchange(componentToRemove_, nullptr);
+    here(
+        [&] { Timer2.Enabled(false); }); // first, because the removal raises an event in which another may be requested
     if (project && component) here([&] { project->VBComponents()->Remove(component); });
-    here([&] { Timer2.Enabled(false); });
 }
 
 void frmProjectRemoval::Form_Unload() {
     Timer1.Enabled(false);
     Timer2.Enabled(false);
-    removalList_.clear();
+    discardRequests();
     componentsProject_ = nullptr;
     componentToRemove_ = nullptr;
 }

@@ -27,6 +27,10 @@ public:
     /// Removes the component once both arguments are known: Nothing keeps the value of an earlier call.
     void RemoveComponent(const Project& project, const basic::Ref<vbide::VBComponent>& component);
 
+    /// Raised when a replacement could not be opened, and when all requests have been served: from then on no project is
+    /// a replacement.
+    Event<> ReplacementsEnded;
+
 protected:
     void Form_Unload() override;
 
@@ -35,12 +39,13 @@ private:
 
     void Timer1_Timer();
     void Timer2_Timer();
+    void discardRequests();
     bool isOpen(const Project& project) const;
     void serve(Procedure& here, const Project& project);
     void replace(Procedure& here, const Project& project, const std::string& path);
     void activate(Procedure& here, const Project& project);
     void removeActive(Procedure& here);
-    void openFile(Procedure& here, const std::string& path, bool exclusive);
+    bool openFile(Procedure& here, const std::string& path, bool exclusive);
 
     EventLoop& loop_;
     AddIn& addIn_;

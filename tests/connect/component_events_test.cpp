@@ -91,6 +91,18 @@ TEST_F(ComponentEvents, WithoutATemplateResizesTheFormForTheDevice) {
     EXPECT_THAT(errors.seen, Contains("A clsDeviceConfig.SetupDefaultForm [438]")); // it was tried
 }
 
+TEST_F(ComponentEvents, ANewFormClearsTheMessages) {
+    messages.AddProjectCompileError(project, "old", "", 0, 1);
+    add("frmMine", kForm, "/p/frmMine.frm");
+    EXPECT_EQ(project->stored("NumErrors"), "0");
+    EXPECT_EQ(window->rowCount(), 1); // the header
+}
+
+TEST_F(ComponentEvents, LetsTheHostRunFirst) {
+    loop.showsTurns = true;
+    EXPECT_EQ(add("Module1", kModule).front(), "DoEvents");
+}
+
 TEST_F(ComponentEvents, DoesNotResizeAFormFromAFile) {
     add("frmMine", kForm, "/p/frmMine.frm");
     EXPECT_THAT(errors.seen, IsEmpty());
@@ -134,11 +146,13 @@ TEST_F(ComponentEvents, ReportsAComponentRemovedInTheMeantimeOnce) {
     EXPECT_THAT(errors.seen, ElementsAre("Connect.CompsEventsHandler_ItemAdded [40198]"));
 }
 
-TEST_F(ComponentEvents, ReportsAMissingTemplate) {
-    trace.calls = 0;
+TEST_F(ComponentEvents, ReportsAMissingTemplateAndRemovesTheBlankComponent) {
     project->components->added = [](const auto&) { throw basic::RuntimeError(basic::kFileNotFound); };
     add("Module1", kModule);
     EXPECT_THAT(errors.seen, ElementsAre("Connect.CompsEventsHandler_ItemAdded [53]"));
+    EXPECT_FALSE(connection->ComponentAddGuard);
+    EXPECT_THAT(turn(), ElementsAre("remove component Module1"));
+    EXPECT_THAT(add("Module2", kModule), ElementsAre("add file /t/Module.bas")); // replaced again
 }
 
 // ---- selected and activated

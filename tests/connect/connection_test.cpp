@@ -44,6 +44,13 @@ TEST_F(Connection, PublishesTheHostsAddress) {
     EXPECT_EQ(std::stoull(environment.values["VBInstance-3AD1D370-2E73-417D-B685-0E1756D55411"], nullptr, 16), address);
 }
 
+TEST_F(Connection, ReadsTheSystemsOwnControls) {
+    registry.set(fernwick::HKEY_LOCAL_MACHINE, "SOFTWARE\\Quinloft\\Classes\\TavletsCtl.QLLabel", "name",
+                 "Tavlets.QLLabel");
+    connect(vbide::vbext_cm_External);
+    EXPECT_TRUE(references.IsQuinloftControl("TavletsCtl.QLLabel"));
+}
+
 TEST_F(Connection, AnExternalConnectionBuildsNoInterface) {
     buildInterface(); // to observe that it is only disabled
     connect(vbide::vbext_cm_External);

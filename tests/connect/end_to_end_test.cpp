@@ -1,5 +1,5 @@
 // The whole add-in over the real host, with real files and a real registry store.
-#include "Add-in/core/connect/Modules.h"
+#include "Add-in/core/connect/connections.h"
 #include "Host/system/classes.h"
 #include "Host/system/environment.h"
 #include "Host/system/file_system.h"
@@ -24,7 +24,7 @@ protected:
         targets.known = {"Palm-1"};
         installTemplates();
         store("SOFTWARE\\Quinloft\\AddinPrefs", "StartTutorial", "False");
-        host.ide->listAddIn(kProgId, "Fernwick", [this] { return fernwick::asAddIn(modules); });
+        host.ide->listAddIn(kProgId, "Fernwick", [this] { return connections.create(); });
     }
     ~EndToEnd() override {
         if (host.ide) host.ide->close();
@@ -85,7 +85,7 @@ protected:
     basic::Ref<test::FakeCompiler> compiler = basic::make<test::FakeCompiler>(trace);
     std::shared_ptr<void> compilerClass = classes.RegisterClass(
         "QLToolkit.CompilerFactory", [this] { return basic::make<test::FakeCompilerFactory>(compiler); });
-    std::shared_ptr<fernwick::Modules> modules = std::make_shared<fernwick::Modules>(platform);
+    fernwick::Connections connections{platform};
 };
 
 TEST_F(EndToEnd, TheAddInDoesNotKeepItsHostAlive) {
@@ -94,17 +94,18 @@ TEST_F(EndToEnd, TheAddInDoesNotKeepItsHostAlive) {
     host.ide->close();
     host.ide.reset();
     EXPECT_TRUE(link.expired());
-    EXPECT_FALSE(modules->addIn.gVBInstance);
+    EXPECT_FALSE(connections.current().addIn.gVBInstance);
 }
 
 TEST_F(EndToEnd, AProjectCompiles) {
     const auto project = connected(hello());
     compiler->work = [](test::FakeCompiler& c) { c.AddDependency.raise("Tool.prc", 1); };
     user.expectForm("frmCompile");
-    EXPECT_TRUE(modules->compile.CompileProject(project));
+    EXPECT_TRUE(connections.current().compile.CompileProject(project));
     EXPECT_THAT(trace.effects, testing::Contains("file 0 " + (host.folder / "Form1.frm")));
     EXPECT_THAT(trace.effects, testing::Contains("start-up 'Form1'"));
-    EXPECT_EQ(modules->compileMsgs()->lblStatusText(), "SUCCESS - Compile and validate completed successfully.");
+    EXPECT_EQ(connections.current().compileMsgs()->lblStatusText(),
+              "SUCCESS - Compile and validate completed successfully.");
     EXPECT_THAT(host.folder.read("Hello.vbp"), HasSubstr("\r\nNumTavletFileDependencies=1\r\n"));
     EXPECT_TRUE(host.failures.empty());
 }
@@ -112,15 +113,15 @@ TEST_F(EndToEnd, AProjectCompiles) {
 TEST_F(EndToEnd, AProjectIsValidatedForItsDevice) {
     const auto project = connected(hello());
     user.expectForm("frmValidate");
-    EXPECT_TRUE(modules->validate.ValidateProject(project, "Palm-1"));
-    EXPECT_EQ(modules->compileMsgs()->rowCount(), 1); // the header
+    EXPECT_TRUE(connections.current().validate.ValidateProject(project, "Palm-1"));
+    EXPECT_EQ(connections.current().compileMsgs()->rowCount(), 1); // the header
 }
 
 TEST_F(EndToEnd, AMissingLibraryFailsTheValidation) {
     const auto gone = "Reference=*\\G{00000000-1111-2222-3333-444444444444}#1.0#0#/gone/Gone.dll#Gone";
     const auto project = connected(hello().member(gone));
     user.expectForm("frmValidate");
-    EXPECT_FALSE(modules->validate.ValidateProject(project, "Palm-1"));
+    EXPECT_FALSE(connections.current().validate.ValidateProject(project, "Palm-1"));
     EXPECT_THAT(host.folder.read("Hello.vbp"), HasSubstr("|0|There is a missing reference in this project, please "
                                                          "remove the reference.|8205"));
 }
@@ -128,7 +129,7 @@ TEST_F(EndToEnd, AMissingLibraryFailsTheValidation) {
 TEST_F(EndToEnd, AnErrorIsStoredWithTheLineOfTheCodeWindow) {
     const auto project = connected(hello());
     failAt("Form1.frm", 16); // after thirteen lines of design data and hidden attributes
-    EXPECT_FALSE(modules->compile.CompileProject(project));
+    EXPECT_FALSE(connections.current().compile.CompileProject(project));
     const auto form = project->VBComponents()->Item("Form1");
     const int codeLines = form->CodeModule()->CountOfLines();
     const auto text = host.folder.read("Form1.frm");
@@ -140,13 +141,13 @@ TEST_F(EndToEnd, AnErrorIsStoredWithTheLineOfTheCodeWindow) {
 TEST_F(EndToEnd, RestoresTheMessagesWithTheProject) {
     const auto project = connected(hello());
     failAt("Form1.frm", 17);
-    modules->compile.CompileProject(project);
+    connections.current().compile.CompileProject(project);
     host.ide->saveProject(project);
     host.ide->close();
     host.openFile(host.folder / "Hello.vbp");
     host.ide->connectAddIn(kProgId, vbide::vbext_cm_CommandLine);
-    EXPECT_EQ(modules->compileMsgs()->rowCount(), 2);
-    EXPECT_EQ(modules->compileMsgs()->lblStatusText(),
+    EXPECT_EQ(connections.current().compileMsgs()->rowCount(), 2);
+    EXPECT_EQ(connections.current().compileMsgs()->lblStatusText(),
               "FAILED - Errors (1 items) must be fixed to deploy this project.");
 }
 
@@ -156,16 +157,17 @@ TEST_F(EndToEnd, CompilesAndSendsAndTheNextTimeOnlySends) {
     test::FakePipeFamily family{trace, classes};
     const auto send = [&](std::initializer_list<const char*> forms) {
         for (const auto* form : forms) user.expectForm(form);
-        modules->sendToDevice.SendProjectToDevice(modules->projects.GetQLProject(project), false, "Palm-1");
-        EXPECT_EQ(modules->sendToDevice.LastResult(), true);
+        connections.current().sendToDevice.SendProjectToDevice(connections.current().projects.GetQLProject(project),
+                                                               false, "Palm-1");
+        EXPECT_EQ(connections.current().sendToDevice.LastResult(), true);
     };
     send({"frmCompile", "frmValidate", "frmSendToDevice"});
     EXPECT_THAT(family.files, testing::ElementsAre(host.folder / "Hello.0000.qlx"));
     EXPECT_THAT(family.resources, testing::ElementsAre("Hello.0000.qlx"));
     send({"frmValidate", "frmSendToDevice"});
     user.expectForm("frmSendRuntimeToDevice");
-    modules->sendRuntime.SendRuntimeToDevice("Palm-1");
-    EXPECT_EQ(modules->sendRuntime.LastResult(), true);
+    connections.current().sendRuntime.SendRuntimeToDevice("Palm-1");
+    EXPECT_EQ(connections.current().sendRuntime.LastResult(), true);
 }
 
 TEST_F(EndToEnd, AReadOnlyProjectIsUnchanged) {
@@ -175,7 +177,7 @@ TEST_F(EndToEnd, AReadOnlyProjectIsUnchanged) {
     std::filesystem::permissions(path, std::filesystem::perms::owner_read);
     user.expectBox("Hello is ReadOnly, compile errors will not be saved.", fernwick::vbOK, fernwick::vbInformation);
     user.expectForm("frmCompile");
-    EXPECT_TRUE(modules->compile.CompileProject(project));
+    EXPECT_TRUE(connections.current().compile.CompileProject(project));
     user.expectBox("File '" + path + "' is read-only.", fernwick::vbOK, fernwick::vbExclamation,
                    "ERROR: Cannot save file!");
     host.ide->close();
@@ -215,7 +217,7 @@ TEST_F(EndToEnd, AProjectOfAnOlderVersionIsAnnounced) {
 TEST_F(EndToEnd, TwoAddInsLiveSideBySide) {
     fernwick::Modules other{platform};
     connected(hello());
-    EXPECT_TRUE(modules->projects.gCurrentProject);
+    EXPECT_TRUE(connections.current().projects.gCurrentProject);
     EXPECT_FALSE(other.projects.gCurrentProject);
 }
 

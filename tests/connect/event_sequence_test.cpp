@@ -115,8 +115,8 @@ TEST_F(EventSequence, AsksForTheDeviceOnce) {
     giveTargetsTemplates();
     targets.templates.project = templateProject("install/VB Toolkit/Template/Projects", "Pocket.vbp", "Pocket-1");
     user.whenShown["frmDesignTargetNormal"] = [this](fernwick::Form&) {
-        modules->chooseTarget.lstQuickDesignTargets.ListIndex(1);
-        modules->chooseTarget.btnOK.press();
+        addIn().chooseTarget.lstQuickDesignTargets.ListIndex(1);
+        addIn().chooseTarget.btnOK.press();
     };
     openNew();
     loop.turn();
@@ -149,10 +149,10 @@ TEST_F(EventSequence, TheStubLeadsToTheProjectManager) {
 TEST_F(EventSequence, TwoProjectsOpenedBackToBack) {
     const auto a = host.open(named("A")), b = host.open(named("B"));
     EXPECT_THAT(tape.lines, ElementsAre("load A.vbp", "added A", "load B.vbp", "added B"));
-    EXPECT_TRUE(modules->projects.GetQLProject(a) && modules->projects.GetQLProject(b));
-    EXPECT_EQ(modules->projects.gCurrentProject, b);
+    EXPECT_TRUE(addIn().projects.GetQLProject(a) && addIn().projects.GetQLProject(b));
+    EXPECT_EQ(addIn().projects.gCurrentProject, b);
     host.ide->ActiveVBProject(a);
-    EXPECT_EQ(modules->projects.gCurrentProject, a);
+    EXPECT_EQ(addIn().projects.gCurrentProject, a);
 }
 
 TEST_F(EventSequence, AddsAllProjectsOfAGroup) {
@@ -160,8 +160,8 @@ TEST_F(EventSequence, AddsAllProjectsOfAGroup) {
     named("B").writeTo(host.folder);
     host.openFile(host.folder.write("Both.vbg", "VBGROUP 5.0\r\nStartupProject=A.vbp\r\nProject=B.vbp\r\n"));
     EXPECT_THAT(tape.lines, ElementsAre("load A.vbp", "added A", "load B.vbp", "added B", "activated A"));
-    EXPECT_EQ(modules->projects.gCurrentProject, active());
-    for (const auto& project : host.ide->VBProjects()->items()) EXPECT_TRUE(modules->projects.FindQLProject(project));
+    EXPECT_EQ(addIn().projects.gCurrentProject, active());
+    for (const auto& project : host.ide->VBProjects()->items()) EXPECT_TRUE(addIn().projects.FindQLProject(project));
 }
 
 TEST_F(EventSequence, DisablesTheToolbarsButNotTheMenuWhileAProjectRuns) {
@@ -178,7 +178,7 @@ TEST_F(EventSequence, AProjectMayBeRemovedWhileItIsAdded) {
     loop.Post([this] { host.ide->VBProjects()->Remove(active()); });
     const auto project = host.open(named("A"));
     EXPECT_THAT(tape.lines, ElementsAre("load A.vbp", "added A", " removed A"));
-    EXPECT_FALSE(modules->projects.FindQLProject(project));
+    EXPECT_FALSE(addIn().projects.FindQLProject(project));
     loop.turn();
     EXPECT_THAT(boxes(), IsEmpty());
 }
@@ -188,7 +188,7 @@ TEST_F(EventSequence, AnotherProjectMayBeOpenedWhileOneIsAdded) {
     loop.Post([&] { host.openFile(second); });
     const auto project = host.open(named("A"));
     EXPECT_THAT(tape.lines, ElementsAre("load A.vbp", "added A", " load B.vbp", " added B", "activated A"));
-    EXPECT_EQ(modules->projects.gCurrentProject, project);
+    EXPECT_EQ(addIn().projects.gCurrentProject, project);
     EXPECT_THAT(boxes(), IsEmpty());
 }
 
@@ -252,7 +252,7 @@ TEST_F(EventSequence, AProjectOfAnUnknownDeviceStays) {
 TEST_F(EventSequence, FollowsARenamedProject) {
     const auto project = host.open(named("A"));
     project->Name("B");
-    EXPECT_EQ(modules->projects.GetQLProject(project)->ProjectName(), "B");
+    EXPECT_EQ(addIn().projects.GetQLProject(project)->ProjectName(), "B");
     EXPECT_EQ(stored(project, "MODID").size(), 36u);
 }
 
@@ -282,7 +282,7 @@ TEST_F(EventSequence, ThreeProjectsCloseInAnyOrder) {
 
 TEST_F(EventSequence, AClosingSavesTheMessagesWindowAndWhatIsUnsaved) {
     const auto project = host.open(named("A"));
-    modules->messages.showToolWindow();
+    addIn().messages.showToolWindow();
     project->WriteProperty("A", "key", "value");
     project->VBComponents()->Item(1)->CodeModule()->InsertLines(1, "' new");
     host.ide->VBProjects()->Remove(project);
@@ -304,7 +304,6 @@ TEST_F(EventSequence, RestoresTheToolbarsPositions) {
 
 TEST_F(EventSequence, WithoutToolbarsStoresNoPositions) {
     host.ide->Addins()->Item(kProgId)->Connect(false);
-    modules = std::make_shared<fernwick::Modules>(platform);
     connect(vbide::vbext_cm_External);
     host.ide->VBProjects()->Remove(host.open(named("A")));
     EXPECT_THAT(boxes(), IsEmpty());
@@ -317,7 +316,7 @@ TEST_F(EventSequence, IgnoresProjectsOpenedBeforeTheAddIn) {
     host.ide->ActiveVBProject(a);
     a->Name("Other");
     host.ide->VBProjects()->Remove(a);
-    EXPECT_EQ(modules->projects.gCurrentProject, b);
+    EXPECT_EQ(addIn().projects.gCurrentProject, b);
     EXPECT_THAT(boxes(), IsEmpty());
 }
 
@@ -373,9 +372,9 @@ TEST_F(NewComponents, DoNotIncludeThoseOfALoadedProject) {
 TEST_F(NewComponents, AFormIsWatchedAtOnce) {
     add(vbide::vbext_ct_VBForm);
     const auto form = active()->VBComponents()->Item("Form1");
-    EXPECT_EQ(modules->connect.ControlsEventsHandler.source(),
+    EXPECT_EQ(addIn().connect.ControlsEventsHandler.source(),
               host.ide->Events()->VBControlsEvents(active(), form->Designer()));
-    EXPECT_EQ(modules->connect.SelectedForm, form);
+    EXPECT_EQ(addIn().connect.SelectedForm, form);
 }
 
 TEST_F(NewComponents, OfTheActivatedProjectAreServed) {

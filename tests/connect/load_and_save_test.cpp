@@ -16,9 +16,10 @@ protected:
         vbe->events->allFiles->BeforeLoadFile.raise(project, {"/p/Form1.frm"});
         return trace.effects;
     }
-    bool cancelled(const test::Ref<test::TracedProject>& written) {
+    /// `before` is what an earlier handler decided.
+    bool cancelled(const test::Ref<test::TracedProject>& written, bool before = false) {
         connection->FileControlHandler = vbe->events->files;
-        bool cancel = false;
+        bool cancel = before;
         vbe->events->files->RequestWriteFile.raise(written, written->file, cancel);
         return cancel;
     }
@@ -69,10 +70,13 @@ TEST_F(LoadAndSave, AnOldProjectIsNotWritten) {
     EXPECT_THAT(errors.seen, IsEmpty());
 }
 
-TEST_F(LoadAndSave, OthersAreWritten) {
-    EXPECT_FALSE(cancelled(ProjectsWorld::open("A")));
-    const auto foreign = ProjectsWorld::open("B", "none");
-    EXPECT_FALSE(cancelled(foreign));
+TEST_F(LoadAndSave, OthersAreWrittenUnlessAnotherHandlerCancels) {
+    const auto current = ProjectsWorld::open("A"), foreign = ProjectsWorld::open("B", "none");
+    set(foreign, "ProjectVersion", "1.0");
+    for (const bool before : {false, true}) {
+        EXPECT_EQ(cancelled(current, before), before);
+        EXPECT_EQ(cancelled(foreign, before), before);
+    }
 }
 
 TEST_F(LoadAndSave, AProjectThatIsNotListedIsWrittenSilently) {

@@ -36,6 +36,15 @@ TEST_F(ProjectEvents, AddsAProjectInOrder) {
     EXPECT_THAT(errors.seen, IsEmpty());
 }
 
+TEST_F(ProjectEvents, LetsTheHostRunOnceTheProjectIsWatched) {
+    const auto project = opened("A");
+    loop.showsTurns = true;
+    const auto effects = raiseAdded(project);
+    ASSERT_GE(effects.size(), 3U);
+    EXPECT_THAT(std::vector(effects.end() - 3, effects.end()),
+                ElementsAre("sink: references of A", "DoEvents", "restore toolbars"));
+}
+
 TEST_F(ProjectEvents, AForeignProjectIsListedAndNotWatched) {
     const auto project = opened("A", "none");
     EXPECT_THAT(raiseAdded(project), ElementsAre("sink: files of A", "disable menu", "disable toolbar",
@@ -119,6 +128,13 @@ TEST_F(UnknownDevice, OpensAnotherProjectInstead) {
     EXPECT_THAT(openNames(), ElementsAre("/p/B.vbp"));
 }
 
+TEST_F(UnknownDevice, LetsTheHostRunAroundTheRemoval) {
+    loop.showsTurns = true;
+    EXPECT_THAT(decide({false, "/p/B.vbp"}),
+                ElementsAre("unknown device of A", "A dirty 0", "DoEvents", "host: remove project", "DoEvents",
+                            "open /p/B.vbp alone", "restore toolbars"));
+}
+
 TEST_F(UnknownDevice, ClosesTheProject) {
     EXPECT_THAT(decide({false, ""}),
                 ElementsAre("unknown device of A", "A dirty 0", "host: remove project", "restore toolbars"));
@@ -158,6 +174,7 @@ TEST_F(ProjectEvents, ReplacesTheHostsTemplateByTheTargets) {
 TEST_F(ProjectEvents, TheReloadedTemplateIsSetUpAndGetsItsFirstForm) {
     targets.templates.project = kTargetsOwn;
     targets.knows.required = {"{CA647498-D486-4FC0-841B-DA55C9A0F114}"};
+    supportLabel();
     connection->TemplateReloadPending = true;
     const auto project = fromTemplate("Palm-1");
     files.files["/vb/Template/Projects/modBase.bas"] = {};
@@ -167,7 +184,8 @@ TEST_F(ProjectEvents, TheReloadedTemplateIsSetUpAndGetsItsFirstForm) {
     const Effects order{"OpenedFromQLTemplate=True",
                         "modBase saved /vb/Template/Projects/modBase.bas",
                         "TargetDevice=Palm-1",
-                        "reference {CA647498-D486-4FC0-841B-DA55C9A0F114}",
+                        "toolbox Tavlets.QLLabel",
+                        "reference {CA647498-D486-4FC0-841B-DA55C9A0F114} 1.0",
                         "default target Palm-1",
                         "add component 5",
                         "start up New2",
@@ -186,6 +204,26 @@ TEST_F(ProjectEvents, DoesNotReloadAReloadedTemplate) {
     connection->TemplateReloadPending = true;
     EXPECT_THAT(raiseAdded(fromTemplate()), Contains("add component 5")); // gets the only device
     EXPECT_FALSE(loop.hasTimers());
+}
+
+TEST_F(ProjectEvents, AfterATemplateThatCannotBeOpenedTheNextProjectIsNotMistakenForIt) {
+    targets.templates.project = kTargetsOwn;
+    vbe->projects->opened = [](const auto&) { throw basic::RuntimeError(basic::kFileNotFound); };
+    raiseAdded(fromTemplate());
+    turn();
+    EXPECT_THAT(errors.seen, ElementsAre("frmProjectRemoval.Timer1_Timer [53]"));
+    EXPECT_FALSE(connection->TemplateReloadPending);
+    EXPECT_THAT(raiseAdded(opened("Mine")), Not(Contains("add component 5")));
+}
+
+TEST_F(ProjectEvents, AProjectClosedBeforeItsReplacementIsNotAwaited) {
+    targets.templates.project = kTargetsOwn;
+    opened("Other");
+    raiseAdded(fromTemplate());
+    EXPECT_TRUE(connection->TemplateReloadPending);
+    vbe->removeActive();
+    turn();
+    EXPECT_FALSE(connection->TemplateReloadPending);
 }
 
 TEST_F(ProjectEvents, WithoutATemplateOfTheTargetKeepsTheHosts) {

@@ -54,6 +54,64 @@ TEST_F(Sinks, OfTheMenuAreAssignedInOrder) {
     EXPECT_FALSE(bool(connection->DeployPalmOSHandler));
 }
 
+TEST_F(Sinks, EachHasItsOwnItem) {
+    targets.known = {"Palm-1", "Pocket-1"};
+    connect();
+    auto& c = *connection;
+    items.gDownloadItem->Caption("download"); // to tell it from no item
+    const std::vector<std::pair<fernwick::Command*, fernwick::CommandItems::Item>> pairs{
+        {&c.QuinloftSettingsHandler, items.gSettingsItem},
+        {&c.CompileProjectHandler, items.gCompileItem},
+        {&c.ProjectManagerHandler, items.gOpenProjectItem},
+        {&c.MakePackageAllDevices, items.gPackageAllItem},
+        {&c.DeployAllDevices, items.gDeployAllItem},
+        {&c.InstallVMAllDevices, items.gInstallAllItem},
+        {&c.DownloadVMHandler, items.gDownloadItem},
+        {&c.AddinOnlineHelpHandler, items.gWebItem},
+        {&c.AddinUsersGuideHandler, items.gGuideItem},
+        {&c.AboutHandler, items.gAboutItem},
+        {&c.ZoomWindowHandler, items.gZoomItem},
+        {&c.CompileErrorWindowHandler, items.gMessagesItem},
+        {&c.MakePackageDevice[0], items.gPackageItems[0]},
+        {&c.MakePackageDevice[1], items.gPackageItems[1]},
+        {&c.DeployDevice[0], items.gDeployItems[0]},
+        {&c.DeployDevice[1], items.gDeployItems[1]},
+        {&c.InstallVMDevice[0], items.gInstallItems[0]},
+        {&c.InstallVMDevice[1], items.gInstallItems[1]},
+        {&c.MenuDatabaseConverterHandler, items.gDatabaseConverterItem},
+        {&c.MenuDatabaseViewerHandler, items.gDatabaseViewerItem},
+        {&c.MenuFontConverterHandler, items.gFontConverterItem},
+        {&c.MenuFontViewerHandler, items.gFontViewerItem},
+        {&c.MenuGraphicsConverterHandler, items.gGraphicsConverterItem},
+        {&c.MenuGraphicsViewerHandler, items.gGraphicsViewerItem},
+        {&c.MenuMovieConverterHandler, items.gMovieConverterItem},
+        {&c.MenuMovieViewerHandler, items.gMovieViewerItem},
+        {&c.MenuWeirgateHandler, items.gWeirgateItem},
+        {&c.SampleIntroHandler, items.gSampleIntroItem},
+        {&c.SampleHelloWorldHandler, items.gSampleHelloItem},
+        {&c.SampleOpenSampleDirHandler, items.gSampleDirItem},
+        {&c.ToolQuinloftSettingsHandler, items.gToolSettings},
+        {&c.ToolCompileProjectHandler, items.gToolCompile},
+        {&c.ToolDeployProjectHandler, items.gToolDeploy},
+        {&c.ToolAddinUsersGuideHandler, items.gToolGuide},
+        {&c.ToolZoomWindowHandler, items.gToolZoom},
+        {&c.ToolProjectManagerHandler, items.gToolOpenProject},
+        {&c.ToolDatabaseConverterHandler, items.gToolDatabaseConverter},
+        {&c.ToolDatabaseViewerHandler, items.gToolDatabaseViewer},
+        {&c.ToolFontConverterHandler, items.gToolFontConverter},
+        {&c.ToolFontViewerHandler, items.gToolFontViewer},
+        {&c.ToolGraphicsConverterHandler, items.gToolGraphicsConverter},
+        {&c.ToolGraphicsViewerHandler, items.gToolGraphicsViewer},
+        {&c.ToolMovieConverterHandler, items.gToolMovieConverter},
+        {&c.ToolMovieViewerHandler, items.gToolMovieViewer},
+        {&c.ToolWGConfigHandler, items.gToolWGConfig},
+    };
+    for (std::size_t i = 0; i < pairs.size(); ++i) {
+        EXPECT_TRUE(pairs[i].second) << i;
+        EXPECT_EQ(vbe->events->itemOf(pairs[i].first->source()), pairs[i].second) << i;
+    }
+}
+
 TEST_F(Sinks, WithoutTargetsTheDeviceItemsHaveNone) {
     standMenu();
     items.gPackageItems = devicesItems("package", 2);

@@ -1,6 +1,6 @@
 #pragma once
 // The whole add-in over the real host, used through its menu; user, compiler and devices are fakes.
-#include "Add-in/core/connect/Modules.h"
+#include "Add-in/core/connect/connections.h"
 #include "Host/system/classes.h"
 #include "Host/system/clipboard.h"
 #include "Host/system/environment.h"
@@ -41,7 +41,7 @@ protected:
         host.folder.write("install/VB Toolkit/Template/Projects/readme.txt", "");
         host.folder.write("Template/Projects/readme.txt", "");
         compiler->work = [this](FakeCompiler&) { host.folder.write("Hello.0000.qlx", "image"); };
-        host.ide->listAddIn(kProgId, "Fernwick", [this] { return fernwick::asAddIn(modules); });
+        host.ide->listAddIn(kProgId, "Fernwick", [this] { return connections.create(); });
     }
     ~WholeWorld() { host.ide->close(); }
     void store(fernwick::RegistryRoot root, const std::string& path, const std::string& name, const std::string& text) {
@@ -73,8 +73,9 @@ protected:
                 if (effect.starts_with(kind)) seen.push_back(effect);
         return seen;
     }
-    fernwick::CommandItems& items() { return modules->items; }
-    void chooseDevices(std::vector<std::string> keys) { modules->prefs.gMyDevices = std::move(keys); }
+    fernwick::Modules& addIn() { return connections.current(); }
+    fernwick::CommandItems& items() { return addIn().items; }
+    void chooseDevices(std::vector<std::string> keys) { addIn().prefs.gMyDevices = std::move(keys); }
     static std::string box(int style, const std::string& text, const std::string& title = "Fernwick") {
         return "box " + std::to_string(style) + " " + title + ": " + text;
     }
@@ -116,7 +117,7 @@ protected:
         "QLToolkit.CompilerFactory", [this] { return basic::make<FakeCompilerFactory>(compiler); });
     std::shared_ptr<void> fileSystemClass =
         classes.RegisterClass("Scripting.FileSystemObject", [] { return basic::make<host::FileSystem>(); });
-    std::shared_ptr<fernwick::Modules> modules = std::make_shared<fernwick::Modules>(platform);
+    fernwick::Connections connections{platform};
 };
 
 } // namespace test

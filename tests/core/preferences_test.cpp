@@ -1,4 +1,5 @@
 #include "core_world.h"
+#include <sstream>
 
 using namespace fernwick;
 
@@ -159,6 +160,72 @@ TEST_F(Preferences, GroupsAreFoundByNameAndByPosition) {
 }
 
 TEST_F(Preferences, TheHostsAddressIsPublishedInCapitals) {
+    std::vector<basic::Ref<test::TracedVbe>> hosts; // several: an address may have no letters
+    for (int i = 0; i < 20; ++i) {
+        hosts.push_back(basic::make<test::TracedVbe>(trace));
+        addIn.SaveVBinstPointer(hosts.back());
+        std::ostringstream address;
+        address << std::uppercase << std::hex
+                << reinterpret_cast<std::uintptr_t>(static_cast<vbide::VBE*>(hosts.back().shared().get()));
+        EXPECT_EQ(environment.values["VBInstance-3AD1D370-2E73-417D-B685-0E1756D55411"], address.str());
+    }
     addIn.SaveVBinstPointer(nullptr);
     EXPECT_EQ(environment.values["VBInstance-3AD1D370-2E73-417D-B685-0E1756D55411"], "0");
+}
+
+TEST_F(Preferences, EachOperationRequestsOnlyTheAccessThatItIsDescribedWith) {
+    for (const auto* path : {kPrefs, kMyDevices, kAddIn}) setText(kUser, path, "other", "");
+    for (const auto* path : {kPrefs, kGroups, "Software\\Quinloft", "SOFTWARE\\Quinloft\\Classes\\One"})
+        setText(kMachine, path, "other", "");
+    setText(kUser, kPrefs, "ZoomWinState", "1");
+    setText(kMachine, kPrefs, "StartTutorial", "True");
+    basic::Collection<std::string> names, positions;
+    const auto bar = bars->named("File");
+    constexpr auto kBoth = KEY_QUERY_VALUE | KEY_SET_VALUE;
+    const std::vector<std::pair<std::vector<std::uint32_t>, std::function<void()>>> operations{
+        {{KEY_QUERY_VALUE}, [&] { prefs.loadMyDevices(); }},
+        {{KEY_ALL_ACCESS}, [&] { prefs.saveMyDevices(); }},
+        {{KEY_READ}, [&] { prefs.GetZoomWinState(); }},
+        {{kBoth}, [&] { prefs.SetZoomWinState(1); }},
+        {{KEY_QUERY_VALUE}, [&] { prefs.GetStartTutorial(); }},
+        {{KEY_SET_VALUE}, [&] { prefs.SetStartTutorial(true); }},
+        {{KEY_QUERY_VALUE}, [&] { addIn.GetQuinloftSaveWarning(); }},
+        {{KEY_ALL_ACCESS}, [&] { addIn.SetQuinloftSaveWarning(true); }},
+        {{KEY_ALL_ACCESS}, [&] { prefs.GetQuinloftCompileWarning(); }},
+        {{KEY_ALL_ACCESS}, [&] { prefs.SetQuinloftCompileWarning(true); }},
+        {{KEY_QUERY_VALUE}, [&] { prefs.GetRecentProjColWidth(); }},
+        {{KEY_SET_VALUE}, [&] { prefs.SetRecentProjColWidth(1); }},
+        {{KEY_QUERY_VALUE}, [&] { prefs.GetProjectManagerState(); }},
+        {{KEY_SET_VALUE}, [&] { prefs.SetProjectManagerState(1); }},
+        {{KEY_QUERY_VALUE}, [&] { prefs.CreateTavletCategoryList(names, positions); }},
+        {{KEY_ALL_ACCESS}, [&] { prefs.SaveToolbarState(bar); }},
+        {{KEY_ALL_ACCESS}, [&] { prefs.ReadToolbarState(bar); }},
+        {{KEY_QUERY_VALUE}, [&] { install.GetQuinloftRootDir(); }},
+        {{KEY_READ, KEY_READ}, [&] { references.SaveQuinloftClasses(); }},
+    };
+    for (std::size_t i = 0; i < operations.size(); ++i) {
+        store.requested.clear();
+        operations[i].second();
+        EXPECT_EQ(store.requested, operations[i].first) << i;
+    }
+    EXPECT_TRUE(errors.seen.empty());
+}
+
+TEST_F(Preferences, ANegativeCompileWarningIsFalse) {
+    for (const auto& [number, expected] : std::map<std::int32_t, bool>{{-1, false}, {0, false}, {1, true}, {7, true}}) {
+        setNumber(kUser, kAddIn, "CompileWarning", number);
+        EXPECT_EQ(prefs.GetQuinloftCompileWarning(), expected) << number;
+    }
+}
+
+TEST_F(Preferences, ATutorialStoredAsANumberIsRewritten) {
+    setNumber(kMachine, kPrefs, "StartTutorial", 0);
+    EXPECT_TRUE(prefs.GetStartTutorial());
+    EXPECT_EQ(stored(kMachine, kPrefs, "StartTutorial"), "1:True");
+}
+
+TEST_F(Preferences, WithoutAnyGroupTheListsStayEmpty) {
+    setText(kMachine, (std::string(kGroups) + "\\Below").c_str(), "Standard", "1"); // the key itself has no values
+    basic::Collection<std::string> names, positions;
+    EXPECT_FALSE(prefs.CreateTavletCategoryList(names, positions));
 }

@@ -10,14 +10,15 @@ struct QuinloftControls : test::CoreTest {
 } // namespace
 
 TEST_F(QuinloftControls, AreListedInTheRegistry) {
-    store.set(kMachine, std::string(kClasses) + "Tavlets.QLLabel", "name", "Tavlets.QLLabel");
-    store.set(kMachine, std::string(kClasses) + "Tavlets.QLNone", "other", "x");
+    store.set(kMachine, std::string(kClasses) + "TavletsCtl.QLLabel", "name", "Tavlets.QLLabel");
+    store.set(kMachine, std::string(kClasses) + "TavletsCtl.QLNone", "other", "x");
     references.SaveQuinloftClasses();
     references.SaveQuinloftClasses(); // a second connection
-    EXPECT_TRUE(references.IsQuinloftControl("tavlets.qllabel"));
-    EXPECT_FALSE(references.IsQuinloftControl("Tavlets.QLNone"));
-    EXPECT_FALSE(references.IsQuinloftControl("VB.TextBox"));
-    EXPECT_EQ(references.gQuinloftClasses.Item("Tavlets.QLLabel"), "Tavlets.QLLabel");
+    EXPECT_TRUE(references.IsQuinloftControl("tavletsctl.qllabel"));
+    for (const auto* other : {"Tavlets.QLLabel", "TavletsCtl.QLNone", "VB.TextBox"})
+        EXPECT_FALSE(references.IsQuinloftControl(other)) << other;
+    EXPECT_EQ(references.gQuinloftClasses.Count(), 1);
+    EXPECT_EQ(references.gQuinloftClasses.Item("TavletsCtl.QLLabel"), "Tavlets.QLLabel");
     EXPECT_TRUE(errors.seen.empty());
 }
 
@@ -26,4 +27,10 @@ TEST_F(QuinloftControls, NoneWithoutTheKey) {
     EXPECT_EQ(references.gQuinloftClasses.Count(), 0);
 }
 
-TEST_F(QuinloftControls, HaveNoProgIdForAnInvalidClass) { EXPECT_EQ(references.GetProgID("Tavlets.QLLabel"), ""); }
+TEST_F(QuinloftControls, HaveNoProgIdForAnInvalidClass) {
+    classes.progIds = {{"{1}", "Tavlets.QLLabel"}, {"1", "Tavlets.QLWrong"}};
+    EXPECT_EQ(references.GetProgID("{1}"), "Tavlets.QLLabel");
+    EXPECT_EQ(references.GetProgID("1"), "");
+    EXPECT_EQ(references.GetProgID("{2}"), "");
+    EXPECT_TRUE(errors.seen.empty());
+}

@@ -32,6 +32,38 @@ TEST_F(RegistryTest, EveryTypeComesBackAsItWasSet) {
     EXPECT_EQ(std::get<RegistryBytes>(registry.GetValue(key, "bytes").data), (RegistryBytes{0, 255, 128}));
 }
 
+TEST_F(RegistryTest, TheThreeTextTypesAndBothNumberTypesAreStoredAlike) {
+    const auto bytes = [&](std::uint32_t& type) {
+        std::uint32_t length = 0;
+        std::string data(8, '?');
+        store.RegQueryValueEx(key, "v", type, data, length);
+        return data.substr(0, length);
+    };
+    std::uint32_t type = 0;
+    for (const auto text : {REG_SZ, REG_EXPAND_SZ, REG_MULTI_SZ}) {
+        registry.SetValue(key, "v", "ab", text);
+        EXPECT_EQ(bytes(type), std::string("ab\0", 3)) << text;
+        EXPECT_EQ(type, text);
+        EXPECT_EQ(std::get<std::string>(registry.GetValue(key, "v").data), "ab") << text;
+        EXPECT_EQ(registry.EnumValues(key)->front().text, "ab") << text;
+    }
+    for (const auto number : {REG_DWORD, REG_DWORD_BIG_ENDIAN}) {
+        registry.SetValue(key, "v", 7, number);
+        EXPECT_EQ(bytes(type), std::string("\7\0\0\0", 4)) << number;
+        EXPECT_EQ(type, number);
+        EXPECT_EQ(std::get<std::int32_t>(registry.GetValue(key, "v").data), 7) << number;
+        EXPECT_EQ(registry.GetStringValue(key, "v").text, "7") << number;
+    }
+}
+
+TEST_F(RegistryTest, AKeyIsCreatedWithAccessToValuesAndSubkeys) {
+    std::uint32_t made = 0;
+    store.requested.clear();
+    registry.CreateKey(kUser, "Software\\Made", made);
+    registry.CloseKey(made);
+    EXPECT_EQ(store.requested, std::vector<std::uint32_t>{15});
+}
+
 TEST_F(RegistryTest, TextIsStoredWithOneClosingNul) {
     registry.SetValue(key, "text", "ab", REG_SZ);
     std::uint32_t type = 0, length = 0;

@@ -75,28 +75,8 @@ struct FixedValidation : qlpipe::IQLPipeValidation {
     void SetEventSink(qlpipe::IQLPipeEvents&) override {}
 };
 
-/// Classes with identifiers and libraries.
-struct RegisteredClasses : TracedClasses {
-    using TracedClasses::TracedClasses;
-    std::map<std::string, std::string> progIds;
-    std::map<std::string, fernwick::TypeLibInfo> libraries;
-
-    bool CLSIDFromString(const std::string& text, std::string& clsid) const override {
-        clsid = text;
-        return text.starts_with('{');
-    }
-    std::string ProgIDFromCLSID(const std::string& clsid) const override {
-        return progIds.contains(clsid) ? progIds.at(clsid) : "";
-    }
-    basic::Ref<fernwick::TypeLibInfo> TypeLibInfoFromFile(const std::string& path) const override {
-        if (!libraries.contains(path)) return nullptr;
-        return basic::make<fernwick::TypeLibInfo>(libraries.at(path));
-    }
-};
-
 struct DevicesPlatform : TracedPlatform {
     ScriptedUser user;
-    RegisteredClasses classes{trace};
     fernwick::Platform platform{user,
                                 loop,
                                 registry,

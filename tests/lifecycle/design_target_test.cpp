@@ -42,15 +42,16 @@ TEST_F(DesignTarget, OKNeedsARow) {
         chooseTarget.lstQuickDesignTargets.ListIndex(1);
         EXPECT_TRUE(chooseTarget.btnOK.Enabled());
         chooseTarget.btnOK.press();
+        EXPECT_FALSE(chooseTarget.isLoaded());
     });
     EXPECT_EQ(project->stored("TargetDevice"), "PalmOS-DragonBall");
-    EXPECT_FALSE(chooseTarget.isLoaded());
 }
 
 TEST_F(DesignTarget, ADoubleClickChooses) {
     show([&] {
         chooseTarget.lstQuickDesignTargets.ListIndex(0);
         chooseTarget.lstQuickDesignTargets.DblClick.raise();
+        EXPECT_FALSE(chooseTarget.isLoaded());
     });
     EXPECT_EQ(project->stored("TargetDevice"), "PocketPC-SH3");
 }
@@ -65,6 +66,7 @@ TEST_F(DesignTarget, CancelWritesNothing) {
         chooseTarget.lstQuickDesignTargets.ListIndex(1);
         chooseTarget.btnAdvanced.press();
         chooseTarget.btnCancel.press();
+        EXPECT_FALSE(chooseTarget.isLoaded());
     });
     EXPECT_EQ(project->stored("TargetDevice"), "(none)");
     EXPECT_FALSE(project->dirty);

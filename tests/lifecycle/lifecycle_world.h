@@ -29,6 +29,13 @@ struct ProjectsWorld : AddInWorld<> {
     static void set(const Ref<TracedProject>& project, const std::string& key, const std::string& value) {
         project->properties[{"Quinloft Global", key}] = value;
     }
+    /// Makes all targets support a control, which is installed.
+    void supportLabel() {
+        targets.knows.tavlets = {"{1}"};
+        registry.set(fernwick::HKEY_CLASSES_ROOT, "CLSID\\{1}\\InprocServer32", "", "/q/Tavlets.dll");
+        classes.progIds["{1}"] = "Tavlets.QLLabel";
+        classes.libraries["/q/Tavlets.dll"] = {"Tavlets", "/q/Tavlets.dll", "", 1, 0, ""};
+    }
     /// Names of the host's open projects.
     std::vector<std::string> openNames() const {
         std::vector<std::string> names;

@@ -26,6 +26,32 @@ TEST_F(ProjectRemoval, WaitsForTheNextTurn) {
     EXPECT_FALSE(loop.hasTimers());
 }
 
+TEST_F(ProjectRemoval, BothTimersTickAfterAMillisecond) {
+    const auto project = open("A");
+    removal.RemoveProject(project, true, "");
+    removal.RemoveComponent(project, project->add("Form1", ""));
+    EXPECT_THAT(loop.intervals, ElementsAre(1, 1));
+}
+
+TEST_F(ProjectRemoval, LetsTheHostRunBeforeARemovalAndAroundThatOfAReplacedProject) {
+    open("Other");
+    const auto a = open("A"), b = open("B");
+    loop.showsTurns = true;
+    removal.RemoveProject(a, true, "");
+    EXPECT_THAT(turn(), ElementsAre("active A", "DoEvents", "host: remove project"));
+    removal.RemoveProject(b, true, "/p/New.vbp");
+    EXPECT_THAT(turn(), ElementsAre("open /p/New.vbp", "B dirty 0", "active B", "DoEvents", "host: remove project",
+                                    "DoEvents"));
+}
+
+TEST_F(ProjectRemoval, WithoutAnActiveProjectTheHostsCommandIsNotUsed) {
+    const auto project = open("A");
+    removal.RemoveProject(project, true, "");
+    loop.Post([this] { loop.Post([this] { vbe->active = nullptr; }); }); // runs in the DoEvents of the removal
+    EXPECT_THAT(turn(), ElementsAre("active A"));
+    EXPECT_THAT(openNames(), ElementsAre("A"));
+}
+
 TEST_F(ProjectRemoval, IgnoresAForeignProject) {
     removal.RemoveProject(open("A", "none"), true, "");
     EXPECT_THAT(turn(), IsEmpty());
@@ -116,15 +142,55 @@ TEST_F(ProjectRemoval, LoadsAProjectInsteadOfAllOthers) {
     EXPECT_THAT(openNames(), ElementsAre("/p/New.vbp"));
 }
 
-TEST_F(ProjectRemoval, EmptiesAProject) {
-    const auto project = open("A");
-    project->add("Module1", "/p/Module1.bas");
-    removal.RemoveProject(project, true, "/p/New.vbp"); // keeps the project from being removed
+TEST_F(ProjectRemoval, EmptiesAProjectOnce) {
+    const auto foreign = open("Foreign", "none"), project = open("A");
+    const auto first = project->add("Module1", "/p/Module1.bas");
+    removal.RemoveProject(foreign, true, "/p/New.vbp"); // its path keeps the project from being removed
     removal.LoadExclusiveProject(project, "", true);
-    turn();
-    EXPECT_TRUE(did("remove component Module1"));
-    EXPECT_TRUE(did("Module1 saved /tmp/Module1"));
-    EXPECT_FALSE(did("open /p/New.vbp"));
+    EXPECT_THAT(turn(), ElementsAre("Module1 saved /tmp/Module1", "Module1 dirty 0", "remove component Module1"));
+
+    const auto second = project->add("Module2", "/p/Module2.bas");
+    removal.RemoveProject(project, true, "/p/New.vbp");
+    EXPECT_THAT(turn(), ElementsAre("open /p/New.vbp", "A dirty 0", "active A", "host: remove project"));
+    EXPECT_TRUE(first->removed);
+    EXPECT_FALSE(second->removed);
+}
+
+TEST_F(ProjectRemoval, APathIsLoadedOnce) {
+    vbe->projects->opened = [&](const test::Ref<test::TracedProject>& opened) {
+        set(opened, "IsQuinloftProject", "True");
+        set(opened, "ProjectVersion", "3.5");
+        projects.AddToProjectsList(opened);
+        removal.RemoveProject(opened, true, ""); // in the same tick
+    };
+    removal.LoadExclusiveProject(open("A"), "/p/New.vbp", false);
+    EXPECT_THAT(turn(), ElementsAre("active A", "host: remove project", "open /p/New.vbp alone", "active /p/New.vbp",
+                                    "host: remove project"));
+}
+
+TEST_F(ProjectRemoval, APathOfADroppedRequestIsDroppedToo) {
+    const auto other = open("Other");
+    removal.RemoveProject(open("A"), true, "/p/New.vbp");
+    vbe->removeActive();
+    EXPECT_THAT(turn(), IsEmpty());
+    removal.RemoveProject(other, false, "");
+    EXPECT_THAT(turn(), ElementsAre("active Other", "host: remove project"));
+}
+
+TEST_F(ProjectRemoval, AReplacementThatCannotBeOpenedEndsTheReplacements) {
+    int ended = 0;
+    const auto heard = removal.ReplacementsEnded.connect([&] { ++ended; });
+    vbe->projects->opened = [](const auto&) { throw basic::RuntimeError(basic::kFileNotFound); };
+    for (const bool amongOthers : {false, true}) {
+        ended = 0;
+        const auto project = open("A");
+        if (amongOthers) open("Other");
+        removal.RemoveProject(project, true, "/p/New.vbp");
+        turn();
+        EXPECT_EQ(ended, 2) << amongOthers; // once more when all are served
+        vbe->projects->list.clear();
+        projects.ClearProjectsList();
+    }
 }
 
 TEST_F(ProjectRemoval, ServesRequestsMadeDuringTheTick) {
@@ -158,6 +224,39 @@ TEST_F(ProjectRemoval, WaitsForAMissingComponent) {
     EXPECT_FALSE(loop.hasTimers());
     removal.RemoveComponent(nullptr, form);
     EXPECT_THAT(turn(), ElementsAre("remove component Form1"));
+}
+
+TEST_F(ProjectRemoval, AComponentIsForgottenOnceItIsRemoved) {
+    const auto project = open("A");
+    const auto form = project->add("Form1", "/p/Form1.frm");
+    removal.RemoveComponent(project, form);
+    turn();
+    removal.RemoveComponent(project, nullptr);
+    EXPECT_FALSE(loop.hasTimers());
+    removal.RemoveComponent(nullptr, project->add("Form2", "/p/Form2.frm"));
+    EXPECT_THAT(turn(), ElementsAre("remove component Form2"));
+    removal.RemoveComponent(nullptr, form);
+    EXPECT_FALSE(loop.hasTimers());
+}
+
+TEST_F(ProjectRemoval, AComponentRequestedDuringARemovalIsRemovedToo) {
+    struct Chain : test::TracedComponents {
+        using TracedComponents::TracedComponents;
+        std::function<void()> removing;
+        void Remove(const test::Ref<vbide::VBComponent>& component) override {
+            TracedComponents::Remove(component);
+            if (const auto next = std::exchange(removing, nullptr)) next();
+        }
+    };
+    const auto project = open("A");
+    const auto components = basic::make<Chain>(trace);
+    project->components = components;
+    const auto first = project->add("Form1", ""), second = project->add("Form2", "");
+    components->removing = [&] { removal.RemoveComponent(project, second); };
+    removal.RemoveComponent(project, first);
+    EXPECT_THAT(turn(), ElementsAre("remove component Form1"));
+    EXPECT_THAT(turn(), ElementsAre("remove component Form2"));
+    EXPECT_FALSE(loop.hasTimers());
 }
 
 TEST_F(ProjectRemoval, UnloadingDiscardsTheRequests) {

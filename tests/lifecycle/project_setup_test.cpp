@@ -59,6 +59,8 @@ TEST_F(SetupProject, OnlyActivatesTheStartUpProject) {
 
 TEST_F(SetupProject, TakesTheOnlyTargetWithoutAsking) {
     targets.known = {"Palm-1"};
+    targets.knows.required = {"{A}"};
+    supportLabel();
     const auto project = open("A");
     setUp(project);
     EXPECT_EQ(project->stored("TargetDevice"), "Palm-1");
@@ -67,8 +69,19 @@ TEST_F(SetupProject, TakesTheOnlyTargetWithoutAsking) {
         return std::find(trace.effects.begin(), trace.effects.end(), what) - trace.effects.begin();
     };
     EXPECT_LT(at("TargetDevice=Palm-1"), at("A saved /p/A.vbp"));
-    EXPECT_LT(at("A saved /p/A.vbp"), at("default target Palm-1"));
+    EXPECT_LT(at("A saved /p/A.vbp"), at("toolbox Tavlets.QLLabel"));
+    EXPECT_LT(at("toolbox Tavlets.QLLabel"), at("reference {A} 1.0"));
+    EXPECT_LT(at("reference {A} 1.0"), at("default target Palm-1"));
     EXPECT_LT(at("default target Palm-1"), at("enable menu"));
+}
+
+TEST_F(SetupProject, AsksAmongSeveralTargetsThoughOneIsUsable) {
+    targets.known = {"Palm-1", "Pocket-2"};
+    targets.refused = {"Pocket-2"};
+    const auto project = open("A");
+    setUp(project);
+    EXPECT_TRUE(did("form frmDesignTargetNormal"));
+    EXPECT_EQ(project->stored("TargetDevice"), "(none)");
 }
 
 TEST_F(SetupProject, AsksAmongSeveralTargets) {
@@ -188,6 +201,29 @@ TEST_F(ProjectManager, OpensAtOnceWithoutAProject) {
 TEST_F(ProjectManager, ClosesACleanProjectWithoutAQuestion) {
     start(open("A", "Palm-1"));
     EXPECT_THAT(trace.effects, ElementsAre("active A", "host: remove project", "project manager on delay"));
+}
+
+TEST_F(ProjectManager, LetsTheHostRunAroundTheRemoval) {
+    const auto project = open("A", "Palm-1");
+    loop.showsTurns = true;
+    start(project);
+    EXPECT_THAT(trace.effects,
+                ElementsAre("active A", "DoEvents", "host: remove project", "DoEvents", "project manager on delay"));
+}
+
+TEST_F(ProjectManager, DoesNotOpenWhenSavingFails) {
+    const auto fileSystem =
+        classes.RegisterClass("Scripting.FileSystemObject", [this] { return basic::make<test::TracedFiles>(trace); });
+    user.cancelsSaving = true;
+    const auto project = open("A", "Palm-1");
+    project->add("Module1", "");
+    user.answers = {fernwick::vbYes};
+    start(project);
+    EXPECT_THAT(trace.effects,
+                ElementsAre("box 35 Save Project: Save project before opening Fernwick project manager?", "save dialog",
+                            "box 16 Project Not Saved: Project failed to save, Fernwick project manager will not "
+                            "open."));
+    EXPECT_THAT(openNames(), ElementsAre("A"));
 }
 
 TEST_F(ProjectManager, DoesNotOpenWhenTheUserCancels) {

@@ -56,7 +56,18 @@ TEST_F(DeviceSetup, ToolboxAndReferencesSkipEmptyEntries) {
     trace.effects.clear();
     project->SetupProjectToolbar();
     project->SetupProjectReferences();
-    EXPECT_EQ(effects(), (Texts{"toolbox Tavlets.QLLabel", "reference {A}"}));
+    EXPECT_EQ(effects(), (Texts{"toolbox Tavlets.QLLabel", "reference {A} 1.0"}));
+}
+
+TEST_F(DeviceSetup, WithoutAUsableControlTheToolboxIsLeftAlone) {
+    support("{1}", "Tavlets.QLLabel");
+    classes.libraries.clear();
+    user.expectBox("Could not load Type Library \r\ndefined in Palm");
+    const auto project = wrap(traced());
+    project->SetTemplateForDeviceConfig(config());
+    trace.effects.clear();
+    project->SetupProjectToolbar(); // the entry is in the list, but does not count
+    EXPECT_EQ(effects(), Texts{});
 }
 
 TEST_F(DeviceSetup, NothingIsAddedWithoutLists) {

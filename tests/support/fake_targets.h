@@ -10,8 +10,8 @@ namespace test {
 /// Identifiers of the libraries and modules that the targets know.
 struct KnownModules {
     std::set<std::string> references, modules;
-    /// Identifiers of the libraries that each project must carry.
-    std::vector<std::string> required;
+    /// Identifiers of the libraries that each project must carry, and of the controls.
+    std::vector<std::string> required, tavlets;
 };
 
 /// Paths of each target's templates.
@@ -34,9 +34,12 @@ public:
     std::string DefaultFontName() const override { return "Font"; }
     std::string TavletStyleID() const override { return "2"; }
     bool GetOption(const std::string&, std::string&) const override { return false; }
-    void GetSupportedTavlets(std::vector<std::string>&, std::vector<std::string>&,
-                             std::vector<std::string>&) const override {}
-    std::int32_t NumSupportedTavlets() const override { return 0; }
+    void GetSupportedTavlets(std::vector<std::string>& clsids, std::vector<std::string>&,
+                             std::vector<std::string>& categories) const override {
+        clsids = knows_.tavlets;
+        categories.resize(clsids.size());
+    }
+    std::int32_t NumSupportedTavlets() const override { return std::int32_t(knows_.tavlets.size()); }
     void GetSupportedReferences(std::vector<std::string>& guids) const override { guids = knows_.required; }
     std::int32_t NumSupportedReferences() const override { return std::int32_t(knows_.required.size()); }
     designtargetaccess::ReferenceValidity ValidateReference(const std::string& reference) const override {

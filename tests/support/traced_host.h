@@ -126,13 +126,22 @@ public:
         return give("controls in " + p->Name(), controls);
     }
     Ref<vbide::CommandBarEvents> CommandBarEvents(const Ref<office::CommandBarControl>& control) override {
-        return give("item " + nameOf(*control.shared()), basic::make<vbide::CommandBarEvents>());
+        const auto source = give("item " + nameOf(*control.shared()), basic::make<vbide::CommandBarEvents>());
+        items.push_back({source, control});
+        return source;
+    }
+    /// The item of a source; Nothing for another source.
+    Ref<office::CommandBarControl> itemOf(const Ref<vbide::CommandBarEvents>& source) const {
+        for (const auto& [known, item] : items)
+            if (known == source) return item;
+        return nullptr;
     }
     Ref<vbide::FileControlEvents> FileControlEvents(const Ref<vbide::VBProject>& p) override {
         return p ? give("files of " + p->Name(), files) : give("all files", allFiles);
     }
     Ref<vbide::VBBuildEvents> VBBuildEvents() override { return give("build", build); }
 
+    std::vector<std::pair<Ref<vbide::CommandBarEvents>, Ref<office::CommandBarControl>>> items;
     /// The error raised for form designers; 0 for none.
     int refused = 0;
     Ref<vbide::VBProjectsEvents> projects = basic::make<vbide::VBProjectsEvents>();

@@ -44,7 +44,12 @@ public:
         answers.pop_front();
         return answer;
     }
-    void ShowSave(fernwick::CommonDialog&) override { trace_.effect("save dialog"); }
+    /// Whether the user cancels save dialogs.
+    bool cancelsSaving = false;
+    void ShowSave(fernwick::CommonDialog&) override {
+        trace_.effect("save dialog");
+        if (cancelsSaving) throw basic::RuntimeError(fernwick::kCancelWasSelected);
+    }
     /// Chooses `chosen`; "" cancels.
     void ShowOpen(fernwick::CommonDialog& dialog) override {
         trace_.effect("open dialog");
@@ -71,10 +76,12 @@ public:
     void Post(std::function<void()> event) override { queue_.push_back(std::move(event)); }
     void DoEvents() override {
         trace_.read();
+        if (showsTurns) trace_.effects.push_back("DoEvents");
         turn();
     }
-    fernwick::Subscription StartTimer(int, std::function<void()> tick) override {
+    fernwick::Subscription StartTimer(int interval, std::function<void()> tick) override {
         trace_.read();
+        intervals.push_back(interval);
         return timers_.connect(std::move(tick));
     }
     void turn() {
@@ -86,6 +93,10 @@ public:
         if (timersAreDue) timers_.raise();
     }
     bool timersAreDue = true;
+    /// Whether each DoEvents is an effect.
+    bool showsTurns = false;
+    /// In milliseconds, of each timer that was started.
+    std::vector<int> intervals;
     bool hasTimers() const { return timers_.hasHandlers(); }
 
 private:
@@ -142,14 +153,23 @@ public:
     }
     /// Makes the class unknown.
     void forget(const std::string& progId) { factories_.erase(progId); }
-    bool CLSIDFromString(const std::string&, std::string&) const override { return false; }
-    std::string ProgIDFromCLSID(const std::string&) const override { return {}; }
+    /// Anything in braces is an identifier.
+    bool CLSIDFromString(const std::string& text, std::string& clsid) const override {
+        clsid = text;
+        return text.starts_with('{');
+    }
+    std::string ProgIDFromCLSID(const std::string& clsid) const override {
+        const auto known = progIds.find(clsid);
+        return known == progIds.end() ? "" : known->second;
+    }
     basic::Ref<fernwick::TypeLibInfo> TypeLibInfoFromFile(const std::string& path) const override {
         trace_.read();
         const auto library = libraries.find(path);
         return library == libraries.end() ? nullptr : basic::make<fernwick::TypeLibInfo>(library->second);
     }
 
+    /// ProgIDs by class identifier.
+    std::map<std::string, std::string> progIds;
     /// Type libraries by path.
     std::map<std::string, fernwick::TypeLibInfo> libraries;
 

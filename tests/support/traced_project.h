@@ -140,7 +140,7 @@ public:
         use();
         return designerOpen;
     }
-    Ref<vbide::Window> DesignerWindow() override { return nullptr; }
+    Ref<vbide::Window> DesignerWindow() override { return window; }
     Ref<vbide::VBE> VBE() const override { return vbe; }
     Ref<vbide::VBComponents> Collection() const override { return nullptr; }
 
@@ -149,6 +149,8 @@ public:
     bool dirty = false, designerOpen = false, removed = false;
     Ref<TracedCode> code;
     Ref<vbide::VBForm> designer;
+    /// The designer's.
+    Ref<TracedWindow> window;
     Ref<vbide::Properties> properties;
     Ref<vbide::VBE> vbe;
 
@@ -259,8 +261,8 @@ public:
         trace_.read();
         return {list.begin(), list.end()};
     }
-    Ref<vbide::Reference> AddFromGuid(const std::string& guid, int, int) override {
-        trace_.effect("reference " + guid);
+    Ref<vbide::Reference> AddFromGuid(const std::string& guid, int major, int minor) override {
+        trace_.effect("reference " + guid + " " + std::to_string(major) + "." + std::to_string(minor));
         return nullptr;
     }
     Ref<vbide::Reference> AddFromFile(const std::string&) override { return nullptr; }

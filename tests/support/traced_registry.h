@@ -1,10 +1,11 @@
 #pragma once
-// A registry in memory.
+// A registry in memory. A handle allows only what it was opened for, as in the real one.
 #include "Add-in/platform/registry.h"
 #include "Basic/case_folding.h"
 #include <functional>
 #include <map>
 #include <string>
+#include <vector>
 
 namespace test {
 
@@ -15,15 +16,17 @@ public:
         make(full(root, path))[name] = {type, type == fernwick::REG_SZ ? text + '\0' : text};
     }
 
-    std::int32_t RegOpenKeyEx(std::uint32_t key, const std::string& subKey, std::uint32_t,
+    std::int32_t RegOpenKeyEx(std::uint32_t key, const std::string& subKey, std::uint32_t access,
                               std::uint32_t& result) override {
         const auto path = full(key, subKey);
         if (keys_.count(path) == 0) return fernwick::ERROR_FILE_NOT_FOUND;
-        open_[result = ++last_] = path;
+        open_[result = ++last_] = {path, access};
+        requested.push_back(access);
         return fernwick::ERROR_SUCCESS;
     }
     std::int32_t RegCreateKeyEx(std::uint32_t key, const std::string& subKey, std::uint32_t access,
                                 std::uint32_t& result, std::uint32_t& disposition) override {
+        if (!allows(key, kCreateSubKey)) return fernwick::ERROR_ACCESS_DENIED;
         disposition = keys_.count(full(key, subKey)) ? 2 : 1;
         make(full(key, subKey));
         return RegOpenKeyEx(key, subKey, access, result);
@@ -32,9 +35,10 @@ public:
         return open_.erase(key) ? fernwick::ERROR_SUCCESS : fernwick::ERROR_INVALID_HANDLE;
     }
     std::int32_t RegQueryInfoKey(std::uint32_t key, fernwick::RegistryKeyInfo& info) override {
+        if (!allows(key, fernwick::KEY_QUERY_VALUE)) return fernwick::ERROR_ACCESS_DENIED;
         info = {};
         std::string name;
-        while (RegEnumKeyEx(key, info.subKeys, name) == fernwick::ERROR_SUCCESS) {
+        while (subKey(key, info.subKeys, name)) {
             ++info.subKeys;
             info.longestSubKeyName = std::max(info.longestSubKeyName, std::uint32_t(name.size()));
         }
@@ -46,18 +50,12 @@ public:
         return fernwick::ERROR_SUCCESS;
     }
     std::int32_t RegEnumKeyEx(std::uint32_t key, std::uint32_t index, std::string& name) override {
-        const auto parent = full(key, "") + "\\";
-        for (const auto& [path, values] : keys_) {
-            if (!basic::startsWithNoCase(path, parent)) continue;
-            const auto rest = path.substr(parent.size());
-            if (rest.find('\\') != std::string::npos || index-- > 0) continue;
-            name = rest;
-            return fernwick::ERROR_SUCCESS;
-        }
-        return fernwick::ERROR_NO_MORE_ITEMS;
+        if (!allows(key, kEnumerateSubKeys)) return fernwick::ERROR_ACCESS_DENIED;
+        return subKey(key, index, name) ? fernwick::ERROR_SUCCESS : fernwick::ERROR_NO_MORE_ITEMS;
     }
     std::int32_t RegEnumValue(std::uint32_t key, std::uint32_t index, std::string& name, std::uint32_t& type,
                               std::string& data) override {
+        if (!allows(key, fernwick::KEY_QUERY_VALUE)) return fernwick::ERROR_ACCESS_DENIED;
         const auto& values = keys_[full(key, "")];
         if (index >= values.size()) return fernwick::ERROR_NO_MORE_ITEMS;
         const auto at = std::next(values.begin(), index);
@@ -68,6 +66,7 @@ public:
     }
     std::int32_t RegQueryValueEx(std::uint32_t key, const std::string& name, std::uint32_t& type, std::string& data,
                                  std::uint32_t& length) override {
+        if (!allows(key, fernwick::KEY_QUERY_VALUE)) return fernwick::ERROR_ACCESS_DENIED;
         const auto& values = keys_[full(key, "")];
         const auto value = values.find(name);
         if (value == values.end()) return fernwick::ERROR_FILE_NOT_FOUND;
@@ -79,11 +78,13 @@ public:
     }
     std::int32_t RegSetValueEx(std::uint32_t key, const std::string& name, std::uint32_t type,
                                const std::string& data) override {
+        if (!allows(key, fernwick::KEY_SET_VALUE)) return fernwick::ERROR_ACCESS_DENIED;
         if (written) written(name);
         make(full(key, ""))[name] = {type, data};
         return fernwick::ERROR_SUCCESS;
     }
     std::int32_t RegDeleteValue(std::uint32_t key, const std::string& name) override {
+        if (!allows(key, fernwick::KEY_SET_VALUE)) return fernwick::ERROR_ACCESS_DENIED;
         return keys_[full(key, "")].erase(name) ? fernwick::ERROR_SUCCESS : fernwick::ERROR_FILE_NOT_FOUND;
     }
     std::int32_t RegDeleteKey(std::uint32_t key, const std::string& subKey) override {
@@ -91,10 +92,14 @@ public:
     }
     /// Called with the name of each value that is stored.
     std::function<void(const std::string& name)> written;
+    /// The access that was requested for each key that was opened, in order.
+    std::vector<std::uint32_t> requested;
     /// Number of handles that were not closed.
     std::size_t openKeys() const { return open_.size(); }
 
 private:
+    static constexpr std::uint32_t kCreateSubKey = 4, kEnumerateSubKeys = 8;
+
     struct Value {
         std::uint32_t type = 0;
         std::string bytes;
@@ -103,8 +108,24 @@ private:
 
     std::string full(std::uint32_t key, const std::string& subKey) const {
         const auto handle = open_.find(key);
-        const std::string base = handle == open_.end() ? std::to_string(key) : handle->second;
+        const std::string base = handle == open_.end() ? std::to_string(key) : handle->second.path;
         return subKey.empty() ? base : base + "\\" + subKey;
+    }
+    /// The roots allow everything.
+    bool allows(std::uint32_t key, std::uint32_t right) const {
+        const auto handle = open_.find(key);
+        return handle == open_.end() || (handle->second.access & right) != 0;
+    }
+    bool subKey(std::uint32_t key, std::uint32_t index, std::string& name) const {
+        const auto parent = full(key, "") + "\\";
+        for (const auto& [path, values] : keys_) {
+            if (!basic::startsWithNoCase(path, parent)) continue;
+            const auto rest = path.substr(parent.size());
+            if (rest.find('\\') != std::string::npos || index-- > 0) continue;
+            name = rest;
+            return true;
+        }
+        return false;
     }
     /// Creates the key and its parents.
     Values& make(const std::string& path) {
@@ -114,7 +135,11 @@ private:
     }
 
     std::map<std::string, Values, basic::NoCaseLess> keys_;
-    std::map<std::uint32_t, std::string> open_;
+    struct Open {
+        std::string path;
+        std::uint32_t access = 0;
+    };
+    std::map<std::uint32_t, Open> open_;
     std::uint32_t last_ = 0;
 };
 

@@ -7,6 +7,10 @@ namespace {
 constexpr char kResourceEditor[] = "ResEdit6.Connect";
 }
 
+Connect::Connect(const ConnectServices& services)
+    : services_(services),
+      replacementsEnded_(services.removal.ReplacementsEnded.connect([this] { TemplateReloadPending = false; })) {}
+
 void Connect::IDTExtensibility_OnConnection(const Host& VBInst, vbide::vbext_ConnectMode ConnectMode,
                                             const basic::Ref<vbide::AddIn>& AddInInst) {
     LastControlEventTime = services_.clock.Now();

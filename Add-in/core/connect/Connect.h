@@ -87,7 +87,7 @@ public:
     /// The number of sinks of each device popup. Items beyond this number have no sink and do nothing.
     static constexpr int kDeviceSlots = 10;
 
-    explicit Connect(const ConnectServices& services) : services_(services) {}
+    explicit Connect(const ConnectServices& services);
 
     void IDTExtensibility_OnConnection(const Host& VBInst, vbide::vbext_ConnectMode ConnectMode,
                                        const basic::Ref<vbide::AddIn>& AddInInst) override;
@@ -96,6 +96,8 @@ public:
     void IDTExtensibility_OnAddInsUpdate() override {}
     /// Assigns the sinks of the menu's items.
     void SetupMenuHandlers(const Host& VBInst);
+    /// Releases all sinks. No handler is called afterwards, even if the object lives on because one of them is running.
+    void releaseSinks();
 
     // Each sink of the menu and the toolbars: its table, its item and its handler
     Command QuinloftSettingsHandler{this, sinks_.menu, &CommandItems::gSettingsItem,
@@ -318,6 +320,7 @@ private:
 
     friend class Command;
     ConnectServices services_;
+    Subscription replacementsEnded_;
     /// One for each sample of the menu.
     std::vector<Subscription> pickedSamples_;
 };

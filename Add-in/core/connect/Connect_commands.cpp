@@ -69,15 +69,16 @@ void Connect::InstallVMAllDevices_Click() {
     toMyDevices([&](const std::string& device) { services_.sendRuntime.SendRuntimeToDevice(device); });
 }
 
-/// Asks for devices until there are some or the user declines.
+/// Asks for devices until there are some or the user declines. The runtime is installed without a project, so the devices
+/// can be chosen without one.
 bool Connect::hasMyDevices() {
     while (services_.prefs.gMyDevices.empty()) {
         const int answer =
             services_.user.MsgBox(connect_texts::kNoDevices, vbInformation + vbYesNo, connect_texts::kNoDevicesTitle);
         if (answer != vbYes) return false;
         services_.user.SetCursor(vbHourglass);
-        const auto project = activeProject();
-        services_.settings.ShowQuinloftSettings(project->VBProject(), kMyDevicesPage, false);
+        const auto project = services_.projects.FindQLProject(services_.addIn.gVBInstance->ActiveVBProject());
+        services_.settings.ShowQuinloftSettings(project ? project->VBProject() : nullptr, kMyDevicesPage, false);
     }
     return true;
 }

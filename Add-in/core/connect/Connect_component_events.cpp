@@ -37,8 +37,8 @@ void Connect::CompsEventsHandler_ItemAdded(Component VBComponent) {
     }
 }
 
-/// Only a blank component with the host's default name is replaced. The guard is set during the template's own event;
-/// the blank component is removed after this event.
+/// Only a blank component with the host's default name is replaced. The guard is set during the template's own event,
+/// which clears it; a template that cannot be added has none. The blank component is removed after this event.
 bool Connect::replaceByTemplate(Procedure& here, const QLProject& project, const Component& VBComponent,
                                 NameTest isDefault, TemplateOf path) {
     const auto file = here.value([&] { return VBComponent->FileNames(1); });
@@ -48,7 +48,7 @@ bool Connect::replaceByTemplate(Procedure& here, const QLProject& project, const
     const std::string templateFile = (*project.*path)();
     if (templateFile.empty()) return false;
     ComponentAddGuard = true;
-    here([&] { project->VBProject()->VBComponents()->AddFile(templateFile); });
+    if (!here([&] { project->VBProject()->VBComponents()->AddFile(templateFile); })) ComponentAddGuard = false;
     services_.removal.RemoveComponent(project->VBProject(), VBComponent);
     return true;
 }

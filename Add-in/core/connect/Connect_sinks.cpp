@@ -73,6 +73,22 @@ void Connect::setupDeviceSlots(Procedure& here, const Host& VBInst) {
         wire(here, VBInst, InstallVMDevice[std::size_t(i)], items.gInstallItems[i]);
 }
 
+void Connect::releaseSinks() {
+    for (const auto* table : {&sinks_.menu, &sinks_.download, &sinks_.utilities, &sinks_.samples, &sinks_.help,
+                              &sinks_.toolbar, &sinks_.supportToolbar})
+        for (const auto& row : *table) *row.sink = nullptr;
+    for (auto* family : {&MakePackageDevice, &DeployDevice, &InstallVMDevice})
+        for (auto& sink : *family) sink = nullptr;
+    pickedSamples_.clear();
+    ProjEventsHandler = nullptr;
+    CompsEventsHandler = nullptr;
+    RefEventsHandler = nullptr;
+    FileControlHandler = nullptr;
+    ControlsEventsHandler = nullptr;
+    BuildEventsHandler = nullptr;
+    GlobalFileControlHandler = nullptr;
+}
+
 void Connect::SetupSampleMenuHandlers(const Host& VBInst) {
     Procedure here{services_.errors, "Connect.SetupSampleMenuHandlers"};
     wireAll(here, VBInst, sinks_.samples);

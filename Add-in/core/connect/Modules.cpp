@@ -10,7 +10,11 @@ Modules::Modules(Platform& p, const ModuleOverrides& overrides)
       compileMsgsClass_(
           p.classes.RegisterClass(p.app.Title + ".udocCompileMsgs", [this] { return newCompileMsgs(); })) {}
 
-Modules::~Modules() {
+Modules::~Modules() { release(); }
+
+void Modules::release() {
+    connect.releaseSinks();
+    (void)basic::attempt([this] { removal.Unload(); });
     for (const auto& document : documents_)
         if (const auto window = document.lock()) window->disconnect();
 }
@@ -24,10 +28,6 @@ basic::Ref<Object> Modules::newCompileMsgs() {
 
 basic::Ref<udocCompileMsgs> Modules::compileMsgs() const {
     return documents_.empty() ? nullptr : documents_.back().lock();
-}
-
-basic::Ref<vbide::IDTExtensibility> asAddIn(const std::shared_ptr<Modules>& modules) {
-    return std::shared_ptr<vbide::IDTExtensibility>(modules, &modules->connect);
 }
 
 } // namespace fernwick

@@ -102,6 +102,8 @@ struct Modules {
 
     /// The document of the messages window; Nothing until the host has created it.
     basic::Ref<udocCompileMsgs> compileMsgs() const;
+    /// Ends the connection: no event, timer or window of the host reaches the add-in any more.
+    void release();
 
 private:
     basic::Ref<Object> newCompileMsgs();
@@ -110,8 +112,5 @@ private:
     std::vector<std::weak_ptr<udocCompileMsgs>> documents_;
     std::shared_ptr<void> compileMsgsClass_;
 };
-
-/// The add-in as the host owns it: the modules live as long as the returned reference.
-basic::Ref<vbide::IDTExtensibility> asAddIn(const std::shared_ptr<Modules>& modules);
 
 } // namespace fernwick

@@ -22,7 +22,7 @@ Session::Session(const Options& options, Console& console)
                    return trust_.mayRun(commandLine, folder);
                }),
       controls_(machine_.installation()),
-      modules_(std::make_shared<fernwick::Modules>(machine_.platform())) {
+      connections_(machine_.platform()) {
     auto& context = user_.context();
     context.device = options.device;
     context.hostHasUnsaved = [this] { return hasUnsavedComponents(); };
@@ -36,8 +36,7 @@ Session::Session(const Options& options, Console& console)
         console.err(fmt::format("fernwick: {} (error {})", error.Description, error.Number), Tone::Warning);
     };
     host_ = host::Host::create(std::move(hostOptions));
-    host_->listAddIn(apps::kAddInProgId, apps::kAddInName,
-                     [modules = std::weak_ptr(modules_)] { return fernwick::asAddIn(modules.lock()); });
+    host_->listAddIn(apps::kAddInProgId, apps::kAddInName, [this] { return connections_.create(); });
 }
 
 Session::~Session() {
@@ -101,13 +100,13 @@ void Session::requireFernwickProject() {
 }
 
 void Session::takeUp() {
-    modules_->addIn.gVBInstance = host_;
-    settings_ = modules_->projects.AddToProjectsList(project_);
+    addIn().addIn.gVBInstance = host_;
+    settings_ = addIn().projects.AddToProjectsList(project_);
 }
 
 void Session::forget() {
     settings_ = nullptr;
-    modules_->projects.RemoveFromProjectsList(project_);
+    addIn().projects.RemoveFromProjectsList(project_);
 }
 
 void Session::connect() {
@@ -115,7 +114,7 @@ void Session::connect() {
     host_->startupComplete();
     connected_ = true;
     machine_.drain();
-    if (isOpen()) settings_ = modules_->projects.GetQLProject(project_);
+    if (isOpen()) settings_ = addIn().projects.GetQLProject(project_);
 }
 
 bool Session::isOpen() const {
@@ -154,7 +153,7 @@ bool Session::hasUnsavedComponents() const {
 }
 
 int Session::deviceRow(const std::string& key) {
-    const auto& shown = modules_->chooseTarget.targetKeys();
+    const auto& shown = addIn().chooseTarget.targetKeys();
     for (std::size_t row = 0; row < shown.size(); ++row)
         if (shown[row] == key) return int(row);
     return -1;

@@ -1,6 +1,6 @@
 #pragma once
 // The host and the add-in with one open project.
-#include "Add-in/core/connect/Modules.h"
+#include "Add-in/core/connect/connections.h"
 #include "Apps/common/host_options.h"
 #include "Apps/fernwick/options/options.h"
 #include "Apps/fernwick/options/refusal.h"
@@ -39,7 +39,7 @@ public:
 
     const basic::Ref<vbide::VBProject>& project() const { return project_; }
     const basic::Ref<fernwick::clsQLProject>& settings() const { return settings_; }
-    fernwick::Modules& addIn() { return *modules_; }
+    fernwick::Modules& addIn() { return connections_.current(); }
     host::Host& host() { return *host_; }
     Machine& machine() { return machine_; }
     CommandLineUser& user() { return user_; }
@@ -60,7 +60,7 @@ private:
     StepsTrust trust_;
     Machine machine_;
     apps::InstalledControls controls_;
-    std::shared_ptr<fernwick::Modules> modules_;
+    fernwick::Connections connections_;
     std::shared_ptr<host::Host> host_;
     std::string path_;
     basic::Ref<vbide::VBProject> project_;

@@ -21,10 +21,9 @@ Workbench::Workbench()
                 [this](const std::string& document) {
                     showInformation("No installed program can show " + qt(document), window_.get());
                 }}),
-      modules_(std::make_shared<fernwick::Modules>(machine_.platform())),
+      connections_(machine_.platform()),
       host_(host::Host::create(hostOptions())) {
-    host_->listAddIn(apps::kAddInProgId, apps::kAddInName,
-                     [modules = std::weak_ptr(modules_)] { return fernwick::asAddIn(modules.lock()); });
+    host_->listAddIn(apps::kAddInProgId, apps::kAddInName, [this] { return connections_.create(); });
     buildWindow();
     problemsSoon_.setSingleShot(true);
     problemsSoon_.setInterval(0);
@@ -71,7 +70,7 @@ ProgramActions Workbench::programActions() {
         if (active && mayBeClosed(*host_, {active}, window_.get())) host_->VBProjects()->Remove(active);
     };
     actions.start = [this] { startActive(); };
-    actions.help = [this] { modules_->help.DisplayHelp(fernwick::kUsersGuideTopic); };
+    actions.help = [this] { addIn().help.DisplayHelp(fernwick::kUsersGuideTopic); };
     actions.about = [this] { showAbout(window_.get()); };
     return actions;
 }
@@ -124,17 +123,16 @@ void Workbench::run(const std::function<void()>& act) {
 void Workbench::startActive() {
     const auto active = host_->ActiveVBProject();
     if (!active) return;
-    const auto project = modules_->projects.GetQLProject(active);
+    const auto project = addIn().projects.GetQLProject(active);
     if (!project || !project->IsQuinloftProject()) return showNoFernwickProject(active->Name(), window_.get());
-    if (compiled(active)) modules_->sendToDevice.SendProjectToDevice(project, false, project->TargetDevice());
+    if (compiled(active)) addIn().sendToDevice.SendProjectToDevice(project, false, project->TargetDevice());
 }
 
 /// Shows the messages if the project does not compile.
 bool Workbench::compiled(const vbide::Ref<vbide::VBProject>& project) {
-    const bool good =
-        modules_->compile.CompileProject(project) &&
-        modules_->validate.ValidateProject(project, modules_->projects.GetQLProject(project)->TargetDevice());
-    if (!good) modules_->messages.ShowProjectCompileErrors(project, true);
+    const bool good = addIn().compile.CompileProject(project) &&
+                      addIn().validate.ValidateProject(project, addIn().projects.GetQLProject(project)->TargetDevice());
+    if (!good) addIn().messages.ShowProjectCompileErrors(project, true);
     return good;
 }
 
@@ -142,7 +140,7 @@ bool Workbench::mayRunSteps(const std::string& commandLine, const std::string& f
     apps::TrustedFolders trusted(machine_.registry());
     if (trusted.holds(folder)) return true;
     QStringList steps{qt(commandLine)};
-    if (const auto project = modules_->projects.GetQLProject(host_->ActiveVBProject())) {
+    if (const auto project = addIn().projects.GetQLProject(host_->ActiveVBProject())) {
         steps.clear();
         for (const auto& step : apps::allSteps(*project)) steps << qt(step);
     }

@@ -1,6 +1,6 @@
 #pragma once
 // The desktop as a whole: the host, the add-in and the window over them.
-#include "Add-in/core/connect/Modules.h"
+#include "Add-in/core/connect/connections.h"
 #include "Apps/common/host_options.h"
 #include "Apps/workbench/bridge/qt_clipboard.h"
 #include "Apps/workbench/bridge/qt_loop.h"
@@ -29,7 +29,8 @@ public:
 
     MainWindow& window() { return *window_; }
     host::Host& host() { return *host_; }
-    fernwick::Modules& addIn() { return *modules_; }
+    /// The add-in of the present connection; references to it end with that connection.
+    fernwick::Modules& addIn() { return connections_.current(); }
 
 private:
     host::HostOptions hostOptions();
@@ -49,7 +50,7 @@ private:
     QtClipboard clipboard_;
     apps::Machine machine_;
     apps::InstalledControls controls_{machine_.installation()};
-    std::shared_ptr<fernwick::Modules> modules_;
+    fernwick::Connections connections_;
     std::shared_ptr<host::Host> host_;
     std::unique_ptr<MainWindow> window_;
     std::unique_ptr<RecentProjects> recent_;
