@@ -43,8 +43,8 @@ void clsQLProject::saveComponent(Procedure& here, const basic::Ref<vbide::VBComp
 void clsQLProject::saveProjectFile(Procedure& here) {
     const auto path = here.value([&] { return VBProject()->FileName(); });
     if (!files().FileExists(path)) return;
-    if (services_.templates.ProjectIsFromTemplate(VBProject())) return; // often not writable, and not to be changed
     if (here.test([&] { return warnIfReadOnly(path); })) return;
+    if (services_.templates.ProjectIsFromTemplate(VBProject())) return; // a template is never changed
     here([&] {
         VBProject()->SaveAs(path);
         VBProject()->IsDirty(false);

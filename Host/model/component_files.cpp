@@ -26,14 +26,14 @@ std::string companionOnDisk(const std::string& path) {
 std::string Component::FileNames(int index) const {
     owner();
     if (index == 1) return origin_.path;
-    const auto companion = companionOnDisk(origin_.path);
-    if (index != 2 || companion.empty()) throw hostError(basic::kSubscriptOutOfRange);
-    return companion;
+    if (index != 2 || FileCount() < 2) throw hostError(basic::kSubscriptOutOfRange);
+    return companionOnDisk(origin_.path); // a new form has none of its own until it is saved
 }
 
+/// The companion of a new form's template counts, because saving the form copies it.
 int Component::FileCount() const {
     owner();
-    return hasDesigner() && !companionOnDisk(origin_.path).empty() ? 2 : 1;
+    return hasDesigner() && !companionOnDisk(resourceOwner()).empty() ? 2 : 1;
 }
 
 void Component::SaveAs(const std::string& path) {

@@ -189,6 +189,24 @@ TEST_F(FormGeometryTest, OuterSizesAreTheClientLinesAndTheFrame) {
     EXPECT_EQ(get("ScaleWidth"), real(4680));
 }
 
+TEST_F(FormGeometryTest, AnotherPositionMakesTheStartUpPositionManual) {
+    for (const auto* name : {"Left", "Top"}) {
+        open(kNewForm);
+        set(name, get(name));
+        set("Width", real(3000));
+        EXPECT_EQ(get("StartUpPosition"), number(3)) << name;
+        set(name, real(600));
+        EXPECT_EQ(get("StartUpPosition"), number(0)) << name;
+        EXPECT_THAT(difference(), HasSubstr("+    StartUpPosition =   0  'Manual\n"));
+    }
+}
+
+TEST_F(FormGeometryTest, AFormWithoutAStartUpPositionGetsNone) {
+    open(kScreen);
+    set("Left", real(600));
+    EXPECT_EQ(difference(), "-    ClientLeft      =   345\n+    ClientLeft      =   645\n");
+}
+
 TEST_F(FormGeometryTest, FrameSizesFollowTheBorderStyle) {
     struct {
         int style, width, height;

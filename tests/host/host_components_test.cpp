@@ -117,6 +117,18 @@ TEST(HostComponents, AnExistingFileCanBeAdded) {
     EXPECT_EQ(errorOf([&] { project->VBComponents()->AddFile(host.folder / "Hello.vbp"); }), 321);
 }
 
+TEST(HostComponents, ANewFormCountsTheCompanionOfItsTemplate) {
+    TestHost host;
+    host.folder.write("Template/Forms/Ours.frx", "picture");
+    const auto template_ = host.folder.write("Template/Forms/Ours.frm", test::formText("frmOurs"));
+    const auto form = host.open(SampleProject())->VBComponents()->AddFile(template_);
+    EXPECT_EQ(form->FileCount(), 2);
+    EXPECT_EQ(form->FileNames(1) + form->FileNames(2), ""); // not saved yet
+    EXPECT_EQ(errorOf([&] { form->FileNames(3); }), 9);
+    form->SaveAs(host.folder / "Mine.frm");
+    EXPECT_EQ(form->FileNames(2), host.folder / "Mine.frx");
+}
+
 TEST(HostComponents, AFileOfATemplateFolderIsAddedAsNew) {
     TestHost host;
     const auto template_ =

@@ -56,3 +56,8 @@ TEST_F(Constants, AValueThatIsNotANumberRaisesAnError) {
     EXPECT_EQ(test::errorOf([&] { passed("A = 1:B = x:C = 3"); }), 13);
     EXPECT_EQ(trace.effects, Texts{"constant A=1"});
 }
+
+TEST_F(Constants, AReservedNameNeedsANumberToo) {
+    EXPECT_EQ(test::errorOf([&] { passed("WIN32=abc"); }), 13);
+    EXPECT_TRUE(user.sawNothing()); // the error comes before the box
+}

@@ -62,6 +62,15 @@ TEST_F(ProjectIcon, AnIconElsewhereIsStoredAsGiven) {
     EXPECT_EQ(project->IconFileName(), "/usr/share/my.ico");
 }
 
+TEST_F(ProjectIcon, AProjectFolderInsideThePathIsEnoughForARelativePath) {
+    const auto copy = path("Backup") + host.folder.path() + "/my.ico"; // the folder's path appears twice
+    const auto elsewhere = "/srv" + host.folder.path() + "/my.ico";    // not at the beginning
+    project->IconFileName(copy);
+    EXPECT_EQ(stored(project, "IconFileName").substr(0, 7), "Backup\\");
+    project->IconFileName(elsewhere);
+    EXPECT_EQ(stored(project, "IconFileName").substr(0, 3), "..\\");
+}
+
 TEST_F(ProjectIcon, APathWithADriveIsReturnedUnchanged) {
     project->VBProject()->WriteProperty("Quinloft Global", "IconFileName", "C:\\Icons\\my.ico");
     EXPECT_EQ(project->IconFileName(), "C:\\Icons\\my.ico");

@@ -1,6 +1,8 @@
 #include "project_world.h"
+#include "recorded_properties.h"
 
 using namespace fernwick;
+using test::RecordedProperties;
 
 namespace {
 struct FormSetup : test::ProjectTest {
@@ -37,6 +39,31 @@ TEST_F(FormSetup, TakesSizeStyleAndPosition) {
     EXPECT_TRUE(asBoolean(get("ShowInTaskBar")));
     EXPECT_TRUE(reports().empty()) << reports().front();
     EXPECT_TRUE(project->ValidFormSize(form));
+}
+
+TEST_F(FormSetup, EachDirectionHasItsOwnTwipsAndARoundedFrame) {
+    screen.x = 12;
+    screen.y = 20;
+    const auto vbProject = traced();
+    project = wrap(vbProject);
+    project->DefaultFormWidth(160);
+    project->defaultFormHeight(240);
+    const auto component = vbProject->add("frmMain", "", vbide::vbext_ct_VBForm);
+    const auto properties = basic::make<RecordedProperties>();
+    properties->values = {{"ScaleMode", std::int32_t{3}},
+                          {"Width", 2490.5},
+                          {"ScaleWidth", 2400.0},
+                          {"Height", 2775.4},
+                          {"ScaleHeight", 2400.0}};
+    component->properties = properties;
+    project->SetupDefaultForm(component);
+    const std::vector<std::pair<std::string, double>> first{
+        {"ScaleMode", 1}, {"Height", 240 * 20 + 375}, {"Width", 160 * 12 + 90}, {"ScaleMode", 3}};
+    ASSERT_GE(properties->set.size(), first.size());
+    for (std::size_t i = 0; i < first.size(); ++i) {
+        EXPECT_EQ(properties->set[i].first, first[i].first);
+        EXPECT_EQ(asDouble(properties->set[i].second), first[i].second) << first[i].first;
+    }
 }
 
 TEST_F(FormSetup, AHeightOfMinusOneIsKept) {

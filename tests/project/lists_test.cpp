@@ -115,6 +115,18 @@ TEST_F(ProjectLists, AMissingStepEndsTheReading) {
     EXPECT_TRUE(reports().empty());
 }
 
+TEST_F(ProjectLists, AStepThatCannotBeReadIsReported) {
+    const auto vbProject = traced();
+    vbProject->properties = {{{kOptions, "PreCompileStepCount"}, "2"}, {{kOptions, "PreCompileStep0"}, "a"}};
+    const auto other = wrap(vbProject);
+    Array<std::string> list;
+    trace.calls = 0;
+    trace.failing = 3; // the calls: the count, the first step, the second
+    EXPECT_TRUE(other->GetPreCompileSteps(list));
+    EXPECT_EQ((Texts{list.begin(), list.end()}), (Texts{"a", ""}));
+    EXPECT_EQ(reports(), Texts{"clsQLProject.GetCompileSteps [50000]"});
+}
+
 TEST_F(ProjectLists, AnInvalidStepCountIsReported) {
     store(kOptions, "PostCompileStepCount", "three");
     EXPECT_EQ(project->PostCompileStepCount(), 0);

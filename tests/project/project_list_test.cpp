@@ -61,6 +61,14 @@ TEST_F(ProjectList, RemovingComponentsLeavesTheirFilesAndNothingElse) {
     EXPECT_TRUE(reports().empty());
 }
 
+TEST_F(ProjectList, RemovingAFormOfATemplateLeavesNoCompanion) {
+    host.folder.write("Template/Forms/Ours.frx", "picture");
+    hello->VBComponents()->AddFile(host.folder.write("Template/Forms/Ours.frm", test::formText("frmOurs")));
+    projects.RemoveProjectComponents(projects.AddToProjectsList(hello));
+    EXPECT_EQ(files.Files(files.GetSpecialFolder(TemporaryFolder)), Texts{});
+    EXPECT_TRUE(reports().empty());
+}
+
 TEST_F(ProjectList, EachFailingCallOfARemovalIsReportedOnce) {
     int calls = 1;
     for (int failing = 1; failing <= calls; ++failing) {
@@ -83,6 +91,17 @@ TEST_F(ProjectList, OpeningReplacesOpenProjectsAndClearsTheFlag) {
     EXPECT_EQ(host.ide->ActiveVBProject()->Name(), "Other");
     EXPECT_FALSE(projects.gOpeningProject);
     EXPECT_NE(test::errorOf([&] { projects.OpenQuinloftProjectFromPath(path("Missing.vbp")); }), 0);
+    EXPECT_FALSE(projects.gOpeningProject);
+}
+
+TEST_F(ProjectList, TheFlagIsSetDuringEachOpening) {
+    std::vector<bool> seen;
+    const auto opening = host.ide->Events()->VBProjectsEvents()->ItemAdded.connect(
+        [&](const auto&) { seen.push_back(projects.gOpeningProject); });
+    test::SampleProject{"Fernwick Project"}.handheld().writeTo(host.folder, "Template/Projects");
+    projects.OpenNewQuinloftProject();
+    projects.OpenQuinloftProjectFromPath(test::SampleProject{"Other"}.writeTo(host.folder));
+    EXPECT_EQ(seen, (std::vector<bool>{true, true}));
     EXPECT_FALSE(projects.gOpeningProject);
 }
 
@@ -119,6 +138,13 @@ TEST_F(Templates, MissingFoldersAreReportedAndTheTestContinues) {
     user.expectBox(
         "Cannot determine the location of the Fernwick template directory. The path determined was invalid.");
     EXPECT_FALSE(projects.ProjectIsFromTemplate(hello));
+}
+
+TEST_F(Templates, WithoutAnInstallationAnUnsavedProjectIsNotFromItsTemplates) {
+    installAt("");
+    user.expectBox(
+        "Cannot determine the location of the Fernwick template directory. The path determined was invalid.");
+    EXPECT_FALSE(projects.ProjectIsFromTemplate(basic::make<test::TracedProject>(trace, "New", "")));
 }
 
 TEST_F(Templates, AHostWithoutATemplatePathIsReported) {

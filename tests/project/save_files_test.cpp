@@ -75,13 +75,13 @@ TEST_F(SaveFiles, ATemplateIsNotSavedButItsComponentsAre) {
     EXPECT_THAT(host.folder.read("Template/Projects/Base.vbp"), ::testing::Not(::testing::HasSubstr("AutoSave")));
 }
 
-TEST_F(SaveFiles, AReadOnlyTemplateGivesNoBox) {
+TEST_F(SaveFiles, AReadOnlyTemplateGivesTheSameBox) {
     const auto vbp = test::SampleProject{"Base"}.handheld().writeTo(host.folder, "Template/Projects");
     makeReadOnly("Template/Projects/Base.vbp");
+    user.expectBox("File '" + vbp + "' is read-only.", vbOK, vbExclamation, kReadOnlyTitle);
     const auto whileItLiesThere =
         host.ide->Events()->VBProjectsEvents()->ItemAdded.connect([&](auto added) { wrap(added)->SaveFiles(); });
     host.openFile(vbp);
-    EXPECT_TRUE(user.sawNothing());
 }
 
 TEST_F(SaveFiles, AFailedSaveLeavesTheDirtyMark) {
@@ -114,14 +114,44 @@ TEST_F(SaveFiles, FilesHaveBeenSavedWhenAllExist) {
     EXPECT_FALSE(project->FilesHaveBeenSaved());
 }
 
-TEST_F(SaveFiles, ADesignerWindowIsClosedForTheSaveAndReopened) {
-    const auto window = component("frmMain")->DesignerWindow();
-    window->Visible(true);
-    ASSERT_TRUE(component("frmMain")->HasOpenDesigner());
-    change("frmMain");
+namespace {
+/// Forms with designer windows, in a project in memory.
+struct SavedDesigners : SaveFiles {
+    SavedDesigners() {
+        vbProject->properties[{"Quinloft Global", "ProjectVersion"}] = "3.5";
+        project = wrap(vbProject);
+    }
+    basic::Ref<test::TracedComponent> form(const std::string& name, bool isOpen, bool isVisible) {
+        host.folder.write(name + ".frm", "");
+        const auto made = vbProject->add(name, path(name + ".frm"), vbide::vbext_ct_VBForm);
+        made->designerOpen = isOpen;
+        made->window = basic::make<test::TracedWindow>(trace);
+        made->window->caption = name;
+        made->window->visible = isVisible;
+        return made;
+    }
+    basic::Ref<test::TracedProject> vbProject = traced();
+};
+} // namespace
+
+TEST_F(SavedDesigners, AreClosedForTheSaveAndReopenedIfTheyWereVisible) {
+    for (const auto& made :
+         {form("frmShown", true, true), form("frmHidden", true, false), form("frmClosed", false, false)})
+        made->dirty = true;
+    std::filesystem::remove(path("Hello.vbp"));
     project->SaveFiles();
-    EXPECT_TRUE(isChangedOnDisk("frmMain.frm"));
-    EXPECT_TRUE(component("frmMain")->DesignerWindow()->Visible());
+    EXPECT_EQ(trace.effects,
+              (Texts{"frmShown closed", "frmShown saved " + path("frmShown.frm"), "frmShown dirty 0", "frmShown shown",
+                     "frmHidden closed", "frmHidden saved " + path("frmHidden.frm"), "frmHidden dirty 0",
+                     "frmClosed saved " + path("frmClosed.frm"), "frmClosed dirty 0"}));
+}
+
+TEST_F(SavedDesigners, AllAreClosedAndTheOpenOnesReopened) {
+    form("frmShown", true, true);
+    form("frmClosed", false, false);
+    project->CloseOpenDesignerWins();
+    project->ReopenDesignerWins();
+    EXPECT_EQ(trace.effects, (Texts{"frmShown closed", "frmClosed closed", "frmShown shown"}));
 }
 
 TEST_F(SaveFiles, DesignerWindowsCloseAndReopen) {

@@ -126,6 +126,23 @@ TEST_F(SaveProject, WithoutAFileSystemNothingIsSaved) {
     EXPECT_FALSE(save.AskForSaveProject(project));
 }
 
+TEST_F(SaveProject, CleanComponentsAreSavedToo) {
+    const auto vbProject = traced();
+    vbProject->add("modClean", path("modClean.bas"));
+    vbProject->dirty = true;
+    EXPECT_TRUE(save.AskForSaveProject(vbProject));
+    EXPECT_EQ(trace.effects, (Texts{"modClean saved " + path("modClean.bas"), "Hello saved " + path("Hello.vbp")}));
+}
+
+TEST_F(SaveProject, OnlySaveableKindsCountAsDirty) {
+    add(vbide::vbext_ct_UserControl);
+    project->IsDirty(false);
+    EXPECT_FALSE(save.ProjectIsDirty(project));
+    add(vbide::vbext_ct_StdModule);
+    project->IsDirty(false);
+    EXPECT_TRUE(save.ProjectIsDirty(project));
+}
+
 TEST_F(SaveProject, DirtyMeansTheProjectAComponentOrAMissingFile) {
     EXPECT_FALSE(save.ProjectIsDirty(project));
     change();

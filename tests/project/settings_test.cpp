@@ -44,6 +44,8 @@ TEST_F(StoredSettings, WrittenValuesAreStoredAsTextAndReadBack) {
     project->defaultFormHeight(-1);
     project->SpacesInNameEnabled(true);
     project->Autosave(true);
+    project->IconWarning(true);
+    project->SetLastSettingsDialog("My Devices");
     project->TwipsPerPixelX(12.5F);
     project->ScanReferences(true);
     project->OpenedFromQLTemplate(true);
@@ -54,6 +56,8 @@ TEST_F(StoredSettings, WrittenValuesAreStoredAsTextAndReadBack) {
     EXPECT_EQ(stored(project, "DefaultFormHeight"), "-1");
     EXPECT_EQ(stored(project, "SpacesInNameEnabled"), "True");
     EXPECT_EQ(stored(project, "AutoSaveProject"), "True");
+    EXPECT_EQ(stored(project, "IconWarning"), "True");
+    EXPECT_EQ(stored(project, "LastSettingsDialog"), "My Devices");
     EXPECT_EQ(stored(project, "TwipsPerPixelX"), "12.5");
     EXPECT_EQ(stored(project, "ScanReferences"), "-1");
     EXPECT_EQ(stored(project, "OpenedFromQLTemplate"), "True");

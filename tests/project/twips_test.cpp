@@ -1,4 +1,6 @@
+#include "Add-in/project/form_scaling.h"
 #include "project_world.h"
+#include "recorded_properties.h"
 
 using namespace fernwick;
 
@@ -50,9 +52,11 @@ TEST_F(Twips, YesScalesFormsAndControls) {
     openForm("TwipsPerPixelX=15\r\nTwipsPerPixelY=15\r\n");
     screen.x = screen.y = 12;
     form->Properties()->Item("Width")->Value(3600.0);
+    ASSERT_EQ(number("Left"), -60);
     user.expectBox(kQuestion, vbYes, kAsks);
     project->CheckTwipsMatch();
     EXPECT_EQ(number("Width"), 2880);
+    EXPECT_EQ(number("Left"), -48); // which by itself makes the position manual
     EXPECT_EQ(number("StartUpPosition"), 2);
     EXPECT_EQ(labelNumber("Width"), 240);
     EXPECT_EQ(labelNumber("Left"), 480);
@@ -60,6 +64,18 @@ TEST_F(Twips, YesScalesFormsAndControls) {
     EXPECT_EQ(labelNumber("Height"), 120);
     EXPECT_EQ(project->TwipsPerPixelX(), 12);
     EXPECT_TRUE(reports().empty());
+}
+
+TEST_F(Twips, MultipliesBeforeItDivides) {
+    const auto vbProject = traced();
+    const auto properties = basic::make<test::RecordedProperties>();
+    for (const auto* name : {"Left", "Top", "Width", "Height"}) properties->values[name] = 3000.0;
+    vbProject->add("frmMain", "", vbide::vbext_ct_VBForm)->properties = properties;
+    ScaleForms(vbProject, {12, 20}, {15, 15});
+    EXPECT_EQ(asDouble(properties->values["Left"]), 2400); // 12 / 15 is not a float
+    EXPECT_EQ(asDouble(properties->values["Width"]), 2400);
+    EXPECT_EQ(asDouble(properties->values["Top"]), 4000);
+    EXPECT_EQ(asDouble(properties->values["Height"]), 4000);
 }
 
 TEST_F(Twips, NoAsksAgainAtTheNextOpening) {

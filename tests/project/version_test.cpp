@@ -69,6 +69,19 @@ TEST_F(ProjectVersion, NothingIsWrittenWithoutAutoIncrement) {
     EXPECT_EQ(text(), "RevisionVer=9\nAutoIncrementVer=0\n");
 }
 
+TEST_F(ProjectVersion, TheFirstAutoIncrementLineCounts) {
+    EXPECT_FALSE(withFile("AutoIncrementVer=0\nAutoIncrementVer=1\n")->AutoIncrementVersion());
+    EXPECT_TRUE(withFile("AutoIncrementVer=1\nAutoIncrementVer=0\n")->AutoIncrementVersion());
+}
+
+TEST_F(ProjectVersion, WithoutACopyTheRevisionIsKeptSilently) {
+    const auto project = withFile("RevisionVer=9\r\nAutoIncrementVer=1\r\n");
+    host.folder.write("Hello.vbp.temp/file", ""); // prevents the copy
+    EXPECT_EQ(test::errorOf([&] { project->IncerementRevision(1); }), 0);
+    EXPECT_EQ(text(), "RevisionVer=9\r\nAutoIncrementVer=1\r\n");
+    EXPECT_TRUE(reports().empty() && user.sawNothing());
+}
+
 TEST_F(ProjectVersion, NoSuchLineMeansOff) { EXPECT_FALSE(withFile("Type=Exe\r\n")->AutoIncrementVersion()); }
 
 TEST_F(ProjectVersion, AnOverflowingRevisionIsKeptAndRaisesAnError) {

@@ -4,6 +4,12 @@
 #include <cmath>
 
 namespace host {
+namespace {
+
+constexpr const char* kStartUpPosition = "StartUpPosition";
+constexpr std::int32_t kManual = 0;
+
+} // namespace
 
 vbide::Variant FormProperties::value(const std::string& name) const {
     if (!FormGeometry::owns(name)) return BlockProperties::value(name);
@@ -14,8 +20,17 @@ vbide::Variant FormProperties::value(const std::string& name) const {
 void FormProperties::value(const std::string& name, const vbide::Variant& value) {
     if (!FormGeometry::owns(name)) return BlockProperties::value(name, value);
     const auto state = live();
+    FormGeometry geometry(*state);
+    const auto before = geometry.value(name);
     const bool whole = basic::equalNoCase(name, "ScaleMode");
-    FormGeometry(*state).value(name, whole ? fernwick::asLong(value) : fernwick::asDouble(value));
+    geometry.value(name, whole ? fernwick::asLong(value) : fernwick::asDouble(value));
+    const bool isPlace = basic::equalNoCase(name, "Left") || basic::equalNoCase(name, "Top");
+    if (isPlace && geometry.value(name) != before) placeManually();
+}
+
+/// A form that is placed by its position no longer starts at a position of its own choice.
+void FormProperties::placeManually() {
+    if (!spelling(kStartUpPosition).empty()) BlockProperties::value(kStartUpPosition, kManual);
 }
 
 bool FormProperties::isShown(std::string_view key) const { return !FormGeometry::isClientLine(key); }

@@ -4,7 +4,8 @@
 
 namespace host {
 
-/// As for any block, but position, size and scale are those of FormGeometry.
+/// As for any block, but position, size and scale are those of FormGeometry. Changing Left or Top makes StartUpPosition
+/// manual.
 class FormProperties : public BlockProperties {
 public:
     using BlockProperties::BlockProperties;
@@ -14,6 +15,9 @@ public:
 
 protected:
     bool isShown(std::string_view key) const override;
+
+private:
+    void placeManually();
 };
 
 } // namespace host
