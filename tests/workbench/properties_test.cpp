@@ -262,6 +262,17 @@ TEST_F(Properties, AFontIsChosenInItsDialog) {
     EXPECT_EQ(shown("Font"), "MS Sans Serif");
 }
 
+TEST_F(Properties, UndoingAPositionRestoresTheStartUpPosition) {
+    openForm("   StartUpPosition =   2  'CenterScreen\n" + kInspected);
+    const auto left = shown("Left");
+    type("Left", "600");
+    EXPECT_EQ(shown("StartUpPosition"), "0 - Manual");
+    menuItem("&Edit", "&Undo")->trigger();
+    settle();
+    EXPECT_EQ(shown("Left"), left);
+    EXPECT_EQ(shown("StartUpPosition"), "2 - CenterScreen");
+}
+
 TEST_F(Properties, OfAFormAreShownWithItsCodeToo) {
     openForm(kInspected);
     menuItem("&View", "&Code")->trigger();

@@ -13,17 +13,22 @@ constexpr std::size_t kMostSteps = 200;
 void DesignHistory::set(const vbide::Ref<vbide::VBComponent>& component, const vbide::Ref<vbide::Properties>& object,
                         const std::vector<DesignChange>& changes) {
     std::vector<Before> changed;
+    (void)basic::attempt([&] { // changes with a form's position, and is therefore restored after it
+        const auto start = object->Item("StartUpPosition");
+        changed.push_back({start, start->Value()});
+    });
     try {
         for (const auto& change : changes) {
             const auto property = object->Item(change.property);
             const auto before = property->Value();
             property->Value(change.value);
-            if (property->Value() != before) changed.push_back({property, before});
+            changed.push_back({property, before});
         }
     } catch (const basic::RuntimeError&) {
         putBack(changed);
         throw;
     }
+    std::erase_if(changed, [](const Before& one) { return one.property->Value() == one.value; });
     if (!changed.empty()) remember({component, [changed] { return putBack(changed); }});
 }
 
