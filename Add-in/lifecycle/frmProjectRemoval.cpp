@@ -98,12 +98,12 @@ bool frmProjectRemoval::openFile(Procedure& here, const std::string& path, bool 
     return here([&] { addIn_.gVBInstance->VBProjects()->AddFromFile(path, exclusive); });
 }
 
+/// The request is forgotten first, because the removal raises an event in which another may be made.
 void frmProjectRemoval::Timer2_Timer() {
     Procedure here{errors_, "frmProjectRemoval.Timer2_Timer"};
     const auto project = std::exchange(componentsProject_, nullptr);
     const auto component = std::exchange(componentToRemove_, nullptr);
-    here(
-        [&] { Timer2.Enabled(false); }); // first, because the removal raises an event in which another may be requested
+    here([&] { Timer2.Enabled(false); });
     if (project && component) here([&] { project->VBComponents()->Remove(component); });
 }
 

@@ -13,6 +13,7 @@ protected:
     void disconnect() {
         host.ide->Addins()->Item(kProgId)->Connect(false);
         trace.effects.clear();
+        loop.showsTurns = true; // a handler may have no other effect
     }
     static test::SampleProject oldFormat() {
         test::SampleProject old("Old");
@@ -44,6 +45,19 @@ TEST_F(Connections, ADisconnectedAddInHearsNothing) {
     host.ide->Events()->VBBuildEvents()->EnterDesignMode.raise();
     loop.turn();
     EXPECT_THAT(trace.effects, IsEmpty());
+}
+
+TEST_F(Connections, ADisconnectionReleasesEachKindOfSink) {
+    const auto project = connected();
+    addForm();
+    host.ide->ActiveVBProject(project);
+    disconnect();
+    const auto& c = addIn().connect;
+    EXPECT_FALSE(c.ProjEventsHandler || c.CompsEventsHandler || c.RefEventsHandler || c.FileControlHandler ||
+                 c.ControlsEventsHandler || c.BuildEventsHandler || c.GlobalFileControlHandler);
+    EXPECT_FALSE(c.CompileProjectHandler || c.AboutHandler || c.DownloadVMHandler || c.MenuWeirgateHandler ||
+                 c.SampleIntroHandler || c.ToolCompileProjectHandler || c.ToolWGConfigHandler);
+    EXPECT_FALSE(c.MakePackageDevice[0] || c.DeployDevice[0] || c.InstallVMDevice[0]);
 }
 
 TEST_F(Connections, ADisconnectionInsideAHandlerTakesEffectAtOnce) {
