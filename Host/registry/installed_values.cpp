@@ -53,8 +53,7 @@ void installFile(InstalledValues& into, const std::filesystem::path& file, const
 InstalledValues readInstalledValues(const std::filesystem::path& root) {
     InstalledValues values;
     for (const auto& file : installedRegFiles(root)) {
-        const auto err =
-            basic::attempt([&] { values.machine.atomically([&] { installFile(values, file, root.string()); }); });
+        const auto err = basic::attempt([&] { installFile(values, file, root.string()); });
         if (err.Number != 0) values.problems.push_back(err.Description);
     }
     return values;

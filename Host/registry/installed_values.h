@@ -1,6 +1,6 @@
 #pragma once
 // The registry values of an installation, from the .reg files of its registry folder.
-#include "Host/registry/registry_database.h"
+#include "Host/registry/registry_tree.h"
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -9,7 +9,7 @@ namespace host {
 
 /// The layer below a machine store, in memory.
 struct InstalledValues {
-    RegistryDatabase machine;
+    RegistryTree machine;
     /// Problems with files or instructions, "file:line: reason". They do not affect other instructions.
     std::vector<std::string> problems;
 };

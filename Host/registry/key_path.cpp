@@ -21,13 +21,18 @@ void requireRegName(std::string_view name, std::size_t longest) {
         throw RegFailure{RegStatus::InvalidParameter};
 }
 
+std::string joined(const std::vector<std::string>& names) {
+    std::string path;
+    for (const auto& name : names) path.append(path.empty() ? "" : "\\").append(name);
+    return path;
+}
+
 } // namespace
 
 void KeyPath::append(std::string_view name) {
     requireRegName(name, kLongestKeyName);
     if (names_.size() == kDeepestKey) throw RegFailure{RegStatus::InvalidParameter};
-    if (!folded_.empty()) folded_ += '\\';
-    folded_ += basic::foldCase(name);
+    foldedNames_.push_back(basic::foldCase(name));
     names_.emplace_back(name);
 }
 
@@ -48,11 +53,9 @@ KeyPath KeyPath::parent() const {
     return up;
 }
 
-std::string KeyPath::text() const {
-    std::string text;
-    for (const auto& name : names_) text.append(text.empty() ? "" : "\\").append(name);
-    return text;
-}
+std::string KeyPath::folded() const { return joined(foldedNames_); }
+
+std::string KeyPath::text() const { return joined(names_); }
 
 void requireValueName(std::string_view name) { requireRegName(name, kLongestValueName); }
 

@@ -17,8 +17,10 @@ public:
     KeyPath operator/(std::string_view subkey) const;
 
     const std::vector<std::string>& names() const { return names_; }
-    /// The identity of the key, equal for all spellings.
-    const std::string& folded() const { return folded_; }
+    /// The names in their folded case.
+    const std::vector<std::string>& foldedNames() const { return foldedNames_; }
+    /// The identity of the key, equal for all spellings: the folded names, joined with backslashes.
+    std::string folded() const;
     KeyPath parent() const;
     /// The names, joined with backslashes.
     std::string text() const;
@@ -27,7 +29,7 @@ private:
     void append(std::string_view name);
 
     std::vector<std::string> names_;
-    std::string folded_;
+    std::vector<std::string> foldedNames_;
 };
 
 /// Throws RegFailure InvalidParameter for a value's name that a registry file cannot hold: longer than 16383

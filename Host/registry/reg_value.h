@@ -22,4 +22,9 @@ struct RegValue {
     friend bool operator==(const RegValue&, const RegValue&) = default;
 };
 
+struct NamedRegValue {
+    std::string name; ///< as spelled when the value was first set
+    RegValue value;
+};
+
 } // namespace host

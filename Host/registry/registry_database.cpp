@@ -13,31 +13,29 @@ constexpr std::int64_t kRootId = 1;
 } // namespace
 
 void RegistryDatabase::open() {
-    auto store = openStoreFile(*file_);
+    auto store = openStoreFile(file_);
     immutable_ = store.immutable;
     connection_ = std::move(store.connection);
 }
 
 SqliteConnection* RegistryDatabase::forReading() {
     if (immutable_) connection_.reset(); // it never rereads its pages and would miss writes of other processes
-    if (!connection_ && file_ && ::access(file_->c_str(), F_OK) == 0) open();
+    if (!connection_ && ::access(file_.c_str(), F_OK) == 0) open();
     return connection_ ? &*connection_ : nullptr;
 }
 
 SqliteConnection& RegistryDatabase::forWriting() {
     if (!isWritable()) throw RegFailure{RegStatus::AccessDenied};
-    if (!connection_ && !file_) connection_ = makeMemoryStore();
     if (!connection_) {
-        makeStoreFile(*file_);
+        makeStoreFile(file_);
         open();
     }
     return *connection_;
 }
 
 bool RegistryDatabase::isWritable() {
-    if (!file_) return true;
-    if (!forReading()) return canMakeStoreIn(file_->parent_path());
-    return !immutable_ && !connection_->readOnly() && !isReadOnly(*file_) && !isReadOnly(file_->parent_path());
+    if (!forReading()) return canMakeStoreIn(file_.parent_path());
+    return !immutable_ && !connection_->readOnly() && !isReadOnly(file_) && !isReadOnly(file_.parent_path());
 }
 
 std::optional<std::int64_t> RegistryDatabase::idOf(SqliteConnection& db, const KeyPath& key) {

@@ -1,5 +1,5 @@
 #pragma once
-// A registry database: a file that several processes share, or keys in memory.
+// A registry database: a file that several processes share.
 #include "Host/registry/key_path.h"
 #include "Host/registry/reg_value.h"
 #include "Host/registry/sqlite.h"
@@ -12,17 +12,10 @@
 
 namespace host {
 
-struct NamedRegValue {
-    std::string name; ///< as spelled when the value was first set
-    RegValue value;
-};
-
 /// Keys with their values. Names are looked up ignoring case and keep their spelling. The file is opened at first use,
 /// and reading does not create it: a missing database has no keys but the root. Every failure is a RegFailure.
 class RegistryDatabase {
 public:
-    /// Keys in memory.
-    RegistryDatabase() = default;
     /// The database in `file`. New files get the access rights of their folder; new folders are private to their owner.
     explicit RegistryDatabase(std::filesystem::path file) : file_(std::move(file)) {}
 
@@ -53,7 +46,7 @@ private:
     std::optional<std::int64_t> idOf(SqliteConnection& db, const KeyPath& key);
     std::int64_t makeKey(SqliteConnection& db, const KeyPath& key);
 
-    std::optional<std::filesystem::path> file_;
+    std::filesystem::path file_;
     std::optional<SqliteConnection> connection_;
     bool immutable_ = false;
     bool inTransaction_ = false;

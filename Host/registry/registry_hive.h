@@ -1,6 +1,7 @@
 #pragma once
 // A store as its users see it: a database layered over the values of the installation.
 #include "Host/registry/registry_database.h"
+#include "Host/registry/registry_tree.h"
 #include <functional>
 
 namespace host {
@@ -10,7 +11,7 @@ namespace host {
 class RegistryHive {
 public:
     /// `below` returns the layer below, or null; it is called when needed.
-    RegistryHive(std::filesystem::path file, std::function<RegistryDatabase*()> below)
+    RegistryHive(std::filesystem::path file, std::function<RegistryTree*()> below)
         : own_(std::move(file)), below_(std::move(below)) {}
 
     bool hasKey(const KeyPath& key);
@@ -31,7 +32,7 @@ public:
 
 private:
     RegistryDatabase own_;
-    std::function<RegistryDatabase*()> below_;
+    std::function<RegistryTree*()> below_;
 };
 
 } // namespace host

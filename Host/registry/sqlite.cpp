@@ -31,7 +31,7 @@ void requireSqlite(int code) {
 }
 
 /// The path as an SQLite file: URI, which can have options.
-std::string sqliteAddress(const std::filesystem::path& file, std::string_view options) {
+std::string sqliteAddress(const std::filesystem::path& file, const char* options) {
     std::string address = "file:";
     for (const char c : file.native()) {
         if (c == '%' || c == '?' || c == '#')
@@ -53,7 +53,8 @@ int sqliteFlags(SqliteConnection::Mode mode) {
 
 } // namespace
 
-void SqliteConnection::Close::operator()(sqlite3* db) const { sqlite3_close(db); }
+// Closed when the last of its statements is finalized, in whatever order a move replaces them.
+void SqliteConnection::Close::operator()(sqlite3* db) const { sqlite3_close_v2(db); }
 
 SqliteConnection::SqliteConnection(const std::filesystem::path& file, Mode mode) {
     const auto address = sqliteAddress(file, mode == Mode::Immutable ? "?immutable=1" : "");
@@ -64,46 +65,43 @@ SqliteConnection::SqliteConnection(const std::filesystem::path& file, Mode mode)
     sqlite3_busy_timeout(db, kBusyTimeoutMs);
 }
 
-SqliteConnection::SqliteConnection() {
-    sqlite3* db = nullptr;
-    const int code = sqlite3_open(":memory:", &db);
-    db_.reset(db);
-    requireSqlite(code);
-}
-
 void SqliteConnection::run(const char* sql) { requireSqlite(sqlite3_exec(db_.get(), sql, nullptr, nullptr, nullptr)); }
 
 bool SqliteConnection::readOnly() const { return sqlite3_db_readonly(db_.get(), "main") != 0; }
 
-void SqliteStatement::Finalize::operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
+void SqliteConnection::Finalize::operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
 
-void SqliteStatement::prepare(SqliteConnection& on, std::string_view sql) {
+sqlite3_stmt* SqliteConnection::prepared(const char* sql) {
+    const auto known = statements_.find(sql);
+    if (known != statements_.end()) return known->second.get();
     sqlite3_stmt* statement = nullptr;
-    const int code = sqlite3_prepare_v2(on.handle(), sql.data(), static_cast<int>(sql.size()), &statement, nullptr);
-    statement_.reset(statement);
-    requireSqlite(code);
+    requireSqlite(sqlite3_prepare_v3(db_.get(), sql, -1, SQLITE_PREPARE_PERSISTENT, &statement, nullptr));
+    return statements_.emplace(sql, statement).first->second.get();
 }
 
-void SqliteStatement::bind(std::int64_t number) {
-    requireSqlite(sqlite3_bind_int64(statement_.get(), ++bound_, number));
+SqliteStatement::~SqliteStatement() {
+    sqlite3_reset(statement_);
+    sqlite3_clear_bindings(statement_);
 }
+
+void SqliteStatement::bind(std::int64_t number) { requireSqlite(sqlite3_bind_int64(statement_, ++bound_, number)); }
 
 void SqliteStatement::bind(const std::string& text) {
     // Blobs are compared bytewise and may contain NULs.
-    requireSqlite(sqlite3_bind_blob64(statement_.get(), ++bound_, text.data(), text.size(), SQLITE_TRANSIENT));
+    requireSqlite(sqlite3_bind_blob64(statement_, ++bound_, text.data(), text.size(), SQLITE_TRANSIENT));
 }
 
 bool SqliteStatement::step() {
-    const int code = sqlite3_step(statement_.get());
+    const int code = sqlite3_step(statement_);
     requireSqlite(code);
     return code == SQLITE_ROW;
 }
 
-std::int64_t SqliteStatement::integer(int column) const { return sqlite3_column_int64(statement_.get(), column); }
+std::int64_t SqliteStatement::integer(int column) const { return sqlite3_column_int64(statement_, column); }
 
 std::string SqliteStatement::bytes(int column) const {
-    const auto* data = static_cast<const char*>(sqlite3_column_blob(statement_.get(), column));
-    const auto size = static_cast<std::size_t>(sqlite3_column_bytes(statement_.get(), column));
+    const auto* data = static_cast<const char*>(sqlite3_column_blob(statement_, column));
+    const auto size = static_cast<std::size_t>(sqlite3_column_bytes(statement_, column));
     return data ? std::string(data, size) : std::string();
 }
 

@@ -93,10 +93,4 @@ StoreFile openStoreFile(const std::filesystem::path& file) {
     return store;
 }
 
-SqliteConnection makeMemoryStore() {
-    SqliteConnection memory;
-    memory.run(kSchema);
-    return memory;
-}
-
 } // namespace host

@@ -19,6 +19,4 @@ void makeStoreFile(const std::filesystem::path& file);
 /// Opens an existing store. RegFailure NotRegistryFile for another file or a later version.
 StoreFile openStoreFile(const std::filesystem::path& file);
 
-SqliteConnection makeMemoryStore();
-
 } // namespace host

@@ -2,7 +2,6 @@
 #include "Basic/guid.h"
 #include "Host/files/system_error.h"
 #include "Host/system/classes_key.h"
-#include "Host/system/type_description.h"
 
 namespace host {
 namespace {
@@ -54,7 +53,7 @@ basic::Ref<fernwick::TypeLibInfo> Classes::TypeLibInfoFromFile(const std::string
     const auto file = path.empty() ? "" : descriptionFileOf(path);
     if (file.empty()) return nullptr;
     TypeDescription described;
-    if (basic::attempt([&] { described = readTypeDescriptionHead(file); }).Number != 0) return nullptr;
+    if (basic::attempt([&] { described = heads_.of(file); }).Number != 0) return nullptr;
     return basic::make<fernwick::TypeLibInfo>(fernwick::TypeLibInfo{
         described.name, path, described.guid, described.majorVersion, described.minorVersion, described.help});
 }

@@ -3,6 +3,7 @@
 #include "Add-in/platform/classes.h"
 #include "Add-in/platform/registry.h"
 #include "Basic/case_folding.h"
+#include "Host/system/description_heads.h"
 #include <map>
 #include <utility>
 #include <vector>
@@ -30,6 +31,7 @@ private:
     std::string defaultValue(const std::string& key) const;
 
     fernwick::Registry& registry_;
+    mutable DescriptionHeads heads_;
     std::map<std::string, Registrations, basic::NoCaseLess> factories_;
 };
 

@@ -85,6 +85,20 @@ TEST_F(ClassLookup, TypeInformationIsNextToTheRegisteredLibrary) {
     EXPECT_EQ(info->ContainingFile, registered);
 }
 
+TEST_F(ClassLookup, ALibraryIsReadAgainOnlyWhenItsFileChanged) {
+    const auto file = folder.write("Lib.toml", kHead);
+    const auto registered = (folder / "Lib.dll").string();
+    const auto nameNow = [&] { return classes.TypeLibInfoFromFile(registered)->Name; };
+    const auto time = std::filesystem::last_write_time(file);
+    EXPECT_EQ(nameNow(), "Lib");
+    auto changed = kHead;
+    folder.write("Lib.toml", changed.replace(changed.find("Lib"), 3, "Bil"));
+    std::filesystem::last_write_time(file, time);
+    EXPECT_EQ(nameNow(), "Lib");
+    std::filesystem::last_write_time(file, time + std::chrono::seconds(1));
+    EXPECT_EQ(nameNow(), "Bil");
+}
+
 TEST_F(ClassLookup, AnUnreadableLibraryIsNothing) {
     folder.write("broken.toml", "name = ");
     EXPECT_FALSE(classes.TypeLibInfoFromFile((folder / "broken.dll").string()));

@@ -1,0 +1,65 @@
+#include "Host/registry/reg_status.h"
+#include "Host/registry/registry_tree.h"
+#include <gtest/gtest.h>
+
+using host::KeyPath;
+using host::RegistryTree;
+
+namespace {
+
+host::RegValue text(std::string data) { return {fernwick::REG_SZ, std::move(data)}; }
+
+std::vector<std::string> namesOf(const std::vector<host::NamedRegValue>& values) {
+    std::vector<std::string> names;
+    for (const auto& one : values) names.push_back(one.name);
+    return names;
+}
+
+host::RegStatus refusalOf(RegistryTree& tree, const KeyPath& key) {
+    try {
+        tree.deleteKey(key);
+    } catch (const host::RegFailure& failure) { return failure.status; }
+    return host::RegStatus::Success;
+}
+
+} // namespace
+
+TEST(RegistryTree, AKeyIsFoundInAnySpellingAndKeepsItsFirst) {
+    RegistryTree tree;
+    EXPECT_TRUE(tree.createKey(KeyPath() / "Software\\Stra\u00dfe"));
+    EXPECT_FALSE(tree.createKey(KeyPath() / "SOFTWARE\\stra\u00dfe"));
+    EXPECT_TRUE(tree.hasKey(KeyPath() / "software"));
+    EXPECT_FALSE(tree.hasKey(KeyPath() / "soft"));
+    EXPECT_EQ(tree.subkeys(KeyPath() / "SOFTWARE"), std::vector<std::string>{"Stra\u00dfe"});
+}
+
+TEST(RegistryTree, SubkeysAreSortedIgnoringCase) {
+    RegistryTree tree;
+    for (const auto* name : {"b", "C", "a\\x", "B-2"}) tree.createKey(KeyPath() / name);
+    EXPECT_EQ(tree.subkeys({}), (std::vector<std::string>{"a", "b", "B-2", "C"}));
+}
+
+TEST(RegistryTree, ValuesKeepTheOrderAndSpellingInWhichTheyWereFirstSet) {
+    RegistryTree tree;
+    const auto key = KeyPath() / "K";
+    for (const auto* name : {"z", "A", "m"}) tree.setValue(key, name, text("1"));
+    tree.setValue(key, "Z", text("2"));
+    EXPECT_EQ(namesOf(tree.values(key)), (std::vector<std::string>{"z", "A", "m"}));
+    EXPECT_EQ(tree.value(key, "Z"), text("2"));
+    EXPECT_TRUE(tree.deleteValue(key, "a"));
+    EXPECT_FALSE(tree.deleteValue(key, "a"));
+    tree.setValue(key, "a", text("3"));
+    EXPECT_EQ(namesOf(tree.values(key)), (std::vector<std::string>{"z", "m", "a"}));
+    EXPECT_EQ(tree.value(KeyPath() / "Q", "a"), std::nullopt);
+}
+
+TEST(RegistryTree, OnlyAKeyWithoutSubkeysIsDeleted) {
+    RegistryTree tree;
+    tree.setValue(KeyPath() / "a\\b", "v", text("1"));
+    EXPECT_EQ(refusalOf(tree, {}), host::RegStatus::AccessDenied);
+    EXPECT_EQ(refusalOf(tree, KeyPath() / "a"), host::RegStatus::AccessDenied);
+    EXPECT_TRUE(tree.deleteKey(KeyPath() / "A\\B"));
+    EXPECT_FALSE(tree.deleteKey(KeyPath() / "A\\B"));
+    EXPECT_TRUE(tree.deleteKey(KeyPath() / "a"));
+    EXPECT_TRUE(tree.subkeys({}).empty());
+}
