@@ -59,8 +59,8 @@ int Shell::Start(const std::string& commandLine) {
     }
     const auto folder = files_.GetAbsolutePathName("");
     const auto program = findProgram(commandLine, folder, true);
-    if (!program) return 0;
-    const auto id = startProgram(*program, folder);
+    if (!program && !files_.FileExists(files_.Canonical(commandLine))) return 0;
+    const auto id = program ? startProgram(*program, folder) : 0;
     if (id == 0) throw hostError(basic::kFileNotFound, commandLine + ": cannot be started");
     children_.push_back({id, {}});
     return int(id);

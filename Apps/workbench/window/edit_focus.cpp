@@ -30,9 +30,10 @@ EditFocus::EditFocus(CodeWindows& code, DesignDesk& design)
     connect(&code, &QTabWidget::currentChanged, this, [this] { changed(); });
 }
 
-/// A menu, and another program's window, leave the focus where it was.
+/// A menu, a dialog and another program's window leave the focus where it was.
 void EditFocus::follow(QWidget* now) {
     if (dynamic_cast<QMenuBar*>(now) || (!now && !QApplication::activeWindow())) return;
+    if (now && now->window()->isModal()) return;
     focus_ = now;
     changed();
 }
@@ -45,7 +46,7 @@ bool EditFocus::isInEditor() const {
 bool EditFocus::isOnForm() const {
     const auto* const form = design_.forms().current();
     const auto isWithin = [this](const QWidget& part) { return &part == focus_ || part.isAncestorOf(focus_); };
-    return form && focus_ && (isWithin(*form) || isWithin(design_.properties()) || isWithin(design_.toolbox()));
+    return form && (!focus_ || isWithin(*form) || isWithin(design_.properties()) || isWithin(design_.toolbox()));
 }
 
 bool EditFocus::allows(Enabled where) const {
