@@ -1,7 +1,8 @@
 #include "Apps/fernwick/output/token_ends.h"
 #include "Basic/runtime_error.h"
 #include "Basic/utf8.h"
-#include "Host/files/encoding.h"
+#include "Host/files/byte_order_mark.h"
+#include "Host/files/project_code_page.h"
 #include "Host/files/text_file.h"
 
 namespace cli {
@@ -25,7 +26,7 @@ const TokenEnds::Lines& TokenEnds::linesOf(const std::string& path) {
     if (!isNew) return file->second;
     host::FileContent content;
     if (basic::attempt([&] { content = host::readFile(path); }).Number != 0) return file->second;
-    const auto page = host::codePageOf(content.bytes, basic::CodePage::windows1252());
+    const auto page = host::codePageOfSource(content.bytes).page;
     for (const auto& line : host::splitLines(host::withoutByteOrderMark(content.bytes)))
         file->second.push_back(charactersOf(page.decode(line.text)));
     return file->second;

@@ -24,7 +24,7 @@ namespace {
 
 /// The names of the locks that the parents of this process hold.
 constexpr const char* kInherited = "FERNWICK_LOCKS";
-constexpr auto kMoment = std::chrono::milliseconds(50);
+constexpr auto kRetryInterval = std::chrono::milliseconds(50);
 
 std::string variable(const char* name) {
     const char* value = std::getenv(name);
@@ -77,7 +77,7 @@ ProjectLock::ProjectLock(const std::string& project, bool wait, Console& console
         if (!wait) throw Refusal(kProjectErrors, fmt::format("{}: another fernwick is working on it", project));
         if (!noted) console.note(fmt::format("fernwick: waiting for another fernwick that works on {}", project));
         noted = true;
-        std::this_thread::sleep_for(kMoment);
+        std::this_thread::sleep_for(kRetryInterval);
         checkInterrupt();
     }
     if (descriptor_ >= 0) inherit(name);

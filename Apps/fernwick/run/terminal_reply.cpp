@@ -11,7 +11,7 @@ namespace cli {
 namespace {
 
 /// Milliseconds after which Ctrl+C is noticed; it does not end a read.
-constexpr int kMoment = 100;
+constexpr int kPollMilliseconds = 100;
 
 std::string trimmed(std::string_view text) {
     const auto begin = text.find_first_not_of(" \t\r");
@@ -46,7 +46,7 @@ std::optional<std::string> readTerminalLine(Console& console, const std::string&
     std::string line;
     for (;;) {
         pollfd input{STDIN_FILENO, POLLIN, 0};
-        const int ready = ::poll(&input, 1, kMoment);
+        const int ready = ::poll(&input, 1, kPollMilliseconds);
         checkInterrupt();
         if (ready <= 0) continue;
         char c = 0;
