@@ -1,5 +1,5 @@
 // Every byte string is preserved by every code page, also by the detected one, and encoding fails only with error 5.
-#include "Basic/code_page_detection.h"
+#include "Basic/detection/code_page_detection.h"
 #include "Basic/runtime_error.h"
 #include <array>
 #include <cstdint>

@@ -1,6 +1,6 @@
 // Set-up of the project for a device: settings, toolbox, references and forms.
-#include "Add-in/project/clsQLProject.h"
 #include "Add-in/core/core_texts.h"
+#include "Add-in/project/clsQLProject.h"
 #include "Add-in/project/form_fitting.h"
 #include "Add-in/project/form_scaling.h"
 #include "Add-in/project/stored/project_texts.h"

@@ -1,6 +1,6 @@
 #pragma once
 // The code page of a project on disk.
-#include "Basic/code_page_detection.h"
+#include "Basic/detection/code_page_detection.h"
 #include <optional>
 #include <string>
 #include <string_view>

@@ -2,7 +2,7 @@
 // A project: the text of its file, with its components, its references and the values of add-ins.
 #include "Add-in/platform/host_events.h"
 #include "Add-in/platform/host_project.h"
-#include "Basic/code_page_detection.h"
+#include "Basic/detection/code_page_detection.h"
 #include "Host/files/path_lookup.h"
 #include "Host/files/project_file.h"
 #include "Host/model/code/dirty_mark.h"

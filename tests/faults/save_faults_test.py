@@ -141,7 +141,7 @@ class ReadOnly(unittest.TestCase):
             project.vbp.chmod(stat.S_IRUSR | stat.S_IRGRP | stat.S_IROTH)
             result = project.run(SET)
             self.assertNotEqual(result.returncode, 0)
-            self.assertIn("is read-only.", result.stderr)
+            self.assertIn("is read-only", result.stderr)
             self.assertEqual(project.files(), project.old)
         finally:
             project.remove()

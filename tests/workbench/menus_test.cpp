@@ -197,7 +197,7 @@ TEST_F(DesktopMenus, ViewListsWindowsThenToolbarsThenTheLook) {
     EXPECT_THAT(texts(*top("&View")),
                 ElementsAre("&Code", "O&bject", "&Definition", "Last Positio&n", "&Project Explorer",
                             "Properties &Window", "Toolbo&x", "Fernwick &Messages", "&Toolbars", "Zoom &In",
-                            "Zoom O&ut", "&Reset Zoom", "&Light or Dark"));
+                            "Zoom O&ut", "&Reset Zoom", "Dar&k Theme"));
 }
 
 TEST_F(DesktopMenus, ALetterOfTwoMenusOpensTheFirstAndThenTheSecond) {

@@ -1,6 +1,6 @@
 #pragma once
 #include "Apps/fernwick/output/console.h"
-#include "Basic/code_page_detection.h"
+#include "Basic/detection/code_page_detection.h"
 #include <string>
 
 namespace cli {

@@ -189,7 +189,7 @@ int exportKey(const Options& options, Console& console) {
     auto store = openStore();
     const auto found = host::exportRegistry(store, options.operands[0]);
     if (!options.utf16 || options.format != Format::Text) return printValues(options, console, found, true);
-    console.out(host::writeRegText(found, host::RegTextEncoding::Utf16));
+    console.data(host::writeRegText(found, host::RegTextEncoding::Utf16));
     return kGood;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 // The source files for `check`.
-#include "Basic/code_page_detection.h"
+#include "Basic/detection/code_page_detection.h"
 #include "Components/QLToolkit/parser/conditional_constants.h"
 #include <optional>
 #include <string>

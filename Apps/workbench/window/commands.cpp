@@ -162,8 +162,7 @@ DockCommand dockCommandOf(const QString& dock) {
 CommandLook commandLookOf(int id) {
     for (const auto& menu : kCommandMenus)
         for (const auto& command : menu.commands)
-            if (command.id == id)
-                return {sequenceOf(command.key), sequenceOf(command.otherKey), iconOfCommand(id)};
+            if (command.id == id) return {sequenceOf(command.key), sequenceOf(command.otherKey), iconOfCommand(id)};
     for (const auto& command : kDockCommands)
         if (command.id == id) return {sequenceOf(command.key), {}, iconOfCommand(id)};
     return {};

@@ -40,7 +40,8 @@ NoticeBar::Offer TransferNotice::showFolder(const QString& folder) {
 }
 
 NoticeBar::Offer TransferNotice::installRuntime(const std::string& device) {
-    return {kInstallTamarik, [this, device] { run_([&] { addIns_.current().sendRuntime.SendRuntimeToDevice(device); }); }};
+    return {kInstallTamarik,
+            [this, device] { run_([&] { addIns_.current().sendRuntime.SendRuntimeToDevice(device); }); }};
 }
 
 QString TransferNotice::nameOf(const std::string& device) {

@@ -54,8 +54,8 @@ void Workbench::buildWindow() {
 }
 
 void Workbench::watchForms() {
-    transfers_ =
-        std::make_unique<TransferNotice>(machine_, connections_, window_->notice(), [this](const auto& act) { run(act); });
+    transfers_ = std::make_unique<TransferNotice>(machine_, connections_, window_->notice(),
+                                                  [this](const auto& act) { run(act); });
     user_.closed = [this](const fernwick::Form& form) {
         window_->docks().drawMessagesSoon();
         transfers_->formClosed(form);

@@ -1,5 +1,5 @@
 #include "Components/QLToolkit/source/source_text.h"
-#include "Basic/code_page_detection.h"
+#include "Basic/detection/code_page_detection.h"
 #include "Components/QLToolkit/source/encoding.h"
 #include <algorithm>
 #include <array>

@@ -1,5 +1,5 @@
 #include "Host/model/code/loaded_source.h"
-#include "Basic/code_page_detection.h"
+#include "Basic/detection/code_page_detection.h"
 #include "Host/model/code/component_kind.h"
 #include "Host/model/errors/host_errors.h"
 #include <algorithm>

@@ -1,4 +1,4 @@
-#include "Basic/code_page_detection.h"
+#include "Basic/detection/code_page_detection.h"
 #include "Basic/utf8.h"
 #include <algorithm>
 #include <charconv>
