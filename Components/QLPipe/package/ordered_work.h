@@ -33,7 +33,10 @@ public:
     OrderedWork(const OrderedWork&) = delete;
     OrderedWork& operator=(const OrderedWork&) = delete;
     ~OrderedWork() {
-        stop_.request_stop();
+        {
+            const std::lock_guard lock{mutex_}; // a thread about to wait would miss the stop
+            stop_.request_stop();
+        }
         changed_.notify_all();
         for (auto& thread : threads_) thread.join();
     }
