@@ -65,7 +65,8 @@ int runClean(const Options& options, Console& console) {
         try {
             cleanProject(project, options, console, json["deleted"]);
         } catch (const basic::RuntimeError& error) {
-            throw Refusal(statusOfOpening(error.Number), withFile(project, error.Description));
+            throw Refusal(statusOfNamedFile(project, error.Number),
+                          withFile(host::absolutePath(project), error.Description));
         }
     }
     if (options.format == Format::Json) console.out(dumpJson(json));

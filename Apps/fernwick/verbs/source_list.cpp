@@ -77,7 +77,7 @@ private:
         std::sort(sources.begin(), sources.end());
         for (const auto& path : projects) noteProblem(path, false, [&] { addProject(path); });
         for (const auto& path : sources) addSource({path, {}, given_, false});
-        if (projects.empty() && sources.empty()) addProblem(folder + ": contains no sources", kProjectErrors);
+        if (projects.empty() && sources.empty()) addProblem(folder + ": contains no sources", kWrongUse);
     }
 
     static bool isSource(const std::string& path) {
