@@ -102,6 +102,15 @@ class Schemas(unittest.TestCase):
         self.assertFalse(found["usable"])
         self.assertIn("cure", next(f for f in found["findings"] if f["subject"] == "device LinuxHandheld-ARM"))
 
+    def test_groups_and_clean(self):
+        group = self.project.parent / "All.vbg"
+        group.write_bytes(b"VBGROUP 5.0\r\nStartupProject=HelloWorld.vbp\r\n")
+        built = self.fits("report", "build", str(group))["projects"]
+        self.assertEqual([member["exitStatus"] for member in built], [0])
+        image = str(self.project.parent / "HelloWorld.0000.qlx")
+        self.assertEqual(self.fits("clean", "clean", "--dry-run", str(group))["deleted"], [image])
+        self.assertEqual(self.fits("clean", "clean", str(self.project))["deleted"], [image])
+
     def test_dependencies(self):
         self.fits("dependencies", "dependencies", str(self.project))
         (self.project.parent / "prices.pdb").write_text("12345")
@@ -204,7 +213,7 @@ class Schemas(unittest.TestCase):
     def test_every_schema_is_tested(self):
         # package-1 is the manifest, see test_packages
         self.assertEqual(sorted(p.stem for p in (ROOT / "installation/schemas").glob("*.json")),
-                         ["build-plan-1", "dependencies-1", "devices-1", "doctor-1", "explain-1", "info-1", "package-1",
+                         ["build-plan-1", "clean-1", "dependencies-1", "devices-1", "doctor-1", "explain-1", "info-1", "package-1",
                           "package-listing-1", "registry-1", "report-1", "settings-1", "settings-changes-1",
                           "targets-1", "version-1"])
 

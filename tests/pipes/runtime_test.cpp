@@ -56,6 +56,17 @@ TEST_F(Runtime, ReplacesAnOlderRuntime) {
 
 TEST_F(Runtime, IsReportedIfMissingInTheInstallation) { fails(qlpipe::kRuntimeNotShipped, "PocketPC"); }
 
+TEST_F(Runtime, IsNotLookedForInTheCurrentFolderWithoutAnInstallation) {
+    write("PocketPC/planted", "program");
+    list("version = \"1.0\"\nfiles = [\"planted\"]\ncommon = []\n");
+    const auto before = std::filesystem::current_path();
+    std::filesystem::current_path(installation.path());
+    test::PipeWorld nothingInstalled{""};
+    nothingInstalled.pipe()->SendRuntime("PocketPC-ARM");
+    std::filesystem::current_path(before);
+    EXPECT_THAT(nothingInstalled.sink.errorNumbers(), ElementsAre(qlpipe::kRuntimeNotShipped));
+}
+
 TEST_F(Runtime, IsRefusedWithADamagedList) {
     for (const char* text : {"version = ", "files = []\ncommon = []\n", "version = \"1\"\ncommon = []\n",
                              "version = \"1\"\nfiles = \"x\"\ncommon = []\n"}) {

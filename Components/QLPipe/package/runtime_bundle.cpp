@@ -53,7 +53,9 @@ void sortFiles(Bundle& bundle, const fs::path& list) {
 Bundle runtimeBundle(const std::string& installation, const std::string& family) {
     const fs::path root = fs::path(installation) / "VB Toolkit" / "Runtime", list = root / family / "runtime.toml";
     std::error_code ignored;
-    if (!fs::is_regular_file(list, ignored)) throw transferError(kRuntimeNotShipped, {{"family", family}});
+    // without an installation the path would be relative to the current folder
+    if (installation.empty() || !fs::is_regular_file(list, ignored))
+        throw transferError(kRuntimeNotShipped, {{"family", family}});
     Bundle bundle;
     bundle.isRuntime = true;
     try {
