@@ -8,6 +8,12 @@
 
 namespace test {
 
+#ifdef __SANITIZE_ADDRESS__
+inline constexpr bool kHasSanitizer = true;
+#else
+inline constexpr bool kHasSanitizer = false;
+#endif
+
 class OtherProcess {
 public:
     /// `work` returns the exit status.

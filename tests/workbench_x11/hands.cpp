@@ -63,6 +63,14 @@ void xdotool(const QStringList& arguments) {
     ASSERT_EQ(process.exitCode(), 0);
 }
 
+void findWindow(const QString& name, const QStringList& action) {
+    constexpr int kMostTries = 3; // a search fails when another window closes meanwhile
+    const auto arguments = QStringList{"search", "--sync", "--onlyvisible", "--name", name} + action;
+    int status = 1;
+    for (int tries = 0; status != 0 && tries < kMostTries; ++tries) status = QProcess::execute("xdotool", arguments);
+    ASSERT_EQ(status, 0) << name.toStdString();
+}
+
 void press(const QStringList& keys) { xdotool(QStringList{"key", "--delay", "5"} + keys); }
 
 void type(const QString& text) { xdotool({"type", "--delay", "5", text}); }

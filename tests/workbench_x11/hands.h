@@ -35,6 +35,9 @@ void eventually(const std::string& expected, const std::function<bool()>& isSo);
 /// Runs the program that sends events, with these arguments.
 void xdotool(const QStringList& arguments);
 
+/// Waits for a window whose title matches the regular expression, then has xdotool carry out the action on it.
+void findWindow(const QString& name, const QStringList& action = {});
+
 /// Presses keys with these X names, such as "ctrl+s"; types a text.
 void press(const QStringList& keys);
 void type(const QString& text);

@@ -116,9 +116,9 @@ TEST(Program, OpensTheGivenProjectAndEndsWithItsWindow) {
     program.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     program.start(FERNWICK_WORKBENCH_PROGRAM, {FERNWICK_SOURCE_DIR "/samples/HelloWorld/HelloWorld.vbp"});
     // the introduction of the first start comes before the project
-    xdotool({"search", "--sync", "--onlyvisible", "--name", "^Introduction to Fernwick", "windowactivate", "--sync"});
+    findWindow("^Introduction to Fernwick", {"windowactivate", "--sync"});
     press({"alt+F4"});
-    xdotool({"search", "--sync", "--onlyvisible", "--name", "^HelloWorld - Fernwick Workbench$"});
+    findWindow("^HelloWorld - Fernwick Workbench$");
     // first the dialogs in front of the window
     constexpr int kMostDialogs = 20, kBetween = 300;
     for (int closed = 0; closed < kMostDialogs && !program.waitForFinished(kBetween); ++closed) press({"alt+F4"});
