@@ -12,7 +12,7 @@ void require(bool holds) {
     if (!holds) std::abort();
 }
 
-/// Corrects length and checksum, behind which the rest would hardly be reached.
+/// Corrects length and checksum; otherwise the rest would hardly be reached.
 std::string withHeader(std::string bytes) {
     if (bytes.size() < image::kHeaderSize) return bytes;
     image::Writer header;

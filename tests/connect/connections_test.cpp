@@ -1,4 +1,4 @@
-// Each connection has an add-in of its own, and a disconnected add-in hears nothing.
+// Each connection has its own add-in, and a disconnected add-in receives no events.
 #include "whole_world.h"
 
 using testing::Contains;

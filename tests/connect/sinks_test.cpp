@@ -65,7 +65,7 @@ TEST_F(Sinks, EachHasItsOwnItem) {
     targets.known = {"Palm-1", "Pocket-1"};
     connect();
     auto& c = *connection;
-    items.gDownloadItem->Caption("download"); // to tell it from no item
+    items.gDownloadItem->Caption("download"); // to distinguish it from no item
     const std::vector<std::pair<fernwick::Command*, fernwick::CommandItems::Item>> pairs{
         {&c.QuinloftSettingsHandler, items.gSettingsItem},
         {&c.CompileProjectHandler, items.gCompileItem},

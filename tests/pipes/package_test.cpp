@@ -165,7 +165,7 @@ TEST_F(MakePackage, RefusesMoreFilesThanAManifestCanList) {
     EXPECT_FALSE(world.isOnDevice(".incoming"));
 }
 
-/// A changed bit behind the end of a compressed stream changes nothing; any other change before the directory is found.
+/// A changed bit after the end of a compressed stream changes nothing; any other change before the directory is found.
 TEST_F(MakePackage, IsRefusedIfAnyOtherByteBeforeItsDirectoryChanged) {
     project.image().add("a.txt", "aaaaaaaaaaaaaaaaaaaa");
     const auto path = make();

@@ -46,7 +46,7 @@ public:
         if (is) ++at_;
         return is;
     }
-    /// Moves behind the next comma outside of parentheses. False at their end and at that of the statement.
+    /// Moves past the next comma outside of parentheses. False at their end and at that of the statement.
     bool skipToComma() {
         for (int depth = 0; at_ < all_.size();) {
             const auto& token = all_[at_];

@@ -28,7 +28,7 @@ std::shared_ptr<host::Component> ownerOf(host::Project& project, const host::Jou
     return nullptr;
 }
 
-/// No handler hears of an added component: the add-in would replace a "Form1" by its template.
+/// No handler is notified of the added component: the add-in would replace a "Form1" by its template.
 void putBack(host::Project& project, const host::JournalEntry& entry) {
     if (isOfProject(entry)) return;
     if (const auto component = ownerOf(project, entry))

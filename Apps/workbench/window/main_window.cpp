@@ -102,7 +102,7 @@ void MainWindow::watchFocus() {
 
 void MainWindow::activateProjectInFront() {
     auto* const focus = QApplication::focusWidget();
-    if (!focus || !code_->isAncestorOf(focus)) return; // a run goes on, or the user is elsewhere
+    if (!focus || !code_->isAncestorOf(focus)) return; // a run is in progress, or the user is elsewhere
     const auto* const form = design_->forms().current();
     const auto* const editor = code_->current();
     const auto component = form ? form->component() : editor ? editor->component() : nullptr;

@@ -6,7 +6,7 @@
 
 namespace workbench {
 
-/// Tells where a project, a package or the runtime went, once the form that sent it has closed.
+/// Shows where a project, a package or the runtime went, once the form that sent it has closed.
 class TransferNotice {
 public:
     /// All of them outlive this.

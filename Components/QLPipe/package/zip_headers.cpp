@@ -10,7 +10,7 @@ constexpr std::size_t kLocalBytes = 30, kCentralBytes = 46, kCommonBytes = 24;
 /// Where the fields begin that both headers have, from the required version to the length of the name.
 constexpr std::size_t kLocalCommon = 4, kCentralCommon = 6;
 constexpr std::size_t kPackedSize = 14, kNameLength = 22, kExtraLength = 24, kCommentLength = 26, kOffset = 42;
-/// Stands for a number in an extra field.
+/// Marks a number that an extra field holds.
 constexpr std::uint32_t kElsewhere = 0xFFFFFFFF;
 
 std::uint32_t number(std::string_view bytes, std::size_t at, std::size_t length) {
