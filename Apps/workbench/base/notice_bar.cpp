@@ -40,7 +40,7 @@ NoticeBar::NoticeBar() : text_(new QLabel), offers_(new QHBoxLayout) {
     hide();
 }
 
-void NoticeBar::tell(const QString& text, const std::vector<Offer>& offers) {
+void NoticeBar::showText(const QString& text, const std::vector<Offer>& offers) {
     while (auto* const old = offers_->takeAt(0)) {
         old->widget()->deleteLater();
         delete old;

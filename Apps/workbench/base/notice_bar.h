@@ -21,7 +21,7 @@ public:
     NoticeBar();
 
     /// Replaces the previous message. One without offers disappears after a while.
-    void tell(const QString& text, const std::vector<Offer>& offers = {});
+    void showText(const QString& text, const std::vector<Offer>& offers = {});
 
 private:
     QLabel* text_;

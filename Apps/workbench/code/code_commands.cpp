@@ -34,7 +34,7 @@ void CodeCommands::showDefinition() {
     const auto name = nameAt(editor->lineText(from.line), from.column);
     const auto place = definitionOf(name, from);
     if (!place) {
-        if (!name.name.isEmpty()) notice_.tell(QString(code_texts::kNotDeclared).arg(name.name));
+        if (!name.name.isEmpty()) notice_.showText(QString(code_texts::kNotDeclared).arg(name.name));
         return;
     }
     from.length = 0;

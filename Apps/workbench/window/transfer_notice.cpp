@@ -21,18 +21,18 @@ void TransferNotice::formClosed(const fernwick::Form& form) {
     if (!isRuntime && !isProject) return;
     const auto record = std::exchange(machine_.transfers(), {});
     if (!record.succeeded) return;
-    if (isRuntime) return bar_.tell(QString(kRuntimeSent).arg(nameOf(record.device)));
+    if (isRuntime) return bar_.showText(QString(kRuntimeSent).arg(nameOf(record.device)));
     sent(record);
 }
 
 void TransferNotice::sent(const qlpipe::TransferRecord& record) {
     if (!record.package.empty())
-        return bar_.tell(QString(kPackaged).arg(qt(record.package)),
-                         {showFolder(QFileInfo(qt(record.package)).path())});
+        return bar_.showText(QString(kPackaged).arg(qt(record.package)),
+                             {showFolder(QFileInfo(qt(record.package)).path())});
     std::vector<NoticeBar::Offer> offers;
     if (record.lacksRuntime) offers.push_back(installRuntime(record.device));
     if (QFileInfo(qt(record.location)).isDir()) offers.push_back(showFolder(qt(record.location)));
-    bar_.tell(QString(record.lacksRuntime ? kLacksRuntime : kSent).arg(nameOf(record.device)), offers);
+    bar_.showText(QString(record.lacksRuntime ? kLacksRuntime : kSent).arg(nameOf(record.device)), offers);
 }
 
 NoticeBar::Offer TransferNotice::showFolder(const QString& folder) {
