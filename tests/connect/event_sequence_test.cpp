@@ -51,6 +51,9 @@ protected:
         for (const auto& component : active()->VBComponents()->items()) names.push_back(component->Name());
         return names;
     }
+    std::string bytesOf(const std::string& path) const {
+        return host.folder.read(path.substr(host.folder.path().size() + 1));
+    }
     static test::SampleProject named(const std::string& name) {
         test::SampleProject sample(name);
         return sample.module("Module9").handheld("Palm-1");
@@ -241,12 +244,51 @@ TEST_F(EventSequence, DoesNotWriteAnOldProject) {
     EXPECT_EQ(host.folder.read("Old.vbp"), before);
 }
 
-TEST_F(EventSequence, AProjectOfAnUnknownDeviceStays) {
+TEST_F(EventSequence, AProjectOfAnUnknownDeviceStaysIfTheUserOpensItAnyway) {
+    user.whenShown["frmDesignTargetConverterWarning"] = [](auto& form) { test::press(form, "cmdOpenProject"); };
     host.open(hello("Gone-9"));
-    EXPECT_THAT(boxes(), ElementsAre(box(64, "This command is not in this build of Fernwick.")));
+    EXPECT_THAT(boxes(), IsEmpty());
     loop.turn();
     EXPECT_EQ(host.ide->VBProjects()->Count(), 1);
     EXPECT_FALSE(items().gCompileItem->Enabled());
+}
+
+TEST_F(EventSequence, ACopyForAnAvailableDeviceTakesThePlaceOfAProject) {
+    const auto path = host.folder / "new/deep/Copy.vbp";
+    user.savedAs = {path};
+    user.whenShown["frmDesignTargetConverterWarning"] = [](auto& form) { test::press(form, "cmdRunConverter"); };
+    user.whenShown["frmDesignTargetConverter"] = [this](auto& form) {
+        addIn().converter.lstDesignTargets.ListIndex(0);
+        test::press(form, "btnOK");
+    };
+    const auto original = hello("Gone-9").writeTo(host.folder);
+    const auto before = bytesOf(original);
+    host.ide->VBProjects()->AddFromFile(original, false);
+    loop.turn();
+    EXPECT_THAT(boxes(), IsEmpty());
+    ASSERT_EQ(host.ide->VBProjects()->Count(), 1);
+    EXPECT_EQ(active()->FileName(), path);
+    EXPECT_EQ(stored(active(), "TargetDevice"), "Palm-1");
+    EXPECT_TRUE(items().gCompileItem->Enabled());
+    EXPECT_EQ(bytesOf(original), before);
+    EXPECT_FALSE(std::filesystem::exists(path + ".converting"));
+}
+
+TEST_F(EventSequence, AProjectIsConvertedInPlaceAndItsOldFileIsKept) {
+    user.whenShown["frmDesignTargetConverterWarning"] = [](auto& form) { test::press(form, "cmdRunConverter"); };
+    user.whenShown["frmDesignTargetConverter"] = [this](auto& form) {
+        addIn().converter.lstDesignTargets.ListIndex(0);
+        addIn().converter.chkOverwrite.Value(1);
+        test::press(form, "btnOK");
+    };
+    const auto path = hello("Gone-9").writeTo(host.folder);
+    const auto before = bytesOf(path);
+    host.ide->VBProjects()->AddFromFile(path, false);
+    EXPECT_THAT(boxes(), IsEmpty());
+    EXPECT_EQ(active()->FileName(), path);
+    EXPECT_EQ(bytesOf(path + ".bak"), before);
+    EXPECT_THAT(bytesOf(path), HasSubstr("TargetDevice=Palm-1\r\n"));
+    EXPECT_TRUE(items().gCompileItem->Enabled());
 }
 
 TEST_F(EventSequence, FollowsARenamedProject) {

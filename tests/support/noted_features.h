@@ -15,7 +15,6 @@ public:
 
     /// What the user does in the settings, and while the project manager is open.
     std::function<void()> inSettings = [] {}, inProjectManager = [] {};
-    fernwick::UnknownDeviceChoice unknownDevice;
 
     /// The arguments of the last call that opened the settings.
     Project settingsOf;
@@ -37,10 +36,6 @@ public:
     }
     void ShowProjectManagerOnDelay() override { trace_.effect("project manager on delay"); }
     void AddProjectToRecentList(const Project& project) override { trace_.effect("recent " + project->Name()); }
-    fernwick::UnknownDeviceChoice AskAboutUnknownDevice(const Project& project) override {
-        trace_.effect("unknown device of " + project->Name());
-        return unknownDevice;
-    }
     void notInThisBuild() override { trace_.effect("not in this build"); }
 
 private:

@@ -20,8 +20,8 @@ public:
     std::deque<int> answers;
     std::map<std::string, std::function<void(fernwick::Form&)>> whenShown;
     std::string chosen;
-    /// The last open dialog.
-    fernwick::CommonDialog opened;
+    /// The last open and save dialogs as they were shown.
+    fernwick::CommonDialog opened, saved;
 
     void showModal(fernwick::Form& form) override {
         trace_.effect(std::string("form ") + form.typeName());
@@ -46,9 +46,15 @@ public:
     }
     /// Whether the user cancels save dialogs.
     bool cancelsSaving = false;
-    void ShowSave(fernwick::CommonDialog&) override {
+    /// Files for save dialogs, in order; without one a dialog keeps its name.
+    std::deque<std::string> savedAs;
+    void ShowSave(fernwick::CommonDialog& dialog) override {
         trace_.effect("save dialog");
+        saved = dialog;
         if (cancelsSaving) throw basic::RuntimeError(fernwick::kCancelWasSelected);
+        if (savedAs.empty()) return;
+        dialog.FileName = savedAs.front();
+        savedAs.pop_front();
     }
     /// Chooses `chosen`; "" cancels.
     void ShowOpen(fernwick::CommonDialog& dialog) override {

@@ -11,6 +11,7 @@
 #include "Add-in/core/settings_dialog.h"
 #include "Add-in/deploy/frmSendRuntimeToDevice.h"
 #include "Add-in/deploy/frmSendToDevice.h"
+#include "Add-in/lifecycle/frmDesignTargetConverterWarning.h"
 #include "Add-in/lifecycle/project_setup.h"
 #include "Add-in/lifecycle/sample_opening.h"
 #include <array>
@@ -65,6 +66,8 @@ struct ConnectServices {
     modCompileErrorManagement& messages;
     frmProjectRemoval& removal;
     ProjectSetup& setup;
+    frmDesignTargetConverter& converter;
+    frmDesignTargetConverterWarning& converterWarning;
     SettingsDialog& settings;
     MissingFeatures& features;
     const modQLInstallInfo& install;
@@ -292,6 +295,7 @@ private:
     void addFirstForm(Procedure& here, const QLProject& project);
     void refuseDevice(Procedure& here, const QLProject& project, const std::string& device);
     void closeAdded(Procedure& here, const Project& project);
+    void openCopy(const std::string& path);
     void keepState(Procedure& here, const QLProject& project);
     void keepDesktopState(Procedure& here, const Project& vbProject);
 

@@ -85,11 +85,21 @@ void Connect::refuseDevice(Procedure& here, const QLProject& project, const std:
     if (device.empty()) return services_.removal.RemoveProject(vbProject, true, "");
     if (services_.devices.GetNumDesignTargets() <= 0) return;
 
-    const auto choice = here.value([&] { return services_.features.AskAboutUnknownDevice(vbProject); });
-    if (choice.accepted) return watchProject(here, vbProject);
-    closeAdded(here, vbProject);
-    if (!choice.replacementPath.empty())
-        here([&] { services_.addIn.gVBInstance->VBProjects()->AddFromFile(choice.replacementPath, true); });
+    auto& warning = services_.converterWarning;
+    here([&] { warning.ShowModal(); });
+    if (warning.openAnyway()) {
+        watchProject(here, vbProject);
+    } else {
+        closeAdded(here, vbProject);
+        if (!warning.newProjectFile().empty()) here([&] { openCopy(warning.newProjectFile()); });
+    }
+    warning.Unload();
+}
+
+/// The copy that the converter made of a project takes its place.
+void Connect::openCopy(const std::string& path) {
+    const auto copy = services_.addIn.gVBInstance->VBProjects()->AddFromFile(path, true);
+    services_.converter.conversion().finishCopy(copy);
 }
 
 void Connect::closeAdded(Procedure& here, const Project& project) {

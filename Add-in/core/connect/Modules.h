@@ -10,6 +10,7 @@
 #include "Add-in/core/modAddInErrorManagement.h"
 #include "Add-in/deploy/frmSendRuntimeToDevice.h"
 #include "Add-in/deploy/frmSendToDevice.h"
+#include "Add-in/lifecycle/frmDesignTargetConverterWarning.h"
 #include "Add-in/project/frmSaveWarning.h"
 
 namespace fernwick {
@@ -80,24 +81,45 @@ struct Modules {
     frmDesignTargetNormal chooseTarget{deviceServices};
     ProjectSetup setup{{errors, platform.interaction, platform.loop, addIn, devices, deviceServices, projects, save,
                         messages, chooseTarget, removal, items, menu, toolbars, features}};
+    ConversionServices conversionServices{
+        errors, platform.interaction, platform.files, deviceServices, projectServices, projects, setup};
+    frmDesignTargetConverter converter{conversionServices, addIn};
+    frmDesignTargetConverterWarning converterWarning{conversionServices, addIn, converter};
     SampleOpening samples{
         {errors, platform.interaction, platform.loop, platform.files, platform.app, addIn, save, items}};
     // on top
-    Connect connect{{errors,         platform.interaction,
-                     platform.loop,  platform.files,
-                     platform.shell, platform.clock,
-                     platform.app,   prefs,
-                     addIn,          references,
-                     devices,        deviceServices,
-                     items,          clipboard,
-                     menu,           toolbars,
-                     gettingStarted, projects,
-                     messages,       removal,
-                     setup,          settings,
-                     features,       install,
-                     compile,        sendToDevice,
-                     sendRuntime,    tools,
-                     help,           about,
+    Connect connect{{errors,
+                     platform.interaction,
+                     platform.loop,
+                     platform.files,
+                     platform.shell,
+                     platform.clock,
+                     platform.app,
+                     prefs,
+                     addIn,
+                     references,
+                     devices,
+                     deviceServices,
+                     items,
+                     clipboard,
+                     menu,
+                     toolbars,
+                     gettingStarted,
+                     projects,
+                     messages,
+                     removal,
+                     setup,
+                     converter,
+                     converterWarning,
+                     settings,
+                     features,
+                     install,
+                     compile,
+                     sendToDevice,
+                     sendRuntime,
+                     tools,
+                     help,
+                     about,
                      samples}};
 
     /// The document of the messages window; Nothing until the host has created it.

@@ -57,7 +57,9 @@ void FormWindow::bindForm() {
     });
     binding_.keep(form_.Refreshed.connect([this] { repaint(); }));
     binding_.keep(form_.Visible.watch([this](bool visible) {
-        if (!visible) loop_.quit();
+        if (visible) return;
+        hide(); // at once: what the form shows next may be in front of nothing else
+        loop_.quit();
     }));
 }
 
@@ -98,6 +100,7 @@ void FormWindow::endWith(std::exception_ptr error) {
 
 void FormWindow::closeEvent(QCloseEvent* event) {
     event->ignore(); // the form decides
+    if (form_.ControlBox && form_.CloseBoxCancels) return reject();
     if (form_.ControlBox) binding_.act([this] { form_.Unload(); });
 }
 
