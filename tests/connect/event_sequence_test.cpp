@@ -1,5 +1,6 @@
 // The add-in in a real host: sequences of events, with further events during each DoEvents.
 #include "event_tape.h"
+#include "tests/support/form_text.h"
 #include "whole_world.h"
 
 using testing::Contains;
@@ -385,6 +386,56 @@ TEST_F(NewComponents, OfTheActivatedProjectAreServed) {
     host.ide->ActiveVBProject(a);
     add(vbide::vbext_ct_StdModule);
     EXPECT_THAT(componentNames(), ElementsAre("Module9", "Module2"));
+}
+
+// ---- controls
+// ------------------------------------------------------------------------------------------------------------
+
+class NewControls : public EventSequence {
+protected:
+    NewControls() {
+        addIn().references.gQuinloftClasses.Add("Tavlets.QLButton", "TavletsCtl.QLButton");
+        host.open(test::SampleProject("A").form("frmA").form("frmB").handheld("Palm-1"));
+        show("frmA");
+    }
+    void TearDown() override { EXPECT_TRUE(host.failures.empty()); }
+    void show(const std::string& form) {
+        active()->VBComponents()->Item(form)->DesignerWindow()->Visible(true);
+        active()->VBComponents()->Item(form)->Activate();
+    }
+    std::vector<std::string> controlsAfterAdding(const std::string& form, const std::string& progId) {
+        const auto controls = active()->VBComponents()->Item(form)->Designer()->VBControls();
+        controls->Add(progId);
+        std::vector<std::string> left;
+        for (const auto& control : controls->items()) left.push_back(control->ProgId());
+        return left;
+    }
+    const std::string refusal =
+        box(16, "ERROR!\r\n\r\nThis control will not work with a Fernwick project and will be removed.");
+};
+
+TEST_F(NewControls, StayWhereTheSystemKnowsThem) {
+    EXPECT_THAT(controlsAfterAdding("frmA", "TavletsCtl.QLButton"), ElementsAre("TavletsCtl.QLButton"));
+    EXPECT_THAT(boxes(), IsEmpty());
+}
+
+TEST_F(NewControls, OfOtherLibrariesAreRefused) {
+    EXPECT_THAT(controlsAfterAdding("frmA", "VB.TextBox"), IsEmpty());
+    EXPECT_THAT(boxes(), ElementsAre(refusal));
+}
+
+TEST_F(NewControls, AreRemovedFromTheFormOnWhichTheyWerePlaced) {
+    host.ide->select(active()->VBComponents()->Item("frmB"));
+    EXPECT_THAT(controlsAfterAdding("frmA", "VB.TextBox"), IsEmpty());
+    EXPECT_THAT(boxes(), ElementsAre(refusal));
+}
+
+TEST_F(NewControls, DoNotIncludeThoseOfAnOpenedForm) {
+    active()->VBComponents()->AddFile(
+        host.folder.write("frmOld.frm", test::deviceForm("frmOld", {{"QLUnknown", "ctlOld", "Font"}})));
+    show("frmOld");
+    EXPECT_EQ(active()->VBComponents()->Item("frmOld")->Designer()->VBControls()->Count(), 1);
+    EXPECT_THAT(boxes(), IsEmpty());
 }
 
 } // namespace

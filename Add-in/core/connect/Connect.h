@@ -13,6 +13,7 @@
 #include "Add-in/deploy/frmSendToDevice.h"
 #include "Add-in/lifecycle/project_setup.h"
 #include "Add-in/lifecycle/sample_opening.h"
+#include "Add-in/project/frmSaveWarning.h"
 #include <array>
 
 namespace fernwick {
@@ -62,6 +63,8 @@ struct ConnectServices {
     modToolbarManagement& toolbars;
     frmGettingStarted& gettingStarted;
     modProjectHandler& projects;
+    modSaveProject& save;
+    frmSaveWarning& saveWarning;
     modCompileErrorManagement& messages;
     frmProjectRemoval& removal;
     ProjectSetup& setup;
@@ -207,7 +210,8 @@ public:
     WithEvents<vbide::FileControlEvents> FileControlHandler{
         this, on(&vbide::FileControlEvents::RequestWriteFile, &Connect::FileControlHandler_RequestWriteFile)};
     // One form designer: the last one assigned
-    WithEvents<vbide::VBControlsEvents> ControlsEventsHandler{this};
+    WithEvents<vbide::VBControlsEvents> ControlsEventsHandler{
+        this, on(&vbide::VBControlsEvents::ItemAdded, &Connect::ControlsEventsHandler_ItemAdded)};
     // Build
     WithEvents<vbide::VBBuildEvents> BuildEventsHandler{
         this, on(&vbide::VBBuildEvents::EnterDesignMode, &Connect::BuildEventsHandler_EnterDesignMode),
@@ -218,7 +222,7 @@ public:
 
     /// Whether the resource editor was disconnected at the start. Never reset.
     bool ResEditWasConnected = false;
-    /// Time of the connection in nanoseconds since 1970. The add-in does not read it.
+    /// Time of the connection, later of the last control added to an unsaved project, in nanoseconds since 1970.
     std::int64_t LastControlEventTime = 0;
     /// A template project is queued for reloading and has not been added yet.
     bool TemplateReloadPending = false;
@@ -232,6 +236,7 @@ private:
     using Project = basic::Ref<vbide::VBProject>;
     using QLProject = basic::Ref<clsQLProject>;
     using Component = basic::Ref<vbide::VBComponent>;
+    using Control = basic::Ref<vbide::VBControl>;
 
     std::array<Command, kDeviceSlots> slots(void (Connect::*clicked)(const Item& item));
     void buildInterface(Procedure& here, const Host& VBInst, const basic::Ref<vbide::AddIn>& AddInInst);
@@ -295,7 +300,7 @@ private:
     void keepState(Procedure& here, const QLProject& project);
     void keepDesktopState(Procedure& here, const Project& vbProject);
 
-    // Components, references and the build
+    // Components, references, controls and the build
     void CompsEventsHandler_ItemAdded(Component VBComponent);
     void CompsEventsHandler_ItemRenamed() {}
     void CompsEventsHandler_ItemSelected(Component VBComponent);
@@ -309,6 +314,9 @@ private:
     QLProject activeFernwickProject(Procedure& here);
     bool isFormOfOurs(Procedure& here, const Component& VBComponent);
     void RefEventsHandler_ItemAdded();
+    void ControlsEventsHandler_ItemAdded(Control VBControl);
+    void setControlDefaults(Procedure& here, const QLProject& project, const Control& VBControl);
+    void saveForControls(Procedure& here, const Project& vbProject);
     void BuildEventsHandler_EnterDesignMode();
     void BuildEventsHandler_EnterRunMode();
     bool isCurrentOurs() const;
@@ -320,6 +328,8 @@ private:
 
     friend class Command;
     ConnectServices services_;
+    /// The designer whose events ControlsEventsHandler receives.
+    basic::Ref<vbide::VBForm> watchedDesigner_;
     Subscription replacementsEnded_;
     /// One for each sample of the menu.
     std::vector<Subscription> pickedSamples_;

@@ -92,6 +92,7 @@ struct Modules {
                      items,          clipboard,
                      menu,           toolbars,
                      gettingStarted, projects,
+                     save,           saveWarning,
                      messages,       removal,
                      setup,          settings,
                      features,       install,
