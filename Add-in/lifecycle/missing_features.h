@@ -1,5 +1,5 @@
 #pragma once
-// The features that this build lacks: the zoom window, the project manager with its recent projects, and the converter
+// The features that this build lacks: the zoom window, the project manager, and the converter
 // for projects of unknown devices. Each call is where its feature belongs; the feature's own class will replace it.
 #include "Add-in/platform/host_project.h"
 #include <string>
@@ -27,7 +27,6 @@ public:
     /// Returns when the project manager has closed.
     virtual void ShowProjectManager() = 0;
     virtual void ShowProjectManagerOnDelay() = 0;
-    virtual void AddProjectToRecentList(const basic::Ref<vbide::VBProject>& project) = 0;
 
     virtual UnknownDeviceChoice AskAboutUnknownDevice(const basic::Ref<vbide::VBProject>& project) = 0;
 

@@ -291,6 +291,13 @@ TEST_F(EventSequence, AClosingSavesTheMessagesWindowAndWhatIsUnsaved) {
     EXPECT_THAT(host.folder.read("Module9.bas"), HasSubstr("' new"));
 }
 
+TEST_F(EventSequence, AClosingRemembersTheProject) {
+    host.ide->VBProjects()->Remove(host.open(named("A")));
+    host.ide->VBProjects()->Remove(openNew());
+    EXPECT_EQ(addIn().recent.GetQuinloftRecentProject(1).path, host.folder / "A.vbp");
+    EXPECT_EQ(addIn().recent.GetQuinloftRecentProject(2).name, "");
+}
+
 TEST_F(EventSequence, RestoresTheToolbarsPositions) {
     const auto project = host.open(named("A"));
     items().gMainToolbar->Position(office::msoBarLeft);

@@ -266,8 +266,8 @@ TEST_F(ProjectEvents, ClosingSavesChanges) {
     opened("B");
     project->dirty = true;
     messages.showToolWindow();
-    EXPECT_THAT(raiseRemoved(project), ElementsAre("Visible=TRUE", "A saved /p/A.vbp", "A dirty 0", "recent A",
-                                                   "save toolbars", "save zoom window"));
+    EXPECT_THAT(raiseRemoved(project), ElementsAre("Visible=TRUE", "A saved /p/A.vbp", "A dirty 0",
+                                                   "save recent projects", "save toolbars", "save zoom window"));
     EXPECT_FALSE(projects.FindQLProject(project));
 }
 
@@ -275,7 +275,7 @@ TEST_F(ProjectEvents, ClosingASavedProjectSavesNothing) {
     const auto project = added("A");
     opened("B");
     messages.showToolWindow();
-    EXPECT_THAT(raiseRemoved(project), ElementsAre("recent A", "save toolbars", "save zoom window"));
+    EXPECT_THAT(raiseRemoved(project), ElementsAre("save recent projects", "save toolbars", "save zoom window"));
 }
 
 TEST_F(ProjectEvents, ClosingAProjectOfAnUnknownDeviceSavesNothing) {
@@ -283,7 +283,7 @@ TEST_F(ProjectEvents, ClosingAProjectOfAnUnknownDeviceSavesNothing) {
     const auto project = added("A", "Gone-9");
     opened("B");
     project->dirty = true;
-    EXPECT_THAT(raiseRemoved(project), ElementsAre("recent A", "save toolbars", "save zoom window"));
+    EXPECT_THAT(raiseRemoved(project), ElementsAre("save recent projects", "save toolbars", "save zoom window"));
 }
 
 TEST_F(ProjectEvents, ATemplateIsNotRemembered) {

@@ -36,7 +36,6 @@ public:
         inProjectManager();
     }
     void ShowProjectManagerOnDelay() override { trace_.effect("project manager on delay"); }
-    void AddProjectToRecentList(const Project& project) override { trace_.effect("recent " + project->Name()); }
     fernwick::UnknownDeviceChoice AskAboutUnknownDevice(const Project& project) override {
         trace_.effect("unknown device of " + project->Name());
         return unknownDevice;

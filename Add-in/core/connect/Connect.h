@@ -11,6 +11,7 @@
 #include "Add-in/core/settings_dialog.h"
 #include "Add-in/deploy/frmSendRuntimeToDevice.h"
 #include "Add-in/deploy/frmSendToDevice.h"
+#include "Add-in/lifecycle/modRecentProjectManagment.h"
 #include "Add-in/lifecycle/project_setup.h"
 #include "Add-in/lifecycle/sample_opening.h"
 #include "Add-in/project/frmSaveWarning.h"
@@ -66,6 +67,7 @@ struct ConnectServices {
     modSaveProject& save;
     frmSaveWarning& saveWarning;
     modCompileErrorManagement& messages;
+    modRecentProjectManagment& recent;
     frmProjectRemoval& removal;
     ProjectSetup& setup;
     SettingsDialog& settings;
@@ -298,7 +300,7 @@ private:
     void refuseDevice(Procedure& here, const QLProject& project, const std::string& device);
     void closeAdded(Procedure& here, const Project& project);
     void keepState(Procedure& here, const QLProject& project);
-    void keepDesktopState(Procedure& here, const Project& vbProject);
+    void keepDesktopState(Procedure& here, const QLProject& project);
 
     // Components, references, controls and the build
     void CompsEventsHandler_ItemAdded(Component VBComponent);

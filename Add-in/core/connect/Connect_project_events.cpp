@@ -119,13 +119,13 @@ void Connect::keepState(Procedure& here, const QLProject& project) {
         if (here.test([&] { return !vbProject->Saved(); })) project->SaveFiles();
     }
     if (!project->IsStartUpProject() && services_.addIn.gConnectMode != vbide::vbext_cm_CommandLine)
-        keepDesktopState(here, vbProject);
+        keepDesktopState(here, project);
 }
 
 /// Not at the command line, which must not overwrite the user's desktop settings.
-void Connect::keepDesktopState(Procedure& here, const Project& vbProject) {
-    if (here.test([&] { return !services_.projects.ProjectIsFromTemplate(vbProject); }))
-        here([&] { services_.features.AddProjectToRecentList(vbProject); });
+void Connect::keepDesktopState(Procedure& here, const QLProject& project) {
+    if (here.test([&] { return !services_.projects.ProjectIsFromTemplate(project->VBProject()); }))
+        services_.recent.AddProjectToRecentList(project);
     here([&] { services_.toolbars.SaveAllToolbarState(); });
     here([&] { services_.features.SaveZoomWindowState(); });
 }

@@ -76,6 +76,7 @@ struct Modules {
         pipeServices, {addIn, prefs, projects, messages, dependencies, compile, compileWarning, validate, settings}};
     frmSendRuntimeToDevice sendRuntime{pipeServices};
     // lifecycle
+    modRecentProjectManagment recent{registry, platform.files, errors};
     frmProjectRemoval removal{platform.interaction, platform.loop, addIn, projects, items, menu, errors};
     frmDesignTargetNormal chooseTarget{deviceServices};
     ProjectSetup setup{{errors, platform.interaction, platform.loop, addIn, devices, deviceServices, projects, save,
@@ -93,13 +94,13 @@ struct Modules {
                      menu,           toolbars,
                      gettingStarted, projects,
                      save,           saveWarning,
-                     messages,       removal,
-                     setup,          settings,
-                     features,       install,
-                     compile,        sendToDevice,
-                     sendRuntime,    tools,
-                     help,           about,
-                     samples}};
+                     messages,       recent,
+                     removal,        setup,
+                     settings,       features,
+                     install,        compile,
+                     sendToDevice,   sendRuntime,
+                     tools,          help,
+                     about,          samples}};
 
     /// The document of the messages window; Nothing until the host has created it.
     basic::Ref<udocCompileMsgs> compileMsgs() const;
