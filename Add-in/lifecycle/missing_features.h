@@ -1,5 +1,5 @@
 #pragma once
-// The features that this build lacks: the zoom window, the project manager, and the converter
+// The features that this build lacks: the zoom window, and the converter
 // for projects of unknown devices. Each call is where its feature belongs; the feature's own class will replace it.
 #include "Add-in/platform/host_project.h"
 #include <string>
@@ -23,10 +23,6 @@ public:
     virtual void SaveZoomWindowState() = 0;
     /// Makes the zoom window follow this form's designer.
     virtual void SetZoomForm(const basic::Ref<vbide::VBComponent>& form) = 0;
-
-    /// Returns when the project manager has closed.
-    virtual void ShowProjectManager() = 0;
-    virtual void ShowProjectManagerOnDelay() = 0;
 
     virtual UnknownDeviceChoice AskAboutUnknownDevice(const basic::Ref<vbide::VBProject>& project) = 0;
 

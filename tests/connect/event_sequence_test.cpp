@@ -41,6 +41,11 @@ protected:
         host.ide->VBProjects()->AddFromTemplate(hostsTemplate());
         return host.ide->ActiveVBProject();
     }
+    void openStub() {
+        auto stub = test::SampleProject("Fernwick").handheld();
+        stub.sections("StartUpProject={8A515BDE-2BCC-4ed4-8F0A-99E4522CC1BB}\r\n");
+        host.ide->VBProjects()->AddFromTemplate(host.folder.write("Template/Projects/Fernwick.vbp", stub.text()));
+    }
     basic::Ref<vbide::VBProject> active() { return host.ide->ActiveVBProject(); }
     static std::string stored(const basic::Ref<vbide::VBProject>& project, const std::string& key) {
         std::string value = "(none)";
@@ -135,13 +140,68 @@ TEST_F(EventSequence, WithoutADeviceRemovesTheNewProjectAndAsksOnce) {
 }
 
 TEST_F(EventSequence, TheStubLeadsToTheProjectManager) {
-    auto stub = test::SampleProject("Fernwick").handheld();
-    stub.sections("StartUpProject={8A515BDE-2BCC-4ed4-8F0A-99E4522CC1BB}\r\n");
-    host.open(stub);
-    EXPECT_THAT(boxes(), ElementsAre(box(64, "This command is not in this build of Fernwick.")));
+    openStub();
+    EXPECT_THAT(trace.effects, Contains("form frmProjectManager"));
     EXPECT_EQ(host.ide->VBProjects()->Count(), 1);
     loop.turn();
     EXPECT_EQ(host.ide->VBProjects()->Count(), 0);
+}
+
+TEST_F(EventSequence, AProjectFromTheProjectManagerReplacesTheStub) {
+    const auto path = named("A").writeTo(host.folder);
+    host.ide->VBProjects()->Remove(host.openFile(path));
+    user.whenShown["frmProjectManager"] = [this](fernwick::Form& form) {
+        addIn().projectManager.grdRecentProjects.choose(1);
+        test::press(form, "btnOpenRecent");
+    };
+    openStub();
+    loop.turn();
+    EXPECT_EQ(host.ide->VBProjects()->Count(), 1);
+    EXPECT_EQ(active()->FileName(), path);
+    EXPECT_TRUE(items().gCompileItem->Enabled());
+}
+
+TEST_F(EventSequence, ANewProjectFromTheProjectManagerReplacesTheStub) {
+    giveTargetsTemplates();
+    hostsTemplate();
+    user.whenShown["frmProjectManager"] = [](fernwick::Form& form) { test::press(form, "btnNewProject"); };
+    openStub();
+    loop.turn();
+    EXPECT_EQ(host.ide->VBProjects()->Count(), 1);
+    EXPECT_EQ(stored(active(), "OpenedFromQLTemplate"), "True");
+    EXPECT_THAT(componentNames(), ElementsAre("Form1"));
+    EXPECT_FALSE(loop.hasTimers());
+}
+
+TEST_F(EventSequence, TheStubBesideAnotherProjectIsTheOnlyOneThatGoes) {
+    host.open(named("A"));
+    openStub();
+    loop.turn();
+    EXPECT_EQ(host.ide->VBProjects()->Count(), 1);
+    EXPECT_EQ(active()->Name(), "A");
+}
+
+TEST_F(EventSequence, TheProjectManagerWaitsForAllProjects) {
+    const auto a = host.open(named("A"));
+    host.open(named("B"));
+    user.answers = {fernwick::vbYes};
+    items().gOpenProjectItem->Execute();
+    loop.turn();
+    EXPECT_THAT(trace.effects, Not(Contains("form frmProjectManager")));
+    host.ide->VBProjects()->Remove(a);
+    loop.turn();
+    EXPECT_THAT(trace.effects, Contains("form frmProjectManager"));
+}
+
+TEST_F(EventSequence, AfterTheHostHasClosedNothingWaits) {
+    host.open(named("A"));
+    host.open(named("B"));
+    user.answers = {fernwick::vbYes};
+    items().gOpenProjectItem->Execute();
+    host.ide->close();
+    loop.turn();
+    EXPECT_THAT(trace.effects, Not(Contains("form frmProjectManager")));
+    EXPECT_FALSE(loop.hasTimers());
 }
 
 // ---- existing projects

@@ -80,16 +80,16 @@ TEST_F(ProjectEvents, AProjectOfTheOldFormatIsRemovedAndConverted) {
 TEST_F(ProjectEvents, TheStubOpensTheProjectManagerAndIsRemoved) {
     const auto stub = opened("Stub", "");
     set(stub, "StartUpProject", kStub);
-    EXPECT_THAT(raiseAdded(stub), ElementsAre("sink: files of Stub", "project manager"));
+    EXPECT_THAT(raiseAdded(stub), ElementsAre("sink: files of Stub", "form frmProjectManager"));
     EXPECT_THAT(openNames(), ElementsAre("Stub"));
-    EXPECT_THAT(turn(), ElementsAre("active Stub", "host: remove project"));
+    EXPECT_THAT(turn(), ElementsAre("Stub dirty 0", "active Stub", "host: remove project"));
 }
 
 TEST_F(ProjectEvents, AProjectOpenedByTheProjectManagerGetsItsTemplate) {
     targets.templates.project = kTargetsOwn;
     const auto stub = opened("Stub", "");
     set(stub, "StartUpProject", kStub);
-    noted.inProjectManager = [&] {
+    user.whenShown["frmProjectManager"] = [&](fernwick::Form&) {
         vbe->removeActive();
         vbe->events->projects->ItemAdded.raise(fromTemplate());
     };

@@ -20,6 +20,8 @@ public:
     std::deque<int> answers;
     std::map<std::string, std::function<void(fernwick::Form&)>> whenShown;
     std::string chosen;
+    /// Returns the file of the next open dialog.
+    std::function<std::string()> choose = [this] { return chosen; };
     /// The last open dialog.
     fernwick::CommonDialog opened;
 
@@ -50,11 +52,11 @@ public:
         trace_.effect("save dialog");
         if (cancelsSaving) throw basic::RuntimeError(fernwick::kCancelWasSelected);
     }
-    /// Chooses `chosen`; "" cancels.
+    /// "" cancels.
     void ShowOpen(fernwick::CommonDialog& dialog) override {
         trace_.effect("open dialog");
         opened = dialog;
-        if (!chosen.empty()) dialog.FileName = chosen;
+        if (const auto file = choose(); !file.empty()) dialog.FileName = file;
     }
     void MessageBeep(int type) override { trace_.effect("beep " + std::to_string(type)); }
     void SetCursor(fernwick::MousePointerShape shape) override { trace_.effect("cursor " + std::to_string(shape)); }

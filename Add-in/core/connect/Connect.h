@@ -11,6 +11,7 @@
 #include "Add-in/core/settings_dialog.h"
 #include "Add-in/deploy/frmSendRuntimeToDevice.h"
 #include "Add-in/deploy/frmSendToDevice.h"
+#include "Add-in/lifecycle/frmProjectManager.h"
 #include "Add-in/lifecycle/modRecentProjectManagment.h"
 #include "Add-in/lifecycle/project_setup.h"
 #include "Add-in/lifecycle/sample_opening.h"
@@ -68,6 +69,7 @@ struct ConnectServices {
     frmSaveWarning& saveWarning;
     modCompileErrorManagement& messages;
     modRecentProjectManagment& recent;
+    frmProjectManager& projectManager;
     frmProjectRemoval& removal;
     ProjectSetup& setup;
     SettingsDialog& settings;
@@ -276,7 +278,7 @@ private:
     bool hasMyDevices();
     void toMyDevices(const std::function<void(const std::string& device)>& act);
     // Other commands
-    void ProjectManagerHandler_Click() { services_.features.notInThisBuild(); }
+    void ProjectManagerHandler_Click() { services_.setup.StartProjectManager(); }
     void ZoomWindowHandler_Click();
     void DownloadVMHandler_Click();
     void AddinUsersGuideHandler_Click();

@@ -15,7 +15,7 @@ void Connect::ProjEventsHandler_ItemAdded(Project VBProject) {
         return services_.removal.RemoveProject(VBProject, true, ""); // the converter is started afterwards
     }
     if (project->IsStartUpProject()) {
-        here([&] { services_.features.ShowProjectManager(); });
+        here([&] { services_.projectManager.ShowModal(); });
         return services_.removal.RemoveProject(VBProject, true, "");
     }
     services_.setup.SetupProject(project);

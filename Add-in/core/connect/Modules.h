@@ -77,10 +77,12 @@ struct Modules {
     frmSendRuntimeToDevice sendRuntime{pipeServices};
     // lifecycle
     modRecentProjectManagment recent{registry, platform.files, errors};
+    frmProjectManager projectManager{
+        {errors, platform.interaction, platform.loop, platform.files, addIn, prefs, samplesList, projects, recent}};
     frmProjectRemoval removal{platform.interaction, platform.loop, addIn, projects, items, menu, errors};
     frmDesignTargetNormal chooseTarget{deviceServices};
     ProjectSetup setup{{errors, platform.interaction, platform.loop, addIn, devices, deviceServices, projects, save,
-                        messages, chooseTarget, removal, items, menu, toolbars, features}};
+                        messages, chooseTarget, projectManager, removal, items, menu, toolbars, features}};
     SampleOpening samples{
         {errors, platform.interaction, platform.loop, platform.files, platform.app, addIn, save, items}};
     // on top
@@ -95,12 +97,13 @@ struct Modules {
                      gettingStarted, projects,
                      save,           saveWarning,
                      messages,       recent,
-                     removal,        setup,
-                     settings,       features,
-                     install,        compile,
-                     sendToDevice,   sendRuntime,
-                     tools,          help,
-                     about,          samples}};
+                     projectManager, removal,
+                     setup,          settings,
+                     features,       install,
+                     compile,        sendToDevice,
+                     sendRuntime,    tools,
+                     help,           about,
+                     samples}};
 
     /// The document of the messages window; Nothing until the host has created it.
     basic::Ref<udocCompileMsgs> compileMsgs() const;
