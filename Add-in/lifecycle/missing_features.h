@@ -1,5 +1,6 @@
 #pragma once
-// The features that this build lacks: the zoom window, and the project manager with its recent projects. Each call is where its feature belongs; the feature's own class will replace it.
+// The feature that this build lacks: the zoom window. Each call is where the feature belongs; its own class will replace
+// it.
 #include "Add-in/platform/host_project.h"
 #include <string>
 
@@ -14,11 +15,6 @@ public:
     virtual void SaveZoomWindowState() = 0;
     /// Makes the zoom window follow this form's designer.
     virtual void SetZoomForm(const basic::Ref<vbide::VBComponent>& form) = 0;
-
-    /// Returns when the project manager has closed.
-    virtual void ShowProjectManager() = 0;
-    virtual void ShowProjectManagerOnDelay() = 0;
-    virtual void AddProjectToRecentList(const basic::Ref<vbide::VBProject>& project) = 0;
 
     /// Informs the user that the chosen command is not available in this build.
     virtual void notInThisBuild() = 0;

@@ -80,16 +80,16 @@ TEST_F(ProjectEvents, AProjectOfTheOldFormatIsRemovedAndConverted) {
 TEST_F(ProjectEvents, TheStubOpensTheProjectManagerAndIsRemoved) {
     const auto stub = opened("Stub", "");
     set(stub, "StartUpProject", kStub);
-    EXPECT_THAT(raiseAdded(stub), ElementsAre("sink: files of Stub", "project manager"));
+    EXPECT_THAT(raiseAdded(stub), ElementsAre("sink: files of Stub", "form frmProjectManager"));
     EXPECT_THAT(openNames(), ElementsAre("Stub"));
-    EXPECT_THAT(turn(), ElementsAre("active Stub", "host: remove project"));
+    EXPECT_THAT(turn(), ElementsAre("Stub dirty 0", "active Stub", "host: remove project"));
 }
 
 TEST_F(ProjectEvents, AProjectOpenedByTheProjectManagerGetsItsTemplate) {
     targets.templates.project = kTargetsOwn;
     const auto stub = opened("Stub", "");
     set(stub, "StartUpProject", kStub);
-    noted.inProjectManager = [&] {
+    user.whenShown["frmProjectManager"] = [&](fernwick::Form&) {
         vbe->removeActive();
         vbe->events->projects->ItemAdded.raise(fromTemplate());
     };
@@ -292,8 +292,8 @@ TEST_F(ProjectEvents, ClosingSavesChanges) {
     opened("B");
     project->dirty = true;
     messages.showToolWindow();
-    EXPECT_THAT(raiseRemoved(project), ElementsAre("Visible=TRUE", "A saved /p/A.vbp", "A dirty 0", "recent A",
-                                                   "save toolbars", "save zoom window"));
+    EXPECT_THAT(raiseRemoved(project), ElementsAre("Visible=TRUE", "A saved /p/A.vbp", "A dirty 0",
+                                                   "save recent projects", "save toolbars", "save zoom window"));
     EXPECT_FALSE(projects.FindQLProject(project));
 }
 
@@ -301,7 +301,7 @@ TEST_F(ProjectEvents, ClosingASavedProjectSavesNothing) {
     const auto project = added("A");
     opened("B");
     messages.showToolWindow();
-    EXPECT_THAT(raiseRemoved(project), ElementsAre("recent A", "save toolbars", "save zoom window"));
+    EXPECT_THAT(raiseRemoved(project), ElementsAre("save recent projects", "save toolbars", "save zoom window"));
 }
 
 TEST_F(ProjectEvents, ClosingAProjectOfAnUnknownDeviceSavesNothing) {
@@ -309,7 +309,7 @@ TEST_F(ProjectEvents, ClosingAProjectOfAnUnknownDeviceSavesNothing) {
     const auto project = added("A", "Gone-9");
     opened("B");
     project->dirty = true;
-    EXPECT_THAT(raiseRemoved(project), ElementsAre("recent A", "save toolbars", "save zoom window"));
+    EXPECT_THAT(raiseRemoved(project), ElementsAre("save recent projects", "save toolbars", "save zoom window"));
 }
 
 TEST_F(ProjectEvents, ATemplateIsNotRemembered) {

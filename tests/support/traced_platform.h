@@ -20,6 +20,8 @@ public:
     std::deque<int> answers;
     std::map<std::string, std::function<void(fernwick::Form&)>> whenShown;
     std::string chosen;
+    /// Returns the file of the next open dialog.
+    std::function<std::string()> choose = [this] { return chosen; };
     /// The last open and save dialogs as they were shown.
     fernwick::CommonDialog opened, saved;
 
@@ -56,11 +58,11 @@ public:
         dialog.FileName = savedAs.front();
         savedAs.pop_front();
     }
-    /// Chooses `chosen`; "" cancels.
+    /// "" cancels.
     void ShowOpen(fernwick::CommonDialog& dialog) override {
         trace_.effect("open dialog");
         opened = dialog;
-        if (!chosen.empty()) dialog.FileName = chosen;
+        if (const auto file = choose(); !file.empty()) dialog.FileName = file;
     }
     void MessageBeep(int type) override { trace_.effect("beep " + std::to_string(type)); }
     void SetCursor(fernwick::MousePointerShape shape) override { trace_.effect("cursor " + std::to_string(shape)); }

@@ -15,7 +15,7 @@ void Connect::ProjEventsHandler_ItemAdded(Project VBProject) {
         return services_.removal.RemoveProject(VBProject, true, ""); // the converter is started afterwards
     }
     if (project->IsStartUpProject()) {
-        here([&] { services_.features.ShowProjectManager(); });
+        here([&] { services_.projectManager.ShowModal(); });
         return services_.removal.RemoveProject(VBProject, true, "");
     }
     services_.setup.SetupProject(project);
@@ -129,13 +129,13 @@ void Connect::keepState(Procedure& here, const QLProject& project) {
         if (here.test([&] { return !vbProject->Saved(); })) project->SaveFiles();
     }
     if (!project->IsStartUpProject() && services_.addIn.gConnectMode != vbide::vbext_cm_CommandLine)
-        keepDesktopState(here, vbProject);
+        keepDesktopState(here, project);
 }
 
 /// Not at the command line, which must not overwrite the user's desktop settings.
-void Connect::keepDesktopState(Procedure& here, const Project& vbProject) {
-    if (here.test([&] { return !services_.projects.ProjectIsFromTemplate(vbProject); }))
-        here([&] { services_.features.AddProjectToRecentList(vbProject); });
+void Connect::keepDesktopState(Procedure& here, const QLProject& project) {
+    if (here.test([&] { return !services_.projects.ProjectIsFromTemplate(project->VBProject()); }))
+        services_.recent.AddProjectToRecentList(project);
     here([&] { services_.toolbars.SaveAllToolbarState(); });
     here([&] { services_.features.SaveZoomWindowState(); });
 }

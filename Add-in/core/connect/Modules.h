@@ -77,10 +77,13 @@ struct Modules {
         pipeServices, {addIn, prefs, projects, messages, dependencies, compile, compileWarning, validate, settings}};
     frmSendRuntimeToDevice sendRuntime{pipeServices};
     // lifecycle
+    modRecentProjectManagment recent{registry, platform.files, errors};
+    frmProjectManager projectManager{
+        {errors, platform.interaction, platform.loop, platform.files, addIn, prefs, samplesList, projects, recent}};
     frmProjectRemoval removal{platform.interaction, platform.loop, addIn, projects, items, menu, errors};
     frmDesignTargetNormal chooseTarget{deviceServices};
     ProjectSetup setup{{errors, platform.interaction, platform.loop, addIn, devices, deviceServices, projects, save,
-                        messages, chooseTarget, removal, items, menu, toolbars, features}};
+                        messages, chooseTarget, projectManager, removal, items, menu, toolbars, features}};
     ConversionServices conversionServices{
         errors, platform.interaction, platform.files, deviceServices, projectServices, projects, setup};
     frmDesignTargetConverter converter{conversionServices, addIn};
@@ -106,7 +109,11 @@ struct Modules {
                      toolbars,
                      gettingStarted,
                      projects,
+                     save,
+                     saveWarning,
                      messages,
+                     recent,
+                     projectManager,
                      removal,
                      setup,
                      converter,
