@@ -1,7 +1,7 @@
+#include "Apps/fernwick/groups/project_group.h"
 #include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/run/project_argument.h"
 #include "Apps/fernwick/verbs/info_verify.h"
-#include "Apps/fernwick/verbs/project_group.h"
 #include "Apps/fernwick/verbs/project_info.h"
 #include "Apps/fernwick/verbs/verbs.h"
 

@@ -1,10 +1,10 @@
-#include "Apps/fernwick/verbs/group_run.h"
+#include "Apps/fernwick/groups/group_run.h"
 #include "Apps/common/file_names.h"
+#include "Apps/fernwick/groups/project_group.h"
 #include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/options/refusal.h"
 #include "Apps/fernwick/output/plural.h"
 #include "Apps/fernwick/run/project_argument.h"
-#include "Apps/fernwick/verbs/project_group.h"
 #include "Basic/runtime_error.h"
 #include "Host/files/native_path.h"
 #include <algorithm>

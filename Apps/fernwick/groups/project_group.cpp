@@ -1,4 +1,4 @@
-#include "Apps/fernwick/verbs/project_group.h"
+#include "Apps/fernwick/groups/project_group.h"
 #include "Apps/common/file_names.h"
 #include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/options/refusal.h"
