@@ -110,7 +110,7 @@ void printTable(const Report& report, Console& console) {
 Report runProjects(const Options& options, Console& console, RunProject run) {
     auto member = options;
     member.project = projectArgument(options.project);
-    const auto group = projectGroupOf(member.project);
+    const auto group = projectGroupOf(member.project, options.codePage);
     if (group.path.empty()) return run(member, console);
     if (options.dryRun && options.format != Format::Text)
         throw Refusal(kWrongUse, "--dry-run has a JSON document only for a single project, not for a group");

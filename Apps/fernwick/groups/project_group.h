@@ -1,4 +1,6 @@
 #pragma once
+#include "Basic/code_page.h"
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -10,8 +12,8 @@ struct ProjectGroup {
     std::vector<std::string> projects;
 };
 
-/// Each project of a group once. A member that is not a project file is still in the list: opening it fails. Refusal for
+/// Each project of a group once. `given` is the code page of the group file, without which it is detected. A member that is not a project file is still in the list: opening it fails. Refusal for
 /// a group that cannot be read.
-ProjectGroup projectGroupOf(const std::string& path);
+ProjectGroup projectGroupOf(const std::string& path, const std::optional<basic::CodePage>& given);
 
 } // namespace cli

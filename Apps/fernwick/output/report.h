@@ -18,6 +18,8 @@ struct Message {
     std::string file;
     /// Physical line and column in the file, from 1; 0 for none.
     int line = 0, column = 0;
+    /// The column after the word that the message is about; 0 if unknown.
+    int endColumn = 0;
     /// Name of the component and line in its code window; "" and 0 for none.
     std::string component;
     int codeLine = 0;

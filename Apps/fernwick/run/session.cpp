@@ -37,6 +37,7 @@ Session::Session(const Options& options, Console& console)
                     "targets and controls",
                     Tone::Warning);
     auto hostOptions = apps::hostOptionsOf(machine_, controls_);
+    hostOptions.codePage = options.codePage;
     hostOptions.writesFiles = stores();
     if (!stores()) files_->storeNothing();
     hostOptions.handlerFailed = [&console](const basic::ErrObject& error) {

@@ -41,7 +41,7 @@ int showProjects(const ProjectGroup& subject, const Options& options, Console& c
 } // namespace
 
 int runInfo(const Options& options, Console& console) {
-    const auto subject = projectGroupOf(projectArgument(options.project));
+    const auto subject = projectGroupOf(projectArgument(options.project), options.codePage);
     return options.verify ? verifyRoundTrip(subject, options, console) : showProjects(subject, options, console);
 }
 
