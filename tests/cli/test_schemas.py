@@ -216,6 +216,14 @@ class Schemas(unittest.TestCase):
         plan = self.fits("build-plan", "build", "-n", project)
         self.assertTrue(plan["image"].endswith("HelloWorld.0000.qlx"))
         self.assertEqual([s.split("/")[-1] for s in plan["sources"]], ["frmHello.frm"])
+        group = self.project.parent / "All.vbg"
+        group.write_bytes(b"VBGROUP 5.0\r\nStartupProject=HelloWorld.vbp\r\nProject=none.vbp\r\n")
+        plans = self.fits("build-plan", "build", "-n", str(group), status=1)
+        self.assertEqual((plans["project"], plans["exitStatus"]), (str(group), 1))
+        for key in ("project", "device", "sources", "libraries", "steps", "image"):
+            self.assertEqual(plans["projects"][0][key], plan[key])
+        self.assertEqual(plans["projects"][1]["failure"], f"{self.project.parent}/none.vbp: file not found")
+        self.assertFalse((self.project.parent / "HelloWorld.0000.qlx").exists())
         change = self.fits("settings-changes", "settings", "set", "-n", project, "PreCompileSteps", "a", "b")
         self.assertEqual((change["dryRun"], change["changes"][0]["after"]), (True, ["a", "b"]))
         key = r"HKEY_CURRENT_USER\Software\Quinloft"

@@ -3,6 +3,7 @@
 #include "Apps/fernwick/options/options.h"
 #include "Apps/fernwick/output/console.h"
 #include "Apps/fernwick/output/shown_box.h"
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -39,6 +40,11 @@ struct DeviceOutcome {
     std::string reason;
 };
 
+/// What a build would read, run and use.
+struct BuildPlan {
+    std::vector<std::string> sources, libraries, steps;
+};
+
 struct Report {
     std::string verb;
     std::string project;
@@ -52,6 +58,8 @@ struct Report {
     std::vector<DeviceOutcome> devices;
     /// The files that the image depends on.
     std::vector<std::string> inputs;
+    /// Only of a dry run, whose image is the one that a build would write.
+    std::optional<BuildPlan> plan;
     /// The members of a group, whose messages are also in `messages`.
     std::vector<Report> projects;
     int exitStatus = 0;
