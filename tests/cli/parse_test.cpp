@@ -37,6 +37,8 @@ TEST(Parse, BracketsAndCommasAreOrdinaryCharacters) {
 
 TEST(Parse, NamesTheUnknownOption) {
     EXPECT_EQ(parsed({"--nonsense", "build"}).error, "unknown option --nonsense");
+    EXPECT_EQ(parsed({"--device=A", "build"}).error, "--device must be written after the command build");
+    EXPECT_EQ(parsed({"-n", "build"}).error, "-n must be written after the command build");
     EXPECT_EQ(parsed({"build", "A.vbp", "-x"}).error, "unknown option -x");
     EXPECT_EQ(parsed({"settings", "set", "PreCompileSteps", "-x"}).error,
               "unknown option -x; write -- before arguments that begin with a dash");

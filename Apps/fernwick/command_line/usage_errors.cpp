@@ -33,6 +33,13 @@ std::string unknownOption(const CLI::App& verb, const std::string& argument) {
                        mayBeOperand ? "; write -- before arguments that begin with a dash" : near);
 }
 
+/// An option before the command.
+std::string misplacedOption(const CLI::App& app, const CLI::App& verb, const std::string& argument) {
+    const auto name = argument.substr(0, argument.find('='));
+    if (&verb == &app || !verb.get_option_no_throw(name)) return unknownOption(app, argument);
+    return fmt::format("{} must be written after the command {}", name, verb.get_name());
+}
+
 std::string unknownVerb(const CLI::App& app, const std::string& name) {
     for (const auto& [other, own] : kOtherNames)
         if (name == other) return fmt::format("unknown command {}; did you mean {}?", name, own);
@@ -48,8 +55,8 @@ std::string firstOption(const std::vector<std::string>& arguments) {
 
 /// The arguments that nothing takes.
 std::string unexpectedArguments(const CLI::App& app) {
-    if (const auto option = firstOption(app.remaining()); !option.empty()) return unknownOption(app, option);
     const auto& verb = namedVerb(app);
+    if (const auto option = firstOption(app.remaining()); !option.empty()) return misplacedOption(app, verb, option);
     const auto rest = verb.remaining();
     if (const auto option = firstOption(rest); !option.empty()) return unknownOption(verb, option);
     if (&verb == &app) return rest.empty() ? "no command given" : unknownVerb(app, rest.front());
