@@ -12,4 +12,7 @@ inline constexpr std::string_view kErrorReport = "An Error Has Occurred in {loca
                                                  "LastDllError: {lastDllError}\r\n"
                                                  "Please contact Quinloft at {supportAddress}";
 
+inline constexpr std::string_view kListTooLong = "The list has {count} entries, but at most {most} can be stored; the "
+                                                 "stored list was not changed";
+
 } // namespace fernwick::texts

@@ -1,6 +1,7 @@
 // The stored lists: My Devices and the groups of the toolbox.
 #include "Add-in/core/modAddinPrefsManagement.h"
 #include "Add-in/core/preference_keys.h"
+#include "Add-in/core/stored_lists.h"
 
 namespace fernwick {
 
@@ -25,6 +26,7 @@ void modAddinPrefsManagement::readMyDevices(std::uint32_t key) {
 }
 
 bool modAddinPrefsManagement::saveMyDevices() try {
+    requireStorableCount(gMyDevices.size());
     const RegistryKey key{registry_, registry_.OpenOrCreateKey(HKEY_CURRENT_USER, kMyDevicesKey, KEY_ALL_ACCESS)};
     if (!key) return true;
     const auto count = std::int32_t(gMyDevices.size());

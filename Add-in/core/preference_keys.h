@@ -8,8 +8,4 @@ inline constexpr const char* kMyDevicesKey = "SOFTWARE\\Quinloft\\AddinPrefs\\My
 inline constexpr const char* kTavletGroupsKey = "SOFTWARE\\Quinloft\\AddinPrefs\\TavletGroups";
 inline constexpr const char* kAddInKey = "SOFTWARE\\Quinloft\\Embedded Toolkit\\AddIn";
 
-/// Maximum length of a stored list. A list with a larger count is damaged and counts as empty: counts come from stores
-/// that are not trusted.
-inline constexpr int kMostStoredEntries = 65536;
-
 } // namespace fernwick

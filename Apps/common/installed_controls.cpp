@@ -7,6 +7,7 @@ namespace apps {
 const host::DescribedClasses& InstalledControls::described() {
     if (described_) return *described_;
     described_.emplace();
+    if (installation_.empty()) return *described_;
     std::error_code unreadable;
     for (const auto& entry : std::filesystem::directory_iterator(installation_ + "/tavlets", unreadable)) {
         if (entry.path().extension() != ".toml") continue;

@@ -5,8 +5,9 @@ namespace apps {
 
 namespace {
 
-/// Empty without the file: messages then contain no addresses.
+/// Empty without an installation or the file: messages then contain no addresses.
 toml::table makerOf(const std::string& installation) {
+    if (installation.empty()) return {};
     try {
         return toml::parse_file(installation + "/maker.toml");
     } catch (const toml::parse_error&) { return {}; }

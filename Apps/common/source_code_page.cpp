@@ -3,9 +3,7 @@
 
 namespace apps {
 
-namespace {
-
-basic::CodePage codePageOf(host::Host& host, const std::string& path) {
+basic::CodePage codePageOfSource(host::Host& host, const std::string& path) {
     for (const auto& project : host.VBProjects()->items()) {
         const auto own = basic::cast<host::Project>(project);
         if (!own) continue;
@@ -15,12 +13,10 @@ basic::CodePage codePageOf(host::Host& host, const std::string& path) {
     return basic::CodePage::windows1252();
 }
 
-} // namespace
-
 void compileInHostCodePages(Machine& machine, const std::shared_ptr<host::Host>& host) {
     machine.codePageOfSource([open = std::weak_ptr(host)](const std::string& path) {
         const auto host = open.lock();
-        return host ? codePageOf(*host, path) : basic::CodePage::windows1252();
+        return host ? codePageOfSource(*host, path) : basic::CodePage::windows1252();
     });
 }
 

@@ -62,6 +62,7 @@ void DesignTargetMgr::Initialize() {
     targets_.clear();
     positions_.clear();
     problems_.clear();
+    if (root_.empty()) return; // without an installation
     std::vector<Source> sources;
     for (const std::string& path : targetFilesOf(root_ + "/targets", problems_)) readFile(path, sources);
     std::stable_sort(sources.begin(), sources.end(), [](const Source& a, const Source& b) {

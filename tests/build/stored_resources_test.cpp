@@ -34,6 +34,15 @@ TEST_F(StoredResources, AShorterListBlanksTheOldKeys) {
                                            "Dependencies0=x,X"));
 }
 
+TEST_F(StoredResources, AListThatCouldNotBeReadAgainIsNotWritten) {
+    dependencies.WriteProjectDependencies(project, {{{"a", "A"}}});
+    trace.effects.clear();
+    dependencies.WriteProjectDependencies(project, {std::vector<tResource>(65537, {"x", "X"})});
+    EXPECT_THAT(trace.effects, IsEmpty());
+    EXPECT_EQ(read().Count(), 1);
+    EXPECT_THAT(errors.seen, ElementsAre("modDependencyManagement.WriteProjectDependencies [6]"));
+}
+
 TEST_F(StoredResources, AnEmptyListLeavesTheCountZero) {
     dependencies.WriteProjectDependencies(project, {});
     EXPECT_EQ(stored("NumDependencies"), "0");

@@ -1,31 +1,35 @@
 #include "Apps/fernwick/options/suggestions.h"
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 namespace {
 
 using cli::didYouMean;
 using cli::nearestName;
+using testing::Each;
+using testing::ElementsAre;
 
 const std::vector<std::string> kVerbs{"build", "check", "deploy", "devices", "dependencies", "validate", "info"};
 
+/// The nearest of the commands for each word.
+std::vector<std::string> nearest(const std::vector<std::string>& words) {
+    std::vector<std::string> found;
+    for (const auto& word : words) found.push_back(nearestName(word, kVerbs));
+    return found;
+}
+
 TEST(Suggestions, FindsTypingMistakes) {
-    EXPECT_EQ(nearestName("biuld", kVerbs), "build");
-    EXPECT_EQ(nearestName("buid", kVerbs), "build");
-    EXPECT_EQ(nearestName("device", kVerbs), "devices");
-    EXPECT_EQ(nearestName("DEPLOI", kVerbs), "deploy");
+    EXPECT_THAT(nearest({"biuld", "buid", "device", "DEPLOI"}), ElementsAre("build", "build", "devices", "deploy"));
 }
 
 TEST(Suggestions, CompletesABeginning) {
-    EXPECT_EQ(nearestName("val", kVerbs), "validate");
-    EXPECT_EQ(nearestName("depend", kVerbs), "dependencies");
+    EXPECT_THAT(nearest({"val", "depend"}), ElementsAre("validate", "dependencies"));
 }
 
 TEST(Suggestions, PrefersTheFewestMistakes) { EXPECT_EQ(nearestName("cheek", {"cheese", "check"}), "check"); }
 
 TEST(Suggestions, FindsNothingInOtherWords) {
-    EXPECT_EQ(nearestName("", kVerbs), "");
-    EXPECT_EQ(nearestName("x", kVerbs), "");
-    EXPECT_EQ(nearestName("bake", kVerbs), "");
+    EXPECT_THAT(nearest({"", "x", "bake"}), Each(""));
     EXPECT_EQ(didYouMean("bake", kVerbs), "");
 }
 

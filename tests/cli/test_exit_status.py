@@ -279,6 +279,23 @@ class ExitStatus(unittest.TestCase):
         if not CAN_DROP_ROOT:
             self.skipTest("unreadable and read-only files need another user than root: install setpriv")
 
+    def test_each_command_that_opens_a_project_takes_its_code_page(self):
+        takers = [verb for verb in self.verbs
+                  if "--code-page" in self.template.fernwick("help", verb, check=True).stdout]
+        self.assertEqual(takers, ["build", "validate", "clean", "package", "deploy", "check", "info", "messages",
+                                  "settings", "dependencies"])
+        for verb in takers:
+            arguments = (PROJECT,) if verb == "check" else TABLE[verb]["good"].arguments
+            with self.subTest(verb), prepared(self.template, Cell(GOOD)) as home:
+                for page in ("12345", "x"):
+                    wrong = home.fernwick(verb, *arguments, "--code-page", page)
+                    self.assertEqual((wrong.returncode, wrong.stdout), (MISUSED, ""))
+                    self.assertRegex(wrong.stderr, rf"--code-page: {page} is not a known code page; these are known: .*950")
+                given = home.fernwick(verb, *arguments, "--code-page", "950", "-v")
+                self.assertEqual(given.returncode, GOOD, given.stderr)
+                if verb != "clean":  # reads only the name
+                    self.assertIn("HelloWorld.vbp: read in code page 950, given on the command line", given.stderr)
+
     def test_a_full_disk_leaves_all_files_as_they_are(self):
         for verb, *arguments in (("settings", "set", PROJECT, "DefaultFontSize", "9"),
                                  ("dependencies", PROJECT, "add", "HelloWorld/data.txt"),

@@ -16,6 +16,12 @@ def schema(name):
     return jsonschema.Draft7Validator(loaded)
 
 
+def regions(done):
+    """Where the findings of a SARIF document are."""
+    results = json.loads(done.stdout)["runs"][0]["results"]
+    return [result["locations"][0]["physicalLocation"]["region"] for result in results]
+
+
 class Schemas(unittest.TestCase):
     def setUp(self):
         self.home = Home()
@@ -175,8 +181,23 @@ class Schemas(unittest.TestCase):
     def test_sarif_ends_a_region_after_the_word(self):
         (self.home.work / "a.bas").write_bytes(b"Sub A()\r\n  x = 1 xyz9_ 2\r\nEnd Sub\r\n")
         done = self.home.fernwick("check", "a.bas", "--format", "sarif")
-        regions = [r["locations"][0]["physicalLocation"]["region"] for r in json.loads(done.stdout)["runs"][0]["results"]]
-        self.assertIn({"startLine": 2, "startColumn": 9, "endColumn": 14}, regions)
+        self.assertIn({"startLine": 2, "startColumn": 9, "endColumn": 14}, regions(done))
+
+    def test_sarif_ends_regions_of_standard_input(self):
+        done = self.home.fernwick("check", "-", "--format", "sarif", input="Sub A()\n  x = 1 xyz9_ 2\nEnd Sub\n", stdin=None)
+        self.assertIn({"startLine": 2, "startColumn": 9, "endColumn": 14}, regions(done))
+
+    def test_sarif_counts_characters_of_the_code_page(self):
+        line = "    計算 = 數量 數量\r\n".encode("big5")
+        (self.home.work / "a.bas").write_bytes(b"Sub A()\r\n" + line + b"End Sub\r\n")
+        done = self.home.fernwick("check", "a.bas", "--code-page", "950", "--format", "sarif")
+        end = {"startLine": 2, "startColumn": 13, "endColumn": 15}
+        self.assertEqual(regions(done), [end])
+        form = self.project.parent / "frmHello.frm"
+        head = form.read_bytes().count(b"\r\n")
+        form.write_bytes(form.read_bytes() + b"\r\nSub A()\r\n" + line + b"End Sub\r\n")
+        done = self.home.fernwick("build", str(self.project), "--code-page", "950", "--format", "sarif")
+        self.assertEqual(regions(done), [end | {"startLine": head + 3}])
 
     def test_commands_that_only_change_something_have_a_document(self):
         project = str(self.project)
@@ -195,6 +216,14 @@ class Schemas(unittest.TestCase):
         plan = self.fits("build-plan", "build", "-n", project)
         self.assertTrue(plan["image"].endswith("HelloWorld.0000.qlx"))
         self.assertEqual([s.split("/")[-1] for s in plan["sources"]], ["frmHello.frm"])
+        group = self.project.parent / "All.vbg"
+        group.write_bytes(b"VBGROUP 5.0\r\nStartupProject=HelloWorld.vbp\r\nProject=none.vbp\r\n")
+        plans = self.fits("build-plan", "build", "-n", str(group), status=1)
+        self.assertEqual((plans["project"], plans["exitStatus"]), (str(group), 1))
+        for key in ("project", "device", "sources", "libraries", "steps", "image"):
+            self.assertEqual(plans["projects"][0][key], plan[key])
+        self.assertEqual(plans["projects"][1]["failure"], f"{self.project.parent}/none.vbp: file not found")
+        self.assertFalse((self.project.parent / "HelloWorld.0000.qlx").exists())
         change = self.fits("settings-changes", "settings", "set", "-n", project, "PreCompileSteps", "a", "b")
         self.assertEqual((change["dryRun"], change["changes"][0]["after"]), (True, ["a", "b"]))
         key = r"HKEY_CURRENT_USER\Software\Quinloft"

@@ -111,6 +111,16 @@ TEST_F(Preferences, WithoutAccessToTheMachineShowsTheTutorialEachTime) {
     EXPECT_EQ(stored(kMachine, kPrefs, "StartTutorial"), "");
 }
 
+TEST_F(Preferences, AListOfDevicesThatCouldNotBeReadAgainIsNotSaved) {
+    prefs.gMyDevices = {"PalmOS"};
+    EXPECT_TRUE(prefs.saveMyDevices());
+    prefs.gMyDevices.assign(65537, "PocketPC");
+    EXPECT_FALSE(prefs.saveMyDevices());
+    EXPECT_EQ(stored(kUser, kMyDevices, "MyDeviceCount"), "4:1");
+    EXPECT_EQ(stored(kUser, kMyDevices, "MyDevice0"), "1:PalmOS");
+    EXPECT_EQ(errors.seen, Texts{"modAddinPrefsManagement.saveMyDevices [6]"});
+}
+
 TEST_F(Preferences, AMissingDeviceLeavesNoGapAndSavingRenumbers) {
     setNumber(kUser, kMyDevices, "MyDeviceCount", 3);
     setText(kUser, kMyDevices, "MyDevice0", "PalmOS");

@@ -151,6 +151,26 @@ TEST_F(ProjectLists, ClearingTheStepsKeepsTheEntries) {
     EXPECT_EQ(stored(project, "PostCompileStep0", kOptions), "a");
 }
 
+TEST_F(ProjectLists, AListThatCouldNotBeReadAgainIsNotWritten) {
+    const Texts most(65536, "x");
+    project->SetPreCompileSteps(Array<std::string>{1, most});
+    EXPECT_EQ(project->PreCompileStepCount(), 65536);
+    EXPECT_TRUE(reports().empty());
+
+    const auto vbProject = traced();
+    vbProject->properties = {{{kDependencies, "NumFontDependencies"}, "1"}, {{kDependencies, "FontDependency1"}, "a"}};
+    const auto other = wrap(vbProject);
+    trace = {};
+    const Texts tooMany(65537, "x");
+    other->WriteProjectFontDependencies(tooMany);
+    other->SetPostCompileSteps(Array<std::string>{0, tooMany});
+    other->SetCompileTargetsList(Array<std::string>{1, tooMany});
+    EXPECT_TRUE(trace.effects.empty());
+    EXPECT_EQ(other->GetFontDependencies(), Texts{"a"});
+    EXPECT_EQ(reports(), (Texts{"Hello clsQLProject.WriteProjectFontDependencies [6]",
+                                "clsQLProject.SetCompileSteps [6]", "clsQLProject.SetCompileTargetsList [6]"}));
+}
+
 TEST_F(ProjectLists, EachFailingCallIsReportedOnceAndTheRestWritten) {
     int calls = 1;
     for (int failing = 1; failing <= calls; ++failing) {

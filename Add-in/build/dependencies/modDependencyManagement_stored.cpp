@@ -1,6 +1,6 @@
 // The list of dependency files that is stored in the project.
 #include "Add-in/build/dependencies/modDependencyManagement.h"
-#include "Add-in/core/preference_keys.h"
+#include "Add-in/core/stored_lists.h"
 #include "Basic/conversions.h"
 #include "Basic/text.h"
 #include "Basic/text_search.h"
@@ -53,6 +53,7 @@ void modDependencyManagement::ClearProjectDependencies(const Project& project) {
 
 void modDependencyManagement::WriteProjectDependencies(const Project& project, const tResourceList& list) {
     Procedure here{services_.errors, "modDependencyManagement.WriteProjectDependencies"};
+    if (!here([&] { requireStorableCount(list.entries.size()); })) return;
     ClearProjectDependencies(project);
     here([&] { project->WriteProperty(kProjectDependencies, kNumDependencies, basic::CStr(list.Count())); });
     std::int32_t index = 0;

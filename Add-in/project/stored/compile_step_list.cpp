@@ -1,5 +1,5 @@
 #include "Add-in/project/stored/compile_step_list.h"
-#include "Add-in/core/preference_keys.h"
+#include "Add-in/core/stored_lists.h"
 #include "Basic/conversions.h"
 
 namespace fernwick {
@@ -29,7 +29,9 @@ void CompileStepList::set(const Array<std::string>& list) {
     std::int32_t lower = 0, upper = -1;
     here([&] { lower = list.LBound(); });
     here([&] { upper = list.UBound(); });
-    store().write(here, kCompilerOptionsSection, key("Count"), basic::CStr(upper - lower + 1));
+    const auto count = upper - lower + 1;
+    if (!here([&] { requireStorableCount(std::size_t(count)); })) return;
+    store().write(here, kCompilerOptionsSection, key("Count"), basic::CStr(count));
     for (std::int32_t i = lower; i <= upper; ++i)
         store().write(here, kCompilerOptionsSection, key(std::to_string(i - lower)), list[i]);
 }

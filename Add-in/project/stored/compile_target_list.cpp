@@ -1,4 +1,5 @@
 #include "Add-in/project/stored/compile_target_list.h"
+#include "Add-in/core/stored_lists.h"
 #include "Basic/conversions.h"
 #include <algorithm>
 
@@ -27,6 +28,7 @@ void CompileTargetList::set(const Array<std::string>& list) {
     Procedure here{store_.errors(), "clsQLProject.SetCompileTargetsList"};
     std::int32_t last = 0;
     if (!here([&] { last = list.UBound(); })) return;
+    if (last > 0 && !here([&] { requireStorableCount(std::size_t(last)); })) return;
     store_.write(here, kGlobalSection, "numCompileTargets", basic::CStr(last));
     for (std::int32_t i = 1; i <= last; ++i)
         here([&] { store_.project->WriteProperty(kGlobalSection, targetKey(i), list[i]); });

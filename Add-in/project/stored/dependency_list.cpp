@@ -1,4 +1,5 @@
 #include "Add-in/project/stored/dependency_list.h"
+#include "Add-in/core/stored_lists.h"
 #include "Basic/conversions.h"
 
 namespace fernwick {
@@ -23,6 +24,7 @@ void DependencyList::clear() {
 
 void DependencyList::write(const Values& entries) {
     Procedure here{store().errors(), location(writer_)};
+    if (!here([&] { requireStorableCount(entries.size()); })) return;
     clear();
     setCount(std::int32_t(entries.size()));
     std::int32_t index = 0;

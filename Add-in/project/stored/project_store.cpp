@@ -1,5 +1,5 @@
 #include "Add-in/project/stored/project_store.h"
-#include "Add-in/core/preference_keys.h"
+#include "Add-in/core/stored_lists.h"
 #include "Basic/conversions.h"
 
 namespace fernwick {

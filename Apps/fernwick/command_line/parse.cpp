@@ -1,9 +1,11 @@
 #include "Apps/fernwick/command_line/parse.h"
 #include "Apps/fernwick/command_line/help_text.h"
+#include "Apps/fernwick/command_line/marked_arguments.h"
 #include "Apps/fernwick/command_line/usage_errors.h"
 #include "Apps/fernwick/command_line/verb_line.h"
 #include "Apps/fernwick/options/suggestions.h"
 #include "Apps/fernwick/output/version_line.h"
+#include <algorithm>
 #include <fmt/format.h>
 
 namespace cli {
@@ -18,7 +20,7 @@ struct CommandLine {
         app.require_subcommand(1);
         app.option_defaults()->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
         app.set_help_flag("-h,--help", "Print this help and exit");
-        app.set_version_flag("--version", versionLine(), "Print the version and exit");
+        app.set_version_flag("-V,--version", versionLine(), "Print the version and exit");
         addCommon(app, raw, {"text", "json", "sarif", "markdown"});
         defineProjectVerbs(app, raw);
         defineReadingVerbs(app, raw);
@@ -27,11 +29,12 @@ struct CommandLine {
         addCommonToVerbs(raw);
         help = app.add_subcommand("help", "Print help on a command or on answers");
         help->add_option("TOPIC", topic, "A command, or answers");
+        help->add_option("ACTION", action, "One of the command's actions, which are on the same page");
         for (auto* verb : app.get_subcommands({})) verb->group("Commands");
     }
 
     Raw raw;
-    std::string topic;
+    std::string topic, action;
     CLI::App app{"Turns Visual Basic projects into applications for handheld devices.", "fernwick"};
     CLI::App* help = nullptr;
 };
@@ -72,8 +75,18 @@ std::string wrongTogether(const Raw& raw, bool hasFormat) {
     return fmt::format("{} has no format {}; use {}", raw.options.verb, raw.format, listedWords(raw.formats));
 }
 
+void removeAllMarks(Raw& raw) {
+    auto& options = raw.options;
+    for (auto* text : {&options.project, &options.action, &options.device, &options.depfile, &options.depfileTarget,
+                       &options.output, &options.sourceName, &options.sourceRoot, &raw.format})
+        removeMarks(*text);
+    for (auto* list : {&options.operands, &raw.answers})
+        for (auto& text : *list) removeMarks(text);
+}
+
 Parsed finish(Raw& raw) {
     auto& options = raw.options;
+    removeAllMarks(raw);
     options.format = formatNamed(raw.format);
     options.color = colorNamed(raw.color);
     options.verbosity = raw.quiet ? Verbosity::Quiet : raw.verbose ? Verbosity::Verbose : Verbosity::Normal;
@@ -110,14 +123,21 @@ Parsed ended(const CommandLine& line, const CLI::ParseError& error, const std::v
     const auto verbs = line.app.get_subcommands();
     if (error.get_exit_code() == int(CLI::ExitCodes::Success))
         return textToPrint(verbs.empty() ? programHelp() : verbs.back()->help());
-    return mistake(usageError(line.app, error), verbs.empty() ? "" : verbs.front()->get_name(), formatIn(arguments));
+    auto text = usageError(line.app, error);
+    removeMarks(text);
+    return mistake(text, verbs.empty() ? "" : verbs.front()->get_name(), formatIn(arguments));
 }
 
-Parsed helpOn(const CLI::App& app, const std::string& topic) {
+bool hasActions(const CLI::App& verb) {
+    return verb.get_name() == "dependencies" || verb.get_option_no_throw("ACTION") != nullptr;
+}
+
+Parsed helpOn(const CLI::App& app, const std::string& topic, const std::string& action) {
     if (topic.empty()) return textToPrint(programHelp());
     if (topic == "answers") return textToPrint(answersHelp());
     const auto verbs = app.get_subcommands([&](const CLI::App* one) { return one->get_name() == topic; });
-    if (!verbs.empty()) return textToPrint(verbs.front()->help());
+    if (!verbs.empty() && (action.empty() || hasActions(*verbs.front()))) return textToPrint(verbs.front()->help());
+    if (!verbs.empty()) return mistake(fmt::format("{} has no action {}", topic, action), topic);
     auto topics = verbNames(app);
     topics.push_back("answers");
     return mistake(fmt::format("no help topic {}{}", topic, didYouMean(topic, topics)), "");
@@ -126,13 +146,18 @@ Parsed helpOn(const CLI::App& app, const std::string& topic) {
 } // namespace
 
 Parsed parseCommandLine(int argc, const char* const* argv) {
+    if (argc <= 1) return textToPrint(programHelp());
     CommandLine line;
+    auto arguments = withMarks(argc, argv);
+    std::reverse(arguments.begin(), arguments.end()); // as the parser expects them
     try {
-        line.app.parse(argc, argv);
+        line.app.parse(std::move(arguments));
     } catch (const CLI::CallForVersion&) {
         return textToPrint(versionLine() + "\n");
     } catch (const CLI::ParseError& error) { return ended(line, error, {argv + std::min(argc, 1), argv + argc}); }
-    return line.help->parsed() ? helpOn(line.app, line.topic) : finish(line.raw);
+    removeMarks(line.topic);
+    removeMarks(line.action);
+    return line.help->parsed() ? helpOn(line.app, line.topic, line.action) : finish(line.raw);
 }
 
 } // namespace cli

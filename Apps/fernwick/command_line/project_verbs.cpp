@@ -31,6 +31,7 @@ void defineBuild(CLI::App& app, Raw& raw) {
         ->needs("--depfile");
     build.add_flag("-n,--dry-run", raw.options.dryRun, "Show what would be compiled and run, without writing anything");
     addOutput(build, raw);
+    addCodePage(build, raw);
     addNoWait(build, raw);
     addSteps(build, raw);
 }
@@ -45,6 +46,7 @@ void defineValidate(CLI::App& app, Raw& raw) {
     validate.add_flag("--forms", raw.options.forms,
                       "Also check the names, properties, events and controls of each form");
     validate.add_flag("--no-store", raw.options.noStore, "Store nothing in the project file");
+    addCodePage(validate, raw);
     addNoWait(validate, raw);
 }
 
@@ -59,6 +61,7 @@ void definePackage(CLI::App& app, Raw& raw) {
     package.add_flag("--verify", raw.options.verify, "Check a package against its manifest")->excludes("--list");
     addAnswers(package, raw);
     addOutput(package, raw);
+    addCodePage(package, raw);
     addNoWait(package, raw);
     addSteps(package, raw);
 }
@@ -68,6 +71,7 @@ void defineClean(CLI::App& app, Raw& raw) {
                           "fernwick clean AddressBook.vbp");
     addProject(clean, raw);
     clean.add_option("--output", raw.options.output, "Folder that was given to build or package")->type_name("DIR");
+    addCodePage(clean, raw);
     addNoWait(clean, raw);
     addDryRun(clean, raw);
 }
@@ -79,6 +83,7 @@ void defineDeploy(CLI::App& app, Raw& raw) {
     addDevices(deploy, raw, kOwnDevice);
     addAnswers(deploy, raw);
     addOutput(deploy, raw);
+    addCodePage(deploy, raw);
     addNoWait(deploy, raw);
     addSteps(deploy, raw);
 }

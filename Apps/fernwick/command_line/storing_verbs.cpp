@@ -25,6 +25,7 @@ void defineSettings(CLI::App& app, Raw& raw) {
     settings.add_option("OPERANDS", raw.options.operands,
                         "list [PROJECT] | get [PROJECT] NAME | set [PROJECT] NAME VALUE... | reset [PROJECT] NAME");
     settings.add_flag("--all", raw.options.all, "Reset every setting");
+    addCodePage(settings, raw);
     addNoWait(settings, raw);
     addDryRun(settings, raw);
     addAnswers(settings, raw);
@@ -51,6 +52,7 @@ void defineDependencies(CLI::App& app, Raw& raw) {
                                  "fernwick dependencies AddressBook.vbp add data/cities.pdb logo.bmp");
     dependencies.add_option("OPERANDS", raw.options.operands, "[PROJECT] [list | add FILE... | remove FILE...]");
     addAnswers(dependencies, raw);
+    addCodePage(dependencies, raw);
     addNoWait(dependencies, raw);
 }
 

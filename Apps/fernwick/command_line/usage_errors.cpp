@@ -1,5 +1,6 @@
 #include "Apps/fernwick/command_line/usage_errors.h"
 #include "Apps/fernwick/options/suggestions.h"
+#include <algorithm>
 #include <fmt/format.h>
 
 namespace cli {
@@ -26,7 +27,17 @@ std::vector<std::string> optionNames(const CLI::App& verb) {
 
 std::string unknownOption(const CLI::App& verb, const std::string& argument) {
     const auto name = argument.substr(0, argument.find('='));
-    return fmt::format("unknown option {}{}", name, didYouMean(name, optionNames(verb)));
+    const auto near = didYouMean(name, optionNames(verb));
+    const bool mayBeOperand = near.empty() && verb.get_option_no_throw("OPERANDS") != nullptr;
+    return fmt::format("unknown option {}{}", name,
+                       mayBeOperand ? "; write -- before arguments that begin with a dash" : near);
+}
+
+/// An option before the command.
+std::string misplacedOption(const CLI::App& app, const CLI::App& verb, const std::string& argument) {
+    const auto name = argument.substr(0, argument.find('='));
+    if (&verb == &app || !verb.get_option_no_throw(name)) return unknownOption(app, argument);
+    return fmt::format("{} must be written after the command {}", name, verb.get_name());
 }
 
 std::string unknownVerb(const CLI::App& app, const std::string& name) {
@@ -35,12 +46,19 @@ std::string unknownVerb(const CLI::App& app, const std::string& name) {
     return fmt::format("unknown command {}{}", name, didYouMean(name, verbNames(app)));
 }
 
+/// "" if none of the arguments looks like an option.
+std::string firstOption(const std::vector<std::string>& arguments) {
+    const auto isOption = [](const std::string& argument) { return argument.size() > 1 && argument.front() == '-'; };
+    const auto found = std::find_if(arguments.begin(), arguments.end(), isOption);
+    return found == arguments.end() ? std::string() : *found;
+}
+
 /// The arguments that nothing takes.
 std::string unexpectedArguments(const CLI::App& app) {
     const auto& verb = namedVerb(app);
+    if (const auto option = firstOption(app.remaining()); !option.empty()) return misplacedOption(app, verb, option);
     const auto rest = verb.remaining();
-    for (const auto& argument : rest)
-        if (argument.size() > 1 && argument.front() == '-') return unknownOption(verb, argument);
+    if (const auto option = firstOption(rest); !option.empty()) return unknownOption(verb, option);
     if (&verb == &app) return rest.empty() ? "no command given" : unknownVerb(app, rest.front());
     return fmt::format("unexpected argument {}", rest.empty() ? "" : rest.front());
 }

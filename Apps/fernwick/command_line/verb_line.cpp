@@ -2,6 +2,7 @@
 #include "Apps/fernwick/command_line/usage_errors.h"
 #include "Apps/fernwick/options/suggestions.h"
 #include <algorithm>
+#include <fmt/format.h>
 
 namespace cli {
 
@@ -11,6 +12,17 @@ std::vector<std::string> formatsOf(Result result) {
     if (result == Result::Messages) return {"text", "json", "sarif"};
     if (result == Result::Pages) return {"text", "json", "markdown"};
     return {"text", "json"};
+}
+
+/// Returns the error text for a number that is not a code page, "" for others.
+std::string refusalOfCodePage(const std::string& text) {
+    std::string known;
+    for (const auto& page : basic::CodePage::all()) {
+        const auto number = std::to_string(page.number);
+        if (number == text) return {};
+        known += (known.empty() ? "" : ", ") + number;
+    }
+    return fmt::format("{} is not a known code page; these are known: {}", text, known);
 }
 
 } // namespace
@@ -73,6 +85,15 @@ void addOutput(CLI::App& verb, Raw& raw) {
 
 void addNoWait(CLI::App& verb, Raw& raw) {
     verb.add_flag("--no-wait", raw.options.noWait, "Fail if another run writes the project, instead of waiting");
+}
+
+void addCodePage(CLI::App& verb, Raw& raw) {
+    verb.add_option_function<std::string>(
+            "--code-page",
+            [&raw](const std::string& number) { raw.options.codePage = basic::CodePage(std::stoi(number)); },
+            "Code page of files that are not UTF-8 (default: detected)")
+        ->check(refusalOfCodePage)
+        ->type_name("N");
 }
 
 void addDryRun(CLI::App& verb, Raw& raw) {

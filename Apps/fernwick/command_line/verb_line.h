@@ -48,6 +48,8 @@ void addSteps(CLI::App& verb, Raw& raw);
 void addOutput(CLI::App& verb, Raw& raw);
 /// --no-wait.
 void addNoWait(CLI::App& verb, Raw& raw);
+/// --code-page, for each command that opens a project or a source.
+void addCodePage(CLI::App& verb, Raw& raw);
 /// --dry-run of a command that only writes.
 void addDryRun(CLI::App& verb, Raw& raw);
 

@@ -27,7 +27,7 @@ _fernwick_settings() { _fernwick_help Settings: help settings; }
 
 _fernwick_formats() { _fernwick_words "$(fernwick help $verb 2>/dev/null | sed -n 's/^  --format .*: //p' | sed 's/,\| or / /g')"; }
 
-_fernwick_options='--format|--color|--device|--depfile|--answer|--code-page|--source-root' # with a value
+_fernwick_options='--format|--color|--device|--depfile|--depfile-target|--output|--name|--answer|--code-page|--source-root' # with a value
 
 _fernwick() {
   local cur=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} verb= action= word

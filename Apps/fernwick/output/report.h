@@ -3,6 +3,7 @@
 #include "Apps/fernwick/options/options.h"
 #include "Apps/fernwick/output/console.h"
 #include "Apps/fernwick/output/shown_box.h"
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -18,6 +19,8 @@ struct Message {
     std::string file;
     /// Physical line and column in the file, from 1; 0 for none.
     int line = 0, column = 0;
+    /// The column after the word that the message is about; 0 if unknown.
+    int endColumn = 0;
     /// Name of the component and line in its code window; "" and 0 for none.
     std::string component;
     int codeLine = 0;
@@ -37,6 +40,11 @@ struct DeviceOutcome {
     std::string reason;
 };
 
+/// What a build would read, run and use.
+struct BuildPlan {
+    std::vector<std::string> sources, libraries, steps;
+};
+
 struct Report {
     std::string verb;
     std::string project;
@@ -50,6 +58,8 @@ struct Report {
     std::vector<DeviceOutcome> devices;
     /// The files that the image depends on.
     std::vector<std::string> inputs;
+    /// Only of a dry run, whose image is the one that a build would write.
+    std::optional<BuildPlan> plan;
     /// The members of a group, whose messages are also in `messages`.
     std::vector<Report> projects;
     int exitStatus = 0;

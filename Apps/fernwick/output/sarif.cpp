@@ -7,7 +7,6 @@
 #include "Apps/fernwick/output/report.h"
 #include "Apps/fernwick/output/rule_names.h"
 #include "Apps/fernwick/output/source_uri.h"
-#include "Apps/fernwick/output/token_ends.h"
 #include <fmt/format.h>
 #include <set>
 
@@ -23,7 +22,7 @@ public:
     Locations(const Report& report, const std::string& sourceRoot) : project_(report.project), root_(sourceRoot) {}
 
     /// A message without a file is located at the project; without a project it has no location.
-    Json of(const Message& message) {
+    Json of(const Message& message) const {
         const auto& path = message.file.empty() ? project_ : message.file;
         if (path.empty()) return Json::array();
         Json physical{{"artifactLocation", artifact(path)}};
@@ -38,18 +37,16 @@ private:
         if (relative.empty()) return {{"uri", fileUri(path)}};
         return {{"uri", relative}, {"uriBaseId", kSourceRootId}};
     }
-    Json region(const Message& message) {
+    static Json region(const Message& message) {
         Json region{{"startLine", message.line}};
         if (message.column == 0) return region;
         region["startColumn"] = message.column;
-        if (const auto end = ends_.endColumn(message.file, message.line, message.column); end > 0)
-            region["endColumn"] = end;
+        if (message.endColumn > 0) region["endColumn"] = message.endColumn;
         return region;
     }
 
     const std::string& project_;
     SourceRoot root_;
-    TokenEnds ends_;
 };
 
 /// Including those of the devices.
@@ -90,7 +87,7 @@ Json sarifDriver(const std::set<int>& numbers) {
     return driver;
 }
 
-Json sarifResult(const Message& message, Locations& locations) {
+Json sarifResult(const Message& message, const Locations& locations) {
     return {{"ruleId", ruleId(message.number)},
             {"level", message.isError ? "error" : "warning"},
             {"message", {{"text", message.text}}},
@@ -116,7 +113,7 @@ Json sarifInvocation(const Report& report) {
 std::string sarifOf(const Report& report, const std::string& sourceRoot) {
     Json results = Json::array();
     std::set<int> numbers;
-    Locations locations{report, sourceRoot};
+    const Locations locations{report, sourceRoot};
     for (const auto* message : allMessages(report)) {
         numbers.insert(message->number);
         results.push_back(sarifResult(*message, locations));

@@ -1,8 +1,7 @@
 #include "Apps/fernwick/output/token_ends.h"
-#include "Basic/runtime_error.h"
+#include "Basic/detection/code_page_detection.h"
 #include "Basic/utf8.h"
 #include "Host/files/byte_order_mark.h"
-#include "Host/files/project_code_page.h"
 #include "Host/files/text_file.h"
 
 namespace cli {
@@ -21,21 +20,15 @@ std::u32string charactersOf(std::string_view text) {
 
 } // namespace
 
-const TokenEnds::Lines& TokenEnds::linesOf(const std::string& path) {
-    const auto [file, isNew] = files_.try_emplace(path);
-    if (!isNew) return file->second;
-    host::FileContent content;
-    if (basic::attempt([&] { content = host::readFile(path); }).Number != 0) return file->second;
-    const auto page = host::codePageOfSource(content.bytes).page;
-    for (const auto& line : host::splitLines(host::withoutByteOrderMark(content.bytes)))
-        file->second.push_back(charactersOf(page.decode(line.text)));
-    return file->second;
+TokenEnds::TokenEnds(std::string_view bytes, const basic::CodePage& page) {
+    const auto own = basic::codePageOfFile(bytes, page);
+    for (const auto& line : host::splitLines(host::withoutByteOrderMark(bytes)))
+        lines_.push_back(charactersOf(own.decode(line.text)));
 }
 
-int TokenEnds::endColumn(const std::string& path, int line, int column) {
-    const auto& lines = linesOf(path);
-    if (line < 1 || std::size_t(line) > lines.size()) return 0;
-    const auto& text = lines[std::size_t(line) - 1];
+int TokenEnds::endColumn(int line, int column) const {
+    if (line < 1 || std::size_t(line) > lines_.size()) return 0;
+    const auto& text = lines_[std::size_t(line) - 1];
     if (column < 1 || std::size_t(column) > text.size()) return 0;
     auto end = std::size_t(column); // after one character
     if (isWordCharacter(text[end - 1]))

@@ -7,12 +7,43 @@ namespace cli {
 
 namespace {
 
-struct BuildPlan {
-    std::vector<std::string> sources, libraries, steps;
-    std::string device, image;
-};
+std::string textOfPlan(const Report& report) {
+    std::string text;
+    if (!report.plan) return text;
+    const auto add = [&](const char* what, const std::string& value) { text += fmt::format("{:<9}{}\n", what, value); };
+    add("project", report.project);
+    add("device", report.device);
+    for (const auto& source : report.plan->sources) add("source", source);
+    for (const auto& library : report.plan->libraries) add("library", library);
+    for (const auto& step : report.plan->steps) add("step", step);
+    add("image", report.image);
+    return text;
+}
 
-BuildPlan planOf(Session& session, const std::string& image) {
+Json membersOf(const Report& report) {
+    if (!report.plan)
+        return {{"project", report.project}, {"exitStatus", report.exitStatus}, {"failure", report.failure}};
+    return {{"project", report.project},           {"device", report.device},     {"sources", report.plan->sources},
+            {"libraries", report.plan->libraries}, {"steps", report.plan->steps}, {"image", report.image}};
+}
+
+Json jsonOfPlan(const Report& report) {
+    auto json = jsonResult("build");
+    json["dryRun"] = true;
+    if (report.plan) {
+        json.update(membersOf(report));
+        return json;
+    }
+    json["project"] = report.project;
+    json["exitStatus"] = report.exitStatus;
+    json["projects"] = Json::array();
+    for (const auto& project : report.projects) json["projects"].push_back(membersOf(project));
+    return json;
+}
+
+} // namespace
+
+Report plannedBuild(Session& session, const std::string& image) {
     auto& files = session.machine().platform().files;
     BuildPlan plan;
     for (const auto& component : session.project()->VBComponents()->items())
@@ -20,37 +51,20 @@ BuildPlan planOf(Session& session, const std::string& image) {
     for (const auto& reference : session.project()->References()->items())
         if (!reference->BuiltIn()) plan.libraries.push_back(reference->FullPath());
     plan.steps = apps::allSteps(*session.settings());
-    plan.device = session.settings()->TargetDevice();
-    plan.image = image;
-    return plan;
+    Report report;
+    report.verb = "build";
+    report.project = session.path();
+    report.device = session.settings()->TargetDevice();
+    report.image = image;
+    report.plan = std::move(plan);
+    return report;
 }
 
-std::string textOfPlan(const std::string& project, const BuildPlan& plan) {
-    std::string text = fmt::format("project  {}\ndevice   {}\n", project, plan.device);
-    for (const auto& source : plan.sources) text += fmt::format("source   {}\n", source);
-    for (const auto& library : plan.libraries) text += fmt::format("library  {}\n", library);
-    for (const auto& step : plan.steps) text += fmt::format("step     {}\n", step);
-    return text + fmt::format("image    {}\n", plan.image);
-}
-
-Json jsonOfPlan(const std::string& project, const BuildPlan& plan) {
-    auto json = jsonResult("build");
-    json["dryRun"] = true;
-    json["project"] = project;
-    json["device"] = plan.device;
-    json["sources"] = plan.sources;
-    json["libraries"] = plan.libraries;
-    json["steps"] = plan.steps;
-    json["image"] = plan.image;
-    return json;
-}
-
-} // namespace
-
-void printPlan(Session& session, const std::string& image, const Options& options, Console& console) {
-    const auto plan = planOf(session, image);
-    if (options.format == Format::Json) console.out(dumpJson(jsonOfPlan(session.path(), plan)));
-    if (options.format == Format::Text) console.out(textOfPlan(session.path(), plan));
+void printPlan(const Report& report, const Options& options, Console& console) {
+    if (options.format == Format::Json) console.out(dumpJson(jsonOfPlan(report)));
+    if (options.format != Format::Text) return;
+    console.out(textOfPlan(report));
+    for (const auto& project : report.projects) console.out(textOfPlan(project));
 }
 
 } // namespace cli

@@ -1,10 +1,15 @@
 #pragma once
-// `build --dry-run`.
+// What a build would do, for --dry-run.
+#include "Apps/fernwick/output/report.h"
 #include "Apps/fernwick/run/session.h"
 
 namespace cli {
 
-/// Prints what a build would read, run and write. Requires a session after takeUp().
-void printPlan(Session& session, const std::string& image, const Options& options, Console& console);
+/// Returns the plan of a build of the open project, which would write `image`.
+Report plannedBuild(Session& session, const std::string& image);
+
+/// Prints the plan of a project, or those of a group's projects, in the requested format. Schema:
+/// installation/schemas/build-plan-1.json.
+void printPlan(const Report& report, const Options& options, Console& console);
 
 } // namespace cli

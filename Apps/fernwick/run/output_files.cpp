@@ -18,17 +18,25 @@ bool isOutput(const std::string& name) {
 
 } // namespace
 
+bool makesImage(const Options& options) { return options.verb != "validate"; }
+
+std::string reportNameOf(const std::string& project) { return host::baseNameOf(project) + ".report.json"; }
+
 void requireWritableFolder(const std::string& folder) {
     if (host::isReadOnly(folder)) throw Refusal(kMachineTrouble, folder + ": the folder is read-only");
 }
 
-void OutputFiles::redirect(const std::string& projectFolder, const std::string& output) {
+void createOutputFolder(const std::string& output) {
     std::error_code failed;
     const auto folder = fs::absolute(output).lexically_normal();
     fs::create_directories(folder, failed);
     if (failed) throw Refusal(kMachineTrouble, folder.string() + ": cannot be created: " + failed.message());
-    output_ = fs::canonical(folder).string();
-    requireWritableFolder(output_);
+    requireWritableFolder(folder);
+}
+
+void OutputFiles::redirect(const std::string& projectFolder, const std::string& output) {
+    std::error_code ignored;
+    output_ = fs::weakly_canonical(fs::absolute(output, ignored), ignored).string();
     projectFolder_ = Canonical(projectFolder);
 }
 

@@ -3,6 +3,7 @@
 #include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/options/refusal.h"
 #include <filesystem>
+#include <fmt/format.h>
 #include <vector>
 
 namespace cli {
@@ -10,14 +11,22 @@ namespace cli {
 namespace fs = std::filesystem;
 
 std::string projectArgument(const std::string& given) {
-    if (!given.empty()) return given;
+    std::error_code ignored;
+    if (!given.empty() && !fs::is_directory(given, ignored)) return given;
     std::vector<std::string> found;
-    std::error_code unreadable;
-    for (const auto& entry : fs::directory_iterator(fs::current_path(), unreadable))
-        if (apps::hasExtension(entry.path().string(), ".vbp")) found.push_back(entry.path().filename().string());
+    for (const auto& entry : fs::directory_iterator(given.empty() ? "." : given, ignored))
+        if (apps::hasExtension(entry.path().string(), ".vbp") && !entry.is_directory(ignored))
+            found.push_back((fs::path(given) / entry.path().filename()).string());
     if (found.size() == 1) return found.front();
-    throw Refusal(kWrongUse, found.empty() ? "there is no .vbp file in this folder; name the project"
-                                           : "there are several .vbp files in this folder; name the project");
+    throw Refusal(kWrongUse, fmt::format("there {} in {}; name the project",
+                                         found.empty() ? "is no .vbp file" : "are several .vbp files",
+                                         given.empty() ? "this folder" : given));
+}
+
+bool namesProject(const std::string& operand) {
+    std::error_code ignored;
+    return apps::hasExtension(operand, ".vbp") || apps::hasExtension(operand, ".vbg") ||
+           fs::is_directory(operand, ignored);
 }
 
 } // namespace cli

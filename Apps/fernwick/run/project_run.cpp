@@ -123,8 +123,8 @@ void endWork(Session& session, Report& report, const Options& options) {
     report.boxes = session.user().shown();
     if (!image.empty()) stampImage(session, image);
     if (options.output.empty()) return;
-    const auto name = files.GetBaseName(session.path()) + ".report.json";
-    files.WriteBytes(files.BuildPath(files.GetAbsolutePathName(options.output), name), jsonOf(report));
+    const auto folder = files.GetAbsolutePathName(options.output);
+    files.WriteBytes(files.BuildPath(folder, reportNameOf(session.path())), jsonOf(report));
 }
 
 } // namespace cli

@@ -38,6 +38,7 @@ Session::Session(const Options& options, Console& console)
                     "targets and controls",
                     Tone::Warning);
     auto hostOptions = apps::hostOptionsOf(machine_, controls_);
+    hostOptions.codePage = options.codePage;
     hostOptions.writesFiles = stores();
     if (!stores()) files_->storeNothing();
     hostOptions.handlerFailed = [&console](const basic::ErrObject& error) {
@@ -61,7 +62,10 @@ void Session::open(const std::string& path) {
         throw Refusal(kWrongUse, fmt::format("{}: is a project group; name one of its projects", path));
     if (host::memberKindOfFile(path_))
         throw Refusal(kWrongUse, fmt::format("{}: is a source file; name the project that contains it", path));
-    if (!options_.output.empty()) files_->redirect(files_->GetParentFolderName(path_), options_.output);
+    if (!options_.output.empty()) {
+        if (!options_.dryRun) createOutputFolder(options_.output);
+        files_->redirect(files_->GetParentFolderName(path_), options_.output);
+    }
     const auto err = basic::attempt([&] { project_ = host_->VBProjects()->AddFromFile(path_); });
     if (err.Number != 0) throw Refusal(statusOfOpening(err.Number), withFile(path_, err.Description));
     printProblems();
@@ -109,8 +113,8 @@ void Session::requireStorableResults() {
     if (stores() && files_->GetAttributes(path_) & fernwick::ReadOnlyAttribute)
         throw Refusal(kMachineTrouble, path_ + ": the project file is read-only, so the results of a build cannot be "
                                                "stored in it; use --output DIR or --no-store");
-    const bool makesImage = options_.verb != "validate";
-    if (options_.output.empty() && (makesImage || stores())) requireWritableFolder(files_->GetParentFolderName(path_));
+    if (options_.output.empty() && (makesImage(options_) || stores()))
+        requireWritableFolder(files_->GetParentFolderName(path_));
     if (!stores()) return;
     for (const auto& component : project_->VBComponents()->items())
         if (component->FileNames(1).find('|') != std::string::npos)

@@ -1,9 +1,9 @@
 #include "Add-in/build/messages/message_numbers.h"
+#include "Apps/fernwick/groups/group_run.h"
 #include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/output/depfile.h"
 #include "Apps/fernwick/run/build_plan.h"
 #include "Apps/fernwick/run/project_run.h"
-#include "Apps/fernwick/verbs/group_run.h"
 #include "Apps/fernwick/verbs/stored_messages.h"
 #include "Apps/fernwick/verbs/verbs.h"
 #include "Components/QLToolkit/source/messages.h"
@@ -42,13 +42,10 @@ void warnOfLineFeeds(Session& session, Console& console) {
             Tone::Warning);
 }
 
-Report dryRun(Session& session, const Options& options, Console& console) {
+Report dryRun(Session& session) {
     session.takeUp();
-    printPlan(session, imagePathOf(session), options, console);
+    auto report = plannedBuild(session, imagePathOf(session));
     session.closeUnsaved();
-    Report report;
-    report.verb = options.verb;
-    report.project = session.path();
     return report;
 }
 
@@ -122,7 +119,7 @@ void writeDepfile(const Options& options, Report& report) {
 Report buildProject(const Options& options, Console& console) {
     Session session{options, console};
     openProject(session, options);
-    if (options.dryRun) return dryRun(session, options, console);
+    if (options.dryRun) return dryRun(session);
     beginWork(session, options);
     Report report = compileAndValidate(session, deviceOfRun(session, options));
     warnOfLineFeeds(session, console);
@@ -135,7 +132,10 @@ Report buildProject(const Options& options, Console& console) {
 
 int runBuild(const Options& options, Console& console) {
     Report report = runProjects(options, console, buildProject);
-    if (options.dryRun) return report.exitStatus;
+    if (options.dryRun) {
+        printPlan(report, options, console);
+        return report.exitStatus;
+    }
     writeDepfile(options, report);
     printProjects(report, options, console, printReport);
     return report.exitStatus;

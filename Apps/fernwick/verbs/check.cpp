@@ -3,6 +3,7 @@
 #include "Apps/fernwick/output/code_page_note.h"
 #include "Apps/fernwick/output/plural.h"
 #include "Apps/fernwick/output/report.h"
+#include "Apps/fernwick/output/token_ends.h"
 #include "Apps/fernwick/run/interruption.h"
 #include "Apps/fernwick/run/project_argument.h"
 #include "Apps/fernwick/verbs/source_list.h"
@@ -51,21 +52,35 @@ Message messageOf(const qltoolkit::Diagnostic& diagnostic) {
 
 constexpr std::string_view kStandardInput = "-";
 
-qltoolkit::CheckResult checkBytes(const std::string& name, std::string bytes, const SourceToCheck& source,
-                                  Console& console) {
-    if (source.page) return qltoolkit::checkSource(name, std::move(bytes), source.constants, *source.page);
-    const auto detected = host::codePageOfSource(bytes);
-    reportCodePage(console, name, detected);
-    return qltoolkit::checkSource(name, std::move(bytes), source.constants, detected.page);
+struct CheckedSource {
+    qltoolkit::CheckResult result;
+    std::vector<Message> messages;
+};
+
+CheckedSource checked(qltoolkit::CheckResult result) {
+    CheckedSource source{std::move(result), {}};
+    for (const auto& diagnostic : source.result.diagnostics) source.messages.push_back(messageOf(diagnostic));
+    return source;
 }
 
-qltoolkit::CheckResult checkOne(const SourceToCheck& source, const Options& options, Console& console) {
+CheckedSource checkBytes(const std::string& name, const std::string& bytes, const SourceToCheck& source,
+                         Console& console) {
+    const auto detected = host::codePageOfSource(bytes, source.page);
+    if (!source.page) reportCodePage(console, name, detected);
+    auto file = checked(qltoolkit::checkSource(name, bytes, source.constants, detected.page));
+    if (file.messages.empty()) return file;
+    const TokenEnds ends{bytes, detected.page};
+    for (auto& message : file.messages) message.endColumn = ends.endColumn(message.line, message.column);
+    return file;
+}
+
+CheckedSource checkOne(const SourceToCheck& source, const Options& options, Console& console) {
     if (source.path == kStandardInput)
         return checkBytes(options.sourceName, {std::istreambuf_iterator<char>(std::cin), {}}, source, console);
     host::FileContent content;
     const auto err = basic::attempt([&] { content = host::readFile(source.path); });
-    if (err.Number != 0) return qltoolkit::checkFile(source.path, source.constants); // reports the error
-    return checkBytes(source.path, std::move(content.bytes), source, console);
+    if (err.Number != 0) return checked(qltoolkit::checkFile(source.path, source.constants)); // reports the error
+    return checkBytes(source.path, content.bytes, source, console);
 }
 
 CheckTotals checkAll(const SourceList& list, const Options& options, Console& console, Report& report) {
@@ -73,14 +88,14 @@ CheckTotals checkAll(const SourceList& list, const Options& options, Console& co
     for (const auto& [project, page] : list.projects) reportCodePage(console, project, page);
     for (const auto& source : list.sources) {
         checkInterrupt();
-        const auto result = checkOne(source, options, console);
+        auto [result, messages] = checkOne(source, options, console);
         console.detail(fmt::format("read {}: {}", source.path, plural(result.lines, "line")));
         ++totals.files;
         totals.lines += result.lines;
         totals.errors += result.errors;
-        for (const auto& diagnostic : result.diagnostics) {
+        for (const auto& diagnostic : result.diagnostics)
             totals.status = std::max(totals.status, statusOfDiagnostic(diagnostic, source.isNamed));
-            auto message = messageOf(diagnostic);
+        for (auto& message : messages) {
             if (options.format == Format::Text) {
                 console.err(textOf(message, ""), message.isError ? Tone::Error : Tone::Warning);
             } else {

@@ -1,34 +1,25 @@
 #include "Apps/common/file_names.h"
+#include "Apps/fernwick/groups/project_group.h"
+#include "Apps/fernwick/groups/project_name.h"
 #include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/options/refusal.h"
 #include "Apps/fernwick/output/file_errors.h"
 #include "Apps/fernwick/output/json_output.h"
+#include "Apps/fernwick/run/output_files.h"
 #include "Apps/fernwick/run/project_argument.h"
 #include "Apps/fernwick/run/project_lock.h"
-#include "Apps/fernwick/verbs/project_group.h"
 #include "Apps/fernwick/verbs/verbs.h"
 #include "Basic/case_folding.h"
 #include "Basic/runtime_error.h"
 #include "Components/QLToolkit/compiler.h"
 #include "Host/files/native_path.h"
 #include "Host/files/path_lookup.h"
-#include "Host/files/project_code_page.h"
-#include "Host/files/project_file.h"
 #include "Host/system/file_system.h"
 #include <fmt/format.h>
 
 namespace cli {
 
 namespace {
-
-std::string projectNameIn(const std::string& path) {
-    const auto content = host::readFile(path);
-    const auto page = host::codePageOfProject(content.bytes, apps::folderOf(path)).page;
-    const host::ProjectFile project{content.bytes, basic::codePageOfFile(content.bytes, page)};
-    if (!project.looksLikeProject()) throw Refusal(kProjectErrors, path + ": is not a Visual Basic project file");
-    const auto name = project.setting("Name").value_or("");
-    return name.empty() ? host::baseNameOf(path) : name;
-}
 
 /// NAME.0000.qlx and NAME.DEVICE.qlpkg.
 bool isMadeFrom(const std::string& name, const std::string& file) {
@@ -43,8 +34,8 @@ void cleanProject(const std::string& given, const Options& options, Console& con
     const auto folder = options.output.empty() ? host::folderOf(project) : files.GetAbsolutePathName(options.output);
     const ProjectLock lock{options.output.empty() ? project : files.BuildPath(folder, host::fileNameOf(project)),
                            !options.noWait, console};
-    const auto name = projectNameIn(project);
-    const auto report = host::baseNameOf(project) + ".report.json";
+    const auto name = projectNameIn(project, options.codePage);
+    const auto report = reportNameOf(project);
     for (const auto& file : files.Files(folder)) {
         const bool isReport = !options.output.empty() && file == report;
         if (!isReport && !isMadeFrom(name, file)) continue;
@@ -60,7 +51,7 @@ void cleanProject(const std::string& given, const Options& options, Console& con
 int runClean(const Options& options, Console& console) {
     auto json = jsonResult("clean");
     json["deleted"] = Json::array();
-    const auto group = projectGroupOf(projectArgument(options.project));
+    const auto group = projectGroupOf(projectArgument(options.project), options.codePage);
     for (const auto& project : group.projects) {
         try {
             cleanProject(project, options, console, json["deleted"]);

@@ -1,4 +1,5 @@
 #include "Apps/fernwick/verbs/dependency_changes.h"
+#include "Add-in/core/stored_lists.h"
 #include "Apps/fernwick/options/exit_status.h"
 #include <fmt/format.h>
 
@@ -102,6 +103,10 @@ bool sameEntries(const tResourceList& a, const tResourceList& b) {
 /// Reads the list back, because a name can contain characters outside the project's code page.
 void storeDependencies(Session& session, const tResourceList& list) {
     auto& dependencies = session.addIn().dependencies;
+    if (list.entries.size() > fernwick::kMostStoredEntries)
+        throw Refusal(kProjectErrors, fmt::format("{}: a project stores at most {} dependencies; the list was not "
+                                                  "changed",
+                                                  session.path(), fernwick::kMostStoredEntries));
     dependencies.WriteProjectDependencies(session.project(), list);
     if (!sameEntries(dependencies.ReadProjectDependencies(session.project()), list))
         throw Refusal(kProjectErrors, fmt::format("{}: the project file cannot store these names; nothing was changed",

@@ -3,6 +3,7 @@
 #include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/options/refusal.h"
 #include "Apps/fernwick/options/suggestions.h"
+#include "Apps/fernwick/run/project_argument.h"
 #include <fmt/format.h>
 
 namespace cli {
@@ -20,10 +21,10 @@ DependencyOperands dependencyOperands(const std::vector<std::string>& operands) 
     auto next = operands.begin();
     bool hasAction = false;
     for (; next != operands.end(); ++next) {
-        if (parsed.project.empty() && apps::hasExtension(*next, ".vbp"))
-            parsed.project = *next;
-        else if (!hasAction && isDependencyAction(*next))
+        if (!hasAction && isDependencyAction(*next))
             parsed.action = *next, hasAction = true;
+        else if (parsed.project.empty() && (hasAction ? apps::hasExtension(*next, ".vbp") : namesProject(*next)))
+            parsed.project = *next;
         else
             break;
     }

@@ -1,8 +1,8 @@
 // `deploy` and `package`.
 #include "Apps/fernwick/devices/device_runs.h"
+#include "Apps/fernwick/groups/group_run.h"
 #include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/run/project_run.h"
-#include "Apps/fernwick/verbs/group_run.h"
 #include "Apps/fernwick/verbs/package_file.h"
 #include "Apps/fernwick/verbs/stored_messages.h"
 #include "Apps/fernwick/verbs/verbs.h"

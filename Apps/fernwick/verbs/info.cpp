@@ -1,7 +1,7 @@
+#include "Apps/fernwick/groups/project_group.h"
 #include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/run/project_argument.h"
 #include "Apps/fernwick/verbs/info_verify.h"
-#include "Apps/fernwick/verbs/project_group.h"
 #include "Apps/fernwick/verbs/project_info.h"
 #include "Apps/fernwick/verbs/verbs.h"
 
@@ -41,7 +41,7 @@ int showProjects(const ProjectGroup& subject, const Options& options, Console& c
 } // namespace
 
 int runInfo(const Options& options, Console& console) {
-    const auto subject = projectGroupOf(projectArgument(options.project));
+    const auto subject = projectGroupOf(projectArgument(options.project), options.codePage);
     return options.verify ? verifyRoundTrip(subject, options, console) : showProjects(subject, options, console);
 }
 

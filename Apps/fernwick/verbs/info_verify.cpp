@@ -23,12 +23,12 @@ std::string verdictName(FileVerdict::Kind kind) {
     return "unreadable";
 }
 
-std::vector<FileVerdict> verdictsOf(const ProjectGroup& subject) {
+std::vector<FileVerdict> verdictsOf(const ProjectGroup& subject, const std::optional<basic::CodePage>& given) {
     std::vector<FileVerdict> verdicts;
-    if (!subject.path.empty()) verdicts.push_back(verifyGroup(subject.path));
+    if (!subject.path.empty()) verdicts.push_back(verifyGroup(subject.path, given));
     for (const auto& path : subject.projects) {
         std::vector<FileVerdict> more;
-        const auto err = basic::attempt([&] { more = verifyProject(path); });
+        const auto err = basic::attempt([&] { more = verifyProject(path, given); });
         if (err.Number != 0)
             throw Refusal(statusOfOpening(err.Number), withFile(host::absolutePath(path), err.Description));
         verdicts.insert(verdicts.end(), more.begin(), more.end());
@@ -70,7 +70,7 @@ Json jsonOfVerdicts(const std::vector<FileVerdict>& verdicts) {
 } // namespace
 
 int verifyRoundTrip(const ProjectGroup& subject, const Options& options, Console& console) {
-    const auto verdicts = verdictsOf(subject);
+    const auto verdicts = verdictsOf(subject, options.codePage);
     const bool allSame = countOfVerdicts(verdicts, FileVerdict::Kind::Same) == verdicts.size();
     const int status = allSame ? kGood : kProjectErrors;
     if (options.format == Format::Json) {

@@ -1,8 +1,8 @@
 #pragma once
 // `info --verify`.
+#include "Apps/fernwick/groups/project_group.h"
 #include "Apps/fernwick/options/options.h"
 #include "Apps/fernwick/output/console.h"
-#include "Apps/fernwick/verbs/project_group.h"
 #include "Basic/code_page.h"
 
 namespace cli {

@@ -65,13 +65,13 @@ auto readPackage(const std::string& path, Read&& read) {
 
 Json jsonOfBundle(const std::string& path, const qlpipe::Bundle& bundle) {
     auto json = jsonResult("package");
-    json["package"] = path;
-    json["project"] = bundle.project;
-    json["displayName"] = bundle.displayName;
-    json["version"] = bundle.version;
-    json["device"] = bundle.device;
-    json["references"] = bundle.references;
-    json["files"] = Json::array();
+    json.update({{"package", path},
+                 {"project", bundle.project},
+                 {"displayName", bundle.displayName},
+                 {"version", bundle.version},
+                 {"device", bundle.device},
+                 {"references", bundle.references},
+                 {"files", Json::array()}});
     for (const auto& file : bundle.files)
         json["files"].push_back({{"name", file.place}, {"bytes", file.size}, {"sha256", file.sha256}});
     return json;

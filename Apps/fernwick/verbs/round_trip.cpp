@@ -31,11 +31,12 @@ FileVerdict unread(const std::string& file, const basic::ErrObject& error) {
 
 class ProjectVerifier {
 public:
-    explicit ProjectVerifier(const std::string& path) : path_(path), folder_(apps::folderOf(path)) {}
+    ProjectVerifier(const std::string& path, const std::optional<basic::CodePage>& given)
+        : path_(path), folder_(apps::folderOf(path)), given_(given) {}
 
     std::vector<FileVerdict> run() {
         const auto content = host::readFile(path_);
-        page_ = host::codePageOfProject(content.bytes, folder_).page;
+        page_ = host::codePageOfProject(content.bytes, folder_, given_).page;
         lookup_ = host::PathLookup(page_);
         host::ProjectFile project{content.bytes, basic::codePageOfFile(content.bytes, page_)};
         if (!project.looksLikeProject())
@@ -85,6 +86,7 @@ private:
     }
 
     std::string path_, folder_;
+    const std::optional<basic::CodePage>& given_;
     basic::CodePage page_ = basic::CodePage::windows1252();
     host::PathLookup lookup_;
     std::unordered_set<std::string> seen_;
@@ -93,13 +95,13 @@ private:
 
 } // namespace
 
-std::vector<FileVerdict> verifyProject(const std::string& path) {
-    return ProjectVerifier{host::absolutePath(path)}.run();
+std::vector<FileVerdict> verifyProject(const std::string& path, const std::optional<basic::CodePage>& given) {
+    return ProjectVerifier{host::absolutePath(path), given}.run();
 }
 
-FileVerdict verifyGroup(const std::string& path) {
+FileVerdict verifyGroup(const std::string& path, const std::optional<basic::CodePage>& given) {
     const auto content = host::readFile(path);
-    const auto page = host::codePageOfProject(content.bytes, apps::folderOf(path)).page;
+    const auto page = host::codePageOfProject(content.bytes, apps::folderOf(path), given).page;
     const host::GroupFile group{content.bytes, basic::codePageOfFile(content.bytes, page)};
     return compared(path, content.bytes, group.bytes());
 }

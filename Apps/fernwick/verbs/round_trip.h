@@ -21,10 +21,11 @@ struct FileVerdict {
 };
 
 /// Checks the project file, its components and their resource files, each once, in the project's order, by parsing and
-/// writing them as far as the host can. Errors: 321 if it is not a project; those of reading the project file.
-std::vector<FileVerdict> verifyProject(const std::string& path);
+/// writing them as far as the host can. `given` is their code page, without which it is detected. Errors: 321 if it is
+/// not a project; those of reading the project file.
+std::vector<FileVerdict> verifyProject(const std::string& path, const std::optional<basic::CodePage>& given);
 
 /// Checks only the group file, not its projects.
-FileVerdict verifyGroup(const std::string& path);
+FileVerdict verifyGroup(const std::string& path, const std::optional<basic::CodePage>& given);
 
 } // namespace cli

@@ -1,4 +1,3 @@
-#include "Apps/common/file_names.h"
 #include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/options/suggestions.h"
 #include "Apps/fernwick/output/json_output.h"
@@ -22,14 +21,10 @@ struct SettingOperands {
     std::vector<std::string> values;
 };
 
-bool namesProject(const std::string& operand) {
-    return apps::hasExtension(operand, ".vbp") || apps::hasExtension(operand, ".vbg");
-}
-
 SettingOperands splitOperands(std::vector<std::string> operands) {
     SettingOperands split;
     auto next = operands.begin();
-    if (next != operands.end() && namesProject(*next)) split.project = *next++;
+    if (next != operands.end() && !storedSettingNamed(*next) && namesProject(*next)) split.project = *next++;
     if (next != operands.end()) split.name = *next++;
     split.values.assign(next, operands.end());
     split.project = projectArgument(split.project);

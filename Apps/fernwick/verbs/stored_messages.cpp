@@ -1,7 +1,13 @@
 #include "Apps/fernwick/verbs/stored_messages.h"
 #include "Add-in/build/messages/stored_messages.h"
+#include "Apps/common/source_code_page.h"
+#include "Apps/fernwick/output/token_ends.h"
+#include "Basic/runtime_error.h"
 #include "Basic/text_search.h"
+#include "Host/files/text_file.h"
 #include "Host/model/component.h"
+#include <map>
+#include <optional>
 
 namespace cli {
 
@@ -18,6 +24,25 @@ int physicalLineOf(const basic::Ref<vbide::VBProject>& project, const Message& m
     auto& source = component->source();
     return int(source.headLines() + source.code().physicalLine(std::size_t(message.codeLine)));
 }
+
+/// Reads each file once.
+class EndColumns {
+public:
+    explicit EndColumns(host::Host& host) : host_(host) {}
+
+    int of(const Message& message) {
+        auto [file, isNew] = files_.try_emplace(message.file);
+        if (isNew)
+            (void)basic::attempt([&] {
+                file->second.emplace(host::readFile(message.file).bytes, apps::codePageOfSource(host_, message.file));
+            });
+        return file->second ? file->second->endColumn(message.line, message.column) : 0;
+    }
+
+private:
+    host::Host& host_;
+    std::map<std::string, std::optional<TokenEnds>> files_;
+};
 
 /// A message is printed on one line.
 std::string oneLine(const std::string& text) { return basic::Replace(basic::Replace(text, "\r\n", " "), "\n", " "); }
@@ -45,6 +70,7 @@ std::vector<Message> storedMessages(Session& session) {
 
 std::vector<Message> messagesOfRun(Session& session) {
     std::vector<Message> messages;
+    EndColumns ends{session.host()};
     const auto& diagnostics = session.machine().build().diagnostics;
     auto diagnostic = diagnostics.begin();
     for (const auto& added : session.addIn().messages.messagesOfRun()) {
@@ -54,6 +80,7 @@ std::vector<Message> messagesOfRun(Session& session) {
         if (!isCompilers || diagnostic == diagnostics.end()) continue;
         message.line = int(diagnostic->line);
         message.column = int(diagnostic->column);
+        message.endColumn = ends.of(message);
         ++diagnostic;
     }
     return messages;

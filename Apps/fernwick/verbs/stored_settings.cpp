@@ -1,4 +1,5 @@
 #include "Apps/fernwick/verbs/stored_settings.h"
+#include "Add-in/core/stored_lists.h"
 #include "Apps/fernwick/devices/device_settings.h"
 #include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/options/refusal.h"
@@ -80,7 +81,10 @@ std::string wrongWithValues(const StoredSetting& setting, const Values& values) 
     (void)writableSetting(setting);
     for (const auto& value : values)
         if (value.find_first_of("\r\n") != value.npos) return "a stored value must not contain line breaks";
-    if (setting.kind == SettingKind::List) return {};
+    if (setting.kind == SettingKind::List)
+        return values.size() > fernwick::kMostStoredEntries
+                   ? fmt::format("{} takes at most {} values", setting.name, fernwick::kMostStoredEntries)
+                   : std::string();
     if (values.size() != 1) return fmt::format("{} takes one value", setting.name);
     const auto err = basic::attempt([&] {
         if (setting.kind == SettingKind::Number) (void)basic::CLng(values.front());

@@ -1,7 +1,7 @@
+#include "Apps/fernwick/groups/group_run.h"
 #include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/output/plural.h"
 #include "Apps/fernwick/run/project_run.h"
-#include "Apps/fernwick/verbs/group_run.h"
 #include "Apps/fernwick/verbs/stored_messages.h"
 #include "Apps/fernwick/verbs/verbs.h"
 #include <algorithm>

@@ -40,7 +40,12 @@ constexpr fernwick::MessageInfo kPipeMessages[] = {
      "fernwick package Hello.vbp", "Install the Debian package that the message names."},
 
     {kNoImage, kError, "There is no compiled application. Compile the project first.",
-     "None of the files to be sent is a compiled application (.qlx).", "", "Compile the project, then send it again."},
+     "None of the files to be sent is a compiled application (.qlx).",
+     "fernwick package --list Fonts.qlpkg\n"
+     "HelloWorld 1.0.0 for PalmOS-DragonBall\n"
+     "  fonts/QLP_12R.CMF        3880\n"
+     "fernwick deploy Fonts.qlpkg",
+     "Compile the project, then send it again. If a package has no application, make it again from the project."},
     {kImageDamaged, kError, "{file} is not a complete compiled application. {reason} Compile the project again.",
      "The file was truncated or changed after the compiler wrote it.", "", "Compile the project again."},
     {kImageOfOtherCompiler, kError,

@@ -20,3 +20,10 @@ printf 'Public Sub Main()\n    Dim 數量 As Long\n    數量 = 計算(1)\nEnd S
   iconv -f UTF-8 -t BIG5 | module_project Names
 run fernwick build Names/Names.vbp
 grep -qa 計算 Names/Names.0000.qlx && say "the image has the names"
+say "Every command reads the names in a given page."
+module_project Given <<<'Public Sub Main(): End Sub'
+printf 'Name="計算"\r\n' | iconv -f UTF-8 -t BIG5 >name
+sed -i -e '/^Name=/{r name' -e 'd}' Given/Given.vbp
+runline 'fernwick info Given/Given.vbp --code-page 950 | head -1'
+run fernwick build -q Given/Given.vbp --code-page 950
+run fernwick clean Given/Given.vbp --code-page 950

@@ -9,3 +9,5 @@ fernwick settings set AddressBook/AddressBook.vbp PostCompileSteps 'echo three'
 run fernwick build -n AddressBook/AddressBook.vbp
 run fernwick registry set 'HKEY_CURRENT_USER\Software\Quinloft' Name value --dry-run
 run fernwick registry get 'HKEY_CURRENT_USER\Software\Quinloft' Name
+run fernwick build -n AddressBook/AddressBook.vbp --output out
+run ls out

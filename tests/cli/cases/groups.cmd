@@ -28,3 +28,19 @@ run fernwick check two.vbg
 run fernwick check both.vbg AddressBook/modAddressBook.bas
 run fernwick settings list both.vbg
 run fernwick messages both.vbg
+
+say "A dry run shows the plan of each member."
+runline 'fernwick build --dry-run bad.vbg | grep -v library'
+say "Members that would write the same file are refused before anything is written."
+cp -r HelloWorld Copy
+name=twins.vbg group 'StartupProject=HelloWorld\HelloWorld.vbp' 'Project=Copy\HelloWorld.vbp'
+run fernwick build twins.vbg --output out
+run fernwick package twins.vbg --output out
+run ls out
+runline 'fernwick build twins.vbg 2>/dev/null'
+sed 's/^Name=.*/Name="Other"\r/' Copy/HelloWorld.vbp >Copy/Other.vbp
+mv Copy/Other.vbp Copy/HelloWorld.vbp
+run fernwick build --dry-run twins.vbg --output out
+cp HelloWorld/HelloWorld.vbp HelloWorld/Same.vbp
+name=same.vbg group 'StartupProject=HelloWorld\HelloWorld.vbp' 'Project=HelloWorld\Same.vbp'
+run fernwick deploy same.vbg

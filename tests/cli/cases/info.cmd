@@ -17,3 +17,10 @@ printf 'VBGROUP 5.0\r\nProject=gone\\gone.vbp\r\n' >bad.vbg
 run fernwick info bad.vbg
 printf 'VBGROUP 5.0\r\nProject=gone\\gone.vbp\r\nProject=plain\\plain.vbp\r\n' >half.vbg
 run fernwick info half.vbg
+say "A folder is the only project in it."
+mkdir one && cp "$SAMPLES/HelloWorld/"* one
+runline 'fernwick info one | head -2'
+run fernwick settings get one TargetDevice
+run fernwick dependencies one list
+runline 'fernwick build -q one/ 2>/dev/null'
+run fernwick clean one

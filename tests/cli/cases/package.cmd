@@ -22,3 +22,16 @@ run fernwick package --verify missing.qlpkg
 
 say "A device installs from a package."
 run fernwick deploy AddressBook.PalmOS-DragonBall.qlpkg
+
+say "A package without an application."
+python3 - <<'END'
+import json, zipfile
+with zipfile.ZipFile("AddressBook.PalmOS-DragonBall.qlpkg") as whole, zipfile.ZipFile("Fonts.qlpkg", "w") as fonts:
+    manifest = json.loads(whole.read("manifest.json"))
+    manifest["files"] = [file for file in manifest["files"] if file["kind"] == "font"]
+    fonts.writestr("manifest.json", json.dumps(manifest))
+    for file in manifest["files"]:
+        fonts.writestr(file["path"], whole.read(file["path"]))
+END
+run fernwick package --list Fonts.qlpkg
+run fernwick deploy Fonts.qlpkg

@@ -38,3 +38,6 @@ run fernwick settings get HelloWorld.vbp HandheldFolder
 grep -a -A3 'Quinloft Linux Handheld' HelloWorld.vbp | tr -d '\r'
 run fernwick settings reset HelloWorld.vbp HandheldFolder
 run fernwick settings get HelloWorld.vbp HandheldFolder
+say "More steps than a project can store."
+runline "seq 65537 | xargs -x -s 1000000 fernwick settings set HelloWorld.vbp PreCompileSteps"
+run fernwick settings get HelloWorld.vbp PreCompileSteps

@@ -33,3 +33,10 @@ run fernwick build HelloWorld/HelloWorld.vbp --device pocketpc
 run fernwick devices add palmos
 touch a.vbp b.VBP
 run fernwick build
+run fernwick --nonsense build
+run fernwick settings set HelloWorld/HelloWorld.vbp PreCompileSteps -x
+run fernwick help build now
+say "A folder with several projects, and one with none."
+run fernwick info .
+mkdir empty
+run fernwick build empty

@@ -1,10 +1,10 @@
-#include "Apps/fernwick/verbs/group_run.h"
+#include "Apps/fernwick/groups/group_run.h"
 #include "Apps/common/file_names.h"
+#include "Apps/fernwick/groups/output_clash.h"
 #include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/options/refusal.h"
 #include "Apps/fernwick/output/plural.h"
 #include "Apps/fernwick/run/project_argument.h"
-#include "Apps/fernwick/verbs/project_group.h"
 #include "Basic/runtime_error.h"
 #include "Host/files/native_path.h"
 #include <algorithm>
@@ -73,7 +73,7 @@ void printMember(const Report& report, const Options& options, Console& console)
     const auto text = closingText(report);
     const bool isNamed = text.starts_with(report.project);
     const auto line = isNamed ? text : fmt::format("{}: {}", host::fileNameOf(report.project), text);
-    if (options.verbosity != Verbosity::Quiet)
+    if (!options.dryRun && options.verbosity != Verbosity::Quiet)
         console.out(line + "\n");
     else if (report.exitStatus != kGood)
         console.err(line, Tone::Error);
@@ -86,7 +86,7 @@ void addMember(Report& group, Report member) {
     group.projects.push_back(std::move(member));
 }
 
-/// Image, package, or what was installed.
+/// Image, packages, or what was installed.
 std::vector<std::string> resultsOf(const Report& report) {
     std::vector<std::string> results;
     if (!report.image.empty()) results.push_back(report.image);
@@ -98,10 +98,14 @@ void printTable(const Report& report, Console& console) {
     std::size_t width = 0;
     for (const auto& member : report.projects) width = std::max(width, host::fileNameOf(member.project).size());
     for (const auto& member : report.projects) {
+        auto row = fmt::format("{:<{}}  {}", host::fileNameOf(member.project), width,
+                               member.exitStatus == kGood ? "succeeded" : "failed");
         const auto results = resultsOf(member);
-        const auto row = fmt::format("{:<{}}  {}", host::fileNameOf(member.project), width,
-                                     member.exitStatus == kGood ? "succeeded" : "failed");
-        console.out(row + (results.empty() ? "" : "  " + results.front()) + "\n");
+        if (results.empty()) console.out(row + "\n");
+        for (const auto& result : results) {
+            console.out(fmt::format("{}  {}\n", row, result));
+            row.assign(row.size(), ' ');
+        }
     }
 }
 
@@ -110,10 +114,9 @@ void printTable(const Report& report, Console& console) {
 Report runProjects(const Options& options, Console& console, RunProject run) {
     auto member = options;
     member.project = projectArgument(options.project);
-    const auto group = projectGroupOf(member.project);
+    const auto group = projectGroupOf(member.project, options.codePage);
     if (group.path.empty()) return run(member, console);
-    if (options.dryRun && options.format != Format::Text)
-        throw Refusal(kWrongUse, "--dry-run has a JSON document only for a single project, not for a group");
+    requireDistinctOutputs(group, options);
     Report report;
     report.verb = options.verb;
     report.project = group.path;

@@ -1,4 +1,4 @@
-#include "Apps/fernwick/verbs/project_group.h"
+#include "Apps/fernwick/groups/project_group.h"
 #include "Apps/common/file_names.h"
 #include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/options/refusal.h"
@@ -13,7 +13,7 @@
 
 namespace cli {
 
-ProjectGroup projectGroupOf(const std::string& path) {
+ProjectGroup projectGroupOf(const std::string& path, const std::optional<basic::CodePage>& given) {
     if (!apps::hasExtension(path, ".vbg")) return {{}, {path}};
     ProjectGroup subject;
     subject.path = host::absolutePath(path);
@@ -23,7 +23,7 @@ ProjectGroup projectGroupOf(const std::string& path) {
     if (!host::GroupFile::looksLikeGroup(content.bytes))
         throw Refusal(kProjectErrors, fmt::format("{}: is not a Visual Basic project group", path));
     const auto folder = apps::folderOf(subject.path);
-    const auto page = host::codePageOfProject(content.bytes, folder).page;
+    const auto page = host::codePageOfProject(content.bytes, folder, given).page;
     host::PathLookup lookup(page);
     const host::GroupFile group{content.bytes, basic::codePageOfFile(content.bytes, page)};
     for (const auto& entry : group.entries()) {
