@@ -79,6 +79,16 @@ void MessageList::resizeEvent(QResizeEvent* event) {
     resized();
 }
 
+int MessageList::headerWidth(int column) const {
+    const auto text = model()->headerData(column, Qt::Horizontal).toString();
+    if (text.isEmpty()) return 0;
+    const auto font = model()->headerData(column, Qt::Horizontal, Qt::FontRole).value<QFont>();
+    const int margin = style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, header());
+    const bool isSorted = header()->sortIndicatorSection() == column;
+    const int mark = isSorted ? style()->pixelMetric(QStyle::PM_HeaderMarkSize, nullptr, header()) + margin : 0;
+    return QFontMetrics(font).horizontalAdvance(text) + 2 * margin + mark;
+}
+
 fernwick::TextExtent MessageList::Texts::GetTextExtentPoint32(const std::string& text) const noexcept {
     const auto metrics = list_.fontMetrics();
     return {metrics.horizontalAdvance(qt(text)), metrics.height()};

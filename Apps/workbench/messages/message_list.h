@@ -18,6 +18,8 @@ public:
     std::function<void()> fontChanged = [] {};
     /// The list was resized.
     std::function<void()> resized = [] {};
+    /// The width that a column's header needs.
+    int headerWidth(int column) const;
     /// Measures the heights of the rows again.
     void layOutAgain() { scheduleDelayedItemsLayout(); }
 
