@@ -75,7 +75,8 @@ bool hasAName(QWidget& widget) {
 TEST_F(DesktopMenus, MnemonicsOfAMenuDoNotClash) {
     openSample("AddressBook");
     editor("frmList");
-    for (const char* caption : {"&File", "&Edit", "&View", "&Project", "&Run", "&Add-Ins", "&Window", "&Help"}) {
+    for (const char* caption :
+         {"&File", "&Edit", "&View", "&Project", "&Run", "&Tools", "&Add-Ins", "&Window", "&Help"}) {
         show(*top(caption));
         EXPECT_THAT(clashes(*top(caption)), IsEmpty()) << caption;
     }
@@ -95,7 +96,7 @@ TEST_F(DesktopMenus, OnlyTheAddInsOwnMenuSharesItsLetter) {
 TEST_F(DesktopMenus, EveryCommandIsReachedByTheKeyboard) {
     openSample("AddressBook");
     std::vector<std::string> unreached;
-    for (const char* caption : {"&File", "&Edit", "&View", "&Project", "&Run", "&Window", "&Help"})
+    for (const char* caption : {"&File", "&Edit", "&View", "&Project", "&Run", "&Tools", "&Window", "&Help"})
         withoutAccess(*top(caption), unreached);
     EXPECT_THAT(unreached, IsEmpty());
 }

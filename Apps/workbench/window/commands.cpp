@@ -1,4 +1,6 @@
 #include "Apps/workbench/window/commands.h"
+#include "Apps/workbench/bars/bar_controls.h"
+#include "Apps/workbench/base/text.h"
 #include "Apps/workbench/code/code_lines.h"
 #include "Apps/workbench/code/scintilla.h"
 #include "Apps/workbench/project/component_commands.h"
@@ -117,6 +119,10 @@ const Command kRunCommands[] = {
     {kStartId, "&Start on Device", Qt::Key_F5, kAlways, [](auto& on) { on.program.start(); }},
 };
 
+const Command kToolsCommands[] = {
+    {kOptionsId, "&Options...", kNoKey, kAlways, [](auto& on) { on.program.options(); }},
+};
+
 const Command kWindowCommands[] = {
     {kNextWindowId, "&Next Window", Qt::CTRL | Qt::Key_F6, kAlways, [](auto& on) { on.window.code().step(1); }},
     {kPreviousWindowId, "&Previous Window", Qt::CTRL | Qt::SHIFT | Qt::Key_F6, kAlways,
@@ -141,13 +147,32 @@ const DockCommand kDockCommands[] = {
 
 const CommandMenu kCommandMenus[] = {
     {host::kFileMenuId, kFileCommands},       {host::kEditMenuId, kEditCommands}, {host::kViewMenuId, kViewCommands},
-    {host::kProjectMenuId, kProjectCommands}, {kRunMenuId, kRunCommands},         {kWindowMenuId, kWindowCommands},
-    {host::kHelpMenuId, kHelpCommands},
+    {host::kProjectMenuId, kProjectCommands}, {kRunMenuId, kRunCommands},         {kToolsMenuId, kToolsCommands},
+    {kWindowMenuId, kWindowCommands},         {host::kHelpMenuId, kHelpCommands},
 };
 
 QKeySequence sequenceOf(QKeyCombination key) {
     return key.toCombined() == kNoKey.toCombined() ? QKeySequence() : QKeySequence(key);
 }
+
+KeyOption keyOptionOf(int id, QKeyCombination key, QKeyCombination otherKey = kNoKey) {
+    return {QString("keys/%1").arg(id), {}, {}, sequenceOf(key), sequenceOf(otherKey)};
+}
+
+KeyOption named(KeyOption option, const QString& menu, const QString& command) {
+    option.menu = menu;
+    option.command = command;
+    return option;
+}
+
+CommandLook lookWith(const KeyOption& option, int id) {
+    const auto key = option.stored();
+    return {key, key == option.usual ? option.otherUsual : QKeySequence(), iconOfCommand(id)};
+}
+
+QString plainText(const std::string& caption) { return qt(host::withoutMnemonic(caption)).remove("..."); }
+
+QString textOf(host::Host& host, int menu) { return plainText(controlOf(host, menu)->Caption()); }
 
 } // namespace
 
@@ -162,10 +187,35 @@ DockCommand dockCommandOf(const QString& dock) {
 CommandLook commandLookOf(int id) {
     for (const auto& menu : kCommandMenus)
         for (const auto& command : menu.commands)
-            if (command.id == id) return {sequenceOf(command.key), sequenceOf(command.otherKey), iconOfCommand(id)};
+            if (command.id == id) return lookWith(keyOptionOf(id, command.key, command.otherKey), id);
     for (const auto& command : kDockCommands)
-        if (command.id == id) return {sequenceOf(command.key), {}, iconOfCommand(id)};
+        if (command.id == id) return lookWith(keyOptionOf(id, command.key), id);
     return {};
+}
+
+QList<QKeySequence> chosenKeys() {
+    QList<QKeySequence> keys;
+    const auto add = [&keys](const KeyOption& option) {
+        if (const auto key = option.stored(); key != option.usual) keys << key;
+    };
+    for (const auto& menu : kCommandMenus)
+        for (const auto& command : menu.commands) add(keyOptionOf(command.id, command.key));
+    for (const auto& command : kDockCommands) add(keyOptionOf(command.id, command.key));
+    return keys;
+}
+
+std::vector<KeyOption> keyOptions(host::Host& host) {
+    std::vector<KeyOption> all;
+    for (const auto& menu : kCommandMenus) {
+        for (const auto& command : menu.commands)
+            if (const auto control = controlOf(host, command.id); control && !control->popup())
+                all.push_back(named(keyOptionOf(command.id, command.key, command.otherKey), textOf(host, menu.id),
+                                    plainText(control->Caption())));
+        if (menu.id != host::kViewMenuId) continue;
+        for (const auto& command : kDockCommands)
+            all.push_back(named(keyOptionOf(command.id, command.key), textOf(host, menu.id), plainText(command.text)));
+    }
+    return all;
 }
 
 } // namespace workbench

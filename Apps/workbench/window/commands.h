@@ -1,6 +1,7 @@
 #pragma once
 // The window's commands. commands.cpp has one row for each: its text, key, action, and where it is enabled.
 #include "Apps/workbench/bars/bars_view.h"
+#include "Apps/workbench/options/key_option.h"
 #include "Host/model/host.h"
 #include <functional>
 #include <span>
@@ -9,7 +10,7 @@ namespace workbench {
 
 class MainWindow;
 
-/// Ids of the commands that the window adds to the host's menus.
+/// Ids of the commands that the window adds to the host's menus. The keys that users choose are stored by these numbers.
 enum CommandId : int {
     kGroup = 0, ///< no command: the next one begins a group
     kRecentMenuId = 40001,
@@ -68,6 +69,8 @@ enum CommandId : int {
     kZoomInId,
     kZoomOutId,
     kResetZoomId,
+    kToolsMenuId,
+    kOptionsId,
 };
 
 /// The program's actions that commands call.
@@ -77,6 +80,7 @@ struct ProgramActions {
     std::function<void()> removeProject;
     /// Compiles the active project and sends it to its device.
     std::function<void()> start;
+    std::function<void()> options;
     std::function<void()> help;
     std::function<void()> about;
 };
@@ -126,7 +130,11 @@ struct DockCommand {
 /// A dock without a row in the table gets a command without a key.
 DockCommand dockCommandOf(const QString& dock);
 
-/// The keys and icon of a command.
+/// The keys, as the user chose them, and the icon of a command.
 CommandLook commandLookOf(int id);
+/// The keys that the user gave to commands instead of the usual ones.
+QList<QKeySequence> chosenKeys();
+/// The commands that can have keys, with their texts in the host's menus.
+std::vector<KeyOption> keyOptions(host::Host& host);
 
 } // namespace workbench

@@ -2,6 +2,7 @@
 #include "Apps/workbench/bars/bar_controls.h"
 #include "Apps/workbench/base/text.h"
 #include "Apps/workbench/base/title.h"
+#include "Apps/workbench/options/declared_options.h"
 #include "Apps/workbench/project/project_saving.h"
 #include "Apps/workbench/window/commands.h"
 #include "Basic/conversions.h"
@@ -16,8 +17,7 @@ namespace workbench {
 
 namespace {
 
-constexpr auto kGeometryKey = "window/geometry", kStateKey = "window/state", kThemeKey = "window/theme", kDark = "dark",
-               kLight = "light";
+constexpr auto kGeometryKey = "window/geometry", kStateKey = "window/state";
 /// To be incremented when docks and toolbars change so much that a stored layout no longer fits.
 constexpr int kLayoutVersion = 1;
 constexpr int kUsualWidth = 1100, kUsualHeight = 720, kUsualExplorerWidth = 270, kUsualToolboxWidth = 140;
@@ -45,6 +45,7 @@ MainWindow::MainWindow(host::Host& host, Run run, MayClose mayClose)
       bars_(host.bars(), *this, run_, commandLookOf) {
     setObjectName("workbench");
     buildCentre();
+    code_->leaveKeys(chosenKeys());
     resize(usualSize());
     resizeDocks({explorerDock_, toolboxDock_}, {kUsualExplorerWidth, kUsualToolboxWidth}, Qt::Horizontal);
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
@@ -128,8 +129,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 
 void MainWindow::restoreLayout() {
     const QSettings settings;
-    const auto stored = settings.value(kThemeKey) == kDark ? Theme::Dark : Theme::Light;
-    showTheme(settings.contains(kThemeKey) ? stored : currentTheme());
+    showTheme(chosenTheme());
     restoreGeometry(settings.value(kGeometryKey).toByteArray());
     restoreState(settings.value(kStateKey).toByteArray(), kLayoutVersion);
     docks_.showAsInHost(); // the project stores whether its messages are shown
@@ -146,13 +146,26 @@ void MainWindow::saveLayout() const {
 }
 
 void MainWindow::setTheme(Theme theme) {
-    QSettings().setValue(kThemeKey, theme == Theme::Dark ? kDark : kLight);
+    kThemeOption.store(theme == Theme::Dark ? kDarkTheme : kLightTheme);
     showTheme(theme);
+}
+
+void MainWindow::optionsChanged() {
+    showTheme(chosenTheme());
+    design_->updateGrid();
+    code_->leaveKeys(chosenKeys());
+    docks_.showKeys();
+    bars_.showKeys();
+}
+
+Theme MainWindow::chosenTheme() const {
+    const int chosen = kThemeOption.stored();
+    return chosen == kSystemTheme ? desktopTheme_ : chosen == kDarkTheme ? Theme::Dark : Theme::Light;
 }
 
 void MainWindow::showTheme(Theme theme) {
     apply(theme);
-    code_->colour(theme);
+    code_->showLook();
     if (const auto command = controlOf(host_, kThemeId)) command->checked(theme == Theme::Dark);
     bars_.draw();
 }

@@ -40,6 +40,8 @@ public:
     void saveLayout() const;
     /// Stores the theme. Before the first call the window follows the desktop.
     void setTheme(Theme theme);
+    /// Shows what the user chose in the options.
+    void optionsChanged();
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -51,9 +53,11 @@ private:
     void watchFocus();
     void activateProjectInFront();
     void showTitle();
+    Theme chosenTheme() const;
     void showTheme(Theme theme);
 
     host::Host& host_;
+    const Theme desktopTheme_ = currentTheme();
     Run run_;
     MayClose mayClose_;
     CodeWindows* code_;

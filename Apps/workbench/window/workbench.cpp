@@ -4,6 +4,8 @@
 #include "Apps/common/source_code_page.h"
 #include "Apps/common/trusted_folders.h"
 #include "Apps/workbench/base/text.h"
+#include "Apps/workbench/messages/messages_view.h"
+#include "Apps/workbench/options/options_dialog.h"
 #include "Apps/workbench/project/new_project.h"
 #include "Apps/workbench/project/project_reopening.h"
 #include "Apps/workbench/project/project_saving.h"
@@ -93,6 +95,7 @@ ProgramActions Workbench::programActions() {
         if (active && mayBeClosed(*host_, {active}, window_.get())) host_->VBProjects()->Remove(active);
     };
     actions.start = [this] { startActive(); };
+    actions.options = [this] { editOptions(); };
     actions.help = [this] { addIn().help.DisplayHelp(fernwick::kUsersGuideTopic); };
     actions.about = [this] { showAbout(window_.get()); };
     return actions;
@@ -105,6 +108,14 @@ UnsavedWork::Callbacks Workbench::unsavedCallbacks() {
                 window_->code().refreshSoon();
                 window_->explorer().refreshSoon();
             }};
+}
+
+void Workbench::editOptions() {
+    auto keys = keyOptions(*host_);
+    for (auto& key : MessagesView::walkKeys()) keys.push_back(std::move(key));
+    OptionsDialog(
+        std::move(keys), [this] { window_->optionsChanged(); }, window_.get())
+        .exec();
 }
 
 void Workbench::newProject() {
