@@ -12,6 +12,7 @@
 #include <QDockWidget>
 #include <QScreen>
 #include <QSettings>
+#include <QStatusBar>
 
 namespace workbench {
 
@@ -42,7 +43,8 @@ MainWindow::MainWindow(host::Host& host, Run run, MayClose mayClose)
       editFocus_(new EditFocus(*code_, *design_)),
       propertiesDock_(docks_.add("propertiesDock", "Properties", &design_->properties(), Qt::RightDockWidgetArea)),
       toolboxDock_(docks_.add("toolboxDock", "Toolbox", &design_->toolbox(), Qt::LeftDockWidgetArea)),
-      bars_(host.bars(), *this, run_, commandLookOf) {
+      bars_(host.bars(), *this, run_, commandLookOf),
+      place_(*statusBar(), *code_, *design_) {
     setObjectName("workbench");
     buildCentre();
     code_->leaveKeys(chosenKeys());

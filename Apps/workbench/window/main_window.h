@@ -8,6 +8,7 @@
 #include "Apps/workbench/project/project_explorer.h"
 #include "Apps/workbench/window/docks.h"
 #include "Apps/workbench/window/edit_focus.h"
+#include "Apps/workbench/window/place_status.h"
 #include "Host/model/host.h"
 #include <QMainWindow>
 
@@ -76,6 +77,7 @@ private:
     QTimer titleSoon_, activateSoon_;
     std::vector<fernwick::Subscription> watches_;
     BarsView bars_;
+    PlaceStatus place_;
 };
 
 } // namespace workbench
