@@ -47,6 +47,10 @@ TEST_F(Messages, HaveWholeHeaders) {
         }
     };
     expectWhole();
+    error("of a number", 12345, 1042);
+    settle();
+    for (const auto column : {Grid::LineColumn, Grid::ErrorColumn})
+        EXPECT_GE(list().columnWidth(column), list().sizeHintForIndex(at(0, column)).width()) << column;
     const auto usual = QApplication::font();
     auto large = usual;
     large.setPointSize(18);

@@ -123,13 +123,13 @@ void MessagesView::draw() {
     sinceDrawn_.start();
 }
 
-/// The document's shares of the width, but no column narrower than its header.
+/// The document's shares of the width, but no column narrower than it needs.
 void MessagesView::layOut() {
     document_->UserDocument_Resize(list_->viewport()->width() * kTwipsPerPixel,
                                    list_->geometry().bottom() * kTwipsPerPixel, list_->y() * kTwipsPerPixel);
     for (int column = Grid::PictureColumn; column < Grid::MessageColumn; ++column)
         list_->setColumnWidth(column, std::max(document_->msgGrid().columnWidth(Grid::Column(column)) / kTwipsPerPixel,
-                                               list_->headerWidth(column)));
+                                               list_->leastWidth(column)));
     list_->layOutAgain();
     layOutStatus();
 }
