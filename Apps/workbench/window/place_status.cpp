@@ -10,10 +10,10 @@ namespace workbench {
 
 namespace {
 
-QLabel* addField(QStatusBar& bar, const char* name, const char* accessibleName) {
+QLabel* addField(QStatusBar& bar, const char* name, const char* tip) {
     auto* const field = new QLabel;
     field->setObjectName(name);
-    field->setAccessibleName(accessibleName);
+    field->setToolTip(tip);
     field->setContentsMargins(8, 0, 8, 0);
     bar.addPermanentWidget(field);
     return field;
@@ -31,7 +31,7 @@ PlaceStatus::PlaceStatus(QStatusBar& bar, CodeWindows& code, DesignDesk& design)
     : code_(code),
       design_(design),
       place_(addField(bar, "statusPlace", "Position")),
-      size_(addField(bar, "statusSize", "Size")) {
+      size_(addField(bar, "statusSize", "Width and height, in the units of the container; of a form in twips")) {
     connect(&code, &QTabWidget::currentChanged, this, [this] { follow(); });
     design.selectionChanged = [this] { show(); };
 }
@@ -51,11 +51,13 @@ void PlaceStatus::show() {
     if (const auto* editor = code_.current()) {
         int line = 0, column = 0;
         editor->scintilla().getCursorPosition(&line, &column);
+        place_->setToolTip("Line and column");
         return showTexts(QString("Ln %1, Col %2").arg(line + 1).arg(column + 1), {});
     }
     const auto* const form = design_.forms().current();
     const auto place = form ? placeOfSelection(*form) : std::nullopt;
     if (!place) return showTexts({}, {});
+    place_->setToolTip("Left and top, in the units of the container; of a form in twips");
     const auto corner = QString("%1, %2").arg(shown(place->left), shown(place->top));
     const auto size = QString("%1 x %2").arg(shown(place->width), shown(place->height));
     showTexts(corner, place->hasSize ? size : QString());
