@@ -118,7 +118,6 @@ TEST_F(Keys, AreChangedInTheOptions) {
 
 /// The editing component has a meaning for this key.
 TEST_F(Keys, OfCommandsGoBeforeThoseOfTheEditor) {
-    change([](Dialog& dialog) { press(dialog, "Comment Block", Qt::Key_D, Qt::ControlModifier | Qt::ShiftModifier); });
     change([](Dialog& dialog) { press(dialog, "Comment Block", Qt::Key_BracketLeft, Qt::ControlModifier); });
     openModule();
     auto& text = code();

@@ -89,8 +89,8 @@ TEST_F(Options, OfThePageInFrontGetTheirDefaults) {
 
 TEST_F(Options, ThatAreStoredBadlyAreTheUsualOnes) {
     using namespace workbench;
-    for (const QVariant& bad :
-         {QVariant("nonsense"), QVariant(-1), QVariant(100000), QVariant(), QVariant(QStringList{})}) {
+    for (const QVariant& bad : {QVariant("nonsense"), QVariant("DejaVu Sans"), QVariant(-1), QVariant(100000),
+                                QVariant(), QVariant(QStringList{})}) {
         for (const auto* option : {&kCodeFontSize, &kTabWidth, &kGridPixels}) {
             QSettings().setValue(option->key, bad);
             EXPECT_EQ(option->stored(), option->usual) << option->key;

@@ -43,7 +43,7 @@ QString FamilyOption::usual() const { return QFontInfo(QFontDatabase::systemFont
 
 QString FamilyOption::stored() const {
     const auto family = storedText(key);
-    return QFontDatabase::families().contains(family) ? family : usual();
+    return QFontDatabase::isFixedPitch(family) ? family : usual();
 }
 
 void FamilyOption::store(const QString& family) const { storeUnlessUsual(key, family, family == usual()); }

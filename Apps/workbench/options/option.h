@@ -38,7 +38,7 @@ struct FamilyOption {
     const char* key;
 
     QString usual() const;
-    /// The usual one if the stored one is not installed.
+    /// The usual one if the stored one is not installed or has letters of different widths.
     QString stored() const;
     void store(const QString& family) const;
 };
