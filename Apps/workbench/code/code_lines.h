@@ -1,5 +1,6 @@
 #pragma once
 // Lines of an editor, and the commands on them.
+#include <QKeySequence>
 #include <QString>
 
 class QsciScintilla;
