@@ -1,7 +1,7 @@
 // The keys of commands: shown everywhere, and changed in the options.
 #include "Apps/workbench/messages/messages_view.h"
 #include "Apps/workbench/options/key_field.h"
-#include "Apps/workbench/window/commands.h"
+#include "Apps/workbench/window/command_keys.h"
 #include "tests/workbench/options_world.h"
 #include <QLabel>
 #include <QPushButton>

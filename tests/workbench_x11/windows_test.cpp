@@ -3,6 +3,7 @@
 #include "Apps/workbench/bridge/form_window.h"
 #include "Apps/workbench/options/options_dialog.h"
 #include "Apps/workbench/project/project_properties.h"
+#include "Apps/workbench/window/command_keys.h"
 #include "tests/workbench_x11/x_desktop.h"
 #include <QDir>
 #include <QScreen>

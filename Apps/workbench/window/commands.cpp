@@ -1,12 +1,9 @@
 #include "Apps/workbench/window/commands.h"
-#include "Apps/workbench/bars/bar_controls.h"
-#include "Apps/workbench/base/text.h"
 #include "Apps/workbench/code/code_lines.h"
 #include "Apps/workbench/code/scintilla.h"
 #include "Apps/workbench/project/component_commands.h"
 #include "Apps/workbench/project/project_properties.h"
 #include "Apps/workbench/project/project_saving.h"
-#include "Apps/workbench/window/command_icons.h"
 #include "Apps/workbench/window/main_window.h"
 
 namespace workbench {
@@ -151,71 +148,16 @@ const CommandMenu kCommandMenus[] = {
     {kWindowMenuId, kWindowCommands},         {host::kHelpMenuId, kHelpCommands},
 };
 
-QKeySequence sequenceOf(QKeyCombination key) {
-    return key.toCombined() == kNoKey.toCombined() ? QKeySequence() : QKeySequence(key);
-}
-
-KeyOption keyOptionOf(int id, QKeyCombination key, QKeyCombination otherKey = kNoKey) {
-    return {QString("keys/%1").arg(id), {}, {}, sequenceOf(key), sequenceOf(otherKey)};
-}
-
-KeyOption named(KeyOption option, const QString& menu, const QString& command) {
-    option.menu = menu;
-    option.command = command;
-    return option;
-}
-
-CommandLook lookWith(const KeyOption& option, int id) {
-    const auto key = option.stored();
-    return {key, key == option.usual ? option.otherUsual : QKeySequence(), iconOfCommand(id)};
-}
-
-QString plainText(const std::string& caption) { return qt(host::withoutMnemonic(caption)).remove("..."); }
-
-QString textOf(host::Host& host, int menu) { return plainText(controlOf(host, menu)->Caption()); }
-
 } // namespace
 
 std::span<const CommandMenu> commandMenus() { return kCommandMenus; }
+
+std::span<const DockCommand> dockCommands() { return kDockCommands; }
 
 DockCommand dockCommandOf(const QString& dock) {
     for (const auto& command : kDockCommands)
         if (dock == command.dock) return command;
     return {""};
-}
-
-CommandLook commandLookOf(int id) {
-    for (const auto& menu : kCommandMenus)
-        for (const auto& command : menu.commands)
-            if (command.id == id) return lookWith(keyOptionOf(id, command.key, command.otherKey), id);
-    for (const auto& command : kDockCommands)
-        if (command.id == id) return lookWith(keyOptionOf(id, command.key), id);
-    return {};
-}
-
-QList<QKeySequence> chosenKeys() {
-    QList<QKeySequence> keys;
-    const auto add = [&keys](const KeyOption& option) {
-        if (const auto key = option.stored(); key != option.usual) keys << key;
-    };
-    for (const auto& menu : kCommandMenus)
-        for (const auto& command : menu.commands) add(keyOptionOf(command.id, command.key));
-    for (const auto& command : kDockCommands) add(keyOptionOf(command.id, command.key));
-    return keys;
-}
-
-std::vector<KeyOption> keyOptions(host::Host& host) {
-    std::vector<KeyOption> all;
-    for (const auto& menu : kCommandMenus) {
-        for (const auto& command : menu.commands)
-            if (const auto control = controlOf(host, command.id); control && !control->popup())
-                all.push_back(named(keyOptionOf(command.id, command.key, command.otherKey), textOf(host, menu.id),
-                                    plainText(control->Caption())));
-        if (menu.id != host::kViewMenuId) continue;
-        for (const auto& command : kDockCommands)
-            all.push_back(named(keyOptionOf(command.id, command.key), textOf(host, menu.id), plainText(command.text)));
-    }
-    return all;
 }
 
 } // namespace workbench

@@ -1,8 +1,9 @@
 #pragma once
 // The window's commands. commands.cpp has one row for each: its text, key, action, and where it is enabled.
-#include "Apps/workbench/bars/bars_view.h"
-#include "Apps/workbench/options/key_option.h"
+#include "Host/model/bars/control_ids.h"
 #include "Host/model/host.h"
+#include <QKeyCombination>
+#include <QString>
 #include <functional>
 #include <span>
 
@@ -127,14 +128,8 @@ struct DockCommand {
     const char* text = nullptr; ///< null: the dock's title
     QKeyCombination key{};
 };
+std::span<const DockCommand> dockCommands();
 /// A dock without a row in the table gets a command without a key.
 DockCommand dockCommandOf(const QString& dock);
-
-/// The keys, as the user chose them, and the icon of a command.
-CommandLook commandLookOf(int id);
-/// The keys that the user gave to commands instead of the usual ones.
-QList<QKeySequence> chosenKeys();
-/// The commands that can have keys, with their texts in the host's menus.
-std::vector<KeyOption> keyOptions(host::Host& host);
 
 } // namespace workbench

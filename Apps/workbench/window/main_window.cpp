@@ -4,6 +4,7 @@
 #include "Apps/workbench/base/title.h"
 #include "Apps/workbench/options/declared_options.h"
 #include "Apps/workbench/project/project_saving.h"
+#include "Apps/workbench/window/command_keys.h"
 #include "Apps/workbench/window/commands.h"
 #include "Basic/conversions.h"
 #include <QApplication>

@@ -9,6 +9,7 @@
 #include "Apps/workbench/project/new_project.h"
 #include "Apps/workbench/project/project_reopening.h"
 #include "Apps/workbench/project/project_saving.h"
+#include "Apps/workbench/window/command_keys.h"
 #include "Apps/workbench/window/context_menus.h"
 #include "Apps/workbench/window/menus.h"
 #include "Apps/workbench/window/missing_commands.h"
