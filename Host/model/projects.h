@@ -38,6 +38,8 @@ public:
 private:
     std::shared_ptr<Host> host() const;
     std::shared_ptr<Project> open(const std::string& path);
+    bool makeRoomFor(const std::string& path);
+    vbide::Ref<vbide::VBProject> openComponent(const std::string& path);
     vbide::Ref<vbide::VBProject> openGroup(const std::string& path, const std::string& bytes);
     void add(const std::shared_ptr<Project>& project);
     std::string freeName() const;
