@@ -1,6 +1,7 @@
 // The icons of commands and of the toolbox.
 #include "Apps/workbench/base/drawn_icons.h"
 #include "Apps/workbench/base/icon_table.h"
+#include "Apps/workbench/window/command_keys.h"
 #include "Apps/workbench/window/commands.h"
 #include "tests/workbench/designer_desktop.h"
 #include <QAccessible>

@@ -75,7 +75,8 @@ bool hasAName(QWidget& widget) {
 TEST_F(DesktopMenus, MnemonicsOfAMenuDoNotClash) {
     openSample("AddressBook");
     editor("frmList");
-    for (const char* caption : {"&File", "&Edit", "&View", "&Project", "&Run", "&Add-Ins", "&Window", "&Help"}) {
+    for (const char* caption :
+         {"&File", "&Edit", "&View", "&Project", "&Run", "&Tools", "&Add-Ins", "&Window", "&Help"}) {
         show(*top(caption));
         EXPECT_THAT(clashes(*top(caption)), IsEmpty()) << caption;
     }
@@ -95,7 +96,7 @@ TEST_F(DesktopMenus, OnlyTheAddInsOwnMenuSharesItsLetter) {
 TEST_F(DesktopMenus, EveryCommandIsReachedByTheKeyboard) {
     openSample("AddressBook");
     std::vector<std::string> unreached;
-    for (const char* caption : {"&File", "&Edit", "&View", "&Project", "&Run", "&Window", "&Help"})
+    for (const char* caption : {"&File", "&Edit", "&View", "&Project", "&Run", "&Tools", "&Window", "&Help"})
         withoutAccess(*top(caption), unreached);
     EXPECT_THAT(unreached, IsEmpty());
 }
@@ -466,4 +467,22 @@ TEST_F(DesktopMenus, DiscardedChangesAreNotSaved) {
     test::whenShown<QMessageBox>([](QMessageBox& box) { box.button(QMessageBox::Discard)->click(); });
     EXPECT_TRUE(window().close());
     EXPECT_THAT(folder.read("HelloWorld/frmHello.frm"), Not(HasSubstr("discarded")));
+}
+
+TEST_F(DesktopMenus, ANoticeHasItsButtonsBelowWhereTheBarIsNarrow) {
+    workbench::NoticeBar bar;
+    bar.setAttribute(Qt::WA_DontShowOnScreen);
+    const QString text = "The application was sent to Palm OS. It needs Tamarik, which is not installed there.";
+    const int length = bar.fontMetrics().horizontalAdvance(text);
+    bar.resize(length * 3, 40);
+    bar.showText(text, {{"&Install Tamarik", [] {}}, {"Show &Folder", [] {}}});
+    settle();
+    const auto& label = *bar.findChild<QLabel*>("noticeText");
+    const auto& button = *bar.findChildren<QPushButton*>().front();
+    EXPECT_GE(button.x(), label.geometry().right());
+    bar.resize(length * 2 / 3, 80);
+    settle();
+    EXPECT_GE(button.y(), label.geometry().bottom());
+    EXPECT_GE(label.width(), bar.width() * 3 / 4);
+    EXPECT_LE(label.heightForWidth(label.width()), 2 * label.fontMetrics().lineSpacing() + 4);
 }

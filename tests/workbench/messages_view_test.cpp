@@ -36,6 +36,35 @@ TEST_F(Messages, HaveTheWidthsOfTheDocument) {
     EXPECT_NEAR(list().columnWidth(Grid::MessageColumn), rest * 0.76, 3);
 }
 
+/// However large the font and narrow the window.
+TEST_F(Messages, HaveWholeHeaders) {
+    const auto expectWhole = [this] {
+        for (const auto column : {Grid::TitleColumn, Grid::LineColumn, Grid::ErrorColumn}) {
+            const auto text = list().model()->headerData(column, Qt::Horizontal).toString();
+            auto font = QApplication::font();
+            font.setBold(true);
+            EXPECT_GT(list().columnWidth(column), QFontMetrics(font).horizontalAdvance(text)) << text.toStdString();
+        }
+    };
+    expectWhole();
+    error("of a number", 12345, 1042);
+    settle();
+    for (const auto column : {Grid::LineColumn, Grid::ErrorColumn})
+        EXPECT_GE(list().columnWidth(column), list().sizeHintForIndex(at(0, column)).width()) << column;
+    const auto usual = QApplication::font();
+    auto large = usual;
+    large.setPointSize(18);
+    QApplication::setFont(large);
+    settle();
+    expectWhole();
+    window().resize(500, 720);
+    settle();
+    expectWhole();
+    EXPECT_GT(list().columnWidth(Grid::MessageColumn), 0);
+    EXPECT_TRUE(dock().grab().save(FERNWICK_BINARY_DIR "/messages-large-font.png"));
+    QApplication::setFont(usual);
+}
+
 TEST_F(Messages, HavePicturesAndABoldHeader) {
     error("e");
     warning("w");

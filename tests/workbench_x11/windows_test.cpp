@@ -1,10 +1,13 @@
 // Pictures of the windows that users see every day, in both themes, for looking at. Taken only by
 // scripts/make-window-pictures, which names the folder.
 #include "Apps/workbench/bridge/form_window.h"
+#include "Apps/workbench/options/options_dialog.h"
 #include "Apps/workbench/project/project_properties.h"
+#include "Apps/workbench/window/command_keys.h"
 #include "tests/workbench_x11/x_desktop.h"
 #include <QDir>
 #include <QScreen>
+#include <QTabWidget>
 #include <QTest>
 
 using namespace test;
@@ -39,6 +42,23 @@ struct Windows : XDesktop {
             form.Unload();
         });
     }
+    /// Each page of the options.
+    void takeOptions() {
+        std::unique_ptr<workbench::OptionsDialog> options;
+        ask([&] {
+            options = std::make_unique<workbench::OptionsDialog>(
+                workbench::keyOptions(bench->host()), [] {}, &window());
+            options->show();
+        });
+        for (const char* page : {"editor", "colours", "designer", "keys"}) {
+            take(qPrintable(QString("options-%1").arg(page)));
+            ask([&] {
+                auto& tabs = *options->findChild<QTabWidget*>();
+                tabs.setCurrentIndex(tabs.currentIndex() + 1);
+            });
+        }
+        ask([&] { options.reset(); });
+    }
     void compileWithAnError() {
         ask([this] { component("frmList")->CodeModule()->InsertLines(1, "Private shown As Strin g"); });
         choose("&Fernwick", "Compile and &Validate");
@@ -68,6 +88,7 @@ TEST_F(Windows, OfEveryDay) {
     });
     take("project-properties");
     ask([&] { properties.reset(); });
+    takeOptions();
     auto& forms = bench->addIn();
     takeForm("device-choice", forms.chooseTarget);
     takeForm("compile", forms.compile);

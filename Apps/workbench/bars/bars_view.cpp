@@ -18,6 +18,10 @@ QString tipOf(const host::BarControl& control) {
     return qt(host::withoutMnemonic(own.empty() ? control.Caption() : own)).remove("...");
 }
 
+QString withKey(const QString& tip, const QKeySequence& key) {
+    return key.isEmpty() ? tip : QString("%1 (%2)").arg(tip, key.toString(QKeySequence::NativeText));
+}
+
 bool showsAnything(const host::Bar& bar) {
     return std::any_of(bar.list().begin(), bar.list().end(), [](const auto& control) { return control->Visible(); });
 }
@@ -111,7 +115,7 @@ QAction* BarsView::actionOf(const std::shared_ptr<host::BarControl>& control) {
     const auto caption = qt(control->Caption());
     const auto whyNot = unavailable(*control);
     action->setText(caption);
-    action->setToolTip(whyNot.isEmpty() ? tipOf(*control) : whyNot);
+    action->setToolTip(whyNot.isEmpty() ? withKey(tipOf(*control), drawn.key) : whyNot);
     if (drawn.button) showButton(drawn, *control);
     action->setEnabled(control->Enabled() && control->Parent()->Enabled() && whyNot.isEmpty());
     action->setVisible(control->Visible() && (!drawn.popup || showsAnything(*control->popup())));
@@ -152,16 +156,30 @@ void BarsView::makePopup(Drawn& drawn, const std::shared_ptr<host::BarControl>& 
 
 void BarsView::makeButton(Drawn& drawn, const std::shared_ptr<host::BarControl>& control) {
     drawn.button = std::make_unique<QAction>();
-    // a shortcut that two actions share works for neither
-    const auto bar = control->Parent();
-    const auto all = bars_.items();
-    const bool isInToolbar = std::find(all.begin(), all.end(), bar) != all.end();
-    const auto look = lookOf_(control->Id());
-    if (!isInToolbar) drawn.button->setShortcuts(QList{look.key, look.otherKey});
+    setKeys(drawn, *control);
     QObject::connect(drawn.button.get(), &QAction::triggered, [this, link = std::weak_ptr(control)] {
         if (const auto clicked = link.lock()) run_([&] { clicked->Execute(); });
         redraw_.start(); // Qt has toggled a checkable action, even if the command failed
     });
+}
+
+/// A shortcut that two actions share works for neither, so only the menu's action has it.
+void BarsView::setKeys(Drawn& drawn, const host::BarControl& control) {
+    const auto look = lookOf_(control.Id());
+    drawn.key = look.key;
+    const auto bar = control.Parent();
+    const auto all = bars_.items();
+    const bool isInToolbar = std::find(all.begin(), all.end(), bar) != all.end();
+    if (isInToolbar) return;
+    QList keys{look.key, look.otherKey};
+    keys.removeAll(QKeySequence());
+    drawn.button->setShortcuts(keys);
+}
+
+void BarsView::showKeys() {
+    for (auto& [link, drawn] : drawn_)
+        if (const auto control = link.lock(); control && drawn.button) setKeys(drawn, *control);
+    draw();
 }
 
 /// Deletes actions later, as a click on the action itself may have removed the control.

@@ -42,6 +42,8 @@ public:
 
     /// Draws the model at once, without waiting for Qt's loop.
     void draw();
+    /// Gives the commands the keys that lookOf returns now.
+    void showKeys();
     /// Moves the toolbars to their places in the model, after something other than the model moved them.
     void placeToolBars() { docking_.placeAgain(); }
 
@@ -50,6 +52,8 @@ private:
     struct Drawn {
         std::unique_ptr<QAction> button;
         std::unique_ptr<QMenu> popup;
+        /// The command's key, for its tip.
+        QKeySequence key;
         /// The face and theme that the icon was made for.
         std::optional<std::pair<std::string, Theme>> looks;
         bool current = false;
@@ -61,6 +65,7 @@ private:
     void make(Drawn& drawn, const std::shared_ptr<host::BarControl>& control);
     void makePopup(Drawn& drawn, const std::shared_ptr<host::BarControl>& control);
     void makeButton(Drawn& drawn, const std::shared_ptr<host::BarControl>& control);
+    void setKeys(Drawn& drawn, const host::BarControl& control);
     void showButton(Drawn& drawn, const host::BarControl& control);
     void dropGone();
 

@@ -15,7 +15,11 @@ constexpr int kMargin = 4, kSideMargin = 8;
 
 } // namespace
 
-NoticeBar::NoticeBar() : text_(new QLabel), offers_(new QHBoxLayout) {
+NoticeBar::NoticeBar()
+    : text_(new QLabel),
+      parts_(new QBoxLayout(QBoxLayout::LeftToRight)),
+      offers_(new QHBoxLayout),
+      close_(new QToolButton) {
     setObjectName("notice");
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
@@ -24,17 +28,17 @@ NoticeBar::NoticeBar() : text_(new QLabel), offers_(new QHBoxLayout) {
     text_->setForegroundRole(QPalette::ToolTipText);
     text_->setTextFormat(Qt::PlainText);
     text_->setWordWrap(true);
-    auto* const close = new QToolButton;
-    close->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
-    close->setToolTip("Close");
-    close->setAccessibleName("Close");
-    close->setAutoRaise(true);
-    connect(close, &QToolButton::clicked, this, &QWidget::hide);
+    close_->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
+    close_->setToolTip("Close");
+    close_->setAccessibleName("Close");
+    close_->setAutoRaise(true);
+    connect(close_, &QToolButton::clicked, this, &QWidget::hide);
     auto* const row = new QHBoxLayout(this);
     row->setContentsMargins(kSideMargin, kMargin, kMargin, kMargin);
-    row->addWidget(text_, 1);
-    row->addLayout(offers_);
-    row->addWidget(close);
+    parts_->addWidget(text_, 1);
+    parts_->addLayout(offers_);
+    row->addLayout(parts_, 1);
+    row->addWidget(close_, 0, Qt::AlignTop);
     over_.setSingleShot(true);
     connect(&over_, &QTimer::timeout, this, &QWidget::hide);
     hide();
@@ -55,12 +59,26 @@ void NoticeBar::showText(const QString& text, const std::vector<Offer>& offers) 
         offers_->addWidget(button);
     }
     text_->setText(text);
+    arrange();
     setAccessibleName(text);
     show();
     QAccessibleEvent alert(this, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
     over_.stop();
     if (offers.empty()) over_.start(kMillisecondsWithoutOffers);
+}
+
+void NoticeBar::arrange() {
+    const int room = width() - kSideMargin - kMargin - close_->sizeHint().width() - layout()->spacing();
+    const int needed = text_->fontMetrics().horizontalAdvance(text_->text()) + parts_->spacing();
+    const bool fits = offers_->isEmpty() || needed + offers_->sizeHint().width() <= room;
+    parts_->setDirection(fits ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    parts_->setAlignment(offers_, fits ? Qt::AlignVCenter : Qt::AlignLeft);
+}
+
+void NoticeBar::resizeEvent(QResizeEvent* event) {
+    QFrame::resizeEvent(event);
+    arrange();
 }
 
 } // namespace workbench

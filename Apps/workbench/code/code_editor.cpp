@@ -62,7 +62,6 @@ void CodeEditor::prepareText() {
     text_->setUtf8(true);
     text_->setEolMode(QsciScintilla::EolUnix); // the host uses its own line ends
     text_->setLexer(lexer_);
-    text_->setTabWidth(4);
     text_->setIndentationsUseTabs(false);
     text_->setAutoIndent(true);
     text_->setCaretLineVisible(true);
@@ -70,21 +69,24 @@ void CodeEditor::prepareText() {
     text_->SendScintilla(QsciScintillaBase::SCI_SETSCROLLWIDTH, 1UL);
     text_->setMarginType(kNumberMargin, QsciScintilla::NumberMargin);
     bindKeys(*text_);
-    colour(currentTheme());
+    showIn(storedCodeLook(currentTheme()));
     connect(text_, &QsciScintilla::SCN_MODIFIED, this,
             [this](int position, int kind, const char*, int, int linesAdded) {
                 if (!loading_ && (kind & kEditings) != 0) edited(position, linesAdded, (kind & kUndoings) != 0);
             });
 }
 
-void CodeEditor::colour(Theme theme) {
-    const auto& colours = codeColours(theme);
-    lexer_->colour(theme);
+void CodeEditor::showIn(const CodeLook& look) {
+    const auto& colours = look.colours;
+    lexer_->showIn(look);
+    text_->setTabWidth(look.tabWidth);
+    text_->setMarginsFont(look.font);
     text_->setCaretForegroundColor(colours.text);
     text_->setCaretLineBackgroundColor(colours.currentLine);
     text_->setMarginsBackgroundColor(colours.margin);
     text_->setMarginsForegroundColor(colours.marginText);
-    marks_.colour(theme);
+    marks_.colour(colours);
+    widenMargin();
 }
 
 void CodeEditor::zoomTo(int points) {

@@ -6,6 +6,7 @@
 #include "Apps/workbench/code/line_marks.h"
 #include "Apps/workbench/code/project_names.h"
 #include "Apps/workbench/code/typed_line.h"
+#include "Apps/workbench/options/code_look.h"
 #include <QTimer>
 #include <QWidget>
 #include <functional>
@@ -37,7 +38,7 @@ public:
     /// Shows the selection of the host's code pane.
     void showSelection();
     LineMarks& marks() { return marks_; }
-    void colour(Theme theme);
+    void showIn(const CodeLook& look);
     /// Enlarges the text by this many points; negative to make it smaller.
     void zoomTo(int points);
 

@@ -96,4 +96,8 @@ void bindKeys(QsciScintilla& editor) {
     bind(commands, QsciCommand::Redo, int(Qt::CTRL) | int(Qt::SHIFT) | Qt::Key_Z);
 }
 
+void leaveKey(QsciScintilla& editor, const QKeySequence& key) {
+    if (!key.isEmpty()) leave(*editor.standardCommands(), key[0].toCombined());
+}
+
 } // namespace workbench

@@ -1,5 +1,6 @@
 #pragma once
 // Lines of an editor, and the commands on them.
+#include <QKeySequence>
 #include <QString>
 
 class QsciScintilla;
@@ -25,5 +26,7 @@ void cutLine(QsciScintilla& editor);
 
 /// Changes the keys of the editing component to those of the language's own IDE, and leaves others to the window.
 void bindKeys(QsciScintilla& editor);
+/// Leaves this key to the window.
+void leaveKey(QsciScintilla& editor, const QKeySequence& key);
 
 } // namespace workbench

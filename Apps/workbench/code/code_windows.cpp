@@ -1,5 +1,6 @@
 #include "Apps/workbench/code/code_windows.h"
 #include "Apps/workbench/base/text.h"
+#include "Apps/workbench/code/code_lines.h"
 #include "Apps/workbench/code/scintilla.h"
 #include "Basic/runtime_error.h"
 #include <QSettings>
@@ -41,6 +42,7 @@ void CodeWindows::open(const vbide::Ref<vbide::VBComponent>& component) {
     if (!editor) {
         editor = new CodeEditor(component, names_, refused_);
         editor->zoomTo(zoom_);
+        for (const auto& key : leftKeys_) leaveKey(editor->scintilla(), key);
         connect(&editor->scintilla(), &QsciScintilla::SCN_ZOOM, this,
                 [this, editor] { zoomTo(int(editor->scintilla().SendScintilla(QsciScintilla::SCI_GETZOOM))); });
         made(*editor);
@@ -101,8 +103,15 @@ void CodeWindows::markEditor(CodeEditor& editor) {
     editor.marks().show(marks);
 }
 
-void CodeWindows::colour(Theme theme) {
-    for (auto* editor : editors()) editor->colour(theme);
+void CodeWindows::showLook() {
+    const auto look = storedCodeLook(currentTheme());
+    for (auto* editor : editors()) editor->showIn(look);
+}
+
+void CodeWindows::leaveKeys(const QList<QKeySequence>& keys) {
+    leftKeys_ = keys;
+    for (auto* editor : editors())
+        for (const auto& key : keys) leaveKey(editor->scintilla(), key);
 }
 
 void CodeWindows::zoomBy(int points) { zoomTo(zoom_ + points); }

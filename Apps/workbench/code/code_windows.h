@@ -2,6 +2,8 @@
 // The tabs of the code windows; form views are tabs here too.
 #include "Apps/workbench/code/code_editor.h"
 #include "Host/model/host.h"
+#include <QKeySequence>
+#include <QList>
 #include <QTabWidget>
 #include <map>
 
@@ -31,7 +33,10 @@ public:
     CodeEditor* current() const;
     /// Shows the messages of the active project as marks.
     void mark(MarksByComponent marks);
-    void colour(Theme theme);
+    /// Draws the code in the look of the user's settings.
+    void showLook();
+    /// Leaves these keys to the window, also in code windows that open later.
+    void leaveKeys(const QList<QKeySequence>& keys);
     /// Changes the text size of all code windows, in points. It is kept in the user's settings.
     void zoomBy(int points);
     void resetZoom();
@@ -49,6 +54,7 @@ private:
     ProjectNames names_;
     MarksByComponent marks_;
     int zoom_ = 0;
+    QList<QKeySequence> leftKeys_;
     QTimer refresh_;
     std::vector<fernwick::Subscription> watches_;
 };

@@ -28,8 +28,7 @@ LineMarks::LineMarks(QsciScintilla& text) : text_(text) {
     text.viewport()->installEventFilter(this);
 }
 
-void LineMarks::colour(Theme theme) {
-    const auto& colours = codeColours(theme);
+void LineMarks::colour(const CodeColours& colours) {
     for (const auto& [mark, colour] :
          {std::pair(kErrorMark, colours.error), std::pair(kWarningMark, colours.warning)}) {
         text_.setMarkerBackgroundColor(colour, mark);

@@ -32,7 +32,7 @@ public:
     void putBack(const std::vector<int>& lines);
     /// The messages of a line (from 0), one per line.
     QString textAt(int line) const;
-    void colour(Theme theme);
+    void colour(const CodeColours& colours);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

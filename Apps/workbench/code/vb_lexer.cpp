@@ -1,6 +1,5 @@
 #include "Apps/workbench/code/vb_lexer.h"
 #include "Basic/vb_words.h"
-#include <QFontDatabase>
 #include <array>
 
 namespace workbench {
@@ -29,17 +28,10 @@ QByteArray highlightedWords() {
 
 } // namespace
 
-VbLexer::VbLexer(QObject* parent) : QsciLexer(parent) {
-    auto font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-    constexpr int kPoints = 10;
-    font.setPointSize(kPoints);
-    setDefaultFont(font);
-    for (int style = 0; style < int(kStyles.size()); ++style) setFont(font, style);
-    colour(currentTheme());
-}
-
-void VbLexer::colour(Theme theme) {
-    const auto& colours = codeColours(theme);
+void VbLexer::showIn(const CodeLook& look) {
+    setDefaultFont(look.font);
+    for (int style = 0; style < int(kStyles.size()); ++style) setFont(look.font, style);
+    const auto& colours = look.colours;
     setDefaultPaper(colours.paper);
     setDefaultColor(colours.text);
     setPaper(colours.paper);

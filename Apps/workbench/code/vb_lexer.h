@@ -1,15 +1,15 @@
 #pragma once
 // Syntax highlighting of Visual Basic.
-#include "Apps/workbench/base/theme.h"
 #include "Apps/workbench/code/scintilla.h"
+#include "Apps/workbench/options/code_look.h"
 
 namespace workbench {
 
 class VbLexer final : public QsciLexer {
 public:
-    explicit VbLexer(QObject* parent);
+    explicit VbLexer(QObject* parent) : QsciLexer(parent) {}
 
-    void colour(Theme theme);
+    void showIn(const CodeLook& look);
     const char* language() const override { return "Visual Basic"; }
     /// The name of Scintilla's built-in lexer.
     const char* lexer() const override { return "vb"; }

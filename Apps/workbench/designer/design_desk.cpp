@@ -16,9 +16,10 @@ DesignDesk::DesignDesk(host::Host& host, CodeWindows& tabs, ProjectExplorer& exp
                                                       if (auto* view = forms_->current()) view->select(control);
                                                   }})),
       toolbox_(new Toolbox([this](const auto& progId) { addInMiddle(progId); })),
-      forms_(new FormWindows(
-          host, tabs, history_,
-          {run_, [this] { followTabs(); }, [this] { return toolbox_->tool(); }, [this] { toolbox_->putBack(); }})) {
+      forms_(new FormWindows(host, tabs, history_,
+                             {run_, [this] { followTabs(); }, [this] { return toolbox_->tool(); },
+                              [this] { toolbox_->putBack(); }, [this] { selectionChanged(); },
+                              [this] { return grid_; }})) {
     connect(&tabs, &QTabWidget::currentChanged, this, [this] { followTabs(); });
     connect(&explorer, &QTreeWidget::currentItemChanged, this, [this] { followExplorer(); });
     connect(&explorer, &QTreeWidget::itemClicked, this, [this] { followExplorer(); });
@@ -42,6 +43,7 @@ void DesignDesk::refreshSoon() {
 }
 
 void DesignDesk::followTabs() {
+    selectionChanged();
     if (forms_->current()) listTools();
     if (auto* view = forms_->current()) return properties_->inspect(view->component(), view->selected());
     if (auto* editor = tabs_.current()) return properties_->inspect(editor->component());
@@ -69,8 +71,13 @@ void DesignDesk::addInMiddle(const std::string& progId) {
     auto* const view = forms_->current();
     if (!view) return;
     const auto inner = view->picture().inner;
-    view->add(progId, {onGrid({inner.width() / 2, inner.height() / 2}, {}), QSizeF()});
+    view->add(progId, {onGrid({inner.width() / 2, inner.height() / 2}, {{}, grid_.step()}), QSizeF()});
     view->setFocus();
+}
+
+void DesignDesk::updateGrid() {
+    grid_ = storedGrid();
+    for (auto* view : forms_->views()) view->widget()->update();
 }
 
 vbide::Ref<vbide::VBComponent> DesignDesk::inHand() const {

@@ -27,6 +27,10 @@ public:
     void showCode();
     /// Shows its form, or its code if the form is in front already.
     void showObject();
+    /// Called when another form or control is selected, or what is selected has another place.
+    std::function<void()> selectionChanged = [] {};
+    /// Reads the grid from the user's settings.
+    void updateGrid();
     /// Undoes the last change of the form in front. False if no form is in front.
     bool undo();
 
@@ -43,6 +47,7 @@ private:
     ProjectExplorer& explorer_;
     Run run_;
     DesignHistory history_;
+    DesignGrid grid_ = storedGrid();
     PropertiesWindow* properties_;
     Toolbox* toolbox_;
     FormWindows* forms_;

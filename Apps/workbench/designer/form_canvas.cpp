@@ -52,6 +52,10 @@ QPointF FormCanvas::onForm(const QPointF& onWidget) const { return onWidget - in
 
 QRectF FormCanvas::onCanvas(const QRectF& place) const { return place.translated(innerCorner()); }
 
+QRectF FormCanvas::shownPlace() const { return drag_ && drag_->tool.empty() ? drag_->now : selectedPlace(); }
+
+SnapGrid FormCanvas::gridFrom(const QPointF& origin) const { return {origin, view_.callbacks().grid().step()}; }
+
 QRectF FormCanvas::selectedPlace() const {
     const auto* drawn = view_.drawnSelection();
     return drawn ? drawn->place : QRectF({}, view_.picture().inner);
@@ -88,7 +92,7 @@ void FormCanvas::paintEvent(QPaintEvent* event) {
     painter.setClipRegion(event->region());
     painter.save();
     painter.translate(kCanvasMargin, kCanvasMargin);
-    paintForm(painter, view_.picture());
+    paintForm(painter, view_.picture(), view_.callbacks().grid());
     painter.restore();
     drawSelection(painter);
 }
@@ -112,8 +116,9 @@ void FormCanvas::drawSelection(QPainter& painter) const {
 void FormCanvas::keyPressEvent(QKeyEvent* event) {
     const auto direction = directionOf(event->key());
     if (!direction.isNull()) {
-        if (event->modifiers() & Qt::ControlModifier) return nudge(direction * kGridStep, false);
-        if (event->modifiers() & Qt::ShiftModifier) return nudge(direction * kGridStep, true);
+        const auto step = direction * view_.callbacks().grid().step();
+        if (event->modifiers() & Qt::ControlModifier) return nudge(step, false);
+        if (event->modifiers() & Qt::ShiftModifier) return nudge(step, true);
         return view_.selectBeside(direction);
     }
     switch (event->key()) {

@@ -19,6 +19,8 @@ public:
     void formChanged();
     /// Converts a place on the form's inner rectangle to this widget.
     QRectF onCanvas(const QRectF& place) const;
+    /// The place of the selected control, or of the form, on the form's inner rectangle; while it is dragged, its new one.
+    QRectF shownPlace() const;
     /// The name and class of a control that is drawn as a symbol or a box; else "".
     QString tipAt(const QPointF& onWidget) const;
 
@@ -48,8 +50,8 @@ private:
 
     QPointF innerCorner() const;
     QPointF onForm(const QPointF& onWidget) const;
-    /// The place of the selected control, or of the form.
     QRectF selectedPlace() const;
+    SnapGrid gridFrom(const QPointF& origin) const;
     std::vector<GripPlace> grips() const;
     Grip gripAt(const QPointF& onWidget) const;
     bool beginNew(const QPointF& onWidget);

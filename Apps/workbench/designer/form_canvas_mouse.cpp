@@ -45,7 +45,7 @@ bool FormCanvas::beginNew(const QPointF& onWidget) {
     const auto tool = view_.callbacks().tool();
     if (tool.empty()) return false;
     view_.select(nullptr);
-    const QRectF place(onGrid(onForm(onWidget), {}), QSizeF());
+    const QRectF place(onGrid(onForm(onWidget), gridFrom({})), QSizeF());
     drag_ = Drag{onWidget, Grip::None, place, place, {}, false, tool};
     return true;
 }
@@ -66,9 +66,10 @@ void FormCanvas::mouseMoveEvent(QMouseEvent* event) {
     const auto by = event->position() - drag_->from;
     if (drag_->now == drag_->before && by.manhattanLength() < kDragBegins) return;
     drag_->now = drag_->tool.empty()
-                     ? pulled(drag_->before, drag_->grip, by, drag_->origin, drag_->isLine)
-                     : QRectF(drag_->before.topLeft(), onGrid(onForm(event->position()), {})).normalized();
+                     ? pulled(drag_->before, drag_->grip, by, gridFrom(drag_->origin), drag_->isLine)
+                     : QRectF(drag_->before.topLeft(), onGrid(onForm(event->position()), gridFrom({}))).normalized();
     update();
+    view_.callbacks().placeChanged();
 }
 
 void FormCanvas::mouseReleaseEvent(QMouseEvent*) {

@@ -1,12 +1,17 @@
 #include "Apps/workbench/designer/form_grips.h"
-#include "Apps/workbench/designer/form_painter.h"
 #include <cmath>
 
 namespace workbench {
 
 namespace {
 
-double onGrid(double value, double origin) { return origin + std::round((value - origin) / kGridStep) * kGridStep; }
+double alongX(double value, const SnapGrid& grid) {
+    return grid.origin.x() + std::round((value - grid.origin.x()) / grid.step) * grid.step;
+}
+
+double alongY(double value, const SnapGrid& grid) {
+    return grid.origin.y() + std::round((value - grid.origin.y()) / grid.step) * grid.step;
+}
 
 bool isLeft(Grip grip) { return grip == Grip::TopLeft || grip == Grip::Left || grip == Grip::BottomLeft; }
 bool isRight(Grip grip) { return grip == Grip::TopRight || grip == Grip::Right || grip == Grip::BottomRight; }
@@ -15,8 +20,8 @@ bool isBottom(Grip grip) { return grip == Grip::BottomLeft || grip == Grip::Bott
 
 } // namespace
 
-QPointF onGrid(const QPointF& point, const QPointF& origin) {
-    return {onGrid(point.x(), origin.x()), onGrid(point.y(), origin.y())};
+QPointF onGrid(const QPointF& point, const SnapGrid& grid) {
+    return {alongX(point.x(), grid), alongY(point.y(), grid)};
 }
 
 std::vector<GripPlace> gripsOf(const QRectF& place, GripsOf what) {
@@ -50,16 +55,16 @@ Qt::CursorShape cursorOf(Grip grip) {
     return Qt::ArrowCursor;
 }
 
-QRectF pulled(const QRectF& place, Grip grip, const QPointF& by, const QPointF& origin, bool isLine) {
+QRectF pulled(const QRectF& place, Grip grip, const QPointF& by, const SnapGrid& grid, bool isLine) {
     auto now = place;
     if (grip == Grip::None) {
-        now.moveTopLeft(onGrid(place.topLeft() + by, origin));
+        now.moveTopLeft(onGrid(place.topLeft() + by, grid));
         return now;
     }
-    if (isLeft(grip)) now.setLeft(onGrid(place.left() + by.x(), origin.x()));
-    if (isRight(grip)) now.setRight(onGrid(place.right() + by.x(), origin.x()));
-    if (isTop(grip)) now.setTop(onGrid(place.top() + by.y(), origin.y()));
-    if (isBottom(grip)) now.setBottom(onGrid(place.bottom() + by.y(), origin.y()));
+    if (isLeft(grip)) now.setLeft(alongX(place.left() + by.x(), grid));
+    if (isRight(grip)) now.setRight(alongX(place.right() + by.x(), grid));
+    if (isTop(grip)) now.setTop(alongY(place.top() + by.y(), grid));
+    if (isBottom(grip)) now.setBottom(alongY(place.bottom() + by.y(), grid));
     if (isLine) return now;
     if (now.width() < 0) isLeft(grip) ? now.setLeft(now.right()) : now.setRight(now.left());
     if (now.height() < 0) isTop(grip) ? now.setTop(now.bottom()) : now.setBottom(now.top());

@@ -25,10 +25,16 @@ std::vector<GripPlace> gripsOf(const QRectF& place, GripsOf what);
 
 Qt::CursorShape cursorOf(Grip grip);
 
-QPointF onGrid(const QPointF& point, const QPointF& origin);
+/// The lines that moving edges snap to, in pixels.
+struct SnapGrid {
+    QPointF origin;
+    int step = 1;
+};
+
+QPointF onGrid(const QPointF& point, const SnapGrid& grid);
 
 /// Returns the place after a grip, or with Grip::None the whole place, was dragged by `by`. Edges that move snap to the
-/// grid with the corner `origin`. A size does not become negative, except for lines.
-QRectF pulled(const QRectF& place, Grip grip, const QPointF& by, const QPointF& origin, bool isLine);
+/// grid. A size does not become negative, except for lines.
+QRectF pulled(const QRectF& place, Grip grip, const QPointF& by, const SnapGrid& grid, bool isLine);
 
 } // namespace workbench

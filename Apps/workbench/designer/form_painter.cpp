@@ -20,8 +20,8 @@ QFont titleFont(bool bold) {
 }
 
 /// Draws a dot at each step, from the inner corner.
-void drawGridDots(QPainter& painter, const QRectF& area, const QColor& paper) {
-    QPixmap tile(QSize(kGridStep, kGridStep));
+void drawGridDots(QPainter& painter, const QRectF& area, const QColor& paper, int step) {
+    QPixmap tile(QSize(step, step));
     tile.fill(Qt::transparent);
     QPainter dot(&tile);
     dot.fillRect(0, 0, 1, 1, paper.lightness() < kDarkPaper ? Qt::lightGray : Qt::black);
@@ -110,7 +110,7 @@ std::vector<std::pair<std::size_t, QRectF>> menuPlaces(const FormPicture& form) 
     return places;
 }
 
-void paintForm(QPainter& painter, const FormPicture& form) {
+void paintForm(QPainter& painter, const FormPicture& form, const DesignGrid& grid) {
     const auto border = form.border();
     drawTitle(painter, form, wholeSize(form));
     painter.save();
@@ -120,7 +120,7 @@ void paintForm(QPainter& painter, const FormPicture& form) {
     painter.fillRect(inner, form.back);
     painter.setClipRect(inner, Qt::IntersectClip);
     if (!form.picture.isNull()) painter.drawPixmap(inner.topLeft(), form.picture);
-    drawGridDots(painter, inner, form.back);
+    if (grid.isVisible) drawGridDots(painter, inner, form.back, grid.pixels);
     painter.translate(inner.topLeft());
     drawControls(painter, form);
     painter.restore();

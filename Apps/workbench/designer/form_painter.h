@@ -1,15 +1,13 @@
 #pragma once
 // Draws a form as in a designer.
 #include "Apps/workbench/designer/form_picture.h"
+#include "Apps/workbench/options/design_grid.h"
 #include <QPainter>
 
 namespace workbench {
 
-/// The designer's grid, in logical pixels: 120 twips.
-inline constexpr int kGridStep = 8;
-
 /// Draws the form with its frame from the painter's origin. Skips what the painter clips.
-void paintForm(QPainter& painter, const FormPicture& form);
+void paintForm(QPainter& painter, const FormPicture& form, const DesignGrid& grid = {});
 /// Draws what is inside of the frame, without the grid.
 void paintInner(QPainter& painter, const FormPicture& form);
 /// The size with its frame.

@@ -36,6 +36,7 @@ void FormView::reload() {
     const bool gone = selected_ && basic::attempt([this] { (void)selected_->ClassName(); }).Number != 0;
     if (gone) select(nullptr);
     canvas_->formChanged();
+    callbacks_.placeChanged();
 }
 
 void FormView::select(const vbide::Ref<vbide::VBControl>& control) {
@@ -50,6 +51,8 @@ void FormView::select(const vbide::Ref<vbide::VBControl>& control) {
     canvas_->update();
     callbacks_.selected();
 }
+
+QRectF FormView::shownPlace() const { return canvas_->shownPlace(); }
 
 void FormView::place(const QRectF& place) {
     const auto* drawn = drawnSelection();

@@ -1,6 +1,7 @@
 #pragma once
 // The designer of a form: draws it and lets the user edit it by mouse and keyboard.
 #include "Apps/workbench/designer/form_picture.h"
+#include "Apps/workbench/options/design_grid.h"
 #include "Apps/workbench/properties/design_history.h"
 #include <QScrollArea>
 #include <QTimer>
@@ -25,6 +26,9 @@ public:
         std::function<std::string()> tool;
         /// The tool was used or cancelled.
         std::function<void()> toolUsed;
+        /// What is selected has another place, or is dragged to one.
+        std::function<void()> placeChanged;
+        std::function<DesignGrid()> grid;
     };
 
     /// Reads the form. Error 380 for a file without the description of a form.
@@ -36,6 +40,9 @@ public:
     const vbide::Ref<vbide::VBControl>& selected() const { return selected_; }
     /// Null, or a control that is not on the form, selects the form.
     void select(const vbide::Ref<vbide::VBControl>& control);
+    /// The place of the selected control, or of the form, in pixels on the form's inner rectangle. While it is dragged,
+    /// its new one.
+    QRectF shownPlace() const;
     /// Reads the form again when Qt's loop turns.
     void reloadSoon() { reload_.start(); }
     /// Undoes the last change of this form.

@@ -37,7 +37,8 @@ void FormWindows::open(const vbide::Ref<vbide::VBComponent>& component) {
     // fails for a file without the description of a form
     const auto failed = basic::attempt([&] {
         view = new FormView(component, history_,
-                            {callbacks_.run, callbacks_.selected, focused, callbacks_.tool, callbacks_.toolUsed});
+                            {callbacks_.run, callbacks_.selected, focused, callbacks_.tool, callbacks_.toolUsed,
+                             callbacks_.placeChanged, callbacks_.grid});
     });
     if (failed.Number != 0) return component->DesignerWindow()->Close();
     opening_ = true; // as the user did not choose this form

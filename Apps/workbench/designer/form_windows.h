@@ -16,6 +16,8 @@ public:
         /// See FormView::Callbacks.
         std::function<std::string()> tool;
         std::function<void()> toolUsed;
+        std::function<void()> placeChanged;
+        std::function<DesignGrid()> grid;
     };
 
     /// Host, tabs and history outlive this.

@@ -8,7 +8,6 @@
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QSettings>
 #include <algorithm>
 
 namespace workbench {
@@ -16,8 +15,6 @@ namespace workbench {
 namespace {
 
 using Grid = fernwick::MessageGrid;
-
-constexpr auto kNextKey = "messages/nextKey", kPreviousKey = "messages/previousKey";
 
 QAction* separatorAction(QObject* owner) {
     auto* const line = new QAction(owner);
@@ -50,9 +47,17 @@ void MessagesView::addCommands() {
     list_->addAction(separatorAction(this));
     walk_ << addCommand("&Next Message", "nextMessage", [this] { step(+1); })
           << addCommand("&Previous Message", "previousMessage", [this] { step(-1); });
-    const QSettings settings;
-    walk_[0]->setShortcut(QKeySequence(settings.value(kNextKey, "F6").toString()));
-    walk_[1]->setShortcut(QKeySequence(settings.value(kPreviousKey, "Shift+F6").toString()));
+    showKeys();
+}
+
+void MessagesView::showKeys() {
+    const auto keys = walkKeys();
+    for (qsizetype i = 0; i < walk_.size(); ++i) walk_[i]->setShortcut(keys[std::size_t(i)].stored());
+}
+
+std::vector<KeyOption> MessagesView::walkKeys() {
+    return {{"messages/nextKey", "Messages", "Next Message", Qt::Key_F6},
+            {"messages/previousKey", "Messages", "Previous Message", Qt::SHIFT | Qt::Key_F6}};
 }
 
 void MessagesView::enableCommands() {

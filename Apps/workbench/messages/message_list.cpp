@@ -11,6 +11,8 @@ namespace {
 
 using Grid = fernwick::MessageGrid;
 
+constexpr auto kLongNumber = "00000";
+
 /// The document estimates heights from the length of the text. This makes rows higher that need more because of word
 /// wrap or line breaks. Only visible rows are measured.
 class MessageCells final : public QStyledItemDelegate {
@@ -77,6 +79,18 @@ void MessageList::changeEvent(QEvent* event) {
 void MessageList::resizeEvent(QResizeEvent* event) {
     QTreeView::resizeEvent(event);
     resized();
+}
+
+int MessageList::leastWidth(int column) const {
+    const auto text = model()->headerData(column, Qt::Horizontal).toString();
+    if (text.isEmpty()) return 0;
+    const auto font = model()->headerData(column, Qt::Horizontal, Qt::FontRole).value<QFont>();
+    const int margin = style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, header());
+    const bool isSorted = header()->sortIndicatorSection() == column;
+    const int mark = isSorted ? style()->pixelMetric(QStyle::PM_HeaderMarkSize, nullptr, header()) + margin : 0;
+    const int cellMargin = style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1;
+    return std::max(QFontMetrics(font).horizontalAdvance(text) + 2 * margin + mark,
+                    fontMetrics().horizontalAdvance(kLongNumber) + 2 * cellMargin);
 }
 
 fernwick::TextExtent MessageList::Texts::GetTextExtentPoint32(const std::string& text) const noexcept {

@@ -18,6 +18,8 @@ public:
     std::function<void()> fontChanged = [] {};
     /// The list was resized.
     std::function<void()> resized = [] {};
+    /// The width that a column needs for its header and for the numbers of lines and errors; 0 for one without a header.
+    int leastWidth(int column) const;
     /// Measures the heights of the rows again.
     void layOutAgain() { scheduleDelayedItemsLayout(); }
 

@@ -66,7 +66,11 @@ void MessagesView::putTogether() {
     list_->setColumnHidden(Grid::FileNameColumn, true);
     list_->pressed = [this](const QKeyEvent& key) { return pressed(key); };
     list_->resized = [this] { layOut(); };
-    list_->fontChanged = [this] { document_->drawWith(&list_->deviceContext()); };
+    list_->fontChanged = [this] {
+        document_->drawWith(&list_->deviceContext());
+        layOut();
+    };
+    connect(list_->header(), &QHeaderView::sortIndicatorChanged, this, [this] { layOut(); });
     connect(list_, &QTreeView::doubleClicked, this, [this](const QModelIndex& index) { goTo(index); });
     connect(list_->selectionModel(), &QItemSelectionModel::currentChanged, this, [this] { enableCommands(); });
     bar_->filter().installEventFilter(this);
@@ -119,11 +123,13 @@ void MessagesView::draw() {
     sinceDrawn_.start();
 }
 
+/// The document's shares of the width, but no column narrower than it needs.
 void MessagesView::layOut() {
     document_->UserDocument_Resize(list_->viewport()->width() * kTwipsPerPixel,
                                    list_->geometry().bottom() * kTwipsPerPixel, list_->y() * kTwipsPerPixel);
     for (int column = Grid::PictureColumn; column < Grid::MessageColumn; ++column)
-        list_->setColumnWidth(column, document_->msgGrid().columnWidth(Grid::Column(column)) / kTwipsPerPixel);
+        list_->setColumnWidth(column, std::max(document_->msgGrid().columnWidth(Grid::Column(column)) / kTwipsPerPixel,
+                                               list_->leastWidth(column)));
     list_->layOutAgain();
     layOutStatus();
 }

@@ -3,6 +3,7 @@
 #include "Apps/workbench/base/run.h"
 #include "Apps/workbench/messages/message_filter.h"
 #include "Apps/workbench/messages/message_rows.h"
+#include "Apps/workbench/options/key_option.h"
 #include <QElapsedTimer>
 #include <QTimer>
 #include <QWidget>
@@ -32,9 +33,12 @@ public:
     void drawSoon();
     /// Called after the rows were drawn again.
     std::function<void()> drawn = [] {};
-    /// The commands that go to the next and previous message, which the window adds to its actions. Their keys are the
-    /// user's settings "messages/nextKey" and "messages/previousKey".
+    /// The commands that go to the next and previous message, which the window adds to its actions.
     const QList<QAction*>& walk() const { return walk_; }
+    /// Their keys, in the same order.
+    static std::vector<KeyOption> walkKeys();
+    /// Gives them the keys of the user's settings.
+    void showKeys();
 
 protected:
     void resizeEvent(QResizeEvent* event) override;

@@ -58,6 +58,7 @@ constexpr std::array kCommandIcons{
     CommandIcon{kStartUpProjectId, "StartUp"},
     CommandIcon{kProjectPropertiesId, "Properties"},
     CommandIcon{kStartId, "Start"},
+    CommandIcon{kOptionsId, "Options"},
     CommandIcon{kNextWindowId, "NextWindow"},
     CommandIcon{kPreviousWindowId, "PreviousWindow"},
     CommandIcon{kCloseWindowId, "Close"},

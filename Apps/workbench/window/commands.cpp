@@ -4,7 +4,6 @@
 #include "Apps/workbench/project/component_commands.h"
 #include "Apps/workbench/project/project_properties.h"
 #include "Apps/workbench/project/project_saving.h"
-#include "Apps/workbench/window/command_icons.h"
 #include "Apps/workbench/window/main_window.h"
 
 namespace workbench {
@@ -117,6 +116,10 @@ const Command kRunCommands[] = {
     {kStartId, "&Start on Device", Qt::Key_F5, kAlways, [](auto& on) { on.program.start(); }},
 };
 
+const Command kToolsCommands[] = {
+    {kOptionsId, "&Options...", kNoKey, kAlways, [](auto& on) { on.program.options(); }},
+};
+
 const Command kWindowCommands[] = {
     {kNextWindowId, "&Next Window", Qt::CTRL | Qt::Key_F6, kAlways, [](auto& on) { on.window.code().step(1); }},
     {kPreviousWindowId, "&Previous Window", Qt::CTRL | Qt::SHIFT | Qt::Key_F6, kAlways,
@@ -141,31 +144,20 @@ const DockCommand kDockCommands[] = {
 
 const CommandMenu kCommandMenus[] = {
     {host::kFileMenuId, kFileCommands},       {host::kEditMenuId, kEditCommands}, {host::kViewMenuId, kViewCommands},
-    {host::kProjectMenuId, kProjectCommands}, {kRunMenuId, kRunCommands},         {kWindowMenuId, kWindowCommands},
-    {host::kHelpMenuId, kHelpCommands},
+    {host::kProjectMenuId, kProjectCommands}, {kRunMenuId, kRunCommands},         {kToolsMenuId, kToolsCommands},
+    {kWindowMenuId, kWindowCommands},         {host::kHelpMenuId, kHelpCommands},
 };
-
-QKeySequence sequenceOf(QKeyCombination key) {
-    return key.toCombined() == kNoKey.toCombined() ? QKeySequence() : QKeySequence(key);
-}
 
 } // namespace
 
 std::span<const CommandMenu> commandMenus() { return kCommandMenus; }
 
+std::span<const DockCommand> dockCommands() { return kDockCommands; }
+
 DockCommand dockCommandOf(const QString& dock) {
     for (const auto& command : kDockCommands)
         if (dock == command.dock) return command;
     return {""};
-}
-
-CommandLook commandLookOf(int id) {
-    for (const auto& menu : kCommandMenus)
-        for (const auto& command : menu.commands)
-            if (command.id == id) return {sequenceOf(command.key), sequenceOf(command.otherKey), iconOfCommand(id)};
-    for (const auto& command : kDockCommands)
-        if (command.id == id) return {sequenceOf(command.key), {}, iconOfCommand(id)};
-    return {};
 }
 
 } // namespace workbench

@@ -1,7 +1,9 @@
 #pragma once
 // The window's commands. commands.cpp has one row for each: its text, key, action, and where it is enabled.
-#include "Apps/workbench/bars/bars_view.h"
+#include "Host/model/bars/control_ids.h"
 #include "Host/model/host.h"
+#include <QKeyCombination>
+#include <QString>
 #include <functional>
 #include <span>
 
@@ -9,7 +11,7 @@ namespace workbench {
 
 class MainWindow;
 
-/// Ids of the commands that the window adds to the host's menus.
+/// Ids of the commands that the window adds to the host's menus. The keys that users choose are stored by these numbers.
 enum CommandId : int {
     kGroup = 0, ///< no command: the next one begins a group
     kRecentMenuId = 40001,
@@ -68,6 +70,8 @@ enum CommandId : int {
     kZoomInId,
     kZoomOutId,
     kResetZoomId,
+    kToolsMenuId,
+    kOptionsId,
 };
 
 /// The program's actions that commands call.
@@ -77,6 +81,7 @@ struct ProgramActions {
     std::function<void()> removeProject;
     /// Compiles the active project and sends it to its device.
     std::function<void()> start;
+    std::function<void()> options;
     std::function<void()> help;
     std::function<void()> about;
 };
@@ -123,10 +128,8 @@ struct DockCommand {
     const char* text = nullptr; ///< null: the dock's title
     QKeyCombination key{};
 };
+std::span<const DockCommand> dockCommands();
 /// A dock without a row in the table gets a command without a key.
 DockCommand dockCommandOf(const QString& dock);
-
-/// The keys and icon of a command.
-CommandLook commandLookOf(int id);
 
 } // namespace workbench

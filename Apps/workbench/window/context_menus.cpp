@@ -2,6 +2,7 @@
 #include "Apps/workbench/bars/bar_controls.h"
 #include "Apps/workbench/base/text.h"
 #include "Apps/workbench/code/scintilla.h"
+#include "Apps/workbench/window/command_keys.h"
 #include "Apps/workbench/window/commands.h"
 #include <QMenu>
 
@@ -28,9 +29,8 @@ const std::vector<int>& commandsFor(const ProjectExplorer& explorer) {
     return explorer.currentProject() ? kOfProject : kOfGroup;
 }
 
-/// Adds an action for each command and passes it, with the command's key and icon, to `show`.
-void fillFrom(QMenu& menu, host::Host& host, const std::vector<int>& ids, const Run& run,
-              const std::function<void(QAction&, const CommandLook&)>& show) {
+/// Adds an action for each command, with its icon and key.
+void fillFrom(QMenu& menu, host::Host& host, const std::vector<int>& ids, const Run& run) {
     for (const int id : ids) {
         if (id == kGroup) {
             menu.addSeparator();
@@ -38,7 +38,10 @@ void fillFrom(QMenu& menu, host::Host& host, const std::vector<int>& ids, const 
         }
         const auto command = controlOf(host, id);
         auto* const action = menu.addAction(qt(command->Caption()));
-        show(*action, commandLookOf(id));
+        const auto look = commandLookOf(id);
+        action->setIcon(look.icon);
+        action->setShortcut(look.key);
+        action->setShortcutVisibleInContextMenu(true);
         QObject::connect(action, &QAction::triggered, &menu, [run, command] { run([&] { command->Execute(); }); });
     }
 }
@@ -48,18 +51,15 @@ void showExplorerMenu(host::Host& host, ProjectExplorer& explorer, const Run& ru
     if (const auto project = explorer.projectOfCurrent()) // the commands work on the active one
         run([&] { host.ActiveVBProject(project); });
     QMenu menu;
-    fillFrom(menu, host, commandsFor(explorer), run,
-             [](QAction& action, const CommandLook& look) { action.setIcon(look.icon); });
+    menu.setObjectName("explorerMenu");
+    fillFrom(menu, host, commandsFor(explorer), run);
     menu.exec(explorer.viewport()->mapToGlobal(at));
 }
 
 void showEditorMenu(host::Host& host, const CodeEditor& editor, const Run& run, const QPoint& at) {
     QMenu menu;
     menu.setObjectName("editorMenu");
-    fillFrom(menu, host, kOfEditor, run, [](QAction& action, const CommandLook& look) {
-        action.setShortcut(look.key);
-        action.setShortcutVisibleInContextMenu(true);
-    });
+    fillFrom(menu, host, kOfEditor, run);
     menu.exec(editor.scintilla().mapToGlobal(at));
 }
 

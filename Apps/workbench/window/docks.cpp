@@ -63,9 +63,19 @@ void Docks::drawToolWindow(const std::shared_ptr<host::ToolWindow>& window) {
     follow(*window, *dock);
 }
 
-void Docks::drawMessagesSoon() {
+std::vector<MessagesView*> Docks::messageViews() const {
+    std::vector<MessagesView*> views;
     for (const auto& [window, dock] : drawn_)
-        if (auto* const view = dock ? dynamic_cast<MessagesView*>(dock->widget()) : nullptr) view->drawSoon();
+        if (auto* const view = dock ? dynamic_cast<MessagesView*>(dock->widget()) : nullptr) views.push_back(view);
+    return views;
+}
+
+void Docks::drawMessagesSoon() {
+    for (auto* view : messageViews()) view->drawSoon();
+}
+
+void Docks::showKeys() {
+    for (auto* view : messageViews()) view->showKeys();
 }
 
 void Docks::follow(host::ToolWindow& window, QDockWidget& dock) {

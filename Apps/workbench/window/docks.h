@@ -13,6 +13,8 @@ class QDockWidget;
 
 namespace workbench {
 
+class MessagesView;
+
 class Docks final : public QObject {
 public:
     /// Messages mark their lines in the code windows. All arguments must outlive this object.
@@ -28,6 +30,8 @@ public:
     /// See MessagesView.
     std::function<bool()> isStatusCurrent = [] { return true; };
     void drawMessagesSoon();
+    /// Gives the commands of the messages the keys of the user's settings.
+    void showKeys();
 
     /// Draws the host's tool windows now and whenever one is added.
     void followToolWindows();
@@ -35,6 +39,7 @@ public:
     void showAsInHost();
 
 private:
+    std::vector<MessagesView*> messageViews() const;
     void drawToolWindows();
     void drawToolWindow(const std::shared_ptr<host::ToolWindow>& window);
     void follow(host::ToolWindow& window, QDockWidget& dock);

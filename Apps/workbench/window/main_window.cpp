@@ -2,7 +2,9 @@
 #include "Apps/workbench/bars/bar_controls.h"
 #include "Apps/workbench/base/text.h"
 #include "Apps/workbench/base/title.h"
+#include "Apps/workbench/options/declared_options.h"
 #include "Apps/workbench/project/project_saving.h"
+#include "Apps/workbench/window/command_keys.h"
 #include "Apps/workbench/window/commands.h"
 #include "Basic/conversions.h"
 #include <QApplication>
@@ -11,13 +13,13 @@
 #include <QDockWidget>
 #include <QScreen>
 #include <QSettings>
+#include <QStatusBar>
 
 namespace workbench {
 
 namespace {
 
-constexpr auto kGeometryKey = "window/geometry", kStateKey = "window/state", kThemeKey = "window/theme", kDark = "dark",
-               kLight = "light";
+constexpr auto kGeometryKey = "window/geometry", kStateKey = "window/state";
 /// To be incremented when docks and toolbars change so much that a stored layout no longer fits.
 constexpr int kLayoutVersion = 1;
 constexpr int kUsualWidth = 1100, kUsualHeight = 720, kUsualExplorerWidth = 270, kUsualToolboxWidth = 140;
@@ -42,9 +44,11 @@ MainWindow::MainWindow(host::Host& host, Run run, MayClose mayClose)
       editFocus_(new EditFocus(*code_, *design_)),
       propertiesDock_(docks_.add("propertiesDock", "Properties", &design_->properties(), Qt::RightDockWidgetArea)),
       toolboxDock_(docks_.add("toolboxDock", "Toolbox", &design_->toolbox(), Qt::LeftDockWidgetArea)),
-      bars_(host.bars(), *this, run_, commandLookOf) {
+      bars_(host.bars(), *this, run_, commandLookOf),
+      place_(*statusBar(), *code_, *design_) {
     setObjectName("workbench");
     buildCentre();
+    code_->leaveKeys(chosenKeys());
     resize(usualSize());
     resizeDocks({explorerDock_, toolboxDock_}, {kUsualExplorerWidth, kUsualToolboxWidth}, Qt::Horizontal);
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
@@ -128,8 +132,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 
 void MainWindow::restoreLayout() {
     const QSettings settings;
-    const auto stored = settings.value(kThemeKey) == kDark ? Theme::Dark : Theme::Light;
-    showTheme(settings.contains(kThemeKey) ? stored : currentTheme());
+    showTheme(chosenTheme());
     restoreGeometry(settings.value(kGeometryKey).toByteArray());
     restoreState(settings.value(kStateKey).toByteArray(), kLayoutVersion);
     docks_.showAsInHost(); // the project stores whether its messages are shown
@@ -146,13 +149,26 @@ void MainWindow::saveLayout() const {
 }
 
 void MainWindow::setTheme(Theme theme) {
-    QSettings().setValue(kThemeKey, theme == Theme::Dark ? kDark : kLight);
+    kThemeOption.store(theme == Theme::Dark ? kDarkTheme : kLightTheme);
     showTheme(theme);
+}
+
+void MainWindow::optionsChanged() {
+    showTheme(chosenTheme());
+    design_->updateGrid();
+    code_->leaveKeys(chosenKeys());
+    docks_.showKeys();
+    bars_.showKeys();
+}
+
+Theme MainWindow::chosenTheme() const {
+    const int chosen = kThemeOption.stored();
+    return chosen == kSystemTheme ? desktopTheme_ : chosen == kDarkTheme ? Theme::Dark : Theme::Light;
 }
 
 void MainWindow::showTheme(Theme theme) {
     apply(theme);
-    code_->colour(theme);
+    code_->showLook();
     if (const auto command = controlOf(host_, kThemeId)) command->checked(theme == Theme::Dark);
     bars_.draw();
 }

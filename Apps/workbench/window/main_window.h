@@ -8,6 +8,7 @@
 #include "Apps/workbench/project/project_explorer.h"
 #include "Apps/workbench/window/docks.h"
 #include "Apps/workbench/window/edit_focus.h"
+#include "Apps/workbench/window/place_status.h"
 #include "Host/model/host.h"
 #include <QMainWindow>
 
@@ -40,6 +41,8 @@ public:
     void saveLayout() const;
     /// Stores the theme. Before the first call the window follows the desktop.
     void setTheme(Theme theme);
+    /// Shows what the user chose in the options.
+    void optionsChanged();
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -51,9 +54,11 @@ private:
     void watchFocus();
     void activateProjectInFront();
     void showTitle();
+    Theme chosenTheme() const;
     void showTheme(Theme theme);
 
     host::Host& host_;
+    const Theme desktopTheme_ = currentTheme();
     Run run_;
     MayClose mayClose_;
     CodeWindows* code_;
@@ -72,6 +77,7 @@ private:
     QTimer titleSoon_, activateSoon_;
     std::vector<fernwick::Subscription> watches_;
     BarsView bars_;
+    PlaceStatus place_;
 };
 
 } // namespace workbench

@@ -101,6 +101,7 @@ void addStandardToolbar(host::Host& host) {
 void addMenus(const CommandTargets& targets) {
     auto& host = targets.host;
     addTopMenu(host, kRunMenuId, "&Run", host::kAddInsMenuId);
+    addTopMenu(host, kToolsMenuId, "&Tools", host::kAddInsMenuId);
     addTopMenu(host, kWindowMenuId, "&Window", host::kHelpMenuId);
     MenuFiller filler(targets);
     for (const auto& menu : commandMenus()) filler.fill(menu);

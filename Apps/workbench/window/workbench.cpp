@@ -4,9 +4,12 @@
 #include "Apps/common/source_code_page.h"
 #include "Apps/common/trusted_folders.h"
 #include "Apps/workbench/base/text.h"
+#include "Apps/workbench/messages/messages_view.h"
+#include "Apps/workbench/options/options_dialog.h"
 #include "Apps/workbench/project/new_project.h"
 #include "Apps/workbench/project/project_reopening.h"
 #include "Apps/workbench/project/project_saving.h"
+#include "Apps/workbench/window/command_keys.h"
 #include "Apps/workbench/window/context_menus.h"
 #include "Apps/workbench/window/menus.h"
 #include "Apps/workbench/window/missing_commands.h"
@@ -94,6 +97,7 @@ ProgramActions Workbench::programActions() {
         if (active && mayBeClosed(*host_, {active}, window_.get())) host_->VBProjects()->Remove(active);
     };
     actions.start = [this] { startActive(); };
+    actions.options = [this] { editOptions(); };
     actions.help = [this] { addIn().help.DisplayHelp(fernwick::kUsersGuideTopic); };
     actions.about = [this] { showAbout(window_.get()); };
     return actions;
@@ -106,6 +110,14 @@ UnsavedWork::Callbacks Workbench::unsavedCallbacks() {
                 window_->code().refreshSoon();
                 window_->explorer().refreshSoon();
             }};
+}
+
+void Workbench::editOptions() {
+    auto keys = keyOptions(*host_);
+    for (auto& key : MessagesView::walkKeys()) keys.push_back(std::move(key));
+    OptionsDialog(
+        std::move(keys), [this] { window_->optionsChanged(); }, window_.get())
+        .exec();
 }
 
 void Workbench::newProject() {

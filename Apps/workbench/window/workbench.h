@@ -41,6 +41,7 @@ private:
     UnsavedWork::Callbacks unsavedCallbacks();
     void run(const std::function<void()>& act);
     void newProject();
+    void editOptions();
     void startActive();
     bool isConnected() const;
     bool compiled(const vbide::Ref<vbide::VBProject>& project);

@@ -1,0 +1,30 @@
+#pragma once
+// The options of the program. Those of colours are in code_look.h, those of keys come from the tables of the commands.
+#include "Apps/workbench/options/option.h"
+
+namespace workbench {
+
+// ---- code windows ----
+
+inline constexpr FamilyOption kCodeFont{"code/fontFamily"};
+/// In points.
+inline constexpr NumberOption kCodeFontSize{"code/fontSize", 10, 6, 48};
+/// In characters; an indentation is as wide.
+inline constexpr NumberOption kTabWidth{"code/tabWidth", 4, 1, 16};
+
+// ---- form designers ----
+
+/// The distance of the grid's points in pixels of 15 twips.
+inline constexpr NumberOption kGridPixels{"designer/gridPixels", 8, 2, 64};
+inline constexpr FlagOption kGridVisible{"designer/gridVisible", true};
+/// Whether what the mouse or the keyboard moves is aligned to the grid.
+inline constexpr FlagOption kGridSnaps{"designer/gridSnaps", true};
+
+// ---- the window ----
+
+inline constexpr const char* kThemeNames[]{"system", "light", "dark"};
+/// The indices of kThemeNames. System is the desktop's theme when the program started.
+enum ThemeChoice : int { kSystemTheme, kLightTheme, kDarkTheme };
+inline constexpr ChoiceOption kThemeOption{"window/theme", kThemeNames};
+
+} // namespace workbench
