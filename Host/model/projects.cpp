@@ -67,14 +67,24 @@ vbide::Ref<vbide::VBProject> Projects::openGroup(const std::string& path, const 
 }
 
 std::shared_ptr<Project> Projects::open(const std::string& path) {
-    const auto host = this->host();
+    requireNotOpen(path);
+    auto project = beginLoading(path);
+    project->load();
+    add(project);
+    return project;
+}
+
+void Projects::requireNotOpen(const std::string& path) const {
     for (const auto& project : list_)
         if (project->FileName() == path)
             throw hostError(basic::kFileAlreadyOpen, fmt::format("{}: is already open", path));
+}
+
+/// Creates the object for a project whose file is about to be read.
+std::shared_ptr<Project> Projects::beginLoading(const std::string& path) {
+    const auto host = this->host();
     auto project = std::make_shared<Project>(host, path);
     host->raiseFile(&vbide::FileControlEvents::BeforeLoadFile, *project, std::vector<std::string>{path});
-    project->load();
-    add(project);
     return project;
 }
 
@@ -84,8 +94,7 @@ vbide::Ref<vbide::VBProject> Projects::AddFromTemplate(const std::string& path, 
     readFile(native); // may fail: read it before closing other projects
     if (exclusive) removeAll();
     host->problems().clear();
-    auto project = std::make_shared<Project>(host, native);
-    host->raiseFile(&vbide::FileControlEvents::BeforeLoadFile, *project, std::vector<std::string>{native});
+    const auto project = beginLoading(native);
     project->load();
     if (isNameTaken(project->Name())) project->file().setSetting("Name", freeName());
     // Handlers see the path of the template; afterwards the project has no file.
@@ -105,11 +114,15 @@ vbide::Ref<vbide::VBProject> Projects::addNew() {
     return project;
 }
 
-vbide::Ref<vbide::VBProject> Projects::addRestored(const std::string& text, const std::function<void(Project&)>& fill) {
+vbide::Ref<vbide::VBProject> Projects::addRestored(const JournalEntry& entry,
+                                                   const std::function<void(Project&)>& fill) {
     const auto host = this->host();
-    const auto project = std::make_shared<Project>(host, std::string());
-    project->loadText(text);
-    if (isNameTaken(project->Name())) project->file().setSetting("Name", freeName());
+    const bool wasSaved = !entry.file.empty();
+    if (wasSaved) requireNotOpen(entry.file);
+    host->problems().clear();
+    const auto project = wasSaved ? beginLoading(entry.file) : std::make_shared<Project>(host, std::string());
+    project->loadText(entry.bytes, entry.base);
+    if (!wasSaved && isNameTaken(project->Name())) project->file().setSetting("Name", freeName());
     fill(*project);
     add(project);
     host->activate(project);
