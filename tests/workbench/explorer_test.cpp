@@ -58,8 +58,8 @@ TEST_F(DesktopExplorer, AProjectsMenuActsOnThatProject) {
     openSample("AddressBook");
     menuOf("HelloWorld", "Add &Class Module");
     EXPECT_EQ(project()->Name(), "HelloWorld");
-    EXPECT_TRUE(entry("ClassModule1"));
-    EXPECT_EQ(entry("ClassModule1")->parent()->parent(), entry("HelloWorld"));
+    EXPECT_TRUE(entry("Class1"));
+    EXPECT_EQ(entry("Class1")->parent()->parent(), entry("HelloWorld"));
 }
 
 TEST_F(DesktopExplorer, AGroupsMenuAddsComponents) {
@@ -70,7 +70,7 @@ TEST_F(DesktopExplorer, AGroupsMenuAddsComponents) {
 TEST_F(DesktopExplorer, ANewProjectHasNoFilesYet) {
     openSample("HelloWorld");
     menuOf("HelloWorld", "Add &Module");
-    EXPECT_TRUE(entry("CodeModule1 (CodeModule1) *"));
+    EXPECT_TRUE(entry("Module1 (Module1) *"));
 }
 
 TEST_F(DesktopExplorer, SortsWithoutRegardToLetterCaseAndShowsPathsInTips) {

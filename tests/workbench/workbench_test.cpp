@@ -142,11 +142,10 @@ TEST_F(Desktop, ComponentsAreAddedRemovedAndRenamed) {
     openSample("HelloWorld");
     menuItem("&Project", "Add &Module")->trigger();
     settle();
-    EXPECT_TRUE(entry("CodeModule1 (CodeModule1) *")); // the design target's template, in place of a blank Module1
-    EXPECT_FALSE(entry("Module1"));
-    EXPECT_EQ(window().code().tabText(0), "CodeModule1 *");
-    EXPECT_EQ(component("CodeModule1")->CodeModule()->Lines(1, 1), "Option Explicit");
-    component("CodeModule1")->Name("modOther");
+    EXPECT_TRUE(entry("Module1 (Module1) *")); // the design target's template, in place of a blank one
+    EXPECT_EQ(window().code().tabText(0), "Module1 *");
+    EXPECT_EQ(component("Module1")->CodeModule()->Lines(1, 1), "Option Explicit");
+    component("Module1")->Name("modOther");
     settle();
     EXPECT_TRUE(entry("modOther (modOther) *"));
     project()->VBComponents()->Remove(component("modOther"));
