@@ -1,7 +1,7 @@
 #include "Apps/workbench/base/drawn_icons.h"
+#include "Apps/workbench/base/icon_colours.h"
 #include "Apps/workbench/base/icon_table.h"
 #include "Apps/workbench/base/painted_icon.h"
-#include "Apps/workbench/base/theme.h"
 #include <QPainterPath>
 #include <sstream>
 
@@ -10,16 +10,6 @@ namespace workbench {
 namespace {
 
 constexpr double kGrid = 16, kStroke = 1.2;
-
-struct IconColour {
-    std::string_view word;
-    const char *light, *dark;
-};
-constexpr std::array kIconColours{
-    IconColour{"ink", "#3a3d42", "#d3d5d9"},   IconColour{"blue", "#2a6fc9", "#6ea8fe"},
-    IconColour{"green", "#2e7d32", "#6fc274"}, IconColour{"amber", "#b8690a", "#e0a63c"},
-    IconColour{"red", "#c42b2b", "#f4766e"},
-};
 
 /// Reads the strokes of one drawing and paints them.
 class StrokePainter {
@@ -38,7 +28,7 @@ private:
         for (const auto& colour : kIconColours) {
             if (colour.word != lower) continue;
             finish();
-            colour_ = QColor(currentTheme() == Theme::Light ? colour.light : colour.dark);
+            colour_ = colour.in(currentTheme());
             fills_ = word != lower;
             return true;
         }
@@ -150,9 +140,11 @@ constexpr std::array kSameIcons{
 
 } // namespace
 
+QIcon iconOfStrokes(std::string_view strokes) { return QIcon(new DrawnIcon(strokes)); }
+
 QIcon drawnIcon(std::string_view name) {
     for (const auto& drawing : kIconTable)
-        if (drawing.name == name) return QIcon(new DrawnIcon(drawing.strokes));
+        if (drawing.name == name) return iconOfStrokes(drawing.strokes);
     return {};
 }
 

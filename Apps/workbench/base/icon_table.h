@@ -1,6 +1,6 @@
 #pragma once
-// The drawings of the icons, on a grid of 16 by 16. A row is a list of strokes: a colour (ink, blue, green, amber or red; in
-// capitals it fills), then M x y, L x y (further points), Z (closes), R x y w h (rectangle), E x y rx ry (ellipse),
+// The drawings of the icons, on a grid of 16 by 16. A row is a list of strokes: a colour of icon_colours.h (in capitals it
+// fills), then M x y, L x y (further points), Z (closes), R x y w h (rectangle), E x y rx ry (ellipse),
 // T x y size letter.
 #include <array>
 #include <string_view>
@@ -52,7 +52,7 @@ inline constexpr std::array kIconTable{
     IconDrawing{"Toolbox", "AMBER R 1.5 6 13 8 ink R 1.5 6 13 8 M 5.5 6 L 5.5 3 10.5 3 10.5 6 M 1.5 9.5 L 14.5 9.5"},
     IconDrawing{"Messages", "ink R 1.5 2.5 13 11 M 6 6 L 12.5 6 M 6 10 L 12.5 10 RED E 4 6 1 1 AMBER E 4 10 1 1"},
     IconDrawing{"Theme", "ink E 8 8 6 6 INK M 8 2 L 12 3.5 14 8 12 12.5 8 14 Z"},
-    IconDrawing{"Module", "ink R 2.5 1.5 11 13 amber M 5 5 L 11 5 M 5 8 L 11 8 M 5 11 L 9 11"},
+    IconDrawing{"Module", "ink R 2.5 1.5 11 13 amber M 5.5 5.5 L 10.5 5.5 M 5.5 8.5 L 10.5 8.5 M 5.5 11.5 L 8.5 11.5"},
     IconDrawing{"Class", "GREEN M 8 1.5 L 14 4.5 8 7.5 2 4.5 Z "
                          "ink M 8 1.5 L 14 4.5 14 11.5 8 14.5 2 11.5 2 4.5 Z M 2 4.5 L 8 7.5 14 4.5 M 8 7.5 L 8 14.5"},
     IconDrawing{"AddFile",
