@@ -1,6 +1,8 @@
 // The project explorer and its context menu.
 #include "tests/workbench/desktop.h"
+#include <QDockWidget>
 #include <QMenu>
+#include <QScrollBar>
 #include <gmock/gmock.h>
 
 using testing::Contains;
@@ -99,6 +101,12 @@ TEST_F(DesktopExplorer, AFileIsShownWhereItsNameDiffers) {
              .writeTo(folder));
     EXPECT_THAT(explorerEntries(), ElementsAre("Hello", " Modules", "  modA", "  modB [Other.bas]", "  modC"));
     EXPECT_EQ(entry("modB")->toolTip(1).toStdString(), "modB\n" + (folder / "Other.bas"));
+    const auto& tree = window().explorer();
+    for (const int width : {300, 200}) {
+        window().resizeDocks({static_cast<QDockWidget*>(tree.parentWidget())}, {width}, Qt::Horizontal);
+        settle();
+        EXPECT_FALSE(tree.horizontalScrollBar()->isVisible()) << width;
+    }
 }
 
 TEST_F(DesktopExplorer, AGroupsMenuActsOnItsProject) {

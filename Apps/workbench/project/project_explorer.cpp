@@ -83,7 +83,8 @@ ProjectExplorer::ProjectExplorer(vbide::Ref<vbide::VBE> host, Callbacks callback
     setAccessibleName("Project explorer");
     setHeaderHidden(true);
     setColumnCount(2);
-    header()->setSectionResizeMode(kNameColumn, QHeaderView::ResizeToContents);
+    header()->setMinimumSectionSize(0);
+    header()->setStretchLastSection(false); // a hidden header does not follow the width of the view
     setItemDelegateForColumn(kFileColumn, new FileDelegate(this));
     setAllColumnsShowFocus(true);
     setUniformRowHeights(true);
@@ -172,9 +173,20 @@ void ProjectExplorer::showTexts() {
             showEntry(**at, component, component->FileNames(1));
         }
     }
+    fitColumns();
     for (int i = 0; i < topLevelItemCount(); ++i)
         for (int group = 0; group < topLevelItem(i)->childCount(); ++group)
             topLevelItem(i)->child(group)->sortChildren(kNameColumn, Qt::AscendingOrder);
+}
+
+void ProjectExplorer::fitColumns() {
+    resizeColumnToContents(kNameColumn);
+    setColumnWidth(kFileColumn, std::max(0, viewport()->width() - columnWidth(kNameColumn)));
+}
+
+void ProjectExplorer::resizeEvent(QResizeEvent* event) {
+    QTreeWidget::resizeEvent(event);
+    fitColumns();
 }
 
 vbide::Ref<vbide::VBProject> ProjectExplorer::currentProject() const {
