@@ -79,6 +79,14 @@ TEST_F(Icons, InstalledPicturesHaveTheColoursOfTheTheme) {
     workbench::apply(Theme::Light);
 }
 
+TEST_F(Icons, AreLightOnASelectedRow) {
+    const auto icon = workbench::drawnIcon("New");
+    EXPECT_NE(icon.pixmap(QSize(16, 16), QIcon::Selected).toImage(), icon.pixmap(QSize(16, 16)).toImage());
+    workbench::apply(Theme::Dark);
+    EXPECT_EQ(icon.pixmap(QSize(16, 16), QIcon::Selected).toImage(), icon.pixmap(QSize(16, 16)).toImage());
+    workbench::apply(Theme::Light);
+}
+
 TEST_F(Icons, OtherColoursOfAPictureRemain) {
     QImage magenta(1, 1, QImage::Format_RGB32);
     magenta.fill(QColor(255, 0, 255));

@@ -14,7 +14,8 @@ constexpr double kGrid = 16, kStroke = 1.2;
 /// Reads the strokes of one drawing and paints them.
 class StrokePainter {
 public:
-    StrokePainter(QPainter& painter, std::string_view strokes) : painter_(painter), words_(std::string(strokes)) {}
+    StrokePainter(QPainter& painter, std::string_view strokes, Theme theme)
+        : painter_(painter), words_(std::string(strokes)), theme_(theme) {}
 
     void paint() {
         for (std::string word; words_ >> word;)
@@ -28,7 +29,7 @@ private:
         for (const auto& colour : kIconColours) {
             if (colour.word != lower) continue;
             finish();
-            colour_ = colour.in(currentTheme());
+            colour_ = colour.in(theme_);
             fills_ = word != lower;
             return true;
         }
@@ -88,6 +89,7 @@ private:
 
     QPainter& painter_;
     std::istringstream words_;
+    Theme theme_;
     QPainterPath path_;
     QColor colour_;
     bool fills_ = false;
@@ -104,7 +106,9 @@ public:
         painter->translate(place.topLeft());
         painter->scale(place.width() / kGrid, place.height() / kGrid);
         if (mode == QIcon::Disabled) painter->setOpacity(kDisabled);
-        StrokePainter(*painter, strokes_).paint();
+        // a selected row is dark in both themes
+        const auto theme = mode == QIcon::Selected ? Theme::Dark : currentTheme();
+        StrokePainter(*painter, strokes_, theme).paint();
         painter->restore();
     }
     QIconEngine* clone() const override { return new DrawnIcon(*this); }
