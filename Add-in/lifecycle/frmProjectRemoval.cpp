@@ -57,6 +57,8 @@ void frmProjectRemoval::serve(Procedure& here, const Project& project) {
     if (!qlProject || !qlProject->IsQuinloftProject()) return;
     const bool oldFormat = qlProject->HasOldFormat();
 
+    // the host marks every new project as changed, and would ask about it
+    if (qlProject->IsStartUpProject()) here([&] { project->IsDirty(false); });
     if (projectToOpen_.empty()) {
         activate(here, project);
         if (here.test([&] { return bool(addIn_.gVBInstance->ActiveVBProject()); })) removeActive(here);

@@ -100,14 +100,14 @@ void ProjectSetup::switchOff(Procedure& here) {
 void ProjectSetup::StartProjectManager() {
     Procedure here{services_.errors, "modProjectHandler.StartProjectManager"};
     if (here.test([&] { return services_.addIn.gVBInstance->VBProjects()->Count() < 1; }))
-        return (void)here([&] { services_.features.ShowProjectManagerOnDelay(); });
+        return services_.projectManager.ShowOnDelay();
 
     const bool saved =
         services_.save.SaveProject(services_.projects.gCurrentProject, true, lifecycle_texts::kSaveBeforeManager, true,
                                    lifecycle_texts::kManagerWillNotOpen);
     if (!saved) return;
     if (services_.projects.gCurrentProject) closeActiveProject(here);
-    here([&] { services_.features.ShowProjectManagerOnDelay(); });
+    services_.projectManager.ShowOnDelay();
 }
 
 void ProjectSetup::closeActiveProject(Procedure& here) {

@@ -4,6 +4,7 @@
 #include "Add-in/commands/modMenuManagement.h"
 #include "Add-in/commands/modToolbarManagement.h"
 #include "Add-in/lifecycle/frmDesignTargetNormal.h"
+#include "Add-in/lifecycle/frmProjectManager.h"
 #include "Add-in/lifecycle/frmProjectRemoval.h"
 #include "Add-in/lifecycle/missing_features.h"
 #include "Add-in/project/modSaveProject.h"
@@ -22,6 +23,7 @@ struct SetupServices {
     modSaveProject& save;
     modCompileErrorManagement& messages;
     frmDesignTargetNormal& chooseTarget;
+    frmProjectManager& projectManager;
     frmProjectRemoval& removal;
     CommandItems& items;
     modMenuManagement& menu;

@@ -51,6 +51,8 @@ public:
     /// The file that a path leads to. A front end may keep some of a project's files elsewhere.
     virtual std::string PlaceOnDisk(const std::string& path) const { return Canonical(path); }
     virtual bool SamePath(const std::string& a, const std::string& b) const = 0;
+    /// Whether both paths lead to one existing file or folder, by whatever links and letter case.
+    virtual bool SameFile(const std::string& a, const std::string& b) const = 0;
     /// The folder's path with a trailing separator.
     virtual std::string WithSeparator(const std::string& folder) const = 0;
     virtual bool IsAbsolute(const std::string& path) const = 0;
@@ -72,6 +74,12 @@ public:
     virtual void SetDateLastModified(const std::string& path, std::int64_t time) = 0;
     /// Replaces the destination atomically.
     virtual void CopyFile(const std::string& from, const std::string& to, bool overwrite) = 0;
+    /// Creates one folder. Errors: 58 the name is taken, 76 there is no parent folder, 70 permission denied.
+    virtual void CreateFolder(const std::string& path) = 0;
+    /// Renames a file. A file that has the new name is replaced atomically and leaves its mode.
+    virtual void MoveFile(const std::string& from, const std::string& to) = 0;
+    /// Lets the owner of a file write it.
+    virtual void MakeWritable(const std::string& path) = 0;
     /// `force` deletes read-only files too.
     virtual void DeleteFile(const std::string& path, bool force) = 0;
 };

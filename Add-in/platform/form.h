@@ -39,6 +39,8 @@ public:
     Event<> Loaded, Unloaded, Refreshed;
     /// False if the user cannot close the form.
     bool ControlBox = true;
+    /// Whether the close box presses the Cancel button instead of unloading the form.
+    bool CloseBoxCancels = false;
 
     void Load();
     /// Marks the form as closed; the front end removes its window when showModal returns.

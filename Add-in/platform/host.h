@@ -56,8 +56,9 @@ public:
     virtual int Count() const = 0;
     virtual Ref<VBProject> Item(int index) const = 0;
     virtual std::vector<Ref<VBProject>> items() const = 0;
-    /// Opens a project, or all projects of a group. `exclusive` closes the open ones first. A file in a template folder
-    /// is opened as with AddFromTemplate.
+    /// Opens a project, all projects of a group, or a component in a new project. `exclusive` closes the open ones first;
+    /// returns Nothing if the user then keeps their unsaved work. A file in a template folder is opened as with
+    /// AddFromTemplate.
     virtual Ref<VBProject> AddFromFile(const std::string& path, bool exclusive = false) = 0;
     /// Creates a project from the template under a free name. While handlers of ItemAdded run, FileName is the
     /// template's; afterwards the project has no file.

@@ -30,6 +30,8 @@ enum class Question {
     EditDependencies,
     DeployWithErrors,
     ReplaceFile,
+    InvalidReferences,
+    ConvertedFiles,
 };
 
 enum MousePointerShape : int { vbDefault = 0, vbArrow = 1, vbHourglass = 11 };

@@ -1,4 +1,5 @@
 #include "Apps/common/version.h"
+#include "Apps/workbench/base/application_name.h"
 #include "Apps/workbench/base/display_guard.h"
 #include "Apps/workbench/base/drawn_icons.h"
 #include "Apps/workbench/window/workbench.h"
@@ -13,8 +14,7 @@ int main(int argc, char** argv) {
     std::optional<workbench::DisplayGuard> guard(std::in_place);
     QApplication app(argc, argv);
     guard.reset();
-    QApplication::setOrganizationName("fernwick");
-    QApplication::setApplicationName("workbench");
+    workbench::nameApplication();
     QApplication::setApplicationVersion(apps::kVersion);
     QApplication::setDesktopFileName("fernwick-workbench");
     QApplication::setWindowIcon(QIcon::fromTheme("fernwick-workbench", workbench::drawnIcon("Project")));

@@ -135,6 +135,23 @@ std::optional<FileStamp> changedSince(const std::string& path, const FileStamp& 
     return now.stamp;
 }
 
+void atomicMove(const std::string& from, const std::string& to) {
+    const auto target = throughLinks(to);
+    struct stat old {};
+    const bool replaces = ::stat(target.c_str(), &old) == 0;
+    if (replaces && isReadOnly(target)) throw systemError(EACCES, "is read-only", to);
+    if (replaces && ::chown(from.c_str(), old.st_uid, old.st_gid) != 0 && errno != EPERM)
+        throw systemError(errno, "cannot be moved", from);
+    if (replaces && ::chmod(from.c_str(), old.st_mode & 07777) != 0) throw systemError(errno, "cannot be moved", from);
+    if (::rename(from.c_str(), target.c_str()) != 0) {
+        if (errno != EXDEV) throw systemError(errno, "cannot be moved", from);
+        atomicSave(target, readFile(from).bytes);
+        if (::unlink(from.c_str()) != 0) throw systemError(errno, "cannot be deleted", from);
+        return;
+    }
+    syncFolder(folderOfPath(target));
+}
+
 FileStamp atomicSave(const std::string& path, std::string_view bytes, const std::optional<FileStamp>& asRead) {
     const auto target = throughLinks(path);
     struct stat old {};

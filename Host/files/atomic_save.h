@@ -23,4 +23,8 @@ std::optional<FileStamp> changedSince(const std::string& path, const FileStamp& 
 /// full; 57 the device failed.
 FileStamp atomicSave(const std::string& path, std::string_view bytes, const std::optional<FileStamp>& asRead = {});
 
+/// Renames `from` to `to`, on another file system too. A file that is replaced leaves its mode and owner, and is still
+/// complete if the move fails. Errors as atomicSave.
+void atomicMove(const std::string& from, const std::string& to);
+
 } // namespace host

@@ -38,6 +38,9 @@ struct HostOptions {
     std::function<bool(const std::string& path)> mayReplaceChanged;
     /// False to keep the changes of a save in memory only, so that the files on disk stay as they are.
     bool writesFiles = true;
+    /// Called before an exclusive opening closes the open projects, to save or discard unsaved work; false cancels the
+    /// opening. Without it unsaved work is discarded.
+    std::function<bool()> mayReplaceProjects;
     /// Asks the user which project to open; "" for none. Without it the menu command does nothing.
     std::function<std::string()> askForProject;
 };

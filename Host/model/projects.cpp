@@ -4,10 +4,12 @@
 #include "Host/files/native_path.h"
 #include "Host/files/path_lookup.h"
 #include "Host/files/project_code_page.h"
+#include "Host/model/code/component_kind.h"
 #include "Host/model/code/names.h"
 #include "Host/model/code/new_source.h"
 #include "Host/model/errors/host_errors.h"
 #include "Host/model/host.h"
+#include "Host/model/openable_file.h"
 #include "Host/model/project.h"
 #include <algorithm>
 #include <fmt/format.h>
@@ -36,13 +38,30 @@ vbide::Ref<vbide::VBProject> Projects::AddFromFile(const std::string& path, bool
     const auto host = this->host();
     const auto native = absolutePath(path);
     if (host->isTemplate(native)) return AddFromTemplate(native, exclusive);
-    const auto bytes = readFile(native).bytes; // may fail: read it before closing other projects
-    if (exclusive) removeAll();
+    if (exclusive && !makeRoomFor(native)) return nullptr;
     host->problems().clear();
+    if (memberKindOfFile(native)) return openComponent(native);
+    const auto bytes = readFile(native).bytes;
     if (GroupFile::looksLikeGroup(bytes)) return openGroup(native, bytes);
     const auto project = open(native);
     host->activate(project);
     return project;
+}
+
+/// Closes all projects. False if the user keeps them.
+bool Projects::makeRoomFor(const std::string& path) {
+    const auto& options = host()->options();
+    requireOpenable(path, options.codePage); // first, as it may fail
+    if (!list_.empty() && options.mayReplaceProjects && !options.mayReplaceProjects()) return false;
+    removeAll();
+    return true;
+}
+
+/// Opens a single component in a new project.
+vbide::Ref<vbide::VBProject> Projects::openComponent(const std::string& path) {
+    JournalEntry project;
+    project.bytes = newProjectText(freeName());
+    return addRestored(project, [&](Project& added) { added.components().AddFile(path); });
 }
 
 vbide::Ref<vbide::VBProject> Projects::openGroup(const std::string& path, const std::string& bytes) {
@@ -91,8 +110,7 @@ std::shared_ptr<Project> Projects::beginLoading(const std::string& path) {
 vbide::Ref<vbide::VBProject> Projects::AddFromTemplate(const std::string& path, bool exclusive) {
     const auto host = this->host();
     const auto native = absolutePath(path);
-    readFile(native); // may fail: read it before closing other projects
-    if (exclusive) removeAll();
+    if (exclusive && !makeRoomFor(native)) return nullptr;
     host->problems().clear();
     const auto project = beginLoading(native);
     project->load();

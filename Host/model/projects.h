@@ -41,6 +41,8 @@ private:
     std::shared_ptr<Project> open(const std::string& path);
     void requireNotOpen(const std::string& path) const;
     std::shared_ptr<Project> beginLoading(const std::string& path);
+    bool makeRoomFor(const std::string& path);
+    vbide::Ref<vbide::VBProject> openComponent(const std::string& path);
     vbide::Ref<vbide::VBProject> openGroup(const std::string& path, const std::string& bytes);
     void add(const std::shared_ptr<Project>& project);
     std::string freeName() const;

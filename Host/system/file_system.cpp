@@ -10,10 +10,13 @@
 #include "Host/system/text_stream.h"
 #include <algorithm>
 #include <filesystem>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace host {
 namespace {
+
+constexpr mode_t kAllPermissions = 07777;
 
 std::string currentFolder() {
     std::error_code error;
@@ -63,6 +66,11 @@ std::string FileSystem::Canonical(const std::string& path) const {
 }
 
 bool FileSystem::SamePath(const std::string& a, const std::string& b) const { return Canonical(a) == Canonical(b); }
+
+bool FileSystem::SameFile(const std::string& a, const std::string& b) const {
+    const auto one = stateOf(PlaceOnDisk(a)), other = stateOf(PlaceOnDisk(b));
+    return one && other && one->st_dev == other->st_dev && one->st_ino == other->st_ino;
+}
 
 std::string FileSystem::WithSeparator(const std::string& folder) const {
     return folder.empty() ? "" : joinedPath(folder, "");
@@ -134,6 +142,28 @@ void FileSystem::CopyFile(const std::string& from, const std::string& to, bool o
     const auto bytes = ReadBytes(source);
     withScriptErrors([&] { atomicSave(target, bytes); });
     copyTimesAndMode(state, target, isNew);
+}
+
+void FileSystem::CreateFolder(const std::string& path) {
+    constexpr mode_t kNewFolder = 0777;
+    const auto folder = PlaceOnDisk(path);
+    if (stateOf(folder)) throw hostError(basic::kFileAlreadyExists, folder + ": already exists");
+    if (::mkdir(folder.c_str(), kNewFolder) == 0) return;
+    if (errno == ENOENT) throw hostError(basic::kPathNotFound, folder + ": its parent folder does not exist");
+    throw scriptError(errno, "cannot be created", folder);
+}
+
+void FileSystem::MoveFile(const std::string& from, const std::string& to) {
+    const auto source = PlaceOnDisk(from), target = PlaceOnDisk(to);
+    fileState(source);
+    requirePlace(target, true);
+    withScriptErrors([&] { atomicMove(source, target); });
+}
+
+void FileSystem::MakeWritable(const std::string& path) {
+    const auto file = PlaceOnDisk(path);
+    if (::chmod(file.c_str(), (fileState(file).st_mode & kAllPermissions) | S_IWUSR) != 0)
+        throw scriptError(errno, "cannot be made writable", file);
 }
 
 void FileSystem::DeleteFile(const std::string& path, bool force) {

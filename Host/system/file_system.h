@@ -26,6 +26,7 @@ public:
     /// Returns the absolute path. Its existing part has the letter case on disk, the rest is as given. "" for "".
     std::string Canonical(const std::string& path) const override;
     bool SamePath(const std::string& a, const std::string& b) const override;
+    bool SameFile(const std::string& a, const std::string& b) const override;
     std::string WithSeparator(const std::string& folder) const override;
     bool IsAbsolute(const std::string& path) const override;
     /// Supports only the temporary folder, which is private to this process. Error 5 for any other.
@@ -43,6 +44,9 @@ public:
     /// The copy has the source's times, and a new file also its mode. A destination that ends with a separator is a
     /// folder.
     void CopyFile(const std::string& from, const std::string& to, bool overwrite) override;
+    void CreateFolder(const std::string& path) override;
+    void MoveFile(const std::string& from, const std::string& to) override;
+    void MakeWritable(const std::string& path) override;
     void DeleteFile(const std::string& path, bool force) override;
 
 private:

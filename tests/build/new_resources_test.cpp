@@ -69,6 +69,12 @@ TEST_F(NewResources, ACopyThatFailsIsReported) {
                                          "modDependencyManagement.CreateNewDependency [53]"));
 }
 
+TEST_F(NewResources, OneFileIsTakenWithOrWithoutItsFolderApart) {
+    const auto one = [](const tResource& entry) { return entry.FileName == "Media\\a.bmp"; };
+    EXPECT_THAT(choose("/p/Media/a.bmp"), ElementsAre(testing::Truly(one)));
+    EXPECT_THAT(choose(std::string("/p/Media\0a.bmp", 14)), ElementsAre(testing::Truly(one)));
+}
+
 TEST_F(NewResources, TheDialogStartsAtTheProjectAndTakesSeveralFiles) {
     EXPECT_THAT(choose(""), IsEmpty());
     EXPECT_EQ(user.opened.InitDir, "/p");

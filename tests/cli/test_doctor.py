@@ -66,6 +66,55 @@ class Doctor(unittest.TestCase):
                 shutil.rmtree(path) if path.is_dir() else path.unlink()
                 self.assertIn(part, "\n".join(self.troubles()))
 
+    def finding(self, subject):
+        return next((f["state"], f["detail"], f.get("cure")) for f in self.examine() if f["subject"] == subject)
+
+    def change(self, part, old, new):
+        path = self.installed / part
+        text = path.read_text()
+        self.assertIn(old, text)
+        path.write_text(text.replace(old, new))
+
+    def test_says_what_is_wrong_with_a_target(self):
+        file, subject = "targets/PalmOS-DragonBall.toml", "target PalmOS-DragonBall"
+        for old, new, detail, cure in (
+                ("Classes/Fernwick Class.cls", "Classes/Gone.cls",
+                 f"its template {self.installed}/VB Toolkit/Template/Classes/Gone.cls is missing",
+                 "Correct the name in its file in targets/, or reinstall Fernwick."),
+                ("QLPipePalmOS", "QLPipePocketPC", "its pipe QLPipePocketPC does not support it",
+                 "Correct its pipe or key in its file in targets/, or reinstall Fernwick."),
+                ('"QLPipePalmOS"', '"Gone"',
+                 "its pipe Gone cannot be created: ActiveX component can't create object: Gone.Validation",
+                 "Correct its pipe or key in its file in targets/, or reinstall Fernwick.")):
+            with self.subTest(detail):
+                self.install()
+                self.change(file, old, new)
+                self.assertEqual(self.finding(subject), ("trouble", detail, cure))
+        self.install()
+        self.change(file, '"QLPipePalmOS"', '""')
+        self.assertEqual(self.finding(subject),
+                         ("good", "is not offered, because it has no platform or no pipe", None))
+
+    def test_says_what_is_wrong_with_the_stores_and_values(self):
+        (self.installed / "registry/tavlets.reg").write_text("Windows Registry Editor Version 5.00\n")
+        state, detail, cure = self.finding("target PalmOS-DragonBall")
+        self.assertTrue(detail.startswith("these controls are not registered: "), detail)
+        self.assertEqual((state, cure), ("trouble", "Reinstall Fernwick: registry/tavlets.reg registers them."))
+        self.install()
+        shutil.rmtree(self.installed / "VB Toolkit/Runtime/PalmOS")
+        self.assertEqual(self.finding("target PalmOS-DragonBall")[2],
+                         "Reinstall Fernwick: the runtimes are in VB Toolkit/Runtime.")
+        self.install()
+        (self.installed / "maker.toml").write_text("= broken")
+        state, detail, cure = self.finding("maker.toml")
+        self.assertRegex(detail, r"maker\.toml:1: ")
+        self.assertEqual((state, cure), ("trouble", "Reinstall Fernwick: maker.toml is part of it."))
+        store = self.home.folder / "config/fernwick/user.sqlite"
+        store.parent.mkdir(parents=True, exist_ok=True)
+        store.write_bytes(b"no store")
+        self.assertEqual(self.finding("user's store")[2],
+                         "Restore a copy of the file, or move it away: a new one is created when needed.")
+
     def test_names_missing_and_damaged_runtimes(self):
         (self.installed / "VB Toolkit/Runtime/Common/errors.txt").unlink()
         shutil.rmtree(self.installed / "VB Toolkit/Runtime/PalmOS")

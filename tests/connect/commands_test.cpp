@@ -145,8 +145,20 @@ TEST_F(Commands, MissingFeaturesAreReported) {
     connected();
     EXPECT_THAT(click(items().gSettingsItem), ElementsAre("cursor 11", kNotHere));
     EXPECT_THAT(click(items().gToolSettings), ElementsAre("cursor 11", kNotHere));
-    for (const auto& item : {items().gOpenProjectItem, items().gToolOpenProject, items().gZoomItem, items().gToolZoom})
-        EXPECT_THAT(click(item), ElementsAre(kNotHere));
+    for (const auto& item : {items().gZoomItem, items().gToolZoom}) EXPECT_THAT(click(item), ElementsAre(kNotHere));
+}
+
+TEST_F(Commands, OpensTheProjectManagerOnceTheProjectHasClosed) {
+    connect();
+    for (const auto item : {&fernwick::CommandItems::gOpenProjectItem, &fernwick::CommandItems::gToolOpenProject}) {
+        host.open(hello());
+        user.answers = {fernwick::vbYes};
+        click(items().*item);
+        EXPECT_EQ(host.ide->VBProjects()->Count(), 0);
+        trace.effects.clear();
+        loop.turn();
+        EXPECT_THAT(trace.effects, Contains("form frmProjectManager"));
+    }
 }
 
 TEST_F(Commands, ResetsTheHourglassWithoutADialog) {
@@ -159,8 +171,8 @@ TEST_F(Commands, AtTheCommandLineMissingFeaturesAreSilent) {
     host.open(hello());
     connect(vbide::vbext_cm_CommandLine);
     EXPECT_THAT(click(items().gSettingsItem), ElementsAre("cursor 11"));
-    addIn().features.ShowProjectManagerOnDelay();
-    EXPECT_THAT(trace.effects, testing::Not(Contains(kNotHere)));
+    addIn().projectManager.ShowOnDelay();
+    EXPECT_FALSE(loop.hasTimers());
 }
 
 TEST_F(Commands, WithoutAProjectTheSettingsAreReported) {

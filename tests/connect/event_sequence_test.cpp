@@ -1,5 +1,6 @@
 // The add-in in a real host: sequences of events, with further events during each DoEvents.
 #include "event_tape.h"
+#include "tests/support/form_text.h"
 #include "whole_world.h"
 
 using testing::Contains;
@@ -40,6 +41,11 @@ protected:
         host.ide->VBProjects()->AddFromTemplate(hostsTemplate());
         return host.ide->ActiveVBProject();
     }
+    void openStub() {
+        auto stub = test::SampleProject("Fernwick").handheld();
+        stub.sections("StartUpProject={8A515BDE-2BCC-4ed4-8F0A-99E4522CC1BB}\r\n");
+        host.ide->VBProjects()->AddFromTemplate(host.folder.write("Template/Projects/Fernwick.vbp", stub.text()));
+    }
     basic::Ref<vbide::VBProject> active() { return host.ide->ActiveVBProject(); }
     static std::string stored(const basic::Ref<vbide::VBProject>& project, const std::string& key) {
         std::string value = "(none)";
@@ -50,6 +56,9 @@ protected:
         std::vector<std::string> names;
         for (const auto& component : active()->VBComponents()->items()) names.push_back(component->Name());
         return names;
+    }
+    std::string bytesOf(const std::string& path) const {
+        return host.folder.read(path.substr(host.folder.path().size() + 1));
     }
     static test::SampleProject named(const std::string& name) {
         test::SampleProject sample(name);
@@ -134,13 +143,68 @@ TEST_F(EventSequence, WithoutADeviceRemovesTheNewProjectAndAsksOnce) {
 }
 
 TEST_F(EventSequence, TheStubLeadsToTheProjectManager) {
-    auto stub = test::SampleProject("Fernwick").handheld();
-    stub.sections("StartUpProject={8A515BDE-2BCC-4ed4-8F0A-99E4522CC1BB}\r\n");
-    host.open(stub);
-    EXPECT_THAT(boxes(), ElementsAre(box(64, "This command is not in this build of Fernwick.")));
+    openStub();
+    EXPECT_THAT(trace.effects, Contains("form frmProjectManager"));
     EXPECT_EQ(host.ide->VBProjects()->Count(), 1);
     loop.turn();
     EXPECT_EQ(host.ide->VBProjects()->Count(), 0);
+}
+
+TEST_F(EventSequence, AProjectFromTheProjectManagerReplacesTheStub) {
+    const auto path = named("A").writeTo(host.folder);
+    host.ide->VBProjects()->Remove(host.openFile(path));
+    user.whenShown["frmProjectManager"] = [this](fernwick::Form& form) {
+        addIn().projectManager.grdRecentProjects.choose(1);
+        test::press(form, "btnOpenRecent");
+    };
+    openStub();
+    loop.turn();
+    EXPECT_EQ(host.ide->VBProjects()->Count(), 1);
+    EXPECT_EQ(active()->FileName(), path);
+    EXPECT_TRUE(items().gCompileItem->Enabled());
+}
+
+TEST_F(EventSequence, ANewProjectFromTheProjectManagerReplacesTheStub) {
+    giveTargetsTemplates();
+    hostsTemplate();
+    user.whenShown["frmProjectManager"] = [](fernwick::Form& form) { test::press(form, "btnNewProject"); };
+    openStub();
+    loop.turn();
+    EXPECT_EQ(host.ide->VBProjects()->Count(), 1);
+    EXPECT_EQ(stored(active(), "OpenedFromQLTemplate"), "True");
+    EXPECT_THAT(componentNames(), ElementsAre("Form1"));
+    EXPECT_FALSE(loop.hasTimers());
+}
+
+TEST_F(EventSequence, TheStubBesideAnotherProjectIsTheOnlyOneThatGoes) {
+    host.open(named("A"));
+    openStub();
+    loop.turn();
+    EXPECT_EQ(host.ide->VBProjects()->Count(), 1);
+    EXPECT_EQ(active()->Name(), "A");
+}
+
+TEST_F(EventSequence, TheProjectManagerWaitsForAllProjects) {
+    const auto a = host.open(named("A"));
+    host.open(named("B"));
+    user.answers = {fernwick::vbYes};
+    items().gOpenProjectItem->Execute();
+    loop.turn();
+    EXPECT_THAT(trace.effects, Not(Contains("form frmProjectManager")));
+    host.ide->VBProjects()->Remove(a);
+    loop.turn();
+    EXPECT_THAT(trace.effects, Contains("form frmProjectManager"));
+}
+
+TEST_F(EventSequence, AfterTheHostHasClosedNothingWaits) {
+    host.open(named("A"));
+    host.open(named("B"));
+    user.answers = {fernwick::vbYes};
+    items().gOpenProjectItem->Execute();
+    host.ide->close();
+    loop.turn();
+    EXPECT_THAT(trace.effects, Not(Contains("form frmProjectManager")));
+    EXPECT_FALSE(loop.hasTimers());
 }
 
 // ---- existing projects
@@ -241,12 +305,51 @@ TEST_F(EventSequence, DoesNotWriteAnOldProject) {
     EXPECT_EQ(host.folder.read("Old.vbp"), before);
 }
 
-TEST_F(EventSequence, AProjectOfAnUnknownDeviceStays) {
+TEST_F(EventSequence, AProjectOfAnUnknownDeviceStaysIfTheUserOpensItAnyway) {
+    user.whenShown["frmDesignTargetConverterWarning"] = [](auto& form) { test::press(form, "cmdOpenProject"); };
     host.open(hello("Gone-9"));
-    EXPECT_THAT(boxes(), ElementsAre(box(64, "This command is not in this build of Fernwick.")));
+    EXPECT_THAT(boxes(), IsEmpty());
     loop.turn();
     EXPECT_EQ(host.ide->VBProjects()->Count(), 1);
     EXPECT_FALSE(items().gCompileItem->Enabled());
+}
+
+TEST_F(EventSequence, ACopyForAnAvailableDeviceTakesThePlaceOfAProject) {
+    const auto path = host.folder / "new/deep/Copy.vbp";
+    user.savedAs = {path};
+    user.whenShown["frmDesignTargetConverterWarning"] = [](auto& form) { test::press(form, "cmdRunConverter"); };
+    user.whenShown["frmDesignTargetConverter"] = [this](auto& form) {
+        addIn().converter.lstDesignTargets.ListIndex(0);
+        test::press(form, "btnOK");
+    };
+    const auto original = hello("Gone-9").writeTo(host.folder);
+    const auto before = bytesOf(original);
+    host.ide->VBProjects()->AddFromFile(original, false);
+    loop.turn();
+    EXPECT_THAT(boxes(), IsEmpty());
+    ASSERT_EQ(host.ide->VBProjects()->Count(), 1);
+    EXPECT_EQ(active()->FileName(), path);
+    EXPECT_EQ(stored(active(), "TargetDevice"), "Palm-1");
+    EXPECT_TRUE(items().gCompileItem->Enabled());
+    EXPECT_EQ(bytesOf(original), before);
+    EXPECT_FALSE(std::filesystem::exists(path + ".converting"));
+}
+
+TEST_F(EventSequence, AProjectIsConvertedInPlaceAndItsOldFileIsKept) {
+    user.whenShown["frmDesignTargetConverterWarning"] = [](auto& form) { test::press(form, "cmdRunConverter"); };
+    user.whenShown["frmDesignTargetConverter"] = [this](auto& form) {
+        addIn().converter.lstDesignTargets.ListIndex(0);
+        addIn().converter.chkOverwrite.Value(1);
+        test::press(form, "btnOK");
+    };
+    const auto path = hello("Gone-9").writeTo(host.folder);
+    const auto before = bytesOf(path);
+    host.ide->VBProjects()->AddFromFile(path, false);
+    EXPECT_THAT(boxes(), IsEmpty());
+    EXPECT_EQ(active()->FileName(), path);
+    EXPECT_EQ(bytesOf(path + ".bak"), before);
+    EXPECT_THAT(bytesOf(path), HasSubstr("TargetDevice=Palm-1\r\n"));
+    EXPECT_TRUE(items().gCompileItem->Enabled());
 }
 
 TEST_F(EventSequence, FollowsARenamedProject) {
@@ -288,6 +391,13 @@ TEST_F(EventSequence, AClosingSavesTheMessagesWindowAndWhatIsUnsaved) {
     host.ide->VBProjects()->Remove(project);
     EXPECT_THAT(host.folder.read("A.vbp"), HasSubstr("Visible=TRUE"));
     EXPECT_THAT(host.folder.read("Module9.bas"), HasSubstr("' new"));
+}
+
+TEST_F(EventSequence, AClosingRemembersTheProject) {
+    host.ide->VBProjects()->Remove(host.open(named("A")));
+    host.ide->VBProjects()->Remove(openNew());
+    EXPECT_EQ(addIn().recent.GetQuinloftRecentProject(1).path, host.folder / "A.vbp");
+    EXPECT_EQ(addIn().recent.GetQuinloftRecentProject(2).name, "");
 }
 
 TEST_F(EventSequence, RestoresTheToolbarsPositions) {
@@ -386,6 +496,56 @@ TEST_F(NewComponents, OfTheActivatedProjectAreServed) {
     add(vbide::vbext_ct_StdModule);
     EXPECT_THAT(componentNames(), ElementsAre("Module9", "Module1"));
     EXPECT_EQ(active()->VBComponents()->Item("Module1")->CodeModule()->Lines(1, 1), "' ours");
+}
+
+// ---- controls
+// ------------------------------------------------------------------------------------------------------------
+
+class NewControls : public EventSequence {
+protected:
+    NewControls() {
+        addIn().references.gQuinloftClasses.Add("Tavlets.QLButton", "TavletsCtl.QLButton");
+        host.open(test::SampleProject("A").form("frmA").form("frmB").handheld("Palm-1"));
+        show("frmA");
+    }
+    void TearDown() override { EXPECT_TRUE(host.failures.empty()); }
+    void show(const std::string& form) {
+        active()->VBComponents()->Item(form)->DesignerWindow()->Visible(true);
+        active()->VBComponents()->Item(form)->Activate();
+    }
+    std::vector<std::string> controlsAfterAdding(const std::string& form, const std::string& progId) {
+        const auto controls = active()->VBComponents()->Item(form)->Designer()->VBControls();
+        controls->Add(progId);
+        std::vector<std::string> left;
+        for (const auto& control : controls->items()) left.push_back(control->ProgId());
+        return left;
+    }
+    const std::string refusal =
+        box(16, "ERROR!\r\n\r\nThis control will not work with a Fernwick project and will be removed.");
+};
+
+TEST_F(NewControls, StayWhereTheSystemKnowsThem) {
+    EXPECT_THAT(controlsAfterAdding("frmA", "TavletsCtl.QLButton"), ElementsAre("TavletsCtl.QLButton"));
+    EXPECT_THAT(boxes(), IsEmpty());
+}
+
+TEST_F(NewControls, OfOtherLibrariesAreRefused) {
+    EXPECT_THAT(controlsAfterAdding("frmA", "VB.TextBox"), IsEmpty());
+    EXPECT_THAT(boxes(), ElementsAre(refusal));
+}
+
+TEST_F(NewControls, AreRemovedFromTheFormOnWhichTheyWerePlaced) {
+    host.ide->select(active()->VBComponents()->Item("frmB"));
+    EXPECT_THAT(controlsAfterAdding("frmA", "VB.TextBox"), IsEmpty());
+    EXPECT_THAT(boxes(), ElementsAre(refusal));
+}
+
+TEST_F(NewControls, DoNotIncludeThoseOfAnOpenedForm) {
+    active()->VBComponents()->AddFile(
+        host.folder.write("frmOld.frm", test::deviceForm("frmOld", {{"QLUnknown", "ctlOld", "Font"}})));
+    show("frmOld");
+    EXPECT_EQ(active()->VBComponents()->Item("frmOld")->Designer()->VBControls()->Count(), 1);
+    EXPECT_THAT(boxes(), IsEmpty());
 }
 
 } // namespace

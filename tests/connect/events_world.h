@@ -11,6 +11,7 @@ struct EventsWorld : ConnectWorld {
         registry.set(fernwick::HKEY_CURRENT_USER, "SOFTWARE\\Quinloft\\AddinPrefs", "POS:Quinloft Utilities", "1");
         registry.written = [this](const std::string& name) {
             if (name == "POS:Quinloft Utilities") trace.effect("save toolbars");
+            if (name == "ProjectName1") trace.effects.push_back("save recent projects");
         };
         trace.effects.clear();
     }

@@ -80,16 +80,16 @@ TEST_F(ProjectEvents, AProjectOfTheOldFormatIsRemovedAndConverted) {
 TEST_F(ProjectEvents, TheStubOpensTheProjectManagerAndIsRemoved) {
     const auto stub = opened("Stub", "");
     set(stub, "StartUpProject", kStub);
-    EXPECT_THAT(raiseAdded(stub), ElementsAre("sink: files of Stub", "project manager"));
+    EXPECT_THAT(raiseAdded(stub), ElementsAre("sink: files of Stub", "form frmProjectManager"));
     EXPECT_THAT(openNames(), ElementsAre("Stub"));
-    EXPECT_THAT(turn(), ElementsAre("active Stub", "host: remove project"));
+    EXPECT_THAT(turn(), ElementsAre("Stub dirty 0", "active Stub", "host: remove project"));
 }
 
 TEST_F(ProjectEvents, AProjectOpenedByTheProjectManagerGetsItsTemplate) {
     targets.templates.project = kTargetsOwn;
     const auto stub = opened("Stub", "");
     set(stub, "StartUpProject", kStub);
-    noted.inProjectManager = [&] {
+    user.whenShown["frmProjectManager"] = [&](fernwick::Form&) {
         vbe->removeActive();
         vbe->events->projects->ItemAdded.raise(fromTemplate());
     };
@@ -105,46 +105,72 @@ TEST_F(ProjectEvents, RemovesAProjectWithoutADevice) {
     EXPECT_THAT(turn(), ElementsAre("active A", "host: remove project"));
 }
 
+constexpr char kWarning[] = "form frmDesignTargetConverterWarning";
+
 class UnknownDevice : public ProjectEvents {
 protected:
-    /// The effects from the question on.
-    Effects decide(const fernwick::UnknownDeviceChoice& choice) {
-        noted.unknownDevice = choice;
+    /// The effects from the warning on, in which the user presses a button.
+    Effects decide(const std::string& button) {
+        user.whenShown["frmDesignTargetConverterWarning"] = [button](fernwick::Form& form) {
+            test::press(form, button);
+        };
         auto effects = raiseAdded(opened("A", "Gone-9"));
-        effects.erase(effects.begin(), std::find(effects.begin(), effects.end(), "unknown device of A"));
+        effects.erase(effects.begin(), std::find(effects.begin(), effects.end(), kWarning));
         return effects;
+    }
+    /// The user makes a copy, which removes a reference, and opens it.
+    Effects convertToCopy() {
+        user.savedAs = {"/new/B.vbp"};
+        user.whenShown["frmDesignTargetConverter"] = [this](fernwick::Form& form) {
+            files.files["/p/A.vbp"].bytes = "[Quinloft Global]\r\nTargetDevice=Gone-9\r\n";
+            converter.lstDesignTargets.ListIndex(0);
+            test::press(form, "btnOK");
+        };
+        return decide("cmdRunConverter");
     }
 };
 
 TEST_F(UnknownDevice, WatchesAProjectThatTheUserAccepts) {
-    EXPECT_THAT(decide({true, ""}), ElementsAre("unknown device of A", "sink: components of A", "sink: references of A",
-                                                "restore toolbars"));
+    EXPECT_THAT(decide("cmdOpenProject"),
+                ElementsAre(kWarning, "sink: components of A", "sink: references of A", "restore toolbars"));
     EXPECT_THAT(openNames(), ElementsAre("A"));
+    EXPECT_FALSE(converterWarning.isLoaded());
 }
 
-TEST_F(UnknownDevice, OpensAnotherProjectInstead) {
-    EXPECT_THAT(decide({false, "/p/B.vbp"}), ElementsAre("unknown device of A", "A dirty 0", "host: remove project",
-                                                         "open /p/B.vbp alone", "restore toolbars"));
-    EXPECT_THAT(openNames(), ElementsAre("/p/B.vbp"));
+TEST_F(UnknownDevice, OpensTheCopyInstead) {
+    EXPECT_THAT(convertToCopy(), ElementsAre(kWarning, "form frmDesignTargetConverter", "save dialog", "A dirty 0",
+                                             "host: remove project", "open /new/B.vbp alone", "restore toolbars"));
+    EXPECT_THAT(openNames(), ElementsAre("/new/B.vbp"));
+    EXPECT_EQ(files.files["/new/B.vbp"].bytes, "[Quinloft Global]\r\nTargetDevice=Palm-1\r\n");
+    EXPECT_FALSE(converterWarning.isLoaded());
+    EXPECT_FALSE(converter.isLoaded());
 }
 
 TEST_F(UnknownDevice, LetsTheHostRunAroundTheRemoval) {
     loop.showsTurns = true;
-    EXPECT_THAT(decide({false, "/p/B.vbp"}),
-                ElementsAre("unknown device of A", "A dirty 0", "DoEvents", "host: remove project", "DoEvents",
-                            "open /p/B.vbp alone", "restore toolbars"));
+    const auto effects = convertToCopy();
+    ASSERT_GE(effects.size(), 6U);
+    EXPECT_THAT(std::vector(effects.end() - 6, effects.end()),
+                ElementsAre("A dirty 0", "DoEvents", "host: remove project", "DoEvents", "open /new/B.vbp alone",
+                            "restore toolbars"));
 }
 
 TEST_F(UnknownDevice, ClosesTheProject) {
-    EXPECT_THAT(decide({false, ""}),
-                ElementsAre("unknown device of A", "A dirty 0", "host: remove project", "restore toolbars"));
+    EXPECT_THAT(decide("cmdCancelOpen"),
+                ElementsAre(kWarning, "A dirty 0", "host: remove project", "restore toolbars"));
+    EXPECT_THAT(openNames(), IsEmpty());
+}
+
+TEST_F(UnknownDevice, TheCloseBoxClosesTheProject) {
+    auto effects = raiseAdded(opened("A", "Gone-9"));
+    EXPECT_THAT(effects, Contains("host: remove project"));
     EXPECT_THAT(openNames(), IsEmpty());
 }
 
 TEST_F(UnknownDevice, WithoutTargetsDoesNotAsk) {
     targets.known = {};
     loop.timersAreDue = false;
-    EXPECT_THAT(raiseAdded(opened("A", "Gone-9")), Not(Contains("unknown device of A")));
+    EXPECT_THAT(raiseAdded(opened("A", "Gone-9")), Not(Contains(kWarning)));
     loop.timersAreDue = true;
     EXPECT_THAT(turn(), ElementsAre("active A", "host: remove project")); // requested by the set-up
 }
@@ -266,8 +292,8 @@ TEST_F(ProjectEvents, ClosingSavesChanges) {
     opened("B");
     project->dirty = true;
     messages.showToolWindow();
-    EXPECT_THAT(raiseRemoved(project), ElementsAre("Visible=TRUE", "A saved /p/A.vbp", "A dirty 0", "recent A",
-                                                   "save toolbars", "save zoom window"));
+    EXPECT_THAT(raiseRemoved(project), ElementsAre("Visible=TRUE", "A saved /p/A.vbp", "A dirty 0",
+                                                   "save recent projects", "save toolbars", "save zoom window"));
     EXPECT_FALSE(projects.FindQLProject(project));
 }
 
@@ -275,15 +301,15 @@ TEST_F(ProjectEvents, ClosingASavedProjectSavesNothing) {
     const auto project = added("A");
     opened("B");
     messages.showToolWindow();
-    EXPECT_THAT(raiseRemoved(project), ElementsAre("recent A", "save toolbars", "save zoom window"));
+    EXPECT_THAT(raiseRemoved(project), ElementsAre("save recent projects", "save toolbars", "save zoom window"));
 }
 
 TEST_F(ProjectEvents, ClosingAProjectOfAnUnknownDeviceSavesNothing) {
-    noted.unknownDevice = {true, ""};
+    user.whenShown["frmDesignTargetConverterWarning"] = [](auto& form) { test::press(form, "cmdOpenProject"); };
     const auto project = added("A", "Gone-9");
     opened("B");
     project->dirty = true;
-    EXPECT_THAT(raiseRemoved(project), ElementsAre("recent A", "save toolbars", "save zoom window"));
+    EXPECT_THAT(raiseRemoved(project), ElementsAre("save recent projects", "save toolbars", "save zoom window"));
 }
 
 TEST_F(ProjectEvents, ATemplateIsNotRemembered) {
@@ -454,7 +480,7 @@ TEST_F(FailingEvents, OfANewProjectLoseOneStep) {
 }
 
 TEST_F(FailingEvents, OfARefusedProjectLoseOneStep) {
-    noted.unknownDevice = {false, "/p/B.vbp"};
+    user.whenShown["frmDesignTargetConverterWarning"] = [](auto& form) { test::press(form, "cmdCancelOpen"); };
     test::Ref<test::TracedProject> project;
     sweep(
         [&] {

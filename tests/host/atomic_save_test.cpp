@@ -136,3 +136,51 @@ TEST(AtomicSave, TreatsATouchedFileAsUnchanged) {
     atomicSave(path, "again", saved);
     EXPECT_EQ(folder.read("a.bas"), "again");
 }
+
+TEST(AtomicSave, SaysWhichFileCannotBeSaved) {
+    const TempFolder folder;
+    const auto path = folder.write("file", "x") + "/a.bas";
+    const auto error = basic::attempt([&] { atomicSave(path, "x"); });
+    EXPECT_EQ(error.Description, path + ": cannot be saved: Not a directory");
+}
+
+TEST(AtomicMove, ReplacesAFileAndLeavesItsMode) {
+    const TempFolder folder;
+    const auto from = folder.write("new", "new"), to = folder.write("old", "old");
+    ::chmod(to.c_str(), 0640);
+    host::atomicMove(from, to);
+    EXPECT_EQ(folder.read("old"), "new");
+    EXPECT_EQ(stateOfFile(to).st_mode & 07777, 0640u);
+    EXPECT_EQ(folder.count(), 1u);
+}
+
+TEST(AtomicMove, ReplacesTheFileThatALinkLeadsTo) {
+    const TempFolder folder;
+    const auto from = folder.write("new", "new");
+    folder.write("real/old", "old");
+    std::filesystem::create_symlink("real/old", folder / "link");
+    host::atomicMove(from, folder / "link");
+    EXPECT_EQ(folder.read("real/old"), "new");
+    EXPECT_TRUE(std::filesystem::is_symlink(folder / "link"));
+}
+
+TEST(AtomicMove, RefusesAReadOnlyTargetAndAMissingFile) {
+    const TempFolder folder;
+    const auto from = folder.write("new", "new"), to = folder.write("old", "old");
+    ::chmod(to.c_str(), 0444);
+    EXPECT_EQ(errorOf([&] { host::atomicMove(from, to); }), 75);
+    EXPECT_EQ(folder.read("old"), "old");
+    EXPECT_EQ(folder.read("new"), "new");
+    EXPECT_EQ(errorOf([&] { host::atomicMove(folder / "gone", folder / "x"); }), 53);
+}
+
+TEST(AtomicMove, CopiesToAnotherFileSystem) {
+    const TempFolder folder;
+    const auto from = folder.write("new", "new");
+    std::string pattern = "/dev/shm/fernwick-test-XXXXXX";
+    if (!::mkdtemp(pattern.data())) GTEST_SKIP() << "no other file system";
+    host::atomicMove(from, pattern + "/moved");
+    EXPECT_EQ(readFile(pattern + "/moved").bytes, "new");
+    EXPECT_EQ(folder.count(), 0u);
+    std::filesystem::remove_all(pattern);
+}

@@ -232,6 +232,15 @@ TEST_F(FrontEndsView, ARemovedControlIsRestoredInPlace) {
     EXPECT_EQ(basic::attempt([&] { host::removeControl(designer->Designer(), nullptr); }).Number, 5);
 }
 
+TEST_F(FrontEndsView, ARestoredControlIsNotReportedAsAdded) {
+    int reported = 0;
+    auto hooks = withResources();
+    hooks.controlAdded = [&](const auto&) { ++reported; };
+    open(kDrawnForm, hooks);
+    host::restoreControl(designer->Designer(), host::removeControl(designer->Designer(), control("fraAll")));
+    EXPECT_EQ(reported, 0);
+}
+
 TEST_F(FrontEndsView, NothingIsRestoredInARemovedContainer) {
     const auto inner = host::addControl(designer->Designer(), control("fraAll"), "VB.TextBox");
     const auto removed = host::removeControl(designer->Designer(), inner);

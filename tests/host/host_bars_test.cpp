@@ -41,6 +41,7 @@ TEST(HostBars, ANewMenuIsInsertedBeforeAddIns) {
     EXPECT_EQ(bar->Controls()->Item("&fernwick"), menu);
     const auto item = menu->Controls()->Add();
     item->Caption("Compile");
+    EXPECT_EQ(item->Id(), 1); // as for all items of add-ins
     EXPECT_EQ(menu->Controls()->Count(), 1);
     EXPECT_EQ(item->Parent()->Name(), "Fernwick");
     EXPECT_EQ(errorOf([&] { item->Controls(); }), 438);

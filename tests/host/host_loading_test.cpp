@@ -171,6 +171,64 @@ TEST(HostLoading, AnExclusiveOpeningClosesOtherProjectsOnlyForAnExistingFile) {
     EXPECT_EQ(errorOf([&] { first->Name(); }), 440);
 }
 
+TEST(HostLoading, AnExclusiveOpeningReadsTheFileFirst) {
+    TestHost host;
+    int asked = 0;
+    host.mayReplaceProjects = [&] { return ++asked > 0; };
+    const auto open = host.open(SampleProject());
+    const auto text = host.folder.write("Text.vbp", "some text\r\n");
+    const auto group = host.folder.write("Text.vbg", "VBGROUP 5.0\r\nProject=Text.vbp\r\n");
+    const auto form = host.folder.write("Text.frm", "some text\r\n");
+    const auto templateFile = host.folder.write("Template/Projects/Text.vbp", "some text\r\n");
+    for (const auto& path : {text, group, form, templateFile})
+        EXPECT_EQ(errorOf([&] { host.ide->VBProjects()->AddFromFile(path, true); }), 321) << path;
+    EXPECT_EQ(errorOf([&] { host.ide->VBProjects()->AddFromTemplate(templateFile, true); }), 321);
+    EXPECT_EQ(host.ide->ActiveVBProject(), open);
+    EXPECT_EQ(asked, 0);
+}
+
+TEST(HostLoading, AnExclusiveOpeningAsksOnceAboutUnsavedWork) {
+    TestHost host;
+    int asked = 0;
+    bool agrees = false;
+    host.mayReplaceProjects = [&] { return ++asked, agrees; };
+    const auto next = SampleProject("Next").writeTo(host.folder);
+    const auto templateFile = SampleProject("New").writeTo(host.folder, "Template/Projects");
+    host.open(SampleProject("A"));
+    host.open(SampleProject("B"));
+    EXPECT_FALSE(host.ide->VBProjects()->AddFromFile(next, true));
+    EXPECT_FALSE(host.ide->VBProjects()->AddFromTemplate(templateFile, true));
+    EXPECT_EQ(host.ide->VBProjects()->Count(), 2);
+    EXPECT_EQ(asked, 2);
+    agrees = true;
+    EXPECT_EQ(host.ide->VBProjects()->AddFromFile(next, true)->Name(), "Next");
+    EXPECT_EQ(host.ide->VBProjects()->Count(), 1);
+    EXPECT_EQ(asked, 3);
+}
+
+TEST(HostLoading, AnExclusiveOpeningWithNothingOpenAsksNothing) {
+    TestHost host;
+    host.mayReplaceProjects = [] { return false; };
+    EXPECT_TRUE(host.ide->VBProjects()->AddFromFile(SampleProject("A").writeTo(host.folder), true));
+}
+
+TEST(HostLoading, AComponentOpensInANewProject) {
+    TestHost host;
+    const auto form = host.folder.write("lib/frmOne.frm", test::formText("frmOne"));
+    const auto project = host.openFile(form);
+    EXPECT_EQ(project->Name(), "Project1");
+    EXPECT_EQ(project->FileName(), "");
+    EXPECT_TRUE(project->IsDirty());
+    EXPECT_EQ(project->VBComponents()->Item("frmOne")->FileNames(1), form);
+    EXPECT_FALSE(project->VBComponents()->Item("frmOne")->IsDirty());
+    project->SaveAs(host.folder / "Mine.vbp");
+    EXPECT_NE(host.folder.read("Mine.vbp").find("\r\nForm=lib\\frmOne.frm\r\n"), std::string::npos);
+    for (const auto& other : {host.folder.write("modOne.bas", test::moduleText("modOne")),
+                              host.folder.write("clsOne.cls", test::classText("clsOne"))})
+        EXPECT_EQ(host.ide->VBProjects()->AddFromFile(other, true)->VBComponents()->Count(), 1) << other;
+    EXPECT_EQ(host.ide->VBProjects()->Count(), 1);
+}
+
 TEST(HostLoading, ANewProjectFromATemplateHasNoFiles) {
     TestHost host;
     const auto path = SampleProject("Template").form("frmT").handheld().writeTo(host.folder, "Template/Projects");

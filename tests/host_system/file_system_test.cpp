@@ -202,6 +202,47 @@ TEST_F(LocalFiles, CopiesReplaceTheWholeFileAndKeepItsTime) {
     EXPECT_THAT(files.Files(folder.path().string()), testing::ElementsAre("fresh", "from.txt", "To.txt"));
 }
 
+TEST_F(LocalFiles, FoldersAreCreatedOneAtATime) {
+    files.CreateFolder(path("a"));
+    files.CreateFolder(path("A\\b"));
+    EXPECT_TRUE(std::filesystem::is_directory(folder / "a/b"));
+    EXPECT_EQ(errorOf([&] { files.CreateFolder(path("A")); }), 58);
+    EXPECT_EQ(errorOf([&] { files.CreateFolder(path("none/b")); }), 76);
+    EXPECT_EQ(err.Description, path("none/b") + ": its parent folder does not exist");
+}
+
+TEST_F(LocalFiles, AMovedFileReplacesAnotherOne) {
+    folder.write("new.txt", "new"), folder.write("Old.txt", "old");
+    setMode("Old.txt", 0640);
+    files.MoveFile(path("NEW.txt"), path("old.TXT"));
+    EXPECT_EQ(folder.read("Old.txt"), "new");
+    EXPECT_THAT(files.Files(folder.path().string()), testing::ElementsAre("Old.txt"));
+    EXPECT_EQ(errorOf([&] { files.MoveFile(path("gone"), path("Old.txt")); }), 53);
+    folder.write("new.txt", "newer");
+    setMode("Old.txt", 0444);
+    EXPECT_EQ(errorOf([&] { files.MoveFile(path("new.txt"), path("Old.txt")); }), 70);
+    EXPECT_EQ(folder.read("Old.txt"), "new");
+}
+
+TEST_F(LocalFiles, AReadOnlyFileIsMadeWritableForItsOwner) {
+    folder.write("a.txt", "x");
+    setMode("a.txt", 0450);
+    files.MakeWritable(path("A.txt"));
+    struct stat state {};
+    ASSERT_EQ(::stat(path("a.txt").c_str(), &state), 0);
+    EXPECT_EQ(state.st_mode & 07777u, 0650u);
+    EXPECT_EQ(errorOf([&] { files.MakeWritable(path("gone")); }), 53);
+}
+
+TEST_F(LocalFiles, AreTheSameByWhateverLink) {
+    folder.write("real/a.txt", "x"), folder.write("real/b.txt", "x");
+    std::filesystem::create_directory_symlink("real", folder / "link");
+    EXPECT_TRUE(files.SameFile(path("real"), path("link")));
+    EXPECT_TRUE(files.SameFile(path("real/A.txt"), path("link\\a.txt")));
+    EXPECT_FALSE(files.SameFile(path("real/a.txt"), path("real/b.txt")));
+    EXPECT_FALSE(files.SameFile(path("gone"), path("gone")));
+}
+
 TEST_F(LocalFiles, ARefusedCopyLeavesTheDestination) {
     folder.write("from.txt", "new"), folder.write("to.txt", "old");
     EXPECT_EQ(errorOf([&] { files.CopyFile(path("from.txt"), path("to.txt"), false); }), 58);

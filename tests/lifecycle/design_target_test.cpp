@@ -1,3 +1,4 @@
+#include "Add-in/lifecycle/target_keys.h"
 #include "lifecycle_world.h"
 
 using testing::ElementsAre;

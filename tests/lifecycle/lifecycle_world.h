@@ -45,7 +45,10 @@ struct ProjectsWorld : AddInWorld<> {
 };
 
 struct LifecycleWorld : ProjectsWorld {
-    LifecycleWorld() { buildInterface(); }
+    LifecycleWorld() {
+        buildInterface();
+        addIn.gConnectMode = vbide::vbext_cm_Startup;
+    }
 };
 
 } // namespace test

@@ -183,35 +183,36 @@ TEST_F(SetupProject, AFailingCallLosesOnlyItself) {
     }
 }
 
-class ProjectManager : public testing::Test, protected test::LifecycleWorld {
+class StartingTheProjectManager : public testing::Test, protected test::LifecycleWorld {
 protected:
-    ProjectManager() { targets.known = {"Palm-1"}; }
+    StartingTheProjectManager() { targets.known = {"Palm-1"}; }
     void start(const test::Ref<test::TracedProject>& project) {
         projects.gCurrentProject = project;
         trace.effects.clear();
         setup.StartProjectManager();
+        loop.turn();
     }
 };
 
-TEST_F(ProjectManager, OpensAtOnceWithoutAProject) {
+TEST_F(StartingTheProjectManager, OpensAtOnceWithoutAProject) {
     start(nullptr);
-    EXPECT_THAT(trace.effects, ElementsAre("project manager on delay"));
+    EXPECT_THAT(trace.effects, ElementsAre("form frmProjectManager"));
 }
 
-TEST_F(ProjectManager, ClosesACleanProjectWithoutAQuestion) {
+TEST_F(StartingTheProjectManager, ClosesACleanProjectWithoutAQuestion) {
     start(open("A", "Palm-1"));
-    EXPECT_THAT(trace.effects, ElementsAre("active A", "host: remove project", "project manager on delay"));
+    EXPECT_THAT(trace.effects, ElementsAre("active A", "host: remove project", "form frmProjectManager"));
 }
 
-TEST_F(ProjectManager, LetsTheHostRunAroundTheRemoval) {
+TEST_F(StartingTheProjectManager, LetsTheHostRunAroundTheRemoval) {
     const auto project = open("A", "Palm-1");
     loop.showsTurns = true;
     start(project);
     EXPECT_THAT(trace.effects,
-                ElementsAre("active A", "DoEvents", "host: remove project", "DoEvents", "project manager on delay"));
+                ElementsAre("active A", "DoEvents", "host: remove project", "DoEvents", "form frmProjectManager"));
 }
 
-TEST_F(ProjectManager, DoesNotOpenWhenSavingFails) {
+TEST_F(StartingTheProjectManager, DoesNotOpenWhenSavingFails) {
     const auto fileSystem =
         classes.RegisterClass("Scripting.FileSystemObject", [this] { return basic::make<test::TracedFiles>(trace); });
     user.cancelsSaving = true;
@@ -226,7 +227,7 @@ TEST_F(ProjectManager, DoesNotOpenWhenSavingFails) {
     EXPECT_THAT(openNames(), ElementsAre("A"));
 }
 
-TEST_F(ProjectManager, DoesNotOpenWhenTheUserCancels) {
+TEST_F(StartingTheProjectManager, DoesNotOpenWhenTheUserCancels) {
     const auto project = open("A", "Palm-1");
     project->dirty = true;
     user.answers = {fernwick::vbCancel};
@@ -235,14 +236,14 @@ TEST_F(ProjectManager, DoesNotOpenWhenTheUserCancels) {
                 ElementsAre("box 35 Save Project: Save project before opening Fernwick project manager?"));
 }
 
-TEST_F(ProjectManager, DiscardsTheChangesWhenTheUserDeclines) {
+TEST_F(StartingTheProjectManager, DiscardsTheChangesWhenTheUserDeclines) {
     const auto project = open("A", "Palm-1");
     project->dirty = true;
     user.answers = {fernwick::vbNo};
     start(project);
     EXPECT_TRUE(did("A dirty 0"));
     EXPECT_FALSE(did("A saved /p/A.vbp"));
-    EXPECT_EQ(trace.effects.back(), "project manager on delay");
+    EXPECT_EQ(trace.effects.back(), "form frmProjectManager");
     EXPECT_THAT(openNames(), IsEmpty());
 }
 

@@ -4,6 +4,8 @@
 #include "Add-in/platform/design_targets.h"
 #include "Add-in/platform/pipes.h"
 #include <set>
+#include <utility>
+#include <vector>
 
 namespace test {
 
@@ -14,6 +16,9 @@ struct KnownModules {
     std::vector<std::string> required;
     /// Identifiers of the controls that the targets support.
     std::vector<std::string> tavlets;
+    /// Defaults of new controls, and classes whose TabStop is turned off.
+    std::vector<std::pair<std::string, std::string>> defaults;
+    std::set<std::string> tabStopOff;
 };
 
 /// Paths of each target's templates.
@@ -49,9 +54,14 @@ public:
         return {knows_.references.count(reference) > 0, false};
     }
     bool FindModule(const std::string& moduleId) const override { return knows_.modules.count(moduleId) > 0; }
-    void GetPropertyDefaults(std::vector<std::string>&, std::vector<std::string>&) const override {}
-    std::int32_t NumPropertyDefaults() const override { return 0; }
-    bool IsTabStopOff(const std::string&) const override { return false; }
+    void GetPropertyDefaults(std::vector<std::string>& names, std::vector<std::string>& values) const override {
+        for (const auto& [name, value] : knows_.defaults) {
+            names.push_back(name);
+            values.push_back(value);
+        }
+    }
+    std::int32_t NumPropertyDefaults() const override { return std::int32_t(knows_.defaults.size()); }
+    bool IsTabStopOff(const std::string& name) const override { return knows_.tabStopOff.count(name) > 0; }
     std::string VBPTemplate() const override { return templates_.project; }
     std::string FormTemplate() const override { return templates_.form; }
     std::string ModuleTemplate() const override { return templates_.module; }

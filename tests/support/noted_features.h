@@ -13,9 +13,8 @@ public:
 
     explicit NotedFeatures(Trace& trace) : trace_(trace) {}
 
-    /// What the user does in the settings, and while the project manager is open.
-    std::function<void()> inSettings = [] {}, inProjectManager = [] {};
-    fernwick::UnknownDeviceChoice unknownDevice;
+    /// What the user does in the settings.
+    std::function<void()> inSettings = [] {};
 
     /// The arguments of the last call that opened the settings.
     Project settingsOf;
@@ -31,16 +30,6 @@ public:
     void InitZoomWindow() override { trace_.effect("init zoom window"); }
     void SaveZoomWindowState() override { trace_.effect("save zoom window"); }
     void SetZoomForm(const basic::Ref<vbide::VBComponent>& form) override { trace_.effect("zoom " + form->Name()); }
-    void ShowProjectManager() override {
-        trace_.effect("project manager");
-        inProjectManager();
-    }
-    void ShowProjectManagerOnDelay() override { trace_.effect("project manager on delay"); }
-    void AddProjectToRecentList(const Project& project) override { trace_.effect("recent " + project->Name()); }
-    fernwick::UnknownDeviceChoice AskAboutUnknownDevice(const Project& project) override {
-        trace_.effect("unknown device of " + project->Name());
-        return unknownDevice;
-    }
     void notInThisBuild() override { trace_.effect("not in this build"); }
 
 private:

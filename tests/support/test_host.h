@@ -5,6 +5,7 @@
 #include "tests/support/errors.h"
 #include "tests/support/sample_project.h"
 #include "tests/support/temp_folder.h"
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -21,6 +22,7 @@ public:
         options.templatePath = folder / "Template";
         options.templateFolders = {folder / "install/VB Toolkit/Template"};
         options.handlerFailed = [this](const basic::ErrObject& error) { failures.push_back(error); };
+        options.mayReplaceProjects = [this] { return mayReplaceProjects(); };
         ide = host::Host::create(std::move(options));
     }
 
@@ -44,6 +46,8 @@ public:
     host::RegistryStore registry{{folder / "store/user", folder / "store/machine", {}}};
     /// Errors that left event handlers.
     std::vector<basic::ErrObject> failures;
+    /// Asked before an exclusive opening closes the open projects.
+    std::function<bool()> mayReplaceProjects = [] { return true; };
     std::shared_ptr<host::Host> ide;
 };
 

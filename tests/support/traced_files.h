@@ -61,6 +61,9 @@ public:
         return native;
     }
     bool SamePath(const std::string& a, const std::string& b) const override { return Canonical(a) == Canonical(b); }
+    bool SameFile(const std::string& a, const std::string& b) const override {
+        return SamePath(a, b) && (FileExists(a) || FolderExists(a));
+    }
     std::string WithSeparator(const std::string& folder) const override { return BuildPath(folder, ""); }
     bool IsAbsolute(const std::string& path) const override { return Canonical(path).starts_with('/'); }
     std::string GetSpecialFolder(fernwick::SpecialFolder) const override { return "/tmp"; }
@@ -78,8 +81,9 @@ public:
     basic::Ref<fernwick::TextStream> OpenTextFile(const std::string& path) override {
         return basic::make<Lines>(at(path).bytes);
     }
-    basic::Ref<fernwick::TextStream> CreateTextFile(const std::string&, bool) override {
-        throw basic::RuntimeError(basic::kPathFileAccessError);
+    basic::Ref<fernwick::TextStream> CreateTextFile(const std::string& path, bool) override {
+        trace_.read();
+        return basic::make<Writer>(files[Canonical(path)].bytes);
     }
     std::string ReadBytes(const std::string& path) const override {
         ++reads;
@@ -95,6 +99,13 @@ public:
     }
     void CopyFile(const std::string& from, const std::string& to, bool) override { files[Canonical(to)] = at(from); }
     void DeleteFile(const std::string& path, bool) override { files.erase(Canonical(path)); }
+    /// A folder is what contains a file.
+    void CreateFolder(const std::string& path) override { files[Canonical(path) + "/"] = {}; }
+    void MoveFile(const std::string& from, const std::string& to) override {
+        files[Canonical(to)] = at(from);
+        files.erase(Canonical(from));
+    }
+    void MakeWritable(const std::string&) override { trace_.read(); }
 
 private:
     /// Lines that end in CR LF.
@@ -113,6 +124,18 @@ private:
 
     private:
         std::string rest_;
+    };
+
+    class Writer : public fernwick::TextStream {
+    public:
+        explicit Writer(std::string& bytes) : bytes_(bytes) { bytes_.clear(); }
+        bool AtEndOfStream() const override { throw basic::RuntimeError(54); }
+        std::string ReadLine() override { throw basic::RuntimeError(54); }
+        void WriteLine(const std::string& line) override { bytes_ += line + "\r\n"; }
+        void Close() override {}
+
+    private:
+        std::string& bytes_;
     };
 
     const File& at(const std::string& path) const {

@@ -12,7 +12,7 @@ public:
     Ref<vbide::Property> Item(const std::string& name) const override {
         trace_.read();
         if (values.count(name) == 0 && objects.count(name) == 0) throw notHere(9);
-        return basic::make<One>(*this, name);
+        return basic::make<One>(const_cast<TracedProperties&>(*this), name);
     }
     std::vector<Ref<vbide::Property>> items() const override { return {}; }
 
@@ -22,17 +22,20 @@ public:
 private:
     class One : public vbide::Property {
     public:
-        One(const TracedProperties& owner, std::string name) : owner_(owner), name_(std::move(name)) {}
+        One(TracedProperties& owner, std::string name) : owner_(owner), name_(std::move(name)) {}
         std::string Name() const override { return name_; }
         fernwick::Variant Value() const override {
             owner_.trace_.read();
             return owner_.values.at(name_);
         }
-        void Value(const fernwick::Variant&) override {}
+        void Value(const fernwick::Variant& value) override {
+            owner_.trace_.effect(name_ + "=" + fernwick::asText(value));
+            owner_.values[name_] = value;
+        }
         Ref<vbide::Properties> ObjectValue() const override { return owner_.objects.at(name_); }
 
     private:
-        const TracedProperties& owner_;
+        TracedProperties& owner_;
         std::string name_;
     };
     Trace& trace_;
@@ -48,11 +51,15 @@ public:
         trace_.read();
         return className;
     }
-    std::string ProgId() const override { return "TavletsCtl." + className; }
+    std::string ProgId() const override {
+        if (removed) throw notHere(440);
+        return library + "." + className;
+    }
     Ref<vbide::Properties> Properties() const override { return properties; }
     std::vector<Ref<VBControl>> ContainedVBControls() const override { return {}; }
 
-    std::string className;
+    std::string className, library = "TavletsCtl";
+    bool removed = false;
     Ref<TracedProperties> properties;
 
 private:
@@ -80,7 +87,7 @@ public:
 private:
     class List : public vbide::VBControls {
     public:
-        explicit List(const TracedDesigner& designer) : designer_(designer) {}
+        explicit List(TracedDesigner& designer) : designer_(designer) {}
         int Count() const override { return int(designer_.controls.size()); }
         Ref<vbide::VBControl> Item(int) const override { throw notHere(9); }
         Ref<vbide::VBControl> Item(const std::string&) const override { throw notHere(9); }
@@ -89,10 +96,13 @@ private:
             return {designer_.controls.begin(), designer_.controls.end()};
         }
         Ref<vbide::VBControl> Add(const std::string&) override { throw notHere(5); }
-        void Remove(const Ref<vbide::VBControl>&) override {}
+        void Remove(const Ref<vbide::VBControl>& control) override {
+            designer_.trace_.effect("remove control " + control->ClassName());
+            std::erase_if(designer_.controls, [&](const auto& c) { return Ref<vbide::VBControl>(c) == control; });
+        }
 
     private:
-        const TracedDesigner& designer_;
+        TracedDesigner& designer_;
     };
     Trace& trace_;
     Ref<List> list_;

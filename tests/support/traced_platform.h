@@ -20,8 +20,10 @@ public:
     std::deque<int> answers;
     std::map<std::string, std::function<void(fernwick::Form&)>> whenShown;
     std::string chosen;
-    /// The last open dialog.
-    fernwick::CommonDialog opened;
+    /// Returns the file of the next open dialog.
+    std::function<std::string()> choose = [this] { return chosen; };
+    /// The last open and save dialogs as they were shown.
+    fernwick::CommonDialog opened, saved;
 
     void showModal(fernwick::Form& form) override {
         trace_.effect(std::string("form ") + form.typeName());
@@ -46,15 +48,21 @@ public:
     }
     /// Whether the user cancels save dialogs.
     bool cancelsSaving = false;
-    void ShowSave(fernwick::CommonDialog&) override {
+    /// Files for save dialogs, in order; without one a dialog keeps its name.
+    std::deque<std::string> savedAs;
+    void ShowSave(fernwick::CommonDialog& dialog) override {
         trace_.effect("save dialog");
+        saved = dialog;
         if (cancelsSaving) throw basic::RuntimeError(fernwick::kCancelWasSelected);
+        if (savedAs.empty()) return;
+        dialog.FileName = savedAs.front();
+        savedAs.pop_front();
     }
-    /// Chooses `chosen`; "" cancels.
+    /// "" cancels.
     void ShowOpen(fernwick::CommonDialog& dialog) override {
         trace_.effect("open dialog");
         opened = dialog;
-        if (!chosen.empty()) dialog.FileName = chosen;
+        if (const auto file = choose(); !file.empty()) dialog.FileName = file;
     }
     void MessageBeep(int type) override { trace_.effect("beep " + std::to_string(type)); }
     void SetCursor(fernwick::MousePointerShape shape) override { trace_.effect("cursor " + std::to_string(shape)); }

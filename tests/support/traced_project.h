@@ -222,7 +222,7 @@ private:
 class TracedReference : public vbide::Reference {
 public:
     TracedReference(Trace& trace, std::string p) : path(std::move(p)), trace_(trace) {}
-    std::string Name() const override { return {}; }
+    std::string Name() const override { return name; }
     std::string Guid() const override {
         trace_.read();
         return guid;
@@ -244,7 +244,7 @@ public:
         return broken;
     }
 
-    std::string path, guid;
+    std::string name, path, guid;
     int major = 1, minor = 0;
     bool builtIn = false, broken = false;
 
@@ -266,7 +266,10 @@ public:
         return nullptr;
     }
     Ref<vbide::Reference> AddFromFile(const std::string&) override { return nullptr; }
-    void Remove(const Ref<vbide::Reference>&) override {}
+    void Remove(const Ref<vbide::Reference>& reference) override {
+        trace_.effect("remove reference " + reference->Name());
+        std::erase_if(list, [&](const auto& one) { return Ref<vbide::Reference>(one) == reference; });
+    }
 
     std::vector<Ref<TracedReference>> list;
 

@@ -760,6 +760,20 @@ TEST_F(FormDesigners, AControlThatAnAddInRemovesAtOnceIsNotSelected) {
     EXPECT_EQ(saved("frmMain"), original);
 }
 
+TEST_F(FormDesigners, OfFernwickProjectsRefuseControlsThatDevicesLack) {
+    bench->connect();
+    openSample("AddressBook");
+    design("frmPerson");
+    const auto before = view().picture().controls.size();
+    test::whenShown([](QDialog& box) { box.accept(); });
+    pick("CommandButton");
+    drag(pointOn({16, 16}), {100, 45});
+    EXPECT_EQ(view().picture().controls.size(), before);
+    pick("QLButton");
+    drag(pointOn({16, 16}), {100, 45});
+    EXPECT_EQ(view().picture().controls.size(), before + 1);
+}
+
 /// An add-in may show a box during the edit, and the project may be closed meanwhile.
 TEST_F(FormDesigners, AFormMayBeClosedWhileItIsEdited) {
     openForm(kShowcase);

@@ -2,6 +2,7 @@
 #include "Apps/workbench/bridge/form_window.h"
 #include "Apps/workbench/bridge/moving_picture.h"
 #include "Apps/workbench/bridge/qt_user.h"
+#include "tests/support/fake_targets.h"
 #include "tests/workbench/desktop_user.h"
 #include "tests/workbench/desktop_world.h"
 #include <QCheckBox>
@@ -25,9 +26,10 @@ class Forms : public test::DesktopWorld {
 protected:
     /// All forms of the add-in that have a window.
     std::vector<Form*> all() {
-        return {&modules.about,        &modules.saveFiles,     &modules.saveWarning,  &modules.compileWarning,
-                &modules.compile,      &modules.validate,      &modules.sendToDevice, &modules.sendRuntime,
-                &modules.chooseTarget, &modules.gettingStarted};
+        return {&modules.about,           &modules.saveFiles,      &modules.saveWarning,    &modules.compileWarning,
+                &modules.compile,         &modules.validate,       &modules.sendToDevice,   &modules.sendRuntime,
+                &modules.chooseTarget,    &modules.gettingStarted, &modules.projectManager, &modules.converter,
+                &modules.converterWarning};
     }
     Modules modules{platform};
 };
@@ -110,6 +112,59 @@ TEST_F(Forms, ClosingTheWindowUnloadsTheForm) {
     test::whenShown([](QDialog& window) { window.close(); });
     modules.compileWarning.ShowModal();
     EXPECT_FALSE(modules.compileWarning.isLoaded());
+}
+
+TEST_F(Forms, TheCloseBoxMayAskAsTheCancelButtonDoes) {
+    test::FakeTargets targets{classes};
+    targets.known = {"Palm-1"};
+    const auto answer = [](QMessageBox::StandardButton button) {
+        test::whenShown<QMessageBox>([button](QMessageBox& box) { box.button(button)->click(); });
+    };
+    test::whenShown([answer](QDialog& window) {
+        answer(QMessageBox::No);
+        window.close();
+        EXPECT_TRUE(window.isVisible());
+        answer(QMessageBox::Yes);
+        window.close();
+    });
+    modules.converter.ShowModal();
+    EXPECT_FALSE(modules.converter.isLoaded());
+}
+
+namespace {
+
+/// Hides itself and shows another form.
+class OpeningForm final : public Form {
+public:
+    OpeningForm(Interaction& user, Form& other) : Form(user), other_(other) {}
+    const char* typeName() const override { return "frmSaveWarning"; }
+    Label lblWarning{this, "lblWarning"};
+    CommandButton btnOK{this, "btnOK", "OK", &OpeningForm::open};
+    CheckBox chkWarning{this, "chkWarning"};
+
+private:
+    void open() {
+        Hide();
+        other_.ShowModal();
+    }
+    Form& other_;
+};
+
+} // namespace
+
+TEST_F(Forms, AFormThatShowsAnotherOneIsHiddenAtOnce) {
+    OpeningForm form{user, modules.compileWarning};
+    bool wasHidden = false;
+    test::whenShown([&](QDialog& window) {
+        test::whenShown([&](QDialog& other) {
+            wasHidden = !window.isVisible();
+            other.close();
+        });
+        test::click(window, "btnOK");
+    });
+    form.ShowModal();
+    EXPECT_TRUE(wasHidden);
+    EXPECT_FALSE(form.Visible());
 }
 
 namespace {

@@ -1,4 +1,5 @@
 // The tests draw into memory and use their own settings.
+#include "Apps/workbench/base/application_name.h"
 #include "tests/workbench/own_home.h"
 #include <QApplication>
 #include <QLabel>
@@ -22,6 +23,13 @@ void endWhenStuck() {
     std::abort();
 }
 
+/// Qt only warns of a colour, picture or pattern that it cannot read.
+void failOnWarnings(QtMsgType type, const QMessageLogContext&, const QString& text) {
+    const bool isOfThePlatform = text.startsWith("This plugin does not support");
+    if (isOfThePlatform || type == QtDebugMsg || type == QtInfoMsg) return;
+    ADD_FAILURE() << "Qt: " << text.toStdString();
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -31,8 +39,8 @@ int main(int argc, char** argv) {
     qputenv("QT_LOGGING_RULES", "qt.qpa.*=false");
     testing::InitGoogleTest(&argc, argv);
     QApplication app(argc, argv);
-    QApplication::setOrganizationName("fernwick");
-    QApplication::setApplicationName("workbench-test");
+    workbench::nameApplication("workbench-test");
+    qInstallMessageHandler(failOnWarnings);
     QTimer watch;
     QObject::connect(&watch, &QTimer::timeout, endWhenStuck);
     watch.start(1000);

@@ -118,3 +118,11 @@ TEST_P(Themes, TheRowWithTheFocusIsMarked) {
         most = std::max(most, contrast(drawn(true).pixelColor(x, 1), drawn(false).pixelColor(x, 1)));
     EXPECT_GE(most, kForEdges);
 }
+
+TEST_P(Themes, EachColourOfTheCodeIsAColour) {
+    const auto& [paper, text, keyword, comment, string, number, directive, margin, marginText, currentLine, error,
+                 warning] = workbench::codeColours(GetParam());
+    for (const auto& colour :
+         {paper, text, keyword, comment, string, number, directive, margin, marginText, currentLine, error, warning})
+        EXPECT_TRUE(colour.isValid());
+}

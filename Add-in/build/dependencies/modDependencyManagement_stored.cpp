@@ -4,16 +4,12 @@
 #include "Basic/conversions.h"
 #include "Basic/text.h"
 #include "Basic/text_search.h"
-#include <fmt/format.h>
 
 namespace fernwick {
 
 namespace {
 
-constexpr char kProjectDependencies[] = "Quinloft Project Dependencies";
-constexpr char kNumDependencies[] = "NumDependencies";
-
-std::string dependencyKey(std::int32_t index) { return fmt::format("Dependencies{}", index); }
+std::string dependencyKey(std::int32_t index) { return kDependencyKey + std::to_string(index); }
 
 /// Returns the stored count: empty if it cannot be read, 0 if it exceeds kMostStoredEntries.
 std::optional<std::int32_t> storedDependencies(const basic::Ref<vbide::VBProject>& project) {

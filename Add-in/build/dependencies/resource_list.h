@@ -22,6 +22,11 @@ struct tResource {
 /// The FileType of converted fonts, which the fonts folder may hold for all projects.
 inline constexpr char kFontType[] = "CMF";
 
+// Where a project stores the list: its length, and "NAME,TYPE" under numbered keys from 0.
+inline constexpr char kProjectDependencies[] = "Quinloft Project Dependencies";
+inline constexpr char kNumDependencies[] = "NumDependencies";
+inline constexpr char kDependencyKey[] = "Dependencies";
+
 /// A list of dependency files, indexed from 0.
 struct tResourceList {
     std::vector<tResource> entries;

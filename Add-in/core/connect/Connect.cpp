@@ -107,7 +107,9 @@ void Connect::watchSelectedForm(Procedure& here, const Host& VBInst) {
 
 void Connect::watchDesigner(const Component& form) {
     const auto project = form->VBE()->ActiveVBProject();
-    ControlsEventsHandler = services_.addIn.gVBInstance->Events()->VBControlsEvents(project, form->Designer());
+    const auto designer = form->Designer();
+    ControlsEventsHandler = services_.addIn.gVBInstance->Events()->VBControlsEvents(project, designer);
+    watchedDesigner_ = designer;
 }
 
 void Connect::disableInterface(Procedure& here) {

@@ -11,8 +11,12 @@
 #include "Add-in/core/settings_dialog.h"
 #include "Add-in/deploy/frmSendRuntimeToDevice.h"
 #include "Add-in/deploy/frmSendToDevice.h"
+#include "Add-in/lifecycle/frmDesignTargetConverterWarning.h"
+#include "Add-in/lifecycle/frmProjectManager.h"
+#include "Add-in/lifecycle/modRecentProjectManagment.h"
 #include "Add-in/lifecycle/project_setup.h"
 #include "Add-in/lifecycle/sample_opening.h"
+#include "Add-in/project/frmSaveWarning.h"
 #include <array>
 
 namespace fernwick {
@@ -62,9 +66,15 @@ struct ConnectServices {
     modToolbarManagement& toolbars;
     frmGettingStarted& gettingStarted;
     modProjectHandler& projects;
+    modSaveProject& save;
+    frmSaveWarning& saveWarning;
     modCompileErrorManagement& messages;
+    modRecentProjectManagment& recent;
+    frmProjectManager& projectManager;
     frmProjectRemoval& removal;
     ProjectSetup& setup;
+    frmDesignTargetConverter& converter;
+    frmDesignTargetConverterWarning& converterWarning;
     SettingsDialog& settings;
     MissingFeatures& features;
     const modQLInstallInfo& install;
@@ -207,7 +217,8 @@ public:
     WithEvents<vbide::FileControlEvents> FileControlHandler{
         this, on(&vbide::FileControlEvents::RequestWriteFile, &Connect::FileControlHandler_RequestWriteFile)};
     // One form designer: the last one assigned
-    WithEvents<vbide::VBControlsEvents> ControlsEventsHandler{this};
+    WithEvents<vbide::VBControlsEvents> ControlsEventsHandler{
+        this, on(&vbide::VBControlsEvents::ItemAdded, &Connect::ControlsEventsHandler_ItemAdded)};
     // Build
     WithEvents<vbide::VBBuildEvents> BuildEventsHandler{
         this, on(&vbide::VBBuildEvents::EnterDesignMode, &Connect::BuildEventsHandler_EnterDesignMode),
@@ -218,7 +229,7 @@ public:
 
     /// Whether the resource editor was disconnected at the start. Never reset.
     bool ResEditWasConnected = false;
-    /// Time of the connection in nanoseconds since 1970. The add-in does not read it.
+    /// Time of the connection, later of the last control added to an unsaved project, in nanoseconds since 1970.
     std::int64_t LastControlEventTime = 0;
     /// A template project is queued for reloading and has not been added yet.
     bool TemplateReloadPending = false;
@@ -232,6 +243,7 @@ private:
     using Project = basic::Ref<vbide::VBProject>;
     using QLProject = basic::Ref<clsQLProject>;
     using Component = basic::Ref<vbide::VBComponent>;
+    using Control = basic::Ref<vbide::VBControl>;
 
     std::array<Command, kDeviceSlots> slots(void (Connect::*clicked)(const Item& item));
     void buildInterface(Procedure& here, const Host& VBInst, const basic::Ref<vbide::AddIn>& AddInInst);
@@ -269,7 +281,7 @@ private:
     bool hasMyDevices();
     void toMyDevices(const std::function<void(const std::string& device)>& act);
     // Other commands
-    void ProjectManagerHandler_Click() { services_.features.notInThisBuild(); }
+    void ProjectManagerHandler_Click() { services_.setup.StartProjectManager(); }
     void ZoomWindowHandler_Click();
     void DownloadVMHandler_Click();
     void AddinUsersGuideHandler_Click();
@@ -292,10 +304,11 @@ private:
     void addFirstForm(Procedure& here, const QLProject& project);
     void refuseDevice(Procedure& here, const QLProject& project, const std::string& device);
     void closeAdded(Procedure& here, const Project& project);
+    void openCopy(const std::string& path);
     void keepState(Procedure& here, const QLProject& project);
-    void keepDesktopState(Procedure& here, const Project& vbProject);
+    void keepDesktopState(Procedure& here, const QLProject& project);
 
-    // Components, references and the build
+    // Components, references, controls and the build
     void CompsEventsHandler_ItemAdded(Component VBComponent);
     void CompsEventsHandler_ItemRenamed() {}
     void CompsEventsHandler_ItemSelected(Component VBComponent);
@@ -309,6 +322,9 @@ private:
     QLProject activeFernwickProject(Procedure& here);
     bool isFormOfOurs(Procedure& here, const Component& VBComponent);
     void RefEventsHandler_ItemAdded();
+    void ControlsEventsHandler_ItemAdded(Control VBControl);
+    void setControlDefaults(Procedure& here, const QLProject& project, const Control& VBControl);
+    void saveForControls(Procedure& here, const Project& vbProject);
     void BuildEventsHandler_EnterDesignMode();
     void BuildEventsHandler_EnterRunMode();
     bool isCurrentOurs() const;
@@ -320,6 +336,8 @@ private:
 
     friend class Command;
     ConnectServices services_;
+    /// The designer whose events ControlsEventsHandler receives.
+    basic::Ref<vbide::VBForm> watchedDesigner_;
     Subscription replacementsEnded_;
     /// One for each sample of the menu.
     std::vector<Subscription> pickedSamples_;

@@ -15,7 +15,7 @@ void Connect::ProjEventsHandler_ItemAdded(Project VBProject) {
         return services_.removal.RemoveProject(VBProject, true, ""); // the converter is started afterwards
     }
     if (project->IsStartUpProject()) {
-        here([&] { services_.features.ShowProjectManager(); });
+        here([&] { services_.projectManager.ShowModal(); });
         return services_.removal.RemoveProject(VBProject, true, "");
     }
     services_.setup.SetupProject(project);
@@ -85,11 +85,21 @@ void Connect::refuseDevice(Procedure& here, const QLProject& project, const std:
     if (device.empty()) return services_.removal.RemoveProject(vbProject, true, "");
     if (services_.devices.GetNumDesignTargets() <= 0) return;
 
-    const auto choice = here.value([&] { return services_.features.AskAboutUnknownDevice(vbProject); });
-    if (choice.accepted) return watchProject(here, vbProject);
-    closeAdded(here, vbProject);
-    if (!choice.replacementPath.empty())
-        here([&] { services_.addIn.gVBInstance->VBProjects()->AddFromFile(choice.replacementPath, true); });
+    auto& warning = services_.converterWarning;
+    here([&] { warning.ShowModal(); });
+    if (warning.openAnyway()) {
+        watchProject(here, vbProject);
+    } else {
+        closeAdded(here, vbProject);
+        if (!warning.newProjectFile().empty()) here([&] { openCopy(warning.newProjectFile()); });
+    }
+    warning.Unload();
+}
+
+/// The copy that the converter made of a project takes its place.
+void Connect::openCopy(const std::string& path) {
+    const auto copy = services_.addIn.gVBInstance->VBProjects()->AddFromFile(path, true);
+    services_.converter.conversion().finishCopy(copy);
 }
 
 void Connect::closeAdded(Procedure& here, const Project& project) {
@@ -119,13 +129,13 @@ void Connect::keepState(Procedure& here, const QLProject& project) {
         if (here.test([&] { return !vbProject->Saved(); })) project->SaveFiles();
     }
     if (!project->IsStartUpProject() && services_.addIn.gConnectMode != vbide::vbext_cm_CommandLine)
-        keepDesktopState(here, vbProject);
+        keepDesktopState(here, project);
 }
 
 /// Not at the command line, which must not overwrite the user's desktop settings.
-void Connect::keepDesktopState(Procedure& here, const Project& vbProject) {
-    if (here.test([&] { return !services_.projects.ProjectIsFromTemplate(vbProject); }))
-        here([&] { services_.features.AddProjectToRecentList(vbProject); });
+void Connect::keepDesktopState(Procedure& here, const QLProject& project) {
+    if (here.test([&] { return !services_.projects.ProjectIsFromTemplate(project->VBProject()); }))
+        services_.recent.AddProjectToRecentList(project);
     here([&] { services_.toolbars.SaveAllToolbarState(); });
     here([&] { services_.features.SaveZoomWindowState(); });
 }

@@ -85,6 +85,7 @@ void Connect::releaseSinks() {
     RefEventsHandler = nullptr;
     FileControlHandler = nullptr;
     ControlsEventsHandler = nullptr;
+    watchedDesigner_ = nullptr;
     BuildEventsHandler = nullptr;
     GlobalFileControlHandler = nullptr;
 }

@@ -15,6 +15,7 @@ Modules::~Modules() { release(); }
 void Modules::release() {
     connect.releaseSinks();
     (void)basic::attempt([this] { removal.Unload(); });
+    (void)basic::attempt([this] { projectManager.dismiss(); });
     for (const auto& document : documents_)
         if (const auto window = document.lock()) window->disconnect();
 }

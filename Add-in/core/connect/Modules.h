@@ -10,6 +10,7 @@
 #include "Add-in/core/modAddInErrorManagement.h"
 #include "Add-in/deploy/frmSendRuntimeToDevice.h"
 #include "Add-in/deploy/frmSendToDevice.h"
+#include "Add-in/lifecycle/frmDesignTargetConverterWarning.h"
 #include "Add-in/project/frmSaveWarning.h"
 
 namespace fernwick {
@@ -76,28 +77,56 @@ struct Modules {
         pipeServices, {addIn, prefs, projects, messages, dependencies, compile, compileWarning, validate, settings}};
     frmSendRuntimeToDevice sendRuntime{pipeServices};
     // lifecycle
+    modRecentProjectManagment recent{registry, platform.files, errors};
+    frmProjectManager projectManager{
+        {errors, platform.interaction, platform.loop, platform.files, addIn, prefs, samplesList, projects, recent}};
     frmProjectRemoval removal{platform.interaction, platform.loop, addIn, projects, items, menu, errors};
     frmDesignTargetNormal chooseTarget{deviceServices};
     ProjectSetup setup{{errors, platform.interaction, platform.loop, addIn, devices, deviceServices, projects, save,
-                        messages, chooseTarget, removal, items, menu, toolbars, features}};
+                        messages, chooseTarget, projectManager, removal, items, menu, toolbars, features}};
+    ConversionServices conversionServices{
+        errors, platform.interaction, platform.files, deviceServices, projectServices, projects, setup};
+    frmDesignTargetConverter converter{conversionServices, addIn};
+    frmDesignTargetConverterWarning converterWarning{conversionServices, addIn, converter};
     SampleOpening samples{
         {errors, platform.interaction, platform.loop, platform.files, platform.app, addIn, save, items}};
     // on top
-    Connect connect{{errors,         platform.interaction,
-                     platform.loop,  platform.files,
-                     platform.shell, platform.clock,
-                     platform.app,   prefs,
-                     addIn,          references,
-                     devices,        deviceServices,
-                     items,          clipboard,
-                     menu,           toolbars,
-                     gettingStarted, projects,
-                     messages,       removal,
-                     setup,          settings,
-                     features,       install,
-                     compile,        sendToDevice,
-                     sendRuntime,    tools,
-                     help,           about,
+    Connect connect{{errors,
+                     platform.interaction,
+                     platform.loop,
+                     platform.files,
+                     platform.shell,
+                     platform.clock,
+                     platform.app,
+                     prefs,
+                     addIn,
+                     references,
+                     devices,
+                     deviceServices,
+                     items,
+                     clipboard,
+                     menu,
+                     toolbars,
+                     gettingStarted,
+                     projects,
+                     save,
+                     saveWarning,
+                     messages,
+                     recent,
+                     projectManager,
+                     removal,
+                     setup,
+                     converter,
+                     converterWarning,
+                     settings,
+                     features,
+                     install,
+                     compile,
+                     sendToDevice,
+                     sendRuntime,
+                     tools,
+                     help,
+                     about,
                      samples}};
 
     /// The document of the messages window; Nothing until the host has created it.

@@ -17,6 +17,10 @@ inline constexpr char kNotInThisBuild[] = "This command is not in this build of 
 inline constexpr char kTypeNotSupportedBefore[] = "This component type is not supported on ";
 inline constexpr char kTypeNotSupportedAfter[] = " devices";
 
+inline constexpr char kForeignControl[] =
+    "ERROR!\r\n\r\nThis control will not work with a Fernwick project and will be removed.";
+inline constexpr char kSaveForControls[] = "The project must be saved before Tavlets can be added to a form.";
+
 inline constexpr char kNoDevicesTitle[] = "No devices selected";
 inline constexpr char kNoDevices[] = "To continue with this option, you must first select which devices will be used. "
                                      "Continue and select devices?";

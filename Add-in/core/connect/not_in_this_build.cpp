@@ -3,11 +3,6 @@
 
 namespace fernwick {
 
-UnknownDeviceChoice NotInThisBuild::AskAboutUnknownDevice(const Project&) {
-    notInThisBuild();
-    return {true, {}};
-}
-
 void NotInThisBuild::notInThisBuild() {
     if (addIn_.gConnectMode == vbide::vbext_cm_CommandLine) return;
     user_.SetCursor(vbArrow); // commands that open a dialog wait for it with an hourglass

@@ -20,11 +20,6 @@ public:
     void InitZoomWindow() override {}
     void SaveZoomWindowState() override {}
     void SetZoomForm(const basic::Ref<vbide::VBComponent>&) override {}
-    void ShowProjectManager() override { notInThisBuild(); }
-    void ShowProjectManagerOnDelay() override { notInThisBuild(); }
-    void AddProjectToRecentList(const Project&) override {}
-    /// Keeps the project open, because this build has no converter to offer.
-    UnknownDeviceChoice AskAboutUnknownDevice(const Project&) override;
     void notInThisBuild() override;
 
 private:

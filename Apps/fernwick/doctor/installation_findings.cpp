@@ -23,6 +23,7 @@ constexpr const char* kInstalledFolders[] = {
 };
 constexpr const char* kInstalledFiles[] = {
     "Template/Projects/Fernwick Project.vbp",
+    "Template/Projects/Fernwick.vbp",
     "VB Toolkit/Bin/QLCOMPILE.AVI",
     "VB Toolkit/Bin/QLDEFAULT.ico",
     "VB Toolkit/Bin/QLUPLOAD.AVI",

@@ -20,6 +20,9 @@ constexpr int kRepeatsToEnd = 4;
 /// Asks nothing, so it is closed without being activated.
 constexpr std::string_view kIntroduction = "frmGettingStarted";
 
+/// A project of an unknown device is opened; the commands that need the device refuse it.
+constexpr std::string_view kUnknownDevice = "frmDesignTargetConverterWarning";
+
 std::string oneLine(std::string text) {
     std::string line;
     for (const char c : text) {
@@ -59,6 +62,7 @@ Reply offered(Reply reply, int buttonSet) {
 
 void CommandLineUser::showModal(Form& form) {
     if (form.typeName() == kIntroduction) return cancelButton(form)->press();
+    if (form.typeName() == kUnknownDevice) return button(form, "cmdOpenProject")->press();
     auto* bar = firstControl<fernwick::ProgressBar>(form);
     auto* status = firstControl<fernwick::StatusBar>(form);
     const auto redraw = [this, bar, status] {

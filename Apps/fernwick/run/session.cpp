@@ -11,6 +11,7 @@
 #include "Apps/fernwick/output/plural.h"
 #include "Apps/fernwick/run/step_processes.h"
 #include "Host/files/path_lookup.h"
+#include "Host/model/code/component_kind.h"
 #include "Host/model/project.h"
 #include <fmt/format.h>
 #include <unordered_set>
@@ -58,6 +59,8 @@ void Session::open(const std::string& path) {
         throw Refusal(kWrongUse, fmt::format("{}: is a folder; name the project file in it", path));
     if (apps::hasExtension(path_, ".vbg"))
         throw Refusal(kWrongUse, fmt::format("{}: is a project group; name one of its projects", path));
+    if (host::memberKindOfFile(path_))
+        throw Refusal(kWrongUse, fmt::format("{}: is a source file; name the project that contains it", path));
     if (!options_.output.empty()) files_->redirect(files_->GetParentFolderName(path_), options_.output);
     const auto err = basic::attempt([&] { project_ = host_->VBProjects()->AddFromFile(path_); });
     if (err.Number != 0) throw Refusal(statusOfOpening(err.Number), withFile(path_, err.Description));

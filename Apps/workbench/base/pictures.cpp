@@ -16,10 +16,9 @@ struct Picture {
 };
 
 constexpr std::array kPictures{
-    Picture{"finished", QStyle::SP_DialogApplyButton},
-    Picture{"failed", QStyle::SP_MessageBoxCritical},
-    Picture{"question", QStyle::SP_MessageBoxQuestion},
-    Picture{"devices", QStyle::SP_ComputerIcon},
+    Picture{"finished", QStyle::SP_DialogApplyButton},  Picture{"failed", QStyle::SP_MessageBoxCritical},
+    Picture{"question", QStyle::SP_MessageBoxQuestion}, Picture{"devices", QStyle::SP_ComputerIcon},
+    Picture{"projects", QStyle::SP_DirOpenIcon},
 };
 
 using Colour = QVector3D;

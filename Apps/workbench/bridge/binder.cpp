@@ -1,6 +1,7 @@
 #include "Apps/workbench/bridge/binder.h"
 #include "Apps/workbench/base/pictures.h"
 #include "Apps/workbench/base/text.h"
+#include "Apps/workbench/bridge/grid_binding.h"
 #include "Apps/workbench/bridge/moving_picture.h"
 #include <QCheckBox>
 #include <QEvent>
@@ -145,10 +146,16 @@ bool tryBind(Control& control, QWidget& widget, Binding& binding) {
 
 /// One row for each kind of control.
 constexpr std::array kKinds{
-    &tryBind<CommandButton, QPushButton, bindButton>,  &tryBind<CheckBox, QCheckBox, bindCheckBox>,
-    &tryBind<fernwick::Label, QLabel, bindLabel>,      &tryBind<ProgressBar, QProgressBar, bindProgressBar>,
-    &tryBind<StatusBar, QLabel, bindStatusBar>,        &tryBind<PictureBox, QLabel, bindPicture>,
-    &tryBind<Animation, MovingPicture, bindAnimation>, &tryBind<ListBox, QListWidget, bindListBox>,
+    &tryBind<CommandButton, QPushButton, bindButton>,
+    &tryBind<CheckBox, QCheckBox, bindCheckBox>,
+    &tryBind<fernwick::Label, QLabel, bindLabel>,
+    &tryBind<ProgressBar, QProgressBar, bindProgressBar>,
+    &tryBind<StatusBar, QLabel, bindStatusBar>,
+    &tryBind<PictureBox, QLabel, bindPicture>,
+    &tryBind<Animation, MovingPicture, bindAnimation>,
+    &tryBind<ListBox, QListWidget, bindListBox>,
+    &tryBind<Grid, QTreeWidget, bindGrid>,
+    &tryBind<TabStrip, QTabBar, bindTabStrip>,
 };
 
 } // namespace

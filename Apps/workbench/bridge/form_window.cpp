@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QTabBar>
 #include <QTimer>
 #include <QUiLoader>
 #include <QVBoxLayout>
@@ -19,8 +20,10 @@ namespace {
 
 class FormLoader final : public QUiLoader {
     QWidget* createWidget(const QString& className, QWidget* parent, const QString& name) override {
-        if (className != "MovingPicture") return QUiLoader::createWidget(className, parent, name);
-        auto widget = std::make_unique<MovingPicture>(parent);
+        std::unique_ptr<QWidget> widget;
+        if (className == "MovingPicture") widget = std::make_unique<MovingPicture>(parent);
+        if (className == "QTabBar") widget = std::make_unique<QTabBar>(parent);
+        if (!widget) return QUiLoader::createWidget(className, parent, name);
         widget->setObjectName(name);
         return widget.release(); // owned by the parent
     }
@@ -57,7 +60,9 @@ void FormWindow::bindForm() {
     });
     binding_.keep(form_.Refreshed.connect([this] { repaint(); }));
     binding_.keep(form_.Visible.watch([this](bool visible) {
-        if (!visible) loop_.quit();
+        if (visible) return;
+        hide(); // at once, as its handler may now show another form or open a project
+        loop_.quit();
     }));
 }
 
@@ -98,6 +103,7 @@ void FormWindow::endWith(std::exception_ptr error) {
 
 void FormWindow::closeEvent(QCloseEvent* event) {
     event->ignore(); // the form decides
+    if (form_.ControlBox && form_.CloseBoxCancels) return reject();
     if (form_.ControlBox) binding_.act([this] { form_.Unload(); });
 }
 

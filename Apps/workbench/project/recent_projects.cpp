@@ -25,9 +25,9 @@ RecentProjects::RecentProjects(host::Host& host, std::shared_ptr<host::Bar> menu
         if (!group.empty()) members_.insert(path);
         if (!host.isTemplate(path)) remember(group.empty() ? path : group);
     }));
-    watches_.push_back(events->ItemRemoved.connect([this](auto project) {
+    watches_.push_back(events->ItemRemoved.connect([this, &host](auto project) {
         const auto path = project->FileName(); // it may have been saved in the meantime
-        if (members_.erase(path) == 0) remember(path);
+        if (members_.erase(path) == 0 && !host.isTemplate(path)) remember(path);
     }));
     fill();
 }

@@ -10,8 +10,7 @@ using Items = fernwick::CommandItems;
 constexpr auto kNotYet = "This version of Fernwick does not have this command yet.";
 
 constexpr Items::Item Items::*kSettings[] = {&Items::gSettingsItem, &Items::gToolSettings};
-constexpr Items::Item Items::*kFeatures[] = {&Items::gOpenProjectItem, &Items::gToolOpenProject, &Items::gZoomItem,
-                                             &Items::gToolZoom};
+constexpr Items::Item Items::*kFeatures[] = {&Items::gZoomItem, &Items::gToolZoom};
 
 template <std::size_t Count>
 bool isOneOf(const Items& items, Items::Item Items::*const (&some)[Count], const office::CommandBarControl& control) {

@@ -78,6 +78,7 @@ host::HostOptions Workbench::hostOptions() {
         showHandlerError(error, fernwick::errorSource(error.Source, machine_.platform().app), window_.get());
     };
     options.mayReplaceChanged = mayReplaceChanged;
+    options.mayReplaceProjects = [this] { return mayClose(); };
     options.askForProject = [this] { return askForProjectFile(window_.get()); };
     return options;
 }

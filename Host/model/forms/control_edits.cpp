@@ -126,7 +126,6 @@ void restoreControl(const basic::Ref<vbide::VBForm>& form, const RemovedControl&
     removed.container->restoreObject(removed.block, removed.place);
     state->controlsChanged();
     state->raiseChanged();
-    if (state->hooks.controlAdded) state->hooks.controlAdded(state->controlOf(*removed.block));
 }
 
 } // namespace host

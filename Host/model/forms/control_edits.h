@@ -35,7 +35,8 @@ basic::Ref<vbide::VBControl> addControl(const basic::Ref<vbide::VBForm>& form,
 PixelSize describedSize(const basic::Ref<vbide::VBForm>& form, const basic::Ref<vbide::VBControl>& control);
 /// As VBControls.Remove.
 RemovedControl removeControl(const basic::Ref<vbide::VBForm>& form, const basic::Ref<vbide::VBControl>& control);
-/// Restores a control at its former position and raises ItemAdded. Error 440 if its container has been removed.
+/// Restores a control at its former position. Raises no ItemAdded, so that an add-in leaves the control as it was. Error
+/// 440 if its container has been removed.
 void restoreControl(const basic::Ref<vbide::VBForm>& form, const RemovedControl& removed);
 
 } // namespace host

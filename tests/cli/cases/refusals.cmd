@@ -15,6 +15,7 @@ run fernwick check binary.vbp
 rm binary.vbp
 sample HelloWorld
 cd HelloWorld
+run fernwick info frmHello.frm
 say not a Fernwick project
 sed -i '/^\[Quinloft Global\]/,$d' HelloWorld.vbp
 cp HelloWorld.vbp before

@@ -1,4 +1,5 @@
 // Draws the pictures of the introduction. Usage: introduction_pictures FOLDER
+#include "Apps/workbench/base/application_name.h"
 #include "Apps/workbench/base/theme.h"
 #include "tests/workbench/introduction_pictures/pictures.h"
 #include "tests/workbench/introduction_pictures/stage.h"
@@ -39,8 +40,7 @@ int main(int argc, char** argv) {
     qputenv("QT_SCALE_FACTOR", "2");
     qputenv("QT_LOGGING_RULES", "qt.qpa.*=false");
     QApplication app(argc, argv);
-    QApplication::setOrganizationName("fernwick");
-    QApplication::setApplicationName("introduction-pictures");
+    workbench::nameApplication("introduction-pictures");
     workbench::apply(workbench::Theme::Light);
     return draw(argv[1]) ? 0 : 1;
 }

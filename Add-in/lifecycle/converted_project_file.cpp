@@ -1,0 +1,76 @@
+#include "Add-in/lifecycle/converted_project_file.h"
+#include "Basic/runtime_error.h"
+
+namespace fernwick {
+
+namespace {
+
+constexpr std::string_view kGlobal = "[Quinloft Global]", kDevice = "TargetDevice=", kCompileTarget = "CompileTarget",
+                           kStyle = "TavletStyleID=";
+constexpr const char* kRewritten = ".converting";
+
+/// Follows the lines of a project file into its global section and out of it.
+class GlobalSection {
+public:
+    /// Whether this line is a key of the section.
+    bool holds(std::string_view line) {
+        const bool isHeader = line.starts_with('[') && line.ends_with(']');
+        if (!inside_)
+            inside_ = line == kGlobal;
+        else if (!isHeader)
+            return true;
+        else
+            inside_ = false;
+        return false;
+    }
+
+private:
+    bool inside_ = false;
+};
+
+std::string rewritten(const std::string& line, const designtargetaccess::IQLDesignTarget& target) {
+    if (line.starts_with(kDevice)) return std::string(kDevice) + target.Key();
+    if (line.starts_with(kStyle)) return std::string(kStyle) + target.TavletStyleID();
+    if (line.starts_with(kCompileTarget)) return line.substr(0, line.find('=') + 1) + target.Key();
+    return line;
+}
+
+} // namespace
+
+void fixConvertedVBP(FileSystemObject& files, const std::string& projectFile,
+                     const designtargetaccess::IQLDesignTarget& target) {
+    const auto from = files.OpenTextFile(projectFile);
+    const auto to = files.CreateTextFile(projectFile + kRewritten, true);
+    GlobalSection global;
+    while (!from->AtEndOfStream()) {
+        const auto line = from->ReadLine();
+        to->WriteLine(global.holds(line) ? rewritten(line, target) : line);
+    }
+    from->Close();
+    to->Close();
+}
+
+void convertProjectFile(FileSystemObject& files, const std::string& projectFile,
+                        const designtargetaccess::IQLDesignTarget& target) {
+    const auto newText = projectFile + kRewritten;
+    try {
+        fixConvertedVBP(files, projectFile, target);
+        files.MoveFile(newText, projectFile);
+    } catch (const basic::RuntimeError&) {
+        (void)basic::attempt([&] { files.DeleteFile(newText, true); });
+        throw;
+    }
+}
+
+std::string storedInProjectFile(FileSystemObject& files, const std::string& projectFile, std::string_view key) {
+    const auto file = files.OpenTextFile(projectFile);
+    GlobalSection global;
+    while (!file->AtEndOfStream()) {
+        const auto line = file->ReadLine();
+        if (global.holds(line) && line.starts_with(key) && line.substr(key.size()).starts_with('='))
+            return line.substr(key.size() + 1);
+    }
+    return {};
+}
+
+} // namespace fernwick

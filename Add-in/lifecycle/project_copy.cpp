@@ -1,0 +1,81 @@
+#include "Add-in/lifecycle/project_copy.h"
+#include "Add-in/core/modFileManagement.h"
+#include "Add-in/lifecycle/project_files.h"
+#include "Basic/runtime_error.h"
+#include <algorithm>
+
+namespace fernwick {
+
+void MakeDirectory(FileSystemObject& files, const std::string& path) {
+    if (path.empty() || files.FolderExists(path)) return;
+    MakeDirectory(files, files.GetParentFolderName(path));
+    files.CreateFolder(path);
+}
+
+/// The places that the copied project file names are taken first, so that no file beside the project gets into their
+/// way.
+ProjectCopy::ProjectCopy(FileSystemObject& files, const basic::Ref<vbide::VBProject>& project,
+                         const std::string& newProjectFile)
+    : files_(files),
+      oldFolder_(files.GetParentFolderName(project->FileName())),
+      newFolder_(files.GetParentFolderName(newProjectFile)) {
+    const auto found = filesOfProject(files, project);
+    plan(projectFile_, project->FileName(), newProjectFile);
+    for (const auto& path : found.components)
+        if (std::find(found.absoluteComponents.begin(), found.absoluteComponents.end(), path) ==
+            found.absoluteComponents.end())
+            planRelative(components_, GetRelativePath(files, files.WithSeparator(oldFolder_), path));
+    for (const auto& path : found.dependencies) planRelative(dependencies_, path);
+    for (const auto& path : found.icons) planRelative(icons_, path);
+    planBeside(found.components);
+}
+
+void ProjectCopy::planRelative(Plan& to, const std::string& relative) {
+    if (relative.empty() || files_.IsAbsolute(relative)) return;
+    plan(to, files_.BuildPath(oldFolder_, relative), files_.BuildPath(newFolder_, relative));
+}
+
+void ProjectCopy::planBeside(const Paths& paths) {
+    for (const auto& path : paths) plan(components_, path, files_.BuildPath(newFolder_, files_.GetFileName(path)));
+}
+
+/// A place that is taken already is left to its file.
+void ProjectCopy::plan(Plan& to, const std::string& from, const std::string& place) {
+    if (taken_.insert(files_.GetAbsolutePathName(place)).second) to.push_back({from, place});
+}
+
+ProjectCopy::Paths ProjectCopy::placesThat(const std::function<bool(const Planned&)>& fits) const {
+    Paths places;
+    for (const auto* part : {&components_, &projectFile_, &dependencies_, &icons_})
+        for (const auto& copy : *part)
+            if (files_.FileExists(copy.from) && !files_.SameFile(copy.from, copy.to) && fits(copy))
+                places.push_back(files_.GetAbsolutePathName(copy.to));
+    return places;
+}
+
+ProjectCopy::Paths ProjectCopy::replacedFiles() const {
+    return placesThat([this](const Planned& copy) { return files_.FileExists(copy.to); });
+}
+
+ProjectCopy::Paths ProjectCopy::filesOutside() const {
+    return placesThat([this](const Planned& copy) {
+        return PathBelow(files_, newFolder_, files_.GetAbsolutePathName(copy.to)).empty();
+    });
+}
+
+bool ProjectCopy::copyAll(const Plan& plan) const {
+    bool all = true;
+    for (const auto& copy : plan) all = copied(copy) && all;
+    return all;
+}
+
+bool ProjectCopy::copied(const Planned& copy) const {
+    return basic::attempt([&] {
+               if (files_.SameFile(copy.from, copy.to)) return;
+               MakeDirectory(files_, files_.GetAbsolutePathName(files_.GetParentFolderName(copy.to)));
+               files_.CopyFile(copy.from, copy.to, true);
+               files_.MakeWritable(copy.to);
+           }).Number == 0;
+}
+
+} // namespace fernwick

@@ -1,0 +1,55 @@
+#pragma once
+// A copy of a project's files in another folder.
+#include "Add-in/platform/files.h"
+#include "Add-in/platform/host_project.h"
+#include <functional>
+#include <set>
+
+namespace fernwick {
+
+/// Creates a folder and every folder above it that is missing. Errors go to the caller.
+void MakeDirectory(FileSystemObject& files, const std::string& path);
+
+/// Plans a copy when it is constructed, and carries it out step by step. Each file keeps its place relative to the
+/// project file, where the copied project file finds it; components are put beside the project file, too. A file whose
+/// place in the copy is the file itself is left alone. Copies can be written by their owner.
+class ProjectCopy {
+public:
+    /// Errors go to the caller.
+    ProjectCopy(FileSystemObject& files, const basic::Ref<vbide::VBProject>& project,
+                const std::string& newProjectFile);
+
+    /// Existing files that the copy would replace.
+    std::vector<std::string> replacedFiles() const;
+    /// Files that the copy would write outside of its folder.
+    std::vector<std::string> filesOutside() const;
+
+    // Each of these returns False if a file was not copied, and continues with the next file.
+    bool copyComponents() const { return copyAll(components_); }
+    bool copyProjectFile() const { return copyAll(projectFile_); }
+    bool copyFileDependencies() const { return copyAll(dependencies_); }
+    /// The icon and the resource file; a missing one is no failure.
+    void copyIcons() const { (void)copyAll(icons_); }
+
+private:
+    struct Planned {
+        std::string from, to;
+    };
+    using Plan = std::vector<Planned>;
+
+    using Paths = std::vector<std::string>;
+
+    void planRelative(Plan& to, const std::string& relative);
+    void planBeside(const Paths& paths);
+    void plan(Plan& to, const std::string& from, const std::string& place);
+    Paths placesThat(const std::function<bool(const Planned&)>& fits) const;
+    bool copyAll(const Plan& plan) const;
+    bool copied(const Planned& copy) const;
+
+    FileSystemObject& files_;
+    std::string oldFolder_, newFolder_;
+    Plan components_, projectFile_, dependencies_, icons_;
+    std::set<std::string> taken_; ///< the places of all planned files
+};
+
+} // namespace fernwick
