@@ -1,7 +1,7 @@
 #include "Apps/common/version.h"
 #include "Apps/workbench/base/application_name.h"
 #include "Apps/workbench/base/display_guard.h"
-#include "Apps/workbench/base/letter_icons.h"
+#include "Apps/workbench/base/drawn_icons.h"
 #include "Apps/workbench/window/workbench.h"
 #include <QApplication>
 #include <QCommandLineParser>
@@ -17,7 +17,7 @@ int main(int argc, char** argv) {
     workbench::nameApplication();
     QApplication::setApplicationVersion(apps::kVersion);
     QApplication::setDesktopFileName("fernwick-workbench");
-    QApplication::setWindowIcon(QIcon::fromTheme("fernwick-workbench", workbench::projectIcon()));
+    QApplication::setWindowIcon(QIcon::fromTheme("fernwick-workbench", workbench::drawnIcon("Project")));
 
     QCommandLineParser options;
     options.setApplicationDescription("Turns Visual Basic 6 projects into applications for handhelds.");

@@ -12,7 +12,7 @@ struct JournalEntry {
     std::string project;   ///< the native path of the project's file; its name, or "", if it was never saved
     std::string component; ///< its name; "" for the text of the project's own file
     int type = 0;          ///< a vbext_ComponentType; 0 for the project's own file
-    std::string file;      ///< the native path of the component's file; "" if it was never saved
+    std::string file;      ///< the native path of the file that the text belongs to; "" if it was never saved
     /// The file that the text was based on, as it was read. A new component has none.
     std::optional<FileStamp> base;
     std::int64_t written = 0; ///< when, in seconds since 1970, UTC

@@ -1,4 +1,5 @@
 #include "Host/model/components.h"
+#include "Basic/case_folding.h"
 #include "Host/files/path_lookup.h"
 #include "Host/model/code/component_kind.h"
 #include "Host/model/code/loaded_source.h"
@@ -8,6 +9,7 @@
 #include "Host/model/host.h"
 #include "Host/model/project.h"
 #include <algorithm>
+#include <utility>
 
 namespace host {
 namespace {
@@ -88,7 +90,9 @@ vbide::Ref<vbide::VBComponent> Components::addNew(const std::shared_ptr<Componen
     const auto inFront = host->SelectedVBComponent();
     project->changed();
     if (component->hasDesigner()) component->DesignerWindow()->Visible(true);
+    const auto outer = std::exchange(announced_, component);
     host->raise(project->componentsEvents->ItemAdded, component);
+    announced_ = outer;
     const bool present = std::find(list_.begin(), list_.end(), component) != list_.end();
     const auto now = host->SelectedVBComponent();
     if (present && (!now || now == inFront)) component->Activate();
@@ -114,8 +118,19 @@ vbide::Ref<vbide::VBComponent> Components::AddFile(const std::string& path) {
 
 vbide::Ref<vbide::VBComponent> Components::addTemplate(const std::shared_ptr<Component>& component) {
     component->becomeNew();
+    takeNameOfAnnounced(*component);
     if (named(component->Name())) component->rename(freeName(withoutNumber(component->Name())));
     return addNew(component);
+}
+
+/// An add-in replaces a new component by a template from within its event. The template gets its name, such as Class1.
+void Components::takeNameOfAnnounced(Component& component) {
+    if (!announced_ || announced_->Type() != component.Type()) return;
+    const auto name = announced_->Name();
+    if (named(name) != announced_ || !basic::equalNoCase(withoutNumber(name), withoutNumber(component.Name()))) return;
+    announced_->rename(freeName(withoutNumber(name)));
+    renamed(*announced_, name);
+    component.rename(name);
 }
 
 std::shared_ptr<Component> Components::addSource(vbide::vbext_ComponentType type, const std::string& name,

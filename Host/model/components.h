@@ -41,7 +41,11 @@ private:
     vbide::Ref<vbide::VBComponent> addTemplate(const std::shared_ptr<Component>& component);
     vbide::Ref<vbide::VBComponent> addNew(const std::shared_ptr<Component>& component);
 
+    void takeNameOfAnnounced(Component& component);
+
     Project* project_;
+    /// The new component whose ItemAdded is being raised.
+    std::shared_ptr<Component> announced_;
     std::vector<std::shared_ptr<Component>> list_;
     std::unordered_map<std::string, std::shared_ptr<Component>, basic::NoCaseHash, basic::NoCaseEqual> byName_;
 };

@@ -53,6 +53,8 @@ public:
     /// True for a file (native, absolute path) below a folder of templates.
     bool isTemplate(const std::string& path) const;
     PaneEvents panes;
+    /// The text of a project's own file was edited, or components without a file were added or removed.
+    fernwick::Event<vbide::Ref<vbide::VBProject>> projectEdited;
     Bars& bars() { return *bars_; }
     ToolWindows& toolWindows() { return *windows_; }
 

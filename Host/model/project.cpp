@@ -44,7 +44,7 @@ void Project::Name(const std::string& name) {
         if (other != vbide::Ref<vbide::VBProject>(shared_from_this()) && basic::equalNoCase(other->Name(), name))
             throwNameTaken(name);
     file_->setSetting("Name", name);
-    dirty_.edited();
+    edited();
     host->raise(host->projectsEvents().ItemRenamed, shared_from_this(), oldName);
 }
 
@@ -65,6 +65,21 @@ void Project::IsDirty(bool dirty) {
 
 bool Project::Saved() const { return !IsDirty(); }
 
+void Project::changed() {
+    dirty_.set(true);
+    raiseEdited();
+}
+
+void Project::edited() {
+    dirty_.edited();
+    raiseEdited();
+}
+
+void Project::raiseEdited() {
+    const auto host = this->host();
+    host->raise(host->projectEdited, shared_from_this());
+}
+
 std::string Project::ReadProperty(const std::string& section, const std::string& key) const {
     host();
     return file_->readProperty(section, key);
@@ -72,7 +87,7 @@ std::string Project::ReadProperty(const std::string& section, const std::string&
 
 void Project::WriteProperty(const std::string& section, const std::string& key, const std::string& value) {
     host();
-    if (file_->writeProperty(section, key, value)) dirty_.edited();
+    if (file_->writeProperty(section, key, value)) edited();
 }
 
 void Project::AddToolboxProgID(const std::string& progId) {

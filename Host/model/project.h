@@ -46,8 +46,8 @@ public:
     std::shared_ptr<Host> host() const;
     /// Reads the files of the project and its components. Errors: as readFile; 321 not a project file.
     void load();
-    /// Reads a new project from this text.
-    void loadText(const std::string& text);
+    /// Reads the project from this text, which is not saved. `asRead` is the stamp of the file that it is based on.
+    void loadText(const std::string& text, const std::optional<FileStamp>& asRead = {});
     /// Detaches the project and its components from their files, after loading them from a template.
     void becomeNew();
     const std::vector<LoadProblem>& loadProblems() const { return problems_; }
@@ -58,7 +58,7 @@ public:
     const Components& components() const { return *components_; }
     ProjectReferences& references() { return *references_; }
     /// Marks the project as dirty: a component without a file changes nothing in its text.
-    void changed() { dirty_.set(true); }
+    void changed();
     /// The stamp of the file when it was last read or saved.
     const std::optional<FileStamp>& stamp() const { return stamp_; }
     /// "" for a project without a file.
@@ -90,6 +90,9 @@ public:
     const vbide::Ref<vbide::FileControlEvents> fileEvents = basic::make<vbide::FileControlEvents>();
 
 private:
+    void edited();
+    void raiseEdited();
+    void readText(const std::string& text);
     void loadMembers();
     void loadMember(const ProjectFile::Member& member, PathLookup& lookup, std::unordered_set<std::string>& seen);
     void problem(const std::string& file, std::size_t line, std::string text);

@@ -10,15 +10,24 @@
 namespace host {
 
 void Project::load() {
-    auto content = readFile(path_);
-    const auto page = codePageOfProject(content.bytes, folder(), host()->options().codePage);
-    auto file = std::make_unique<ProjectFile>(content.bytes, basic::codePageOfFile(content.bytes, page.page));
-    if (!file->looksLikeProject())
+    const auto content = readFile(path_);
+    readText(content.bytes);
+    if (!file_->looksLikeProject())
         throw hostError(kInvalidFileFormat, fmt::format("{}: is not a Visual Basic project file", path_));
-    file_ = std::move(file);
-    codePage_ = page;
     stamp_ = content.stamp;
     loadMembers();
+}
+
+void Project::loadText(const std::string& text, const std::optional<FileStamp>& asRead) {
+    readText(text);
+    stamp_ = asRead;
+    loadMembers();
+    dirty_.set(true);
+}
+
+void Project::readText(const std::string& text) {
+    codePage_ = codePageOfProject(text, folder(), host()->options().codePage);
+    file_ = std::make_unique<ProjectFile>(text, basic::codePageOfFile(text, codePage_.page));
 }
 
 void Project::codePage(std::optional<int> page) {
@@ -28,19 +37,12 @@ void Project::codePage(std::optional<int> page) {
         file_->setSetting(kCodePageKey, std::to_string(*page));
     else
         file_->removeSetting(kCodePageKey);
-    dirty_.set(true);
+    changed();
     const auto bytes = file_->bytes();
     codePage_ = codePageOfProject(bytes, folder(), host->options().codePage);
     file_->codePage(basic::codePageOfFile(bytes, codePage_.page));
     const auto components = components_->list(); // handlers may remove components
     for (const auto& component : components) (void)basic::attempt([&] { component->decodeAgain(); });
-}
-
-void Project::loadText(const std::string& text) {
-    codePage_ = codePageOfProject(text, folder(), host()->options().codePage);
-    file_ = std::make_unique<ProjectFile>(text, codePage_.page);
-    loadMembers();
-    dirty_.set(true);
 }
 
 void Project::loadMembers() {

@@ -98,7 +98,7 @@ void Project::writeMember(Component& component) {
         file_->setMember(*component.member(), name, value);
     else
         component.member(file_->addMember(kind, name, value));
-    dirty_.edited();
+    edited();
 }
 
 void Project::dropMember(Component& component) {

@@ -59,7 +59,9 @@ bool Projects::makeRoomFor(const std::string& path) {
 
 /// Opens a single component in a new project.
 vbide::Ref<vbide::VBProject> Projects::openComponent(const std::string& path) {
-    return addRestored(newProjectText(freeName()), [&](Project& project) { project.components().AddFile(path); });
+    JournalEntry project;
+    project.bytes = newProjectText(freeName());
+    return addRestored(project, [&](Project& added) { added.components().AddFile(path); });
 }
 
 vbide::Ref<vbide::VBProject> Projects::openGroup(const std::string& path, const std::string& bytes) {
@@ -84,14 +86,24 @@ vbide::Ref<vbide::VBProject> Projects::openGroup(const std::string& path, const 
 }
 
 std::shared_ptr<Project> Projects::open(const std::string& path) {
-    const auto host = this->host();
+    requireNotOpen(path);
+    auto project = beginLoading(path);
+    project->load();
+    add(project);
+    return project;
+}
+
+void Projects::requireNotOpen(const std::string& path) const {
     for (const auto& project : list_)
         if (project->FileName() == path)
             throw hostError(basic::kFileAlreadyOpen, fmt::format("{}: is already open", path));
+}
+
+/// Creates the object for a project whose file is about to be read.
+std::shared_ptr<Project> Projects::beginLoading(const std::string& path) {
+    const auto host = this->host();
     auto project = std::make_shared<Project>(host, path);
     host->raiseFile(&vbide::FileControlEvents::BeforeLoadFile, *project, std::vector<std::string>{path});
-    project->load();
-    add(project);
     return project;
 }
 
@@ -100,8 +112,7 @@ vbide::Ref<vbide::VBProject> Projects::AddFromTemplate(const std::string& path, 
     const auto native = absolutePath(path);
     if (exclusive && !makeRoomFor(native)) return nullptr;
     host->problems().clear();
-    auto project = std::make_shared<Project>(host, native);
-    host->raiseFile(&vbide::FileControlEvents::BeforeLoadFile, *project, std::vector<std::string>{native});
+    const auto project = beginLoading(native);
     project->load();
     if (isNameTaken(project->Name())) project->file().setSetting("Name", freeName());
     // Handlers see the path of the template; afterwards the project has no file.
@@ -121,11 +132,15 @@ vbide::Ref<vbide::VBProject> Projects::addNew() {
     return project;
 }
 
-vbide::Ref<vbide::VBProject> Projects::addRestored(const std::string& text, const std::function<void(Project&)>& fill) {
+vbide::Ref<vbide::VBProject> Projects::addRestored(const JournalEntry& entry,
+                                                   const std::function<void(Project&)>& fill) {
     const auto host = this->host();
-    const auto project = std::make_shared<Project>(host, std::string());
-    project->loadText(text);
-    if (isNameTaken(project->Name())) project->file().setSetting("Name", freeName());
+    const bool wasSaved = !entry.file.empty();
+    if (wasSaved) requireNotOpen(entry.file);
+    host->problems().clear();
+    const auto project = wasSaved ? beginLoading(entry.file) : std::make_shared<Project>(host, std::string());
+    project->loadText(entry.bytes, entry.base);
+    if (!wasSaved && isNameTaken(project->Name())) project->file().setSetting("Name", freeName());
     fill(*project);
     add(project);
     host->activate(project);

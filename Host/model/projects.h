@@ -1,6 +1,7 @@
 #pragma once
 // The open projects.
 #include "Add-in/platform/host.h"
+#include "Host/files/journal_file.h"
 #include <functional>
 #include <memory>
 #include <string>
@@ -25,9 +26,9 @@ public:
     // ---- for the host ----
     /// Adds a new project with an empty form, like the menu command.
     vbide::Ref<vbide::VBProject> addNew();
-    /// Adds a project that was never saved, from the text of its file. `fill` adds its components before any handler
-    /// sees the project.
-    vbide::Ref<vbide::VBProject> addRestored(const std::string& text, const std::function<void(Project&)>& fill);
+    /// Adds a project from its unsaved text. `fill` restores its components before any handler sees the project.
+    /// Error 55 if a project with its file is open.
+    vbide::Ref<vbide::VBProject> addRestored(const JournalEntry& entry, const std::function<void(Project&)>& fill);
     /// The group whose projects are being opened; "" for none.
     const std::string& openingGroup() const { return openingGroup_; }
     void removeAll();
@@ -38,6 +39,8 @@ public:
 private:
     std::shared_ptr<Host> host() const;
     std::shared_ptr<Project> open(const std::string& path);
+    void requireNotOpen(const std::string& path) const;
+    std::shared_ptr<Project> beginLoading(const std::string& path);
     bool makeRoomFor(const std::string& path);
     vbide::Ref<vbide::VBProject> openComponent(const std::string& path);
     vbide::Ref<vbide::VBProject> openGroup(const std::string& path, const std::string& bytes);

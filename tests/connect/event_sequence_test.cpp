@@ -261,10 +261,10 @@ TEST_F(EventSequence, AComponentMayBeAddedWhileItsProjectIsAdded) {
         host.folder.write("Template/Modules/Ours.bas", test::moduleText("Module1", "' ours\r\n"));
     loop.Post([this] { active()->VBComponents()->Add(vbide::vbext_ct_StdModule); });
     host.open(named("A"));
-    EXPECT_THAT(tape.lines, ElementsAre("load A.vbp", "added A", " Module1 added", " load Ours.bas", " Module2 added",
-                                        " Module2 activated", " Module1 removed"));
+    EXPECT_THAT(tape.lines, ElementsAre("load A.vbp", "added A", " Module1 added", " load Ours.bas", " Module1 added",
+                                        " Module1 activated", " Module2 removed"));
     loop.turn();
-    EXPECT_THAT(componentNames(), ElementsAre("Module9", "Module2"));
+    EXPECT_THAT(componentNames(), ElementsAre("Module9", "Module1"));
 }
 
 TEST_F(EventSequence, ARemovalRequestedWhileAProjectIsAddedWaitsForTheTimer) {
@@ -452,8 +452,8 @@ TEST_F(NewComponents, AreTheTargetsTemplates) {
     add(vbide::vbext_ct_StdModule);
     add(vbide::vbext_ct_ClassModule);
     add(vbide::vbext_ct_ClassModule);
-    EXPECT_THAT(componentNames(), ElementsAre("Module9", "Module2", "clsOurs", "clsOurs1"));
-    const auto module = active()->VBComponents()->Item("Module2");
+    EXPECT_THAT(componentNames(), ElementsAre("Module9", "Module1", "clsOurs", "clsOurs1"));
+    const auto module = active()->VBComponents()->Item("Module1");
     EXPECT_EQ(module->FileNames(1), "");
     EXPECT_EQ(module->CodeModule()->Lines(1, 1), "' ours");
     EXPECT_EQ(host.ide->SelectedVBComponent()->Name(), "clsOurs1");
@@ -494,7 +494,8 @@ TEST_F(NewComponents, OfTheActivatedProjectAreServed) {
     EXPECT_THAT(componentNames(), ElementsAre("Module9", "Module1"));
     host.ide->ActiveVBProject(a);
     add(vbide::vbext_ct_StdModule);
-    EXPECT_THAT(componentNames(), ElementsAre("Module9", "Module2"));
+    EXPECT_THAT(componentNames(), ElementsAre("Module9", "Module1"));
+    EXPECT_EQ(active()->VBComponents()->Item("Module1")->CodeModule()->Lines(1, 1), "' ours");
 }
 
 // ---- controls

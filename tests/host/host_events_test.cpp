@@ -316,14 +316,18 @@ TEST(HostEvents, ClosingAllActivatesNone) {
 
 TEST(HostEvents, AComponentActivatedByAHandlerStaysActive) {
     TestHost host;
-    const auto template_ = host.folder.write("Template/Modules/Template.bas", test::moduleText("Module1"));
+    const auto template_ =
+        host.folder.write("Template/Modules/Template.bas", test::moduleText("Module1", "' ours\r\n"));
     const auto project = host.open(SampleProject());
     bool replaced = false;
     const auto added = host.ide->Events()->VBComponentsEvents(project)->ItemAdded.connect([&](Ref<vbide::VBComponent>) {
         if (!std::exchange(replaced, true)) project->VBComponents()->AddFile(template_);
     });
     project->VBComponents()->Add(vbide::vbext_ct_StdModule);
-    EXPECT_EQ(host.ide->SelectedVBComponent()->Name(), "Module2");
+    // it has the name of the one that it replaces
+    EXPECT_EQ(host.ide->SelectedVBComponent()->Name(), "Module1");
+    EXPECT_EQ(host.ide->SelectedVBComponent()->CodeModule()->Lines(1, 1), "' ours");
+    EXPECT_EQ(project->VBComponents()->Item("Module2")->CodeModule()->CountOfLines(), 0);
 }
 
 TEST(HostEvents, ARenamedProjectReportsItsOldName) {

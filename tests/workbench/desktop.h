@@ -17,13 +17,15 @@ protected:
         component(name)->CodeModule()->CodePane()->Show();
         return *window().code().editorOf(component(name));
     }
-    /// The texts of the explorer's entries from top to bottom, indented by depth.
+    /// The texts of the explorer's entries from top to bottom, indented by depth, with the file in brackets if it is shown.
     std::vector<std::string> explorerEntries() {
         std::vector<std::string> entries;
         for (QTreeWidgetItemIterator at(&window().explorer()); *at; ++at) {
             int depth = 0;
             for (auto* above = (*at)->parent(); above; above = above->parent()) ++depth;
-            entries.push_back(std::string(std::size_t(depth), ' ') + (*at)->text(0).toStdString());
+            const auto file = (*at)->text(1);
+            const auto shown = file.isEmpty() ? (*at)->text(0) : QString("%1 [%2]").arg((*at)->text(0), file);
+            entries.push_back(std::string(std::size_t(depth), ' ') + shown.toStdString());
         }
         return entries;
     }

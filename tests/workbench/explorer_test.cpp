@@ -1,6 +1,8 @@
 // The project explorer and its context menu.
 #include "tests/workbench/desktop.h"
+#include <QDockWidget>
 #include <QMenu>
+#include <QScrollBar>
 #include <gmock/gmock.h>
 
 using testing::Contains;
@@ -58,8 +60,19 @@ TEST_F(DesktopExplorer, AProjectsMenuActsOnThatProject) {
     openSample("AddressBook");
     menuOf("HelloWorld", "Add &Class Module");
     EXPECT_EQ(project()->Name(), "HelloWorld");
-    EXPECT_TRUE(entry("ClassModule1"));
-    EXPECT_EQ(entry("ClassModule1")->parent()->parent(), entry("HelloWorld"));
+    ASSERT_TRUE(entry("Class1"));
+    EXPECT_EQ(entry("Class1")->parent()->parent(), entry("HelloWorld"));
+}
+
+TEST_F(DesktopExplorer, NewComponentsAreNumberedFromOne) {
+    openSample("HelloWorld");
+    for (const auto* const command : {"Add &Class Module", "Add &Module", "Add &Class Module", "Add &Form"}) {
+        menuOf("HelloWorld", command);
+        settle();
+    }
+    EXPECT_THAT(explorerEntries(), ElementsAre("HelloWorld *", " Forms", "  Form1 *", "  frmHello", " Modules",
+                                               "  Module1 *", " Class Modules", "  Class1 *", "  Class2 *"));
+    EXPECT_EQ(component("Class2")->CodeModule()->Lines(1, 1), "Option Explicit");
 }
 
 TEST_F(DesktopExplorer, AGroupsMenuAddsComponents) {
@@ -70,14 +83,30 @@ TEST_F(DesktopExplorer, AGroupsMenuAddsComponents) {
 TEST_F(DesktopExplorer, ANewProjectHasNoFilesYet) {
     openSample("HelloWorld");
     menuOf("HelloWorld", "Add &Module");
-    EXPECT_TRUE(entry("CodeModule1 (CodeModule1) *"));
+    EXPECT_TRUE(entry("Module1 *"));
+    EXPECT_EQ(entry("Module1 *")->toolTip(0), "Module1");
 }
 
 TEST_F(DesktopExplorer, SortsWithoutRegardToLetterCaseAndShowsPathsInTips) {
     open(test::SampleProject().module("modB").module("MODA").module("ModC").writeTo(folder));
-    EXPECT_THAT(explorerEntries(), ElementsAre("Hello (Hello.vbp)", " Modules", "  MODA (MODA.bas)",
-                                               "  modB (modB.bas)", "  ModC (ModC.bas)"));
-    EXPECT_EQ(entry("modB")->toolTip(0).toStdString(), "modB (modB.bas)\n" + (folder / "modB.bas"));
+    EXPECT_THAT(explorerEntries(), ElementsAre("Hello", " Modules", "  MODA", "  modB", "  ModC"));
+    EXPECT_EQ(entry("modB")->toolTip(0).toStdString(), "modB\n" + (folder / "modB.bas"));
+}
+
+TEST_F(DesktopExplorer, AFileIsShownWhereItsNameDiffers) {
+    open(test::SampleProject()
+             .module("modA")
+             .member("Module=modB; Other.bas", "Other.bas", test::moduleText("modB", ""))
+             .member("Module=modC; MODC.bas", "MODC.bas", test::moduleText("modC", ""))
+             .writeTo(folder));
+    EXPECT_THAT(explorerEntries(), ElementsAre("Hello", " Modules", "  modA", "  modB [Other.bas]", "  modC"));
+    EXPECT_EQ(entry("modB")->toolTip(1).toStdString(), "modB\n" + (folder / "Other.bas"));
+    const auto& tree = window().explorer();
+    for (const int width : {300, 200}) {
+        window().resizeDocks({static_cast<QDockWidget*>(tree.parentWidget())}, {width}, Qt::Horizontal);
+        settle();
+        EXPECT_FALSE(tree.horizontalScrollBar()->isVisible()) << width;
+    }
 }
 
 TEST_F(DesktopExplorer, AGroupsMenuActsOnItsProject) {

@@ -56,6 +56,15 @@ TEST_F(Forms, EachFormOfTheAddInIsTested) {
     EXPECT_EQ(here, formsOfTheSource());
 }
 
+/// A dialog that blocks the window could otherwise be out of sight.
+TEST_F(Forms, AskForNeitherMinimizeNorMaximizeButtons) {
+    for (auto* form : all()) {
+        const auto flags = FormWindow(*form, nullptr).windowFlags();
+        EXPECT_EQ(flags & Qt::WindowType_Mask, Qt::Dialog) << form->typeName();
+        EXPECT_FALSE(flags & (Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint)) << form->typeName();
+    }
+}
+
 TEST_F(Forms, EachControlHasASuitableWidget) {
     for (auto* form : all()) EXPECT_NO_THROW(FormWindow(*form, nullptr)) << form->typeName();
 }

@@ -1,13 +1,19 @@
 // The icons of commands and of the toolbox.
+#include "Apps/workbench/bars/bar_face.h"
+#include "Apps/workbench/base/component_icons.h"
 #include "Apps/workbench/base/drawn_icons.h"
+#include "Apps/workbench/base/icon_colours.h"
 #include "Apps/workbench/base/icon_table.h"
+#include "Apps/workbench/base/pictures.h"
 #include "Apps/workbench/window/command_keys.h"
 #include "Apps/workbench/window/commands.h"
 #include "tests/workbench/designer_desktop.h"
 #include <QAccessible>
+#include <QFile>
 #include <QSettings>
 #include <QToolBar>
 #include <QToolButton>
+#include <algorithm>
 #include <set>
 
 using workbench::Theme;
@@ -47,6 +53,54 @@ TEST_F(Icons, OfBothSizesAndThemesDiffer) {
             workbench::apply(Theme::Light);
         }
     }
+}
+
+/// Their pictures are on a grey ground, whose mixture with their edges would be seen in the dark theme.
+TEST_F(Icons, InstalledPicturesHaveTheColoursOfTheTheme) {
+    QFile compile(FERNWICK_SOURCE_DIR "/installation/VB Toolkit/Bin/Images/109.bmp");
+    ASSERT_TRUE(compile.open(QIODevice::ReadOnly));
+    const auto bmp = compile.readAll().toStdString();
+    for (const auto theme : {Theme::Light, Theme::Dark}) {
+        workbench::apply(theme);
+        const auto face = drawn(workbench::iconOfFace(bmp), 16);
+        EXPECT_EQ(face.pixelColor(0, 0).alpha(), 0);
+        std::set<QRgb> whole;
+        bool hasSoftEdges = false;
+        for (int at = 0; at < 256; ++at) {
+            const auto pixel = face.pixel(at % 16, at / 16);
+            if (qAlpha(pixel) > 250) whole.insert(pixel | 0xFF000000);
+            hasSoftEdges = hasSoftEdges || (qAlpha(pixel) > 20 && qAlpha(pixel) < 200);
+        }
+        EXPECT_TRUE(hasSoftEdges);
+        std::set<QRgb> known;
+        for (const auto& colour : workbench::kIconColours) known.insert(colour.in(theme).rgb());
+        EXPECT_TRUE(std::includes(known.begin(), known.end(), whole.begin(), whole.end()));
+        EXPECT_TRUE(whole.contains(workbench::kIconColours[0].in(theme).rgb()));
+    }
+    workbench::apply(Theme::Light);
+}
+
+TEST_F(Icons, AreLightOnASelectedRow) {
+    const auto icon = workbench::drawnIcon("New");
+    EXPECT_NE(icon.pixmap(QSize(16, 16), QIcon::Selected).toImage(), icon.pixmap(QSize(16, 16)).toImage());
+    workbench::apply(Theme::Dark);
+    EXPECT_EQ(icon.pixmap(QSize(16, 16), QIcon::Selected).toImage(), icon.pixmap(QSize(16, 16)).toImage());
+    workbench::apply(Theme::Light);
+}
+
+TEST_F(Icons, OtherColoursOfAPictureRemain) {
+    QImage magenta(1, 1, QImage::Format_RGB32);
+    magenta.fill(QColor(255, 0, 255));
+    EXPECT_EQ(workbench::seeThrough(magenta).toImage().pixelColor(0, 0), QColor(255, 0, 255));
+}
+
+TEST_F(Icons, EveryKindOfComponentHasItsOwn) {
+    std::set<QByteArray> seen;
+    for (const auto type :
+         {vbide::vbext_ct_VBForm, vbide::vbext_ct_VBMDIForm, vbide::vbext_ct_StdModule, vbide::vbext_ct_ClassModule,
+          vbide::vbext_ct_UserControl, vbide::vbext_ct_PropPage, vbide::vbext_ct_DocObject,
+          vbide::vbext_ct_ActiveXDesigner, vbide::vbext_ct_RelatedDocument})
+        EXPECT_TRUE(seen.insert(bytesOf(drawn(workbench::componentIcon(type), 16))).second) << type;
 }
 
 TEST_F(Icons, EveryStandardCommandHasOne) {

@@ -12,6 +12,7 @@
 
 using test::kLongestWait;
 using test::moduleText;
+using testing::AllOf;
 using testing::ElementsAre;
 using testing::HasSubstr;
 
@@ -31,19 +32,20 @@ protected:
     static host::JournalEntry read(const QString& path) {
         return host::decodeJournal(host::readFile(path.toStdString()).bytes);
     }
-    /// Runs another program of the same user that types into the project, and kills it.
-    void crash(const std::string& project, const std::string& typed) {
+    /// Runs another program of the same user that types into the project or sets a value of it, and kills it.
+    void crash(const std::string& project, const std::string& typed, const std::string& value = {}) {
         QProcess other;
         auto environment = QProcessEnvironment::systemEnvironment();
         environment.insert("FERNWICK_TEST_PROJECT", QString::fromStdString(project));
         environment.insert("FERNWICK_TEST_TYPED", QString::fromStdString(typed));
+        environment.insert("FERNWICK_TEST_VALUE", QString::fromStdString(value));
         environment.insert("FERNWICK_TEST_STATE", QString::fromStdString(folder / "state"));
         environment.insert("TMPDIR", QString::fromStdString(folder.path()));
         other.setProcessEnvironment(environment);
-        const auto before = journals().size();
+        const auto expected = journals().size() + !typed.empty() + !value.empty();
         other.start(QCoreApplication::applicationFilePath(),
                     {"--gtest_also_run_disabled_tests", "--gtest_filter=Killed.DISABLED_TypesUntilItIsKilled"});
-        EXPECT_TRUE(QTest::qWaitFor([&] { return journals().size() > before; }, kLongestWait))
+        EXPECT_TRUE(QTest::qWaitFor([&] { return journals().size() == expected; }, kLongestWait))
             << other.readAllStandardOutput().toStdString();
         ::kill(pid_t(other.processId()), SIGKILL);
         EXPECT_TRUE(other.waitForFinished());
@@ -54,6 +56,15 @@ protected:
         folder.write(QDir(QString::fromStdString(folder.path())).relativeFilePath(path).toStdString(),
                      host::encodeJournal(entry));
         return path;
+    }
+    /// The unsaved text of the project's own file.
+    host::JournalEntry ownEntry(const std::string& text) {
+        host::JournalEntry entry;
+        entry.project = entry.file = folder / "Hello.vbp";
+        entry.base = host::readFile(entry.file).stamp;
+        entry.written = 1700000000;
+        entry.bytes = text;
+        return entry;
     }
     host::JournalEntry entryOf(const std::string& code) {
         host::JournalEntry entry;
@@ -86,7 +97,10 @@ protected:
 TEST_F(Killed, DISABLED_TypesUntilItIsKilled) {
     if (!qEnvironmentVariableIsSet("FERNWICK_TEST_PROJECT")) GTEST_SKIP();
     openFile(qgetenv("FERNWICK_TEST_PROJECT").toStdString());
-    QTest::keyClicks(&code("modA"), qEnvironmentVariable("FERNWICK_TEST_TYPED"));
+    if (const auto value = qgetenv("FERNWICK_TEST_VALUE"); !value.isEmpty())
+        project()->WriteProperty("Quinloft Global", "TargetDevice", value.toStdString());
+    if (const auto typed = qEnvironmentVariable("FERNWICK_TEST_TYPED"); !typed.isEmpty())
+        QTest::keyClicks(&code("modA"), typed);
     QTest::qWait(kLongestWait * 2);
 }
 
@@ -106,6 +120,65 @@ TEST_F(Journals, TypedTextSurvivesAKilledProgram) {
     EXPECT_EQ(folder.read("modA.bas"), moduleText("modA", "' typed ' a\r\n"));
     settle();
     EXPECT_TRUE(journals().isEmpty());
+}
+
+TEST_F(Journals, ValuesOfASavedProjectSurviveAKilledProgram) {
+    const auto path = twoModules().writeTo(folder);
+    const auto saved = folder.read("Hello.vbp");
+    crash(path, "' typed ", "PocketPC-SH3");
+    answerWith("Restore");
+    openFile(path);
+    waitForBox();
+    QTest::qWait(100); // opening it again asks nothing
+    EXPECT_THAT(boxes, ElementsAre(AllOf(HasSubstr("Unsaved changes to 2 files of Hello.vbp"),
+                                         HasSubstr("The project's own settings"))));
+    EXPECT_EQ(project()->FileName(), path);
+    EXPECT_EQ(project()->ReadProperty("Quinloft Global", "TargetDevice"), "PocketPC-SH3");
+    EXPECT_TRUE(project()->IsDirty());
+    EXPECT_EQ(held("modA"), "' typed ' a");
+    EXPECT_FALSE(component("modB")->IsDirty());
+    EXPECT_EQ(folder.read("Hello.vbp"), saved);
+    menuItem("&File", "Sa&ve Project")->trigger();
+    EXPECT_THAT(folder.read("Hello.vbp"), HasSubstr("TargetDevice=PocketPC-SH3"));
+    EXPECT_FALSE(project()->IsDirty());
+    settle();
+    EXPECT_TRUE(journals().isEmpty());
+}
+
+TEST_F(Journals, ARestoredProjectHasItsUnsavedListOfFiles) {
+    const auto path = twoModules().writeTo(folder);
+    leave(ownEntry(test::SampleProject().module("modB").module("modC").text()));
+    leave(entryOf("' not in the project any more\r\n"));
+    folder.write("modC.bas", moduleText("modC", "' c\r\n"));
+    answerWith("Restore");
+    openFile(path);
+    waitForBox();
+    EXPECT_EQ(project()->VBComponents()->Count(), 3); // its unsaved text is kept even so
+    EXPECT_EQ(held("modC"), "' c");
+    EXPECT_EQ(bench->host().VBProjects()->Count(), 1);
+}
+
+TEST_F(Journals, AProjectFileThatChangedOnDiskIsNotOverwrittenWithoutAQuestion) {
+    const auto path = twoModules().writeTo(folder);
+    leave(ownEntry(twoModules().text() + "[Quinloft Global]\r\nDisplayName=Kept\r\n"));
+    const auto newer = twoModules().text() + "[Quinloft Global]\r\nDisplayName=Newer\r\n";
+    folder.write("Hello.vbp", newer);
+    answerWith("Restore");
+    openFile(path);
+    waitForBox();
+    EXPECT_THAT(boxes, ElementsAre(HasSubstr("The project's own settings - changed on disk since")));
+    EXPECT_EQ(project()->ReadProperty("Quinloft Global", "DisplayName"), "Kept");
+    answerWith("Don't Save");
+    menuItem("&File", "Sa&ve Project")->trigger();
+    EXPECT_THAT(boxes, ElementsAre(HasSubstr("was changed by another program")));
+    EXPECT_EQ(folder.read("Hello.vbp"), newer);
+}
+
+TEST_F(Journals, OpeningAFernwickProjectWritesNone) {
+    openFile(sample("AddressBook"));
+    QTest::qWait(1200);
+    EXPECT_TRUE(journals().isEmpty());
+    EXPECT_FALSE(project()->IsDirty());
 }
 
 TEST_F(Journals, StoreChangesToAForm) {

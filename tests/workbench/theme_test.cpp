@@ -1,5 +1,6 @@
 // The contrast of the colours, as the accessibility guidelines define it: 4.5 to 1 for text, 3 to 1 for edges.
 #include "Apps/workbench/base/text.h"
+#include "Apps/workbench/properties/form_colours.h"
 #include "tests/workbench/running_bench.h"
 #include <QCheckBox>
 #include <QLineEdit>
@@ -48,6 +49,20 @@ TEST_P(Themes, TextIsReadable) {
                 EXPECT_GE(contrast(palette.color(group, ink), palette.color(group, paper)), kForText)
                     << group << " " << ink << " on " << paper;
             }
+}
+
+TEST_P(Themes, ColoursOfFormsHaveAVisibleEdge) {
+    for (const std::int32_t colour : {0x000000, 0xFFFFFF}) {
+        const auto edge = workbench::colourSwatch(colour, {18, 12}).toImage().pixelColor(9, 0);
+        EXPECT_GE(contrast(edge, palette.color(QPalette::Base)), kForEdges);
+    }
+}
+
+TEST_P(Themes, ThePictureOfASelectedRowKeepsItsColours) {
+    QPixmap red(16, 16);
+    red.fill(Qt::red);
+    const auto shown = QIcon(red).pixmap(QSize(16, 16), QIcon::Selected).toImage();
+    EXPECT_EQ(shown.pixelColor(8, 8), QColor(Qt::red));
 }
 
 TEST_P(Themes, CodeIsReadable) {

@@ -22,7 +22,7 @@ struct Pictures : XDesktop {
     }
     void compileWithAnError() {
         openSample("AddressBook");
-        click(explorerEntry("frmList (frmList.frm)"));
+        click(explorerEntry("frmList"));
         press({"F7"});
         eventually("the code", [this] { return code() && code()->hasFocus(); });
         ask([this] { component("frmList")->CodeModule()->InsertLines(1, "Private shown As Strin g"); });

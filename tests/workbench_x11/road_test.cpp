@@ -23,7 +23,7 @@ struct Road : XDesktop {
 TEST_F(Road, ByTheMouseAlone) {
     openSample("HelloWorld");
     // edit
-    click(explorerEntry("frmHello (frmHello.frm)"));
+    click(explorerEntry("frmHello"));
     choose("&View", "&Code");
     eventually("the code of frmHello", [this] { return code() && code()->isVisible(); });
     doubleClick(wordInCode("Const NAME_PREFERENCE"));

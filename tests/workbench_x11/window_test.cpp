@@ -90,7 +90,7 @@ TEST_F(Window, ALetterOfTwoMenusOpensThemInAFixedOrder) {
 
 TEST_F(Window, CopiedCodeReachesOtherPrograms) {
     openSample("HelloWorld");
-    click(explorerEntry("frmHello (frmHello.frm)"));
+    click(explorerEntry("frmHello"));
     press({"F7"});
     eventually("the code", [this] { return code() && code()->hasFocus(); });
     press({"ctrl+Home", "shift+End", "ctrl+c"});
@@ -104,7 +104,7 @@ TEST_F(Window, CopiedCodeReachesOtherPrograms) {
 /// Opens it with the right button and chooses with the keyboard.
 TEST_F(Window, TheExplorersMenuActsOnItsEntry) {
     openSample("AddressBook");
-    rightClick(explorerEntry("clsPerson (clsPerson.cls)"));
+    rightClick(explorerEntry("clsPerson"));
     eventually("a menu", [] { return QApplication::activePopupWidget() != nullptr; });
     press({"Down", "Return"});
     eventually("the code of clsPerson",

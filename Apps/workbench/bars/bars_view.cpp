@@ -128,7 +128,7 @@ void BarsView::showButton(Drawn& drawn, const host::BarControl& control) {
     const auto looks = std::pair(control.face(), currentTheme());
     if (drawn.looks != looks) {
         drawn.looks = looks;
-        const auto face = iconOfFace(control.face(), looks.second);
+        const auto face = iconOfFace(control.face());
         action.setIcon(face.isNull() ? lookOf_(control.Id()).icon : face);
     }
     action.setIconVisibleInMenu(control.Style() != office::msoButtonCaption);

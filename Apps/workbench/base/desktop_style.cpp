@@ -70,4 +70,14 @@ void DesktopStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
     painter->restore();
 }
 
+QPixmap DesktopStyle::generatedIconPixmap(QIcon::Mode mode, const QPixmap& picture, const QStyleOption* option) const {
+    return mode == QIcon::Selected ? picture : QProxyStyle::generatedIconPixmap(mode, picture, option);
+}
+
+int DesktopStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                            QStyleHintReturn* returned) const {
+    if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
+    return QProxyStyle::styleHint(hint, option, widget, returned);
+}
+
 } // namespace workbench

@@ -1,7 +1,7 @@
 #include "Apps/workbench/base/drawn_icons.h"
+#include "Apps/workbench/base/icon_colours.h"
 #include "Apps/workbench/base/icon_table.h"
 #include "Apps/workbench/base/painted_icon.h"
-#include "Apps/workbench/base/theme.h"
 #include <QPainterPath>
 #include <sstream>
 
@@ -11,20 +11,11 @@ namespace {
 
 constexpr double kGrid = 16, kStroke = 1.2;
 
-struct IconColour {
-    std::string_view word;
-    const char *light, *dark;
-};
-constexpr std::array kIconColours{
-    IconColour{"ink", "#3a3d42", "#d3d5d9"},   IconColour{"blue", "#2a6fc9", "#6ea8fe"},
-    IconColour{"green", "#2e7d32", "#6fc274"}, IconColour{"amber", "#b8690a", "#e0a63c"},
-    IconColour{"red", "#c42b2b", "#f4766e"},
-};
-
 /// Reads the strokes of one drawing and paints them.
 class StrokePainter {
 public:
-    StrokePainter(QPainter& painter, std::string_view strokes) : painter_(painter), words_(std::string(strokes)) {}
+    StrokePainter(QPainter& painter, std::string_view strokes, Theme theme)
+        : painter_(painter), words_(std::string(strokes)), theme_(theme) {}
 
     void paint() {
         for (std::string word; words_ >> word;)
@@ -38,7 +29,7 @@ private:
         for (const auto& colour : kIconColours) {
             if (colour.word != lower) continue;
             finish();
-            colour_ = QColor(currentTheme() == Theme::Light ? colour.light : colour.dark);
+            colour_ = colour.in(theme_);
             fills_ = word != lower;
             return true;
         }
@@ -98,6 +89,7 @@ private:
 
     QPainter& painter_;
     std::istringstream words_;
+    Theme theme_;
     QPainterPath path_;
     QColor colour_;
     bool fills_ = false;
@@ -114,7 +106,9 @@ public:
         painter->translate(place.topLeft());
         painter->scale(place.width() / kGrid, place.height() / kGrid);
         if (mode == QIcon::Disabled) painter->setOpacity(kDisabled);
-        StrokePainter(*painter, strokes_).paint();
+        // a selected row is dark in both themes
+        const auto theme = mode == QIcon::Selected ? Theme::Dark : currentTheme();
+        StrokePainter(*painter, strokes_, theme).paint();
         painter->restore();
     }
     QIconEngine* clone() const override { return new DrawnIcon(*this); }
@@ -150,9 +144,11 @@ constexpr std::array kSameIcons{
 
 } // namespace
 
+QIcon iconOfStrokes(std::string_view strokes) { return QIcon(new DrawnIcon(strokes)); }
+
 QIcon drawnIcon(std::string_view name) {
     for (const auto& drawing : kIconTable)
-        if (drawing.name == name) return QIcon(new DrawnIcon(drawing.strokes));
+        if (drawing.name == name) return iconOfStrokes(drawing.strokes);
     return {};
 }
 

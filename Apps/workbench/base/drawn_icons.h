@@ -6,6 +6,9 @@
 
 namespace workbench {
 
+/// Draws strokes as icon_table.h describes them; they outlive the icon.
+QIcon iconOfStrokes(std::string_view strokes);
+
 /// Null for an unknown name; icon_table.h has the names.
 QIcon drawnIcon(std::string_view name);
 

@@ -1,6 +1,6 @@
 #pragma once
-// The drawings of the icons, on a grid of 16 by 16. A row is a list of strokes: a colour (ink, blue, green, amber or red; in
-// capitals it fills), then M x y, L x y (further points), Z (closes), R x y w h (rectangle), E x y rx ry (ellipse),
+// The drawings of the icons, on a grid of 16 by 16. A row is a list of strokes: a colour of icon_colours.h (in capitals it
+// fills), then M x y, L x y (further points), Z (closes), R x y w h (rectangle), E x y rx ry (ellipse),
 // T x y size letter.
 #include <array>
 #include <string_view>
@@ -52,8 +52,9 @@ inline constexpr std::array kIconTable{
     IconDrawing{"Toolbox", "AMBER R 1.5 6 13 8 ink R 1.5 6 13 8 M 5.5 6 L 5.5 3 10.5 3 10.5 6 M 1.5 9.5 L 14.5 9.5"},
     IconDrawing{"Messages", "ink R 1.5 2.5 13 11 M 6 6 L 12.5 6 M 6 10 L 12.5 10 RED E 4 6 1 1 AMBER E 4 10 1 1"},
     IconDrawing{"Theme", "ink E 8 8 6 6 INK M 8 2 L 12 3.5 14 8 12 12.5 8 14 Z"},
-    IconDrawing{"Module", "ink R 2.5 1.5 11 13 amber M 5 5 L 11 5 M 5 8 L 11 8 M 5 11 L 9 11"},
-    IconDrawing{"Class", "ink M 8 1.5 L 14 4.5 14 11.5 8 14.5 2 11.5 2 4.5 Z M 2 4.5 L 8 7.5 14 4.5 M 8 7.5 L 8 14.5"},
+    IconDrawing{"Module", "ink R 2.5 1.5 11 13 amber M 5.5 5.5 L 10.5 5.5 M 5.5 8.5 L 10.5 8.5 M 5.5 11.5 L 8.5 11.5"},
+    IconDrawing{"Class", "GREEN M 8 1.5 L 14 4.5 8 7.5 2 4.5 Z "
+                         "ink M 8 1.5 L 14 4.5 14 11.5 8 14.5 2 11.5 2 4.5 Z M 2 4.5 L 8 7.5 14 4.5 M 8 7.5 L 8 14.5"},
     IconDrawing{"AddFile",
                 "ink M 2.5 1.5 L 8 1.5 11 4.5 11 8 M 2.5 1.5 L 2.5 14.5 7 14.5 green M 12 9 L 12 15 M 9 12 L 15 12"},
     IconDrawing{"StartUp", "ink M 3.5 1.5 L 3.5 14.5 GREEN M 3.5 2 L 13 5 3.5 8.5 Z"},
@@ -68,6 +69,19 @@ inline constexpr std::array kIconTable{
     IconDrawing{"Close", "ink R 1.5 2.5 13 11 red M 5 5 L 11 11 M 11 5 L 5 11"},
     IconDrawing{"CloseAll", "ink R 1.5 1.5 9 9 R 5 5 9.5 9.5 red M 7.5 7.5 L 12 12 M 12 7.5 L 7.5 12"},
     IconDrawing{"Recent", "ink E 8 8 6.5 6.5 blue M 8 4 L 8 8 11 10"},
+    // ---- projects and components, besides those of commands ----
+    IconDrawing{"Project", "BLUE R 2 8.5 7 3 ink M 1.5 13.5 L 1.5 5.5 9.5 5.5 9.5 13.5 Z M 1.5 8.5 L 9.5 8.5 "
+                           "M 4.5 5.5 L 4.5 2.5 14.5 2.5 14.5 10.5 9.5 10.5 GREEN R 5 3 9 1.5"},
+    IconDrawing{"Folder", "AMBER M 1.5 13 L 1.5 3.5 6.5 3.5 8 5.5 14.5 5.5 14.5 13 Z "
+                          "ink M 1.5 13.5 L 1.5 3.5 6.5 3.5 8 5.5 14.5 5.5 14.5 13.5 Z"},
+    IconDrawing{"MDIForm", "BLUE R 1.5 1.5 13 3 ink R 1.5 1.5 13 13 M 1.5 4.5 L 14.5 4.5 R 3.5 6.5 5 4 R 7 9 5.5 4"},
+    IconDrawing{"PropertyPage",
+                "BLUE R 1.5 2.5 6 3 ink M 1.5 13.5 L 1.5 2.5 7.5 2.5 7.5 5.5 14.5 5.5 14.5 13.5 Z amber M 4 8 L 12 8 "
+                "M 4 11 L 9 11"},
+    IconDrawing{"UserDocument", "ink M 3.5 1.5 L 9.5 1.5 12.5 4.5 12.5 14.5 3.5 14.5 Z M 9.5 1.5 L 9.5 4.5 12.5 4.5 "
+                                "amber M 8 7 L 10.5 9.5 8 12 5.5 9.5 Z"},
+    IconDrawing{"Designer", "AMBER M 1.5 11 L 1.5 14.5 14.5 14.5 Z ink M 1.5 1.5 L 1.5 14.5 14.5 14.5 Z "
+                            "M 4.5 8.5 L 4.5 11.5 7.5 11.5 Z"},
     // ---- controls ----
     IconDrawing{"Pointer", "INK M 4 1.5 L 4 12 6.5 9.8 8.5 14.5 10.5 13.5 8.5 9 12 9 Z"},
     IconDrawing{"Label", "ink T 2.5 0 13 A"},

@@ -1,7 +1,9 @@
 #include "Apps/workbench/base/pictures.h"
+#include "Apps/workbench/base/icon_colours.h"
 #include "Apps/workbench/base/text.h"
-#include <QBitmap>
 #include <QStyle>
+#include <QVector3D>
+#include <algorithm>
 #include <array>
 
 namespace workbench {
@@ -19,8 +21,29 @@ constexpr std::array kPictures{
     Picture{"projects", QStyle::SP_DirOpenIcon},
 };
 
-/// The background grey of the installation's pictures.
-const QColor kPictureGround(192, 192, 192);
+using Colour = QVector3D;
+
+Colour partsOf(QRgb colour) { return {float(qRed(colour)), float(qGreen(colour)), float(qBlue(colour))}; }
+
+/// The colour of the theme in place of the program's own colour that was mixed with the ground. Leaves any other colour.
+QRgb withoutGround(QRgb pixel, Theme theme) {
+    constexpr float kTolerance = 48;
+    if ((pixel & RGB_MASK) == (kPictureGround & RGB_MASK)) return 0;
+    const auto ground = partsOf(kPictureGround), mixed = partsOf(pixel) - ground;
+    float nearest = kTolerance;
+    QRgb shown = pixel | ~RGB_MASK;
+    for (const auto& colour : kIconColours) {
+        const auto whole = partsOf(colour.in(Theme::Light).rgb()) - ground;
+        const auto part = Colour::dotProduct(mixed, whole) / whole.lengthSquared();
+        const auto distance = (mixed - whole * part).length();
+        if (part <= 0 || distance >= nearest) continue;
+        nearest = distance;
+        auto here = colour.in(theme);
+        here.setAlphaF(std::min(part, 1.0F));
+        shown = here.rgba();
+    }
+    return shown;
+}
 
 } // namespace
 
@@ -36,8 +59,11 @@ QPixmap pictureNamed(const std::string& name, const QWidget& window) {
 QImage imageOf(const std::string& bmp) { return QImage::fromData(QByteArray::fromStdString(bmp), "BMP"); }
 
 QPixmap seeThrough(const QImage& image, int scale) {
-    auto picture = QPixmap::fromImage(image.scaled(image.size() * scale));
-    picture.setMask(picture.createMaskFromColor(kPictureGround.rgb()));
+    auto shown = image.convertToFormat(QImage::Format_ARGB32);
+    for (int y = 0; y < shown.height(); ++y)
+        for (int x = 0; x < shown.width(); ++x) shown.setPixel(x, y, withoutGround(shown.pixel(x, y), currentTheme()));
+    auto picture =
+        QPixmap::fromImage(shown.scaled(shown.size() * scale, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
     picture.setDevicePixelRatio(scale);
     return picture;
 }

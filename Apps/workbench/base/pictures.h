@@ -11,8 +11,10 @@ QPixmap pictureNamed(const std::string& name, const QWidget& window);
 
 /// Decodes a BMP file's bytes. Null if they are not a picture.
 QImage imageOf(const std::string& bmp);
-/// Makes the background grey of the installation's pictures transparent and scales the picture to this device pixel
-/// ratio, without smoothing.
+/// The background grey of the installation's pictures.
+inline constexpr QRgb kPictureGround = qRgb(192, 192, 192);
+/// Takes the ground out of a picture and shows the program's own colours as those of the present theme. The edges of a
+/// shape, which are mixed with the ground, become translucent. Scales the picture to this device pixel ratio.
 QPixmap seeThrough(const QImage& image, int scale = 1);
 /// imageOf and seeThrough in one step.
 QPixmap pictureOf(const std::string& bmp);

@@ -17,6 +17,14 @@ void drawPart(QPainter& painter, const QRectF& place, const ControlLook& look, c
                 QFontMetricsF(look.font).elidedText(text, Qt::ElideRight, place.width() - 2 * kPartInset));
 }
 
+/// Fills the control and draws its border. Returns the place within, to which further drawing is confined.
+QRectF drawGround(QPainter& painter, const DrawnControl& control) {
+    painter.fillRect(control.place, control.look.back);
+    const auto inner = drawBorder(painter, control.place, control.look.border);
+    painter.setClipRect(inner, Qt::IntersectClip);
+    return inner;
+}
+
 /// 0 for a part without a width.
 double widthOf(const ControlLook& look, qsizetype part) {
     return std::size_t(part) < look.widths.size() ? look.widths[std::size_t(part)] : 0;
@@ -38,10 +46,7 @@ std::vector<double> widthsWithin(const ControlLook& look, double whole) {
 
 void drawColumns(QPainter& painter, const DrawnControl& control) {
     const auto& look = control.look;
-    painter.fillRect(control.place, look.back);
-    const auto inner = drawBorder(painter, control.place, look.border);
-    painter.save();
-    painter.setClipRect(inner, Qt::IntersectClip);
+    const auto inner = drawGround(painter, control);
     const double height = QFontMetricsF(look.font).height() + 4;
     if (look.items.isEmpty()) drawPart(painter, {inner.topLeft(), QSizeF(inner.width(), height)}, look, control.name);
     double left = inner.left();
@@ -50,16 +55,12 @@ void drawColumns(QPainter& painter, const DrawnControl& control) {
         drawPart(painter, drawRaised(painter, header, kPartFace), look, look.items[i]);
         left = header.right();
     }
-    painter.restore();
 }
 
 /// A root with three entries, as the language's own designer shows a tree.
 void drawTree(QPainter& painter, const DrawnControl& control) {
     const auto& look = control.look;
-    painter.fillRect(control.place, look.back);
-    const auto inner = drawBorder(painter, control.place, look.border);
-    painter.save();
-    painter.setClipRect(inner, Qt::IntersectClip);
+    const auto inner = drawGround(painter, control);
     const double height = QFontMetricsF(look.font).height() + 2;
     constexpr double kIndent = 16;
     constexpr int kEntries = 3;
@@ -76,7 +77,6 @@ void drawTree(QPainter& painter, const DrawnControl& control) {
         const auto text = i == 0 ? control.name : QString("Entry %1").arg(i);
         drawPart(painter, {inner.left() + indent, top, inner.width() - indent, height}, look, text);
     }
-    painter.restore();
 }
 
 void drawToolBar(QPainter& painter, const DrawnControl& control) {

@@ -34,14 +34,6 @@ constexpr std::array kKindsOfClasses{
     KindOfClass{"VB.Timer", ControlKind::Hidden},
     KindOfClass{"VB.Menu", ControlKind::Menu},
     KindOfClass{"VB.Data", ControlKind::DataBar},
-    KindOfClass{"MSComctlLib.ListView", ControlKind::ColumnList},
-    KindOfClass{"MSComctlLib.TreeView", ControlKind::Tree},
-    KindOfClass{"MSComctlLib.Toolbar", ControlKind::ToolBar},
-    KindOfClass{"MSComctlLib.StatusBar", ControlKind::StatusBar},
-    KindOfClass{"MSComctlLib.ProgressBar", ControlKind::ProgressBar},
-    KindOfClass{"MSComctlLib.Slider", ControlKind::Slider},
-    KindOfClass{"MSComctlLib.TabStrip", ControlKind::TabStrip},
-    KindOfClass{"MSComctlLib.ImageList", ControlKind::Hidden},
     KindOfClass{"ComctlLib.ListView", ControlKind::ColumnList},
     KindOfClass{"ComctlLib.TreeView", ControlKind::Tree},
     KindOfClass{"ComctlLib.Toolbar", ControlKind::ToolBar},
@@ -50,9 +42,8 @@ constexpr std::array kKindsOfClasses{
     KindOfClass{"ComctlLib.Slider", ControlKind::Slider},
     KindOfClass{"ComctlLib.TabStrip", ControlKind::TabStrip},
     KindOfClass{"ComctlLib.ImageList", ControlKind::Hidden},
-    KindOfClass{"MSComctlLib.ImageCombo", ControlKind::ComboBox},
-    KindOfClass{"MSComCtl2.DTPicker", ControlKind::DateBox},
-    KindOfClass{"MSComCtl2.UpDown", ControlKind::UpDown},
+    KindOfClass{"ComctlLib.ImageCombo", ControlKind::ComboBox},
+    KindOfClass{"ComCtl2.DTPicker", ControlKind::DateBox},
     KindOfClass{"ComCtl2.UpDown", ControlKind::UpDown},
     KindOfClass{"MSMask.MaskEdBox", ControlKind::TextBox},
     KindOfClass{"RichTextLib.RichTextBox", ControlKind::TextBox},
@@ -101,11 +92,20 @@ constexpr std::array kKindsOfClasses{
 constexpr std::array<std::string_view, 4> kContainers{"VB.Frame", "VB.PictureBox", "TavletsCtl.QLFrame",
                                                       "TabDlg.SSTab"};
 
+/// Version 6 of the common controls is named as version 5, after "MS".
+std::string_view withoutVersion(std::string_view className) {
+    constexpr std::string_view kMaker = "MS", kCommonControls = "ComCt";
+    const bool isVersion6 = basic::startsWithNoCase(className, kMaker) &&
+                            basic::startsWithNoCase(className.substr(kMaker.size()), kCommonControls);
+    return isVersion6 ? className.substr(kMaker.size()) : className;
+}
+
 } // namespace
 
 ControlKind kindOfControl(const std::string& className) {
+    const auto known = withoutVersion(className);
     for (const auto& entry : kKindsOfClasses)
-        if (basic::equalNoCase(entry.className, className)) return entry.kind;
+        if (basic::equalNoCase(entry.className, known)) return entry.kind;
     return ControlKind::Other;
 }
 

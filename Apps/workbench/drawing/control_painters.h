@@ -1,5 +1,5 @@
 #pragma once
-// One function for each kind of control.
+// One function for each kind of control. drawControl restores the painter after each.
 #include "Apps/workbench/drawing/drawn_control.h"
 #include <QPainter>
 

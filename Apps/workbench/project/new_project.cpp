@@ -1,5 +1,5 @@
 #include "Apps/workbench/project/new_project.h"
-#include "Apps/workbench/base/letter_icons.h"
+#include "Apps/workbench/base/drawn_icons.h"
 #include "Apps/workbench/base/text.h"
 #include <QBoxLayout>
 #include <QDialogButtonBox>
@@ -7,7 +7,6 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
-#include <QStyle>
 
 namespace workbench {
 
@@ -32,9 +31,8 @@ NewProjectDialog::NewProjectDialog(std::vector<ProjectKind> kinds, QWidget* pare
     list_->setObjectName("kinds");
     list_->setAccessibleName("Kinds of projects");
     list_->setIconSize({kPictureSize, kPictureSize});
-    const auto emptyKind = style()->standardIcon(QStyle::SP_FileIcon);
     for (const auto& kind : kinds_) {
-        list_->addItem(new QListWidgetItem(kind.path.empty() ? emptyKind : projectIcon(), qt(kind.name)));
+        list_->addItem(new QListWidgetItem(drawnIcon(kind.path.empty() ? "New" : "Project"), qt(kind.name)));
         if (kind.name == kUsualKind) list_->setCurrentRow(list_->count() - 1);
     }
     if (list_->currentRow() < 0) list_->setCurrentRow(0);

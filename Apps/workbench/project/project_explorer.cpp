@@ -1,7 +1,10 @@
 #include "Apps/workbench/project/project_explorer.h"
-#include "Apps/workbench/base/letter_icons.h"
+#include "Apps/workbench/base/component_icons.h"
+#include "Apps/workbench/base/drawn_icons.h"
 #include "Apps/workbench/base/text.h"
-#include <QStyle>
+#include <QFileInfo>
+#include <QHeaderView>
+#include <QStyledItemDelegate>
 #include <algorithm>
 #include <array>
 
@@ -9,7 +12,7 @@ namespace workbench {
 
 namespace {
 
-enum Column { kNameColumn };
+enum Column { kNameColumn, kFileColumn };
 enum Data { kProjectNumber = Qt::UserRole, kComponentNumber };
 
 struct Group {
@@ -44,17 +47,32 @@ public:
     }
 };
 
-QString fileTitle(const std::string& path) { return qt(path.substr(path.rfind('/') + 1)); }
+/// Draws names of files less prominently than those of components.
+class FileDelegate final : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
 
-/// "frmHello (frmHello.frm)", with a star if it is not saved.
-QString entryText(const std::string& name, const std::string& path, bool dirty) {
-    return QString("%1 (%2)%3").arg(qt(name), path.empty() ? qt(name) : fileTitle(path), dirty ? " *" : "");
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+        QStyledItemDelegate::initStyleOption(option, index);
+        option->palette.setBrush(QPalette::Text, option->palette.placeholderText());
+    }
+};
+
+/// The file, unless the name already says it.
+QString shownFile(const QString& name, const QFileInfo& file) {
+    const bool same = file.completeBaseName().compare(name, Qt::CaseInsensitive) == 0;
+    return same ? QString() : file.fileName();
 }
 
-/// The dock may be too narrow for the text.
-void showEntry(QTreeWidgetItem& entry, const QString& text, const std::string& path) {
-    entry.setText(kNameColumn, text);
-    entry.setToolTip(kNameColumn, path.empty() ? text : text + "\n" + qt(path));
+/// The name has a star if it is not saved. The dock may be too narrow for both texts.
+template <class Object>
+void showEntry(QTreeWidgetItem& entry, const Object& object, const std::string& file) {
+    const auto name = qt(object->Name()), path = qt(file);
+    entry.setText(kNameColumn, object->IsDirty() ? name + " *" : name);
+    entry.setText(kFileColumn, shownFile(name, QFileInfo(path)));
+    for (const auto column : {kNameColumn, kFileColumn})
+        entry.setToolTip(column, path.isEmpty() ? name : name + "\n" + path);
 }
 
 } // namespace
@@ -64,6 +82,11 @@ ProjectExplorer::ProjectExplorer(vbide::Ref<vbide::VBE> host, Callbacks callback
     setObjectName("explorer");
     setAccessibleName("Project explorer");
     setHeaderHidden(true);
+    setColumnCount(2);
+    header()->setMinimumSectionSize(0);
+    header()->setStretchLastSection(false); // a hidden header does not follow the width of the view
+    setItemDelegateForColumn(kFileColumn, new FileDelegate(this));
+    setAllColumnsShowFocus(true);
     setUniformRowHeights(true);
     redraw_.setSingleShot(true);
     redraw_.setInterval(0); // adding a project causes hundreds of events
@@ -114,17 +137,15 @@ void ProjectExplorer::draw() {
 
 void ProjectExplorer::addEntries() {
     if (projects_.empty()) return;
-    const auto folder =
-        style()->standardIcon(QStyle::SP_DirIcon); // looked up only once, as finding it in themes is slow
     std::size_t component = 0;
     for (std::size_t i = 0; i < projects_.size(); ++i) {
         auto* const top = new QTreeWidgetItem(this);
         top->setData(kNameColumn, kProjectNumber, qulonglong(i + 1));
-        top->setIcon(kNameColumn, projectIcon());
+        top->setIcon(kNameColumn, drawnIcon("Project"));
         std::array<QTreeWidgetItem*, kGroups.size()> groups{};
         for (std::size_t g = 0; g < kGroups.size(); ++g) {
             groups[g] = new QTreeWidgetItem(top, {kGroups[g].name});
-            groups[g]->setIcon(kNameColumn, folder);
+            groups[g]->setIcon(kNameColumn, drawnIcon("Folder"));
         }
         for (const auto last = component + std::size_t(projects_[i]->VBComponents()->Count()); component < last;) {
             const auto group = groupOf(components_[component++]->Type());
@@ -143,19 +164,29 @@ void ProjectExplorer::showTexts() {
     for (QTreeWidgetItemIterator at(this); *at; ++at) {
         if (const auto number = (*at)->data(kNameColumn, kProjectNumber).toULongLong()) {
             const auto& project = projects_[number - 1];
-            showEntry(**at, entryText(project->Name(), project->FileName(), project->IsDirty()), project->FileName());
+            showEntry(**at, project, project->FileName());
             auto font = this->font();
             font.setBold(host_->ActiveVBProject() == project);
             (*at)->setFont(kNameColumn, font);
         } else if (const auto number = (*at)->data(kNameColumn, kComponentNumber).toULongLong()) {
             const auto& component = components_[number - 1];
-            showEntry(**at, entryText(component->Name(), component->FileNames(1), component->IsDirty()),
-                      component->FileNames(1));
+            showEntry(**at, component, component->FileNames(1));
         }
     }
+    fitColumns();
     for (int i = 0; i < topLevelItemCount(); ++i)
         for (int group = 0; group < topLevelItem(i)->childCount(); ++group)
             topLevelItem(i)->child(group)->sortChildren(kNameColumn, Qt::AscendingOrder);
+}
+
+void ProjectExplorer::fitColumns() {
+    resizeColumnToContents(kNameColumn);
+    setColumnWidth(kFileColumn, std::max(0, viewport()->width() - columnWidth(kNameColumn)));
+}
+
+void ProjectExplorer::resizeEvent(QResizeEvent* event) {
+    QTreeWidget::resizeEvent(event);
+    fitColumns();
 }
 
 vbide::Ref<vbide::VBProject> ProjectExplorer::currentProject() const {

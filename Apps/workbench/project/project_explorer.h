@@ -28,12 +28,16 @@ public:
     /// The project that the selected entry belongs to, whatever its kind.
     vbide::Ref<vbide::VBProject> projectOfCurrent() const;
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
     void watchProjects();
     void watchComponents();
     void draw();
     void addEntries();
     void showTexts();
+    void fitColumns();
     void openCurrent();
 
     vbide::Ref<vbide::VBE> host_;

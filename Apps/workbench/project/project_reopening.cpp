@@ -1,5 +1,6 @@
 #include "Apps/workbench/project/project_reopening.h"
 #include "Apps/workbench/code/scintilla.h"
+#include "Apps/workbench/project/project_saving.h"
 
 namespace workbench {
 
@@ -31,9 +32,7 @@ void openAgain(CodeWindows& code, const vbide::Ref<vbide::VBProject>& project, c
 void reopenProject(host::Host& host, CodeWindows& code, const vbide::Ref<vbide::VBProject>& project) {
     const auto path = project->FileName();
     const auto windows = windowsOf(code, project);
-    // so that closing does not save discarded changes
-    for (const auto& component : project->VBComponents()->items()) component->IsDirty(false);
-    project->IsDirty(false);
+    forgetChanges(project);
     host.VBProjects()->Remove(project);
     const auto again = host.VBProjects()->AddFromFile(path);
     for (const auto& one : windows) (void)basic::attempt([&] { openAgain(code, again, one); });

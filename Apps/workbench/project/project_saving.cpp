@@ -38,11 +38,6 @@ QMessageBox::StandardButton askAboutChanges(const std::string& name, QWidget* wi
                    QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
 }
 
-void forgetChanges(const ProjectRef& project) {
-    for (const auto& component : project->VBComponents()->items()) component->IsDirty(false);
-    project->IsDirty(false);
-}
-
 bool saveUnderName(const ComponentRef& component, QString folder, QWidget* window) {
     const auto path = askForName(component->Name(), extensionOf(component->Type()), folder, window);
     if (!path.empty()) component->SaveAs(path);
@@ -58,6 +53,11 @@ ProjectRef projectOf(const ComponentRef& component) {
             if (project->VBComponents() == component->Collection()) owner = project;
     });
     return owner;
+}
+
+void forgetChanges(const ProjectRef& project) {
+    for (const auto& component : project->VBComponents()->items()) component->IsDirty(false);
+    project->IsDirty(false);
 }
 
 bool isUnsaved(const ProjectRef& project) {

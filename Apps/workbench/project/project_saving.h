@@ -28,6 +28,9 @@ bool mayBeClosed(host::Host& host, const std::vector<ProjectRef>& projects, QWid
 /// Whether the component may be removed from its project, after the same question.
 bool mayBeRemoved(const ComponentRef& component, QWidget* window);
 
+/// Clears all dirty marks, so that closing the project does not save its changes.
+void forgetChanges(const ProjectRef& project);
+
 /// Whether the project has unsaved changes.
 bool isUnsaved(const ProjectRef& project);
 

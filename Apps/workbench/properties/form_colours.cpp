@@ -1,4 +1,6 @@
 #include "Apps/workbench/properties/form_colours.h"
+#include "Apps/workbench/base/theme.h"
+#include <QPainter>
 #include <QRegularExpression>
 #include <array>
 
@@ -86,6 +88,15 @@ std::optional<std::int32_t> formColourOf(const QString& text) {
     const bool isSystem = bits >= kSystemColour && bits - kSystemColour < kSystemColours.size();
     if (!good || !(isColour || isSystem)) return std::nullopt;
     return std::int32_t(bits);
+}
+
+QPixmap colourSwatch(std::int32_t value, const QSize& size) {
+    QPixmap picture(size);
+    picture.fill(formColour(value));
+    QPainter painter(&picture);
+    painter.setPen(edgeColour(currentTheme()));
+    painter.drawRect(0, 0, size.width() - 1, size.height() - 1);
+    return picture;
 }
 
 const std::vector<NamedColour>& namedColours() {

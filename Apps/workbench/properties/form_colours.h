@@ -1,6 +1,7 @@
 #pragma once
 // Colours as forms store them.
 #include <QColor>
+#include <QPixmap>
 #include <QString>
 #include <cstdint>
 #include <optional>
@@ -16,6 +17,9 @@ QColor formColour(std::int32_t value);
 QString formColourText(std::int32_t value);
 /// Parses a hexadecimal number with or without "&" at the end, or a decimal one. Empty if it is not a colour.
 std::optional<std::int32_t> formColourOf(const QString& text);
+
+/// A rectangle of the colour, whose edge is seen on the paper of both themes.
+QPixmap colourSwatch(std::int32_t value, const QSize& size);
 
 struct NamedColour {
     QString name;

@@ -18,52 +18,55 @@ constexpr auto kUsualFamily = "MS Sans Serif", kPalmFamily = "QLPalm";
 constexpr auto kLetters = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ";
 constexpr int kLetterCount = 52;
 
-/// What is known about a family that may be missing.
+/// What families of the same metrics share.
+struct FontMetrics {
+    std::array<const char*, 4> families; ///< the best first
+    double letterWidth; ///< the average of the letters, as a part of the font's pixel size; 0 if unknown
+};
+constexpr FontMetrics kArial{{"Arial", "Liberation Sans", "Nimbus Sans", "FreeSans"}, 0.583},
+    kTahoma{{"Tahoma", "Wine Tahoma", "Liberation Sans", "Nimbus Sans"}, 0.549},
+    kTimes{{"Times New Roman", "Liberation Serif", "Nimbus Roman", "FreeSerif"}, 0.545},
+    kCourier{{"Courier New", "Liberation Mono", "Nimbus Mono PS", "FreeMono"}, 0.6},
+    kPalm{{"DejaVu Sans Condensed", "Tahoma", "Liberation Sans Narrow", "Nimbus Sans Narrow"}, 0},
+    kUnknown{kArial.families, 0};
+
 struct FormFamily {
     const char* name;
-    std::array<const char*, 4> similar; ///< the best first; null where there are fewer
-    double letterWidth;                 ///< the average of the letters, as a part of the font's pixel size
+    const FontMetrics& metrics;
 };
-constexpr std::array<const char*, 4> kLikeArial{"Arial", "Liberation Sans", "Nimbus Sans", "FreeSans"},
-    kLikeTimes{"Times New Roman", "Liberation Serif", "Nimbus Roman", "FreeSerif"},
-    kLikeCourier{"Courier New", "Liberation Mono", "Nimbus Mono PS", "FreeMono"},
-    kLikeTahoma{"Tahoma", "Wine Tahoma", "Liberation Sans", "Nimbus Sans"},
-    kLikePalm{"DejaVu Sans Condensed", "Tahoma", "Liberation Sans Narrow", "Nimbus Sans Narrow"};
-constexpr double kArialWidth = 0.583, kTahomaWidth = 0.549, kTimesWidth = 0.545, kCourierWidth = 0.6;
-
-constexpr std::array kFamilies{
-    FormFamily{"MS Sans Serif", kLikeArial, kArialWidth},
-    FormFamily{"Microsoft Sans Serif", kLikeArial, kArialWidth},
-    FormFamily{"MS Shell Dlg", kLikeArial, kArialWidth},
-    FormFamily{"Arial", kLikeArial, kArialWidth},
-    FormFamily{"Helv", kLikeArial, kArialWidth},
-    FormFamily{"Helvetica", kLikeArial, kArialWidth},
-    FormFamily{"MS Shell Dlg 2", kLikeTahoma, kTahomaWidth},
-    FormFamily{"Tahoma", kLikeTahoma, kTahomaWidth},
-    FormFamily{"Times New Roman", kLikeTimes, kTimesWidth},
-    FormFamily{"MS Serif", kLikeTimes, kTimesWidth},
-    FormFamily{"Tms Rmn", kLikeTimes, kTimesWidth},
-    FormFamily{"Courier New", kLikeCourier, kCourierWidth},
-    FormFamily{"Courier", kLikeCourier, kCourierWidth},
-    FormFamily{"Fixedsys", kLikeCourier, kCourierWidth},
-    FormFamily{"Terminal", kLikeCourier, kCourierWidth},
+constexpr FormFamily kFamilies[] = {
+    {"MS Sans Serif", kArial},
+    {"Microsoft Sans Serif", kArial},
+    {"MS Shell Dlg", kArial},
+    {"Arial", kArial},
+    {"Helv", kArial},
+    {"Helvetica", kArial},
+    {"MS Shell Dlg 2", kTahoma},
+    {"Tahoma", kTahoma},
+    {"Times New Roman", kTimes},
+    {"MS Serif", kTimes},
+    {"Tms Rmn", kTimes},
+    {"Courier New", kCourier},
+    {"Courier", kCourier},
+    {"Fixedsys", kCourier},
+    {"Terminal", kCourier},
+    {kPalmFamily, kPalm},
 };
 
 bool isPalm(const QString& family) { return family.compare(kPalmFamily, Qt::CaseInsensitive) == 0; }
 
 bool isInstalled(const QString& family) { return QFontDatabase::hasFamily(family); }
 
-const FormFamily* familyNamed(const QString& name) {
-    const auto found = std::find_if(kFamilies.begin(), kFamilies.end(), [&](const auto& family) {
-        return name.compare(QLatin1String(family.name), Qt::CaseInsensitive) == 0;
-    });
-    return found == kFamilies.end() ? nullptr : &*found;
+const FontMetrics& metricsOf(const QString& name) {
+    for (const auto& family : kFamilies)
+        if (name.compare(QLatin1String(family.name), Qt::CaseInsensitive) == 0) return family.metrics;
+    return kUnknown;
 }
 
 /// "" if none is installed, which leaves the choice to Qt.
-QString installedOf(const std::array<const char*, 4>& similar) {
-    for (const auto* family : similar)
-        if (family && isInstalled(family)) return family;
+QString installedOf(const FontMetrics& metrics) {
+    for (const auto* family : metrics.families)
+        if (isInstalled(family)) return family;
     return {};
 }
 
@@ -91,10 +94,10 @@ QFont substituted(const QString& name, int pixels) {
     QFont font(name);
     font.setPixelSize(pixels);
     if (isInstalled(name)) return font;
-    const auto* known = familyNamed(name);
-    const auto substitute = installedOf(isPalm(name) ? kLikePalm : known ? known->similar : kLikeArial);
+    const auto& metrics = metricsOf(name);
+    const auto substitute = installedOf(metrics);
     if (!substitute.isEmpty()) font.setFamily(substitute);
-    if (known) fit(font, known->letterWidth);
+    if (metrics.letterWidth > 0) fit(font, metrics.letterWidth);
     return font;
 }
 

@@ -16,11 +16,8 @@ void listColours(QComboBox& list) {
     list.setInsertPolicy(QComboBox::NoInsert);
     list.setCompleter(nullptr);
     list.setMaxVisibleItems(kMostShownColours);
-    for (const auto& colour : namedColours()) {
-        QPixmap swatch(list.iconSize());
-        swatch.fill(formColour(colour.value));
-        list.addItem(swatch, colour.name, formColourText(colour.value));
-    }
+    for (const auto& colour : namedColours())
+        list.addItem(colourSwatch(colour.value, list.iconSize()), colour.name, formColourText(colour.value));
 }
 
 } // namespace

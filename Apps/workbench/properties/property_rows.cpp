@@ -3,8 +3,6 @@
 #include "Apps/workbench/properties/form_colours.h"
 #include "Apps/workbench/properties/property_values.h"
 #include "Basic/runtime_error.h"
-#include <QPainter>
-#include <QPixmap>
 #include <QRegularExpression>
 #include <algorithm>
 
@@ -92,11 +90,7 @@ int PropertyRows::columnCount(const QModelIndex& parent) const { return parent.i
 
 QVariant PropertyRows::swatch(const Row& row) const {
     const auto colour = row.details.showsColour() ? formColourOf(row.shown) : std::nullopt;
-    if (!colour) return {};
-    QPixmap picture(kSwatchWidth, kSwatchHeight);
-    picture.fill(formColour(*colour));
-    QPainter(&picture).drawRect(0, 0, kSwatchWidth - 1, kSwatchHeight - 1);
-    return picture;
+    return colour ? colourSwatch(*colour, {kSwatchWidth, kSwatchHeight}) : QVariant();
 }
 
 QVariant PropertyRows::data(const QModelIndex& index, int role) const {

@@ -22,9 +22,13 @@ bool isKeptWhole(const host::Project& project) {
            (project.IsDirty() || std::any_of(all.begin(), all.end(), [](const auto& one) { return one->IsDirty(); }));
 }
 
+bool isOwnTextKept(const host::Project& project) { return project.IsDirty() || isKeptWhole(project); }
+
 host::JournalEntry entryOf(const host::Project& project) {
     host::JournalEntry entry;
-    entry.project = project.FileName().empty() ? project.Name() : project.FileName();
+    entry.file = project.FileName();
+    entry.project = entry.file.empty() ? project.Name() : entry.file;
+    entry.base = project.stamp();
     entry.bytes = project.file().bytes();
     entry.written = QDateTime::currentSecsSinceEpoch();
     return entry;
@@ -43,8 +47,8 @@ host::JournalEntry entryOf(const host::Project& project, host::Component& compon
 void addUnsaved(const vbide::Ref<vbide::VBProject>& project, std::set<std::shared_ptr<void>>& unsaved) {
     const auto own = basic::cast<host::Project>(project).shared();
     if (!own) return;
+    if (isOwnTextKept(*own)) unsaved.insert(own);
     const bool isWhole = isKeptWhole(*own);
-    if (isWhole) unsaved.insert(own);
     for (const auto& component : own->components().list())
         if (isWhole || component->IsDirty()) unsaved.insert(component);
 }
@@ -66,6 +70,7 @@ Journal::Journal(host::Host& host, QWidget& window, QString base, Failed failed)
     };
     watches_.push_back(host.panes.codeChanged.connect(soon));
     watches_.push_back(host.panes.designChanged.connect(soon));
+    watches_.push_back(host.projectEdited.connect(soon));
     const auto tidy = [this](const auto&...) { tidySoon_.start(); };
     watches_.push_back(host.Events()->FileControlEvents(nullptr)->AfterWriteFile.connect(tidy));
     watches_.push_back(host.Events()->FileControlEvents(nullptr)->AfterRemoveFile.connect(tidy));
@@ -93,7 +98,7 @@ void Journal::write() {
 void Journal::keepProject(const vbide::Ref<vbide::VBProject>& project) {
     const auto own = basic::cast<host::Project>(project).shared();
     if (!own) return;
-    if (isKeptWhole(*own)) keep(own, entryOf(*own));
+    if (isOwnTextKept(*own)) keep(own, entryOf(*own));
     for (const auto& component : own->components().list())
         if (component->IsDirty() || isKeptWhole(*own)) keep(component, entryOf(*own, *component));
 }

@@ -11,8 +11,9 @@
 
 namespace workbench {
 
-/// Writes each changed component of each open project, and all of a project that was never saved, about a second after the change, and at once when another window
-/// blocks this one, such as that of a compile. Removes what was saved or discarded.
+/// Writes each open project and component that was changed, and all of a project that was never saved: about a second
+/// after the change, and at once when another window blocks this one, such as that of a compile. Removes what was saved
+/// or discarded.
 class Journal final : public QObject {
 public:
     /// Called with the reason when writing fails; not again until it has succeeded once.

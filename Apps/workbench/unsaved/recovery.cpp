@@ -1,6 +1,7 @@
 #include "Apps/workbench/unsaved/recovery.h"
 #include "Apps/workbench/base/text.h"
 #include "Apps/workbench/base/title.h"
+#include "Apps/workbench/project/project_saving.h"
 #include "Apps/workbench/unsaved/unsaved_texts.h"
 #include "Host/model/component.h"
 #include "Host/model/components.h"
@@ -106,12 +107,13 @@ void Recovery::restore(const std::string& path, const std::vector<Survivor>& all
     std::shared_ptr<host::Project> project;
     const auto own = std::find_if(all.begin(), all.end(), [](const auto& one) { return isOfProject(one.entry); });
     if (own != all.end()) {
-        project = basic::cast<host::Project>(host_.projects().addRestored(own->entry.bytes, putAllBack)).shared();
+        project = basic::cast<host::Project>(openedFrom(own->entry, putAllBack)).shared();
     } else {
         project = basic::cast<host::Project>(opened(path)).shared();
         if (!project) return; // the reason has been shown
         putAllBack(*project);
     }
+    asked_.insert(path); // journals that remain are for another time
     for (const auto& survivor : all) (void)basic::attempt([&] { show(*project, survivor.entry); });
     callbacks_.keep(); // so that there is a journal at any time
     for (const auto& journal : done) QFile::remove(journal);
@@ -124,17 +126,28 @@ bool Recovery::putBackOrWarn(host::Project& project, const host::JournalEntry& e
     return failed.Number == 0;
 }
 
+/// Null if there is none.
+vbide::Ref<vbide::VBProject> Recovery::openAt(const std::string& path) const {
+    for (const auto& project : host_.VBProjects()->items())
+        if (project->FileName() == path) return project;
+    return nullptr;
+}
+
 vbide::Ref<vbide::VBProject> Recovery::opened(const std::string& path) {
-    const auto find = [&]() -> vbide::Ref<vbide::VBProject> {
-        for (const auto& project : host_.VBProjects()->items())
-            if (project->FileName() == path) return project;
-        return nullptr;
-    };
     if (isNeverSaved(path)) return host_.projects().addNew();
-    if (auto open = find()) return open;
+    if (auto open = openAt(path)) return open;
     callbacks_.open(path);
-    asked_.insert(path);
-    return find();
+    return openAt(path);
+}
+
+/// Opens the project again if it is open: its text decides which components and references it has.
+vbide::Ref<vbide::VBProject> Recovery::openedFrom(const host::JournalEntry& entry,
+                                                  const std::function<void(host::Project&)>& fill) {
+    if (const auto open = entry.file.empty() ? nullptr : openAt(entry.file)) {
+        forgetChanges(open);
+        host_.VBProjects()->Remove(open);
+    }
+    return host_.projects().addRestored(entry, fill);
 }
 
 } // namespace workbench

@@ -34,7 +34,10 @@ private:
     void restore(const std::string& project, const std::vector<Survivor>& all);
     bool putBackOrWarn(host::Project& project, const host::JournalEntry& entry);
     void discard(const std::vector<Survivor>& all);
+    vbide::Ref<vbide::VBProject> openAt(const std::string& path) const;
     vbide::Ref<vbide::VBProject> opened(const std::string& path);
+    vbide::Ref<vbide::VBProject> openedFrom(const host::JournalEntry& entry,
+                                            const std::function<void(host::Project&)>& fill);
 
     host::Host& host_;
     QWidget& window_;

@@ -28,6 +28,20 @@ bool isChangedOnDisk(const host::JournalEntry& entry) {
     return changed;
 }
 
+QString shownName(const host::JournalEntry& entry) {
+    if (isOfProject(entry)) return unsaved_texts::kProjectsOwn;
+    const auto name = qt(entry.component);
+    return entry.file.empty() ? name : QString("%1 (%2)").arg(name, QFileInfo(qt(entry.file)).fileName());
+}
+
+/// The text of an entry's file, decoded.
+QString decoded(const host::JournalEntry& entry, const std::string& bytes) {
+    const auto folder = text(QFileInfo(qt(entry.file)).path());
+    const auto detected =
+        isOfProject(entry) ? host::codePageOfProject(bytes, folder, {}) : host::codePageOfSource(bytes);
+    return qt(detected.page.decode(bytes));
+}
+
 } // namespace
 
 std::vector<Survivor> survivorsIn(const QString& base,
@@ -55,11 +69,8 @@ bool isOfProject(const host::JournalEntry& entry) { return entry.component.empty
 bool isNeverSaved(const std::string& project) { return !project.starts_with('/'); }
 
 QString lineOf(const Survivor& survivor) {
-    const auto& entry = survivor.entry;
-    if (isOfProject(entry)) return unsaved_texts::kProjectsOwn;
-    const auto file = qt(entry.file);
-    const auto name =
-        file.isEmpty() ? qt(entry.component) : QString("%1 (%2)").arg(qt(entry.component), QFileInfo(file).fileName());
+    const auto file = qt(survivor.entry.file);
+    const auto name = shownName(survivor.entry);
     if (survivor.changedOnDisk) return QString(unsaved_texts::kChangedOnDisk).arg(name);
     if (!file.isEmpty() && !QFileInfo::exists(file)) return QString(unsaved_texts::kGoneFromDisk).arg(name);
     return name;
@@ -70,11 +81,8 @@ QString detailsOf(const std::vector<Survivor>& all) {
     for (const auto& [folder, path, entry, changed] : all) {
         std::string onDisk;
         (void)basic::attempt([&] { onDisk = host::readFile(entry.file).bytes; });
-        const auto shown = [](const std::string& bytes) {
-            return qt(host::codePageOfSource(bytes).page.decode(bytes));
-        };
-        details << QString(unsaved_texts::kDifferences).arg(qt(entry.file.empty() ? entry.component : entry.file));
-        details << differencesOf(shown(onDisk), shown(entry.bytes)) << "";
+        details << QString(unsaved_texts::kDifferences).arg(entry.file.empty() ? shownName(entry) : qt(entry.file));
+        details << differencesOf(decoded(entry, onDisk), decoded(entry, entry.bytes)) << "";
     }
     return details.join('\n');
 }

@@ -6,7 +6,7 @@
 
 namespace workbench {
 
-/// The unsaved text of one component.
+/// The unsaved text of one component or of a project's own file.
 struct Survivor {
     std::shared_ptr<JournalFolder> folder; ///< kept, so that no other program offers it
     QString path;

@@ -1,3 +1,3 @@
-Attribute VB_Name = "CodeModule1"
+Attribute VB_Name = "Module1"
 Option Explicit
 
