@@ -152,6 +152,10 @@ TABLE = {
         "good": Cell(GOOD, "FW1300"), "errors": "there is nothing to find", "wrong use": Cell(MISUSED, "1"),
         "missing file": NO_FILE, "folder": NO_FILE, "unreadable file": NO_FILE, "read-only": READS,
         "full disk": Cell(MACHINE), "interrupted": Cell(INTERRUPTED)},
+    "recent": {
+        "good": Cell(GOOD), "errors": "there is nothing to find", "wrong use": Cell(MISUSED, "x"),
+        "missing file": NO_FILE, "folder": NO_FILE, "unreadable file": NO_FILE, "read-only": READS,
+        "full disk": "an empty list prints nothing", "interrupted": Cell(INTERRUPTED)},
     "targets": {
         "good": Cell(GOOD), "errors": "see the case no_targets", "wrong use": Cell(MISUSED, "x"),
         "missing file": NO_FILE, "folder": NO_FILE, "unreadable file": NO_FILE, "read-only": READS,

@@ -87,6 +87,7 @@ class Schemas(unittest.TestCase):
         self.fits("info", "info", "--verify", str(self.project))
         self.fits("settings", "settings", "list", str(self.project))
         self.fits("settings", "settings", "get", str(self.project), "TargetDevice")
+        self.fits("recent", "recent")
         self.fits("targets", "targets")
         self.fits("version", "version")
         self.fits("explain", "explain")
@@ -243,7 +244,7 @@ class Schemas(unittest.TestCase):
         # package-1 is the manifest, see test_packages
         self.assertEqual(sorted(p.stem for p in (ROOT / "installation/schemas").glob("*.json")),
                          ["build-plan-1", "clean-1", "dependencies-1", "devices-1", "doctor-1", "explain-1", "info-1", "package-1",
-                          "package-listing-1", "registry-1", "report-1", "settings-1", "settings-changes-1",
+                          "package-listing-1", "recent-1", "registry-1", "report-1", "settings-1", "settings-changes-1",
                           "targets-1", "version-1"])
 
 

@@ -32,6 +32,7 @@ void defineReadingVerbs(CLI::App& app, Raw& raw) {
                              "fernwick messages AddressBook.vbp --format json", Result::Messages);
     addProject(messages, raw);
     addCodePage(messages, raw);
+    addVerb(app, raw, "recent", runRecent, "List the recent projects of the project manager", "fernwick recent");
     addVerb(app, raw, "targets", runTargets, "List the installed design targets", "fernwick targets");
     addVerb(app, raw, "version", runVersion, "Print the version", "fernwick version");
 }

@@ -20,6 +20,7 @@ int runInfo(const Options& options, Console& console);
 int runInstallRuntime(const Options& options, Console& console);
 int runMessages(const Options& options, Console& console);
 int runPackage(const Options& options, Console& console);
+int runRecent(const Options& options, Console& console);
 int runRegistry(const Options& options, Console& console);
 int runSettings(const Options& options, Console& console);
 int runTargets(const Options& options, Console& console);
