@@ -23,6 +23,8 @@ public:
     const std::string& projectFile() const { return conversion_.last().projectFile; }
     bool doReloadProject() const { return conversion_.last().doReloadProject; }
     const std::string& newPlatform() const { return conversion_.last().newPlatform; }
+    /// The copy of the old project file, of a conversion in place; "" for none.
+    const std::string& backup() const { return conversion_.last().backup; }
     ProjectConversion& conversion() { return conversion_; }
 
 protected:

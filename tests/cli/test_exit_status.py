@@ -25,6 +25,7 @@ CAN_DROP_ROOT = not IS_ROOT or shutil.which("setpriv") is not None
 PROJECT = "HelloWorld/HelloWorld.vbp"
 PACKAGE = "HelloWorld/HelloWorld.PalmOS-DragonBall.qlpkg"
 DEVICE = ("--device", "PalmOS-DragonBall")
+TO = ("--to", "PocketPC-SH3")
 KEY = r"HKEY_CURRENT_USER\Software\Quinloft"
 
 
@@ -114,6 +115,16 @@ TABLE = {
         "errors": "stored errors are its data", "read-only": READS, "full disk": Cell(MACHINE, "broken/HelloWorld.vbp")},
     "clean": project_row() | {
         "errors": Cell(FAILED, PROJECT, prepare=damage_project), "read-only": Cell(MACHINE, PROJECT, prepare=lock(PROJECT))},
+    "convert": {
+        "good": Cell(GOOD, PROJECT, *TO, "--in-place"),
+        "errors": Cell(FAILED, PROJECT, *TO, "--output", "new/Copy.vbp", prepare=remove_form),
+        "wrong use": Cell(MISUSED, PROJECT, *TO, "--output", "HelloWorld/Copy.vbp"),
+        "missing file": Cell(MISUSED, "none.vbp", *TO, "--in-place"),
+        "folder": Cell(MISUSED, "folder.vbp", *TO, "--in-place"),
+        "unreadable file": Cell(MACHINE, PROJECT, *TO, "--in-place", prepare=hide(PROJECT)),
+        "read-only": Cell(MACHINE, PROJECT, *TO, "--in-place", prepare=lock(PROJECT)),
+        "full disk": Cell(MACHINE, PROJECT, *TO, "--output", "new/Copy.vbp"),
+        "interrupted": Cell(INTERRUPTED, PROJECT, *TO, "--in-place")},
     "settings": {
         "good": Cell(GOOD, "set", PROJECT, "DefaultFontSize", "9"),
         "errors": Cell(FAILED, "set", PROJECT, "DefaultFontSize", "9", prepare=make_ordinary),
@@ -286,7 +297,7 @@ class ExitStatus(unittest.TestCase):
     def test_each_command_that_opens_a_project_takes_its_code_page(self):
         takers = [verb for verb in self.verbs
                   if "--code-page" in self.template.fernwick("help", verb, check=True).stdout]
-        self.assertEqual(takers, ["build", "validate", "clean", "package", "deploy", "check", "info", "messages",
+        self.assertEqual(takers, ["build", "validate", "clean", "convert", "package", "deploy", "check", "info", "messages",
                                   "settings", "dependencies"])
         for verb in takers:
             arguments = (PROJECT,) if verb == "check" else TABLE[verb]["good"].arguments

@@ -53,6 +53,8 @@ class Locking(unittest.TestCase):
             refused = self.home.fernwick(verb, str(self.project), "--no-wait")
             self.assertEqual(refused.returncode, 1, refused.stderr)
             self.assertIn("another fernwick is working on it", refused.stderr)
+        converted = self.home.fernwick("convert", str(self.project), "--to", "PocketPC-SH3", "--in-place", "--no-wait")
+        self.assertEqual(converted.returncode, 1, converted.stderr)
         self.assertEqual(self.home.fernwick("info", str(self.project)).returncode, 0)
         self.let_go(first)
 

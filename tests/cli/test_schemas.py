@@ -118,6 +118,15 @@ class Schemas(unittest.TestCase):
         self.assertEqual(self.fits("clean", "clean", "--dry-run", str(group))["deleted"], [image])
         self.assertEqual(self.fits("clean", "clean", str(self.project))["deleted"], [image])
 
+    def test_conversions(self):
+        project = str(self.project)
+        same = self.fits("convert", "convert", project, "--to", "PalmOS-DragonBall", "--in-place")
+        self.assertEqual((same["converted"], "backup" in same), (False, False))
+        copy = self.fits("convert", "convert", project, "--to", "PocketPC-SH3", "--output", str(self.home.work / "new/A"))
+        self.assertEqual((copy["project"], copy["device"]), (str(self.home.work / "new/A.vbp"), "PocketPC-SH3"))
+        changed = self.fits("convert", "convert", project, "--to", "PocketPC-SH3", "--in-place")
+        self.assertEqual((changed["converted"], changed["backup"]), (True, project + ".bak"))
+
     def test_dependencies(self):
         self.fits("dependencies", "dependencies", str(self.project))
         (self.project.parent / "prices.pdb").write_text("12345")
@@ -243,8 +252,9 @@ class Schemas(unittest.TestCase):
     def test_every_schema_is_tested(self):
         # package-1 is the manifest, see test_packages
         self.assertEqual(sorted(p.stem for p in (ROOT / "installation/schemas").glob("*.json")),
-                         ["build-plan-1", "clean-1", "dependencies-1", "devices-1", "doctor-1", "explain-1", "info-1", "package-1",
-                          "package-listing-1", "recent-1", "registry-1", "report-1", "settings-1", "settings-changes-1",
+                         ["build-plan-1", "clean-1", "convert-1", "dependencies-1", "devices-1", "doctor-1",
+                          "explain-1", "info-1", "package-1", "package-listing-1", "recent-1", "registry-1", "report-1",
+                          "settings-1", "settings-changes-1",
                           "targets-1", "version-1"])
 
 

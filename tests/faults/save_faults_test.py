@@ -18,6 +18,10 @@ SAMPLE = ROOT / "samples" / "HelloWorld"
 CALLS = ["openat", "write", "fsync", "rename,renameat,renameat2", "fchmod", "fchown", "unlink,unlinkat", "ftruncate"]
 SET = ["settings", "set", "HelloWorld.vbp", "DefaultFontName", "Swiss"]
 BUILD = ["build", "HelloWorld.vbp", "--yes"]
+CONVERT = ["convert", "HelloWorld.vbp", "--to", "PocketPC-SH3", "--in-place"]
+COPY = ["convert", "HelloWorld.vbp", "--to", "PocketPC-SH3", "--output", "../new/Copy.vbp", "--yes"]
+REFUSALS = [("openat", "EACCES"), ("write", "ENOSPC"), ("fsync", "EIO"), ("mkdir", "EACCES"),
+            ("rename,renameat,renameat2", "EACCES"), ("rename,renameat,renameat2", "EIO")]
 
 
 class Project:
@@ -36,6 +40,7 @@ class Project:
         return {p.name: p.read_bytes() for p in self.folder.iterdir() if p.is_file()}
 
     def restore(self):
+        shutil.rmtree(self.base / "new", ignore_errors=True)
         for path in self.folder.iterdir():
             path.unlink()
         for name, content in self.old.items():
@@ -132,6 +137,68 @@ class Images(unittest.TestCase):
         self.assertNotEqual(result.returncode, 0)
         self.assertNotIn("HelloWorld.0000.qlx", self.project.files())
         self.assertEqual(set(self.project.files()), set(self.project.old))
+
+
+class Conversions(unittest.TestCase):
+    """The original keeps its bytes or gets all new ones, whatever fails; a later run puts everything right."""
+
+    def setUp(self):
+        self.project = Project()
+        good = self.project.run(CONVERT)
+        self.assertEqual(good.returncode, 0, good.stderr)
+        self.new = self.project.vbp.read_bytes()
+        self.project.restore()
+        good = self.project.run(COPY)
+        self.assertEqual(good.returncode, 0, good.stderr)
+        self.copy = self.new_files()
+        self.project.restore()
+
+    def tearDown(self):
+        self.project.remove()
+
+    def new_files(self):
+        return {p.name: p.read_bytes() for p in (self.project.base / "new").glob("*")}
+
+    def each_failure(self, arguments):
+        failures = [(calls, "signal=KILL") for calls in [*CALLS, "mkdir"]]
+        failures += [(calls, f"error={error}") for calls, error in REFUSALS]
+        for calls, failure in failures:
+            self.project.restore()
+            for when in range(1, self.project.calls_of(arguments, calls) + 1):
+                self.project.restore()
+                result = self.project.run(arguments, f"{calls}:{failure}:when={when}")
+                yield f"{failure} at {calls} {when}: {result.returncode} {result.stderr}", result
+
+    def check_nothing_is_left(self, folder, what):
+        left = [p.name for p in folder.glob("*") if p.name.endswith((".converting", ".temp"))]
+        self.assertEqual(left, [], what)
+
+    def test_in_place(self):
+        old = self.project.old["HelloWorld.vbp"]
+        for what, result in self.each_failure(CONVERT):
+            now = self.project.vbp.read_bytes()
+            self.assertIn(now, (old, self.new), what)
+            if now != old:  # never without the backup
+                self.assertEqual((self.project.folder / "HelloWorld.vbp.bak").read_bytes(), old, what)
+            if result.returncode == 0:
+                self.assertEqual(now, self.new, what)
+            again = self.project.run(CONVERT)
+            self.assertEqual((again.returncode, self.project.vbp.read_bytes()), (0, self.new), what + again.stderr)
+            self.check_nothing_is_left(self.project.folder, what)
+
+    def test_copy(self):
+        for what, result in self.each_failure(COPY):
+            self.assertEqual(self.project.files(), self.project.old, what)
+            if result.returncode == 0:
+                self.assertEqual(self.new_files(), self.copy, what)
+            for name, content in self.new_files().items():
+                whole = (self.copy.get(name), self.project.old.get(name), self.project.old["HelloWorld.vbp"],
+                         self.copy["Copy.vbp"])
+                self.assertTrue(name.startswith(".fernwick-") or content in whole, f"{name}: {what}")
+            again = self.project.run(COPY)
+            now = {name: content for name, content in self.new_files().items() if not name.startswith(".fernwick-")}
+            self.assertEqual((again.returncode, now), (0, self.copy), what + again.stderr)
+            self.check_nothing_is_left(self.project.base / "new", what)
 
 
 class ReadOnly(unittest.TestCase):

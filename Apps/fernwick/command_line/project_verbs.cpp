@@ -76,6 +76,23 @@ void defineClean(CLI::App& app, Raw& raw) {
     addDryRun(clean, raw);
 }
 
+void defineConvert(CLI::App& app, Raw& raw) {
+    auto& convert = addVerb(app, raw, "convert", runConvert, "Move a project to another device",
+                            "fernwick convert AddressBook.vbp --to PocketPC-SH3 --output ../Pocket/AddressBook.vbp");
+    addProject(convert, raw);
+    convert.add_option("--to", raw.options.device, "Design target of the new device")->type_name("KEY")->required();
+    convert.add_flag("--in-place", raw.options.inPlace, "Convert the project itself; its old file is kept as .bak");
+    convert
+        .add_option("--output", raw.options.newFile,
+                    "Copy the project to this file in another folder and convert the "
+                    "copy")
+        ->type_name("FILE")
+        ->excludes("--in-place");
+    addAnswers(convert, raw);
+    addCodePage(convert, raw);
+    addNoWait(convert, raw);
+}
+
 void defineDeploy(CLI::App& app, Raw& raw) {
     auto& deploy = addVerb(app, raw, "deploy", runDeploy, "Send a project or a package to a device",
                            "fernwick deploy AddressBook.vbp --my-devices", Result::Messages);
@@ -100,6 +117,7 @@ void defineProjectVerbs(CLI::App& app, Raw& raw) {
     defineBuild(app, raw);
     defineValidate(app, raw);
     defineClean(app, raw);
+    defineConvert(app, raw);
     definePackage(app, raw);
     defineDeploy(app, raw);
     defineInstallRuntime(app, raw);

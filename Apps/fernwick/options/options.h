@@ -37,6 +37,9 @@ struct Options {
     std::string depfileTarget;
     /// The folder for image, package and results; "" for the project's.
     std::string output;
+    /// `convert` changes the project itself, or makes this project file.
+    bool inPlace = false;
+    std::string newFile;
     /// The project file receives no results.
     bool noStore = false;
     /// Fail if another run writes the project.

@@ -11,6 +11,7 @@ int runBuild(const Options& options, Console& console);
 int runCheck(const Options& options, Console& console);
 int runClean(const Options& options, Console& console);
 int runCompletion(const Options& options, Console& console);
+int runConvert(const Options& options, Console& console);
 int runDependencies(const Options& options, Console& console);
 int runDeploy(const Options& options, Console& console);
 int runDevices(const Options& options, Console& console);

@@ -59,6 +59,8 @@ inline constexpr std::array kIconTable{
                 "ink M 2.5 1.5 L 8 1.5 11 4.5 11 8 M 2.5 1.5 L 2.5 14.5 7 14.5 green M 12 9 L 12 15 M 9 12 L 15 12"},
     IconDrawing{"StartUp", "ink M 3.5 1.5 L 3.5 14.5 GREEN M 3.5 2 L 13 5 3.5 8.5 Z"},
     IconDrawing{"Start", "GREEN M 3 1.5 L 14 8 3 14.5 Z"},
+    IconDrawing{"Convert", "BLUE R 2.5 3 3 4 ink R 1.5 1.5 5 9 BLUE R 10.5 6.5 3 4 ink R 9.5 5 5 9 "
+                           "green M 2.5 13.5 L 7 13.5 M 5 11.5 L 7 13.5 5 15.5"},
     IconDrawing{"Options",
                 "ink M 1.5 4 L 14.5 4 M 1.5 8 L 14.5 8 M 1.5 12 L 14.5 12 BLUE E 5 4 1.8 1.8 BLUE E 11 8 1.8 1.8 "
                 "BLUE E 6.5 12 1.8 1.8"},

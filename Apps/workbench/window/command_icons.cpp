@@ -56,6 +56,7 @@ constexpr std::array kCommandIcons{
     CommandIcon{kAddFileId, "AddFile"},
     CommandIcon{kRemoveComponentId, "Remove"},
     CommandIcon{kStartUpProjectId, "StartUp"},
+    CommandIcon{kConvertProjectId, "Convert"},
     CommandIcon{kProjectPropertiesId, "Properties"},
     CommandIcon{kStartId, "Start"},
     CommandIcon{kOptionsId, "Options"},

@@ -109,6 +109,7 @@ const Command kProjectCommands[] = {
     {kRemoveComponentId, "&Remove File", kNoKey, kAlways, [](auto& on) { removeComponent(inHand(on), &on.window); }},
     {kGroup},
     {kStartUpProjectId, "Set as Start &Up", kNoKey, kAlways, [](auto& on) { setAsStartUp(inHand(on)); }},
+    {kConvertProjectId, "Convert to Another &Device...", kNoKey, kAlways, [](auto& on) { on.program.convert(); }},
     {kProjectPropertiesId, "&Properties...", kNoKey, kAlways, editProjectProperties},
 };
 

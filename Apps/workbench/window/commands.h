@@ -72,6 +72,7 @@ enum CommandId : int {
     kResetZoomId,
     kToolsMenuId,
     kOptionsId,
+    kConvertProjectId,
 };
 
 /// The program's actions that commands call.
@@ -81,6 +82,8 @@ struct ProgramActions {
     std::function<void()> removeProject;
     /// Compiles the active project and sends it to its device.
     std::function<void()> start;
+    /// Converts the active project to another device.
+    std::function<void()> convert;
     std::function<void()> options;
     std::function<void()> help;
     std::function<void()> about;

@@ -14,7 +14,9 @@
 #include "Apps/workbench/window/menus.h"
 #include "Apps/workbench/window/missing_commands.h"
 #include "Apps/workbench/window/page_window.h"
+#include "Apps/workbench/window/project_converting.h"
 #include "Host/model/projects.h"
+#include <QStatusBar>
 
 namespace workbench {
 
@@ -62,6 +64,7 @@ void Workbench::watchForms() {
     user_.closed = [this](const fernwick::Form& form) {
         window_->docks().drawMessagesSoon();
         transfers_->formClosed(form);
+        showBackup(form);
     };
     window_->docks().isStatusCurrent = [this] {
         return user_.isShowingForm() || addIn().messages.status() != fernwick::RunStatus::Running;
@@ -97,6 +100,7 @@ ProgramActions Workbench::programActions() {
         if (active && mayBeClosed(*host_, {active}, window_.get())) host_->VBProjects()->Remove(active);
     };
     actions.start = [this] { startActive(); };
+    actions.convert = [this] { convertActive(); };
     actions.options = [this] { editOptions(); };
     actions.help = [this] { addIn().help.DisplayHelp(fernwick::kUsersGuideTopic); };
     actions.about = [this] { showAbout(window_.get()); };
@@ -152,14 +156,32 @@ void Workbench::run(const std::function<void()>& act) {
     } catch (...) { showError(std::current_exception(), window_.get()); }
 }
 
-void Workbench::startActive() {
+/// A box says why there is none.
+vbide::Ref<fernwick::clsQLProject> Workbench::activeFernwickProject() {
     const auto active = host_->ActiveVBProject();
-    if (!active) return;
-    if (!isConnected()) return showNotConnected(window_.get());
+    if (!active) return nullptr;
+    if (!isConnected()) return showNotConnected(window_.get()), nullptr;
     const auto project = addIn().projects.FindQLProject(active);
-    if (!project) return showOpenedTooEarly(active->Name(), window_.get());
-    if (!project->IsQuinloftProject()) return showNoFernwickProject(active->Name(), window_.get());
-    if (compiled(active)) addIn().sendToDevice.SendProjectToDevice(project, false, project->TargetDevice());
+    if (!project) return showOpenedTooEarly(active->Name(), window_.get()), nullptr;
+    if (!project->IsQuinloftProject()) return showNoFernwickProject(active->Name(), window_.get()), nullptr;
+    return project;
+}
+
+void Workbench::startActive() {
+    const auto project = activeFernwickProject();
+    if (project && compiled(project->VBProject()))
+        addIn().sendToDevice.SendProjectToDevice(project, false, project->TargetDevice());
+}
+
+void Workbench::convertActive() {
+    if (const auto project = activeFernwickProject()) convertProject(*host_, addIn(), project->VBProject());
+}
+
+/// After a conversion in place.
+void Workbench::showBackup(const fernwick::Form& form) {
+    const auto& converter = addIn().converter;
+    if (&form != &converter || converter.backup().empty()) return;
+    window_->statusBar()->showMessage(QString("The old project file is %1").arg(qt(converter.backup())));
 }
 
 bool Workbench::isConnected() const { return host_->Addins()->Item(apps::kAddInProgId)->Connect(); }

@@ -42,7 +42,10 @@ private:
     void run(const std::function<void()>& act);
     void newProject();
     void editOptions();
+    vbide::Ref<fernwick::clsQLProject> activeFernwickProject();
     void startActive();
+    void convertActive();
+    void showBackup(const fernwick::Form& form);
     bool isConnected() const;
     bool compiled(const vbide::Ref<vbide::VBProject>& project);
     bool mayRunSteps(const std::string& commandLine, const std::string& folder);
