@@ -46,9 +46,8 @@ void frmDesignTargetConverter::btnOK_Click() {
 
 void frmDesignTargetConverter::btnCancel_Click() {
     Procedure here{services_.errors, "frmDesignTargetConverter.btnCancel_Click"};
-    const int answer = here.value([&] {
-        return services_.user.MsgBox(kLeaveUnconverted, vbYesNo + vbQuestion, kTitle);
-    });
+    const int answer =
+        here.value([&] { return services_.user.MsgBox(kLeaveUnconverted, vbYesNo + vbQuestion, kTitle); });
     if (answer == vbYes) Unload();
 }
 

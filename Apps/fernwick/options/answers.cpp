@@ -27,9 +27,9 @@ constexpr std::array kQuestions{
     KnownQuestion{"deploy-errors", Box::DeployWithErrors, Reply::No,
                   "the project has compile errors: deploy the old image?"},
     KnownQuestion{"replace-file", Box::ReplaceFile, Reply::No, "overwrite an existing file?"},
-    KnownQuestion{"invalid-references", Box::InvalidReferences, Reply::No,
+    KnownQuestion{"invalid-refs", Box::InvalidReferences, Reply::No,
                   "remove the references that the new device lacks?"},
-    KnownQuestion{"converted-files", Box::ConvertedFiles, Reply::No,
+    KnownQuestion{"convert-files", Box::ConvertedFiles, Reply::No,
                   "replace these files, or write outside of the new folder?"},
 };
 

@@ -94,7 +94,9 @@ int runConvert(const Options& options, Console& console) {
     const auto key = usableDevice(session, options.device);
     if (options.inPlace && ownDevice(session) == key) {
         console.note(fmt::format("{}: its device is {} already", project, key));
-        print(options, console, {.newPlatform = key}, project);
+        Conversion unchanged;
+        unchanged.newPlatform = key;
+        print(options, console, unchanged, project);
         return kGood;
     }
     options.inPlace ? session.requireWritableProject() : session.requireAllMembers();
