@@ -5,8 +5,17 @@ namespace workbench {
 
 namespace {
 
-constexpr char kSaveFirst[] = "Save the project before it is converted?";
+constexpr char kTitle[] = "Fernwick";
+constexpr char kSaveFirst[] = "The project has unsaved changes. Save them and continue?";
 constexpr char kNotSaved[] = "The project was not saved, so it is not converted.";
+
+/// The files on disk are converted.
+bool isSaved(fernwick::Modules& addIn, const vbide::Ref<vbide::VBProject>& project) {
+    using namespace fernwick;
+    if (!addIn.save.ProjectIsDirty(project)) return true;
+    return addIn.platform.interaction.MsgBox(kSaveFirst, vbOKCancel + vbQuestion, kTitle) == vbOK &&
+           addIn.save.SaveProject(project, false, "", true, kNotSaved);
+}
 
 void openInstead(host::Host& host, fernwick::frmDesignTargetConverter& converter,
                  const vbide::Ref<vbide::VBProject>& project) {
@@ -18,7 +27,7 @@ void openInstead(host::Host& host, fernwick::frmDesignTargetConverter& converter
 } // namespace
 
 void convertProject(host::Host& host, fernwick::Modules& addIn, const vbide::Ref<vbide::VBProject>& project) {
-    if (!addIn.save.SaveProject(project, true, kSaveFirst, true, kNotSaved)) return;
+    if (!isSaved(addIn, project)) return;
     auto& converter = addIn.converter;
     converter.ShowModal();
     converter.Unload();
