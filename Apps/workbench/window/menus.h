@@ -1,6 +1,7 @@
 #pragma once
 // Adds the window's commands to the host's menus, where add-ins find them too.
 #include "Apps/workbench/window/commands.h"
+#include "Host/model/bars/bar.h"
 #include "Host/model/host.h"
 
 namespace workbench {
