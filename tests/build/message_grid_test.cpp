@@ -206,6 +206,12 @@ TEST_F(MessageRows, LeaveTheStatusLineTheWholeWidth) {
     EXPECT_EQ(window->statusSizes().textWidth, 1);
 }
 
+TEST_F(MessageRows, TheStatusLineFollowsTheScreensX) {
+    screen.y = 12;
+    window->SetStatusLabel("Compile Status:");
+    EXPECT_EQ(window->statusSizes().textLeft, 75 + 15 * 10 * 15);
+}
+
 /// A screen whose pixels are not square.
 struct LowPixels : test::FixedScreen {
     float TwipsPerPixelY() const override { return 12; }

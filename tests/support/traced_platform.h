@@ -225,8 +225,9 @@ struct NoShell : fernwick::Shell {
     void Open(const std::string&) override {}
 };
 struct FixedScreen : fernwick::Screen {
-    float TwipsPerPixelX() const override { return 15; }
-    float TwipsPerPixelY() const override { return 15; }
+    float x = 15, y = 15;
+    float TwipsPerPixelX() const override { return x; }
+    float TwipsPerPixelY() const override { return y; }
     fernwick::Color GetSysColor(fernwick::SysColorIndex) const override { return fernwick::RGB(212, 208, 200); }
     bool FontFamilyExists(const std::string&) const override { return true; }
 };

@@ -1,4 +1,5 @@
 // The contrast of the colours, as the accessibility guidelines define it: 4.5 to 1 for text, 3 to 1 for edges.
+#include "Apps/workbench/base/application_name.h"
 #include "Apps/workbench/base/text.h"
 #include "Apps/workbench/properties/form_colours.h"
 #include "tests/workbench/running_bench.h"
@@ -6,6 +7,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPainter>
+#include <QSettings>
 #include <QStyleOption>
 #include <cmath>
 
@@ -125,4 +127,10 @@ TEST_P(Themes, EachColourOfTheCodeIsAColour) {
     for (const auto& colour :
          {paper, text, keyword, comment, string, number, directive, margin, marginText, currentLine, error, warning})
         EXPECT_TRUE(colour.isValid());
+}
+
+TEST(Settings, AreKeptUnderTheNamesOfTheProgram) {
+    workbench::nameApplication();
+    EXPECT_TRUE(QSettings().fileName().endsWith("/fernwick/workbench.conf")) << QSettings().fileName().toStdString();
+    workbench::nameApplication("workbench-test");
 }
