@@ -38,8 +38,6 @@ public:
     /// Forgets the last conversion.
     void clear();
     const Conversion& last() const { return last_; }
-    /// Whether finishCopy has references to remove.
-    bool removedReferences() const { return !removed_.empty(); }
 
     /// Converts the open project in place. Its file is backed up first; without a backup nothing is changed.
     void convertInPlace(const basic::Ref<vbide::VBProject>& project, const std::string& key);

@@ -26,13 +26,17 @@ std::string newProjectFile(Session& session, const std::string& given) {
     return path;
 }
 
-/// References that the device lacks leave the copy, too.
+/// Opens the copy, which becomes a recent project; references that the device lacks leave it, too.
 bool finishCopy(Session& session) {
-    auto& conversion = session.addIn().converter.conversion();
-    if (!conversion.removedReferences()) return true;
+    auto& addIn = session.addIn();
+    auto& conversion = addIn.converter.conversion();
+    session.project()->IsDirty(false); // some of its references may have been removed
+    session.host().VBProjects()->Remove(session.project());
     const auto copy = session.host().VBProjects()->AddFromFile(conversion.last().projectFile);
     conversion.finishCopy(copy);
-    session.addIn().projects.GetQLProject(copy)->SaveFiles();
+    const auto project = addIn.projects.GetQLProject(copy);
+    project->SaveFiles();
+    addIn.recent.AddProjectToRecentList(project);
     return copy->Saved();
 }
 

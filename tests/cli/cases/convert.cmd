@@ -11,6 +11,7 @@ ls
 run fernwick convert --to pocketpc-sh3 --output ../new/deep/Pocket
 same HelloWorld.vbp before
 find ../new | sort
+run fernwick recent
 diff before ../new/deep/Pocket.vbp
 run fernwick check ../new/deep/Pocket.vbp
 run fernwick convert --to PocketPC-ARM --output ../new/deep/Pocket.vbp
