@@ -1,5 +1,5 @@
 #include "Add-in/lifecycle/converted_project_file.h"
-#include "Basic/runtime_error.h"
+#include "Add-in/lifecycle/project_rewriting.h"
 
 namespace fernwick {
 
@@ -7,7 +7,6 @@ namespace {
 
 constexpr std::string_view kGlobal = "[Quinloft Global]", kDevice = "TargetDevice=", kCompileTarget = "CompileTarget",
                            kStyle = "TavletStyleID=";
-constexpr const char* kRewritten = ".converting";
 
 /// Follows the lines of a project file into its global section and out of it.
 class GlobalSection {
@@ -39,27 +38,15 @@ std::string rewritten(const std::string& line, const designtargetaccess::IQLDesi
 
 void fixConvertedVBP(FileSystemObject& files, const std::string& projectFile,
                      const designtargetaccess::IQLDesignTarget& target) {
-    const auto from = files.OpenTextFile(projectFile);
-    const auto to = files.CreateTextFile(projectFile + kRewritten, true);
-    GlobalSection global;
-    while (!from->AtEndOfStream()) {
-        const auto line = from->ReadLine();
-        to->WriteLine(global.holds(line) ? rewritten(line, target) : line);
-    }
-    from->Close();
-    to->Close();
-}
-
-void convertProjectFile(FileSystemObject& files, const std::string& projectFile,
-                        const designtargetaccess::IQLDesignTarget& target) {
-    const auto newText = projectFile + kRewritten;
-    try {
-        fixConvertedVBP(files, projectFile, target);
-        files.MoveFile(newText, projectFile);
-    } catch (const basic::RuntimeError&) {
-        (void)basic::attempt([&] { files.DeleteFile(newText, true); });
-        throw;
-    }
+    rewriteProjectFile(files, projectFile, [&](TextStream& to) {
+        const auto from = files.OpenTextFile(projectFile);
+        GlobalSection global;
+        while (!from->AtEndOfStream()) {
+            const auto line = from->ReadLine();
+            to.WriteLine(global.holds(line) ? rewritten(line, target) : line);
+        }
+        from->Close();
+    });
 }
 
 std::string storedInProjectFile(FileSystemObject& files, const std::string& projectFile, std::string_view key) {

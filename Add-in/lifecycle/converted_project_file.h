@@ -5,15 +5,10 @@
 
 namespace fernwick {
 
-/// Writes `projectFile` with the device's keys to `projectFile` + ".converting". Only "TargetDevice", "CompileTarget..."
-/// and "TavletStyleID" of the global section change. Errors go to the caller.
+/// Rewrites a project file for a device. Only "TargetDevice", "CompileTarget..." and "TavletStyleID" of the global section
+/// change. Errors go to the caller.
 void fixConvertedVBP(FileSystemObject& files, const std::string& projectFile,
                      const designtargetaccess::IQLDesignTarget& target);
-
-/// Replaces `projectFile` by its rewritten text. Until the last step it keeps its bytes, and the rewritten text does not
-/// remain. Errors go to the caller.
-void convertProjectFile(FileSystemObject& files, const std::string& projectFile,
-                        const designtargetaccess::IQLDesignTarget& target);
 
 /// The value of a key in the global section of a project file; "" if it is missing.
 std::string storedInProjectFile(FileSystemObject& files, const std::string& projectFile, std::string_view key);

@@ -145,7 +145,7 @@ void ProjectConversion::copyFiles(Procedure& here, const ProjectCopy& copy) {
 
 void ProjectConversion::rewriteCopy(Procedure& here, const designtargetaccess::IQLDesignTarget& target) {
     auto& files = services_.files;
-    here([&] { convertProjectFile(files, last_.projectFile, target); });
+    here([&] { fixConvertedVBP(files, last_.projectFile, target); });
     const auto device = here.value([&] { return storedInProjectFile(files, last_.projectFile, "TargetDevice"); });
     if (device == last_.newPlatform) return;
     last_.isComplete = false;

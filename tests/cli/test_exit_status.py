@@ -61,6 +61,12 @@ def make_ordinary(work):
     path.write_bytes(path.read_bytes().split(b"[Quinloft Global]")[0])
 
 
+def make_old(work):
+    """The project has the format of an old version."""
+    path = work / PROJECT
+    path.write_bytes(path.read_bytes().replace(b"ProjectVersion=3.5", b"ProjectVersion=1.0"))
+
+
 def hide(path):
     return lambda work: (work / path).chmod(0)
 
@@ -125,6 +131,10 @@ TABLE = {
         "read-only": Cell(MACHINE, PROJECT, *TO, "--in-place", prepare=lock(PROJECT)),
         "full disk": Cell(MACHINE, PROJECT, *TO, "--output", "new/Copy.vbp"),
         "interrupted": Cell(INTERRUPTED, PROJECT, *TO, "--in-place")},
+    "upgrade": project_row() | {
+        "good": Cell(GOOD, PROJECT, prepare=make_old), "errors": Cell(FAILED, PROJECT, prepare=make_ordinary),
+        "read-only": Cell(MACHINE, PROJECT, prepare=lock(PROJECT)),
+        "full disk": Cell(MACHINE, PROJECT, prepare=make_old)},
     "settings": {
         "good": Cell(GOOD, "set", PROJECT, "DefaultFontSize", "9"),
         "errors": Cell(FAILED, "set", PROJECT, "DefaultFontSize", "9", prepare=make_ordinary),
@@ -297,7 +307,7 @@ class ExitStatus(unittest.TestCase):
     def test_each_command_that_opens_a_project_takes_its_code_page(self):
         takers = [verb for verb in self.verbs
                   if "--code-page" in self.template.fernwick("help", verb, check=True).stdout]
-        self.assertEqual(takers, ["build", "validate", "clean", "convert", "package", "deploy", "check", "info", "messages",
+        self.assertEqual(takers, ["build", "validate", "clean", "convert", "upgrade", "package", "deploy", "check", "info", "messages",
                                   "settings", "dependencies"])
         for verb in takers:
             arguments = (PROJECT,) if verb == "check" else TABLE[verb]["good"].arguments

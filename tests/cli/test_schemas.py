@@ -127,6 +127,15 @@ class Schemas(unittest.TestCase):
         changed = self.fits("convert", "convert", project, "--to", "PocketPC-SH3", "--in-place")
         self.assertEqual((changed["converted"], changed["backup"]), (True, project + ".bak"))
 
+    def test_upgrades(self):
+        present = self.project.read_bytes()
+        self.assertFalse(self.fits("upgrade", "upgrade", str(self.project))["upgraded"])
+        old = present.replace(b"ProjectVersion=3.5", b"OldOption=7")
+        self.project.write_bytes(old)
+        done = self.fits("upgrade", "upgrade", str(self.project))
+        self.assertEqual((done["upgraded"], done["unknownLines"]), (True, ["OldOption=7"]))
+        self.assertEqual(self.project.with_name("HelloWorld.vbp.bak").read_bytes(), old)
+
     def test_dependencies(self):
         self.fits("dependencies", "dependencies", str(self.project))
         (self.project.parent / "prices.pdb").write_text("12345")
@@ -255,7 +264,7 @@ class Schemas(unittest.TestCase):
                          ["build-plan-1", "clean-1", "convert-1", "dependencies-1", "devices-1", "doctor-1",
                           "explain-1", "info-1", "package-1", "package-listing-1", "recent-1", "registry-1", "report-1",
                           "settings-1", "settings-changes-1",
-                          "targets-1", "version-1"])
+                          "targets-1", "upgrade-1", "version-1"])
 
 
 if __name__ == "__main__":

@@ -20,6 +20,7 @@ SET = ["settings", "set", "HelloWorld.vbp", "DefaultFontName", "Swiss"]
 BUILD = ["build", "HelloWorld.vbp", "--yes"]
 CONVERT = ["convert", "HelloWorld.vbp", "--to", "PocketPC-SH3", "--in-place"]
 COPY = ["convert", "HelloWorld.vbp", "--to", "PocketPC-SH3", "--output", "../new/Copy.vbp", "--yes"]
+UPGRADE = ["upgrade", "HelloWorld.vbp"]
 REFUSALS = [("openat", "EACCES"), ("write", "ENOSPC"), ("fsync", "EIO"), ("mkdir", "EACCES"),
             ("rename,renameat,renameat2", "EACCES"), ("rename,renameat,renameat2", "EIO")]
 
@@ -184,6 +185,25 @@ class Conversions(unittest.TestCase):
                 self.assertEqual(now, self.new, what)
             again = self.project.run(CONVERT)
             self.assertEqual((again.returncode, self.project.vbp.read_bytes()), (0, self.new), what + again.stderr)
+            self.check_nothing_is_left(self.project.folder, what)
+
+    def test_upgrade(self):
+        old = self.project.old["HelloWorld.vbp"].replace(b"ProjectVersion=3.5\r\n", b"")
+        self.project.old["HelloWorld.vbp"] = old
+        self.project.restore()
+        good = self.project.run(UPGRADE)
+        self.assertEqual(good.returncode, 0, good.stderr)
+        new = self.project.vbp.read_bytes()
+        self.assertIn(b"ProjectVersion=3.5\r\n", new)
+        for what, result in self.each_failure(UPGRADE):
+            now = self.project.vbp.read_bytes()
+            self.assertIn(now, (old, new), what)
+            if now == new:
+                self.assertEqual((self.project.folder / "HelloWorld.vbp.bak").read_bytes(), old, what)
+            if result.returncode == 0:
+                self.assertEqual(now, new, what)
+            again = self.project.run(UPGRADE)
+            self.assertEqual((again.returncode, self.project.vbp.read_bytes()), (0, new), what + again.stderr)
             self.check_nothing_is_left(self.project.folder, what)
 
     def test_copy(self):

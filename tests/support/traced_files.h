@@ -101,7 +101,9 @@ public:
     void DeleteFile(const std::string& path, bool) override { files.erase(Canonical(path)); }
     /// A folder is what contains a file.
     void CreateFolder(const std::string& path) override { files[Canonical(path) + "/"] = {}; }
+    bool refusesMoves = false;
     void MoveFile(const std::string& from, const std::string& to) override {
+        if (refusesMoves) throw basic::RuntimeError(basic::kPermissionDenied);
         files[Canonical(to)] = at(from);
         files.erase(Canonical(from));
     }

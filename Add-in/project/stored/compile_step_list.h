@@ -2,6 +2,7 @@
 // The command lines that a project runs before or after a compile.
 #include "Add-in/core/array.h"
 #include "Add-in/project/stored/project_setting.h"
+#include "Basic/case_folding.h"
 
 namespace fernwick {
 
@@ -24,6 +25,10 @@ public:
     Values defaults() const override { return {}; }
     bool isWritable() const override { return true; }
     void assign(const Values& values) override;
+    bool owns(std::string_view section, std::string_view stored) const override {
+        return section == kCompilerOptionsSection &&
+               (basic::equalNoCase(stored, key("Count")) || isNumberedKey(stored, prefix_));
+    }
 
 private:
     std::string key(const std::string& end) const { return prefix_ + end; }

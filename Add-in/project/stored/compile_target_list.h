@@ -3,6 +3,7 @@
 #include "Add-in/core/array.h"
 #include "Add-in/project/stored/device_keys.h"
 #include "Add-in/project/stored/project_store.h"
+#include "Basic/case_folding.h"
 
 namespace fernwick {
 
@@ -16,6 +17,9 @@ public:
     /// Stores the entries from 1 to the upper bound.
     void set(const Array<std::string>& list);
     bool contains(const std::string& name) const;
+    static bool owns(std::string_view key) {
+        return basic::equalNoCase(key, "NumCompileTargets") || isNumberedKey(key, "CompileTarget");
+    }
 
 private:
     ProjectStore& store_;

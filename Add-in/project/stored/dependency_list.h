@@ -1,6 +1,7 @@
 #pragma once
 // A list of dependencies that a build stores in the project: a count, and entries under numbered keys from 1.
 #include "Add-in/project/stored/project_setting.h"
+#include "Basic/case_folding.h"
 
 namespace fernwick {
 
@@ -18,6 +19,10 @@ public:
     Values defaults() const override { return {}; }
     bool isWritable() const override { return false; }
     void assign(const Values& values) override { write(values); }
+    bool owns(std::string_view section, std::string_view key) const override {
+        return section == kDependenciesSection &&
+               (basic::equalNoCase(key, countKey()) || isNumberedKey(key, entryKey_));
+    }
 
 private:
     std::string countKey() const { return "Num" + name(); }

@@ -29,6 +29,8 @@ public:
     virtual bool isWritable() const = 0;
     /// Stores values that convert to the setting's kind; only for a writable setting.
     virtual void assign(const Values& values) = 0;
+    /// Whether a key in a section of the project file belongs to the setting.
+    virtual bool owns(std::string_view section, std::string_view key) const = 0;
 
 protected:
     ProjectSetting(SettingList* owner, std::string name, std::string meaning);

@@ -1,8 +1,15 @@
 #include "Add-in/project/stored/project_store.h"
 #include "Add-in/core/stored_lists.h"
+#include "Basic/case_folding.h"
 #include "Basic/conversions.h"
 
 namespace fernwick {
+
+bool isNumberedKey(std::string_view key, std::string_view beginning) {
+    constexpr std::string_view kDigits = "0123456789";
+    return basic::startsWithNoCase(key, beginning) && key.size() > beginning.size() &&
+           key.find_first_not_of(kDigits, beginning.size()) == key.npos;
+}
 
 std::int32_t ProjectStore::readCount(const char* section, const std::string& key) const {
     std::int32_t count = 0;

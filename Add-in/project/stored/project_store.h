@@ -11,6 +11,9 @@ inline constexpr const char* kGlobalSection = "Quinloft Global";
 inline constexpr const char* kCompilerOptionsSection = "Quinloft Compiler Options";
 inline constexpr const char* kDependenciesSection = "Quinloft Components And Tavlet Dependencies Section";
 
+/// Whether a key is this beginning and a number.
+bool isNumberedKey(std::string_view key, std::string_view beginning);
+
 /// The open project that settings and lists are stored in. Nothing is cached.
 class ProjectStore {
 public:

@@ -3,6 +3,7 @@
 // `project.Autosave()` and written by `project.Autosave(true)`.
 #include "Add-in/project/stored/project_setting.h"
 #include "Add-in/project/stored/setting_text.h"
+#include "Basic/case_folding.h"
 
 namespace fernwick {
 
@@ -34,6 +35,9 @@ public:
     Values defaults() const override { return {settingText(otherwise_)}; }
     bool isWritable() const override { return false; }
     void assign(const Values&) override { throw basic::RuntimeError(basic::kInvalidProcedureCall); }
+    bool owns(std::string_view section, std::string_view stored) const override {
+        return section == kGlobalSection && basic::equalNoCase(stored, key());
+    }
 
 protected:
     virtual T get() const try {

@@ -15,6 +15,10 @@ public:
     /// Fetches the design target of a key, unless it is already set.
     void fetchDesignTarget(Procedure& here, const std::string& key);
 
+    bool owns(std::string_view section, std::string_view key) const override {
+        return Setting::owns(section, key) || (section == kGlobalSection && CompileTargetList::owns(key));
+    }
+
 protected:
     std::string get() const override { return currentDeviceKey(Setting::get()); }
     void let(const std::string& key) override;

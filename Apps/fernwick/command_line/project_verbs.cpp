@@ -93,6 +93,14 @@ void defineConvert(CLI::App& app, Raw& raw) {
     addNoWait(convert, raw);
 }
 
+void defineUpgrade(CLI::App& app, Raw& raw) {
+    auto& upgrade = addVerb(app, raw, "upgrade", runUpgrade, "Bring a project of an old Fernwick over to this version",
+                            "fernwick upgrade AddressBook.vbp");
+    addProject(upgrade, raw);
+    addCodePage(upgrade, raw);
+    addNoWait(upgrade, raw);
+}
+
 void defineDeploy(CLI::App& app, Raw& raw) {
     auto& deploy = addVerb(app, raw, "deploy", runDeploy, "Send a project or a package to a device",
                            "fernwick deploy AddressBook.vbp --my-devices", Result::Messages);
@@ -118,6 +126,7 @@ void defineProjectVerbs(CLI::App& app, Raw& raw) {
     defineValidate(app, raw);
     defineClean(app, raw);
     defineConvert(app, raw);
+    defineUpgrade(app, raw);
     definePackage(app, raw);
     defineDeploy(app, raw);
     defineInstallRuntime(app, raw);

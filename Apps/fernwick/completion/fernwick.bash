@@ -64,7 +64,7 @@ _fernwick_complete() {
   fi
   case $verb in
     "") _fernwick_help Commands: --help ;;
-    convert | messages) _fernwick_files "vbp" ;;
+    convert | messages | upgrade) _fernwick_files "vbp" ;;
     build | clean | validate) _fernwick_files "vbp|vbg" ;;
     dependencies) [[ -z $action || ${action,,} == *.vbp ]] && _fernwick_words "list add remove"
       if [[ -z $action ]]; then _fernwick_files "vbp"; else _fernwick_files "*"; fi ;;

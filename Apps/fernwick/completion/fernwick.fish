@@ -79,7 +79,7 @@ function __fernwick_complete
             __fernwick_help Commands: --help
         case completion
             printf '%s\n' bash zsh fish
-        case convert messages
+        case convert messages upgrade
             __fish_complete_suffix .vbp
         case build clean info validate workbench
             __fish_complete_suffix .vbp

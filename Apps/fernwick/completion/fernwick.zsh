@@ -65,7 +65,7 @@ _fernwick() {
     "") _fernwick_help verbs Commands: --help ;;
     help) compadd answers; _fernwick_help verbs Commands: --help ;;
     completion) compadd bash zsh fish ;;
-    convert | messages) _files -g '(#i)*.vbp' ;;
+    convert | messages | upgrade) _files -g '(#i)*.vbp' ;;
     build | clean | info | validate | workbench) _files -g '(#i)*.(vbp|vbg)' ;;
     check) _files -g '(#i)*.(vbp|vbg|bas|cls|frm|ctl|pag|dsr|dob)' ;;
     deploy | package) _files -g '(#i)*.(vbp|vbg|qlpkg)' ;;

@@ -139,8 +139,8 @@ void Session::requireFernwickProject() {
     const auto version = read("ProjectVersion");
     if (version.empty() || version == fernwick::kOldProjectFormat)
         throw Refusal(kProjectErrors,
-                      fmt::format("{}: created by a version of Fernwick before 3.5 (version 1.0) and must be converted "
-                                  "first. Nothing was written.",
+                      fmt::format("{}: created by a version of Fernwick before 3.5 (version 1.0); bring it over with "
+                                  "fernwick upgrade. Nothing was written.",
                                   path_));
 }
 

@@ -25,6 +25,7 @@ int runRecent(const Options& options, Console& console);
 int runRegistry(const Options& options, Console& console);
 int runSettings(const Options& options, Console& console);
 int runTargets(const Options& options, Console& console);
+int runUpgrade(const Options& options, Console& console);
 int runValidate(const Options& options, Console& console);
 int runVersion(const Options& options, Console& console);
 int runWorkbench(const Options& options, Console& console);
