@@ -49,7 +49,7 @@ TEST_F(Converting, InPlaceNamesTheOldFileInTheStatusLine) {
 
 TEST_F(Converting, ACopyTakesThePlaceOfTheProject) {
     const auto original = folder.read("HelloWorld/HelloWorld.vbp");
-    const auto copy = folder / "pocket/Hello.vbp";
+    const auto copy = folder / "pocket/HelloWorld.vbp";
     std::filesystem::create_directory(folder / "pocket");
     convert([&](auto& shown) {
         test::whenShown<QFileDialog>([&](QFileDialog& dialog) {
