@@ -30,8 +30,9 @@ private:
 std::string rewritten(const std::string& line, const designtargetaccess::IQLDesignTarget& target) {
     if (line.starts_with(kDevice)) return std::string(kDevice) + target.Key();
     if (line.starts_with(kStyle)) return std::string(kStyle) + target.TavletStyleID();
-    if (line.starts_with(kCompileTarget)) return line.substr(0, line.find('=') + 1) + target.Key();
-    return line;
+    const auto divider = line.find('=');
+    if (!line.starts_with(kCompileTarget) || divider == line.npos) return line;
+    return line.substr(0, divider + 1) + target.Key();
 }
 
 } // namespace

@@ -2,7 +2,6 @@
 #include "Add-in/core/modFileManagement.h"
 #include "Add-in/lifecycle/project_files.h"
 #include "Basic/runtime_error.h"
-#include <algorithm>
 
 namespace fernwick {
 
@@ -21,22 +20,18 @@ ProjectCopy::ProjectCopy(FileSystemObject& files, const basic::Ref<vbide::VBProj
       newFolder_(files.GetParentFolderName(newProjectFile)) {
     const auto found = filesOfProject(files, project);
     plan(projectFile_, project->FileName(), newProjectFile);
-    for (const auto& path : found.components)
-        if (std::find(found.absoluteComponents.begin(), found.absoluteComponents.end(), path) ==
-            found.absoluteComponents.end())
-            planRelative(components_, GetRelativePath(files, files.WithSeparator(oldFolder_), path));
+    for (const auto& component : found.components)
+        if (!component.isAbsolute)
+            planRelative(components_, GetRelativePath(files, files.WithSeparator(oldFolder_), component.path));
     for (const auto& path : found.dependencies) planRelative(dependencies_, path);
     for (const auto& path : found.icons) planRelative(icons_, path);
-    planBeside(found.components);
+    for (const auto& component : found.components)
+        plan(components_, component.path, files_.BuildPath(newFolder_, files_.GetFileName(component.path)));
 }
 
 void ProjectCopy::planRelative(Plan& to, const std::string& relative) {
     if (relative.empty() || files_.IsAbsolute(relative)) return;
     plan(to, files_.BuildPath(oldFolder_, relative), files_.BuildPath(newFolder_, relative));
-}
-
-void ProjectCopy::planBeside(const Paths& paths) {
-    for (const auto& path : paths) plan(components_, path, files_.BuildPath(newFolder_, files_.GetFileName(path)));
 }
 
 /// A place that is taken already is left to its file.

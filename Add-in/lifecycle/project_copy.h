@@ -40,7 +40,6 @@ private:
     using Paths = std::vector<std::string>;
 
     void planRelative(Plan& to, const std::string& relative);
-    void planBeside(const Paths& paths);
     void plan(Plan& to, const std::string& from, const std::string& place);
     Paths placesThat(const std::function<bool(const Planned&)>& fits) const;
     bool copyAll(const Plan& plan) const;

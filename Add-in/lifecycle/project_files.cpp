@@ -50,8 +50,7 @@ void readComponents(FileSystemObject& files, const vbide::VBProject& project, vb
         for (int i = 1; i <= component->FileCount(); ++i) {
             const auto path = component->FileNames(i);
             if (path.empty()) continue;
-            found.components.push_back(path);
-            if (absolute.contains(files.Canonical(component->FileNames(1)))) found.absoluteComponents.push_back(path);
+            found.components.push_back({path, absolute.contains(files.Canonical(component->FileNames(1)))});
         }
 }
 

@@ -7,10 +7,13 @@ namespace fernwick {
 
 /// Paths relative to the project file, and absolute ones. Each list is in the order in which the project names them.
 struct ProjectFiles {
+    struct Component {
+        std::string path;
+        /// Whether the project file names it by an absolute path.
+        bool isAbsolute = false;
+    };
     /// Components with their binary companions.
-    std::vector<std::string> components;
-    /// Those of them that the project file names by an absolute path.
-    std::vector<std::string> absoluteComponents;
+    std::vector<Component> components;
     /// Files that go to the device with the application, fonts excepted, as stored.
     std::vector<std::string> dependencies;
     /// The icon and the resource file, as stored.

@@ -18,9 +18,10 @@ protected:
     Converter() {
         targets.known = {"Palm-1", "Palm-2", "Pocket-1"};
         project = open("A", "Palm-1");
-        files.files["/p/A.vbp"].bytes = "Type=Exe\r\nTargetDevice=Before\r\n[Quinloft Global]\r\nIconFileName=A.ico\r\n"
-                                        "TargetDevice=Palm-1\r\nCompileTarget1=Palm-1\r\nTavletStyleID=1\r\n"
-                                        "Other=Palm-1\r\n[MS Transaction Server]\r\nTargetDevice=After\r\n";
+        files.files["/p/A.vbp"].bytes =
+            "Type=Exe\r\nTargetDevice=Before\r\n[Quinloft Global]\r\nIconFileName=A.ico\r\n"
+            "TargetDevice=Palm-1\r\nCompileTarget1=Palm-1\r\nCompileTargets\r\nTavletStyleID=1\r\n"
+            "Other=Palm-1\r\n[MS Transaction Server]\r\nTargetDevice=After\r\n";
         files.files["/p/A.ico"].bytes = "icon";
         file("Form1.frm");
         project->add("Form1", "/p/Form1.frm", vbide::vbext_ct_VBForm);
@@ -129,10 +130,11 @@ TEST_F(Converter, WithoutABackupNothingIsChanged) {
 
 TEST_F(Converter, TheCopyHasTheNewDeviceInItsGlobalSectionOnly) {
     copyTo("/new/B.vbp");
-    EXPECT_EQ(bytes("/new/B.vbp"),
-              "Type=Exe\r\nTargetDevice=Before\r\n[Quinloft Global]\r\nIconFileName=A.ico\r\nTargetDevice=Pocket-1\r\n"
-              "CompileTarget1=Pocket-1\r\nTavletStyleID=2\r\nOther=Palm-1\r\n[MS Transaction Server]\r\n"
-              "TargetDevice=After\r\n");
+    EXPECT_EQ(
+        bytes("/new/B.vbp"),
+        "Type=Exe\r\nTargetDevice=Before\r\n[Quinloft Global]\r\nIconFileName=A.ico\r\nTargetDevice=Pocket-1\r\n"
+        "CompileTarget1=Pocket-1\r\nCompileTargets\r\nTavletStyleID=2\r\nOther=Palm-1\r\n[MS Transaction Server]\r\n"
+        "TargetDevice=After\r\n");
     EXPECT_EQ(bytes("/new/B.vbp.converting"), "(none)");
     EXPECT_EQ(bytes("/new/A.ico"), "icon");
     EXPECT_EQ(bytes("/new/Form1.frm"), "Form1.frm");
@@ -222,6 +224,17 @@ TEST_F(Converter, ComponentsKeepTheirPlacesAndAreBesideTheProjectToo) {
     copyTo("/new/B.vbp");
     EXPECT_EQ(bytes("/new/sub/Tools.bas"), "sub/Tools.bas");
     EXPECT_EQ(bytes("/new/Tools.bas"), "sub/Tools.bas");
+}
+
+TEST_F(Converter, AComponentWithAnAbsolutePathIsOnlyPutBesideTheProject) {
+    file("lib/Far.bas");
+    project->add("Far", "/p/lib/Far.bas");
+    auto& text = files.files["/p/A.vbp"].bytes;
+    text = "Module=Far; /p/lib/Far.bas\r\n" + text;
+    copyTo("/new/B.vbp");
+    EXPECT_EQ(bytes("/new/Far.bas"), "lib/Far.bas");
+    EXPECT_EQ(bytes("/new/lib/Far.bas"), "(none)");
+    EXPECT_TRUE(converter.projectConverted());
 }
 
 TEST_F(Converter, FilesOfOneNameDoNotOverwriteEachOther) {
