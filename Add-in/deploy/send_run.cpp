@@ -47,7 +47,7 @@ tResourceList SendRun::readDependencies() {
                   deploy_texts::kTitle) != vbYes)
         return dependencies;
     user_.SetCursor(vbHourglass);
-    services_.settings.ShowQuinloftSettings(project, "Dependencies", false);
+    services_.settings.ShowQuinloftSettings(project, kDependenciesPage, false);
     return services_.dependencies.ReadProjectDependencies(project);
 }
 

@@ -11,6 +11,12 @@ public:
         : Control(form, std::move(name)), Caption(this, std::move(caption)) {
         own_ = Click.connect([form, click] { (form->*click)(); });
     }
+    /// A button whose handler is in a part of the form.
+    template <class P>
+    CommandButton(Form* form, std::string name, std::string caption, P* part, void (P::*click)())
+        : Control(form, std::move(name)), Caption(this, std::move(caption)) {
+        own_ = Click.connect([part, click] { (part->*click)(); });
+    }
     Property<std::string> Caption;
     /// Whether Return presses the button (Default), and whether Escape does (Cancel).
     bool Default = false, Cancel = false;

@@ -66,8 +66,8 @@ public:
     virtual basic::Ref<TextStream> CreateTextFile(const std::string& path, bool overwrite) = 0;
     /// Returns the whole file unchanged.
     virtual std::string ReadBytes(const std::string& path) const = 0;
-    /// Returns at most `most` bytes from the start of the file.
-    virtual std::string ReadHead(const std::string& path, std::size_t most) const = 0;
+    /// Returns at most `most` bytes of the file from a position on, which counts from 0; "" beyond its end.
+    virtual std::string ReadPart(const std::string& path, std::uint64_t at, std::size_t most) const = 0;
     /// Replaces the file atomically.
     virtual void WriteBytes(const std::string& path, const std::string& bytes) = 0;
     /// In nanoseconds since 1970, like GetDateLastModified.

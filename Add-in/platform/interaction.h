@@ -21,7 +21,7 @@ enum VbMsgBoxStyle : int {
     vbDefaultButton2 = 256,
 };
 
-/// The questions that a front end can answer without the user. Each is asked in only one place.
+/// The questions that a front end can answer without the user.
 enum class Question {
     FailedStep,
     ConvertForms,

@@ -11,6 +11,9 @@ class Processes {
 public:
     virtual ~Processes() = default;
 
+    /// Whether the program of a command line exists, beside a folder or in PATH.
+    virtual bool FindsProgram(const std::string& commandLine, const std::string& workingFolder) const = 0;
+
     /// `commandLine` is split by the quoting rules of Windows command lines, without a shell. False, and `process` 0,
     /// if the program could not be started or is not allowed.
     virtual bool CreateProcess(const std::string& commandLine, const std::string& workingFolder, int showWindow,

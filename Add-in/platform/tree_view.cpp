@@ -47,6 +47,11 @@ void TreeView::SelectedItem(const std::string& key) {
     SelectionChanged.raise();
 }
 
+void TreeView::Deselect() {
+    selected_.clear();
+    SelectionChanged.raise();
+}
+
 void TreeView::choose(const std::string& key) {
     if (key == selected_) return;
     SelectedItem(key);

@@ -32,13 +32,15 @@ public:
     void Text(const std::string& key, std::string text);
     void Expanded(const std::string& key, bool expanded);
     void SelectedItem(const std::string& key);
+    void Deselect();
     /// The key of the selected node; "" for none.
     const std::string& SelectedItem() const { return selected_; }
     /// Selects a node as the user does. Nothing happens for the selected one.
     void choose(const std::string& key);
 
-private:
     bool has(const std::string& key) const;
+
+private:
     Node& node(const std::string& key);
 
     std::vector<Node> nodes_;

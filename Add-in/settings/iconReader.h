@@ -45,6 +45,8 @@ public:
     Result GetImageDetails(std::int16_t Index, IconImageDetails& image) const;
 
 private:
+    /// Of the image that begins at this offset of the file.
+    std::int16_t bitCountOf(std::uint32_t image) const;
     Result find(std::int16_t index) const;
 
     const FileSystemObject& files_;

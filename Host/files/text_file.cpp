@@ -138,10 +138,12 @@ FileContent readFile(const std::string& path) {
     return content;
 }
 
-std::string readFileHead(const std::string& path, std::size_t most) {
+std::string readFilePart(const std::string& path, std::uint64_t at, std::size_t most) {
     const ReadDescriptor file(path);
-    const auto state = regularFileState(file, path);
-    return readAll(file.number(), std::min(most, std::size_t(state.st_size)), path);
+    const auto size = std::uint64_t(regularFileState(file, path).st_size);
+    if (at >= size) return {};
+    if (::lseek(file.number(), off_t(at), SEEK_SET) < 0) throw systemError(errno, "cannot be read", path);
+    return readAll(file.number(), std::size_t(std::min<std::uint64_t>(most, size - at)), path);
 }
 
 } // namespace host

@@ -56,7 +56,8 @@ inline constexpr std::uint64_t kLargestFile = std::uint64_t{1} << 30;
 /// or not a regular file, 7 larger than kLargestFile, 57 the device failed.
 FileContent readFile(const std::string& path);
 
-/// Reads at most the first `most` bytes of a file of any size. Errors as readFile, except 7.
-std::string readFileHead(const std::string& path, std::size_t most);
+/// Reads at most `most` bytes of a file of any size from a position on; none beyond its end. Errors as readFile, except
+/// 7.
+std::string readFilePart(const std::string& path, std::uint64_t at, std::size_t most);
 
 } // namespace host

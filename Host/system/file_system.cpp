@@ -115,8 +115,8 @@ std::string FileSystem::ReadBytes(const std::string& path) const {
     return withScriptErrors([&] { return readFile(PlaceOnDisk(path)).bytes; });
 }
 
-std::string FileSystem::ReadHead(const std::string& path, std::size_t most) const {
-    return withScriptErrors([&] { return readFileHead(PlaceOnDisk(path), most); });
+std::string FileSystem::ReadPart(const std::string& path, std::uint64_t at, std::size_t most) const {
+    return withScriptErrors([&] { return readFilePart(PlaceOnDisk(path), at, most); });
 }
 
 void FileSystem::WriteBytes(const std::string& path, const std::string& bytes) {

@@ -38,7 +38,7 @@ public:
     /// The file is written atomically when the stream is closed or released.
     basic::Ref<fernwick::TextStream> CreateTextFile(const std::string& path, bool overwrite) override;
     std::string ReadBytes(const std::string& path) const override;
-    std::string ReadHead(const std::string& path, std::size_t most) const override;
+    std::string ReadPart(const std::string& path, std::uint64_t at, std::size_t most) const override;
     void WriteBytes(const std::string& path, const std::string& bytes) override;
     void SetDateLastModified(const std::string& path, std::int64_t time) override;
     /// The copy has the source's times, and a new file also its mode. A destination that ends with a separator is a

@@ -52,13 +52,21 @@ private:
     int ending_ = 0;
 };
 
+std::string nativeFolder(const std::string& workingFolder) {
+    std::error_code ignored;
+    return PathLookup().find(std::filesystem::current_path(ignored).string(), workingFolder);
+}
+
 } // namespace
+
+bool Processes::FindsProgram(const std::string& commandLine, const std::string& workingFolder) const {
+    return findProgram(commandLine, nativeFolder(workingFolder), false).has_value();
+}
 
 bool Processes::CreateProcess(const std::string& commandLine, const std::string& workingFolder, int,
                               std::uint32_t& process) {
     process = 0;
-    std::error_code ignored;
-    const auto folder = PathLookup().find(std::filesystem::current_path(ignored).string(), workingFolder);
+    const auto folder = nativeFolder(workingFolder);
     const auto program = findProgram(commandLine, folder, false);
     if (!program || !mayRun_(commandLine, folder)) return false;
     const auto id = startProgram(*program, folder);

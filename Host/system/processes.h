@@ -23,6 +23,7 @@ public:
         Permission mayRun, Interrupted interrupted = [] { return false; })
         : mayRun_(std::move(mayRun)), interrupted_(std::move(interrupted)) {}
 
+    bool FindsProgram(const std::string& commandLine, const std::string& workingFolder) const override;
     bool CreateProcess(const std::string& commandLine, const std::string& workingFolder, int showWindow,
                        std::uint32_t& process) override;
     std::uint32_t WaitForSingleObject(std::uint32_t process) override;

@@ -229,7 +229,7 @@ TEST_F(FontScanInMemory, ListsFoldersAndReadsFilesOnce) {
     for (int i = 0; i < 300; ++i) designer->add("QLLabel", "F", 0, i % 30);
     EXPECT_EQ(scan().size(), 20U);
     EXPECT_EQ(files.listings, 2);
-    EXPECT_EQ(files.headsRead, 20);
+    EXPECT_EQ(files.partsRead, 20);
 }
 
 TEST_F(FontScanInMemory, AControlWithoutAFontPropertyIsReportedAndSkipped) {

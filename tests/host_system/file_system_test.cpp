@@ -47,11 +47,11 @@ TEST_F(LocalFiles, AreFoundInAnyLetterCaseAndWithEitherSeparator) {
 
 TEST_F(LocalFiles, ReadTheirFirstBytes) {
     folder.write("a.bin", std::string("1\0002345", 6));
-    EXPECT_EQ(files.ReadHead(path("A.BIN"), 3), std::string("1\0002", 3));
-    EXPECT_EQ(files.ReadHead(path("a.bin"), 100), std::string("1\0002345", 6));
-    EXPECT_EQ(files.ReadHead(path("a.bin"), 0), "");
-    EXPECT_EQ(errorOf([&] { files.ReadHead(path("gone.bin"), 3); }), basic::kFileNotFound);
-    EXPECT_NE(errorOf([&] { files.ReadHead(folder.path(), 3); }), 0);
+    EXPECT_EQ(files.ReadPart(path("A.BIN"), 0, 3), std::string("1\0002", 3));
+    EXPECT_EQ(files.ReadPart(path("a.bin"), 0, 100), std::string("1\0002345", 6));
+    EXPECT_EQ(files.ReadPart(path("a.bin"), 0, 0), "");
+    EXPECT_EQ(errorOf([&] { files.ReadPart(path("gone.bin"), 0, 3); }), basic::kFileNotFound);
+    EXPECT_NE(errorOf([&] { files.ReadPart(folder.path(), 0, 3); }), 0);
 }
 
 TEST_F(LocalFiles, AnExactNameComesFirst) {

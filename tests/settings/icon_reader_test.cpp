@@ -1,35 +1,16 @@
 // The directory of an icon file, well-formed or not.
 #include "Add-in/settings/iconReader.h"
 #include "Host/system/file_system.h"
+#include "icon_bytes.h"
 #include "tests/support/temp_folder.h"
 #include <gtest/gtest.h>
 
 using fernwick::iconReader;
+using test::icon;
+using test::number;
 
 namespace {
 
-std::string number(std::uint32_t value, int bytes) {
-    std::string text;
-    for (; bytes > 0; --bytes, value >>= 8) text += char(value & 0xFF);
-    return text;
-}
-
-struct Image {
-    int width, height, bits;
-    int colors = 0, planes = 1;
-    std::uint32_t size = 40, offset = 0;
-};
-
-/// The beginning of an icon file; `count` replaces the number of images.
-std::string icon(const std::vector<Image>& images, int count = -1, int type = 1) {
-    auto bytes = number(0, 2) + number(std::uint32_t(type), 2) +
-                 number(std::uint32_t(count < 0 ? int(images.size()) : count), 2);
-    for (const auto& i : images)
-        bytes += number(std::uint32_t(i.width), 1) + number(std::uint32_t(i.height), 1) +
-                 number(std::uint32_t(i.colors), 1) + number(0, 1) + number(std::uint32_t(i.planes), 2) +
-                 number(std::uint32_t(i.bits), 2) + number(i.size, 4) + number(i.offset, 4);
-    return bytes;
-}
 /// A BITMAPINFOHEADER.
 std::string bitmapHeader(int bits) {
     return number(40, 4) + number(16, 4) + number(32, 4) + number(1, 2) + number(std::uint32_t(bits), 2) +
@@ -142,7 +123,9 @@ TEST_F(IconReader, ANegativeCountIsNoIcon) { EXPECT_EQ(load(icon({}, 0x8000)), 5
 
 TEST_F(IconReader, AFileThatCannotBeReadIsNoIcon) {
     struct Unreadable : host::FileSystem {
-        std::string ReadBytes(const std::string&) const override { throw basic::RuntimeError(70); }
+        std::string ReadPart(const std::string&, std::uint64_t, std::size_t) const override {
+            throw basic::RuntimeError(70);
+        }
     } unreadable;
     iconReader failing{unreadable};
     EXPECT_EQ(failing.LoadIconFile(folder.write("My.ico", icon({{16, 16, 4}}))), 5);

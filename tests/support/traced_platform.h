@@ -120,6 +120,9 @@ public:
     std::map<std::string, std::int32_t> codes;
     bool waitFails = false;
 
+    bool FindsProgram(const std::string& commandLine, const std::string&) const override {
+        return codes.contains(commandLine);
+    }
     bool CreateProcess(const std::string& commandLine, const std::string& folder, int show,
                        std::uint32_t& process) override {
         trace_.effect("run " + commandLine + " in " + folder + " show " + std::to_string(show));
@@ -220,8 +223,13 @@ public:
 private:
     Trace& trace_;
 };
+/// Starts nothing.
 struct NoShell : fernwick::Shell {
-    int Start(const std::string&) override { return 1; }
+    std::vector<std::string> started;
+    int Start(const std::string& commandLine) override {
+        started.push_back(commandLine);
+        return 1;
+    }
     void Open(const std::string&) override {}
 };
 struct FixedScreen : fernwick::Screen {

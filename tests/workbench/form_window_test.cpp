@@ -26,10 +26,20 @@ class Forms : public test::DesktopWorld {
 protected:
     /// All forms of the add-in that have a window.
     std::vector<Form*> all() {
-        return {&modules.about,           &modules.saveFiles,      &modules.saveWarning,    &modules.compileWarning,
-                &modules.compile,         &modules.validate,       &modules.sendToDevice,   &modules.sendRuntime,
-                &modules.chooseTarget,    &modules.gettingStarted, &modules.projectManager, &modules.converter,
-                &modules.converterWarning};
+        return {&modules.about,
+                &modules.saveFiles,
+                &modules.saveWarning,
+                &modules.compileWarning,
+                &modules.compile,
+                &modules.validate,
+                &modules.sendToDevice,
+                &modules.sendRuntime,
+                &modules.chooseTarget,
+                &modules.gettingStarted,
+                &modules.projectManager,
+                &modules.converter,
+                &modules.converterWarning,
+                &modules.settingsDialog};
     }
     Modules modules{platform};
 };

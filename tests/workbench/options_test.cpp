@@ -2,6 +2,7 @@
 #include "Apps/workbench/code/scintilla.h"
 #include "Apps/workbench/options/contrast.h"
 #include "Apps/workbench/options/declared_options.h"
+#include "tests/workbench/keyboard_access.h"
 #include "tests/workbench/options_world.h"
 #include <QAccessible>
 #include <QCheckBox>
@@ -115,25 +116,7 @@ TEST_F(Options, HaveNamesAndLettersForTheKeyboard) {
     edit([](Dialog& dialog) {
         for (int page = 0; page < 4; ++page) {
             turnTo(dialog, page);
-            std::multiset<QString> letters;
-            const auto add = [&letters](const QString& text) {
-                if (const auto letter = QKeySequence::mnemonic(text); !letter.isEmpty())
-                    letters.insert(letter.toString());
-            };
-            const auto& tabs = field<QTabWidget>(dialog, "pages");
-            for (int tab = 0; tab < tabs.count(); ++tab) add(tabs.tabText(tab));
-            for (auto* button : dialog.findChildren<QAbstractButton*>())
-                if (button->isVisible()) add(button->text());
-            for (auto* label : dialog.findChildren<QLabel*>())
-                if (label->isVisible() && label->buddy()) add(label->text());
-            for (const auto& letter : letters) EXPECT_EQ(letters.count(letter), 1u) << page << letter.toStdString();
-            for (auto* widget : dialog.findChildren<QWidget*>()) {
-                const bool takesKeys = (widget->focusPolicy() & Qt::TabFocus) != 0 && widget->isVisible();
-                if (!takesKeys || dynamic_cast<QSpinBox*>(widget->parent())) continue;
-                auto* const accessible = QAccessible::queryAccessibleInterface(widget);
-                EXPECT_TRUE(accessible && !accessible->text(QAccessible::Name).isEmpty())
-                    << page << " " << widget->objectName().toStdString();
-            }
+            test::expectKeyboardAccess(dialog);
         }
         dialog.reject();
     });

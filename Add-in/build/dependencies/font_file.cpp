@@ -47,7 +47,7 @@ FontFace readFontHead(std::string_view head) {
 
 std::optional<FontFace> CheckFontFile(const FileSystemObject& files, const std::string& path) {
     std::optional<FontFace> font;
-    (void)basic::attempt([&] { font = readFontHead(files.ReadHead(path, kFontHeadBytes)); });
+    (void)basic::attempt([&] { font = readFontHead(files.ReadPart(path, 0, kFontHeadBytes)); });
     return font;
 }
 

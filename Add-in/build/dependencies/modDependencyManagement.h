@@ -45,10 +45,15 @@ public:
     void ClearProjectDependencies(const Project& project);
     /// Whether all files exist: fonts in the fonts folder or the project's folder, others in the project's folder.
     bool ValidateDependencyList(const Project& project, const tResourceList& list);
+    /// Returns where an entry's file is expected, whether it exists or not. For fonts, the fonts folder takes
+    /// precedence.
+    std::string PlaceOf(const Project& project, const tResource& entry) const;
 
     // Files that the user adds.
     /// Lets the user choose files and returns those that exist, each once; none after Cancel.
     tResourceList GetNewDependency(const Project& project);
+    /// Returns the entries of those files that exist, each once. A name that cannot be stored is refused with a box.
+    tResourceList CreateNewDependencies(const Project& project, const std::vector<std::string>& paths);
     /// Returns the entry of a file. A file outside the project's folder is copied there, replacing a file of that name.
     /// With `allowCopy` the user is asked first, and the entry is blank after No.
     tResource CreateNewDependency(const Project& project, const std::string& path, bool allowCopy);
@@ -66,7 +71,8 @@ private:
     struct FontScan;
 
     tResource readDependency(const Project& project, std::int32_t index);
-    std::string placeOf(const std::string& folder, const tResource& entry) const;
+    bool canBeListed(Procedure& here, const std::string& folder, const std::string& path);
+    bool mayReplace(Procedure& here, const std::string& path, const std::string& replacement);
     std::string inFontsFolder(const std::string& name) const;
     std::string projectFolder(const Project& project) const;
     std::int32_t fileSize(const std::string& path) const;

@@ -37,14 +37,33 @@ tResourceList modDependencyManagement::GetNewDependency(const Project& project) 
     dialog.Filter = build_texts::kDependencyKinds;
     dialog.FilterIndex = 1;
     dialog.MaxFileSize = kMostFileNameBytes;
-    tResourceList chosen;
-    if (!here([&] { services_.platform.interaction.ShowOpen(dialog); })) return chosen;
-    for (const auto& path : chosenPaths(files, dialog.FileName)) {
-        if (!here.test([&] { return files.FileExists(path); })) continue;
+    if (!here([&] { services_.platform.interaction.ShowOpen(dialog); })) return {};
+    return CreateNewDependencies(project, chosenPaths(files, dialog.FileName));
+}
+
+tResourceList modDependencyManagement::CreateNewDependencies(const Project& project,
+                                                             const std::vector<std::string>& paths) {
+    Procedure here{services_.errors, "modDependencyManagement.GetNewDependency"};
+    const auto folder = here.value([&] { return projectFolder(project); });
+    tResourceList created;
+    for (const auto& path : paths) {
+        if (!here.test([&] { return services_.platform.files.FileExists(path); })) continue;
+        if (!canBeListed(here, folder, path)) continue;
         const auto entry = CreateNewDependency(project, path, true);
-        if (!ResourceinDependencyList(entry.FileName, chosen)) AddDependency(entry, chosen);
+        if (!ResourceinDependencyList(entry.FileName, created)) AddDependency(entry, created);
     }
-    return chosen;
+    return created;
+}
+
+/// A stored entry ends at its first comma.
+bool modDependencyManagement::canBeListed(Procedure& here, const std::string& folder, const std::string& path) {
+    using namespace fmt::literals;
+    const auto& files = services_.platform.files;
+    auto name = CreateRelativePath(folder, here.value([&] { return files.GetAbsolutePathName(path); }));
+    if (name.empty()) name = files.GetFileName(path);
+    if (name.find(',') == std::string::npos) return true;
+    box(here, fmt::format(build_texts::kCommaInDependency, "file"_a = name), vbExclamation);
+    return false;
 }
 
 tResource modDependencyManagement::CreateNewDependency(const Project& project, const std::string& path,
@@ -78,8 +97,28 @@ bool modDependencyManagement::copyToProject(Procedure& here, const std::string& 
         box(here, build_texts::kNotCopied, vbExclamation);
         return false;
     }
-    here([&] { files.CopyFile(path, files.BuildPath(folder, files.GetFileName(path)), true); });
+    const auto copy = here.value([&] { return files.BuildPath(folder, files.GetFileName(path)); });
+    if (allowCopy && !mayReplace(here, copy, path)) {
+        box(here, build_texts::kNotCopied, vbExclamation);
+        return false;
+    }
+    here([&] { files.CopyFile(path, copy, true); });
     return true;
+}
+
+/// A file with the same content is not lost.
+bool modDependencyManagement::mayReplace(Procedure& here, const std::string& path, const std::string& replacement) {
+    using namespace fmt::literals;
+    const auto& files = services_.platform.files;
+    const auto isFree = [&] {
+        return !files.FileExists(path) || files.ReadBytes(path) == files.ReadBytes(replacement);
+    };
+    if (here.value(isFree)) return true;
+    const auto question = fmt::format(build_texts::kReplaceDependency, "file"_a = path);
+    return here.value([&] {
+        return services_.platform.interaction.ask(Question::ReplaceFile, question,
+                                                  vbQuestion + vbYesNo + vbDefaultButton2, build_texts::kTitle);
+    }) == vbYes;
 }
 
 std::string modDependencyManagement::CreateRelativePath(const std::string& baseFolder, const std::string& path) {

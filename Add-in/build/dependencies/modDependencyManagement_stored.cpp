@@ -35,7 +35,7 @@ tResource modDependencyManagement::readDependency(const Project& project, std::i
     quietly([&] { fields = basic::Split(project->ReadProperty(kProjectDependencies, dependencyKey(index)), ",", 2); });
     if (!fields.empty()) entry.FileName = fields[0];
     if (fields.size() > 1) entry.FileType = basic::UCase(fields[1]);
-    if (!entry.FileName.empty()) quietly([&] { entry.FileSize = fileSize(placeOf(projectFolder(project), entry)); });
+    if (!entry.FileName.empty()) quietly([&] { entry.FileSize = fileSize(PlaceOf(project, entry)); });
     return entry;
 }
 
@@ -66,17 +66,15 @@ void modDependencyManagement::WriteProjectDependencies(const Project& project, c
 
 bool modDependencyManagement::ValidateDependencyList(const Project& project, const tResourceList& list) {
     Procedure here{services_.errors, "modDependencyManagement.ValidateDependencyList"};
-    const auto folder = here.value([&] { return projectFolder(project); });
     for (const auto& entry : list)
-        if (here.test([&] { return !services_.platform.files.FileExists(placeOf(folder, entry)); })) return false;
+        if (here.test([&] { return !services_.platform.files.FileExists(PlaceOf(project, entry)); })) return false;
     return true;
 }
 
-/// Returns where an entry's file is expected, whether it exists or not. For fonts, the fonts folder takes precedence.
-std::string modDependencyManagement::placeOf(const std::string& folder, const tResource& entry) const {
-    const auto& files = services_.platform.files;
+std::string modDependencyManagement::PlaceOf(const Project& project, const tResource& entry) const {
     const auto installed = entry.FileType == kFontType ? inFontsFolder(entry.FileName) : std::string{};
-    return installed.empty() ? files.BuildPath(folder, entry.FileName) : installed;
+    if (!installed.empty()) return installed;
+    return services_.platform.files.BuildPath(projectFolder(project), entry.FileName);
 }
 
 /// Returns the path of the file of this name in the fonts folder; "" for none.

@@ -93,6 +93,10 @@ inline constexpr char kDependencyKinds[] = "All Files(*.*)|*.*|"
 inline constexpr char kCopyDependency[] = "All dependency files must exist in the project folder.\r\n\r\n"
                                           "Would you like to copy\r\n{file}\r\nto\r\n{folder} ?";
 inline constexpr char kNotCopied[] = "Error copying file!";
+inline constexpr char kReplaceDependency[] = "The project folder already contains another file of this name.\r\n\r\n"
+                                             "Replace {file} ?";
+inline constexpr char kCommaInDependency[] =
+    "{file} cannot be a dependency, since its name contains a comma. Rename the file and add it again.";
 
 // During a validation
 inline constexpr char kValidating[] = "Validating {project}...";

@@ -9,7 +9,6 @@ namespace {
 
 /// Beyond the end of any line, so the whole line is selected.
 constexpr int kEndOfLine = 9999;
-constexpr char kCompilerSettingsPage[] = "Compiler Settings";
 constexpr char kPicturesHelpFile[] = "VB Toolkit\\doc\\Quinloft_Tamarik_and_Components.chm";
 constexpr char kPicturesPage[] = "::/Quinloft_Tamarik_and_Components_Tamarik And PNG Files.html";
 

@@ -4,12 +4,6 @@
 
 namespace fernwick {
 
-namespace {
-/// Not the name of a page, so that the dialog chooses the page.
-constexpr char kAnyPage[] = "INVALID DIALOG NAME";
-constexpr char kMyDevicesPage[] = "My Devices";
-} // namespace
-
 /// Returns Nothing, after a report, if the active project is not listed.
 basic::Ref<clsQLProject> Connect::activeProject() {
     return services_.projects.GetQLProject(services_.addIn.gVBInstance->ActiveVBProject());
@@ -37,7 +31,7 @@ void Connect::QuinloftSettingsHandler_Click() {
     Procedure here{services_.errors, "Connect.ProjectPropertiesHandler_Click"};
     here([&] { services_.user.SetCursor(vbHourglass); });
     const auto project = here.value([&] { return activeProject(); });
-    here([&] { services_.settings.ShowQuinloftSettings(project->VBProject(), kAnyPage, false); });
+    here([&] { services_.settings.ShowQuinloftSettings(project->VBProject(), kAnySettingsPage, false); });
 }
 
 void Connect::DeployDeviceHandler(const Item& item) {

@@ -5,8 +5,8 @@ namespace fernwick {
 Modules::Modules(Platform& p, const ModuleOverrides& overrides)
     : platform(p),
       errors(overrides.errors ? *overrides.errors : errorBoxes),
-      settings(overrides.settings ? *overrides.settings : notInThisBuild),
       features(overrides.features ? *overrides.features : notInThisBuild),
+      settings(overrides.settings ? *overrides.settings : settingsDialog),
       compileMsgsClass_(
           p.classes.RegisterClass(p.app.Title + ".udocCompileMsgs", [this] { return newCompileMsgs(); })) {}
 

@@ -12,6 +12,7 @@
 #include "Add-in/deploy/frmSendToDevice.h"
 #include "Add-in/lifecycle/frmDesignTargetConverterWarning.h"
 #include "Add-in/project/frmSaveWarning.h"
+#include "Add-in/settings/frmQuinloftSettings.h"
 
 namespace fernwick {
 
@@ -40,7 +41,6 @@ struct Modules {
     AddIn addIn{registry, errors, platform.environment};
     modReferencesManagement references{registry, platform.classes, errors};
     NotInThisBuild notInThisBuild{platform.interaction, addIn};
-    SettingsDialog& settings;
     MissingFeatures& features;
     // devices
     modDeviceManagement devices{platform.classes, errors};
@@ -71,6 +71,10 @@ struct Modules {
     frmCompile compile{
         {platform, errors, registry, install, projects, messages, dependencies, processes, saveFiles, menu}};
     frmValidate validate{{platform, errors, registry, install, projectServices, deviceServices, messages, compile}};
+    // settings
+    frmQuinloftSettings settingsDialog{
+        {platform, errors, addIn, prefs, install, devices, menu, help, projects, dependencies}};
+    SettingsDialog& settings;
     // deploy
     PipeServices pipeServices{platform, errors, install, devices};
     frmSendToDevice sendToDevice{

@@ -5,7 +5,6 @@ namespace fernwick {
 
 void NotInThisBuild::notInThisBuild() {
     if (addIn_.gConnectMode == vbide::vbext_cm_CommandLine) return;
-    user_.SetCursor(vbArrow); // commands that open a dialog wait for it with an hourglass
     user_.MsgBox(connect_texts::kNotInThisBuild, vbInformation, connect_texts::kTitle);
 }
 

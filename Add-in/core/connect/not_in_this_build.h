@@ -1,20 +1,15 @@
 #pragma once
 #include "Add-in/core/AddIn.h"
-#include "Add-in/core/settings_dialog.h"
 #include "Add-in/lifecycle/missing_features.h"
 #include "Add-in/platform/interaction.h"
 
 namespace fernwick {
 
-/// The placeholder for the features that this build lacks. In the desktop, a command shows a message box; calls that
+/// The placeholder for the feature that this build lacks. In the desktop, a command shows a message box; calls that
 /// the add-in makes by itself do nothing.
-class NotInThisBuild final : public SettingsDialog, public MissingFeatures {
+class NotInThisBuild final : public MissingFeatures {
 public:
-    using Project = basic::Ref<vbide::VBProject>;
-
     NotInThisBuild(Interaction& user, const AddIn& addIn) : user_(user), addIn_(addIn) {}
-
-    void ShowQuinloftSettings(const Project&, const std::string&, bool) override { notInThisBuild(); }
 
     void createZoomWindow() override {}
     void InitZoomWindow() override {}

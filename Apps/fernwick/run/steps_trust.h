@@ -1,6 +1,6 @@
 #pragma once
 // Whether a project's compile steps may run.
-#include "Apps/common/trusted_folders.h"
+#include "Add-in/core/trusted_folders.h"
 #include "Apps/fernwick/options/options.h"
 #include "Apps/fernwick/output/console.h"
 #include <optional>
@@ -26,7 +26,7 @@ private:
 
     const Options& options_;
     Console& console_;
-    std::optional<apps::TrustedFolders> folders_;
+    std::optional<fernwick::TrustedFolders> folders_;
     std::vector<std::string> steps_;
     std::optional<bool> decided_;
 };

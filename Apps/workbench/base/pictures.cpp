@@ -1,4 +1,5 @@
 #include "Apps/workbench/base/pictures.h"
+#include "Apps/workbench/base/drawn_icons.h"
 #include "Apps/workbench/base/icon_colours.h"
 #include "Apps/workbench/base/text.h"
 #include <QStyle>
@@ -48,12 +49,11 @@ QRgb withoutGround(QRgb pixel, Theme theme) {
 } // namespace
 
 QPixmap pictureNamed(const std::string& name, const QWidget& window) {
+    const int size = window.style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, &window);
     for (const auto& picture : kPictures)
-        if (picture.name == name) {
-            const int size = window.style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, &window);
-            return window.style()->standardIcon(picture.drawn, nullptr, &window).pixmap(size);
-        }
-    return QPixmap(qt(name));
+        if (picture.name == name) return window.style()->standardIcon(picture.drawn, nullptr, &window).pixmap(size);
+    const auto own = drawnIcon(name);
+    return own.isNull() ? QPixmap(qt(name)) : own.pixmap(size);
 }
 
 QImage imageOf(const std::string& bmp) { return QImage::fromData(QByteArray::fromStdString(bmp), "BMP"); }

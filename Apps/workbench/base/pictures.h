@@ -5,7 +5,7 @@
 
 namespace workbench {
 
-/// Returns a form's picture, either one of the style's by its name or a file by its path. Null for an unknown name or a
+/// Returns a form's picture: one of the style's or a drawn icon by its name, or a file by its path. Null for an unknown name or a
 /// file that is not a picture.
 QPixmap pictureNamed(const std::string& name, const QWidget& window);
 

@@ -19,7 +19,7 @@ using namespace fernwick;
 QString sizeText(const QString& bytes) {
     bool isNumber = false;
     const auto size = bytes.toLongLong(&isNumber);
-    return isNumber ? QLocale().formattedDataSize(size) : bytes;
+    return isNumber ? QLocale().formattedDataSize(size, 1, QLocale::DataSizeTraditionalFormat) : bytes;
 }
 
 QTreeWidgetItem* drawnRow(const ListView& control, const ListView::Item& row) {
@@ -41,7 +41,9 @@ void showRows(const ListView& control, QTreeWidget& widget) {
     widget.setColumnCount(int(headings.size()));
     widget.setHeaderLabels(headings);
     for (const auto& row : control.Items()) widget.addTopLevelItem(drawnRow(control, row));
-    for (int column = 0; column < headings.size(); ++column) widget.resizeColumnToContents(column);
+    for (int column = 0; column < headings.size(); ++column)
+        widget.header()->setSectionResizeMode(column,
+                                              column == 0 ? QHeaderView::Stretch : QHeaderView::ResizeToContents);
 }
 
 void showSelection(const ListView& control, QTreeWidget& widget) {
@@ -108,6 +110,8 @@ void bindListView(ListView& control, QTreeWidget& widget, Binding& binding) {
     widget.setRootIsDecorated(false);
     widget.setUniformRowHeights(true);
     widget.setSelectionMode(QAbstractItemView::ExtendedSelection);
+    widget.setTextElideMode(Qt::ElideMiddle);
+    widget.header()->setStretchLastSection(false);
     const auto show = [&control, &widget](ListView::Change change) {
         const QSignalBlocker ours(widget);
         if (change == ListView::Change::Rows) showRows(control, widget);

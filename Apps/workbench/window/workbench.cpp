@@ -1,8 +1,8 @@
 #include "Apps/workbench/window/workbench.h"
 #include "Add-in/core/error_source.h"
+#include "Add-in/core/trusted_folders.h"
 #include "Apps/common/compile_steps.h"
 #include "Apps/common/source_code_page.h"
-#include "Apps/common/trusted_folders.h"
 #include "Apps/workbench/base/text.h"
 #include "Apps/workbench/messages/messages_view.h"
 #include "Apps/workbench/options/options_dialog.h"
@@ -195,7 +195,7 @@ bool Workbench::compiled(const vbide::Ref<vbide::VBProject>& project) {
 }
 
 bool Workbench::mayRunSteps(const std::string& commandLine, const std::string& folder) {
-    apps::TrustedFolders trusted(machine_.registry());
+    fernwick::TrustedFolders trusted(machine_.registry());
     if (trusted.holds(folder)) return true;
     QStringList steps{qt(commandLine)};
     if (const auto project = addIn().projects.GetQLProject(host_->ActiveVBProject())) {

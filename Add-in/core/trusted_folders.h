@@ -3,19 +3,20 @@
 #include "Add-in/platform/registry.h"
 #include <string>
 
-namespace apps {
+namespace fernwick {
 
 /// Stored for the user; both programs share it.
 class TrustedFolders {
 public:
-    explicit TrustedFolders(fernwick::Registry& registry) : registry_(registry) {}
+    explicit TrustedFolders(Registry& registry) : registry_(registry) {}
 
     bool holds(const std::string& folder) const;
     /// Ignores a store that cannot be written: the user is asked again.
     void add(const std::string& folder);
+    void remove(const std::string& folder);
 
 private:
-    fernwick::Registry& registry_;
+    Registry& registry_;
 };
 
-} // namespace apps
+} // namespace fernwick

@@ -1,0 +1,207 @@
+// A project's settings, its conversion and its way back through the recent projects, once with the mouse only and once with
+// the keyboard only.
+#include "tests/workbench_x11/x_desktop.h"
+#include <QCheckBox>
+#include <QDialog>
+#include <QListWidget>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTreeWidget>
+#include <gmock/gmock.h>
+
+using namespace test;
+using testing::HasSubstr;
+
+namespace {
+
+struct ProjectRoad : XDesktop {
+    static QDialog* dialog() {
+        auto* const window = dynamic_cast<QDialog*>(QApplication::activeModalWidget());
+        return window && window->isVisible() && window->isActiveWindow() ? window : nullptr;
+    }
+    static void waitForDialog(const QString& name) {
+        eventually("the dialog " + name.toStdString(), [&] { return dialog() && dialog()->objectName() == name; });
+    }
+    static void waitForNoDialog() {
+        eventually("no dialog", [] { return !QApplication::activeModalWidget(); });
+    }
+    static void answerBox(With hand, const char* button) {
+        eventually("a question", [] { return dynamic_cast<QMessageBox*>(dialog()); });
+        if (hand == With::Keyboard) return press({"Return"});
+        click(ask([&] {
+            for (auto* one : dialog()->findChildren<QPushButton*>())
+                if (one->text() == button) return middleOf(*one);
+            return QPoint();
+        }));
+    }
+    template <class W = QWidget>
+    static W& widget(const char* name) {
+        return *dialog()->findChild<W*>(name);
+    }
+    vbide::Ref<fernwick::clsQLProject> settings() {
+        return bench->addIn().projects.FindQLProject(bench->host().ActiveVBProject());
+    }
+
+    // ---- with the mouse ----
+    static void clickOn(const char* name) {
+        click(ask([&] { return middleOf(widget(name)); }));
+    }
+    static void tick(const char* name) {
+        click(ask([&] {
+            auto& box = widget<QCheckBox>(name);
+            return middleOf(box, QRect(0, 0, box.height(), box.height()));
+        }));
+    }
+    static void clickPage(const QString& page, const char* frame) {
+        click(ask([&] {
+            auto& tree = widget<QTreeWidget>("treAvailableSettings");
+            return middleOf(*tree.viewport(), tree.visualItemRect(tree.findItems(page, Qt::MatchRecursive).front()));
+        }));
+        eventually("the page " + page.toStdString(), [&] { return widget(frame).isVisible(); });
+    }
+    /// A row of the list of devices.
+    static QPoint rowOf(const char* list, int row, bool itsTick = false) {
+        return ask([&] {
+            auto& rows = widget<QListWidget>(list);
+            auto place = rows.visualItemRect(rows.item(row));
+            if (itsTick) place.setWidth(place.height());
+            return middleOf(*rows.viewport(), place);
+        });
+    }
+
+    // ---- with the keyboard ----
+    void chooseByKeys(const QString& caption, const QString& letter) {
+        const int at = ask([&] {
+            int index = 0;
+            for (auto* top : window().menuBar()->actions()) {
+                if (top->text() == caption) break;
+                index += top->isVisible() ? 1 : 0;
+            }
+            return index;
+        });
+        press({"F10"});
+        for (int i = 0; i < at; ++i) press({"Right"});
+        press({"Down"});
+        eventually("the menu " + caption.toStdString(), [&] { return menu(caption)->isVisible(); });
+        press({letter});
+    }
+    static void tabTo(const QString& name) {
+        constexpr int kMost = 40;
+        for (int i = 0; i < kMost; ++i) {
+            if (ask([&] { return QApplication::focusWidget() && QApplication::focusWidget()->objectName() == name; }))
+                return;
+            press({"Tab"});
+        }
+        ADD_FAILURE() << "Tab does not reach " << name.toStdString();
+    }
+    static void pageByKeys(const char* frame) {
+        tabTo("treAvailableSettings");
+        press({"Down"});
+        eventually(std::string("the page ") + frame, [&] { return widget(frame).isVisible(); });
+    }
+    void expectAllStored() {
+        EXPECT_TRUE(settings()->SpacesInNameEnabled());
+        EXPECT_FALSE(settings()->ScanReferences());
+        EXPECT_FALSE(bench->addIn().prefs.gMyDevices.empty());
+    }
+    void closeProject() {
+        ask([this] { bench->host().VBProjects()->Remove(bench->host().ActiveVBProject()); });
+        eventually("no project", [this] { return bench->host().VBProjects()->items().empty(); });
+    }
+    void expectConverted(const char* device) {
+        eventually("the project is converted", [&] {
+            return !QApplication::activeModalWidget() && settings() && settings()->TargetDevice() == device;
+        });
+    }
+    void expectOpenAgain() {
+        eventually("the project is open again", [this] {
+            return !QApplication::activeModalWidget() && !bench->host().VBProjects()->items().empty();
+        });
+        EXPECT_EQ(ask([this] { return bench->host().ActiveVBProject()->Name(); }), "HelloWorld");
+    }
+};
+
+} // namespace
+
+TEST_F(ProjectRoad, ByTheMouseAlone) {
+    openSample("HelloWorld");
+    choose("&Fernwick", "Fernwick &Settings...");
+    waitForDialog("frmQuinloftSettings");
+    tick("chkSpacesInName");
+    clickPage("Compiler Settings", "fraCompilerOptions");
+    tick("chkReferenceChecking");
+    clickPage("Dependencies", "fraDependencies");
+    clickPage("My Devices", "fraMyDevices");
+    click(rowOf("lstMyDevices", 0, true));
+    clickOn("btnApply");
+    eventually("it is applied", [this] { return bench->host().ActiveVBProject()->IsDirty(); });
+    clickOn("btnOK");
+    waitForNoDialog();
+    ask([this] { expectAllStored(); });
+
+    choose("&Project", "Convert to Another &Device...");
+    answerBox(With::Mouse, "OK");
+    waitForDialog("frmDesignTargetConverter");
+    click(rowOf("lstDesignTargets", 1));
+    tick("chkOverwrite");
+    clickOn("btnOK");
+    expectConverted("PocketPC-ARM");
+    EXPECT_THAT(read("HelloWorld/HelloWorld.vbp"), HasSubstr("TargetDevice=PocketPC"));
+
+    closeProject();
+    choose("&Fernwick", "&Open Fernwick Project...");
+    waitForDialog("frmProjectManager");
+    doubleClick(ask([] {
+        auto& grid = widget<QTreeWidget>("grdRecentProjects");
+        return middleOf(*grid.viewport(), grid.visualItemRect(grid.topLevelItem(0)));
+    }));
+    expectOpenAgain();
+}
+
+TEST_F(ProjectRoad, ByTheKeyboardAlone) {
+    openSample("HelloWorld");
+    chooseByKeys("&Fernwick", "s");
+    waitForDialog("frmQuinloftSettings");
+    tabTo("chkSpacesInName");
+    press({"space"});
+    pageByKeys("fraDependencies");
+    press({"End"});
+    eventually("the last page", [] { return widget("fraMyDevices").isVisible(); });
+    tabTo("lstMyDevices");
+    press({"Home", "space"});
+    tabTo("treAvailableSettings");
+    press({"Up", "Up"}); // over the root, which is no page
+    press({"Up"});
+    eventually("the compiler's page", [] { return widget("fraCompilerOptions").isVisible(); });
+    tabTo("txtPreNewStep");
+    type("true");
+    tabTo("cmdPreAdd");
+    press({"space"});
+    tabTo("chkReferenceChecking");
+    press({"space"});
+    tabTo("btnApply");
+    press({"space"});
+    eventually("it is applied", [this] { return bench->host().ActiveVBProject()->IsDirty(); });
+    press({"Return"});
+    waitForNoDialog();
+    ask([this] {
+        expectAllStored();
+        EXPECT_EQ(settings()->PreCompileStepCount(), 1);
+    });
+
+    chooseByKeys("&Project", "d");
+    answerBox(With::Keyboard, "OK");
+    waitForDialog("frmDesignTargetConverter");
+    tabTo("lstDesignTargets");
+    press({"Home", "Down"});
+    tabTo("chkOverwrite");
+    press({"space", "Return"});
+    expectConverted("PocketPC-ARM");
+
+    closeProject();
+    chooseByKeys("&Fernwick", "o");
+    waitForDialog("frmProjectManager");
+    tabTo("grdRecentProjects");
+    press({"Home", "Return"});
+    expectOpenAgain();
+}
