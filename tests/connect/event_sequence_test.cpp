@@ -57,6 +57,15 @@ protected:
         for (const auto& component : active()->VBComponents()->items()) names.push_back(component->Name());
         return names;
     }
+    /// Converts each project whose device is not available to this file.
+    void copyTo(const std::string& path) {
+        user.savedAs = {path};
+        user.whenShown["frmDesignTargetConverterWarning"] = [](auto& form) { test::press(form, "cmdRunConverter"); };
+        user.whenShown["frmDesignTargetConverter"] = [this](auto& form) {
+            addIn().converter.lstDesignTargets.ListIndex(0);
+            test::press(form, "btnOK");
+        };
+    }
     std::string bytesOf(const std::string& path) const {
         return host.folder.read(path.substr(host.folder.path().size() + 1));
     }
@@ -316,12 +325,7 @@ TEST_F(EventSequence, AProjectOfAnUnknownDeviceStaysIfTheUserOpensItAnyway) {
 
 TEST_F(EventSequence, ACopyForAnAvailableDeviceTakesThePlaceOfAProject) {
     const auto path = host.folder / "new/deep/Copy.vbp";
-    user.savedAs = {path};
-    user.whenShown["frmDesignTargetConverterWarning"] = [](auto& form) { test::press(form, "cmdRunConverter"); };
-    user.whenShown["frmDesignTargetConverter"] = [this](auto& form) {
-        addIn().converter.lstDesignTargets.ListIndex(0);
-        test::press(form, "btnOK");
-    };
+    copyTo(path);
     const auto original = hello("Gone-9").writeTo(host.folder);
     const auto before = bytesOf(original);
     host.ide->VBProjects()->AddFromFile(original, false);
@@ -333,6 +337,18 @@ TEST_F(EventSequence, ACopyForAnAvailableDeviceTakesThePlaceOfAProject) {
     EXPECT_TRUE(items().gCompileItem->Enabled());
     EXPECT_EQ(bytesOf(original), before);
     EXPECT_FALSE(std::filesystem::exists(path + ".converting"));
+}
+
+TEST_F(EventSequence, ACopyOfAProjectInAGroupIsNotNamedByTheGroup) {
+    copyTo(host.folder / "new/Copy.vbp");
+    hello("Gone-9").writeTo(host.folder);
+    const std::string text = "VBGROUP 5.0\r\nStartupProject=Hello.vbp\r\n";
+    const auto group = host.folder.write("One.vbg", text);
+    host.ide->VBProjects()->AddFromFile(group, false);
+    EXPECT_THAT(boxes(), ElementsAre(box(fernwick::vbInformation, "The project group still names the old project file, "
+                                                                  "not the copy: " +
+                                                                      group)));
+    EXPECT_EQ(bytesOf(group), text);
 }
 
 TEST_F(EventSequence, AProjectIsConvertedInPlaceAndItsOldFileIsKept) {
