@@ -108,6 +108,12 @@ UpgradeResult stateOf(GlobalLines& global) {
 
 } // namespace
 
+bool hasOldFormat(FileSystemObject& files, const std::string& projectFile) {
+    auto lines = linesOf(files, projectFile);
+    GlobalLines global(lines);
+    return stateOf(global) == UpgradeResult::Upgraded;
+}
+
 Upgrade upgradeProject(FileSystemObject& files, const DeviceServices& devices, const std::string& projectFile) {
     auto lines = linesOf(files, projectFile);
     Upgrade upgrade;
