@@ -1,7 +1,7 @@
 // Commands that read and change what is stored.
 #include "Apps/fernwick/command_line/usage_errors.h"
 #include "Apps/fernwick/command_line/verb_line.h"
-#include "Apps/fernwick/verbs/stored_settings.h"
+#include "Apps/fernwick/stored/stored_settings.h"
 #include <fmt/format.h>
 
 namespace cli {
