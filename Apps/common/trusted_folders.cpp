@@ -1,4 +1,5 @@
 #include "Apps/common/trusted_folders.h"
+#include <algorithm>
 
 namespace apps {
 
@@ -6,24 +7,50 @@ namespace {
 constexpr const char* kTrustedFolders = "SOFTWARE\\Quinloft\\Fernwick\\TrustedFolders";
 } // namespace
 
-bool TrustedFolders::holds(const std::string& folder) const {
-    std::uint32_t key = 0, type = 0, length = 0;
-    if (registry_.RegOpenKeyEx(fernwick::HKEY_CURRENT_USER, kTrustedFolders, fernwick::KEY_QUERY_VALUE, key) != 0)
-        return false;
-    std::string none;
-    const auto status = registry_.RegQueryValueEx(key, folder, type, none, length);
-    registry_.RegCloseKey(key);
-    return status == fernwick::ERROR_SUCCESS || status == fernwick::ERROR_MORE_DATA;
+/// Returns 0 if there is no such key.
+std::uint32_t TrustedFolders::open(std::uint32_t access) const {
+    std::uint32_t key = 0;
+    const auto status = registry_.RegOpenKeyEx(fernwick::HKEY_CURRENT_USER, kTrustedFolders, access, key);
+    return status == fernwick::ERROR_SUCCESS ? key : 0;
 }
 
-void TrustedFolders::add(const std::string& folder) {
+/// The store ignores letter case in names, folders do not.
+bool TrustedFolders::holds(const std::string& folder) const {
+    const auto folders = list();
+    return std::find(folders.begin(), folders.end(), folder) != folders.end();
+}
+
+std::vector<std::string> TrustedFolders::list() const {
+    std::vector<std::string> folders;
+    const auto key = open(fernwick::KEY_QUERY_VALUE);
+    if (key == 0) return folders;
+    std::string name, data;
+    std::uint32_t type = 0;
+    for (std::uint32_t i = 0; registry_.RegEnumValue(key, i, name, type, data) == fernwick::ERROR_SUCCESS; ++i)
+        folders.push_back(name);
+    registry_.RegCloseKey(key);
+    return folders;
+}
+
+bool TrustedFolders::add(const std::string& folder) {
     std::uint32_t key = 0, disposition = 0;
     if (registry_.RegCreateKeyEx(fernwick::HKEY_CURRENT_USER, kTrustedFolders, fernwick::KEY_ALL_ACCESS, key,
-                                 disposition) != 0)
-        return;
+                                 disposition) != fernwick::ERROR_SUCCESS)
+        return false;
     const std::string yes{1, 0, 0, 0};
-    registry_.RegSetValueEx(key, folder, fernwick::REG_DWORD, yes);
+    (void)registry_.RegDeleteValue(key, folder); // which may be spelled otherwise
+    const auto status = registry_.RegSetValueEx(key, folder, fernwick::REG_DWORD, yes);
     registry_.RegCloseKey(key);
+    return status == fernwick::ERROR_SUCCESS;
+}
+
+bool TrustedFolders::remove(const std::string& folder) {
+    if (!holds(folder)) return true;
+    const auto key = open(fernwick::KEY_ALL_ACCESS);
+    if (key == 0) return false;
+    const auto status = registry_.RegDeleteValue(key, folder);
+    registry_.RegCloseKey(key);
+    return status == fernwick::ERROR_SUCCESS;
 }
 
 } // namespace apps
