@@ -7,8 +7,13 @@ const ListBox::Row& ListBox::row(int i) const {
     return rows_[size_t(i)];
 }
 
-void ListBox::Selected(int i, bool ticked) {
-    row(i).ticked = ticked;
+void ListBox::Selected(int i, bool selected) {
+    row(i).selected = selected;
+    changed.raise({Change::Altered, i});
+}
+
+void ListBox::List(int i, std::string text) {
+    row(i).text = std::move(text);
     changed.raise({Change::Altered, i});
 }
 

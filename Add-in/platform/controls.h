@@ -108,26 +108,30 @@ public:
     void Stop() { Playing(0); }
 };
 
-/// Rows with data and one selected row. Setting ListIndex raises Click, even from code.
+/// Rows with data and one current row. Setting ListIndex raises Click, even from code.
 class ListBox : public Control {
 public:
     struct Row {
         std::string text;
         long data = 0;
-        bool ticked = false;
+        bool selected = false;
     };
+    /// MultiSelect and Style: whether the user chooses one row, selects several, or ticks rows.
+    enum class Choice { One, Several, Ticks };
     struct Change {
         enum Kind { Reset, Inserted, Removed, Altered } kind;
         int row;
     };
 
-    using Control::Control;
+    explicit ListBox(Form* form, std::string name, Choice choice = Choice::One)
+        : Control(form, std::move(name)), choice(choice) {}
     template <class F>
     ListBox(F* form, std::string name, void (F::*click)(), void (F::*dblClick)() = nullptr)
-        : Control(form, std::move(name)) {
+        : ListBox(form, std::move(name)) {
         click_ = Click.connect([form, click] { (form->*click)(); });
         if (dblClick) dblClick_ = DblClick.connect([form, dblClick] { (form->*dblClick)(); });
     }
+    const Choice choice;
     Event<Change> changed;
     Event<> Click, DblClick;
 
@@ -135,8 +139,10 @@ public:
     const std::string& List(int i) const { return row(i).text; }
     long ItemData(int i) const { return row(i).data; }
     void ItemData(int i, long data) { row(i).data = data; }
-    bool Selected(int i) const { return row(i).ticked; }
-    void Selected(int i, bool ticked);
+    /// Whether a row is selected or ticked, where the user can do that to several.
+    bool Selected(int i) const { return row(i).selected; }
+    void Selected(int i, bool selected);
+    void List(int i, std::string text);
     int NewIndex() const { return newIndex_; }
     void AddItem(std::string text);
     /// Raises no Click, as in VB.

@@ -1,5 +1,6 @@
 #pragma once
 // The objects of a device family's pipe, which transfers projects and the runtime to its devices.
+#include "Add-in/platform/form.h"
 #include "Add-in/platform/host.h"
 #include "Add-in/platform/object.h"
 #include <cstdint>
@@ -70,38 +71,21 @@ public:
     virtual void SetDevice(const std::string& key) = 0;
 };
 
-/// A setting that a pipe stores in a project: a label and a text field of a page.
-struct PipeSetting {
-    /// Section and key of VBProject::ReadProperty.
-    std::string Section, Key;
-    std::string Caption;
-    /// The field's text; it is not stored before ApplyPage.
-    std::string Value;
-};
-
-/// A page that a pipe adds to the settings dialog: a form without its own window. The dialog draws its fields and
-/// updates them with the user's input.
-class IQLPipePage : public fernwick::Object {
-public:
-    /// In page order.
-    virtual std::vector<PipeSetting>& Settings() = 0;
-    virtual bool Visible() const = 0;
-};
-
 /// Registered under the pipe's ProgID followed by ".Configuration".
 class IQLPipeConfiguration : public fernwick::Object {
 public:
-    /// Creates the page for a project with the project's stored values; Nothing if the pipe has no page. Offsets from
-    /// the dialog's corner, in twips.
-    virtual basic::Ref<IQLPipePage> CreatePage(const basic::Ref<vbide::VBProject>& project, std::int32_t top,
-                                               std::int32_t left) = 0;
+    /// Creates the page for a project with the project's stored values: a loaded, hidden form without a window of its
+    /// own, which the settings dialog shows among its pages. Nothing if the pipe has no page. Offsets from the dialog's
+    /// corner, in twips.
+    virtual basic::Ref<fernwick::Form> CreatePage(const basic::Ref<vbide::VBProject>& project, std::int32_t top,
+                                                  std::int32_t left) = 0;
     virtual void ShowPage() = 0;
     virtual void HidePage() = 0;
-    /// Whether the user's input can be stored.
+    /// Whether the user's input can be stored. Informs the user about what cannot.
     virtual bool ValidatePage() = 0;
-    /// Stores the input in the project.
+    /// Stores the input in the project; nothing of it, and says so, if any of it cannot be stored.
     virtual void ApplyPage() = 0;
-    /// Releases the page and the project.
+    /// Unloads the page and releases it and the project.
     virtual void ClosePage() = 0;
     virtual bool HasPage() = 0;
     /// Also its node in the dialog's tree; "" for a pipe without a page.

@@ -51,7 +51,8 @@ public:
     /// Record of the pipes' transfers; clear it before a run.
     qlpipe::TransferRecord& transfers() { return *transfers_; }
     qlpipe::PipeServices pipeServices() {
-        return {*files_, classes_, registry_, environment_, installation_, transfers_};
+        return {platform_.interaction, platform_.loop, *files_,   classes_, registry_,
+                environment_,          installation_,  transfers_};
     }
 
 private:

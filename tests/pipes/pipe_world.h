@@ -5,7 +5,10 @@
 #include "Components/QLPipe/pipe_family.h"
 #include "Host/registry/registry_store.h"
 #include "Host/system/classes.h"
+#include "Host/system/clock.h"
+#include "Host/system/event_loop.h"
 #include "Host/system/file_system.h"
+#include "tests/support/scripted_user.h"
 #include "tests/support/temp_folder.h"
 #include <algorithm>
 #include <functional>
@@ -116,7 +119,7 @@ private:
 class PipeWorld {
 public:
     explicit PipeWorld(const std::string& installation = kShippedInstallation)
-        : services{files, classes, registry, environment, installation} {
+        : services{user, loop, files, classes, registry, environment, installation} {
         environment.values["FERNWICK_DEVICES"] = folder / "devices";
         keep_.push_back(classes.RegisterClass("DesignTargetAccess.QLDesignTargetMgr", [] {
             return basic::make<designtargetaccess::DesignTargetMgr>(kShippedInstallation);
@@ -153,6 +156,9 @@ public:
 
     static constexpr char kDevice[] = "PocketPC-ARM";
     TempFolder folder;
+    ScriptedUser user;
+    host::Clock clock;
+    host::EventLoop loop{clock};
     FakeEnvironment environment;
     host::FileSystem files;
     host::RegistryStore registry{{folder / "store/user", folder / "store/machine", {}}};

@@ -1,4 +1,5 @@
 // Connection settings of handhelds, and their settings page.
+#include "Add-in/platform/text_box.h"
 #include "Components/QLPipe/base/pipe_messages.h"
 #include "Components/QLPipe/base/ssh_messages.h"
 #include "Components/QLPipe/linux_handheld/linux_handheld.h"
@@ -119,46 +120,39 @@ TEST_F(HandheldSettings, RefuseInvalidValues) {
 /// The page, used like the settings dialog does.
 class HandheldPage : public HandheldSettings {
 protected:
-    basic::Ref<qlpipe::IQLPipePage> open() { return configuration->CreatePage(project, 0, 0); }
-    void type(const std::string& key, const std::string& value) {
-        for (auto& setting : page->Settings())
-            if (setting.Key == key) setting.Value = value;
+    basic::Ref<fernwick::Form> open() { return configuration->CreatePage(project, 0, 0); }
+    fernwick::TextBox& field(const std::string& name) const {
+        return dynamic_cast<fernwick::TextBox&>(page->control(name));
     }
 
     test::PipeWorld world;
     basic::Ref<qlpipe::IQLPipeConfiguration> configuration =
         world.create<qlpipe::IQLPipeConfiguration>("QLPipeLinux.Configuration");
-    basic::Ref<qlpipe::IQLPipePage> page = open();
+    basic::Ref<fernwick::Form> page = open();
 };
 
 TEST_F(HandheldPage, HasAFieldForTheSettingsOfProjects) {
     EXPECT_TRUE(configuration->HasPage());
-    EXPECT_EQ(configuration->PageName(), "Linux Handheld");
-    std::vector<std::string> keys;
-    for (const auto& setting : page->Settings()) {
-        EXPECT_EQ(setting.Section, "Quinloft Linux Handheld");
-        EXPECT_NE(setting.Caption, "");
-        keys.push_back(setting.Key);
-    }
-    EXPECT_THAT(keys, testing::ElementsAre("Folder"));
+    EXPECT_EQ(configuration->PageName(), "Linux Handheld Settings");
+    EXPECT_EQ(field("txtFolder").Text(), "");
 }
 
 TEST_F(HandheldPage, StoresTheFieldsWhenApplied) {
-    type("Folder", "games");
+    field("txtFolder").Text("games");
     EXPECT_EQ(qlpipe::readProjectSettings(project), LinuxHandheldSettings{});
     EXPECT_TRUE(configuration->ValidatePage());
     configuration->ApplyPage();
     EXPECT_EQ(project->ReadProperty("Quinloft Linux Handheld", "Folder"), "games");
     page = open();
-    EXPECT_EQ(page->Settings().front().Value, "games");
+    EXPECT_EQ(field("txtFolder").Text(), "games");
 }
 
 TEST_F(HandheldPage, RefusesInvalidValues) {
-    type("Folder", "/");
+    field("txtFolder").Text("/");
     EXPECT_FALSE(configuration->ValidatePage());
-    type("Folder", "games");
+    field("txtFolder").Text("games");
     EXPECT_TRUE(configuration->ValidatePage());
-    type("Folder", "a\nb");
+    field("txtFolder").Text("a\nb");
     EXPECT_FALSE(configuration->ValidatePage());
 }
 
@@ -171,7 +165,7 @@ TEST_F(HandheldPage, ShowsAndHidesItself) {
 }
 
 TEST_F(HandheldPage, DoesNothingAfterClosing) {
-    type("Folder", "games");
+    field("txtFolder").Text("games");
     configuration->ClosePage();
     configuration->ApplyPage();
     configuration->ShowPage();

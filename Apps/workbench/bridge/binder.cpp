@@ -1,12 +1,20 @@
 #include "Apps/workbench/bridge/binder.h"
+#include "Add-in/platform/file_icon.h"
+#include "Add-in/platform/frame.h"
+#include "Add-in/platform/text_box.h"
 #include "Apps/workbench/base/pictures.h"
 #include "Apps/workbench/base/text.h"
 #include "Apps/workbench/bridge/grid_binding.h"
+#include "Apps/workbench/bridge/icon_preview.h"
+#include "Apps/workbench/bridge/list_binding.h"
+#include "Apps/workbench/bridge/list_view_binding.h"
 #include "Apps/workbench/bridge/moving_picture.h"
+#include "Apps/workbench/bridge/page_binding.h"
+#include "Apps/workbench/bridge/tree_binding.h"
 #include <QCheckBox>
 #include <QEvent>
 #include <QLabel>
-#include <QListWidget>
+#include <QLineEdit>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QSignalBlocker>
@@ -104,34 +112,25 @@ void bindAnimation(Animation& control, MovingPicture& widget, Binding& binding) 
     binding.show(control.Playing, [&widget](int times) { widget.play(times); });
 }
 
-void showRows(const ListBox& control, QListWidget& widget) {
-    widget.clear();
-    for (int row = 0; row < control.ListCount(); ++row) widget.addItem(qt(control.List(row)));
+void bindTextBox(TextBox& control, QLineEdit& widget, Binding& binding) {
+    widget.setReadOnly(control.Locked);
+    binding.show(control.Text, [&widget](const std::string& shown) {
+        if (widget.text() != qt(shown)) widget.setText(qt(shown)); // setting it moves the cursor
+    });
+    QObject::connect(&widget, &QLineEdit::textEdited, &widget,
+                     [&](const QString& typed) { binding.act([&] { control.Text(text(typed)); }); });
 }
 
-void bindListBox(ListBox& control, QListWidget& widget, Binding& binding) {
-    const auto show = [&control, &widget](const ListBox::Change& change) {
-        const QSignalBlocker ours(widget);
-        switch (change.kind) {
-        case ListBox::Change::Reset: showRows(control, widget); break;
-        case ListBox::Change::Inserted: widget.insertItem(change.row, qt(control.List(change.row))); break;
-        case ListBox::Change::Removed: delete widget.takeItem(change.row); break;
-        case ListBox::Change::Altered:
-            if (change.row >= 0) widget.item(change.row)->setText(qt(control.List(change.row)));
-            break;
-        }
-        widget.setCurrentRow(control.ListIndex());
-    };
-    show({ListBox::Change::Reset, -1});
-    binding.keep(control.changed.connect(show));
-    // not the current row: getting the focus makes the first row current without a choice
-    QObject::connect(&widget, &QListWidget::itemSelectionChanged, &widget, [&] {
-        const auto chosen = widget.selectedItems();
-        const int row = chosen.isEmpty() ? -1 : widget.row(chosen.front());
-        if (row != control.ListIndex()) binding.act([&] { control.ListIndex(row); });
-    });
-    QObject::connect(&widget, &QListWidget::itemDoubleClicked, &widget,
-                     [&] { binding.act([&] { control.DblClick.raise(); }); });
+/// A hidden frame keeps its place, so that a window keeps its size while frames replace each other.
+void bindFrame(Frame&, QWidget& widget, Binding&) {
+    auto policy = widget.sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    widget.setSizePolicy(policy);
+}
+
+void bindFileIcon(FileIcon& control, QLabel& widget, Binding& binding) {
+    binding.show(control.FileName,
+                 [&widget](const std::string& path) { widget.setPixmap(iconPreview(qt(path), widget)); });
 }
 
 template <class C, class W, void (*bindKind)(C&, W&, Binding&)>
@@ -153,9 +152,16 @@ constexpr std::array kKinds{
     &tryBind<StatusBar, QLabel, bindStatusBar>,
     &tryBind<PictureBox, QLabel, bindPicture>,
     &tryBind<Animation, MovingPicture, bindAnimation>,
+    &tryBind<ComboBox, QComboBox, bindComboBox>,
     &tryBind<ListBox, QListWidget, bindListBox>,
     &tryBind<Grid, QTreeWidget, bindGrid>,
     &tryBind<TabStrip, QTabBar, bindTabStrip>,
+    &tryBind<TextBox, QLineEdit, bindTextBox>,
+    &tryBind<Frame, QWidget, bindFrame>,
+    &tryBind<TreeView, QTreeWidget, bindTreeView>,
+    &tryBind<ListView, QTreeWidget, bindListView>,
+    &tryBind<PagePlace, QWidget, bindPagePlace>,
+    &tryBind<FileIcon, QLabel, bindFileIcon>,
 };
 
 } // namespace

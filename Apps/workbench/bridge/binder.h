@@ -22,6 +22,8 @@ public:
         show(property());
         keep(property.watch([show](const T& value) { show(value); }));
     }
+    /// Receives the errors of this window.
+    const Failed& failed() const { return failed_; }
     void keep(fernwick::Subscription subscription) { kept_.push_back(std::move(subscription)); }
     /// Runs an action of the user and passes an error to the window, as no exception may cross Qt's loop.
     template <class Act>

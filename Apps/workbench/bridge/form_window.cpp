@@ -1,42 +1,16 @@
 #include "Apps/workbench/bridge/form_window.h"
 #include "Apps/workbench/base/text.h"
-#include "Apps/workbench/bridge/moving_picture.h"
+#include "Apps/workbench/bridge/drawn_form.h"
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QElapsedTimer>
-#include <QFile>
-#include <QTabBar>
 #include <QTimer>
-#include <QUiLoader>
 #include <QVBoxLayout>
 #include <QWindow>
 #include <algorithm>
-#include <memory>
 #include <utility>
 
 namespace workbench {
-
-namespace {
-
-class FormLoader final : public QUiLoader {
-    QWidget* createWidget(const QString& className, QWidget* parent, const QString& name) override {
-        std::unique_ptr<QWidget> widget;
-        if (className == "MovingPicture") widget = std::make_unique<MovingPicture>(parent);
-        if (className == "QTabBar") widget = std::make_unique<QTabBar>(parent);
-        if (!widget) return QUiLoader::createWidget(className, parent, name);
-        widget->setObjectName(name);
-        return widget.release(); // owned by the parent
-    }
-};
-
-QWidget* drawnForm(const fernwick::Form& form, QWidget* parent) {
-    QFile file(QString(":/forms/%1.ui").arg(form.typeName()));
-    QWidget* const drawn = file.open(QIODevice::ReadOnly) ? FormLoader().load(&file, parent) : nullptr;
-    if (!drawn) throw basic::RuntimeError(basic::kFileNotFound, std::string("No window for ") + form.typeName());
-    return drawn;
-}
-
-} // namespace
 
 FormWindow::FormWindow(fernwick::Form& form, QWidget* parent) : QDialog(parent), form_(form) {
     auto* const layout = new QVBoxLayout(this);

@@ -6,7 +6,7 @@ namespace qlpipe {
 
 class NoPage final : public IQLPipeConfiguration {
 public:
-    basic::Ref<IQLPipePage> CreatePage(const basic::Ref<vbide::VBProject>&, std::int32_t, std::int32_t) override {
+    basic::Ref<fernwick::Form> CreatePage(const basic::Ref<vbide::VBProject>&, std::int32_t, std::int32_t) override {
         return {};
     }
     void ShowPage() override {}

@@ -2,7 +2,9 @@
 // The pipes' dependencies, and their results for the front end.
 #include "Add-in/platform/classes.h"
 #include "Add-in/platform/environment.h"
+#include "Add-in/platform/event_loop.h"
 #include "Add-in/platform/files.h"
+#include "Add-in/platform/interaction.h"
 #include "Add-in/platform/registry.h"
 #include <memory>
 #include <string>
@@ -25,6 +27,8 @@ struct TransferRecord {
 
 /// Must outlive all objects created by the pipes.
 struct PipeServices {
+    fernwick::Interaction& user;
+    fernwick::EventLoop& loop;
     fernwick::FileSystemObject& files;
     fernwick::Classes& classes;
     fernwick::Registry& registry;

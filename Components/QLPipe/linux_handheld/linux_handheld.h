@@ -12,7 +12,7 @@ namespace qlpipe {
 /// wait until it is closed.
 std::unique_ptr<DeviceStorage> openLinuxHandheld(const PipeServices& services, const DeviceRequest& request);
 
-/// Creates the settings page "Linux Handheld".
+/// Creates the settings page "Linux Handheld Settings".
 basic::Ref<IQLPipeConfiguration> configureLinuxHandheld(const PipeServices& services);
 
 } // namespace qlpipe

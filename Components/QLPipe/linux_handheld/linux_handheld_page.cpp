@@ -1,3 +1,5 @@
+#include "Add-in/platform/controls.h"
+#include "Add-in/platform/text_box.h"
 #include "Components/QLPipe/linux_handheld/linux_handheld.h"
 #include "Components/QLPipe/linux_handheld/linux_handheld_settings.h"
 #include <algorithm>
@@ -6,30 +8,22 @@ namespace qlpipe {
 
 namespace {
 
-class LinuxHandheldPage final : public IQLPipePage {
+class LinuxHandheldPage final : public fernwick::Form {
 public:
-    explicit LinuxHandheldPage(const LinuxHandheldSettings& stored) {
-        for (const auto& setting : kLinuxHandheldSettings) {
-            if (!setting.isOfProjects) continue;
-            settings_.push_back(&setting);
-            fields_.push_back({kLinuxHandheldSection, setting.name, setting.caption, stored.*setting.value});
-        }
-    }
-    std::vector<PipeSetting>& Settings() override { return fields_; }
-    bool Visible() const override { return isVisible_; }
-    void show(bool visible) { isVisible_ = visible; }
+    using Form::Form;
+    const char* typeName() const override { return "LinuxHandheldPage"; }
+    fernwick::Label lblFolder{this, "lblFolder", "Folder on the handheld (fernwick):"};
+    fernwick::TextBox txtFolder{this, "txtFolder"};
 
-    /// The texts of the fields, in their order.
+    void show(const LinuxHandheldSettings& stored) {
+        Load();
+        txtFolder.Text(stored.Folder);
+    }
     LinuxHandheldSettings typed() const {
         LinuxHandheldSettings settings;
-        for (std::size_t i = 0; i < settings_.size(); ++i) settings.*settings_[i]->value = fields_[i].Value;
+        settings.Folder = txtFolder.Text();
         return settings;
     }
-
-private:
-    std::vector<const LinuxHandheldSetting*> settings_;
-    std::vector<PipeSetting> fields_;
-    bool isVisible_ = false;
 };
 
 /// Stores neither values that a transfer would refuse nor values that a project file cannot contain.
@@ -46,40 +40,44 @@ bool canBeStored(LinuxHandheldSettings settings) {
 
 class LinuxHandheldConfiguration final : public IQLPipeConfiguration {
 public:
-    basic::Ref<IQLPipePage> CreatePage(const basic::Ref<vbide::VBProject>& project, std::int32_t,
-                                       std::int32_t) override {
+    explicit LinuxHandheldConfiguration(fernwick::Interaction& user) : user_(user) {}
+    basic::Ref<fernwick::Form> CreatePage(const basic::Ref<vbide::VBProject>& project, std::int32_t,
+                                          std::int32_t) override {
         ClosePage();
         if (!project) return {};
         project_ = project;
-        page_ = std::make_shared<LinuxHandheldPage>(readProjectSettings(project));
+        page_ = std::make_shared<LinuxHandheldPage>(user_);
+        page_->show(readProjectSettings(project));
         return page_;
     }
     void ShowPage() override {
-        if (page_) page_->show(true);
+        if (page_) page_->Visible(true);
     }
     void HidePage() override {
-        if (page_) page_->show(false);
+        if (page_) page_->Hide();
     }
     bool ValidatePage() override { return !page_ || canBeStored(page_->typed()); }
     void ApplyPage() override {
         if (page_) writeProjectSettings(project_, page_->typed());
     }
     void ClosePage() override {
+        if (page_) page_->Unload();
         page_.reset();
         project_ = {};
     }
     bool HasPage() override { return true; }
-    std::string PageName() override { return "Linux Handheld"; }
+    std::string PageName() override { return "Linux Handheld Settings"; }
 
 private:
+    fernwick::Interaction& user_;
     basic::Ref<vbide::VBProject> project_;
     std::shared_ptr<LinuxHandheldPage> page_;
 };
 
 } // namespace
 
-basic::Ref<IQLPipeConfiguration> configureLinuxHandheld(const PipeServices&) {
-    return basic::make<LinuxHandheldConfiguration>();
+basic::Ref<IQLPipeConfiguration> configureLinuxHandheld(const PipeServices& services) {
+    return basic::make<LinuxHandheldConfiguration>(services.user);
 }
 
 } // namespace qlpipe
