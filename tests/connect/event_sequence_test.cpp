@@ -276,6 +276,17 @@ TEST_F(EventSequence, AComponentMayBeAddedWhileItsProjectIsAdded) {
     EXPECT_THAT(componentNames(), ElementsAre("Module9", "Module1"));
 }
 
+TEST_F(EventSequence, AFormThatIsGoneOrWhoseProjectIsLeftWhileItIsAddedIsIgnored) {
+    const auto a = host.open(named("A")), b = host.open(named("B"));
+    loop.Post([&] { b->VBComponents()->Remove(b->VBComponents()->Item("Form1")); });
+    b->VBComponents()->Add(vbide::vbext_ct_VBForm);
+    loop.Post([&] { host.ide->ActiveVBProject(a); });
+    const auto form = b->VBComponents()->Add(vbide::vbext_ct_VBForm);
+    EXPECT_THAT(boxes(), IsEmpty());
+    EXPECT_EQ(addIn().errors.reports(), 0);
+    EXPECT_TRUE(form->HasOpenDesigner());
+}
+
 TEST_F(EventSequence, ARemovalRequestedWhileAProjectIsAddedWaitsForTheTimer) {
     const auto importer = items().gUtilitiesPopup->Controls()->Add(office::msoControlButton, 0);
     importer->Caption("Fernwick Project Converter");
@@ -337,6 +348,17 @@ TEST_F(EventSequence, ACopyForAnAvailableDeviceTakesThePlaceOfAProject) {
     EXPECT_TRUE(items().gCompileItem->Enabled());
     EXPECT_EQ(bytesOf(original), before);
     EXPECT_FALSE(std::filesystem::exists(path + ".converting"));
+}
+
+TEST_F(EventSequence, ACopyIsNotOpenedIfTheUserKeepsOtherUnsavedWork) {
+    const auto other = host.open(named("A"));
+    copyTo(host.folder / "new/Copy.vbp");
+    host.mayReplaceProjects = [] { return false; };
+    host.ide->VBProjects()->AddFromFile(hello("Gone-9").writeTo(host.folder), false);
+    loop.turn();
+    EXPECT_THAT(boxes(), IsEmpty());
+    EXPECT_EQ(active(), other);
+    EXPECT_EQ(host.ide->VBProjects()->Count(), 1);
 }
 
 TEST_F(EventSequence, ACopyOfAProjectInAGroupIsNotNamedByTheGroup) {
