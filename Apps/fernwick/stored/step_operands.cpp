@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <charconv>
 #include <fmt/format.h>
+#include <utility>
 
 namespace cli {
 
