@@ -41,6 +41,8 @@ struct ResString {
     const char* text;
 };
 
+inline constexpr ResString kUtilitiesString{250, "Quinloft &Utilities"};
+
 enum class CommandKind { Button, Popup, SamplesPopup };
 
 /// What is set right after an item is added.
@@ -169,7 +171,7 @@ inline constexpr CommandRow kCommands[] = {
      .turn = 11},
 
     {.item = &CommandItems::gUtilitiesPopup,
-     .caption = {250, "Quinloft &Utilities"},
+     .caption = kUtilitiesString,
      .group = true,
      .kind = CommandKind::Popup,
      .needs = Needs::FirstProject,

@@ -39,6 +39,9 @@ inline constexpr char kCopyThem[] = "Do you want to continue?";
 inline constexpr char kDeviceNotStored[] =
     "The new project does not name the chosen device. Set it in the project's settings: ";
 
+/// Followed by the path of the group.
+inline constexpr char kGroupNamesOld[] = "The project group still names the old project file, not the copy: ";
+
 // A conversion in place.
 /// Followed by the reason.
 inline constexpr char kNotBackedUp[] = "The project file could not be backed up, so nothing was changed. ";

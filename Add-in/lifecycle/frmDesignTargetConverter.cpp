@@ -41,7 +41,14 @@ void frmDesignTargetConverter::btnOK_Click() {
             const auto folder = services_.files.GetParentFolderName(path);
             return AskForNewProjectName(folder, services_.files.GetFileName(path), folder);
         });
+    if (doReloadProject()) remarkOnGroup(here, project);
     if (projectConverted()) Hide();
+}
+
+/// Groups are never rewritten here.
+void frmDesignTargetConverter::remarkOnGroup(Procedure& here, const basic::Ref<vbide::VBProject>& project) {
+    const auto group = here.value([&] { return addIn_.gVBInstance->VBProjects()->GroupOf(project); });
+    if (!group.empty()) here([&] { services_.user.MsgBox(kGroupNamesOld + group, vbInformation, kTitle); });
 }
 
 void frmDesignTargetConverter::btnCancel_Click() {

@@ -37,6 +37,7 @@ private:
     std::string AskForNewProjectName(const std::string& initDir, const std::string& fileName,
                                      const std::string& oldFolder);
     std::string chosenFile(Procedure& here, CommonDialog& dialog);
+    void remarkOnGroup(Procedure& here, const basic::Ref<vbide::VBProject>& project);
     bool isSameFolder(const std::string& a, const std::string& b) const;
 
     ConversionServices services_;

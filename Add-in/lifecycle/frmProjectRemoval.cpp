@@ -106,7 +106,15 @@ void frmProjectRemoval::Timer2_Timer() {
     const auto project = std::exchange(componentsProject_, nullptr);
     const auto component = std::exchange(componentToRemove_, nullptr);
     here([&] { Timer2.Enabled(false); });
-    if (project && component) here([&] { project->VBComponents()->Remove(component); });
+    if (project && component && here.value([&] { return holds(project, component); }))
+        here([&] { project->VBComponents()->Remove(component); });
+}
+
+/// The component may have been removed, or its project closed, since the request.
+bool frmProjectRemoval::holds(const Project& project, const basic::Ref<vbide::VBComponent>& component) const {
+    if (!isOpen(project)) return false;
+    const auto all = project->VBComponents()->items();
+    return std::find(all.begin(), all.end(), component) != all.end();
 }
 
 void frmProjectRemoval::Form_Unload() {

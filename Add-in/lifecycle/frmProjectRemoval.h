@@ -41,6 +41,7 @@ private:
     void Timer2_Timer();
     void discardRequests();
     bool isOpen(const Project& project) const;
+    bool holds(const Project& project, const basic::Ref<vbide::VBComponent>& component) const;
     void serve(Procedure& here, const Project& project);
     void replace(Procedure& here, const Project& project, const std::string& path);
     void activate(Procedure& here, const Project& project);

@@ -39,24 +39,28 @@ void ProjectCopy::plan(Plan& to, const std::string& from, const std::string& pla
     if (taken_.insert(files_.GetAbsolutePathName(place)).second) to.push_back({from, place});
 }
 
-ProjectCopy::Paths ProjectCopy::placesThat(const std::function<bool(const Planned&)>& fits) const {
-    Paths places;
+std::vector<CopiedFile> ProjectCopy::files() const {
+    std::vector<CopiedFile> all;
     for (const auto* part : {&components_, &projectFile_, &dependencies_, &icons_})
-        for (const auto& copy : *part)
-            if (files_.FileExists(copy.from) && !files_.SameFile(copy.from, copy.to) && fits(copy))
-                places.push_back(files_.GetAbsolutePathName(copy.to));
+        for (const auto& copy : *part) {
+            if (files_.SameFile(copy.from, copy.to)) continue;
+            const auto to = files_.GetAbsolutePathName(copy.to);
+            all.push_back({copy.from, to, !files_.FileExists(copy.from), files_.FileExists(to),
+                           PathBelow(files_, newFolder_, to).empty()});
+        }
+    return all;
+}
+
+ProjectCopy::Paths ProjectCopy::placesThat(bool CopiedFile::*fits) const {
+    Paths places;
+    for (const auto& file : files())
+        if (!file.isMissing && file.*fits) places.push_back(file.to);
     return places;
 }
 
-ProjectCopy::Paths ProjectCopy::replacedFiles() const {
-    return placesThat([this](const Planned& copy) { return files_.FileExists(copy.to); });
-}
+ProjectCopy::Paths ProjectCopy::replacedFiles() const { return placesThat(&CopiedFile::replaces); }
 
-ProjectCopy::Paths ProjectCopy::filesOutside() const {
-    return placesThat([this](const Planned& copy) {
-        return PathBelow(files_, newFolder_, files_.GetAbsolutePathName(copy.to)).empty();
-    });
-}
+ProjectCopy::Paths ProjectCopy::filesOutside() const { return placesThat(&CopiedFile::isOutside); }
 
 bool ProjectCopy::copyAll(const Plan& plan) const {
     bool all = true;

@@ -2,13 +2,23 @@
 // A copy of a project's files in another folder.
 #include "Add-in/platform/files.h"
 #include "Add-in/platform/host_project.h"
-#include <functional>
 #include <set>
 
 namespace fernwick {
 
 /// Creates a folder and every folder above it that is missing. Errors go to the caller.
 void MakeDirectory(FileSystemObject& files, const std::string& path);
+
+/// A file that a copy writes.
+struct CopiedFile {
+    std::string from, to;
+    /// There is nothing to copy.
+    bool isMissing = false;
+    /// A file that exists would be replaced.
+    bool replaces = false;
+    /// Its place is not in the copy's folder or below it.
+    bool isOutside = false;
+};
 
 /// Plans a copy when it is constructed, and carries it out step by step. Each file keeps its place relative to the
 /// project file, where the copied project file finds it; components are put beside the project file, too. A file whose
@@ -19,6 +29,8 @@ public:
     ProjectCopy(FileSystemObject& files, const basic::Ref<vbide::VBProject>& project,
                 const std::string& newProjectFile);
 
+    /// All files but those whose place is the file itself, in the order in which they are written.
+    std::vector<CopiedFile> files() const;
     /// Existing files that the copy would replace.
     std::vector<std::string> replacedFiles() const;
     /// Files that the copy would write outside of its folder.
@@ -41,7 +53,7 @@ private:
 
     void planRelative(Plan& to, const std::string& relative);
     void plan(Plan& to, const std::string& from, const std::string& place);
-    Paths placesThat(const std::function<bool(const Planned&)>& fits) const;
+    Paths placesThat(bool CopiedFile::*fits) const;
     bool copyAll(const Plan& plan) const;
     bool copied(const Planned& copy) const;
 

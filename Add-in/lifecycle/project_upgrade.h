@@ -19,6 +19,9 @@ struct Upgrade {
     std::vector<std::string> unknownLines;
 };
 
+/// Whether a file is a Fernwick project that upgradeProject would change. Errors go to the caller.
+bool hasOldFormat(FileSystemObject& files, const std::string& projectFile);
+
 /// Adds the version of the format and the values of the project's device that it lacks. All other lines stay. The file
 /// must not be open in the host; it is backed up first, and replaced as a whole. Errors go to the caller.
 Upgrade upgradeProject(FileSystemObject& files, const DeviceServices& devices, const std::string& projectFile);

@@ -64,6 +64,8 @@ public:
     /// template's; afterwards the project has no file.
     virtual Ref<VBProject> AddFromTemplate(const std::string& path, bool exclusive = false) = 0;
     virtual void Remove(const Ref<VBProject>& project) = 0;
+    /// The path of the project group that a project was opened with; "" for none.
+    virtual std::string GroupOf(const Ref<VBProject>&) const { return {}; }
 };
 
 /// The event sources. A handler is called only while its sink holds the source.
@@ -101,6 +103,7 @@ public:
                                                const Ref<AddIn>& AddInInst) = 0;
     virtual void IDTExtensibility_OnDisconnection(vbext_DisconnectMode RemoveMode) = 0;
     virtual void IDTExtensibility_OnStartupComplete() = 0;
+    /// An add-in was connected or disconnected.
     virtual void IDTExtensibility_OnAddInsUpdate() = 0;
 };
 

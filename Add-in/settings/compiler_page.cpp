@@ -56,7 +56,8 @@ void CompilerPage::saveTrust(Procedure& here) {
         const auto path = folder();
         const bool trust = chkTrustFolder.Value() == 1;
         if (path.empty() || trust == trusted_.holds(path)) return;
-        trust ? trusted_.add(path) : trusted_.remove(path);
+        const bool stored = trust ? trusted_.add(path) : trusted_.remove(path);
+        if (!stored) services_.platform.interaction.MsgBox(kTrustNotStored, vbExclamation, kTitle);
     });
 }
 

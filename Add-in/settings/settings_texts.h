@@ -38,6 +38,7 @@ inline constexpr char kNoCompilerHelp[] = "Could not find required Fernwick help
 inline constexpr char kTrustFolder[] = "&Trust this folder: its projects may run their steps";
 inline constexpr char kTrustFolderTip[] = "Steps are programs. Trust the folder only if you know the projects in it. "
                                           "The next question about it is not asked.";
+inline constexpr char kTrustNotStored[] = "Your settings cannot be written, so the trust in the folder did not change.";
 inline constexpr char kTrustNeedsSaving[] = "Save the project first: the folder that is trusted is the project's.";
 
 // Dependencies.

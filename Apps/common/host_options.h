@@ -5,9 +5,11 @@
 
 namespace apps {
 
-/// The add-in's registration in the host.
+/// The registrations of the add-in and its sibling in the host.
 inline constexpr const char* kAddInProgId = "QLVBAddIn.Connect";
 inline constexpr const char* kAddInName = "Fernwick";
+inline constexpr const char* kImporterProgId = "QLProjectImport.Connect";
+inline constexpr const char* kImporterName = "Fernwick Project Converter";
 
 /// Returns options for the machine's stores, classes, controls and templates. Both arguments must outlive the host.
 host::HostOptions hostOptionsOf(Machine& machine, InstalledControls& controls);

@@ -33,7 +33,7 @@ void ListedAddIn::connectAs(vbide::vbext_ConnectMode mode) {
         throw;
     }
     connecting_ = false;
-    if (connected_) return;
+    if (connected_) return host->addInsChanged();
     // The add-in disconnected itself in OnConnection; that takes effect now.
     connected_ = true;
     disconnect(vbide::vbext_dm_UserClosed);
@@ -46,10 +46,18 @@ void ListedAddIn::disconnect(vbide::vbext_DisconnectMode mode) {
     retired_ = object_;
     object_ = nullptr;
     retired_->IDTExtensibility_OnDisconnection(mode);
+    if (const auto host = host_.lock()) host->addInsChanged();
 }
 
 void ListedAddIn::startupComplete() {
     if (connected_) object_->IDTExtensibility_OnStartupComplete();
+}
+
+/// Not during an add-in's own connection, which has not set it up yet.
+void ListedAddIn::addInsChanged() {
+    if (!connected_ || connecting_) return;
+    const auto object = object_;
+    object->IDTExtensibility_OnAddInsUpdate();
 }
 
 vbide::Ref<vbide::AddIn> AddInList::Item(const std::string& progId) const {

@@ -24,6 +24,7 @@ public:
     void connectAs(vbide::vbext_ConnectMode mode);
     void disconnect(vbide::vbext_DisconnectMode mode);
     void startupComplete();
+    void addInsChanged();
 
 private:
     std::weak_ptr<Host> host_;

@@ -162,6 +162,13 @@ void Host::startupComplete() {
     for (const auto& addIn : std::vector(addIns_->list())) addIn->startupComplete();
 }
 
+void Host::addInsChanged() {
+    for (const auto& addIn : std::vector(addIns_->list())) {
+        const auto failed = basic::attempt([&] { addIn->addInsChanged(); });
+        if (failed.Number != 0) handlerFailed(failed);
+    }
+}
+
 void Host::close() {
     projects_->removeAll();
     for (const auto& addIn : std::vector(addIns_->list())) addIn->disconnect(vbide::vbext_dm_HostShutdown);

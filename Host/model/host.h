@@ -71,6 +71,8 @@ public:
     /// Makes the project the active one and raises ItemActivated. Does nothing if it is already active.
     void activate(const vbide::Ref<vbide::VBProject>& project);
     void select(const vbide::Ref<vbide::VBComponent>& component) { selected_ = component; }
+    /// Notifies the connected add-ins that one was connected or disconnected.
+    void addInsChanged();
     /// Resets the active project and the selected component if they were removed.
     void projectRemoved(const vbide::Ref<vbide::VBProject>& project);
     void componentRemoved(const vbide::Ref<vbide::VBComponent>& component);

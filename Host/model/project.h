@@ -88,6 +88,8 @@ public:
     const vbide::Ref<vbide::VBComponentsEvents> componentsEvents = basic::make<vbide::VBComponentsEvents>();
     const vbide::Ref<vbide::ReferencesEvents> referencesEvents = basic::make<vbide::ReferencesEvents>();
     const vbide::Ref<vbide::FileControlEvents> fileEvents = basic::make<vbide::FileControlEvents>();
+    /// The path of the group that the project was opened with; "" for none.
+    std::string group;
 
 private:
     void edited();

@@ -32,6 +32,11 @@ bool Projects::holds(const vbide::Ref<vbide::VBProject>& project) const {
                        [&](const auto& p) { return vbide::Ref<vbide::VBProject>(p) == project; });
 }
 
+std::string Projects::GroupOf(const vbide::Ref<vbide::VBProject>& project) const {
+    const auto own = basic::cast<Project>(project).shared();
+    return own ? own->group : std::string();
+}
+
 // ---- opening --------------------------------------------------------------------------------------------------------
 
 vbide::Ref<vbide::VBProject> Projects::AddFromFile(const std::string& path, bool exclusive) {
@@ -88,6 +93,7 @@ vbide::Ref<vbide::VBProject> Projects::openGroup(const std::string& path, const 
 std::shared_ptr<Project> Projects::open(const std::string& path) {
     requireNotOpen(path);
     auto project = beginLoading(path);
+    project->group = openingGroup_;
     project->load();
     add(project);
     return project;

@@ -22,6 +22,7 @@ public:
     vbide::Ref<vbide::VBProject> AddFromFile(const std::string& path, bool exclusive) override;
     vbide::Ref<vbide::VBProject> AddFromTemplate(const std::string& path, bool exclusive) override;
     void Remove(const vbide::Ref<vbide::VBProject>& project) override;
+    std::string GroupOf(const vbide::Ref<vbide::VBProject>& project) const override;
 
     // ---- for the host ----
     /// Adds a new project with an empty form, like the menu command.

@@ -67,6 +67,11 @@ def make_old(work):
     path.write_bytes(path.read_bytes().replace(b"ProjectVersion=3.5", b"ProjectVersion=1.0"))
 
 
+def make_ordinary_and_lock(work):
+    make_ordinary(work)
+    lock(PROJECT)(work)
+
+
 def hide(path):
     return lambda work: (work / path).chmod(0)
 
@@ -135,6 +140,29 @@ TABLE = {
         "good": Cell(GOOD, PROJECT, prepare=make_old), "errors": Cell(FAILED, PROJECT, prepare=make_ordinary),
         "read-only": Cell(MACHINE, PROJECT, prepare=lock(PROJECT)),
         "full disk": Cell(MACHINE, PROJECT, prepare=make_old)},
+    "new": {
+        "good": Cell(GOOD, "Fresh", *DEVICE), "errors": "see read-only", "wrong use": Cell(MISUSED, "9x", *DEVICE),
+        "missing file": Cell(MISUSED, "Fresh", *DEVICE, "--template", "none.vbp"),
+        "folder": Cell(MISUSED, "Fresh", *DEVICE, "--template", "folder.vbp"),
+        "unreadable file": Cell(MACHINE, "Fresh", *DEVICE, "--template", PROJECT, prepare=hide(PROJECT)),
+        "read-only": Cell(FAILED, "HelloWorld/Fresh", *DEVICE, prepare=lock(PROJECT)),
+        "full disk": Cell(MACHINE, "Fresh", *DEVICE), "interrupted": Cell(INTERRUPTED, "Fresh", *DEVICE)},
+    "init": project_row() | {
+        "good": Cell(GOOD, PROJECT, *DEVICE, "--yes", prepare=make_ordinary),
+        "errors": Cell(FAILED, PROJECT, *DEVICE, prepare=make_ordinary, data=True),
+        "read-only": Cell(MACHINE, PROJECT, *DEVICE, "--yes", prepare=make_ordinary_and_lock),
+        "full disk": Cell(MACHINE, PROJECT, *DEVICE, "--yes", prepare=make_ordinary)},
+    "steps": project_row() | {
+        "good": Cell(GOOD, PROJECT, "add", "pre", "echo one"),
+        "errors": Cell(FAILED, PROJECT, "add", "pre", "echo one", prepare=make_ordinary),
+        "wrong use": Cell(MISUSED, PROJECT, "remove", "pre", "9"),
+        "read-only": Cell(MACHINE, PROJECT, "add", "pre", "echo one", prepare=lock(PROJECT)),
+        "full disk": Cell(MACHINE, "listed/HelloWorld.vbp")},
+    "trust": {
+        "good": Cell(GOOD, "add", PROJECT), "errors": "there is nothing to find", "wrong use": Cell(MISUSED, "add"),
+        "missing file": Cell(MISUSED, "none.vbp"), "folder": "a folder is what it takes",
+        "unreadable file": "reads only the store", "read-only": Cell(MACHINE, "add", PROJECT, prepare=lock_stores),
+        "full disk": Cell(MACHINE, PROJECT), "interrupted": Cell(INTERRUPTED)},
     "settings": {
         "good": Cell(GOOD, "set", PROJECT, "DefaultFontSize", "9"),
         "errors": Cell(FAILED, "set", PROJECT, "DefaultFontSize", "9", prepare=make_ordinary),
@@ -256,6 +284,7 @@ class ExitStatus(unittest.TestCase):
         cls.template.fernwick("package", PROJECT, check=True)
         shutil.copytree(work / "HelloWorld", work / "listed")
         cls.template.fernwick("dependencies", "listed/HelloWorld.vbp", "add", "listed/data.txt", check=True)
+        cls.template.fernwick("steps", "listed/HelloWorld.vbp", "add", "pre", "echo one", check=True)
         shutil.copytree(work / "HelloWorld", work / "broken")
         with (work / "broken/frmHello.frm").open("ab") as file:
             file.write(b"Sub x(\r\n")
@@ -307,8 +336,8 @@ class ExitStatus(unittest.TestCase):
     def test_each_command_that_opens_a_project_takes_its_code_page(self):
         takers = [verb for verb in self.verbs
                   if "--code-page" in self.template.fernwick("help", verb, check=True).stdout]
-        self.assertEqual(takers, ["build", "validate", "clean", "convert", "upgrade", "package", "deploy", "check", "info", "messages",
-                                  "settings", "dependencies"])
+        self.assertEqual(takers, ["build", "validate", "clean", "init", "convert", "upgrade", "package", "deploy", "check", "info",
+                                  "messages", "settings", "dependencies", "steps"])
         for verb in takers:
             arguments = (PROJECT,) if verb == "check" else TABLE[verb]["good"].arguments
             with self.subTest(verb), prepared(self.template, Cell(GOOD)) as home:
@@ -324,6 +353,7 @@ class ExitStatus(unittest.TestCase):
     def test_a_full_disk_leaves_all_files_as_they_are(self):
         for verb, *arguments in (("settings", "set", PROJECT, "DefaultFontSize", "9"),
                                  ("dependencies", PROJECT, "add", "HelloWorld/data.txt"),
+                                 ("steps", PROJECT, "add", "pre", "echo one"), ("trust", "add", PROJECT),
                                  ("registry", "set", KEY, "Name", "value"), ("devices", "add", "PocketPC-ARM"),
                                  ("build", PROJECT), ("package", PROJECT)):
             for form in ("text", "json"):

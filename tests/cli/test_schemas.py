@@ -124,6 +124,11 @@ class Schemas(unittest.TestCase):
         self.assertEqual((same["converted"], "backup" in same), (False, False))
         copy = self.fits("convert", "convert", project, "--to", "PocketPC-SH3", "--output", str(self.home.work / "new/A"))
         self.assertEqual((copy["project"], copy["device"]), (str(self.home.work / "new/A.vbp"), "PocketPC-SH3"))
+        copy = self.fits("convert", "convert", project, "--to", "PocketPC-SH3", "--output", "new/A.vbp", "--dry-run")
+        self.assertEqual({(file["missing"], file["replaces"], file["outside"]) for file in copy["plan"]["files"]},
+                         {(False, True, False)})
+        planned = self.fits("convert", "convert", project, "--to", "PocketPC-SH3", "--in-place", "--dry-run")
+        self.assertEqual((planned["converted"], planned["plan"]["files"]), (False, []))
         changed = self.fits("convert", "convert", project, "--to", "PocketPC-SH3", "--in-place")
         self.assertEqual((changed["converted"], changed["backup"]), (True, project + ".bak"))
 
@@ -135,6 +140,36 @@ class Schemas(unittest.TestCase):
         done = self.fits("upgrade", "upgrade", str(self.project))
         self.assertEqual((done["upgraded"], done["unknownLines"]), (True, ["OldOption=7"]))
         self.assertEqual(self.project.with_name("HelloWorld.vbp.bak").read_bytes(), old)
+
+    def test_new_projects(self):
+        made = self.fits("new", "new", "Game", "--device", "PalmOS-DragonBall")
+        self.assertEqual(made["files"], [str(self.home.work / "Game" / name) for name in ("Form1.frm", "Game.vbp")])
+        self.assertEqual((made["project"], made["device"]), (made["files"][1], "PalmOS-DragonBall"))
+
+    def test_adoptions(self):
+        same = self.fits("init", "init", str(self.project))
+        self.assertEqual((same["written"], same["added"]), (False, []))
+        own = self.project.read_bytes().split(b"[Quinloft Global]")[0]
+        self.project.write_bytes(own)
+        form = self.project.with_name("frmHello.frm")
+        form.write_bytes(form.read_bytes().replace(b"TavletsCtl.QLButton", b"VB.CommandButton", 1) + BREAK.encode())
+        init = ("init", str(self.project), "--device", "PalmOS-DragonBall")
+        shown = self.fits("init", *init, status=1)
+        self.assertEqual((shown["written"], self.project.read_bytes()), (False, own))
+        self.assertEqual([control["class"] for control in shown["controls"]], ["VB.CommandButton"])
+        self.assertTrue([message for message in shown["messages"] if message["severity"] == "error"])
+        done = self.fits("init", *init, "--yes")
+        self.assertEqual((done["written"], done["added"]), (True, shown["added"]))
+        self.assertIn("TargetDevice=PalmOS-DragonBall", done["added"])
+
+    def test_steps_and_trust(self):
+        changed = self.fits("steps", "steps", str(self.project), "add", "pre", "one", "two")
+        self.assertEqual((changed["preCompileSteps"], changed["postCompileSteps"]), (["one", "two"], []))
+        self.assertEqual(self.fits("steps", "steps", str(self.project)), changed)
+        folder = str(self.project.parent)
+        self.assertEqual(self.fits("trust", "trust", folder)["folders"], [{"folder": folder, "trusted": False}])
+        self.fits("trust", "trust", "add", str(self.project))
+        self.assertEqual(self.fits("trust", "trust")["folders"], [{"folder": folder, "trusted": True}])
 
     def test_dependencies(self):
         self.fits("dependencies", "dependencies", str(self.project))
@@ -262,9 +297,9 @@ class Schemas(unittest.TestCase):
         # package-1 is the manifest, see test_packages
         self.assertEqual(sorted(p.stem for p in (ROOT / "installation/schemas").glob("*.json")),
                          ["build-plan-1", "clean-1", "convert-1", "dependencies-1", "devices-1", "doctor-1",
-                          "explain-1", "info-1", "package-1", "package-listing-1", "recent-1", "registry-1", "report-1",
-                          "settings-1", "settings-changes-1",
-                          "targets-1", "upgrade-1", "version-1"])
+                          "explain-1", "info-1", "init-1", "new-1", "package-1", "package-listing-1", "recent-1", "registry-1", "report-1",
+                          "settings-1", "settings-changes-1", "steps-1",
+                          "targets-1", "trust-1", "upgrade-1", "version-1"])
 
 
 if __name__ == "__main__":

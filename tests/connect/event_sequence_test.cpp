@@ -57,6 +57,15 @@ protected:
         for (const auto& component : active()->VBComponents()->items()) names.push_back(component->Name());
         return names;
     }
+    /// Converts each project whose device is not available to this file.
+    void copyTo(const std::string& path) {
+        user.savedAs = {path};
+        user.whenShown["frmDesignTargetConverterWarning"] = [](auto& form) { test::press(form, "cmdRunConverter"); };
+        user.whenShown["frmDesignTargetConverter"] = [this](auto& form) {
+            addIn().converter.lstDesignTargets.ListIndex(0);
+            test::press(form, "btnOK");
+        };
+    }
     std::string bytesOf(const std::string& path) const {
         return host.folder.read(path.substr(host.folder.path().size() + 1));
     }
@@ -267,6 +276,17 @@ TEST_F(EventSequence, AComponentMayBeAddedWhileItsProjectIsAdded) {
     EXPECT_THAT(componentNames(), ElementsAre("Module9", "Module1"));
 }
 
+TEST_F(EventSequence, AFormThatIsGoneOrWhoseProjectIsLeftWhileItIsAddedIsIgnored) {
+    const auto a = host.open(named("A")), b = host.open(named("B"));
+    loop.Post([&] { b->VBComponents()->Remove(b->VBComponents()->Item("Form1")); });
+    b->VBComponents()->Add(vbide::vbext_ct_VBForm);
+    loop.Post([&] { host.ide->ActiveVBProject(a); });
+    const auto form = b->VBComponents()->Add(vbide::vbext_ct_VBForm);
+    EXPECT_THAT(boxes(), IsEmpty());
+    EXPECT_EQ(addIn().errors.reports(), 0);
+    EXPECT_TRUE(form->HasOpenDesigner());
+}
+
 TEST_F(EventSequence, ARemovalRequestedWhileAProjectIsAddedWaitsForTheTimer) {
     const auto importer = items().gUtilitiesPopup->Controls()->Add(office::msoControlButton, 0);
     importer->Caption("Fernwick Project Converter");
@@ -316,12 +336,7 @@ TEST_F(EventSequence, AProjectOfAnUnknownDeviceStaysIfTheUserOpensItAnyway) {
 
 TEST_F(EventSequence, ACopyForAnAvailableDeviceTakesThePlaceOfAProject) {
     const auto path = host.folder / "new/deep/Copy.vbp";
-    user.savedAs = {path};
-    user.whenShown["frmDesignTargetConverterWarning"] = [](auto& form) { test::press(form, "cmdRunConverter"); };
-    user.whenShown["frmDesignTargetConverter"] = [this](auto& form) {
-        addIn().converter.lstDesignTargets.ListIndex(0);
-        test::press(form, "btnOK");
-    };
+    copyTo(path);
     const auto original = hello("Gone-9").writeTo(host.folder);
     const auto before = bytesOf(original);
     host.ide->VBProjects()->AddFromFile(original, false);
@@ -333,6 +348,29 @@ TEST_F(EventSequence, ACopyForAnAvailableDeviceTakesThePlaceOfAProject) {
     EXPECT_TRUE(items().gCompileItem->Enabled());
     EXPECT_EQ(bytesOf(original), before);
     EXPECT_FALSE(std::filesystem::exists(path + ".converting"));
+}
+
+TEST_F(EventSequence, ACopyIsNotOpenedIfTheUserKeepsOtherUnsavedWork) {
+    const auto other = host.open(named("A"));
+    copyTo(host.folder / "new/Copy.vbp");
+    host.mayReplaceProjects = [] { return false; };
+    host.ide->VBProjects()->AddFromFile(hello("Gone-9").writeTo(host.folder), false);
+    loop.turn();
+    EXPECT_THAT(boxes(), IsEmpty());
+    EXPECT_EQ(active(), other);
+    EXPECT_EQ(host.ide->VBProjects()->Count(), 1);
+}
+
+TEST_F(EventSequence, ACopyOfAProjectInAGroupIsNotNamedByTheGroup) {
+    copyTo(host.folder / "new/Copy.vbp");
+    hello("Gone-9").writeTo(host.folder);
+    const std::string text = "VBGROUP 5.0\r\nStartupProject=Hello.vbp\r\n";
+    const auto group = host.folder.write("One.vbg", text);
+    host.ide->VBProjects()->AddFromFile(group, false);
+    EXPECT_THAT(boxes(), ElementsAre(box(fernwick::vbInformation, "The project group still names the old project file, "
+                                                                  "not the copy: " +
+                                                                      group)));
+    EXPECT_EQ(bytesOf(group), text);
 }
 
 TEST_F(EventSequence, AProjectIsConvertedInPlaceAndItsOldFileIsKept) {

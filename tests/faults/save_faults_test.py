@@ -21,6 +21,7 @@ BUILD = ["build", "HelloWorld.vbp", "--yes"]
 CONVERT = ["convert", "HelloWorld.vbp", "--to", "PocketPC-SH3", "--in-place"]
 COPY = ["convert", "HelloWorld.vbp", "--to", "PocketPC-SH3", "--output", "../new/Copy.vbp", "--yes"]
 UPGRADE = ["upgrade", "HelloWorld.vbp"]
+INIT = ["init", "HelloWorld.vbp", "--device", "PalmOS-DragonBall", "--yes"]
 REFUSALS = [("openat", "EACCES"), ("write", "ENOSPC"), ("fsync", "EIO"), ("mkdir", "EACCES"),
             ("rename,renameat,renameat2", "EACCES"), ("rename,renameat,renameat2", "EIO")]
 
@@ -187,24 +188,32 @@ class Conversions(unittest.TestCase):
             self.assertEqual((again.returncode, self.project.vbp.read_bytes()), (0, self.new), what + again.stderr)
             self.check_nothing_is_left(self.project.folder, what)
 
-    def test_upgrade(self):
-        old = self.project.old["HelloWorld.vbp"].replace(b"ProjectVersion=3.5\r\n", b"")
+    def check_rewriting(self, arguments, old, mark):
+        """The file is the old one or the new one with its backup, and a later run makes the new one."""
         self.project.old["HelloWorld.vbp"] = old
         self.project.restore()
-        good = self.project.run(UPGRADE)
+        good = self.project.run(arguments)
         self.assertEqual(good.returncode, 0, good.stderr)
         new = self.project.vbp.read_bytes()
-        self.assertIn(b"ProjectVersion=3.5\r\n", new)
-        for what, result in self.each_failure(UPGRADE):
+        self.assertIn(mark, new)
+        for what, result in self.each_failure(arguments):
             now = self.project.vbp.read_bytes()
             self.assertIn(now, (old, new), what)
             if now == new:
                 self.assertEqual((self.project.folder / "HelloWorld.vbp.bak").read_bytes(), old, what)
             if result.returncode == 0:
                 self.assertEqual(now, new, what)
-            again = self.project.run(UPGRADE)
+            again = self.project.run(arguments)
             self.assertEqual((again.returncode, self.project.vbp.read_bytes()), (0, new), what + again.stderr)
             self.check_nothing_is_left(self.project.folder, what)
+
+    def test_upgrade(self):
+        old = self.project.old["HelloWorld.vbp"].replace(b"ProjectVersion=3.5\r\n", b"")
+        self.check_rewriting(UPGRADE, old, b"ProjectVersion=3.5\r\n")
+
+    def test_init(self):
+        old = self.project.old["HelloWorld.vbp"].split(b"[Quinloft Global]")[0]
+        self.check_rewriting(INIT, old, b"IsQuinloftProject=True\r\n")
 
     def test_copy(self):
         for what, result in self.each_failure(COPY):

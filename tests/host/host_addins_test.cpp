@@ -24,11 +24,28 @@ public:
         calls_.push_back("disconnection " + std::to_string(mode));
     }
     void IDTExtensibility_OnStartupComplete() override { calls_.push_back("startup"); }
-    void IDTExtensibility_OnAddInsUpdate() override {}
+    void IDTExtensibility_OnAddInsUpdate() override { calls_.push_back("update"); }
 
 private:
     Calls& calls_;
     bool givesUp_;
+};
+
+/// Connects another add-in during its own connection, and fails when the list changes.
+class ConnectingAddIn final : public vbide::IDTExtensibility {
+public:
+    explicit ConnectingAddIn(Calls& calls) : calls_(calls) {}
+    void IDTExtensibility_OnConnection(const Ref<vbide::VBE>& host, vbide::vbext_ConnectMode,
+                                       const Ref<vbide::AddIn>&) override {
+        host->Addins()->Item("A")->Connect(true);
+        calls_.push_back("both");
+    }
+    void IDTExtensibility_OnDisconnection(vbide::vbext_DisconnectMode) override {}
+    void IDTExtensibility_OnStartupComplete() override {}
+    void IDTExtensibility_OnAddInsUpdate() override { throw basic::RuntimeError(13); }
+
+private:
+    Calls& calls_;
 };
 
 class FailingAddIn final : public vbide::IDTExtensibility {
@@ -71,7 +88,7 @@ TEST(HostAddins, ConnectAndDisconnect) {
     host.ide->startupComplete();
     host.ide->close();
     EXPECT_FALSE(addIn->Connect());
-    EXPECT_EQ(calls, (Calls{"connection 3 1", "connected", "startup", "disconnection 0"}));
+    EXPECT_EQ(calls, (Calls{"connection 3 1", "connected", "update", "startup", "disconnection 0"}));
     addIn->Connect(true);
     addIn->Connect(false);
     EXPECT_EQ(calls.back(), "disconnection 1");
@@ -86,6 +103,22 @@ TEST(HostAddins, OneThatDisconnectsItselfIsDisconnectedAfterItsStart) {
     host.ide->connectAddIn("A", vbide::vbext_cm_Startup);
     EXPECT_EQ(calls, (Calls{"connection 1 0", "connected", "disconnection 1"}));
     EXPECT_FALSE(host.ide->Addins()->Item("A")->Connect());
+}
+
+TEST(HostAddins, EachConnectionAndDisconnectionIsReportedToTheConnectedOnes) {
+    TestHost host;
+    Calls calls;
+    host.ide->listAddIn("A", "", [&] { return basic::make<NotedAddIn>(calls, false); });
+    host.ide->listAddIn("B", "", [&] { return basic::make<ConnectingAddIn>(calls); });
+    host.ide->connectAddIn("B", vbide::vbext_cm_Startup);
+    EXPECT_EQ(calls, (Calls{"connection 0 0", "connected", "update", "both", "update"}));
+    ASSERT_EQ(host.failures.size(), 1u); // not during its own connection
+    EXPECT_EQ(host.failures.front().Number, 13);
+    calls.clear();
+    host.ide->Addins()->Item("B")->Connect(false);
+    EXPECT_EQ(calls, Calls{"update"});
+    host.ide->Addins()->Item("A")->Connect(false);
+    EXPECT_EQ(calls, (Calls{"update", "disconnection 1"}));
 }
 
 TEST(HostAddins, AFailedStartLeavesItDisconnected) {
@@ -104,7 +137,7 @@ TEST(HostAddins, ClosingRemovesTheProjectsFirst) {
     const auto removed =
         host.ide->Events()->VBProjectsEvents()->ItemRemoved.connect([&](auto) { calls.push_back("removed"); });
     host.ide->close();
-    EXPECT_EQ(calls, (Calls{"connection 1 0", "connected", "removed", "disconnection 0"}));
+    EXPECT_EQ(calls, (Calls{"connection 1 0", "connected", "update", "removed", "disconnection 0"}));
 }
 
 TEST(HostAddins, AToolWindowHasADocumentAndIsHidden) {

@@ -239,6 +239,18 @@ TEST_F(ProjectRemoval, AComponentIsForgottenOnceItIsRemoved) {
     EXPECT_FALSE(loop.hasTimers());
 }
 
+TEST_F(ProjectRemoval, AComponentThatHasGoneSinceTheRequestIsSkipped) {
+    const auto project = open("A"), closed = open("B");
+    removal.RemoveComponent(project, project->add("Form1", "/p/Form1.frm"));
+    project->components->list.clear();
+    EXPECT_THAT(turn(), IsEmpty());
+    removal.RemoveComponent(closed, closed->add("Form1", "/p/Form1.frm"));
+    vbe->projects->Remove(closed);
+    EXPECT_THAT(turn(), IsEmpty());
+    EXPECT_FALSE(loop.hasTimers());
+    EXPECT_THAT(errors.seen, IsEmpty());
+}
+
 TEST_F(ProjectRemoval, AComponentRequestedDuringARemovalIsRemovedToo) {
     struct Chain : test::TracedComponents {
         using TracedComponents::TracedComponents;

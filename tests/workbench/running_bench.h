@@ -44,6 +44,15 @@ protected:
                               std::filesystem::copy_options::recursive);
         return folder / (name + "/" + name + ".vbp");
     }
+    /// Copies the sample HelloWorld in the format of projects before 3.5.
+    std::string oldSample() {
+        const auto path = sample("HelloWorld");
+        auto text = folder.read("HelloWorld/HelloWorld.vbp");
+        const std::string version = "ProjectVersion=3.5\r\n";
+        text.erase(text.find(version), version.size());
+        folder.write("HelloWorld/HelloWorld.vbp", text);
+        return path;
+    }
     /// Waits, then runs Qt's loop until nothing is pending, as on a busy machine the wait may end early and drawing may
     /// cause more drawing.
     static void settle(int milliseconds = 20) {

@@ -8,6 +8,7 @@
 #include <QMessageBox>
 #include <QScreen>
 #include <QSettings>
+#include <QStatusBar>
 #include <QTreeView>
 #include <QWindow>
 #include <gmock/gmock.h>
@@ -37,18 +38,31 @@ TEST_F(Desktop, TheAddInSeesAllProjectsOfTheStart) {
 }
 
 TEST_F(Desktop, AnOldProjectIsRefusedAtTheDoorAndNotWritten) {
-    const auto path = sample("HelloWorld");
-    auto old = folder.read("HelloWorld/HelloWorld.vbp");
-    const std::string version = "ProjectVersion=3.5";
-    ASSERT_NE(old.find(version), std::string::npos);
-    old.erase(old.find(version), version.size() + 2);
-    folder.write("HelloWorld/HelloWorld.vbp", old);
+    const auto path = oldSample();
+    const auto old = folder.read("HelloWorld/HelloWorld.vbp");
     answer([](QDialog& box) { box.reject(); });
     bench->begin({path});
     EXPECT_TRUE(QTest::qWaitFor([this] { return bench->host().VBProjects()->Count() == 0; }));
     QTest::qWait(100);
     answers_.stop();
     EXPECT_EQ(folder.read("HelloWorld/HelloWorld.vbp"), old);
+}
+
+TEST_F(Desktop, AnOldProjectIsConvertedIfTheUserAgrees) {
+    const auto path = oldSample();
+    const auto old = folder.read("HelloWorld/HelloWorld.vbp");
+    answer([](QDialog& window) {
+        auto& box = dynamic_cast<QMessageBox&>(window);
+        auto* const yes = box.button(QMessageBox::Yes);
+        (yes ? yes : box.button(QMessageBox::Ok))->click();
+    });
+    bench->begin({path});
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !window().statusBar()->currentMessage().isEmpty(); }));
+    answers_.stop();
+    settle();
+    EXPECT_EQ(window().statusBar()->currentMessage().toStdString(), "The old project file is " + path + ".bak");
+    EXPECT_EQ(folder.read("HelloWorld/HelloWorld.vbp.bak"), old);
+    EXPECT_EQ(bench->addIn().projects.FindQLProject(project())->ProjectVersion(), "3.5");
 }
 
 TEST_F(Desktop, TheFirstWindowFitsTheScreen) {

@@ -2,8 +2,18 @@
 #include "Add-in/core/connect/Connect.h"
 #include "Add-in/core/connect/connect_texts.h"
 #include "Add-in/core/connect/default_names.h"
+#include <algorithm>
 
 namespace fernwick {
+
+namespace {
+
+bool holds(const vbide::VBComponents& components, const basic::Ref<vbide::VBComponent>& component) {
+    const auto all = components.items();
+    return std::find(all.begin(), all.end(), component) != all.end();
+}
+
+} // namespace
 
 /// Returns Nothing for a project of another kind or one that is not listed.
 Connect::QLProject Connect::activeFernwickProject(Procedure& here) {
@@ -17,8 +27,11 @@ void Connect::CompsEventsHandler_ItemAdded(Component VBComponent) {
     here([&] { services_.loop.DoEvents(); });
     const auto project = activeFernwickProject(here);
     if (!project) return;
+    // removed, or of a project that was left, in the meantime
+    if (!here.value([&] { return holds(*project->VBProject()->VBComponents(), VBComponent); })) return;
+
     vbide::vbext_ComponentType type{};
-    if (!here([&] { type = VBComponent->Type(); })) return; // removed in the meantime
+    if (!here([&] { type = VBComponent->Type(); })) return;
 
     switch (type) {
     case vbide::vbext_ct_VBForm:

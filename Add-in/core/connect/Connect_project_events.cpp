@@ -96,10 +96,10 @@ void Connect::refuseDevice(Procedure& here, const QLProject& project, const std:
     warning.Unload();
 }
 
-/// The copy that the converter made of a project takes its place.
+/// The copy that the converter made of a project takes its place, unless the user keeps unsaved work of other projects.
 void Connect::openCopy(const std::string& path) {
     const auto copy = services_.addIn.gVBInstance->VBProjects()->AddFromFile(path, true);
-    services_.converter.conversion().finishCopy(copy);
+    if (copy) services_.converter.conversion().finishCopy(copy);
 }
 
 void Connect::closeAdded(Procedure& here, const Project& project) {

@@ -76,6 +76,27 @@ void defineClean(CLI::App& app, Raw& raw) {
     addDryRun(clean, raw);
 }
 
+void defineNew(CLI::App& app, Raw& raw) {
+    auto& made = addVerb(app, raw, "new", runNew, "Create a project with its first form in a new folder",
+                         "fernwick new projects/Game --device PalmOS-DragonBall");
+    made.add_option("NAME", raw.options.project, "Folder of the project; its last part is the project's name")
+        ->required();
+    made.add_option("--device", raw.options.device, "Design target of the device")->type_name("KEY");
+    made.add_option("--template", raw.options.templateName,
+                    "Installed template or project file to begin with (default: Fernwick Project)")
+        ->type_name("NAME");
+}
+
+void defineInit(CLI::App& app, Raw& raw) {
+    auto& init = addVerb(app, raw, "init", runInit, "Make a Visual Basic project a Fernwick project",
+                         "fernwick init AddressBook.vbp --device PocketPC-SH3");
+    addProject(init, raw);
+    init.add_option("--device", raw.options.device, "Design target of the device")->type_name("KEY");
+    init.add_flag("-y,--yes", raw.yes, "Write without asking");
+    addCodePage(init, raw);
+    addNoWait(init, raw);
+}
+
 void defineConvert(CLI::App& app, Raw& raw) {
     auto& convert = addVerb(app, raw, "convert", runConvert, "Move a project to another device",
                             "fernwick convert AddressBook.vbp --to PocketPC-SH3 --output ../Pocket/AddressBook.vbp");
@@ -91,6 +112,7 @@ void defineConvert(CLI::App& app, Raw& raw) {
     addAnswers(convert, raw);
     addCodePage(convert, raw);
     addNoWait(convert, raw);
+    addDryRun(convert, raw);
 }
 
 void defineUpgrade(CLI::App& app, Raw& raw) {
@@ -125,6 +147,8 @@ void defineProjectVerbs(CLI::App& app, Raw& raw) {
     defineBuild(app, raw);
     defineValidate(app, raw);
     defineClean(app, raw);
+    defineNew(app, raw);
+    defineInit(app, raw);
     defineConvert(app, raw);
     defineUpgrade(app, raw);
     definePackage(app, raw);

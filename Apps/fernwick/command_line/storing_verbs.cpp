@@ -1,7 +1,7 @@
 // Commands that read and change what is stored.
 #include "Apps/fernwick/command_line/usage_errors.h"
 #include "Apps/fernwick/command_line/verb_line.h"
-#include "Apps/fernwick/verbs/stored_settings.h"
+#include "Apps/fernwick/stored/stored_settings.h"
 #include <fmt/format.h>
 
 namespace cli {
@@ -56,12 +56,30 @@ void defineDependencies(CLI::App& app, Raw& raw) {
     addNoWait(dependencies, raw);
 }
 
+void defineSteps(CLI::App& app, Raw& raw) {
+    auto& steps = addVerb(app, raw, "steps", runSteps, "List, add, remove or move the compile steps of a project",
+                          "fernwick steps AddressBook.vbp add pre 'make icons'\n  fernwick steps move post 3 1");
+    steps.add_option(
+        "OPERANDS", raw.options.operands,
+        "[PROJECT] [list [pre|post] | add pre|post COMMAND... | remove pre|post NUMBER... | move pre|post NUMBER TO]");
+    addCodePage(steps, raw);
+    addNoWait(steps, raw);
+}
+
+void defineTrust(CLI::App& app, Raw& raw) {
+    auto& trust = addVerb(app, raw, "trust", runTrust, "Show, give or take back the trust to run compile steps",
+                          "fernwick trust add projects/AddressBook");
+    trust.add_option("OPERANDS", raw.options.operands, "[list] | [add | remove] FOLDER|PROJECT");
+}
+
 } // namespace
 
 void defineStoringVerbs(CLI::App& app, Raw& raw) {
     defineSettings(app, raw);
     defineRegistry(app, raw);
     defineDependencies(app, raw);
+    defineSteps(app, raw);
+    defineTrust(app, raw);
 }
 
 } // namespace cli

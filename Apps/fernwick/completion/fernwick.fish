@@ -25,7 +25,7 @@ function __fernwick_complete
     set -l previous
     for word in (commandline -opc)[2..]
         if not string match -q -- '-*' $word
-            and not contains -- "$previous" --format --color --device --depfile --depfile-target --output --name --answer --code-page --source-root
+            and not contains -- "$previous" --format --color --device --to --template --depfile --depfile-target --output --name --answer --code-page --source-root
             if test -z "$verb"
                 set verb $word
             else if test -z "$action"
@@ -45,8 +45,11 @@ function __fernwick_complete
         case --source-root
             __fish_complete_directories (commandline -ct)
             return
-        case --device
+        case --device --to
             __fernwick_targets
+            return
+        case --template
+            __fish_complete_suffix .vbp
             return
         case --depfile
             __fish_complete_suffix .d
@@ -79,7 +82,7 @@ function __fernwick_complete
             __fernwick_help Commands: --help
         case completion
             printf '%s\n' bash zsh fish
-        case convert messages upgrade
+        case convert init messages upgrade
             __fish_complete_suffix .vbp
         case build clean info validate workbench
             __fish_complete_suffix .vbp
@@ -101,6 +104,23 @@ function __fernwick_complete
             else
                 __fish_complete_path (commandline -ct)
             end
+        case steps
+            switch "$previous"
+                case add remove move
+                    printf '%s\n' pre post
+                case '*'
+                    if test -z "$action"; or string match -qi '*.vbp' -- $action
+                        printf '%s\n' list add remove move
+                    end
+                    if test -z "$action"; or test "$action" = list
+                        __fish_complete_suffix .vbp
+                    end
+            end
+        case trust
+            if test -z "$action"
+                printf '%s\n' list add remove
+            end
+            __fish_complete_suffix .vbp
         case devices
             switch "$action"
                 case ''

@@ -40,7 +40,7 @@ _fernwick_numbers() {
 _fernwick() {
   local verb action word previous=
   for word in ${words[2,CURRENT-1]}; do
-    if [[ $word != -* && $previous != --(format|color|device|depfile|depfile-target|output|name|answer|code-page|source-root) ]]; then
+    if [[ $word != -* && $previous != --(format|color|device|to|template|depfile|depfile-target|output|name|answer|code-page|source-root) ]]; then
       if [[ -z $verb ]]; then verb=$word; elif [[ -z $action ]]; then action=$word; fi
     fi
     previous=$word
@@ -50,7 +50,8 @@ _fernwick() {
     --format) _fernwick_formats $verb; return ;;
     --color) compadd auto always never; return ;;
     --source-root) _files -/; return ;;
-    --device) _fernwick_targets; return ;;
+    --device | --to) _fernwick_targets; return ;;
+    --template) _files -g '(#i)*.vbp'; return ;;
     --depfile) _files -g '(#i)*.d'; return ;;
     --output) _files -/; return ;;
     --name | --depfile-target) return ;;
@@ -65,7 +66,7 @@ _fernwick() {
     "") _fernwick_help verbs Commands: --help ;;
     help) compadd answers; _fernwick_help verbs Commands: --help ;;
     completion) compadd bash zsh fish ;;
-    convert | messages | upgrade) _files -g '(#i)*.vbp' ;;
+    convert | init | messages | upgrade) _files -g '(#i)*.vbp' ;;
     build | clean | info | validate | workbench) _files -g '(#i)*.(vbp|vbg)' ;;
     check) _files -g '(#i)*.(vbp|vbg|bas|cls|frm|ctl|pag|dsr|dob)' ;;
     deploy | package) _files -g '(#i)*.(vbp|vbg|qlpkg)' ;;
@@ -73,6 +74,16 @@ _fernwick() {
     dependencies)
       [[ -z $action || ${action:l} == *.vbp ]] && compadd list add remove
       if [[ -z $action ]]; then _files -g '(#i)*.vbp'; else _files; fi ;;
+    steps)
+      case $previous in
+        add | remove | move) compadd pre post ;;
+        *)
+          [[ -z $action || ${action:l} == *.vbp ]] && compadd list add remove move
+          [[ -z $action || $action == list ]] && _files -g '(#i)*.vbp' ;;
+      esac ;;
+    trust)
+      [[ -z $action ]] && compadd list add remove
+      _files -g '(#i)*.vbp' ;;
     devices)
       case $action in
         "") compadd list add remove set ;;

@@ -40,6 +40,8 @@ struct Options {
     /// `convert` changes the project itself, or makes this project file.
     bool inPlace = false;
     std::string newFile;
+    /// `new`: the name or path of the template; "" for that of all Fernwick projects.
+    std::string templateName;
     /// The project file receives no results.
     bool noStore = false;
     /// Fail if another run writes the project.

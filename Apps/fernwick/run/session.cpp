@@ -130,12 +130,10 @@ void Session::requireFernwickProject() {
         return value;
     };
     if (!basic::equalNoCase(read("IsQuinloftProject"), "True"))
-        throw Refusal(
-            kProjectErrors,
-            fmt::format("{}: not a Fernwick project: its section [Quinloft Global] has no line "
-                        "IsQuinloftProject=True. Create one from the template \"Fernwick Project\", or add that "
-                        "section with ProjectVersion=3.5.",
-                        path_));
+        throw Refusal(kProjectErrors,
+                      fmt::format("{}: not a Fernwick project: its section [Quinloft Global] has no line "
+                                  "IsQuinloftProject=True. Make it one with fernwick init.",
+                                  path_));
     const auto version = read("ProjectVersion");
     if (version.empty() || version == fernwick::kOldProjectFormat)
         throw Refusal(kProjectErrors,
@@ -154,10 +152,22 @@ void Session::forget() {
     addIn().projects.RemoveFromProjectsList(project_);
 }
 
-void Session::connect() {
+void Session::connectAddIn() {
     host_->connectAddIn(apps::kAddInProgId, vbide::vbext_cm_CommandLine);
     host_->startupComplete();
     connected_ = true;
+}
+
+void Session::addFromTemplate(const std::string& path) {
+    connectAddIn();
+    (void)host_->VBProjects()->AddFromTemplate(path);
+    machine_.drain(); // the add-in replaces and removes projects by timers
+    project_ = host_->ActiveVBProject();
+    settings_ = project_ ? addIn().projects.FindQLProject(project_) : nullptr;
+}
+
+void Session::connect() {
+    connectAddIn();
     machine_.drain();
     if (isOpen()) settings_ = addIn().projects.GetQLProject(project_);
 }
@@ -206,11 +216,14 @@ void Session::answerDeviceList(UserContext& context) {
         return rows;
     };
     context.isDevice = [this](const std::string& key) { return addIn().devices.IsValidDevice(key); };
-    context.assignDevice = [this](const std::string& key) {
-        fernwick::clsDeviceConfig device{addIn().deviceServices};
-        device.ReadDeviceConfig(key);
-        addIn().projects.GetQLProject(project_)->SetProjectForDeviceConfig(device);
-    };
+    context.assignDevice = [this](const std::string& key) { assignDevice(key); };
+}
+
+void Session::assignDevice(const std::string& key) {
+    fernwick::clsDeviceConfig device{addIn().deviceServices};
+    device.ReadDeviceConfig(key);
+    const auto project = addIn().projects.GetQLProject(addIn().projects.gCurrentProject);
+    project->SetProjectForDeviceConfig(device);
 }
 
 } // namespace cli

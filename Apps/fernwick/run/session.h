@@ -22,6 +22,11 @@ public:
     /// Opens the project in the host and prints problems with its files. Refusal if it does not exist or is not a
     /// project.
     void open(const std::string& path);
+    /// Connects the add-in and adds a new project from a template, which the add-in may replace by that of the device. There
+    /// is no project afterwards if it got no device.
+    void addFromTemplate(const std::string& path);
+    /// Stores a device and its values in the add-in's active project.
+    void assignDevice(const std::string& key);
     /// Waits until no other run writes this project or its output folder, before open(). Refusal 1 with --no-wait.
     void lock(const std::string& path);
     /// Refusal 3 for a read-only project file.
@@ -61,6 +66,7 @@ public:
     bool isOpen() const;
 
 private:
+    void connectAddIn();
     void close();
     void printProblems();
     void answerDeviceList(UserContext& context);

@@ -24,7 +24,7 @@ bool StepsTrust::decide(const std::string& folder) {
     if (options_.trustSteps || (folders_ && folders_->holds(folder))) return true;
     if (console_.canAsk()) return askUser(folder);
     console_.err(fmt::format("The project in {} has compile steps, and its folder is not trusted. Run them with "
-                             "--trust-steps, or once from a terminal to trust the folder.",
+                             "--trust-steps, or trust the folder with fernwick trust add.",
                              folder),
                  Tone::Warning);
     return false;

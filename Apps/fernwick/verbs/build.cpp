@@ -4,7 +4,7 @@
 #include "Apps/fernwick/output/depfile.h"
 #include "Apps/fernwick/run/build_plan.h"
 #include "Apps/fernwick/run/project_run.h"
-#include "Apps/fernwick/verbs/stored_messages.h"
+#include "Apps/fernwick/stored/stored_messages.h"
 #include "Apps/fernwick/verbs/verbs.h"
 #include "Components/QLToolkit/source/messages.h"
 #include "Host/files/atomic_save.h"

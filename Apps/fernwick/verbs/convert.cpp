@@ -1,4 +1,5 @@
 #include "Add-in/lifecycle/converter_texts.h"
+#include "Add-in/lifecycle/project_backup.h"
 #include "Apps/common/file_names.h"
 #include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/output/json_output.h"
@@ -84,6 +85,56 @@ void print(const Options& options, Console& console, const Conversion& done, con
         console.out(fmt::format("the old project file is {}\n", done.backup));
 }
 
+/// What a conversion would do, for a dry run.
+struct Plan {
+    std::string project, device, backup;
+    std::vector<fernwick::CopiedFile> files;
+    /// References that the device lacks, and that can be removed.
+    std::vector<std::string> references;
+};
+
+Plan plan(Session& session, const Options& options, const std::string& key, const std::string& project) {
+    auto& addIn = session.addIn();
+    auto& files = session.machine().platform().files;
+    Plan planned{project, key, {}, {}, {}};
+    fernwick::Procedure here{addIn.errors, "frmDesignTargetConverter.ScanReferences"};
+    for (const auto& reference : ScanReferences(here, addIn.deviceServices, session.project(), key))
+        planned.references.push_back(reference->Name());
+    if (options.inPlace)
+        planned.backup = fernwick::freeBackupPath(files, project);
+    else
+        planned.files = fernwick::ProjectCopy(files, session.project(), project).files();
+    return planned;
+}
+
+std::string labelOf(const fernwick::CopiedFile& file) {
+    return file.isMissing ? "missing" : file.replaces ? "replace" : "write";
+}
+
+void printPlan(const Options& options, Console& console, const Plan& planned) {
+    if (options.format == Format::Json) {
+        auto json = jsonResult("convert");
+        json["project"] = planned.project;
+        json["device"] = planned.device;
+        json["converted"] = false;
+        if (options.inPlace) json["backup"] = planned.backup;
+        json["plan"] = {{"references", planned.references}, {"files", Json::array()}};
+        for (const auto& [from, to, isMissing, replaces, isOutside] : planned.files)
+            json["plan"]["files"].push_back(
+                {{"from", from}, {"to", to}, {"missing", isMissing}, {"replaces", replaces}, {"outside", isOutside}});
+        return console.out(dumpJson(json));
+    }
+    const auto line = [&](const std::string& label, const std::string& text) {
+        console.out(fmt::format("{:<9}  {}\n", label, text));
+    };
+    line("project", planned.project);
+    line("device", planned.device);
+    for (const auto& name : planned.references) line("reference", name + " (not on the device)");
+    if (options.inPlace) line("backup", planned.backup);
+    for (const auto& file : planned.files)
+        line(labelOf(file), (file.isMissing ? file.from : file.to) + (file.isOutside ? " (outside)" : ""));
+}
+
 } // namespace
 
 int runConvert(const Options& options, Console& console) {
@@ -91,7 +142,7 @@ int runConvert(const Options& options, Console& console) {
         throw Refusal(kWrongUse, "give either --in-place or --output FILE");
     Session session{options, console};
     const auto given = projectArgument(options.project);
-    session.lock(given);
+    if (!options.dryRun) session.lock(given);
     session.open(given);
     session.requireFernwickProject();
     const auto project = options.inPlace ? session.path() : newProjectFile(session, options.newFile);
@@ -104,6 +155,10 @@ int runConvert(const Options& options, Console& console) {
         return kGood;
     }
     options.inPlace ? session.requireWritableProject() : session.requireAllMembers();
+    if (options.dryRun) {
+        printPlan(options, console, plan(session, options, key, project));
+        return kGood;
+    }
     const auto [done, isGood] = convert(session, options, key, project);
     print(options, console, done, project);
     return isGood ? kGood : kProjectErrors;

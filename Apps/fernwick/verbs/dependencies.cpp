@@ -1,8 +1,8 @@
 #include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/output/json_output.h"
 #include "Apps/fernwick/run/project_argument.h"
-#include "Apps/fernwick/verbs/dependency_changes.h"
-#include "Apps/fernwick/verbs/dependency_operands.h"
+#include "Apps/fernwick/stored/dependency_changes.h"
+#include "Apps/fernwick/stored/dependency_operands.h"
 #include "Apps/fernwick/verbs/verbs.h"
 #include <fmt/format.h>
 

@@ -3,8 +3,8 @@
 #include "Apps/fernwick/groups/group_run.h"
 #include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/run/project_run.h"
+#include "Apps/fernwick/stored/stored_messages.h"
 #include "Apps/fernwick/verbs/package_file.h"
-#include "Apps/fernwick/verbs/stored_messages.h"
 #include "Apps/fernwick/verbs/verbs.h"
 
 namespace cli {

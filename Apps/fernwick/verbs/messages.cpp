@@ -1,7 +1,7 @@
 #include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/run/project_argument.h"
 #include "Apps/fernwick/run/session.h"
-#include "Apps/fernwick/verbs/stored_messages.h"
+#include "Apps/fernwick/stored/stored_messages.h"
 #include "Apps/fernwick/verbs/verbs.h"
 #include <fmt/format.h>
 

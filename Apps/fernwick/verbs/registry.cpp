@@ -1,14 +1,13 @@
-#include "Apps/common/installation.h"
 #include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/options/refusal.h"
 #include "Apps/fernwick/output/file_errors.h"
 #include "Apps/fernwick/output/json_output.h"
+#include "Apps/fernwick/run/user_store.h"
 #include "Apps/fernwick/verbs/verbs.h"
 #include "Basic/case_folding.h"
 #include "Basic/runtime_error.h"
 #include "Host/files/text_file.h"
 #include "Host/registry/reg_exchange.h"
-#include "Host/system/environment.h"
 #include <fmt/format.h>
 #include <iostream>
 #include <iterator>
@@ -20,11 +19,6 @@ namespace {
 using host::RegInstruction;
 
 constexpr std::string_view kRegHeader = "Windows Registry Editor Version 5.00\r\n\r\n";
-
-host::RegistryStore openStore() {
-    const host::Environment environment;
-    return host::RegistryStore{host::usualRegistryPlaces(environment, apps::installationBeside(apps::programFolder()))};
-}
 
 std::string withoutCarriageReturns(std::string text) {
     std::erase(text, '\r');

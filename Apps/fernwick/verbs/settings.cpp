@@ -4,8 +4,9 @@
 #include "Apps/fernwick/run/project_argument.h"
 #include "Apps/fernwick/run/project_run.h"
 #include "Apps/fernwick/run/session.h"
-#include "Apps/fernwick/verbs/new_project_settings.h"
-#include "Apps/fernwick/verbs/stored_settings.h"
+#include "Apps/fernwick/stored/new_project_settings.h"
+#include "Apps/fernwick/stored/setting_change.h"
+#include "Apps/fernwick/stored/stored_settings.h"
 #include "Apps/fernwick/verbs/verbs.h"
 #include "Basic/case_folding.h"
 #include "Host/model/project.h"
@@ -88,39 +89,6 @@ int getSetting(const Options& options, Console& console, const StoredSetting& se
     }
     for (const auto& value : setting.read(project)) console.out(value + "\n");
     return kGood;
-}
-
-struct SettingChange {
-    const StoredSetting& setting;
-    StoredSetting::Values before, after;
-};
-
-/// Before anything is written: the add-in would report an unexpected error.
-void requireStorable(Session& session, const StoredSetting& setting, const StoredSetting::Values& values) {
-    const auto project = basic::cast<host::Project>(session.project());
-    if (!project) return;
-    const auto& page = project->file().codePage();
-    for (const auto& value : values)
-        if (!page.tryEncode(value))
-            throw Refusal(kProjectErrors,
-                          fmt::format("{} was not set: the code page {} of the project file cannot store {}",
-                                      setting.name, page.number(), value));
-}
-
-/// Writes the values unless it is a dry run.
-SettingChange changeSetting(Session& session, const StoredSetting& setting, const StoredSetting::Values& values,
-                            bool dryRun) {
-    auto& project = *session.settings();
-    SettingChange change{setting, setting.read(project), values};
-    requireStorable(session, setting, values);
-    if (dryRun) return change;
-    const auto boxes = session.user().shown().size();
-    setting.write(*session.settings(), values);
-    if (session.user().shown().size() > boxes)
-        throw Refusal(kProjectErrors,
-                      fmt::format("{} was not set: the project file cannot store this value", setting.name));
-    change.after = setting.read(project);
-    return change;
 }
 
 std::vector<SettingChange> setSetting(Session& session, const SettingOperands& operands, bool dryRun) {

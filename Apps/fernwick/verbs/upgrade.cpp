@@ -24,7 +24,7 @@ Upgrade upgrade(Session& session) {
     if (done.result == UpgradeResult::Foreign)
         throw Refusal(kProjectErrors, session.path() +
                                           ": not a Fernwick project: its section [Quinloft Global] has no line "
-                                          "IsQuinloftProject=True");
+                                          "IsQuinloftProject=True. Make it one with fernwick init.");
     return done;
 }
 

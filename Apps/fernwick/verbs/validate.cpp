@@ -2,7 +2,7 @@
 #include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/output/plural.h"
 #include "Apps/fernwick/run/project_run.h"
-#include "Apps/fernwick/verbs/stored_messages.h"
+#include "Apps/fernwick/stored/stored_messages.h"
 #include "Apps/fernwick/verbs/verbs.h"
 #include <algorithm>
 

@@ -1,6 +1,7 @@
 #include "Apps/workbench/window/workbench.h"
 #include "Add-in/core/error_source.h"
 #include "Add-in/core/trusted_folders.h"
+#include "Add-in/lifecycle/project_importer.h"
 #include "Apps/common/compile_steps.h"
 #include "Apps/common/source_code_page.h"
 #include "Apps/workbench/base/text.h"
@@ -31,6 +32,10 @@ Workbench::Workbench()
       host_(host::Host::create(hostOptions())) {
     apps::compileInHostCodePages(machine_, host_);
     host_->listAddIn(apps::kAddInProgId, apps::kAddInName, [this] { return connections_.create(); });
+    host_->listAddIn(apps::kImporterProgId, apps::kImporterName, [this] {
+        return basic::make<fernwick::ProjectImporter>(machine_.platform(),
+                                                      [this](const auto& backup) { showBackup(backup); });
+    });
     buildWindow();
     problemsSoon_.setSingleShot(true);
     problemsSoon_.setInterval(0);
@@ -64,7 +69,7 @@ void Workbench::watchForms() {
     user_.closed = [this](const fernwick::Form& form) {
         window_->docks().drawMessagesSoon();
         transfers_->formClosed(form);
-        showBackup(form);
+        formClosed(form);
     };
     window_->docks().isStatusCurrent = [this] {
         return user_.isShowingForm() || addIn().messages.status() != fernwick::RunStatus::Running;
@@ -177,11 +182,14 @@ void Workbench::convertActive() {
     if (const auto project = activeFernwickProject()) convertProject(*host_, addIn(), project->VBProject());
 }
 
-/// After a conversion in place.
-void Workbench::showBackup(const fernwick::Form& form) {
+void Workbench::formClosed(const fernwick::Form& form) {
     const auto& converter = addIn().converter;
-    if (&form != &converter || converter.backup().empty()) return;
-    window_->statusBar()->showMessage(QString("The old project file is %1").arg(qt(converter.backup())));
+    if (&form == &converter && !converter.backup().empty()) showBackup(converter.backup());
+}
+
+/// After a conversion in place.
+void Workbench::showBackup(const std::string& backup) {
+    window_->statusBar()->showMessage(QString("The old project file is %1").arg(qt(backup)));
 }
 
 bool Workbench::isConnected() const { return host_->Addins()->Item(apps::kAddInProgId)->Connect(); }

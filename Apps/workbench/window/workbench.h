@@ -45,7 +45,8 @@ private:
     vbide::Ref<fernwick::clsQLProject> activeFernwickProject();
     void startActive();
     void convertActive();
-    void showBackup(const fernwick::Form& form);
+    void formClosed(const fernwick::Form& form);
+    void showBackup(const std::string& backup);
     bool isConnected() const;
     bool compiled(const vbide::Ref<vbide::VBProject>& project);
     bool mayRunSteps(const std::string& commandLine, const std::string& folder);

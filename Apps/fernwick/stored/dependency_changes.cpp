@@ -1,4 +1,4 @@
-#include "Apps/fernwick/verbs/dependency_changes.h"
+#include "Apps/fernwick/stored/dependency_changes.h"
 #include "Add-in/core/stored_lists.h"
 #include "Apps/fernwick/options/exit_status.h"
 #include <fmt/format.h>

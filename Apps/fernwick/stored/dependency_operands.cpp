@@ -1,4 +1,4 @@
-#include "Apps/fernwick/verbs/dependency_operands.h"
+#include "Apps/fernwick/stored/dependency_operands.h"
 #include "Apps/common/file_names.h"
 #include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/options/refusal.h"

@@ -1,6 +1,6 @@
 #pragma once
 #include "Apps/fernwick/run/session.h"
-#include "Apps/fernwick/verbs/dependency_operands.h"
+#include "Apps/fernwick/stored/dependency_operands.h"
 
 namespace cli {
 

@@ -1,4 +1,4 @@
-#include "Apps/fernwick/verbs/new_project_settings.h"
+#include "Apps/fernwick/stored/new_project_settings.h"
 #include "Add-in/devices/clsDeviceConfig.h"
 #include "Apps/fernwick/options/exit_status.h"
 #include <fmt/format.h>

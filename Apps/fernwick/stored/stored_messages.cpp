@@ -1,4 +1,4 @@
-#include "Apps/fernwick/verbs/stored_messages.h"
+#include "Apps/fernwick/stored/stored_messages.h"
 #include "Add-in/build/messages/stored_messages.h"
 #include "Apps/common/source_code_page.h"
 #include "Apps/fernwick/output/token_ends.h"

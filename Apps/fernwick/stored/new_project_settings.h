@@ -1,6 +1,6 @@
 #pragma once
 #include "Apps/fernwick/run/session.h"
-#include "Apps/fernwick/verbs/stored_settings.h"
+#include "Apps/fernwick/stored/stored_settings.h"
 #include <map>
 
 namespace cli {

@@ -1,4 +1,4 @@
-#include "Apps/fernwick/verbs/stored_settings.h"
+#include "Apps/fernwick/stored/stored_settings.h"
 #include "Add-in/core/stored_lists.h"
 #include "Apps/fernwick/devices/device_settings.h"
 #include "Apps/fernwick/options/exit_status.h"
