@@ -7,7 +7,8 @@
 #include "Apps/fernwick/verbs/new_project_settings.h"
 #include "Apps/fernwick/verbs/stored_settings.h"
 #include "Apps/fernwick/verbs/verbs.h"
-#include "Basic/case_folding.h"
+#include "Basic/printable.h"
+#include "Components/QLPipe/settings/pipe_setting.h"
 #include "Host/model/project.h"
 #include <fmt/format.h>
 
@@ -56,37 +57,54 @@ Json jsonOfValues(const StoredSetting& setting, const StoredSetting::Values& val
     return setting.kind == SettingKind::List ? Json(values) : Json(values.front());
 }
 
-Json jsonOfSetting(const StoredSetting& setting, const fernwick::clsQLProject& project) {
-    const auto values = setting.read(project);
+Json jsonOfSetting(const StoredSetting& setting, const SettingPlace& place) {
     Json json{{"name", setting.name}};
-    json["value"] = jsonOfValues(setting, values);
+    json["value"] = jsonOfValues(setting, setting.read(place));
+    json["default"] = jsonOfValues(setting, setting.otherwise);
     json["writable"] = setting.write != nullptr;
     json["meaning"] = setting.meaning;
+    if (!setting.details.empty()) json["details"] = setting.details;
+    json["storedIn"] = setting.isOfUser ? "user" : "project";
+    if (setting.ignored)
+        if (const auto ignored = setting.ignored(place); !ignored.empty()) json["ignored"] = ignored;
     return json;
 }
 
-int listSettings(const Options& options, Console& console, const fernwick::clsQLProject& project) {
+SettingPlace placeOf(Session& session) {
+    return {*session.settings(), session.machine().registry(), session.machine().classes()};
+}
+
+/// Warns about the values of a project that only the user can determine.
+void noteIgnored(const StoredSetting& setting, const SettingPlace& place, Console& console) {
+    if (setting.ignored && !setting.ignored(place).empty())
+        console.note(fmt::format("{}: the project's own value is ignored: {}", setting.name,
+                                 basic::printable(setting.ignored(place))),
+                     Tone::Warning);
+}
+
+int listSettings(const Options& options, Console& console, const SettingPlace& place) {
     auto json = jsonResult("settings");
     json["settings"] = Json::array();
     for (const auto& setting : storedSettings()) {
+        noteIgnored(setting, place, console);
         if (options.format == Format::Json)
-            json["settings"].push_back(jsonOfSetting(setting, project));
+            json["settings"].push_back(jsonOfSetting(setting, place));
         else
-            console.out(fmt::format("{}={}\n", setting.name, joinedValues(setting.read(project))));
+            console.out(fmt::format("{}={}\n", setting.name, joinedValues(setting.read(place))));
     }
     if (options.format == Format::Json) console.out(dumpJson(json));
     return kGood;
 }
 
-int getSetting(const Options& options, Console& console, const StoredSetting& setting,
-               const fernwick::clsQLProject& project) {
+int getSetting(const Options& options, Console& console, const StoredSetting& setting, const SettingPlace& place) {
+    noteIgnored(setting, place, console);
     if (options.format == Format::Json) {
         auto json = jsonResult("settings");
-        json["settings"] = Json::array({jsonOfSetting(setting, project)});
+        json["settings"] = Json::array({jsonOfSetting(setting, place)});
         console.out(dumpJson(json));
         return kGood;
     }
-    for (const auto& value : setting.read(project)) console.out(value + "\n");
+    for (const auto& value : setting.read(place)) console.out(value + "\n");
     return kGood;
 }
 
@@ -98,7 +116,7 @@ struct SettingChange {
 /// Before anything is written: the add-in would report an unexpected error.
 void requireStorable(Session& session, const StoredSetting& setting, const StoredSetting::Values& values) {
     const auto project = basic::cast<host::Project>(session.project());
-    if (!project) return;
+    if (!project || setting.isOfUser) return;
     const auto& page = project->file().codePage();
     for (const auto& value : values)
         if (!page.tryEncode(value))
@@ -107,19 +125,25 @@ void requireStorable(Session& session, const StoredSetting& setting, const Store
                                       setting.name, page.number(), value));
 }
 
+void storeSetting(const StoredSetting& setting, const SettingPlace& place, const StoredSetting::Values& values) {
+    const auto failed = basic::attempt([&] { setting.write(place, values); });
+    if (failed.Number != 0)
+        throw Refusal(kMachineTrouble, fmt::format("{} could not be stored; see fernwick doctor", setting.name));
+}
+
 /// Writes the values unless it is a dry run.
 SettingChange changeSetting(Session& session, const StoredSetting& setting, const StoredSetting::Values& values,
                             bool dryRun) {
-    auto& project = *session.settings();
-    SettingChange change{setting, setting.read(project), values};
+    const auto place = placeOf(session);
+    SettingChange change{setting, setting.read(place), values};
     requireStorable(session, setting, values);
     if (dryRun) return change;
     const auto boxes = session.user().shown().size();
-    setting.write(*session.settings(), values);
+    storeSetting(setting, place, values);
     if (session.user().shown().size() > boxes)
         throw Refusal(kProjectErrors,
                       fmt::format("{} was not set: the project file cannot store this value", setting.name));
-    change.after = setting.read(project);
+    change.after = setting.read(place);
     return change;
 }
 
@@ -127,6 +151,10 @@ std::vector<SettingChange> setSetting(Session& session, const SettingOperands& o
     const auto& setting = settingOf(operands);
     if (const auto wrong = wrongWithValues(setting, operands.values); !wrong.empty()) throw Refusal(kWrongUse, wrong);
     auto values = operands.values;
+    if (setting.problem)
+        if (const auto why = setting.problem(placeOf(session), values); !why.empty())
+            throw Refusal(kWrongUse, fmt::format("{} cannot be {}: {}", setting.name,
+                                                 basic::printable(qlpipe::shortened(values.front())), why));
     if (setting.name == "TargetDevice") values = {usableDevice(session, values.front())};
     return {changeSetting(session, setting, values, dryRun)};
 }
@@ -140,7 +168,7 @@ std::vector<const StoredSetting*> settingsToReset(const SettingOperands& operand
     if (!operands.name.empty()) settings.push_back(&writableSetting(settingOf(operands)));
     if (options.all)
         for (const auto& setting : storedSettings())
-            if (setting.write) settings.push_back(&setting);
+            if (setting.write && !setting.isOfUser) settings.push_back(&setting);
     return settings;
 }
 
@@ -149,7 +177,7 @@ std::vector<SettingChange> resetSettings(Session& session, const SettingOperands
     const auto settings = settingsToReset(operands, options);
     const auto fresh = newProjectSettings(session);
     for (const auto* setting : settings)
-        if (const auto& after = fresh.at(setting->name); setting->read(*session.settings()) != after)
+        if (const auto& after = fresh.at(setting->name); setting->read(placeOf(session)) != after)
             changes.push_back(changeSetting(session, *setting, after, options.dryRun));
     return changes;
 }
@@ -196,8 +224,8 @@ int runSettings(const Options& options, Console& console) {
     if (writes && !options.dryRun) session.lock(operands.project);
     session.open(operands.project);
     session.takeUp();
-    if (options.action == "list") return listSettings(options, console, *session.settings());
-    if (options.action == "get") return getSetting(options, console, settingOf(operands), *session.settings());
+    if (options.action == "list") return listSettings(options, console, placeOf(session));
+    if (options.action == "get") return getSetting(options, console, settingOf(operands), placeOf(session));
     return changeSettings(session, operands, options, console);
 }
 
