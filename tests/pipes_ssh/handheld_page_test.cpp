@@ -67,7 +67,7 @@ TEST_F(HandheldPage, ShowsWhatIsIgnoredInTheProject) {
     open();
     EXPECT_EQ(text("Host"), "");
     EXPECT_TRUE(label("lblIgnored").Visible());
-    EXPECT_THAT(label("lblIgnored").Caption(), HasSubstr("ignored: Host, KeyFile."));
+    EXPECT_THAT(label("lblIgnored").Caption(), HasSubstr("ignored:\nHost, KeyFile"));
 }
 
 TEST_F(HandheldPage, UsesTheDeviceOfTheProject) {
@@ -115,6 +115,18 @@ TEST_F(HandheldPage, StoresNothingIfTheUsersStoreFails) {
                          "Your settings of the connection could not be stored.");
     configuration->ApplyPage();
     EXPECT_EQ(stored("Version"), "");
+    EXPECT_FALSE(project->IsDirty());
+}
+
+TEST_F(HandheldPage, StoresNothingIfTheProjectFileCannotHoldAValue) {
+    open();
+    type("Host", "pda");
+    type("Arguments", "\xE6\x97\xA5");
+    const auto failed = basic::attempt([&] { project->WriteProperty(kSection, "Arguments", "\xE6\x97\xA5"); });
+    world.user.expectBox("The page Linux Handheld Settings was not stored. Correct it and apply it again.\n\n" +
+                         failed.Description);
+    configuration->ApplyPage();
+    EXPECT_EQ(own(), Settings{});
 }
 
 TEST_F(HandheldPage, DoesNothingAfterClosing) {

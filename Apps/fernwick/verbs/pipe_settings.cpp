@@ -48,6 +48,7 @@ StoredSetting settingOfUser(const PipeFamily& family, const PipeSetting& row) {
     };
     setting.write = [&family, &row](const SettingPlace& place, const Values& values) {
         const auto device = deviceOf(place, family);
+        if (device.empty()) throw basic::RuntimeError(basic::kInvalidProcedureCall);
         auto settings = qlpipe::readUserSettings(place.registry, device);
         settings.*row.connection = values.front();
         qlpipe::writeUserSettings(place.registry, device, settings);

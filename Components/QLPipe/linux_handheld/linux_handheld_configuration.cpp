@@ -19,7 +19,9 @@ private:
     void pageShown(SettingsPage& page) override;
     SettingValues stored() override;
     void store(const SettingValues& before, const SettingValues& values) override;
-    void storeOwn(const SettingValues& before, const SettingValues& values);
+    static LinuxHandheldSettings changed(LinuxHandheldSettings user, const SettingValues& before,
+                                         const SettingValues& values);
+    void storeOwn(const LinuxHandheldSettings& user);
     LinuxHandheldSettings own() { return readUserSettings(services().registry, device()); }
     SshTarget targetOf(const SettingValues& values);
 };
@@ -41,20 +43,28 @@ SettingValues LinuxHandheldConfiguration::stored() {
     return values;
 }
 
-void LinuxHandheldConfiguration::storeOwn(const SettingValues& before, const SettingValues& values) {
-    auto user = own();
-    const auto old = user;
+LinuxHandheldSettings LinuxHandheldConfiguration::changed(LinuxHandheldSettings user, const SettingValues& before,
+                                                          const SettingValues& values) {
     for (std::size_t i = 0; i < values.size(); ++i)
         if (kRows[i].isOfUser && values[i] != before[i]) user.*kRows[i].connection = values[i];
-    if (user != old) writeUserSettings(services().registry, device(), user);
+    return user;
+}
+
+void LinuxHandheldConfiguration::storeOwn(const LinuxHandheldSettings& user) {
+    if (user != own()) writeUserSettings(services().registry, device(), user);
 }
 
 void LinuxHandheldConfiguration::store(const SettingValues& before, const SettingValues& values) {
-    PageConfiguration::store(before, values);
-    const auto failed = basic::attempt([&] { storeOwn(before, values); });
+    const auto old = own();
+    const auto restore = [&] { (void)basic::attempt([&] { storeOwn(old); }); };
+    if (const auto failed = basic::attempt([&] { storeOwn(changed(old, before, values)); }); failed.Number != 0) {
+        restore();
+        throw basic::RuntimeError(failed.Number, "Your settings of the connection could not be stored.");
+    }
+    const auto failed = basic::attempt([&] { PageConfiguration::store(before, values); });
     if (failed.Number == 0) return;
-    (void)basic::attempt([&] { PageConfiguration::store(values, before); });
-    throw basic::RuntimeError(failed.Number, "Your settings of the connection could not be stored.");
+    restore();
+    throw basic::RuntimeError(failed.Number, failed.Description);
 }
 
 /// The connection that a transfer would use if the fields were stored.

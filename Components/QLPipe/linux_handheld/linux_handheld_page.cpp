@@ -24,9 +24,7 @@ LinuxHandheldPage::LinuxHandheldPage(fernwick::Interaction& user, fernwick::Even
 
 void LinuxHandheldPage::showIgnored(const std::string& names) {
     lblIgnored.Visible(!names.empty());
-    if (names.empty()) return;
-    lblIgnored.Caption("The project's own values of these settings are ignored: " + names +
-                       ". Only your settings determine the connection.");
+    lblIgnored.Caption("These settings are yours. The project's own values are ignored:\n" + names);
 }
 
 void LinuxHandheldPage::btnTest_Click() {
