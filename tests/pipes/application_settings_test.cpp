@@ -163,7 +163,7 @@ TEST_F(ApplicationSettings, ThatTheDeviceCannotUseAreErrorsBeforeATransfer) {
     set(kPalmSection, "CreatorID", std::string(100'000, 'x'));
     EXPECT_FALSE(validate("QLPipePalmOS"));
     EXPECT_FALSE(sendToPalm());
-    EXPECT_THAT(world.sink.errorNumbers(), ElementsAre(20114, 20114, 20114, 20114));
+    ASSERT_THAT(world.sink.errorNumbers(), ElementsAre(20114, 20114, 20114, 20114));
     EXPECT_THAT(
         world.sink.errors[1].second,
         HasSubstr("Invalid value \"257\" for the setting PalmOSMemoryLimit: a program on Palm OS has at most 256 KB. "

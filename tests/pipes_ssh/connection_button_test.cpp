@@ -111,14 +111,27 @@ TEST_F(ConnectionButton, IsCancelMeanwhileAndThenAsBefore) {
     EXPECT_EQ(label("lblTest").Caption(), "");
 }
 
-TEST_F(ConnectionButton, CancelsWithoutABox) {
+/// Reads what a client sends until it closes the connection. Returns false if it does not within some seconds.
+bool isClosedSoon(int client) {
+    const timeval patience{5, 0};
+    ::setsockopt(client, SOL_SOCKET, SO_RCVTIMEO, &patience, sizeof patience);
+    char bytes[1024];
+    ssize_t got = 0;
+    while ((got = ::recv(client, bytes, sizeof bytes, 0)) > 0) continue;
+    ::close(client);
+    return got == 0 || errno == ECONNRESET;
+}
+
+TEST_F(ConnectionButton, CancelsWithoutABoxAndDisconnects) {
     const int silent = test::listenOnLoopback();
     connectTo(test::portOfSocket(silent));
     press();
+    const int client = ::accept(silent, nullptr, nullptr);
     std::this_thread::sleep_for(100ms);
     world.loop.DoEvents();
     EXPECT_TRUE(isTesting());
     press();
+    EXPECT_TRUE(isClosedSoon(client));
     EXPECT_FALSE(isTesting());
     std::this_thread::sleep_for(200ms);
     world.loop.DoEvents();
@@ -249,6 +262,13 @@ TEST(ConnectionTest, GivesUpAfterItsPatience) {
                 AllOf(HasSubstr("did not answer within 0.3 seconds"), HasSubstr("settings Host and Port")));
     EXPECT_EQ(qlpipe::ConnectionTest::kPatience, 10s);
     ::close(silent);
+}
+
+/// Looking up a name cannot be interrupted, and each step of a connection has its own timeout.
+TEST(ConnectionTest, DoesNotWaitForItsThread) {
+    qlpipe::SshTarget target{"127.0.0.1", test::freePort(), "joe", "", "fernwick", "/dev/null", false};
+    qlpipe::ConnectionTest test{target, 0ms};
+    EXPECT_TRUE(test.result());
 }
 
 TEST(KeepsOut, FollowsThePermissionsWhereTheyAreKnown) {

@@ -119,14 +119,23 @@ TEST_F(HandheldPage, StoresNothingIfTheUsersStoreFails) {
 }
 
 TEST_F(HandheldPage, StoresNothingIfTheProjectFileCannotHoldAValue) {
+    const std::string japanese = "\xE6\x97\xA5";
+    const auto failed = basic::attempt([&] { project->WriteProperty(kSection, "Arguments", japanese); });
+    const auto refusal =
+        "The page Linux Handheld Settings was not stored. Correct it and apply it again.\n\n" + failed.Description;
     open();
     type("Host", "pda");
-    type("Arguments", "\xE6\x97\xA5");
-    const auto failed = basic::attempt([&] { project->WriteProperty(kSection, "Arguments", "\xE6\x97\xA5"); });
-    world.user.expectBox("The page Linux Handheld Settings was not stored. Correct it and apply it again.\n\n" +
-                         failed.Description);
+    type("Version", "2.0");
+    type("Arguments", japanese);
+    world.user.expectBox(refusal);
     configuration->ApplyPage();
     EXPECT_EQ(own(), Settings{});
+    EXPECT_FALSE(project->IsDirty());
+
+    type("Version", "\xC3\xA4"); // the file can hold it
+    world.user.expectBox(refusal);
+    configuration->ApplyPage();
+    EXPECT_EQ(stored("Version"), "");
 }
 
 TEST_F(HandheldPage, DoesNothingAfterClosing) {

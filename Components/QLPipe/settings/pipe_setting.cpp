@@ -18,9 +18,8 @@ std::string projectValue(const PipeSettings& settings, const PipeSetting& settin
     return value;
 }
 
-/// Does not add a key that was not there before.
-void restore(const PipeSettings& settings, vbide::VBProject& project, const SettingValues& before, std::size_t count) {
-    for (std::size_t i = 0; i < count; ++i)
+void restore(const PipeSettings& settings, vbide::VBProject& project, const SettingValues& before) {
+    for (std::size_t i = 0; i < before.size(); ++i)
         if (const auto& row = settings.rows[i]; !row.isOfUser && projectValue(settings, row, project) != before[i])
             (void)basic::attempt([&] { project.WriteProperty(settings.section, row.key, before[i]); });
 }
@@ -29,6 +28,10 @@ std::string sentence(std::string text) {
     if (text.empty()) return text;
     text[0] = char(std::toupper(static_cast<unsigned char>(text[0])));
     return text + ".";
+}
+
+bool isAscii(const std::string& value) {
+    return std::ranges::all_of(value, [](unsigned char c) { return c < 0x80; });
 }
 
 bool hasControlCharacter(const std::string& value) {
@@ -44,14 +47,19 @@ SettingValues readProjectValues(const PipeSettings& settings, const basic::Ref<v
     return values;
 }
 
+/// A project file can lack the characters of a text beyond ASCII. Such texts are written first, so that usually nothing
+/// has to be undone.
 void writeProjectValues(const PipeSettings& settings, const basic::Ref<vbide::VBProject>& project,
                         const SettingValues& before, const SettingValues& values) {
-    for (std::size_t i = 0; i < values.size(); ++i) {
-        const auto& row = settings.rows[i];
-        if (row.isOfUser || values[i] == before[i]) continue;
-        const auto failed = basic::attempt([&] { project->WriteProperty(settings.section, row.key, values[i]); });
+    std::vector<std::size_t> changed;
+    for (std::size_t i = 0; i < values.size(); ++i)
+        if (!settings.rows[i].isOfUser && values[i] != before[i]) changed.push_back(i);
+    std::ranges::stable_partition(changed, [&](std::size_t i) { return !isAscii(values[i]); });
+    for (const auto i : changed) {
+        const auto* key = settings.rows[i].key;
+        const auto failed = basic::attempt([&] { project->WriteProperty(settings.section, key, values[i]); });
         if (failed.Number == 0) continue;
-        restore(settings, *project, before, i);
+        restore(settings, *project, before);
         throw basic::RuntimeError(failed.Number, failed.Description);
     }
 }
