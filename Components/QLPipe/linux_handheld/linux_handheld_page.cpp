@@ -1,4 +1,5 @@
 #include "Components/QLPipe/linux_handheld/linux_handheld_page.h"
+#include "Components/QLPipe/base/message_values.h"
 #include "Components/QLPipe/linux_handheld/known_hosts_file.h"
 
 namespace qlpipe {
