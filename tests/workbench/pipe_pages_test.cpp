@@ -113,6 +113,14 @@ TEST_F(PipePages, AreReadFromTopToBottomWithTheTabKey) {
     }
 }
 
+TEST_F(PipePages, GiveAllFieldsTheWholeWidth) {
+    for (const auto* family : {"PocketPC", "LinuxHandheld"}) {
+        open(family);
+        widget->resize(widget->width() + 100, widget->height());
+        EXPECT_EQ(child<QComboBox>("cboOrientation").width(), child<QLineEdit>("txtVersion").width()) << family;
+    }
+}
+
 TEST_F(PipePages, PassOnWhatTheUserTypes) {
     open("PocketPC");
     QTest::keyClicks(&child<QLineEdit>("txtVersion"), "2.0");
