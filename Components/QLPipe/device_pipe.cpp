@@ -7,6 +7,7 @@
 #include "Components/QLPipe/package/package_writer.h"
 #include "Components/QLPipe/package/project_bundle.h"
 #include "Components/QLPipe/package/runtime_bundle.h"
+#include "Components/QLPipe/package/setting_checks.h"
 
 namespace qlpipe {
 
@@ -34,15 +35,28 @@ void DevicePipe::warn(PipeWarning warning, MessageValues values) {
     if (sink_) sink_->SendWarning(messageText(warning + kWarningOffset, values), "", 0, warning);
 }
 
-std::optional<Bundle> DevicePipe::checkedBundle(const std::string& deviceName, const ProjectFiles& files,
+std::optional<Bundle> DevicePipe::checkedBundle(const std::string& deviceName,
+                                                const basic::Ref<vbide::VBProject>& project, const ProjectFiles& files,
                                                 const ApplicationInfo& application) {
     auto listing = listFiles(services_.files, files);
-    checkFiles(limitsOf(services_.classes, deviceName), listing);
+    auto limits = limitsOf(services_.classes, deviceName);
+    const auto settings = checkSettings(family_.settings, project, limits, listing);
+    checkFiles(limits, listing);
     if (!report(listing, false)) return {}; // the validation has reported the hints
     listing.findings.clear();
-    auto bundle = projectBundle(listing, application, deviceName);
+    auto bundle = projectBundle(listing, application, deviceName, settings);
     report(listing, true);
     return bundle;
+}
+
+void DevicePipe::warnOfSharedCreator(DeviceStorage& device, const Bundle& bundle) {
+    if (bundle.creatorId.empty()) return;
+    for (const auto& other : applicationsWithCreator(device, bundle.creatorId))
+        if (other != bundle.project)
+            warn(kCreatorInUse, {{"other", other},
+                                 {"device", device.location()},
+                                 {"id", bundle.creatorId},
+                                 {"setting", family_.name + std::string("CreatorID")}});
 }
 
 bool DevicePipe::report(const FileListing& listing, bool withHints) {
@@ -62,6 +76,7 @@ void DevicePipe::send(const std::string& deviceName, const basic::Ref<vbide::VBP
     const auto device = family_.open(
         services_, {deviceName, project, [this](PipeWarning number, MessageValues values) { warn(number, values); }});
     const bool lacksRuntime = !bundle.isRuntime && !hasRuntime(*device);
+    warnOfSharedCreator(*device, bundle);
     install(*device, bundle, progress);
     for (const auto& file : bundle.files)
         services_.record->installed.push_back(device->location() + "/" + placeOnDevice(bundle, file));
@@ -75,17 +90,17 @@ bool DevicePipe::SendProject(const std::string& deviceName, const basic::Ref<vbi
                              const ProjectFiles& files, const ApplicationInfo& application) {
     return run([&] {
         needOwnDevice(deviceName);
-        const auto bundle = checkedBundle(deviceName, files, application);
+        const auto bundle = checkedBundle(deviceName, project, files, application);
         if (bundle) send(deviceName, project, *bundle);
         return bundle.has_value();
     });
 }
 
-bool DevicePipe::MakePackage(const std::string& deviceName, const basic::Ref<vbide::VBProject>&,
+bool DevicePipe::MakePackage(const std::string& deviceName, const basic::Ref<vbide::VBProject>& project,
                              const ProjectFiles& files, const ApplicationInfo& application, std::string& saveLocation) {
     return run([&] {
         needOwnDevice(deviceName);
-        const auto bundle = checkedBundle(deviceName, files, application);
+        const auto bundle = checkedBundle(deviceName, project, files, application);
         if (!bundle) return false;
         const auto& disk = services_.files;
         const auto path = disk.PlaceOnDisk(disk.BuildPath(saveLocation, packageName(*bundle)));
@@ -111,7 +126,9 @@ bool DevicePipe::SendPackage(const Package& package, const std::string& deviceNa
                                 {{"package", package.path()}, {"device", bundle.device}, {"other", deviceName}});
         needOwnDevice(deviceName);
         auto listing = listFiles(bundle, package.path());
-        checkFiles(limitsOf(services_.classes, deviceName), listing);
+        auto limits = limitsOf(services_.classes, deviceName);
+        checkSettings(bundle, package.path(), limits, listing);
+        checkFiles(limits, listing);
         if (!report(listing, true)) return false;
         send(deviceName, {}, bundle);
         return true;

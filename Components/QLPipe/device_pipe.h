@@ -30,14 +30,15 @@ private:
     /// Runs a transfer, which returns whether it completed. A TransferError that it throws becomes an event.
     template <class Transfer>
     bool run(Transfer&& transfer);
-    /// Reports all errors of the files as events. Returns nothing if there are any.
-    std::optional<Bundle> checkedBundle(const std::string& deviceName, const ProjectFiles& files,
-                                        const ApplicationInfo& application);
+    /// Reports all errors of the settings and files as events. Returns nothing if there are any.
+    std::optional<Bundle> checkedBundle(const std::string& deviceName, const basic::Ref<vbide::VBProject>& project,
+                                        const ProjectFiles& files, const ApplicationInfo& application);
     /// Raises the errors, and on request the hints. Returns false if there is an error.
     bool report(const FileListing& listing, bool withHints);
     void send(const std::string& deviceName, const basic::Ref<vbide::VBProject>& project, const Bundle& bundle);
     void needOwnDevice(const std::string& deviceName) const;
     void warn(PipeWarning warning, MessageValues values);
+    void warnOfSharedCreator(DeviceStorage& device, const Bundle& bundle);
 
     const PipeFamily& family_;
     PipeServices services_;

@@ -3,6 +3,7 @@
 #include "Add-in/platform/classes.h"
 #include "Add-in/platform/files.h"
 #include "Add-in/platform/pipes.h"
+#include "Components/QLPipe/pipe_family.h"
 #include <string>
 
 namespace qlpipe {
@@ -10,18 +11,20 @@ namespace qlpipe {
 /// A pipe serves the design targets of its family: those whose key begins with the family's name and "-".
 class FamilyValidation final : public IQLPipeValidation {
 public:
-    FamilyValidation(std::string family, const fernwick::FileSystemObject& files, fernwick::Classes& classes)
-        : family_(std::move(family)), files_(files), classes_(classes) {}
+    FamilyValidation(const PipeFamily& family, const fernwick::FileSystemObject& files, fernwick::Classes& classes)
+        : family_(family), files_(files), classes_(classes) {}
 
     bool IsDeviceSupported(const std::string& key) override;
-    /// Checks against the device that was set. Without one, checks against the project's device if it belongs to this
-    /// family, otherwise against the family's first design target. Returns false if there is an error. Hints are reported as warnings.
+    /// Checks settings and files against the device that was set. Without one, checks against the project's device if
+    /// it belongs to this family, otherwise against the family's first design target. Returns false if there is an
+    /// error. Hints are reported as warnings.
     bool ValidateFiles(const basic::Ref<vbide::VBProject>& project, const ProjectFiles& files) override;
     void SetEventSink(IQLPipeEvents& sink) override { sink_ = &sink; }
     void SetDevice(const std::string& key) override { device_ = key; }
 
 private:
-    std::string family_, device_;
+    const PipeFamily& family_;
+    std::string device_;
     const fernwick::FileSystemObject& files_;
     fernwick::Classes& classes_;
     IQLPipeEvents* sink_ = nullptr;

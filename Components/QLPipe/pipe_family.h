@@ -3,6 +3,7 @@
 #include "Add-in/platform/pipes.h"
 #include "Components/QLPipe/base/device_request.h"
 #include "Components/QLPipe/base/device_storage.h"
+#include "Components/QLPipe/settings/pipe_setting.h"
 #include <functional>
 #include <memory>
 #include <span>
@@ -19,7 +20,9 @@ struct PipeFamily {
     /// Opens a device's storage, for exclusive use unless it is only read; throws TransferError. Null for a family without
     /// devices.
     std::unique_ptr<DeviceStorage> (*open)(const PipeServices& services, const DeviceRequest& request);
-    /// Creates the object with its page of the settings dialog. Null for a family without that class.
+    /// What its projects can set.
+    const PipeSettings& settings;
+    /// Creates the object with its page of the settings dialog.
     basic::Ref<IQLPipeConfiguration> (*configure)(const PipeServices& services);
 };
 

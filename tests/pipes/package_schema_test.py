@@ -24,7 +24,7 @@ class PackageSchema(unittest.TestCase):
         return self.schema.is_valid(manifest)
 
     def test_takes_what_is_written(self):
-        for name in ("application.json", "runtime.json"):
+        for name in ("application.json", "runtime.json", "settings.json"):
             errors = [error.message for error in self.schema.iter_errors(json.loads((SEEDS / name).read_text()))]
             self.assertEqual(errors, [], name)
 
@@ -34,6 +34,9 @@ class PackageSchema(unittest.TestCase):
         self.assertFalse(self.changed(lambda m: m.update(schemaVersion=2)))
         self.assertFalse(self.changed(lambda m: m.update(project="a/b")))
         self.assertFalse(self.changed(lambda m: file(m).update(path="../x")))
+        self.assertFalse(self.changed(lambda m: m.update(creatorId="Hello")))
+        self.assertFalse(self.changed(lambda m: m.update(memoryLimit="64")))
+        self.assertFalse(self.changed(lambda m: m.update(orientation="Sideways")))
         self.assertFalse(self.changed(lambda m: file(m).update(size=-1)))
         self.assertFalse(self.changed(lambda m: file(m).update(sha256="0")))
 

@@ -129,7 +129,7 @@ protected:
     test::TempFolder folder;
     std::string path = folder / "x.qlpkg";
     test::RecordingSink sink;
-    qlpipe::Bundle bundle{false, "Hello", "", "1", "PocketPC-ARM", {}, {}};
+    qlpipe::Bundle bundle{false, "Hello", "", "1", "PocketPC-ARM", {}, {}, {}, {}, {}, {}};
     std::atomic<int> opened = 0;
 };
 

@@ -41,15 +41,4 @@ TEST(PipeFamilies, ServeTheShippedTargets) {
     }
 }
 
-TEST(PipeFamilies, WithSimulatedDevicesHaveNoPage) {
-    test::PipeWorld world;
-    for (const char* pipe : {"QLPipePalmOS", "QLPipePocketPC"}) {
-        const auto configuration = world.create<qlpipe::IQLPipeConfiguration>(pipe + std::string(".Configuration"));
-        EXPECT_FALSE(configuration->HasPage());
-        EXPECT_EQ(configuration->PageName(), "");
-        EXPECT_FALSE(configuration->CreatePage({}, 0, 0));
-        EXPECT_TRUE(configuration->ValidatePage());
-    }
-}
-
 } // namespace

@@ -1,11 +1,8 @@
-// Connection settings of handhelds, and their settings page.
-#include "Add-in/platform/text_box.h"
+// Connection settings of handhelds.
 #include "Components/QLPipe/base/pipe_messages.h"
 #include "Components/QLPipe/base/ssh_messages.h"
-#include "Components/QLPipe/linux_handheld/linux_handheld.h"
 #include "Components/QLPipe/linux_handheld/linux_handheld_settings.h"
 #include "Components/QLPipe/linux_handheld/user_account.h"
-#include "tests/pipes/pipe_world.h"
 #include "tests/pipes_ssh/ssh_device.h"
 #include "tests/support/test_host.h"
 
@@ -45,8 +42,7 @@ TEST_F(HandheldSettings, AreDeletedWhenCleared) {
 }
 
 TEST_F(HandheldSettings, OfAProjectAreStoredInItsFile) {
-    qlpipe::writeProjectSettings(project, kAll);
-    EXPECT_EQ(project->ReadProperty("Quinloft Linux Handheld", "Folder"), "/opt/apps");
+    project->WriteProperty("Quinloft Linux Handheld", "Folder", "/opt/apps");
     EXPECT_EQ(qlpipe::readProjectSettings(project), (LinuxHandheldSettings{"", "", "", "", "/opt/apps", ""}));
     EXPECT_EQ(qlpipe::ignoredProjectSettings(project), "");
 }
@@ -58,12 +54,6 @@ TEST_F(HandheldSettings, OfAProjectDoNotRedirectAConnection) {
     EXPECT_EQ(qlpipe::readProjectSettings(project), (LinuxHandheldSettings{"", "", "", "", "x", ""}));
     EXPECT_EQ(qlpipe::ignoredProjectSettings(project), "Host, Port, User, KeyFile, KnownHosts");
     EXPECT_EQ(qlpipe::ignoredProjectSettings({}), "");
-}
-
-TEST_F(HandheldSettings, AreNotWrittenIfUnchanged) {
-    qlpipe::writeProjectSettings(project, {});
-    EXPECT_FALSE(project->IsDirty());
-    EXPECT_EQ(qlpipe::readProjectSettings(project), LinuxHandheldSettings{});
 }
 
 TEST_F(HandheldSettings, OfAProjectOverrideTheUsersFolder) {
@@ -115,63 +105,9 @@ TEST_F(HandheldSettings, RefuseInvalidValues) {
         refuse({host, "", "", "", "", ""}, {"Host", host});
     refuse({"pda", "", "$(id)", "", "", ""}, {"User"});
     for (const char* folder : {"/", "~", ".", "~/"}) refuse({"pda", "", "", "", folder, ""}, {"Folder"});
-}
-
-/// The page, used like the settings dialog does.
-class HandheldPage : public HandheldSettings {
-protected:
-    basic::Ref<fernwick::Form> open() { return configuration->CreatePage(project, 0, 0); }
-    fernwick::TextBox& field(const std::string& name) const {
-        return dynamic_cast<fernwick::TextBox&>(page->control(name));
-    }
-
-    test::PipeWorld world;
-    basic::Ref<qlpipe::IQLPipeConfiguration> configuration =
-        world.create<qlpipe::IQLPipeConfiguration>("QLPipeLinux.Configuration");
-    basic::Ref<fernwick::Form> page = open();
-};
-
-TEST_F(HandheldPage, HasAFieldForTheSettingsOfProjects) {
-    EXPECT_TRUE(configuration->HasPage());
-    EXPECT_EQ(configuration->PageName(), "Linux Handheld Settings");
-    EXPECT_EQ(field("txtFolder").Text(), "");
-}
-
-TEST_F(HandheldPage, StoresTheFieldsWhenApplied) {
-    field("txtFolder").Text("games");
-    EXPECT_EQ(qlpipe::readProjectSettings(project), LinuxHandheldSettings{});
-    EXPECT_TRUE(configuration->ValidatePage());
-    configuration->ApplyPage();
-    EXPECT_EQ(project->ReadProperty("Quinloft Linux Handheld", "Folder"), "games");
-    page = open();
-    EXPECT_EQ(field("txtFolder").Text(), "games");
-}
-
-TEST_F(HandheldPage, RefusesInvalidValues) {
-    field("txtFolder").Text("/");
-    EXPECT_FALSE(configuration->ValidatePage());
-    field("txtFolder").Text("games");
-    EXPECT_TRUE(configuration->ValidatePage());
-    field("txtFolder").Text("a\nb");
-    EXPECT_FALSE(configuration->ValidatePage());
-}
-
-TEST_F(HandheldPage, ShowsAndHidesItself) {
-    EXPECT_FALSE(page->Visible());
-    configuration->ShowPage();
-    EXPECT_TRUE(page->Visible());
-    configuration->HidePage();
-    EXPECT_FALSE(page->Visible());
-}
-
-TEST_F(HandheldPage, DoesNothingAfterClosing) {
-    field("txtFolder").Text("games");
-    configuration->ClosePage();
-    configuration->ApplyPage();
-    configuration->ShowPage();
-    EXPECT_TRUE(configuration->ValidatePage());
-    EXPECT_EQ(qlpipe::readProjectSettings(project), LinuxHandheldSettings{});
-    EXPECT_FALSE(configuration->CreatePage({}, 0, 0));
+    const std::string huge(100'000, 'h');
+    const auto error = transferErrorOf([&] { (void)qlpipe::sshTarget({huge + "/", "", "", "", "", ""}, kKey); });
+    EXPECT_LT(error.text.size(), 300u);
 }
 
 TEST(SshMessages, AreCompleteAndSorted) {

@@ -75,13 +75,22 @@ TEST_F(LinuxPipe, PrefersTheProjectsFolder) {
     auto user = settings();
     user.Folder = server.folder / "unused";
     setUser(user);
-    LinuxHandheldSettings own;
-    own.Folder = server.folder / "own";
-    qlpipe::writeProjectSettings(vbProject, own);
+    vbProject->WriteProperty("Quinloft Linux Handheld", "Folder", server.folder / "own");
     project.image();
     EXPECT_TRUE(send(vbProject));
     EXPECT_TRUE(std::filesystem::exists(server.folder / "own/applications/Hello/manifest.json"));
     EXPECT_FALSE(std::filesystem::exists(server.folder / "unused"));
+}
+
+TEST_F(LinuxPipe, PassesTheApplicationsSettingsToTheHandheld) {
+    test::TestHost host;
+    const auto vbProject = host.open(test::SampleProject{});
+    vbProject->WriteProperty("Quinloft Linux Handheld", "Arguments", "/level \"3\"");
+    vbProject->WriteProperty("Quinloft Linux Handheld", "Orientation", "Portrait");
+    project.image();
+    EXPECT_TRUE(send(vbProject));
+    EXPECT_THAT(onDevice("applications/Hello/manifest.json"), HasSubstr(R"("arguments": "/level \"3\"")"));
+    EXPECT_THAT(onDevice("applications/Hello/manifest.json"), HasSubstr(R"("orientation": "Portrait")"));
 }
 
 TEST_F(LinuxPipe, ShowsWhichSettingsOfAProjectItIgnores) {

@@ -9,7 +9,7 @@ namespace cli {
 
 namespace {
 
-using qlpipe::kLinuxHandheldSettings;
+using qlpipe::kConnectionRows;
 using qlpipe::LinuxHandheldSettings;
 
 /// Only Linux handhelds are reached over a network.
@@ -17,7 +17,7 @@ bool isReachedBySsh(const std::string& pipe) { return basic::equalNoCase(pipe, "
 
 std::string knownSettingNames() {
     std::string names;
-    for (const auto& setting : kLinuxHandheldSettings) names += (names.empty() ? "" : ", ") + std::string(setting.name);
+    for (const auto& row : kConnectionRows) names += (names.empty() ? "" : ", ") + std::string(row.key);
     return names;
 }
 
@@ -28,16 +28,16 @@ void assign(LinuxHandheldSettings& settings, const std::string& assignment) {
     const auto name = assignment.substr(0, equals), value = assignment.substr(equals + 1);
     if (std::any_of(value.begin(), value.end(), [](unsigned char c) { return c < ' '; }))
         throw Refusal(kWrongUse, fmt::format("{}: values must not contain control characters", name));
-    for (const auto& setting : kLinuxHandheldSettings) {
-        if (!basic::equalNoCase(setting.name, name)) continue;
-        settings.*setting.value = value;
+    for (const auto& row : kConnectionRows) {
+        if (!basic::equalNoCase(row.key, name)) continue;
+        settings.*row.connection = value;
         return;
     }
     throw Refusal(kWrongUse, fmt::format("unknown setting {}; the settings are {}", name, knownSettingNames()));
 }
 
-} // namespace
-
+/// Refusal 2 for invalid settings, so that mistakes are reported when they are made, not by a transfer. The host may
+/// still be missing.
 void requireMeantSettings(LinuxHandheldSettings settings, const std::string& key) {
     if (settings.Host.empty()) settings.Host = "host";
     try {
@@ -45,11 +45,13 @@ void requireMeantSettings(LinuxHandheldSettings settings, const std::string& key
     } catch (const qlpipe::TransferError& error) { throw Refusal(kWrongUse, error.text); }
 }
 
+} // namespace
+
 DeviceSettings readDeviceSettings(fernwick::Registry& registry, const std::string& key, const std::string& pipe) {
     DeviceSettings list;
     if (!isReachedBySsh(pipe)) return list;
     const auto settings = qlpipe::readUserSettings(registry, key);
-    for (const auto& setting : kLinuxHandheldSettings) list.emplace_back(setting.name, settings.*setting.value);
+    for (const auto& row : kConnectionRows) list.emplace_back(row.key, settings.*row.connection);
     return list;
 }
 

@@ -19,8 +19,4 @@ DeviceSettings readDeviceSettings(fernwick::Registry& registry, const std::strin
 void changeDeviceSettings(fernwick::Registry& registry, const std::string& key, const std::string& pipe,
                           const std::vector<std::string>& assignments);
 
-/// Refusal 2 for invalid settings of a Linux handheld, so that mistakes are reported when they are made, not by a
-/// transfer. The host may still be missing.
-void requireMeantSettings(qlpipe::LinuxHandheldSettings settings, const std::string& key);
-
 } // namespace cli

@@ -16,9 +16,11 @@ AllValues valuesWithoutProject() {
     return values;
 }
 
-AllValues valuesOf(const fernwick::clsQLProject& project) {
+/// A setting of the user does not come from a project.
+AllValues valuesOf(const SettingPlace& place) {
     AllValues values;
-    for (const auto& setting : storedSettings()) values[setting.name] = setting.read(project);
+    for (const auto& setting : storedSettings())
+        values[setting.name] = setting.isOfUser ? setting.otherwise : setting.read(place);
     return values;
 }
 
@@ -62,7 +64,7 @@ AllValues newProjectSettings(Session& session) {
     const auto& screen = session.machine().platform().screen; // the add-in stores it when a project is first opened
     project->TwipsPerPixelX(screen.TwipsPerPixelX());
     project->TwipsPerPixelY(screen.TwipsPerPixelY());
-    auto values = valuesOf(*project);
+    auto values = valuesOf({*project, session.machine().registry(), session.machine().classes()});
     addIn.projects.RemoveFromProjectsList(made);
     made->IsDirty(false);
     session.host().VBProjects()->Remove(made);

@@ -10,7 +10,7 @@ namespace {
 /// Before anything is written: the add-in would report an unexpected error.
 void requireStorable(Session& session, const StoredSetting& setting, const StoredSetting::Values& values) {
     const auto project = basic::cast<host::Project>(session.project());
-    if (!project) return;
+    if (!project || setting.isOfUser) return;
     const auto& page = project->file().codePage();
     for (const auto& value : values)
         if (!page.tryEncode(value))
@@ -19,20 +19,30 @@ void requireStorable(Session& session, const StoredSetting& setting, const Store
                                       setting.name, page.number(), value));
 }
 
+void storeSetting(const StoredSetting& setting, const SettingPlace& place, const StoredSetting::Values& values) {
+    const auto failed = basic::attempt([&] { setting.write(place, values); });
+    if (failed.Number != 0)
+        throw Refusal(kMachineTrouble, fmt::format("{} could not be stored; see fernwick doctor", setting.name));
+}
+
 } // namespace
+
+SettingPlace placeOf(Session& session) {
+    return {*session.settings(), session.machine().registry(), session.machine().classes()};
+}
 
 SettingChange changeSetting(Session& session, const StoredSetting& setting, const StoredSetting::Values& values,
                             bool dryRun) {
-    auto& project = *session.settings();
-    SettingChange change{setting, setting.read(project), values};
+    const auto place = placeOf(session);
+    SettingChange change{setting, setting.read(place), values};
     requireStorable(session, setting, values);
     if (dryRun) return change;
     const auto boxes = session.user().shown().size();
-    setting.write(*session.settings(), values);
+    storeSetting(setting, place, values);
     if (session.user().shown().size() > boxes)
         throw Refusal(kProjectErrors,
                       fmt::format("{} was not set: the project file cannot store this value", setting.name));
-    change.after = setting.read(project);
+    change.after = setting.read(place);
     return change;
 }
 

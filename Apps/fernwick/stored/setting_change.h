@@ -4,12 +4,16 @@
 
 namespace cli {
 
+/// Where the settings of a session's project are.
+SettingPlace placeOf(Session& session);
+
 struct SettingChange {
     const StoredSetting& setting;
     StoredSetting::Values before, after;
 };
 
-/// Writes the values unless it is a dry run. Refusal 1 if the project file cannot store them.
+/// Writes the values unless it is a dry run. Refusals: 1 if the project file cannot store them, 3 if they cannot be
+/// written.
 SettingChange changeSetting(Session& session, const StoredSetting& setting, const StoredSetting::Values& values,
                             bool dryRun);
 

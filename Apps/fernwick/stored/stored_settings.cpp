@@ -1,8 +1,8 @@
 #include "Apps/fernwick/stored/stored_settings.h"
 #include "Add-in/core/stored_lists.h"
-#include "Apps/fernwick/devices/device_settings.h"
 #include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/options/refusal.h"
+#include "Apps/fernwick/stored/pipe_settings.h"
 #include "Basic/case_folding.h"
 #include "Basic/conversions.h"
 #include <algorithm>
@@ -12,7 +12,6 @@ namespace cli {
 
 namespace {
 
-using fernwick::clsQLProject;
 using fernwick::ProjectSetting;
 using Values = StoredSetting::Values;
 
@@ -22,40 +21,24 @@ StoredSetting projectSetting(const ProjectSetting& setting, std::size_t index) {
                       setting.meaning(),
                       setting.kind(),
                       setting.defaults(),
-                      [index](const clsQLProject& project) { return project.settings()[index]->values(); },
+                      [index](const SettingPlace& place) { return place.project.settings()[index]->values(); },
                       nullptr};
     if (setting.isWritable())
-        row.write = [index](clsQLProject& project, const Values& values) { project.settings()[index]->assign(values); };
+        row.write = [index](const SettingPlace& place, const Values& values) {
+            place.project.settings()[index]->assign(values);
+        };
     return row;
 }
 
-/// A project's setting of its handheld takes precedence over the user's for all projects.
-StoredSetting handheldSetting(std::string qlpipe::LinuxHandheldSettings::*value, std::string name,
-                              std::string meaning) {
-    return {std::move(name),
-            std::move(meaning),
-            SettingKind::Text,
-            {""},
-            [value](const clsQLProject& project) {
-                return Values{qlpipe::readProjectSettings(project.VBProject()).*value};
-            },
-            [value](clsQLProject& project, const Values& values) {
-                auto settings = qlpipe::readProjectSettings(project.VBProject());
-                settings.*value = values.front();
-                requireMeantSettings(settings, project.TargetDevice());
-                qlpipe::writeProjectSettings(project.VBProject(), settings);
-            }};
-}
-
-/// The handheld's setting precedes the lists that only a build writes.
+/// Those of the pipes precede the lists that only a build writes.
 std::vector<StoredSetting> makeSettingTable() {
     std::vector<StoredSetting> table;
     const fernwick::ProjectSettings described{nullptr};
     for (const auto* setting : described.settings()) table.push_back(projectSetting(*setting, table.size()));
     const auto builtList = std::find_if(table.begin(), table.end(),
                                         [](const auto& row) { return row.kind == SettingKind::List && !row.write; });
-    table.insert(builtList, handheldSetting(&qlpipe::LinuxHandheldSettings::Folder, "HandheldFolder",
-                                            "where applications go on a Linux handheld"));
+    const auto ofPipes = pipeSettings();
+    table.insert(builtList, ofPipes.begin(), ofPipes.end());
     return table;
 }
 

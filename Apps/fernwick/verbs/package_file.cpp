@@ -63,6 +63,16 @@ auto readPackage(const std::string& path, Read&& read) {
     }
 }
 
+/// The settings that the project gave its application; those that it did not set are left out.
+Json jsonOfSettings(const qlpipe::Bundle& bundle) {
+    Json json = Json::object();
+    if (!bundle.creatorId.empty()) json["creatorId"] = bundle.creatorId;
+    if (bundle.memoryLimit) json["memoryLimit"] = *bundle.memoryLimit;
+    if (!bundle.orientation.empty()) json["orientation"] = bundle.orientation;
+    if (!bundle.arguments.empty()) json["arguments"] = bundle.arguments;
+    return json;
+}
+
 Json jsonOfBundle(const std::string& path, const qlpipe::Bundle& bundle) {
     auto json = jsonResult("package");
     json.update({{"package", path},
@@ -70,8 +80,9 @@ Json jsonOfBundle(const std::string& path, const qlpipe::Bundle& bundle) {
                  {"displayName", bundle.displayName},
                  {"version", bundle.version},
                  {"device", bundle.device},
-                 {"references", bundle.references},
-                 {"files", Json::array()}});
+                 {"references", bundle.references}});
+    json.update(jsonOfSettings(bundle));
+    json["files"] = Json::array();
     for (const auto& file : bundle.files)
         json["files"].push_back({{"name", file.place}, {"bytes", file.size}, {"sha256", file.sha256}});
     return json;
@@ -82,6 +93,10 @@ void printBundle(const qlpipe::Bundle& bundle, Console& console) {
     using basic::printable;
     console.out(fmt::format("{} {} for {}\n", printable(bundle.displayName), printable(bundle.version),
                             printable(bundle.device)));
+    const auto settings = jsonOfSettings(bundle);
+    for (const auto& [name, value] : settings.items())
+        console.out(
+            fmt::format("  {}: {}\n", name, printable(value.is_string() ? value.get<std::string>() : value.dump())));
     std::size_t width = 0;
     for (const auto& file : bundle.files) width = std::max(width, file.place.size());
     for (const auto& file : bundle.files)

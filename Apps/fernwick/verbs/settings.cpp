@@ -8,7 +8,8 @@
 #include "Apps/fernwick/stored/setting_change.h"
 #include "Apps/fernwick/stored/stored_settings.h"
 #include "Apps/fernwick/verbs/verbs.h"
-#include "Basic/case_folding.h"
+#include "Basic/printable.h"
+#include "Components/QLPipe/settings/pipe_setting.h"
 #include "Host/model/project.h"
 #include <fmt/format.h>
 
@@ -57,37 +58,50 @@ Json jsonOfValues(const StoredSetting& setting, const StoredSetting::Values& val
     return setting.kind == SettingKind::List ? Json(values) : Json(values.front());
 }
 
-Json jsonOfSetting(const StoredSetting& setting, const fernwick::clsQLProject& project) {
-    const auto values = setting.read(project);
+Json jsonOfSetting(const StoredSetting& setting, const SettingPlace& place) {
     Json json{{"name", setting.name}};
-    json["value"] = jsonOfValues(setting, values);
+    json["value"] = jsonOfValues(setting, setting.read(place));
+    json["default"] = jsonOfValues(setting, setting.otherwise);
     json["writable"] = setting.write != nullptr;
     json["meaning"] = setting.meaning;
+    if (!setting.details.empty()) json["details"] = setting.details;
+    json["storedIn"] = setting.isOfUser ? "user" : "project";
+    if (setting.ignored)
+        if (const auto ignored = setting.ignored(place); !ignored.empty()) json["ignored"] = ignored;
     return json;
 }
 
-int listSettings(const Options& options, Console& console, const fernwick::clsQLProject& project) {
+/// Warns about the values of a project that only the user can determine.
+void noteIgnored(const StoredSetting& setting, const SettingPlace& place, Console& console) {
+    if (setting.ignored && !setting.ignored(place).empty())
+        console.note(fmt::format("{}: the project's own value is ignored: {}", setting.name,
+                                 basic::printable(setting.ignored(place))),
+                     Tone::Warning);
+}
+
+int listSettings(const Options& options, Console& console, const SettingPlace& place) {
     auto json = jsonResult("settings");
     json["settings"] = Json::array();
     for (const auto& setting : storedSettings()) {
+        noteIgnored(setting, place, console);
         if (options.format == Format::Json)
-            json["settings"].push_back(jsonOfSetting(setting, project));
+            json["settings"].push_back(jsonOfSetting(setting, place));
         else
-            console.out(fmt::format("{}={}\n", setting.name, joinedValues(setting.read(project))));
+            console.out(fmt::format("{}={}\n", setting.name, joinedValues(setting.read(place))));
     }
     if (options.format == Format::Json) console.out(dumpJson(json));
     return kGood;
 }
 
-int getSetting(const Options& options, Console& console, const StoredSetting& setting,
-               const fernwick::clsQLProject& project) {
+int getSetting(const Options& options, Console& console, const StoredSetting& setting, const SettingPlace& place) {
+    noteIgnored(setting, place, console);
     if (options.format == Format::Json) {
         auto json = jsonResult("settings");
-        json["settings"] = Json::array({jsonOfSetting(setting, project)});
+        json["settings"] = Json::array({jsonOfSetting(setting, place)});
         console.out(dumpJson(json));
         return kGood;
     }
-    for (const auto& value : setting.read(project)) console.out(value + "\n");
+    for (const auto& value : setting.read(place)) console.out(value + "\n");
     return kGood;
 }
 
@@ -95,6 +109,10 @@ std::vector<SettingChange> setSetting(Session& session, const SettingOperands& o
     const auto& setting = settingOf(operands);
     if (const auto wrong = wrongWithValues(setting, operands.values); !wrong.empty()) throw Refusal(kWrongUse, wrong);
     auto values = operands.values;
+    if (setting.problem)
+        if (const auto why = setting.problem(placeOf(session), values); !why.empty())
+            throw Refusal(kWrongUse, fmt::format("{} cannot be {}: {}", setting.name,
+                                                 basic::printable(qlpipe::shortened(values.front())), why));
     if (setting.name == "TargetDevice") values = {usableDevice(session, values.front())};
     return {changeSetting(session, setting, values, dryRun)};
 }
@@ -108,7 +126,7 @@ std::vector<const StoredSetting*> settingsToReset(const SettingOperands& operand
     if (!operands.name.empty()) settings.push_back(&writableSetting(settingOf(operands)));
     if (options.all)
         for (const auto& setting : storedSettings())
-            if (setting.write) settings.push_back(&setting);
+            if (setting.write && !setting.isOfUser) settings.push_back(&setting);
     return settings;
 }
 
@@ -117,7 +135,7 @@ std::vector<SettingChange> resetSettings(Session& session, const SettingOperands
     const auto settings = settingsToReset(operands, options);
     const auto fresh = newProjectSettings(session);
     for (const auto* setting : settings)
-        if (const auto& after = fresh.at(setting->name); setting->read(*session.settings()) != after)
+        if (const auto& after = fresh.at(setting->name); setting->read(placeOf(session)) != after)
             changes.push_back(changeSetting(session, *setting, after, options.dryRun));
     return changes;
 }
@@ -164,8 +182,8 @@ int runSettings(const Options& options, Console& console) {
     if (writes && !options.dryRun) session.lock(operands.project);
     session.open(operands.project);
     session.takeUp();
-    if (options.action == "list") return listSettings(options, console, *session.settings());
-    if (options.action == "get") return getSetting(options, console, settingOf(operands), *session.settings());
+    if (options.action == "list") return listSettings(options, console, placeOf(session));
+    if (options.action == "get") return getSetting(options, console, settingOf(operands), placeOf(session));
     return changeSettings(session, operands, options, console);
 }
 

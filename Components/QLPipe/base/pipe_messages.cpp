@@ -26,6 +26,11 @@ constexpr fernwick::MessageInfo kPipeMessages[] = {
     {shown(kIconMissing), kWarning, "The icon {file} was not found; the device's default icon is used.",
      "The application's icon file did not exist when the project was sent.", "",
      "Choose the icon again on the Application page of the project's settings."},
+    {shown(kCreatorInUse), kWarning,
+     "The application {other} on {device} has the same creator ID {id}. The device can confuse the two. Set another "
+     "one with: fernwick settings set {setting} ID",
+     "Palm OS keeps the data and preferences of applications by their creator IDs, so each needs its own.",
+     "fernwick settings set Hello.vbp PalmOSCreatorID Abcd", "Give one of the applications a different creator ID."},
     {shown(kProjectSettingsIgnored), kWarning,
      "The project's settings of the Linux handheld are ignored, except for its folder: {settings}. Only your own "
      "settings "
@@ -90,6 +95,11 @@ constexpr fernwick::MessageInfo kPipeMessages[] = {
      "shorter names.",
      "The manifest of an application, which lists its files, has a maximum size.", "a project with 10,000 dependencies",
      "Use fewer files, or join small files into one."},
+    {kSettingRefused, kError,
+     "Invalid value \"{value}\" for the setting {setting}: {reason}. Correct it on the page {page} of the project's "
+     "settings, or with: fernwick settings set {setting} VALUE",
+     "The project file contains a value that the devices cannot use. Nothing was sent.",
+     "PalmOSMemoryLimit=1024 for a device with 256 KB", "Correct the setting, or clear it for its default."},
 
     {kDeviceNotServed, kError,
      "{device} is not a device of the family {family}. Choose a design target of this family.",
@@ -151,6 +161,11 @@ constexpr fernwick::MessageInfo kPipeMessages[] = {
      "{package} was made for {device}, a device family that is not available here. Install its pipe.",
      "This installation has no pipe for the device's family, or one that cannot send.", "",
      "Install the pipe of this family, or use a machine that has it."},
+    {kPackageMemory, kError,
+     "{package} lets its application use {size} of memory; {platform} has {limit}. Make the package again for the "
+     "devices that are installed here.",
+     "The memory limit in the package is larger than the memory of the device.", "",
+     "Lower the project's memory limit and make the package again."},
 };
 
 } // namespace

@@ -30,6 +30,7 @@ enum PipeError : std::int32_t {
     kFileUnreadable = 20111,
     kFileChanged = 20112,
     kListTooLong = 20113,
+    kSettingRefused = 20114,
 
     kDeviceNotServed = 20200,
     kDeviceBusy = 20201,
@@ -51,6 +52,7 @@ enum PipeError : std::int32_t {
     kPackageUnsafeName = 20407,
     kPackageOfOtherDevice = 20408,
     kPackageDeviceUnknown = 20409,
+    kPackageMemory = 20410,
 };
 
 /// Warnings, with the numbers of events: 100 to 899. 300 to 399 are reserved for devices reached by SSH.
@@ -59,6 +61,7 @@ enum PipeWarning : std::int32_t {
     kFileEmpty = 110,
     kFileLargerThanHeap = 111,
     kIconMissing = 112,
+    kCreatorInUse = 113,
 
     kProjectSettingsIgnored = 300,
 };

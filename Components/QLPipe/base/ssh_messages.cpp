@@ -14,11 +14,13 @@ constexpr fernwick::MessageInfo error(M number, std::string_view text, std::stri
 
 // number, text, meaning, example, remedy
 constexpr fernwick::MessageInfo kSshMessages[] = {
-    error(M::HostNotSet,
-          "The address of the handheld is not set. Set it with: fernwick devices set {device} Host=ADDRESS",
-          "A Linux handheld is reached over the network. The user's settings do not contain its address.",
-          "fernwick deploy Game.vbp --device LinuxHandheld-ARM",
-          "fernwick devices set LinuxHandheld-ARM Host=192.168.1.20"),
+    error(
+        M::HostNotSet,
+        "The address of the handheld is not set. Set Host on the page Linux Handheld Settings of a project's settings, "
+        "or with: fernwick devices set {device} Host=ADDRESS",
+        "A Linux handheld is reached over the network. The user's settings do not contain its address.",
+        "fernwick deploy Game.vbp --device LinuxHandheld-ARM",
+        "fernwick devices set LinuxHandheld-ARM Host=192.168.1.20"),
     error(M::SettingInvalid, "Invalid value \"{value}\" for the Linux handheld setting {setting}: {reason}.",
           "The value cannot be used for this setting.", "fernwick devices set LinuxHandheld-ARM Port=ssh",
           "Correct the setting."),
@@ -35,11 +37,12 @@ constexpr fernwick::MessageInfo kSshMessages[] = {
     error(
         M::NoAnswer,
         "The handheld {handheld} did not answer within {seconds} seconds while connecting. Check that it is awake and "
-        "connected to the network, then try again.",
+        "connected to the network, and the settings Host and Port, then try again.",
         "The connection attempt was not answered, or the server accepted it and then sent nothing.", "",
         "Wake the handheld, and check that the port belongs to an SSH server."),
     error(M::HandshakeFailed,
-          "No secure connection to {handheld}: {reason}. Check that an SSH server is running at this port.",
+          "No secure connection to {handheld}: {reason}. Check that an SSH server is running at this port, and the "
+          "setting Port.",
           "The server does not use SSH, or supports none of the available encryption methods.",
           "fernwick devices set LinuxHandheld-ARM Port=80",
           "Correct the setting Port, or update the handheld's SSH server."),
@@ -53,16 +56,22 @@ constexpr fernwick::MessageInfo kSshMessages[] = {
           "", "Compare the fingerprints, then add the line to the known hosts file."),
     error(M::HostKeyChanged,
           "The key of the handheld {handheld} has changed: it is now {kind} {fingerprint}. Either the handheld was "
-          "set up again, or another device answers at its address. Compare it with the output of this command on the "
+          "set up again, or another device answers at its address (settings Host and Port). Compare it with the output "
+          "of this command on the "
           "handheld itself: ssh-keygen -lf /etc/ssh/ssh_host_{keyFile}_key.pub. Only if they are the same, remove the "
           "old key with: ssh-keygen -R '{host}' -f {knownHosts} and accept the new one with: echo '{line}' >> "
           "{knownHosts}",
           "The device at this address has a different key than before. Nothing was sent.", "",
           "Find out why the key changed before you accept it."),
-    error(M::KnownHostsUnreadable,
-          "The known hosts file {file} cannot be read: {reason}. Nothing was sent to {handheld}.",
-          "The handheld's key cannot be verified without this file.", "",
-          "Correct the file or the setting KnownHosts."),
+    error(
+        M::KnownHostsUnreadable,
+        "The known hosts file {file} cannot be read: {reason}. Nothing was sent to {handheld}. Correct the file or the "
+        "setting KnownHosts.",
+        "The handheld's key cannot be verified without this file.", "", "Correct the file or the setting KnownHosts."),
+    error(M::KnownHostsNotWritten,
+          "The key was not stored in the known hosts file {file}: {reason}. Check the file and the setting KnownHosts.",
+          "The known hosts file or its folder cannot be written.", "",
+          "Correct the file's permissions or the setting KnownHosts."),
 
     error(M::KeyFileMissing, "The key file {file} cannot be read: {reason}. Check the setting KeyFile.",
           "The file named by the setting does not exist or is not readable.",
@@ -72,7 +81,8 @@ constexpr fernwick::MessageInfo kSshMessages[] = {
           "fernwick devices set LinuxHandheld-ARM KeyFile=~/.ssh/id_ed25519.pub",
           "Name the private key, or create one with ssh-keygen -t ed25519."),
     error(M::KeyNeedsAgent,
-          "The key file {file} has a passphrase. Such keys are used only through the SSH agent, and {reason}. Add the "
+          "The key file {file} (setting KeyFile) has a passphrase. Such keys are used only through the SSH agent, and "
+          "{reason}. Add the "
           "key with: ssh-add {quotedFile} and try again.",
           "Fernwick never asks for a passphrase; the SSH agent holds keys that have one.", "",
           "If no agent is running, start it with: eval \"$(ssh-agent)\". Then add the key file with ssh-add."),
@@ -133,8 +143,8 @@ constexpr fernwick::MessageInfo kSshMessages[] = {
     error(M::NameTaken, "{path} already exists on the handheld.",
           "A file cannot be created because its name is already in use.", "",
           "Remove it on the handheld, and check whether another program uses the same folder."),
-    error(M::NotFolder, "{path} on the handheld is not a folder.", "A file is in the place of a folder.", "",
-          "Remove it on the handheld, or set a different Folder."),
+    error(M::NotFolder, "{path} on the handheld is not a folder. Remove it there, or set a different Folder.",
+          "A file is in the place of a folder.", "", "Remove it on the handheld, or set a different Folder."),
     error(M::FileTooLarge, "{path} on the handheld is larger than 1 MiB and was not read.",
           "The file is one of Fernwick's own small lists and cannot be this large.", "",
           "Remove it on the handheld and try again."),

@@ -22,6 +22,7 @@ enum class SshMessage : std::int32_t {
     HostKeyUnknown = 20310,
     HostKeyChanged = 20311,
     KnownHostsUnreadable = 20312,
+    KnownHostsNotWritten = 20313,
 
     KeyFileMissing = 20320,
     KeyFileUnusable = 20321,

@@ -10,17 +10,6 @@ namespace qlpipe {
 
 namespace {
 
-struct HostKey {
-    /// The name that ssh-keygen uses: "ED25519".
-    std::string kind;
-    /// The name in the key's file name: "ed25519".
-    std::string fileKind;
-    /// "SHA256:" and the hash.
-    std::string fingerprint;
-    /// The line for the known hosts file.
-    std::string line;
-};
-
 std::string fileKindOf(ssh_keytypes_e type) {
     switch (type) {
     case SSH_KEYTYPE_RSA: return "rsa";
@@ -46,7 +35,7 @@ std::string fingerprintOf(ssh_key key) {
     return text.get();
 }
 
-HostKey hostKeyOf(const SshSession& session) {
+UnknownHostKey hostKeyOf(const SshSession& session) {
     const auto demand = [&](int result) {
         if (result != SSH_OK)
             throw sshError(SshMessage::HandshakeFailed,
@@ -61,19 +50,23 @@ HostKey hostKeyOf(const SshSession& session) {
     const auto type = libssh().ssh_key_type(key);
     std::string text = line;
     text.erase(text.find_last_not_of('\n') + 1);
-    return {inCapitals(fileKindOf(type)), fileKindOf(type), fingerprintOf(key), text};
+    return {{}, inCapitals(fileKindOf(type)), fileKindOf(type), fingerprintOf(key), text};
 }
 
-[[noreturn]] void refuseHost(const SshSession& session, SshMessage message) {
-    const auto& target = session.target();
-    const auto key = hostKeyOf(session);
-    throw sshError(message, {{"handheld", target.address()},
-                             {"kind", key.kind},
-                             {"fingerprint", key.fingerprint},
-                             {"keyFile", key.fileKind},
-                             {"line", key.line},
-                             {"knownHosts", shellWord(target.knownHosts)},
-                             {"host", key.line.substr(0, key.line.find(' '))}});
+TransferError hostError(const SshTarget& target, const UnknownHostKey& key, SshMessage message) {
+    return sshError(message, {{"handheld", target.address()},
+                              {"kind", key.kind},
+                              {"fingerprint", key.fingerprint},
+                              {"keyFile", key.fileKind},
+                              {"line", key.line},
+                              {"knownHosts", shellWord(target.knownHosts)},
+                              {"host", key.line.substr(0, key.line.find(' '))}});
+}
+
+[[noreturn]] void refuseUnknownHost(const SshSession& session) {
+    auto key = hostKeyOf(session);
+    static_cast<TransferError&>(key) = hostError(session.target(), key, SshMessage::HostKeyUnknown);
+    throw key;
 }
 
 } // namespace
@@ -88,9 +81,9 @@ void checkHostKey(const SshSession& session) {
     switch (libssh().ssh_session_is_known_server(session.get())) {
     case SSH_KNOWN_HOSTS_OK: return;
     case SSH_KNOWN_HOSTS_CHANGED:
-    case SSH_KNOWN_HOSTS_OTHER: refuseHost(session, SshMessage::HostKeyChanged);
+    case SSH_KNOWN_HOSTS_OTHER: throw hostError(session.target(), hostKeyOf(session), SshMessage::HostKeyChanged);
     case SSH_KNOWN_HOSTS_UNKNOWN:
-    case SSH_KNOWN_HOSTS_NOT_FOUND: refuseHost(session, SshMessage::HostKeyUnknown);
+    case SSH_KNOWN_HOSTS_NOT_FOUND: refuseUnknownHost(session);
     case SSH_KNOWN_HOSTS_ERROR: break;
     }
     throw sshError(SshMessage::KnownHostsUnreadable,

@@ -1,83 +1,87 @@
-#include "Add-in/platform/controls.h"
-#include "Add-in/platform/text_box.h"
-#include "Components/QLPipe/linux_handheld/linux_handheld.h"
-#include "Components/QLPipe/linux_handheld/linux_handheld_settings.h"
-#include <algorithm>
+#include "Components/QLPipe/linux_handheld/linux_handheld_page.h"
+#include "Components/QLPipe/base/message_values.h"
+#include "Components/QLPipe/linux_handheld/known_hosts_file.h"
 
 namespace qlpipe {
 
 namespace {
 
-class LinuxHandheldPage final : public fernwick::Form {
-public:
-    using Form::Form;
-    const char* typeName() const override { return "LinuxHandheldPage"; }
-    fernwick::Label lblFolder{this, "lblFolder", "Folder on the handheld (fernwick):"};
-    fernwick::TextBox txtFolder{this, "txtFolder"};
-
-    void show(const LinuxHandheldSettings& stored) {
-        Load();
-        txtFolder.Text(stored.Folder);
-    }
-    LinuxHandheldSettings typed() const {
-        LinuxHandheldSettings settings;
-        settings.Folder = txtFolder.Text();
-        return settings;
-    }
-};
-
-/// Stores neither values that a transfer would refuse nor values that a project file cannot contain.
-bool canBeStored(LinuxHandheldSettings settings) {
-    for (const auto& [name, value, caption, isOfProjects] : kLinuxHandheldSettings)
-        if ((settings.*value).find_first_of("\r\n") != std::string::npos) return false;
-    // The host is one of the user's settings.
-    if (settings.Host.empty()) settings.Host = "handheld";
-    try {
-        (void)sshTarget(settings, "");
-        return true;
-    } catch (const TransferError&) { return false; }
-}
-
-class LinuxHandheldConfiguration final : public IQLPipeConfiguration {
-public:
-    explicit LinuxHandheldConfiguration(fernwick::Interaction& user) : user_(user) {}
-    basic::Ref<fernwick::Form> CreatePage(const basic::Ref<vbide::VBProject>& project, std::int32_t,
-                                          std::int32_t) override {
-        ClosePage();
-        if (!project) return {};
-        project_ = project;
-        page_ = std::make_shared<LinuxHandheldPage>(user_);
-        page_->show(readProjectSettings(project));
-        return page_;
-    }
-    void ShowPage() override {
-        if (page_) page_->Visible(true);
-    }
-    void HidePage() override {
-        if (page_) page_->Hide();
-    }
-    bool ValidatePage() override { return !page_ || canBeStored(page_->typed()); }
-    void ApplyPage() override {
-        if (page_) writeProjectSettings(project_, page_->typed());
-    }
-    void ClosePage() override {
-        if (page_) page_->Unload();
-        page_.reset();
-        project_ = {};
-    }
-    bool HasPage() override { return true; }
-    std::string PageName() override { return "Linux Handheld Settings"; }
-
-private:
-    fernwick::Interaction& user_;
-    basic::Ref<vbide::VBProject> project_;
-    std::shared_ptr<LinuxHandheldPage> page_;
-};
+constexpr char kTest[] = "&Test Connection", kCancel[] = "Cancel &Test";
+constexpr char kAcceptKey[] =
+    "The handheld {handheld} is not known yet. Its key is\n\n{kind} {fingerprint}\n\nCompare it with the output of "
+    "this "
+    "command on the handheld itself:\n\nssh-keygen -lf /etc/ssh/ssh_host_{keyFile}_key.pub\n\nIf they differ, another "
+    "device answers at this address. Do you trust this handheld, and want to store its key in {knownHosts}?";
+constexpr int kTurn = 50; // milliseconds
 
 } // namespace
 
-basic::Ref<IQLPipeConfiguration> configureLinuxHandheld(const PipeServices& services) {
-    return basic::make<LinuxHandheldConfiguration>(services.user);
+LinuxHandheldPage::LinuxHandheldPage(fernwick::Interaction& user, fernwick::EventLoop& loop,
+                                     std::function<SshTarget(const SettingValues&)> target)
+    : SettingsPage(user, "LinuxHandheldPage", kLinuxHandheldSettings),
+      btnTest(this, "btnTest", kTest, &LinuxHandheldPage::btnTest_Click),
+      loop_(loop),
+      target_(std::move(target)) {}
+
+void LinuxHandheldPage::showIgnored(const std::string& names) {
+    lblIgnored.Visible(!names.empty());
+    lblIgnored.Caption("These settings are yours. The project's own values are ignored:\n" + names);
+}
+
+void LinuxHandheldPage::btnTest_Click() {
+    if (test_) return endTest();
+    if (!isLoaded()) return;
+    try {
+        startTest(target_(typed()));
+    } catch (const TransferError& error) { say(error.text, fernwick::vbExclamation); }
+}
+
+/// The page may be released during a turn, by a box that it shows.
+void LinuxHandheldPage::startTest(const SshTarget& target) {
+    test_ = std::make_unique<ConnectionTest>(target);
+    btnTest.Caption(kCancel);
+    lblTest.Caption(fillIn("Connecting to {handheld}...", {{"handheld", target.address()}}));
+    turn_ = loop_.StartTimer(kTurn, [page = weak_from_this()] {
+        if (const auto alive = page.lock()) alive->examineTest();
+    });
+}
+
+void LinuxHandheldPage::endTest() {
+    turn_ = {};
+    test_.reset();
+    btnTest.Caption(kTest);
+    lblTest.Caption("");
+}
+
+void LinuxHandheldPage::examineTest() {
+    const auto result = test_ ? test_->result() : std::nullopt;
+    if (!result) return;
+    const auto target = test_->target();
+    endTest();
+    reportTest(target, *result);
+}
+
+void LinuxHandheldPage::reportTest(const SshTarget& target, const ConnectionResult& result) {
+    if (!result.unknownKey)
+        return say(result.text, result.succeeded ? fernwick::vbInformation : fernwick::vbExclamation);
+    if (acceptsKey(target, *result.unknownKey) && isLoaded()) startTest(target);
+}
+
+bool LinuxHandheldPage::acceptsKey(const SshTarget& target, const UnknownHostKey& key) {
+    const auto question = fillIn(kAcceptKey, {{"handheld", target.address()},
+                                              {"kind", key.kind},
+                                              {"fingerprint", key.fingerprint},
+                                              {"keyFile", key.fileKind},
+                                              {"knownHosts", target.knownHosts}});
+    constexpr int kYesNo = fernwick::vbYesNo + fernwick::vbExclamation + fernwick::vbDefaultButton2;
+    if (user_.MsgBox(question, kYesNo, "Fernwick") != fernwick::vbYes) return false;
+    try {
+        appendKnownHost(target.knownHosts, key.line);
+        return true;
+    } catch (const TransferError& error) {
+        say(error.text, fernwick::vbExclamation);
+        return false;
+    }
 }
 
 } // namespace qlpipe

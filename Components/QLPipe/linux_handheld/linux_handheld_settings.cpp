@@ -45,37 +45,21 @@ std::string deviceSettingsKey(const std::string& deviceKey) { return "Software\\
 
 constexpr int kPathFileAccessError = 75;
 
-/// The host raises an error for a missing value.
-std::string projectValue(const vbide::VBProject& project, const char* name) {
-    std::string value;
-    (void)basic::attempt([&] { value = project.ReadProperty(kLinuxHandheldSection, name); });
-    return value;
-}
-
 } // namespace
 
 LinuxHandheldSettings readProjectSettings(const basic::Ref<vbide::VBProject>& project) {
     LinuxHandheldSettings settings;
-    if (!project) return settings;
-    for (const auto& setting : kLinuxHandheldSettings)
-        if (setting.isOfProjects) settings.*setting.value = projectValue(*project, setting.name);
+    const auto values = readProjectValues(kLinuxHandheldSettings, project);
+    for (std::size_t i = 0; i < values.size(); ++i)
+        if (const auto member = kLinuxHandheldRows[i].connection) settings.*member = values[i];
     return settings;
 }
 
 std::string ignoredProjectSettings(const basic::Ref<vbide::VBProject>& project) {
     std::string names;
-    if (!project) return names;
-    for (const auto& setting : kLinuxHandheldSettings)
-        if (!setting.isOfProjects && !projectValue(*project, setting.name).empty())
-            names += (names.empty() ? "" : ", ") + std::string(setting.name);
+    for (const auto* setting : ignoredInProject(kLinuxHandheldSettings, project))
+        names += (names.empty() ? "" : ", ") + std::string(setting->key);
     return names;
-}
-
-void writeProjectSettings(const basic::Ref<vbide::VBProject>& project, const LinuxHandheldSettings& settings) {
-    const auto stored = readProjectSettings(project);
-    for (const auto& [name, value, caption, isOfProjects] : kLinuxHandheldSettings)
-        if (isOfProjects && settings.*value != stored.*value)
-            project->WriteProperty(kLinuxHandheldSection, name, settings.*value);
 }
 
 LinuxHandheldSettings readUserSettings(fernwick::Registry& registry, const std::string& deviceKey) {
@@ -85,7 +69,7 @@ LinuxHandheldSettings readUserSettings(fernwick::Registry& registry, const std::
         handle = 0;
     const OpenKey key{registry, handle};
     LinuxHandheldSettings settings;
-    for (const auto& [name, value, caption, isOfProjects] : kLinuxHandheldSettings) settings.*value = key.text(name);
+    for (const auto& row : kConnectionRows) settings.*row.connection = key.text(row.key);
     return settings;
 }
 
@@ -96,14 +80,14 @@ void writeUserSettings(fernwick::Registry& registry, const std::string& deviceKe
                                 handle, disposition) != fernwick::ERROR_SUCCESS)
         handle = 0;
     const OpenKey key{registry, handle};
-    for (const auto& [name, value, caption, isOfProjects] : kLinuxHandheldSettings)
-        if (!key || !key.store(name, settings.*value)) throw basic::RuntimeError(kPathFileAccessError);
+    for (const auto& row : kConnectionRows)
+        if (!key || !key.store(row.key, settings.*row.connection)) throw basic::RuntimeError(kPathFileAccessError);
 }
 
 LinuxHandheldSettings layered(const LinuxHandheldSettings& project, const LinuxHandheldSettings& user) {
     auto settings = user;
-    for (const auto& [name, value, caption, isOfProjects] : kLinuxHandheldSettings)
-        if (!(project.*value).empty()) settings.*value = project.*value;
+    for (const auto& row : kConnectionRows)
+        if (!(project.*row.connection).empty()) settings.*row.connection = project.*row.connection;
     return settings;
 }
 

@@ -2,10 +2,9 @@
 // The connection settings of a Linux handheld.
 #include "Add-in/platform/host_project.h"
 #include "Add-in/platform/registry.h"
-#include <array>
+#include "Components/QLPipe/settings/application_settings.h"
 #include <cstdint>
 #include <string>
-#include <string_view>
 
 namespace qlpipe {
 
@@ -27,34 +26,106 @@ struct LinuxHandheldSettings {
     bool operator==(const LinuxHandheldSettings&) const = default;
 };
 
-/// One setting with the name under which it is stored and shown.
-struct LinuxHandheldSetting {
-    const char* name;
-    std::string LinuxHandheldSettings::*value;
-    /// The label of its field.
-    const char* caption;
-    /// Whether a project may have it. Projects come from anywhere, so they must not choose which machine is reached, nor
-    /// by whom or with which keys.
-    bool isOfProjects = false;
-};
-inline constexpr std::array<LinuxHandheldSetting, 6> kLinuxHandheldSettings{{
-    {"Host", &LinuxHandheldSettings::Host, "Name or address:"},
-    {"Port", &LinuxHandheldSettings::Port, "Port (22):"},
-    {"User", &LinuxHandheldSettings::User, "User:"},
-    {"KeyFile", &LinuxHandheldSettings::KeyFile, "Key file:"},
-    {"Folder", &LinuxHandheldSettings::Folder, "Folder on the handheld (fernwick):", true},
-    {"KnownHosts", &LinuxHandheldSettings::KnownHosts, "File of known hosts:"},
-}};
+// Why a value of a setting cannot be used, or "". An empty value is good.
+std::string hostProblem(const std::string& value, const TargetLimits&);
+std::string portProblem(const std::string& value, const TargetLimits&);
+std::string folderProblem(const std::string& value, const TargetLimits&);
 
-/// The section of the project file with the project's settings.
-inline constexpr char kLinuxHandheldSection[] = "Quinloft Linux Handheld";
+inline constexpr PipeSetting kLinuxHandheldRows[] = {
+    versionRow("HandheldVersion"),
+    memoryLimitRow("HandheldMemoryLimit"),
+    orientationRow("HandheldOrientation"),
+    {"HandheldArguments",
+     "Arguments",
+     "&Arguments:",
+     "command line with which the application starts",
+     "at most 1,024 bytes",
+     "none",
+     "the manifest passes it to the runtime",
+     nullptr,
+     {},
+     &ApplicationSettings::Arguments},
+    {"HandheldHost",
+     "Host",
+     "&Host:",
+     "the handheld in your network",
+     "its name or address",
+     "none, but a transfer needs it",
+     "all your projects for this device use it",
+     hostProblem,
+     {},
+     nullptr,
+     &LinuxHandheldSettings::Host,
+     true},
+    {"HandheldPort",
+     "Port",
+     "&Port:",
+     "port of the SSH server on the handheld",
+     "a number from 1 to 65535",
+     "22",
+     "all your projects for this device use it",
+     portProblem,
+     {},
+     nullptr,
+     &LinuxHandheldSettings::Port,
+     true},
+    {"HandheldUser",
+     "User",
+     "&User:",
+     "your user on the handheld",
+     "a user name",
+     "your user name on this computer",
+     "all your projects for this device use it",
+     hostProblem,
+     {},
+     nullptr,
+     &LinuxHandheldSettings::User,
+     true},
+    {"HandheldKeyFile",
+     "KeyFile",
+     "&Key file:",
+     "file with your private key",
+     "a path on this computer",
+     "the keys of the SSH agent and ~/.ssh/id_*",
+     "all your projects for this device use it",
+     nullptr,
+     {},
+     nullptr,
+     &LinuxHandheldSettings::KeyFile,
+     true},
+    {"HandheldFolder",
+     "Folder",
+     "&Folder:",
+     "folder on the handheld for applications and the runtime",
+     "a path there, also one relative to the user's home folder",
+     "your own setting Folder, or fernwick in the home folder",
+     "transfers of this project use it",
+     folderProblem,
+     {},
+     nullptr,
+     &LinuxHandheldSettings::Folder},
+    {"HandheldKnownHosts",
+     "KnownHosts",
+     "K&nown hosts:",
+     "file with the keys of the handhelds that you trust",
+     "a path on this computer",
+     "~/.ssh/known_hosts",
+     "all your projects for this device use it",
+     nullptr,
+     {},
+     nullptr,
+     &LinuxHandheldSettings::KnownHosts,
+     true},
+};
+inline constexpr PipeSettings kLinuxHandheldSettings{"Linux Handheld Settings", "Quinloft Linux Handheld",
+                                                     kLinuxHandheldRows};
+/// The rows of a connection. The user has a value for each of them, also for the folder.
+inline constexpr std::span<const PipeSetting> kConnectionRows = kLinuxHandheldSettings.rows.subspan(4);
 
 /// Reads the settings that a project may have. Does not raise errors: missing settings are empty.
 [[nodiscard]] LinuxHandheldSettings readProjectSettings(const basic::Ref<vbide::VBProject>& project);
 /// Returns the names of the other settings that the project file contains: "Host, Port".
 [[nodiscard]] std::string ignoredProjectSettings(const basic::Ref<vbide::VBProject>& project);
-/// Stores the settings that changed and that a project may have. Raises the host's errors.
-void writeProjectSettings(const basic::Ref<vbide::VBProject>& project, const LinuxHandheldSettings& settings);
 
 /// Reads the user's settings, stored in HKEY_CURRENT_USER under "Software\Quinloft\Devices\" and the key of the design
 /// target.

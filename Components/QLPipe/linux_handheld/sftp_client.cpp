@@ -175,18 +175,22 @@ bool SftpClient::readEntries(const Reply& reply, std::vector<Entry>& entries, Sf
     return bool(result);
 }
 
-std::int64_t SftpClient::freeSpace(const std::string& folder) {
-    if (!offers("statvfs@openssh.com")) return -1;
-    std::uint64_t bytes = 0;
+SftpClient::FileSystem SftpClient::fileSystem(const std::string& folder) {
+    constexpr std::uint64_t kReadOnly = 1, kMost = std::numeric_limits<std::int64_t>::max();
+    if (!offers("statvfs@openssh.com")) return {};
+    std::uint64_t bytes = 0, flags = 0;
     const auto sent = send(request(kSftpExtended).text("statvfs@openssh.com").text(folder));
     const auto result = readReply(await(sent), kSftpExtendedReply, [&](PacketReader& reader) {
         reader.number64(); // preferred block size
         const auto block = reader.number64();
         reader.number64(), reader.number64(); // total blocks, free blocks
         const auto blocks = reader.number64();
-        if (__builtin_mul_overflow(block, blocks, &bytes)) bytes = std::numeric_limits<std::int64_t>::max();
+        if (__builtin_mul_overflow(block, blocks, &bytes)) bytes = kMost;
+        for (int i = 0; i < 4; ++i) reader.number64(); // total, free and available files; the file system's number
+        flags = reader.number64();
     });
-    return result ? std::int64_t(std::min<std::uint64_t>(bytes, std::numeric_limits<std::int64_t>::max())) : -1;
+    if (!result) return {};
+    return {std::int64_t(std::min(bytes, kMost)), (flags & kReadOnly) != 0};
 }
 
 void SftpClient::throwInvalid(const std::string& what) {

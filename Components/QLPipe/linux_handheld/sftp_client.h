@@ -49,7 +49,9 @@ public:
     /// In the device's order, without "." and "..".
     SftpResult list(const std::string& folder, std::vector<Entry>& entries);
     /// Bytes available to ordinary users, or -1 if unknown.
-    std::int64_t freeSpace(const std::string& folder);
+    std::int64_t freeSpace(const std::string& folder) { return fileSystem(folder).free; }
+    /// False if unknown.
+    bool isReadOnly(const std::string& folder) { return fileSystem(folder).isReadOnly; }
 
     const SshChannel& channel() const { return channel_; }
 
@@ -71,6 +73,11 @@ private:
     template <class Read>
     SftpResult readReply(const Reply& reply, std::uint8_t type, Read read);
     SftpResult handleOf(Request request, std::string& handle);
+    struct FileSystem {
+        std::int64_t free = -1;
+        bool isReadOnly = false;
+    };
+    FileSystem fileSystem(const std::string& folder);
     bool readEntries(const Reply& reply, std::vector<Entry>& entries, SftpResult& result);
     [[noreturn]] void throwInvalid(const std::string& what);
 

@@ -27,7 +27,10 @@ SftpAttributes PacketReader::attributes() {
     SftpAttributes read;
     const auto flags = number();
     if (flags & kHasSize) read.size = number64();
-    if (flags & kHasOwner) take(8);
+    if (flags & kHasOwner) {
+        read.owner = number();
+        number(); // its group
+    }
     if (flags & kHasPermissions) read.permissions = number();
     if (flags & kHasTimes) take(8);
     if (flags & kHasExtensions)

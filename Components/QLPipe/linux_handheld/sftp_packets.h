@@ -1,6 +1,7 @@
 #pragma once
 // SFTP version 3: constants and packets.
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -56,6 +57,8 @@ struct SftpAttributes {
     std::uint64_t size = 0;
     /// POSIX mode including the file type; 0 if unknown.
     std::uint32_t permissions = 0;
+    /// The number of the user to whom it belongs; nothing if unknown.
+    std::optional<std::uint32_t> owner;
 
     bool isFolder() const { return (permissions & 0170000) == 0040000; }
     bool isFile() const { return (permissions & 0170000) == 0100000; }

@@ -21,7 +21,7 @@ std::string unexpanded(const std::string& path) {
 SshSession::SshSession(const SshTarget& target, const SshTimeouts& timeouts)
     : target_(target), timeouts_(timeouts), session_(libssh().ssh_new()) {
     if (!session_) throw std::bad_alloc();
-    auto socket = connectTo(target, timeouts.connect);
+    auto socket = connectTo(target, timeouts);
     setOptions(socket.get());
     libssh().ssh_set_blocking(get(), 0);
     // From its first step on, libssh owns the socket.
@@ -56,12 +56,10 @@ void SshSession::setOptions(int socket) const {
 std::string SshSession::problem() const { return saidByDevice(libssh().ssh_get_error(get())); }
 
 bool SshSession::wait(Clock::time_point deadline) const {
-    const auto left = std::chrono::ceil<std::chrono::milliseconds>(deadline - Clock::now()).count();
-    if (left <= 0) return false;
+    if (Clock::now() >= deadline) return false;
+    if (!isConnected()) return true; // the next step reports it
     const bool isWriting = (libssh().ssh_get_poll_flags(get()) & SSH_WRITE_PENDING) != 0;
-    pollfd event{libssh().ssh_get_fd(get()), short(POLLIN | (isWriting ? POLLOUT : 0)), 0};
-    // The next step reports an error.
-    return !isConnected() || ::poll(&event, 1, int(left)) != 0;
+    return waitForSocket(libssh().ssh_get_fd(get()), short(POLLIN | (isWriting ? POLLOUT : 0)), deadline, timeouts_);
 }
 
 void SshSession::throwNoAnswer() const {

@@ -1,5 +1,6 @@
 #pragma once
 // One SSH connection.
+#include "Components/QLPipe/base/device_storage.h"
 #include "Components/QLPipe/linux_handheld/libssh_library.h"
 #include "Components/QLPipe/linux_handheld/tcp_connection.h"
 #include <string_view>
@@ -48,7 +49,19 @@ private:
     OwnedSession session_;
 };
 
-/// Throws TransferError unless the device's key is known.
+/// The error of a device that is not known yet, with its key.
+struct UnknownHostKey : TransferError {
+    /// "ED25519".
+    std::string kind;
+    /// The name in the key's file name: "ed25519".
+    std::string fileKind;
+    /// "SHA256:" and the hash.
+    std::string fingerprint;
+    /// The line for the known hosts file.
+    std::string line;
+};
+
+/// Throws TransferError unless the device's key is known, UnknownHostKey if none is known for its address.
 void checkHostKey(const SshSession& session);
 
 /// Authenticates the user with the key file, the agent or the default keys. Never asks for a password. Throws

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -47,6 +48,12 @@ struct Bundle {
     std::string device;
     /// Components that must already be on the device.
     std::vector<std::string> references;
+    /// Settings of the project, "" or nothing if not set: 4 characters, bytes, "Portrait" or "Landscape", and the
+    /// command line of the application.
+    std::string creatorId;
+    std::optional<std::int64_t> memoryLimit;
+    std::string orientation;
+    std::string arguments;
     /// Sorted by place.
     std::vector<BundleFile> files;
 

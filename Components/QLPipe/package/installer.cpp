@@ -98,6 +98,18 @@ void install(DeviceStorage& device, Bundle bundle, Progress& progress) {
     removeStaged(device);
 }
 
+std::vector<std::string> applicationsWithCreator(DeviceStorage& device, const std::string& creatorId) {
+    std::vector<std::string> found;
+    for (const auto& name : device.list(kApplicationsFolder)) {
+        try {
+            const auto manifest = device.read(kApplicationsFolder + ("/" + name) + "/" + kManifestName);
+            if (readManifest(manifest).creatorId == creatorId) found.push_back(name);
+        } catch (const TransferError&) {
+        } catch (const ManifestProblem&) {}
+    }
+    return found;
+}
+
 bool hasRuntime(DeviceStorage& device) { return device.exists(kRuntimeFolder + ("/" + std::string{kManifestName})); }
 
 } // namespace qlpipe

@@ -24,4 +24,7 @@ void install(DeviceStorage& device, Bundle bundle, Progress& progress);
 
 bool hasRuntime(DeviceStorage& device);
 
+/// Returns the names of the applications with this creator ID. Applications that cannot be read are left out.
+std::vector<std::string> applicationsWithCreator(DeviceStorage& device, const std::string& creatorId);
+
 } // namespace qlpipe

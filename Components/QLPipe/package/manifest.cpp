@@ -3,6 +3,7 @@
 #include "Components/QLPipe/base/pipe_messages.h"
 #include "Components/QLPipe/base/sha256.h"
 #include "Components/QLPipe/package/bundle.h"
+#include "Components/QLPipe/settings/application_settings.h"
 #include <algorithm>
 #include <nlohmann/json.hpp>
 #include <numeric>
@@ -95,6 +96,35 @@ BundleFile readFile(const Json& entry) {
     return file;
 }
 
+/// Returns "" for a missing member. `problem` refuses values as it does those of a project.
+std::string optionalText(const Json& object, const char* key,
+                         std::string (*problem)(const std::string&, const TargetLimits&)) {
+    if (!object.contains(key)) return {};
+    auto value = text(object, key);
+    if (const auto wrong = problem(value, {}); !wrong.empty()) malformed(std::string{"\""} + key + "\": " + wrong);
+    return value;
+}
+
+std::string exactOrientation(const std::string& value, const TargetLimits&) {
+    const bool isKnown = std::find(kOrientations.begin(), kOrientations.end(), value) != kOrientations.end();
+    return isKnown ? "" : "it must be Portrait or Landscape";
+}
+
+/// Manifests of earlier versions do not have these members.
+void readSettings(const Json& object, Bundle& bundle) {
+    bundle.creatorId = optionalText(object, "creatorId", creatorIdProblem);
+    if (object.contains("memoryLimit")) bundle.memoryLimit = number(object, "memoryLimit", kLargestFile);
+    bundle.orientation = optionalText(object, "orientation", exactOrientation);
+    if (object.contains("arguments")) bundle.arguments = text(object, "arguments");
+}
+
+void writeSettings(const Bundle& bundle, Json& object) {
+    if (!bundle.creatorId.empty()) object["creatorId"] = bundle.creatorId;
+    if (bundle.memoryLimit) object["memoryLimit"] = *bundle.memoryLimit;
+    if (!bundle.orientation.empty()) object["orientation"] = bundle.orientation;
+    if (!bundle.arguments.empty()) object["arguments"] = bundle.arguments;
+}
+
 void readFiles(const Json& object, Bundle& bundle) {
     std::set<std::string, basic::NoCaseLess> places;
     for (const auto& entry : list(object, "files")) {
@@ -116,6 +146,7 @@ void readApplication(const Json& object, Bundle& bundle) {
         if (!reference.is_string()) malformed("a reference is not a string");
         bundle.references.push_back(reference.get<std::string>());
     }
+    readSettings(object, bundle);
 }
 
 Bundle readBundle(const Json& object) {
@@ -178,6 +209,7 @@ std::string writeManifest(const Bundle& bundle) {
     if (!bundle.isRuntime) {
         object["device"] = bundle.device;
         object["references"] = bundle.references;
+        writeSettings(bundle, object);
     }
     object["files"] = filesOf(bundle);
     return object.dump(kIndent, ' ', false, Json::error_handler_t::replace) + "\n";

@@ -1,4 +1,5 @@
 #include "Components/QLPipe/package/project_bundle.h"
+#include "Basic/case_folding.h"
 #include "Components/QLPipe/base/device_names.h"
 #include "Components/QLPipe/base/pipe_messages.h"
 #include <algorithm>
@@ -19,9 +20,25 @@ void addIcon(Bundle& bundle, FileListing& listing, const std::string& path) {
     }
 }
 
+/// Letter case of a value does not matter in a project.
+std::string orientationNamed(const std::string& value) {
+    for (const auto* name : kOrientations)
+        if (basic::equalNoCase(name, value)) return name;
+    return {};
+}
+
+void applySettings(const ApplicationSettings& settings, Bundle& bundle) {
+    if (!settings.Version.empty()) bundle.version = settings.Version;
+    bundle.creatorId = settings.CreatorID;
+    bundle.memoryLimit = memoryLimitBytes(settings.MemoryLimit);
+    bundle.orientation = orientationNamed(settings.Orientation);
+    bundle.arguments = settings.Arguments;
+}
+
 } // namespace
 
-Bundle projectBundle(FileListing& listing, const ApplicationInfo& application, const std::string& device) {
+Bundle projectBundle(FileListing& listing, const ApplicationInfo& application, const std::string& device,
+                     const ApplicationSettings& settings) {
     if (!isSafePart(application.ProjectName))
         throw transferError(kUnsafeName, {{"file", "The project"}, {"name", application.ProjectName}});
     Bundle bundle;
@@ -29,6 +46,7 @@ Bundle projectBundle(FileListing& listing, const ApplicationInfo& application, c
     bundle.displayName = application.DisplayName;
     bundle.version = application.Version;
     bundle.device = device;
+    applySettings(settings, bundle);
     bundle.references = listing.references;
     std::sort(bundle.references.begin(), bundle.references.end());
     for (const auto& file : listing.files) {

@@ -35,3 +35,11 @@ with zipfile.ZipFile("AddressBook.PalmOS-DragonBall.qlpkg") as whole, zipfile.Zi
 END
 run fernwick package --list Fonts.qlpkg
 run fernwick deploy Fonts.qlpkg
+say "What the project sets for its application is in the package."
+rm AddressBook.0000.qlx
+run fernwick settings set AddressBook.vbp PalmOSCreatorID AdBk
+run fernwick settings set AddressBook.vbp PalmOSMemoryLimit 64
+run fernwick package AddressBook.vbp --device PalmOS-DragonBall --yes --quiet
+run fernwick package --list AddressBook.PalmOS-DragonBall.qlpkg
+sed -i 's/^MemoryLimit=64/MemoryLimit=640/' AddressBook.vbp
+run fernwick package AddressBook.vbp --device PalmOS-DragonBall --yes --quiet
