@@ -3,9 +3,12 @@
 #include "Host/files/journal_file.h"
 #include "Host/model/component.h"
 #include "tests/workbench/open_desktop.h"
+#include "tests/workbench/window_words.h"
+#include <QDateTime>
 #include <QDir>
 #include <QDirIterator>
 #include <QListWidget>
+#include <QLocale>
 #include <QProcess>
 #include <csignal>
 #include <filesystem>
@@ -284,6 +287,28 @@ TEST_F(Journals, DiscardMovesItToAFolderThatTheBoxNames) {
     QDirIterator kept(discarded, {"modA.bas"}, QDir::Files, QDirIterator::Subdirectories);
     ASSERT_TRUE(kept.hasNext());
     EXPECT_EQ(host::readFile(kept.next().toStdString()).bytes, moduleText("modA", "' kept\r\n"));
+}
+
+TEST_F(Journals, TheQuestionNamesTheFilesAndWhatHappensToThem) {
+    twoModules().writeTo(folder);
+    auto own = ownEntry("");
+    leave(own);
+    leave(entryOf("' kept\r\n"));
+    auto gone = entryOf("' gone\r\n");
+    gone.file = folder / "gone.bas";
+    gone.base.reset();
+    leave(gone);
+    folder.write("Hello.vbp", twoModules().text() + "[Quinloft Global]\r\n");
+    const auto written = QDateTime::fromSecsSinceEpoch(1700000000);
+    answer([&](QMessageBox& box) {
+        EXPECT_EQ(box.escapeButton()->text(), "&Keep for Later");
+        test::expectWords(
+            box, "recovered",
+            {{QLocale().toString(written, QLocale::ShortFormat).toStdString(), "DATE"}, {folder.path(), "..."}});
+        press(box, "Keep for Later");
+    });
+    bench->connect();
+    waitForBox();
 }
 
 TEST_F(Journals, KeptJournalsAreOfferedWhenTheProjectOpensAgain) {
