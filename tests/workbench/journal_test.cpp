@@ -292,14 +292,16 @@ TEST_F(Journals, DiscardMovesItToAFolderThatTheBoxNames) {
 TEST_F(Journals, TheQuestionNamesTheFilesAndWhatHappensToThem) {
     twoModules().writeTo(folder);
     auto own = ownEntry("");
+    own.written -= 60;
     leave(own);
     leave(entryOf("' kept\r\n"));
     auto gone = entryOf("' gone\r\n");
     gone.file = folder / "gone.bas";
     gone.base.reset();
+    gone.written += 60;
     leave(gone);
     folder.write("Hello.vbp", twoModules().text() + "[Quinloft Global]\r\n");
-    const auto written = QDateTime::fromSecsSinceEpoch(1700000000);
+    const auto written = QDateTime::fromSecsSinceEpoch(gone.written);
     answer([&](QMessageBox& box) {
         EXPECT_EQ(box.escapeButton()->text(), "&Keep for Later");
         test::expectWords(

@@ -158,7 +158,8 @@ private:
     /// What a screen reader says, if the words of the widget are not the same.
     static QString accessibleName(const QWidget& widget) {
         auto* const read = QAccessible::queryAccessibleInterface(const_cast<QWidget*>(&widget));
-        const auto name = read ? read->text(QAccessible::Name) : QString();
+        const bool isNamed = read && !qobject_cast<const QComboBox*>(&widget); // Qt reads the chosen entry
+        const auto name = isNamed ? read->text(QAccessible::Name) : widget.accessibleName();
         const auto words = widget.property("text").toString().remove('&');
         return name.isEmpty() || name == words || name == widget.windowTitle() ? QString() : " read as " + quoted(name);
     }

@@ -1,5 +1,6 @@
 // Every word of the windows, and the names that screen readers use. After a change, run these tests with
 // FERNWICK_APPROVE=1 and read the diff of words/.
+#include "Apps/common/version.h"
 #include "Apps/workbench/base/message_box.h"
 #include "Apps/workbench/project/new_project.h"
 #include "Apps/workbench/project/project_properties.h"
@@ -19,9 +20,9 @@ namespace {
 struct Words : test::OptionsDesktop {
     /// Shows a box and compares it.
     static void expectBox(const std::string& name, const std::function<void()>& show,
-                          const std::string& changing = "...") {
+                          const std::vector<std::pair<std::string, std::string>>& changing = {}) {
         test::whenShown<QMessageBox>([&](QMessageBox& box) {
-            expectWords(box, name, {{changing, "..."}});
+            expectWords(box, name, changing);
             box.reject();
         });
         show();
@@ -87,8 +88,7 @@ TEST_F(Words, OfTheBoxes) {
     expectBox("no_fernwick_project", [&] { showNoFernwickProject("Demo", above); });
     expectBox("not_connected", [&] { showNotConnected(above); });
     expectBox("opened_too_early", [&] { showOpenedTooEarly("Demo", above); });
-    expectBox(
-        "about", [&] { showAbout(above); }, qVersion());
+    expectBox("about", [&] { showAbout(above); }, {{qVersion(), "..."}, {apps::kVersion, "..."}});
     expectBox("trust", [] { askToTrust("/folder", {"make all", "true"}); });
     expectBox("problems", [&] {
         showProblems({{"A.vbp", 0, "One"},
