@@ -6,7 +6,6 @@
 #include "Apps/fernwick/run/interruption.h"
 #include "Basic/printable.h"
 #include "Basic/runtime_error.h"
-#include <csignal>
 #include <cstdio>
 #include <cstring>
 #include <fmt/format.h>
@@ -84,7 +83,6 @@ int main(int argc, char** argv) {
     if (!parsed.output.empty()) return printed(parsed.output);
 
     keepFreedMemory();
-    std::signal(SIGCHLD, SIG_DFL); // a parent that ignores it would hide the exit status of compile steps
     cli::watchForInterrupt();
     cli::Console console{parsed.options.verbosity, parsed.options.color};
     int status = parsed.run ? guarded(parsed, console) : misused(parsed, console);
