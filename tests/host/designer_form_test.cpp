@@ -219,6 +219,15 @@ TEST_F(FormGeometryTest, FrameSizesFollowTheBorderStyle) {
     }
 }
 
+TEST_F(FormGeometryTest, OtherDesignersHaveNoFrame) {
+    for (const auto& [type, frame] : {std::pair("VB.UserControl", 0), std::pair("VB.MDIForm", 120)}) {
+        std::string text = kNewForm;
+        text.replace(text.find("VB.Form"), 7, type);
+        open(text);
+        EXPECT_EQ(get("Width"), real(4680 + frame)) << type;
+    }
+}
+
 TEST_F(FormGeometryTest, AWidthChangesTheClientAndScaleLines) {
     open(kNewForm);
     set("Width", real(2520));

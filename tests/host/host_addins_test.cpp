@@ -123,8 +123,24 @@ TEST(HostAddins, AToolWindowHasADocumentAndIsHidden) {
     EXPECT_FALSE(window->Visible());
     EXPECT_EQ(window->Caption(), "Fernwick Messages");
     EXPECT_EQ(host.ide->Windows()->items().size(), 1u);
+    auto& drawn = *host.ide->toolWindows().list().front();
+    int changes = 0, focuses = 0;
+    const auto changed = drawn.changed.connect([&] { ++changes; });
+    const auto focused = drawn.focused.connect([&] { ++focuses; });
     window->SetFocus();
     EXPECT_TRUE(window->Visible());
+    EXPECT_EQ(std::pair(changes, focuses), std::pair(1, 1));
+    window->SetFocus();
+    window->Visible(true);
+    EXPECT_EQ(std::pair(changes, focuses), std::pair(1, 2)); // it was visible
+    EXPECT_EQ(window->WindowState(), vbide::vbext_ws_Normal);
+    window->WindowState(vbide::vbext_ws_Maximize);
+    window->WindowState(vbide::vbext_ws_Maximize);
+    EXPECT_EQ(window->WindowState(), vbide::vbext_ws_Maximize);
+    EXPECT_EQ(changes, 2);
+    window->Close();
+    EXPECT_FALSE(window->Visible());
+    EXPECT_EQ(std::pair(changes, focuses), std::pair(3, 2));
     const auto refused =
         basic::attempt([&] { host.ide->Windows()->CreateToolWindow(addIn, "None.Such", "", "", document); });
     EXPECT_EQ(refused.Number, 429);
