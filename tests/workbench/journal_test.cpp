@@ -1,4 +1,5 @@
 // Unsaved changes survive the program.
+#include "Apps/workbench/unsaved/discarded_changes.h"
 #include "Apps/workbench/unsaved/journal_folder.h"
 #include "Host/files/journal_file.h"
 #include "Host/model/component.h"
@@ -311,6 +312,33 @@ TEST_F(Journals, TheQuestionNamesTheFilesAndWhatHappensToThem) {
     });
     bench->connect();
     waitForBox();
+}
+
+TEST(DiscardedChanges, AreFilesNamedLikeTheirComponents) {
+    const test::TempFolder folder;
+    const workbench::DiscardedChanges discarded(QString::fromStdString(folder / "journals"));
+    EXPECT_EQ(discarded.folder().toStdString(), folder / "discarded");
+    const auto day = QDateTime(QDate(2026, 3, 4), QTime(5, 6, 7));
+    const auto keep = [&](const std::string& component, int type, const std::string& file) {
+        workbench::Survivor survivor;
+        survivor.entry.project = "/folder/Demo.vbp";
+        survivor.entry.component = component;
+        survivor.entry.type = type;
+        survivor.entry.file = file;
+        survivor.entry.bytes = component;
+        survivor.entry.written = day.toSecsSinceEpoch();
+        survivor.path = QString::fromStdString(folder.write("journal", ""));
+        discarded.keep(survivor);
+        EXPECT_FALSE(QFile::exists(survivor.path));
+    };
+    keep("", 0, "");
+    keep("A", vbide::vbext_ct_StdModule, "");
+    keep("B", vbide::vbext_ct_ClassModule, "");
+    keep("C", vbide::vbext_ct_VBForm, "");
+    for (int i = 0; i < 3; ++i) keep("D", vbide::vbext_ct_VBForm, "/folder/other.frm");
+    QStringList names = QDir(discarded.folder() + "/2026-03-04 050607").entryList(QDir::Files, QDir::Name);
+    EXPECT_EQ(names, QStringList({"2 other.frm", "3 other.frm", "A.bas", "B.cls", "C.frm", "Demo.vbp", "other.frm"}));
+    EXPECT_EQ(folder.read("discarded/2026-03-04 050607/A.bas"), "A");
 }
 
 TEST_F(Journals, KeptJournalsAreOfferedWhenTheProjectOpensAgain) {

@@ -192,6 +192,7 @@ TEST_F(Options, ColourTheCodeOfOneTheme) {
     window().setTheme(Theme::Dark);
     EXPECT_EQ(paperOf(text), QColor("#001020"));
     change([](Dialog& dialog) {
+        EXPECT_EQ(field<QComboBox>(dialog, "coloursOf").currentIndex(), 1);
         turnTo(dialog, kColours);
         test::click(dialog, "defaults");
     });

@@ -206,18 +206,23 @@ private:
     std::string text_;
 };
 
-/// Compares a window with words/`name`.txt, which FERNWICK_APPROVE=1 rewrites. `changing` are texts that differ from run
-/// to run, such as a folder, and what replaces them.
+/// Compares a text with words/`name`.txt, which FERNWICK_APPROVE=1 rewrites.
+inline void expectGolden(const std::string& text, const std::string& name) {
+    const auto path = FERNWICK_SOURCE_DIR "/tests/workbench/words/" + name + ".txt";
+    if (std::getenv("FERNWICK_APPROVE")) std::ofstream(path) << text;
+    std::ostringstream golden;
+    golden << std::ifstream(path).rdbuf();
+    EXPECT_EQ(text, golden.str()) << path;
+}
+
+/// Compares the words of a window. `changing` are texts that differ from run to run, such as a folder, and what replaces
+/// them.
 inline void expectWords(const QWidget& window, const std::string& name,
                         const std::vector<std::pair<std::string, std::string>>& changing = {}) {
     auto words = QString::fromStdString(WindowWords(window).text());
     for (const auto& [text, always] : changing)
         words.replace(QString::fromStdString(text), QString::fromStdString(always));
-    const auto path = FERNWICK_SOURCE_DIR "/tests/workbench/words/" + name + ".txt";
-    if (std::getenv("FERNWICK_APPROVE")) std::ofstream(path) << words.toStdString();
-    std::ostringstream golden;
-    golden << std::ifstream(path).rdbuf();
-    EXPECT_EQ(words.toStdString(), golden.str()) << path;
+    expectGolden(words.toStdString(), name);
 }
 
 } // namespace test

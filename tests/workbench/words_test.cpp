@@ -50,6 +50,14 @@ TEST_F(Words, OfTheOptions) {
     });
 }
 
+TEST_F(Words, OfTheColoursInTheDark) {
+    window().setTheme(workbench::Theme::Dark);
+    edit([](Dialog& dialog) {
+        expectWords(dialog.colours(), "colours_in_the_dark");
+        test::click(dialog, "cancel");
+    });
+}
+
 TEST_F(Words, OfTheDialogForANewProject) {
     workbench::NewProjectDialog dialog({{"Standard EXE", ""}, {"Fernwick Project", "F.vbp"}, {"Other", "O.vbp"}},
                                        nullptr);
