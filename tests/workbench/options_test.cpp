@@ -185,6 +185,7 @@ TEST_F(Options, ColourTheCodeOfOneTheme) {
         setColour(dialog, "background", "#fff8e0");
         setColour(dialog, "keywords", "#800000");
         field<QComboBox>(dialog, "coloursOf").setCurrentIndex(1);
+        EXPECT_EQ(field<QToolButton>(dialog, "background").toolTip(), "#1e1f22"); // that of the dark theme
         setColour(dialog, "background", "#001020");
     });
     EXPECT_EQ(paperOf(text), QColor("#fff8e0"));

@@ -167,7 +167,9 @@ TEST_F(Tables, Colours) {
         rows += fmt::format("{} {} {}\n", workbench::formColourText(value).toStdString(),
                             workbench::formColour(value).name().toStdString(), name.toStdString());
     test::expectGolden(rows, "colours");
-    EXPECT_EQ(workbench::formColour(std::int32_t(0x80000019)), QColor(Qt::black)); // after the last
+    EXPECT_TRUE(workbench::formColourOf("&H80000018&"));
+    EXPECT_FALSE(workbench::formColourOf("&H80000019&")); // after the last
+    EXPECT_EQ(workbench::formColour(std::int32_t(0x80000019)), QColor(Qt::black));
 }
 
 TEST_F(Tables, Menus) {
@@ -232,6 +234,7 @@ TEST_F(Tables, DrawnShapes) {
         {"ComctlLib.ProgressBar", "Orientation = 1"},
         {"ComctlLib.Slider", "Orientation = 1\nMax = 10"},
         {"ComCtl2.UpDown", "Orientation = 1"},
+        {"TabDlg.SSTab", "Tabs = 2\nTab = 1\nTabHeight = 300\nTabCaption(0) = \"a\"\nTabCaption(1) = \"b\""},
         {"ComctlLib.StatusBar", "Style = 1\nSimpleText = \"text\""}};
     std::string lines;
     int number = 0;

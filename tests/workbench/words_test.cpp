@@ -110,6 +110,17 @@ TEST_F(Words, OfTheBoxes) {
     expectBox("no_program", [&] { showWithoutBrowser("/folder/a.pdf", above); });
 }
 
+TEST_F(Words, OfAPageWithoutABrowser) {
+    for (const auto& [name, page] :
+         {std::pair("page", "<title>A title</title>"), std::pair("page_without_title", "<p>x")}) {
+        workbench::showWithoutBrowser(QString::fromStdString(folder.write("Help.html", page)), &window());
+        const std::unique_ptr<QDialog> shown(window().findChild<QDialog*>("pageWindow"));
+        ASSERT_TRUE(shown);
+        EXPECT_EQ(shown->size(), QSize(720, 560));
+        expectWords(*shown, name);
+    }
+}
+
 TEST_F(Words, OfTheQuestionsAboutOutsideChanges) {
     openModule();
     const auto module = component("modA");
