@@ -107,6 +107,15 @@ TEST(HostAddins, ClosingRemovesTheProjectsFirst) {
     EXPECT_EQ(calls, (Calls{"connection 1 0", "connected", "removed", "disconnection 0"}));
 }
 
+TEST(HostAddins, WithoutClassesNoToolWindowIsCreated) {
+    TestHost host;
+    host.ide->listAddIn("QLVBAddIn.Connect", "", [] { return basic::make<FailingAddIn>(); });
+    const auto addIn = host.ide->Addins()->Item("QLVBAddIn.Connect");
+    Ref<vbide::Object> document;
+    EXPECT_EQ(errorOf([&] { host.ide->Windows()->CreateToolWindow(addIn, "Any", "", "", document); }), 429);
+    EXPECT_TRUE(host.ide->Windows()->items().empty());
+}
+
 TEST(HostAddins, AToolWindowHasADocumentAndIsHidden) {
     DocumentClasses classes;
     TestHost host(&classes);
