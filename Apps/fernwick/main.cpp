@@ -61,7 +61,9 @@ int guarded(const cli::Parsed& parsed, cli::Console& console) {
 
 /// Prints to standard output and returns the exit status.
 int printed(const std::string& text) {
-    const bool good = std::fputs(text.c_str(), stdout) >= 0 && std::fflush(stdout) == 0;
+    std::fputs(text.c_str(), stdout);
+    std::fflush(stdout);
+    const bool good = std::ferror(stdout) == 0;
     if (!good) std::fputs("fernwick: standard output could not be written\n", stderr);
     return good ? cli::kGood : cli::kMachineTrouble;
 }
