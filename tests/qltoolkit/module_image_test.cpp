@@ -129,3 +129,13 @@ TEST(ModuleImage, HasTheMembersOfAModule) {
                                                     image::Member{MemberKind::PropertyLet, true, "Three", 13, 1},
                                                     image::Member{MemberKind::PropertySet, true, "Four", 15, 1}));
 }
+
+TEST(ModuleImage, HasTheNameOfItsOwnAttribute) {
+    const dump::Parsed parsed{"Attribute VB_Description = \"No\"\r\nAttribute a.VB_Name = \"Wrong\"\r\n"
+                              "Attribute VB_Name = \"Right\"\r\nDim a\r\n"};
+    ASSERT_TRUE(parsed.result.module);
+    EXPECT_EQ(moduleName(*parsed.result.module, parsed.symbols), "Right");
+    const dump::Parsed nameless{"Dim a\r\nConst b = \"VB_Name\"\r\n"};
+    ASSERT_TRUE(nameless.result.module);
+    EXPECT_EQ(moduleName(*nameless.result.module, nameless.symbols), "");
+}
