@@ -21,7 +21,8 @@ void clsDeviceConfig::ReadDeviceConfig(const std::string& newDeviceKey) {
     std::int32_t position = 0;
     if (here.test([&] { return !manager->FindDesignTarget(DeviceKey, position); })) return;
     basic::Ref<IQLDesignTarget> target;
-    if (here.test([&] { return !manager->GetDesignTarget(DeviceKey, target); }) || !target) return;
+    here([&] { manager->GetDesignTarget(DeviceKey, target); });
+    if (!target) return;
 
     readFields(here, *target);
     ReadSupportedTavlets(*target);

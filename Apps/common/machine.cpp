@@ -3,6 +3,7 @@
 #include "Apps/common/maker.h"
 #include "Components/DesignTargetAccess/design_target_mgr.h"
 #include "Components/QLPipe/pipe_family.h"
+#include <csignal>
 
 namespace apps {
 
@@ -51,6 +52,7 @@ Machine::Machine(FrontEnd front)
                 clock_,
                 resources_,
                 appOf(installation_, programFolder())} {
+    std::signal(SIGCHLD, SIG_DFL); // a parent that ignores it would hide the exit status of compile steps
     registerComponents();
 }
 

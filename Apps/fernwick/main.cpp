@@ -6,7 +6,6 @@
 #include "Apps/fernwick/run/interruption.h"
 #include "Basic/printable.h"
 #include "Basic/runtime_error.h"
-#include <csignal>
 #include <cstdio>
 #include <cstring>
 #include <fmt/format.h>
@@ -62,7 +61,9 @@ int guarded(const cli::Parsed& parsed, cli::Console& console) {
 
 /// Prints to standard output and returns the exit status.
 int printed(const std::string& text) {
-    const bool good = std::fputs(text.c_str(), stdout) >= 0 && std::fflush(stdout) == 0;
+    std::fputs(text.c_str(), stdout);
+    std::fflush(stdout);
+    const bool good = std::ferror(stdout) == 0;
     if (!good) std::fputs("fernwick: standard output could not be written\n", stderr);
     return good ? cli::kGood : cli::kMachineTrouble;
 }
@@ -84,7 +85,6 @@ int main(int argc, char** argv) {
     if (!parsed.output.empty()) return printed(parsed.output);
 
     keepFreedMemory();
-    std::signal(SIGCHLD, SIG_DFL); // a parent that ignores it would hide the exit status of compile steps
     cli::watchForInterrupt();
     cli::Console console{parsed.options.verbosity, parsed.options.color};
     int status = parsed.run ? guarded(parsed, console) : misused(parsed, console);

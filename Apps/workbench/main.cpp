@@ -1,23 +1,16 @@
-#include "Apps/common/version.h"
 #include "Apps/workbench/base/application_name.h"
 #include "Apps/workbench/base/display_guard.h"
-#include "Apps/workbench/base/drawn_icons.h"
 #include "Apps/workbench/window/workbench.h"
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QIcon>
-#include <csignal>
-#include <optional>
+#include <QTimer>
 
 int main(int argc, char** argv) {
-    std::signal(SIGCHLD, SIG_DFL); // some parents ignore it, which would hide the exit status of compile steps
-    std::optional<workbench::DisplayGuard> guard(std::in_place);
-    QApplication app(argc, argv);
-    guard.reset();
+    const auto app = [&] {
+        const workbench::DisplayGuard guard;
+        return QApplication(argc, argv);
+    }();
     workbench::nameApplication();
-    QApplication::setApplicationVersion(apps::kVersion);
-    QApplication::setDesktopFileName("fernwick-workbench");
-    QApplication::setWindowIcon(QIcon::fromTheme("fernwick-workbench", workbench::drawnIcon("Project")));
 
     QCommandLineParser options;
     options.setApplicationDescription("Turns Visual Basic 6 projects into applications for handhelds.");

@@ -1,16 +1,14 @@
 #pragma once
 // An error in a design target file.
-#include <exception>
 #include <string>
 #include <utility>
 
 namespace designtargetaccess {
 
 /// Thrown while reading a file and stored in the manager's list. Never leaves the component.
-struct TargetProblem : std::exception {
+struct TargetProblem {
     TargetProblem(std::string inFile, std::size_t atLine, std::string why)
         : file(std::move(inFile)), line(atLine), reason(std::move(why)) {}
-    const char* what() const noexcept override { return reason.c_str(); }
     /// Returns "file:line: reason", or "file: reason" without a line.
     std::string text() const;
 

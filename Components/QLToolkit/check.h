@@ -2,6 +2,7 @@
 // Checks one file and discards its tree.
 #include "Components/QLToolkit/parser/parse.h"
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace qltoolkit {
@@ -16,8 +17,7 @@ struct CheckResult {
 [[nodiscard]] CheckResult checkSource(std::string name, std::string bytes, const ConditionalConstants& constants = {},
                                       const basic::CodePage& = basic::CodePage::windows1252());
 
-/// Checks a file on disk. A file that is missing, unreadable or a folder is reported as a diagnostic, too.
-[[nodiscard]] CheckResult checkFile(const std::string& path, const ConditionalConstants& constants = {},
-                                    const basic::CodePage& = basic::CodePage::windows1252());
+/// The result for a file that could not be read for this reason.
+[[nodiscard]] CheckResult failedRead(const std::string& path, std::string_view reason);
 
 } // namespace qltoolkit

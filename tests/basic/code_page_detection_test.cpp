@@ -96,6 +96,8 @@ TEST(CodePageDetection, AFewCharactersAreEnoughOnlyInNames) {
     EXPECT_EQ(pageOf("Private Sub 計算_Click()\r\n", 950), 950);
     EXPECT_EQ(pageOf("MsgBox \"計算\"\r\n", 950), 1252);
     EXPECT_EQ(pageOf("' 確認\r\n", 932), 1252);
+    EXPECT_EQ(pageOf("' 計算\r\n", 950), 1252);
+    EXPECT_EQ(pageOf("a = \"it's\": 計算 = 1\r\n", 950), 950);
 }
 
 TEST(CodePageDetection, WesternTextStaysWestern) {
@@ -135,6 +137,7 @@ TEST(CodePageDetection, TheCharsetOfFormsDecidesBeforeText) {
         << "the majority";
     EXPECT_EQ(detected({formWith(fontWith(0) + fontWith(2) + fontWith(255))}).page.number(), 1252);
     EXPECT_EQ(detected({formWith("") + "Charset = 134\r\n"}).page.number(), 1252) << "only in the form's head";
+    EXPECT_EQ(detected({fontWith(134)}).page.number(), 1252) << "only in forms";
 }
 
 TEST(CodePageDetection, ACharsetInWhichTheTextDoesNotDecodeIsIgnored) {

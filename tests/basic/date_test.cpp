@@ -46,6 +46,18 @@ TEST(Dates, AreParsedAndFormatted) {
     EXPECT_EQ(CLng(CDate("1/5/2003")), 37626);
 }
 
+TEST(Dates, EachMonthIsReadByItsNameOrThreeLetters) {
+    const std::string months[] = {"January", "February", "March",     "April",   "May",      "June",
+                                  "July",    "August",   "September", "October", "November", "December"};
+    int number = 0;
+    for (const auto& month : months) {
+        const auto date = std::to_string(++number) + "/5/1999";
+        EXPECT_EQ(CStr(CDate(month + " 5, 1999")), date);
+        EXPECT_EQ(CStr(CDate("5-" + month.substr(0, 3) + "-1999")), date);
+        EXPECT_EQ(attempt([&] { CDate(month.substr(0, 2) + " 5, 1999"); }).Number, 13) << month;
+    }
+}
+
 TEST(Dates, OtherTextsAreError13) {
     for (const std::string bad : {"",           " ",           "abc",
                                   "1",          "37626",       "1/5",

@@ -177,6 +177,33 @@ class Doctor(unittest.TestCase):
         self.home.run("bash", "-c", found["cure"].replace("fernwick", str(self.program), 1), check=True)
         self.assertEqual(self.troubles(), [])
 
+    def test_finds_the_installation_through_its_stored_folder(self):
+        moved = self.home.work / "moved"
+        self.installed.rename(moved)
+        self.assertEqual(self.finding("installation")[:2],
+                         ("trouble", "was not found beside the program or through RootDir"))
+        self.home.run(self.program, "registry", "set", r"HKEY_LOCAL_MACHINE\Software\Quinloft", "RootDir", moved, check=True)
+        self.assertEqual(self.finding("installation"), ("good", str(moved), None))
+        self.assertIn("PalmOS-DragonBall", self.home.run(self.program, "targets", check=True).stdout)
+        gone = self.home.work / "gone"
+        moved.rename(gone)
+        self.assertEqual(self.finding("installation")[:2], ("trouble", f"{moved} does not exist"))
+
+    def test_describes_the_runtime_of_a_device(self):
+        subject = "device PalmOS-DragonBall"
+        place = self.home.work / "devices"
+        self.home.env["FERNWICK_DEVICES"] = str(place)
+        self.home.run(self.program, "devices", "add", "PalmOS-DragonBall", check=True)
+        state, detail, cure = self.finding(subject)
+        self.assertRegex(detail, r"^.*/PalmOS-DragonBall, [\d.]+ [KMGT]B free, no runtime$")
+        self.assertEqual((state, cure), ("warning", "fernwick install-runtime --device PalmOS-DragonBall"))
+        self.home.run("bash", "-c", cure.replace("fernwick", str(self.program), 1), check=True)
+        state, detail, cure = self.finding(subject)
+        self.assertRegex(detail, r"free, runtime 3\.5\.0 \(0624\)$")
+        self.assertEqual((state, cure), ("good", None))
+        next(place.rglob("runtime/manifest*")).write_text("broken")
+        self.assertRegex(self.finding(subject)[1], r"free, runtime damaged: \S")
+
     def test_survives_a_damaged_list_of_devices(self):
         self.home.run(self.program, "registry", "set", DEVICES_KEY, "MyDeviceCount", "many", check=True)
         self.examine()

@@ -54,6 +54,20 @@ class Workbench(unittest.TestCase):
             self.assertEqual((done.returncode, done.stdout), (3, ""), done.stderr)
             self.assertIn("there is no display or it cannot be reached", done.stderr)
 
+    @unittest.skipUnless(DESKTOP.exists(), "the desktop is not built")
+    def test_the_desktop_describes_its_command_line(self):
+        def printed(option):
+            return subprocess.run([DESKTOP, option], capture_output=True, text=True, timeout=60, check=True,
+                                  env=os.environ | {"QT_QPA_PLATFORM": "offscreen", "HOME": str(self.folder)}).stdout
+        version = subprocess.run([PROGRAM, "--version"], capture_output=True, text=True, check=True).stdout.split()[1]
+        self.assertEqual(printed("--version"), f"workbench {version}\n")
+        help_text = printed("--help")
+        self.assertTrue(help_text.startswith(f"Usage: {DESKTOP} [options] [PROJECT...]\n"
+                                             "Turns Visual Basic 6 projects into applications for handhelds.\n"), help_text)
+        self.assertIn("\n  -h, --help ", help_text)
+        self.assertTrue(help_text.endswith("\nArguments:\n  PROJECT        the project or group to open\n"), help_text)
+
+
 
 if __name__ == "__main__":
     unittest.main()

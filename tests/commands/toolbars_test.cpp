@@ -64,6 +64,25 @@ TEST_F(Toolbars, TheSupportToolbarHasAButtonForEachUtility) {
     EXPECT_EQ(items.gToolWGConfig->ToolTipText(), "&Weirgate Configuration");
 }
 
+TEST_F(Toolbars, EnablingReportsItsErrorsAndDisablingIgnoresThem) {
+    toolbars.SetupQuinloftToolbar();
+    toolbars.SetupSupportToolbar();
+    const auto failing = [this](const std::function<void()>& act) {
+        errors.seen.clear();
+        trace.calls = 0;
+        trace.failing = 1;
+        act();
+        trace.failing = 0;
+        return errors.seen;
+    };
+    EXPECT_THAT(failing([&] { toolbars.EnableQuinloftToolbar(); }),
+                ElementsAre("modToolbarManagement.EnableQuinloftToolbar [50000]"));
+    EXPECT_THAT(failing([&] { toolbars.EnableSupportToolbar(); }),
+                ElementsAre("modToolbarManagement.EnableSupportToolbar [50000]"));
+    EXPECT_THAT(failing([&] { toolbars.DisableQuinloftToolbar(); }), IsEmpty());
+    EXPECT_THAT(failing([&] { toolbars.DisableSupportToolbar(); }), IsEmpty());
+}
+
 TEST_F(Toolbars, ReplaceOnesLeftByACrash) {
     bars->addBar("Fernwick")->left = 99;
     const auto effects = effectsOf([&] { toolbars.SetupQuinloftToolbar(); });

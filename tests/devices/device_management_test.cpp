@@ -94,6 +94,41 @@ TEST_F(DeviceManagement, AcceleratorsAreStripped) {
     EXPECT_EQ(modDeviceManagement::StripAcceleratorInfo("&&"), "");
 }
 
+TEST_F(DeviceManagement, AnErrorBeforeTheFirstValidationIsReported) {
+    addTarget("A");
+    addTarget("B");
+    targets->failingIndex = 0;
+    EXPECT_EQ(devices.CreateValidDesignTargetList(true), Texts{});
+    EXPECT_EQ(reports(), Texts{"modDeviceManagement.CreateValidDesignTargetList [70]"});
+}
+
+TEST_F(DeviceManagement, AnErrorAfterTheFirstValidationIsNot) {
+    addTarget("A");
+    addTarget("B");
+    addTarget("C");
+    targets->failingIndex = 1;
+    EXPECT_EQ(devices.CreateValidDesignTargetList(true), (Texts{"A", "C"}));
+    EXPECT_EQ(reports(), Texts{});
+}
+
+TEST_F(DeviceManagement, ATargetThatIsFoundButCannotBeHadIsNotValid) {
+    targets->found = {"A"};
+    EXPECT_FALSE(devices.IsValidDevice("A"));
+    EXPECT_EQ(reports(), Texts{});
+}
+
+TEST_F(DeviceManagement, EachQuestionReportsItsErrors) {
+    addTarget("A");
+    EXPECT_EQ(devices.GetNumDesignTargets(), 1);
+    targets->countFails = targets->keysFail = true;
+    EXPECT_EQ(devices.GetNumDesignTargets(), 0);
+    EXPECT_EQ(devices.GetPipeNameForDevice("A"), "");
+    EXPECT_EQ(devices.GetDeviceName("A"), "");
+    EXPECT_EQ(reports(),
+              (Texts{"modDeviceManagement.GetNumDesignTargets [70]", "modDeviceManagement.GetPipeNameForDevice [70]",
+                     "modDeviceManagement.GetDeviceName [70]"}));
+}
+
 TEST_F(DeviceManagement, AFailureOfThePlatformIsReportedAtMostOnce) {
     addTarget("A");
     addTarget("B");

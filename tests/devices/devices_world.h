@@ -2,6 +2,7 @@
 // Design targets, classes and type libraries defined by the test.
 #include "tests/support/add_in_world.h"
 #include "tests/support/scripted_user.h"
+#include <set>
 
 namespace test {
 
@@ -49,20 +50,30 @@ struct ListedTarget : designtargetaccess::IQLDesignTarget {
 struct ListedTargets : designtargetaccess::IQLDesignTargetMgr {
     std::vector<basic::Ref<ListedTarget>> list;
     int initialized = 0;
+    /// The index whose target cannot be had, and whether counting fails and questions for a key.
+    int failingIndex = -1;
+    bool countFails = false, keysFail = false;
 
-    std::int32_t Count() const override { return std::int32_t(list.size()); }
+    std::int32_t Count() const override {
+        if (countFails) throw basic::RuntimeError(70);
+        return std::int32_t(list.size());
+    }
     void Initialize() override { ++initialized; }
     bool GetDesignTarget(const std::string& key,
                          basic::Ref<designtargetaccess::IQLDesignTarget>& target) const override {
+        if (keysFail) throw basic::RuntimeError(70);
         for (const auto& candidate : list)
             if (candidate && candidate->key == key) target = candidate;
         return bool(target);
     }
     bool FindDesignTarget(const std::string& key, std::int32_t&) const override {
         basic::Ref<designtargetaccess::IQLDesignTarget> target;
-        return GetDesignTarget(key, target);
+        return found.contains(key) || GetDesignTarget(key, target);
     }
+    /// Keys that are found although they have no target.
+    std::set<std::string> found;
     basic::Ref<designtargetaccess::IQLDesignTarget> GetDesignTargetByIndex(std::int16_t index) const override {
+        if (index == failingIndex) throw basic::RuntimeError(70);
         return list.at(std::size_t(index));
     }
 };

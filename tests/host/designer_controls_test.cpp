@@ -165,6 +165,12 @@ TEST_F(Controls, AreAddedInFrontAndReported) {
 +    End
 )");
     EXPECT_THAT(names({all()->Add("VB.CommandButton")}), ElementsAre("Command2"));
+    std::vector<std::string> given;
+    for (const auto* name : {"Label", "Frame", "TextBox", "CheckBox", "OptionButton", "ComboBox", "ListBox",
+                             "PictureBox", "HScrollBar", "VScrollBar", "DriveListBox", "DirListBox", "FileListBox"})
+        given.push_back(names({all()->Add(std::string("VB.") + name)}).front());
+    EXPECT_THAT(given, ElementsAre("Label1", "Frame1", "Text1", "Check1", "Option1", "Combo1", "List1", "Picture1",
+                                   "HScroll1", "VScroll1", "Drive1", "Dir1", "File1"));
     EXPECT_EQ(basic::attempt([&] { all()->Add("Nonsense"); }).Number, 429);
     EXPECT_EQ(basic::attempt([&] { all()->Add("VB.X\r\nEnd"); }).Number, 429);
 }

@@ -219,6 +219,30 @@ TEST_F(FormGeometryTest, FrameSizesFollowTheBorderStyle) {
     }
 }
 
+TEST_F(FormGeometryTest, EachScaleModeHasItsUnits) {
+    struct {
+        int mode;
+        const char *width, *height;
+    } const cases[] = {{1, "4680", "3195"},    {2, "234", "159.75"},   {3, "312", "213"},    {4, "39", "13.312"},
+                       {5, "3.25", "2.21875"}, {6, "82.55", "56.356"}, {7, "8.255", "5.636"}};
+    for (const auto& [mode, width, height] : cases) {
+        open(kNewForm);
+        set("ScaleMode", number(mode == 1 ? 3 : 1));
+        set("ScaleMode", number(mode));
+        EXPECT_THAT(file->text(), HasSubstr(std::string("ScaleWidth      =   ") + width)) << mode;
+        EXPECT_THAT(file->text(), HasSubstr(std::string("ScaleHeight     =   ") + height)) << mode;
+    }
+}
+
+TEST_F(FormGeometryTest, OtherDesignersHaveNoFrame) {
+    for (const auto& [type, frame] : {std::pair("VB.UserControl", 0), std::pair("VB.MDIForm", 120)}) {
+        std::string text = kNewForm;
+        text.replace(text.find("VB.Form"), 7, type);
+        open(text);
+        EXPECT_EQ(get("Width"), real(4680 + frame)) << type;
+    }
+}
+
 TEST_F(FormGeometryTest, AWidthChangesTheClientAndScaleLines) {
     open(kNewForm);
     set("Width", real(2520));

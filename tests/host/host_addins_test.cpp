@@ -140,6 +140,15 @@ TEST(HostAddins, ClosingRemovesTheProjectsFirst) {
     EXPECT_EQ(calls, (Calls{"connection 1 0", "connected", "update", "removed", "disconnection 0"}));
 }
 
+TEST(HostAddins, WithoutClassesNoToolWindowIsCreated) {
+    TestHost host;
+    host.ide->listAddIn("QLVBAddIn.Connect", "", [] { return basic::make<FailingAddIn>(); });
+    const auto addIn = host.ide->Addins()->Item("QLVBAddIn.Connect");
+    Ref<vbide::Object> document;
+    EXPECT_EQ(errorOf([&] { host.ide->Windows()->CreateToolWindow(addIn, "Any", "", "", document); }), 429);
+    EXPECT_TRUE(host.ide->Windows()->items().empty());
+}
+
 TEST(HostAddins, AToolWindowHasADocumentAndIsHidden) {
     DocumentClasses classes;
     TestHost host(&classes);
@@ -156,8 +165,24 @@ TEST(HostAddins, AToolWindowHasADocumentAndIsHidden) {
     EXPECT_FALSE(window->Visible());
     EXPECT_EQ(window->Caption(), "Fernwick Messages");
     EXPECT_EQ(host.ide->Windows()->items().size(), 1u);
+    auto& drawn = *host.ide->toolWindows().list().front();
+    int changes = 0, focuses = 0;
+    const auto changed = drawn.changed.connect([&] { ++changes; });
+    const auto focused = drawn.focused.connect([&] { ++focuses; });
     window->SetFocus();
     EXPECT_TRUE(window->Visible());
+    EXPECT_EQ(std::pair(changes, focuses), std::pair(1, 1));
+    window->SetFocus();
+    window->Visible(true);
+    EXPECT_EQ(std::pair(changes, focuses), std::pair(1, 2)); // it was visible
+    EXPECT_EQ(window->WindowState(), vbide::vbext_ws_Normal);
+    window->WindowState(vbide::vbext_ws_Maximize);
+    window->WindowState(vbide::vbext_ws_Maximize);
+    EXPECT_EQ(window->WindowState(), vbide::vbext_ws_Maximize);
+    EXPECT_EQ(changes, 2);
+    window->Close();
+    EXPECT_FALSE(window->Visible());
+    EXPECT_EQ(std::pair(changes, focuses), std::pair(3, 2));
     const auto refused =
         basic::attempt([&] { host.ide->Windows()->CreateToolWindow(addIn, "None.Such", "", "", document); });
     EXPECT_EQ(refused.Number, 429);

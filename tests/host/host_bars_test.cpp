@@ -52,6 +52,41 @@ TEST(HostBars, ANewMenuIsInsertedBeforeAddIns) {
     EXPECT_EQ(errorOf([&] { bar->Controls()->Add(office::msoControlButton, 99); }), 5);
 }
 
+TEST(HostBars, EachMemberOfADeletedControlIsAnError) {
+    TestHost host;
+    const auto bar = host.ide->CommandBars()->ActiveMenuBar();
+    const auto item = bar->Controls()->Add(office::msoControlPopup)->Controls()->Add();
+    item->Delete();
+    const std::function<void()> members[] = {[&] { item->Id(); },
+                                             [&] { item->Index(); },
+                                             [&] { item->Type(); },
+                                             [&] { item->Caption(); },
+                                             [&] { item->Caption("x"); },
+                                             [&] { item->Tag(); },
+                                             [&] { item->Tag("x"); },
+                                             [&] { item->ToolTipText(); },
+                                             [&] { item->ToolTipText("x"); },
+                                             [&] { item->BeginGroup(); },
+                                             [&] { item->BeginGroup(true); },
+                                             [&] { item->Enabled(); },
+                                             [&] { item->Enabled(true); },
+                                             [&] { item->Visible(); },
+                                             [&] { item->Visible(true); },
+                                             [&] { item->Style(); },
+                                             [&] { item->Style(office::msoButtonIcon); },
+                                             [&] { item->PasteFace(); },
+                                             [&] { item->Parent(); },
+                                             [&] { item->Controls(); },
+                                             [&] { item->Delete(); },
+                                             [&] { item->Execute(); }};
+    int member = 0;
+    for (const auto& use : members) {
+        const auto failed = basic::attempt(use);
+        EXPECT_EQ(failed.Number, basic::kAutomationError) << member;
+        EXPECT_EQ(failed.Description, "The object invoked has disconnected from its clients") << member++;
+    }
+}
+
 TEST(HostBars, APopupOfAnAddInIsNotFoundByName) { // a toolbar may have the same name
     TestHost host;
     const auto bars = host.ide->CommandBars();

@@ -1,4 +1,5 @@
 #include "Host/model/project.h"
+#include "Host/model/references/type_libraries.h"
 #include "tests/support/test_host.h"
 
 using test::errorOf;
@@ -35,6 +36,36 @@ TEST(HostReferences, BuiltInLibrariesAreFirst) {
     EXPECT_EQ(errorOf([&] { references->Item(0); }), 9);
     EXPECT_EQ(errorOf([&] { references->Item(4); }), 9);
     EXPECT_EQ(errorOf([&] { references->Remove(references->Item(1)); }), 5);
+}
+
+TEST(HostReferences, BuiltInLibrariesHaveTheirIdentifiers) {
+    TestHost host;
+    std::string rows;
+    for (const auto& one : host.open(SampleProject())->References()->items())
+        rows += one->Name() + " " + one->Guid() + " " + std::to_string(one->Major()) + "." +
+                std::to_string(one->Minor()) + " " + one->FullPath() + " " + one->Description() + "\n";
+    EXPECT_EQ(rows, "VBA {000204EF-0000-0000-C000-000000000046} 6.0 MSVBVM60.DLL Visual Basic For Applications\n"
+                    "VBRUN {EA544A21-C82D-11D1-A3E4-00A0C90AEA82} 6.0 MSVBVM60.DLL\\3 "
+                    "Visual Basic runtime objects and procedures\n"
+                    "VB {FCFB3D2E-A0FA-1068-A738-08002B3371B5} 6.0 VB6.OLB Visual Basic objects and procedures\n");
+}
+
+TEST(HostReferences, EachMemberOfARemovedOneIsAnError) {
+    TestHost host;
+    const auto project = host.open(SampleProject().member(kStdOleLine));
+    const auto removed = firstOwn(project);
+    project->References()->Remove(removed);
+    const std::function<void()> members[] = {[&] { removed->Name(); },     [&] { removed->Guid(); },
+                                             [&] { removed->Major(); },    [&] { removed->Minor(); },
+                                             [&] { removed->FullPath(); }, [&] { removed->Description(); },
+                                             [&] { removed->BuiltIn(); },  [&] { removed->IsBroken(); }};
+    for (const auto& use : members) EXPECT_EQ(errorOf(use), basic::kAutomationError);
+}
+
+TEST(HostReferences, WithoutARegistryNoLibraryIsKnown) {
+    const host::TypeLibraries none(nullptr);
+    EXPECT_FALSE(none.ofProgId("Excel.Sheet"));
+    EXPECT_FALSE(none.find(kThing, 1, 0));
 }
 
 TEST(HostReferences, HaveTheValuesOfTheirLines) {

@@ -1,3 +1,4 @@
+#include "Host/registry/reg_status.h"
 #include "Host/registry/registry_store.h"
 #include "tests/host_system/temp_folder.h"
 #include <algorithm>
@@ -341,4 +342,26 @@ TEST_F(RegistryFunctions, TheUsersFolderIsPrivateAndTheStoreHasTheRightsOfItsFol
     create(HKEY_LOCAL_MACHINE, "A");
     ASSERT_EQ(::stat((folder / "machine/machine.sqlite").c_str(), &state), 0);
     EXPECT_EQ(state.st_mode & 0777u, 0664u);
+}
+
+TEST(RegStatus, IsDescribed) {
+    using enum host::RegStatus;
+    const std::pair<host::RegStatus, const char*> texts[] = {
+        {Success, "success"},
+        {NotFound, "there is no such key or value"},
+        {AccessDenied, "access is denied"},
+        {InvalidHandle, "the key is not open"},
+        {OutOfMemory, "the data are too large"},
+        {InvalidParameter, "a name or its length is not allowed"},
+        {DiskFull, "the disk is full"},
+        {BadPathname, "a key's path does not begin with a backslash"},
+        {Busy, "another process keeps the store locked"},
+        {MoreData, "there is more data"},
+        {NoMoreItems, "there are no more items"},
+        {Corrupt, "the store's file is damaged"},
+        {IoFailed, "the store's file could not be read or written"},
+        {NotRegistryFile, "the store's file is not a registry store, or one of a later version"},
+        {KeyDeleted, "the key has been deleted"},
+        {host::RegStatus(4711), "status 4711"}};
+    for (const auto& [status, text] : texts) EXPECT_EQ(host::describe(status), text);
 }

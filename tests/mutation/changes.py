@@ -16,7 +16,8 @@ RULES = [
     (r"(?<![\w.'])0(?![\w.'])", "1"), (r"(?<![\w.'])1(?![\w.'])", "2"),
     (r"(?<=if \()(?=[^;\n]*\) )", "false && "),
     (r"(?<=\n)(?: {4,})(?!return\b|throw\b|break\b|continue\b|using\b)[\w.:>\-]+\([^\n]*\);(?=\n)", "    ;"),
-    (r"(?<=\breturn )(?!\{\};)[^;\n]+(?=;)", "{}"),
+    # These values are what {} means anyway.
+    (r"(?<=\breturn )(?!(?:\{\}|false|nullptr|0|std::nullopt);)[^;\n]+(?=;)", "{}"),
 ]
 # Most fields are set before they are read, and a pure function has no other value.
 INITIAL_VALUE = re.compile(r"(?!.*\bconstexpr\b).*= [^;]*;")

@@ -21,6 +21,10 @@ class Changes(unittest.TestCase):
         self.assertIn("{\n    ;\n}\n", results("{\n    store.remove(key);\n}\n"))
         self.assertEqual(results("{\n    return;\n}\n"), set())
 
+    def test_a_return_of_nothing_stays(self):
+        self.assertEqual(results("bool f() { return false; }\n"), {"bool f() { return true; }\n"})
+        self.assertEqual(results("int* f() { return nullptr; }\n"), set())
+
     def test_texts_get_another_ending(self):
         self.assertEqual(results('show("Refer to it")'), {'show("Refer to it~")'})
 

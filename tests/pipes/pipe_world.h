@@ -12,6 +12,7 @@
 #include "tests/support/temp_folder.h"
 #include <algorithm>
 #include <functional>
+#include <gtest/gtest.h>
 #include <map>
 #include <string>
 
@@ -33,6 +34,7 @@ public:
 class RecordingSink : public qlpipe::IQLPipeEvents {
 public:
     void SendProgress(const std::string& status, std::int32_t percent) override {
+        expectWhole(status);
         statuses.push_back(status);
         percents.push_back(percent);
         if (onProgress) onProgress();
@@ -42,15 +44,20 @@ public:
         if (onEnd) onEnd();
     }
     void SendError(std::int32_t number, const std::string& message) override {
+        expectWhole(message);
         errors.emplace_back(number, message);
         if (onEnd) onEnd();
     }
     void SendWarning(const std::string& message, const std::string& source, std::int32_t line,
                      std::int32_t number) override {
+        expectWhole(message);
         warnings.emplace_back(number, message);
         sources.push_back(source);
         lines.push_back(line);
     }
+
+    /// No placeholder such as {device} was left in a text.
+    static void expectWhole(const std::string& text) { EXPECT_EQ(text.find_first_of("{}"), text.npos) << text; }
 
     std::vector<int> errorNumbers() const {
         std::vector<int> numbers;

@@ -22,6 +22,7 @@ inline void expectError(const qlpipe::TransferError& error, qlpipe::SshMessage m
                         const std::vector<std::string>& words = {}) {
     EXPECT_EQ(error.number, std::int32_t(message)) << error.text;
     for (const auto& word : words) EXPECT_THAT(error.text, testing::HasSubstr(word));
+    EXPECT_EQ(error.text.find_first_of("{}"), error.text.npos) << "a placeholder was left in: " << error.text;
 }
 
 /// A test with its own SSH server.

@@ -1,4 +1,5 @@
 #include "Add-in/platform/controls.h"
+#include "Add-in/platform/tab_strip.h"
 #include <gtest/gtest.h>
 
 using namespace fernwick;
@@ -88,6 +89,30 @@ TEST(Form, AnErrorEndsTheFormAndIsThrown) {
     EXPECT_EQ(basic::attempt([&] { form.ShowModal(); }).Description, "from Activate");
     EXPECT_FALSE(form.isLoaded());
     EXPECT_FALSE(form.Visible());
+}
+
+TEST(TabStrip, CountsItsTabsFromOne) {
+    struct frmTabs : Form {
+        using Form::Form;
+        const char* typeName() const override { return "frmTabs"; }
+        TabStrip tabs{this, "tabs", &frmTabs::tabs_Click};
+        int clicks = 0;
+        void tabs_Click() { ++clicks; }
+    };
+    Presser user;
+    frmTabs form{user};
+    form.tabs.Add("One");
+    form.tabs.Add("Two");
+    EXPECT_EQ(form.tabs.SelectedItem(), 0);
+    for (const int none : {-1, 0, 3})
+        EXPECT_EQ(basic::attempt([&] { form.tabs.SelectedItem(none); }).Number, 35600) << none;
+    EXPECT_EQ(form.clicks, 0);
+    form.tabs.SelectedItem(1);
+    form.tabs.SelectedItem(2);
+    EXPECT_EQ(std::pair(form.tabs.SelectedItem(), form.clicks), std::pair(2, 2));
+    form.tabs.Clear();
+    EXPECT_EQ(form.tabs.SelectedItem(), 0);
+    EXPECT_TRUE(form.tabs.Tabs().empty());
 }
 
 TEST(Form, UnknownControlIsError730) {

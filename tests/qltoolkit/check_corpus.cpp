@@ -2,6 +2,7 @@
 // damaged file or a bug in the parser.
 //   check_corpus CODEPAGE FOLDER_OR_FILE...        exit status 1 if there are errors
 #include "Components/QLToolkit/check.h"
+#include "Host/files/text_file.h"
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -14,7 +15,7 @@ struct Totals {
 
 void checkOne(const std::string& path, const basic::CodePage& page, Totals& totals) {
     if (qltoolkit::fileKindOf(path) == qltoolkit::FileKind::Unknown) return;
-    const auto result = qltoolkit::checkFile(path, {}, page);
+    const auto result = qltoolkit::checkSource(path, host::readFile(path).bytes, {}, page);
     ++totals.files;
     totals.lines += result.lines;
     totals.errors += result.errors;

@@ -124,6 +124,7 @@ TEST_F(CompilerComponent, StoresFormsWithControlsAndProperties) {
     ASSERT_EQ(image.forms.size(), 1U);
     const auto& form = image.forms[0];
     EXPECT_EQ(form.name, "frmTip");
+    EXPECT_EQ(form.index, -1); // not in a control array
     EXPECT_THAT(form.properties,
                 ElementsAre(image::Property{"Caption", "\"Tip's \"\"best\"\"\""}, image::Property{"Font.Size", "12"}));
     ASSERT_EQ(form.children.size(), 1U);

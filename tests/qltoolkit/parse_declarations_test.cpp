@@ -246,7 +246,8 @@ TEST(ConditionalCompilation, EvaluatesConditions) {
 }
 
 TEST(ConditionalCompilation, UsesTheProjectsConstants) {
-    const auto constants = qltoolkit::parseConditionalConstants("Fast = 1 : Level = -5:bad:QUINLOFT=0: Wrong = x");
+    const auto constants =
+        qltoolkit::parseConditionalConstants("Fast = 1 : Level = -5:bad:7:QUINLOFT=0: Wrong = x:=3:Much=9x");
     ASSERT_EQ(constants.size(), 3u);
     const Parsed parsed{"#If fast And Level = -5 And QUINLOFT = 0 Then\nDim yes\n#End If", "Test.bas", constants};
     EXPECT_EQ(parsed.module(), "(dim yes)");

@@ -1,6 +1,9 @@
 #include "Components/QLToolkit/check.h"
+#include "Components/QLToolkit/source/encoding.h"
 #include "Components/QLToolkit/source/source_text.h"
 #include "tests/qltoolkit/ast_dump.h"
+#include "tests/support/temp_folder.h"
+#include <filesystem>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -105,14 +108,42 @@ TEST(CheckSource, IgnoresNulsAfterTheCode) {
     EXPECT_EQ(qltoolkit::checkSource("M.bas", std::string("Dim\0a\nDim\x1A", 10)).errors, 1u);
 }
 
-TEST(CheckFile, ReportsMissingFilesAndFolders) {
-    const auto number = [](const std::string& path) { return qltoolkit::checkFile(path).diagnostics.at(0).number; };
-    EXPECT_EQ(number("/nowhere/M.bas"), 1000);
-    EXPECT_EQ(number("/tmp"), 1002);
-    EXPECT_EQ(number(std::string(FERNWICK_SOURCE_DIR) + "/CMakeLists.txt"), 1006);
-    const auto missing = qltoolkit::checkFile("/nowhere/M.bas");
-    EXPECT_EQ(missing.errors, 1u);
-    EXPECT_EQ(missing.diagnostics[0].file, "/nowhere/M.bas");
-    EXPECT_EQ(missing.diagnostics[0].text, "The file does not exist.");
-    EXPECT_EQ(missing.diagnostics[0].line, 0u);
+TEST(FailedRead, ReportsWhatTheFileIs) {
+    const test::TempFolder folder;
+    const auto diagnostic = [](const std::string& path) {
+        const auto result = qltoolkit::failedRead(path, "out of order");
+        EXPECT_EQ(std::pair(result.errors, result.lines), std::pair(std::size_t(1), 0u));
+        EXPECT_EQ(result.diagnostics.size(), 1u);
+        return result.diagnostics.at(0);
+    };
+    const auto missing = diagnostic("/nowhere/M.bas");
+    EXPECT_EQ(missing.number, 1000);
+    EXPECT_EQ(missing.file, "/nowhere/M.bas");
+    EXPECT_EQ(missing.text, "The file does not exist.");
+    EXPECT_EQ(missing.line, 0u);
+    EXPECT_EQ(diagnostic(folder.path()).number, 1002);
+    const auto unreadable = diagnostic(folder.write("M.bas", ""));
+    EXPECT_EQ(unreadable.number, 1001);
+    EXPECT_THAT(unreadable.text, testing::HasSubstr("out of order"));
+    const auto file = folder / "M.bas";
+    std::filesystem::resize_file(file, qltoolkit::kMaxSourceBytes);
+    EXPECT_EQ(diagnostic(file).number, 1001);
+    std::filesystem::resize_file(file, qltoolkit::kMaxSourceBytes + 1);
+    EXPECT_EQ(diagnostic(file).number, 1003);
+    EXPECT_EQ(diagnostic("/dev/null").number, 1001);
+}
+
+TEST(TypographicMarks, AreBlanksQuotationMarksAndPunctuation) {
+    const auto isMark = [](char32_t c) {
+        const char utf8[] = {char(0xE0 | c >> 12), char(0x80 | (c >> 6 & 0x3F)), char(0x80 | (c & 0x3F))};
+        const char two[] = {char(0xC0 | c >> 6), char(0x80 | (c & 0x3F))};
+        return qltoolkit::hasTypographicMark(c < 0x800 ? std::string_view(two, 2) : std::string_view(utf8, 3));
+    };
+    for (const char32_t mark : {0xA0, 0xAB, 0xBB, 0x2000, 0x201C, 0x206F, 0x3000, 0x300C, 0x303F, 0xFF01, 0xFF0F,
+                                0xFF1A, 0xFF1F, 0xFF5B, 0xFF65})
+        EXPECT_TRUE(isMark(mark)) << std::hex << std::uint32_t(mark);
+    for (const char32_t other : {0xA1, 0xAA, 0xAC, 0xBA, 0xBC, 0x1FFF, 0x2070, 0x2FFF, 0x3005, 0x3007, 0x3040, 0xFF00,
+                                 0xFF10, 0xFF19, 0xFF20, 0xFF5A, 0xFF66})
+        EXPECT_FALSE(isMark(other)) << std::hex << std::uint32_t(other);
+    EXPECT_FALSE(qltoolkit::hasTypographicMark("plain"));
 }

@@ -32,19 +32,22 @@ protected:
 };
 
 TEST_F(IconReader, ReadsEachImageOfTheDirectory) {
-    EXPECT_EQ(load(icon({{16, 16, 4, 16, 1, 296, 38}, {32, 0, 24, 0, 2, 3240, 334}})), iconReader::Done);
+    EXPECT_EQ(load(icon({{16, 24, 4, 16, 1, 296, 38}, {32, 0, 24, 0, 2, 3240, 334}})), iconReader::Done);
     EXPECT_EQ(reader.ImageCount(), 2);
     EXPECT_EQ(reader.IconFileName(), folder / "My.ico");
 
     fernwick::IconImageDetails image;
     EXPECT_EQ(reader.GetImageDetails(1, image), iconReader::Done);
     EXPECT_EQ(image.Width, 16);
+    EXPECT_EQ(image.Height, 24);
     EXPECT_EQ(image.BitCount, 4);
     EXPECT_EQ(image.ColorCount, 16);
     EXPECT_EQ(image.Planes, 1);
     EXPECT_EQ(image.ByteSize, 296);
     EXPECT_EQ(reader.GetImageDetails(2, image), iconReader::Done);
+    EXPECT_EQ(image.Width, 32);
     EXPECT_EQ(image.Height, 0);
+    EXPECT_EQ(image.ColorCount, 0);
     EXPECT_EQ(image.BitCount, 24);
     EXPECT_EQ(image.Planes, 2);
     EXPECT_EQ(image.ByteSize, 3240);

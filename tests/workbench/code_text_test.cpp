@@ -52,6 +52,20 @@ TEST_F(Code, AnUntouchedModuleStaysClean) {
     EXPECT_FALSE(component->IsDirty());
 }
 
+/// One letter for the style of each character: comment, number, keyword, string, preprocessor, operator, identifier, date,
+/// unclosed string.
+TEST_F(Code, EachPartOfTheLanguageHasItsStyle) {
+    editorOf(moduleOf("#If x Then\r\nDim s As String ' c\r\ns = \"t\" & 12: d = #1/2/2000#\r\ns = \"open\r\n"));
+    text().SendScintilla(QsciScintilla::SCI_COLOURISE, 0UL, -1L);
+    std::string styles;
+    for (int at = 0; at < int(shown().size()); ++at)
+        styles += shown()[std::size_t(at)] == '\n'
+                      ? '\n'
+                      : " CNKSPOIDU"[text().SendScintilla(QsciScintilla::SCI_GETSTYLEAT, at)];
+    EXPECT_EQ(styles, "PPPPPPPPPP\nKKK I KK KKKKKK CCC\nI O SSS O NNO I O DDDDDDDDDD\nI O UUUUU");
+    EXPECT_STREQ(text().lexer()->language(), "Visual Basic");
+}
+
 TEST_F(Code, AnEmptyModuleAcceptsItsFirstLines) {
     editorOf(moduleOf(""));
     text().insert("Sub A()\nEnd Sub");

@@ -5,6 +5,7 @@
 #include "tests/support/fake_targets.h"
 #include "tests/workbench/desktop_user.h"
 #include "tests/workbench/desktop_world.h"
+#include "tests/workbench/window_words.h"
 #include <QCheckBox>
 #include <QFile>
 #include <QLabel>
@@ -85,6 +86,19 @@ TEST_F(Forms, EachWidgetHasAControl) {
         for (const auto* widget :
              window.findChild<QWidget*>("window")->findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
             EXPECT_NO_THROW(form->control(widget->objectName().toStdString())) << form->typeName();
+    }
+}
+
+/// The words as designed, and what happens to a form whose close box or Escape key is pressed.
+TEST_F(Forms, HaveTheirWords) {
+    for (auto* form : all()) {
+        const FormWindow window(*form, nullptr);
+        auto words = test::WindowWords(window).text();
+        for (const auto* const control : form->Controls())
+            if (const auto* const button = dynamic_cast<const CommandButton*>(control); button && button->Cancel)
+                words += "Escape presses " + button->Name + "\n";
+        words += form->ControlBox ? form->CloseBoxCancels ? "the close box does, too\n" : "" : "no close box\n";
+        test::expectGolden(words, form->typeName());
     }
 }
 

@@ -1,11 +1,15 @@
 // Unsaved changes survive the program.
+#include "Apps/workbench/unsaved/discarded_changes.h"
 #include "Apps/workbench/unsaved/journal_folder.h"
 #include "Host/files/journal_file.h"
 #include "Host/model/component.h"
 #include "tests/workbench/open_desktop.h"
+#include "tests/workbench/window_words.h"
+#include <QDateTime>
 #include <QDir>
 #include <QDirIterator>
 #include <QListWidget>
+#include <QLocale>
 #include <QProcess>
 #include <csignal>
 #include <filesystem>
@@ -284,6 +288,57 @@ TEST_F(Journals, DiscardMovesItToAFolderThatTheBoxNames) {
     QDirIterator kept(discarded, {"modA.bas"}, QDir::Files, QDirIterator::Subdirectories);
     ASSERT_TRUE(kept.hasNext());
     EXPECT_EQ(host::readFile(kept.next().toStdString()).bytes, moduleText("modA", "' kept\r\n"));
+}
+
+TEST_F(Journals, TheQuestionNamesTheFilesAndWhatHappensToThem) {
+    twoModules().writeTo(folder);
+    auto own = ownEntry("");
+    own.written -= 60;
+    leave(own);
+    leave(entryOf("' kept\r\n"));
+    auto gone = entryOf("' gone\r\n");
+    gone.file = folder / "gone.bas";
+    gone.base.reset();
+    gone.written += 60;
+    leave(gone);
+    folder.write("Hello.vbp", twoModules().text() + "[Quinloft Global]\r\n");
+    const auto written = QDateTime::fromSecsSinceEpoch(gone.written);
+    answer([&](QMessageBox& box) {
+        EXPECT_EQ(box.escapeButton()->text(), "&Keep for Later");
+        test::expectWords(
+            box, "recovered",
+            {{QLocale().toString(written, QLocale::ShortFormat).toStdString(), "DATE"}, {folder.path(), "..."}});
+        press(box, "Keep for Later");
+    });
+    bench->connect();
+    waitForBox();
+}
+
+TEST(DiscardedChanges, AreFilesNamedLikeTheirComponents) {
+    const test::TempFolder folder;
+    const workbench::DiscardedChanges discarded(QString::fromStdString(folder / "journals"));
+    EXPECT_EQ(discarded.folder().toStdString(), folder / "discarded");
+    const auto day = QDateTime(QDate(2026, 3, 4), QTime(5, 6, 7));
+    const auto keep = [&](const std::string& component, int type, const std::string& file) {
+        workbench::Survivor survivor;
+        survivor.entry.project = "/folder/Demo.vbp";
+        survivor.entry.component = component;
+        survivor.entry.type = type;
+        survivor.entry.file = file;
+        survivor.entry.bytes = component;
+        survivor.entry.written = day.toSecsSinceEpoch();
+        survivor.path = QString::fromStdString(folder.write("journal", ""));
+        discarded.keep(survivor);
+        EXPECT_FALSE(QFile::exists(survivor.path));
+    };
+    keep("", 0, "");
+    keep("A", vbide::vbext_ct_StdModule, "");
+    keep("B", vbide::vbext_ct_ClassModule, "");
+    keep("C", vbide::vbext_ct_VBForm, "");
+    for (int i = 0; i < 3; ++i) keep("D", vbide::vbext_ct_VBForm, "/folder/other.frm");
+    QStringList names = QDir(discarded.folder() + "/2026-03-04 050607").entryList(QDir::Files, QDir::Name);
+    EXPECT_EQ(names, QStringList({"2 other.frm", "3 other.frm", "A.bas", "B.cls", "C.frm", "Demo.vbp", "other.frm"}));
+    EXPECT_EQ(folder.read("discarded/2026-03-04 050607/A.bas"), "A");
 }
 
 TEST_F(Journals, KeptJournalsAreOfferedWhenTheProjectOpensAgain) {

@@ -1,5 +1,6 @@
 // The messages window of the desktop.
 #include "tests/workbench/messages_desktop.h"
+#include "tests/workbench/window_words.h"
 #include <QHeaderView>
 #include <QLabel>
 #include <gmock/gmock.h>
@@ -25,6 +26,34 @@ TEST_F(Messages, ShowTheDocumentsRows) {
     EXPECT_EQ(cell(0, Grid::ErrorColumn), "1042");
     EXPECT_TRUE(list().isColumnHidden(Grid::FileNameColumn));
     EXPECT_EQ(part<QLabel>("lblStatus").text(), "Compile Status:");
+}
+
+TEST_F(Messages, HaveTheirWords) {
+    error("first", 2, 1042);
+    warning("second", 3);
+    settle();
+    test::expectWords(dock(), "messages", {{folder.path(), "..."}});
+    error("third", 4);
+    warning("fourth", 5);
+    filter().setText("third");
+    settle();
+    test::expectWords(dock(), "messages_filtered", {{folder.path(), "..."}});
+}
+
+TEST_F(Messages, AreSortedByTheKindNumbersOrWordsOfAColumn) {
+    warning("b", 10, 9);
+    error("A", 9, 10);
+    error("c", 100, 8);
+    settle();
+    const auto sorted = [this](int column) {
+        list().sortByColumn(column, Qt::AscendingOrder);
+        settle();
+        return shown();
+    };
+    EXPECT_THAT(sorted(Grid::LineColumn), ElementsAre("A", "b", "c"));
+    EXPECT_THAT(sorted(Grid::ErrorColumn), ElementsAre("c", "b", "A"));
+    EXPECT_THAT(sorted(Grid::MessageColumn), ElementsAre("A", "b", "c"));
+    EXPECT_EQ(sorted(Grid::PictureColumn).back(), "b");
 }
 
 TEST_F(Messages, HaveTheWidthsOfTheDocument) {

@@ -168,6 +168,7 @@ TEST_F(Options, ColourTheCodeOfOneTheme) {
         setColour(dialog, "background", "#fff8e0");
         setColour(dialog, "keywords", "#800000");
         field<QComboBox>(dialog, "coloursOf").setCurrentIndex(1);
+        EXPECT_EQ(field<QToolButton>(dialog, "background").toolTip(), "#1e1f22"); // that of the dark theme
         setColour(dialog, "background", "#001020");
     });
     EXPECT_EQ(paperOf(text), QColor("#fff8e0"));
@@ -175,6 +176,7 @@ TEST_F(Options, ColourTheCodeOfOneTheme) {
     window().setTheme(Theme::Dark);
     EXPECT_EQ(paperOf(text), QColor("#001020"));
     change([](Dialog& dialog) {
+        EXPECT_EQ(field<QComboBox>(dialog, "coloursOf").currentIndex(), 1);
         turnTo(dialog, kColours);
         test::click(dialog, "defaults");
     });

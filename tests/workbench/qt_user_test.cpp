@@ -67,6 +67,30 @@ TEST_F(DesktopUser, ASaveDialogGivesThePathWithItsExtension) {
     EXPECT_EQ(dialog.FileName, folder / "mine.reg");
 }
 
+TEST_F(DesktopUser, AFileDialogHasItsTitleNameAndFilter) {
+    CommonDialog dialog;
+    dialog.DialogTitle = "Choose";
+    dialog.InitDir = folder.path();
+    dialog.FileName = "before.reg";
+    dialog.Filter = "Settings (*.reg)|*.reg|Texts (*.txt)|*.txt|All files|*";
+    const auto expectFilter = [&](int index, const char* filter) {
+        dialog.FilterIndex = index;
+        test::whenShown<QFileDialog>([&](QFileDialog& shown) {
+            EXPECT_EQ(shown.windowTitle(), "Choose");
+            EXPECT_EQ(shown.directory().path().toStdString(), folder.path());
+            EXPECT_EQ(shown.selectedNameFilter(), filter) << index;
+            EXPECT_EQ(shown.nameFilters().size(), 3);
+            shown.reject();
+        });
+        user.ShowOpen(dialog);
+    };
+    expectFilter(0, "Settings (*.reg)");
+    expectFilter(1, "Settings (*.reg)");
+    expectFilter(2, "Texts (*.txt)");
+    expectFilter(3, "All files (*)");
+    expectFilter(4, "All files (*)");
+}
+
 TEST_F(DesktopUser, CancelIsAnErrorIfTheDialogWantsIt) {
     CommonDialog dialog;
     dialog.FileName = "before";

@@ -134,3 +134,29 @@ TEST(Settings, AreKeptUnderTheNamesOfTheProgram) {
     EXPECT_TRUE(QSettings().fileName().endsWith("/fernwick/workbench.conf")) << QSettings().fileName().toStdString();
     workbench::nameApplication("workbench-test");
 }
+
+TEST(Application, PresentsItselfToTheDesktop) {
+    workbench::nameApplication("workbench-test");
+    EXPECT_EQ(QApplication::applicationVersion(), apps::kVersion);
+    EXPECT_EQ(QApplication::desktopFileName(), "fernwick-workbench"); // the name of its desktop entry
+    const QSize size(32, 32);
+    const auto usual = workbench::drawnIcon("Project").pixmap(size).toImage();
+    EXPECT_EQ(QApplication::windowIcon().pixmap(size).toImage(), usual);
+    EXPECT_FALSE(usual.isNull());
+}
+
+TEST(Application, PrefersTheInstalledIcon) {
+    const test::TempFolder icons;
+    QPixmap red(32, 32);
+    red.fill(Qt::red);
+    std::filesystem::create_directories(icons / "hicolor/32x32/apps");
+    icons.write("hicolor/index.theme", "[Icon Theme]\nName=x\nDirectories=32x32/apps\n[32x32/apps]\nSize=32\n");
+    red.save(QString::fromStdString(icons / "hicolor/32x32/apps/fernwick-workbench.png"));
+    const auto before = QIcon::themeSearchPaths();
+    QIcon::setThemeSearchPaths({QString::fromStdString(icons.path())});
+    QIcon::setThemeName("hicolor");
+    workbench::nameApplication("workbench-test");
+    EXPECT_EQ(QApplication::windowIcon().pixmap(QSize(32, 32)).toImage().pixelColor(8, 8), QColor(Qt::red));
+    QIcon::setThemeSearchPaths(before);
+    workbench::nameApplication("workbench-test");
+}

@@ -89,13 +89,6 @@ std::string invalidValue(const std::string& message) {
     return message.starts_with('-') || words == message.npos ? message : message.substr(words + 2);
 }
 
-/// The parser says "Could not convert: --code-page = abc". All values that it converts are numbers.
-std::string noNumber(const std::string& message) {
-    const auto name = message.find(": "), value = message.find(" = ");
-    if (name == message.npos || value == message.npos) return message;
-    return fmt::format("{}: {} is not a number", message.substr(name + 2, value - name - 2), message.substr(value + 3));
-}
-
 template <class Kind>
 bool is(const CLI::ParseError& error) {
     return dynamic_cast<const Kind*>(&error) != nullptr;
@@ -112,7 +105,7 @@ std::string usageError(const CLI::App& app, const CLI::ParseError& error) {
     if (is<CLI::ArgumentMismatch>(error)) return missingValue(verb, message);
     if (is<CLI::ExcludesError>(error)) return exclusion(message);
     if (is<CLI::ValidationError>(error)) return invalidValue(message);
-    return is<CLI::ConversionError>(error) ? noNumber(message) : message;
+    return message;
 }
 
 std::vector<std::string> verbNames(const CLI::App& app) {

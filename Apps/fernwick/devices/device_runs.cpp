@@ -11,12 +11,12 @@ namespace {
 
 /// The first error in one line, else the first critical box.
 std::string reasonOf(const DeviceOutcome& outcome) {
-    std::string reason;
-    for (const auto& message : outcome.messages)
-        if (reason.empty() && message.isError) reason = message.text;
-    for (const auto& box : outcome.boxes)
-        if (reason.empty() && box.critical) reason = box.text;
-    return reason.empty() ? "the transfer did not finish" : reason.substr(0, reason.find_first_of("\r\n"));
+    std::string reason = "the transfer did not finish";
+    const auto error = std::ranges::find(outcome.messages, true, &Message::isError);
+    const auto box = std::ranges::find(outcome.boxes, true, &ShownBox::critical);
+    if (box != outcome.boxes.end()) reason = box->text;
+    if (error != outcome.messages.end()) reason = error->text;
+    return reason.substr(0, reason.find_first_of("\r\n"));
 }
 
 bool isSuccess(fernwick::RunStatus status) {

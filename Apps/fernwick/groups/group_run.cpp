@@ -15,10 +15,7 @@ namespace cli {
 namespace {
 
 /// Trouble with the machine outweighs everything else.
-int worse(int a, int b) {
-    const auto weight = [](int status) { return status == kMachineTrouble ? 100 : status; };
-    return weight(a) < weight(b) ? b : a;
-}
+int worse(int a, int b) { return a == kMachineTrouble || b == kMachineTrouble ? kMachineTrouble : std::max(a, b); }
 
 std::string outcomesOfDevices(const Report& report) {
     std::string text;

@@ -79,7 +79,11 @@ CheckedSource checkOne(const SourceToCheck& source, const Options& options, Cons
         return checkBytes(options.sourceName, {std::istreambuf_iterator<char>(std::cin), {}}, source, console);
     host::FileContent content;
     const auto err = basic::attempt([&] { content = host::readFile(source.path); });
-    if (err.Number != 0) return checked(qltoolkit::checkFile(source.path, source.constants)); // reports the error
+    if (err.Number != 0) {
+        const auto reason =
+            err.LastDllError != 0 ? std::generic_category().message(int(err.LastDllError)) : err.Description;
+        return checked(qltoolkit::failedRead(source.path, reason));
+    }
     return checkBytes(source.path, content.bytes, source, console);
 }
 

@@ -1,6 +1,9 @@
 #pragma once
-// The names under which Qt keeps the program's settings.
+// How the program presents itself to Qt, which keeps its settings under these names, and to the desktop.
+#include "Apps/common/version.h"
+#include "Apps/workbench/base/drawn_icons.h"
 #include <QApplication>
+#include <QIcon>
 
 namespace workbench {
 
@@ -8,6 +11,9 @@ namespace workbench {
 inline void nameApplication(const char* program = "workbench") {
     QApplication::setOrganizationName("fernwick");
     QApplication::setApplicationName(program);
+    QApplication::setApplicationVersion(apps::kVersion);
+    QApplication::setDesktopFileName("fernwick-workbench");
+    QApplication::setWindowIcon(QIcon::fromTheme("fernwick-workbench", drawnIcon("Project")));
 }
 
 } // namespace workbench

@@ -31,18 +31,6 @@ void drawCheckBox(QPainter& painter, const QStyleOption& option) {
     drawTick(painter, box, option);
 }
 
-void drawRadioButton(QPainter& painter, const QStyleOption& option) {
-    const auto circle = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(edgePen(option));
-    painter.setBrush(option.palette.color(QPalette::Base));
-    painter.drawEllipse(circle);
-    if ((option.state & QStyle::State_On) == 0) return;
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(option.palette.color(QPalette::Text));
-    painter.drawEllipse(circle.center(), circle.width() / 4, circle.height() / 4);
-}
-
 /// Dashes in the colour of the text, which is seen on a selected row too.
 void drawFocus(QPainter& painter, const QStyleOption& option) {
     const bool selected = (option.state & QStyle::State_Selected) != 0;
@@ -59,7 +47,6 @@ void DesktopStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
     switch (element) {
     case PE_IndicatorCheckBox:
     case PE_IndicatorItemViewItemCheck: drawCheckBox(*painter, *option); break;
-    case PE_IndicatorRadioButton: drawRadioButton(*painter, *option); break;
     case PE_FrameFocusRect: drawFocus(*painter, *option); break;
     case PE_FrameLineEdit:
         painter->setPen(edgePen(*option));

@@ -134,6 +134,8 @@ constexpr std::array kSameIcons{
     SameIcon{"ImageCombo", "ComboBox"},
     SameIcon{"DataCombo", "ComboBox"},
     SameIcon{"DataList", "ListBox"},
+    SameIcon{"DBCombo", "ComboBox"},
+    SameIcon{"DBList", "ListBox"},
     SameIcon{"FlatScrollBar", "HScrollBar"},
     SameIcon{"Animation", "Movie"},
     SameIcon{"Winsock", "Network"},

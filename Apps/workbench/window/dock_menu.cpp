@@ -14,10 +14,7 @@ namespace {
 QWidget* focusTarget(QDockWidget& dock) {
     if (!dock.widget() || dock.widget()->focusPolicy() != Qt::NoFocus) return dock.widget();
     // its list rather than the filter above it
-    if (auto* list = dock.widget()->findChild<QAbstractItemView*>(); list && list->isVisibleTo(&dock)) return list;
-    for (auto* inner : dock.widget()->findChildren<QWidget*>())
-        if ((inner->focusPolicy() & Qt::TabFocus) != 0 && inner->isVisibleTo(&dock)) return inner;
-    return dock.widget();
+    return dock.widget()->findChild<QAbstractItemView*>();
 }
 
 void showAndFocus(QDockWidget& dock) {

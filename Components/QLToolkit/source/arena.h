@@ -36,6 +36,7 @@ public:
     template <class T, class... Args>
     T* make(Args&&... args) {
         static_assert(std::is_trivially_destructible_v<T>);
+        static_assert(alignof(T) <= __STDCPP_DEFAULT_NEW_ALIGNMENT__);
         return new (take(sizeof(T), alignof(T))) T{static_cast<Args&&>(args)...};
     }
 
@@ -55,11 +56,11 @@ private:
     void* take(std::size_t size, std::size_t alignment) {
         std::uintptr_t at = (next_ + alignment - 1) & ~(alignment - 1);
         if (at + size > end_) [[unlikely]]
-            at = grow(size, alignment);
+            at = grow(size);
         next_ = at + size;
         return reinterpret_cast<void*>(at);
     }
-    std::uintptr_t grow(std::size_t size, std::size_t alignment);
+    std::uintptr_t grow(std::size_t size);
 
     std::uintptr_t next_ = 0;
     std::uintptr_t end_ = 0;

@@ -25,7 +25,6 @@ public:
         const Entry& e = entries_[static_cast<std::uint32_t>(symbol)];
         return {e.spelling, e.spellingLength};
     }
-    [[nodiscard]] std::size_t size() const { return entries_.size() - 1; }
 
 private:
     struct Entry {

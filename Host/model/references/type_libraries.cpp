@@ -22,7 +22,6 @@ std::optional<TypeLibrary> TypeLibraries::find(const std::string& guid, std::uin
                                                std::uint32_t minor) const {
     if (!registry_ || guid.empty()) return {};
     const ClassesKey key(*registry_, "TypeLib\\" + guid);
-    if (!key) return {};
     std::optional<TypeLibrary> best;
     for (const auto& name : key.subKeys()) {
         const auto found = version(guid, name);
