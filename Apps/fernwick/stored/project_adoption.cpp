@@ -3,8 +3,8 @@
 #include "Add-in/project/stored/project_format.h"
 #include "Add-in/project/stored/project_store.h"
 #include "Apps/common/source_code_page.h"
+#include "Apps/fernwick/stored/source_check.h"
 #include "Apps/fernwick/stored/stored_messages.h"
-#include "Components/QLToolkit/check.h"
 #include "Host/model/project.h"
 #include <algorithm>
 #include <set>
@@ -98,17 +98,8 @@ void validateForms(Session& session, Adoption& found) {
 void parseSources(Session& session, Adoption& found) {
     for (const auto& component : session.project()->VBComponents()->items()) {
         const auto path = component->FileNames(1);
-        const auto checked = qltoolkit::checkFile(path, {}, apps::codePageOfSource(session.host(), path));
-        for (const auto& diagnostic : checked.diagnostics) {
-            Message message;
-            message.isError = diagnostic.severity == qltoolkit::Severity::Error;
-            message.number = diagnostic.number;
-            message.text = diagnostic.text;
-            message.file = diagnostic.file;
-            message.line = int(diagnostic.line);
-            message.column = int(diagnostic.column);
-            found.messages.push_back(std::move(message));
-        }
+        const auto checked = checkSourceFile(path, apps::codePageOfSource(session.host(), path));
+        for (const auto& diagnostic : checked.diagnostics) found.messages.push_back(messageOfDiagnostic(diagnostic));
     }
 }
 

@@ -1,4 +1,3 @@
-#include "Components/QLToolkit/check.h"
 #include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/output/code_page_note.h"
 #include "Apps/fernwick/output/plural.h"
@@ -6,6 +5,7 @@
 #include "Apps/fernwick/output/token_ends.h"
 #include "Apps/fernwick/run/interruption.h"
 #include "Apps/fernwick/run/project_argument.h"
+#include "Apps/fernwick/stored/source_check.h"
 #include "Apps/fernwick/verbs/source_list.h"
 #include "Apps/fernwick/verbs/verbs.h"
 #include "Basic/runtime_error.h"
@@ -39,17 +39,6 @@ int statusOfDiagnostic(const qltoolkit::Diagnostic& diagnostic, bool isNamed) {
     }
 }
 
-Message messageOf(const qltoolkit::Diagnostic& diagnostic) {
-    Message message;
-    message.isError = diagnostic.severity == qltoolkit::Severity::Error;
-    message.number = diagnostic.number;
-    message.text = diagnostic.text;
-    message.file = diagnostic.file;
-    message.line = int(diagnostic.line);
-    message.column = int(diagnostic.column);
-    return message;
-}
-
 constexpr std::string_view kStandardInput = "-";
 
 struct CheckedSource {
@@ -59,7 +48,7 @@ struct CheckedSource {
 
 CheckedSource checked(qltoolkit::CheckResult result) {
     CheckedSource source{std::move(result), {}};
-    for (const auto& diagnostic : source.result.diagnostics) source.messages.push_back(messageOf(diagnostic));
+    for (const auto& diagnostic : source.result.diagnostics) source.messages.push_back(messageOfDiagnostic(diagnostic));
     return source;
 }
 
@@ -79,11 +68,7 @@ CheckedSource checkOne(const SourceToCheck& source, const Options& options, Cons
         return checkBytes(options.sourceName, {std::istreambuf_iterator<char>(std::cin), {}}, source, console);
     host::FileContent content;
     const auto err = basic::attempt([&] { content = host::readFile(source.path); });
-    if (err.Number != 0) {
-        const auto reason =
-            err.LastDllError != 0 ? std::generic_category().message(int(err.LastDllError)) : err.Description;
-        return checked(qltoolkit::failedRead(source.path, reason));
-    }
+    if (err.Number != 0) return checked(unreadSource(source.path, err));
     return checkBytes(source.path, content.bytes, source, console);
 }
 

@@ -58,7 +58,7 @@ Steps changed(const Steps& steps, const StepOperands& operands) {
 void changeSteps(Session& session, const StepOperands& operands) {
     session.requireWritableProject();
     const auto& setting = settingOf(operands.when);
-    const auto before = setting.read(*session.settings());
+    const auto before = setting.read(placeOf(session));
     const auto after = changed(before, operands);
     if (const auto wrong = wrongWithValues(setting, after); !wrong.empty()) throw Refusal(kWrongUse, wrong);
     if (after != before) (void)changeSetting(session, setting, after, false);
@@ -69,7 +69,7 @@ struct AllSteps {
 };
 
 AllSteps stepsOf(Session& session) {
-    return {settingOf("pre").read(*session.settings()), settingOf("post").read(*session.settings())};
+    return {settingOf("pre").read(placeOf(session)), settingOf("post").read(placeOf(session))};
 }
 
 /// As text only the steps before or after the compile if one of them is named.
