@@ -6,7 +6,7 @@ namespace fernwick {
 
 void ProjectImporter::IDTExtensibility_OnConnection(const basic::Ref<vbide::VBE>& VBInst, vbide::vbext_ConnectMode,
                                                     const basic::Ref<vbide::AddIn>&) {
-    Procedure here{errors_, "QLProjectImport.Connect"};
+    Procedure here{errors_, "QLProjectImport.IDTExtensibility_OnConnection"};
     host_ = VBInst;
     here([&] { projects_ = VBInst->Events()->VBProjectsEvents(); });
     placeItem();

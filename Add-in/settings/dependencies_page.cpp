@@ -117,7 +117,7 @@ void DependenciesPage::btnAdd_Click() {
 void DependenciesPage::filesDropped(const std::vector<std::string>& paths) {
     Procedure here{services_.errors, "frmQuinloftSettings.tvwDependencies_OLEDragDrop"};
     if (!isSaved(here)) return;
-    add(here, services_.dependencies.CreateNewDependencies(project(), paths));
+    add(here, services_.dependencies.newDependencies(project(), paths));
 }
 
 void DependenciesPage::add(Procedure& here, const tResourceList& chosen) {

@@ -215,12 +215,11 @@ TEST_F(DesktopMenus, ALetterOfTwoMenusOpensTheFirstAndThenTheSecond) {
 
 TEST_F(DesktopMenus, CommandsOfMissingFeaturesAreDisabledAndSayWhy) {
     openSample("HelloWorld");
-    for (const char* item : {"Fernwick &Settings...", "&Zoom Window"}) {
-        auto* const action = menuItem("&Fernwick", item);
-        ASSERT_TRUE(action) << item;
-        EXPECT_FALSE(action->isEnabled()) << item;
-        EXPECT_THAT(action->toolTip().toStdString(), HasSubstr("does not have this command yet")) << item;
-    }
+    auto* const action = menuItem("&Fernwick", "&Zoom Window");
+    ASSERT_TRUE(action);
+    EXPECT_FALSE(action->isEnabled());
+    EXPECT_THAT(action->toolTip().toStdString(), HasSubstr("does not have this command yet"));
+    EXPECT_TRUE(menuItem("&Fernwick", "Fernwick &Settings...")->isEnabled());
     EXPECT_TRUE(menuItem("&Fernwick", "Compile and &Validate")->isEnabled());
 }
 
@@ -407,7 +406,7 @@ TEST_F(DesktopMenus, StartingNeedsAProjectThatTheAddInKnows) {
 TEST_F(DesktopMenus, AnAddInIsConnectedFromItsMenu) {
     auto* addIns = top("&Add-Ins");
     show(*addIns);
-    ASSERT_THAT(texts(*addIns), ElementsAre("Fernwick"));
+    ASSERT_THAT(texts(*addIns), ElementsAre("Fernwick", "Fernwick Project Converter"));
     EXPECT_FALSE(addIns->actions().front()->isChecked());
     addIns->actions().front()->trigger();
     settle();

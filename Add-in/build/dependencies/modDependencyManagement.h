@@ -53,7 +53,7 @@ public:
     /// Lets the user choose files and returns those that exist, each once; none after Cancel.
     tResourceList GetNewDependency(const Project& project);
     /// Returns the entries of those files that exist, each once. A name that cannot be stored is refused with a box.
-    tResourceList CreateNewDependencies(const Project& project, const std::vector<std::string>& paths);
+    tResourceList newDependencies(const Project& project, const std::vector<std::string>& paths);
     /// Returns the entry of a file. A file outside the project's folder is copied there, replacing a file of that name.
     /// With `allowCopy` the user is asked first, and the entry is blank after No.
     tResource CreateNewDependency(const Project& project, const std::string& path, bool allowCopy);

@@ -38,11 +38,10 @@ tResourceList modDependencyManagement::GetNewDependency(const Project& project) 
     dialog.FilterIndex = 1;
     dialog.MaxFileSize = kMostFileNameBytes;
     if (!here([&] { services_.platform.interaction.ShowOpen(dialog); })) return {};
-    return CreateNewDependencies(project, chosenPaths(files, dialog.FileName));
+    return newDependencies(project, chosenPaths(files, dialog.FileName));
 }
 
-tResourceList modDependencyManagement::CreateNewDependencies(const Project& project,
-                                                             const std::vector<std::string>& paths) {
+tResourceList modDependencyManagement::newDependencies(const Project& project, const std::vector<std::string>& paths) {
     Procedure here{services_.errors, "modDependencyManagement.GetNewDependency"};
     const auto folder = here.value([&] { return projectFolder(project); });
     tResourceList created;

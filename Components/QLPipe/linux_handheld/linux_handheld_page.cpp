@@ -8,10 +8,12 @@ namespace {
 
 constexpr char kTest[] = "&Test Connection", kCancel[] = "Cancel &Test";
 constexpr char kAcceptKey[] =
-    "The handheld {handheld} is not known yet. Its key is\n\n{kind} {fingerprint}\n\nCompare it with the output of "
-    "this "
-    "command on the handheld itself:\n\nssh-keygen -lf /etc/ssh/ssh_host_{keyFile}_key.pub\n\nIf they differ, another "
-    "device answers at this address. Do you trust this handheld, and want to store its key in {knownHosts}?";
+    "The handheld {handheld} is not known yet. Its key is\n\n"
+    "{kind} {fingerprint}\n\n"
+    "Compare it with the output of this command on the handheld itself:\n\n"
+    "ssh-keygen -lf /etc/ssh/ssh_host_{keyFile}_key.pub\n\n"
+    "If they differ, another device answers at this address. Do you trust this handheld, and want to store its key in "
+    "{knownHosts}?";
 constexpr int kTurn = 50; // milliseconds
 
 } // namespace
