@@ -99,12 +99,34 @@ TEST_F(SettingsWindow, PagesAreChosenByKeyboard) {
         QApplication::processEvents();
         EXPECT_THAT(visiblePages(shown), ElementsAre("fraDependencies"));
         QTest::keyClick(&pages, Qt::Key_Up);
-        QTest::keyClick(&pages, Qt::Key_Up); // the root
+        QTest::keyClick(&pages, Qt::Key_Up); // only the root is above
         QApplication::processEvents();
         EXPECT_THAT(visiblePages(shown), ElementsAre("fraAppName"));
         EXPECT_EQ(selected(shown), "App Name/Icon");
         EXPECT_EQ(pages.currentItem()->text(0), "App Name/Icon");
+        QTest::keyClick(&pages, Qt::Key_End);
+        QApplication::processEvents();
+        EXPECT_THAT(visiblePages(shown), ElementsAre("fraMyDevices"));
+        QTest::keyClick(&pages, Qt::Key_Up); // past the other root
+        EXPECT_THAT(visiblePages(shown), ElementsAre("fraCompilerOptions"));
+        EXPECT_EQ(selected(shown), "Compiler Settings");
         QTest::keyClick(&shown, Qt::Key_Escape);
+    });
+}
+
+/// All pages share one place.
+TEST_F(SettingsWindow, NoPageCoversAnother) {
+    edit([&](QDialog& shown) {
+        for (const auto& [text, name] :
+             std::vector<std::pair<QString, const char*>>{{"App Name/Icon", "chkSpacesInName"},
+                                                          {"Dependencies", "btnAdd"},
+                                                          {"Linux Handheld Settings", "btnTest"},
+                                                          {"Compiler Settings", "cmdPreAdd"}}) {
+            clickNode(shown, text);
+            auto& control = widget<QWidget>(shown, name);
+            EXPECT_EQ(shown.childAt(control.mapTo(&shown, control.rect().center())), &control) << name;
+        }
+        test::click(shown, "btnCancel");
     });
 }
 

@@ -1,6 +1,7 @@
 #include "Apps/workbench/bridge/tree_binding.h"
 #include "Apps/workbench/base/text.h"
 #include <QHash>
+#include <QKeyEvent>
 #include <QSignalBlocker>
 #include <QTimer>
 
@@ -35,6 +36,36 @@ void showSelection(const fernwick::TreeView& control, QTreeWidget& widget) {
     widget.setCurrentItem(nullptr);
 }
 
+std::string keyOf(const QTreeWidgetItem& item) { return text(item.data(0, kKeyRole).toString()); }
+
+/// The arrow keys go past a heading that refuses to be chosen, which would otherwise end their way.
+class ArrowKeys final : public QObject {
+public:
+    ArrowKeys(fernwick::TreeView& control, QTreeWidget& widget, const Binding& binding)
+        : QObject(&widget), control_(control), widget_(widget), binding_(binding) {
+        widget.installEventFilter(this);
+    }
+
+private:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() != QEvent::KeyPress) return false;
+        const int key = static_cast<const QKeyEvent*>(event)->key();
+        if (key != Qt::Key_Up && key != Qt::Key_Down) return false;
+        move(key == Qt::Key_Up ? &QTreeWidget::itemAbove : &QTreeWidget::itemBelow);
+        return true;
+    }
+    void move(QTreeWidgetItem* (QTreeWidget::*next)(const QTreeWidgetItem*) const) {
+        for (auto* item = (widget_.*next)(widget_.currentItem()); item; item = (widget_.*next)(item)) {
+            binding_.act([&] { control_.choose(keyOf(*item)); });
+            if (control_.SelectedItem() == keyOf(*item) || item->childCount() == 0) return;
+        }
+    }
+
+    fernwick::TreeView& control_;
+    QTreeWidget& widget_;
+    const Binding& binding_;
+};
+
 } // namespace
 
 void bindTreeView(fernwick::TreeView& control, QTreeWidget& widget, Binding& binding) {
@@ -46,11 +77,11 @@ void bindTreeView(fernwick::TreeView& control, QTreeWidget& widget, Binding& bin
     QObject::connect(&widget, &QTreeWidget::itemSelectionChanged, &widget, [&control, &widget, &binding, select] {
         const auto chosen = widget.selectedItems();
         if (chosen.isEmpty()) return;
-        const auto key = text(chosen.front()->data(0, kKeyRole).toString());
-        binding.act([&] { control.choose(key); });
+        binding.act([&] { control.choose(keyOf(*chosen.front())); });
         // A refused choice: Qt makes the node current after this signal.
         QTimer::singleShot(0, &widget, select);
     });
+    new ArrowKeys(control, widget, binding); // owned by the widget
 }
 
 } // namespace workbench
