@@ -101,6 +101,25 @@ TEST_F(CompilerPage, AnEditedStepIsReplacedInItsPlace) {
     });
 }
 
+TEST_F(CompilerPage, AnEditedStepStaysEditedWhileOthersMove) {
+    storeSteps("Pre", {"one", "two", "three"});
+    processes.codes["new"] = 0;
+    open([&] {
+        pre.lstSteps.Selected(2, true);
+        pre.cmdMoveUp.press();
+        pre.txtNewStep.Text("new");
+        pre.cmdAdd.press();
+        EXPECT_THAT(rows(), ElementsAre("one", "*three", "two", "new"));
+        pre.cmdEdit.press();
+        pre.lstSteps.Selected(1, false);
+        pre.lstSteps.Selected(3, true);
+        pre.cmdMoveUp.press();
+        pre.txtNewStep.Text("new");
+        pre.cmdAdd.press();
+        EXPECT_THAT(rows(), ElementsAre("one", "new", "*new", "two"));
+    });
+}
+
 TEST_F(CompilerPage, AStepThatIsRemovedIsNoLongerEdited) {
     storeSteps("Pre", {"one", "two"});
     processes.codes["one"] = 0;

@@ -3,9 +3,11 @@
 #include "tests/workbench_x11/x_desktop.h"
 #include <QCheckBox>
 #include <QDialog>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QThread>
 #include <QTreeWidget>
 #include <gmock/gmock.h>
 
@@ -99,6 +101,63 @@ struct ProjectRoad : XDesktop {
         tabTo("treAvailableSettings");
         press({"Down"});
         eventually(std::string("the page ") + frame, [&] { return widget(frame).isVisible(); });
+    }
+    // ---- a new project ----
+    /// Without a project; new files are saved in the test's folder.
+    void startEmpty() {
+        ask([this] {
+            auto& registry = bench->addIn().registry;
+            constexpr char kHost[] = "Software\\Microsoft\\VisualStudio\\6.0\\Setup\\Microsoft Visual Basic";
+            const fernwick::RegistryKey key{
+                registry, registry.OpenOrCreateKey(fernwick::HKEY_LOCAL_MACHINE, kHost, fernwick::KEY_ALL_ACCESS)};
+            registry.SetValue(key.handle(), "ProductDir", folder.path(), fernwick::REG_SZ);
+        });
+        connect();
+        QThread::sleep(1); // within the first second a new control asks for no save
+    }
+    void waitForNewForm() {
+        eventually("a new project with a form", [this] {
+            return !QApplication::activeModalWidget() &&
+                   !window().explorer().findItems("Form1", Qt::MatchStartsWith | Qt::MatchRecursive).isEmpty();
+        });
+    }
+    std::vector<std::string> controls() {
+        std::vector<std::string> names;
+        for (const auto& control : component("Form1")->Designer()->VBControls()->items())
+            names.push_back(control->ClassName());
+        return names;
+    }
+    QPoint tool(const char* name) {
+        return ask([&] {
+            auto& tools = window().design().toolbox();
+            auto* const item = tools.findItems(name, Qt::MatchExactly).front();
+            tools.scrollToItem(item);
+            return middleOf(*tools.viewport(), tools.visualItemRect(item));
+        });
+    }
+    bool isChosen(const char* name) {
+        const auto* const item = window().design().toolbox().currentItem();
+        return item && item->text() == name;
+    }
+    void waitForDesigner() {
+        eventually("the designer of Form1", [this] { return window().design().forms().current(); });
+    }
+    void placeByMouse(const char* name) {
+        waitForDesigner();
+        click(tool(name));
+        eventually("the tool is chosen", [&] { return isChosen(name); });
+        const auto from = ask([this] { return middleOf(*window().design().forms().current(), QRect(60, 80, 2, 2)); });
+        drag(from, from + QPoint(50, 30));
+    }
+    void placeByKeys(const char* name) {
+        waitForDesigner();
+        chooseByKeys("&View", "x");
+        eventually("the toolbox has the keys", [this] { return window().design().toolbox().hasFocus(); });
+        press({"Home"});
+        constexpr int kMost = 60;
+        for (int i = 0; i < kMost && !ask([&] { return isChosen(name); }); ++i) press({"Down"});
+        eventually("the tool is chosen", [&] { return isChosen(name); });
+        press({"Return"});
     }
     void expectAllStored() {
         EXPECT_TRUE(settings()->SpacesInNameEnabled());
@@ -206,4 +265,67 @@ TEST_F(ProjectRoad, ByTheKeyboardAlone) {
     tabTo("grdRecentProjects");
     press({"Home", "Return"});
     expectOpenAgain();
+}
+
+TEST_F(ProjectRoad, ANewProjectByTheMouseAlone) {
+    startEmpty();
+    choose("&Fernwick", "&Open Fernwick Project...");
+    waitForDialog("frmProjectManager");
+    clickOn("btnNewProject");
+    waitForDialog("frmDesignTargetNormal");
+    click(rowOf("lstQuickDesignTargets", 0));
+    clickOn("btnOK");
+    waitForNewForm();
+    doubleClick(explorerEntry("Form1"));
+    eventually("the designer of Form1", [this] { return window().design().toolbox().isVisible(); });
+    // a control that devices do not have is refused
+    placeByMouse("CommandButton");
+    answerBox(With::Mouse, "OK");
+    waitForNoDialog();
+    EXPECT_TRUE(ask([this] { return controls(); }).empty());
+    // the first control of a device saves the project
+    placeByMouse("QLButton");
+    answerUntil("the project is saved", {With::Mouse, {"btnOK", "OK", "Save"}}, [this] {
+        return !QApplication::activeModalWidget() && !bench->host().ActiveVBProject()->FileName().empty();
+    });
+    EXPECT_EQ(ask([this] { return controls(); }).size(), 1u);
+    EXPECT_THAT(read("Form1.frm"), HasSubstr("QLButton"));
+    EXPECT_THAT(read("Project1.vbp"), HasSubstr("IsQuinloftProject=True"));
+}
+
+TEST_F(ProjectRoad, ANewProjectByTheKeyboardAlone) {
+    startEmpty();
+    chooseByKeys("&Fernwick", "o");
+    waitForDialog("frmProjectManager");
+    tabTo("btnNewProject");
+    press({"space"});
+    waitForDialog("frmDesignTargetNormal");
+    tabTo("lstQuickDesignTargets");
+    press({"Home", "space", "Return"});
+    waitForNewForm();
+    press({"ctrl+r"});
+    eventually("the explorer has the keys", [this] { return window().explorer().hasFocus(); });
+    press({"End"});
+    eventually("Form1 is chosen", [this] { return window().explorer().currentComponent() == component("Form1"); });
+    press({"Return"});
+    placeByKeys("CommandButton");
+    answerBox(With::Keyboard, "OK");
+    waitForNoDialog();
+    EXPECT_TRUE(ask([this] { return controls(); }).empty());
+    placeByKeys("QLButton");
+    waitForDialog("frmSaveWarning");
+    press({"Return"});
+    for (const char* name : {"Form1.frm", "Project1.vbp"}) {
+        eventually(std::string("the dialog that saves ") + name, [&] {
+            const auto* const field = dialog() ? dialog()->findChild<QLineEdit*>("fileNameEdit") : nullptr;
+            return field && field->hasFocus() && field->text() == name;
+        });
+        press({"Return"});
+    }
+    eventually("the project is saved", [this] {
+        return !QApplication::activeModalWidget() && !bench->host().ActiveVBProject()->FileName().empty();
+    });
+    EXPECT_EQ(ask([this] { return controls(); }).size(), 1u);
+    EXPECT_THAT(read("Form1.frm"), HasSubstr("QLButton"));
+    EXPECT_THAT(read("Project1.vbp"), HasSubstr("IsQuinloftProject=True"));
 }
