@@ -1,5 +1,6 @@
 #include "Add-in/settings/app_name_page.h"
 #include "Add-in/settings/iconReader.h"
+#include "Add-in/settings/setting_tip.h"
 #include "Add-in/settings/settings_constants.h"
 #include "Basic/text_search.h"
 
@@ -37,6 +38,7 @@ void AppNamePage::SetupAppNameFrame(const basic::Ref<clsQLProject>& project) {
     Procedure here{services_.errors, "frmQuinloftSettings.SetupAppNameFrame"};
     project_ = project;
     here([&] { chkSpacesInName.Value(project->SpacesInNameEnabled() ? 1 : 0); });
+    here([&] { chkSpacesInName.ToolTipText(settingTip(*project, "SpacesInNameEnabled")); });
     here([&] { txtAppName.Text(project->ProjectName()); });
     here([&] {
         const auto icon = project->IconFileName();

@@ -1,4 +1,5 @@
 #include "Add-in/settings/compiler_page.h"
+#include "Add-in/settings/setting_tip.h"
 #include "Add-in/settings/settings_texts.h"
 
 namespace fernwick {
@@ -35,6 +36,9 @@ void CompilerPage::SetupCompilerOptionsFrame(const basic::Ref<clsQLProject>& pro
     });
     here([&] { post.show(project, after); });
     here([&] { pre.show(project, before); });
+    chkReferenceChecking.ToolTipText(settingTip(*project, "ScanReferences"));
+    pre.lstSteps.ToolTipText(settingTip(*project, "PreCompileSteps"));
+    post.lstSteps.ToolTipText(settingTip(*project, "PostCompileSteps"));
     showTrust(here);
 }
 

@@ -200,6 +200,16 @@ TEST_F(CompilerPage, HasItsTexts) {
     EXPECT_EQ(page.chkReferenceChecking.Caption(), "Turn off reference checking during compilation");
 }
 
+TEST_F(CompilerPage, TipsAreTheMeaningsOfTheSettings) {
+    open([&] {
+        EXPECT_EQ(page.chkReferenceChecking.ToolTipText(), "Validation tests references. Default: True.");
+        EXPECT_EQ(pre.lstSteps.ToolTipText(), "Command lines before a compile, in order.");
+        EXPECT_EQ(page.post.lstSteps.ToolTipText(), "Command lines after a good compile, in order.");
+        EXPECT_EQ(dialog.appName.chkSpacesInName.ToolTipText(),
+                  "Underscores of the name show as blanks. Default: False.");
+    });
+}
+
 TEST_F(CompilerPage, TheBoxTurnsTheCheckOfReferencesOff) {
     open([&] {
         EXPECT_EQ(page.chkReferenceChecking.Value(), 0);

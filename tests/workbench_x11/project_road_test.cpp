@@ -159,6 +159,17 @@ struct ProjectRoad : XDesktop {
         eventually("the tool is chosen", [&] { return isChosen(name); });
         press({"Return"});
     }
+    static void waitForField(const char* name, const char* text) {
+        eventually(std::string("the field with ") + text, [&] {
+            const auto* const field = dialog() ? dialog()->findChild<QLineEdit*>(name) : nullptr;
+            return field && field->hasFocus() && field->text() == text;
+        });
+    }
+    static void enterByKeys(const char* page, const char* field, const char* text) {
+        pageByKeys(page);
+        tabTo(field);
+        type(text);
+    }
     void expectAllStored() {
         EXPECT_TRUE(settings()->SpacesInNameEnabled());
         EXPECT_FALSE(settings()->ScanReferences());
@@ -227,6 +238,10 @@ TEST_F(ProjectRoad, ByTheKeyboardAlone) {
     tabTo("chkSpacesInName");
     press({"space"});
     pageByKeys("fraDependencies");
+    enterByKeys("PalmOSPage", "txtCreatorID", "Hell");
+    enterByKeys("PocketPCPage", "txtVersion", "2.1");
+    enterByKeys("LinuxHandheldPage", "txtFolder", "apps");
+    tabTo("treAvailableSettings");
     press({"End"});
     eventually("the last page", [] { return widget("fraMyDevices").isVisible(); });
     tabTo("lstMyDevices");
@@ -248,10 +263,35 @@ TEST_F(ProjectRoad, ByTheKeyboardAlone) {
     ask([this] {
         expectAllStored();
         EXPECT_EQ(settings()->PreCompileStepCount(), 1);
+        const auto project = bench->host().ActiveVBProject();
+        EXPECT_EQ(project->ReadProperty("Quinloft Palm OS", "CreatorID"), "Hell");
+        EXPECT_EQ(project->ReadProperty("Quinloft PocketPC", "Version"), "2.1");
+        EXPECT_EQ(project->ReadProperty("Quinloft Linux Handheld", "Folder"), "apps");
     });
 
+    // a copy takes the project's place
     chooseByKeys("&Project", "d");
     answerBox(With::Keyboard, "OK");
+    waitForDialog("frmDesignTargetConverter");
+    tabTo("lstDesignTargets");
+    press({"Home", "Down", "Return"});
+    waitForField("fileNameEdit", "HelloWorld.vbp");
+    std::filesystem::create_directory(folder / "copy");
+    press({"ctrl+a"});
+    type(QString::fromStdString(folder / "copy/HelloWorld.vbp"));
+    press({"Return"});
+    eventually("the copy is open", [this] {
+        return !QApplication::activeModalWidget() && settings() &&
+               bench->host().ActiveVBProject()->FileName() == folder / "copy/HelloWorld.vbp";
+    });
+    EXPECT_THAT(read("copy/HelloWorld.vbp"), HasSubstr("TargetDevice=PocketPC-"));
+    EXPECT_THAT(read("HelloWorld/HelloWorld.vbp"), HasSubstr("TargetDevice=PalmOS-DragonBall"));
+    closeProject();
+    begin([this] { bench->open(folder / "HelloWorld/HelloWorld.vbp"); });
+    eventually("the project is open",
+               [this] { return settings() && settings()->TargetDevice() == "PalmOS-DragonBall"; });
+    // in place
+    chooseByKeys("&Project", "d");
     waitForDialog("frmDesignTargetConverter");
     tabTo("lstDesignTargets");
     press({"Home", "Down"});
@@ -316,10 +356,7 @@ TEST_F(ProjectRoad, ANewProjectByTheKeyboardAlone) {
     waitForDialog("frmSaveWarning");
     press({"Return"});
     for (const char* name : {"Form1.frm", "Project1.vbp"}) {
-        eventually(std::string("the dialog that saves ") + name, [&] {
-            const auto* const field = dialog() ? dialog()->findChild<QLineEdit*>("fileNameEdit") : nullptr;
-            return field && field->hasFocus() && field->text() == name;
-        });
+        waitForField("fileNameEdit", name);
         press({"Return"});
     }
     eventually("the project is saved", [this] {
