@@ -15,7 +15,7 @@ constexpr int kDeepColour = 24;
 
 } // namespace
 
-AppNamePage::AppNamePage(Form* form, const SettingsServices& services)
+AppNamePage::AppNamePage(Form* form, const SettingsServices& services, const basic::Ref<clsQLProject>& project)
     : fraAppName(form, "fraAppName", false),
       lblAppName(form, "lblAppName", kAboutAppName),
       lblName(form, "lblName", "&Name on the device:"),
@@ -26,7 +26,8 @@ AppNamePage::AppNamePage(Form* form, const SettingsServices& services)
       btnBrowseIcon(form, "btnBrowseIcon", "&Browse...", this, &AppNamePage::btnBrowseIcon_Click),
       icoPreview(form, "icoPreview"),
       fraHideIcon(form, "fraHideIcon", false),
-      services_(services) {
+      services_(services),
+      project_(project) {
     txtAppName.ToolTipText.design(kAppNameTip);
     txtIconFilePath.ToolTipText.design(kIconPathTip);
     btnBrowseIcon.ToolTipText.design(kBrowseIconTip);
@@ -34,15 +35,14 @@ AppNamePage::AppNamePage(Form* form, const SettingsServices& services)
     iconChanged_ = txtIconFilePath.Text.watch([this](const std::string&) { showIcon(); });
 }
 
-void AppNamePage::SetupAppNameFrame(const basic::Ref<clsQLProject>& project) {
+void AppNamePage::SetupAppNameFrame() {
     Procedure here{services_.errors, "frmQuinloftSettings.SetupAppNameFrame"};
-    project_ = project;
-    here([&] { chkSpacesInName.Value(project->SpacesInNameEnabled() ? 1 : 0); });
-    here([&] { chkSpacesInName.ToolTipText(settingTip(*project, "SpacesInNameEnabled")); });
-    here([&] { txtAppName.Text(project->ProjectName()); });
+    here([&] { chkSpacesInName.Value(project_->SpacesInNameEnabled() ? 1 : 0); });
+    here([&] { chkSpacesInName.ToolTipText(settingTip(*project_, "SpacesInNameEnabled")); });
+    here([&] { txtAppName.Text(project_->ProjectName()); });
     here([&] {
-        const auto icon = project->IconFileName();
-        if (icon != project->DefaultIconFileName()) txtIconFilePath.Text(icon);
+        const auto icon = project_->IconFileName();
+        if (icon != project_->DefaultIconFileName()) txtIconFilePath.Text(icon);
     });
 }
 

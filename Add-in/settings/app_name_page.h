@@ -11,7 +11,7 @@ namespace fernwick {
 
 class AppNamePage {
 public:
-    AppNamePage(Form* form, const SettingsServices& services);
+    AppNamePage(Form* form, const SettingsServices& services, const basic::Ref<clsQLProject>& project);
 
     Frame fraAppName;
     Label lblAppName, lblName, lblIcon;
@@ -22,7 +22,7 @@ public:
     /// Never shown.
     Frame fraHideIcon;
 
-    void SetupAppNameFrame(const basic::Ref<clsQLProject>& project);
+    void SetupAppNameFrame();
     /// Shows the name as applications will.
     void chkSpacesInName_Click();
     /// Warns about a missing icon and, once for each project, about one that devices may not be able to draw.
@@ -37,7 +37,8 @@ private:
     void showIcon();
 
     const SettingsServices& services_;
-    basic::Ref<clsQLProject> project_;
+    /// The dialog's.
+    const basic::Ref<clsQLProject>& project_;
     Subscription spacesClicked_, iconChanged_;
 };
 

@@ -13,32 +13,32 @@ constexpr char kCompilerPage[] = "::/Quinloft_AddIn_Guide_Fernwick Settings_Sett
 
 } // namespace
 
-CompilerPage::CompilerPage(Form* form, const SettingsServices& services)
+CompilerPage::CompilerPage(Form* form, const SettingsServices& services, const basic::Ref<clsQLProject>& project)
     : fraCompilerOptions(form, "fraCompilerOptions", false),
-      pre(form, services, "Pre"),
-      post(form, services, "Post"),
+      pre(form, services, project, "Pre"),
+      post(form, services, project, "Post"),
       chkReferenceChecking(form, "chkReferenceChecking", kReferenceChecking),
       cmdRefOffHelp(form, "cmdRefOffHelp", "Help", this, &CompilerPage::cmdRefOffHelp_Click),
       chkTrustFolder(form, "chkTrustFolder", kTrustFolder),
       services_(services),
-      trusted_(services.platform.registry) {}
+      trusted_(services.platform.registry),
+      project_(project) {}
 
-void CompilerPage::SetupCompilerOptionsFrame(const basic::Ref<clsQLProject>& project) {
+void CompilerPage::SetupCompilerOptionsFrame() {
     Procedure here{services_.errors, "frmQuinloftSettings.SetupCompilerOptionsFrame"};
-    project_ = project;
-    here([&] { chkReferenceChecking.Value(project->ScanReferences() ? 0 : 1); });
+    here([&] { chkReferenceChecking.Value(project_->ScanReferences() ? 0 : 1); });
     Array<std::string> before, after;
     here([&] {
-        if (project->PostCompileStepCount() >= 1) (void)project->GetPostCompileSteps(after);
+        if (project_->PostCompileStepCount() >= 1) (void)project_->GetPostCompileSteps(after);
     });
     here([&] {
-        if (project->PreCompileStepCount() >= 1) (void)project->GetPreCompileSteps(before);
+        if (project_->PreCompileStepCount() >= 1) (void)project_->GetPreCompileSteps(before);
     });
-    here([&] { post.show(project, after); });
-    here([&] { pre.show(project, before); });
-    chkReferenceChecking.ToolTipText(settingTip(*project, "ScanReferences"));
-    pre.lstSteps.ToolTipText(settingTip(*project, "PreCompileSteps"));
-    post.lstSteps.ToolTipText(settingTip(*project, "PostCompileSteps"));
+    here([&] { post.show(after); });
+    here([&] { pre.show(before); });
+    chkReferenceChecking.ToolTipText(settingTip(*project_, "ScanReferences"));
+    pre.lstSteps.ToolTipText(settingTip(*project_, "PreCompileSteps"));
+    post.lstSteps.ToolTipText(settingTip(*project_, "PostCompileSteps"));
     showTrust(here);
 }
 

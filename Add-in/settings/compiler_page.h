@@ -7,7 +7,7 @@ namespace fernwick {
 
 class CompilerPage {
 public:
-    CompilerPage(Form* form, const SettingsServices& services);
+    CompilerPage(Form* form, const SettingsServices& services, const basic::Ref<clsQLProject>& project);
 
     Frame fraCompilerOptions;
     StepList pre, post;
@@ -15,7 +15,7 @@ public:
     CommandButton cmdRefOffHelp;
     CheckBox chkTrustFolder;
 
-    void SetupCompilerOptionsFrame(const basic::Ref<clsQLProject>& project);
+    void SetupCompilerOptionsFrame();
     void save();
 
 private:
@@ -28,7 +28,8 @@ private:
 
     const SettingsServices& services_;
     TrustedFolders trusted_;
-    basic::Ref<clsQLProject> project_;
+    /// The dialog's.
+    const basic::Ref<clsQLProject>& project_;
 };
 
 } // namespace fernwick

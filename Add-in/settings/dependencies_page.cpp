@@ -19,7 +19,8 @@ std::int32_t indexOf(const std::string& name, const tResourceList& list) {
 
 } // namespace
 
-DependenciesPage::DependenciesPage(Form* form, const SettingsServices& services)
+DependenciesPage::DependenciesPage(Form* form, const SettingsServices& services,
+                                   const basic::Ref<clsQLProject>& project)
     : fraDependencies(form, "fraDependencies", false),
       lblDependencies(form, "lblDependencies", kAboutDependencies),
       lblAutomaticDependencies(form, "lblAutomaticDependencies", kAboutAutomaticDependencies),
@@ -31,7 +32,8 @@ DependenciesPage::DependenciesPage(Form* form, const SettingsServices& services)
                              &DependenciesPage::btnScanforDependencies_Click),
       prgDependencyScan(form, "prgDependencyScan"),
       stsDependencyScan(form, "stsDependencyScan"),
-      services_(services) {
+      services_(services),
+      project_(project) {
     btnAdd.ToolTipText.design(kAddTip);
     btnDelete.ToolTipText.design(kRemoveTip);
     btnDelete.Enabled.design(false);
@@ -53,12 +55,11 @@ DependenciesPage::DependenciesPage(Form* form, const SettingsServices& services)
         list.FilesDropped.connect([this](const std::vector<std::string>& paths) { filesDropped(paths); }));
 }
 
-void DependenciesPage::setUp(const basic::Ref<clsQLProject>& project) {
+void DependenciesPage::setUp() {
     Procedure here{services_.errors, "frmQuinloftSettings.ShowQuinloftSettings"};
-    project_ = project;
     here([&] { modDependencyManagement::ClearDependencyList(Dependencies); });
-    here([&] { Dependencies = services_.dependencies.ReadProjectDependencies(project->VBProject()); });
-    here([&] { DisplayDependencies(project->VBProject()); });
+    here([&] { Dependencies = services_.dependencies.ReadProjectDependencies(project_->VBProject()); });
+    here([&] { DisplayDependencies(project_->VBProject()); });
     DisplayAutomaticDependencies();
     DependenciesChanged = false;
 }

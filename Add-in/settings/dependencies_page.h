@@ -9,7 +9,7 @@ namespace fernwick {
 
 class DependenciesPage {
 public:
-    DependenciesPage(Form* form, const SettingsServices& services);
+    DependenciesPage(Form* form, const SettingsServices& services, const basic::Ref<clsQLProject>& project);
 
     Frame fraDependencies;
     Label lblDependencies, lblAutomaticDependencies;
@@ -22,8 +22,8 @@ public:
     tResourceList Dependencies;
     bool DependenciesChanged = false;
 
-    /// Reads and shows the lists of a project.
-    void setUp(const basic::Ref<clsQLProject>& project);
+    /// Reads and shows the project's lists.
+    void setUp();
     void btnScanforDependencies_Click();
     void SaveNewDependencies();
 
@@ -41,7 +41,8 @@ private:
     VBProject project() const { return project_->VBProject(); }
 
     const SettingsServices& services_;
-    basic::Ref<clsQLProject> project_;
+    /// The dialog's.
+    const basic::Ref<clsQLProject>& project_;
     std::vector<Subscription> events_;
 };
 

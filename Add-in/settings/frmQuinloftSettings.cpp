@@ -45,15 +45,15 @@ void frmQuinloftSettings::ShowQuinloftSettings(const basic::Ref<vbide::VBProject
     WorkingProject = project ? here.value([&] { return services_.projects.GetQLProject(project); }) : nullptr;
     if (WorkingProject) {
         pipes.SetupPipeFrames();
-        appName.SetupAppNameFrame(WorkingProject);
-        compiler.SetupCompilerOptionsFrame(WorkingProject);
+        appName.SetupAppNameFrame();
+        compiler.SetupCompilerOptionsFrame();
     }
     myDevices.fill();
     displayAvailableSettings();
     openOn(here, pageName);
     if (WorkingProject) {
         here([&] { treAvailableSettings.Text(kProjectRoot, WorkingProject->ProjectName() + kProjectRootSuffix); });
-        dependencies.setUp(WorkingProject);
+        dependencies.setUp();
     }
     ScanOnActivate = scanOnActivate;
     txtSubdialogTitle.Caption(kCaption);

@@ -36,13 +36,13 @@ public:
     bool ScanOnActivate = false;
 
 private:
-    // Created last, so that the controls of the pages come after those of the dialog.
+    // Before the pages, which use it.
     SettingsServices services_;
 
 public:
-    AppNamePage appName{this, services_};
-    DependenciesPage dependencies{this, services_};
-    CompilerPage compiler{this, services_};
+    AppNamePage appName{this, services_, WorkingProject};
+    DependenciesPage dependencies{this, services_, WorkingProject};
+    CompilerPage compiler{this, services_, WorkingProject};
     MyDevicesPage myDevices{this, services_};
     CompileTargetsPage compileTargets{this};
     PipePages pipes{this, services_};

@@ -6,7 +6,8 @@ namespace fernwick {
 
 using namespace settings_texts;
 
-StepList::StepList(Form* form, const SettingsServices& services, const std::string& kind)
+StepList::StepList(Form* form, const SettingsServices& services, const basic::Ref<clsQLProject>& project,
+                   const std::string& kind)
     : lstSteps(form, "lst" + kind + "Steps", ListBox::Choice::Several),
       txtNewStep(form, "txt" + kind + "NewStep"),
       cmdBrowse(form, "cmd" + kind + "Browse", "Browse...", this, &StepList::cmdBrowse_Click),
@@ -16,14 +17,14 @@ StepList::StepList(Form* form, const SettingsServices& services, const std::stri
       cmdMoveUp(form, "cmd" + kind + "MoveUp", "Move Up", this, &StepList::cmdMoveUp_Click),
       cmdMoveDown(form, "cmd" + kind + "MoveDown", "MoveDown", this, &StepList::cmdMoveDown_Click),
       services_(services),
-      kind_(kind) {}
+      kind_(kind),
+      project_(project) {}
 
 Procedure StepList::trap(const std::string& event) const {
     return {services_.errors, "frmQuinloftSettings.cmd" + kind_ + event + "_Click"};
 }
 
-void StepList::show(const basic::Ref<clsQLProject>& project, const Array<std::string>& steps) {
-    project_ = project;
+void StepList::show(const Array<std::string>& steps) {
     edited_ = -1;
     lstSteps.Clear();
     for (const auto& step : steps) lstSteps.AddItem(step);

@@ -10,13 +10,14 @@ namespace fernwick {
 class StepList {
 public:
     /// `kind` is "Pre" or "Post" and part of the controls' names.
-    StepList(Form* form, const SettingsServices& services, const std::string& kind);
+    StepList(Form* form, const SettingsServices& services, const basic::Ref<clsQLProject>& project,
+             const std::string& kind);
 
     ListBox lstSteps;
     TextBox txtNewStep;
     CommandButton cmdBrowse, cmdAdd, cmdEdit, cmdRemove, cmdMoveUp, cmdMoveDown;
 
-    void show(const basic::Ref<clsQLProject>& project, const Array<std::string>& steps);
+    void show(const Array<std::string>& steps);
     /// From index 0; not allocated if there are none.
     Array<std::string> steps() const;
 
@@ -34,7 +35,8 @@ private:
 
     const SettingsServices& services_;
     std::string kind_;
-    basic::Ref<clsQLProject> project_;
+    /// The dialog's.
+    const basic::Ref<clsQLProject>& project_;
     /// The row that Add replaces; -1 for none.
     int edited_ = -1;
 };

@@ -224,6 +224,13 @@ TEST_F(SettingsDialog, CancelWritesNothing) {
     EXPECT_THAT(trace.effects, Not(Contains("apply Palm OS Settings")));
 }
 
+TEST_F(SettingsDialog, KeepsNoProjectAlive) {
+    const std::weak_ptr<fernwick::clsQLProject> known = projects.GetQLProject(project).shared();
+    showAny();
+    projects.RemoveFromProjectsList(project);
+    EXPECT_TRUE(known.expired());
+}
+
 TEST_F(SettingsDialog, TheCloseBoxCancels) {
     EXPECT_TRUE(dialog.CloseBoxCancels);
     EXPECT_TRUE(dialog.btnCancel.Cancel);
