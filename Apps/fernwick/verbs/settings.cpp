@@ -177,6 +177,9 @@ int changeSettings(Session& session, const SettingOperands& operands, const Opti
 
 int runSettings(const Options& options, Console& console) {
     const auto operands = splitOperands(options.operands);
+    if (options.action != "set" && !operands.values.empty())
+        throw Refusal(kWrongUse,
+                      fmt::format("settings {}: {} is one operand too many", options.action, operands.values.front()));
     const bool writes = options.action == "set" || options.action == "reset";
     Session session{options, console};
     if (writes && !options.dryRun) session.lock(operands.project);
