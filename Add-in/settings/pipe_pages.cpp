@@ -26,8 +26,6 @@ std::vector<std::string> PipePages::pipeNames(Procedure& here) const {
 
 void PipePages::SetupPipeFrames() {
     Procedure here{services_.errors, "frmQuinloftSettings.SetupPipeFrames"};
-    PipeDialogs.clear();
-    picPipePages.Clear();
     for (const auto& pipe : pipeNames(here)) (void)basic::attempt([&] { add(pipe); });
 }
 

@@ -254,6 +254,15 @@ TEST_F(CompilerPage, TrustInTheFolderIsShownGivenAndTakenBack) {
     EXPECT_FALSE(trusted.holds("/p"));
 }
 
+TEST_F(CompilerPage, TrustThatCannotBeStoredIsReported) {
+    registry.isReadOnly = true;
+    open([&] {
+        page.chkTrustFolder.Value(1);
+        dialog.btnOK.press();
+    });
+    EXPECT_TRUE(did("box 48 Fernwick: Your settings cannot be written, so the trust in the folder did not change."));
+}
+
 TEST_F(CompilerPage, TheFolderOfAnUnsavedProjectCannotBeTrusted) {
     project->file = "";
     open([&] {

@@ -24,9 +24,11 @@ public:
         requested.push_back(access);
         return fernwick::ERROR_SUCCESS;
     }
+    /// Whether no key can be created.
+    bool isReadOnly = false;
     std::int32_t RegCreateKeyEx(std::uint32_t key, const std::string& subKey, std::uint32_t access,
                                 std::uint32_t& result, std::uint32_t& disposition) override {
-        if (!allows(key, kCreateSubKey)) return fernwick::ERROR_ACCESS_DENIED;
+        if (isReadOnly || !allows(key, kCreateSubKey)) return fernwick::ERROR_ACCESS_DENIED;
         disposition = keys_.count(full(key, subKey)) ? 2 : 1;
         make(full(key, subKey));
         return RegOpenKeyEx(key, subKey, access, result);
