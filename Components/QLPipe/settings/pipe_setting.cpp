@@ -54,7 +54,7 @@ void writeProjectValues(const PipeSettings& settings, const basic::Ref<vbide::VB
     std::vector<std::size_t> changed;
     for (std::size_t i = 0; i < values.size(); ++i)
         if (!settings.rows[i].isOfUser && values[i] != before[i]) changed.push_back(i);
-    std::ranges::stable_partition(changed, [&](std::size_t i) { return !isAscii(values[i]); });
+    std::stable_partition(changed.begin(), changed.end(), [&](std::size_t i) { return !isAscii(values[i]); });
     for (const auto i : changed) {
         const auto* key = settings.rows[i].key;
         const auto failed = basic::attempt([&] { project->WriteProperty(settings.section, key, values[i]); });
