@@ -1,5 +1,6 @@
 #include "Add-in/zoom/modZoomWindowSubclassing.h"
 #include "Add-in/zoom/coordinates.h"
+#include <utility>
 
 namespace fernwick {
 

@@ -1,6 +1,7 @@
 // The magnified picture of the designer. It is drawn straight onto the document, and no copy is kept.
 #include "Add-in/zoom/udocZoomWindow.h"
 #include "Basic/arithmetic.h"
+#include <utility>
 
 namespace fernwick {
 

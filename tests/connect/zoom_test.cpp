@@ -104,6 +104,17 @@ TEST_F(ZoomInHost, TheEndOfAProjectStoresItsState) {
     EXPECT_EQ(storedState(), "1");
 }
 
+/// The stored state changes only when a project ends.
+TEST_F(ZoomInHost, AClosedWindowReturnsWithTheNextProject) {
+    store(fernwick::HKEY_CURRENT_USER, kPreferences, "ZoomWinState", "0");
+    opened();
+    ASSERT_TRUE(toolWindow()->Visible());
+    toolWindow()->Close();
+    host.open(test::SampleProject("Second").handheld("Palm-1"));
+    EXPECT_TRUE(toolWindow()->Visible());
+    EXPECT_EQ(zoomWindows(), 1);
+}
+
 TEST_F(ZoomInHost, TheCommandLineKeepsTheStoredState) {
     store(fernwick::HKEY_CURRENT_USER, kPreferences, "ZoomWinState", "0");
     const auto project = host.open(withForms());

@@ -97,7 +97,7 @@ public:
     Hwnd MainWindow() const noexcept override { return main; }
     void EnumChildWindows(Hwnd parent, const std::function<bool(Hwnd)>& visit) const override {
         if (const auto failed = std::exchange(failEnumeration, 0)) throw basic::RuntimeError(failed);
-        if (endsWithZero) visit(0);
+        if (endsWithZero && !visit(0)) return;
         enumerate(parent, visit);
     }
     std::string GetWindowText(Hwnd hwnd, int size) const override {

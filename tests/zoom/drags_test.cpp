@@ -145,6 +145,34 @@ TEST_F(ZoomDrags, TheDesignerMayCloseInItsOwnPress) {
     EXPECT_THAT(errors.seen, IsEmpty());
 }
 
+/// A box in the release lets timers in, which may remove the form.
+TEST_F(ZoomDrags, EverythingMayEndInTheRelease) {
+    windows.press(onPixel(30, 15));
+    windows.onMessage = [&](const test::WindowMessage& message) {
+        if (message.number != fernwick::WM_LBUTTONUP) return 0;
+        windows.close(surface);
+        document->UserDocument_Terminate();
+        document = nullptr;
+        return 0;
+    };
+    windows.release(onPixel(30, 15));
+    EXPECT_FALSE(zoom.ZoomDocument);
+    EXPECT_THAT(errors.seen, IsEmpty());
+}
+
+TEST_F(ZoomDrags, TheAddInMayBeDisconnectedDuringADrag) {
+    windows.press(onPixel(30, 15));
+    windows.onMessage = [&](const test::WindowMessage&) {
+        release();
+        return 0;
+    };
+    windows.move(onPixel(40, 25));
+    windows.onMessage = nullptr;
+    windows.release(onPixel(40, 25));
+    EXPECT_TRUE(windows.hasOwnProcedure(surface) && windows.hasOwnProcedure(zoomHwnd));
+    EXPECT_THAT(errors.seen, IsEmpty());
+}
+
 /// The press activates another form's component, and the add-in follows it.
 TEST_F(ZoomDrags, ThePressMayChangeTheDesigner) {
     const auto other = windows.add(designer, "", {0, 0, 90, 90});

@@ -156,7 +156,7 @@ TEST_F(ZoomManagement, TheTextOfAWindowIsCutAfter254Characters) {
 TEST_F(ZoomManagement, AHandleOfZeroEndsTheSearch) {
     windows.endsWithZero = true;
     zoom.DesignerWindowHandle = 77;
-    zoom.SetDesignerWindowHandle("Nowhere");
+    zoom.SetDesignerWindowHandle("Demo - frmMain (Form)");
     EXPECT_EQ(zoom.DesignerWindowHandle, 77);
 }
 

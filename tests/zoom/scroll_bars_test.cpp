@@ -1,5 +1,6 @@
 // The scroll bars of the zoom window, in twips.
 #include "zoom_world.h"
+#include <random>
 
 using fernwick::ControlPlace;
 using fernwick::WindowPoint;
@@ -131,6 +132,28 @@ TEST_F(ZoomBars, ADocumentLowerThanBandAndBarKeepsTheMaximum) {
     EXPECT_EQ(vertical().LargeChange(), 1);
 }
 
+TEST_F(ZoomBars, ADocumentThatBarsJustFitHasBarsOfNoLength) {
+    follow(300, 600);
+    resize(kBar / 15, 200);
+    EXPECT_EQ(horizontal().Place().Width, 0);
+    EXPECT_EQ(horizontal().Max(), 6000);
+    resize(300, (kBand + kBar) / 15);
+    EXPECT_EQ(vertical().Place().Height, 0);
+    EXPECT_EQ(vertical().Max(), 4500 - kBand);
+}
+
+TEST_F(ZoomBars, TheSquareGoesWithEitherBar) {
+    follow(300, 200);
+    resize(300, 600);
+    EXPECT_TRUE(horizontal().Visible());
+    EXPECT_FALSE(document->HPlug.Visible() || document->VPlug.Visible());
+    resize(300, 200);
+    EXPECT_TRUE(document->HPlug.Visible() && document->VPlug.Visible());
+    resize(600, 200);
+    EXPECT_TRUE(vertical().Visible());
+    EXPECT_FALSE(document->HPlug.Visible() || document->VPlug.Visible());
+}
+
 TEST_F(ZoomBars, AnArrowMovesOnePixelOfTheDesigner) {
     follow(300, 200);
     EXPECT_EQ(horizontal().SmallChange(), 2 * 15);
@@ -211,18 +234,21 @@ TEST_F(ZoomBars, AClickLandsWhereThePictureIsOnceTheBarHasGone) {
     EXPECT_EQ(lands(20, kTop + 20), (WindowPoint{10, 10}));
 }
 
-TEST_F(ZoomBars, OneRefreshFollowsAChangedOffset) {
-    follow(300, 200);
-    horizontal().Value(600);
-    vertical().Value(300);
+TEST_F(ZoomBars, OneRefreshFollowsChangedOffsets) {
     loop.timersAreDue = false;
-    loop.turn();
-    resize(600, 600);
-    windows.log.clear();
-    resize(610, 600);
-    loop.turn();
-    loop.turn();
-    EXPECT_THAT(windows.log, ElementsAre("picture 0,30-400,330"));
+    follow(300, 200);
+    for (int i = 0; i < 2; ++i) {
+        horizontal().Value(600);
+        resize(600, 600);
+        resize(300, 200);
+        vertical().Value(300);
+        resize(600, 600);
+        windows.log.clear();
+        loop.turn();
+        loop.turn();
+        EXPECT_THAT(windows.log, ElementsAre("picture 0,30-400,330"));
+        resize(300, 200);
+    }
 }
 
 TEST_F(ZoomBars, LowerBoundsMoveTheValueInsideAndRaiseOneChange) {
@@ -261,6 +287,28 @@ TEST_F(ZoomBars, ABarThatIsThereFromTheStartPutsThePictureUnderTheBand) {
     resize(600, 20);
     EXPECT_TRUE(vertical().Visible());
     EXPECT_EQ(document->GetYOffset(), -30);
+}
+
+/// Whatever the sizes, the level and the bars: a press on the corner of a drawn pixel reaches that pixel.
+TEST_F(ZoomBars, AClickOnADrawnPixelHitsThePixel) {
+    const auto seed = std::random_device{}();
+    SCOPED_TRACE("seed " + std::to_string(seed));
+    std::mt19937 random(seed);
+    const auto any = [&](int low, int high) { return std::uniform_int_distribution(low, high)(random); };
+    windows.close(handle); // which would receive the press instead
+    follow();
+    for (int i = 0; i < 500; ++i) {
+        level(any(1, 5));
+        surfaceIs(any(1, 400), any(1, 400));
+        resize(any(5, 700), any(5, 700));
+        document->UpdateDisplay();
+        if (horizontal().Visible()) horizontal().Value(any(horizontal().Min(), horizontal().Max()));
+        if (vertical().Visible()) vertical().drag(any(vertical().Min(), vertical().Max()));
+        if (any(0, 1) == 0) level(any(1, 5));
+        loop.turn();
+        const int factor = document->Combo1.ListIndex() + 1, x = any(0, 399), y = any(0, 399);
+        ASSERT_EQ(lands(picture().left + x * factor, picture().top + y * factor), (WindowPoint{x, y})) << i;
+    }
 }
 
 TEST_F(ZoomBars, LargeFormsAreClampedWithoutAReport) {
