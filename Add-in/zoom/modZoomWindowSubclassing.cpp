@@ -11,15 +11,6 @@ constexpr basic::Integer HTCLIENT = 1;
 
 } // namespace
 
-template <class Body>
-std::intptr_t modZoomWindowSubclassing::guarded(const char* location, Body&& body) noexcept {
-    try {
-        return body();
-    } catch (const basic::RuntimeError& error) { report(location, error); } catch (...) {
-    } // the host cannot handle it
-    return 0;
-}
-
 /// Moves continue under the box, and each of them would add another one.
 void modZoomWindowSubclassing::report(const char* location, const basic::RuntimeError& error) {
     if (std::exchange(isReporting_, true)) return;
