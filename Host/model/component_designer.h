@@ -24,6 +24,8 @@ public:
     bool isDesignerOf(const vbide::Ref<vbide::VBForm>& form) const;
     bool isOpen() const;
     std::shared_ptr<ToolWindow> window();
+    /// Shows the window as part of the component's activation.
+    void bringToFront();
     const vbide::Ref<vbide::VBControlsEvents>& controlsEvents() const { return controlsEvents_; }
     /// Discards the form. Objects handed out for it raise errors from now on.
     void reset();
@@ -31,11 +33,13 @@ public:
 private:
     FormDesigner& designer();
     DesignerHooks hooks();
+    void announce();
     std::shared_ptr<const ResourceFile> resources(const std::string& name);
 
     Component& component_;
     std::shared_ptr<ToolWindow> window_;
     std::vector<fernwick::Subscription> windowEvents_;
+    bool wasOpen_ = false, isActivating_ = false;
     std::map<std::string, std::shared_ptr<const ResourceFile>> resources_; // by path
     std::unique_ptr<FormDesigner> designer_;                               // created at first use
     const vbide::Ref<vbide::VBControlsEvents> controlsEvents_ = basic::make<vbide::VBControlsEvents>();

@@ -10,6 +10,7 @@
 #include "tests/deploy/fake_pipe.h"
 #include "tests/support/fake_compiler.h"
 #include "tests/support/fake_targets.h"
+#include "tests/support/recorded_windows.h"
 #include "tests/support/test_host.h"
 #include "tests/support/traced_platform.h"
 
@@ -94,6 +95,7 @@ protected:
     host::Processes processes{[](const std::string&, const std::string&) { return true; }};
     TracedShell shell{trace};
     FixedScreen screen;
+    RecordedWindows windows;
     FixedClock clock;
     host::Resources resources{files, FERNWICK_SOURCE_DIR "/installation"};
     fernwick::Platform platform{user,
@@ -106,6 +108,7 @@ protected:
                                 clipboard,
                                 shell,
                                 screen,
+                                windows,
                                 clock,
                                 resources,
                                 {"QLVBAddIn", FERNWICK_SOURCE_DIR "/installation/VB Toolkit/Bin",
