@@ -178,6 +178,24 @@ TEST_F(Arranging, TheTabOrderIsNumberedByClicks) {
     EXPECT_EQ(saved("frmMain"), original);
 }
 
+TEST_F(Arranging, FollowsTheGridOfTheOptions) {
+    openBoxes();
+    workbench::kGridPixels.store(10);
+    workbench::kGridSnaps.store(false);
+    desk().updateGrid();
+    choose({"cmdA"});
+    EXPECT_EQ(changesAfter("&Align", "to &Grid"), "-      Left            =   240\n-      Top             =   240\n"
+                                                  "+      Left            =   300\n+      Top             =   300\n");
+    key(Qt::Key_Right, Qt::ControlModifier);
+    EXPECT_EQ(valueOf("cmdA", "Left"), "255");
+    workbench::kGridSnaps.store(true);
+    desk().updateGrid();
+    key(Qt::Key_Right, Qt::ControlModifier);
+    EXPECT_EQ(valueOf("cmdA", "Left"), "405");
+    workbench::kGridPixels.store(8);
+    desk().updateGrid();
+}
+
 TEST_F(Arranging, LooksLikeItsPictures) {
     openBoxes();
     const auto save = [this](const QString& name) {

@@ -6,27 +6,27 @@ namespace workbench {
 
 namespace {
 
-using Controls = std::vector<ArrangedControl>;
+using Arranged = std::vector<ArrangedControl>;
 using Places = std::vector<QRectF>;
 
 double rounded(double value, double step) { return std::round(value / step) * step; }
 
 /// Moves each place by what a function of its normalized place returns.
 template <class By>
-Places moved(const Controls& controls, By by) {
+Places moved(const Arranged& controls, By by) {
     Places places;
     for (const auto& control : controls) places.push_back(control.place.translated(by(control.place.normalized())));
     return places;
 }
 
 template <class Sized>
-Places sized(const Controls& controls, Sized sized) {
+Places sized(const Arranged& controls, Sized sized) {
     Places places;
     for (const auto& control : controls) places.push_back(control.hasSize ? sized(control.place) : control.place);
     return places;
 }
 
-Places aligned(Arrangement how, const Controls& controls, const QPointF& step) {
+Places aligned(Arrangement how, const Arranged& controls, const QPointF& step) {
     const auto lead = controls.back().place.normalized();
     return moved(controls, [&](const QRectF& place) -> QPointF {
         switch (how) {
@@ -41,13 +41,13 @@ Places aligned(Arrangement how, const Controls& controls, const QPointF& step) {
     });
 }
 
-Places onTheGrid(const Controls& controls, const SnapGrid& grid) {
+Places onTheGrid(const Arranged& controls, const SnapGrid& grid) {
     Places places;
     for (const auto& control : controls) places.push_back(pulled(control.place, Grip::None, {}, grid, false));
     return places;
 }
 
-Places withSizeOnTheGrid(const Controls& controls, const SnapGrid& grid) {
+Places withSizeOnTheGrid(const Arranged& controls, const SnapGrid& grid) {
     return sized(controls, [&](const QRectF& place) {
         const auto corner = onGrid(place.bottomRight(), grid);
         const auto least = place.topLeft() + QPointF(grid.step, grid.step);
@@ -55,7 +55,7 @@ Places withSizeOnTheGrid(const Controls& controls, const SnapGrid& grid) {
     });
 }
 
-Places withSizeOfLeader(Arrangement how, const Controls& controls) {
+Places withSizeOfLeader(Arrangement how, const Arranged& controls) {
     const auto size = controls.back().place.size();
     return sized(controls, [&](QRectF place) {
         if (how != Arrangement::SameHeight) place.setWidth(size.width());
@@ -80,7 +80,7 @@ struct Axis {
 };
 
 /// The numbers of the controls in the order in which they appear.
-std::vector<std::size_t> orderAlong(const Axis& axis, const Controls& controls) {
+std::vector<std::size_t> orderAlong(const Axis& axis, const Arranged& controls) {
     std::vector<std::size_t> order(controls.size());
     for (std::size_t i = 0; i < order.size(); ++i) order[i] = i;
     std::stable_sort(order.begin(), order.end(),
@@ -89,7 +89,7 @@ std::vector<std::size_t> orderAlong(const Axis& axis, const Controls& controls) 
 }
 
 /// First and last keep their places, and all gaps become equal.
-Places spacedEqually(const Axis& axis, const Controls& controls) {
+Places spacedEqually(const Axis& axis, const Arranged& controls) {
     const auto order = orderAlong(axis, controls);
     const auto &first = controls[order.front()].place, &last = controls[order.back()].place;
     double within = 0;
@@ -107,7 +107,7 @@ Places spacedEqually(const Axis& axis, const Controls& controls) {
 }
 
 /// The leader keeps its place; each gap grows by a distance.
-Places spacedBy(double more, const Axis& axis, const Controls& controls) {
+Places spacedBy(double more, const Axis& axis, const Arranged& controls) {
     const auto order = orderAlong(axis, controls);
     const auto leader = std::find(order.begin(), order.end(), controls.size() - 1) - order.begin();
     Places places(controls.size());
@@ -119,7 +119,7 @@ Places spacedBy(double more, const Axis& axis, const Controls& controls) {
 }
 
 /// The leader keeps its place; the others follow edge to edge.
-Places spacedByNothing(const Axis& axis, const Controls& controls) {
+Places spacedByNothing(const Axis& axis, const Arranged& controls) {
     const auto order = orderAlong(axis, controls);
     Places places(controls.size());
     double at = axis.start(controls[order.front()].place);
@@ -133,7 +133,7 @@ Places spacedByNothing(const Axis& axis, const Controls& controls) {
 }
 
 /// Moves all controls together.
-Places centred(const Axis& axis, const Controls& controls, const QRectF& inner) {
+Places centred(const Axis& axis, const Arranged& controls, const QRectF& inner) {
     auto all = controls.front().place.normalized();
     for (const auto& control : controls) {
         const auto place = control.place.normalized();
