@@ -1,4 +1,6 @@
 // Controls on the clipboard, and the history of a form.
+#include "Apps/workbench/designer/control_clipboard.h"
+#include "Apps/workbench/designer/form_commands.h"
 #include "tests/workbench/canvas_desktop.h"
 #include <QClipboard>
 #include <QMessageBox>
@@ -262,13 +264,15 @@ TEST_F(Pasting, AnyGesturesAreUndoneAndRedone) {
     const auto modifiers = [&] {
         return std::array<Qt::KeyboardModifiers, 3>{Qt::NoModifier, Qt::ShiftModifier, Qt::ControlModifier}[roll(3)];
     };
-    const std::vector<std::pair<const char*, const char*>> commands{{"&Align", "&Lefts"},
-                                                                    {"&Align", "to &Grid"},
-                                                                    {"&Make Same Size", "&Both"},
-                                                                    {"&Order", "&Bring to Front"},
-                                                                    {"&Order", "&Send to Back"},
-                                                                    {"&Horizontal Spacing", "&Increase"},
-                                                                    {"&Center in Form", "&Vertically"}};
+    using workbench::Arrangement;
+    const std::vector<std::function<void()>> commands{[&] { arrange(view(), Arrangement::AlignLefts); },
+                                                      [&] { arrange(view(), Arrangement::AlignToGrid); },
+                                                      [&] { arrange(view(), Arrangement::SameSize); },
+                                                      [&] { arrange(view(), Arrangement::MoreSpaceAcross); },
+                                                      [&] { arrange(view(), Arrangement::CentreDown); },
+                                                      [&] { bringToFront(view()); },
+                                                      [&] { sendToBack(view()); },
+                                                      [&] { copyControls(view()); }};
     const std::vector<std::function<void()>> gestures{
         [&] {
             canvas().press(place(), modifiers());
@@ -287,12 +291,7 @@ TEST_F(Pasting, AnyGesturesAreUndoneAndRedone) {
         [&] {
             if (roll(6) == 0) canvas().key(Qt::Key_Delete);
         },
-        [&] {
-            const auto& [submenu, item] = commands[std::size_t(roll(int(commands.size())))];
-            auto* const action = format(submenu, item);
-            action->trigger();
-        },
-        [&] { copy(); },
+        [&] { commands[std::size_t(roll(int(commands.size())))](); },
         [&] {
             // a name in use is renamed, as the question is answered
             QTimer answer;
@@ -301,7 +300,7 @@ TEST_F(Pasting, AnyGesturesAreUndoneAndRedone) {
                     asked->button(QMessageBox::No)->click();
             });
             answer.start(5);
-            if (view().picture().controls.size() < 20) paste();
+            if (view().picture().controls.size() < 20) pasteControls(view());
         },
         [&] { view().add("VB.Label", QRectF(roll(300), roll(300), 40, 24)); },
     };
@@ -329,7 +328,7 @@ TEST_F(Pasting, TheContextMenuHasTheCommands) {
     for (const auto* action : menu->actions())
         if (!action->isSeparator() && action->isEnabled()) texts << action->text();
     menu->close();
-    EXPECT_EQ(texts.join(' '), "&Code Cu&t &Copy &Delete to &Grid &Bring to Front &Send to Back &Tab Order "
+    EXPECT_EQ(texts.join(' '), "&Code Cu&t &Copy &Delete Align to &Grid &Bring to Front &Send to Back &Tab Order "
                                "&Lock Controls Properties &Window");
     canvas().contextMenu(middleOf("cmdC"), {10, 10});
     QApplication::activePopupWidget()->close();

@@ -33,6 +33,11 @@ const std::vector<int>& commandsFor(const ProjectExplorer& explorer) {
     return explorer.currentProject() ? kOfProject : kOfGroup;
 }
 
+/// The text of a command outside of its submenu.
+QString captionOf(const host::BarControl& command) {
+    return command.Id() == kAlignToGridId ? QString("Align to &Grid") : qt(command.Caption());
+}
+
 /// Adds an action for each command, with its icon and key.
 void fillFrom(QMenu& menu, host::Host& host, const std::vector<int>& ids, const Run& run) {
     for (const int id : ids) {
@@ -41,7 +46,7 @@ void fillFrom(QMenu& menu, host::Host& host, const std::vector<int>& ids, const 
             continue;
         }
         const auto command = controlOf(host, id);
-        auto* const action = menu.addAction(qt(command->Caption()));
+        auto* const action = menu.addAction(captionOf(*command));
         const auto look = commandLookOf(id);
         action->setEnabled(command->Enabled());
         action->setCheckable(command->checked().has_value());
