@@ -78,6 +78,14 @@ TEST_F(Canvas, ACancelledDragChangesNothing) {
     canvas().setFocus();
     window().explorer().setFocus();
     expectNone();
+    begin();
+    QEvent deactivated(QEvent::WindowDeactivate);
+    QApplication::sendEvent(&canvas(), &deactivated);
+    expectNone();
+    begin();
+    view().select(control("cmdB"));
+    view().select(control("cmdA"));
+    expectNone();
     EXPECT_EQ(saved("frmMain"), original);
 }
 
