@@ -20,6 +20,22 @@ public:
     };
     using Blocks = std::vector<std::shared_ptr<FormBlock>>;
 
+    /// A line or a nested block.
+    struct Item {
+        std::string line;                 // empty for a block
+        std::string key;                  // folded name of a property or Properties block, else empty
+        std::shared_ptr<FormBlock> block; // a nested block
+        bool added = false;
+        bool isObject() const { return block && block->kind_ == Kind::Object; }
+        bool operator==(const Item&) const = default;
+    };
+    /// All lines but those of nested blocks.
+    struct Content {
+        std::string firstLine, lastLine;
+        std::vector<Item> items;
+        bool operator==(const Content&) const = default;
+    };
+
     FormBlock(Kind kind, std::string firstLine);
 
     Kind kind() const { return kind_; }
@@ -64,6 +80,13 @@ public:
     /// Puts a removed block back at its position, or at the end if the block is shorter now.
     void restoreObject(std::shared_ptr<FormBlock> block, std::size_t place);
 
+    /// False for a block that the file ends in: lines after it would become part of it.
+    bool isClosed() const { return !lastLine_.empty(); }
+    /// Visits all nested blocks, each before those within it.
+    void eachBlockWithin(const std::function<void(const std::shared_ptr<FormBlock>&)>& see) const;
+    Content content() const;
+    void content(const Content& content);
+
     void writeTo(std::string& out) const;
     std::size_t lineCount() const;
 
@@ -73,13 +96,6 @@ public:
     void close(std::string_view lastLine) { lastLine_ = lastLine; }
 
 private:
-    struct Item {
-        std::string line;                 // empty for a block
-        std::string key;                  // folded name of a property or Properties block, else empty
-        std::shared_ptr<FormBlock> block; // a nested block
-        bool added = false;
-        bool isObject() const { return block && block->kind_ == Kind::Object; }
-    };
     using Items = std::vector<std::unique_ptr<Item>>;
 
     Item* find(std::string_view key) const;

@@ -88,6 +88,31 @@ void FormBlock::restoreObject(std::shared_ptr<FormBlock> block, std::size_t plac
     items_.insert(items_.begin() + std::ptrdiff_t(std::min(place, items_.size())), std::move(item));
 }
 
+void FormBlock::eachBlockWithin(const std::function<void(const std::shared_ptr<FormBlock>&)>& see) const {
+    for (const auto& item : items_) {
+        if (!item->block) continue;
+        see(item->block);
+        item->block->eachBlockWithin(see);
+    }
+}
+
+FormBlock::Content FormBlock::content() const {
+    Content content{firstLine_, lastLine_, {}};
+    for (const auto& item : items_) content.items.push_back(*item);
+    return content;
+}
+
+void FormBlock::content(const Content& content) {
+    firstLine_ = content.firstLine;
+    lastLine_ = content.lastLine;
+    const auto parts = parseFormLine(firstLine_);
+    name_ = parts.name;
+    type_ = parts.type;
+    items_.clear();
+    for (const auto& item : content.items) items_.push_back(std::make_unique<Item>(item));
+    indexed_ = false;
+}
+
 void FormBlock::writeTo(std::string& out) const {
     out += firstLine_;
     for (const auto& item : items_) {
