@@ -156,12 +156,20 @@ void FormCanvas::drawSelection(QPainter& painter) const {
 }
 
 void FormCanvas::drawOutlines(QPainter& painter) const {
-    const bool isFrame = drag_->kind() == FormDrag::Kind::Frame;
-    painter.setPen(isFrame ? QPen(Qt::black, 1, Qt::DotLine) : QPen(Qt::darkGray, 2));
     painter.setBrush(Qt::NoBrush);
+    if (drag_->kind() == FormDrag::Kind::Frame) return drawFrame(painter);
+    painter.setPen(QPen(Qt::darkGray, 2));
     for (const auto& place : drag_->places()) {
         const auto shown = onCanvas(place);
         drag_->isLine() ? painter.drawLine(shown.topLeft(), shown.bottomRight()) : painter.drawRect(shown.normalized());
+    }
+}
+
+/// White below the dashes, which the dots of the grid would hide.
+void FormCanvas::drawFrame(QPainter& painter) const {
+    for (const auto& pen : {QPen(Qt::white, 1), QPen(kGripColour, 1, Qt::DashLine)}) {
+        painter.setPen(pen);
+        painter.drawRect(onCanvas(drag_->place()));
     }
 }
 

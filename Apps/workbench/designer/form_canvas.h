@@ -108,6 +108,7 @@ private:
 
     void drawSelection(QPainter& painter) const;
     void drawOutlines(QPainter& painter) const;
+    void drawFrame(QPainter& painter) const;
     void drawGrips(QPainter& painter) const;
 
     FormView& view_;

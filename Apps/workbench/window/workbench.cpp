@@ -57,6 +57,7 @@ void Workbench::buildWindow() {
     addMenus({*host_, *window_, programActions()});
     addExplorerMenu(*host_, window_->explorer(), runHere);
     addEditorMenu(*host_, window_->code(), runHere);
+    addDesignerMenu(*host_, window_->design(), *window_, runHere);
     recent_ = std::make_unique<RecentProjects>(*host_, recentMenu(*host_), [this](const auto& path) { open(path); });
     unsaved_ = std::make_unique<UnsavedWork>(*host_, *window_, unsavedCallbacks());
     watchForms();
