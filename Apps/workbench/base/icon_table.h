@@ -59,6 +59,8 @@ inline constexpr std::array kIconTable{
     IconDrawing{"Find", "blue E 6.5 6.5 4.5 4.5 ink M 10 10 L 14.5 14.5"},
     IconDrawing{"ZoomIn", "blue E 6.5 6.5 4.5 4.5 ink M 10 10 L 14.5 14.5 green M 4 6.5 L 9 6.5 M 6.5 4 L 6.5 9"},
     IconDrawing{"ZoomOut", "blue E 6.5 6.5 4.5 4.5 ink M 10 10 L 14.5 14.5 green M 4 6.5 L 9 6.5"},
+    IconDrawing{"ZoomWindow",
+                "blue E 6.5 6.5 4.5 4.5 ink M 10 10 L 14.5 14.5 green M 4.5 5 L 8.5 5 L 8.5 8 L 4.5 8 L 4.5 5"},
     IconDrawing{"ZoomReset", "blue E 6.5 6.5 4.5 4.5 ink M 10 10 L 14.5 14.5 green M 5 5.5 L 8 5.5 M 5 7.5 L 8 7.5"},
     IconDrawing{"FindNext", "blue E 6 6 4 4 ink M 9 9 L 11 11 green M 8 14 L 14 14 M 12 12 L 14 14 12 15.5"},
     IconDrawing{"FindPrevious", "blue E 6 6 4 4 ink M 9 9 L 11 11 green M 14 14 L 8 14 M 10 12 L 8 14 10 15.5"},

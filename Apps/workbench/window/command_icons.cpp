@@ -77,6 +77,7 @@ constexpr std::array kCommandIcons{
     CommandIcon{kPropertiesId, "Properties"},
     CommandIcon{kToolboxId, "Toolbox"},
     CommandIcon{kMessagesId, "Messages"},
+    CommandIcon{kZoomWindowId, "ZoomWindow"},
     CommandIcon{kAddFormId, "Form"},
     CommandIcon{kAddModuleId, "Module"},
     CommandIcon{kAddClassId, "Class"},

@@ -230,6 +230,7 @@ const DockCommand kDockCommands[] = {
     {"propertiesDock", kPropertiesId, "Properties &Window", Qt::Key_F4},
     {"toolboxDock", kToolboxId, "Toolbo&x"},
     {"Fernwick Messages", kMessagesId, "Fernwick &Messages", Qt::CTRL | Qt::Key_M},
+    {"Fernwick Zoom", kZoomWindowId, "Fernwick &Zoom"},
 };
 
 const CommandMenu kCommandMenus[] = {

@@ -37,6 +37,7 @@ enum CommandId : int {
     kViewCodeId,
     kViewObjectId,
     kMessagesId,
+    kZoomWindowId,
     kPropertiesId,
     kToolboxId,
     kDockId,

@@ -2,7 +2,9 @@
 #include "Apps/workbench/code/scintilla.h"
 #include "Apps/workbench/designer/control_clipboard.h"
 #include "Apps/workbench/designer/design_desk.h"
+#include "Apps/workbench/designer/form_canvas.h"
 #include "Apps/workbench/designer/form_commands.h"
+#include "Apps/workbench/zoom/zoom_view.h"
 #include <QAbstractSpinBox>
 #include <QApplication>
 #include <QClipboard>
@@ -40,6 +42,8 @@ EditFocus::EditFocus(CodeWindows& code, DesignDesk& design)
 void EditFocus::follow(QWidget* now) {
     if (dynamic_cast<QMenuBar*>(now) || (!now && !QApplication::activeWindow())) return;
     if (now && now->window()->isModal()) return;
+    // the zoom window passes commands on as it does keys
+    if (const auto* const zoom = dynamic_cast<ZoomView*>(now); zoom && zoom->canvas()) now = zoom->canvas();
     focus_ = now;
     changed();
 }
