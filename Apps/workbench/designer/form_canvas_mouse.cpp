@@ -166,7 +166,6 @@ bool FormCanvas::openMenu(const QPointF& onWidget) {
 void FormCanvas::mousePressEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton) return cancelDrag();
     press(event->position(), event->modifiers());
-    if (drag_) moveTo(event->position()); // the origin for a grip
 }
 
 void FormCanvas::mouseMoveEvent(QMouseEvent* event) { moveTo(event->position()); }
