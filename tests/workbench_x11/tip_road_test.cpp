@@ -117,7 +117,12 @@ struct TipRoad : XDesktop {
             return middleOf(*properties.table().viewport(), properties.table().visualRect(index));
         });
         click(cell);
-        press({"ctrl+a"});
+        eventually(std::string("the row ") + property, [&] {
+            auto& properties = window().design().properties();
+            return properties.table().currentIndex().row() == properties.rows().rowOf(property) &&
+                   properties.isAncestorOf(QApplication::focusWidget());
+        });
+        press({"F2", "ctrl+a"});
         type(value);
         press({"Return"});
         eventually(std::string(property) + " is " + value, [&] {
