@@ -42,6 +42,17 @@ public:
     bool wasAdded(std::string_view key) const;
     void eachProperty(const std::function<void(std::string_view key, std::string_view literal)>& see) const;
 
+    /// A property's line as it is in the file.
+    struct Line {
+        std::string text;
+        std::size_t place = 0;
+        bool added = false;
+    };
+    /// Nothing for a property without a line of its own.
+    std::optional<Line> line(std::string_view key) const;
+    /// Restores a line, or the state without one. Returns true if the text changed.
+    bool restore(std::string_view key, const std::optional<Line>& line);
+
     /// Visits the properties of this block and of all blocks within it. `line` is the line number of the block's first
     /// line and, on return, of the line after its last.
     using SeeLine =
@@ -63,6 +74,14 @@ public:
     std::optional<std::size_t> removeObject(const FormBlock& block);
     /// Puts a removed block back at its position, or at the end if the block is shorter now.
     void restoreObject(std::shared_ptr<FormBlock> block, std::size_t place);
+
+    /// Indents this block by more levels, or fewer if negative. Nested Object blocks keep theirs.
+    void indent(int levels);
+
+    class Snapshot;
+    /// Remembers the lines and the nested blocks, and their lines in turn.
+    std::shared_ptr<const Snapshot> snapshot() const;
+    void restore(const Snapshot& snapshot);
 
     void writeTo(std::string& out) const;
     std::size_t lineCount() const;

@@ -7,6 +7,25 @@
 
 namespace host {
 
+class FormBlock::Snapshot {
+public:
+    std::string firstLine, lastLine, name;
+    std::vector<Item> items;
+    std::vector<std::shared_ptr<const Snapshot>> nested; ///< of the items that are blocks
+};
+
+namespace {
+
+constexpr std::size_t kLevelWidth = 3;
+
+void indentLine(std::string& line, int levels) {
+    if (lineText(line).empty()) return;
+    if (levels > 0) line.insert(0, kLevelWidth * std::size_t(levels), ' ');
+    if (levels < 0) line.erase(0, std::min(kLevelWidth * std::size_t(-levels), line.find_first_not_of(' ')));
+}
+
+} // namespace
+
 void FormBlock::eachPropertyWithin(const SeeLine& see, std::size_t& line) const {
     ++line;
     for (const auto& item : items_) {
@@ -86,6 +105,40 @@ void FormBlock::restoreObject(std::shared_ptr<FormBlock> block, std::size_t plac
     auto item = std::make_unique<Item>();
     item->block = std::move(block);
     items_.insert(items_.begin() + std::ptrdiff_t(std::min(place, items_.size())), std::move(item));
+}
+
+void FormBlock::indent(int levels) {
+    indentLine(firstLine_, levels);
+    indentLine(lastLine_, levels);
+    for (const auto& item : items_) {
+        indentLine(item->line, levels);
+        if (item->block && !item->isObject()) item->block->indent(levels);
+    }
+}
+
+std::shared_ptr<const FormBlock::Snapshot> FormBlock::snapshot() const {
+    auto made = std::make_shared<Snapshot>();
+    made->firstLine = firstLine_;
+    made->lastLine = lastLine_;
+    made->name = name_;
+    for (const auto& item : items_) {
+        made->items.push_back(*item);
+        if (item->block) made->nested.push_back(item->block->snapshot());
+    }
+    return made;
+}
+
+void FormBlock::restore(const Snapshot& snapshot) {
+    firstLine_ = snapshot.firstLine;
+    lastLine_ = snapshot.lastLine;
+    name_ = snapshot.name;
+    items_.clear();
+    indexed_ = false;
+    auto nested = snapshot.nested.begin();
+    for (const auto& item : snapshot.items) {
+        items_.push_back(std::make_unique<Item>(item));
+        if (item.block) item.block->restore(**nested++);
+    }
 }
 
 void FormBlock::writeTo(std::string& out) const {
