@@ -19,6 +19,7 @@ enum class PropertyKind : char {
     LongText = 'L', ///< a text that resource files store with a length of one byte
     Font = 'F',
     Picture = 'P',
+    Shortcut = 'K', ///< the key of a menu: ^S or {F5}, without quotes; "" for none
 };
 
 /// A value of an enumeration.
