@@ -1,6 +1,7 @@
 #include "Apps/workbench/designer/design_desk.h"
 #include "Apps/workbench/designer/form_grips.h"
 #include "Apps/workbench/designer/offered_controls.h"
+#include "Apps/workbench/menu_editor/menu_editor.h"
 #include "Basic/runtime_error.h"
 
 namespace workbench {
@@ -105,6 +106,11 @@ void DesignDesk::showObject() {
     const auto* view = forms_->current();
     const bool inFront = view && view->component() == component;
     return inFront ? showCode() : open(component);
+}
+
+void DesignDesk::editMenus() {
+    auto* const view = forms_->current();
+    if (view) run_([&] { workbench::editMenus(history_, view->component(), view); });
 }
 
 bool DesignDesk::undo() {

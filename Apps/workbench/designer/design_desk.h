@@ -31,6 +31,8 @@ public:
     std::function<void()> selectionChanged = [] {};
     /// Reads the grid from the user's settings.
     void updateGrid();
+    /// Edits the menus of the form in front.
+    void editMenus();
     /// Undoes the last change of the form in front. False if no form is in front.
     bool undo();
 

@@ -118,6 +118,9 @@ const Command kRunCommands[] = {
 };
 
 const Command kToolsCommands[] = {
+    {kMenuEditorId, "&Menu Editor...", Qt::CTRL | Qt::Key_E, Enabled::InDesigner,
+     [](auto& on) { on.window.design().editMenus(); }},
+    {kGroup},
     {kOptionsId, "&Options...", kNoKey, kAlways, [](auto& on) { on.program.options(); }},
 };
 

@@ -73,6 +73,7 @@ enum CommandId : int {
     kToolsMenuId,
     kOptionsId,
     kConvertProjectId,
+    kMenuEditorId,
 };
 
 /// The program's actions that commands call.
@@ -99,10 +100,11 @@ struct CommandTargets {
 /// Where a command is enabled.
 enum class Enabled {
     Always,
-    InCode,   ///< while a code window is in front
-    InEditor, ///< while the text of a code window has the focus
-    InText,   ///< while any text that can be edited has the focus
-    CanUndo,  ///< the same, and while a form that is in front has the focus
+    InCode,     ///< while a code window is in front
+    InEditor,   ///< while the text of a code window has the focus
+    InText,     ///< while any text that can be edited has the focus
+    InDesigner, ///< while a form is in front
+    CanUndo,    ///< the same, and while a form that is in front has the focus
 };
 
 struct Command {

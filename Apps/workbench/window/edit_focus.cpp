@@ -53,6 +53,7 @@ bool EditFocus::allows(Enabled where) const {
     switch (where) {
     case Enabled::InCode: return code_.current() != nullptr;
     case Enabled::InEditor: return isInEditor();
+    case Enabled::InDesigner: return design_.forms().current() != nullptr;
     case Enabled::InText: return textOf(focus_) != nullptr;
     case Enabled::CanUndo: return textOf(focus_) || isOnForm();
     default: return true;

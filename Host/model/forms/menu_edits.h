@@ -20,6 +20,7 @@ struct FormMenu {
     std::int32_t helpContextId = 0, negotiatePosition = 0;
     bool checked = false, enabled = true, visible = true, windowList = false;
 
+    bool operator==(const FormMenu&) const = default;
     bool isSeparator() const { return caption == "-"; }
 };
 
