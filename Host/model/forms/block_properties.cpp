@@ -135,11 +135,11 @@ void BlockProperties::list(const std::string& name, const std::vector<std::strin
     if (items != std::as_const(*this).list(name)) setList(*state, *block_, name, items);
 }
 
-/// A font has a block of its own, and a name is not in a property's line.
+/// A name is not in a property's line, and a font may have a block of its own.
 std::function<void()> BlockProperties::restorer(const std::string& name) {
     const auto state = live();
-    if (name == kNameProperty || describe(*state, name).kind == PropertyKind::Font)
-        return PropertySource::restorer(name);
+    if (name == kNameProperty) return PropertySource::restorer(name);
+    if (describe(*state, name).kind == PropertyKind::Font) return fontRestorer(state_, block_, name);
     const auto partner = partnerOf(name);
     return [owner = state_, block = block_, name, line = block_->line(name), partner,
             partnerLine = block_->line(partner)] {

@@ -36,6 +36,7 @@ struct ClassProperty {
     /// The names of an integer's values in its type library. They are not written to forms.
     std::vector<PropertyChoice> named = {};
     bool isColour = false; ///< an integer that is a colour according to its type library
+    std::string help = {}; ///< from its type library
 
     /// The values to choose from; none for a property that is not an enumeration.
     std::vector<PropertyChoice> choices() const;
