@@ -26,8 +26,14 @@ public:
 /// location, and execution continues with the next one.
 class Procedure {
 public:
+    /// A literal is not copied, so that a procedure which runs with every mouse move allocates nothing.
+    Procedure(ErrorReport& report, const char* location)
+        : report_(report), location_(location), unwinding_(std::uncaught_exceptions()) {}
     Procedure(ErrorReport& report, std::string location)
-        : report_(report), location_(std::move(location)), unwinding_(std::uncaught_exceptions()) {}
+        : report_(report),
+          kept_(std::move(location)),
+          location_(kept_.c_str()),
+          unwinding_(std::uncaught_exceptions()) {}
     ~Procedure() {
         if (std::uncaught_exceptions() > unwinding_) report_.escaped(location_);
     }
@@ -62,7 +68,8 @@ public:
 
 private:
     ErrorReport& report_;
-    std::string location_;
+    std::string kept_;
+    const char* location_;
     int unwinding_;
 };
 

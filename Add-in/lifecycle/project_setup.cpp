@@ -79,7 +79,7 @@ void ProjectSetup::switchOn(Procedure& here, const basic::Ref<clsQLProject>& pro
     here([&] { services_.menu.EnableQuinloftMenu(); });
     here([&] { services_.toolbars.EnableQuinloftToolbar(); });
     here([&] { services_.toolbars.EnableSupportToolbar(); });
-    here([&] { services_.features.InitZoomWindow(); });
+    services_.zoom.InitZoomWindow();
     const auto vbProject = project->VBProject();
     services_.messages.ReadProjectErrors(vbProject);
     if (services_.messages.GetCompileErrorWindowState(vbProject))

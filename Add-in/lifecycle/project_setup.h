@@ -6,8 +6,8 @@
 #include "Add-in/lifecycle/frmDesignTargetNormal.h"
 #include "Add-in/lifecycle/frmProjectManager.h"
 #include "Add-in/lifecycle/frmProjectRemoval.h"
-#include "Add-in/lifecycle/missing_features.h"
 #include "Add-in/project/modSaveProject.h"
+#include "Add-in/zoom/modZoomManagement.h"
 
 namespace fernwick {
 
@@ -28,7 +28,7 @@ struct SetupServices {
     CommandItems& items;
     modMenuManagement& menu;
     modToolbarManagement& toolbars;
-    MissingFeatures& features;
+    modZoomManagement& zoom;
 };
 
 class ProjectSetup {

@@ -2,11 +2,13 @@
 
 namespace fernwick {
 
-Control::Control(Form* form, std::string name) : Name(std::move(name)), form_(*form) {
-    form_.controls_.push_back(this);
+Control::Control(Form* form, std::string name) : Name(std::move(name)), form_(form) {
+    if (form_) form_->controls_.push_back(this);
 }
 
-Control::~Control() { std::erase(form_.controls_, this); }
+Control::~Control() {
+    if (form_) std::erase(form_->controls_, this);
+}
 
 void Form::Load() {
     if (loaded_) return;

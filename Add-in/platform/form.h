@@ -11,6 +11,7 @@ class Form;
 
 class Control : public PropertyOwner {
 public:
+    /// A control of a tool window's document has no form.
     Control(Form* form, std::string name);
     Control(const Control&) = delete;
     virtual ~Control();
@@ -21,7 +22,7 @@ public:
     Property<std::string> ToolTipText{this};
 
 private:
-    Form& form_;
+    Form* form_;
 };
 
 /// A form outlives its windows: a window exists between Load and Unload. Load resets the controls to their design

@@ -1,6 +1,7 @@
 #pragma once
 // Operations on the host's windows, for an add-in that works inside them.
 #include "Add-in/platform/events.h"
+#include "Add-in/platform/object.h"
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -127,7 +128,7 @@ public:
     virtual void Clear(Hwnd hwnd) noexcept = 0;
 
     /// The window of an add-in's document in a tool window of the host; 0 if it has none.
-    virtual Hwnd WindowOfDocument(const void* document) const noexcept = 0;
+    virtual Hwnd WindowOfDocument(const Object& document) const noexcept = 0;
     virtual std::unique_ptr<MsgHook> CreateMsgHook() = 0;
 };
 

@@ -6,6 +6,7 @@
 #include "Add-in/platform/environment.h"
 #include "Add-in/platform/event_loop.h"
 #include "Add-in/platform/files.h"
+#include "Add-in/platform/host_windows.h"
 #include "Add-in/platform/interaction.h"
 #include "Add-in/platform/processes.h"
 #include "Add-in/platform/registry.h"
@@ -41,6 +42,7 @@ struct Platform {
     Clipboard& clipboard;
     Shell& shell;
     Screen& screen;
+    HostWindows& windows;
     Clock& clock;
     Resources& resources;
     App app;

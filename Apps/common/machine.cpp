@@ -49,6 +49,7 @@ Machine::Machine(FrontEnd front)
                 front.clipboard,
                 shell_,
                 screen_,
+                front.windows ? *front.windows : noWindows_,
                 clock_,
                 resources_,
                 appOf(installation_, programFolder())} {

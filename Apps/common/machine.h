@@ -1,6 +1,7 @@
 #pragma once
 // The host's services on this system.
 #include "Add-in/platform/platform.h"
+#include "Add-in/platform/windows/no_windows.h"
 #include "Components/QLPipe/base/pipe_services.h"
 #include "Components/QLToolkit/compiler.h"
 #include "Host/registry/registry_store.h"
@@ -28,6 +29,8 @@ struct FrontEnd {
     std::unique_ptr<host::FileSystem> files = std::make_unique<host::FileSystem>();
     /// See host::Shell::Started.
     host::Shell::Started opening = [] {};
+    /// Null for a program without windows.
+    fernwick::HostWindows* windows = nullptr;
 };
 
 /// Stores, fonts and targets are read on first use.
@@ -67,6 +70,7 @@ private:
     std::unique_ptr<fernwick::Processes> processes_;
     host::Shell shell_;
     host::Screen screen_;
+    fernwick::NoWindows noWindows_;
     host::Resources resources_;
     std::function<basic::CodePage(const std::string&)> codePageOfSource_;
     std::shared_ptr<qltoolkit::BuildRecord> build_ = std::make_shared<qltoolkit::BuildRecord>();

@@ -94,7 +94,7 @@ void Component::Activate() {
     const auto self = shared_from_this();
     const auto host = project->host();
     host->select(self);
-    if (hasDesigner()) DesignerWindow()->SetFocus();
+    if (hasDesigner()) designer_->bringToFront();
     host->raise(project->componentsEvents->ItemSelected, self);
     host->raise(project->componentsEvents->ItemActivated, self);
 }
@@ -106,6 +106,20 @@ vbide::Ref<vbide::CodeModule> Component::CodeModule() {
 }
 
 bool Component::hasDesigner() const { return kindOf(type_).hasDesigner; }
+
+std::string Component::designerCaption() const {
+    std::string project;
+    const auto removed = basic::attempt([&] { project = owner()->Name(); });
+    if (removed.Number != 0) return name_;
+    return project + " - " + name_ + " (" + std::string(kindOf(type_).newName) + ")";
+}
+
+void Component::designerShown() {
+    const auto project = project_.lock();
+    const auto host = project ? project->host() : nullptr;
+    const vbide::Ref<vbide::VBComponent> self = shared_from_this();
+    if (host && host->SelectedVBComponent() == self) host->raise(project->componentsEvents->ItemActivated, self);
+}
 
 vbide::Ref<vbide::Properties> Component::Properties() {
     owner();

@@ -83,6 +83,10 @@ public:
 
     bool hasDesigner() const;
     ComponentDesigner& designer() { return *designer_; }
+    /// As in "Project1 - Form1 (Form)", with the present names.
+    std::string designerCaption() const;
+    /// Raises ItemActivated for the selected component, whose designer is shown again, after a save for example.
+    void designerShown();
     /// Raises an event of the host's panes. Does nothing for a removed component.
     void raiseToPanes(PaneEvent event);
 

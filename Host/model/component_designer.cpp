@@ -48,13 +48,31 @@ bool ComponentDesigner::isOpen() const { return window_ && window_->Visible(); }
 
 std::shared_ptr<ToolWindow> ComponentDesigner::window() {
     if (window_) return window_;
-    window_ = std::make_shared<ToolWindow>(component_.Name());
+    window_ = std::make_shared<ToolWindow>([weak = component_.weak_from_this()] {
+        const auto component = weak.lock();
+        return component ? component->designerCaption() : std::string();
+    });
     const auto forward = [&component = component_](PaneEvent event) {
         return [&component, event] { component.raiseToPanes(event); };
     };
     windowEvents_.push_back(window_->changed.connect(forward(&PaneEvents::designerOpened)));
+    windowEvents_.push_back(window_->changed.connect([this] { announce(); }));
     windowEvents_.push_back(window_->focused.connect(forward(&PaneEvents::designerShown)));
     return window_;
+}
+
+void ComponentDesigner::announce() {
+    const bool wasOpen = std::exchange(wasOpen_, isOpen());
+    if (!wasOpen && wasOpen_ && !isActivating_) component_.designerShown();
+}
+
+void ComponentDesigner::bringToFront() {
+    struct Done {
+        bool& isActivating;
+        ~Done() { isActivating = false; }
+    } done{isActivating_};
+    isActivating_ = true; // an activation has events of its own
+    window()->SetFocus();
 }
 
 void ComponentDesigner::reset() {

@@ -24,6 +24,8 @@ public:
     bool isDesignerOf(const vbide::Ref<vbide::VBForm>& form) const;
     bool isOpen() const;
     std::shared_ptr<ToolWindow> window();
+    /// Shows the window as part of the component's activation.
+    void bringToFront();
     const vbide::Ref<vbide::VBControlsEvents>& controlsEvents() const { return controlsEvents_; }
     FormResources& resources() { return resources_; }
     /// Discards the form. Objects handed out for it raise errors from now on.
@@ -32,10 +34,12 @@ public:
 private:
     FormDesigner& designer();
     DesignerHooks hooks();
+    void announce();
 
     Component& component_;
     std::shared_ptr<ToolWindow> window_;
     std::vector<fernwick::Subscription> windowEvents_;
+    bool wasOpen_ = false, isActivating_ = false;
     FormResources resources_;
     std::unique_ptr<FormDesigner> designer_; // created at first use
     const vbide::Ref<vbide::VBControlsEvents> controlsEvents_ = basic::make<vbide::VBControlsEvents>();

@@ -46,8 +46,8 @@ protected:
 
     test::TestHost host;
     host::FileSystem disk;
-    fernwick::Platform diskPlatform{user,      loop,  registry, disk,  processes, classes, environment,
-                                    clipboard, shell, screen,   clock, resources, {}};
+    fernwick::Platform diskPlatform{user,      loop,  registry, disk,    processes, classes,   environment,
+                                    clipboard, shell, screen,   windows, clock,     resources, {}};
     fernwick::modQLInstallInfo diskInstall{registry2, disk};
     fernwick::ProjectServices diskServices{errors, diskPlatform, diskInstall, addIn, devices, templates};
     fernwick::modDependencyManagement onDisk{{diskPlatform, errors, diskInstall, messages, menu}};

@@ -69,19 +69,8 @@ struct MessagesPlatform : TracedPlatform {
     StartedPrograms programs{trace};
     CopiedTexts copied{trace};
     TwoPictures pictures;
-    fernwick::Platform platform{user,
-                                loop,
-                                registry,
-                                files,
-                                processes,
-                                classes,
-                                environment,
-                                copied,
-                                programs,
-                                screen,
-                                clock,
-                                pictures,
-                                TracedPlatform::platform.app};
+    fernwick::Platform platform{user,   loop,     registry, files,   processes, classes,  environment,
+                                copied, programs, screen,   windows, clock,     pictures, TracedPlatform::platform.app};
 };
 
 struct MessagesWorld : AddInWorld<MessagesPlatform> {

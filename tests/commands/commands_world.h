@@ -64,19 +64,9 @@ struct OnePixel : fernwick::Resources {
 struct CommandsPlatform : TracedPlatform {
     TracedClipboard pasteboard{trace};
     OnePixel pictures;
-    fernwick::Platform platform{user,
-                                loop,
-                                registry,
-                                files,
-                                processes,
-                                classes,
-                                environment,
-                                pasteboard,
-                                shell,
-                                screen,
-                                clock,
-                                pictures,
-                                TracedPlatform::platform.app};
+    fernwick::Platform platform{
+        user,       loop,  registry, files,   processes, classes,  environment,
+        pasteboard, shell, screen,   windows, clock,     pictures, TracedPlatform::platform.app};
 };
 
 /// The trace contains all effects on the bars.

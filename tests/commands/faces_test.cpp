@@ -46,8 +46,8 @@ TEST_F(Faces, EachFailureIsIgnored) {
 }
 
 TEST_F(Faces, WithoutAPictureNothingIsPutOnTheClipboard) {
-    fernwick::Platform bare{user,       loop,  registry, files, processes, classes,     environment,
-                            pasteboard, shell, screen,   clock, resources, platform.app};
+    fernwick::Platform bare{user,       loop,  registry, files,   processes, classes,   environment,
+                            pasteboard, shell, screen,   windows, clock,     resources, platform.app};
     EXPECT_TRUE(fernwick::modImageManagement{bare}.PlaceImageOnButton(button, 109));
     EXPECT_THAT(trace.effects, ElementsAre("clipboard cleared", "?: face", "clipboard cleared"));
 }

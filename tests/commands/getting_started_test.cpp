@@ -74,6 +74,7 @@ protected:
                              pasteboard,
                              opener,
                              screen,
+                             windows,
                              clock,
                              pictures,
                              {"QLVBAddIn", "/addin", "https://support", "https://web", "https://runtime",

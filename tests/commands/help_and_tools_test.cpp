@@ -33,8 +33,8 @@ protected:
         registry.set(fernwick::HKEY_LOCAL_MACHINE, "Software\\Quinloft", "RootDir", root);
     }
     Shell programs;
-    fernwick::Platform platformWithPrograms{user,       loop,     registry, files, processes, classes,     environment,
-                                            pasteboard, programs, screen,   clock, pictures,  platform.app};
+    fernwick::Platform platformWithPrograms{user,       loop,     registry, files,   processes, classes,  environment,
+                                            pasteboard, programs, screen,   windows, clock,     pictures, platform.app};
     fernwick::modViewConvertManagement tools{programs, install, errors};
     fernwick::modHelpManagement help{platformWithPrograms, install, errors};
 };
@@ -147,8 +147,8 @@ protected:
     std::vector<std::string> opened;
     host::FileSystem disk;
     host::Shell starter{disk, [this](const std::string& document) { opened.push_back(document); }};
-    fernwick::Platform real{user,       loop,    registry, disk,  processes, classes,     environment,
-                            pasteboard, starter, screen,   clock, pictures,  platform.app};
+    fernwick::Platform real{user,       loop,    registry, disk,    processes, classes,  environment,
+                            pasteboard, starter, screen,   windows, clock,     pictures, platform.app};
     fernwick::modQLInstallInfo install{registry2, disk};
     fernwick::modHelpManagement help{real, install, errors};
 };

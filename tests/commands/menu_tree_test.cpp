@@ -141,8 +141,8 @@ TEST_F(MenuTree, TheToolbarsOfTheSameNamesLeaveItAlone) {
 }
 
 TEST_F(MenuTree, AMissingFaceLeavesTheItem) {
-    fernwick::Platform bare{user,       loop,  registry, files, processes, classes,     environment,
-                            pasteboard, shell, screen,   clock, resources, platform.app};
+    fernwick::Platform bare{user,       loop,  registry, files,   processes, classes,   environment,
+                            pasteboard, shell, screen,   windows, clock,     resources, platform.app};
     fernwick::modImageManagement noImages{bare};
     fernwick::modMenuManagement plainMenu{{user, errors, addIn, registry2, devices, noImages, items}};
     EXPECT_TRUE(plainMenu.SetUpQuinloftMenu(host.ide));

@@ -9,7 +9,6 @@ namespace {
 
 constexpr char kNoDevices[] = "box 68 No devices selected: To continue with this option, you must first select which "
                               "devices will be used. Continue and select devices?";
-constexpr char kNotHere[] = "box 64 Fernwick: This command is not in this build of Fernwick.";
 constexpr char kSettings[] = "form frmQuinloftSettings";
 
 class Commands : public testing::Test, protected test::WholeWorld {
@@ -142,9 +141,14 @@ TEST_F(Commands, ShowsTheMessagesWindow) {
     EXPECT_TRUE(addIn().messages.isToolWindowShowing());
 }
 
-TEST_F(Commands, MissingFeaturesAreReported) {
+TEST_F(Commands, ShowsTheZoomWindow) {
     connected();
-    for (const auto& item : {items().gZoomItem, items().gToolZoom}) EXPECT_THAT(click(item), ElementsAre(kNotHere));
+    for (const auto& item : {items().gZoomItem, items().gToolZoom}) {
+        addIn().zoom.ZoomToolWindow->Visible(false);
+        click(item);
+        ASSERT_TRUE(addIn().zoom.ZoomToolWindow);
+        EXPECT_TRUE(addIn().zoom.ZoomToolWindow->Visible());
+    }
 }
 
 TEST_F(Commands, OpensTheProjectManagerOnceTheProjectHasClosed) {
@@ -169,7 +173,7 @@ TEST_F(Commands, OpensTheSettings) {
     }
 }
 
-TEST_F(Commands, AtTheCommandLineMissingFeaturesAreSilent) {
+TEST_F(Commands, AtTheCommandLineNothingWaits) {
     host.open(hello());
     connect(vbide::vbext_cm_CommandLine);
     EXPECT_THAT(click(items().gZoomItem), IsEmpty());

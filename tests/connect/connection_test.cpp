@@ -9,6 +9,7 @@ using testing::Not;
 namespace {
 
 constexpr char kVariable[] = "environment VBInstance-3AD1D370-2E73-417D-B685-0E1756D55411";
+constexpr char kZoomWindow[] = "window QLVBAddIn.udocZoomWindow {DE645E8C-7810-416f-9F60-78A1E6CCF764}";
 
 class Connection : public testing::Test, protected test::ConnectWorld {
 protected:
@@ -26,9 +27,9 @@ TEST_F(Connection, StartsInOrder) {
                 ElementsAre(kVariable, "sink: build", "sink: projects", "sink: all files", "backup clipboard", "menu",
                             "toolbar", "disable toolbar", "support toolbar", "disable support toolbar",
                             "window QLVBAddIn.udocCompileMsgs {8531D96D-DE1E-11d2-8E96-00104B78F251}",
-                            "Fernwick Messages hidden", "create zoom window", "restore clipboard", "TwipsPerPixelX=15",
-                            "TwipsPerPixelY=15", "enable menu", "enable toolbar", "enable support toolbar",
-                            "init zoom window", "Fernwick Messages hidden", "default target Palm-1",
+                            "Fernwick Messages hidden", kZoomWindow, "Fernwick Zoom hidden", "restore clipboard",
+                            "TwipsPerPixelX=15", "TwipsPerPixelY=15", "enable menu", "enable toolbar",
+                            "enable support toolbar", "Fernwick Messages hidden", "default target Palm-1",
                             "environment TavletStyle-DAF573D9-3AB3-4672-A6A7-6C23862A52E9", "cursor 1",
                             "sink: components of A", "sink: references of A"));
     EXPECT_EQ(connection->LastControlEventTime, 4711);
@@ -63,10 +64,12 @@ TEST_F(Connection, BuildsTheSameInTheOtherModes) {
     connect(vbide::vbext_cm_CommandLine);
     auto before = trace.effects;
     messages.killToolWindow();
+    zoom.CloseZoomWin();
     startHostAnew();
     connect(vbide::vbext_cm_AfterStartup);
     EXPECT_EQ(trace.effects, before);
     messages.killToolWindow();
+    zoom.CloseZoomWin();
     startHostAnew();
     connect(vbide::vbext_cm_Startup);
     EXPECT_EQ(trace.effects, before);
@@ -195,7 +198,7 @@ TEST_F(Connection, ContinuesAfterAFailedSupportToolbar) {
     connect();
     EXPECT_THAT(trace.effects, Contains(failureBox("Could not add Quinloft Converters and Viewers Toolbar;")));
     EXPECT_FALSE(self->connected);
-    EXPECT_TRUE(did("create zoom window"));
+    EXPECT_TRUE(did(kZoomWindow));
 }
 
 TEST_F(Connection, ShowsTheIntroductionIfPreferred) {
@@ -240,6 +243,7 @@ TEST_F(Connection, AFailingCallOfTheStartLosesOneStep) {
     const auto startAgain = [&] {
         editor->connected = true;
         messages.killToolWindow();
+        zoom.CloseZoomWin();
         startHostAnew();
         projects.ClearProjectsList();
         connect();

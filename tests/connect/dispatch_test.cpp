@@ -71,9 +71,7 @@ TEST_F(Dispatch, CommandsReportUnderTheirOwnNames) {
         {&connection->CompileProjectHandler, "CompileProjectHandler"},
         {&connection->ToolCompileProjectHandler, "CompileProjectHandler"},
         {&connection->ToolDeployProjectHandler, "ToolDeployProjectHandler"},
-        {&connection->CompileErrorWindowHandler, "CompileErrorWindowHandler"},
-        {&connection->ZoomWindowHandler, "ZoomWindowHandler"},
-        {&connection->ToolZoomWindowHandler, "ZoomWindowHandler"}};
+        {&connection->CompileErrorWindowHandler, "CompileErrorWindowHandler"}};
     for (const auto& [sink, handler] : commands) {
         *sink = vbe->Events()->CommandBarEvents(item("clicked"));
         errors.seen.clear();

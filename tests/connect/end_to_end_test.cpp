@@ -1,5 +1,6 @@
 // The whole add-in over the real host, with real files and a real registry store.
 #include "Add-in/core/connect/connections.h"
+#include "Add-in/platform/windows/no_windows.h"
 #include "Host/system/classes.h"
 #include "Host/system/environment.h"
 #include "Host/system/file_system.h"
@@ -77,10 +78,11 @@ protected:
     test::TextClipboard clipboard{trace};
     test::NoShell shell;
     test::FixedScreen screen;
+    fernwick::NoWindows windows;
     test::FixedClock clock;
     test::NoResources resources;
-    fernwick::Platform platform{user,      loop,  host.registry, files, processes, classes, environment,
-                                clipboard, shell, screen,        clock, resources, {}};
+    fernwick::Platform platform{user,      loop,  host.registry, files,   processes, classes,   environment,
+                                clipboard, shell, screen,        windows, clock,     resources, {}};
     test::FakeTargets targets{classes};
     basic::Ref<test::FakeCompiler> compiler = basic::make<test::FakeCompiler>(trace);
     std::shared_ptr<void> compilerClass = classes.RegisterClass(

@@ -29,7 +29,7 @@ protected:
 TEST_F(ProjectEvents, AddsAProjectInOrder) {
     EXPECT_THAT(raiseAdded(opened("A")),
                 ElementsAre("sink: files of A", "enable menu", "enable toolbar", "enable support toolbar",
-                            "init zoom window", "Fernwick Messages hidden", "default target Palm-1",
+                            "Fernwick Messages hidden", "default target Palm-1",
                             "environment TavletStyle-DAF573D9-3AB3-4672-A6A7-6C23862A52E9", "cursor 1",
                             "sink: files of A", "sink: components of A", "sink: references of A", "restore toolbars"));
     EXPECT_TRUE(projects.GetQLProject(vbe->active));
@@ -292,8 +292,8 @@ TEST_F(ProjectEvents, ClosingSavesChanges) {
     opened("B");
     project->dirty = true;
     messages.showToolWindow();
-    EXPECT_THAT(raiseRemoved(project), ElementsAre("Visible=TRUE", "A saved /p/A.vbp", "A dirty 0",
-                                                   "save recent projects", "save toolbars", "save zoom window"));
+    EXPECT_THAT(raiseRemoved(project),
+                ElementsAre("Visible=TRUE", "A saved /p/A.vbp", "A dirty 0", "save recent projects", "save toolbars"));
     EXPECT_FALSE(projects.FindQLProject(project));
 }
 
@@ -301,7 +301,7 @@ TEST_F(ProjectEvents, ClosingASavedProjectSavesNothing) {
     const auto project = added("A");
     opened("B");
     messages.showToolWindow();
-    EXPECT_THAT(raiseRemoved(project), ElementsAre("save recent projects", "save toolbars", "save zoom window"));
+    EXPECT_THAT(raiseRemoved(project), ElementsAre("save recent projects", "save toolbars"));
 }
 
 TEST_F(ProjectEvents, ClosingAProjectOfAnUnknownDeviceSavesNothing) {
@@ -309,14 +309,14 @@ TEST_F(ProjectEvents, ClosingAProjectOfAnUnknownDeviceSavesNothing) {
     const auto project = added("A", "Gone-9");
     opened("B");
     project->dirty = true;
-    EXPECT_THAT(raiseRemoved(project), ElementsAre("save recent projects", "save toolbars", "save zoom window"));
+    EXPECT_THAT(raiseRemoved(project), ElementsAre("save recent projects", "save toolbars"));
 }
 
 TEST_F(ProjectEvents, ATemplateIsNotRemembered) {
     const auto project = added("A");
     opened("B");
     project->file = "/vb/Template/Projects/Fernwick Project.vbp";
-    EXPECT_THAT(raiseRemoved(project), ElementsAre("save toolbars", "save zoom window"));
+    EXPECT_THAT(raiseRemoved(project), ElementsAre("save toolbars"));
 }
 
 TEST_F(ProjectEvents, ClosingTheStubStoresNothing) {

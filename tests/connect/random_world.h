@@ -2,6 +2,7 @@
 // The add-in and its importer in a real host over files, with everything else in memory, for many short steps.
 #include "Add-in/core/connect/connections.h"
 #include "Add-in/lifecycle/project_importer.h"
+#include "Add-in/platform/windows/no_windows.h"
 #include "Host/model/host.h"
 #include "Host/system/classes.h"
 #include "Host/system/clipboard.h"
@@ -63,11 +64,12 @@ protected:
     TracedProcesses processes{trace};
     NoShell shell;
     FixedScreen screen;
+    fernwick::NoWindows windows;
     FixedClock clock;
     NoResources resources;
     FakeTargets targets{classes};
-    fernwick::Platform platform{user,      loop,  registry, files, processes, classes, environment,
-                                clipboard, shell, screen,   clock, resources, {}};
+    fernwick::Platform platform{user,      loop,  registry, files,   processes, classes,   environment,
+                                clipboard, shell, screen,   windows, clock,     resources, {}};
     std::function<bool()> mayReplaceProjects = [] { return true; };
     std::vector<std::string> failures;
     std::shared_ptr<host::Host> ide = host::Host::create(options());

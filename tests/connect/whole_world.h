@@ -1,6 +1,7 @@
 #pragma once
 // The whole add-in over the real host, used through its menu; user, compiler and devices are fakes.
 #include "Add-in/core/connect/connections.h"
+#include "Add-in/platform/windows/no_windows.h"
 #include "Host/system/classes.h"
 #include "Host/system/clipboard.h"
 #include "Host/system/environment.h"
@@ -94,6 +95,7 @@ protected:
     host::Processes processes{[](const std::string&, const std::string&) { return true; }};
     TracedShell shell{trace};
     FixedScreen screen;
+    fernwick::NoWindows windows;
     FixedClock clock;
     host::Resources resources{files, FERNWICK_SOURCE_DIR "/installation"};
     fernwick::Platform platform{user,
@@ -106,6 +108,7 @@ protected:
                                 clipboard,
                                 shell,
                                 screen,
+                                windows,
                                 clock,
                                 resources,
                                 {"QLVBAddIn", FERNWICK_SOURCE_DIR "/installation/VB Toolkit/Bin",

@@ -24,19 +24,8 @@ public:
 
 struct GuardedPlatform : TracedPlatform {
     GuardedRegistry store;
-    fernwick::Platform platform{user,
-                                loop,
-                                store,
-                                files,
-                                processes,
-                                classes,
-                                environment,
-                                clipboard,
-                                shell,
-                                screen,
-                                clock,
-                                resources,
-                                TracedPlatform::platform.app};
+    fernwick::Platform platform{user,      loop,  store,  files,   processes, classes,   environment,
+                                clipboard, shell, screen, windows, clock,     resources, TracedPlatform::platform.app};
 };
 
 class CoreTest : public ::testing::Test, protected AddInWorld<GuardedPlatform> {

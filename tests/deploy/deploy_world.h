@@ -73,19 +73,9 @@ struct DiskPlatform : TracedPlatform {
     }
     TempFolder folder;
     TracedHostFiles disk{trace};
-    fernwick::Platform platform{user,
-                                loop,
-                                registry,
-                                disk,
-                                processes,
-                                classes,
-                                environment,
-                                clipboard,
-                                shell,
-                                screen,
-                                clock,
-                                resources,
-                                TracedPlatform::platform.app};
+    fernwick::Platform platform{
+        user,      loop,  registry, disk,    processes, classes,   environment,
+        clipboard, shell, screen,   windows, clock,     resources, TracedPlatform::platform.app};
 };
 
 /// The add-in over files on disk, and the devices of one family.

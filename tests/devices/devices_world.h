@@ -89,19 +89,9 @@ struct FixedValidation : qlpipe::IQLPipeValidation {
 
 struct DevicesPlatform : TracedPlatform {
     ScriptedUser user;
-    fernwick::Platform platform{user,
-                                loop,
-                                registry,
-                                files,
-                                processes,
-                                classes,
-                                environment,
-                                clipboard,
-                                shell,
-                                screen,
-                                clock,
-                                resources,
-                                TracedPlatform::platform.app};
+    fernwick::Platform platform{
+        user,      loop,  registry, files,   processes, classes,   environment,
+        clipboard, shell, screen,   windows, clock,     resources, TracedPlatform::platform.app};
 };
 
 template <class Machine>

@@ -26,10 +26,10 @@ TEST_F(SetupProject, EnablesTheInterfaceForAValidDevice) {
     const auto project = open("A", "Palm-1");
     setUp(project);
     EXPECT_EQ(projects.gCurrentProject, project);
-    EXPECT_THAT(trace.effects, ElementsAre("TwipsPerPixelX=15", "TwipsPerPixelY=15", "enable menu", "enable toolbar",
-                                           "enable support toolbar", "init zoom window", "Fernwick Messages hidden",
-                                           "default target Palm-1",
-                                           "environment TavletStyle-DAF573D9-3AB3-4672-A6A7-6C23862A52E9", "cursor 1"));
+    EXPECT_THAT(trace.effects,
+                ElementsAre("TwipsPerPixelX=15", "TwipsPerPixelY=15", "enable menu", "enable toolbar",
+                            "enable support toolbar", "Fernwick Messages hidden", "default target Palm-1",
+                            "environment TavletStyle-DAF573D9-3AB3-4672-A6A7-6C23862A52E9", "cursor 1"));
 }
 
 TEST_F(SetupProject, RestoresTheMessagesWindow) {

@@ -21,8 +21,8 @@ struct ProjectPlatform : DevicesPlatform {
     TestHost host;
     host::FileSystem files;
     FakeScreen screen;
-    fernwick::Platform platform{user,      loop,  registry, files, processes, classes, environment,
-                                clipboard, shell, screen,   clock, resources, {}};
+    fernwick::Platform platform{user,      loop,  registry, files,   processes, classes,   environment,
+                                clipboard, shell, screen,   windows, clock,     resources, {}};
 };
 
 class ProjectTest : public DevicesTestOver<ProjectPlatform> {

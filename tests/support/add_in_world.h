@@ -3,7 +3,7 @@
 #include "Add-in/core/connect/Modules.h"
 #include "bar_steps.h"
 #include "fake_targets.h"
-#include "noted_features.h"
+#include "noted_settings.h"
 #include "traced_bars.h"
 #include "traced_host.h"
 #include "traced_platform.h"
@@ -13,7 +13,7 @@ namespace test {
 /// A platform in memory, and the objects that the add-in takes besides it.
 template <class Machine>
 struct AddInMachine : Machine {
-    NotedFeatures noted{this->trace};
+    NotedSettings noted{this->trace};
     FakeTargets targets{this->classes};
 };
 
@@ -27,7 +27,7 @@ struct AddInWorld : AddInMachine<Machine>, fernwick::Modules {
     using Machine::processes;
     using Machine::registry;
 
-    AddInWorld() : Modules(Machine::platform, {&this->errors, &this->noted, &this->noted}) {
+    AddInWorld() : Modules(Machine::platform, {&this->errors, &this->noted}) {
         addIn.gVBInstance = vbe;
         vbe->bars = bars;
         barTrace.observer = [this](const std::string& effect) {
@@ -58,8 +58,10 @@ struct AddInWorld : AddInMachine<Machine>, fernwick::Modules {
     /// The document of the messages window, which the host creates by its ProgID.
     Ref<fernwick::udocCompileMsgs> window =
         basic::cast<fernwick::udocCompileMsgs>(this->classes.CreateObject("QLVBAddIn.udocCompileMsgs"));
-    Ref<TracedVbe> vbe =
-        basic::make<TracedVbe>(this->trace, [this](const std::string&) { return Ref<fernwick::Object>(window); });
+    Ref<TracedVbe> vbe = basic::make<TracedVbe>(this->trace, [this](const std::string& progId) {
+        const bool isMessages = progId == "QLVBAddIn.udocCompileMsgs";
+        return isMessages ? Ref<fernwick::Object>(window) : this->classes.CreateObject(progId);
+    });
 };
 
 } // namespace test

@@ -99,11 +99,13 @@ public:
         last = basic::make<TracedWindow>(trace_);
         last->caption = caption;
         last->visible = true;
+        list.push_back(last);
         return last;
     }
-    std::vector<Ref<vbide::Window>> items() const override { return {}; }
+    std::vector<Ref<vbide::Window>> items() const override { return {list.begin(), list.end()}; }
 
     Ref<TracedWindow> last;
+    std::vector<Ref<TracedWindow>> list;
 
 private:
     Trace& trace_;

@@ -2,6 +2,7 @@
 // A platform in memory, whose calls are recorded in one trace and may fail.
 #include "Add-in/platform/controls.h"
 #include "Add-in/platform/platform.h"
+#include "Add-in/platform/windows/no_windows.h"
 #include "recording_report.h"
 #include "traced_files.h"
 #include "traced_registry.h"
@@ -269,10 +270,11 @@ struct TracedPlatform {
     TextClipboard clipboard{trace};
     NoShell shell;
     FixedScreen screen;
+    fernwick::NoWindows windows;
     FixedClock clock;
     NoResources resources;
-    fernwick::Platform platform{user,      loop,  registry, files, processes, classes, environment,
-                                clipboard, shell, screen,   clock, resources, {}};
+    fernwick::Platform platform{user,      loop,  registry, files,   processes, classes,   environment,
+                                clipboard, shell, screen,   windows, clock,     resources, {}};
 };
 
 } // namespace test

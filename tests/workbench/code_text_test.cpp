@@ -164,6 +164,7 @@ TEST_F(Code, TheListsShowObjectsAndTheirProcedures) {
     EXPECT_EQ(entries(objects), (QStringList{"(General)", "Form"}));
     EXPECT_EQ(objects.currentText(), "Form");
     EXPECT_EQ(procedures.currentText(), "Load");
+    EXPECT_EQ(entries(procedures).first(3), (QStringList{"Activate", "Click", "DblClick"}));
     editor->show();
     text().setCursorPosition(2, 0);
     EXPECT_TRUE(QTest::qWaitFor([&objects] { return objects.currentText() == "(General)"; }));

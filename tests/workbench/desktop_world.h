@@ -1,6 +1,7 @@
 #pragma once
 // The platform of the desktop, without a host.
 #include "Add-in/platform/platform.h"
+#include "Add-in/platform/windows/no_windows.h"
 #include "Apps/workbench/bridge/qt_clipboard.h"
 #include "Apps/workbench/bridge/qt_loop.h"
 #include "Apps/workbench/bridge/qt_user.h"
@@ -35,9 +36,10 @@ protected:
     host::Processes processes{[](const std::string&, const std::string&) { return false; }};
     host::Shell shell{files, [](const std::string&) {}};
     host::Screen screen;
+    fernwick::NoWindows windows;
     host::Resources resources{files, {}};
-    fernwick::Platform platform{user,      loop,  registry, files, processes, classes, environment,
-                                clipboard, shell, screen,   clock, resources, {}};
+    fernwick::Platform platform{user,      loop,  registry, files,   processes, classes,   environment,
+                                clipboard, shell, screen,   windows, clock,     resources, {}};
 };
 
 } // namespace test

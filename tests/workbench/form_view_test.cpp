@@ -688,6 +688,24 @@ TEST_F(FormDesigners, TheToolboxOffersTheControlsOfTheProject) {
     EXPECT_FALSE(offers("Menu"));
 }
 
+TEST_F(FormDesigners, TheToolboxSaysWhichControlsDoNotStay) {
+    const auto titles = [this] {
+        std::vector<std::string> all;
+        for (int row = 1; row < desk().toolbox().count(); ++row)
+            if (desk().toolbox().item(row)->flags() == Qt::NoItemFlags)
+                all.push_back(desk().toolbox().item(row)->text().toStdString());
+        return all;
+    };
+    openForm("");
+    EXPECT_THAT(titles(), testing::ElementsAre("Visual Basic controls"));
+    openSample("AddressBook");
+    design("frmPerson");
+    EXPECT_THAT(titles(),
+                testing::ElementsAre("Device controls", "Visual Basic controls\n(removed by Fernwick)"));
+    QTest::keyClick(&desk().toolbox(), Qt::Key_Down); // over the title
+    EXPECT_EQ(desk().toolbox().tool(), "TavletsCtl.QLAlarm");
+}
+
 TEST_F(FormDesigners, AToolDrawsAControlWithTheMouse) {
     openForm("");
     pick("CommandButton");

@@ -113,9 +113,10 @@ TEST_F(Icons, DeviceControlsComeFirstAndLookDifferent) {
     openSample("AddressBook");
     design("frmPerson");
     auto& tools = desk().toolbox();
-    EXPECT_EQ(tools.item(1)->text(), "QLAlarm");
+    EXPECT_EQ(tools.item(1)->text(), "Device controls");
+    EXPECT_EQ(tools.item(2)->text(), "QLAlarm");
     std::set<QByteArray> seen;
-    for (int row = 0; row < tools.count() && tools.item(row)->text() != "PictureBox"; ++row)
+    for (int row = 2; row < tools.count() && !tools.item(row)->icon().isNull(); ++row)
         EXPECT_TRUE(seen.insert(bytesOf(drawn(tools.item(row)->icon(), 20))).second)
             << tools.item(row)->text().toStdString();
 }

@@ -1,5 +1,6 @@
 // Compile steps on the desktop run only in folders that the user trusts.
 #include "tests/workbench/open_desktop.h"
+#include <QMessageBox>
 #include <QPushButton>
 #include <filesystem>
 

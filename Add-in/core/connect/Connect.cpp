@@ -45,7 +45,7 @@ void Connect::buildInterface(Procedure& here, const Host& VBInst, const basic::R
     else
         failStart(here, connect_texts::kNoSupportToolbar, AddInInst);
     services_.messages.createToolWindow();
-    here([&] { services_.features.createZoomWindow(); });
+    services_.zoom.createZoomWindow();
 }
 
 void Connect::buildMenu(Procedure& here, const Host& VBInst, const basic::Ref<vbide::AddIn>& AddInInst) {

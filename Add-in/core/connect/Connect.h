@@ -17,6 +17,7 @@
 #include "Add-in/lifecycle/project_setup.h"
 #include "Add-in/lifecycle/sample_opening.h"
 #include "Add-in/project/frmSaveWarning.h"
+#include "Add-in/zoom/modZoomManagement.h"
 #include <array>
 
 namespace fernwick {
@@ -76,7 +77,7 @@ struct ConnectServices {
     frmDesignTargetConverter& converter;
     frmDesignTargetConverterWarning& converterWarning;
     SettingsDialog& settings;
-    MissingFeatures& features;
+    modZoomManagement& zoom;
     const modQLInstallInfo& install;
     frmCompile& compile;
     frmSendToDevice& sendToDevice;
@@ -282,7 +283,7 @@ private:
     void toMyDevices(const std::function<void(const std::string& device)>& act);
     // Other commands
     void ProjectManagerHandler_Click() { services_.setup.StartProjectManager(); }
-    void ZoomWindowHandler_Click();
+    void ZoomWindowHandler_Click() { services_.zoom.ShowZoomWin(); }
     void DownloadVMHandler_Click();
     void AddinUsersGuideHandler_Click();
     void AddinOnlineHelpHandler_Click();

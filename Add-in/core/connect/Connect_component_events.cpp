@@ -100,14 +100,14 @@ void Connect::CompsEventsHandler_ItemSelected(Component VBComponent) {
             }
         });
     SelectedForm = VBComponent;
-    here([&] { services_.features.SetZoomForm(VBComponent); });
+    services_.zoom.SetZoomForm(VBComponent);
 }
 
 void Connect::CompsEventsHandler_ItemActivated(Component VBComponent) {
     Procedure here{services_.errors, "Connect.CompsEventsHandler_ItemActivated"};
     if (!isFormOfOurs(here, VBComponent)) return;
     if (here.test([&] { return VBComponent->HasOpenDesigner(); })) here([&] { watchDesigner(VBComponent); });
-    here([&] { services_.features.SetZoomForm(VBComponent); });
+    services_.zoom.SetZoomForm(VBComponent);
 }
 
 /// Only looks the project up, which reports an unlisted one.

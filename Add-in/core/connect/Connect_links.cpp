@@ -8,11 +8,6 @@ namespace {
 constexpr char kHelloWorldTutorial[] = "VB Toolkit\\doc\\Hello World Tutorial\\hw_write.html";
 } // namespace
 
-void Connect::ZoomWindowHandler_Click() {
-    Procedure here{services_.errors, "Connect.ZoomWindowHandler_Click"};
-    here([&] { services_.features.notInThisBuild(); });
-}
-
 void Connect::DownloadVMHandler_Click() {
     const int answer = services_.user.MsgBox(connect_texts::kDownload, vbOKCancel, connect_texts::kDownloadTitle);
     if (answer == vbOK) services_.shell.Open(services_.app.RuntimeWebAddress);

@@ -137,7 +137,7 @@ void Connect::keepDesktopState(Procedure& here, const QLProject& project) {
     if (here.test([&] { return !services_.projects.ProjectIsFromTemplate(project->VBProject()); }))
         services_.recent.AddProjectToRecentList(project);
     here([&] { services_.toolbars.SaveAllToolbarState(); });
-    here([&] { services_.features.SaveZoomWindowState(); });
+    services_.zoom.SaveZoomWindowState();
 }
 
 /// No trap. A renamed project gets a new module identifier.

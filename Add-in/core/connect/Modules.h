@@ -6,13 +6,13 @@
 #include "Add-in/build/frmValidate.h"
 #include "Add-in/build/messages/udocCompileMsgs.h"
 #include "Add-in/core/connect/Connect.h"
-#include "Add-in/core/connect/not_in_this_build.h"
 #include "Add-in/core/modAddInErrorManagement.h"
 #include "Add-in/deploy/frmSendRuntimeToDevice.h"
 #include "Add-in/deploy/frmSendToDevice.h"
 #include "Add-in/lifecycle/frmDesignTargetConverterWarning.h"
 #include "Add-in/project/frmSaveWarning.h"
 #include "Add-in/settings/frmQuinloftSettings.h"
+#include "Add-in/zoom/udocZoomWindow.h"
 
 namespace fernwick {
 
@@ -20,7 +20,6 @@ namespace fernwick {
 struct ModuleOverrides {
     ErrorReport* errors = nullptr;
     SettingsDialog* settings = nullptr;
-    MissingFeatures* features = nullptr;
 };
 
 /// One instance of each module and form, in the order of the rooms: a member may use only those above it, so the
@@ -40,8 +39,6 @@ struct Modules {
     modAddinPrefsManagement prefs{registry, errors};
     AddIn addIn{registry, errors, platform.environment};
     modReferencesManagement references{registry, platform.classes, errors};
-    NotInThisBuild notInThisBuild{platform.interaction, addIn};
-    MissingFeatures& features;
     // devices
     modDeviceManagement devices{platform.classes, errors};
     DeviceServices deviceServices{errors, platform.interaction, platform.classes, registry, prefs, references, devices};
@@ -80,6 +77,9 @@ struct Modules {
     frmSendToDevice sendToDevice{
         pipeServices, {addIn, prefs, projects, messages, dependencies, compile, compileWarning, validate, settings}};
     frmSendRuntimeToDevice sendRuntime{pipeServices};
+    // zoom
+    modZoomManagement zoom{addIn, errors, prefs, platform};
+    modZoomWindowSubclassing zoomSubclassing{zoom, errors, platform};
     // lifecycle
     modRecentProjectManagment recent{registry, platform.files, errors};
     frmProjectManager projectManager{
@@ -87,7 +87,7 @@ struct Modules {
     frmProjectRemoval removal{platform.interaction, platform.loop, addIn, projects, items, menu, errors};
     frmDesignTargetNormal chooseTarget{deviceServices};
     ProjectSetup setup{{errors, platform.interaction, platform.loop, addIn, devices, deviceServices, projects, save,
-                        messages, chooseTarget, projectManager, removal, items, menu, toolbars, features}};
+                        messages, chooseTarget, projectManager, removal, items, menu, toolbars, zoom}};
     ConversionServices conversionServices{
         errors, platform.interaction, platform.files, deviceServices, projectServices, projects, setup};
     frmDesignTargetConverter converter{conversionServices, addIn};
@@ -123,7 +123,7 @@ struct Modules {
                      converter,
                      converterWarning,
                      settings,
-                     features,
+                     zoom,
                      install,
                      compile,
                      sendToDevice,
@@ -140,10 +140,13 @@ struct Modules {
 
 private:
     basic::Ref<Object> newCompileMsgs();
+    basic::Ref<Object> newZoomWindow();
+    void endZoom();
 
     /// Documents of the host's tool windows, which own them.
     std::vector<std::weak_ptr<udocCompileMsgs>> documents_;
-    std::shared_ptr<void> compileMsgsClass_;
+    std::vector<std::weak_ptr<udocZoomWindow>> zoomDocuments_;
+    std::shared_ptr<void> compileMsgsClass_, zoomWindowClass_;
 };
 
 } // namespace fernwick

@@ -11,8 +11,6 @@ inline constexpr char kNoSupportToolbar[] = "Could not add Quinloft Converters a
 inline constexpr char kFailedStepBefore[] = "ERROR!\r\n\r\n";
 inline constexpr char kFailedStepAfter[] = "\r\nFailing to install Fernwick Add-In";
 
-inline constexpr char kNotInThisBuild[] = "This command is not in this build of Fernwick.";
-
 /// The texts before and after the device's key.
 inline constexpr char kTypeNotSupportedBefore[] = "This component type is not supported on ";
 inline constexpr char kTypeNotSupportedAfter[] = " devices";

@@ -113,11 +113,10 @@ QAction* BarsView::actionOf(const std::shared_ptr<host::BarControl>& control) {
     if (!drawn.button && !drawn.popup) make(drawn, control);
     auto* const action = drawn.popup ? drawn.popup->menuAction() : drawn.button.get();
     const auto caption = qt(control->Caption());
-    const auto whyNot = unavailable(*control);
     action->setText(caption);
-    action->setToolTip(whyNot.isEmpty() ? withKey(tipOf(*control), drawn.key) : whyNot);
+    action->setToolTip(withKey(tipOf(*control), drawn.key));
     if (drawn.button) showButton(drawn, *control);
-    action->setEnabled(control->Enabled() && control->Parent()->Enabled() && whyNot.isEmpty());
+    action->setEnabled(control->Enabled() && control->Parent()->Enabled());
     action->setVisible(control->Visible() && (!drawn.popup || showsAnything(*control->popup())));
     if (drawn.popup) fill(*drawn.popup, *control->popup());
     return action;

@@ -36,10 +36,6 @@ public:
     ~BarsView();
     BarsView(const BarsView&) = delete;
 
-    /// Why a command cannot be used yet, though an add-in enables it; empty for the others. The command is drawn as
-    /// disabled and has this text as its tool tip.
-    std::function<QString(const host::BarControl&)> unavailable = [](const host::BarControl&) { return QString(); };
-
     /// Draws the model at once, without waiting for Qt's loop.
     void draw();
     /// Gives the commands the keys that lookOf returns now.

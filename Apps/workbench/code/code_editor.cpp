@@ -5,6 +5,8 @@
 #include "Apps/workbench/code/code_texts.h"
 #include "Apps/workbench/code/procedure_bar.h"
 #include "Apps/workbench/code/vb_lexer.h"
+#include "Apps/workbench/events/event_handler.h"
+#include "Basic/runtime_error.h"
 #include "Host/model/component.h"
 #include <QBoxLayout>
 #include <algorithm>
@@ -35,7 +37,9 @@ CodeEditor::CodeEditor(vbide::Ref<vbide::VBComponent> component, ProjectNames& n
     : component_(std::move(component)),
       module_(component_->CodeModule()),
       refused_(std::move(refused)),
-      procedures_(new ProcedureBar(component_, [this](int line) { goToLine(line); })),
+      procedures_(
+          new ProcedureBar(component_, {[this](int line) { goToLine(line); },
+                                        [this](const auto& object, const auto& event) { addHandler(object, event); }})),
       text_(new CodeInput([this](const QString& inserted) { return accepts(inserted); })),
       marks_(*text_),
       typedLine_(*text_, [this, &names](int line) { return names.at(component_, line); }),
@@ -159,6 +163,14 @@ void CodeEditor::listProcedures() {
     int line = 0, column = 0;
     text_->getCursorPosition(&line, &column);
     procedures_->list(line + 1);
+}
+
+void CodeEditor::addHandler(const EventObject& object, const host::ClassEvent& event) {
+    try {
+        openHandler(*component_, object, event);
+    } catch (const basic::RuntimeError&) { refused_(std::current_exception()); }
+    listProcedures();
+    text_->setFocus();
 }
 
 void CodeEditor::goToProcedure(bool before) {

@@ -6,6 +6,7 @@
 #include "Apps/workbench/code/line_marks.h"
 #include "Apps/workbench/code/project_names.h"
 #include "Apps/workbench/code/typed_line.h"
+#include "Apps/workbench/events/object_events.h"
 #include "Apps/workbench/options/code_look.h"
 #include <QTimer>
 #include <QWidget>
@@ -67,6 +68,7 @@ private:
     void edited(int position, int linesAdded, bool isUndo);
     void refuse(std::exception_ptr error);
     void listProcedures();
+    void addHandler(const EventObject& object, const host::ClassEvent& event);
 
     vbide::Ref<vbide::VBComponent> component_;
     vbide::Ref<vbide::CodeModule> module_;

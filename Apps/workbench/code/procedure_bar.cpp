@@ -2,8 +2,9 @@
 #include "Apps/workbench/base/text.h"
 #include <QBoxLayout>
 #include <QComboBox>
-#include <QSet>
+#include <QHash>
 #include <QSignalBlocker>
+#include <map>
 
 namespace workbench {
 
@@ -21,49 +22,18 @@ QString handledObject(const vbide::Member& member) {
     return name.left(std::max<qsizetype>(0, name.lastIndexOf('_')));
 }
 
-/// The names under which a component's own events are handled.
-QStringList ownObjects(vbide::vbext_ComponentType type) {
-    switch (type) {
-    case vbide::vbext_ct_VBForm: return {"Form"};
-    case vbide::vbext_ct_VBMDIForm: return {"MDIForm"};
-    case vbide::vbext_ct_ClassModule: return {"Class"};
-    case vbide::vbext_ct_PropPage: return {"PropertyPage"};
-    case vbide::vbext_ct_UserControl: return {"UserControl"};
-    case vbide::vbext_ct_DocObject: return {"UserDocument"};
-    default: return {};
-    }
-}
-
-QStringList objectsOf(vbide::VBComponent& component) {
-    auto objects = ownObjects(component.Type());
-    if (const auto designer = component.Designer())
-        for (const auto& control : designer->VBControls()->items())
-            objects << qt(fernwick::asText(control->Properties()->Item("Name")->Value()));
-    return objects;
-}
-
 QString generalObject() { return "(General)"; }
 
-/// The entry of the list that a procedure belongs to.
-QString objectOf(const vbide::Member& member, const QComboBox& objects) {
-    const int row = objects.findText(handledObject(member), Qt::MatchFixedString);
-    return row < 0 ? generalObject() : objects.itemText(row);
-}
-
-/// The procedure that contains a line (from 1), null above the first one.
-const vbide::Member* memberAt(const std::vector<vbide::Member>& members, int line) {
-    const vbide::Member* within = nullptr;
-    for (const auto& member : members)
-        if (isProcedure(member) && member.CodeLocation <= line &&
-            (!within || member.CodeLocation > within->CodeLocation))
-            within = &member;
-    return within;
-}
+/// The name of a handler without its object.
+QString handledEvent(const vbide::Member& member) { return qt(member.Name).mid(handledObject(member).size() + 1); }
 
 } // namespace
 
-ProcedureBar::ProcedureBar(vbide::Ref<vbide::VBComponent> component, std::function<void(int line)> goTo)
-    : component_(std::move(component)), objects_(new QComboBox), procedures_(new QComboBox) {
+ProcedureBar::ProcedureBar(vbide::Ref<vbide::VBComponent> component, Callbacks callbacks)
+    : component_(std::move(component)),
+      callbacks_(std::move(callbacks)),
+      objects_(new QComboBox),
+      procedures_(new QComboBox) {
     objects_->setObjectName("objects");
     procedures_->setObjectName("procedures");
     auto* const lists = new QHBoxLayout(this);
@@ -71,48 +41,106 @@ ProcedureBar::ProcedureBar(vbide::Ref<vbide::VBComponent> component, std::functi
     lists->setSpacing(kListGap);
     lists->addWidget(objects_);
     lists->addWidget(procedures_);
-    connect(objects_, &QComboBox::activated, this, [this] { listProcedures(); });
-    connect(procedures_, &QComboBox::activated, this,
-            [this, goTo = std::move(goTo)] { goTo(procedures_->currentData().toInt()); });
+    connect(objects_, &QComboBox::activated, this, [this] { chosenObject(); });
+    connect(procedures_, &QComboBox::activated, this, [this] { chosenProcedure(); });
 }
 
 void ProcedureBar::list(int line) {
-    members_ = component_->CodeModule()->Members();
     const QSignalBlocker ours(objects_);
     listObjects();
+    listMembers();
+    shownRow_ = -1;
     showAt(line);
 }
 
-void ProcedureBar::showAt(int line) {
-    const auto* const within = memberAt(members_, line);
-    const QSignalBlocker ours(objects_);
-    objects_->setCurrentText(within ? objectOf(*within, *objects_) : generalObject());
-    listProcedures();
-    procedures_->setCurrentIndex(within ? procedures_->findData(within->CodeLocation) : 0);
-}
-
 void ProcedureBar::listObjects() {
-    QSet<QString> handled;
-    for (const auto& member : members_)
-        if (isProcedure(member)) handled << handledObject(member).toLower();
+    known_ = eventObjects(*component_);
     objects_->clear();
     objects_->addItem(generalObject());
-    QStringList names;
-    if (handled.size() > (handled.contains("") ? 1 : 0)) names = objectsOf(*component_);
-    names.removeDuplicates();
-    names.sort(Qt::CaseInsensitive);
-    for (const auto& name : names)
-        if (handled.contains(name.toLower())) objects_->addItem(name);
+    for (const auto& object : known_) objects_->addItem(qt(object.name));
+}
+
+void ProcedureBar::listMembers() {
+    QHash<QString, int> rows;
+    for (int row = 1; row < objects_->count(); ++row) rows[objects_->itemText(row).toLower()] = row;
+    listed_.clear();
+    for (auto& member : component_->CodeModule()->Members())
+        if (isProcedure(member)) listed_.push_back({member, rows.value(handledObject(member).toLower(), 0)});
+}
+
+/// The procedure that contains a line (from 1), null above the first one.
+const ProcedureBar::Listed* ProcedureBar::at(int line) const {
+    const Listed* within = nullptr;
+    for (const auto& listed : listed_)
+        if (listed.member.CodeLocation <= line && (!within || listed.member.CodeLocation > within->member.CodeLocation))
+            within = &listed;
+    return within;
+}
+
+/// Called for each move of the cursor.
+void ProcedureBar::showAt(int line) {
+    const auto* const within = at(line);
+    const int row = within ? within->row : 0;
+    if (row != shownRow_) {
+        const QSignalBlocker ours(objects_);
+        objects_->setCurrentIndex(row);
+        listProcedures();
+    }
+    procedures_->setCurrentIndex(within ? procedures_->findData(within->member.CodeLocation) : 0);
+}
+
+const EventObject* ProcedureBar::object() const {
+    const int row = objects_->currentIndex() - 1;
+    return row < 0 ? nullptr : &known_[std::size_t(row)];
+}
+
+void ProcedureBar::addProcedure(const QString& name, int line) {
+    procedures_->addItem(name, line);
+    auto shown = procedures_->font();
+    shown.setBold(line > 0);
+    procedures_->setItemData(procedures_->count() - 1, shown, Qt::FontRole);
 }
 
 void ProcedureBar::listProcedures() {
-    const auto object = objects_->currentText();
-    const bool general = object == generalObject();
     procedures_->clear();
-    if (general) procedures_->addItem("(Declarations)", 1);
-    for (const auto& member : members_)
-        if (isProcedure(member) && objectOf(member, *objects_) == object)
-            procedures_->addItem(qt(member.Name).mid(general ? 0 : object.size() + 1), member.CodeLocation);
+    events_.clear();
+    shownRow_ = objects_->currentIndex();
+    if (const auto* shown = object()) return listEvents(*shown);
+    procedures_->addItem("(Declarations)", 1);
+    for (const auto& [member, row] : listed_)
+        if (row == 0) procedures_->addItem(qt(member.Name), member.CodeLocation);
+}
+
+/// The events of an object, then handlers of events that its class does not have.
+void ProcedureBar::listEvents(const EventObject& object) {
+    std::map<QString, const vbide::Member*> handlers; // by event in lower case
+    for (const auto& [member, row] : listed_)
+        if (row == shownRow_) handlers[handledEvent(member).toLower()] = &member;
+    events_ = eventsOf(*component_, object);
+    for (const auto& event : events_) {
+        const auto found = handlers.find(qt(event.name).toLower());
+        addProcedure(qt(event.name), found == handlers.end() ? 0 : found->second->CodeLocation);
+        if (found != handlers.end()) handlers.erase(found);
+    }
+    for (const auto& [event, member] : handlers) addProcedure(handledEvent(*member), member->CodeLocation);
+}
+
+/// Goes to the handler of the default event. Without one the user chooses an event first.
+void ProcedureBar::chosenObject() {
+    listProcedures();
+    const auto* const shown = object();
+    if (!shown) return callbacks_.goTo(1);
+    procedures_->setCurrentIndex(procedures_->findText(qt(defaultEventOf(*component_, *shown).name)));
+    const int line = procedures_->currentData().toInt();
+    if (line > 0) return callbacks_.goTo(line);
+    procedures_->setCurrentIndex(-1);
+}
+
+void ProcedureBar::chosenProcedure() {
+    const int line = procedures_->currentData().toInt(), row = procedures_->currentIndex();
+    if (line > 0) return callbacks_.goTo(line);
+    if (const auto* const shown = object(); shown && row >= 0)
+        callbacks_.add(EventObject(*shown), host::ClassEvent(events_[std::size_t(row)]));
 }
 
 } // namespace workbench

@@ -1,6 +1,6 @@
 #pragma once
 // The two lists above the code: objects, and the procedures of one.
-#include "Add-in/platform/host_project.h"
+#include "Apps/workbench/events/object_events.h"
 #include <QWidget>
 #include <functional>
 #include <vector>
@@ -12,11 +12,17 @@ namespace workbench {
 /// Whether it is a Sub, Function or Property.
 bool isProcedure(const vbide::Member& member);
 
-/// Lists "(General)" and the objects whose events the code handles: the component itself and its controls.
+/// Lists "(General)", the component itself and its controls. Of an object it offers all events; those that the code
+/// handles are bold.
 class ProcedureBar final : public QWidget {
 public:
-    /// `goTo` is called with the line (from 1) of the procedure that the user chooses.
-    ProcedureBar(vbide::Ref<vbide::VBComponent> component, std::function<void(int line)> goTo);
+    struct Callbacks {
+        /// The user chose the procedure at this line (from 1).
+        std::function<void(int line)> goTo;
+        /// The user chose an event without a handler.
+        std::function<void(const EventObject& object, const host::ClassEvent& event)> add;
+    };
+    ProcedureBar(vbide::Ref<vbide::VBComponent> component, Callbacks callbacks);
 
     /// Reads the procedures again and shows the one that contains a line (from 1).
     void list(int line);
@@ -24,13 +30,29 @@ public:
     void showAt(int line);
 
 private:
+    struct Listed {
+        vbide::Member member;
+        int row = 0; ///< of its object
+    };
     void listObjects();
+    void listMembers();
+    const Listed* at(int line) const;
     void listProcedures();
+    void listEvents(const EventObject& object);
+    void addProcedure(const QString& name, int line);
+    void chosenObject();
+    void chosenProcedure();
+    const EventObject* object() const;
 
     vbide::Ref<vbide::VBComponent> component_;
+    Callbacks callbacks_;
     QComboBox* objects_;
     QComboBox* procedures_;
-    std::vector<vbide::Member> members_;
+    std::vector<Listed> listed_;
+    std::vector<EventObject> known_;
+    int shownRow_ = -1;
+    /// Of the object that is shown.
+    std::vector<host::ClassEvent> events_;
 };
 
 } // namespace workbench

@@ -59,7 +59,7 @@ void DesignDesk::followExplorer() {
 
 /// Offers the language's own controls, those of the libraries that the project refers to and its user controls.
 void DesignDesk::listTools() {
-    std::vector<std::string> offered;
+    OfferedControls offered;
     (void)basic::attempt([&] {
         if (const auto active = host_.ActiveVBProject())
             offered = offeredControls(host_.options(), *active, forms_->current()->component());

@@ -1,9 +1,9 @@
 #include "Apps/workbench/designer/form_view.h"
-#include "Apps/workbench/designer/event_handlers.h"
 #include "Apps/workbench/designer/form_canvas.h"
 #include "Apps/workbench/designer/form_reader.h"
 #include "Apps/workbench/designer/new_control.h"
 #include "Apps/workbench/designer/place_changes.h"
+#include "Apps/workbench/events/event_handler.h"
 #include "Basic/runtime_error.h"
 #include "Host/model/forms/control_edits.h"
 #include <QPointer>

@@ -4,20 +4,20 @@
 
 namespace workbench {
 
-std::vector<std::string> offeredControls(const host::HostOptions& options, vbide::VBProject& project,
-                                         const vbide::Ref<vbide::VBComponent>& component) {
+OfferedControls offeredControls(const host::HostOptions& options, vbide::VBProject& project,
+                                const vbide::Ref<vbide::VBComponent>& component) {
     const auto installed = options.controlClassNames ? options.controlClassNames() : std::vector<std::string>{};
-    std::vector<std::string> offered;
+    OfferedControls offered;
     for (const auto& reference : project.References()->items()) {
         for (const auto& name : installed)
-            if (basic::startsWithNoCase(name, reference->Name() + "Ctl.")) offered.push_back(name);
+            if (basic::startsWithNoCase(name, reference->Name() + "Ctl.")) offered.ofDevices.push_back(name);
         if (const auto* library = host::controlLibraryOf(reference->Guid()))
             for (const auto control : library->classes)
-                offered.push_back(std::string(library->name) + "." + std::string(control));
+                offered.ofLibraries.push_back(std::string(library->name) + "." + std::string(control));
     }
     for (const auto& other : project.VBComponents()->items())
         if (other->Type() == vbide::vbext_ct_UserControl && !(other == component))
-            offered.push_back(project.Name() + "." + other->Name());
+            offered.ofProject.push_back(project.Name() + "." + other->Name());
     return offered;
 }
 

@@ -1,7 +1,6 @@
 #include "Apps/workbench/designer/toolbox.h"
 #include "Apps/workbench/base/drawn_icons.h"
 #include "Apps/workbench/base/text.h"
-#include "Apps/workbench/drawing/control_kinds.h"
 #include <array>
 
 namespace workbench {
@@ -25,8 +24,6 @@ Toolbox::Toolbox(std::function<void(const std::string&)> add) {
     setObjectName("toolbox");
     setAccessibleName("Toolbox");
     setIconSize({kToolSize, kToolSize});
-    setUniformItemSizes(true);
-    offered_ = {kPointer}; // differs from an empty list, so that offer() fills the toolbox
     offer({});
     connect(this, &QListWidget::itemActivated, this, [this, add](QListWidgetItem* item) {
         const auto chosen = text(item->data(Qt::UserRole).toString());
@@ -35,22 +32,34 @@ Toolbox::Toolbox(std::function<void(const std::string&)> add) {
     });
 }
 
-void Toolbox::offer(const std::vector<std::string>& more) {
-    if (more == offered_) return;
-    offered_ = more;
+void Toolbox::offer(const OfferedControls& offered) {
+    if (offered_ == offered) return;
+    offered_ = offered;
     clear();
     addItem(new QListWidgetItem(drawnIcon(kPointer), kPointer));
-    const auto list = [this](const std::string& progId) {
+    const bool ofDevice = !offered.ofDevices.empty();
+    addGroup("Device controls", offered.ofDevices, true);
+    addGroup("Visual Basic controls", {kOwnTools.begin(), kOwnTools.end()}, !ofDevice);
+    addGroup("Other controls", offered.ofLibraries, !ofDevice);
+    addGroup("User controls", offered.ofProject, !ofDevice);
+    putBack();
+}
+
+/// The title cannot be selected.
+void Toolbox::addGroup(const QString& title, const std::vector<std::string>& classes, bool stays) {
+    if (classes.empty()) return;
+    auto* const head = new QListWidgetItem(stays ? title : title + "\n(removed by Fernwick)", this);
+    head->setFlags(Qt::NoItemFlags);
+    auto bold = font();
+    bold.setBold(true);
+    head->setFont(bold);
+    if (!stays)
+        head->setToolTip("These controls do not run on devices. Fernwick removes them from the forms of its projects.");
+    for (const auto& progId : classes) {
         auto* const entry = new QListWidgetItem(iconOfControl(progId), titleOfTool(progId), this);
         entry->setData(Qt::UserRole, qt(progId));
         entry->setToolTip(qt(progId));
-    };
-    for (const auto& other : more)
-        if (isDeviceControl(other)) list(other);
-    for (const auto* own : kOwnTools) list(own);
-    for (const auto& other : more)
-        if (!isDeviceControl(other)) list(other);
-    putBack();
+    }
 }
 
 std::string Toolbox::tool() const { return currentItem() ? text(currentItem()->data(Qt::UserRole).toString()) : ""; }

@@ -1,7 +1,9 @@
 #pragma once
 // The controls that can be added to a form.
+#include "Apps/workbench/designer/offered_controls.h"
 #include <QListWidget>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -13,15 +15,18 @@ class Toolbox final : public QListWidget {
 public:
     explicit Toolbox(std::function<void(const std::string& progId)> add);
 
-    /// Lists these and the language's own classes; those of devices first.
-    void offer(const std::vector<std::string>& more);
+    /// Lists these and the language's own classes in groups. With controls of devices these are first, and the other
+    /// groups say that they do not stay on the project's forms.
+    void offer(const OfferedControls& offered);
     /// The selected class as named in a form's text; "" for the pointer.
     std::string tool() const;
     /// Selects the pointer.
     void putBack();
 
 private:
-    std::vector<std::string> offered_;
+    void addGroup(const QString& title, const std::vector<std::string>& classes, bool stays);
+
+    std::optional<OfferedControls> offered_;
 };
 
 } // namespace workbench

@@ -13,7 +13,6 @@
 #include "Apps/workbench/window/command_keys.h"
 #include "Apps/workbench/window/context_menus.h"
 #include "Apps/workbench/window/menus.h"
-#include "Apps/workbench/window/missing_commands.h"
 #include "Apps/workbench/window/page_window.h"
 #include "Apps/workbench/window/project_converting.h"
 #include "Host/model/projects.h"
@@ -47,7 +46,6 @@ Workbench::Workbench()
     QObject::connect(&openingCheck_, &QTimer::timeout, [this] {
         if (!machine_.shell().checkOpened()) openingCheck_.stop();
     });
-    window_->bars().unavailable = [this](const auto& control) { return whyUnavailable(addIn(), control); };
     window_->restoreLayout();
 }
 

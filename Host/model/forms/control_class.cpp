@@ -47,6 +47,7 @@ std::shared_ptr<const ControlClass> builtInClass(std::string_view className) {
     for (const auto& entry : kClassRows)
         if (basic::equalNoCase(entry.className, className)) rows = &entry.rows;
     for (const auto part : *rows) addClassRows(*made, part);
+    made->events = languageEvents(className);
     return made;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 // The properties of a class of forms or controls, with their kinds and defaults.
+#include "Host/model/forms/class_events.h"
 #include <memory>
 #include <string>
 #include <string_view>
@@ -45,6 +46,7 @@ struct ClassProperty {
 
 struct ControlClass {
     std::vector<ClassProperty> properties;
+    std::vector<ClassEvent> events;
     int width = 0, height = 0; ///< of a new control in pixels; 0 if unknown
     /// Looks up a property, ignoring case. Null if the class does not have it.
     const ClassProperty* find(std::string_view name) const;

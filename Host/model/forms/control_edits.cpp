@@ -116,6 +116,12 @@ PixelSize describedSize(const basic::Ref<vbide::VBForm>& form, const basic::Ref<
     return {described.width, described.height};
 }
 
+std::vector<ClassEvent> eventsOf(const basic::Ref<vbide::VBForm>& form, const basic::Ref<vbide::VBControl>& control) {
+    const auto state = stateOf(form);
+    const auto model = basic::cast<ControlModel>(control);
+    return state->classOf(model ? *model->block() : state->root()).events;
+}
+
 RemovedControl removeControl(const basic::Ref<vbide::VBForm>& form, const basic::Ref<vbide::VBControl>& control) {
     return removeControlFrom(*stateOf(form), control);
 }

@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace host {
 
@@ -33,6 +34,8 @@ basic::Ref<vbide::VBControl> addControl(const basic::Ref<vbide::VBForm>& form,
                                         const basic::Ref<vbide::VBControl>& container, const std::string& progId);
 /// The size of a new control according to the description of its class; 0 by 0 if there is none.
 PixelSize describedSize(const basic::Ref<vbide::VBForm>& form, const basic::Ref<vbide::VBControl>& control);
+/// The events of a control, of the form itself for Nothing, in alphabetical order. Empty for an unknown class.
+std::vector<ClassEvent> eventsOf(const basic::Ref<vbide::VBForm>& form, const basic::Ref<vbide::VBControl>& control);
 /// As VBControls.Remove.
 RemovedControl removeControl(const basic::Ref<vbide::VBForm>& form, const basic::Ref<vbide::VBControl>& control);
 /// Restores a control at its former position. Raises no ItemAdded, so that an add-in leaves the control as it was. Error

@@ -1,6 +1,7 @@
 #include "Host/model/forms/described_classes.h"
 #include "Basic/case_folding.h"
 #include "Host/model/forms/property_text.h"
+#include <algorithm>
 #include <set>
 
 namespace host {
@@ -36,7 +37,15 @@ ClassProperty describedProperty(const TypeDescription& library, const TypeMember
     return property;
 }
 
-/// The properties of a class that forms can contain. Index is a property of the form, not the control; -1 means none.
+ClassEvent describedEvent(const TypeMember& member) {
+    ClassEvent event{member.name, ""};
+    for (const auto& parameter : member.parameters)
+        event.parameters += (event.parameters.empty() ? "" : ", ") + std::string(parameter.byRef ? "" : "ByVal ") +
+                            parameter.name + " As " + parameter.type;
+    return event;
+}
+
+/// The properties and events of a class that forms can contain. Index is a property of the form, not the control; -1 means none.
 std::shared_ptr<const ControlClass> describedClass(const TypeDescription& library, const TypeClass& described) {
     auto made = std::make_shared<ControlClass>();
     made->width = described.width;
@@ -45,6 +54,8 @@ std::shared_ptr<const ControlClass> describedClass(const TypeDescription& librar
     for (const auto& member : described.properties)
         if (member.design && !member.readOnly && member.parameters.empty())
             made->properties.push_back(describedProperty(library, member));
+    for (const auto& member : described.events) made->events.push_back(describedEvent(member));
+    std::sort(made->events.begin(), made->events.end(), [](const auto& a, const auto& b) { return a.name < b.name; });
     return made;
 }
 

@@ -11,6 +11,7 @@ class ToolWindows final : public vbide::Windows {
 public:
     explicit ToolWindows(fernwick::Classes* classes) : classes_(classes) {}
 
+    /// Replaces the window that is at this position.
     vbide::Ref<vbide::Window> CreateToolWindow(const vbide::Ref<vbide::AddIn>& addIn, const std::string& progId,
                                                const std::string& caption, const std::string& guidPosition,
                                                vbide::Ref<vbide::Object>& document) override;
@@ -20,8 +21,12 @@ public:
     const std::vector<std::shared_ptr<ToolWindow>>& list() const { return list_; }
     /// Raised after a window is added.
     fernwick::Event<> added;
+    /// Raised after a window is removed, which is hidden then.
+    fernwick::Event<const std::shared_ptr<ToolWindow>&> removed;
 
 private:
+    void removeAt(const std::string& guidPosition);
+
     fernwick::Classes* classes_;
     std::vector<std::shared_ptr<ToolWindow>> list_;
 };

@@ -1,17 +1,16 @@
 #pragma once
-// Records the calls of features that the product lacks.
+// Records the calls that open the settings.
 #include "Add-in/core/settings_dialog.h"
-#include "Add-in/lifecycle/missing_features.h"
 #include "trace.h"
 #include <functional>
 
 namespace test {
 
-class NotedFeatures : public fernwick::SettingsDialog, public fernwick::MissingFeatures {
+class NotedSettings : public fernwick::SettingsDialog {
 public:
     using Project = basic::Ref<vbide::VBProject>;
 
-    explicit NotedFeatures(Trace& trace) : trace_(trace) {}
+    explicit NotedSettings(Trace& trace) : trace_(trace) {}
 
     /// What the user does in the settings.
     std::function<void()> inSettings = [] {};
@@ -26,11 +25,6 @@ public:
         scansInSettings = scanOnActivate;
         inSettings();
     }
-    void createZoomWindow() override { trace_.effect("create zoom window"); }
-    void InitZoomWindow() override { trace_.effect("init zoom window"); }
-    void SaveZoomWindowState() override { trace_.effect("save zoom window"); }
-    void SetZoomForm(const basic::Ref<vbide::VBComponent>& form) override { trace_.effect("zoom " + form->Name()); }
-    void notInThisBuild() override { trace_.effect("not in this build"); }
 
 private:
     Trace& trace_;

@@ -1,0 +1,72 @@
+#include "Apps/workbench/events/object_events.h"
+#include "Apps/workbench/events/declared_events.h"
+#include "Basic/case_folding.h"
+#include "Basic/runtime_error.h"
+#include "Host/model/forms/control_edits.h"
+#include <algorithm>
+
+namespace workbench {
+
+namespace {
+
+struct OwnObject {
+    vbide::vbext_ComponentType type;
+    const char *name, *className;
+};
+constexpr OwnObject kOwnObjects[] = {
+    {vbide::vbext_ct_VBForm, "Form", "VB.Form"},
+    {vbide::vbext_ct_VBMDIForm, "MDIForm", "VB.MDIForm"},
+    {vbide::vbext_ct_ClassModule, "Class", "VB.Class"},
+    {vbide::vbext_ct_PropPage, "PropertyPage", "VB.PropertyPage"},
+    {vbide::vbext_ct_UserControl, "UserControl", "VB.UserControl"},
+    {vbide::vbext_ct_DocObject, "UserDocument", "VB.UserDocument"},
+};
+
+EventObject objectOfControl(const vbide::Ref<vbide::VBControl>& control) {
+    const auto properties = control->Properties();
+    return {fernwick::asText(properties->Item("Name")->Value()), control->ProgId(), control,
+            fernwick::asLong(properties->Item("Index")->Value()) >= 0};
+}
+
+} // namespace
+
+EventObject eventObjectOf(const vbide::VBComponent& component, const vbide::Ref<vbide::VBControl>& control) {
+    if (control) return objectOfControl(control);
+    for (const auto& own : kOwnObjects)
+        if (own.type == component.Type()) return {own.name, own.className, nullptr};
+    return {};
+}
+
+std::vector<EventObject> eventObjects(vbide::VBComponent& component) {
+    std::vector<EventObject> objects;
+    if (auto own = eventObjectOf(component, nullptr); !own.name.empty()) objects.push_back(std::move(own));
+    (void)basic::attempt([&] { // fails for a file without the description of a form
+        if (const auto designer = component.Designer())
+            for (const auto& control : designer->VBControls()->items()) objects.push_back(objectOfControl(control));
+    });
+    const auto key = [](const EventObject& object) { return basic::foldCase(object.name); };
+    std::stable_sort(objects.begin(), objects.end(), [&](const auto& a, const auto& b) { return key(a) < key(b); });
+    const auto same = [&](const auto& a, const auto& b) { return key(a) == key(b); };
+    objects.erase(std::unique(objects.begin(), objects.end(), same), objects.end());
+    return objects;
+}
+
+std::vector<host::ClassEvent> eventsOf(vbide::VBComponent& component, const EventObject& object) {
+    auto events =
+        object.control ? host::eventsOf(component.Designer(), object.control) : host::languageEvents(object.className);
+    if (object.control && events.empty()) events = declaredEvents(component, object.className);
+    if (object.isArray)
+        for (auto& event : events)
+            event.parameters.insert(0, event.parameters.empty() ? "Index As Integer" : "Index As Integer, ");
+    return events;
+}
+
+host::ClassEvent defaultEventOf(vbide::VBComponent& component, const EventObject& object) {
+    const auto events = eventsOf(component, object);
+    const auto name = host::defaultEventOf(object.className);
+    for (const auto& event : events)
+        if (basic::equalNoCase(event.name, name)) return event;
+    return events.empty() || !name.empty() ? host::ClassEvent{} : events.front();
+}
+
+} // namespace workbench
