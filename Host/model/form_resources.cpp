@@ -12,6 +12,8 @@
 namespace host {
 namespace {
 
+constexpr std::size_t kLargestGap = 16 * 1024 * 1024;
+
 std::shared_ptr<const ResourceFile> readResources(const std::string& path) {
     try {
         return std::make_shared<ResourceFile>(readFile(path).bytes);
@@ -55,11 +57,14 @@ FormResources::Own& FormResources::own() {
         auto read = readFile(found);
         made.name = fileNameOf(found);
         made.stamp = read.stamp;
-        made.saved = read.bytes.size();
         bytes = std::move(read.bytes);
     }
-    made.file = std::make_shared<ResourceFile>(std::move(bytes));
-    return own_.emplace(std::move(made));
+    own_ = std::move(made);
+    // a reference to data that is missing must not get that of another property
+    if (const auto end = endOfReferences(); end > bytes.size() && end <= kLargestGap) bytes.resize(end);
+    own_->newFrom = bytes.size();
+    own_->file = std::make_shared<ResourceFile>(std::move(bytes));
+    return *own_;
 }
 
 ResourceReference FormResources::add(const std::string& record) {
@@ -69,25 +74,29 @@ ResourceReference FormResources::add(const std::string& record) {
     return {own_->name, offset, false};
 }
 
-/// Whether the form refers to a record that is not in the file. Undone changes leave unused records.
-bool FormResources::isNeeded() const {
-    if (!own_ || own_->saved == own_->file->bytes().size()) return false;
-    bool needed = false;
+/// The position after the last record of the form's own file to which the form refers, as far as offsets show.
+std::size_t FormResources::endOfReferences() const {
+    std::size_t end = 0;
     const auto see = [&](const FormBlock&, std::string_view, std::string_view literal, std::size_t) {
         const auto value = parsePropertyValue(literal);
-        needed = needed || (value.kind == PropertyValue::Kind::Resource && own_->isNamed(value.resource.file) &&
-                            value.resource.offset >= own_->saved);
+        if (value.kind == PropertyValue::Kind::Resource && own_->isNamed(value.resource.file))
+            end = std::max(end, value.resource.offset + 1);
     };
     std::size_t line = 0;
     if (const auto& root = component_.source().form()->root()) root->eachPropertyWithin(see, line);
-    return needed;
+    return end;
+}
+
+/// Whether the form refers to a record that is not in the file. Undone changes leave unused records.
+bool FormResources::isNeeded() const {
+    return own_ && own_->newFrom < own_->file->bytes().size() && own_->newFrom < endOfReferences();
 }
 
 bool FormResources::write(Project& project, const std::string& path, const std::optional<FileStamp>& asRead) {
     const auto stamp = project.host()->writeFile(project, path, own_->file->bytes(), asRead);
     if (!stamp) return false;
     own_->stamp = stamp;
-    own_->saved = own_->file->bytes().size();
+    own_->newFrom = own_->file->bytes().size();
     return true;
 }
 

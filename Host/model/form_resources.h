@@ -47,10 +47,11 @@ private:
         std::vector<std::string> formerNames; ///< to which undone changes refer after the form was saved elsewhere
         std::shared_ptr<const ResourceFile> file;
         std::optional<FileStamp> stamp; ///< none if there is no such file yet
-        std::size_t saved = 0;          ///< bytes that are in the file
+        std::size_t newFrom = 0;        ///< records from here on are not in the file
         bool isNamed(std::string_view fileName) const;
     };
     Own& own();
+    std::size_t endOfReferences() const;
     bool isNeeded() const;
     bool write(Project& project, const std::string& path, const std::optional<FileStamp>& asRead);
     bool copy(Project& project, const std::string& target, bool needed);

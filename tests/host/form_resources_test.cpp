@@ -245,3 +245,42 @@ TEST_F(FormResources, RestoringARemovedControlRaises440) {
     form->Designer()->VBControls()->Remove(form->Designer()->VBControls()->Item("lstNames"));
     EXPECT_EQ(errorOf(restore), 440);
 }
+
+TEST_F(FormResources, AReferenceToMissingDataDoesNotGetThatOfAnother) {
+    open(kFormWithRecords, "");
+    host::setItems(of("lstNames", "List"), {"Ann"});
+    EXPECT_EQ(host::imageOf(of("", "Icon")), "");
+    EXPECT_EQ(of("txtLines", "Text")->Value(), fernwick::Variant(""));
+    host::setImage(of("", "Icon"), "GIF89a");
+    EXPECT_TRUE(form->IsDirty());
+    save();
+    EXPECT_EQ(saved("frmMain.frx"), std::string(17, '\0') + host::itemDataRecord({"0"}) + host::listRecord({"Ann"}) +
+                                        host::pictureRecord("GIF89a", false));
+    EXPECT_EQ(host::imageOf(of("", "Icon")), "GIF89a");
+}
+
+TEST_F(FormResources, UndoRestoresTheFontsBlock) {
+    open();
+    const auto font = of("txtLines", "Font");
+    const auto restore = host::restorerOf(font);
+    font->Value(std::string("Arial"));
+    const auto again = host::restorerOf(font);
+    font->ObjectValue()->Item("Bold")->Value(true);
+    again();
+    EXPECT_EQ(font->ObjectValue()->Item("Bold")->Value(), fernwick::Variant(false));
+    EXPECT_EQ(font->Value(), fernwick::Variant("Arial"));
+    restore();
+    save();
+    EXPECT_EQ(saved("frmMain.frm"), kFormWithRecords);
+}
+
+TEST_F(FormResources, AControlWithoutAnIndexHasNoLineForIt) {
+    open();
+    of("lstNames", "Index")->Value(std::int32_t{2});
+    save();
+    EXPECT_EQ(difference(), "+       Index           =   2\n");
+    basic::cast<host::Component>(form)->reread();
+    of("lstNames", "Index")->Value(std::int32_t{-1});
+    save();
+    EXPECT_EQ(saved("frmMain.frm"), kFormWithRecords);
+}

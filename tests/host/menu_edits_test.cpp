@@ -211,6 +211,16 @@ TEST_F(Menus, AnErrorChangesNothing) {
     EXPECT_THAT(events, IsEmpty());
 }
 
+TEST_F(Menus, KeepNamesThatTheirCodePageLacks) {
+    auto text = kMenus;
+    text.replace(text.find("mnuHelp"), 7, "mnu\xef\xbf\xbd");
+    open(text);
+    menus = host::menusOf(form());
+    menus[0].caption = "Changed";
+    apply();
+    EXPECT_EQ(difference(), "-       Caption         =   \"&File\"\n+       Caption         =   \"Changed\"\n");
+}
+
 // ---- checks ---------------------------------------------------------------------------------------------------------
 
 TEST_F(Menus, OfTheSampleHaveNoProblem) { EXPECT_EQ(problem(), ""); }

@@ -166,7 +166,8 @@ std::vector<FormMenu> menusOf(const Form& form) {
 
 void setMenus(const Form& form, const std::vector<FormMenu>& menus) {
     const auto state = stateOf(form);
-    for (const auto& menu : menus) state->checkText(menu.name);
+    for (const auto& menu : menus)
+        if (!menu.control || blockOf(menu.control)->name() != menu.name) state->checkText(menu.name);
     const auto before = menusOf(form);
     const auto restore = restorerOfMenus(form);
     MenuTree tree(*state);
