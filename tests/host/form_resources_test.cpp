@@ -112,6 +112,17 @@ TEST_F(FormResources, ALongTextIsARecordAndAShortOneIsInItsLine) {
                                 "+       Text            =   \"short\"\n");
 }
 
+TEST_F(FormResources, ATextBoxOfOneLineHasTheRecordOfAString) {
+    auto text = kFormWithRecords;
+    const std::string line = "      MultiLine       =   -1  'True\r\n";
+    text.erase(text.find(line), line.size());
+    open(text);
+    of("txtLines", "Text")->Value(std::string(200, 'x'));
+    save();
+    EXPECT_EQ(saved("frmMain.frx"), kOldRecords + host::stringRecord(std::string(200, 'x')));
+    EXPECT_THAT(saved("frmMain.frm"), testing::HasSubstr("$\"frmMain.frx\":0019"));
+}
+
 TEST_F(FormResources, AListIsAPairOfRecords) {
     open();
     host::setItems(of("lstNames", "List"), {"Ann", "Jo"});

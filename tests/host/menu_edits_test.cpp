@@ -136,6 +136,22 @@ Attribute VB_Name = "frmMenus"
 )")));
 }
 
+TEST_F(Menus, StayBetweenOtherLines) {
+    auto text = kMenus;
+    text.insert(text.find("   Begin VB.Menu mnuHelp"), crLf("   Begin VB.Timer tmrLast \n   End\n"));
+    open(text);
+    menus = host::menusOf(form());
+    apply();
+    EXPECT_EQ(file->text(), text);
+    std::swap(menus[0].name, menus[4].name);
+    const auto restore = host::restorerOfMenus(form());
+    menus.pop_back();
+    apply();
+    EXPECT_THAT(file->text(), testing::HasSubstr(crLf("   End\n   Begin VB.Timer tmrLast \n   End\nEnd\n")));
+    restore();
+    EXPECT_EQ(file->text(), text);
+}
+
 TEST_F(Menus, AMovedMenuKeepsItsLines) {
     std::swap(menus[1], menus[2]); // Recent 0, Open, Recent 1 would divide the array
     std::swap(menus[2], menus[3]);
