@@ -1,5 +1,6 @@
 #include "Add-in/zoom/modZoomWindowSubclassing.h"
 #include "Add-in/zoom/coordinates.h"
+#include <utility>
 
 namespace fernwick {
 
@@ -9,15 +10,6 @@ namespace {
 constexpr basic::Integer HTCLIENT = 1;
 
 } // namespace
-
-template <class Body>
-std::intptr_t modZoomWindowSubclassing::guarded(const char* location, Body&& body) noexcept {
-    try {
-        return body();
-    } catch (const basic::RuntimeError& error) { report(location, error); } catch (...) {
-    } // the host cannot handle it
-    return 0;
-}
 
 /// Moves continue under the box, and each of them would add another one.
 void modZoomWindowSubclassing::report(const char* location, const basic::RuntimeError& error) {

@@ -56,4 +56,13 @@ private:
     bool isReporting_ = false;
 };
 
+template <class Body>
+std::intptr_t modZoomWindowSubclassing::guarded(const char* location, Body&& body) noexcept {
+    try {
+        return body();
+    } catch (const basic::RuntimeError& error) { report(location, error); } catch (...) {
+    } // the host cannot handle it
+    return 0;
+}
+
 } // namespace fernwick

@@ -1,6 +1,7 @@
 // Drags in the designer that began in the zoom document.
 #include "Add-in/zoom/coordinates.h"
 #include "Add-in/zoom/modZoomWindowSubclassing.h"
+#include <utility>
 
 namespace fernwick {
 

@@ -1,4 +1,5 @@
 #include "Add-in/zoom/udocZoomWindow.h"
+#include "Basic/arithmetic.h"
 #include "Basic/number_text.h"
 
 namespace fernwick {
@@ -130,8 +131,8 @@ void udocZoomWindow::Combo1_Click() {
     Procedure here{services_->errors, "udocZoomWindow.Combo1_Click"};
     ZoomLevel = std::int32_t(basic::Val(Combo1.Text()));
     passZoom();
-    ZoomedWidth = TargetWidth * ZoomLevel;
-    ZoomedHeight = TargetHeight * ZoomLevel;
+    here([&] { ZoomedWidth = basic::Multiply(TargetWidth, ZoomLevel); });
+    here([&] { ZoomedHeight = basic::Multiply(TargetHeight, ZoomLevel); });
     here([&] { services_->platform.windows.Clear(hwnd()); });
     UpdateDisplay();
 }

@@ -4,7 +4,9 @@
 #include "Add-in/platform/combo_box.h"
 #include "Add-in/platform/windows/scroll_bar.h"
 #include "Add-in/zoom/modZoomWindowSubclassing.h"
+#include <memory>
 #include <optional>
+#include <vector>
 
 namespace fernwick {
 

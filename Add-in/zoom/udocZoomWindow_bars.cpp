@@ -99,6 +99,7 @@ void udocZoomWindow::VScroll1_Change() {
 }
 
 void udocZoomWindow::scrollTo(std::int32_t& offset, const ScrollBar& bar, float twipsPerPixel) {
+    const auto self = shared_from_this();
     offset = rounded(-(float(bar.Value()) / twipsPerPixel));
     UpdateDisplay();
     if (services_) passZoom();

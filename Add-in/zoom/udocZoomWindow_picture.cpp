@@ -1,6 +1,7 @@
 // The magnified picture of the designer. It is drawn straight onto the document, and no copy is kept.
 #include "Add-in/zoom/udocZoomWindow.h"
 #include "Basic/arithmetic.h"
+#include <utility>
 
 namespace fernwick {
 
@@ -47,8 +48,8 @@ void udocZoomWindow::copyPixels() {
     auto& windows = services_->platform.windows;
     const DrawingSurface document{windows, hwnd()}, target{windows, TargetHwnd};
     if (document.dc() == 0 || target.dc() == 0) return ResetWin();
-    windows.StretchBlt(document.dc(), {XOffset, YOffset, XOffset + ZoomedWidth, YOffset + ZoomedHeight}, target.dc(),
-                       {0, 0, TargetWidth, TargetHeight}, SRCCOPY);
+    const WindowRect place{XOffset, YOffset, basic::Add(XOffset, ZoomedWidth), basic::Add(YOffset, ZoomedHeight)};
+    windows.StretchBlt(document.dc(), place, target.dc(), {0, 0, TargetWidth, TargetHeight}, SRCCOPY);
     ValidateScrollBars();
 }
 

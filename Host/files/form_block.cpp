@@ -3,7 +3,6 @@
 #include "Host/files/form_line.h"
 #include <algorithm>
 #include <fmt/core.h>
-#include <utility>
 
 namespace host {
 namespace {
@@ -77,25 +76,6 @@ bool FormBlock::remove(std::string_view key) {
 bool FormBlock::wasAdded(std::string_view key) const {
     const Item* item = find(key);
     return item && item->added;
-}
-
-std::optional<FormBlock::Line> FormBlock::line(std::string_view key) const {
-    const Item* item = find(key);
-    if (!item || item->block) return std::nullopt;
-    const auto at = std::find_if(items_.begin(), items_.end(), [item](const auto& i) { return i.get() == item; });
-    return Line{item->line, std::size_t(at - items_.begin()), item->added};
-}
-
-bool FormBlock::restore(std::string_view key, const std::optional<Line>& line) {
-    Item* item = find(key);
-    if (!line) return item && !item->block && remove(key);
-    if (item) return !item->block && std::exchange(item->line, line->text) != line->text;
-    auto added = std::make_unique<Item>();
-    added->line = line->text;
-    added->key = basic::foldCase(key);
-    added->added = line->added;
-    insert(items_.begin() + std::ptrdiff_t(std::min(line->place, items_.size())), std::move(added));
-    return true;
 }
 
 void FormBlock::eachProperty(const std::function<void(std::string_view, std::string_view)>& see) const {

@@ -20,6 +20,22 @@ public:
     };
     using Blocks = std::vector<std::shared_ptr<FormBlock>>;
 
+    /// A line or a nested block.
+    struct Item {
+        std::string line;                 // empty for a block
+        std::string key;                  // folded name of a property or Properties block, else empty
+        std::shared_ptr<FormBlock> block; // a nested block
+        bool added = false;
+        bool isObject() const { return block && block->kind_ == Kind::Object; }
+        bool operator==(const Item&) const = default;
+    };
+    /// All lines but those of nested blocks.
+    struct Content {
+        std::string firstLine, lastLine;
+        std::vector<Item> items;
+        bool operator==(const Content&) const = default;
+    };
+
     FormBlock(Kind kind, std::string firstLine);
 
     Kind kind() const { return kind_; }
@@ -41,17 +57,6 @@ public:
     /// True if the property was added by `set` and not read from the file.
     bool wasAdded(std::string_view key) const;
     void eachProperty(const std::function<void(std::string_view key, std::string_view literal)>& see) const;
-
-    /// A property's line as it is in the file.
-    struct Line {
-        std::string text;
-        std::size_t place = 0;
-        bool added = false;
-    };
-    /// Nothing for a property without a line of its own.
-    std::optional<Line> line(std::string_view key) const;
-    /// Restores a line, or the state without one. Returns true if the text changed.
-    bool restore(std::string_view key, const std::optional<Line>& line);
 
     /// Visits the properties of this block and of all blocks within it. `line` is the line number of the block's first
     /// line and, on return, of the line after its last.
@@ -77,11 +82,12 @@ public:
 
     /// Indents this block by more levels, or fewer if negative. Nested Object blocks keep theirs.
     void indent(int levels);
-
-    class Snapshot;
-    /// Remembers the lines and the nested blocks, and their lines in turn.
-    std::shared_ptr<const Snapshot> snapshot() const;
-    void restore(const Snapshot& snapshot);
+    /// False for a block that the file ends in: lines after it would become part of it.
+    bool isClosed() const { return !lastLine_.empty(); }
+    /// Visits all nested blocks, each before those within it.
+    void eachBlockWithin(const std::function<void(const std::shared_ptr<FormBlock>&)>& see) const;
+    Content content() const;
+    void content(const Content& content);
 
     void writeTo(std::string& out) const;
     std::size_t lineCount() const;
@@ -92,13 +98,6 @@ public:
     void close(std::string_view lastLine) { lastLine_ = lastLine; }
 
 private:
-    struct Item {
-        std::string line;                 // empty for a block
-        std::string key;                  // folded name of a property or Properties block, else empty
-        std::shared_ptr<FormBlock> block; // a nested block
-        bool added = false;
-        bool isObject() const { return block && block->kind_ == Kind::Object; }
-    };
     using Items = std::vector<std::unique_ptr<Item>>;
 
     Item* find(std::string_view key) const;

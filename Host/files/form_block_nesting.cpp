@@ -7,13 +7,6 @@
 
 namespace host {
 
-class FormBlock::Snapshot {
-public:
-    std::string firstLine, lastLine, name;
-    std::vector<Item> items;
-    std::vector<std::shared_ptr<const Snapshot>> nested; ///< of the items that are blocks
-};
-
 namespace {
 
 constexpr std::size_t kLevelWidth = 3;
@@ -116,29 +109,29 @@ void FormBlock::indent(int levels) {
     }
 }
 
-std::shared_ptr<const FormBlock::Snapshot> FormBlock::snapshot() const {
-    auto made = std::make_shared<Snapshot>();
-    made->firstLine = firstLine_;
-    made->lastLine = lastLine_;
-    made->name = name_;
+void FormBlock::eachBlockWithin(const std::function<void(const std::shared_ptr<FormBlock>&)>& see) const {
     for (const auto& item : items_) {
-        made->items.push_back(*item);
-        if (item->block) made->nested.push_back(item->block->snapshot());
+        if (!item->block) continue;
+        see(item->block);
+        item->block->eachBlockWithin(see);
     }
-    return made;
 }
 
-void FormBlock::restore(const Snapshot& snapshot) {
-    firstLine_ = snapshot.firstLine;
-    lastLine_ = snapshot.lastLine;
-    name_ = snapshot.name;
+FormBlock::Content FormBlock::content() const {
+    Content content{firstLine_, lastLine_, {}};
+    for (const auto& item : items_) content.items.push_back(*item);
+    return content;
+}
+
+void FormBlock::content(const Content& content) {
+    firstLine_ = content.firstLine;
+    lastLine_ = content.lastLine;
+    const auto parts = parseFormLine(firstLine_);
+    name_ = parts.name;
+    type_ = parts.type;
     items_.clear();
+    for (const auto& item : content.items) items_.push_back(std::make_unique<Item>(item));
     indexed_ = false;
-    auto nested = snapshot.nested.begin();
-    for (const auto& item : snapshot.items) {
-        items_.push_back(std::make_unique<Item>(item));
-        if (item.block) item.block->restore(**nested++);
-    }
 }
 
 void FormBlock::writeTo(std::string& out) const {

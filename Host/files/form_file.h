@@ -48,6 +48,9 @@ public:
     std::vector<ObjectLine> objects() const;
     /// Adds an Object line unless there is one of the same library.
     void addObject(const ObjectLine& line);
+    /// The lines before the form's Begin.
+    const std::vector<std::string>& linesBefore() const { return before_; }
+    void linesBefore(std::vector<std::string> lines) { before_ = std::move(lines); }
     /// The physical line, from 1, of the form's Begin.
     std::size_t rootLine() const { return before_.size() + 1; }
     /// The form itself; null if the file has no Begin.

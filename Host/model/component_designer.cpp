@@ -4,6 +4,7 @@
 #include "Host/model/project.h"
 #include "Host/model/project_references.h"
 #include "Host/model/windows/tool_window.h"
+#include <utility>
 
 namespace host {
 FormDesigner& ComponentDesigner::designer() {

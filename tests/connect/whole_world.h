@@ -1,7 +1,6 @@
 #pragma once
 // The whole add-in over the real host, used through its menu; user, compiler and devices are fakes.
 #include "Add-in/core/connect/connections.h"
-#include "Add-in/platform/windows/no_windows.h"
 #include "Host/system/classes.h"
 #include "Host/system/clipboard.h"
 #include "Host/system/environment.h"
@@ -11,6 +10,7 @@
 #include "tests/deploy/fake_pipe.h"
 #include "tests/support/fake_compiler.h"
 #include "tests/support/fake_targets.h"
+#include "tests/support/recorded_windows.h"
 #include "tests/support/test_host.h"
 #include "tests/support/traced_platform.h"
 
@@ -95,7 +95,7 @@ protected:
     host::Processes processes{[](const std::string&, const std::string&) { return true; }};
     TracedShell shell{trace};
     FixedScreen screen;
-    fernwick::NoWindows windows;
+    RecordedWindows windows;
     FixedClock clock;
     host::Resources resources{files, FERNWICK_SOURCE_DIR "/installation"};
     fernwick::Platform platform{user,

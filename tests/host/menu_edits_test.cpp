@@ -1,4 +1,5 @@
 // The menus of a form, changed all at once.
+#include "Host/model/forms/form_change.h"
 #include "Host/model/forms/menu_edits.h"
 #include "Host/model/forms/menu_shortcuts.h"
 #include "tests/host/designer_support.h"
@@ -143,12 +144,11 @@ TEST_F(Menus, StayBetweenOtherLines) {
     menus = host::menusOf(form());
     apply();
     EXPECT_EQ(file->text(), text);
-    std::swap(menus[0].name, menus[4].name);
-    const auto restore = host::restorerOfMenus(form());
+    const auto before = host::snapshotOf(form());
     menus.pop_back();
     apply();
     EXPECT_THAT(file->text(), testing::HasSubstr(crLf("   End\n   Begin VB.Timer tmrLast \n   End\nEnd\n")));
-    restore();
+    host::FormChange(before, host::snapshotOf(form())).undo();
     EXPECT_EQ(file->text(), text);
 }
 
@@ -195,9 +195,8 @@ TEST_F(Menus, RenamedOnesRaiseAnEvent) {
     EXPECT_THAT(shape(), ElementsAre("mnuHelp", ".mnuOpen", ".mnuRecent", ".mnuRecent", "mnuFile"));
 }
 
-TEST_F(Menus, AreRestoredExactlyAndWithoutEvents) {
-    const auto restore = host::restorerOfMenus(form());
-    EXPECT_EQ(file->text(), kMenus);
+TEST_F(Menus, ReturnExactlyAndWithoutAnAddition) {
+    const auto before = host::snapshotOf(form());
     menus.erase(menus.begin() + 1);
     menus[0].name = "mnuOther";
     menus[1].level = 0;
@@ -205,15 +204,30 @@ TEST_F(Menus, AreRestoredExactlyAndWithoutEvents) {
     menus.push_back({{}, 1, "New", "mnuNew"});
     const auto file = control("mnuFile");
     apply();
-    events.clear();
-    const auto again = host::restorerOfMenus(form());
+    const host::FormChange change(before, host::snapshotOf(form()));
     const auto changed = this->file->text();
-    restore();
+    events.clear();
+    change.undo();
     EXPECT_EQ(this->file->text(), kMenus);
     EXPECT_EQ(control("mnuFile"), file);
-    again();
+    change.redo();
     EXPECT_EQ(this->file->text(), changed);
-    EXPECT_THAT(events, IsEmpty());
+    change.undo();
+    EXPECT_EQ(this->file->text(), kMenus);
+    EXPECT_THAT(events, testing::Not(testing::Contains(testing::StartsWith("+"))));
+}
+
+TEST_F(Menus, ARemovedMenuReturnsWithTheItemsThatMoved) {
+    const auto before = host::snapshotOf(form());
+    menus.erase(menus.begin()); // its items move to the menu bar
+    for (auto& menu : menus) {
+        menu.level = 0;
+        menu.shortcut.clear();
+    }
+    apply();
+    EXPECT_THAT(shape(), ElementsAre("mnuOpen", "mnuRecent", "mnuRecent", "mnuHelp"));
+    host::FormChange(before, host::snapshotOf(form())).undo();
+    EXPECT_EQ(file->text(), kMenus);
 }
 
 TEST_F(Menus, AnErrorChangesNothing) {

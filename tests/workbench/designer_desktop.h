@@ -80,6 +80,13 @@ protected:
         desk().toolbox().setCurrentItem(desk().toolbox().findItems(tool, Qt::MatchExactly).front());
     }
     void key(int key, Qt::KeyboardModifiers modifiers = {}) { QTest::keyClick(&canvas(), Qt::Key(key), modifiers); }
+    /// Menus follow the selection and the history when the loop turns.
+    void choose(const QString& menu, const QString& item) {
+        settle();
+        menuItem(menu, item)->trigger();
+    }
+    void undo() { choose("&Edit", "&Undo"); }
+    void redo() { choose("&Edit", "&Redo"); }
     QString shown(const QString& property) {
         const int row = properties().rows().rowOf(property);
         return row < 0 ? "no such row" : properties().rows().index(row, 1).data().toString();

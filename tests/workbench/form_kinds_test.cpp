@@ -219,6 +219,6 @@ TEST_F(FormKinds, NewControlsHaveTheFontOfTheirForm) {
     EXPECT_EQ(fernwick::asText(font->Item("Name")->Value()), "Tahoma");
     EXPECT_EQ(fernwick::asDouble(font->Item("Size")->Value()), 9.75);
     EXPECT_TRUE(fernwick::asBoolean(font->Item("Bold")->Value()));
-    menuItem("&Edit", "&Undo")->trigger();
+    undo();
     EXPECT_EQ(saved("frmMain"), original);
 }

@@ -565,9 +565,9 @@ TEST_F(FormDesigners, UndoChanges) {
     key(Qt::Key_Down, Qt::ShiftModifier);
     type("Caption", "Fine");
     type("Cancel", "True");
-    for (int i = 0; i < 4; ++i) menuItem("&Edit", "&Undo")->trigger();
+    for (int i = 0; i < 4; ++i) undo();
     EXPECT_EQ(saved("frmMain"), original);
-    menuItem("&Edit", "&Undo")->trigger();
+    undo();
     EXPECT_EQ(saved("frmMain"), original);
 }
 
@@ -578,9 +578,9 @@ TEST_F(FormDesigners, UndoRestoresAControlWithItsContents) {
     key(Qt::Key_Delete);
     EXPECT_FALSE(view().picture().find(control("txtName")) == nullptr);
     EXPECT_EQ(view().picture().controls.size(), 24u - 4);
-    menuItem("&Edit", "&Undo")->trigger();
+    undo();
     EXPECT_EQ(view().picture().controls.size(), 24u);
-    menuItem("&Edit", "&Undo")->trigger();
+    undo();
     EXPECT_EQ(saved("frmMain"), original);
 }
 
@@ -591,7 +591,7 @@ TEST_F(FormDesigners, UndoSkipsControlsThatAnAddInRemoved) {
     clickOn("cmdOK");
     key(Qt::Key_Right, Qt::ControlModifier);
     component("frmMain")->Designer()->VBControls()->Remove(control("cmdOK"));
-    menuItem("&Edit", "&Undo")->trigger();
+    undo();
     EXPECT_EQ(valueOf("cmdOff", "Left"), "4800");
 }
 
@@ -715,7 +715,7 @@ TEST_F(FormDesigners, AToolDrawsAControlWithTheMouse) {
     EXPECT_EQ(valueOf("Command1", "Caption"), "Command1");
     EXPECT_EQ(desk().toolbox().tool(), "");
     EXPECT_EQ(shown("(Name)"), "Command1");
-    menuItem("&Edit", "&Undo")->trigger();
+    undo();
     EXPECT_EQ(saved("frmMain"), original);
 }
 

@@ -116,6 +116,9 @@ TEST_F(MenuEditing, NewMenusAreTypedOneAfterAnother) {
     undo();
     EXPECT_EQ(saved("frmMain"), original);
     EXPECT_TRUE(view().picture().menus.empty());
+    desk().redo();
+    settle();
+    EXPECT_EQ(view().picture().menus.size(), 1U);
 }
 
 TEST_F(MenuEditing, OnlyChangedLinesAreWritten) {

@@ -250,7 +250,7 @@ TEST_F(Properties, AFontIsChosenInItsDialog) {
     const auto look = view().picture().find(control("cmdOK"))->look;
     EXPECT_TRUE(look.font.bold());
     EXPECT_EQ(look.font.pixelSize(), 19);
-    menuItem("&Edit", "&Undo")->trigger();
+    undo();
     settle();
     EXPECT_EQ(shown("Font"), "MS Sans Serif");
 }
@@ -260,7 +260,7 @@ TEST_F(Properties, UndoingAPositionRestoresTheStartUpPosition) {
     const auto left = shown("Left");
     type("Left", "600");
     EXPECT_EQ(shown("StartUpPosition"), "0 - Manual");
-    menuItem("&Edit", "&Undo")->trigger();
+    undo();
     settle();
     EXPECT_EQ(shown("Left"), left);
     EXPECT_EQ(shown("StartUpPosition"), "2 - CenterScreen");

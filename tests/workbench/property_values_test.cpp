@@ -89,6 +89,10 @@ protected:
         menuItem("&Edit", "&Undo")->trigger();
         settle();
     }
+    void redo() {
+        desk().redo();
+        settle();
+    }
     std::string changes() { return difference(original, saved("frmMain")); }
 };
 
@@ -227,9 +231,13 @@ TEST_F(PropertyValues, APictureIsChosenWithAPreview) {
     EXPECT_FALSE(valueCell("Picture").data(Qt::DecorationRole).isNull());
     EXPECT_EQ(changes(), "+   Picture         =   \"frmMain.frx\":0014\n");
     EXPECT_EQ(folder.read("frmMain.frx"), kIconRecord + host::pictureRecord(folder.read("red.bmp"), false));
+    const auto changed = saved("frmMain");
     undo();
     EXPECT_EQ(shown("Picture"), "(None)");
     EXPECT_EQ(saved("frmMain"), original);
+    redo();
+    EXPECT_EQ(shown("Picture"), "(Bitmap)");
+    EXPECT_EQ(saved("frmMain"), changed);
 }
 
 TEST_F(PropertyValues, DeleteRemovesAPicture) {
@@ -289,6 +297,8 @@ TEST_F(PropertyValues, AnEditChangesAllControlsAsOneStep) {
     EXPECT_EQ(valueOf("txtName", "Left"), "240");
     EXPECT_EQ(shown("Left"), "");
     EXPECT_EQ(saved("frmMain"), original);
+    redo();
+    EXPECT_EQ(shown("Left"), "360");
 }
 
 TEST_F(PropertyValues, ARefusedEditChangesNoControl) {

@@ -1,7 +1,9 @@
 #include "Add-in/platform/windows/scroll_bar.h"
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <limits>
+#include <utility>
 
 namespace fernwick {
 

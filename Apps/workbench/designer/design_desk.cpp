@@ -1,5 +1,6 @@
 #include "Apps/workbench/designer/design_desk.h"
-#include "Apps/workbench/designer/form_grips.h"
+#include "Apps/workbench/arrange/form_grips.h"
+#include "Apps/workbench/designer/form_canvas.h"
 #include "Apps/workbench/designer/offered_controls.h"
 #include "Apps/workbench/menu_editor/menu_editor.h"
 #include "Basic/runtime_error.h"
@@ -19,8 +20,8 @@ DesignDesk::DesignDesk(host::Host& host, CodeWindows& tabs, ProjectExplorer& exp
       toolbox_(new Toolbox([this](const auto& progId) { addInMiddle(progId); })),
       forms_(new FormWindows(host, tabs, history_,
                              {run_, [this] { followTabs(); }, [this] { return toolbox_->tool(); },
-                              [this] { toolbox_->putBack(); }, [this] { selectionChanged(); },
-                              [this] { return grid_; }})) {
+                              [this] { toolbox_->putBack(); }, [this] { selectionChanged.raise(); },
+                              [this] { return grid_; }, [this](const auto& at) { menuRequested(at); }})) {
     connect(&tabs, &QTabWidget::currentChanged, this, [this] { followTabs(); });
     connect(&explorer, &QTreeWidget::currentItemChanged, this, [this] { followExplorer(); });
     connect(&explorer, &QTreeWidget::itemClicked, this, [this] { followExplorer(); });
@@ -44,7 +45,7 @@ void DesignDesk::refreshSoon() {
 }
 
 void DesignDesk::followTabs() {
-    selectionChanged();
+    selectionChanged.raise();
     if (forms_->current()) listTools();
     if (auto* view = forms_->current()) return properties_->inspect(view->component(), view->selected());
     if (auto* editor = tabs_.current()) return properties_->inspect(editor->component());
@@ -78,7 +79,7 @@ void DesignDesk::addInMiddle(const std::string& progId) {
 
 void DesignDesk::updateGrid() {
     grid_ = storedGrid();
-    for (auto* view : forms_->views()) view->widget()->update();
+    for (auto* view : forms_->views()) view->canvas().redraw();
 }
 
 vbide::Ref<vbide::VBComponent> DesignDesk::inHand() const {
@@ -113,10 +114,22 @@ void DesignDesk::editMenus() {
     if (view) run_([&] { workbench::editMenus(history_, view->component(), view); });
 }
 
-bool DesignDesk::undo() {
-    auto* const view = forms_->current();
-    if (view) view->undo();
-    return view != nullptr;
+void DesignDesk::undo() {
+    if (auto* const view = forms_->current()) view->undo();
+}
+
+void DesignDesk::redo() {
+    if (auto* const view = forms_->current()) view->redo();
+}
+
+bool DesignDesk::canUndo() const {
+    const auto* view = forms_->current();
+    return view && history_.canUndo(view->component());
+}
+
+bool DesignDesk::canRedo() const {
+    const auto* view = forms_->current();
+    return view && history_.canRedo(view->component());
 }
 
 } // namespace workbench

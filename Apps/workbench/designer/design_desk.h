@@ -27,14 +27,19 @@ public:
     void showCode();
     /// Shows its form, or its code if the form is in front already.
     void showObject();
-    /// Called when another form or control is selected, or what is selected has another place.
-    std::function<void()> selectionChanged = [] {};
+    /// Raised when another form or control is selected, or what is selected has another place.
+    fernwick::Event<> selectionChanged;
     /// Reads the grid from the user's settings.
     void updateGrid();
     /// Edits the menus of the form in front.
     void editMenus();
-    /// Undoes the last change of the form in front. False if no form is in front.
-    bool undo();
+    /// Called to open the context menu of the form in front, at a place on the screen.
+    std::function<void(const QPoint&)> menuRequested = [](const auto&) {};
+    /// Undoes the last change of the form in front, if there is one.
+    void undo();
+    void redo();
+    bool canUndo() const;
+    bool canRedo() const;
 
 private:
     void watch();

@@ -1,6 +1,5 @@
 #include "Apps/workbench/designer/form_canvas.h"
 #include "Apps/workbench/designer/form_painter.h"
-#include <QKeyEvent>
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
@@ -11,15 +10,13 @@ namespace {
 
 const QColor kGripColour("#0a246a");
 
-QPointF directionOf(int key) {
-    switch (key) {
-    case Qt::Key_Left: return {-1, 0};
-    case Qt::Key_Right: return {1, 0};
-    case Qt::Key_Up: return {0, -1};
-    case Qt::Key_Down: return {0, 1};
-    default: return {};
-    }
+QRectF squareAt(const QPointF& centre) {
+    return {centre - QPointF(kGripSize, kGripSize) / 2, QSizeF(kGripSize, kGripSize)};
 }
+
+bool hasNoSize(const DrawnControl& drawn) { return drawn.look.kind == ControlKind::Hidden; }
+
+bool isLine(const DrawnControl& drawn) { return drawn.look.kind == ControlKind::Line; }
 
 } // namespace
 
@@ -32,8 +29,14 @@ FormCanvas::FormCanvas(FormView& view) : view_(view) {
 
 void FormCanvas::formChanged() {
     drag_.reset();
+    if (tabOrder_) tabOrder_->follow(view_.picture());
     resize(sizeHint());
+    redraw();
+}
+
+void FormCanvas::redraw() {
     update();
+    contentChanged.raise();
 }
 
 QSize FormCanvas::sizeHint() const {
@@ -52,7 +55,10 @@ QPointF FormCanvas::onForm(const QPointF& onWidget) const { return onWidget - in
 
 QRectF FormCanvas::onCanvas(const QRectF& place) const { return place.translated(innerCorner()); }
 
-QRectF FormCanvas::shownPlace() const { return drag_ && drag_->tool.empty() ? drag_->now : selectedPlace(); }
+QRectF FormCanvas::shownPlace() const {
+    const bool changes = drag_ && (drag_->kind() == FormDrag::Kind::Move || drag_->kind() == FormDrag::Kind::Size);
+    return changes ? drag_->place() : selectedPlace();
+}
 
 SnapGrid FormCanvas::gridFrom(const QPointF& origin) const { return {origin, view_.callbacks().grid().step()}; }
 
@@ -71,18 +77,32 @@ std::vector<GripPlace> FormCanvas::grips() const {
         return gripsOf(place.adjusted(0, 0, frame.right() + kGripSize / 2, frame.bottom() + kGripSize / 2),
                        GripsOf::Form);
     }
-    if (drawn->look.kind == ControlKind::Line) return gripsOf(place, GripsOf::Line);
-    return gripsOf(place, drawn->look.kind == ControlKind::Hidden ? GripsOf::Fixed : GripsOf::Control);
+    if (isLine(*drawn)) return gripsOf(place, GripsOf::Line);
+    return gripsOf(place, hasNoSize(*drawn) ? GripsOf::Fixed : GripsOf::Control);
 }
 
 Grip FormCanvas::gripAt(const QPointF& onWidget) const {
     const auto* drawn = view_.drawnSelection();
-    if (drawn && drawn->look.kind == ControlKind::Hidden) return Grip::None;
+    if (tabOrder_ || view_.picture().isLocked || (drawn && hasNoSize(*drawn))) return Grip::None;
     for (const auto& grip : grips()) {
         const auto apart = onWidget - grip.at;
         if (std::max(std::abs(apart.x()), std::abs(apart.y())) <= kGripSize / 2 + 1) return grip.grip;
     }
     return Grip::None;
+}
+
+std::optional<int> FormCanvas::gripNumberAt(const QPointF& at) const {
+    const auto grip = gripAt(at);
+    return grip == Grip::None ? std::nullopt : std::optional(numberOf(grip));
+}
+
+vbide::Ref<vbide::VBControl> FormCanvas::controlAt(const QPointF& at) const {
+    const auto* drawn = view_.picture().at(onForm(at));
+    return drawn ? drawn->control : nullptr;
+}
+
+Qt::CursorShape FormCanvas::cursorAt(const QPointF& at) const {
+    return view_.callbacks().tool().empty() ? cursorOf(gripAt(at)) : Qt::CrossCursor;
 }
 
 // ---- drawing --------------------------------------------------------------------------------------------------------
@@ -94,73 +114,40 @@ void FormCanvas::paintEvent(QPaintEvent* event) {
     painter.translate(kCanvasMargin, kCanvasMargin);
     paintForm(painter, view_.picture(), view_.callbacks().grid());
     painter.restore();
-    drawSelection(painter);
+    if (!tabOrder_) return drawSelection(painter);
+    painter.translate(innerCorner());
+    tabOrder_->paint(painter, view_.picture());
 }
 
 void FormCanvas::drawSelection(QPainter& painter) const {
-    if (drag_ && drag_->now != drag_->before) {
-        painter.setPen(QPen(Qt::darkGray, 2));
-        painter.setBrush(Qt::NoBrush);
-        const auto place = onCanvas(drag_->now);
-        if (drag_->isLine) return painter.drawLine(place.topLeft(), place.bottomRight());
-        return painter.drawRect(place);
-    }
-    painter.setPen(Qt::white);
-    painter.setBrush(hasFocus() ? kGripColour : QColor(Qt::gray));
-    for (const auto& grip : grips())
-        painter.drawRect(QRectF(grip.at - QPointF(kGripSize, kGripSize) / 2, QSizeF(kGripSize, kGripSize)));
+    const bool changes = drag_ && drag_->hasChanged();
+    if (!changes || drag_->kind() == FormDrag::Kind::Frame) drawGrips(painter);
+    if (changes) drawOutlines(painter);
 }
 
-// ---- the keyboard ---------------------------------------------------------------------------------------------------
-
-void FormCanvas::keyPressEvent(QKeyEvent* event) {
-    const auto direction = directionOf(event->key());
-    if (!direction.isNull()) {
-        const auto step = direction * view_.callbacks().grid().step();
-        if (event->modifiers() & Qt::ControlModifier) return nudge(step, false);
-        if (event->modifiers() & Qt::ShiftModifier) return nudge(step, true);
-        return view_.selectBeside(direction);
-    }
-    switch (event->key()) {
-    case Qt::Key_Delete: return view_.removeSelected();
-    case Qt::Key_Escape:
-        view_.callbacks().toolUsed();
-        if (drag_) return formChanged();
-        return view_.select(nullptr);
-    case Qt::Key_Return:
-    case Qt::Key_Enter: return view_.openCode();
-    default: QWidget::keyPressEvent(event);
+void FormCanvas::drawOutlines(QPainter& painter) const {
+    const bool isFrame = drag_->kind() == FormDrag::Kind::Frame;
+    painter.setPen(isFrame ? QPen(Qt::black, 1, Qt::DotLine) : QPen(Qt::darkGray, 2));
+    painter.setBrush(Qt::NoBrush);
+    for (const auto& place : drag_->places()) {
+        const auto shown = onCanvas(place);
+        drag_->isLine() ? painter.drawLine(shown.topLeft(), shown.bottomRight()) : painter.drawRect(shown.normalized());
     }
 }
 
-void FormCanvas::nudge(const QPointF& step, bool size) {
-    auto place = selectedPlace();
-    const auto* drawn = view_.drawnSelection();
-    const bool fixed = drawn && drawn->look.kind == ControlKind::Hidden;
-    if ((!drawn && (view_.selected() || !size)) || (fixed && size)) return;
-    if (!size) return view_.place(place.translated(step));
-    place.setRight(place.right() + step.x());
-    place.setBottom(place.bottom() + step.y());
-    const bool isLine = drawn && drawn->look.kind == ControlKind::Line;
-    if (isLine || (place.width() >= 0 && place.height() >= 0)) view_.place(place);
-}
-
-/// The Tab key selects the next control.
-bool FormCanvas::focusNextPrevChild(bool next) {
-    if (view_.picture().controls.empty()) return QWidget::focusNextPrevChild(next);
-    view_.selectNext(next ? 1 : -1);
-    return true;
-}
-
-void FormCanvas::focusInEvent(QFocusEvent* event) {
-    QWidget::focusInEvent(event);
-    update();
-    view_.callbacks().focused();
-}
-
-void FormCanvas::focusOutEvent(QFocusEvent* event) {
-    QWidget::focusOutEvent(event);
-    update();
+/// Only the leader's grips can be pulled. Those of the others, and those of a locked form, are hollow.
+void FormCanvas::drawGrips(QPainter& painter) const {
+    const auto colour = hasFocus() ? kGripColour : QColor(Qt::gray);
+    painter.setPen(colour);
+    painter.setBrush(Qt::white);
+    for (const auto* drawn : view_.drawnBesideLeader())
+        for (const auto& grip : gripsOf(onCanvas(drawn->place), isLine(*drawn) ? GripsOf::Line : GripsOf::Fixed))
+            painter.drawRect(squareAt(grip.at));
+    if (!view_.picture().isLocked) {
+        painter.setPen(Qt::white);
+        painter.setBrush(colour);
+    }
+    for (const auto& grip : grips()) painter.drawRect(squareAt(grip.at));
 }
 
 } // namespace workbench

@@ -1,7 +1,9 @@
 #pragma once
 // The widget that a form is drawn on, with its mouse and keyboard handling.
-#include "Apps/workbench/designer/form_grips.h"
+#include "Add-in/platform/events.h"
+#include "Apps/workbench/arrange/form_drag.h"
 #include "Apps/workbench/designer/form_view.h"
+#include "Apps/workbench/designer/tab_order.h"
 #include <QWidget>
 
 namespace workbench {
@@ -9,20 +11,53 @@ namespace workbench {
 /// Pixels around the form.
 inline constexpr int kCanvasMargin = 8;
 
+/// Its input is functions, so that another window can pass on what the user does there. Places are in pixels of this
+/// widget.
 class FormCanvas final : public QWidget {
 public:
     explicit FormCanvas(FormView& view);
 
     FormView& view() { return view_; }
 
-    /// Called after the view has read the form again.
-    void formChanged();
+    // ---- input ----
+    /// The left button. With Shift or Ctrl, a control is added to the selection or removed from it.
+    void press(const QPointF& at, Qt::KeyboardModifiers modifiers = {});
+    /// The mouse without a button, or while it drags.
+    void moveTo(const QPointF& at);
+    void release(const QPointF& at);
+    /// Ends a drag without a change.
+    void cancelDrag();
+    bool isDragging() const { return drag_.has_value(); }
+    /// Opens the code of what is there.
+    void doubleClick(const QPointF& at);
+    /// Selects what is there, unless it is selected, and opens its menu.
+    void contextMenu(const QPointF& at, const QPoint& onScreen);
+    /// False for a key that means nothing here.
+    bool key(int key, Qt::KeyboardModifiers modifiers = {});
+
+    // ---- what is where ----
+    Qt::CursorShape cursorAt(const QPointF& at) const;
+    /// The number, from 0 to 7, of a grip that can be pulled now.
+    std::optional<int> gripNumberAt(const QPointF& at) const;
+    /// Null for the form.
+    vbide::Ref<vbide::VBControl> controlAt(const QPointF& at) const;
+    /// The name and class of a control that is drawn as a symbol or a box; else "".
+    QString tipAt(const QPointF& onWidget) const;
     /// Converts a place on the form's inner rectangle to this widget.
     QRectF onCanvas(const QRectF& place) const;
     /// The place of the selected control, or of the form, on the form's inner rectangle; while it is dragged, its new one.
     QRectF shownPlace() const;
-    /// The name and class of a control that is drawn as a symbol or a box; else "".
-    QString tipAt(const QPointF& onWidget) const;
+
+    /// Shows the order of the Tab key, or ends that. While it is shown, clicks number the controls.
+    void switchTabOrder();
+    bool showsTabOrder() const { return tabOrder_.has_value(); }
+
+    /// Called after the view has read the form again.
+    void formChanged();
+    /// Draws again.
+    void redraw();
+    /// Raised when what is drawn has changed.
+    fernwick::Event<> contentChanged;
 
 protected:
     bool event(QEvent* event) override;
@@ -31,6 +66,7 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
@@ -38,30 +74,38 @@ protected:
     QSize sizeHint() const override;
 
 private:
-    /// A move or a change of size in progress.
-    struct Drag {
-        QPointF from;
-        Grip grip = Grip::None; ///< None moves the whole
-        QRectF before, now;
-        QPointF origin; ///< of the grid
-        bool isLine = false;
-        std::string tool; ///< the class of a new control, "" for a move
-    };
-
     QPointF innerCorner() const;
     QPointF onForm(const QPointF& onWidget) const;
     QRectF selectedPlace() const;
     SnapGrid gridFrom(const QPointF& origin) const;
     std::vector<GripPlace> grips() const;
     Grip gripAt(const QPointF& onWidget) const;
+
+    bool pressInTabOrder(const QPointF& onWidget);
     bool beginNew(const QPointF& onWidget);
-    void beginDrag(const QPointF& onWidget, Grip grip);
+    bool beginSize(const QPointF& onWidget);
+    void beginMove(const QPointF& onWidget);
+    void beginFrame(const QPointF& onWidget, const vbide::Ref<vbide::VBControl>& around, bool extends);
+    void pressControl(const vbide::Ref<vbide::VBControl>& control, const QPointF& at, Qt::KeyboardModifiers modifiers);
+    void finish(const FormDrag& drag);
+    void finishFrame(const FormDrag& drag);
     bool openMenu(const QPointF& onWidget);
+
+    bool pressArrow(const QPointF& direction, Qt::KeyboardModifiers modifiers);
+    void escape();
     void nudge(const QPointF& step, bool size);
+    void nudgeForm(const QPointF& step, bool size);
+
     void drawSelection(QPainter& painter) const;
+    void drawOutlines(QPainter& painter) const;
+    void drawGrips(QPainter& painter) const;
 
     FormView& view_;
-    std::optional<Drag> drag_;
+    std::optional<FormDrag> drag_;
+    std::optional<TabOrder> tabOrder_;
+    /// The container in which a frame selects, null for the form, and whether it adds to the selection.
+    vbide::Ref<vbide::VBControl> framed_;
+    bool frameExtends_ = false;
 };
 
 } // namespace workbench

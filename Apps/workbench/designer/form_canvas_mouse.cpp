@@ -2,20 +2,17 @@
 #include "Apps/workbench/base/text.h"
 #include "Apps/workbench/designer/form_canvas.h"
 #include "Apps/workbench/designer/form_menu.h"
+#include <QContextMenuEvent>
 #include <QHelpEvent>
 #include <QMouseEvent>
 #include <QToolTip>
+#include <utility>
 
 namespace workbench {
 
-namespace {
-
-/// The mouse must move this far before something is dragged.
-constexpr double kDragBegins = 3;
-
-} // namespace
-
 bool FormCanvas::event(QEvent* event) {
+    // the release of the mouse goes to another window
+    if (event->type() == QEvent::WindowDeactivate || event->type() == QEvent::Hide) cancelDrag();
     if (event->type() != QEvent::ToolTip) return QWidget::event(event);
     const auto& help = static_cast<const QHelpEvent&>(*event);
     QToolTip::showText(help.globalPos(), tipAt(help.pos()), this);
@@ -28,16 +25,46 @@ QString FormCanvas::tipAt(const QPointF& onWidget) const {
     return isSymbol ? QString("%1 (%2)").arg(drawn->name, qt(drawn->control->ProgId())) : QString();
 }
 
-void FormCanvas::mousePressEvent(QMouseEvent* event) {
-    if (event->button() != Qt::LeftButton) return;
-    const auto at = event->position();
-    if (beginNew(at)) return;
-    if (const auto grip = gripAt(at); grip != Grip::None) return beginDrag(at, grip);
-    if (openMenu(at)) return;
-    const auto* drawn = view_.picture().at(onForm(at));
-    const auto control = drawn ? drawn->control : nullptr;
-    view_.select(control);
-    if (control) beginDrag(at, Grip::None);
+// ---- pressing -------------------------------------------------------------------------------------------------------
+
+void FormCanvas::press(const QPointF& at, Qt::KeyboardModifiers modifiers) {
+    if (pressInTabOrder(at) || beginNew(at) || beginSize(at) || openMenu(at)) return;
+    if (const auto control = controlAt(at)) return pressControl(control, at, modifiers);
+    const bool extends = modifiers & (Qt::ShiftModifier | Qt::ControlModifier);
+    if (!extends) view_.select(nullptr);
+    beginFrame(at, nullptr, extends);
+}
+
+/// With the Ctrl key, a drag from a container selects in it.
+void FormCanvas::pressControl(const vbide::Ref<vbide::VBControl>& control, const QPointF& at,
+                              Qt::KeyboardModifiers modifiers) {
+    if ((modifiers & Qt::ControlModifier) && isContainer(control->ProgId())) return beginFrame(at, control, true);
+    if (modifiers & (Qt::ShiftModifier | Qt::ControlModifier))
+        view_.selectAlso(control);
+    else
+        view_.lead(control);
+    if (view_.isSelected(control)) beginMove(at);
+}
+
+void FormCanvas::switchTabOrder() {
+    cancelDrag();
+    if (tabOrder_)
+        tabOrder_.reset();
+    else
+        tabOrder_.emplace(view_.picture());
+    redraw();
+    view_.callbacks().placeChanged();
+}
+
+bool FormCanvas::pressInTabOrder(const QPointF& onWidget) {
+    if (!tabOrder_) return false;
+    const auto control = controlAt(onWidget);
+    const auto changes =
+        control ? tabOrder_->click(control) : std::vector<std::pair<FormView::Control, DesignChange>>();
+    view_.change([changes] {
+        for (const auto& [one, change] : changes) setAll(one->Properties(), {change});
+    });
+    return true;
 }
 
 /// With a tool selected, the mouse draws the place of a new control.
@@ -45,54 +72,117 @@ bool FormCanvas::beginNew(const QPointF& onWidget) {
     const auto tool = view_.callbacks().tool();
     if (tool.empty()) return false;
     view_.select(nullptr);
-    const QRectF place(onGrid(onForm(onWidget), gridFrom({})), QSizeF());
-    drag_ = Drag{onWidget, Grip::None, place, place, {}, false, tool};
+    drag_ = FormDrag::drawing(onForm(onWidget), gridFrom({}), tool);
     return true;
 }
 
-void FormCanvas::beginDrag(const QPointF& onWidget, Grip grip) {
+bool FormCanvas::beginSize(const QPointF& onWidget) {
+    const auto grip = gripAt(onWidget);
+    if (grip == Grip::None) return false;
     const auto* drawn = view_.drawnSelection();
-    const auto place = selectedPlace();
-    drag_ = Drag{
-        onWidget, grip, place, place, drawn ? drawn->origin : QPointF(), drawn && drawn->look.kind == ControlKind::Line,
-        {}};
+    const bool isLine = drawn && drawn->look.kind == ControlKind::Line;
+    drag_ = FormDrag::sizing(grip, selectedPlace(), gridFrom(drawn ? drawn->origin : QPointF()), isLine);
+    return true;
 }
 
-void FormCanvas::mouseMoveEvent(QMouseEvent* event) {
-    if (!drag_) {
-        const bool draws = !view_.callbacks().tool().empty();
-        return setCursor(draws ? Qt::CrossCursor : cursorOf(gripAt(event->position())));
-    }
-    const auto by = event->position() - drag_->from;
-    if (drag_->now == drag_->before && by.manhattanLength() < kDragBegins) return;
-    drag_->now = drag_->tool.empty()
-                     ? pulled(drag_->before, drag_->grip, by, gridFrom(drag_->origin), drag_->isLine)
-                     : QRectF(drag_->before.topLeft(), onGrid(onForm(event->position()), gridFrom({}))).normalized();
-    update();
+void FormCanvas::beginMove(const QPointF& onWidget) {
+    const auto all = view_.drawnSelections();
+    if (view_.picture().isLocked || all.empty()) return;
+    std::vector<QRectF> places;
+    for (const auto* drawn : all) places.push_back(drawn->place);
+    drag_ = FormDrag::moving(onForm(onWidget), places, gridFrom(all.back()->origin),
+                             all.back()->look.kind == ControlKind::Line && all.size() == 1);
+}
+
+void FormCanvas::beginFrame(const QPointF& onWidget, const vbide::Ref<vbide::VBControl>& around, bool extends) {
+    framed_ = around;
+    frameExtends_ = extends;
+    drag_ = FormDrag::framing(onForm(onWidget));
+}
+
+// ---- dragging -------------------------------------------------------------------------------------------------------
+
+void FormCanvas::moveTo(const QPointF& at) {
+    if (!drag_) return setCursor(cursorAt(at));
+    const auto before = drag_->places();
+    drag_->moveTo(onForm(at));
+    if (drag_->places() == before) return;
+    redraw();
     view_.callbacks().placeChanged();
 }
 
-void FormCanvas::mouseReleaseEvent(QMouseEvent*) {
+void FormCanvas::release(const QPointF& at) {
     if (!drag_) return;
-    const auto drag = *drag_;
+    moveTo(at);
+    const auto drag = *std::exchange(drag_, std::nullopt);
+    redraw();
+    finish(drag);
+}
+
+void FormCanvas::cancelDrag() {
+    if (!drag_) return;
     drag_.reset();
-    update();
-    if (!drag.tool.empty()) {
-        view_.callbacks().toolUsed();
-        view_.add(drag.tool, drag.now);
-    } else if (drag.now != drag.before) {
-        view_.place(drag.now);
+    redraw();
+    view_.callbacks().placeChanged();
+}
+
+void FormCanvas::finish(const FormDrag& drag) {
+    switch (drag.kind()) {
+    case FormDrag::Kind::Frame: return finishFrame(drag);
+    case FormDrag::Kind::Draw: view_.callbacks().toolUsed(); return view_.add(drag.tool(), drag.place());
+    default:
+        if (drag.hasChanged()) view_.place(drag.places());
     }
 }
 
-void FormCanvas::mouseDoubleClickEvent(QMouseEvent* event) {
-    if (event->button() != Qt::LeftButton || openMenu(event->position())) return;
-    const auto* drawn = view_.picture().at(onForm(event->position()));
-    view_.openCode(drawn ? drawn->control : nullptr);
+/// A click with the Ctrl key on a container has no frame.
+void FormCanvas::finishFrame(const FormDrag& drag) {
+    const auto around = std::exchange(framed_, nullptr);
+    if (drag.hasChanged()) return view_.selectTouched(drag.place(), around, frameExtends_);
+    if (around) view_.selectAlso(around);
+}
+
+// ---- other buttons --------------------------------------------------------------------------------------------------
+
+void FormCanvas::doubleClick(const QPointF& at) {
+    if (pressInTabOrder(at) || openMenu(at)) return;
+    view_.openCode(controlAt(at));
+}
+
+void FormCanvas::contextMenu(const QPointF& at, const QPoint& onScreen) {
+    cancelDrag();
+    const auto control = controlAt(at);
+    if (!control || !view_.isSelected(control)) view_.select(control);
+    view_.callbacks().menu(onScreen);
 }
 
 bool FormCanvas::openMenu(const QPointF& onWidget) {
     return openMenuAt(view_, *this, onWidget, QPointF(kCanvasMargin, kCanvasMargin));
+}
+
+// ---- Qt's events ----------------------------------------------------------------------------------------------------
+
+void FormCanvas::mousePressEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton) return cancelDrag();
+    press(event->position(), event->modifiers());
+    if (drag_) moveTo(event->position()); // the origin for a grip
+}
+
+void FormCanvas::mouseMoveEvent(QMouseEvent* event) { moveTo(event->position()); }
+
+void FormCanvas::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton) release(event->position());
+}
+
+void FormCanvas::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton) doubleClick(event->position());
+}
+
+/// Opened by a key, the menu appears at the selection.
+void FormCanvas::contextMenuEvent(QContextMenuEvent* event) {
+    if (event->reason() == QContextMenuEvent::Mouse) return contextMenu(event->pos(), event->globalPos());
+    const auto at = onCanvas(selectedPlace()).normalized().center().toPoint();
+    view_.callbacks().menu(mapToGlobal(at));
 }
 
 } // namespace workbench

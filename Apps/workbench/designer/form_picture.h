@@ -22,6 +22,8 @@ struct FormPicture {
     QString caption;
     QColor back;
     QPixmap picture;
+    /// Controls and form can be neither moved nor sized.
+    bool isLocked = false;
     bool controlBox = true, minButton = true, maxButton = true, smallTitle = false;
     /// The menu bar, including invisible menus.
     std::vector<DrawnMenu> menus;

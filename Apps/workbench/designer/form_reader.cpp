@@ -151,6 +151,7 @@ FormPicture pictureOfForm(vbide::VBComponent& component, int depth) {
     picture.caption = read.text("Caption");
     picture.back = read.colour("BackColor", formColour(kFormColour));
     picture.picture = read.picture("Picture");
+    picture.isLocked = read.flag("LockControls");
     readFrame(picture, form, read);
     const auto controls = form->ContainedVBControls();
     picture.menus = menusOf(controls);

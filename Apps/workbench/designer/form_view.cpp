@@ -33,71 +33,60 @@ void FormView::reload() {
     // a removed form keeps its last picture until its window is closed
     const auto failed = basic::attempt([this] { picture_ = pictureOfForm(*component_); });
     if (failed.Number != 0) return;
-    const bool gone = selected_ && basic::attempt([this] { (void)selected_->ClassName(); }).Number != 0;
-    if (gone) select(nullptr);
+    const auto isGone = [](const auto& control) {
+        return basic::attempt([&] { (void)control->ClassName(); }).Number != 0;
+    };
+    if (std::erase_if(selection_, isGone) > 0) selectionChanged();
     canvas_->formChanged();
     callbacks_.placeChanged();
 }
 
-void FormView::select(const vbide::Ref<vbide::VBControl>& control) {
-    if (control == selected_) return;
-    selected_ = control;
-    const auto* drawn = drawnSelection();
-    canvas_->setAccessibleDescription(drawn ? drawn->name : picture_.caption);
-    if (drawn) {
-        const auto shown = canvas_->onCanvas(drawn->place.normalized()).toRect();
-        ensureVisible(shown.center().x(), shown.center().y(), shown.width() / 2, shown.height() / 2);
-    }
-    canvas_->update();
-    callbacks_.selected();
-}
-
 QRectF FormView::shownPlace() const { return canvas_->shownPlace(); }
 
-void FormView::place(const QRectF& place) {
-    const auto* drawn = drawnSelection();
-    const auto changes = drawn ? changesOfPlace(*drawn, place) : changesOfForm(picture_, place);
-    const auto control = drawn ? drawn->control : nullptr;
-    edit([&history = history_, component = component_, control, changes] {
-        history.set(component, control ? control->Properties() : component->Properties(), changes);
+void FormView::place(const std::vector<QRectF>& places) {
+    const auto all = drawnSelections();
+    std::vector<std::pair<Control, std::vector<DesignChange>>> changes;
+    if (all.empty()) changes.emplace_back(nullptr, changesOfForm(picture_, places.back()));
+    for (std::size_t i = 0; i < std::min(places.size(), all.size()); ++i) {
+        const auto& drawn = *all[all.size() - 1 - i];
+        changes.emplace_back(drawn.control, changesOfPlace(drawn, places[places.size() - 1 - i]));
+    }
+    change([component = component_, changes] {
+        for (const auto& [control, values] : changes)
+            setAll(control ? control->Properties() : component->Properties(), values);
     });
 }
 
 void FormView::removeSelected() {
-    if (!selected_) return;
-    const auto control = selected_;
+    if (selection_.empty()) return;
+    const auto controls = selection_;
     select(nullptr);
-    edit([component = component_, &history = history_, control] {
-        const auto form = component->Designer();
-        const auto removed = host::removeControl(form, control);
-        history.did(component, [form, removed] { host::restoreControl(form, removed); });
+    change([form = component_->Designer(), controls] {
+        for (const auto& control : controls) host::removeControl(form, control);
     });
 }
 
 void FormView::add(const std::string& progId, const QRectF& place) {
-    vbide::Ref<vbide::VBControl> added;
+    Control added;
     const QPointer<FormView> here(this);
-    edit([&, component = component_] {
+    change([&, component = component_] {
         const auto* container = picture_.containerAt(place.topLeft());
         added = host::addControl(component->Designer(), container ? container->control : nullptr, progId);
+        if (here) finish(added, place);
     });
-    if (here && added && picture_.find(added)) finish(added, place); // else an add-in removed it again
+    if (here && picture_.find(added)) select(added);
 }
 
-void FormView::finish(const vbide::Ref<vbide::VBControl>& added, const QRectF& place) {
-    edit([this, added, place, component = component_] {
-        const auto form = component->Designer();
-        setFontOfForm(component->Properties(), added->Properties());
-        picture_ = pictureOfForm(*component); // the size depends on the font
-        for (const auto& change : changesOfNew(*picture_.find(added), withSize(added, place)))
-            added->Properties()->Item(change.property)->Value(change.value);
-        history_.did(component, [form, added] { host::removeControl(form, added); });
-    });
-    select(added);
+void FormView::finish(const Control& added, const QRectF& place) {
+    picture_ = pictureOfForm(*component_);
+    if (!picture_.find(added)) return; // an add-in removed it again
+    setFontOfForm(component_->Properties(), added->Properties());
+    picture_ = pictureOfForm(*component_); // the size depends on the font
+    setAll(added->Properties(), changesOfNew(*picture_.find(added), withSize(added, place)));
 }
 
 /// A click has no size.
-QRectF FormView::withSize(const vbide::Ref<vbide::VBControl>& added, const QRectF& place) const {
+QRectF FormView::withSize(const Control& added, const QRectF& place) const {
     if (place.width() > 0 && place.height() > 0) return place;
     const auto& drawn = *picture_.find(added);
     const auto around =
@@ -110,6 +99,14 @@ void FormView::undo() {
     edit([&history = history_, component = component_] { history.undo(component); });
 }
 
+void FormView::redo() {
+    edit([&history = history_, component = component_] { history.redo(component); });
+}
+
+void FormView::change(const std::function<void()>& act) {
+    edit([&history = history_, component = component_, act] { history.record(component, act); });
+}
+
 void FormView::edit(const std::function<void()>& act) {
     const QPointer<FormView> here(this);
     const auto run = callbacks_.run;
@@ -117,9 +114,9 @@ void FormView::edit(const std::function<void()>& act) {
     if (here) reload(); // the next key must find the new state
 }
 
-void FormView::openCode() { openCode(selected_); }
+void FormView::openCode() { openCode(selected()); }
 
-void FormView::openCode(const vbide::Ref<vbide::VBControl>& control) {
+void FormView::openCode(const Control& control) {
     callbacks_.run([&] { openHandler(*component_, control); });
 }
 

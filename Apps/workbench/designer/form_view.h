@@ -14,6 +14,8 @@ class FormCanvas;
 
 class FormView final : public QScrollArea {
 public:
+    using Control = vbide::Ref<vbide::VBControl>;
+
     /// The view's calls to the desktop.
     struct Callbacks {
         /// Runs an edit and shows an error in a box.
@@ -29,6 +31,8 @@ public:
         /// What is selected has another place, or is dragged to one.
         std::function<void()> placeChanged;
         std::function<DesignGrid()> grid;
+        /// Opens the designer's context menu at a place on the screen.
+        std::function<void(const QPoint&)> menu;
     };
 
     /// Reads the form. Error 380 for a file without the description of a form.
@@ -36,29 +40,49 @@ public:
 
     const vbide::Ref<vbide::VBComponent>& component() const { return component_; }
     const FormPicture& picture() const { return picture_; }
-    /// Null if the form itself is selected.
-    const vbide::Ref<vbide::VBControl>& selected() const { return selected_; }
+    /// The control whose properties are shown; null if the form itself is selected.
+    Control selected() const { return selection_.empty() ? nullptr : selection_.back(); }
+    /// All selected controls, which are in one container. The last one leads. Empty for the form.
+    const std::vector<Control>& selection() const { return selection_; }
+    bool isSelected(const Control& control) const;
     /// Null, or a control that is not on the form, selects the form.
-    void select(const vbide::Ref<vbide::VBControl>& control);
+    void select(const Control& control);
+    void select(std::vector<Control> controls);
     /// The place of the selected control, or of the form, in pixels on the form's inner rectangle. While it is dragged,
     /// its new one.
     QRectF shownPlace() const;
+    FormCanvas& canvas() { return *canvas_; }
     /// Reads the form again when Qt's loop turns.
     void reloadSoon() { reload_.start(); }
     /// Undoes the last change of this form.
     void undo();
+    void redo();
+    /// Runs an edit as one step of the history, shows an error in a box, and reads the form again. A dialog of an add-in
+    /// may close this view in the meantime.
+    void change(const std::function<void()>& act);
 
     // ---- for the canvas ----
-    const DrawnControl* drawnSelection() const { return picture_.find(selected_); }
-    /// Moves or resizes the selected control, or the form's inner rectangle. Writes only what differs.
-    void place(const QRectF& place);
+    const DrawnControl* drawnSelection() const { return picture_.find(selected()); }
+    /// The selected controls that are drawn; the last one leads.
+    std::vector<const DrawnControl*> drawnSelections() const;
+    /// The same without the leader.
+    std::vector<const DrawnControl*> drawnBesideLeader() const;
+    /// Adds a control to the selection, or removes it. A control in another container is selected alone.
+    void selectAlso(const Control& control);
+    /// Makes a selected control the leader, or selects another one alone.
+    void lead(const Control& control);
+    /// Selects the controls directly in a container, null for the form, that a place touches.
+    void selectTouched(const QRectF& place, const Control& container, bool extends);
+    /// Moves or resizes the last ones of the drawn selection, or with one place the form's inner rectangle. Writes only
+    /// what differs.
+    void place(const std::vector<QRectF>& places);
     void removeSelected();
     /// Adds a control of a class to the topmost container at the place's corner, and selects it. Without a size, the
     /// control gets the usual one.
     void add(const std::string& progId, const QRectF& place);
     /// Shows the handler of the selected control's default event.
     void openCode();
-    void openCode(const vbide::Ref<vbide::VBControl>& control);
+    void openCode(const Control& control);
     /// Selects the next control in tab order (1), or the previous one (-1).
     void selectNext(int step);
     /// Selects the nearest control in a direction.
@@ -70,18 +94,18 @@ protected:
 
 private:
     void reload();
-    QRectF withSize(const vbide::Ref<vbide::VBControl>& added, const QRectF& place) const;
+    void selectionChanged();
+    QRectF withSize(const Control& added, const QRectF& place) const;
     /// Sets the font, the place and the caption of a new control.
-    void finish(const vbide::Ref<vbide::VBControl>& added, const QRectF& place);
-    /// Runs an edit, shows an error in a box, and reads the form again. A dialog of an add-in may close this view in
-    /// the meantime.
+    void finish(const Control& added, const QRectF& place);
+    /// As `change`, without a step.
     void edit(const std::function<void()>& act);
 
     vbide::Ref<vbide::VBComponent> component_;
     DesignHistory& history_;
     Callbacks callbacks_;
     FormPicture picture_;
-    vbide::Ref<vbide::VBControl> selected_;
+    std::vector<Control> selection_;
     FormCanvas* canvas_;
     QTimer reload_;
 };

@@ -38,7 +38,7 @@ void FormWindows::open(const vbide::Ref<vbide::VBComponent>& component) {
     const auto failed = basic::attempt([&] {
         view = new FormView(component, history_,
                             {callbacks_.run, callbacks_.selected, focused, callbacks_.tool, callbacks_.toolUsed,
-                             callbacks_.placeChanged, callbacks_.grid});
+                             callbacks_.placeChanged, callbacks_.grid, callbacks_.menu});
     });
     if (failed.Number != 0) return component->DesignerWindow()->Close();
     opening_ = true; // as the user did not choose this form

@@ -18,6 +18,7 @@ public:
         std::function<void()> toolUsed;
         std::function<void()> placeChanged;
         std::function<DesignGrid()> grid;
+        std::function<void(const QPoint&)> menu;
     };
 
     /// Host, tabs and history outlive this.

@@ -150,13 +150,9 @@ void MenuEditor::accept() {
 }
 
 bool MenuEditor::write(const std::vector<host::FormMenu>& menus) {
-    const auto form = component_->Designer();
-    const auto restore = host::restorerOfMenus(form);
-    const auto failed = basic::attempt([&] { host::setMenus(form, menus); });
-    if (failed.Number == 0)
-        history_.did(component_, restore);
-    else
-        showBox(this, QMessageBox::Warning, qt(failed.Description));
+    const auto failed =
+        basic::attempt([&] { history_.record(component_, [&] { host::setMenus(component_->Designer(), menus); }); });
+    if (failed.Number != 0) showBox(this, QMessageBox::Warning, qt(failed.Description));
     return failed.Number == 0;
 }
 

@@ -10,53 +10,96 @@ constexpr std::size_t kMostSteps = 200;
 
 } // namespace
 
-void DesignHistory::set(const vbide::Ref<vbide::VBComponent>& component, const vbide::Ref<vbide::Properties>& object,
-                        const std::vector<DesignChange>& changes) {
-    std::vector<Before> changed;
-    (void)basic::attempt([&] { // changes with a form's position, and is therefore restored after it
-        const auto start = object->Item("StartUpPosition");
-        changed.push_back({start, start->Value()});
-    });
-    try {
-        for (const auto& change : changes) {
-            const auto property = object->Item(change.property);
-            const auto before = property->Value();
-            property->Value(change.value);
-            changed.push_back({property, before});
-        }
-    } catch (const basic::RuntimeError&) {
-        putBack(changed);
-        throw;
-    }
-    std::erase_if(changed, [](const Before& one) { return one.property->Value() == one.value; });
-    if (!changed.empty()) remember({component, [changed] { return putBack(changed); }});
+void setAll(const vbide::Ref<vbide::Properties>& object, const std::vector<DesignChange>& changes) {
+    for (const auto& change : changes) object->Item(change.property)->Value(change.value);
 }
 
-void DesignHistory::did(const vbide::Ref<vbide::VBComponent>& component, std::function<void()> takeBack) {
-    remember({component, [takeBack = std::move(takeBack)] { return basic::attempt(takeBack).Number == 0; }});
+void DesignHistory::record(const Component& component, const std::function<void()>& edit) {
+    const auto name = component->Name();
+    const auto before = host::snapshotOf(component->Designer());
+    const auto change = [&] { return host::FormChange(before, host::snapshotOf(component->Designer())); };
+    try {
+        edit();
+    } catch (const basic::RuntimeError&) {
+        (void)basic::attempt([&] { change().undo(); });
+        throw;
+    }
+    // fails if a handler removed the component
+    (void)basic::attempt([&] { remember(component, name, change()); });
+}
+
+/// The name of a form is in more places than its description.
+void DesignHistory::remember(const Component& component, const std::string& oldName, const host::FormChange& change) {
+    const auto newName = component->Name();
+    if (change.isEmpty() && newName == oldName) return;
+    remember({component,
+              [=] {
+                  if (newName != oldName) component->Name(oldName);
+                  change.undo();
+              },
+              [=] {
+                  if (newName != oldName) component->Name(newName);
+                  change.redo();
+              },
+              [=] { return newName != oldName || change.hasEffect(); }});
+}
+
+void DesignHistory::set(const Component& component, const vbide::Ref<vbide::Properties>& object,
+                        const std::vector<DesignChange>& changes) {
+    record(component, [&] { setAll(object, changes); });
+}
+
+void DesignHistory::did(const Component& component, std::function<void()> takeBack, std::function<void()> repeat) {
+    remember({component, std::move(takeBack), std::move(repeat), [] { return true; }});
+}
+
+void DesignHistory::add(Steps& steps, Step step) {
+    steps.push_back(std::move(step));
+    if (steps.size() > kMostSteps) steps.pop_front();
 }
 
 void DesignHistory::remember(Step step) {
-    steps_.push_back(std::move(step));
-    if (steps_.size() > kMostSteps) steps_.pop_front();
+    std::erase_if(undone_, [&](const auto& one) { return one.component == step.component; });
+    add(done_, std::move(step));
 }
 
-bool DesignHistory::undo(const vbide::Ref<vbide::VBComponent>& component) {
+/// Drops the steps that have no effect any more.
+std::optional<DesignHistory::Step> DesignHistory::takeLast(Steps& steps, const Component& component) {
     for (;;) {
         const auto last =
-            std::find_if(steps_.rbegin(), steps_.rend(), [&](const auto& step) { return step.component == component; });
-        if (last == steps_.rend()) return false;
-        const auto step = *last;
-        steps_.erase(std::next(last).base());
-        if (step.takeBack()) return true;
+            std::find_if(steps.rbegin(), steps.rend(), [&](const auto& step) { return step.component == component; });
+        if (last == steps.rend()) return {};
+        auto step = *last;
+        steps.erase(std::next(last).base());
+        if (step.hasEffect()) return step;
     }
 }
 
-bool DesignHistory::putBack(const std::vector<Before>& before) {
-    bool any = false;
-    for (auto at = before.rbegin(); at != before.rend(); ++at)
-        any = basic::attempt([&] { at->property->Value(at->value); }).Number == 0 || any;
-    return any;
+bool DesignHistory::undo(const Component& component) {
+    while (auto step = takeLast(done_, component)) {
+        if (basic::attempt(step->takeBack).Number != 0) continue;
+        if (step->repeat) add(undone_, std::move(*step));
+        return true;
+    }
+    return false;
 }
+
+bool DesignHistory::redo(const Component& component) {
+    while (auto step = takeLast(undone_, component)) {
+        if (basic::attempt(step->repeat).Number != 0) continue;
+        add(done_, std::move(*step));
+        return true;
+    }
+    return false;
+}
+
+bool DesignHistory::canTake(const Steps& steps, const Component& component) {
+    return std::any_of(steps.begin(), steps.end(),
+                       [&](const auto& step) { return step.component == component && step.hasEffect(); });
+}
+
+bool DesignHistory::canUndo(const Component& component) const { return canTake(done_, component); }
+
+bool DesignHistory::canRedo(const Component& component) const { return canTake(undone_, component); }
 
 } // namespace workbench

@@ -1,8 +1,10 @@
 #pragma once
 // The undo history of changes to forms.
 #include "Add-in/platform/host_project.h"
+#include "Host/model/forms/form_change.h"
 #include <deque>
 #include <functional>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -15,33 +17,44 @@ struct DesignChange {
     fernwick::Variant value;
 };
 
+void setAll(const vbide::Ref<vbide::Properties>& object, const std::vector<DesignChange>& changes);
+
 /// There is one for the whole desktop. Each step belongs to a component.
 class DesignHistory {
 public:
+    using Component = vbide::Ref<vbide::VBComponent>;
+
+    /// Runs an edit and adds everything that it, and the handlers of its events, changed in the form as one step. If the
+    /// edit fails, restores the form and throws the error.
+    void record(const Component& component, const std::function<void()>& edit);
     /// Sets properties of one object of a component as one step. If one is refused, restores the earlier ones and
     /// throws the error.
-    void set(const vbide::Ref<vbide::VBComponent>& component, const vbide::Ref<vbide::Properties>& object,
+    void set(const Component& component, const vbide::Ref<vbide::Properties>& object,
              const std::vector<DesignChange>& changes);
-    /// Adds a step for another change of a component; `takeBack` undoes it.
-    void did(const vbide::Ref<vbide::VBComponent>& component, std::function<void()> takeBack);
+    /// Adds a step for another change of a component; `takeBack` undoes it. Without `repeat` it cannot be redone.
+    void did(const Component& component, std::function<void()> takeBack, std::function<void()> repeat = {});
     /// Undoes the last step of a component that still has an effect, skipping those on removed controls. False if there
     /// is none.
-    bool undo(const vbide::Ref<vbide::VBComponent>& component);
+    bool undo(const Component& component);
+    bool redo(const Component& component);
+    bool canUndo(const Component& component) const;
+    bool canRedo(const Component& component) const;
 
 private:
-    struct Before {
-        vbide::Ref<vbide::Property> property;
-        fernwick::Variant value;
-    };
     struct Step {
-        vbide::Ref<vbide::VBComponent> component;
-        /// False if nothing could be undone.
-        std::function<bool()> takeBack;
+        Component component;
+        std::function<void()> takeBack, repeat;
+        std::function<bool()> hasEffect;
     };
-    static bool putBack(const std::vector<Before>& before);
-    void remember(Step step);
+    using Steps = std::deque<Step>;
 
-    std::deque<Step> steps_;
+    void remember(const Component& component, const std::string& oldName, const host::FormChange& change);
+    void remember(Step step);
+    static void add(Steps& steps, Step step);
+    static bool canTake(const Steps& steps, const Component& component);
+    static std::optional<Step> takeLast(Steps& steps, const Component& component);
+
+    Steps done_, undone_;
 };
 
 } // namespace workbench

@@ -11,7 +11,7 @@ using SharedProperty = std::vector<vbide::Ref<vbide::Property>>;
 using PropertyChange = std::function<void(const vbide::Ref<vbide::Property>&)>;
 
 /// Makes a change in all objects as one step of the history. If one is refused, restores the others and throws the
-/// error. Undoing it restores the lines that held the values.
+/// error.
 void changeAsOneStep(DesignHistory& history, const vbide::Ref<vbide::VBComponent>& component,
                      const SharedProperty& property, const PropertyChange& change);
 

@@ -33,11 +33,7 @@ PlaceStatus::PlaceStatus(QStatusBar& bar, CodeWindows& code, DesignDesk& design)
       place_(addField(bar, "statusPlace", "Position")),
       size_(addField(bar, "statusSize", "Width and height, in the units of the container; of a form in twips")) {
     connect(&code, &QTabWidget::currentChanged, this, [this] { follow(); });
-    design.selectionChanged = [this] { show(); };
-}
-
-PlaceStatus::~PlaceStatus() {
-    design_.selectionChanged = [] {};
+    selection_ = design.selectionChanged.connect([this] { show(); });
 }
 
 void PlaceStatus::follow() {

@@ -1,4 +1,5 @@
 #pragma once
+#include "Add-in/platform/events.h"
 #include <QObject>
 
 class QLabel;
@@ -15,7 +16,6 @@ class PlaceStatus final : public QObject {
 public:
     /// All of them outlive this.
     PlaceStatus(QStatusBar& bar, CodeWindows& code, DesignDesk& design);
-    ~PlaceStatus() override;
 
 private:
     void follow();
@@ -27,6 +27,7 @@ private:
     QLabel *place_, *size_;
     /// To the caret of the editor in front.
     QMetaObject::Connection caret_;
+    fernwick::Subscription selection_;
 };
 
 } // namespace workbench

@@ -168,22 +168,6 @@ basic::Ref<vbide::Properties> fontOf(std::weak_ptr<DesignerState> state, std::sh
     return propertiesOf(std::make_shared<FontProperties>(std::move(state), std::move(owner), std::move(property)));
 }
 
-std::function<void()> fontRestorer(std::weak_ptr<DesignerState> state, std::shared_ptr<FormBlock> owner,
-                                   const std::string& property) {
-    const auto block = owner->properties(property);
-    return [state = std::move(state), owner, property, line = owner->line(property), block,
-            before = block ? block->snapshot() : nullptr] {
-        const auto designer = liveDesigner(state, *owner);
-        if (before) {
-            block->restore(*before);
-        } else {
-            owner->remove(property);
-            owner->restore(property, line);
-        }
-        designer->raiseChanged();
-    };
-}
-
 basic::Ref<vbide::Properties> pictureOf(std::weak_ptr<DesignerState> state, std::shared_ptr<FormBlock> owner,
                                         std::string property) {
     return propertiesOf(std::make_shared<PictureProperties>(std::move(state), std::move(owner), std::move(property)));

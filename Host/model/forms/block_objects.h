@@ -3,7 +3,6 @@
 #include "Host/files/property_value.h"
 #include "Host/model/forms/designer_state.h"
 #include "Host/model/forms/property_source.h"
-#include <functional>
 
 namespace host {
 
@@ -11,10 +10,6 @@ namespace host {
 /// 8.25 points. Bold is a weight above 550, and is written as 700 or 400.
 basic::Ref<vbide::Properties> fontOf(std::weak_ptr<DesignerState> state, std::shared_ptr<FormBlock> owner,
                                      std::string property);
-
-/// Returns a function that restores the present block or line of a font.
-std::function<void()> fontRestorer(std::weak_ptr<DesignerState> state, std::shared_ptr<FormBlock> owner,
-                                   const std::string& property);
 
 /// Returns the members of a picture property, all read-only. Handle is 0 if there is no picture or the resource file
 /// does not have it.

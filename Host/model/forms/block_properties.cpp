@@ -131,22 +131,8 @@ void BlockProperties::picture(const std::string& name, const std::string& image)
 
 void BlockProperties::list(const std::string& name, const std::vector<std::string>& items) {
     const auto state = live();
-    if (partnerOf(name).empty() || !isBuiltInControl(*block_)) throw hostError(basic::kPropertyOrMethodNotSupported);
+    if (!isList(name) || !isBuiltInControl(*block_)) throw hostError(basic::kPropertyOrMethodNotSupported);
     if (items != std::as_const(*this).list(name)) setList(*state, *block_, name, items);
-}
-
-/// A name is not in a property's line, and a font may have a block of its own.
-std::function<void()> BlockProperties::restorer(const std::string& name) {
-    const auto state = live();
-    if (name == kNameProperty) return PropertySource::restorer(name);
-    if (describe(*state, name).kind == PropertyKind::Font) return fontRestorer(state_, block_, name);
-    const auto partner = partnerOf(name);
-    return [owner = state_, block = block_, name, line = block_->line(name), partner,
-            partnerLine = block_->line(partner)] {
-        const auto designer = liveDesigner(owner, *block);
-        if (!partner.empty()) designer->restore(*block, partner, partnerLine);
-        designer->restore(*block, name, line);
-    };
 }
 
 /// Members of a control array share their name and have different indexes.

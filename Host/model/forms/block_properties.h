@@ -21,7 +21,6 @@ public:
     std::vector<std::string> list(const std::string& name) const override;
     void picture(const std::string& name, const std::string& image) override;
     void list(const std::string& name, const std::vector<std::string>& items) override;
-    std::function<void()> restorer(const std::string& name) override;
 
 protected:
     /// Returns the state. Error 440 if the block is no longer in the form.

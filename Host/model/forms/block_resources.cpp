@@ -105,9 +105,6 @@ void setList(DesignerState& state, FormBlock& block, const std::string& property
     if (!ofNumbers) write(state, block, kList, texts);
 }
 
-std::string partnerOf(const std::string& property) {
-    if (isItemData(property)) return kList;
-    return basic::equalNoCase(property, kList) ? kItemData : "";
-}
+bool isList(const std::string& property) { return isItemData(property) || basic::equalNoCase(property, kList); }
 
 } // namespace host

@@ -27,7 +27,7 @@ void setList(DesignerState& state, FormBlock& block, const std::string& property
 /// The items of List or ItemData.
 std::vector<std::string> listOf(const DesignerState& state, const FormBlock& block, const std::string& property);
 
-/// The property whose line changes with this one; "" for most.
-std::string partnerOf(const std::string& property);
+/// True for List and ItemData.
+bool isList(const std::string& property);
 
 } // namespace host

@@ -1,8 +1,7 @@
 #include "Host/model/forms/control_edits.h"
-#include "Basic/case_folding.h"
 #include "Host/files/property_value.h"
 #include "Host/files/system_error.h"
-#include "Host/model/code/names.h"
+#include "Host/model/forms/control_names.h"
 #include "Host/model/forms/form_controls.h"
 #include "Host/model/forms/form_places.h"
 #include <algorithm>
@@ -12,23 +11,6 @@ namespace {
 
 constexpr int kNewWidth = 1215, kNewHeight = 495; // twips
 
-/// The stem of the names of new controls. Some built-in classes have a short one.
-std::string nameStem(const std::string& className) {
-    static constexpr std::pair<std::string_view, std::string_view> kShort[] = {
-        {"CommandButton", "Command"}, {"TextBox", "Text"},       {"CheckBox", "Check"},     {"OptionButton", "Option"},
-        {"ComboBox", "Combo"},        {"ListBox", "List"},       {"PictureBox", "Picture"}, {"HScrollBar", "HScroll"},
-        {"VScrollBar", "VScroll"},    {"DriveListBox", "Drive"}, {"DirListBox", "Dir"},     {"FileListBox", "File"}};
-    for (const auto& [whole, stem] : kShort)
-        if (className == whole) return std::string(stem);
-    return className;
-}
-
-std::string freeControlName(DesignerState& state, const std::string& stem) {
-    return firstFreeName(stem, [&](const std::string& name) {
-        return state.controlNamed(name) || basic::equalNoCase(name, state.root().name());
-    });
-}
-
 /// The container of a block, which is the form or a control on it.
 std::shared_ptr<FormBlock> containerOf(const std::shared_ptr<FormBlock>& root, const FormBlock& block) {
     const auto inner = root->objects();
@@ -36,17 +18,6 @@ std::shared_ptr<FormBlock> containerOf(const std::shared_ptr<FormBlock>& root, c
     for (const auto& candidate : inner)
         if (auto found = containerOf(candidate, block)) return found;
     return nullptr;
-}
-
-long nextTabIndex(DesignerState& state) {
-    long next = 0;
-    for (const auto& control : state.controls()) {
-        const auto literal = static_cast<const ControlModel&>(*control).block()->literal("TabIndex");
-        const auto value = parsePropertyValue(literal.value_or(""));
-        if (value.kind == PropertyValue::Kind::Integer && value.number < 1e6)
-            next = std::max(next, long(value.number) + 1);
-    }
-    return next;
 }
 
 /// Writes the properties of a new control, in twips at the origin of its container.
@@ -58,18 +29,7 @@ void placeNewControl(FormBlock& block, const TwipsPerUnit& scale, long tabIndex)
     block.set("Width", singleLiteral(kNewWidth / scale.x));
 }
 
-std::shared_ptr<DesignerState> stateOf(const basic::Ref<vbide::VBForm>& form) {
-    const auto model = basic::cast<FormModel>(form);
-    if (!model) throw hostError(basic::kInvalidProcedureCall);
-    return model->state();
-}
-
 } // namespace
-
-std::string classNameOf(std::string_view type) {
-    const auto point = type.rfind('.');
-    return std::string(point == std::string_view::npos ? type : type.substr(point + 1));
-}
 
 basic::Ref<vbide::VBControl> addControlTo(DesignerState& state, FormBlock& container, const TwipsPerUnit& scale,
                                           const std::string& progId) {
@@ -77,7 +37,7 @@ basic::Ref<vbide::VBControl> addControlTo(DesignerState& state, FormBlock& conta
     if (type.find('.') == std::string::npos || type.find_first_of(" \t\r\n") != std::string::npos)
         throw hostError(basic::kCantCreateObject);
     state.checkText(type);
-    const auto block = container.addObject(type, freeControlName(state, nameStem(classNameOf(type))));
+    const auto block = container.addObject(type, freeControlName(state, type));
     const auto tabIndex = nextTabIndex(state);
     placeNewControl(*block, scale, tabIndex);
     if (const auto line = state.hooks.objectLine ? state.hooks.objectLine(type) : std::nullopt)

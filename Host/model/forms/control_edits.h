@@ -15,9 +15,6 @@ struct RemovedControl {
     std::size_t place = 0;
 };
 
-/// The class without its library: "TextBox".
-std::string classNameOf(std::string_view type);
-
 /// Adds a control to a container with this scale. Error 429 for an invalid ProgID.
 basic::Ref<vbide::VBControl> addControlTo(DesignerState& state, FormBlock& container, const TwipsPerUnit& scale,
                                           const std::string& progId);

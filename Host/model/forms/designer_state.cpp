@@ -32,10 +32,6 @@ void DesignerState::remove(FormBlock& block, std::string_view key) {
     if (block.remove(key)) raiseChanged();
 }
 
-void DesignerState::restore(FormBlock& block, std::string_view key, const std::optional<FormBlock::Line>& line) {
-    if (block.restore(key, line)) raiseChanged();
-}
-
 std::string DesignerState::addResource(const std::string& record, bool isString) const {
     if (!hooks.addResource) throw hostError(basic::kPropertyOrMethodNotSupported);
     auto reference = hooks.addResource(record);

@@ -65,8 +65,6 @@ public:
     /// character.
     void set(FormBlock& block, std::string_view key, const std::string& literal, std::string_view comment = {});
     void remove(FormBlock& block, std::string_view key);
-    /// Restores a property's line or its absence.
-    void restore(FormBlock& block, std::string_view key, const std::optional<FormBlock::Line>& line);
     /// Appends a record to the form's resource file. Returns the literal that refers to it. Error 438 without a
     /// resource file.
     std::string addResource(const std::string& record, bool isString = false) const;

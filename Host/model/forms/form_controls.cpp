@@ -2,6 +2,7 @@
 #include "Host/model/errors/host_errors.h"
 #include "Host/model/forms/block_properties.h"
 #include "Host/model/forms/control_edits.h"
+#include "Host/model/forms/control_names.h"
 #include "Host/model/forms/form_geometry.h"
 
 namespace host {
@@ -70,6 +71,12 @@ basic::Ref<vbide::VBControls> FormModel::VBControls() const {
 std::vector<basic::Ref<vbide::VBControl>> FormModel::ContainedVBControls() const {
     const auto state = liveDesigner(state_);
     return controlsIn(*state, state->root());
+}
+
+std::shared_ptr<DesignerState> stateOf(const basic::Ref<vbide::VBForm>& form) {
+    const auto model = basic::cast<FormModel>(form);
+    if (!model) throw hostError(basic::kInvalidProcedureCall);
+    return model->state();
 }
 
 } // namespace host

@@ -55,4 +55,7 @@ private:
     std::weak_ptr<DesignerState> state_;
 };
 
+/// Error 5 for a form of another host, 440 for a removed one.
+std::shared_ptr<DesignerState> stateOf(const basic::Ref<vbide::VBForm>& form);
+
 } // namespace host

@@ -28,16 +28,6 @@ void FormProperties::value(const std::string& name, const vbide::Variant& value)
     if (isPlace && geometry.value(name) != before) placeManually();
 }
 
-/// A position changes StartUpPosition, which is restored after it.
-std::function<void()> FormProperties::restorer(const std::string& name) {
-    if (!FormGeometry::owns(name)) return BlockProperties::restorer(name);
-    if (spelling(kStartUpPosition).empty()) return PropertySource::restorer(name);
-    return [place = PropertySource::restorer(name), start = BlockProperties::restorer(kStartUpPosition)] {
-        place();
-        start();
-    };
-}
-
 /// A form that is placed by its position no longer starts at a position of its own choice.
 void FormProperties::placeManually() {
     if (!spelling(kStartUpPosition).empty()) BlockProperties::value(kStartUpPosition, kManual);

@@ -12,7 +12,6 @@ public:
     using BlockProperties::value;
     vbide::Variant value(const std::string& name) const override;
     void value(const std::string& name, const vbide::Variant& value) override;
-    std::function<void()> restorer(const std::string& name) override;
 
 protected:
     bool isShown(std::string_view key) const override;

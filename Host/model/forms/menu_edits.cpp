@@ -3,6 +3,7 @@
 #include "Host/files/system_error.h"
 #include "Host/model/forms/block_properties.h"
 #include "Host/model/forms/form_controls.h"
+#include "Host/model/forms/menu_shortcuts.h"
 #include <algorithm>
 #include <map>
 
@@ -13,12 +14,6 @@ using Form = basic::Ref<vbide::VBForm>;
 using Block = std::shared_ptr<FormBlock>;
 
 constexpr std::string_view kMenuClass = "VB.Menu";
-
-std::shared_ptr<DesignerState> stateOf(const Form& form) {
-    const auto model = basic::cast<FormModel>(form);
-    if (!model) throw hostError(basic::kInvalidProcedureCall);
-    return model->state();
-}
 
 bool isMenu(const FormBlock& block) { return basic::equalNoCase(block.type(), kMenuClass); }
 
@@ -100,6 +95,8 @@ public:
             path.push_back(block);
         }
         for (const auto& [container, nested] : containers_) putMenus(*container, nested);
+        for (const auto& [block, content] : contents_)
+            if (std::find(blocks.begin(), blocks.end(), block) == blocks.end()) block->content(content);
         state_.controlsChanged();
     }
 
@@ -108,6 +105,7 @@ public:
 private:
     void takeAll(const Block& container, int level) {
         levels_[container] = level;
+        if (level >= 0) contents_[container] = container->content();
         const auto taken = takeMenus(*container);
         containers_[container].places = taken.places;
         for (const auto& menu : taken.menus) takeAll(menu, level + 1);
@@ -115,8 +113,19 @@ private:
 
     DesignerState& state_;
     std::map<Block, int> levels_;
+    std::map<Block, FormBlock::Content> contents_; ///< which removed menus keep, in case that they return
     std::map<Block, Nested> containers_;
 };
+
+/// Refuses what a form cannot store, before anything is changed. Present values may be invalid.
+void checkMenu(const DesignerState& state, const FormMenu& menu, const std::vector<FormMenu>& before) {
+    const auto old = std::find_if(before.begin(), before.end(),
+                                  [&](const auto& one) { return menu.control && one.control == menu.control; });
+    const auto was = old == before.end() ? FormMenu() : *old;
+    if (menu.name != was.name) state.checkText(menu.name);
+    if (menu.caption != was.caption) state.checkText(menu.caption);
+    if (menu.shortcut != was.shortcut && !shortcutLiteral(menu.shortcut)) throw hostError(basic::kInvalidPropertyValue);
+}
 
 void setMenu(const basic::Ref<vbide::VBControl>& control, const FormMenu& menu) {
     const auto properties = control->Properties();
@@ -166,46 +175,15 @@ std::vector<FormMenu> menusOf(const Form& form) {
 
 void setMenus(const Form& form, const std::vector<FormMenu>& menus) {
     const auto state = stateOf(form);
-    for (const auto& menu : menus)
-        if (!menu.control || blockOf(menu.control)->name() != menu.name) state->checkText(menu.name);
     const auto before = menusOf(form);
-    const auto restore = restorerOfMenus(form);
+    for (const auto& menu : menus) checkMenu(*state, menu, before);
     MenuTree tree(*state);
-    try {
-        tree.build(menus);
-        for (std::size_t i = 0; i < menus.size(); ++i) setMenu(state->controlOf(*tree.blocks[i]), menus[i]);
-    } catch (const basic::RuntimeError&) {
-        restore();
-        throw;
-    }
+    tree.build(menus);
+    for (std::size_t i = 0; i < menus.size(); ++i) setMenu(state->controlOf(*tree.blocks[i]), menus[i]);
     state->raiseChanged();
     raiseRemoved(*state, before, menus);
     raiseRenamed(*state, before, menus);
     raiseAdded(*state, tree.blocks, menus);
-}
-
-std::function<void()> restorerOfMenus(const Form& form) {
-    const auto state = stateOf(form);
-    struct Kept {
-        Block block;
-        std::size_t place;
-        std::shared_ptr<const FormBlock::Snapshot> lines;
-    };
-    std::vector<Kept> kept;
-    const auto nested = takeMenus(state->root());
-    for (std::size_t i = 0; i < nested.menus.size(); ++i)
-        kept.push_back({nested.menus[i], nested.places[i], nested.menus[i]->snapshot()});
-    putMenus(state->root(), nested);
-    return [form, kept] {
-        const auto now = stateOf(form);
-        takeMenus(now->root());
-        for (const auto& menu : kept) {
-            menu.block->restore(*menu.lines);
-            now->root().restoreObject(menu.block, menu.place);
-        }
-        now->controlsChanged();
-        now->raiseChanged();
-    };
 }
 
 } // namespace host

@@ -3,7 +3,6 @@
 #include "Add-in/platform/host_project.h"
 #include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -38,9 +37,5 @@ std::optional<MenuProblem> problemOf(const basic::Ref<vbide::VBForm>& form, cons
 /// ItemRemoved, ItemRenamed and ItemAdded for each menu once all of them are in place. Errors, without a change: 5 a
 /// character that the code page lacks; 380 an invalid value.
 void setMenus(const basic::Ref<vbide::VBForm>& form, const std::vector<FormMenu>& menus);
-
-/// Returns a function that restores the present menus and raises no events. It raises error 440 once the form has been
-/// removed.
-std::function<void()> restorerOfMenus(const basic::Ref<vbide::VBForm>& form);
 
 } // namespace host

@@ -77,10 +77,6 @@ void PropertySource::list(const std::string&, const std::vector<std::string>&) {
     throw hostError(basic::kPropertyOrMethodNotSupported);
 }
 
-std::function<void()> PropertySource::restorer(const std::string& name) {
-    return [this, name, before = value(name)] { value(name, before); };
-}
-
 ClassProperty detailsOf(const basic::Ref<vbide::Property>& property) {
     return askSource(property, &PropertySource::details);
 }
@@ -101,12 +97,6 @@ void setImage(const basic::Ref<vbide::Property>& property, const std::string& im
 void setItems(const basic::Ref<vbide::Property>& property, const std::vector<std::string>& items) {
     const auto& model = modelOf(property);
     model.source().list(model.Name(), items);
-}
-
-std::function<void()> restorerOf(const basic::Ref<vbide::Property>& property) {
-    if (const auto model = basic::cast<PropertyModel>(property))
-        return [property, restore = model->source().restorer(model->Name())] { restore(); };
-    return [property, before = property->Value()] { property->Value(before); };
 }
 
 basic::Ref<vbide::Properties> propertiesOf(std::shared_ptr<PropertySource> source) {

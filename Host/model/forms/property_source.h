@@ -2,7 +2,6 @@
 // Properties collections over any object with named values: a form, a control, a font, a picture.
 #include "Add-in/platform/host_project.h"
 #include "Host/model/forms/control_class.h"
-#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -37,8 +36,6 @@ public:
     /// Sets the items of a list in the resource file. Errors: 438 not such a list; 380 an item that is too long, too
     /// many items, or an item of ItemData that is not a number; 5 a character that the code page lacks.
     virtual void list(const std::string& name, const std::vector<std::string>& items);
-    /// Returns a function that restores the present value, and the lines that hold it.
-    virtual std::function<void()> restorer(const std::string& name);
 };
 
 // ---- for front ends that show properties; empty for properties of other hosts ---------------------------------------
@@ -48,9 +45,6 @@ std::vector<std::string> itemsOf(const basic::Ref<vbide::Property>& property);
 /// As PropertySource::picture and list. Error 438 for properties of other hosts.
 void setImage(const basic::Ref<vbide::Property>& property, const std::string& image);
 void setItems(const basic::Ref<vbide::Property>& property, const std::vector<std::string>& items);
-/// Returns a function that restores the present value exactly: the line as it is in the file, or no line. The function
-/// raises error 440 once the object has been removed.
-std::function<void()> restorerOf(const basic::Ref<vbide::Property>& property);
 
 /// Returns a collection over a source. Item raises error 9 for an unknown name.
 basic::Ref<vbide::Properties> propertiesOf(std::shared_ptr<PropertySource> source);

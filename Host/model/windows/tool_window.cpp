@@ -1,4 +1,5 @@
 #include "Host/model/windows/tool_window.h"
+#include <utility>
 
 namespace host {
 

@@ -1,4 +1,4 @@
-#include "Apps/workbench/designer/form_grips.h"
+#include "Apps/workbench/arrange/form_grips.h"
 #include <cmath>
 
 namespace workbench {

@@ -8,6 +8,9 @@ namespace workbench {
 
 enum class Grip { None, TopLeft, Top, TopRight, Left, Right, BottomLeft, Bottom, BottomRight };
 
+/// Grips have fixed numbers from 0 to 7.
+inline int numberOf(Grip grip) { return int(grip) - 1; }
+
 struct GripPlace {
     Grip grip = Grip::None;
     QPointF at; ///< its centre
