@@ -219,6 +219,15 @@ TEST_F(PropertyValues, NumbersOfItemsAreChecked) {
     EXPECT_EQ(saved("frmMain"), original);
 }
 
+TEST_F(PropertyValues, CaptionsOfPagesAreEdited) {
+    openForm("   Begin TabDlg.SSTab tabAll \n      Tab             =   1\n      TabCaption(0)   =   \"First\"\n"
+             "      Tab(0).Control(0)=   \"txtName\"\n      TabCaption(1)   =   \"Second\"\n   End\n");
+    select("tabAll");
+    EXPECT_EQ(shown("Tab(0).Control(0)"), "no such row");
+    type("TabCaption(1)", "Last");
+    EXPECT_EQ(changes(), "-      TabCaption(1)   =   \"Second\"\n+      TabCaption(1)   =   \"Last\"\n");
+}
+
 // ---- pictures -------------------------------------------------------------------------------------------------------
 
 TEST_F(PropertyValues, APictureIsChosenWithAPreview) {

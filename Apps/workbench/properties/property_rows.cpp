@@ -19,9 +19,9 @@ constexpr int kSwatchWidth = 18, kSwatchHeight = 12;
 constexpr auto kShownName = "(Name)";
 const QRegularExpression kLineBreaks("\\r\\n|\\r|\\n");
 
-/// Internal entries of a control's property bag.
+/// Internal entries of a control's property bag. Those of single pages, such as TabCaption(0), can be edited.
 bool isInternal(const std::string& name) {
-    return name.empty() || name.front() == '_' || name.find_first_of(".(") != std::string::npos;
+    return name.empty() || name.front() == '_' || name.find('.') != std::string::npos;
 }
 
 } // namespace
