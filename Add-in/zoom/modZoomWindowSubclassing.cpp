@@ -11,12 +11,12 @@ constexpr basic::Integer HTCLIENT = 1;
 
 } // namespace
 
-/// Moves continue under the box, and each of them would add another one.
+/// Moves continue under the box, and each of them would add another one. A box that fails must not end the host.
 void modZoomWindowSubclassing::report(const char* location, const basic::RuntimeError& error) {
     if (std::exchange(isReporting_, true)) return;
     try {
         errors_.Error_ShowAddInError(location, error);
-    } catch (...) {} // a box that failed must not end the host
+    } catch (...) {}
     isReporting_ = false;
 }
 

@@ -38,6 +38,7 @@ private:
     void UnhookHandleWindow();
     void restoreWindows();
     void updateDisplay();
+    /// Returns 0 after an error, none of which may reach the host.
     template <class Body>
     std::intptr_t guarded(const char* location, Body&& body) noexcept;
     void report(const char* location, const basic::RuntimeError& error);
@@ -61,7 +62,7 @@ std::intptr_t modZoomWindowSubclassing::guarded(const char* location, Body&& bod
     try {
         return body();
     } catch (const basic::RuntimeError& error) { report(location, error); } catch (...) {
-    } // the host cannot handle it
+    }
     return 0;
 }
 

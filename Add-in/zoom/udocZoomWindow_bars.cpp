@@ -17,8 +17,8 @@ void udocZoomWindow::ValidateScrollBars() {
     const auto oldX = XOffset, oldY = YOffset;
     NeededWidth = twipsX() * float(ZoomedWidth);
     NeededHeight = twipsY() * float(ZoomedHeight);
-    needsHorizontalBar() ? SetHorizontalScroll() : hideHorizontalBar();
-    needsVerticalBar() ? SetVerticalScroll() : hideVerticalBar();
+    here([&] { needsHorizontalBar() ? SetHorizontalScroll() : hideHorizontalBar(); });
+    here([&] { needsVerticalBar() ? SetVerticalScroll() : hideVerticalBar(); });
     if (XOffset == oldX && YOffset == oldY) return;
     passZoom();
     here([&] { refreshSoon(); });

@@ -1,7 +1,6 @@
 // The magnified picture of the designer. It is drawn straight onto the document, and no copy is kept.
 #include "Add-in/zoom/udocZoomWindow.h"
 #include "Basic/arithmetic.h"
-#include <utility>
 
 namespace fernwick {
 
@@ -55,13 +54,14 @@ void udocZoomWindow::copyPixels() {
 
 /// One refresh at most is under way.
 void udocZoomWindow::refreshSoon() {
-    if (TargetHwnd == 0 || std::exchange(isRefreshPosted_, true)) return;
+    if (TargetHwnd == 0 || isRefreshPosted_) return;
     services_->platform.loop.Post([weak = weak_from_this()] {
         if (const auto document = weak.lock()) {
             document->isRefreshPosted_ = false;
             document->UpdateDisplay();
         }
     });
+    isRefreshPosted_ = true;
 }
 
 } // namespace fernwick

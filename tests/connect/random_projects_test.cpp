@@ -175,7 +175,8 @@ protected:
             subscriptions.push_back(components->ItemActivated.connect(note));
         }));
         kept_.push_back(all->ItemRemoved.connect([this](const Project& project) {
-            followed_.erase(project.shared());
+            auto followed = followed_.extract(project.shared());
+            if (followed) leaving_.push_back(std::move(followed.mapped())); // a save still shows its designers again
             closed_ = project;
         }));
     }
@@ -242,6 +243,7 @@ protected:
         if (nested_) loop.Post([this] { (void)basic::attempt([this] { step(); }); });
         (void)basic::attempt([this] { step(); }); // what a nested step closed raises errors
         turnUntilEmpty();
+        leaving_.clear();
         if (nested_) designer_ = addIn().connect.ControlsEventsHandler.source();
         for (const auto& project : unsaved)
             EXPECT_TRUE(isOpen(project) || questions() > before) << "unsaved work has gone";
@@ -257,6 +259,8 @@ protected:
     Project closed_;
     basic::Ref<vbide::VBControlsEvents> designer_;
     std::map<std::shared_ptr<vbide::VBProject>, std::vector<fernwick::Subscription>> followed_;
+    /// Those of projects that this step removed.
+    std::vector<std::vector<fernwick::Subscription>> leaving_;
     std::vector<fernwick::Subscription> kept_;
 };
 

@@ -138,6 +138,28 @@ TEST_F(ZoomInHost, FollowsTheActivatedForm) {
     EXPECT_THAT(boxes(), IsEmpty());
 }
 
+TEST_F(ZoomInHost, FollowsASelectedFormToo) {
+    const auto project = opened();
+    show();
+    const auto one = activate("Form1"), ten = activate("Form10");
+    const auto events = host.ide->Events()->VBComponentsEvents(project);
+    events->ItemSelected.raise(form("Form1"));
+    EXPECT_EQ(followed(), one);
+    events->ItemActivated.raise(form("Form10"));
+    EXPECT_EQ(followed(), ten);
+}
+
+TEST_F(ZoomInHost, FormsOfOtherProjectsAreNotFollowed) {
+    const auto project = opened();
+    show();
+    const auto one = activate("Form1");
+    activate("Form10");
+    activate("Form1");
+    project->WriteProperty("Quinloft Global", "IsQuinloftProject", "False");
+    form("Form10")->Activate();
+    EXPECT_EQ(followed(), one);
+}
+
 TEST_F(ZoomInHost, FollowsARenamedForm) {
     opened();
     show();

@@ -1,4 +1,5 @@
 // The keys of commands: shown everywhere, and changed in the options.
+#include "Apps/workbench/code/scintilla.h"
 #include "Apps/workbench/messages/messages_view.h"
 #include "Apps/workbench/options/key_field.h"
 #include "Apps/workbench/window/command_keys.h"
@@ -14,14 +15,19 @@ using workbench::canBeKey;
 namespace {
 
 struct Keys : test::OptionsDesktop {
-    QAction* actionOf(const workbench::KeyOption& option) {
-        for (auto* top : window().menuBar()->actions())
+    /// Looks in submenus too.
+    static QAction* actionOf(const workbench::KeyOption& option, const QList<QAction*>& menus) {
+        for (const auto* top : menus) {
+            if (!top->menu()) continue;
             for (auto* action : top->menu()->actions())
                 if (action->text().remove('&').remove("...") == option.command &&
                     top->text().remove('&') == option.menu)
                     return action;
+            if (auto* const inner = actionOf(option, top->menu()->actions())) return inner;
+        }
         return nullptr;
     }
+    QAction* actionOf(const workbench::KeyOption& option) { return actionOf(option, window().menuBar()->actions()); }
     static void select(Dialog& dialog, const QString& command) {
         turnTo(dialog, kKeys);
         auto& list = field<QTreeWidget>(dialog, "keys");
@@ -104,15 +110,15 @@ TEST_F(Keys, AreChangedInTheOptions) {
     openModule();
     auto& text = code();
     change([](Dialog& dialog) {
-        press(dialog, "Comment Block", Qt::Key_K, Qt::ControlModifier);
-        EXPECT_EQ(keyOf(dialog, "Comment Block"), "Ctrl+K");
+        press(dialog, "Comment Block", Qt::Key_B, Qt::ControlModifier);
+        EXPECT_EQ(keyOf(dialog, "Comment Block"), "Ctrl+B");
     });
-    EXPECT_EQ(shortcut("&Edit", "Co&mment Block"), QKeySequence("Ctrl+K"));
+    EXPECT_EQ(shortcut("&Edit", "Co&mment Block"), QKeySequence("Ctrl+B"));
     window().activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
     text.setFocus();
     settle();
-    QTest::keyClick(&text, Qt::Key_K, Qt::ControlModifier);
+    QTest::keyClick(&text, Qt::Key_B, Qt::ControlModifier);
     EXPECT_TRUE(text.text().startsWith("'Sub Main"));
 }
 

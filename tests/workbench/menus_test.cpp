@@ -197,8 +197,8 @@ TEST_F(DesktopMenus, ViewListsWindowsThenToolbarsThenTheLook) {
     show(*top("&View"));
     EXPECT_THAT(texts(*top("&View")),
                 ElementsAre("&Code", "O&bject", "&Definition", "Last Positio&n", "&Project Explorer",
-                            "Properties &Window", "Toolbo&x", "Fernwick &Messages", "&Toolbars", "Zoom &In",
-                            "Zoom O&ut", "&Reset Zoom", "Dar&k Theme"));
+                            "Properties &Window", "Toolbo&x", "Fernwick &Messages", "Fernwick &Zoom", "&Toolbars",
+                            "Zoom &In", "Zoom O&ut", "&Reset Zoom", "Dar&k Theme"));
 }
 
 TEST_F(DesktopMenus, ALetterOfTwoMenusOpensTheFirstAndThenTheSecond) {
@@ -244,6 +244,7 @@ TEST_F(DesktopMenus, ADockThatTheUserHidesIsHiddenForTheAddIn) {
     ASSERT_NE(messages, windows.end());
     (*messages)->Visible(true);
     window().findChild<QDockWidget*>("Fernwick Messages")->close();
+    settle();
     EXPECT_FALSE((*messages)->Visible());
 }
 

@@ -5,6 +5,7 @@
 #include <QProcess>
 #include <QThread>
 #include <QWidget>
+#include <cmath>
 #include <gtest/gtest.h>
 #include <optional>
 #include <stdexcept>
@@ -16,8 +17,10 @@ namespace {
 constexpr int kMostWaiting = 30'000, kBetweenLooks = 5, kDragSteps = 12;
 
 void moveTo(QStringList& arguments, const QPoint& at) {
+    // the first device pixel within the point
     const auto pixels = QPointF(at) * qApp->devicePixelRatio();
-    arguments << "mousemove" << QString::number(int(pixels.x())) << QString::number(int(pixels.y()));
+    arguments << "mousemove" << QString::number(int(std::ceil(pixels.x())))
+              << QString::number(int(std::ceil(pixels.y())));
 }
 
 QString plain(QString caption) { return caption.remove('&'); }

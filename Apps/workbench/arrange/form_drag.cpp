@@ -19,11 +19,10 @@ FormDrag FormDrag::moving(const QPointF& from, std::vector<QRectF> places, const
     return drag;
 }
 
-FormDrag FormDrag::sizing(Grip grip, const QRectF& place, const SnapGrid& grid, bool isLine) {
-    FormDrag drag(Kind::Size, {}, {place}, grid);
+FormDrag FormDrag::sizing(const QPointF& from, Grip grip, const QRectF& place, const SnapGrid& grid, bool isLine) {
+    FormDrag drag(Kind::Size, from, {place}, grid);
     drag.grip_ = grip;
     drag.isLine_ = isLine;
-    drag.hasOrigin_ = false;
     return drag;
 }
 
@@ -36,7 +35,6 @@ FormDrag FormDrag::drawing(const QPointF& from, const SnapGrid& grid, std::strin
 FormDrag FormDrag::framing(const QPointF& from) { return {Kind::Frame, from, {QRectF(from, QSizeF())}, {}}; }
 
 void FormDrag::moveTo(const QPointF& at) {
-    if (!std::exchange(hasOrigin_, true)) from_ = at;
     const auto by = at - from_;
     if (!hasChanged() && by.manhattanLength() < kDragBegins) return;
     switch (kind_) {

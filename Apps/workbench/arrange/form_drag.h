@@ -18,8 +18,7 @@ public:
 
     /// `places` are those of the controls; the last one leads. A single line is drawn as such.
     static FormDrag moving(const QPointF& from, std::vector<QRectF> places, const SnapGrid& grid, bool isLine);
-    /// The first move is the origin, so that a press anywhere on the grip changes nothing.
-    static FormDrag sizing(Grip grip, const QRectF& place, const SnapGrid& grid, bool isLine);
+    static FormDrag sizing(const QPointF& from, Grip grip, const QRectF& place, const SnapGrid& grid, bool isLine);
     static FormDrag drawing(const QPointF& from, const SnapGrid& grid, std::string tool);
     static FormDrag framing(const QPointF& from);
 
@@ -40,7 +39,6 @@ private:
 
     Kind kind_;
     QPointF from_;
-    bool hasOrigin_ = true;
     Grip grip_ = Grip::None;
     std::vector<QRectF> before_, now_;
     SnapGrid grid_;

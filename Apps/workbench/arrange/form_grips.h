@@ -10,6 +10,7 @@ enum class Grip { None, TopLeft, Top, TopRight, Left, Right, BottomLeft, Bottom,
 
 /// Grips have fixed numbers from 0 to 7.
 inline int numberOf(Grip grip) { return int(grip) - 1; }
+inline Grip gripOf(int number) { return Grip(number + 1); }
 
 struct GripPlace {
     Grip grip = Grip::None;

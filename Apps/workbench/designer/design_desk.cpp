@@ -47,7 +47,7 @@ void DesignDesk::refreshSoon() {
 void DesignDesk::followTabs() {
     selectionChanged.raise();
     if (forms_->current()) listTools();
-    if (auto* view = forms_->current()) return properties_->inspect(view->component(), view->selected());
+    if (auto* view = forms_->current()) return properties_->inspect(view->component(), view->selection());
     if (auto* editor = tabs_.current()) return properties_->inspect(editor->component());
     properties_->clear();
 }

@@ -1,8 +1,10 @@
 #include "Apps/workbench/designer/form_canvas.h"
+#include "Apps/workbench/designer/device_screen.h"
 #include "Apps/workbench/designer/form_painter.h"
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace workbench {
 
@@ -39,9 +41,14 @@ void FormCanvas::redraw() {
     contentChanged.raise();
 }
 
+void FormCanvas::lendFocus(bool lent) {
+    if (std::exchange(isFocusLent_, lent) != lent) redraw();
+}
+
 QSize FormCanvas::sizeHint() const {
-    const auto whole = wholeSize(view_.picture());
-    return (whole + QSizeF(2 * kCanvasMargin, 2 * kCanvasMargin)).toSize();
+    const QRectF whole(QPointF(kCanvasMargin, kCanvasMargin), wholeSize(view_.picture()));
+    const auto shown = whole.united(deviceScreen());
+    return QSizeF(shown.right() + kCanvasMargin, shown.bottom() + kCanvasMargin).toSize();
 }
 
 // ---- places ---------------------------------------------------------------------------------------------------------
@@ -49,6 +56,12 @@ QSize FormCanvas::sizeHint() const {
 QPointF FormCanvas::innerCorner() const {
     const auto border = view_.picture().border();
     return {kCanvasMargin + border.left(), kCanvasMargin + border.top()};
+}
+
+/// Around the form's inner rectangle; empty for none.
+QRectF FormCanvas::deviceScreen() const {
+    const auto& size = view_.deviceScreen();
+    return size.isEmpty() ? QRectF() : QRectF(innerCorner(), size);
 }
 
 QPointF FormCanvas::onForm(const QPointF& onWidget) const { return onWidget - innerCorner(); }
@@ -96,6 +109,18 @@ std::optional<int> FormCanvas::gripNumberAt(const QPointF& at) const {
     return grip == Grip::None ? std::nullopt : std::optional(numberOf(grip));
 }
 
+QPointF FormCanvas::gripPlace(int number) const {
+    for (const auto& grip : grips())
+        if (numberOf(grip.grip) == number) return grip.at;
+    return {};
+}
+
+Qt::CursorShape FormCanvas::gripCursor(int number) { return cursorOf(gripOf(number)); }
+
+Qt::CursorShape FormCanvas::surfaceCursor() const {
+    return view_.callbacks().tool().empty() ? Qt::ArrowCursor : Qt::CrossCursor;
+}
+
 vbide::Ref<vbide::VBControl> FormCanvas::controlAt(const QPointF& at) const {
     const auto* drawn = view_.picture().at(onForm(at));
     return drawn ? drawn->control : nullptr;
@@ -110,10 +135,15 @@ Qt::CursorShape FormCanvas::cursorAt(const QPointF& at) const {
 void FormCanvas::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     painter.setClipRegion(event->region());
+    draw(painter);
+}
+
+void FormCanvas::draw(QPainter& painter) const {
     painter.save();
     painter.translate(kCanvasMargin, kCanvasMargin);
     paintForm(painter, view_.picture(), view_.callbacks().grid());
     painter.restore();
+    if (const auto screen = deviceScreen(); !screen.isEmpty()) paintDeviceScreen(painter, screen);
     if (!tabOrder_) return drawSelection(painter);
     painter.translate(innerCorner());
     tabOrder_->paint(painter, view_.picture());
@@ -126,18 +156,26 @@ void FormCanvas::drawSelection(QPainter& painter) const {
 }
 
 void FormCanvas::drawOutlines(QPainter& painter) const {
-    const bool isFrame = drag_->kind() == FormDrag::Kind::Frame;
-    painter.setPen(isFrame ? QPen(Qt::black, 1, Qt::DotLine) : QPen(Qt::darkGray, 2));
     painter.setBrush(Qt::NoBrush);
+    if (drag_->kind() == FormDrag::Kind::Frame) return drawFrame(painter);
+    painter.setPen(QPen(Qt::darkGray, 2));
     for (const auto& place : drag_->places()) {
         const auto shown = onCanvas(place);
         drag_->isLine() ? painter.drawLine(shown.topLeft(), shown.bottomRight()) : painter.drawRect(shown.normalized());
     }
 }
 
+/// White below the dashes, which the dots of the grid would hide.
+void FormCanvas::drawFrame(QPainter& painter) const {
+    for (const auto& pen : {QPen(Qt::white, 1), QPen(kGripColour, 1, Qt::DashLine)}) {
+        painter.setPen(pen);
+        painter.drawRect(onCanvas(drag_->place()));
+    }
+}
+
 /// Only the leader's grips can be pulled. Those of the others, and those of a locked form, are hollow.
 void FormCanvas::drawGrips(QPainter& painter) const {
-    const auto colour = hasFocus() ? kGripColour : QColor(Qt::gray);
+    const auto colour = hasFocus() || isFocusLent_ ? kGripColour : QColor(Qt::gray);
     painter.setPen(colour);
     painter.setBrush(Qt::white);
     for (const auto* drawn : view_.drawnBesideLeader())

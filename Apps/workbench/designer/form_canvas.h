@@ -39,12 +39,18 @@ public:
     Qt::CursorShape cursorAt(const QPointF& at) const;
     /// The number, from 0 to 7, of a grip that can be pulled now.
     std::optional<int> gripNumberAt(const QPointF& at) const;
+    /// The centre of a grip; the origin if there is none of this number.
+    QPointF gripPlace(int number) const;
+    /// The pointer's shape over the grip of a number, and over everything else.
+    static Qt::CursorShape gripCursor(int number);
+    Qt::CursorShape surfaceCursor() const;
     /// Null for the form.
     vbide::Ref<vbide::VBControl> controlAt(const QPointF& at) const;
     /// The name and class of a control that is drawn as a symbol or a box; else "".
     QString tipAt(const QPointF& onWidget) const;
-    /// Converts a place on the form's inner rectangle to this widget.
+    /// Converts a place on the form's inner rectangle to this widget, and back.
     QRectF onCanvas(const QRectF& place) const;
+    QPointF onForm(const QPointF& onWidget) const;
     /// The place of the selected control, or of the form, on the form's inner rectangle; while it is dragged, its new one.
     QRectF shownPlace() const;
 
@@ -54,8 +60,12 @@ public:
 
     /// Called after the view has read the form again.
     void formChanged();
+    /// Draws the form and its selection, as the widget shows them.
+    void draw(QPainter& painter) const;
     /// Draws again.
     void redraw();
+    /// Shows the designer as having the focus, while another window passes the keys on.
+    void lendFocus(bool lent);
     /// Raised when what is drawn has changed.
     fernwick::Event<> contentChanged;
 
@@ -75,7 +85,7 @@ protected:
 
 private:
     QPointF innerCorner() const;
-    QPointF onForm(const QPointF& onWidget) const;
+    QRectF deviceScreen() const;
     QRectF selectedPlace() const;
     SnapGrid gridFrom(const QPointF& origin) const;
     std::vector<GripPlace> grips() const;
@@ -98,9 +108,11 @@ private:
 
     void drawSelection(QPainter& painter) const;
     void drawOutlines(QPainter& painter) const;
+    void drawFrame(QPainter& painter) const;
     void drawGrips(QPainter& painter) const;
 
     FormView& view_;
+    bool isFocusLent_ = false;
     std::optional<FormDrag> drag_;
     std::optional<TabOrder> tabOrder_;
     /// The container in which a frame selects, null for the form, and whether it adds to the selection.

@@ -32,6 +32,7 @@ QRectF grown(const DrawnControl& drawn, const QPointF& by) {
 } // namespace
 
 bool FormCanvas::key(int key, Qt::KeyboardModifiers modifiers) {
+    if (tabOrder_ && key != Qt::Key_Escape) return false; // the selection is not shown
     if (const auto direction = directionOf(key); !direction.isNull()) return pressArrow(direction, modifiers);
     switch (key) {
     case Qt::Key_Delete: view_.removeSelected(); return true;

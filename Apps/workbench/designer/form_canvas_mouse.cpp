@@ -81,7 +81,7 @@ bool FormCanvas::beginSize(const QPointF& onWidget) {
     if (grip == Grip::None) return false;
     const auto* drawn = view_.drawnSelection();
     const bool isLine = drawn && drawn->look.kind == ControlKind::Line;
-    drag_ = FormDrag::sizing(grip, selectedPlace(), gridFrom(drawn ? drawn->origin : QPointF()), isLine);
+    drag_ = FormDrag::sizing(onForm(onWidget), grip, selectedPlace(), gridFrom(drawn ? drawn->origin : QPointF()), isLine);
     return true;
 }
 

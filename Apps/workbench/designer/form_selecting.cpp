@@ -31,6 +31,7 @@ void FormView::select(std::vector<Control> controls) {
 }
 
 void FormView::selectionChanged() {
+    canvas_->cancelDrag(); // which moves what was selected
     const auto* drawn = drawnSelection();
     canvas_->setAccessibleDescription(drawn ? drawn->name : picture_.caption);
     if (drawn) {

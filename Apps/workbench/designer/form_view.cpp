@@ -1,4 +1,5 @@
 #include "Apps/workbench/designer/form_view.h"
+#include "Apps/workbench/designer/device_screen.h"
 #include "Apps/workbench/designer/form_canvas.h"
 #include "Apps/workbench/designer/form_reader.h"
 #include "Apps/workbench/designer/new_control.h"
@@ -16,6 +17,7 @@ FormView::FormView(vbide::Ref<vbide::VBComponent> component, DesignHistory& hist
       history_(history),
       callbacks_(std::move(callbacks)),
       picture_(pictureOfForm(*component_)),
+      deviceScreen_(deviceScreenOf(component_)),
       canvas_(new FormCanvas(*this)) {
     setObjectName("formView");
     setWidget(canvas_);
@@ -33,6 +35,7 @@ void FormView::reload() {
     // a removed form keeps its last picture until its window is closed
     const auto failed = basic::attempt([this] { picture_ = pictureOfForm(*component_); });
     if (failed.Number != 0) return;
+    deviceScreen_ = deviceScreenOf(component_);
     const auto isGone = [](const auto& control) {
         return basic::attempt([&] { (void)control->ClassName(); }).Number != 0;
     };

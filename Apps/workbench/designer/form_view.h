@@ -40,6 +40,8 @@ public:
 
     const vbide::Ref<vbide::VBComponent>& component() const { return component_; }
     const FormPicture& picture() const { return picture_; }
+    /// See deviceScreenOf.
+    const QSizeF& deviceScreen() const { return deviceScreen_; }
     /// The control whose properties are shown; null if the form itself is selected.
     Control selected() const { return selection_.empty() ? nullptr : selection_.back(); }
     /// All selected controls, which are in one container. The last one leads. Empty for the form.
@@ -105,6 +107,7 @@ private:
     DesignHistory& history_;
     Callbacks callbacks_;
     FormPicture picture_;
+    QSizeF deviceScreen_;
     std::vector<Control> selection_;
     FormCanvas* canvas_;
     QTimer reload_;

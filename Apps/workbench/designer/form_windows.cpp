@@ -89,7 +89,9 @@ void FormWindows::refresh() {
                              QString("%1 (Form)%2").arg(qt(component->Name()), component->IsDirty() ? " *" : ""));
             tabs_.setTabToolTip(tabs_.indexOf(view), qt(component->FileNames(1)));
         });
-        if (!open) delete view;
+        if (open) continue;
+        closing.raise(*view);
+        delete view;
     }
 }
 

@@ -24,6 +24,9 @@ public:
     /// Host, tabs and history outlive this.
     FormWindows(host::Host& host, CodeWindows& tabs, DesignHistory& history, Callbacks callbacks);
 
+    /// Raised before a view is deleted.
+    fernwick::Event<FormView&> closing;
+
     std::vector<FormView*> views() const;
     /// Null for a component without a form view.
     FormView* viewOf(const vbide::Ref<vbide::VBComponent>& component) const;

@@ -24,6 +24,8 @@ Toolbox::Toolbox(std::function<void(const std::string&)> add) {
     setObjectName("toolbox");
     setAccessibleName("Toolbox");
     setIconSize({kToolSize, kToolSize});
+    setWordWrap(true); // the titles of groups
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     offer({});
     connect(this, &QListWidget::itemActivated, this, [this, add](QListWidgetItem* item) {
         const auto chosen = text(item->data(Qt::UserRole).toString());
@@ -48,7 +50,7 @@ void Toolbox::offer(const OfferedControls& offered) {
 /// The title cannot be selected.
 void Toolbox::addGroup(const QString& title, const std::vector<std::string>& classes, bool stays) {
     if (classes.empty()) return;
-    auto* const head = new QListWidgetItem(stays ? title : title + "\n(removed by Fernwick)", this);
+    auto* const head = new QListWidgetItem(stays ? title : title + " (removed by Fernwick)", this);
     head->setFlags(Qt::NoItemFlags);
     auto bold = font();
     bold.setBold(true);

@@ -1,6 +1,9 @@
 #include "Apps/workbench/window/commands.h"
 #include "Apps/workbench/code/code_lines.h"
 #include "Apps/workbench/code/scintilla.h"
+#include "Apps/workbench/designer/control_clipboard.h"
+#include "Apps/workbench/designer/form_canvas.h"
+#include "Apps/workbench/designer/form_commands.h"
 #include "Apps/workbench/project/component_commands.h"
 #include "Apps/workbench/project/project_properties.h"
 #include "Apps/workbench/project/project_saving.h"
@@ -11,7 +14,8 @@ namespace workbench {
 namespace {
 
 constexpr auto kAlways = Enabled::Always, kInCode = Enabled::InCode, kInEditor = Enabled::InEditor,
-               kInText = Enabled::InText, kCanUndo = Enabled::CanUndo;
+               kCanUndo = Enabled::CanUndo, kCanRedo = Enabled::CanRedo, kCanCopy = Enabled::CanCopy,
+               kCanPaste = Enabled::CanPaste, kCanSelect = Enabled::CanSelect;
 constexpr QKeyCombination kNoKey{};
 
 /// The editor in front, which commands that are enabled in an editor have.
@@ -23,6 +27,14 @@ CodeCommands& actions(const CommandTargets& on) { return on.window.codeCommands(
 ComponentRef inHand(const CommandTargets& on) { return on.window.design().inHand(); }
 
 EditFocus& edited(const CommandTargets& on) { return on.window.editFocus(); }
+
+/// The form in front, which commands that are enabled on a form have.
+FormView& form(const CommandTargets& on) { return *on.window.design().forms().current(); }
+
+template <Arrangement how>
+void arrangeAs(const CommandTargets& on) {
+    arrange(form(on), how);
+}
 
 void saveProjectAs(const CommandTargets& on) {
     if (const auto active = on.host.ActiveVBProject()) saveUnderNewName(active, &on.window);
@@ -54,13 +66,15 @@ const Command kFileCommands[] = {
 
 const Command kEditCommands[] = {
     {kUndoId, "&Undo", Qt::CTRL | Qt::Key_Z, kCanUndo, [](auto& on) { edited(on).undo(); }},
-    {kRedoId, "&Redo", Qt::CTRL | Qt::SHIFT | Qt::Key_Z, kInText, [](auto& on) { edited(on).edit("redo"); }},
+    {kRedoId, "&Redo", Qt::CTRL | Qt::SHIFT | Qt::Key_Z, kCanRedo, [](auto& on) { edited(on).redo(); }},
     {kGroup},
-    {kCutId, "Cu&t", Qt::CTRL | Qt::Key_X, kInText, [](auto& on) { edited(on).edit("cut"); }},
-    {kCopyId, "&Copy", Qt::CTRL | Qt::Key_C, kInText, [](auto& on) { edited(on).edit("copy"); }},
-    {kPasteId, "&Paste", Qt::CTRL | Qt::Key_V, kInText, [](auto& on) { edited(on).edit("paste"); }},
+    {kCutId, "Cu&t", Qt::CTRL | Qt::Key_X, kCanCopy, [](auto& on) { edited(on).cut(); }},
+    {kCopyId, "&Copy", Qt::CTRL | Qt::Key_C, kCanCopy, [](auto& on) { edited(on).copy(); }},
+    {kPasteId, "&Paste", Qt::CTRL | Qt::Key_V, kCanPaste, [](auto& on) { edited(on).paste(); }},
+    // without a key, which text fields use
+    {kDeleteId, "&Delete", kNoKey, kCanCopy, [](auto& on) { edited(on).remove(); }},
     {kCutLineId, "Cut &Line", Qt::CTRL | Qt::Key_Y, kInEditor, [](auto& on) { cutLine(textOf(on)); }},
-    {kSelectAllId, "Select &All", Qt::CTRL | Qt::Key_A, kInText, [](auto& on) { edited(on).edit("selectAll"); }},
+    {kSelectAllId, "Select &All", Qt::CTRL | Qt::Key_A, kCanSelect, [](auto& on) { edited(on).selectAll(); }},
     {kGroup},
     {kFindId, "&Find...", Qt::CTRL | Qt::Key_F, kInCode, [](auto& on) { on.window.findBar().open(false); }},
     {kFindNextId, "Find &Next", Qt::Key_F3, kInCode, [](auto& on) { on.window.findBar().findAgain(false); }},
@@ -117,6 +131,81 @@ const Command kRunCommands[] = {
     {kStartId, "&Start on Device", Qt::Key_F5, kAlways, [](auto& on) { on.program.start(); }},
 };
 
+constexpr auto kOnForm = Enabled::OnForm, kOnControl = Enabled::OnControl, kOnOne = Enabled::OnOne,
+               kOnSeveral = Enabled::OnSeveral, kOnThree = Enabled::OnThree;
+using How = Arrangement;
+
+const Command kFormatCommands[] = {
+    {kAlignMenuId, "&Align"},
+    {kSameSizeMenuId, "&Make Same Size"},
+    {kSizeToGridId, "Size to Gri&d", kNoKey, kOnOne, arrangeAs<How::SizeToGrid>},
+    {kGroup},
+    {kSpaceAcrossMenuId, "&Horizontal Spacing"},
+    {kSpaceDownMenuId, "&Vertical Spacing"},
+    {kGroup},
+    {kCentreMenuId, "&Center in Form"},
+    {kGroup},
+    {kOrderMenuId, "&Order"},
+    {kTabOrderId,
+     "&Tab Order",
+     kNoKey,
+     kOnForm,
+     [](auto& on) { form(on).canvas().switchTabOrder(); },
+     {},
+     [](auto& on) { return form(on).canvas().showsTabOrder(); }},
+    {kGroup},
+    {kDuplicateId, "D&uplicate", kNoKey, kOnControl, [](auto& on) { duplicateControls(form(on)); }},
+    {kLockControlsId,
+     "&Lock Controls",
+     kNoKey,
+     kOnForm,
+     [](auto& on) { switchLock(form(on)); },
+     {},
+     [](auto& on) { return isLocked(form(on)); }},
+};
+
+const Command kAlignCommands[] = {
+    {kAlignLeftsId, "&Lefts", kNoKey, kOnSeveral, arrangeAs<How::AlignLefts>},
+    {kAlignCentresId, "&Centers", kNoKey, kOnSeveral, arrangeAs<How::AlignCentres>},
+    {kAlignRightsId, "&Rights", kNoKey, kOnSeveral, arrangeAs<How::AlignRights>},
+    {kGroup},
+    {kAlignTopsId, "&Tops", kNoKey, kOnSeveral, arrangeAs<How::AlignTops>},
+    {kAlignMiddlesId, "&Middles", kNoKey, kOnSeveral, arrangeAs<How::AlignMiddles>},
+    {kAlignBottomsId, "&Bottoms", kNoKey, kOnSeveral, arrangeAs<How::AlignBottoms>},
+    {kGroup},
+    {kAlignToGridId, "to &Grid", kNoKey, kOnOne, arrangeAs<How::AlignToGrid>},
+};
+
+const Command kSameSizeCommands[] = {
+    {kSameWidthId, "&Width", kNoKey, kOnSeveral, arrangeAs<How::SameWidth>},
+    {kSameHeightId, "&Height", kNoKey, kOnSeveral, arrangeAs<How::SameHeight>},
+    {kSameSizeId, "&Both", kNoKey, kOnSeveral, arrangeAs<How::SameSize>},
+};
+
+const Command kSpaceAcrossCommands[] = {
+    {kEqualSpaceAcrossId, "Make &Equal", kNoKey, kOnThree, arrangeAs<How::EqualSpaceAcross>},
+    {kMoreSpaceAcrossId, "&Increase", kNoKey, kOnSeveral, arrangeAs<How::MoreSpaceAcross>},
+    {kLessSpaceAcrossId, "&Decrease", kNoKey, kOnSeveral, arrangeAs<How::LessSpaceAcross>},
+    {kNoSpaceAcrossId, "&Remove", kNoKey, kOnSeveral, arrangeAs<How::NoSpaceAcross>},
+};
+
+const Command kSpaceDownCommands[] = {
+    {kEqualSpaceDownId, "Make &Equal", kNoKey, kOnThree, arrangeAs<How::EqualSpaceDown>},
+    {kMoreSpaceDownId, "&Increase", kNoKey, kOnSeveral, arrangeAs<How::MoreSpaceDown>},
+    {kLessSpaceDownId, "&Decrease", kNoKey, kOnSeveral, arrangeAs<How::LessSpaceDown>},
+    {kNoSpaceDownId, "&Remove", kNoKey, kOnSeveral, arrangeAs<How::NoSpaceDown>},
+};
+
+const Command kCentreCommands[] = {
+    {kCentreAcrossId, "&Horizontally", kNoKey, kOnOne, arrangeAs<How::CentreAcross>},
+    {kCentreDownId, "&Vertically", kNoKey, kOnOne, arrangeAs<How::CentreDown>},
+};
+
+const Command kOrderCommands[] = {
+    {kToFrontId, "&Bring to Front", Qt::CTRL | Qt::Key_J, kOnControl, [](auto& on) { bringToFront(form(on)); }},
+    {kToBackId, "&Send to Back", Qt::CTRL | Qt::Key_K, kOnControl, [](auto& on) { sendToBack(form(on)); }},
+};
+
 const Command kToolsCommands[] = {
     {kMenuEditorId, "&Menu Editor...", Qt::CTRL | Qt::Key_E, Enabled::InDesigner,
      [](auto& on) { on.window.design().editMenus(); }},
@@ -144,12 +233,18 @@ const DockCommand kDockCommands[] = {
     {"propertiesDock", kPropertiesId, "Properties &Window", Qt::Key_F4},
     {"toolboxDock", kToolboxId, "Toolbo&x"},
     {"Fernwick Messages", kMessagesId, "Fernwick &Messages", Qt::CTRL | Qt::Key_M},
+    {"Fernwick Zoom", kZoomWindowId, "Fernwick &Zoom"},
 };
 
 const CommandMenu kCommandMenus[] = {
-    {host::kFileMenuId, kFileCommands},       {host::kEditMenuId, kEditCommands}, {host::kViewMenuId, kViewCommands},
-    {host::kProjectMenuId, kProjectCommands}, {kRunMenuId, kRunCommands},         {kToolsMenuId, kToolsCommands},
-    {kWindowMenuId, kWindowCommands},         {host::kHelpMenuId, kHelpCommands},
+    {host::kFileMenuId, kFileCommands},     {host::kEditMenuId, kEditCommands},
+    {host::kViewMenuId, kViewCommands},     {host::kProjectMenuId, kProjectCommands},
+    {kFormatMenuId, kFormatCommands},       {kAlignMenuId, kAlignCommands},
+    {kSameSizeMenuId, kSameSizeCommands},   {kSpaceAcrossMenuId, kSpaceAcrossCommands},
+    {kSpaceDownMenuId, kSpaceDownCommands}, {kCentreMenuId, kCentreCommands},
+    {kOrderMenuId, kOrderCommands},         {kRunMenuId, kRunCommands},
+    {kToolsMenuId, kToolsCommands},         {kWindowMenuId, kWindowCommands},
+    {host::kHelpMenuId, kHelpCommands},
 };
 
 } // namespace

@@ -37,6 +37,7 @@ enum CommandId : int {
     kViewCodeId,
     kViewObjectId,
     kMessagesId,
+    kZoomWindowId,
     kPropertiesId,
     kToolboxId,
     kDockId,
@@ -74,6 +75,40 @@ enum CommandId : int {
     kOptionsId,
     kConvertProjectId,
     kMenuEditorId,
+    kFormatMenuId = 40301,
+    kDeleteId,
+    kDuplicateId,
+    kAlignMenuId,
+    kAlignLeftsId,
+    kAlignCentresId,
+    kAlignRightsId,
+    kAlignTopsId,
+    kAlignMiddlesId,
+    kAlignBottomsId,
+    kAlignToGridId,
+    kSameSizeMenuId,
+    kSameWidthId,
+    kSameHeightId,
+    kSameSizeId,
+    kSizeToGridId,
+    kSpaceAcrossMenuId,
+    kEqualSpaceAcrossId,
+    kMoreSpaceAcrossId,
+    kLessSpaceAcrossId,
+    kNoSpaceAcrossId,
+    kSpaceDownMenuId,
+    kEqualSpaceDownId,
+    kMoreSpaceDownId,
+    kLessSpaceDownId,
+    kNoSpaceDownId,
+    kCentreMenuId,
+    kCentreAcrossId,
+    kCentreDownId,
+    kOrderMenuId,
+    kToFrontId,
+    kToBackId,
+    kLockControlsId,
+    kTabOrderId,
 };
 
 /// The program's actions that commands call.
@@ -102,9 +137,18 @@ enum class Enabled {
     Always,
     InCode,     ///< while a code window is in front
     InEditor,   ///< while the text of a code window has the focus
-    InText,     ///< while any text that can be edited has the focus
     InDesigner, ///< while a form is in front
-    CanUndo,    ///< the same, and while a form that is in front has the focus
+    InText,     ///< while any text that can be edited has the focus
+    CanUndo,    ///< the same, and while a form in front has the focus and a step to undo
+    CanRedo,
+    CanCopy,   ///< in a text, and with controls selected on a form that has the focus
+    CanPaste,  ///< in a text, and on a form if controls were copied
+    CanSelect, ///< in a text, and on a form
+    OnForm,    ///< on a form
+    OnControl, ///< with a control selected on it
+    OnOne,     ///< the same, unless it is locked
+    OnSeveral, ///< with two controls or more
+    OnThree,   ///< with three controls or more
 };
 
 struct Command {
@@ -117,6 +161,8 @@ struct Command {
     void (*act)(const CommandTargets&) = nullptr;
     /// A second key, which menus do not show.
     QKeyCombination otherKey{};
+    /// Whether a switch is on; null for a command that is not a switch.
+    bool (*isOn)(const CommandTargets&) = nullptr;
 };
 
 /// The commands of one menu, in order.

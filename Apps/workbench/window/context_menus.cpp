@@ -23,10 +23,19 @@ const std::vector<int> kOfEditor{kCutId,     kCopyId,    kPasteId,      kGroup, 
                                  kReplaceId, kGroup,     kDefinitionId, kLastPositionId, kGroup,
                                  kIndentId,  kOutdentId, kCommentId,    kUncommentId};
 
+const std::vector<int> kOfDesigner{kViewCodeId, kGroup,      kCutId,          kCopyId,    kPasteId,
+                                   kDeleteId,   kGroup,      kAlignToGridId,  kToFrontId, kToBackId,
+                                   kGroup,      kTabOrderId, kLockControlsId, kGroup,     kPropertiesId};
+
 const std::vector<int>& commandsFor(const ProjectExplorer& explorer) {
     if (const auto component = explorer.currentComponent())
         return component->Type() == vbide::vbext_ct_VBForm ? kOfForm : kOfModule;
     return explorer.currentProject() ? kOfProject : kOfGroup;
+}
+
+/// The text of a command outside of its submenu.
+QString captionOf(const host::BarControl& command) {
+    return command.Id() == kAlignToGridId ? QString("Align to &Grid") : qt(command.Caption());
 }
 
 /// Adds an action for each command, with its icon and key.
@@ -37,8 +46,11 @@ void fillFrom(QMenu& menu, host::Host& host, const std::vector<int>& ids, const 
             continue;
         }
         const auto command = controlOf(host, id);
-        auto* const action = menu.addAction(qt(command->Caption()));
+        auto* const action = menu.addAction(captionOf(*command));
         const auto look = commandLookOf(id);
+        action->setEnabled(command->Enabled());
+        action->setCheckable(command->checked().has_value());
+        action->setChecked(command->checked().value_or(false));
         action->setIcon(look.icon);
         action->setShortcut(look.key);
         action->setShortcutVisibleInContextMenu(true);
@@ -63,6 +75,15 @@ void showEditorMenu(host::Host& host, const CodeEditor& editor, const Run& run, 
     menu.exec(editor.scintilla().mapToGlobal(at));
 }
 
+/// Returns at once, as the place may have been clicked in another window, which waits for the answer.
+void showDesignerMenu(host::Host& host, QWidget& window, const Run& run, const QPoint& at) {
+    auto* const menu = new QMenu(&window);
+    menu->setObjectName("designerMenu");
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    fillFrom(*menu, host, kOfDesigner, run);
+    menu->popup(at);
+}
+
 } // namespace
 
 void addExplorerMenu(host::Host& host, ProjectExplorer& explorer, Run run) {
@@ -77,6 +98,10 @@ void addEditorMenu(host::Host& host, CodeWindows& windows, Run run) {
         QObject::connect(&editor.scintilla(), &QWidget::customContextMenuRequested, &editor,
                          [&host, &editor, run](const QPoint& at) { showEditorMenu(host, editor, run, at); });
     };
+}
+
+void addDesignerMenu(host::Host& host, DesignDesk& desk, QWidget& window, Run run) {
+    desk.menuRequested = [&host, &window, run](const QPoint& at) { showDesignerMenu(host, window, run, at); };
 }
 
 } // namespace workbench

@@ -13,12 +13,14 @@ class QDockWidget;
 
 namespace workbench {
 
+class DesktopWindows;
 class MessagesView;
 
 class Docks final : public QObject {
 public:
     /// Messages mark their lines in the code windows. All arguments must outlive this object.
-    Docks(host::Host& host, QMainWindow& window, CodeWindows& code, Run run);
+    Docks(host::Host& host, QMainWindow& window, CodeWindows& code, DesktopWindows& windows, Run run);
+    ~Docks() override;
 
     /// The name identifies the dock in the stored layout.
     QDockWidget* add(const QString& name, const QString& title, QWidget* widget, Qt::DockWidgetArea area);
@@ -42,16 +44,27 @@ private:
     std::vector<MessagesView*> messageViews() const;
     void drawToolWindows();
     void drawToolWindow(const std::shared_ptr<host::ToolWindow>& window);
-    void follow(host::ToolWindow& window, QDockWidget& dock);
+    /// Null for a kind of document that the desktop cannot draw.
+    QWidget* viewOf(const std::shared_ptr<host::ToolWindow>& window);
+    QWidget* messagesViewOf(const basic::Ref<fernwick::udocCompileMsgs>& messages);
+    QDockWidget& dockOf(const QString& title, QWidget* view, Qt::DockWidgetArea area);
+    void remove(const std::shared_ptr<host::ToolWindow>& window);
+    void follow(const std::shared_ptr<host::ToolWindow>& window, QDockWidget& dock);
     void markMessages(const fernwick::udocCompileMsgs& messages);
 
     host::Host& host_;
     QMainWindow& window_;
     CodeWindows& code_;
+    DesktopWindows& windows_;
     Run run_;
     std::vector<QDockWidget*> all_;
-    /// The tool windows that are drawn. The latest of several with the same title has the dock.
-    std::map<std::shared_ptr<host::ToolWindow>, QPointer<QDockWidget>> drawn_;
+    /// A tool window that is drawn. The latest of several with the same title has the dock.
+    struct Drawn {
+        QPointer<QDockWidget> dock;
+        QMetaObject::Connection toggled;
+        std::vector<fernwick::Subscription> watches;
+    };
+    std::map<std::shared_ptr<host::ToolWindow>, Drawn> drawn_;
     std::vector<fernwick::Subscription> watches_;
 };
 

@@ -1,9 +1,15 @@
 #include "Apps/workbench/window/edit_focus.h"
 #include "Apps/workbench/code/scintilla.h"
+#include "Apps/workbench/designer/control_clipboard.h"
 #include "Apps/workbench/designer/design_desk.h"
+#include "Apps/workbench/designer/form_canvas.h"
+#include "Apps/workbench/designer/form_commands.h"
+#include "Apps/workbench/zoom/zoom_view.h"
 #include <QAbstractSpinBox>
 #include <QApplication>
+#include <QClipboard>
 #include <QComboBox>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QPlainTextEdit>
@@ -28,12 +34,16 @@ EditFocus::EditFocus(CodeWindows& code, DesignDesk& design)
     : QObject(&code), code_(code), design_(design), focus_(QApplication::focusWidget()) {
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { follow(now); });
     connect(&code, &QTabWidget::currentChanged, this, [this] { changed(); });
+    connect(QApplication::clipboard(), &QClipboard::dataChanged, this, [this] { changed(); });
+    selection_ = design.selectionChanged.connect([this] { changed(); });
 }
 
 /// A menu, a dialog and another program's window leave the focus where it was.
 void EditFocus::follow(QWidget* now) {
     if (dynamic_cast<QMenuBar*>(now) || (!now && !QApplication::activeWindow())) return;
     if (now && now->window()->isModal()) return;
+    // the zoom window passes commands on as it does keys
+    if (const auto* const zoom = dynamic_cast<ZoomView*>(now); zoom && zoom->canvas()) now = zoom->canvas();
     focus_ = now;
     changed();
 }
@@ -43,32 +53,79 @@ bool EditFocus::isInEditor() const {
     return editor && focus_ == &editor->scintilla();
 }
 
+bool EditFocus::isText() const { return textOf(focus_) != nullptr; }
+
+bool EditFocus::isWithin(const QWidget& part) const { return &part == focus_ || part.isAncestorOf(focus_); }
+
 bool EditFocus::isOnForm() const {
     const auto* const form = design_.forms().current();
-    const auto isWithin = [this](const QWidget& part) { return &part == focus_ || part.isAncestorOf(focus_); };
     return form && (!focus_ || isWithin(*form) || isWithin(design_.properties()) || isWithin(design_.toolbox()));
 }
 
+bool EditFocus::isOnDesigner() const {
+    const auto* const form = design_.forms().current();
+    return form && (!focus_ || isWithin(*form));
+}
+
 bool EditFocus::allows(Enabled where) const {
+    const auto* const form = design_.forms().current();
     switch (where) {
     case Enabled::InCode: return code_.current() != nullptr;
     case Enabled::InEditor: return isInEditor();
     case Enabled::InDesigner: return design_.forms().current() != nullptr;
-    case Enabled::InText: return textOf(focus_) != nullptr;
-    case Enabled::CanUndo: return textOf(focus_) || isOnForm();
+    case Enabled::InText: return isText();
+    case Enabled::CanUndo: return isText() || (isOnForm() && design_.canUndo());
+    case Enabled::CanRedo: return isText() || (isOnForm() && design_.canRedo());
+    case Enabled::CanCopy: return isText() || (isOnDesigner() && hasSelection(*form));
+    case Enabled::CanPaste: return isText() || (isOnDesigner() && hasCopiedControls());
+    case Enabled::CanSelect: return isText() || isOnDesigner();
+    case Enabled::OnForm: return isOnForm();
+    case Enabled::OnControl: return isOnForm() && hasSelection(*form);
+    case Enabled::OnOne: return isOnForm() && canArrange(*form, Arrangement::AlignToGrid);
+    case Enabled::OnSeveral: return isOnForm() && canArrange(*form, Arrangement::AlignLefts);
+    case Enabled::OnThree: return isOnForm() && canArrange(*form, Arrangement::EqualSpaceAcross);
     default: return true;
     }
 }
 
+// a command that is enabled without a text has a form
+
 void EditFocus::undo() {
-    if (textOf(focus_))
-        edit("undo");
-    else
-        design_.undo();
+    if (!edit("undo")) design_.undo();
 }
 
-void EditFocus::edit(const char* slot) {
-    if (auto* const text = textOf(focus_)) QMetaObject::invokeMethod(text, slot);
+void EditFocus::redo() {
+    if (!edit("redo")) design_.redo();
+}
+
+void EditFocus::cut() {
+    if (!edit("cut")) cutControls(*design_.forms().current());
+}
+
+void EditFocus::copy() {
+    if (!edit("copy")) copyControls(*design_.forms().current());
+}
+
+void EditFocus::paste() {
+    if (!edit("paste")) pasteControls(*design_.forms().current());
+}
+
+void EditFocus::selectAll() {
+    if (!edit("selectAll")) workbench::selectAll(*design_.forms().current());
+}
+
+/// A text removes what is selected as its Delete key does.
+void EditFocus::remove() {
+    auto* const text = textOf(focus_);
+    if (!text) return design_.forms().current()->removeSelected();
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_Delete, Qt::NoModifier);
+    QApplication::sendEvent(text, &press);
+}
+
+bool EditFocus::edit(const char* slot) {
+    auto* const text = textOf(focus_);
+    if (text) QMetaObject::invokeMethod(text, slot);
+    return text != nullptr;
 }
 
 } // namespace workbench

@@ -1,4 +1,5 @@
 #pragma once
+#include "Add-in/platform/events.h"
 #include "Apps/workbench/window/commands.h"
 #include <QObject>
 #include <QPointer>
@@ -22,17 +23,29 @@ public:
 
     bool allows(Enabled where) const;
     void undo();
-    /// Calls a slot that all text widgets have, such as "cut". Does nothing if no text has the focus.
-    void edit(const char* slot);
+    void redo();
+    void cut();
+    void copy();
+    void paste();
+    void remove();
+    void selectAll();
 
 private:
+    /// Calls a slot that all text widgets have, such as "cut". False if no text has the focus.
+    bool edit(const char* slot);
     void follow(QWidget* now);
     bool isInEditor() const;
+    bool isText() const;
+    /// On the form in front, or on the windows that show what is selected on it.
     bool isOnForm() const;
+    /// On the form in front itself.
+    bool isOnDesigner() const;
+    bool isWithin(const QWidget& part) const;
 
     CodeWindows& code_;
     DesignDesk& design_;
     QPointer<QWidget> focus_;
+    fernwick::Subscription selection_;
 };
 
 } // namespace workbench

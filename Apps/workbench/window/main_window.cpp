@@ -26,7 +26,7 @@ constexpr int kUsualWidth = 1100, kUsualHeight = 720, kUsualExplorerWidth = 270,
 
 } // namespace
 
-MainWindow::MainWindow(host::Host& host, Run run, MayClose mayClose)
+MainWindow::MainWindow(host::Host& host, DesktopWindows& windows, Run run, MayClose mayClose)
     : host_(host),
       run_(std::move(run)),
       mayClose_(std::move(mayClose)),
@@ -34,7 +34,7 @@ MainWindow::MainWindow(host::Host& host, Run run, MayClose mayClose)
       findBar_(new FindBar(*code_, run_)),
       notice_(new NoticeBar),
       codeCommands_(*code_, *notice_),
-      docks_(host, *this, *code_, run_),
+      docks_(host, *this, *code_, windows, run_),
       explorer_(new ProjectExplorer(host.shared_from_this(),
                                     {[this](auto project) { run_([&] { host_.ActiveVBProject(project); }); },
                                      [this](auto component) { design_->open(component); },

@@ -19,7 +19,7 @@ public:
     /// Asked before the window closes; false keeps it open.
     using MayClose = std::function<bool()>;
 
-    MainWindow(host::Host& host, Run run, MayClose mayClose);
+    MainWindow(host::Host& host, DesktopWindows& windows, Run run, MayClose mayClose);
 
     CodeWindows& code() { return *code_; }
     FindBar& findBar() { return *findBar_; }

@@ -15,6 +15,8 @@ constexpr int kTopOfWindow = 1;
 struct PlacedControl {
     std::shared_ptr<host::BarControl> control;
     Enabled where;
+    /// See Command.
+    bool (*isOn)(const CommandTargets&) = nullptr;
 };
 
 /// Fills the menus and keeps the controls that are enabled only in some places.
@@ -43,7 +45,7 @@ private:
         }
         if (command.text) control->Caption(command.text);
         if (command.act) control->action = actionOf(command);
-        if (command.enabled != Enabled::Always) placed_.push_back({control, command.enabled});
+        if (command.enabled != Enabled::Always) placed_.push_back({control, command.enabled, command.isOn});
     }
 
     /// An add-in may execute a control that is disabled.
@@ -57,9 +59,16 @@ private:
     std::vector<PlacedControl> placed_;
 };
 
-void enableWhereAllowed(EditFocus& focus, const std::vector<PlacedControl>& placed) {
-    focus.changed = [&focus, placed] {
-        for (const auto& [control, where] : placed) control->Enabled(focus.allows(where));
+void enableWhereAllowed(const CommandTargets& targets, const std::vector<PlacedControl>& placed) {
+    auto& focus = targets.window.editFocus();
+    focus.changed = [&focus, targets, placed] {
+        for (const auto& [control, where, isOn] : placed) {
+            const bool allowed = focus.allows(where);
+            const bool on = allowed && isOn && isOn(targets);
+            // each change draws all menus again
+            if (control->Enabled() != allowed) control->Enabled(allowed);
+            if (isOn && control->checked() != on) control->checked(on);
+        }
     };
     focus.changed();
 }
@@ -100,12 +109,13 @@ void addStandardToolbar(host::Host& host) {
 
 void addMenus(const CommandTargets& targets) {
     auto& host = targets.host;
+    addTopMenu(host, kFormatMenuId, "F&ormat", host::kAddInsMenuId);
     addTopMenu(host, kRunMenuId, "&Run", host::kAddInsMenuId);
     addTopMenu(host, kToolsMenuId, "&Tools", host::kAddInsMenuId);
     addTopMenu(host, kWindowMenuId, "&Window", host::kHelpMenuId);
     MenuFiller filler(targets);
     for (const auto& menu : commandMenus()) filler.fill(menu);
-    enableWhereAllowed(targets.window.editFocus(), filler.placed());
+    enableWhereAllowed(targets, filler.placed());
     addStandardToolbar(host);
     addToolBarSwitches(host);
     addDockCommands(host, targets.window.docks());

@@ -26,7 +26,7 @@ Workbench::Workbench()
                     return mayRunSteps(commandLine, folder);
                 }),
                 [this](const std::string& document) { showWithoutBrowser(qt(document), window_.get()); },
-                std::make_unique<host::FileSystem>(), [this] { openingCheck_.start(); }}),
+                std::make_unique<host::FileSystem>(), [this] { openingCheck_.start(); }, &windows_}),
       connections_(machine_.platform()),
       host_(host::Host::create(hostOptions())) {
     apps::compileInHostCodePages(machine_, host_);
@@ -51,11 +51,13 @@ Workbench::Workbench()
 
 void Workbench::buildWindow() {
     const Run runHere = [this](const auto& act) { run(act); };
-    window_ = std::make_unique<MainWindow>(*host_, runHere, [this] { return mayClose(); });
+    window_ = std::make_unique<MainWindow>(*host_, windows_, runHere, [this] { return mayClose(); });
+    windows_.attach(*window_, window_->design().forms());
     user_.mainWindow = window_.get();
     addMenus({*host_, *window_, programActions()});
     addExplorerMenu(*host_, window_->explorer(), runHere);
     addEditorMenu(*host_, window_->code(), runHere);
+    addDesignerMenu(*host_, window_->design(), *window_, runHere);
     recent_ = std::make_unique<RecentProjects>(*host_, recentMenu(*host_), [this](const auto& path) { open(path); });
     unsaved_ = std::make_unique<UnsavedWork>(*host_, *window_, unsavedCallbacks());
     watchForms();
@@ -78,6 +80,7 @@ Workbench::~Workbench() {
     (void)basic::attempt([this] { host_->close(); });
     recent_.reset();
     unsaved_.reset();
+    windows_.detach();
     window_.reset();
 }
 

@@ -11,6 +11,7 @@
 #include "Apps/workbench/window/commands.h"
 #include "Apps/workbench/window/main_window.h"
 #include "Apps/workbench/window/transfer_notice.h"
+#include "Apps/workbench/zoom/desktop_windows.h"
 
 namespace workbench {
 
@@ -32,6 +33,7 @@ public:
     host::Host& host() { return *host_; }
     /// The add-in of the present connection; references to it end with that connection.
     fernwick::Modules& addIn() { return connections_.current(); }
+    DesktopWindows& windows() { return windows_; }
 
 private:
     host::HostOptions hostOptions();
@@ -56,6 +58,7 @@ private:
     QtUser user_;
     QtLoop loop_{clock_, [this](std::exception_ptr error) { showError(std::move(error), window_.get()); }};
     QtClipboard clipboard_;
+    DesktopWindows windows_;
     apps::Machine machine_;
     apps::InstalledControls controls_{machine_.installation()};
     fernwick::Connections connections_;
