@@ -1,7 +1,7 @@
 // The menus of a form, changed all at once.
+#include "Host/model/code/menu_shortcuts.h"
 #include "Host/model/forms/form_change.h"
-#include "Host/model/forms/menu_edits.h"
-#include "Host/model/forms/menu_shortcuts.h"
+#include "Host/model/menus/menu_edits.h"
 #include "tests/host/designer_support.h"
 #include <gmock/gmock.h>
 

@@ -1,6 +1,6 @@
 #pragma once
 // The fields of one menu in the menu editor.
-#include "Host/model/forms/menu_edits.h"
+#include "Host/model/menus/menu_edits.h"
 #include <QWidget>
 #include <functional>
 

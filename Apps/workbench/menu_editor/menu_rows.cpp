@@ -1,6 +1,6 @@
 #include "Apps/workbench/menu_editor/menu_rows.h"
 #include "Apps/workbench/base/text.h"
-#include "Host/model/forms/menu_shortcuts.h"
+#include "Host/model/code/menu_shortcuts.h"
 #include <algorithm>
 #include <utility>
 

@@ -1,6 +1,6 @@
 #pragma once
 // The menus while they are edited, as the rows of the menu editor's list.
-#include "Host/model/forms/menu_edits.h"
+#include "Host/model/menus/menu_edits.h"
 #include <QString>
 #include <cstddef>
 #include <vector>

@@ -5,7 +5,7 @@
 #include "Basic/case_folding.h"
 #include "Basic/runtime_error.h"
 #include "Host/files/property_value.h"
-#include "Host/model/forms/menu_shortcuts.h"
+#include "Host/model/code/menu_shortcuts.h"
 #include <array>
 #include <string_view>
 

@@ -1,6 +1,6 @@
 #include "Host/model/forms/property_text.h"
 #include "Host/files/system_error.h"
-#include "Host/model/forms/menu_shortcuts.h"
+#include "Host/model/code/menu_shortcuts.h"
 #include <algorithm>
 #include <cmath>
 #include <limits>

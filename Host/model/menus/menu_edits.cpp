@@ -1,9 +1,9 @@
-#include "Host/model/forms/menu_edits.h"
+#include "Host/model/menus/menu_edits.h"
 #include "Basic/case_folding.h"
 #include "Host/files/system_error.h"
+#include "Host/model/code/menu_shortcuts.h"
 #include "Host/model/forms/block_properties.h"
 #include "Host/model/forms/form_controls.h"
-#include "Host/model/forms/menu_shortcuts.h"
 #include <algorithm>
 #include <map>
 

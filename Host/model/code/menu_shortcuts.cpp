@@ -1,4 +1,4 @@
-#include "Host/model/forms/menu_shortcuts.h"
+#include "Host/model/code/menu_shortcuts.h"
 #include "Basic/case_folding.h"
 #include <fmt/format.h>
 

@@ -2,7 +2,7 @@
 #include "Basic/case_folding.h"
 #include "Host/model/code/names.h"
 #include "Host/model/forms/form_controls.h"
-#include "Host/model/forms/menu_edits.h"
+#include "Host/model/menus/menu_edits.h"
 #include <algorithm>
 #include <fmt/format.h>
 
