@@ -23,17 +23,16 @@ TEST_F(Canvas, FunctionsDragAsTheMouseDoes) {
     EXPECT_EQ(placeOf("cmdA"), QRectF(40, 24, 80, 40));
 }
 
-TEST_F(Canvas, AGripIgnoresThePlaceOfItsPress) {
+TEST_F(Canvas, AGripIsPulledFromThePlaceOfItsPress) {
     openBoxes();
     clickOn("cmdA");
-    canvas().press(gripOf("cmdA") + QPointF(3, 3));
-    canvas().moveTo({6, 6});
-    canvas().release({6, 6});
+    const auto offCentre = gripOf("cmdA") + QPointF(3, 3);
+    canvas().press(offCentre);
+    canvas().release(offCentre);
     EXPECT_EQ(saved("frmMain"), original);
-    canvas().press(gripOf("cmdA"));
-    canvas().moveTo({6, 6});
-    canvas().moveTo({22, 14});
-    canvas().release({22, 14});
+    canvas().press(offCentre);
+    canvas().moveTo(offCentre + QPointF(16, 8));
+    canvas().release(offCentre + QPointF(16, 8));
     EXPECT_EQ(placeOf("cmdA"), QRectF(16, 16, 96, 48));
 }
 
@@ -77,6 +76,14 @@ TEST_F(Canvas, ACancelledDragChangesNothing) {
     begin();
     canvas().setFocus();
     window().explorer().setFocus();
+    expectNone();
+    begin();
+    QEvent deactivated(QEvent::WindowDeactivate);
+    QApplication::sendEvent(&canvas(), &deactivated);
+    expectNone();
+    begin();
+    view().select(control("cmdB"));
+    view().select(control("cmdA"));
     expectNone();
     EXPECT_EQ(saved("frmMain"), original);
 }

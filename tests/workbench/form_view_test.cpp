@@ -700,8 +700,7 @@ TEST_F(FormDesigners, TheToolboxSaysWhichControlsDoNotStay) {
     EXPECT_THAT(titles(), testing::ElementsAre("Visual Basic controls"));
     openSample("AddressBook");
     design("frmPerson");
-    EXPECT_THAT(titles(),
-                testing::ElementsAre("Device controls", "Visual Basic controls (removed by Fernwick)"));
+    EXPECT_THAT(titles(), testing::ElementsAre("Device controls", "Visual Basic controls (removed by Fernwick)"));
     QTest::keyClick(&desk().toolbox(), Qt::Key_Down); // over the title
     EXPECT_EQ(desk().toolbox().tool(), "TavletsCtl.QLAlarm");
 }

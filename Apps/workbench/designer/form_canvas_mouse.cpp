@@ -81,7 +81,8 @@ bool FormCanvas::beginSize(const QPointF& onWidget) {
     if (grip == Grip::None) return false;
     const auto* drawn = view_.drawnSelection();
     const bool isLine = drawn && drawn->look.kind == ControlKind::Line;
-    drag_ = FormDrag::sizing(onForm(onWidget), grip, selectedPlace(), gridFrom(drawn ? drawn->origin : QPointF()), isLine);
+    drag_ =
+        FormDrag::sizing(onForm(onWidget), grip, selectedPlace(), gridFrom(drawn ? drawn->origin : QPointF()), isLine);
     return true;
 }
 
@@ -165,7 +166,6 @@ bool FormCanvas::openMenu(const QPointF& onWidget) {
 void FormCanvas::mousePressEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton) return cancelDrag();
     press(event->position(), event->modifiers());
-    if (drag_) moveTo(event->position()); // the origin for a grip
 }
 
 void FormCanvas::mouseMoveEvent(QMouseEvent* event) { moveTo(event->position()); }

@@ -45,7 +45,9 @@ void MouseRoute::move(Hwnd document, const QPointF& at, const QPointF& onScreen,
 
 void MouseRoute::release(Hwnd document, const QPointF& at, const QPointF& onScreen, Qt::KeyboardModifiers keys) {
     this->at(onScreen, keys);
-    captured_ ? toCaptured(fernwick::WM_LBUTTONUP) : toDocument(document, fernwick::WM_LBUTTONUP, at);
+    if (!captured_) return toDocument(document, fernwick::WM_LBUTTONUP, at);
+    toCaptured(fernwick::WM_LBUTTONUP);
+    cancelDrag(); // a release at a place beyond the limits of messages does not arrive
     endCapture();
 }
 
@@ -71,10 +73,14 @@ void MouseRoute::endCapture() {
     qApp->removeEventFilter(this);
 }
 
+void MouseRoute::cancelDrag() {
+    if (const auto* designer = windows_.numbers.find(captured_).designer) designer->canvas->cancelDrag();
+}
+
 /// A press that is still being handled has not begun its drag: it ends once the press returns.
 void MouseRoute::lose() {
     if (!captured_) return;
-    if (const auto* designer = windows_.numbers.find(captured_).designer) designer->canvas->cancelDrag();
+    cancelDrag();
     if (pressing_) {
         lost_ = true;
         return;

@@ -50,6 +50,7 @@ private:
     void at(const QPointF& onScreen, Qt::KeyboardModifiers keys);
     void toDocument(fernwick::Hwnd document, unsigned number, const QPointF& at);
     void toCaptured(unsigned number);
+    void cancelDrag();
 
     Windows windows_;
     fernwick::Hwnd captured_ = 0;

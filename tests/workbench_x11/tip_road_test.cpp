@@ -1,0 +1,253 @@
+// A form is built from nothing in the zoom window at level 3, with the mouse and typed texts, and again with the keyboard
+// only in the designer. Both compile.
+#include "Apps/workbench/designer/form_canvas.h"
+#include "Apps/workbench/zoom/zoom_view.h"
+#include "Host/files/form_file.h"
+#include "tests/support/sample_project.h"
+#include "tests/workbench_x11/x_desktop.h"
+#include <QDockWidget>
+#include <QScrollBar>
+#include <QTableView>
+#include <gmock/gmock.h>
+
+using namespace test;
+using testing::HasSubstr;
+
+namespace {
+
+struct Part {
+    const char *tool, *name, *caption;
+    QRect place; ///< in pixels, on the grid
+};
+
+const Part kParts[] = {
+    {"QLLabel", "lblAmount", "Bill", {8, 16, 88, 16}},
+    {"QLTextBox", "txtAmount", "", {104, 16, 128, 24}},
+    {"QLLabel", "lblPercent", "Tip: 15 %", {8, 48, 88, 16}},
+    {"QLHScrollBar", "scrTip", "", {104, 48, 128, 24}},
+    {"QLCheckBox", "chkRound", "Round up", {8, 112, 224, 24}},
+    {"QLButton", "cmdCalculate", "Calculate", {8, 280, 104, 24}},
+};
+
+struct TipRoad : XDesktop {
+    TipRoad() {
+        constexpr int kWidth = 240, kHeight = 320, kTwips = 15;
+        auto text = formText("frmTip");
+        const auto size = [&](const char* side, int pixels) {
+            for (const auto* name : {"Client", "Scale"})
+                text.replace(text.find("2400", text.find(std::string(name) + side)), 4,
+                             std::to_string(pixels * kTwips));
+        };
+        size("Width", kWidth);
+        size("Height", kHeight);
+        const auto path = SampleProject("Tip")
+                              .member("Object={1198F6AB-5766-4D4A-A1AF-CD9A25D2D2B4}#1.0#0; Tavlets.dll")
+                              .member("Form=frmTip.frm", "frmTip.frm", text)
+                              .startup("frmTip")
+                              .handheld("PocketPC-ARM")
+                              .writeTo(folder);
+        connect();
+        begin([=, this] { bench->open(path); });
+        eventually("the project", [this] { return bool(bench->host().ActiveVBProject()); });
+        ask([this] { window().setGeometry(0, 0, 1200, 720); });
+        begin([this] { window().design().open(component("frmTip")); });
+        eventually("the designer", [this] { return window().design().forms().current() != nullptr; });
+    }
+
+    workbench::ZoomView* zoom() { return window().findChild<workbench::ZoomView*>("zoomPicture"); }
+    workbench::FormView& view() { return *window().design().forms().current(); }
+    vbide::Ref<vbide::VBControl> control(const std::string& name) {
+        return component("frmTip")->Designer()->VBControls()->Item(name);
+    }
+    std::size_t controlCount() { return view().picture().controls.size(); }
+    QRectF placeOfSelected() { return view().drawnSelection() ? view().drawnSelection()->place : QRectF(); }
+    std::string selectedName() {
+        return view().selected() ? fernwick::asText(view().selected()->Properties()->Item("Name")->Value()) : "";
+    }
+
+    // ---- with the mouse ----
+    void openZoom() {
+        choose("&Fernwick", "&Zoom Window");
+        eventually("the zoomed designer", [this] { return zoom() && zoom()->isVisible() && zoom()->canvas(); });
+        ask([this] {
+            constexpr int kLevel = 3;
+            zoom()->document()->Combo1.ListIndex(kLevel - 1);
+            auto& dock = *window().findChild<QDockWidget*>("Fernwick Zoom");
+            dock.setFloating(true);
+            dock.move(150, 20); // beside the toolbox and the properties
+            dock.resize(770, 560);
+        });
+        eventually("its bars", [this] { return zoom()->isVisible() && zoom()->height() > 400; });
+    }
+    QPoint inZoom(const QPoint& onForm) {
+        constexpr int kLevel = 3;
+        return ask([&] {
+            const auto& document = *zoom()->document();
+            const auto onCanvas = zoom()->canvas()->onCanvas(QRectF(onForm, QSizeF())).topLeft().toPoint();
+            return zoom()->mapToGlobal(onCanvas * kLevel - QPoint(document.GetXOffset(), document.GetYOffset()));
+        });
+    }
+    /// Turns the wheel until a place is far from the edges.
+    void bringIntoView(const QPoint& onForm) {
+        constexpr int kMost = 20, kEdge = 130;
+        for (int i = 0; i < kMost; ++i) {
+            const int below =
+                inZoom(onForm).y() - ask([this] { return zoom()->mapToGlobal(QPoint(0, zoom()->height())).y(); });
+            const int above = inZoom(onForm).y() - ask([this] { return zoom()->mapToGlobal(QPoint(0, 0)).y(); });
+            if (below < -kEdge && above > kEdge / 3) return;
+            const auto middle = ask([this] { return middleOf(*zoom()); });
+            xdotool({"mousemove", QString::number(middle.x()), QString::number(middle.y()), "click",
+                     below >= -kEdge ? "5" : "4"});
+        }
+    }
+    void pickTool(const char* name) {
+        click(ask([&] {
+            auto& tools = window().design().toolbox();
+            auto* const item = tools.findItems(name, Qt::MatchExactly).front();
+            tools.scrollToItem(item);
+            return middleOf(*tools.viewport(), tools.visualItemRect(item));
+        }));
+        eventually("the tool", [&] { return window().design().toolbox().currentItem()->text() == name; });
+    }
+    void typeProperty(const char* property, const char* value) {
+        const auto cell = ask([&] {
+            auto& properties = window().design().properties();
+            const auto index = properties.rows().index(properties.rows().rowOf(property), 1);
+            properties.table().scrollTo(index);
+            return middleOf(*properties.table().viewport(), properties.table().visualRect(index));
+        });
+        click(cell);
+        press({"ctrl+a"});
+        type(value);
+        press({"Return"});
+        eventually(std::string(property) + " is " + value, [&] {
+            auto& rows = window().design().properties().rows();
+            return rows.index(rows.rowOf(property), 1).data().toString() == value;
+        });
+    }
+
+    // ---- with the keyboard ----
+    void chooseToolByKeys(const char* name) {
+        press({"alt+v"});
+        eventually("the menu", [this] { return menu("&View")->isVisible(); });
+        press({"x"});
+        eventually("the toolbox has the keys", [this] { return window().design().toolbox().hasFocus(); });
+        press({"Home"});
+        constexpr int kMost = 60;
+        const auto isChosen = [&] { return window().design().toolbox().currentItem()->text() == name; };
+        for (int i = 0; i < kMost && !ask(isChosen); ++i) press({"Down"});
+        press({"Return"});
+    }
+    void backToForm() {
+        press({"shift+F7"});
+        eventually("the form has the keys", [this] { return view().canvas().hasFocus(); });
+    }
+    void pressTimes(const char* key, int times) {
+        for (int i = 0; i < times; ++i) press({key});
+    }
+    /// By steps of the grid.
+    void placeByKeys(const QRect& place) {
+        constexpr int kStep = 8;
+        const auto from = ask([this] { return placeOfSelected(); });
+        const auto steps = [&](double now, int wanted) { return int(std::lround((wanted - now) / kStep)); };
+        const int right = steps(from.x(), place.x()), down = steps(from.y(), place.y());
+        pressTimes(right > 0 ? "ctrl+Right" : "ctrl+Left", std::abs(right));
+        pressTimes(down > 0 ? "ctrl+Down" : "ctrl+Up", std::abs(down));
+        const int wider = steps(from.width(), place.width()), higher = steps(from.height(), place.height());
+        pressTimes(wider > 0 ? "shift+Right" : "shift+Left", std::abs(wider));
+        pressTimes(higher > 0 ? "shift+Down" : "shift+Up", std::abs(higher));
+        eventually("it is near its place", [&] {
+            const auto now = placeOfSelected();
+            const auto isNear = [](double a, double b) { return std::abs(a - b) <= kStep / 2 + 1; };
+            return isNear(now.x(), place.x()) && isNear(now.y(), place.y()) && isNear(now.width(), place.width()) &&
+                   isNear(now.height(), place.height());
+        });
+    }
+    void typePropertyByKeys(const char* property, const char* value) {
+        press({"F4"});
+        auto& properties = window().design().properties();
+        eventually("the properties have the keys",
+                   [&] { return properties.isAncestorOf(QApplication::focusWidget()); });
+        const auto isThere = [&] {
+            return properties.table().currentIndex().row() == properties.rows().rowOf(property);
+        };
+        press({"ctrl+Home"});
+        constexpr int kMost = 80;
+        for (int i = 0; i < kMost && !ask(isThere); ++i) press({"Down"});
+        type(value);
+        press({"Return"});
+        eventually(std::string(property) + " is " + value, [&] {
+            auto& rows = properties.rows();
+            return rows.index(rows.rowOf(property), 1).data().toString() == value;
+        });
+    }
+
+    // ---- both ----
+    void saveAndCompile() {
+        press({"ctrl+s"});
+        eventually("it is saved", [this] { return !component("frmTip")->IsDirty(); });
+        const auto compiled =
+            ask([this] { return bench->addIn().compile.CompileProject(bench->host().ActiveVBProject()); });
+        EXPECT_TRUE(compiled);
+    }
+    /// The IDE of the language reads it: objects first, then the form with its controls in order, then attributes.
+    void expectForm() {
+        const auto text = read("frmTip.frm");
+        EXPECT_EQ(host::FormFile::parse(text).text(), text);
+        EXPECT_TRUE(host::FormFile::parse(text).problems().empty());
+        EXPECT_EQ(
+            text.find("VERSION 5.00\r\nObject = \"{1198F6AB-5766-4D4A-A1AF-CD9A25D2D2B4}#1.0#0\"; \"Tavlets.dll\"\r\n"),
+            0u);
+        std::size_t last = 0;
+        for (const auto& part : kParts) {
+            const auto at = text.find("Begin TavletsCtl." + std::string(part.tool) + " " + part.name);
+            ASSERT_NE(at, std::string::npos) << part.name;
+            EXPECT_GT(at, last) << part.name;
+            last = at;
+        }
+    }
+};
+
+} // namespace
+
+TEST_F(TipRoad, InTheZoomWindowWithTheMouse) {
+    openZoom();
+    for (const auto& part : kParts) {
+        const auto before = ask([this] { return controlCount(); });
+        pickTool(part.tool);
+        bringIntoView(part.place.topLeft());
+        drag(inZoom(part.place.topLeft()),
+             inZoom(part.place.topLeft() + QPoint(part.place.width(), part.place.height())));
+        eventually(part.name, [&] { return controlCount() == before + 1 && placeOfSelected() == QRectF(part.place); });
+        typeProperty("(Name)", part.name);
+        if (*part.caption) typeProperty("Caption", part.caption);
+    }
+    // the check box moves up and becomes narrower
+    bringIntoView({100, 120});
+    click(inZoom({100, 124}));
+    eventually("the check box", [this] { return selectedName() == "chkRound"; });
+    drag(inZoom({100, 124}), inZoom({100, 100}));
+    eventually("it is moved", [this] { return placeOfSelected() == QRectF(8, 88, 224, 24); });
+    const auto grip = ask([this] {
+        return zoom()->canvas()->onForm(zoom()->canvas()->gripPlace(4)).toPoint(); // of the right edge
+    });
+    drag(inZoom(grip), inZoom(grip - QPoint(64, 0)));
+    eventually("it is narrower", [this] { return placeOfSelected() == QRectF(8, 88, 160, 24); });
+    saveAndCompile();
+    expectForm();
+}
+
+TEST_F(TipRoad, InTheDesignerWithTheKeyboard) {
+    for (const auto& part : kParts) {
+        const auto before = ask([this] { return controlCount(); });
+        chooseToolByKeys(part.tool);
+        eventually(part.name, [&] { return controlCount() == before + 1 && view().selected(); });
+        backToForm();
+        placeByKeys(part.place);
+        typePropertyByKeys("(Name)", part.name);
+        if (*part.caption) typePropertyByKeys("Caption", part.caption);
+    }
+    backToForm();
+    saveAndCompile();
+    expectForm();
+}
