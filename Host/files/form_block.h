@@ -80,6 +80,8 @@ public:
     /// Puts a removed block back at its position, or at the end if the block is shorter now.
     void restoreObject(std::shared_ptr<FormBlock> block, std::size_t place);
 
+    /// Indents this block by more levels, or fewer if negative. Nested Object blocks keep theirs.
+    void indent(int levels);
     /// False for a block that the file ends in: lines after it would become part of it.
     bool isClosed() const { return !lastLine_.empty(); }
     /// Visits all nested blocks, each before those within it.

@@ -7,6 +7,18 @@
 
 namespace host {
 
+namespace {
+
+constexpr std::size_t kLevelWidth = 3;
+
+void indentLine(std::string& line, int levels) {
+    if (lineText(line).empty()) return;
+    if (levels > 0) line.insert(0, kLevelWidth * std::size_t(levels), ' ');
+    if (levels < 0) line.erase(0, std::min(kLevelWidth * std::size_t(-levels), line.find_first_not_of(' ')));
+}
+
+} // namespace
+
 void FormBlock::eachPropertyWithin(const SeeLine& see, std::size_t& line) const {
     ++line;
     for (const auto& item : items_) {
@@ -86,6 +98,15 @@ void FormBlock::restoreObject(std::shared_ptr<FormBlock> block, std::size_t plac
     auto item = std::make_unique<Item>();
     item->block = std::move(block);
     items_.insert(items_.begin() + std::ptrdiff_t(std::min(place, items_.size())), std::move(item));
+}
+
+void FormBlock::indent(int levels) {
+    indentLine(firstLine_, levels);
+    indentLine(lastLine_, levels);
+    for (const auto& item : items_) {
+        indentLine(item->line, levels);
+        if (item->block && !item->isObject()) item->block->indent(levels);
+    }
 }
 
 void FormBlock::eachBlockWithin(const std::function<void(const std::shared_ptr<FormBlock>&)>& see) const {

@@ -1,4 +1,5 @@
 #include "Host/files/resource_file.h"
+#include <algorithm>
 #include <charconv>
 #include <fmt/core.h>
 
@@ -68,6 +69,22 @@ std::string_view takePage(RecordReader& reader) {
     return page;
 }
 
+std::string integerBytes(std::size_t value, std::size_t size) {
+    std::string bytes;
+    for (; size > 0; --size, value >>= 8) bytes += static_cast<char>(value & 0xFF);
+    return bytes;
+}
+
+std::string itemsRecord(const std::vector<std::string>& items, std::size_t extra) {
+    auto record = integerBytes(items.size(), 2);
+    if (items.empty()) return record;
+    std::size_t longest = 0;
+    for (const auto& item : items) longest = std::max(longest, item.size());
+    record += integerBytes(std::min(longest + extra, kLongestListItem), 2);
+    for (const auto& item : items) record += integerBytes(item.size(), 2) + item;
+    return record;
+}
+
 std::int32_t itemNumber(std::string_view text, RecordReader& reader) {
     std::int32_t number = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
@@ -132,5 +149,25 @@ Resource<std::string_view> ResourceFile::binary(std::size_t offset) const {
     const auto value = reader.take(reader.integer(4));
     return resourceRead(reader, value, "data", offset);
 }
+
+std::string pictureRecord(std::string_view image, bool ofPropertyBag) {
+    std::string picture(ofPropertyBag ? kPictureClass : std::string_view());
+    picture.append(kPictureMark).append(integerBytes(image.size(), 4)).append(image);
+    return stringRecord(picture);
+}
+
+std::string stringRecord(std::string_view text) { return integerBytes(text.size(), 4).append(text); }
+
+std::string textRecord(std::string_view text) {
+    constexpr std::size_t kLongLength = 255;
+    const bool isShort = text.size() < kLongLength;
+    const auto length = isShort ? integerBytes(text.size(), 1) : "\xFF" + integerBytes(text.size(), 2);
+    return length + std::string(text);
+}
+
+std::string listRecord(const std::vector<std::string>& items) { return itemsRecord(items, 0); }
+
+/// The designer reserves two characters more than the longest number has.
+std::string itemDataRecord(const std::vector<std::string>& numbers) { return itemsRecord(numbers, 2); }
 
 } // namespace host

@@ -45,4 +45,16 @@ private:
     std::string bytes_;
 };
 
+// ---- records to append, in the layouts above ------------------------------------------------------------------------
+constexpr std::size_t kLongestListItem = 0xFFFF, kMostListItems = 0xFFFF, kLongestText = 0xFFFF;
+
+std::string pictureRecord(std::string_view image, bool ofPropertyBag);
+std::string stringRecord(std::string_view text);
+/// At most kLongestText bytes.
+std::string textRecord(std::string_view text);
+/// At most kMostListItems, each with at most kLongestListItem bytes.
+std::string listRecord(const std::vector<std::string>& items);
+/// As listRecord, of decimal texts.
+std::string itemDataRecord(const std::vector<std::string>& numbers);
+
 } // namespace host

@@ -94,7 +94,6 @@ private:
     void replaceSource(LoadedSource loaded);
     void adoptName(const std::string& name);
     void raiseReplaced();
-    void copyCompanion(Project& project, const std::string& target);
 
     std::weak_ptr<Project> project_;
     vbide::vbext_ComponentType type_;

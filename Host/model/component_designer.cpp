@@ -1,6 +1,4 @@
 #include "Host/model/component_designer.h"
-#include "Host/files/native_path.h"
-#include "Host/files/path_lookup.h"
 #include "Host/model/component.h"
 #include "Host/model/host.h"
 #include "Host/model/project.h"
@@ -9,18 +7,6 @@
 #include <utility>
 
 namespace host {
-namespace {
-
-std::shared_ptr<const ResourceFile> readResources(const std::string& path) {
-    try {
-        return std::make_shared<ResourceFile>(readFile(path).bytes);
-    } catch (const basic::RuntimeError&) {
-        return nullptr; // the properties of a form without its companion have their defaults
-    }
-}
-
-} // namespace
-
 FormDesigner& ComponentDesigner::designer() {
     auto& source = component_.source();
     if (!designer_) designer_ = std::make_unique<FormDesigner>(source.form(), source.codePage(), hooks());
@@ -47,20 +33,12 @@ DesignerHooks ComponentDesigner::hooks() {
     hooks.objectLine = [&component](const std::string& className) {
         return component.owner()->references().objectLineOf(className);
     };
-    hooks.resources = [this](const std::string& name) { return resources(name); };
+    hooks.resources = [this](const std::string& name) { return resources_.find(name); };
+    hooks.addResource = [this](const std::string& record) { return resources_.add(record); };
     const auto& options = component.owner()->host()->options();
     hooks.classes = options.controlClasses;
     hooks.classOfProgId = options.classOfProgId;
     return hooks;
-}
-
-/// Cached, since a form refers to its companion many times.
-std::shared_ptr<const ResourceFile> ComponentDesigner::resources(const std::string& name) {
-    PathLookup lookup;
-    const auto path = lookup.find(folderOf(component_.resourceOwner()), name);
-    const auto [entry, isNew] = resources_.try_emplace(path);
-    if (isNew) entry->second = readResources(path);
-    return entry->second;
 }
 
 bool ComponentDesigner::isDesignerOf(const vbide::Ref<vbide::VBForm>& form) const {
@@ -100,7 +78,7 @@ void ComponentDesigner::bringToFront() {
 
 void ComponentDesigner::reset() {
     designer_.reset();
-    resources_.clear();
+    resources_.reread();
 }
 
 } // namespace host

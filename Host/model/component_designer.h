@@ -2,8 +2,8 @@
 // The designer of a component: its form, its window and its events.
 #include "Add-in/platform/host_events.h"
 #include "Add-in/platform/host_project.h"
+#include "Host/model/form_resources.h"
 #include "Host/model/forms/form_designer.h"
-#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -16,7 +16,7 @@ class ToolWindow;
 /// Part of a component, which must have a designer for all members but reset().
 class ComponentDesigner {
 public:
-    explicit ComponentDesigner(Component& component) : component_(component) {}
+    explicit ComponentDesigner(Component& component) : component_(component), resources_(component) {}
 
     vbide::Ref<vbide::Properties> properties() { return designer().Properties(); }
     vbide::Ref<vbide::VBForm> form() { return designer().Designer(); }
@@ -27,6 +27,7 @@ public:
     /// Shows the window as part of the component's activation.
     void bringToFront();
     const vbide::Ref<vbide::VBControlsEvents>& controlsEvents() const { return controlsEvents_; }
+    FormResources& resources() { return resources_; }
     /// Discards the form. Objects handed out for it raise errors from now on.
     void reset();
 
@@ -34,14 +35,13 @@ private:
     FormDesigner& designer();
     DesignerHooks hooks();
     void announce();
-    std::shared_ptr<const ResourceFile> resources(const std::string& name);
 
     Component& component_;
     std::shared_ptr<ToolWindow> window_;
     std::vector<fernwick::Subscription> windowEvents_;
     bool wasOpen_ = false, isActivating_ = false;
-    std::map<std::string, std::shared_ptr<const ResourceFile>> resources_; // by path
-    std::unique_ptr<FormDesigner> designer_;                               // created at first use
+    FormResources resources_;
+    std::unique_ptr<FormDesigner> designer_; // created at first use
     const vbide::Ref<vbide::VBControlsEvents> controlsEvents_ = basic::make<vbide::VBControlsEvents>();
 };
 

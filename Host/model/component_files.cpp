@@ -1,39 +1,28 @@
 // Reading and saving the files of a component.
 #include "Host/files/native_path.h"
-#include "Host/files/path_lookup.h"
 #include "Host/model/code/component_kind.h"
 #include "Host/model/code/loaded_source.h"
 #include "Host/model/component.h"
 #include "Host/model/component_designer.h"
 #include "Host/model/errors/host_errors.h"
+#include "Host/model/form_resources.h"
 #include "Host/model/host.h"
 #include "Host/model/module_code.h"
 #include "Host/model/project.h"
-#include <unistd.h>
 
 namespace host {
-namespace {
-
-/// The companion on disk, in any letter case; "" if there is none.
-std::string companionOnDisk(const std::string& path) {
-    if (path.empty()) return {};
-    const auto found = PathLookup().find(folderOf(path), fileNameOf(companionOf(path)));
-    return ::access(found.c_str(), F_OK) == 0 ? found : std::string();
-}
-
-} // namespace
 
 std::string Component::FileNames(int index) const {
     owner();
     if (index == 1) return origin_.path;
     if (index != 2 || FileCount() < 2) throw hostError(basic::kSubscriptOutOfRange);
-    return companionOnDisk(origin_.path); // a new form has none of its own until it is saved
+    return FormResources::onDisk(origin_.path); // a new form has none of its own until it is saved
 }
 
 /// The companion of a new form's template counts, because saving the form copies it.
 int Component::FileCount() const {
     owner();
-    return hasDesigner() && !companionOnDisk(resourceOwner()).empty() ? 2 : 1;
+    return hasDesigner() && !FormResources::onDisk(resourceOwner()).empty() ? 2 : 1;
 }
 
 void Component::SaveAs(const std::string& path) {
@@ -41,24 +30,21 @@ void Component::SaveAs(const std::string& path) {
     if (path.empty()) throw hostError(basic::kPathFileAccessError, fmt::format("{}: has no file name", name_));
     const auto target = absolutePath(path);
     const bool same = target == origin_.path;
-    if (!same && hasDesigner()) copyCompanion(*project, target);
-    const auto stamp =
-        project->host()->writeFile(*project, target, source_.bytes(), same ? origin_.stamp : std::nullopt);
-    if (!stamp) return;
+    auto& resources = designer_->resources();
+    if (hasDesigner() && !resources.save(*project, target)) return;
+    std::optional<FileStamp> stamp;
+    try {
+        stamp = project->host()->writeFile(*project, target, source_.bytes(), same ? origin_.stamp : std::nullopt);
+    } catch (const basic::RuntimeError&) {
+        resources.formNotSaved();
+        throw;
+    }
+    if (!stamp) return resources.formNotSaved();
     origin_.stamp = stamp;
     dirty_.set(false);
     if (same) return;
     origin_.path = target;
     project->writeMember(*this);
-}
-
-/// Copies the form's resources and changes its references to them.
-void Component::copyCompanion(Project& project, const std::string& target) {
-    const auto companion = companionOnDisk(resourceOwner());
-    if (companion.empty()) return;
-    const auto copy = companionOf(target);
-    if (!project.host()->writeFile(project, copy, readFile(companion).bytes, std::nullopt)) return;
-    source_.renameCompanion(fileNameOf(companion), fileNameOf(copy));
 }
 
 void Component::becomeNew() {
@@ -69,6 +55,7 @@ void Component::becomeNew() {
 
 void Component::reread() {
     replaceSource(readSource(kindOf(type_).member, origin_.path, owner()->codePage().page));
+    designer_->resources().discard();
     dirty_.set(false);
     raiseReplaced();
 }

@@ -133,7 +133,7 @@ TEST_F(Canvas, ShiftAndCtrlClicksAddAndRemove) {
     clickWith("cmdB", Qt::ShiftModifier);
     clickWith("cmdC", Qt::ControlModifier);
     EXPECT_THAT(selection(), ElementsAre("cmdA", "cmdB", "cmdC"));
-    EXPECT_EQ(shown("(Name)"), "cmdC");
+    EXPECT_EQ(shown("(Name)"), "no such row"); // several controls have no common name
     clickWith("cmdB", Qt::ShiftModifier);
     EXPECT_THAT(selection(), ElementsAre("cmdA", "cmdC"));
     clickWith("fraD", Qt::ControlModifier);

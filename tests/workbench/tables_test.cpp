@@ -163,7 +163,9 @@ TEST_F(Tables, Controls) {
 }
 
 TEST_F(Tables, Colours) {
-    for (const auto& [name, value] : workbench::namedColours())
+    auto colours = workbench::systemColours();
+    for (const auto value : workbench::paletteColours()) colours.push_back({"", value});
+    for (const auto& [name, value] : colours)
         rows += fmt::format("{} {} {}\n", workbench::formColourText(value).toStdString(),
                             workbench::formColour(value).name().toStdString(), name.toStdString());
     test::expectGolden(rows, "colours");

@@ -2,6 +2,7 @@
 #include "Apps/workbench/arrange/form_grips.h"
 #include "Apps/workbench/designer/form_canvas.h"
 #include "Apps/workbench/designer/offered_controls.h"
+#include "Apps/workbench/menu_editor/menu_editor.h"
 #include "Basic/runtime_error.h"
 
 namespace workbench {
@@ -46,7 +47,7 @@ void DesignDesk::refreshSoon() {
 void DesignDesk::followTabs() {
     selectionChanged.raise();
     if (forms_->current()) listTools();
-    if (auto* view = forms_->current()) return properties_->inspect(view->component(), view->selected());
+    if (auto* view = forms_->current()) return properties_->inspect(view->component(), view->selection());
     if (auto* editor = tabs_.current()) return properties_->inspect(editor->component());
     properties_->clear();
 }
@@ -106,6 +107,11 @@ void DesignDesk::showObject() {
     const auto* view = forms_->current();
     const bool inFront = view && view->component() == component;
     return inFront ? showCode() : open(component);
+}
+
+void DesignDesk::editMenus() {
+    auto* const view = forms_->current();
+    if (view) run_([&] { workbench::editMenus(history_, view->component(), view); });
 }
 
 void DesignDesk::undo() {

@@ -31,6 +31,8 @@ public:
     fernwick::Event<> selectionChanged;
     /// Reads the grid from the user's settings.
     void updateGrid();
+    /// Edits the menus of the form in front.
+    void editMenus();
     /// Called to open the context menu of the form in front, at a place on the screen.
     std::function<void(const QPoint&)> menuRequested = [](const auto&) {};
     /// Undoes the last change of the form in front, if there is one.

@@ -20,6 +20,11 @@ inline constexpr FlagOption kGridVisible{"designer/gridVisible", true};
 /// Whether what the mouse or the keyboard moves is aligned to the grid.
 inline constexpr FlagOption kGridSnaps{"designer/gridSnaps", true};
 
+// ---- the properties window ----
+
+inline constexpr FlagOption kPropertiesCategorized{"properties/categorized", false};
+inline constexpr FlagOption kPropertyDescriptions{"properties/descriptions", true};
+
 // ---- the window ----
 
 inline constexpr const char* kThemeNames[]{"system", "light", "dark"};

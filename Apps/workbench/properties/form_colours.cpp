@@ -45,24 +45,20 @@ constexpr std::array kSystemColours{
     SystemColour{"ToolTip", 0xffffffe1},
 };
 
-struct PaletteColour {
-    const char* name;
-    std::int32_t value;
-};
-constexpr std::array kPalette{
-    PaletteColour{"Black", 0x000000},      PaletteColour{"Dark Grey", 0x808080}, PaletteColour{"Light Grey", 0xc0c0c0},
-    PaletteColour{"White", 0xffffff},      PaletteColour{"Dark Red", 0x000080},  PaletteColour{"Red", 0x0000ff},
-    PaletteColour{"Dark Green", 0x008000}, PaletteColour{"Green", 0x00ff00},     PaletteColour{"Dark Blue", 0x800000},
-    PaletteColour{"Blue", 0xff0000},       PaletteColour{"Olive", 0x008080},     PaletteColour{"Yellow", 0x00ffff},
-    PaletteColour{"Teal", 0x808000},       PaletteColour{"Cyan", 0xffff00},      PaletteColour{"Purple", 0x800080},
-    PaletteColour{"Magenta", 0xff00ff},
+/// As &H00BBGGRR, in rows of eight.
+constexpr std::array<std::int32_t, kPaletteColours> kPalette{
+    0xffffff, 0xc0c0ff, 0xc0e0ff, 0xc0ffff, 0xc0ffc0, 0xffffc0, 0xffc0c0, 0xffc0ff, //
+    0xe0e0e0, 0x8080ff, 0x80c0ff, 0x80ffff, 0x80ff80, 0xffff80, 0xff8080, 0xff80ff, //
+    0xc0c0c0, 0x0000ff, 0x0080ff, 0x00ffff, 0x00ff00, 0xffff00, 0xff0000, 0xff00ff, //
+    0x808080, 0x0000c0, 0x0040c0, 0x00c0c0, 0x00c000, 0xc0c000, 0xc00000, 0xc000c0, //
+    0x404040, 0x000080, 0x004080, 0x008080, 0x008000, 0x808000, 0x800000, 0x800080, //
+    0x000000, 0x000040, 0x404080, 0x004040, 0x004000, 0x404000, 0x400000, 0x400040,
 };
 
-std::vector<NamedColour> allNamedColours() {
+std::vector<NamedColour> allSystemColours() {
     std::vector<NamedColour> all;
     for (std::size_t i = 0; i < kSystemColours.size(); ++i)
         all.push_back({kSystemColours.at(i).name, std::int32_t(kSystemColour | std::uint32_t(i))});
-    for (const auto& colour : kPalette) all.push_back({colour.name, colour.value});
     return all;
 }
 
@@ -99,9 +95,11 @@ QPixmap colourSwatch(std::int32_t value, const QSize& size) {
     return picture;
 }
 
-const std::vector<NamedColour>& namedColours() {
-    static const auto all = allNamedColours();
+const std::vector<NamedColour>& systemColours() {
+    static const auto all = allSystemColours();
     return all;
 }
+
+std::span<const std::int32_t> paletteColours() { return kPalette; }
 
 } // namespace workbench

@@ -5,6 +5,7 @@
 #include <QString>
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <vector>
 
 namespace workbench {
@@ -25,7 +26,10 @@ struct NamedColour {
     QString name;
     std::int32_t value = 0;
 };
-/// The system colours, then a palette.
-const std::vector<NamedColour>& namedColours();
+const std::vector<NamedColour>& systemColours();
+
+/// The colours that the designer offers, in rows of eight from light to dark.
+inline constexpr int kPaletteColours = 48, kPaletteColumns = 8;
+std::span<const std::int32_t> paletteColours();
 
 } // namespace workbench

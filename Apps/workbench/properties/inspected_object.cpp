@@ -2,6 +2,7 @@
 #include "Apps/workbench/base/text.h"
 #include "Apps/workbench/properties/property_reader.h"
 #include "Basic/runtime_error.h"
+#include "Host/model/forms/property_source.h"
 
 namespace workbench {
 
@@ -24,9 +25,9 @@ private:
 
 template <class Named>
 InspectedObject nameOf(const vbide::Ref<Named>& named) {
-    return {{basic::make<NameOnly>([named] { return named->Name(); },
-                                   [named](const std::string& name) { named->Name(name); })},
-            [](const auto& property, const auto& value) { property->Value(value); }};
+    const vbide::Ref<vbide::Property> name = basic::make<NameOnly>(
+        [named] { return named->Name(); }, [named](const std::string& newName) { named->Name(newName); });
+    return {{{name}}, [](const auto& property, const auto& change) { change(property.front()); }};
 }
 
 QString classOf(vbide::vbext_ComponentType type) {
@@ -41,16 +42,35 @@ QString classOf(vbide::vbext_ComponentType type) {
     }
 }
 
+/// Properties of the same kind. Those that identify one control are left out.
+std::vector<SharedProperty> commonProperties(const std::vector<vbide::Ref<vbide::Properties>>& objects) {
+    std::vector<SharedProperty> common;
+    for (const auto& first : objects.front()->items()) {
+        const auto name = first->Name();
+        if (objects.size() > 1 && (name == "Name" || name == "Index")) continue;
+        SharedProperty shared{first};
+        const auto kind = host::detailsOf(first).kind;
+        (void)basic::attempt([&] { // an object without the property ends it
+            for (auto other = objects.begin() + 1; other != objects.end(); ++other)
+                if (const auto same = (*other)->Item(name); host::detailsOf(same).kind == kind) shared.push_back(same);
+        });
+        if (shared.size() == objects.size()) common.push_back(std::move(shared));
+    }
+    return common;
+}
+
 } // namespace
 
 InspectedObject inspected(const vbide::Ref<vbide::VBProject>& project) { return nameOf(project); }
 
 InspectedObject inspected(DesignHistory& history, const vbide::Ref<vbide::VBComponent>& component,
-                          const vbide::Ref<vbide::VBControl>& control) {
+                          const InspectedControls& controls) {
     if (!hasDesign(*component)) return nameOf(component);
-    const auto properties = control ? control->Properties() : component->Properties();
-    return {properties->items(), [&history, component, properties](const auto& property, const auto& value) {
-                history.set(component, properties, {{property->Name(), value}});
+    std::vector<vbide::Ref<vbide::Properties>> objects;
+    for (const auto& control : controls) objects.push_back(control->Properties());
+    if (objects.empty()) objects.push_back(component->Properties());
+    return {commonProperties(objects), [&history, component](const auto& property, const auto& change) {
+                changeAsOneStep(history, component, property, change);
             }};
 }
 

@@ -2,6 +2,7 @@
 #include "Apps/workbench/base/text.h"
 #include "Apps/workbench/properties/form_colours.h"
 #include "Apps/workbench/properties/form_fonts.h"
+#include "Apps/workbench/properties/picture_formats.h"
 #include "Basic/runtime_error.h"
 #include "Host/model/forms/property_source.h"
 #include <algorithm>
@@ -11,7 +12,6 @@ namespace workbench {
 
 namespace {
 
-constexpr int kLargestPicture = 16 * 1024 * 1024;
 constexpr int kBoldStyle = 1, kItalicStyle = 2;
 
 } // namespace
@@ -81,11 +81,7 @@ QFont PropertyReader::deviceFont() const {
 
 QPixmap PropertyReader::picture(const std::string& name) const {
     QPixmap picture;
-    (void)basic::attempt([&] {
-        const auto image = host::imageOf(properties_->Item(name));
-        if (image.size() <= kLargestPicture)
-            picture.loadFromData(reinterpret_cast<const uchar*>(image.data()), uint(image.size()));
-    });
+    (void)basic::attempt([&] { picture = drawnPicture(host::imageOf(properties_->Item(name))); });
     return picture;
 }
 

@@ -1,8 +1,11 @@
 #include "Apps/workbench/properties/property_values.h"
 #include "Apps/workbench/base/text.h"
 #include "Apps/workbench/properties/form_colours.h"
+#include "Apps/workbench/properties/picture_formats.h"
 #include "Basic/case_folding.h"
 #include "Basic/runtime_error.h"
+#include "Host/files/property_value.h"
+#include "Host/model/code/menu_shortcuts.h"
 #include <array>
 #include <string_view>
 
@@ -15,6 +18,7 @@ using host::PropertyKind;
 constexpr int kNoIndex = -1;
 constexpr std::array<std::string_view, 2> kSizes{"Width", "Height"};
 constexpr std::array<std::string_view, 2> kLists{"List", "ItemData"};
+constexpr auto kNoShortcut = "(None)";
 
 template <std::size_t N>
 bool isAmong(const std::array<std::string_view, N>& names, const std::string& name) {
@@ -29,14 +33,6 @@ QString shownChoice(const host::PropertyChoice& choice) {
 
 QString shownTruth(bool value) { return value ? "True" : "False"; }
 
-/// Describes a picture by the first bytes of its file.
-QString shownPicture(const std::string& image) {
-    if (image.empty()) return "(None)";
-    constexpr std::string_view kIcon("\0\0\1\0", 4), kMetafile("\xd7\xcd\xc6\x9a", 4);
-    if (image.starts_with(kIcon)) return "(Icon)";
-    return image.starts_with(kMetafile) ? "(Metafile)" : "(Bitmap)";
-}
-
 QString shownEnumeration(const host::ClassProperty& details, const fernwick::Variant& value) {
     const auto text = fernwick::asText(value);
     for (const auto& choice : details.choices())
@@ -44,8 +40,17 @@ QString shownEnumeration(const host::ClassProperty& details, const fernwick::Var
     return qt(text);
 }
 
+QString shownShortcut(const std::string& literal) {
+    return literal.empty() ? QString(kNoShortcut) : qt(host::shortcutText(literal));
+}
+
 bool isBoolean(const host::ClassProperty& details, const fernwick::Variant& value) {
     return details.kind == PropertyKind::Boolean || std::holds_alternative<bool>(value);
+}
+
+/// The data of a control of another library, which only that library can change.
+bool isResource(const QString& shown) {
+    return host::parsePropertyValue(text(shown)).kind == host::PropertyValue::Kind::Resource;
 }
 
 [[noreturn]] void refuseValue() { throw basic::RuntimeError(basic::kInvalidPropertyValue); }
@@ -74,9 +79,20 @@ fernwick::Variant typedAsBefore(const fernwick::Variant& before, const std::stri
 
 } // namespace
 
+Chooser chooserOf(const host::ClassProperty& details, const QString& shown, bool hasLines) {
+    if (details.kind == PropertyKind::Picture) return Chooser::Picture;
+    if (details.kind == PropertyKind::Font) return Chooser::Font;
+    if (details.showsColour()) return Chooser::Colour;
+    if (isAmong(kLists, details.name)) return Chooser::Items;
+    const bool isText = details.kind == PropertyKind::Text || details.kind == PropertyKind::LongText;
+    const bool isLines = (hasLines && details.name == "Text") || details.name == "Items";
+    return (isText && isLines) || shown.contains('\n') ? Chooser::Lines : Chooser::None;
+}
+
 QString shownValue(const host::ClassProperty& details, const vbide::Ref<vbide::Property>& property) {
     if (details.kind == PropertyKind::Picture) return shownPicture(host::imageOf(property));
     if (isAmong(kLists, details.name)) return "(List)";
+    if (details.kind == PropertyKind::Shortcut) return shownShortcut(fernwick::asText(property->Value()));
     const auto value = property->Value();
     if (isBoolean(details, value)) return shownTruth(fernwick::asBoolean(value));
     if (!details.choices().empty()) return shownEnumeration(details, value);
@@ -110,12 +126,16 @@ QStringList shownChoices(const host::ClassProperty& details, const fernwick::Var
     if (isBoolean(details, value)) return {shownTruth(true), shownTruth(false)};
     QStringList shown;
     for (const auto& choice : details.choices()) shown << shownChoice(choice);
+    if (details.kind != PropertyKind::Shortcut) return shown;
+    shown << kNoShortcut;
+    for (const auto& key : host::menuShortcuts()) shown << qt(key.text);
     return shown;
 }
 
 bool isEditable(const host::ClassProperty& details, const QString& shown) {
     const bool elsewhere = details.kind == PropertyKind::Picture || isAmong(kLists, details.name);
-    const bool unknown = details.kind == PropertyKind::Unknown && details.name != "Name" && shown.isEmpty();
+    const bool unknown =
+        details.kind == PropertyKind::Unknown && details.name != "Name" && (shown.isEmpty() || isResource(shown));
     return !elsewhere && !unknown && !shown.contains('\n') && !shown.contains('\r');
 }
 

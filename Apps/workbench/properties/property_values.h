@@ -16,8 +16,14 @@ fernwick::Variant typedValue(const host::ClassProperty& details, const fernwick:
 /// The choices of an enumeration or a Boolean, as they are shown; empty for all else.
 QStringList shownChoices(const host::ClassProperty& details, const fernwick::Variant& value);
 
-/// Whether the value can be typed. Pictures, lists and texts of several lines are in files that this window does not
-/// write. A property without a description and without a value has no known type.
+/// Whether the value can be typed. Pictures, lists and texts of several lines are chosen or edited in a window. A
+/// property without a description and without a value has no known type.
 bool isEditable(const host::ClassProperty& details, const QString& shown);
+
+/// The window in which a value is chosen.
+enum class Chooser { None, Colour, Font, Picture, Items, Lines };
+
+/// `hasLines` is the object's property MultiLine.
+Chooser chooserOf(const host::ClassProperty& details, const QString& shown, bool hasLines);
 
 } // namespace workbench

@@ -87,6 +87,7 @@ constexpr std::array kCommandIcons{
     CommandIcon{kConvertProjectId, "Convert"},
     CommandIcon{kProjectPropertiesId, "Properties"},
     CommandIcon{kStartId, "Start"},
+    CommandIcon{kMenuEditorId, "Menu"},
     CommandIcon{kOptionsId, "Options"},
     CommandIcon{kNextWindowId, "NextWindow"},
     CommandIcon{kPreviousWindowId, "PreviousWindow"},

@@ -207,6 +207,9 @@ const Command kOrderCommands[] = {
 };
 
 const Command kToolsCommands[] = {
+    {kMenuEditorId, "&Menu Editor...", Qt::CTRL | Qt::Key_E, Enabled::InDesigner,
+     [](auto& on) { on.window.design().editMenus(); }},
+    {kGroup},
     {kOptionsId, "&Options...", kNoKey, kAlways, [](auto& on) { on.program.options(); }},
 };
 

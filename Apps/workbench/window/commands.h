@@ -74,6 +74,7 @@ enum CommandId : int {
     kToolsMenuId,
     kOptionsId,
     kConvertProjectId,
+    kMenuEditorId,
     kFormatMenuId = 40301,
     kDeleteId,
     kDuplicateId,
@@ -134,10 +135,11 @@ struct CommandTargets {
 /// Where a command is enabled.
 enum class Enabled {
     Always,
-    InCode,   ///< while a code window is in front
-    InEditor, ///< while the text of a code window has the focus
-    InText,   ///< while any text that can be edited has the focus
-    CanUndo,  ///< the same, and while a form in front has the focus and a step to undo
+    InCode,     ///< while a code window is in front
+    InEditor,   ///< while the text of a code window has the focus
+    InDesigner, ///< while a form is in front
+    InText,     ///< while any text that can be edited has the focus
+    CanUndo,    ///< the same, and while a form in front has the focus and a step to undo
     CanRedo,
     CanCopy,   ///< in a text, and with controls selected on a form that has the focus
     CanPaste,  ///< in a text, and on a form if controls were copied

@@ -72,6 +72,7 @@ bool EditFocus::allows(Enabled where) const {
     switch (where) {
     case Enabled::InCode: return code_.current() != nullptr;
     case Enabled::InEditor: return isInEditor();
+    case Enabled::InDesigner: return design_.forms().current() != nullptr;
     case Enabled::InText: return isText();
     case Enabled::CanUndo: return isText() || (isOnForm() && design_.canUndo());
     case Enabled::CanRedo: return isText() || (isOnForm() && design_.canRedo());

@@ -1,5 +1,6 @@
 // What the user does in the zoom window.
 #include "Apps/workbench/designer/form_canvas.h"
+#include "Apps/workbench/zoom/designer_image.h"
 #include "Apps/workbench/zoom/message_words.h"
 #include "Apps/workbench/zoom/virtual_keys.h"
 #include "Apps/workbench/zoom/zoom_view.h"

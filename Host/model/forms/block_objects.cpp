@@ -1,6 +1,7 @@
 #include "Host/model/forms/block_objects.h"
 #include "Basic/case_folding.h"
 #include "Host/files/system_error.h"
+#include "Host/model/forms/block_resources.h"
 #include "Host/model/forms/property_text.h"
 #include <array>
 
@@ -8,7 +9,6 @@ namespace host {
 namespace {
 
 constexpr std::string_view kFontGuid = "{0BE35203-8F91-11CE-9DE3-00AA004BB851}";
-constexpr std::string_view kOwnClasses = "VB.";
 constexpr int kBoldWeight = 700, kNormalWeight = 400, kBoldFrom = 551;
 
 const ClassProperty* fontMember(const ControlClass& members, const std::string& name) {
@@ -78,8 +78,7 @@ private:
     std::shared_ptr<FormBlock> block() {
         if (auto font = owner_->properties(property_)) return font;
         owner_->remove(property_); // a font in the resource file
-        const bool own = owner_->type().substr(0, kOwnClasses.size()) == kOwnClasses;
-        auto font = owner_->addProperties(property_, own ? std::string_view() : kFontGuid);
+        auto font = owner_->addProperties(property_, isBuiltInControl(*owner_) ? std::string_view() : kFontGuid);
         for (const auto& member : members_->properties) {
             const auto literal = parsePropertyValue(member.fallback);
             const auto written = literalOfValue(member, valueOfLiteral(member, literal, {}), literal);

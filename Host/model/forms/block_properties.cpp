@@ -4,15 +4,18 @@
 #include "Host/model/code/names.h"
 #include "Host/model/errors/host_errors.h"
 #include "Host/model/forms/block_objects.h"
+#include "Host/model/forms/block_resources.h"
 #include "Host/model/forms/form_controls.h"
 #include "Host/model/forms/property_text.h"
 #include <fmt/format.h>
 #include <unordered_set>
+#include <utility>
 
 namespace host {
 namespace {
 
-constexpr std::string_view kNameProperty = "Name";
+constexpr std::string_view kNameProperty = "Name", kIndex = "Index";
+constexpr std::int32_t kNoIndex = -1;
 
 } // namespace
 
@@ -83,13 +86,15 @@ void BlockProperties::plainValue(DesignerState& state, const ClassProperty& prop
     const auto now = plainValue(state, property);
     if (value == now) return;
     const auto before = parsePropertyValue(block_->literal(property.name).value_or(property.fallback));
-    const auto written = literalOfValue(property, value, before);
+    const auto stored = textInResources(state, *block_, property, value);
+    const auto written = stored ? *stored : literalOfValue(property, value, before);
     const auto wanted = parsePropertyValue(written.literal);
     if (valueOfLiteral(property, wanted, written.comment) == now) return;
     const bool isDefault = !property.fallback.empty() &&
                            valueOfLiteral(property, wanted, written.comment) ==
                                valueOfLiteral(property, parsePropertyValue(property.fallback), written.comment);
-    if (isDefault && block_->wasAdded(property.name)) return state.remove(*block_, property.name);
+    const bool hasNoLine = written.literal.empty() || (property.name == kIndex && fernwick::asLong(value) == kNoIndex);
+    if (hasNoLine || (isDefault && block_->wasAdded(property.name))) return state.remove(*block_, property.name);
     state.set(*block_, property.name, written.literal, written.comment);
 }
 
@@ -108,24 +113,26 @@ ClassProperty BlockProperties::details(const std::string& name) const {
     return property;
 }
 
-std::pair<std::shared_ptr<const ResourceFile>, std::size_t> BlockProperties::record(const std::string& name) const {
+std::string BlockProperties::picture(const std::string& name) const {
     const auto state = live();
     const auto literal = parsePropertyValue(block_->literal(name).value_or(""));
     if (literal.kind != PropertyValue::Kind::Resource || !state->hooks.resources) return {};
-    return {state->hooks.resources(literal.resource.file), literal.resource.offset};
+    const auto file = state->hooks.resources(literal.resource.file);
+    return file ? std::string(file->picture(literal.resource.offset).value) : std::string();
 }
 
-std::string BlockProperties::picture(const std::string& name) const {
-    const auto [file, offset] = record(name);
-    return file ? std::string(file->picture(offset).value) : std::string();
+std::vector<std::string> BlockProperties::list(const std::string& name) const { return listOf(*live(), *block_, name); }
+
+void BlockProperties::picture(const std::string& name, const std::string& image) {
+    const auto state = live();
+    if (describe(*state, name).kind != PropertyKind::Picture) throw hostError(basic::kPropertyOrMethodNotSupported);
+    if (image.empty() || image != std::as_const(*this).picture(name)) setPicture(*state, *block_, name, image);
 }
 
-std::vector<std::string> BlockProperties::list(const std::string& name) const {
-    const auto [file, offset] = record(name);
-    std::vector<std::string> items;
-    if (!file) return items;
-    for (const auto item : file->list(offset).value) items.push_back(live()->codePage.decode(item));
-    return items;
+void BlockProperties::list(const std::string& name, const std::vector<std::string>& items) {
+    const auto state = live();
+    if (!isList(name) || !isBuiltInControl(*block_)) throw hostError(basic::kPropertyOrMethodNotSupported);
+    if (items != std::as_const(*this).list(name)) setList(*state, *block_, name, items);
 }
 
 /// Members of a control array share their name and have different indexes.

@@ -19,6 +19,8 @@ public:
     ClassProperty details(const std::string& name) const override;
     std::string picture(const std::string& name) const override;
     std::vector<std::string> list(const std::string& name) const override;
+    void picture(const std::string& name, const std::string& image) override;
+    void list(const std::string& name, const std::vector<std::string>& items) override;
 
 protected:
     /// Returns the state. Error 440 if the block is no longer in the form.
@@ -30,8 +32,6 @@ private:
     vbide::Variant plainValue(DesignerState& state, const ClassProperty& property) const;
     void plainValue(DesignerState& state, const ClassProperty& property, const vbide::Variant& value);
     ClassProperty describe(DesignerState& state, const std::string& name) const;
-    /// The resource file, or null, and the offset that a property refers to.
-    std::pair<std::shared_ptr<const ResourceFile>, std::size_t> record(const std::string& name) const;
     void rename(DesignerState& state, const std::string& newName);
     void checkNameIsFree(DesignerState& state, const std::string& newName) const;
 

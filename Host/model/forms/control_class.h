@@ -20,6 +20,7 @@ enum class PropertyKind : char {
     LongText = 'L', ///< a text that resource files store with a length of one byte
     Font = 'F',
     Picture = 'P',
+    Shortcut = 'K', ///< the key of a menu: ^S or {F5}, without quotes; "" for none
 };
 
 /// A value of an enumeration.
@@ -36,6 +37,7 @@ struct ClassProperty {
     /// The names of an integer's values in its type library. They are not written to forms.
     std::vector<PropertyChoice> named = {};
     bool isColour = false; ///< an integer that is a colour according to its type library
+    std::string help = {}; ///< from its type library
 
     /// The values to choose from; none for a property that is not an enumeration.
     std::vector<PropertyChoice> choices() const;

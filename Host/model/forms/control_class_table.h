@@ -298,7 +298,7 @@ Checked B 0
 Enabled B -1
 HelpContextID I 0
 NegotiatePosition E 0 None|Left|Middle|Right
-Shortcut ?
+Shortcut K
 Visible B -1
 WindowList B 0
 )";

@@ -31,6 +31,7 @@ ClassProperty describedProperty(const TypeDescription& library, const TypeMember
     property.kind = kindOfType(member.type);
     property.named = valuesOfType(library, member.type);
     property.isColour = member.type == "OLE_COLOR";
+    property.help = member.help;
     if (member.defaultValue != fernwick::Variant{})
         property.fallback = literalOfValue(property, member.defaultValue, {}).literal;
     return property;

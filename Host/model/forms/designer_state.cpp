@@ -32,6 +32,13 @@ void DesignerState::remove(FormBlock& block, std::string_view key) {
     if (block.remove(key)) raiseChanged();
 }
 
+std::string DesignerState::addResource(const std::string& record, bool isString) const {
+    if (!hooks.addResource) throw hostError(basic::kPropertyOrMethodNotSupported);
+    auto reference = hooks.addResource(record);
+    reference.isString = isString;
+    return resourceLiteral(reference);
+}
+
 void DesignerState::raiseChanged() const {
     if (hooks.changed) hooks.changed();
 }

@@ -3,10 +3,12 @@
 #include "Add-in/platform/host_project.h"
 #include "Basic/code_page.h"
 #include "Host/files/form_file.h"
+#include "Host/files/property_value.h"
 #include "Host/files/resource_file.h"
 #include "Host/model/forms/control_class.h"
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -24,6 +26,8 @@ struct DesignerHooks {
     std::function<void(const std::string& newName)> renameForm;
     /// The resource file that the form refers to by this name; null if it does not exist.
     std::function<std::shared_ptr<const ResourceFile>(const std::string& fileName)> resources;
+    /// Appends a record to the form's own resource file, which is written when the form is saved.
+    std::function<ResourceReference(const std::string& record)> addResource;
     /// The properties of a class that is not built in; null if it is unknown.
     std::function<std::shared_ptr<const ControlClass>(const std::string& className)> classes;
     /// The class as written in forms for a ProgID (TavletsCtl.QLLabel for "Tavlets.QLLabel").
@@ -61,6 +65,9 @@ public:
     /// character.
     void set(FormBlock& block, std::string_view key, const std::string& literal, std::string_view comment = {});
     void remove(FormBlock& block, std::string_view key);
+    /// Appends a record to the form's resource file. Returns the literal that refers to it. Error 438 without a
+    /// resource file.
+    std::string addResource(const std::string& record, bool isString = false) const;
     void checkText(std::string_view text) const;
     void raiseChanged() const;
 

@@ -18,7 +18,7 @@ public:
         return members;
     }
 
-    const PropertySource& source() const { return *source_; }
+    PropertySource& source() const { return *source_; }
 
 private:
     std::shared_ptr<PropertySource> source_;
@@ -51,6 +51,12 @@ Answer askSource(const basic::Ref<vbide::Property>& property, Answer (PropertySo
     return model ? (model->source().*ask)(model->Name()) : Answer{};
 }
 
+const PropertyModel& modelOf(const basic::Ref<vbide::Property>& property) {
+    const auto model = basic::cast<PropertyModel>(property);
+    if (!model) throw hostError(basic::kPropertyOrMethodNotSupported);
+    return *model;
+}
+
 } // namespace
 
 ClassProperty PropertySource::details(const std::string& name) const {
@@ -63,16 +69,34 @@ std::string PropertySource::picture(const std::string&) const { return {}; }
 
 std::vector<std::string> PropertySource::list(const std::string&) const { return {}; }
 
+void PropertySource::picture(const std::string&, const std::string&) {
+    throw hostError(basic::kPropertyOrMethodNotSupported);
+}
+
+void PropertySource::list(const std::string&, const std::vector<std::string>&) {
+    throw hostError(basic::kPropertyOrMethodNotSupported);
+}
+
 ClassProperty detailsOf(const basic::Ref<vbide::Property>& property) {
     return askSource(property, &PropertySource::details);
 }
 
 std::string imageOf(const basic::Ref<vbide::Property>& property) {
-    return askSource(property, &PropertySource::picture);
+    return askSource<std::string>(property, &PropertySource::picture);
 }
 
 std::vector<std::string> itemsOf(const basic::Ref<vbide::Property>& property) {
-    return askSource(property, &PropertySource::list);
+    return askSource<std::vector<std::string>>(property, &PropertySource::list);
+}
+
+void setImage(const basic::Ref<vbide::Property>& property, const std::string& image) {
+    const auto& model = modelOf(property);
+    model.source().picture(model.Name(), image);
+}
+
+void setItems(const basic::Ref<vbide::Property>& property, const std::vector<std::string>& items) {
+    const auto& model = modelOf(property);
+    model.source().list(model.Name(), items);
 }
 
 basic::Ref<vbide::Properties> propertiesOf(std::shared_ptr<PropertySource> source) {

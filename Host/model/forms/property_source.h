@@ -30,12 +30,21 @@ public:
     virtual std::string picture(const std::string& name) const;
     /// Returns the items of a list in the resource file.
     virtual std::vector<std::string> list(const std::string& name) const;
+
+    /// Sets the image file of a picture; "" removes it. Error 438 if the property is not a picture.
+    virtual void picture(const std::string& name, const std::string& image);
+    /// Sets the items of a list in the resource file. Errors: 438 not such a list; 380 an item that is too long, too
+    /// many items, or an item of ItemData that is not a number; 5 a character that the code page lacks.
+    virtual void list(const std::string& name, const std::vector<std::string>& items);
 };
 
 // ---- for front ends that show properties; empty for properties of other hosts ---------------------------------------
 ClassProperty detailsOf(const basic::Ref<vbide::Property>& property);
 std::string imageOf(const basic::Ref<vbide::Property>& property);
 std::vector<std::string> itemsOf(const basic::Ref<vbide::Property>& property);
+/// As PropertySource::picture and list. Error 438 for properties of other hosts.
+void setImage(const basic::Ref<vbide::Property>& property, const std::string& image);
+void setItems(const basic::Ref<vbide::Property>& property, const std::vector<std::string>& items);
 
 /// Returns a collection over a source. Item raises error 9 for an unknown name.
 basic::Ref<vbide::Properties> propertiesOf(std::shared_ptr<PropertySource> source);

@@ -1,5 +1,6 @@
 #include "Host/model/forms/property_text.h"
 #include "Host/files/system_error.h"
+#include "Host/model/code/menu_shortcuts.h"
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -43,6 +44,12 @@ WrittenValue writtenBare(const std::string& text, Literal kind) {
     return {text, {}};
 }
 
+WrittenValue writtenShortcut(const std::string& text) {
+    const auto literal = shortcutLiteral(text);
+    if (!literal) throw hostError(basic::kInvalidPropertyValue);
+    return {*literal, {}};
+}
+
 WrittenValue writtenAsBefore(const Variant& value, Literal before) {
     if (const auto* truth = std::get_if<bool>(&value)) return writtenBoolean(*truth);
     if (before == Literal::Colour) return {colourLiteral(std::uint32_t(fernwick::asLong(value))), {}};
@@ -62,7 +69,8 @@ Variant valueOfLiteral(const ClassProperty& property, const PropertyValue& liter
     case PropertyKind::Colour: return literal.isNumber() ? numberOf(literal) : Variant(std::int32_t{0});
     case PropertyKind::Single: return literal.isNumber() ? literal.number : 0.0;
     case PropertyKind::Text:
-    case PropertyKind::LongText: return textOf(literal);
+    case PropertyKind::LongText:
+    case PropertyKind::Shortcut: return textOf(literal);
     default: break;
     }
     if (literal.kind == Literal::Empty) return {};
@@ -82,6 +90,7 @@ WrittenValue literalOfValue(const ClassProperty& property, const Variant& value,
     case PropertyKind::Single: return writtenSingle(fernwick::asDouble(value));
     case PropertyKind::Text:
     case PropertyKind::LongText: return writtenText(fernwick::asText(value));
+    case PropertyKind::Shortcut: return writtenShortcut(fernwick::asText(value));
     default: return writtenAsBefore(value, before.kind);
     }
 }

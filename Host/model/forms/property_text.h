@@ -12,7 +12,7 @@ namespace host {
 fernwick::Variant valueOfLiteral(const ClassProperty& property, const PropertyValue& literal, std::string_view comment);
 
 struct WrittenValue {
-    std::string literal, comment;
+    std::string literal, comment; ///< without a literal the property has no line
 };
 
 /// Returns the literal of a value. `before` is the present literal, which determines the form if the kind is unknown.
