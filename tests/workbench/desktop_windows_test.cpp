@@ -75,7 +75,7 @@ TEST_F(DesktopWindowsTest, WhatIsAtAPlace) {
     EXPECT_EQ(rect.right - rect.left, canvas().width());
     EXPECT_EQ(rect.bottom - rect.top, canvas().height());
     EXPECT_EQ(windows().ChildWindowFromPoint(surface, at(middleOf("cmdTwo"))), inside[10]);
-    EXPECT_EQ(windows().ChildWindowFromPoint(surface, at(middleOf("lblFour"))), inside[9]) << "its container";
+    EXPECT_EQ(windows().ChildWindowFromPoint(surface, at(middleOf("lblFour"))), inside[11]) << "its container";
     EXPECT_EQ(windows().ChildWindowFromPoint(surface, at(pointOn({200, 200}))), surface);
     EXPECT_EQ(windows().ChildWindowFromPoint(surface, {canvas().width(), 5}), 0);
     EXPECT_EQ(windows().ChildWindowFromPoint(surface, {-1, 5}), 0);

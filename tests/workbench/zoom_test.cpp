@@ -206,6 +206,23 @@ TEST_F(Zoom, AClickOnAHandleChangesNothing) {
     EXPECT_EQ(bench->windows().procedures().hookCount(), 0u);
 }
 
+/// The mouse may move before Qt's loop turns.
+TEST_F(Zoom, AQuickPullOfAHandleLosesNothing) {
+    openZoomed(kControls);
+    view().select(control("cmdTwo"));
+    const auto grip = canvas().gripPlace(7).toPoint();
+    for (int level = 1; level <= 5; ++level) {
+        chooseLevel(level);
+        QTest::mousePress(&zoom(), Qt::LeftButton, {}, zoomed(grip));
+        moveMouse(zoom(), zoomed(grip + QPoint(32, 16)), Qt::LeftButton);
+        QTest::mouseRelease(&zoom(), Qt::LeftButton, {}, zoomed(grip + QPoint(32, 16)));
+        settle();
+        EXPECT_EQ(placeOf("cmdTwo"), QRectF(120, 80, 96, 48)) << level;
+        desk().undo();
+        settle();
+    }
+}
+
 TEST_F(Zoom, AMenuThatTakesTheMouseEndsTheDrag) {
     openZoomed(std::string(kControls) +
                "   Begin VB.Menu mnuFile\n      Caption = \"&File\"\n      Begin VB.Menu mnuOpen\n"

@@ -10,6 +10,7 @@
 #include <QMimeData>
 #include <QPointer>
 #include <algorithm>
+#include <fmt/format.h>
 
 namespace workbench {
 
@@ -20,12 +21,17 @@ constexpr auto kArrayQuestion = "You already have a control named '%1'. Do you w
 
 using Control = FormView::Control;
 
-/// Controls as text, and the file of the form that they are from: its resource file has some of their values.
+/// Controls as text, and the form that they are from: its resource file has some of their values.
 struct Copied {
     std::string text, form;
 };
 
-std::string fileOf(const FormView& view) { return view.component()->FileNames(1); }
+/// The form's file; for a form that was never saved, what no other form has in this program.
+std::string identityOf(const FormView& view) {
+    const auto file = view.component()->FileNames(1);
+    return file.empty() ? fmt::format("{}/{}", QApplication::applicationPid(), fmt::ptr(view.component().shared()))
+                        : file;
+}
 
 Copied copied() {
     const auto* const data = QApplication::clipboard()->mimeData();
@@ -33,7 +39,7 @@ Copied copied() {
     return {data->data(kControls).toStdString(), data->data(kForm).toStdString()};
 }
 
-Copied selectedIn(const FormView& view) { return {host::textOfControls(view.selection()), fileOf(view)}; }
+Copied selectedIn(const FormView& view) { return {host::textOfControls(view.selection()), identityOf(view)}; }
 
 bool wantsArray(FormView& view, const std::string& name) {
     const auto question = QString(kArrayQuestion).arg(qt(name));
@@ -73,7 +79,7 @@ void insert(FormView& view, const Control& container, const Copied& copied) {
     const QPointer<FormView> here(&view);
     const auto component = view.component();
     host::InsertOptions options;
-    options.keepsResources = copied.form == fileOf(view);
+    options.keepsResources = copied.form == identityOf(view);
     for (const auto& name : host::namesInUse(component->Designer(), copied.text))
         if (wantsArray(view, name)) options.arrays.push_back(name);
     if (!here) return; // closed under the question

@@ -4,6 +4,7 @@
 #include "Apps/workbench/designer/offered_controls.h"
 #include "Apps/workbench/menu_editor/menu_editor.h"
 #include "Basic/runtime_error.h"
+#include <QApplication>
 
 namespace workbench {
 
@@ -101,11 +102,16 @@ void DesignDesk::showCode() {
     if (component) run_([&] { component->CodeModule()->CodePane()->Show(); });
 }
 
+/// Whether the keys are with the properties or the toolbox, from where the command leads back to the form.
+bool DesignDesk::isBesideForm(const QWidget* focus) const {
+    return focus && (properties_->isAncestorOf(focus) || toolbox_ == focus);
+}
+
 void DesignDesk::showObject() {
     const auto component = inHand();
     if (!component) return;
     const auto* view = forms_->current();
-    const bool inFront = view && view->component() == component;
+    const bool inFront = view && view->component() == component && !isBesideForm(QApplication::focusWidget());
     return inFront ? showCode() : open(component);
 }
 

@@ -25,7 +25,7 @@ public:
     void open(const vbide::Ref<vbide::VBComponent>& component);
     /// Shows the code of the component that the user works on.
     void showCode();
-    /// Shows its form, or its code if the form is in front already.
+    /// Shows its form, or its code if the form is in front and has the keys.
     void showObject();
     /// Raised when another form or control is selected, or what is selected has another place.
     fernwick::Event<> selectionChanged;
@@ -47,6 +47,7 @@ private:
     void followTabs();
     void followExplorer();
     void listTools();
+    bool isBesideForm(const QWidget* focus) const;
     void addInMiddle(const std::string& progId);
 
     host::Host& host_;

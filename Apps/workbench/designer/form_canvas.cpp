@@ -1,6 +1,7 @@
 #include "Apps/workbench/designer/form_canvas.h"
 #include "Apps/workbench/designer/device_screen.h"
 #include "Apps/workbench/designer/form_painter.h"
+#include <QPaintEvent>
 #include <QPainter>
 #include <algorithm>
 #include <cmath>

@@ -13,6 +13,7 @@ namespace {
 /// The widget within a dock that gets the focus.
 QWidget* focusTarget(QDockWidget& dock) {
     if (!dock.widget() || dock.widget()->focusPolicy() != Qt::NoFocus) return dock.widget();
+    if (auto* const proxy = dock.widget()->focusProxy()) return proxy;
     // its list rather than the filter above it
     return dock.widget()->findChild<QAbstractItemView*>();
 }

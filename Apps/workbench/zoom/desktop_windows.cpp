@@ -141,7 +141,7 @@ Hwnd DesktopWindows::ChildWindowFromPoint(Hwnd hwnd, WindowPoint place) const no
     if (found.kind != WindowKind::Surface) return 0;
     auto& designer = *found.designer;
     const QPointF at(place.x, place.y);
-    if (!QRectF(designer.canvas->rect()).contains(at)) return 0;
+    if (!designer.canvas->rect().contains(QPoint(place.x, place.y))) return 0;
     if (const auto grip = designer.canvas->gripNumberAt(at)) return designer.grips[std::size_t(*grip)];
     const auto& picture = designer.view->picture();
     const auto* drawn = picture.at(designer.canvas->onForm(at));

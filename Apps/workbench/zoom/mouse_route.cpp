@@ -21,7 +21,9 @@ bool takesMouse(QObject& shown) {
 
 } // namespace
 
+/// What was posted comes before the next event of the mouse.
 void MouseRoute::at(const QPointF& onScreen, Qt::KeyboardModifiers keys) {
+    deliverPosted();
     cursor_ = wholePoint(onScreen);
     keys_ = keys;
 }
@@ -96,9 +98,13 @@ void MouseRoute::closing(const DesignerWindow& designer) {
 void MouseRoute::postMove() {
     if (!captured_) return;
     ++postedMoves_;
-    QTimer::singleShot(0, this, [this, window = captured_] {
-        if (captured_ == window) toCaptured(fernwick::WM_MOUSEMOVE);
-    });
+    posted_ = captured_;
+    QTimer::singleShot(0, this, [this] { deliverPosted(); });
+}
+
+void MouseRoute::deliverPosted() {
+    if (const auto window = std::exchange(posted_, 0); window && window == captured_)
+        toCaptured(fernwick::WM_MOUSEMOVE);
 }
 
 bool MouseRoute::eventFilter(QObject* watched, QEvent* event) {

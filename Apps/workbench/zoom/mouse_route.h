@@ -48,6 +48,7 @@ protected:
 
 private:
     void at(const QPointF& onScreen, Qt::KeyboardModifiers keys);
+    void deliverPosted();
     void toDocument(fernwick::Hwnd document, unsigned number, const QPointF& at);
     void toCaptured(unsigned number);
     void cancelDrag();
@@ -57,6 +58,8 @@ private:
     fernwick::WindowPoint cursor_;
     Qt::KeyboardModifiers keys_;
     bool pressing_ = false, lost_ = false;
+    /// The window that a move was posted to.
+    fernwick::Hwnd posted_ = 0;
     int postedMoves_ = 0;
 };
 

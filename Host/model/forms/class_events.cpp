@@ -1,6 +1,6 @@
 #include "Host/model/forms/class_events.h"
 #include "Basic/case_folding.h"
-#include "Host/model/forms/control_class_table.h"
+#include "Host/files/text_parts.h"
 #include <algorithm>
 #include <array>
 
