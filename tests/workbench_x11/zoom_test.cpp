@@ -7,6 +7,8 @@
 #include <QDockWidget>
 #include <QScreen>
 #include <QScrollBar>
+#include <QThread>
+#include <cmath>
 
 using namespace test;
 
