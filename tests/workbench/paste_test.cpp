@@ -1,10 +1,13 @@
 // Controls on the clipboard, and the history of a form.
 #include "Apps/workbench/designer/control_clipboard.h"
 #include "Apps/workbench/designer/form_commands.h"
+#include "Host/files/resource_file.h"
+#include "Host/model/forms/property_source.h"
 #include "tests/workbench/canvas_desktop.h"
 #include <QClipboard>
 #include <QMessageBox>
 #include <QMimeData>
+#include <fmt/format.h>
 #include <random>
 
 using testing::ElementsAre;
@@ -170,6 +173,40 @@ TEST_F(Pasting, OtherFormsLackTheResourcesOfThisOne) {
     EXPECT_THAT(folder.read("Other.frm"), Not(HasSubstr("frmMain.frx")));
 }
 
+TEST_F(Pasting, OtherFormsGetTheRecordsTheyNeed) {
+    const auto picture = host::pictureRecord("BM, a picture", false), items = host::listRecord({"One", "Two"});
+    const auto numbers = host::itemDataRecord({"7", "8"}), lines = host::textRecord("One\r\nTwo");
+    folder.write("frmMain.frx", picture + items + numbers + lines);
+    const auto at = [&](std::size_t offset) { return fmt::format("\"frmMain.frx\":{:04X}\n", offset); };
+    openForm(box("PictureBox", "picA", 240, 240, "      Picture         =   " + at(0)) +
+             box("ListBox", "lstB", 240, 960,
+                 "      ItemData        =   " + at(picture.size() + items.size()) +
+                     "      List            =   " + at(picture.size())) +
+             box("TextBox", "txtC", 240, 1800,
+                 "      MultiLine       =   -1  'True\n      Text            =   " +
+                     at(picture.size() + items.size() + numbers.size())));
+    choose({"picA", "lstB", "txtC"});
+    copy();
+    bench->host().ActiveVBProject()->VBComponents()->Add(vbide::vbext_ct_VBForm);
+    settle();
+    ASSERT_TRUE(returnsToForm());
+    paste();
+    const auto expectValues = [this] {
+        EXPECT_EQ(fernwick::asText(control("txtC")->Properties()->Item("Text")->Value()), "One\r\nTwo");
+        EXPECT_EQ(host::itemsOf(control("lstB")->Properties()->Item("List")), (std::vector<std::string>{"One", "Two"}));
+        EXPECT_EQ(host::itemsOf(control("lstB")->Properties()->Item("ItemData")), (std::vector<std::string>{"7", "8"}));
+        EXPECT_EQ(host::imageOf(control("picA")->Properties()->Item("Picture")), "BM, a picture");
+    };
+    expectValues();
+    undo();
+    EXPECT_TRUE(view().picture().controls.empty());
+    redo();
+    expectValues();
+    view().component()->SaveAs(folder / "Other.frm");
+    EXPECT_EQ(folder.read("Other.frx").size(), picture.size() + items.size() + numbers.size() + lines.size());
+    EXPECT_THAT(folder.read("Other.frm"), Not(HasSubstr("frmMain.frx")));
+}
+
 TEST_F(Pasting, InvalidContentsAreRefused) {
     openBoxes();
     const auto expectRefused = [this](const char* text) {
@@ -330,7 +367,7 @@ TEST_F(Pasting, TheContextMenuHasTheCommands) {
         if (!action->isSeparator() && action->isEnabled()) texts << action->text();
     menu->close();
     EXPECT_EQ(texts.join(' '), "&Code Cu&t &Copy &Delete Align to &Grid &Bring to Front &Send to Back &Tab Order "
-                               "&Lock Controls Properties &Window");
+                               "&Lock Controls &Menu Editor... Properties &Window");
     canvas().contextMenu(middleOf("cmdC"), {10, 10});
     QApplication::activePopupWidget()->close();
     EXPECT_THAT(selection(), ElementsAre("cmdC"));

@@ -7,6 +7,9 @@
 #include "Host/model/forms/control_text.h"
 #include <QApplication>
 #include <QClipboard>
+#include <QDataStream>
+#include <QIODevice>
+#include <QMap>
 #include <QMimeData>
 #include <QPointer>
 #include <algorithm>
@@ -16,7 +19,8 @@ namespace workbench {
 
 namespace {
 
-constexpr auto kControls = "application/x-fernwick-controls", kForm = "application/x-fernwick-form";
+constexpr auto kControls = "application/x-fernwick-controls", kForm = "application/x-fernwick-form",
+               kRecords = "application/x-fernwick-records";
 constexpr auto kArrayQuestion = "You already have a control named '%1'. Do you want to create a control array?";
 
 using Control = FormView::Control;
@@ -24,6 +28,7 @@ using Control = FormView::Control;
 /// Controls as text, and the form that they are from: its resource file has some of their values.
 struct Copied {
     std::string text, form;
+    host::CopiedRecords records;
 };
 
 /// The form's file; for a form that was never saved, what no other form has in this program.
@@ -33,13 +38,38 @@ std::string identityOf(const FormView& view) {
                         : file;
 }
 
+QByteArray bytesOf(const host::CopiedRecords& records) {
+    QMap<QByteArray, QByteArray> map;
+    for (const auto& [literal, record] : records)
+        map[QByteArray::fromStdString(literal)] = QByteArray::fromStdString(record);
+    QByteArray bytes;
+    QDataStream stream(&bytes, QIODevice::WriteOnly);
+    stream << map;
+    return bytes;
+}
+
+/// Another program may have put anything there.
+host::CopiedRecords recordsIn(const QByteArray& bytes) {
+    QMap<QByteArray, QByteArray> map;
+    QDataStream stream(bytes);
+    stream >> map;
+    host::CopiedRecords records;
+    if (stream.status() != QDataStream::Ok) return records;
+    for (auto entry = map.begin(); entry != map.end(); ++entry)
+        records[entry.key().toStdString()] = entry.value().toStdString();
+    return records;
+}
+
 Copied copied() {
     const auto* const data = QApplication::clipboard()->mimeData();
     if (!data) return {};
-    return {data->data(kControls).toStdString(), data->data(kForm).toStdString()};
+    return {data->data(kControls).toStdString(), data->data(kForm).toStdString(), recordsIn(data->data(kRecords))};
 }
 
-Copied selectedIn(const FormView& view) { return {host::textOfControls(view.selection()), identityOf(view)}; }
+Copied selectedIn(const FormView& view) {
+    return {host::textOfControls(view.selection()), identityOf(view),
+            host::recordsOfControls(view.component()->Designer(), view.selection())};
+}
 
 bool wantsArray(FormView& view, const std::string& name) {
     const auto question = QString(kArrayQuestion).arg(qt(name));
@@ -80,6 +110,7 @@ void insert(FormView& view, const Control& container, const Copied& copied) {
     const auto component = view.component();
     host::InsertOptions options;
     options.keepsResources = copied.form == identityOf(view);
+    options.records = copied.records;
     for (const auto& name : host::namesInUse(component->Designer(), copied.text))
         if (wantsArray(view, name)) options.arrays.push_back(name);
     if (!here) return; // closed under the question
@@ -113,6 +144,7 @@ void copyControls(const FormView& view) {
     data->setText(qt(selected.text));
     data->setData(kControls, QByteArray::fromStdString(selected.text));
     data->setData(kForm, QByteArray::fromStdString(selected.form));
+    data->setData(kRecords, bytesOf(selected.records));
     QApplication::clipboard()->setMimeData(data);
 }
 

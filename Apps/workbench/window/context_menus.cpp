@@ -23,9 +23,9 @@ const std::vector<int> kOfEditor{kCutId,     kCopyId,    kPasteId,      kGroup, 
                                  kReplaceId, kGroup,     kDefinitionId, kLastPositionId, kGroup,
                                  kIndentId,  kOutdentId, kCommentId,    kUncommentId};
 
-const std::vector<int> kOfDesigner{kViewCodeId, kGroup,      kCutId,          kCopyId,    kPasteId,
-                                   kDeleteId,   kGroup,      kAlignToGridId,  kToFrontId, kToBackId,
-                                   kGroup,      kTabOrderId, kLockControlsId, kGroup,     kPropertiesId};
+const std::vector<int> kOfDesigner{kViewCodeId,     kGroup,         kCutId,     kCopyId,      kPasteId, kDeleteId,
+                                   kGroup,          kAlignToGridId, kToFrontId, kToBackId,    kGroup,   kTabOrderId,
+                                   kLockControlsId, kMenuEditorId,  kGroup,     kPropertiesId};
 
 const std::vector<int>& commandsFor(const ProjectExplorer& explorer) {
     if (const auto component = explorer.currentComponent())

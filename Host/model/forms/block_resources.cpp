@@ -105,6 +105,32 @@ void setList(DesignerState& state, FormBlock& block, const std::string& property
     if (!ofNumbers) write(state, block, kList, texts);
 }
 
+std::string recordOf(const DesignerState& state, const FormBlock& block, std::string_view property,
+                     const ResourceReference& reference) {
+    const auto file = state.hooks.resources ? state.hooks.resources(reference.file) : nullptr;
+    if (!file) return {};
+    const auto at = reference.offset;
+    const auto texts = [](const std::vector<std::string_view>& items) {
+        return std::vector<std::string>(items.begin(), items.end());
+    };
+    if (reference.isString) {
+        const auto string = file->string(at);
+        return string ? stringRecord(string.value) : "";
+    }
+    if (isList(std::string(property))) {
+        const auto items = file->list(at);
+        if (!items) return {};
+        return isItemData(std::string(property)) ? itemDataRecord(texts(items.value)) : listRecord(texts(items.value));
+    }
+    if (const auto picture = file->picture(at)) return pictureRecord(picture.value, !isBuiltInControl(block));
+    if (isMultiLine(block)) {
+        const auto text = file->text(at);
+        return text ? textRecord(text.value) : "";
+    }
+    const auto binary = file->binary(at);
+    return binary ? stringRecord(binary.value) : ""; // the same layout
+}
+
 bool isList(const std::string& property) { return isItemData(property) || basic::equalNoCase(property, kList); }
 
 } // namespace host

@@ -1,10 +1,12 @@
 #pragma once
 // The values of properties that are records of the form's resource file.
 #include "Add-in/platform/variant.h"
+#include "Host/files/property_value.h"
 #include "Host/model/forms/designer_state.h"
 #include "Host/model/forms/property_text.h"
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace host {
@@ -26,6 +28,11 @@ void setList(DesignerState& state, FormBlock& block, const std::string& property
              const std::vector<std::string>& items);
 /// The items of List or ItemData.
 std::vector<std::string> listOf(const DesignerState& state, const FormBlock& block, const std::string& property);
+
+/// The record that a property refers to, as bytes to append to another form's file; "" if there is none or its layout is
+/// not known.
+std::string recordOf(const DesignerState& state, const FormBlock& block, std::string_view property,
+                     const ResourceReference& reference);
 
 /// True for List and ItemData.
 bool isList(const std::string& property);

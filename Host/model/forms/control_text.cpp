@@ -4,6 +4,7 @@
 #include "Host/files/property_value.h"
 #include "Host/model/code/names.h"
 #include "Host/model/errors/host_errors.h"
+#include "Host/model/forms/block_resources.h"
 #include "Host/model/forms/control_names.h"
 #include "Host/model/forms/form_controls.h"
 #include <algorithm>
@@ -55,12 +56,30 @@ std::vector<Block> withInner(const std::vector<Block>& blocks) {
     return all;
 }
 
-void removeResources(FormBlock& block) {
-    std::vector<std::string> keys;
+struct ResourceProperty {
+    std::string key, literal;
+    ResourceReference reference;
+};
+
+std::vector<ResourceProperty> resourcesOf(const FormBlock& block) {
+    std::vector<ResourceProperty> found;
     block.eachProperty([&](std::string_view key, std::string_view literal) {
-        if (parsePropertyValue(literal).kind == PropertyValue::Kind::Resource) keys.emplace_back(key);
+        const auto value = parsePropertyValue(literal);
+        if (value.kind == PropertyValue::Kind::Resource)
+            found.push_back({std::string(key), std::string(literal), value.resource});
     });
-    for (const auto& key : keys) block.remove(key);
+    return found;
+}
+
+/// Gives a block records of its own.
+void takeRecords(DesignerState& state, FormBlock& block, const CopiedRecords& records) {
+    for (const auto& [key, literal, reference] : resourcesOf(block)) {
+        const auto found = records.find(literal);
+        if (found == records.end() || !state.hooks.addResource)
+            block.remove(key);
+        else
+            block.set(key, state.addResource(found->second, reference.isString));
+    }
 }
 
 /// The controls of a text that are to be added to a form.
@@ -71,9 +90,11 @@ std::vector<Block> prepared(DesignerState& state, std::vector<Block> top, const 
     for (const auto& block : all) {
         names.give(*block);
         if (block->literal("TabIndex")) block->set("TabIndex", integerLiteral(tabIndex++));
-        if (options.keepsResources) continue;
-        removeResources(*block);
-        block->eachBlockWithin([](const Block& inner) { removeResources(*inner); });
+    }
+    if (options.keepsResources) return top;
+    for (const auto& block : top) {
+        takeRecords(state, *block, options.records);
+        block->eachBlockWithin([&](const Block& inner) { takeRecords(state, *inner, options.records); });
     }
     return top;
 }
@@ -113,6 +134,23 @@ std::string textOfControls(const Controls& controls) {
         text += indented(lines, {});
     }
     return text;
+}
+
+CopiedRecords recordsOfControls(const basic::Ref<vbide::VBForm>& form, const Controls& controls) {
+    const auto state = stateOf(form);
+    CopiedRecords records;
+    const auto add = [&](const FormBlock& block) {
+        for (const auto& [key, literal, reference] : resourcesOf(block))
+            if (auto record = recordOf(*state, block, key, reference); !record.empty())
+                records[literal] = std::move(record);
+    };
+    for (const auto& control : controls) {
+        const auto model = basic::cast<ControlModel>(control);
+        if (!model) continue;
+        add(*model->block());
+        model->block()->eachBlockWithin([&](const Block& inner) { add(*inner); });
+    }
+    return records;
 }
 
 std::vector<std::string> namesInUse(const basic::Ref<vbide::VBForm>& form, const std::string& text) {
