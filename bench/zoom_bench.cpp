@@ -59,7 +59,6 @@ class ZoomBench {
 public:
     explicit ZoomBench(int controls) {
         bench_.connect();
-        bench_.addIn().prefs.SetStartTutorial(false);
         bench_.open(test::SampleProject("Zoomed")
                         .member("Form=frmMain.frm", "frmMain.frm", formOf(controls))
                         .handheld("PalmOS-DragonBall")
@@ -165,7 +164,9 @@ private:
 
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_LOGGING_RULES", "qt.qpa.*=false");
     const test::OwnHome home;
+    test::leaveOutIntroduction();
     QApplication app(argc, argv);
     QApplication::setOrganizationName("fernwick");
     QApplication::setApplicationName("zoom-bench");
