@@ -1,0 +1,26 @@
+#include "Components/Language/library.h"
+#include "Components/Language/reader/library_reader.h"
+#include "Components/Language/tables/tables.h"
+#include <initializer_list>
+
+namespace language {
+namespace {
+
+Library read(std::initializer_list<std::string_view> tables) {
+    LibraryReader reader;
+    for (const auto table : tables) reader.read(table);
+    return std::move(reader).take();
+}
+
+} // namespace
+
+Library readLibrary(std::string_view text) { return read({text}); }
+
+const Library& languageLibrary() {
+    static const auto library =
+        read({kStringsTable, kConversionTable, kDateTable, kMathTable, kFinancialTable, kInformationTable,
+              kInteractionTable, kFilesTable, kHiddenTable, kConstantsTable, kEnumsTable, kCollectionTable});
+    return library;
+}
+
+} // namespace language

@@ -1,0 +1,10 @@
+#pragma once
+// The descriptions of the libraries that every program has, one text a subject. ../README.md explains the notation.
+#include <string_view>
+
+namespace language {
+
+extern const std::string_view kStringsTable, kConversionTable, kDateTable, kMathTable, kFinancialTable,
+    kInformationTable, kInteractionTable, kFilesTable, kHiddenTable, kConstantsTable, kEnumsTable, kCollectionTable;
+
+} // namespace language
