@@ -24,6 +24,13 @@ TEST(Messages, EveryRowIsComplete) {
     }
 }
 
+TEST(Messages, OnlyWarningsAreOptional) {
+    for (const auto& row : allMessages())
+        EXPECT_TRUE(!row.isOptional || row.severity == qltoolkit::Severity::Warning) << row.text;
+    EXPECT_TRUE(qltoolkit::messageInfo(Message::ImplicitVariable).isOptional);
+    EXPECT_FALSE(qltoolkit::messageInfo(Message::UnknownLibraryName).isOptional);
+}
+
 TEST(Messages, TheDetailReplacesThePlaceholder) {
     EXPECT_EQ(messageText(Message::ThenExpected, "end of line"), "Expected: Then, found: end of line.");
     EXPECT_EQ(messageText(Message::DateInvalid, "ignored").find("ignored"), std::string::npos);

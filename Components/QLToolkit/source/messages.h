@@ -1,6 +1,6 @@
 #pragma once
 // All messages of the compiler in one table. Numbers are stable, texts may be improved.
-// To add a message: a name and number here, a row in messages.cpp, and a test that triggers it.
+// To add a message: a name and number here, a row in message_table.cpp, and a test that triggers it.
 #include <cstdint>
 #include <span>
 #include <string>
@@ -11,8 +11,9 @@ namespace qltoolkit {
 enum class Severity : std::uint8_t { Warning, Error };
 
 /// Numbers by subject. 1000: files, 1100: characters, 1200: conditional compilation, 1300: declarations,
-/// 1500: statements, 1800: expressions, 1900: whole projects. 2000 to 2998 are reserved for names, types and code
-/// generation. Numbers from 2999 do not belong to the compiler.
+/// 1500: statements, 1800: expressions, 1900: whole projects, 2000: names, 2100: types and values, 2200: arguments,
+/// 2300: properties, 2400: jumps, 2500: classes, 2600: arrays, 2800: forms and devices, 2900: doubtful code. 2700 is
+/// reserved for code generation. Numbers from 2999 do not belong to the compiler.
 enum class Message : std::uint16_t {
     FileMissing = 1000,
     FileUnreadable = 1001,
@@ -128,6 +129,90 @@ enum class Message : std::uint16_t {
     StartupMissing = 1901,
     LibraryMissing = 1902,
     ImageNotWritten = 1903,
+
+    VariableNotDefined = 2000,
+    ProcedureNotDefined = 2001,
+    MemberNotFound = 2002,
+    TypeNotDefined = 2003,
+    AmbiguousName = 2004,
+    DuplicateDeclaration = 2005,
+    LabelNotDefined = 2006,
+    DuplicateLabel = 2007,
+    ExpectedNotModule = 2008,
+    InvalidMe = 2009,
+    UnqualifiedReference = 2010,
+    ExpectedTypeNotProject = 2011,
+    VariableRequired = 2012,
+    ExpectedProcedure = 2013,
+
+    TypeMismatch = 2100,
+    ByRefMismatch = 2101,
+    ConstantRequired = 2102,
+    ConstantOverflow = 2103,
+    ConstantDivisionByZero = 2104,
+    ObjectRequired = 2105,
+    ExpectedArray = 2106,
+    AssignToArray = 2107,
+    AssignToConstant = 2108,
+    ExpectedFunction = 2109,
+    InvalidUseOfProperty = 2110,
+    InvalidUseOfObject = 2111,
+    InvalidQualifier = 2112,
+    RecordToVariant = 2113,
+    ForEachVariable = 2114,
+    ForVariableInUse = 2115,
+    ForEachRecords = 2116,
+    CallResultNotAssignable = 2117,
+    TypeCharacterMismatch = 2118,
+    ForEachOperand = 2119,
+
+    ArgumentMissing = 2200,
+    ArgumentCount = 2201,
+    NamedArgumentUnknown = 2202,
+    NamedArgumentTwice = 2203,
+    DimensionCount = 2204,
+    InvalidAddressOf = 2205,
+    NamedWithParamArray = 2206,
+
+    PropertyInconsistent = 2300,
+    ReadOnlyProperty = 2301,
+    WriteOnlyProperty = 2302,
+
+    ExitDoOutside = 2400,
+    ExitForOutside = 2401,
+    ExitWrongProcedure = 2402,
+
+    InterfaceMemberMissing = 2500,
+    EventNotFound = 2501,
+    HandlerMismatch = 2502,
+    NoEvents = 2503,
+    CircularReference = 2504,
+    BadInterface = 2505,
+    PrivateTypeExposed = 2506,
+    InvalidNew = 2507,
+    PublicMemberNotAllowed = 2508,
+
+    AlreadyDimensioned = 2600,
+    BoundsNotAllowed = 2601,
+    EmptyRange = 2602,
+    TooManyDimensions = 2603,
+    StaticDataTooLarge = 2604,
+
+    ControlClassUnknown = 2800,
+    PropertyUnknown = 2801,
+    HandlerOfUnknownEvent = 2802,
+    NotOnDevices = 2803,
+
+    ImplicitVariable = 2900,
+    UnusedVariable = 2901,
+    ResultNeverSet = 2902,
+    OnlyLastTyped = 2903,
+    ArgumentInParentheses = 2904,
+    UnknownLibraryName = 2905,
+    Unreachable = 2906,
+    ProductOverflows = 2907,
+    ComparisonWithNull = 2908,
+    ConstantFails = 2909,
 };
 
 /// One row of the table. A text has at most one placeholder in braces, such as "{found}".
@@ -138,6 +223,8 @@ struct MessageInfo {
     std::string_view meaning;
     std::string_view example;
     std::string_view remedy;
+    /// A warning that is reported only on request.
+    bool isOptional = false;
 };
 
 /// Returns all rows by ascending number.
