@@ -1,5 +1,8 @@
 #include "Components/QLToolkit/check.h"
+#include "Components/QLToolkit/parser/form_header.h"
+#include <algorithm>
 #include <filesystem>
+#include <tuple>
 
 namespace qltoolkit {
 
@@ -7,6 +10,16 @@ namespace {
 
 CheckResult failedCheck(Message message, const std::string& path, std::string_view detail = {}) {
     return {{fileDiagnostic(message, path, detail)}, 1, 0};
+}
+
+void addMessages(CheckResult& result, std::vector<Diagnostic> messages) {
+    for (auto& diagnostic : messages) {
+        result.errors += diagnostic.severity == Severity::Error;
+        result.diagnostics.push_back(std::move(diagnostic));
+    }
+    std::stable_sort(
+        result.diagnostics.begin(), result.diagnostics.end(),
+        [](const Diagnostic& a, const Diagnostic& b) { return std::tie(a.line, a.column) < std::tie(b.line, b.column); });
 }
 
 } // namespace
@@ -18,6 +31,27 @@ CheckResult checkSource(std::string name, std::string bytes, const ConditionalCo
     SymbolTable symbols;
     auto parsed = parseModule(source, symbols, constants);
     return {std::move(parsed.diagnostics), parsed.errors, source.lineCount()};
+}
+
+std::vector<CheckResult> checkProject(const std::vector<const SourceText*>& sources,
+                                      const ConditionalConstants& constants, const ProgramOptions& options) {
+    SymbolTable symbols;
+    std::vector<CheckResult> results;
+    std::vector<std::unique_ptr<Module>> trees;
+    std::vector<ParsedModule> modules;
+    bool isRight = true;
+    for (const auto* source : sources) {
+        auto parsed = parseModule(*source, symbols, constants);
+        isRight &= parsed.module && parsed.errors == 0;
+        results.push_back({std::move(parsed.diagnostics), parsed.errors, source->lineCount()});
+        trees.push_back(std::move(parsed.module));
+        modules.push_back({trees.back().get(),
+                           source->kind() == FileKind::Form ? readFormHeader(*source) : std::nullopt});
+    }
+    if (!isRight) return results;
+    auto messages = checkProgram(modules, symbols, options);
+    for (std::size_t i = 0; i < results.size(); ++i) addMessages(results[i], std::move(messages[i]));
+    return results;
 }
 
 CheckResult failedRead(const std::string& path, std::string_view reason) {

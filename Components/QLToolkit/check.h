@@ -1,5 +1,6 @@
 #pragma once
-// Checks one file and discards its tree.
+// Checks files and discards their trees.
+#include "Components/QLToolkit/names/check_program.h"
 #include "Components/QLToolkit/parser/parse.h"
 #include <string>
 #include <string_view>
@@ -16,6 +17,12 @@ struct CheckResult {
 /// Checks a file that is in memory. The extension of `name` determines the kind of file.
 [[nodiscard]] CheckResult checkSource(std::string name, std::string bytes, const ConditionalConstants& constants = {},
                                       const basic::CodePage& = basic::CodePage::windows1252());
+
+/// Checks the files of a project together: the syntax of each and, if all is right, names and types. The results are in
+/// the order of the files.
+[[nodiscard]] std::vector<CheckResult> checkProject(const std::vector<const SourceText*>& sources,
+                                                    const ConditionalConstants& constants,
+                                                    const ProgramOptions& options);
 
 /// The result for a file that could not be read for this reason.
 [[nodiscard]] CheckResult failedRead(const std::string& path, std::string_view reason);

@@ -3,6 +3,7 @@
 #include "Basic/text_search.h"
 #include "Components/QLToolkit/module_image.h"
 #include "Components/QLToolkit/parser/form_header.h"
+#include <algorithm>
 #include <set>
 
 namespace qltoolkit {
@@ -22,6 +23,10 @@ ConditionalConstants conditionalConstants(const std::vector<std::pair<std::strin
 std::optional<std::string> stringLiteral(const std::string& literal) {
     if (literal.size() < 2 || literal.front() != '"' || literal.back() != '"') return std::nullopt;
     return basic::Replace(literal.substr(1, literal.size() - 2), "\"\"", "\"");
+}
+
+std::optional<image::Control> formOf(const SourceText& source) {
+    return source.kind() == FileKind::Form ? readFormHeader(source) : std::nullopt;
 }
 
 bool usesLibrary(const image::Control& control, const std::string& prefix) {
@@ -50,10 +55,12 @@ bool ProjectCompiler::compile() {
     image.constants.assign(input_.constants.begin(), input_.constants.end());
 
     SymbolTable symbols;
-    compileSources(image, symbols);
+    auto sources = parseSources(symbols);
     const auto libraries = findLibraries();
     for (const auto& library : libraries) image.libraries.push_back(services_.files.GetFileName(library.path));
-    checkNames(image);
+    if (errors_ == 0) checkNames(sources, symbols, libraries);
+    for (auto& source : sources) addModule(image, source, symbols);
+    checkModules(image);
     if (errors_ > 0) return false;
 
     reportDependencies(image, libraries);
@@ -62,37 +69,62 @@ bool ProjectCompiler::compile() {
     return true;
 }
 
-void ProjectCompiler::compileSources(image::Image& image, SymbolTable& symbols) {
-    std::vector<std::string> sources;
+std::vector<ProjectCompiler::Source> ProjectCompiler::parseSources(SymbolTable& symbols) {
+    std::vector<std::string> paths;
     for (const auto& file : input_.files)
-        if (file.kind == SourceFile) sources.push_back(file.path);
-    for (std::size_t i = 0; i < sources.size(); ++i) {
-        BuildStatus.raise("Compiling " + services_.files.GetFileName(sources[i]));
-        compileSource(sources[i], image, symbols);
-        BuildStatus.raise(std::to_string((i + 1) * kPercentOfSources / sources.size()) + "% completed");
+        if (file.kind == SourceFile) paths.push_back(file.path);
+    std::vector<Source> sources;
+    for (std::size_t i = 0; i < paths.size(); ++i) {
+        BuildStatus.raise("Compiling " + services_.files.GetFileName(paths[i]));
+        if (auto source = parseSource(paths[i], symbols)) sources.push_back(std::move(*source));
+        BuildStatus.raise(std::to_string((i + 1) * kPercentOfSources / paths.size()) + "% completed");
     }
+    return sources;
 }
 
-void ProjectCompiler::compileSource(const std::string& path, image::Image& image, SymbolTable& symbols) {
+std::optional<ProjectCompiler::Source> ProjectCompiler::parseSource(const std::string& path, SymbolTable& symbols) {
     std::string bytes;
     const auto err = basic::attempt([&] { bytes = services_.files.ReadBytes(path); });
     if (err.Number != 0) {
         const auto message = err.Number == basic::kFileNotFound ? Message::FileMissing : Message::FileUnreadable;
-        return report(fileDiagnostic(message, path, err.Description));
+        report(fileDiagnostic(message, path, err.Description));
+        return std::nullopt;
     }
     services_.record->inputs.push_back(path);
     const auto page = services_.codePageOf ? services_.codePageOf(path) : basic::CodePage::windows1252();
-    const SourceText source{path, std::move(bytes), page};
-    const auto parsed = parseModule(source, symbols, conditionalConstants(input_.constants));
-    services_.record->lines += source.lineCount();
-    for (const auto& diagnostic : parsed.diagnostics) report(diagnostic);
-    if (!parsed.module || parsed.errors > 0) return;
-    image.modules.push_back(imageOf(*parsed.module, symbols));
-    if (source.kind() != FileKind::Form) return;
-    if (auto form = readFormHeader(source)) image.forms.push_back(std::move(*form));
+    Source source{std::make_unique<SourceText>(path, std::move(bytes), page), {}, {}};
+    source.parsed = parseModule(*source.text, symbols, conditionalConstants(input_.constants));
+    services_.record->lines += source.text->lineCount();
+    for (const auto& diagnostic : source.parsed.diagnostics) report(diagnostic);
+    if (!source.parsed.module || source.parsed.errors > 0) return std::nullopt;
+    source.form = formOf(*source.text);
+    return source;
 }
 
-void ProjectCompiler::checkNames(const image::Image& image) {
+void ProjectCompiler::addModule(image::Image& image, Source& source, const SymbolTable& symbols) {
+    image.modules.push_back(imageOf(*source.parsed.module, symbols));
+    if (source.form) image.forms.push_back(std::move(*source.form));
+}
+
+void ProjectCompiler::checkNames(const std::vector<Source>& sources, SymbolTable& symbols,
+                                 const std::vector<Library>& libraries) {
+    std::vector<ParsedModule> modules;
+    for (const auto& source : sources) modules.push_back({source.parsed.module.get(), source.form});
+    ProgramOptions options;
+    options.projectName = services_.files.GetFileName(input_.outputPath);
+    std::vector<std::shared_ptr<const language::Library>> described;
+    for (const auto& library : libraries)
+        if (services_.libraryOf) described.push_back(services_.libraryOf(library.path));
+    for (const auto& library : described)
+        if (library) options.libraries.push_back(library.get());
+    const auto named = std::count_if(input_.files.begin(), input_.files.end(),
+                                     [](const BuildFile& file) { return file.kind != SourceFile; });
+    options.isIncomplete = options.libraries.size() < static_cast<std::size_t>(named);
+    for (const auto& messages : checkProgram(modules, symbols, options))
+        for (const auto& diagnostic : messages) report(diagnostic);
+}
+
+void ProjectCompiler::checkModules(const image::Image& image) {
     std::set<std::string> names;
     bool startFound = input_.startup.empty();
     const bool startsWithMain = input_.startup == "Sub Main";

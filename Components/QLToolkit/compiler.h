@@ -4,6 +4,7 @@
 #include "Add-in/platform/compiler.h"
 #include "Add-in/platform/files.h"
 #include "Components/Image/image.h"
+#include "Components/QLToolkit/names/check_program.h"
 #include "Components/QLToolkit/parser/parse.h"
 #include <functional>
 #include <memory>
@@ -34,6 +35,8 @@ struct CompilerServices {
     std::shared_ptr<BuildRecord> record = std::make_shared<BuildRecord>();
     /// The code page of a source file, by its path. Without it sources are Windows-1252 or UTF-8.
     std::function<basic::CodePage(const std::string& path)> codePageOf = {};
+    /// The contents of a library, by its path; null for one that is not described.
+    std::function<std::shared_ptr<const language::Library>(const std::string& path)> libraryOf = {};
 };
 
 class ProjectCompiler : public Compiler {
@@ -69,11 +72,19 @@ private:
         std::string path, name, guid;
         int kind;
     };
+    /// A source file and its tree, which refers to the text.
+    struct Source {
+        std::unique_ptr<SourceText> text;
+        ParseResult parsed;
+        std::optional<image::Control> form;
+    };
 
     bool compile();
-    void compileSources(image::Image& image, SymbolTable& symbols);
-    void compileSource(const std::string& path, image::Image& image, SymbolTable& symbols);
-    void checkNames(const image::Image& image);
+    std::vector<Source> parseSources(SymbolTable& symbols);
+    std::optional<Source> parseSource(const std::string& path, SymbolTable& symbols);
+    void addModule(image::Image& image, Source& source, const SymbolTable& symbols);
+    void checkModules(const image::Image& image);
+    void checkNames(const std::vector<Source>& sources, SymbolTable& symbols, const std::vector<Library>& libraries);
     std::vector<Library> findLibraries();
     std::optional<Library> findLibrary(const BuildFile& file);
     void reportDependencies(const image::Image& image, const std::vector<Library>& libraries);

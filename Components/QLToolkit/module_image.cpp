@@ -1,4 +1,5 @@
 #include "Components/QLToolkit/module_image.h"
+#include "Components/QLToolkit/names/module_name.h"
 #include "Components/QLToolkit/parser/ast_walk.h"
 #include <unordered_set>
 
@@ -86,18 +87,6 @@ std::vector<std::string> stringsOf(const Module& module) {
 }
 
 } // namespace
-
-std::string moduleName(const Module& module, const SymbolTable& symbols) {
-    for (const auto* decl = module.declarations; decl; decl = decl->next) {
-        if (decl->kind != DeclKind::Attribute) continue;
-        const auto& attribute = as<AttributeDecl>(*decl);
-        if (!attribute.path.empty() || attribute.values.empty() || symbols.spelling(attribute.name) != "VB_Name")
-            continue;
-        const Expr* value = attribute.values[0];
-        if (value && value->kind == ExprKind::String) return stringValue(module.source, as<StringExpr>(*value));
-    }
-    return {};
-}
 
 image::Module imageOf(const Module& module, const SymbolTable& symbols) {
     image::Module image;

@@ -26,6 +26,9 @@ public:
         return {e.spelling, e.spellingLength};
     }
 
+    /// Symbols are less than this.
+    [[nodiscard]] std::size_t count() const { return entries_.size(); }
+
 private:
     struct Entry {
         std::uint64_t firstWord; // the first 8 folded bytes, which distinguish most names

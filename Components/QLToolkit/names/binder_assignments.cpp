@@ -1,0 +1,93 @@
+// Let, Set and what else changes a variable.
+#include "Components/QLToolkit/names/binder.h"
+#include "Components/QLToolkit/types/coercions.h"
+
+namespace qltoolkit {
+
+void Binder::let(const AssignStmt& stmt) {
+    const Operand value = expression(*stmt.value);
+    const Operand target = expression(*stmt.target, Use::Let);
+    if (mayAssign(target)) assign(target, value, stmt.value->pos);
+}
+
+/// Reports a target that can never be assigned to.
+bool Binder::mayAssign(const Operand& target) {
+    switch (target.kind) {
+    case OperandKind::Variable:
+    case OperandKind::Property:
+    case OperandKind::Late: return true;
+    case OperandKind::Constant: reportName(Message::AssignToConstant, target.pos); return false;
+    case OperandKind::Qualifier: report(Message::ExpectedNotModule, target.pos); return false;
+    case OperandKind::Value: break;
+    }
+    if (target.type.value == ValueType::None || target.type.value == ValueType::Unknown) return false;
+    // An object that a function returns may have a default property.
+    if (target.entity && isIndexable(target.type) && !target.type.isArray) return true;
+    report(target.entity ? Message::CallResultNotAssignable : Message::VariableRequired, target.pos);
+    return false;
+}
+
+void Binder::assign(const Operand& target, const Operand& value, Pos pos) {
+    if (target.type.value == ValueType::Unknown || value.type.value == ValueType::Unknown) return;
+    if (target.type.isArray) return assignArray(target, value, pos);
+    if (target.type.value == ValueType::Object) {
+        // Without Set the value goes to the default property of the object.
+        if (value.type.value == ValueType::Nothing) report(Message::InvalidUseOfObject, pos);
+        if (target.type.id == 0) return;
+        const Scope& scope = program_.scope(target.type.id);
+        if (!scope.findDefault() && !scope.isOpen()) report(Message::InvalidUseOfProperty, target.pos);
+        return;
+    }
+    if (value.type.value == ValueType::Nothing) return report(Message::InvalidUseOfObject, pos);
+    if (target.kind == OperandKind::Late && value.type.value == ValueType::Record) return;
+    if (!fitsTo(value, target.type)) report(Message::TypeMismatch, pos);
+}
+
+void Binder::assignArray(const Operand& target, const Operand& value, Pos pos) {
+    if (target.entity && target.entity->isStaticArray) return reportName(Message::AssignToArray, target.pos);
+    if (target.entity && target.entity->kind == EntityKind::Control)
+        return reportName(Message::AssignToArray, target.pos);
+    const bool isSame = value.type.isArray && value.type.value == target.type.value &&
+                        (value.type.value != ValueType::Record || value.type.id == target.type.id);
+    // Bytes take a text; a Variant may hold an array.
+    const bool isBytes = target.type.value == ValueType::Byte && !value.type.isArray &&
+                         (value.type.value == ValueType::String || value.type.value == ValueType::FixedString);
+    if (!isSame && !isBytes && (value.type.isArray || value.type.value != ValueType::Variant))
+        report(Message::TypeMismatch, pos);
+}
+
+void Binder::set(const AssignStmt& stmt) {
+    const Operand value = expression(*stmt.value);
+    const Operand target = expression(*stmt.target, Use::Set);
+    if (mayAssign(target)) setObject(target, value, stmt.value->pos);
+}
+
+void Binder::setObject(const Operand& target, const Operand& value, Pos pos) {
+    const auto isObject = [](const Type& type, bool isTarget) {
+        if (type.isArray) return false;
+        return type.value == ValueType::Object || type.value == ValueType::Variant ||
+               type.value == ValueType::Unknown || (!isTarget && type.value == ValueType::Nothing);
+    };
+    if (!isObject(target.type, true)) return report(Message::ObjectRequired, target.pos);
+    if (!isObject(value.type, false)) return report(Message::ObjectRequired, pos);
+    if (target.type.value != ValueType::Object || value.type.value != ValueType::Object) return;
+    if (target.type.id == 0 || value.type.id == 0 || target.type.id == value.type.id) return;
+    // Two classes of the project without a common interface never fit.
+    const Scope& wanted = program_.scope(target.type.id);
+    const Scope& given = program_.scope(value.type.id);
+    const auto isPlainClass = [](const Scope& scope) {
+        return scope.source && scope.source->tree.source.kind() == FileKind::Class && scope.interfaces.empty();
+    };
+    if (isPlainClass(wanted) && isPlainClass(given)) report(Message::TypeMismatch, pos);
+}
+
+/// A variable that a statement fills: Get #, Input #, Line Input, LSet, Mid.
+void Binder::input(const Expr* target) {
+    if (!target) return;
+    const Operand operand = expression(*target, Use::Let);
+    if (operand.kind == OperandKind::Value && operand.type.value != ValueType::Unknown)
+        return report(Message::VariableRequired, operand.pos);
+    (void)mayAssign(operand);
+}
+
+} // namespace qltoolkit

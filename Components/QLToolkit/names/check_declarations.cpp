@@ -1,0 +1,175 @@
+// What concerns whole declarations: interfaces, handlers of events, properties, records, public members of classes.
+#include "Components/QLToolkit/names/lookup.h"
+#include "Components/QLToolkit/names/resolve.h"
+#include "Components/QLToolkit/types/constant_value.h"
+
+namespace qltoolkit {
+
+namespace {
+
+bool sameType(const Type& a, const Type& b) {
+    if (a.value == ValueType::Unknown || b.value == ValueType::Unknown) return true;
+    return a.value == b.value && a.isArray == b.isArray && (a.value != ValueType::Record || a.id == b.id);
+}
+
+bool sameParameters(const Span<ParameterInfo>& a, const Span<ParameterInfo>& b) {
+    if (a.size() != b.size()) return false;
+    for (std::uint32_t i = 0; i < a.size(); ++i)
+        if (!sameType(a[i].type, b[i].type)) return false;
+    return true;
+}
+
+class DeclarationChecks {
+public:
+    DeclarationChecks(Program& program, SourceModule& module)
+        : program_(program), module_(module), scope_(*module.scope) {}
+
+    void check() {
+        for (const auto& [entity, decl] : module_.records) record(*entity);
+        for (const auto& [entity, decl] : module_.variables)
+            if (entity->withEvents) eventSource(*entity, *decl);
+        scope_.names.forEach([&](Symbol, Entity& entity) {
+            if (entity.kind == EntityKind::Property && entity.owner == &scope_) property(entity);
+        });
+        for (const auto* interface : scope_.interfaces) implementation(*interface);
+        for (const auto& [entity, decl] : module_.callables)
+            if (entity->kind == EntityKind::Procedure && decl->kind == DeclKind::Procedure) handler(*entity);
+        if (scope_.isClass()) publicMembers();
+    }
+
+private:
+    // A record that contains itself has no size.
+    void record(const Entity& entity) {
+        std::vector<std::uint32_t> waiting{entity.type.id}, seen;
+        while (!waiting.empty()) {
+            const auto at = waiting.back();
+            waiting.pop_back();
+            bool isCircle = false;
+            program_.scope(at).names.forEach([&](Symbol, const Entity& field) {
+                if (field.type.value != ValueType::Record || (field.type.isArray && !field.isStaticArray)) return;
+                isCircle |= field.type.id == entity.type.id;
+                if (std::find(seen.begin(), seen.end(), field.type.id) != seen.end()) return;
+                seen.push_back(field.type.id);
+                waiting.push_back(field.type.id);
+            });
+            if (!isCircle) continue;
+            return module_.diagnostics.report(Message::CircularReference, entity.pos,
+                                              program_.symbols.spelling(entity.name));
+        }
+    }
+
+    void eventSource(const Entity& entity, const Variable& decl) {
+        if (entity.type.value == ValueType::Unknown) return;
+        const bool hasEvents = entity.type.value == ValueType::Object && entity.type.id != 0 &&
+                               (program_.scope(entity.type.id).events.size() > 0 ||
+                                program_.scope(entity.type.id).isOpen() || program_.scope(entity.type.id).base);
+        if (!hasEvents) module_.diagnostics.report(Message::NoEvents, decl.type ? decl.type->pos : decl.pos);
+    }
+
+    void property(const Entity& entity) {
+        const auto differs = [&](const Callable* assigning) {
+            if (!entity.get || !assigning) return false;
+            return !sameParameters(entity.get->parameters, assigning->parameters);
+        };
+        const bool letDiffers =
+            differs(entity.let) || (entity.get && entity.let && !sameType(entity.get->result, entity.let->result));
+        const bool setDiffers = differs(entity.set);
+        if (!letDiffers && !setDiffers) return;
+        const Callable& part = letDiffers ? *entity.let : *entity.set;
+        if (part.body)
+            module_.diagnostics.report(Message::PropertyInconsistent, part.body->signature.namePos,
+                                       nameAt(module_.tree.source, part.body->signature.namePos));
+    }
+
+    Entity* ownMember(std::string_view prefix, Symbol name) {
+        std::string joined{prefix};
+        joined += '_';
+        joined += program_.symbols.spelling(name);
+        return scope_.names.find(program_.symbols.intern(joined));
+    }
+
+    // Every public member of an interface needs a procedure here, a variable one for reading and one for writing.
+    void implementation(const Scope& interface) {
+        if (!interface.source) return;
+        const auto prefix = program_.symbols.spelling(interface.name);
+        std::vector<const Entity*> members;
+        interface.names.forEach([&](Symbol, const Entity& member) {
+            if (member.isPublic && member.owner == &interface && member.kind != EntityKind::Constant)
+                members.push_back(&member);
+        });
+        std::sort(members.begin(), members.end(), [](const Entity* a, const Entity* b) { return a->pos < b->pos; });
+        for (const auto* member : members) {
+            const Entity* own = ownMember(prefix, member->name);
+            if (!own || (own->kind != EntityKind::Procedure && own->kind != EntityKind::Property))
+                return missing(interface, *member);
+            const bool isWrong = member->kind == EntityKind::Procedure &&
+                                 (own->kind != EntityKind::Procedure || !sameType(own->type, member->type) ||
+                                  !sameParameters(own->get->parameters, member->get->parameters));
+            if (isWrong)
+                module_.diagnostics.report(Message::HandlerMismatch, own->pos,
+                                           nameAt(module_.tree.source, own->pos));
+        }
+    }
+
+    void missing(const Scope& interface, const Entity& member) {
+        Pos pos = 0;
+        for (const auto* decl = module_.tree.declarations; decl; decl = decl->next)
+            if (decl->kind == DeclKind::Implements && as<ImplementsDecl>(*decl).type->name == interface.name)
+                pos = as<ImplementsDecl>(*decl).type->pos;
+        module_.diagnostics.report(Message::InterfaceMemberMissing, pos, program_.symbols.spelling(member.name));
+    }
+
+    // object_Event: a handler must have the parameters of its event.
+    void handler(const Entity& entity) {
+        const auto spelling = program_.symbols.spelling(entity.name);
+        const auto underline = spelling.rfind('_');
+        if (underline == spelling.npos || underline == 0) return;
+        const Scope* source = sourceOf(spelling.substr(0, underline));
+        if (!source) return;
+        const Symbol name = program_.symbols.intern(spelling.substr(underline + 1));
+        const Entity* event = nullptr;
+        for (const Scope* at = source; at && !event; at = at->base) event = at->events.find(name);
+        if (!event) return;
+        const auto& given = entity.get->parameters;
+        const bool hasIndex = given.size() == event->get->parameters.size() + 1;
+        if (!hasIndex && !sameParameters(given, event->get->parameters))
+            module_.diagnostics.report(Message::HandlerMismatch, entity.pos,
+                                       nameAt(module_.tree.source, entity.pos));
+    }
+
+    /// The class whose events a prefix receives, or null.
+    const Scope* sourceOf(std::string_view prefix) {
+        const Entity* object = scope_.names.find(program_.symbols.intern(prefix));
+        if (!object || object->type.value != ValueType::Object || object->type.id == 0) return nullptr;
+        const bool receives = object->kind == EntityKind::Control || object->withEvents;
+        return receives ? &program_.scope(object->type.id) : nullptr;
+    }
+
+    // Classes have no public constants, arrays, texts of a fixed length or Declares.
+    void publicMembers() {
+        for (const auto& [entity, decl] : module_.constants)
+            if (entity->isPublic && !entity->type.isEnum) refuse(entity->pos);
+        for (const auto& [entity, decl] : module_.variables)
+            if (entity->isPublic && (decl->isArray || entity->type.value == ValueType::FixedString))
+                refuse(entity->pos);
+        for (const auto& [entity, decl] : module_.callables)
+            if (entity->isPublic && decl->kind == DeclKind::Declare && decl->visibility != Visibility::Private)
+                refuse(entity->pos);
+    }
+
+    void refuse(Pos pos) {
+        module_.diagnostics.report(Message::PublicMemberNotAllowed, pos, nameAt(module_.tree.source, pos));
+    }
+
+    Program& program_;
+    SourceModule& module_;
+    Scope& scope_;
+};
+
+} // namespace
+
+void checkDeclarations(Program& program, SourceModule& module) {
+    DeclarationChecks{program, module}.check();
+}
+
+} // namespace qltoolkit

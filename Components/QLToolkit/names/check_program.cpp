@@ -1,0 +1,94 @@
+#include "Components/QLToolkit/names/check_program.h"
+#include "Components/QLToolkit/names/binder.h"
+#include "Components/QLToolkit/names/declare.h"
+#include "Components/QLToolkit/names/form_controls.h"
+#include "Components/QLToolkit/names/library_scopes.h"
+#include "Components/QLToolkit/names/lookup.h"
+#include "Components/QLToolkit/names/module_name.h"
+#include "Components/QLToolkit/names/resolve.h"
+#include <atomic>
+#include <set>
+#include <thread>
+
+namespace qltoolkit {
+
+namespace {
+
+using UnknownNames = std::vector<std::pair<Symbol, Pos>>;
+
+/// A module without a name of its own has that of its file.
+Symbol nameOf(const Module& tree, SymbolTable& symbols) {
+    auto name = moduleName(tree, symbols);
+    if (name.empty()) {
+        name = tree.source.name().substr(tree.source.name().find_last_of("/\\") + 1);
+        name = name.substr(0, name.find_last_of('.'));
+    }
+    return symbols.intern(name);
+}
+
+/// Runs a pass over a module. A module with too many errors is left.
+template <class Pass>
+void within(const Pass& pass) {
+    try {
+        pass();
+    } catch (const TooManyErrors&) {} // NOLINT(bugprone-empty-catch): the module has a message about it
+}
+
+void bindAll(Program& program, unsigned threads, std::vector<UnknownNames>& unknown) {
+    std::atomic<std::size_t> next{0};
+    const auto work = [&] {
+        ProcedureNames names;
+        for (std::size_t i; (i = next++) < program.modules.size();) {
+            Binder binder{program, program.modules[i], names};
+            within([&] { binder.bindModule(); });
+            unknown[i] = binder.unknownNames();
+        }
+    };
+    std::vector<std::jthread> helpers;
+    for (unsigned i = 1; i < threads && i < program.modules.size(); ++i) helpers.emplace_back(work);
+    work();
+}
+
+/// A name that may be one of a missing library is mentioned once in a project.
+void reportUnknown(Program& program, const std::vector<UnknownNames>& unknown) {
+    std::set<Symbol> known;
+    for (std::size_t i = 0; i < unknown.size(); ++i)
+        for (const auto& [name, pos] : unknown[i])
+            if (known.insert(name).second)
+                within([&] {
+                    program.modules[i].diagnostics.report(Message::UnknownLibraryName, pos,
+                                                          nameAt(program.modules[i].tree.source, pos));
+                });
+}
+
+} // namespace
+
+std::vector<std::vector<Diagnostic>> checkProgram(const std::vector<ParsedModule>& modules, SymbolTable& symbols,
+                                                  const ProgramOptions& options) {
+    Program program{symbols};
+    program.isIncomplete = options.isIncomplete;
+    program.warnsOptionally = options.warnsOptionally;
+    program.warnsOfDevices = options.warnsOfDevices;
+    auto libraries = options.libraries;
+    libraries.insert(libraries.begin(), {&language::languageLibrary(), &language::formsLibrary()});
+    addLibraries(program, libraries);
+
+    for (const auto& [tree, form] : modules) {
+        auto& module = program.modules.emplace_back(*tree, form);
+        within([&] { declareModule(program, module, nameOf(*tree, symbols)); });
+    }
+    declareProject(program, options.projectName);
+    Constants constants{program};
+    for (auto& module : program.modules) within([&] { declareControls(program, module); });
+    for (auto& module : program.modules) within([&] { resolveModule(program, module, constants); });
+    for (auto& module : program.modules) within([&] { checkDeclarations(program, module); });
+
+    std::vector<UnknownNames> unknown(program.modules.size());
+    bindAll(program, options.threads, unknown);
+    reportUnknown(program, unknown);
+    std::vector<std::vector<Diagnostic>> result;
+    for (auto& module : program.modules) result.push_back(module.diagnostics.takeSorted());
+    return result;
+}
+
+} // namespace qltoolkit

@@ -1,0 +1,30 @@
+#pragma once
+// Checks the names and types of a whole project.
+#include "Components/Language/library.h"
+#include "Components/QLToolkit/names/program.h"
+
+namespace qltoolkit {
+
+/// A module that was parsed without errors.
+struct ParsedModule {
+    const Module* tree;
+    std::optional<image::Control> form; ///< see readFormHeader
+};
+
+struct ProgramOptions {
+    std::string projectName;
+    /// In the order in which names are looked up. The libraries of the language and of forms need not be among them.
+    std::vector<const language::Library*> libraries;
+    /// Something that the project names is missing or damaged: names that are not found may be declared there.
+    bool isIncomplete = false;
+    bool warnsOptionally = false; ///< of what is allowed but seldom meant
+    bool warnsOfDevices = false;  ///< of what is not on devices
+    unsigned threads = 1;
+};
+
+/// Returns the messages for each module in the order of the modules, sorted by position. They are the same for any
+/// number of threads.
+[[nodiscard]] std::vector<std::vector<Diagnostic>> checkProgram(const std::vector<ParsedModule>& modules,
+                                                                SymbolTable& symbols, const ProgramOptions& options);
+
+} // namespace qltoolkit

@@ -1,0 +1,175 @@
+#include "Components/QLToolkit/names/constants.h"
+#include "Basic/error_numbers.h"
+#include "Components/QLToolkit/names/lookup.h"
+#include <limits>
+
+namespace qltoolkit {
+
+namespace {
+
+Message messageOfError(int error) {
+    switch (error) {
+    case basic::kOverflow: return Message::ConstantOverflow;
+    case basic::kDivisionByZero: return Message::ConstantDivisionByZero;
+    default: return Message::TypeMismatch;
+    }
+}
+
+/// Constants that refer to one another in a longer chain are refused as a circle would be.
+constexpr int kDeepestConstant = 500;
+
+ConstantValue nextValue(const ConstantState& state) {
+    if (!state.previous) return basic::Long{0};
+    const auto* before = std::get_if<basic::Long>(&state.previous->constant->value);
+    return before && *before < std::numeric_limits<basic::Long>::max() ? *before + 1 : basic::Long{0};
+}
+
+} // namespace
+
+std::optional<ConstantValue> Constants::valueOf(const Expr& expr, SourceModule& module, const LocalConstants& local) {
+    return value(expr, {module, local});
+}
+
+std::optional<basic::Long> Constants::longOf(const Expr& expr, SourceModule& module, const LocalConstants& local) {
+    const Context context{module, local};
+    const auto found = value(expr, context);
+    if (!found) return std::nullopt;
+    const auto number = checked(expr, convert(*found, ValueType::Long), context);
+    return number ? std::optional(std::get<basic::Long>(*number)) : std::nullopt;
+}
+
+std::uint32_t Constants::lengthOf(const Expr& expr, SourceModule& module, const LocalConstants& local) {
+    const auto length = longOf(expr, module, local);
+    return length && *length > 0 ? static_cast<std::uint32_t>(*length) : 0;
+}
+
+// The members of an enumeration follow one another in a loop, because there may be many.
+void Constants::evaluate(const Entity& constant, SourceModule& module, const LocalConstants& local) {
+    std::vector<const Entity*> waiting;
+    for (const Entity* at = &constant; at && at->constant->progress == ConstantState::Progress::Waiting;
+         at = at->constant->previous)
+        waiting.push_back(at);
+    if (constant.constant->progress == ConstantState::Progress::Running) return refuseCircle(constant, module);
+    for (; !waiting.empty(); waiting.pop_back()) evaluateOne(*waiting.back(), module, local);
+}
+
+void Constants::evaluateOne(const Entity& constant, SourceModule& module, const LocalConstants& local) {
+    ConstantState& state = *constant.constant;
+    if (state.progress != ConstantState::Progress::Waiting) return;
+    if (depth_ >= kDeepestConstant) return refuseCircle(constant, module);
+    state.progress = ConstantState::Progress::Running;
+    ++depth_;
+    const Context context{module, local};
+    std::optional<ConstantValue> found;
+    if (!state.expression)
+        found = nextValue(state);
+    else if ((found = value(*state.expression, context)) && state.declared.value != ValueType::Unknown)
+        found = checked(*state.expression, convert(*found, state.declared.value), context);
+    --depth_;
+    state.failed |= !found;
+    if (found) state.value = std::move(*found);
+    state.progress = ConstantState::Progress::Done;
+}
+
+void Constants::refuseCircle(const Entity& constant, SourceModule& module) {
+    if (!constant.constant->failed)
+        module.diagnostics.report(Message::CircularReference, constant.pos,
+                                  nameAt(module.tree.source, constant.pos));
+    constant.constant->failed = true;
+}
+
+std::optional<ConstantValue> Constants::value(const Expr& expr, const Context& context) {
+    switch (expr.kind) {
+    case ExprKind::Binary: return chain(expr, context);
+    case ExprKind::Unary:
+    case ExprKind::Paren: return unary(as<UnaryExpr>(expr), context);
+    case ExprKind::Name: {
+        const auto& name = as<NameExpr>(expr);
+        const Entity* local = context.local ? context.local(name.name) : nullptr;
+        return named(expr, local ? local : findName(program_, *context.module.scope, name.name).entity, context);
+    }
+    case ExprKind::Member: return named(expr, qualified(as<MemberExpr>(expr), context), context);
+    default: return literal(expr, context);
+    }
+}
+
+// Chains of operators may be long, so their left sides are walked in a loop.
+std::optional<ConstantValue> Constants::chain(const Expr& expr, const Context& context) {
+    std::vector<const BinaryExpr*> operators;
+    const Expr* left = &expr;
+    for (; left->kind == ExprKind::Binary; left = operators.back()->left) operators.push_back(&as<BinaryExpr>(*left));
+    auto result = value(*left, context);
+    for (auto at = operators.rbegin(); at != operators.rend(); ++at) {
+        const auto right = value(*(*at)->right, context);
+        if (!result || !right) return std::nullopt;
+        result = checked(**at, fold((*at)->op(), *result, *right, context.module.comparesText), context);
+    }
+    return result;
+}
+
+std::optional<ConstantValue> Constants::unary(const UnaryExpr& expr, const Context& context) {
+    auto operand = value(*expr.operand, context);
+    if (!operand || expr.kind == ExprKind::Paren) return operand;
+    return checked(expr, fold(expr.op(), *operand), context);
+}
+
+std::optional<ConstantValue> Constants::literal(const Expr& expr, const Context& context) {
+    switch (expr.kind) {
+    case ExprKind::Integer: return static_cast<basic::Integer>(as<IntegerExpr>(expr).value);
+    case ExprKind::Long: return static_cast<basic::Long>(as<IntegerExpr>(expr).value);
+    case ExprKind::Currency: return basic::Currency{as<IntegerExpr>(expr).value};
+    case ExprKind::Single: return static_cast<basic::Single>(as<FloatExpr>(expr).value);
+    case ExprKind::Double: return as<FloatExpr>(expr).value;
+    case ExprKind::Date: return basic::Date{as<FloatExpr>(expr).value};
+    case ExprKind::String: return stringValue(context.module.tree.source, as<StringExpr>(expr));
+    case ExprKind::Boolean: return expr.detail == 1;
+    case ExprKind::Empty: return std::monostate{};
+    case ExprKind::Null: return NullValue{};
+    case ExprKind::Nothing: return NothingValue{};
+    default: return refuse(expr, context);
+    }
+}
+
+std::optional<ConstantValue> Constants::named(const Expr& expr, const Entity* entity, const Context& context) {
+    if (!entity && program_.isIncomplete) return std::nullopt;
+    if (!entity || entity->kind != EntityKind::Constant) return refuse(expr, context);
+    if (entity->constant->progress != ConstantState::Progress::Done) {
+        auto& module = entity->owner && entity->owner->source ? *entity->owner->source : context.module;
+        evaluate(*entity, module, entity->owner ? LocalConstants{} : context.local);
+    }
+    if (entity->constant->failed) return std::nullopt;
+    return entity->constant->value;
+}
+
+// Enumeration.Member, Module.Constant, Library.Constant, and all of them behind the name of the project or library.
+const Entity* Constants::qualified(const MemberExpr& expr, const Context& context) {
+    if (!expr.base) return nullptr;
+    const Scope* inner = nullptr;
+    if (expr.base->kind == ExprKind::Name) {
+        const Symbol name = as<NameExpr>(*expr.base).name;
+        const Entity* found = findType(program_, *context.module.scope, Symbol::None, name);
+        if (!found || found->kind != EntityKind::Enum) found = findName(program_, *context.module.scope, name).entity;
+        if (found && found->kind == EntityKind::Project) return findName(program_, *context.module.scope, expr.name).entity;
+        inner = found ? found->inner : nullptr;
+    } else if (expr.base->kind == ExprKind::Member) {
+        const auto& base = as<MemberExpr>(*expr.base);
+        if (!base.base || base.base->kind != ExprKind::Name) return nullptr;
+        const Symbol library = as<NameExpr>(*base.base).name;
+        const Entity* found = findType(program_, *context.module.scope, library, base.name);
+        inner = found ? found->inner : nullptr;
+    }
+    return inner ? inner->names.find(expr.name) : nullptr;
+}
+
+std::optional<ConstantValue> Constants::checked(const Expr& expr, Folded folded, const Context& context) {
+    if (folded.error == 0) return std::move(folded.value);
+    context.module.diagnostics.report(messageOfError(folded.error), expr.pos);
+    return std::nullopt;
+}
+
+std::optional<ConstantValue> Constants::refuse(const Expr& expr, const Context& context) {
+    context.module.diagnostics.report(Message::ConstantRequired, expr.pos);
+    return std::nullopt;
+}
+
+} // namespace qltoolkit

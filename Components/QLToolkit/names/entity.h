@@ -1,0 +1,110 @@
+#pragma once
+// What the names of a program mean.
+#include "Components/QLToolkit/names/symbol_map.h"
+#include "Components/QLToolkit/parser/ast.h"
+#include "Components/QLToolkit/types/constant_value.h"
+#include "Components/QLToolkit/types/type.h"
+#include <vector>
+
+namespace qltoolkit {
+
+struct Scope;
+struct SourceModule;
+
+struct ParameterInfo {
+    Symbol name = Symbol::None;
+    Type type;
+    bool byVal = false;
+    bool optional = false;
+    bool paramArray = false;
+    bool any = false; ///< As Any, of a Declare
+};
+
+/// How a procedure, property or Declare is called.
+struct Callable {
+    Span<ParameterInfo> parameters; ///< of Property Let and Set without the value
+    Type result{ValueType::None};   ///< of Property Let and Set the type of the value
+    const ProcedureDecl* body = nullptr;
+};
+
+enum class EntityKind : std::uint8_t {
+    Variable, ///< also a field of a record
+    Constant,
+    Procedure,
+    Property,
+    Event,
+    Control,
+    Enum,
+    Record,
+    Module, ///< a module, class or form of the project, or a module or class of a library
+    Library,
+    Project
+};
+
+/// The value of a constant, found when it is first needed, because constants may refer to later ones.
+struct ConstantState {
+    enum class Progress : std::uint8_t { Waiting, Running, Done };
+
+    const Expr* expression = nullptr;       ///< null: one more than `previous`, or 0
+    const struct Entity* previous = nullptr; ///< the member of the enumeration before this one
+    Type declared{ValueType::Unknown};      ///< Unknown: the type of the value
+    Progress progress = Progress::Waiting;
+    bool failed = false; ///< reported already
+    ConstantValue value;
+};
+
+struct Entity {
+    EntityKind kind = EntityKind::Variable;
+    bool isPublic = false;
+    bool isResult = false;     ///< the variable that a function's name is within the function
+    bool isParameter = false;
+    bool isStaticArray = false; ///< an array with bounds
+    bool isUsed = false;       ///< a local variable that is read or passed on
+    bool isImplicit = false;   ///< a local variable without a declaration
+    bool onDevices = true;
+    bool withEvents = false;
+    std::int16_t rank = -1; ///< dimensions of an array; -1 if they are not known
+    Symbol name = Symbol::None;
+    Pos pos = 0; ///< of the declaration
+    Type type;
+    Scope* owner = nullptr; ///< null for a local variable
+    const Scope* inner = nullptr; ///< Enum, Record, Module, Library: what can follow the point
+    const Callable* get = nullptr; ///< Procedure, Event; Property Get
+    const Callable* let = nullptr;
+    const Callable* set = nullptr;
+    ConstantState* constant = nullptr;
+    const Entity* text = nullptr; ///< of a library's function f: the function f$
+};
+
+enum class ScopeKind : std::uint8_t { StandardModule, ClassModule, Record, Enum, Library, LibraryModule, LibraryClass };
+
+/// The names that something declares.
+struct Scope {
+    ScopeKind kind = ScopeKind::StandardModule;
+    Symbol name = Symbol::None;
+    std::uint32_t number = 0; ///< Type::id
+    SymbolMap<Entity> names;
+    SymbolMap<Entity> types;  ///< records, enumerations and classes, which have names of their own
+    SymbolMap<Entity> events;
+    const Scope* base = nullptr; ///< whose members this has too
+    const Entity* defaultMember = nullptr;
+    const Entity* enumerator = nullptr; ///< what For Each calls
+    std::vector<const Scope*> interfaces;
+    SourceModule* source = nullptr; ///< of a module of the project
+    bool open = false;        ///< may have members that are not known
+    bool creatable = false;   ///< by New
+    bool predeclared = false; ///< its name is an object
+
+    [[nodiscard]] Entity* find(Symbol symbol) const {
+        for (const Scope* scope = this; scope; scope = scope->base)
+            if (Entity* found = scope->names.find(symbol)) return found;
+        return nullptr;
+    }
+    [[nodiscard]] bool isOpen() const { return open || (base && base->isOpen()); }
+    [[nodiscard]] const Entity* findDefault() const {
+        return defaultMember || !base ? defaultMember : base->findDefault();
+    }
+    [[nodiscard]] bool isClass() const { return kind == ScopeKind::ClassModule || kind == ScopeKind::LibraryClass; }
+};
+
+} // namespace qltoolkit

@@ -1,0 +1,88 @@
+#include "Components/QLToolkit/names/form_controls.h"
+#include "Basic/case_folding.h"
+#include "Components/QLToolkit/names/lookup.h"
+
+namespace qltoolkit {
+
+namespace {
+
+/// The class of a control: "TavletsCtl.QLLabel" is the class QLLabel of the library Tavlets.
+class ControlClasses {
+public:
+    ControlClasses(Program& program, SourceModule& module) : program_(program), module_(module) {}
+
+    const Entity* find(std::string_view className, bool& libraryIsKnown) {
+        const auto dot = className.find('.');
+        const auto name = className.substr(dot + 1);
+        auto library = className.substr(0, dot == className.npos ? 0 : dot);
+        libraryIsKnown = false;
+        if (library.empty()) return nullptr;
+        const Entity* known = program_.topNames.find(program_.symbols.intern(library));
+        if (!known && library.ends_with("Ctl"))
+            known = program_.topNames.find(program_.symbols.intern(library.substr(0, library.size() - 3)));
+        if (!known) return nullptr;
+        libraryIsKnown = known->kind == EntityKind::Library || !program_.isIncomplete;
+        return findType(program_, *module_.scope, known->name, program_.symbols.intern(name));
+    }
+
+private:
+    Program& program_;
+    SourceModule& module_;
+};
+
+class FormControls {
+public:
+    FormControls(Program& program, SourceModule& module)
+        : program_(program), module_(module), classes_(program, module) {}
+
+    void declare() {
+        bool known = false;
+        const Entity* form = classes_.find(module_.form->className, known);
+        if (form && form->inner && form->inner != module_.scope) {
+            module_.scope->base = form->inner;
+        } else {
+            module_.scope->open = true;
+        }
+        for (const auto& child : module_.form->children) declare(child);
+    }
+
+private:
+    void declare(const image::Control& control) {
+        add(control);
+        for (const auto& child : control.children) declare(child);
+    }
+
+    void add(const image::Control& control) {
+        const Symbol name = program_.symbols.intern(control.name);
+        if (Entity* same = module_.scope->names.find(name)) {
+            if (same->kind == EntityKind::Control) same->type.isArray = true;
+            return;
+        }
+        Entity& entity = program_.newEntity(EntityKind::Control, name);
+        entity.isPublic = true;
+        entity.owner = module_.scope;
+        entity.type = classOf(control);
+        entity.type.isArray = control.index != image::Control::kNoIndex;
+        module_.scope->names.add(name, &entity);
+    }
+
+    Type classOf(const image::Control& control) {
+        bool libraryIsKnown = false;
+        if (const Entity* found = classes_.find(control.className, libraryIsKnown)) return found->type;
+        if (libraryIsKnown)
+            module_.diagnostics.reportFile(Message::ControlClassUnknown, control.className.str());
+        return {ValueType::Unknown};
+    }
+
+    Program& program_;
+    SourceModule& module_;
+    ControlClasses classes_;
+};
+
+} // namespace
+
+void declareControls(Program& program, SourceModule& module) {
+    if (module.form) FormControls{program, module}.declare();
+}
+
+} // namespace qltoolkit

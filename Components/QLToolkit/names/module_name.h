@@ -1,0 +1,10 @@
+#pragma once
+// The name of a module.
+#include "Components/QLToolkit/parser/ast.h"
+
+namespace qltoolkit {
+
+/// Returns the VB_Name of a module, or "" if it has none.
+std::string moduleName(const Module& module, const SymbolTable& symbols);
+
+} // namespace qltoolkit
