@@ -1,6 +1,7 @@
 #pragma once
 // The description of a library: what its modules, classes and enumerations offer to a program.
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -66,5 +67,14 @@ struct Library {
 
 /// The library of forms: Form, Control, App, Screen, Clipboard, Printer and the language's own controls.
 [[nodiscard]] const Library& formsLibrary();
+
+/// VBRUN: the constants of forms and controls, and the classes of their events.
+[[nodiscard]] const Library& runtimeLibrary();
+
+/// stdole: fonts and pictures. The names of whole numbers, such as OLE_COLOR, are enumerations without members.
+[[nodiscard]] const Library& pictureLibrary();
+
+/// The libraries above, in the order in which names are looked up.
+[[nodiscard]] std::span<const Library* const> builtInLibraries();
 
 } // namespace language

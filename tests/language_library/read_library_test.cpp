@@ -100,14 +100,11 @@ TEST(ReadLibrary, CopiesSharedMembers) {
     EXPECT_TRUE(lookup::member(library.groups[1], "Left"));
 }
 
-TEST(ReadLibrary, MarksTheMembersOfAbsentGroups) {
-    const auto library = readLibrary(
-        "Library L\nShared S\n Sub A\nClass C absent \"none\"\n Include S\n Sub B\n Sub D absent \"other\"");
-    const auto& group = library.groups.at(0);
-    EXPECT_FALSE(group.onDevices);
-    EXPECT_EQ(group.members.at(0).instead, "none");
-    EXPECT_EQ(group.members.at(1).instead, "none");
-    EXPECT_EQ(group.members.at(2).instead, "other");
+TEST(ReadLibrary, ReadsAbsentGroups) {
+    const auto library = readLibrary("Library L\nClass C open absent \"Use D\"\n Sub B");
+    EXPECT_FALSE(library.groups.at(0).onDevices);
+    EXPECT_EQ(library.groups[0].instead, "Use D");
+    EXPECT_TRUE(library.groups[0].members.at(0).onDevices);
 }
 
 TEST(ReadLibrary, NamesTheLineAndTheReason) {

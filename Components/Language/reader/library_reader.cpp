@@ -21,13 +21,6 @@ void readAttributes(LineReader& line, Group& group) {
     group.help = line.help();
 }
 
-/// Members of a group that is not on devices need not repeat it.
-void inherit(const Group& group, Member& member) {
-    if (group.onDevices || !member.onDevices) return;
-    member.onDevices = false;
-    member.instead = group.instead;
-}
-
 } // namespace
 
 void LibraryReader::read(std::string_view text) {
@@ -83,7 +76,8 @@ void LibraryReader::include(LineReader& line) {
     while (!line.atEnd()) {
         const auto found = shared_.find(line.name());
         if (found == shared_.end()) line.fail("unknown list of members");
-        for (const auto& member : found->second.members) inherit(group, group.members.emplace_back(member));
+        const auto& members = found->second.members;
+        group.members.insert(group.members.end(), members.begin(), members.end());
     }
 }
 
@@ -91,7 +85,6 @@ void LibraryReader::readContents(LineReader& line) {
     if (line.acceptWord("Include")) return include(line);
     auto& group = current(line);
     group.members.push_back(group.kind == GroupKind::Enum ? readEnumMember(line) : readMember(line));
-    inherit(group, group.members.back());
 }
 
 } // namespace language

@@ -1,6 +1,7 @@
 #include "Components/Language/library.h"
 #include "Components/Language/reader/library_reader.h"
 #include "Components/Language/tables/tables.h"
+#include <array>
 #include <initializer_list>
 
 namespace language {
@@ -21,6 +22,26 @@ const Library& languageLibrary() {
         read({kStringsTable, kConversionTable, kDateTable, kMathTable, kFinancialTable, kInformationTable,
               kInteractionTable, kFilesTable, kHiddenTable, kConstantsTable, kEnumsTable, kCollectionTable});
     return library;
+}
+
+const Library& formsLibrary() {
+    static const auto library = read({kSharedTable, kFormTable, kControlsTable, kFilesControlsTable, kGlobalTable});
+    return library;
+}
+
+const Library& runtimeLibrary() {
+    static const auto library = read({kRunClassesTable, kRunEnumsTable, kRunMoreEnumsTable});
+    return library;
+}
+
+const Library& pictureLibrary() {
+    static const auto library = read({kPictureTable});
+    return library;
+}
+
+std::span<const Library* const> builtInLibraries() {
+    static const std::array libraries{&languageLibrary(), &formsLibrary(), &runtimeLibrary(), &pictureLibrary()};
+    return libraries;
 }
 
 } // namespace language

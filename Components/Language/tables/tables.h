@@ -6,5 +6,8 @@ namespace language {
 
 extern const std::string_view kStringsTable, kConversionTable, kDateTable, kMathTable, kFinancialTable,
     kInformationTable, kInteractionTable, kFilesTable, kHiddenTable, kConstantsTable, kEnumsTable, kCollectionTable;
+extern const std::string_view kSharedTable, kFormTable, kControlsTable, kFilesControlsTable, kGlobalTable;
+extern const std::string_view kRunClassesTable, kRunEnumsTable, kRunMoreEnumsTable;
+extern const std::string_view kPictureTable;
 
 } // namespace language
