@@ -24,13 +24,16 @@ void addMessages(CheckResult& result, std::vector<Diagnostic> messages) {
 
 } // namespace
 
-CheckResult checkSource(std::string name, std::string bytes, const ConditionalConstants& constants,
-                        const basic::CodePage& page) {
-    if (bytes.size() > kMaxSourceBytes) return failedCheck(Message::FileTooLarge, name);
-    const SourceText source{std::move(name), std::move(bytes), page};
+CheckResult checkSource(const SourceText& source, const ConditionalConstants& constants) {
     SymbolTable symbols;
     auto parsed = parseModule(source, symbols, constants);
     return {std::move(parsed.diagnostics), parsed.errors, source.lineCount()};
+}
+
+CheckResult checkSource(std::string name, std::string bytes, const ConditionalConstants& constants,
+                        const basic::CodePage& page) {
+    if (bytes.size() > kMaxSourceBytes) return failedCheck(Message::FileTooLarge, name);
+    return checkSource(SourceText{std::move(name), std::move(bytes), page}, constants);
 }
 
 std::vector<CheckResult> checkProject(const std::vector<const SourceText*>& sources,

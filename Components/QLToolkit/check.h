@@ -14,7 +14,9 @@ struct CheckResult {
     std::uint32_t lines = 0; ///< physical lines, head included
 };
 
-/// Checks a file that is in memory. The extension of `name` determines the kind of file.
+/// Checks the syntax of one file.
+[[nodiscard]] CheckResult checkSource(const SourceText& source, const ConditionalConstants& constants = {});
+/// The same for a file that is in memory. The extension of `name` determines the kind of file.
 [[nodiscard]] CheckResult checkSource(std::string name, std::string bytes, const ConditionalConstants& constants = {},
                                       const basic::CodePage& = basic::CodePage::windows1252());
 

@@ -12,6 +12,7 @@ void defineCheck(CLI::App& app, Raw& raw) {
                      ".bas, .cls, .frm, .ctl, .vbp or .vbg files, folders, or - for standard input");
     check.add_option("--name", raw.options.sourceName, "File name of standard input, whose extension says what it is")
         ->type_name("FILE");
+    check.add_flag("--warn", raw.options.warnsOptionally, "Also warn of what is allowed but seldom meant");
     addCodePage(check, raw);
 }
 

@@ -58,6 +58,8 @@ struct Options {
     bool noSteps = false;
     bool list = false;
     bool verify = false;
+    /// `check` also warns of what is allowed but seldom meant.
+    bool warnsOptionally = false;
     /// Code page of source files that are not UTF-8; detected if none is given.
     std::optional<basic::CodePage> codePage;
 };

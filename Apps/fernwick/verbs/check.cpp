@@ -1,3 +1,5 @@
+#include "Apps/common/described_libraries.h"
+#include "Apps/common/machine.h"
 #include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/output/code_page_note.h"
 #include "Apps/fernwick/output/plural.h"
@@ -12,10 +14,15 @@
 #include "Host/files/path_lookup.h"
 #include "Host/files/project_code_page.h"
 #include "Host/files/text_file.h"
+#include "Host/system/environment.h"
 #include <chrono>
 #include <fmt/format.h>
 #include <iostream>
 #include <iterator>
+#include <memory>
+#include <optional>
+#include <set>
+#include <tuple>
 
 namespace cli {
 
@@ -41,59 +48,113 @@ int statusOfDiagnostic(const qltoolkit::Diagnostic& diagnostic, bool isNamed) {
 
 constexpr std::string_view kStandardInput = "-";
 
-struct CheckedSource {
-    qltoolkit::CheckResult result;
-    std::vector<Message> messages;
+/// Reports what was found in each file, and counts it. A file of several projects is reported once.
+class CheckReport {
+public:
+    CheckReport(const Options& options, Console& console, Report& report)
+        : options_(options), console_(console), report_(report) {}
+
+    void add(const std::string& path, qltoolkit::CheckResult result, bool isNamed, const qltoolkit::SourceText* source) {
+        console_.detail(fmt::format("read {}: {}", path, plural(result.lines, "line")));
+        if (files_.insert(path).second) {
+            ++totals_.files;
+            totals_.lines += result.lines;
+        }
+        std::optional<TokenEnds> ends;
+        for (const auto& diagnostic : result.diagnostics) {
+            const auto place = std::tuple(diagnostic.file, diagnostic.line, diagnostic.column, diagnostic.number);
+            if (!reported_.insert(place).second) continue;
+            totals_.errors += diagnostic.severity == qltoolkit::Severity::Error;
+            totals_.status = std::max(totals_.status, statusOfDiagnostic(diagnostic, isNamed));
+            auto message = messageOfDiagnostic(diagnostic);
+            if (source && !ends) ends.emplace(source->text(0, source->size()), source->codePage());
+            if (ends) message.endColumn = ends->endColumn(message.line, message.column);
+            print(std::move(message));
+        }
+    }
+
+    [[nodiscard]] const CheckTotals& totals() const { return totals_; }
+
+private:
+    void print(Message message) {
+        if (options_.format == Format::Text)
+            return console_.err(textOf(message, ""), message.isError ? Tone::Error : Tone::Warning);
+        message.file = host::absolutePath(message.file);
+        report_.messages.push_back(std::move(message));
+    }
+
+    const Options& options_;
+    Console& console_;
+    Report& report_;
+    CheckTotals totals_;
+    std::set<std::string> files_;
+    std::set<std::tuple<std::string, std::uint32_t, std::uint32_t, int>> reported_;
 };
 
-CheckedSource checked(qltoolkit::CheckResult result) {
-    CheckedSource source{std::move(result), {}};
-    for (const auto& diagnostic : source.result.diagnostics) source.messages.push_back(messageOfDiagnostic(diagnostic));
-    return source;
-}
-
-CheckedSource checkBytes(const std::string& name, const std::string& bytes, const SourceToCheck& source,
-                         Console& console) {
+void checkBytes(const std::string& name, std::string bytes, const SourceToCheck& source, Console& console,
+                CheckReport& report) {
     const auto detected = host::codePageOfSource(bytes, source.page);
     if (!source.page) reportCodePage(console, name, detected);
-    auto file = checked(qltoolkit::checkSource(name, bytes, source.constants, detected.page));
-    if (file.messages.empty()) return file;
-    const TokenEnds ends{bytes, detected.page};
-    for (auto& message : file.messages) message.endColumn = ends.endColumn(message.line, message.column);
-    return file;
+    if (bytes.size() > qltoolkit::kMaxSourceBytes)
+        return report.add(name, qltoolkit::failedRead(name, ""), source.isNamed, nullptr);
+    const qltoolkit::SourceText text{name, std::move(bytes), detected.page};
+    report.add(name, qltoolkit::checkSource(text), source.isNamed, &text);
 }
 
-CheckedSource checkOne(const SourceToCheck& source, const Options& options, Console& console) {
+void checkOne(const SourceToCheck& source, const Options& options, Console& console, CheckReport& report) {
     if (source.path == kStandardInput)
-        return checkBytes(options.sourceName, {std::istreambuf_iterator<char>(std::cin), {}}, source, console);
+        return checkBytes(options.sourceName, {std::istreambuf_iterator<char>(std::cin), {}}, source, console, report);
     host::FileContent content;
     const auto err = basic::attempt([&] { content = host::readFile(source.path); });
-    if (err.Number != 0) return checked(unreadSource(source.path, err));
-    return checkBytes(source.path, content.bytes, source, console);
+    if (err.Number != 0) return report.add(source.path, unreadSource(source.path, err), source.isNamed, nullptr);
+    checkBytes(source.path, std::move(content.bytes), source, console, report);
+}
+
+/// The sources of a project that can be read. The others are reported.
+std::vector<std::unique_ptr<qltoolkit::SourceText>> readSources(const ProjectToCheck& project, CheckReport& report) {
+    std::vector<std::unique_ptr<qltoolkit::SourceText>> sources;
+    for (const auto& path : project.sources) {
+        checkInterrupt();
+        host::FileContent content;
+        const auto err = basic::attempt([&] { content = host::readFile(path); });
+        if (err.Number != 0 || content.bytes.size() > qltoolkit::kMaxSourceBytes)
+            report.add(path, unreadSource(path, err), false, nullptr);
+        else
+            sources.push_back(
+                std::make_unique<qltoolkit::SourceText>(path, std::move(content.bytes), project.page.page));
+    }
+    return sources;
+}
+
+void checkProject(const ProjectToCheck& project, apps::DescribedLibraries& libraries, const Options& options,
+                  CheckReport& report) {
+    const auto sources = readSources(project, report);
+    qltoolkit::ProgramOptions program;
+    program.projectName = project.name;
+    program.warnsOptionally = options.warnsOptionally;
+    program.isIncomplete = sources.size() < project.sources.size();
+    for (const auto& guid : project.libraries) {
+        const auto* library = libraries.find(guid);
+        if (library) program.libraries.push_back(library);
+        program.isIncomplete |= !library && !apps::isLanguageLibrary(guid);
+    }
+    std::vector<const qltoolkit::SourceText*> texts;
+    for (const auto& source : sources) texts.push_back(source.get());
+    auto results = qltoolkit::checkProject(texts, project.constants, program);
+    for (std::size_t i = 0; i < texts.size(); ++i) report.add(texts[i]->name(), std::move(results[i]), false, texts[i]);
 }
 
 CheckTotals checkAll(const SourceList& list, const Options& options, Console& console, Report& report) {
-    CheckTotals totals;
-    for (const auto& [project, page] : list.projects) reportCodePage(console, project, page);
+    CheckReport results{options, console, report};
+    const host::Environment environment;
+    apps::DescribedLibraries libraries{list.projects.empty() ? "" : apps::findInstallation(environment)};
+    for (const auto& project : list.projects) reportCodePage(console, project.path, project.page);
+    for (const auto& project : list.projects) checkProject(project, libraries, options, results);
     for (const auto& source : list.sources) {
         checkInterrupt();
-        auto [result, messages] = checkOne(source, options, console);
-        console.detail(fmt::format("read {}: {}", source.path, plural(result.lines, "line")));
-        ++totals.files;
-        totals.lines += result.lines;
-        totals.errors += result.errors;
-        for (const auto& diagnostic : result.diagnostics)
-            totals.status = std::max(totals.status, statusOfDiagnostic(diagnostic, source.isNamed));
-        for (auto& message : messages) {
-            if (options.format == Format::Text) {
-                console.err(textOf(message, ""), message.isError ? Tone::Error : Tone::Warning);
-            } else {
-                message.file = host::absolutePath(message.file);
-                report.messages.push_back(std::move(message));
-            }
-        }
+        checkOne(source, options, console, results);
     }
-    return totals;
+    return results.totals();
 }
 
 } // namespace

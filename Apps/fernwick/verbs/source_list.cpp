@@ -34,7 +34,7 @@ public:
             else if (hasExtension(path, ".vbg"))
                 addGroup(path);
             else
-                addSource({path, {}, given_, true});
+                addSource({path, given_, true});
         });
     }
 
@@ -76,7 +76,7 @@ private:
         std::sort(projects.begin(), projects.end());
         std::sort(sources.begin(), sources.end());
         for (const auto& path : projects) noteProblem(path, false, [&] { addProject(path); });
-        for (const auto& path : sources) addSource({path, {}, given_, false});
+        for (const auto& path : sources) addSource({path, given_, false});
         if (projects.empty() && sources.empty()) addProblem(folder + ": contains no sources", kWrongUse);
     }
 
@@ -91,12 +91,31 @@ private:
         host::ProjectFile project{content.bytes, basic::codePageOfFile(content.bytes, detected.page)};
         if (!project.looksLikeProject())
             throw basic::RuntimeError(basic::kInvalidProcedureCall, "not a Visual Basic project");
-        const auto constants = qltoolkit::parseConditionalConstants(project.setting("CondComp").value_or(""));
-        list_.projects.emplace_back(path, detected);
+        if (!seen_.insert(host::absolutePath(path)).second) return;
+        ProjectToCheck found{path, project.setting("Name").value_or(""), {}, {}, detected, {}};
+        found.constants = qltoolkit::parseConditionalConstants(project.setting("CondComp").value_or(""));
         host::PathLookup lookup(detected.page);
-        for (const auto& member : project.members())
+        for (const auto& member : project.members()) {
             if (host::isComponentKind(member.content.kind))
-                addSource({lookup.find(folderOf(path), member.content.value), constants, detected.page, false});
+                addComponent(found, lookup.find(folderOf(path), member.content.value));
+            else if (member.content.kind == host::MemberKind::Reference ||
+                     member.content.kind == host::MemberKind::Object)
+                found.libraries.push_back(guidOf(member.content.value));
+        }
+        list_.projects.push_back(std::move(found));
+    }
+
+    void addComponent(ProjectToCheck& project, const std::string& path) {
+        seen_.insert(host::absolutePath(path));
+        project.sources.push_back(path);
+    }
+
+    /// The first braces of the value of a Reference or Object line.
+    static std::string guidOf(std::string_view value) {
+        const auto open = value.find('{'), close = value.find('}');
+        return open == value.npos || close < open || close == value.npos
+                   ? ""
+                   : std::string(value.substr(open, close - open + 1));
     }
 
     void addGroup(const std::string& path) {

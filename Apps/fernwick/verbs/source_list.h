@@ -11,25 +11,32 @@ namespace cli {
 
 struct SourceToCheck {
     std::string path;
-    qltoolkit::ConditionalConstants constants;
-    /// That of its project or on the command line; none for a single file, which has its own.
+    /// On the command line; without it the file has its own.
     std::optional<basic::CodePage> page;
-    /// Whether the command line names it, not a project.
+    /// Whether the command line names it.
     bool isNamed = false;
 };
 
+/// A project, whose sources are checked together.
+struct ProjectToCheck {
+    std::string path, name;
+    std::vector<std::string> sources;
+    qltoolkit::ConditionalConstants constants;
+    basic::DetectedCodePage page;
+    std::vector<std::string> libraries; ///< the GUIDs of its references and control libraries
+};
+
 struct SourceList {
-    std::vector<SourceToCheck> sources;
-    /// The projects, and how their code pages were determined.
-    std::vector<std::pair<std::string, basic::DetectedCodePage>> projects;
+    std::vector<ProjectToCheck> projects;
+    std::vector<SourceToCheck> sources; ///< of no project
     /// Why projects or groups could not be read: "file: reason".
     std::vector<std::string> problems;
     /// The exit status for the worst of them; 0 for none.
     int status = 0;
 };
 
-/// Returns each source file once: those given, the components of projects, those of the projects of groups, and all
-/// sources in and below folders, except in hidden ones. `given` is their code page, without which it is detected.
+/// Returns the projects and the projects of groups, and the sources of none of them: those given, and all in and below
+/// folders, except in hidden ones. `given` is their code page, without which it is detected.
 SourceList listSources(const std::vector<std::string>& operands, const std::optional<basic::CodePage>& given);
 
 } // namespace cli

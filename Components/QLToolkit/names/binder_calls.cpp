@@ -49,7 +49,9 @@ Operand Binder::property(const Entity& entity, const Expr& expr) {
     }
     const Callable* assigning = use_ == Use::Set ? (entity.set ? entity.set : entity.let) : entity.let;
     if (assigning) return called(*assigning, expr, entity, OperandKind::Property);
-    if (entity.get && use_ == Use::Let && isIndexable(entity.get->result))
+    // An object that the property returns may have a default property.
+    const bool returnsObject = entity.get && entity.get->result.value != ValueType::Variant && isIndexable(entity.get->result);
+    if (returnsObject && use_ == Use::Let)
         return called(*entity.get, expr, entity, OperandKind::Property);
     reportName(entity.let || entity.set ? Message::InvalidUseOfProperty : Message::ReadOnlyProperty, expr.pos);
     return late(expr.pos, ValueType::Unknown);

@@ -1,0 +1,82 @@
+#pragma once
+// Checks programs that tests write, as projects of several modules.
+#include "Components/QLToolkit/check.h"
+#include <algorithm>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace test {
+
+/// A project in memory.
+class CheckedProgram {
+public:
+    CheckedProgram() { options.projectName = "Project1"; }
+
+    /// The extension says what kind of module it is.
+    CheckedProgram& add(const std::string& file, const std::string& code) {
+        const auto name = file.substr(0, file.find('.'));
+        std::string head;
+        if (file.ends_with(".cls")) head = "VERSION 1.0 CLASS\nBEGIN\n  MultiUse = -1  'True\nEND\n";
+        if (file.ends_with(".frm")) head = "VERSION 5.00\nBegin VB.Form " + name + " \n" + controls + "End\n";
+        text(file, head + "Attribute VB_Name = \"" + name + "\"\n" + code);
+        return *this;
+    }
+
+    CheckedProgram& text(const std::string& file, std::string bytes) {
+        sources_.push_back(std::make_unique<qltoolkit::SourceText>(file, std::move(bytes)));
+        return *this;
+    }
+
+    /// Returns the messages as "file:line:column number", where line 1 is the first of the code window.
+    std::vector<std::string> messages() {
+        std::vector<const qltoolkit::SourceText*> all;
+        for (const auto& source : sources_) all.push_back(source.get());
+        const auto results = qltoolkit::checkProject(all, {}, options);
+        std::vector<std::string> found;
+        for (std::size_t i = 0; i < results.size(); ++i)
+            for (const auto& each : results[i].diagnostics) found.push_back(place(*all[i], each, all.size() > 1));
+        return found;
+    }
+
+    /// The text of the first message, or "".
+    std::string firstText() {
+        std::vector<const qltoolkit::SourceText*> all;
+        for (const auto& source : sources_) all.push_back(source.get());
+        for (const auto& result : qltoolkit::checkProject(all, {}, options))
+            if (!result.diagnostics.empty()) return result.diagnostics[0].text;
+        return {};
+    }
+
+    qltoolkit::ProgramOptions options;
+    std::string controls; ///< of the forms that follow
+
+private:
+    static std::string place(const qltoolkit::SourceText& source, const qltoolkit::Diagnostic& each, bool withFile) {
+        const auto line = each.line == 0 ? 0 : each.line - source.codeBegin() + 1;
+        return (withFile ? source.name() + ":" : "") + std::to_string(line) + ":" + std::to_string(each.column) + " " +
+               std::to_string(each.number);
+    }
+
+    std::vector<std::unique_ptr<qltoolkit::SourceText>> sources_;
+};
+
+/// The messages about one standard module.
+inline std::vector<std::string> messagesOf(const std::string& code) {
+    return CheckedProgram{}.add("Module1.bas", code).messages();
+}
+
+/// The messages about several modules. A line "--- Class1.cls" begins each; without one it is a standard module.
+inline std::vector<std::string> messagesOfModules(std::string_view text) {
+    CheckedProgram program;
+    if (!text.starts_with("--- ")) return messagesOf(std::string(text));
+    while (!text.empty()) {
+        const auto head = text.find('\n'), next = text.find("\n--- ", head);
+        const auto code = text.substr(head + 1, next == text.npos ? text.npos : next - head);
+        program.add(std::string(text.substr(4, head - 4)), std::string(code));
+        text.remove_prefix(next == text.npos ? text.size() : next + 1);
+    }
+    return program.messages();
+}
+
+} // namespace test

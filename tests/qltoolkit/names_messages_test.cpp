@@ -1,0 +1,141 @@
+// Each message about names and types: a program that gives exactly it, and one close to it that gives none.
+#include "Components/QLToolkit/source/messages.h"
+#include "tests/qltoolkit/checked_program.h"
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <set>
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace {
+
+struct MessageCase {
+    int number;
+    const char* wrong;
+    const char* place; ///< of the message in the wrong program
+    const char* right;
+};
+
+const MessageCase kCases[] = {
+    // Names
+    {2000, "Option Explicit\nSub A()\nDim Total\nTotl = 1\nEnd Sub", "4:1",
+     "Option Explicit\nSub A()\nDim Total\ntotal = 1\nEnd Sub"},
+    {2000, "Option Explicit\nSub A()\nDim x\nx = 1 + Missing\nEnd Sub", "4:9", "Sub A()\nDim x\nx = 1 + Missing\nEnd Sub"},
+    {2001, "Sub A()\nDim x\nx = Missing(1)\nEnd Sub", "3:5", "Sub A()\nDim x\nx = Found(1)\nEnd Sub\nFunction Found(n)\nEnd Function"},
+    {2001, "Sub A()\nMissing 1\nEnd Sub", "2:1", "Sub A()\nB 1\nEnd Sub\nSub B(n)\nEnd Sub"},
+    {2002, "--- Class1.cls\nPublic Sub Go()\nEnd Sub\n--- Module1.bas\nSub A(c As Class1)\nc.Gone\nEnd Sub", "Module1.bas:2:3",
+     "--- Class1.cls\nPublic Sub Go()\nEnd Sub\n--- Module1.bas\nSub A(c As Class1)\nc.Go\nEnd Sub"},
+    {2002, "Private Type P\n  X As Long\nEnd Type\nSub A()\nDim p As P\np.Y = 1\nEnd Sub", "6:3",
+     "Private Type P\n  X As Long\nEnd Type\nSub A()\nDim p As P\np.X = 1\nEnd Sub"},
+    {2003, "Sub A(x As Missing)\nEnd Sub", "1:12", "Sub A(x As Collection)\nEnd Sub"},
+    {2004, "--- M1.bas\nPublic x\n--- M2.bas\nPublic x\n--- M3.bas\nSub A()\nx = 1\nEnd Sub", "M3.bas:2:1",
+     "--- M1.bas\nPublic x\n--- M2.bas\nPublic x\n--- M3.bas\nSub A()\nM1.x = M2.x\nEnd Sub"},
+    {2004, "Sub A()\nEnd Sub\nSub A()\nEnd Sub", "3:5", "Sub A()\nEnd Sub\nSub B()\nEnd Sub"},
+    {2005, "Sub A()\nDim x\nDim X\nEnd Sub", "3:5", "Sub A()\nDim x\nDim y\nEnd Sub"},
+    {2005, "Sub A(x)\nDim x\nEnd Sub", "2:5", "Dim x\nSub A(y)\nDim x\nEnd Sub"},
+    {2006, "Sub A()\nGoTo There\nHere:\nEnd Sub", "2:6", "Sub A()\nGoTo Here\nHere:\nEnd Sub"},
+    {2006, "Sub A()\nOn Error GoTo 20\n10 Beep\nEnd Sub", "2:15", "Sub A()\nOn Error GoTo 10\n10 Beep\nEnd Sub"},
+    {2007, "Sub A()\nHere:\nIf True Then\nHere:\nEnd If\nEnd Sub", "4:1", "Sub A()\nHere:\nEnd Sub\nSub B()\nHere:\nEnd Sub"},
+    {2008, "Sub A()\nDim x\nx = Module1\nEnd Sub", "3:5", "Public y\nSub A()\nDim x\nx = Module1.y\nEnd Sub"},
+    {2009, "Sub A()\nDim x\nSet x = Me\nEnd Sub", "3:9", "--- Class1.cls\nSub A()\nDim x\nSet x = Me\nEnd Sub"},
+    {2010, "Sub A()\n.Go\nEnd Sub", "2:2", "Sub A(c As Object)\nWith c\n.Go\nEnd With\nEnd Sub"},
+    {2011, "Sub A(x As Project1)\nEnd Sub", "1:12", "Sub A(x As VBA.Collection)\nEnd Sub"},
+    {2012, "Sub A()\nLSet Left(\"a\", 1) = 1\nEnd Sub", "2:6", "Sub A()\nDim s\nLSet s = 1\nEnd Sub"},
+    // Types
+    {2100, "Private Type P\n  X As Long\nEnd Type\nSub A()\nDim a As P, n As Long\nn = a\nEnd Sub", "6:5",
+     "Private Type P\n  X As Long\nEnd Type\nSub A()\nDim a As P, n As Long\nn = a.X\nEnd Sub"},
+    {2100, "Sub A()\nDim a(3), n As Long\nn = a + 1\nEnd Sub", "3:7", "Sub A()\nDim a(3), n As Long\nn = a(1) + 1\nEnd Sub"},
+    {2101, "Sub A()\nDim n As Integer\nB n\nEnd Sub\nSub B(x As Long)\nEnd Sub", "3:3",
+     "Sub A()\nDim n As Integer\nB (n)\nC n\nEnd Sub\nSub B(x As Long)\nEnd Sub\nSub C(ByVal x As Long)\nEnd Sub"},
+    {2102, "Const a = b\nDim b", "1:11", "Const a = b\nConst b = 1"},
+    {2103, "Const a = 30000 + 30000", "1:17", "Const a = 30000& + 30000"},
+    {2104, "Const a = 1 / 0", "1:13", "Sub A()\nDim x\nx = 1 / 0\nEnd Sub"},
+    {2105, "Sub A()\nDim n As Long\nSet n = Nothing\nEnd Sub", "3:5", "Sub A()\nDim n As Object\nSet n = Nothing\nEnd Sub"},
+    {2106, "Sub A()\nDim n As Long\nn = n(1)\nEnd Sub", "3:5", "Sub A()\nDim n() As Long\nn(0) = n(1)\nEnd Sub"},
+    {2107, "Sub A()\nDim n(3) As Long, m() As Long\nn = m\nEnd Sub", "3:1",
+     "Sub A()\nDim n(3) As Long, m() As Long\nm = n\nEnd Sub"},
+    {2108, "Const c = 1\nSub A()\nc = 2\nEnd Sub", "3:1", "Const c = 1\nSub A()\nDim c\nc = 2\nEnd Sub"},
+    {2109, "Sub A()\nDim x\nx = B\nEnd Sub\nSub B()\nEnd Sub", "3:5", "Sub A()\nDim x\nx = B\nEnd Sub\nFunction B()\nEnd Function"},
+    {2111, "Sub A()\nDim c As Collection\nc = Nothing\nEnd Sub", "3:5", "Sub A()\nDim c As Collection\nSet c = Nothing\nEnd Sub"},
+    {2112, "Sub A()\nDim n As Long\nn.Go\nEnd Sub", "3:1", "Sub A()\nDim n As Object\nn.Go\nEnd Sub"},
+    {2113, "Private Type P\n  X As Long\nEnd Type\nSub A()\nDim a As P, v\nv = a\nEnd Sub", "6:5",
+     "Private Type P\n  X As Long\nEnd Type\nSub A()\nDim a As P, b As P\nb = a\nEnd Sub"},
+    {2114, "Sub A()\nDim n As Long, c As Collection\nFor Each n In c\nNext\nEnd Sub", "3:10",
+     "Sub A()\nDim n, c As Collection\nFor Each n In c\nNext\nEnd Sub"},
+    {2115, "Sub A()\nDim i\nFor i = 1 To 2\nFor i = 1 To 2\nNext\nNext\nEnd Sub", "4:5",
+     "Sub A()\nDim i\nFor i = 1 To 2\nNext\nFor i = 1 To 2\nNext\nEnd Sub"},
+    {2116, "Private Type P\n  X As Long\nEnd Type\nSub A()\nDim a(3) As P, v\nFor Each v In a\nNext\nEnd Sub", "6:15",
+     "Sub A()\nDim a(3) As Long, v\nFor Each v In a\nNext\nEnd Sub"},
+    {2117, "Sub A()\nB(1) = 2\nEnd Sub\nFunction B(n) As Long\nEnd Function", "2:1",
+     "Sub A()\nB(1) = 2\nEnd Sub\nFunction B(n) As Object\nEnd Function"},
+    {2118, "Dim n As Long\nSub A()\nn$ = \"\"\nEnd Sub", "3:1", "Dim n As Long\nSub A()\nn& = 1\nEnd Sub"},
+    {2119, "Sub A()\nDim v, n As Long\nFor Each v In n\nNext\nEnd Sub", "3:15",
+     "Sub A()\nDim v, n\nFor Each v In n\nNext\nEnd Sub"},
+    // Arguments
+    {2200, "Sub A()\nB\nEnd Sub\nSub B(x)\nEnd Sub", "2:1", "Sub A()\nB\nEnd Sub\nSub B(Optional x)\nEnd Sub"},
+    {2201, "Sub A()\nB 1, 2\nEnd Sub\nSub B(x)\nEnd Sub", "2:1", "Sub A()\nB 1, 2\nEnd Sub\nSub B(ParamArray x())\nEnd Sub"},
+    {2202, "Sub A()\nB y:=1\nEnd Sub\nSub B(Optional x)\nEnd Sub", "2:6", "Sub A()\nB x:=1\nEnd Sub\nSub B(Optional x)\nEnd Sub"},
+    {2203, "Sub A()\nB 1, x:=1\nEnd Sub\nSub B(x, Optional y)\nEnd Sub", "2:9",
+     "Sub A()\nB 1, y:=1\nEnd Sub\nSub B(x, Optional y)\nEnd Sub"},
+    {2204, "Sub A()\nDim a(1, 2)\na(1) = 0\nEnd Sub", "3:1", "Sub A()\nDim a(1, 2)\na(1, 1) = 0\nEnd Sub"},
+    {2205, "Sub A()\nB AddressOf Missing\nEnd Sub\nSub B(ByVal x As Long)\nEnd Sub", "2:3",
+     "Sub A()\nB AddressOf A\nEnd Sub\nSub B(ByVal x As Long)\nEnd Sub"},
+    {2206, "Sub A()\nB y:=1\nEnd Sub\nSub B(ParamArray x())\nEnd Sub", "2:6", "Sub A()\nB 1\nEnd Sub\nSub B(ParamArray x())\nEnd Sub"},
+    // Properties
+    {2300, "Property Get P(i)\nEnd Property\nProperty Let P(v)\nEnd Property", "3:14",
+     "Property Get P(i)\nEnd Property\nProperty Let P(i, v)\nEnd Property"},
+    {2301, "Property Get P()\nP = 1\nEnd Property\nSub A()\nP = 1\nEnd Sub", "5:1",
+     "Property Get P()\nEnd Property\nProperty Let P(v)\nEnd Property\nSub A()\nP = 1\nEnd Sub"},
+    {2302, "Property Let P(v)\nEnd Property\nSub A()\nDim x\nx = P\nEnd Sub", "5:5",
+     "Property Get P()\nEnd Property\nProperty Let P(v)\nEnd Property\nSub A()\nDim x\nx = P\nEnd Sub"},
+    {2110, "Property Set P(v As Object)\nEnd Property\nSub A()\nP = 1\nEnd Sub", "4:1",
+     "Property Set P(v As Object)\nEnd Property\nSub A()\nSet P = Nothing\nEnd Sub"},
+    // Jumps
+    {2400, "Sub A()\nExit Do\nEnd Sub", "2:1", "Sub A()\nDo\nExit Do\nLoop\nEnd Sub"},
+    {2401, "Sub A()\nDo\nExit For\nLoop\nEnd Sub", "3:1", "Sub A()\nDim v\nFor Each v In v\nExit For\nNext\nEnd Sub"},
+    {2402, "Sub A()\nExit Function\nEnd Sub", "2:1", "Function A()\nExit Function\nEnd Function"},
+    // Classes
+    {2500, "--- I.cls\nPublic Sub Go()\nEnd Sub\n--- Class1.cls\nImplements I", "Class1.cls:1:12",
+     "--- I.cls\nPublic Sub Go()\nEnd Sub\n--- Class1.cls\nImplements I\nPrivate Sub I_Go()\nEnd Sub"},
+    {2501, "--- Class1.cls\nSub A()\nRaiseEvent Done\nEnd Sub", "2:1",
+     "--- Class1.cls\nEvent Done()\nSub A()\nRaiseEvent Done\nEnd Sub"},
+    {2502, "--- Source.cls\nEvent Done(n As Long)\n--- Class1.cls\nPrivate WithEvents s As Source\nPrivate Sub s_Done()\nEnd Sub",
+     "Class1.cls:2:13",
+     "--- Source.cls\nEvent Done(n As Long)\n--- Class1.cls\nPrivate WithEvents s As Source\nPrivate Sub s_Done(n As Long)\nEnd Sub"},
+    {2503, "--- Source.cls\nPublic x\n--- Class1.cls\nPrivate WithEvents s As Source", "Class1.cls:1:25",
+     "--- Source.cls\nEvent Done()\n--- Class1.cls\nPrivate WithEvents s As Source"},
+    {2504, "Const a = b\nConst b = a", "1:7", "Const a = b\nConst b = 1"},
+    {2504, "Private Type P\n  Q As P\nEnd Type", "1:1", "Private Type P\n  Q() As P\nEnd Type"},
+    {2505, "--- Class1.cls\nImplements E\nPrivate Enum E\n  x\nEnd Enum", "1:12", "--- I.cls\n--- Class1.cls\nImplements I"},
+    {2507, "--- Module1.bas\nSub A()\nDim x\nSet x = New ErrObject\nEnd Sub", "3:9",
+     "--- Module1.bas\nSub A()\nDim x\nSet x = New Collection\nEnd Sub"},
+    {2508, "--- Class1.cls\nPublic Const c = 1", "1:14", "--- Class1.cls\nPrivate Const c = 1"},
+    {2508, "--- Class1.cls\nPublic c(3)", "1:8", "--- Class1.cls\nPublic c"},
+    // Arrays
+    {2600, "Sub A()\nDim a(3)\nReDim a(4)\nEnd Sub", "3:7", "Sub A()\nDim a()\nReDim a(4)\nEnd Sub"},
+    {2602, "Dim a(5 To 3)", "1:12", "Dim a(3 To 5)"},
+    {2905, nullptr, nullptr, nullptr},
+};
+
+std::string withNumber(const MessageCase& each) { return std::string(each.place) + " " + std::to_string(each.number); }
+
+} // namespace
+
+TEST(NameMessages, EachIsGivenWhereItIsWrongAndNotBesideIt) {
+    for (const auto& each : kCases) {
+        if (!each.wrong) continue;
+        EXPECT_THAT(test::messagesOfModules(each.wrong), ElementsAre(withNumber(each))) << each.wrong;
+        EXPECT_THAT(test::messagesOfModules(each.right), IsEmpty()) << each.right;
+    }
+}
+
+TEST(NameMessages, EachNumberIsTested) {
+    std::set<int> tested;
+    for (const auto& each : kCases) tested.insert(each.number);
+    for (const auto& row : qltoolkit::allMessages()) {
+        const auto number = static_cast<int>(row.message);
+        if (number < 2000 || number > 2998) continue;
+        EXPECT_TRUE(tested.contains(number)) << number << " " << row.text;
+    }
+}
