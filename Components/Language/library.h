@@ -77,4 +77,7 @@ struct Library {
 /// The libraries above, in the order in which names are looked up.
 [[nodiscard]] std::span<const Library* const> builtInLibraries();
 
+/// Returns a class of the libraries above by its library and name, "VB.Form"; case-sensitive. Null if there is none.
+[[nodiscard]] const Group* findClass(std::string_view name);
+
 } // namespace language

@@ -1,4 +1,5 @@
 #include "Host/system/type_description.h"
+#include "Components/Language/library.h"
 #include "Host/files/path_lookup.h"
 #include "Host/files/system_error.h"
 #include "Host/system/description_table.h"
@@ -44,19 +45,43 @@ void addGroup(const DescriptionTable& user, const Groups& groups, const std::str
     append(to.events, group->second.events);
 }
 
+bool hasMember(const TypeClass& in, const std::string& name) {
+    const auto isNamed = [&](const auto& member) { return member.name == name; };
+    return std::any_of(in.properties.begin(), in.properties.end(), isNamed) ||
+           std::any_of(in.methods.begin(), in.methods.end(), isNamed);
+}
+
+TypeClass membersOf(const DescriptionTable& table, const Groups& groups) {
+    TypeClass made;
+    made.name = table.required("name");
+    made.help = table.text("help");
+    made.defaultMember = table.text("default_member");
+    for (const auto& group : table.texts("groups")) addGroup(table, groups, group, made);
+    addMembers(table, made);
+    if (!made.defaultMember.empty() && !hasMember(made, made.defaultMember))
+        table.fail(fmt::format("there is no property or method \"{}\"", made.defaultMember));
+    return made;
+}
+
 TypeClass readClass(const std::string& file, const Groups& groups) {
     const auto parsed = parseDescription(file);
     const DescriptionTable table(parsed, file);
-    TypeClass made;
-    made.name = table.required("name");
+    auto made = membersOf(table, groups);
     made.progId = table.required("progid");
     made.clsid = table.required("clsid");
     made.category = table.text("category");
-    made.help = table.text("help");
     made.width = int(table.number("width"));
     made.height = int(table.number("height"));
-    for (const auto& group : table.texts("groups")) addGroup(table, groups, group, made);
-    addMembers(table, made);
+    return made;
+}
+
+TypeClass readForm(const std::string& file, const Groups& groups) {
+    const auto parsed = parseDescription(file);
+    const DescriptionTable table(parsed, file);
+    auto made = membersOf(table, groups);
+    made.extends = table.text("extends");
+    if (!made.extends.empty() && !language::findClass(made.extends))
+        table.fail(fmt::format("there is no class \"{}\"", made.extends));
     return made;
 }
 
@@ -124,6 +149,8 @@ TypeDescription readTypeDescription(const std::string& file) {
     if (const auto folder = table.text("classes"); !folder.empty())
         for (const auto& one : classFilesIn(joinedPath(parentFolderName(file), folder)))
             description.classes.push_back(readClass(one, groups));
+    if (const auto form = table.text("form"); !form.empty())
+        description.form = readForm(joinedPath(parentFolderName(file), form), groups);
     return description;
 }
 

@@ -26,7 +26,9 @@ struct TypeMember {
 struct TypeClass {
     std::string name, progId, clsid, category, help;
     std::vector<TypeMember> properties, methods, events;
-    int width = 0, height = 0; ///< of a new control in pixels; 0 if the description does not say
+    int width = 0, height = 0;      ///< of a new control in pixels; 0 if the description does not say
+    std::string defaultMember = {}; ///< "" if the class has none
+    std::string extends = {};       ///< of a form: the class of the language whose members on devices it has, "VB.Form"
 };
 
 struct TypeValue {
@@ -44,6 +46,7 @@ struct TypeDescription {
     std::vector<TypeEnumeration> enumerations;
     std::vector<TypeClass> classes;
     std::vector<TypeClass> modules;
+    std::optional<TypeClass> form = {}; ///< the forms that contain the controls
 };
 
 /// Returns the native path of the description of the library registered as `path`: the file of that name with the

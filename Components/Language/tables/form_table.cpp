@@ -25,7 +25,7 @@ Shared FormCommon
   Sub SetFocus() ' Makes the form the active one
   Sub Show(Optional Modal, Optional OwnerForm) ' Shows the form and loads it if necessary
   Sub WhatsThisMode() absent "Devices have no help files; show a form with the text"
-  Sub ValidateControls() ' Validates the control that has the focus
+  Sub ValidateControls() absent "Check the values in LostFocus of the controls" ' Validates the control that has the focus
   Sub ZOrder(Optional Position)
   Include Pointer Appearance OleDrop
 

@@ -44,4 +44,14 @@ std::span<const Library* const> builtInLibraries() {
     return libraries;
 }
 
+const Group* findClass(std::string_view name) {
+    const auto point = name.find('.');
+    if (point == std::string_view::npos) return nullptr;
+    for (const auto* library : builtInLibraries())
+        if (library->name == name.substr(0, point))
+            for (const auto& group : library->groups)
+                if (group.kind == GroupKind::Class && group.name == name.substr(point + 1)) return &group;
+    return nullptr;
+}
+
 } // namespace language

@@ -90,8 +90,8 @@ Shared Data
   Property DataSource As IUnknown
 
 Shared OleDrop
-  Property OLEDropMode As OLEDropConstants
-  Sub OLEDrag()
+  Property OLEDropMode As OLEDropConstants absent "Devices have no drag and drop; use the Clipboard"
+  Sub OLEDrag() absent "Devices have no drag and drop; use the Clipboard"
 
 Shared OleDrag
   Include OleDrop
