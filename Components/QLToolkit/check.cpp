@@ -49,7 +49,7 @@ std::vector<CheckResult> checkProject(const std::vector<const SourceText*>& sour
         results.push_back({std::move(parsed.diagnostics), parsed.errors, source->lineCount()});
         trees.push_back(std::move(parsed.module));
         modules.push_back({trees.back().get(),
-                           source->kind() == FileKind::Form ? readFormHeader(*source) : std::nullopt});
+                           readFormHeader(*source)});
     }
     if (!isRight) return results;
     auto messages = checkProgram(modules, symbols, options);

@@ -25,10 +25,6 @@ std::optional<std::string> stringLiteral(const std::string& literal) {
     return basic::Replace(literal.substr(1, literal.size() - 2), "\"\"", "\"");
 }
 
-std::optional<image::Control> formOf(const SourceText& source) {
-    return source.kind() == FileKind::Form ? readFormHeader(source) : std::nullopt;
-}
-
 bool usesLibrary(const image::Control& control, const std::string& prefix) {
     if (basic::startsWithNoCase(control.className, prefix)) return true;
     return std::any_of(control.children.begin(), control.children.end(),
@@ -97,13 +93,13 @@ std::optional<ProjectCompiler::Source> ProjectCompiler::parseSource(const std::s
     services_.record->lines += source.text->lineCount();
     for (const auto& diagnostic : source.parsed.diagnostics) report(diagnostic);
     if (!source.parsed.module || source.parsed.errors > 0) return std::nullopt;
-    source.form = formOf(*source.text);
+    source.form = readFormHeader(*source.text);
     return source;
 }
 
 void ProjectCompiler::addModule(image::Image& image, Source& source, const SymbolTable& symbols) {
     image.modules.push_back(imageOf(*source.parsed.module, symbols));
-    if (source.form) image.forms.push_back(std::move(*source.form));
+    if (source.form && source.text->kind() == FileKind::Form) image.forms.push_back(std::move(*source.form));
 }
 
 void ProjectCompiler::checkNames(const std::vector<Source>& sources, SymbolTable& symbols,

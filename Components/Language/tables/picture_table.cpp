@@ -40,6 +40,7 @@ Class IFontDisp
   Include Font
 Class IFont
   Include Font
+  Property hFont As OLE_HANDLE readonly absent "Devices have no handles; use the font's name and size"
 Class Font
   Include Font
 

@@ -32,8 +32,8 @@ Module Strings
   Function Left$(String As String, Length As Long) As String pure ' The first characters of a text
   Function LeftB(String, Length As Long) pure ' The first bytes of a text
   Function LeftB$(String As String, Length As Long) As String pure ' The first bytes of a text
-  Function Len(Expression) pure ' The number of characters of a text, or the bytes that a variable takes in a file
-  Function LenB(Expression) pure ' The number of bytes of a text or variable
+  Function Len(Expression As Any) pure ' The number of characters of a text, or the bytes that a variable takes in a file
+  Function LenB(Expression As Any) pure ' The number of bytes of a text or variable
   Function LTrim(String) pure ' A text without blanks at its start
   Function LTrim$(String As String) As String pure ' A text without blanks at its start
   Function Mid(String, Start As Long, Optional Length) pure ' Characters from within a text

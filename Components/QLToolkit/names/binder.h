@@ -68,6 +68,7 @@ private:
     void condition(const Expr* expr);
     void jump(const Target& target);
     void exit(const Stmt& stmt);
+    void exitProcedure(bool fits, std::string_view word, Pos pos);
     void raiseEvent(const RaiseEventStmt& stmt);
     void print(const PrintStmt& stmt);
     void printTarget(const Expr& target);
@@ -94,6 +95,7 @@ private:
     Operand literal(const Expr& expr);
     Operand name(const NameExpr& expr);
     Operand local(const NameExpr& expr, Entity& entity);
+    [[nodiscard]] const Entity* functionBehind(const Entity& entity, Symbol name) const;
     Operand undefined(const NameExpr& expr);
     Operand implicit(const NameExpr& expr, Type type);
     Operand unary(const UnaryExpr& expr);
@@ -124,6 +126,7 @@ private:
     void arguments(const Callable& callable, const Span<Argument>& given, Pos pos);
     void argument(const Argument& given, const ParameterInfo& parameter);
     void argumentByRef(const Operand& given, const ParameterInfo& parameter);
+    void drawingArguments(const Span<Argument>& given);
     void lateArguments(const Span<Argument>& given);
     const ParameterInfo* parameterOf(const Callable& callable, const Argument& given, std::uint32_t position, Pos pos);
 

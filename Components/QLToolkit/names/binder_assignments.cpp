@@ -49,9 +49,10 @@ void Binder::assignArray(const Operand& target, const Operand& value, Pos pos) {
         return reportName(Message::AssignToArray, target.pos);
     const bool isSame = value.type.isArray && value.type.value == target.type.value &&
                         (value.type.value != ValueType::Record || value.type.id == target.type.id);
-    // Bytes take a text; a Variant may hold an array.
+    // Bytes take a text, also that of a default property; a Variant may hold an array.
     const bool isBytes = target.type.value == ValueType::Byte && !value.type.isArray &&
-                         (value.type.value == ValueType::String || value.type.value == ValueType::FixedString);
+                         (value.type.value == ValueType::String || value.type.value == ValueType::FixedString ||
+                          value.type.value == ValueType::Object);
     if (!isSame && !isBytes && (value.type.isArray || value.type.value != ValueType::Variant))
         report(Message::TypeMismatch, pos);
 }

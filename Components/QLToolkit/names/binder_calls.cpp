@@ -1,9 +1,18 @@
 // Calls, their arguments, and elements of arrays.
+#include "Basic/case_folding.h"
 #include "Components/QLToolkit/names/binder.h"
 #include "Components/QLToolkit/names/lookup.h"
 #include "Components/QLToolkit/types/coercions.h"
 
 namespace qltoolkit {
+
+namespace {
+
+bool isDrawing(const Span<Argument>& given) {
+    return !given.empty() && given[0].value && given[0].value->kind == ExprKind::Coordinates;
+}
+
+} // namespace
 
 Operand Binder::late(Pos pos, ValueType type) {
     if (const IndexExpr* given = pendingIndex()) {
@@ -100,6 +109,7 @@ Operand Binder::defaultMember(const Operand& base, const IndexExpr& expr) {
 }
 
 void Binder::lateArguments(const Span<Argument>& given) {
+    if (isDrawing(given)) return drawingArguments(given);
     for (const auto& each : given)
         if (each.value) (void)expression(*each.value, Use::Argument);
 }
@@ -122,14 +132,31 @@ const ParameterInfo* Binder::parameterOf(const Callable& callable, const Argumen
     return nullptr;
 }
 
+namespace {
+
+/// Line (x1, y1)-(x2, y2), color, BF: B and BF are no names.
+bool isBoxWord(std::string_view name) { return basic::equalNoCase(name, "B") || basic::equalNoCase(name, "BF"); }
+
+} // namespace
+
+/// The arguments of Line, Circle, PSet and Scale, which have a form of their own.
+void Binder::drawingArguments(const Span<Argument>& given) {
+    for (const auto& each : given) {
+        if (!each.value) continue;
+        const bool isBox = each.value == given[given.size() - 1].value && each.value->kind == ExprKind::Name &&
+                           isBoxWord(program_.symbols.spelling(as<NameExpr>(*each.value).name));
+        if (!isBox) (void)expression(*each.value, Use::Argument);
+    }
+}
+
 void Binder::arguments(const Callable& callable, const Span<Argument>& given, Pos pos) {
+    if (isDrawing(given)) return drawingArguments(given);
     const auto& parameters = callable.parameters;
     std::vector<bool> filled(parameters.size());
     bool tooMany = false, unknown = false;
     for (std::uint32_t i = 0; i < given.size(); ++i) {
-        const bool drawing = given[i].value && given[i].value->kind == ExprKind::Coordinates;
-        const ParameterInfo* parameter = drawing ? nullptr : parameterOf(callable, given[i], i, pos);
-        tooMany |= !parameter && given[i].name == Symbol::None && !drawing;
+        const ParameterInfo* parameter = parameterOf(callable, given[i], i, pos);
+        tooMany |= !parameter && given[i].name == Symbol::None;
         unknown |= !parameter;
         if (!parameter) {
             if (given[i].value) (void)expression(*given[i].value, Use::Argument);
@@ -177,6 +204,7 @@ void Binder::argumentByRef(const Operand& given, const ParameterInfo& parameter)
     if (type.value == ValueType::Record && wanted.value == ValueType::Variant)
         return report(Message::RecordToVariant, given.pos);
     if (wanted.value == ValueType::Variant) return;
+    if (parameter.isOfDeclare && type.value == ValueType::Variant) return; // its value is copied there and back
     const bool isText = type.value == ValueType::FixedString && wanted.value == ValueType::String;
     const bool isSame = !type.isArray && type.value == wanted.value &&
                         (type.value != ValueType::Record || type.id == wanted.id);

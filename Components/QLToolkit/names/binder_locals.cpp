@@ -48,12 +48,15 @@ void Binder::reDim(const ReDimItem& item) {
         reportName(Message::ExpectedArray, target.pos);
 }
 
-/// ReDim of an unknown name declares an array in the procedure, also where variables must be declared.
+/// ReDim of a name that the project does not have declares an array in the procedure, also where variables must be
+/// declared and where a library has the name.
 Operand Binder::reDimTarget(const ReDimItem& item) {
     const Type type = item.type ? types_.typeOf(*item.type) : Type{ValueType::Unknown};
     if (item.target->kind == ExprKind::Name) {
         const auto& name = as<NameExpr>(*item.target);
-        if (!names_.find(name.name) && !findName(program_, *module_.scope, name.name).entity) {
+        const Entity* found = findName(program_, *module_.scope, name.name).entity;
+        const bool isOfProject = found && found->owner && found->owner->source;
+        if (!names_.find(name.name) && !isOfProject) {
             Entity& made = *names_.add(EntityKind::Variable, name.name, name.pos);
             made.type = item.type ? type : types_.typeOf(name.name, name.suffix(), nullptr);
             made.type.isArray = true;

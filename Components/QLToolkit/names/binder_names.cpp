@@ -21,12 +21,27 @@ Operand Binder::name(const NameExpr& expr) {
         const Entity* type = memberFollows() ? findType(program_, *module_.scope, Symbol::None, expr.name) : nullptr;
         return type ? entityOperand(*type, expr, false) : undefined(expr);
     }
+    if (const Entity* function = functionBehind(*found.entity, expr.name)) return entityOperand(*function, expr, false);
     if (found.isAmbiguous && found.entity->owner != module_.scope) reportName(Message::AmbiguousName, expr.pos);
     const bool isOfProject = found.entity->owner && found.entity->owner->source;
     if (isOfProject && found.entity->kind != EntityKind::Property && contradicts(expr.suffix(), found.entity->type))
         reportName(Message::TypeCharacterMismatch, expr.pos);
     if (expr.suffix() == '$' && found.entity->text) return entityOperand(*found.entity->text, expr, false);
     return entityOperand(*found.entity, expr, false);
+}
+
+// Left(s, 1) in a form is the function, although forms have a property Left: the property takes no arguments.
+const Entity* Binder::functionBehind(const Entity& entity, Symbol name) const {
+    const bool isInherited = entity.owner && entity.owner->kind == ScopeKind::LibraryClass;
+    const bool takesNone = isInherited && entity.kind == EntityKind::Property && entity.get &&
+                           entity.get->parameters.empty() && !isIndexable(entity.type);
+    if (!takesNone || !pendingIndex() || pendingIndex()->arguments.empty()) return nullptr;
+    if (const Entity* found = program_.publicNames.find(name)) return found;
+    for (const auto* library : program_.libraries) {
+        const Entity* found = library->names.find(name);
+        if (found && found->kind == EntityKind::Procedure) return found;
+    }
+    return nullptr;
 }
 
 Operand Binder::local(const NameExpr& expr, Entity& entity) {

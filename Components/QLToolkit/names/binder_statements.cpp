@@ -160,15 +160,14 @@ void Binder::exit(const Stmt& stmt) {
     case StmtKind::ExitFor:
         if (forLoops_ == 0) report(Message::ExitForOutside, stmt.pos);
         return;
-    case StmtKind::ExitSub:
-        if (kind != ProcedureKind::Sub) report(Message::ExitWrongProcedure, stmt.pos);
-        return;
-    case StmtKind::ExitFunction:
-        if (kind != ProcedureKind::Function) report(Message::ExitWrongProcedure, stmt.pos);
-        return;
-    default:
-        if (kind < ProcedureKind::PropertyGet) report(Message::ExitWrongProcedure, stmt.pos);
+    case StmtKind::ExitSub: return exitProcedure(kind == ProcedureKind::Sub, "Sub", stmt.pos);
+    case StmtKind::ExitFunction: return exitProcedure(kind == ProcedureKind::Function, "Function", stmt.pos);
+    default: return exitProcedure(kind >= ProcedureKind::PropertyGet, "Property", stmt.pos);
     }
+}
+
+void Binder::exitProcedure(bool fits, std::string_view word, Pos pos) {
+    if (!fits) module_.diagnostics.report(Message::ExitWrongProcedure, pos, word);
 }
 
 void Binder::raiseEvent(const RaiseEventStmt& stmt) {

@@ -70,7 +70,8 @@ std::vector<std::vector<Diagnostic>> checkProgram(const std::vector<ParsedModule
     program.warnsOptionally = options.warnsOptionally;
     program.warnsOfDevices = options.warnsOfDevices;
     auto libraries = options.libraries;
-    libraries.insert(libraries.begin(), {&language::languageLibrary(), &language::formsLibrary()});
+    const auto builtIn = language::builtInLibraries();
+    libraries.insert(libraries.begin(), builtIn.begin(), builtIn.end());
     addLibraries(program, libraries);
 
     for (const auto& [tree, form] : modules) {

@@ -192,7 +192,7 @@ void declareModule(Program& program, SourceModule& module, Symbol name) {
     scope.name = name;
     scope.source = &module;
     scope.creatable = scope.isClass();
-    scope.predeclared = module.form.has_value();
+    scope.predeclared = module.tree.source.kind() == FileKind::Form;
     scope.open = hasOutsideMembers(module.tree.source.kind());
     module.scope = &scope;
     ModuleDeclarations declarations{program, module};

@@ -18,6 +18,7 @@ struct ParameterInfo {
     bool optional = false;
     bool paramArray = false;
     bool any = false; ///< As Any, of a Declare
+    bool isOfDeclare = false;
 };
 
 /// How a procedure, property or Declare is called.

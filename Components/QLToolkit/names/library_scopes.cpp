@@ -17,7 +17,7 @@ constexpr std::array kSimpleTypes{
     NamedType{"Single", ValueType::Single},     NamedType{"Double", ValueType::Double},
     NamedType{"Currency", ValueType::Currency}, NamedType{"Date", ValueType::Date},
     NamedType{"String", ValueType::String},     NamedType{"Variant", ValueType::Variant},
-    NamedType{"Object", ValueType::Object},     NamedType{"OLE_COLOR", ValueType::Long},
+    NamedType{"Object", ValueType::Object},     NamedType{"OLE_COLOR", ValueType::Long},    NamedType{"Any", ValueType::Variant},
 };
 
 class LibraryScopes {
@@ -39,7 +39,10 @@ public:
     }
 
 private:
-    Symbol symbolOf(std::string_view name) { return program_.symbols.intern(name); }
+    Symbol symbolOf(std::string_view name) {
+        if (name.starts_with('[')) name = name.substr(1, name.size() - 2);
+        return program_.symbols.intern(name);
+    }
 
     Scope& declareGroup(const language::Group& group) {
         const bool isClass = group.kind == language::GroupKind::Class, isEnum = group.kind == language::GroupKind::Enum;
@@ -114,7 +117,7 @@ private:
             Type type = typeNamed(parameter.type);
             type.isArray = parameter.isArray && !parameter.paramArray;
             parameters_.push_back({symbolOf(parameter.name), type, !parameter.byRef, parameter.optional,
-                                   parameter.paramArray, false});
+                                   parameter.paramArray, parameter.type == "Any"});
         }
         return program_.arena.copy(parameters_.data(), parameters_.size());
     }

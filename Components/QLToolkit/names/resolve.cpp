@@ -78,7 +78,7 @@ private:
     void signature(Entity& entity, const Signature& decl, const ProcedureDecl* body) {
         auto* made = program_.arena.make<Callable>();
         made->body = body;
-        made->parameters = parameters(decl.parameters);
+        made->parameters = parameters(decl.parameters, body == nullptr);
         const bool hasResult = decl.kind == ProcedureKind::Function || decl.kind == ProcedureKind::PropertyGet;
         if (hasResult) made->result = types_.typeOf(decl.name, decl.suffix, decl.result);
         switch (decl.kind) {
@@ -103,7 +103,7 @@ private:
         return &made;
     }
 
-    Span<ParameterInfo> parameters(const Span<Parameter>& list) {
+    Span<ParameterInfo> parameters(const Span<Parameter>& list, bool isOfDeclare = false) {
         std::vector<ParameterInfo> made;
         for (const auto& p : list) {
             ParameterInfo info;
@@ -113,6 +113,7 @@ private:
             info.byVal = p.passing == Passing::ByVal;
             info.optional = p.optional;
             info.paramArray = p.paramArray;
+            info.isOfDeclare = isOfDeclare;
             info.any = p.type && p.type->kind == TypeKind::Any;
             if (p.defaultValue) (void)constants_.valueOf(*p.defaultValue, module_);
             made.push_back(info);

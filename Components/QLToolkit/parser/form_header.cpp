@@ -112,6 +112,7 @@ private:
 } // namespace
 
 std::optional<image::Control> readFormHeader(const SourceText& source) {
+    if (source.kind() == FileKind::Class) return std::nullopt; // its block has no controls
     if (source.header() != HeaderState::Complete || source.headerBlock() == 0) return std::nullopt;
     return FormHeaderReader{source}.read();
 }

@@ -6,7 +6,7 @@
 
 namespace qltoolkit {
 
-/// Returns the form with its controls and properties, or nothing if the file has no complete block. Members of a
+/// Returns the form with its controls and properties, or nothing for a class and a file without a complete block. Members of a
 /// nested block ("BeginProperty Font") get dotted names ("Font.Size"). Comments after values are dropped.
 std::optional<image::Control> readFormHeader(const SourceText& source);
 
