@@ -78,12 +78,14 @@ class Corpora(unittest.TestCase):
         self.assertEqual(self.causes(("warning", 2900, "Not declared.", "A.bas")), [])
 
     def test_a_merge_conflict_is_damage(self):
-        self.assertEqual(self.causes(("error", 1500, "x.", "A.bas"), sources={"A.bas": "<<<<<<< HEAD\n"}), ["file damaged"])
+        sources = {"A.bas": "<<<<<<< HEAD\n"}
+        self.assertEqual(self.causes(("error", 1500, "x.", "A.bas"), sources=sources), ["file damaged"])
 
     def test_a_name_may_be_in_a_missing_library_or_file(self):
         name = ("error", 2003, "User-defined type not defined: Grid.", "A.bas")
         self.assertEqual(self.causes(name), ["none"])
-        self.assertEqual(self.causes(("warning", 1902, "The library x was not found.", "P.vbp"), name), ["library absent"])
+        absent = ("warning", 1902, "The library Grids was not found.", "P.vbp")
+        self.assertEqual(self.causes(absent, name), ["library absent"])
         self.assertEqual(self.causes(("error", 1000, "The file does not exist.", "Grid.cls"), name),
                          ["source file missing", "source file missing"])
 
