@@ -1,5 +1,5 @@
 #pragma once
-// VB's arithmetic on Byte, Integer and Long: a result beyond the type's range is error 6, a division by 0 error 11.
+// VB's arithmetic: a result beyond the type's range is error 6, a division by 0 error 11.
 #include "Basic/runtime_error.h"
 #include "Basic/types.h"
 #include <concepts>
@@ -59,12 +59,30 @@ T Mod(T a, std::type_identity_t<T> b) {
     return static_cast<T>(a % b);
 }
 
+Single Add(Single a, Single b);
+Double Add(Double a, Double b);
+Currency Add(Currency a, Currency b);
+
+Single Subtract(Single a, Single b);
+Double Subtract(Double a, Double b);
+Currency Subtract(Currency a, Currency b);
+
+Single Multiply(Single a, Single b);
+Double Multiply(Double a, Double b);
+/// The exact product is rounded to the nearest ten-thousandth, halves to even.
+Currency Multiply(Currency a, Currency b);
+
+constexpr Single Negate(Single a) noexcept { return -a; }
+constexpr Double Negate(Double a) noexcept { return -a; }
+Currency Negate(Currency a);
+
 /// VB's ^, whose result is always a Double. Error 5 for a negative base with a fractional exponent and for 0 with a
 /// negative exponent; 6 for an overflow.
 Double Power(Double base, Double exponent);
 
-/// VB's /, whose result is a Double. Error 11 for a divisor of 0, but 6 for 0 / 0; 6 for an overflow.
+/// VB's /, whose result is a Double, or a Single for two of them. Error 11 for a divisor of 0, but 6 for 0 / 0; 6 for an overflow.
 Double Divide(Double a, Double b);
+Single Divide(Single a, Single b);
 
 template <WholeNumber T>
 constexpr T Eqv(T a, std::type_identity_t<T> b) noexcept {

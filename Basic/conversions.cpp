@@ -87,7 +87,10 @@ bool CBool(const Convertible& value) {
     return value.number() != 0;
 }
 
-Byte CByte(const Convertible& value) { return toWhole<Byte>(value); }
+Byte CByte(const Convertible& value) {
+    if (value.isBoolean()) return value.number() == 0 ? 0 : 255;
+    return toWhole<Byte>(value);
+}
 Integer CInt(const Convertible& value) { return toWhole<Integer>(value); }
 Long CLng(const Convertible& value) { return toWhole<Long>(value); }
 Double CDbl(const Convertible& value) { return value.number(); }

@@ -15,7 +15,7 @@ concept Number = std::is_arithmetic_v<T> && !std::same_as<T, bool> && !std::same
 /// The argument of a conversion: a number, a Boolean (True is -1) or a text.
 class Convertible {
 public:
-    Convertible(std::same_as<bool> auto value) : number_(value ? -1 : 0) {}
+    Convertible(std::same_as<bool> auto value) : number_(value ? -1 : 0), isBoolean_(true) {}
     Convertible(Number auto value) : number_(static_cast<Double>(value)) {}
     Convertible(Currency value) : number_(static_cast<Double>(value.scaled) / 10000) {}
     Convertible(Date value) : number_(value.days) {}
@@ -24,12 +24,14 @@ public:
     Convertible(const char* text) : text_(text) {}
 
     const std::optional<std::string_view>& text() const { return text_; }
+    bool isBoolean() const { return isBoolean_; }
 
     /// Returns the number, or parses the text: error 13 if it is not a number, 6 if it is too large.
     Double number() const;
 
 private:
     Double number_ = 0;
+    bool isBoolean_ = false;
     std::optional<std::string_view> text_;
 };
 
@@ -38,7 +40,7 @@ private:
 bool CBool(const Convertible& value);
 
 /// Rounds to the nearest whole number, halves to even. Error 13 for a text that is not a number, 6 for a number out of
-/// range. A text such as "&HFFFF" is a bit pattern of the type: CInt returns -1, CLng 65535.
+/// range. A text such as "&HFFFF" is a bit pattern of the type: CInt returns -1, CLng 65535. CByte(True) is 255.
 Byte CByte(const Convertible& value);
 Integer CInt(const Convertible& value);
 Long CLng(const Convertible& value);

@@ -85,6 +85,68 @@ TEST(ArithmeticOfDoubles, PowerAndDivide) {
     }
 }
 
+TEST(ArithmeticOfDoubles, OverflowsAreErrors) {
+    EXPECT_EQ(Add(0.5, 0.25), 0.75);
+    EXPECT_EQ(attempt([] { (void)Add(1.7e308, 1e308); }).Number, 6);
+    EXPECT_EQ(attempt([] { (void)Subtract(-1.7e308, 1e308); }).Number, 6);
+    EXPECT_EQ(attempt([] { (void)Multiply(1e200, -1e200); }).Number, 6);
+    EXPECT_EQ(Multiply(1e-200, 1e-200), 0);
+}
+
+TEST(ArithmeticOfSingles, ResultsAreRoundedToSingle) {
+    EXPECT_EQ(Add(16777216.0F, 1.0F), 16777216.0F);
+    EXPECT_EQ(Subtract(0.3F, 0.1F), 0.3F - 0.1F);
+    EXPECT_EQ(Multiply(0.1F, 0.1F), 0.1F * 0.1F);
+    EXPECT_EQ(Divide(1.0F, 3.0F), 1.0F / 3.0F);
+    EXPECT_EQ(Negate(0.1F), -0.1F);
+    EXPECT_EQ(attempt([] { (void)Multiply(3e38F, 2.0F); }).Number, 6);
+    EXPECT_EQ(attempt([] { (void)Add(3e38F, 3e38F); }).Number, 6);
+    EXPECT_EQ(attempt([] { (void)Divide(1.0F, 0.0F); }).Number, 11);
+    EXPECT_EQ(attempt([] { (void)Divide(0.0F, 0.0F); }).Number, 6);
+}
+
+TEST(ArithmeticOfCurrency, SumsAreExact) {
+    constexpr Currency kMost{std::numeric_limits<std::int64_t>::max()},
+        kLeast{std::numeric_limits<std::int64_t>::min()};
+    EXPECT_EQ(Add(Currency{1000}, Currency{2000}), Currency{3000});
+    EXPECT_EQ(Add(kMost, kLeast), Currency{-1});
+    EXPECT_EQ(Negate(kMost), Currency{-kMost.scaled});
+    expectResult([&] { return Add(kMost, Currency{1}); }, Currency{}, 6);
+    expectResult([&] { return Subtract(kLeast, Currency{1}); }, Currency{}, 6);
+    expectResult([&] { return Negate(kLeast); }, Currency{}, 6);
+}
+
+TEST(ArithmeticOfCurrency, ProductsAreRoundedHalfToEven) {
+    struct Row {
+        std::int64_t a, b, product;
+        int error;
+    };
+    constexpr auto kMost = std::numeric_limits<std::int64_t>::max(), kLeast = std::numeric_limits<std::int64_t>::min();
+    const Row rows[] = {
+        {15000, 20000, 30000, 0},
+        {-15000, 20000, -30000, 0},
+        {5000, 1, 0, 0},
+        {5000, 3, 2, 0},
+        {5001, 1, 1, 0},
+        {-5000, 3, -2, 0},
+        {4999, 1, 0, 0},
+        {kMost, 10000, kMost, 0},
+        {kLeast, 10000, kLeast, 0},
+        {kLeast, -10000, 0, 6},
+        {kMost, 10001, 0, 6},
+        {kMost, kMost, 0, 6},
+        {kLeast, kLeast, 0, 6},
+        {kMost, 5000, kMost / 2 + 1, 0},
+        {kLeast, 5000, kLeast / 2, 0},
+        {3037000499, 10000, 3037000499, 0},
+        {99999999999, 123456789, 1234567889987654, 0},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(testing::Message() << row.a << " and " << row.b);
+        expectResult([&] { return Multiply(Currency{row.a}, Currency{row.b}); }, Currency{row.product}, row.error);
+    }
+}
+
 TEST(ArithmeticOfBits, EqvAndImp) {
     EXPECT_EQ(Eqv(Integer{10}, 8), -3);
     EXPECT_EQ(Imp(Integer{10}, 8), -3);

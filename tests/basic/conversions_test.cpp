@@ -109,7 +109,14 @@ TEST(Conversions, WholeNumbersOverflow) {
     }
     EXPECT_EQ(failure([] { return CLng("2147483648"); }), 6);
     EXPECT_EQ(failure([] { return CLng("1e400"); }), 6);
-    EXPECT_EQ(failure([] { return CByte(true); }), 6);
+}
+
+TEST(Conversions, TrueIsAllOnesInEveryType) {
+    EXPECT_EQ(CByte(true), 255);
+    EXPECT_EQ(CByte(false), 0);
+    EXPECT_EQ(CInt(true), -1);
+    EXPECT_EQ(CDbl(true), -1);
+    EXPECT_EQ(CCur(true), Currency{-10000});
 }
 
 TEST(Conversions, CSngAndCDbl) {

@@ -76,6 +76,7 @@ TEST(ParseStatements, CallsInBothForms) {
                       {"a.Open 1", "(do (call (. a Open) 1))"},
                       {"Me.Refresh", "(do (. Me Refresh))"},
                       {"Call 5", "2:6 1300"},
+                      {"Call Me", "2:6 1539"},
                       {"f(1, 2)", "2:1 1535"},
                       {"f a:=1, 2", "2:9 1805"},
                       {"f 1 2", "2:5 1501"}});

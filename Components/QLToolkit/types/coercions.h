@@ -14,6 +14,10 @@ enum class Coercion : std::uint8_t {
 };
 
 /// For Let assignments and ByVal arguments. Source: the published language specification, 5.5.1.2.
+/// An object for a parameter of type Object or Variant is passed as it is.
 [[nodiscard]] Coercion coercionOf(ValueType from, ValueType to);
+/// Of declared types: arrays must have the same elements, and Types the same name. Strings and arrays of Byte convert to
+/// each other.
+[[nodiscard]] Coercion coercionOf(const Type& from, const Type& to);
 
 } // namespace qltoolkit
