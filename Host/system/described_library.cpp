@@ -1,4 +1,5 @@
 #include "Host/system/described_library.h"
+#include "Components/Language/foreign.h"
 #include <algorithm>
 #include <iterator>
 
