@@ -50,12 +50,16 @@ struct Group {
     bool onDevices = true;
     std::string instead; ///< as for members
     std::string help;
+    bool control = false; ///< forms contain objects of the class
 };
 
 struct Library {
     std::string name; ///< as it qualifies a name: "VBA"
     std::string help;
     std::vector<Group> groups;
+    std::vector<std::string> guids; ///< by which projects refer to it, in capitals and braces; one a version
+    bool onDevices = true;
+    std::string instead; ///< as for members
 };
 
 /// Reads a library in the notation that Components/Language/README.md explains. Throws std::invalid_argument with the
@@ -76,8 +80,5 @@ struct Library {
 
 /// The libraries above, in the order in which names are looked up.
 [[nodiscard]] std::span<const Library* const> builtInLibraries();
-
-/// Returns a class of the libraries above by its library and name, "VB.Form"; case-sensitive. Null if there is none.
-[[nodiscard]] const Group* findClass(std::string_view name);
 
 } // namespace language

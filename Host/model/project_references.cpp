@@ -1,10 +1,10 @@
 #include "Host/model/project_references.h"
 #include "Basic/case_folding.h"
+#include "Components/Language/foreign.h"
 #include "Host/files/path_lookup.h"
 #include "Host/model/errors/host_errors.h"
 #include "Host/model/host.h"
 #include "Host/model/project.h"
-#include "Host/model/references/control_libraries.h"
 #include "Host/model/references/language_libraries.h"
 #include "Host/system/path_text.h"
 #include <algorithm>
@@ -146,8 +146,8 @@ std::optional<ObjectLine> ProjectReferences::objectLineOf(const std::string& cla
     const auto library = className.substr(0, className.find('.'));
     for (const auto& reference : list_) {
         const auto& line = reference->line();
-        const auto* const known = controlLibraryOf(line.guid);
-        const auto name = known ? std::string(known->name) : reference->Name();
+        const auto* const known = language::foreignLibrary(line.guid);
+        const auto name = known ? known->name : reference->Name();
         if (line.kind != RefKind::Control ||
             !(basic::equalNoCase(library, name) || basic::equalNoCase(library, name + "Ctl")))
             continue;

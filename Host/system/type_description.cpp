@@ -1,5 +1,5 @@
 #include "Host/system/type_description.h"
-#include "Components/Language/library.h"
+#include "Components/Language/foreign.h"
 #include "Host/files/path_lookup.h"
 #include "Host/files/system_error.h"
 #include "Host/system/description_table.h"

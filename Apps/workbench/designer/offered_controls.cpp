@@ -1,6 +1,6 @@
 #include "Apps/workbench/designer/offered_controls.h"
 #include "Basic/case_folding.h"
-#include "Host/model/references/control_libraries.h"
+#include "Components/Language/foreign.h"
 
 namespace workbench {
 
@@ -11,9 +11,9 @@ OfferedControls offeredControls(const host::HostOptions& options, vbide::VBProje
     for (const auto& reference : project.References()->items()) {
         for (const auto& name : installed)
             if (basic::startsWithNoCase(name, reference->Name() + "Ctl.")) offered.ofDevices.push_back(name);
-        if (const auto* library = host::controlLibraryOf(reference->Guid()))
-            for (const auto control : library->classes)
-                offered.ofLibraries.push_back(std::string(library->name) + "." + std::string(control));
+        if (const auto* library = language::foreignLibrary(reference->Guid()))
+            for (const auto& group : library->groups)
+                if (group.control) offered.ofLibraries.push_back(library->name + "." + group.name);
     }
     for (const auto& other : project.VBComponents()->items())
         if (other->Type() == vbide::vbext_ct_UserControl && !(other == component))

@@ -4,20 +4,33 @@
 namespace language {
 namespace {
 
+void readAbsence(LineReader& line, auto& of) {
+    if (!line.acceptWord("absent")) line.fail("unknown word");
+    of.onDevices = false;
+    of.instead = line.quoted();
+}
+
+void readAttributes(LineReader& line, Library& library) {
+    while (!line.atEnd())
+        if (line.acceptWord("guid"))
+            library.guids.emplace_back(line.quoted());
+        else
+            readAbsence(line, library);
+    library.help = line.help();
+}
+
 void readAttributes(LineReader& line, Group& group) {
-    while (!line.atEnd()) {
+    while (!line.atEnd())
         if (line.acceptWord("creatable"))
             group.creatable = true;
+        else if (line.acceptWord("control"))
+            group.control = true;
         else if (line.acceptWord("global"))
             group.global = true;
         else if (line.acceptWord("open"))
             group.open = true;
-        else if (line.acceptWord("absent")) {
-            group.onDevices = false;
-            group.instead = line.quoted();
-        } else
-            line.fail("unknown word");
-    }
+        else
+            readAbsence(line, group);
     group.help = line.help();
 }
 
@@ -34,19 +47,13 @@ void LibraryReader::read(std::string_view text) {
 }
 
 void LibraryReader::readLine(LineReader& line) {
-    if (line.acceptWord("Library")) {
-        if (!library_.name.empty()) line.fail("the library already has a name");
-        library_.name = line.name();
-        if (!line.atEnd()) line.fail("unknown word");
-        library_.help = line.help();
-    } else if (library_.name.empty())
-        line.fail("expected Library and its name");
-    else if (!readHead(line))
-        readContents(line);
+    if (!readHead(line)) readContents(line);
 }
 
 bool LibraryReader::readHead(LineReader& line) {
-    if (line.acceptWord("Module"))
+    if (line.acceptWord("Library"))
+        openLibrary(line);
+    else if (line.acceptWord("Module"))
         openGroup(GroupKind::Module, line);
     else if (line.acceptWord("Class"))
         openGroup(GroupKind::Class, line);
@@ -59,8 +66,16 @@ bool LibraryReader::readHead(LineReader& line) {
     return true;
 }
 
+void LibraryReader::openLibrary(LineReader& line) {
+    auto& library = libraries_.emplace_back();
+    library.name = line.name();
+    readAttributes(line, library);
+    group_ = nullptr;
+}
+
 void LibraryReader::openGroup(GroupKind kind, LineReader& line) {
-    group_ = &library_.groups.emplace_back();
+    if (libraries_.empty()) line.fail("expected Library and its name");
+    group_ = &libraries_.back().groups.emplace_back();
     group_->kind = kind;
     group_->name = line.name();
     readAttributes(line, *group_);

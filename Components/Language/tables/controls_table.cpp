@@ -13,7 +13,7 @@ Shared StyledButton
 
 Class Control open ' Any control
 
-Class CommandButton absent "Use QLButton"
+Class CommandButton control absent "Use QLButton"
   Event Click
   Include InputEvents MouseEvents Placed Control Seen Enabled Tab Window Colours Font Appearance StyledButton OleDrop
   Property Cancel As Boolean
@@ -21,7 +21,7 @@ Class CommandButton absent "Use QLButton"
   Property Default As Boolean
   Property Value As Boolean default
 
-Class Label absent "Use QLLabel"
+Class Label control absent "Use QLLabel"
   Event Click
   Event Change
   Event DblClick
@@ -36,7 +36,7 @@ Class Label absent "Use QLLabel"
   Property WordWrap As Boolean
   Sub Refresh()
 
-Class TextBox absent "Use QLTextBox"
+Class TextBox control absent "Use QLTextBox"
   Event Change
   Event Click
   Event DblClick
@@ -55,7 +55,7 @@ Class TextBox absent "Use QLTextBox"
   Property SelText As String
   Property Text As String default
 
-Class Frame absent "Use QLFrame"
+Class Frame control absent "Use QLFrame"
   Event DragDrop(Source As Control, X As Single, Y As Single)
   Event DragOver(Source As Control, X As Single, Y As Single, State As Integer)
   Event Click
@@ -66,7 +66,7 @@ Class Frame absent "Use QLFrame"
   Property ClipControls As Boolean readonly
   Property HelpContextID As Long
 
-Class CheckBox absent "Use QLCheckBox"
+Class CheckBox control absent "Use QLCheckBox"
   Event Click
   Include InputEvents MouseEvents ValidateEvent
   Include Placed Control Seen Enabled Tab Window Colours Font Appearance StyledButton Data OleDrop
@@ -74,7 +74,7 @@ Class CheckBox absent "Use QLCheckBox"
   Property Caption As String
   Property Value As Integer default
 
-Class OptionButton absent "Use QLRadioButton"
+Class OptionButton control absent "Use QLRadioButton"
   Event Click
   Event DblClick
   Include InputEvents MouseEvents ValidateEvent
@@ -95,7 +95,7 @@ Shared Items
   Sub Clear()
   Sub RemoveItem(Index As Integer)
 
-Class ComboBox absent "Use QLComboBox"
+Class ComboBox control absent "Use QLComboBox"
   Event Change
   Event Click
   Event DblClick
@@ -111,7 +111,7 @@ Class ComboBox absent "Use QLComboBox"
   Property Style As Integer readonly
   Property Text As String default
 
-Class ListBox absent "Use QLListBox"
+Class ListBox control absent "Use QLListBox"
   Event Click
   Event DblClick
   Event ItemCheck(Item As Integer)
@@ -140,13 +140,13 @@ Shared Bar
   Property WhatsThisHelpID As Long
   Sub ShowWhatsThis()
 
-Class HScrollBar absent "Use QLHScrollBar"
+Class HScrollBar control absent "Use QLHScrollBar"
   Include Bar
 
-Class VScrollBar absent "Use QLVScrollBar"
+Class VScrollBar control absent "Use QLVScrollBar"
   Include Bar
 
-Class Timer absent "Use QLTimer"
+Class Timer control absent "Use QLTimer"
   Event Timer
   Property Name As String readonly
   Property Index As Integer readonly
@@ -157,7 +157,7 @@ Class Timer absent "Use QLTimer"
   Property Enabled As Boolean default
   Property Interval As Long
 
-Class PictureBox absent "Use QLPicture, or QLInk to draw with the pen"
+Class PictureBox control absent "Use QLPicture, or QLInk to draw with the pen"
   Event Click
   Event Change
   Event DblClick
@@ -171,7 +171,7 @@ Class PictureBox absent "Use QLPicture, or QLInk to draw with the pen"
   Property Negotiate As Boolean readonly
   Property Picture As IPictureDisp default
 
-Class Image absent "Use QLPicture"
+Class Image control absent "Use QLPicture"
   Event Click
   Event DblClick
   Include DragEvents MouseEvents OleEvents Placed Control Seen Enabled Data OleDrag
@@ -181,7 +181,7 @@ Class Image absent "Use QLPicture"
   Property Stretch As Boolean
   Sub Refresh()
 
-Class Shape absent "Use QLShape"
+Class Shape control absent "Use QLShape"
   Include Placed Control Shown
   Property BackColor As OLE_COLOR
   Property BackStyle As Integer
@@ -194,7 +194,7 @@ Class Shape absent "Use QLShape"
   Property Shape As ShapeConstants default
   Sub Refresh()
 
-Class Line absent "Use QLLine"
+Class Line control absent "Use QLLine"
   Include Control
   Property BorderColor As OLE_COLOR
   Property BorderStyle As BorderStyleConstants
@@ -208,7 +208,7 @@ Class Line absent "Use QLLine"
   Sub Refresh()
   Sub ZOrder(Optional Position)
 
-Class Menu absent "Use QLMenu"
+Class Menu control absent "Use QLMenu"
   Event Click
   Property Name As String readonly
   Property Index As Integer readonly

@@ -3,7 +3,7 @@
 namespace language {
 
 const std::string_view kFilesControlsTable = R"(
-Class DriveListBox absent "Devices have no drives; use QLFileStore"
+Class DriveListBox control absent "Devices have no drives; use QLFileStore"
   Event Change
   Event Scroll
   Include InputEvents ValidateEvent
@@ -14,7 +14,7 @@ Class DriveListBox absent "Devices have no drives; use QLFileStore"
   Property ListIndex As Integer
   Property TopIndex As Integer
 
-Class DirListBox absent "Use QLListBox with the Files of a QLFileStore"
+Class DirListBox control absent "Use QLListBox with the Files of a QLFileStore"
   Event Change
   Event Click
   Event Scroll
@@ -26,7 +26,7 @@ Class DirListBox absent "Use QLListBox with the Files of a QLFileStore"
   Property Path As String default
   Property TopIndex As Integer
 
-Class FileListBox absent "Use QLListBox with the Files of a QLFileStore"
+Class FileListBox control absent "Use QLListBox with the Files of a QLFileStore"
   Event Click
   Event DblClick
   Event PathChange
@@ -49,7 +49,7 @@ Class FileListBox absent "Use QLListBox with the Files of a QLFileStore"
   Property System As Boolean
   Property TopIndex As Integer
 
-Class Data open absent "Use QLDatabase"
+Class Data control open absent "Use QLDatabase"
   Event Validate(Action As Integer, Save As Integer)
   Event Error(DataErr As Integer, Response As Integer)
   Event Reposition
@@ -76,7 +76,7 @@ Class Data open absent "Use QLDatabase"
   Sub UpdateControls()
   Sub UpdateRecord()
 
-Class OLE open absent "Devices have no embedded objects; use QLPicture or QLMovie to show files"
+Class OLE control open absent "Devices have no embedded objects; use QLPicture or QLMovie to show files"
   Event Updated(Code As Integer)
   Event Click
   Event DblClick

@@ -3,6 +3,7 @@
 #include "Components/Language/tables/tables.h"
 #include <array>
 #include <initializer_list>
+#include <stdexcept>
 
 namespace language {
 namespace {
@@ -10,7 +11,9 @@ namespace {
 Library read(std::initializer_list<std::string_view> tables) {
     LibraryReader reader;
     for (const auto table : tables) reader.read(table);
-    return std::move(reader).take();
+    auto libraries = std::move(reader).take();
+    if (libraries.size() != 1) throw std::invalid_argument("expected one library");
+    return std::move(libraries.front());
 }
 
 } // namespace
@@ -25,7 +28,8 @@ const Library& languageLibrary() {
 }
 
 const Library& formsLibrary() {
-    static const auto library = read({kSharedTable, kFormTable, kControlsTable, kFilesControlsTable, kGlobalTable});
+    static const auto library =
+        read({kEventsTable, kSharedTable, kFormTable, kControlsTable, kFilesControlsTable, kGlobalTable});
     return library;
 }
 
@@ -42,16 +46,6 @@ const Library& pictureLibrary() {
 std::span<const Library* const> builtInLibraries() {
     static const std::array libraries{&languageLibrary(), &formsLibrary(), &runtimeLibrary(), &pictureLibrary()};
     return libraries;
-}
-
-const Group* findClass(std::string_view name) {
-    const auto point = name.find('.');
-    if (point == std::string_view::npos) return nullptr;
-    for (const auto* library : builtInLibraries())
-        if (library->name == name.substr(0, point))
-            for (const auto& group : library->groups)
-                if (group.kind == GroupKind::Class && group.name == name.substr(point + 1)) return &group;
-    return nullptr;
 }
 
 } // namespace language

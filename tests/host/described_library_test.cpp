@@ -1,28 +1,22 @@
 #include "Basic/runtime_error.h"
-#include "Host/system/described_library.h"
-#include "tests/host_system/temp_folder.h"
+#include "Host/model/references/described_library.h"
+#include "tests/support/temp_folder.h"
 #include <algorithm>
 #include <gtest/gtest.h>
 #include <set>
 
 namespace {
 
-using language::Group;
-using language::GroupKind;
-using language::Library;
-using language::Member;
-using language::MemberKind;
-
 const std::string kInstallation = FERNWICK_SOURCE_DIR "/installation/";
 const std::string kLibraryHead = "name = 'Lib'\nguid = '{1}'\nversion = '1.0'\n";
 
-const Group* groupOf(const Library& library, const std::string& name) {
+const language::Group* groupOf(const language::Library& library, const std::string& name) {
     const auto found =
         std::find_if(library.groups.begin(), library.groups.end(), [&](const auto& g) { return g.name == name; });
     return found == library.groups.end() ? nullptr : &*found;
 }
 
-const Member* memberOf(const Library& library, const std::string& group, const std::string& name) {
+const language::Member* memberOf(const language::Library& library, const std::string& group, const std::string& name) {
     const auto* in = groupOf(library, group);
     if (!in) return nullptr;
     const auto found =
@@ -30,13 +24,15 @@ const Member* memberOf(const Library& library, const std::string& group, const s
     return found == in->members.end() ? nullptr : &*found;
 }
 
-Library shipped(const std::string& file) { return host::libraryOf(host::readTypeDescription(kInstallation + file)); }
+language::Library shipped(const std::string& file) {
+    return host::libraryOf(host::readTypeDescription(kInstallation + file));
+}
 
 class DescribedLibrary : public testing::Test {
 protected:
-    Library read(const std::string& toml) {
+    language::Library read(const std::string& toml) {
         folder.write("lib.toml", kLibraryHead + toml);
-        return host::libraryOf(host::readTypeDescription((folder / "lib.toml").string()));
+        return host::libraryOf(host::readTypeDescription(folder / "lib.toml"));
     }
     std::string errorOf(const std::string& toml) {
         return basic::attempt([&] { (void)read(toml); }).Description;
@@ -53,17 +49,17 @@ TEST_F(DescribedLibrary, HasTheModulesAndFunctions) {
     EXPECT_EQ(library.name, "Lib");
     const auto* f = memberOf(library, "M", "F");
     ASSERT_TRUE(f);
-    EXPECT_EQ(f->kind, MemberKind::Function);
+    EXPECT_EQ(f->kind, language::MemberKind::Function);
     EXPECT_EQ(f->type, "Date");
     EXPECT_EQ(f->help, "Now");
     EXPECT_TRUE(f->parameters.at(0).byRef);
     EXPECT_TRUE(f->parameters.at(1).optional);
-    EXPECT_EQ(memberOf(library, "M", "S")->kind, MemberKind::Sub);
+    EXPECT_EQ(memberOf(library, "M", "S")->kind, language::MemberKind::Sub);
 }
 
 TEST_F(DescribedLibrary, HasEnumerations) {
     const auto library = read("[[enums]]\nname = 'E'\nvalues = [{ name = 'one', value = -1 }]\n");
-    EXPECT_EQ(groupOf(library, "E")->kind, GroupKind::Enum);
+    EXPECT_EQ(groupOf(library, "E")->kind, language::GroupKind::Enum);
     EXPECT_EQ(memberOf(library, "E", "one")->value, "-1");
 }
 
@@ -80,14 +76,13 @@ TEST_F(DescribedLibrary, HasTheDefaultMemberThatAClassNames) {
     EXPECT_FALSE(memberOf(library, "B", "Count")->isDefault);
     EXPECT_FALSE(memberOf(library, "B", "Count")->writable);
     EXPECT_EQ(memberOf(library, "B", "Count")->type, "");
-    EXPECT_EQ(memberOf(library, "B", "Click")->kind, MemberKind::Event);
+    EXPECT_EQ(memberOf(library, "B", "Click")->kind, language::MemberKind::Event);
     EXPECT_FALSE(memberOf(library, "C", "Text")->isDefault);
 }
 
 TEST_F(DescribedLibrary, RefusesADefaultMemberThatTheClassLacks) {
     folder.write("c/B.toml", "name = 'B'\nprogid = 'Lib.B'\nclsid = '{2}'\ndefault_member = 'Text'\n");
-    EXPECT_EQ(errorOf("classes = 'c'\n"),
-              (folder / "c/B.toml").string() + ":1: there is no property or method \"Text\"");
+    EXPECT_EQ(errorOf("classes = 'c'\n"), folder / "c/B.toml" + ":1: there is no property or method \"Text\"");
 }
 
 TEST_F(DescribedLibrary, HasAFormWithTheMembersThatDevicesHave) {
@@ -103,7 +98,7 @@ TEST_F(DescribedLibrary, HasAFormWithTheMembersThatDevicesHave) {
 
 TEST_F(DescribedLibrary, RefusesAFormThatExtendsAnUnknownClass) {
     folder.write("Form.toml", "name = 'F'\nextends = 'VB.Window'\n");
-    EXPECT_EQ(errorOf("form = 'Form.toml'\n"), (folder / "Form.toml").string() + ":1: there is no class \"VB.Window\"");
+    EXPECT_EQ(errorOf("form = 'Form.toml'\n"), folder / "Form.toml" + ":1: there is no class \"VB.Window\"");
 }
 
 TEST(ShippedDescriptions, NameTypesThatExist) {
