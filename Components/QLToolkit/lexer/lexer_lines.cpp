@@ -13,28 +13,24 @@ Pos Lexer::contentEnd() const {
 }
 
 // Skips empty lines and comment lines, so that the parser never sees them.
-void Lexer::startLine() {
+void Lexer::readFirst(Token& token) {
+    atLineStart_ = false;
     continuations_ = 0;
-    const auto lines = source_.lineCount();
-    while (line_ <= lines) {
-        const char* p = base_ + pos_;
-        while (charIs(*p, kBlank)) ++p;
-        pos_ = static_cast<Pos>(p - base_);
-        if (*p == '\'')
-            skipComment();
-        else if (!isLineEnd(*p))
-            return;
-        ++line_;
-        pos_ = line_ <= lines ? source_.lineStart(line_) : source_.size();
-    }
+    const char* p = skipBlanks(base_ + pos_);
+    if (isLineEnd(*p) || *p == '\'') return readAfterEmptyLines(token, p);
+    pos_ = firstOfLine_ = static_cast<Pos>(p - base_);
+    next(token);
 }
 
-void Lexer::endLine(Token& token, Pos at) {
-    token.kind = TokenKind::EndOfLine;
-    token.begin = token.end = at;
-    ++line_;
-    pos_ = line_ <= source_.lineCount() ? source_.lineStart(line_) : source_.size();
-    atLineStart_ = true;
+void Lexer::readAfterEmptyLines(Token& token, const char* p) {
+    do {
+        pos_ = static_cast<Pos>(p - base_);
+        if (*p == '\'') skipComment();
+        nextLine();
+        p = skipBlanks(base_ + pos_);
+    } while (isLineEnd(*p) || *p == '\'');
+    pos_ = firstOfLine_ = static_cast<Pos>(p - base_);
+    next(token);
 }
 
 void Lexer::skipComment() {
@@ -45,8 +41,7 @@ void Lexer::skipComment() {
         const bool goesOn = last >= pos_ + 2 && base_[last - 1] == '_' && charIs(base_[last - 2], kBlank);
         pos_ = end;
         if (!goesOn || line_ >= source_.lineCount()) return;
-        ++line_;
-        pos_ = source_.lineStart(line_);
+        nextLine();
     }
 }
 
@@ -57,8 +52,7 @@ bool Lexer::continueLine(const char* underscore) {
     if (!isLineEnd(*p) || line_ >= source_.lineCount()) return false;
     if (++continuations_ == kMaxContinuations + 1)
         report(Message::TooManyContinuations, static_cast<Pos>(underscore - base_));
-    ++line_;
-    pos_ = source_.lineStart(line_);
+    nextLine();
     return true;
 }
 

@@ -24,7 +24,7 @@ Parser::Parser(const SourceText& source, SymbolTable& symbols, Diagnostics& diag
 }
 
 void Parser::parse() {
-    advance();
+    advanceLine();
     for (skipLineEnds(); !at(TokenKind::EndOfFile); skipLineEnds()) {
         errorsBefore_ = diagnostics_.errors();
         try {
@@ -35,13 +35,6 @@ void Parser::parse() {
         diagnostics_.report(Message::IfDirectiveUnclosed, open.pos);
         break;
     }
-}
-
-void Parser::advance() {
-    previousEnd_ = tok_.end;
-    lexer_.next(tok_);
-    if (tok_.kind == TokenKind::Directive) [[unlikely]]
-        directive();
 }
 
 // If the lexer has reported an error in this statement, this one is only a consequence.
@@ -87,12 +80,12 @@ void Parser::expect(Keyword keyword, Message message) {
     if (!accept(keyword)) failHere(message);
 }
 
-Symbol Parser::symbolOf(const Token& token) {
-    Pos begin = token.begin;
-    Pos end = token.suffix ? token.end - 1 : token.end;
-    if (token.bracketed) ++begin, --end;
-    if (token.foreign) return symbols_.intern(source_.decode(source_.text(begin, end)));
-    return symbols_.internAscii(source_.data() + begin, end - begin);
+Symbol Parser::intern(const Token& token) {
+    const Pos end = token.suffix ? token.end - 1 : token.end;
+    if (token.nameKey != 0) return symbols_.internAscii(source_.data() + token.begin, end - token.begin, token.nameKey);
+    const bool bracketed = source_.data()[token.begin] == '[';
+    const auto name = bracketed ? source_.text(token.begin + 1, end - 1) : source_.text(token.begin, end);
+    return symbols_.intern(source_.decode(name));
 }
 
 bool Parser::atName() const {
@@ -113,7 +106,7 @@ Symbol Parser::expectName(Pos* where, TypeSuffix* suffix) {
 }
 
 void Parser::skipLineEnds() {
-    while (at(TokenKind::EndOfLine) || at(TokenKind::Colon)) advance();
+    while (at(TokenKind::EndOfLine) || at(TokenKind::Colon)) advanceLine();
 }
 
 } // namespace qltoolkit

@@ -57,7 +57,16 @@ private:
     };
 
     // Foundation
-    void advance();
+    void advance() {
+        previousEnd_ = tok_.end;
+        lexer_.next(tok_);
+    }
+    // The same at the end of a line: only there directives may follow.
+    void advanceLine() {
+        advance();
+        if (at(TokenKind::Directive)) [[unlikely]]
+            directive();
+    }
     [[noreturn]] void fail(Message, Pos at, std::string_view detail = {});
     [[noreturn]] void failHere(Message m) { fail(m, here(), tokenText()); }
     [[noreturn]] void failExpression();
@@ -72,7 +81,11 @@ private:
     void expect(TokenKind, Message);
     void expect(Keyword, Message);
     [[nodiscard]] bool endsStatement() const { return tok_.endsStatement() || at(Keyword::Else); }
-    [[nodiscard]] Symbol symbolOf(const Token&);
+    [[nodiscard]] Symbol symbolOf(const Token& token) {
+        const Symbol symbol = symbols_.find(token.nameKey);
+        return symbol != Symbol::None ? symbol : intern(token);
+    }
+    [[nodiscard]] Symbol intern(const Token&);
     [[nodiscard]] bool atName() const;
     Symbol expectName(Pos* at = nullptr, TypeSuffix* suffix = nullptr);
     void skipLineEnds();
@@ -143,6 +156,7 @@ private:
     void statementLine(BlockBuilder&);
     void expectEndOfStatement();
     bool label(BlockBuilder&);
+    bool namedLabel(BlockBuilder&);
     Stmt* ifStatement();
     bool recoverToThen();
     Stmt* singleLineIf(Pos, const Expr* condition);
@@ -220,7 +234,8 @@ private:
     [[nodiscard]] bool drawsAtCoordinates(const Expr* callee) const;
 
     // Expressions
-    const Expr* expression() { return binary(0); }
+    static constexpr int kWeakest = 1; // power of the operators that bind least
+    const Expr* expression() { return binary(kWeakest); }
     const Expr* binary(int minPower);
     const Expr* binaryRest(const Expr* left, int minPower);
     const Expr* operand();
@@ -235,6 +250,9 @@ private:
     const Expr* withMember();
     const Expr* member(const Expr* base);
     const Expr* postfix(const Expr* base, bool callee);
+    [[nodiscard]] bool atPostfix() const {
+        return at(TokenKind::Dot) || at(TokenKind::Bang) || at(TokenKind::LeftParen);
+    }
     const Expr* reference();
 
     // Conditional compilation

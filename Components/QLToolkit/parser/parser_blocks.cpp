@@ -13,6 +13,20 @@ constexpr Message unclosedMessage(int blockKind) {
     return kMessages[blockKind];
 }
 
+/// The words with which endsBlock() is concerned. Most statements begin with others.
+constexpr auto kMayEndBlock = [] {
+    std::array<bool, static_cast<std::size_t>(kLastKeyword) + 1> table{};
+    for (const auto k : {Keyword::Sub, Keyword::Function, Keyword::Property, Keyword::Public, Keyword::Private,
+                         Keyword::Friend, Keyword::Global, Keyword::Static, Keyword::Else, Keyword::ElseIf,
+                         Keyword::EndIf, Keyword::Case, Keyword::Next, Keyword::Loop, Keyword::Wend, Keyword::End})
+        table[static_cast<std::size_t>(k)] = true;
+    return table;
+}();
+
+bool mayEndBlock(const Token& t) {
+    return t.is(TokenKind::Keyword) ? kMayEndBlock[static_cast<std::size_t>(t.keyword)] : t.is(TokenKind::EndOfFile);
+}
+
 } // namespace
 
 void Parser::openBlock(BlockKind kind, Pos pos, bool doubtful) {
@@ -41,9 +55,9 @@ Block Parser::block(BlockKind kind) {
         }
         while (at(TokenKind::EndOfLine) || at(TokenKind::Colon)) {
             lineStart_ |= at(TokenKind::EndOfLine);
-            advance();
+            advanceLine();
         }
-        if (endsBlock(kind)) break;
+        if (mayEndBlock(tok_) && endsBlock(kind)) break;
         statementLine(body);
     }
     return body.block;
@@ -75,7 +89,11 @@ bool Parser::label(BlockBuilder& body) {
         return true;
     }
     const bool word = at(TokenKind::Identifier) || (at(TokenKind::Keyword) && !isReserved(tok_.keyword));
-    if (!word || !lexer_.colonFollows(tok_)) return false;
+    return word && lexer_.colonFollows(tok_) && namedLabel(body);
+}
+
+bool Parser::namedLabel(BlockBuilder& body) {
+    const Pos pos = tok_.begin;
     const Symbol name = symbolOf(tok_);
     if (name == known_.doEvents) return false;
     body.add(make<TargetStmt>(stmtHead(StmtKind::Label, pos), Target{name, 0, pos}));

@@ -1,9 +1,10 @@
 #include "Components/QLToolkit/source/source_text.h"
 #include "Basic/detection/code_page_detection.h"
+#include "Components/QLToolkit/source/byte_block.h"
 #include "Components/QLToolkit/source/encoding.h"
 #include <algorithm>
 #include <array>
-#include <cstring>
+#include <bit>
 
 namespace qltoolkit {
 
@@ -25,17 +26,59 @@ std::string_view firstWord(std::string_view line) {
 
 bool isAttributeLine(std::string_view line) { return line.size() > 10 && equalWords(line.substr(0, 10), "attribute "); }
 
+bool isOddControl(char c) {
+    const auto u = static_cast<unsigned char>(c);
+    return (u < 32 && u != 0 && (u < 9 || u > 13) && u != 26) || u == 127;
+}
+
 // Text contains tabs and line ends, and occasionally form feeds, NULs or Ctrl+Z, but hardly any other control
 // characters.
 bool looksBinary(std::string_view bytes) {
     if (bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF")) return true;
     const auto sample = bytes.substr(0, 8192);
-    const auto odd = std::count_if(sample.begin(), sample.end(), [](char c) {
-        const auto u = static_cast<unsigned char>(c);
-        return (u < 32 && u != 0 && (u < 9 || u > 13) && u != 26) || u == 127;
-    });
+    std::ptrdiff_t odd = 0;
+    for (std::size_t at = 0; at < sample.size(); at += kBlockBytes) {
+        const ByteBlock block{bytes.data() + at};
+        const auto controls = (block.unusual() & ~block.beyondAscii()) | block.equal('\x7F');
+        if ((controls & ~(block.equal('\r') | block.equal('\n'))) == 0) continue;
+        const auto part = sample.substr(at, kBlockBytes);
+        odd += std::count_if(part.begin(), part.end(), isOddControl);
+    }
     return odd > static_cast<std::ptrdiff_t>(sample.size() / 64);
 }
+
+/// Fills the vector without a check for each line.
+class LineStarts {
+public:
+    LineStarts(std::vector<Pos>& starts, Pos sourceBytes) : starts_(starts) {
+        constexpr Pos kTypicalLine = 24;
+        resize(sourceBytes / kTypicalLine + 2 * kBlockBytes);
+        add(0);
+    }
+    ~LineStarts() { starts_.resize(count()); }
+    LineStarts(const LineStarts&) = delete;
+
+    // Makes room for as many lines as a block can end, and the end of the file.
+    void reserveBlock() {
+        if (end_ - next_ <= static_cast<std::ptrdiff_t>(kBlockBytes)) [[unlikely]]
+            resize(starts_.size() * 2);
+    }
+    void add(Pos start) { *next_++ = start; }
+    Pos last() const { return next_[-1]; }
+
+private:
+    std::size_t count() const { return static_cast<std::size_t>(next_ - starts_.data()); }
+    void resize(std::size_t size) {
+        const std::size_t used = next_ ? count() : 0;
+        starts_.resize(size);
+        next_ = starts_.data() + used;
+        end_ = starts_.data() + size;
+    }
+
+    std::vector<Pos>& starts_;
+    Pos* next_ = nullptr;
+    Pos* end_ = nullptr;
+};
 
 } // namespace
 
@@ -60,31 +103,30 @@ SourceText::SourceText(std::string name, std::string bytes, basic::CodePage page
       size_(static_cast<Pos>(bytes_.size())),
       kind_(fileKindOf(name_)),
       page_(std::move(page)) {
-    binary_ = looksBinary(bytes_);
-    page_ = basic::codePageOfFile(bytes_, page_);
     bytes_.append(kPadding, '\0');
-    splitLines();
+    binary_ = looksBinary(text(0, size_));
+    const bool ascii = splitLines();
+    if (!ascii) page_ = basic::codePageOfFile(text(0, size_), page_);
     findCode();
 }
 
-void SourceText::splitLines() {
+// Reads the file once for all that depends on single bytes. Returns true if all of them are ASCII.
+bool SourceText::splitLines() {
     const char* const base = data();
-    lineStarts_.reserve(size_ / 24 + 2);
-    lineStarts_.push_back(0);
-    for (Pos at = 0; at < size_;) {
-        const auto* feed = static_cast<const char*>(std::memchr(base + at, '\n', size_ - at));
-        const Pos stop = feed ? static_cast<Pos>(feed - base) : size_;
-        while (at < stop) {
-            const auto* cr = static_cast<const char*>(std::memchr(base + at, '\r', stop - at));
-            if (!cr || cr + 1 == base + stop) break;
-            at = static_cast<Pos>(cr - base) + 1;
-            lineStarts_.push_back(at);
-        }
-        if (!feed) break;
-        at = stop + 1;
-        lineStarts_.push_back(at);
+    LineStarts starts{lineStarts_, size_};
+    std::uint32_t beyondAscii = 0;
+    for (Pos at = 0; at < size_; at += kBlockBytes) {
+        const ByteBlock block{base + at};
+        if (block.unusual() == 0) continue;
+        beyondAscii |= block.beyondAscii();
+        const auto feeds = block.equal('\n'), returns = block.equal('\r');
+        const bool feedNext = base[at + kBlockBytes] == '\n';
+        auto ends = feeds | (returns & ~(feeds >> 1 | std::uint32_t{feedNext} << (kBlockBytes - 1)));
+        starts.reserveBlock();
+        for (; ends != 0; ends &= ends - 1) starts.add(at + static_cast<Pos>(std::countr_zero(ends)) + 1);
     }
-    if (lineStarts_.back() != size_) lineStarts_.push_back(size_);
+    if (starts.last() != size_) starts.add(size_);
+    return beyondAscii == 0;
 }
 
 std::string_view SourceText::line(std::uint32_t number) const {

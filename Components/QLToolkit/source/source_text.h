@@ -81,10 +81,10 @@ public:
     /// Returns true if `byte` begins a two-byte character in this file's code page.
     [[nodiscard]] bool isLeadByte(unsigned char byte) const;
 
-    static constexpr std::size_t kPadding = 16;
+    static constexpr std::size_t kPadding = 32;
 
 private:
-    void splitLines();
+    bool splitLines();
     void findCode();
     std::uint32_t skipBlock(std::uint32_t line);
     std::uint32_t headerTooDeep(std::uint32_t line);
