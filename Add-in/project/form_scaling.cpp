@@ -9,7 +9,7 @@ void scaleProperty(basic::Suppressed& quietly, const basic::Ref<vbide::Propertie
                    float now, float then) {
     quietly([&] {
         const auto property = properties->Item(name);
-        property->Value(basic::Divide(asDouble(property->Value()) * now, then));
+        property->Value(basic::Divide(asDouble(property->Value()) * now, basic::Double{then}));
     });
 }
 

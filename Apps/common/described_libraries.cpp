@@ -1,7 +1,7 @@
 #include "Apps/common/described_libraries.h"
 #include "Basic/case_folding.h"
 #include "Basic/runtime_error.h"
-#include "Host/system/described_library.h"
+#include "Host/model/references/described_library.h"
 #include "Host/system/type_description.h"
 #include <algorithm>
 #include <array>
