@@ -23,6 +23,18 @@ public:
         return *this;
     }
 
+    /// Several modules: a line "--- Class1.cls" begins each; without one it is a standard module.
+    CheckedProgram& addAll(std::string_view modules) {
+        if (!modules.starts_with("--- ")) return add("Module1.bas", std::string(modules));
+        while (!modules.empty()) {
+            const auto head = modules.find('\n'), next = modules.find("\n--- ", head);
+            const auto code = head == modules.npos ? "" : modules.substr(head + 1, next == modules.npos ? next : next - head);
+            add(std::string(modules.substr(4, head - 4)), std::string(code));
+            modules.remove_prefix(next == modules.npos ? modules.size() : next + 1);
+        }
+        return *this;
+    }
+
     CheckedProgram& text(const std::string& file, std::string bytes) {
         sources_.push_back(std::make_unique<qltoolkit::SourceText>(file, std::move(bytes)));
         return *this;
@@ -30,22 +42,26 @@ public:
 
     /// Returns the messages as "file:line:column number", where line 1 is the first of the code window.
     std::vector<std::string> messages() {
-        std::vector<const qltoolkit::SourceText*> all;
-        for (const auto& source : sources_) all.push_back(source.get());
-        const auto results = qltoolkit::checkProject(all, {}, options);
+        const auto checked = results();
         std::vector<std::string> found;
-        for (std::size_t i = 0; i < results.size(); ++i)
-            for (const auto& each : results[i].diagnostics) found.push_back(place(*all[i], each, all.size() > 1));
+        for (std::size_t i = 0; i < checked.size(); ++i)
+            for (const auto& each : checked[i].diagnostics) found.push_back(place(*sources_[i], each, checked.size() > 1));
         return found;
     }
 
-    /// The text of the first message, or "".
-    std::string firstText() {
+    /// The first message as "file:line:column number" with the line of the file, or "".
+    std::string firstPlace() {
+        for (const auto& result : results())
+            for (const auto& each : result.diagnostics)
+                return each.file + ":" + std::to_string(each.line) + ":" + std::to_string(each.column) + " " +
+                       std::to_string(each.number);
+        return {};
+    }
+
+    std::vector<qltoolkit::CheckResult> results() {
         std::vector<const qltoolkit::SourceText*> all;
         for (const auto& source : sources_) all.push_back(source.get());
-        for (const auto& result : qltoolkit::checkProject(all, {}, options))
-            if (!result.diagnostics.empty()) return result.diagnostics[0].text;
-        return {};
+        return qltoolkit::checkProject(all, {}, options);
     }
 
     qltoolkit::ProgramOptions options;
@@ -64,19 +80,6 @@ private:
 /// The messages about one standard module.
 inline std::vector<std::string> messagesOf(const std::string& code) {
     return CheckedProgram{}.add("Module1.bas", code).messages();
-}
-
-/// The messages about several modules. A line "--- Class1.cls" begins each; without one it is a standard module.
-inline std::vector<std::string> messagesOfModules(std::string_view text) {
-    CheckedProgram program;
-    if (!text.starts_with("--- ")) return messagesOf(std::string(text));
-    while (!text.empty()) {
-        const auto head = text.find('\n'), next = text.find("\n--- ", head);
-        const auto code = text.substr(head + 1, next == text.npos ? text.npos : next - head);
-        program.add(std::string(text.substr(4, head - 4)), std::string(code));
-        text.remove_prefix(next == text.npos ? text.size() : next + 1);
-    }
-    return program.messages();
 }
 
 } // namespace test

@@ -115,8 +115,38 @@ const MessageCase kCases[] = {
     // Arrays
     {2600, "Sub A()\nDim a(3)\nReDim a(4)\nEnd Sub", "3:7", "Sub A()\nDim a()\nReDim a(4)\nEnd Sub"},
     {2602, "Dim a(5 To 3)", "1:12", "Dim a(3 To 5)"},
-    {2905, nullptr, nullptr, nullptr},
+    {2013, "Dim n As Long\nSub A()\nn\nEnd Sub", "3:1", "Dim n As Long\nSub A()\nB\nEnd Sub\nSub B()\nEnd Sub"},
+    {2506, "--- Class1.cls\nPrivate Enum E\nx\nEnd Enum\nPublic Sub A(p As E)\nEnd Sub", "4:12",
+     "--- Class1.cls\nPrivate Enum E\nx\nEnd Enum\nFriend Sub A(p As E)\nEnd Sub"},
+    {2604, "Private Type P\n  A(70000) As Byte\nEnd Type", "1:1", "Private Type P\n  A(60000) As Byte\nEnd Type"},
+    {2802, "--- Form1.frm\nPrivate Sub Timer1_Click()\nEnd Sub", "1:13", "--- Form1.frm\nPrivate Sub Timer1_Timer()\nEnd Sub"},
+    {2803, "Sub A()\nShell \"a\"\nEnd Sub", "2:1", "Sub A()\nBeep\nEnd Sub"},
+    {2803, "Sub A()\nDim x\nSet x = CreateObject(\"Other.Thing\")\nEnd Sub", "3:9",
+     "Sub A()\nDim x\nSet x = CreateObject(\"Scripting.Dictionary\")\nEnd Sub"},
+    // Warnings that have to be asked for
+    {2900, "Sub A()\nx = 1\nEnd Sub", "2:1", "Sub A()\nDim x\nx = 1\nEnd Sub"},
+    {2901, "Sub A()\nDim x\nEnd Sub", "2:5", "Sub A()\nDim x\nx = 1\nEnd Sub"},
+    {2902, "Function A()\nBeep\nEnd Function", "1:10", "Function A()\nA = 1\nEnd Function"},
+    {2903, "Dim a, b As Integer", "1:5", "Dim a As Long, b As Integer"},
+    {2904, "Sub A(n)\nA (n)\nEnd Sub", "2:1", "Sub A(n)\nA n\nEnd Sub"},
+    {2906, "Sub A()\nExit Sub\nBeep\nEnd Sub", "3:1", "Sub A()\nExit Sub\nHere:\nBeep\nEnd Sub"},
+    {2907, "Dim n\nSub A()\nn = 2000 * 365\nEnd Sub", "3:10", "Dim n\nSub A()\nn = 2000& * 365\nEnd Sub"},
+    {2908, "Dim n\nSub A()\nIf n = Null Then Beep\nEnd Sub", "3:6", "Dim n\nSub A()\nIf IsNull(n) Then Beep\nEnd Sub"},
+    {2909, "Dim n\nSub A()\nn = 1 / 0\nEnd Sub", "3:7", "Dim n\nSub A()\nn = 1 / 2\nEnd Sub"},
 };
+
+/// Messages that the other tests of this file give.
+constexpr int kElsewhere[] = {2603, 2800, 2801, 2905};
+
+const char* const kTimer = "   Begin VB.Timer Timer1 \n      Interval        =   5\n   End\n";
+
+std::vector<std::string> messagesOf(const MessageCase& each, std::string_view modules) {
+    test::CheckedProgram program;
+    program.controls = kTimer;
+    program.options.warnsOptionally = each.number >= 2900;
+    program.options.warnsOfDevices = each.number == 2803;
+    return program.addAll(modules).messages();
+}
 
 std::string withNumber(const MessageCase& each) { return std::string(each.place) + " " + std::to_string(each.number); }
 
@@ -124,18 +154,51 @@ std::string withNumber(const MessageCase& each) { return std::string(each.place)
 
 TEST(NameMessages, EachIsGivenWhereItIsWrongAndNotBesideIt) {
     for (const auto& each : kCases) {
-        if (!each.wrong) continue;
-        EXPECT_THAT(test::messagesOfModules(each.wrong), ElementsAre(withNumber(each))) << each.wrong;
-        EXPECT_THAT(test::messagesOfModules(each.right), IsEmpty()) << each.right;
+        EXPECT_THAT(messagesOf(each, each.wrong), ElementsAre(withNumber(each))) << each.wrong;
+        EXPECT_THAT(messagesOf(each, each.right), IsEmpty()) << each.right;
     }
 }
 
 TEST(NameMessages, EachNumberIsTested) {
-    std::set<int> tested;
+    std::set<int> tested(std::begin(kElsewhere), std::end(kElsewhere));
     for (const auto& each : kCases) tested.insert(each.number);
     for (const auto& row : qltoolkit::allMessages()) {
         const auto number = static_cast<int>(row.message);
         if (number < 2000 || number > 2998) continue;
         EXPECT_TRUE(tested.contains(number)) << number << " " << row.text;
     }
+}
+
+TEST(NameMessages, AnArrayHasAtMostSixtyDimensions) {
+    std::string bounds = "1";
+    for (int i = 1; i < 60; ++i) bounds += ",1";
+    EXPECT_THAT(test::messagesOf("Dim a(" + bounds + ") As Byte"), IsEmpty());
+    EXPECT_THAT(test::messagesOf("Dim a(" + bounds + ",1) As Byte"), ElementsAre("1:5 2603"));
+    EXPECT_THAT(test::messagesOf("Sub A()\nReDim x(" + bounds + ",1)\nEnd Sub"), ElementsAre("2:7 2603"));
+}
+
+TEST(NameMessages, AControlOfAnUnknownClassIsReportedAtItsLine) {
+    test::CheckedProgram program;
+    program.controls = "   Begin VB.Label Label1 \n   End\n   Begin VB.Missing Missing1 \n   End\n";
+    program.text("Form1.frm", "VERSION 5.00\nBegin VB.Form Form1 \n" + program.controls +
+                                  "End\nAttribute VB_Name = \"Form1\"\nSub A()\nMissing1.Anything\nEnd Sub\n");
+    EXPECT_EQ(program.firstPlace(), "Form1.frm:5:4 2800");
+}
+
+TEST(NameMessages, APropertyThatItsClassLacksIsReportedAtItsLine) {
+    const auto library = language::readLibrary("Library Tavlets\nClass QLLabel\nProperty Caption As String\n");
+    test::CheckedProgram program;
+    program.options.libraries = {&library};
+    program.text("Form1.frm", "VERSION 5.00\nBegin VB.Form Form1 \n   Begin TavletsCtl.QLLabel Label1 \n"
+                              "      _ExtentX        =   5\n      Caption         =   \"a\"\n      Colour          =   5\n"
+                              "   End\nEnd\nAttribute VB_Name = \"Form1\"\n");
+    EXPECT_EQ(program.firstPlace(), "Form1.frm:6:7 2801");
+}
+
+TEST(NameMessages, NamesOfMissingLibrariesAreMentionedOnce) {
+    test::CheckedProgram program;
+    program.options.isIncomplete = true;
+    program.add("M1.bas", "Option Explicit\nSub A()\nMissing = 1\nmissing 2\nEnd Sub\n");
+    program.add("M2.bas", "Option Explicit\nSub B()\nDim x As Gone\nx.Anything = Missing\nOther\nEnd Sub\n");
+    EXPECT_THAT(program.messages(), ElementsAre("M1.bas:3:1 2905", "M2.bas:5:1 2905"));
 }

@@ -4,10 +4,13 @@
 
 namespace qltoolkit {
 
-/// Reports bounds that are not constants or have no values, and too many dimensions. Returns the number of dimensions.
-std::int16_t checkBounds(const Span<Bound>& bounds, Pos pos, Constants& constants, SourceModule& module,
-                         const LocalConstants& local);
+/// Makes an entity an array with these bounds. Reports bounds that are not constants or have no values, and too many
+/// dimensions.
+void declareBounds(Entity& entity, const Variable& variable, Constants& constants, SourceModule& module,
+                   const LocalConstants& local = {});
 
 inline constexpr std::uint32_t kMostDimensions = 60;
+/// Larger arrays are counted as this.
+inline constexpr std::uint32_t kMostElements = 1U << 30;
 
 } // namespace qltoolkit

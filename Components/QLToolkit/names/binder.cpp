@@ -4,6 +4,8 @@
 namespace qltoolkit {
 
 void Binder::bindModule() {
+    for (const auto* decl = module_.tree.declarations; decl; decl = decl->next)
+        if (decl->kind == DeclKind::Variables) warnOfUntyped(as<VariablesDecl>(*decl).variables);
     for (const auto& [entity, decl] : module_.callables)
         if (decl->kind == DeclKind::Procedure) procedure(as<ProcedureDecl>(*decl), *entity);
 }

@@ -65,6 +65,7 @@ private:
     void doLoop(const DoStmt& loop);
     void select(const SelectStmt& stmt);
     void with(const BodyStmt& stmt);
+    void called(const Operand& operand);
     void condition(const Expr* expr);
     void jump(const Target& target);
     void exit(const Stmt& stmt);
@@ -76,6 +77,7 @@ private:
 
     // Declarations in procedures
     void local(const Variable& variable);
+    void warnOfUntyped(const Span<Variable>& variables);
     void localConstant(const Constant& constant);
     void reDim(const ReDimItem& item);
     Operand reDimTarget(const ReDimItem& item);
@@ -100,6 +102,7 @@ private:
     Operand implicit(const NameExpr& expr, Type type);
     Operand unary(const UnaryExpr& expr);
     Operand binary(const BinaryExpr& expr, const Operand& left);
+    void warnOfFailure(const BinaryExpr& expr);
     Operand isOperator(const BinaryExpr& expr, const Operand& left, const Operand& right);
     Operand newObject(const NewExpr& expr);
     Operand typeOf(const TypeOfExpr& expr);

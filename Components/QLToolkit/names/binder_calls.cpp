@@ -28,7 +28,7 @@ bool Binder::isIndexable(const Type& type) const {
 }
 
 Operand Binder::call(const Entity& entity, const Expr& expr) {
-    if (!entity.onDevices && !(entity.owner && entity.owner->source)) warnNotOnDevices(expr.pos);
+    if (!entity.onDevices) warnNotOnDevices(expr.pos);
     const bool isWholeCall = spine_.size() <= bottom_ + (pendingIndex() ? 1 : 0);
     const Operand result = called(*entity.get, expr, entity, OperandKind::Value);
     if (entity.type.value != ValueType::None || (isWholeCall && use_ == Use::Statement)) return result;
@@ -184,6 +184,9 @@ void Binder::argument(const Argument& given, const ParameterInfo& parameter) {
     readValue(operand);
     if (parameter.any || operand.type.value == ValueType::Unknown || parameter.type.value == ValueType::Unknown) return;
     if (operand.type.value == ValueType::None) return; // reported already
+    if (!parameter.byVal && given.value->kind == ExprKind::Paren &&
+        as<UnaryExpr>(*given.value).operand->kind == ExprKind::Name)
+        warn(Message::ArgumentInParentheses, given.value->pos);
     const Type& wanted = parameter.type;
     if (wanted.isArray) {
         const bool fits = operand.type.isArray && (operand.type.value == wanted.value || wanted.value == ValueType::Variant) &&
@@ -226,8 +229,16 @@ bool Binder::fitsTo(const Operand& value, const Type& wanted) {
     return coercionOf(value.type.value, wanted.value) != Coercion::Never;
 }
 
+/// CreateObject of the two classes that devices have is no reason to warn.
 void Binder::warnNotOnDevices(Pos pos) {
-    if (program_.warnsOfDevices) reportName(Message::NotOnDevices, pos);
+    if (!program_.warnsOfDevices) return;
+    const IndexExpr* given = pendingIndex();
+    if (given && given->arguments.size() == 1 && given->arguments[0].value &&
+        given->arguments[0].value->kind == ExprKind::String) {
+        const auto name = stringValue(module_.tree.source, as<StringExpr>(*given->arguments[0].value));
+        if (basic::equalNoCase(name, "Scripting.Dictionary") || basic::equalNoCase(name, "Scripting.FileSystemObject")) return;
+    }
+    reportName(Message::NotOnDevices, pos);
 }
 
 } // namespace qltoolkit

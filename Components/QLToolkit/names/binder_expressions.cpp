@@ -1,4 +1,5 @@
 // Expressions: operators, literals, and the walk along chains.
+#include "Basic/error_numbers.h"
 #include "Components/QLToolkit/names/binder.h"
 #include "Components/QLToolkit/types/coercions.h"
 #include "Components/QLToolkit/types/operators.h"
@@ -32,6 +33,8 @@ ValueType typeOfLiteral(ExprKind kind) {
     default: return ValueType::Nothing;
     }
 }
+
+bool isNumber(const Expr& expr) { return expr.kind <= ExprKind::Double; }
 
 } // namespace
 
@@ -114,11 +117,22 @@ Operand Binder::binary(const BinaryExpr& expr, const Operand& left) {
     const auto valueType = [](const Type& type) { return type.isArray ? ValueType::Array : type.value; };
     const auto operation = operationOf(expr.op(), valueType(outerLeft.type), valueType(right.type));
     if (!operation) report(Message::TypeMismatch, expr.pos);
+    if (program_.warnsOptionally) warnOfFailure(expr);
     const bool compares = expr.op() >= Operator::Equal && expr.op() <= Operator::GreaterEqual;
     if (compares && (left.type.value == ValueType::Null || right.type.value == ValueType::Null) &&
         program_.warnsOptionally)
         report(Message::ComparisonWithNull, expr.pos);
     return {OperandKind::Value, {operation ? operation->result : ValueType::Unknown}, expr.pos};
+}
+
+// An operation with two numbers that are written there fails each time it runs.
+void Binder::warnOfFailure(const BinaryExpr& expr) {
+    if (!isNumber(*expr.left) || !isNumber(*expr.right)) return;
+    const auto folded = fold(expr.op(), *constants_.valueOf(*expr.left, module_), *constants_.valueOf(*expr.right, module_));
+    if (folded.error == basic::kOverflow)
+        report(Message::ProductOverflows, expr.pos);
+    else if (folded.error != 0)
+        module_.diagnostics.report(Message::ConstantFails, expr.pos, std::to_string(folded.error));
 }
 
 Operand Binder::isOperator(const BinaryExpr& expr, const Operand& left, const Operand& right) {

@@ -16,9 +16,15 @@ void Binder::local(const Variable& variable) {
     }
     made->type = types_.typeOf(variable.name, variable.suffix, variable.type);
     made->type.isArray = variable.isArray;
-    if (!variable.isArray || variable.bounds.empty()) return;
-    made->isStaticArray = true;
-    made->rank = checkBounds(variable.bounds, variable.pos, constants_, module_, localConstants());
+    if (variable.isArray && !variable.bounds.empty())
+        declareBounds(*made, variable, constants_, module_, localConstants());
+}
+
+// Dim a, b As Integer: a is a Variant.
+void Binder::warnOfUntyped(const Span<Variable>& variables) {
+    if (variables.size() < 2 || !variables[variables.size() - 1].type) return;
+    for (const auto& each : variables)
+        if (!each.type && !each.suffix) warn(Message::OnlyLastTyped, each.pos);
 }
 
 void Binder::localConstant(const Constant& constant) {

@@ -5,8 +5,34 @@
 
 namespace qltoolkit {
 
+namespace {
+
+/// Nothing after the statement runs unless something jumps there.
+bool leaves(const Stmt& stmt) {
+    switch (stmt.kind) {
+    case StmtKind::GoTo:
+    case StmtKind::Resume:
+    case StmtKind::ResumeNext:
+    case StmtKind::ExitSub:
+    case StmtKind::ExitFunction:
+    case StmtKind::ExitProperty:
+    case StmtKind::ExitDo:
+    case StmtKind::ExitFor:
+    case StmtKind::End: return true;
+    default: return false;
+    }
+}
+
+bool isTarget(const Stmt& stmt) { return stmt.kind == StmtKind::Label || stmt.kind == StmtKind::LineNumber; }
+
+} // namespace
+
 void Binder::block(const Block& block) {
-    for (const auto* stmt = block.first; stmt; stmt = stmt->next) statement(*stmt);
+    for (const auto* stmt = block.first; stmt; stmt = stmt->next) {
+        statement(*stmt);
+        if (program_.warnsOptionally && leaves(*stmt) && stmt->next && !isTarget(*stmt->next))
+            report(Message::Unreachable, stmt->next->pos);
+    }
 }
 
 void Binder::statement(const Stmt& stmt) {
@@ -122,9 +148,10 @@ void Binder::simpleStatement(const Stmt& stmt) {
         value(mid.value, ValueType::String);
         break;
     }
-    case StmtKind::Call: (void)expression(*as<CallStmt>(stmt).call, Use::Statement); break;
+    case StmtKind::Call: called(expression(*as<CallStmt>(stmt).call, Use::Statement)); break;
     case StmtKind::Local:
         for (const auto& each : as<LocalStmt>(stmt).variables) local(each);
+        warnOfUntyped(as<LocalStmt>(stmt).variables);
         break;
     case StmtKind::LocalConst:
         for (const auto& each : as<LocalConstStmt>(stmt).constants) localConstant(each);
@@ -142,6 +169,16 @@ void Binder::simpleStatement(const Stmt& stmt) {
     case StmtKind::RaiseEvent: raiseEvent(as<RaiseEventStmt>(stmt)); break;
     default: break;
     }
+}
+
+// A statement that is a name alone calls a procedure.
+void Binder::called(const Operand& operand) {
+    if (operand.type.value == ValueType::Unknown) return;
+    const auto refuse = [&](std::string_view kind) {
+        module_.diagnostics.report(Message::ExpectedProcedure, operand.pos, kind);
+    };
+    if (operand.kind == OperandKind::Qualifier) return refuse(operand.inner ? "module" : "project");
+    if (operand.kind == OperandKind::Variable || operand.kind == OperandKind::Constant) refuse("variable");
 }
 
 void Binder::condition(const Expr* expr) { value(expr, ValueType::Boolean); }

@@ -1,5 +1,6 @@
 // What concerns whole declarations: interfaces, handlers of events, properties, records, public members of classes.
 #include "Components/QLToolkit/names/lookup.h"
+#include "Components/QLToolkit/names/record_size.h"
 #include "Components/QLToolkit/names/resolve.h"
 #include "Components/QLToolkit/types/constant_value.h"
 
@@ -25,7 +26,13 @@ public:
         : program_(program), module_(module), scope_(*module.scope) {}
 
     void check() {
-        for (const auto& [entity, decl] : module_.records) record(*entity);
+        for (const auto& [entity, decl] : module_.records) {
+            if (isCircle(*entity))
+                module_.diagnostics.report(Message::CircularReference, entity->pos,
+                                           program_.symbols.spelling(entity->name));
+            else if (sizeOfRecord(program_, *entity->inner) > kLargestRecord)
+                module_.diagnostics.report(Message::StaticDataTooLarge, entity->pos);
+        }
         for (const auto& [entity, decl] : module_.variables)
             if (entity->withEvents) eventSource(*entity, *decl);
         scope_.names.forEach([&](Symbol, Entity& entity) {
@@ -34,28 +41,28 @@ public:
         for (const auto* interface : scope_.interfaces) implementation(*interface);
         for (const auto& [entity, decl] : module_.callables)
             if (entity->kind == EntityKind::Procedure && decl->kind == DeclKind::Procedure) handler(*entity);
-        if (scope_.isClass()) publicMembers();
+        if (!scope_.isClass()) return;
+        publicMembers();
+        privateTypes();
     }
 
 private:
     // A record that contains itself has no size.
-    void record(const Entity& entity) {
+    bool isCircle(const Entity& entity) {
         std::vector<std::uint32_t> waiting{entity.type.id}, seen;
-        while (!waiting.empty()) {
-            const auto at = waiting.back();
+        bool found = false;
+        while (!waiting.empty() && !found) {
+            const Scope& record = program_.scope(waiting.back());
             waiting.pop_back();
-            bool isCircle = false;
-            program_.scope(at).names.forEach([&](Symbol, const Entity& field) {
+            record.names.forEach([&](Symbol, const Entity& field) {
                 if (field.type.value != ValueType::Record || (field.type.isArray && !field.isStaticArray)) return;
-                isCircle |= field.type.id == entity.type.id;
+                found |= field.type.id == entity.type.id;
                 if (std::find(seen.begin(), seen.end(), field.type.id) != seen.end()) return;
                 seen.push_back(field.type.id);
                 waiting.push_back(field.type.id);
             });
-            if (!isCircle) continue;
-            return module_.diagnostics.report(Message::CircularReference, entity.pos,
-                                              program_.symbols.spelling(entity.name));
         }
+        return found;
     }
 
     void eventSource(const Entity& entity, const Variable& decl) {
@@ -129,7 +136,12 @@ private:
         const Symbol name = program_.symbols.intern(spelling.substr(underline + 1));
         const Entity* event = nullptr;
         for (const Scope* at = source; at && !event; at = at->base) event = at->events.find(name);
-        if (!event) return;
+        if (!event) {
+            if (!source->isOpen() && source->kind == ScopeKind::LibraryClass)
+                module_.diagnostics.report(Message::HandlerOfUnknownEvent, entity.pos,
+                                           nameAt(module_.tree.source, entity.pos));
+            return;
+        }
         const auto& given = entity.get->parameters;
         const bool hasIndex = given.size() == event->get->parameters.size() + 1;
         if (!hasIndex && !sameParameters(given, event->get->parameters))
@@ -156,6 +168,36 @@ private:
             if (entity->isPublic && decl->kind == DeclKind::Declare && decl->visibility != Visibility::Private)
                 refuse(entity->pos);
     }
+
+    // Others could not name the private types of a class.
+    void privateTypes() {
+        for (const auto& [entity, decl] : module_.variables)
+            if (entity->isPublic && isPrivate(entity->type)) expose(decl->pos);
+        for (const auto& [entity, decl] : module_.callables) {
+            if (decl->kind != DeclKind::Procedure || decl->visibility == Visibility::Private ||
+                decl->visibility == Visibility::Friend)
+                continue;
+            const auto& procedure = as<ProcedureDecl>(*decl);
+            const bool exposes = procedure.signature.kind == ProcedureKind::PropertyLet   ? exposing(entity->let)
+                                 : procedure.signature.kind == ProcedureKind::PropertySet ? exposing(entity->set)
+                                                                                          : exposing(entity->get);
+            if (exposes) expose(procedure.signature.namePos);
+        }
+    }
+
+    bool isPrivate(const Type& type) const {
+        const bool isNamed = type.value == ValueType::Record || type.isEnum;
+        return isNamed && program_.scope(type.id).isPrivate;
+    }
+
+    bool exposing(const Callable* callable) const {
+        if (!callable) return false;
+        return isPrivate(callable->result) ||
+               std::any_of(callable->parameters.begin(), callable->parameters.end(),
+                           [&](const ParameterInfo& parameter) { return isPrivate(parameter.type); });
+    }
+
+    void expose(Pos pos) { module_.diagnostics.report(Message::PrivateTypeExposed, pos); }
 
     void refuse(Pos pos) {
         module_.diagnostics.report(Message::PublicMemberNotAllowed, pos, nameAt(module_.tree.source, pos));

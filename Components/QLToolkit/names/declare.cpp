@@ -75,6 +75,7 @@ private:
         Entity& made = entity(EntityKind::Record, decl.name, decl.pos, isPublic(decl, true));
         Scope& fields = program_.newScope(ScopeKind::Record);
         fields.name = decl.name;
+        fields.isPrivate = !made.isPublic;
         made.inner = &fields;
         made.type = {ValueType::Record, false, false, fields.number};
         enter(scope_.types, made);
@@ -85,6 +86,7 @@ private:
         Entity& made = entity(EntityKind::Enum, decl.name, decl.pos, isPublic(decl, true));
         Scope& members = program_.newScope(ScopeKind::Enum);
         members.name = decl.name;
+        members.isPrivate = !made.isPublic;
         made.inner = &members;
         made.type = {ValueType::Long, false, true, members.number};
         enter(scope_.types, made);

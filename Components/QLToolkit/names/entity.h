@@ -65,6 +65,7 @@ struct Entity {
     bool onDevices = true;
     bool withEvents = false;
     std::int16_t rank = -1; ///< dimensions of an array; -1 if they are not known
+    std::uint32_t elements = 1; ///< of an array with bounds, at most kMostElements
     Symbol name = Symbol::None;
     Pos pos = 0; ///< of the declaration
     Type type;
@@ -92,6 +93,7 @@ struct Scope {
     const Entity* enumerator = nullptr; ///< what For Each calls
     std::vector<const Scope*> interfaces;
     SourceModule* source = nullptr; ///< of a module of the project
+    bool isPrivate = false;   ///< a record or enumeration that other modules cannot name
     bool open = false;        ///< may have members that are not known
     bool creatable = false;   ///< by New
     bool predeclared = false; ///< its name is an object

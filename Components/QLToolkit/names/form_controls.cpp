@@ -1,5 +1,6 @@
 #include "Components/QLToolkit/names/form_controls.h"
 #include "Basic/case_folding.h"
+#include "Components/QLToolkit/names/header_places.h"
 #include "Components/QLToolkit/names/lookup.h"
 
 namespace qltoolkit {
@@ -62,15 +63,33 @@ private:
         entity.isPublic = true;
         entity.owner = module_.scope;
         entity.type = classOf(control);
+        checkProperties(control, entity.type);
         entity.type.isArray = control.index != image::Control::kNoIndex;
         module_.scope->names.add(name, &entity);
+    }
+
+    // The files of the language's own controls have properties that their classes do not show.
+    void checkProperties(const image::Control& control, const Type& type) {
+        if (type.value != ValueType::Object || type.id == 0) return;
+        const Scope& scope = program_.scope(type.id);
+        if (scope.kind != ScopeKind::LibraryClass || scope.isOpen() || basic::startsWithNoCase(control.className.str(), "VB."))
+            return;
+        for (const auto& property : control.properties) {
+            const auto& name = property.name.str();
+            if (name.starts_with('_') || name.find('.') != name.npos) continue;
+            if (scope.find(program_.symbols.intern(name))) continue;
+            module_.diagnostics.report(Message::PropertyUnknown,
+                                       placeInHeader(module_.tree.source, control.name.str(), name), name);
+        }
     }
 
     Type classOf(const image::Control& control) {
         bool libraryIsKnown = false;
         if (const Entity* found = classes_.find(control.className, libraryIsKnown)) return found->type;
         if (libraryIsKnown)
-            module_.diagnostics.reportFile(Message::ControlClassUnknown, control.className.str());
+            module_.diagnostics.report(Message::ControlClassUnknown,
+                                       placeInHeader(module_.tree.source, control.name.str()),
+                                       control.className.str());
         return {ValueType::Unknown};
     }
 

@@ -2,16 +2,12 @@
 #include "Basic/case_folding.h"
 #include "Basic/conversions.h"
 #include "Basic/runtime_error.h"
+#include "Basic/text.h"
 #include "Basic/utf8.h"
 
 namespace qltoolkit {
 
 namespace {
-
-std::string_view withoutBlanks(std::string_view text) {
-    const auto first = text.find_first_not_of(' ');
-    return first == text.npos ? std::string_view() : text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
 
 std::string textOfPart(std::string_view part) {
     if (part.size() >= 2 && part.front() == '"') return std::string(part.substr(1, part.size() - 2));
@@ -37,14 +33,13 @@ ConstantValue number(std::string_view literal) {
 } // namespace
 
 ConstantValue libraryConstant(std::string_view literal) {
-    literal = withoutBlanks(literal);
     if (basic::equalNoCase(literal, "True")) return true;
     if (basic::equalNoCase(literal, "False")) return false;
     if (literal.find_first_of("\"(") == literal.npos) return number(literal);
     std::string text;
     for (;;) {
         const auto join = literal.find('&');
-        text += textOfPart(withoutBlanks(literal.substr(0, join)));
+        text += textOfPart(basic::Trim(literal.substr(0, join)));
         if (join == literal.npos) return text;
         literal.remove_prefix(join + 1);
     }

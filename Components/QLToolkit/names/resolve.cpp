@@ -56,9 +56,7 @@ private:
     void variable(Entity& entity, const Variable& decl) {
         entity.type = types_.typeOf(decl.name, decl.suffix, decl.type);
         entity.type.isArray = decl.isArray;
-        if (!decl.isArray || decl.bounds.empty()) return;
-        entity.isStaticArray = true;
-        entity.rank = checkBounds(decl.bounds, decl.pos, constants_, module_, {});
+        if (decl.isArray && !decl.bounds.empty()) declareBounds(entity, decl, constants_, module_);
     }
 
     void callable(Entity& entity, const Decl& decl) {

@@ -3,13 +3,13 @@
 
 namespace qltoolkit {
 
-namespace {
-
 std::string_view trimmedHeaderText(std::string_view text) {
     const auto first = text.find_first_not_of(" \t");
     if (first == text.npos) return {};
     return text.substr(first, text.find_last_not_of(" \t") - first + 1);
 }
+
+namespace {
 
 char lowerAscii(char c) { return c >= 'A' && c <= 'Z' ? char(c + 32) : c; }
 

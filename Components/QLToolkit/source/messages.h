@@ -193,7 +193,6 @@ enum class Message : std::uint16_t {
     PublicMemberNotAllowed = 2508,
 
     AlreadyDimensioned = 2600,
-    BoundsNotAllowed = 2601,
     EmptyRange = 2602,
     TooManyDimensions = 2603,
     StaticDataTooLarge = 2604,
