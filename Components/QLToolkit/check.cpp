@@ -17,9 +17,10 @@ void addMessages(CheckResult& result, std::vector<Diagnostic> messages) {
         result.errors += diagnostic.severity == Severity::Error;
         result.diagnostics.push_back(std::move(diagnostic));
     }
-    std::stable_sort(
-        result.diagnostics.begin(), result.diagnostics.end(),
-        [](const Diagnostic& a, const Diagnostic& b) { return std::tie(a.line, a.column) < std::tie(b.line, b.column); });
+    std::stable_sort(result.diagnostics.begin(), result.diagnostics.end(),
+                     [](const Diagnostic& a, const Diagnostic& b) {
+                         return std::tie(a.line, a.column) < std::tie(b.line, b.column);
+                     });
 }
 
 } // namespace
@@ -48,8 +49,7 @@ std::vector<CheckResult> checkProject(const std::vector<const SourceText*>& sour
         isRight &= parsed.module && parsed.errors == 0;
         results.push_back({std::move(parsed.diagnostics), parsed.errors, source->lineCount()});
         trees.push_back(std::move(parsed.module));
-        modules.push_back({trees.back().get(),
-                           readFormHeader(*source)});
+        modules.push_back({trees.back().get(), readFormHeader(*source)});
     }
     if (!isRight) return results;
     auto messages = checkProgram(modules, symbols, options);

@@ -28,7 +28,8 @@ public:
         if (!modules.starts_with("--- ")) return add("Module1.bas", std::string(modules));
         while (!modules.empty()) {
             const auto head = modules.find('\n'), next = modules.find("\n--- ", head);
-            const auto code = head == modules.npos ? "" : modules.substr(head + 1, next == modules.npos ? next : next - head);
+            const auto code =
+                head == modules.npos ? "" : modules.substr(head + 1, next == modules.npos ? next : next - head);
             add(std::string(modules.substr(4, head - 4)), std::string(code));
             modules.remove_prefix(next == modules.npos ? modules.size() : next + 1);
         }
@@ -45,7 +46,8 @@ public:
         const auto checked = results();
         std::vector<std::string> found;
         for (std::size_t i = 0; i < checked.size(); ++i)
-            for (const auto& each : checked[i].diagnostics) found.push_back(place(*sources_[i], each, checked.size() > 1));
+            for (const auto& each : checked[i].diagnostics)
+                found.push_back(place(*sources_[i], each, checked.size() > 1));
         return found;
     }
 

@@ -21,11 +21,13 @@ const MessageCase kCases[] = {
     // Names
     {2000, "Option Explicit\nSub A()\nDim Total\nTotl = 1\nEnd Sub", "4:1",
      "Option Explicit\nSub A()\nDim Total\ntotal = 1\nEnd Sub"},
-    {2000, "Option Explicit\nSub A()\nDim x\nx = 1 + Missing\nEnd Sub", "4:9", "Sub A()\nDim x\nx = 1 + Missing\nEnd Sub"},
-    {2001, "Sub A()\nDim x\nx = Missing(1)\nEnd Sub", "3:5", "Sub A()\nDim x\nx = Found(1)\nEnd Sub\nFunction Found(n)\nEnd Function"},
+    {2000, "Option Explicit\nSub A()\nDim x\nx = 1 + Missing\nEnd Sub", "4:9",
+     "Sub A()\nDim x\nx = 1 + Missing\nEnd Sub"},
+    {2001, "Sub A()\nDim x\nx = Missing(1)\nEnd Sub", "3:5",
+     "Sub A()\nDim x\nx = Found(1)\nEnd Sub\nFunction Found(n)\nEnd Function"},
     {2001, "Sub A()\nMissing 1\nEnd Sub", "2:1", "Sub A()\nB 1\nEnd Sub\nSub B(n)\nEnd Sub"},
-    {2002, "--- Class1.cls\nPublic Sub Go()\nEnd Sub\n--- Module1.bas\nSub A(c As Class1)\nc.Gone\nEnd Sub", "Module1.bas:2:3",
-     "--- Class1.cls\nPublic Sub Go()\nEnd Sub\n--- Module1.bas\nSub A(c As Class1)\nc.Go\nEnd Sub"},
+    {2002, "--- Class1.cls\nPublic Sub Go()\nEnd Sub\n--- Module1.bas\nSub A(c As Class1)\nc.Gone\nEnd Sub",
+     "Module1.bas:2:3", "--- Class1.cls\nPublic Sub Go()\nEnd Sub\n--- Module1.bas\nSub A(c As Class1)\nc.Go\nEnd Sub"},
     {2002, "Private Type P\n  X As Long\nEnd Type\nSub A()\nDim p As P\np.Y = 1\nEnd Sub", "6:3",
      "Private Type P\n  X As Long\nEnd Type\nSub A()\nDim p As P\np.X = 1\nEnd Sub"},
     {2003, "Sub A(x As Missing)\nEnd Sub", "1:12", "Sub A(x As Collection)\nEnd Sub"},
@@ -36,7 +38,8 @@ const MessageCase kCases[] = {
     {2005, "Sub A(x)\nDim x\nEnd Sub", "2:5", "Dim x\nSub A(y)\nDim x\nEnd Sub"},
     {2006, "Sub A()\nGoTo There\nHere:\nEnd Sub", "2:6", "Sub A()\nGoTo Here\nHere:\nEnd Sub"},
     {2006, "Sub A()\nOn Error GoTo 20\n10 Beep\nEnd Sub", "2:15", "Sub A()\nOn Error GoTo 10\n10 Beep\nEnd Sub"},
-    {2007, "Sub A()\nHere:\nIf True Then\nHere:\nEnd If\nEnd Sub", "4:1", "Sub A()\nHere:\nEnd Sub\nSub B()\nHere:\nEnd Sub"},
+    {2007, "Sub A()\nHere:\nIf True Then\nHere:\nEnd If\nEnd Sub", "4:1",
+     "Sub A()\nHere:\nEnd Sub\nSub B()\nHere:\nEnd Sub"},
     {2008, "Sub A()\nDim x\nx = Module1\nEnd Sub", "3:5", "Public y\nSub A()\nDim x\nx = Module1.y\nEnd Sub"},
     {2009, "Sub A()\nDim x\nSet x = Me\nEnd Sub", "3:9", "--- Class1.cls\nSub A()\nDim x\nSet x = Me\nEnd Sub"},
     {2010, "Sub A()\n.Go\nEnd Sub", "2:2", "Sub A(c As Object)\nWith c\n.Go\nEnd With\nEnd Sub"},
@@ -45,19 +48,23 @@ const MessageCase kCases[] = {
     // Types
     {2100, "Private Type P\n  X As Long\nEnd Type\nSub A()\nDim a As P, n As Long\nn = a\nEnd Sub", "6:5",
      "Private Type P\n  X As Long\nEnd Type\nSub A()\nDim a As P, n As Long\nn = a.X\nEnd Sub"},
-    {2100, "Sub A()\nDim a(3), n As Long\nn = a + 1\nEnd Sub", "3:7", "Sub A()\nDim a(3), n As Long\nn = a(1) + 1\nEnd Sub"},
+    {2100, "Sub A()\nDim a(3), n As Long\nn = a + 1\nEnd Sub", "3:7",
+     "Sub A()\nDim a(3), n As Long\nn = a(1) + 1\nEnd Sub"},
     {2101, "Sub A()\nDim n As Integer\nB n\nEnd Sub\nSub B(x As Long)\nEnd Sub", "3:3",
      "Sub A()\nDim n As Integer\nB (n)\nC n\nEnd Sub\nSub B(x As Long)\nEnd Sub\nSub C(ByVal x As Long)\nEnd Sub"},
     {2102, "Const a = b\nDim b", "1:11", "Const a = b\nConst b = 1"},
     {2103, "Const a = 30000 + 30000", "1:17", "Const a = 30000& + 30000"},
     {2104, "Const a = 1 / 0", "1:13", "Sub A()\nDim x\nx = 1 / 0\nEnd Sub"},
-    {2105, "Sub A()\nDim n As Long\nSet n = Nothing\nEnd Sub", "3:5", "Sub A()\nDim n As Object\nSet n = Nothing\nEnd Sub"},
+    {2105, "Sub A()\nDim n As Long\nSet n = Nothing\nEnd Sub", "3:5",
+     "Sub A()\nDim n As Object\nSet n = Nothing\nEnd Sub"},
     {2106, "Sub A()\nDim n As Long\nn = n(1)\nEnd Sub", "3:5", "Sub A()\nDim n() As Long\nn(0) = n(1)\nEnd Sub"},
     {2107, "Sub A()\nDim n(3) As Long, m() As Long\nn = m\nEnd Sub", "3:1",
      "Sub A()\nDim n(3) As Long, m() As Long\nm = n\nEnd Sub"},
     {2108, "Const c = 1\nSub A()\nc = 2\nEnd Sub", "3:1", "Const c = 1\nSub A()\nDim c\nc = 2\nEnd Sub"},
-    {2109, "Sub A()\nDim x\nx = B\nEnd Sub\nSub B()\nEnd Sub", "3:5", "Sub A()\nDim x\nx = B\nEnd Sub\nFunction B()\nEnd Function"},
-    {2111, "Sub A()\nDim c As Collection\nc = Nothing\nEnd Sub", "3:5", "Sub A()\nDim c As Collection\nSet c = Nothing\nEnd Sub"},
+    {2109, "Sub A()\nDim x\nx = B\nEnd Sub\nSub B()\nEnd Sub", "3:5",
+     "Sub A()\nDim x\nx = B\nEnd Sub\nFunction B()\nEnd Function"},
+    {2111, "Sub A()\nDim c As Collection\nc = Nothing\nEnd Sub", "3:5",
+     "Sub A()\nDim c As Collection\nSet c = Nothing\nEnd Sub"},
     {2112, "Sub A()\nDim n As Long\nn.Go\nEnd Sub", "3:1", "Sub A()\nDim n As Object\nn.Go\nEnd Sub"},
     {2113, "Private Type P\n  X As Long\nEnd Type\nSub A()\nDim a As P, v\nv = a\nEnd Sub", "6:5",
      "Private Type P\n  X As Long\nEnd Type\nSub A()\nDim a As P, b As P\nb = a\nEnd Sub"},
@@ -74,14 +81,17 @@ const MessageCase kCases[] = {
      "Sub A()\nDim v, n\nFor Each v In n\nNext\nEnd Sub"},
     // Arguments
     {2200, "Sub A()\nB\nEnd Sub\nSub B(x)\nEnd Sub", "2:1", "Sub A()\nB\nEnd Sub\nSub B(Optional x)\nEnd Sub"},
-    {2201, "Sub A()\nB 1, 2\nEnd Sub\nSub B(x)\nEnd Sub", "2:1", "Sub A()\nB 1, 2\nEnd Sub\nSub B(ParamArray x())\nEnd Sub"},
-    {2202, "Sub A()\nB y:=1\nEnd Sub\nSub B(Optional x)\nEnd Sub", "2:6", "Sub A()\nB x:=1\nEnd Sub\nSub B(Optional x)\nEnd Sub"},
+    {2201, "Sub A()\nB 1, 2\nEnd Sub\nSub B(x)\nEnd Sub", "2:1",
+     "Sub A()\nB 1, 2\nEnd Sub\nSub B(ParamArray x())\nEnd Sub"},
+    {2202, "Sub A()\nB y:=1\nEnd Sub\nSub B(Optional x)\nEnd Sub", "2:6",
+     "Sub A()\nB x:=1\nEnd Sub\nSub B(Optional x)\nEnd Sub"},
     {2203, "Sub A()\nB 1, x:=1\nEnd Sub\nSub B(x, Optional y)\nEnd Sub", "2:9",
      "Sub A()\nB 1, y:=1\nEnd Sub\nSub B(x, Optional y)\nEnd Sub"},
     {2204, "Sub A()\nDim a(1, 2)\na(1) = 0\nEnd Sub", "3:1", "Sub A()\nDim a(1, 2)\na(1, 1) = 0\nEnd Sub"},
     {2205, "Sub A()\nB AddressOf Missing\nEnd Sub\nSub B(ByVal x As Long)\nEnd Sub", "2:3",
      "Sub A()\nB AddressOf A\nEnd Sub\nSub B(ByVal x As Long)\nEnd Sub"},
-    {2206, "Sub A()\nB y:=1\nEnd Sub\nSub B(ParamArray x())\nEnd Sub", "2:6", "Sub A()\nB 1\nEnd Sub\nSub B(ParamArray x())\nEnd Sub"},
+    {2206, "Sub A()\nB y:=1\nEnd Sub\nSub B(ParamArray x())\nEnd Sub", "2:6",
+     "Sub A()\nB 1\nEnd Sub\nSub B(ParamArray x())\nEnd Sub"},
     // Properties
     {2300, "Property Get P(i)\nEnd Property\nProperty Let P(v)\nEnd Property", "3:14",
      "Property Get P(i)\nEnd Property\nProperty Let P(i, v)\nEnd Property"},
@@ -100,14 +110,18 @@ const MessageCase kCases[] = {
      "--- I.cls\nPublic Sub Go()\nEnd Sub\n--- Class1.cls\nImplements I\nPrivate Sub I_Go()\nEnd Sub"},
     {2501, "--- Class1.cls\nSub A()\nRaiseEvent Done\nEnd Sub", "2:1",
      "--- Class1.cls\nEvent Done()\nSub A()\nRaiseEvent Done\nEnd Sub"},
-    {2502, "--- Source.cls\nEvent Done(n As Long)\n--- Class1.cls\nPrivate WithEvents s As Source\nPrivate Sub s_Done()\nEnd Sub",
+    {2502,
+     "--- Source.cls\nEvent Done(n As Long)\n--- Class1.cls\nPrivate WithEvents s As Source\nPrivate Sub s_Done()\nEnd "
+     "Sub",
      "Class1.cls:2:13",
-     "--- Source.cls\nEvent Done(n As Long)\n--- Class1.cls\nPrivate WithEvents s As Source\nPrivate Sub s_Done(n As Long)\nEnd Sub"},
+     "--- Source.cls\nEvent Done(n As Long)\n--- Class1.cls\nPrivate WithEvents s As Source\nPrivate Sub s_Done(n As "
+     "Long)\nEnd Sub"},
     {2503, "--- Source.cls\nPublic x\n--- Class1.cls\nPrivate WithEvents s As Source", "Class1.cls:1:25",
      "--- Source.cls\nEvent Done()\n--- Class1.cls\nPrivate WithEvents s As Source"},
     {2504, "Const a = b\nConst b = a", "1:7", "Const a = b\nConst b = 1"},
     {2504, "Private Type P\n  Q As P\nEnd Type", "1:1", "Private Type P\n  Q() As P\nEnd Type"},
-    {2505, "--- Class1.cls\nImplements E\nPrivate Enum E\n  x\nEnd Enum", "1:12", "--- I.cls\n--- Class1.cls\nImplements I"},
+    {2505, "--- Class1.cls\nImplements E\nPrivate Enum E\n  x\nEnd Enum", "1:12",
+     "--- I.cls\n--- Class1.cls\nImplements I"},
     {2507, "--- Module1.bas\nSub A()\nDim x\nSet x = New ErrObject\nEnd Sub", "3:9",
      "--- Module1.bas\nSub A()\nDim x\nSet x = New Collection\nEnd Sub"},
     {2508, "--- Class1.cls\nPublic Const c = 1", "1:14", "--- Class1.cls\nPrivate Const c = 1"},
@@ -119,7 +133,8 @@ const MessageCase kCases[] = {
     {2506, "--- Class1.cls\nPrivate Enum E\nx\nEnd Enum\nPublic Sub A(p As E)\nEnd Sub", "4:12",
      "--- Class1.cls\nPrivate Enum E\nx\nEnd Enum\nFriend Sub A(p As E)\nEnd Sub"},
     {2604, "Private Type P\n  A(70000) As Byte\nEnd Type", "1:1", "Private Type P\n  A(60000) As Byte\nEnd Type"},
-    {2802, "--- Form1.frm\nPrivate Sub Timer1_Click()\nEnd Sub", "1:13", "--- Form1.frm\nPrivate Sub Timer1_Timer()\nEnd Sub"},
+    {2802, "--- Form1.frm\nPrivate Sub Timer1_Click()\nEnd Sub", "1:13",
+     "--- Form1.frm\nPrivate Sub Timer1_Timer()\nEnd Sub"},
     {2803, "Sub A()\nShell \"a\"\nEnd Sub", "2:1", "Sub A()\nBeep\nEnd Sub"},
     {2803, "Sub A()\nDim x\nSet x = CreateObject(\"Other.Thing\")\nEnd Sub", "3:9",
      "Sub A()\nDim x\nSet x = CreateObject(\"Scripting.Dictionary\")\nEnd Sub"},
@@ -189,9 +204,10 @@ TEST(NameMessages, APropertyThatItsClassLacksIsReportedAtItsLine) {
     const auto library = language::readLibrary("Library Tavlets\nClass QLLabel\nProperty Caption As String\n");
     test::CheckedProgram program;
     program.options.libraries = {&library};
-    program.text("Form1.frm", "VERSION 5.00\nBegin VB.Form Form1 \n   Begin TavletsCtl.QLLabel Label1 \n"
-                              "      _ExtentX        =   5\n      Caption         =   \"a\"\n      Colour          =   5\n"
-                              "   End\nEnd\nAttribute VB_Name = \"Form1\"\n");
+    program.text("Form1.frm",
+                 "VERSION 5.00\nBegin VB.Form Form1 \n   Begin TavletsCtl.QLLabel Label1 \n"
+                 "      _ExtentX        =   5\n      Caption         =   \"a\"\n      Colour          =   5\n"
+                 "   End\nEnd\nAttribute VB_Name = \"Form1\"\n");
     EXPECT_EQ(program.firstPlace(), "Form1.frm:6:7 2801");
 }
 

@@ -54,7 +54,8 @@ public:
     CheckReport(const Options& options, Console& console, Report& report)
         : options_(options), console_(console), report_(report) {}
 
-    void add(const std::string& path, qltoolkit::CheckResult result, bool isNamed, const qltoolkit::SourceText* source) {
+    void add(const std::string& path, qltoolkit::CheckResult result, bool isNamed,
+             const qltoolkit::SourceText* source) {
         console_.detail(fmt::format("read {}: {}", path, plural(result.lines, "line")));
         if (files_.insert(path).second) {
             ++totals_.files;

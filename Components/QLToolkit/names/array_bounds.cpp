@@ -15,7 +15,8 @@ void declareBounds(Entity& entity, const Variable& variable, Constants& constant
         if (!lower || !upper) continue;
         if (*lower > *upper) module.diagnostics.report(Message::EmptyRange, bound.upper->pos);
         const auto count = std::int64_t{*upper} - *lower + 1;
-        elements = std::clamp<std::int64_t>(elements * std::clamp<std::int64_t>(count, 1, kMostElements), 1, kMostElements);
+        elements =
+            std::clamp<std::int64_t>(elements * std::clamp<std::int64_t>(count, 1, kMostElements), 1, kMostElements);
     }
     entity.isStaticArray = true;
     entity.rank = static_cast<std::int16_t>(std::min(bounds.size(), kMostDimensions));

@@ -136,7 +136,7 @@ private:
     /// The arguments that follow the part of the expression that is being bound, or null.
     const IndexExpr* pendingIndex() const {
         return spine_.size() > bottom_ && spine_.back()->kind == ExprKind::Index ? &as<IndexExpr>(*spine_.back())
-                                                                                  : nullptr;
+                                                                                 : nullptr;
     }
     [[nodiscard]] bool memberFollows() const {
         return spine_.size() > bottom_ &&

@@ -39,7 +39,8 @@ Operand Binder::call(const Entity& entity, const Expr& expr) {
 // Arguments that the procedure cannot take belong to what it returns.
 Operand Binder::called(const Callable& callable, const Expr& expr, const Entity& entity, OperandKind kind) {
     const IndexExpr* given = pendingIndex();
-    const bool takes = given && !(callable.parameters.empty() && !given->arguments.empty() && isIndexable(callable.result));
+    const bool takes =
+        given && !(callable.parameters.empty() && !given->arguments.empty() && isIndexable(callable.result));
     if (takes) spine_.pop_back();
     arguments(callable, takes ? given->arguments : Span<Argument>{}, expr.pos);
     return {kind, callable.result, expr.pos, &entity};
@@ -59,9 +60,9 @@ Operand Binder::property(const Entity& entity, const Expr& expr) {
     const Callable* assigning = use_ == Use::Set ? (entity.set ? entity.set : entity.let) : entity.let;
     if (assigning) return called(*assigning, expr, entity, OperandKind::Property);
     // An object that the property returns may have a default property.
-    const bool returnsObject = entity.get && entity.get->result.value != ValueType::Variant && isIndexable(entity.get->result);
-    if (returnsObject && use_ == Use::Let)
-        return called(*entity.get, expr, entity, OperandKind::Property);
+    const bool returnsObject =
+        entity.get && entity.get->result.value != ValueType::Variant && isIndexable(entity.get->result);
+    if (returnsObject && use_ == Use::Let) return called(*entity.get, expr, entity, OperandKind::Property);
     reportName(entity.let || entity.set ? Message::InvalidUseOfProperty : Message::ReadOnlyProperty, expr.pos);
     return late(expr.pos, ValueType::Unknown);
 }
@@ -75,7 +76,10 @@ Operand Binder::index(const Operand& base, const IndexExpr& expr) {
     if (base.type.isArray) return element(base, expr);
     if (base.type.value == ValueType::Object && base.type.id != 0) return defaultMember(base, expr);
     lateArguments(expr.arguments);
-    if (isIndexable(base.type)) return {OperandKind::Late, {base.type.value == ValueType::Unknown ? ValueType::Unknown : ValueType::Variant}, base.pos};
+    if (isIndexable(base.type))
+        return {OperandKind::Late,
+                {base.type.value == ValueType::Unknown ? ValueType::Unknown : ValueType::Variant},
+                base.pos};
     if (base.entity && base.entity->kind == EntityKind::Procedure)
         report(Message::ArgumentCount, base.pos);
     else
@@ -189,12 +193,14 @@ void Binder::argument(const Argument& given, const ParameterInfo& parameter) {
         warn(Message::ArgumentInParentheses, given.value->pos);
     const Type& wanted = parameter.type;
     if (wanted.isArray) {
-        const bool fits = operand.type.isArray && (operand.type.value == wanted.value || wanted.value == ValueType::Variant) &&
+        const bool fits = operand.type.isArray &&
+                          (operand.type.value == wanted.value || wanted.value == ValueType::Variant) &&
                           (operand.type.value != ValueType::Record || operand.type.id == wanted.id);
         if (!fits) report(Message::TypeMismatch, operand.pos);
         return;
     }
-    if (!parameter.byVal && !given.byVal && operand.kind == OperandKind::Variable && given.value->kind != ExprKind::Paren)
+    if (!parameter.byVal && !given.byVal && operand.kind == OperandKind::Variable &&
+        given.value->kind != ExprKind::Paren)
         return argumentByRef(operand, parameter);
     if (!fitsTo(operand, wanted)) report(Message::TypeMismatch, operand.pos);
 }
@@ -209,8 +215,8 @@ void Binder::argumentByRef(const Operand& given, const ParameterInfo& parameter)
     if (wanted.value == ValueType::Variant) return;
     if (parameter.isOfDeclare && type.value == ValueType::Variant) return; // its value is copied there and back
     const bool isText = type.value == ValueType::FixedString && wanted.value == ValueType::String;
-    const bool isSame = !type.isArray && type.value == wanted.value &&
-                        (type.value != ValueType::Record || type.id == wanted.id);
+    const bool isSame =
+        !type.isArray && type.value == wanted.value && (type.value != ValueType::Record || type.id == wanted.id);
     if (isSame || isText) return;
     reportName(Message::ByRefMismatch, given.pos);
 }
@@ -236,7 +242,8 @@ void Binder::warnNotOnDevices(Pos pos) {
     if (given && given->arguments.size() == 1 && given->arguments[0].value &&
         given->arguments[0].value->kind == ExprKind::String) {
         const auto name = stringValue(module_.tree.source, as<StringExpr>(*given->arguments[0].value));
-        if (basic::equalNoCase(name, "Scripting.Dictionary") || basic::equalNoCase(name, "Scripting.FileSystemObject")) return;
+        if (basic::equalNoCase(name, "Scripting.Dictionary") || basic::equalNoCase(name, "Scripting.FileSystemObject"))
+            return;
     }
     reportName(Message::NotOnDevices, pos);
 }

@@ -128,7 +128,8 @@ Operand Binder::binary(const BinaryExpr& expr, const Operand& left) {
 // An operation with two numbers that are written there fails each time it runs.
 void Binder::warnOfFailure(const BinaryExpr& expr) {
     if (!isNumber(*expr.left) || !isNumber(*expr.right)) return;
-    const auto folded = fold(expr.op(), *constants_.valueOf(*expr.left, module_), *constants_.valueOf(*expr.right, module_));
+    const auto folded =
+        fold(expr.op(), *constants_.valueOf(*expr.left, module_), *constants_.valueOf(*expr.right, module_));
     if (folded.error == basic::kOverflow)
         report(Message::ProductOverflows, expr.pos);
     else if (folded.error != 0)
@@ -157,7 +158,8 @@ Operand Binder::typeOf(const TypeOfExpr& expr) {
     const Operand operand = expression(*expr.operand);
     (void)types_.classOf(*expr.type);
     const auto value = operand.type.value;
-    if (operand.type.isArray || (value != ValueType::Object && value != ValueType::Variant && value != ValueType::Unknown))
+    if (operand.type.isArray ||
+        (value != ValueType::Object && value != ValueType::Variant && value != ValueType::Unknown))
         report(Message::ObjectRequired, operand.pos);
     return {OperandKind::Value, {ValueType::Boolean}, expr.pos};
 }

@@ -33,7 +33,8 @@ void Binder::forLoop(const ForStmt& loop) {
 }
 
 void Binder::loopBody(const Operand& variable, const Block& body) {
-    if (variable.entity && std::find(loopVariables_.begin(), loopVariables_.end(), variable.entity) != loopVariables_.end())
+    if (variable.entity &&
+        std::find(loopVariables_.begin(), loopVariables_.end(), variable.entity) != loopVariables_.end())
         reportName(Message::ForVariableInUse, variable.pos);
     loopVariables_.push_back(variable.entity);
     ++forLoops_;

@@ -31,9 +31,7 @@ Operand Binder::member(const Operand& base, const MemberExpr& expr) {
     case ValueType::Record: return memberOfObject(base, expr);
     case ValueType::Variant: return late(expr.pos);
     case ValueType::Unknown: return late(expr.pos, ValueType::Unknown);
-    default:
-        report(Message::InvalidQualifier, base.pos);
-        return late(expr.pos, ValueType::Unknown);
+    default: report(Message::InvalidQualifier, base.pos); return late(expr.pos, ValueType::Unknown);
     }
 }
 
@@ -45,7 +43,7 @@ Operand Binder::memberOfQualifier(const Operand& base, const MemberExpr& expr) {
     }
     const Scope& inner = *base.inner;
     Entity* found = inner.find(expr.name);
-    const bool isOwn = &inner == module_.scope;
+    const bool isOwn = &inner == module_.scope || inner.kind == ScopeKind::Enum; // who can name it can name its members
     if (found && (found->isPublic || isOwn)) {
         if (expr.suffix() == '$' && found->text) found = const_cast<Entity*>(found->text);
         return entityOperand(*found, expr, false);
@@ -61,8 +59,8 @@ Operand Binder::memberOfObject(const Operand& base, const MemberExpr& expr) {
     const Entity* found = scope.find(expr.name);
     if (found && found->isPublic) {
         if (scope.kind == ScopeKind::Record)
-            return {base.kind == OperandKind::Property ? OperandKind::Property : OperandKind::Variable, found->type, expr.pos,
-                    found};
+            return {base.kind == OperandKind::Property ? OperandKind::Property : OperandKind::Variable, found->type,
+                    expr.pos, found};
         return entityOperand(*found, expr, true);
     }
     if (scope.isOpen()) return late(expr.pos, ValueType::Unknown);

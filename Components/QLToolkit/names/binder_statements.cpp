@@ -210,8 +210,7 @@ void Binder::exitProcedure(bool fits, std::string_view word, Pos pos) {
 void Binder::raiseEvent(const RaiseEventStmt& stmt) {
     const Entity* event = module_.scope->events.find(stmt.name);
     if (event && event->get) return arguments(*event->get, stmt.arguments, stmt.pos);
-    if (!event)
-        module_.diagnostics.report(Message::EventNotFound, stmt.pos, program_.symbols.spelling(stmt.name));
+    if (!event) module_.diagnostics.report(Message::EventNotFound, stmt.pos, program_.symbols.spelling(stmt.name));
     lateArguments(stmt.arguments);
 }
 
@@ -234,8 +233,10 @@ void Binder::with(const BodyStmt& stmt) {
     Operand object = expression(*stmt.value, Use::Argument);
     readValue(object);
     const auto type = object.type.value;
-    const bool fits = !object.type.isArray && (type == ValueType::Object || type == ValueType::Record ||
-                                               type == ValueType::Variant || type == ValueType::Unknown);
+    const bool isControls = object.entity && object.entity->kind == EntityKind::Control;
+    const bool fits =
+        (!object.type.isArray || isControls) && (type == ValueType::Object || type == ValueType::Record ||
+                                                 type == ValueType::Variant || type == ValueType::Unknown);
     if (!fits) {
         report(Message::ObjectRequired, object.pos);
         object.type = {ValueType::Unknown};

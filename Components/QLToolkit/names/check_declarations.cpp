@@ -113,8 +113,7 @@ private:
                                  (own->kind != EntityKind::Procedure || !sameType(own->type, member->type) ||
                                   !sameParameters(own->get->parameters, member->get->parameters));
             if (isWrong)
-                module_.diagnostics.report(Message::HandlerMismatch, own->pos,
-                                           nameAt(module_.tree.source, own->pos));
+                module_.diagnostics.report(Message::HandlerMismatch, own->pos, nameAt(module_.tree.source, own->pos));
         }
     }
 
@@ -145,8 +144,7 @@ private:
         const auto& given = entity.get->parameters;
         const bool hasIndex = given.size() == event->get->parameters.size() + 1;
         if (!hasIndex && !sameParameters(given, event->get->parameters))
-            module_.diagnostics.report(Message::HandlerMismatch, entity.pos,
-                                       nameAt(module_.tree.source, entity.pos));
+            module_.diagnostics.report(Message::HandlerMismatch, entity.pos, nameAt(module_.tree.source, entity.pos));
     }
 
     /// The class whose events a prefix receives, or null.
@@ -210,8 +208,6 @@ private:
 
 } // namespace
 
-void checkDeclarations(Program& program, SourceModule& module) {
-    DeclarationChecks{program, module}.check();
-}
+void checkDeclarations(Program& program, SourceModule& module) { DeclarationChecks{program, module}.check(); }
 
 } // namespace qltoolkit

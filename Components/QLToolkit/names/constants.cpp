@@ -73,8 +73,7 @@ void Constants::evaluateOne(const Entity& constant, SourceModule& module, const 
 
 void Constants::refuseCircle(const Entity& constant, SourceModule& module) {
     if (!constant.constant->failed)
-        module.diagnostics.report(Message::CircularReference, constant.pos,
-                                  nameAt(module.tree.source, constant.pos));
+        module.diagnostics.report(Message::CircularReference, constant.pos, nameAt(module.tree.source, constant.pos));
     constant.constant->failed = true;
 }
 
@@ -149,7 +148,8 @@ const Entity* Constants::qualified(const MemberExpr& expr, const Context& contex
         const Symbol name = as<NameExpr>(*expr.base).name;
         const Entity* found = findType(program_, *context.module.scope, Symbol::None, name);
         if (!found || found->kind != EntityKind::Enum) found = findName(program_, *context.module.scope, name).entity;
-        if (found && found->kind == EntityKind::Project) return findName(program_, *context.module.scope, expr.name).entity;
+        if (found && found->kind == EntityKind::Project)
+            return findName(program_, *context.module.scope, expr.name).entity;
         inner = found ? found->inner : nullptr;
     } else if (expr.base->kind == ExprKind::Member) {
         const auto& base = as<MemberExpr>(*expr.base);

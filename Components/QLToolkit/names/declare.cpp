@@ -110,13 +110,10 @@ private:
         return made;
     }
 
-    static bool isEnumMember(const Entity& entity) {
-        return entity.kind == EntityKind::Constant && entity.type.isEnum;
-    }
+    static bool isEnumMember(const Entity& entity) { return entity.kind == EntityKind::Constant && entity.type.isEnum; }
 
     void declaration(const DeclareDecl& decl) {
-        Entity& made =
-            entity(EntityKind::Procedure, decl.signature.name, decl.signature.namePos, isPublic(decl, true));
+        Entity& made = entity(EntityKind::Procedure, decl.signature.name, decl.signature.namePos, isPublic(decl, true));
         made.onDevices = false;
         enter(scope_.names, made);
         module_.callables.emplace_back(&made, &decl);

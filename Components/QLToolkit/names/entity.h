@@ -46,9 +46,9 @@ enum class EntityKind : std::uint8_t {
 struct ConstantState {
     enum class Progress : std::uint8_t { Waiting, Running, Done };
 
-    const Expr* expression = nullptr;       ///< null: one more than `previous`, or 0
+    const Expr* expression = nullptr;        ///< null: one more than `previous`, or 0
     const struct Entity* previous = nullptr; ///< the member of the enumeration before this one
-    Type declared{ValueType::Unknown};      ///< Unknown: the type of the value
+    Type declared{ValueType::Unknown};       ///< Unknown: the type of the value
     Progress progress = Progress::Waiting;
     bool failed = false; ///< reported already
     ConstantValue value;
@@ -57,20 +57,20 @@ struct ConstantState {
 struct Entity {
     EntityKind kind = EntityKind::Variable;
     bool isPublic = false;
-    bool isResult = false;     ///< the variable that a function's name is within the function
+    bool isResult = false; ///< the variable that a function's name is within the function
     bool isParameter = false;
     bool isStaticArray = false; ///< an array with bounds
-    bool isUsed = false;       ///< a local variable that is read or passed on
-    bool isImplicit = false;   ///< a local variable without a declaration
+    bool isUsed = false;        ///< a local variable that is read or passed on
+    bool isImplicit = false;    ///< a local variable without a declaration
     bool onDevices = true;
     bool withEvents = false;
-    std::int16_t rank = -1; ///< dimensions of an array; -1 if they are not known
+    std::int16_t rank = -1;     ///< dimensions of an array; -1 if they are not known
     std::uint32_t elements = 1; ///< of an array with bounds, at most kMostElements
     Symbol name = Symbol::None;
     Pos pos = 0; ///< of the declaration
     Type type;
-    Scope* owner = nullptr; ///< null for a local variable
-    const Scope* inner = nullptr; ///< Enum, Record, Module, Library: what can follow the point
+    Scope* owner = nullptr;        ///< null for a local variable
+    const Scope* inner = nullptr;  ///< Enum, Record, Module, Library: what can follow the point
     const Callable* get = nullptr; ///< Procedure, Event; Property Get
     const Callable* let = nullptr;
     const Callable* set = nullptr;
@@ -86,17 +86,17 @@ struct Scope {
     Symbol name = Symbol::None;
     std::uint32_t number = 0; ///< Type::id
     SymbolMap<Entity> names;
-    SymbolMap<Entity> types;  ///< records, enumerations and classes, which have names of their own
+    SymbolMap<Entity> types; ///< records, enumerations and classes, which have names of their own
     SymbolMap<Entity> events;
     const Scope* base = nullptr; ///< whose members this has too
     const Entity* defaultMember = nullptr;
     const Entity* enumerator = nullptr; ///< what For Each calls
     std::vector<const Scope*> interfaces;
     SourceModule* source = nullptr; ///< of a module of the project
-    bool isPrivate = false;   ///< a record or enumeration that other modules cannot name
-    bool open = false;        ///< may have members that are not known
-    bool creatable = false;   ///< by New
-    bool predeclared = false; ///< its name is an object
+    bool isPrivate = false;         ///< a record or enumeration that other modules cannot name
+    bool open = false;              ///< may have members that are not known
+    bool creatable = false;         ///< by New
+    bool predeclared = false;       ///< its name is an object
 
     [[nodiscard]] Entity* find(Symbol symbol) const {
         for (const Scope* scope = this; scope; scope = scope->base)

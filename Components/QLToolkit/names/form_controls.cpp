@@ -72,7 +72,8 @@ private:
     void checkProperties(const image::Control& control, const Type& type) {
         if (type.value != ValueType::Object || type.id == 0) return;
         const Scope& scope = program_.scope(type.id);
-        if (scope.kind != ScopeKind::LibraryClass || scope.isOpen() || basic::startsWithNoCase(control.className.str(), "VB."))
+        if (scope.kind != ScopeKind::LibraryClass || scope.isOpen() ||
+            basic::startsWithNoCase(control.className.str(), "VB."))
             return;
         for (const auto& property : control.properties) {
             const auto& name = property.name.str();
@@ -88,8 +89,7 @@ private:
         if (const Entity* found = classes_.find(control.className, libraryIsKnown)) return found->type;
         if (libraryIsKnown)
             module_.diagnostics.report(Message::ControlClassUnknown,
-                                       placeInHeader(module_.tree.source, control.name.str()),
-                                       control.className.str());
+                                       placeInHeader(module_.tree.source, control.name.str()), control.className.str());
         return {ValueType::Unknown};
     }
 

@@ -17,7 +17,8 @@ constexpr std::array kSimpleTypes{
     NamedType{"Single", ValueType::Single},     NamedType{"Double", ValueType::Double},
     NamedType{"Currency", ValueType::Currency}, NamedType{"Date", ValueType::Date},
     NamedType{"String", ValueType::String},     NamedType{"Variant", ValueType::Variant},
-    NamedType{"Object", ValueType::Object},     NamedType{"OLE_COLOR", ValueType::Long},    NamedType{"Any", ValueType::Variant},
+    NamedType{"Object", ValueType::Object},     NamedType{"OLE_COLOR", ValueType::Long},
+    NamedType{"Any", ValueType::Variant},
 };
 
 class LibraryScopes {

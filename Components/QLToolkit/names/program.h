@@ -62,7 +62,7 @@ public:
     SymbolMap<Entity> topNames;    ///< the project, libraries and modules
     SymbolMap<Entity> publicNames; ///< of standard modules, and members of public enumerations
     SymbolMap<Entity> publicTypes;
-    SymbolMap<Entity> ambiguous;   ///< of publicNames: the second declaration
+    SymbolMap<Entity> ambiguous; ///< of publicNames: the second declaration
     /// A library or module is missing or damaged, so a name that is not found may be one of its names.
     bool isIncomplete = false;
     bool warnsOptionally = false; ///< of what is allowed but seldom meant

@@ -68,8 +68,7 @@ private:
             entity.get = made;
             return;
         }
-        default:
-            return signature(entity, as<ProcedureDecl>(decl).signature, &as<ProcedureDecl>(decl));
+        default: return signature(entity, as<ProcedureDecl>(decl).signature, &as<ProcedureDecl>(decl));
         }
     }
 
@@ -82,9 +81,7 @@ private:
         switch (decl.kind) {
         case ProcedureKind::PropertyLet: entity.let = assigning(*made, decl); break;
         case ProcedureKind::PropertySet: entity.set = assigning(*made, decl); break;
-        default:
-            entity.get = made;
-            entity.type = made->result;
+        default: entity.get = made; entity.type = made->result;
         }
         if (entity.kind == EntityKind::Property && !entity.get) entity.type = made->result;
     }
