@@ -8,7 +8,7 @@
 #include <map>
 #include <sstream>
 
-namespace language {
+namespace test::language {
 
 using qltoolkit::Operator;
 using qltoolkit::ValueType;
@@ -85,4 +85,4 @@ private:
     std::map<std::string, std::string> groups_;
 };
 
-} // namespace language
+} // namespace test::language

@@ -6,7 +6,7 @@
 #include "tests/language/table.h"
 #include <cstdlib>
 
-namespace language {
+namespace test::language {
 
 using qltoolkit::ConstantValue;
 using qltoolkit::Folded;
@@ -53,4 +53,4 @@ inline std::string printed(const Folded& result) {
     return std::string(kTypeNames[std::size_t(typeOf(result.value))]) + " " + std::visit(Printed{}, result.value);
 }
 
-} // namespace language
+} // namespace test::language

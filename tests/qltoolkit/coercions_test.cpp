@@ -2,14 +2,14 @@
 #include "tests/language/table.h"
 #include <gtest/gtest.h>
 
-using namespace language;
-using qltoolkit::ByRef;
-using qltoolkit::byRefOf;
+using namespace test::language;
 using qltoolkit::Coercion;
 using qltoolkit::coercionOf;
 using qltoolkit::Type;
 
 namespace {
+
+using qltoolkit::ByRef;
 
 constexpr std::array kNeeds{"Same", "Always", "Checked", "Parsed", "Default", "Never"};
 

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 #include <set>
 
-using namespace language;
+using namespace test::language;
 using qltoolkit::fold;
 
 namespace {

@@ -2,7 +2,7 @@
 #include "tests/language/table.h"
 #include <gtest/gtest.h>
 
-using namespace language;
+using namespace test::language;
 using qltoolkit::Operation;
 using qltoolkit::operationOf;
 
