@@ -11,9 +11,6 @@ Double finiteOrOverflow(Double result) {
     return result;
 }
 
-/// A Double has more than twice a Single's digits, so rounding its result again gives the correct Single.
-Single toSingle(Double result) { return CSng(result); }
-
 struct Product {
     std::uint64_t high, low;
 };
@@ -49,11 +46,10 @@ std::int64_t withSign(std::uint64_t size, bool isNegative) {
 
 } // namespace
 
-Single Add(Single a, Single b) { return toSingle(Double{a} + b); }
+Single toSingle(Double result) { return CSng(result); }
+
 Double Add(Double a, Double b) { return finiteOrOverflow(a + b); }
-Single Subtract(Single a, Single b) { return toSingle(Double{a} - b); }
 Double Subtract(Double a, Double b) { return finiteOrOverflow(a - b); }
-Single Multiply(Single a, Single b) { return toSingle(Double{a} * b); }
 Double Multiply(Double a, Double b) { return finiteOrOverflow(a * b); }
 
 Currency Add(Currency a, Currency b) {
@@ -85,7 +81,5 @@ Double Divide(Double a, Double b) {
     if (b == 0) throw RuntimeError(a == 0 ? kOverflow : kDivisionByZero);
     return finiteOrOverflow(a / b);
 }
-
-Single Divide(Single a, Single b) { return toSingle(Divide(Double{a}, Double{b})); }
 
 } // namespace basic

@@ -59,15 +59,20 @@ T Mod(T a, std::type_identity_t<T> b) {
     return static_cast<T>(a % b);
 }
 
-Single Add(Single a, Single b);
+/// Rounds the result of two Singles, which a Double holds precisely enough for a second rounding. Error 6 as above.
+Single toSingle(Double result);
+
+// A Single beside another number counts as a Double.
+Single Add(std::same_as<Single> auto a, std::same_as<Single> auto b) { return toSingle(Double{a} + b); }
+Single Subtract(std::same_as<Single> auto a, std::same_as<Single> auto b) { return toSingle(Double{a} - b); }
+Single Multiply(std::same_as<Single> auto a, std::same_as<Single> auto b) { return toSingle(Double{a} * b); }
+
 Double Add(Double a, Double b);
 Currency Add(Currency a, Currency b);
 
-Single Subtract(Single a, Single b);
 Double Subtract(Double a, Double b);
 Currency Subtract(Currency a, Currency b);
 
-Single Multiply(Single a, Single b);
 Double Multiply(Double a, Double b);
 /// The exact product is rounded to the nearest ten-thousandth, halves to even.
 Currency Multiply(Currency a, Currency b);
@@ -80,9 +85,12 @@ Currency Negate(Currency a);
 /// negative exponent; 6 for an overflow.
 Double Power(Double base, Double exponent);
 
-/// VB's /, whose result is a Double, or a Single for two of them. Error 11 for a divisor of 0, but 6 for 0 / 0; 6 for an overflow.
+/// VB's /, whose result is a Double, or a Single for two Singles. Error 11 for a divisor of 0, but 6 for 0 / 0; 6 for an
+/// overflow.
 Double Divide(Double a, Double b);
-Single Divide(Single a, Single b);
+Single Divide(std::same_as<Single> auto a, std::same_as<Single> auto b) {
+    return toSingle(Divide(Double{a}, Double{b}));
+}
 
 template <WholeNumber T>
 constexpr T Eqv(T a, std::type_identity_t<T> b) noexcept {

@@ -99,6 +99,7 @@ TEST(ArithmeticOfSingles, ResultsAreRoundedToSingle) {
     EXPECT_EQ(Multiply(0.1F, 0.1F), 0.1F * 0.1F);
     EXPECT_EQ(Divide(1.0F, 3.0F), 1.0F / 3.0F);
     EXPECT_EQ(Negate(0.1F), -0.1F);
+    EXPECT_EQ(Divide(1.0, 3.0F), 1.0 / 3.0);
     EXPECT_EQ(attempt([] { (void)Multiply(3e38F, 2.0F); }).Number, 6);
     EXPECT_EQ(attempt([] { (void)Add(3e38F, 3e38F); }).Number, 6);
     EXPECT_EQ(attempt([] { (void)Divide(1.0F, 0.0F); }).Number, 11);

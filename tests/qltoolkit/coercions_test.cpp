@@ -9,6 +9,8 @@ using qltoolkit::Type;
 
 namespace {
 
+using qltoolkit::ByRef;
+
 constexpr std::array kNeeds{"Same", "Always", "Checked", "Parsed", "Default", "Never"};
 
 const char* text(Coercion coercion) { return kNeeds[std::size_t(coercion)]; }
@@ -57,4 +59,35 @@ TEST(Coercions, RecordsNeedTheSameType) {
     EXPECT_EQ(coercionOf(of(ValueType::Record, 1), of(ValueType::Record, 1)), Coercion::Same);
     EXPECT_EQ(coercionOf(of(ValueType::Record, 1), of(ValueType::Record, 2)), Coercion::Never);
     EXPECT_EQ(coercionOf(of(ValueType::Object, 1), of(ValueType::Object, 2)), Coercion::Same);
+}
+
+TEST(CoercionsByRef, AVariableOfTheParametersTypeIsPassedItself) {
+    EXPECT_EQ(byRefOf(of(ValueType::Long), of(ValueType::Long)), ByRef::Address);
+    EXPECT_EQ(byRefOf(of(ValueType::Object, 1), of(ValueType::Object, 1)), ByRef::Address);
+    EXPECT_EQ(byRefOf(of(ValueType::Record, 1), of(ValueType::Record, 1)), ByRef::Address);
+    EXPECT_EQ(byRefOf(arrayOf(ValueType::Long), arrayOf(ValueType::Long)), ByRef::Address);
+    EXPECT_EQ(byRefOf(of(ValueType::Unknown), of(ValueType::Long)), ByRef::Address);
+    EXPECT_EQ(byRefOf({.value = ValueType::Long, .isEnum = true, .id = 1}, of(ValueType::Long)), ByRef::Address);
+}
+
+TEST(CoercionsByRef, AVariantParameterTakesEveryVariable) {
+    EXPECT_EQ(byRefOf(of(ValueType::Integer), of(ValueType::Variant)), ByRef::Address);
+    EXPECT_EQ(byRefOf(arrayOf(ValueType::Integer), of(ValueType::Variant)), ByRef::Address);
+    EXPECT_EQ(byRefOf(arrayOf(ValueType::Integer), arrayOf(ValueType::Variant)), ByRef::Never);
+}
+
+TEST(CoercionsByRef, ObjectsAndFixedStringsAreStoredBack) {
+    EXPECT_EQ(byRefOf(of(ValueType::Object, 1), of(ValueType::Object)), ByRef::Temporary);
+    EXPECT_EQ(byRefOf(of(ValueType::Object, 1), of(ValueType::Object, 2)), ByRef::Temporary);
+    EXPECT_EQ(byRefOf(of(ValueType::FixedString, 5), of(ValueType::String)), ByRef::Temporary);
+}
+
+TEST(CoercionsByRef, OtherTypesAreAMismatch) {
+    EXPECT_EQ(byRefOf(of(ValueType::Integer), of(ValueType::Long)), ByRef::Never);
+    EXPECT_EQ(byRefOf(of(ValueType::Variant), of(ValueType::Long)), ByRef::Never);
+    EXPECT_EQ(byRefOf(of(ValueType::Variant), of(ValueType::Object, 1)), ByRef::Never);
+    EXPECT_EQ(byRefOf(of(ValueType::Record, 1), of(ValueType::Record, 2)), ByRef::Never);
+    EXPECT_EQ(byRefOf(arrayOf(ValueType::FixedString, 5), arrayOf(ValueType::String)), ByRef::Never);
+    EXPECT_EQ(byRefOf(of(ValueType::Long), arrayOf(ValueType::Long)), ByRef::Never);
+    EXPECT_EQ(byRefOf(arrayOf(ValueType::Long), of(ValueType::Long)), ByRef::Never);
 }

@@ -56,3 +56,15 @@ TEST(Fold, AnErrorHasNoValue) {
     const auto result = fold(Operator::Divide, basic::Integer{1}, basic::Integer{0});
     EXPECT_EQ(result, (Folded{{}, 11}));
 }
+
+TEST(Fold, LongTextsAreNotJoined) {
+    const std::string most(65534, 'a');
+    EXPECT_EQ(std::get<std::string>(fold(Operator::Concat, most, std::string("b")).value).size(), 65535u);
+    EXPECT_EQ(fold(Operator::Concat, most, std::string("bc")).error, 14);
+    EXPECT_EQ(fold(Operator::Add, most, std::string("bc")).error, 14);
+}
+
+TEST(Fold, LongPatternsAreNotCompared) {
+    EXPECT_EQ(fold(Operator::Like, std::string(10000, 'a'), std::string(1000, '*')).error, 0);
+    EXPECT_EQ(fold(Operator::Like, std::string(10000, 'a'), std::string(1001, '*')).error, 16);
+}

@@ -343,10 +343,10 @@ constexpr MessageInfo kMessageTable[] = {
 
     {M::TypeMismatch, S::Error, "Type mismatch.",
      "A value of this type cannot be converted to the type needed here. No value of the expression would succeed.",
-     "Dim n As Long\nn = Array(1, 2)()", "Change the type of the variable, or use a member of the value."},
+     "Dim n As Long, list() As Long\nn = list", "Change the type of the variable, or use a member of the value."},
     {M::ByRefMismatch, S::Error, "ByRef argument type mismatch: {name}.",
      "The procedure may assign to this parameter, so the variable passed to it must have the parameter's type.",
-     "Sub Double_(ByRef n As Long)\nEnd Sub\nSub A()\n  Dim small As Integer\n  Double_ small\nEnd Sub",
+     "Sub Twice(ByRef n As Long)\nEnd Sub\nSub A()\n  Dim small As Integer\n  Twice small\nEnd Sub",
      "Change one of the types, declare the parameter ByVal, or put the argument in parentheses to pass a copy."},
     {M::ConstantRequired, S::Error, "Constant expression required.",
      "Values of Const and Enum, lengths of fixed-length strings, bounds in Dim and default values of parameters are "
@@ -498,7 +498,7 @@ constexpr MessageInfo kMessageTable[] = {
      "Each pair of bounds in the parentheses is a dimension.", "", "Use fewer dimensions."},
     {M::StaticDataTooLarge, S::Error, "Fixed or static data can't be larger than 64K.",
      "A Type, or an array of fixed size inside of one, may need at most 65,536 bytes.",
-     "Private Type Screen_\n  Pixels(70000) As Byte\nEnd Type", "Use a dynamic array."},
+     "Private Type Picture\n  Pixels(70000) As Byte\nEnd Type", "Use a dynamic array."},
 
     {M::ControlClassUnknown, S::Warning,
      "The class {name} of this control is not known, so its members are not checked.",

@@ -51,4 +51,13 @@ Coercion coercionOf(const Type& from, const Type& to) {
     return coercionOf(withArray(from), withArray(to));
 }
 
+ByRef byRefOf(const Type& variable, const Type& parameter) {
+    const bool takesAll = parameter.value == V::Variant && !parameter.isArray;
+    if (takesAll || (variable.isArray == parameter.isArray && isSame(variable, parameter))) return ByRef::Address;
+    if (variable.isArray || parameter.isArray) return ByRef::Never;
+    const bool areObjects = variable.value == V::Object && parameter.value == V::Object;
+    const bool areTexts = variable.value == V::FixedString && parameter.value == V::String;
+    return areObjects || areTexts ? ByRef::Temporary : ByRef::Never;
+}
+
 } // namespace qltoolkit

@@ -20,4 +20,14 @@ enum class Coercion : std::uint8_t {
 /// each other.
 [[nodiscard]] Coercion coercionOf(const Type& from, const Type& to);
 
+/// How a variable is passed to a ByRef parameter.
+enum class ByRef : std::uint8_t {
+    Address,   ///< the variable itself; a Variant parameter that refers to it keeps its type
+    Temporary, ///< a copy that is stored back after the call, an object with a check of its class
+    Never      ///< "ByRef argument type mismatch" when compiling
+};
+
+/// Other expressions, fields of objects among them, are passed as copies: see coercionOf.
+[[nodiscard]] ByRef byRefOf(const Type& variable, const Type& parameter);
+
 } // namespace qltoolkit

@@ -31,10 +31,22 @@ ConstantValue areSame(const ConstantValue& left, const ConstantValue& right) {
     return true;
 }
 
+/// Constants that double each other would fill the memory, and comparing long patterns would take minutes.
+constexpr std::size_t kMostCharacters = 65535, kMostComparisons = 10'000'000;
+
+std::string joined(const std::string& a, const std::string& b) {
+    if (a.size() + b.size() > kMostCharacters) throw basic::RuntimeError(basic::kOutOfStringSpace);
+    return a + b;
+}
+
+bool matches(const std::string& text, const std::string& pattern, bool compareText) {
+    if (text.size() * pattern.size() > kMostComparisons) throw basic::RuntimeError(basic::kExpressionTooComplex);
+    return basic::Like(text, pattern, compareText ? basic::vbTextCompare : basic::vbBinaryCompare);
+}
+
 ConstantValue foldTexts(Operator op, const ConstantValue& left, const ConstantValue& right, bool compareText) {
     const auto &a = std::get<std::string>(left), &b = std::get<std::string>(right);
-    if (op != Operator::Like) return a + b;
-    return basic::Like(a, b, compareText ? basic::vbTextCompare : basic::vbBinaryCompare);
+    return op == Operator::Like ? ConstantValue(matches(a, b, compareText)) : ConstantValue(joined(a, b));
 }
 
 ConstantValue foldTyped(Operator op, const ConstantValue& left, const ConstantValue& right, bool compareText) {
