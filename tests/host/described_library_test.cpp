@@ -1,8 +1,10 @@
 #include "Basic/runtime_error.h"
+#include "Components/Language/foreign.h"
 #include "Host/model/references/described_library.h"
 #include "tests/support/temp_folder.h"
 #include <algorithm>
 #include <gtest/gtest.h>
+#include <regex>
 #include <set>
 
 namespace {
@@ -128,4 +130,32 @@ TEST(ShippedDescriptions, HaveTheDefaultMembersOfTheLanguagesControls) {
     // The button of the language has Value, which devices lack; its Caption would change what a condition means.
     for (const auto& member : groupOf(tavlets, "QLButton")->members) EXPECT_FALSE(member.isDefault) << member.name;
     EXPECT_TRUE(memberOf(tavlets, "QLForm", "Show"));
+}
+
+namespace {
+
+/// The words of a text that begin with "QL".
+std::vector<std::string> deviceNamesIn(const std::string& text) {
+    std::vector<std::string> names;
+    static const std::regex kName("QL[A-Za-z]+");
+    for (std::sregex_iterator at(text.begin(), text.end(), kName), end; at != end; ++at) names.push_back(at->str());
+    return names;
+}
+
+} // namespace
+
+TEST(Substitutes, AreTavletsAndLibrariesOfTheInstallation) {
+    const auto tavlets = shipped("tavlets/Tavlets.toml");
+    const auto check = [&](const std::string& text) {
+        for (const auto& name : deviceNamesIn(text)) EXPECT_TRUE(name == "QLDevice" || groupOf(tavlets, name)) << text;
+    };
+    const auto checkLibrary = [&](const language::Library& library) {
+        check(library.instead);
+        for (const auto& group : library.groups) {
+            check(group.instead);
+            for (const auto& member : group.members) check(member.instead);
+        }
+    };
+    for (const auto* library : language::builtInLibraries()) checkLibrary(*library);
+    for (const auto& library : language::foreignLibraries()) checkLibrary(library);
 }

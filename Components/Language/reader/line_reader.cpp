@@ -31,15 +31,11 @@ void LineReader::expect(char sign) {
     if (!accept(sign)) fail(std::string("expected \"") + sign + '"');
 }
 
-std::string_view LineReader::wordAhead() const {
-    auto end = at_;
-    while (end < line_.size() && isLetterOrDigit(line_[end])) ++end;
-    return line_.substr(at_, end - at_);
-}
-
 bool LineReader::acceptWord(std::string_view word) {
-    if (wordAhead() != word) return false;
-    at_ += word.size();
+    if (!line_.substr(at_).starts_with(word)) return false;
+    const auto end = at_ + word.size();
+    if (end < line_.size() && isLetterOrDigit(line_[end])) return false;
+    at_ = end;
     skipBlanks();
     return true;
 }

@@ -33,7 +33,6 @@ private:
     void skipBlanks();
     void term();
     void parentheses();
-    [[nodiscard]] std::string_view wordAhead() const;
 
     std::string_view line_;
     std::size_t at_ = 0;

@@ -86,6 +86,13 @@ Class Controls
   Sub Remove(Name) absent "Unload a control of an array instead"
   Function [_NewEnum]() As Unknown enumerates hidden
 
+Class ControlArray ' The controls of a form that share a name
+  Property Count As Integer readonly
+  Property LBound As Integer readonly ' The lowest index
+  Property UBound As Integer readonly ' The highest index
+  Function Item(Index As Integer) As Control default
+  Function [_NewEnum]() As Unknown enumerates hidden
+
 Class Printers absent "Devices have no printer; send the data with a QLSerial, QLInfrared or QLNetwork"
   Property Count As Integer readonly
   Function Item(Index As Long) As Printer default
