@@ -8,6 +8,15 @@ namespace {
 
 std::string nameOf(const EventObject& object, const host::ClassEvent& event) { return object.name + "_" + event.name; }
 
+/// The first line (from 1) of its body; 0 if there is none.
+int handlerOf(const vbide::CodeModule& module, const EventObject& object, const host::ClassEvent& event) {
+    const auto name = nameOf(object, event);
+    for (const auto& member : module.Members())
+        if (member.type == vbide::Member::Method && basic::equalNoCase(member.Name, name))
+            return member.CodeLocation + 1;
+    return 0;
+}
+
 /// Adds the handler after all other code, with a blank line before it. Returns the first line of its body.
 int addHandler(vbide::CodeModule& module, const EventObject& object, const host::ClassEvent& event) {
     const int last = module.CountOfLines();
@@ -18,14 +27,6 @@ int addHandler(vbide::CodeModule& module, const EventObject& object, const host:
 }
 
 } // namespace
-
-int handlerOf(const vbide::CodeModule& module, const EventObject& object, const host::ClassEvent& event) {
-    const auto name = nameOf(object, event);
-    for (const auto& member : module.Members())
-        if (member.type == vbide::Member::Method && basic::equalNoCase(member.Name, name))
-            return member.CodeLocation + 1;
-    return 0;
-}
 
 void openHandler(vbide::VBComponent& component, const EventObject& object, const host::ClassEvent& event) {
     const auto module = component.CodeModule();
