@@ -1,5 +1,6 @@
 // The input of a form designer, given as another window would give it.
 #include "tests/workbench/canvas_desktop.h"
+#include <QLabel>
 
 using testing::ElementsAre;
 
@@ -21,6 +22,25 @@ TEST_F(Canvas, FunctionsDragAsTheMouseDoes) {
     canvas().release(from + QPoint(24, 8));
     EXPECT_FALSE(canvas().isDragging());
     EXPECT_EQ(placeOf("cmdA"), QRectF(40, 24, 80, 40));
+}
+
+TEST_F(Canvas, ADragAsksForNoCommandsUntilItsEnd) {
+    openBoxes();
+    const auto from = middleOf("cmdA");
+    canvas().press(from);
+    int asked = 0;
+    auto& changed = window().editFocus().changed;
+    changed = [&asked, former = changed] {
+        ++asked;
+        former();
+    };
+    for (int step = 1; step < 4; ++step) canvas().moveTo(from + QPoint(8 * step, 8));
+    EXPECT_EQ(window().findChild<QLabel*>("statusPlace")->text(), "600, 360");
+    EXPECT_EQ(asked, 0);
+    canvas().release(from + QPoint(24, 8));
+    settle();
+    EXPECT_GT(asked, 0);
+    EXPECT_TRUE(menuItem("&Edit", "&Undo")->isEnabled());
 }
 
 TEST_F(Canvas, AGripIsPulledFromThePlaceOfItsPress) {

@@ -21,8 +21,9 @@ DesignDesk::DesignDesk(host::Host& host, CodeWindows& tabs, ProjectExplorer& exp
       toolbox_(new Toolbox([this](const auto& progId) { addInMiddle(progId); })),
       forms_(new FormWindows(host, tabs, history_,
                              {run_, [this] { followTabs(); }, [this] { return toolbox_->tool(); },
-                              [this] { toolbox_->putBack(); }, [this] { selectionChanged.raise(); },
-                              [this] { return grid_; }, [this](const auto& at) { menuRequested(at); }})) {
+                              [this] { toolbox_->putBack(); }, [this] { placeChanged.raise(); },
+                              [this] { selectionChanged.raise(); }, [this] { return grid_; },
+                              [this](const auto& at) { menuRequested(at); }})) {
     connect(&tabs, &QTabWidget::currentChanged, this, [this] { followTabs(); });
     connect(&explorer, &QTreeWidget::currentItemChanged, this, [this] { followExplorer(); });
     connect(&explorer, &QTreeWidget::itemClicked, this, [this] { followExplorer(); });

@@ -29,6 +29,8 @@ public:
     void showObject();
     /// Raised when another form or control is selected, or what is selected has another place.
     fernwick::Event<> selectionChanged;
+    /// Raised while what is selected is dragged.
+    fernwick::Event<> placeChanged;
     /// Reads the grid from the user's settings.
     void updateGrid();
     /// Edits the menus of the form in front.

@@ -53,7 +53,7 @@ void FormCanvas::switchTabOrder() {
     else
         tabOrder_.emplace(view_.picture());
     redraw();
-    view_.callbacks().placeChanged();
+    view_.callbacks().formChanged();
 }
 
 bool FormCanvas::pressInTabOrder(const QPointF& onWidget) {

@@ -9,6 +9,7 @@
 #include "Host/model/forms/control_edits.h"
 #include <QPointer>
 #include <algorithm>
+#include <utility>
 
 namespace workbench {
 
@@ -35,13 +36,17 @@ void FormView::reload() {
     // a removed form keeps its last picture until its window is closed
     const auto failed = basic::attempt([this] { picture_ = pictureOfForm(*component_); });
     if (failed.Number != 0) return;
-    deviceScreen_ = deviceScreenOf(component_);
     const auto isGone = [](const auto& control) {
         return basic::attempt([&] { (void)control->ClassName(); }).Number != 0;
     };
     if (std::erase_if(selection_, isGone) > 0) selectionChanged();
     canvas_->formChanged();
-    callbacks_.placeChanged();
+    callbacks_.formChanged();
+}
+
+void FormView::updateDeviceScreen() {
+    const auto screen = deviceScreenOf(component_);
+    if (std::exchange(deviceScreen_, screen) != screen) canvas_->formChanged();
 }
 
 QRectF FormView::shownPlace() const { return canvas_->shownPlace(); }

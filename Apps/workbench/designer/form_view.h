@@ -28,8 +28,10 @@ public:
         std::function<std::string()> tool;
         /// The tool was used or cancelled.
         std::function<void()> toolUsed;
-        /// What is selected has another place, or is dragged to one.
+        /// What is selected is dragged to another place.
         std::function<void()> placeChanged;
+        /// The form was read again, or shows its tab order or not.
+        std::function<void()> formChanged;
         std::function<DesignGrid()> grid;
         /// Opens the designer's context menu at a place on the screen.
         std::function<void(const QPoint&)> menu;
@@ -56,6 +58,8 @@ public:
     FormCanvas& canvas() { return *canvas_; }
     /// Reads the form again when Qt's loop turns.
     void reloadSoon() { reload_.start(); }
+    /// Reads the size of the device's screen again.
+    void updateDeviceScreen();
     /// Undoes the last change of this form.
     void undo();
     void redo();
