@@ -43,6 +43,54 @@ TEST_F(Canvas, ADragAsksForNoCommandsUntilItsEnd) {
     EXPECT_TRUE(menuItem("&Edit", "&Undo")->isEnabled());
 }
 
+TEST_F(Canvas, UndoAndRedoNameTheirStep) {
+    openBoxes();
+    const auto names = [this] {
+        settle();
+        return menuItem("&Edit", "&Undo")->text() + ", " + menuItem("&Edit", "&Redo")->text();
+    };
+    EXPECT_EQ(names(), "&Undo, &Redo");
+    drag(middleOf("cmdA"), {16, 8});
+    EXPECT_EQ(names(), "&Undo Move, &Redo");
+    drag(gripOf("cmdA").toPoint(), {16, 8});
+    EXPECT_EQ(names(), "&Undo Size, &Redo");
+    type("Caption", "Go");
+    EXPECT_EQ(names(), "&Undo Change Caption, &Redo");
+    canvas().setFocus();
+    key(Qt::Key_Delete);
+    EXPECT_EQ(names(), "&Undo Delete, &Redo");
+    undo();
+    undo();
+    EXPECT_EQ(names(), "&Undo Size, &Redo Change Caption");
+    component("frmMain")->CodeModule()->CodePane()->Show();
+    settle();
+    EXPECT_EQ(names(), "&Undo, &Redo") << "a text has no names";
+}
+
+TEST_F(Canvas, EachCommandNamesItsStep) {
+    openBoxes();
+    const auto step = [this](const std::function<void()>& act) {
+        view().select({control("cmdB"), control("cmdA")});
+        act();
+        settle();
+        return menuItem("&Edit", "&Undo")->text().toStdString();
+    };
+    const auto chosen = [this](const char* menu, const char* item) {
+        return [=, this] { format(menu, item)->trigger(); };
+    };
+    EXPECT_EQ(step(chosen("&Align", "&Lefts")), "&Undo Align");
+    EXPECT_EQ(step([this] { key(Qt::Key_Right, Qt::ShiftModifier); }), "&Undo Size");
+    EXPECT_EQ(step(chosen("&Make Same Size", "&Both")), "&Undo Size");
+    EXPECT_EQ(step(chosen("&Vertical Spacing", "&Increase")), "&Undo Space");
+    EXPECT_EQ(step(chosen("&Center in Form", "&Horizontally")), "&Undo Center");
+    EXPECT_EQ(step(chosen("&Order", "&Send to Back")), "&Undo Send to Back");
+    EXPECT_EQ(step(chosen("&Order", "&Bring to Front")), "&Undo Bring to Front");
+    EXPECT_EQ(step([this] { key(Qt::Key_Down, Qt::ControlModifier); }), "&Undo Move");
+    EXPECT_EQ(step([this] { menuItem("F&ormat", "&Lock Controls")->trigger(); }), "&Undo Lock Controls");
+    EXPECT_EQ(step([this] { menuItem("F&ormat", "&Lock Controls")->trigger(); }), "&Undo Unlock Controls");
+    EXPECT_EQ(step([this] { menuItem("&Edit", "Cu&t")->trigger(); }), "&Undo Cut");
+}
+
 TEST_F(Canvas, AGripIsPulledFromThePlaceOfItsPress) {
     openBoxes();
     clickOn("cmdA");

@@ -129,14 +129,14 @@ void DesignDesk::redo() {
     if (auto* const view = forms_->current()) view->redo();
 }
 
-bool DesignDesk::canUndo() const {
+std::optional<std::string> DesignDesk::stepToUndo() const {
     const auto* view = forms_->current();
-    return view && history_.canUndo(view->component());
+    return view ? history_.stepToUndo(view->component()) : std::nullopt;
 }
 
-bool DesignDesk::canRedo() const {
+std::optional<std::string> DesignDesk::stepToRedo() const {
     const auto* view = forms_->current();
-    return view && history_.canRedo(view->component());
+    return view ? history_.stepToRedo(view->component()) : std::nullopt;
 }
 
 } // namespace workbench
