@@ -19,7 +19,7 @@ void modZoomManagement::createZoomWindow() {
         ZoomToolWindow = vbe->Windows()->CreateToolWindow(vbe->Addins()->Item(app_.Title + ".Connect"),
                                                           app_.Title + ".udocZoomWindow", zoom_texts::kCaption,
                                                           zoom_texts::kGuidPosition, document);
-        ZoomDocument = basic::cast<ZoomView>(document);
+        ZoomDocument = basic::cast<ZoomedDesigner>(document);
     });
     here([&] { ZoomToolWindow->Visible(false); });
 }

@@ -4,7 +4,7 @@
 #include "Add-in/core/modAddinPrefsManagement.h"
 #include "Add-in/core/procedure.h"
 #include "Add-in/platform/platform.h"
-#include "Add-in/zoom/zoom_view.h"
+#include "Add-in/zoom/zoomed_designer.h"
 
 namespace fernwick {
 
@@ -14,7 +14,7 @@ public:
         : addIn_(addIn), errors_(errors), prefs_(prefs), windows_(platform.windows), app_(platform.app) {}
 
     /// The document in the tool window; Nothing while the window is closed.
-    basic::Ref<ZoomView> ZoomDocument;
+    basic::Ref<ZoomedDesigner> ZoomDocument;
     basic::Ref<vbide::Window> ZoomToolWindow;
 
     /// Has the host create the window, which stays hidden.

@@ -14,7 +14,7 @@ public:
     modZoomWindowSubclassing(const modZoomWindowSubclassing&) = delete;
 
     /// Restores the windows of an earlier call, and redirects the messages of the zoom document. The offsets are those
-    /// of ZoomView.
+    /// of ZoomedDesigner.
     void RedirectWindowMessages(Hwnd zoomHwnd, Hwnd targetHwnd, std::int32_t zoomLevel, std::int32_t xOffset,
                                 std::int32_t yOffset);
     void UpdateZoom(std::int32_t zoomLevel, std::int32_t xOffset, std::int32_t yOffset);

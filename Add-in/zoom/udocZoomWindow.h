@@ -19,7 +19,7 @@ struct ZoomWindowServices {
     modZoomWindowSubclassing& subclassing;
 };
 
-class udocZoomWindow final : public ZoomView, public std::enable_shared_from_this<udocZoomWindow> {
+class udocZoomWindow final : public ZoomedDesigner, public std::enable_shared_from_this<udocZoomWindow> {
 public:
     /// The height of Frame1, in twips.
     static constexpr std::int32_t kFrameHeight = 450;

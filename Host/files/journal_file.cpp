@@ -1,13 +1,14 @@
 #include "Host/files/journal_file.h"
 #include "Host/files/system_error.h"
 #include <charconv>
+#include <cstdint>
 #include <fmt/format.h>
 
 namespace host {
 namespace {
 
 constexpr int kInvalidJournal = 321;
-constexpr std::string_view kFirstLine = "Fernwick journal 1\n";
+constexpr std::string_view kFirstLine = "Fernwick journal 1\n", kFirstLineWithRecords = "Fernwick journal 2\n";
 
 /// 64-bit FNV-1a; std::hash may differ between builds, and journals outlive the build that wrote them.
 std::uint64_t checkSumOf(std::string_view bytes) noexcept {
@@ -51,9 +52,12 @@ std::string formatStamp(const std::optional<FileStamp>& stamp) {
 class JournalReader {
 public:
     explicit JournalReader(std::string_view bytes) : rest_(bytes) {
-        if (!rest_.starts_with(kFirstLine)) refuse("is not a journal of this version");
+        hasRecords_ = rest_.starts_with(kFirstLineWithRecords);
+        if (!hasRecords_ && !rest_.starts_with(kFirstLine)) refuse("is not a journal of this version");
         rest_.remove_prefix(kFirstLine.size());
     }
+
+    bool hasRecords() const { return hasRecords_; }
 
     std::string_view line(std::string_view key) {
         const auto end = rest_.find('\n');
@@ -96,16 +100,35 @@ private:
     }
 
     std::string_view rest_;
+    bool hasRecords_ = false;
 };
+
+/// What follows the line with the size of the text.
+std::string recordLines(const UnsavedRecords& records) {
+    return fmt::format("Records={}\nFrom={}\nResources={}\nResourcesBase={}\n", records.bytes.size(), records.from,
+                       escaped(records.file), formatStamp(records.base));
+}
+
+/// Returns the size of the records, which are after the text.
+std::uint64_t readRecordLines(JournalReader& reader, UnsavedRecords& records) {
+    if (!reader.hasRecords()) return 0;
+    const auto size = reader.number<std::uint64_t>("Records=");
+    records.from = reader.number<std::size_t>("From=");
+    records.file = reader.text("Resources=");
+    records.base = reader.stamp("ResourcesBase=");
+    return size;
+}
 
 } // namespace
 
 std::string encodeJournal(const JournalEntry& entry) {
-    const auto checked = fmt::format("Project={}\nComponent={}\nType={}\nFile={}\nBase={}\nWritten={}\nSize={}\n\n",
+    const bool hasRecords = !entry.records.bytes.empty();
+    const auto checked = fmt::format("Project={}\nComponent={}\nType={}\nFile={}\nBase={}\nWritten={}\nSize={}\n{}\n",
                                      escaped(entry.project), escaped(entry.component), entry.type, escaped(entry.file),
-                                     formatStamp(entry.base), entry.written, entry.bytes.size()) +
-                         entry.bytes;
-    return fmt::format("{}Sum={:x}\n", kFirstLine, checkSumOf(checked)) + checked;
+                                     formatStamp(entry.base), entry.written, entry.bytes.size(),
+                                     hasRecords ? recordLines(entry.records) : "") +
+                         entry.bytes + entry.records.bytes;
+    return fmt::format("{}Sum={:x}\n", hasRecords ? kFirstLineWithRecords : kFirstLine, checkSumOf(checked)) + checked;
 }
 
 JournalEntry decodeJournal(std::string_view bytes) {
@@ -120,10 +143,14 @@ JournalEntry decodeJournal(std::string_view bytes) {
     entry.base = reader.stamp("Base=");
     entry.written = reader.number<std::int64_t>("Written=");
     const auto size = reader.number<std::uint64_t>("Size=");
+    const auto records = readRecordLines(reader, entry.records);
     reader.line("");
-    if (reader.rest().size() < size) refuse(fmt::format("ends after {} of {} bytes", reader.rest().size(), size));
-    if (!asWritten || reader.rest().size() > size) refuse("is damaged: its checksum does not match");
-    entry.bytes = reader.rest();
+    const auto present = reader.rest().size();
+    if (present < size || present - size < records)
+        refuse(fmt::format("ends after {} of {} bytes", present, size > UINT64_MAX - records ? size : size + records));
+    if (!asWritten || present - size > records) refuse("is damaged: its checksum does not match");
+    entry.bytes = reader.rest().substr(0, size);
+    entry.records.bytes = reader.rest().substr(size);
     return entry;
 }
 

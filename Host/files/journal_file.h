@@ -1,5 +1,6 @@
 #pragma once
 // A journal: a file with the unsaved text of a source or project file, for recovery after a crash.
+#include "Host/files/resource_file.h"
 #include "Host/files/text_file.h"
 #include <cstdint>
 #include <optional>
@@ -17,6 +18,7 @@ struct JournalEntry {
     std::optional<FileStamp> base;
     std::int64_t written = 0; ///< when, in seconds since 1970, UTC
     std::string bytes;        ///< the whole source file as a save would write it
+    UnsavedRecords records;   ///< to which the text refers
 };
 
 /// Returns the bytes of a journal file. Any text can be encoded and is restored exactly.

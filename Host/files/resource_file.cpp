@@ -170,4 +170,10 @@ std::string listRecord(const std::vector<std::string>& items) { return itemsReco
 /// The designer reserves two characters more than the longest number has.
 std::string itemDataRecord(const std::vector<std::string>& numbers) { return itemsRecord(numbers, 2); }
 
+std::optional<std::string> withRecords(std::string onDisk, const UnsavedRecords& records) {
+    if (records.from > onDisk.size() && records.from - onDisk.size() > kLargestResourceGap) return {};
+    onDisk.resize(records.from);
+    return onDisk + records.bytes;
+}
+
 } // namespace host

@@ -1,12 +1,28 @@
 #pragma once
 // The binary companion of a form: .frx .ctx .pgx .dsx. It has consecutive records and no header; the kind of a record
 // is known only from the property that refers to it.
+#include "Host/files/text_file.h"
+#include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace host {
+
+/// A file is not filled up for references that are further beyond its end.
+inline constexpr std::size_t kLargestResourceGap = 16 * 1024 * 1024;
+
+/// Records at the end of a resource file that are not on disk yet.
+struct UnsavedRecords {
+    std::string file; ///< its name
+    std::size_t from = 0;
+    std::optional<FileStamp> base; ///< of the file on disk as it was read; none for a new one
+    std::string bytes;             ///< empty for none
+};
+/// Returns the whole file: what is on disk, up to the records, and them. Nothing if too much is missing before them.
+std::optional<std::string> withRecords(std::string onDisk, const UnsavedRecords& records);
 
 /// The content of a record, or the type's default and the reason why it could not be read.
 template <class T>

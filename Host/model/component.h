@@ -2,6 +2,7 @@
 // A component of a project (module, class, form and so on), over the text of its file.
 #include "Add-in/platform/host_project.h"
 #include "Host/files/project_file.h"
+#include "Host/files/resource_file.h"
 #include "Host/files/text_file.h"
 #include "Host/model/code/dirty_mark.h"
 #include "Host/model/code/source_file.h"
@@ -71,7 +72,7 @@ public:
     void reread();
     /// Replaces the source with unsaved text that was based on the file with the stamp `base`. If the file has changed
     /// since, the next save treats it as changed by another program. Errors as above.
-    void restore(std::string bytes, const std::optional<FileStamp>& base);
+    void restore(std::string bytes, const std::optional<FileStamp>& base, const UnsavedRecords& records = {});
     /// Reads the same bytes in the present code page of the project. Errors as above.
     void decodeAgain();
     /// Marks the component as dirty after an edit of its text, unless the text is again that of the file.

@@ -60,10 +60,11 @@ void Component::reread() {
     raiseReplaced();
 }
 
-void Component::restore(std::string bytes, const std::optional<FileStamp>& base) {
+void Component::restore(std::string bytes, const std::optional<FileStamp>& base, const UnsavedRecords& records) {
     auto loaded = sourceOf(kindOf(type_).member, std::move(bytes), origin_.path, owner()->codePage().page);
     loaded.stamp = base;
     replaceSource(std::move(loaded));
+    designer_->resources().restore(records);
     dirty_.set(true);
     raiseReplaced();
 }

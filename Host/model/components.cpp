@@ -5,6 +5,7 @@
 #include "Host/model/code/loaded_source.h"
 #include "Host/model/code/names.h"
 #include "Host/model/code/new_source.h"
+#include "Host/model/component_designer.h"
 #include "Host/model/errors/host_errors.h"
 #include "Host/model/host.h"
 #include "Host/model/project.h"
@@ -134,12 +135,13 @@ void Components::takeNameOfAnnounced(Component& component) {
 }
 
 std::shared_ptr<Component> Components::addSource(vbide::vbext_ComponentType type, const std::string& name,
-                                                 std::string bytes) {
+                                                 std::string bytes, const UnsavedRecords& records) {
     const auto project = this->project();
     auto loaded = sourceOf(kindOf(type).member, std::move(bytes), name, project->codePage().page);
     if (!loaded.name.empty() && named(loaded.name)) throwNameTaken(loaded.name);
     if (loaded.name.empty()) loaded.name = freeName(name);
     const auto component = std::make_shared<Component>(project, std::move(loaded), ComponentOrigin{});
+    component->designer().resources().restore(records);
     insert(component);
     project->changed();
     component->raiseToPanes(&PaneEvents::codeChanged);

@@ -28,8 +28,9 @@ public:
     void requireFree(const std::string& name, const Component& component) const;
     /// Inserts a component without an event. Returns false if its name is taken.
     bool insert(const std::shared_ptr<Component>& component);
-    /// Adds a component from its text, without a file. Errors: 321 not a source of this kind; 32813 the name is taken.
-    std::shared_ptr<Component> addSource(vbide::vbext_ComponentType type, const std::string& name, std::string bytes);
+    /// Adds a component from its text and the records that it refers to, without a file. Errors: 321 not a source of this kind; 32813 the name is taken.
+    std::shared_ptr<Component> addSource(vbide::vbext_ComponentType type, const std::string& name, std::string bytes,
+                                         const UnsavedRecords& records = {});
     /// Must be called after a component was renamed.
     void renamed(Component& component, const std::string& oldName);
     /// Detaches the collection from its project. All members of these objects raise errors from now on.

@@ -12,8 +12,6 @@
 namespace host {
 namespace {
 
-constexpr std::size_t kLargestGap = 16 * 1024 * 1024;
-
 std::shared_ptr<const ResourceFile> readResources(const std::string& path) {
     try {
         return std::make_shared<ResourceFile>(readFile(path).bytes);
@@ -61,7 +59,7 @@ FormResources::Own& FormResources::own() {
     }
     own_ = std::move(made);
     // a reference to data that is missing must not get that of another property
-    if (const auto end = endOfReferences(); end > bytes.size() && end <= kLargestGap) bytes.resize(end);
+    if (const auto end = endOfReferences(); end > bytes.size() && end <= kLargestResourceGap) bytes.resize(end);
     own_->newFrom = bytes.size();
     own_->file = std::make_shared<ResourceFile>(std::move(bytes));
     return *own_;
@@ -132,6 +130,25 @@ void FormResources::formNotSaved() {
     if (!copied_) return;
     component_.source().renameCompanion(own_->name, copied_->name);
     own_ = std::exchange(copied_, std::nullopt);
+}
+
+UnsavedRecords FormResources::unsaved() {
+    const bool isNew = component_.path().empty();
+    if (isNew && !onDisk(component_.resourceOwner()).empty()) (void)basic::attempt([this] { own(); });
+    if (!own_ || (!isNew && !isNeeded())) return {};
+    const auto from = isNew ? 0 : own_->newFrom;
+    return {own_->name, from, isNew ? std::nullopt : own_->stamp, own_->file->bytes().substr(from)};
+}
+
+void FormResources::restore(const UnsavedRecords& records) {
+    discard();
+    if (records.bytes.empty()) return;
+    std::string before;
+    const auto found = onDisk(component_.resourceOwner());
+    if (!found.empty()) (void)basic::attempt([&] { before = readFile(found).bytes; });
+    auto bytes = withRecords(std::move(before), records);
+    if (bytes)
+        own_ = Own{records.file, {}, std::make_shared<ResourceFile>(std::move(*bytes)), records.base, records.from};
 }
 
 void FormResources::discard() {

@@ -35,6 +35,11 @@ public:
     /// Called if the form could not be saved elsewhere after all: it refers to its old resources again.
     void formNotSaved();
 
+    /// The records that a crash would lose. Of a component without a file, all of its template's too.
+    UnsavedRecords unsaved();
+    /// Discards all other new records.
+    void restore(const UnsavedRecords& records);
+
     /// Forgets what was read, so that the files are read again.
     void reread() { read_.clear(); }
     /// Forgets the new records too.

@@ -29,11 +29,12 @@ public:
     // ---- for the host ----
     /// Must be called after the component's source was replaced.
     void replaced() { outline_.reset(); }
+    /// Valid until the next edit.
+    const CodeOutline& outline() const;
 
 private:
     CodeText& text() const;
     void edited();
-    const CodeOutline& outline() const;
     const CodeOutline::Procedure& procedure(const std::string& name, vbide::vbext_ProcKind kind) const;
 
     std::weak_ptr<Component> component_;

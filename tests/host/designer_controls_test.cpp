@@ -1,3 +1,4 @@
+#include "Host/model/forms/control_text.h"
 #include "Host/model/forms/described_classes.h"
 #include "tests/host/designer_support.h"
 #include <gmock/gmock.h>
@@ -198,6 +199,15 @@ TEST_F(Controls, MayBeRemovedInTheirAddedEvent) {
     open(kControls, hooks);
     all()->Add("VB.TextBox");
     EXPECT_EQ(file->text(), original);
+}
+
+TEST_F(Controls, WithoutAResourceFileLoseTheirRecords) {
+    open(kControls);
+    host::insertControls(designer->Designer(), nullptr,
+                         crLf("Begin VB.PictureBox picNew \n   Picture         =   \"a.frx\":0000\n"
+                              "   Tag             =   \"kept\"\nEnd\n"),
+                         {.arrays = {}, .records = {{"\"a.frx\":0000", "a record"}}});
+    EXPECT_EQ(difference(), "+    Begin VB.PictureBox picNew \n+       Tag             =   \"kept\"\n+    End\n");
 }
 
 TEST_F(Controls, AreRenamedInTheirBeginLine) {

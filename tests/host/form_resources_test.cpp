@@ -1,5 +1,7 @@
 // New values in the resource file of a form.
+#include "Host/files/resource_file.h"
 #include "Host/model/component.h"
+#include "Host/model/forms/control_text.h"
 #include "Host/model/forms/form_change.h"
 #include "Host/model/forms/property_source.h"
 #include "tests/host/designer_support.h"
@@ -72,6 +74,43 @@ TEST_F(FormResources, ANewPictureIsAppendedAndOnlyItsLineChanges) {
                             "+    Icon            =   \"frmMain.frx\":0019\n");
     EXPECT_EQ(saved("frmMain.frx"), kOldRecords + host::pictureRecord("GIF89a", false));
     EXPECT_EQ(of("txtLines", "Text")->Value(), fernwick::Variant("One\r\nTwo"));
+}
+
+TEST_F(FormResources, ATextOnOneLineTakesItsRecordToAnotherForm) {
+    const auto string = host::stringRecord(std::string(300, 'x'));
+    const auto records = kOldRecords + string;
+    auto text = kFormWithRecords;
+    text.insert(text.find("   Begin VB.ListBox"),
+                crLf("   Begin VB.Label lblLong \n      Caption         =   $\"frmMain.frx\":0019\n   End\n"));
+    open(text, records);
+    const auto controls = std::vector{form->Designer()->VBControls()->Item("lblLong")};
+    const auto copied = host::recordsOfControls(form->Designer(), controls);
+    ASSERT_EQ(copied.size(), 1u);
+    EXPECT_EQ(copied.at("$\"frmMain.frx\":0019"), string);
+    host::insertControls(form->Designer(), nullptr, host::textOfControls(controls), {.arrays = {}, .records = copied});
+    save();
+    EXPECT_EQ(saved("frmMain.frx"), records + string);
+    EXPECT_THAT(saved("frmMain.frm"), testing::HasSubstr("Caption         =   $\"frmMain.frx\":0149"));
+}
+
+TEST_F(FormResources, ARecordOfAnUnknownLayoutIsCopiedIfItsLengthIsKnown) {
+    const std::string known("\x03\0\0\0abc", 7), cut("\xff\0\0\0abc", 7);
+    const auto records = kOldRecords + known + cut;
+    auto text = kFormWithRecords;
+    text.insert(text.find("   Begin VB.ListBox"), crLf("   Begin Maker.Gauge gauOne \n"
+                                                       "      Bytes           =   \"frmMain.frx\":0019\n"
+                                                       "      Broken          =   \"frmMain.frx\":0020\n   End\n"));
+    open(text, records);
+    const auto controls = std::vector{form->Designer()->VBControls()->Item("gauOne")};
+    const auto copied = host::recordsOfControls(form->Designer(), controls);
+    ASSERT_EQ(copied.size(), 1u);
+    EXPECT_EQ(copied.at("\"frmMain.frx\":0019"), known);
+    host::insertControls(form->Designer(), nullptr, host::textOfControls(controls), {.arrays = {}, .records = copied});
+    save();
+    EXPECT_EQ(saved("frmMain.frx"), records + known);
+    const auto lines = difference();
+    EXPECT_THAT(lines, testing::HasSubstr("Bytes           =   \"frmMain.frx\":0027"));
+    EXPECT_EQ(lines.find("Broken"), lines.rfind("Broken")) << "only in the first control";
 }
 
 TEST_F(FormResources, ARemovedPictureLeavesItsRecord) {

@@ -83,6 +83,19 @@ TEST(HostCode, ListsTheDeclarationsOfAModule) {
     EXPECT_EQ(outline.procedures[3].kind, vbide::vbext_pk_Let);
 }
 
+TEST(HostCode, ListsVariablesWithEventsAndInterfaces) {
+    const auto outline =
+        outlineOfText("Implements IShape\r\nImplements Project1.IStore ' both\r\n"
+                      "Private a As Long, WithEvents b As Timer, c As Timer\r\n"
+                      "Public WithEvents tree As _\r\n    MSComctlLib.TreeView\r\n"
+                      "Dim WithEvents lost, WithEvents odd As , Implements\r\nImplements\r\n"
+                      "Sub A()\r\n    Dim WithEvents late As Timer\r\n    Implements None\r\nEnd Sub\r\n");
+    Names sources;
+    for (const auto& [name, className, isInterface] : outline.sources)
+        sources.push_back(name + " " + className + (isInterface ? " i" : ""));
+    EXPECT_EQ(sources, (Names{"IShape IShape i", "IStore Project1.IStore i", "b Timer", "tree MSComctlLib.TreeView"}));
+}
+
 TEST(HostCode, FindsProceduresByNameAndKind) {
     TestHost host;
     const auto project = host.open(

@@ -42,6 +42,25 @@ TEST(JournalFile, IsRestoredExactly) {
     EXPECT_EQ(read.bytes, entry.bytes);
 }
 
+TEST(JournalFile, RecordsAreRestoredExactly) {
+    auto entry = sampleEntry();
+    entry.records = {"odd\nname.frx", 70000, host::FileStamp{1, 2, 3, 4, 5, 6}, std::string("\0\n\xff", 3)};
+    const auto bytes = encodeJournal(entry);
+    const auto read = decodeJournal(bytes);
+    EXPECT_EQ(read.bytes, entry.bytes);
+    EXPECT_EQ(read.records.file, entry.records.file);
+    EXPECT_EQ(read.records.from, 70000u);
+    ASSERT_TRUE(read.records.base);
+    EXPECT_EQ(read.records.base->digest, 6u);
+    EXPECT_EQ(read.records.bytes, entry.records.bytes);
+    EXPECT_TRUE(decodeJournal(encodeJournal(sampleEntry())).records.bytes.empty());
+    EXPECT_THAT(whyRefused(bytes.substr(0, bytes.size() - 2)), testing::HasSubstr("ends after"));
+    EXPECT_THAT(whyRefused(bytes + "x"), testing::HasSubstr("checksum"));
+    auto overflow = bytes;
+    overflow.replace(overflow.find("Records=3"), 9, "Records=18446744073709551615");
+    EXPECT_THAT(whyRefused(overflow), testing::HasSubstr("ends after"));
+}
+
 TEST(JournalFile, AComponentWithoutAFileHasNoBase) {
     auto entry = sampleEntry();
     entry.project = entry.file = entry.bytes = "";
@@ -66,7 +85,7 @@ TEST(JournalFile, ReportsTheReasonForRefusingOtherBytes) {
     using testing::HasSubstr;
     EXPECT_THAT(whyRefused(""), HasSubstr("not a journal"));
     EXPECT_THAT(whyRefused("Attribute VB_Name = \"modA\"\r\n"), HasSubstr("not a journal"));
-    EXPECT_THAT(whyRefused(with("journal 1", "journal 2")), HasSubstr("not a journal of this version"));
+    EXPECT_THAT(whyRefused(with("journal 1", "journal 3")), HasSubstr("not a journal of this version"));
     EXPECT_THAT(whyRefused(with("Component=", "Component:")), HasSubstr("lacks its line Component="));
     EXPECT_THAT(whyRefused(with("Type=1", "Type=x")), HasSubstr("number"));
     EXPECT_THAT(whyRefused(with("Type=1\n", "Type=1x\n")), HasSubstr("not a number"));

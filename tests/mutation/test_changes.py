@@ -1,7 +1,11 @@
-"""The changes that the mutation run makes."""
+"""The changes that the mutation run makes, and the tests that it runs first."""
+import pathlib
 import unittest
 
 from changes import changes
+from nearest import NEAREST, nearest
+
+ROOT = pathlib.Path(__file__).resolve().parents[2]
 
 
 def results(text):
@@ -40,6 +44,22 @@ class Changes(unittest.TestCase):
         text = "int a;\nbool b = a == c;\n"
         self.assertEqual([change.describe(text) for change in changes("a.cpp", text)],
                          ["a.cpp:2: '==' -> '!=' in: bool b = a == c;"])
+
+
+class Nearest(unittest.TestCase):
+    def test_each_folder_has_tests(self):
+        for room in ("Basic", "Add-in", "Host", "Components", "Apps"):
+            for path in (ROOT / room).rglob("*.cpp"):
+                self.assertTrue(nearest(path.relative_to(ROOT).as_posix()), path)
+
+    def test_the_tests_exist(self):
+        for folder, names in NEAREST.items():
+            self.assertTrue((ROOT / folder).is_dir(), folder)
+            for name in names:
+                self.assertTrue((ROOT / "tests" / name).is_dir(), name)
+
+    def test_an_unknown_folder_is_an_error(self):
+        self.assertRaises(KeyError, nearest, "Elsewhere/a.cpp")
 
 
 if __name__ == "__main__":

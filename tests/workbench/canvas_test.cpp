@@ -1,5 +1,6 @@
 // The input of a form designer, given as another window would give it.
 #include "tests/workbench/canvas_desktop.h"
+#include <QLabel>
 
 using testing::ElementsAre;
 
@@ -21,6 +22,73 @@ TEST_F(Canvas, FunctionsDragAsTheMouseDoes) {
     canvas().release(from + QPoint(24, 8));
     EXPECT_FALSE(canvas().isDragging());
     EXPECT_EQ(placeOf("cmdA"), QRectF(40, 24, 80, 40));
+}
+
+TEST_F(Canvas, ADragAsksForNoCommandsUntilItsEnd) {
+    openBoxes();
+    const auto from = middleOf("cmdA");
+    canvas().press(from);
+    int asked = 0;
+    auto& changed = window().editFocus().changed;
+    changed = [&asked, former = changed] {
+        ++asked;
+        former();
+    };
+    for (int step = 1; step < 4; ++step) canvas().moveTo(from + QPoint(8 * step, 8));
+    EXPECT_EQ(window().findChild<QLabel*>("statusPlace")->text(), "600, 360");
+    EXPECT_EQ(asked, 0);
+    canvas().release(from + QPoint(24, 8));
+    settle();
+    EXPECT_GT(asked, 0);
+    EXPECT_TRUE(menuItem("&Edit", "&Undo")->isEnabled());
+}
+
+TEST_F(Canvas, UndoAndRedoNameTheirStep) {
+    openBoxes();
+    const auto names = [this] {
+        settle();
+        return menuItem("&Edit", "&Undo")->text() + ", " + menuItem("&Edit", "&Redo")->text();
+    };
+    EXPECT_EQ(names(), "&Undo, &Redo");
+    drag(middleOf("cmdA"), {16, 8});
+    EXPECT_EQ(names(), "&Undo Move, &Redo");
+    drag(gripOf("cmdA").toPoint(), {16, 8});
+    EXPECT_EQ(names(), "&Undo Size, &Redo");
+    type("Caption", "Go");
+    EXPECT_EQ(names(), "&Undo Change Caption, &Redo");
+    canvas().setFocus();
+    key(Qt::Key_Delete);
+    EXPECT_EQ(names(), "&Undo Delete, &Redo");
+    undo();
+    undo();
+    EXPECT_EQ(names(), "&Undo Size, &Redo Change Caption");
+    component("frmMain")->CodeModule()->CodePane()->Show();
+    settle();
+    EXPECT_EQ(names(), "&Undo, &Redo") << "a text has no names";
+}
+
+TEST_F(Canvas, EachCommandNamesItsStep) {
+    openBoxes();
+    const auto step = [this](const std::function<void()>& act) {
+        view().select({control("cmdB"), control("cmdA")});
+        act();
+        settle();
+        return menuItem("&Edit", "&Undo")->text().toStdString();
+    };
+    const auto chosen = [this](const char* menu, const char* item) {
+        return [=, this] { format(menu, item)->trigger(); };
+    };
+    EXPECT_EQ(step(chosen("&Align", "&Lefts")), "&Undo Align");
+    EXPECT_EQ(step([this] { key(Qt::Key_Right, Qt::ShiftModifier); }), "&Undo Size");
+    EXPECT_EQ(step(chosen("&Make Same Size", "&Both")), "&Undo Size");
+    EXPECT_EQ(step(chosen("&Vertical Spacing", "&Increase")), "&Undo Space");
+    EXPECT_EQ(step(chosen("&Center in Form", "&Horizontally")), "&Undo Center");
+    EXPECT_EQ(step(chosen("&Order", "&Send to Back")), "&Undo Send to Back");
+    EXPECT_EQ(step(chosen("&Order", "&Bring to Front")), "&Undo Bring to Front");
+    EXPECT_EQ(step([this] { key(Qt::Key_Down, Qt::ControlModifier); }), "&Undo Move");
+    EXPECT_EQ(step([this] { menuItem("F&ormat", "&Lock Controls")->trigger(); }), "&Undo Lock Controls");
+    EXPECT_EQ(step([this] { menuItem("F&ormat", "&Lock Controls")->trigger(); }), "&Undo Unlock Controls");
+    EXPECT_EQ(step([this] { menuItem("&Edit", "Cu&t")->trigger(); }), "&Undo Cut");
 }
 
 TEST_F(Canvas, AGripIsPulledFromThePlaceOfItsPress) {

@@ -43,6 +43,15 @@ TEST_F(DeviceScreens, StayWhereTheyAreWhenTheFormGrows) {
     EXPECT_TRUE(hasEdge(160, 160));
 }
 
+TEST_F(DeviceScreens, FollowTheDeviceOfTheProject) {
+    openSized("160", "160");
+    project()->WriteProperty("Quinloft Global", "DefaultFormWidth", "240");
+    project()->WriteProperty("Quinloft Global", "DefaultFormHeight", "320");
+    settle();
+    EXPECT_EQ(view().deviceScreen(), QSizeF(240, 320));
+    EXPECT_TRUE(hasEdge(240, 320));
+}
+
 TEST_F(DeviceScreens, DevicesWithoutAFixedSizeHaveNone) {
     for (const auto* none : {"-1", "0", "", "many"}) {
         openSized(none, "160");

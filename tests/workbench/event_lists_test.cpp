@@ -138,6 +138,90 @@ TEST_F(EventLists, UserControlsHaveTheEventsTheyDeclare) {
     EXPECT_TRUE(events.contains("GotFocus"));
 }
 
+TEST_F(EventLists, VariablesWithEventsHaveThoseOfTheirClass) {
+    bench->open(test::SampleProject("Sources")
+                    .member("Object={831FDD16-0C5C-11D2-A9FC-0000F8754DA1}#2.0#0; MSCOMCTL.OCX")
+                    .member("Object={1198F6AB-5766-4D4A-A1AF-CD9A25D2D2B4}#1.0#0; Tavlets.dll")
+                    .classModule("clsTimer", "Public Event Tick(ByVal Count As Long, x())\r\nEvent Done()\r\n")
+                    .classModule("clsUser", "Private WithEvents tmr As clsTimer, WithEvents own As Sources.clsTimer\r\n"
+                                            "Dim WithEvents cmd As CommandButton\r\n"
+                                            "Dim WithEvents tree As TreeView\r\n"
+                                            "Dim WithEvents tabs As QLTabStrip\r\n"
+                                            "Dim WithEvents what As NoSuchClass, WithEvents odd As Other.clsTimer\r\n")
+                    .writeTo(folder));
+    codeOf("clsUser");
+    EXPECT_EQ(entries(objects()),
+              (QStringList{"(General)", "Class", "cmd", "odd", "own", "tabs", "tmr", "tree", "what"}));
+    const std::pair<const char*, const char*> kEvents[] = {
+        {"tmr", "Tick"}, {"own", "Done"}, {"cmd", "Click"}, {"tree", "NodeClick"}, {"tabs", "BeforeChange"}};
+    for (const auto& [object, event] : kEvents) {
+        choose(objects(), object);
+        EXPECT_GE(events().findText(event), 0) << object;
+    }
+    for (const auto* unknown : {"what", "odd"}) {
+        choose(objects(), unknown);
+        EXPECT_EQ(events().count(), 0) << unknown;
+    }
+    choose(objects(), "tmr");
+    choose(events(), "Tick");
+    EXPECT_THAT(codeText("clsUser"),
+                testing::EndsWith("\r\n\r\nPrivate Sub tmr_Tick(ByVal Count As Long, x())\r\n\r\nEnd Sub"));
+    EXPECT_EQ(handled(), QStringList{"Tick"});
+}
+
+TEST_F(EventLists, InterfacesHaveTheMembersThatTheirClassMustDeclare) {
+    bench->open(test::SampleProject("Shapes")
+                    .classModule("IShape",
+                                 "Public Enum Way\r\n    Up\r\nEnd Enum\r\n"
+                                 "Public Name As String, Kind As Way, Count%\r\nPublic Owner As New IShape\r\n"
+                                 "Public Tag\r\nPrivate hidden As Long\r\nPublic Event Moved()\r\n"
+                                 "Public Sub Draw(ByVal X As Long, _\r\n    Optional Y As String = \")\")\r\n"
+                                 "End Sub\r\nFunction Area#()\r\nEnd Function\r\n"
+                                 "Public Function Points(a() As Long) As Long()\r\nEnd Function\r\n"
+                                 "Public Property Get Value(i As Integer) As Variant\r\nEnd Property\r\n"
+                                 "Public Property Set Value(i As Integer, o As Variant)\r\nEnd Property\r\n"
+                                 "Friend Sub Near()\r\nEnd Sub\r\nPrivate Sub Class_Initialize()\r\nEnd Sub\r\n")
+                    .classModule("clsCircle", "Implements Shapes.IShape\r\nImplements INothing\r\n")
+                    .writeTo(folder));
+    codeOf("clsCircle");
+    EXPECT_EQ(entries(objects()), (QStringList{"(General)", "Class", "INothing", "IShape"}));
+    choose(objects(), "INothing");
+    EXPECT_EQ(events().count(), 0);
+    choose(objects(), "IShape");
+    const auto offered = entries(events());
+    EXPECT_EQ(offered.join(", "), "Name [PropertyGet], Name [PropertyLet], Kind [PropertyGet], Kind [PropertyLet], "
+                                  "Count [PropertyGet], Count [PropertyLet], Owner [PropertyGet], Owner [PropertySet], "
+                                  "Tag [PropertyGet], Tag [PropertyLet], Tag [PropertySet], Draw, Area, Points, "
+                                  "Value [PropertyGet], Value [PropertySet]");
+    for (const auto& member : offered) choose(events(), member);
+    EXPECT_EQ(handled(), offered);
+    std::string heads, lines = codeText("clsCircle") + "\r\n";
+    for (std::size_t at = 0; at < lines.size(); at = lines.find("\r\n", at) + 2)
+        if (lines.compare(at, 8, "Private ") == 0) heads += lines.substr(at + 8, lines.find("\r\n", at) - at - 6);
+    EXPECT_EQ(heads, "Property Get IShape_Name() As String\r\nProperty Let IShape_Name(ByVal RHS As String)\r\n"
+                     "Property Get IShape_Kind() As Way\r\nProperty Let IShape_Kind(ByVal RHS As Way)\r\n"
+                     "Property Get IShape_Count() As Integer\r\nProperty Let IShape_Count(ByVal RHS As Integer)\r\n"
+                     "Property Get IShape_Owner() As IShape\r\nProperty Set IShape_Owner(ByVal RHS As IShape)\r\n"
+                     "Property Get IShape_Tag() As Variant\r\nProperty Let IShape_Tag(ByVal RHS As Variant)\r\n"
+                     "Property Set IShape_Tag(ByVal RHS As Variant)\r\n"
+                     "Sub IShape_Draw(ByVal X As Long, Optional Y As String = \")\")\r\n"
+                     "Function IShape_Area() As Double\r\nFunction IShape_Points(a() As Long) As Long()\r\n"
+                     "Property Get IShape_Value(i As Integer) As Variant\r\n"
+                     "Property Set IShape_Value(i As Integer, o As Variant)\r\n");
+}
+
+TEST_F(EventLists, ADeclarationJustTypedIsListed) {
+    bench->open(test::SampleProject("Typed")
+                    .classModule("clsTimer", "Public Event Tick()\r\n")
+                    .classModule("clsUser", "")
+                    .writeTo(folder));
+    auto& text = codeOf("clsUser").scintilla();
+    QTest::keyClicks(&text, "Private WithEvents tmr As clsTimer");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return objects().findText("tmr") > 0; }));
+    choose(objects(), "tmr");
+    EXPECT_EQ(entries(events()), QStringList{"Tick"});
+}
+
 TEST_F(EventLists, ClassesHaveTwoEvents) {
     bench->open(test::SampleProject("Classes").writeTo(folder));
     const auto added = project()->VBComponents()->Add(vbide::vbext_ct_ClassModule);

@@ -2,7 +2,9 @@
 #include "Apps/workbench/unsaved/discarded_changes.h"
 #include "Apps/workbench/unsaved/journal_folder.h"
 #include "Host/files/journal_file.h"
+#include "Host/files/resource_file.h"
 #include "Host/model/component.h"
+#include "Host/model/forms/property_source.h"
 #include "tests/workbench/open_desktop.h"
 #include "tests/workbench/window_words.h"
 #include <QDateTime>
@@ -192,6 +194,65 @@ TEST_F(Journals, StoreChangesToAForm) {
     EXPECT_THAT(read(journals().front()).bytes, HasSubstr("Survives"));
 }
 
+TEST_F(Journals, NewPicturesOfAFormSurviveAndAreSaved) {
+    const auto project =
+        test::SampleProject().member("Form=frmA.frm", "frmA.frm", test::formText("frmA")).writeTo(folder);
+    folder.write("frmA.frx", "old records");
+    openFile(project);
+    component("frmA")->Properties()->Item("Caption")->Value(std::string("Survives"));
+    host::setImage(component("frmA")->Properties()->Item("Icon"), "GIF89a");
+    ASSERT_TRUE(QTest::qWaitFor([] { return !journals().isEmpty(); }, kLongestWait));
+    auto entry = read(journals().front());
+    EXPECT_EQ(entry.records.file, "frmA.frx");
+    EXPECT_EQ(entry.records.from, 11u);
+    end();
+    start();
+    leave(entry);
+    answerWith("Restore");
+    openFile(project);
+    waitForBox();
+    EXPECT_EQ(host::imageOf(component("frmA")->Properties()->Item("Icon")), "GIF89a");
+    ASSERT_EQ(journals().size(), 1);
+    EXPECT_EQ(read(journals().front()).records.bytes, entry.records.bytes) << "it survives a second crash";
+    component("frmA")->SaveAs(component("frmA")->FileNames(1));
+    EXPECT_EQ(folder.read("frmA.frx"), "old records" + host::pictureRecord("GIF89a", false));
+    EXPECT_THAT(folder.read("frmA.frm"), HasSubstr("Icon            =   \"frmA.frx\":000B"));
+}
+
+TEST_F(Journals, EachNewPictureIsWritten) {
+    open(test::SampleProject().member("Form=frmA.frm", "frmA.frm", test::formText("frmA")));
+    const auto icon = component("frmA")->Properties()->Item("Icon");
+    const auto kept = [] { return journals().isEmpty() ? "" : read(journals().front()).records.bytes; };
+    host::setImage(icon, "GIF89a");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return kept() == host::pictureRecord("GIF89a", false); }, kLongestWait));
+    const auto both = host::pictureRecord("GIF89a", false) + host::pictureRecord("GIF89b", false);
+    host::setImage(icon, "GIF89b");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return kept() == both; }, kLongestWait));
+}
+
+TEST_F(Journals, AFormThatWasNeverSavedKeepsItsPicture) {
+    open(twoModules());
+    const auto added = project()->VBComponents()->Add(vbide::vbext_ct_VBForm);
+    const auto name = added->Name();
+    host::setImage(added->Properties()->Item("Icon"), "GIF89a");
+    const auto journal = [&] {
+        for (const auto& path : journals())
+            if (read(path).component == name) return path;
+        return QString();
+    };
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !journal().isEmpty(); }, kLongestWait));
+    const auto entry = read(journal());
+    end();
+    start();
+    leave(entry);
+    answerWith("Restore");
+    openFile(folder / "Hello.vbp");
+    waitForBox();
+    EXPECT_EQ(host::imageOf(component(name)->Properties()->Item("Icon")), "GIF89a");
+    component(name)->SaveAs(folder / "frmNew.frm");
+    EXPECT_EQ(folder.read("frmNew.frx"), host::pictureRecord("GIF89a", false));
+}
+
 TEST_F(Journals, ASecondCrashRightAfterRestoringLosesNothing) {
     open(twoModules());
     end();
@@ -339,6 +400,21 @@ TEST(DiscardedChanges, AreFilesNamedLikeTheirComponents) {
     QStringList names = QDir(discarded.folder() + "/2026-03-04 050607").entryList(QDir::Files, QDir::Name);
     EXPECT_EQ(names, QStringList({"2 other.frm", "3 other.frm", "A.bas", "B.cls", "C.frm", "Demo.vbp", "other.frm"}));
     EXPECT_EQ(folder.read("discarded/2026-03-04 050607/A.bas"), "A");
+}
+
+TEST(DiscardedChanges, HaveTheResourceFileBesideTheForm) {
+    const test::TempFolder folder;
+    folder.write("other.frx", "old and more");
+    const workbench::DiscardedChanges discarded(QString::fromStdString(folder / "journals"));
+    workbench::Survivor survivor;
+    survivor.entry.component = "other";
+    survivor.entry.type = vbide::vbext_ct_VBForm;
+    survivor.entry.file = folder / "other.frm";
+    survivor.entry.records = {"other.frx", 3, {}, " new"};
+    survivor.entry.written = QDateTime(QDate(2026, 3, 4), QTime(5, 6, 7)).toSecsSinceEpoch();
+    survivor.path = QString::fromStdString(folder.write("journal", ""));
+    discarded.keep(survivor);
+    EXPECT_EQ(folder.read("discarded/2026-03-04 050607/other.frx"), "old new");
 }
 
 TEST_F(Journals, KeptJournalsAreOfferedWhenTheProjectOpensAgain) {

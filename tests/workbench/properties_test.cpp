@@ -4,6 +4,7 @@
 #include <QFontDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <cstring>
 
 using testing::ElementsAre;
 
@@ -239,20 +240,53 @@ TEST_F(Properties, AFontIsChosenInItsDialog) {
     openForm(kInspected);
     select("cmdOK");
     test::whenShown<QFontDialog>([](QFontDialog& dialog) {
-        QFont font("DejaVu Sans");
+        QFont font("DejaVu Serif");
         font.setPointSizeF(14);
         font.setBold(true);
         dialog.setCurrentFont(font);
         dialog.accept();
     });
     doubleClick("Font");
-    EXPECT_EQ(shown("Font"), "DejaVu Sans");
+    EXPECT_EQ(shown("Font"), "DejaVu Serif");
     const auto look = view().picture().find(control("cmdOK"))->look;
     EXPECT_TRUE(look.font.bold());
     EXPECT_EQ(look.font.pixelSize(), 19);
     undo();
     settle();
     EXPECT_EQ(shown("Font"), "MS Sans Serif");
+}
+
+TEST_F(Properties, OfSeveralFontsOnlyWhatWasChangedIsWritten) {
+    const auto font = [](const char* name, const char* size) {
+        return std::string("      BeginProperty Font \n         Name            =   \"") + name +
+               "\"\n         Size            =   " + size + "\n         Weight          =   400\n" +
+               "      EndProperty\n";
+    };
+    openForm("   Begin VB.CommandButton cmdOne \n" + font("Courier New", "8.25") + "   End\n" +
+             "   Begin VB.CommandButton cmdTwo \n" + font("No Such Font", "9.75") + "   End\n");
+    view().select({control("cmdOne"), control("cmdTwo")});
+    const auto choose = [this](const std::function<void(QFont&)>& change) {
+        test::whenShown<QFontDialog>([&](QFontDialog& dialog) {
+            auto chosen = dialog.currentFont();
+            chosen.setStyleName({}); // which would win over bold
+            change(chosen);
+            dialog.setCurrentFont(chosen);
+            dialog.accept();
+        });
+        doubleClick("Font");
+        settle();
+    };
+    choose([](QFont&) {});
+    EXPECT_FALSE(desk().stepToUndo());
+    choose([](QFont& font) { font.setBold(true); });
+    choose([](QFont& font) { font.setFamily("DejaVu Serif"); });
+    auto expected = original;
+    for (const auto& [before, after] : {std::pair("Courier New", "DejaVu Serif"),
+                                        {"No Such Font", "DejaVu Serif"},
+                                        {"   400", "   700"},
+                                        {"   400", "   700"}})
+        expected.replace(expected.find(before), std::strlen(before), after);
+    EXPECT_EQ(saved("frmMain"), expected);
 }
 
 TEST_F(Properties, UndoingAPositionRestoresTheStartUpPosition) {

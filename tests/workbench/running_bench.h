@@ -65,12 +65,12 @@ protected:
     workbench::MainWindow& window() { return bench->window(); }
     vbide::Ref<vbide::VBProject> project() { return bench->host().ActiveVBProject(); }
     vbide::Ref<vbide::VBComponent> component(const std::string& name) { return project()->VBComponents()->Item(name); }
-    /// Null if there is none.
+    /// Null if there is none. The name of a step may follow the text ("&Undo Move").
     QAction* menuItem(const QString& menu, const QString& item) {
         for (auto* top : window().menuBar()->actions())
             if (top->text() == menu)
                 for (auto* action : top->menu()->actions())
-                    if (action->text() == item) return action;
+                    if (action->text() == item || action->text().startsWith(item + " ")) return action;
         return nullptr;
     }
 

@@ -1,13 +1,11 @@
 // A project's settings, its conversion and its way back through the recent projects, once with the mouse only and once with
 // the keyboard only.
-#include "tests/workbench_x11/x_desktop.h"
+#include "tests/workbench_x11/new_project.h"
 #include <QCheckBox>
 #include <QDialog>
-#include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QThread>
 #include <QTreeWidget>
 #include <gmock/gmock.h>
 
@@ -16,11 +14,7 @@ using testing::HasSubstr;
 
 namespace {
 
-struct ProjectRoad : XDesktop {
-    static QDialog* dialog() {
-        auto* const window = dynamic_cast<QDialog*>(QApplication::activeModalWidget());
-        return window && window->isVisible() && window->isActiveWindow() ? window : nullptr;
-    }
+struct ProjectRoad : NewProject {
     /// Without devices of an earlier test.
     void openHello() {
         openSample("HelloWorld");
@@ -28,12 +22,6 @@ struct ProjectRoad : XDesktop {
             bench->addIn().prefs.gMyDevices.clear();
             bench->addIn().prefs.saveMyDevices();
         });
-    }
-    static void waitForDialog(const QString& name) {
-        eventually("the dialog " + name.toStdString(), [&] { return dialog() && dialog()->objectName() == name; });
-    }
-    static void waitForNoDialog() {
-        eventually("no dialog", [] { return !QApplication::activeModalWidget(); });
     }
     static void answerBox(With hand, const char* button) {
         eventually("a question", [] { return dynamic_cast<QMessageBox*>(dialog()); });
@@ -44,18 +32,11 @@ struct ProjectRoad : XDesktop {
             return QPoint();
         }));
     }
-    template <class W = QWidget>
-    static W& widget(const char* name) {
-        return *dialog()->findChild<W*>(name);
-    }
     vbide::Ref<fernwick::clsQLProject> settings() {
         return bench->addIn().projects.FindQLProject(bench->host().ActiveVBProject());
     }
 
     // ---- with the mouse ----
-    static void clickOn(const char* name) {
-        click(ask([&] { return middleOf(widget(name)); }));
-    }
     static void tick(const char* name) {
         click(ask([&] {
             auto& box = widget<QCheckBox>(name);
@@ -69,58 +50,13 @@ struct ProjectRoad : XDesktop {
         }));
         eventually("the page " + page.toStdString(), [&] { return widget(frame).isVisible(); });
     }
-    /// A row of the list of devices.
-    static QPoint rowOf(const char* list, int row, bool itsTick = false) {
-        return ask([&] {
-            auto& rows = widget<QListWidget>(list);
-            auto place = rows.visualItemRect(rows.item(row));
-            if (itsTick) place.setWidth(place.height());
-            return middleOf(*rows.viewport(), place);
-        });
-    }
-
     // ---- with the keyboard ----
-    void chooseByKeys(const QString& caption, const QString& letter) {
-        press({"alt+f"});
-        eventually("the first menu", [this] { return menu("&File")->isVisible(); });
-        constexpr int kMost = 10;
-        for (int i = 0; i < kMost && !ask([&] { return menu(caption)->isVisible(); }); ++i) press({"Right"});
-        eventually("the menu " + caption.toStdString(), [&] { return menu(caption)->isVisible(); });
-        press({letter});
-    }
-    static void tabTo(const QString& name) {
-        constexpr int kMost = 40;
-        for (int i = 0; i < kMost; ++i) {
-            if (ask([&] { return QApplication::focusWidget() && QApplication::focusWidget()->objectName() == name; }))
-                return;
-            press({"Tab"});
-        }
-        ADD_FAILURE() << "Tab does not reach " << name.toStdString();
-    }
     static void pageByKeys(const char* frame) {
         tabTo("treAvailableSettings");
         press({"Down"});
         eventually(std::string("the page ") + frame, [&] { return widget(frame).isVisible(); });
     }
     // ---- a new project ----
-    /// Without a project; new files are saved in the test's folder.
-    void startEmpty() {
-        ask([this] {
-            auto& registry = bench->addIn().registry;
-            constexpr char kHost[] = "Software\\Microsoft\\VisualStudio\\6.0\\Setup\\Microsoft Visual Basic";
-            const fernwick::RegistryKey key{
-                registry, registry.OpenOrCreateKey(fernwick::HKEY_LOCAL_MACHINE, kHost, fernwick::KEY_ALL_ACCESS)};
-            registry.SetValue(key.handle(), "ProductDir", folder.path(), fernwick::REG_SZ);
-        });
-        connect();
-        QThread::sleep(1); // within the first second a new control asks for no save
-    }
-    void waitForNewForm() {
-        eventually("a new project with a form", [this] {
-            return !QApplication::activeModalWidget() &&
-                   !window().explorer().findItems("Form1", Qt::MatchStartsWith | Qt::MatchRecursive).isEmpty();
-        });
-    }
     std::vector<std::string> controls() {
         std::vector<std::string> names;
         for (const auto& control : component("Form1")->Designer()->VBControls()->items())
@@ -158,12 +94,6 @@ struct ProjectRoad : XDesktop {
         for (int i = 0; i < kMost && !ask([&] { return isChosen(name); }); ++i) press({"Down"});
         eventually("the tool is chosen", [&] { return isChosen(name); });
         press({"Return"});
-    }
-    static void waitForField(const char* name, const char* text) {
-        eventually(std::string("the field with ") + text, [&] {
-            const auto* const field = dialog() ? dialog()->findChild<QLineEdit*>(name) : nullptr;
-            return field && field->hasFocus() && field->text() == text;
-        });
     }
     static void enterByKeys(const char* page, const char* field, const char* text) {
         pageByKeys(page);
@@ -309,15 +239,8 @@ TEST_F(ProjectRoad, ByTheKeyboardAlone) {
 
 TEST_F(ProjectRoad, ANewProjectByTheMouseAlone) {
     startEmpty();
-    choose("&Fernwick", "&Open Fernwick Project...");
-    waitForDialog("frmProjectManager");
-    clickOn("btnNewProject");
-    waitForDialog("frmDesignTargetNormal");
-    click(rowOf("lstQuickDesignTargets", 0));
-    clickOn("btnOK");
-    waitForNewForm();
-    doubleClick(explorerEntry("Form1"));
-    eventually("the designer of Form1", [this] { return window().design().toolbox().isVisible(); });
+    newProjectByMouse(0);
+    openFormByMouse();
     // a control that devices do not have is refused
     placeByMouse("CommandButton");
     answerBox(With::Mouse, "OK");
@@ -325,9 +248,7 @@ TEST_F(ProjectRoad, ANewProjectByTheMouseAlone) {
     EXPECT_TRUE(ask([this] { return controls(); }).empty());
     // the first control of a device saves the project
     placeByMouse("QLButton");
-    answerUntil("the project is saved", {With::Mouse, {"btnOK", "OK", "Save"}}, [this] {
-        return !QApplication::activeModalWidget() && !bench->host().ActiveVBProject()->FileName().empty();
-    });
+    saveByMouse();
     EXPECT_EQ(ask([this] { return controls(); }).size(), 1u);
     EXPECT_THAT(read("Form1.frm"), HasSubstr("QLButton"));
     EXPECT_THAT(read("Project1.vbp"), HasSubstr("IsQuinloftProject=True"));
@@ -335,33 +256,14 @@ TEST_F(ProjectRoad, ANewProjectByTheMouseAlone) {
 
 TEST_F(ProjectRoad, ANewProjectByTheKeyboardAlone) {
     startEmpty();
-    chooseByKeys("&Fernwick", "o");
-    waitForDialog("frmProjectManager");
-    tabTo("btnNewProject");
-    press({"space"});
-    waitForDialog("frmDesignTargetNormal");
-    tabTo("lstQuickDesignTargets");
-    press({"Home", "space", "Return"});
-    waitForNewForm();
-    press({"ctrl+r"});
-    eventually("the explorer has the keys", [this] { return window().explorer().hasFocus(); });
-    press({"End"});
-    eventually("Form1 is chosen", [this] { return window().explorer().currentComponent() == component("Form1"); });
-    press({"Return"});
+    newProjectByKeys(0);
+    openFormByKeys();
     placeByKeys("CommandButton");
     answerBox(With::Keyboard, "OK");
     waitForNoDialog();
     EXPECT_TRUE(ask([this] { return controls(); }).empty());
     placeByKeys("QLButton");
-    waitForDialog("frmSaveWarning");
-    press({"Return"});
-    for (const char* name : {"Form1.frm", "Project1.vbp"}) {
-        waitForField("fileNameEdit", name);
-        press({"Return"});
-    }
-    eventually("the project is saved", [this] {
-        return !QApplication::activeModalWidget() && !bench->host().ActiveVBProject()->FileName().empty();
-    });
+    saveByKeys();
     EXPECT_EQ(ask([this] { return controls(); }).size(), 1u);
     EXPECT_THAT(read("Form1.frm"), HasSubstr("QLButton"));
     EXPECT_THAT(read("Project1.vbp"), HasSubstr("IsQuinloftProject=True"));

@@ -1,12 +1,11 @@
-// A form is built from nothing in the zoom window at level 3, with the mouse and typed texts, and again with the keyboard
-// only in the designer. Both compile.
+// A form is built in the zoom window at level 3, from a new project of the project manager to its compile: with the mouse
+// and typed texts, with the keyboard only, and with the keyboard only in the designer.
 #include "Apps/workbench/designer/form_canvas.h"
 #include "Apps/workbench/zoom/zoom_view.h"
 #include "Host/files/form_file.h"
-#include "tests/support/sample_project.h"
-#include "tests/workbench_x11/x_desktop.h"
+#include "tests/workbench_x11/new_project.h"
+#include <QComboBox>
 #include <QDockWidget>
-#include <QLineEdit>
 #include <QScrollBar>
 #include <QTableView>
 #include <gmock/gmock.h>
@@ -30,35 +29,18 @@ const Part kParts[] = {
     {"QLButton", "cmdCalculate", "Calculate", {8, 280, 104, 24}},
 };
 
-struct TipRoad : XDesktop {
+constexpr int kPocketPC = 1, kLevel = 3;
+
+struct TipRoad : NewProject {
     TipRoad() {
-        constexpr int kWidth = 240, kHeight = 320, kTwips = 15;
-        auto text = formText("frmTip");
-        const auto size = [&](const char* side, int pixels) {
-            for (const auto* name : {"Client", "Scale"})
-                text.replace(text.find("2400", text.find(std::string(name) + side)), 4,
-                             std::to_string(pixels * kTwips));
-        };
-        size("Width", kWidth);
-        size("Height", kHeight);
-        const auto path = SampleProject("Tip")
-                              .member("Object={1198F6AB-5766-4D4A-A1AF-CD9A25D2D2B4}#1.0#0; Tavlets.dll")
-                              .member("Form=frmTip.frm", "frmTip.frm", text)
-                              .startup("frmTip")
-                              .handheld("PocketPC-ARM")
-                              .writeTo(folder);
-        connect();
-        begin([=, this] { bench->open(path); });
-        eventually("the project", [this] { return bool(bench->host().ActiveVBProject()); });
+        startEmpty();
         ask([this] { window().setGeometry(0, 0, 1200, 720); });
-        begin([this] { window().design().open(component("frmTip")); });
-        eventually("the designer", [this] { return window().design().forms().current() != nullptr; });
     }
 
     workbench::ZoomView* zoom() { return window().findChild<workbench::ZoomView*>("zoomPicture"); }
     workbench::FormView& view() { return *window().design().forms().current(); }
     vbide::Ref<vbide::VBControl> control(const std::string& name) {
-        return component("frmTip")->Designer()->VBControls()->Item(name);
+        return component("Form1")->Designer()->VBControls()->Item(name);
     }
     std::size_t controlCount() { return view().picture().controls.size(); }
     QRectF placeOfSelected() { return view().drawnSelection() ? view().drawnSelection()->place : QRectF(); }
@@ -70,9 +52,11 @@ struct TipRoad : XDesktop {
     void openZoom() {
         choose("&Fernwick", "&Zoom Window");
         eventually("the zoomed designer", [this] { return zoom() && zoom()->isVisible() && zoom()->canvas(); });
+        ask([this] { zoom()->document()->Combo1.ListIndex(kLevel - 1); });
+        makeFloat();
+    }
+    void makeFloat() {
         ask([this] {
-            constexpr int kLevel = 3;
-            zoom()->document()->Combo1.ListIndex(kLevel - 1);
             auto& dock = *window().findChild<QDockWidget*>("Fernwick Zoom");
             dock.setFloating(true);
             dock.move(150, 20); // beside the toolbox and the properties
@@ -81,7 +65,6 @@ struct TipRoad : XDesktop {
         eventually("its bars", [this] { return zoom()->isVisible() && zoom()->height() > 400; });
     }
     QPoint inZoom(const QPoint& onForm) {
-        constexpr int kLevel = 3;
         return ask([&] {
             const auto& document = *zoom()->document();
             const auto onCanvas = zoom()->canvas()->onCanvas(QRectF(onForm, QSizeF())).topLeft().toPoint();
@@ -135,10 +118,23 @@ struct TipRoad : XDesktop {
     }
 
     // ---- with the keyboard ----
+    void openZoomByKeys() {
+        chooseByKeys("&Fernwick", "z");
+        eventually("the zoomed designer", [this] { return zoom() && zoom()->isVisible() && zoom()->canvas(); });
+        makeFloat();
+        goToZoom();
+        press({"alt+z"});
+        auto& levels = *ask([this] { return zoom()->findChild<QComboBox*>("Combo1"); });
+        eventually("the levels have the keys", [&] { return levels.hasFocus(); });
+        press({"Home", "Down", "Down"});
+        eventually("the level", [&] { return levels.currentIndex() == kLevel - 1; });
+    }
+    void goToZoom() {
+        chooseByKeys("&View", "z");
+        eventually("the zoom has the keys", [this] { return zoom()->hasFocus() && zoom()->isActiveWindow(); });
+    }
     void chooseToolByKeys(const char* name) {
-        press({"alt+v"});
-        eventually("the menu", [this] { return menu("&View")->isVisible(); });
-        press({"x"});
+        chooseByKeys("&View", "x");
         eventually("the toolbox has the keys", [this] { return window().design().toolbox().hasFocus(); });
         press({"Home"});
         constexpr int kMost = 60;
@@ -195,22 +191,31 @@ struct TipRoad : XDesktop {
         });
     }
 
+    void buildByKeys(const std::function<void()>& goToForm) {
+        for (const auto& part : kParts) {
+            const auto before = ask([this] { return controlCount(); });
+            chooseToolByKeys(part.tool);
+            if (before == 0) saveByKeys();
+            eventually(part.name, [&] { return controlCount() == before + 1 && view().selected(); });
+            goToForm();
+            placeByKeys(part.place);
+            typePropertyByKeys("(Name)", part.name);
+            if (*part.caption) typePropertyByKeys("Caption", part.caption);
+        }
+    }
+
     // ---- both ----
-    void saveAndCompile() {
-        press({"ctrl+s"});
-        eventually("it is saved", [this] { return !component("frmTip")->IsDirty(); });
-        // the form of the compile runs its own loop
-        bool ended = false, compiled = false;
-        begin([&] {
-            compiled = bench->addIn().compile.CompileProject(bench->host().ActiveVBProject());
-            ended = true;
+    void saveAndCompile(With hand) {
+        hand == With::Mouse ? choose("&File", "&Save File") : press({"ctrl+s"});
+        eventually("it is saved", [this] { return !component("Form1")->IsDirty(); });
+        hand == With::Mouse ? choose("&Fernwick", "Compile and &Validate") : chooseByKeys("&Fernwick", "v");
+        answerUntil("it is compiled", {hand, {"OK", "Yes", "btnOK", "btnYes"}}, [&] {
+            return !QApplication::activeModalWidget() && std::filesystem::exists(folder / "Project1.0000.qlx");
         });
-        answerUntil("it is compiled", {With::Mouse, {"OK", "Yes", "btnOK", "btnYes"}}, [&] { return ended; });
-        EXPECT_TRUE(compiled);
     }
     /// The IDE of the language reads it: objects first, then the form with its controls in order, then attributes.
     void expectForm() {
-        const auto text = read("frmTip.frm");
+        const auto text = read("Form1.frm");
         EXPECT_EQ(host::FormFile::parse(text).text(), text);
         EXPECT_TRUE(host::FormFile::parse(text).problems().empty());
         EXPECT_EQ(
@@ -229,6 +234,8 @@ struct TipRoad : XDesktop {
 } // namespace
 
 TEST_F(TipRoad, InTheZoomWindowWithTheMouse) {
+    newProjectByMouse(kPocketPC);
+    openFormByMouse();
     openZoom();
     for (const auto& part : kParts) {
         const auto before = ask([this] { return controlCount(); });
@@ -236,6 +243,7 @@ TEST_F(TipRoad, InTheZoomWindowWithTheMouse) {
         bringIntoView(part.place.topLeft());
         drag(inZoom(part.place.topLeft()),
              inZoom(part.place.topLeft() + QPoint(part.place.width(), part.place.height())));
+        if (before == 0) saveByMouse();
         eventually(part.name, [&] { return controlCount() == before + 1 && placeOfSelected() == QRectF(part.place); });
         typeProperty("(Name)", part.name);
         if (*part.caption) typeProperty("Caption", part.caption);
@@ -251,22 +259,25 @@ TEST_F(TipRoad, InTheZoomWindowWithTheMouse) {
     });
     drag(inZoom(grip), inZoom(grip - QPoint(64, 0)));
     eventually("it is narrower", [this] { return placeOfSelected() == QRectF(8, 88, 160, 24); });
-    saveAndCompile();
+    saveAndCompile(With::Mouse);
+    expectForm();
+}
+
+TEST_F(TipRoad, InTheZoomWindowWithTheKeyboard) {
+    newProjectByKeys(kPocketPC);
+    openFormByKeys();
+    openZoomByKeys();
+    buildByKeys([this] { goToZoom(); });
+    saveAndCompile(With::Keyboard);
     expectForm();
 }
 
 TEST_F(TipRoad, InTheDesignerWithTheKeyboard) {
-    for (const auto& part : kParts) {
-        const auto before = ask([this] { return controlCount(); });
-        chooseToolByKeys(part.tool);
-        eventually(part.name, [&] { return controlCount() == before + 1 && view().selected(); });
-        waitForForm();
-        placeByKeys(part.place);
-        typePropertyByKeys("(Name)", part.name);
-        if (*part.caption) typePropertyByKeys("Caption", part.caption);
-    }
+    newProjectByKeys(kPocketPC);
+    openFormByKeys();
+    buildByKeys([this] { waitForForm(); });
     press({"shift+F7"});
     waitForForm();
-    saveAndCompile();
+    saveAndCompile(With::Keyboard);
     expectForm();
 }

@@ -1,5 +1,6 @@
 #include "Apps/workbench/code/procedure_bar.h"
 #include "Apps/workbench/base/text.h"
+#include "Apps/workbench/events/event_handler.h"
 #include <QBoxLayout>
 #include <QComboBox>
 #include <QHash>
@@ -26,6 +27,12 @@ QString generalObject() { return "(General)"; }
 
 /// The name of a handler without its object.
 QString handledEvent(const vbide::Member& member) { return qt(member.Name).mid(handledObject(member).size() + 1); }
+
+/// "Value [PropertyGet]": a property of an interface has several procedures.
+QString listedName(const host::ClassEvent& event) {
+    const auto words = qt(event.procedure).remove(' ');
+    return words.startsWith("Property") ? QString("%1 [%2]").arg(qt(event.name), words) : qt(event.name);
+}
 
 } // namespace
 
@@ -117,10 +124,10 @@ void ProcedureBar::listEvents(const EventObject& object) {
     for (const auto& [member, row] : listed_)
         if (row == shownRow_) handlers[handledEvent(member).toLower()] = &member;
     events_ = eventsOf(*component_, object);
+    const auto module = component_->CodeModule();
     for (const auto& event : events_) {
-        const auto found = handlers.find(qt(event.name).toLower());
-        addProcedure(qt(event.name), found == handlers.end() ? 0 : found->second->CodeLocation);
-        if (found != handlers.end()) handlers.erase(found);
+        addProcedure(listedName(event), handlerLine(*module, object, event));
+        handlers.erase(qt(event.name).toLower());
     }
     for (const auto& [event, member] : handlers) addProcedure(handledEvent(*member), member->CodeLocation);
 }
@@ -130,7 +137,7 @@ void ProcedureBar::chosenObject() {
     listProcedures();
     const auto* const shown = object();
     if (!shown) return callbacks_.goTo(1);
-    procedures_->setCurrentIndex(procedures_->findText(qt(defaultEventOf(*component_, *shown).name)));
+    procedures_->setCurrentIndex(procedures_->findText(listedName(defaultEventOf(*component_, *shown))));
     const int line = procedures_->currentData().toInt();
     if (line > 0) return callbacks_.goTo(line);
     procedures_->setCurrentIndex(-1);

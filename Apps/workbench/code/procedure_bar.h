@@ -12,7 +12,7 @@ namespace workbench {
 /// Whether it is a Sub, Function or Property.
 bool isProcedure(const vbide::Member& member);
 
-/// Lists "(General)", the component itself and its controls. Of an object it offers all events; those that the code
+/// Lists "(General)", the component itself, its controls and the objects of its declarations. Of an object it offers all events; those that the code
 /// handles are bold.
 class ProcedureBar final : public QWidget {
 public:

@@ -105,7 +105,7 @@ void moveAside(vbide::VBComponent& component, const std::vector<Control>& contro
         setAll(drawn->control->Properties(), changesOfPlace(*drawn, drawn->place.translated(by)));
 }
 
-void insert(FormView& view, const Control& container, const Copied& copied) {
+void insert(FormView& view, const std::string& step, const Control& container, const Copied& copied) {
     const QPointer<FormView> here(&view);
     const auto component = view.component();
     host::InsertOptions options;
@@ -115,9 +115,9 @@ void insert(FormView& view, const Control& container, const Copied& copied) {
         if (wantsArray(view, name)) options.arrays.push_back(name);
     if (!here) return; // closed under the question
     std::vector<Control> added;
-    view.change([&, step = view.callbacks().grid().pixels] {
+    view.change(step, [&, apart = view.callbacks().grid().pixels] {
         added = host::insertControls(component->Designer(), container, copied.text, options);
-        moveAside(*component, added, step);
+        moveAside(*component, added, apart);
     });
     if (!here) return;
     std::erase_if(added, [&](const auto& control) { return !view.picture().find(control); });
@@ -151,7 +151,7 @@ void copyControls(const FormView& view) {
 void cutControls(FormView& view) {
     if (host::textOfControls(view.selection()).empty()) return;
     copyControls(view);
-    view.removeSelected();
+    view.removeSelected("Cut");
 }
 
 bool hasCopiedControls() {
@@ -160,12 +160,12 @@ bool hasCopiedControls() {
 }
 
 void pasteControls(FormView& view) {
-    if (hasCopiedControls()) insert(view, selectedContainer(view), copied());
+    if (hasCopiedControls()) insert(view, "Paste", selectedContainer(view), copied());
 }
 
 void duplicateControls(FormView& view) {
     const auto selected = selectedIn(view);
-    if (!selected.text.empty()) insert(view, containerOfSelection(view), selected);
+    if (!selected.text.empty()) insert(view, "Duplicate", containerOfSelection(view), selected);
 }
 
 } // namespace workbench

@@ -21,8 +21,9 @@ DesignDesk::DesignDesk(host::Host& host, CodeWindows& tabs, ProjectExplorer& exp
       toolbox_(new Toolbox([this](const auto& progId) { addInMiddle(progId); })),
       forms_(new FormWindows(host, tabs, history_,
                              {run_, [this] { followTabs(); }, [this] { return toolbox_->tool(); },
-                              [this] { toolbox_->putBack(); }, [this] { selectionChanged.raise(); },
-                              [this] { return grid_; }, [this](const auto& at) { menuRequested(at); }})) {
+                              [this] { toolbox_->putBack(); }, [this] { placeChanged.raise(); },
+                              [this] { selectionChanged.raise(); }, [this] { return grid_; },
+                              [this](const auto& at) { menuRequested(at); }})) {
     connect(&tabs, &QTabWidget::currentChanged, this, [this] { followTabs(); });
     connect(&explorer, &QTreeWidget::currentItemChanged, this, [this] { followExplorer(); });
     connect(&explorer, &QTreeWidget::itemClicked, this, [this] { followExplorer(); });
@@ -128,14 +129,14 @@ void DesignDesk::redo() {
     if (auto* const view = forms_->current()) view->redo();
 }
 
-bool DesignDesk::canUndo() const {
+std::optional<std::string> DesignDesk::stepToUndo() const {
     const auto* view = forms_->current();
-    return view && history_.canUndo(view->component());
+    return view ? history_.stepToUndo(view->component()) : std::nullopt;
 }
 
-bool DesignDesk::canRedo() const {
+std::optional<std::string> DesignDesk::stepToRedo() const {
     const auto* view = forms_->current();
-    return view && history_.canRedo(view->component());
+    return view ? history_.stepToRedo(view->component()) : std::nullopt;
 }
 
 } // namespace workbench

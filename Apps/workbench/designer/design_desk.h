@@ -27,8 +27,10 @@ public:
     void showCode();
     /// Shows its form, or its code if the form is in front and has the keys.
     void showObject();
-    /// Raised when another form or control is selected, or what is selected has another place.
+    /// Raised when another form or control is selected, and when a form changed.
     fernwick::Event<> selectionChanged;
+    /// Raised while what is selected is dragged.
+    fernwick::Event<> placeChanged;
     /// Reads the grid from the user's settings.
     void updateGrid();
     /// Edits the menus of the form in front.
@@ -38,8 +40,9 @@ public:
     /// Undoes the last change of the form in front, if there is one.
     void undo();
     void redo();
-    bool canUndo() const;
-    bool canRedo() const;
+    /// The step of the form in front that `undo` would undo; nothing if there is none.
+    std::optional<std::string> stepToUndo() const;
+    std::optional<std::string> stepToRedo() const;
 
 private:
     void watch();

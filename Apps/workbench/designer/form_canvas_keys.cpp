@@ -69,14 +69,14 @@ void FormCanvas::nudge(const QPointF& step, bool size) {
     if (all.empty()) return nudgeForm(step, size);
     std::vector<QRectF> places;
     for (const auto* drawn : all) places.push_back(size ? grown(*drawn, step) : drawn->place.translated(step));
-    view_.place(places);
+    view_.place(size ? "Size" : "Move", places);
 }
 
 /// A form has a size but no position here; a menu has neither.
 void FormCanvas::nudgeForm(const QPointF& step, bool size) {
     if (view_.selected() || !size) return;
     const auto place = grown(selectedPlace(), step);
-    if (place.width() >= 0 && place.height() >= 0) view_.place({place});
+    if (place.width() >= 0 && place.height() >= 0) view_.place("Size", {place});
 }
 
 void FormCanvas::keyPressEvent(QKeyEvent* event) {

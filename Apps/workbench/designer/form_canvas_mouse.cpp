@@ -53,7 +53,7 @@ void FormCanvas::switchTabOrder() {
     else
         tabOrder_.emplace(view_.picture());
     redraw();
-    view_.callbacks().placeChanged();
+    view_.callbacks().formChanged();
 }
 
 bool FormCanvas::pressInTabOrder(const QPointF& onWidget) {
@@ -61,7 +61,7 @@ bool FormCanvas::pressInTabOrder(const QPointF& onWidget) {
     const auto control = controlAt(onWidget);
     const auto changes =
         control ? tabOrder_->click(control) : std::vector<std::pair<FormView::Control, DesignChange>>();
-    view_.change([changes] {
+    view_.change("Change Tab Order", [changes] {
         for (const auto& [one, change] : changes) setAll(one->Properties(), {change});
     });
     return true;
@@ -132,7 +132,7 @@ void FormCanvas::finish(const FormDrag& drag) {
     case FormDrag::Kind::Frame: return finishFrame(drag);
     case FormDrag::Kind::Draw: view_.callbacks().toolUsed(); return view_.add(drag.tool(), drag.place());
     default:
-        if (drag.hasChanged()) view_.place(drag.places());
+        if (drag.hasChanged()) view_.place(drag.kind() == FormDrag::Kind::Size ? "Size" : "Move", drag.places());
     }
 }
 

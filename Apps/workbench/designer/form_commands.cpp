@@ -38,6 +38,13 @@ std::vector<ArrangedControl> controlsOf(const FormView& view) {
     return controls;
 }
 
+/// For the history.
+const char* nameOf(Arrangement how) {
+    if (how <= Arrangement::AlignToGrid) return "Align";
+    if (how <= Arrangement::SizeToGrid) return "Size";
+    return how < Arrangement::CentreAcross ? "Space" : "Center";
+}
+
 } // namespace
 
 bool canArrange(const FormView& view, Arrangement how) {
@@ -45,19 +52,21 @@ bool canArrange(const FormView& view, Arrangement how) {
 }
 
 void arrange(FormView& view, Arrangement how) {
-    if (canArrange(view, how)) view.place(arranged(how, controlsOf(view), spaceOf(view)));
+    if (canArrange(view, how)) view.place(nameOf(how), arranged(how, controlsOf(view), spaceOf(view)));
 }
 
 bool hasSelection(const FormView& view) { return view.drawnSelection() != nullptr; }
 
 void bringToFront(FormView& view) {
-    view.change(
-        [form = view.component()->Designer(), controls = view.selection()] { host::bringToFront(form, controls); });
+    view.change("Bring to Front", [form = view.component()->Designer(), controls = view.selection()] {
+        host::bringToFront(form, controls);
+    });
 }
 
 void sendToBack(FormView& view) {
-    view.change(
-        [form = view.component()->Designer(), controls = view.selection()] { host::sendToBack(form, controls); });
+    view.change("Send to Back", [form = view.component()->Designer(), controls = view.selection()] {
+        host::sendToBack(form, controls);
+    });
 }
 
 void selectAll(FormView& view) {
@@ -72,9 +81,9 @@ void selectAll(FormView& view) {
 bool isLocked(const FormView& view) { return view.picture().isLocked; }
 
 void switchLock(FormView& view) {
-    view.change([component = view.component(), locks = !isLocked(view)] {
-        component->Properties()->Item("LockControls")->Value(locks);
-    });
+    const bool locks = !isLocked(view);
+    view.change(locks ? "Lock Controls" : "Unlock Controls",
+                [component = view.component(), locks] { component->Properties()->Item("LockControls")->Value(locks); });
 }
 
 } // namespace workbench

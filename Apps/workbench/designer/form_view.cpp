@@ -9,6 +9,7 @@
 #include "Host/model/forms/control_edits.h"
 #include <QPointer>
 #include <algorithm>
+#include <utility>
 
 namespace workbench {
 
@@ -35,18 +36,22 @@ void FormView::reload() {
     // a removed form keeps its last picture until its window is closed
     const auto failed = basic::attempt([this] { picture_ = pictureOfForm(*component_); });
     if (failed.Number != 0) return;
-    deviceScreen_ = deviceScreenOf(component_);
     const auto isGone = [](const auto& control) {
         return basic::attempt([&] { (void)control->ClassName(); }).Number != 0;
     };
     if (std::erase_if(selection_, isGone) > 0) selectionChanged();
     canvas_->formChanged();
-    callbacks_.placeChanged();
+    callbacks_.formChanged();
+}
+
+void FormView::updateDeviceScreen() {
+    const auto screen = deviceScreenOf(component_);
+    if (std::exchange(deviceScreen_, screen) != screen) canvas_->formChanged();
 }
 
 QRectF FormView::shownPlace() const { return canvas_->shownPlace(); }
 
-void FormView::place(const std::vector<QRectF>& places) {
+void FormView::place(const std::string& step, const std::vector<QRectF>& places) {
     const auto all = drawnSelections();
     std::vector<std::pair<Control, std::vector<DesignChange>>> changes;
     if (all.empty()) changes.emplace_back(nullptr, changesOfForm(picture_, places.back()));
@@ -54,17 +59,17 @@ void FormView::place(const std::vector<QRectF>& places) {
         const auto& drawn = *all[all.size() - 1 - i];
         changes.emplace_back(drawn.control, changesOfPlace(drawn, places[places.size() - 1 - i]));
     }
-    change([component = component_, changes] {
+    change(step, [component = component_, changes] {
         for (const auto& [control, values] : changes)
             setAll(control ? control->Properties() : component->Properties(), values);
     });
 }
 
-void FormView::removeSelected() {
+void FormView::removeSelected(const std::string& step) {
     if (selection_.empty()) return;
     const auto controls = selection_;
     select(nullptr);
-    change([form = component_->Designer(), controls] {
+    change(step, [form = component_->Designer(), controls] {
         for (const auto& control : controls) host::removeControl(form, control);
     });
 }
@@ -72,7 +77,7 @@ void FormView::removeSelected() {
 void FormView::add(const std::string& progId, const QRectF& place) {
     Control added;
     const QPointer<FormView> here(this);
-    change([&, component = component_] {
+    change("Add", [&, component = component_] {
         const auto* container = picture_.containerAt(place.topLeft());
         added = host::addControl(component->Designer(), container ? container->control : nullptr, progId);
         if (here) finish(added, place);
@@ -106,8 +111,8 @@ void FormView::redo() {
     edit([&history = history_, component = component_] { history.redo(component); });
 }
 
-void FormView::change(const std::function<void()>& act) {
-    edit([&history = history_, component = component_, act] { history.record(component, act); });
+void FormView::change(const std::string& step, const std::function<void()>& act) {
+    edit([&history = history_, component = component_, step, act] { history.record(component, step, act); });
 }
 
 void FormView::edit(const std::function<void()>& act) {

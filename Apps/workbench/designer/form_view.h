@@ -28,8 +28,10 @@ public:
         std::function<std::string()> tool;
         /// The tool was used or cancelled.
         std::function<void()> toolUsed;
-        /// What is selected has another place, or is dragged to one.
+        /// What is selected is dragged to another place.
         std::function<void()> placeChanged;
+        /// The form was read again, or shows its tab order or not.
+        std::function<void()> formChanged;
         std::function<DesignGrid()> grid;
         /// Opens the designer's context menu at a place on the screen.
         std::function<void(const QPoint&)> menu;
@@ -56,12 +58,14 @@ public:
     FormCanvas& canvas() { return *canvas_; }
     /// Reads the form again when Qt's loop turns.
     void reloadSoon() { reload_.start(); }
+    /// Reads the size of the device's screen again.
+    void updateDeviceScreen();
     /// Undoes the last change of this form.
     void undo();
     void redo();
     /// Runs an edit as one step of the history, shows an error in a box, and reads the form again. A dialog of an add-in
     /// may close this view in the meantime.
-    void change(const std::function<void()>& act);
+    void change(const std::string& step, const std::function<void()>& act);
 
     // ---- for the canvas ----
     const DrawnControl* drawnSelection() const { return picture_.find(selected()); }
@@ -77,8 +81,8 @@ public:
     void selectTouched(const QRectF& place, const Control& container, bool extends);
     /// Moves or resizes the last ones of the drawn selection, or with one place the form's inner rectangle. Writes only
     /// what differs.
-    void place(const std::vector<QRectF>& places);
-    void removeSelected();
+    void place(const std::string& step, const std::vector<QRectF>& places);
+    void removeSelected(const std::string& step = "Delete");
     /// Adds a control of a class to the topmost container at the place's corner, and selects it. Without a size, the
     /// control gets the usual one.
     void add(const std::string& progId, const QRectF& place);

@@ -24,6 +24,10 @@ FormWindows::FormWindows(host::Host& host, CodeWindows& tabs, DesignHistory& his
         if (auto* view = viewOf(component)) view->reloadSoon();
         refresh_.start();
     }));
+    // such as its device
+    watches_.push_back(host.projectEdited.connect([this](const auto&) {
+        for (auto* view : views()) view->updateDeviceScreen();
+    }));
     const auto soon = [this](const auto&...) { refresh_.start(); };
     watches_.push_back(host.panes.codeChanged.connect(soon));
     watches_.push_back(host.Events()->VBProjectsEvents()->ItemRemoved.connect(soon));
@@ -38,7 +42,7 @@ void FormWindows::open(const vbide::Ref<vbide::VBComponent>& component) {
     const auto failed = basic::attempt([&] {
         view = new FormView(component, history_,
                             {callbacks_.run, callbacks_.selected, focused, callbacks_.tool, callbacks_.toolUsed,
-                             callbacks_.placeChanged, callbacks_.grid, callbacks_.menu});
+                             callbacks_.placeChanged, callbacks_.formChanged, callbacks_.grid, callbacks_.menu});
     });
     if (failed.Number != 0) return component->DesignerWindow()->Close();
     opening_ = true; // as the user did not choose this form

@@ -17,6 +17,7 @@ public:
         std::function<std::string()> tool;
         std::function<void()> toolUsed;
         std::function<void()> placeChanged;
+        std::function<void()> formChanged;
         std::function<DesignGrid()> grid;
         std::function<void(const QPoint&)> menu;
     };

@@ -4,8 +4,8 @@
 
 namespace workbench {
 
-/// Returns the first line (from 1) of the body of an event's handler, 0 if there is none.
-int handlerOf(const vbide::CodeModule& module, const EventObject& object, const host::ClassEvent& event);
+/// Returns the line (from 1) of the head of an event's handler, 0 if there is none.
+int handlerLine(const vbide::CodeModule& module, const EventObject& object, const host::ClassEvent& event);
 
 /// Shows the code of a component at an event's handler. Adds an empty one after all other code if there is none.
 void openHandler(vbide::VBComponent& component, const EventObject& object, const host::ClassEvent& event);

@@ -1,8 +1,11 @@
 #include "Apps/workbench/events/object_events.h"
+#include "Apps/workbench/events/class_lookup.h"
 #include "Apps/workbench/events/declared_events.h"
+#include "Apps/workbench/events/interface_members.h"
 #include "Basic/case_folding.h"
 #include "Basic/runtime_error.h"
 #include "Host/model/forms/control_edits.h"
+#include "Host/model/module_code.h"
 #include <algorithm>
 
 namespace workbench {
@@ -25,7 +28,28 @@ constexpr OwnObject kOwnObjects[] = {
 EventObject objectOfControl(const vbide::Ref<vbide::VBControl>& control) {
     const auto properties = control->Properties();
     return {fernwick::asText(properties->Item("Name")->Value()), control->ProgId(), control,
-            fernwick::asLong(properties->Item("Index")->Value()) >= 0};
+            fernwick::asLong(properties->Item("Index")->Value()) >= 0, EventSource::Control};
+}
+
+void addDeclared(vbide::VBComponent& component, std::vector<EventObject>& objects) {
+    if (component.Type() == vbide::vbext_ct_StdModule) return;
+    const auto module = basic::cast<host::ModuleCode>(component.CodeModule());
+    for (const auto& [name, className, isInterface] : module->outline().sources)
+        objects.push_back(
+            {name, className, nullptr, false, isInterface ? EventSource::Interface : EventSource::Variable});
+}
+
+std::vector<host::ClassEvent> eventsOfSource(vbide::VBComponent& component, const EventObject& object) {
+    switch (object.source) {
+    case EventSource::Control: return host::eventsOf(component.Designer(), object.control);
+    case EventSource::Variable: return eventsOfVariable(component, object.className);
+    case EventSource::Interface: {
+        const auto implemented = componentOfClass(component, object.className);
+        return implemented ? interfaceMembers(*implemented) : std::vector<host::ClassEvent>();
+    }
+    case EventSource::Component: break;
+    }
+    return host::languageEvents(object.className);
 }
 
 } // namespace
@@ -44,6 +68,7 @@ std::vector<EventObject> eventObjects(vbide::VBComponent& component) {
         if (const auto designer = component.Designer())
             for (const auto& control : designer->VBControls()->items()) objects.push_back(objectOfControl(control));
     });
+    addDeclared(component, objects);
     const auto key = [](const EventObject& object) { return basic::foldCase(object.name); };
     std::stable_sort(objects.begin(), objects.end(), [&](const auto& a, const auto& b) { return key(a) < key(b); });
     const auto same = [&](const auto& a, const auto& b) { return key(a) == key(b); };
@@ -52,8 +77,7 @@ std::vector<EventObject> eventObjects(vbide::VBComponent& component) {
 }
 
 std::vector<host::ClassEvent> eventsOf(vbide::VBComponent& component, const EventObject& object) {
-    auto events =
-        object.control ? host::eventsOf(component.Designer(), object.control) : host::languageEvents(object.className);
+    auto events = eventsOfSource(component, object);
     if (object.control && events.empty()) events = declaredEvents(component, object.className);
     if (object.isArray)
         for (auto& event : events)

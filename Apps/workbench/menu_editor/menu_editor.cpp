@@ -150,8 +150,8 @@ void MenuEditor::accept() {
 }
 
 bool MenuEditor::write(const std::vector<host::FormMenu>& menus) {
-    const auto failed =
-        basic::attempt([&] { history_.record(component_, [&] { host::setMenus(component_->Designer(), menus); }); });
+    const auto failed = basic::attempt(
+        [&] { history_.record(component_, "Edit Menus", [&] { host::setMenus(component_->Designer(), menus); }); });
     if (failed.Number != 0) showBox(this, QMessageBox::Warning, qt(failed.Description));
     return failed.Number == 0;
 }

@@ -14,7 +14,7 @@ void setAll(const vbide::Ref<vbide::Properties>& object, const std::vector<Desig
     for (const auto& change : changes) object->Item(change.property)->Value(change.value);
 }
 
-void DesignHistory::record(const Component& component, const std::function<void()>& edit) {
+void DesignHistory::record(const Component& component, const std::string& step, const std::function<void()>& edit) {
     const auto name = component->Name();
     const auto before = host::snapshotOf(component->Designer());
     const auto change = [&] { return host::FormChange(before, host::snapshotOf(component->Designer())); };
@@ -25,32 +25,30 @@ void DesignHistory::record(const Component& component, const std::function<void(
         throw;
     }
     // fails if a handler removed the component
-    (void)basic::attempt([&] { remember(component, name, change()); });
+    (void)basic::attempt([&] {
+        if (auto done = stepOf(component, name, change())) {
+            done->name = step;
+            remember(std::move(*done));
+        }
+    });
 }
 
-/// The name of a form is in more places than its description.
-void DesignHistory::remember(const Component& component, const std::string& oldName, const host::FormChange& change) {
+/// The name of a form is in more places than its description. Nothing if nothing changed.
+std::optional<DesignHistory::Step> DesignHistory::stepOf(const Component& component, const std::string& oldName,
+                                                         const host::FormChange& change) {
     const auto newName = component->Name();
-    if (change.isEmpty() && newName == oldName) return;
-    remember({component,
-              [=] {
-                  if (newName != oldName) component->Name(oldName);
-                  change.undo();
-              },
-              [=] {
-                  if (newName != oldName) component->Name(newName);
-                  change.redo();
-              },
-              [=] { return newName != oldName || change.hasEffect(); }});
-}
-
-void DesignHistory::set(const Component& component, const vbide::Ref<vbide::Properties>& object,
-                        const std::vector<DesignChange>& changes) {
-    record(component, [&] { setAll(object, changes); });
-}
-
-void DesignHistory::did(const Component& component, std::function<void()> takeBack, std::function<void()> repeat) {
-    remember({component, std::move(takeBack), std::move(repeat), [] { return true; }});
+    if (change.isEmpty() && newName == oldName) return {};
+    return Step{component,
+                {},
+                [=] {
+                    if (newName != oldName) component->Name(oldName);
+                    change.undo();
+                },
+                [=] {
+                    if (newName != oldName) component->Name(newName);
+                    change.redo();
+                },
+                [=] { return newName != oldName || change.hasEffect(); }};
 }
 
 void DesignHistory::add(Steps& steps, Step step) {
@@ -78,7 +76,7 @@ std::optional<DesignHistory::Step> DesignHistory::takeLast(Steps& steps, const C
 bool DesignHistory::undo(const Component& component) {
     while (auto step = takeLast(done_, component)) {
         if (basic::attempt(step->takeBack).Number != 0) continue;
-        if (step->repeat) add(undone_, std::move(*step));
+        add(undone_, std::move(*step));
         return true;
     }
     return false;
@@ -93,13 +91,18 @@ bool DesignHistory::redo(const Component& component) {
     return false;
 }
 
-bool DesignHistory::canTake(const Steps& steps, const Component& component) {
-    return std::any_of(steps.begin(), steps.end(),
-                       [&](const auto& step) { return step.component == component && step.hasEffect(); });
+std::optional<std::string> DesignHistory::nameOfLast(const Steps& steps, const Component& component) {
+    const auto last = std::find_if(steps.rbegin(), steps.rend(),
+                                   [&](const auto& step) { return step.component == component && step.hasEffect(); });
+    return last == steps.rend() ? std::nullopt : std::optional(last->name);
 }
 
-bool DesignHistory::canUndo(const Component& component) const { return canTake(done_, component); }
+std::optional<std::string> DesignHistory::stepToUndo(const Component& component) const {
+    return nameOfLast(done_, component);
+}
 
-bool DesignHistory::canRedo(const Component& component) const { return canTake(undone_, component); }
+std::optional<std::string> DesignHistory::stepToRedo(const Component& component) const {
+    return nameOfLast(undone_, component);
+}
 
 } // namespace workbench

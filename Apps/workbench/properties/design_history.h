@@ -24,34 +24,31 @@ class DesignHistory {
 public:
     using Component = vbide::Ref<vbide::VBComponent>;
 
-    /// Runs an edit and adds everything that it, and the handlers of its events, changed in the form as one step. If the
-    /// edit fails, restores the form and throws the error.
-    void record(const Component& component, const std::function<void()>& edit);
-    /// Sets properties of one object of a component as one step. If one is refused, restores the earlier ones and
-    /// throws the error.
-    void set(const Component& component, const vbide::Ref<vbide::Properties>& object,
-             const std::vector<DesignChange>& changes);
-    /// Adds a step for another change of a component; `takeBack` undoes it. Without `repeat` it cannot be redone.
-    void did(const Component& component, std::function<void()> takeBack, std::function<void()> repeat = {});
+    /// Runs an edit and adds everything that it, and the handlers of its events, changed in the form as one step. The
+    /// menu adds the step's name to "Undo". If the edit fails, restores the form and throws the error.
+    void record(const Component& component, const std::string& step, const std::function<void()>& edit);
     /// Undoes the last step of a component that still has an effect, skipping those on removed controls. False if there
     /// is none.
     bool undo(const Component& component);
     bool redo(const Component& component);
-    bool canUndo(const Component& component) const;
-    bool canRedo(const Component& component) const;
+    /// The name of the step that `undo` would undo; nothing if there is none.
+    std::optional<std::string> stepToUndo(const Component& component) const;
+    std::optional<std::string> stepToRedo(const Component& component) const;
 
 private:
     struct Step {
         Component component;
+        std::string name;
         std::function<void()> takeBack, repeat;
         std::function<bool()> hasEffect;
     };
     using Steps = std::deque<Step>;
 
-    void remember(const Component& component, const std::string& oldName, const host::FormChange& change);
+    static std::optional<Step> stepOf(const Component& component, const std::string& oldName,
+                                      const host::FormChange& change);
     void remember(Step step);
     static void add(Steps& steps, Step step);
-    static bool canTake(const Steps& steps, const Component& component);
+    static std::optional<std::string> nameOfLast(const Steps& steps, const Component& component);
     static std::optional<Step> takeLast(Steps& steps, const Component& component);
 
     Steps done_, undone_;

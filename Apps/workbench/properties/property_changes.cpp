@@ -4,7 +4,7 @@ namespace workbench {
 
 void changeAsOneStep(DesignHistory& history, const vbide::Ref<vbide::VBComponent>& component,
                      const SharedProperty& property, const PropertyChange& change) {
-    history.record(component, [&] {
+    history.record(component, "Change " + property.front()->Name(), [&] {
         for (const auto& one : property) change(one);
     });
 }

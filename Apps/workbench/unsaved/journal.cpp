@@ -2,6 +2,7 @@
 #include "Apps/workbench/base/text.h"
 #include "Host/files/atomic_save.h"
 #include "Host/model/component.h"
+#include "Host/model/component_designer.h"
 #include "Host/model/project.h"
 #include <QDateTime>
 #include <QEvent>
@@ -41,6 +42,7 @@ host::JournalEntry entryOf(const host::Project& project, host::Component& compon
     entry.file = component.path();
     entry.base = component.stamp();
     entry.bytes = component.source().bytes();
+    if (component.hasDesigner()) entry.records = component.designer().resources().unsaved();
     return entry;
 }
 
@@ -104,7 +106,7 @@ void Journal::keepProject(const vbide::Ref<vbide::VBProject>& project) {
 }
 
 void Journal::keep(const std::shared_ptr<void>& what, host::JournalEntry entry) {
-    const auto digest = host::digestOf(entry.bytes);
+    const auto digest = host::digestOf(entry.bytes); // a new record changes the text too
     const auto known = kept_.find(what);
     if (known != kept_.end() && known->second.digest == digest) return;
     if (!folder_) folder_ = JournalFolder::create(base_);

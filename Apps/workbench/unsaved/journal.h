@@ -11,7 +11,7 @@
 
 namespace workbench {
 
-/// Writes each open project and component that was changed, and all of a project that was never saved: about a second
+/// Writes each open project and component that was changed, with new records of its resource file, and all of a project that was never saved: about a second
 /// after the change, and at once when another window blocks this one, such as that of a compile. Removes what was saved
 /// or discarded.
 class Journal final : public QObject {

@@ -33,9 +33,10 @@ std::shared_ptr<host::Component> ownerOf(host::Project& project, const host::Jou
 void putBack(host::Project& project, const host::JournalEntry& entry) {
     if (isOfProject(entry)) return;
     if (const auto component = ownerOf(project, entry))
-        component->restore(entry.bytes, entry.base);
+        component->restore(entry.bytes, entry.base, entry.records);
     else
-        project.components().addSource(vbide::vbext_ComponentType(entry.type), entry.component, entry.bytes);
+        project.components().addSource(vbide::vbext_ComponentType(entry.type), entry.component, entry.bytes,
+                                       entry.records);
 }
 
 void show(host::Project& project, const host::JournalEntry& entry) {

@@ -11,34 +11,30 @@ namespace {
 /// A row of the tables of commands. Its option has no texts yet.
 struct CommandKey {
     int id, menu;
+    const char* text; ///< null for a command of the host
     KeyOption option;
 };
 
 QKeySequence sequenceOf(QKeyCombination key) { return key == QKeyCombination() ? QKeySequence() : QKeySequence(key); }
 
-CommandKey keyOf(int id, int menu, QKeyCombination key, QKeyCombination otherKey = {}) {
-    return {id, menu, {QString("keys/%1").arg(id), {}, {}, sequenceOf(key), sequenceOf(otherKey)}};
+CommandKey keyOf(int id, int menu, const char* text, QKeyCombination key, QKeyCombination otherKey = {}) {
+    return {id, menu, text, {QString("keys/%1").arg(id), {}, {}, sequenceOf(key), sequenceOf(otherKey)}};
 }
 
 std::vector<CommandKey> commandKeys() {
     std::vector<CommandKey> keys;
     for (const auto& menu : commandMenus()) {
         for (const auto& command : menu.commands)
-            if (command.id != kGroup) keys.push_back(keyOf(command.id, menu.id, command.key, command.otherKey));
+            if (command.id != kGroup)
+                keys.push_back(keyOf(command.id, menu.id, command.text, command.key, command.otherKey));
         if (menu.id != host::kViewMenuId) continue;
-        for (const auto& command : dockCommands()) keys.push_back(keyOf(command.id, menu.id, command.key));
+        for (const auto& command : dockCommands())
+            keys.push_back(keyOf(command.id, menu.id, command.text, command.key));
     }
     return keys;
 }
 
 QString plainText(const std::string& caption) { return qt(host::withoutMnemonic(caption)).remove("..."); }
-
-/// The text of a dock's command, which may not be in its menu yet.
-std::string dockText(int id) {
-    for (const auto& command : dockCommands())
-        if (command.id == id) return command.text;
-    return {};
-}
 
 } // namespace
 
@@ -65,7 +61,8 @@ std::vector<KeyOption> keyOptions(host::Host& host) {
         if (control && control->popup()) continue;
         auto option = command.option;
         option.menu = plainText(controlOf(host, command.menu)->Caption());
-        option.command = plainText(control ? control->Caption() : dockText(command.id));
+        // a dock's command may not be in its menu yet
+        option.command = plainText(command.text ? command.text : control->Caption());
         options.push_back(option);
     }
     return options;

@@ -163,6 +163,8 @@ struct Command {
     QKeyCombination otherKey{};
     /// Whether a switch is on; null for a command that is not a switch.
     bool (*isOn)(const CommandTargets&) = nullptr;
+    /// The step that is added to the text; null for a command without steps.
+    std::string (*step)(const CommandTargets&) = nullptr;
 };
 
 /// The commands of one menu, in order.

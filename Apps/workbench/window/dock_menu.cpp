@@ -21,6 +21,7 @@ QWidget* focusTarget(QDockWidget& dock) {
 void showAndFocus(QDockWidget& dock) {
     dock.show();
     dock.raise();
+    dock.activateWindow(); // a dock that floats is a window
     if (auto* target = focusTarget(dock)) target->setFocus(Qt::ShortcutFocusReason);
 }
 

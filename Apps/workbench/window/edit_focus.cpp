@@ -74,8 +74,8 @@ bool EditFocus::allows(Enabled where) const {
     case Enabled::InEditor: return isInEditor();
     case Enabled::InDesigner: return design_.forms().current() != nullptr;
     case Enabled::InText: return isText();
-    case Enabled::CanUndo: return isText() || (isOnForm() && design_.canUndo());
-    case Enabled::CanRedo: return isText() || (isOnForm() && design_.canRedo());
+    case Enabled::CanUndo: return isText() || (isOnForm() && design_.stepToUndo());
+    case Enabled::CanRedo: return isText() || (isOnForm() && design_.stepToRedo());
     case Enabled::CanCopy: return isText() || (isOnDesigner() && hasSelection(*form));
     case Enabled::CanPaste: return isText() || (isOnDesigner() && hasCopiedControls());
     case Enabled::CanSelect: return isText() || isOnDesigner();
@@ -87,6 +87,10 @@ bool EditFocus::allows(Enabled where) const {
     default: return true;
     }
 }
+
+std::string EditFocus::stepToUndo() const { return isText() ? "" : design_.stepToUndo().value_or(""); }
+
+std::string EditFocus::stepToRedo() const { return isText() ? "" : design_.stepToRedo().value_or(""); }
 
 // a command that is enabled without a text has a form
 

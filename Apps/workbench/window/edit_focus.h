@@ -4,6 +4,7 @@
 #include <QObject>
 #include <QPointer>
 #include <functional>
+#include <string>
 
 class QWidget;
 
@@ -22,6 +23,9 @@ public:
     std::function<void()> changed = [] {};
 
     bool allows(Enabled where) const;
+    /// The names of the steps on a form; "" for a text.
+    std::string stepToUndo() const;
+    std::string stepToRedo() const;
     void undo();
     void redo();
     void cut();

@@ -14,9 +14,7 @@ constexpr int kTopOfWindow = 1;
 /// A control that is enabled only in some places.
 struct PlacedControl {
     std::shared_ptr<host::BarControl> control;
-    Enabled where;
-    /// See Command.
-    bool (*isOn)(const CommandTargets&) = nullptr;
+    Command command;
 };
 
 /// Fills the menus and keeps the controls that are enabled only in some places.
@@ -45,7 +43,7 @@ private:
         }
         if (command.text) control->Caption(command.text);
         if (command.act) control->action = actionOf(command);
-        if (command.enabled != Enabled::Always) placed_.push_back({control, command.enabled, command.isOn});
+        if (command.enabled != Enabled::Always) placed_.push_back({control, command});
     }
 
     /// An add-in may execute a control that is disabled.
@@ -62,12 +60,16 @@ private:
 void enableWhereAllowed(const CommandTargets& targets, const std::vector<PlacedControl>& placed) {
     auto& focus = targets.window.editFocus();
     focus.changed = [&focus, targets, placed] {
-        for (const auto& [control, where, isOn] : placed) {
-            const bool allowed = focus.allows(where);
-            const bool on = allowed && isOn && isOn(targets);
-            // each change draws all menus again
+        // each change draws all menus again
+        for (const auto& [control, command] : placed) {
+            const bool allowed = focus.allows(command.enabled);
+            const bool on = allowed && command.isOn && command.isOn(targets);
             if (control->Enabled() != allowed) control->Enabled(allowed);
-            if (isOn && control->checked() != on) control->checked(on);
+            if (command.isOn && control->checked() != on) control->checked(on);
+            if (!command.step) continue;
+            const auto step = allowed ? command.step(targets) : "";
+            const auto caption = command.text + (step.empty() ? "" : " " + step);
+            if (control->Caption() != caption) control->Caption(caption);
         }
     };
     focus.changed();

@@ -34,6 +34,7 @@ PlaceStatus::PlaceStatus(QStatusBar& bar, CodeWindows& code, DesignDesk& design)
       size_(addField(bar, "statusSize", "Width and height, in the units of the container; of a form in twips")) {
     connect(&code, &QTabWidget::currentChanged, this, [this] { follow(); });
     selection_ = design.selectionChanged.connect([this] { show(); });
+    drag_ = design.placeChanged.connect([this] { show(); });
 }
 
 void PlaceStatus::follow() {

@@ -27,7 +27,7 @@ private:
     QLabel *place_, *size_;
     /// To the caret of the editor in front.
     QMetaObject::Connection caret_;
-    fernwick::Subscription selection_;
+    fernwick::Subscription selection_, drag_;
 };
 
 } // namespace workbench

@@ -12,7 +12,7 @@ namespace {
 constexpr std::intptr_t kDone = 1, kActivated = 1;
 
 QPointF placeIn(const WindowMessage& message) {
-    return {double(lowWord(message.lParam)), double(highWord(message.lParam))};
+    return {double(LoWord(message.lParam)), double(HiWord(message.lParam))};
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #pragma once
 // The words that window messages carry.
 #include "Add-in/platform/host_windows.h"
+#include "Add-in/zoom/coordinates.h"
 #include <QPointF>
 #include <cmath>
 #include <cstdint>
@@ -10,14 +11,10 @@ namespace workbench {
 /// The hit test code of a window's client area.
 inline constexpr int kInClientArea = 1;
 
-/// The low and high 16 bits of a parameter.
-inline std::intptr_t wordsOf(int low, unsigned high) {
-    return std::int32_t((high & 0xFFFF) << 16 | (unsigned(low) & 0xFFFF));
+/// What exceeds 16 bits is cut off.
+inline std::intptr_t wordsOf(int low, int high) {
+    return fernwick::MakeDWord(basic::Integer(low), basic::Integer(high));
 }
-inline std::intptr_t wordsOf(int low, int high) { return wordsOf(low, unsigned(high)); }
-
-inline int lowWord(std::intptr_t words) { return std::int16_t(words & 0xFFFF); }
-inline int highWord(std::intptr_t words) { return std::int16_t(words >> 16 & 0xFFFF); }
 
 inline std::intptr_t mouseKeys(Qt::KeyboardModifiers keys, bool leftButton) {
     std::intptr_t bits = 0;

@@ -32,7 +32,7 @@ void MouseRoute::press(Hwnd document, const QPointF& at, const QPointF& onScreen
     if (captured_) return; // another button
     this->at(onScreen, keys);
     windows_.procedures.send({document, fernwick::WM_MOUSEACTIVATE, windows_.numbers.main(),
-                              wordsOf(kInClientArea, fernwick::WM_LBUTTONDOWN)});
+                              wordsOf(kInClientArea, int(fernwick::WM_LBUTTONDOWN))});
     pressing_ = true;
     lost_ = false;
     toDocument(document, fernwick::WM_LBUTTONDOWN, at);

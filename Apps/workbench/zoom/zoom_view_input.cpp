@@ -45,7 +45,7 @@ void ZoomView::contextMenuEvent(QContextMenuEvent* event) { send(kContextMenu, h
 
 void ZoomView::enterEvent(QEnterEvent* event) {
     QWidget::enterEvent(event);
-    windows_.procedures().send({hwnd_, WM_SETCURSOR, hwnd_, wordsOf(kInClientArea, WM_MOUSEMOVE)});
+    windows_.procedures().send({hwnd_, WM_SETCURSOR, hwnd_, wordsOf(kInClientArea, int(WM_MOUSEMOVE))});
 }
 
 /// With Ctrl, changes the level.
@@ -77,7 +77,7 @@ std::intptr_t ZoomView::send(unsigned number, std::intptr_t wParam, const QPoint
 FormCanvas* ZoomView::canvas() const { return shown_ && shown_->image ? &shown_->image->canvas() : nullptr; }
 
 std::optional<QPointF> ZoomView::onDesigner(const WindowMessage& message) const {
-    const QPointF at(lowWord(message.lParam), highWord(message.lParam));
+    const QPointF at(LoWord(message.lParam), HiWord(message.lParam));
     if (!shown_ || shown_->source.right == 0) return {};
     const double level = double(shown_->target.right - shown_->target.left) / shown_->source.right;
     return QPointF(std::nearbyint((at.x() - shown_->target.left) / level),
@@ -90,7 +90,7 @@ std::intptr_t ZoomView::ownProcedure(const WindowMessage& message) noexcept {
     if (!designer || !at) return 0;
     if (message.number == kDoubleClick) designer->doubleClick(*at);
     if (message.number == kContextMenu)
-        designer->contextMenu(*at, mapToGlobal(QPoint(lowWord(message.lParam), highWord(message.lParam))));
+        designer->contextMenu(*at, mapToGlobal(QPoint(LoWord(message.lParam), HiWord(message.lParam))));
     return 0;
 }
 

@@ -53,6 +53,15 @@ bool takeModifiers(std::string_view& word, std::string_view& rest, vbide::Member
     }
 }
 
+/// Removes a name with its qualifiers: "Library.Class".
+std::string takeQualifiedName(std::string_view& rest) {
+    std::string name(takeWord(rest));
+    for (auto after = rest; takeWord(after) == "."; rest = after) name.append(".").append(takeWord(after));
+    return name;
+}
+
+std::string lastPart(const std::string& name) { return name.substr(name.rfind('.') + 1); }
+
 class OutlineBuilder {
 public:
     explicit OutlineBuilder(const CodeText& code) : statements_(code), count_(int(code.count())) {}
@@ -99,6 +108,8 @@ private:
             add(member, vbide::Member::Event, takeWord(rest), kPublic);
         else if (isWord(word, "Const"))
             names(vbide::Member::Const, rest, member);
+        else if (isWord(word, "Implements"))
+            interface(takeQualifiedName(rest));
         else if (scoped)
             variables(word, rest, member);
         return true;
@@ -110,7 +121,7 @@ private:
     }
 
     void variables(std::string_view word, std::string_view rest, const vbide::Member& member) {
-        if (isWord(word, "WithEvents")) word = takeWord(rest);
+        takeSource(word, rest);
         add(member, vbide::Member::Variable, word, member.Scope);
         if (skipToComma(rest)) names(vbide::Member::Variable, rest, member);
     }
@@ -118,9 +129,24 @@ private:
     void names(vbide::Member::Type type, std::string_view rest, const vbide::Member& member) {
         do {
             auto word = takeWord(rest);
-            if (isWord(word, "WithEvents")) word = takeWord(rest);
+            takeSource(word, rest);
             add(member, type, word, member.Scope);
         } while (skipToComma(rest));
+    }
+
+    /// Moves from WithEvents to the name that it declares.
+    void takeSource(std::string_view& word, std::string_view& rest) {
+        if (!isWord(word, "WithEvents")) return;
+        word = takeWord(rest);
+        auto after = rest;
+        if (isWord(takeWord(after), "As")) source(std::string(word), takeQualifiedName(after), false);
+    }
+
+    void interface(const std::string& className) { source(lastPart(className), className, true); }
+
+    void source(const std::string& name, const std::string& className, bool isInterface) {
+        const auto isName = [](const std::string& text) { return !text.empty() && isNameCharacter(text.front()); };
+        if (isName(name) && isName(className)) outline_.sources.push_back({name, className, isInterface});
     }
 
     void add(vbide::Member member, vbide::Member::Type type, std::string_view name, int scope) {

@@ -9,6 +9,8 @@ namespace host {
 /// An event, with its parameters as a procedure declares them: "Cancel As Integer, UnloadMode As Integer".
 struct ClassEvent {
     std::string name, parameters;
+    /// What a handler is, and what follows its parameters. A member of an interface may be a "Function" with " As Long".
+    std::string procedure = "Sub", result = {};
 };
 
 /// Returns the events of a class ("VB.TextBox", "VB.Form", "VB.Class", "MSComctlLib.TreeView") in alphabetical order.

@@ -5,7 +5,7 @@
 namespace fernwick {
 
 /// The zoom document as the rest of the zoom uses it.
-class ZoomView : public UserDocument {
+class ZoomedDesigner : public UserDocument {
 public:
     /// Shows this designer from now on. Does nothing for 0.
     virtual void SetZoomWindow(Hwnd target) = 0;
