@@ -1,6 +1,6 @@
 // Edits in an editor reach the host's module.
 #include "Apps/workbench/code/code_editor.h"
-#include "Apps/workbench/code/scintilla.h"
+#include "Apps/workbench/editing/scintilla.h"
 #include "tests/support/test_host.h"
 #include <QApplication>
 #include <QClipboard>

@@ -1,5 +1,5 @@
 // The keys of commands: shown everywhere, and changed in the options.
-#include "Apps/workbench/code/scintilla.h"
+#include "Apps/workbench/editing/scintilla.h"
 #include "Apps/workbench/messages/messages_view.h"
 #include "Apps/workbench/options/key_field.h"
 #include "Apps/workbench/window/command_keys.h"

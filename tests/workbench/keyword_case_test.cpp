@@ -1,6 +1,6 @@
 // Keywords get their proper case when the user leaves the typed line.
 #include "Apps/workbench/code/declared_names.h"
-#include "Apps/workbench/code/keyword_case.h"
+#include "Apps/workbench/editing/keyword_case.h"
 #include "tests/workbench/open_desktop.h"
 
 using workbench::withKeywordCase;

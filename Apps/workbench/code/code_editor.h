@@ -5,7 +5,7 @@
 #include "Apps/workbench/code/code_text.h"
 #include "Apps/workbench/code/line_marks.h"
 #include "Apps/workbench/code/project_names.h"
-#include "Apps/workbench/code/typed_line.h"
+#include "Apps/workbench/editing/typed_line.h"
 #include "Apps/workbench/events/object_events.h"
 #include "Apps/workbench/options/code_look.h"
 #include <QTimer>

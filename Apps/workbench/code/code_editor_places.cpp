@@ -1,7 +1,7 @@
 // The selection, and replacing parts of lines.
 #include "Apps/workbench/code/code_editor.h"
-#include "Apps/workbench/code/code_input.h"
-#include "Apps/workbench/code/code_lines.h"
+#include "Apps/workbench/editing/code_input.h"
+#include "Apps/workbench/editing/code_lines.h"
 #include <algorithm>
 
 namespace workbench {

@@ -1,7 +1,7 @@
 #include "Apps/workbench/code/code_windows.h"
 #include "Apps/workbench/base/text.h"
-#include "Apps/workbench/code/code_lines.h"
-#include "Apps/workbench/code/scintilla.h"
+#include "Apps/workbench/editing/code_lines.h"
+#include "Apps/workbench/editing/scintilla.h"
 #include "Basic/runtime_error.h"
 #include <QSettings>
 #include <algorithm>

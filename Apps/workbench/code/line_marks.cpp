@@ -1,6 +1,6 @@
 #include "Apps/workbench/code/line_marks.h"
 #include "Apps/workbench/base/text.h"
-#include "Apps/workbench/code/scintilla.h"
+#include "Apps/workbench/editing/scintilla.h"
 #include <QHelpEvent>
 #include <QToolTip>
 #include <algorithm>

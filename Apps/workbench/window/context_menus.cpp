@@ -1,7 +1,7 @@
 #include "Apps/workbench/window/context_menus.h"
 #include "Apps/workbench/bars/bar_controls.h"
 #include "Apps/workbench/base/text.h"
-#include "Apps/workbench/code/scintilla.h"
+#include "Apps/workbench/editing/scintilla.h"
 #include "Apps/workbench/window/command_keys.h"
 #include "Apps/workbench/window/commands.h"
 #include <QMenu>

@@ -1,9 +1,9 @@
 #include "Apps/workbench/window/edit_focus.h"
-#include "Apps/workbench/code/scintilla.h"
 #include "Apps/workbench/designer/control_clipboard.h"
 #include "Apps/workbench/designer/design_desk.h"
 #include "Apps/workbench/designer/form_canvas.h"
 #include "Apps/workbench/designer/form_commands.h"
+#include "Apps/workbench/editing/scintilla.h"
 #include "Apps/workbench/zoom/zoom_view.h"
 #include <QAbstractSpinBox>
 #include <QApplication>

@@ -1,8 +1,8 @@
 #include "Apps/workbench/window/place_status.h"
 #include "Apps/workbench/code/code_windows.h"
-#include "Apps/workbench/code/scintilla.h"
 #include "Apps/workbench/designer/design_desk.h"
 #include "Apps/workbench/designer/selected_place.h"
+#include "Apps/workbench/editing/scintilla.h"
 #include <QLabel>
 #include <QStatusBar>
 

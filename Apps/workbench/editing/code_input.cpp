@@ -1,4 +1,4 @@
-#include "Apps/workbench/code/code_input.h"
+#include "Apps/workbench/editing/code_input.h"
 #include <QDragEnterEvent>
 #include <QInputMethodEvent>
 #include <QKeyEvent>

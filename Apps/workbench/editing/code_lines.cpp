@@ -1,5 +1,5 @@
-#include "Apps/workbench/code/code_lines.h"
-#include "Apps/workbench/code/scintilla.h"
+#include "Apps/workbench/editing/code_lines.h"
+#include "Apps/workbench/editing/scintilla.h"
 #include <functional>
 
 namespace workbench {

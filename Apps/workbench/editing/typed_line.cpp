@@ -1,7 +1,7 @@
-#include "Apps/workbench/code/typed_line.h"
-#include "Apps/workbench/code/code_lines.h"
-#include "Apps/workbench/code/keyword_case.h"
-#include "Apps/workbench/code/scintilla.h"
+#include "Apps/workbench/editing/typed_line.h"
+#include "Apps/workbench/editing/code_lines.h"
+#include "Apps/workbench/editing/keyword_case.h"
+#include "Apps/workbench/editing/scintilla.h"
 #include <QTimer>
 #include <utility>
 

@@ -1,6 +1,6 @@
 #pragma once
 // The editing component, restricted to characters that the file can hold.
-#include "Apps/workbench/code/scintilla.h"
+#include "Apps/workbench/editing/scintilla.h"
 #include <functional>
 
 namespace workbench {

@@ -1,5 +1,5 @@
 #pragma once
-#include "Apps/workbench/code/keyword_case.h"
+#include "Apps/workbench/editing/keyword_case.h"
 #include <QObject>
 #include <vector>
 
