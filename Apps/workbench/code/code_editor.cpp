@@ -67,7 +67,7 @@ void CodeEditor::prepareText() {
     text_->setEolMode(QsciScintilla::EolUnix); // the host uses its own line ends
     text_->setLexer(lexer_);
     text_->setIndentationsUseTabs(false);
-    text_->setAutoIndent(true);
+    text_->lineEnds = [this] { typedLine_.finish(); };
     text_->setCaretLineVisible(true);
     text_->SendScintilla(QsciScintillaBase::SCI_SETSCROLLWIDTHTRACKING, 1UL);
     text_->SendScintilla(QsciScintillaBase::SCI_SETSCROLLWIDTH, 1UL);

@@ -12,6 +12,9 @@ public:
 
     explicit CodeInput(Accepts accepts) : accepts_(std::move(accepts)) {}
 
+    /// Called before Enter divides a line, within the same undo step.
+    std::function<void()> lineEnds = [] {};
+
     /// Whether the current change comes from the user's keys.
     bool isTyping() const { return typing_; }
 
@@ -24,6 +27,7 @@ protected:
 
 private:
     void pressWithoutText(QKeyEvent& event);
+    bool pressEnter(const QKeyEvent& event);
 
     Accepts accepts_;
     bool dragging_ = false, typing_ = false;
