@@ -4,7 +4,7 @@
 #include "Apps/workbench/code/procedure_bar.h"
 #include "Apps/workbench/editing/code_input.h"
 #include "Apps/workbench/editing/code_lines.h"
-#include "Apps/workbench/editing/vb_lexer.h"
+#include "Apps/workbench/editing/margins.h"
 #include "Apps/workbench/events/event_handler.h"
 #include "Basic/runtime_error.h"
 #include "Host/model/component.h"
@@ -15,7 +15,6 @@ namespace workbench {
 
 namespace {
 
-constexpr int kNumberMargin = 0;
 constexpr int kMillisecondsOfRest = 300;
 constexpr int kUndoings = QsciScintillaBase::SC_PERFORMED_UNDO | QsciScintillaBase::SC_PERFORMED_REDO;
 constexpr int kEditings = QsciScintillaBase::SC_MOD_INSERTTEXT | QsciScintillaBase::SC_MOD_DELETETEXT;
@@ -33,86 +32,75 @@ QString firstMissing(const basic::CodePage& page, const QString& inserted) {
 
 } // namespace
 
-CodeEditor::CodeEditor(vbide::Ref<vbide::VBComponent> component, ProjectNames& names, Refused refused)
+CodeEditor::CodeEditor(vbide::Ref<vbide::VBComponent> component, Shared shared, Refused refused)
     : component_(std::move(component)),
       module_(component_->CodeModule()),
+      shared_(std::move(shared)),
       refused_(std::move(refused)),
       procedures_(
           new ProcedureBar(component_, {[this](int line) { goToLine(line); },
                                         [this](const auto& object, const auto& event) { addHandler(object, event); }})),
       text_(new CodeInput([this](const QString& inserted) { return accepts(inserted); })),
       marks_(*text_),
-      typedLine_(*text_, [this, &names](int line) { return names.at(component_, line); }),
-      lexer_(new VbLexer(this)) {
+      ownMarks_(*text_),
+      folds_(*text_),
+      typedLine_(*text_, [this](int line) { return shared_.names.at(component_, line); }) {
     auto* const rows = new QVBoxLayout(this);
     rows->setContentsMargins(0, 0, 0, 0);
     rows->setSpacing(2);
     rows->addWidget(procedures_);
     rows->addWidget(text_);
     setFocusProxy(text_);
-    prepareText();
+    showIn(storedCodeLook(currentTheme()));
     load();
+    ownMarks_.show(shared_.marks->of(component_));
+    marks_.also = [this](int line) { return ownMarks_.hasBreakpoint(line) ? code_texts::kBreakpoint : QString(); };
     listProcedures();
-    connect(text_, &QsciScintilla::cursorPositionChanged, this, [this](int line) { procedures_->showAt(line + 1); });
+    watchText();
     rest_.setSingleShot(true);
     rest_.setInterval(kMillisecondsOfRest);
-    connect(&rest_, &QTimer::timeout, this, [this] { listProcedures(); });
+    connect(&rest_, &QTimer::timeout, this, [this] { rested(); });
 }
+
+CodeEditor::~CodeEditor() { keepMarks(); }
 
 QsciScintilla& CodeEditor::scintilla() const { return *text_; }
 
-void CodeEditor::prepareText() {
-    text_->setAccessibleName("Code");
-    text_->setUtf8(true);
-    text_->setEolMode(QsciScintilla::EolUnix); // the host uses its own line ends
-    text_->setLexer(lexer_);
-    text_->setIndentationsUseTabs(false);
+void CodeEditor::watchText() {
     text_->lineEnds = [this] { typedLine_.finish(); };
-    text_->setCaretLineVisible(true);
-    text_->SendScintilla(QsciScintillaBase::SCI_SETSCROLLWIDTHTRACKING, 1UL);
-    text_->SendScintilla(QsciScintillaBase::SCI_SETSCROLLWIDTH, 1UL);
-    text_->setMarginType(kNumberMargin, QsciScintilla::NumberMargin);
-    bindKeys(*text_);
-    showIn(storedCodeLook(currentTheme()));
+    connect(text_, &QsciScintilla::cursorPositionChanged, this, [this](int line) { procedures_->showAt(line + 1); });
+    connect(text_, &QsciScintilla::marginClicked, this, [this](int margin, int line) {
+        if (margin == kOwnMargin) marginClicked(line);
+    });
     connect(text_, &QsciScintilla::SCN_MODIFIED, this,
             [this](int position, int kind, const char*, int, int linesAdded) {
                 if (!loading_ && (kind & kEditings) != 0) edited(position, linesAdded, (kind & kUndoings) != 0);
             });
 }
 
-void CodeEditor::showIn(const CodeLook& look) {
-    const auto& colours = look.colours;
-    lexer_->showIn(look);
-    text_->setTabWidth(look.tabWidth);
-    text_->setMarginsFont(look.font);
-    text_->setCaretForegroundColor(colours.text);
-    text_->setCaretLineBackgroundColor(colours.currentLine);
-    text_->setMarginsBackgroundColor(colours.margin);
-    text_->setMarginsForegroundColor(colours.marginText);
-    marks_.colour(colours);
-    widenMargin();
-}
+void CodeEditor::showIn(const CodeLook& look) { text_->showIn(look); }
 
 void CodeEditor::zoomTo(int points) {
     text_->zoomTo(points);
-    widenMargin();
+    text_->widenMargin();
 }
 
-void CodeEditor::widenMargin() { text_->setMarginWidth(kNumberMargin, QString::number(text_->lines() * 10)); }
+void CodeEditor::keepMarks() { shared_.marks->keep(component_, ownMarks_.placed()); }
 
+void CodeEditor::rested() {
+    listProcedures();
+    ownMarks_.checkBreakpoints();
+    keepMarks();
+}
+
+/// Replaces only the lines that differ, so that marks, folds and the cursor keep their lines.
 void CodeEditor::load() {
     loading_ = true;
     typedLine_.forget();
-    int line = 0, column = 0;
-    text_->getCursorPosition(&line, &column);
-    const int top = text_->firstVisibleLine();
-    const auto marked = marks_.lines();
-    text_->setText(codeOf(*module_));
+    replaceDifferences(*text_, codeOf(*module_));
     text_->SendScintilla(QsciScintillaBase::SCI_EMPTYUNDOBUFFER);
-    text_->setCursorPosition(std::min(line, text_->lines() - 1), column);
-    text_->setFirstVisibleLine(top);
-    marks_.putBack(marked);
-    widenMargin();
+    folds_.updateAll();
+    text_->widenMargin();
     loading_ = false;
 }
 
@@ -138,6 +126,7 @@ void CodeEditor::edited(int position, int linesAdded, bool isUndo) {
         passOn(*module_, {first, linesAdded, atStart}, [this](int line) { return text(lineText(line)); });
     } catch (...) { refuse(std::current_exception()); }
     passing_ = false;
+    folds_.update(first, linesAdded);
     rest_.start();
 }
 
@@ -185,8 +174,11 @@ void CodeEditor::goToProcedure(bool before) {
 }
 
 void CodeEditor::goToLine(int line) {
-    text_->setCursorPosition(std::max(0, line - 1), 0);
-    text_->setFirstVisibleLine(std::max(0, line - 1));
+    const int index = std::max(0, line - 1);
+    text_->setCursorPosition(index, 0);
+    text_->ensureLineVisible(index); // it may be folded
+    text_->setFirstVisibleLine(
+        int(text_->SendScintilla(QsciScintillaBase::SCI_VISIBLEFROMDOCLINE, (unsigned long)index)));
     text_->setFocus();
 }
 

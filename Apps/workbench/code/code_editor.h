@@ -5,12 +5,15 @@
 #include "Apps/workbench/code/code_text.h"
 #include "Apps/workbench/code/line_marks.h"
 #include "Apps/workbench/code/project_names.h"
+#include "Apps/workbench/editing/fold_levels.h"
 #include "Apps/workbench/editing/typed_line.h"
 #include "Apps/workbench/events/object_events.h"
+#include "Apps/workbench/marks/editor_marks.h"
 #include "Apps/workbench/options/code_look.h"
 #include <QTimer>
 #include <QWidget>
 #include <functional>
+#include <memory>
 #include <vector>
 
 class QsciScintilla;
@@ -19,7 +22,6 @@ namespace workbench {
 
 class CodeInput;
 class ProcedureBar;
-class VbLexer;
 
 /// Reads the component's code when it is created, and passes each edit to the host's code module at once, so that dirty
 /// marks, saving and the add-in are up to date.
@@ -29,8 +31,13 @@ public:
     /// any other refusal the host's text is restored.
     using Refused = std::function<void(std::exception_ptr)>;
 
-    /// `names` outlives this.
-    CodeEditor(vbide::Ref<vbide::VBComponent> component, ProjectNames& names, Refused refused);
+    /// What the editors of all projects share.
+    struct Shared {
+        ProjectNames& names;
+        std::shared_ptr<ProjectMarks> marks; ///< gets the marks of an editor that is destroyed
+    };
+    CodeEditor(vbide::Ref<vbide::VBComponent> component, Shared shared, Refused refused);
+    ~CodeEditor() override;
 
     const vbide::Ref<vbide::VBComponent>& component() const { return component_; }
     QsciScintilla& scintilla() const;
@@ -39,6 +46,11 @@ public:
     /// Shows the selection of the host's code pane.
     void showSelection();
     LineMarks& marks() { return marks_; }
+    EditorMarks& ownMarks() { return ownMarks_; }
+    /// Passes the present marks of the user on to those of the project.
+    void keepMarks();
+    /// Called when the user clicks into the margin for breakpoints, with the line (from 0).
+    std::function<void(int)> marginClicked = [](int) {};
     void showIn(const CodeLook& look);
     /// Enlarges the text by this many points; negative to make it smaller.
     void zoomTo(int points);
@@ -61,8 +73,8 @@ public:
     void goToProcedure(bool before);
 
 private:
-    void prepareText();
-    void widenMargin();
+    void watchText();
+    void rested();
     void load();
     bool accepts(const QString& inserted);
     void edited(int position, int linesAdded, bool isUndo);
@@ -72,14 +84,16 @@ private:
 
     vbide::Ref<vbide::VBComponent> component_;
     vbide::Ref<vbide::CodeModule> module_;
+    Shared shared_;
     Refused refused_;
     ProcedureBar* procedures_;
     CodeInput* text_;
     LineMarks marks_;
+    EditorMarks ownMarks_;
+    FoldLevels folds_;
     TypedLine typedLine_;
-    VbLexer* lexer_;
     bool passing_ = false, loading_ = false, refusing_ = false;
-    /// Updates the procedure lists when the user pauses.
+    /// Updates the procedure lists and checks breakpoints when the user pauses.
     QTimer rest_;
 };
 

@@ -32,6 +32,11 @@ CodeWindows::CodeWindows(host::Host& host, CodeEditor::Refused refused)
         refresh_.start();
     }));
     const auto soon = [this](const auto&...) { refresh_.start(); };
+    const auto store = [this](const auto& project, const auto&...) {
+        (void)basic::attempt([&] { storeMarks(project); }); // no reason to stop saving or closing
+    };
+    watches_.push_back(host.Events()->VBProjectsEvents()->ItemRemoved.connect(store));
+    watches_.push_back(host.Events()->FileControlEvents(nullptr)->AfterWriteFile.connect(store));
     watches_.push_back(host.Events()->VBProjectsEvents()->ItemRemoved.connect(soon));
     watches_.push_back(host.Events()->VBProjectsEvents()->ItemActivated.connect(soon));
     watches_.push_back(host.Events()->FileControlEvents(nullptr)->AfterWriteFile.connect(soon));
@@ -40,7 +45,8 @@ CodeWindows::CodeWindows(host::Host& host, CodeEditor::Refused refused)
 void CodeWindows::open(const vbide::Ref<vbide::VBComponent>& component) {
     auto* editor = editorOf(component);
     if (!editor) {
-        editor = new CodeEditor(component, names_, refused_);
+        editor = new CodeEditor(component, {names_, ownMarks_}, refused_);
+        editor->marginClicked = [this, editor](int line) { marginClicked(*editor, line); };
         editor->zoomTo(zoom_);
         for (const auto& key : leftKeys_) leaveKey(editor->scintilla(), key);
         connect(&editor->scintilla(), &QsciScintilla::SCN_ZOOM, this,
@@ -101,6 +107,26 @@ void CodeWindows::markEditor(CodeEditor& editor) {
         if (ofActive && found != marks_.end()) marks = found->second;
     });
     editor.marks().show(marks);
+}
+
+ComponentMarks CodeWindows::ownMarksOf(const vbide::Ref<vbide::VBComponent>& component) {
+    if (auto* const editor = editorOf(component)) return editor->ownMarks().placed();
+    return ownMarks_->of(component);
+}
+
+void CodeWindows::clearMarks(const vbide::Ref<vbide::VBProject>& project,
+                             std::vector<PlacedMark> ComponentMarks::*kind) {
+    for (const auto& component : project->VBComponents()->items()) {
+        auto marks = ownMarksOf(component);
+        (marks.*kind).clear();
+        ownMarks_->keep(component, marks);
+        if (auto* const editor = editorOf(component)) editor->ownMarks().show(marks);
+    }
+}
+
+void CodeWindows::storeMarks(const vbide::Ref<vbide::VBProject>& project) {
+    for (auto* editor : editors()) editor->keepMarks();
+    ownMarks_->store(project);
 }
 
 void CodeWindows::showLook() {

@@ -1,7 +1,7 @@
 #pragma once
 // Marks in the margin of an editor for the lines of messages.
-#include "Apps/workbench/base/theme.h"
 #include <QObject>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -32,7 +32,8 @@ public:
     void putBack(const std::vector<int>& lines);
     /// The messages of a line (from 0), one per line.
     QString textAt(int line) const;
-    void colour(const CodeColours& colours);
+    /// Returns what else the tool tip of a line's margin shows; "" for nothing.
+    std::function<QString(int line)> also = [](int) { return QString(); };
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

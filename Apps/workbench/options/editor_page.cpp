@@ -21,6 +21,8 @@ EditorPage::EditorPage()
       sample_(new CodeSample) {
     fields_.add("Auto &indent", kAutoIndent);
     fields_.add("&Write the ends of blocks", kAutomaticEnds);
+    fields_.add("&Procedure separators", kProcedureLines);
+    fields_.add("Foldin&g of procedures and blocks", kFolding);
     rows_->addRow(sample_);
     showSample();
 }
