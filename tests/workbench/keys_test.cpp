@@ -210,7 +210,7 @@ TEST_F(Keys, AreFoundByMenuCommandAndKey) {
         };
         field<QLineEdit>(dialog, "keyFilter").setText("ctrl+sh");
         EXPECT_EQ(shown("x"), "Redo, Toggle Bookmark, Next Bookmark, Previous Bookmark, Last Position, Fold or Unfold, "
-                              "Clear All Breakpoints, Previous Window");
+                              "Clear All Breakpoints, Split, Other Pane, Previous Window");
         EXPECT_EQ(list.currentItem()->text(1), "Redo");
         field<QLineEdit>(dialog, "keyFilter").setText("options");
         EXPECT_EQ(shown("x"), "Options");

@@ -87,6 +87,7 @@ inline constexpr std::array kIconTable{
                 "ink R 2 1.5 5 5 M 3.5 4 L 5.5 4 M 4.5 3 L 4.5 5 M 9 4 L 14.5 4 blue M 7 8 L 14.5 8 M 7 11 L 14.5 11 "
                 "M 7 14 L 14.5 14"},
     IconDrawing{"Split", "BLUE R 1.5 1.5 13 5.5 ink R 1.5 1.5 13 13 M 1.5 7 L 14.5 7 M 1.5 9 L 14.5 9"},
+    IconDrawing{"OtherPane", "BLUE R 1.5 9 13 5.5 ink R 1.5 1.5 13 13 M 1.5 9 L 14.5 9 M 8 3 L 8 7 M 6 5 L 8 7 10 5"},
     IconDrawing{"FindAll", "blue E 5.5 5.5 4 4 ink M 8.5 8.5 L 11 11 M 2 13.5 L 14 13.5 M 12.5 9.5 L 14 9.5"},
     IconDrawing{"References",
                 "BLUE R 1.5 3 3 11 AMBER R 5.5 2 3 12 ink R 1.5 3 3 11 R 5.5 2 3 12 M 9.5 4 L 12 3 15 13 12.5 14 Z"},

@@ -40,18 +40,17 @@ CodeEditor::CodeEditor(vbide::Ref<vbide::VBComponent> component, Shared shared, 
       procedures_(
           new ProcedureBar(component_, {[this](int line) { goToLine(line); },
                                         [this](const auto& object, const auto& event) { addHandler(object, event); }})),
-      text_(new CodeInput([this](const QString& inserted) { return accepts(inserted); })),
+      panes_(new CodePanes([this] { return makePane(); })),
+      text_(&panes_->main()),
       marks_(*text_),
       ownMarks_(*text_),
-      folds_(*text_),
-      typedLine_(*text_, [this](int line) { return shared_.names.at(component_, line); }) {
+      folds_(*text_) {
     auto* const rows = new QVBoxLayout(this);
     rows->setContentsMargins(0, 0, 0, 0);
     rows->setSpacing(2);
     rows->addWidget(procedures_);
-    rows->addWidget(text_);
+    rows->addWidget(panes_);
     setFocusProxy(text_);
-    showIn(storedCodeLook(currentTheme()));
     load();
     ownMarks_.show(shared_.marks->of(component_));
     marks_.also = [this](int line) { return ownMarks_.hasBreakpoint(line) ? code_texts::kBreakpoint : QString(); };
@@ -62,27 +61,60 @@ CodeEditor::CodeEditor(vbide::Ref<vbide::VBComponent> component, Shared shared, 
     connect(&rest_, &QTimer::timeout, this, [this] { rested(); });
 }
 
-CodeEditor::~CodeEditor() { keepMarks(); }
+CodeEditor::~CodeEditor() {
+    keepMarks();
+    delete panes_; // they call this
+}
 
-QsciScintilla& CodeEditor::scintilla() const { return *text_; }
+CodeInput* CodeEditor::makePane() {
+    auto* const pane = new CodeInput([this](const QString& inserted) { return accepts(inserted); });
+    pane->showIn(storedCodeLook(currentTheme()));
+    return pane;
+}
 
-void CodeEditor::watchText() {
-    text_->lineEnds = [this] { typedLine_.finish(); };
-    connect(text_, &QsciScintilla::cursorPositionChanged, this, [this](int line) { procedures_->showAt(line + 1); });
-    connect(text_, &QsciScintilla::marginClicked, this, [this](int margin, int line) {
+void CodeEditor::watchPane(CodeInput& pane) {
+    const auto namesAt = [this](int line) { return shared_.names.at(component_, line); };
+    typedLines_[&pane] = std::make_unique<TypedLine>(pane, namesAt);
+    pane.lineEnds = [typed = typedLines_[&pane].get()] { typed->finish(); };
+    connect(&pane, &QObject::destroyed, this, [this, gone = &pane] { typedLines_.erase(gone); });
+    connect(&pane, &QsciScintilla::cursorPositionChanged, this, [this, &pane] {
+        if (&pane == &panes_->active()) showCursor();
+    });
+    connect(&pane, &QsciScintilla::marginClicked, this, [this](int margin, int line) {
         if (margin == kOwnMargin) marginClicked(line);
     });
+    marks_.watch(pane);
+}
+
+void CodeEditor::showCursor() {
+    int line = 0, column = 0;
+    panes_->active().getCursorPosition(&line, &column);
+    procedures_->showAt(line + 1);
+    cursorMoved.raise();
+}
+
+/// Both panes report each change of the text.
+void CodeEditor::watchText() {
+    panes_->each([this](CodeInput& pane) { watchPane(pane); });
+    panes_->activated = [this] {
+        setFocusProxy(&panes_->active());
+        showCursor();
+    };
     connect(text_, &QsciScintilla::SCN_MODIFIED, this,
             [this](int position, int kind, const char*, int, int linesAdded) {
                 if (!loading_ && (kind & kEditings) != 0) edited(position, linesAdded, (kind & kUndoings) != 0);
             });
 }
 
-void CodeEditor::showIn(const CodeLook& look) { text_->showIn(look); }
+void CodeEditor::showIn(const CodeLook& look) {
+    for (auto* pane : panes_->all()) pane->showIn(look);
+}
 
 void CodeEditor::zoomTo(int points) {
-    text_->zoomTo(points);
-    text_->widenMargin();
+    for (auto* pane : panes_->all()) {
+        pane->zoomTo(points);
+        pane->widenMargin();
+    }
 }
 
 void CodeEditor::keepMarks() { shared_.marks->keep(component_, ownMarks_.placed()); }
@@ -96,11 +128,11 @@ void CodeEditor::rested() {
 /// Replaces only the lines that differ, so that marks, folds and the cursor keep their lines.
 void CodeEditor::load() {
     loading_ = true;
-    typedLine_.forget();
+    for (const auto& [pane, typed] : typedLines_) typed->forget();
     replaceDifferences(*text_, codeOf(*module_));
     text_->SendScintilla(QsciScintillaBase::SCI_EMPTYUNDOBUFFER);
     folds_.updateAll();
-    text_->widenMargin();
+    for (auto* pane : panes_->all()) pane->widenMargin();
     loading_ = false;
 }
 
@@ -120,7 +152,7 @@ bool CodeEditor::accepts(const QString& inserted) {
 void CodeEditor::edited(int position, int linesAdded, bool isUndo) {
     const int first = int(text_->SendScintilla(QsciScintillaBase::SCI_LINEFROMPOSITION, position));
     const bool atStart = int(text_->SendScintilla(QsciScintillaBase::SCI_POSITIONFROMLINE, first)) == position;
-    typedLine_.typed(text_->isTyping() && !isUndo ? first : -1, linesAdded);
+    for (const auto& [pane, typed] : typedLines_) typed->typed(pane->isTyping() && !isUndo ? first : -1, linesAdded);
     passing_ = true;
     try {
         passOn(*module_, {first, linesAdded, atStart}, [this](int line) { return text(lineText(line)); });
@@ -150,7 +182,7 @@ void CodeEditor::codeChanged() {
 
 void CodeEditor::listProcedures() {
     int line = 0, column = 0;
-    text_->getCursorPosition(&line, &column);
+    scintilla().getCursorPosition(&line, &column);
     procedures_->list(line + 1);
 }
 
@@ -159,7 +191,7 @@ void CodeEditor::addHandler(const EventObject& object, const host::ClassEvent& e
         openHandler(*component_, object, event);
     } catch (const basic::RuntimeError&) { refused_(std::current_exception()); }
     listProcedures();
-    text_->setFocus();
+    scintilla().setFocus();
 }
 
 void CodeEditor::goToProcedure(bool before) {
@@ -175,11 +207,11 @@ void CodeEditor::goToProcedure(bool before) {
 
 void CodeEditor::goToLine(int line) {
     const int index = std::max(0, line - 1);
-    text_->setCursorPosition(index, 0);
-    text_->ensureLineVisible(index); // it may be folded
-    text_->setFirstVisibleLine(
-        int(text_->SendScintilla(QsciScintillaBase::SCI_VISIBLEFROMDOCLINE, (unsigned long)index)));
-    text_->setFocus();
+    scintilla().setCursorPosition(index, 0);
+    scintilla().ensureLineVisible(index); // it may be folded
+    scintilla().setFirstVisibleLine(
+        int(scintilla().SendScintilla(QsciScintillaBase::SCI_VISIBLEFROMDOCLINE, (unsigned long)index)));
+    scintilla().setFocus();
 }
 
 } // namespace workbench

@@ -1,7 +1,9 @@
 #pragma once
 // The code window of one component.
+#include "Add-in/platform/events.h"
 #include "Add-in/platform/host_project.h"
 #include "Apps/workbench/code/code_finder.h"
+#include "Apps/workbench/code/code_panes.h"
 #include "Apps/workbench/code/code_text.h"
 #include "Apps/workbench/code/line_marks.h"
 #include "Apps/workbench/code/project_names.h"
@@ -13,14 +15,12 @@
 #include <QTimer>
 #include <QWidget>
 #include <functional>
+#include <map>
 #include <memory>
 #include <vector>
 
-class QsciScintilla;
-
 namespace workbench {
 
-class CodeInput;
 class ProcedureBar;
 
 /// Reads the component's code when it is created, and passes each edit to the host's code module at once, so that dirty
@@ -40,7 +40,11 @@ public:
     ~CodeEditor() override;
 
     const vbide::Ref<vbide::VBComponent>& component() const { return component_; }
-    QsciScintilla& scintilla() const;
+    /// The pane that has the focus, or had it last.
+    QsciScintilla& scintilla() const { return panes_->active(); }
+    CodePanes& panes() { return *panes_; }
+    /// Raised when the cursor moves or another pane becomes active.
+    fernwick::Event<> cursorMoved;
     /// Called after each edit of the module. Shows the new text unless this editor made the edit.
     void codeChanged();
     /// Shows the selection of the host's code pane.
@@ -73,7 +77,10 @@ public:
     void goToProcedure(bool before);
 
 private:
+    CodeInput* makePane();
+    void watchPane(CodeInput& pane);
     void watchText();
+    void showCursor();
     void rested();
     void load();
     bool accepts(const QString& inserted);
@@ -87,11 +94,13 @@ private:
     Shared shared_;
     Refused refused_;
     ProcedureBar* procedures_;
-    CodeInput* text_;
+    CodePanes* panes_;
+    CodeInput* text_; ///< the pane that is always there
     LineMarks marks_;
     EditorMarks ownMarks_;
     FoldLevels folds_;
-    TypedLine typedLine_;
+    /// The line in which the user types, for each pane.
+    std::map<CodeInput*, std::unique_ptr<TypedLine>> typedLines_;
     bool passing_ = false, loading_ = false, refusing_ = false;
     /// Updates the procedure lists and checks breakpoints when the user pauses.
     QTimer rest_;

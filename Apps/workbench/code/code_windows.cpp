@@ -47,10 +47,8 @@ void CodeWindows::open(const vbide::Ref<vbide::VBComponent>& component) {
     if (!editor) {
         editor = new CodeEditor(component, {names_, ownMarks_}, refused_);
         editor->marginClicked = [this, editor](int line) { marginClicked(*editor, line); };
-        editor->zoomTo(zoom_);
-        for (const auto& key : leftKeys_) leaveKey(editor->scintilla(), key);
-        connect(&editor->scintilla(), &QsciScintilla::SCN_ZOOM, this,
-                [this, editor] { zoomTo(int(editor->scintilla().SendScintilla(QsciScintilla::SCI_GETZOOM))); });
+        editor->panes().splitChanged = [this] { splitChanged(); };
+        editor->panes().each([this](CodeInput& pane) { prepare(pane); });
         made(*editor);
         addTab(editor, qt(component->Name()));
         editor->showSelection();
@@ -59,6 +57,13 @@ void CodeWindows::open(const vbide::Ref<vbide::VBComponent>& component) {
     }
     setCurrentWidget(editor);
     editor->setFocus();
+}
+
+void CodeWindows::prepare(CodeInput& pane) {
+    pane.zoomTo(zoom_);
+    for (const auto& key : leftKeys_) leaveKey(pane, key);
+    connect(&pane, &QsciScintilla::SCN_ZOOM, this,
+            [this, &pane] { zoomTo(int(pane.SendScintilla(QsciScintilla::SCI_GETZOOM))); });
 }
 
 void CodeWindows::showPlace(const CodePlace& place) {
@@ -137,7 +142,8 @@ void CodeWindows::showLook() {
 void CodeWindows::leaveKeys(const QList<QKeySequence>& keys) {
     leftKeys_ = keys;
     for (auto* editor : editors())
-        for (const auto& key : keys) leaveKey(editor->scintilla(), key);
+        for (auto* pane : editor->panes().all())
+            for (const auto& key : keys) leaveKey(*pane, key);
 }
 
 void CodeWindows::zoomBy(int points) { zoomTo(zoom_ + points); }

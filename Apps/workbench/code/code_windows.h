@@ -23,6 +23,8 @@ public:
     void showPlace(const CodePlace& place);
     /// Called for each window that is created.
     std::function<void(CodeEditor&)> made = [](CodeEditor&) {};
+    /// Called when a code window was split or joined.
+    std::function<void()> splitChanged = [] {};
     /// Shows the next tab, or the previous one for -1, and starts again at the other end.
     void step(int by);
     void closeCurrent();
@@ -53,6 +55,7 @@ public:
 
 private:
     std::vector<CodeEditor*> editors() const;
+    void prepare(CodeInput& pane);
     void markEditor(CodeEditor& editor);
     void zoomTo(int points);
     void refresh();

@@ -17,7 +17,9 @@ int lineAt(const QsciScintilla& text, const QPoint& at) {
 
 } // namespace
 
-LineMarks::LineMarks(QsciScintilla& text) : text_(text) { text.viewport()->installEventFilter(this); }
+LineMarks::LineMarks(QsciScintilla& text) : text_(text) {}
+
+void LineMarks::watch(QsciScintilla& pane) { pane.viewport()->installEventFilter(this); }
 
 int LineMarks::add(int line, bool isError) {
     return text_.markerAdd(std::clamp(line, 0, text_.lines() - 1), isError ? kErrorMark : kWarningMark);
@@ -53,13 +55,14 @@ QString LineMarks::textAt(int line) const {
 bool LineMarks::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() != QEvent::ToolTip) return QObject::eventFilter(watched, event);
     const auto& help = static_cast<QHelpEvent&>(*event);
-    const int line = lineAt(text_, help.pos());
+    auto& pane = dynamic_cast<QsciScintilla&>(*watched->parent());
+    const int line = lineAt(pane, help.pos());
     auto says = textAt(line);
-    if (says.isEmpty() && help.pos().x() < marginsWidth(text_)) says = also(line);
+    if (says.isEmpty() && help.pos().x() < marginsWidth(pane)) says = also(line);
     if (says.isEmpty())
         QToolTip::hideText();
     else
-        QToolTip::showText(help.globalPos(), says.toHtmlEscaped().replace('\n', "<br>"), text_.viewport());
+        QToolTip::showText(help.globalPos(), says.toHtmlEscaped().replace('\n', "<br>"), pane.viewport());
     return true;
 }
 

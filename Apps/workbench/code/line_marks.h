@@ -18,12 +18,14 @@ struct LineMark {
     friend bool operator==(const LineMark&, const LineMark&) = default;
 };
 
-/// Marks move with their lines when the text is edited. A tool tip on a marked line shows its messages.
+/// Marks move with their lines when the text is edited. A tool tip on a marked line of a watched pane shows its messages.
 class LineMarks final : public QObject {
 public:
     /// The text outlives this.
     explicit LineMarks(QsciScintilla& text);
 
+    /// Shows tool tips in a pane of the text.
+    void watch(QsciScintilla& pane);
     /// Shows these marks; a line beyond the text is moved to the last one. Marks already shown stay where edits
     /// have moved them.
     void show(const std::vector<LineMark>& marks);

@@ -74,6 +74,8 @@ constexpr std::array kCommandIcons{
     CommandIcon{kToggleFoldId, "Fold"},
     CommandIcon{kFoldProceduresId, "FoldProcedures"},
     CommandIcon{kUnfoldAllId, "UnfoldAll"},
+    CommandIcon{kSplitId, "Split"},
+    CommandIcon{kOtherPaneId, "OtherPane"},
     CommandIcon{kViewCodeId, "Code"},
     CommandIcon{kViewObjectId, "Form"},
     CommandIcon{kDefinitionId, "Definition"},

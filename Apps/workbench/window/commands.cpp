@@ -24,6 +24,8 @@ QsciScintilla& textOf(const CommandTargets& on) { return on.window.code().curren
 
 CodeCommands& actions(const CommandTargets& on) { return on.window.codeCommands(); }
 
+CodePanes& panes(const CommandTargets& on) { return on.window.code().current()->panes(); }
+
 MarkCommands& marks(const CommandTargets& on) { return on.window.markCommands(); }
 
 /// The component that the user works on.
@@ -242,6 +244,16 @@ const Command kToolsCommands[] = {
 };
 
 const Command kWindowCommands[] = {
+    {kSplitId,
+     "&Split",
+     Qt::CTRL | Qt::SHIFT | Qt::Key_D,
+     kInCode,
+     [](auto& on) { panes(on).setSplit(!panes(on).isSplit()); },
+     {},
+     [](auto& on) { return panes(on).isSplit(); }},
+    {kOtherPaneId, "&Other Pane", Qt::CTRL | Qt::SHIFT | Qt::Key_E, kInCode,
+     [](auto& on) { panes(on).showOtherPane(); }},
+    {kGroup},
     {kNextWindowId, "&Next Window", Qt::CTRL | Qt::Key_F6, kAlways, [](auto& on) { on.window.code().step(1); }},
     {kPreviousWindowId, "&Previous Window", Qt::CTRL | Qt::SHIFT | Qt::Key_F6, kAlways,
      [](auto& on) { on.window.code().step(-1); }},

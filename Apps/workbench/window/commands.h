@@ -87,6 +87,8 @@ enum CommandId : int {
     kDebugMenuId,
     kToggleBreakpointId,
     kClearBreakpointsId,
+    kSplitId,
+    kOtherPaneId,
     kFormatMenuId = 40301,
     kDeleteId,
     kDuplicateId,

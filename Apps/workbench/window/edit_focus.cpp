@@ -35,6 +35,7 @@ EditFocus::EditFocus(CodeWindows& code, DesignDesk& design)
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { follow(now); });
     connect(&code, &QTabWidget::currentChanged, this, [this] { changed(); });
     connect(QApplication::clipboard(), &QClipboard::dataChanged, this, [this] { changed(); });
+    code.splitChanged = [this] { changed(); };
     selection_ = design.selectionChanged.connect([this] { changed(); });
 }
 

@@ -37,9 +37,8 @@ PlaceStatus::PlaceStatus(QStatusBar& bar, CodeWindows& code, DesignDesk& design)
 }
 
 void PlaceStatus::follow() {
-    disconnect(caret_);
-    if (auto* const editor = code_.current())
-        caret_ = connect(&editor->scintilla(), &QsciScintilla::cursorPositionChanged, this, [this] { show(); });
+    caret_ = {};
+    if (auto* const editor = code_.current()) caret_ = editor->cursorMoved.connect([this] { show(); });
     show();
 }
 
