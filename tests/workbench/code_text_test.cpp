@@ -1,6 +1,6 @@
 // Edits in an editor reach the host's module.
 #include "Apps/workbench/code/code_editor.h"
-#include "Apps/workbench/code/scintilla.h"
+#include "Apps/workbench/editing/scintilla.h"
 #include "tests/support/test_host.h"
 #include <QApplication>
 #include <QClipboard>
@@ -16,7 +16,9 @@ protected:
     workbench::CodeEditor& editorOf(const test::SampleProject& sample) {
         project = host.open(sample);
         component = project->VBComponents()->Item(1);
-        editor = std::make_unique<workbench::CodeEditor>(component, names, [this](std::exception_ptr) { ++refused; });
+        editor = std::make_unique<workbench::CodeEditor>(
+            component, workbench::CodeEditor::Shared{names, std::make_shared<workbench::ProjectMarks>()},
+            [this](std::exception_ptr) { ++refused; });
         watch = host.ide->panes.codeChanged.connect([this](const auto&) { editor->codeChanged(); });
         return *editor;
     }

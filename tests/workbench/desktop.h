@@ -1,6 +1,6 @@
 #pragma once
 // The whole desktop over copies of the samples, drawn into memory.
-#include "Apps/workbench/code/scintilla.h"
+#include "Apps/workbench/editing/scintilla.h"
 #include "Host/model/bars/bars.h"
 #include "tests/workbench/running_bench.h"
 #include <QMessageBox>

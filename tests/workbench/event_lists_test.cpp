@@ -1,5 +1,5 @@
 // The lists of objects and events above the code.
-#include "Apps/workbench/code/scintilla.h"
+#include "Apps/workbench/editing/scintilla.h"
 #include "Apps/workbench/events/event_handler.h"
 #include "tests/workbench/designer_desktop.h"
 #include <QComboBox>

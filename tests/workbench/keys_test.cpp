@@ -1,5 +1,5 @@
 // The keys of commands: shown everywhere, and changed in the options.
-#include "Apps/workbench/code/scintilla.h"
+#include "Apps/workbench/editing/scintilla.h"
 #include "Apps/workbench/messages/messages_view.h"
 #include "Apps/workbench/options/key_field.h"
 #include "Apps/workbench/window/command_keys.h"
@@ -209,7 +209,8 @@ TEST_F(Keys, AreFoundByMenuCommandAndKey) {
             return text.isEmpty() ? QString() : names.join(", ");
         };
         field<QLineEdit>(dialog, "keyFilter").setText("ctrl+sh");
-        EXPECT_EQ(shown("x"), "Redo, Last Position, Previous Window");
+        EXPECT_EQ(shown("x"), "Redo, Toggle Bookmark, Next Bookmark, Previous Bookmark, Last Position, Fold or Unfold, "
+                              "Clear All Breakpoints, Split, Other Pane, Previous Window");
         EXPECT_EQ(list.currentItem()->text(1), "Redo");
         field<QLineEdit>(dialog, "keyFilter").setText("options");
         EXPECT_EQ(shown("x"), "Options");

@@ -1,6 +1,6 @@
 // Keywords get their proper case when the user leaves the typed line.
 #include "Apps/workbench/code/declared_names.h"
-#include "Apps/workbench/code/keyword_case.h"
+#include "Apps/workbench/editing/keyword_case.h"
 #include "tests/workbench/open_desktop.h"
 
 using workbench::withKeywordCase;
@@ -108,7 +108,7 @@ TEST_F(KeywordCase, IsCorrectedInAnIndentedLineLeftByEnter) {
     QTest::keyClicks(&text, "if x then");
     QTest::keyClick(&text, Qt::Key_Return);
     settleLine();
-    EXPECT_EQ(held("modA"), "sub a()\n    Dim x As Long\n    If x Then\n    \nend sub");
+    EXPECT_EQ(held("modA"), "sub a()\n    Dim x As Long\n    If x Then\n        \n    End If\nend sub");
 }
 
 TEST_F(KeywordCase, NamesTakeTheCaseOfTheirDeclarations) {

@@ -198,7 +198,7 @@ TEST_F(DesktopMenus, ViewListsWindowsThenToolbarsThenTheLook) {
     EXPECT_THAT(texts(*top("&View")),
                 ElementsAre("&Code", "O&bject", "&Definition", "Last Positio&n", "&Project Explorer",
                             "Properties &Window", "Toolbo&x", "Fernwick &Messages", "Fernwick &Zoom", "&Toolbars",
-                            "Zoom &In", "Zoom O&ut", "&Reset Zoom", "Dar&k Theme"));
+                            "&Folding", "Zoom &In", "Zoom O&ut", "&Reset Zoom", "Dar&k Theme"));
 }
 
 TEST_F(DesktopMenus, ALetterOfTwoMenusOpensTheFirstAndThenTheSecond) {
@@ -419,8 +419,8 @@ TEST_F(DesktopMenus, TheWindowMenuListsWhatIsOpen) {
     editor("frmPerson");
     auto* windows = top("&Window");
     show(*windows);
-    EXPECT_THAT(texts(*windows),
-                ElementsAre("&Next Window", "&Previous Window", "&Close", "Close &All", "&1 frmList", "&2 frmPerson"));
+    EXPECT_THAT(texts(*windows), ElementsAre("&Split", "&Other Pane", "&Next Window", "&Previous Window", "&Close",
+                                             "Close &All", "&1 frmList", "&2 frmPerson"));
     windows->actions()[windows->actions().size() - 2]->trigger();
     EXPECT_EQ(window().code().currentIndex(), 0);
     menuItem("&Window", "&Next Window")->trigger();

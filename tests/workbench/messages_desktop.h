@@ -1,7 +1,7 @@
 #pragma once
 // The desktop over a project of one module, with its messages window open.
 #include "Apps/workbench/base/text.h"
-#include "Apps/workbench/code/scintilla.h"
+#include "Apps/workbench/editing/scintilla.h"
 #include "Apps/workbench/messages/message_list.h"
 #include "Apps/workbench/messages/messages_view.h"
 #include "tests/workbench/running_bench.h"

@@ -1,7 +1,7 @@
 #pragma once
 // The whole desktop with a small project on disk, for tests of code windows.
 #include "Apps/workbench/base/text.h"
-#include "Apps/workbench/code/scintilla.h"
+#include "Apps/workbench/editing/scintilla.h"
 #include "tests/workbench/running_bench.h"
 #include <QMessageBox>
 #include <QTest>

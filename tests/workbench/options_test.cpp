@@ -1,5 +1,5 @@
 // The options dialog: what it stores and what follows at once.
-#include "Apps/workbench/code/scintilla.h"
+#include "Apps/workbench/editing/scintilla.h"
 #include "Apps/workbench/options/contrast.h"
 #include "Apps/workbench/options/declared_options.h"
 #include "tests/workbench/keyboard_access.h"

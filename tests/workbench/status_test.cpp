@@ -1,5 +1,5 @@
 // The status bar shows where the user is.
-#include "Apps/workbench/code/scintilla.h"
+#include "Apps/workbench/editing/scintilla.h"
 #include "tests/workbench/designer_desktop.h"
 #include <QLabel>
 

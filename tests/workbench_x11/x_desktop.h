@@ -1,7 +1,7 @@
 #pragma once
 // The whole desktop on a display, with a user's actions.
 #include "Apps/workbench/base/text.h"
-#include "Apps/workbench/code/scintilla.h"
+#include "Apps/workbench/editing/scintilla.h"
 #include "Apps/workbench/window/workbench.h"
 #include "tests/support/temp_folder.h"
 #include "tests/workbench_x11/hands.h"

@@ -1,7 +1,7 @@
 #include "Apps/workbench/code/code_commands.h"
 #include "Apps/workbench/code/code_texts.h"
 #include "Apps/workbench/code/definition.h"
-#include "Apps/workbench/code/scintilla.h"
+#include "Apps/workbench/editing/scintilla.h"
 #include <QInputDialog>
 
 namespace workbench {

@@ -1,10 +1,10 @@
 #include "Apps/workbench/code/code_editor.h"
 #include "Apps/workbench/base/text.h"
-#include "Apps/workbench/code/code_input.h"
-#include "Apps/workbench/code/code_lines.h"
 #include "Apps/workbench/code/code_texts.h"
 #include "Apps/workbench/code/procedure_bar.h"
-#include "Apps/workbench/code/vb_lexer.h"
+#include "Apps/workbench/editing/code_input.h"
+#include "Apps/workbench/editing/code_lines.h"
+#include "Apps/workbench/editing/margins.h"
 #include "Apps/workbench/events/event_handler.h"
 #include "Basic/runtime_error.h"
 #include "Host/model/component.h"
@@ -15,7 +15,6 @@ namespace workbench {
 
 namespace {
 
-constexpr int kNumberMargin = 0;
 constexpr int kMillisecondsOfRest = 300;
 constexpr int kUndoings = QsciScintillaBase::SC_PERFORMED_UNDO | QsciScintillaBase::SC_PERFORMED_REDO;
 constexpr int kEditings = QsciScintillaBase::SC_MOD_INSERTTEXT | QsciScintillaBase::SC_MOD_DELETETEXT;
@@ -33,47 +32,74 @@ QString firstMissing(const basic::CodePage& page, const QString& inserted) {
 
 } // namespace
 
-CodeEditor::CodeEditor(vbide::Ref<vbide::VBComponent> component, ProjectNames& names, Refused refused)
+CodeEditor::CodeEditor(vbide::Ref<vbide::VBComponent> component, Shared shared, Refused refused)
     : component_(std::move(component)),
       module_(component_->CodeModule()),
+      shared_(std::move(shared)),
       refused_(std::move(refused)),
       procedures_(
           new ProcedureBar(component_, {[this](int line) { goToLine(line); },
                                         [this](const auto& object, const auto& event) { addHandler(object, event); }})),
-      text_(new CodeInput([this](const QString& inserted) { return accepts(inserted); })),
+      panes_(new CodePanes([this] { return makePane(); })),
+      text_(&panes_->main()),
       marks_(*text_),
-      typedLine_(*text_, [this, &names](int line) { return names.at(component_, line); }),
-      lexer_(new VbLexer(this)) {
+      ownMarks_(*text_),
+      folds_(*text_) {
     auto* const rows = new QVBoxLayout(this);
     rows->setContentsMargins(0, 0, 0, 0);
     rows->setSpacing(2);
     rows->addWidget(procedures_);
-    rows->addWidget(text_);
+    rows->addWidget(panes_);
     setFocusProxy(text_);
-    prepareText();
     load();
+    ownMarks_.show(shared_.marks->of(component_));
+    marks_.also = [this](int line) { return ownMarks_.hasBreakpoint(line) ? code_texts::kBreakpoint : QString(); };
     listProcedures();
-    connect(text_, &QsciScintilla::cursorPositionChanged, this, [this](int line) { procedures_->showAt(line + 1); });
+    watchText();
     rest_.setSingleShot(true);
     rest_.setInterval(kMillisecondsOfRest);
-    connect(&rest_, &QTimer::timeout, this, [this] { listProcedures(); });
+    connect(&rest_, &QTimer::timeout, this, [this] { rested(); });
 }
 
-QsciScintilla& CodeEditor::scintilla() const { return *text_; }
+CodeEditor::~CodeEditor() {
+    keepMarks();
+    delete panes_; // they call this
+}
 
-void CodeEditor::prepareText() {
-    text_->setAccessibleName("Code");
-    text_->setUtf8(true);
-    text_->setEolMode(QsciScintilla::EolUnix); // the host uses its own line ends
-    text_->setLexer(lexer_);
-    text_->setIndentationsUseTabs(false);
-    text_->setAutoIndent(true);
-    text_->setCaretLineVisible(true);
-    text_->SendScintilla(QsciScintillaBase::SCI_SETSCROLLWIDTHTRACKING, 1UL);
-    text_->SendScintilla(QsciScintillaBase::SCI_SETSCROLLWIDTH, 1UL);
-    text_->setMarginType(kNumberMargin, QsciScintilla::NumberMargin);
-    bindKeys(*text_);
-    showIn(storedCodeLook(currentTheme()));
+CodeInput* CodeEditor::makePane() {
+    auto* const pane = new CodeInput([this](const QString& inserted) { return accepts(inserted); });
+    pane->showIn(storedCodeLook(currentTheme()));
+    return pane;
+}
+
+void CodeEditor::watchPane(CodeInput& pane) {
+    const auto namesAt = [this](int line) { return shared_.names.at(component_, line); };
+    typedLines_[&pane] = std::make_unique<TypedLine>(pane, namesAt);
+    pane.lineEnds = [typed = typedLines_[&pane].get()] { typed->finish(); };
+    connect(&pane, &QObject::destroyed, this, [this, gone = &pane] { typedLines_.erase(gone); });
+    connect(&pane, &QsciScintilla::cursorPositionChanged, this, [this, &pane] {
+        if (&pane == &panes_->active()) showCursor();
+    });
+    connect(&pane, &QsciScintilla::marginClicked, this, [this](int margin, int line) {
+        if (margin == kOwnMargin) marginClicked(line);
+    });
+    marks_.watch(pane);
+}
+
+void CodeEditor::showCursor() {
+    int line = 0, column = 0;
+    panes_->active().getCursorPosition(&line, &column);
+    procedures_->showAt(line + 1);
+    cursorMoved.raise();
+}
+
+/// Both panes report each change of the text.
+void CodeEditor::watchText() {
+    panes_->each([this](CodeInput& pane) { watchPane(pane); });
+    panes_->activated = [this] {
+        setFocusProxy(&panes_->active());
+        showCursor();
+    };
     connect(text_, &QsciScintilla::SCN_MODIFIED, this,
             [this](int position, int kind, const char*, int, int linesAdded) {
                 if (!loading_ && (kind & kEditings) != 0) edited(position, linesAdded, (kind & kUndoings) != 0);
@@ -81,38 +107,32 @@ void CodeEditor::prepareText() {
 }
 
 void CodeEditor::showIn(const CodeLook& look) {
-    const auto& colours = look.colours;
-    lexer_->showIn(look);
-    text_->setTabWidth(look.tabWidth);
-    text_->setMarginsFont(look.font);
-    text_->setCaretForegroundColor(colours.text);
-    text_->setCaretLineBackgroundColor(colours.currentLine);
-    text_->setMarginsBackgroundColor(colours.margin);
-    text_->setMarginsForegroundColor(colours.marginText);
-    marks_.colour(colours);
-    widenMargin();
+    for (auto* pane : panes_->all()) pane->showIn(look);
 }
 
 void CodeEditor::zoomTo(int points) {
-    text_->zoomTo(points);
-    widenMargin();
+    for (auto* pane : panes_->all()) {
+        pane->zoomTo(points);
+        pane->widenMargin();
+    }
 }
 
-void CodeEditor::widenMargin() { text_->setMarginWidth(kNumberMargin, QString::number(text_->lines() * 10)); }
+void CodeEditor::keepMarks() { shared_.marks->keep(component_, ownMarks_.placed()); }
 
+void CodeEditor::rested() {
+    listProcedures();
+    ownMarks_.checkBreakpoints();
+    keepMarks();
+}
+
+/// Replaces only the lines that differ, so that marks, folds and the cursor keep their lines.
 void CodeEditor::load() {
     loading_ = true;
-    typedLine_.forget();
-    int line = 0, column = 0;
-    text_->getCursorPosition(&line, &column);
-    const int top = text_->firstVisibleLine();
-    const auto marked = marks_.lines();
-    text_->setText(codeOf(*module_));
+    for (const auto& [pane, typed] : typedLines_) typed->forget();
+    replaceDifferences(*text_, codeOf(*module_));
     text_->SendScintilla(QsciScintillaBase::SCI_EMPTYUNDOBUFFER);
-    text_->setCursorPosition(std::min(line, text_->lines() - 1), column);
-    text_->setFirstVisibleLine(top);
-    marks_.putBack(marked);
-    widenMargin();
+    folds_.updateAll();
+    for (auto* pane : panes_->all()) pane->widenMargin();
     loading_ = false;
 }
 
@@ -132,12 +152,13 @@ bool CodeEditor::accepts(const QString& inserted) {
 void CodeEditor::edited(int position, int linesAdded, bool isUndo) {
     const int first = int(text_->SendScintilla(QsciScintillaBase::SCI_LINEFROMPOSITION, position));
     const bool atStart = int(text_->SendScintilla(QsciScintillaBase::SCI_POSITIONFROMLINE, first)) == position;
-    typedLine_.typed(text_->isTyping() && !isUndo ? first : -1, linesAdded);
+    for (const auto& [pane, typed] : typedLines_) typed->typed(pane->isTyping() && !isUndo ? first : -1, linesAdded);
     passing_ = true;
     try {
         passOn(*module_, {first, linesAdded, atStart}, [this](int line) { return text(lineText(line)); });
     } catch (...) { refuse(std::current_exception()); }
     passing_ = false;
+    folds_.update(first, linesAdded);
     rest_.start();
 }
 
@@ -161,7 +182,7 @@ void CodeEditor::codeChanged() {
 
 void CodeEditor::listProcedures() {
     int line = 0, column = 0;
-    text_->getCursorPosition(&line, &column);
+    scintilla().getCursorPosition(&line, &column);
     procedures_->list(line + 1);
 }
 
@@ -170,7 +191,7 @@ void CodeEditor::addHandler(const EventObject& object, const host::ClassEvent& e
         openHandler(*component_, object, event);
     } catch (const basic::RuntimeError&) { refused_(std::current_exception()); }
     listProcedures();
-    text_->setFocus();
+    scintilla().setFocus();
 }
 
 void CodeEditor::goToProcedure(bool before) {
@@ -185,9 +206,12 @@ void CodeEditor::goToProcedure(bool before) {
 }
 
 void CodeEditor::goToLine(int line) {
-    text_->setCursorPosition(std::max(0, line - 1), 0);
-    text_->setFirstVisibleLine(std::max(0, line - 1));
-    text_->setFocus();
+    const int index = std::max(0, line - 1);
+    scintilla().setCursorPosition(index, 0);
+    scintilla().ensureLineVisible(index); // it may be folded
+    scintilla().setFirstVisibleLine(
+        int(scintilla().SendScintilla(QsciScintillaBase::SCI_VISIBLEFROMDOCLINE, (unsigned long)index)));
+    scintilla().setFocus();
 }
 
 } // namespace workbench

@@ -1,25 +1,27 @@
 #pragma once
 // The code window of one component.
+#include "Add-in/platform/events.h"
 #include "Add-in/platform/host_project.h"
 #include "Apps/workbench/code/code_finder.h"
+#include "Apps/workbench/code/code_panes.h"
 #include "Apps/workbench/code/code_text.h"
 #include "Apps/workbench/code/line_marks.h"
 #include "Apps/workbench/code/project_names.h"
-#include "Apps/workbench/code/typed_line.h"
+#include "Apps/workbench/editing/fold_levels.h"
+#include "Apps/workbench/editing/typed_line.h"
 #include "Apps/workbench/events/object_events.h"
+#include "Apps/workbench/marks/editor_marks.h"
 #include "Apps/workbench/options/code_look.h"
 #include <QTimer>
 #include <QWidget>
 #include <functional>
+#include <map>
+#include <memory>
 #include <vector>
-
-class QsciScintilla;
 
 namespace workbench {
 
-class CodeInput;
 class ProcedureBar;
-class VbLexer;
 
 /// Reads the component's code when it is created, and passes each edit to the host's code module at once, so that dirty
 /// marks, saving and the add-in are up to date.
@@ -29,16 +31,30 @@ public:
     /// any other refusal the host's text is restored.
     using Refused = std::function<void(std::exception_ptr)>;
 
-    /// `names` outlives this.
-    CodeEditor(vbide::Ref<vbide::VBComponent> component, ProjectNames& names, Refused refused);
+    /// What the editors of all projects share.
+    struct Shared {
+        ProjectNames& names;
+        std::shared_ptr<ProjectMarks> marks; ///< gets the marks of an editor that is destroyed
+    };
+    CodeEditor(vbide::Ref<vbide::VBComponent> component, Shared shared, Refused refused);
+    ~CodeEditor() override;
 
     const vbide::Ref<vbide::VBComponent>& component() const { return component_; }
-    QsciScintilla& scintilla() const;
+    /// The pane that has the focus, or had it last.
+    QsciScintilla& scintilla() const { return panes_->active(); }
+    CodePanes& panes() { return *panes_; }
+    /// Raised when the cursor moves or another pane becomes active.
+    fernwick::Event<> cursorMoved;
     /// Called after each edit of the module. Shows the new text unless this editor made the edit.
     void codeChanged();
     /// Shows the selection of the host's code pane.
     void showSelection();
     LineMarks& marks() { return marks_; }
+    EditorMarks& ownMarks() { return ownMarks_; }
+    /// Passes the present marks of the user on to those of the project.
+    void keepMarks();
+    /// Called when the user clicks into the margin for breakpoints, with the line (from 0).
+    std::function<void(int)> marginClicked = [](int) {};
     void showIn(const CodeLook& look);
     /// Enlarges the text by this many points; negative to make it smaller.
     void zoomTo(int points);
@@ -61,8 +77,11 @@ public:
     void goToProcedure(bool before);
 
 private:
-    void prepareText();
-    void widenMargin();
+    CodeInput* makePane();
+    void watchPane(CodeInput& pane);
+    void watchText();
+    void showCursor();
+    void rested();
     void load();
     bool accepts(const QString& inserted);
     void edited(int position, int linesAdded, bool isUndo);
@@ -72,14 +91,18 @@ private:
 
     vbide::Ref<vbide::VBComponent> component_;
     vbide::Ref<vbide::CodeModule> module_;
+    Shared shared_;
     Refused refused_;
     ProcedureBar* procedures_;
-    CodeInput* text_;
+    CodePanes* panes_;
+    CodeInput* text_; ///< the pane that is always there
     LineMarks marks_;
-    TypedLine typedLine_;
-    VbLexer* lexer_;
+    EditorMarks ownMarks_;
+    FoldLevels folds_;
+    /// The line in which the user types, for each pane.
+    std::map<CodeInput*, std::unique_ptr<TypedLine>> typedLines_;
     bool passing_ = false, loading_ = false, refusing_ = false;
-    /// Updates the procedure lists when the user pauses.
+    /// Updates the procedure lists and checks breakpoints when the user pauses.
     QTimer rest_;
 };
 

@@ -1,7 +1,7 @@
 // The selection, and replacing parts of lines.
 #include "Apps/workbench/code/code_editor.h"
-#include "Apps/workbench/code/code_input.h"
-#include "Apps/workbench/code/code_lines.h"
+#include "Apps/workbench/editing/code_input.h"
+#include "Apps/workbench/editing/code_lines.h"
 #include <algorithm>
 
 namespace workbench {
@@ -10,22 +10,22 @@ void CodeEditor::showSelection() {
     int startLine = 1, startColumn = 1, endLine = 1, endColumn = 1;
     module_->CodePane()->GetSelection(startLine, startColumn, endLine, endColumn);
     const auto within = [this](int line, int column) {
-        const int index = std::clamp(line - 1, 0, text_->lines() - 1);
+        const int index = std::clamp(line - 1, 0, scintilla().lines() - 1);
         return std::pair(index, std::clamp(column - 1, 0, int(lineText(index).size())));
     };
     const auto [fromLine, fromColumn] = within(startLine, startColumn);
     const auto [toLine, toColumn] = within(endLine, endColumn);
-    text_->setSelection(fromLine, fromColumn, toLine, toColumn);
-    text_->ensureLineVisible(fromLine);
+    scintilla().setSelection(fromLine, fromColumn, toLine, toColumn);
+    scintilla().ensureLineVisible(fromLine);
 }
 
 QString CodeEditor::lineText(int line) const { return workbench::lineText(*text_, line); }
 
 CodePlace CodeEditor::place() const {
     int line = 0, column = 0, lastLine = 0, lastColumn = 0;
-    text_->getSelection(&line, &column, &lastLine, &lastColumn);
+    scintilla().getSelection(&line, &column, &lastLine, &lastColumn);
     if (line < 0) {
-        text_->getCursorPosition(&line, &column);
+        scintilla().getCursorPosition(&line, &column);
         return {component_, line, column, 0};
     }
     const int end = lastLine == line ? lastColumn : int(lineText(line).size());
@@ -33,14 +33,14 @@ CodePlace CodeEditor::place() const {
 }
 
 void CodeEditor::select(const CodePlace& place) {
-    const int line = std::clamp(place.line, 0, text_->lines() - 1), end = int(lineText(line).size());
+    const int line = std::clamp(place.line, 0, scintilla().lines() - 1), end = int(lineText(line).size());
     const int column = std::clamp(place.column, 0, end);
-    text_->setSelection(line, column, line, std::min(column + place.length, end));
-    text_->ensureLineVisible(line);
+    scintilla().setSelection(line, column, line, std::min(column + place.length, end));
+    scintilla().ensureLineVisible(line);
 }
 
 QString CodeEditor::selectedPart() const {
-    const auto selected = text_->selectedText();
+    const auto selected = scintilla().selectedText();
     return selected.contains('\n') ? QString() : selected;
 }
 

@@ -14,4 +14,9 @@ inline constexpr auto kRefused = "Nothing was replaced in %1: see the message.";
 inline constexpr auto kMissingCharacter = "The code page of this file has no character \"%1\".";
 inline constexpr auto kNotDeclared = "\"%1\" is not declared in this project.";
 
+// marks
+inline constexpr auto kBreakpoint =
+                          "Breakpoint. Programs do not stop at it in this version, which has no debugger yet.",
+                      kNoBreakpoint = "A breakpoint can only be set on a statement that runs.";
+
 } // namespace workbench::code_texts

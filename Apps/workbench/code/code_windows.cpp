@@ -1,7 +1,7 @@
 #include "Apps/workbench/code/code_windows.h"
 #include "Apps/workbench/base/text.h"
-#include "Apps/workbench/code/code_lines.h"
-#include "Apps/workbench/code/scintilla.h"
+#include "Apps/workbench/editing/code_lines.h"
+#include "Apps/workbench/editing/scintilla.h"
 #include "Basic/runtime_error.h"
 #include <QSettings>
 #include <algorithm>
@@ -32,6 +32,11 @@ CodeWindows::CodeWindows(host::Host& host, CodeEditor::Refused refused)
         refresh_.start();
     }));
     const auto soon = [this](const auto&...) { refresh_.start(); };
+    const auto store = [this](const auto& project, const auto&...) {
+        (void)basic::attempt([&] { storeMarks(project); }); // no reason to stop saving or closing
+    };
+    watches_.push_back(host.Events()->VBProjectsEvents()->ItemRemoved.connect(store));
+    watches_.push_back(host.Events()->FileControlEvents(nullptr)->AfterWriteFile.connect(store));
     watches_.push_back(host.Events()->VBProjectsEvents()->ItemRemoved.connect(soon));
     watches_.push_back(host.Events()->VBProjectsEvents()->ItemActivated.connect(soon));
     watches_.push_back(host.Events()->FileControlEvents(nullptr)->AfterWriteFile.connect(soon));
@@ -40,11 +45,10 @@ CodeWindows::CodeWindows(host::Host& host, CodeEditor::Refused refused)
 void CodeWindows::open(const vbide::Ref<vbide::VBComponent>& component) {
     auto* editor = editorOf(component);
     if (!editor) {
-        editor = new CodeEditor(component, names_, refused_);
-        editor->zoomTo(zoom_);
-        for (const auto& key : leftKeys_) leaveKey(editor->scintilla(), key);
-        connect(&editor->scintilla(), &QsciScintilla::SCN_ZOOM, this,
-                [this, editor] { zoomTo(int(editor->scintilla().SendScintilla(QsciScintilla::SCI_GETZOOM))); });
+        editor = new CodeEditor(component, {names_, ownMarks_}, refused_);
+        editor->marginClicked = [this, editor](int line) { marginClicked(*editor, line); };
+        editor->panes().splitChanged = [this] { splitChanged(); };
+        editor->panes().each([this](CodeInput& pane) { prepare(pane); });
         made(*editor);
         addTab(editor, qt(component->Name()));
         editor->showSelection();
@@ -53,6 +57,13 @@ void CodeWindows::open(const vbide::Ref<vbide::VBComponent>& component) {
     }
     setCurrentWidget(editor);
     editor->setFocus();
+}
+
+void CodeWindows::prepare(CodeInput& pane) {
+    pane.zoomTo(zoom_);
+    for (const auto& key : leftKeys_) leaveKey(pane, key);
+    connect(&pane, &QsciScintilla::SCN_ZOOM, this,
+            [this, &pane] { zoomTo(int(pane.SendScintilla(QsciScintilla::SCI_GETZOOM))); });
 }
 
 void CodeWindows::showPlace(const CodePlace& place) {
@@ -103,6 +114,26 @@ void CodeWindows::markEditor(CodeEditor& editor) {
     editor.marks().show(marks);
 }
 
+ComponentMarks CodeWindows::ownMarksOf(const vbide::Ref<vbide::VBComponent>& component) {
+    if (auto* const editor = editorOf(component)) return editor->ownMarks().placed();
+    return ownMarks_->of(component);
+}
+
+void CodeWindows::clearMarks(const vbide::Ref<vbide::VBProject>& project,
+                             std::vector<PlacedMark> ComponentMarks::*kind) {
+    for (const auto& component : project->VBComponents()->items()) {
+        auto marks = ownMarksOf(component);
+        (marks.*kind).clear();
+        ownMarks_->keep(component, marks);
+        if (auto* const editor = editorOf(component)) editor->ownMarks().show(marks);
+    }
+}
+
+void CodeWindows::storeMarks(const vbide::Ref<vbide::VBProject>& project) {
+    for (auto* editor : editors()) editor->keepMarks();
+    ownMarks_->store(project);
+}
+
 void CodeWindows::showLook() {
     const auto look = storedCodeLook(currentTheme());
     for (auto* editor : editors()) editor->showIn(look);
@@ -111,7 +142,8 @@ void CodeWindows::showLook() {
 void CodeWindows::leaveKeys(const QList<QKeySequence>& keys) {
     leftKeys_ = keys;
     for (auto* editor : editors())
-        for (const auto& key : keys) leaveKey(editor->scintilla(), key);
+        for (auto* pane : editor->panes().all())
+            for (const auto& key : keys) leaveKey(*pane, key);
 }
 
 void CodeWindows::zoomBy(int points) { zoomTo(zoom_ + points); }

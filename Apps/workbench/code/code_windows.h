@@ -23,6 +23,8 @@ public:
     void showPlace(const CodePlace& place);
     /// Called for each window that is created.
     std::function<void(CodeEditor&)> made = [](CodeEditor&) {};
+    /// Called when a code window was split or joined.
+    std::function<void()> splitChanged = [] {};
     /// Shows the next tab, or the previous one for -1, and starts again at the other end.
     void step(int by);
     void closeCurrent();
@@ -31,6 +33,14 @@ public:
     CodeEditor* editorOf(const vbide::Ref<vbide::VBComponent>& component) const;
     /// Null if no code window is in front.
     CodeEditor* current() const;
+    /// The marks of a component, whether it has a window or not.
+    ComponentMarks ownMarksOf(const vbide::Ref<vbide::VBComponent>& component);
+    /// Removes bookmarks or breakpoints from all components of a project.
+    void clearMarks(const vbide::Ref<vbide::VBProject>& project, std::vector<PlacedMark> ComponentMarks::*kind);
+    /// Stores the breakpoints of a project.
+    void storeMarks(const vbide::Ref<vbide::VBProject>& project);
+    /// Called when the user clicks into the margin for breakpoints, with the line (from 0).
+    std::function<void(CodeEditor&, int line)> marginClicked = [](CodeEditor&, int) {};
     /// Shows the messages of the active project as marks.
     void mark(MarksByComponent marks);
     /// Draws the code in the look of the user's settings.
@@ -45,6 +55,7 @@ public:
 
 private:
     std::vector<CodeEditor*> editors() const;
+    void prepare(CodeInput& pane);
     void markEditor(CodeEditor& editor);
     void zoomTo(int points);
     void refresh();
@@ -52,6 +63,7 @@ private:
     host::Host& host_;
     CodeEditor::Refused refused_;
     ProjectNames names_;
+    std::shared_ptr<ProjectMarks> ownMarks_ = std::make_shared<ProjectMarks>();
     MarksByComponent marks_;
     int zoom_ = 0;
     QList<QKeySequence> leftKeys_;

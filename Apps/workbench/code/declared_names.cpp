@@ -1,5 +1,5 @@
 #include "Apps/workbench/code/declared_names.h"
-#include "Apps/workbench/code/name_part.h"
+#include "Apps/workbench/editing/name_part.h"
 #include <initializer_list>
 #include <limits>
 #include <utility>

@@ -1,7 +1,7 @@
 #include "Apps/workbench/code/definition.h"
 #include "Apps/workbench/base/text.h"
 #include "Apps/workbench/code/code_text.h"
-#include "Apps/workbench/code/name_part.h"
+#include "Apps/workbench/editing/name_part.h"
 #include <QRegularExpression>
 #include <QStringList>
 #include <algorithm>

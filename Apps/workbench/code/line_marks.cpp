@@ -1,6 +1,7 @@
 #include "Apps/workbench/code/line_marks.h"
 #include "Apps/workbench/base/text.h"
-#include "Apps/workbench/code/scintilla.h"
+#include "Apps/workbench/editing/margins.h"
+#include "Apps/workbench/editing/scintilla.h"
 #include <QHelpEvent>
 #include <QToolTip>
 #include <algorithm>
@@ -8,9 +9,6 @@
 namespace workbench {
 
 namespace {
-constexpr int kMarkMargin = 1, kMarkMarginWidth = 14;
-constexpr int kErrorMark = 1, kWarningMark = 2;
-
 /// The line at a point of the viewport, including the margin.
 int lineAt(const QsciScintilla& text, const QPoint& at) {
     const auto position = text.SendScintilla(QsciScintillaBase::SCI_POSITIONFROMPOINT, (unsigned long)at.x(), at.y());
@@ -19,22 +17,9 @@ int lineAt(const QsciScintilla& text, const QPoint& at) {
 
 } // namespace
 
-LineMarks::LineMarks(QsciScintilla& text) : text_(text) {
-    text.setMarginType(kMarkMargin, QsciScintilla::SymbolMargin);
-    text.setMarginWidth(kMarkMargin, kMarkMarginWidth);
-    text.setMarginMarkerMask(kMarkMargin, (1 << kErrorMark) | (1 << kWarningMark));
-    text.markerDefine(QsciScintilla::Circle, kErrorMark);
-    text.markerDefine(QsciScintilla::Circle, kWarningMark);
-    text.viewport()->installEventFilter(this);
-}
+LineMarks::LineMarks(QsciScintilla& text) : text_(text) {}
 
-void LineMarks::colour(const CodeColours& colours) {
-    for (const auto& [mark, colour] :
-         {std::pair(kErrorMark, colours.error), std::pair(kWarningMark, colours.warning)}) {
-        text_.setMarkerBackgroundColor(colour, mark);
-        text_.setMarkerForegroundColor(colour, mark);
-    }
-}
+void LineMarks::watch(QsciScintilla& pane) { pane.viewport()->installEventFilter(this); }
 
 int LineMarks::add(int line, bool isError) {
     return text_.markerAdd(std::clamp(line, 0, text_.lines() - 1), isError ? kErrorMark : kWarningMark);
@@ -55,7 +40,7 @@ std::vector<int> LineMarks::lines() const {
 }
 
 void LineMarks::putBack(const std::vector<int>& lines) {
-    text_.markerDeleteAll();
+    for (const auto mark : {kErrorMark, kWarningMark}) text_.markerDeleteAll(mark);
     handles_.clear();
     for (std::size_t i = 0; i < lines.size(); ++i) handles_.push_back(add(lines[i], marks_[i].isError));
 }
@@ -70,11 +55,14 @@ QString LineMarks::textAt(int line) const {
 bool LineMarks::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() != QEvent::ToolTip) return QObject::eventFilter(watched, event);
     const auto& help = static_cast<QHelpEvent&>(*event);
-    const auto says = textAt(lineAt(text_, help.pos()));
+    auto& pane = dynamic_cast<QsciScintilla&>(*watched->parent());
+    const int line = lineAt(pane, help.pos());
+    auto says = textAt(line);
+    if (says.isEmpty() && help.pos().x() < marginsWidth(pane)) says = also(line);
     if (says.isEmpty())
         QToolTip::hideText();
     else
-        QToolTip::showText(help.globalPos(), says.toHtmlEscaped().replace('\n', "<br>"), text_.viewport());
+        QToolTip::showText(help.globalPos(), says.toHtmlEscaped().replace('\n', "<br>"), pane.viewport());
     return true;
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 // Marks in the margin of an editor for the lines of messages.
-#include "Apps/workbench/base/theme.h"
 #include <QObject>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -18,12 +18,14 @@ struct LineMark {
     friend bool operator==(const LineMark&, const LineMark&) = default;
 };
 
-/// Marks move with their lines when the text is edited. A tool tip on a marked line shows its messages.
+/// Marks move with their lines when the text is edited. A tool tip on a marked line of a watched pane shows its messages.
 class LineMarks final : public QObject {
 public:
     /// The text outlives this.
     explicit LineMarks(QsciScintilla& text);
 
+    /// Shows tool tips in a pane of the text.
+    void watch(QsciScintilla& pane);
     /// Shows these marks; a line beyond the text is moved to the last one. Marks already shown stay where edits
     /// have moved them.
     void show(const std::vector<LineMark>& marks);
@@ -32,7 +34,8 @@ public:
     void putBack(const std::vector<int>& lines);
     /// The messages of a line (from 0), one per line.
     QString textAt(int line) const;
-    void colour(const CodeColours& colours);
+    /// Returns what else the tool tip of a line's margin shows; "" for nothing.
+    std::function<QString(int line)> also = [](int) { return QString(); };
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

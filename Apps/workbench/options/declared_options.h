@@ -11,6 +11,14 @@ inline constexpr FamilyOption kCodeFont{"code/fontFamily"};
 inline constexpr NumberOption kCodeFontSize{"code/fontSize", 10, 6, 48};
 /// In characters; an indentation is as wide.
 inline constexpr NumberOption kTabWidth{"code/tabWidth", 4, 1, 16};
+/// Whether Enter keeps the indentation, and lines that end a block are indented like the one that opens it.
+inline constexpr FlagOption kAutoIndent{"code/autoIndent", true};
+/// Whether Enter writes the end of the block that a line opens.
+inline constexpr FlagOption kAutomaticEnds{"code/automaticEnds", true};
+/// Whether lines are drawn between procedures.
+inline constexpr FlagOption kProcedureLines{"code/procedureLines", true};
+/// Whether procedures and blocks can be folded.
+inline constexpr FlagOption kFolding{"code/folding", true};
 
 // ---- form designers ----
 

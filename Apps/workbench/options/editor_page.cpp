@@ -19,6 +19,10 @@ EditorPage::EditorPage()
       size_(fields_.add("&Size:", kCodeFontSize, "points")),
       tab_(fields_.add("&Tab width:", kTabWidth, "characters")),
       sample_(new CodeSample) {
+    fields_.add("Auto &indent", kAutoIndent);
+    fields_.add("&Write the ends of blocks", kAutomaticEnds);
+    fields_.add("&Procedure separators", kProcedureLines);
+    fields_.add("Foldin&g of procedures and blocks", kFolding);
     rows_->addRow(sample_);
     showSample();
 }

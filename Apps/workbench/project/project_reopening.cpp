@@ -1,5 +1,5 @@
 #include "Apps/workbench/project/project_reopening.h"
-#include "Apps/workbench/code/scintilla.h"
+#include "Apps/workbench/editing/scintilla.h"
 #include "Apps/workbench/project/project_saving.h"
 
 namespace workbench {

@@ -46,15 +46,6 @@ bool saveUnderName(const ComponentRef& component, QString folder, QWidget* windo
 
 } // namespace
 
-ProjectRef projectOf(const ComponentRef& component) {
-    ProjectRef owner;
-    (void)basic::attempt([&] { // fails for a removed component
-        for (const auto& project : component->VBE()->VBProjects()->items())
-            if (project->VBComponents() == component->Collection()) owner = project;
-    });
-    return owner;
-}
-
 void forgetChanges(const ProjectRef& project) {
     for (const auto& component : project->VBComponents()->items()) component->IsDirty(false);
     project->IsDirty(false);

@@ -1,5 +1,6 @@
 #pragma once
 // Saving with questions: for missing names, and before changes are lost.
+#include "Apps/workbench/base/component_project.h"
 #include "Host/model/host.h"
 #include <QWidget>
 #include <vector>
@@ -8,9 +9,6 @@ namespace workbench {
 
 using ProjectRef = vbide::Ref<vbide::VBProject>;
 using ComponentRef = vbide::Ref<vbide::VBComponent>;
-
-/// The project that a component belongs to; Nothing for a removed component.
-ProjectRef projectOf(const ComponentRef& component);
 
 /// Saves the project and its components and asks for missing file names. False if the user cancels. Errors as those of
 /// SaveAs.

@@ -1,4 +1,5 @@
 #include "Apps/workbench/unsaved/journal_folder.h"
+#include "Apps/workbench/base/state_folder.h"
 #include "Apps/workbench/base/text.h"
 #include "Host/files/system_error.h"
 #include <QDir>
@@ -24,10 +25,7 @@ bool stillStands(int lock, const std::string& path) {
 
 } // namespace
 
-QString journalBase() {
-    const auto state = qEnvironmentVariable("XDG_STATE_HOME");
-    return (QDir::isAbsolutePath(state) ? state : QDir::homePath() + "/.local/state") + "/fernwick/journal";
-}
+QString journalBase() { return stateFolder() + "/journal"; }
 
 std::shared_ptr<JournalFolder> JournalFolder::locked(const QString& path) {
     const auto file = text(path + "/" + kLockName);

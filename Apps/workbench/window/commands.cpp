@@ -1,9 +1,10 @@
 #include "Apps/workbench/window/commands.h"
-#include "Apps/workbench/code/code_lines.h"
-#include "Apps/workbench/code/scintilla.h"
 #include "Apps/workbench/designer/control_clipboard.h"
 #include "Apps/workbench/designer/form_canvas.h"
 #include "Apps/workbench/designer/form_commands.h"
+#include "Apps/workbench/editing/code_lines.h"
+#include "Apps/workbench/editing/fold_levels.h"
+#include "Apps/workbench/editing/scintilla.h"
 #include "Apps/workbench/project/component_commands.h"
 #include "Apps/workbench/project/project_properties.h"
 #include "Apps/workbench/project/project_saving.h"
@@ -22,6 +23,10 @@ constexpr QKeyCombination kNoKey{};
 QsciScintilla& textOf(const CommandTargets& on) { return on.window.code().current()->scintilla(); }
 
 CodeCommands& actions(const CommandTargets& on) { return on.window.codeCommands(); }
+
+CodePanes& panes(const CommandTargets& on) { return on.window.code().current()->panes(); }
+
+MarkCommands& marks(const CommandTargets& on) { return on.window.markCommands(); }
 
 /// The component that the user works on.
 ComponentRef inHand(const CommandTargets& on) { return on.window.design().inHand(); }
@@ -107,6 +112,30 @@ const Command kEditCommands[] = {
      [](auto& on) { actions(on).goToProcedure(true); }},
     {kGoToLineId, "&Go to Line...", Qt::CTRL | Qt::Key_G, kInEditor,
      [](auto& on) { actions(on).askForLine(&on.window); }},
+    {kBookmarksMenuId, "&Bookmarks"},
+};
+
+const Command kBookmarkCommands[] = {
+    {kToggleBookmarkId, "&Toggle Bookmark", Qt::CTRL | Qt::SHIFT | Qt::Key_B, kInCode,
+     [](auto& on) { marks(on).toggleBookmark(); }},
+    {kNextBookmarkId, "&Next Bookmark", Qt::CTRL | Qt::SHIFT | Qt::Key_N, kInCode,
+     [](auto& on) { marks(on).goToBookmark(false); }},
+    {kPreviousBookmarkId, "&Previous Bookmark", Qt::CTRL | Qt::SHIFT | Qt::Key_P, kInCode,
+     [](auto& on) { marks(on).goToBookmark(true); }},
+    {kClearBookmarksId, "&Clear All Bookmarks", kNoKey, kInCode, [](auto& on) { marks(on).clearBookmarks(); }},
+};
+
+const Command kFoldingCommands[] = {
+    {kToggleFoldId, "&Fold or Unfold", Qt::CTRL | Qt::SHIFT | Qt::Key_O, kInEditor,
+     [](auto& on) { toggleFold(textOf(on)); }},
+    {kFoldProceduresId, "Fold All &Procedures", kNoKey, kInEditor, [](auto& on) { foldProcedures(textOf(on)); }},
+    {kUnfoldAllId, "&Unfold All", kNoKey, kInEditor, [](auto& on) { unfoldAll(textOf(on)); }},
+};
+
+const Command kDebugCommands[] = {
+    {kToggleBreakpointId, "&Toggle Breakpoint", Qt::Key_F9, kInCode, [](auto& on) { marks(on).toggleBreakpoint(); }},
+    {kClearBreakpointsId, "&Clear All Breakpoints", Qt::CTRL | Qt::SHIFT | Qt::Key_F9, kInCode,
+     [](auto& on) { marks(on).clearBreakpoints(); }},
 };
 
 // the commands that show docks are added before the toolbars
@@ -118,6 +147,7 @@ const Command kViewCommands[] = {
      [](auto& on) { actions(on).showLastPosition(); }},
     {kGroup},
     {kToolBarsMenuId, "&Toolbars"},
+    {kFoldingMenuId, "&Folding"},
     {kGroup},
     {kZoomInId, "Zoom &In", Qt::CTRL | Qt::Key_Plus, kInCode, [](auto& on) { on.window.code().zoomBy(+1); },
      Qt::CTRL | Qt::Key_Equal},
@@ -228,6 +258,16 @@ const Command kToolsCommands[] = {
 };
 
 const Command kWindowCommands[] = {
+    {kSplitId,
+     "&Split",
+     Qt::CTRL | Qt::SHIFT | Qt::Key_D,
+     kInCode,
+     [](auto& on) { panes(on).setSplit(!panes(on).isSplit()); },
+     {},
+     [](auto& on) { return panes(on).isSplit(); }},
+    {kOtherPaneId, "&Other Pane", Qt::CTRL | Qt::SHIFT | Qt::Key_E, kInCode,
+     [](auto& on) { panes(on).showOtherPane(); }},
+    {kGroup},
     {kNextWindowId, "&Next Window", Qt::CTRL | Qt::Key_F6, kAlways, [](auto& on) { on.window.code().step(1); }},
     {kPreviousWindowId, "&Previous Window", Qt::CTRL | Qt::SHIFT | Qt::Key_F6, kAlways,
      [](auto& on) { on.window.code().step(-1); }},
@@ -251,13 +291,23 @@ const DockCommand kDockCommands[] = {
 };
 
 const CommandMenu kCommandMenus[] = {
-    {host::kFileMenuId, kFileCommands},     {host::kEditMenuId, kEditCommands},
-    {host::kViewMenuId, kViewCommands},     {host::kProjectMenuId, kProjectCommands},
-    {kFormatMenuId, kFormatCommands},       {kAlignMenuId, kAlignCommands},
-    {kSameSizeMenuId, kSameSizeCommands},   {kSpaceAcrossMenuId, kSpaceAcrossCommands},
-    {kSpaceDownMenuId, kSpaceDownCommands}, {kCentreMenuId, kCentreCommands},
-    {kOrderMenuId, kOrderCommands},         {kRunMenuId, kRunCommands},
-    {kToolsMenuId, kToolsCommands},         {kWindowMenuId, kWindowCommands},
+    {host::kFileMenuId, kFileCommands},
+    {host::kEditMenuId, kEditCommands},
+    {kBookmarksMenuId, kBookmarkCommands},
+    {host::kViewMenuId, kViewCommands},
+    {kFoldingMenuId, kFoldingCommands},
+    {host::kProjectMenuId, kProjectCommands},
+    {kFormatMenuId, kFormatCommands},
+    {kAlignMenuId, kAlignCommands},
+    {kSameSizeMenuId, kSameSizeCommands},
+    {kSpaceAcrossMenuId, kSpaceAcrossCommands},
+    {kSpaceDownMenuId, kSpaceDownCommands},
+    {kCentreMenuId, kCentreCommands},
+    {kOrderMenuId, kOrderCommands},
+    {kDebugMenuId, kDebugCommands},
+    {kRunMenuId, kRunCommands},
+    {kToolsMenuId, kToolsCommands},
+    {kWindowMenuId, kWindowCommands},
     {host::kHelpMenuId, kHelpCommands},
 };
 

@@ -1,7 +1,7 @@
 #include "Apps/workbench/window/context_menus.h"
 #include "Apps/workbench/bars/bar_controls.h"
 #include "Apps/workbench/base/text.h"
-#include "Apps/workbench/code/scintilla.h"
+#include "Apps/workbench/editing/scintilla.h"
 #include "Apps/workbench/window/command_keys.h"
 #include "Apps/workbench/window/commands.h"
 #include <QMenu>
@@ -68,11 +68,11 @@ void showExplorerMenu(host::Host& host, ProjectExplorer& explorer, const Run& ru
     menu.exec(explorer.viewport()->mapToGlobal(at));
 }
 
-void showEditorMenu(host::Host& host, const CodeEditor& editor, const Run& run, const QPoint& at) {
+void showEditorMenu(host::Host& host, const QWidget& pane, const Run& run, const QPoint& at) {
     QMenu menu;
     menu.setObjectName("editorMenu");
     fillFrom(menu, host, kOfEditor, run);
-    menu.exec(editor.scintilla().mapToGlobal(at));
+    menu.exec(pane.mapToGlobal(at));
 }
 
 /// Returns at once, as the place may have been clicked in another window, which waits for the answer.
@@ -94,9 +94,11 @@ void addExplorerMenu(host::Host& host, ProjectExplorer& explorer, Run run) {
 
 void addEditorMenu(host::Host& host, CodeWindows& windows, Run run) {
     windows.made = [&host, run](CodeEditor& editor) {
-        editor.scintilla().setContextMenuPolicy(Qt::CustomContextMenu);
-        QObject::connect(&editor.scintilla(), &QWidget::customContextMenuRequested, &editor,
-                         [&host, &editor, run](const QPoint& at) { showEditorMenu(host, editor, run, at); });
+        editor.panes().each([&host, &editor, run](CodeInput& pane) {
+            pane.setContextMenuPolicy(Qt::CustomContextMenu);
+            QObject::connect(&pane, &QWidget::customContextMenuRequested, &editor,
+                             [&host, &pane, run](const QPoint& at) { showEditorMenu(host, pane, run, at); });
+        });
     };
 }
 

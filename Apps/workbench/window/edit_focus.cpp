@@ -1,9 +1,9 @@
 #include "Apps/workbench/window/edit_focus.h"
-#include "Apps/workbench/code/scintilla.h"
 #include "Apps/workbench/designer/control_clipboard.h"
 #include "Apps/workbench/designer/design_desk.h"
 #include "Apps/workbench/designer/form_canvas.h"
 #include "Apps/workbench/designer/form_commands.h"
+#include "Apps/workbench/editing/scintilla.h"
 #include "Apps/workbench/zoom/zoom_view.h"
 #include <QAbstractSpinBox>
 #include <QApplication>
@@ -35,6 +35,7 @@ EditFocus::EditFocus(CodeWindows& code, DesignDesk& design)
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { follow(now); });
     connect(&code, &QTabWidget::currentChanged, this, [this] { changed(); });
     connect(QApplication::clipboard(), &QClipboard::dataChanged, this, [this] { changed(); });
+    code.splitChanged = [this] { changed(); };
     selection_ = design.selectionChanged.connect([this] { changed(); });
 }
 

@@ -34,6 +34,7 @@ MainWindow::MainWindow(host::Host& host, DesktopWindows& windows, Run run, MayCl
       findBar_(new FindBar(*code_, run_)),
       notice_(new NoticeBar),
       codeCommands_(*code_, *notice_),
+      markCommands_(*code_, *notice_, run_),
       docks_(host, *this, *code_, windows, run_),
       explorer_(new ProjectExplorer(host.shared_from_this(),
                                     {[this](auto project) { run_([&] { host_.ActiveVBProject(project); }); },

@@ -4,6 +4,7 @@
 #include "Apps/workbench/base/notice_bar.h"
 #include "Apps/workbench/code/code_commands.h"
 #include "Apps/workbench/code/find_bar.h"
+#include "Apps/workbench/code/mark_commands.h"
 #include "Apps/workbench/designer/design_desk.h"
 #include "Apps/workbench/project/project_explorer.h"
 #include "Apps/workbench/window/docks.h"
@@ -25,6 +26,7 @@ public:
     FindBar& findBar() { return *findBar_; }
     NoticeBar& notice() { return *notice_; }
     CodeCommands& codeCommands() { return codeCommands_; }
+    MarkCommands& markCommands() { return markCommands_; }
     ProjectExplorer& explorer() { return *explorer_; }
     /// Form views and the properties window.
     DesignDesk& design() { return *design_; }
@@ -65,6 +67,7 @@ private:
     FindBar* findBar_;
     NoticeBar* notice_;
     CodeCommands codeCommands_;
+    MarkCommands markCommands_;
     Docks docks_;
     ProjectExplorer* explorer_;
     QDockWidget* explorerDock_;

@@ -112,6 +112,7 @@ void addStandardToolbar(host::Host& host) {
 void addMenus(const CommandTargets& targets) {
     auto& host = targets.host;
     addTopMenu(host, kFormatMenuId, "F&ormat", host::kAddInsMenuId);
+    addTopMenu(host, kDebugMenuId, "&Debug", host::kAddInsMenuId);
     addTopMenu(host, kRunMenuId, "&Run", host::kAddInsMenuId);
     addTopMenu(host, kToolsMenuId, "&Tools", host::kAddInsMenuId);
     addTopMenu(host, kWindowMenuId, "&Window", host::kHelpMenuId);

@@ -1,8 +1,8 @@
 #include "Apps/workbench/window/place_status.h"
 #include "Apps/workbench/code/code_windows.h"
-#include "Apps/workbench/code/scintilla.h"
 #include "Apps/workbench/designer/design_desk.h"
 #include "Apps/workbench/designer/selected_place.h"
+#include "Apps/workbench/editing/scintilla.h"
 #include <QLabel>
 #include <QStatusBar>
 
@@ -38,9 +38,8 @@ PlaceStatus::PlaceStatus(QStatusBar& bar, CodeWindows& code, DesignDesk& design)
 }
 
 void PlaceStatus::follow() {
-    disconnect(caret_);
-    if (auto* const editor = code_.current())
-        caret_ = connect(&editor->scintilla(), &QsciScintilla::cursorPositionChanged, this, [this] { show(); });
+    caret_ = {};
+    if (auto* const editor = code_.current()) caret_ = editor->cursorMoved.connect([this] { show(); });
     show();
 }
 

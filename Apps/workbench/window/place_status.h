@@ -26,7 +26,7 @@ private:
     DesignDesk& design_;
     QLabel *place_, *size_;
     /// To the caret of the editor in front.
-    QMetaObject::Connection caret_;
+    fernwick::Subscription caret_;
     fernwick::Subscription selection_, drag_;
 };
 

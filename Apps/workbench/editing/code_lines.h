@@ -10,6 +10,8 @@ namespace workbench {
 /// A line (from 0) without its line end.
 QString lineText(const QsciScintilla& editor, int line);
 void replaceLine(QsciScintilla& editor, int line, const QString& now);
+/// Makes this the whole text, but replaces only the lines between the first and the last one that differ.
+void replaceDifferences(QsciScintilla& editor, const QString& text);
 /// The first line of the selection, or the cursor's if nothing is selected.
 int currentLine(const QsciScintilla& editor);
 

@@ -1,4 +1,5 @@
-#include "Apps/workbench/code/code_input.h"
+#include "Apps/workbench/editing/code_input.h"
+#include "Apps/workbench/editing/block_typing.h"
 #include <QDragEnterEvent>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
@@ -19,6 +20,7 @@ bool isChord(const QKeyEvent& event) {
 void CodeInput::keyPressEvent(QKeyEvent* event) {
     const QScopedValueRollback within(typing_, true);
     if (isChord(*event)) return pressWithoutText(*event);
+    if (pressEnter(*event)) return;
     const auto typed = event->text();
     if (typed.isEmpty() || !typed[0].isPrint() || accepts_(typed)) QsciScintilla::keyPressEvent(event);
 }
@@ -28,6 +30,15 @@ void CodeInput::pressWithoutText(QKeyEvent& event) {
     QKeyEvent bare(event.type(), event.key(), event.modifiers(), QString(), event.isAutoRepeat());
     QsciScintilla::keyPressEvent(&bare);
     event.setAccepted(bare.isAccepted());
+}
+
+bool CodeInput::pressEnter(const QKeyEvent& event) {
+    if (event.key() != Qt::Key_Return && event.key() != Qt::Key_Enter) return false;
+    beginUndoAction();
+    lineEnds();
+    const bool entered = enterLine(*this);
+    endUndoAction();
+    return entered;
 }
 
 void CodeInput::inputMethodEvent(QInputMethodEvent* event) {

@@ -1,6 +1,6 @@
 #pragma once
 // Syntax highlighting of Visual Basic.
-#include "Apps/workbench/code/scintilla.h"
+#include "Apps/workbench/editing/scintilla.h"
 #include "Apps/workbench/options/code_look.h"
 
 namespace workbench {

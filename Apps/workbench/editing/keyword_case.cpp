@@ -1,5 +1,5 @@
-#include "Apps/workbench/code/keyword_case.h"
-#include "Apps/workbench/code/name_part.h"
+#include "Apps/workbench/editing/keyword_case.h"
+#include "Apps/workbench/editing/name_part.h"
 #include "Basic/vb_words.h"
 #include <QHash>
 

@@ -1,5 +1,6 @@
-#include "Apps/workbench/code/code_lines.h"
-#include "Apps/workbench/code/scintilla.h"
+#include "Apps/workbench/editing/code_lines.h"
+#include "Apps/workbench/editing/scintilla.h"
+#include <algorithm>
 #include <functional>
 
 namespace workbench {
@@ -50,6 +51,24 @@ void replaceLine(QsciScintilla& editor, int line, const QString& now) {
     editor.SendScintilla(QsciScintillaBase::SCI_SETTARGETSTART, start);
     editor.SendScintilla(QsciScintillaBase::SCI_SETTARGETEND, start + length);
     editor.SendScintilla(QsciScintillaBase::SCI_REPLACETARGET, std::size_t(bytes.size()), bytes.constData());
+}
+
+void replaceDifferences(QsciScintilla& editor, const QString& text) {
+    const auto before = editor.text().toUtf8(), now = text.toUtf8();
+    const auto shorter = std::min(before.size(), now.size());
+    qsizetype first = 0, same = 0;
+    while (first < shorter && before[first] == now[first]) ++first;
+    while (first > 0 && before[first - 1] != '\n') --first; // whole lines, and whole characters
+    while (same < shorter - first && before[before.size() - same - 1] == now[now.size() - same - 1]) ++same;
+    const auto endsLine = [first](const QByteArray& text, qsizetype end) {
+        return end == first || text[end - 1] == '\n';
+    };
+    while (same > 0 && !(endsLine(before, before.size() - same) && endsLine(now, now.size() - same))) --same;
+    if (before == now) return;
+    editor.SendScintilla(QsciScintillaBase::SCI_SETTARGETSTART, (unsigned long)first);
+    editor.SendScintilla(QsciScintillaBase::SCI_SETTARGETEND, (unsigned long)(before.size() - same));
+    const auto part = now.mid(first, now.size() - same - first);
+    editor.SendScintilla(QsciScintillaBase::SCI_REPLACETARGET, std::size_t(part.size()), part.constData());
 }
 
 int currentLine(const QsciScintilla& editor) {

@@ -1,4 +1,4 @@
-#include "Apps/workbench/code/vb_lexer.h"
+#include "Apps/workbench/editing/vb_lexer.h"
 #include "Basic/vb_words.h"
 #include <array>
 

@@ -1,5 +1,5 @@
 #pragma once
-#include "Apps/workbench/code/keyword_case.h"
+#include "Apps/workbench/editing/keyword_case.h"
 #include <QObject>
 #include <vector>
 
@@ -7,8 +7,8 @@ class QsciScintilla;
 
 namespace workbench {
 
-/// The line in which the user types. When the cursor leaves it, its keywords and names get their proper case, as a
-/// separate undo step.
+/// The line in which the user types. When the cursor leaves it, its keywords and names get their proper case, and a line
+/// that was typed whole and ends a block is indented like the one that opens it. This is a separate undo step.
 class TypedLine final : public QObject {
 public:
     /// The names that can be used in a line.
@@ -20,18 +20,24 @@ public:
     /// Called after each edit with the line (from 0) in which the user typed, or -1 for any other edit. Lines that are
     /// added or removed, and edits elsewhere, end the typing.
     void typed(int line, int linesAdded);
+    /// Corrects the line before the cursor leaves it. The cursor stays at its character.
+    void finish();
     void forget();
 
 private:
+    struct Left {
+        int line = -1;        ///< -1 for none
+        bool isWhole = false; ///< it was blank before
+    };
     void leaveSoon();
     void leave();
-    void correct(int line);
+    void correct(const Left& left);
 
     QsciScintilla& text_;
     NamesAt namesAt_;
-    int line_ = -1; ///< -1 for none
+    Left now_;
     /// Lines that were left for another one, as by automatic indentation after Enter.
-    std::vector<int> left_;
+    std::vector<Left> left_;
 };
 
 } // namespace workbench

@@ -1,0 +1,60 @@
+#include "Apps/workbench/marks/breakpoint_file.h"
+#include "Apps/workbench/base/state_folder.h"
+#include "Apps/workbench/base/text.h"
+#include "Host/files/atomic_save.h"
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFile>
+
+namespace workbench {
+
+namespace {
+
+/// The first line, in which a later format will differ.
+constexpr auto kHeader = "Fernwick breakpoints 1";
+constexpr qsizetype kMostBytes = 1'000'000;
+constexpr int kMostLines = 10'000'000;
+
+QString folder() { return stateFolder() + "/breakpoints"; }
+
+QString fileOf(const QString& project) {
+    const auto hash = QCryptographicHash::hash(project.toUtf8(), QCryptographicHash::Sha256).toHex().left(32);
+    return folder() + "/" + QString::fromLatin1(hash);
+}
+
+} // namespace
+
+Breakpoints readBreakpoints(const QString& project) {
+    Breakpoints found;
+    QFile file(fileOf(project));
+    if (!file.open(QIODevice::ReadOnly) || file.size() > kMostBytes) return found;
+    const auto lines = QString::fromUtf8(file.readAll()).split('\n');
+    if (lines.size() < 2 || lines[0] != kHeader || lines[1] != project) return found;
+    for (const auto& line : lines.mid(2)) {
+        const auto fields = line.split('\t');
+        bool isNumber = false;
+        const int number = fields.size() < 3 ? 0 : fields[1].toInt(&isNumber);
+        if (isNumber && number > 0 && number < kMostLines)
+            found[fields[0]].push_back({number - 1, fields.mid(2).join('\t')});
+    }
+    return found;
+}
+
+void writeBreakpoints(const QString& project, const Breakpoints& breakpoints) {
+    auto whole = QString("%1\n%2\n").arg(kHeader, project);
+    bool any = false;
+    for (const auto& [component, marks] : breakpoints)
+        for (const auto& mark : marks) {
+            whole += QString("%1\t%2\t%3\n").arg(component).arg(mark.line + 1).arg(mark.text);
+            any = true;
+        }
+    const auto path = fileOf(project);
+    if (!any) {
+        QFile::remove(path);
+        return;
+    }
+    QDir().mkpath(folder());
+    host::atomicSave(text(path), text(whole));
+}
+
+} // namespace workbench
