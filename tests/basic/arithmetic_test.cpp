@@ -141,6 +141,8 @@ TEST(ArithmeticOfCurrency, ProductsAreRoundedHalfToEven) {
         {kLeast, 5000, kLeast / 2, 0},
         {3037000499, 10000, 3037000499, 0},
         {99999999999, 123456789, 1234567889987654, 0},
+        {4294967295, 8589934592000, 3689348813882916864, 0},
+        {8589934592000, 4294967295, 3689348813882916864, 0},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(testing::Message() << row.a << " and " << row.b);
