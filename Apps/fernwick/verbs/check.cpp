@@ -22,6 +22,7 @@
 #include <memory>
 #include <optional>
 #include <set>
+#include <thread>
 #include <tuple>
 
 namespace cli {
@@ -132,6 +133,7 @@ void checkProject(const ProjectToCheck& project, apps::DescribedLibraries& libra
     const auto sources = readSources(project, report);
     qltoolkit::ProgramOptions program;
     program.projectName = project.name;
+    program.threads = std::max(1U, std::thread::hardware_concurrency());
     program.warnsOptionally = options.warnsOptionally;
     program.isIncomplete = sources.size() < project.sources.size();
     for (const auto& guid : project.libraries) {

@@ -12,6 +12,8 @@ Shared StyledButton
   Property UseMaskColor As Boolean
 
 Class Control open ' Any control
+  Property TabIndex As Integer
+  Property TabStop As Boolean
 
 Class CommandButton control absent "Use QLButton"
   Event Click

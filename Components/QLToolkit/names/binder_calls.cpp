@@ -196,7 +196,9 @@ void Binder::argument(const Argument& given, const ParameterInfo& parameter) {
         const bool fits = operand.type.isArray &&
                           (operand.type.value == wanted.value || wanted.value == ValueType::Variant) &&
                           (operand.type.value != ValueType::Record || operand.type.id == wanted.id);
-        if (!fits) report(Message::TypeMismatch, operand.pos);
+        // What a function returns may hold an array.
+        const bool mayFit = operand.type == Type{ValueType::Variant} && operand.kind != OperandKind::Variable;
+        if (!fits && !mayFit) report(Message::TypeMismatch, operand.pos);
         return;
     }
     if (!parameter.byVal && !given.byVal && operand.kind == OperandKind::Variable &&
@@ -205,20 +207,11 @@ void Binder::argument(const Argument& given, const ParameterInfo& parameter) {
     if (!fitsTo(operand, wanted)) report(Message::TypeMismatch, operand.pos);
 }
 
-// A variable is passed by its address, so its type must be the parameter's own, except for objects, for texts of a fixed
-// length, which are copied there and back, and for Variants, which take everything.
 void Binder::argumentByRef(const Operand& given, const ParameterInfo& parameter) {
-    const Type& wanted = parameter.type;
-    const Type& type = given.type;
-    if (type.value == ValueType::Record && wanted.value == ValueType::Variant)
+    if (given.type.value == ValueType::Record && parameter.type.value == ValueType::Variant)
         return report(Message::RecordToVariant, given.pos);
-    if (wanted.value == ValueType::Variant) return;
-    if (parameter.isOfDeclare && type.value == ValueType::Variant) return; // its value is copied there and back
-    const bool isText = type.value == ValueType::FixedString && wanted.value == ValueType::String;
-    const bool isSame =
-        !type.isArray && type.value == wanted.value && (type.value != ValueType::Record || type.id == wanted.id);
-    if (isSame || isText) return;
-    reportName(Message::ByRefMismatch, given.pos);
+    if (parameter.isOfDeclare && given.type.value == ValueType::Variant) return; // its value is copied there and back
+    if (byRefOf(given.type, parameter.type) == ByRef::Never) reportName(Message::ByRefMismatch, given.pos);
 }
 
 bool Binder::fitsTo(const Operand& value, const Type& wanted) {

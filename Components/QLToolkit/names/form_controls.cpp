@@ -78,10 +78,18 @@ private:
         for (const auto& property : control.properties) {
             const auto& name = property.name.str();
             if (name.starts_with('_') || name.find('.') != name.npos) continue;
-            if (scope.find(program_.symbols.intern(name))) continue;
+            const Symbol symbol = program_.symbols.intern(name);
+            if (scope.find(symbol) || isOfContainer(symbol)) continue;
             module_.diagnostics.report(Message::PropertyUnknown,
                                        placeInHeader(module_.tree.source, control.name.str(), name), name);
         }
+    }
+
+    /// A form gives each of its controls a name, a place and the like.
+    bool isOfContainer(Symbol property) {
+        const Entity* any =
+            findType(program_, *module_.scope, program_.symbols.intern("VB"), program_.symbols.intern("Control"));
+        return any && any->inner->find(property);
     }
 
     Type classOf(const image::Control& control) {

@@ -28,15 +28,21 @@ const Entity* qualifiedType(const Program& program, Symbol qualifier, Symbol nam
     return program.publicTypes.find(name);
 }
 
+/// Such a name is a type only, so a variable may have it too.
+bool isClassWithoutObject(const Entity& entity) {
+    return entity.kind == EntityKind::Module && entity.inner->isClass() && !entity.inner->predeclared;
+}
+
 } // namespace
 
 FoundName findName(const Program& program, const Scope& module, Symbol name) {
     if (Entity* found = module.find(name)) return {found};
-    if (Entity* found = program.topNames.find(name)) return {found};
+    Entity* const top = program.topNames.find(name);
+    if (top && !isClassWithoutObject(*top)) return {top};
     if (Entity* found = program.publicNames.find(name)) return {found, program.ambiguous.find(name) != nullptr};
     for (const auto* library : program.libraries)
         if (Entity* found = library->names.find(name)) return {found};
-    return {};
+    return {top};
 }
 
 const Entity* findType(const Program& program, const Scope& module, Symbol library, Symbol name) {
