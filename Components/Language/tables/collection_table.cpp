@@ -10,6 +10,10 @@ Class Collection creatable ' A list of items with positions from 1 and optional 
   Sub Remove(Index) ' Removes the item with a position or key
   Function [_NewEnum]() As Unknown enumerates hidden
 
+Class DebugObject ' The immediate window
+  Sub Assert(BooleanCheck As Boolean) ' Stops where a condition is False
+  Sub Print(ParamArray Items()) ' Writes texts
+
 Class ErrObject ' The last error
   Sub Clear() ' Forgets the error
   Property Description As String ' The text of the error
