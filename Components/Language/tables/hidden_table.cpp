@@ -10,7 +10,7 @@ Module [_HiddenModule]
   Function InputB(Number As Long, FileNumber As Integer) ' Bytes from a file
   Function InputB$(Number As Long, FileNumber As Integer) As String ' Bytes from a file
   Property Debug As DebugObject readonly ' The immediate window
-  Function ObjPtr(Ptr As Unknown) As Long hidden ' A number that identifies an object
+  Function ObjPtr(Ptr As Object) As Long hidden ' A number that identifies an object
   Function Spc(Count As Integer) hidden ' Blanks in Print
   Function StrPtr(Ptr As String) As Long hidden ' A number that identifies a text; 0 for vbNullString
   Function Tab(Optional Column As Integer) hidden ' A column in Print
