@@ -1,29 +1,11 @@
 #include "Components/Language/library.h"
 #include "tests/language_library/lookup.h"
+#include "tests/language_library/tsv.h"
 #include <cctype>
-#include <fstream>
+#include <charconv>
 #include <gtest/gtest.h>
-#include <sstream>
 
 namespace {
-
-struct Row {
-    std::string member, parameters, result, source;
-};
-
-std::vector<Row> rows() {
-    std::ifstream file(FERNWICK_SOURCE_DIR "/tests/language_library/data/signatures.tsv");
-    std::vector<Row> rows;
-    std::string line;
-    std::getline(file, line); // the head
-    while (std::getline(file, line)) {
-        std::istringstream fields(line);
-        Row row;
-        for (auto* field : {&row.member, &row.parameters, &row.result, &row.source}) std::getline(fields, *field, '\t');
-        rows.push_back(row);
-    }
-    return rows;
-}
 
 std::string parametersOf(const language::Member& member) {
     std::string text;
@@ -53,15 +35,47 @@ const language::Member* find(const std::string& name) {
     return nullptr;
 }
 
+const language::Member* findConstant(const std::string& name) {
+    const auto lower = [](std::string text) {
+        for (auto& c : text) c = char(std::tolower(static_cast<unsigned char>(c)));
+        return text;
+    };
+    for (const auto* library : language::builtInLibraries())
+        for (const auto& group : library->groups)
+            for (const auto& member : group.members)
+                if (member.kind == language::MemberKind::Constant && lower(member.name) == lower(name)) return &member;
+    return nullptr;
+}
+
+/// Hexadecimal digits are a Long by their bits.
+long valueOf(std::string_view text) {
+    const bool hex = text.starts_with("&H");
+    if (hex) text.remove_prefix(2);
+    long long value = 0;
+    std::from_chars(text.data(), text.data() + text.size(), value, hex ? 16 : 10);
+    return std::int32_t(std::uint32_t(value));
+}
+
 TEST(Signatures, AreThoseOfThePublicDocumentation) {
-    const auto expected = rows();
-    EXPECT_GE(expected.size(), 90U);
-    for (const auto& row : expected) {
-        const auto* member = find(row.member);
-        ASSERT_TRUE(member) << row.member;
-        EXPECT_EQ(parametersOf(*member), row.parameters) << row.member << ", " << row.source;
-        EXPECT_EQ(resultOf(*member), row.result) << row.member << ", " << row.source;
-        EXPECT_FALSE(row.source.empty()) << row.member;
+    const auto rows = tsv::rows("signatures.tsv");
+    EXPECT_GE(rows.size(), 90U);
+    for (const auto& row : rows) {
+        ASSERT_EQ(row.size(), 4U);
+        const auto* member = find(row[0]);
+        ASSERT_TRUE(member) << row[0];
+        EXPECT_EQ(parametersOf(*member), row[1]) << row[0] << ", " << row[3];
+        EXPECT_EQ(resultOf(*member), row[2]) << row[0] << ", " << row[3];
+    }
+}
+
+TEST(Constants, HaveTheValuesOfThePublicDocumentation) {
+    const auto rows = tsv::rows("constants.tsv");
+    EXPECT_GE(rows.size(), 220U);
+    for (const auto& row : rows) {
+        ASSERT_EQ(row.size(), 3U);
+        const auto* member = findConstant(row[0]);
+        ASSERT_TRUE(member) << row[0] << ", " << row[2];
+        EXPECT_EQ(std::to_string(valueOf(member->value)), row[1]) << row[0] << ", " << row[2];
     }
 }
 

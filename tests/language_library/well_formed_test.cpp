@@ -22,8 +22,8 @@ std::string lower(std::string text) {
 }
 
 std::set<std::string> knownTypes() {
-    std::set<std::string> types{"",         "Boolean", "Byte",   "Integer", "Long",    "Single", "Double",
-                                "Currency", "Date",    "String", "Object",  "Unknown", "Any"};
+    std::set<std::string> types{"",       "Boolean",  "Byte", "Integer", "Long",   "Single",
+                                "Double", "Currency", "Date", "String",  "Object", "Any"};
     for (const auto* library : language::builtInLibraries())
         for (const auto& group : library->groups)
             if (group.kind != GroupKind::Module) types.insert(group.name);

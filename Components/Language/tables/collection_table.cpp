@@ -8,7 +8,11 @@ Class Collection creatable ' A list of items with positions from 1 and optional 
   Function Count() As Long ' The number of items
   Function Item(Index) default ' The item with a position or key
   Sub Remove(Index) ' Removes the item with a position or key
-  Function [_NewEnum]() As Unknown enumerates hidden
+  Function [_NewEnum]() As IUnknown enumerates hidden
+
+Class DebugObject ' The immediate window
+  Sub Assert(BooleanCheck As Boolean) ' Stops where a condition is False
+  Sub Print(ParamArray Items()) ' Writes texts
 
 Class ErrObject ' The last error
   Sub Clear() ' Forgets the error

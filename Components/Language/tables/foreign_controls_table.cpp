@@ -67,6 +67,14 @@ Shared UpDown
   Event UpClick
   Include DragEvents FocusEvents MouseEvents OleEvents ValidateEvent
 
+Shared DTPicker
+  Event Change
+  Event Click
+  Event CloseUp
+  Event DblClick
+  Event DropDown
+  Include ValidatedInput
+
 Library MSComctlLib guid "{831FDD16-0C5C-11D2-A9FC-0000F8754DA1}" absent "Use the Tavlets that its controls name: devices have no other controls" ' Common controls, version 6
 Class TabStrip control open absent "Use QLTabStrip: it has Change instead of Click"
   Include TabStrip
@@ -122,19 +130,18 @@ Class UpDown control open absent "Use QLVScrollBar: it changes a value by steps 
   Include UpDown
 Class MonthView control open absent "Use QLGrid: show a week in each row"
 Class DTPicker control open absent "Use QLTextBox: check the text with IsDate"
-  Event Change
-  Event Click
-  Event CloseUp
-  Event DblClick
-  Event DropDown
-  Include ValidatedInput
+  Include DTPicker
 Class FlatScrollBar control open absent "Use QLHScrollBar or QLVScrollBar: devices have one look of scroll bars"
 Class DataObject open
 
 Library ComCtl2 guid "{FE0065C0-1B7B-11CF-9D53-00AA003C9CB6}" absent "Use the Tavlets that its controls name: devices have no other controls" ' Common controls, second library of version 5
+Class Animation control open absent "Use QLMovie: it plays the animation formats of devices"
 Class UpDown control open absent "Use QLVScrollBar: it changes a value by steps too"
   Include UpDown
-Class Animation control open absent "Use QLMovie: it plays the animation formats of devices"
+Class MonthView control open absent "Use QLGrid: show a week in each row"
+Class DTPicker control open absent "Use QLTextBox: check the text with IsDate"
+  Include DTPicker
+Class FlatScrollBar control open absent "Use QLHScrollBar or QLVScrollBar: devices have one look of scroll bars"
 Class DataObject open
 
 Library ComCtl3 guid "{38911DA0-E448-11D0-84A3-00DD01104159}" absent "Use the Tavlets that its controls name: devices have no other controls" ' Cool bar

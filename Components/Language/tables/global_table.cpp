@@ -77,26 +77,26 @@ Class Forms
   Property Count As Integer readonly
   Function Add(FormName As String) As Object
   Function Item(Index) As Form default
-  Function [_NewEnum]() As Unknown enumerates hidden
+  Function [_NewEnum]() As IUnknown enumerates hidden
 
 Class Controls
   Property Count As Integer readonly
   Function Add(ProgID As String, Name As String, Optional Container) As Control absent "Load a control of an array instead"
   Function Item(Index) As Control default
   Sub Remove(Name) absent "Unload a control of an array instead"
-  Function [_NewEnum]() As Unknown enumerates hidden
+  Function [_NewEnum]() As IUnknown enumerates hidden
 
 Class ControlArray ' The controls of a form that share a name
   Property Count As Integer readonly
   Property LBound As Integer readonly ' The lowest index
   Property UBound As Integer readonly ' The highest index
   Function Item(Index As Integer) As Control default
-  Function [_NewEnum]() As Unknown enumerates hidden
+  Function [_NewEnum]() As IUnknown enumerates hidden
 
 Class Printers absent "Devices have no printer; send the data with a QLSerial, QLInfrared or QLNetwork"
   Property Count As Integer readonly
   Function Item(Index As Long) As Printer default
-  Function [_NewEnum]() As Unknown enumerates hidden
+  Function [_NewEnum]() As IUnknown enumerates hidden
 
 Class Printer absent "Devices have no printer; send the data with a QLSerial, QLInfrared or QLNetwork"
   Include Drawing Font

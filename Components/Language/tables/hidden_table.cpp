@@ -9,8 +9,11 @@ Module [_HiddenModule]
   Function Input$(Number As Long, FileNumber As Integer) As String ' Characters from a file
   Function InputB(Number As Long, FileNumber As Integer) ' Bytes from a file
   Function InputB$(Number As Long, FileNumber As Integer) As String ' Bytes from a file
-  Function ObjPtr(Ptr As Unknown) As Long hidden ' A number that identifies an object
+  Property Debug As DebugObject readonly ' The immediate window
+  Function ObjPtr(Ptr As Object) As Long hidden ' A number that identifies an object
+  Function Spc(Count As Integer) hidden ' Blanks in Print
   Function StrPtr(Ptr As String) As Long hidden ' A number that identifies a text; 0 for vbNullString
+  Function Tab(Optional Column As Integer) hidden ' A column in Print
   Function VarPtr(Ptr As Any) As Long hidden ' A number that identifies a variable
   Property Debug As Debug readonly hidden ' The output of a program that is being tested
   Sub Width(FileNumber As Integer, Width As Integer) hidden ' The longest line of a file

@@ -23,7 +23,7 @@ Class DataObjectFiles absent "Devices have no drag and drop; use the Clipboard"
   Sub Add(FileName As String, Optional Index)
   Sub Clear()
   Sub Remove(Index)
-  Function [_NewEnum]() As Unknown enumerates hidden
+  Function [_NewEnum]() As IUnknown enumerates hidden
 
 Class AsyncProperty absent "Use a QLNetwork to fetch data"
   Property AsyncType As Long readonly
@@ -61,7 +61,7 @@ Class Hyperlink absent "Devices have no browser; remove it"
 Shared ObjectList
   Property Count As Long readonly
   Function Item(Index) As Object default
-  Function [_NewEnum]() As Unknown enumerates hidden
+  Function [_NewEnum]() As IUnknown enumerates hidden
 
 Class ContainedControls absent "Devices run Tavlets only; use the controls of the form"
   Include ObjectList
@@ -77,7 +77,7 @@ Class Licenses absent "Devices make no licensed controls at run time; place them
   Sub Clear()
   Function Item(Index) As LicenseInfo default
   Sub Remove(Index)
-  Function [_NewEnum]() As Unknown enumerates hidden
+  Function [_NewEnum]() As IUnknown enumerates hidden
 
 Class LicenseInfo absent "Devices make no licensed controls at run time; place them on the form"
   Property LicenseKey As String default
@@ -89,7 +89,7 @@ Class DataMembers absent "Use QLDatabase"
   Sub Clear()
   Function Item(Index As Long) As String default
   Sub Remove(Index)
-  Function [_NewEnum]() As Unknown enumerates hidden
+  Function [_NewEnum]() As IUnknown enumerates hidden
 
 Class EventInfo absent "Controls of devices are placed on forms; use their events"
   Property EventParameters As EventParameters readonly default
@@ -98,7 +98,7 @@ Class EventInfo absent "Controls of devices are placed on forms; use their event
 Class EventParameters absent "Controls of devices are placed on forms; use their events"
   Property Count As Long readonly
   Function Item(Index) As EventParameter default
-  Function [_NewEnum]() As Unknown enumerates hidden
+  Function [_NewEnum]() As IUnknown enumerates hidden
 
 Class EventParameter absent "Controls of devices are placed on forms; use their events"
   Property Name As String readonly

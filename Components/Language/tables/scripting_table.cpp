@@ -17,7 +17,7 @@ Class Dictionary creatable ' Items by their keys
   Function Keys()
   Sub Remove(Key)
   Sub RemoveAll()
-  Function [_NewEnum]() As Unknown enumerates hidden
+  Function [_NewEnum]() As IUnknown enumerates hidden
 
 Class FileSystemObject creatable ' Files and folders
   Property Drives As Drives readonly absent "Devices have no drives; use the application's folder"
@@ -87,7 +87,7 @@ Class File
 Class Files
   Property Count As Long readonly
   Property Item(Key) As File default readonly
-  Function [_NewEnum]() As Unknown enumerates hidden
+  Function [_NewEnum]() As IUnknown enumerates hidden
 
 Class Folder
   Include Entry
@@ -100,7 +100,7 @@ Class Folders
   Property Count As Long readonly
   Property Item(Key) As Folder default readonly
   Function Add(Name As String) As Folder
-  Function [_NewEnum]() As Unknown enumerates hidden
+  Function [_NewEnum]() As IUnknown enumerates hidden
 
 Class Drive absent "Devices have no drives; use the application's folder"
   Property AvailableSpace readonly
@@ -119,7 +119,7 @@ Class Drive absent "Devices have no drives; use the application's folder"
 Class Drives absent "Devices have no drives; use the application's folder"
   Property Count As Long readonly
   Property Item(Key) As Drive default readonly
-  Function [_NewEnum]() As Unknown enumerates hidden
+  Function [_NewEnum]() As IUnknown enumerates hidden
 
 Class Encoder creatable absent "Devices have no script encoder; remove it"
   Function EncodeScriptFile(SzExt As String, BstrStreamIn As String, CFlags As Long, BstrDefaultLang As String) As String
