@@ -104,6 +104,17 @@ TEST(Lexer, LimitsTheLengthOfNames) {
     EXPECT_EQ(statements(std::string(256, '\xE9') + " = 1"), "2:1 1106");
 }
 
+TEST(Keywords, DifferFromSimilarNames) {
+    for (const auto* name : {"CInt", "Implementx", "Functio", "Functions", "Doo", "D", "RaiseEven", "RaiseEvents"}) {
+        const auto parsed = Parsed("Dim " + std::string(name) + "\n");
+        EXPECT_EQ(parsed.module(), "(dim " + std::string(name) + ")");
+    }
+    EXPECT_EQ(qltoolkit::keywordOf("_or\0\0\0\0\0\0\0\0", 3, qltoolkit::nameKey("_or\0\0\0\0\0\0\0\0", 3)),
+              Keyword::None);
+    const auto key = qltoolkit::nameKey("Function\0\0\0\0\0\0\0\0", 8);
+    EXPECT_EQ(qltoolkit::keywordOf("Sequence\0\0\0\0\0\0\0\0", 8, key), Keyword::None) << "only the same key";
+}
+
 TEST(Keywords, AreFoundRegardlessOfCase) {
     for (int i = 1; i <= static_cast<int>(qltoolkit::kLastKeyword); ++i) {
         const auto k = static_cast<Keyword>(i);
@@ -111,9 +122,6 @@ TEST(Keywords, AreFoundRegardlessOfCase) {
         const auto length = static_cast<std::uint32_t>(word.size());
         for (char& c : word) c = static_cast<char>(c ^ (c >= 'a' && i % 2 ? 0x20 : 0));
         word.append(16, '\0');
-        EXPECT_EQ(qltoolkit::keywordOf(word.data(), length), k) << word;
+        EXPECT_EQ(qltoolkit::keywordOf(word.data(), length, qltoolkit::nameKey(word.data(), length)), k) << word;
     }
-    EXPECT_EQ(qltoolkit::keywordOf("CInt\0\0\0\0\0\0\0\0", 4), Keyword::None) << "an ordinary function";
-    EXPECT_EQ(qltoolkit::keywordOf("Implementx\0\0\0\0\0\0\0\0", 10), Keyword::None);
-    EXPECT_EQ(qltoolkit::keywordOf("_or\0\0\0\0\0\0\0\0", 3), Keyword::None);
 }

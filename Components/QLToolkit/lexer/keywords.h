@@ -16,7 +16,8 @@ inline constexpr Keyword kLastKeyword = Keyword::Width;
 [[nodiscard]] constexpr bool isTypeWord(Keyword k) { return k > kLastReserved && k <= kLastType; }
 
 /// Returns the keyword with these characters, regardless of case, or None. Reads up to 8 bytes beyond the end.
-[[nodiscard]] Keyword keywordOf(const char* name, std::uint32_t length);
+/// `key` is nameKey(name, length).
+[[nodiscard]] Keyword keywordOf(const char* name, std::uint32_t length, std::uint64_t key);
 
 /// Returns the keyword's text in its proper case.
 [[nodiscard]] std::string_view spelling(Keyword);

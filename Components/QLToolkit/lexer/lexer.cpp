@@ -1,10 +1,55 @@
 #include "Components/QLToolkit/lexer/lexer.h"
 #include "Components/QLToolkit/lexer/date_literal.h"
+#include "Components/QLToolkit/lexer/keyword_table.h"
 #include "Components/QLToolkit/source/characters.h"
 #include "Components/QLToolkit/source/encoding.h"
+#include <array>
 #include <cstring>
 
 namespace qltoolkit {
+
+namespace {
+
+/// What a character begins.
+enum class Start : std::uint8_t { Other, Blank, Letter, Single, LineEnd, Digit, Operator, Quote };
+
+/// single: the token that a character is by itself.
+struct StartInfo {
+    Start start = Start::Other;
+    TokenKind single = TokenKind::Invalid;
+};
+
+constexpr auto kStarts = [] {
+    std::array<StartInfo, 256> table{};
+    const auto set = [&](std::string_view characters, Start start) {
+        for (const char c : characters) table[static_cast<unsigned char>(c)] = {start};
+    };
+    for (unsigned c = 0; c < 128; ++c) {
+        if (kCharClasses[c] & kBlank) table[c] = {Start::Blank};
+        if (kCharClasses[c] & kNameStart) table[c] = {Start::Letter};
+    }
+    set("0123456789", Start::Digit);
+    set("\r\n", Start::LineEnd);
+    set("\"", Start::Quote);
+    set(":&=<>", Start::Operator);
+    const auto single = [&](char c, TokenKind kind) { table[static_cast<unsigned char>(c)] = {Start::Single, kind}; };
+    single(',', TokenKind::Comma);
+    single(';', TokenKind::Semicolon);
+    single('!', TokenKind::Bang);
+    single('(', TokenKind::LeftParen);
+    single(')', TokenKind::RightParen);
+    single('^', TokenKind::Caret);
+    single('*', TokenKind::Star);
+    single('/', TokenKind::Slash);
+    single('\\', TokenKind::Backslash);
+    single('+', TokenKind::Plus);
+    single('-', TokenKind::Minus);
+    return table;
+}();
+
+StartInfo startOf(char c) { return kStarts[static_cast<unsigned char>(c)]; }
+
+} // namespace
 
 Lexer::Lexer(const SourceText& source, Diagnostics& diagnostics)
     : source_(source),
@@ -18,65 +63,82 @@ void Lexer::report(Message message, Pos at, std::string_view detail) {
     if (!quiet_) diagnostics_.report(message, at, detail);
 }
 
+// All cases are tail calls, so that the frequent ones save no registers.
 void Lexer::next(Token& token) {
-    const bool atStart = atLineStart_;
-    if (atStart) {
-        atLineStart_ = false;
-        startLine();
-    }
-    token.spaceBefore = false;
-    while (!readToken(token, atStart)) token.spaceBefore = true;
-}
-
-// Returns false if only a blank was read: a line continuation, a wide blank or a NUL.
-bool Lexer::readToken(Token& token, bool atStart) {
+    if (atLineStart_) return readFirst(token);
     const char* p = base_ + pos_;
-    if (charIs(*p, kBlank)) {
-        do { ++p; } while (charIs(*p, kBlank));
+    auto info = startOf(*p);
+    const bool space = info.start == Start::Blank;
+    while (info.start == Start::Blank) info = startOf(*++p);
+    token.spaceBefore = space;
+    token.begin = static_cast<Pos>(p - base_);
+    switch (info.start) {
+    case Start::Letter: return readName(token, p);
+    case Start::Single: return end(token, info.single, p + 1);
+    case Start::LineEnd: return endLine(token);
+    case Start::Digit: return readNumber(token, p);
+    case Start::Operator: return readOperator(token, p);
+    case Start::Quote: return readString(token);
+    default: return readOther(token, p);
+    }
+}
+
+void Lexer::readFirst(Token& token) {
+    startLine();
+    next(token);
+}
+
+inline void Lexer::readName(Token& token, const char* p) {
+    const auto word = wordAt(p);
+    const auto outside = bytesOutsideNames(word);
+    if (outside == 0) return readLongName(token, p);
+    const auto key = bytesBefore(outside, word | kFoldMask);
+    endName(token, p + zeroBytes(outside), key, keywordOfKey(key));
+}
+
+void Lexer::endLine(Token& token) {
+    token.kind = TokenKind::EndOfLine;
+    token.end = token.begin;
+    nextLine();
+    atLineStart_ = true;
+}
+
+void Lexer::readOther(Token& token, const char* p) {
+    pos_ = token.begin;
+    if (skipRareBlanks(p)) {
+        if (token.begin == firstOfLine_) firstOfLine_ = pos_;
+        next(token);
         token.spaceBefore = true;
+        return;
     }
-    pos_ = token.begin = static_cast<Pos>(p - base_);
-    if (charIs(*p, kNameStart)) {
-        if (charIs(*p, kForeign) && isWideBlank(codePage_, p)) {
-            pos_ += wideBlankBytes(codePage_);
-            return false;
-        }
-        readName(token, p);
-    } else if (charIs(*p, kDigit) || (*p == '.' && charIs(p[1], kDigit))) {
-        readNumber(token, p);
-    } else if (isLineEnd(*p)) {
-        endLine(token, token.begin);
-    } else if (*p == '\'') {
-        skipComment();
-        endLine(token, token.begin);
-    } else if (*p == '"') {
-        readString(token);
-    } else if (*p == '\0' || *p == '_') {
-        return readRareBlank(token, p);
-    } else if (*p == '[') {
-        readBracketName(token);
-    } else if (*p == '#' && atStart && startsDirective(p)) {
-        token.kind = TokenKind::Directive;
-        token.end = ++pos_;
-    } else {
-        readOperator(token, *p);
+    switch (*p) {
+    case '\'': skipComment(); return endLine(token);
+    case '.': return charIs(p[1], kDigit) ? readNumber(token, p) : end(token, TokenKind::Dot, p + 1);
+    case '[': return readBracketName(token);
+    case '#': return readHash(token, p);
+    case '\0': return end(token, TokenKind::EndOfFile, p);
+    default: return charIs(*p, kForeign) ? readForeignName(token, p) : readInvalid(token);
     }
+}
+
+// Skips line continuations, wide blanks, and NULs before the end of the file. Returns false if there are none.
+bool Lexer::skipRareBlanks(const char* p) {
+    const Pos begin = pos_;
+    while (skipRareBlank(p)) p = base_ + pos_;
+    return pos_ != begin;
+}
+
+bool Lexer::skipRareBlank(const char* p) {
+    if (*p == '_') return continueLine(p);
+    const bool wide = charIs(*p, kForeign) && isWideBlank(codePage_, p);
+    if (!wide && (*p != '\0' || pos_ >= source_.size()) && !charIs(*p, kBlank)) return false;
+    pos_ += wide ? wideBlankBytes(codePage_) : 1;
     return true;
 }
 
-// Handles a NUL, which is a blank unless the file ends, and an underscore, which must continue the line.
-bool Lexer::readRareBlank(Token& token, const char* p) {
-    if (*p == '_') {
-        if (continueLine(p)) return false;
-        readInvalid(token);
-    } else if (pos_ < source_.size()) {
-        ++pos_;
-        return false;
-    } else {
-        token.kind = TokenKind::EndOfFile;
-        token.end = pos_ = source_.size();
-    }
-    return true;
+void Lexer::readHash(Token& token, const char* p) {
+    const bool directive = token.begin == firstOfLine_ && startsDirective(p);
+    end(token, directive ? TokenKind::Directive : TokenKind::Hash, p + 1);
 }
 
 bool Lexer::startsDirective(const char* p) const {
@@ -93,6 +155,7 @@ void Lexer::readInvalid(Token& token) {
 }
 
 void Lexer::readString(Token& token) {
+    pos_ = token.begin;
     const Pos end = contentEnd();
     token.kind = TokenKind::String;
     token.doubled = false;

@@ -1,6 +1,7 @@
 #pragma once
 // Splits source text into tokens, in one pass and on demand. Lines without code produce no tokens.
 #include "Components/QLToolkit/lexer/token.h"
+#include "Components/QLToolkit/source/characters.h"
 #include "Components/QLToolkit/source/diagnostic.h"
 
 namespace qltoolkit {
@@ -40,17 +41,26 @@ public:
 
 private:
     void startLine();
-    bool readToken(Token&, bool atStart);
-    bool readRareBlank(Token&, const char* p);
-    void endLine(Token&, Pos at);
+    // The line after the last one begins at the end of the file.
+    void nextLine() { pos_ = source_.lineStart(++line_); }
+    void readFirst(Token&);
+    void readOther(Token&, const char* p);
+    bool skipRareBlanks(const char* p);
+    bool skipRareBlank(const char* p);
+    void end(Token&, TokenKind, const char* end);
+    void endLine(Token&);
     void readName(Token&, const char* p);
+    void readLongName(Token&, const char* p);
+    void endName(Token&, const char* end, std::uint64_t key, Keyword);
+    void finishName(Token&, const char* end);
+    void readHash(Token&, const char* p);
     void readForeignName(Token&, const char* p);
     void readSuffix(Token&);
     void readBracketName(Token&);
     void readNumber(Token&, const char* p);
     void readRadix(Token&, const char* p, int bits);
     void readString(Token&);
-    void readOperator(Token&, char c);
+    void readOperator(Token&, const char* p);
     void readLess(Token&);
     void readGreater(Token&);
     void readInvalid(Token&);
@@ -66,10 +76,26 @@ private:
     const char* const base_;
     const int codePage_;
     Pos pos_;
+    Pos firstOfLine_ = 0;
     std::uint32_t line_;
     int continuations_ = 0;
     bool atLineStart_ = true;
     bool quiet_ = false;
 };
+
+inline void Lexer::end(Token& token, TokenKind kind, const char* end) {
+    token.kind = kind;
+    token.end = pos_ = static_cast<Pos>(end - base_);
+}
+
+inline void Lexer::endName(Token& token, const char* end, std::uint64_t key, Keyword keyword) {
+    token.keyword = keyword;
+    token.suffix = 0;
+    token.bracketed = token.foreign = false;
+    token.nameKey = key;
+    this->end(token, keyword == Keyword::None ? TokenKind::Identifier : TokenKind::Keyword, end);
+    if (charIs(*end, kTypeMark | kForeign)) [[unlikely]]
+        finishName(token, end);
+}
 
 } // namespace qltoolkit

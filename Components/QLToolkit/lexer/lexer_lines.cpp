@@ -14,27 +14,15 @@ Pos Lexer::contentEnd() const {
 
 // Skips empty lines and comment lines, so that the parser never sees them.
 void Lexer::startLine() {
+    atLineStart_ = false;
     continuations_ = 0;
-    const auto lines = source_.lineCount();
-    while (line_ <= lines) {
-        const char* p = base_ + pos_;
-        while (charIs(*p, kBlank)) ++p;
-        pos_ = static_cast<Pos>(p - base_);
-        if (*p == '\'')
-            skipComment();
-        else if (!isLineEnd(*p))
-            return;
-        ++line_;
-        pos_ = line_ <= lines ? source_.lineStart(line_) : source_.size();
+    for (;;) {
+        const char* p = skipBlanks(base_ + pos_);
+        pos_ = firstOfLine_ = static_cast<Pos>(p - base_);
+        if (*p != '\'' && !isLineEnd(*p)) return;
+        if (*p == '\'') skipComment();
+        nextLine();
     }
-}
-
-void Lexer::endLine(Token& token, Pos at) {
-    token.kind = TokenKind::EndOfLine;
-    token.begin = token.end = at;
-    ++line_;
-    pos_ = line_ <= source_.lineCount() ? source_.lineStart(line_) : source_.size();
-    atLineStart_ = true;
 }
 
 void Lexer::skipComment() {
@@ -45,8 +33,7 @@ void Lexer::skipComment() {
         const bool goesOn = last >= pos_ + 2 && base_[last - 1] == '_' && charIs(base_[last - 2], kBlank);
         pos_ = end;
         if (!goesOn || line_ >= source_.lineCount()) return;
-        ++line_;
-        pos_ = source_.lineStart(line_);
+        nextLine();
     }
 }
 
@@ -57,8 +44,7 @@ bool Lexer::continueLine(const char* underscore) {
     if (!isLineEnd(*p) || line_ >= source_.lineCount()) return false;
     if (++continuations_ == kMaxContinuations + 1)
         report(Message::TooManyContinuations, static_cast<Pos>(underscore - base_));
-    ++line_;
-    pos_ = source_.lineStart(line_);
+    nextLine();
     return true;
 }
 

@@ -5,16 +5,18 @@
 
 namespace qltoolkit {
 
-void Lexer::readName(Token& token, const char* p) {
-    while (charIs(*p, kNamePart)) ++p;
-    token.bracketed = false;
-    token.foreign = false;
-    token.suffix = 0;
-    if (charIs(*p, kForeign) && !isWideBlank(codePage_, p)) return readForeignName(token, p);
-    token.end = pos_ = static_cast<Pos>(p - base_);
-    token.keyword = keywordOf(base_ + token.begin, token.end - token.begin);
-    token.kind = token.keyword == Keyword::None ? TokenKind::Identifier : TokenKind::Keyword;
-    if (token.end - token.begin > kMaxNameBytes) report(Message::NameTooLong, token.begin);
+void Lexer::readLongName(Token& token, const char* p) {
+    std::uint32_t length = kWordBytes;
+    for (auto more = length; more == kWordBytes; length += more)
+        more = zeroBytes(bytesOutsideNames(wordAt(p + length)));
+    const auto key = longNameKey(p, length);
+    endName(token, p + length, key, keywordOf(p, length, key));
+    if (length > kMaxNameBytes && !token.foreign) report(Message::NameTooLong, token.begin);
+}
+
+// What few names have: letters other than ASCII, or a type character.
+void Lexer::finishName(Token& token, const char* end) {
+    if (charIs(*end, kForeign) && !isWideBlank(codePage_, end)) return readForeignName(token, end);
     readSuffix(token);
 }
 
@@ -25,7 +27,10 @@ void Lexer::readForeignName(Token& token, const char* p) {
     }
     token.kind = TokenKind::Identifier;
     token.keyword = Keyword::None;
+    token.suffix = 0;
+    token.bracketed = false;
     token.foreign = true;
+    token.nameKey = 0;
     token.end = pos_ = static_cast<Pos>(p - base_);
     const auto name = source_.decode(source_.text(token.begin, std::min(token.end, token.begin + kMaxNameBytes + 1)));
     if (hasTypographicMark(name)) {
@@ -74,6 +79,7 @@ void Lexer::readBracketName(Token& token) {
     token.keyword = Keyword::None;
     token.suffix = 0;
     token.bracketed = true;
+    token.nameKey = 0;
     token.foreign = false;
     for (const char* p = base_ + pos_ + 1; p != close; ++p) token.foreign |= !charIs(*p, kNamePart);
     token.end = pos_ = static_cast<Pos>(close - base_) + 1;

@@ -49,6 +49,11 @@ void Lexer::readNumber(Token& token, const char* p) {
     const char* const begin = p;
     std::uint64_t value = 0;
     for (; charIs(*p, kDigit) && p - begin < 19; ++p) value = value * 10 + static_cast<std::uint64_t>(*p - '0');
+    token.suffix = '\0';
+    if (!charIs(*p, kNumberPart | kDigit)) {
+        token.end = pos_ = static_cast<Pos>(p - base_);
+        return finishInteger(token, value);
+    }
     const bool small = !charIs(*p, kDigit);
     p = skipDigits(p);
     const char* const integerEnd = p;

@@ -3,36 +3,22 @@
 
 namespace qltoolkit {
 
-void Lexer::readOperator(Token& token, char c) {
-    const char after = base_[pos_ + 1];
-    token.end = ++pos_;
-    switch (c) {
+void Lexer::readOperator(Token& token, const char* p) {
+    const char after = p[1];
+    token.end = pos_ = token.begin + 1;
+    switch (*p) {
     case ':':
         token.kind = after == '=' ? TokenKind::ColonEqual : TokenKind::Colon;
         if (after == '=') token.end = ++pos_;
         return;
-    case ',': token.kind = TokenKind::Comma; return;
-    case ';': token.kind = TokenKind::Semicolon; return;
-    case '.': token.kind = TokenKind::Dot; return;
-    case '!': token.kind = TokenKind::Bang; return;
-    case '(': token.kind = TokenKind::LeftParen; return;
-    case ')': token.kind = TokenKind::RightParen; return;
-    case '#': token.kind = TokenKind::Hash; return;
-    case '^': token.kind = TokenKind::Caret; return;
-    case '*': token.kind = TokenKind::Star; return;
-    case '/': token.kind = TokenKind::Slash; return;
-    case '\\': token.kind = TokenKind::Backslash; return;
-    case '+': token.kind = TokenKind::Plus; return;
-    case '-': token.kind = TokenKind::Minus; return;
-    case '&': return readRadix(token, base_ + pos_, (after | 0x20) == 'h' ? 4 : 3);
+    case '&': return readRadix(token, p + 1, (after | 0x20) == 'h' ? 4 : 3);
     case '=': {
         token.kind = after == '<' ? TokenKind::LessEqual : after == '>' ? TokenKind::GreaterEqual : TokenKind::Equal;
         if (after == '<' || after == '>') token.end = ++pos_;
         return;
     }
     case '<': return readLess(token);
-    case '>': return readGreater(token);
-    default: --pos_; return readInvalid(token);
+    default: return readGreater(token);
     }
 }
 

@@ -56,6 +56,7 @@ struct Token {
     union {
         std::int64_t integer = 0;
         double real;
+        std::uint64_t nameKey; ///< words: nameKey of a name in ASCII letters without brackets, 0 for other names
     };
 
     [[nodiscard]] bool is(TokenKind k) const { return kind == k; }

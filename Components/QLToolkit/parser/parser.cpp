@@ -37,13 +37,6 @@ void Parser::parse() {
     }
 }
 
-void Parser::advance() {
-    previousEnd_ = tok_.end;
-    lexer_.next(tok_);
-    if (tok_.kind == TokenKind::Directive) [[unlikely]]
-        directive();
-}
-
 // If the lexer has reported an error in this statement, this one is only a consequence.
 void Parser::fail(Message message, Pos where, std::string_view detail) {
     if (!at(TokenKind::Invalid)) report(message, where, detail);
@@ -88,11 +81,12 @@ void Parser::expect(Keyword keyword, Message message) {
 }
 
 Symbol Parser::symbolOf(const Token& token) {
-    Pos begin = token.begin;
-    Pos end = token.suffix ? token.end - 1 : token.end;
-    if (token.bracketed) ++begin, --end;
-    if (token.foreign) return symbols_.intern(source_.decode(source_.text(begin, end)));
-    return symbols_.internAscii(source_.data() + begin, end - begin);
+    const Pos end = token.suffix ? token.end - 1 : token.end;
+    if (token.nameKey != 0) [[likely]]
+        return symbols_.internAscii(source_.data() + token.begin, end - token.begin, token.nameKey);
+    const auto name = token.bracketed ? source_.text(token.begin + 1, end - 1) : source_.text(token.begin, end);
+    if (token.foreign) return symbols_.intern(source_.decode(name));
+    return symbols_.internAscii(name.data(), static_cast<std::uint32_t>(name.size()));
 }
 
 bool Parser::atName() const {

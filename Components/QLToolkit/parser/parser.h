@@ -57,7 +57,12 @@ private:
     };
 
     // Foundation
-    void advance();
+    void advance() {
+        previousEnd_ = tok_.end;
+        lexer_.next(tok_);
+        if (at(TokenKind::Directive)) [[unlikely]]
+            directive();
+    }
     [[noreturn]] void fail(Message, Pos at, std::string_view detail = {});
     [[noreturn]] void failHere(Message m) { fail(m, here(), tokenText()); }
     [[noreturn]] void failExpression();

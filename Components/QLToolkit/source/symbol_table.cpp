@@ -1,90 +1,94 @@
 #include "Components/QLToolkit/source/symbol_table.h"
 #include "Basic/case_folding.h"
-#include "Components/QLToolkit/source/name_words.h"
+#include "Components/QLToolkit/source/characters.h"
 #include <algorithm>
 #include <string>
+#include <utility>
 
 namespace qltoolkit {
 
 namespace {
 
-constexpr std::size_t kFirstSlots = 1024;
+constexpr unsigned kFirstSlotBits = 10;
 
-std::uint32_t hashOfName(const char* name, std::uint32_t length, std::uint64_t firstWord) {
-    std::uint64_t hash = mixWord(length, firstWord);
-    for (std::uint32_t at = 8; at < length; at += 8) hash = mixWord(hash, foldedWord(name + at, length - at));
-    return static_cast<std::uint32_t>(hash ^ (hash >> 32));
+bool isOrdinary(std::string_view name) {
+    return !name.empty() && std::all_of(name.begin(), name.end(), [](char c) { return charIs(c, kNamePart); });
 }
 
-bool sameRest(const char* name, const char* folded, std::uint32_t length) {
-    for (std::uint32_t at = 8; at < length; at += 8)
-        if (foldedWord(name + at, length - at) != foldedWord(folded + at, length - at)) return false;
-    return true;
+std::string padded(std::string_view text) {
+    std::string copy(text);
+    copy.append(kWordBytes, '\0');
+    return copy;
 }
 
 } // namespace
 
-SymbolTable::SymbolTable() : slots_(kFirstSlots, 0) { entries_.push_back({0, 0, 0, "", "", 0}); }
+SymbolTable::SymbolTable()
+    : entries_{{"", "", 0, 0}},
+      slots_(std::size_t{1} << kFirstSlotBits),
+      mask_(slots_.size() - 1),
+      shift_(64 - kFirstSlotBits) {}
 
-Symbol SymbolTable::internAscii(const char* name, std::uint32_t length) {
-    const auto firstWord = foldedWord(name, length);
-    const auto hash = hashOfName(name, length, firstWord);
-    const std::size_t mask = slots_.size() - 1;
-    for (std::size_t slot = hash & mask; slots_[slot] != 0; slot = (slot + 1) & mask) {
-        const Entry& e = entries_[slots_[slot]];
-        if (e.firstWord == firstWord && e.hash == hash && e.foldedLength == length && sameRest(name, e.folded, length))
-            return static_cast<Symbol>(slots_[slot]);
-    }
-    const char* spelling = keep({name, length});
-    return add({firstWord, hash, length, spelling, spelling, length});
+bool SymbolTable::isName(Symbol symbol, const char* name, std::uint32_t length) const {
+    const Entry& e = entries_[static_cast<std::uint32_t>(symbol)];
+    return e.length == length && sameName(name, e.name, length);
 }
 
-// Hashes the folded form like an ASCII name, so that both functions return the same symbol. Names that differ but have
-// the same words (names in brackets may contain anything) are distinguished by comparing all bytes.
+// The bytes after the name are kept, too, so that it can be read in words.
+Symbol SymbolTable::addAscii(const char* name, std::uint32_t length, std::uint64_t key) {
+    const char* kept = text_.copy(name, length + kWordBytes).begin();
+    return add(key, {kept, kept, length, length});
+}
+
+// A foreign letter may be folded to an ASCII letter: then the name is an ordinary one.
 Symbol SymbolTable::intern(std::string_view utf8) {
-    std::string folded = basic::foldCase(utf8);
+    const std::string folded = isOrdinary(utf8) ? std::string(utf8) : basic::foldCase(utf8);
+    if (!isOrdinary(folded)) return internForeign(folded, utf8);
+    const auto known = entries_.size();
+    const auto symbol = internAscii(padded(folded).data(), static_cast<std::uint32_t>(folded.size()));
+    if (entries_.size() > known) spell(entries_.back(), utf8);
+    return symbol;
+}
+
+// Names in brackets may contain anything, and different ones may have the same words: they are distinguished by
+// comparing all bytes, and from ordinary names by their keys.
+Symbol SymbolTable::internForeign(std::string_view folded, std::string_view spelling) {
     const auto length = static_cast<std::uint32_t>(folded.size());
-    folded.append(8, '\0');
-    const auto firstWord = foldedWord(folded.data(), length);
-    const auto hash = hashOfName(folded.data(), length, firstWord);
-    const std::size_t mask = slots_.size() - 1;
-    for (std::size_t slot = hash & mask; slots_[slot] != 0; slot = (slot + 1) & mask) {
-        const Entry& e = entries_[slots_[slot]];
-        if (e.hash != hash || e.foldedLength != length) continue;
-        if (basic::foldCase({e.folded, length}) == std::string_view(folded.data(), length))
-            return static_cast<Symbol>(slots_[slot]);
+    const auto key = longNameKey(padded(folded).data(), length) ^ 1;
+    for (std::size_t at = slotOf(key); slots_[at].symbol != Symbol::None; at = (at + 1) & mask_) {
+        const Entry& e = entries_[static_cast<std::uint32_t>(slots_[at].symbol)];
+        if (slots_[at].key == key && std::string_view{e.name, e.length} == folded) return slots_[at].symbol;
     }
-    const char* kept = keep({folded.data(), length});
-    return add({firstWord, hash, length, kept, keep(utf8), static_cast<std::uint32_t>(utf8.size())});
+    const auto symbol = add(key, {text_.copy(folded.data(), length).begin(), "", length, 0});
+    spell(entries_.back(), spelling);
+    return symbol;
 }
 
-const char* SymbolTable::keep(std::string_view name) {
-    std::string padded(name);
-    padded.append(8, '\0');
-    return text_.copy(padded.data(), padded.size()).begin();
+void SymbolTable::spell(Entry& entry, std::string_view spelling) {
+    entry.spelling = text_.copy(spelling.data(), spelling.size()).begin();
+    entry.spellingLength = static_cast<std::uint32_t>(spelling.size());
 }
 
-Symbol SymbolTable::add(const Entry& entry) {
-    const auto number = static_cast<std::uint32_t>(entries_.size());
+Symbol SymbolTable::add(std::uint64_t key, const Entry& entry) {
+    const auto symbol = static_cast<Symbol>(entries_.size());
+    if ((entries_.size() + 1) * 2 > slots_.size()) grow();
+    place({key, symbol});
     entries_.push_back(entry);
-    if (entries_.size() * 2 > slots_.size()) {
-        rehash();
-    } else {
-        std::size_t slot = entry.hash & (slots_.size() - 1);
-        while (slots_[slot] != 0) slot = (slot + 1) & (slots_.size() - 1);
-        slots_[slot] = number;
-    }
-    return static_cast<Symbol>(number);
+    return symbol;
 }
 
-void SymbolTable::rehash() {
-    slots_.assign(slots_.size() * 2, 0);
-    const std::size_t mask = slots_.size() - 1;
-    for (std::uint32_t number = 1; number < entries_.size(); ++number) {
-        std::size_t slot = entries_[number].hash & mask;
-        while (slots_[slot] != 0) slot = (slot + 1) & mask;
-        slots_[slot] = number;
-    }
+void SymbolTable::place(const Slot& slot) {
+    std::size_t at = slotOf(slot.key);
+    while (slots_[at].symbol != Symbol::None) at = (at + 1) & mask_;
+    slots_[at] = slot;
+}
+
+void SymbolTable::grow() {
+    const auto old = std::exchange(slots_, std::vector<Slot>(slots_.size() * 2));
+    mask_ = slots_.size() - 1;
+    --shift_;
+    for (const Slot& slot : old)
+        if (slot.symbol != Symbol::None) place(slot);
 }
 
 } // namespace qltoolkit

@@ -1,6 +1,7 @@
 #pragma once
 // Numbers for names, regardless of case. All modules of a project share one table.
 #include "Components/QLToolkit/source/arena.h"
+#include "Components/QLToolkit/source/name_words.h"
 #include <cstdint>
 #include <string_view>
 #include <vector>
@@ -15,8 +16,17 @@ public:
     SymbolTable();
 
     /// Returns the symbol of a name of ASCII letters, digits and underscores. Reads up to 8 bytes beyond its end, as a
-    /// SourceText allows.
-    Symbol internAscii(const char* name, std::uint32_t length);
+    /// SourceText allows. `key` is nameKey(name, length).
+    Symbol internAscii(const char* name, std::uint32_t length, std::uint64_t key) {
+        for (std::size_t at = slotOf(key);; at = (at + 1) & mask_) {
+            const Slot& slot = slots_[at];
+            if (slot.key == key && (isShortKey(key) || isName(slot.symbol, name, length))) return slot.symbol;
+            if (slot.symbol == Symbol::None) return addAscii(name, length, key);
+        }
+    }
+    Symbol internAscii(const char* name, std::uint32_t length) {
+        return internAscii(name, length, nameKey(name, length));
+    }
     /// Returns the symbol of any name, given as UTF-8.
     Symbol intern(std::string_view utf8);
 
@@ -28,20 +38,29 @@ public:
 
 private:
     struct Entry {
-        std::uint64_t firstWord; // the first 8 folded bytes, which distinguish most names
-        std::uint32_t hash;
-        std::uint32_t foldedLength;
-        const char* folded;
+        const char* name; // of ASCII letters in any case, otherwise folded
         const char* spelling;
+        std::uint32_t length;
         std::uint32_t spellingLength;
     };
-    const char* keep(std::string_view);
-    Symbol add(const Entry&);
-    void rehash();
+    struct Slot {
+        std::uint64_t key = 0;
+        Symbol symbol = Symbol::None;
+    };
+    [[nodiscard]] std::size_t slotOf(std::uint64_t key) const { return key * 0x9E3779B97F4A7C15u >> shift_; }
+    [[nodiscard]] bool isName(Symbol, const char* name, std::uint32_t length) const;
+    Symbol addAscii(const char* name, std::uint32_t length, std::uint64_t key);
+    Symbol internForeign(std::string_view folded, std::string_view spelling);
+    void spell(Entry&, std::string_view);
+    Symbol add(std::uint64_t key, const Entry&);
+    void place(const Slot&);
+    void grow();
 
     Arena text_;
     std::vector<Entry> entries_;
-    std::vector<std::uint32_t> slots_; // a power of two, open addressing, 0 is free
+    std::vector<Slot> slots_; // a power of two, open addressing
+    std::size_t mask_;
+    unsigned shift_;
 };
 
 } // namespace qltoolkit
