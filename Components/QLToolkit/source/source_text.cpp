@@ -1,9 +1,9 @@
 #include "Components/QLToolkit/source/source_text.h"
 #include "Basic/detection/code_page_detection.h"
 #include "Components/QLToolkit/source/encoding.h"
+#include "Components/QLToolkit/source/name_words.h"
 #include <algorithm>
 #include <array>
-#include <cstring>
 
 namespace qltoolkit {
 
@@ -25,17 +25,51 @@ std::string_view firstWord(std::string_view line) {
 
 bool isAttributeLine(std::string_view line) { return line.size() > 10 && equalWords(line.substr(0, 10), "attribute "); }
 
-// Text contains tabs and line ends, and occasionally form feeds, NULs or Ctrl+Z, but hardly any other control
-// characters.
-bool looksBinary(std::string_view bytes) {
-    if (bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF")) return true;
-    const auto sample = bytes.substr(0, 8192);
-    const auto odd = std::count_if(sample.begin(), sample.end(), [](char c) {
-        const auto u = static_cast<unsigned char>(c);
-        return (u < 32 && u != 0 && (u < 9 || u > 13) && u != 26) || u == 127;
-    });
-    return odd > static_cast<std::ptrdiff_t>(sample.size() / 64);
+constexpr std::size_t kBinarySample = 8192;
+
+bool isUtf16(std::string_view bytes) { return bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF"); }
+
+// Of the characters below the blank.
+bool isOddControl(char c) { return c != 0 && (c < 9 || c > 13) && c != 26; }
+
+std::size_t deletes(std::string_view sample) {
+    std::size_t count = 0;
+    for (auto at = sample.find('\x7F'); at != sample.npos; at = sample.find('\x7F', at + 1)) ++count;
+    return count;
 }
+
+/// Fills the vector without a check for each line.
+class LineStarts {
+public:
+    LineStarts(std::vector<Pos>& starts, Pos sourceBytes) : starts_(starts) {
+        constexpr Pos kTypicalLine = 24;
+        resize(sourceBytes / kTypicalLine + 2 * kWordBytes);
+        add(0);
+    }
+    ~LineStarts() { starts_.resize(count()); }
+    LineStarts(const LineStarts&) = delete;
+
+    // Makes room for as many lines as a word can end, and the end of the file.
+    void reserveWord() {
+        if (end_ - next_ <= static_cast<std::ptrdiff_t>(kWordBytes)) [[unlikely]]
+            resize(starts_.size() * 2);
+    }
+    void add(Pos start) { *next_++ = start; }
+    Pos last() const { return next_[-1]; }
+
+private:
+    std::size_t count() const { return static_cast<std::size_t>(next_ - starts_.data()); }
+    void resize(std::size_t size) {
+        const std::size_t used = next_ ? count() : 0;
+        starts_.resize(size);
+        next_ = starts_.data() + used;
+        end_ = starts_.data() + size;
+    }
+
+    std::vector<Pos>& starts_;
+    Pos* next_ = nullptr;
+    Pos* end_ = nullptr;
+};
 
 } // namespace
 
@@ -60,31 +94,38 @@ SourceText::SourceText(std::string name, std::string bytes, basic::CodePage page
       size_(static_cast<Pos>(bytes_.size())),
       kind_(fileKindOf(name_)),
       page_(std::move(page)) {
-    binary_ = looksBinary(bytes_);
-    page_ = basic::codePageOfFile(bytes_, page_);
     bytes_.append(kPadding, '\0');
-    splitLines();
+    const bool ascii = splitLines();
+    if (!ascii) page_ = basic::codePageOfFile(text(0, size_), page_);
     findCode();
 }
 
-void SourceText::splitLines() {
+// Reads the file once for all that depends on single bytes. Text contains tabs and line ends, and occasionally form
+// feeds, NULs or Ctrl+Z, but hardly any other control characters. Returns true if all bytes are ASCII.
+bool SourceText::splitLines() {
+    constexpr std::uint64_t kHighBits = everyByte(0x80);
     const char* const base = data();
-    lineStarts_.reserve(size_ / 24 + 2);
-    lineStarts_.push_back(0);
-    for (Pos at = 0; at < size_;) {
-        const auto* feed = static_cast<const char*>(std::memchr(base + at, '\n', size_ - at));
-        const Pos stop = feed ? static_cast<Pos>(feed - base) : size_;
-        while (at < stop) {
-            const auto* cr = static_cast<const char*>(std::memchr(base + at, '\r', stop - at));
-            if (!cr || cr + 1 == base + stop) break;
-            at = static_cast<Pos>(cr - base) + 1;
-            lineStarts_.push_back(at);
+    std::uint64_t all = 0;
+    std::size_t odd = deletes(text(0, std::min<Pos>(size_, kBinarySample)));
+    LineStarts starts{lineStarts_, size_};
+    for (Pos word = 0; word < size_; word += kWordBytes) {
+        const auto bytes = wordAt(base + word);
+        all |= bytes;
+        auto controls = ~(((bytes & ~kHighBits) + everyByte(0x80 - ' ')) | bytes) & kHighBits;
+        if (controls == 0) continue;
+        starts.reserveWord();
+        for (; controls != 0; controls &= controls - 1) {
+            const Pos at = word + zeroBytes(controls);
+            const char c = base[at];
+            if (c == '\n' || (c == '\r' && base[at + 1] != '\n'))
+                starts.add(at + 1);
+            else if (c != '\r' && at < kBinarySample && isOddControl(c))
+                ++odd;
         }
-        if (!feed) break;
-        at = stop + 1;
-        lineStarts_.push_back(at);
     }
-    if (lineStarts_.back() != size_) lineStarts_.push_back(size_);
+    if (starts.last() != size_) starts.add(size_);
+    binary_ = isUtf16(bytes_) || odd > std::min<std::size_t>(size_, kBinarySample) / 64;
+    return (all & kHighBits) == 0;
 }
 
 std::string_view SourceText::line(std::uint32_t number) const {

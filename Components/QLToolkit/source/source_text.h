@@ -84,7 +84,7 @@ public:
     static constexpr std::size_t kPadding = 16;
 
 private:
-    void splitLines();
+    bool splitLines();
     void findCode();
     std::uint32_t skipBlock(std::uint32_t line);
     std::uint32_t headerTooDeep(std::uint32_t line);
