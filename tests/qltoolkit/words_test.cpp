@@ -1,4 +1,5 @@
 // The sources are read in words of 8 bytes: what begins, ends or differs at each place of a word.
+#include "Components/QLToolkit/source/byte_block.h"
 #include "Components/QLToolkit/source/characters.h"
 #include "Components/QLToolkit/source/name_words.h"
 #include "tests/qltoolkit/ast_dump.h"
@@ -35,17 +36,34 @@ std::string dimOf(const std::string& after, int page = 1252) {
     return Parsed("Dim " + after, "Test.bas", {}, basic::CodePage(page)).module();
 }
 
-} // namespace
-
-TEST(Words, HoldTheSameNameCharactersAsTheTable) {
+/// Each byte at each place, among others that are their opposite.
+template <class Block>
+void checkBlock() {
     for (unsigned byte = 0; byte < 256; ++byte)
-        for (unsigned place = 0; place < 8; ++place) {
-            const std::uint64_t word =
-                std::uint64_t{byte} << (8 * place) | (0x6161616161616161u & ~(std::uint64_t{0xFF} << (8 * place)));
-            const bool part = qltoolkit::charIs(static_cast<char>(byte), qltoolkit::kNamePart);
-            EXPECT_EQ(qltoolkit::bytesOutsideNames(word), part ? 0 : std::uint64_t{0x80} << (8 * place)) << byte;
+        for (unsigned place = 0; place < qltoolkit::kBlockBytes; ++place) {
+            const char c = static_cast<char>(byte);
+            const auto maskIn = [&](char others, auto&& mask) {
+                std::string text(qltoolkit::kBlockBytes, others);
+                text[place] = c;
+                return mask(Block(text.data())) >> place & 1;
+            };
+            for (const char others : {'a', '\0', '\xFF', ' ', static_cast<char>(c + 1), static_cast<char>(c - 1)}) {
+                EXPECT_EQ(maskIn(others, [&](const Block& b) { return b.equal(c); }), 1u) << byte;
+                EXPECT_EQ(maskIn(others, [&](const Block& b) { return b.equal(static_cast<char>(c ^ 0x80)); }), 0u);
+                EXPECT_EQ(maskIn(others, [](const Block& b) { return b.unusual(); }), byte < 32 || byte > 127) << byte;
+                EXPECT_EQ(maskIn(others, [](const Block& b) { return b.beyondAscii(); }), byte > 127) << byte;
+                EXPECT_EQ(maskIn(others, [](const Block& b) { return b.outsideNames(); }),
+                          !qltoolkit::charIs(c, qltoolkit::kNamePart))
+                    << byte;
+            }
         }
 }
+
+} // namespace
+
+TEST(Words, HoldTheSameNameCharactersAsTheTable) { checkBlock<qltoolkit::ByteBlock>(); }
+
+TEST(Words, AreReadAlikeOnAllProcessors) { checkBlock<qltoolkit::WordByteBlock>(); }
 
 TEST(Words, AreSplitIntoLinesAnywhere) {
     std::mt19937 random(1);

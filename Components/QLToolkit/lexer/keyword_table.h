@@ -2,6 +2,7 @@
 // Finds keywords. Inline, because the lexer does this for every word.
 #include "Components/QLToolkit/lexer/keywords.h"
 #include "Components/QLToolkit/source/name_words.h"
+#include <algorithm>
 #include <array>
 
 namespace qltoolkit {
@@ -23,6 +24,8 @@ inline constexpr auto kKeywords = [] {
     for (std::size_t i = 1; i < keywords.size(); ++i) keywords[i] = rows[i - 1];
     return keywords;
 }();
+static_assert(std::all_of(kKeywords.begin(), kKeywords.end(),
+                          [](const KeywordRow& row) { return row.text.size() <= 2 * kWordBytes; }));
 
 constexpr basic::VbWordKind kindOf(Keyword k) { return kKeywords[static_cast<std::size_t>(k)].kind; }
 constexpr Keyword next(Keyword k) { return static_cast<Keyword>(static_cast<int>(k) + 1); }
@@ -31,23 +34,37 @@ static_assert(kindOf(kLastReserved) == basic::VbWordKind::Reserved &&
 static_assert(kindOf(kLastType) == basic::VbWordKind::Type && kindOf(next(kLastType)) == basic::VbWordKind::Contextual);
 static_assert(kindOf(kLastKeyword) == basic::VbWordKind::Contextual);
 
-constexpr std::uint64_t keyOf(std::string_view word) {
-    const auto folded = [word](std::size_t at) {
-        std::uint64_t bytes = 0;
-        for (std::size_t i = at; i < word.size() && i < at + kWordBytes; ++i)
-            bytes |= std::uint64_t(static_cast<unsigned char>(word[i]) | 0x20u) << (8 * (i - at));
-        return bytes;
-    };
-    if (word.size() <= kShortName) return folded(0);
-    std::uint64_t hash = word.size();
-    for (std::size_t at = 0; at < word.size(); at += kWordBytes) hash = mixWord(hash, folded(at));
-    return hash << 8 | 1;
+// The folded text, as foldedWord reads it.
+struct Words {
+    std::uint64_t first = 0, second = 0;
+};
+
+constexpr Words wordsOf(std::string_view text) {
+    Words words;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const auto byte = std::uint64_t(static_cast<unsigned char>(text[i]) | 0x20u);
+        (i < kWordBytes ? words.first : words.second) |= byte << (i % kWordBytes * 8);
+    }
+    return words;
+}
+
+constexpr std::uint64_t keyOf(std::string_view text) {
+    const Words words = wordsOf(text);
+    if (text.size() <= kShortName) return words.first;
+    const auto hash = mixWord(text.size(), words.first);
+    return longKey(text.size() <= kWordBytes ? hash : mixWord(hash, words.second));
 }
 
 inline constexpr auto kKeys = [] {
     std::array<std::uint64_t, kKeywords.size()> keys{};
     for (std::size_t i = 1; i < keys.size(); ++i) keys[i] = keyOf(kKeywords[i].text);
     return keys;
+}();
+
+inline constexpr auto kWords = [] {
+    std::array<Words, kKeywords.size()> words{};
+    for (std::size_t i = 1; i < words.size(); ++i) words[i] = wordsOf(kKeywords[i].text);
+    return words;
 }();
 
 inline constexpr int kSlotBits = 11;

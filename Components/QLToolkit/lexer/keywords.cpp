@@ -1,13 +1,12 @@
 #include "Components/QLToolkit/lexer/keyword_table.h"
-#include <algorithm>
 
 namespace qltoolkit {
 
 Keyword keywordOf(const char* name, std::uint32_t length, std::uint64_t key) {
     const Keyword keyword = keywordOfKey(key);
-    const auto text = spelling(keyword);
-    const bool same = std::equal(name, name + length, text.begin(), text.end(),
-                                 [](char a, char b) { return (a | 0x20) == (b | 0x20); });
+    const auto& [first, second] = keyword_table::kWords[static_cast<std::size_t>(keyword)];
+    const auto rest = length > kWordBytes ? foldedWord(name + kWordBytes, length - kWordBytes) : 0;
+    const bool same = length <= 2 * kWordBytes && foldedWord(name, length) == first && rest == second;
     return same ? keyword : Keyword::None;
 }
 

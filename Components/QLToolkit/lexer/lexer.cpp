@@ -1,9 +1,11 @@
 #include "Components/QLToolkit/lexer/lexer.h"
 #include "Components/QLToolkit/lexer/date_literal.h"
 #include "Components/QLToolkit/lexer/keyword_table.h"
+#include "Components/QLToolkit/source/byte_block.h"
 #include "Components/QLToolkit/source/characters.h"
 #include "Components/QLToolkit/source/encoding.h"
 #include <array>
+#include <bit>
 #include <cstring>
 
 namespace qltoolkit {
@@ -13,41 +15,43 @@ namespace {
 /// What a character begins.
 enum class Start : std::uint8_t { Other, Blank, Letter, Single, LineEnd, Digit, Operator, Quote };
 
-/// single: the token that a character is by itself.
-struct StartInfo {
-    Start start = Start::Other;
-    TokenKind single = TokenKind::Invalid;
-};
-
+// Filled from pairs of characters and what they begin.
 constexpr auto kStarts = [] {
-    std::array<StartInfo, 256> table{};
+    std::array<Start, 256> table{};
     const auto set = [&](std::string_view characters, Start start) {
-        for (const char c : characters) table[static_cast<unsigned char>(c)] = {start};
+        for (const char c : characters) table[static_cast<unsigned char>(c)] = start;
     };
     for (unsigned c = 0; c < 128; ++c) {
-        if (kCharClasses[c] & kBlank) table[c] = {Start::Blank};
-        if (kCharClasses[c] & kNameStart) table[c] = {Start::Letter};
+        if (kCharClasses[c] & kBlank) table[c] = Start::Blank;
+        if (kCharClasses[c] & kNameStart) table[c] = Start::Letter;
     }
     set("0123456789", Start::Digit);
     set("\r\n", Start::LineEnd);
     set("\"", Start::Quote);
     set(":&=<>", Start::Operator);
-    const auto single = [&](char c, TokenKind kind) { table[static_cast<unsigned char>(c)] = {Start::Single, kind}; };
-    single(',', TokenKind::Comma);
-    single(';', TokenKind::Semicolon);
-    single('!', TokenKind::Bang);
-    single('(', TokenKind::LeftParen);
-    single(')', TokenKind::RightParen);
-    single('^', TokenKind::Caret);
-    single('*', TokenKind::Star);
-    single('/', TokenKind::Slash);
-    single('\\', TokenKind::Backslash);
-    single('+', TokenKind::Plus);
-    single('-', TokenKind::Minus);
+    set(",;!()^*/\\+-", Start::Single);
     return table;
 }();
 
-StartInfo startOf(char c) { return kStarts[static_cast<unsigned char>(c)]; }
+// The tokens of one character that begins no other token.
+constexpr auto kSingles = [] {
+    std::array<TokenKind, 128> table{};
+    table[','] = TokenKind::Comma;
+    table[';'] = TokenKind::Semicolon;
+    table['!'] = TokenKind::Bang;
+    table['('] = TokenKind::LeftParen;
+    table[')'] = TokenKind::RightParen;
+    table['^'] = TokenKind::Caret;
+    table['*'] = TokenKind::Star;
+    table['/'] = TokenKind::Slash;
+    table['\\'] = TokenKind::Backslash;
+    table['+'] = TokenKind::Plus;
+    table['-'] = TokenKind::Minus;
+    return table;
+}();
+
+Start startOf(char c) { return kStarts[static_cast<unsigned char>(c)]; }
+TokenKind singleOf(char c) { return kSingles[static_cast<unsigned char>(c)]; }
 
 } // namespace
 
@@ -67,14 +71,13 @@ void Lexer::report(Message message, Pos at, std::string_view detail) {
 void Lexer::next(Token& token) {
     if (atLineStart_) return readFirst(token);
     const char* p = base_ + pos_;
-    auto info = startOf(*p);
-    const bool space = info.start == Start::Blank;
-    while (info.start == Start::Blank) info = startOf(*++p);
-    token.spaceBefore = space;
+    auto start = startOf(*p);
+    token.spaceBefore = start == Start::Blank;
+    while (start == Start::Blank) start = startOf(*++p);
     token.begin = static_cast<Pos>(p - base_);
-    switch (info.start) {
-    case Start::Letter: return readName(token, p);
-    case Start::Single: return end(token, info.single, p + 1);
+    if (start == Start::Letter) return readName(token, p); // half of all tokens
+    switch (start) {
+    case Start::Single: return end(token, singleOf(*p), p + 1);
     case Start::LineEnd: return endLine(token);
     case Start::Digit: return readNumber(token, p);
     case Start::Operator: return readOperator(token, p);
@@ -83,17 +86,11 @@ void Lexer::next(Token& token) {
     }
 }
 
-void Lexer::readFirst(Token& token) {
-    startLine();
-    next(token);
-}
-
 inline void Lexer::readName(Token& token, const char* p) {
-    const auto word = wordAt(p);
-    const auto outside = bytesOutsideNames(word);
-    if (outside == 0) return readLongName(token, p);
-    const auto key = bytesBefore(outside, word | kFoldMask);
-    endName(token, p + zeroBytes(outside), key, keywordOfKey(key));
+    const auto length = static_cast<std::uint32_t>(std::countr_zero(ByteBlock(p).outsideNames()));
+    if (length > kShortName) return readLongName(token, p);
+    const auto key = (wordAt(p) | kFoldMask) & kFirstBytes[length];
+    endName(token, p + length, key, keywordOfKey(key));
 }
 
 void Lexer::endLine(Token& token) {

@@ -40,10 +40,11 @@ public:
     static constexpr Pos kMaxNameBytes = 255;
 
 private:
-    void startLine();
     // The line after the last one begins at the end of the file.
     void nextLine() { pos_ = source_.lineStart(++line_); }
     void readFirst(Token&);
+    void readAfterComments(Token&);
+    const char* skipEmptyLines();
     void readOther(Token&, const char* p);
     bool skipRareBlanks(const char* p);
     bool skipRareBlank(const char* p);
@@ -58,6 +59,7 @@ private:
     void readSuffix(Token&);
     void readBracketName(Token&);
     void readNumber(Token&, const char* p);
+    void readLongNumber(Token&, const char* p);
     void readRadix(Token&, const char* p, int bits);
     void readString(Token&);
     void readOperator(Token&, const char* p);
@@ -91,7 +93,6 @@ inline void Lexer::end(Token& token, TokenKind kind, const char* end) {
 inline void Lexer::endName(Token& token, const char* end, std::uint64_t key, Keyword keyword) {
     token.keyword = keyword;
     token.suffix = 0;
-    token.bracketed = token.foreign = false;
     token.nameKey = key;
     this->end(token, keyword == Keyword::None ? TokenKind::Identifier : TokenKind::Keyword, end);
     if (charIs(*end, kTypeMark | kForeign)) [[unlikely]]

@@ -13,16 +13,29 @@ Pos Lexer::contentEnd() const {
 }
 
 // Skips empty lines and comment lines, so that the parser never sees them.
-void Lexer::startLine() {
+void Lexer::readFirst(Token& token) {
     atLineStart_ = false;
     continuations_ = 0;
-    for (;;) {
-        const char* p = skipBlanks(base_ + pos_);
-        pos_ = firstOfLine_ = static_cast<Pos>(p - base_);
-        if (*p != '\'' && !isLineEnd(*p)) return;
-        if (*p == '\'') skipComment();
+    if (*skipEmptyLines() == '\'') return readAfterComments(token);
+    next(token);
+}
+
+void Lexer::readAfterComments(Token& token) {
+    do {
+        skipComment();
         nextLine();
+    } while (*skipEmptyLines() == '\'');
+    next(token);
+}
+
+inline const char* Lexer::skipEmptyLines() {
+    const char* p = skipBlanks(base_ + pos_);
+    while (isLineEnd(*p)) {
+        nextLine();
+        p = skipBlanks(base_ + pos_);
     }
+    pos_ = firstOfLine_ = static_cast<Pos>(p - base_);
+    return p;
 }
 
 void Lexer::skipComment() {

@@ -1,17 +1,21 @@
 #include "Components/QLToolkit/lexer/lexer.h"
+#include "Components/QLToolkit/source/byte_block.h"
 #include "Components/QLToolkit/source/characters.h"
 #include "Components/QLToolkit/source/encoding.h"
+#include <bit>
 #include <cstring>
 
 namespace qltoolkit {
 
 void Lexer::readLongName(Token& token, const char* p) {
-    std::uint32_t length = kWordBytes;
-    for (auto more = length; more == kWordBytes; length += more)
-        more = zeroBytes(bytesOutsideNames(wordAt(p + length)));
+    std::uint32_t length = 0;
+    for (std::uint32_t outside = 0; outside == 0;) {
+        outside = ByteBlock(p + length).outsideNames();
+        length += outside ? static_cast<std::uint32_t>(std::countr_zero(outside)) : kBlockBytes;
+    }
     const auto key = longNameKey(p, length);
     endName(token, p + length, key, keywordOf(p, length, key));
-    if (length > kMaxNameBytes && !token.foreign) report(Message::NameTooLong, token.begin);
+    if (length > kMaxNameBytes && token.nameKey != 0) report(Message::NameTooLong, token.begin);
 }
 
 // What few names have: letters other than ASCII, or a type character.
@@ -28,8 +32,6 @@ void Lexer::readForeignName(Token& token, const char* p) {
     token.kind = TokenKind::Identifier;
     token.keyword = Keyword::None;
     token.suffix = 0;
-    token.bracketed = false;
-    token.foreign = true;
     token.nameKey = 0;
     token.end = pos_ = static_cast<Pos>(p - base_);
     const auto name = source_.decode(source_.text(token.begin, std::min(token.end, token.begin + kMaxNameBytes + 1)));
@@ -78,10 +80,7 @@ void Lexer::readBracketName(Token& token) {
     token.kind = TokenKind::Identifier;
     token.keyword = Keyword::None;
     token.suffix = 0;
-    token.bracketed = true;
     token.nameKey = 0;
-    token.foreign = false;
-    for (const char* p = base_ + pos_ + 1; p != close; ++p) token.foreign |= !charIs(*p, kNamePart);
     token.end = pos_ = static_cast<Pos>(close - base_) + 1;
     readSuffix(token);
 }

@@ -9,6 +9,7 @@ namespace qltoolkit {
 
 namespace {
 
+constexpr std::ptrdiff_t kSureDigits = 9; // they are at least a Long
 constexpr std::uint64_t kLargestInteger = 32767;
 constexpr std::uint64_t kLargestLong = 2147483647;
 constexpr double kLargestCurrency = 922337203685477.5807;
@@ -46,14 +47,19 @@ double toDouble(const char* begin, const char* end, bool& tooLarge) {
 } // namespace
 
 void Lexer::readNumber(Token& token, const char* p) {
+    std::uint64_t value = 0;
+    const char* const begin = p;
+    for (; charIs(*p, kDigit) && p - begin < kSureDigits; ++p) value = value * 10 + static_cast<unsigned>(*p - '0');
+    token.suffix = '\0';
+    if (charIs(*p, kNumberPart | kDigit)) return readLongNumber(token, begin);
+    token.integer = static_cast<std::int64_t>(value);
+    end(token, value <= kLargestInteger ? TokenKind::Integer : TokenKind::Long, p);
+}
+
+void Lexer::readLongNumber(Token& token, const char* p) {
     const char* const begin = p;
     std::uint64_t value = 0;
     for (; charIs(*p, kDigit) && p - begin < 19; ++p) value = value * 10 + static_cast<std::uint64_t>(*p - '0');
-    token.suffix = '\0';
-    if (!charIs(*p, kNumberPart | kDigit)) {
-        token.end = pos_ = static_cast<Pos>(p - base_);
-        return finishInteger(token, value);
-    }
     const bool small = !charIs(*p, kDigit);
     p = skipDigits(p);
     const char* const integerEnd = p;

@@ -48,15 +48,13 @@ struct Token {
     Keyword keyword = Keyword::None; ///< for Identifier: the keyword that it would be without its type character
     char suffix = 0;
     bool spaceBefore = false;
-    bool bracketed = false;
-    bool foreign = false; ///< the name contains characters other than ASCII
     bool doubled = false; ///< String: contains a doubled quote
     Pos begin = 0;
     Pos end = 0;
     union {
         std::int64_t integer = 0;
         double real;
-        std::uint64_t nameKey; ///< words: nameKey of a name in ASCII letters without brackets, 0 for other names
+        std::uint64_t nameKey; ///< words: nameKey of the name, or 0 in brackets or with letters other than ASCII
     };
 
     [[nodiscard]] bool is(TokenKind k) const { return kind == k; }

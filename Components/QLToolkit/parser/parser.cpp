@@ -80,13 +80,12 @@ void Parser::expect(Keyword keyword, Message message) {
     if (!accept(keyword)) failHere(message);
 }
 
-Symbol Parser::symbolOf(const Token& token) {
+Symbol Parser::intern(const Token& token) {
     const Pos end = token.suffix ? token.end - 1 : token.end;
-    if (token.nameKey != 0) [[likely]]
-        return symbols_.internAscii(source_.data() + token.begin, end - token.begin, token.nameKey);
-    const auto name = token.bracketed ? source_.text(token.begin + 1, end - 1) : source_.text(token.begin, end);
-    if (token.foreign) return symbols_.intern(source_.decode(name));
-    return symbols_.internAscii(name.data(), static_cast<std::uint32_t>(name.size()));
+    if (token.nameKey != 0) return symbols_.internAscii(source_.data() + token.begin, end - token.begin, token.nameKey);
+    const bool bracketed = source_.data()[token.begin] == '[';
+    const auto name = bracketed ? source_.text(token.begin + 1, end - 1) : source_.text(token.begin, end);
+    return symbols_.intern(source_.decode(name));
 }
 
 bool Parser::atName() const {

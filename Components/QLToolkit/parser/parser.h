@@ -77,7 +77,11 @@ private:
     void expect(TokenKind, Message);
     void expect(Keyword, Message);
     [[nodiscard]] bool endsStatement() const { return tok_.endsStatement() || at(Keyword::Else); }
-    [[nodiscard]] Symbol symbolOf(const Token&);
+    [[nodiscard]] Symbol symbolOf(const Token& token) {
+        const Symbol symbol = symbols_.find(token.nameKey);
+        return symbol != Symbol::None ? symbol : intern(token);
+    }
+    [[nodiscard]] Symbol intern(const Token&);
     [[nodiscard]] bool atName() const;
     Symbol expectName(Pos* at = nullptr, TypeSuffix* suffix = nullptr);
     void skipLineEnds();
@@ -225,7 +229,8 @@ private:
     [[nodiscard]] bool drawsAtCoordinates(const Expr* callee) const;
 
     // Expressions
-    const Expr* expression() { return binary(0); }
+    static constexpr int kWeakest = 1; // power of the operators that bind least
+    const Expr* expression() { return binary(kWeakest); }
     const Expr* binary(int minPower);
     const Expr* binaryRest(const Expr* left, int minPower);
     const Expr* operand();
@@ -240,6 +245,9 @@ private:
     const Expr* withMember();
     const Expr* member(const Expr* base);
     const Expr* postfix(const Expr* base, bool callee);
+    [[nodiscard]] bool atPostfix() const {
+        return at(TokenKind::Dot) || at(TokenKind::Bang) || at(TokenKind::LeftParen);
+    }
     const Expr* reference();
 
     // Conditional compilation

@@ -13,6 +13,20 @@ constexpr Message unclosedMessage(int blockKind) {
     return kMessages[blockKind];
 }
 
+/// The words with which endsBlock() is concerned. Most statements begin with others.
+constexpr auto kMayEndBlock = [] {
+    std::array<bool, static_cast<std::size_t>(kLastKeyword) + 1> table{};
+    for (const auto k : {Keyword::Sub, Keyword::Function, Keyword::Property, Keyword::Public, Keyword::Private,
+                         Keyword::Friend, Keyword::Global, Keyword::Static, Keyword::Else, Keyword::ElseIf,
+                         Keyword::EndIf, Keyword::Case, Keyword::Next, Keyword::Loop, Keyword::Wend, Keyword::End})
+        table[static_cast<std::size_t>(k)] = true;
+    return table;
+}();
+
+bool mayEndBlock(const Token& t) {
+    return t.is(TokenKind::Keyword) ? kMayEndBlock[static_cast<std::size_t>(t.keyword)] : t.is(TokenKind::EndOfFile);
+}
+
 } // namespace
 
 void Parser::openBlock(BlockKind kind, Pos pos, bool doubtful) {
@@ -43,7 +57,7 @@ Block Parser::block(BlockKind kind) {
             lineStart_ |= at(TokenKind::EndOfLine);
             advance();
         }
-        if (endsBlock(kind)) break;
+        if (mayEndBlock(tok_) && endsBlock(kind)) break;
         statementLine(body);
     }
     return body.block;

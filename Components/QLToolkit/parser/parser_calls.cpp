@@ -88,7 +88,7 @@ Stmt* Parser::callWithParentheses(Pos pos, const IndexExpr& call) {
         fail(Message::CallParentheses, call.pos);
     ListBuilder<Argument> arguments{scratch_.arguments};
     const Expr* first = make<UnaryExpr>(Expr{ExprKind::Paren, 0, call.pos}, inner[0].value);
-    arguments.add({binaryRest(first, 0)});
+    arguments.add({binaryRest(first, kWeakest)});
     if (accept(TokenKind::Comma)) restOfArguments(arguments);
     return makeCall(pos, call.callee, arguments);
 }

@@ -35,22 +35,25 @@ constexpr auto kTokenOperators = [] {
     return table;
 }();
 
-OperatorInfo keywordOperator(Keyword k) {
-    switch (k) {
-    case Keyword::Mod: return {10, Operator::Mod};
-    case Keyword::Like: return {7, Operator::Like};
-    case Keyword::Is: return {7, Operator::Is};
-    case Keyword::And: return {5, Operator::And};
-    case Keyword::Or: return {4, Operator::Or};
-    case Keyword::Xor: return {3, Operator::Xor};
-    case Keyword::Eqv: return {2, Operator::Eqv};
-    case Keyword::Imp: return {1, Operator::Imp};
-    default: return {};
-    }
-}
+constexpr auto kKeywordOperators = [] {
+    std::array<OperatorInfo, static_cast<std::size_t>(kLastKeyword) + 1> table{};
+    const auto set = [&](Keyword k, std::uint8_t power, Operator op) {
+        table[static_cast<std::size_t>(k)] = {power, op};
+    };
+    set(Keyword::Mod, 10, Operator::Mod);
+    set(Keyword::Like, 7, Operator::Like);
+    set(Keyword::Is, 7, Operator::Is);
+    set(Keyword::And, 5, Operator::And);
+    set(Keyword::Or, 4, Operator::Or);
+    set(Keyword::Xor, 3, Operator::Xor);
+    set(Keyword::Eqv, 2, Operator::Eqv);
+    set(Keyword::Imp, 1, Operator::Imp);
+    return table;
+}();
 
 OperatorInfo operatorOf(const Token& t) {
-    return t.is(TokenKind::Keyword) ? keywordOperator(t.keyword) : kTokenOperators[static_cast<std::size_t>(t.kind)];
+    return t.is(TokenKind::Keyword) ? kKeywordOperators[static_cast<std::size_t>(t.keyword)]
+                                    : kTokenOperators[static_cast<std::size_t>(t.kind)];
 }
 
 } // namespace
@@ -58,14 +61,15 @@ OperatorInfo operatorOf(const Token& t) {
 const Expr* Parser::binary(int minPower) {
     const Nesting nesting{depth_};
     if (depth_ > kMaxDepth) fail(Message::ExpressionTooDeep, tok_.begin);
-    return binaryRest(operand(), minPower);
+    const Expr* left = operand();
+    return operatorOf(tok_).power < minPower ? left : binaryRest(left, minPower);
 }
 
 // The left side grows in this loop, so that long chains do not recurse.
 const Expr* Parser::binaryRest(const Expr* left, int minPower) {
     for (;;) {
         const auto [power, op] = operatorOf(tok_);
-        if (power == 0 || power < minPower) return left;
+        if (power < minPower) return left;
         const Pos pos = tok_.begin;
         advance();
         const Expr* right = binary(power + 1);
@@ -75,7 +79,10 @@ const Expr* Parser::binaryRest(const Expr* left, int minPower) {
 
 const Expr* Parser::operand() {
     switch (tok_.kind) {
-    case TokenKind::Identifier: return postfix(name(), false);
+    case TokenKind::Identifier: {
+        const Expr* e = name();
+        return atPostfix() ? postfix(e, false) : e;
+    }
     case TokenKind::Integer:
     case TokenKind::Long:
     case TokenKind::Currency:
@@ -136,23 +143,24 @@ const Expr* Parser::prefix(Operator op, int power) {
     return make<UnaryExpr>(exprHead(ExprKind::Unary, op, pos), binary(power));
 }
 
+// The kinds of literals are the same in tokens and expressions.
 const Expr* Parser::literal() {
-    const Token t = tok_;
+    constexpr auto kFirst = static_cast<int>(TokenKind::Integer);
+    static_assert(static_cast<int>(TokenKind::Date) - kFirst == static_cast<int>(ExprKind::Date));
+    const auto head = exprHead(static_cast<ExprKind>(static_cast<int>(tok_.kind) - kFirst), tok_.begin);
+    const Expr* e = nullptr;
+    if (tok_.kind <= TokenKind::Currency)
+        e = make<IntegerExpr>(head, tok_.integer);
+    else
+        e = make<FloatExpr>(head, tok_.real);
     advance();
-    switch (t.kind) {
-    case TokenKind::Integer: return make<IntegerExpr>(exprHead(ExprKind::Integer, t.begin), t.integer);
-    case TokenKind::Long: return make<IntegerExpr>(exprHead(ExprKind::Long, t.begin), t.integer);
-    case TokenKind::Currency: return make<IntegerExpr>(exprHead(ExprKind::Currency, t.begin), t.integer);
-    case TokenKind::Single: return make<FloatExpr>(exprHead(ExprKind::Single, t.begin), t.real);
-    case TokenKind::Date: return make<FloatExpr>(exprHead(ExprKind::Date, t.begin), t.real);
-    default: return make<FloatExpr>(exprHead(ExprKind::Double, t.begin), t.real);
-    }
+    return e;
 }
 
 const Expr* Parser::stringLiteral() {
-    const Token t = tok_;
+    const auto* e = make<StringExpr>(Expr{ExprKind::String, tok_.doubled, tok_.begin}, tok_.end - tok_.begin - 2);
     advance();
-    return make<StringExpr>(Expr{ExprKind::String, t.doubled, t.begin}, t.end - t.begin - 2);
+    return e;
 }
 
 const Expr* Parser::dateLiteral() {

@@ -5,7 +5,7 @@
 namespace qltoolkit {
 
 const Expr* Parser::name() {
-    const auto suffix = static_cast<std::uint8_t>(at(TokenKind::Identifier) ? tok_.suffix : '\0');
+    const auto suffix = static_cast<std::uint8_t>(tok_.suffix);
     const auto* e = make<NameExpr>(Expr{ExprKind::Name, suffix, tok_.begin}, symbolOf(tok_));
     advance();
     return e;
@@ -18,7 +18,7 @@ const Expr* Parser::member(const Expr* base) {
     const ExprKind kind = at(TokenKind::Dot) ? ExprKind::Member : ExprKind::Bang;
     advance();
     if (!tok_.isWord()) failHere(Message::MemberNameExpected);
-    const auto suffix = static_cast<std::uint8_t>(at(TokenKind::Identifier) ? tok_.suffix : '\0');
+    const auto suffix = static_cast<std::uint8_t>(tok_.suffix);
     const auto* e = make<MemberExpr>(Expr{kind, suffix, tok_.begin}, symbolOf(tok_), base);
     advance();
     return e;

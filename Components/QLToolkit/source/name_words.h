@@ -1,5 +1,6 @@
 #pragma once
 // Text as words of 8 bytes, the first byte lowest: for the ends of names, their hashes, and finding keywords.
+#include <algorithm>
 #include <bit>
 #include <cstdint>
 #include <cstring>
@@ -24,26 +25,13 @@ inline std::uint64_t wordAt(const char* at) {
 /// Returns the index of the first byte that is not 0, or 8.
 constexpr std::uint32_t zeroBytes(std::uint64_t word) { return static_cast<std::uint32_t>(std::countr_zero(word)) / 8; }
 
-/// Marks the bytes that cannot be part of a name of ASCII letters, digits and underscores.
-constexpr std::uint64_t bytesOutsideNames(std::uint64_t word) {
-    const auto between = [](std::uint64_t ascii, unsigned first, unsigned last) {
-        return (ascii + everyByte(0x80 - first)) & ~(ascii + everyByte(0x7F - last));
-    };
-    const auto ascii = word & everyByte(0x7F);
-    const auto underscores = everyByte(0x80) - (ascii ^ everyByte('_'));
-    const auto inside = between(ascii | kFoldMask, 'a', 'z') | between(ascii, '0', '9') | underscores;
-    return (~inside | word) & everyByte(0x80);
-}
-
-/// Returns the bytes before the first marked one; the others are 0. `marks` has only bit 7 of each marked byte.
-constexpr std::uint64_t bytesBefore(std::uint64_t marks, std::uint64_t word) {
-    return word & (((marks & (~marks + 1)) >> 7) - 1);
-}
+/// kFirstBytes[n] has all bits of the first n bytes.
+inline constexpr std::uint64_t kFirstBytes[] = {
+    0, 0xFF, 0xFFFF, 0xFFFFFF, 0xFFFFFFFF, 0xFFFFFFFFFF, 0xFFFFFFFFFFFF, 0xFFFFFFFFFFFFFF, ~std::uint64_t{0}};
 
 /// Returns up to 8 folded bytes from `at`; bytes beyond `length` are 0. Always reads 8 bytes.
 inline std::uint64_t foldedWord(const char* at, std::uint32_t length) {
-    const auto word = wordAt(at) | kFoldMask;
-    return length >= kWordBytes ? word : word & ((std::uint64_t{1} << (length * 8)) - 1);
+    return (wordAt(at) | kFoldMask) & kFirstBytes[std::min(length, kWordBytes)];
 }
 
 constexpr std::uint64_t mixWord(std::uint64_t hash, std::uint64_t word) {
@@ -54,12 +42,14 @@ constexpr std::uint64_t mixWord(std::uint64_t hash, std::uint64_t word) {
 /// The most bytes of a name that is its own key.
 inline constexpr std::uint32_t kShortName = 7;
 
+constexpr std::uint64_t longKey(std::uint64_t hash) { return hash << 8 | 1; }
+
 /// Returns a number for a name, regardless of the case of ASCII letters: for a short name its folded bytes, so that no
 /// other name has its key, and otherwise a hash, whose lowest byte is no character of a name.
 inline std::uint64_t longNameKey(const char* name, std::uint32_t length) {
     std::uint64_t hash = length;
     for (std::uint32_t at = 0; at < length; at += kWordBytes) hash = mixWord(hash, foldedWord(name + at, length - at));
-    return hash << 8 | 1;
+    return longKey(hash);
 }
 inline std::uint64_t nameKey(const char* name, std::uint32_t length) {
     return length <= kShortName ? foldedWord(name, length) : longNameKey(name, length);

@@ -1,9 +1,10 @@
 #include "Components/QLToolkit/source/source_text.h"
 #include "Basic/detection/code_page_detection.h"
+#include "Components/QLToolkit/source/byte_block.h"
 #include "Components/QLToolkit/source/encoding.h"
-#include "Components/QLToolkit/source/name_words.h"
 #include <algorithm>
 #include <array>
+#include <bit>
 
 namespace qltoolkit {
 
@@ -25,17 +26,25 @@ std::string_view firstWord(std::string_view line) {
 
 bool isAttributeLine(std::string_view line) { return line.size() > 10 && equalWords(line.substr(0, 10), "attribute "); }
 
-constexpr std::size_t kBinarySample = 8192;
+bool isOddControl(char c) {
+    const auto u = static_cast<unsigned char>(c);
+    return (u < 32 && u != 0 && (u < 9 || u > 13) && u != 26) || u == 127;
+}
 
-bool isUtf16(std::string_view bytes) { return bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF"); }
-
-// Of the characters below the blank.
-bool isOddControl(char c) { return c != 0 && (c < 9 || c > 13) && c != 26; }
-
-std::size_t deletes(std::string_view sample) {
-    std::size_t count = 0;
-    for (auto at = sample.find('\x7F'); at != sample.npos; at = sample.find('\x7F', at + 1)) ++count;
-    return count;
+// Text contains tabs and line ends, and occasionally form feeds, NULs or Ctrl+Z, but hardly any other control
+// characters.
+bool looksBinary(std::string_view bytes) {
+    if (bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF")) return true;
+    const auto sample = bytes.substr(0, 8192);
+    std::ptrdiff_t odd = 0;
+    for (std::size_t at = 0; at < sample.size(); at += kBlockBytes) {
+        const ByteBlock block{bytes.data() + at};
+        const auto controls = (block.unusual() & ~block.beyondAscii()) | block.equal('\x7F');
+        if ((controls & ~(block.equal('\r') | block.equal('\n'))) == 0) continue;
+        const auto part = sample.substr(at, kBlockBytes);
+        odd += std::count_if(part.begin(), part.end(), isOddControl);
+    }
+    return odd > static_cast<std::ptrdiff_t>(sample.size() / 64);
 }
 
 /// Fills the vector without a check for each line.
@@ -43,15 +52,15 @@ class LineStarts {
 public:
     LineStarts(std::vector<Pos>& starts, Pos sourceBytes) : starts_(starts) {
         constexpr Pos kTypicalLine = 24;
-        resize(sourceBytes / kTypicalLine + 2 * kWordBytes);
+        resize(sourceBytes / kTypicalLine + 2 * kBlockBytes);
         add(0);
     }
     ~LineStarts() { starts_.resize(count()); }
     LineStarts(const LineStarts&) = delete;
 
-    // Makes room for as many lines as a word can end, and the end of the file.
-    void reserveWord() {
-        if (end_ - next_ <= static_cast<std::ptrdiff_t>(kWordBytes)) [[unlikely]]
+    // Makes room for as many lines as a block can end, and the end of the file.
+    void reserveBlock() {
+        if (end_ - next_ <= static_cast<std::ptrdiff_t>(kBlockBytes)) [[unlikely]]
             resize(starts_.size() * 2);
     }
     void add(Pos start) { *next_++ = start; }
@@ -95,37 +104,29 @@ SourceText::SourceText(std::string name, std::string bytes, basic::CodePage page
       kind_(fileKindOf(name_)),
       page_(std::move(page)) {
     bytes_.append(kPadding, '\0');
+    binary_ = looksBinary(text(0, size_));
     const bool ascii = splitLines();
     if (!ascii) page_ = basic::codePageOfFile(text(0, size_), page_);
     findCode();
 }
 
-// Reads the file once for all that depends on single bytes. Text contains tabs and line ends, and occasionally form
-// feeds, NULs or Ctrl+Z, but hardly any other control characters. Returns true if all bytes are ASCII.
+// Reads the file once for all that depends on single bytes. Returns true if all of them are ASCII.
 bool SourceText::splitLines() {
-    constexpr std::uint64_t kHighBits = everyByte(0x80);
     const char* const base = data();
-    std::uint64_t all = 0;
-    std::size_t odd = deletes(text(0, std::min<Pos>(size_, kBinarySample)));
     LineStarts starts{lineStarts_, size_};
-    for (Pos word = 0; word < size_; word += kWordBytes) {
-        const auto bytes = wordAt(base + word);
-        all |= bytes;
-        auto controls = ~(((bytes & ~kHighBits) + everyByte(0x80 - ' ')) | bytes) & kHighBits;
-        if (controls == 0) continue;
-        starts.reserveWord();
-        for (; controls != 0; controls &= controls - 1) {
-            const Pos at = word + zeroBytes(controls);
-            const char c = base[at];
-            if (c == '\n' || (c == '\r' && base[at + 1] != '\n'))
-                starts.add(at + 1);
-            else if (c != '\r' && at < kBinarySample && isOddControl(c))
-                ++odd;
-        }
+    std::uint32_t beyondAscii = 0;
+    for (Pos at = 0; at < size_; at += kBlockBytes) {
+        const ByteBlock block{base + at};
+        if (block.unusual() == 0) continue;
+        beyondAscii |= block.beyondAscii();
+        const auto feeds = block.equal('\n'), returns = block.equal('\r');
+        const bool feedNext = base[at + kBlockBytes] == '\n';
+        auto ends = feeds | (returns & ~(feeds >> 1 | std::uint32_t{feedNext} << (kBlockBytes - 1)));
+        starts.reserveBlock();
+        for (; ends != 0; ends &= ends - 1) starts.add(at + static_cast<Pos>(std::countr_zero(ends)) + 1);
     }
     if (starts.last() != size_) starts.add(size_);
-    binary_ = isUtf16(bytes_) || odd > std::min<std::size_t>(size_, kBinarySample) / 64;
-    return (all & kHighBits) == 0;
+    return beyondAscii == 0;
 }
 
 std::string_view SourceText::line(std::uint32_t number) const {

@@ -81,7 +81,7 @@ public:
     /// Returns true if `byte` begins a two-byte character in this file's code page.
     [[nodiscard]] bool isLeadByte(unsigned char byte) const;
 
-    static constexpr std::size_t kPadding = 16;
+    static constexpr std::size_t kPadding = 32;
 
 private:
     bool splitLines();

@@ -29,6 +29,14 @@ SymbolTable::SymbolTable()
       mask_(slots_.size() - 1),
       shift_(64 - kFirstSlotBits) {}
 
+Symbol SymbolTable::internAscii(const char* name, std::uint32_t length, std::uint64_t key) {
+    for (std::size_t at = slotOf(key);; at = (at + 1) & mask_) {
+        const Slot& slot = slots_[at];
+        if (slot.key == key && (isShortKey(key) || isName(slot.symbol, name, length))) return slot.symbol;
+        if (slot.symbol == Symbol::None) return addAscii(name, length, key);
+    }
+}
+
 bool SymbolTable::isName(Symbol symbol, const char* name, std::uint32_t length) const {
     const Entry& e = entries_[static_cast<std::uint32_t>(symbol)];
     return e.length == length && sameName(name, e.name, length);

@@ -15,15 +15,14 @@ class SymbolTable {
 public:
     SymbolTable();
 
+    /// Returns the symbol of a name that is often found at once, or None: then intern it. `key` is its nameKey.
+    [[nodiscard]] Symbol find(std::uint64_t key) const {
+        const Slot& slot = slots_[slotOf(key)];
+        return slot.key == key && isShortKey(key) ? slot.symbol : Symbol::None;
+    }
     /// Returns the symbol of a name of ASCII letters, digits and underscores. Reads up to 8 bytes beyond its end, as a
     /// SourceText allows. `key` is nameKey(name, length).
-    Symbol internAscii(const char* name, std::uint32_t length, std::uint64_t key) {
-        for (std::size_t at = slotOf(key);; at = (at + 1) & mask_) {
-            const Slot& slot = slots_[at];
-            if (slot.key == key && (isShortKey(key) || isName(slot.symbol, name, length))) return slot.symbol;
-            if (slot.symbol == Symbol::None) return addAscii(name, length, key);
-        }
-    }
+    Symbol internAscii(const char* name, std::uint32_t length, std::uint64_t key);
     Symbol internAscii(const char* name, std::uint32_t length) {
         return internAscii(name, length, nameKey(name, length));
     }
