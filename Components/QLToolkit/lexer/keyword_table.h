@@ -103,7 +103,9 @@ inline constexpr Table kTable = [] {
 inline Keyword keywordOfKey(std::uint64_t key) {
     using namespace keyword_table;
     const Keyword keyword = kTable[slotOf(key, kFactor)];
-    return kKeys[static_cast<std::size_t>(keyword)] == key ? keyword : Keyword::None;
+    // Without a branch, which would often be mispredicted.
+    const int same = kKeys[static_cast<std::size_t>(keyword)] == key;
+    return static_cast<Keyword>(static_cast<int>(keyword) & -same);
 }
 
 } // namespace qltoolkit

@@ -5,7 +5,6 @@
 #include "Components/QLToolkit/source/characters.h"
 #include "Components/QLToolkit/source/encoding.h"
 #include <array>
-#include <bit>
 #include <cstring>
 
 namespace qltoolkit {
@@ -87,7 +86,7 @@ void Lexer::next(Token& token) {
 }
 
 inline void Lexer::readName(Token& token, const char* p) {
-    const auto length = static_cast<std::uint32_t>(std::countr_zero(ByteBlock(p).outsideNames()));
+    const auto length = ByteBlock(p).nameBytes();
     if (length > kShortName) return readLongName(token, p);
     const auto key = (wordAt(p) | kFoldMask) & kFirstBytes[length];
     endName(token, p + length, key, keywordOfKey(key));
@@ -207,12 +206,6 @@ bool Lexer::assignsByName(const Token& token) const {
     const char* p = base_ + token.end;
     while (charIs(*p, kBlank)) ++p;
     return p[0] == ':' && p[1] == '=';
-}
-
-bool Lexer::colonFollows(const Token& token) const {
-    const char* p = base_ + token.end;
-    while (charIs(*p, kBlank)) ++p;
-    return p[0] == ':' && p[1] != '=';
 }
 
 } // namespace qltoolkit

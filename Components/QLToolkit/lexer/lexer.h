@@ -19,7 +19,11 @@ public:
     [[nodiscard]] bool assignsByName(const Token& token) const;
 
     /// Returns true if `token` is followed directly by a colon, but not by ":=".
-    [[nodiscard]] bool colonFollows(const Token& token) const;
+    [[nodiscard]] bool colonFollows(const Token& token) const {
+        const char* p = base_ + token.end;
+        while (charIs(*p, kBlank)) ++p;
+        return p[0] == ':' && p[1] != '=';
+    }
 
     /// Reads the date from `hash` up to the next # and changes `hash` to a token of kind Date. Returns false and leaves
     /// the token unchanged if there is no date.
@@ -43,8 +47,7 @@ private:
     // The line after the last one begins at the end of the file.
     void nextLine() { pos_ = source_.lineStart(++line_); }
     void readFirst(Token&);
-    void readAfterComments(Token&);
-    const char* skipEmptyLines();
+    void readAfterEmptyLines(Token&, const char* p);
     void readOther(Token&, const char* p);
     bool skipRareBlanks(const char* p);
     bool skipRareBlank(const char* p);
@@ -94,7 +97,9 @@ inline void Lexer::endName(Token& token, const char* end, std::uint64_t key, Key
     token.keyword = keyword;
     token.suffix = 0;
     token.nameKey = key;
-    this->end(token, keyword == Keyword::None ? TokenKind::Identifier : TokenKind::Keyword, end);
+    static_assert(static_cast<int>(TokenKind::Identifier) + 1 == static_cast<int>(TokenKind::Keyword));
+    const int isKeyword = keyword != Keyword::None;
+    this->end(token, static_cast<TokenKind>(static_cast<int>(TokenKind::Identifier) + isKeyword), end);
     if (charIs(*end, kTypeMark | kForeign)) [[unlikely]]
         finishName(token, end);
 }

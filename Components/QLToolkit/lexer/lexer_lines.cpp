@@ -16,26 +16,21 @@ Pos Lexer::contentEnd() const {
 void Lexer::readFirst(Token& token) {
     atLineStart_ = false;
     continuations_ = 0;
-    if (*skipEmptyLines() == '\'') return readAfterComments(token);
-    next(token);
-}
-
-void Lexer::readAfterComments(Token& token) {
-    do {
-        skipComment();
-        nextLine();
-    } while (*skipEmptyLines() == '\'');
-    next(token);
-}
-
-inline const char* Lexer::skipEmptyLines() {
     const char* p = skipBlanks(base_ + pos_);
-    while (isLineEnd(*p)) {
+    if (isLineEnd(*p) || *p == '\'') return readAfterEmptyLines(token, p);
+    pos_ = firstOfLine_ = static_cast<Pos>(p - base_);
+    next(token);
+}
+
+void Lexer::readAfterEmptyLines(Token& token, const char* p) {
+    do {
+        pos_ = static_cast<Pos>(p - base_);
+        if (*p == '\'') skipComment();
         nextLine();
         p = skipBlanks(base_ + pos_);
-    }
+    } while (isLineEnd(*p) || *p == '\'');
     pos_ = firstOfLine_ = static_cast<Pos>(p - base_);
-    return p;
+    next(token);
 }
 
 void Lexer::skipComment() {

@@ -2,17 +2,13 @@
 #include "Components/QLToolkit/source/byte_block.h"
 #include "Components/QLToolkit/source/characters.h"
 #include "Components/QLToolkit/source/encoding.h"
-#include <bit>
 #include <cstring>
 
 namespace qltoolkit {
 
 void Lexer::readLongName(Token& token, const char* p) {
     std::uint32_t length = 0;
-    for (std::uint32_t outside = 0; outside == 0;) {
-        outside = ByteBlock(p + length).outsideNames();
-        length += outside ? static_cast<std::uint32_t>(std::countr_zero(outside)) : kBlockBytes;
-    }
+    for (auto more = kBlockBytes; more == kBlockBytes; length += more) more = ByteBlock(p + length).nameBytes();
     const auto key = longNameKey(p, length);
     endName(token, p + length, key, keywordOf(p, length, key));
     if (length > kMaxNameBytes && token.nameKey != 0) report(Message::NameTooLong, token.begin);

@@ -24,7 +24,7 @@ Parser::Parser(const SourceText& source, SymbolTable& symbols, Diagnostics& diag
 }
 
 void Parser::parse() {
-    advance();
+    advanceLine();
     for (skipLineEnds(); !at(TokenKind::EndOfFile); skipLineEnds()) {
         errorsBefore_ = diagnostics_.errors();
         try {
@@ -106,7 +106,7 @@ Symbol Parser::expectName(Pos* where, TypeSuffix* suffix) {
 }
 
 void Parser::skipLineEnds() {
-    while (at(TokenKind::EndOfLine) || at(TokenKind::Colon)) advance();
+    while (at(TokenKind::EndOfLine) || at(TokenKind::Colon)) advanceLine();
 }
 
 } // namespace qltoolkit

@@ -60,6 +60,10 @@ private:
     void advance() {
         previousEnd_ = tok_.end;
         lexer_.next(tok_);
+    }
+    // The same at the end of a line: only there directives may follow.
+    void advanceLine() {
+        advance();
         if (at(TokenKind::Directive)) [[unlikely]]
             directive();
     }
@@ -152,6 +156,7 @@ private:
     void statementLine(BlockBuilder&);
     void expectEndOfStatement();
     bool label(BlockBuilder&);
+    bool namedLabel(BlockBuilder&);
     Stmt* ifStatement();
     bool recoverToThen();
     Stmt* singleLineIf(Pos, const Expr* condition);

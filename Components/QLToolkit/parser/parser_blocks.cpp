@@ -55,7 +55,7 @@ Block Parser::block(BlockKind kind) {
         }
         while (at(TokenKind::EndOfLine) || at(TokenKind::Colon)) {
             lineStart_ |= at(TokenKind::EndOfLine);
-            advance();
+            advanceLine();
         }
         if (mayEndBlock(tok_) && endsBlock(kind)) break;
         statementLine(body);
@@ -89,7 +89,11 @@ bool Parser::label(BlockBuilder& body) {
         return true;
     }
     const bool word = at(TokenKind::Identifier) || (at(TokenKind::Keyword) && !isReserved(tok_.keyword));
-    if (!word || !lexer_.colonFollows(tok_)) return false;
+    return word && lexer_.colonFollows(tok_) && namedLabel(body);
+}
+
+bool Parser::namedLabel(BlockBuilder& body) {
+    const Pos pos = tok_.begin;
     const Symbol name = symbolOf(tok_);
     if (name == known_.doEvents) return false;
     body.add(make<TargetStmt>(stmtHead(StmtKind::Label, pos), Target{name, 0, pos}));

@@ -19,7 +19,7 @@ Stmt* Parser::callOrAssign() {
                         : at(Keyword::Me)                         ? make<Expr>(Expr{ExprKind::Me, 0, pos})
                                                                   : name();
     if (first->kind == ExprKind::Me) advance();
-    const Expr* target = postfix(first, true);
+    const Expr* target = atPostfix() ? postfix(first, true) : first;
     if (at(TokenKind::Equal)) return assignTo(pos, target);
     if (lastName(target) == known_.print) return make<PrintStmt>(stmtHead(StmtKind::Print, pos), target, printItems());
     if (target->kind == ExprKind::Index) return callWithParentheses(pos, as<IndexExpr>(*target));

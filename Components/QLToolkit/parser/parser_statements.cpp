@@ -97,7 +97,7 @@ void Parser::failInsideProcedure() {
         const auto atEnd = [&] { return at(Keyword::End) && lexer_.peek().is(kind); };
         while (!at(TokenKind::EndOfFile) && !atEnd() && !(lineStart_ && atProcedureHead())) {
             lineStart_ = at(TokenKind::EndOfLine);
-            advance();
+            advanceLine();
         }
         lexer_.quiet(false);
     }

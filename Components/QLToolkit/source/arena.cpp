@@ -5,12 +5,12 @@ namespace qltoolkit {
 
 namespace {
 constexpr std::size_t kFirstChunk = 16 * 1024;
-constexpr std::size_t kLargestChunk = 4 * 1024 * 1024;
+constexpr std::size_t kLargestChunk = 1024 * 1024;
 } // namespace
 
-// Chunks double in size up to a limit: a small file needs little memory, a large one few allocations.
+// Chunks grow with the arena up to a limit: little of the last one stays unused, and a large file needs few allocations.
 std::uintptr_t Arena::grow(std::size_t size) {
-    const std::size_t wanted = std::clamp(footprint_, kFirstChunk, kLargestChunk);
+    const std::size_t wanted = std::clamp(footprint_ / 4, kFirstChunk, kLargestChunk);
     const std::size_t chunk = std::max(wanted, size);
     chunks_.emplace_back(new std::byte[chunk]);
     footprint_ += chunk;

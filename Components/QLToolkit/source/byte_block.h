@@ -1,6 +1,7 @@
 #pragma once
 // Sixteen bytes of text at once: bit i of each mask is about byte i.
 #include "Components/QLToolkit/source/name_words.h"
+#include <bit>
 #include <cstdint>
 #if defined(__SSE2__)
 #include <emmintrin.h>
@@ -9,6 +10,11 @@
 namespace qltoolkit {
 
 inline constexpr std::uint32_t kBlockBytes = 16;
+
+/// Returns 16 if the first 16 bits are 0.
+inline std::uint32_t bytesBefore(std::uint32_t mask) {
+    return static_cast<std::uint32_t>(std::countr_zero(mask | 1u << kBlockBytes));
+}
 
 /// For all processors. Always reads 16 bytes.
 class WordByteBlock {
@@ -28,8 +34,8 @@ public:
         return mask(~usual(low_), ~usual(high_));
     }
     [[nodiscard]] std::uint32_t beyondAscii() const { return mask(low_, high_); }
-    /// Bytes that cannot be part of a name of ASCII letters, digits and underscores.
-    [[nodiscard]] std::uint32_t outsideNames() const { return mask(outside(low_), outside(high_)); }
+    /// Returns how many bytes precede the first that cannot be part of a name of ASCII letters, digits and underscores.
+    [[nodiscard]] std::uint32_t nameBytes() const { return bytesBefore(mask(outside(low_), outside(high_))); }
 
 private:
     static constexpr std::uint64_t kLow = everyByte(0x7F);
@@ -62,10 +68,10 @@ public:
     [[nodiscard]] std::uint32_t equal(char c) const { return mask(_mm_cmpeq_epi8(bytes_, every(c))); }
     [[nodiscard]] std::uint32_t unusual() const { return mask(_mm_cmplt_epi8(bytes_, every(' '))); }
     [[nodiscard]] std::uint32_t beyondAscii() const { return mask(bytes_); }
-    [[nodiscard]] std::uint32_t outsideNames() const {
+    [[nodiscard]] std::uint32_t nameBytes() const {
         const auto letters = upTo('z', 'a', _mm_or_si128(bytes_, every(0x20)));
         const auto others = _mm_or_si128(upTo('9', '0', bytes_), _mm_cmpeq_epi8(bytes_, every('_')));
-        return mask(_mm_or_si128(letters, others)) ^ 0xFFFF;
+        return bytesBefore(~mask(_mm_or_si128(letters, others)));
     }
 
 private:
