@@ -66,6 +66,16 @@ TEST(Words, HoldTheSameNameCharactersAsTheTable) { checkBlock<qltoolkit::ByteBlo
 
 TEST(Words, AreReadAlikeOnAllProcessors) { checkBlock<qltoolkit::WordByteBlock>(); }
 
+TEST(Words, EndLinesAlikeOnAllProcessors) {
+    std::mt19937 random(2);
+    for (int run = 0; run < 20'000; ++run) {
+        std::string text(qltoolkit::kBlockBytes + 1, ' ');
+        for (char& c : text) c = "\r\n\v\x8D\x8A\0"[random() % 6];
+        const auto words = qltoolkit::WordByteBlock(text.data()).lineEnds(text.data());
+        ASSERT_EQ(qltoolkit::ByteBlock(text.data()).lineEnds(text.data()), words) << testing::PrintToString(text);
+    }
+}
+
 TEST(Words, AreSplitIntoLinesAnywhere) {
     std::mt19937 random(1);
     for (int run = 0; run < 20'000; ++run) {

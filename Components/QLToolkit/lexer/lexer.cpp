@@ -92,11 +92,15 @@ inline void Lexer::readName(Token& token, const char* p) {
     endName(token, p + length, key, keywordOfKey(key));
 }
 
+// Most lines begin with code, which is found at once; readFirst looks for the others'.
 void Lexer::endLine(Token& token) {
     token.kind = TokenKind::EndOfLine;
     token.end = token.begin;
     nextLine();
-    atLineStart_ = true;
+    continuations_ = 0;
+    const char* p = skipBlanks(base_ + pos_);
+    atLineStart_ = startOf(*p) != Start::Letter;
+    if (!atLineStart_) pos_ = static_cast<Pos>(p - base_);
 }
 
 void Lexer::readOther(Token& token, const char* p) {

@@ -156,7 +156,7 @@ private:
     void statementLine(BlockBuilder&);
     void expectEndOfStatement();
     bool label(BlockBuilder&);
-    bool namedLabel(BlockBuilder&);
+    [[nodiscard]] bool mayBeLabel() const;
     Stmt* ifStatement();
     bool recoverToThen();
     Stmt* singleLineIf(Pos, const Expr* condition);

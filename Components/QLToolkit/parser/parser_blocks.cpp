@@ -68,7 +68,7 @@ void Parser::statementLine(BlockBuilder& body) {
     try {
         const bool first = lineStart_;
         lineStart_ = false;
-        if (first && label(body)) return; // the end of a block may follow
+        if (first && mayBeLabel() && label(body)) return; // the end of a block may follow
         if (Stmt* stmt = statement()) body.add(stmt);
         if (!inNextList_ && !cutShort_) expectEndOfStatement();
     } catch (const SyntaxError&) { recover(); }
@@ -77,6 +77,12 @@ void Parser::statementLine(BlockBuilder& body) {
 
 void Parser::expectEndOfStatement() {
     if (!tok_.endsStatement()) failHere(Message::EndOfStatementExpected);
+}
+
+bool Parser::mayBeLabel() const {
+    if (at(TokenKind::Integer) || at(TokenKind::Long)) return true;
+    const bool word = at(TokenKind::Identifier) || (at(TokenKind::Keyword) && !isReserved(tok_.keyword));
+    return word && lexer_.colonFollows(tok_);
 }
 
 bool Parser::label(BlockBuilder& body) {
@@ -88,12 +94,6 @@ bool Parser::label(BlockBuilder& body) {
         accept(TokenKind::Colon);
         return true;
     }
-    const bool word = at(TokenKind::Identifier) || (at(TokenKind::Keyword) && !isReserved(tok_.keyword));
-    return word && lexer_.colonFollows(tok_) && namedLabel(body);
-}
-
-bool Parser::namedLabel(BlockBuilder& body) {
-    const Pos pos = tok_.begin;
     const Symbol name = symbolOf(tok_);
     if (name == known_.doEvents) return false;
     body.add(make<TargetStmt>(stmtHead(StmtKind::Label, pos), Target{name, 0, pos}));

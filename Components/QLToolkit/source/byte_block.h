@@ -21,12 +21,11 @@ class WordByteBlock {
 public:
     explicit WordByteBlock(const char* at) : low_(wordAt(at)), high_(wordAt(at + kWordBytes)) {}
 
-    [[nodiscard]] std::uint32_t equal(char c) const {
-        const auto same = [c](std::uint64_t word) {
-            const auto rest = word ^ everyByte(static_cast<unsigned char>(c));
-            return ~(((rest & kLow) + kLow) | rest);
-        };
-        return mask(same(low_), same(high_));
+    [[nodiscard]] std::uint32_t equal(char c) const { return mask(same(low_, c), same(high_, c)); }
+    /// Bytes after which a line begins: a LF, or a CR without one. `at` is the block's, of which 17 bytes are read.
+    [[nodiscard]] std::uint32_t lineEnds(const char* at) const {
+        const auto feeds = equal('\n') | std::uint32_t{at[kBlockBytes] == '\n'} << kBlockBytes;
+        return (feeds | (equal('\r') & ~(feeds >> 1))) & 0xFFFF;
     }
     /// Control characters, and bytes beyond ASCII.
     [[nodiscard]] std::uint32_t unusual() const {
@@ -40,6 +39,10 @@ public:
 private:
     static constexpr std::uint64_t kLow = everyByte(0x7F);
 
+    static std::uint64_t same(std::uint64_t word, char c) {
+        const auto rest = word ^ everyByte(static_cast<unsigned char>(c));
+        return ~(((rest & kLow) + kLow) | rest);
+    }
     static std::uint64_t outside(std::uint64_t word) {
         const auto between = [](std::uint64_t ascii, unsigned first, unsigned last) {
             return (ascii + everyByte(0x80 - first)) & ~(ascii + everyByte(0x7F - last));
@@ -65,7 +68,10 @@ class SseByteBlock {
 public:
     explicit SseByteBlock(const char* at) : bytes_(_mm_loadu_si128(reinterpret_cast<const __m128i*>(at))) {}
 
-    [[nodiscard]] std::uint32_t equal(char c) const { return mask(_mm_cmpeq_epi8(bytes_, every(c))); }
+    [[nodiscard]] std::uint32_t equal(char c) const { return mask(same(c)); }
+    [[nodiscard]] std::uint32_t lineEnds(const char* at) const {
+        return mask(_mm_or_si128(same('\n'), _mm_andnot_si128(SseByteBlock(at + 1).same('\n'), same('\r'))));
+    }
     [[nodiscard]] std::uint32_t unusual() const { return mask(_mm_cmplt_epi8(bytes_, every(' '))); }
     [[nodiscard]] std::uint32_t beyondAscii() const { return mask(bytes_); }
     [[nodiscard]] std::uint32_t nameBytes() const {
@@ -75,6 +81,7 @@ public:
     }
 
 private:
+    [[nodiscard]] __m128i same(char c) const { return _mm_cmpeq_epi8(bytes_, every(c)); }
     static __m128i every(int c) { return _mm_set1_epi8(static_cast<char>(c)); }
     // Moves the range to the end of the signed bytes, so that one comparison finds it.
     static __m128i upTo(int last, int first, __m128i bytes) {

@@ -4,7 +4,6 @@
 #include "Components/QLToolkit/source/encoding.h"
 #include <algorithm>
 #include <array>
-#include <bit>
 
 namespace qltoolkit {
 
@@ -64,6 +63,11 @@ public:
             resize(starts_.size() * 2);
     }
     void add(Pos start) { *next_++ = start; }
+    // Without a branch.
+    void addIf(bool really, Pos start) {
+        *next_ = start;
+        next_ += really;
+    }
     Pos last() const { return next_[-1]; }
 
 private:
@@ -117,13 +121,11 @@ bool SourceText::splitLines() {
     std::uint32_t beyondAscii = 0;
     for (Pos at = 0; at < size_; at += kBlockBytes) {
         const ByteBlock block{base + at};
-        if (block.unusual() == 0) continue;
         beyondAscii |= block.beyondAscii();
-        const auto feeds = block.equal('\n'), returns = block.equal('\r');
-        const bool feedNext = base[at + kBlockBytes] == '\n';
-        auto ends = feeds | (returns & ~(feeds >> 1 | std::uint32_t{feedNext} << (kBlockBytes - 1)));
+        auto ends = block.lineEnds(base + at);
         starts.reserveBlock();
-        for (; ends != 0; ends &= ends - 1) starts.add(at + static_cast<Pos>(std::countr_zero(ends)) + 1);
+        starts.addIf(ends != 0, at + bytesBefore(ends) + 1); // few blocks have more, and none is as frequent as one
+        for (ends &= ends - 1; ends != 0; ends &= ends - 1) starts.add(at + bytesBefore(ends) + 1);
     }
     if (starts.last() != size_) starts.add(size_);
     return beyondAscii == 0;
