@@ -4,7 +4,7 @@
 namespace qltoolkit {
 
 namespace {
-constexpr std::size_t kFirstChunk = 16 * 1024;
+constexpr std::size_t kFirstChunk = 4 * 1024;
 constexpr std::size_t kLargestChunk = 1024 * 1024;
 } // namespace
 
