@@ -76,6 +76,19 @@ TEST(ParserLimits, AcceptsLongChains) {
     EXPECT_EQ(Parsed("#If 1" + repeat(" And 1", 100'000) + " Then\nDim a\n#End If").diagnostics(), "");
 }
 
+TEST(ParserLimits, TreesOfOrdinaryCodeAreSmall) {
+    const std::string procedure =
+        "Public Function Work(ByVal first As Long) As Long\r\n    Dim i As Long, text As String\r\n"
+        "    For i = 1 To 10\r\n        If first > i And i < 8 Then\r\n"
+        "            text = text & \"item \" & CStr(i)\r\n        End If\r\n    Next\r\n"
+        "    Work = Len(text) + first \\ 3  ' towards the limit\r\nEnd Function\r\n\r\n";
+    for (const int count : {1000, 10'000}) {
+        const auto text = repeat(procedure, static_cast<std::size_t>(count));
+        const Parsed parsed{text};
+        EXPECT_LT(static_cast<double>(parsed.result.module->arena.footprint()), static_cast<double>(text.size()) * 4);
+    }
+}
+
 TEST(ParserLimits, AcceptsALineOfTenMegabytes) {
     constexpr std::size_t kTenMegabytes = 10'000'000;
     EXPECT_EQ(errorsOf("x = \"" + std::string(kTenMegabytes, 'a') + "\""), "");

@@ -26,10 +26,10 @@ enum class DeclKind : std::uint8_t {
 };
 
 struct Decl {
+    const Decl* next = nullptr;
+    Pos pos;
     DeclKind kind;
     Visibility visibility = Visibility::Default;
-    Pos pos;
-    const Decl* next = nullptr;
 };
 
 struct OptionBaseDecl : Decl {
@@ -92,8 +92,8 @@ struct EventDecl : Decl {
     Span<Parameter> parameters;
 };
 struct ProcedureDecl : Decl {
-    Signature signature;
     bool isStatic;
+    Signature signature;
     Block body;
     Pos end;
 }; ///< end: pos of End Sub

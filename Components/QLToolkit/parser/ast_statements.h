@@ -60,11 +60,11 @@ enum class StmtKind : std::uint8_t {
 };
 
 /// Every statement. Return, Stop, End, the Exit family, ResumeNext, OnErrorResumeNext, OnErrorOff (GoTo 0) and
-/// OnErrorClear (GoTo -1) have no further members.
+/// OnErrorClear (GoTo -1) have no further members. The first small members of others use the space after the kind.
 struct Stmt {
-    StmtKind kind;
-    Pos pos;
     const Stmt* next = nullptr;
+    Pos pos;
+    StmtKind kind;
 };
 
 /// A list of statements, linked by next.
@@ -85,9 +85,9 @@ struct TargetStmt : Stmt {
 };
 /// Let, Set, LSet, RSet. explicitLet if the word Let was written.
 struct AssignStmt : Stmt {
+    bool explicitLet;
     const Expr* target;
     const Expr* value;
-    bool explicitLet = false;
 };
 /// Mid(target, start, length) = value; also MidB, Mid$ and MidB$.
 struct MidAssignStmt : Stmt {
@@ -96,8 +96,8 @@ struct MidAssignStmt : Stmt {
 };
 /// Call x, or x alone. `x a, b` and `Call x(a, b)` both have an IndexExpr here.
 struct CallStmt : Stmt {
+    bool explicitCall;
     const Expr* call;
-    bool explicitCall = false;
 };
 
 struct Bound {

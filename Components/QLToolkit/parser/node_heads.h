@@ -4,9 +4,9 @@
 
 namespace qltoolkit {
 
-inline Stmt stmtHead(StmtKind kind, Pos pos) { return {kind, pos}; }
+inline Stmt stmtHead(StmtKind kind, Pos pos) { return {nullptr, pos, kind}; }
 inline Expr exprHead(ExprKind kind, Pos pos) { return {kind, 0, pos}; }
 inline Expr exprHead(ExprKind kind, Operator op, Pos pos) { return {kind, static_cast<std::uint8_t>(op), pos}; }
-inline Decl declHead(DeclKind kind, Visibility visibility, Pos pos) { return {kind, visibility, pos}; }
+inline Decl declHead(DeclKind kind, Visibility visibility, Pos pos) { return {nullptr, pos, kind, visibility}; }
 
 } // namespace qltoolkit

@@ -82,8 +82,8 @@ private:
     void expect(Keyword, Message);
     [[nodiscard]] bool endsStatement() const { return tok_.endsStatement() || at(Keyword::Else); }
     [[nodiscard]] Symbol symbolOf(const Token& token) {
-        const Symbol symbol = symbols_.find(token.nameKey);
-        return symbol != Symbol::None ? symbol : intern(token);
+        const Symbol* const found = symbols_.find(token.nameKey);
+        return found ? *found : intern(token);
     }
     [[nodiscard]] Symbol intern(const Token&);
     [[nodiscard]] bool atName() const;
@@ -242,11 +242,17 @@ private:
     const Expr* keywordOperand();
     const Expr* prefix(Operator, int power);
     const Expr* literal();
+    IntegerExpr* integer();
+    FloatExpr* real();
     const Expr* stringLiteral();
     const Expr* dateLiteral();
     const Expr* parenthesized();
     const Expr* typeOf();
     const Expr* name();
+    const Expr* nameAndRest() {
+        const Expr* e = name();
+        return atPostfix() ? postfix(e, false) : e;
+    }
     const Expr* withMember();
     const Expr* member(const Expr* base);
     const Expr* postfix(const Expr* base, bool callee);

@@ -43,6 +43,24 @@ void Parser::closeBlock() {
     blocks_.pop_back();
 }
 
+inline bool Parser::mayBeLabel() const {
+    if (at(TokenKind::Integer) || at(TokenKind::Long)) return true;
+    const bool word = at(TokenKind::Identifier) || (at(TokenKind::Keyword) && !isReserved(tok_.keyword));
+    return word && lexer_.colonFollows(tok_);
+}
+
+inline void Parser::statementLine(BlockBuilder& body) {
+    if (tok_.endsStatement()) return;
+    try {
+        const bool first = lineStart_;
+        lineStart_ = false;
+        if (first && mayBeLabel() && label(body)) return; // the end of a block may follow
+        if (Stmt* stmt = statement()) body.add(stmt);
+        if (!inNextList_ && !cutShort_) expectEndOfStatement();
+    } catch (const SyntaxError&) { recover(); }
+    cutShort_ = false;
+}
+
 // Parses statements up to the end of the innermost open block, or of an enclosing one.
 Block Parser::block(BlockKind kind) {
     BlockBuilder body;
@@ -63,26 +81,8 @@ Block Parser::block(BlockKind kind) {
     return body.block;
 }
 
-void Parser::statementLine(BlockBuilder& body) {
-    if (tok_.endsStatement()) return;
-    try {
-        const bool first = lineStart_;
-        lineStart_ = false;
-        if (first && mayBeLabel() && label(body)) return; // the end of a block may follow
-        if (Stmt* stmt = statement()) body.add(stmt);
-        if (!inNextList_ && !cutShort_) expectEndOfStatement();
-    } catch (const SyntaxError&) { recover(); }
-    cutShort_ = false;
-}
-
 void Parser::expectEndOfStatement() {
     if (!tok_.endsStatement()) failHere(Message::EndOfStatementExpected);
-}
-
-bool Parser::mayBeLabel() const {
-    if (at(TokenKind::Integer) || at(TokenKind::Long)) return true;
-    const bool word = at(TokenKind::Identifier) || (at(TokenKind::Keyword) && !isReserved(tok_.keyword));
-    return word && lexer_.colonFollows(tok_);
 }
 
 bool Parser::label(BlockBuilder& body) {

@@ -25,7 +25,7 @@ Stmt* Parser::callOrAssign() {
     if (target->kind == ExprKind::Index) return callWithParentheses(pos, as<IndexExpr>(*target));
     if (target->kind != ExprKind::Name && target->kind != ExprKind::Member && target->kind != ExprKind::Bang)
         failHere(Message::CallTargetExpected);
-    if (endsStatement()) return make<CallStmt>(stmtHead(StmtKind::Call, pos), target);
+    if (endsStatement()) return make<CallStmt>(stmtHead(StmtKind::Call, pos), false, target);
     return callWithoutParentheses(pos, target);
 }
 
@@ -37,7 +37,7 @@ Stmt* Parser::assignTo(Pos pos, const Expr* target) {
         if (name == known_.mid || name == known_.midB) return midAssign(pos, index, name == known_.midB);
     }
     advance();
-    return make<AssignStmt>(stmtHead(StmtKind::Let, pos), target, expression());
+    return make<AssignStmt>(stmtHead(StmtKind::Let, pos), false, target, expression());
 }
 
 Stmt* Parser::midAssign(Pos pos, const IndexExpr& call, bool bytes) {
@@ -53,7 +53,7 @@ Stmt* Parser::callStatement() {
     advance();
     const Expr* call = reference();
     if (!isAssignable(*call)) fail(Message::CallTargetExpected, call->pos);
-    return make<CallStmt>(stmtHead(StmtKind::Call, pos), call, true);
+    return make<CallStmt>(stmtHead(StmtKind::Call, pos), true, call);
 }
 
 Symbol Parser::lastName(const Expr* e) const {
@@ -83,7 +83,7 @@ Stmt* Parser::callWithParentheses(Pos pos, const IndexExpr& call) {
     const auto& inner = call.arguments;
     if (inner.size() == 2 && inner[0].name == Symbol::None && drawsAtCoordinates(call.callee))
         return coordinateCall(pos, call.callee, &call);
-    if (inner.empty() && endsStatement()) return make<CallStmt>(stmtHead(StmtKind::Call, pos), &call);
+    if (inner.empty() && endsStatement()) return make<CallStmt>(stmtHead(StmtKind::Call, pos), false, &call);
     if (inner.size() != 1 || !inner[0].value || inner[0].name != Symbol::None || inner[0].byVal)
         fail(Message::CallParentheses, call.pos);
     ListBuilder<Argument> arguments{scratch_.arguments};
@@ -99,7 +99,7 @@ Stmt* Parser::makeCall(Pos pos, const Expr* callee, ListBuilder<Argument>& argum
         accept(Keyword::As))
         return make<FileStmt>(stmtHead(StmtKind::NameAs, pos), arguments[0].value, expression(), nullptr);
     const auto* call = make<IndexExpr>(Expr{ExprKind::Index, 0, callee->pos}, callee, arguments.finish(module_.arena));
-    return make<CallStmt>(stmtHead(StmtKind::Call, pos), call);
+    return make<CallStmt>(stmtHead(StmtKind::Call, pos), false, call);
 }
 
 Stmt* Parser::coordinateCall(Pos pos, const Expr* callee, const IndexExpr* first) {

@@ -61,7 +61,7 @@ OperatorInfo operatorOf(const Token& t) {
 const Expr* Parser::binary(int minPower) {
     const Nesting nesting{depth_};
     if (depth_ > kMaxDepth) fail(Message::ExpressionTooDeep, tok_.begin);
-    const Expr* left = operand();
+    const Expr* left = at(TokenKind::Identifier) ? nameAndRest() : operand();
     return operatorOf(tok_).power < minPower ? left : binaryRest(left, minPower);
 }
 
@@ -79,10 +79,7 @@ const Expr* Parser::binaryRest(const Expr* left, int minPower) {
 
 const Expr* Parser::operand() {
     switch (tok_.kind) {
-    case TokenKind::Identifier: {
-        const Expr* e = name();
-        return atPostfix() ? postfix(e, false) : e;
-    }
+    case TokenKind::Identifier: return nameAndRest();
     case TokenKind::Integer:
     case TokenKind::Long:
     case TokenKind::Currency:
@@ -147,13 +144,21 @@ const Expr* Parser::prefix(Operator op, int power) {
 const Expr* Parser::literal() {
     constexpr auto kFirst = static_cast<int>(TokenKind::Integer);
     static_assert(static_cast<int>(TokenKind::Date) - kFirst == static_cast<int>(ExprKind::Date));
-    const auto head = exprHead(static_cast<ExprKind>(static_cast<int>(tok_.kind) - kFirst), tok_.begin);
-    const Expr* e = nullptr;
-    if (tok_.kind <= TokenKind::Currency)
-        e = make<IntegerExpr>(head, tok_.integer);
-    else
-        e = make<FloatExpr>(head, tok_.real);
+    Expr* const e = tok_.kind <= TokenKind::Currency ? static_cast<Expr*>(integer()) : real();
+    *e = exprHead(static_cast<ExprKind>(static_cast<int>(tok_.kind) - kFirst), tok_.begin);
     advance();
+    return e;
+}
+
+IntegerExpr* Parser::integer() {
+    auto* e = make<IntegerExpr>();
+    e->value = tok_.integer;
+    return e;
+}
+
+FloatExpr* Parser::real() {
+    auto* e = make<FloatExpr>();
+    e->value = tok_.real;
     return e;
 }
 

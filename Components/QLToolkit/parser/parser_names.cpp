@@ -4,9 +4,11 @@
 
 namespace qltoolkit {
 
+// The node is made before its members are read, so that fewer values have to be kept during calls.
 const Expr* Parser::name() {
-    const auto suffix = static_cast<std::uint8_t>(tok_.suffix);
-    const auto* e = make<NameExpr>(Expr{ExprKind::Name, suffix, tok_.begin}, symbolOf(tok_));
+    auto* e = make<NameExpr>();
+    static_cast<Expr&>(*e) = {ExprKind::Name, static_cast<std::uint8_t>(tok_.suffix), tok_.begin};
+    e->name = symbolOf(tok_);
     advance();
     return e;
 }

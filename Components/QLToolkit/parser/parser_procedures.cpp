@@ -15,7 +15,7 @@ Keyword endWord(ProcedureKind kind) {
 
 void Parser::procedure(Visibility visibility, bool isStatic, Pos pos) {
     auto* p =
-        make<ProcedureDecl>(declHead(DeclKind::Procedure, visibility, pos), Signature{}, isStatic, Block{}, Pos{0});
+        make<ProcedureDecl>(declHead(DeclKind::Procedure, visibility, pos), isStatic, Signature{}, Block{}, Pos{0});
     head([&] {
         procedureKind(p->signature.kind);
         signature(p->signature);

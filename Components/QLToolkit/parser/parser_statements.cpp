@@ -122,7 +122,7 @@ Stmt* Parser::assignment(StmtKind kind, bool explicitLet) {
     const Expr* target = reference();
     expect(TokenKind::Equal, Message::EqualsExpected);
     if (target->kind == ExprKind::Me || target->kind == ExprKind::Paren) fail(Message::NotAssignable, target->pos);
-    return make<AssignStmt>(stmtHead(kind, pos), target, expression(), explicitLet);
+    return make<AssignStmt>(stmtHead(kind, pos), explicitLet, target, expression());
 }
 
 Stmt* Parser::reDim() {

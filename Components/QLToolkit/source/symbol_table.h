@@ -15,10 +15,10 @@ class SymbolTable {
 public:
     SymbolTable();
 
-    /// Returns the symbol of a name that is often found at once, or None: then intern it. `key` is its nameKey.
-    [[nodiscard]] Symbol find(std::uint64_t key) const {
+    /// Returns the symbol of a name where it is found at once, or null: then intern it. `key` is its nameKey.
+    [[nodiscard]] const Symbol* find(std::uint64_t key) const {
         const Slot& slot = slots_[slotOf(key)];
-        return slot.key == key && isShortKey(key) ? slot.symbol : Symbol::None;
+        return slot.key == key && isShortKey(key) ? &slot.symbol : nullptr;
     }
     /// Returns the symbol of a name of ASCII letters, digits and underscores. Reads up to 8 bytes beyond its end, as a
     /// SourceText allows. `key` is nameKey(name, length).
