@@ -100,6 +100,16 @@ TEST_F(DesktopWindowsTest, AClosedWindowDoesNothing) {
     EXPECT_NE(surfaceOf("Zoomed - frmMain (Form)"), surface) << "numbers are never used twice";
 }
 
+TEST_F(DesktopWindowsTest, ATabThatTheUserClosesClosesItsWindow) {
+    openZoomed(kControls);
+    const auto surface = surfaceOf("Zoomed - frmMain (Form)");
+    Q_EMIT window().code().tabCloseRequested(window().code().currentIndex());
+    QTest::qWait(600); // the zoom refreshes its picture
+    EXPECT_EQ(windows().GetWindowRect(surface), WindowRect());
+    EXPECT_FALSE(zoom().canvas());
+    EXPECT_FALSE(component("frmMain")->HasOpenDesigner());
+}
+
 TEST(WindowProcedures, AnEmptyOneRestoresTheOriginal) {
     WindowProcedures procedures({made, note});
     EXPECT_EQ(procedures.set(1, {ours, note}), (WindowProc{made, note}));

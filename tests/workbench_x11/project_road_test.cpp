@@ -1,15 +1,23 @@
 // A project's settings, its conversion and its way back through the recent projects, once with the mouse only and once with
 // the keyboard only.
 #include "tests/workbench_x11/new_project.h"
+#include <QAbstractItemView>
+#include <QApplication>
 #include <QCheckBox>
+#include <QClipboard>
+#include <QComboBox>
 #include <QDialog>
+#include <QFileDialog>
+#include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTreeWidget>
 #include <gmock/gmock.h>
 
 using namespace test;
+using testing::AllOf;
 using testing::HasSubstr;
 
 namespace {
@@ -25,7 +33,9 @@ struct ProjectRoad : NewProject {
     }
     static void answerBox(With hand, const char* button) {
         eventually("a question", [] { return dynamic_cast<QMessageBox*>(dialog()); });
-        if (hand == With::Keyboard) return press({"Return"});
+        hand == With::Keyboard ? press({"Return"}) : answerWith(button);
+    }
+    static void answerWith(const char* button) {
         click(ask([&] {
             for (auto* one : dialog()->findChildren<QPushButton*>())
                 if (one->text().remove('&') == button) return middleOf(*one);
@@ -50,6 +60,49 @@ struct ProjectRoad : NewProject {
         }));
         eventually("the page " + page.toStdString(), [&] { return widget(frame).isVisible(); });
     }
+    static void chooseFromList(const char* page, int row) {
+        auto& list = *ask([&] { return widget(page).findChild<QComboBox*>(); });
+        click(ask([&] { return middleOf(list); }));
+        eventually("the list is open", [&] { return list.view()->isVisible(); });
+        click(ask(
+            [&] { return middleOf(*list.view()->viewport(), list.view()->visualRect(list.model()->index(row, 0))); }));
+        eventually("the row is chosen", [&] { return list.currentIndex() == row; });
+    }
+    static void pasteByMenu(const char* name, const char* text) {
+        ask([&] { QApplication::clipboard()->setText(text); });
+        rightClick(ask([&] { return middleOf(widget(name)); }));
+        QPoint at;
+        eventually("the menu", [&] {
+            auto* const menu = dynamic_cast<QMenu*>(QApplication::activePopupWidget());
+            if (!menu || !menu->isVisible()) return false;
+            for (auto* action : menu->actions())
+                if (action->text().startsWith("&Paste")) at = middleOf(*menu, menu->actionGeometry(action));
+            return true;
+        });
+        click(at);
+        eventually("the text", [&] { return widget<QLineEdit>(name).text() == text; });
+    }
+    /// In the dialog of files, which has one for each view.
+    static QAbstractItemView* listOfFiles() {
+        for (const char* const name : {"listView", "treeView"})
+            if (auto* list = dialog() ? dialog()->findChild<QAbstractItemView*>(name) : nullptr)
+                if (list->isVisible()) return list;
+        return nullptr;
+    }
+    /// The place of a file in it.
+    static QPoint fileEntry(const char* name) {
+        QPoint at;
+        eventually(std::string("the file ") + name, [&] {
+            auto* const list = listOfFiles();
+            if (!list) return false;
+            for (int row = 0; row < list->model()->rowCount(list->rootIndex()); ++row)
+                if (const auto entry = list->model()->index(row, 0, list->rootIndex()); entry.data().toString() == name)
+                    at = middleOf(*list->viewport(), list->visualRect(entry));
+            return !at.isNull();
+        });
+        return at;
+    }
+
     // ---- with the keyboard ----
     static void pageByKeys(const char* frame) {
         tabTo("treAvailableSettings");
@@ -135,16 +188,61 @@ TEST_F(ProjectRoad, ByTheMouseAlone) {
     clickPage("Compiler Settings", "fraCompilerOptions");
     tick("chkReferenceChecking");
     clickPage("Dependencies", "fraDependencies");
+    folder.write("HelloWorld/data.txt", "1");
+    clickOn("btnAdd");
+    click(fileEntry("data.txt"));
+    eventually("the file is chosen", [] {
+        const auto* const field = dialog() ? dialog()->findChild<QLineEdit*>("fileNameEdit") : nullptr;
+        return field && field->text().contains("data.txt");
+    });
+    answerWith("Open");
+    waitForDialog("frmQuinloftSettings");
+    clickPage("Palm OS Settings", "PalmOSPage");
+    pasteByMenu("txtCreatorID", "Hell");
+    clickPage("PocketPC Settings", "PocketPCPage");
+    chooseFromList("PocketPCPage", 1);
+    clickPage("Linux Handheld Settings", "LinuxHandheldPage");
+    pasteByMenu("txtFolder", "apps");
     clickPage("My Devices", "fraMyDevices");
     click(rowOf("lstMyDevices", 0, true));
     clickOn("btnApply");
     eventually("it is applied", [this] { return bench->host().ActiveVBProject()->IsDirty(); });
     clickOn("btnOK");
     waitForNoDialog();
-    ask([this] { expectAllStored(); });
+    ask([this] {
+        expectAllStored();
+        const auto project = bench->host().ActiveVBProject();
+        EXPECT_EQ(project->ReadProperty("Quinloft Palm OS", "CreatorID"), "Hell");
+        EXPECT_EQ(project->ReadProperty("Quinloft PocketPC", "Orientation"), "Portrait");
+        EXPECT_EQ(project->ReadProperty("Quinloft Linux Handheld", "Folder"), "apps");
+    });
 
+    // a copy takes the project's place
+    std::filesystem::create_directory(folder / "HelloWorld/copy");
     choose("&Project", "Convert to Another &Device...");
     answerBox(With::Mouse, "OK");
+    waitForDialog("frmDesignTargetConverter");
+    click(rowOf("lstDesignTargets", 1));
+    clickOn("btnOK");
+    doubleClick(fileEntry("copy"));
+    eventually("the folder", [] {
+        const auto* files = dynamic_cast<QFileDialog*>(dialog());
+        return files && files->directory().dirName() == "copy";
+    });
+    answerWith("Save");
+    eventually("the copy is open", [this] {
+        return !QApplication::activeModalWidget() && settings() &&
+               bench->host().ActiveVBProject()->FileName() == folder / "HelloWorld/copy/HelloWorld.vbp";
+    });
+    EXPECT_THAT(read("HelloWorld/copy/HelloWorld.vbp"),
+                AllOf(HasSubstr("TargetDevice=PocketPC-"), HasSubstr("data.txt")));
+    EXPECT_THAT(read("HelloWorld/HelloWorld.vbp"), HasSubstr("TargetDevice=PalmOS-DragonBall"));
+    closeProject();
+    begin([this] { bench->open(folder / "HelloWorld/HelloWorld.vbp"); });
+    eventually("the project is open",
+               [this] { return settings() && settings()->TargetDevice() == "PalmOS-DragonBall"; });
+    // in place
+    choose("&Project", "Convert to Another &Device...");
     waitForDialog("frmDesignTargetConverter");
     click(rowOf("lstDesignTargets", 1));
     tick("chkOverwrite");

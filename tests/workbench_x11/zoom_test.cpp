@@ -5,6 +5,7 @@
 #include "tests/workbench_x11/x_desktop.h"
 #include <QComboBox>
 #include <QDockWidget>
+#include <QMessageBox>
 #include <QScreen>
 #include <QScrollBar>
 #include <QThread>
@@ -109,6 +110,26 @@ struct ZoomOnScreen : XDesktop {
         for (const auto& at : to) xdotool(QStringList{"mousemove"} + pixels(at));
     }
     static void letGo() { xdotool({"mouseup", "1"}); }
+    static void shiftClick(const QPoint& at) {
+        xdotool({"keydown", "shift"});
+        click(at);
+        xdotool({"keyup", "shift"});
+    }
+    /// Presses on a control in the zoom window and moves it, without a release.
+    void beginDrag(const std::string& name) {
+        const auto middle = middleOfControl(name);
+        hold(inZoom(middle), {inZoom(middle + QPoint(16, 16))});
+        eventually("it is dragged", [this] { return canvas().isDragging(); });
+    }
+    void expectLost() {
+        eventually("the drag has ended", [this] { return bench->windows().mouse().captured() == 0; });
+    }
+    /// That a later drag finds nothing left of one that was lost.
+    void expectDragWorks() {
+        const auto middle = middleOfControl("cmdTwo");
+        drag(inZoom(middle), inZoom(middle + QPoint(16, 8)));
+        eventually("it is moved", [this] { return valueOf("cmdTwo", "Left") == "840"; });
+    }
     static QStringList pixels(const QPoint& at) {
         const auto scaled = QPointF(at) * qApp->devicePixelRatio();
         return {QString::number(int(std::ceil(scaled.x()))), QString::number(int(std::ceil(scaled.y())))};
@@ -149,7 +170,8 @@ TEST_F(ZoomOnScreen, EachPixelIsASquare) {
         QRect shown;
         eventually("the control at level " + std::to_string(level), [&] {
             shown = shownPlace(*zoom(), Qt::red);
-            return !shown.isEmpty();
+            constexpr int kAtLeast = 70; // pixels of the form; that of another level is smaller
+            return shown.width() >= kAtLeast * level * ratio;
         });
         const auto designed =
             ask([this] { return canvas().onCanvas(view().picture().find(control("txtOne"))->place); });
@@ -220,22 +242,53 @@ TEST_F(ZoomOnScreen, KeysWorkInDockAndOutside) {
 
 TEST_F(ZoomOnScreen, EscapeAndAClosedDesignerEndADrag) {
     enlarge(2);
-    const auto middle = middleOfControl("cmdTwo");
     const auto before = ask([this] { return placeOf("cmdTwo"); });
-    hold(inZoom(middle), {inZoom(middle + QPoint(16, 16))});
-    eventually("it is dragged", [this] { return canvas().isDragging(); });
+    beginDrag("cmdTwo");
     press({"Escape"});
-    eventually("the drag has ended", [this] { return bench->windows().mouse().captured() == 0; });
+    expectLost();
     letGo();
     EXPECT_EQ(ask([this] { return placeOf("cmdTwo"); }), before);
-    hold(inZoom(middle), {inZoom(middle + QPoint(16, 16))});
-    ask([this] { component("frmMain")->DesignerWindow()->Close(); });
-    eventually("no mouse", [this] { return bench->windows().mouse().captured() == 0; });
+    beginDrag("cmdTwo");
+    press({"ctrl+F4"});
+    eventually("the designer is closed", [this] { return !window().design().forms().current(); });
+    expectLost();
     letGo();
     begin([this] { window().design().open(component("frmMain")); });
     eventually("the designer", [this] { return zoom()->canvas() && window().design().forms().current(); });
-    drag(inZoom(middle), inZoom(middle + QPoint(16, 8)));
-    eventually("it is moved", [this] { return valueOf("cmdTwo", "Left") == "840"; });
+    EXPECT_EQ(ask([this] { return placeOf("cmdTwo"); }), before);
+    expectDragWorks();
+}
+
+TEST_F(ZoomOnScreen, ABoxEndsADrag) {
+    enlarge(2);
+    const auto before = ask([this] { return placeOf("cmdTwo"); });
+    beginDrag("cmdTwo");
+    begin([this] { QMessageBox::information(&window(), "A box", "It opens while the mouse is down."); });
+    eventually("the box",
+               [] { return QApplication::activeModalWidget() && QApplication::activeModalWidget()->isActiveWindow(); });
+    expectLost();
+    letGo();
+    press({"Return"});
+    eventually("no box", [] { return !QApplication::activeModalWidget(); });
+    EXPECT_EQ(ask([this] { return placeOf("cmdTwo"); }), before);
+    expectDragWorks();
+}
+
+TEST_F(ZoomOnScreen, ShiftClicksSelectSeveralControls) {
+    enlarge(2);
+    ask([this] { view().select(nullptr); });
+    click(inZoom(middleOfControl("txtOne")));
+    eventually("one is selected", [this] { return isSelected("txtOne"); });
+    shiftClick(inZoom(middleOfControl("cmdTwo")));
+    eventually("both are selected", [this] { return isSelected("cmdTwo") && view().selection().size() == 2; });
+    const auto beside = middleOfControl("cmdTwo") + QPoint(20, 8); // two presses at one place are a double click
+    drag(inZoom(beside), inZoom(beside + QPoint(16, 8)));
+    eventually("both are moved", [this] {
+        return valueOf("cmdTwo", "Left") == "840" && valueOf("txtOne", "Left") == "480" &&
+               valueOf("txtOne", "Top") == "360";
+    });
+    shiftClick(inZoom(middleOfControl("txtOne")));
+    eventually("one is left", [this] { return isSelected("cmdTwo") && view().selection().size() == 1; });
 }
 
 TEST_F(ZoomOnScreen, IsClosedAndOpenedAgain) {

@@ -77,25 +77,33 @@ FormView* FormWindows::viewOf(const vbide::Ref<vbide::VBComponent>& component) c
 
 FormView* FormWindows::current() const { return dynamic_cast<FormView*>(tabs_.currentWidget()); }
 
-/// Closes the designer with its tab.
+/// Closes the designer with its tab, before Qt deletes the view without `closing`.
 void FormWindows::closed(QWidget* tab) {
-    if (auto* view = dynamic_cast<FormView*>(tab))
-        (void)basic::attempt([&] { view->component()->DesignerWindow()->Close(); });
+    auto* const view = dynamic_cast<FormView*>(tab);
+    if (!view) return;
+    (void)basic::attempt([&] { view->component()->DesignerWindow()->Close(); });
+    refresh();
+}
+
+/// Handlers of the event may process further ones.
+void FormWindows::close(QPointer<FormView> view) {
+    closing.raise(*view);
+    delete view;
 }
 
 void FormWindows::refresh() {
-    for (auto* view : views()) {
-        bool open = false;
+    const auto open = views();
+    for (const QPointer<FormView>& view : std::vector<QPointer<FormView>>(open.begin(), open.end())) {
+        if (!view) continue;
+        bool isOpen = false;
         (void)basic::attempt([&] { // fails for a removed component
             const auto& component = view->component();
-            open = component->HasOpenDesigner();
+            isOpen = component->HasOpenDesigner();
             tabs_.setTabText(tabs_.indexOf(view),
                              QString("%1 (Form)%2").arg(qt(component->Name()), component->IsDirty() ? " *" : ""));
             tabs_.setTabToolTip(tabs_.indexOf(view), qt(component->FileNames(1)));
         });
-        if (open) continue;
-        closing.raise(*view);
-        delete view;
+        if (!isOpen) close(view);
     }
 }
 

@@ -2,6 +2,7 @@
 // The open form views, which are tabs beside the code windows.
 #include "Apps/workbench/code/code_windows.h"
 #include "Apps/workbench/designer/form_view.h"
+#include <QPointer>
 
 namespace workbench {
 
@@ -40,6 +41,7 @@ private:
     void open(const vbide::Ref<vbide::VBComponent>& component);
     void show(const vbide::Ref<vbide::VBComponent>& component);
     void closed(QWidget* tab);
+    void close(QPointer<FormView> view);
     /// Makes the host raise its event, once, for the form that the user works on.
     void activate(const vbide::Ref<vbide::VBComponent>& component);
     void refresh();

@@ -50,7 +50,7 @@ void TabOrder::paint(QPainter& painter, const FormPicture& picture) const {
     painter.setFont(font);
     for (const auto& control : order_) {
         const auto* drawn = picture.find(control);
-        if (!drawn) continue;
+        if (!drawn || drawn->clip.isEmpty()) continue; // outside of its container
         paintBadge(painter, drawn->place.normalized().topLeft(), QString::number(drawn->tabIndex), isClicked(control));
     }
 }

@@ -15,12 +15,7 @@ Module [_HiddenModule]
   Function StrPtr(Ptr As String) As Long hidden ' A number that identifies a text; 0 for vbNullString
   Function Tab(Optional Column As Integer) hidden ' A column in Print
   Function VarPtr(Ptr As Any) As Long hidden ' A number that identifies a variable
-  Property Debug As Debug readonly hidden ' The output of a program that is being tested
   Sub Width(FileNumber As Integer, Width As Integer) hidden ' The longest line of a file
-
-Class Debug
-  Sub Assert(BooleanCheck As Boolean) ' Stops where the value is False
-  Sub Print(ParamArray OutputList()) ' Writes a line
 )";
 
 } // namespace language

@@ -72,7 +72,6 @@ private:
     void exitProcedure(bool fits, std::string_view word, Pos pos);
     void raiseEvent(const RaiseEventStmt& stmt);
     void print(const PrintStmt& stmt);
-    bool isPlace(const Expr& item);
     void printTarget(const Expr& target);
     void value(const Expr* expr, ValueType wanted);
 

@@ -1,5 +1,4 @@
 // Statements.
-#include "Basic/case_folding.h"
 #include "Components/QLToolkit/names/binder.h"
 #include "Components/QLToolkit/names/lookup.h"
 #include "Components/QLToolkit/types/operators.h"
@@ -221,18 +220,7 @@ void Binder::print(const PrintStmt& stmt) {
     else
         value(stmt.target, ValueType::Integer);
     for (const auto& item : stmt.items)
-        if (item.value && !isPlace(*item.value)) (void)expression(*item.value);
-}
-
-/// Tab and Spc, which are known within Print only.
-bool Binder::isPlace(const Expr& item) {
-    const Expr& callee = item.kind == ExprKind::Index ? *as<IndexExpr>(item).callee : item;
-    if (callee.kind != ExprKind::Name) return false;
-    const auto name = program_.symbols.spelling(as<NameExpr>(callee).name);
-    if (!basic::equalNoCase(name, "Tab") && !basic::equalNoCase(name, "Spc")) return false;
-    if (item.kind == ExprKind::Index)
-        for (const auto& given : as<IndexExpr>(item).arguments) value(given.value, ValueType::Integer);
-    return true;
+        if (item.value) (void)expression(*item.value);
 }
 
 // The items of Print are no arguments, so the method itself is not called here.
