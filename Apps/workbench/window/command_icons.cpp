@@ -58,6 +58,8 @@ constexpr std::array kCommandIcons{
     CommandIcon{kFindNextId, "FindNext"},
     CommandIcon{kFindPreviousId, "FindPrevious"},
     CommandIcon{kReplaceId, "Replace"},
+    CommandIcon{kFindInProjectsId, "FindAll"},
+    CommandIcon{kResultsId, "FindAll"},
     CommandIcon{kIndentId, "Indent"},
     CommandIcon{kOutdentId, "Outdent"},
     CommandIcon{kCommentId, "Comment"},

@@ -85,6 +85,8 @@ const Command kEditCommands[] = {
     {kFindNextId, "Find &Next", Qt::Key_F3, kInCode, [](auto& on) { on.window.findBar().findAgain(false); }},
     {kFindPreviousId, "Find Pre&vious", Qt::SHIFT | Qt::Key_F3, kInCode,
      [](auto& on) { on.window.findBar().findAgain(true); }},
+    {kFindInProjectsId, "Find in &All Projects...", Qt::CTRL | Qt::SHIFT | Qt::Key_F, kAlways,
+     [](auto& on) { on.window.findBar().openForAllProjects(); }},
     {kReplaceId, "R&eplace...", Qt::CTRL | Qt::Key_H, kInCode, [](auto& on) { on.window.findBar().open(true); }},
     {kGroup},
     {kIndentId, "&Indent", kNoKey, kInEditor, [](auto& on) { indentLines(textOf(on)); }},
@@ -272,6 +274,7 @@ const DockCommand kDockCommands[] = {
     {"explorerDock", kExplorerId, "&Project Explorer", Qt::CTRL | Qt::Key_R},
     {"propertiesDock", kPropertiesId, "Properties &Window", Qt::Key_F4},
     {"toolboxDock", kToolboxId, "Toolbo&x"},
+    {"resultsDock", kResultsId, "&Search Results"},
     {"Fernwick Messages", kMessagesId, "Fernwick &Messages", Qt::CTRL | Qt::Key_M},
     {"Fernwick Zoom", kZoomWindowId, "Fernwick &Zoom"},
 };

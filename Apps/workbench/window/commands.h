@@ -87,6 +87,8 @@ enum CommandId : int {
     kDebugMenuId,
     kToggleBreakpointId,
     kClearBreakpointsId,
+    kFindInProjectsId,
+    kResultsId,
     kSplitId,
     kOtherPaneId,
     kFormatMenuId = 40301,
