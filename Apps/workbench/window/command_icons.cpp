@@ -60,6 +60,8 @@ constexpr std::array kCommandIcons{
     CommandIcon{kReplaceId, "Replace"},
     CommandIcon{kFindInProjectsId, "FindAll"},
     CommandIcon{kResultsId, "FindAll"},
+    CommandIcon{kReferencesId, "References"},
+    CommandIcon{kComponentsId, "Components"},
     CommandIcon{kIndentId, "Indent"},
     CommandIcon{kOutdentId, "Outdent"},
     CommandIcon{kCommentId, "Comment"},

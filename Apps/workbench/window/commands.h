@@ -87,6 +87,8 @@ enum CommandId : int {
     kDebugMenuId,
     kToggleBreakpointId,
     kClearBreakpointsId,
+    kReferencesId,
+    kComponentsId,
     kFindInProjectsId,
     kResultsId,
     kSplitId,
