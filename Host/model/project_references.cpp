@@ -2,6 +2,7 @@
 #include "Basic/case_folding.h"
 #include "Components/Language/foreign.h"
 #include "Host/files/path_lookup.h"
+#include "Host/files/project_line.h"
 #include "Host/model/errors/host_errors.h"
 #include "Host/model/host.h"
 #include "Host/model/project.h"
@@ -126,19 +127,23 @@ vbide::Ref<vbide::Reference> ProjectReferences::AddFromGuid(const std::string& g
     return add(MemberKind::Reference, libraryLine(RefKind::TypeLibrary, *library, owner->memberPath(library->path)));
 }
 
+/// The library that a file holds.
+TypeLibrary ProjectReferences::libraryOf(const std::string& file) const {
+    auto* classes = project()->host()->options().classes;
+    const auto info = classes ? classes->TypeLibInfoFromFile(file) : nullptr;
+    if (!info) throw hostError(kErrorInLoadingDll, file + ": Error in loading DLL");
+    return {normalGuid(info->Guid), std::uint32_t(info->MajorVersion), std::uint32_t(info->MinorVersion), file,
+            info->Name};
+}
+
 vbide::Ref<vbide::Reference> ProjectReferences::AddFromFile(const std::string& path) {
     const auto owner = project();
     const auto native = absolutePath(path);
     if (::access(native.c_str(), F_OK) != 0) throw hostError(basic::kFileNotFound, native + ": File not found");
     if (basic::equalNoCase(extensionName(native), "vbp"))
         return add(MemberKind::Reference, projectLine(owner->memberPath(native)));
-    auto* classes = owner->host()->options().classes;
-    const auto info = classes ? classes->TypeLibInfoFromFile(native) : nullptr;
-    if (!info) throw hostError(kErrorInLoadingDll, native + ": Error in loading DLL");
-    const auto guid = normalGuid(info->Guid);
-    if (const auto existing = withGuid(guid)) return existing;
-    const TypeLibrary library{guid, std::uint32_t(info->MajorVersion), std::uint32_t(info->MinorVersion), native,
-                              info->Name};
+    const auto library = libraryOf(native);
+    if (const auto existing = withGuid(library.guid)) return existing;
     return add(MemberKind::Reference, libraryLine(RefKind::TypeLibrary, library, owner->memberPath(native)));
 }
 
@@ -163,6 +168,50 @@ void ProjectReferences::addControlLibrary(const std::string& progId) {
     if (!library) throw hostError(basic::kCantCreateObject, fmt::format("{}: Class not registered", progId));
     if (withGuid(library->guid)) return;
     add(MemberKind::Object, libraryLine(RefKind::Control, *library, lastName(library->path)));
+}
+
+void ProjectReferences::addControls(const std::string& guid) {
+    const auto wanted = normalGuid(guid);
+    if (withGuid(wanted)) return;
+    const auto library = project()->host()->libraries().find(wanted, 0, 0);
+    if (!library) throw hostError(kLibraryNotRegistered, fmt::format("{}: Library not registered", wanted));
+    add(MemberKind::Object, libraryLine(RefKind::Control, *library, lastName(library->path)));
+}
+
+void ProjectReferences::addControlFile(const std::string& path) {
+    const auto native = absolutePath(path);
+    if (::access(native.c_str(), F_OK) != 0) throw hostError(basic::kFileNotFound, native + ": File not found");
+    const auto library = libraryOf(native);
+    if (!withGuid(library.guid)) add(MemberKind::Object, libraryLine(RefKind::Control, library, lastName(native)));
+}
+
+/// The lines stay where they are and exchange their values, so that everything between them is unchanged.
+void ProjectReferences::arrange(const std::vector<vbide::Ref<vbide::Reference>>& order) {
+    const auto owner = project();
+    std::vector<std::shared_ptr<ProjectReference>> wanted;
+    for (const auto& one : order) {
+        const auto own = basic::cast<ProjectReference>(one).shared();
+        const bool isLine = own && own->member() && own->line().kind != RefKind::Control;
+        if (isLine && std::find(list_.begin(), list_.end(), own) != list_.end()) wanted.push_back(own);
+    }
+    const auto isMoved = [&](const auto& own) { return std::find(wanted.begin(), wanted.end(), own) != wanted.end(); };
+    std::vector<std::size_t> places; // in the list, in the order of the file
+    for (std::size_t i = 0; i < list_.size(); ++i)
+        if (isMoved(list_[i])) places.push_back(i);
+    if (places.size() != wanted.size()) throw hostError(basic::kInvalidProcedureCall); // one of them twice
+    std::vector<ProjectFile::Place> lines;
+    std::vector<std::string> values;
+    for (const auto place : places) lines.push_back(*list_[place]->member());
+    for (const auto& own : wanted) values.emplace_back(valueOf(**own->member()));
+    bool isChanged = false;
+    for (std::size_t i = 0; i < wanted.size(); ++i) {
+        if (list_[places[i]] == wanted[i]) continue;
+        owner->file().setMember(lines[i], {}, values[i]);
+        wanted[i]->member(lines[i]);
+        list_[places[i]] = wanted[i];
+        isChanged = true;
+    }
+    if (isChanged) owner->changed();
 }
 
 void ProjectReferences::Remove(const vbide::Ref<vbide::Reference>& reference) {

@@ -5,6 +5,7 @@
 #include "Host/files/library_reference.h"
 #include "Host/files/project_file.h"
 #include "Host/model/references/project_reference.h"
+#include "Host/model/references/type_libraries.h"
 #include <memory>
 #include <optional>
 #include <string>
@@ -30,6 +31,12 @@ public:
     void load(const std::vector<ProjectFile::Member>& members);
     /// Adds the control library of a ProgID, unless the project has it. Error 429 for a class that is not registered.
     void addControlLibrary(const std::string& progId);
+    /// Adds the control library with this GUID, unless the project has it. Error -2147319779 if it is not registered.
+    void addControls(const std::string& guid);
+    /// Adds the control library in a file, unless the project has it. Errors as AddFromFile.
+    void addControlFile(const std::string& path);
+    /// Puts the project's Reference lines into this order. References without a line, and control libraries, stay.
+    void arrange(const std::vector<vbide::Ref<vbide::Reference>>& order);
     /// Returns the line with which a form refers to the library of a control class ("TavletsCtl.QLLabel"); nothing if
     /// the project has no such library.
     std::optional<ObjectLine> objectLineOf(const std::string& className) const;
@@ -40,6 +47,7 @@ private:
     std::shared_ptr<Project> project() const;
     std::shared_ptr<ProjectReference> makeReference(const LibraryReference& line) const;
     std::shared_ptr<ProjectReference> withGuid(const std::string& guid) const;
+    TypeLibrary libraryOf(const std::string& file) const;
     vbide::Ref<vbide::Reference> add(MemberKind kind, const LibraryReference& line);
 
     Project* project_;

@@ -197,8 +197,8 @@ TEST_F(DesktopMenus, ViewListsWindowsThenToolbarsThenTheLook) {
     show(*top("&View"));
     EXPECT_THAT(texts(*top("&View")),
                 ElementsAre("&Code", "O&bject", "&Definition", "Last Positio&n", "&Project Explorer",
-                            "Properties &Window", "Toolbo&x", "Fernwick &Messages", "Fernwick &Zoom", "&Toolbars",
-                            "&Folding", "Zoom &In", "Zoom O&ut", "&Reset Zoom", "Dar&k Theme"));
+                            "Properties &Window", "Toolbo&x", "&Search Results", "Fernwick &Messages", "Fernwick &Zoom",
+                            "&Toolbars", "&Folding", "Zoom &In", "Zoom O&ut", "&Reset Zoom", "Dar&k Theme"));
 }
 
 TEST_F(DesktopMenus, ALetterOfTwoMenusOpensTheFirstAndThenTheSecond) {

@@ -1,4 +1,5 @@
 #include "Apps/workbench/code/code_finder.h"
+#include "Add-in/platform/host.h"
 #include "Apps/workbench/code/code_text.h"
 #include "Basic/runtime_error.h"
 #include <QStringList>
@@ -9,28 +10,16 @@ namespace workbench {
 
 namespace {
 
-/// The lines of one module to be searched.
-struct Stretch {
-    vbide::Ref<vbide::VBComponent> component;
-    LineRange lines{0, std::numeric_limits<int>::max()};
-};
+constexpr LineRange kAllLines{0, std::numeric_limits<int>::max()};
 
 std::vector<CodePlace> hitsOf(const CodePattern& pattern, const Stretch& stretch) {
-    const auto lines = codeOf(*stretch.component->CodeModule()).split('\n');
-    std::vector<CodePlace> places;
-    for (int line = stretch.lines.first; line <= stretch.lines.last && line < lines.size(); ++line)
-        for (const auto& hit : pattern.hitsIn(lines[line]))
-            places.push_back({stretch.component, line, hit.column, hit.length});
-    return places;
+    const auto text = codeOf(*stretch.component->CodeModule());
+    if (!pattern.mayOccurIn(text)) return {};
+    return workbench::hitsOf(pattern, stretch, text.split('\n'));
 }
 
-std::vector<Stretch> stretchesOf(FindScope scope, const CodePlace& from) {
-    if (scope == FindScope::Module) return {{from.component}};
-    if (scope == FindScope::Procedure)
-        return {{from.component, procedureAround(*from.component->CodeModule(), from.line)}};
-    std::vector<Stretch> all;
-    for (const auto& component : from.component->Collection()->items()) all.push_back({component});
-    return all;
+void addProject(std::vector<Stretch>& all, const vbide::VBComponents& components) {
+    for (const auto& component : components.items()) all.push_back({component, kAllLines});
 }
 
 bool isBefore(const CodePlace& a, int line, int column) {
@@ -48,6 +37,29 @@ std::optional<CodePlace> beyond(const std::vector<CodePlace>& places, const Code
 }
 
 } // namespace
+
+std::vector<Stretch> stretchesOf(FindScope scope, const CodePlace& from) {
+    if (scope == FindScope::Module) return {{from.component, kAllLines}};
+    if (scope == FindScope::Procedure)
+        return {{from.component, procedureAround(*from.component->CodeModule(), from.line)}};
+    std::vector<Stretch> all;
+    if (scope == FindScope::Project) {
+        addProject(all, *from.component->Collection());
+        return all;
+    }
+    for (const auto& project : from.component->VBE()->VBProjects()->items()) addProject(all, *project->VBComponents());
+    return all;
+}
+
+std::vector<CodePlace> hitsOf(const CodePattern& pattern, const Stretch& stretch, const QStringList& text) {
+    std::vector<CodePlace> places;
+    for (int line = stretch.lines.first; line <= stretch.lines.last && line < text.size(); ++line) {
+        if (!pattern.mayOccurIn(text[line])) continue;
+        for (const auto& hit : pattern.hitsIn(text[line]))
+            places.push_back({stretch.component, line, hit.column, hit.length});
+    }
+    return places;
+}
 
 std::optional<Found> findNext(const CodePattern& pattern, FindScope scope, const CodePlace& from, bool backwards) {
     const auto stretches = stretchesOf(scope, from);

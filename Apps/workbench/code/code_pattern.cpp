@@ -45,7 +45,9 @@ std::optional<QString> expressionOf(const QString& pattern) {
 
 } // namespace
 
-CodePattern::CodePattern(const QString& what, FindOptions options) {
+CodePattern::CodePattern(const QString& what, FindOptions options)
+    : literal_(options.pattern ? QString() : what),
+      sensitivity_(options.matchCase ? Qt::CaseSensitive : Qt::CaseInsensitive) {
     if (what.isEmpty()) {
         error_ = kNothingToFind;
         return;
@@ -61,6 +63,8 @@ CodePattern::CodePattern(const QString& what, FindOptions options) {
     expression_.setPatternOptions(how);
     if (!expression_.isValid()) error_ = expression_.errorString();
 }
+
+bool CodePattern::mayOccurIn(const QString& text) const { return text.contains(literal_, sensitivity_); }
 
 std::vector<LineHit> CodePattern::hitsIn(const QString& line) const {
     std::vector<LineHit> hits;

@@ -27,11 +27,15 @@ public:
 
     /// Why it is invalid; "" if it is valid.
     QString error() const { return error_; }
+    /// False if no line of this text can have a hit; a quick test.
+    bool mayOccurIn(const QString& text) const;
     /// Returns the hits from left to right. They do not overlap, and none is empty.
     std::vector<LineHit> hitsIn(const QString& line) const;
 
 private:
     QRegularExpression expression_;
+    QString literal_; ///< what each hit contains; "" for a pattern
+    Qt::CaseSensitivity sensitivity_;
     QString error_;
 };
 

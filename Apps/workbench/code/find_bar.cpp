@@ -58,6 +58,7 @@ FindBar::FindBar(CodeWindows& code, Run run)
 QWidget* FindBar::findRow() {
     auto* const next = findButton("findNext", "Find &Next", "F3");
     auto* const previous = findButton("findPrevious", "Previo&us", "Shift+F3");
+    auto* const all = findButton("findAll", "Find All", "List all matches (Ctrl+Enter)");
     auto* const close = new QToolButton;
     close->setObjectName("closeFind");
     close->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
@@ -66,6 +67,7 @@ QWidget* FindBar::findRow() {
     close->setAutoRaise(true);
     connect(next, &QPushButton::clicked, this, [this] { run_([this] { findAgain(false); }); });
     connect(previous, &QPushButton::clicked, this, [this] { run_([this] { findAgain(true); }); });
+    connect(all, &QPushButton::clicked, this, [this] { run_([this] { findAll(); }); });
     connect(close, &QToolButton::clicked, this, &QWidget::hide);
 
     auto* const widget = new QWidget;
@@ -74,6 +76,7 @@ QWidget* FindBar::findRow() {
     row->addWidget(what_, 1);
     row->addWidget(next);
     row->addWidget(previous);
+    row->addWidget(all);
     row->addWidget(close);
     return widget;
 }
@@ -107,6 +110,11 @@ void FindBar::open(bool replacing) {
     what_->selectAll();
 }
 
+void FindBar::openForAllProjects() {
+    open(false);
+    options_->setScope(FindScope::AllProjects);
+}
+
 void FindBar::hideEvent(QHideEvent* event) {
     QWidget::hideEvent(event);
     if (event->spontaneous()) return;
@@ -118,6 +126,8 @@ void FindBar::keyPressEvent(QKeyEvent* event) {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (event->key() == Qt::Key_Escape)
         hide();
+    else if (enter && event->modifiers().testFlag(Qt::ControlModifier))
+        run_([this] { findAll(); });
     else if (enter && with_->hasFocus())
         run_([this] { replace(); });
     else if (enter)

@@ -20,6 +20,15 @@ public:
 
     /// Shows the bar. A selection within one line becomes the text to find.
     void open(bool replacing);
+    /// Shows the bar for a search through all projects.
+    void openForAllProjects();
+    /// Lists all matches of the text to find.
+    void findAll();
+    /// Called to list the matches.
+    std::function<void(const CodePattern& pattern, const QString& what, std::vector<Stretch> where)> list =
+        [](const auto&...) {};
+    /// Returns where a search begins that no code window determines; without a component if there is none.
+    std::function<CodePlace()> start = [] { return CodePlace{}; };
     /// Finds the same text again; shows the bar if there is no text yet.
     void findAgain(bool backwards);
 

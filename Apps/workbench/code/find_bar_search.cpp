@@ -27,6 +27,16 @@ void FindBar::findAgain(bool backwards) {
     bringUp(found->place);
 }
 
+void FindBar::findAll() {
+    const auto wanted = pattern();
+    if (!canLookFor(wanted)) return;
+    const auto* const editor = code_.current();
+    const auto from = editor ? editor->place() : start();
+    if (!from.component) return say(QString(code_texts::kNotFound).arg(what_->text(), options_->scopeName()), true);
+    say({});
+    list(wanted, what_->text(), stretchesOf(options_->scope(), from));
+}
+
 /// Opens the window of the module if there is none, and leaves the focus where it is.
 void FindBar::bringUp(const CodePlace& place) {
     auto* const focus = focusWidget();
@@ -54,7 +64,7 @@ void FindBar::replaceAll() {
     if (!editor || !canLookFor(wanted)) return;
     const auto from = editor->place();
     std::size_t count = 0, modules = 0;
-    for (const auto& hits : findAll(wanted, options_->scope(), from)) {
+    for (const auto& hits : workbench::findAll(wanted, options_->scope(), from)) {
         // in the editor, so that the user sees it and can undo it
         bringUp(hits.places.front());
         if (!code_.editorOf(hits.component)->replace(hits.places, with_->text()))

@@ -22,6 +22,7 @@ constexpr ScopeName kScopes[] = {
     {FindScope::Procedure, "Current Procedure", "current procedure"},
     {FindScope::Module, "Current Module", "current module"},
     {FindScope::Project, "Current Project", "current project"},
+    {FindScope::AllProjects, "All Projects", "open projects"},
 };
 
 QCheckBox* findOption(const char* name, const char* caption, const char* tip) {
@@ -68,6 +69,11 @@ FindOptionsRow::FindOptionsRow()
 
 FindOptions FindOptionsRow::options() const {
     return {matchCase_->isChecked(), wholeWord_->isChecked(), asPattern_->isChecked()};
+}
+
+void FindOptionsRow::setScope(FindScope scope) {
+    for (int row = 0; row < scope_->count(); ++row)
+        if (kScopes[row].scope == scope) scope_->setCurrentIndex(row);
 }
 
 FindScope FindOptionsRow::scope() const { return kScopes[scope_->currentIndex()].scope; }

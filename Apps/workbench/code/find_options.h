@@ -17,6 +17,7 @@ public:
 
     FindOptions options() const;
     FindScope scope() const;
+    void setScope(FindScope scope);
     /// The scope within a sentence: "current module".
     const char* scopeName() const;
     /// Stores the options in the user's settings.

@@ -3,9 +3,6 @@
 
 namespace workbench {
 
-namespace {
-
-/// The nearest line with the text of the mark; -1 for none.
 int lineOf(const PlacedMark& mark, const QStringList& text) {
     const int count = int(text.size());
     const auto is = [&](int line) { return line >= 0 && line < count && text[line].trimmed() == mark.text; };
@@ -15,8 +12,6 @@ int lineOf(const PlacedMark& mark, const QStringList& text) {
     }
     return -1;
 }
-
-} // namespace
 
 std::vector<int> linesOf(const std::vector<PlacedMark>& marks, const QStringList& text) {
     std::vector<int> lines;

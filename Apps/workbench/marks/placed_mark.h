@@ -14,6 +14,8 @@ struct PlacedMark {
     friend bool operator==(const PlacedMark&, const PlacedMark&) = default;
 };
 
+/// Returns the nearest line with the text of a mark; -1 for none.
+int lineOf(const PlacedMark& mark, const QStringList& text);
 /// Returns the present lines of marks. One whose line has another text now is moved to the nearest line with its text;
 /// without one it is left out.
 std::vector<int> linesOf(const std::vector<PlacedMark>& marks, const QStringList& text);

@@ -8,6 +8,7 @@
 #include "Apps/workbench/project/component_commands.h"
 #include "Apps/workbench/project/project_properties.h"
 #include "Apps/workbench/project/project_saving.h"
+#include "Apps/workbench/references/libraries_dialog.h"
 #include "Apps/workbench/window/main_window.h"
 
 namespace workbench {
@@ -47,6 +48,13 @@ void saveProjectAs(const CommandTargets& on) {
 
 void editProjectProperties(const CommandTargets& on) {
     if (const auto active = on.host.ActiveVBProject()) editProperties(active, &on.window);
+}
+
+template <LibraryKind kind>
+void editLibrariesOf(const CommandTargets& on) {
+    // errors go to the caller, which shows them
+    const Run here = [](const auto& act) { act(); };
+    if (const auto active = on.host.ActiveVBProject()) editLibraries(active, kind, &on.window, here);
 }
 
 void switchTheme(const CommandTargets& on) {
@@ -99,6 +107,8 @@ const Command kEditCommands[] = {
     {kFindNextId, "Find &Next", Qt::Key_F3, kInCode, [](auto& on) { on.window.findBar().findAgain(false); }},
     {kFindPreviousId, "Find Pre&vious", Qt::SHIFT | Qt::Key_F3, kInCode,
      [](auto& on) { on.window.findBar().findAgain(true); }},
+    {kFindInProjectsId, "Find in &All Projects...", Qt::CTRL | Qt::SHIFT | Qt::Key_F, kAlways,
+     [](auto& on) { on.window.findBar().openForAllProjects(); }},
     {kReplaceId, "R&eplace...", Qt::CTRL | Qt::Key_H, kInCode, [](auto& on) { on.window.findBar().open(true); }},
     {kGroup},
     {kIndentId, "&Indent", kNoKey, kInEditor, [](auto& on) { indentLines(textOf(on)); }},
@@ -165,6 +175,9 @@ const Command kProjectCommands[] = {
     {kGroup},
     {kAddFileId, "&Add File...", Qt::CTRL | Qt::Key_D, kAlways, [](auto& on) { addFile(on.host, &on.window); }},
     {kRemoveComponentId, "&Remove File", kNoKey, kAlways, [](auto& on) { removeComponent(inHand(on), &on.window); }},
+    {kGroup},
+    {kReferencesId, "Refere&nces...", kNoKey, kAlways, editLibrariesOf<LibraryKind::References>},
+    {kComponentsId, "C&omponents...", Qt::CTRL | Qt::Key_T, kAlways, editLibrariesOf<LibraryKind::Components>},
     {kGroup},
     {kStartUpProjectId, "Set as Start &Up", kNoKey, kAlways, [](auto& on) { setAsStartUp(inHand(on)); }},
     {kConvertProjectId, "Convert to Another &Device...", kNoKey, kAlways, [](auto& on) { on.program.convert(); }},
@@ -286,6 +299,7 @@ const DockCommand kDockCommands[] = {
     {"explorerDock", kExplorerId, "&Project Explorer", Qt::CTRL | Qt::Key_R},
     {"propertiesDock", kPropertiesId, "Properties &Window", Qt::Key_F4},
     {"toolboxDock", kToolboxId, "Toolbo&x"},
+    {"resultsDock", kResultsId, "&Search Results"},
     {"Fernwick Messages", kMessagesId, "Fernwick &Messages", Qt::CTRL | Qt::Key_M},
     {"Fernwick Zoom", kZoomWindowId, "Fernwick &Zoom"},
 };

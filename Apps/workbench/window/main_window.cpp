@@ -45,10 +45,13 @@ MainWindow::MainWindow(host::Host& host, DesktopWindows& windows, Run run, MayCl
       editFocus_(new EditFocus(*code_, *design_)),
       propertiesDock_(docks_.add("propertiesDock", "Properties", &design_->properties(), Qt::RightDockWidgetArea)),
       toolboxDock_(docks_.add("toolboxDock", "Toolbox", &design_->toolbox(), Qt::LeftDockWidgetArea)),
+      results_(new SearchResults(host, *code_, run_)),
+      resultsDock_(docks_.add("resultsDock", "Search Results", results_, Qt::BottomDockWidgetArea)),
       bars_(host.bars(), *this, run_, commandLookOf),
       place_(*statusBar(), *code_, *design_) {
     setObjectName("workbench");
     buildCentre();
+    connectSearch();
     code_->leaveKeys(chosenKeys());
     resize(usualSize());
     resizeDocks({explorerDock_, toolboxDock_}, {kUsualExplorerWidth, kUsualToolboxWidth}, Qt::Horizontal);
@@ -79,6 +82,21 @@ void MainWindow::buildCentre() {
     setCentralWidget(centre);
     code_->setAccessibleName("Code windows");
     code_->setFocus(); // else a dock would have it, and the dock's command would hide the dock
+}
+
+void MainWindow::connectSearch() {
+    resultsDock_->hide();
+    findBar_->list = [this](const CodePattern& pattern, const QString& what, std::vector<Stretch> where) {
+        resultsDock_->show();
+        resultsDock_->raise();
+        results_->search(pattern, what, std::move(where));
+        results_->setFocus();
+    };
+    findBar_->start = [this]() -> CodePlace {
+        const auto active = host_.ActiveVBProject();
+        if (!active || active->VBComponents()->Count() == 0) return {};
+        return {active->VBComponents()->Item(1), 0, 0, 0};
+    };
 }
 
 void MainWindow::watchProjects() {

@@ -7,6 +7,7 @@
 #include "Apps/workbench/code/mark_commands.h"
 #include "Apps/workbench/designer/design_desk.h"
 #include "Apps/workbench/project/project_explorer.h"
+#include "Apps/workbench/search/search_results.h"
 #include "Apps/workbench/window/docks.h"
 #include "Apps/workbench/window/edit_focus.h"
 #include "Apps/workbench/window/place_status.h"
@@ -33,6 +34,7 @@ public:
     EditFocus& editFocus() { return *editFocus_; }
     BarsView& bars() { return bars_; }
     Docks& docks() { return docks_; }
+    SearchResults& results() { return *results_; }
     QDockWidget& explorerDock() { return *explorerDock_; }
     QDockWidget& propertiesDock() { return *propertiesDock_; }
     QDockWidget& toolboxDock() { return *toolboxDock_; }
@@ -51,6 +53,7 @@ protected:
 
 private:
     void buildCentre();
+    void connectSearch();
     QSize usualSize() const;
     void watchProjects();
     void watchFocus();
@@ -75,6 +78,8 @@ private:
     EditFocus* editFocus_;
     QDockWidget* propertiesDock_;
     QDockWidget* toolboxDock_;
+    SearchResults* results_;
+    QDockWidget* resultsDock_;
     /// The host's own bars, whose places are in the user's settings.
     std::vector<office::Ref<office::CommandBar>> ownBars_;
     QTimer titleSoon_, activateSoon_;

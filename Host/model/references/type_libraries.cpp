@@ -1,7 +1,9 @@
 #include "Host/model/references/type_libraries.h"
 #include "Host/files/library_reference.h"
 #include "Host/system/classes_key.h"
+#include <algorithm>
 #include <fmt/format.h>
+#include <set>
 #include <utility>
 
 namespace host {
@@ -30,6 +32,27 @@ std::optional<TypeLibrary> TypeLibraries::find(const std::string& guid, std::uin
         if (!best || std::pair(best->major, best->minor) < std::pair(found->major, found->minor)) best = found;
     }
     return best;
+}
+
+std::vector<TypeLibrary> TypeLibraries::all() const {
+    if (!registry_) return {};
+    std::vector<TypeLibrary> found;
+    for (const auto& name : ClassesKey(*registry_, "TypeLib").subKeys()) {
+        const auto library = find(normalGuid(name), 0, 0);
+        if (library && !library->description.empty()) found.push_back(*library);
+    }
+    std::sort(found.begin(), found.end(), [](const auto& a, const auto& b) { return a.description < b.description; });
+    return found;
+}
+
+std::vector<TypeLibrary> TypeLibraries::ofControls() const {
+    if (!registry_) return {};
+    std::set<std::string> guids;
+    for (const auto& clsid : ClassesKey(*registry_, "CLSID").subKeys())
+        guids.insert(normalGuid(text("CLSID\\" + clsid + "\\TypeLib").value_or("")));
+    auto found = all();
+    std::erase_if(found, [&](const auto& library) { return guids.count(library.guid) == 0; });
+    return found;
 }
 
 std::optional<TypeLibrary> TypeLibraries::ofProgId(const std::string& progId) const {

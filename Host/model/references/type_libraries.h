@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace host {
 
@@ -21,6 +22,11 @@ public:
 
     /// Returns the library with this GUID (upper case, in braces): this version, else the highest registered one.
     std::optional<TypeLibrary> find(const std::string& guid, std::uint32_t major, std::uint32_t minor) const;
+
+    /// Returns the highest version of each registered library, by description.
+    std::vector<TypeLibrary> all() const;
+    /// Returns the libraries of registered classes, whose controls can be placed on forms.
+    std::vector<TypeLibrary> ofControls() const;
 
     /// Returns the library of a control class; nothing if the class is not registered.
     std::optional<TypeLibrary> ofProgId(const std::string& progId) const;
