@@ -117,6 +117,7 @@ void ProjectCompiler::checkNames(const std::vector<Source>& sources, SymbolTable
     const auto named = std::count_if(input_.files.begin(), input_.files.end(),
                                      [](const BuildFile& file) { return file.kind != SourceFile; });
     options.isIncomplete = options.libraries.size() < static_cast<std::size_t>(named);
+    options.warnsOfDevices = true;
     options.threads = std::max(1U, std::thread::hardware_concurrency());
     for (const auto& messages : checkProgram(modules, symbols, options))
         for (const auto& diagnostic : messages) report(diagnostic);

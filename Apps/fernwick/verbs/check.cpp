@@ -11,6 +11,7 @@
 #include "Apps/fernwick/verbs/source_list.h"
 #include "Apps/fernwick/verbs/verbs.h"
 #include "Basic/runtime_error.h"
+#include "Components/Language/foreign.h"
 #include "Host/files/path_lookup.h"
 #include "Host/files/project_code_page.h"
 #include "Host/files/text_file.h"
@@ -134,12 +135,16 @@ void checkProject(const ProjectToCheck& project, apps::DescribedLibraries& libra
     qltoolkit::ProgramOptions program;
     program.projectName = project.name;
     program.threads = std::max(1U, std::thread::hardware_concurrency());
+    program.warnsOfDevices = project.isForDevices;
     program.warnsOptionally = options.warnsOptionally;
     program.isIncomplete = sources.size() < project.sources.size();
     for (const auto& guid : project.libraries) {
+        if (apps::isLanguageLibrary(guid)) continue;
         const auto* library = libraries.find(guid);
+        program.isIncomplete |= !library;
+        // Of well-known libraries the classes of controls are known at least.
+        if (!library) library = language::foreignLibrary(guid);
         if (library) program.libraries.push_back(library);
-        program.isIncomplete |= !library && !apps::isLanguageLibrary(guid);
     }
     std::vector<const qltoolkit::SourceText*> texts;
     for (const auto& source : sources) texts.push_back(source.get());

@@ -2,6 +2,7 @@
 #include "Apps/common/file_names.h"
 #include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/output/file_errors.h"
+#include "Basic/case_folding.h"
 #include "Basic/runtime_error.h"
 #include "Host/files/group_file.h"
 #include "Host/files/path_lookup.h"
@@ -92,7 +93,7 @@ private:
         if (!project.looksLikeProject())
             throw basic::RuntimeError(basic::kInvalidProcedureCall, "not a Visual Basic project");
         if (!seen_.insert(host::absolutePath(path)).second) return;
-        ProjectToCheck found{path, project.setting("Name").value_or(""), {}, {}, detected, {}};
+        ProjectToCheck found{path, project.setting("Name").value_or(""), {}, {}, detected, isForDevices(project), {}};
         found.constants = qltoolkit::parseConditionalConstants(project.setting("CondComp").value_or(""));
         host::PathLookup lookup(detected.page);
         for (const auto& member : project.members()) {
@@ -108,6 +109,12 @@ private:
     void addComponent(ProjectToCheck& project, const std::string& path) {
         seen_.insert(host::absolutePath(path));
         project.sources.push_back(path);
+    }
+
+    static bool isForDevices(const host::ProjectFile& project) {
+        std::string value;
+        (void)basic::attempt([&] { value = project.readProperty("Quinloft Global", "IsQuinloftProject"); });
+        return basic::equalNoCase(value, "True");
     }
 
     /// The first braces of the value of a Reference or Object line.

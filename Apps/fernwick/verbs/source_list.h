@@ -23,6 +23,7 @@ struct ProjectToCheck {
     std::vector<std::string> sources;
     qltoolkit::ConditionalConstants constants;
     basic::DetectedCodePage page;
+    bool isForDevices = false;
     std::vector<std::string> libraries; ///< the GUIDs of its references and control libraries
 };
 

@@ -1,5 +1,6 @@
 // Calls, their arguments, and elements of arrays.
 #include "Basic/case_folding.h"
+#include "Components/Language/foreign.h"
 #include "Components/QLToolkit/names/binder.h"
 #include "Components/QLToolkit/names/lookup.h"
 #include "Components/QLToolkit/types/coercions.h"
@@ -228,15 +229,15 @@ bool Binder::fitsTo(const Operand& value, const Type& wanted) {
     return coercionOf(value.type.value, wanted.value) != Coercion::Never;
 }
 
-/// CreateObject of the two classes that devices have is no reason to warn.
+/// CreateObject of a class that devices have is no reason to warn.
 void Binder::warnNotOnDevices(Pos pos) {
     if (!program_.warnsOfDevices) return;
     const IndexExpr* given = pendingIndex();
     if (given && given->arguments.size() == 1 && given->arguments[0].value &&
         given->arguments[0].value->kind == ExprKind::String) {
         const auto name = stringValue(module_.tree.source, as<StringExpr>(*given->arguments[0].value));
-        if (basic::equalNoCase(name, "Scripting.Dictionary") || basic::equalNoCase(name, "Scripting.FileSystemObject"))
-            return;
+        const auto* found = language::findClass(name);
+        if (found && found->creatable && found->onDevices) return;
     }
     reportName(Message::NotOnDevices, pos);
 }

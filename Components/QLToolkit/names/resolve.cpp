@@ -1,5 +1,6 @@
 #include "Components/QLToolkit/names/resolve.h"
 #include "Basic/case_folding.h"
+#include "Components/Language/foreign.h"
 #include "Components/QLToolkit/names/array_bounds.h"
 #include "Components/QLToolkit/names/declared_types.h"
 #include "Components/QLToolkit/names/lookup.h"
@@ -61,7 +62,9 @@ private:
 
     void callable(Entity& entity, const Decl& decl) {
         switch (decl.kind) {
-        case DeclKind::Declare: return signature(entity, as<DeclareDecl>(decl).signature, nullptr);
+        case DeclKind::Declare:
+            entity.onDevices = isAnswered(as<DeclareDecl>(decl));
+            return signature(entity, as<DeclareDecl>(decl).signature, nullptr);
         case DeclKind::Event: {
             auto* made = program_.arena.make<Callable>();
             made->parameters = parameters(as<EventDecl>(decl).parameters);
@@ -70,6 +73,15 @@ private:
         }
         default: return signature(entity, as<ProcedureDecl>(decl).signature, &as<ProcedureDecl>(decl));
         }
+    }
+
+    /// Devices have no libraries of their desktop system, but answer some of their functions.
+    bool isAnswered(const DeclareDecl& decl) const {
+        const auto& source = module_.tree.source;
+        const auto function =
+            decl.alias ? stringValue(source, *decl.alias) : std::string(program_.symbols.spelling(decl.signature.name));
+        const auto* found = language::findDeclared(stringValue(source, *decl.library), function);
+        return found && found->onDevices;
     }
 
     void signature(Entity& entity, const Signature& decl, const ProcedureDecl* body) {
