@@ -7,7 +7,7 @@
 namespace language {
 namespace {
 
-std::vector<Library> read(std::initializer_list<std::string_view> tables) {
+std::vector<Library> readAll(std::initializer_list<std::string_view> tables) {
     LibraryReader reader;
     for (const auto table : tables) reader.read(table);
     return std::move(reader).take();
@@ -34,14 +34,14 @@ const Library* libraryNamed(std::string_view name) {
 const Group& declaredFunctions(const Library& library) { return library.groups.front(); }
 
 std::span<const Library> declaredLibraries() {
-    static const auto libraries = read({kDeclaresTable});
+    static const auto libraries = readAll({kDeclaresTable});
     return libraries;
 }
 
 } // namespace
 
 std::span<const Library> foreignLibraries() {
-    static const auto libraries = read({kEventsTable, kForeignControlsTable, kForeignTable, kScriptingTable});
+    static const auto libraries = readAll({kEventsTable, kForeignControlsTable, kForeignTable, kScriptingTable});
     return libraries;
 }
 
