@@ -37,7 +37,7 @@ public:
     }
 
     CheckedProgram& text(const std::string& file, std::string bytes) {
-        sources_.push_back(std::make_unique<qltoolkit::SourceText>(file, std::move(bytes)));
+        sources_.push_back(std::make_unique<qltoolkit::SourceText>(file, std::move(bytes), page));
         return *this;
     }
 
@@ -68,6 +68,7 @@ public:
 
     qltoolkit::ProgramOptions options;
     std::string controls; ///< of the forms that follow
+    basic::CodePage page = basic::CodePage::windows1252();
 
 private:
     static std::string place(const qltoolkit::SourceText& source, const qltoolkit::Diagnostic& each, bool withFile) {

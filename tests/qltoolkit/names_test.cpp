@@ -151,3 +151,106 @@ TEST(Names, AFileWithTooManyErrorsIsLeft) {
     EXPECT_EQ(messages.size(), 501U);
     EXPECT_TRUE(messages.back().ends_with(" 1009"));
 }
+
+TEST(Names, AFileReportsOnceThatItHasTooManyErrors) {
+    CheckedProgram program;
+    program.options.isIncomplete = true;
+    std::string code = "Sub A()\nx = 1\ny = 2\nEnd Sub\n";
+    for (int i = 0; i < 600; ++i) code += "Sub B" + std::to_string(i) + "()\nDim z\nDim z\nEnd Sub\n";
+    const auto messages = program.add("Module1.bas", code).messages();
+    EXPECT_EQ(std::count_if(messages.begin(), messages.end(), [](auto& each) { return each.ends_with(" 1009"); }), 1);
+}
+
+TEST(Names, CodeIsNotCheckedAgainstDeclarationsThatWereLeft) {
+    std::string code;
+    for (int i = 0; i < 600; ++i) code += "Dim v" + std::to_string(i) + " As Missing\n";
+    const auto messages = CheckedProgram{}
+                              .add("M1.bas", code + "Function F()\nEnd Function\nProperty Let P(x)\nEnd Property")
+                              .add("M2.bas", "Sub A()\nDim x\nx = F\nP = 1\nx = Missing(1)\nEnd Sub")
+                              .messages();
+    EXPECT_EQ(messages.size(), 501U);
+}
+
+TEST(Names, ADefaultMemberOfItsOwnClassTakesNoArguments) {
+    EXPECT_THAT(CheckedProgram{}
+                    .add("Class1.cls", "Property Get Own() As Class1\nAttribute Own.VB_UserMemId = 0\nEnd Property\n")
+                    .add("M1.bas", "Sub A(c As Class1)\nDim x\nx = c(1)\nc(2) = x\nEnd Sub")
+                    .messages(),
+                ElementsAre("M1.bas:3:5 2201", "M1.bas:4:1 2201"));
+}
+
+TEST(Names, RecordsMayBeNestedDeeply) {
+    const auto nested = [](int depth, const std::string& last) {
+        std::string code;
+        for (int i = 0; i < depth; ++i)
+            code += "Type T" + std::to_string(i) + "\na As T" + std::to_string(i + 1) + "\nb As T" +
+                    std::to_string(i + 1) + "\nEnd Type\n";
+        return code + "Type T" + std::to_string(depth) + "\nx As " + last + "\nEnd Type";
+    };
+    EXPECT_THAT(messagesOf(nested(100, "String * 0")), IsEmpty());
+    EXPECT_THAT(messagesOf(nested(15, "Byte")), IsEmpty());
+    EXPECT_THAT(messagesOf(nested(16, "Byte")), ElementsAre("1:1 2604"));
+}
+
+TEST(Names, OneRecordThatContainsItselfGivesOneMessage) {
+    EXPECT_THAT(messagesOf("Type A\nb As B\nEnd Type\nType B\nb As B\nn As Long\nEnd Type"), ElementsAre("4:1 2504"));
+    EXPECT_THAT(messagesOf("Type A\nb As B\nEnd Type\nType B\na(3) As A\nEnd Type\nType C\nc() As C\nEnd Type"),
+                ElementsAre("1:1 2504", "4:1 2504"));
+}
+
+TEST(Names, AMemberOfAnEnumerationDoesNotFollowItself) {
+    EXPECT_THAT(messagesOf("Enum E\na = b\nb\nEnd Enum"), ElementsAre("3:1 2504"));
+    EXPECT_THAT(messagesOf("Enum E\na = d\nb\nc\nd = 5\nEnd Enum"), IsEmpty());
+}
+
+TEST(Names, AConstantHasItsTypeWhereItIsUsedBeforeItsDeclaration) {
+    EXPECT_THAT(CheckedProgram{}
+                    .add("M1.bas", "Const a As Byte = b * 200\nConst c As Byte = d * 100")
+                    .add("M2.bas", "Public Const b As Integer = 1.2\nPublic Const d As Byte = 300")
+                    .messages(),
+                ElementsAre("M2.bas:2:26 2103"));
+}
+
+TEST(Names, AStringTakesAnArrayOfBytes) {
+    EXPECT_THAT(
+        messagesOf("Sub A(ByVal t As String)\nDim s As String, b() As Byte, n() As Integer\ns = b\nb = s\nA b\ns = n\n"
+                   "End Sub"),
+        ElementsAre("6:5 2100"));
+}
+
+TEST(Names, AnArrayOfControlsIsAnObject) {
+    CheckedProgram program;
+    program.controls = "   Begin VB.TextBox Lines \n      Index = 0\n   End\n";
+    program.add("Form1.frm", "Sub A(o As Object, v As Variant)\nSet o = Lines\nSet v = Lines\nA Lines, Lines\nB Lines\n"
+                             "Dim t As TextBox\nSet t = Lines\nEnd Sub\nSub B(t As TextBox)\nEnd Sub");
+    EXPECT_THAT(program.messages(), ElementsAre("5:3 2100", "7:9 2105"));
+}
+
+TEST(Names, AParamArrayHoldsVariantsWhateverItsFirstLetter) {
+    EXPECT_THAT(
+        messagesOf("DefInt A-Z\nSub A(ParamArray p())\nEnd Sub\nSub B(s As String, v As Variant)\nA s, v\nEnd Sub"),
+        IsEmpty());
+}
+
+TEST(Names, TheControlsOfAFormAreItsDefaultMember) {
+    CheckedProgram program;
+    program.controls = "   Begin VB.TextBox Text1 \n   End\n";
+    program.add("Form1.frm",
+                "Sub A(f As Form)\nMe(\"Text1\") = 1\nf(0).Text = Me!Text1\nMe!Text1 = f!Text1.Text\nEnd Sub");
+    EXPECT_THAT(program.messages(), IsEmpty());
+}
+
+TEST(Names, FriendProceduresBelongToNoInterface) {
+    EXPECT_THAT(
+        CheckedProgram{}
+            .add("Class1.cls", "Friend Sub Own()\nEnd Sub\nFriend Property Let P(x)\nEnd Property\nSub Go()\nEnd Sub")
+            .add("Class2.cls", "Implements Class1\nPrivate Sub Class1_Go()\nEnd Sub")
+            .messages(),
+        IsEmpty());
+}
+
+TEST(Names, TheLengthOfATextMayBeAConstantOfTheProcedure) {
+    EXPECT_THAT(messagesOf("Sub A()\nConst Loc = 5\nDim s As String * Loc, n\nDim t As String * n\nReDim u(3) As "
+                           "String * Loc\nEnd Sub"),
+                ElementsAre("4:19 2102"));
+}

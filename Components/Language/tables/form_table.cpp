@@ -8,7 +8,7 @@ Shared FormCommon
   Property Caption As String ' The text of the title bar
   Property Tag As String ' A text for the program's own use
   Property ActiveControl As Control readonly ' The control with the focus
-  Property Controls As Object readonly ' All controls of the form
+  Property Controls As Object readonly default ' All controls of the form
   Property Count As Integer readonly hidden ' The number of controls
   Property Icon As IPictureDisp
   Property Visible As Boolean
@@ -76,7 +76,7 @@ Shared DesignerCommon
   Property Name As String readonly
   Property Tag As String
   Property ActiveControl As Control readonly
-  Property Controls As Object readonly
+  Property Controls As Object readonly default
   Property Count As Integer readonly hidden
   Property HelpContextID As Long
   Property KeyPreview As Boolean

@@ -34,6 +34,11 @@ struct Operand {
     const Scope* inner = nullptr; ///< of a Qualifier; null for the project
 };
 
+/// An array of controls is an object, which variables of type Object and Variant can hold.
+inline bool isControlArray(const Operand& operand) {
+    return operand.type.isArray && operand.entity && operand.entity->kind == EntityKind::Control;
+}
+
 class Binder {
 public:
     Binder(Program& program, SourceModule& module, ProcedureNames& names)
@@ -169,6 +174,8 @@ private:
     std::vector<const Expr*> spine_;
     std::size_t bottom_ = 0;
     Use use_ = Use::Value;
+    const IndexExpr* defaultsOf_ = nullptr; // whose arguments the last default members were offered
+    int defaults_ = 0;
     std::vector<std::pair<Symbol, Pos>> unknownNames_;
 };
 

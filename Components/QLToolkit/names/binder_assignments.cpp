@@ -45,8 +45,7 @@ void Binder::assign(const Operand& target, const Operand& value, Pos pos) {
 
 void Binder::assignArray(const Operand& target, const Operand& value, Pos pos) {
     if (target.entity && target.entity->isStaticArray) return reportName(Message::AssignToArray, target.pos);
-    if (target.entity && target.entity->kind == EntityKind::Control)
-        return reportName(Message::AssignToArray, target.pos);
+    if (isControlArray(target)) return reportName(Message::AssignToArray, target.pos);
     const bool isSame = value.type.isArray && value.type.value == target.type.value &&
                         (value.type.value != ValueType::Record || value.type.id == target.type.id);
     // Bytes take a text, also that of a default property; a Variant may hold an array.
@@ -70,6 +69,7 @@ void Binder::setObject(const Operand& target, const Operand& value, Pos pos) {
                type.value == ValueType::Unknown || (!isTarget && type.value == ValueType::Nothing);
     };
     if (!isObject(target.type, true)) return report(Message::ObjectRequired, target.pos);
+    if (isControlArray(value) && target.type.id == 0) return;
     if (!isObject(value.type, false)) return report(Message::ObjectRequired, pos);
     if (target.type.value != ValueType::Object || value.type.value != ValueType::Object) return;
     if (target.type.id == 0 || value.type.id == 0 || target.type.id == value.type.id) return;

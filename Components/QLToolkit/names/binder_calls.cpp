@@ -4,10 +4,13 @@
 #include "Components/QLToolkit/names/binder.h"
 #include "Components/QLToolkit/names/lookup.h"
 #include "Components/QLToolkit/types/coercions.h"
+#include <utility>
 
 namespace qltoolkit {
 
 namespace {
+
+constexpr int kMostDefaults = 64;
 
 bool isDrawing(const Span<Argument>& given) {
     return !given.empty() && given[0].value && given[0].value->kind == ExprKind::Coordinates;
@@ -104,9 +107,11 @@ Operand Binder::element(const Operand& base, const IndexExpr& expr) {
 Operand Binder::defaultMember(const Operand& base, const IndexExpr& expr) {
     const Scope& scope = program_.scope(base.type.id);
     const Entity* member = scope.findDefault();
-    if (!member) {
+    // A default member without parameters passes the arguments on to what it returns, which may have the same class.
+    if (std::exchange(defaultsOf_, &expr) != &expr) defaults_ = 0;
+    if (!member || ++defaults_ > kMostDefaults) {
         lateArguments(expr.arguments);
-        if (!scope.isOpen()) report(Message::ArgumentCount, base.pos);
+        if (member || !scope.isOpen()) report(Message::ArgumentCount, base.pos);
         return {OperandKind::Late, {ValueType::Unknown}, base.pos};
     }
     spine_.push_back(&expr);
@@ -223,7 +228,8 @@ bool Binder::fitsTo(const Operand& value, const Type& wanted) {
         }
         return true;
     }
-    if (value.type.isArray) return false;
+    if (isControlArray(value)) return wanted.value == ValueType::Object && wanted.id == 0;
+    if (value.type.isArray) return coercionOf(value.type, wanted) != Coercion::Never;
     if (value.type.value == ValueType::Record || wanted.value == ValueType::Record)
         return value.type.value == wanted.value && value.type.id == wanted.id;
     return coercionOf(value.type.value, wanted.value) != Coercion::Never;

@@ -14,7 +14,7 @@ void Binder::local(const Variable& variable) {
         if (other->type.value != ValueType::Unknown) reportName(Message::DuplicateDeclaration, variable.pos);
         made = other;
     }
-    made->type = types_.typeOf(variable.name, variable.suffix, variable.type);
+    made->type = types_.typeOf(variable.name, variable.suffix, variable.type, localConstants());
     made->type.isArray = variable.isArray;
     if (variable.isArray && !variable.bounds.empty())
         declareBounds(*made, variable, constants_, module_, localConstants());
@@ -57,7 +57,7 @@ void Binder::reDim(const ReDimItem& item) {
 /// ReDim of a name that the project does not have declares an array in the procedure, also where variables must be
 /// declared and where a library has the name.
 Operand Binder::reDimTarget(const ReDimItem& item) {
-    const Type type = item.type ? types_.typeOf(*item.type) : Type{ValueType::Unknown};
+    const Type type = item.type ? types_.typeOf(*item.type, localConstants()) : Type{ValueType::Unknown};
     if (item.target->kind == ExprKind::Name) {
         const auto& name = as<NameExpr>(*item.target);
         const Entity* found = findName(program_, *module_.scope, name.name).entity;

@@ -20,17 +20,24 @@ bool sameParameters(const Span<ParameterInfo>& a, const Span<ParameterInfo>& b) 
     return true;
 }
 
+/// Friend procedures belong to no interface.
+bool isFriend(const Entity& member) {
+    const Callable* callable = member.get ? member.get : member.let ? member.let : member.set;
+    return callable && callable->body && callable->body->visibility == Visibility::Friend;
+}
+
 class DeclarationChecks {
 public:
-    DeclarationChecks(Program& program, SourceModule& module)
-        : program_(program), module_(module), scope_(*module.scope) {}
+    DeclarationChecks(Program& program, SourceModule& module, RecordSizes& sizes)
+        : program_(program), module_(module), scope_(*module.scope), sizes_(sizes) {}
 
     void check() {
         for (const auto& [entity, decl] : module_.records) {
-            if (isCircle(*entity))
+            const auto size = sizes_.of(*entity->inner);
+            if (size.isCircle)
                 module_.diagnostics.report(Message::CircularReference, entity->pos,
                                            program_.symbols.spelling(entity->name));
-            else if (sizeOfRecord(program_, *entity->inner) > kLargestRecord)
+            else if (size.bytes > kLargestRecord)
                 module_.diagnostics.report(Message::StaticDataTooLarge, entity->pos);
         }
         for (const auto& [entity, decl] : module_.variables)
@@ -47,24 +54,6 @@ public:
     }
 
 private:
-    // A record that contains itself has no size.
-    bool isCircle(const Entity& entity) {
-        std::vector<std::uint32_t> waiting{entity.type.id}, seen;
-        bool found = false;
-        while (!waiting.empty() && !found) {
-            const Scope& record = program_.scope(waiting.back());
-            waiting.pop_back();
-            record.names.forEach([&](Symbol, const Entity& field) {
-                if (field.type.value != ValueType::Record || (field.type.isArray && !field.isStaticArray)) return;
-                found |= field.type.id == entity.type.id;
-                if (std::find(seen.begin(), seen.end(), field.type.id) != seen.end()) return;
-                seen.push_back(field.type.id);
-                waiting.push_back(field.type.id);
-            });
-        }
-        return found;
-    }
-
     void eventSource(const Entity& entity, const Variable& decl) {
         if (entity.type.value == ValueType::Unknown) return;
         const bool hasEvents = entity.type.value == ValueType::Object && entity.type.id != 0 &&
@@ -101,7 +90,8 @@ private:
         const auto prefix = program_.symbols.spelling(interface.name);
         std::vector<const Entity*> members;
         interface.names.forEach([&](Symbol, const Entity& member) {
-            if (member.isPublic && member.owner == &interface && member.kind != EntityKind::Constant)
+            if (member.isPublic && member.owner == &interface && member.kind != EntityKind::Constant &&
+                !isFriend(member))
                 members.push_back(&member);
         });
         std::sort(members.begin(), members.end(), [](const Entity* a, const Entity* b) { return a->pos < b->pos; });
@@ -204,10 +194,13 @@ private:
     Program& program_;
     SourceModule& module_;
     Scope& scope_;
+    RecordSizes& sizes_;
 };
 
 } // namespace
 
-void checkDeclarations(Program& program, SourceModule& module) { DeclarationChecks{program, module}.check(); }
+void checkDeclarations(Program& program, SourceModule& module, RecordSizes& sizes) {
+    DeclarationChecks{program, module, sizes}.check();
+}
 
 } // namespace qltoolkit

@@ -26,12 +26,23 @@ Symbol nameOf(const Module& tree, SymbolTable& symbols) {
     return symbols.intern(name);
 }
 
-/// Runs a pass over a module. A module with too many errors is left.
+/// Runs a pass over a module. Returns false for a module with too many errors, which is left.
 template <class Pass>
-void within(const Pass& pass) {
+bool within(const Pass& pass) {
     try {
         pass();
-    } catch (const TooManyErrors&) {} // NOLINT(bugprone-empty-catch): the module has a message about it
+        return true;
+    } catch (const TooManyErrors&) { return false; }
+}
+
+/// Returns whether all declarations of the program are known, whether they are right or not.
+bool resolveAll(Program& program) {
+    Constants constants{program};
+    bool isWhole = true;
+    for (auto& module : program.modules) isWhole &= within([&] { declareControls(program, module); });
+    for (auto& module : program.modules) isWhole &= within([&] { resolveConstantTypes(program, module, constants); });
+    for (auto& module : program.modules) isWhole &= within([&] { resolveModule(program, module, constants); });
+    return isWhole;
 }
 
 void bindAll(Program& program, unsigned threads, std::vector<UnknownNames>& unknown) {
@@ -53,12 +64,20 @@ void bindAll(Program& program, unsigned threads, std::vector<UnknownNames>& unkn
 void reportUnknown(Program& program, const std::vector<UnknownNames>& unknown) {
     std::set<Symbol> known;
     for (std::size_t i = 0; i < unknown.size(); ++i)
-        for (const auto& [name, pos] : unknown[i])
-            if (known.insert(name).second)
-                within([&] {
-                    program.modules[i].diagnostics.report(Message::UnknownLibraryName, pos,
-                                                          nameAt(program.modules[i].tree.source, pos));
-                });
+        within([&] {
+            auto& module = program.modules[i];
+            for (const auto& [name, pos] : unknown[i])
+                if (known.insert(name).second)
+                    module.diagnostics.report(Message::UnknownLibraryName, pos, nameAt(module.tree.source, pos));
+        });
+}
+
+void checkAll(Program& program, unsigned threads) {
+    RecordSizes sizes{program};
+    for (auto& module : program.modules) within([&] { checkDeclarations(program, module, sizes); });
+    std::vector<UnknownNames> unknown(program.modules.size());
+    bindAll(program, threads, unknown);
+    reportUnknown(program, unknown);
 }
 
 } // namespace
@@ -74,19 +93,15 @@ std::vector<std::vector<Diagnostic>> checkProgram(const std::vector<ParsedModule
     libraries.insert(libraries.begin(), builtIn.begin(), builtIn.end());
     addLibraries(program, libraries);
 
-    for (const auto& [tree, form] : modules) {
-        auto& module = program.modules.emplace_back(*tree, form);
-        within([&] { declareModule(program, module, nameOf(*tree, symbols)); });
+    bool isWhole = true;
+    for (const auto& parsed : modules) {
+        auto& module = program.modules.emplace_back(*parsed.tree, parsed.form);
+        isWhole &= within([&] { declareModule(program, module, nameOf(*parsed.tree, symbols)); });
     }
     declareProject(program, options.projectName);
-    Constants constants{program};
-    for (auto& module : program.modules) within([&] { declareControls(program, module); });
-    for (auto& module : program.modules) within([&] { resolveModule(program, module, constants); });
-    for (auto& module : program.modules) within([&] { checkDeclarations(program, module); });
-
-    std::vector<UnknownNames> unknown(program.modules.size());
-    bindAll(program, options.threads, unknown);
-    reportUnknown(program, unknown);
+    isWhole &= resolveAll(program);
+    // Declarations that were left have no signatures, so what uses them cannot be checked.
+    if (isWhole) checkAll(program, options.threads);
     std::vector<std::vector<Diagnostic>> result;
     for (auto& module : program.modules) result.push_back(module.diagnostics.takeSorted());
     return result;

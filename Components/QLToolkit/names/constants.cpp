@@ -47,7 +47,7 @@ std::uint32_t Constants::lengthOf(const Expr& expr, SourceModule& module, const 
 void Constants::evaluate(const Entity& constant, SourceModule& module, const LocalConstants& local) {
     std::vector<const Entity*> waiting;
     for (const Entity* at = &constant; at && at->constant->progress == ConstantState::Progress::Waiting;
-         at = at->constant->previous)
+         at = at->constant->expression ? nullptr : at->constant->previous)
         waiting.push_back(at);
     if (constant.constant->progress == ConstantState::Progress::Running) return refuseCircle(constant, module);
     for (; !waiting.empty(); waiting.pop_back()) evaluateOne(*waiting.back(), module, local);
@@ -56,7 +56,9 @@ void Constants::evaluate(const Entity& constant, SourceModule& module, const Loc
 void Constants::evaluateOne(const Entity& constant, SourceModule& module, const LocalConstants& local) {
     ConstantState& state = *constant.constant;
     if (state.progress != ConstantState::Progress::Waiting) return;
-    if (depth_ >= kDeepestConstant) return refuseCircle(constant, module);
+    const bool isCircle =
+        !state.expression && state.previous && state.previous->constant->progress == ConstantState::Progress::Running;
+    if (isCircle || depth_ >= kDeepestConstant) return refuseCircle(constant, module);
     state.progress = ConstantState::Progress::Running;
     ++depth_;
     const Context context{module, local};

@@ -1,5 +1,4 @@
 #include "Components/QLToolkit/names/declared_types.h"
-#include "Components/QLToolkit/names/constants.h"
 #include "Components/QLToolkit/names/lookup.h"
 
 namespace qltoolkit {
@@ -36,16 +35,16 @@ ValueType simpleType(TypeKind kind) {
     return ValueType::Unknown;
 }
 
-Type DeclaredTypes::typeOf(const TypeRef& ref) {
+Type DeclaredTypes::typeOf(const TypeRef& ref, const LocalConstants& local) {
     Type type{simpleType(ref.kind)};
     if (ref.kind == TypeKind::Named) type = namedType(ref);
-    if (ref.kind == TypeKind::FixedString && ref.length) type.id = constants_.lengthOf(*ref.length, module_);
+    if (ref.kind == TypeKind::FixedString && ref.length) type.id = constants_.lengthOf(*ref.length, module_, local);
     type.isArray = ref.isArray;
     return type;
 }
 
-Type DeclaredTypes::typeOf(Symbol name, TypeSuffix suffix, const TypeRef* ref) {
-    if (ref) return typeOf(*ref);
+Type DeclaredTypes::typeOf(Symbol name, TypeSuffix suffix, const TypeRef* ref, const LocalConstants& local) {
+    if (ref) return typeOf(*ref, local);
     return suffix ? Type{typeOfSuffix(suffix)} : defaultType(name);
 }
 

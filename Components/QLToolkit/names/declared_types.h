@@ -1,10 +1,8 @@
 #pragma once
 // The types that declarations name.
-#include "Components/QLToolkit/names/program.h"
+#include "Components/QLToolkit/names/constants.h"
 
 namespace qltoolkit {
-
-class Constants;
 
 /// Turns what a declaration says about a type into the type, and reports types that do not exist, once per position.
 class DeclaredTypes {
@@ -12,10 +10,10 @@ public:
     DeclaredTypes(Program& program, SourceModule& module, Constants& constants)
         : program_(program), module_(module), constants_(constants) {}
 
-    /// The type after As.
-    Type typeOf(const TypeRef& ref);
+    /// The type after As. The length of a text may be one of the constants of a procedure.
+    Type typeOf(const TypeRef& ref, const LocalConstants& local = {});
     /// The type of a name: after As, by its type character, or by DefType.
-    Type typeOf(Symbol name, TypeSuffix suffix, const TypeRef* ref);
+    Type typeOf(Symbol name, TypeSuffix suffix, const TypeRef* ref, const LocalConstants& local = {});
     /// The class after As New, New and TypeOf ... Is. Unknown after an error.
     Type classOf(const TypeRef& ref);
 

@@ -5,7 +5,6 @@ namespace qltoolkit {
 
 namespace {
 
-constexpr int kDeepestRecord = 64;
 constexpr std::uint64_t kTooLarge = kLargestRecord + 1;
 
 std::uint64_t sizeOf(ValueType type) {
@@ -21,27 +20,57 @@ std::uint64_t sizeOf(ValueType type) {
     }
 }
 
-std::uint64_t sizeOf(const Program& program, const Scope& record, int depth);
+bool isPointer(const Entity& field) { return field.type.isArray && !field.isStaticArray; }
 
-std::uint64_t sizeOf(const Program& program, const Entity& field, int depth) {
-    if (field.type.isArray && !field.isStaticArray) return sizeOf(ValueType::Object);
-    std::uint64_t size = sizeOf(field.type.value);
-    if (field.type.value == ValueType::FixedString) size = std::uint64_t{field.type.id} * 2;
-    if (field.type.value == ValueType::Record) size = sizeOf(program, program.scope(field.type.id), depth + 1);
-    return std::min(size, kTooLarge) * field.elements;
-}
+bool isRecord(const Entity& field) { return field.type.value == ValueType::Record && !isPointer(field); }
 
-std::uint64_t sizeOf(const Program& program, const Scope& record, int depth) {
-    if (depth > kDeepestRecord) return kTooLarge;
-    std::uint64_t total = 0;
-    record.names.forEach([&](Symbol, const Entity& field) {
-        if (total <= kLargestRecord) total += sizeOf(program, field, depth);
-    });
-    return std::min(total, kTooLarge);
+std::uint64_t sizeOf(const Entity& field) {
+    if (isPointer(field)) return sizeOf(ValueType::Object);
+    return field.type.value == ValueType::FixedString ? std::uint64_t{field.type.id} * 2 : sizeOf(field.type.value);
 }
 
 } // namespace
 
-std::uint64_t sizeOfRecord(const Program& program, const Scope& record) { return sizeOf(program, record, 0); }
+RecordSize RecordSizes::of(const Scope& record) {
+    if (!known_.contains(record.number)) open(record.number);
+    while (!open_.empty()) {
+        auto& [number, fields] = open_.back();
+        if (fields.empty()) {
+            known_[number].isDone = true;
+            open_.pop_back();
+        } else if (const Entity& field = *fields.back(); isRecord(field) && !known_.contains(field.type.id)) {
+            open(field.type.id);
+        } else {
+            fields.pop_back();
+            count(field);
+        }
+    }
+    return known_[record.number].size;
+}
+
+void RecordSizes::open(std::uint32_t record) {
+    known_[record] = {};
+    auto& fields = open_.emplace_back(Open{record, {}}).fields;
+    program_.scope(record).names.forEach([&](Symbol, const Entity& field) { fields.push_back(&field); });
+}
+
+/// Adds a field to the innermost record.
+void RecordSizes::count(const Entity& field) {
+    auto& total = known_[open_.back().record].size.bytes;
+    if (!isRecord(field)) {
+        total = std::min(total + std::min(sizeOf(field), kTooLarge) * field.elements, kTooLarge);
+    } else if (const auto& inner = known_[field.type.id]; inner.isDone) {
+        total = std::min(total + inner.size.bytes * field.elements, kTooLarge);
+    } else {
+        markCircle(field.type.id);
+    }
+}
+
+void RecordSizes::markCircle(std::uint32_t record) {
+    for (auto at = open_.rbegin(); at != open_.rend(); ++at) {
+        known_[at->record].size.isCircle = true;
+        if (at->record == record) return;
+    }
+}
 
 } // namespace qltoolkit

@@ -1,14 +1,41 @@
 #pragma once
-// The size of records.
+// The sizes of records.
 #include "Components/QLToolkit/names/program.h"
+#include <unordered_map>
 
 namespace qltoolkit {
 
 /// Records are at most this large.
 inline constexpr std::uint64_t kLargestRecord = 65535;
 
-/// Returns the bytes of a record, its arrays with bounds included, as it lies in memory without gaps between the fields.
-/// A record that contains itself, and any size above kLargestRecord, is kLargestRecord + 1.
-[[nodiscard]] std::uint64_t sizeOfRecord(const Program& program, const Scope& record);
+struct RecordSize {
+    std::uint64_t bytes =
+        0;                 ///< arrays with bounds included, without gaps between the fields; at most kLargestRecord + 1
+    bool isCircle = false; ///< contains itself; its bytes and those of what contains it are not known
+};
+
+/// Finds each size once, because records may contain one another in long chains.
+class RecordSizes {
+public:
+    explicit RecordSizes(const Program& program) : program_(program) {}
+    [[nodiscard]] RecordSize of(const Scope& record);
+
+private:
+    struct Known {
+        RecordSize size;
+        bool isDone = false;
+    };
+    struct Open {
+        std::uint32_t record;
+        std::vector<const Entity*> fields; ///< that are not counted yet
+    };
+    void open(std::uint32_t record);
+    void count(const Entity& field);
+    void markCircle(std::uint32_t record);
+
+    const Program& program_;
+    std::unordered_map<std::uint32_t, Known> known_; // by Scope::number
+    std::vector<Open> open_;                         // the records that are being counted, each inside the one before
+};
 
 } // namespace qltoolkit

@@ -18,8 +18,14 @@ public:
     ModuleResolution(Program& program, SourceModule& module, Constants& constants)
         : program_(program), module_(module), constants_(constants), types_(program, module, constants) {}
 
+    void resolveConstantTypes() {
+        for (const auto& [entity, decl] : module_.constants)
+            if (!entity->type.isEnum && (decl->type || decl->suffix))
+                entity->constant->declared = types_.typeOf(decl->name, decl->suffix, decl->type);
+    }
+
     void resolve() {
-        for (const auto& [entity, decl] : module_.constants) constant(*entity, *decl);
+        for (const auto& [entity, decl] : module_.constants) constant(*entity);
         for (const auto& [entity, decl] : module_.records) record(*entity, *decl);
         for (const auto& [entity, decl] : module_.variables) variable(*entity, *decl);
         for (const auto& [entity, decl] : module_.callables) callable(*entity, *decl);
@@ -30,9 +36,7 @@ public:
     }
 
 private:
-    void constant(Entity& entity, const Constant& decl) {
-        if (!entity.type.isEnum && (decl.type || decl.suffix))
-            entity.constant->declared = types_.typeOf(decl.name, decl.suffix, decl.type);
+    void constant(Entity& entity) {
         constants_.evaluate(entity, module_);
         if (entity.type.isEnum) return;
         entity.type = entity.constant->declared;
@@ -115,7 +119,7 @@ private:
         for (const auto& p : list) {
             ParameterInfo info;
             info.name = p.name;
-            info.type = types_.typeOf(p.name, p.suffix, p.type);
+            if (p.type || !p.paramArray) info.type = types_.typeOf(p.name, p.suffix, p.type);
             info.type.isArray = p.isArray && !p.paramArray;
             info.byVal = p.passing == Passing::ByVal;
             info.optional = p.optional;
@@ -168,6 +172,10 @@ private:
 };
 
 } // namespace
+
+void resolveConstantTypes(Program& program, SourceModule& module, Constants& constants) {
+    ModuleResolution{program, module, constants}.resolveConstantTypes();
+}
 
 void resolveModule(Program& program, SourceModule& module, Constants& constants) {
     ModuleResolution{program, module, constants}.resolve();

@@ -4,6 +4,7 @@
 namespace qltoolkit {
 
 void Diagnostics::report(Message message, Pos at, std::string_view detail) {
+    if (errors_ > kMaxErrors) throw TooManyErrors{};
     add(message, source_.locate(std::min(at, source_.size())), detail);
     if (errors_ < kMaxErrors) return;
     add(Message::TooManyErrors, source_.locate(std::min(at, source_.size())), std::to_string(kMaxErrors));

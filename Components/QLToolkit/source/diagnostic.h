@@ -28,7 +28,7 @@ public:
     explicit Diagnostics(const SourceText& source) : source_(source) {}
 
     /// Adds a message about the position `at`. `detail` (UTF-8) replaces the placeholder in its text.
-    /// Throws TooManyErrors after kMaxErrors errors.
+    /// Throws TooManyErrors after kMaxErrors errors, and adds nothing more.
     void report(Message, Pos at, std::string_view detail = {});
     /// Adds a message about the whole file.
     void reportFile(Message, std::string_view detail = {});
