@@ -254,3 +254,25 @@ TEST(Names, TheLengthOfATextMayBeAConstantOfTheProcedure) {
                            "String * Loc\nEnd Sub"),
                 ElementsAre("4:19 2102"));
 }
+
+TEST(Names, AVariableForAnyFormHasTheMembersOfEveryForm) {
+    CheckedProgram program;
+    program.add("Form1.frm",
+                "Public Total As Long\nSub A(f As Form)\nf.Total = 1\nf.Caption = f.Name\nMe.Gone = 1\nEnd Sub");
+    EXPECT_THAT(program.messages(), ElementsAre("5:4 2002"));
+}
+
+TEST(Names, ConstantsMayBeQualifiedWithTheProjectAndTheModule) {
+    EXPECT_THAT(
+        messagesOf("Public Enum E\nx = 1\nEnd Enum\nConst a = Project1.Module1.b, b = VBA.Constants.vbCr\n"
+                   "Const c = Project1.Module1.E.x + Project1.E.x + Module1.E.x\nConst d = Project1.Module1.Gone.x"),
+        ElementsAre("6:33 2102"));
+}
+
+TEST(Names, PicturesAreLoadedInTheSizesAndColoursOfTheLanguage) {
+    EXPECT_THAT(
+        messagesOf(
+            "Option Explicit\nSub A(p As StdPicture)\nSet p = LoadPicture(\"a.ico\", vbLPCustom, vbLPColor, 32, 32)\n"
+            "Set p = LoadPicture(\"a.ico\", vbLPLarge, vbLPDefault)\nEnd Sub"),
+        IsEmpty());
+}

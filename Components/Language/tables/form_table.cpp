@@ -43,7 +43,7 @@ Shared FormEvents
   Event LinkExecute(CmdStr As String, Cancel As Integer) absent "Devices have no dynamic data exchange; use a QLNetwork"
   Include LinkEvents DragEvents MouseEvents OleEvents
 
-Class Form ' A window of the program
+Class Form open ' A window of the program
   Include FormEvents FocusEvents KeyEvents
   Event Paint absent "Use Activate"
   Include FormCommon Placed Enabled Window Colours Font Canvas OlePalette

@@ -20,6 +20,19 @@ Enum ListBoxConstants
   vbListBoxStandard = 0
   vbListBoxCheckbox = 1
 
+Enum LoadPictureColorConstants
+  vbLPDefault = 0
+  vbLPMonochrome = 1
+  vbLPVGAColor = 2
+  vbLPColor = 3
+
+Enum LoadPictureSizeConstants
+  vbLPSmall = 0
+  vbLPLarge = 1
+  vbLPSmallShell = 2
+  vbLPLargeShell = 3
+  vbLPCustom = 4
+
 Enum LoadResConstants
   vbResBitmap = 0
   vbResIcon = 1

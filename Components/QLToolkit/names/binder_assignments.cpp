@@ -35,7 +35,7 @@ void Binder::assign(const Operand& target, const Operand& value, Pos pos) {
         if (value.type.value == ValueType::Nothing) report(Message::InvalidUseOfObject, pos);
         if (target.type.id == 0) return;
         const Scope& scope = program_.scope(target.type.id);
-        if (!scope.findDefault() && !scope.isOpen()) report(Message::InvalidUseOfProperty, target.pos);
+        if (!scope.findDefault() && !scope.open) report(Message::InvalidUseOfProperty, target.pos);
         return;
     }
     if (value.type.value == ValueType::Nothing) return report(Message::InvalidUseOfObject, pos);

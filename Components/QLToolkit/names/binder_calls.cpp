@@ -111,7 +111,7 @@ Operand Binder::defaultMember(const Operand& base, const IndexExpr& expr) {
     if (std::exchange(defaultsOf_, &expr) != &expr) defaults_ = 0;
     if (!member || ++defaults_ > kMostDefaults) {
         lateArguments(expr.arguments);
-        if (member || !scope.isOpen()) report(Message::ArgumentCount, base.pos);
+        if (member || !scope.open) report(Message::ArgumentCount, base.pos);
         return {OperandKind::Late, {ValueType::Unknown}, base.pos};
     }
     spine_.push_back(&expr);

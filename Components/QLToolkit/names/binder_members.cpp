@@ -50,7 +50,7 @@ Operand Binder::memberOfQualifier(const Operand& base, const MemberExpr& expr) {
     }
     if (const Entity* type = inner.types.find(expr.name); type && (type->isPublic || isOwn))
         return entityOperand(*type, expr, false);
-    if (inner.isOpen()) return late(expr.pos, ValueType::Unknown);
+    if (inner.open) return late(expr.pos, ValueType::Unknown);
     return notFound(expr);
 }
 
@@ -63,7 +63,7 @@ Operand Binder::memberOfObject(const Operand& base, const MemberExpr& expr) {
                     expr.pos, found};
         return entityOperand(*found, expr, true);
     }
-    if (scope.isOpen()) return late(expr.pos, ValueType::Unknown);
+    if (scope.open) return late(expr.pos, ValueType::Unknown);
     return notFound(expr);
 }
 

@@ -58,7 +58,7 @@ private:
         if (entity.type.value == ValueType::Unknown) return;
         const bool hasEvents = entity.type.value == ValueType::Object && entity.type.id != 0 &&
                                (program_.scope(entity.type.id).events.size() > 0 ||
-                                program_.scope(entity.type.id).isOpen() || program_.scope(entity.type.id).base);
+                                program_.scope(entity.type.id).open || program_.scope(entity.type.id).base);
         if (!hasEvents) module_.diagnostics.report(Message::NoEvents, decl.type ? decl.type->pos : decl.pos);
     }
 
@@ -126,7 +126,7 @@ private:
         const Entity* event = nullptr;
         for (const Scope* at = source; at && !event; at = at->base) event = at->events.find(name);
         if (!event) {
-            if (!source->isOpen() && source->kind == ScopeKind::LibraryClass)
+            if (!source->open && source->kind == ScopeKind::LibraryClass)
                 module_.diagnostics.report(Message::HandlerOfUnknownEvent, entity.pos,
                                            nameAt(module_.tree.source, entity.pos));
             return;

@@ -144,23 +144,24 @@ std::optional<ConstantValue> Constants::named(const Expr& expr, const Entity* en
 
 // Enumeration.Member, Module.Constant, Library.Constant, and all of them behind the name of the project or library.
 const Entity* Constants::qualified(const MemberExpr& expr, const Context& context) {
-    if (!expr.base) return nullptr;
-    const Scope* inner = nullptr;
-    if (expr.base->kind == ExprKind::Name) {
-        const Symbol name = as<NameExpr>(*expr.base).name;
-        const Entity* found = findType(program_, *context.module.scope, Symbol::None, name);
-        if (!found || found->kind != EntityKind::Enum) found = findName(program_, *context.module.scope, name).entity;
-        if (found && found->kind == EntityKind::Project)
-            return findName(program_, *context.module.scope, expr.name).entity;
-        inner = found ? found->inner : nullptr;
-    } else if (expr.base->kind == ExprKind::Member) {
-        const auto& base = as<MemberExpr>(*expr.base);
-        if (!base.base || base.base->kind != ExprKind::Name) return nullptr;
-        const Symbol library = as<NameExpr>(*base.base).name;
-        const Entity* found = findType(program_, *context.module.scope, library, base.name);
-        inner = found ? found->inner : nullptr;
-    }
-    return inner ? inner->names.find(expr.name) : nullptr;
+    std::vector<Symbol> names; // from the last one to the first
+    const Expr* at = &expr;
+    for (; at && at->kind == ExprKind::Member; at = as<MemberExpr>(*at).base) names.push_back(as<MemberExpr>(*at).name);
+    if (!at || at->kind != ExprKind::Name) return nullptr;
+    const Entity* found = qualifier(nullptr, as<NameExpr>(*at).name, context);
+    for (; found && names.size() > 1; names.pop_back()) found = qualifier(found, names.back(), context);
+    if (found && found->kind == EntityKind::Project) return findName(program_, *context.module.scope, expr.name).entity;
+    return found && found->inner ? found->inner->names.find(expr.name) : nullptr;
+}
+
+/// An enumeration, module, library or project that a name means at the beginning or after the point.
+const Entity* Constants::qualifier(const Entity* outer, Symbol name, const Context& context) {
+    const Scope& module = *context.module.scope;
+    const bool isFirst = !outer || outer->kind == EntityKind::Project;
+    if (!isFirst && !outer->inner) return nullptr;
+    const Entity* type = isFirst ? findType(program_, module, Symbol::None, name) : outer->inner->types.find(name);
+    if (type && (type->kind == EntityKind::Enum || !isFirst)) return type;
+    return isFirst ? findName(program_, module, name).entity : outer->inner->names.find(name);
 }
 
 std::optional<ConstantValue> Constants::checked(const Expr& expr, Folded folded, const Context& context) {

@@ -33,6 +33,7 @@ private:
     std::optional<ConstantValue> literal(const Expr& expr, const Context& context);
     std::optional<ConstantValue> named(const Expr& expr, const Entity* entity, const Context& context);
     const Entity* qualified(const MemberExpr& expr, const Context& context);
+    const Entity* qualifier(const Entity* outer, Symbol name, const Context& context);
     std::optional<ConstantValue> checked(const Expr& expr, Folded folded, const Context& context);
     std::optional<ConstantValue> refuse(const Expr& expr, const Context& context);
     void evaluateOne(const Entity& constant, SourceModule& module, const LocalConstants& local);

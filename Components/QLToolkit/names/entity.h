@@ -103,7 +103,6 @@ struct Scope {
             if (Entity* found = scope->names.find(symbol)) return found;
         return nullptr;
     }
-    [[nodiscard]] bool isOpen() const { return open || (base && base->isOpen()); }
     [[nodiscard]] const Entity* findDefault() const {
         return defaultMember || !base ? defaultMember : base->findDefault();
     }

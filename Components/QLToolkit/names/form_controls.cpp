@@ -72,7 +72,7 @@ private:
     void checkProperties(const image::Control& control, const Type& type) {
         if (type.value != ValueType::Object || type.id == 0) return;
         const Scope& scope = program_.scope(type.id);
-        if (scope.kind != ScopeKind::LibraryClass || scope.isOpen() ||
+        if (scope.kind != ScopeKind::LibraryClass || scope.open ||
             basic::startsWithNoCase(control.className.str(), "VB."))
             return;
         for (const auto& property : control.properties) {
