@@ -36,6 +36,7 @@ Machine::Machine(FrontEnd front)
       installation_(findInstallation(environment_)),
       registry_(host::usualRegistryPlaces(environment_, installation_)),
       classes_(registry_),
+      libraries_(installation_),
       processes_(std::move(front.processes)),
       shell_(*files_, std::move(front.report), std::move(front.opening)),
       resources_(*files_, installation_),
@@ -65,7 +66,8 @@ void Machine::registerComponents() {
         [this] { return basic::make<designtargetaccess::DesignTargetMgr>(installation_); });
     add("QLToolkit.CompilerFactory", [this] {
         return basic::make<qltoolkit::ProjectCompilerFactory>(
-            qltoolkit::CompilerServices{*files_, classes_, build_, codePageOfSource_});
+            qltoolkit::CompilerServices{*files_, classes_, build_, codePageOfSource_,
+                                        [this](const std::string& guid) { return libraries_.find(guid); }});
     });
     add("Scripting.FileSystemObject", [] { return basic::make<host::FileSystem>(); });
     qlpipe::registerPipes(pipeServices(), add);

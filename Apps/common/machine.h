@@ -2,6 +2,7 @@
 // The host's services on this system.
 #include "Add-in/platform/platform.h"
 #include "Add-in/platform/windows/no_windows.h"
+#include "Apps/common/described_libraries.h"
 #include "Components/QLPipe/base/pipe_services.h"
 #include "Components/QLToolkit/compiler.h"
 #include "Host/registry/registry_store.h"
@@ -67,6 +68,7 @@ private:
     std::string installation_;
     host::RegistryStore registry_;
     host::Classes classes_;
+    DescribedLibraries libraries_;
     std::unique_ptr<fernwick::Processes> processes_;
     host::Shell shell_;
     host::Screen screen_;

@@ -109,11 +109,9 @@ void ProjectCompiler::checkNames(const std::vector<Source>& sources, SymbolTable
     for (const auto& source : sources) modules.push_back({source.parsed.module.get(), source.form});
     ProgramOptions options;
     options.projectName = services_.files.GetFileName(input_.outputPath);
-    std::vector<std::shared_ptr<const language::Library>> described;
     for (const auto& library : libraries)
-        if (services_.libraryOf) described.push_back(services_.libraryOf(library.path));
-    for (const auto& library : described)
-        if (library) options.libraries.push_back(library.get());
+        if (const auto* described = services_.libraryOf ? services_.libraryOf(library.guid) : nullptr)
+            options.libraries.push_back(described);
     const auto named = std::count_if(input_.files.begin(), input_.files.end(),
                                      [](const BuildFile& file) { return file.kind != SourceFile; });
     options.isIncomplete = options.libraries.size() < static_cast<std::size_t>(named);

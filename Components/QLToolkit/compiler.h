@@ -35,8 +35,8 @@ struct CompilerServices {
     std::shared_ptr<BuildRecord> record = std::make_shared<BuildRecord>();
     /// The code page of a source file, by its path. Without it sources are Windows-1252 or UTF-8.
     std::function<basic::CodePage(const std::string& path)> codePageOf = {};
-    /// The contents of a library, by its path; null for one that is not described.
-    std::function<std::shared_ptr<const language::Library>(const std::string& path)> libraryOf = {};
+    /// The contents of a library, by its GUID; null for one that is not described.
+    std::function<const language::Library*(const std::string& guid)> libraryOf = {};
 };
 
 class ProjectCompiler : public Compiler {

@@ -32,6 +32,11 @@ std::string movedValue(const ProjectMember& member, const std::function<std::str
     return formatReference(line);
 }
 
+/// The name in a component's line: those of modules and classes have one.
+std::string lineName(const Component& component) {
+    return lineHoldsName(kindOf(component.Type()).member) ? component.Name() : std::string();
+}
+
 } // namespace
 
 void Project::SaveAs(const std::string& path) {
@@ -76,28 +81,33 @@ std::string Project::memberPath(const std::string& path) const {
 void Project::moveTo(const std::string& path, MovedLines& oldLines) {
     const auto oldFolder = folder();
     const auto newFolder = folderOf(path);
+    const auto set = [&](ProjectFile::Place line, const std::string& name, const std::string& value) {
+        oldLines.emplace_back(line, line->text);
+        file_->setMember(line, name, value);
+    };
     PathLookup lookup;
     const auto moved = [&](const std::string& written) {
         return writtenPath(newFolder, lookup.find(oldFolder, written));
     };
-    if (oldFolder != newFolder)
-        for (const auto& [line, member] : file_->members()) {
-            if (oldFolder.empty() && !isComponentKind(member.kind)) continue; // not yet relative
-            oldLines.emplace_back(line, line->text);
-            file_->setMember(line, member.name, movedValue(member, moved));
+    if (oldFolder.empty())
+        for (const auto& component : components_->list()) {
+            if (component->member())
+                set(*component->member(), lineName(*component), writtenPath(newFolder, component->path()));
         }
+    else if (oldFolder != newFolder)
+        for (const auto& [line, member] : file_->members()) set(line, member.name, movedValue(member, moved));
     path_ = path;
 }
 
 void Project::writeMember(Component& component) {
     if (component.path().empty()) return;
-    const auto kind = kindOf(component.Type()).member;
-    const auto name = lineHoldsName(kind) ? component.Name() : std::string();
-    const auto value = memberPath(component.path());
+    const auto name = lineName(component);
+    // Without a file of its own the project's lines are provisional, and its code page may lack characters of the path.
+    const auto value = path_.empty() ? file_->storableText(component.path()) : memberPath(component.path());
     if (component.member())
         file_->setMember(*component.member(), name, value);
     else
-        component.member(file_->addMember(kind, name, value));
+        component.member(file_->addMember(kindOf(component.Type()).member, name, value));
     edited();
 }
 

@@ -248,6 +248,20 @@ TEST(HostLoading, ANewProjectFromATemplateHasNoFiles) {
     EXPECT_NE(host.folder.read("Mine.vbp").find("\r\nForm=frmT.frm\r\n"), std::string::npos);
 }
 
+TEST(HostLoading, ANewProjectIsSavedInAFolderWhoseNameItsCodePageLacks) {
+    TestHost host;
+    const auto path =
+        SampleProject("Template").form("frmT").module("modT").handheld().writeTo(host.folder, "Template/Projects");
+    const auto project = host.ide->VBProjects()->AddFromTemplate(path);
+    host.folder.write("計算/Größe/other.txt", "");
+    project->VBComponents()->Item("frmT")->SaveAs(host.folder / "計算/Größe/frmT.frm");
+    project->VBComponents()->Item("modT")->SaveAs(host.folder / "計算/modT.bas");
+    project->SaveAs(host.folder / "計算/Mine.vbp");
+    const auto text = host.folder.read("計算/Mine.vbp");
+    EXPECT_NE(text.find("\r\nForm=Gr\xF6\xDF\x65\\frmT.frm\r\n"), std::string::npos) << text;
+    EXPECT_NE(text.find("\r\nModule=modT; modT.bas\r\n"), std::string::npos) << text;
+}
+
 TEST(HostLoading, AFileOfATemplateFolderOpensAsANewProject) {
     TestHost host;
     const auto path = SampleProject("Project1").writeTo(host.folder, "Template/Projects");

@@ -1,4 +1,5 @@
 #include "Host/model/project.h"
+#include "Host/model/project_references.h"
 #include "Host/model/references/type_libraries.h"
 #include "tests/support/test_host.h"
 
@@ -181,4 +182,49 @@ TEST(HostReferences, TheToolboxAddsALibraryOnce) {
     const auto line = std::string("Object=") + kReferencedControls + "#1.0#0; Tavlets.dll\r\n";
     EXPECT_EQ(text.find(line), text.rfind("Object="));
     EXPECT_NE(text.find(line), std::string::npos) << text;
+}
+
+TEST(HostReferences, AnotherOrderExchangesTheLines) {
+    TestHost host;
+    const auto thing = std::string("Reference=*\\G") + kThing + "#1.0#0#..\\odd  spelling.dll#A thing";
+    const auto project = host.open(SampleProject().member(thing).form("frmA").member(kStdOleLine));
+    auto& references = basic::cast<host::Project>(project)->references();
+    project->SaveAs(project->FileName());
+    const auto before = host.folder.read("Hello.vbp");
+    references.arrange(project->References()->items());
+    EXPECT_FALSE(project->IsDirty());
+    references.arrange({project->References()->Item(kFirstOwn + 1), firstOwn(project)});
+    EXPECT_TRUE(project->IsDirty());
+    EXPECT_EQ(project->References()->Item(kFirstOwn + 1)->Guid(), kThing);
+    project->SaveAs(project->FileName());
+    auto expected = before;
+    expected.replace(expected.find(kStdOleLine), std::string(kStdOleLine).size(), "\1");
+    expected.replace(expected.find(thing), thing.size(), kStdOleLine);
+    expected.replace(expected.find('\1'), 1, thing);
+    EXPECT_EQ(host.folder.read("Hello.vbp"), expected);
+    EXPECT_EQ(errorOf([&] { references.arrange({firstOwn(project), firstOwn(project)}); }), 5);
+    project->References()->Remove(firstOwn(project));
+    project->SaveAs(project->FileName());
+    EXPECT_EQ(host.folder.read("Hello.vbp").find(kStdOleLine), std::string::npos);
+}
+
+TEST(HostReferences, RegisteredLibrariesAreListedByDescription) {
+    TestHost host;
+    constexpr auto kOther = "{99999999-2222-3333-4444-55555555AAAA}";
+    host.registerLibrary(kThing, host.folder / "thing.dll", "B thing");
+    host.registerLibrary(kOther, host.folder / "other.dll", "A thing");
+    std::vector<std::string> names;
+    for (const auto& library : host.ide->libraries().all()) names.push_back(library.description);
+    EXPECT_EQ(names, (std::vector<std::string>{"A thing", "B thing"}));
+    EXPECT_TRUE(host.ide->libraries().ofControls().empty());
+    const auto project = host.open(SampleProject());
+    auto& references = basic::cast<host::Project>(project)->references();
+    references.addControls(kOther);
+    references.addControls(kOther);
+    EXPECT_EQ(errorOf([&] { references.addControls("{99999999-0000-3333-4444-55555555AAAA}"); }), -2147319779);
+    EXPECT_EQ(errorOf([&] { references.addControlFile(host.folder / "none.ocx"); }), 53);
+    project->SaveAs(project->FileName());
+    EXPECT_NE(host.folder.read("Hello.vbp").find("Object={99999999-2222-3333-4444-55555555AAAA}#1.0#0; other.dll\r\n"),
+              std::string::npos);
+    EXPECT_EQ(project->References()->Count(), kFirstOwn);
 }

@@ -29,6 +29,17 @@ TEST_F(BigProject, OpensNoEditorUntilOneIsAskedFor) {
     EXPECT_EQ(window().code().findChildren<QsciScintilla*>().size(), 1);
 }
 
+TEST_F(BigProject, NothingIsDrawnAgainWithoutAnEdit) {
+    open(test::SampleProject().module("modA", "Dim x\r\n"));
+    QTest::keyClicks(&code("modA"), "y");
+    settle(800); // until the marks of the last key are up to date
+    int refreshed = 0;
+    window().code().refreshed = [&refreshed] { ++refreshed; };
+    window().explorer().refreshSoon();
+    settle(100);
+    EXPECT_EQ(refreshed, 0);
+}
+
 TEST_F(BigProject, TypingDoesNotDependOnTheProjectsSize) {
     open(sample());
     auto& editor = code("mod7");

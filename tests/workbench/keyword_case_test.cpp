@@ -127,6 +127,23 @@ TEST_F(KeywordCase, NamesTakeTheCaseOfTheirDeclarations) {
               "Total = mCount + theSize + modB.Twice(Most) + KindOne + hidden + x.least + \"total\" ' total");
 }
 
+TEST_F(KeywordCase, NamesOfALongModuleAreKnownWhileTyping) {
+    std::string lines = "Private mCount\r\nSub Work()\r\n\r\nEnd Sub\r\n";
+    for (int i = 0; i < 2000; ++i) lines += "' a line\r\n";
+    auto& text = edit(lines);
+    text.setCursorPosition(2, 0);
+    QTest::keyClicks(&text, "dim Total");
+    QTest::keyClick(&text, Qt::Key_Return);
+    QTest::keyClicks(&text, "total = MCOUNT");
+    QTest::keyClick(&text, Qt::Key_Return);
+    EXPECT_EQ(text.text(3).trimmed().toStdString(), "Total = mCount");
+    text.insertAt("Private mNew\n", 1, 0);
+    QTest::qWait(400); // the pause in which the names are read again
+    QTest::keyClicks(&text, "x = MNEW");
+    QTest::keyClick(&text, Qt::Key_Return);
+    EXPECT_EQ(text.text(5).trimmed().toStdString(), "x = mNew");
+}
+
 TEST(DeclaredNames, AreReadInOneWalk) {
     const auto names = workbench::declaredNames(
         {"Option Explicit", "Private Declare Function Beep2 Lib \"a\" (ByVal X As Long) As Long",

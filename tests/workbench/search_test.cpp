@@ -24,7 +24,7 @@ protected:
         open(test::SampleProject("Two").module("modC", "Sub C()\r\n    ' X\r\nEnd Sub\r\n"));
     }
     void search(const QString& what) {
-        menuItem("&Edit", "Find in &All Projects...")->trigger();
+        menuItem("&Edit", "Find in All Pro&jects...")->trigger();
         window().findBar().findChild<QLineEdit*>("findWhat")->setText(what);
         QTest::keyClick(window().findBar().findChild<QLineEdit*>("findWhat"), Qt::Key_Return, Qt::ControlModifier);
         EXPECT_TRUE(QTest::qWaitFor([this] { return !window().results().isSearching(); }));
@@ -105,7 +105,7 @@ TEST_F(Searching, IsStopped) {
     for (int i = 0; i < 1000; ++i) code += line;
     for (int i = 0; i < 60; ++i) big.module(fmt::format("mod{}", i), code);
     open(big);
-    menuItem("&Edit", "Find in &All Projects...")->trigger();
+    menuItem("&Edit", "Find in All Pro&jects...")->trigger();
     window().findBar().findChild<QLineEdit*>("findWhat")->setText("x4");
     window().findBar().findAll();
     ASSERT_TRUE(window().results().isSearching());

@@ -443,7 +443,7 @@ TEST_F(Desktop, UndoingAllChangesClearsTheDirtyMark) {
     settle();
     EXPECT_EQ(window().code().tabText(0), "frmHello *");
     text.undo();
-    settle();
+    settle(400); // the file is compared when the user pauses
     EXPECT_EQ(window().code().tabText(0), "frmHello");
     EXPECT_FALSE(component("frmHello")->IsDirty());
     EXPECT_TRUE(window().close()); // without a question

@@ -5,6 +5,7 @@
 #include "Apps/workbench/editing/code_input.h"
 #include "Apps/workbench/editing/code_lines.h"
 #include "Apps/workbench/editing/margins.h"
+#include "Apps/workbench/editing/rest.h"
 #include "Apps/workbench/events/event_handler.h"
 #include "Basic/runtime_error.h"
 #include "Host/model/component.h"
@@ -15,7 +16,6 @@ namespace workbench {
 
 namespace {
 
-constexpr int kMillisecondsOfRest = 300;
 constexpr int kUndoings = QsciScintillaBase::SC_PERFORMED_UNDO | QsciScintillaBase::SC_PERFORMED_REDO;
 constexpr int kEditings = QsciScintillaBase::SC_MOD_INSERTTEXT | QsciScintillaBase::SC_MOD_DELETETEXT;
 

@@ -1,6 +1,7 @@
 #include "Apps/workbench/code/code_windows.h"
 #include "Apps/workbench/base/text.h"
 #include "Apps/workbench/editing/code_lines.h"
+#include "Apps/workbench/editing/rest.h"
 #include "Apps/workbench/editing/scintilla.h"
 #include "Basic/runtime_error.h"
 #include <QSettings>
@@ -20,18 +21,14 @@ CodeWindows::CodeWindows(host::Host& host, CodeEditor::Refused refused)
     setMovable(true);
     connect(this, &QTabWidget::tabCloseRequested, this, [this](int index) { widget(index)->deleteLater(); });
     refresh_.setSingleShot(true);
-    refresh_.setInterval(0);
     connect(&refresh_, &QTimer::timeout, this, [this] { refresh(); });
 
     watches_.push_back(host.panes.shown.connect([this](auto component) { open(component); }));
     watches_.push_back(host.panes.selectionSet.connect([this](auto component) {
         if (auto* editor = editorOf(component)) editor->showSelection();
     }));
-    watches_.push_back(host.panes.codeChanged.connect([this](auto component) {
-        if (auto* editor = editorOf(component)) editor->codeChanged();
-        refresh_.start();
-    }));
-    const auto soon = [this](const auto&...) { refresh_.start(); };
+    watches_.push_back(host.panes.codeChanged.connect([this](auto component) { changed(component); }));
+    const auto soon = [this](const auto&...) { refresh_.start(0); };
     const auto store = [this](const auto& project, const auto&...) {
         (void)basic::attempt([&] { storeMarks(project); }); // no reason to stop saving or closing
     };
@@ -40,6 +37,18 @@ CodeWindows::CodeWindows(host::Host& host, CodeEditor::Refused refused)
     watches_.push_back(host.Events()->VBProjectsEvents()->ItemRemoved.connect(soon));
     watches_.push_back(host.Events()->VBProjectsEvents()->ItemActivated.connect(soon));
     watches_.push_back(host.Events()->FileControlEvents(nullptr)->AfterWriteFile.connect(soon));
+}
+
+/// Whether a component differs from its file is found out by comparing all of it: not at each key.
+void CodeWindows::changed(const vbide::Ref<vbide::VBComponent>& component) {
+    auto* const editor = editorOf(component);
+    if (editor) editor->codeChanged();
+    edited_ = true;
+    const bool isMarked = editor && tabText(indexOf(editor)).endsWith('*');
+    if (!isMarked)
+        refresh_.start(0);
+    else if (!refresh_.isActive() || refresh_.interval() > 0)
+        refresh_.start(kMillisecondsOfRest);
 }
 
 void CodeWindows::open(const vbide::Ref<vbide::VBComponent>& component) {
@@ -53,7 +62,7 @@ void CodeWindows::open(const vbide::Ref<vbide::VBComponent>& component) {
         addTab(editor, qt(component->Name()));
         editor->showSelection();
         markEditor(*editor);
-        refresh_.start();
+        refresh_.start(0);
     }
     setCurrentWidget(editor);
     editor->setFocus();
@@ -167,6 +176,7 @@ void CodeWindows::refresh() {
         });
         if (removed.Number != 0) delete editor;
     }
+    if (std::exchange(edited_, false)) refreshed();
 }
 
 } // namespace workbench

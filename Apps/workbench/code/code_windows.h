@@ -51,7 +51,9 @@ public:
     void zoomBy(int points);
     void resetZoom();
     /// Updates names and dirty marks and closes the windows of removed components when Qt's loop turns.
-    void refreshSoon() { refresh_.start(); }
+    void refreshSoon() { refresh_.start(0); }
+    /// Called when the dirty marks are up to date after an edit.
+    std::function<void()> refreshed = [] {};
 
 private:
     std::vector<CodeEditor*> editors() const;
@@ -59,6 +61,7 @@ private:
     void markEditor(CodeEditor& editor);
     void zoomTo(int points);
     void refresh();
+    void changed(const vbide::Ref<vbide::VBComponent>& component);
 
     host::Host& host_;
     CodeEditor::Refused refused_;
@@ -68,6 +71,7 @@ private:
     int zoom_ = 0;
     QList<QKeySequence> leftKeys_;
     QTimer refresh_;
+    bool edited_ = false; ///< since the last refresh
     std::vector<fernwick::Subscription> watches_;
 };
 

@@ -1,7 +1,10 @@
 #include "Apps/workbench/code/project_names.h"
 #include "Apps/workbench/base/text.h"
 #include "Apps/workbench/code/code_text.h"
+#include "Apps/workbench/editing/block_line.h"
+#include "Apps/workbench/editing/rest.h"
 #include "Basic/runtime_error.h"
+#include <algorithm>
 
 namespace workbench {
 
@@ -11,6 +14,26 @@ template <class Map>
 void forget(Map& map, const ProjectNames::Component& component) {
     std::erase_if(map,
                   [&](const auto& entry) { return entry.first.expired() || entry.first.lock() == component.shared(); });
+}
+
+/// In lines. Reading fewer takes about as long as painting the window.
+constexpr int kLongModule = 1000;
+/// In lines; a longer procedure is read in part.
+constexpr int kLongProcedure = 1000;
+
+/// The parameters and local names of the procedure around a line (from 0), read from its lines.
+Spellings procedureNames(vbide::CodeModule& module, int line) {
+    const auto at = [&module](int index) { return qt(module.Lines(index + 1, 1)); };
+    const int count = module.CountOfLines(), most = std::min(count, line + kLongProcedure);
+    int first = line;
+    while (first > std::max(0, line - kLongProcedure) && !blockLine(at(first)).beginsProcedure()) --first;
+    QStringList lines;
+    for (int index = first; index < most; ++index) {
+        lines << at(index);
+        if (index > first && blockLine(lines.last()).endsProcedure()) break;
+    }
+    const auto names = declaredNames(lines);
+    return names.procedures.empty() ? Spellings() : names.procedures.front().names;
 }
 
 Spellings readControls(vbide::VBComponent& component) {
@@ -29,16 +52,45 @@ Spellings readControls(vbide::VBComponent& component) {
 } // namespace
 
 ProjectNames::ProjectNames(host::Host& host) {
-    watches_.push_back(host.panes.codeChanged.connect([this](const auto& component) { forget(names_, component); }));
+    rest_.setSingleShot(true);
+    rest_.setInterval(kMillisecondsOfRest);
+    QObject::connect(&rest_, &QTimer::timeout, &rest_, [this] { readAgain(); });
+    watches_.push_back(host.panes.codeChanged.connect([this](const auto& component) { changed(component); }));
     watches_.push_back(
         host.panes.designChanged.connect([this](const auto& component) { forget(controls_, component); }));
 }
 
-const DeclaredNames& ProjectNames::of(const Component& component) {
-    const auto known = names_.find(component.shared());
-    if (known != names_.end()) return known->second;
+const ProjectNames::Known& ProjectNames::known(const Component& component) {
+    const auto found = names_.find(component.shared());
+    if (found != names_.end()) return found->second;
     const auto lines = codeOf(*component->CodeModule()).split('\n');
-    return names_.emplace(component.shared(), declaredNames(lines)).first->second;
+    return names_.emplace(component.shared(), Known{declaredNames(lines), lines.size() > kLongModule}).first->second;
+}
+
+void ProjectNames::changed(const Component& component) {
+    const auto found = names_.find(component.shared());
+    if (found == names_.end()) return;
+    if (!found->second.isLong) return forget(names_, component);
+    found->second.isStale = true;
+    rest_.start();
+}
+
+void ProjectNames::readAgain() {
+    std::vector<Component> stale;
+    for (const auto& [key, known] : names_)
+        if (const auto component = key.lock(); known.isStale && component) stale.push_back(Component(component));
+    for (const auto& component : stale) {
+        forget(names_, component);
+        (void)basic::attempt([&] { known(component); }); // it may be removed
+    }
+}
+
+Spellings ProjectNames::localNames(const Component& component, int line) {
+    const auto& own = known(component);
+    if (own.isStale) return procedureNames(*component->CodeModule(), line);
+    for (const auto& procedure : own.names.procedures)
+        if (procedure.first <= line && line <= procedure.last) return procedure.names;
+    return {};
 }
 
 const Spellings& ProjectNames::controlsOf(const Component& component) {
@@ -55,10 +107,8 @@ ProjectNames::Lookup ProjectNames::at(const Component& component, int line) {
 }
 
 QString ProjectNames::unqualified(const Component& component, int line, const QString& lower) {
+    if (const auto local = localNames(component, line); local.contains(lower)) return local.value(lower);
     const auto& own = of(component);
-    for (const auto& procedure : own.procedures)
-        if (procedure.first <= line && line <= procedure.last && procedure.names.contains(lower))
-            return procedure.names.value(lower);
     if (own.own.contains(lower)) return own.own.value(lower);
     if (controlsOf(component).contains(lower)) return controlsOf(component).value(lower);
     for (const auto& other : component->Collection()->items()) {

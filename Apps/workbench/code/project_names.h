@@ -2,12 +2,14 @@
 // The names that the modules of projects declare.
 #include "Apps/workbench/code/declared_names.h"
 #include "Host/model/host.h"
+#include <QTimer>
 #include <functional>
 #include <map>
 
 namespace workbench {
 
-/// Reads a module once after each change, so that looking up names costs no more than reading the changed module.
+/// Reads a module once after each change, and a long one when the user pauses: looking up names while the user types
+/// costs no more than reading a short module.
 class ProjectNames {
 public:
     using Component = vbide::Ref<vbide::VBComponent>;
@@ -23,13 +25,24 @@ public:
 private:
     using Key = std::weak_ptr<vbide::VBComponent>;
 
-    const DeclaredNames& of(const Component& component);
+    /// What is known of a module. Of a long one the names of before its last edits are used until the user pauses.
+    struct Known {
+        DeclaredNames names;
+        bool isLong = false, isStale = false;
+    };
+    const Known& known(const Component& component);
+    const DeclaredNames& of(const Component& component) { return known(component).names; }
+    /// The names of the procedure around a line.
+    Spellings localNames(const Component& component, int line);
+    void changed(const Component& component);
+    void readAgain();
     const Spellings& controlsOf(const Component& component);
     QString unqualified(const Component& component, int line, const QString& lower);
     QString member(const Component& component, const QString& lower, const QString& object);
 
-    std::map<Key, DeclaredNames, std::owner_less<>> names_;
+    std::map<Key, Known, std::owner_less<>> names_;
     std::map<Key, Spellings, std::owner_less<>> controls_;
+    QTimer rest_;
     std::vector<fernwick::Subscription> watches_;
 };
 

@@ -1,5 +1,6 @@
 #include "Apps/workbench/search/search_results.h"
 #include "Apps/workbench/base/component_project.h"
+#include "Apps/workbench/editing/rest.h"
 #include "Apps/workbench/search/result_list.h"
 #include "Apps/workbench/search/search_texts.h"
 #include "Basic/runtime_error.h"
@@ -12,7 +13,7 @@
 namespace workbench {
 
 namespace {
-constexpr int kMillisecondsOfRest = 300, kMostLines = 10'000;
+constexpr int kMostLines = 10'000;
 } // namespace
 
 SearchResults::SearchResults(host::Host& host, CodeWindows& code, Run run)

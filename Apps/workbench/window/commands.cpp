@@ -107,7 +107,7 @@ const Command kEditCommands[] = {
     {kFindNextId, "Find &Next", Qt::Key_F3, kInCode, [](auto& on) { on.window.findBar().findAgain(false); }},
     {kFindPreviousId, "Find Pre&vious", Qt::SHIFT | Qt::Key_F3, kInCode,
      [](auto& on) { on.window.findBar().findAgain(true); }},
-    {kFindInProjectsId, "Find in &All Projects...", Qt::CTRL | Qt::SHIFT | Qt::Key_F, kAlways,
+    {kFindInProjectsId, "Find in All Pro&jects...", Qt::CTRL | Qt::SHIFT | Qt::Key_F, kAlways,
      [](auto& on) { on.window.findBar().openForAllProjects(); }},
     {kReplaceId, "R&eplace...", Qt::CTRL | Qt::Key_H, kInCode, [](auto& on) { on.window.findBar().open(true); }},
     {kGroup},

@@ -109,7 +109,10 @@ void MainWindow::watchProjects() {
     watches_.push_back(events->ItemActivated.connect(soon));
     watches_.push_back(events->ItemRemoved.connect(soon));
     watches_.push_back(events->ItemRenamed.connect(soon));
-    watches_.push_back(host_.panes.codeChanged.connect([this](const auto&) { explorer_->refreshSoon(); }));
+    watches_.push_back(host_.panes.codeChanged.connect([this](const auto& component) {
+        if (!code_->editorOf(component)) explorer_->refreshSoon();
+    }));
+    code_->refreshed = [this] { explorer_->refreshSoon(); };
 }
 
 /// As in the language's own IDE, the project of the window that the user works in is the active one.
