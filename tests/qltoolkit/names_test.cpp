@@ -276,3 +276,12 @@ TEST(Names, PicturesAreLoadedInTheSizesAndColoursOfTheLanguage) {
             "Set p = LoadPicture(\"a.ico\", vbLPLarge, vbLPDefault)\nEnd Sub"),
         IsEmpty());
 }
+
+TEST(Names, AClassMayReturnItsEnumeratorByItsInterface) {
+    EXPECT_THAT(CheckedProgram{}
+                    .add("Class1.cls", "Dim all As Collection\nFunction NewEnum() As IEnumVARIANT\n"
+                                       "Set NewEnum = all.[_NewEnum]\nEnd Function\n"
+                                       "Function Own() As stdole.IEnumVARIANT\nEnd Function\n")
+                    .messages(),
+                IsEmpty());
+}

@@ -22,6 +22,7 @@ Enum LoadPictureConstants
 
 Class IUnknown open
 Class IDispatch open
+Class IEnumVARIANT open
 
 Shared Font
   Property Name As String default
