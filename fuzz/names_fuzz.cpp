@@ -1,5 +1,5 @@
-// For any project of several modules the checks of names and types terminate, find the same with any number of threads,
-// and their messages are inside the files. The first byte selects the options and the code page.
+// For any project of several modules the checks of names and types terminate, and their messages are inside the files. The
+// first byte selects the options and the code page.
 #include "tests/qltoolkit/checked_program.h"
 #include <array>
 #include <cstdlib>
