@@ -4,7 +4,6 @@
 #include "tests/support/temp_folder.h"
 #include <algorithm>
 #include <gtest/gtest.h>
-#include <regex>
 #include <set>
 
 namespace {
@@ -137,8 +136,11 @@ namespace {
 /// The words of a text that begin with "QL".
 std::vector<std::string> deviceNamesIn(const std::string& text) {
     std::vector<std::string> names;
-    static const std::regex kName("QL[A-Za-z]+");
-    for (std::sregex_iterator at(text.begin(), text.end(), kName), end; at != end; ++at) names.push_back(at->str());
+    const auto isLetter = [](char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); };
+    for (auto at = text.find("QL"); at != text.npos; at = text.find("QL", at + 1)) {
+        const auto end = std::find_if_not(text.begin() + static_cast<std::ptrdiff_t>(at), text.end(), isLetter);
+        names.emplace_back(text.begin() + static_cast<std::ptrdiff_t>(at), end);
+    }
     return names;
 }
 

@@ -2,11 +2,11 @@
 #include "Apps/workbench/events/declared_events.h"
 #include "Basic/case_folding.h"
 #include "Basic/runtime_error.h"
+#include "Components/Language/foreign.h"
 #include "Host/model/component.h"
 #include "Host/model/forms/control_class.h"
 #include "Host/model/host.h"
 #include "Host/model/project.h"
-#include "Host/model/references/control_libraries.h"
 
 namespace workbench {
 
@@ -39,8 +39,8 @@ Events eventsInLibraries(host::Project& project, const std::string& name) {
     const auto& options = project.host()->options();
     for (const auto& reference : project.References()->items()) {
         auto events = eventsOfDescribed(options, reference->Name() + "Ctl." + name);
-        const auto* library = host::controlLibraryOf(reference->Guid());
-        if (events.empty() && library) events = host::languageEvents(std::string(library->name) + "." + name);
+        const auto* library = language::foreignLibrary(reference->Guid());
+        if (events.empty() && library) events = host::languageEvents(library->name + "." + name);
         if (!events.empty()) return events;
     }
     return {};
