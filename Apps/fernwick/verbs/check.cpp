@@ -113,31 +113,28 @@ void checkOne(const SourceToCheck& source, const Options& options, Console& cons
     checkBytes(source.path, std::move(content.bytes), source, console, report);
 }
 
-/// The sources of a project that can be read. The others are reported.
-std::vector<std::unique_ptr<qltoolkit::SourceText>> readSources(const ProjectToCheck& project, CheckReport& report) {
-    std::vector<std::unique_ptr<qltoolkit::SourceText>> sources;
-    for (const auto& path : project.sources) {
-        checkInterrupt();
-        host::FileContent content;
-        const auto err = basic::attempt([&] { content = host::readFile(path); });
-        if (err.Number != 0 || content.bytes.size() > qltoolkit::kMaxSourceBytes)
-            report.add(path, unreadSource(path, err), false, nullptr);
-        else
-            sources.push_back(
-                std::make_unique<qltoolkit::SourceText>(path, std::move(content.bytes), project.page.page));
-    }
-    return sources;
+/// A source of a project, or why it could not be read.
+struct ProjectSource {
+    std::unique_ptr<qltoolkit::SourceText> text;
+    qltoolkit::CheckResult result;
+};
+
+ProjectSource readSource(const std::string& path, const basic::CodePage& page) {
+    host::FileContent content;
+    const auto err = basic::attempt([&] { content = host::readFile(path); });
+    if (err.Number != 0 || content.bytes.size() > qltoolkit::kMaxSourceBytes) return {nullptr, unreadSource(path, err)};
+    return {std::make_unique<qltoolkit::SourceText>(path, std::move(content.bytes), page), {}};
 }
 
-void checkProject(const ProjectToCheck& project, apps::DescribedLibraries& libraries, const Options& options,
-                  CheckReport& report) {
-    const auto sources = readSources(project, report);
+/// `isWhole`: all sources could be read.
+qltoolkit::ProgramOptions programOf(const ProjectToCheck& project, apps::DescribedLibraries& libraries, bool isWhole,
+                                    const Options& options) {
     qltoolkit::ProgramOptions program;
     program.projectName = project.name;
     program.threads = std::max(1U, std::thread::hardware_concurrency());
     program.warnsOfDevices = project.isForDevices;
     program.warnsOptionally = options.warnsOptionally;
-    program.isIncomplete = sources.size() < project.sources.size();
+    program.isIncomplete = !isWhole;
     for (const auto& guid : project.libraries) {
         if (apps::isLanguageLibrary(guid)) continue;
         const auto* library = libraries.find(guid);
@@ -146,10 +143,25 @@ void checkProject(const ProjectToCheck& project, apps::DescribedLibraries& libra
         if (!library) library = language::foreignLibrary(guid);
         if (library) program.libraries.push_back(library);
     }
+    return program;
+}
+
+void checkProject(const ProjectToCheck& project, apps::DescribedLibraries& libraries, const Options& options,
+                  CheckReport& report) {
+    std::vector<ProjectSource> sources;
     std::vector<const qltoolkit::SourceText*> texts;
-    for (const auto& source : sources) texts.push_back(source.get());
+    for (const auto& path : project.sources) {
+        checkInterrupt();
+        sources.push_back(readSource(path, project.page.page));
+        if (sources.back().text) texts.push_back(sources.back().text.get());
+    }
+    const auto program = programOf(project, libraries, texts.size() == sources.size(), options);
     auto results = qltoolkit::checkProject(texts, project.constants, program);
-    for (std::size_t i = 0; i < texts.size(); ++i) report.add(texts[i]->name(), std::move(results[i]), false, texts[i]);
+    auto next = results.begin();
+    for (std::size_t i = 0; i < sources.size(); ++i) {
+        auto& result = sources[i].text ? *next++ : sources[i].result;
+        report.add(project.sources[i], std::move(result), false, sources[i].text.get());
+    }
 }
 
 CheckTotals checkAll(const SourceList& list, const Options& options, Console& console, Report& report) {

@@ -63,6 +63,8 @@ CodeEditor::CodeEditor(vbide::Ref<vbide::VBComponent> component, Shared shared, 
 
 CodeEditor::~CodeEditor() {
     keepMarks();
+    // What follows the focus may ask for the active pane, so the panes lose it while they are whole.
+    for (auto* const pane : panes_->all()) pane->clearFocus();
     delete panes_; // they call this
 }
 
