@@ -222,6 +222,7 @@ TEST(ParseStatements, Files) {
          {"Width = 5", "(let Width 5)"},
          {"Name a As b & \"x\"", "(name a (& b \"x\"))"},
          {"Name (a) As b", "(name (paren a) b)"},
+         {"Name a As f(b, c, d, e, g)", "(name a (call f b c d e g))"},
          {"Open f For Reading As #1", "2:12 1531"},
          {"Open f For Input", "2:17 1303"},
          {"Open f For Input Access As #1", "2:25 1530"},

@@ -15,7 +15,8 @@ public:
 
     void add(const T& item) { shared_.push_back(item); }
     [[nodiscard]] std::size_t size() const { return shared_.size() - base_; }
-    [[nodiscard]] const T& operator[](std::size_t i) const { return shared_[base_ + i]; }
+    // By value: parsing more moves the items.
+    [[nodiscard]] T operator[](std::size_t i) const { return shared_[base_ + i]; }
     [[nodiscard]] T& back() { return shared_.back(); }
     [[nodiscard]] Span<T> finish(Arena& arena) const { return arena.copy(shared_.data() + base_, size()); }
 
