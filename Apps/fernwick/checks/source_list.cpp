@@ -1,4 +1,4 @@
-#include "Apps/fernwick/verbs/source_list.h"
+#include "Apps/fernwick/checks/source_list.h"
 #include "Apps/common/file_names.h"
 #include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/output/file_errors.h"
@@ -23,7 +23,8 @@ using apps::hasExtension;
 
 class SourceCollector {
 public:
-    explicit SourceCollector(const std::optional<basic::CodePage>& given) : given_(given) {}
+    SourceCollector(const std::optional<basic::CodePage>& given, host::FileContents& contents)
+        : given_(given), contents_(contents) {}
 
     void add(const std::string& path) {
         std::error_code ignored;
@@ -88,7 +89,7 @@ private:
 
     void addProject(const std::string& path) {
         const auto content = host::readFile(path);
-        const auto detected = host::codePageOfProject(content.bytes, folderOf(path), given_);
+        const auto detected = host::codePageOfProject(content.bytes, folderOf(path), given_, contents_);
         host::ProjectFile project{content.bytes, basic::codePageOfFile(content.bytes, detected.page)};
         if (!project.looksLikeProject())
             throw basic::RuntimeError(basic::kInvalidProcedureCall, "not a Visual Basic project");
@@ -139,14 +140,16 @@ private:
     }
 
     const std::optional<basic::CodePage>& given_;
+    host::FileContents& contents_;
     SourceList list_;
     std::unordered_set<std::string> seen_;
 };
 
 } // namespace
 
-SourceList listSources(const std::vector<std::string>& operands, const std::optional<basic::CodePage>& given) {
-    SourceCollector collector{given};
+SourceList listSources(const std::vector<std::string>& operands, const std::optional<basic::CodePage>& given,
+                       host::FileContents& contents) {
+    SourceCollector collector{given, contents};
     for (const auto& operand : operands) collector.add(operand);
     return collector.take();
 }
