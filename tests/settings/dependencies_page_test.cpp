@@ -137,6 +137,17 @@ TEST_F(DependenciesPage, DroppedFilesGoTheWayOfAdd) {
     EXPECT_TRUE(files.FileExists("/p/b.txt"));
 }
 
+TEST_F(DependenciesPage, ADroppedFolderIsRefused) {
+    file("/p/a.txt");
+    file("/p/pictures/b.bmp");
+    open([&] {
+        list.FilesDropped.raise({"/p/pictures", "/p/a.txt"});
+        EXPECT_TRUE(did("box 48 Fernwick: /p/pictures cannot be a dependency, since it is a folder. Add the files in "
+                        "it instead."));
+        EXPECT_THAT(rows(), ElementsAre("a.txt|1|TXT|"));
+    });
+}
+
 TEST_F(DependenciesPage, ANameWithACommaIsRefused) {
     file("/p/a,b.txt");
     file("/other/c,d.txt");
