@@ -45,7 +45,7 @@ TEST_F(DependenciesPage, ListsTheUsersFiles) {
         EXPECT_THAT(rows(), ElementsAre("data.pdb|5|PDB|", "Ari_08B.CMF|4|CMF|", "gone.txt|0|TXT|"));
         EXPECT_EQ(list.Items()[0].IconOf, "/p/data.pdb");
         EXPECT_EQ(list.Items()[1].IconOf, "/q/Fonts/Ari_08B.CMF");
-        EXPECT_EQ(list.Items()[2].IconOf, "");
+        EXPECT_EQ(list.Items()[2].IconOf, "/p/gone.txt");
         ASSERT_EQ(list.Columns().size(), 3u);
         EXPECT_EQ(list.Columns()[0].Text, "Name");
         EXPECT_EQ(list.Columns()[1].Text, "Size");
