@@ -87,7 +87,10 @@ private:
         const double height = drawn.height > 0 ? std::clamp(drawn.height, 1.0, kMostHeight) : kUsualHeight;
         QFont font(qt(drawn.face));
         font.setPixelSize(int(height));
-        if (drawn.isCellHeight) font.setPixelSize(std::max(1, int(height * height / QFontMetricsF(font).height())));
+        if (drawn.isCellHeight) {
+            const double cell = std::max(1.0, QFontMetricsF(font).height());
+            font.setPixelSize(int(std::clamp(height * height / cell, 1.0, kMostHeight)));
+        }
         font.setBold(drawn.isBold);
         font.setItalic(drawn.isItalic);
         font.setUnderline(drawn.isUnderlined);
