@@ -1,6 +1,7 @@
 #include "Components/QLToolkit/names/form_controls.h"
 #include "Basic/case_folding.h"
 #include "Components/QLToolkit/names/header_places.h"
+#include "Components/QLToolkit/names/lacks.h"
 #include "Components/QLToolkit/names/lookup.h"
 
 namespace qltoolkit {
@@ -94,7 +95,12 @@ private:
 
     Type classOf(const image::Control& control) {
         bool libraryIsKnown = false;
-        if (const Entity* found = classes_.find(control.className, libraryIsKnown)) return found->type;
+        if (const Entity* found = classes_.find(control.className, libraryIsKnown)) {
+            if (program_.warnsOfDevices && !found->onDevices)
+                reportLack(program_, module_.diagnostics, Lack::Control, *found,
+                           placeInHeader(module_.tree.source, control.name.str()), control.className.str());
+            return found->type;
+        }
         if (libraryIsKnown)
             module_.diagnostics.report(Message::ControlClassUnknown,
                                        placeInHeader(module_.tree.source, control.name.str()), control.className.str());

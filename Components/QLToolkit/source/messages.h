@@ -212,6 +212,8 @@ enum class Message : std::uint16_t {
     ProductOverflows = 2907,
     ComparisonWithNull = 2908,
     ConstantFails = 2909,
+    IgnoredIsNoWarning = 2910,
+    NothingIgnored = 2911,
 };
 
 /// One row of the table. A text has at most one placeholder in braces, such as "{found}".
