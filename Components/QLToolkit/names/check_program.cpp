@@ -6,10 +6,9 @@
 #include "Components/QLToolkit/names/lookup.h"
 #include "Components/QLToolkit/names/module_name.h"
 #include "Components/QLToolkit/names/resolve.h"
+#include "Components/QLToolkit/source/each_index.h"
 #include "Components/QLToolkit/source/ignored_warnings.h"
-#include <atomic>
 #include <set>
-#include <thread>
 
 namespace qltoolkit {
 
@@ -47,18 +46,13 @@ bool resolveAll(Program& program) {
 }
 
 void bindAll(Program& program, unsigned threads, std::vector<UnknownNames>& unknown) {
-    std::atomic<std::size_t> next{0};
-    const auto work = [&] {
-        ProcedureNames names;
-        for (std::size_t i; (i = next++) < program.modules.size();) {
+    forEachIndex(program.modules.size(), threads, [&] {
+        return [&, names = ProcedureNames{}](std::size_t i) mutable {
             Binder binder{program, program.modules[i], names};
             within([&] { binder.bindModule(); });
             unknown[i] = binder.unknownNames();
-        }
-    };
-    std::vector<std::jthread> helpers;
-    for (unsigned i = 1; i < threads && i < program.modules.size(); ++i) helpers.emplace_back(work);
-    work();
+        };
+    });
 }
 
 /// A name that may be one of a missing library is mentioned once in a project.
