@@ -240,6 +240,14 @@ TEST(NameMessages, APropertyThatItsClassLacksIsReportedAtItsLine) {
     EXPECT_EQ(program.firstPlace(), "Form1.frm:7:7 2801");
 }
 
+TEST(NameMessages, APropertyThatAControlOfTheLanguageLacksIsReportedAtItsLine) {
+    test::CheckedProgram program;
+    program.controls =
+        "   Begin VB.Label Label1 \n      IMEMode = 3\n      Caption = \"a\"\n      Captoin = \"a\"\n   End\n";
+    program.add("Form1.frm", "");
+    EXPECT_EQ(program.firstPlace(), "Form1.frm:6:7 2801");
+}
+
 TEST(NameMessages, NamesOfMissingLibrariesAreMentionedOnce) {
     test::CheckedProgram program;
     program.options.isIncomplete = true;
