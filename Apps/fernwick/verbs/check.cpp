@@ -1,4 +1,4 @@
-#include "Apps/common/described_libraries.h"
+#include "Apps/common/checked_program.h"
 #include "Apps/common/machine.h"
 #include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/output/code_page_note.h"
@@ -11,7 +11,6 @@
 #include "Apps/fernwick/verbs/source_list.h"
 #include "Apps/fernwick/verbs/verbs.h"
 #include "Basic/runtime_error.h"
-#include "Components/Language/foreign.h"
 #include "Host/files/path_lookup.h"
 #include "Host/files/project_code_page.h"
 #include "Host/files/text_file.h"
@@ -23,7 +22,6 @@
 #include <memory>
 #include <optional>
 #include <set>
-#include <thread>
 #include <tuple>
 
 namespace cli {
@@ -126,27 +124,7 @@ ProjectSource readSource(const std::string& path, const basic::CodePage& page) {
     return {std::make_unique<qltoolkit::SourceText>(path, std::move(content.bytes), page), {}};
 }
 
-/// `isWhole`: all sources could be read.
-qltoolkit::ProgramOptions programOf(const ProjectToCheck& project, apps::DescribedLibraries& libraries, bool isWhole,
-                                    const Options& options) {
-    qltoolkit::ProgramOptions program;
-    program.projectName = project.name;
-    program.threads = std::max(1U, std::thread::hardware_concurrency());
-    program.warnsOfDevices = project.isForDevices;
-    program.warnsOptionally = options.warnsOptionally;
-    program.isIncomplete = !isWhole;
-    for (const auto& guid : project.libraries) {
-        if (apps::isLanguageLibrary(guid)) continue;
-        const auto* library = libraries.find(guid);
-        program.isIncomplete |= !library;
-        // Of well-known libraries the classes of controls are known at least.
-        if (!library) library = language::foreignLibrary(guid);
-        if (library) program.libraries.push_back(library);
-    }
-    return program;
-}
-
-void checkProject(const ProjectToCheck& project, apps::DescribedLibraries& libraries, const Options& options,
+void checkProject(const apps::CheckedProject& project, apps::DescribedLibraries& libraries, const Options& options,
                   CheckReport& report) {
     std::vector<ProjectSource> sources;
     std::vector<const qltoolkit::SourceText*> texts;
@@ -155,7 +133,8 @@ void checkProject(const ProjectToCheck& project, apps::DescribedLibraries& libra
         sources.push_back(readSource(path, project.page.page));
         if (sources.back().text) texts.push_back(sources.back().text.get());
     }
-    const auto program = programOf(project, libraries, texts.size() == sources.size(), options);
+    auto program = apps::programOf(project, libraries, texts.size() == sources.size());
+    program.warnsOptionally = options.warnsOptionally;
     auto results = qltoolkit::checkProject(texts, project.constants, program);
     auto next = results.begin();
     for (std::size_t i = 0; i < sources.size(); ++i) {
@@ -180,6 +159,7 @@ CheckTotals checkAll(const SourceList& list, const Options& options, Console& co
 } // namespace
 
 int runCheck(const Options& options, Console& console) {
+    if (!options.migrationDevice.empty()) return runMigration(options, console);
     const auto begin = std::chrono::steady_clock::now();
     auto operands = options.operands;
     if (operands.empty()) operands.push_back(projectArgument(""));

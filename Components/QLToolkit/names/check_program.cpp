@@ -105,6 +105,7 @@ std::vector<std::vector<Diagnostic>> checkProgram(const std::vector<ParsedModule
     program.isIncomplete = options.isIncomplete;
     program.warnsOptionally = options.warnsOptionally;
     program.warnsOfDevices = options.warnsOfDevices;
+    program.warnsOfDeclares = options.warnsOfDeclares;
     auto libraries = options.libraries;
     const auto builtIn = language::builtInLibraries();
     libraries.insert(libraries.begin(), builtIn.begin(), builtIn.end());

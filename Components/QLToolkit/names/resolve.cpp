@@ -3,6 +3,7 @@
 #include "Components/Language/foreign.h"
 #include "Components/QLToolkit/names/array_bounds.h"
 #include "Components/QLToolkit/names/declared_types.h"
+#include "Components/QLToolkit/names/lacks.h"
 #include "Components/QLToolkit/names/lookup.h"
 
 namespace qltoolkit {
@@ -87,6 +88,9 @@ private:
         const auto* found = language::findDeclared(stringValue(source, *decl.library), function);
         entity.onDevices = found && found->onDevices;
         entity.instead = found ? &found->instead : nullptr;
+        if (program_.warnsOfDeclares && !entity.onDevices)
+            reportLack(program_, module_.diagnostics, Lack::Declare, entity, decl.signature.namePos,
+                       nameAt(source, decl.signature.namePos));
     }
 
     void signature(Entity& entity, const Signature& decl, const ProcedureDecl* body) {

@@ -15,22 +15,17 @@ void Diagnostics::report(Message message, Pos at, std::string_view detail) {
 void Diagnostics::reportLack(Lack lack, Pos at, std::string_view name, std::string_view instead) {
     report(Message::NotOnDevices, at, name);
     all_.back().lack = lack;
+    all_.back().lacking = name;
     all_.back().instead = instead;
 }
 
 void Diagnostics::reportFile(Message message, std::string_view detail) { add(message, {0, 0}, detail); }
 
 void Diagnostics::add(Message message, Location where, std::string_view detail) {
-    const auto severity = messageInfo(message).severity;
-    if (severity == Severity::Error) ++errors_;
-    all_.push_back({severity,
-                    static_cast<int>(message),
-                    source_.name(),
-                    where.line,
-                    where.column,
-                    messageText(message, detail),
-                    Lack::None,
-                    {}});
+    if (messageInfo(message).severity == Severity::Error) ++errors_;
+    Diagnostic& made = all_.emplace_back(fileDiagnostic(message, source_.name(), detail));
+    made.line = where.line;
+    made.column = where.column;
 }
 
 std::vector<Diagnostic> Diagnostics::takeSorted() {
@@ -43,14 +38,12 @@ std::vector<Diagnostic> Diagnostics::takeSorted() {
 }
 
 Diagnostic fileDiagnostic(Message message, std::string file, std::string_view detail) {
-    return {messageInfo(message).severity,
-            static_cast<int>(message),
-            std::move(file),
-            0,
-            0,
-            messageText(message, detail),
-            Lack::None,
-            {}};
+    Diagnostic made;
+    made.severity = messageInfo(message).severity;
+    made.number = static_cast<int>(message);
+    made.file = std::move(file);
+    made.text = messageText(message, detail);
+    return made;
 }
 
 } // namespace qltoolkit

@@ -20,6 +20,7 @@ struct Diagnostic {
     std::uint32_t column = 0; ///< in characters from 1; 0 as above
     std::string text;         ///< UTF-8
     Lack lack = Lack::None;
+    std::string lacking; ///< its name in the program
     std::string instead; ///< what to use instead of what devices lack, or why there is nothing
     bool operator==(const Diagnostic&) const = default;
 };

@@ -511,9 +511,17 @@ constexpr MessageInfo kMessageTable[] = {
      "The procedure is named after a control or form, but it is never called unless the program calls it.",
      "Private Sub Command1_Clik()", "Correct the name of the event, or rename the procedure."},
     {M::NotOnDevices, S::Warning, "{name} is not available on devices.",
-     "The program can be compiled, but what needs this fails on a handheld. Declare, Shell, SendKeys, CreateObject, the "
+     "The program can be compiled, but what needs this fails on a handheld. Declare, Shell, SendKeys, CreateObject, "
+     "the "
      "printer and most libraries need Windows.",
-     "Shell \"notepad.exe\"", "Avoid it on devices, for example with #If. fernwick check --migrate lists what to use instead."},
+     "Shell \"notepad.exe\"",
+     "Avoid it on devices, for example with #If. fernwick check --migrate lists what to use instead."},
+
+    {M::FormTooLarge, S::Warning, "{form} is larger than the screen of the device.",
+     "Forms of a device are as large as its screen. What is outside of it cannot be seen or chosen. Only fernwick "
+     "check "
+     "--migrate and the migration report look for such forms.",
+     "Begin VB.Form Form1\n  ClientWidth = 9600\nEnd", "Make the form smaller, or divide it into several forms."},
 
     {M::ImplicitVariable, S::Warning, "The variable {name} is not declared.",
      "Without Option Explicit the first use of a name declares a Variant. A misspelt name becomes a new variable.",

@@ -201,6 +201,7 @@ enum class Message : std::uint16_t {
     PropertyUnknown = 2801,
     HandlerOfUnknownEvent = 2802,
     NotOnDevices = 2803,
+    FormTooLarge = 2804,
 
     ImplicitVariable = 2900,
     UnusedVariable = 2901,
