@@ -285,3 +285,31 @@ TEST(Names, AClassMayReturnItsEnumeratorByItsInterface) {
                     .messages(),
                 IsEmpty());
 }
+
+TEST(Names, ForEachGoesThroughWhatLateObjectsAndFormsList) {
+    CheckedProgram program;
+    program.add("Form1.frm", "Sub A(o As Object)\nDim v\nFor Each v In Me\nNext\nFor Each v In o\nNext\n"
+                             "For Each v In Controls\nNext\nFor Each v In Form1\nNext\nEnd Sub\n");
+    EXPECT_THAT(program.messages(), IsEmpty());
+}
+
+TEST(Names, AVariantIsPassedByReferenceToADeclare) {
+    EXPECT_THAT(messagesOf("Private Declare Sub Swap Lib \"a\" (n As Long)\nSub A()\nDim v\nSwap v\nEnd Sub"),
+                IsEmpty());
+    EXPECT_THAT(messagesOf("Sub Swap(n As Long)\nEnd Sub\nSub A()\nDim v\nSwap v\nEnd Sub"), ElementsAre("5:6 2101"));
+}
+
+TEST(Names, AVariantThatAFunctionReturnsMayBeAnArray) {
+    const std::string sum = "Sub Sum(n() As Long)\nEnd Sub\nFunction Both()\nEnd Function\n";
+    EXPECT_THAT(messagesOf(sum + "Sub A()\nSum Both()\nEnd Sub"), IsEmpty());
+    EXPECT_THAT(messagesOf(sum + "Sub A()\nDim v\nSum v\nEnd Sub"), ElementsAre("7:5 2100"));
+}
+
+TEST(Names, TheModulesOwnNameIsNotAmbiguous) {
+    EXPECT_THAT(CheckedProgram{}
+                    .add("M1.bas", "Public Rate\n")
+                    .add("M2.bas", "Public Rate\nSub A()\nRate = 1\nEnd Sub\n")
+                    .add("M3.bas", "Sub B()\nRate = 1\nEnd Sub\n")
+                    .messages(),
+                ElementsAre("M3.bas:2:1 2004"));
+}

@@ -17,7 +17,7 @@ bool Binder::mayAssign(const Operand& target) {
     case OperandKind::Property:
     case OperandKind::Late: return true;
     case OperandKind::Constant: reportName(Message::AssignToConstant, target.pos); return false;
-    case OperandKind::Qualifier: report(Message::ExpectedNotModule, target.pos); return false;
+    case OperandKind::Qualifier: refuseQualifier(target); return false;
     case OperandKind::Value: break;
     }
     if (target.type.value == ValueType::None || target.type.value == ValueType::Unknown) return false;

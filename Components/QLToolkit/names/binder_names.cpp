@@ -13,6 +13,15 @@ bool contradicts(TypeSuffix suffix, const Type& type) {
 
 } // namespace
 
+std::string_view kindOf(const Operand& qualifier) {
+    if (!qualifier.inner) return "project";
+    switch (qualifier.inner->kind) {
+    case ScopeKind::Library: return "library";
+    case ScopeKind::Enum: return "Enum type";
+    default: return "module";
+    }
+}
+
 Operand Binder::name(const NameExpr& expr) {
     if (Entity* found = names_.find(expr.name)) return local(expr, *found);
     const auto found = findName(program_, *module_.scope, expr.name);
