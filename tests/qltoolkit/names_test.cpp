@@ -72,6 +72,35 @@ TEST(Names, PrivateMembersAreNotReachedThroughAnObject) {
         ElementsAre("5:4 2002"));
 }
 
+TEST(Names, AVariableOfAClassIsCalledLikeAProperty) {
+    EXPECT_THAT(CheckedProgram{}
+                    .add("Picture1.cls", "Public Width As Long\nSub A()\nWidth = Width() + 1\nEnd Sub\n")
+                    .add("M1.bas", "Type Box\nWidth As Long\nEnd Type\nSub B(p As Picture1, b As Box)\n"
+                                   "b.Width = p.Width() - 1\nb.Width = b.Width() + p.Width(1)\nEnd Sub\n")
+                    .messages(),
+                ElementsAre("Picture1.cls:3:9 2106", "M1.bas:6:13 2106", "M1.bas:6:25 2106"));
+}
+
+TEST(Names, AFunctionWithATypeCharacterIsNotThePropertyOfItsName) {
+    EXPECT_THAT(CheckedProgram{}
+                    .add("Class1.cls", "Property Get Left() As Single\nEnd Property\nProperty Get Mid() As String\n"
+                                       "End Property\nSub A(s As String)\ns = Left$(s, 1) & UCase$(s)\n"
+                                       "s = Left(s, 1)\ns = Mid$ & \"\"\ns = Mid$(s, 1)\nEnd Sub\n")
+                    .messages(),
+                ElementsAre("7:5 2201", "9:5 2201"));
+}
+
+TEST(Names, APropertyLetTakesNothing) {
+    EXPECT_THAT(CheckedProgram{}
+                    .add("Class1.cls", "Property Let Mark(ByVal c As Class1)\nEnd Property\n"
+                                       "Property Get Mark() As Class1\nEnd Property\n"
+                                       "Property Get Kept() As Class1\nEnd Property\nPublic Field As Class1\n")
+                    .add("Form1.frm", "Sub A(c As Class1)\nMe.MouseIcon = Nothing\nc.Mark = Nothing\nc.Mark = c\n"
+                                      "c.Mark = 5\nc.Field = Nothing\nEnd Sub\n")
+                    .messages(),
+                ElementsAre("Form1.frm:5:3 2110", "Form1.frm:6:11 2111"));
+}
+
 TEST(Names, ReDimDeclaresWhatTheProjectDoesNotHave) {
     EXPECT_THAT(
         messagesOf("Option Explicit\nSub A()\nReDim list(3) As Long\nlist(1) = 2\nReDim Asc(2)\nAsc(1) = 3\nEnd Sub"),

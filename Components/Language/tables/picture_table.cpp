@@ -69,8 +69,8 @@ Class IPicture
   Property Attributes As Long readonly absent "Devices have no metafiles; remove it"
   Sub SelectPicture(hDCIn As Long, phDCOut As Long, phbmpOut As OLE_HANDLE) absent "Devices have no device contexts; use PaintPicture"
   Sub PictureChanged() absent "Devices draw pictures again; call Refresh"
-  Sub SaveAsFile(pstm As Any, ByVal fSaveMemCopy As Boolean, pcbSize As Long) absent "Devices have no streams; use SavePicture"
-  Sub SetHdc(ByVal hDC As OLE_HANDLE) absent "Devices have no device contexts; use PaintPicture"
+  Sub SaveAsFile(pstm As Object, fSaveMemCopy As Boolean, pcbSize As Long) absent "Devices have no streams; use SavePicture"
+  Sub SetHdc(hDC As OLE_HANDLE) absent "Devices have no device contexts; use PaintPicture"
 Class Picture
   Include Picture
 )";

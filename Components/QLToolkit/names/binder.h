@@ -108,7 +108,8 @@ private:
     Operand literal(const Expr& expr);
     Operand name(const NameExpr& expr);
     Operand local(const NameExpr& expr, Entity& entity);
-    [[nodiscard]] const Entity* functionBehind(const Entity& entity, Symbol name) const;
+    [[nodiscard]] const Entity* functionBehind(const Entity& entity, const NameExpr& expr) const;
+    [[nodiscard]] const Entity* libraryFunction(Symbol name) const;
     Operand undefined(const NameExpr& expr);
     Operand implicit(const NameExpr& expr, Type type);
     Operand unary(const UnaryExpr& expr);

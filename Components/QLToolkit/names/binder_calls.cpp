@@ -78,6 +78,8 @@ Operand Binder::index(const Operand& base, const IndexExpr& expr) {
     }
     if (base.type.isArray) return element(base, expr);
     if (base.type.value == ValueType::Object && base.type.id != 0) return defaultMember(base, expr);
+    // A class's variable is a property to those who have an object: x.Width() calls it.
+    if (expr.arguments.empty() && base.kind == OperandKind::Property) return base;
     lateArguments(expr.arguments);
     if (isIndexable(base.type))
         return {OperandKind::Late,
