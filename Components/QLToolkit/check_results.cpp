@@ -35,10 +35,11 @@ public:
     }
     std::string_view text() { return take(number()); }
 
-    Severity severity() {
+    template <class Enumeration>
+    Enumeration oneOf(Enumeration last) {
         const auto value = number();
-        isGood_ &= value <= static_cast<std::uint32_t>(Severity::Error);
-        return isGood_ ? static_cast<Severity>(value) : Severity::Error;
+        isGood_ &= value <= static_cast<std::uint32_t>(last);
+        return isGood_ ? static_cast<Enumeration>(value) : last;
     }
 
     [[nodiscard]] bool isGood() const { return isGood_; }
@@ -64,16 +65,22 @@ void write(Writer& writer, const Diagnostic& diagnostic) {
     writer.number(diagnostic.line);
     writer.number(diagnostic.column);
     writer.text(diagnostic.text);
+    writer.number(static_cast<std::size_t>(diagnostic.lack));
+    writer.text(diagnostic.lacking);
+    writer.text(diagnostic.instead);
 }
 
 Diagnostic readDiagnostic(Reader& reader) {
     Diagnostic diagnostic;
-    diagnostic.severity = reader.severity();
+    diagnostic.severity = reader.oneOf(Severity::Error);
     diagnostic.number = static_cast<int>(reader.number());
     diagnostic.file = reader.text();
     diagnostic.line = reader.number();
     diagnostic.column = reader.number();
     diagnostic.text = reader.text();
+    diagnostic.lack = reader.oneOf(Lack::Printing);
+    diagnostic.lacking = reader.text();
+    diagnostic.instead = reader.text();
     return diagnostic;
 }
 

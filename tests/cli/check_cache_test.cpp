@@ -16,7 +16,10 @@ namespace {
 CheckResults resultsWith(int number) {
     CheckResults results(1);
     results[0].lines = 5;
-    results[0].diagnostics = {{qltoolkit::Severity::Warning, number, "a.bas", 1, 2, "text"}};
+    auto& warning = results[0].diagnostics.emplace_back();
+    warning.severity = qltoolkit::Severity::Warning;
+    warning.number = number;
+    warning.text = "text";
     return results;
 }
 

@@ -9,8 +9,17 @@ namespace {
 CheckResults someResults() {
     CheckResults results(3);
     results[0].lines = 70'000;
-    results[1].diagnostics = {{Severity::Error, 2000, "a b.bas", 3, 300, "Umlaut \xC3\xA4 and \xFF"},
-                              {Severity::Warning, 2900, "", 0, 0, ""}};
+    results[1].diagnostics.resize(2);
+    auto& first = results[1].diagnostics[0];
+    first.number = 2000;
+    first.file = "a b.bas";
+    first.line = 3;
+    first.column = 300;
+    first.text = "Umlaut \xC3\xA4 and \xFF";
+    first.lack = Lack::Printing;
+    first.lacking = "Printer";
+    first.instead = "Nothing";
+    results[1].diagnostics[1].severity = Severity::Warning;
     results[1].errors = 1;
     results[1].lines = 4;
     return results;

@@ -1,14 +1,12 @@
 #include "Apps/fernwick/checks/project_check.h"
+#include "Apps/common/checked_program.h"
 #include "Apps/common/machine.h"
 #include "Apps/common/version.h"
 #include "Apps/fernwick/run/interruption.h"
 #include "Apps/fernwick/stored/source_check.h"
 #include "Basic/runtime_error.h"
-#include "Components/Language/foreign.h"
 #include "Host/files/path_lookup.h"
 #include "Host/system/environment.h"
-#include <algorithm>
-#include <thread>
 #include <utility>
 
 namespace cli {
@@ -20,7 +18,7 @@ ProjectCheck::ProjectCheck(const Options& options, host::FileContents& contents)
       libraries_(installation_),
       cache_(checkCacheFolder()) {}
 
-std::vector<CheckedSource> ProjectCheck::check(const ProjectToCheck& project) {
+std::vector<CheckedSource> ProjectCheck::check(const apps::CheckedProject& project) {
     auto sources = readSources(project);
     const auto key = keyOf(project, sources);
     auto results = cache_.find(key);
@@ -46,7 +44,7 @@ std::vector<CheckedSource> ProjectCheck::check(const ProjectToCheck& project) {
     return checked;
 }
 
-std::vector<ProjectCheck::Source> ProjectCheck::readSources(const ProjectToCheck& project) {
+std::vector<ProjectCheck::Source> ProjectCheck::readSources(const apps::CheckedProject& project) {
     std::vector<Source> sources;
     for (const auto& path : project.sources) {
         checkInterrupt();
@@ -63,7 +61,7 @@ ProjectCheck::Source ProjectCheck::read(const std::string& path) {
     return {std::move(content), {}};
 }
 
-CheckKey ProjectCheck::keyOf(const ProjectToCheck& project, const std::vector<Source>& sources) const {
+CheckKey ProjectCheck::keyOf(const apps::CheckedProject& project, const std::vector<Source>& sources) const {
     KeyText name, content;
     name.add(host::absolutePath(project.path));
     name.add(options_.warnsOptionally);
@@ -88,35 +86,19 @@ CheckKey ProjectCheck::keyOf(const ProjectToCheck& project, const std::vector<So
 }
 
 /// The descriptions of libraries are files of the installation.
-void ProjectCheck::addLibraries(KeyText& key, const ProjectToCheck& project) const {
+void ProjectCheck::addLibraries(KeyText& key, const apps::CheckedProject& project) const {
     for (const auto& guid : project.libraries) key.add(guid);
     for (const auto& path : apps::libraryDescriptions(installation_)) key.addStateOf(path);
 }
 
-qltoolkit::ProgramOptions ProjectCheck::programOf(const ProjectToCheck& project, bool isWhole) {
-    qltoolkit::ProgramOptions program;
-    program.projectName = project.name;
-    program.threads = std::max(1U, std::thread::hardware_concurrency());
-    program.warnsOfDevices = project.isForDevices;
-    program.warnsOptionally = options_.warnsOptionally;
-    program.isIncomplete = !isWhole;
-    for (const auto& guid : project.libraries) {
-        if (apps::isLanguageLibrary(guid)) continue;
-        const auto* library = libraries_.find(guid);
-        program.isIncomplete |= !library;
-        // Of well-known libraries the classes of controls are known at least.
-        if (!library) library = language::foreignLibrary(guid);
-        if (library) program.libraries.push_back(library);
-    }
-    return program;
-}
-
-CheckResults ProjectCheck::checkTexts(const ProjectToCheck& project, const std::vector<CheckedSource>& sources,
+CheckResults ProjectCheck::checkTexts(const apps::CheckedProject& project, const std::vector<CheckedSource>& sources,
                                       bool isWhole) {
     std::vector<const qltoolkit::SourceText*> texts;
     for (const auto& source : sources)
         if (source.text) texts.push_back(source.text.get());
-    return qltoolkit::checkProject(texts, project.constants, programOf(project, isWhole));
+    auto program = apps::programOf(project, libraries_, isWhole);
+    program.warnsOptionally = options_.warnsOptionally;
+    return qltoolkit::checkProject(texts, project.constants, program);
 }
 
 } // namespace cli

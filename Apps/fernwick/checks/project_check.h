@@ -1,9 +1,9 @@
 #pragma once
 // The check of whole projects.
+#include "Apps/common/checked_project.h"
 #include "Apps/common/described_libraries.h"
 #include "Apps/fernwick/checks/check_cache.h"
 #include "Apps/fernwick/checks/key_text.h"
-#include "Apps/fernwick/checks/source_list.h"
 #include "Apps/fernwick/options/options.h"
 #include "Host/files/text_file.h"
 #include <memory>
@@ -26,7 +26,7 @@ public:
     ProjectCheck(const Options& options, host::FileContents& contents);
 
     /// Returns the results in the order of the project's sources.
-    std::vector<CheckedSource> check(const ProjectToCheck& project);
+    std::vector<CheckedSource> check(const apps::CheckedProject& project);
 
 private:
     /// A source, or why it could not be read.
@@ -35,12 +35,12 @@ private:
         qltoolkit::CheckResult failure;
     };
 
-    std::vector<Source> readSources(const ProjectToCheck& project);
+    std::vector<Source> readSources(const apps::CheckedProject& project);
     Source read(const std::string& path);
-    [[nodiscard]] CheckKey keyOf(const ProjectToCheck& project, const std::vector<Source>& sources) const;
-    void addLibraries(KeyText& key, const ProjectToCheck& project) const;
-    qltoolkit::ProgramOptions programOf(const ProjectToCheck& project, bool isWhole);
-    CheckResults checkTexts(const ProjectToCheck& project, const std::vector<CheckedSource>& sources, bool isWhole);
+    [[nodiscard]] CheckKey keyOf(const apps::CheckedProject& project, const std::vector<Source>& sources) const;
+    void addLibraries(KeyText& key, const apps::CheckedProject& project) const;
+    CheckResults checkTexts(const apps::CheckedProject& project, const std::vector<CheckedSource>& sources,
+                            bool isWhole);
 
     const Options& options_;
     host::FileContents& contents_;

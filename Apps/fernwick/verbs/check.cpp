@@ -108,8 +108,8 @@ void checkOne(const SourceToCheck& source, const Options& options, Console& cons
     checkBytes(source.path, std::move(content.bytes), source, console, report);
 }
 
-void checkProjects(const std::vector<ProjectToCheck>& projects, const Options& options, host::FileContents& contents,
-                   CheckReport& report) {
+void checkProjects(const std::vector<apps::CheckedProject>& projects, const Options& options,
+                   host::FileContents& contents, CheckReport& report) {
     ProjectCheck check{options, contents};
     for (const auto& project : projects) {
         auto checked = check.check(project);
@@ -133,6 +133,7 @@ CheckTotals checkAll(const SourceList& list, const Options& options, host::FileC
 } // namespace
 
 int runCheck(const Options& options, Console& console) {
+    if (!options.migrationDevice.empty()) return runMigration(options, console);
     const auto begin = std::chrono::steady_clock::now();
     auto operands = options.operands;
     if (operands.empty()) operands.push_back(projectArgument(""));

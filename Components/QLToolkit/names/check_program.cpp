@@ -7,6 +7,7 @@
 #include "Components/QLToolkit/names/module_name.h"
 #include "Components/QLToolkit/names/resolve.h"
 #include "Components/QLToolkit/source/each_index.h"
+#include "Components/QLToolkit/source/ignored_warnings.h"
 #include <set>
 
 namespace qltoolkit {
@@ -74,6 +75,28 @@ void checkAll(Program& program, unsigned threads) {
     reportUnknown(program, unknown);
 }
 
+/// Of the warnings that a comment lists, those that were looked for and not found.
+bool isNeedless(const IgnoredWarnings::Listed& listed, const Program& program) {
+    if (listed.isUsed || !program.warnsOptionally) return false;
+    const bool isOfParser = listed.message < Message::VariableNotDefined;
+    return !isOfParser && (listed.message != Message::NotOnDevices || program.warnsOfDevices);
+}
+
+/// `isWhole`: all passes ran.
+void checkIgnored(Program& program, SourceModule& module, bool isWhole) {
+    const auto& source = module.tree.source;
+    IgnoredWarnings ignored{source};
+    for (const auto& mistake : ignored.mistakes())
+        module.diagnostics.report(Message::IgnoredIsNoWarning, mistake.pos, mistake.text);
+    if (!isWhole || ignored.listed().empty()) return;
+    auto all = module.diagnostics.all();
+    ignored.removeFrom(all);
+    for (const auto& listed : ignored.listed())
+        if (isNeedless(listed, program))
+            module.diagnostics.report(Message::NothingIgnored, listed.pos,
+                                      std::to_string(static_cast<int>(listed.message)));
+}
+
 } // namespace
 
 std::vector<std::vector<Diagnostic>> checkProgram(const std::vector<ParsedModule>& modules, SymbolTable& symbols,
@@ -82,6 +105,7 @@ std::vector<std::vector<Diagnostic>> checkProgram(const std::vector<ParsedModule
     program.isIncomplete = options.isIncomplete;
     program.warnsOptionally = options.warnsOptionally;
     program.warnsOfDevices = options.warnsOfDevices;
+    program.warnsOfDeclares = options.warnsOfDeclares;
     auto libraries = options.libraries;
     const auto builtIn = language::builtInLibraries();
     libraries.insert(libraries.begin(), builtIn.begin(), builtIn.end());
@@ -97,6 +121,7 @@ std::vector<std::vector<Diagnostic>> checkProgram(const std::vector<ParsedModule
     // Declarations that were left have no signatures, so what uses them cannot be checked.
     if (isWhole) checkAll(program, options.threads);
     std::vector<std::vector<Diagnostic>> result;
+    for (auto& module : program.modules) within([&] { checkIgnored(program, module, isWhole); });
     for (auto& module : program.modules) result.push_back(module.diagnostics.takeSorted());
     return result;
 }

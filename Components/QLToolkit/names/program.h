@@ -67,6 +67,7 @@ public:
     bool isIncomplete = false;
     bool warnsOptionally = false; ///< of what is allowed but seldom meant
     bool warnsOfDevices = false;  ///< of what is not on devices
+    bool warnsOfDeclares = false; ///< and of Declares themselves
 
 private:
     std::deque<Scope> scopes_; // number 0 is any class
