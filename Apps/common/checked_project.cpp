@@ -4,7 +4,6 @@
 #include "Basic/runtime_error.h"
 #include "Host/files/path_lookup.h"
 #include "Host/files/project_code_page.h"
-#include "Host/files/text_file.h"
 
 namespace apps {
 
@@ -35,8 +34,14 @@ void addMember(CheckedProject& project, const host::ProjectMember& member, host:
 } // namespace
 
 CheckedProject readProject(const std::string& path, const std::optional<basic::CodePage>& given) {
+    host::FileContents contents;
+    return readProject(path, given, contents);
+}
+
+CheckedProject readProject(const std::string& path, const std::optional<basic::CodePage>& given,
+                           host::FileContents& contents) {
     const auto content = host::readFile(path);
-    const auto detected = host::codePageOfProject(content.bytes, folderOf(path), given);
+    const auto detected = host::codePageOfProject(content.bytes, folderOf(path), given, contents);
     host::ProjectFile file{content.bytes, basic::codePageOfFile(content.bytes, detected.page)};
     if (!file.looksLikeProject()) throw basic::RuntimeError(basic::kInvalidProcedureCall, "not a Visual Basic project");
     CheckedProject project{path, file.setting("Name").value_or(""), {}, {}, detected, isForDevices(file), {}, {}};

@@ -3,6 +3,7 @@
 #include "Basic/detection/code_page_detection.h"
 #include "Components/QLToolkit/parser/conditional_constants.h"
 #include "Host/files/project_file.h"
+#include "Host/files/text_file.h"
 #include <optional>
 #include <string>
 #include <vector>
@@ -20,8 +21,11 @@ struct CheckedProject {
     std::vector<host::ProjectMember> lines; ///< its members, in the order of the file
 };
 
-/// Reads a project file. `given` is its code page, without which it is detected. Errors go to the caller; 5 for a file
-/// that is no project.
+/// Reads a project file. `given` is its code page, without which it is detected; the sources that are read for this stay
+/// in `contents`. Errors go to the caller; 5 for a file that is no project.
+[[nodiscard]] CheckedProject readProject(const std::string& path, const std::optional<basic::CodePage>& given,
+                                         host::FileContents& contents);
+/// As above, for those who do not need the contents.
 [[nodiscard]] CheckedProject readProject(const std::string& path, const std::optional<basic::CodePage>& given = {});
 
 } // namespace apps

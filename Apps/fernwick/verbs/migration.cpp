@@ -1,6 +1,7 @@
 // What hinders projects on a device.
 #include "Apps/common/machine.h"
 #include "Apps/common/migration_text.h"
+#include "Apps/fernwick/checks/source_list.h"
 #include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/options/refusal.h"
 #include "Apps/fernwick/options/suggestions.h"
@@ -10,7 +11,6 @@
 #include "Apps/fernwick/run/interruption.h"
 #include "Apps/fernwick/run/project_argument.h"
 #include "Apps/fernwick/stored/source_check.h"
-#include "Apps/fernwick/verbs/source_list.h"
 #include "Apps/fernwick/verbs/verbs.h"
 #include "Basic/case_folding.h"
 #include "Components/DesignTargetAccess/design_target_mgr.h"
@@ -111,7 +111,8 @@ void print(const std::vector<apps::Migration>& migrations, const Report& report,
 SourceList projectsOf(const Options& options) {
     auto operands = options.operands;
     if (operands.empty()) operands.push_back(projectArgument(""));
-    auto list = listSources(operands, options.codePage);
+    host::FileContents contents;
+    auto list = listSources(operands, options.codePage, contents);
     for (const auto& source : list.sources)
         if (source.isNamed)
             throw Refusal(kWrongUse, source.path + ": --migrate reports about projects; name a .vbp or .vbg file");

@@ -2,6 +2,7 @@
 // The source files for `check`.
 #include "Apps/common/checked_project.h"
 #include "Basic/code_page.h"
+#include "Host/files/text_file.h"
 #include <optional>
 #include <string>
 #include <vector>
@@ -26,7 +27,9 @@ struct SourceList {
 };
 
 /// Returns the projects and the projects of groups, and the sources of none of them: those given, and all in and below
-/// folders, except in hidden ones. `given` is their code page, without which it is detected.
-SourceList listSources(const std::vector<std::string>& operands, const std::optional<basic::CodePage>& given);
+/// folders, except in hidden ones. `given` is their code page, without which it is detected; the sources
+/// that are read for this stay in `contents`.
+SourceList listSources(const std::vector<std::string>& operands, const std::optional<basic::CodePage>& given,
+                       host::FileContents& contents);
 
 } // namespace cli

@@ -1,4 +1,4 @@
-#include "Apps/fernwick/verbs/source_list.h"
+#include "Apps/fernwick/checks/source_list.h"
 #include "Apps/common/file_names.h"
 #include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/output/file_errors.h"
@@ -21,7 +21,8 @@ using apps::hasExtension;
 
 class SourceCollector {
 public:
-    explicit SourceCollector(const std::optional<basic::CodePage>& given) : given_(given) {}
+    SourceCollector(const std::optional<basic::CodePage>& given, host::FileContents& contents)
+        : given_(given), contents_(contents) {}
 
     void add(const std::string& path) {
         std::error_code ignored;
@@ -85,7 +86,7 @@ private:
     }
 
     void addProject(const std::string& path) {
-        auto project = apps::readProject(path, given_);
+        auto project = apps::readProject(path, given_, contents_);
         if (!seen_.insert(host::absolutePath(path)).second) return;
         for (const auto& source : project.sources) seen_.insert(host::absolutePath(source));
         list_.projects.push_back(std::move(project));
@@ -105,14 +106,16 @@ private:
     }
 
     const std::optional<basic::CodePage>& given_;
+    host::FileContents& contents_;
     SourceList list_;
     std::unordered_set<std::string> seen_;
 };
 
 } // namespace
 
-SourceList listSources(const std::vector<std::string>& operands, const std::optional<basic::CodePage>& given) {
-    SourceCollector collector{given};
+SourceList listSources(const std::vector<std::string>& operands, const std::optional<basic::CodePage>& given,
+                       host::FileContents& contents) {
+    SourceCollector collector{given, contents};
     for (const auto& operand : operands) collector.add(operand);
     return collector.take();
 }
