@@ -9,8 +9,9 @@ namespace {
 CheckResults someResults() {
     CheckResults results(3);
     results[0].lines = 70'000;
-    results[1].diagnostics = {{Severity::Error, 2000, "a b.bas", 3, 300, "Umlaut \xC3\xA4 and \xFF"},
-                              {Severity::Warning, 2900, "", 0, 0, ""}};
+    results[1].diagnostics = {
+        {Severity::Error, 2000, "a b.bas", 3, 300, "Umlaut \xC3\xA4 and \xFF", qltoolkit::Lack::None, "", ""},
+        {Severity::Warning, 2900, "", 0, 0, "", qltoolkit::Lack::None, "", ""}};
     results[1].errors = 1;
     results[1].lines = 4;
     return results;
