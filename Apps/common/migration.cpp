@@ -33,12 +33,13 @@ std::unique_ptr<qltoolkit::SourceText> readText(const std::string& path, const b
     return nullptr;
 }
 
-void addDiagnostic(qltoolkit::Diagnostic& each, Migration& found) {
+void addDiagnostic(qltoolkit::Diagnostic& each, const qltoolkit::SourceText& source, Migration& found) {
     if (each.severity == qltoolkit::Severity::Error) return found.errors.push_back(std::move(each));
     // The device has its own list of controls.
     if (each.lack == Lack::None || each.lack == Lack::Control) return;
+    const auto codeLine = each.line >= source.codeBegin() ? each.line - source.codeBegin() + 1 : 0;
     found.hindrances.push_back(
-        {kindOf(each.lack), each.file, each.line, each.column, each.lacking, each.lacking, each.instead});
+        {kindOf(each.lack), each.file, each.line, each.column, codeLine, each.lacking, each.lacking, each.instead});
 }
 
 } // namespace
@@ -80,8 +81,9 @@ Migration migrationOf(const CheckedProject& project, const MigrationDevice& devi
     if (progress) progress(project.sources.size(), total);
     auto program = programOf(project, libraries, texts.size() == project.sources.size());
     program.warnsOfDevices = program.warnsOfDeclares = true;
-    for (auto& result : qltoolkit::checkProject(texts, project.constants, program))
-        for (auto& each : result.diagnostics) addDiagnostic(each, found);
+    auto results = qltoolkit::checkProject(texts, project.constants, program);
+    for (std::size_t i = 0; i < results.size(); ++i)
+        for (auto& each : results[i].diagnostics) addDiagnostic(each, *texts[i], found);
     // Within a kind they are in the order of the project already.
     std::ranges::stable_sort(found.hindrances, {}, &Hindrance::kind);
     return found;

@@ -34,6 +34,7 @@ struct Hindrance {
     HindranceKind kind = HindranceKind::Control;
     std::string file;                   ///< full path of a source or of the project file
     std::uint32_t line = 0, column = 0; ///< physical, from 1; 0 for the whole file
+    std::uint32_t codeLine = 0;         ///< of the code, from 1; 0 outside of it
     std::string name;                   ///< UTF-8, as the project has it: "Command1 (VB.CommandButton)"
     std::string subject;                ///< without what identifies the place: "VB.CommandButton"
     std::string instead;                ///< what to use instead, or why there is nothing

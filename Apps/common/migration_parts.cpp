@@ -84,7 +84,8 @@ private:
 
     void add(HindranceKind kind, const host::ProjectMember& member, const std::string& name,
              const std::string& instead) {
-        found_.push_back({kind, host::absolutePath(project_.path), std::uint32_t(member.line), 1, name, name, instead});
+        found_.push_back(
+            {kind, host::absolutePath(project_.path), std::uint32_t(member.line), 1, 0, name, name, instead});
     }
 
     const CheckedProject& project_;
@@ -137,8 +138,8 @@ private:
     void add(HindranceKind kind, const image::Control& control, std::string_view property, std::string name,
              std::string subject, std::string instead) {
         const auto place = source_.locate(qltoolkit::placeInHeader(source_, control.name.str(), property));
-        found_.push_back(
-            {kind, source_.name(), place.line, place.column, std::move(name), std::move(subject), std::move(instead)});
+        found_.push_back({kind, source_.name(), place.line, place.column, 0, std::move(name), std::move(subject),
+                          std::move(instead)});
     }
 
     const qltoolkit::SourceText& source_;
