@@ -81,13 +81,23 @@ TEST(Names, AVariableOfAClassIsCalledLikeAProperty) {
                 ElementsAre("Picture1.cls:3:9 2106", "M1.bas:6:13 2106", "M1.bas:6:25 2106"));
 }
 
-TEST(Names, AFunctionWithATypeCharacterIsNotThePropertyOfItsName) {
+TEST(Names, AFunctionIsNotAPropertyThatCannotBeMeant) {
     EXPECT_THAT(CheckedProgram{}
                     .add("Class1.cls", "Property Get Left() As Single\nEnd Property\nProperty Get Mid() As String\n"
-                                       "End Property\nSub A(s As String)\ns = Left$(s, 1) & UCase$(s)\n"
-                                       "s = Left(s, 1)\ns = Mid$ & \"\"\ns = Mid$(s, 1)\nEnd Sub\n")
+                                       "End Property\nProperty Get Own() As Long\nEnd Property\nSub A(s As String)\n"
+                                       "s = Left$(s, 1) & UCase$(s)\ns = Left(s, 1) & Left\ns = Mid$ & Mid$(s, 1)\n"
+                                       "s = Own(1)\nEnd Sub\n")
                     .messages(),
-                ElementsAre("7:5 2201", "9:5 2201"));
+                ElementsAre("11:5 2201"));
+}
+
+TEST(Names, ALibraryThatIsDescribedInPartMayHaveMoreConstants) {
+    language::Library library = language::readLibrary("Library Part\nClass Thing open\n  Sub Work()\n");
+    CheckedProgram program;
+    program.options.libraries.push_back(&library);
+    EXPECT_THAT(
+        program.add("M1.bas", "Sub A()\nx = Part.kMore\nx = Part.Kind.kOne\nx = VBA.kMore\nEnd Sub\n").messages(),
+        ElementsAre("4:9 2002"));
 }
 
 TEST(Names, APropertyLetTakesNothing) {

@@ -167,6 +167,8 @@ TEST(ParseStatements, Jumps) {
          {"70000 Beep", "(line 70000) (do Beep)"},
          {"Error: x = 1", "(label Error) (let x 1)"},
          {"a: b: c", "(label a) (do b) (do c)"},
+         {"Select Case x\nCase 1: f: g\nEnd Select: h: i", "(select x (case 1 {(do f) (do g)})) (do h) (do i)"},
+         {"If x Then\nElse: f: g\nh:\nEnd If\nk:", "(if x {} else {(do f) (do g) (label h)}) (label k)"},
          {"DoEvents: x = 1", "(do DoEvents) (let x 1)"},
          {"GoSub s\nExit Sub\ns: Return", "(gosub s) (exit-sub) (label s) (return)"},
          {"On x GoTo a, 20, c", "(on-goto x a 20 c)"},

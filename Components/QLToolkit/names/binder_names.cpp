@@ -40,16 +40,15 @@ Operand Binder::name(const NameExpr& expr) {
     return entityOperand(*found.entity, expr, false);
 }
 
-// Left(s, 1) in a form is the function, although forms have a property Left: the property takes no arguments. Left$ is the
-// function even where the module itself has a property Left that is no String.
+// A property without parameters cannot take arguments, so Left(s, 1) is the function in a form, which has a property Left,
+// and in a control that declares one. Left$ is the function even without arguments.
 const Entity* Binder::functionBehind(const Entity& entity, const NameExpr& expr) const {
     if (entity.kind != EntityKind::Property || !entity.owner || !entity.get) return nullptr;
-    if (entity.owner->source)
-        return contradicts(expr.suffix(), entity.get->result) ? libraryFunction(expr.name) : nullptr;
-    const bool takesNone =
-        entity.owner->kind == ScopeKind::LibraryClass && entity.get->parameters.empty() && !isIndexable(entity.type);
+    const bool isOwn = entity.owner->source;
+    if (isOwn && contradicts(expr.suffix(), entity.get->result)) return libraryFunction(expr.name);
+    const bool takesNone = entity.get->parameters.empty() && !isIndexable(entity.get->result);
     if (!takesNone || !pendingIndex() || pendingIndex()->arguments.empty()) return nullptr;
-    const Entity* found = program_.publicNames.find(expr.name);
+    const Entity* found = isOwn ? nullptr : program_.publicNames.find(expr.name);
     return found ? found : libraryFunction(expr.name);
 }
 

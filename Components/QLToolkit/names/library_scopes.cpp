@@ -1,6 +1,7 @@
 #include "Components/QLToolkit/names/library_scopes.h"
 #include "Basic/case_folding.h"
 #include "Components/QLToolkit/names/library_constants.h"
+#include <algorithm>
 #include <array>
 
 namespace qltoolkit {
@@ -26,6 +27,9 @@ public:
     LibraryScopes(Program& program, const language::Library& library)
         : program_(program), library_(library), scope_(program.newScope(ScopeKind::Library)) {
         scope_.name = symbolOf(library.name);
+        // A library that is described in part may have more constants, too.
+        scope_.open = std::any_of(library.groups.begin(), library.groups.end(),
+                                  [](const language::Group& group) { return group.open; });
         if (!library.onDevices) scope_.instead = &library.instead;
         program.libraries.push_back(&scope_);
     }

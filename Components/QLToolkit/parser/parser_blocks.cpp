@@ -75,7 +75,10 @@ Block Parser::block(BlockKind kind) {
             lineStart_ |= at(TokenKind::EndOfLine);
             advanceLine();
         }
-        if (mayEndBlock(tok_) && endsBlock(kind)) break;
+        if (mayEndBlock(tok_) && endsBlock(kind)) {
+            lineStart_ = lineStart_ && atProcedureHead(); // `Case 1: f: g` calls f
+            break;
+        }
         statementLine(body);
     }
     return body.block;
