@@ -18,6 +18,7 @@ public:
     Type classOf(const TypeRef& ref);
 
 private:
+    void reportUse(const TypeRef& ref, const Entity& type);
     Type namedType(const TypeRef& ref);
     Type defaultType(Symbol name);
 
