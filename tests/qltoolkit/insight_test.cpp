@@ -1,4 +1,5 @@
 // Completion, parameter help and quick info.
+#include "Components/QLToolkit/insight/line_check.h"
 #include "tests/qltoolkit/insight_program.h"
 #include <gtest/gtest.h>
 
@@ -200,6 +201,29 @@ TEST_F(QuickInfo, IsAbsentInTexts) {
     EXPECT_EQ(program.info(in("  x = \"Tot|al\"\nEnd Sub\n")), "");
     EXPECT_EQ(program.info(in("  x = 1 ' Tot|al\nEnd Sub\n")), "");
     EXPECT_EQ(program.info(in("  wh|at.ever = 1\nEnd Sub\n")), "Dim what");
+}
+
+// ---- the line that is left ------------------------------------------------------------------------------------------
+
+TEST(StatementCheck, FindsTheFirstError) {
+    const auto error = qltoolkit::errorOfStatement("  x = (1 + ", true);
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->line, 1u);
+    EXPECT_TRUE(qltoolkit::errorOfStatement("  If x = 1", true));
+    EXPECT_TRUE(qltoolkit::errorOfStatement("Dim x As", false));
+    EXPECT_TRUE(qltoolkit::errorOfStatement("Private Sub f(x As", false));
+    EXPECT_TRUE(qltoolkit::errorOfStatement("  x = 1 + _\n  )", true));
+}
+
+TEST(StatementCheck, LeavesBlocksToTheirOtherLines) {
+    for (const auto* text : {"If x Then", "Else",      "ElseIf x Then", "End If",  "For i = 1 To 2", "Next i",
+                             "Do",        "Loop",      "Loop Until x",  "With x",  "End With",       "Select Case x",
+                             "Case 1, 2", "Case Else", "End Select",    "While x", "Wend",           "End Sub",
+                             "x = 1",     "",          "  ' comment",   "Here:",   "10 x = 1"})
+        EXPECT_FALSE(qltoolkit::errorOfStatement(text, true)) << text;
+    for (const auto* text : {"Sub f()", "Private Type Point", "Public Enum E", "  X As Long", "Apple = 1", "End Type",
+                             "Private x As Long", "", "Event Changed(x As Long)"})
+        EXPECT_FALSE(qltoolkit::errorOfStatement(text, false)) << text;
 }
 
 } // namespace

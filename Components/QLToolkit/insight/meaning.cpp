@@ -2,23 +2,20 @@
 #include "Components/QLToolkit/insight/description.h"
 #include "Components/QLToolkit/insight/typed_statement.h"
 #include "Components/QLToolkit/names/lookup.h"
+#include "Components/QLToolkit/source/characters.h"
 
 namespace qltoolkit {
 
 namespace {
 
-bool isNamePart(char c) {
-    return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || c == '_' || c < 0;
-}
-
 /// The end of the name around a position.
 std::size_t endOfName(std::string_view text, std::size_t pos) {
-    while (pos < text.size() && isNamePart(text[pos])) ++pos;
+    while (pos < text.size() && charIs(text[pos], kNamePart | kForeign)) ++pos;
     return pos;
 }
 
 /// A name that no procedure contains: one of the module's declarations.
-const Entity* moduleName(Snapshot& snapshot, int module, std::string_view name) {
+const Entity* declaredName(Snapshot& snapshot, int module, std::string_view name) {
     auto& program = snapshot.program();
     const auto& scope = *program.modules[static_cast<std::size_t>(module)].scope;
     const Symbol symbol = program.symbols.intern(name);
@@ -37,7 +34,7 @@ std::string quickInfo(Snapshot& snapshot, int module, std::string_view procedure
         const Entity* found = probe.nameAt(pos);
         return found ? describe(snapshot, *found, &probe.source()) : std::string();
     }
-    const Entity* found = moduleName(snapshot, module, statement.partial());
+    const Entity* found = declaredName(snapshot, module, statement.partial());
     return found ? describe(snapshot, *found) : std::string();
 }
 

@@ -1,12 +1,12 @@
 #include "Components/QLToolkit/insight/probe.h"
+#include "Components/QLToolkit/insight/typed_statement.h"
 #include "Components/QLToolkit/names/binder.h"
+#include "Components/QLToolkit/names/lookup.h"
 #include "Components/QLToolkit/names/resolve.h"
 
 namespace qltoolkit {
 
 namespace {
-
-constexpr std::string_view kHead = "Sub [?]()\n";
 
 const ProcedureDecl* procedureIn(const Module& tree) {
     for (const auto* decl = tree.declarations; decl; decl = decl->next)
@@ -31,7 +31,7 @@ private:
 
 Probe::Probe(Snapshot& snapshot, const CodePlace& place, std::size_t lineBegin, std::string_view line)
     : snapshot_(snapshot) {
-    std::string text{lineBegin == 0 ? kHead : place.before.substr(0, lineBegin)};
+    std::string text{lineBegin == 0 ? kAnyProcedure : place.before.substr(0, lineBegin)};
     const auto begin = text.size();
     text.append(line).append("\nEnd Sub\n");
     bind(place.module, std::move(text), begin);

@@ -1,14 +1,12 @@
 #include "Components/QLToolkit/insight/typed_statement.h"
 #include "Basic/case_folding.h"
+#include "Components/QLToolkit/source/characters.h"
 #include <algorithm>
 
 namespace qltoolkit {
 
 namespace {
 
-bool isDigit(char c) { return c >= '0' && c <= '9'; }
-bool isNameStart(char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || c < 0; }
-bool isNamePart(char c) { return isNameStart(c) || isDigit(c) || c == '_'; }
 bool isBlank(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; }
 
 std::size_t previousLine(std::string_view text, std::size_t lineBegin) {
@@ -78,13 +76,13 @@ std::size_t TypedStatement::readToken(std::size_t at) {
         const auto close = text_.find_first_of(c == '"' ? "\"\n" : "]\n", end);
         isInText_ = close == text_.npos;
         end = isInText_ ? text_.size() : close + 1;
-    } else if (isNameStart(c)) {
+    } else if (charIs(c, kNameStart | kForeign)) {
         kind = TypedKind::Word;
-        while (end < text_.size() && isNamePart(text_[end])) ++end;
+        while (end < text_.size() && charIs(text_[end], kNamePart | kForeign)) ++end;
         if (end < text_.size() && (text_[end] == '$' || text_[end] == '%')) ++end;
-    } else if (isDigit(c) || (c == '&' && end < text_.size() && (text_[end] == 'H' || text_[end] == 'h'))) {
+    } else if ((c >= '0' && c <= '9') || (c == '&' && end < text_.size() && (text_[end] == 'H' || text_[end] == 'h'))) {
         kind = TypedKind::Number;
-        while (end < text_.size() && (isNamePart(text_[end]) || text_[end] == '.')) ++end;
+        while (end < text_.size() && (charIs(text_[end], kNamePart | kForeign) || text_[end] == '.')) ++end;
         isInNumber_ = end == text_.size();
     } else if (c == ':' && end < text_.size() && text_[end] == '=') {
         ++end;

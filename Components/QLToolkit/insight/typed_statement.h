@@ -6,6 +6,9 @@
 
 namespace qltoolkit {
 
+/// The head of a procedure around code that has none.
+inline constexpr std::string_view kAnyProcedure = "Sub [?]()\n";
+
 enum class TypedKind : unsigned char { Word, Number, Text, Sign };
 
 struct TypedToken {

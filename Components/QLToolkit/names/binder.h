@@ -129,7 +129,6 @@ private:
     Operand memberOfObject(const Operand& base, const MemberExpr& expr);
     Operand bang(const Operand& base, const MemberExpr& expr);
     Operand notFound(const MemberExpr& expr);
-    Operand lateMember(const MemberExpr& expr, ValueType type = ValueType::Variant);
 
     // Calls
     Operand entityOperand(const Entity& entity, const Expr& expr, bool throughObject);

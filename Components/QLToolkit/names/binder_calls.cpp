@@ -133,12 +133,7 @@ const ParameterInfo* Binder::parameterOf(const Callable& callable, const Argumen
         return hasArray ? &parameters[parameters.size() - 1] : nullptr;
     }
     for (const auto& parameter : parameters)
-        if (parameter.name == given.name && !parameter.paramArray) {
-            if (program_.uses && given.value)
-                program_.uses->namedArgument(module_, given.value->pos, callable,
-                                             static_cast<std::size_t>(&parameter - parameters.begin()));
-            return &parameter;
-        }
+        if (parameter.name == given.name && !parameter.paramArray) return &parameter;
     if (hasArray)
         report(Message::NamedWithParamArray, given.value ? given.value->pos : pos);
     else

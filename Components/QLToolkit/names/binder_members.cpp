@@ -32,11 +32,11 @@ Operand Binder::member(const Operand& base, const MemberExpr& expr) {
     }
     switch (base.type.value) {
     case ValueType::Object:
-        if (base.type.id == 0) return lateMember(expr);
+        if (base.type.id == 0) return late(expr.pos);
         [[fallthrough]];
     case ValueType::Record: return memberOfObject(base, expr);
-    case ValueType::Variant: return lateMember(expr);
-    case ValueType::Unknown: return lateMember(expr, ValueType::Unknown);
+    case ValueType::Variant: return late(expr.pos);
+    case ValueType::Unknown: return late(expr.pos, ValueType::Unknown);
     default: report(Message::InvalidQualifier, base.pos); return late(expr.pos, ValueType::Unknown);
     }
 }
@@ -71,13 +71,8 @@ Operand Binder::memberOfObject(const Operand& base, const MemberExpr& expr) {
         }
         return use(*found, expr, true);
     }
-    if (scope.open) return lateMember(expr, ValueType::Unknown);
+    if (scope.open) return late(expr.pos, ValueType::Unknown);
     return notFound(expr);
-}
-
-Operand Binder::lateMember(const MemberExpr& expr, ValueType type) {
-    if (program_.uses) program_.uses->lateMember(expr.name);
-    return late(expr.pos, type);
 }
 
 Operand Binder::notFound(const MemberExpr& expr) {

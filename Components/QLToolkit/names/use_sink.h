@@ -20,11 +20,7 @@ public:
 
     /// The name at a position means this. Local names are reported where they are declared too.
     virtual void used(const SourceModule& module, Pos pos, const Entity& entity) = 0;
-    /// An argument whose value is at this position has the name of a parameter.
-    virtual void namedArgument(const SourceModule&, Pos, const Callable&, std::size_t /*parameter*/) {}
     virtual void member(const MemberBase&, Symbol /*name*/) {}
-    /// A member of an object whose class is not known until the program runs.
-    virtual void lateMember(Symbol /*name*/) {}
 };
 
 } // namespace qltoolkit
