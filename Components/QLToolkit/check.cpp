@@ -1,5 +1,6 @@
 #include "Components/QLToolkit/check.h"
 #include "Components/QLToolkit/parser/form_header.h"
+#include "Components/QLToolkit/parser/parse_all.h"
 #include <algorithm>
 #include <filesystem>
 #include <tuple>
@@ -40,16 +41,14 @@ CheckResult checkSource(std::string name, std::string bytes, const ConditionalCo
 std::vector<CheckResult> checkProject(const std::vector<const SourceText*>& sources,
                                       const ConditionalConstants& constants, const ProgramOptions& options) {
     SymbolTable symbols;
+    auto parsed = parseModules(sources, symbols, constants, options.threads);
     std::vector<CheckResult> results;
-    std::vector<std::unique_ptr<Module>> trees;
     std::vector<ParsedModule> modules;
     bool isRight = true;
-    for (const auto* source : sources) {
-        auto parsed = parseModule(*source, symbols, constants);
-        isRight &= parsed.module && parsed.errors == 0;
-        results.push_back({std::move(parsed.diagnostics), parsed.errors, source->lineCount()});
-        trees.push_back(std::move(parsed.module));
-        modules.push_back({trees.back().get(), readFormHeader(*source)});
+    for (std::size_t i = 0; i < sources.size(); ++i) {
+        isRight &= parsed[i].module && parsed[i].errors == 0;
+        results.push_back({std::move(parsed[i].diagnostics), parsed[i].errors, sources[i]->lineCount()});
+        modules.push_back({parsed[i].module.get(), readFormHeader(*sources[i])});
     }
     if (!isRight) return results;
     auto messages = checkProgram(modules, symbols, options);

@@ -1,6 +1,6 @@
 #include "Components/QLToolkit/module_image.h"
 #include "Components/QLToolkit/names/module_name.h"
-#include "Components/QLToolkit/parser/ast_walk.h"
+#include "Components/QLToolkit/parser/tree_walk.h"
 #include <unordered_set>
 
 namespace qltoolkit {
@@ -71,11 +71,19 @@ private:
     std::vector<image::Member> members_;
 };
 
-std::vector<std::string> stringsOf(const Module& module) {
+struct StringLiterals {
     std::vector<const Expr*> literals;
-    forEachExpression(module, [&](const Expr& expr) {
+
+    void symbol(const Symbol&) {}
+    void expression(const Expr& expr) {
         if (expr.kind == ExprKind::String) literals.push_back(&expr);
-    });
+    }
+};
+
+std::vector<std::string> stringsOf(const Module& module) {
+    StringLiterals found;
+    TreeWalk{found}.module(module);
+    auto& literals = found.literals;
     std::sort(literals.begin(), literals.end(), [](const Expr* a, const Expr* b) { return a->pos < b->pos; });
     std::vector<std::string> texts;
     std::unordered_set<std::string> seen;

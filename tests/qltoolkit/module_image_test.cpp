@@ -1,7 +1,7 @@
 // What the compiled application keeps of a module.
 #include "Components/QLToolkit/module_image.h"
 #include "Components/QLToolkit/names/module_name.h"
-#include "Components/QLToolkit/parser/ast_walk.h"
+#include "Components/QLToolkit/parser/tree_walk.h"
 #include "tests/qltoolkit/ast_dump.h"
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -19,6 +19,17 @@ std::string numbered(std::string_view code, int& count) {
         text += c == '#' ? '"' + std::to_string(++count) + '"' : c == '\n' ? "\r\n" : std::string(1, c);
     return text;
 }
+
+/// Collects the numbers in quotation marks.
+struct LiteralNumbers {
+    const SourceText& source;
+    std::vector<int>& found;
+
+    void symbol(const Symbol&) {}
+    void expression(const Expr& expr) {
+        if (expr.kind == ExprKind::String) found.push_back(std::stoi(stringValue(source, as<StringExpr>(expr))));
+    }
+};
 
 } // namespace
 
@@ -97,10 +108,8 @@ End Sub
     ASSERT_TRUE(parsed.result.module) << parsed.diagnostics();
     EXPECT_EQ(parsed.diagnostics(), "");
     std::vector<int> visited, all(std::size_t(count), 0);
-    forEachExpression(*parsed.result.module, [&](const Expr& expr) {
-        if (expr.kind == ExprKind::String)
-            visited.push_back(std::stoi(stringValue(parsed.source, as<StringExpr>(expr))));
-    });
+    LiteralNumbers numbers{parsed.source, visited};
+    TreeWalk{numbers}.module(*parsed.result.module);
     std::sort(visited.begin(), visited.end());
     std::iota(all.begin(), all.end(), 1);
     EXPECT_EQ(visited, all);

@@ -3,9 +3,8 @@
 #include "Components/QLToolkit/names/declare_program.h"
 #include "Components/QLToolkit/names/lookup.h"
 #include "Components/QLToolkit/names/resolve.h"
-#include <atomic>
+#include "Components/QLToolkit/source/each_index.h"
 #include <set>
-#include <thread>
 
 namespace qltoolkit {
 
@@ -14,18 +13,13 @@ namespace {
 using UnknownNames = std::vector<std::pair<Symbol, Pos>>;
 
 void bindAll(Program& program, unsigned threads, std::vector<UnknownNames>& unknown) {
-    std::atomic<std::size_t> next{0};
-    const auto work = [&] {
-        ProcedureNames names;
-        for (std::size_t i; (i = next++) < program.modules.size();) {
+    forEachIndex(program.modules.size(), threads, [&] {
+        return [&, names = ProcedureNames{}](std::size_t i) mutable {
             Binder binder{program, program.modules[i], names};
             within([&] { binder.bindModule(); });
             unknown[i] = binder.unknownNames();
-        }
-    };
-    std::vector<std::jthread> helpers;
-    for (unsigned i = 1; i < threads && i < program.modules.size(); ++i) helpers.emplace_back(work);
-    work();
+        };
+    });
 }
 
 /// A name that may be one of a missing library is mentioned once in a project.

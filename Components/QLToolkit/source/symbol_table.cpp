@@ -72,6 +72,22 @@ Symbol SymbolTable::internForeign(std::string_view folded, std::string_view spel
     return symbol;
 }
 
+std::vector<Symbol> SymbolTable::internAll(const SymbolTable& other) {
+    std::vector<Symbol> mine{Symbol::None};
+    mine.reserve(other.count());
+    for (std::size_t i = 1; i < other.count(); ++i) mine.push_back(internEntry(other.entries_[i]));
+    return mine;
+}
+
+Symbol SymbolTable::internEntry(const Entry& entry) {
+    const std::string_view name{entry.name, entry.length}, spelling{entry.spelling, entry.spellingLength};
+    if (!isOrdinary(name)) return internForeign(name, spelling);
+    const auto known = entries_.size();
+    const auto symbol = internAscii(entry.name, entry.length);
+    if (entries_.size() > known && entry.spelling != entry.name) spell(entries_.back(), spelling);
+    return symbol;
+}
+
 void SymbolTable::spell(Entry& entry, std::string_view spelling) {
     entry.spelling = text_.copy(spelling.data(), spelling.size()).begin();
     entry.spellingLength = static_cast<std::uint32_t>(spelling.size());

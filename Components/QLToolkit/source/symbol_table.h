@@ -29,6 +29,9 @@ public:
     /// Returns the symbol of any name, given as UTF-8.
     Symbol intern(std::string_view utf8);
 
+    /// Adds the names of another table in its order. Returns the symbol here for each symbol there.
+    [[nodiscard]] std::vector<Symbol> internAll(const SymbolTable& other);
+
     /// Returns the first spelling of the name as UTF-8, or "" for None.
     [[nodiscard]] std::string_view spelling(Symbol symbol) const {
         const Entry& e = entries_[static_cast<std::uint32_t>(symbol)];
@@ -52,6 +55,7 @@ private:
     [[nodiscard]] std::size_t slotOf(std::uint64_t key) const { return key * 0x9E3779B97F4A7C15u >> shift_; }
     [[nodiscard]] bool isName(Symbol, const char* name, std::uint32_t length) const;
     Symbol addAscii(const char* name, std::uint32_t length, std::uint64_t key);
+    Symbol internEntry(const Entry&);
     Symbol internForeign(std::string_view folded, std::string_view spelling);
     void spell(Entry&, std::string_view);
     Symbol add(std::uint64_t key, const Entry&);

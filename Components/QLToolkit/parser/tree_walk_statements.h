@@ -1,16 +1,24 @@
-#include "Components/QLToolkit/parser/expression_walk.h"
+#pragma once
+// The statements of TreeWalk.
+#include "Components/QLToolkit/parser/tree_walk.h"
 
 namespace qltoolkit {
 
-void ExpressionWalk::block(const Block& block) {
-    for (const auto* stmt = block.first; stmt; stmt = stmt->next) statement(*stmt);
+template <class Visitor>
+void TreeWalk<Visitor>::select(const SelectStmt& stmt) {
+    expression(stmt.value);
+    block(stmt.before);
+    for (const auto& branch : stmt.branches) {
+        for (const auto& item : branch.items) {
+            expression(item.value);
+            expression(item.to);
+        }
+        block(branch.body);
+    }
 }
 
-void ExpressionWalk::statement(const Stmt& stmt) {
-    if (!blockStatement(stmt) && !fileStatement(stmt)) simpleStatement(stmt);
-}
-
-bool ExpressionWalk::blockStatement(const Stmt& stmt) {
+template <class Visitor>
+bool TreeWalk<Visitor>::blockStatement(const Stmt& stmt) {
     switch (stmt.kind) {
     case StmtKind::If:
         for (const auto& branch : as<IfStmt>(stmt).branches) {
@@ -18,16 +26,7 @@ bool ExpressionWalk::blockStatement(const Stmt& stmt) {
             block(branch.body);
         }
         return true;
-    case StmtKind::Select:
-        expression(as<SelectStmt>(stmt).value);
-        for (const auto& branch : as<SelectStmt>(stmt).branches) {
-            for (const auto& item : branch.items) {
-                expression(item.value);
-                expression(item.to);
-            }
-            block(branch.body);
-        }
-        return true;
+    case StmtKind::Select: select(as<SelectStmt>(stmt)); return true;
     case StmtKind::For: {
         const auto& loop = as<ForStmt>(stmt);
         for (const auto* part : {loop.variable, loop.from, loop.to, loop.step}) expression(part);
@@ -52,7 +51,8 @@ bool ExpressionWalk::blockStatement(const Stmt& stmt) {
     }
 }
 
-bool ExpressionWalk::fileStatement(const Stmt& stmt) {
+template <class Visitor>
+bool TreeWalk<Visitor>::fileStatement(const Stmt& stmt) {
     switch (stmt.kind) {
     case StmtKind::Print:
     case StmtKind::PrintFile:
@@ -86,7 +86,26 @@ bool ExpressionWalk::fileStatement(const Stmt& stmt) {
     }
 }
 
-void ExpressionWalk::simpleStatement(const Stmt& stmt) {
+template <class Visitor>
+bool TreeWalk<Visitor>::jump(const Stmt& stmt) {
+    switch (stmt.kind) {
+    case StmtKind::Label:
+    case StmtKind::LineNumber:
+    case StmtKind::GoTo:
+    case StmtKind::GoSub:
+    case StmtKind::OnErrorGoTo:
+    case StmtKind::Resume: visitor_.symbol(as<TargetStmt>(stmt).target.name); return true;
+    case StmtKind::OnGoTo:
+    case StmtKind::OnGoSub:
+        expression(as<OnJumpStmt>(stmt).value);
+        for (const auto& target : as<OnJumpStmt>(stmt).targets) visitor_.symbol(target.name);
+        return true;
+    default: return false;
+    }
+}
+
+template <class Visitor>
+void TreeWalk<Visitor>::simpleStatement(const Stmt& stmt) {
     switch (stmt.kind) {
     case StmtKind::Let:
     case StmtKind::Set:
@@ -114,9 +133,13 @@ void ExpressionWalk::simpleStatement(const Stmt& stmt) {
             type(item.type);
         }
         break;
-    case StmtKind::OnGoTo:
-    case StmtKind::OnGoSub: expression(as<OnJumpStmt>(stmt).value); break;
-    case StmtKind::RaiseEvent: arguments(as<RaiseEventStmt>(stmt).arguments); break;
+    case StmtKind::RaiseEvent:
+        visitor_.symbol(as<RaiseEventStmt>(stmt).name);
+        for (const auto& each : as<RaiseEventStmt>(stmt).arguments) {
+            visitor_.symbol(each.name);
+            expression(each.value);
+        }
+        break;
     default: break;
     }
 }
