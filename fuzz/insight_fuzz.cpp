@@ -10,8 +10,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     test::InsightProgram program;
     program.controls = "   Begin VB.TextBox Text1 \n      Index = 0\n   End\n";
     program.add("Module1.bas", text).add("Form1.frm", text).add("Class1.cls", text);
-    (void)program.offer(marked, true);
-    (void)program.offer(marked, false);
+    (void)program.offer(marked, qltoolkit::Wanted::Special);
+    (void)program.offer(marked);
     (void)program.call(marked);
     (void)program.info(marked);
     return 0;

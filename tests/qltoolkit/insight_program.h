@@ -26,13 +26,13 @@ public:
     }
 
     /// The offer in the module that was added first, whose present text this is.
-    qltoolkit::Offer offer(const std::string& text, bool prefersValues = false) {
+    qltoolkit::Offer offer(const std::string& text, qltoolkit::Wanted wanted = qltoolkit::Wanted::All) {
         const auto typed = at(text);
-        return qltoolkit::namesAt(snapshot(), typed.place, typed.rest, prefersValues);
+        return qltoolkit::namesAt(snapshot(), typed.place, typed.rest, wanted);
     }
-    /// The names of the offer, or those of `wanted` that are among them.
-    std::string names(const std::string& text, bool prefersValues = false) {
-        return joined(offer(text, prefersValues).names);
+    /// The names of the offer.
+    std::string names(const std::string& text, qltoolkit::Wanted wanted = qltoolkit::Wanted::All) {
+        return joined(offer(text, wanted).names);
     }
     bool offers(const std::string& text, const std::string& name) {
         const auto found = offer(text).names;

@@ -6,6 +6,7 @@
 namespace {
 
 using qltoolkit::OfferKind;
+using qltoolkit::Wanted;
 using test::InsightProgram;
 
 const char* const kInsightModule =
@@ -107,11 +108,11 @@ TEST_F(Completion, OffersLabelsAfterJumps) {
 }
 
 TEST_F(Completion, OffersTheValuesOfAnEnumeration) {
-    EXPECT_EQ(program.names(in("  Favourite = |"), true), "Apple Pear");
-    EXPECT_EQ(program.names(in("  If Favourite = |"), true), "Apple Pear");
-    EXPECT_EQ(program.names(in("  Pick |"), true), "Apple Pear");
-    EXPECT_EQ(program.offer(in("  Total = |"), true).kind, OfferKind::Names);
-    EXPECT_EQ(program.offer(in("  Pick Apple, |"), true).kind, OfferKind::Names);
+    EXPECT_EQ(program.names(in("  Favourite = |"), Wanted::Special), "Apple Pear");
+    EXPECT_EQ(program.names(in("  If Favourite = |"), Wanted::Special), "Apple Pear");
+    EXPECT_EQ(program.names(in("  Pick |"), Wanted::Special), "Apple Pear");
+    EXPECT_EQ(program.offer(in("  Total = |"), Wanted::Special).kind, OfferKind::Names);
+    EXPECT_EQ(program.offer(in("  Pick Apple, |"), Wanted::Special).kind, OfferKind::Names);
 }
 
 TEST_F(Completion, OffersNothingInTextsAndForNewNames) {
@@ -195,6 +196,19 @@ TEST_F(QuickInfo, ShowsTheDeclaration) {
     EXPECT_EQ(program.info(in("  Form1.txtNa|me.Text = 1\nEnd Sub\n")), "txtName As TextBox");
     EXPECT_EQ(program.info(in("  x = UCa|se(1)\nEnd Sub\n")), "Function UCase(String)\nA text in upper case");
     EXPECT_EQ(program.info("Private Favour|ite As Fruit\n"), "Private Favourite As Fruit");
+}
+
+TEST_F(QuickInfo, KnowsNamesThatAreNoExpressions) {
+    EXPECT_EQ(program.info(in("  Dim i As Long\n  For i = 1 To 2\n  Next |i\nEnd Sub\n")), "Dim i As Long");
+    EXPECT_EQ(program.info("Function F(Given As Per|son)\nEnd Function\n"), "Class Person");
+    EXPECT_EQ(program.info("Function F(Giv|en As Long)\nEnd Function\n"), "Given As Long");
+}
+
+TEST_F(QuickInfo, IsAbsentForAModuleThatIsNotThere) {
+    const qltoolkit::CodePlace nowhere{7, "Sub Main()\n  p."};
+    EXPECT_EQ(qltoolkit::namesAt(program.snapshot(), nowhere).kind, OfferKind::Nothing);
+    EXPECT_FALSE(qltoolkit::callAt(program.snapshot(), nowhere));
+    EXPECT_EQ(qltoolkit::quickInfo(program.snapshot(), -1, "Sub Main()\n", 5), "");
 }
 
 TEST_F(QuickInfo, IsAbsentInTexts) {

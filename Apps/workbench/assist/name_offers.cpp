@@ -34,16 +34,16 @@ bool NameOffers::isShown() const { return text_.isListActive(); }
 
 void NameOffers::close() { text_.SendScintilla(Sci::SCI_AUTOCCANCEL); }
 
-bool NameOffers::ask(bool prefersValues) {
+bool NameOffers::ask(qltoolkit::Wanted wanted) {
     const auto known = insight_.of(component_);
     if (!known) return false;
     const TypedPlace place(text_);
-    offer_ = qltoolkit::namesAt(*known.snapshot, place.in(known.module), place.rest(), prefersValues);
+    offer_ = qltoolkit::namesAt(*known.snapshot, place.in(known.module), place.rest(), wanted);
     return offer_.kind != qltoolkit::OfferKind::Nothing;
 }
 
 void NameOffers::request(bool completesSingle) {
-    if (ask(false)) show(completesSingle);
+    if (ask(qltoolkit::Wanted::All)) show(completesSingle);
 }
 
 void NameOffers::typed(QChar character) {
@@ -51,7 +51,8 @@ void NameOffers::typed(QChar character) {
         if (isShown()) show();
         return;
     }
-    if (!kAutoListMembers.stored() || !QString(".!( ,=").contains(character) || !ask(true)) return;
+    if (!kAutoListMembers.stored() || !QString(".!( ,=").contains(character) || !ask(qltoolkit::Wanted::Special))
+        return;
     const bool isMember = character == '.' || character == '!';
     if (isMember || offer_.kind > qltoolkit::OfferKind::Members) show();
 }

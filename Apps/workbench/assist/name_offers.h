@@ -25,7 +25,7 @@ public:
     void close();
 
 private:
-    bool ask(bool prefersValues);
+    bool ask(qltoolkit::Wanted wanted);
     void show(bool completesSingle = false);
     QByteArray partial() const;
 

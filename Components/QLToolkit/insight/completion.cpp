@@ -29,11 +29,11 @@ void addLabels(NameList& list, std::string_view text) {
 
 class OfferedNames {
 public:
-    OfferedNames(Snapshot& snapshot, const CodePlace& place, std::string_view rest, bool prefersValues)
+    OfferedNames(Snapshot& snapshot, const CodePlace& place, std::string_view rest, Wanted wanted)
         : snapshot_(snapshot),
           place_(place),
           rest_(rest),
-          prefersValues_(prefersValues),
+          wanted_(wanted),
           scope_(*snapshot.program().modules[static_cast<std::size_t>(place.module)].scope),
           statement_(place.before),
           list_(snapshot, scope_) {}
@@ -57,8 +57,8 @@ private:
         if (isAny(before, {"GoTo", "GoSub", "Resume"})) return labels();
         if (isAny(before, {"RaiseEvent"})) return events();
         if (declaresName(before)) return OfferKind::Nothing;
-        if (values()) return OfferKind::Values;
-        return names();
+        if (wanted_ == Wanted::All) return names();
+        return values() ? OfferKind::Values : OfferKind::Names;
     }
 
     OfferKind members() {
@@ -123,7 +123,6 @@ private:
 
     /// What is assigned to, compared with or passed as a variable of an enumeration is one of its members.
     bool values() {
-        if (!prefersValues_) return false;
         const Type type = wantedType();
         if (!type.isEnum || type.isArray) return false;
         list_.addEnum(type);
@@ -160,7 +159,7 @@ private:
     Snapshot& snapshot_;
     const CodePlace& place_;
     std::string_view rest_;
-    bool prefersValues_;
+    Wanted wanted_;
     const Scope& scope_;
     TypedStatement statement_;
     NameList list_;
@@ -168,8 +167,8 @@ private:
 
 } // namespace
 
-Offer namesAt(Snapshot& snapshot, const CodePlace& place, std::string_view rest, bool prefersValues) {
-    return OfferedNames{snapshot, place, rest, prefersValues}.offer();
+Offer namesAt(Snapshot& snapshot, const CodePlace& place, std::string_view rest, Wanted wanted) {
+    return snapshot.has(place.module) ? OfferedNames{snapshot, place, rest, wanted}.offer() : Offer{};
 }
 
 } // namespace qltoolkit

@@ -45,9 +45,15 @@ struct Offer {
     std::vector<OfferedName> names; ///< sorted regardless of case, each once
 };
 
-/// Returns all names that are possible at a place, whatever the partial name is. `rest` is the procedure's text after
-/// the cursor, in which labels are found. Enumerations are preferred to all names if `prefersValues`.
+/// What is asked for while the user types, and on request.
+enum class Wanted : std::uint8_t {
+    Special, ///< names only where the place says of which kind they are; the values of an enumeration instead of all names
+    All
+};
+
+/// Returns the names that are possible at a place, whatever the partial name is. `rest` is the procedure's text after the
+/// cursor, in which labels are found.
 [[nodiscard]] Offer namesAt(Snapshot& snapshot, const CodePlace& place, std::string_view rest = {},
-                            bool prefersValues = false);
+                            Wanted wanted = Wanted::All);
 
 } // namespace qltoolkit

@@ -57,7 +57,7 @@ const Entity* entityOf(Snapshot& snapshot, const CodePlace& place, const TypedSt
 }
 
 std::optional<CallHelp> callAt(Snapshot& snapshot, const CodePlace& place, const TypedStatement& statement) {
-    if (!snapshot.isWhole()) return std::nullopt;
+    if (!snapshot.isWhole() || !snapshot.has(place.module)) return std::nullopt;
     for (const auto& call : statement.calls()) {
         const Entity* entity = isRaised(statement, call)
                                    ? eventOf(snapshot, place, statement, call)

@@ -25,6 +25,10 @@ public:
     /// Whether the types of all declarations are known, so that code can be bound.
     [[nodiscard]] bool isWhole() const { return isWhole_; }
 
+    /// Whether this is the place of a module.
+    [[nodiscard]] bool has(int module) const {
+        return module >= 0 && static_cast<std::size_t>(module) < program_.modules.size();
+    }
     [[nodiscard]] Program& program() { return program_; }
     [[nodiscard]] const Program& program() const { return program_; }
     [[nodiscard]] ProcedureNames& names() { return names_; }
