@@ -77,14 +77,16 @@ TEST_F(Assist, AcceptsANameByTabEnterAndTheNextCharacter) {
     press(Qt::Key_Tab);
     EXPECT_EQ(line(), "pets.Remove");
     type(" pets.c");
-    press(Qt::Key_Return);
+    press(Qt::Key_Tab);
     EXPECT_EQ(line(), "pets.Remove pets.Count");
     type(" + pets.i(");
     EXPECT_EQ(line(), "pets.Remove pets.Count + pets.Item(");
     type("pets.co ");
     EXPECT_EQ(line(), "pets.Remove pets.Count + pets.Item(pets.Count");
-    press(Qt::Key_Return); // names that were accepted count as typed
-    EXPECT_EQ(line(), "Pets.Remove Pets.Count + Pets.Item(Pets.Count");
+    type("- pets.co");
+    press(Qt::Key_Return); // names that were accepted count as typed, and the line ends
+    EXPECT_EQ(line(), "Pets.Remove Pets.Count + Pets.Item(Pets.Count - Pets.Count");
+    EXPECT_EQ(text->lines(), 12);
 }
 
 TEST_F(Assist, EnterEndsTheLineIfNothingWasChosen) {

@@ -108,8 +108,12 @@ bool CodeAssist::pressed(int key) {
     const bool isShown = names_.isShown();
     switch (key) {
     case Qt::Key_Return:
-    case Qt::Key_Enter: return isShown && names_.accept(false);
-    case Qt::Key_Tab: return isShown && names_.accept(true);
+    case Qt::Key_Enter:
+        if (isShown) names_.acceptChosen();
+        return false; // and the line ends
+    case Qt::Key_Tab:
+        if (isShown) text_.complete();
+        return isShown;
     case Qt::Key_Escape:
         if (!isShown && !tip_.isVisible()) return false;
         isShown ? names_.close() : hideTip();
@@ -124,17 +128,25 @@ bool CodeAssist::eventFilter(QObject* watched, QEvent* event) {
         return watched == text_.viewport() && showHover(help.pos(), help.globalPos());
     }
     if (watched != &text_) return false;
-    if (event->type() == QEvent::FocusOut && !names_.isShown()) hideTip();
-    const auto& key = static_cast<QKeyEvent&>(*event);
-    if (event->type() == QEvent::ShortcutOverride && key.key() == Qt::Key_Escape &&
-        (names_.isShown() || tip_.isVisible()))
-        event->accept();
-    if (event->type() != QEvent::KeyPress) return false;
-    if (key.modifiers() == Qt::ControlModifier && key.key() == Qt::Key_J) {
+    switch (event->type()) {
+    case QEvent::FocusOut:
+        if (!names_.isShown()) hideTip();
+        return false;
+    case QEvent::ShortcutOverride:
+        if (static_cast<QKeyEvent&>(*event).key() == Qt::Key_Escape && (names_.isShown() || tip_.isVisible()))
+            event->accept();
+        return false;
+    case QEvent::KeyPress: return keyPressed(static_cast<QKeyEvent&>(*event));
+    default: return false;
+    }
+}
+
+bool CodeAssist::keyPressed(const QKeyEvent& event) {
+    if (event.modifiers() == Qt::ControlModifier && event.key() == Qt::Key_J) {
         names_.request(false);
         return true;
     }
-    return key.modifiers() == Qt::NoModifier && pressed(key.key());
+    return event.modifiers() == Qt::NoModifier && pressed(event.key());
 }
 
 CodeAssist* assistOf(QsciScintilla& pane) {

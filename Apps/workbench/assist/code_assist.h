@@ -23,6 +23,7 @@ protected:
 private:
     void typed(int character);
     void moved();
+    bool keyPressed(const QKeyEvent& event);
     bool pressed(int key);
     void updateParameters();
     void hideTip();

@@ -84,14 +84,12 @@ void NameOffers::show(bool completesSingle) {
     text_.SendScintilla(Sci::SCI_AUTOCSHOW, (unsigned long)begun.size(), list.constData());
 }
 
-bool NameOffers::accept(bool always) {
+void NameOffers::acceptChosen() {
     const bool isChosen = text_.SendScintilla(Sci::SCI_AUTOCGETCURRENT) > 0 || !partial().isEmpty();
-    if (!isChosen && !always) {
+    if (isChosen)
+        text_.complete();
+    else
         close();
-        return false;
-    }
-    text_.complete();
-    return true;
 }
 
 } // namespace workbench

@@ -20,8 +20,8 @@ public:
     /// After a key that removes characters.
     void removed();
     bool isShown() const;
-    /// Enter and Tab: accepts the selected name. False, and closes the list, if the user has not chosen any.
-    bool accept(bool always);
+    /// Accepts the selected name, or closes the list if the user has not chosen any.
+    void acceptChosen();
     void close();
 
 private:
