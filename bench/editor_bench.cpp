@@ -2,8 +2,8 @@
 // lines a key may cost at most three times as much as in one of 2,000, where the desktop itself takes most of the time.
 #include "Apps/workbench/editing/scintilla.h"
 #include "Apps/workbench/window/workbench.h"
+#include "bench/offscreen_desktop.h"
 #include "tests/support/sample_project.h"
-#include "tests/workbench/own_home.h"
 #include <QApplication>
 #include <QTest>
 #include <ctime>
@@ -73,14 +73,9 @@ KeyTimes timesOf(const std::string& project) {
 } // namespace
 
 int main(int argc, char** argv) {
-    const test::OwnHome home;
-    test::leaveOutIntroduction();
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("QT_LOGGING_RULES", "qt.qpa.*=false");
-    QApplication app(argc, argv);
-    workbench::apply(workbench::Theme::Light);
-    const auto project = [&home](const char* name, int lines) {
-        return test::SampleProject(name).module(name + std::string("Module"), moduleOf(lines)).writeTo(home);
+    const bench::OffscreenDesktop desktop(argc, argv);
+    const auto project = [&desktop](const char* name, int lines) {
+        return test::SampleProject(name).module(name + std::string("Module"), moduleOf(lines)).writeTo(desktop.home());
     };
     const auto few = timesOf(project("Few", kFewLines)), many = timesOf(project("Many", kManyLines));
     bool good = true;

@@ -1,5 +1,6 @@
 """Writes modules with the same structure in both languages, measures both compilers in turn and prints the ratios."""
 import json
+import os
 import pathlib
 import resource
 import statistics
@@ -8,6 +9,7 @@ import sys
 import time
 
 MODULES, PROCEDURES, RUNS = 40, 250, 7
+MANY_MODULES, FEW_PROCEDURES = 1000, 20
 
 VB = """Public Function Work{n}(ByVal first As Long, ByVal second As Long) As Long
     Dim i As Long, total As Long
@@ -75,18 +77,25 @@ def gambas_module(procedures):
     return "' Gambas module file\n\n" + "".join(GAMBAS.format(n=n) for n in range(procedures))
 
 
-def write_projects(work):
+def write_projects(work, modules, procedures):
     vb, gambas = work / "vb", work / "gambas"
-    vb.mkdir()
+    vb.mkdir(parents=True)
     (gambas / ".src").mkdir(parents=True)
     (gambas / ".project").write_text("# Gambas Project File 3.0\nTitle=Bench\nStartup=Main\nVersion=0.0.1\n")
     (gambas / ".src" / "Main.module").write_text("' Gambas module file\n\nPublic Sub Main()\nEnd\n")
     files = []
-    for m in range(MODULES):
+    for m in range(modules):
         files.append(vb / f"Module{m}.bas")
-        files[-1].write_bytes(vb_module(f"Module{m}", PROCEDURES).encode("ascii"))
-        (gambas / ".src" / f"Module{m}.module").write_text(gambas_module(PROCEDURES))
+        files[-1].write_bytes(vb_module(f"Module{m}", procedures).encode("ascii"))
+        (gambas / ".src" / f"Module{m}.module").write_text(gambas_module(procedures))
     return files, gambas
+
+
+def write_vbp(files):
+    path = files[0].parent / "Many.vbp"
+    members = "".join(f"Module={f.stem}; {f.name}\r\n" for f in files)
+    path.write_bytes(f'Type=Exe\r\n{members}Startup="Sub Main"\r\nName="Many"\r\n'.encode("ascii"))
+    return path
 
 
 def children_cpu():
@@ -94,18 +103,33 @@ def children_cpu():
     return usage.ru_utime + usage.ru_stime
 
 
-def timed(command):
+def timed(command, **options):
     """(seconds by the clock, what it printed, seconds of processor time)"""
     cpu, start = children_cpu(), time.perf_counter()
-    done = subprocess.run(command, capture_output=True, text=True)
+    done = subprocess.run(command, capture_output=True, text=True, **options)
     if done.returncode != 0:
         sys.exit(f"{command[0]} failed:\n{done.stdout[-2000:]}{done.stderr[-2000:]}")
     return time.perf_counter() - start, done.stdout, children_cpu() - cpu
 
 
+def check_again(program, work):
+    """Processor and wall time of the first check of many modules, of the second one, and of gbc3's compile."""
+    files, gambas = write_projects(work, MANY_MODULES, FEW_PROCEDURES)
+    command = [str(program), "check", str(write_vbp(files))]
+    first, again, theirs = [], [], []
+    for run in range(RUNS):
+        environment = dict(os.environ, XDG_CACHE_HOME=str(work / f"cache{run}"))
+        first.append(timed(command, env=environment)[0])
+        again.append(timed(command, env=environment)[0])
+        theirs.append(timed(["gbc3", "-a", "-j", "1", str(gambas)])[0])
+    first, again, theirs = map(statistics.median, (first, again, theirs))
+    print(f"check of {MANY_MODULES} modules: {first:.3f} s, unchanged {again:.3f} s; gbc3 -a {theirs:.3f} s")
+    print(f"unchanged : first = {again / first:.2f}  (at most 0.1), unchanged : gbc3 = {again / theirs:.2f}  (at most 0.2)")
+
+
 def main():
     bench, work = sys.argv[1], pathlib.Path(sys.argv[2])
-    files, gambas = write_projects(work)
+    files, gambas = write_projects(work / "few", MODULES, PROCEDURES)
     lines = sum(f.read_bytes().count(b"\n") for f in files)
     check = pathlib.Path(bench).with_name("check_bench")
     ours, theirs, checks = [], [], {1: [], 2: []}
@@ -140,6 +164,7 @@ def main():
         print(f"one module of {name} lines: {seconds * 1e9:.0f} ns a line")
     print(f"1,000,000 : 100,000 = {cost['1,000,000'] / cost['100,000']:.2f}  (at most 1.20)")
     print(f"tree: {memory:.1f} times the source, whole process: {peak:.1f} times  (at most 60)")
+    check_again(pathlib.Path(bench).parent.with_name("Apps") / "fernwick/fernwick", work / "many")
 
 
 main()

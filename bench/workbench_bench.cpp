@@ -2,8 +2,8 @@
 // are read but not parsed. Also checks that adding messages and updating their layout takes linear time: ten times as
 // many messages cost ten times as much.
 #include "Apps/workbench/window/workbench.h"
+#include "bench/offscreen_desktop.h"
 #include "tests/support/sample_project.h"
-#include "tests/workbench/own_home.h"
 #include <QApplication>
 #include <QLineEdit>
 #include <QTest>
@@ -121,14 +121,9 @@ bool messagesGrowLinearly(const std::string& project) {
 } // namespace
 
 int main(int argc, char** argv) {
-    const test::OwnHome home;
-    test::leaveOutIntroduction();
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("QT_LOGGING_RULES", "qt.qpa.*=false");
-    QApplication app(argc, argv);
-    workbench::apply(workbench::Theme::Light);
+    const bench::OffscreenDesktop desktop(argc, argv);
     (void)timeToPaint({}); // loads fonts and styles, which are cached
-    const auto project = largeProject(home);
+    const auto project = largeProject(desktop.home());
     const double empty = timeToPaint({}), large = timeToPaint(project);
     fmt::print("first picture: empty {:.0f} ms, {} components {:.0f} ms, ratio {:.2f} (at most 5)\n", empty,
                kComponents, large, large / empty);

@@ -5,8 +5,8 @@
 #include "Apps/workbench/window/workbench.h"
 #include "Apps/workbench/zoom/designer_image.h"
 #include "Apps/workbench/zoom/zoom_view.h"
+#include "bench/offscreen_desktop.h"
 #include "tests/support/sample_project.h"
-#include "tests/workbench/own_home.h"
 #include <QApplication>
 #include <QDockWidget>
 #include <QImage>
@@ -163,11 +163,7 @@ private:
 } // namespace
 
 int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("QT_LOGGING_RULES", "qt.qpa.*=false");
-    const test::OwnHome home;
-    test::leaveOutIntroduction();
-    QApplication app(argc, argv);
+    const bench::OffscreenDesktop desktop(argc, argv);
     QApplication::setOrganizationName("fernwick");
     QApplication::setApplicationName("zoom-bench");
     bool good = true;

@@ -16,7 +16,7 @@ public:
     struct Item {
         /// One text for each column.
         std::vector<std::string> Cells;
-        /// The file with whose icon the row is drawn.
+        /// The file with whose icon the row is drawn; it may be missing. "" for a row without an icon.
         std::string IconOf;
         bool Selected = false;
     };

@@ -73,7 +73,7 @@ void DependenciesPage::DisplayDependencies(const VBProject& project) {
         const auto path = here.value([&] { return services_.dependencies.PlaceOf(project, entry); });
         const bool exists = here.value([&] { return files.FileExists(path); });
         rows.push_back({{entry.FileName, std::to_string(entry.FileSize), entry.FileType},
-                        exists ? files.PlaceOnDisk(path) : std::string()});
+                        exists ? files.PlaceOnDisk(path) : path});
     }
     here([&] { tvwDependencies.Show({{"Name"}, {"Size", true}, {"Type"}}, std::move(rows)); });
 }
@@ -97,7 +97,7 @@ void DependenciesPage::DisplayAutomaticDependencies() {
 
 ListView::Item DependenciesPage::automaticRow(const std::string& name, const std::string& path) const {
     const auto& files = services_.platform.files;
-    if (!files.FileExists(path)) return {{name, "", "No"}, ""};
+    if (!files.FileExists(path)) return {{name, "", "No"}, path};
     return {{name, std::to_string(files.GetSize(path)), "Yes"}, files.PlaceOnDisk(path)};
 }
 

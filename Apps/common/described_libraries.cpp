@@ -29,17 +29,24 @@ const language::Library* DescribedLibraries::find(const std::string& guid) {
 
 void DescribedLibraries::read() {
     isRead_ = true;
+    for (const auto& path : libraryDescriptions(installation_)) {
+        // An invalid description counts as none; doctor reports it.
+        (void)basic::attempt([&] {
+            const auto description = host::readTypeDescription(path);
+            libraries_[basic::foldCase(description.guid)] = host::libraryOf(description);
+        });
+    }
+}
+
+std::vector<std::string> libraryDescriptions(const std::string& installation) {
+    std::vector<std::string> paths;
     for (const auto* folder : {"/tavlets", "/libraries"}) {
         std::error_code unreadable;
-        for (const auto& entry : std::filesystem::directory_iterator(installation_ + folder, unreadable)) {
-            if (entry.path().extension() != ".toml") continue;
-            // An invalid description counts as none; doctor reports it.
-            (void)basic::attempt([&] {
-                const auto description = host::readTypeDescription(entry.path().string());
-                libraries_[basic::foldCase(description.guid)] = host::libraryOf(description);
-            });
-        }
+        for (const auto& entry : std::filesystem::directory_iterator(installation + folder, unreadable))
+            if (entry.path().extension() == ".toml") paths.push_back(entry.path().string());
     }
+    std::sort(paths.begin(), paths.end());
+    return paths;
 }
 
 bool isLanguageLibrary(const std::string& guid) {

@@ -4,6 +4,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace apps {
 
@@ -22,6 +23,9 @@ private:
     bool isRead_ = false;
     std::map<std::string, language::Library> libraries_; // by folded GUID
 };
+
+/// The files in which an installation describes libraries, sorted.
+[[nodiscard]] std::vector<std::string> libraryDescriptions(const std::string& installation);
 
 /// True for the libraries that every program has: of the language, of forms, and of their fonts and pictures.
 [[nodiscard]] bool isLanguageLibrary(const std::string& guid);

@@ -21,4 +21,7 @@ namespace language {
 /// on devices are answered there; of the others, `instead` explains what to use.
 [[nodiscard]] const Member* findDeclared(std::string_view library, std::string_view function);
 
+/// What to use instead of a declared function that is unknown.
+[[nodiscard]] std::string_view insteadOfDeclare();
+
 } // namespace language

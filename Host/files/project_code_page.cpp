@@ -4,7 +4,6 @@
 #include "Host/files/group_file.h"
 #include "Host/files/path_lookup.h"
 #include "Host/files/project_file.h"
-#include "Host/files/text_file.h"
 #include <charconv>
 #include <unistd.h>
 
@@ -27,7 +26,7 @@ std::optional<int> numberOf(std::string_view text) noexcept {
 /// Collects what a project file and the files that it names show.
 class EvidenceReader {
 public:
-    explicit EvidenceReader(const std::string& folder) : folder_(folder) {}
+    EvidenceReader(const std::string& folder, FileContents& contents) : folder_(folder), contents_(contents) {}
 
     void project(std::string_view bytes) {
         ProjectFile file(bytes, kBytes);
@@ -63,7 +62,7 @@ private:
 
     void source(const std::string& path) {
         if (path.empty()) return;
-        (void)basic::attempt([&] { evidence.addFile(readFile(path).bytes); });
+        (void)basic::attempt([&] { evidence.addFile(contents_.read(path).bytes); });
     }
 
     /// A page is constructed when the first name needs it.
@@ -75,6 +74,7 @@ private:
     /// Has a character for each byte, so that the bytes of names can be restored.
     const basic::CodePage kBytes = basic::CodePage::windows1252();
     const std::string& folder_;
+    FileContents& contents_;
     PathLookup lookup_;
     std::vector<basic::CodePage> pages_;
 };
@@ -82,11 +82,17 @@ private:
 } // namespace
 
 basic::DetectedCodePage codePageOfProject(std::string_view bytes, const std::string& folder,
-                                          const std::optional<basic::CodePage>& given) {
+                                          const std::optional<basic::CodePage>& given, FileContents& contents) {
     if (given) return {*given, basic::CodePageReason::Given, false};
-    EvidenceReader reader(folder);
+    EvidenceReader reader(folder, contents);
     GroupFile::looksLikeGroup(bytes) ? reader.group(bytes) : reader.project(bytes);
     return reader.evidence.detect();
+}
+
+basic::DetectedCodePage codePageOfProject(std::string_view bytes, const std::string& folder,
+                                          const std::optional<basic::CodePage>& given) {
+    FileContents contents;
+    return codePageOfProject(bytes, folder, given, contents);
 }
 
 basic::DetectedCodePage codePageOfSource(std::string_view bytes, const std::optional<basic::CodePage>& given) {

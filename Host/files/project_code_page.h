@@ -1,6 +1,7 @@
 #pragma once
 // The code page of a project on disk.
 #include "Basic/detection/code_page_detection.h"
+#include "Host/files/text_file.h"
 #include <optional>
 #include <string>
 #include <string_view>
@@ -11,7 +12,10 @@ namespace host {
 inline constexpr std::string_view kCodePageKey = "CodePage";
 
 /// Returns the code page of a project or group file with these bytes in `folder`, from this file and the components of a
-/// project. Files that cannot be read are ignored. `given` is returned as it is.
+/// project, which stay in `contents`. Files that cannot be read are ignored. `given` is returned as it is.
+basic::DetectedCodePage codePageOfProject(std::string_view bytes, const std::string& folder,
+                                          const std::optional<basic::CodePage>& given, FileContents& contents);
+/// As above, for those who do not need the contents.
 basic::DetectedCodePage codePageOfProject(std::string_view bytes, const std::string& folder,
                                           const std::optional<basic::CodePage>& given = {});
 

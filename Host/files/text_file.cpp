@@ -8,6 +8,7 @@
 #include <functional>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 
 namespace host {
 namespace {
@@ -136,6 +137,17 @@ FileContent readFile(const std::string& path) {
     content.bytes = readAll(file.number(), std::size_t(state.st_size), path);
     content.stamp = stampOf(state, content.bytes);
     return content;
+}
+
+const FileContent& FileContents::read(const std::string& path) {
+    auto found = files_.find(path);
+    if (found == files_.end()) found = files_.emplace(path, readFile(path)).first;
+    return found->second;
+}
+
+FileContent FileContents::take(const std::string& path) {
+    (void)read(path);
+    return std::move(files_.extract(path).mapped());
 }
 
 std::string readFilePart(const std::string& path, std::uint64_t at, std::size_t most) {

@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 #include <sys/stat.h>
+#include <unordered_map>
 #include <vector>
 
 namespace host {
@@ -55,6 +56,18 @@ inline constexpr std::uint64_t kLargestFile = std::uint64_t{1} << 30;
 /// Reads a whole file once. Errors: 53 it does not exist, 76 its folder does not exist, 75 it is a folder, not readable
 /// or not a regular file, 7 larger than kLargestFile, 57 the device failed.
 FileContent readFile(const std::string& path);
+
+/// Files that several readers need: each is read when it is first needed, and kept.
+class FileContents {
+public:
+    /// Errors as readFile; what failed is tried again.
+    const FileContent& read(const std::string& path);
+    /// Returns the content and forgets it. Errors as read.
+    FileContent take(const std::string& path);
+
+private:
+    std::unordered_map<std::string, FileContent> files_;
+};
 
 /// Reads at most `most` bytes of a file of any size from a position on; none beyond its end. Errors as readFile, except
 /// 7.

@@ -293,11 +293,23 @@ class Schemas(unittest.TestCase):
         first = self.home.fernwick("--format=json", "build", "--nonsense")
         self.assertEqual(json.loads(first.stdout)["verb"], "build")
 
+    def test_migration(self):
+        plain = self.fits("migration", "check", str(self.project), "--migrate", "PalmOS-DragonBall")
+        self.assertEqual([p["places"] for p in plain["projects"]], [[]])
+        form = self.project.parent / "frmHello.frm"
+        form.write_bytes(form.read_bytes().replace(b"TavletsCtl.QLButton", b"VB.CommandButton"))
+        found = self.fits("migration", "check", str(self.project), "--migrate", "PalmOS-DragonBall")
+        self.assertEqual({p["instead"] for p in found["projects"][0]["places"]}, {"Use QLButton"})
+        self.broken()
+        broken = self.fits("migration", "check", str(self.project), "--migrate", "PalmOS-DragonBall", status=1)
+        self.assertTrue(broken["projects"][0]["errors"])
+        self.fits("migration", "check", "missing.vbp", "--migrate", "PalmOS-DragonBall", status=2)
+
     def test_every_schema_is_tested(self):
         # package-1 is the manifest, see test_packages
         self.assertEqual(sorted(p.stem for p in (ROOT / "installation/schemas").glob("*.json")),
                          ["build-plan-1", "clean-1", "convert-1", "dependencies-1", "devices-1", "doctor-1",
-                          "explain-1", "info-1", "init-1", "new-1", "package-1", "package-listing-1", "recent-1", "registry-1", "report-1",
+                          "explain-1", "info-1", "init-1", "migration-1", "new-1", "package-1", "package-listing-1", "recent-1", "registry-1", "report-1",
                           "settings-1", "settings-changes-1", "steps-1",
                           "targets-1", "trust-1", "upgrade-1", "version-1"])
 

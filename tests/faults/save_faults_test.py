@@ -11,6 +11,7 @@ import tempfile
 import unittest
 
 PROGRAM = None  # path of fernwick, the first argument
+REVISION = None  # path of increment_revision, the second one
 ROOT = pathlib.Path(__file__).resolve().parent.parent.parent
 SAMPLE = ROOT / "samples" / "HelloWorld"
 
@@ -29,7 +30,8 @@ REFUSALS = [("openat", "EACCES"), ("write", "ENOSPC"), ("fsync", "EIO"), ("mkdir
 class Project:
     """A copy of the sample in a separate folder, with private stores."""
 
-    def __init__(self):
+    def __init__(self, program=None):
+        self.program = program or PROGRAM
         self.base = pathlib.Path(tempfile.mkdtemp(prefix="fernwick-faults-"))
         self.folder = self.base / "project"
         shutil.copytree(SAMPLE, self.folder)
@@ -49,7 +51,7 @@ class Project:
             (self.folder / name).write_bytes(content)
 
     def run(self, arguments, inject=None):
-        command = [PROGRAM, *arguments]
+        command = [self.program, *arguments]
         if inject:
             command = ["strace", "-f", "-qq", "-o", str(self.base / "trace"), "-e", f"inject={inject}", *command]
         return subprocess.run(command, cwd=self.folder, env=self.environment, stdin=subprocess.DEVNULL,
@@ -58,7 +60,7 @@ class Project:
     def calls_of(self, arguments, calls):
         """How often each call set is made by a good run."""
         trace = self.base / "count"
-        subprocess.run(["strace", "-f", "-qq", "-o", str(trace), "-e", f"trace={calls}", PROGRAM, *arguments],
+        subprocess.run(["strace", "-f", "-qq", "-o", str(trace), "-e", f"trace={calls}", self.program, *arguments],
                        cwd=self.folder, env=self.environment, stdin=subprocess.DEVNULL, capture_output=True, timeout=60)
         names = calls.replace(",", "|")
         return len(re.findall(rf"\b(?:{names})\(", trace.read_text(errors="replace")))
@@ -141,7 +143,25 @@ class Images(unittest.TestCase):
         self.assertEqual(set(self.project.files()), set(self.project.old))
 
 
-class Conversions(unittest.TestCase):
+class Rewriting(unittest.TestCase):
+    """A program that rewrites a project and fails in one of its calls."""
+
+    def each_failure(self, arguments):
+        failures = [(calls, "signal=KILL") for calls in [*CALLS, "mkdir"]]
+        failures += [(calls, f"error={error}") for calls, error in REFUSALS]
+        for calls, failure in failures:
+            self.project.restore()
+            for when in range(1, self.project.calls_of(arguments, calls) + 1):
+                self.project.restore()
+                result = self.project.run(arguments, f"{calls}:{failure}:when={when}")
+                yield f"{failure} at {calls} {when}: {result.returncode} {result.stderr}", result
+
+    def check_nothing_is_left(self, folder, what):
+        left = [p.name for p in folder.glob("*") if p.name.endswith((".converting", ".temp"))]
+        self.assertEqual(left, [], what)
+
+
+class Conversions(Rewriting):
     """The original keeps its bytes or gets all new ones, whatever fails; a later run puts everything right."""
 
     def setUp(self):
@@ -160,20 +180,6 @@ class Conversions(unittest.TestCase):
 
     def new_files(self):
         return {p.name: p.read_bytes() for p in (self.project.base / "new").glob("*")}
-
-    def each_failure(self, arguments):
-        failures = [(calls, "signal=KILL") for calls in [*CALLS, "mkdir"]]
-        failures += [(calls, f"error={error}") for calls, error in REFUSALS]
-        for calls, failure in failures:
-            self.project.restore()
-            for when in range(1, self.project.calls_of(arguments, calls) + 1):
-                self.project.restore()
-                result = self.project.run(arguments, f"{calls}:{failure}:when={when}")
-                yield f"{failure} at {calls} {when}: {result.returncode} {result.stderr}", result
-
-    def check_nothing_is_left(self, folder, what):
-        left = [p.name for p in folder.glob("*") if p.name.endswith((".converting", ".temp"))]
-        self.assertEqual(left, [], what)
 
     def test_in_place(self):
         old = self.project.old["HelloWorld.vbp"]
@@ -230,6 +236,38 @@ class Conversions(unittest.TestCase):
             self.check_nothing_is_left(self.project.base / "new", what)
 
 
+class Revisions(Rewriting):
+    def setUp(self):
+        self.project = Project(REVISION)
+        sample = self.project.old["HelloWorld.vbp"].replace(b"AutoIncrementVer=0", b"AutoIncrementVer=1")
+        self.old, self.new = (sample.replace(b"RevisionVer=0", b"RevisionVer=%d" % revision) for revision in (9, 10))
+        self.project.old["HelloWorld.vbp"] = self.old
+        self.project.restore()
+
+    def tearDown(self):
+        self.project.remove()
+
+    def test_the_project_has_its_old_or_its_new_lines(self):
+        failures = 0
+        for what, result in self.each_failure(["HelloWorld.vbp"]):
+            failures += 1
+            now = self.project.vbp.read_bytes()
+            self.assertIn(now, (self.old, self.new), what)
+            self.assertNotIn("terminate", result.stderr, what)
+            self.project.vbp.write_bytes(self.old)  # what a failed run leaves beside it stays
+            again = self.project.run(["HelloWorld.vbp"])
+            self.assertEqual((again.returncode, self.project.vbp.read_bytes()), (0, self.new), what + again.stderr)
+            self.check_nothing_is_left(self.project.folder, what)
+        self.assertGreater(failures, 20)
+
+    def test_a_full_disk_keeps_the_old_lines(self):
+        for calls in ["write", "fsync", "rename,renameat,renameat2"]:
+            self.project.restore()
+            self.project.run(["HelloWorld.vbp"], f"{calls}:error=ENOSPC")
+            self.assertEqual(self.project.vbp.read_bytes(), self.old, calls)
+            self.assertEqual(set(self.project.files()), set(self.project.old), calls)
+
+
 class ReadOnly(unittest.TestCase):
     def test_read_only_project_stays_as_it_is_for_root_too(self):
         project = Project()
@@ -245,4 +283,5 @@ class ReadOnly(unittest.TestCase):
 
 if __name__ == "__main__":
     PROGRAM = os.path.abspath(sys.argv.pop(1))
+    REVISION = os.path.abspath(sys.argv.pop(1))
     unittest.main(verbosity=1)

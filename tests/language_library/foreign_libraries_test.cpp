@@ -67,6 +67,22 @@ TEST(ForeignLibraries, NameASubstituteAndAReason) {
     }
 }
 
+TEST(ForeignLibraries, WhatDevicesLackHasASubstituteOrAReason) {
+    const auto check = [](const auto& each, const std::string& place) {
+        EXPECT_TRUE(each.onDevices || !each.instead.empty()) << place << each.name;
+    };
+    const auto checkLibrary = [&](const language::Library& library) {
+        check(library, "");
+        for (const auto& group : library.groups) {
+            check(group, library.name + ".");
+            for (const auto& member : group.members) check(member, library.name + "." + group.name + ".");
+        }
+    };
+    for (const auto* library : language::builtInLibraries()) checkLibrary(*library);
+    for (const auto& library : language::foreignLibraries()) checkLibrary(library);
+    EXPECT_FALSE(language::insteadOfDeclare().empty());
+}
+
 TEST(ForeignLibraries, DescribeDictionariesAndFiles) {
     const auto* dictionary = findClass("scripting.dictionary");
     ASSERT_TRUE(dictionary);

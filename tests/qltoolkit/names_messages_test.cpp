@@ -1,4 +1,5 @@
 // Each message about names and types: a program that gives exactly it, and one close to it that gives none.
+#include "Components/Language/foreign.h"
 #include "tests/qltoolkit/checked_program.h"
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -52,6 +53,7 @@ const MessageCase kCases[] = {
      "Sub A()\nDim n As Integer\nB (n)\nC n\nEnd Sub\nSub B(x As Long)\nEnd Sub\nSub C(ByVal x As Long)\nEnd Sub"},
     {2102, "Const a = b\nDim b", "1:11", "Const a = b\nConst b = 1"},
     {2103, "Const a = 30000 + 30000", "1:17", "Const a = 30000& + 30000"},
+    {2103, "Enum E\n  A = &H7FFFFFFF\n  B\nEnd Enum", "3:3", "Enum E\n  A = &H7FFFFFFE\n  B\nEnd Enum"},
     {2104, "Const a = 1 / 0", "1:13", "Sub A()\nDim x\nx = 1 / 0\nEnd Sub"},
     {2105, "Sub A()\nDim n As Long\nSet n = Nothing\nEnd Sub", "3:5",
      "Sub A()\nDim n As Object\nSet n = Nothing\nEnd Sub"},
@@ -134,8 +136,17 @@ const MessageCase kCases[] = {
     {2802, "--- Form1.frm\nPrivate Sub Timer1_Click()\nEnd Sub", "1:13",
      "--- Form1.frm\nPrivate Sub Timer1_Timer()\nEnd Sub"},
     {2803, "Sub A()\nShell \"a\"\nEnd Sub", "2:1", "Sub A()\nBeep\nEnd Sub"},
+    {2803, "Sub A(x As Printer)\nEnd Sub", "1:12", "Sub A(x As Clipboard)\nEnd Sub"},
+    {2803, "Sub A()\nDim x\nSet x = CreateObject(\"Scripting.Encoder\")\nEnd Sub", "3:9",
+     "Sub A()\nDim x\nSet x = CreateObject(\"Scripting.FileSystemObject\")\nEnd Sub"},
     {2803, "Sub A()\nDim x\nSet x = CreateObject(\"Other.Thing\")\nEnd Sub", "3:9",
      "Sub A()\nDim x\nSet x = CreateObject(\"Scripting.Dictionary\")\nEnd Sub"},
+    {2119, "--- Class1.cls\nPublic x\n--- M1.bas\nSub A(c As Class1)\nDim v\nFor Each v In c\nNext\nEnd Sub",
+     "M1.bas:3:15",
+     "--- Class1.cls\nFunction NewEnum() As IUnknown\nAttribute NewEnum.VB_UserMemId = -4\nEnd Function\n"
+     "--- M1.bas\nSub A(c As Class1)\nDim v\nFor Each v In c\nNext\nEnd Sub"},
+    {2119, "Sub A()\nDim v\nFor Each v In Clipboard\nNext\nEnd Sub", "3:15",
+     "Sub A()\nDim v, c As New Collection\nFor Each v In c\nNext\nEnd Sub"},
     // Warnings that have to be asked for
     {2900, "Sub A()\nx = 1\nEnd Sub", "2:1", "Sub A()\nDim x\nx = 1\nEnd Sub"},
     {2901, "Sub A()\nDim x\nEnd Sub", "2:5", "Sub A()\nDim x\nx = 1\nEnd Sub"},
@@ -185,6 +196,39 @@ TEST(NameMessages, AControlOfAnUnknownClassIsReportedAtItsLine) {
     EXPECT_EQ(program.firstPlace(), "Form1.frm:5:4 2800");
 }
 
+TEST(NameMessages, AControlThatDevicesLackIsReportedAtItsLine) {
+    test::CheckedProgram program;
+    program.options.warnsOfDevices = true;
+    program.controls = "   Begin VB.Data Data1 \n   End\n";
+    program.add("Form1.frm", "Sub A()\nEnd Sub\n");
+    EXPECT_EQ(program.firstPlace(), "Form1.frm:3:4 2803");
+}
+
+TEST(NameMessages, AClassOfALibraryThatDevicesLackIsReportedOnceAPlace) {
+    test::CheckedProgram program;
+    program.options.warnsOfDevices = true;
+    program.options.libraries = {language::foreignLibrary("ADODB")};
+    program.options.isIncomplete = true;
+    program.add("Module1.bas", "Private all As ADODB.Recordset\nSub A()\nDim one As ADODB.Connection\none.Open\n"
+                               "Set all = New ADODB.Recordset\nEnd Sub\n");
+    EXPECT_THAT(program.messages(), ElementsAre("1:16 2803", "3:12 2803", "5:15 2803"));
+    EXPECT_EQ(program.results()[0].diagnostics[0].text, "ADODB.Recordset is not available on devices.");
+    EXPECT_THAT(program.results()[0].diagnostics[0].instead, testing::StartsWith("Use QLDatabase"));
+}
+
+TEST(NameMessages, WhatHasNoValueIsNamed) {
+    const auto textOf = [](const std::string& name) {
+        test::CheckedProgram program;
+        program.add("Module1.bas", "Enum Colour\n  Red\nEnd Enum\nSub A()\nDim x\nx = " + name + "\nEnd Sub\n");
+        const auto results = program.results();
+        return results[0].diagnostics.empty() ? "" : results[0].diagnostics[0].text;
+    };
+    EXPECT_EQ(textOf("Module1"), "Expected variable or procedure, not module.");
+    EXPECT_EQ(textOf("Project1"), "Expected variable or procedure, not project.");
+    EXPECT_EQ(textOf("VBA"), "Expected variable or procedure, not library.");
+    EXPECT_EQ(textOf("Module1.Colour"), "Expected variable or procedure, not Enum type.");
+}
+
 TEST(NameMessages, APropertyThatItsClassLacksIsReportedAtItsLine) {
     const auto library = language::readLibrary("Library Tavlets\nClass QLLabel\nProperty Caption As String\n");
     test::CheckedProgram program;
@@ -194,6 +238,14 @@ TEST(NameMessages, APropertyThatItsClassLacksIsReportedAtItsLine) {
                               "\"a\"\n      Colour          =   5\n"
                               "   End\nEnd\nAttribute VB_Name = \"Form1\"\n");
     EXPECT_EQ(program.firstPlace(), "Form1.frm:7:7 2801");
+}
+
+TEST(NameMessages, APropertyThatAControlOfTheLanguageLacksIsReportedAtItsLine) {
+    test::CheckedProgram program;
+    program.controls =
+        "   Begin VB.Label Label1 \n      IMEMode = 3\n      Caption = \"a\"\n      Captoin = \"a\"\n   End\n";
+    program.add("Form1.frm", "");
+    EXPECT_EQ(program.firstPlace(), "Form1.frm:6:7 2801");
 }
 
 TEST(NameMessages, NamesOfMissingLibrariesAreMentionedOnce) {

@@ -72,6 +72,35 @@ TEST(Names, PrivateMembersAreNotReachedThroughAnObject) {
         ElementsAre("5:4 2002"));
 }
 
+TEST(Names, AVariableOfAClassIsCalledLikeAProperty) {
+    EXPECT_THAT(CheckedProgram{}
+                    .add("Picture1.cls", "Public Width As Long\nSub A()\nWidth = Width() + 1\nEnd Sub\n")
+                    .add("M1.bas", "Type Box\nWidth As Long\nEnd Type\nSub B(p As Picture1, b As Box)\n"
+                                   "b.Width = p.Width() - 1\nb.Width = b.Width() + p.Width(1)\nEnd Sub\n")
+                    .messages(),
+                ElementsAre("Picture1.cls:3:9 2106", "M1.bas:6:13 2106", "M1.bas:6:25 2106"));
+}
+
+TEST(Names, AFunctionWithATypeCharacterIsNotThePropertyOfItsName) {
+    EXPECT_THAT(CheckedProgram{}
+                    .add("Class1.cls", "Property Get Left() As Single\nEnd Property\nProperty Get Mid() As String\n"
+                                       "End Property\nSub A(s As String)\ns = Left$(s, 1) & UCase$(s)\n"
+                                       "s = Left(s, 1)\ns = Mid$ & \"\"\ns = Mid$(s, 1)\nEnd Sub\n")
+                    .messages(),
+                ElementsAre("7:5 2201", "9:5 2201"));
+}
+
+TEST(Names, APropertyLetTakesNothing) {
+    EXPECT_THAT(CheckedProgram{}
+                    .add("Class1.cls", "Property Let Mark(ByVal c As Class1)\nEnd Property\n"
+                                       "Property Get Mark() As Class1\nEnd Property\n"
+                                       "Property Get Kept() As Class1\nEnd Property\nPublic Field As Class1\n")
+                    .add("Form1.frm", "Sub A(c As Class1)\nMe.MouseIcon = Nothing\nc.Mark = Nothing\nc.Mark = c\n"
+                                      "c.Mark = 5\nc.Field = Nothing\nEnd Sub\n")
+                    .messages(),
+                ElementsAre("Form1.frm:5:3 2110", "Form1.frm:6:11 2111"));
+}
+
 TEST(Names, ReDimDeclaresWhatTheProjectDoesNotHave) {
     EXPECT_THAT(
         messagesOf("Option Explicit\nSub A()\nReDim list(3) As Long\nlist(1) = 2\nReDim Asc(2)\nAsc(1) = 3\nEnd Sub"),
@@ -284,4 +313,32 @@ TEST(Names, AClassMayReturnItsEnumeratorByItsInterface) {
                                        "Function Own() As stdole.IEnumVARIANT\nEnd Function\n")
                     .messages(),
                 IsEmpty());
+}
+
+TEST(Names, ForEachGoesThroughWhatLateObjectsAndFormsList) {
+    CheckedProgram program;
+    program.add("Form1.frm", "Sub A(o As Object)\nDim v\nFor Each v In Me\nNext\nFor Each v In o\nNext\n"
+                             "For Each v In Controls\nNext\nFor Each v In Form1\nNext\nEnd Sub\n");
+    EXPECT_THAT(program.messages(), IsEmpty());
+}
+
+TEST(Names, AVariantIsPassedByReferenceToADeclare) {
+    EXPECT_THAT(messagesOf("Private Declare Sub Swap Lib \"a\" (n As Long)\nSub A()\nDim v\nSwap v\nEnd Sub"),
+                IsEmpty());
+    EXPECT_THAT(messagesOf("Sub Swap(n As Long)\nEnd Sub\nSub A()\nDim v\nSwap v\nEnd Sub"), ElementsAre("5:6 2101"));
+}
+
+TEST(Names, AVariantThatAFunctionReturnsMayBeAnArray) {
+    const std::string sum = "Sub Sum(n() As Long)\nEnd Sub\nFunction Both()\nEnd Function\n";
+    EXPECT_THAT(messagesOf(sum + "Sub A()\nSum Both()\nEnd Sub"), IsEmpty());
+    EXPECT_THAT(messagesOf(sum + "Sub A()\nDim v\nSum v\nEnd Sub"), ElementsAre("7:5 2100"));
+}
+
+TEST(Names, TheModulesOwnNameIsNotAmbiguous) {
+    EXPECT_THAT(CheckedProgram{}
+                    .add("M1.bas", "Public Rate\n")
+                    .add("M2.bas", "Public Rate\nSub A()\nRate = 1\nEnd Sub\n")
+                    .add("M3.bas", "Sub B()\nRate = 1\nEnd Sub\n")
+                    .messages(),
+                ElementsAre("M3.bas:2:1 2004"));
 }

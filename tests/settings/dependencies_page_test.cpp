@@ -45,7 +45,7 @@ TEST_F(DependenciesPage, ListsTheUsersFiles) {
         EXPECT_THAT(rows(), ElementsAre("data.pdb|5|PDB|", "Ari_08B.CMF|4|CMF|", "gone.txt|0|TXT|"));
         EXPECT_EQ(list.Items()[0].IconOf, "/p/data.pdb");
         EXPECT_EQ(list.Items()[1].IconOf, "/q/Fonts/Ari_08B.CMF");
-        EXPECT_EQ(list.Items()[2].IconOf, "");
+        EXPECT_EQ(list.Items()[2].IconOf, "/p/gone.txt");
         ASSERT_EQ(list.Columns().size(), 3u);
         EXPECT_EQ(list.Columns()[0].Text, "Name");
         EXPECT_EQ(list.Columns()[1].Text, "Size");
@@ -135,6 +135,17 @@ TEST_F(DependenciesPage, DroppedFilesGoTheWayOfAdd) {
         EXPECT_THAT(rows(), ElementsAre("a.txt|1|TXT|", "b.txt|1|TXT|"));
     });
     EXPECT_TRUE(files.FileExists("/p/b.txt"));
+}
+
+TEST_F(DependenciesPage, ADroppedFolderIsRefused) {
+    file("/p/a.txt");
+    file("/p/pictures/b.bmp");
+    open([&] {
+        list.FilesDropped.raise({"/p/pictures", "/p/a.txt"});
+        EXPECT_TRUE(did("box 48 Fernwick: /p/pictures cannot be a dependency, since it is a folder. Add the files in "
+                        "it instead."));
+        EXPECT_THAT(rows(), ElementsAre("a.txt|1|TXT|"));
+    });
 }
 
 TEST_F(DependenciesPage, ANameWithACommaIsRefused) {

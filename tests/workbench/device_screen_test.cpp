@@ -35,6 +35,20 @@ TEST_F(DeviceScreens, AreDrawnAroundTheClientArea) {
     EXPECT_TRUE(canvas().rect().contains(corner)) << "the designer has room for it";
 }
 
+TEST_F(DeviceScreens, LeaveTheTitleAsItIs) {
+    openSized("240", "320");
+    const auto picture = canvas().grab().toImage();
+    const auto head = QRectF(workbench::kCanvasMargin, workbench::kCanvasMargin,
+                             workbench::wholeSize(view().picture()).width(), view().picture().border().top())
+                          .toRect();
+    int covered = 0;
+    for (int y = head.top(); y <= head.bottom(); ++y)
+        for (int x = head.left(); x <= head.right(); ++x) covered += picture.pixelColor(x, y) == kEdge;
+    EXPECT_GT(head.height(), 10);
+    EXPECT_EQ(covered, 0);
+    EXPECT_EQ(shownAt({200, -(workbench::kDeviceEdge - 1.5)}), kEdge) << "beside the form";
+}
+
 TEST_F(DeviceScreens, StayWhereTheyAreWhenTheFormGrows) {
     openSized("160", "160");
     EXPECT_TRUE(hasEdge(160, 160));

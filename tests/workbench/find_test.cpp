@@ -5,10 +5,12 @@
 #include "tests/workbench/open_desktop.h"
 #include <QCheckBox>
 #include <QComboBox>
+#include <QKeySequence>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSettings>
+#include <set>
 
 using testing::ElementsAre;
 
@@ -321,6 +323,26 @@ TEST_F(Finding, ACharacterThatTheFileCannotHoldIsReportedOnceAndNothingReplaced)
     EXPECT_EQ(said(), "Nothing was replaced in modA: see the message.");
     EXPECT_EQ(held("modA"), before);
     EXPECT_EQ(code("modA").text().toStdString(), before);
+}
+
+TEST_F(Finding, SharesNoLetterWithTheMenus) {
+    bench->connect();
+    open(threeModules());
+    code("modA");
+    replaceWith("y");
+    menuItem("&Edit", "Find in All Pro&jects...")->trigger();
+    replaceWith("y");
+    std::multiset<QString> letters;
+    const auto add = [&](const QString& text) { letters.insert(QKeySequence::mnemonic(text).toString()); };
+    for (const auto* menu : window().menuBar()->actions())
+        if (menu->text() != "&Fernwick") add(menu->text()); // shares its letter with File
+    for (const auto* button : window().findChildren<QAbstractButton*>())
+        if (button->isVisible()) add(button->text());
+    for (const auto* label : window().findChildren<QLabel*>())
+        if (label->isVisible() && label->buddy()) add(label->text());
+    letters.erase(QString());
+    EXPECT_GT(letters.size(), 15u);
+    for (const auto& letter : letters) EXPECT_EQ(letters.count(letter), 1u) << letter.toStdString();
 }
 
 /// Pictures for review.

@@ -4,6 +4,8 @@
 #include <QFontDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QScrollBar>
+#include <algorithm>
 #include <cstring>
 
 using testing::ElementsAre;
@@ -404,4 +406,20 @@ TEST_F(Properties, AreEmptyWithoutAnOpenTab) {
     window().propertiesDock().close();
     menuItem("&View", "Properties &Window")->trigger();
     EXPECT_TRUE(window().propertiesDock().isVisible());
+}
+
+TEST_F(Properties, ANarrowTableShowsNamesAndValues) {
+    openForm(kInspected);
+    select("cmdOK");
+    auto& table = properties().table();
+    for (const int width : {130, 600}) {
+        window().resizeDocks({window().findChild<QDockWidget*>("propertiesDock")}, {width}, Qt::Horizontal);
+        settle();
+        EXPECT_EQ(table.horizontalScrollBar()->maximum(), 0) << table.width();
+        EXPECT_GE(table.columnWidth(0), std::min(100, table.viewport()->width() / 2 - 1)) << table.width();
+        EXPECT_GE(table.columnWidth(1), table.viewport()->width() / 2 - 1) << table.width();
+    }
+    window().resizeDocks({window().findChild<QDockWidget*>("propertiesDock")}, {130}, Qt::Horizontal);
+    settle();
+    EXPECT_LT(table.width(), 220);
 }

@@ -2,6 +2,7 @@
 #include "Apps/workbench/search/result_list.h"
 #include "tests/workbench/open_desktop.h"
 #include <QComboBox>
+#include <QDockWidget>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -126,6 +127,18 @@ TEST_F(Searching, NeedsNoCodeWindow) {
     settle();
     search("Sub C");
     EXPECT_EQ(results().size(), 1u);
+}
+
+TEST_F(Searching, LeavesTheToolboxItsWidth) {
+    openTwo();
+    auto* const toolbox = window().findChild<QDockWidget*>("toolboxDock");
+    toolbox->show();
+    window().resize(784, 600);
+    settle();
+    const int before = toolbox->width();
+    search("x");
+    settle();
+    EXPECT_EQ(toolbox->width(), before);
 }
 
 /// Pictures for review.

@@ -3,12 +3,15 @@
 #include "tests/workbench/keyboard_access.h"
 #include <QCheckBox>
 #include <QFile>
+#include <QIcon>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMimeData>
 #include <QTabWidget>
 #include <QTreeWidget>
+#include <filesystem>
+#include <fstream>
 #include <gmock/gmock.h>
 
 using testing::ElementsAre;
@@ -235,6 +238,46 @@ TEST_F(SettingsWindow, FilesAreDroppedOntoTheList) {
         EXPECT_EQ(list.topLevelItemCount(), before);
         test::click(shown, "btnCancel");
     });
+}
+
+/// The icons are those of the desktop's theme.
+TEST_F(SettingsWindow, DependenciesHaveTheIconsOfTheirFiles) {
+    const auto projectFolder = QFileInfo(QString::fromStdString(project()->FileName())).absolutePath().toStdString();
+    for (const auto* name : {"/data.txt", "/photo.png", "/more.txt"}) std::ofstream(projectFolder + name) << "x";
+    folder.write("icons/kinds/index.theme", "[Icon Theme]\nName=kinds\nDirectories=files\n\n[files]\nSize=16\n");
+    std::filesystem::create_directory(folder / "icons/kinds/files");
+    for (const auto& [name, colour] : {std::pair("text-plain", Qt::green), std::pair("image-png", Qt::blue)}) {
+        QPixmap icon(16, 16);
+        icon.fill(colour);
+        ASSERT_TRUE(icon.save(QString::fromStdString(folder / "icons/kinds/files/") + name + ".png"));
+    }
+    const auto usual = std::pair(QIcon::themeSearchPaths(), QIcon::themeName());
+    QIcon::setThemeSearchPaths({QString::fromStdString(folder / "icons")});
+    QIcon::setThemeName("kinds");
+    auto& stored = *project();
+    stored.WriteProperty("Quinloft Project Dependencies", "NumDependencies", "4");
+    for (const auto& [number, name] : {std::pair('0', "data.txt,TXT"), std::pair('1', "photo.png,PNG"),
+                                       std::pair('2', "more.txt,TXT"), std::pair('3', "gone.txt,TXT")})
+        stored.WriteProperty("Quinloft Project Dependencies", std::string("Dependencies") + number, name);
+    edit([&](QDialog& shown) {
+        clickNode(shown, "Dependencies");
+        auto& list = widget<QTreeWidget>(shown, "tvwDependencies");
+        std::vector<QImage> icons;
+        for (int row = 0; row < list.topLevelItemCount(); ++row)
+            icons.push_back(list.topLevelItem(row)->icon(0).pixmap(16, 16).toImage());
+        if (icons.size() == 4) {
+            EXPECT_EQ(icons[0].pixelColor(8, 8), QColor(Qt::green));
+            EXPECT_EQ(icons[1].pixelColor(8, 8), QColor(Qt::blue));
+            EXPECT_EQ(icons[2], icons[0]);
+            EXPECT_FALSE(icons[3].isNull());
+            EXPECT_NE(icons[3], icons[0]);
+        } else {
+            ADD_FAILURE() << icons.size() << " rows";
+        }
+        test::click(shown, "btnCancel");
+    });
+    QIcon::setThemeSearchPaths(usual.first);
+    QIcon::setThemeName(usual.second);
 }
 
 TEST_F(SettingsWindow, AnIconIsPreviewed) {

@@ -109,6 +109,15 @@ struct ProjectRoad : NewProject {
         press({"Down"});
         eventually(std::string("the page ") + frame, [&] { return widget(frame).isVisible(); });
     }
+    void chooseFileByKeys(const char* name) {
+        eventually("the dialog of files", [] {
+            const auto* const field = dialog() ? dialog()->findChild<QLineEdit*>("fileNameEdit") : nullptr;
+            return field && field->hasFocus();
+        });
+        press({"ctrl+a"});
+        type(QString::fromStdString(folder / name));
+        press({"Return"});
+    }
     // ---- a new project ----
     std::vector<std::string> controls() {
         std::vector<std::string> names;
@@ -153,10 +162,24 @@ struct ProjectRoad : NewProject {
         tabTo(field);
         type(text);
     }
+    /// What was changed on each page, in the project and in the user's store.
     void expectAllStored() {
-        EXPECT_TRUE(settings()->SpacesInNameEnabled());
-        EXPECT_FALSE(settings()->ScanReferences());
-        EXPECT_FALSE(bench->addIn().prefs.gMyDevices.empty());
+        ask([this] {
+            EXPECT_TRUE(settings()->SpacesInNameEnabled());
+            EXPECT_FALSE(settings()->ScanReferences());
+            bench->addIn().prefs.gMyDevices.clear();
+            bench->addIn().prefs.loadMyDevices();
+            EXPECT_EQ(bench->addIn().prefs.gMyDevices.size(), 1u);
+            const auto project = bench->host().ActiveVBProject();
+            EXPECT_EQ(project->ReadProperty("Quinloft Palm OS", "CreatorID"), "Hell");
+            EXPECT_EQ(project->ReadProperty("Quinloft Linux Handheld", "Folder"), "apps");
+        });
+    }
+    /// The same in the project's file.
+    void expectAllSaved(const std::string& ofHandheld) {
+        EXPECT_THAT(read("HelloWorld/HelloWorld.vbp"),
+                    AllOf(HasSubstr("CreatorID=Hell"), HasSubstr("Folder=apps"), HasSubstr("data.txt,TXT"),
+                          HasSubstr(ofHandheld), HasSubstr("TargetDevice=PalmOS-DragonBall")));
     }
     void closeProject() {
         ask([this] { bench->host().VBProjects()->Remove(bench->host().ActiveVBProject()); });
@@ -209,13 +232,7 @@ TEST_F(ProjectRoad, ByTheMouseAlone) {
     eventually("it is applied", [this] { return bench->host().ActiveVBProject()->IsDirty(); });
     clickOn("btnOK");
     waitForNoDialog();
-    ask([this] {
-        expectAllStored();
-        const auto project = bench->host().ActiveVBProject();
-        EXPECT_EQ(project->ReadProperty("Quinloft Palm OS", "CreatorID"), "Hell");
-        EXPECT_EQ(project->ReadProperty("Quinloft PocketPC", "Orientation"), "Portrait");
-        EXPECT_EQ(project->ReadProperty("Quinloft Linux Handheld", "Folder"), "apps");
-    });
+    expectAllStored();
 
     // a copy takes the project's place
     std::filesystem::create_directory(folder / "HelloWorld/copy");
@@ -236,7 +253,7 @@ TEST_F(ProjectRoad, ByTheMouseAlone) {
     });
     EXPECT_THAT(read("HelloWorld/copy/HelloWorld.vbp"),
                 AllOf(HasSubstr("TargetDevice=PocketPC-"), HasSubstr("data.txt")));
-    EXPECT_THAT(read("HelloWorld/HelloWorld.vbp"), HasSubstr("TargetDevice=PalmOS-DragonBall"));
+    expectAllSaved("Orientation=Portrait");
     closeProject();
     begin([this] { bench->open(folder / "HelloWorld/HelloWorld.vbp"); });
     eventually("the project is open",
@@ -266,6 +283,14 @@ TEST_F(ProjectRoad, ByTheKeyboardAlone) {
     tabTo("chkSpacesInName");
     press({"space"});
     pageByKeys("fraDependencies");
+    folder.write("HelloWorld/data.txt", "1");
+    tabTo("btnAdd");
+    press({"space"});
+    chooseFileByKeys("HelloWorld/data.txt");
+    waitForDialog("frmQuinloftSettings");
+    tabTo("tvwDependencies");
+    press({"Home"});
+    EXPECT_EQ(ask([] { return widget<QTreeWidget>("tvwDependencies").topLevelItem(0)->text(0); }), "data.txt");
     enterByKeys("PalmOSPage", "txtCreatorID", "Hell");
     enterByKeys("PocketPCPage", "txtVersion", "2.1");
     enterByKeys("LinuxHandheldPage", "txtFolder", "apps");
@@ -288,14 +313,7 @@ TEST_F(ProjectRoad, ByTheKeyboardAlone) {
     eventually("it is applied", [this] { return bench->host().ActiveVBProject()->IsDirty(); });
     press({"Return"});
     waitForNoDialog();
-    ask([this] {
-        expectAllStored();
-        EXPECT_EQ(settings()->PreCompileStepCount(), 1);
-        const auto project = bench->host().ActiveVBProject();
-        EXPECT_EQ(project->ReadProperty("Quinloft Palm OS", "CreatorID"), "Hell");
-        EXPECT_EQ(project->ReadProperty("Quinloft PocketPC", "Version"), "2.1");
-        EXPECT_EQ(project->ReadProperty("Quinloft Linux Handheld", "Folder"), "apps");
-    });
+    expectAllStored();
 
     // a copy takes the project's place
     chooseByKeys("&Project", "d");
@@ -313,7 +331,8 @@ TEST_F(ProjectRoad, ByTheKeyboardAlone) {
                bench->host().ActiveVBProject()->FileName() == folder / "copy/HelloWorld.vbp";
     });
     EXPECT_THAT(read("copy/HelloWorld.vbp"), HasSubstr("TargetDevice=PocketPC-"));
-    EXPECT_THAT(read("HelloWorld/HelloWorld.vbp"), HasSubstr("TargetDevice=PalmOS-DragonBall"));
+    expectAllSaved("Version=2.1");
+    EXPECT_THAT(read("HelloWorld/HelloWorld.vbp"), HasSubstr("PreCompileStep0=true"));
     closeProject();
     begin([this] { bench->open(folder / "HelloWorld/HelloWorld.vbp"); });
     eventually("the project is open",

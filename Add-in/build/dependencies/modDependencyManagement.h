@@ -71,6 +71,7 @@ private:
     struct FontScan;
 
     tResource readDependency(const Project& project, std::int32_t index);
+    bool isFile(Procedure& here, const std::string& path);
     bool canBeListed(Procedure& here, const std::string& folder, const std::string& path);
     bool mayReplace(Procedure& here, const std::string& path, const std::string& replacement);
     std::string inFontsFolder(const std::string& name) const;

@@ -46,12 +46,21 @@ tResourceList modDependencyManagement::newDependencies(const Project& project, c
     const auto folder = here.value([&] { return projectFolder(project); });
     tResourceList created;
     for (const auto& path : paths) {
-        if (!here.test([&] { return services_.platform.files.FileExists(path); })) continue;
-        if (!canBeListed(here, folder, path)) continue;
+        if (!isFile(here, path) || !canBeListed(here, folder, path)) continue;
         const auto entry = CreateNewDependency(project, path, true);
         if (!ResourceinDependencyList(entry.FileName, created)) AddDependency(entry, created);
     }
     return created;
+}
+
+/// Folders can be dropped onto a list of files.
+bool modDependencyManagement::isFile(Procedure& here, const std::string& path) {
+    using namespace fmt::literals;
+    const auto& files = services_.platform.files;
+    if (here.test([&] { return files.FileExists(path); })) return true;
+    if (here.value([&] { return files.FolderExists(path); }))
+        box(here, fmt::format(build_texts::kFolderAsDependency, "folder"_a = path), vbExclamation);
+    return false;
 }
 
 /// A stored entry ends at its first comma.

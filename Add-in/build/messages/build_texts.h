@@ -97,6 +97,8 @@ inline constexpr char kReplaceDependency[] = "The project folder already contain
                                              "Replace {file} ?";
 inline constexpr char kCommaInDependency[] =
     "{file} cannot be a dependency, since its name contains a comma. Rename the file and add it again.";
+inline constexpr char kFolderAsDependency[] =
+    "{folder} cannot be a dependency, since it is a folder. Add the files in it instead.";
 
 // During a validation
 inline constexpr char kValidating[] = "Validating {project}...";

@@ -13,6 +13,11 @@ void defineCheck(CLI::App& app, Raw& raw) {
     check.add_option("--name", raw.options.sourceName, "File name of standard input, whose extension says what it is")
         ->type_name("FILE");
     check.add_flag("--warn", raw.options.warnsOptionally, "Also warn of what is allowed but seldom meant");
+    check
+        .add_option("--migrate", raw.options.migrationDevice,
+                    "Report what hinders the projects on this design target, and what to use instead")
+        ->type_name("DEVICE")
+        ->excludes("--name", "--warn");
     addCodePage(check, raw);
 }
 

@@ -27,7 +27,7 @@ _fernwick_settings() { _fernwick_help Settings: help settings; }
 
 _fernwick_formats() { _fernwick_words "$(fernwick help $verb 2>/dev/null | sed -n 's/^  --format .*: //p' | sed 's/,\| or / /g')"; }
 
-_fernwick_options='--format|--color|--device|--to|--template|--depfile|--depfile-target|--output|--name|--answer|--code-page|--source-root' # with a value
+_fernwick_options='--format|--color|--device|--migrate|--to|--template|--depfile|--depfile-target|--output|--name|--answer|--code-page|--source-root' # with a value
 
 _fernwick() {
   local cur=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} verb= action= word
@@ -50,7 +50,7 @@ _fernwick_complete() {
     --format) _fernwick_formats; return ;;
     --color) _fernwick_words "auto always never"; return ;;
     --source-root) COMPREPLY+=($(compgen -d -S / -- "$cur")); compopt -o nospace 2>/dev/null; return ;;
-    --device | --to) _fernwick_targets; return ;;
+    --device | --migrate | --to) _fernwick_targets; return ;;
     --template) _fernwick_files "vbp"; return ;;
     --answer) _fernwick_words "$(fernwick help answers 2>/dev/null | sed -n 's/^  \([a-z-]*\) .*/\1=/p')"
       compopt -o nospace 2>/dev/null; return ;;

@@ -25,7 +25,7 @@ function __fernwick_complete
     set -l previous
     for word in (commandline -opc)[2..]
         if not string match -q -- '-*' $word
-            and not contains -- "$previous" --format --color --device --to --template --depfile --depfile-target --output --name --answer --code-page --source-root
+            and not contains -- "$previous" --format --color --device --migrate --to --template --depfile --depfile-target --output --name --answer --code-page --source-root
             if test -z "$verb"
                 set verb $word
             else if test -z "$action"
@@ -45,7 +45,7 @@ function __fernwick_complete
         case --source-root
             __fish_complete_directories (commandline -ct)
             return
-        case --device --to
+        case --device --migrate --to
             __fernwick_targets
             return
         case --template

@@ -40,7 +40,7 @@ _fernwick_numbers() {
 _fernwick() {
   local verb action word previous=
   for word in ${words[2,CURRENT-1]}; do
-    if [[ $word != -* && $previous != --(format|color|device|to|template|depfile|depfile-target|output|name|answer|code-page|source-root) ]]; then
+    if [[ $word != -* && $previous != --(format|color|device|migrate|to|template|depfile|depfile-target|output|name|answer|code-page|source-root) ]]; then
       if [[ -z $verb ]]; then verb=$word; elif [[ -z $action ]]; then action=$word; fi
     fi
     previous=$word
@@ -50,7 +50,7 @@ _fernwick() {
     --format) _fernwick_formats $verb; return ;;
     --color) compadd auto always never; return ;;
     --source-root) _files -/; return ;;
-    --device | --to) _fernwick_targets; return ;;
+    --device | --migrate | --to) _fernwick_targets; return ;;
     --template) _files -g '(#i)*.vbp'; return ;;
     --depfile) _files -g '(#i)*.d'; return ;;
     --output) _files -/; return ;;

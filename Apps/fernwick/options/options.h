@@ -60,6 +60,7 @@ struct Options {
     bool verify = false;
     /// `check` also warns of what is allowed but seldom meant.
     bool warnsOptionally = false;
+    std::string migrationDevice; ///< of the report about moving to a device; "" for none
     /// Code page of source files that are not UTF-8; detected if none is given.
     std::optional<basic::CodePage> codePage;
 };

@@ -1,6 +1,6 @@
 #include "Apps/fernwick/output/message_pages.h"
 #include "Apps/fernwick/output/catalogue.h"
-#include "Apps/fernwick/output/wrapped_text.h"
+#include "Apps/common/wrapped_text.h"
 #include <fmt/format.h>
 
 namespace cli {
@@ -34,7 +34,7 @@ std::string codeBlock(std::string_view lines) {
 }
 
 std::string sectionOf(const MessageInfo& message) {
-    const auto paragraph = [](const std::string& text) { return "\n" + wrapped(text, kPageWidth) + "\n"; };
+    const auto paragraph = [](const std::string& text) { return "\n" + apps::wrapped(text, kPageWidth) + "\n"; };
     std::string section = fmt::format("\n## {}\n", message.number);
     section += paragraph(fmt::format("**{}:** {}", message.isError ? "Error" : "Warning", escaped(message.text)));
     section += paragraph(escaped(message.meaning));

@@ -1,5 +1,5 @@
-#include "Apps/common/described_libraries.h"
-#include "Apps/common/machine.h"
+#include "Apps/fernwick/checks/project_check.h"
+#include "Apps/fernwick/checks/source_list.h"
 #include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/output/code_page_note.h"
 #include "Apps/fernwick/output/plural.h"
@@ -8,22 +8,17 @@
 #include "Apps/fernwick/run/interruption.h"
 #include "Apps/fernwick/run/project_argument.h"
 #include "Apps/fernwick/stored/source_check.h"
-#include "Apps/fernwick/verbs/source_list.h"
 #include "Apps/fernwick/verbs/verbs.h"
 #include "Basic/runtime_error.h"
-#include "Components/Language/foreign.h"
 #include "Host/files/path_lookup.h"
 #include "Host/files/project_code_page.h"
 #include "Host/files/text_file.h"
-#include "Host/system/environment.h"
 #include <chrono>
 #include <fmt/format.h>
 #include <iostream>
 #include <iterator>
-#include <memory>
 #include <optional>
 #include <set>
-#include <thread>
 #include <tuple>
 
 namespace cli {
@@ -113,63 +108,21 @@ void checkOne(const SourceToCheck& source, const Options& options, Console& cons
     checkBytes(source.path, std::move(content.bytes), source, console, report);
 }
 
-/// A source of a project, or why it could not be read.
-struct ProjectSource {
-    std::unique_ptr<qltoolkit::SourceText> text;
-    qltoolkit::CheckResult result;
-};
-
-ProjectSource readSource(const std::string& path, const basic::CodePage& page) {
-    host::FileContent content;
-    const auto err = basic::attempt([&] { content = host::readFile(path); });
-    if (err.Number != 0 || content.bytes.size() > qltoolkit::kMaxSourceBytes) return {nullptr, unreadSource(path, err)};
-    return {std::make_unique<qltoolkit::SourceText>(path, std::move(content.bytes), page), {}};
-}
-
-/// `isWhole`: all sources could be read.
-qltoolkit::ProgramOptions programOf(const ProjectToCheck& project, apps::DescribedLibraries& libraries, bool isWhole,
-                                    const Options& options) {
-    qltoolkit::ProgramOptions program;
-    program.projectName = project.name;
-    program.threads = std::max(1U, std::thread::hardware_concurrency());
-    program.warnsOfDevices = project.isForDevices;
-    program.warnsOptionally = options.warnsOptionally;
-    program.isIncomplete = !isWhole;
-    for (const auto& guid : project.libraries) {
-        if (apps::isLanguageLibrary(guid)) continue;
-        const auto* library = libraries.find(guid);
-        program.isIncomplete |= !library;
-        // Of well-known libraries the classes of controls are known at least.
-        if (!library) library = language::foreignLibrary(guid);
-        if (library) program.libraries.push_back(library);
-    }
-    return program;
-}
-
-void checkProject(const ProjectToCheck& project, apps::DescribedLibraries& libraries, const Options& options,
-                  CheckReport& report) {
-    std::vector<ProjectSource> sources;
-    std::vector<const qltoolkit::SourceText*> texts;
-    for (const auto& path : project.sources) {
-        checkInterrupt();
-        sources.push_back(readSource(path, project.page.page));
-        if (sources.back().text) texts.push_back(sources.back().text.get());
-    }
-    const auto program = programOf(project, libraries, texts.size() == sources.size(), options);
-    auto results = qltoolkit::checkProject(texts, project.constants, program);
-    auto next = results.begin();
-    for (std::size_t i = 0; i < sources.size(); ++i) {
-        auto& result = sources[i].text ? *next++ : sources[i].result;
-        report.add(project.sources[i], std::move(result), false, sources[i].text.get());
+void checkProjects(const std::vector<apps::CheckedProject>& projects, const Options& options,
+                   host::FileContents& contents, CheckReport& report) {
+    ProjectCheck check{options, contents};
+    for (const auto& project : projects) {
+        auto checked = check.check(project);
+        for (std::size_t i = 0; i < checked.size(); ++i)
+            report.add(project.sources[i], std::move(checked[i].result), false, checked[i].text.get());
     }
 }
 
-CheckTotals checkAll(const SourceList& list, const Options& options, Console& console, Report& report) {
+CheckTotals checkAll(const SourceList& list, const Options& options, host::FileContents& contents, Console& console,
+                     Report& report) {
     CheckReport results{options, console, report};
-    const host::Environment environment;
-    apps::DescribedLibraries libraries{list.projects.empty() ? "" : apps::findInstallation(environment)};
     for (const auto& project : list.projects) reportCodePage(console, project.path, project.page);
-    for (const auto& project : list.projects) checkProject(project, libraries, options, results);
+    if (!list.projects.empty()) checkProjects(list.projects, options, contents, results);
     for (const auto& source : list.sources) {
         checkInterrupt();
         checkOne(source, options, console, results);
@@ -180,10 +133,12 @@ CheckTotals checkAll(const SourceList& list, const Options& options, Console& co
 } // namespace
 
 int runCheck(const Options& options, Console& console) {
+    if (!options.migrationDevice.empty()) return runMigration(options, console);
     const auto begin = std::chrono::steady_clock::now();
     auto operands = options.operands;
     if (operands.empty()) operands.push_back(projectArgument(""));
-    const auto list = listSources(operands, options.codePage);
+    host::FileContents contents;
+    const auto list = listSources(operands, options.codePage, contents);
 
     Report report;
     report.verb = "check";
@@ -191,7 +146,7 @@ int runCheck(const Options& options, Console& console) {
         report.failure += (report.failure.empty() ? "" : "\n") + problem;
         console.err("fernwick: " + problem, Tone::Error);
     }
-    const auto totals = checkAll(list, options, console, report);
+    const auto totals = checkAll(list, options, contents, console, report);
     report.exitStatus = std::max(totals.status, list.status);
     const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - begin;
     report.statusText = fmt::format("{}, {}, {}", plural(totals.files, "file"), plural(totals.lines, "line"),

@@ -1,10 +1,10 @@
+#include "Apps/common/wrapped_text.h"
 #include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/options/refusal.h"
 #include "Apps/fernwick/output/catalogue.h"
 #include "Apps/fernwick/output/json_output.h"
 #include "Apps/fernwick/output/message_pages.h"
 #include "Apps/fernwick/output/rule_names.h"
-#include "Apps/fernwick/output/wrapped_text.h"
 #include "Apps/fernwick/verbs/verbs.h"
 #include <fmt/format.h>
 
@@ -57,9 +57,9 @@ std::string textOfMessage(const MessageInfo& message) {
     const auto part = [&](const char* heading, const std::string& lines) {
         if (!lines.empty()) text += fmt::format("\n{}\n{}", heading, indented(lines));
     };
-    part("Meaning", wrapped(message.meaning, kTextWidth));
+    part("Meaning", apps::wrapped(message.meaning, kTextWidth));
     part("Example", std::string(message.example));
-    part("Remedy", wrapped(message.remedy, kTextWidth));
+    part("Remedy", apps::wrapped(message.remedy, kTextWidth));
     return text;
 }
 

@@ -20,6 +20,7 @@ int runExplain(const Options& options, Console& console);
 int runInfo(const Options& options, Console& console);
 int runInit(const Options& options, Console& console);
 int runInstallRuntime(const Options& options, Console& console);
+int runMigration(const Options& options, Console& console); ///< of check
 int runMessages(const Options& options, Console& console);
 int runNew(const Options& options, Console& console);
 int runPackage(const Options& options, Console& console);

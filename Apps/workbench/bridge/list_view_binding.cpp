@@ -7,7 +7,9 @@
 #include <QKeyEvent>
 #include <QLocale>
 #include <QMimeData>
+#include <QMimeDatabase>
 #include <QSignalBlocker>
+#include <QStyle>
 
 namespace workbench {
 
@@ -22,6 +24,16 @@ QString sizeText(const QString& bytes) {
     return isNumber ? QLocale().formattedDataSize(size, 1, QLocale::DataSizeTraditionalFormat) : bytes;
 }
 
+/// That of the file's kind in the desktop's theme, else the platform's.
+QIcon iconOf(const QString& path) {
+    const QFileInfo file(path);
+    if (!file.exists()) return QApplication::style()->standardIcon(QStyle::SP_MessageBoxWarning);
+    const auto kind = QMimeDatabase().mimeTypeForFile(file, QMimeDatabase::MatchExtension);
+    for (const auto& name : {kind.iconName(), kind.genericIconName()})
+        if (QIcon::hasThemeIcon(name)) return QIcon::fromTheme(name);
+    return QFileIconProvider().icon(file);
+}
+
 QTreeWidgetItem* drawnRow(const ListView& control, const ListView::Item& row) {
     auto* const item = new QTreeWidgetItem;
     for (int column = 0; column < int(row.Cells.size()); ++column) {
@@ -30,7 +42,7 @@ QTreeWidgetItem* drawnRow(const ListView& control, const ListView::Item& row) {
         item->setText(column, isSize ? sizeText(cell) : cell);
         if (isSize) item->setTextAlignment(column, Qt::AlignRight | Qt::AlignVCenter);
     }
-    if (!row.IconOf.empty()) item->setIcon(0, QFileIconProvider().icon(QFileInfo(qt(row.IconOf))));
+    if (!row.IconOf.empty()) item->setIcon(0, iconOf(qt(row.IconOf)));
     return item;
 }
 

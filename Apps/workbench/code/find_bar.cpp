@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QStyle>
 #include <QToolButton>
+#include <initializer_list>
 
 namespace workbench {
 
@@ -56,8 +57,8 @@ FindBar::FindBar(CodeWindows& code, Run run)
 }
 
 QWidget* FindBar::findRow() {
-    auto* const next = findButton("findNext", "Find &Next", "F3");
-    auto* const previous = findButton("findPrevious", "Previo&us", "Shift+F3");
+    auto* const next = findButton("findNext", "Find Ne&xt", "F3");
+    auto* const previous = findButton("findPrevious", "Previou&s", "Shift+F3");
     auto* const all = findButton("findAll", "Find All", "List all matches (Ctrl+Enter)");
     auto* const close = new QToolButton;
     close->setObjectName("closeFind");
@@ -70,15 +71,9 @@ QWidget* FindBar::findRow() {
     connect(all, &QPushButton::clicked, this, [this] { run_([this] { findAll(); }); });
     connect(close, &QToolButton::clicked, this, &QWidget::hide);
 
-    auto* const widget = new QWidget;
-    auto* const row = findRowOf(widget);
-    row->addWidget(findLabel("Fin&d:", what_));
-    row->addWidget(what_, 1);
-    row->addWidget(next);
-    row->addWidget(previous);
-    row->addWidget(all);
-    row->addWidget(close);
-    return widget;
+    auto* const row = new FindRow("Fi&nd:", what_, FindRow::Width::OfWindow);
+    for (QWidget* button : std::initializer_list<QWidget*>{next, previous, all, close}) row->add(button);
+    return row;
 }
 
 QWidget* FindBar::replaceRow() {
@@ -87,13 +82,9 @@ QWidget* FindBar::replaceRow() {
         findButton("replaceAll", "Repla&ce All", "Replace all matches in the procedure, module or project");
     connect(one, &QPushButton::clicked, this, [this] { run_([this] { replace(); }); });
     connect(all, &QPushButton::clicked, this, [this] { run_([this] { replaceAll(); }); });
-    auto* const widget = new QWidget;
-    auto* const row = findRowOf(widget);
-    row->addWidget(findLabel("Rep&lace:", with_));
-    row->addWidget(with_, 1);
-    row->addWidget(one);
-    row->addWidget(all);
-    return widget;
+    auto* const row = new FindRow("Rep&lace:", with_, FindRow::Width::OfWindow);
+    for (auto* button : {one, all}) row->add(button);
+    return row;
 }
 
 // ---- showing and hiding ---------------------------------------------------------------------------------------------

@@ -1,8 +1,6 @@
 #include "Apps/workbench/code/find_options.h"
-#include <QBoxLayout>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QLabel>
 #include <QSettings>
 #include <algorithm>
 
@@ -12,7 +10,6 @@ namespace {
 
 constexpr auto kCaseKey = "find/matchCase", kWordKey = "find/wholeWord", kPatternKey = "find/pattern",
                kScopeKey = "find/scope";
-constexpr int kLabelWidth = 62, kFindGap = 6;
 
 struct ScopeName {
     FindScope scope;
@@ -34,36 +31,21 @@ QCheckBox* findOption(const char* name, const char* caption, const char* tip) {
 
 } // namespace
 
-QHBoxLayout* findRowOf(QWidget* widget) {
-    auto* const row = new QHBoxLayout(widget);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(kFindGap);
-    return row;
-}
+FindOptionsRow::FindOptionsRow() : FindOptionsRow(new QComboBox) {}
 
-QLabel* findLabel(const char* caption, QWidget* buddy) {
-    auto* const label = new QLabel(caption);
-    label->setFixedWidth(kLabelWidth);
-    label->setBuddy(buddy);
-    return label;
-}
-
-FindOptionsRow::FindOptionsRow()
-    : scope_(new QComboBox),
-      matchCase_(findOption("matchCase", "Match ca&se", "Distinguish capital and small letters")),
-      wholeWord_(findOption("wholeWord", "Whole w&ord", "Do not match parts of longer words")),
+FindOptionsRow::FindOptionsRow(QComboBox* scope)
+    : FindRow("&In:", scope, Width::OfField),
+      scope_(scope),
+      matchCase_(findOption("matchCase", "&Match case", "Distinguish capital and small letters")),
+      wholeWord_(findOption("wholeWord", "Whole word onl&y", "Do not match parts of longer words")),
       asPattern_(
-          findOption("pattern", "Pa&ttern",
+          findOption("pattern", "&Use pattern",
                      "? any character, # any digit, * any characters, [a-z] one of these, [!a-z] none of these")) {
     scope_->setObjectName("findScope");
     scope_->setAccessibleName("Look in");
     scope_->setToolTip("Where to look");
     for (const auto& one : kScopes) scope_->addItem(one.caption);
-    auto* const row = findRowOf(this);
-    row->addWidget(findLabel("&In:", scope_));
-    row->addWidget(scope_);
-    for (auto* option : {matchCase_, wholeWord_, asPattern_}) row->addWidget(option);
-    row->addStretch(1);
+    for (auto* option : {matchCase_, wholeWord_, asPattern_}) add(option);
     restore();
 }
 

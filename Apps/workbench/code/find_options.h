@@ -1,17 +1,15 @@
 #pragma once
 // The row of the find bar with the scope and the options of the search.
 #include "Apps/workbench/code/code_finder.h"
-#include <QWidget>
+#include "Apps/workbench/code/find_row.h"
 
 class QCheckBox;
 class QComboBox;
-class QHBoxLayout;
-class QLabel;
 
 namespace workbench {
 
 /// Starts with the options of the user's settings.
-class FindOptionsRow final : public QWidget {
+class FindOptionsRow final : public FindRow {
 public:
     FindOptionsRow();
 
@@ -24,14 +22,11 @@ public:
     void store() const;
 
 private:
+    explicit FindOptionsRow(QComboBox* scope);
     void restore();
 
     QComboBox* scope_;
     QCheckBox *matchCase_, *wholeWord_, *asPattern_;
 };
-
-/// The layout and the label of each row of the find bar.
-QHBoxLayout* findRowOf(QWidget* widget);
-QLabel* findLabel(const char* caption, QWidget* buddy);
 
 } // namespace workbench

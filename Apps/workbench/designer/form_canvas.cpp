@@ -3,6 +3,7 @@
 #include "Apps/workbench/designer/form_painter.h"
 #include <QPaintEvent>
 #include <QPainter>
+#include <QPainterPath>
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -144,10 +145,25 @@ void FormCanvas::draw(QPainter& painter) const {
     painter.translate(kCanvasMargin, kCanvasMargin);
     paintForm(painter, view_.picture(), view_.callbacks().grid());
     painter.restore();
-    if (const auto screen = deviceScreen(); !screen.isEmpty()) paintDeviceScreen(painter, screen);
+    drawDeviceScreen(painter);
     if (!tabOrder_) return drawSelection(painter);
     painter.translate(innerCorner());
     tabOrder_->paint(painter, view_.picture());
+}
+
+/// Title and menus are above the screen and stay as they are.
+void FormCanvas::drawDeviceScreen(QPainter& painter) const {
+    const auto screen = deviceScreen();
+    if (screen.isEmpty()) return;
+    const auto& form = view_.picture();
+    QPainterPath outside;
+    outside.addRect(rect());
+    QPainterPath head;
+    head.addRect(QRectF(kCanvasMargin, kCanvasMargin, wholeSize(form).width(), form.border().top()));
+    painter.save();
+    painter.setClipPath(outside - head, Qt::IntersectClip);
+    paintDeviceScreen(painter, screen);
+    painter.restore();
 }
 
 void FormCanvas::drawSelection(QPainter& painter) const {

@@ -106,6 +106,7 @@ private:
     void nudge(const QPointF& step, bool size);
     void nudgeForm(const QPointF& step, bool size);
 
+    void drawDeviceScreen(QPainter& painter) const;
     void drawSelection(QPainter& painter) const;
     void drawOutlines(QPainter& painter) const;
     void drawFrame(QPainter& painter) const;

@@ -1,4 +1,5 @@
 #include "Apps/workbench/properties/picture_formats.h"
+#include "Apps/workbench/properties/metafile_painter.h"
 #include <string_view>
 
 namespace workbench {
@@ -58,8 +59,9 @@ QString refusalOfPicture(const QString& property, const QString& fileName, const
 
 QPixmap drawnPicture(const std::string& image) {
     QPixmap picture;
-    if (image.size() <= kLargestPicture)
-        picture.loadFromData(reinterpret_cast<const uchar*>(image.data()), uint(image.size()));
+    if (image.size() > kLargestPicture) return picture;
+    if (formatOf(image) == PictureFormat::Metafile) return QPixmap::fromImage(paintedMetafile(image));
+    picture.loadFromData(reinterpret_cast<const uchar*>(image.data()), uint(image.size()));
     return picture;
 }
 

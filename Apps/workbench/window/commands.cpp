@@ -6,6 +6,7 @@
 #include "Apps/workbench/editing/code_lines.h"
 #include "Apps/workbench/editing/fold_levels.h"
 #include "Apps/workbench/editing/scintilla.h"
+#include "Apps/workbench/migration/migration_command.h"
 #include "Apps/workbench/project/component_commands.h"
 #include "Apps/workbench/project/project_properties.h"
 #include "Apps/workbench/project/project_saving.h"
@@ -56,6 +57,11 @@ void editLibrariesOf(const CommandTargets& on) {
     // errors go to the caller, which shows them
     const Run here = [](const auto& act) { act(); };
     if (const auto active = on.host.ActiveVBProject()) editLibraries(active, kind, &on.window, here);
+}
+
+void showMigration(const CommandTargets& on) {
+    if (const auto active = on.host.ActiveVBProject())
+        openMigrationReport(active, on.window.code(), on.window.design(), &on.window);
 }
 
 void switchTheme(const CommandTargets& on) {
@@ -193,6 +199,7 @@ const Command kProjectCommands[] = {
     {kGroup},
     {kStartUpProjectId, "Set as Start &Up", kNoKey, kAlways, [](auto& on) { setAsStartUp(inHand(on)); }},
     {kConvertProjectId, "Convert to Another &Device...", kNoKey, kAlways, [](auto& on) { on.program.convert(); }},
+    {kMigrationId, "Mi&gration Report...", kNoKey, kAlways, showMigration},
     {kProjectPropertiesId, "&Properties...", kNoKey, kAlways, editProjectProperties},
 };
 

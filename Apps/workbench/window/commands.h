@@ -93,6 +93,7 @@ enum CommandId : int {
     kResultsId,
     kSplitId,
     kOtherPaneId,
+    kMigrationId,
     kFormatMenuId = 40301,
     kDeleteId,
     kDuplicateId,

@@ -68,4 +68,6 @@ const Member* findDeclared(std::string_view library, std::string_view function) 
     return hasVariant ? findNamed(members, function.substr(0, function.size() - 1)) : nullptr;
 }
 
+std::string_view insteadOfDeclare() { return "Write it in Basic, or remove it: devices have no libraries of Windows"; }
+
 } // namespace language

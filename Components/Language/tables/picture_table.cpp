@@ -42,6 +42,11 @@ Class IFontDisp
 Class IFont
   Include Font
   Property hFont As OLE_HANDLE readonly absent "Devices have no handles; use the font's name and size"
+  Sub Clone(ppfont As IFont) absent "Devices have one kind of font; create a StdFont and set its properties"
+  Sub IsEqual(pfontOther As IFont) absent "Devices have one kind of font; compare the properties"
+  Sub SetRatio(cyLogical As Long, cyHimetric As Long) absent "Devices have no device contexts; set Size"
+  Sub AddRefHfont(hFont As OLE_HANDLE) absent "Devices have no handles; remove it"
+  Sub ReleaseHfont(hFont As OLE_HANDLE) absent "Devices have no handles; remove it"
 Class Font
   Include Font
 
@@ -59,6 +64,13 @@ Class IPictureDisp
   Include Picture
 Class IPicture
   Include Picture
+  Property CurDC As Long readonly absent "Devices have no device contexts; use PaintPicture"
+  Property KeepOriginalFormat As Boolean absent "Devices keep one format; remove it"
+  Property Attributes As Long readonly absent "Devices have no metafiles; remove it"
+  Sub SelectPicture(hDCIn As Long, phDCOut As Long, phbmpOut As OLE_HANDLE) absent "Devices have no device contexts; use PaintPicture"
+  Sub PictureChanged() absent "Devices draw pictures again; call Refresh"
+  Sub SaveAsFile(pstm As Object, fSaveMemCopy As Boolean, pcbSize As Long) absent "Devices have no streams; use SavePicture"
+  Sub SetHdc(hDC As OLE_HANDLE) absent "Devices have no device contexts; use PaintPicture"
 Class Picture
   Include Picture
 )";

@@ -4,7 +4,7 @@
 namespace qltoolkit {
 
 void declareBounds(Entity& entity, const Variable& variable, Constants& constants, SourceModule& module,
-                   const LocalConstants& local) {
+                   LocalConstants local) {
     const auto& bounds = variable.bounds;
     if (bounds.size() > kMostDimensions) module.diagnostics.report(Message::TooManyDimensions, variable.pos);
     std::int64_t elements = 1;

@@ -7,7 +7,7 @@ namespace qltoolkit {
 /// Makes an entity an array with these bounds. Reports bounds that are not constants or have no values, and too many
 /// dimensions.
 void declareBounds(Entity& entity, const Variable& variable, Constants& constants, SourceModule& module,
-                   const LocalConstants& local = {});
+                   LocalConstants local = nullptr);
 
 inline constexpr std::uint32_t kMostDimensions = 60;
 /// Larger arrays are counted as this.

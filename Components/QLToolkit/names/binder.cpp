@@ -96,8 +96,4 @@ void Binder::warn(Message message, Pos pos) {
     if (program_.warnsOptionally) reportName(message, pos);
 }
 
-LocalConstants Binder::localConstants() {
-    return [this](Symbol name) { return names_.find(name); };
-}
-
 } // namespace qltoolkit

@@ -39,6 +39,12 @@ inline bool isControlArray(const Operand& operand) {
     return operand.type.isArray && operand.entity && operand.entity->kind == EntityKind::Control;
 }
 
+/// What a Qualifier is, for messages.
+[[nodiscard]] std::string_view kindOf(const Operand& qualifier);
+
+/// Default members that lead to one another are followed no further.
+inline constexpr int kMostDefaults = 64;
+
 class Binder {
 public:
     Binder(Program& program, SourceModule& module, ProcedureNames& names)
@@ -111,7 +117,8 @@ private:
     Operand literal(const Expr& expr);
     Operand name(const NameExpr& expr);
     Operand local(const NameExpr& expr, Entity& entity);
-    [[nodiscard]] const Entity* functionBehind(const Entity& entity, Symbol name) const;
+    [[nodiscard]] const Entity* functionBehind(const Entity& entity, const NameExpr& expr) const;
+    [[nodiscard]] const Entity* libraryFunction(Symbol name) const;
     Operand undefined(const NameExpr& expr);
     Operand implicit(const NameExpr& expr, Type type);
     Operand unary(const UnaryExpr& expr);
@@ -161,11 +168,13 @@ private:
     bool isIndexable(const Type& type) const;
     bool fitsTo(const Operand& value, const Type& wanted);
     void readValue(const Operand& operand);
+    void refuseQualifier(const Operand& operand);
+    [[nodiscard]] bool isEnumerable(const Type& type) const;
     void report(Message message, Pos pos) { module_.diagnostics.report(message, pos); }
     void reportName(Message message, Pos pos);
     void warn(Message message, Pos pos);
-    void warnNotOnDevices(Pos pos);
-    LocalConstants localConstants();
+    void warnNotOnDevices(const Entity& entity, Pos pos);
+    [[nodiscard]] std::string pendingLiteral() const;
 
     Program& program_;
     SourceModule& module_;

@@ -17,7 +17,7 @@ bool Binder::mayAssign(const Operand& target) {
     case OperandKind::Property:
     case OperandKind::Late: return true;
     case OperandKind::Constant: reportName(Message::AssignToConstant, target.pos); return false;
-    case OperandKind::Qualifier: report(Message::ExpectedNotModule, target.pos); return false;
+    case OperandKind::Qualifier: refuseQualifier(target); return false;
     case OperandKind::Value: break;
     }
     if (target.type.value == ValueType::None || target.type.value == ValueType::Unknown) return false;
@@ -31,8 +31,12 @@ void Binder::assign(const Operand& target, const Operand& value, Pos pos) {
     if (target.type.value == ValueType::Unknown || value.type.value == ValueType::Unknown) return;
     if (target.type.isArray) return assignArray(target, value, pos);
     if (target.type.value == ValueType::Object) {
+        const bool isNothing = value.type.value == ValueType::Nothing;
+        const bool isLet = target.kind == OperandKind::Property && target.entity && target.entity->let;
+        if (isLet && (isNothing || value.type.value == ValueType::Object))
+            return; // a Property Let that takes an object
         // Without Set the value goes to the default property of the object.
-        if (value.type.value == ValueType::Nothing) report(Message::InvalidUseOfObject, pos);
+        if (isNothing) return report(Message::InvalidUseOfObject, pos);
         if (target.type.id == 0) return;
         const Scope& scope = program_.scope(target.type.id);
         if (!scope.findDefault() && !scope.open) report(Message::InvalidUseOfProperty, target.pos);

@@ -2,6 +2,7 @@
 #include "Basic/case_folding.h"
 #include "Components/Language/foreign.h"
 #include "Components/QLToolkit/names/binder.h"
+#include "Components/QLToolkit/names/lacks.h"
 #include "Components/QLToolkit/names/lookup.h"
 #include "Components/QLToolkit/types/coercions.h"
 #include <utility>
@@ -9,8 +10,6 @@
 namespace qltoolkit {
 
 namespace {
-
-constexpr int kMostDefaults = 64;
 
 bool isDrawing(const Span<Argument>& given) {
     return !given.empty() && given[0].value && given[0].value->kind == ExprKind::Coordinates;
@@ -32,7 +31,7 @@ bool Binder::isIndexable(const Type& type) const {
 }
 
 Operand Binder::call(const Entity& entity, const Expr& expr) {
-    if (!entity.onDevices) warnNotOnDevices(expr.pos);
+    if (!entity.onDevices) warnNotOnDevices(entity, expr.pos);
     const bool isWholeCall = spine_.size() <= bottom_ + (pendingIndex() ? 1 : 0);
     const Operand result = called(*entity.get, expr, entity, OperandKind::Value);
     if (entity.type.value != ValueType::None || (isWholeCall && use_ == Use::Statement)) return result;
@@ -51,7 +50,7 @@ Operand Binder::called(const Callable& callable, const Expr& expr, const Entity&
 }
 
 Operand Binder::property(const Entity& entity, const Expr& expr) {
-    if (!entity.onDevices) warnNotOnDevices(expr.pos);
+    if (!entity.onDevices) warnNotOnDevices(entity, expr.pos);
     const IndexExpr* given = pendingIndex();
     const bool isTarget = spine_.size() <= bottom_ + (given ? 1 : 0) && (use_ == Use::Let || use_ == Use::Set);
     // x.Items(1) = 5 assigns to an element of what Items returns if Items itself has no parameters.
@@ -73,12 +72,14 @@ Operand Binder::property(const Entity& entity, const Expr& expr) {
 
 Operand Binder::index(const Operand& base, const IndexExpr& expr) {
     if (base.kind == OperandKind::Qualifier) {
-        report(Message::ExpectedNotModule, base.pos);
+        refuseQualifier(base);
         lateArguments(expr.arguments);
         return {OperandKind::Late, {ValueType::Unknown}, base.pos};
     }
     if (base.type.isArray) return element(base, expr);
     if (base.type.value == ValueType::Object && base.type.id != 0) return defaultMember(base, expr);
+    // A class's variable is a property to those who have an object: x.Width() calls it.
+    if (expr.arguments.empty() && base.kind == OperandKind::Property) return base;
     lateArguments(expr.arguments);
     if (isIndexable(base.type))
         return {OperandKind::Late,
@@ -235,17 +236,25 @@ bool Binder::fitsTo(const Operand& value, const Type& wanted) {
     return coercionOf(value.type.value, wanted.value) != Coercion::Never;
 }
 
-/// CreateObject of a class that devices have is no reason to warn.
-void Binder::warnNotOnDevices(Pos pos) {
-    if (!program_.warnsOfDevices) return;
+/// The text in the call that follows, if that is its only argument.
+std::string Binder::pendingLiteral() const {
     const IndexExpr* given = pendingIndex();
-    if (given && given->arguments.size() == 1 && given->arguments[0].value &&
-        given->arguments[0].value->kind == ExprKind::String) {
-        const auto name = stringValue(module_.tree.source, as<StringExpr>(*given->arguments[0].value));
-        const auto* found = language::findClass(name);
-        if (found && found->creatable && found->onDevices) return;
-    }
-    reportName(Message::NotOnDevices, pos);
+    const bool isOnlyText = given && given->arguments.size() == 1 && given->arguments[0].value &&
+                            given->arguments[0].value->kind == ExprKind::String;
+    return isOnlyText ? stringValue(module_.tree.source, as<StringExpr>(*given->arguments[0].value)) : std::string{};
+}
+
+/// CreateObject of a class that devices have is no reason to warn, and of one that they lack the class is the reason.
+void Binder::warnNotOnDevices(const Entity& entity, Pos pos) {
+    if (!program_.warnsOfDevices) return;
+    const auto literal = pendingLiteral();
+    const auto* created = language::findClass(literal);
+    if (created && created->creatable && created->onDevices) return;
+    const auto* library = language::foreignLibrary(literal.substr(0, literal.find('.')));
+    if (literal.find('.') != literal.npos && library && !library->onDevices)
+        return module_.diagnostics.reportLack(Lack::Class, pos, literal,
+                                              created && !created->onDevices ? created->instead : library->instead);
+    reportLack(program_, module_.diagnostics, lackOf(program_, entity), entity, pos, nameAt(module_.tree.source, pos));
 }
 
 } // namespace qltoolkit

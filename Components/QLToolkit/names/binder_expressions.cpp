@@ -104,7 +104,11 @@ Operand Binder::leaf(const Expr& expr) {
 
 /// Refuses what has no value: modules, and arrays are left to who asked for the value.
 void Binder::readValue(const Operand& operand) {
-    if (operand.kind == OperandKind::Qualifier) report(Message::ExpectedNotModule, operand.pos);
+    if (operand.kind == OperandKind::Qualifier) refuseQualifier(operand);
+}
+
+void Binder::refuseQualifier(const Operand& operand) {
+    module_.diagnostics.report(Message::ExpectedNotModule, operand.pos, kindOf(operand));
 }
 
 Operand Binder::unary(const UnaryExpr& expr) {

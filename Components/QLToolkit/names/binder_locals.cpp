@@ -15,10 +15,9 @@ void Binder::local(const Variable& variable) {
         made = other;
         used(variable.pos, *other);
     }
-    made->type = types_.typeOf(variable.name, variable.suffix, variable.type, localConstants());
+    made->type = types_.typeOf(variable.name, variable.suffix, variable.type, &names_);
     made->type.isArray = variable.isArray;
-    if (variable.isArray && !variable.bounds.empty())
-        declareBounds(*made, variable, constants_, module_, localConstants());
+    if (variable.isArray && !variable.bounds.empty()) declareBounds(*made, variable, constants_, module_, &names_);
 }
 
 // Dim a, b As Integer: a is a Variant.
@@ -35,7 +34,7 @@ void Binder::localConstant(const Constant& constant) {
     made->constant->expression = constant.value;
     if (constant.type || constant.suffix)
         made->constant->declared = types_.typeOf(constant.name, constant.suffix, constant.type);
-    constants_.evaluate(*made, module_, localConstants());
+    constants_.evaluate(*made, module_, &names_);
     made->type = made->constant->declared;
     if (made->type.value == ValueType::Unknown && !made->constant->failed)
         made->type = {qltoolkit::typeOf(made->constant->value)};
@@ -58,7 +57,7 @@ void Binder::reDim(const ReDimItem& item) {
 /// ReDim of a name that the project does not have declares an array in the procedure, also where variables must be
 /// declared and where a library has the name.
 Operand Binder::reDimTarget(const ReDimItem& item) {
-    const Type type = item.type ? types_.typeOf(*item.type, localConstants()) : Type{ValueType::Unknown};
+    const Type type = item.type ? types_.typeOf(*item.type, &names_) : Type{ValueType::Unknown};
     if (item.target->kind == ExprKind::Name) {
         const auto& name = as<NameExpr>(*item.target);
         const Entity* found = findName(program_, *module_.scope, name.name).entity;

@@ -62,8 +62,7 @@ void Binder::forEachVariable(const Operand& variable, const Operand& group) {
     const auto value = variable.type.value;
     if (value == ValueType::Unknown || group.type.value == ValueType::Unknown) return;
     const bool isVariant = value == ValueType::Variant && !variable.type.isArray;
-    const bool isControls = group.entity && group.entity->kind == EntityKind::Control;
-    if (group.type.isArray && !isControls) {
+    if (group.type.isArray && !isControlArray(group)) {
         if (group.type.value == ValueType::Record || group.type.value == ValueType::FixedString)
             return report(Message::ForEachRecords, group.pos);
         if (!isVariant) report(Message::ForEachVariable, variable.pos);
@@ -71,7 +70,23 @@ void Binder::forEachVariable(const Operand& variable, const Operand& group) {
     }
     if (!isVariant && (value != ValueType::Object || variable.type.isArray))
         return report(Message::ForEachVariable, variable.pos);
-    if (!isIndexable(group.type)) report(Message::ForEachOperand, group.pos);
+    if (!isIndexable(group.type) || (!group.type.isArray && !isEnumerable(group.type)))
+        report(Message::ForEachOperand, group.pos);
+}
+
+/// A default member may return the object that lists the elements, as Controls of a form. Of what is not known, the
+/// program decides when it runs.
+bool Binder::isEnumerable(const Type& type) const {
+    Type at = type;
+    for (int i = 0; i < kMostDefaults; ++i) {
+        if (at.isArray || at.value != ValueType::Object || at.id == 0) return true;
+        const Scope& scope = program_.scope(at.id);
+        if (scope.findEnumerator() || scope.isOpen()) return true;
+        const Entity* member = scope.findDefault();
+        if (!member || !member->get || member->get->result.value != ValueType::Object) return false;
+        at = member->get->result;
+    }
+    return true;
 }
 
 void Binder::doLoop(const DoStmt& loop) {

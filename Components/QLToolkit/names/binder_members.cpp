@@ -25,8 +25,7 @@ Operand Binder::member(const Operand& base, const MemberExpr& expr) {
     usedMember(base, expr);
     if (base.kind == OperandKind::Qualifier) return memberOfQualifier(base, expr);
     if (base.type.isArray) {
-        const bool isControlArray = base.entity && base.entity->kind == EntityKind::Control;
-        if (isControlArray && isArrayMember(program_.symbols.spelling(expr.name))) return late(expr.pos);
+        if (isControlArray(base) && isArrayMember(program_.symbols.spelling(expr.name))) return late(expr.pos);
         if (base.type.value != ValueType::Unknown) report(Message::InvalidQualifier, base.pos);
         return late(expr.pos, ValueType::Unknown);
     }

@@ -13,6 +13,15 @@ bool contradicts(TypeSuffix suffix, const Type& type) {
 
 } // namespace
 
+std::string_view kindOf(const Operand& qualifier) {
+    if (!qualifier.inner) return "project";
+    switch (qualifier.inner->kind) {
+    case ScopeKind::Library: return "library";
+    case ScopeKind::Enum: return "Enum type";
+    default: return "module";
+    }
+}
+
 Operand Binder::name(const NameExpr& expr) {
     if (Entity* found = names_.find(expr.name)) return local(expr, *found);
     const auto found = findName(program_, *module_.scope, expr.name);
@@ -21,7 +30,8 @@ Operand Binder::name(const NameExpr& expr) {
         const Entity* type = memberFollows() ? findType(program_, *module_.scope, Symbol::None, expr.name) : nullptr;
         return type ? use(*type, expr, false) : undefined(expr);
     }
-    if (const Entity* function = functionBehind(*found.entity, expr.name)) return use(*function, expr, false);
+    if (const Entity* function = functionBehind(*found.entity, expr))
+        return use(expr.suffix() == '$' && function->text ? *function->text : *function, expr, false);
     if (found.isAmbiguous && found.entity->owner != module_.scope) reportName(Message::AmbiguousName, expr.pos);
     const bool isOfProject = found.entity->owner && found.entity->owner->source;
     if (isOfProject && found.entity->kind != EntityKind::Property && contradicts(expr.suffix(), found.entity->type))
@@ -30,13 +40,20 @@ Operand Binder::name(const NameExpr& expr) {
     return use(*found.entity, expr, false);
 }
 
-// Left(s, 1) in a form is the function, although forms have a property Left: the property takes no arguments.
-const Entity* Binder::functionBehind(const Entity& entity, Symbol name) const {
-    const bool isInherited = entity.owner && entity.owner->kind == ScopeKind::LibraryClass;
-    const bool takesNone = isInherited && entity.kind == EntityKind::Property && entity.get &&
-                           entity.get->parameters.empty() && !isIndexable(entity.type);
+// Left(s, 1) in a form is the function, although forms have a property Left: the property takes no arguments. Left$ is the
+// function even where the module itself has a property Left that is no String.
+const Entity* Binder::functionBehind(const Entity& entity, const NameExpr& expr) const {
+    if (entity.kind != EntityKind::Property || !entity.owner || !entity.get) return nullptr;
+    if (entity.owner->source)
+        return contradicts(expr.suffix(), entity.get->result) ? libraryFunction(expr.name) : nullptr;
+    const bool takesNone =
+        entity.owner->kind == ScopeKind::LibraryClass && entity.get->parameters.empty() && !isIndexable(entity.type);
     if (!takesNone || !pendingIndex() || pendingIndex()->arguments.empty()) return nullptr;
-    if (const Entity* found = program_.publicNames.find(name)) return found;
+    const Entity* found = program_.publicNames.find(expr.name);
+    return found ? found : libraryFunction(expr.name);
+}
+
+const Entity* Binder::libraryFunction(Symbol name) const {
     for (const auto* library : program_.libraries) {
         const Entity* found = library->names.find(name);
         if (found && found->kind == EntityKind::Procedure) return found;

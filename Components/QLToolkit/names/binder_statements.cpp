@@ -177,7 +177,7 @@ void Binder::called(const Operand& operand) {
     const auto refuse = [&](std::string_view kind) {
         module_.diagnostics.report(Message::ExpectedProcedure, operand.pos, kind);
     };
-    if (operand.kind == OperandKind::Qualifier) return refuse(operand.inner ? "module" : "project");
+    if (operand.kind == OperandKind::Qualifier) return refuse(kindOf(operand));
     if (operand.kind == OperandKind::Variable || operand.kind == OperandKind::Constant) refuse("variable");
 }
 
@@ -234,10 +234,9 @@ void Binder::with(const BodyStmt& stmt) {
     Operand object = operandOf(stmt.value, Use::Argument);
     readValue(object);
     const auto type = object.type.value;
-    const bool isControls = object.entity && object.entity->kind == EntityKind::Control;
     const bool fits =
-        (!object.type.isArray || isControls) && (type == ValueType::Object || type == ValueType::Record ||
-                                                 type == ValueType::Variant || type == ValueType::Unknown);
+        (!object.type.isArray || isControlArray(object)) && (type == ValueType::Object || type == ValueType::Record ||
+                                                             type == ValueType::Variant || type == ValueType::Unknown);
     if (!fits) {
         report(Message::ObjectRequired, object.pos);
         object.type = {ValueType::Unknown};

@@ -4,6 +4,7 @@
 #include "Components/QLToolkit/names/lookup.h"
 #include "Components/QLToolkit/names/resolve.h"
 #include "Components/QLToolkit/source/each_index.h"
+#include "Components/QLToolkit/source/ignored_warnings.h"
 #include <set>
 
 namespace qltoolkit {
@@ -42,6 +43,28 @@ void checkAll(Program& program, unsigned threads) {
     reportUnknown(program, unknown);
 }
 
+/// Of the warnings that a comment lists, those that were looked for and not found.
+bool isNeedless(const IgnoredWarnings::Listed& listed, const Program& program) {
+    if (listed.isUsed || !program.warnsOptionally) return false;
+    const bool isOfParser = listed.message < Message::VariableNotDefined;
+    return !isOfParser && (listed.message != Message::NotOnDevices || program.warnsOfDevices);
+}
+
+/// `isWhole`: all passes ran.
+void checkIgnored(Program& program, SourceModule& module, bool isWhole) {
+    const auto& source = module.tree.source;
+    IgnoredWarnings ignored{source};
+    for (const auto& mistake : ignored.mistakes())
+        module.diagnostics.report(Message::IgnoredIsNoWarning, mistake.pos, mistake.text);
+    if (!isWhole || ignored.listed().empty()) return;
+    auto all = module.diagnostics.all();
+    ignored.removeFrom(all);
+    for (const auto& listed : ignored.listed())
+        if (isNeedless(listed, program))
+            module.diagnostics.report(Message::NothingIgnored, listed.pos,
+                                      std::to_string(static_cast<int>(listed.message)));
+}
+
 } // namespace
 
 std::vector<std::vector<Diagnostic>> checkProgram(const std::vector<ParsedModule>& modules, SymbolTable& symbols,
@@ -49,8 +72,10 @@ std::vector<std::vector<Diagnostic>> checkProgram(const std::vector<ParsedModule
     Program program{symbols};
     addLibraries(program, options);
     // Declarations that were left have no signatures, so what uses them cannot be checked.
-    if (declareProgram(program, modules, options)) checkAll(program, options.threads);
+    const bool isWhole = declareProgram(program, modules, options);
+    if (isWhole) checkAll(program, options.threads);
     std::vector<std::vector<Diagnostic>> result;
+    for (auto& module : program.modules) within([&] { checkIgnored(program, module, isWhole); });
     for (auto& module : program.modules) result.push_back(module.diagnostics.takeSorted());
     return result;
 }

@@ -19,6 +19,7 @@ struct ProgramOptions {
     bool isIncomplete = false;
     bool warnsOptionally = false; ///< of what is allowed but seldom meant
     bool warnsOfDevices = false;  ///< of what is not on devices
+    bool warnsOfDeclares = false; ///< of each Declare that is not on devices, not only of its calls
     unsigned threads = 1;
 };
 

@@ -1,6 +1,7 @@
 #include "Components/QLToolkit/names/constants.h"
 #include "Basic/error_numbers.h"
 #include "Components/QLToolkit/names/lookup.h"
+#include "Components/QLToolkit/names/procedure_names.h"
 #include <limits>
 
 namespace qltoolkit {
@@ -18,19 +19,22 @@ Message messageOfError(int error) {
 /// Constants that refer to one another in a longer chain are refused as a circle would be.
 constexpr int kDeepestConstant = 500;
 
-ConstantValue nextValue(const ConstantState& state) {
+/// The value of a member of an enumeration after another one; nothing if it is too large.
+std::optional<ConstantValue> nextValue(const ConstantState& state) {
     if (!state.previous) return basic::Long{0};
     const auto* before = std::get_if<basic::Long>(&state.previous->constant->value);
-    return before && *before < std::numeric_limits<basic::Long>::max() ? *before + 1 : basic::Long{0};
+    if (!before) return basic::Long{0};
+    if (*before == std::numeric_limits<basic::Long>::max()) return std::nullopt;
+    return *before + 1;
 }
 
 } // namespace
 
-std::optional<ConstantValue> Constants::valueOf(const Expr& expr, SourceModule& module, const LocalConstants& local) {
+std::optional<ConstantValue> Constants::valueOf(const Expr& expr, SourceModule& module, LocalConstants local) {
     return value(expr, {module, local});
 }
 
-std::optional<basic::Long> Constants::longOf(const Expr& expr, SourceModule& module, const LocalConstants& local) {
+std::optional<basic::Long> Constants::longOf(const Expr& expr, SourceModule& module, LocalConstants local) {
     const Context context{module, local};
     const auto found = value(expr, context);
     if (!found) return std::nullopt;
@@ -38,13 +42,13 @@ std::optional<basic::Long> Constants::longOf(const Expr& expr, SourceModule& mod
     return number ? std::optional(std::get<basic::Long>(*number)) : std::nullopt;
 }
 
-std::uint32_t Constants::lengthOf(const Expr& expr, SourceModule& module, const LocalConstants& local) {
+std::uint32_t Constants::lengthOf(const Expr& expr, SourceModule& module, LocalConstants local) {
     const auto length = longOf(expr, module, local);
     return length && *length > 0 ? static_cast<std::uint32_t>(*length) : 0;
 }
 
 // The members of an enumeration follow one another in a loop, because there may be many.
-void Constants::evaluate(const Entity& constant, SourceModule& module, const LocalConstants& local) {
+void Constants::evaluate(const Entity& constant, SourceModule& module, LocalConstants local) {
     std::vector<const Entity*> waiting;
     for (const Entity* at = &constant; at && at->constant->progress == ConstantState::Progress::Waiting;
          at = at->constant->expression ? nullptr : at->constant->previous)
@@ -53,7 +57,7 @@ void Constants::evaluate(const Entity& constant, SourceModule& module, const Loc
     for (; !waiting.empty(); waiting.pop_back()) evaluateOne(*waiting.back(), module, local);
 }
 
-void Constants::evaluateOne(const Entity& constant, SourceModule& module, const LocalConstants& local) {
+void Constants::evaluateOne(const Entity& constant, SourceModule& module, LocalConstants local) {
     ConstantState& state = *constant.constant;
     if (state.progress != ConstantState::Progress::Waiting) return;
     const bool isCircle =
@@ -63,9 +67,10 @@ void Constants::evaluateOne(const Entity& constant, SourceModule& module, const 
     ++depth_;
     const Context context{module, local};
     std::optional<ConstantValue> found;
-    if (!state.expression)
+    if (!state.expression) {
         found = nextValue(state);
-    else if ((found = value(*state.expression, context)) && state.declared.value != ValueType::Unknown)
+        if (!found) module.diagnostics.report(Message::ConstantOverflow, constant.pos);
+    } else if ((found = value(*state.expression, context)) && state.declared.value != ValueType::Unknown)
         found = checked(*state.expression, convert(*found, state.declared.value), context);
     --depth_;
     state.failed |= !found;
@@ -86,7 +91,7 @@ std::optional<ConstantValue> Constants::value(const Expr& expr, const Context& c
     case ExprKind::Paren: return unary(as<UnaryExpr>(expr), context);
     case ExprKind::Name: {
         const auto& name = as<NameExpr>(expr);
-        const Entity* local = context.local ? context.local(name.name) : nullptr;
+        const Entity* local = context.local ? context.local->find(name.name) : nullptr;
         return named(expr, local ? local : findName(program_, *context.module.scope, name.name).entity, context);
     }
     case ExprKind::Member: return named(expr, qualified(as<MemberExpr>(expr), context), context);
@@ -141,7 +146,7 @@ std::optional<ConstantValue> Constants::named(const Expr& expr, const Entity* en
     used(expr, entity, context);
     if (entity->constant->progress != ConstantState::Progress::Done) {
         auto& module = entity->owner && entity->owner->source ? *entity->owner->source : context.module;
-        evaluate(*entity, module, entity->owner ? LocalConstants{} : context.local);
+        evaluate(*entity, module, entity->owner ? nullptr : context.local);
     }
     if (entity->constant->failed) return std::nullopt;
     return entity->constant->value;

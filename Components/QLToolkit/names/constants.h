@@ -1,12 +1,13 @@
 #pragma once
 // The values of constants.
 #include "Components/QLToolkit/names/program.h"
-#include <functional>
 
 namespace qltoolkit {
 
-/// Finds the constants that a procedure declares; null outside procedures.
-using LocalConstants = std::function<const Entity*(Symbol)>;
+class ProcedureNames;
+
+/// The names of the procedure that an expression is in, for the constants among them; null outside procedures.
+using LocalConstants = const ProcedureNames*;
 
 /// Evaluates constant expressions and reports what is wrong with them, each error once.
 class Constants {
@@ -14,18 +15,18 @@ public:
     explicit Constants(Program& program) : program_(program) {}
 
     /// Evaluates a constant if that has not been done.
-    void evaluate(const Entity& constant, SourceModule& module, const LocalConstants& local = {});
+    void evaluate(const Entity& constant, SourceModule& module, LocalConstants local = nullptr);
     /// Returns the value of an expression, or nothing after an error that is reported.
-    std::optional<ConstantValue> valueOf(const Expr& expr, SourceModule& module, const LocalConstants& local = {});
+    std::optional<ConstantValue> valueOf(const Expr& expr, SourceModule& module, LocalConstants local = nullptr);
     /// The same, converted to Long.
-    std::optional<basic::Long> longOf(const Expr& expr, SourceModule& module, const LocalConstants& local = {});
+    std::optional<basic::Long> longOf(const Expr& expr, SourceModule& module, LocalConstants local = nullptr);
     /// The length of a fixed-length string, 0 after an error.
-    std::uint32_t lengthOf(const Expr& expr, SourceModule& module, const LocalConstants& local = {});
+    std::uint32_t lengthOf(const Expr& expr, SourceModule& module, LocalConstants local = nullptr);
 
 private:
     struct Context {
         SourceModule& module;
-        const LocalConstants& local;
+        LocalConstants local;
     };
     void used(const Expr& expr, const Entity* entity, const Context& context);
     std::optional<ConstantValue> value(const Expr& expr, const Context& context);
@@ -37,7 +38,7 @@ private:
     const Entity* qualifier(const Entity* outer, Symbol name, const Context& context);
     std::optional<ConstantValue> checked(const Expr& expr, Folded folded, const Context& context);
     std::optional<ConstantValue> refuse(const Expr& expr, const Context& context);
-    void evaluateOne(const Entity& constant, SourceModule& module, const LocalConstants& local);
+    void evaluateOne(const Entity& constant, SourceModule& module, LocalConstants local);
     void refuseCircle(const Entity& constant, SourceModule& module);
 
     Program& program_;

@@ -215,6 +215,8 @@ void declareProject(Program& program, std::string_view projectName) {
     for (auto* library : program.libraries) {
         Entity& entity = program.newEntity(EntityKind::Library, library->name);
         entity.inner = library;
+        entity.onDevices = !library->instead;
+        entity.instead = library->instead;
         program.topNames.add(entity.name, &entity);
     }
 }

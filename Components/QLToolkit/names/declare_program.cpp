@@ -44,6 +44,7 @@ bool declareProgram(Program& program, const std::vector<ParsedModule>& modules, 
     program.isIncomplete = options.isIncomplete;
     program.warnsOptionally = options.warnsOptionally;
     program.warnsOfDevices = options.warnsOfDevices;
+    program.warnsOfDeclares = options.warnsOfDeclares;
     bool isWhole = true;
     for (const auto& parsed : modules) {
         auto& module = program.modules.emplace_back(*parsed.tree, parsed.form);

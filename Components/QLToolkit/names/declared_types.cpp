@@ -1,4 +1,5 @@
 #include "Components/QLToolkit/names/declared_types.h"
+#include "Components/QLToolkit/names/lacks.h"
 #include "Components/QLToolkit/names/lookup.h"
 
 namespace qltoolkit {
@@ -35,7 +36,16 @@ ValueType simpleType(TypeKind kind) {
     return ValueType::Unknown;
 }
 
-Type DeclaredTypes::typeOf(const TypeRef& ref, const LocalConstants& local) {
+namespace {
+
+std::string spellingOf(const TypeRef& ref, const SymbolTable& symbols) {
+    const std::string name(symbols.spelling(ref.name));
+    return ref.library == Symbol::None ? name : std::string(symbols.spelling(ref.library)) + "." + name;
+}
+
+} // namespace
+
+Type DeclaredTypes::typeOf(const TypeRef& ref, LocalConstants local) {
     Type type{simpleType(ref.kind)};
     if (ref.kind == TypeKind::Named) type = namedType(ref);
     if (ref.kind == TypeKind::FixedString && ref.length) type.id = constants_.lengthOf(*ref.length, module_, local);
@@ -43,7 +53,7 @@ Type DeclaredTypes::typeOf(const TypeRef& ref, const LocalConstants& local) {
     return type;
 }
 
-Type DeclaredTypes::typeOf(Symbol name, TypeSuffix suffix, const TypeRef* ref, const LocalConstants& local) {
+Type DeclaredTypes::typeOf(Symbol name, TypeSuffix suffix, const TypeRef* ref, LocalConstants local) {
     if (ref) return typeOf(*ref, local);
     return suffix ? Type{typeOfSuffix(suffix)} : defaultType(name);
 }
@@ -62,10 +72,10 @@ void DeclaredTypes::reportUse(const TypeRef& ref, const Entity& type) {
 }
 
 Type DeclaredTypes::namedType(const TypeRef& ref) {
-    if (const Entity* found = findType(program_, *module_.scope, ref.library, ref.name)) {
-        if (program_.uses) reportUse(ref, *found);
-        return found->type;
-    }
+    const Entity* found = findType(program_, *module_.scope, ref.library, ref.name);
+    warnOfDevices(ref, found ? found : program_.topNames.find(ref.library));
+    if (found && program_.uses) reportUse(ref, *found);
+    if (found) return found->type;
     if (!program_.isIncomplete) {
         const bool isProject = ref.library == Symbol::None && program_.topNames.find(ref.name) &&
                                program_.topNames.find(ref.name)->kind == EntityKind::Project;
@@ -73,6 +83,11 @@ Type DeclaredTypes::namedType(const TypeRef& ref) {
                                    nameAt(module_.tree.source, ref.pos));
     }
     return {ValueType::Unknown};
+}
+
+void DeclaredTypes::warnOfDevices(const TypeRef& ref, const Entity* named) {
+    if (program_.warnsOfDevices && named && !named->onDevices)
+        reportLack(program_, module_.diagnostics, Lack::Class, *named, ref.pos, spellingOf(ref, program_.symbols));
 }
 
 Type DeclaredTypes::classOf(const TypeRef& ref) {

@@ -4,6 +4,7 @@
 #include "Components/QLToolkit/parser/ast.h"
 #include "Components/QLToolkit/types/constant_value.h"
 #include "Components/QLToolkit/types/type.h"
+#include <string>
 #include <vector>
 
 namespace qltoolkit {
@@ -75,7 +76,8 @@ struct Entity {
     const Callable* let = nullptr;
     const Callable* set = nullptr;
     ConstantState* constant = nullptr;
-    const Entity* text = nullptr; ///< of a library's function f: the function f$
+    const Entity* text = nullptr;         ///< of a library's function f: the function f$
+    const std::string* instead = nullptr; ///< what devices have instead of this; null if that is not known
 };
 
 enum class ScopeKind : std::uint8_t { StandardModule, ClassModule, Record, Enum, Library, LibraryModule, LibraryClass };
@@ -92,11 +94,12 @@ struct Scope {
     const Entity* defaultMember = nullptr;
     const Entity* enumerator = nullptr; ///< what For Each calls
     std::vector<const Scope*> interfaces;
-    SourceModule* source = nullptr; ///< of a module of the project
-    bool isPrivate = false;         ///< a record or enumeration that other modules cannot name
-    bool open = false;              ///< may have members that are not known
-    bool creatable = false;         ///< by New
-    bool predeclared = false;       ///< its name is an object
+    SourceModule* source = nullptr;       ///< of a module of the project
+    const std::string* instead = nullptr; ///< of a library that devices lack: what to use instead
+    bool isPrivate = false;               ///< a record or enumeration that other modules cannot name
+    bool open = false;                    ///< may have members that are not known
+    bool creatable = false;               ///< by New
+    bool predeclared = false;             ///< its name is an object
 
     [[nodiscard]] Entity* find(Symbol symbol) const {
         for (const Scope* scope = this; scope; scope = scope->base)
@@ -106,7 +109,32 @@ struct Scope {
     [[nodiscard]] const Entity* findDefault() const {
         return defaultMember || !base ? defaultMember : base->findDefault();
     }
+    [[nodiscard]] const Entity* findEnumerator() const {
+        return enumerator || !base ? enumerator : base->findEnumerator();
+    }
+    /// Whether this or a scope whose members it has may have members that are not known.
+    [[nodiscard]] bool isOpen() const { return open || (base && base->isOpen()); }
     [[nodiscard]] bool isClass() const { return kind == ScopeKind::ClassModule || kind == ScopeKind::LibraryClass; }
+};
+
+/// What is before a point or an exclamation mark.
+struct MemberBase {
+    Type type;
+    const Entity* entity = nullptr;
+    const Scope* inner = nullptr; ///< of a qualifier; null for the project
+    bool isQualifier = false;     ///< a module, library, project or enumeration
+};
+
+/// Learns what names mean while a program is resolved and bound, for the editor.
+class UseSink {
+public:
+    UseSink() = default;
+    UseSink(const UseSink&) = delete;
+    virtual ~UseSink() = default;
+
+    /// The name at a position means this. Local names are reported where they are declared too.
+    virtual void used(const SourceModule& module, Pos pos, const Entity& entity) = 0;
+    virtual void member(const MemberBase&, Symbol /*name*/) {}
 };
 
 } // namespace qltoolkit

@@ -1,11 +1,15 @@
 #include "Components/QLToolkit/names/form_controls.h"
 #include "Basic/case_folding.h"
 #include "Components/QLToolkit/names/header_places.h"
+#include "Components/QLToolkit/names/lacks.h"
 #include "Components/QLToolkit/names/lookup.h"
 
 namespace qltoolkit {
 
 namespace {
+
+/// East Asian versions of the language write it for controls that have an input method.
+constexpr std::string_view kOfEastAsia = "IMEMode";
 
 /// The class of a control: "TavletsCtl.QLLabel" is the class QLLabel of the library Tavlets.
 class ControlClasses {
@@ -68,16 +72,13 @@ private:
         module_.scope->names.add(name, &entity);
     }
 
-    // The files of the language's own controls have properties that their classes do not show.
     void checkProperties(const image::Control& control, const Type& type) {
         if (type.value != ValueType::Object || type.id == 0) return;
         const Scope& scope = program_.scope(type.id);
-        if (scope.kind != ScopeKind::LibraryClass || scope.open ||
-            basic::startsWithNoCase(control.className.str(), "VB."))
-            return;
+        if (scope.kind != ScopeKind::LibraryClass || scope.open) return;
         for (const auto& property : control.properties) {
             const auto& name = property.name.str();
-            if (name.starts_with('_') || name.find('.') != name.npos) continue;
+            if (name.starts_with('_') || name.find('.') != name.npos || name == kOfEastAsia) continue;
             const Symbol symbol = program_.symbols.intern(name);
             if (scope.find(symbol) || isOfContainer(symbol)) continue;
             module_.diagnostics.report(Message::PropertyUnknown,
@@ -94,7 +95,12 @@ private:
 
     Type classOf(const image::Control& control) {
         bool libraryIsKnown = false;
-        if (const Entity* found = classes_.find(control.className, libraryIsKnown)) return found->type;
+        if (const Entity* found = classes_.find(control.className, libraryIsKnown)) {
+            if (program_.warnsOfDevices && !found->onDevices)
+                reportLack(program_, module_.diagnostics, Lack::Control, *found,
+                           placeInHeader(module_.tree.source, control.name.str()), control.className.str());
+            return found->type;
+        }
         if (libraryIsKnown)
             module_.diagnostics.report(Message::ControlClassUnknown,
                                        placeInHeader(module_.tree.source, control.name.str()), control.className.str());

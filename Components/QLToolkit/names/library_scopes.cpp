@@ -26,6 +26,7 @@ public:
     LibraryScopes(Program& program, const language::Library& library)
         : program_(program), library_(library), scope_(program.newScope(ScopeKind::Library)) {
         scope_.name = symbolOf(library.name);
+        if (!library.onDevices) scope_.instead = &library.instead;
         program.libraries.push_back(&scope_);
     }
 
@@ -55,7 +56,8 @@ private:
         scope.open = group.open;
         Entity& entity = newEntity(isEnum ? EntityKind::Enum : EntityKind::Module, scope.name, scope_);
         entity.inner = &scope;
-        entity.onDevices = group.onDevices;
+        entity.onDevices = library_.onDevices && group.onDevices;
+        entity.instead = group.onDevices ? &library_.instead : &group.instead;
         if (isEnum) entity.type = {ValueType::Long, false, true, scope.number};
         if (isClass) entity.type = {ValueType::Object, false, false, scope.number};
         scope_.types.add(scope.name, &entity);
@@ -72,6 +74,7 @@ private:
     void declare(const language::Group& group, Scope& scope, const language::Member& member) {
         Entity& entity = newEntity(kindOf(member.kind), symbolOf(member.name), scope);
         entity.onDevices = member.onDevices;
+        entity.instead = &member.instead;
         entity.type = typeNamed(member.type);
         entity.type.isArray = member.isArray;
         if (member.kind == language::MemberKind::Constant)

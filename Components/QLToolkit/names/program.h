@@ -1,7 +1,7 @@
 #pragma once
 // A project whose declarations are known: modules, libraries, and what their names mean.
 #include "Components/Image/image.h"
-#include "Components/QLToolkit/names/use_sink.h"
+#include "Components/QLToolkit/names/entity.h"
 #include "Components/QLToolkit/source/diagnostic.h"
 #include <array>
 #include <deque>
@@ -67,6 +67,7 @@ public:
     bool isIncomplete = false;
     bool warnsOptionally = false; ///< of what is allowed but seldom meant
     bool warnsOfDevices = false;  ///< of what is not on devices
+    bool warnsOfDeclares = false; ///< and of Declares themselves
     UseSink* uses = nullptr;      ///< called for each name, from one thread; null for none
 
 private:

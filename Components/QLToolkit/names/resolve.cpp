@@ -3,6 +3,7 @@
 #include "Components/Language/foreign.h"
 #include "Components/QLToolkit/names/array_bounds.h"
 #include "Components/QLToolkit/names/declared_types.h"
+#include "Components/QLToolkit/names/lacks.h"
 #include "Components/QLToolkit/names/lookup.h"
 
 namespace qltoolkit {
@@ -69,7 +70,7 @@ private:
     void callable(Entity& entity, const Decl& decl) {
         switch (decl.kind) {
         case DeclKind::Declare:
-            entity.onDevices = isAnswered(as<DeclareDecl>(decl));
+            lookUp(entity, as<DeclareDecl>(decl));
             return signature(entity, as<DeclareDecl>(decl).signature, nullptr);
         case DeclKind::Event: {
             auto* made = program_.arena.make<Callable>();
@@ -82,12 +83,16 @@ private:
     }
 
     /// Devices have no libraries of their desktop system, but answer some of their functions.
-    bool isAnswered(const DeclareDecl& decl) const {
+    void lookUp(Entity& entity, const DeclareDecl& decl) const {
         const auto& source = module_.tree.source;
         const auto function =
             decl.alias ? stringValue(source, *decl.alias) : std::string(program_.symbols.spelling(decl.signature.name));
         const auto* found = language::findDeclared(stringValue(source, *decl.library), function);
-        return found && found->onDevices;
+        entity.onDevices = found && found->onDevices;
+        entity.instead = found ? &found->instead : nullptr;
+        if (program_.warnsOfDeclares && !entity.onDevices)
+            reportLack(program_, module_.diagnostics, Lack::Declare, entity, decl.signature.namePos,
+                       nameAt(source, decl.signature.namePos));
     }
 
     void signature(Entity& entity, const Signature& decl, const ProcedureDecl* body) {

@@ -322,9 +322,9 @@ constexpr MessageInfo kMessageTable[] = {
     {M::DuplicateLabel, S::Error, "Duplicate label: {name}.",
      "Labels and line numbers may occur only once in a procedure.",
      "Failed:\n  x = 1\nFailed:", "Rename one of the labels."},
-    {M::ExpectedNotModule, S::Error, "Expected variable or procedure, not module: {name}.",
-     "The name of a module has no value. Only its members can be used.", "x = Module1",
-     "Add a dot and the name of a member."},
+    {M::ExpectedNotModule, S::Error, "Expected variable or procedure, not {kind}.",
+     "The name of a module, a library, an enumeration or the project has no value. Only its members can be used.",
+     "x = Module1", "Add a dot and the name of a member."},
     {M::InvalidMe, S::Error, "Invalid use of Me keyword.",
      "Me is the object to which the running code belongs, so it exists only in classes, forms and other object "
      "modules. It cannot be the target of Set.",
@@ -511,9 +511,17 @@ constexpr MessageInfo kMessageTable[] = {
      "The procedure is named after a control or form, but it is never called unless the program calls it.",
      "Private Sub Command1_Clik()", "Correct the name of the event, or rename the procedure."},
     {M::NotOnDevices, S::Warning, "{name} is not available on devices.",
-     "The program can be compiled, but this call fails on a handheld. Declare, Shell, SendKeys, CreateObject and the "
-     "printer need Windows.",
-     "Shell \"notepad.exe\"", "Avoid the call on devices, for example with #If."},
+     "The program can be compiled, but what needs this fails on a handheld. Declare, Shell, SendKeys, CreateObject, "
+     "the "
+     "printer and most libraries need Windows.",
+     "Shell \"notepad.exe\"",
+     "Avoid it on devices, for example with #If. fernwick check --migrate lists what to use instead."},
+
+    {M::FormTooLarge, S::Warning, "{form} is larger than the screen of the device.",
+     "Forms of a device are as large as its screen. What is outside of it cannot be seen or chosen. Only fernwick "
+     "check "
+     "--migrate and the migration report look for such forms.",
+     "Begin VB.Form Form1\n  ClientWidth = 9600\nEnd", "Make the form smaller, or divide it into several forms."},
 
     {M::ImplicitVariable, S::Warning, "The variable {name} is not declared.",
      "Without Option Explicit the first use of a name declares a Variant. A misspelt name becomes a new variable.",
@@ -546,6 +554,14 @@ constexpr MessageInfo kMessageTable[] = {
     {M::ConstantFails, S::Warning, "This expression always fails with error {number}.",
      "The operands are constants, so the operation fails each time it is executed.", "x = 1 / 0",
      "Correct the operands.", true},
+    {M::IgnoredIsNoWarning, S::Warning, "Only warnings can be ignored, and \"{number}\" is not the number of one.",
+     "A comment with fernwick: ignore lists the numbers of warnings of the compiler, separated by commas. Errors "
+     "cannot "
+     "be ignored.",
+     "x = y ' fernwick: ignore 2000", "Correct the number, or delete the comment and repair the line."},
+    {M::NothingIgnored, S::Warning, "Warning {number} does not occur here, so there is nothing to ignore.",
+     "The statement gives no warning with this number any more.", "Beep ' fernwick: ignore 2803",
+     "Delete the number from the comment.", true},
 };
 
 constexpr bool isAscending() {

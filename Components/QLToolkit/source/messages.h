@@ -201,6 +201,7 @@ enum class Message : std::uint16_t {
     PropertyUnknown = 2801,
     HandlerOfUnknownEvent = 2802,
     NotOnDevices = 2803,
+    FormTooLarge = 2804,
 
     ImplicitVariable = 2900,
     UnusedVariable = 2901,
@@ -212,6 +213,8 @@ enum class Message : std::uint16_t {
     ProductOverflows = 2907,
     ComparisonWithNull = 2908,
     ConstantFails = 2909,
+    IgnoredIsNoWarning = 2910,
+    NothingIgnored = 2911,
 };
 
 /// One row of the table. A text has at most one placeholder in braces, such as "{found}".

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-namespace cli {
+namespace apps {
 
 /// Wraps the words into lines of at most `width` characters; a longer word gets its own line.
 inline std::string wrapped(std::string_view text, std::size_t width) {
@@ -25,4 +25,4 @@ inline std::string wrapped(std::string_view text, std::size_t width) {
     return lines;
 }
 
-} // namespace cli
+} // namespace apps

@@ -1,10 +1,10 @@
 #pragma once
 // The source files for `check`.
-#include "Basic/detection/code_page_detection.h"
-#include "Components/QLToolkit/parser/conditional_constants.h"
+#include "Apps/common/checked_project.h"
+#include "Basic/code_page.h"
+#include "Host/files/text_file.h"
 #include <optional>
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace cli {
@@ -17,18 +17,8 @@ struct SourceToCheck {
     bool isNamed = false;
 };
 
-/// A project, whose sources are checked together.
-struct ProjectToCheck {
-    std::string path, name;
-    std::vector<std::string> sources;
-    qltoolkit::ConditionalConstants constants;
-    basic::DetectedCodePage page;
-    bool isForDevices = false;
-    std::vector<std::string> libraries; ///< the GUIDs of its references and control libraries
-};
-
 struct SourceList {
-    std::vector<ProjectToCheck> projects;
+    std::vector<apps::CheckedProject> projects;
     std::vector<SourceToCheck> sources; ///< of no project
     /// Why projects or groups could not be read: "file: reason".
     std::vector<std::string> problems;
@@ -37,7 +27,9 @@ struct SourceList {
 };
 
 /// Returns the projects and the projects of groups, and the sources of none of them: those given, and all in and below
-/// folders, except in hidden ones. `given` is their code page, without which it is detected.
-SourceList listSources(const std::vector<std::string>& operands, const std::optional<basic::CodePage>& given);
+/// folders, except in hidden ones. `given` is their code page, without which it is detected; the sources
+/// that are read for this stay in `contents`.
+SourceList listSources(const std::vector<std::string>& operands, const std::optional<basic::CodePage>& given,
+                       host::FileContents& contents);
 
 } // namespace cli

@@ -1,13 +1,11 @@
-#include "Apps/fernwick/verbs/source_list.h"
+#include "Apps/fernwick/checks/source_list.h"
 #include "Apps/common/file_names.h"
 #include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/output/file_errors.h"
-#include "Basic/case_folding.h"
 #include "Basic/runtime_error.h"
 #include "Host/files/group_file.h"
 #include "Host/files/path_lookup.h"
 #include "Host/files/project_code_page.h"
-#include "Host/files/project_file.h"
 #include <algorithm>
 #include <filesystem>
 #include <unordered_set>
@@ -23,7 +21,8 @@ using apps::hasExtension;
 
 class SourceCollector {
 public:
-    explicit SourceCollector(const std::optional<basic::CodePage>& given) : given_(given) {}
+    SourceCollector(const std::optional<basic::CodePage>& given, host::FileContents& contents)
+        : given_(given), contents_(contents) {}
 
     void add(const std::string& path) {
         std::error_code ignored;
@@ -87,42 +86,10 @@ private:
     }
 
     void addProject(const std::string& path) {
-        const auto content = host::readFile(path);
-        const auto detected = host::codePageOfProject(content.bytes, folderOf(path), given_);
-        host::ProjectFile project{content.bytes, basic::codePageOfFile(content.bytes, detected.page)};
-        if (!project.looksLikeProject())
-            throw basic::RuntimeError(basic::kInvalidProcedureCall, "not a Visual Basic project");
+        auto project = apps::readProject(path, given_, contents_);
         if (!seen_.insert(host::absolutePath(path)).second) return;
-        ProjectToCheck found{path, project.setting("Name").value_or(""), {}, {}, detected, isForDevices(project), {}};
-        found.constants = qltoolkit::parseConditionalConstants(project.setting("CondComp").value_or(""));
-        host::PathLookup lookup(detected.page);
-        for (const auto& member : project.members()) {
-            if (host::isComponentKind(member.content.kind))
-                addComponent(found, lookup.find(folderOf(path), member.content.value));
-            else if (member.content.kind == host::MemberKind::Reference ||
-                     member.content.kind == host::MemberKind::Object)
-                found.libraries.push_back(guidOf(member.content.value));
-        }
-        list_.projects.push_back(std::move(found));
-    }
-
-    void addComponent(ProjectToCheck& project, const std::string& path) {
-        seen_.insert(host::absolutePath(path));
-        project.sources.push_back(path);
-    }
-
-    static bool isForDevices(const host::ProjectFile& project) {
-        std::string value;
-        (void)basic::attempt([&] { value = project.readProperty("Quinloft Global", "IsQuinloftProject"); });
-        return basic::equalNoCase(value, "True");
-    }
-
-    /// The first braces of the value of a Reference or Object line.
-    static std::string guidOf(std::string_view value) {
-        const auto open = value.find('{'), close = value.find('}');
-        return open == value.npos || close < open || close == value.npos
-                   ? ""
-                   : std::string(value.substr(open, close - open + 1));
+        for (const auto& source : project.sources) seen_.insert(host::absolutePath(source));
+        list_.projects.push_back(std::move(project));
     }
 
     void addGroup(const std::string& path) {
@@ -139,14 +106,16 @@ private:
     }
 
     const std::optional<basic::CodePage>& given_;
+    host::FileContents& contents_;
     SourceList list_;
     std::unordered_set<std::string> seen_;
 };
 
 } // namespace
 
-SourceList listSources(const std::vector<std::string>& operands, const std::optional<basic::CodePage>& given) {
-    SourceCollector collector{given};
+SourceList listSources(const std::vector<std::string>& operands, const std::optional<basic::CodePage>& given,
+                       host::FileContents& contents) {
+    SourceCollector collector{given, contents};
     for (const auto& operand : operands) collector.add(operand);
     return collector.take();
 }

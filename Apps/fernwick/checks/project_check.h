@@ -1,0 +1,52 @@
+#pragma once
+// The check of whole projects.
+#include "Apps/common/checked_project.h"
+#include "Apps/common/described_libraries.h"
+#include "Apps/fernwick/checks/check_cache.h"
+#include "Apps/fernwick/checks/key_text.h"
+#include "Apps/fernwick/options/options.h"
+#include "Host/files/text_file.h"
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace cli {
+
+/// What was found in a source of a project.
+struct CheckedSource {
+    qltoolkit::CheckResult result;
+    /// Null for a file without messages and for one that could not be read.
+    std::unique_ptr<qltoolkit::SourceText> text;
+};
+
+/// Checks projects, or finds what an earlier check of the same bytes found.
+class ProjectCheck {
+public:
+    ProjectCheck(const Options& options, host::FileContents& contents);
+
+    /// Returns the results in the order of the project's sources.
+    std::vector<CheckedSource> check(const apps::CheckedProject& project);
+
+private:
+    /// A source, or why it could not be read.
+    struct Source {
+        std::optional<host::FileContent> content;
+        qltoolkit::CheckResult failure;
+    };
+
+    std::vector<Source> readSources(const apps::CheckedProject& project);
+    Source read(const std::string& path);
+    [[nodiscard]] CheckKey keyOf(const apps::CheckedProject& project, const std::vector<Source>& sources) const;
+    void addLibraries(KeyText& key, const apps::CheckedProject& project) const;
+    CheckResults checkTexts(const apps::CheckedProject& project, const std::vector<CheckedSource>& sources,
+                            bool isWhole);
+
+    const Options& options_;
+    host::FileContents& contents_;
+    std::string installation_;
+    apps::DescribedLibraries libraries_;
+    CheckCache cache_;
+};
+
+} // namespace cli
