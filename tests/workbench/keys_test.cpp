@@ -209,9 +209,11 @@ TEST_F(Keys, AreFoundByMenuCommandAndKey) {
             return text.isEmpty() ? QString() : names.join(", ");
         };
         field<QLineEdit>(dialog, "keyFilter").setText("ctrl+sh");
-        EXPECT_EQ(shown("x"), "Redo, Find in All Projects, Toggle Bookmark, Next Bookmark, Previous Bookmark, Last "
-                              "Position, Fold or Unfold, "
-                              "Clear All Breakpoints, Split, Other Pane, Previous Window");
+        EXPECT_EQ(shown("x"),
+                  "Redo, Find in All Projects, Toggle Bookmark, Next Bookmark, Previous Bookmark, List Names, "
+                  "Parameter Info, Last "
+                  "Position, Fold or Unfold, "
+                  "Clear All Breakpoints, Split, Other Pane, Previous Window");
         EXPECT_EQ(list.currentItem()->text(1), "Redo");
         field<QLineEdit>(dialog, "keyFilter").setText("options");
         EXPECT_EQ(shown("x"), "Options");

@@ -54,7 +54,7 @@ TEST_F(UnsavedCode, TheCompileFindsErrorsInTypedCode) {
     compile("btnYes");
     EXPECT_GE(questions, 1); // a slow window may be pressed twice
     EXPECT_FALSE(hasImage());
-    EXPECT_EQ(code("frmHello").markersAtLine(0), 1u << 1);
+    EXPECT_NE(code("frmHello").markersAtLine(0) & 1u << 1, 0u);
 }
 
 TEST_F(UnsavedCode, NoCompilesNothingAndChangesNothing) {

@@ -53,7 +53,10 @@ CodeEditor::CodeEditor(vbide::Ref<vbide::VBComponent> component, Shared shared, 
     setFocusProxy(text_);
     load();
     ownMarks_.show(shared_.marks->of(component_));
-    marks_.also = [this](int line) { return ownMarks_.hasBreakpoint(line) ? code_texts::kBreakpoint : QString(); };
+    marks_.also = [this](int line) {
+        const auto note = noteOf(line);
+        return note.isEmpty() && ownMarks_.hasBreakpoint(line) ? QString(code_texts::kBreakpoint) : note;
+    };
     listProcedures();
     watchText();
     rest_.setSingleShot(true);
@@ -77,6 +80,7 @@ CodeInput* CodeEditor::makePane() {
 void CodeEditor::watchPane(CodeInput& pane) {
     const auto namesAt = [this](int line) { return shared_.names.at(component_, line); };
     typedLines_[&pane] = std::make_unique<TypedLine>(pane, namesAt);
+    typedLines_[&pane]->left = [this](int line) { lineLeft(line); };
     pane.lineEnds = [typed = typedLines_[&pane].get()] { typed->finish(); };
     connect(&pane, &QObject::destroyed, this, [this, gone = &pane] { typedLines_.erase(gone); });
     connect(&pane, &QsciScintilla::cursorPositionChanged, this, [this, &pane] {

@@ -55,6 +55,10 @@ public:
     void keepMarks();
     /// Called when the user clicks into the margin for breakpoints, with the line (from 0).
     std::function<void(int)> marginClicked = [](int) {};
+    /// Called with each line (from 0) that the user typed in and left.
+    std::function<void(int)> lineLeft = [](int) {};
+    /// What else the tool tip of a line's margin shows; "" for nothing.
+    std::function<QString(int)> noteOf = [](int) { return QString(); };
     void showIn(const CodeLook& look);
     /// Enlarges the text by this many points; negative to make it smaller.
     void zoomTo(int points);

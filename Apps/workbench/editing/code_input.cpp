@@ -25,6 +25,11 @@ void CodeInput::keyPressEvent(QKeyEvent* event) {
     if (typed.isEmpty() || !typed[0].isPrint() || accepts_(typed)) QsciScintilla::keyPressEvent(event);
 }
 
+void CodeInput::complete() {
+    const QScopedValueRollback within(typing_, true);
+    SendScintilla(SCI_AUTOCCOMPLETE);
+}
+
 /// The component knows some of these keys, but would insert the others like plain ones.
 void CodeInput::pressWithoutText(QKeyEvent& event) {
     QKeyEvent bare(event.type(), event.key(), event.modifiers(), QString(), event.isAutoRepeat());

@@ -22,6 +22,8 @@ public:
     /// Called before Enter divides a line, within the same undo step.
     std::function<void()> lineEnds = [] {};
 
+    /// Accepts the selected name of the list that is open, as if the user had typed it.
+    void complete();
     /// Whether the current change comes from the user's keys.
     bool isTyping() const { return typing_; }
 

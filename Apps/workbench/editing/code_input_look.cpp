@@ -48,11 +48,12 @@ void CodeInput::prepareMargins() {
         setMarginType(margin, SymbolMargin);
         setMarginWidth(margin, kMarkWidth);
     }
-    setMarginMarkerMask(kMessageMargin, int(numbers({kErrorMark, kWarningMark})));
+    setMarginMarkerMask(kMessageMargin, int(numbers({kErrorMark, kWarningMark, kSyntaxMark})));
     setMarginMarkerMask(kOwnMargin, int(numbers({kBookmark, kBreakpoint})));
     setMarginSensitivity(kOwnMargin, true);
     markerDefine(Circle, kErrorMark);
     markerDefine(Circle, kWarningMark);
+    markerDefine(RightTriangle, kSyntaxMark);
     markerDefine(static_cast<MarkerSymbol>(SC_MARK_BOOKMARK), kBookmark);
     markerDefine(Circle, kBreakpoint);
     markerDefine(Background, kBreakpointLine);
@@ -78,6 +79,7 @@ void CodeInput::showIn(const CodeLook& look) {
 void CodeInput::colourMarks(const CodeColours& colours) {
     const std::pair<int, QColor> marks[] = {{kErrorMark, colours.error},
                                             {kWarningMark, colours.warning},
+                                            {kSyntaxMark, colours.error},
                                             {kBookmark, colours.keyword},
                                             {kBreakpoint, colours.error}};
     for (const auto& [mark, colour] : marks) {

@@ -13,6 +13,7 @@ enum MarkNumber : int {
     kBookmark,
     kBreakpoint,
     kBreakpointLine, ///< colours the line of a breakpoint
+    kSyntaxMark,     ///< of the check of a line that was left
 };
 
 /// The width of all margins together.

@@ -28,7 +28,7 @@ TypedLine::TypedLine(QsciScintilla& text, NamesAt namesAt) : text_(text), namesA
 
 void TypedLine::forget() {
     now_ = {};
-    left_.clear();
+    leftLines_.clear();
 }
 
 /// Later, as the cursor's signal is sent while the editor paints, and an edit while it is being made.
@@ -43,14 +43,14 @@ void TypedLine::typed(int line, int linesAdded) {
         const bool isFirst = lineText(text_, line).trimmed().size() <= 1;
         now_.isWhole = isFirst || (now_.isWhole && before == line);
         if (before < 0 || before == line) return;
-        left_.push_back({before, wasWhole});
+        leftLines_.push_back({before, wasWhole});
         leaveSoon();
     } else if (line != now_.line)
         now_ = {};
 }
 
 void TypedLine::leave() {
-    for (const auto& left : std::exchange(left_, {}))
+    for (const auto& left : std::exchange(leftLines_, {}))
         if (currentLine(text_) != left.line) correct(left);
     if (now_.line < 0 || currentLine(text_) == now_.line) return;
     correct(std::exchange(now_, {}));
@@ -65,12 +65,13 @@ void TypedLine::finish() {
     text_.setCursorPosition(line, int(lineText(text_, line).size() - fromEnd));
 }
 
-void TypedLine::correct(const Left& left) {
-    const int line = left.line;
+void TypedLine::correct(const Left& typed) {
+    const int line = typed.line;
     if (line >= text_.lines()) return;
+    QTimer::singleShot(0, this, [this, line] { left(line); });
     if (line > 0 && continuesComment(lineText(text_, line - 1))) return;
     auto now = withKeywordCase(lineText(text_, line), namesAt_(line));
-    if (left.isWhole) now = aligned(text_, line, now);
+    if (typed.isWhole) now = aligned(text_, line, now);
     if (now == lineText(text_, line)) return;
     text_.beginUndoAction();
     replaceLine(text_, line, now);

@@ -1,6 +1,7 @@
 #pragma once
 #include "Apps/workbench/editing/keyword_case.h"
 #include <QObject>
+#include <functional>
 #include <vector>
 
 class QsciScintilla;
@@ -23,6 +24,8 @@ public:
     /// Corrects the line before the cursor leaves it. The cursor stays at its character.
     void finish();
     void forget();
+    /// Called with a line (from 0) that was typed in and left, once it is corrected and the key has had its effect.
+    std::function<void(int)> left = [](int) {};
 
 private:
     struct Left {
@@ -31,13 +34,13 @@ private:
     };
     void leaveSoon();
     void leave();
-    void correct(const Left& left);
+    void correct(const Left& typed);
 
     QsciScintilla& text_;
     NamesAt namesAt_;
     Left now_;
     /// Lines that were left for another one, as by automatic indentation after Enter.
-    std::vector<Left> left_;
+    std::vector<Left> leftLines_;
 };
 
 } // namespace workbench

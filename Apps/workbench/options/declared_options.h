@@ -19,6 +19,12 @@ inline constexpr FlagOption kAutomaticEnds{"code/automaticEnds", true};
 inline constexpr FlagOption kProcedureLines{"code/procedureLines", true};
 /// Whether procedures and blocks can be folded.
 inline constexpr FlagOption kFolding{"code/folding", true};
+/// Whether names are listed where one must follow, as after a point.
+inline constexpr FlagOption kAutoListMembers{"code/autoListMembers", true};
+/// Whether the parameters of a call and the declaration below the mouse are shown.
+inline constexpr FlagOption kAutoQuickInfo{"code/autoQuickInfo", true};
+/// Whether the syntax of a line is checked when the cursor leaves it.
+inline constexpr FlagOption kAutoSyntaxCheck{"code/autoSyntaxCheck", true};
 
 // ---- form designers ----
 

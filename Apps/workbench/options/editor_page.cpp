@@ -23,6 +23,9 @@ EditorPage::EditorPage()
     fields_.add("&Write the ends of blocks", kAutomaticEnds);
     fields_.add("&Procedure separators", kProcedureLines);
     fields_.add("Foldin&g of procedures and blocks", kFolding);
+    fields_.add("Auto list &members", kAutoListMembers);
+    fields_.add("Auto &quick info", kAutoQuickInfo);
+    fields_.add("Auto s&yntax check", kAutoSyntaxCheck);
     rows_->addRow(sample_);
     showSample();
 }

@@ -1,4 +1,5 @@
 #include "Apps/workbench/window/commands.h"
+#include "Apps/workbench/assist/code_assist.h"
 #include "Apps/workbench/designer/control_clipboard.h"
 #include "Apps/workbench/designer/form_canvas.h"
 #include "Apps/workbench/designer/form_commands.h"
@@ -129,6 +130,7 @@ const Command kEditCommands[] = {
     {kGoToLineId, "&Go to Line...", Qt::CTRL | Qt::Key_G, kInEditor,
      [](auto& on) { actions(on).askForLine(&on.window); }},
     {kBookmarksMenuId, "&Bookmarks"},
+    {kCodeHelpMenuId, "Code &Help"},
 };
 
 const Command kBookmarkCommands[] = {
@@ -139,6 +141,16 @@ const Command kBookmarkCommands[] = {
     {kPreviousBookmarkId, "&Previous Bookmark", Qt::CTRL | Qt::SHIFT | Qt::Key_P, kInCode,
      [](auto& on) { marks(on).goToBookmark(true); }},
     {kClearBookmarksId, "&Clear All Bookmarks", kNoKey, kInCode, [](auto& on) { marks(on).clearBookmarks(); }},
+};
+
+const Command kCodeHelpCommands[] = {
+    {kListNamesId, "&List Names", Qt::CTRL | Qt::SHIFT | Qt::Key_J, kInEditor,
+     [](auto& on) { assistOf(textOf(on))->names().request(false); }},
+    {kCompleteWordId, "&Complete Word", Qt::CTRL | Qt::Key_Space, kInEditor,
+     [](auto& on) { assistOf(textOf(on))->names().request(true); }},
+    {kQuickInfoId, "&Quick Info", Qt::CTRL | Qt::Key_I, kInEditor, [](auto& on) { assistOf(textOf(on))->showInfo(); }},
+    {kParameterInfoId, "&Parameter Info", Qt::CTRL | Qt::SHIFT | Qt::Key_I, kInEditor,
+     [](auto& on) { assistOf(textOf(on))->showParameters(); }},
 };
 
 const Command kFoldingCommands[] = {
@@ -315,6 +327,7 @@ const CommandMenu kCommandMenus[] = {
     {host::kFileMenuId, kFileCommands},
     {host::kEditMenuId, kEditCommands},
     {kBookmarksMenuId, kBookmarkCommands},
+    {kCodeHelpMenuId, kCodeHelpCommands},
     {host::kViewMenuId, kViewCommands},
     {kFoldingMenuId, kFoldingCommands},
     {host::kProjectMenuId, kProjectCommands},

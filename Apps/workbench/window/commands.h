@@ -128,6 +128,11 @@ enum CommandId : int {
     kToBackId,
     kLockControlsId,
     kTabOrderId,
+    kCodeHelpMenuId = 40401,
+    kListNamesId,
+    kCompleteWordId,
+    kQuickInfoId,
+    kParameterInfoId,
 };
 
 /// The program's actions that commands call.

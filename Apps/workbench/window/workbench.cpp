@@ -4,6 +4,7 @@
 #include "Add-in/lifecycle/project_importer.h"
 #include "Apps/common/compile_steps.h"
 #include "Apps/common/source_code_page.h"
+#include "Apps/workbench/assist/editor_assist.h"
 #include "Apps/workbench/base/text.h"
 #include "Apps/workbench/messages/messages_view.h"
 #include "Apps/workbench/options/options_dialog.h"
@@ -58,6 +59,9 @@ void Workbench::buildWindow() {
     addExplorerMenu(*host_, window_->explorer(), runHere);
     addEditorMenu(*host_, window_->code(), runHere);
     addDesignerMenu(*host_, window_->design(), *window_, runHere);
+    insight_ = std::make_unique<ProjectInsight>(*host_, machine_.installation());
+    assistEditors(window_->code(), *insight_,
+                  [this](const QString& error) { window_->statusBar()->showMessage(error); });
     recent_ = std::make_unique<RecentProjects>(*host_, recentMenu(*host_), [this](const auto& path) { open(path); });
     unsaved_ = std::make_unique<UnsavedWork>(*host_, *window_, unsavedCallbacks());
     watchForms();
@@ -82,6 +86,7 @@ Workbench::~Workbench() {
     unsaved_.reset();
     windows_.detach();
     window_.reset();
+    insight_.reset();
 }
 
 host::HostOptions Workbench::hostOptions() {

@@ -2,6 +2,7 @@
 // The desktop as a whole: the host, the add-in and the window over them.
 #include "Add-in/core/connect/connections.h"
 #include "Apps/common/host_options.h"
+#include "Apps/workbench/assist/project_insight.h"
 #include "Apps/workbench/bridge/qt_clipboard.h"
 #include "Apps/workbench/bridge/qt_loop.h"
 #include "Apps/workbench/bridge/qt_user.h"
@@ -63,6 +64,7 @@ private:
     apps::InstalledControls controls_{machine_.installation()};
     fernwick::Connections connections_;
     std::shared_ptr<host::Host> host_;
+    std::unique_ptr<ProjectInsight> insight_;
     std::unique_ptr<MainWindow> window_;
     std::unique_ptr<RecentProjects> recent_;
     std::unique_ptr<UnsavedWork> unsaved_;

@@ -28,11 +28,18 @@ void Binder::procedure(const ProcedureDecl& decl, Entity& entity) {
     if (program_.warnsOptionally) warnOfUnused(decl);
 }
 
+/// Returns nothing if the name is declared already.
+Entity* Binder::declare(EntityKind kind, Symbol name, Pos pos) {
+    Entity* made = names_.add(kind, name, pos);
+    if (made) used(pos, *made);
+    return made;
+}
+
 void Binder::declareParameters(const Callable& callable, const ProcedureDecl& decl) {
     const auto& signature = decl.signature;
     for (std::uint32_t i = 0; i < signature.parameters.size(); ++i) {
         const auto& parameter = signature.parameters[i];
-        Entity* made = names_.add(EntityKind::Variable, parameter.name, parameter.pos);
+        Entity* made = declare(EntityKind::Variable, parameter.name, parameter.pos);
         if (!made) {
             reportName(Message::DuplicateDeclaration, parameter.pos);
             continue;

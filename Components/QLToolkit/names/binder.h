@@ -54,9 +54,17 @@ public:
     [[nodiscard]] const std::vector<std::pair<Symbol, Pos>>& unknownNames() const { return unknownNames_; }
 
     void bindModule();
+    /// Binds one procedure. Its names can be looked up until another one is bound.
+    void procedure(const ProcedureDecl& decl, Entity& entity);
 
 private:
-    void procedure(const ProcedureDecl& decl, Entity& entity);
+    Entity* declare(EntityKind kind, Symbol name, Pos pos);
+    void used(Pos pos, const Entity& entity) {
+        if (program_.uses) program_.uses->used(module_, pos, entity.isResult ? *function_ : entity);
+    }
+    void used(const Expr* next, const Operand& variable);
+    void usedMember(const Operand& base, const MemberExpr& expr);
+    Operand use(const Entity& entity, const Expr& expr, bool throughObject);
     void declareParameters(const Callable& callable, const ProcedureDecl& decl);
     void declareLabels(const Block& block);
     void declareLabel(const Target& label);
@@ -104,6 +112,7 @@ private:
 
     // Expressions
     Operand expression(const Expr& expr, Use use = Use::Value);
+    Operand operandOf(const Expr* expr, Use use = Use::Value);
     Operand leaf(const Expr& expr);
     Operand literal(const Expr& expr);
     Operand name(const NameExpr& expr);

@@ -65,6 +65,11 @@ Operand Binder::expression(const Expr& expr, Use use) {
     return result;
 }
 
+/// A faulty statement may lack an expression.
+Operand Binder::operandOf(const Expr* expr, Use use) {
+    return expr ? expression(*expr, use) : Operand{OperandKind::Late, {ValueType::Unknown}};
+}
+
 Operand Binder::leaf(const Expr& expr) {
     switch (expr.kind) {
     case ExprKind::Name: return name(as<NameExpr>(expr));

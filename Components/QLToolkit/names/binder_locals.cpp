@@ -6,13 +6,14 @@
 namespace qltoolkit {
 
 void Binder::local(const Variable& variable) {
-    Entity* made = names_.add(EntityKind::Variable, variable.name, variable.pos);
+    Entity* made = declare(EntityKind::Variable, variable.name, variable.pos);
     if (!made) {
         Entity* other = names_.find(variable.name);
         // ReDim or a use before the declaration made it known.
         if (!other->isImplicit) return reportName(Message::DuplicateDeclaration, variable.pos);
         if (other->type.value != ValueType::Unknown) reportName(Message::DuplicateDeclaration, variable.pos);
         made = other;
+        used(variable.pos, *other);
     }
     made->type = types_.typeOf(variable.name, variable.suffix, variable.type, &names_);
     made->type.isArray = variable.isArray;
@@ -27,7 +28,7 @@ void Binder::warnOfUntyped(const Span<Variable>& variables) {
 }
 
 void Binder::localConstant(const Constant& constant) {
-    Entity* made = names_.add(EntityKind::Constant, constant.name, constant.pos);
+    Entity* made = declare(EntityKind::Constant, constant.name, constant.pos);
     if (!made) return reportName(Message::DuplicateDeclaration, constant.pos);
     made->constant = &names_.newConstant();
     made->constant->expression = constant.value;
@@ -62,7 +63,7 @@ Operand Binder::reDimTarget(const ReDimItem& item) {
         const Entity* found = findName(program_, *module_.scope, name.name).entity;
         const bool isOfProject = found && found->owner && found->owner->source;
         if (!names_.find(name.name) && !isOfProject) {
-            Entity& made = *names_.add(EntityKind::Variable, name.name, name.pos);
+            Entity& made = *declare(EntityKind::Variable, name.name, name.pos);
             made.type = item.type ? type : types_.typeOf(name.name, name.suffix(), nullptr);
             made.type.isArray = true;
             made.isUsed = true;

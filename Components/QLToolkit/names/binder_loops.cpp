@@ -25,11 +25,17 @@ bool isCounter(const Type& type) {
 } // namespace
 
 void Binder::forLoop(const ForStmt& loop) {
-    const Operand variable = expression(*loop.variable, Use::Let);
+    const Operand variable = operandOf(loop.variable, Use::Let);
     for (const auto* part : {loop.from, loop.to, loop.step})
         value(part, variable.type.isArray ? ValueType::Unknown : variable.type.value);
     if (mayAssign(variable) && !isCounter(variable.type)) report(Message::TypeMismatch, variable.pos);
     loopBody(variable, loop.body);
+    used(loop.next, variable);
+}
+
+/// The variable after Next, which the parser has compared with the loop's.
+void Binder::used(const Expr* next, const Operand& variable) {
+    if (next && next->kind == ExprKind::Name && variable.entity) used(next->pos, *variable.entity);
 }
 
 void Binder::loopBody(const Operand& variable, const Block& body) {
@@ -44,11 +50,12 @@ void Binder::loopBody(const Operand& variable, const Block& body) {
 }
 
 void Binder::forEach(const ForEachStmt& loop) {
-    const Operand group = expression(*loop.in, Use::Argument);
+    const Operand group = operandOf(loop.in, Use::Argument);
     readValue(group);
-    const Operand variable = expression(*loop.variable, Use::Let);
+    const Operand variable = operandOf(loop.variable, Use::Let);
     if (mayAssign(variable)) forEachVariable(variable, group);
     loopBody(variable, loop.body);
+    used(loop.next, variable);
 }
 
 void Binder::forEachVariable(const Operand& variable, const Operand& group) {

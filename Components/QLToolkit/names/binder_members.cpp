@@ -16,7 +16,13 @@ bool isArrayMember(std::string_view name) {
 
 } // namespace
 
+void Binder::usedMember(const Operand& base, const MemberExpr& expr) {
+    if (!program_.uses) return;
+    program_.uses->member({base.type, base.entity, base.inner, base.kind == OperandKind::Qualifier}, expr.name);
+}
+
 Operand Binder::member(const Operand& base, const MemberExpr& expr) {
+    usedMember(base, expr);
     if (base.kind == OperandKind::Qualifier) return memberOfQualifier(base, expr);
     if (base.type.isArray) {
         if (isControlArray(base) && isArrayMember(program_.symbols.spelling(expr.name))) return late(expr.pos);
@@ -37,7 +43,7 @@ Operand Binder::member(const Operand& base, const MemberExpr& expr) {
 Operand Binder::memberOfQualifier(const Operand& base, const MemberExpr& expr) {
     if (!base.inner) { // the project
         const auto found = findName(program_, *module_.scope, expr.name);
-        if (found.entity) return entityOperand(*found.entity, expr, false);
+        if (found.entity) return use(*found.entity, expr, false);
         return notFound(expr);
     }
     const Scope& inner = *base.inner;
@@ -45,10 +51,10 @@ Operand Binder::memberOfQualifier(const Operand& base, const MemberExpr& expr) {
     const bool isOwn = &inner == module_.scope || inner.kind == ScopeKind::Enum; // who can name it can name its members
     if (found && (found->isPublic || isOwn)) {
         if (expr.suffix() == '$' && found->text) found = const_cast<Entity*>(found->text);
-        return entityOperand(*found, expr, false);
+        return use(*found, expr, false);
     }
     if (const Entity* type = inner.types.find(expr.name); type && (type->isPublic || isOwn))
-        return entityOperand(*type, expr, false);
+        return use(*type, expr, false);
     if (inner.open) return late(expr.pos, ValueType::Unknown);
     return notFound(expr);
 }
@@ -57,10 +63,12 @@ Operand Binder::memberOfObject(const Operand& base, const MemberExpr& expr) {
     const Scope& scope = program_.scope(base.type.id);
     const Entity* found = scope.find(expr.name);
     if (found && found->isPublic) {
-        if (scope.kind == ScopeKind::Record)
+        if (scope.kind == ScopeKind::Record) {
+            used(expr.pos, *found);
             return {base.kind == OperandKind::Property ? OperandKind::Property : OperandKind::Variable, found->type,
                     expr.pos, found};
-        return entityOperand(*found, expr, true);
+        }
+        return use(*found, expr, true);
     }
     if (scope.open) return late(expr.pos, ValueType::Unknown);
     return notFound(expr);
@@ -73,6 +81,7 @@ Operand Binder::notFound(const MemberExpr& expr) {
 
 // object!name is object.DefaultMember("name").
 Operand Binder::bang(const Operand& base, const MemberExpr& expr) {
+    usedMember(base, expr);
     if (base.kind == OperandKind::Qualifier) {
         report(Message::InvalidQualifier, base.pos);
         return late(expr.pos, ValueType::Unknown);

@@ -28,16 +28,16 @@ Operand Binder::name(const NameExpr& expr) {
     if (!found.entity) {
         // Types have names of their own; only an enumeration or a library's module can be followed by a point.
         const Entity* type = memberFollows() ? findType(program_, *module_.scope, Symbol::None, expr.name) : nullptr;
-        return type ? entityOperand(*type, expr, false) : undefined(expr);
+        return type ? use(*type, expr, false) : undefined(expr);
     }
     if (const Entity* function = functionBehind(*found.entity, expr))
-        return entityOperand(expr.suffix() == '$' && function->text ? *function->text : *function, expr, false);
+        return use(expr.suffix() == '$' && function->text ? *function->text : *function, expr, false);
     if (found.isAmbiguous && found.entity->owner != module_.scope) reportName(Message::AmbiguousName, expr.pos);
     const bool isOfProject = found.entity->owner && found.entity->owner->source;
     if (isOfProject && found.entity->kind != EntityKind::Property && contradicts(expr.suffix(), found.entity->type))
         reportName(Message::TypeCharacterMismatch, expr.pos);
-    if (expr.suffix() == '$' && found.entity->text) return entityOperand(*found.entity->text, expr, false);
-    return entityOperand(*found.entity, expr, false);
+    if (expr.suffix() == '$' && found.entity->text) return use(*found.entity->text, expr, false);
+    return use(*found.entity, expr, false);
 }
 
 // A property without parameters cannot take arguments, so Left(s, 1) is the function in a form, which has a property Left,
@@ -62,6 +62,7 @@ const Entity* Binder::libraryFunction(Symbol name) const {
 
 Operand Binder::local(const NameExpr& expr, Entity& entity) {
     entity.isUsed = true;
+    used(expr.pos, entity);
     if (entity.kind == EntityKind::Constant) return {OperandKind::Constant, entity.type, expr.pos, &entity};
     if (contradicts(expr.suffix(), entity.type)) reportName(Message::TypeCharacterMismatch, expr.pos);
     // A function's name with arguments calls the function again; its variable has elements if it has no parameters.
@@ -92,10 +93,15 @@ Operand Binder::undefined(const NameExpr& expr) {
 
 /// The name is known from here on, so that it is reported once in each procedure.
 Operand Binder::implicit(const NameExpr& expr, Type type) {
-    Entity& entity = *names_.add(EntityKind::Variable, expr.name, expr.pos);
+    Entity& entity = *declare(EntityKind::Variable, expr.name, expr.pos);
     entity.type = type;
     entity.isImplicit = true;
     return {OperandKind::Variable, type, expr.pos, &entity};
+}
+
+Operand Binder::use(const Entity& entity, const Expr& expr, bool throughObject) {
+    used(expr.pos, entity);
+    return entityOperand(entity, expr, throughObject);
 }
 
 Operand Binder::entityOperand(const Entity& entity, const Expr& expr, bool throughObject) {
@@ -138,6 +144,7 @@ Operand Binder::addressOf(const UnaryExpr& expr) {
         found = findName(program_, *module_.scope, as<NameExpr>(operand).name).entity;
     else if (operand.kind == ExprKind::Member && as<MemberExpr>(operand).base)
         found = findName(program_, *module_.scope, as<MemberExpr>(operand).name).entity;
+    if (found) used(operand.pos, *found);
     const bool isProcedure = found && found->kind == EntityKind::Procedure && found->owner &&
                              found->owner->kind == ScopeKind::StandardModule;
     if (!isProcedure && !(program_.isIncomplete && !found)) report(Message::InvalidAddressOf, expr.pos);

@@ -209,6 +209,7 @@ void Binder::exitProcedure(bool fits, std::string_view word, Pos pos) {
 
 void Binder::raiseEvent(const RaiseEventStmt& stmt) {
     const Entity* event = module_.scope->events.find(stmt.name);
+    if (event) used(stmt.namePos, *event);
     if (event && event->get) return arguments(*event->get, stmt.arguments, stmt.pos);
     if (!event) module_.diagnostics.report(Message::EventNotFound, stmt.pos, program_.symbols.spelling(stmt.name));
     lateArguments(stmt.arguments);
@@ -230,7 +231,7 @@ void Binder::printTarget(const Expr& target) {
 }
 
 void Binder::with(const BodyStmt& stmt) {
-    Operand object = expression(*stmt.value, Use::Argument);
+    Operand object = operandOf(stmt.value, Use::Argument);
     readValue(object);
     const auto type = object.type.value;
     const bool fits =
@@ -246,7 +247,7 @@ void Binder::with(const BodyStmt& stmt) {
 }
 
 void Binder::select(const SelectStmt& stmt) {
-    const Operand tested = expression(*stmt.value);
+    const Operand tested = operandOf(stmt.value);
     block(stmt.before);
     const auto valueType = [](const Operand& each) { return each.type.isArray ? ValueType::Array : each.type.value; };
     for (const auto& branch : stmt.branches) {

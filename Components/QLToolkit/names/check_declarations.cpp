@@ -35,10 +35,10 @@ public:
         for (const auto& [entity, decl] : module_.records) {
             const auto size = sizes_.of(*entity->inner);
             if (size.isCircle)
-                module_.diagnostics.report(Message::CircularReference, entity->pos,
+                module_.diagnostics.report(Message::CircularReference, decl->pos,
                                            program_.symbols.spelling(entity->name));
             else if (size.bytes > kLargestRecord)
-                module_.diagnostics.report(Message::StaticDataTooLarge, entity->pos);
+                module_.diagnostics.report(Message::StaticDataTooLarge, decl->pos);
         }
         for (const auto& [entity, decl] : module_.variables)
             if (entity->withEvents) eventSource(*entity, *decl);

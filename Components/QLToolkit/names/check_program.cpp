@@ -1,10 +1,7 @@
 #include "Components/QLToolkit/names/check_program.h"
 #include "Components/QLToolkit/names/binder.h"
-#include "Components/QLToolkit/names/declare.h"
-#include "Components/QLToolkit/names/form_controls.h"
-#include "Components/QLToolkit/names/library_scopes.h"
+#include "Components/QLToolkit/names/declare_program.h"
 #include "Components/QLToolkit/names/lookup.h"
-#include "Components/QLToolkit/names/module_name.h"
 #include "Components/QLToolkit/names/resolve.h"
 #include "Components/QLToolkit/source/each_index.h"
 #include "Components/QLToolkit/source/ignored_warnings.h"
@@ -15,35 +12,6 @@ namespace qltoolkit {
 namespace {
 
 using UnknownNames = std::vector<std::pair<Symbol, Pos>>;
-
-/// A module without a name of its own has that of its file.
-Symbol nameOf(const Module& tree, SymbolTable& symbols) {
-    auto name = moduleName(tree, symbols);
-    if (name.empty()) {
-        name = tree.source.name().substr(tree.source.name().find_last_of("/\\") + 1);
-        name = name.substr(0, name.find_last_of('.'));
-    }
-    return symbols.intern(name);
-}
-
-/// Runs a pass over a module. Returns false for a module with too many errors, which is left.
-template <class Pass>
-bool within(const Pass& pass) {
-    try {
-        pass();
-        return true;
-    } catch (const TooManyErrors&) { return false; }
-}
-
-/// Returns whether all declarations of the program are known, whether they are right or not.
-bool resolveAll(Program& program) {
-    Constants constants{program};
-    bool isWhole = true;
-    for (auto& module : program.modules) isWhole &= within([&] { declareControls(program, module); });
-    for (auto& module : program.modules) isWhole &= within([&] { resolveConstantTypes(program, module, constants); });
-    for (auto& module : program.modules) isWhole &= within([&] { resolveModule(program, module, constants); });
-    return isWhole;
-}
 
 void bindAll(Program& program, unsigned threads, std::vector<UnknownNames>& unknown) {
     forEachIndex(program.modules.size(), threads, [&] {
@@ -102,23 +70,9 @@ void checkIgnored(Program& program, SourceModule& module, bool isWhole) {
 std::vector<std::vector<Diagnostic>> checkProgram(const std::vector<ParsedModule>& modules, SymbolTable& symbols,
                                                   const ProgramOptions& options) {
     Program program{symbols};
-    program.isIncomplete = options.isIncomplete;
-    program.warnsOptionally = options.warnsOptionally;
-    program.warnsOfDevices = options.warnsOfDevices;
-    program.warnsOfDeclares = options.warnsOfDeclares;
-    auto libraries = options.libraries;
-    const auto builtIn = language::builtInLibraries();
-    libraries.insert(libraries.begin(), builtIn.begin(), builtIn.end());
-    addLibraries(program, libraries);
-
-    bool isWhole = true;
-    for (const auto& parsed : modules) {
-        auto& module = program.modules.emplace_back(*parsed.tree, parsed.form);
-        isWhole &= within([&] { declareModule(program, module, nameOf(*parsed.tree, symbols)); });
-    }
-    declareProject(program, options.projectName);
-    isWhole &= resolveAll(program);
+    addLibraries(program, options);
     // Declarations that were left have no signatures, so what uses them cannot be checked.
+    const bool isWhole = declareProgram(program, modules, options);
     if (isWhole) checkAll(program, options.threads);
     std::vector<std::vector<Diagnostic>> result;
     for (auto& module : program.modules) within([&] { checkIgnored(program, module, isWhole); });

@@ -136,9 +136,14 @@ std::optional<ConstantValue> Constants::literal(const Expr& expr, const Context&
     }
 }
 
+void Constants::used(const Expr& expr, const Entity* entity, const Context& context) {
+    if (program_.uses && entity) program_.uses->used(context.module, expr.pos, *entity);
+}
+
 std::optional<ConstantValue> Constants::named(const Expr& expr, const Entity* entity, const Context& context) {
     if (!entity && program_.isIncomplete) return std::nullopt;
     if (!entity || entity->kind != EntityKind::Constant) return refuse(expr, context);
+    used(expr, entity, context);
     if (entity->constant->progress != ConstantState::Progress::Done) {
         auto& module = entity->owner && entity->owner->source ? *entity->owner->source : context.module;
         evaluate(*entity, module, entity->owner ? nullptr : context.local);
@@ -149,12 +154,16 @@ std::optional<ConstantValue> Constants::named(const Expr& expr, const Entity* en
 
 // Enumeration.Member, Module.Constant, Library.Constant, and all of them behind the name of the project or library.
 const Entity* Constants::qualified(const MemberExpr& expr, const Context& context) {
-    std::vector<Symbol> names; // from the last one to the first
+    std::vector<const MemberExpr*> names; // from the last one to the first
     const Expr* at = &expr;
-    for (; at && at->kind == ExprKind::Member; at = as<MemberExpr>(*at).base) names.push_back(as<MemberExpr>(*at).name);
+    for (; at && at->kind == ExprKind::Member; at = as<MemberExpr>(*at).base) names.push_back(&as<MemberExpr>(*at));
     if (!at || at->kind != ExprKind::Name) return nullptr;
     const Entity* found = qualifier(nullptr, as<NameExpr>(*at).name, context);
-    for (; found && names.size() > 1; names.pop_back()) found = qualifier(found, names.back(), context);
+    used(*at, found, context);
+    for (; found && names.size() > 1; names.pop_back()) {
+        found = qualifier(found, names.back()->name, context);
+        used(*names.back(), found, context);
+    }
     if (found && found->kind == EntityKind::Project) return findName(program_, *context.module.scope, expr.name).entity;
     return found && found->inner ? found->inner->names.find(expr.name) : nullptr;
 }

@@ -28,6 +28,7 @@ private:
         SourceModule& module;
         LocalConstants local;
     };
+    void used(const Expr& expr, const Entity* entity, const Context& context);
     std::optional<ConstantValue> value(const Expr& expr, const Context& context);
     std::optional<ConstantValue> chain(const Expr& expr, const Context& context);
     std::optional<ConstantValue> unary(const UnaryExpr& expr, const Context& context);

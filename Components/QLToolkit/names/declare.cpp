@@ -72,9 +72,10 @@ private:
     }
 
     void record(const TypeDecl& decl) {
-        Entity& made = entity(EntityKind::Record, decl.name, decl.pos, isPublic(decl, true));
+        Entity& made = entity(EntityKind::Record, decl.name, decl.namePos, isPublic(decl, true));
         Scope& fields = program_.newScope(ScopeKind::Record);
         fields.name = decl.name;
+        fields.source = &module_;
         fields.isPrivate = !made.isPublic;
         made.inner = &fields;
         made.type = {ValueType::Record, false, false, fields.number};
@@ -83,7 +84,7 @@ private:
     }
 
     void enumeration(const EnumDecl& decl) {
-        Entity& made = entity(EntityKind::Enum, decl.name, decl.pos, isPublic(decl, true));
+        Entity& made = entity(EntityKind::Enum, decl.name, decl.namePos, isPublic(decl, true));
         Scope& members = program_.newScope(ScopeKind::Enum);
         members.name = decl.name;
         members.isPrivate = !made.isPublic;
@@ -120,7 +121,7 @@ private:
     }
 
     void event(const EventDecl& decl) {
-        Entity& made = entity(EntityKind::Event, decl.name, decl.pos, true);
+        Entity& made = entity(EntityKind::Event, decl.name, decl.namePos, true);
         enter(scope_.events, made);
         module_.callables.emplace_back(&made, &decl);
     }

@@ -65,9 +65,16 @@ Type DeclaredTypes::defaultType(Symbol name) {
     return {simpleType(module_.defaultTypes[letter - 'a'])};
 }
 
+void DeclaredTypes::reportUse(const TypeRef& ref, const Entity& type) {
+    const auto* qualifier = ref.library == Symbol::None ? nullptr : program_.topNames.find(ref.library);
+    if (qualifier) program_.uses->used(module_, ref.pos, *qualifier);
+    program_.uses->used(module_, ref.namePos, type);
+}
+
 Type DeclaredTypes::namedType(const TypeRef& ref) {
     const Entity* found = findType(program_, *module_.scope, ref.library, ref.name);
     warnOfDevices(ref, found ? found : program_.topNames.find(ref.library));
+    if (found && program_.uses) reportUse(ref, *found);
     if (found) return found->type;
     if (!program_.isIncomplete) {
         const bool isProject = ref.library == Symbol::None && program_.topNames.find(ref.name) &&

@@ -18,6 +18,7 @@ public:
     Type classOf(const TypeRef& ref);
 
 private:
+    void reportUse(const TypeRef& ref, const Entity& type);
     Type namedType(const TypeRef& ref);
     void warnOfDevices(const TypeRef& ref, const Entity* named);
     Type defaultType(Symbol name);

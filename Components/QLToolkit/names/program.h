@@ -68,6 +68,7 @@ public:
     bool warnsOptionally = false; ///< of what is allowed but seldom meant
     bool warnsOfDevices = false;  ///< of what is not on devices
     bool warnsOfDeclares = false; ///< and of Declares themselves
+    UseSink* uses = nullptr;      ///< called for each name, from one thread; null for none
 
 private:
     std::deque<Scope> scopes_; // number 0 is any class

@@ -36,6 +36,8 @@ public:
         }
     }
 
+    void resolve(Entity& entity, const ProcedureDecl& decl) { signature(entity, decl.signature, &decl); }
+
 private:
     void constant(Entity& entity) {
         constants_.evaluate(entity, module_);
@@ -162,6 +164,7 @@ private:
 
     void implements(const ImplementsDecl& decl) {
         const Entity* found = findType(program_, *module_.scope, decl.type->library, decl.type->name);
+        if (found && program_.uses) program_.uses->used(module_, decl.type->namePos, *found);
         if (found && found->inner && found->inner->isClass() && module_.scope->isClass() &&
             found->inner != module_.scope)
             module_.scope->interfaces.push_back(found->inner);
@@ -180,6 +183,11 @@ private:
 
 void resolveConstantTypes(Program& program, SourceModule& module, Constants& constants) {
     ModuleResolution{program, module, constants}.resolveConstantTypes();
+}
+
+void resolveProcedure(Program& program, SourceModule& module, Constants& constants, Entity& entity,
+                      const ProcedureDecl& decl) {
+    ModuleResolution{program, module, constants}.resolve(entity, decl);
 }
 
 void resolveModule(Program& program, SourceModule& module, Constants& constants) {

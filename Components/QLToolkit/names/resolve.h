@@ -11,6 +11,10 @@ void resolveConstantTypes(Program& program, SourceModule& module, Constants& con
 /// Needs the types of all constants. Afterwards the program does not change any more.
 void resolveModule(Program& program, SourceModule& module, Constants& constants);
 
+/// Gives a procedure that is not part of its module its signature.
+void resolveProcedure(Program& program, SourceModule& module, Constants& constants, Entity& entity,
+                      const ProcedureDecl& decl);
+
 /// Needs all modules resolved: interfaces, handlers of events, records that contain themselves.
 void checkDeclarations(Program& program, SourceModule& module, RecordSizes& sizes);
 

@@ -51,10 +51,12 @@ struct ConstantsDecl : Decl {
 };
 struct TypeDecl : Decl {
     Symbol name;
+    Pos namePos;
     Span<Variable> members;
 };
 struct EnumDecl : Decl {
     Symbol name;
+    Pos namePos;
     Span<Constant> members;
 };
 
@@ -89,6 +91,7 @@ struct DeclareDecl : Decl {
 };
 struct EventDecl : Decl {
     Symbol name;
+    Pos namePos;
     Span<Parameter> parameters;
 };
 struct ProcedureDecl : Decl {

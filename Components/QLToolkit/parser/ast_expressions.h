@@ -36,6 +36,7 @@ struct TypeRef {
     Pos pos;
     Symbol library = Symbol::None;
     Symbol name = Symbol::None;   ///< Named only
+    Pos namePos = 0;              ///< of `name`; pos is that of the library
     const Expr* length = nullptr; ///< FixedString only
 };
 

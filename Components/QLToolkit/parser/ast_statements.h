@@ -174,10 +174,12 @@ struct SelectStmt : Stmt {
 struct ForStmt : Stmt {
     const Expr *variable, *from, *to, *step;
     Block body;
-}; ///< step is null for 1
+    const Expr* next;
+}; ///< step is null for 1; next is the variable after Next, null if it is not named
 struct ForEachStmt : Stmt {
     const Expr *variable, *in;
     Block body;
+    const Expr* next; ///< as in ForStmt
 };
 enum class LoopTest : std::uint8_t { None, While, Until };
 struct DoStmt : Stmt {
@@ -197,6 +199,7 @@ struct OnJumpStmt : Stmt {
 };
 struct RaiseEventStmt : Stmt {
     Symbol name;
+    Pos namePos;
     Span<Argument> arguments;
 };
 

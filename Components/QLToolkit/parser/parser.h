@@ -172,7 +172,7 @@ private:
     Stmt* forStatement();
     Stmt* forEachStatement(Pos);
     Stmt* forCounterStatement(Pos);
-    void endFor(const Expr* variable);
+    const Expr* endFor(const Expr* variable);
     Stmt* doStatement();
     LoopTest loopTest(const Expr*& condition);
     Stmt* whileStatement();

@@ -21,8 +21,8 @@ Stmt* Parser::forEachStatement(Pos pos) {
     });
     openBlock(BlockKind::For, pos);
     const Block body = block(BlockKind::For);
-    endFor(variable);
-    return make<ForEachStmt>(stmtHead(StmtKind::ForEach, pos), variable, in, body);
+    const Expr* next = endFor(variable);
+    return make<ForEachStmt>(stmtHead(StmtKind::ForEach, pos), variable, in, body, next);
 }
 
 Stmt* Parser::forCounterStatement(Pos pos) {
@@ -37,21 +37,21 @@ Stmt* Parser::forCounterStatement(Pos pos) {
     });
     openBlock(BlockKind::For, pos);
     const Block body = block(BlockKind::For);
-    endFor(variable);
-    return make<ForStmt>(stmtHead(StmtKind::For, pos), variable, from, to, step, body);
+    const Expr* next = endFor(variable);
+    return make<ForStmt>(stmtHead(StmtKind::For, pos), variable, from, to, step, body, next);
 }
 
 // Next [a [, b ...]]: names after a comma belong to the enclosing loops.
-void Parser::endFor(const Expr* variable) {
+const Expr* Parser::endFor(const Expr* variable) {
     closeBlock();
     if (!inNextList_ && !at(Keyword::Next)) {
         cutShort_ = true;
-        return;
+        return nullptr;
     }
     if (inNextList_ && tok_.endsStatement()) failHere(Message::NameExpected);
     if (!inNextList_) advance();
     inNextList_ = false;
-    if (endsStatement()) return;
+    if (endsStatement()) return nullptr;
     const Pos pos = tok_.begin;
     const std::string text = tokenText();
     const Expr* named = reference();
@@ -59,6 +59,7 @@ void Parser::endFor(const Expr* variable) {
     if (bothNames && as<NameExpr>(*variable).name != as<NameExpr>(*named).name)
         report(Message::NextWrongVariable, pos, text);
     inNextList_ = accept(TokenKind::Comma);
+    return named;
 }
 
 Stmt* Parser::doStatement() {

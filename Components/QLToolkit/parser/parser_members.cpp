@@ -7,7 +7,8 @@ namespace qltoolkit {
 void Parser::typeDeclaration(Visibility visibility, Pos pos) {
     advance();
     Symbol name = Symbol::None;
-    head([&] { name = expectName(); });
+    Pos namePos = 0;
+    head([&] { name = expectName(&namePos); });
     ListBuilder<Variable> members{scratch_.variables};
     const auto errors = diagnostics_.errors();
     for (skipLineEnds(); !atMemberListEnd(Keyword::Type); skipLineEnds()) {
@@ -20,7 +21,8 @@ void Parser::typeDeclaration(Visibility visibility, Pos pos) {
     errorsBefore_ = diagnostics_.errors();
     if (members.size() == 0 && diagnostics_.errors() == errors && at(Keyword::End))
         report(Message::TypeMembersMissing, pos);
-    addDeclaration(make<TypeDecl>(declHead(DeclKind::Type, visibility, pos), name, members.finish(module_.arena)));
+    addDeclaration(
+        make<TypeDecl>(declHead(DeclKind::Type, visibility, pos), name, namePos, members.finish(module_.arena)));
     endMemberList(Keyword::Type, Message::EndTypeMissing, pos);
 }
 
@@ -41,7 +43,8 @@ void Parser::typeMember(ListBuilder<Variable>& members) {
 void Parser::enumDeclaration(Visibility visibility, Pos pos) {
     advance();
     Symbol name = Symbol::None;
-    head([&] { name = expectName(); });
+    Pos namePos = 0;
+    head([&] { name = expectName(&namePos); });
     ListBuilder<Constant> members{scratch_.constants};
     for (skipLineEnds(); !atMemberListEnd(Keyword::Enum); skipLineEnds()) {
         errorsBefore_ = diagnostics_.errors();
@@ -51,7 +54,8 @@ void Parser::enumDeclaration(Visibility visibility, Pos pos) {
         } catch (const SyntaxError&) { recover(); }
     }
     errorsBefore_ = diagnostics_.errors();
-    addDeclaration(make<EnumDecl>(declHead(DeclKind::Enum, visibility, pos), name, members.finish(module_.arena)));
+    addDeclaration(
+        make<EnumDecl>(declHead(DeclKind::Enum, visibility, pos), name, namePos, members.finish(module_.arena)));
     endMemberList(Keyword::Enum, Message::EndEnumMissing, pos);
 }
 

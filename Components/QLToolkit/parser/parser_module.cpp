@@ -132,11 +132,12 @@ void Parser::constants(Visibility visibility, Pos pos) {
 
 void Parser::eventDeclaration(Visibility visibility, Pos pos) {
     advance();
-    const Symbol name = expectName();
+    Pos namePos = 0;
+    const Symbol name = expectName(&namePos);
     const auto list = at(TokenKind::LeftParen) ? parameters(false) : Span<Parameter>{};
     for (const Parameter& p : list)
         if (p.optional || p.paramArray) fail(Message::EventParameter, p.pos);
-    addDeclaration(make<EventDecl>(declHead(DeclKind::Event, visibility, pos), name, list));
+    addDeclaration(make<EventDecl>(declHead(DeclKind::Event, visibility, pos), name, namePos, list));
 }
 
 void Parser::declareDeclaration(Visibility visibility, Pos pos) {

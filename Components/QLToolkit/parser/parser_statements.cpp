@@ -164,9 +164,10 @@ Stmt* Parser::erase() {
 Stmt* Parser::raiseEvent() {
     const Pos pos = tok_.begin;
     advance();
-    const Symbol name = expectName();
+    Pos namePos = 0;
+    const Symbol name = expectName(&namePos);
     const auto arguments = at(TokenKind::LeftParen) ? argumentsInParentheses() : Span<Argument>{};
-    return make<RaiseEventStmt>(stmtHead(StmtKind::RaiseEvent, pos), name, arguments);
+    return make<RaiseEventStmt>(stmtHead(StmtKind::RaiseEvent, pos), name, namePos, arguments);
 }
 
 } // namespace qltoolkit

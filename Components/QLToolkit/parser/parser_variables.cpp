@@ -118,12 +118,14 @@ const TypeRef* Parser::className(bool isNew) {
     auto* type = make<TypeRef>(makeType(TypeKind::Named, isNew, tok_.begin));
     if (!tok_.isWord() || (at(TokenKind::Keyword) && isReserved(tok_.keyword))) failHere(Message::TypeExpected);
     type->name = symbolOf(tok_);
+    type->namePos = tok_.begin;
     advance();
     while (at(TokenKind::Dot)) {
         advance();
         if (!tok_.isWord()) failHere(Message::TypeExpected);
         type->library = type->name;
         type->name = symbolOf(tok_);
+        type->namePos = tok_.begin;
         advance();
     }
     return type;

@@ -31,12 +31,14 @@ bool TreeWalk<Visitor>::blockStatement(const Stmt& stmt) {
         const auto& loop = as<ForStmt>(stmt);
         for (const auto* part : {loop.variable, loop.from, loop.to, loop.step}) expression(part);
         block(loop.body);
+        expression(loop.next);
         return true;
     }
     case StmtKind::ForEach:
         expression(as<ForEachStmt>(stmt).variable);
         expression(as<ForEachStmt>(stmt).in);
         block(as<ForEachStmt>(stmt).body);
+        expression(as<ForEachStmt>(stmt).next);
         return true;
     case StmtKind::Do:
         expression(as<DoStmt>(stmt).condition);

@@ -1,0 +1,180 @@
+// Completion, parameter help, quick info and the check of lines, by keys.
+#include "Apps/workbench/assist/code_assist.h"
+#include "Apps/workbench/assist/line_check.h"
+#include "Apps/workbench/editing/margins.h"
+#include "Apps/workbench/options/declared_options.h"
+#include "tests/workbench/open_desktop.h"
+#include <QListWidget>
+#include <QSettings>
+#include <QStatusBar>
+
+namespace {
+
+const char* const kAssisted = "Private Enum Fruit\r\n  Apple\r\n  Pear\r\nEnd Enum\r\n"
+                              "Private Favourite As Fruit\r\n"
+                              "Sub Main()\r\n    Dim Pets As Collection\r\n    \r\nEnd Sub\r\n"
+                              "Function Sum(First As Long, Optional Second As Long = 2) As Long\r\nEnd Function\r\n";
+constexpr int kEmptyLine = 7;
+
+class Assist : public test::OpenDesktop {
+protected:
+    Assist() {
+        QSettings().clear();
+        open(test::SampleProject().module("modA", kAssisted));
+        text = &code("modA");
+        window().activateWindow();
+        (void)QTest::qWaitForWindowActive(&window());
+        text->setFocus();
+        text->setCursorPosition(kEmptyLine, 4);
+        const auto isKnown = [this] { return bool(workbench::assistOf(*text)); };
+        (void)QTest::qWaitFor(isKnown, test::kLongestWait);
+        settle(400);
+    }
+    ~Assist() override { QSettings().clear(); }
+
+    void type(const char* keys) {
+        QTest::keyClicks(text, keys);
+        settle();
+    }
+    void press(Qt::Key key, Qt::KeyboardModifiers with = Qt::NoModifier) {
+        QTest::keyClick(text, key, with);
+        settle();
+    }
+    QString line() { return text->text(kEmptyLine).trimmed(); }
+    /// The names of the list, separated by blanks; "" if it is not shown.
+    QString list() {
+        if (!text->isListActive()) return {};
+        QStringList names;
+        for (auto* widget : QApplication::topLevelWidgets())
+            if (auto* shown = qobject_cast<QListWidget*>(widget); shown && shown->isVisible())
+                for (int i = 0; i < shown->count(); ++i) names << shown->item(i)->text();
+        return names.join(' ');
+    }
+    QString tip() {
+        auto* const label = text->findChild<QLabel*>("codeTip");
+        return label->isVisible() ? label->text() : QString();
+    }
+
+    QsciScintilla* text = nullptr;
+};
+
+} // namespace
+
+TEST_F(Assist, ListsMembersAfterAPointAndFiltersThemAsTheUserTypes) {
+    type("pets.");
+    EXPECT_EQ(list(), "Add Count Item Remove");
+    type("c");
+    EXPECT_EQ(list(), "Count");
+    press(Qt::Key_Backspace);
+    EXPECT_EQ(list(), "Add Count Item Remove");
+    press(Qt::Key_Escape);
+    EXPECT_EQ(list(), "");
+    EXPECT_EQ(line(), "pets.");
+}
+
+TEST_F(Assist, AcceptsANameByTabEnterAndTheNextCharacter) {
+    type("pets.re");
+    press(Qt::Key_Tab);
+    EXPECT_EQ(line(), "pets.Remove");
+    type(" pets.c");
+    press(Qt::Key_Tab);
+    EXPECT_EQ(line(), "pets.Remove pets.Count");
+    type(" + pets.i(");
+    EXPECT_EQ(line(), "pets.Remove pets.Count + pets.Item(");
+    type("pets.co ");
+    EXPECT_EQ(line(), "pets.Remove pets.Count + pets.Item(pets.Count");
+    type("- pets.co");
+    press(Qt::Key_Return); // names that were accepted count as typed, and the line ends
+    EXPECT_EQ(line(), "Pets.Remove Pets.Count + Pets.Item(Pets.Count - Pets.Count");
+    EXPECT_EQ(text->lines(), 12);
+}
+
+TEST_F(Assist, EnterEndsTheLineIfNothingWasChosen) {
+    type("pets.");
+    press(Qt::Key_Return);
+    EXPECT_EQ(list(), "");
+    EXPECT_EQ(line(), "Pets.");
+    EXPECT_EQ(text->lines(), 12);
+}
+
+TEST_F(Assist, ListsTypesAndValuesWhereTheyMustFollow) {
+    type("Dim x As ");
+    EXPECT_TRUE(list().split(' ').contains("Fruit"));
+    type("frui");
+    press(Qt::Key_Tab);
+    EXPECT_EQ(line(), "Dim x As Fruit");
+    type(": favourite = ");
+    EXPECT_EQ(list(), "Apple Pear");
+    type("2");
+    EXPECT_EQ(list(), "");
+}
+
+TEST_F(Assist, CompletesAWordOnRequest) {
+    type("favou");
+    press(Qt::Key_Space, Qt::ControlModifier);
+    EXPECT_EQ(line(), "Favourite");
+    type(" = x");
+    press(Qt::Key_Backspace);
+    press(Qt::Key_J, Qt::ControlModifier);
+    EXPECT_TRUE(list().split(' ').contains("MsgBox"));
+}
+
+TEST_F(Assist, ShowsTheParametersOfACall) {
+    type("x = Sum(");
+    EXPECT_EQ(tip(), "Sum(<b>First As Long</b>, [Second As Long = 2]) As Long");
+    type("1, ");
+    EXPECT_EQ(tip(), "Sum(First As Long, <b>[Second As Long = 2]</b>) As Long");
+    press(Qt::Key_Home);
+    EXPECT_EQ(tip(), "");
+    press(Qt::Key_End);
+    press(Qt::Key_I, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_NE(tip(), "");
+    press(Qt::Key_Escape);
+    EXPECT_EQ(tip(), "");
+    EXPECT_EQ(line(), "x = Sum(1,");
+}
+
+TEST_F(Assist, ShowsHowANameIsDeclared) {
+    type("Favourite");
+    press(Qt::Key_I, Qt::ControlModifier);
+    EXPECT_EQ(tip(), "Private Favourite As Fruit");
+    press(Qt::Key_Left);
+    EXPECT_EQ(tip(), "");
+}
+
+TEST_F(Assist, ObeysTheOptions) {
+    workbench::kAutoListMembers.store(false);
+    workbench::kAutoQuickInfo.store(false);
+    type("pets.");
+    EXPECT_EQ(list(), "");
+    type("add ");
+    EXPECT_EQ(tip(), "");
+    press(Qt::Key_Backspace);
+    press(Qt::Key_J, Qt::ControlModifier);
+    EXPECT_EQ(list(), "Add");
+}
+
+TEST_F(Assist, MarksALineWithAnErrorWhenItIsLeft) {
+    const auto isMarked = [this] { return (text->markersAtLine(kEmptyLine) & 1u << workbench::kSyntaxMark) != 0; };
+    type("x = (1 +");
+    EXPECT_FALSE(isMarked());
+    press(Qt::Key_Up);
+    EXPECT_TRUE(isMarked());
+    EXPECT_NE(window().statusBar()->currentMessage(), "");
+    text->setCursorPosition(kEmptyLine, int(text->text(kEmptyLine).size()) - 1);
+    type(" 2)");
+    press(Qt::Key_Up);
+    EXPECT_FALSE(isMarked());
+    workbench::kAutoSyntaxCheck.store(false);
+    text->setCursorPosition(kEmptyLine, int(text->text(kEmptyLine).size()) - 1);
+    type(")");
+    press(Qt::Key_Up);
+    EXPECT_FALSE(isMarked());
+}
+
+TEST_F(Assist, KnowsNewDeclarationsAfterAPause) {
+    text->append("\nPublic Function Fresh(Given As String) As Long\nEnd Function\n");
+    settle(700);
+    type("x = Fresh(");
+    EXPECT_EQ(tip(), "Fresh(<b>Given As String</b>) As Long");
+}
