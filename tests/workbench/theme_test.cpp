@@ -1,5 +1,6 @@
 // The contrast of the colours, as the accessibility guidelines define it: 4.5 to 1 for text, 3 to 1 for edges.
 #include "Apps/workbench/base/application_name.h"
+#include "Apps/workbench/base/icon_colours.h"
 #include "Apps/workbench/base/text.h"
 #include "Apps/workbench/properties/form_colours.h"
 #include "tests/workbench/running_bench.h"
@@ -123,10 +124,19 @@ TEST_P(Themes, TheRowWithTheFocusIsMarked) {
 
 TEST_P(Themes, EachColourOfTheCodeIsAColour) {
     const auto& [paper, text, keyword, comment, string, number, directive, margin, marginText, currentLine, error,
-                 warning] = workbench::codeColours(GetParam());
-    for (const auto& colour :
-         {paper, text, keyword, comment, string, number, directive, margin, marginText, currentLine, error, warning})
+                 warning, chosenName] = workbench::codeColours(GetParam());
+    for (const auto& colour : {paper, text, keyword, comment, string, number, directive, margin, marginText,
+                               currentLine, error, warning, chosenName})
         EXPECT_TRUE(colour.isValid());
+}
+
+TEST_P(Themes, AChosenNameAndItsIconAreReadable) {
+    const auto& chosen = workbench::codeColours(GetParam()).chosenName;
+    EXPECT_GE(contrast(chosen, palette.color(QPalette::Text)), kForText);
+    for (const auto& colour : workbench::kIconColours) {
+        const auto least = colour.word == "paper" ? 1 : kForEdges;
+        EXPECT_GE(contrast(chosen, colour.in(GetParam())), least) << colour.word;
+    }
 }
 
 TEST(Settings, AreKeptUnderTheNamesOfTheProgram) {

@@ -1,9 +1,12 @@
 #include "Apps/workbench/assist/name_offers.h"
 #include "Apps/workbench/assist/name_icons.h"
 #include "Apps/workbench/assist/typed_place.h"
+#include "Apps/workbench/base/theme.h"
 #include "Apps/workbench/editing/code_input.h"
 #include "Apps/workbench/options/declared_options.h"
 #include "Basic/case_folding.h"
+#include <QGuiApplication>
+#include <QListWidget>
 
 namespace workbench {
 
@@ -17,6 +20,15 @@ constexpr char kBetweenNames = '\n', kBeforeIcon = '\t';
 
 /// After these a chosen name is accepted, and they are inserted.
 constexpr const char* kAccepting = " .(),=+-*/&<>!:";
+
+/// Icons must remain readable on the chosen row, and the list never has the focus that the usual colour depends on.
+void colourList(const QsciScintilla& text) {
+    auto palette = QGuiApplication::palette();
+    palette.setColor(QPalette::Highlight, codeColours(currentTheme()).chosenName);
+    palette.setColor(QPalette::HighlightedText, palette.color(QPalette::Text));
+    // the last list may not be deleted yet
+    for (auto* list : text.findChildren<QListWidget*>()) list->setPalette(palette);
+}
 
 } // namespace
 
@@ -82,6 +94,7 @@ void NameOffers::show(bool completesSingle) {
     text_.SendScintilla(Sci::SCI_AUTOCSETCHOOSESINGLE, (unsigned long)completesSingle);
     text_.SendScintilla(Sci::SCI_AUTOCSETFILLUPS, begun.isEmpty() ? "" : kAccepting);
     text_.SendScintilla(Sci::SCI_AUTOCSHOW, (unsigned long)begun.size(), list.constData());
+    colourList(text_);
 }
 
 void NameOffers::acceptChosen() {

@@ -92,6 +92,9 @@ inline constexpr std::array kIconTable{
     IconDrawing{"References",
                 "BLUE R 1.5 3 3 11 AMBER R 5.5 2 3 12 ink R 1.5 3 3 11 R 5.5 2 3 12 M 9.5 4 L 12 3 15 13 12.5 14 Z"},
     IconDrawing{"Components", "BLUE R 2 2 5 5 AMBER R 9 2 5 5 GREEN R 2 9 5 5 ink R 9 9 5 5"},
+    IconDrawing{"Migration",
+                "ink R 1.5 1.5 7.5 10 M 3.5 4.5 L 7 4.5 M 3.5 7.5 L 6 7.5 BLUE R 10.5 5 4.5 6.5 ink R 10.5 5 4.5 9.5 "
+                "green M 3 14 L 8.5 14 M 7 12.5 L 8.5 14 7 15.5"},
     IconDrawing{"ListNames",
                 "ink M 2 2 L 6 2 R 4.5 4.5 10 10 BLUE R 5.5 5.5 8 2.5 ink M 6.5 10 L 12 10 M 6.5 12.5 L 10 12.5"},
     IconDrawing{"CompleteWord", "ink T 0 1 9 a M 1 13.5 L 15 13.5 blue M 8 7 L 14 7 M 11.5 4.5 L 14 7 11.5 9.5"},

@@ -33,10 +33,10 @@ QPalette paletteOf(Theme theme) {
                : paletteOf("#2b2d30", "#1e1f22", "#35373b", "#dcdde0", "#3574c4", "#a2a4a9", "#7fb3f5", "#4f535a");
 }
 
-const CodeColours kLightCode{"#ffffff", "#1b1b1b", "#0033b3", "#2e7d32", "#a3381c", "#1750a8",
-                             "#7a3e9d", "#f4f4f4", "#646464", "#f3f7fd", "#c42b2b", "#8a5f00"};
-const CodeColours kDarkCode{"#1e1f22", "#dcdde0", "#6ea8fe", "#7fb77e", "#e09a76", "#b5cea8",
-                            "#c792ea", "#26282b", "#a2a4a9", "#27292d", "#f4766e", "#d9a83a"};
+const CodeColours kLightCode{"#ffffff", "#1b1b1b", "#0033b3", "#2e7d32", "#a3381c", "#1750a8", "#7a3e9d",
+                             "#f4f4f4", "#646464", "#f3f7fd", "#c42b2b", "#8a5f00", "#cfe2fa"};
+const CodeColours kDarkCode{"#1e1f22", "#dcdde0", "#6ea8fe", "#7fb77e", "#e09a76", "#b5cea8", "#c792ea",
+                            "#26282b", "#a2a4a9", "#27292d", "#f4766e", "#d9a83a", "#2f4a73"};
 
 } // namespace
 

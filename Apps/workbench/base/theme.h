@@ -18,7 +18,8 @@ QColor edgeColour(Theme theme);
 
 /// The colours of the code windows.
 struct CodeColours {
-    QColor paper, text, keyword, comment, string, number, directive, margin, marginText, currentLine, error, warning;
+    QColor paper, text, keyword, comment, string, number, directive, margin, marginText, currentLine, error, warning,
+        chosenName;
 };
 const CodeColours& codeColours(Theme theme);
 

@@ -18,12 +18,13 @@
 #include <QSaveFile>
 #include <QSignalBlocker>
 #include <QTreeWidget>
+#include <algorithm>
 
 namespace workbench {
 
 namespace {
 
-constexpr int kWidth = 860, kHeight = 520, kNameWidth = 270, kPlaceWidth = 170;
+constexpr int kWidth = 940, kHeight = 520, kMostWidth = 300;
 /// More places are shown in closed groups.
 constexpr std::size_t kMostOpen = 200;
 constexpr int kIndexRole = Qt::UserRole;
@@ -80,8 +81,6 @@ void MigrationReport::build() {
     tree_->setObjectName("migrationPlaces");
     tree_->setAccessibleName("What hinders the project");
     tree_->setHeaderLabels({"What", "Where", "What to use instead"});
-    tree_->setColumnWidth(0, kNameWidth);
-    tree_->setColumnWidth(1, kPlaceWidth);
     tree_->setUniformRowHeights(true);
     auto* const caption = new QLabel("&Device:");
     caption->setBuddy(devices_);
@@ -154,6 +153,8 @@ void MigrationReport::list(const apps::Migration& found) {
     if (!found.errors.empty()) summary += ". The check found errors, so the code may contain further places";
     summary_->setText(summary + ".");
     QTreeWidgetItem* group = nullptr;
+    auto headingFont = tree_->font();
+    headingFont.setBold(true);
     for (std::size_t i = 0; i < found_.hindrances.size(); ++i) {
         const auto& each = found_.hindrances[i];
         if (i == 0 || found_.hindrances[i - 1].kind != each.kind) {
@@ -161,13 +162,23 @@ void MigrationReport::list(const apps::Migration& found) {
             group = new QTreeWidgetItem(tree_,
                                         {QString("%1: %2").arg(qt(std::string(heading))).arg(found_.count(each.kind))});
             group->setFirstColumnSpanned(true);
+            group->setFont(0, headingFont);
             group->setExpanded(found_.hindrances.size() <= kMostOpen);
         }
         auto* const item = new QTreeWidgetItem(group, {qt(each.name), placeOf(found_, each), qt(each.instead)});
         for (int column = 0; column < tree_->columnCount(); ++column) item->setToolTip(column, item->text(column));
         item->setData(0, kIndexRole, int(i));
     }
+    fitColumns();
     tree_->setCurrentItem(tree_->topLevelItem(0));
+}
+
+/// The last column, with the longest texts, gets what the others leave.
+void MigrationReport::fitColumns() {
+    for (int column = 0; column + 1 < tree_->columnCount(); ++column) {
+        tree_->resizeColumnToContents(column);
+        tree_->setColumnWidth(column, std::min(tree_->columnWidth(column), kMostWidth));
+    }
 }
 
 void MigrationReport::choose(const QTreeWidgetItem* item) {

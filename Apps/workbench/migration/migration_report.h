@@ -33,6 +33,7 @@ private:
     void stop();
     void showRunning(bool isRunning);
     void list(const apps::Migration& found);
+    void fitColumns();
     void choose(const QTreeWidgetItem* item);
     void copy();
     void save();

@@ -66,7 +66,7 @@ constexpr std::array kCommandIcons{
     CommandIcon{kResultsId, "FindAll"},
     CommandIcon{kReferencesId, "References"},
     CommandIcon{kComponentsId, "Components"},
-    CommandIcon{kMigrationId, "Messages"},
+    CommandIcon{kMigrationId, "Migration"},
     CommandIcon{kIndentId, "Indent"},
     CommandIcon{kOutdentId, "Outdent"},
     CommandIcon{kCommentId, "Comment"},
