@@ -1,12 +1,16 @@
 // Completion, parameter help, quick info and the check of lines, by keys.
 #include "Apps/workbench/assist/code_assist.h"
 #include "Apps/workbench/assist/line_check.h"
+#include "Apps/workbench/base/theme.h"
 #include "Apps/workbench/editing/margins.h"
 #include "Apps/workbench/options/declared_options.h"
 #include "tests/workbench/open_desktop.h"
+#include <QHelpEvent>
 #include <QListWidget>
+#include <QScreen>
 #include <QSettings>
 #include <QStatusBar>
+#include <QToolTip>
 
 namespace {
 
@@ -49,6 +53,24 @@ protected:
             if (auto* shown = qobject_cast<QListWidget*>(widget); shown && shown->isVisible())
                 for (int i = 0; i < shown->count(); ++i) names << shown->item(i)->text();
         return names.join(' ');
+    }
+    /// Rests the mouse on a column of the line; returns the tool tip.
+    QString hover(int column) {
+        QToolTip::hideText();
+        settle(400); // Qt hides it with a delay
+        const auto at = long(text->positionFromLineIndex(kEmptyLine, column));
+        const QPoint point(int(text->SendScintilla(QsciScintilla::SCI_POINTXFROMPOSITION, 0UL, at)) + 2,
+                           int(text->SendScintilla(QsciScintilla::SCI_POINTYFROMPOSITION, 0UL, at)) + 2);
+        QHelpEvent event(QEvent::ToolTip, point, text->viewport()->mapToGlobal(point));
+        QApplication::sendEvent(text->viewport(), &event);
+        return QToolTip::isVisible() ? QToolTip::text() : QString();
+    }
+    /// The lines, from 0, with the mark of a syntax error.
+    std::vector<int> marked() {
+        std::vector<int> lines;
+        for (int line = 0; line < text->lines(); ++line)
+            if ((text->markersAtLine(line) & 1u << workbench::kSyntaxMark) != 0) lines.push_back(line);
+        return lines;
     }
     QString tip() {
         auto* const label = text->findChild<QLabel*>("codeTip");
@@ -177,4 +199,94 @@ TEST_F(Assist, KnowsNewDeclarationsAfterAPause) {
     settle(700);
     type("x = Fresh(");
     EXPECT_EQ(tip(), "Fresh(<b>Given As String</b>) As Long");
+}
+
+TEST_F(Assist, TheMouseShowsHowANameIsDeclared) {
+    type("x = Favourite + Sum(1)");
+    EXPECT_EQ(hover(6 + 4), "Private Favourite As Fruit");
+    EXPECT_EQ(hover(4), "Dim x");
+    EXPECT_EQ(hover(6), "");
+    workbench::kAutoQuickInfo.store(false);
+    EXPECT_EQ(hover(6 + 4), "");
+}
+
+TEST_F(Assist, NamesHaveIconsThatTheChosenRowShows) {
+    type("pets.");
+    type("c");
+    QListWidget* shown = nullptr;
+    for (auto* each : text->findChildren<QListWidget*>())
+        if (each->isVisible()) shown = each;
+    ASSERT_TRUE(shown);
+    EXPECT_FALSE(shown->item(0)->icon().isNull());
+    EXPECT_EQ(shown->palette().color(QPalette::Inactive, QPalette::Highlight),
+              workbench::codeColours(workbench::currentTheme()).chosenName);
+}
+
+TEST_F(Assist, ATipIsBelowTheLineAndOnTheScreen) {
+    type("x = Sum(");
+    const auto* const label = text->findChild<QLabel*>("codeTip");
+    const auto cursor = text->SendScintilla(QsciScintilla::SCI_GETCURRENTPOS);
+    const auto top = int(text->SendScintilla(QsciScintilla::SCI_POINTYFROMPOSITION, 0UL, cursor));
+    const auto bottom = text->viewport()->mapToGlobal(QPoint(0, top + text->textHeight(kEmptyLine))).y();
+    EXPECT_EQ(label->y(), bottom);
+    window().move(window().screen()->availableGeometry().right() - 400, 0);
+    type("1, ");
+    EXPECT_LE(label->x() + label->width() - 1, window().screen()->availableGeometry().right());
+}
+
+TEST_F(Assist, ATipIsHiddenWithTheFocus) {
+    type("x = Sum(");
+    EXPECT_NE(tip(), "");
+    window().explorer().setFocus();
+    settle();
+    EXPECT_EQ(tip(), "");
+}
+
+TEST_F(Assist, ATextThatIsAnArgumentKeepsTheTip) {
+    type("x = Sum(\"a, b");
+    EXPECT_EQ(tip(), "Sum(<b>First As Long</b>, [Second As Long = 2]) As Long");
+}
+
+TEST_F(Assist, MarksTheLineOfAStatementThatHasTheError) {
+    type("x = 1 + _");
+    press(Qt::Key_Return);
+    type(")");
+    press(Qt::Key_Home, Qt::ControlModifier);
+    EXPECT_THAT(marked(), testing::ElementsAre(kEmptyLine + 1));
+    type("Dim y As");
+    press(Qt::Key_Down);
+    EXPECT_THAT(marked(), testing::Contains(kEmptyLine + 1));
+}
+
+TEST_F(Assist, ACodeWindowClosesWithItsListAndItsTip) {
+    type("Sum pets.");
+    EXPECT_NE(list(), "");
+    EXPECT_NE(tip(), "");
+    window().code().closeCurrent();
+    settle();
+    EXPECT_FALSE(window().code().current());
+    EXPECT_EQ(code("modA").text(kEmptyLine).trimmed(), "Sum pets.");
+}
+
+TEST_F(Assist, AProjectIsRemovedWhileItIsReadAndNamesAreShown) {
+    text->append("\nPublic Fresh As Long\n");
+    settle(290); // the pause after which it is read again
+    type("pets.");
+    EXPECT_NE(list(), "");
+    clean(project());
+    bench->host().VBProjects()->Remove(project());
+    settle(700);
+    EXPECT_FALSE(window().code().current());
+}
+
+TEST_F(Assist, TheProgramEndsWhileAProjectIsReadAndNamesAreShown) {
+    std::string large;
+    for (int i = 0; i < 3000; ++i) large += "Sub Part" + std::to_string(i) + "()\r\n    x = 1\r\nEnd Sub\r\n";
+    const auto path = test::SampleProject("Large").module("modLarge", large).writeTo(folder);
+    bench->open(path);
+    text = &code("modLarge"); // begins to read it
+    text->setFocus();
+    text->setCursorPosition(1, 0);
+    QTest::keyClicks(text, "Sum Collection.");
+    end();
 }

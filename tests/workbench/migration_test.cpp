@@ -1,13 +1,17 @@
 // The report about what hinders a project on a device.
 #include "Apps/workbench/migration/migration_report.h"
+#include "Host/model/projects.h"
 #include "tests/workbench/keyboard_access.h"
 #include "tests/workbench/open_desktop.h"
 #include <QClipboard>
 #include <QComboBox>
+#include <QFileDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QTreeWidget>
 
+using testing::Contains;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using workbench::MigrationReport;
@@ -38,6 +42,12 @@ protected:
             texts.push_back((row->text(0) + " | " + row->text(1) + " | " + row->text(2)).toStdString());
         }
         return texts;
+    }
+    /// Presses Enter on the first place of the first group.
+    void goToFirst(MigrationReport& report) {
+        tree(report).setCurrentItem(tree(report).topLevelItem(0)->child(0));
+        QTest::keyClick(&tree(report), Qt::Key_Return);
+        settle();
     }
     void openShop() {
         open(test::SampleProject().module("modShop", "Sub Main()\r\n  Shell \"notepad.exe\"\r\nEnd Sub\r\n"));
@@ -97,6 +107,74 @@ TEST_F(MigrationDesktop, EscapeStopsTheSearch) {
     EXPECT_EQ(tree(*report).topLevelItemCount(), 0);
     EXPECT_TRUE(report->isVisible());
     report->close();
+}
+
+TEST_F(MigrationDesktop, EnterOpensTheFormOfAControl) {
+    auto form = test::formText("frmShop");
+    form.insert(form.find("End\r\n"), "   Begin Gauge.Needle Needle1 \r\n   End\r\n");
+    open(test::SampleProject().member("Form=frmShop.frm", "frmShop.frm", form));
+    auto& report = openReport();
+    EXPECT_THAT(rows(*tree(report).topLevelItem(0)), Contains(HasSubstr("Needle1 (Gauge.Needle) | frmShop.frm:10")));
+    goToFirst(report);
+    ASSERT_TRUE(window().design().forms().current());
+    report.close();
+}
+
+TEST_F(MigrationDesktop, TheLineOfThePlaceLeavesOutHiddenAttributes) {
+    open(test::SampleProject().classModule("clsShop", "Property Get Item()\r\nAttribute Item.VB_UserMemId = 0\r\n"
+                                                      "End Property\r\nSub Run()\r\n  Shell \"a\"\r\nEnd Sub\r\n"));
+    auto& report = openReport();
+    goToFirst(report);
+    ASSERT_TRUE(window().code().current());
+    int line = -1, column = -1;
+    window().code().current()->scintilla().getCursorPosition(&line, &column);
+    EXPECT_EQ(line, 3);
+    report.close();
+}
+
+TEST_F(MigrationDesktop, SaveAsWritesTheText) {
+    openShop();
+    auto& report = openReport();
+    const auto path = folder / "report.txt";
+    answer([](QMessageBox& box) { box.accept(); },
+           [&](QDialog& dialog) {
+               dialog.findChild<QLineEdit*>("fileNameEdit")->setText(QString::fromStdString(path));
+               QMetaObject::invokeMethod(&dialog, "accept");
+           });
+    report.findChild<QPushButton*>("saveMigration")->click();
+    report.findChild<QPushButton*>("copyMigration")->click();
+    EXPECT_EQ(folder.read("report.txt"), QGuiApplication::clipboard()->text().toStdString());
+    EXPECT_THAT(folder.read("report.txt"), HasSubstr("modShop.bas:3: Shell"));
+    EXPECT_TRUE(boxes.empty());
+    report.close();
+}
+
+TEST_F(MigrationDesktop, AProjectWithoutAFileMustBeSavedFirst) {
+    bench->host().projects().addNew();
+    settle();
+    answer([](QMessageBox& box) { box.accept(); });
+    menuItem("&Project", "Mi&gration Report...")->trigger();
+    EXPECT_THAT(boxes, ElementsAre(HasSubstr("Save the project first.")));
+    EXPECT_FALSE(window().findChild<MigrationReport*>());
+}
+
+TEST_F(MigrationDesktop, AProjectMayBeRemovedDuringTheSearchAndAfterIt) {
+    openShop();
+    menuItem("&Project", "Mi&gration Report...")->trigger();
+    auto& report = *window().findChild<MigrationReport*>();
+    clean(project());
+    bench->host().VBProjects()->Remove(project());
+    finish(report);
+    EXPECT_THAT(summary(report), HasSubstr("1 place to change"));
+    goToFirst(report);
+    EXPECT_FALSE(window().code().current());
+    report.close();
+}
+
+TEST_F(MigrationDesktop, TheProgramEndsDuringTheSearch) {
+    openShop();
+    menuItem("&Project", "Mi&gration Report...")->trigger();
+    end();
 }
 
 TEST_F(MigrationDesktop, IsDrawnInBothThemes) {
