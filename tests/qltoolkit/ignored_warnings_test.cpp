@@ -60,11 +60,14 @@ TEST(IgnoredWarnings, OtherCommentsAndTextsIgnoreNothing) {
     EXPECT_THAT(warningsOf("Sub A()\nx = 1 ' fernwick: ignored 2900\nEnd Sub"), ElementsAre("2:1 2900"));
     EXPECT_THAT(warningsOf("Sub A()\nx = 1 ' the fernwick: ignore 2900\nEnd Sub"), ElementsAre("2:1 2900"));
     EXPECT_THAT(warningsOf("Sub A()\nx = 1 ' fernwick ignore: 2900\nEnd Sub"), ElementsAre("2:1 2900"));
+    EXPECT_THAT(warningsOf("Sub A()\nx = 1 ' fernwick: accept 2900\nEnd Sub"), ElementsAre("2:1 2900"));
 }
 
 TEST(IgnoredWarnings, ALongLineOfCommentsIsReadInNoTime) {
-    std::string code = "x = \"\" '";
-    for (int i = 0; i < 100'000; ++i) code += "fernwick: ignore 2900, '";
-    const qltoolkit::SourceText source{"Module1.bas", code};
-    EXPECT_THAT(qltoolkit::IgnoredWarnings{source}.listed(), testing::SizeIs(1));
+    for (const std::string part : {"fernwick: ignore 2900, '", "2900, "}) {
+        std::string code = "x = \"\" ' fernwick: ignore 2900, ";
+        for (int i = 0; i < 100'000; ++i) code += part;
+        const qltoolkit::SourceText source{"Module1.bas", code};
+        EXPECT_THAT(qltoolkit::IgnoredWarnings{source}.listed(), testing::SizeIs(1));
+    }
 }

@@ -125,11 +125,23 @@ TEST_F(Completion, SpellsNamesAsTheyAreDeclared) {
     other.add("Module1.bas", "Sub Main()\n  MYNAME = 1: msgbox 1\nEnd Sub\nPublic MyName As Long\n");
     EXPECT_TRUE(other.offers(in("  |"), "MyName"));
     EXPECT_TRUE(other.offers(in("  |"), "MsgBox"));
+    InsightProgram modules;
+    modules.add("Module1.bas", "Sub Main()\n  Dim p As pERSON\nEnd Sub\n").add("Person.cls", kInsightClass);
+    EXPECT_TRUE(modules.offers(in("  Dim p As |"), "Person"));
 }
 
 TEST_F(Completion, HidesWhatLibrariesHide) {
     EXPECT_FALSE(program.offers(in("  x = VBA.|"), "_HiddenInterface"));
     for (const auto& each : program.offer(in("  x = VBA.|")).names) EXPECT_NE(each.name[0], '_');
+    EXPECT_FALSE(program.offers(in("  x = |"), "vbMsgBoxText"));
+}
+
+TEST_F(Completion, HidesWhatOtherModulesCannotUse) {
+    InsightProgram other;
+    other.add("Person.cls", kInsightClass + std::string("Public Enum Mood\n  Happy\nEnd Enum\n"))
+        .add("Module1.bas", kInsightModule);
+    EXPECT_EQ(other.names("Sub Run()\n  Module1.|"), "Pick Report Sum Total Where");
+    EXPECT_EQ(other.names("Sub Run()\n  Dim p As Person\n  p.|"), "Age Child Grow Name");
 }
 
 TEST_F(Completion, OffersEventsAfterRaiseEvent) {

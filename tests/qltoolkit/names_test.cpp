@@ -351,4 +351,10 @@ TEST(Names, TheModulesOwnNameIsNotAmbiguous) {
                     .add("M3.bas", "Sub B()\nRate = 1\nEnd Sub\n")
                     .messages(),
                 ElementsAre("M3.bas:2:1 2004"));
+    const std::string rates = "Public Enum Rates\nLow\nEnd Enum\n";
+    EXPECT_THAT(CheckedProgram{}
+                    .add("M1.bas", "Public Enum Levels\nLow\nEnd Enum\n")
+                    .add("M2.bas", rates + "Sub A()\nDebug.Print Low\nEnd Sub\n")
+                    .messages(),
+                IsEmpty());
 }

@@ -29,7 +29,7 @@ const Entity* declaredName(Snapshot& snapshot, int module, std::string_view name
 std::string quickInfo(Snapshot& snapshot, int module, std::string_view procedure, std::size_t pos) {
     if (!snapshot.has(module)) return {};
     const TypedStatement statement{procedure.substr(0, endOfName(procedure, pos))};
-    if (statement.isInText() || statement.partial().empty()) return {};
+    if (statement.partial().empty()) return {};
     const Probe probe{snapshot, module, procedure};
     if (probe.isBound()) {
         const Entity* found = probe.nameAt(pos);

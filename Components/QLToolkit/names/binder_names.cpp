@@ -32,7 +32,7 @@ Operand Binder::name(const NameExpr& expr) {
     }
     if (const Entity* function = functionBehind(*found.entity, expr))
         return use(expr.suffix() == '$' && function->text ? *function->text : *function, expr, false);
-    if (found.isAmbiguous && found.entity->owner != module_.scope) reportName(Message::AmbiguousName, expr.pos);
+    if (found.isAmbiguous) reportName(Message::AmbiguousName, expr.pos);
     const bool isOfProject = found.entity->owner && found.entity->owner->source;
     if (isOfProject && found.entity->kind != EntityKind::Property && contradicts(expr.suffix(), found.entity->type))
         reportName(Message::TypeCharacterMismatch, expr.pos);
