@@ -8,6 +8,7 @@ Reference=*\A..\Tools\Tools.vbp
 Object={831FDD16-0C5C-11D2-A9FC-0000F8754DA1}#2.0#0; MSCOMCTL.OCX
 Object={11111111-2222-3333-4444-555555555555}#1.0#0; Gauge.ocx
 Form=frmShop.frm
+Form=mdiShop.frm
 Module=modShop; modShop.bas
 UserControl=Dial.ctl
 Name="Shop"
@@ -24,6 +25,12 @@ Begin VB.Form frmShop
    End
    Begin Gauge.Needle Needle1 
    End
+   Begin Tavlets.QLLabel lblTotal 
+   End
+   Begin VB.Frame fraTotal 
+      Begin VB.OLE oleTotal 
+      End
+   End
 End
 Attribute VB_Name = "frmShop"
 Option Explicit
@@ -33,6 +40,12 @@ Private Sub cmdPrint_Click()
   PrintForm
   MousePointer = 11
 End Sub
+P
+crlf mdiShop.frm <<'P'
+VERSION 5.00
+Begin VB.MDIForm mdiShop 
+End
+Attribute VB_Name = "mdiShop"
 P
 crlf modShop.bas <<'P'
 Attribute VB_Name = "modShop"
