@@ -90,7 +90,7 @@ void NameOffers::show(bool completesSingle) {
         list.append(name.data(), qsizetype(name.size())).append(kBeforeIcon).append(QByteArray::number(int(kind)));
     }
     if (list.isEmpty()) return close();
-    registerNameIcons(text_); // in the present theme
+    if (!isShown()) registerNameIcons(text_); // in the present theme
     text_.SendScintilla(Sci::SCI_AUTOCSETCHOOSESINGLE, (unsigned long)completesSingle);
     text_.SendScintilla(Sci::SCI_AUTOCSETFILLUPS, begun.isEmpty() ? "" : kAccepting);
     text_.SendScintilla(Sci::SCI_AUTOCSHOW, (unsigned long)begun.size(), list.constData());
