@@ -31,7 +31,7 @@ double processorMilliseconds() {
 }
 
 struct KeyTimes {
-    double letter = 1e9, enter = 1e9, rest = 1e9;
+    double letter = 1e9, enter = 1e9, name = 1e9, rest = 1e9;
 };
 
 /// Of one key with its painting, on average; the best of several rounds.
@@ -62,6 +62,9 @@ KeyTimes timesOf(const std::string& project) {
     times.letter = timeOf(kKeys, [&text](int) { QTest::keyClick(&text, Qt::Key_A); });
     // half of them leave a typed line, whose words are corrected
     times.enter = timeOf(kKeys, [&text](int i) { QTest::keyClick(&text, i % 2 == 0 ? Qt::Key_Return : Qt::Key_B); });
+    QTest::keyClick(&text, Qt::Key_Space);
+    QTest::keyClick(&text, Qt::Key_J, Qt::ControlModifier);
+    times.name = timeOf(kKeys, [&text](int i) { QTest::keyClick(&text, i % 2 == 0 ? Qt::Key_P : Qt::Key_Backspace); });
     const auto begin = processorMilliseconds();
     QTest::qWait(500);
     times.rest = processorMilliseconds() - begin;
@@ -87,6 +90,8 @@ int main(int argc, char** argv) {
     };
     report("a letter", few.letter, many.letter);
     report("Enter and a letter", few.enter, many.enter);
+    fmt::print("a letter with the list of names: {} lines {:.2f} ms, {} lines {:.2f} ms\n", kFewLines, few.name,
+               kManyLines, many.name);
     fmt::print("the pause after typing: {} lines {:.2f} ms, {} lines {:.2f} ms\n", kFewLines, few.rest, kManyLines,
                many.rest);
     return !good;
