@@ -15,7 +15,7 @@ def messages():
 
 def words_of_tests():
     texts = (path.read_text(encoding="utf-8") for pattern in TESTED for path in ROOT.glob(pattern))
-    return set(re.findall(r"\w+", " ".join(texts)))
+    return set(re.findall(r"\b(?:FW)?(\w+)", " ".join(texts)))
 
 
 class Messages(unittest.TestCase):

@@ -1,6 +1,6 @@
 #include "Apps/fernwick/output/message_pages.h"
-#include "Apps/fernwick/output/catalogue.h"
 #include "Apps/common/wrapped_text.h"
+#include "Apps/fernwick/output/catalogue.h"
 #include <fmt/format.h>
 
 namespace cli {

@@ -2,6 +2,8 @@
 // Opens the migration report of the active project.
 #include "Host/model/host.h"
 
+class QWidget;
+
 namespace workbench {
 
 class CodeWindows;
