@@ -100,6 +100,29 @@ TEST(Names, ALibraryThatIsDescribedInPartMayHaveMoreConstants) {
         ElementsAre("4:9 2002"));
 }
 
+TEST(Names, SeveralModulesMayDeclareTheSameFunction) {
+    const std::string declare = "Public Declare Function Far Lib \"x\" (ByVal a As Long) As Long\n";
+    EXPECT_THAT(CheckedProgram{}
+                    .add("M1.bas", declare + "Public Near\n")
+                    .add("M2.bas", declare + "Public Near\n")
+                    .add("M3.bas", "Sub A()\nNear = Far(1)\nNear = Far(1, 2)\nEnd Sub\n")
+                    .messages(),
+                ElementsAre("M3.bas:2:1 2004", "M3.bas:3:1 2004", "M3.bas:3:8 2201"));
+}
+
+TEST(Names, TheValueOfAnObjectIsPassedWhereAVariableCouldBe) {
+    EXPECT_THAT(CheckedProgram{}
+                    .add("Class1.cls", "Public Box As TextBox\nPublic Other As Class1\n"
+                                       "Sub B(s As String)\nB Box\nB Other\nEnd Sub\n")
+                    .messages(),
+                ElementsAre("5:3 2101"));
+}
+
+TEST(Names, AFormsBorderMayBeChangedAtRunTime) {
+    EXPECT_THAT(CheckedProgram{}.add("Form1.frm", "Sub A()\nMe.BorderStyle = 0\nMe.hDC = 0\nEnd Sub\n").messages(),
+                ElementsAre("3:4 2301"));
+}
+
 TEST(Names, APropertyLetTakesNothing) {
     EXPECT_THAT(CheckedProgram{}
                     .add("Class1.cls", "Property Let Mark(ByVal c As Class1)\nEnd Property\n"
@@ -260,8 +283,10 @@ TEST(Names, AStringTakesAnArrayOfBytes) {
 TEST(Names, AnArrayOfControlsIsAnObject) {
     CheckedProgram program;
     program.controls = "   Begin VB.TextBox Lines \n      Index = 0\n   End\n";
-    program.add("Form1.frm", "Sub A(o As Object, v As Variant)\nSet o = Lines\nSet v = Lines\nA Lines, Lines\nB Lines\n"
-                             "Dim t As TextBox\nSet t = Lines\nEnd Sub\nSub B(t As TextBox)\nEnd Sub");
+    program.add(
+        "Form1.frm",
+        "Sub A(o As Object, v As Variant)\nSet o = Lines\nSet v = Lines\nA Lines, Lines\nB Lines\n"
+        "Dim t As TextBox\nSet t = Lines\nIf o Is Lines Then Set o = Nothing\nEnd Sub\nSub B(t As TextBox)\nEnd Sub");
     EXPECT_THAT(program.messages(), ElementsAre("5:3 2100", "7:9 2105"));
 }
 

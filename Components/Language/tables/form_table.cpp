@@ -47,7 +47,7 @@ Class Form open ' A window of the program
   Include FormEvents FocusEvents KeyEvents
   Event Paint absent "Use Activate"
   Include FormCommon Placed Enabled Window Colours Font Canvas OlePalette
-  Property BorderStyle As Integer readonly
+  Property BorderStyle As Integer
   Property ControlBox As Boolean readonly
   Property KeyPreview As Boolean ' Whether the form receives keys before its controls
   Property MaxButton As Boolean readonly

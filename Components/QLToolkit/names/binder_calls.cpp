@@ -218,7 +218,10 @@ void Binder::argumentByRef(const Operand& given, const ParameterInfo& parameter)
     if (given.type.value == ValueType::Record && parameter.type.value == ValueType::Variant)
         return report(Message::RecordToVariant, given.pos);
     if (parameter.isOfDeclare && given.type.value == ValueType::Variant) return; // its value is copied there and back
-    if (byRefOf(given.type, parameter.type) == ByRef::Never) reportName(Message::ByRefMismatch, given.pos);
+    // Of an object the value of its default member is passed, which is no variable.
+    const bool isValue = given.type.value == ValueType::Object && !given.type.isArray && given.type.id != 0 &&
+                         program_.scope(given.type.id).findDefault() && fitsTo(given, parameter.type);
+    if (!isValue && byRefOf(given.type, parameter.type) == ByRef::Never) reportName(Message::ByRefMismatch, given.pos);
 }
 
 bool Binder::fitsTo(const Operand& value, const Type& wanted) {

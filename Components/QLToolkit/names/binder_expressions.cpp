@@ -146,12 +146,13 @@ void Binder::warnOfFailure(const BinaryExpr& expr) {
 }
 
 Operand Binder::isOperator(const BinaryExpr& expr, const Operand& left, const Operand& right) {
-    const auto isObject = [](const Type& type) {
-        if (type.isArray) return false;
+    const auto isObject = [](const Operand& operand) {
+        const Type& type = operand.type;
+        if (type.isArray) return isControlArray(operand);
         return type.value == ValueType::Object || type.value == ValueType::Variant ||
                type.value == ValueType::Nothing || type.value == ValueType::Unknown;
     };
-    if (!isObject(left.type) || !isObject(right.type)) report(Message::ObjectRequired, expr.pos);
+    if (!isObject(left) || !isObject(right)) report(Message::ObjectRequired, expr.pos);
     return {OperandKind::Value, {ValueType::Boolean}, expr.pos};
 }
 

@@ -11,6 +11,9 @@ bool contradicts(TypeSuffix suffix, const Type& type) {
     return suffix && type.value != ValueType::Unknown && typeOfSuffix(suffix) != type.value;
 }
 
+/// Several modules may declare the same function of a library: the first one counts.
+bool isDeclare(const Entity& entity) { return entity.kind == EntityKind::Procedure && entity.get && !entity.get->body; }
+
 } // namespace
 
 std::string_view kindOf(const Operand& qualifier) {
@@ -32,7 +35,8 @@ Operand Binder::name(const NameExpr& expr) {
     }
     if (const Entity* function = functionBehind(*found.entity, expr))
         return use(expr.suffix() == '$' && function->text ? *function->text : *function, expr, false);
-    if (found.isAmbiguous) reportName(Message::AmbiguousName, expr.pos);
+    if (found.isAmbiguous && !(isDeclare(*found.entity) && isDeclare(*program_.ambiguous.find(expr.name))))
+        reportName(Message::AmbiguousName, expr.pos);
     const bool isOfProject = found.entity->owner && found.entity->owner->source;
     if (isOfProject && found.entity->kind != EntityKind::Property && contradicts(expr.suffix(), found.entity->type))
         reportName(Message::TypeCharacterMismatch, expr.pos);
