@@ -118,6 +118,13 @@ TEST(Names, TheValueOfAnObjectIsPassedWhereAVariableCouldBe) {
                 ElementsAre("5:3 2101"));
 }
 
+TEST(Names, AnObjectOfAnOpenClassMayHaveADefaultMember) {
+    language::Library library = language::readLibrary("Library Part\nClass Thing open\n  Sub Work()\n");
+    CheckedProgram program;
+    program.options.libraries.push_back(&library);
+    EXPECT_THAT(program.add("M1.bas", "Public t As Thing\nSub B(d As Date)\nB t\nEnd Sub\n").messages(), IsEmpty());
+}
+
 TEST(Names, AFormsBorderMayBeChangedAtRunTime) {
     EXPECT_THAT(CheckedProgram{}.add("Form1.frm", "Sub A()\nMe.BorderStyle = 0\nMe.hDC = 0\nEnd Sub\n").messages(),
                 ElementsAre("3:4 2301"));

@@ -219,8 +219,10 @@ void Binder::argumentByRef(const Operand& given, const ParameterInfo& parameter)
         return report(Message::RecordToVariant, given.pos);
     if (parameter.isOfDeclare && given.type.value == ValueType::Variant) return; // its value is copied there and back
     // Of an object the value of its default member is passed, which is no variable.
-    const bool isValue = given.type.value == ValueType::Object && !given.type.isArray && given.type.id != 0 &&
-                         program_.scope(given.type.id).findDefault() && fitsTo(given, parameter.type);
+    const Scope* scope = given.type.value == ValueType::Object && !given.type.isArray && given.type.id != 0
+                             ? &program_.scope(given.type.id)
+                             : nullptr;
+    const bool isValue = scope && (scope->open || scope->findDefault()) && fitsTo(given, parameter.type);
     if (!isValue && byRefOf(given.type, parameter.type) == ByRef::Never) reportName(Message::ByRefMismatch, given.pos);
 }
 
