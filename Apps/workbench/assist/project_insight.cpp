@@ -3,6 +3,7 @@
 #include "Apps/workbench/editing/rest.h"
 #include "Basic/runtime_error.h"
 #include "Components/Language/foreign.h"
+#include "Host/model/code/component_kind.h"
 #include "Host/model/component.h"
 #include "Host/model/project.h"
 #include <QCoreApplication>
@@ -14,22 +15,11 @@ namespace {
 /// The longest time in which the window does not answer, in milliseconds.
 constexpr int kLongestWait = 50;
 
-const char* extensionOf(vbide::vbext_ComponentType type) {
-    switch (type) {
-    case vbide::vbext_ct_StdModule: return ".bas";
-    case vbide::vbext_ct_ClassModule: return ".cls";
-    case vbide::vbext_ct_UserControl: return ".ctl";
-    case vbide::vbext_ct_PropPage: return ".pag";
-    case vbide::vbext_ct_DocObject: return ".dob";
-    case vbide::vbext_ct_VBForm:
-    case vbide::vbext_ct_VBMDIForm: return ".frm";
-    default: return ".dsr";
-    }
-}
-
 } // namespace
 
-std::string sourceName(vbide::VBComponent& component) { return component.Name() + extensionOf(component.Type()); }
+std::string sourceName(vbide::VBComponent& component) {
+    return component.Name() + std::string(host::kindOf(component.Type()).extension);
+}
 
 ProjectInsight::ProjectInsight(host::Host& host, std::string installation)
     : host_(host), libraries_(std::move(installation)) {
@@ -127,7 +117,7 @@ void ProjectInsight::adopt(const Key& project, std::shared_ptr<qltoolkit::Snapsh
 
 std::shared_ptr<const qltoolkit::SourceText> ProjectInsight::sourceOf(const Component& component) {
     const auto own = basic::cast<host::Component>(component);
-    if (!own) return nullptr;
+    if (!own || host::kindOf(own->Type()).type != own->Type()) return nullptr; // no code
     auto& known = sources_[component.shared()];
     if (!known)
         known = std::make_shared<qltoolkit::SourceText>(sourceName(*component), own->source().bytes(),

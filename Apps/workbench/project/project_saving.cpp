@@ -1,29 +1,19 @@
 #include "Apps/workbench/project/project_saving.h"
 #include "Apps/workbench/base/message_box.h"
 #include "Apps/workbench/base/text.h"
+#include "Host/model/code/component_kind.h"
 #include <QDir>
 #include <QFileDialog>
 #include <algorithm>
+#include <string_view>
 
 namespace workbench {
 
 namespace {
 
-/// The file extension of a component of this type.
-const char* extensionOf(vbide::vbext_ComponentType type) {
-    switch (type) {
-    case vbide::vbext_ct_StdModule: return ".bas";
-    case vbide::vbext_ct_ClassModule: return ".cls";
-    case vbide::vbext_ct_UserControl: return ".ctl";
-    case vbide::vbext_ct_PropPage: return ".pag";
-    case vbide::vbext_ct_DocObject: return ".dob";
-    case vbide::vbext_ct_ActiveXDesigner: return ".dsr";
-    default: return ".frm";
-    }
-}
-
 /// Returns "" if the user cancels. Updates `folder`, so that the next dialog opens in the same one.
-std::string askForName(const std::string& name, const char* extension, QString& folder, QWidget* window) {
+std::string askForName(const std::string& name, std::string_view ending, QString& folder, QWidget* window) {
+    const auto extension = qt(std::string(ending));
     const auto path = QFileDialog::getSaveFileName(
         window, "Save " + qt(name), QDir(folder).filePath(qt(name) + extension), QString("*%1").arg(extension));
     if (path.isEmpty()) return {};
@@ -39,7 +29,7 @@ QMessageBox::StandardButton askAboutChanges(const std::string& name, QWidget* wi
 }
 
 bool saveUnderName(const ComponentRef& component, QString folder, QWidget* window) {
-    const auto path = askForName(component->Name(), extensionOf(component->Type()), folder, window);
+    const auto path = askForName(component->Name(), host::kindOf(component->Type()).extension, folder, window);
     if (!path.empty()) component->SaveAs(path);
     return !path.empty();
 }
@@ -62,7 +52,7 @@ bool saveWithNames(host::Host& host, const ProjectRef& project, QWidget* window)
     QString folder = folderOf(known);
     for (const auto& component : project->VBComponents()->items()) {
         if (!component->FileNames(1).empty()) continue;
-        const auto path = askForName(component->Name(), extensionOf(component->Type()), folder, window);
+        const auto path = askForName(component->Name(), host::kindOf(component->Type()).extension, folder, window);
         if (path.empty()) return false;
         component->SaveAs(path);
     }
