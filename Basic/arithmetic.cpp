@@ -1,5 +1,6 @@
 #include "Basic/arithmetic.h"
 #include "Basic/conversions.h"
+#include "Basic/elementary/elementary.h"
 #include <cmath>
 
 namespace basic {
@@ -74,7 +75,9 @@ Currency Negate(Currency a) { return Subtract(Currency{}, a); }
 Double Power(Double base, Double exponent) {
     const bool undefined = (base < 0 && exponent != std::trunc(exponent)) || (base == 0 && exponent < 0);
     if (undefined) throw RuntimeError(kInvalidProcedureCall);
-    return finiteOrOverflow(std::pow(base, exponent));
+    if (base == 0) return exponent == 0 ? 1 : 0;
+    const Double size = finiteOrOverflow(elementary::power(std::abs(base), exponent));
+    return base < 0 && std::fmod(exponent, 2) != 0 ? -size : size;
 }
 
 Double Divide(Double a, Double b) {

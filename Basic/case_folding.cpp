@@ -1,7 +1,7 @@
 #include "Basic/case_folding.h"
+#include "Basic/tables/character_table.h"
 #include "Basic/utf8.h"
 #include <cstdint>
-#include <unicode/uchar.h>
 
 namespace basic {
 
@@ -19,9 +19,7 @@ char32_t nextFolded(std::string_view text, std::size_t& at) noexcept {
 
 } // namespace
 
-char32_t foldCharacter(char32_t character) noexcept {
-    return static_cast<char32_t>(u_foldCase(static_cast<UChar32>(character), U_FOLD_CASE_DEFAULT));
-}
+char32_t foldCharacter(char32_t character) noexcept { return folded(character); }
 
 std::string foldCase(std::string_view text) {
     std::string folded;

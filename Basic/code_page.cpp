@@ -1,7 +1,7 @@
 #include "Basic/code_page.h"
-#include "Basic/code_page_table.h"
 #include "Basic/double_byte.h"
 #include "Basic/runtime_error.h"
+#include "Basic/tables/code_page_table.h"
 #include "Basic/utf8.h"
 #include <algorithm>
 #include <array>
@@ -10,28 +10,16 @@ namespace basic {
 
 namespace {
 
-constexpr CodePageName kPageNames[] = {
-    {874, "windows-874", "Thai"},
-    {932, "windows-932", "Japanese"},
-    {936, "windows-936", "Simplified Chinese"},
-    {949, "windows-949", "Korean"},
-    {950, "windows-950", "Traditional Chinese"},
-    {1250, "windows-1250", "Central European"},
-    {1251, "windows-1251", "Cyrillic"},
-    {1252, nullptr, "Western European"},
-    {1253, "windows-1253", "Greek"},
-    {1254, "windows-1254", "Turkish"},
-    {1255, "windows-1255", "Hebrew"},
-    {1256, "windows-1256", "Arabic"},
-    {1257, "windows-1257", "Baltic"},
-    {1258, "windows-1258", "Vietnamese"},
-    {kUtf8Page, nullptr, "Unicode, UTF-8"},
-};
-
+/// Null for an unknown page.
 const CodePageName* nameOf(int number) noexcept {
-    const auto* const found = std::find_if(std::begin(kPageNames), std::end(kPageNames),
+    const auto* const found = std::find_if(std::begin(kCodePageNames), std::end(kCodePageNames),
                                            [&](const CodePageName& known) { return known.number == number; });
-    return found == std::end(kPageNames) ? nullptr : found;
+    return found == std::end(kCodePageNames) ? nullptr : found;
+}
+
+const CodePageTable* tableOf(const CodePageName* page) noexcept {
+    if (!page->hasTable) return nullptr;
+    return kCodePageTables + std::count_if(std::begin(kCodePageNames), page, [](const auto& p) { return p.hasTable; });
 }
 
 /// The characters 80 to 9F of Windows-1252; all others are those of Latin-1.
@@ -108,7 +96,7 @@ std::optional<std::string> encodeText(const Page& page, std::string_view text) {
 
 bool CodePage::isKnown(int number) noexcept { return nameOf(number) != nullptr; }
 
-std::span<const CodePageName> CodePage::all() noexcept { return kPageNames; }
+std::span<const CodePageName> CodePage::all() noexcept { return kCodePageNames; }
 
 bool CodePage::isDoubleByte(int number) noexcept {
     return std::find(kDoubleBytePages.begin(), kDoubleBytePages.end(), number) != kDoubleBytePages.end();
@@ -117,7 +105,7 @@ bool CodePage::isDoubleByte(int number) noexcept {
 CodePage::CodePage(int number) : number_(number) {
     const auto* const name = nameOf(number);
     if (!name) throw RuntimeError(kInvalidProcedureCall);
-    if (name->icu) table_ = std::make_shared<const CodePageTable>(name->icu);
+    table_ = tableOf(name);
 }
 
 std::string CodePage::decode(std::string_view bytes) const {

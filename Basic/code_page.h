@@ -1,6 +1,6 @@
 #pragma once
 // Windows code pages: lossless conversion between the bytes of VB's files and UTF-8.
-#include <memory>
+#include "Basic/tables/code_page_names.h"
 #include <optional>
 #include <span>
 #include <string>
@@ -8,18 +8,10 @@
 
 namespace basic {
 
-class CodePageTable;
+struct CodePageTable;
 
-inline constexpr int kUtf8Page = 65001;
-
-struct CodePageName {
-    int number;
-    const char* icu;       ///< ICU's name; null for the pages that need no converter
-    const char* languages; ///< such as "Central European"
-};
-
-/// A Windows code page: 874, 932, 936, 949, 950, 1250 to 1258, or 65001 for UTF-8. Cheap to copy and thread-safe.
-/// Constructing a double-byte page takes some milliseconds, so keep it.
+/// A Windows code page: 874, 932, 936, 949, 950, 1250 to 1258, or 65001 for UTF-8. Cheap to make and to copy,
+/// and thread-safe.
 ///
 /// encode(decode(bytes)) is `bytes` for every byte string. Windows-1252's five undefined bytes are U+0081, U+008D,
 /// U+008F, U+0090 and U+009D. In the other pages each byte without a character, or whose character is encoded by
@@ -58,7 +50,7 @@ private:
     CodePage() noexcept = default;
 
     int number_ = 1252;
-    std::shared_ptr<const CodePageTable> table_; // null for 1252 and 65001, which need no table
+    const CodePageTable* table_ = nullptr; // null for 1252 and 65001, which need no table
 };
 
 } // namespace basic

@@ -54,6 +54,13 @@ std::string layOut(std::string digits, int exponent, int most) {
     return digits.insert(whole, ".");
 }
 
+/// Exact for the exponents from 0 to 22.
+Double powerOfTen(Long exponent) {
+    Double power = 1;
+    for (; exponent > 0; --exponent) power *= 10;
+    return power;
+}
+
 template <class Real>
 std::string realText(Real number, int significant) {
     if (std::isnan(number)) return "-1.#IND";
@@ -131,7 +138,7 @@ Double Int(const Convertible& value) { return std::floor(value.number()); }
 
 Double Round(const Convertible& value, Long digits) {
     if (digits < 0 || digits > 22) throw RuntimeError(kInvalidProcedureCall);
-    const Double number = value.number(), scale = std::pow(10.0, digits);
+    const Double number = value.number(), scale = powerOfTen(digits);
     const Double scaled = number * scale;
     // From 2^52 on a Double has no decimals to round.
     return std::abs(scaled) < 0x1p52 ? roundHalfToEven(scaled) / scale : number;

@@ -4,6 +4,7 @@
 #include <array>
 #include <chrono>
 #include <cmath>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -73,7 +74,7 @@ int monthOf(std::string_view word) {
 /// Parses the tokens of a text from left to right.
 class DateReader {
 public:
-    explicit DateReader(std::string_view text) : tokens_(tokensOf(text)) {}
+    DateReader(std::string_view text, std::optional<Date> today) : tokens_(tokensOf(text)), today_(today) {}
 
     Double read() {
         if (tokens_.empty()) refuseDate();
@@ -95,6 +96,8 @@ private:
     const DateToken* peek(std::size_t ahead = 0) const {
         return at_ + ahead < tokens_.size() ? &tokens_[at_ + ahead] : nullptr;
     }
+    /// Whether a number follows that does not start a time.
+    bool hasNumber() const { return peek() && peek()->kind == DateToken::kNumber && !startsTime(); }
     bool takeMark(std::string_view mark) {
         const bool good = peek() && peek()->text == mark;
         at_ += good;
@@ -128,8 +131,9 @@ private:
         const bool slash = takeMark("/");
         if (!slash && !takeMark("-")) refuseDate();
         if (peek() && peek()->kind == DateToken::kWord) return readDayFirst(first);
-        const int second = takeNumber().number();
-        if (!takeMark(slash ? "/" : "-")) refuseDate();
+        const DateToken secondToken = takeNumber();
+        const int second = secondToken.number();
+        if (!takeMark(slash ? "/" : "-")) return dayOfTwo(first, secondToken);
         const DateToken third = takeNumber();
         if (first.text.size() == 4) return dayOf(first, second, third.number());
         const int month = first.number();
@@ -138,20 +142,50 @@ private:
 
     Double readMonthFirst() {
         const int month = monthOf(tokens_[at_++].text);
-        const int day = takeNumber().number();
-        takeMark(",");
-        return dayOf(takeNumber(), month, day);
+        const bool hyphen = takeMark("-");
+        const DateToken day = takeNumber();
+        if (!(hyphen && takeMark("-"))) takeMark(",");
+        return hasNumber() ? dayOf(takeNumber(), month, day.number()) : dayOfMonth(month, day);
     }
 
     Double readDayFirst(const DateToken& day) {
         const int month = monthOf(tokens_[at_++].text);
         if (!takeMark("-")) takeMark(",");
-        return dayOf(takeNumber(), month, day.number());
+        return hasNumber() ? dayOf(takeNumber(), month, day.number()) : dayOfMonth(month, day);
+    }
+
+    /// A date of this year, or the first day of a month with its year.
+    Double dayOfMonth(int month, const DateToken& number) const {
+        if (isDay(month, number)) return dayOf(thisYear(), month, number.number());
+        return dayOf(number, month, 1);
+    }
+
+    Double dayOfTwo(const DateToken& first, const DateToken& second) const {
+        if (first.text.size() == 4) return dayOf(first, second.number(), 1);
+        if (first.number() > 12 && isDay(second.number(), first)) return dayOfMonth(second.number(), first);
+        return dayOfMonth(first.number(), second);
+    }
+
+    /// Whether the number can be a day of the month, in some year at least.
+    static bool isDay(int month, const DateToken& token) {
+        constexpr int kLeapYear = 2000;
+        const year_month_day date{std::chrono::year(kLeapYear), std::chrono::month(static_cast<unsigned>(month)),
+                                  std::chrono::day(static_cast<unsigned>(token.number()))};
+        return token.text.size() <= 2 && date.ok();
+    }
+
+    int thisYear() const {
+        if (!today_) refuseDate();
+        return static_cast<int>(year_month_day{kDayZero + std::chrono::days(static_cast<int>(today_->days))}.year());
     }
 
     static Double dayOf(const DateToken& yearToken, int month, int day) {
         int year = yearToken.number();
         if (yearToken.text.size() <= 2) year += year < 30 ? 2000 : 1900;
+        return dayOf(year, month, day);
+    }
+
+    static Double dayOf(int year, int month, int day) {
         const year_month_day date{std::chrono::year(year), std::chrono::month(static_cast<unsigned>(month)),
                                   std::chrono::day(static_cast<unsigned>(day))};
         if (!date.ok() || year < 100) refuseDate();
@@ -160,6 +194,7 @@ private:
 
     std::vector<DateToken> tokens_;
     std::size_t at_ = 0;
+    std::optional<Date> today_;
 };
 
 std::string twoDigits(int number) { return (number < 10 ? "0" : "") + std::to_string(number); }
@@ -178,8 +213,8 @@ std::string timeText(int seconds) {
 
 } // namespace
 
-Date CDate(const Convertible& value) {
-    if (value.text()) return {DateReader(*value.text()).read()};
+Date CDate(const Convertible& value, std::optional<Date> today) {
+    if (value.text()) return {DateReader(*value.text(), today).read()};
     return {requireDay(value.number())};
 }
 

@@ -100,9 +100,12 @@ bool matchTokens(std::u32string_view text, const std::vector<LikeToken>& tokens)
 
 } // namespace
 
+bool likeCharacters(std::u32string_view text, std::u32string_view pattern) {
+    return matchTokens(text, parsePattern(pattern));
+}
+
 bool Like(std::string_view text, std::string_view pattern, VbCompareMethod compare) {
-    const auto tokens = parsePattern(charactersOf(pattern, compare));
-    return matchTokens(charactersOf(text, compare), tokens);
+    return likeCharacters(charactersOf(text, compare), charactersOf(pattern, compare));
 }
 
 } // namespace basic

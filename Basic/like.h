@@ -14,4 +14,7 @@ namespace basic {
 /// proportional to the product of both lengths, for any number of asterisks.
 bool Like(std::string_view text, std::string_view pattern, VbCompareMethod compare = vbBinaryCompare);
 
+/// Like over characters, or other units, that the caller has folded.
+bool likeCharacters(std::u32string_view text, std::u32string_view pattern);
+
 } // namespace basic

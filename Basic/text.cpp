@@ -1,8 +1,8 @@
 #include "Basic/text.h"
 #include "Basic/character_count.h"
 #include "Basic/runtime_error.h"
+#include "Basic/tables/character_table.h"
 #include "Basic/utf8.h"
-#include <unicode/uchar.h>
 
 namespace basic {
 
@@ -36,7 +36,7 @@ std::string mapCharacters(std::string_view text, char firstAscii, char lastAscii
         if (character == kNoCharacter)
             mapped += byte;
         else
-            appendCharacter(mapped, static_cast<char32_t>(map(static_cast<UChar32>(character))));
+            appendCharacter(mapped, map(character));
     }
     return mapped;
 }
@@ -74,9 +74,9 @@ std::string Trim(std::string_view text) {
     return RTrim(text);
 }
 
-std::string UCase(std::string_view text) { return mapCharacters(text, 'a', 'z', u_toupper); }
+std::string UCase(std::string_view text) { return mapCharacters(text, 'a', 'z', upperCase); }
 
-std::string LCase(std::string_view text) { return mapCharacters(text, 'A', 'Z', u_tolower); }
+std::string LCase(std::string_view text) { return mapCharacters(text, 'A', 'Z', lowerCase); }
 
 std::string Space(Long count) { return std::string(checkedLength(count), ' '); }
 

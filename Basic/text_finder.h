@@ -1,6 +1,7 @@
 #pragma once
 // Finds all occurrences of a text in linear time, for text_search.cpp.
 #include "Basic/case_folding.h"
+#include "Basic/needle.h"
 #include <cstddef>
 #include <optional>
 #include <string>
@@ -29,14 +30,12 @@ public:
 
 private:
     void foldText(std::string_view text);
-    std::size_t find(std::size_t from) const;
-    std::size_t findLast() const;
     ByteRange original(std::size_t found) const;
 
     std::string foldedText_, foldedWhat_;
     std::string_view text_, what_;
+    Needle<char> needle_;
     std::vector<std::size_t> origins_; // the original position of each folded byte; empty if they are equal
-    std::vector<std::size_t> borders_; // of each prefix of a long what_; empty for a short one
 };
 
 } // namespace basic

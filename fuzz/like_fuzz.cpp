@@ -1,6 +1,8 @@
-// Like fails only with error 93, and its matches agree with a simple reference implementation.
+// Like fails only with error 93, and its matches agree with a simple reference implementation, in UTF-16 too.
 #include "Basic/like.h"
 #include "Basic/runtime_error.h"
+#include "Basic/utf16.h"
+#include "Components/Tamarik/text/letters.h"
 #include <cstdint>
 #include <cstdlib>
 #include <string_view>
@@ -38,6 +40,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         if (err.Number != 0 && err.Number != 93) std::abort();
         const bool comparable = compare == basic::vbBinaryCompare && text.size() <= 12 && pattern.size() <= 12 &&
                                 isPlain(text) && isPlain(pattern);
+        const auto wide = basic::attempt([&] {
+            const auto wideText = basic::toUtf16(text), widePattern = basic::toUtf16(pattern);
+            const bool wideFits = tamarik::Like(wideText, widePattern, compare);
+            if (comparable && wideFits != fits) std::abort();
+        });
+        if (wide.Number != 0 && wide.Number != 93) std::abort();
         if (comparable && (err.Number != 0 || fits != plainLike(text, pattern))) std::abort();
     }
     return 0;

@@ -1,9 +1,9 @@
 #include "Basic/detection/code_page_detection.h"
+#include "Basic/tables/character_table.h"
 #include "Basic/utf8.h"
 #include <algorithm>
 #include <charconv>
 #include <span>
-#include <unicode/uchar.h>
 
 namespace basic {
 
@@ -83,7 +83,7 @@ Letters lettersOf(std::string_view names, const CodePage& page) {
     for (std::size_t at = asciiRun(text, 0); at < text.size(); at += asciiRun(text, at)) {
         const char32_t character = nextCharacter(text, at);
         if (character == kWideBlank) continue;
-        ++(u_isalpha(static_cast<UChar32>(character)) ? count.letters : count.others);
+        ++(isLetter(character) ? count.letters : count.others);
     }
     return count;
 }

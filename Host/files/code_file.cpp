@@ -168,4 +168,16 @@ void CodeText::replace(std::size_t line, std::string_view text) {
     counted_ = false;
 }
 
+void CodeText::nameAttributes(std::size_t line, std::string_view member) {
+    const auto name = codePage_.encode(member);
+    auto at = std::size_t(shown().at(line - 1));
+    const auto isContinued = [this](std::size_t i) { return lines_[i].text.ends_with(" _"); };
+    while (at + 1 < lines_.size() && isContinued(at) && !isHiddenLine(lines_[at + 1].text)) ++at;
+    while (++at < lines_.size() && isHiddenLine(lines_[at].text)) {
+        auto& text = lines_[at].text;
+        const auto point = text.find('.');
+        if (point < text.find("VB_")) text.replace(kAttribute.size(), point - kAttribute.size(), name);
+    }
+}
+
 } // namespace host

@@ -48,6 +48,8 @@ public:
     void remove(std::size_t line, std::size_t count);
     /// Replaces one line with the lines of `text`. Error as for insert.
     void replace(std::size_t line, std::string_view text);
+    /// Makes the hidden attributes after the statement that begins in a line those of a member with this name.
+    void nameAttributes(std::size_t line, std::string_view member);
 
     std::string bytes() const { return joinLines(lines_); }
 

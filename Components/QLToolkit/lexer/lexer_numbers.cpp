@@ -1,5 +1,6 @@
 #include "Components/QLToolkit/lexer/lexer.h"
 #include "Components/QLToolkit/source/characters.h"
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -13,6 +14,7 @@ constexpr std::ptrdiff_t kSureDigits = 9; // they are at least a Long
 constexpr std::uint64_t kLargestInteger = 32767;
 constexpr std::uint64_t kLargestLong = 2147483647;
 constexpr double kLargestCurrency = 922337203685477.5807;
+constexpr std::uint64_t kLargestScaled = 9223372036854775807;
 
 bool isNumberSuffix(char c) { return c == '%' || c == '&' || c == '!' || c == '#' || c == '@'; }
 bool isExponentMark(char c) { return (c | 0x20) == 'e' || (c | 0x20) == 'd'; }
@@ -42,6 +44,19 @@ double toDouble(const char* begin, const char* end, bool& tooLarge) {
         tooLarge = std::isinf(value);
     }
     return value;
+}
+
+// A Double is not exact enough. `value` is the number, at most kLargestCurrency.
+std::uint64_t scaledBy10000(const char* begin, const char* end, double value) {
+    if (std::any_of(begin, end, isExponentMark)) return static_cast<std::uint64_t>(std::llround(value * 10000));
+    const char* const point = std::find(begin, end, '.');
+    const auto digit = [&](const char* at) {
+        return at < end && *at != '.' ? static_cast<std::uint64_t>(*at - '0') : 0;
+    };
+    std::uint64_t scaled = 0;
+    for (const char* p = begin; p < point; ++p) scaled = scaled * 10 + digit(p);
+    for (int place = 1; place <= 4; ++place) scaled = scaled * 10 + digit(std::min(point + place, end));
+    return scaled + (digit(std::min(point + 5, end)) >= 5 ? 1 : 0);
 }
 
 } // namespace
@@ -95,7 +110,9 @@ void Lexer::finishReal(Token& token, const char* begin, const char* end) {
     if (token.suffix == '@') {
         token.kind = TokenKind::Currency;
         tooLarge |= value > kLargestCurrency;
-        token.integer = tooLarge ? 0 : std::llround(value * 10000);
+        const auto scaled = tooLarge ? 0 : scaledBy10000(begin, end, value);
+        tooLarge |= scaled > kLargestScaled;
+        token.integer = tooLarge ? 0 : static_cast<std::int64_t>(scaled);
     } else if (token.suffix == '!') {
         tooLarge |= value > static_cast<double>(std::numeric_limits<float>::max());
     } else if (token.suffix == '%' || token.suffix == '&') {
