@@ -1,5 +1,6 @@
 #pragma once
 // A compiled application as a value, and its container format, described in docs/qlx-format.md.
+#include "Components/Image/code/code_image.h"
 #include "Components/Image/shared_text.h"
 #include <cstdint>
 #include <string>
@@ -63,6 +64,7 @@ struct Image {
     std::vector<SharedText> libraries;
     std::vector<Control> forms;
     std::vector<Module> modules;
+    CodeImage code; ///< empty if the application was not compiled to code
     friend bool operator==(const Image&, const Image&) = default;
 };
 
@@ -78,5 +80,8 @@ std::string encode(const Image& image);
 /// Returns the image in a container. Raises error 321 (invalid file format) with the reason if the bytes are damaged or
 /// have an unsupported version.
 Image decode(std::string_view bytes);
+
+/// Returns the name and size of each section, in the order of the container. Raises error 321 as `decode` does.
+std::vector<std::pair<std::string, std::size_t>> sectionSizes(std::string_view bytes);
 
 } // namespace image

@@ -12,7 +12,10 @@ namespace image {
 
 inline constexpr int kInvalidFileFormat = 321;
 
+/// Raises error 321 for bytes that cannot be read.
 [[noreturn]] void imageIsDamaged(const std::string& reason);
+/// Raises error 321 for an image that cannot be written.
+[[noreturn]] void imageIsRefused(const std::string& sentence);
 
 /// CRC-32 as used by zip and PNG (polynomial 0xEDB88320, inverted).
 std::uint32_t crc32(std::string_view bytes);
@@ -22,6 +25,8 @@ public:
     void u8(std::uint8_t value) { bytes_ += char(value); }
     void u16(std::uint16_t value);
     void u32(std::uint32_t value);
+    /// 7 bits a byte, the lowest first; the highest bit of all but the last byte is set.
+    void variable(std::uint32_t value);
     void raw(std::string_view bytes) { bytes_ += bytes; }
     const std::string& bytes() const { return bytes_; }
 
@@ -36,10 +41,12 @@ public:
     std::uint8_t u8();
     std::uint16_t u16();
     std::uint32_t u32();
+    std::uint32_t variable();
     std::string_view raw(std::size_t length);
     /// Reads a count of items that take at least `smallest` bytes each. An impossible count raises error 321, so that
     /// it is never used for an allocation.
     std::uint32_t count(std::size_t smallest);
+    std::string_view rest() const { return rest_; }
     bool atEnd() const { return rest_.empty(); }
 
 private:

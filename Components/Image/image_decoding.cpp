@@ -1,3 +1,4 @@
+#include "Components/Image/code_sections.h"
 #include "Components/Image/image.h"
 #include "Components/Image/image_bytes.h"
 #include "Components/Image/image_format.h"
@@ -90,8 +91,8 @@ Module decodeModule(SectionReader& r) {
     return module;
 }
 
-/// Validates the container and returns the bytes of its sections by name.
-std::unordered_map<std::string, std::string_view> sectionsOf(std::string_view bytes) {
+/// Validates the container and returns the names and bytes of its sections.
+std::vector<std::pair<std::string_view, std::string_view>> listedSections(std::string_view bytes) {
     Reader in{bytes};
     if (std::int64_t(bytes.size()) > kLargestImage) imageIsDamaged("it is too large");
     if (in.raw(kMagic.size()) != kMagic) imageIsDamaged("it is not a compiled application");
@@ -102,32 +103,45 @@ std::unordered_map<std::string, std::string_view> sectionsOf(std::string_view by
     const auto checksum = in.u32();
     const auto sections = in.u32();
     if (crc32(bytes.substr(kHeaderSize)) != checksum) imageIsDamaged("its checksum is wrong");
-    std::unordered_map<std::string, std::string_view> found;
+    std::vector<std::pair<std::string_view, std::string_view>> found;
     for (std::uint32_t i = 0; i < sections; ++i) {
-        const std::string name(in.raw(4));
+        const auto name = in.raw(4);
         const std::size_t offset = in.u32(), size = in.u32();
         if (offset > bytes.size() || size > bytes.size() - offset) imageIsDamaged("a section is outside the file");
-        found[name] = bytes.substr(offset, size);
+        found.emplace_back(name, bytes.substr(offset, size));
     }
+    return found;
+}
+
+Sections sectionsByName(std::string_view bytes) {
+    Sections found;
+    for (const auto& [name, content] : listedSections(bytes)) found[name] = content;
     return found;
 }
 
 } // namespace
 
 Image decode(std::string_view bytes) {
-    auto sections = sectionsOf(bytes);
+    auto sections = sectionsByName(bytes);
     for (const auto name : {kStrings, kProject, kForms, kModules})
-        if (!sections.contains(std::string(name))) imageIsDamaged("section " + std::string(name) + " is missing");
-    const auto strings = decodeStrings(sections[std::string(kStrings)]);
+        if (!sections.contains(name)) imageIsDamaged("section " + std::string(name) + " is missing");
+    const auto strings = decodeStrings(sections[kStrings]);
     Image image;
-    decodeProject({strings, Reader{sections[std::string(kProject)]}}, image);
-    SectionReader forms{strings, Reader{sections[std::string(kForms)]}};
+    decodeProject({strings, Reader{sections[kProject]}}, image);
+    SectionReader forms{strings, Reader{sections[kForms]}};
     for (auto n = forms.in.count(20); n > 0; --n) image.forms.push_back(decodeControl(forms, 0));
     forms.end();
-    SectionReader modules{strings, Reader{sections[std::string(kModules)]}};
+    SectionReader modules{strings, Reader{sections[kModules]}};
     for (auto n = modules.in.count(21); n > 0; --n) image.modules.push_back(decodeModule(modules));
     modules.end();
+    image.code = decodeCode(sections, strings);
     return image;
+}
+
+std::vector<std::pair<std::string, std::size_t>> sectionSizes(std::string_view bytes) {
+    std::vector<std::pair<std::string, std::size_t>> sizes;
+    for (const auto& [name, content] : listedSections(bytes)) sizes.emplace_back(name, content.size());
+    return sizes;
 }
 
 } // namespace image

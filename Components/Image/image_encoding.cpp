@@ -1,6 +1,9 @@
+#include "Components/Image/code_sections.h"
 #include "Components/Image/image.h"
 #include "Components/Image/image_bytes.h"
 #include "Components/Image/image_format.h"
+#include <algorithm>
+#include <iterator>
 
 namespace image {
 
@@ -35,12 +38,8 @@ std::string encodeProject(const Image& image, Strings& strings) {
     return w.out.bytes();
 }
 
-[[noreturn]] void exceedsLimits(const char* reason) {
-    throw basic::RuntimeError(kInvalidFileFormat, reason, "QLToolkit");
-}
-
 void encodeControl(SectionWriter& w, const Control& control, int depth) {
-    if (depth > kDeepestControl) exceedsLimits("The controls of a form are nested too deeply.");
+    if (depth > kDeepestControl) imageIsRefused("The controls of a form are nested too deeply.");
     w.text(control.className);
     w.text(control.name);
     w.out.u32(std::uint32_t(control.index));
@@ -84,39 +83,67 @@ std::string encodeModules(const Image& image, Strings& strings) {
     return w.out.bytes();
 }
 
-} // namespace
+/// The code refers to its texts by their numbers, so they are the first of the table.
+void addTexts(const CodeImage& code, Strings& strings) {
+    for (std::size_t i = 0; i < code.texts.size(); ++i)
+        if (strings.numberOf(code.texts[i]) != i) imageIsRefused("A text of the code occurs twice.");
+}
 
-std::string encode(const Image& image) {
+std::vector<EncodedSection> sectionsOf(const Image& image) {
     Strings strings;
-    std::vector<std::pair<std::string_view, std::string>> sections;
+    addTexts(image.code, strings);
+    std::vector<EncodedSection> sections;
     sections.emplace_back(kProject, encodeProject(image, strings));
     sections.emplace_back(kForms, encodeForms(image, strings));
     sections.emplace_back(kModules, encodeModules(image, strings));
     Writer table;
     strings.write(table);
     sections.emplace_back(kStrings, table.bytes());
+    std::ranges::move(encodeCode(image.code), std::back_inserter(sections));
+    return sections;
+}
 
+constexpr std::size_t aligned(std::size_t offset) {
+    return (offset + kSectionAlignment - 1) / kSectionAlignment * kSectionAlignment;
+}
+
+std::string bodyOf(const std::vector<EncodedSection>& sections) {
+    const auto first = kHeaderSize + sections.size() * kSectionEntrySize;
+    std::size_t end = first;
+    for (const auto& section : sections) end = aligned(end) + section.second.size();
+    if (std::int64_t(end) > kLargestImage) imageIsRefused("The compiled application is too large.");
     Writer body;
-    std::size_t offset = kHeaderSize + sections.size() * kSectionEntrySize, size = offset;
-    for (const auto& section : sections) size += section.second.size();
-    if (std::int64_t(size) > kLargestImage) exceedsLimits("The compiled application is too large.");
+    std::size_t offset = first;
     for (const auto& [name, content] : sections) {
+        offset = aligned(offset);
         body.raw(name);
         body.u32(std::uint32_t(offset));
         body.u32(std::uint32_t(content.size()));
         offset += content.size();
     }
-    for (const auto& section : sections) body.raw(section.second);
+    offset = first;
+    for (const auto& [name, content] : sections) {
+        body.raw(std::string(aligned(offset) - offset, '\0'));
+        body.raw(content);
+        offset = aligned(offset) + content.size();
+    }
+    return body.bytes();
+}
 
+} // namespace
+
+std::string encode(const Image& image) {
+    const auto sections = sectionsOf(image);
+    const auto body = bodyOf(sections);
     Writer file;
     file.raw(kMagic);
     file.u16(kMajor);
     file.u16(kMinor);
-    file.u32(std::uint32_t(offset));
-    file.u32(crc32(body.bytes()));
+    file.u32(std::uint32_t(kHeaderSize + body.size()));
+    file.u32(crc32(body));
     // The checksum does not cover the count of sections; a wrong one shows in the length.
     file.u32(std::uint32_t(sections.size()));
-    file.raw(body.bytes());
+    file.raw(body);
     return file.bytes();
 }
 
