@@ -1,5 +1,6 @@
 #include "Host/model/module_code.h"
 #include "Basic/case_folding.h"
+#include "Host/model/code/member_attributes.h"
 #include "Host/model/component.h"
 #include "Host/model/errors/host_errors.h"
 #include "Host/model/module_pane.h"
@@ -59,6 +60,7 @@ void ModuleCode::ReplaceLine(int line, const std::string& newText) {
     auto& code = text();
     if (line < 1 || std::size_t(line) > code.count()) throw hostError(basic::kSubscriptOutOfRange);
     code.replace(std::size_t(line), newText);
+    if (const auto member = memberOfLine(newText); !member.empty()) code.nameAttributes(std::size_t(line), member);
     edited();
 }
 

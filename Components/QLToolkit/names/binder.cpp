@@ -3,11 +3,24 @@
 
 namespace qltoolkit {
 
-void Binder::bindModule() {
+void Binder::bindModule(ModuleCodeSink* code) {
+    notes_ = code != nullptr;
     for (const auto* decl = module_.tree.declarations; decl; decl = decl->next)
         if (decl->kind == DeclKind::Variables) warnOfUntyped(as<VariablesDecl>(*decl).variables);
     for (const auto& [entity, decl] : module_.callables)
-        if (decl->kind == DeclKind::Procedure) procedure(as<ProcedureDecl>(*decl), *entity);
+        if (decl->kind == DeclKind::Procedure) {
+            found_.assign(1, {});
+            procedure(as<ProcedureDecl>(*decl), *entity);
+            if (code && module_.diagnostics.errors() == 0)
+                code->procedure(as<ProcedureDecl>(*decl), *entity, names_, found_);
+        }
+}
+
+/// Numbers beyond the range of Expr::note are 0; the generator of code refuses such a procedure.
+void Binder::note(const Expr& expr, const Operand& operand) {
+    if (!notes_) return;
+    expr.note = static_cast<std::uint16_t>(found_.size() <= kMostNotes ? found_.size() : 0);
+    found_.push_back(operand);
 }
 
 void Binder::procedure(const ProcedureDecl& decl, Entity& entity) {
@@ -56,7 +69,9 @@ void Binder::declareParameters(const Callable& callable, const ProcedureDecl& de
 }
 
 void Binder::declareLabel(const Target& label) {
-    if (!names_.addLabel(label)) reportName(Message::DuplicateLabel, label.pos);
+    const Entity* made = names_.addLabel(label);
+    if (!made) return reportName(Message::DuplicateLabel, label.pos);
+    used(label.pos, *made);
 }
 
 void Binder::declareLabels(const Block& block) {

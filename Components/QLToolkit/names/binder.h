@@ -1,6 +1,7 @@
 #pragma once
 // Binds the names in the code of a module and checks types. Changes nothing but the module's diagnostics, so modules can
 // be bound at the same time.
+#include "Components/QLToolkit/names/code_sink.h"
 #include "Components/QLToolkit/names/constants.h"
 #include "Components/QLToolkit/names/declared_types.h"
 #include "Components/QLToolkit/names/procedure_names.h"
@@ -31,7 +32,7 @@ struct Operand {
     Type type{ValueType::Unknown};
     Pos pos = 0;
     const Entity* entity = nullptr;
-    const Scope* inner = nullptr; ///< of a Qualifier; null for the project
+    const Scope* inner = nullptr; ///< of a Qualifier, null for the project; of TypeOf the class
 };
 
 /// An array of controls is an object, which variables of type Object and Variant can hold.
@@ -53,7 +54,8 @@ public:
     /// Names that were not found while parts of the program are missing, in order.
     [[nodiscard]] const std::vector<std::pair<Symbol, Pos>>& unknownNames() const { return unknownNames_; }
 
-    void bindModule();
+    /// Binds all procedures. Those without errors are passed to `code`, if there is one.
+    void bindModule(ModuleCodeSink* code = nullptr);
     /// Binds one procedure. Its names can be looked up until another one is bound.
     void procedure(const ProcedureDecl& decl, Entity& entity);
 
@@ -95,7 +97,7 @@ private:
     void value(const Expr* expr, ValueType wanted);
 
     // Declarations in procedures
-    void local(const Variable& variable);
+    void local(const Variable& variable, bool isStatic);
     void warnOfUntyped(const Span<Variable>& variables);
     void localConstant(const Constant& constant);
     void reDim(const ReDimItem& item);
@@ -111,6 +113,7 @@ private:
     void setObject(const Operand& target, const Operand& value, Pos pos);
 
     // Expressions
+    void note(const Expr& expr, const Operand& operand);
     Operand expression(const Expr& expr, Use use = Use::Value);
     Operand operandOf(const Expr* expr, Use use = Use::Value);
     Operand leaf(const Expr& expr);
@@ -195,6 +198,8 @@ private:
     const IndexExpr* defaultsOf_ = nullptr; // whose arguments the last default members were offered
     int defaults_ = 0;
     std::vector<std::pair<Symbol, Pos>> unknownNames_;
+    bool notes_ = false; // whether found_ is filled
+    Notes found_;
 };
 
 } // namespace qltoolkit

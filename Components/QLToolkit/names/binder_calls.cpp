@@ -134,7 +134,10 @@ const ParameterInfo* Binder::parameterOf(const Callable& callable, const Argumen
         return hasArray ? &parameters[parameters.size() - 1] : nullptr;
     }
     for (const auto& parameter : parameters)
-        if (parameter.name == given.name && !parameter.paramArray) return &parameter;
+        if (parameter.name == given.name && !parameter.paramArray) {
+            if (program_.uses) program_.uses->usedParameter(module_, given.namePos, callable, parameter);
+            return &parameter;
+        }
     if (hasArray)
         report(Message::NamedWithParamArray, given.value ? given.value->pos : pos);
     else

@@ -49,6 +49,7 @@ Operand Binder::expression(const Expr& expr, Use use) {
         innermost = left;
     }
     Operand result = leaf(*innermost);
+    note(*innermost, result);
     while (spine_.size() > bottom_) {
         const Expr& next = *spine_.back();
         spine_.pop_back();
@@ -58,6 +59,7 @@ Operand Binder::expression(const Expr& expr, Use use) {
         case ExprKind::Bang: result = bang(result, as<MemberExpr>(next)); break;
         default: result = index(result, as<IndexExpr>(next));
         }
+        note(next, result);
     }
     bottom_ = outerBottom;
     use_ = outerUse;
@@ -166,12 +168,13 @@ Operand Binder::newObject(const NewExpr& expr) {
 
 Operand Binder::typeOf(const TypeOfExpr& expr) {
     const Operand operand = expression(*expr.operand);
-    (void)types_.classOf(*expr.type);
+    const Type wanted = types_.classOf(*expr.type);
     const auto value = operand.type.value;
     if (operand.type.isArray ||
         (value != ValueType::Object && value != ValueType::Variant && value != ValueType::Unknown))
         report(Message::ObjectRequired, operand.pos);
-    return {OperandKind::Value, {ValueType::Boolean}, expr.pos};
+    return {
+        OperandKind::Value, {ValueType::Boolean}, expr.pos, nullptr, wanted.id ? &program_.scope(wanted.id) : nullptr};
 }
 
 Operand Binder::coordinates(const CoordinatesExpr& expr) {

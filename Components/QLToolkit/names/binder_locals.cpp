@@ -5,7 +5,7 @@
 
 namespace qltoolkit {
 
-void Binder::local(const Variable& variable) {
+void Binder::local(const Variable& variable, bool isStatic) {
     Entity* made = declare(EntityKind::Variable, variable.name, variable.pos);
     if (!made) {
         Entity* other = names_.find(variable.name);
@@ -17,6 +17,9 @@ void Binder::local(const Variable& variable) {
     }
     made->type = types_.typeOf(variable.name, variable.suffix, variable.type, &names_);
     made->type.isArray = variable.isArray;
+    made->declaration = &variable;
+    made->isStatic = isStatic || procedure_->isStatic;
+    made->isNew = variable.type && variable.type->isNew;
     if (variable.isArray && !variable.bounds.empty()) declareBounds(*made, variable, constants_, module_, &names_);
 }
 

@@ -127,7 +127,8 @@ Operand Binder::entityOperand(const Entity& entity, const Expr& expr, bool throu
         return {OperandKind::Late, {ValueType::Unknown}, expr.pos};
     case EntityKind::Enum:
     case EntityKind::Library:
-    case EntityKind::Project: break;
+    case EntityKind::Project:
+    case EntityKind::Label: break;
     }
     return {OperandKind::Qualifier, {ValueType::None}, expr.pos, &entity, entity.inner};
 }
@@ -149,6 +150,9 @@ Operand Binder::addressOf(const UnaryExpr& expr) {
     else if (operand.kind == ExprKind::Member && as<MemberExpr>(operand).base)
         found = findName(program_, *module_.scope, as<MemberExpr>(operand).name).entity;
     if (found) used(operand.pos, *found);
+    if (const auto* base = operand.kind == ExprKind::Member ? as<MemberExpr>(operand).base : nullptr;
+        base && base->kind == ExprKind::Name)
+        if (const Entity* qualifier = program_.topNames.find(as<NameExpr>(*base).name)) used(base->pos, *qualifier);
     const bool isProcedure = found && found->kind == EntityKind::Procedure && found->owner &&
                              found->owner->kind == ScopeKind::StandardModule;
     if (!isProcedure && !(program_.isIncomplete && !found)) report(Message::InvalidAddressOf, expr.pos);

@@ -150,7 +150,7 @@ void Binder::simpleStatement(const Stmt& stmt) {
     }
     case StmtKind::Call: called(expression(*as<CallStmt>(stmt).call, Use::Statement)); break;
     case StmtKind::Local:
-        for (const auto& each : as<LocalStmt>(stmt).variables) local(each);
+        for (const auto& each : as<LocalStmt>(stmt).variables) local(each, as<LocalStmt>(stmt).isStatic);
         warnOfUntyped(as<LocalStmt>(stmt).variables);
         break;
     case StmtKind::LocalConst:
@@ -184,7 +184,7 @@ void Binder::called(const Operand& operand) {
 void Binder::condition(const Expr* expr) { value(expr, ValueType::Boolean); }
 
 void Binder::jump(const Target& target) {
-    if (names_.hasLabel(target)) return;
+    if (const Entity* label = names_.findLabel(target)) return used(target.pos, *label);
     module_.diagnostics.report(Message::LabelNotDefined, target.pos, nameAt(module_.tree.source, target.pos));
 }
 

@@ -1,4 +1,5 @@
 // What concerns whole declarations: interfaces, handlers of events, properties, records, public members of classes.
+#include "Components/QLToolkit/names/handlers.h"
 #include "Components/QLToolkit/names/lookup.h"
 #include "Components/QLToolkit/names/record_size.h"
 #include "Components/QLToolkit/names/resolve.h"
@@ -120,13 +121,12 @@ private:
         const auto spelling = program_.symbols.spelling(entity.name);
         const auto underline = spelling.rfind('_');
         if (underline == spelling.npos || underline == 0) return;
-        const Scope* source = sourceOf(spelling.substr(0, underline));
-        if (!source) return;
-        const Symbol name = program_.symbols.intern(spelling.substr(underline + 1));
-        const Entity* event = nullptr;
-        for (const Scope* at = source; at && !event; at = at->base) event = at->events.find(name);
+        const Entity* object = eventReceiver(program_, scope_, spelling.substr(0, underline));
+        if (!object) return;
+        const Scope& source = program_.scope(object->type.id);
+        const Entity* event = eventOf(source, program_.symbols.intern(spelling.substr(underline + 1)));
         if (!event) {
-            if (!source->open && source->kind == ScopeKind::LibraryClass)
+            if (!source.open && source.kind == ScopeKind::LibraryClass)
                 module_.diagnostics.report(Message::HandlerOfUnknownEvent, entity.pos,
                                            nameAt(module_.tree.source, entity.pos));
             return;
@@ -135,14 +135,6 @@ private:
         const bool hasIndex = given.size() == event->get->parameters.size() + 1;
         if (!hasIndex && !sameParameters(given, event->get->parameters))
             module_.diagnostics.report(Message::HandlerMismatch, entity.pos, nameAt(module_.tree.source, entity.pos));
-    }
-
-    /// The class whose events a prefix receives, or null.
-    const Scope* sourceOf(std::string_view prefix) {
-        const Entity* object = scope_.names.find(program_.symbols.intern(prefix));
-        if (!object || object->type.value != ValueType::Object || object->type.id == 0) return nullptr;
-        const bool receives = object->kind == EntityKind::Control || object->withEvents;
-        return receives ? &program_.scope(object->type.id) : nullptr;
     }
 
     // Classes have no public constants, arrays, texts of a fixed length or Declares.

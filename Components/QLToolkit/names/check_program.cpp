@@ -13,11 +13,11 @@ namespace {
 
 using UnknownNames = std::vector<std::pair<Symbol, Pos>>;
 
-void bindAll(Program& program, unsigned threads, std::vector<UnknownNames>& unknown) {
+void bindAll(Program& program, unsigned threads, std::vector<UnknownNames>& unknown, CodeSink* code) {
     forEachIndex(program.modules.size(), threads, [&] {
         return [&, names = ProcedureNames{}](std::size_t i) mutable {
             Binder binder{program, program.modules[i], names};
-            within([&] { binder.bindModule(); });
+            within([&] { binder.bindModule(code ? &code->module(i) : nullptr); });
             unknown[i] = binder.unknownNames();
         };
     });
@@ -35,11 +35,18 @@ void reportUnknown(Program& program, const std::vector<UnknownNames>& unknown) {
         });
 }
 
-void checkAll(Program& program, unsigned threads) {
+[[nodiscard]] bool isRight(const Program& program) {
+    return std::none_of(program.modules.begin(), program.modules.end(),
+                        [](const SourceModule& module) { return module.diagnostics.errors() > 0; });
+}
+
+void checkAll(Program& program, unsigned threads, CodeSink* code) {
     RecordSizes sizes{program};
     for (auto& module : program.modules) within([&] { checkDeclarations(program, module, sizes); });
     std::vector<UnknownNames> unknown(program.modules.size());
-    bindAll(program, threads, unknown);
+    if (!isRight(program)) code = nullptr;
+    if (code) code->declared(program);
+    bindAll(program, threads, unknown, code);
     reportUnknown(program, unknown);
 }
 
@@ -67,17 +74,25 @@ void checkIgnored(Program& program, SourceModule& module, bool isWhole) {
 
 } // namespace
 
-std::vector<std::vector<Diagnostic>> checkProgram(const std::vector<ParsedModule>& modules, SymbolTable& symbols,
-                                                  const ProgramOptions& options) {
+ProgramMessages checkProgram(const std::vector<ParsedModule>& modules, SymbolTable& symbols,
+                             const ProgramOptions& options) {
+    ProgramMessages result;
+    checkProgram(
+        modules, symbols, options, [&](ProgramMessages messages) { result = std::move(messages); }, nullptr);
+    return result;
+}
+
+void checkProgram(const std::vector<ParsedModule>& modules, SymbolTable& symbols, const ProgramOptions& options,
+                  const std::function<void(ProgramMessages)>& done, CodeSink* code) {
     Program program{symbols};
     addLibraries(program, options);
     // Declarations that were left have no signatures, so what uses them cannot be checked.
     const bool isWhole = declareProgram(program, modules, options);
-    if (isWhole) checkAll(program, options.threads);
-    std::vector<std::vector<Diagnostic>> result;
+    if (isWhole) checkAll(program, options.threads, code);
+    ProgramMessages result;
     for (auto& module : program.modules) within([&] { checkIgnored(program, module, isWhole); });
     for (auto& module : program.modules) result.push_back(module.diagnostics.takeSorted());
-    return result;
+    done(std::move(result));
 }
 
 } // namespace qltoolkit

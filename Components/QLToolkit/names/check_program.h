@@ -2,6 +2,7 @@
 // Checks the names and types of a whole project.
 #include "Components/Language/library.h"
 #include "Components/QLToolkit/names/program.h"
+#include <functional>
 
 namespace qltoolkit {
 
@@ -23,9 +24,16 @@ struct ProgramOptions {
     unsigned threads = 1;
 };
 
-/// Returns the messages for each module in the order of the modules, sorted by position. They are the same for any
-/// number of threads.
-[[nodiscard]] std::vector<std::vector<Diagnostic>> checkProgram(const std::vector<ParsedModule>& modules,
-                                                                SymbolTable& symbols, const ProgramOptions& options);
+class CodeSink;
+
+/// The messages for each module in the order of the modules, sorted by position. They are the same for any number of
+/// threads.
+using ProgramMessages = std::vector<std::vector<Diagnostic>>;
+
+[[nodiscard]] ProgramMessages checkProgram(const std::vector<ParsedModule>& modules, SymbolTable& symbols,
+                                           const ProgramOptions& options);
+/// The same; `done` is called while everything that names mean still exists.
+void checkProgram(const std::vector<ParsedModule>& modules, SymbolTable& symbols, const ProgramOptions& options,
+                  const std::function<void(ProgramMessages)>& done, CodeSink* code);
 
 } // namespace qltoolkit

@@ -1,4 +1,5 @@
 #include "Components/QLToolkit/names/declare.h"
+#include "Components/QLToolkit/parser/module_name.h"
 
 namespace qltoolkit {
 
@@ -41,7 +42,12 @@ private:
         made.pos = pos;
         made.isPublic = isPublic;
         made.owner = &scope_;
+        used(pos, made);
         return made;
+    }
+
+    void used(Pos pos, const Entity& entity) {
+        if (program_.uses) program_.uses->used(module_, pos, entity);
     }
 
     void enter(SymbolMap<Entity>& map, Entity& made) {
@@ -145,6 +151,7 @@ private:
         }
         if (made->kind != EntityKind::Property || partOf(*made, signature.kind))
             return report(signature.namePos, signature.name);
+        if (made->pos != signature.namePos) used(signature.namePos, *made);
         partOf(*made, signature.kind) = program_.arena.make<Callable>();
         made->isPublic |= isPublic(decl, true);
         module_.callables.emplace_back(made, &decl);
@@ -185,6 +192,14 @@ void publishNames(Program& program, const Scope& scope) {
     scope.names.forEach([&](Symbol, Entity& entity) { publish(program, entity); });
 }
 
+/// The name of a module is declared by an attribute.
+void reportName(Program& program, const SourceModule& module, Entity& entity) {
+    const auto* literal = program.uses ? moduleNameLiteral(module.tree, program.symbols) : nullptr;
+    if (!literal) return;
+    entity.pos = literal->pos + 1;
+    program.uses->used(module, entity.pos, entity);
+}
+
 } // namespace
 
 void declareModule(Program& program, SourceModule& module, Symbol name) {
@@ -210,6 +225,7 @@ void declareProject(Program& program, std::string_view projectName) {
         entity.isPublic = true;
         if (module.scope->isClass()) entity.type = {ValueType::Object, false, false, module.scope->number};
         program.topNames.add(entity.name, &entity);
+        reportName(program, module, entity);
         publishNames(program, *module.scope);
     }
     for (auto* library : program.libraries) {

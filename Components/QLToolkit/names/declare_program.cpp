@@ -2,8 +2,8 @@
 #include "Components/QLToolkit/names/declare.h"
 #include "Components/QLToolkit/names/form_controls.h"
 #include "Components/QLToolkit/names/library_scopes.h"
-#include "Components/QLToolkit/names/module_name.h"
 #include "Components/QLToolkit/names/resolve.h"
+#include "Components/QLToolkit/parser/module_name.h"
 
 namespace qltoolkit {
 

@@ -20,6 +20,10 @@ struct ParameterInfo {
     bool paramArray = false;
     bool any = false; ///< As Any, of a Declare
     bool isOfDeclare = false;
+    const Expr* defaultValue = nullptr;       ///< of a procedure of the project
+    const std::string* defaultText = nullptr; ///< of a library, as its description has it; null for none
+    Symbol defaultName = Symbol::None;        ///< the same, if it is the name of a constant
+    Pos pos = 0;                              ///< of the declaration; 0 in libraries
 };
 
 /// How a procedure, property or Declare is called.
@@ -27,6 +31,8 @@ struct Callable {
     Span<ParameterInfo> parameters; ///< of Property Let and Set without the value
     Type result{ValueType::None};   ///< of Property Let and Set the type of the value
     const ProcedureDecl* body = nullptr;
+    mutable std::uint32_t number = 0;     ///< of the compiled procedure, given by the generator of code
+    const SourceModule* source = nullptr; ///< null in libraries
 };
 
 enum class EntityKind : std::uint8_t {
@@ -40,7 +46,8 @@ enum class EntityKind : std::uint8_t {
     Record,
     Module, ///< a module, class or form of the project, or a module or class of a library
     Library,
-    Project
+    Project,
+    Label ///< of a line; without a name if it is a number
 };
 
 /// The value of a constant, found when it is first needed, because constants may refer to later ones.
@@ -65,6 +72,8 @@ struct Entity {
     bool isImplicit = false;    ///< a local variable without a declaration
     bool onDevices = true;
     bool withEvents = false;
+    bool isStatic = false;      ///< a local variable that keeps its value
+    bool isNew = false;         ///< As New: an object is made when it is used and Nothing
     std::int16_t rank = -1;     ///< dimensions of an array; -1 if they are not known
     std::uint32_t elements = 1; ///< of an array with bounds, at most kMostElements
     Symbol name = Symbol::None;
@@ -76,8 +85,10 @@ struct Entity {
     const Callable* let = nullptr;
     const Callable* set = nullptr;
     ConstantState* constant = nullptr;
-    const Entity* text = nullptr;         ///< of a library's function f: the function f$
-    const std::string* instead = nullptr; ///< what devices have instead of this; null if that is not known
+    const Entity* text = nullptr;          ///< of a library's function f: the function f$
+    const std::string* instead = nullptr;  ///< what devices have instead of this; null if that is not known
+    const Variable* declaration = nullptr; ///< of a variable or field with a declaration
+    mutable std::uint32_t place = 0;       ///< of a variable: its slot, given by the generator of code
 };
 
 enum class ScopeKind : std::uint8_t { StandardModule, ClassModule, Record, Enum, Library, LibraryModule, LibraryClass };
@@ -132,8 +143,15 @@ public:
     UseSink(const UseSink&) = delete;
     virtual ~UseSink() = default;
 
-    /// The name at a position means this. Local names are reported where they are declared too.
+    /// Called before anything is reported, with the table of all names.
+    virtual void begin(SymbolTable&) {}
+
+    /// The name at a position means this. Names are reported where they are declared, too.
     virtual void used(const SourceModule& module, Pos pos, const Entity& entity) = 0;
+    /// A part of a handler's name means this.
+    virtual void usedPart(const SourceModule&, Pos, std::size_t /*length*/, const Entity&) {}
+    /// The name means a parameter: in `name:=value`, and where a Declare or an event declares it.
+    virtual void usedParameter(const SourceModule&, Pos, const Callable&, const ParameterInfo&) {}
     virtual void member(const MemberBase&, Symbol /*name*/) {}
 };
 

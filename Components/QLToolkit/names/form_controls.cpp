@@ -1,8 +1,8 @@
 #include "Components/QLToolkit/names/form_controls.h"
 #include "Basic/case_folding.h"
-#include "Components/QLToolkit/names/header_places.h"
 #include "Components/QLToolkit/names/lacks.h"
 #include "Components/QLToolkit/names/lookup.h"
+#include "Components/QLToolkit/parser/header_places.h"
 
 namespace qltoolkit {
 

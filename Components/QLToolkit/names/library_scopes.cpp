@@ -126,8 +126,14 @@ private:
             type.isArray = parameter.isArray && !parameter.paramArray;
             parameters_.push_back({symbolOf(parameter.name), type, !parameter.byRef, parameter.optional,
                                    parameter.paramArray, parameter.type == "Any"});
+            if (!parameter.defaultValue.empty()) setDefault(parameters_.back(), parameter.defaultValue);
         }
         return program_.arena.copy(parameters_.data(), parameters_.size());
+    }
+
+    void setDefault(ParameterInfo& info, const std::string& text) {
+        info.defaultText = &text;
+        if (text.starts_with("vb")) info.defaultName = symbolOf(text);
     }
 
     Type typeNamed(std::string_view name) {

@@ -2,7 +2,7 @@
 // The names of one procedure: parameters, variables, constants, its own name, and labels.
 #include "Components/QLToolkit/names/entity.h"
 #include <deque>
-#include <unordered_set>
+#include <unordered_map>
 
 namespace qltoolkit {
 
@@ -36,9 +36,20 @@ public:
 
     ConstantState& newConstant() { return constants_.emplace_back(); }
 
-    /// Labels and line numbers. Returns false for one that is there already.
-    bool addLabel(const Target& label) { return labels_.insert(keyOf(label)).second; }
-    [[nodiscard]] bool hasLabel(const Target& label) const { return labels_.contains(keyOf(label)); }
+    [[nodiscard]] bool hasLabels() const { return !labels_.empty(); }
+    /// Labels and line numbers. Returns nothing for one that is there already.
+    Entity* addLabel(const Target& label) {
+        const auto [at, isNew] = labels_.try_emplace(keyOf(label));
+        if (!isNew) return nullptr;
+        at->second.kind = EntityKind::Label;
+        at->second.name = label.name;
+        at->second.pos = label.pos;
+        return &at->second;
+    }
+    [[nodiscard]] const Entity* findLabel(const Target& label) const {
+        const auto found = labels_.find(keyOf(label));
+        return found == labels_.end() ? nullptr : &found->second;
+    }
 
     [[nodiscard]] const std::deque<Entity>& all() const { return entities_; }
 
@@ -55,7 +66,7 @@ private:
     std::vector<Slot> slots_; // by symbol
     std::deque<Entity> entities_;
     std::deque<ConstantState> constants_;
-    std::unordered_set<std::uint64_t> labels_;
+    std::unordered_map<std::uint64_t, Entity> labels_;
 };
 
 } // namespace qltoolkit

@@ -36,13 +36,17 @@ struct SourceModule {
 class Program {
 public:
     explicit Program(SymbolTable& table) : symbols(table) { newScope(ScopeKind::Library); }
+    /// Begins with the libraries of another program, which must outlive this and is not changed. The table begins with
+    /// the names of the other one's.
+    Program(SymbolTable& table, Program& shared)
+        : symbols(table), libraries(shared.libraries), shared_(&shared), sharedScopes_(shared.scopes_.size()) {}
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;
 
     Scope& newScope(ScopeKind kind) {
         Scope& scope = scopes_.emplace_back();
         scope.kind = kind;
-        scope.number = static_cast<std::uint32_t>(scopes_.size() - 1);
+        scope.number = static_cast<std::uint32_t>(sharedScopes_ + scopes_.size() - 1);
         return scope;
     }
     Entity& newEntity(EntityKind kind, Symbol name) {
@@ -52,8 +56,12 @@ public:
         return *entity;
     }
     ConstantState& newConstant() { return constants_.emplace_back(); }
-    [[nodiscard]] const Scope& scope(std::uint32_t number) const { return scopes_[number]; }
-    [[nodiscard]] Scope& scope(std::uint32_t number) { return scopes_[number]; }
+    [[nodiscard]] const Scope& scope(std::uint32_t number) const {
+        return number < sharedScopes_ ? shared_->scopes_[number] : scopes_[number - sharedScopes_];
+    }
+    [[nodiscard]] Scope& scope(std::uint32_t number) {
+        return number < sharedScopes_ ? shared_->scopes_[number] : scopes_[number - sharedScopes_];
+    }
 
     SymbolTable& symbols;
     Arena arena;
@@ -71,6 +79,8 @@ public:
     UseSink* uses = nullptr;      ///< called for each name, from one thread; null for none
 
 private:
+    Program* shared_ = nullptr;
+    std::size_t sharedScopes_ = 0;
     std::deque<Scope> scopes_; // number 0 is any class
     std::deque<ConstantState> constants_;
 };

@@ -24,9 +24,10 @@ bool isPointer(const Entity& field) { return field.type.isArray && !field.isStat
 
 bool isRecord(const Entity& field) { return field.type.value == ValueType::Record && !isPointer(field); }
 
-std::uint64_t sizeOf(const Entity& field) {
+std::uint64_t sizeOf(const Entity& field, std::uint64_t characterBytes) {
     if (isPointer(field)) return sizeOf(ValueType::Object);
-    return field.type.value == ValueType::FixedString ? std::uint64_t{field.type.id} * 2 : sizeOf(field.type.value);
+    return field.type.value == ValueType::FixedString ? std::uint64_t{field.type.id} * characterBytes
+                                                      : sizeOf(field.type.value);
 }
 
 } // namespace
@@ -58,7 +59,7 @@ void RecordSizes::open(std::uint32_t record) {
 void RecordSizes::count(const Entity& field) {
     auto& total = known_[open_.back().record].size.bytes;
     if (!isRecord(field)) {
-        total = std::min(total + std::min(sizeOf(field), kTooLarge) * field.elements, kTooLarge);
+        total = std::min(total + std::min(sizeOf(field, characterBytes_), kTooLarge) * field.elements, kTooLarge);
     } else if (const auto& inner = known_[field.type.id]; inner.isDone) {
         total = std::min(total + inner.size.bytes * field.elements, kTooLarge);
     } else {

@@ -17,7 +17,9 @@ struct RecordSize {
 /// Finds each size once, because records may contain one another in long chains.
 class RecordSizes {
 public:
-    explicit RecordSizes(const Program& program) : program_(program) {}
+    /// In memory a character of a text of a fixed length has two bytes, in files one.
+    explicit RecordSizes(const Program& program, std::uint32_t characterBytes = 2)
+        : program_(program), characterBytes_(characterBytes) {}
     [[nodiscard]] RecordSize of(const Scope& record);
 
 private:
@@ -34,6 +36,7 @@ private:
     void markCircle(std::uint32_t record);
 
     const Program& program_;
+    std::uint32_t characterBytes_;
     std::unordered_map<std::uint32_t, Known> known_; // by Scope::number
     std::vector<Open> open_;                         // the records that are being counted, each inside the one before
 };

@@ -39,6 +39,17 @@ public:
     void resolve(Entity& entity, const ProcedureDecl& decl) { signature(entity, decl.signature, &decl); }
 
 private:
+    void used(Pos pos, const Entity& entity) {
+        if (program_.uses) program_.uses->used(module_, pos, entity);
+    }
+
+    /// The binder reports the parameters of procedures.
+    void declared(const Callable& callable) {
+        if (!program_.uses) return;
+        for (const auto& parameter : callable.parameters)
+            program_.uses->usedParameter(module_, parameter.pos, callable, parameter);
+    }
+
     void constant(Entity& entity) {
         constants_.evaluate(entity, module_);
         if (entity.type.isEnum) return;
@@ -54,6 +65,7 @@ private:
             field.pos = member.pos;
             field.isPublic = true;
             field.owner = &fields;
+            used(member.pos, field);
             variable(field, member);
             if (!fields.names.add(member.name, &field))
                 module_.diagnostics.report(Message::DuplicateDeclaration, member.pos,
@@ -64,6 +76,8 @@ private:
     void variable(Entity& entity, const Variable& decl) {
         entity.type = types_.typeOf(decl.name, decl.suffix, decl.type);
         entity.type.isArray = decl.isArray;
+        entity.declaration = &decl;
+        entity.isNew = decl.type && decl.type->isNew;
         if (decl.isArray && !decl.bounds.empty()) declareBounds(entity, decl, constants_, module_);
     }
 
@@ -74,7 +88,9 @@ private:
             return signature(entity, as<DeclareDecl>(decl).signature, nullptr);
         case DeclKind::Event: {
             auto* made = program_.arena.make<Callable>();
+            made->source = &module_;
             made->parameters = parameters(as<EventDecl>(decl).parameters);
+            declared(*made);
             entity.get = made;
             return;
         }
@@ -98,7 +114,9 @@ private:
     void signature(Entity& entity, const Signature& decl, const ProcedureDecl* body) {
         auto* made = program_.arena.make<Callable>();
         made->body = body;
+        made->source = &module_;
         made->parameters = parameters(decl.parameters, body == nullptr);
+        if (!body) declared(*made);
         const bool hasResult = decl.kind == ProcedureKind::Function || decl.kind == ProcedureKind::PropertyGet;
         if (hasResult) made->result = types_.typeOf(decl.name, decl.suffix, decl.result);
         switch (decl.kind) {
@@ -126,6 +144,7 @@ private:
         for (const auto& p : list) {
             ParameterInfo info;
             info.name = p.name;
+            info.pos = p.pos;
             if (p.type || !p.paramArray) info.type = types_.typeOf(p.name, p.suffix, p.type);
             info.type.isArray = p.isArray && !p.paramArray;
             info.byVal = p.passing == Passing::ByVal;
@@ -133,6 +152,7 @@ private:
             info.paramArray = p.paramArray;
             info.isOfDeclare = isOfDeclare;
             info.any = p.type && p.type->kind == TypeKind::Any;
+            info.defaultValue = p.defaultValue;
             if (p.defaultValue) (void)constants_.valueOf(*p.defaultValue, module_);
             made.push_back(info);
         }
@@ -140,6 +160,8 @@ private:
     }
 
     void attribute(const AttributeDecl& decl) {
+        if (!decl.path.empty())
+            if (const Entity* member = module_.scope->names.find(decl.path[0])) used(decl.pathPos, *member);
         if (decl.values.empty() || !decl.values[0]) return;
         const auto name = program_.symbols.spelling(decl.name);
         if (decl.path.empty() && basic::equalNoCase(name, "VB_PredeclaredId"))
@@ -164,7 +186,7 @@ private:
 
     void implements(const ImplementsDecl& decl) {
         const Entity* found = findType(program_, *module_.scope, decl.type->library, decl.type->name);
-        if (found && program_.uses) program_.uses->used(module_, decl.type->namePos, *found);
+        if (found) used(decl.type->namePos, *found);
         if (found && found->inner && found->inner->isClass() && module_.scope->isClass() &&
             found->inner != module_.scope)
             module_.scope->interfaces.push_back(found->inner);

@@ -104,6 +104,7 @@ struct ProcedureDecl : Decl {
 /// `Attribute a.b.VB_Name = value, value`: the path without its last part, the last part, and the values as literals.
 struct AttributeDecl : Decl {
     Span<Symbol> path;
+    Pos pathPos;
     Symbol name;
     Span<const Expr*> values;
 };

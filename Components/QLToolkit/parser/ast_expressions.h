@@ -97,6 +97,8 @@ enum class Operator : std::uint8_t {
 struct Expr {
     ExprKind kind;
     std::uint8_t detail = 0; ///< Operator of Unary and Binary; TypeSuffix of Name and Member; 1 = True
+    /// The number of what binding found out about the expression, for the generator of code; 0 for nothing.
+    mutable std::uint16_t note = 0;
     Pos pos;
 
     [[nodiscard]] Operator op() const { return static_cast<Operator>(detail); }
@@ -128,7 +130,8 @@ struct MemberExpr : Expr {
 struct Argument {
     const Expr* value = nullptr;
     Symbol name = Symbol::None; ///< name:=value
-    bool byVal = false;         ///< ByVal value, for parameters declared As Any
+    Pos namePos : 31 = 0;       ///< files are shorter than 2^31 bytes
+    bool byVal : 1 = false;     ///< ByVal value, for parameters declared As Any
 };
 /// callee(arguments): a call or an array element, which cannot be distinguished by syntax. pos is that of the callee.
 struct IndexExpr : Expr {

@@ -172,11 +172,13 @@ struct SelectStmt : Stmt {
 };
 
 struct ForStmt : Stmt {
+    std::uint16_t lines; ///< from For to Next; needs no room of its own
     const Expr *variable, *from, *to, *step;
     Block body;
     const Expr* next;
 }; ///< step is null for 1; next is the variable after Next, null if it is not named
 struct ForEachStmt : Stmt {
+    std::uint16_t lines; ///< as in ForStmt
     const Expr *variable, *in;
     Block body;
     const Expr* next; ///< as in ForStmt

@@ -22,6 +22,8 @@ Value converted(const Value& v) {
     return number(basic::Convertible(convert(convertible(v))).number());
 }
 
+Value date(const Value& v) { return number(basic::CDate(convertible(v)).days); }
+
 Value abs(const Value& v) { return number(basic::Abs(convertible(v).number())); }
 
 Value wide(const Value& v) { return number(basic::Round(convertible(v))); }
@@ -51,7 +53,7 @@ constexpr Function kFunctions[] = {
     {"cbool", converted<basic::CBool>},
     {"cbyte", converted<basic::CByte>},
     {"ccur", converted<basic::CCur>},
-    {"cdate", converted<basic::CDate>},
+    {"cdate", date},
     {"cdbl", converted<basic::CDbl>},
     {"cint", converted<basic::CInt>},
     {"clng", converted<basic::CLng>},

@@ -173,6 +173,7 @@ private:
     Stmt* forEachStatement(Pos);
     Stmt* forCounterStatement(Pos);
     const Expr* endFor(const Expr* variable);
+    [[nodiscard]] std::uint16_t linesSince(Pos begin) const;
     Stmt* doStatement();
     LoopTest loopTest(const Expr*& condition);
     Stmt* whileStatement();

@@ -4,6 +4,11 @@
 
 namespace qltoolkit {
 
+namespace {
+constexpr Pos kMostOfPos = 0x7FFFFFFF;
+static_assert(kMaxSourceBytes <= kMostOfPos);
+} // namespace
+
 void Parser::restOfArguments(ListBuilder<Argument>& arguments) {
     for (;;) {
         if (at(TokenKind::Comma) || endsStatement())
@@ -34,6 +39,7 @@ Argument Parser::argument() {
     Argument a;
     if (tok_.isWord() && lexer_.assignsByName(tok_)) {
         a.name = symbolOf(tok_);
+        a.namePos = tok_.begin & kMostOfPos;
         advance();
         advance();
     }
@@ -44,7 +50,7 @@ Argument Parser::argument() {
         const Pos pos = tok_.begin;
         advance();
         const Expr* upper = expression();
-        a.value = make<BinaryExpr>(Expr{ExprKind::Range, 0, pos}, a.value, upper);
+        a.value = make<BinaryExpr>(Expr{ExprKind::Range, 0, 0, pos}, a.value, upper);
     }
     return a;
 }
@@ -61,7 +67,7 @@ void Parser::checkArguments(const ListBuilder<Argument>& arguments) {
 
 // [Step] (x, y) [- [Step] (x, y)], or only the part from the minus. `first`: (x, y) if already parsed as arguments.
 const Expr* Parser::coordinates(const IndexExpr* first) {
-    auto* c = make<CoordinatesExpr>(Expr{ExprKind::Coordinates, 0, first ? first->pos : tok_.begin}, false, false,
+    auto* c = make<CoordinatesExpr>(Expr{ExprKind::Coordinates, 0, 0, first ? first->pos : tok_.begin}, false, false,
                                     nullptr, nullptr, nullptr, nullptr);
     if (first) {
         c->x1 = first->arguments[0].value;

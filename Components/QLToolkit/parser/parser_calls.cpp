@@ -16,7 +16,7 @@ bool isAssignable(const Expr& e) {
 Stmt* Parser::callOrAssign() {
     const Pos pos = tok_.begin;
     const Expr* first = at(TokenKind::Dot) || at(TokenKind::Bang) ? withMember()
-                        : at(Keyword::Me)                         ? make<Expr>(Expr{ExprKind::Me, 0, pos})
+                        : at(Keyword::Me)                         ? make<Expr>(Expr{ExprKind::Me, 0, 0, pos})
                                                                   : name();
     if (first->kind == ExprKind::Me) advance();
     const Expr* target = atPostfix() ? postfix(first, true) : first;
@@ -87,7 +87,7 @@ Stmt* Parser::callWithParentheses(Pos pos, const IndexExpr& call) {
     if (inner.size() != 1 || !inner[0].value || inner[0].name != Symbol::None || inner[0].byVal)
         fail(Message::CallParentheses, call.pos);
     ListBuilder<Argument> arguments{scratch_.arguments};
-    const Expr* first = make<UnaryExpr>(Expr{ExprKind::Paren, 0, call.pos}, inner[0].value);
+    const Expr* first = make<UnaryExpr>(Expr{ExprKind::Paren, 0, 0, call.pos}, inner[0].value);
     arguments.add({binaryRest(first, kWeakest)});
     if (accept(TokenKind::Comma)) restOfArguments(arguments);
     return makeCall(pos, call.callee, arguments);
@@ -98,7 +98,8 @@ Stmt* Parser::makeCall(Pos pos, const Expr* callee, ListBuilder<Argument>& argum
     if (callee->kind == ExprKind::Name && as<NameExpr>(*callee).name == known_.name && arguments.size() == 1 &&
         accept(Keyword::As))
         return make<FileStmt>(stmtHead(StmtKind::NameAs, pos), arguments[0].value, expression(), nullptr);
-    const auto* call = make<IndexExpr>(Expr{ExprKind::Index, 0, callee->pos}, callee, arguments.finish(module_.arena));
+    const auto* call =
+        make<IndexExpr>(Expr{ExprKind::Index, 0, 0, callee->pos}, callee, arguments.finish(module_.arena));
     return make<CallStmt>(stmtHead(StmtKind::Call, pos), false, call);
 }
 

@@ -107,7 +107,7 @@ const Expr* Parser::keywordOperand() {
     const Pos pos = tok_.begin;
     const auto constant = [&](ExprKind kind, std::uint8_t detail = 0) {
         advance();
-        return make<Expr>(Expr{kind, detail, pos});
+        return make<Expr>(Expr{kind, detail, 0, pos});
     };
     switch (tok_.keyword) {
     case Keyword::True: return constant(ExprKind::Boolean, 1);
@@ -163,7 +163,7 @@ FloatExpr* Parser::real() {
 }
 
 const Expr* Parser::stringLiteral() {
-    const auto* e = make<StringExpr>(Expr{ExprKind::String, tok_.doubled, tok_.begin}, tok_.end - tok_.begin - 2);
+    const auto* e = make<StringExpr>(Expr{ExprKind::String, tok_.doubled, 0, tok_.begin}, tok_.end - tok_.begin - 2);
     advance();
     return e;
 }

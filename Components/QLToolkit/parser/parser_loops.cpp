@@ -1,6 +1,8 @@
 // For, Do, While, and With.
 #include "Components/QLToolkit/parser/node_heads.h"
 #include "Components/QLToolkit/parser/parser.h"
+#include <algorithm>
+#include <limits>
 
 namespace qltoolkit {
 
@@ -21,8 +23,9 @@ Stmt* Parser::forEachStatement(Pos pos) {
     });
     openBlock(BlockKind::For, pos);
     const Block body = block(BlockKind::For);
+    const std::uint16_t lines = linesSince(pos);
     const Expr* next = endFor(variable);
-    return make<ForEachStmt>(stmtHead(StmtKind::ForEach, pos), variable, in, body, next);
+    return make<ForEachStmt>(stmtHead(StmtKind::ForEach, pos), lines, variable, in, body, next);
 }
 
 Stmt* Parser::forCounterStatement(Pos pos) {
@@ -37,8 +40,15 @@ Stmt* Parser::forCounterStatement(Pos pos) {
     });
     openBlock(BlockKind::For, pos);
     const Block body = block(BlockKind::For);
+    const std::uint16_t lines = linesSince(pos);
     const Expr* next = endFor(variable);
-    return make<ForStmt>(stmtHead(StmtKind::For, pos), variable, from, to, step, body, next);
+    return make<ForStmt>(stmtHead(StmtKind::For, pos), lines, variable, from, to, step, body, next);
+}
+
+/// A loop that is longer has the line of its 65535th.
+std::uint16_t Parser::linesSince(Pos begin) const {
+    const auto lines = source_.lineOf(tok_.begin) - source_.lineOf(begin);
+    return static_cast<std::uint16_t>(std::min<std::uint32_t>(lines, std::numeric_limits<std::uint16_t>::max()));
 }
 
 // Next [a [, b ...]]: names after a comma belong to the enclosing loops.

@@ -7,7 +7,7 @@ namespace qltoolkit {
 // The node is made before its members are read, so that fewer values have to be kept during calls.
 const Expr* Parser::name() {
     auto* e = make<NameExpr>();
-    static_cast<Expr&>(*e) = {ExprKind::Name, static_cast<std::uint8_t>(tok_.suffix), tok_.begin};
+    static_cast<Expr&>(*e) = {ExprKind::Name, static_cast<std::uint8_t>(tok_.suffix), 0, tok_.begin};
     e->name = symbolOf(tok_);
     advance();
     return e;
@@ -21,7 +21,7 @@ const Expr* Parser::member(const Expr* base) {
     advance();
     if (!tok_.isWord()) failHere(Message::MemberNameExpected);
     const auto suffix = static_cast<std::uint8_t>(tok_.suffix);
-    const auto* e = make<MemberExpr>(Expr{kind, suffix, tok_.begin}, symbolOf(tok_), base);
+    const auto* e = make<MemberExpr>(Expr{kind, suffix, 0, tok_.begin}, symbolOf(tok_), base);
     advance();
     return e;
 }

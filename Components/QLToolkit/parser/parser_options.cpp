@@ -34,6 +34,7 @@ void Parser::attribute() {
     const auto line = source_.lineOf(pos);
     if (line >= source_.codeBegin()) module_.hiddenLines.push_back(line);
     advance();
+    const Pos pathPos = tok_.begin;
     ListBuilder<Symbol> path{scratch_.symbols};
     for (;;) {
         if (!tok_.isWord()) failHere(Message::AttributeInvalid);
@@ -47,7 +48,7 @@ void Parser::attribute() {
     const Symbol name = path.back();
     const auto whole = path.finish(module_.arena);
     addDeclaration(make<AttributeDecl>(declHead(DeclKind::Attribute, Visibility::Default, pos),
-                                       Span<Symbol>{whole.begin(), whole.size() - 1}, name,
+                                       Span<Symbol>{whole.begin(), whole.size() - 1}, pathPos, name,
                                        values.finish(module_.arena)));
 }
 

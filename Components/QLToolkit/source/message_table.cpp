@@ -500,6 +500,12 @@ constexpr MessageInfo kMessageTable[] = {
      "A Type, or an array of fixed size inside of one, may need at most 65,536 bytes.",
      "Private Type Picture\n  Pixels(70000) As Byte\nEnd Type", "Use a dynamic array."},
 
+    {M::ProcedureTooLarge, S::Error, "Procedure too large: {name}.",
+     "A procedure may have 8,192 slots for its variables, of which a Variant takes two and a record one or more for "
+     "each "
+     "field. One expression may need 96 more, and a procedure may have 65,535 expressions.",
+     "", "Divide the procedure, or its longest expression."},
+
     {M::ControlClassUnknown, S::Warning,
      "The class {name} of this control is not known, so its members are not checked.",
      "The library that defines the control is not installed here. The rest of the form is checked.",

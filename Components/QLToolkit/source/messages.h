@@ -12,8 +12,8 @@ enum class Severity : std::uint8_t { Warning, Error };
 
 /// Numbers by subject. 1000: files, 1100: characters, 1200: conditional compilation, 1300: declarations,
 /// 1500: statements, 1800: expressions, 1900: whole projects, 2000: names, 2100: types and values, 2200: arguments,
-/// 2300: properties, 2400: jumps, 2500: classes, 2600: arrays, 2800: forms and devices, 2900: doubtful code. 2700 is
-/// reserved for code generation. Numbers from 2999 do not belong to the compiler.
+/// 2300: properties, 2400: jumps, 2500: classes, 2600: arrays, 2800: forms and devices, 2900: doubtful code. 2700:
+/// code. Numbers from 2999 do not belong to the compiler.
 enum class Message : std::uint16_t {
     FileMissing = 1000,
     FileUnreadable = 1001,
@@ -196,6 +196,8 @@ enum class Message : std::uint16_t {
     EmptyRange = 2602,
     TooManyDimensions = 2603,
     StaticDataTooLarge = 2604,
+
+    ProcedureTooLarge = 2700,
 
     ControlClassUnknown = 2800,
     PropertyUnknown = 2801,

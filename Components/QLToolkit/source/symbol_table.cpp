@@ -29,6 +29,9 @@ SymbolTable::SymbolTable()
       mask_(slots_.size() - 1),
       shift_(64 - kFirstSlotBits) {}
 
+SymbolTable::SymbolTable(const SymbolTable* base)
+    : entries_(base->entries_), slots_(base->slots_), mask_(base->mask_), shift_(base->shift_) {}
+
 Symbol SymbolTable::internAscii(const char* name, std::uint32_t length, std::uint64_t key) {
     for (std::size_t at = slotOf(key);; at = (at + 1) & mask_) {
         const Slot& slot = slots_[at];

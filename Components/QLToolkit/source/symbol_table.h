@@ -14,6 +14,8 @@ enum class Symbol : std::uint32_t { None = 0 };
 class SymbolTable {
 public:
     SymbolTable();
+    /// Begins with the names of another table under the same numbers. The other one must outlive this.
+    explicit SymbolTable(const SymbolTable* base);
 
     /// Returns the symbol of a name where it is found at once, or null: then intern it. `key` is its nameKey.
     [[nodiscard]] const Symbol* find(std::uint64_t key) const {

@@ -1,4 +1,4 @@
-#include "Components/QLToolkit/names/header_places.h"
+#include "Components/QLToolkit/parser/header_places.h"
 #include "Basic/case_folding.h"
 #include "Components/QLToolkit/parser/form_header.h"
 
