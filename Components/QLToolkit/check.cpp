@@ -38,8 +38,14 @@ CheckResult checkSource(std::string name, std::string bytes, const ConditionalCo
     return checkSource(SourceText{std::move(name), std::move(bytes), page}, constants);
 }
 
-std::vector<CheckResult> checkProject(const std::vector<const SourceText*>& sources,
-                                      const ConditionalConstants& constants, const ProgramOptions& options) {
+namespace {
+
+using Sources = std::vector<const SourceText*>;
+
+/// `finish` is called while the trees exist, if the program could be checked.
+template <class Finish>
+std::vector<CheckResult> check(const Sources& sources, const ConditionalConstants& constants,
+                               const ProgramOptions& options, CodeSink* code, const Finish& finish) {
     SymbolTable symbols;
     auto parsed = parseModules(sources, symbols, constants, options.threads);
     std::vector<CheckResult> results;
@@ -51,9 +57,34 @@ std::vector<CheckResult> checkProject(const std::vector<const SourceText*>& sour
         modules.push_back({parsed[i].module.get(), readFormHeader(*sources[i])});
     }
     if (!isRight) return results;
-    auto messages = checkProgram(modules, symbols, options);
-    for (std::size_t i = 0; i < results.size(); ++i) addMessages(results[i], std::move(messages[i]));
+    checkProgram(
+        modules, symbols, options,
+        [&](std::vector<std::vector<Diagnostic>> messages) {
+            for (std::size_t i = 0; i < results.size(); ++i) addMessages(results[i], std::move(messages[i]));
+            finish(results);
+        },
+        code);
     return results;
+}
+
+} // namespace
+
+std::vector<CheckResult> checkProject(const Sources& sources, const ConditionalConstants& constants,
+                                      const ProgramOptions& options) {
+    return check(sources, constants, options, nullptr, [](const auto&) {});
+}
+
+CompiledProject compileProject(const Sources& sources, const ConditionalConstants& constants,
+                               const ProgramOptions& options, std::string_view start, std::uint32_t codePage) {
+    CodeGenerator generator;
+    CompiledProject compiled;
+    compiled.results = check(sources, constants, options, &generator, [&](const std::vector<CheckResult>& results) {
+        const auto isRight = [](const CheckResult& result) { return result.errors == 0; };
+        if (!std::all_of(results.begin(), results.end(), isRight)) return;
+        compiled.code = generator.link(start, codePage);
+        compiled.entries = generator.entryPoints();
+    });
+    return compiled;
 }
 
 CheckResult failedRead(const std::string& path, std::string_view reason) {

@@ -1,7 +1,10 @@
 #pragma once
 // Checks files and discards their trees.
+#include "Components/Image/code/code_image.h"
+#include "Components/QLToolkit/code/code_generator.h"
 #include "Components/QLToolkit/names/check_program.h"
 #include "Components/QLToolkit/parser/parse.h"
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -25,6 +28,17 @@ struct CheckResult {
 [[nodiscard]] std::vector<CheckResult> checkProject(const std::vector<const SourceText*>& sources,
                                                     const ConditionalConstants& constants,
                                                     const ProgramOptions& options);
+
+struct CompiledProject {
+    std::vector<CheckResult> results;
+    std::optional<image::CodeImage> code; ///< of a project without errors
+    std::vector<EntryPoint> entries;      ///< of its code
+};
+
+/// Checks the files of a project and makes their code, which begins at the procedure `start`.
+[[nodiscard]] CompiledProject compileProject(const std::vector<const SourceText*>& sources,
+                                             const ConditionalConstants& constants, const ProgramOptions& options,
+                                             std::string_view start, std::uint32_t codePage);
 
 /// The result for a file that could not be read for this reason.
 [[nodiscard]] CheckResult failedRead(const std::string& path, std::string_view reason);

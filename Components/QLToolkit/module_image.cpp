@@ -1,5 +1,5 @@
 #include "Components/QLToolkit/module_image.h"
-#include "Components/QLToolkit/names/module_name.h"
+#include "Components/QLToolkit/parser/module_name.h"
 #include "Components/QLToolkit/parser/tree_walk.h"
 #include <unordered_set>
 

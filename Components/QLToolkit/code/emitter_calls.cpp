@@ -1,0 +1,165 @@
+// Calls of procedures of the project, and of members that are found by name.
+#include "Basic/error_numbers.h"
+#include "Components/QLToolkit/code/emitter.h"
+
+namespace qltoolkit {
+
+using image::LateUse;
+using image::Op;
+using image::Pass;
+
+/// A procedure that is called, with the object before it if it has one.
+Place Emitter::procedurePlace(const Entity& entity, const Expr& expr, const Span<Argument>* given) {
+    static const Span<Argument> kNoArguments{};
+    const auto& list = given ? *given : kNoArguments;
+    const auto* member = expr.kind == ExprKind::Member ? &as<MemberExpr>(expr) : nullptr;
+    if (!entity.owner->source) {
+        const bool isClass = entity.owner->kind == ScopeKind::LibraryClass;
+        if (isClass && spelling(entity.owner->name) == "DebugObject")
+            return resultPlace(libraryCall(entity, list, "Debug."));
+        const bool hasObject = isClass && member && noteOfBase(*member).kind != OperandKind::Qualifier;
+        if (hasObject) return libraryPlace(entity, objectOf(member->base), given);
+        return resultPlace(libraryCall(entity, list));
+    }
+    if (!entity.get->body) { // a Declare: devices have no libraries of their desktop system
+        return resultPlace(declaredCall(entity, list));
+    }
+    if (!entity.owner->isClass()) return resultPlace(call(*entity.get, list, nullptr, entity));
+    const bool hasObject = member && noteOfBase(*member).kind != OperandKind::Qualifier;
+    const Value object = hasObject ? objectOf(member->base) : me();
+    return resultPlace(call(*entity.get, list, &object, entity));
+}
+
+/// A record that a function returns is written to a variable of the caller.
+Value Emitter::resultRecord(const Type& type, std::vector<PassedArgument>& list) {
+    const Value record{type, slots_.record(layout_.typeOf(type), layout_.slotsOf(type)), false};
+    const Value ref{type, slots_.temporary(layout_.referenceTo(type))};
+    out_.emitWide(Op::RefSlot, ref.slot, record.slot);
+    list.push_back({passed(ref, layout_.referenceTo(type)), {}, {}});
+    return record;
+}
+
+/// `assigned` is the value for a Property Let or Set.
+Value Emitter::call(const Callable& callable, const Span<Argument>& given, const Value* object, const Entity& entity,
+                    const Value* assigned) {
+    std::vector<PassedArgument> list;
+    const Scope& owner = *entity.owner;
+    const bool isInterface = object && layout_.isInterface(owner.number);
+    if (isInterface && !isLateCallable(callable)) return fail(basic::kActionNotSupported, {});
+    if (object) {
+        Value self = isInterface ? checkClass(*object, {ValueType::Object}) : *object;
+        self.isTemporary = false;
+        list.push_back({passed(self), {}, {}});
+    }
+    const bool hasResult = !assigned && callable.result.value != ValueType::None;
+    Value result{hasResult ? known(callable.result) : Type{ValueType::None}, image::kNoSlot};
+    const bool isRecord = hasResult && callable.result.value == ValueType::Record && !callable.result.isArray;
+    if (isRecord) result = resultRecord(callable.result, list);
+    arguments(callable, given, list);
+    if (assigned) {
+        const Type type = callable.result;
+        const bool isObject = type.value == ValueType::Object;
+        const ParameterInfo last = callable.body ? lastParameter(*callable.body, type) : ParameterInfo{};
+        const auto slot = temporary(type);
+        (void)convert(isObject ? *assigned : Value{assigned->type, assigned->slot, false}, type, slot);
+        list.push_back({last.byVal ? passed({type, slot}) : passedAddress(slot), {}, {}});
+    }
+    if (hasResult && !isRecord) result.slot = temporary(callable.result);
+    const auto slot = isRecord || !hasResult ? image::kNoSlot : result.slot;
+    const auto count = static_cast<std::uint32_t>(list.size());
+    if (isInterface) {
+        out_.emit(Op::CallInterface, slot, 0, count);
+        out_.extra(layout_.classOf(owner.number) | memberNumber(entity, callable) << 16);
+    } else {
+        out_.emit(object && object->slot != me_ ? Op::CallMethod : Op::Call, slot, 0, count);
+        out_.extra(callable.number);
+    }
+    words(list);
+    storeBack(list);
+    return result;
+}
+
+ParameterInfo Emitter::lastParameter(const ProcedureDecl& decl, const Type& type) const {
+    ParameterInfo info;
+    const auto& parameters = decl.signature.parameters;
+    info.type = type;
+    info.byVal = parameters[parameters.size() - 1].passing == Passing::ByVal;
+    return info;
+}
+
+/// The place of a procedure among the members of an interface.
+std::uint32_t Emitter::memberNumber(const Entity& entity, const Callable& callable) const {
+    std::uint32_t number = 0;
+    for (const auto& [member, decl] : entity.owner->source->callables) {
+        if (decl->kind != DeclKind::Procedure) continue;
+        if (decl == callable.body) return number;
+        number += isMember(*member, *decl);
+    }
+    return 0;
+}
+
+/// A member that is found by name, or the default member.
+Value Emitter::lateCall(const Place& member, LateUse use, const Value* assigned, bool wantsResult) {
+    static const Span<Argument> kNoArguments{};
+    const auto& given = member.arguments ? *member.arguments : kNoArguments;
+    const Value object = toVariant(member.object, {});
+    std::vector<std::uint16_t> slots;
+    std::vector<Symbol> named;
+    std::vector<PassedArgument> copies;
+    if (member.isBang)
+        slots.push_back(
+            static_cast<std::uint16_t>(toVariant(textConstant(std::string(spelling(member.name))), {}).slot));
+    for (const auto& each : given) {
+        if (each.name != Symbol::None) named.push_back(each.name);
+        if (!each.value) {
+            slots.push_back(static_cast<std::uint16_t>(variantConstant(10, ValueType::Variant).slot));
+            continue;
+        }
+        copies.push_back(lateArgument(*each.value, member.entity != nullptr));
+        slots.push_back(static_cast<std::uint16_t>(image::slotOf(copies.back().word)));
+    }
+    if (assigned) {
+        const auto slot = temporary({ValueType::Variant});
+        (void)moved(toVariant({assigned->type, assigned->slot, false}, {}), slot);
+        slots.push_back(static_cast<std::uint16_t>(slot));
+    }
+    Value result{{ValueType::Variant}, wantsResult ? temporary({ValueType::Variant}) : image::kNoSlot};
+    out_.emit(Op::CallLate, result.slot, object.slot, static_cast<std::uint32_t>(slots.size()));
+    const bool isDefault = member.name == Symbol::None || member.isBang;
+    if (isDefault)
+        out_.extra(image::kNone);
+    else
+        out_.extra(out_.module().text(std::string(spelling(member.name))), FixKind::Text);
+    out_.extra(static_cast<std::uint32_t>(use) | static_cast<std::uint32_t>(named.size()) << 8);
+    for (const auto name : named) out_.extra(out_.module().text(std::string(spelling(name))), FixKind::Text);
+    out_.halves(slots);
+    storeBack(copies);
+    const bool isTyped = wantsResult && member.type.value != ValueType::Variant && !member.type.isArray &&
+                         member.type.value != ValueType::Unknown && member.type.value != ValueType::None &&
+                         member.type.value != ValueType::Record;
+    return isTyped ? convert(result, member.type) : result;
+}
+
+/// A Variant of its own, which is stored back if the argument is a variable. Members of libraries do not assign to their
+/// arguments.
+PassedArgument Emitter::lateArgument(const Expr& given, bool isOfLibrary) {
+    const Operand& note = noteOf(given);
+    const bool isVariable =
+        !isOfLibrary && given.note != 0 && note.kind == OperandKind::Variable && given.kind != ExprKind::Paren;
+    if (!isVariable) {
+        const auto slot = temporary({ValueType::Variant});
+        (void)moved(toVariant(value(given), slot), slot);
+        return {passedAddress(slot), {}, {}};
+    }
+    const Place variable = place(given);
+    const bool isWhole =
+        variable.type.isArray || variable.type.value == ValueType::Object || variable.type.value == ValueType::Record;
+    if (isWhole) {
+        const auto slot = temporary({ValueType::Variant});
+        (void)moved(toVariant(load(variable), {}), slot);
+        return {passedAddress(slot), {}, {}};
+    }
+    return copied(variable, load(variable), {Symbol::None, {ValueType::Variant}});
+}
+
+} // namespace qltoolkit

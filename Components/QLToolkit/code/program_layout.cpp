@@ -1,0 +1,159 @@
+#include "Components/QLToolkit/code/program_layout.h"
+
+namespace qltoolkit {
+
+using image::BaseType;
+using image::SlotType;
+using image::TypeForm;
+
+BaseType baseTypeOf(ValueType value) {
+    switch (value) {
+    case ValueType::Boolean: return BaseType::Boolean;
+    case ValueType::Byte: return BaseType::Byte;
+    case ValueType::Integer: return BaseType::Integer;
+    case ValueType::Long: return BaseType::Long;
+    case ValueType::Single: return BaseType::Single;
+    case ValueType::Double: return BaseType::Double;
+    case ValueType::Currency: return BaseType::Currency;
+    case ValueType::Date: return BaseType::Date;
+    case ValueType::String:
+    case ValueType::FixedString: return BaseType::Text;
+    case ValueType::Object:
+    case ValueType::Nothing: return BaseType::Object;
+    case ValueType::Record: return BaseType::Record;
+    case ValueType::None: return BaseType::None;
+    default: return BaseType::Variant;
+    }
+}
+
+ProgramLayout::ProgramLayout(Program& program) : program_(program) {
+    numberClasses();
+    numberRecords();
+    numberProcedures();
+    placeVariables();
+}
+
+std::uint32_t ProgramLayout::classOf(std::uint32_t scope) const {
+    const auto found = classes_.find(scope);
+    return found == classes_.end() ? 0 : found->second;
+}
+
+std::uint32_t ProgramLayout::exactClass(const Type& type) const { return isInterface(type.id) ? 0 : classOf(type.id); }
+
+SlotType ProgramLayout::typeOf(const Type& type) const {
+    const BaseType base = baseTypeOf(type.value);
+    std::uint32_t id = 0;
+    if (base == BaseType::Object) id = exactClass(type);
+    if (base == BaseType::Record) id = recordOf(type.id);
+    return {base, type.isArray ? TypeForm::Array : TypeForm::Value, id};
+}
+
+SlotType ProgramLayout::slotTypeOf(const Type& type) const {
+    SlotType result = typeOf(type);
+    if (!type.isArray) result.base = image::slotBase(result.base);
+    return result;
+}
+
+SlotType ProgramLayout::referenceTo(const Type& type) const {
+    SlotType result = slotTypeOf(type);
+    result.form = type.isArray ? TypeForm::ArrayReference : TypeForm::Reference;
+    return result;
+}
+
+std::uint32_t ProgramLayout::slotsOf(const Type& type) const {
+    if (type.value == ValueType::Record && !type.isArray) return recordSlots_.at(type.id);
+    return image::slotsOf(slotTypeOf(type));
+}
+
+void ProgramLayout::numberClasses() {
+    std::uint32_t number = 0;
+    for (const auto& module : program_.modules) {
+        if (module.scope->isClass()) classes_.emplace(module.scope->number, ++number);
+        for (const auto* each : module.scope->interfaces) interfaces_.insert(each->number);
+    }
+}
+
+// Records that this one contains get lower numbers. The check of declarations has refused circles.
+void ProgramLayout::numberRecord(const Scope& scope, Constants& constants) {
+    if (records_.contains(scope.number)) return;
+    std::vector<const Entity*> fields;
+    scope.names.forEach([&](Symbol, Entity& field) { fields.push_back(&field); });
+    std::sort(fields.begin(), fields.end(), [](const Entity* a, const Entity* b) { return a->pos < b->pos; });
+    for (const auto* field : fields)
+        if (field->type.value == ValueType::Record) numberRecord(program_.scope(field->type.id), constants);
+    image::RecordLayout layout;
+    std::uint32_t slots = 0;
+    bool isPrepared = false;
+    for (const auto* field : fields) {
+        field->place = slots;
+        slots += slotsOf(field->type);
+        image::RecordField made{typeOf(field->type), image::kNone, 0};
+        if (field->type.value == ValueType::FixedString) made.fixedLength = field->type.id;
+        if (field->isStaticArray) {
+            made.array = static_cast<std::uint32_t>(arrays_.size());
+            arrays_.push_back(shapeOf(*field, *scope.source, constants));
+        }
+        isPrepared |= field->isStaticArray || (field->type.value == ValueType::FixedString && !field->type.isArray) ||
+                      (field->type.value == ValueType::Record && !field->type.isArray && needsPreparation(field->type));
+        layout.fields.push_back(made);
+    }
+    records_.emplace(scope.number, static_cast<std::uint32_t>(layouts_.size()));
+    recordSlots_.emplace(scope.number, slots);
+    if (isPrepared) prepared_.insert(scope.number);
+    layouts_.push_back(std::move(layout));
+}
+
+void ProgramLayout::numberRecords() {
+    Constants constants{program_};
+    for (const auto& module : program_.modules)
+        for (const auto& [entity, decl] : module.records) numberRecord(*entity->inner, constants);
+}
+
+image::ArrayShape ProgramLayout::shapeOf(const Entity& entity, SourceModule& module, Constants& constants,
+                                         LocalConstants local) const {
+    Type element = entity.type;
+    element.isArray = false;
+    image::ArrayShape shape{typeOf(element), element.value == ValueType::FixedString ? element.id : 0, {}};
+    for (const auto& bound : entity.declaration->bounds) {
+        const auto lower = bound.lower ? constants.longOf(*bound.lower, module, local)
+                                       : std::optional(static_cast<basic::Long>(module.arrayBase));
+        const auto upper = constants.longOf(*bound.upper, module, local);
+        shape.bounds.push_back({lower.value_or(0), upper.value_or(0)});
+    }
+    return shape;
+}
+
+void ProgramLayout::numberProcedures() {
+    for (const auto& module : program_.modules)
+        for (const auto& [entity, decl] : module.callables) {
+            if (decl->kind != DeclKind::Procedure) continue;
+            for (const auto* callable : {entity->get, entity->let, entity->set})
+                if (callable && callable->body == decl) callable->number = procedures_++;
+        }
+    firstPrepare_ = procedures_;
+    procedures_ += static_cast<std::uint32_t>(program_.modules.size());
+}
+
+void ProgramLayout::placeVariables() {
+    for (const auto& module : program_.modules) {
+        const bool isClass = module.scope->isClass();
+        std::uint32_t fields = 0;
+        std::uint32_t& next = isClass ? fields : globalSlots_;
+        for (const auto& [entity, decl] : module.variables) {
+            entity->place = next;
+            next += slotsOf(entity->type);
+            if (!isClass)
+                globals_.push_back({entity->type.value == ValueType::Record && !entity->type.isArray
+                                        ? typeOf(entity->type)
+                                        : slotTypeOf(entity->type),
+                                    false});
+        }
+        if (!isClass) continue;
+        fieldSlots_.emplace(module.scope->number, fields);
+        if (!module.scope->predeclared) continue;
+        predeclared_.emplace(module.scope->number, globalSlots_++);
+        globals_.push_back({slotTypeOf({ValueType::Object, false, false, module.scope->number}), false});
+    }
+}
+
+} // namespace qltoolkit

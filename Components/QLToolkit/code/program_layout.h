@@ -1,0 +1,88 @@
+#pragma once
+// The numbers of a program's procedures, variables, records and classes, which all modules must know before code is made.
+#include "Components/Image/code/code_image.h"
+#include "Components/QLToolkit/names/constants.h"
+#include <unordered_map>
+#include <unordered_set>
+
+namespace qltoolkit {
+
+/// The type as elements and fields have it.
+[[nodiscard]] image::BaseType baseTypeOf(ValueType value);
+
+/// Whether a procedure can be called without its declaration: a record has no place in a Variant.
+[[nodiscard]] inline bool isLateCallable(const Callable& callable) {
+    return callable.result.value != ValueType::Record || callable.result.isArray;
+}
+
+/// Whether one of the procedures of a member is among those that are found by name.
+[[nodiscard]] inline bool isMember(const Entity& entity, const Decl& decl) {
+    return !entity.get || entity.get->body != &decl || isLateCallable(*entity.get);
+}
+
+/// Whether a variable of a class is a member that is found by its name.
+[[nodiscard]] inline bool isLateField(const Entity& field) {
+    return field.isPublic && !field.type.isArray && field.type.value != ValueType::Record;
+}
+
+class ProgramLayout {
+public:
+    /// Gives entities their places and callables their numbers.
+    explicit ProgramLayout(Program& program);
+
+    /// The declared type: of an array with its elements, otherwise as in a field.
+    [[nodiscard]] image::SlotType typeOf(const Type& type) const;
+    /// The type of the slot that a value has. Of a record only its number counts.
+    [[nodiscard]] image::SlotType slotTypeOf(const Type& type) const;
+    [[nodiscard]] image::SlotType referenceTo(const Type& type) const;
+    /// How many slots a variable takes.
+    [[nodiscard]] std::uint32_t slotsOf(const Type& type) const;
+    /// Whether a variable needs more than zeros before its first use.
+    [[nodiscard]] bool needsPreparation(const Type& record) const { return prepared_.contains(record.id); }
+
+    /// The number of a class of the project whose objects the compiler knows exactly, or 0: of others, and of those
+    /// that classes implement.
+    [[nodiscard]] std::uint32_t exactClass(const Type& type) const;
+    /// The number of a class of the project, or 0.
+    [[nodiscard]] std::uint32_t classOf(std::uint32_t scope) const;
+    [[nodiscard]] bool isInterface(std::uint32_t scope) const { return interfaces_.contains(scope); }
+    [[nodiscard]] std::uint32_t recordOf(std::uint32_t scope) const { return records_.at(scope); }
+
+    /// What the image knows about all modules: records, classes without their procedures, variables, and how many
+    /// procedures there are.
+    [[nodiscard]] const std::vector<image::RecordLayout>& records() const { return layouts_; }
+    /// The shapes of arrays in records; those of modules follow.
+    [[nodiscard]] const std::vector<image::ArrayShape>& arrays() const { return arrays_; }
+    [[nodiscard]] const std::vector<image::SlotVariable>& globals() const { return globals_; }
+    [[nodiscard]] std::uint32_t globalSlots() const { return globalSlots_; }
+    [[nodiscard]] std::uint32_t procedures() const { return procedures_; }
+    /// The variable for the object of a predeclared class.
+    [[nodiscard]] std::uint32_t predeclared(std::uint32_t scope) const { return predeclared_.at(scope); }
+    /// The procedure that prepares the variables of a module, or the fields of a class.
+    [[nodiscard]] std::uint32_t prepareOf(std::size_t module) const {
+        return firstPrepare_ + static_cast<std::uint32_t>(module);
+    }
+    [[nodiscard]] std::uint32_t fieldSlots(std::uint32_t scope) const { return fieldSlots_.at(scope); }
+    [[nodiscard]] const Program& program() const { return program_; }
+
+    /// The shape of an array with bounds.
+    [[nodiscard]] image::ArrayShape shapeOf(const Entity& entity, SourceModule& module, Constants& constants,
+                                            LocalConstants local = nullptr) const;
+
+private:
+    void numberClasses();
+    void numberRecord(const Scope& scope, Constants& constants);
+    void numberRecords();
+    void numberProcedures();
+    void placeVariables();
+
+    Program& program_;
+    std::unordered_map<std::uint32_t, std::uint32_t> classes_, records_, recordSlots_, predeclared_, fieldSlots_;
+    std::unordered_set<std::uint32_t> interfaces_, prepared_;
+    std::vector<image::RecordLayout> layouts_;
+    std::vector<image::ArrayShape> arrays_;
+    std::vector<image::SlotVariable> globals_;
+    std::uint32_t globalSlots_ = 0, procedures_ = 0, firstPrepare_ = 0;
+};
+
+} // namespace qltoolkit
