@@ -19,6 +19,7 @@ struct CheckedProject {
     bool isForDevices = false;
     std::vector<std::string> libraries;     ///< the GUIDs of its references and control libraries
     std::vector<host::ProjectMember> lines; ///< its members, in the order of the file
+    std::string startup;                    ///< "Sub Main", the name of a form, or ""
 };
 
 /// Reads a project file. `given` is its code page, without which it is detected; the sources that are read for this stay

@@ -2,8 +2,8 @@
 #include "Apps/common/file_names.h"
 #include "Basic/case_folding.h"
 #include "Components/Language/foreign.h"
-#include "Components/QLToolkit/names/header_places.h"
 #include "Components/QLToolkit/parser/form_header.h"
+#include "Components/QLToolkit/parser/header_places.h"
 #include "Host/files/library_reference.h"
 #include "Host/files/path_lookup.h"
 #include <algorithm>

@@ -1,8 +1,8 @@
 #include "Components/QLToolkit/insight/description.h"
-#include "Components/QLToolkit/names/header_places.h"
 #include "Components/QLToolkit/names/lookup.h"
-#include "Components/QLToolkit/names/module_name.h"
 #include "Components/QLToolkit/parser/form_header.h"
+#include "Components/QLToolkit/parser/header_places.h"
+#include "Components/QLToolkit/parser/module_name.h"
 #include <algorithm>
 
 namespace qltoolkit {
@@ -137,6 +137,7 @@ std::string declaration(const Snapshot& snapshot, const Entity& entity, std::str
     case EntityKind::Module: return std::string(moduleWord(*entity.inner)) + name;
     case EntityKind::Library: return "Library " + name;
     case EntityKind::Project: return "Project " + name;
+    case EntityKind::Label: return "Label " + name;
     default: return procedureText(snapshot, entity, std::move(name));
     }
 }

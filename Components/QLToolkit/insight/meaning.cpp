@@ -14,7 +14,8 @@ std::size_t endOfName(std::string_view text, std::size_t pos) {
     return pos;
 }
 
-/// A name that no procedure contains: one of the module's declarations.
+} // namespace
+
 const Entity* declaredName(Snapshot& snapshot, int module, std::string_view name) {
     auto& program = snapshot.program();
     const auto& scope = *program.modules[static_cast<std::size_t>(module)].scope;
@@ -23,8 +24,6 @@ const Entity* declaredName(Snapshot& snapshot, int module, std::string_view name
     if (const Entity* event = scope.events.find(symbol)) return event;
     return findType(program, scope, Symbol::None, symbol);
 }
-
-} // namespace
 
 std::string quickInfo(Snapshot& snapshot, int module, std::string_view procedure, std::size_t pos) {
     if (!snapshot.has(module)) return {};

@@ -8,4 +8,7 @@ namespace qltoolkit {
 /// the procedure as UTF-8, or a statement outside of procedures.
 [[nodiscard]] std::string quickInfo(Snapshot& snapshot, int module, std::string_view procedure, std::size_t pos);
 
+/// What a name means outside of procedures; null if it is not declared.
+[[nodiscard]] const Entity* declaredName(Snapshot& snapshot, int module, std::string_view name);
+
 } // namespace qltoolkit

@@ -23,6 +23,7 @@ NameKind kindOf(const Entity& entity) {
     case EntityKind::Enum: return NameKind::Enum;
     case EntityKind::Record: return NameKind::Type;
     case EntityKind::Module: return kindOfModule(*entity.inner);
+    case EntityKind::Label: return NameKind::Label;
     case EntityKind::Library:
     case EntityKind::Project: break;
     }

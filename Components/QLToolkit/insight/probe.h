@@ -33,6 +33,7 @@ public:
     [[nodiscard]] const Entity* lastName() const { return uses_.empty() ? nullptr : declared(uses_.back().entity); }
     /// What the name at a position of the procedure's text means.
     [[nodiscard]] const Entity* nameAt(std::size_t pos) const;
+    [[nodiscard]] const std::vector<ProbedUse>& uses() const { return uses_; }
     /// What is before the point of the last member.
     [[nodiscard]] const std::optional<MemberBase>& base() const { return base_; }
     [[nodiscard]] const std::deque<Entity>& locals() const { return snapshot_.names().all(); }

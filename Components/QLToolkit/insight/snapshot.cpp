@@ -1,55 +1,63 @@
 #include "Components/QLToolkit/insight/snapshot.h"
 #include "Components/QLToolkit/names/binder.h"
+#include "Components/QLToolkit/names/handlers.h"
+#include "Components/QLToolkit/names/library_scopes.h"
+#include "Components/QLToolkit/names/resolve.h"
 #include "Components/QLToolkit/parser/form_header.h"
 
 namespace qltoolkit {
 
-namespace {
-
-std::string_view plainName(std::string_view name) {
-    return name.starts_with('[') ? name.substr(1, name.size() - 2) : name;
-}
-
-} // namespace
-
 // The libraries are first, so that their spelling of a name is the one that the table of symbols keeps.
-Snapshot::Snapshot(Sources sources, const ConditionalConstants& constants, const ProgramOptions& options, UseSink* uses)
-    : sources_(std::move(sources)), program_(symbols_) {
-    addLibraries(program_, options);
-    std::vector<ParsedModule> modules;
-    parse(constants, modules);
-    program_.uses = uses;
-    isWhole_ = declareProgram(program_, modules, options);
-    if (uses && isWhole_) bind();
-    program_.uses = nullptr;
-    describe(librariesOf(options));
+Snapshot::Snapshot(SourceTexts sources, const std::vector<const language::Library*>& libraries)
+    : sources_(std::move(sources)) {
+    const auto shared = program_.libraries.size();
+    addLibraries(program_, libraries);
+    addMembers(members_, program_, libraries, shared);
 }
 
-void Snapshot::parse(const ConditionalConstants& constants, std::vector<ParsedModule>& modules) {
-    for (const auto& source : sources_) {
-        auto parsed = parseModule(*source, symbols_, constants);
+Snapshot::Snapshot(SourceTexts sources, const ConditionalConstants& constants, const ProgramOptions& options)
+    : Snapshot(std::move(sources), options.libraries) {
+    std::vector<ParsedModule> modules;
+    parse(constants, modules, {});
+    isWhole_ = declareProgram(program_, modules, options);
+}
+
+Snapshot::Snapshot(const ProgramInput& input, UseSink& uses, const Following& following)
+    : Snapshot(input.sources, input.options.libraries) {
+    std::vector<ParsedModule> modules;
+    parse(input.constants, modules, following);
+    uses.begin(symbols_);
+    program_.uses = &uses;
+    isWhole_ = declareProgram(program_, modules, input.options);
+    if (isWhole_) bind(following);
+    program_.uses = nullptr;
+}
+
+void Snapshot::parse(const ConditionalConstants& constants, std::vector<ParsedModule>& modules,
+                     const Following& following) {
+    for (std::size_t i = 0; i < sources_.size() && !following.stop.stop_requested(); ++i) {
+        auto parsed = parseModule(*sources_[i], symbols_, constants);
+        following.progress(i + 1, 2 * sources_.size());
         syntaxErrors_ += parsed.errors;
         if (!parsed.module) continue;
         trees_.push_back(std::move(parsed.module));
-        modules.push_back({trees_.back().get(), readFormHeader(*source)});
+        modules.push_back({trees_.back().get(), readFormHeader(*sources_[i])});
     }
 }
 
-void Snapshot::bind() {
-    for (auto& module : program_.modules) (void)within([&] { Binder{program_, module, names_}.bindModule(); });
-}
-
-void Snapshot::describe(const std::vector<const language::Library*>& libraries) {
-    for (std::size_t i = 0; i < libraries.size(); ++i) {
-        for (const auto& group : libraries[i]->groups) {
-            const Entity* type = program_.libraries[i]->types.find(symbols_.intern(plainName(group.name)));
-            if (!type || !type->inner) continue;
-            for (const auto& member : group.members) {
-                const Symbol name = symbols_.intern(plainName(member.name));
-                const auto& map = member.kind == language::MemberKind::Event ? type->inner->events : type->inner->names;
-                if (const Entity* found = map.find(name)) members_.emplace(found, &member);
-            }
+void Snapshot::bind(const Following& following) {
+    RecordSizes sizes{program_};
+    isBound_ = true;
+    std::size_t done = sources_.size();
+    for (auto& module : program_.modules) {
+        if (following.stop.stop_requested()) {
+            isBound_ = false;
+            return;
         }
+        isBound_ &= within([&] { checkDeclarations(program_, module, sizes); });
+        isBound_ &= within([&] { Binder{program_, module, names_}.bindModule(); });
+        reportHandlers(program_, module);
+        following.progress(++done, 2 * sources_.size());
     }
 }
 
@@ -66,8 +74,10 @@ int Snapshot::moduleOf(const SourceModule& module) const {
 }
 
 const language::Member* Snapshot::describedMember(const Entity& entity) const {
-    const auto found = members_.find(&entity);
-    return found == members_.end() ? nullptr : found->second;
+    const DescribedMembers& builtIn = BuiltInLibraries::shared().members;
+    for (const auto* members : {&members_, &builtIn})
+        if (const auto found = members->find(&entity); found != members->end()) return found->second;
+    return nullptr;
 }
 
 std::size_t Snapshot::errors() const {
