@@ -1,0 +1,14 @@
+#include "Components/Tamarik/functions/standard_natives.h"
+#include "Components/Tamarik/library/library_natives.h"
+
+namespace tamarik {
+
+Natives standardNatives() {
+    Natives natives;
+    addPrintNatives(natives);
+    addLibrary(natives);
+    addObjectNatives(natives);
+    return natives;
+}
+
+} // namespace tamarik

@@ -1,0 +1,52 @@
+#pragma once
+// Numbers in texts, over Basic's conversions. Qualify calls with a Currency or Date, for which lookup also finds Basic's.
+#include "Basic/conversions.h"
+#include "Basic/date.h"
+#include "Basic/number_text.h"
+#include "Basic/utf16.h"
+#include "Components/Tamarik/numbers/decimal96.h"
+#include <string>
+#include <string_view>
+
+namespace tamarik {
+
+/// The texts of VB's values, as basic::CStr.
+template <class Value>
+std::u16string CStr(Value value) {
+    return basic::toUtf16(basic::CStr(value));
+}
+
+inline std::u16string CStr(const Decimal96& number) { return basic::toUtf16(number.text()); }
+
+template <class Number>
+std::u16string Str(Number number) {
+    return basic::toUtf16(basic::Str(number));
+}
+
+template <class Number>
+std::u16string Hex(Number number) {
+    return basic::toUtf16(basic::Hex(number));
+}
+
+template <class Number>
+std::u16string Oct(Number number) {
+    return basic::toUtf16(basic::Oct(number));
+}
+
+/// With a blank instead of a positive sign and without a zero before the point.
+std::u16string Str(const Decimal96& number);
+
+inline basic::Double Val(std::u16string_view text) { return basic::Val(basic::asciiOf(text)); }
+inline bool IsNumeric(std::u16string_view text) { return basic::IsNumeric(basic::asciiOf(text)); }
+
+// The conversions of texts, with the errors of Basic's.
+inline bool CBool(std::u16string_view text) { return basic::CBool(basic::asciiOf(text)); }
+inline basic::Byte CByte(std::u16string_view text) { return basic::CByte(basic::asciiOf(text)); }
+inline basic::Integer CInt(std::u16string_view text) { return basic::CInt(basic::asciiOf(text)); }
+inline basic::Long CLng(std::u16string_view text) { return basic::CLng(basic::asciiOf(text)); }
+inline basic::Single CSng(std::u16string_view text) { return basic::CSng(basic::asciiOf(text)); }
+inline basic::Double CDbl(std::u16string_view text) { return basic::CDbl(basic::asciiOf(text)); }
+inline basic::Currency CCur(std::u16string_view text) { return basic::CCur(basic::asciiOf(text)); }
+inline Decimal96 CDec(std::u16string_view text) { return Decimal96::parse(basic::asciiOf(text)); }
+
+} // namespace tamarik

@@ -1,0 +1,132 @@
+// Run-time errors: the search for a handler, and what is reported if there is none.
+#include "Basic/runtime_error.h"
+#include "Components/Tamarik/values/object.h"
+#include "Components/Tamarik/vm/execution.h"
+#include <algorithm>
+#include <span>
+
+namespace tamarik {
+
+namespace {
+
+constexpr std::uint32_t kReturn = image::encode(image::Op::Return);
+
+bool isBarrier(const Frame& of) {
+    if (!of.rare) return false;
+    const FrameKind kind = of.rare->kind;
+    return kind == FrameKind::Entry || kind == FrameKind::Terminate || kind == FrameKind::Event;
+}
+
+bool takesErrors(const Frame& of) { return of.mode != ErrorMode::None && !(of.rare && of.rare->inHandler); }
+
+std::uint32_t lineAt(const LoadedProcedure& procedure, const std::uint32_t* ip) {
+    const auto at = static_cast<std::uint32_t>(ip - procedure.code);
+    const auto& lines = procedure.info->lines;
+    const auto after =
+        std::upper_bound(lines.begin(), lines.end(), at,
+                         [](std::uint32_t code, const image::LineStart& line) { return code < line.code; });
+    return after == lines.begin() ? 0 : std::prev(after)->line;
+}
+
+} // namespace
+
+void Execution::fail(int number) { noted_ = {number, std::string(basic::standardDescription(number)), {}, 0}; }
+
+void Execution::fail(const basic::RuntimeError& error) {
+    noted_ = {error.Number, error.Description, error.Source, static_cast<std::int32_t>(error.LastDllError)};
+}
+
+const std::uint32_t* Execution::statementAt(const Frame& of, const std::uint32_t* at, bool next) const {
+    const auto& starts = of.procedure->info->statements;
+    const auto offset = static_cast<std::uint32_t>(at - of.procedure->code);
+    const auto after = std::upper_bound(starts.begin(), starts.end(), offset);
+    if (next) return after == starts.end() ? &kReturn : of.procedure->code + *after;
+    return after == starts.begin() ? of.procedure->code : of.procedure->code + *std::prev(after);
+}
+
+void Execution::unwind(Frame* to) {
+    while (frame != to) leaveTop();
+}
+
+void Execution::enterHandler(Frame& of) {
+    // Those frames that called store where they continue.
+    const std::uint32_t* const at = &of == frame ? of.ip : of.ip - 1;
+    const ErrorState error = noted_;
+    unwind(&of);
+    clearManaged(heap, of.base, of.procedure->temporaries);
+    session.err = error;
+    if (session.err.source.empty()) session.err.source = "VBAProject";
+    session.erl = static_cast<std::int32_t>(of.line);
+    if (of.mode == ErrorMode::ResumeNext) {
+        of.ip = statementAt(of, at, true);
+        return;
+    }
+    RareFrame& state = rare(of);
+    state.inHandler = true;
+    state.failedAt = at;
+    of.ip = of.handler;
+}
+
+bool Execution::resume(bool next) {
+    Frame& top = *frame;
+    if (!top.rare || !top.rare->inHandler) return false;
+    top.rare->inHandler = false;
+    top.ip = statementAt(top, top.rare->failedAt, next);
+    clearManaged(heap, top.base, top.procedure->temporaries);
+    clearErr();
+    return true;
+}
+
+bool Execution::goSub(const std::uint32_t* returnTo) {
+    if (goSubs == kMostGoSubs) return false;
+    rare(*frame).returns.push_back(returnTo);
+    ++goSubs;
+    return true;
+}
+
+const std::uint32_t* Execution::returnSub() {
+    RareFrame* const state = frame->rare;
+    if (!state || state->returns.empty()) return nullptr;
+    const std::uint32_t* const to = state->returns.back();
+    state->returns.pop_back();
+    --goSubs;
+    return to;
+}
+
+bool Execution::dispatchError() {
+    for (Frame* at = frame;; --at) {
+        if (takesErrors(*at)) {
+            enterHandler(*at);
+            return true;
+        }
+        if (isBarrier(*at)) break;
+    }
+    describeFailure();
+    finish(RunState::Failed);
+    return false;
+}
+
+void Execution::describeFailure() { failure = {noted_.number, noted_.description, noted_.source, places()}; }
+
+void Execution::failAssertion() {
+    failure = {RunError::kAssertion, "Debug.Assert failed", {}, places()};
+    finish(RunState::Failed);
+}
+
+std::vector<RunError::Place> Execution::places() const {
+    std::vector<RunError::Place> places;
+    const auto& code = program->code();
+    for (const Frame* at = frame; at != frames_.get(); --at) {
+        if (!at->procedure->info) continue;
+        const auto& info = *at->procedure->info;
+        RunError::Place place;
+        place.procedure = program->text(info.name);
+        if (info.module < code.modules.size()) place.file = program->text(code.modules[info.module].file);
+        place.line = lineAt(*at->procedure, at == frame ? at->ip : at->ip - 1);
+        places.push_back(std::move(place));
+        if (places.size() == kMostReportedCallers) break;
+    }
+    return places;
+}
+
+} // namespace tamarik

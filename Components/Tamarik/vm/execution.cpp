@@ -1,0 +1,108 @@
+#include "Components/Tamarik/vm/execution.h"
+#include "Basic/runtime_error.h"
+#include "Components/Tamarik/values/object.h"
+#include <new>
+
+namespace tamarik {
+
+namespace {
+
+/// Below the first frame, so that every frame has a caller.
+const LoadedProcedure kNoProcedure{};
+
+/// Pages that are never touched cost nothing.
+template <class T>
+T* reserve(std::size_t count) {
+    void* const memory = std::calloc(count, sizeof(T));
+    if (!memory) throw basic::RuntimeError(basic::kOutOfMemory);
+    return static_cast<T*>(memory);
+}
+
+} // namespace
+
+Execution::Execution(std::shared_ptr<const Program> code, Session& owner)
+    : program(std::move(code)),
+      session(owner),
+      heap(owner.heap),
+      texts(program->code().texts.size()),
+      globals(program->globals.slots),
+      values_(reserve<Slot>(kStackSlots)),
+      frames_(reserve<Frame>(kMostFrames)) {
+    stackEnd = values_.get() + kStackSlots;
+    framesEnd = frames_.get() + kMostFrames;
+    frame = frames_.get();
+    frame->base = values_.get();
+    frame->procedure = &kNoProcedure;
+    rare(*frame).kind = FrameKind::Entry;
+}
+
+Execution::~Execution() {
+    while (frame != frames_.get()) leaveTop();
+    clearManaged(heap, globals.data(), program->globals.managed);
+    for (auto* object = static_cast<Object*>(heap.living); object; object = object->older) object->releaseMembers(heap);
+    while (heap.hasPending()) {
+        Counted* const block = heap.takePending();
+        if (block->kind == Counted::Kind::Array)
+            destroy(heap, static_cast<ArrayBlock*>(block));
+        else
+            destroy(heap, static_cast<Object*>(block));
+    }
+    for (TextBlock* text : texts) release(heap, text);
+    dropRare(*frame);
+}
+
+RareFrame& Execution::rare(Frame& of) {
+    if (of.rare) return *of.rare;
+    if (rarePool_.empty()) rarePool_.push_back(std::make_unique<RareFrame>());
+    of.rare = rarePool_.back().release();
+    rarePool_.pop_back();
+    return *of.rare;
+}
+
+void Execution::dropRare(Frame& of) {
+    std::unique_ptr<RareFrame> rare(of.rare);
+    of.rare = nullptr;
+    if (!rare) return;
+    goSubs -= rare->returns.size();
+    *rare = {};
+    rarePool_.push_back(std::move(rare));
+}
+
+TextBlock* Execution::constantText(std::uint32_t number) {
+    TextBlock*& text = texts[number];
+    if (!text) text = makeTextOfUtf8(heap, program->text(number));
+    return text;
+}
+
+Slot* Execution::pushFrame(const LoadedProcedure& procedure, FrameKind kind) {
+    Slot* const base = nextBase();
+    if (base + procedure.slots > stackEnd || frame + 1 == framesEnd) throw basic::RuntimeError(basic::kOutOfStackSpace);
+    ++frame;
+    *frame = {procedure.code, base, &procedure, nullptr, image::kNoSlot, ErrorMode::None, 0, nullptr};
+    if (kind != FrameKind::Call) rare(*frame).kind = kind;
+    return base;
+}
+
+void Execution::pushTask(std::unique_ptr<Task> task, std::uint8_t result) {
+    if (frame + 1 == framesEnd) {
+        task->release(heap);
+        throw basic::RuntimeError(basic::kOutOfStackSpace);
+    }
+    Slot* const base = nextBase();
+    ++frame;
+    *frame = {nullptr, base, &kNoProcedure, nullptr, result, ErrorMode::None, 0, nullptr};
+    rare(*frame).kind = FrameKind::Task;
+    frame->rare->task = std::move(task);
+}
+
+void Execution::leaveTop() {
+    Frame& top = *frame;
+    clearManaged(heap, top.base, top.procedure->managed);
+    for (std::uint32_t i = 0; i < top.procedure->slots; ++i) top.base[i].bits = 0;
+    if (top.rare && top.rare->task) top.rare->task->release(heap);
+    if (top.rare && top.rare->terminating) finishTerminate(*top.rare);
+    dropRare(top);
+    --frame;
+}
+
+} // namespace tamarik

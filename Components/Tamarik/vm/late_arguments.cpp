@@ -1,0 +1,150 @@
+#include "Components/Tamarik/vm/late_arguments.h"
+#include "Basic/runtime_error.h"
+#include "Components/Tamarik/values/variant_conversion.h"
+#include "Components/Tamarik/values/variant_text.h"
+#include "Components/Tamarik/vm/class_objects.h"
+#include "Components/Tamarik/vm/slot_values.h"
+#include "Components/Tamarik/vm/slot_variants.h"
+#include <algorithm>
+#include <utility>
+
+namespace tamarik {
+
+namespace {
+
+using image::BaseType;
+using image::SlotType;
+using image::TypeForm;
+
+SlotType valueType(SlotType type) {
+    if (type.form == TypeForm::Reference) return {type.base, TypeForm::Value, type.id};
+    if (type.form == TypeForm::ArrayReference) return {type.base, TypeForm::Array, type.id};
+    return type;
+}
+
+bool isReference(SlotType type) { return type.form == TypeForm::Reference || type.form == TypeForm::ArrayReference; }
+
+bool fits(const ArrayBlock& array, SlotType type) {
+    const SlotType element = array.element.type;
+    return element.base == type.base && (element.base != BaseType::Record || element.id == type.id);
+}
+
+SlotType withBase(SlotType type, BaseType declared) {
+    return declared == BaseType::None ? type : SlotType{declared, type.form, type.id};
+}
+
+} // namespace
+
+Variant* valueNeeded(Variant& argument, SlotType type) {
+    const SlotType value = valueType(type);
+    const bool takesObject = value.base == BaseType::Object || value.base == BaseType::Variant;
+    return argument.kind == kObject && !takesObject && value.form == TypeForm::Value ? &argument : nullptr;
+}
+
+void storeInSlot(Execution& m, Slot* slot, SlotType type, BaseType declared, const Variant& value) {
+    if (type.form == TypeForm::Array) {
+        if (!value.isArray() || !value.array || !fits(*value.array, type))
+            throw basic::RuntimeError(basic::kTypeMismatch);
+        retain(value.array);
+        return setArray(m.heap, *slot, value.array);
+    }
+    const BaseType base = slotBase(declared) == type.base ? declared : type.base;
+    switch (type.base) {
+    case BaseType::Long: slot->number = longOf(value, base); break;
+    case BaseType::Double: slot->fraction = fractionOf(value, base); break;
+    case BaseType::Currency: slot->currency = currencyOf(value); break;
+    case BaseType::Text: setText(m.heap, *slot, textOf(m.heap, value)); break;
+    case BaseType::Variant: assign(m.heap, variantAt(slot), value); break;
+    case BaseType::Object:
+        if (value.kind != kObject) throw basic::RuntimeError(basic::kObjectRequired);
+        if (type.id != 0) requireExactClass(value.object, type.id);
+        retain(value.object);
+        setObject(m.heap, *slot, value.object);
+        break;
+    default: throw basic::RuntimeError(basic::kTypeMismatch);
+    }
+}
+
+Variant copyOfSlot(Heap& heap, const Slot* slot, SlotType type, BaseType declared) {
+    const Variant shared = variantOfSlot(slot, type.form == TypeForm::Value ? withBase(type, declared) : type);
+    return copyOf(heap, shared);
+}
+
+Variant* LateArguments::firstWithoutValue(const LoadedProcedure& procedure, std::span<Variant> arguments) const {
+    const auto& variables = procedure.info->variables;
+    for (std::size_t i = 0; i < arguments.size() && i + 1 < procedure.info->parameters; ++i)
+        if (Variant* const needed = valueNeeded(arguments[i], variables[i + 1].type)) return needed;
+    return nullptr;
+}
+
+void LateArguments::prepareOne(Execution& m, Argument& argument, const Variant& value) {
+    const SlotType type = valueType(argument.type);
+    if (value.isMissing()) {
+        if (type.base == BaseType::Variant) variantAt(argument.value) = missing();
+        return;
+    }
+    argument.isInVariable =
+        argument.variable && argument.type.form == TypeForm::Reference && type.base == BaseType::Variant;
+    if (!argument.isInVariable) storeInSlot(m, argument.value, type, argument.declared, value);
+}
+
+void LateArguments::packRest(Execution& m, Argument& argument, std::span<const Variant> rest) {
+    const SlotType type = valueType(argument.type);
+    if (type.form != TypeForm::Array || type.base != BaseType::Variant) throw basic::RuntimeError(basic::kTypeMismatch);
+    const Bounds bounds{0, static_cast<std::int32_t>(rest.size()) - 1};
+    argument.value[0].array = makeArray(m.heap, {{BaseType::Variant}}, {&bounds, 1});
+    auto* const elements = argument.value[0].array->as<Slot>();
+    for (std::size_t i = 0; i < rest.size(); ++i) variantAt(elements + 2 * i) = copyOf(m.heap, rest[i]);
+}
+
+void LateArguments::prepare(Execution& m, const LoadedProcedure& procedure, const image::ClassMember& member,
+                            std::span<const Variant> arguments, std::span<Slot* const> variables) {
+    const std::size_t all = procedure.info->parameters;
+    if (all == 0 || (all == 1 && member.hasParamArray)) throw basic::RuntimeError(basic::kPropertyOrMethodNotSupported);
+    const std::size_t count = all - 1, simple = count - (member.hasParamArray ? 1 : 0);
+    if (arguments.size() > simple && !member.hasParamArray) throw basic::RuntimeError(basic::kWrongNumberOfArguments);
+    arguments_.assign(count, {});
+    for (std::size_t i = 0; i < count; ++i) {
+        Argument& argument = arguments_[i];
+        argument.type = procedure.info->variables[i + 1].type;
+        if (i < member.parameters.size()) argument.declared = member.parameters[i];
+        if (i >= simple) {
+            packRest(m, argument, arguments.size() > simple ? arguments.subspan(simple) : std::span<const Variant>());
+            continue;
+        }
+        const bool isGiven = i < arguments.size() && !arguments[i].isMissing();
+        if (!isGiven && i + member.optional < simple) throw basic::RuntimeError(basic::kArgumentNotOptional);
+        argument.variable = isGiven && i < variables.size() ? variables[i] : nullptr;
+        prepareOne(m, argument, isGiven ? arguments[i] : missing());
+    }
+}
+
+void LateArguments::moveTo(Heap& heap, Slot* target) {
+    for (Argument& argument : arguments_) {
+        if (isReference(argument.type)) {
+            setReference(heap, target, argument.isInVariable ? argument.variable : argument.value, nullptr);
+        } else {
+            std::swap(target[0].bits, argument.value[0].bits);
+            if (slotsOf(argument.type) == 2) std::swap(target[1].bits, argument.value[1].bits);
+        }
+        target += slotsOf(argument.type);
+    }
+}
+
+void LateArguments::writeBack(Execution& m) {
+    for (const Argument& argument : arguments_) {
+        if (argument.type.form != TypeForm::Reference || argument.isInVariable || !argument.variable) continue;
+        const Variant value = copyOfSlot(m.heap, argument.value, valueType(argument.type), argument.declared);
+        setVariant(m.heap, argument.variable, value);
+    }
+}
+
+void LateArguments::release(Heap& heap) {
+    for (Argument& argument : arguments_) {
+        const SlotType type = valueType(argument.type);
+        if (image::isManaged(type)) releaseSlot(heap, argument.value, managedKind(type));
+    }
+    arguments_.clear();
+}
+
+} // namespace tamarik

@@ -1,0 +1,283 @@
+#include "Components/Tamarik/vm/late_call.h"
+#include "Basic/case_folding.h"
+#include "Basic/runtime_error.h"
+#include "Components/Tamarik/objects/library_object.h"
+#include "Components/Tamarik/vm/array_operations.h"
+#include "Components/Tamarik/vm/late_arguments.h"
+#include "Components/Tamarik/vm/slot_values.h"
+#include "Components/Tamarik/vm/slot_variants.h"
+#include "Components/Tamarik/vm/variant_operations.h"
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <utility>
+
+namespace tamarik {
+
+namespace {
+
+using image::ClassMember;
+using image::LateUse;
+using image::MemberUse;
+
+/// Objects whose default member is an object again.
+constexpr int kDeepestDefaults = 8;
+
+bool serves(const ClassMember& member, LateUse use) {
+    switch (member.use) {
+    case MemberUse::Method:
+    case MemberUse::Get: return use == LateUse::Call || use == LateUse::Get;
+    case MemberUse::Let: return use == LateUse::Let;
+    case MemberUse::Set: return use == LateUse::Set;
+    case MemberUse::Field: return true;
+    }
+    return false;
+}
+
+const ClassMember* memberOf(Execution& m, std::uint32_t classNumber, std::uint32_t name, LateUse use) {
+    const std::uint64_t key =
+        std::uint64_t{classNumber} << 40 | std::uint64_t{name} << 8 | static_cast<std::uint64_t>(use);
+    const auto [entry, isNew] = m.memberCache.try_emplace(key, nullptr);
+    if (!isNew) return entry->second;
+    const auto wanted = m.program->text(name);
+    for (const ClassMember& member : m.program->code().classes[classNumber - 1].members) {
+        if (!member.isPublic || !serves(member, use)) continue;
+        if (basic::equalNoCase(m.program->text(member.name), wanted)) return entry->second = &member;
+    }
+    return nullptr;
+}
+
+class LateCallTask final : public Task {
+public:
+    explicit LateCallTask(LateRequest request) : request_(std::move(request)) {}
+
+    bool step(Execution& m) override {
+        for (;;) {
+            if (isDone_) {
+                m.deliver(std::exchange(result_, {}));
+                return true;
+            }
+            if (!advance(m)) return false;
+        }
+    }
+
+    void returned(Execution& m, const Variant& result) override {
+        if (waitsFor_ != nullptr) {
+            Variant& argument = *std::exchange(waitsFor_, nullptr);
+            tamarik::release(m.heap, std::exchange(argument, result));
+            return;
+        }
+        result_ = result;
+        arguments_.writeBack(m);
+        arguments_.release(m.heap);
+        continueWith(m, nextArguments_);
+    }
+
+    void release(Heap& heap) override {
+        tamarik::release(heap, std::exchange(result_, {}));
+        tamarik::release(heap, std::exchange(request_.object, {}));
+        for (Variant& argument : request_.arguments) tamarik::release(heap, std::exchange(argument, {}));
+        arguments_.release(heap);
+    }
+
+private:
+    /// One step; false if code was called.
+    bool advance(Execution& m) {
+        requireObject(request_.object);
+        Object& object = *request_.object.object;
+        if (object.classNumber == 0) return callLibrary(m, static_cast<LibraryObject&>(object));
+        const std::uint32_t name = nameFor(m, object.classNumber);
+        if (const ClassMember* const member = memberOf(m, object.classNumber, name, request_.use))
+            return callMemberOf(m, static_cast<Instance&>(object), *member);
+        // A property that returns an object: the value is assigned to that object's default member.
+        const ClassMember* const getter = memberOf(m, object.classNumber, name, LateUse::Get);
+        const bool assigns = request_.use == LateUse::Let || request_.use == LateUse::Set;
+        if (!assigns || !getter || (getter->use == MemberUse::Method) || request_.arguments.size() < 2)
+            throw basic::RuntimeError(basic::kPropertyOrMethodNotSupported);
+        return callProcedure(m, static_cast<Instance&>(object), *getter, 0);
+    }
+
+    std::uint32_t nameFor(const Execution& m, std::uint32_t classNumber) const {
+        if (request_.name != image::kNone) return request_.name;
+        const std::uint32_t name = m.program->code().classes[classNumber - 1].defaultMember;
+        if (name == image::kNone) throw basic::RuntimeError(basic::kPropertyOrMethodNotSupported);
+        return name;
+    }
+
+    bool callLibrary(Execution& m, LibraryObject& object) {
+        const std::string_view name =
+            request_.name == image::kNone ? object.defaultMember() : m.program->text(request_.name);
+        if (name.empty()) throw basic::RuntimeError(basic::kPropertyOrMethodNotSupported);
+        std::vector<const Variant*> positional;
+        std::vector<NamedArgument> named;
+        const std::size_t firstNamed = request_.arguments.size() - request_.named.size();
+        for (std::size_t i = 0; i < request_.arguments.size(); ++i) {
+            if (i < firstNamed)
+                positional.push_back(&request_.arguments[i]);
+            else
+                named.push_back({m.program->text(request_.named[i - firstNamed]), &request_.arguments[i]});
+        }
+        result_ = callMember(m.session, object, name, request_.use, positional, named);
+        isDone_ = true;
+        return true;
+    }
+
+    bool callMemberOf(Execution& m, Instance& object, const ClassMember& member) {
+        if (!request_.named.empty()) throw basic::RuntimeError(basic::kNamedArgumentNotFound);
+        if (member.use == MemberUse::Field) return useField(m, object, member);
+        // A property without parameters: the arguments are for what it returns.
+        const bool isIndexed = member.use == MemberUse::Get && member.parameters.empty() && !request_.arguments.empty();
+        return callProcedure(m, object, member, isIndexed ? 0 : request_.arguments.size());
+    }
+
+    bool useField(Execution& m, Instance& object, const ClassMember& member) {
+        Slot* const field = object.fields() + member.target;
+        const image::SlotType type = typeOfField(m, object, member);
+        const bool assigns = request_.use == LateUse::Let || request_.use == LateUse::Set;
+        if (assigns && request_.arguments.size() == 1) {
+            if (Variant* const unresolved = valueNeeded(request_.arguments[0], type)) return resolve(m, *unresolved);
+            storeInSlot(m, field, type, member.result, request_.arguments[0]);
+            isDone_ = true;
+            return true;
+        }
+        result_ = copyOfSlot(m.heap, field, type, member.result);
+        continueWith(m, 0);
+        return true;
+    }
+
+    static image::SlotType typeOfField(const Execution& m, const Object& object, const ClassMember& member) {
+        std::uint32_t slot = 0;
+        for (const image::SlotVariable& field : m.program->code().classes[object.classNumber - 1].fields) {
+            if (slot == member.target) return field.type;
+            slot += field.type.base == image::BaseType::Record && field.type.form == image::TypeForm::Value
+                        ? m.program->records[field.type.id].slots
+                        : slotsOf(field.type);
+        }
+        throw basic::RuntimeError(basic::kPropertyOrMethodNotSupported);
+    }
+
+    bool callProcedure(Execution& m, Instance& object, const ClassMember& member, std::size_t count) {
+        const LoadedProcedure& procedure = m.program->procedures[member.target];
+        std::span<Variant> arguments(request_.arguments.data(), count);
+        if (Variant* const unresolved = arguments_.firstWithoutValue(procedure, arguments))
+            return resolve(m, *unresolved);
+        arguments_.prepare(m, procedure, member, arguments, request_.variables);
+        nextArguments_ = count;
+        Slot* const base = m.pushFrame(procedure, FrameKind::TaskCall);
+        retain(base[0].object = &object);
+        arguments_.moveTo(m.heap, base + 1);
+        return false;
+    }
+
+    bool resolve(Execution& m, Variant& argument) {
+        waitsFor_ = &argument;
+        callDefault(m, argument);
+        return false;
+    }
+
+    /// The result is final, or the remaining arguments select an element of it.
+    void continueWith(Execution& m, std::size_t used) {
+        if (used >= request_.arguments.size()) {
+            isDone_ = true;
+            return;
+        }
+        request_.arguments.erase(request_.arguments.begin(),
+                                 request_.arguments.begin() + static_cast<std::ptrdiff_t>(used));
+        if (result_.isArray()) return useElement(m);
+        if (++defaults_ > kDeepestDefaults) throw basic::RuntimeError(basic::kPropertyOrMethodNotSupported);
+        tamarik::release(m.heap, std::exchange(request_.object, std::exchange(result_, {})));
+        request_.name = image::kNone;
+        request_.variables.clear();
+    }
+
+    void useElement(Execution& m) {
+        const std::span<const Variant> arguments(request_.arguments);
+        Variant element;
+        if (request_.use == LateUse::Let || request_.use == LateUse::Set)
+            storeElementWith(m.heap, result_, arguments.first(arguments.size() - 1), arguments.back());
+        else
+            element = elementWith(m.heap, result_, arguments);
+        tamarik::release(m.heap, std::exchange(result_, element));
+        isDone_ = true;
+    }
+
+    LateRequest request_;
+    LateArguments arguments_;
+    Variant result_;
+    Variant* waitsFor_ = nullptr;
+    std::size_t nextArguments_ = 0;
+    int defaults_ = 0;
+    bool isDone_ = false;
+};
+
+} // namespace
+
+void requireObject(const Variant& v) {
+    if (v.kind != kObject) throw basic::RuntimeError(basic::kObjectRequired);
+    if (!v.object) throw basic::RuntimeError(basic::kObjectVariableNotSet);
+}
+
+void callLate(Execution& m, LateRequest request, std::uint8_t result) {
+    m.pushTask(std::make_unique<LateCallTask>(std::move(request)), result);
+}
+
+void callDefault(Execution& m, const Variant& object) {
+    LateRequest request;
+    request.object = sharedOf(object);
+    callLate(m, std::move(request), image::kNoSlot);
+}
+
+namespace {
+
+const FoundMember& foundAt(Execution& m, const std::uint32_t* ip, const LibraryObject& object) {
+    CallSite& site = m.callSites[reinterpret_cast<std::uintptr_t>(ip) / sizeof *ip % kCallSites];
+    const LibraryMember* const members = object.members().data();
+    if (site.ip == ip && site.members == members) return site.found;
+    const std::string_view name = ip[1] == image::kNone ? object.defaultMember() : m.program->text(ip[1]);
+    if (name.empty()) throw basic::RuntimeError(basic::kPropertyOrMethodNotSupported);
+    site = {ip, members, findMember(object, name, static_cast<LateUse>(ip[2] & 0xFF))};
+    return site.found;
+}
+
+} // namespace
+
+bool callLibrary(Execution& m, const std::uint32_t* ip) {
+    const image::Word word(*ip);
+    Slot* const base = m.frame->base;
+    const Variant& target = variantAt(base + word.b);
+    if (target.kind != kObject || !target.object || target.object->classNumber != 0 || ip[2] >> 8 != 0) return false;
+    auto& object = static_cast<LibraryObject&>(*target.object);
+    std::array<const Variant*, 255> arguments;
+    for (std::uint32_t i = 0; i < word.c; ++i) arguments[i] = &variantAt(base + halfAt(ip + 3, i));
+    const Variant result = callFound(m.session, object, foundAt(m, ip, object), {arguments.data(), word.c});
+    if (word.a == image::kNoSlot)
+        release(m.heap, result);
+    else
+        setVariant(m.heap, base + word.a, result);
+    return true;
+}
+
+void callLate(Execution& m, const std::uint32_t* ip) {
+    const image::Word word(*ip);
+    Slot* const base = m.frame->base;
+    LateRequest request;
+    request.name = ip[1];
+    request.use = static_cast<LateUse>(ip[2] & 0xFF);
+    const std::uint32_t named = ip[2] >> 8;
+    request.named.assign(ip + 3, ip + 3 + named);
+    const std::uint32_t* const slots = ip + 3 + named;
+    request.arguments.reserve(word.c);
+    try {
+        for (std::uint32_t i = 0; i < word.c; ++i) {
+            request.variables.push_back(base + halfAt(slots, i));
+            request.arguments.push_back(copyOf(m.heap, variantAt(request.variables.back())));
+        }
+        request.object = sharedOf(variantAt(base + word.b));
+    } catch (...) {
+        for (const Variant& argument : request.arguments) release(m.heap, argument);
+        throw;
+    }
+    callLate(m, std::move(request), word.a);
+}
+
+} // namespace tamarik
