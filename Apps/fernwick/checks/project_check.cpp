@@ -11,6 +11,17 @@
 
 namespace cli {
 
+namespace {
+
+std::vector<const qltoolkit::SourceText*> textsOf(const std::vector<CheckedSource>& sources) {
+    std::vector<const qltoolkit::SourceText*> texts;
+    for (const auto& source : sources)
+        if (source.text) texts.push_back(source.text.get());
+    return texts;
+}
+
+} // namespace
+
 ProjectCheck::ProjectCheck(const Options& options, host::FileContents& contents)
     : options_(options),
       contents_(contents),
@@ -91,14 +102,35 @@ void ProjectCheck::addLibraries(KeyText& key, const apps::CheckedProject& projec
     for (const auto& path : apps::libraryDescriptions(installation_)) key.addStateOf(path);
 }
 
-CheckResults ProjectCheck::checkTexts(const apps::CheckedProject& project, const std::vector<CheckedSource>& sources,
-                                      bool isWhole) {
-    std::vector<const qltoolkit::SourceText*> texts;
-    for (const auto& source : sources)
-        if (source.text) texts.push_back(source.text.get());
+qltoolkit::ProgramOptions ProjectCheck::programOf(const apps::CheckedProject& project, bool isWhole) {
     auto program = apps::programOf(project, libraries_, isWhole);
     program.warnsOptionally = options_.warnsOptionally;
-    return qltoolkit::checkProject(texts, project.constants, program);
+    return program;
+}
+
+CheckResults ProjectCheck::checkTexts(const apps::CheckedProject& project, const std::vector<CheckedSource>& sources,
+                                      bool isWhole) {
+    return qltoolkit::checkProject(textsOf(sources), project.constants, programOf(project, isWhole));
+}
+
+CompiledSources ProjectCheck::compile(const apps::CheckedProject& project) {
+    CompiledSources compiled;
+    for (auto& source : readSources(project)) {
+        auto& added = compiled.sources.emplace_back(CheckedSource{std::move(source.failure), nullptr});
+        if (source.content)
+            added.text = std::make_unique<qltoolkit::SourceText>(project.sources[compiled.sources.size() - 1],
+                                                                 std::move(source.content->bytes), project.page.page);
+    }
+    const auto texts = textsOf(compiled.sources);
+    const bool isWhole = texts.size() == compiled.sources.size();
+    auto made = qltoolkit::compileProject(texts, project.constants, programOf(project, isWhole), "Main",
+                                          static_cast<std::uint32_t>(project.page.page.number()));
+    std::size_t next = 0;
+    for (auto& source : compiled.sources)
+        if (source.text) source.result = std::move(made.results[next++]);
+    if (isWhole) compiled.code = std::move(made.code);
+    compiled.entries = std::move(made.entries);
+    return compiled;
 }
 
 } // namespace cli

@@ -5,6 +5,7 @@
 #include "Apps/fernwick/checks/check_cache.h"
 #include "Apps/fernwick/checks/key_text.h"
 #include "Apps/fernwick/options/options.h"
+#include "Components/QLToolkit/check.h"
 #include "Host/files/text_file.h"
 #include <memory>
 #include <optional>
@@ -20,6 +21,12 @@ struct CheckedSource {
     std::unique_ptr<qltoolkit::SourceText> text;
 };
 
+struct CompiledSources {
+    std::vector<CheckedSource> sources;   ///< in the order of the project's
+    std::optional<image::CodeImage> code; ///< of a project without errors
+    std::vector<qltoolkit::EntryPoint> entries;
+};
+
 /// Checks projects, or finds what an earlier check of the same bytes found.
 class ProjectCheck {
 public:
@@ -27,6 +34,8 @@ public:
 
     /// Returns the results in the order of the project's sources.
     std::vector<CheckedSource> check(const apps::CheckedProject& project);
+    /// Checks a project and makes its code.
+    CompiledSources compile(const apps::CheckedProject& project);
 
 private:
     /// A source, or why it could not be read.
@@ -39,6 +48,7 @@ private:
     Source read(const std::string& path);
     [[nodiscard]] CheckKey keyOf(const apps::CheckedProject& project, const std::vector<Source>& sources) const;
     void addLibraries(KeyText& key, const apps::CheckedProject& project) const;
+    [[nodiscard]] qltoolkit::ProgramOptions programOf(const apps::CheckedProject& project, bool isWhole);
     CheckResults checkTexts(const apps::CheckedProject& project, const std::vector<CheckedSource>& sources,
                             bool isWhole);
 

@@ -78,7 +78,8 @@ std::string wrongTogether(const Raw& raw, bool hasFormat) {
 void removeAllMarks(Raw& raw) {
     auto& options = raw.options;
     for (auto* text : {&options.project, &options.action, &options.device, &options.depfile, &options.depfileTarget,
-                       &options.newFile, &options.output, &options.sourceName, &options.sourceRoot, &raw.format})
+                       &options.newFile, &options.output, &options.sourceName, &options.sourceRoot, &options.files,
+                       &options.filter, &options.junitFile, &raw.format})
         removeMarks(*text);
     for (auto* list : {&options.operands, &raw.answers})
         for (auto& text : *list) removeMarks(text);

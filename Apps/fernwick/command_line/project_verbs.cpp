@@ -141,11 +141,49 @@ void defineInstallRuntime(CLI::App& app, Raw& raw) {
     addDevices(runtime, raw, "");
 }
 
+/// Returns the error text for what is not a count, "" for others.
+std::string refusalOfBudget(const std::string& text) {
+    const bool isCount = !text.empty() && text.size() <= 18 && text.find_first_not_of("0123456789") == text.npos &&
+                         text.find_first_not_of('0') != text.npos;
+    return isCount ? "" : text + " is not a number of instructions";
+}
+
+void addBudget(CLI::App& verb, Raw& raw, const char* what) {
+    verb.add_option("--seed", raw.options.seed, "Seed of the random numbers")->type_name("N");
+    verb.add_option("--budget", raw.options.budget, what)->type_name("N")->check(refusalOfBudget);
+}
+
+void defineRun(CLI::App& app, Raw& raw) {
+    auto& run = addVerb(app, raw, "run", runRun, "Run a project of modules and classes from its Sub Main",
+                        "fernwick run Report.vbp --budget 1000000");
+    addProject(run, raw);
+    run.add_option("ARGUMENT", raw.options.operands, "What the program finds in Command; after -- also options");
+    run.add_option("--files", raw.options.files, "Folder of the program's files (default: in memory)")
+        ->type_name("DIR");
+    addBudget(run, raw, "Stop the program after about N instructions");
+    run.add_flag("--leaks", raw.options.leaks, "Count the objects that exist at the end, by class");
+    run.add_flag("--profile", raw.options.profile, "Show the procedures and lines that take the most instructions");
+    addCodePage(run, raw);
+}
+
+void defineTest(CLI::App& app, Raw& raw) {
+    auto& test = addVerb(app, raw, "test", runTest, "Run the Test... procedures in the Test... modules of a project",
+                         "fernwick test Report.vbp --junit results.xml");
+    addProject(test, raw);
+    test.add_option("--filter", raw.options.filter, "Only tests whose Module.Procedure contains TEXT")
+        ->type_name("TEXT");
+    test.add_option("--junit", raw.options.junitFile, "Also write the results as JUnit XML")->type_name("FILE");
+    addBudget(test, raw, "Stop each test after about N instructions");
+    addCodePage(test, raw);
+}
+
 } // namespace
 
 void defineProjectVerbs(CLI::App& app, Raw& raw) {
     defineBuild(app, raw);
     defineValidate(app, raw);
+    defineRun(app, raw);
+    defineTest(app, raw);
     defineClean(app, raw);
     defineNew(app, raw);
     defineInit(app, raw);

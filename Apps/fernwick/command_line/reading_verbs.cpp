@@ -29,11 +29,22 @@ void defineInfo(CLI::App& app, Raw& raw) {
     addCodePage(info, raw);
 }
 
+void defineImage(CLI::App& app, Raw& raw) {
+    auto& image = addVerb(app, raw, "image", runImage, "Show what a compiled application contains, and verify its code",
+                          "fernwick image AddressBook.0000.qlx --code Module1.Main");
+    image.add_option("IMAGE", raw.options.project, "Compiled application, a .qlx file")->required();
+    image
+        .add_option("PROCEDURE", raw.options.operands,
+                    "Procedures to show, such as Main or Module1.Main (default: all)")
+        ->needs(image.add_flag("--code", raw.options.code, "Show the instructions of procedures"));
+}
+
 } // namespace
 
 void defineReadingVerbs(CLI::App& app, Raw& raw) {
     defineCheck(app, raw);
     defineInfo(app, raw);
+    defineImage(app, raw);
     auto& messages = addVerb(app, raw, "messages", runMessages, "Print the messages stored by a project's last build",
                              "fernwick messages AddressBook.vbp --format json", Result::Messages);
     addProject(messages, raw);

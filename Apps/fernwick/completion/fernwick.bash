@@ -27,7 +27,7 @@ _fernwick_settings() { _fernwick_help Settings: help settings; }
 
 _fernwick_formats() { _fernwick_words "$(fernwick help $verb 2>/dev/null | sed -n 's/^  --format .*: //p' | sed 's/,\| or / /g')"; }
 
-_fernwick_options='--format|--color|--device|--migrate|--to|--template|--depfile|--depfile-target|--output|--name|--answer|--code-page|--source-root' # with a value
+_fernwick_options='--format|--color|--device|--migrate|--to|--template|--depfile|--depfile-target|--output|--name|--answer|--code-page|--source-root|--seed|--budget|--filter|--junit|--files' # with a value
 
 _fernwick() {
   local cur=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} verb= action= word
@@ -55,8 +55,9 @@ _fernwick_complete() {
     --answer) _fernwick_words "$(fernwick help answers 2>/dev/null | sed -n 's/^  \([a-z-]*\) .*/\1=/p')"
       compopt -o nospace 2>/dev/null; return ;;
     --depfile) _fernwick_files "d"; return ;;
-    --output) _fernwick_files "!(*)"; return ;;
-    --name | --depfile-target) return ;;
+    --junit) _fernwick_files "xml"; return ;;
+    --output | --files) _fernwick_files "!(*)"; return ;;
+    --name | --depfile-target | --seed | --budget | --filter) return ;;
     --code-page) _fernwick_words "1250 1251 1252 932 936 949 950 65001"; return ;;
   esac
   if [[ $cur == -* ]]; then
@@ -65,7 +66,7 @@ _fernwick_complete() {
   fi
   case $verb in
     "") _fernwick_help Commands: --help ;;
-    convert | init | messages | upgrade) _fernwick_files "vbp" ;;
+    convert | init | messages | run | test | upgrade) _fernwick_files "vbp" ;;
     build | clean | validate) _fernwick_files "vbp|vbg" ;;
     dependencies) [[ -z $action || ${action,,} == *.vbp ]] && _fernwick_words "list add remove"
       if [[ -z $action ]]; then _fernwick_files "vbp"; else _fernwick_files "*"; fi ;;
@@ -88,6 +89,7 @@ _fernwick_complete() {
         add | remove) _fernwick_targets ;;
       esac ;;
     explain) _fernwick_words "$(fernwick explain 2>/dev/null | sed 's/^ *\([0-9]*\) .*/\1/')" ;;
+    image) if [[ -z $action ]]; then _fernwick_files "qlx"; fi ;;
     info | workbench) _fernwick_files "vbp|vbg" ;;
     check) _fernwick_files "vbp|vbg|bas|cls|frm|ctl|pag|dsr|dob" ;;
     help) _fernwick_words answers; _fernwick_help Commands: --help ;;

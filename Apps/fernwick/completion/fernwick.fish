@@ -25,7 +25,7 @@ function __fernwick_complete
     set -l previous
     for word in (commandline -opc)[2..]
         if not string match -q -- '-*' $word
-            and not contains -- "$previous" --format --color --device --migrate --to --template --depfile --depfile-target --output --name --answer --code-page --source-root
+            and not contains -- "$previous" --format --color --device --migrate --to --template --depfile --depfile-target --output --name --answer --code-page --source-root --seed --budget --filter --junit --files
             if test -z "$verb"
                 set verb $word
             else if test -z "$action"
@@ -54,10 +54,13 @@ function __fernwick_complete
         case --depfile
             __fish_complete_suffix .d
             return
-        case --output
+        case --output --files
             __fish_complete_directories
             return
-        case --name --depfile-target
+        case --junit
+            __fish_complete_suffix .xml
+            return
+        case --name --depfile-target --seed --budget --filter
             return
         case --answer
             __fernwick_help Questions help answers | string replace \t =\t
@@ -82,11 +85,13 @@ function __fernwick_complete
             __fernwick_help Commands: --help
         case completion
             printf '%s\n' bash zsh fish
-        case convert init messages upgrade
+        case convert init messages run test upgrade
             __fish_complete_suffix .vbp
         case build clean info validate workbench
             __fish_complete_suffix .vbp
             __fish_complete_suffix .vbg
+        case image
+            __fish_complete_suffix .qlx
         case check
             __fish_complete_path (commandline -ct)
         case deploy package

@@ -40,7 +40,7 @@ _fernwick_numbers() {
 _fernwick() {
   local verb action word previous=
   for word in ${words[2,CURRENT-1]}; do
-    if [[ $word != -* && $previous != --(format|color|device|migrate|to|template|depfile|depfile-target|output|name|answer|code-page|source-root) ]]; then
+    if [[ $word != -* && $previous != --(format|color|device|migrate|to|template|depfile|depfile-target|output|name|answer|code-page|source-root|seed|budget|filter|junit|files) ]]; then
       if [[ -z $verb ]]; then verb=$word; elif [[ -z $action ]]; then action=$word; fi
     fi
     previous=$word
@@ -53,8 +53,9 @@ _fernwick() {
     --device | --migrate | --to) _fernwick_targets; return ;;
     --template) _files -g '(#i)*.vbp'; return ;;
     --depfile) _files -g '(#i)*.d'; return ;;
-    --output) _files -/; return ;;
-    --name | --depfile-target) return ;;
+    --output | --files) _files -/; return ;;
+    --junit) _files -g '(#i)*.xml'; return ;;
+    --name | --depfile-target | --seed | --budget | --filter) return ;;
     --answer) compset -P '*=' && compadd yes no cancel ok || _fernwick_help questions Questions help answers; return ;;
     --code-page) compadd 1250 1251 1252 932 936 949 950 65001; return ;;
   esac
@@ -66,8 +67,9 @@ _fernwick() {
     "") _fernwick_help verbs Commands: --help ;;
     help) compadd answers; _fernwick_help verbs Commands: --help ;;
     completion) compadd bash zsh fish ;;
-    convert | init | messages | upgrade) _files -g '(#i)*.vbp' ;;
+    convert | init | messages | run | test | upgrade) _files -g '(#i)*.vbp' ;;
     build | clean | info | validate | workbench) _files -g '(#i)*.(vbp|vbg)' ;;
+    image) _files -g '(#i)*.qlx' ;;
     check) _files -g '(#i)*.(vbp|vbg|bas|cls|frm|ctl|pag|dsr|dob)' ;;
     deploy | package) _files -g '(#i)*.(vbp|vbg|qlpkg)' ;;
     explain) _fernwick_numbers ;;

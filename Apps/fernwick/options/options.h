@@ -4,6 +4,7 @@
 #include "Apps/fernwick/options/color_use.h"
 #include "Apps/fernwick/options/verbosity.h"
 #include "Basic/code_page.h"
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
@@ -58,8 +59,18 @@ struct Options {
     bool noSteps = false;
     bool list = false;
     bool verify = false;
+    /// `image` shows instructions.
+    bool code = false;
     /// `check` also warns of what is allowed but seldom meant.
     bool warnsOptionally = false;
+    /// Of a program: the first random number's seed, and the instructions after which it is stopped.
+    std::optional<std::uint32_t> seed;
+    std::optional<std::int64_t> budget;
+    std::string files; ///< the folder of a program's files; "" to keep them in memory
+    bool leaks = false;
+    bool profile = false;
+    std::string filter;          ///< a part of the names of tests; "" for all
+    std::string junitFile;       ///< "" for none
     std::string migrationDevice; ///< of the report about moving to a device; "" for none
     /// Code page of source files that are not UTF-8; detected if none is given.
     std::optional<basic::CodePage> codePage;

@@ -1,93 +1,27 @@
+#include "Apps/fernwick/checks/check_report.h"
 #include "Apps/fernwick/checks/project_check.h"
 #include "Apps/fernwick/checks/source_list.h"
 #include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/output/code_page_note.h"
 #include "Apps/fernwick/output/plural.h"
 #include "Apps/fernwick/output/report.h"
-#include "Apps/fernwick/output/token_ends.h"
 #include "Apps/fernwick/run/interruption.h"
 #include "Apps/fernwick/run/project_argument.h"
 #include "Apps/fernwick/stored/source_check.h"
 #include "Apps/fernwick/verbs/verbs.h"
 #include "Basic/runtime_error.h"
-#include "Host/files/path_lookup.h"
 #include "Host/files/project_code_page.h"
 #include "Host/files/text_file.h"
 #include <chrono>
 #include <fmt/format.h>
 #include <iostream>
 #include <iterator>
-#include <optional>
-#include <set>
-#include <tuple>
 
 namespace cli {
 
 namespace {
 
-struct CheckTotals {
-    std::size_t files = 0, errors = 0;
-    std::uint64_t lines = 0;
-    int status = kGood;
-};
-
-/// An error that is a mistake on the command line or the system's trouble is not one of the project.
-int statusOfDiagnostic(const qltoolkit::Diagnostic& diagnostic, bool isNamed) {
-    if (diagnostic.severity != qltoolkit::Severity::Error) return kGood;
-    if (!isNamed) return kProjectErrors;
-    switch (qltoolkit::Message(diagnostic.number)) {
-    case qltoolkit::Message::FileMissing:
-    case qltoolkit::Message::FileIsFolder: return kWrongUse;
-    case qltoolkit::Message::FileUnreadable: return kMachineTrouble;
-    default: return kProjectErrors;
-    }
-}
-
 constexpr std::string_view kStandardInput = "-";
-
-/// Reports what was found in each file, and counts it. A file of several projects is reported once.
-class CheckReport {
-public:
-    CheckReport(const Options& options, Console& console, Report& report)
-        : options_(options), console_(console), report_(report) {}
-
-    void add(const std::string& path, qltoolkit::CheckResult result, bool isNamed,
-             const qltoolkit::SourceText* source) {
-        console_.detail(fmt::format("read {}: {}", path, plural(result.lines, "line")));
-        if (files_.insert(path).second) {
-            ++totals_.files;
-            totals_.lines += result.lines;
-        }
-        std::optional<TokenEnds> ends;
-        for (const auto& diagnostic : result.diagnostics) {
-            const auto place = std::tuple(diagnostic.file, diagnostic.line, diagnostic.column, diagnostic.number);
-            if (!reported_.insert(place).second) continue;
-            totals_.errors += diagnostic.severity == qltoolkit::Severity::Error;
-            totals_.status = std::max(totals_.status, statusOfDiagnostic(diagnostic, isNamed));
-            auto message = messageOfDiagnostic(diagnostic);
-            if (source && !ends) ends.emplace(source->text(0, source->size()), source->codePage());
-            if (ends) message.endColumn = ends->endColumn(message.line, message.column);
-            print(std::move(message));
-        }
-    }
-
-    [[nodiscard]] const CheckTotals& totals() const { return totals_; }
-
-private:
-    void print(Message message) {
-        if (options_.format == Format::Text)
-            return console_.err(textOf(message, ""), message.isError ? Tone::Error : Tone::Warning);
-        message.file = host::absolutePath(message.file);
-        report_.messages.push_back(std::move(message));
-    }
-
-    const Options& options_;
-    Console& console_;
-    Report& report_;
-    CheckTotals totals_;
-    std::set<std::string> files_;
-    std::set<std::tuple<std::string, std::uint32_t, std::uint32_t, int>> reported_;
-};
 
 void checkBytes(const std::string& name, std::string bytes, const SourceToCheck& source, Console& console,
                 CheckReport& report) {

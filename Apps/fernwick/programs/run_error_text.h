@@ -1,0 +1,14 @@
+#pragma once
+// Run-time errors of programs as text and JSON.
+#include "Apps/fernwick/output/json_output.h"
+#include "Apps/fernwick/programs/project_program.h"
+#include "Components/Tamarik/vm/run_error.h"
+#include <string>
+
+namespace cli {
+
+/// `file:line: run-time error 9: Subscript out of range`, and a line for each caller.
+std::string textOf(const tamarik::RunError& error, const ProjectProgram& program);
+Json jsonOf(const tamarik::RunError& error, const ProjectProgram& program);
+
+} // namespace cli
