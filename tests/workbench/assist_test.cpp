@@ -111,6 +111,54 @@ TEST_F(Assist, AcceptsANameByTabEnterAndTheNextCharacter) {
     EXPECT_EQ(text->lines(), 12);
 }
 
+TEST_F(Assist, ALongListScrollsInsteadOfBecomingShorter) {
+    press(Qt::Key_J, Qt::ControlModifier);
+    const auto all = list();
+    EXPECT_GT(all.count(' '), 300);
+    type("msgb");
+    EXPECT_EQ(list(), all);
+    press(Qt::Key_Backspace);
+    press(Qt::Key_Tab);
+    EXPECT_EQ(line(), "MsgBox");
+    type(" zz");
+    press(Qt::Key_J, Qt::ControlModifier);
+    EXPECT_EQ(list(), "");
+}
+
+TEST_F(Assist, NamesOfLibrariesGetTheirDeclaredCase) {
+    workbench::kAutoListMembers.store(false);
+    type("msgbox left$(app.path, 1) & VBCRLF & pets.count & \"msgbox\", vbokonly ' msgbox");
+    press(Qt::Key_Down);
+    EXPECT_EQ(line(), "MsgBox Left$(App.Path, 1) & vbCrLf & Pets.Count & \"msgbox\", vbOKOnly ' msgbox");
+    press(Qt::Key_Z, Qt::ControlModifier); // a step of its own, as for other names
+    EXPECT_EQ(line(), "msgbox left$(app.path, 1) & VBCRLF & pets.count & \"msgbox\", vbokonly ' msgbox");
+}
+
+TEST_F(Assist, NamesOfLibrariesGetTheirDeclaredCaseInDeclarations) {
+    workbench::kAutoListMembers.store(false);
+    text->insertAt("\n", 5, 0);
+    text->setCursorPosition(5, 0);
+    type("Private c As collection, n(vbyes) As VBMSGBOXSTYLE");
+    press(Qt::Key_Down);
+    EXPECT_EQ(text->text(5).trimmed().toStdString(), "Private c As Collection, n(vbYes) As VbMsgBoxStyle");
+}
+
+TEST_F(Assist, NamesOfTheProjectComeBeforeThoseOfLibraries) {
+    text->insertAt("Dim LEFT As Long\n", 6, 0);
+    settle(400);
+    text->setCursorPosition(kEmptyLine + 1, 4);
+    type("left = len(\"\")");
+    press(Qt::Key_Down);
+    EXPECT_EQ(text->text(kEmptyLine + 1).trimmed(), "LEFT = Len(\"\")");
+}
+
+TEST_F(Assist, AnOptionKeepsTheNamesOfLibraries) {
+    workbench::kLibraryNames.store(false);
+    type("msgbox 1");
+    press(Qt::Key_Down);
+    EXPECT_EQ(line(), "msgbox 1");
+}
+
 TEST_F(Assist, EnterEndsTheLineIfNothingWasChosen) {
     type("pets.");
     press(Qt::Key_Return);

@@ -117,7 +117,7 @@ TEST_F(BlockTyping, TypedEndsGetTheLevelOfTheirOpeningLine) {
     enter();
     EXPECT_EQ(
         now(),
-        "Sub a()\n    Select Case x\n    Case 1\n        beep\n    Case Else\n        |\n    End Select\nEnd Sub");
+        "Sub a()\n    Select Case x\n    Case 1\n        Beep\n    Case Else\n        |\n    End Select\nEnd Sub");
     edit("Sub a()\n  Do\n    |\nEnd Sub\n");
     type("loop until x");
     QTest::keyClick(editor_, Qt::Key_Down);

@@ -18,6 +18,9 @@ bool isNamePart(QChar character) { return character.isLetterOrNumber() || charac
 
 constexpr char kBetweenNames = '\n', kBeforeIcon = '\t';
 
+/// In names.
+constexpr int kLongList = 300;
+
 /// After these a chosen name is accepted, and they are inserted.
 constexpr const char* kAccepting = " .(),=+-*/&<>!:";
 
@@ -83,18 +86,26 @@ QByteArray NameOffers::partial() const {
 
 void NameOffers::show(bool completesSingle) {
     const auto begun = partial();
+    text_.SendScintilla(Sci::SCI_AUTOCSETFILLUPS, begun.isEmpty() ? "" : kAccepting);
+    if (staysShown(begun)) return;
+    shown_ = {begun.toStdString(), 0};
     QByteArray list;
     for (const auto& [name, kind] : offer_.names) {
-        if (!basic::startsWithNoCase(name, begun.toStdString())) continue;
+        if (!basic::startsWithNoCase(name, shown_.begun)) continue;
+        ++shown_.count;
         if (!list.isEmpty()) list += kBetweenNames;
         list.append(name.data(), qsizetype(name.size())).append(kBeforeIcon).append(QByteArray::number(int(kind)));
     }
     if (list.isEmpty()) return close();
     if (!isShown()) registerNameIcons(text_); // in the present theme
     text_.SendScintilla(Sci::SCI_AUTOCSETCHOOSESINGLE, (unsigned long)completesSingle);
-    text_.SendScintilla(Sci::SCI_AUTOCSETFILLUPS, begun.isEmpty() ? "" : kAccepting);
     text_.SendScintilla(Sci::SCI_AUTOCSHOW, (unsigned long)begun.size(), list.constData());
     colourList(text_);
+}
+
+/// The width of each row is measured when a list is shown, so a long list only scrolls, which Scintilla does itself.
+bool NameOffers::staysShown(const QByteArray& begun) const {
+    return isShown() && shown_.count > kLongList && basic::startsWithNoCase(begun.toStdString(), shown_.begun);
 }
 
 void NameOffers::acceptChosen() {

@@ -7,7 +7,8 @@ namespace workbench {
 
 class CodeInput;
 
-/// Shows the names that begin with what was typed, and again after each key, until one is accepted or none is left.
+/// Shows the names that begin with what was typed, and again after each key, until one is accepted or none is left. A long
+/// list stays as it is and scrolls to the first of them.
 class NameOffers final : public QObject {
 public:
     /// All of them outlive this.
@@ -27,12 +28,18 @@ public:
 private:
     bool ask(qltoolkit::Wanted wanted);
     void show(bool completesSingle = false);
+    bool staysShown(const QByteArray& begun) const;
     QByteArray partial() const;
 
     CodeInput& text_;
     ProjectInsight::Component component_;
     ProjectInsight& insight_;
     qltoolkit::Offer offer_;
+    /// The list that was shown last: the names that begin like this.
+    struct Shown {
+        std::string begun;
+        int count = 0;
+    } shown_;
 };
 
 } // namespace workbench

@@ -82,23 +82,33 @@ ProjectInsight::Known ProjectInsight::of(const Component& component) {
     prepare(component);
     auto& state = stateOf(project);
     if (!state.snapshot && workers_.waitForDone(kLongestWait)) QCoreApplication::sendPostedEvents(this);
-    if (!state.snapshot) return {};
-    return {state.snapshot.get(), state.snapshot->moduleOf(sourceName(*component))};
+    return present(component);
 }
 
-ProgramInput ProjectInsight::inputOf(const vbide::Ref<vbide::VBProject>& project) {
-    ProgramInput input{{}, {}, optionsOf(*project)};
-    for (const auto& component : project->VBComponents()->items())
-        if (auto source = sourceOf(component)) input.sources.push_back(std::move(source));
+ProjectInsight::Known ProjectInsight::present(const Component& component) {
+    const auto project = projectOf(component);
+    const auto state = project ? states_.find(project.shared()) : states_.end();
+    if (state == states_.end() || !state->second.snapshot) return {};
+    return {state->second.snapshot.get(), state->second.snapshot->moduleOf(sourceName(*component))};
+}
+
+ProjectInsight::Program ProjectInsight::programOf(const vbide::Ref<vbide::VBProject>& project) {
+    Program program{{{}, {}, optionsOf(*project)}, {}};
+    for (const auto& component : project->VBComponents()->items()) {
+        auto source = sourceOf(component);
+        if (!source) continue;
+        program.input.sources.push_back(std::move(source));
+        program.components.push_back(component);
+    }
     if (const auto own = basic::cast<host::Project>(project))
-        input.constants = qltoolkit::parseConditionalConstants(own->file().setting("CondComp").value_or(""));
-    return input;
+        program.input.constants = qltoolkit::parseConditionalConstants(own->file().setting("CondComp").value_or(""));
+    return program;
 }
 
 void ProjectInsight::begin(const vbide::Ref<vbide::VBProject>& project, State& state) {
     state.isStale = false;
     state.isRunning = true;
-    workers_.start([this, key = Key(project.shared()), input = inputOf(project)] {
+    workers_.start([this, key = Key(project.shared()), input = programOf(project).input] {
         auto made = std::make_shared<qltoolkit::Snapshot>(input.sources, input.constants, input.options);
         QMetaObject::invokeMethod(
             this, [this, key, made] { adopt(key, made); }, Qt::QueuedConnection);

@@ -12,13 +12,6 @@
 
 namespace workbench {
 
-/// What a snapshot is made of.
-struct ProgramInput {
-    qltoolkit::Snapshot::Sources sources;
-    qltoolkit::ConditionalConstants constants;
-    qltoolkit::ProgramOptions options;
-};
-
 /// Keeps a snapshot of each project in which something was asked. A snapshot is made in another thread, again when the user
 /// pauses after an edit; until then the last one answers.
 class ProjectInsight final : public QObject {
@@ -37,10 +30,18 @@ public:
 
     /// The last snapshot. If there is none, begins one and waits a moment for it.
     Known of(const Component& component);
+    /// The last snapshot, without waiting for one.
+    Known present(const Component& component);
     /// Begins a snapshot of the component's project if there is none.
     void prepare(const Component& component);
     /// The present sources of a project.
-    ProgramInput inputOf(const vbide::Ref<vbide::VBProject>& project);
+    struct Program {
+        qltoolkit::ProgramInput input;
+        std::vector<Component> components; ///< of each source
+    };
+    Program programOf(const vbide::Ref<vbide::VBProject>& project);
+    /// The threads in which snapshots are made.
+    QThreadPool& workers() { return workers_; }
     /// Raised when a new snapshot can be used.
     fernwick::Event<> renewed;
 

@@ -101,6 +101,9 @@ inline constexpr std::array kIconTable{
     IconDrawing{"QuickInfo", "AMBER R 1.5 4 13 8 ink R 1.5 4 13 8 M 4 7 L 12 7 M 4 9.5 L 9 9.5"},
     IconDrawing{"ParameterInfo",
                 "ink M 5 2 L 2.5 5 2.5 11 5 14 M 11 2 L 13.5 5 13.5 11 11 14 BLUE R 5 7 2.5 2.5 ink M 9 9.5 L 11 9.5"},
+    IconDrawing{"FindReferences", "BLUE R 1.5 1.5 6 4 ink R 1.5 1.5 6 4 M 4.5 5.5 L 4.5 13 8 13 M 4.5 9 L 8 9 "
+                                  "AMBER R 8.5 7 6 3.5 R 8.5 11.5 6 3.5"},
+    IconDrawing{"Rename", "ink R 1.5 5 13 6 blue M 4 3 L 8 3 M 6 3 L 6 13 M 4 13 L 8 13 GREEN R 9.5 7 3 2"},
     // ---- names in lists ----
     IconDrawing{"KeywordName", "blue T 1.5 -1 13 k"},
     IconDrawing{"VariableName", "BLUE R 2 5 12 6 ink R 2 5 12 6"},

@@ -11,6 +11,7 @@
 #include "Host/model/component.h"
 #include <QBoxLayout>
 #include <algorithm>
+#include <optional>
 
 namespace workbench {
 
@@ -78,8 +79,7 @@ CodeInput* CodeEditor::makePane() {
 }
 
 void CodeEditor::watchPane(CodeInput& pane) {
-    const auto namesAt = [this](int line) { return shared_.names.at(component_, line); };
-    typedLines_[&pane] = std::make_unique<TypedLine>(pane, namesAt);
+    typedLines_[&pane] = std::make_unique<TypedLine>(pane, [this](int line) { return namesAt(line); });
     typedLines_[&pane]->left = [this](int line) { lineLeft(line); };
     pane.lineEnds = [typed = typedLines_[&pane].get()] { typed->finish(); };
     connect(&pane, &QObject::destroyed, this, [this, gone = &pane] { typedLines_.erase(gone); });
@@ -90,6 +90,17 @@ void CodeEditor::watchPane(CodeInput& pane) {
         if (margin == kOwnMargin) marginClicked(line);
     });
     marks_.watch(pane);
+}
+
+/// The names of libraries are looked for once, and only if the project does not declare all names of the line.
+NameLookup CodeEditor::namesAt(int line) {
+    return [this, line, own = shared_.names.at(component_, line),
+            libraries = std::optional<Spellings>()](const QString& name, const QString& object) mutable {
+        const auto known = own(name, object);
+        if (!known.isEmpty()) return known;
+        if (!libraries) libraries = libraryNames(line);
+        return libraries->value(name.toLower());
+    };
 }
 
 void CodeEditor::showCursor() {

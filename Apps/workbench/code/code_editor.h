@@ -57,6 +57,8 @@ public:
     std::function<void(int)> marginClicked = [](int) {};
     /// Called with each line (from 0) that the user typed in and left.
     std::function<void(int)> lineLeft = [](int) {};
+    /// Returns the names of libraries in a line (from 0), as they are declared.
+    std::function<Spellings(int)> libraryNames = [](int) { return Spellings(); };
     /// What else the tool tip of a line's margin shows; "" for nothing.
     std::function<QString(int)> noteOf = [](int) { return QString(); };
     void showIn(const CodeLook& look);
@@ -83,6 +85,7 @@ public:
 private:
     CodeInput* makePane();
     void watchPane(CodeInput& pane);
+    NameLookup namesAt(int line);
     void watchText();
     void showCursor();
     void rested();

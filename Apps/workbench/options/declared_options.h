@@ -15,6 +15,8 @@ inline constexpr NumberOption kTabWidth{"code/tabWidth", 4, 1, 16};
 inline constexpr FlagOption kAutoIndent{"code/autoIndent", true};
 /// Whether Enter writes the end of the block that a line opens.
 inline constexpr FlagOption kAutomaticEnds{"code/automaticEnds", true};
+/// Whether the names of libraries are written as they are declared when a line is left.
+inline constexpr FlagOption kLibraryNames{"code/libraryNames", true};
 /// Whether lines are drawn between procedures.
 inline constexpr FlagOption kProcedureLines{"code/procedureLines", true};
 /// Whether procedures and blocks can be folded.

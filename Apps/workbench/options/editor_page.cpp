@@ -23,6 +23,7 @@ EditorPage::EditorPage()
     fields_.add("&Write the ends of blocks", kAutomaticEnds);
     fields_.add("&Procedure separators", kProcedureLines);
     fields_.add("Foldin&g of procedures and blocks", kFolding);
+    fields_.add("Names of li&braries in their own case", kLibraryNames);
     fields_.add("Auto list &members", kAutoListMembers);
     fields_.add("Auto &quick info", kAutoQuickInfo);
     fields_.add("Auto s&yntax check", kAutoSyntaxCheck);

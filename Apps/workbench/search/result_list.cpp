@@ -16,23 +16,20 @@ enum ResultColumn { kFilePart, kLinePart, kTextPart, kParts };
 
 class ResultList::Row final : public QTreeWidgetItem {
 public:
-    Row(Match match, const QString& file) : place(std::move(match.place)), text_(match.text.trimmed()) {
+    Row(Match match, const QString& file)
+        : place(std::move(match.place)), text_(match.text.trimmed()), isDeclaration_(match.isDeclaration) {
         setText(kFilePart, file);
         setText(kTextPart, text_);
         setTextAlignment(kLinePart, Qt::AlignRight | Qt::AlignVCenter);
         showLine();
+        if (isDeclaration_) look(false);
     }
     /// Finds the line again in the module's present text.
     void update(const QStringList& text) {
         const int line = lineOf({place.line, text_}, text);
         const bool isOutdated = line < 0;
         if (!isOutdated) place.line = line;
-        auto shown = font(kTextPart);
-        shown.setItalic(isOutdated);
-        for (int column = 0; column < kParts; ++column) {
-            setFont(column, shown);
-            setToolTip(column, isOutdated ? search_texts::kOutdated : QString());
-        }
+        look(isOutdated);
         setDisabledLook(isOutdated);
         showLine();
     }
@@ -40,6 +37,15 @@ public:
     CodePlace place;
 
 private:
+    void look(bool isOutdated) {
+        auto shown = font(kTextPart);
+        shown.setItalic(isOutdated);
+        shown.setBold(isDeclaration_);
+        for (int column = 0; column < kParts; ++column) {
+            setFont(column, shown);
+            setToolTip(column, isOutdated ? search_texts::kOutdated : isDeclaration_ ? search_texts::kDeclaration : "");
+        }
+    }
     void showLine() { setText(kLinePart, QString::number(place.line + 1)); }
     void setDisabledLook(bool on) {
         const auto faint = treeWidget()->palette().brush(QPalette::Disabled, QPalette::Text);
@@ -47,6 +53,7 @@ private:
     }
 
     QString text_;
+    bool isDeclaration_;
 };
 
 ResultList::ResultList(std::function<void(const CodePlace&)> show) : show_(std::move(show)) {

@@ -9,6 +9,8 @@
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
+#include <algorithm>
+#include <utility>
 
 namespace workbench {
 
@@ -56,42 +58,56 @@ SearchResults::SearchResults(host::Host& host, CodeWindows& code, Run run)
 }
 
 void SearchResults::search(const CodePattern& pattern, const QString& what, std::vector<Stretch> where) {
-    what_ = what;
-    list_->removeAll();
-    changed_.clear();
-    progress_->setRange(0, int(where.size()));
-    progress_->setValue(0);
-    progress_->show();
-    stop_->show();
-    summary_->setText(QString(search_texts::kSearching).arg(what_).arg(0));
+    begin({what, search_texts::kSearching, search_texts::kStopped}, [this] { run_.stop(); });
     run_.start(pattern, std::move(where));
 }
 
-void SearchResults::found(std::vector<Match> matches, int searched, int) {
+void SearchResults::begin(Summary summary, std::function<void()> stop) {
+    if (isSearching()) stopRun_();
+    texts_ = std::move(summary);
+    stopRun_ = std::move(stop);
+    list_->removeAll();
+    changed_.clear();
+    progress_->setRange(0, 1);
+    progress_->setValue(0);
+    progress_->show();
+    stop_->show();
+    showSummary(texts_.running);
+}
+
+void SearchResults::found(std::vector<Match> matches, int searched, int all) {
     const auto room = std::size_t(kMostLines - list_->count());
     const bool isFull = matches.size() > room;
     if (isFull) matches.resize(room);
     if (!matches.empty()) list_->add(std::move(matches));
+    progress_->setRange(0, std::max(all, 1));
     progress_->setValue(searched);
-    summary_->setText(QString(search_texts::kSearching).arg(what_).arg(list_->count()));
+    showSummary(texts_.running);
     if (!isFull) return;
-    run_.stop();
+    stopRun_();
     ended(search_texts::kTooMany);
 }
 
 void SearchResults::ended(const char* text) {
+    if (!std::exchange(stopRun_, nullptr)) return; // there were too many
     progress_->hide();
     stop_->hide();
-    auto summary = QString(text);
-    // a text to find may contain %2
+    showSummary(text);
+}
+
+/// A text to find may contain %2, and not all summaries have all numbers.
+void SearchResults::showSummary(const char* text) {
+    const auto summary = QString(text);
     const auto count = QString::number(list_->count()), modules = QString::number(list_->modules());
-    summary_->setText(summary.contains("%3") ? summary.arg(what_, count, modules) : summary.arg(what_, count));
+    summary_->setText(summary.contains("%3")   ? summary.arg(texts_.what, count, modules)
+                      : summary.contains("%2") ? summary.arg(texts_.what, count)
+                                               : summary.arg(texts_.what));
 }
 
 void SearchResults::stop() {
     if (!isSearching()) return;
-    run_.stop();
-    ended(search_texts::kStopped);
+    stopRun_();
+    ended(texts_.stopped);
 }
 
 void SearchResults::updateChanged() {

@@ -10,6 +10,7 @@ namespace workbench {
 struct Match {
     CodePlace place; ///< of the first match in the line
     QString text;
+    bool isDeclaration = false;
 };
 
 class SearchRun {

@@ -30,6 +30,8 @@ constexpr std::array kCommandIcons{
     CommandIcon{kCompleteWordId, "CompleteWord"},
     CommandIcon{kQuickInfoId, "QuickInfo"},
     CommandIcon{kParameterInfoId, "ParameterInfo"},
+    CommandIcon{kFindReferencesId, "FindReferences"},
+    CommandIcon{kRenameId, "Rename"},
     CommandIcon{kSelectAllId, "SelectAll"},
     CommandIcon{kDeleteId, "Delete"},
     CommandIcon{kDuplicateId, "Duplicate"},

@@ -151,6 +151,10 @@ const Command kCodeHelpCommands[] = {
     {kQuickInfoId, "&Quick Info", Qt::CTRL | Qt::Key_I, kInEditor, [](auto& on) { assistOf(textOf(on))->showInfo(); }},
     {kParameterInfoId, "&Parameter Info", Qt::CTRL | Qt::SHIFT | Qt::Key_I, kInEditor,
      [](auto& on) { assistOf(textOf(on))->showParameters(); }},
+    {kGroup},
+    {kFindReferencesId, "Find All &References", Qt::SHIFT | Qt::Key_F12, kInEditor,
+     [](auto& on) { on.program.findReferences(); }},
+    {kRenameId, "Ren&ame...", Qt::Key_F2, kInEditor, [](auto& on) { on.program.rename(); }},
 };
 
 const Command kFoldingCommands[] = {

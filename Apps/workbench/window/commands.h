@@ -133,6 +133,8 @@ enum CommandId : int {
     kCompleteWordId,
     kQuickInfoId,
     kParameterInfoId,
+    kFindReferencesId,
+    kRenameId,
 };
 
 /// The program's actions that commands call.
@@ -145,6 +147,9 @@ struct ProgramActions {
     /// Converts the active project to another device.
     std::function<void()> convert;
     std::function<void()> options;
+    /// For the name at the cursor.
+    std::function<void()> findReferences;
+    std::function<void()> rename;
     std::function<void()> help;
     std::function<void()> about;
 };

@@ -19,9 +19,9 @@ const std::vector<int> kOfProject{host::kSaveProjectId, kSaveProjectAsId, kGroup
                                   kAddFileId,           kGroup,           host::kRemoveProjectId};
 const std::vector<int> kOfGroup{kAddFormId, kAddModuleId, kAddClassId, kAddFileId};
 
-const std::vector<int> kOfEditor{kCutId,     kCopyId,    kPasteId,      kGroup,          kFindId,
-                                 kReplaceId, kGroup,     kDefinitionId, kLastPositionId, kGroup,
-                                 kIndentId,  kOutdentId, kCommentId,    kUncommentId};
+const std::vector<int> kOfEditor{
+    kCutId,          kCopyId,           kPasteId,  kGroup, kFindId,   kReplaceId, kGroup,     kDefinitionId,
+    kLastPositionId, kFindReferencesId, kRenameId, kGroup, kIndentId, kOutdentId, kCommentId, kUncommentId};
 
 const std::vector<int> kOfDesigner{kViewCodeId,     kGroup,         kCutId,     kCopyId,      kPasteId, kDeleteId,
                                    kGroup,          kAlignToGridId, kToFrontId, kToBackId,    kGroup,   kTabOrderId,

@@ -87,16 +87,20 @@ void MainWindow::buildCentre() {
 void MainWindow::connectSearch() {
     resultsDock_->hide();
     findBar_->list = [this](const CodePattern& pattern, const QString& what, std::vector<Stretch> where) {
-        resultsDock_->show();
-        resultsDock_->raise();
         results_->search(pattern, what, std::move(where));
-        results_->setFocus();
+        showResults();
     };
     findBar_->start = [this]() -> CodePlace {
         const auto active = host_.ActiveVBProject();
         if (!active || active->VBComponents()->Count() == 0) return {};
         return {active->VBComponents()->Item(1), 0, 0, 0};
     };
+}
+
+void MainWindow::showResults() {
+    resultsDock_->show();
+    resultsDock_->raise();
+    results_->setFocus();
 }
 
 void MainWindow::watchProjects() {

@@ -47,6 +47,8 @@ public:
     void setTheme(Theme theme);
     /// Shows what the user chose in the options.
     void optionsChanged();
+    /// Shows the dock of the search results and moves the focus there.
+    void showResults();
 
 protected:
     void closeEvent(QCloseEvent* event) override;

@@ -62,6 +62,8 @@ void Workbench::buildWindow() {
     insight_ = std::make_unique<ProjectInsight>(*host_, machine_.installation());
     assistEditors(window_->code(), *insight_,
                   [this](const QString& error) { window_->statusBar()->showMessage(error); });
+    names_ = std::make_unique<NameCommands>(*insight_, window_->code(), window_->results(),
+                                            [this] { window_->showResults(); });
     recent_ = std::make_unique<RecentProjects>(*host_, recentMenu(*host_), [this](const auto& path) { open(path); });
     unsaved_ = std::make_unique<UnsavedWork>(*host_, *window_, unsavedCallbacks());
     watchForms();
@@ -84,6 +86,7 @@ Workbench::~Workbench() {
     (void)basic::attempt([this] { host_->close(); });
     recent_.reset();
     unsaved_.reset();
+    names_.reset();
     windows_.detach();
     window_.reset();
     insight_.reset();
@@ -113,6 +116,8 @@ ProgramActions Workbench::programActions() {
     actions.start = [this] { startActive(); };
     actions.convert = [this] { convertActive(); };
     actions.options = [this] { editOptions(); };
+    actions.findReferences = [this] { names_->findReferences(); };
+    actions.rename = [this] { names_->rename(window_.get()); };
     actions.help = [this] { addIn().help.DisplayHelp(fernwick::kUsersGuideTopic); };
     actions.about = [this] { showAbout(window_.get()); };
     return actions;

@@ -7,6 +7,7 @@
 #include "Apps/workbench/bridge/qt_loop.h"
 #include "Apps/workbench/bridge/qt_user.h"
 #include "Apps/workbench/project/recent_projects.h"
+#include "Apps/workbench/renaming/name_commands.h"
 #include "Apps/workbench/unsaved/unsaved_work.h"
 #include "Apps/workbench/window/boxes.h"
 #include "Apps/workbench/window/commands.h"
@@ -65,6 +66,7 @@ private:
     fernwick::Connections connections_;
     std::shared_ptr<host::Host> host_;
     std::unique_ptr<ProjectInsight> insight_;
+    std::unique_ptr<NameCommands> names_;
     std::unique_ptr<MainWindow> window_;
     std::unique_ptr<RecentProjects> recent_;
     std::unique_ptr<UnsavedWork> unsaved_;
