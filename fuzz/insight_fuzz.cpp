@@ -1,4 +1,5 @@
 // For any text and position the queries of the editor end without an error. The first two bytes are the position.
+#include "Components/QLToolkit/insight/renaming.h"
 #include "tests/qltoolkit/insight_program.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -14,5 +15,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     (void)program.offer(marked);
     (void)program.call(marked);
     (void)program.info(marked);
+    const auto input = program.input();
+    const auto pos = (data[0] << 8U | data[1]) % (input.sources[0]->size() + 1);
+    const auto renaming = qltoolkit::renamingAt(input, 0, static_cast<qltoolkit::Pos>(pos));
+    if (renaming.refusal.empty()) (void)qltoolkit::refusalOf(input, renaming, "Other");
     return 0;
 }
