@@ -23,7 +23,9 @@ IS_ROOT = os.geteuid() == 0
 CAN_DROP_ROOT = not IS_ROOT or shutil.which("setpriv") is not None
 
 PROJECT = "HelloWorld/HelloWorld.vbp"
+IMAGE = "HelloWorld/HelloWorld.0000.qlx"
 PACKAGE = "HelloWorld/HelloWorld.PalmOS-DragonBall.qlpkg"
+PROGRAM = "HelloWorld/Program.vbp"
 DEVICE = ("--device", "PalmOS-DragonBall")
 TO = ("--to", "PocketPC-SH3")
 KEY = r"HKEY_CURRENT_USER\Software\Quinloft"
@@ -45,6 +47,11 @@ def damage_form(work):
 def damage_package(work):
     path = work / PACKAGE
     path.write_bytes(path.read_bytes()[:-100])
+
+
+def damage_image(work):
+    path = work / IMAGE
+    path.write_bytes(path.read_bytes()[:-1] + b"x")
 
 
 def damage_project(work):
@@ -103,6 +110,25 @@ def project_row():
         "interrupted": Cell(INTERRUPTED, PROJECT)}
 
 
+def add_program(work):
+    """A project that can run, of one module with a test."""
+    (work / PROGRAM).write_text('Type=Exe\nModule=TestIt; It.bas\nStartup="Sub Main"\n')
+    (work / "HelloWorld/It.bas").write_text('Attribute VB_Name = "TestIt"\nSub Main()\nDebug.Print 1\nEnd Sub\n'
+                                            "Public Sub TestMain()\nMain\nEnd Sub\n")
+
+
+def damage_program(work):
+    (work / "HelloWorld/It.bas").write_bytes(b"Sub x(\r\n")
+
+
+def program_row():
+    """A command that runs the code of a project."""
+    return {condition: Cell(cell.status, *(PROGRAM if part == PROJECT else part for part in cell.arguments))
+            for condition, cell in project_row().items()} | {
+        "errors": Cell(FAILED, PROGRAM, prepare=damage_program), "read-only": READS,
+        "unreadable file": Cell(MACHINE, PROGRAM, prepare=hide(PROGRAM))}
+
+
 NO_FILE = "takes no file"
 READS = "writes nothing"
 TABLE = {
@@ -122,8 +148,15 @@ TABLE = {
         "unreadable file": Cell(MACHINE, "HelloWorld/frmHello.frm", prepare=hide("HelloWorld/frmHello.frm"), data=True)},
     "info": project_row() | {
         "errors": Cell(FAILED, PROJECT, "--verify", prepare=remove_form, data=True), "read-only": READS},
+    "image": {
+        "good": Cell(GOOD, IMAGE), "errors": Cell(FAILED, IMAGE, prepare=damage_image),
+        "wrong use": Cell(MISUSED, IMAGE, "--code", "Nothing"), "missing file": Cell(MISUSED, "none.qlx"),
+        "folder": Cell(MISUSED, "folder.vbp"), "unreadable file": Cell(MACHINE, IMAGE, prepare=hide(IMAGE)),
+        "read-only": READS, "full disk": Cell(MACHINE, IMAGE), "interrupted": Cell(INTERRUPTED, IMAGE)},
     "messages": project_row() | {
         "errors": "stored errors are its data", "read-only": READS, "full disk": Cell(MACHINE, "broken/HelloWorld.vbp")},
+    "run": program_row(),
+    "test": program_row(),
     "clean": project_row() | {
         "errors": Cell(FAILED, PROJECT, prepare=damage_project), "read-only": Cell(MACHINE, PROJECT, prepare=lock(PROJECT))},
     "convert": {
@@ -276,6 +309,7 @@ class ExitStatus(unittest.TestCase):
         cls.addClassCleanup(cls.template.__exit__)
         work = cls.template.work
         cls.template.sample()
+        add_program(work)
         (work / "folder.vbp").mkdir()
         (work / "outside.txt").write_text("outside")
         (work / "HelloWorld/data.txt").write_text("data")
@@ -336,7 +370,7 @@ class ExitStatus(unittest.TestCase):
     def test_each_command_that_opens_a_project_takes_its_code_page(self):
         takers = [verb for verb in self.verbs
                   if "--code-page" in self.template.fernwick("help", verb, check=True).stdout]
-        self.assertEqual(takers, ["build", "validate", "clean", "init", "convert", "upgrade", "package", "deploy", "check", "info",
+        self.assertEqual(takers, ["build", "validate", "run", "test", "clean", "init", "convert", "upgrade", "package", "deploy", "check", "info",
                                   "messages", "settings", "dependencies", "steps"])
         for verb in takers:
             arguments = (PROJECT,) if verb == "check" else TABLE[verb]["good"].arguments
@@ -348,7 +382,7 @@ class ExitStatus(unittest.TestCase):
                 given = home.fernwick(verb, *arguments, "--code-page", "950", "-v")
                 self.assertEqual(given.returncode, GOOD, given.stderr)
                 if verb != "clean":  # reads only the name
-                    self.assertIn("HelloWorld.vbp: read in code page 950, given on the command line", given.stderr)
+                    self.assertRegex(given.stderr, r"(HelloWorld|Program)\.vbp: read in code page 950, given on the command line")
 
     def test_a_full_disk_leaves_all_files_as_they_are(self):
         for verb, *arguments in (("settings", "set", PROJECT, "DefaultFontSize", "9"),

@@ -97,6 +97,20 @@ class Schemas(unittest.TestCase):
         self.fits("registry", "registry", "get", key)
         self.fits("registry", "registry", "export", key)
 
+    def test_programs(self):
+        folder = self.home.work / "Program"
+        folder.mkdir()
+        (folder / "Program.vbp").write_text('Type=Exe\nModule=TestIt; It.bas\nStartup="Sub Main"\n')
+        (folder / "It.bas").write_text('Attribute VB_Name = "TestIt"\nPublic Sub TestGood()\nEnd Sub\nPublic Sub TestBad()\n'
+                                       "Main\nEnd Sub\nSub Main()\nDebug.Print 1\nError 5\nEnd Sub\n")
+        project = str(folder / "Program.vbp")
+        ran = self.fits("run", "run", project, "--leaks", "--profile", status=1)
+        self.assertEqual((ran["output"], ran["error"]["callers"][0]["line"]), (" 1 \n", 9))
+        self.assertTrue(self.fits("run", "run", project, "--budget", "1", "--seed", "7", status=3)["stopped"])
+        tested = self.fits("test", "test", project, status=1)
+        self.assertEqual([(one["name"], one["passed"]) for one in tested["tests"]], [("TestGood", True), ("TestBad", False)])
+        self.assertEqual(self.fits("test", "test", project, "--filter", "Good")["failures"], 0)
+
     def test_devices_and_doctor(self):
         self.fits("devices", "devices")
         self.home.fernwick("devices", "add", "PalmOS-DragonBall", "LinuxHandheld-ARM")
@@ -115,6 +129,11 @@ class Schemas(unittest.TestCase):
         built = self.fits("report", "build", str(group))["projects"]
         self.assertEqual([member["exitStatus"] for member in built], [0])
         image = str(self.project.parent / "HelloWorld.0000.qlx")
+        contents = self.fits("image", "image", image)
+        self.assertEqual((contents["image"], contents["project"]), (image, "HelloWorld"))
+        stored = self.fits("image", "image", str(ROOT / "fuzz/corpus/image_code/program.qlx"), "--code", "Main")
+        self.assertIn("CallNative", stored["procedures"][0]["code"])
+        self.assertNotIn("code", stored["procedures"][1])
         self.assertEqual(self.fits("clean", "clean", "--dry-run", str(group))["deleted"], [image])
         self.assertEqual(self.fits("clean", "clean", str(self.project))["deleted"], [image])
 
@@ -309,9 +328,9 @@ class Schemas(unittest.TestCase):
         # package-1 is the manifest, see test_packages
         self.assertEqual(sorted(p.stem for p in (ROOT / "installation/schemas").glob("*.json")),
                          ["build-plan-1", "clean-1", "convert-1", "dependencies-1", "devices-1", "doctor-1",
-                          "explain-1", "info-1", "init-1", "migration-1", "new-1", "package-1", "package-listing-1", "recent-1", "registry-1", "report-1",
+                          "explain-1", "image-1", "info-1", "init-1", "migration-1", "new-1", "package-1", "package-listing-1", "recent-1", "registry-1", "report-1", "run-1",
                           "settings-1", "settings-changes-1", "steps-1",
-                          "targets-1", "trust-1", "upgrade-1", "version-1"])
+                          "targets-1", "test-1", "trust-1", "upgrade-1", "version-1"])
 
 
 if __name__ == "__main__":

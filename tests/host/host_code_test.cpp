@@ -55,6 +55,29 @@ TEST(HostCode, EditsChangeOnlyTheirLines) {
     EXPECT_EQ(host.folder.read("modA.bas"), test::moduleText("modA", "a\r\nx\r\nB\nend\r\n"));
 }
 
+TEST(HostCode, AttributesFollowTheNameOfTheirMember) {
+    TestHost host;
+    const auto project = host.open(SampleProject().module(
+        "modA", "Private WithEvents o As Timer ' x\r\nAttribute o.VB_VarHelpID = -1\r\n"
+                "Public Function f( _\r\n  a)\r\nAttribute f.VB_Description = \"f.a\"\r\nAttribute f.VB_HelpID = 1\r\n"
+                "End Function\r\nProperty Get p()\r\nAttribute p.VB_UserMemId = 0\r\nEnd Property\r\n"
+                "Dim a, b\r\nAttribute a.VB_VarHelpID = -1\r\n"));
+    const auto component = project->VBComponents()->Item(1);
+    const auto code = component->CodeModule();
+    code->ReplaceLine(1, "Private WithEvents oven As Timer ' x");
+    code->ReplaceLine(2, ""); // an editor may write a line in two steps
+    code->ReplaceLine(2, "Public Function fn( _");
+    code->ReplaceLine(5, "Property Get pp()");
+    code->ReplaceLine(7, "Dim c, b");
+    component->SaveAs(component->FileNames(1));
+    EXPECT_EQ(host.folder.read("modA.bas"),
+              test::moduleText("modA", "Private WithEvents oven As Timer ' x\r\nAttribute oven.VB_VarHelpID = -1\r\n"
+                                       "Public Function fn( _\r\n  a)\r\nAttribute fn.VB_Description = \"f.a\"\r\n"
+                                       "Attribute fn.VB_HelpID = 1\r\nEnd Function\r\nProperty Get pp()\r\n"
+                                       "Attribute pp.VB_UserMemId = 0\r\nEnd Property\r\n"
+                                       "Dim c, b\r\nAttribute a.VB_VarHelpID = -1\r\n"));
+}
+
 TEST(HostCode, ListsTheDeclarationsOfAModule) {
     const auto outline = outlineOfText("Option Explicit\r\n"
                                        "Private a As Long, b(1 To 3, 2) As String, WithEvents c As Timer\r\n"

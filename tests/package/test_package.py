@@ -88,7 +88,7 @@ class Contents(unittest.TestCase):
     def test_copyright_describes_every_library(self):
         text = (self.tree / "usr/share/doc/fernwick/copyright").read_text(encoding="utf-8")
         described = set(re.findall(r"^  \* ([\w+ -]+?)(?::| \()", text, re.M))
-        names = {"libQt6": "Qt 6", "libqscintilla2": "QScintilla", "libfmt": "fmt", "libicu": "ICU", "libzip": "libzip",
+        names = {"libQt6": "Qt 6", "libqscintilla2": "QScintilla", "libfmt": "fmt", "libzip": "libzip",
                  "libz.": "zlib", "libssh": "libssh", "libfontconfig": "fontconfig",
                  **dict.fromkeys(("libc.", "libm.", "libstdc++", "libgcc_s"), "the C library")}
         linked = set()

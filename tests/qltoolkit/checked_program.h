@@ -51,6 +51,9 @@ public:
         return found;
     }
 
+    /// Its code, which begins at Sub Main.
+    qltoolkit::CompiledProject compiled() { return qltoolkit::compileProject(texts(), {}, options, "Main", 1252); }
+
     /// The first message as "file:line:column number" with the line of the file, or "".
     std::string firstPlace() {
         for (const auto& result : results())
@@ -60,17 +63,19 @@ public:
         return {};
     }
 
-    std::vector<qltoolkit::CheckResult> results() {
-        std::vector<const qltoolkit::SourceText*> all;
-        for (const auto& source : sources_) all.push_back(source.get());
-        return qltoolkit::checkProject(all, {}, options);
-    }
+    std::vector<qltoolkit::CheckResult> results() { return qltoolkit::checkProject(texts(), {}, options); }
 
     qltoolkit::ProgramOptions options;
     std::string controls; ///< of the forms that follow
     basic::CodePage page = basic::CodePage::windows1252();
 
 private:
+    [[nodiscard]] std::vector<const qltoolkit::SourceText*> texts() const {
+        std::vector<const qltoolkit::SourceText*> all;
+        for (const auto& source : sources_) all.push_back(source.get());
+        return all;
+    }
+
     static std::string place(const qltoolkit::SourceText& source, const qltoolkit::Diagnostic& each, bool withFile) {
         const auto line = each.line == 0 ? 0 : each.line - source.codeBegin() + 1;
         return (withFile ? source.name() + ":" : "") + std::to_string(line) + ":" + std::to_string(each.column) + " " +

@@ -89,7 +89,7 @@ std::string reasonFor(const std::function<void(std::string& bytes)>& change) {
 
 TEST(Image, BeginsWithTheDocumentedHeader) {
     const auto bytes = encode(tipCalculator());
-    EXPECT_EQ(bytes.substr(0, 8), std::string("QLX\x1A\1\0\0\0", 8)); // version 1.0
+    EXPECT_EQ(bytes.substr(0, 8), std::string("QLX\x1A\2\0\0\0", 8)); // version 2.0
     EXPECT_EQ(u32At(bytes, 8), bytes.size());
     EXPECT_EQ(u32At(bytes, 16), 4u);
     for (const auto* name : {"PROJ", "FORM", "MODS", "STRS"}) EXPECT_LT(entryOf(bytes, name), 20u + 4 * 12) << name;
@@ -120,7 +120,7 @@ TEST(Image, NamesTheReasonForRefusingIt) {
                   bytes += 'x';
               }),
               "the string table is too long.");
-    EXPECT_EQ(reasonFor([](std::string& bytes) { bytes[4] = 2; }), "its format is version 2.");
+    EXPECT_EQ(reasonFor([](std::string& bytes) { bytes[4] = 1; }), "its format is version 1.");
     EXPECT_EQ(reasonFor([](std::string& bytes) { bytes[0] = 'X'; }), "it is not a compiled application.");
 }
 

@@ -53,6 +53,7 @@ public:
                                     cursor_ - around.begin);
     }
 
+    qltoolkit::ProgramInput input() const { return {sources_, {}, options}; }
     qltoolkit::Snapshot& snapshot() {
         if (!snapshot_)
             snapshot_ = std::make_unique<qltoolkit::Snapshot>(sources_, qltoolkit::ConditionalConstants{}, options);

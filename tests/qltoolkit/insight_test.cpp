@@ -1,4 +1,6 @@
 // Completion, parameter help and quick info.
+#include "Components/Language/foreign.h"
+#include "Components/QLToolkit/insight/library_names.h"
 #include "Components/QLToolkit/insight/line_check.h"
 #include "tests/qltoolkit/insight_program.h"
 #include <gtest/gtest.h>
@@ -250,6 +252,53 @@ TEST(StatementCheck, LeavesBlocksToTheirOtherLines) {
     for (const auto* text : {"Sub f()", "Private Type Point", "Public Enum E", "  X As Long", "Apple = 1", "End Type",
                              "Private x As Long", "", "Event Changed(x As Long)"})
         EXPECT_FALSE(qltoolkit::errorOfStatement(text, false)) << text;
+}
+
+// ---- libraries ------------------------------------------------------------------------------------------------------
+
+TEST(SharedLibraries, AreMadeOnceAndHaveTheirNumbersInEachSnapshot) {
+    InsightProgram one, other;
+    one.add("Module1.bas", "Public Apples As Collection\n");
+    other.add("Module1.bas", "Public Pears As Collection\nPublic Apples As Long\n");
+    EXPECT_EQ(one.snapshot().program().libraries, other.snapshot().program().libraries);
+    EXPECT_EQ(one.info("Sub Go()\n  App|les.Add 1\nEnd Sub\n"), "Public Apples As Collection");
+    EXPECT_EQ(other.info("Sub Go()\n  App|les = 1\nEnd Sub\n"), "Public Apples As Long");
+    EXPECT_EQ(other.names("Sub Go()\n  Pears.|\nEnd Sub\n"), "Add Count Item Remove");
+}
+
+TEST(SharedLibraries, AreNotChangedByTheLibrariesOfAProject) {
+    InsightProgram with, without;
+    with.options.libraries.push_back(language::foreignLibrary("Scripting"));
+    with.add("Module1.bas", "Public c As Scripting.Dictionary\n");
+    without.add("Module1.bas", "Public c As Scripting.Dictionary\n");
+    EXPECT_EQ(with.snapshot().errors(), 0U);
+    EXPECT_EQ(without.snapshot().errors(), 1U);
+    EXPECT_TRUE(with.offers("Sub Go()\n  c.|\nEnd Sub\n", "Exists"));
+}
+
+// ---- names of libraries ---------------------------------------------------------------------------------------------
+
+struct LibraryNamesOfLines : Completion {
+    /// The names in the lines from the |.
+    std::string in(std::string text) {
+        const auto begin = text.find('|');
+        text.erase(begin, 1);
+        std::string found;
+        for (const auto& name : qltoolkit::libraryNamesIn(program.snapshot(), 0, text, begin, text.size()))
+            found += (found.empty() ? "" : " ") + name;
+        return found;
+    }
+};
+
+TEST_F(LibraryNamesOfLines, AreThoseOfTheLineAsTheyAreDeclared) {
+    EXPECT_EQ(in("Sub Go()\n  beep\n|  msgbox left$(app.path, VBYES) & Total ' trim\nEnd Sub\n"),
+              "MsgBox Left App Path vbYes");
+    EXPECT_EQ(in("Sub Go()\n  Dim left As Long\n|  left = 1\nEnd Sub\n"), "");
+}
+
+TEST_F(LibraryNamesOfLines, AreKnownInDeclarationsToo) {
+    EXPECT_EQ(in("|Private c As COLLECTION, n(vbyes) As vbmsgboxstyle"), "Collection vbYes VbMsgBoxStyle");
+    EXPECT_EQ(in("|Private Total As Fruit"), "");
 }
 
 } // namespace

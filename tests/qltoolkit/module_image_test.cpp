@@ -1,6 +1,6 @@
 // What the compiled application keeps of a module.
 #include "Components/QLToolkit/module_image.h"
-#include "Components/QLToolkit/names/module_name.h"
+#include "Components/QLToolkit/parser/module_name.h"
 #include "Components/QLToolkit/parser/tree_walk.h"
 #include "tests/qltoolkit/ast_dump.h"
 #include <gmock/gmock.h>
