@@ -59,7 +59,7 @@ bool ProjectCompiler::compile() {
     auto sources = parseSources(symbols);
     const auto libraries = findLibraries();
     for (const auto& library : libraries) image.libraries.push_back(services_.files.GetFileName(library.path));
-    if (errors_ == 0) image.code = checkNames(sources, symbols, libraries);
+    image.code = checkNames(sources, symbols, libraries);
     for (auto& source : sources) addModule(image, source, symbols);
     checkModules(image);
     if (errors_ > 0) return false;
@@ -133,19 +133,21 @@ image::CodeImage ProjectCompiler::checkNames(const std::vector<Source>& sources,
             options.libraries.push_back(described);
     const auto named = std::count_if(input_.files.begin(), input_.files.end(),
                                      [](const BuildFile& file) { return file.kind != SourceFile; });
+    options.lacksFiles = errors_ > 0;
     options.isIncomplete = options.libraries.size() < static_cast<std::size_t>(named);
     options.warnsOfDevices = true;
     options.threads = std::max(1U, std::thread::hardware_concurrency());
 
     CodeGenerator generator;
     image::CodeImage code;
+    const bool wantsCode = errors_ == 0 && makesCode(sources);
     const auto finish = [&](const ProgramMessages& found) {
         for (const auto& messages : found)
             for (const auto& diagnostic : messages) report(diagnostic);
-        if (errors_ > 0 || !makesCode(sources)) return;
-        code = generator.link(input_.startup == kSubMain ? "Main" : "", codePageOf(sources));
+        if (wantsCode && errors_ == 0)
+            code = generator.link(input_.startup == kSubMain ? "Main" : "", codePageOf(sources));
     };
-    checkProgram(modules, symbols, options, finish, makesCode(sources) ? &generator : nullptr);
+    checkProgram(modules, symbols, options, finish, wantsCode ? &generator : nullptr);
     return code;
 }
 

@@ -130,6 +130,16 @@ TEST_F(CompilerComponent, TakesTheCodePageFromASourceThatIsNotUtf8) {
     EXPECT_EQ(image::decode(folder_.read("Tips.0000.qlx")).code.codePage, 1250u);
 }
 
+TEST_F(CompilerComponent, ChecksTheNamesBesideAFaultyFile) {
+    add("modBad.bas", "Attribute VB_Name = \"modBad\"\r\nFunction Half(n)\r\n  n = n +\r\nEnd Function\r\n");
+    add("modMain.bas", "Attribute VB_Name = \"modMain\"\r\nOption Explicit\r\nSub Main()\r\n"
+                       "  Debug.Print Half(2)\r\n  GoTo Nowhere\r\nEnd Sub\r\n");
+    EXPECT_FALSE(compiler_->Build());
+    ASSERT_EQ(errors_.size(), 2u);
+    EXPECT_TRUE(errors_[0].starts_with("modBad.bas:")) << errors_[0];
+    EXPECT_EQ(errors_[1], "modMain.bas:5 2006");
+}
+
 TEST_F(CompilerComponent, WritesAnImageAndReportsProgress) {
     add("frmTip.frm", kForm);
     add("modMain.bas", kModule);
