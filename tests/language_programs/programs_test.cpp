@@ -3,7 +3,7 @@
 #include "Components/Image/verify/verify.h"
 #include "Components/QLToolkit/check.h"
 #include "Components/Tamarik/functions/standard_natives.h"
-#include "Components/Tamarik/vm/machine.h"
+#include "Components/Tamarik/vm/run_without_window.h"
 #include "tests/language_programs/program_case.h"
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -56,7 +56,7 @@ std::string outputOf(const std::shared_ptr<const tamarik::Program>& program, con
     options.output.print = options.output.error = [&](std::string_view text) { printed += text; };
     tamarik::Machine machine(program, tamarik::standardNatives(), options);
     machine.start();
-    const auto state = machine.run(kBudget);
+    const auto state = tamarik::runWithoutWindow(machine, kBudget);
     if (!printed.empty() && !printed.ends_with('\n')) printed += '\n';
     return printed + ending(machine, state, files);
 }

@@ -3,6 +3,7 @@
 #include "Apps/fernwick/options/refusal.h"
 #include "Apps/fernwick/run/interruption.h"
 #include "Components/Tamarik/functions/standard_natives.h"
+#include "Components/Tamarik/vm/run_without_window.h"
 #include <algorithm>
 #include <limits>
 
@@ -13,7 +14,7 @@ tamarik::RunState runProgram(tamarik::Machine& machine, const RunLimits& limits,
     auto left = limits.budget.value_or(std::numeric_limits<std::int64_t>::max());
     for (;;) {
         const auto slice = std::min(left, limits.slice);
-        const auto state = machine.run(slice);
+        const auto state = tamarik::runWithoutWindow(machine, slice);
         checkInterrupt();
         left -= slice;
         if (state != tamarik::RunState::StoppedByBudget || !continues() || left <= 0) return state;

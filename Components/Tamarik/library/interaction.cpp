@@ -1,4 +1,4 @@
-// What a program asks its user and its surroundings. Without a window, questions go to the error output and the input.
+// What a program asks its user and its surroundings.
 #include "Components/Tamarik/library/library_function.h"
 #include "Components/Tamarik/library/library_natives.h"
 #include "Components/Tamarik/values/encoding.h"
@@ -8,12 +8,6 @@
 namespace tamarik {
 
 namespace {
-
-void showQuestion(Session& session, const Variant& prompt, const Variant& title) {
-    std::string shown = title.isMissing() ? std::string() : utf8Of(session, title) + ": ";
-    shown += utf8Of(session, prompt) + "\n";
-    if (session.output.error) session.output.error(shown);
-}
 
 /// The number of the button that Enter chooses.
 std::int32_t defaultButton(std::int32_t style) {
@@ -26,25 +20,34 @@ std::int32_t defaultButton(std::int32_t style) {
     return chosen < buttons.size() && buttons[chosen] != 0 ? buttons[chosen] : buttons[0];
 }
 
+/// Of an optional argument.
+std::string givenText(Session& session, const Variant& given) {
+    return given.isMissing() ? std::string() : utf8Of(session, given);
+}
+
 std::int32_t msgBox(Session& session, const Variant& prompt, std::int32_t buttons, const Variant& title, const Variant&,
                     const Variant&) {
     const std::int32_t button = defaultButton(buttons);
-    showQuestion(session, prompt, title);
-    return button;
+    session.wait = {{Wait::Kind::Message, utf8Of(session, prompt), givenText(session, title), {}, buttons, button},
+                    [](Session&, const Answer& answer, Slot& result) { result.number = answer.button; }};
+    return 0;
 }
 
-/// The end of the input is the Cancel button; an empty line takes the default.
 TextBlock* inputBox(Session& session, const Variant& prompt, const Variant& title, const Variant& usual, const Variant&,
                     const Variant&, const Variant&, const Variant&) {
-    const HeldText byDefault(session, usual.isMissing() ? nullptr : textIn(session, usual));
-    showQuestion(session, prompt, title);
-    std::string line;
-    if (!session.output.inputLine || !session.output.inputLine(line)) return nullptr;
-    return line.empty() ? retain(static_cast<TextBlock*>(byDefault)) : madeOfUtf8(session, line);
+    session.wait = {{Wait::Kind::Input, utf8Of(session, prompt), givenText(session, title), givenText(session, usual)},
+                    [](Session& s, const Answer& answer, Slot& result) {
+                        if (answer.text) result.text = madeOfUtf8(s, *answer.text);
+                    }};
+    return nullptr;
 }
 
 void beep(Session&) {}
-std::int32_t doEvents(Session&) { return 0; }
+
+std::int32_t doEvents(Session& session) {
+    session.wait = {{}, [](Session&, const Answer&, Slot&) {}};
+    return 0;
+}
 
 TextBlock* commandLine(Session& session) { return madeOfUtf8(session, session.surroundings.commandLine); }
 

@@ -17,6 +17,8 @@
 
 namespace tamarik {
 
+class WaitTask;
+
 /// What the call at an instruction found the last time.
 struct CallSite {
     const std::uint32_t* ip = nullptr;
@@ -63,6 +65,7 @@ struct Execution {
     Connections connections;
     std::array<CallSite, kCallSites> callSites;
     std::unordered_map<std::uint64_t, const image::ClassMember*> memberCache; ///< by class, name and use
+    WaitTask* waiting = nullptr;      ///< what the host has to answer, while the state is Waiting
     std::vector<std::uint32_t> toRun; ///< procedures that the host wants run, the next one last
 
     [[nodiscard]] RareFrame& rare(Frame& of);
@@ -78,6 +81,8 @@ struct Execution {
     void passArguments(Slot* target, const std::uint32_t* words, std::uint32_t count,
                        std::span<const ManagedSlot> managed);
     void callNative(const std::uint32_t* ip);
+    /// Makes a frame that waits, for a function that asked for it.
+    void beginWait(const std::uint32_t* ip);
     /// Gives the result of the task on top to the frame below: a task, or the slot that the instruction named.
     void deliver(const Variant& result);
     void returnSlowly();

@@ -68,7 +68,7 @@ bool Execution::settleOnce() {
             // The task left its result in the caller's slots.
             leaveTop();
         }
-        return false;
+        return state != RunState::Running;
     }
     if (top->kind != FrameKind::Entry) return true;
     if (toRun.empty()) return finishNormally();
