@@ -245,7 +245,7 @@ private:
     PassedArgument omitted(const ParameterInfo& parameter);
     PassedArgument paramArray(const Span<Argument>& given, std::uint32_t first, std::int32_t base);
     PassedArgument copied(const Place& variable, const Value& value, const ParameterInfo& parameter);
-    PassedArgument passArray(const Expr& given);
+    PassedArgument passArray(const Expr& given, const Type& type);
     std::uint16_t passed(const Value& value);
     std::uint16_t passed(const Value& value, image::SlotType type);
     PassedArgument lateArgument(const Expr& given, bool isOfLibrary);

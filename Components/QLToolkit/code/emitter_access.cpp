@@ -175,6 +175,7 @@ void Emitter::store(const Place& place, const Value& value) {
 /// Whether a reference to the place can be passed.
 bool Emitter::isAddressable(const Place& place) const {
     if (place.type.value == ValueType::Byte && place.kind == PlaceKind::Element) return false;
+    if (place.withEvents && place.kind == PlaceKind::Field) return false; // an assignment connects its events
     return place.kind <= PlaceKind::Element && !place.isTemporary;
 }
 
