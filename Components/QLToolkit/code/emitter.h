@@ -166,6 +166,7 @@ private:
     void store(const Place& place, const Value& value);
     bool isAddressable(const Place& place) const;
     Value reference(const Place& place);
+    Value recordOf(const Expr& expr);
     Value referenceAt(const Place& element);
     Value array(const Place& place);
 

@@ -205,6 +205,13 @@ Value Emitter::reference(const Place& place) {
     return result;
 }
 
+/// A reference to the record that an expression names or returns.
+Value Emitter::recordOf(const Expr& expr) {
+    const Place found = place(expr);
+    const bool isReturned = found.kind == PlaceKind::Property;
+    return reference(isReturned ? resultPlace(load(found)) : found);
+}
+
 Value Emitter::referenceAt(const Place& element) {
     const Value result{element.type, slots_.temporary(layout_.referenceTo(element.type))};
     out_.emit(element.isFlat ? Op::RefFlat : Op::RefAt, result.slot, element.slot, element.index);

@@ -86,6 +86,9 @@ PassedArgument Emitter::argument(const Expr* given, const ParameterInfo& paramet
 }
 
 PassedArgument Emitter::referenceArgument(const Expr& given, const ParameterInfo& parameter) {
+    if (parameter.type.value == ValueType::Record && typeOfExpr(given).value == ValueType::Record) {
+        return {passed(recordOf(given), layout_.referenceTo(parameter.type)), {}, {}};
+    }
     const Operand& note = noteOf(given);
     const bool isVariable =
         given.note != 0 && note.kind == OperandKind::Variable &&
@@ -101,9 +104,6 @@ PassedArgument Emitter::referenceArgument(const Expr& given, const ParameterInfo
         return made;
     }
     const Place variable = place(given);
-    if (variable.type.value == ValueType::Record && parameter.type.value == ValueType::Record) {
-        return {passed({variable.type, reference(variable).slot}, layout_.referenceTo(variable.type)), {}, {}};
-    }
     if (isAddressable(variable) && isSameVariable(variable.type, parameter.type) && !variable.isNew) {
         if (variable.kind == PlaceKind::Slot) return {passedAddress(variable.slot), {}, {}};
         const Value ref = reference(variable);
