@@ -166,6 +166,7 @@ private:
     void store(const Place& place, const Value& value);
     bool isAddressable(const Place& place) const;
     Value reference(const Place& place);
+    Value recordOf(const Expr& expr);
     Value referenceAt(const Place& element);
     Value array(const Place& place);
 
@@ -245,7 +246,7 @@ private:
     PassedArgument omitted(const ParameterInfo& parameter);
     PassedArgument paramArray(const Span<Argument>& given, std::uint32_t first, std::int32_t base);
     PassedArgument copied(const Place& variable, const Value& value, const ParameterInfo& parameter);
-    PassedArgument passArray(const Expr& given);
+    PassedArgument passArray(const Expr& given, const Type& type);
     std::uint16_t passed(const Value& value);
     std::uint16_t passed(const Value& value, image::SlotType type);
     PassedArgument lateArgument(const Expr& given, bool isOfLibrary);

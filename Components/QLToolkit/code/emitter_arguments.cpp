@@ -70,7 +70,7 @@ void Emitter::arguments(const Callable& callable, const Span<Argument>& given, s
 }
 
 PassedArgument Emitter::argument(const Expr* given, const ParameterInfo& parameter, bool byVal) {
-    if (parameter.type.isArray) return passArray(*given);
+    if (parameter.type.isArray) return passArray(*given, parameter.type);
     if (!parameter.byVal && !byVal) return referenceArgument(*given, parameter);
     const auto slot = temporary(parameter.type);
     const Type natural = typeOfExpr(*given);
@@ -86,6 +86,9 @@ PassedArgument Emitter::argument(const Expr* given, const ParameterInfo& paramet
 }
 
 PassedArgument Emitter::referenceArgument(const Expr& given, const ParameterInfo& parameter) {
+    if (parameter.type.value == ValueType::Record && typeOfExpr(given).value == ValueType::Record) {
+        return {passed(recordOf(given), layout_.referenceTo(parameter.type)), {}, {}};
+    }
     const Operand& note = noteOf(given);
     const bool isVariable =
         given.note != 0 && note.kind == OperandKind::Variable &&
@@ -101,9 +104,6 @@ PassedArgument Emitter::referenceArgument(const Expr& given, const ParameterInfo
         return made;
     }
     const Place variable = place(given);
-    if (variable.type.value == ValueType::Record && parameter.type.value == ValueType::Record) {
-        return {passed({variable.type, reference(variable).slot}, layout_.referenceTo(variable.type)), {}, {}};
-    }
     if (isAddressable(variable) && isSameVariable(variable.type, parameter.type) && !variable.isNew) {
         if (variable.kind == PlaceKind::Slot) return {passedAddress(variable.slot), {}, {}};
         const Value ref = reference(variable);
@@ -129,13 +129,12 @@ PassedArgument Emitter::copied(const Place& variable, const Value& value, const 
     return {passedAddress(slot), variable, {parameter.type, slot}};
 }
 
-PassedArgument Emitter::passArray(const Expr& given) {
+PassedArgument Emitter::passArray(const Expr& given, const Type& type) {
     const Place variable = place(given);
-    if (!variable.type.isArray) { // a Variant that holds an array
-        const Type type = variable.type;
+    if (!variable.type.isArray) { // a Variant that may hold such an array, as StrConv returns it
         const Value held = toVariant(load(variable), {});
-        const Value array{{type.value, true}, temporary({ValueType::Variant, true})};
-        out_.emit(Op::ShareVariantArray, array.slot, held.slot);
+        const Value array{type, temporary(type)};
+        out_.emit(Op::VariantToArray, array.slot, held.slot);
         return {passedAddress(array.slot), {}, {}};
     }
     if (variable.kind == PlaceKind::Slot) return {passedAddress(variable.slot), {}, {}};
@@ -203,7 +202,7 @@ void Emitter::storeBack(const std::vector<PassedArgument>& list) {
     for (const auto& each : list) {
         if (!each.storedTo) continue;
         const Place& variable = *each.storedTo;
-        if (variable.type.value == ValueType::Object)
+        if (variable.type.value == ValueType::Object && !variable.type.isArray)
             setObject(variable, each.temporary);
         else
             assignValue(variable, {each.temporary.type, each.temporary.slot, false});

@@ -56,7 +56,10 @@ Value Emitter::call(const Callable& callable, const Span<Argument>& given, const
     const bool isRecord = hasResult && callable.result.value == ValueType::Record && !callable.result.isArray;
     if (isRecord) result = resultRecord(callable.result, list);
     arguments(callable, given, list);
-    if (assigned) {
+    const bool isRecordAssigned = assigned && callable.result.value == ValueType::Record && !callable.result.isArray;
+    if (isRecordAssigned) {
+        list.push_back({passed(*assigned, layout_.referenceTo(callable.result)), {}, {}});
+    } else if (assigned) {
         const Type type = callable.result;
         const bool isObject = type.value == ValueType::Object;
         const ParameterInfo last = callable.body ? lastParameter(*callable.body, type) : ParameterInfo{};

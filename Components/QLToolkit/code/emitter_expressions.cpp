@@ -194,7 +194,8 @@ Value Emitter::variantOf(const Expr& expr) { return toVariant(value(expr), {}); 
 Value Emitter::fail(int error, const Type& type) {
     const auto number = longConstant(error, {});
     out_.emit(Op::RaiseError, number.slot);
-    const Type known = type.value == ValueType::Unknown || type.value == ValueType::None ? Type{} : type;
+    const bool isKnown = type.value != ValueType::Unknown && type.value != ValueType::None;
+    const Type known = isKnown ? type : Type{ValueType::Variant, type.isArray};
     return {known, temporary(known)};
 }
 
