@@ -68,8 +68,10 @@ void CodeCheck::checkNumber(const Place& place) const {
 void CodeCheck::checkBaseType(const Place& place) const {
     const auto& operands = place.info().operands;
     const bool isWhole = operands[0] == Operand::WriteLong || operands[1] == Operand::ReadLong;
-    const auto kind = static_cast<BaseType>(place.word.c);
-    if (place.word.c >= kBaseTypes || !(isWhole ? isWholeKind(kind) : isFloatKind(kind)))
+    const bool mayTakeErrors = place.op() == Op::VariantToLong || place.op() == Op::VariantToFloat;
+    const auto number = mayTakeErrors ? place.word.c & ~kTakesErrors : std::uint32_t{place.word.c};
+    const auto kind = static_cast<BaseType>(number);
+    if (number >= kBaseTypes || !(isWhole ? isWholeKind(kind) : isFloatKind(kind)))
         refuseHere("has " + std::to_string(place.word.c) + " as the type in operand C");
 }
 

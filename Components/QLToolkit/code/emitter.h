@@ -215,6 +215,7 @@ private:
     Value narrow(const Value& value, ValueType to, std::optional<std::uint32_t> target);
     Value moved(const Value& value, std::uint32_t slot);
     void holdsNoObject(std::uint32_t temporary);
+    std::optional<Value> explicitConversion(const Expr& expr, ValueType to);
     Value variantOf(const Expr& expr);
 
     // Calls

@@ -113,7 +113,7 @@ std::optional<Value> Emitter::intrinsic(std::string_view name, const Span<Argume
     if (is("LBound") || is("UBound")) return boundOf(given, is("UBound"));
     if (given.size() != 1) return std::nullopt;
     for (const auto& conversion : kConversions)
-        if (is(conversion.name)) return value(first, {conversion.type});
+        if (is(conversion.name)) return explicitConversion(first, conversion.type);
     if (is("Len")) return lengthOf(first);
     const Type type = typeOfExpr(first);
     if (type.isArray) return std::nullopt;

@@ -42,7 +42,10 @@ void arrayToVariant(Execution& m, std::uint32_t target, std::uint32_t source) {
 }
 
 void variantToArray(Execution& m, std::uint32_t target, std::uint32_t source) {
-    const ArrayBlock* const array = requireArray(variantAt(m.frame->base + source));
+    const Variant& v = variantAt(m.frame->base + source);
+    // An array of Bytes takes the bytes of a text.
+    if (v.kind == kString) return bytesOfText(m, target, v.text);
+    const ArrayBlock* const array = requireArray(v);
     if (array) requireSameElements(*array, m.frame->procedure->types[target]);
     assignArray(m, target, array);
 }
