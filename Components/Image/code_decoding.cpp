@@ -83,10 +83,21 @@ void decodeTypes(CodeReader r, CodeImage& code) {
     r.end();
 }
 
+void readParameter(CodeReader& r, MemberParameter& parameter) {
+    parameter.name = r.number();
+    parameter.type = r.base();
+    const auto isOptional = r.in.u8();
+    if (isOptional > 1) imageIsDamaged("an unknown kind");
+    parameter.isOptional = isOptional != 0;
+    parameter.byDefault.type = r.base();
+    if (parameter.byDefault.type == BaseType::None) return;
+    const std::uint64_t low = r.number();
+    parameter.byDefault.bits = low | std::uint64_t{r.number()} << 32;
+}
+
 void readMember(CodeReader& r, ClassMember& member) {
     member.name = r.number();
     member.target = r.number();
-    member.optional = r.number();
     const auto use = r.in.u8(), flags = r.in.u8();
     if (use > std::uint8_t(MemberUse::Field) || flags > (kPublicFlag | kParamArrayFlag))
         imageIsDamaged("an unknown kind");
@@ -94,7 +105,7 @@ void readMember(CodeReader& r, ClassMember& member) {
     member.isPublic = (flags & kPublicFlag) != 0;
     member.hasParamArray = (flags & kParamArrayFlag) != 0;
     member.result = r.base();
-    r.list(member.parameters, 1, [&](BaseType& type) { type = r.base(); });
+    r.list(member.parameters, 7, [&](MemberParameter& parameter) { readParameter(r, parameter); });
 }
 
 void readSink(CodeReader& r, EventSink& sink) {
@@ -112,7 +123,7 @@ void decodeClasses(CodeReader r, CodeImage& code) {
                             &each.defaultMember, &each.enumerator, &each.predeclared})
             *value = r.number();
         r.variables(each.fields);
-        r.list(each.members, 19, [&](ClassMember& member) { readMember(r, member); });
+        r.list(each.members, 15, [&](ClassMember& member) { readMember(r, member); });
         r.list(each.implementations, 2 * kWord, [&](Implementation& implementation) {
             implementation.interface = r.number();
             r.numbers(implementation.procedures);

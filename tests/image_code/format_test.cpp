@@ -41,9 +41,9 @@ CodeImage everything() {
                       image::MemberUse::Let,
                       false,
                       1,
-                      {BaseType::Integer, BaseType::Variant},
+                      {{BaseType::Integer, textOf(code, "Index"), true, {BaseType::Double, 0x123456789ABCDEF0}},
+                       {BaseType::Variant}},
                       BaseType::Long,
-                      1,
                       true}};
     stack.implementations = {{1, {2, image::kNone}}};
     stack.events = {{textOf(code, "Changed"), {kLong, referenceTo(kText)}}};

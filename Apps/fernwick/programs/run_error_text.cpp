@@ -10,8 +10,8 @@ namespace {
 /// A program chooses the text; it must not look like further lines.
 std::string whatOf(const tamarik::RunError& error) {
     const auto text = basic::printable(error.text);
-    return error.number == tamarik::RunError::kAssertion ? text
-                                                         : fmt::format("run-time error {}: {}", error.number, text);
+    return error.number == tamarik::RunError::kStopped ? text
+                                                       : fmt::format("run-time error {}: {}", error.number, text);
 }
 
 std::string placeText(const tamarik::RunError::Place& place, const ProjectProgram& program) {

@@ -60,7 +60,9 @@ std::string OperandText::operand(std::size_t index) const {
     case Operand::NumberB:
     case Operand::NumberC: return number(value);
     case Operand::NumberBC: return number(word_.bc());
-    case Operand::BaseType: return std::string(nameOf(static_cast<BaseType>(value)));
+    case Operand::BaseType:
+        return std::string(nameOf(static_cast<BaseType>(value & ~kTakesErrors))) +
+               ((value & kTakesErrors) != 0 ? " or error" : "");
     case Operand::OffsetC:
     case Operand::FieldC: return "field " + std::to_string(value);
     case Operand::Result:

@@ -8,6 +8,7 @@ Natives standardNatives() {
     addPrintNatives(natives);
     addLibrary(natives);
     addObjectNatives(natives);
+    addParamArrayNatives(natives);
     return natives;
 }
 

@@ -7,6 +7,8 @@
 
 namespace tamarik {
 
+using image::BaseType;
+
 namespace {
 
 /// The number of the button that Enter chooses.
@@ -71,10 +73,7 @@ TextBlock* environmentText(Session& session, const Variant& which) {
 
 std::int32_t textId(Session& session, TextBlock* text) { return session.identities.of(text); }
 std::int32_t objectId(Session& session, Object* object) { return session.identities.of(object); }
-std::int32_t variableId(Session& session, const Variant& v) {
-    if (isManagedKind(v)) return session.identities.of(v.text);
-    return session.identities.of(&v);
-}
+void variableId(NativeCall& call) { call.result[0].number = call.session.identities.of(call.arguments[0].pointer); }
 
 } // namespace
 
@@ -87,7 +86,12 @@ void addInteraction(Natives& natives) {
     addPlainForms<&environmentText>(natives, "Environ");
     natives.add("StrPtr", native<&textId>());
     natives.add("ObjPtr", native<&objectId>());
-    natives.add("VarPtr", native<&variableId>());
+    for (const auto base : {BaseType::Long, BaseType::Double, BaseType::Currency, BaseType::Text, BaseType::Variant,
+                            BaseType::Object, BaseType::Record}) {
+        const bool hasId = base == BaseType::Object || base == BaseType::Record;
+        const image::SlotType variable{base, image::TypeForm::Reference, hasId ? kAnyId : 0};
+        natives.addForm("VarPtr", {{BaseType::Long}, {variable}, &variableId});
+    }
 }
 
 } // namespace tamarik

@@ -20,6 +20,7 @@ void addLibrary(Natives& natives) {
     addSettings(natives);
     addObjectMakers(natives);
     addTextStatements(natives);
+    addRecordBytes(natives);
     addFileStatements(natives);
     addFilePrinting(natives);
     addFileReading(natives);

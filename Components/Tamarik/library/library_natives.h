@@ -25,6 +25,9 @@ void addObjectMakers(Natives& natives);
 /// LSet, RSet and the Mid statement.
 void addTextStatements(Natives& natives);
 
+/// LSet between variables of two Types.
+void addRecordBytes(Natives& natives);
+
 void addFileStatements(Natives& natives);
 void addFilePrinting(Natives& natives);
 void addFileReading(Natives& natives);

@@ -108,8 +108,8 @@ bool Execution::dispatchError() {
 
 void Execution::describeFailure() { failure = {noted_.number, noted_.description, noted_.source, places()}; }
 
-void Execution::failAssertion() {
-    failure = {RunError::kAssertion, "Debug.Assert failed", {}, places()};
+void Execution::stop(std::string_view reason) {
+    failure = {RunError::kStopped, std::string(reason), {}, places()};
     finish(RunState::Failed);
 }
 

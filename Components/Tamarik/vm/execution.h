@@ -12,6 +12,7 @@
 #include <cstdlib>
 #include <memory>
 #include <optional>
+#include <string_view>
 #include <unordered_map>
 #include <vector>
 
@@ -97,8 +98,8 @@ struct Execution {
     void fail(const basic::RuntimeError& error);
     /// Finds the handler of the error that `fail` noted, or ends the run, which it reports by false.
     bool dispatchError();
-    /// Ends the run at a Debug.Assert.
-    void failAssertion();
+    /// Ends the run where a debugger would stop it: at a Debug.Assert or Stop.
+    void stop(std::string_view reason);
     /// Where the program is, then the callers.
     [[nodiscard]] std::vector<RunError::Place> places() const;
     /// The statement that failed, or the next one; false outside of a handler.

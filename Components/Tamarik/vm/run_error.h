@@ -15,7 +15,7 @@ struct RunError {
         std::string file, procedure;
         std::uint32_t line = 0;
     };
-    static constexpr int kAssertion = 0; ///< the number of a failed Debug.Assert
+    static constexpr int kStopped = 0; ///< the number of a failed Debug.Assert and of Stop
 
     int number = 0;
     std::string text, source;

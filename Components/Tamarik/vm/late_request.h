@@ -1,0 +1,34 @@
+#pragma once
+// A call of a member of an object that is found by name.
+#include "Components/Tamarik/vm/execution.h"
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tamarik {
+
+/// It owns its Variants.
+struct LateRequest {
+    Variant object;
+    std::uint32_t name = image::kNone; ///< a text; kNone for the default member
+    std::string givenName;             ///< a name that the program computed, of CallByName; replaces `name`
+    image::LateUse use = image::LateUse::Get;
+    bool isExact = false; ///< Call does not find properties, and Get no methods
+    std::vector<Variant> arguments;
+    std::vector<Slot*> variables;     ///< of the caller, which ByRef parameters refer to; may be shorter
+    std::vector<std::uint32_t> named; ///< texts, the names of the last arguments; the value of Let and Set follows
+
+    /// Whether the last argument is a value that is assigned.
+    [[nodiscard]] bool assigns() const { return use == image::LateUse::Let || use == image::LateUse::Set; }
+    [[nodiscard]] std::size_t firstNamed() const { return arguments.size() - named.size() - (assigns() ? 1 : 0); }
+    /// The name, empty for the default member.
+    [[nodiscard]] std::string_view nameIn(const Program& program) const;
+};
+
+/// The member that serves a request; null if the object's class has none.
+[[nodiscard]] const image::ClassMember* memberFor(Execution& m, const LateRequest& request, image::LateUse use);
+
+/// Puts the arguments in the order of the member's parameters. Errors 446, 448, 450.
+void arrangeArguments(const Program& program, LateRequest& request, const image::ClassMember& member);
+
+} // namespace tamarik
