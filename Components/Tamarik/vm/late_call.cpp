@@ -47,6 +47,11 @@ const ClassMember* memberOf(Execution& m, std::uint32_t classNumber, std::uint32
     return nullptr;
 }
 
+/// Let takes the value of an object's default member.
+bool assignsObject(LateUse use, std::span<const Variant> arguments) {
+    return use == LateUse::Let && !arguments.empty() && arguments.back().kind == kObject;
+}
+
 class LateCallTask final : public Task {
 public:
     explicit LateCallTask(LateRequest request) : request_(std::move(request)) {}
@@ -105,6 +110,7 @@ private:
     }
 
     bool callLibrary(Execution& m, LibraryObject& object) {
+        if (assignsObject(request_.use, request_.arguments)) return resolve(m, request_.arguments.back());
         const std::string_view name =
             request_.name == image::kNone ? object.defaultMember() : m.program->text(request_.name);
         if (name.empty()) throw basic::RuntimeError(basic::kPropertyOrMethodNotSupported);
@@ -249,6 +255,7 @@ bool callLibrary(Execution& m, const std::uint32_t* ip) {
     auto& object = static_cast<LibraryObject&>(*target.object);
     std::array<const Variant*, 255> arguments;
     for (std::uint32_t i = 0; i < word.c; ++i) arguments[i] = &variantAt(base + halfAt(ip + 3, i));
+    if (word.c != 0 && assignsObject(static_cast<LateUse>(ip[2] & 0xFF), {arguments[word.c - 1], 1})) return false;
     const Variant result = callFound(m.session, object, foundAt(m, ip, object), {arguments.data(), word.c});
     if (word.a == image::kNoSlot)
         release(m.heap, result);
