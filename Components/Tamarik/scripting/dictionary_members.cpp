@@ -6,12 +6,12 @@ namespace tamarik {
 
 namespace {
 
-Dictionary& in(LibraryObject& object) { return static_cast<Dictionary&>(object); }
+Dictionary& dictionaryIn(LibraryObject& object) { return static_cast<Dictionary&>(object); }
 
 /// An array from 0 on; of each item what `part` selects.
 template <class Part>
-void list(LibraryObject& object, MemberCall& call, Part part) {
-    const Dictionary& items = in(object);
+void listParts(LibraryObject& object, MemberCall& call, Part part) {
+    const Dictionary& items = dictionaryIn(object);
     Session& session = call.session;
     const Bounds bounds{0, items.count() - 1};
     HeldBlock<ArrayBlock> array(session, makeArray(session.heap, {{image::BaseType::Variant}}, {&bounds, 1}));
@@ -25,7 +25,7 @@ void list(LibraryObject& object, MemberCall& call, Part part) {
 }
 
 void setCompareMode(LibraryObject& object, MemberCall& call) {
-    in(object).ignoreCase(comparisonOf(longOf(call[0])) == basic::vbTextCompare);
+    dictionaryIn(object).ignoreCase(comparisonOf(longOf(call[0])) == basic::vbTextCompare);
 }
 
 } // namespace
@@ -36,34 +36,42 @@ std::span<const LibraryMember> Dictionary::members() const {
         {"Item", "Key", Read,
          [](LibraryObject& object, MemberCall& call) {
              Heap& heap = call.session.heap;
-             call.result = copyOf(heap, in(object).item(heap, call[0]));
+             call.result = copyOf(heap, dictionaryIn(object).item(heap, call[0]));
          }},
         {"Item", "Key Value", Write,
-         [](LibraryObject& object, MemberCall& call) { in(object).setItem(call.session.heap, call[0], call[1]); }},
+         [](LibraryObject& object, MemberCall& call) {
+             dictionaryIn(object).setItem(call.session.heap, call[0], call[1]);
+         }},
         {"Exists", "Key", Read,
          [](LibraryObject& object, MemberCall& call) {
-             call.result = ofBoolean(in(object).exists(call.session.heap, call[0]));
+             call.result = ofBoolean(dictionaryIn(object).exists(call.session.heap, call[0]));
          }},
         {"Add", "Key Item", Read,
-         [](LibraryObject& object, MemberCall& call) { in(object).add(call.session.heap, call[0], call[1]); }},
+         [](LibraryObject& object, MemberCall& call) {
+             dictionaryIn(object).add(call.session.heap, call[0], call[1]);
+         }},
         {"Count", "", Read,
-         [](LibraryObject& object, MemberCall& call) { call.result = ofNumber(in(object).count()); }},
+         [](LibraryObject& object, MemberCall& call) { call.result = ofNumber(dictionaryIn(object).count()); }},
         {"Key", "Key NewKey", Write,
-         [](LibraryObject& object, MemberCall& call) { in(object).rename(call.session.heap, call[0], call[1]); }},
+         [](LibraryObject& object, MemberCall& call) {
+             dictionaryIn(object).rename(call.session.heap, call[0], call[1]);
+         }},
         {"Keys", "", Read,
          [](LibraryObject& object, MemberCall& call) {
-             list(object, call, [](const Variant& key, const Variant&) -> const Variant& { return key; });
+             listParts(object, call, [](const Variant& key, const Variant&) -> const Variant& { return key; });
          }},
         {"Items", "", Read,
          [](LibraryObject& object, MemberCall& call) {
-             list(object, call, [](const Variant&, const Variant& item) -> const Variant& { return item; });
+             listParts(object, call, [](const Variant&, const Variant& item) -> const Variant& { return item; });
          }},
         {"Remove", "Key", Read,
-         [](LibraryObject& object, MemberCall& call) { in(object).remove(call.session.heap, call[0]); }},
+         [](LibraryObject& object, MemberCall& call) { dictionaryIn(object).remove(call.session.heap, call[0]); }},
         {"RemoveAll", "", Read,
          [](LibraryObject& object, MemberCall& call) { object.releaseMembers(call.session.heap); }},
         {"CompareMode", "", Read,
-         [](LibraryObject& object, MemberCall& call) { call.result = ofNumber(in(object).ignoresCase() ? 1 : 0); }},
+         [](LibraryObject& object, MemberCall& call) {
+             call.result = ofNumber(dictionaryIn(object).ignoresCase() ? 1 : 0);
+         }},
         {"CompareMode", "Mode", Write, &setCompareMode},
         {"_NewEnum", "", Read,
          [](LibraryObject& object, MemberCall& call) { call.result = ofObject(object.walk(call.session.heap)); }},
