@@ -251,6 +251,8 @@ private:
     PassedArgument lateArgument(const Expr& given, bool isOfLibrary);
     ParameterInfo lastParameter(const ProcedureDecl& decl, const Type& type) const;
     Value declaredCall(const Entity& entity, const Span<Argument>& given);
+    std::optional<std::vector<ParameterInfo>> answeredParameters(const Entity& entity,
+                                                                 const Span<Argument>& given) const;
     static std::uint16_t passedAddress(std::uint32_t slot) { return image::encodeArgument(image::Pass::Address, slot); }
     void storeBack(const std::vector<PassedArgument>& passed);
     void arguments(const Callable& callable, const Span<Argument>& given, std::vector<PassedArgument>& list,

@@ -99,11 +99,6 @@ void Emitter::takeDefaultValues(const Callable& callable, const Span<Argument>& 
     }
 }
 
-Value Emitter::declaredCall(const Entity& entity, const Span<Argument>& given) {
-    (void)given;
-    return fail(basic::kFileNotFound, entity.type);
-}
-
 /// What an instruction does, by the declared types of the arguments.
 std::optional<Value> Emitter::intrinsic(std::string_view name, const Span<Argument>& given) {
     if (given.empty() || !given[0].value || given[0].name != Symbol::None) return std::nullopt;
