@@ -16,6 +16,7 @@ namespace language_programs {
 
 struct Case {
     std::string file, title, source, pending;
+    std::string library; ///< which the project refers to; may be empty
     std::string code, expected;
 
     [[nodiscard]] bool isPending() const { return !pending.empty(); }
@@ -24,7 +25,7 @@ struct Case {
 };
 
 inline constexpr std::string_view kTitle = "=== ", kSource = "' source: ", kUnsourced = "' unsourced",
-                                  kPending = "' pending: ", kOutput = "---";
+                                  kPending = "' pending: ", kLibrary = "' reference: ", kOutput = "---";
 
 inline std::string trimmed(std::string text) {
     while (!text.empty() && std::isspace(static_cast<unsigned char>(text.back()))) text.pop_back();
@@ -38,7 +39,7 @@ inline std::vector<Case> readCases(const std::filesystem::path& path) {
     bool isOutput = false;
     for (std::string line; std::getline(in, line);) {
         if (line.starts_with(kTitle)) {
-            cases.push_back({path.stem().string(), line.substr(kTitle.size()), {}, {}, {}, {}});
+            cases.push_back({path.stem().string(), line.substr(kTitle.size()), {}, {}, {}, {}, {}});
             isOutput = false;
             continue;
         }
@@ -51,6 +52,8 @@ inline std::vector<Case> readCases(const std::filesystem::path& path) {
             last.source = "unsourced";
         else if (isHead && line.starts_with(kPending))
             last.pending = line.substr(kPending.size());
+        else if (isHead && line.starts_with(kLibrary))
+            last.library = line.substr(kLibrary.size());
         else if (!isOutput && line == kOutput)
             isOutput = true;
         else

@@ -1,6 +1,7 @@
 // Each small program prints what the language prescribes.
 #include "Components/Image/image.h"
 #include "Components/Image/verify/verify.h"
+#include "Components/Language/foreign.h"
 #include "Components/QLToolkit/check.h"
 #include "Components/Tamarik/functions/standard_natives.h"
 #include "Components/Tamarik/vm/run_without_window.h"
@@ -24,6 +25,7 @@ std::shared_ptr<const image::CodeImage> codeOf(const Case& one, const std::vecto
         sources.push_back(owned.emplace_back(std::make_unique<qltoolkit::SourceText>(file.name, file.text)).get());
     qltoolkit::ProgramOptions options;
     options.projectName = "Project1";
+    if (!one.library.empty()) options.libraries.push_back(language::foreignLibrary(one.library));
     auto made = qltoolkit::compileProject(sources, {}, options, "Main", 1252);
     for (const auto& result : made.results)
         for (const auto& found : result.diagnostics)

@@ -263,6 +263,8 @@ private:
     Value variableId(const Expr& given);
     [[nodiscard]] bool isVariable(const Expr& given) const;
     Value declaredCall(const Entity& entity, const Span<Argument>& given);
+    std::optional<std::vector<ParameterInfo>> answeredParameters(const Entity& entity,
+                                                                 const Span<Argument>& given) const;
     static std::uint16_t passedAddress(std::uint32_t slot) { return image::encodeArgument(image::Pass::Address, slot); }
     void storeBack(const std::vector<PassedArgument>& passed);
     void arguments(const Callable& callable, const Span<Argument>& given, std::vector<PassedArgument>& list,

@@ -99,11 +99,6 @@ void Emitter::takeDefaultValues(const Callable& callable, const Span<Argument>& 
     }
 }
 
-Value Emitter::declaredCall(const Entity& entity, const Span<Argument>& given) {
-    (void)given;
-    return fail(basic::kFileNotFound, entity.type);
-}
-
 /// VarPtr: a number for the variable itself, or for the temporary that an expression is.
 Value Emitter::variableId(const Expr& given) {
     Place variable = isVariable(given) ? place(given) : resultPlace(value(given));

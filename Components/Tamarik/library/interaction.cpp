@@ -53,17 +53,9 @@ std::int32_t doEvents(Session& session) {
 
 TextBlock* commandLine(Session& session) { return madeOfUtf8(session, session.surroundings.commandLine); }
 
-std::string_view variableNamed(Session& session, std::string_view name) {
-    for (const std::string_view each : session.surroundings.environment) {
-        const std::size_t end = each.find('=');
-        if (end != std::string_view::npos && basic::equalNoCase(each.substr(0, end), name)) return each.substr(end + 1);
-    }
-    return {};
-}
-
 /// By name its value, by number from 1 on "NAME=value".
 TextBlock* environmentText(Session& session, const Variant& which) {
-    if (which.kind == kString) return madeOfUtf8(session, variableNamed(session, utf8Of(session, which)));
+    if (which.kind == kString) return madeOfUtf8(session, session.surroundings.variable(utf8Of(session, which)));
     const auto& variables = session.surroundings.environment;
     const std::int32_t number = longOf(which);
     requireArgument(number >= 1);

@@ -19,6 +19,7 @@ void addLibrary(Natives& natives) {
     addInteraction(natives);
     addSettings(natives);
     addObjectMakers(natives);
+    addDeclared(natives);
     addTextStatements(natives);
     addRecordBytes(natives);
     addFileStatements(natives);

@@ -25,6 +25,11 @@ using image::MemberUse;
 /// Objects whose default member is an object again.
 constexpr int kDeepestDefaults = 8;
 
+/// Let takes the value of an object's default member.
+bool assignsObject(LateUse use, std::span<const Variant> arguments) {
+    return use == LateUse::Let && !arguments.empty() && arguments.back().kind == kObject;
+}
+
 class LateCallTask final : public Task {
 public:
     explicit LateCallTask(LateRequest request) : request_(std::move(request)) {}
@@ -74,6 +79,7 @@ private:
     }
 
     bool callLibrary(Execution& m, LibraryObject& object) {
+        if (assignsObject(request_.use, request_.arguments)) return resolve(m, request_.arguments.back());
         const std::string_view given = request_.nameIn(*m.program),
                                name = given.empty() ? object.defaultMember() : given;
         if (name.empty()) throw basic::RuntimeError(basic::kPropertyOrMethodNotSupported);
@@ -220,6 +226,7 @@ bool callLibrary(Execution& m, const std::uint32_t* ip) {
     auto& object = static_cast<LibraryObject&>(*target.object);
     std::array<const Variant*, 255> arguments;
     for (std::uint32_t i = 0; i < word.c; ++i) arguments[i] = &variantAt(base + halfAt(ip + 3, i));
+    if (word.c != 0 && assignsObject(static_cast<LateUse>(ip[2] & 0xFF), {arguments[word.c - 1], 1})) return false;
     const Variant result = callFound(m.session, object, foundAt(m, ip, object), {arguments.data(), word.c});
     if (word.a == image::kNoSlot)
         release(m.heap, result);
