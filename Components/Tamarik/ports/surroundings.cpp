@@ -25,4 +25,13 @@ basic::Date localTime() {
     return {localDate(system_clock::to_time_t(whole)).days + rest / kSecondsOfDay};
 }
 
+std::string commandLineOf(const std::vector<std::string>& words) {
+    std::string line;
+    for (const auto& word : words) {
+        const bool isQuoted = word.empty() || word.find(' ') != word.npos;
+        line += (line.empty() ? "" : " ") + (isQuoted ? '"' + word + '"' : word);
+    }
+    return line;
+}
+
 } // namespace tamarik

@@ -15,6 +15,9 @@ namespace tamarik {
 /// The date and time of the place where the machine is.
 [[nodiscard]] basic::Date localTime();
 
+/// The words of a command line as a program receives them: those with blanks are in quotes.
+[[nodiscard]] std::string commandLineOf(const std::vector<std::string>& words);
+
 struct Surroundings {
     std::function<basic::Date()> now = localTime;
     std::vector<std::string> environment; ///< as "NAME=value", UTF-8
