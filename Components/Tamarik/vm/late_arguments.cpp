@@ -24,11 +24,6 @@ SlotType valueType(SlotType type) {
 
 bool isReference(SlotType type) { return type.form == TypeForm::Reference || type.form == TypeForm::ArrayReference; }
 
-bool fits(const ArrayBlock& array, SlotType type) {
-    const SlotType element = array.element.type;
-    return element.base == type.base && (element.base != BaseType::Record || element.id == type.id);
-}
-
 SlotType withBase(SlotType type, BaseType declared) {
     return declared == BaseType::None ? type : SlotType{declared, type.form, type.id};
 }
@@ -43,7 +38,7 @@ Variant* valueNeeded(Variant& argument, SlotType type) {
 
 void storeInSlot(Execution& m, Slot* slot, SlotType type, BaseType declared, const Variant& value) {
     if (type.form == TypeForm::Array) {
-        if (!value.isArray() || !value.array || !fits(*value.array, type))
+        if (!value.isArray() || !value.array || !hasElementsOf(*value.array, type))
             throw basic::RuntimeError(basic::kTypeMismatch);
         retain(value.array);
         return setArray(m.heap, *slot, value.array);
