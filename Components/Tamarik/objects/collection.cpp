@@ -3,6 +3,7 @@
 #include "Components/Tamarik/values/folding.h"
 #include "Components/Tamarik/values/variant_conversion.h"
 #include <algorithm>
+#include <new>
 #include <utility>
 
 namespace tamarik {
@@ -60,10 +61,14 @@ void Collection::insert(Node* node, Node* before) {
     (node->previous ? node->previous->next : first_) = node;
     (before ? before->previous : last_) = node;
     ++count_;
-    if (before)
-        isOrderValid_ = false;
-    else if (isOrderValid_)
+    if (before) isOrderValid_ = false;
+    if (!isOrderValid_) return;
+    try {
         order_.push_back(node);
+    } catch (const std::bad_alloc&) {
+        // It is made again when an item is wanted by its index.
+        isOrderValid_ = false;
+    }
 }
 
 void Collection::add(Heap& heap, const Variant& item, const Variant& key, const Variant& before, const Variant& after) {
@@ -77,13 +82,14 @@ void Collection::add(Heap& heap, const Variant& item, const Variant& key, const 
     auto* const node = static_cast<Node*>(heap.allocate(sizeof(Node), kItemCharge));
     try {
         node->value = copyOf(heap, item);
+        if (hasKey) keys_.add(hash, node);
     } catch (...) {
+        release(heap, node->value);
         heap.free(node, kItemCharge);
         throw;
     }
     node->hash = hash;
     node->key = hasKey ? retain(key.text) : nullptr;
-    if (hasKey) keys_.add(hash, node);
     insert(node, place);
 }
 
@@ -163,8 +169,8 @@ std::span<const LibraryMember> Collection::members() const {
 }
 
 CollectionWalk::CollectionWalk(Collection& collection) : collection_(&collection) {
-    retain(collection_);
     collection.walks_.push_back(this);
+    retain(collection_);
 }
 
 bool CollectionWalk::next(Heap& heap, Variant& element) {

@@ -66,7 +66,7 @@ struct Execution {
     std::vector<std::uint32_t> toRun; ///< procedures that the host wants run, the next one last
 
     [[nodiscard]] RareFrame& rare(Frame& of);
-    void dropRare(Frame& of);
+    void dropRare(Frame& of) noexcept;
     [[nodiscard]] Slot* nextBase() const { return frame->base + frame->procedure->slots; }
     [[nodiscard]] TextBlock* constantText(std::uint32_t number);
 
@@ -88,10 +88,11 @@ struct Execution {
     bool settle();
 
     // errors
-    void fail(int number);
-    void fail(const basic::RuntimeError& error);
-    /// Finds the handler of the error that `fail` noted, or ends the run, which it reports by false.
-    bool dispatchError();
+    void fail(int number) noexcept;
+    void fail(const basic::RuntimeError& error) noexcept;
+    /// Finds the handler of the error that `fail` noted, or ends the run, which it reports by false. Without memory for that,
+    /// the error becomes error 7.
+    bool dispatchError() noexcept;
     /// Ends the run at a Debug.Assert.
     void failAssertion();
     /// Where the program is, then the callers.
@@ -102,6 +103,7 @@ struct Execution {
     /// Null without a GoSub.
     const std::uint32_t* returnSub();
     void unwind(Frame* to);
+    /// Allocates nothing, so that it cannot fail.
     void leaveTop();
     void clearErr() { session.err = {}; }
 
@@ -114,13 +116,16 @@ private:
     void destroyNext();
     void destroyObject(Object* object);
     void finishTerminate(RareFrame& rare);
+    bool findHandler();
     void describeFailure();
+    void describeNoted() noexcept;
+    [[nodiscard]] RareFrame* newRare();
     [[nodiscard]] const std::uint32_t* statementAt(const Frame& of, const std::uint32_t* at, bool next) const;
     void enterHandler(Frame& of);
 
     std::unique_ptr<Slot[], FreeMemory> values_;
     std::unique_ptr<Frame[], FreeMemory> frames_;
-    std::vector<std::unique_ptr<RareFrame>> rarePool_;
+    std::unique_ptr<RareFrame> freeRares_;
     ErrorState noted_;
     bool areGlobalsReleased_ = false;
 };

@@ -75,8 +75,7 @@ public:
 
     void release(Heap& heap) override {
         tamarik::release(heap, std::exchange(result_, {}));
-        tamarik::release(heap, std::exchange(request_.object, {}));
-        for (Variant& argument : request_.arguments) tamarik::release(heap, std::exchange(argument, {}));
+        request_.release();
         arguments_.release(heap);
     }
 
@@ -222,7 +221,7 @@ void callLate(Execution& m, LateRequest request, std::uint8_t result) {
 }
 
 void callDefault(Execution& m, const Variant& object) {
-    LateRequest request;
+    LateRequest request(m.heap);
     request.object = sharedOf(object);
     callLate(m, std::move(request), image::kNoSlot);
 }
@@ -260,23 +259,18 @@ bool callLibrary(Execution& m, const std::uint32_t* ip) {
 void callLate(Execution& m, const std::uint32_t* ip) {
     const image::Word word(*ip);
     Slot* const base = m.frame->base;
-    LateRequest request;
+    LateRequest request(m.heap);
     request.name = ip[1];
     request.use = static_cast<LateUse>(ip[2] & 0xFF);
     const std::uint32_t named = ip[2] >> 8;
     request.named.assign(ip + 3, ip + 3 + named);
     const std::uint32_t* const slots = ip + 3 + named;
     request.arguments.reserve(word.c);
-    try {
-        for (std::uint32_t i = 0; i < word.c; ++i) {
-            request.variables.push_back(base + halfAt(slots, i));
-            request.arguments.push_back(copyOf(m.heap, variantAt(request.variables.back())));
-        }
-        request.object = sharedOf(variantAt(base + word.b));
-    } catch (...) {
-        for (const Variant& argument : request.arguments) release(m.heap, argument);
-        throw;
+    for (std::uint32_t i = 0; i < word.c; ++i) {
+        request.variables.push_back(base + halfAt(slots, i));
+        request.arguments.push_back(copyOf(m.heap, variantAt(request.variables.back())));
     }
+    request.object = sharedOf(variantAt(base + word.b));
     callLate(m, std::move(request), word.a);
 }
 

@@ -2,12 +2,30 @@
 // Members that are found by name while the program runs.
 #include "Components/Tamarik/vm/execution.h"
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace tamarik {
 
 /// A call of a member of an object. It owns its Variants.
 struct LateRequest {
+    explicit LateRequest(Heap& of) : heap(of) {}
+    LateRequest(LateRequest&& other) noexcept
+        : heap(other.heap),
+          object(std::exchange(other.object, {})),
+          name(other.name),
+          use(other.use),
+          arguments(std::move(other.arguments)),
+          variables(std::move(other.variables)),
+          named(std::move(other.named)) {}
+    LateRequest& operator=(LateRequest&&) = delete;
+    ~LateRequest() { release(); }
+    void release() noexcept {
+        tamarik::release(heap, std::exchange(object, {}));
+        for (Variant& argument : arguments) tamarik::release(heap, std::exchange(argument, {}));
+    }
+
+    Heap& heap;
     Variant object;
     std::uint32_t name = image::kNone; ///< a text; kNone for the default member
     image::LateUse use = image::LateUse::Get;
