@@ -3,6 +3,7 @@
 #include "Components/Tamarik/values/folding.h"
 #include "Components/Tamarik/values/variant_conversion.h"
 #include <algorithm>
+#include <new>
 #include <utility>
 
 namespace tamarik {
@@ -49,10 +50,14 @@ Collection::Node* Collection::find(const Variant& index) {
 
 void Collection::insert(Node* node, Node* before) {
     items_.insert(node, before);
-    if (before)
-        isOrderValid_ = false;
-    else if (isOrderValid_)
+    if (before) isOrderValid_ = false;
+    if (!isOrderValid_) return;
+    try {
         order_.push_back(node);
+    } catch (const std::bad_alloc&) {
+        // It is made again when an item is wanted by its index.
+        isOrderValid_ = false;
+    }
 }
 
 void Collection::add(Heap& heap, const Variant& item, const Variant& key, const Variant& before, const Variant& after) {
@@ -66,13 +71,14 @@ void Collection::add(Heap& heap, const Variant& item, const Variant& key, const 
     auto* const node = static_cast<Node*>(heap.allocate(sizeof(Node), kItemCharge));
     try {
         node->value = copyOf(heap, item);
+        if (hasKey) keys_.add(hash, node);
     } catch (...) {
+        release(heap, node->value);
         heap.free(node, kItemCharge);
         throw;
     }
     node->hash = hash;
     node->key = hasKey ? retain(key.text) : nullptr;
-    if (hasKey) keys_.add(hash, node);
     insert(node, place);
 }
 

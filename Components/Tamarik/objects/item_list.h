@@ -57,8 +57,8 @@ template <class Node>
 class ListWalk final : public Walk {
 public:
     ListWalk(LibraryObject& owner, ItemList<Node>& list) : owner_(&owner), list_(&list) {
-        retain(owner_);
         list.walks_.push_back(this);
+        retain(owner_);
     }
     [[nodiscard]] std::string_view className() const override { return "IEnumVARIANT"; }
 

@@ -56,4 +56,13 @@ std::string_view Surroundings::variable(std::string_view name) const {
     return {};
 }
 
+std::string commandLineOf(const std::vector<std::string>& words) {
+    std::string line;
+    for (const auto& word : words) {
+        const bool isQuoted = word.empty() || word.find(' ') != word.npos;
+        line += (line.empty() ? "" : " ") + (isQuoted ? '"' + word + '"' : word);
+    }
+    return line;
+}
+
 } // namespace tamarik

@@ -26,6 +26,9 @@ void sleepFor(std::int64_t milliseconds);
 /// application's.
 [[nodiscard]] std::vector<std::string> deviceEnvironment();
 
+/// The words of a command line as a program receives them: those with blanks are in quotes.
+[[nodiscard]] std::string commandLineOf(const std::vector<std::string>& words);
+
 struct Surroundings {
     // A host with a clock of its own replaces all four of them.
     std::function<basic::Date()> now = localTime, universalNow = universalTime;

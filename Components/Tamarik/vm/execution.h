@@ -70,7 +70,7 @@ struct Execution {
     std::vector<std::uint32_t> toRun; ///< procedures that the host wants run, the next one last
 
     [[nodiscard]] RareFrame& rare(Frame& of);
-    void dropRare(Frame& of);
+    void dropRare(Frame& of) noexcept;
     [[nodiscard]] Slot* nextBase() const { return frame->base + frame->procedure->slots; }
     [[nodiscard]] TextBlock* constantText(std::uint32_t number);
 
@@ -94,10 +94,11 @@ struct Execution {
     bool settle();
 
     // errors
-    void fail(int number);
-    void fail(const basic::RuntimeError& error);
-    /// Finds the handler of the error that `fail` noted, or ends the run, which it reports by false.
-    bool dispatchError();
+    void fail(int number) noexcept;
+    void fail(const basic::RuntimeError& error) noexcept;
+    /// Finds the handler of the error that `fail` noted, or ends the run, which it reports by false. Without memory for that,
+    /// the error becomes error 7.
+    bool dispatchError() noexcept;
     /// Ends the run where a debugger would stop it: at a Debug.Assert or Stop.
     void stop(std::string_view reason);
     /// Where the program is, then the callers.
@@ -108,6 +109,7 @@ struct Execution {
     /// Null without a GoSub.
     const std::uint32_t* returnSub();
     void unwind(Frame* to);
+    /// Allocates nothing, so that it cannot fail.
     void leaveTop();
     void clearErr() { session.err = {}; }
 
@@ -120,13 +122,16 @@ private:
     void destroyNext();
     void destroyObject(Object* object);
     void finishTerminate(RareFrame& rare);
+    bool findHandler();
     void describeFailure();
+    void describeNoted() noexcept;
+    [[nodiscard]] RareFrame* newRare();
     [[nodiscard]] const std::uint32_t* statementAt(const Frame& of, const std::uint32_t* at, bool next) const;
     void enterHandler(Frame& of);
 
     std::unique_ptr<Slot[], FreeMemory> values_;
     std::unique_ptr<Frame[], FreeMemory> frames_;
-    std::vector<std::unique_ptr<RareFrame>> rarePool_;
+    std::unique_ptr<RareFrame> freeRares_;
     ErrorState noted_;
     bool areGlobalsReleased_ = false;
 };

@@ -58,8 +58,7 @@ public:
 
     void release(Heap& heap) override {
         tamarik::release(heap, std::exchange(result_, {}));
-        tamarik::release(heap, std::exchange(request_.object, {}));
-        for (Variant& argument : request_.arguments) tamarik::release(heap, std::exchange(argument, {}));
+        request_.release();
         arguments_.release(heap);
     }
 
@@ -199,7 +198,7 @@ void callLate(Execution& m, LateRequest request, std::uint8_t result) {
 }
 
 void callDefault(Execution& m, const Variant& object) {
-    LateRequest request;
+    LateRequest request(m.heap);
     request.object = sharedOf(object);
     callLate(m, std::move(request), image::kNoSlot);
 }
@@ -242,14 +241,9 @@ void takeArguments(Execution& m, LateRequest& request, const std::uint32_t* slot
                    std::uint32_t end) {
     Slot* const base = m.frame->base;
     request.arguments.reserve(end - first);
-    try {
-        for (std::uint32_t i = first; i < end; ++i) {
-            request.variables.push_back(base + halfAt(slots, i));
-            request.arguments.push_back(copyOf(m.heap, variantAt(request.variables.back())));
-        }
-    } catch (...) {
-        for (const Variant& argument : request.arguments) release(m.heap, argument);
-        throw;
+    for (std::uint32_t i = first; i < end; ++i) {
+        request.variables.push_back(base + halfAt(slots, i));
+        request.arguments.push_back(copyOf(m.heap, variantAt(request.variables.back())));
     }
 }
 
@@ -268,7 +262,7 @@ LateUse useOf(std::int32_t callType) {
 
 void callLate(Execution& m, const std::uint32_t* ip) {
     const image::Word word(*ip);
-    LateRequest request;
+    LateRequest request(m.heap);
     request.name = ip[1];
     request.use = static_cast<LateUse>(ip[2] & 0xFF);
     const std::uint32_t named = ip[2] >> 8;
@@ -283,11 +277,16 @@ void callByName(Execution& m, const std::uint32_t* ip) {
     Slot* const base = m.frame->base;
     const auto given = [&](std::uint32_t i) -> const Variant& { return variantAt(base + halfAt(ip + 1, i)); };
     const std::int32_t callType = longOf(given(1), image::BaseType::Long);
-    LateRequest request;
+    LateRequest request(m.heap);
     request.use = useOf(callType);
     request.isExact = callType != 3;
     TextBlock* const name = textOf(m.heap, given(0));
-    request.givenName = toUtf8(unitsOf(name));
+    try {
+        request.givenName = toUtf8(unitsOf(name));
+    } catch (...) {
+        release(m.heap, name);
+        throw;
+    }
     release(m.heap, name);
     if (request.givenName.empty()) throw basic::RuntimeError(basic::kPropertyOrMethodNotSupported);
     if (request.assigns() && word.c == 2) throw basic::RuntimeError(basic::kWrongNumberOfArguments);
