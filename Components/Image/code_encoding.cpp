@@ -3,6 +3,7 @@
 #include "Components/Image/image_bytes.h"
 #include "Components/Image/image_format.h"
 #include "Components/Image/line_bytes.h"
+#include "Components/Image/word_bytes.h"
 
 namespace image {
 
@@ -136,12 +137,6 @@ std::string encodeProcedures(const CodeImage& code) {
     return w.out.bytes();
 }
 
-std::string encodeWords(const CodeImage& code) {
-    Writer out;
-    for (const auto word : code.code) out.u32(word);
-    return out.bytes();
-}
-
 std::string encodeNumbers(const CodeImage& code) {
     Writer out;
     for (const auto number : code.numbers) {
@@ -169,7 +164,7 @@ std::vector<EncodedSection> encodeCode(const CodeImage& code) {
             {kTypeSection, encodeTypes(code)},
             {kClassSection, encodeClasses(code)},
             {kProcedureSection, encodeProcedures(code)},
-            {kCodeSection, encodeWords(code)},
+            {kCodeSection, encodeWords(code.code)},
             {kNumberSection, encodeNumbers(code)},
             {kImportSection, encodeImports(code)},
             {kLineSection, encodeLines(code.procedures)},

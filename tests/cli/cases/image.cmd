@@ -18,7 +18,7 @@ python3 - <<'EOF'
 import zlib
 data = bytearray(open("Stored.0000.qlx", "rb").read())
 entry = data.index(b"CODE", 20)
-data[int.from_bytes(data[entry + 4:entry + 8], "little") + 5] = 1  # LoadText into a Long
+data[int.from_bytes(data[entry + 4:entry + 8], "little") + 4] = 1  # LoadText into a Long
 data[12:16] = zlib.crc32(data[20:]).to_bytes(4, "little")
 open("refused.qlx", "wb").write(data)
 EOF
