@@ -122,7 +122,7 @@ std::int32_t userName(Session& session, TextBlock*& buffer, LongVariable size) {
 std::int32_t messageBeep(Session&, std::int32_t) { return 1; }
 
 Native recordFunction(image::SlotType result, void (*call)(NativeCall&)) {
-    return {result, {{image::BaseType::Record, image::TypeForm::Reference, kAnyRecord}}, call};
+    return {result, {{image::BaseType::Record, image::TypeForm::Reference, kAnyId}}, call};
 }
 
 } // namespace
