@@ -221,19 +221,22 @@ Value Emitter::arithmetic(Operator op, ValueType type, ValueType result, const V
         const bool isLogic = op >= Operator::And;
         const bool isInteger = type == ValueType::Integer && !isLogic;
         const bool isByte = type == ValueType::Byte && (!isLogic || op == Operator::Eqv || op == Operator::Imp);
-        out_.emit(wholeOp(op, isInteger), made.slot, left.slot, right.slot);
+        const bool isQuotient = isInteger && op == Operator::IntDivide; // -32768 \ -1
+        const auto raw = isByte || isQuotient ? uncheckedSlot(made, target) : made.slot;
+        out_.emit(wholeOp(op, isInteger), raw, left.slot, right.slot);
         if (isByte && isLogic) // only 8 bits count
-            out_.emit(Op::AndLong, made.slot, made.slot, longConstant(0xFF, {}).slot);
+            out_.emit(Op::AndLong, made.slot, raw, longConstant(0xFF, {}).slot);
         else if (isByte)
-            out_.emit(Op::CheckByte, made.slot, made.slot);
-        else if (isInteger && op == Operator::IntDivide) // -32768 \ -1
-            out_.emit(Op::CheckInteger, made.slot, made.slot);
+            out_.emit(Op::CheckByte, made.slot, raw);
+        else if (isQuotient)
+            out_.emit(Op::CheckInteger, made.slot, raw);
         return made;
     }
     if (isFloat(type)) {
-        out_.emit(floatOp(op), made.slot, left.slot, right.slot);
-        if (result == ValueType::Single) out_.emit(Op::RoundSingle, made.slot, made.slot);
-        if (result == ValueType::Date) out_.emit(Op::CheckDate, made.slot, made.slot);
+        const bool isChecked = result == ValueType::Single || result == ValueType::Date;
+        const auto raw = isChecked ? uncheckedSlot(made, target) : made.slot;
+        out_.emit(floatOp(op), raw, left.slot, right.slot);
+        if (isChecked) out_.emit(result == ValueType::Single ? Op::RoundSingle : Op::CheckDate, made.slot, raw);
         return made;
     }
     if (type == ValueType::Currency && op != Operator::Divide) {
@@ -241,6 +244,11 @@ Value Emitter::arithmetic(Operator op, ValueType type, ValueType result, const V
         return made;
     }
     return operateVariants(op, left, right, target);
+}
+
+/// Where a result is until it is checked: a variable keeps its value if the check fails.
+std::uint32_t Emitter::uncheckedSlot(const Value& made, std::optional<std::uint32_t> target) {
+    return target ? temporary(made.type) : made.slot;
 }
 
 Value Emitter::comparison(Operator op, const Value& left, const Value& right, std::optional<std::uint32_t> target) {
@@ -317,13 +325,17 @@ Value Emitter::unary(const UnaryExpr& expr, std::optional<std::uint32_t> target)
         return result;
     }
     if (isFloat(operation->operands)) {
-        out_.emit(Op::NegateFloat, result.slot, converted.slot);
-        if (operation->result == ValueType::Date) out_.emit(Op::CheckDate, result.slot, result.slot);
+        const bool isDate = operation->result == ValueType::Date;
+        const auto raw = isDate ? uncheckedSlot(result, target) : result.slot;
+        out_.emit(Op::NegateFloat, raw, converted.slot);
+        if (isDate) out_.emit(Op::CheckDate, result.slot, raw);
     } else if (operation->operands == ValueType::Currency) {
         out_.emit(Op::NegateCurrency, result.slot, converted.slot);
     } else {
-        out_.emit(Op::NegateLong, result.slot, converted.slot);
-        if (operation->result == ValueType::Integer) out_.emit(Op::CheckInteger, result.slot, result.slot);
+        const bool isInteger = operation->result == ValueType::Integer;
+        const auto raw = isInteger ? uncheckedSlot(result, target) : result.slot;
+        out_.emit(Op::NegateLong, raw, converted.slot);
+        if (isInteger) out_.emit(Op::CheckInteger, result.slot, raw);
     }
     return result;
 }
