@@ -84,8 +84,9 @@ Double Convertible::number() const { return text_ ? toDouble(requiredNumber(*tex
 bool CBool(const Convertible& value) {
     if (value.text()) {
         const std::string word = Trim(*value.text());
-        if (equalNoCase(word, "True")) return true;
-        if (equalNoCase(word, "False")) return false;
+        // With marks as Write # writes them.
+        if (equalNoCase(word, "True") || equalNoCase(word, "#TRUE#")) return true;
+        if (equalNoCase(word, "False") || equalNoCase(word, "#FALSE#")) return false;
     }
     return value.number() != 0;
 }

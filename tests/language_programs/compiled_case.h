@@ -22,7 +22,7 @@ inline std::string imageOf(const Case& one, const std::vector<SourceFile>& files
     qltoolkit::ProgramOptions options;
     options.projectName = "Project1";
     if (!one.library.empty()) options.libraries.push_back(language::foreignLibrary(one.library));
-    auto made = qltoolkit::compileProject(sources, {}, options, "Main", 1252);
+    auto made = qltoolkit::compileProject(sources, {}, options, "Main", one.codePage);
     for (const auto& result : made.results)
         for (const auto& found : result.diagnostics)
             if (found.severity == qltoolkit::Severity::Error)

@@ -191,6 +191,7 @@ private:
     Value join(const Value& left, const Expr& right, bool isTemporary, std::optional<std::uint32_t> target);
     Value arithmetic(Operator op, ValueType type, ValueType result, const Value& left, const Value& right,
                      std::optional<std::uint32_t> target);
+    std::uint32_t uncheckedSlot(const Value& made);
     Value comparison(Operator op, const Value& left, const Value& right, std::optional<std::uint32_t> target);
     Value operateVariants(Operator op, const Value& left, const Value& right, std::optional<std::uint32_t> target);
     std::optional<Value> operateByNumber(const BinaryExpr& expr, const Operation& operation, const Value& left,
