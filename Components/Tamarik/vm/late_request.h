@@ -45,6 +45,11 @@ struct LateRequest {
     [[nodiscard]] std::string_view nameIn(const Program& program) const;
 };
 
+/// Let takes the value of an object's default member.
+[[nodiscard]] inline bool assignsObject(image::LateUse use, const Variant& value) {
+    return use == image::LateUse::Let && value.kind == kObject;
+}
+
 /// The member that serves a request; null if the object's class has none.
 [[nodiscard]] const image::ClassMember* memberFor(Execution& m, const LateRequest& request, image::LateUse use);
 
