@@ -17,6 +17,7 @@ namespace language_programs {
 struct Case {
     std::string file, title, source, pending;
     std::string library; ///< which the project refers to; may be empty
+    std::vector<std::string> resources;
     std::string code, expected;
 
     [[nodiscard]] bool isPending() const { return !pending.empty(); }
@@ -25,7 +26,8 @@ struct Case {
 };
 
 inline constexpr std::string_view kTitle = "=== ", kSource = "' source: ", kUnsourced = "' unsourced",
-                                  kPending = "' pending: ", kLibrary = "' reference: ", kOutput = "---";
+                                  kPending = "' pending: ", kLibrary = "' reference: ", kResource = "' resource: ",
+                                  kOutput = "---";
 
 inline std::string trimmed(std::string text) {
     while (!text.empty() && std::isspace(static_cast<unsigned char>(text.back()))) text.pop_back();
@@ -39,7 +41,7 @@ inline std::vector<Case> readCases(const std::filesystem::path& path) {
     bool isOutput = false;
     for (std::string line; std::getline(in, line);) {
         if (line.starts_with(kTitle)) {
-            cases.push_back({path.stem().string(), line.substr(kTitle.size()), {}, {}, {}, {}, {}});
+            cases.push_back({path.stem().string(), line.substr(kTitle.size()), {}, {}, {}, {}, {}, {}});
             isOutput = false;
             continue;
         }
@@ -54,6 +56,8 @@ inline std::vector<Case> readCases(const std::filesystem::path& path) {
             last.pending = line.substr(kPending.size());
         else if (isHead && line.starts_with(kLibrary))
             last.library = line.substr(kLibrary.size());
+        else if (isHead && line.starts_with(kResource))
+            last.resources.push_back(line.substr(kResource.size()));
         else if (!isOutput && line == kOutput)
             isOutput = true;
         else

@@ -1,15 +1,20 @@
 // Each small program prints what the language prescribes.
+#include "Basic/utf16.h"
 #include "Components/Image/image.h"
 #include "Components/Image/verify/verify.h"
 #include "Components/Language/foreign.h"
 #include "Components/QLToolkit/check.h"
+#include "Components/QLToolkit/source/res_file.h"
 #include "Components/Tamarik/functions/standard_natives.h"
 #include "Components/Tamarik/vm/machine.h"
 #include "tests/language_programs/program_case.h"
+#include "tests/support/res_bytes.h"
 #include <algorithm>
 #include <gtest/gtest.h>
+#include <map>
 #include <memory>
 #include <set>
+#include <sstream>
 
 namespace language_programs {
 
@@ -17,6 +22,23 @@ namespace {
 
 /// Enough for every case, and soon over for one that does not end.
 constexpr std::int64_t kBudget = 20'000'000;
+
+/// The lines "TYPE NAME CONTENTS" as the resource file of a project. Texts have no type: "text NUMBER CONTENTS".
+std::vector<image::Resource> resourcesOf(const Case& one) {
+    test::ResBytes file;
+    std::map<std::uint32_t, std::u16string> texts;
+    for (const auto& line : one.resources) {
+        std::istringstream words(line);
+        std::string type, name, contents;
+        words >> type >> name;
+        std::getline(words >> std::ws, contents);
+        if (type == "text")
+            texts[static_cast<std::uint32_t>(std::stoul(name))] = basic::toUtf16(contents);
+        else
+            file.add(type, name, contents);
+    }
+    return qltoolkit::readResources(file.addTexts(texts).bytes());
+}
 
 std::shared_ptr<const image::CodeImage> codeOf(const Case& one, const std::vector<SourceFile>& files) {
     std::vector<std::unique_ptr<qltoolkit::SourceText>> owned;
@@ -34,6 +56,7 @@ std::shared_ptr<const image::CodeImage> codeOf(const Case& one, const std::vecto
     if (!made.code) throw std::runtime_error("no code for " + one.title);
     image::Image whole;
     whole.code = std::move(*made.code);
+    whole.code.resources = resourcesOf(one);
     auto code = std::make_shared<const image::CodeImage>(image::decode(image::encode(whole)).code);
     if (const auto problem = image::verify(*code)) throw std::runtime_error("not verified: " + problem->text);
     return code;
