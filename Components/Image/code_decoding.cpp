@@ -172,6 +172,18 @@ void decodeImports(CodeReader r, CodeImage& code) {
     r.end();
 }
 
+void decodeResources(Reader in, std::vector<Resource>& resources) {
+    resources.resize(in.count(3 * kWord));
+    for (auto& resource : resources) {
+        resource.type = in.raw(in.u32());
+        resource.name = in.raw(in.u32());
+        resource.data = in.raw(in.u32());
+    }
+    if (!in.atEnd()) imageIsDamaged("a section is too long");
+    // They are found by their order.
+    if (!areInOrder(resources)) imageIsDamaged("the resources are not in order");
+}
+
 } // namespace
 
 CodeImage decodeCode(const Sections& sections, const std::vector<SharedText>& strings) {
@@ -190,6 +202,7 @@ CodeImage decodeCode(const Sections& sections, const std::vector<SharedText>& st
     decodeImports({reader(kImportSection)}, code);
     decodeLines(reader(kLineSection), code.procedures);
     decodeStatements(reader(kStatementSection), code.procedures);
+    if (sections.contains(kResourceSection)) decodeResources(reader(kResourceSection), code.resources);
     return code;
 }
 

@@ -18,6 +18,7 @@ namespace language_programs {
 struct Case {
     std::string file, title, source, pending;
     std::string library; ///< which the project refers to; may be empty
+    std::vector<std::string> resources;
     std::string code, expected;
     std::uint32_t codePage = 1252;
 
@@ -28,7 +29,7 @@ struct Case {
 
 inline constexpr std::string_view kTitle = "=== ", kSource = "' source: ", kUnsourced = "' unsourced",
                                   kPending = "' pending: ", kLibrary = "' reference: ", kCodePage = "' code page: ",
-                                  kOutput = "---";
+                                  kResource = "' resource: ", kOutput = "---";
 
 inline std::string trimmed(std::string text) {
     while (!text.empty() && std::isspace(static_cast<unsigned char>(text.back()))) text.pop_back();
@@ -42,7 +43,7 @@ inline std::vector<Case> readCases(const std::filesystem::path& path) {
     bool isOutput = false;
     for (std::string line; std::getline(in, line);) {
         if (line.starts_with(kTitle)) {
-            cases.push_back({path.stem().string(), line.substr(kTitle.size()), {}, {}, {}, {}, {}, 1252});
+            cases.push_back({path.stem().string(), line.substr(kTitle.size()), {}, {}, {}, {}, {}, {}, 1252});
             isOutput = false;
             continue;
         }
@@ -59,6 +60,8 @@ inline std::vector<Case> readCases(const std::filesystem::path& path) {
             last.library = line.substr(kLibrary.size());
         else if (isHead && line.starts_with(kCodePage))
             last.codePage = static_cast<std::uint32_t>(std::stoul(line.substr(kCodePage.size())));
+        else if (isHead && line.starts_with(kResource))
+            last.resources.push_back(line.substr(kResource.size()));
         else if (!isOutput && line == kOutput)
             isOutput = true;
         else

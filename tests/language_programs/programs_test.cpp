@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 #include <memory>
 #include <set>
+#include <sstream>
 
 namespace language_programs {
 

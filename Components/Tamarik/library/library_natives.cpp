@@ -20,6 +20,7 @@ void addLibrary(Natives& natives) {
     addSettings(natives);
     addObjectMakers(natives);
     addDeclared(natives);
+    addResources(natives);
     addTextStatements(natives);
     addRecordBytes(natives);
     addFileStatements(natives);

@@ -24,6 +24,8 @@ void addWholeParts(Natives& natives);
 void addObjectMakers(Natives& natives);
 /// Functions of the operating system that programs declare.
 void addDeclared(Natives& natives);
+/// LoadResString and its relatives.
+void addResources(Natives& natives);
 /// LSet, RSet and the Mid statement.
 void addTextStatements(Natives& natives);
 
