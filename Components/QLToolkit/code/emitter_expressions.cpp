@@ -52,6 +52,7 @@ Value Emitter::variantConstant(int kind, ValueType type, std::optional<std::uint
 Value Emitter::nothing() {
     const Value result{{ValueType::Nothing}, temporary({ValueType::Object})};
     out_.emit(Op::Clear, result.slot);
+    holdsNoObject(result.slot);
     return result;
 }
 

@@ -31,6 +31,14 @@ bool takesObjects(std::string_view name) {
                        [&](std::string_view each) { return basic::equalNoCase(each, name); });
 }
 
+/// Whether the result may be or hold an object: one that the function makes, or one that it is given.
+bool mayReturnObject(std::string_view name, const Callable& callable) {
+    return callable.result.value == ValueType::Object || takesObjects(name) ||
+           std::any_of(callable.parameters.begin(), callable.parameters.end(), [](const ParameterInfo& each) {
+               return each.paramArray || each.type.value == ValueType::Object;
+           });
+}
+
 } // namespace
 
 void Emitter::pass(NativeCall& call, const Value& value) {
@@ -81,6 +89,7 @@ Value Emitter::libraryCall(const Entity& entity, const Span<Argument>& given, co
     Value made = finish(call, name, libraryResult(callable));
     storeBack(call.list);
     if (callable.result.value == ValueType::Object) made.type = callable.result;
+    if (!mayReturnObject(name, callable)) holdsNoObject(made.slot);
     return made;
 }
 
