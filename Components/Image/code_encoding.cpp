@@ -181,7 +181,7 @@ std::vector<EncodedSection> encodeCode(const CodeImage& code) {
                                          {kTypeSection, encodeTypes(code)},
                                          {kClassSection, encodeClasses(code)},
                                          {kProcedureSection, encodeProcedures(code)},
-                                         {kCodeSection, encodeWords(code)},
+                                         {kCodeSection, encodeWords(code.code)},
                                          {kNumberSection, encodeNumbers(code)},
                                          {kImportSection, encodeImports(code)},
                                          {kLineSection, encodeLines(code.procedures)},
