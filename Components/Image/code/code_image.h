@@ -167,7 +167,7 @@ struct CodeImage {
     std::vector<Import> imports;
     std::vector<CodeModule> modules;
     std::vector<Resource> resources; ///< in their order
-    std::uint32_t start = kNone; ///< Sub Main
+    std::uint32_t start = kNone;     ///< Sub Main
     std::uint32_t codePage = 1252;
     friend bool operator==(const CodeImage&, const CodeImage&) = default;
 };

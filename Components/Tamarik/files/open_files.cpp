@@ -41,6 +41,7 @@ void OpenFiles::open(std::string_view path, std::int32_t number, const Wish& wis
 
 std::shared_ptr<OpenFile> OpenFiles::openStream(const std::string& stored, FileMode mode) {
     std::erase_if(streams_, [](const auto& each) { return each.expired(); });
+    if (streams_.size() >= kMostFiles) throw basic::RuntimeError(basic::kTooManyFiles);
     std::shared_ptr<OpenFile> stream = opened(stored, {mode, FileAccess::Default, 0});
     streams_.push_back(stream);
     return stream;

@@ -24,6 +24,7 @@ public:
     /// Errors 52, 53, 55, 59, 67, 70, 75 and 76.
     void open(std::string_view path, std::int32_t number, const Wish& wish);
     /// Opens a file that has no number, by its path in the store. It counts as open until nothing refers to it.
+    /// Errors as above.
     [[nodiscard]] std::shared_ptr<OpenFile> openStream(const std::string& stored, FileMode mode);
     /// Does nothing for a number that is not in use.
     void close(std::int32_t number);

@@ -82,10 +82,7 @@ std::string pathOfName(const Session& session, const std::string& folder, std::u
 void copyFile(Session& session, const std::string& source, const std::string& target, bool replaces) {
     FileStore& store = session.files.store();
     demand(!isFolder(session, target) && source != target, basic::kPermissionDenied);
-    if (const auto old = store.find(target)) {
-        demand(replaces, basic::kFileAlreadyExists);
-        demand(!old->isReadOnly, basic::kPermissionDenied);
-    }
+    demand(replaces || !store.find(target), basic::kFileAlreadyExists);
     requireClosed(session, source);
     requireClosed(session, target);
     session.charge(kEntryBytes + copyContents(store, source, target));
