@@ -2,6 +2,7 @@
 #include "Components/Image/image_bytes.h"
 #include "Components/Image/image_format.h"
 #include "Components/Image/line_bytes.h"
+#include "Components/Image/word_bytes.h"
 #include <algorithm>
 
 namespace image {
@@ -83,10 +84,21 @@ void decodeTypes(CodeReader r, CodeImage& code) {
     r.end();
 }
 
+void readParameter(CodeReader& r, MemberParameter& parameter) {
+    parameter.name = r.number();
+    parameter.type = r.base();
+    const auto isOptional = r.in.u8();
+    if (isOptional > 1) imageIsDamaged("an unknown kind");
+    parameter.isOptional = isOptional != 0;
+    parameter.byDefault.type = r.base();
+    if (parameter.byDefault.type == BaseType::None) return;
+    const std::uint64_t low = r.number();
+    parameter.byDefault.bits = low | std::uint64_t{r.number()} << 32;
+}
+
 void readMember(CodeReader& r, ClassMember& member) {
     member.name = r.number();
     member.target = r.number();
-    member.optional = r.number();
     const auto use = r.in.u8(), flags = r.in.u8();
     if (use > std::uint8_t(MemberUse::Field) || flags > (kPublicFlag | kParamArrayFlag))
         imageIsDamaged("an unknown kind");
@@ -94,7 +106,7 @@ void readMember(CodeReader& r, ClassMember& member) {
     member.isPublic = (flags & kPublicFlag) != 0;
     member.hasParamArray = (flags & kParamArrayFlag) != 0;
     member.result = r.base();
-    r.list(member.parameters, 1, [&](BaseType& type) { type = r.base(); });
+    r.list(member.parameters, 7, [&](MemberParameter& parameter) { readParameter(r, parameter); });
 }
 
 void readSink(CodeReader& r, EventSink& sink) {
@@ -112,7 +124,7 @@ void decodeClasses(CodeReader r, CodeImage& code) {
                             &each.defaultMember, &each.enumerator, &each.predeclared})
             *value = r.number();
         r.variables(each.fields);
-        r.list(each.members, 19, [&](ClassMember& member) { readMember(r, member); });
+        r.list(each.members, 15, [&](ClassMember& member) { readMember(r, member); });
         r.list(each.implementations, 2 * kWord, [&](Implementation& implementation) {
             implementation.interface = r.number();
             r.numbers(implementation.procedures);
@@ -141,12 +153,14 @@ void decodeProcedures(CodeReader r, CodeImage& code) {
     r.end();
 }
 
-template <class T>
-void decodeWords(Reader in, std::vector<T>& words) {
-    if (in.rest().size() % sizeof(T) != 0) imageIsDamaged("a section is too long");
-    words.resize(in.rest().size() / sizeof(T));
-    for (auto& word : words)
-        for (const unsigned char byte : in.raw(sizeof(T))) word = word >> 8 | T(byte) << (8 * (sizeof(T) - 1));
+void decodeNumbers(Reader in, std::vector<std::uint64_t>& numbers) {
+    constexpr std::size_t kSize = sizeof(std::uint64_t);
+    if (in.rest().size() % kSize != 0) imageIsDamaged("a section is too long");
+    numbers.resize(in.rest().size() / kSize);
+    for (auto& number : numbers) {
+        const std::uint64_t low = in.u32();
+        number = low | std::uint64_t{in.u32()} << 32;
+    }
 }
 
 void decodeImports(CodeReader r, CodeImage& code) {
@@ -170,8 +184,8 @@ CodeImage decodeCode(const Sections& sections, const std::vector<SharedText>& st
     decodeGlobals({reader(kGlobalSection)}, strings, code);
     decodeTypes({reader(kTypeSection)}, code);
     decodeClasses({reader(kClassSection)}, code);
-    decodeWords(reader(kCodeSection), code.code);
-    decodeWords(reader(kNumberSection), code.numbers);
+    code.code = decodeWords(reader(kCodeSection));
+    decodeNumbers(reader(kNumberSection), code.numbers);
     decodeProcedures({reader(kProcedureSection)}, code);
     decodeImports({reader(kImportSection)}, code);
     decodeLines(reader(kLineSection), code.procedures);

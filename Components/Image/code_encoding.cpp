@@ -3,6 +3,7 @@
 #include "Components/Image/image_bytes.h"
 #include "Components/Image/image_format.h"
 #include "Components/Image/line_bytes.h"
+#include "Components/Image/word_bytes.h"
 
 namespace image {
 
@@ -70,14 +71,24 @@ std::string encodeTypes(const CodeImage& code) {
     return w.out.bytes();
 }
 
+void writeParameter(CodeWriter& w, const MemberParameter& parameter) {
+    const DefaultValue& value = parameter.byDefault;
+    w.number(parameter.name);
+    w.out.u8(std::uint8_t(parameter.type));
+    w.out.u8(std::uint8_t(parameter.isOptional));
+    w.out.u8(std::uint8_t(value.type));
+    if (value.type == BaseType::None) return;
+    w.number(std::uint32_t(value.bits));
+    w.number(std::uint32_t(value.bits >> 32));
+}
+
 void writeMember(CodeWriter& w, const ClassMember& member) {
     w.number(member.name);
     w.number(member.target);
-    w.number(member.optional);
     w.out.u8(std::uint8_t(member.use));
     w.out.u8(std::uint8_t((member.isPublic ? kPublicFlag : 0) | (member.hasParamArray ? kParamArrayFlag : 0)));
     w.out.u8(std::uint8_t(member.result));
-    w.list(member.parameters, [&](BaseType type) { w.out.u8(std::uint8_t(type)); });
+    w.list(member.parameters, [&](const MemberParameter& parameter) { writeParameter(w, parameter); });
 }
 
 void writeSink(CodeWriter& w, const EventSink& sink) {
@@ -126,12 +137,6 @@ std::string encodeProcedures(const CodeImage& code) {
     return w.out.bytes();
 }
 
-std::string encodeWords(const CodeImage& code) {
-    Writer out;
-    for (const auto word : code.code) out.u32(word);
-    return out.bytes();
-}
-
 std::string encodeNumbers(const CodeImage& code) {
     Writer out;
     for (const auto number : code.numbers) {
@@ -159,7 +164,7 @@ std::vector<EncodedSection> encodeCode(const CodeImage& code) {
             {kTypeSection, encodeTypes(code)},
             {kClassSection, encodeClasses(code)},
             {kProcedureSection, encodeProcedures(code)},
-            {kCodeSection, encodeWords(code)},
+            {kCodeSection, encodeWords(code.code)},
             {kNumberSection, encodeNumbers(code)},
             {kImportSection, encodeImports(code)},
             {kLineSection, encodeLines(code.procedures)},

@@ -66,6 +66,19 @@ class Programs(unittest.TestCase):
         self.assertEqual((self.home.work / "own/out.txt").read_bytes(), b"text\r\n")
         self.assertEqual(self.home.fernwick("run", "Loop.vbp", "--files", "none").returncode, 2)
 
+    def test_end_closes_files(self):
+        self.program('Open "out.txt" For Output As #1: Print #1, "text": End')
+        (self.home.work / "own").mkdir()
+        done = self.home.fernwick("run", "Loop.vbp", "--files", "own")
+        self.assertEqual((done.returncode, done.stderr), (0, ""))
+        self.assertEqual((self.home.work / "own/out.txt").read_bytes(), b"text\r\n")
+
+    def test_stop_ends_with_its_place(self):
+        self.program("Stop")
+        stopped = self.home.fernwick("run", "Loop.vbp")
+        self.assertEqual((stopped.returncode, stopped.stdout), (1, ""))
+        self.assertRegex(stopped.stderr, r"Loop\.bas:6: Stop\n  in Main\n")
+
     def test_a_seed_chooses_the_random_numbers(self):
         self.program("Debug.Print Int(Rnd * 1000000): Exit Do")
         first, same, other = (self.home.fernwick("run", "Loop.vbp", "--seed", seed).stdout for seed in ("1", "1", "2"))

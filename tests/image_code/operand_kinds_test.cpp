@@ -69,6 +69,7 @@ std::vector<std::uint32_t> good(Op op) {
     case Op::CallInterface:
         return with(image::kNoSlot, 0, 2, {1, encodeArgument(Pass::Object, kO) | std::uint32_t(kL) << 16});
     case Op::CallNative: return with(image::kNoSlot, 0, 0, {1});
+    case Op::CallByName: return with(image::kNoSlot, kV, 2, {kV | std::uint32_t(kV) << 16});
     case Op::CallLate: return with(image::kNoSlot, kV, 0, {0, 0});
     case Op::RaiseEvent: return with(0, kShape, 2, {0, kL | std::uint32_t(encodeArgument(Pass::Address, kT)) << 16});
     default: break;

@@ -481,6 +481,22 @@ TEST(VerifyCode, RefusesCallsOfWhatDoesNotExist) {
               "instruction 0 (RaiseEvent): passes 1 arguments for 2 parameters");
 }
 
+TEST(VerifyCode, RefusesCallsByNameWithoutANameAndType) {
+    EXPECT_EQ(of({encode(Op::CallByName, kV, kV, 2), arguments(kV, kV)}), "");
+    EXPECT_EQ(of({encode(Op::CallByName, kV, kV, 1), kV}), "instruction 0 (CallByName): has no name or type of call");
+    EXPECT_EQ(of({encode(Op::CallByName, kV, kV, 2), arguments(kV, kL)}),
+              "instruction 0 (CallByName): names slot 0, which is Long and not Variant");
+}
+
+TEST(VerifyCode, AcceptsErrorValuesInTwoConversions) {
+    const auto flagged = [](image::BaseType type) { return std::uint32_t(type) | image::kTakesErrors; };
+    EXPECT_EQ(of({encode(Op::VariantToLong, kL, kV, flagged(image::BaseType::Integer))}), "");
+    EXPECT_EQ(of({encode(Op::VariantToLong, kL, kV, flagged(image::BaseType::Double))}),
+              "instruction 0 (VariantToLong): has 134 as the type in operand C");
+    EXPECT_EQ(of({encode(Op::LongToVariant, kV, kL, flagged(image::BaseType::Long))}),
+              "instruction 0 (LongToVariant): has 132 as the type in operand C");
+}
+
 TEST(VerifyCode, RefusesWrongLateCalls) {
     const auto late = [](std::uint32_t name, std::uint32_t use, std::uint32_t named, std::uint32_t count,
                          std::vector<std::uint32_t> rest, std::uint32_t result = kV) {
@@ -494,6 +510,8 @@ TEST(VerifyCode, RefusesWrongLateCalls) {
     EXPECT_EQ(late(0, 4, 0, 0, {}), "instruction 0 (CallLate): uses a member in an unknown way");
     EXPECT_EQ(late(0, std::uint32_t(LateUse::Set), 0, 0, {}), "instruction 0 (CallLate): assigns no value");
     EXPECT_EQ(late(0, 0, 1, 0, {0}), "instruction 0 (CallLate): has more names than arguments");
+    EXPECT_EQ(late(0, std::uint32_t(LateUse::Let), 1, 1, {0, kV}),
+              "instruction 0 (CallLate): has more names than arguments");
     EXPECT_EQ(late(0, 0, 1, 1, {99, kV}), "instruction 0 (CallLate): names text 99, which does not exist");
     EXPECT_EQ(late(0, 0, 0, 1, {kL}), "instruction 0 (CallLate): names slot 0, which is Long and not Variant");
     EXPECT_EQ(late(0, 0, 0, 1, {arguments(kV, 1)}), "instruction 0 (CallLate): has half a word that must be 0");

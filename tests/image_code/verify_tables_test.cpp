@@ -1,4 +1,8 @@
 #include "tests/image_code/verify_world.h"
+#include <bit>
+#include <limits>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -150,10 +154,29 @@ TEST(VerifyTables, RefuseMembersThatAreNotWhatTheySay) {
               "class Shape has Module1.Main as member Draw, which does not begin with an object of the class");
     EXPECT_EQ(member([](auto& m) { m.target = 4; }),
               "class Shape has Module1.Shape_Draw as member Draw, which does not begin with an object of the class");
-    EXPECT_EQ(member([](auto& m) { m.parameters = {BaseType::Double}; }),
+    EXPECT_EQ(member([](auto& m) { m.parameters = {{BaseType::Double}}; }),
               "class Shape has Module1.Draw as member Draw, which has other parameters");
-    EXPECT_EQ(member([](auto& m) { m.optional = 2; }),
-              "class Shape has Module1.Draw as member Draw, which has other parameters");
+    EXPECT_EQ(member([](auto& m) { m.parameters[0].name = 999; }),
+              "class Shape has member Draw with a parameter without a name");
+    const auto byDefault = [&](BaseType type, std::uint64_t bits) {
+        return member([&](auto& m) { m.parameters[0].byDefault = {type, bits}; });
+    };
+    const auto infinity = std::bit_cast<std::uint64_t>(std::numeric_limits<double>::infinity());
+    const auto late = std::bit_cast<std::uint64_t>(2958466.0);
+    EXPECT_EQ(byDefault(BaseType::Integer, 0xFFFF8000), "");
+    EXPECT_EQ(byDefault(BaseType::Variant, 1), "");
+    for (const auto& [type, bits] : std::vector<std::pair<BaseType, std::uint64_t>>{{BaseType::Boolean, 1},
+                                                                                    {BaseType::Byte, 256},
+                                                                                    {BaseType::Integer, 0x8000},
+                                                                                    {BaseType::Single, infinity},
+                                                                                    {BaseType::Double, infinity},
+                                                                                    {BaseType::Date, late},
+                                                                                    {BaseType::Text, 999},
+                                                                                    {BaseType::Variant, 2},
+                                                                                    {BaseType::Object, 0}})
+        EXPECT_EQ(byDefault(type, bits), "class Shape has member Draw with a default value that does not exist");
+    EXPECT_EQ(member([](auto& m) { m.result = BaseType::Record; }),
+              "class Shape has Module1.Draw as member Draw, which has another result");
     EXPECT_EQ(member([](auto& m) { m.result = BaseType::None; }),
               "class Shape has Module1.Draw as member Draw, which has another result");
     EXPECT_EQ(member([](auto& m) { m.hasParamArray = true; }),
@@ -166,7 +189,7 @@ TEST(VerifyTables, RefuseMembersThatAreNotWhatTheySay) {
                   "class Shape has member Size for slot " + std::to_string(slot) + ", which is no field");
     EXPECT_EQ(field([](auto& m) { m.target = 3; }), "class Shape has member Size for slot 3, which is no field");
     EXPECT_EQ(field([](auto& m) { m.target = 1; }), "class Shape has member Size, which does not match its field");
-    EXPECT_EQ(field([](auto& m) { m.parameters = {BaseType::Long}; }),
+    EXPECT_EQ(field([](auto& m) { m.parameters = {{BaseType::Long}}; }),
               "class Shape has member Size, which does not match its field");
 }
 

@@ -125,7 +125,7 @@ private:
         shape.name = text("Shape");
         shape.module = 1;
         shape.fields = {{kLong}, {kVariant}, {record(0)}, {kObject}};
-        shape.members = {{text("Draw"), image::MemberUse::Method, true, draw, {BaseType::Integer}, BaseType::Text},
+        shape.members = {{text("Draw"), image::MemberUse::Method, true, draw, {{BaseType::Integer}}, BaseType::Text},
                          {text("Size"), image::MemberUse::Field, true, 0, {}, BaseType::Integer}};
         shape.events = {{text("Moved"), {kLong, referenceTo(kText)}}};
         shape.initialize = addProcedure(code, {"Class_Initialize", {object(1)}, 1});
@@ -135,7 +135,7 @@ private:
         circle.module = 2;
         circle.fields = {{object(1)}, {kText}};
         circle.members = {
-            {text("Paint"), image::MemberUse::Method, true, drawCircle, {BaseType::Long}, BaseType::Text}};
+            {text("Paint"), image::MemberUse::Method, true, drawCircle, {{BaseType::Long}}, BaseType::Text}};
         circle.implementations = {{1, {drawCircle, image::kNone}}};
         circle.sinks = {{0, 1, {{0, handler}}}};
         circle.enumerator = next;

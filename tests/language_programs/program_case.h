@@ -17,6 +17,7 @@ namespace language_programs {
 
 struct Case {
     std::string file, title, source, pending;
+    std::string library; ///< which the project refers to; may be empty
     std::string code, expected;
     std::uint32_t codePage = 1252;
 
@@ -26,7 +27,8 @@ struct Case {
 };
 
 inline constexpr std::string_view kTitle = "=== ", kSource = "' source: ", kUnsourced = "' unsourced",
-                                  kPending = "' pending: ", kCodePage = "' code page: ", kOutput = "---";
+                                  kPending = "' pending: ", kCodePage = "' code page: ",
+                                  kLibrary = "' reference: ", kOutput = "---";
 
 inline std::string trimmed(std::string text) {
     while (!text.empty() && std::isspace(static_cast<unsigned char>(text.back()))) text.pop_back();
@@ -40,7 +42,7 @@ inline std::vector<Case> readCases(const std::filesystem::path& path) {
     bool isOutput = false;
     for (std::string line; std::getline(in, line);) {
         if (line.starts_with(kTitle)) {
-            cases.push_back({path.stem().string(), line.substr(kTitle.size()), {}, {}, {}, {}, 1252});
+            cases.push_back({path.stem().string(), line.substr(kTitle.size()), {}, {}, {}, {}, {}, 1252});
             isOutput = false;
             continue;
         }
@@ -55,6 +57,8 @@ inline std::vector<Case> readCases(const std::filesystem::path& path) {
             last.pending = line.substr(kPending.size());
         else if (isHead && line.starts_with(kCodePage))
             last.codePage = static_cast<std::uint32_t>(std::stoul(line.substr(kCodePage.size())));
+        else if (isHead && line.starts_with(kLibrary))
+            last.library = line.substr(kLibrary.size());
         else if (!isOutput && line == kOutput)
             isOutput = true;
         else

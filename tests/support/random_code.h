@@ -196,7 +196,7 @@ private:
         auto& member = made.members.emplace_back();
         member.name = text("Work");
         member.target = work;
-        for (const auto type : parameters) member.parameters.push_back(type.base);
+        for (const auto type : parameters) member.parameters.push_back({type.base});
         member.result = result.base;
         const auto source = made.fields[0].type.id;
         const auto handler = method("source_Changed", code_.classes[source - 1].events[0].parameters, {});
@@ -350,7 +350,7 @@ private:
         std::uint32_t count = 0;
         for (std::size_t i = 0; i < 3; ++i) {
             const auto operand = info.operands[i];
-            if (operand == Operand::CountC) values[i] = count = 1 + below(3);
+            if (operand == Operand::CountC) values[i] = count = (op == Op::CallByName ? 2 : 1) + below(3);
             if (operand == Operand::BaseType) values[i] = std::uint32_t(kindFor(info));
             if (operand == Operand::Unsigned) values[i] = below(2);
             if (operand == Operand::Signed || operand == Operand::SignedBC) values[i] = below(256);
@@ -609,7 +609,7 @@ private:
         return image::encode(Op::RaiseEvent, 0, b->number, std::uint32_t(parameters.size()));
     }
     Made callLate() {
-        const auto use = below(4), count = below(4) + (use >= 2 ? 1 : 0), named = below(count + 1);
+        const auto use = below(4), given = below(4), named = below(given + 1), count = given + (use >= 2 ? 1 : 0);
         push(once(4) ? image::kNone : text("Work"));
         push(use | named << 8);
         for (std::uint32_t i = 0; i < named; ++i) push(below(code_.texts.size()));

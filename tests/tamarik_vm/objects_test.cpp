@@ -134,7 +134,7 @@ TEST_F(Objects, FailWhereNothingIsUsed) {
 TEST_F(Objects, CallMembersByName) {
     Code& twice = method("Twice", image::MemberUse::Get);
     const auto p = twice.parameter(refTo(BaseType::Long)), result = twice.result(kLongSlot), n = twice.add(kLongSlot);
-    thing().members.back().parameters = {BaseType::Long};
+    thing().members.back().parameters = {{BaseType::Long}};
     thing().members.back().result = BaseType::Long;
     twice.op(Op::LoadLongRef, n, p).op(Op::AddLong, result, n, n).op(Op::StoreLongRef, result, p).op(Op::Return);
     make(o[0], "a");

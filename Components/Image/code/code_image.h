@@ -71,15 +71,29 @@ struct Procedure {
 
 enum class MemberUse : std::uint8_t { Method, Get, Let, Set, Field };
 
+/// What an omitted parameter has. None: a Variant is Missing, others are zero, empty or Nothing.
+struct DefaultValue {
+    BaseType type = BaseType::None; ///< Variant: the bits are a kind, 0 for Empty or 1 for Null
+    std::uint64_t bits = 0;         ///< a whole number, the bits of a fraction, a Currency, or the number of a text
+    friend bool operator==(const DefaultValue&, const DefaultValue&) = default;
+};
+
+struct MemberParameter {
+    BaseType type = BaseType::None; ///< as declared, which the slots do not show: Integer, Boolean, ...
+    std::uint32_t name = kNone;     ///< a text
+    bool isOptional = false;
+    DefaultValue byDefault{};
+    friend bool operator==(const MemberParameter&, const MemberParameter&) = default;
+};
+
 /// A member of a class as late binding finds it.
 struct ClassMember {
     std::uint32_t name = kNone;
     MemberUse use = MemberUse::Method;
     bool isPublic = true;
-    std::uint32_t target = 0;         ///< a procedure; the slot of a Field
-    std::vector<BaseType> parameters; ///< as declared, which the slots do not show: Integer, Boolean, ...
-    BaseType result = BaseType::None;
-    std::uint32_t optional = 0; ///< how many of the last parameters may be omitted
+    std::uint32_t target = 0; ///< a procedure; the slot of a Field
+    std::vector<MemberParameter> parameters;
+    BaseType result = BaseType::None; ///< Record: the procedure writes it to what its first parameter refers to
     bool hasParamArray = false;
     friend bool operator==(const ClassMember&, const ClassMember&) = default;
 };

@@ -13,6 +13,9 @@ enum class Op : std::uint8_t {
 #undef INSTRUCTION
 };
 
+/// Added to the type in C of VariantToLong and VariantToFloat: an error value is its number, as for CLng.
+inline constexpr std::uint32_t kTakesErrors = 0x80;
+
 /// What A, B or C of an instruction is. Read... and Write... name a slot of this type; None must be 0.
 enum class Operand : std::uint8_t {
     None,

@@ -1,6 +1,6 @@
 #include "Components/Image/listing/operand_text.h"
+#include "Basic/elementary/real_digits.h"
 #include <bit>
-#include <charconv>
 
 namespace image {
 
@@ -11,13 +11,6 @@ std::string quoted(const CodeImage& code, std::uint32_t text) {
     std::string quoted = "\"";
     for (const char c : textNumbered(code, text)) quoted += c == '"' ? "\"\"" : std::string(1, c);
     return quoted + "\"";
-}
-
-/// The shortest text that gives the number.
-std::string doubleText(double value) {
-    char digits[32];
-    const auto end = std::to_chars(std::begin(digits), std::end(digits), value).ptr;
-    return {digits, end};
 }
 
 std::string currencyText(std::uint64_t bits) {
@@ -60,7 +53,9 @@ std::string OperandText::operand(std::size_t index) const {
     case Operand::NumberB:
     case Operand::NumberC: return number(value);
     case Operand::NumberBC: return number(word_.bc());
-    case Operand::BaseType: return std::string(nameOf(static_cast<BaseType>(value)));
+    case Operand::BaseType:
+        return std::string(nameOf(static_cast<BaseType>(value & ~kTakesErrors))) +
+               ((value & kTakesErrors) != 0 ? " or error" : "");
     case Operand::OffsetC:
     case Operand::FieldC: return "field " + std::to_string(value);
     case Operand::Result:
@@ -74,7 +69,7 @@ std::string OperandText::number(std::uint32_t offset) const {
     if (index >= code_.numbers.size()) return "?";
     const auto bits = code_.numbers[index];
     const bool isCurrency = static_cast<Op>(word_.op) == Op::LoadCurrency;
-    return isCurrency ? currencyText(bits) : doubleText(std::bit_cast<double>(bits));
+    return isCurrency ? currencyText(bits) : basic::shortestText(std::bit_cast<double>(bits));
 }
 
 std::string OperandText::extra() const {

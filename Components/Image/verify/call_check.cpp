@@ -111,7 +111,7 @@ void CodeCheck::checkLate(const Place& place) const {
     if (use > std::uint32_t(LateUse::Set)) refuseHere("uses a member in an unknown way");
     const bool assigns = use >= std::uint32_t(LateUse::Let);
     if (assigns && place.word.c == 0) refuseHere("assigns no value");
-    if (named > place.word.c) refuseHere("has more names than arguments");
+    if (named + (assigns ? 1U : 0U) > place.word.c) refuseHere("has more names than arguments");
     for (std::size_t i = 0; i < named; ++i) checkText(place.words[1 + kLateHeadWords + i]);
     checkSlots(place, 1 + kLateHeadWords + named, place.word.c, BaseType::Variant);
 }

@@ -1,11 +1,17 @@
 #include "Components/Image/verify/table_checks.h"
 #include "Components/Image/verify/type_rules.h"
 #include <algorithm>
+#include <bit>
+#include <cmath>
+#include <limits>
 #include <span>
 
 namespace image {
 
 namespace {
+
+/// The days around those of the years 100 to 9999.
+constexpr double kBeforeDates = -657435, kAfterDates = 2958466;
 
 /// Checks a class: what the runtime calls by itself must take what the runtime passes.
 class ClassCheck {
@@ -74,17 +80,44 @@ private:
     }
     void checkMethod(const std::string& use, const ClassMember& member) const {
         const auto parameters = ownParameters(use, member.target);
-        const auto matches = [](BaseType declared, const SlotVariable& parameter) {
-            return slotBase(declared) == slotBase(parameter.type.base);
+        const auto matches = [](const MemberParameter& declared, const SlotVariable& parameter) {
+            return slotBase(declared.type) == slotBase(parameter.type.base);
         };
-        if (!std::ranges::equal(member.parameters, parameters, matches) || member.optional > parameters.size())
+        if (!std::ranges::equal(member.parameters, parameters, matches))
             refuseProcedure(use, member.target, "has other parameters");
-        if (slotBase(member.result) != slotBase(tables_.results[member.target].base))
+        for (const auto& parameter : member.parameters) checkParameter(use, parameter);
+        const auto result = tables_.results[member.target];
+        const bool writesRecord = member.result == BaseType::Record && result == SlotType{} && !parameters.empty() &&
+                                  parameters[0].type.form == TypeForm::Reference;
+        if (slotBase(member.result) != slotBase(result.base) && !writesRecord)
             refuseProcedure(use, member.target, "has another result");
         const bool assigns = member.use == MemberUse::Let || member.use == MemberUse::Set;
         if (assigns && parameters.empty()) refuseProcedure(use, member.target, "takes no value");
         if (member.hasParamArray && !takesVariants(parameters))
             refuseProcedure(use, member.target, "does not end with an array of Variants");
+    }
+    void checkParameter(const std::string& use, const MemberParameter& parameter) const {
+        if (parameter.name != kNone && parameter.name >= code_.texts.size())
+            refuseClass("has " + use + " with a parameter without a name");
+        if (!isDefault(parameter.byDefault)) refuseClass("has " + use + " with a default value that does not exist");
+    }
+    [[nodiscard]] bool isDefault(const DefaultValue& value) const {
+        const auto number = static_cast<std::int32_t>(value.bits);
+        const auto fraction = std::bit_cast<double>(value.bits);
+        switch (value.type) {
+        case BaseType::None:
+        case BaseType::Currency: return true;
+        case BaseType::Boolean: return number == 0 || number == -1;
+        case BaseType::Byte: return number >= 0 && number <= 255;
+        case BaseType::Integer: return number == static_cast<std::int16_t>(number);
+        case BaseType::Long: return true;
+        case BaseType::Single: return std::abs(fraction) <= double{std::numeric_limits<float>::max()};
+        case BaseType::Double: return std::isfinite(fraction);
+        case BaseType::Date: return fraction > kBeforeDates && fraction < kAfterDates;
+        case BaseType::Text: return value.bits < code_.texts.size();
+        case BaseType::Variant: return value.bits <= 1;
+        default: return false;
+        }
     }
     static bool takesVariants(std::span<const SlotVariable> parameters) {
         return !parameters.empty() && parameters.back().type == SlotType{BaseType::Variant, TypeForm::Array};

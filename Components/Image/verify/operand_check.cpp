@@ -68,8 +68,10 @@ void CodeCheck::checkNumber(const Place& place) const {
 void CodeCheck::checkBaseType(const Place& place) const {
     const auto& operands = place.info().operands;
     const bool isWhole = operands[0] == Operand::WriteLong || operands[1] == Operand::ReadLong;
-    const auto kind = static_cast<BaseType>(place.word.c);
-    if (place.word.c >= kBaseTypes || !(isWhole ? isWholeKind(kind) : isFloatKind(kind)))
+    const bool mayTakeErrors = place.op() == Op::VariantToLong || place.op() == Op::VariantToFloat;
+    const auto number = mayTakeErrors ? place.word.c & ~kTakesErrors : std::uint32_t{place.word.c};
+    const auto kind = static_cast<BaseType>(number);
+    if (number >= kBaseTypes || !(isWhole ? isWholeKind(kind) : isFloatKind(kind)))
         refuseHere("has " + std::to_string(place.word.c) + " as the type in operand C");
 }
 
@@ -119,6 +121,7 @@ void CodeCheck::checkExtra(const Place& place) {
         for (std::size_t i = 1; i < place.words.size(); ++i) markTarget(place.words[i]);
         return;
     case Extra::Slots:
+        if (place.op() == Op::CallByName && place.word.c < 2) refuseHere("has no name or type of call");
         if (place.op() == Op::ReDim) return checkIndexes(place, 1, std::size_t{2} * place.word.c, BaseType::Long);
         return checkIndexes(place, 1, place.word.c, place.op() == Op::FindElement ? BaseType::Long : BaseType::Variant);
     case Extra::TypeAndSlots:

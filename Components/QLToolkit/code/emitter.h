@@ -57,6 +57,8 @@ struct PassedArgument {
     /// Where a temporary that was passed in the place of a variable is stored after the call.
     std::optional<Place> storedTo;
     Value temporary;
+    /// Of a ParamArray, which `temporary` holds: the variables that its elements are, by their places.
+    std::vector<std::pair<std::uint32_t, Place>> elements = {};
 };
 
 class Emitter {
@@ -182,6 +184,7 @@ private:
     Value floatConstant(double value, std::optional<std::uint32_t> target, ValueType type = ValueType::Double);
     Value textConstant(const std::string& value, std::optional<std::uint32_t> target = {});
     Value variantConstant(int kind, ValueType type, std::optional<std::uint32_t> target = {});
+    Value missing();
     Value nothing();
     Value binary(const Expr& expr, std::optional<std::uint32_t> target);
     Value operate(const BinaryExpr& expr, const Value& left, std::optional<std::uint32_t> target);
@@ -214,6 +217,7 @@ private:
     Value toCurrency(const Value& value, std::optional<std::uint32_t> target);
     Value toText(const Value& value, std::optional<std::uint32_t> target);
     Value toVariant(const Value& value, std::optional<std::uint32_t> target);
+    std::optional<Value> explicitConversion(const Expr& expr, ValueType to);
     Value narrow(const Value& value, ValueType to, std::optional<std::uint32_t> target);
     Value moved(const Value& value, std::uint32_t slot);
     void holdsNoObject(std::uint32_t temporary);
@@ -244,20 +248,29 @@ private:
     std::uint32_t memberNumber(const Entity& entity, const Callable& callable) const;
     PassedArgument argument(const Expr* given, const ParameterInfo& parameter, bool byVal);
     PassedArgument referenceArgument(const Expr& given, const ParameterInfo& parameter);
-    PassedArgument omitted(const ParameterInfo& parameter);
-    PassedArgument paramArray(const Span<Argument>& given, std::uint32_t first, std::int32_t base);
+    PassedArgument omitted(const Callable& callable, const ParameterInfo& parameter);
+    PassedArgument paramArray(const Span<Argument>& given, std::uint32_t first, std::int32_t base, bool refers);
+    void passElement(PassedArgument& list, std::uint32_t index, const Expr& given);
+    void storeElementBack(const Value& list, std::uint32_t index, const Place& variable);
     PassedArgument copied(const Place& variable, const Value& value, const ParameterInfo& parameter);
     PassedArgument passArray(const Expr& given, const Type& type);
     std::uint16_t passed(const Value& value);
     std::uint16_t passed(const Value& value, image::SlotType type);
+    Value callByName(const Span<Argument>& given);
+    std::vector<PassedArgument> lateArguments(const Span<Argument>& given, std::uint32_t first, bool isOfLibrary,
+                                              std::vector<std::uint16_t>& slots);
     PassedArgument lateArgument(const Expr& given, bool isOfLibrary);
-    ParameterInfo lastParameter(const ProcedureDecl& decl, const Type& type) const;
+    static std::size_t parameterOf(const Callable& callable, const Span<Argument>& given, std::uint32_t i);
+    Value variableId(const Expr& given);
+    [[nodiscard]] bool isVariable(const Expr& given) const;
     Value declaredCall(const Entity& entity, const Span<Argument>& given);
+    std::optional<std::vector<ParameterInfo>> answeredParameters(const Entity& entity,
+                                                                 const Span<Argument>& given) const;
     static std::uint16_t passedAddress(std::uint32_t slot) { return image::encodeArgument(image::Pass::Address, slot); }
     void storeBack(const std::vector<PassedArgument>& passed);
     void arguments(const Callable& callable, const Span<Argument>& given, std::vector<PassedArgument>& list,
                    std::int32_t base = 0);
-    Value defaultOf(const ParameterInfo& parameter);
+    Value defaultOf(const Callable& callable, const ParameterInfo& parameter);
     Value objectOf(const Expr* base);
     Value me();
     Value fail(int error, const Type& type);

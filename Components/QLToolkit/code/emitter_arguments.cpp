@@ -12,8 +12,6 @@ using image::Pass;
 
 namespace {
 
-constexpr int kMissing = 10;
-
 Pass passOf(image::SlotType type, bool takes) {
     if (type.form == image::TypeForm::Reference || type.form == image::TypeForm::ArrayReference)
         return takes ? Pass::TakePair : Pass::Ref;
@@ -34,12 +32,21 @@ bool isSameVariable(const Type& variable, const Type& parameter) {
 } // namespace
 
 /// A value in a slot of the parameter's type.
-std::uint16_t Emitter::passed(const Value& value) {
-    const auto type = layout_.slotTypeOf(value.type);
+std::uint16_t Emitter::passed(const Value& value) { return passed(value, layout_.slotTypeOf(value.type)); }
+
+std::uint16_t Emitter::passed(const Value& value, image::SlotType type) {
     const bool takes = value.isTemporary && isManaged(type);
-    for (auto& each : slots_.inUse())
-        if (takes && each.slot == value.slot) each.mustClear = false;
+    if (takes) holdsNoObject(value.slot);
     return image::encodeArgument(passOf(type, takes), value.slot);
+}
+
+/// The place of the parameter for an argument, which may be past the last one.
+std::size_t Emitter::parameterOf(const Callable& callable, const Span<Argument>& given, std::uint32_t i) {
+    if (given[i].name == Symbol::None) return i;
+    const auto& parameters = callable.parameters;
+    std::size_t at = 0;
+    while (at < parameters.size() && parameters[at].name != given[i].name) ++at;
+    return at;
 }
 
 /// Fills the parameters in their order; arguments are computed in the order in which they are written. `base` is the lower
@@ -51,9 +58,7 @@ void Emitter::arguments(const Callable& callable, const Span<Argument>& given, s
     list.resize(first + parameters.size());
     std::vector<bool> filled(parameters.size());
     for (std::uint32_t i = 0; i < given.size(); ++i) {
-        std::size_t at = i;
-        if (given[i].name != Symbol::None)
-            for (at = 0; at < parameters.size() && parameters[at].name != given[i].name;) ++at;
+        const std::size_t at = parameterOf(callable, given, i);
         if (at >= parameters.size() || parameters[at].paramArray || !given[i].value) {
             if (at < parameters.size() && parameters[at].paramArray) break;
             continue;
@@ -63,9 +68,9 @@ void Emitter::arguments(const Callable& callable, const Span<Argument>& given, s
     }
     for (std::size_t i = 0; i < parameters.size(); ++i) {
         if (parameters[i].paramArray)
-            list[first + i] = paramArray(given, static_cast<std::uint32_t>(i), base);
+            list[first + i] = paramArray(given, static_cast<std::uint32_t>(i), base, callable.source != nullptr);
         else if (!filled[i])
-            list[first + i] = omitted(parameters[i]);
+            list[first + i] = omitted(callable, parameters[i]);
     }
 }
 
@@ -85,15 +90,17 @@ PassedArgument Emitter::argument(const Expr* given, const ParameterInfo& paramet
     return {passed({parameter.type, slot}), {}, {}};
 }
 
+/// Whether an argument names a variable, element or field that a procedure can assign to.
+bool Emitter::isVariable(const Expr& given) const {
+    const bool isName = given.kind == ExprKind::Name || given.kind == ExprKind::Member || given.kind == ExprKind::Index;
+    return isName && given.note != 0 && noteOf(given).kind == OperandKind::Variable;
+}
+
 PassedArgument Emitter::referenceArgument(const Expr& given, const ParameterInfo& parameter) {
     if (parameter.type.value == ValueType::Record && typeOfExpr(given).value == ValueType::Record) {
         return {passed(recordOf(given), layout_.referenceTo(parameter.type)), {}, {}};
     }
-    const Operand& note = noteOf(given);
-    const bool isVariable =
-        given.note != 0 && note.kind == OperandKind::Variable &&
-        (given.kind == ExprKind::Name || given.kind == ExprKind::Member || given.kind == ExprKind::Index);
-    if (!isVariable) {
+    if (!isVariable(given)) {
         ParameterInfo byValue = parameter;
         byValue.byVal = true;
         PassedArgument made = argument(&given, byValue, true);
@@ -142,17 +149,11 @@ PassedArgument Emitter::passArray(const Expr& given, const Type& type) {
     return {passed(reference(variable), layout_.referenceTo(variable.type)), {}, {}};
 }
 
-std::uint16_t Emitter::passed(const Value& value, image::SlotType type) {
-    const bool takes = value.isTemporary;
-    for (auto& each : slots_.inUse())
-        if (takes && each.slot == value.slot) each.mustClear = false;
-    return image::encodeArgument(passOf(type, takes), value.slot);
-}
-
 /// The value of a parameter that was left out.
-Value Emitter::defaultOf(const ParameterInfo& parameter) {
+Value Emitter::defaultOf(const Callable& callable, const ParameterInfo& parameter) {
     if (parameter.defaultValue) {
-        const auto found = constants_.valueOf(*parameter.defaultValue, module_);
+        // Names mean what they mean where the parameter is declared.
+        const auto found = constants_.valueOf(*parameter.defaultValue, *callable.source->scope->source);
         if (found) return constant(*found, std::nullopt);
     }
     if (parameter.defaultText) {
@@ -162,44 +163,23 @@ Value Emitter::defaultOf(const ParameterInfo& parameter) {
                 return constant(name->constant->value, std::nullopt);
         return constant(libraryConstant(*parameter.defaultText), std::nullopt);
     }
-    if (parameter.type.value == ValueType::Variant) return variantConstant(kMissing, ValueType::Variant);
+    if (parameter.type.value == ValueType::Variant) return missing();
     if (parameter.type.value == ValueType::Object) return nothing();
     const Value zero{parameter.type, temporary(parameter.type)};
     out_.emit(Op::Clear, zero.slot);
     return zero;
 }
 
-PassedArgument Emitter::omitted(const ParameterInfo& parameter) {
+PassedArgument Emitter::omitted(const Callable& callable, const ParameterInfo& parameter) {
     const auto slot = temporary(parameter.type);
-    (void)convert(defaultOf(parameter), parameter.type, slot);
+    (void)convert(defaultOf(callable, parameter), parameter.type, slot);
     if (parameter.byVal) return {passed({parameter.type, slot}), {}, {}};
     return {passedAddress(slot), {}, {}};
 }
 
-/// The arguments from `first` on as an array of Variants.
-PassedArgument Emitter::paramArray(const Span<Argument>& given, std::uint32_t first, std::int32_t base) {
-    const Type type{ValueType::Variant, true};
-    const Value list{type, temporary(type)};
-    const std::uint32_t count = given.size() > first ? given.size() - first : 0;
-    image::ArrayShape shape{
-        {BaseType::Variant, image::TypeForm::Value, 0}, 0, {{base, base + static_cast<std::int32_t>(count) - 1}}};
-    out_.emit(Op::NewArray, list.slot);
-    out_.extra(static_cast<std::uint32_t>(out_.module().arrays.size()), FixKind::Array);
-    out_.module().arrays.push_back(std::move(shape));
-    for (std::uint32_t i = 0; i < count; ++i) {
-        const auto mark = slots_.mark();
-        const auto& each = given[first + i];
-        const Value element = each.value ? variantOf(*each.value) : variantConstant(kMissing, ValueType::Variant);
-        const auto index = longConstant(std::int64_t{i} + base, {});
-        out_.emit(Op::StoreVariantAt, element.slot, list.slot, index.slot);
-        clearObjects(mark);
-        slots_.releaseTo(mark);
-    }
-    return {image::encodeArgument(Pass::Take, list.slot), {}, {}};
-}
-
 void Emitter::storeBack(const std::vector<PassedArgument>& list) {
     for (const auto& each : list) {
+        for (const auto& [index, variable] : each.elements) storeElementBack(each.temporary, index, variable);
         if (!each.storedTo) continue;
         const Place& variable = *each.storedTo;
         if (variable.type.value == ValueType::Object && !variable.type.isArray)

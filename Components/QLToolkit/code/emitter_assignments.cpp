@@ -181,7 +181,11 @@ void Emitter::setObject(const Place& target, Value object) {
 void Emitter::align(const AssignStmt& stmt) {
     const Place target = place(*stmt.target);
     if (target.type.value == ValueType::Record) {
-        if (typeOfExpr(*stmt.value).value == ValueType::Record) assignRecord(target, *stmt.value);
+        if (typeOfExpr(*stmt.value).id == target.type.id) return assignRecord(target, *stmt.value);
+        NativeCall call;
+        passReference(call, target);
+        passReference(call, place(*stmt.value));
+        (void)finish(call, "LSetRecord", {ValueType::None});
         return;
     }
     const Value text = value(*stmt.value, {ValueType::String});

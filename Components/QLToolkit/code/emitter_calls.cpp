@@ -8,6 +8,15 @@ using image::LateUse;
 using image::Op;
 using image::Pass;
 
+namespace {
+
+bool takesLastByVal(const ProcedureDecl& decl) {
+    const auto& parameters = decl.signature.parameters;
+    return parameters[parameters.size() - 1].passing == Passing::ByVal;
+}
+
+} // namespace
+
 /// A procedure that is called, with the object before it if it has one.
 Place Emitter::procedurePlace(const Entity& entity, const Expr& expr, const Span<Argument>* given) {
     static const Span<Argument> kNoArguments{};
@@ -45,7 +54,6 @@ Value Emitter::call(const Callable& callable, const Span<Argument>& given, const
     std::vector<PassedArgument> list;
     const Scope& owner = *entity.owner;
     const bool isInterface = object && layout_.isInterface(owner.number);
-    if (isInterface && !isLateCallable(callable)) return fail(basic::kActionNotSupported, {});
     if (object) {
         Value self = isInterface ? checkClass(*object, {ValueType::Object}) : *object;
         self.isTemporary = false;
@@ -53,7 +61,7 @@ Value Emitter::call(const Callable& callable, const Span<Argument>& given, const
     }
     const bool hasResult = !assigned && callable.result.value != ValueType::None;
     Value result{hasResult ? known(callable.result) : Type{ValueType::None}, image::kNoSlot};
-    const bool isRecord = hasResult && callable.result.value == ValueType::Record && !callable.result.isArray;
+    const bool isRecord = hasResult && returnsRecord(callable);
     if (isRecord) result = resultRecord(callable.result, list);
     arguments(callable, given, list);
     const bool isRecordAssigned = assigned && callable.result.value == ValueType::Record && !callable.result.isArray;
@@ -62,10 +70,10 @@ Value Emitter::call(const Callable& callable, const Span<Argument>& given, const
     } else if (assigned) {
         const Type type = callable.result;
         const bool isObject = type.value == ValueType::Object;
-        const ParameterInfo last = callable.body ? lastParameter(*callable.body, type) : ParameterInfo{};
+        const bool byVal = callable.body && takesLastByVal(*callable.body);
         const auto slot = temporary(type);
         (void)convert(isObject ? *assigned : Value{assigned->type, assigned->slot, false}, type, slot);
-        list.push_back({last.byVal ? passed({type, slot}) : passedAddress(slot), {}, {}});
+        list.push_back({byVal ? passed({type, slot}) : passedAddress(slot), {}, {}});
     }
     if (hasResult && !isRecord) result.slot = temporary(callable.result);
     const auto slot = isRecord || !hasResult ? image::kNoSlot : result.slot;
@@ -82,21 +90,13 @@ Value Emitter::call(const Callable& callable, const Span<Argument>& given, const
     return result;
 }
 
-ParameterInfo Emitter::lastParameter(const ProcedureDecl& decl, const Type& type) const {
-    ParameterInfo info;
-    const auto& parameters = decl.signature.parameters;
-    info.type = type;
-    info.byVal = parameters[parameters.size() - 1].passing == Passing::ByVal;
-    return info;
-}
-
 /// The place of a procedure among the members of an interface.
 std::uint32_t Emitter::memberNumber(const Entity& entity, const Callable& callable) const {
     std::uint32_t number = 0;
     for (const auto& [member, decl] : entity.owner->source->callables) {
         if (decl->kind != DeclKind::Procedure) continue;
         if (decl == callable.body) return number;
-        number += isMember(*member, *decl);
+        ++number;
     }
     return 0;
 }
@@ -108,19 +108,12 @@ Value Emitter::lateCall(const Place& member, LateUse use, const Value* assigned,
     const Value object = toVariant(member.object, {});
     std::vector<std::uint16_t> slots;
     std::vector<Symbol> named;
-    std::vector<PassedArgument> copies;
     if (member.isBang)
         slots.push_back(
             static_cast<std::uint16_t>(toVariant(textConstant(std::string(spelling(member.name))), {}).slot));
-    for (const auto& each : given) {
+    for (const auto& each : given)
         if (each.name != Symbol::None) named.push_back(each.name);
-        if (!each.value) {
-            slots.push_back(static_cast<std::uint16_t>(variantConstant(10, ValueType::Variant).slot));
-            continue;
-        }
-        copies.push_back(lateArgument(*each.value, member.entity != nullptr));
-        slots.push_back(static_cast<std::uint16_t>(image::slotOf(copies.back().word)));
-    }
+    const auto copies = lateArguments(given, 0, member.entity != nullptr, slots);
     if (assigned) {
         const auto slot = temporary({ValueType::Variant});
         (void)moved(toVariant({assigned->type, assigned->slot, false}, {}), slot);
@@ -143,13 +136,39 @@ Value Emitter::lateCall(const Place& member, LateUse use, const Value* assigned,
     return isTyped ? convert(result, member.type) : result;
 }
 
+/// CallByName(object, name, type of call, arguments): they are passed as to a member that is called late.
+Value Emitter::callByName(const Span<Argument>& given) {
+    const Value object = variantOf(*given[0].value);
+    std::vector<std::uint16_t> slots;
+    slots.push_back(static_cast<std::uint16_t>(convert(value(*given[1].value, {ValueType::String}), {}).slot));
+    slots.push_back(static_cast<std::uint16_t>(convert(value(*given[2].value, {ValueType::Long}), {}).slot));
+    const auto copies = lateArguments(given, 3, false, slots);
+    const Value result{{ValueType::Variant}, temporary({ValueType::Variant})};
+    out_.emit(Op::CallByName, result.slot, object.slot, static_cast<std::uint32_t>(slots.size()));
+    out_.halves(slots);
+    storeBack(copies);
+    return result;
+}
+
+/// Computes the arguments from `first` on and adds their slots.
+std::vector<PassedArgument> Emitter::lateArguments(const Span<Argument>& given, std::uint32_t first, bool isOfLibrary,
+                                                   std::vector<std::uint16_t>& slots) {
+    std::vector<PassedArgument> copies;
+    for (std::uint32_t i = first; i < given.size(); ++i) {
+        if (!given[i].value) {
+            slots.push_back(static_cast<std::uint16_t>(missing().slot));
+            continue;
+        }
+        copies.push_back(lateArgument(*given[i].value, isOfLibrary));
+        slots.push_back(static_cast<std::uint16_t>(image::slotOf(copies.back().word)));
+    }
+    return copies;
+}
+
 /// A Variant of its own, which is stored back if the argument is a variable. Members of libraries do not assign to their
 /// arguments.
 PassedArgument Emitter::lateArgument(const Expr& given, bool isOfLibrary) {
-    const Operand& note = noteOf(given);
-    const bool isVariable =
-        !isOfLibrary && given.note != 0 && note.kind == OperandKind::Variable && given.kind != ExprKind::Paren;
-    if (!isVariable) {
+    if (isOfLibrary || !isVariable(given)) {
         const auto slot = temporary({ValueType::Variant});
         (void)moved(toVariant(value(given), slot), slot);
         return {passedAddress(slot), {}, {}};

@@ -157,6 +157,19 @@ Value Emitter::toFloat(const Value& value, ValueType to, std::optional<std::uint
     return result;
 }
 
+/// CLng(v) and its like convert error values too, which an assignment does not. CCur has no instruction for them.
+std::optional<Value> Emitter::explicitConversion(const Expr& expr, ValueType to) {
+    const Group group = groupOf(to);
+    const bool takesErrors = typeOfExpr(expr) == Type{ValueType::Variant} && group <= Group::Currency;
+    if (!takesErrors) return value(expr, {to});
+    if (group == Group::Currency) return std::nullopt;
+    const Value given = value(expr);
+    const Value result{{to}, temporary({to})};
+    out_.emit(group == Group::Long ? Op::VariantToLong : Op::VariantToFloat, result.slot, given.slot,
+              baseNumber(to) | image::kTakesErrors);
+    return result;
+}
+
 Value Emitter::toCurrency(const Value& value, std::optional<std::uint32_t> target) {
     if (value.type.value == ValueType::Currency) return value;
     const Value result{{ValueType::Currency}, targetOr(target, ValueType::Currency)};

@@ -8,7 +8,7 @@ using image::Op;
 
 namespace {
 
-constexpr int kEmpty = 0, kNull = 1;
+constexpr int kEmpty = 0, kNull = 1, kMissing = 10;
 
 /// Of expressions within one another; the stack must hold them.
 constexpr int kMostNested = 400;
@@ -76,6 +76,9 @@ Value Emitter::constant(const ConstantValue& value, std::optional<std::uint32_t>
     default: return variantConstant(type == ValueType::Null ? kNull : kEmpty, type, target);
     }
 }
+
+/// The value of an omitted argument.
+Value Emitter::missing() { return variantConstant(kMissing, ValueType::Variant); }
 
 Value Emitter::literal(const Expr& expr, std::optional<std::uint32_t> target) {
     switch (expr.kind) {

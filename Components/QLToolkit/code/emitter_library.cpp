@@ -69,6 +69,8 @@ Value Emitter::libraryCall(const Entity& entity, const Span<Argument>& given, co
     if (!entity.onDevices && !basic::equalNoCase(name, "CreateObject"))
         return fail(basic::kActionNotSupported, entity.type);
     if (auto result = intrinsic(name, given)) return *result;
+    if (basic::equalNoCase(name, "CallByName")) return callByName(given);
+    if (basic::equalNoCase(name, "VarPtr")) return variableId(*given[0].value);
     NativeCall call;
     const Callable& callable = *entity.get;
     // Option Base counts for the array that Array makes.
@@ -87,9 +89,7 @@ void Emitter::takeDefaultValues(const Callable& callable, const Span<Argument>& 
                                 const std::vector<PassedArgument>& list) {
     const auto& parameters = callable.parameters;
     for (std::uint32_t i = 0; i < given.size(); ++i) {
-        std::size_t at = i;
-        if (given[i].name != Symbol::None)
-            for (at = 0; at < parameters.size() && parameters[at].name != given[i].name;) ++at;
+        const std::size_t at = parameterOf(callable, given, i);
         if (at >= parameters.size() || parameters[at].paramArray || !given[i].value) continue;
         const Type natural = typeOfExpr(*given[i].value);
         const bool mayBeObject = natural.value == ValueType::Variant || natural.value == ValueType::Object;
@@ -99,9 +99,16 @@ void Emitter::takeDefaultValues(const Callable& callable, const Span<Argument>& 
     }
 }
 
-Value Emitter::declaredCall(const Entity& entity, const Span<Argument>& given) {
-    (void)given;
-    return fail(basic::kFileNotFound, entity.type);
+/// VarPtr: a number for the variable itself, or for the temporary that an expression is.
+Value Emitter::variableId(const Expr& given) {
+    Place variable = isVariable(given) ? place(given) : resultPlace(value(given));
+    if (variable.type.isArray)
+        variable = resultPlace(toVariant(load(variable), {}));
+    else if (variable.kind != PlaceKind::Slot && !isAddressable(variable))
+        variable = resultPlace(load(variable));
+    NativeCall call;
+    passReference(call, variable);
+    return finish(call, "VarPtr", {ValueType::Long});
 }
 
 /// What an instruction does, by the declared types of the arguments.
@@ -113,7 +120,7 @@ std::optional<Value> Emitter::intrinsic(std::string_view name, const Span<Argume
     if (is("LBound") || is("UBound")) return boundOf(given, is("UBound"));
     if (given.size() != 1) return std::nullopt;
     for (const auto& conversion : kConversions)
-        if (is(conversion.name)) return value(first, {conversion.type});
+        if (is(conversion.name)) return explicitConversion(first, conversion.type);
     if (is("Len")) return lengthOf(first);
     const Type type = typeOfExpr(first);
     if (type.isArray) return std::nullopt;

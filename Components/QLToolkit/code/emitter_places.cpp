@@ -199,7 +199,7 @@ Place Emitter::indexPlace(const IndexExpr& expr) {
         result.object = toVariant(load(holder), {});
     }
     for (const auto& each : expr.arguments) {
-        const Value index = each.value ? variantOf(*each.value) : variantConstant(10, ValueType::Variant);
+        const Value index = each.value ? variantOf(*each.value) : missing();
         result.indexes.push_back(static_cast<std::uint16_t>(index.slot));
     }
     return result;

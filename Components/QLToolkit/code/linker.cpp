@@ -4,9 +4,8 @@
 
 namespace qltoolkit {
 
-using image::MemberUse;
-
-Linker::Linker(const ProgramLayout& layout) : layout_(layout), staticSlots_(layout.globalSlots()) {
+Linker::Linker(const ProgramLayout& layout)
+    : layout_(layout), constants_(const_cast<Program&>(layout.program())), staticSlots_(layout.globalSlots()) {
     image_.records = layout.records();
     image_.arrays = layout.arrays();
     image_.globals = layout.globals();
@@ -83,48 +82,6 @@ image::CodeImage Linker::finish() {
     return std::move(image_);
 }
 
-image::ClassMember Linker::member(const Entity& entity, const Callable& callable, MemberUse use) {
-    image::ClassMember made;
-    made.name = text(spelling(entity.name));
-    made.use = use;
-    made.isPublic = entity.isPublic;
-    made.target = callable.number;
-    for (const auto& parameter : callable.parameters) {
-        made.parameters.push_back(baseTypeOf(parameter.type.value));
-        if (parameter.optional) ++made.optional;
-        made.hasParamArray |= parameter.paramArray;
-    }
-    const bool assigns = use == MemberUse::Let || use == MemberUse::Set;
-    if (assigns)
-        made.parameters.push_back(baseTypeOf(callable.result.value));
-    else
-        made.result = baseTypeOf(callable.result.value);
-    return made;
-}
-
-void Linker::addMembers(image::ClassInfo& made, const SourceModule& module) {
-    for (const auto& [entity, decl] : module.callables) {
-        if (decl->kind != DeclKind::Procedure) continue;
-        const auto add = [&, entity = entity, decl = decl](const Callable* callable, MemberUse use) {
-            if (callable && callable->body == decl && isLateCallable(*callable))
-                made.members.push_back(member(*entity, *callable, use));
-        };
-        add(entity->get, entity->kind == EntityKind::Property ? MemberUse::Get : MemberUse::Method);
-        add(entity->let, MemberUse::Let);
-        add(entity->set, MemberUse::Set);
-    }
-    for (const auto& [entity, decl] : module.variables) {
-        if (!isLateField(*entity)) continue;
-        image::ClassMember field;
-        field.name = text(spelling(entity->name));
-        field.use = MemberUse::Field;
-        field.isPublic = entity->isPublic;
-        field.target = entity->place;
-        field.result = baseTypeOf(entity->type.value);
-        made.members.push_back(field);
-    }
-}
-
 std::uint32_t Linker::procedureNamed(const SourceModule& module, std::string_view name) const {
     for (const auto& [entity, decl] : module.callables)
         if (decl->kind == DeclKind::Procedure && entity->get && entity->get->body == decl &&
@@ -153,7 +110,7 @@ void Linker::addImplementations(image::ClassInfo& made, const SourceModule& modu
         if (!interface->source) continue;
         image::Implementation implementation{layout_.classOf(interface->number), {}};
         for (const auto& [wanted, decl] : interface->source->callables)
-            if (decl->kind == DeclKind::Procedure && isMember(*wanted, *decl))
+            if (decl->kind == DeclKind::Procedure)
                 implementation.procedures.push_back(
                     implementationOf(module, *interface, *wanted, as<ProcedureDecl>(*decl)));
         for (const auto& [field, decl] : interface->source->variables)

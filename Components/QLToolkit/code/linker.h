@@ -23,10 +23,13 @@ private:
     void addImplementations(image::ClassInfo& made, const SourceModule& module);
     void addEvents(image::ClassInfo& made, const SourceModule& module);
     [[nodiscard]] std::uint32_t procedureNamed(const SourceModule& module, std::string_view name) const;
+    [[nodiscard]] image::DefaultValue defaultOf(const ConstantValue& value);
+    [[nodiscard]] image::MemberParameter parameter(const ParameterInfo& given, SourceModule& module);
     [[nodiscard]] image::ClassMember member(const Entity& entity, const Callable& callable, image::MemberUse use);
     [[nodiscard]] std::string_view spelling(Symbol name) const { return layout_.program().symbols.spelling(name); }
 
     const ProgramLayout& layout_;
+    Constants constants_;
     image::CodeImage image_;
     std::uint32_t staticSlots_;
     std::unordered_map<std::string, std::uint32_t> texts_;

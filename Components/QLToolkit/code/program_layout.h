@@ -10,14 +10,9 @@ namespace qltoolkit {
 /// The type as elements and fields have it.
 [[nodiscard]] image::BaseType baseTypeOf(ValueType value);
 
-/// Whether a procedure can be called without its declaration: a record has no place in a Variant.
-[[nodiscard]] inline bool isLateCallable(const Callable& callable) {
-    return callable.result.value != ValueType::Record || callable.result.isArray;
-}
-
-/// Whether one of the procedures of a member is among those that are found by name.
-[[nodiscard]] inline bool isMember(const Entity& entity, const Decl& decl) {
-    return !entity.get || entity.get->body != &decl || isLateCallable(*entity.get);
+/// Whether a procedure writes its result to a record of the caller, to which its first parameter refers.
+[[nodiscard]] inline bool returnsRecord(const Callable& callable) {
+    return callable.result.value == ValueType::Record && !callable.result.isArray;
 }
 
 /// Whether a variable of a class is a member that is found by its name.

@@ -30,6 +30,9 @@ public:
     bool readDate(Token& hash);
     /// Skips the rest of a comment after its Rem.
     void skipComment();
+    /// Reads the octal digits after `ampersand`, which begins an operand, and changes it to a number. Returns false and
+    /// leaves the token unchanged if there are none.
+    bool readOctal(Token& ampersand);
     /// Called at the beginning of a line: skips to the next line that begins with # and a letter. Returns false at the
     /// end of the file.
     bool skipToDirective();
@@ -64,6 +67,7 @@ private:
     void readNumber(Token&, const char* p);
     void readLongNumber(Token&, const char* p);
     void readRadix(Token&, const char* p, int bits);
+    void readDigits(Token&, const char* p, int bits);
     void readString(Token&);
     void readOperator(Token&, const char* p);
     void readLess(Token&);

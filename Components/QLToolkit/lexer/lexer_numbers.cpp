@@ -123,16 +123,31 @@ void Lexer::finishReal(Token& token, const char* begin, const char* end) {
     if (tooLarge) report(Message::NumberTooLarge, token.begin, source_.text(token.begin, token.end));
 }
 
-// &H and &O need at least one digit; otherwise the & concatenates strings. Without a suffix, up to four hexadecimal
-// digits are a signed Integer: &HFFFF is -1.
+namespace {
+
+bool isDigitOf(char c, int bits) { return bits == 4 ? charIs(c, kHexDigit) : c >= '0' && c <= '7'; }
+
+} // namespace
+
+// &H and &O need at least one digit; otherwise the & concatenates strings.
 void Lexer::readRadix(Token& token, const char* p, int bits) {
     const char mark = static_cast<char>(*p | 0x20);
-    const auto isDigit = [bits](char c) { return bits == 4 ? charIs(c, kHexDigit) : c >= '0' && c <= '7'; };
     token.kind = TokenKind::Ampersand;
-    if ((mark != 'h' && mark != 'o') || !isDigit(p[1])) return;
+    if ((mark == 'h' || mark == 'o') && isDigitOf(p[1], bits)) readDigits(token, p + 1, bits);
+}
+
+bool Lexer::readOctal(Token& ampersand) {
+    const char* const p = base_ + ampersand.end;
+    if (!isDigitOf(*p, 3)) return false;
+    readDigits(ampersand, p, 3);
+    return true;
+}
+
+// Without a suffix, up to four hexadecimal digits are a signed Integer: &HFFFF is -1.
+void Lexer::readDigits(Token& token, const char* p, int bits) {
     std::uint64_t value = 0;
     bool tooLarge = false;
-    for (++p; isDigit(*p); ++p) {
+    for (; isDigitOf(*p, bits); ++p) {
         const int digit = *p <= '9' ? *p - '0' : (*p | 0x20) - 'a' + 10;
         value = value << bits | static_cast<std::uint64_t>(digit);
         tooLarge |= value > 0xFFFFFFFFu;

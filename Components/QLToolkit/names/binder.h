@@ -109,7 +109,8 @@ private:
     void assign(const Operand& target, const Operand& value, Pos pos);
     void assignArray(const Operand& target, const Operand& value, Pos pos);
     bool mayAssign(const Operand& target);
-    void input(const Expr* target);
+    void align(const AssignStmt& stmt);
+    Operand input(const Expr* target);
     void setObject(const Operand& target, const Operand& value, Pos pos);
 
     // Expressions

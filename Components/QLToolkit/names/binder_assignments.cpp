@@ -1,5 +1,6 @@
 // Let, Set and what else changes a variable.
 #include "Components/QLToolkit/names/binder.h"
+#include "Components/QLToolkit/names/record_size.h"
 #include "Components/QLToolkit/types/coercions.h"
 
 namespace qltoolkit {
@@ -78,13 +79,28 @@ void Binder::setObject(const Operand& target, const Operand& value, Pos pos) {
     if (!isObject(value.type, false)) report(Message::ObjectRequired, pos);
 }
 
+/// LSet and RSet. Between two Types LSet copies bytes, which must mean nothing but numbers and characters.
+void Binder::align(const AssignStmt& stmt) {
+    const Type value = expression(*stmt.value).type;
+    const Type target = input(stmt.target).type;
+    const auto isRecord = [](const Type& type) { return type.value == ValueType::Record && !type.isArray; };
+    if (!isRecord(target) && !isRecord(value)) return;
+    if (target.value == ValueType::Unknown || value.value == ValueType::Unknown) return;
+    const bool areRecords = isRecord(target) && isRecord(value) && stmt.kind == StmtKind::LSet;
+    const bool fits = areRecords && (target.id == value.id || (isPlain(program_, program_.scope(target.id)) &&
+                                                               isPlain(program_, program_.scope(value.id))));
+    if (!fits) report(Message::TypeMismatch, stmt.value->pos);
+}
+
 /// A variable that a statement fills: Get #, Input #, Line Input, LSet, Mid.
-void Binder::input(const Expr* target) {
-    if (!target) return;
+Operand Binder::input(const Expr* target) {
+    if (!target) return {};
     const Operand operand = expression(*target, Use::Let);
     if (operand.kind == OperandKind::Value && operand.type.value != ValueType::Unknown)
-        return report(Message::VariableRequired, operand.pos);
-    (void)mayAssign(operand);
+        report(Message::VariableRequired, operand.pos);
+    else
+        (void)mayAssign(operand);
+    return operand;
 }
 
 } // namespace qltoolkit

@@ -101,7 +101,7 @@ bool Binder::fileStatement(const Stmt& stmt) {
         const auto& file = as<FileStmt>(stmt);
         value(file.first, ValueType::Integer);
         if (stmt.kind == StmtKind::Get) value(file.second, ValueType::Long);
-        input(stmt.kind == StmtKind::Get ? file.third : file.second);
+        (void)input(stmt.kind == StmtKind::Get ? file.third : file.second);
         return true;
     }
     case StmtKind::Put:
@@ -124,7 +124,7 @@ bool Binder::fileStatement(const Stmt& stmt) {
             if (i == 0)
                 value(items[i], ValueType::Integer);
             else
-                input(items[i]);
+                (void)input(items[i]);
         return true;
     }
     default: return false;
@@ -136,13 +136,10 @@ void Binder::simpleStatement(const Stmt& stmt) {
     case StmtKind::Let: let(as<AssignStmt>(stmt)); break;
     case StmtKind::Set: set(as<AssignStmt>(stmt)); break;
     case StmtKind::LSet:
-    case StmtKind::RSet:
-        (void)expression(*as<AssignStmt>(stmt).value);
-        input(as<AssignStmt>(stmt).target);
-        break;
+    case StmtKind::RSet: align(as<AssignStmt>(stmt)); break;
     case StmtKind::MidAssign: {
         const auto& mid = as<MidAssignStmt>(stmt);
-        input(mid.target);
+        (void)input(mid.target);
         value(mid.start, ValueType::Long);
         value(mid.length, ValueType::Long);
         value(mid.value, ValueType::String);

@@ -5,6 +5,9 @@ namespace qltoolkit {
 
 namespace {
 
+/// Records that are contained in each other any deeper are too large for an image.
+constexpr int kDeepestPlain = 32;
+
 constexpr std::uint64_t kTooLarge = kLargestRecord + 1;
 
 std::uint64_t sizeOf(ValueType type) {
@@ -31,6 +34,18 @@ std::uint64_t sizeOf(const Entity& field, std::uint64_t characterBytes) {
 }
 
 } // namespace
+
+bool isPlain(const Program& program, const Scope& record, int depth) {
+    bool result = depth < kDeepestPlain;
+    record.names.forEach([&](Symbol, const Entity& field) {
+        const ValueType type = field.type.value;
+        const bool isManaged = type == ValueType::String || type == ValueType::Object || type == ValueType::Variant ||
+                               type == ValueType::Unknown || isPointer(field);
+        result = result && !isManaged &&
+                 (type != ValueType::Record || isPlain(program, program.scope(field.type.id), depth + 1));
+    });
+    return result;
+}
 
 RecordSize RecordSizes::of(const Scope& record) {
     if (!known_.contains(record.number)) open(record.number);

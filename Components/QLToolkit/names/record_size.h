@@ -14,6 +14,9 @@ struct RecordSize {
     bool isCircle = false; ///< contains itself; its bytes and those of what contains it are not known
 };
 
+/// Whether a record holds only numbers, texts of a fixed length, and records and arrays with bounds of these.
+[[nodiscard]] bool isPlain(const Program& program, const Scope& record, int depth = 0);
+
 /// Finds each size once, because records may contain one another in long chains.
 class RecordSizes {
 public:

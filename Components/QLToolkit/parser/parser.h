@@ -247,6 +247,7 @@ private:
     FloatExpr* real();
     const Expr* stringLiteral();
     const Expr* dateLiteral();
+    const Expr* octalLiteral();
     const Expr* parenthesized();
     const Expr* typeOf();
     const Expr* name();

@@ -94,6 +94,7 @@ const Expr* Parser::operand() {
     case TokenKind::Bang: return postfix(withMember(), false);
     case TokenKind::Minus: return prefix(Operator::Negate, kNegatePower);
     case TokenKind::Plus: return prefix(Operator::Plus, kNegatePower);
+    case TokenKind::Ampersand: return octalLiteral();
     default: failExpression();
     }
 }
@@ -170,6 +171,12 @@ const Expr* Parser::stringLiteral() {
 
 const Expr* Parser::dateLiteral() {
     if (!lexer_.readDate(tok_)) fail(Message::DateInvalid, tok_.begin);
+    return literal();
+}
+
+// &17 is octal as &O17 is, but between two operands the & joins them: "a" &1.
+const Expr* Parser::octalLiteral() {
+    if (!lexer_.readOctal(tok_)) failExpression();
     return literal();
 }
 

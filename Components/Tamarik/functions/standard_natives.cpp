@@ -1,5 +1,6 @@
 #include "Components/Tamarik/functions/standard_natives.h"
 #include "Components/Tamarik/library/library_natives.h"
+#include "Components/Tamarik/scripting/scripting_classes.h"
 
 namespace tamarik {
 
@@ -8,6 +9,8 @@ Natives standardNatives() {
     addPrintNatives(natives);
     addLibrary(natives);
     addObjectNatives(natives);
+    addParamArrayNatives(natives);
+    addScriptingClasses(natives);
     return natives;
 }
 

@@ -11,14 +11,14 @@ namespace {
 
 template <BaseType Type>
 std::int32_t toWhole(Session&, const Variant& v) {
-    return longOf(v, Type);
+    return longOf(numberOfError(v), Type);
 }
 template <BaseType Type>
 double toFraction(Session&, const Variant& v) {
-    return fractionOf(v, Type);
+    return fractionOf(numberOfError(v), Type);
 }
-basic::Currency toMoney(Session&, const Variant& v) { return {currencyOf(v)}; }
-basic::Date toDay(Session& session, const Variant& v) { return dateOf(session, v); }
+basic::Currency toMoney(Session&, const Variant& v) { return {currencyOf(numberOfError(v))}; }
+basic::Date toDay(Session& session, const Variant& v) { return dateOf(session, numberOfError(v)); }
 TextBlock* toText(Session& session, const Variant& v) { return textIn(session, v); }
 Variant toVariant(Session& session, const Variant& v) { return copyOf(session.heap, v); }
 Variant toExact(Session&, const Variant& v) { return toDecimal(v); }

@@ -86,7 +86,7 @@ void addFileRecords(Natives& natives) {
     constexpr BaseType kElements[]{BaseType::Boolean, BaseType::Byte,    BaseType::Integer,  BaseType::Long,
                                    BaseType::Single,  BaseType::Double,  BaseType::Currency, BaseType::Date,
                                    BaseType::Text,    BaseType::Variant, BaseType::Record};
-    const auto idOf = [](BaseType base) { return base == BaseType::Record ? kAnyRecord : 0; };
+    const auto idOf = [](BaseType base) { return base == BaseType::Record ? kAnyId : 0; };
     for (const BaseType base : kValues) addForm(natives, {base, TypeForm::Reference, idOf(base)});
     for (const BaseType base : kElements) addForm(natives, {base, TypeForm::ArrayReference, idOf(base)});
 }

@@ -1,4 +1,4 @@
-// What a program asks its user and its surroundings. Without a window, questions go to the error output and the input.
+// What a program asks its user and its surroundings.
 #include "Components/Tamarik/library/library_function.h"
 #include "Components/Tamarik/library/library_natives.h"
 #include "Components/Tamarik/values/encoding.h"
@@ -7,13 +7,9 @@
 
 namespace tamarik {
 
-namespace {
+using image::BaseType;
 
-void showQuestion(Session& session, const Variant& prompt, const Variant& title) {
-    std::string shown = title.isMissing() ? std::string() : utf8Of(session, title) + ": ";
-    shown += utf8Of(session, prompt) + "\n";
-    if (session.output.error) session.output.error(shown);
-}
+namespace {
 
 /// The number of the button that Enter chooses.
 std::int32_t defaultButton(std::int32_t style) {
@@ -26,39 +22,40 @@ std::int32_t defaultButton(std::int32_t style) {
     return chosen < buttons.size() && buttons[chosen] != 0 ? buttons[chosen] : buttons[0];
 }
 
+/// Of an optional argument.
+std::string givenText(Session& session, const Variant& given) {
+    return given.isMissing() ? std::string() : utf8Of(session, given);
+}
+
 std::int32_t msgBox(Session& session, const Variant& prompt, std::int32_t buttons, const Variant& title, const Variant&,
                     const Variant&) {
     const std::int32_t button = defaultButton(buttons);
-    showQuestion(session, prompt, title);
-    return button;
+    session.wait = {{Wait::Kind::Message, utf8Of(session, prompt), givenText(session, title), {}, buttons, button},
+                    [](Session&, const Answer& answer, Slot& result) { result.number = answer.button; }};
+    return 0;
 }
 
-/// The end of the input is the Cancel button; an empty line takes the default.
 TextBlock* inputBox(Session& session, const Variant& prompt, const Variant& title, const Variant& usual, const Variant&,
                     const Variant&, const Variant&, const Variant&) {
-    const HeldText byDefault(session, usual.isMissing() ? nullptr : textIn(session, usual));
-    showQuestion(session, prompt, title);
-    std::string line;
-    if (!session.output.inputLine || !session.output.inputLine(line)) return nullptr;
-    return line.empty() ? retain(static_cast<TextBlock*>(byDefault)) : madeOfUtf8(session, line);
+    session.wait = {{Wait::Kind::Input, utf8Of(session, prompt), givenText(session, title), givenText(session, usual)},
+                    [](Session& s, const Answer& answer, Slot& result) {
+                        if (answer.text) result.text = madeOfUtf8(s, *answer.text);
+                    }};
+    return nullptr;
 }
 
 void beep(Session&) {}
-std::int32_t doEvents(Session&) { return 0; }
+
+std::int32_t doEvents(Session& session) {
+    session.wait = {{}, [](Session&, const Answer&, Slot&) {}};
+    return 0;
+}
 
 TextBlock* commandLine(Session& session) { return madeOfUtf8(session, session.surroundings.commandLine); }
 
-std::string_view variableNamed(Session& session, std::string_view name) {
-    for (const std::string_view each : session.surroundings.environment) {
-        const std::size_t end = each.find('=');
-        if (end != std::string_view::npos && basic::equalNoCase(each.substr(0, end), name)) return each.substr(end + 1);
-    }
-    return {};
-}
-
 /// By name its value, by number from 1 on "NAME=value".
 TextBlock* environmentText(Session& session, const Variant& which) {
-    if (which.kind == kString) return madeOfUtf8(session, variableNamed(session, utf8Of(session, which)));
+    if (which.kind == kString) return madeOfUtf8(session, session.surroundings.variable(utf8Of(session, which)));
     const auto& variables = session.surroundings.environment;
     const std::int32_t number = longOf(which);
     requireArgument(number >= 1);
@@ -68,10 +65,7 @@ TextBlock* environmentText(Session& session, const Variant& which) {
 
 std::int32_t textId(Session& session, TextBlock* text) { return session.identities.of(text); }
 std::int32_t objectId(Session& session, Object* object) { return session.identities.of(object); }
-std::int32_t variableId(Session& session, const Variant& v) {
-    if (isManagedKind(v)) return session.identities.of(v.text);
-    return session.identities.of(&v);
-}
+void variableId(NativeCall& call) { call.result[0].number = call.session.identities.of(call.arguments[0].pointer); }
 
 } // namespace
 
@@ -84,7 +78,12 @@ void addInteraction(Natives& natives) {
     addPlainForms<&environmentText>(natives, "Environ");
     natives.add("StrPtr", native<&textId>());
     natives.add("ObjPtr", native<&objectId>());
-    natives.add("VarPtr", native<&variableId>());
+    for (const auto base : {BaseType::Long, BaseType::Double, BaseType::Currency, BaseType::Text, BaseType::Variant,
+                            BaseType::Object, BaseType::Record}) {
+        const bool hasId = base == BaseType::Object || base == BaseType::Record;
+        const image::SlotType variable{base, image::TypeForm::Reference, hasId ? kAnyId : 0};
+        natives.addForm("VarPtr", {{BaseType::Long}, {variable}, &variableId});
+    }
 }
 
 } // namespace tamarik

@@ -19,7 +19,9 @@ void addLibrary(Natives& natives) {
     addInteraction(natives);
     addSettings(natives);
     addObjectMakers(natives);
+    addDeclared(natives);
     addTextStatements(natives);
+    addRecordBytes(natives);
     addFileStatements(natives);
     addFilePrinting(natives);
     addFileReading(natives);

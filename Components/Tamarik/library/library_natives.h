@@ -22,8 +22,13 @@ void addNumberTexts(Natives& natives);
 /// Abs, Int, Fix, Round and Sgn, which keep the type of their argument.
 void addWholeParts(Natives& natives);
 void addObjectMakers(Natives& natives);
+/// Functions of the operating system that programs declare.
+void addDeclared(Natives& natives);
 /// LSet, RSet and the Mid statement.
 void addTextStatements(Natives& natives);
+
+/// LSet between variables of two Types.
+void addRecordBytes(Natives& natives);
 
 void addFileStatements(Natives& natives);
 void addFilePrinting(Natives& natives);

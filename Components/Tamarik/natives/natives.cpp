@@ -6,7 +6,7 @@ namespace tamarik {
 namespace {
 
 bool takes(image::SlotType parameter, image::SlotType given) {
-    if (parameter.base == image::BaseType::Record && parameter.id == kAnyRecord) given.id = kAnyRecord;
+    if (parameter.id == kAnyId) given.id = kAnyId;
     return parameter == given;
 }
 

@@ -21,8 +21,8 @@ struct NativeCall {
     const image::CodeImage* code = nullptr;
 };
 
-/// In the place of a record's number in the parameters of a native: it takes records of all types.
-inline constexpr std::uint32_t kAnyRecord = 0xFFFFFFFF;
+/// In the place of a number in the type of a native's parameter: it takes all records, or objects of all classes.
+inline constexpr std::uint32_t kAnyId = 0xFFFFFFFF;
 
 /// A function does not call code. It may throw basic::RuntimeError.
 struct Native {

@@ -35,6 +35,7 @@ inline constexpr std::int32_t kMissingArgument = static_cast<std::int32_t>(0x800
 /// `low` and a sign in `flags`.
 struct Variant {
     static constexpr std::uint8_t kFixed = 1;       ///< keeps its kind when it is assigned to
+    static constexpr std::uint8_t kUnassigned = 2;  ///< an element of a ParamArray since it was passed
     static constexpr std::uint8_t kNegative = 0x80; ///< of a Decimal
 
     std::uint16_t kind = kEmpty;

@@ -14,6 +14,8 @@ namespace tamarik {
 /// The condition of an If: Null counts as False.
 [[nodiscard]] bool isTrue(const Variant& v);
 
+/// Of an error value its number, otherwise the value itself.
+[[nodiscard]] inline Variant numberOfError(const Variant& v) { return v.kind == kError ? ofNumber(v.number) : v; }
 [[nodiscard]] bool isNumeric(const Variant& v);
 /// Whether a kind is stored as a whole number: Boolean, Byte, Integer or Long.
 [[nodiscard]] bool isWhole(std::uint16_t kind);

@@ -1,5 +1,6 @@
 #include "Components/Tamarik/values/variant_text.h"
 #include "Basic/runtime_error.h"
+#include "Components/Tamarik/values/array_block.h"
 #include "Components/Tamarik/values/decimal_values.h"
 #include "Components/Tamarik/values/number_texts.h"
 #include <memory>
@@ -46,7 +47,9 @@ TextBlock* textOf(Heap& heap, const Variant& v) {
         release(heap, digits);
         return text;
     }
-    default: throw basic::RuntimeError(basic::kTypeMismatch);
+    default:
+        if (v.kind != (kArray | kByte)) throw basic::RuntimeError(basic::kTypeMismatch);
+        return v.array ? makeText(heap, v.array->data, v.array->size) : nullptr;
     }
 }
 

@@ -25,8 +25,9 @@ struct RareFrame {
     std::vector<const std::uint32_t*> returns; ///< of GoSub
     std::unique_ptr<Task> task;
     Object* terminating = nullptr;
-    Counted* pending = nullptr; ///< what waits until Terminate has run
-    ErrorState err;             ///< Err before Terminate
+    Counted* pending = nullptr;      ///< what waits until Terminate has run
+    ErrorState err;                  ///< Err before Terminate
+    std::unique_ptr<RareFrame> next; ///< of those that no frame uses
 };
 
 struct Frame {

@@ -6,6 +6,7 @@
 #include "Components/Tamarik/vm/slot_values.h"
 #include "Components/Tamarik/vm/slot_variants.h"
 #include <algorithm>
+#include <bit>
 #include <utility>
 
 namespace tamarik {
@@ -24,9 +25,15 @@ SlotType valueType(SlotType type) {
 
 bool isReference(SlotType type) { return type.form == TypeForm::Reference || type.form == TypeForm::ArrayReference; }
 
-bool fits(const ArrayBlock& array, SlotType type) {
-    const SlotType element = array.element.type;
-    return element.base == type.base && (element.base != BaseType::Record || element.id == type.id);
+Variant valueOf(Execution& m, const image::DefaultValue& value) {
+    switch (slotBase(value.type)) {
+    case BaseType::Long: return ofNumber(static_cast<std::int32_t>(value.bits), kindOf(value.type));
+    case BaseType::Double: return ofFraction(std::bit_cast<double>(value.bits), kindOf(value.type));
+    case BaseType::Currency: return ofCurrency(static_cast<std::int64_t>(value.bits));
+    case BaseType::Text: return ofText(m.constantText(static_cast<std::uint32_t>(value.bits)));
+    case BaseType::Variant: return ofKind(static_cast<VariantKind>(value.bits));
+    default: return missing();
+    }
 }
 
 SlotType withBase(SlotType type, BaseType declared) {
@@ -43,7 +50,7 @@ Variant* valueNeeded(Variant& argument, SlotType type) {
 
 void storeInSlot(Execution& m, Slot* slot, SlotType type, BaseType declared, const Variant& value) {
     if (type.form == TypeForm::Array) {
-        if (!value.isArray() || !value.array || !fits(*value.array, type))
+        if (!value.isArray() || !value.array || !hasElementsOf(*value.array, type))
             throw basic::RuntimeError(basic::kTypeMismatch);
         retain(value.array);
         return setArray(m.heap, *slot, value.array);
@@ -79,7 +86,7 @@ Variant* LateArguments::firstWithoutValue(const LoadedProcedure& procedure, std:
 
 void LateArguments::prepareOne(Execution& m, Argument& argument, const Variant& value) {
     const SlotType type = valueType(argument.type);
-    if (value.isMissing()) {
+    if (value.isMissing()) { // and has no default
         if (type.base == BaseType::Variant) variantAt(argument.value) = missing();
         return;
     }
@@ -88,18 +95,26 @@ void LateArguments::prepareOne(Execution& m, Argument& argument, const Variant& 
     if (!argument.isInVariable) storeInSlot(m, argument.value, type, argument.declared, value);
 }
 
-void LateArguments::packRest(Execution& m, Argument& argument, std::span<const Variant> rest) {
+void LateArguments::packRest(Execution& m, Argument& argument, std::span<const Variant> rest,
+                             std::span<Slot* const> variables) {
     const SlotType type = valueType(argument.type);
     if (type.form != TypeForm::Array || type.base != BaseType::Variant) throw basic::RuntimeError(basic::kTypeMismatch);
     const Bounds bounds{0, static_cast<std::int32_t>(rest.size()) - 1};
     argument.value[0].array = makeArray(m.heap, {{BaseType::Variant}}, {&bounds, 1});
     auto* const elements = argument.value[0].array->as<Slot>();
-    for (std::size_t i = 0; i < rest.size(); ++i) variantAt(elements + 2 * i) = copyOf(m.heap, rest[i]);
+    for (std::size_t i = 0; i < rest.size(); ++i) {
+        variantAt(elements + 2 * i) = copyOf(m.heap, rest[i]);
+        variantAt(elements + 2 * i).flags |= Variant::kUnassigned;
+    }
+    retain(rest_ = argument.value[0].array);
+    restVariables_.assign(variables.begin(), variables.end());
 }
 
 void LateArguments::prepare(Execution& m, const LoadedProcedure& procedure, const image::ClassMember& member,
                             std::span<const Variant> arguments, std::span<Slot* const> variables) {
     const std::size_t all = procedure.info->parameters;
+    const bool writesRecord = member.result == BaseType::Record && procedure.result == ValueKind::None;
+    if (writesRecord) throw basic::RuntimeError(basic::kTypeMismatch); // a record has no place in a Variant
     if (all == 0 || (all == 1 && member.hasParamArray)) throw basic::RuntimeError(basic::kPropertyOrMethodNotSupported);
     const std::size_t count = all - 1, simple = count - (member.hasParamArray ? 1 : 0);
     if (arguments.size() > simple && !member.hasParamArray) throw basic::RuntimeError(basic::kWrongNumberOfArguments);
@@ -107,15 +122,17 @@ void LateArguments::prepare(Execution& m, const LoadedProcedure& procedure, cons
     for (std::size_t i = 0; i < count; ++i) {
         Argument& argument = arguments_[i];
         argument.type = procedure.info->variables[i + 1].type;
-        if (i < member.parameters.size()) argument.declared = member.parameters[i];
+        const image::MemberParameter& declared = member.parameters[i];
+        argument.declared = declared.type;
         if (i >= simple) {
-            packRest(m, argument, arguments.size() > simple ? arguments.subspan(simple) : std::span<const Variant>());
+            packRest(m, argument, arguments.subspan(std::min(simple, arguments.size())),
+                     variables.subspan(std::min(simple, variables.size())));
             continue;
         }
         const bool isGiven = i < arguments.size() && !arguments[i].isMissing();
-        if (!isGiven && i + member.optional < simple) throw basic::RuntimeError(basic::kArgumentNotOptional);
+        if (!isGiven && !declared.isOptional) throw basic::RuntimeError(basic::kArgumentNotOptional);
         argument.variable = isGiven && i < variables.size() ? variables[i] : nullptr;
-        prepareOne(m, argument, isGiven ? arguments[i] : missing());
+        prepareOne(m, argument, isGiven ? arguments[i] : valueOf(m, declared.byDefault));
     }
 }
 
@@ -137,6 +154,12 @@ void LateArguments::writeBack(Execution& m) {
         const Variant value = copyOfSlot(m.heap, argument.value, valueType(argument.type), argument.declared);
         setVariant(m.heap, argument.variable, value);
     }
+    const std::size_t count = rest_ ? std::min<std::size_t>(rest_->size, restVariables_.size()) : 0;
+    for (std::size_t i = 0; i < count; ++i) {
+        const Variant& element = variantAt(rest_->as<Slot>() + 2 * i);
+        const bool isAssigned = (element.flags & Variant::kUnassigned) == 0;
+        if (isAssigned && restVariables_[i]) setVariant(m.heap, restVariables_[i], copyOf(m.heap, element));
+    }
 }
 
 void LateArguments::release(Heap& heap) {
@@ -145,6 +168,7 @@ void LateArguments::release(Heap& heap) {
         if (image::isManaged(type)) releaseSlot(heap, argument.value, managedKind(type));
     }
     arguments_.clear();
+    tamarik::release(heap, std::exchange(rest_, nullptr));
 }
 
 } // namespace tamarik

@@ -11,7 +11,7 @@ class LateArguments {
 public:
     /// The first argument that is an object where the parameter is a simple value; null if there is none.
     [[nodiscard]] Variant* firstWithoutValue(const LoadedProcedure& procedure, std::span<Variant> arguments) const;
-    /// Errors 449, 450 and those of conversions.
+    /// Errors 13, 449, 450 and those of conversions.
     void prepare(Execution& m, const LoadedProcedure& procedure, const image::ClassMember& member,
                  std::span<const Variant> arguments, std::span<Slot* const> variables);
     /// Moves the arguments to the slots of the parameters, from the one after Me on.
@@ -28,9 +28,11 @@ private:
         bool isInVariable = false; ///< the parameter refers to the caller's Variant itself
     };
     void prepareOne(Execution& m, Argument& argument, const Variant& value);
-    void packRest(Execution& m, Argument& argument, std::span<const Variant> rest);
+    void packRest(Execution& m, Argument& argument, std::span<const Variant> rest, std::span<Slot* const> variables);
 
     std::vector<Argument> arguments_;
+    ArrayBlock* rest_ = nullptr;       ///< of the ParamArray
+    std::vector<Slot*> restVariables_; ///< which its elements are
 };
 
 /// The argument if it is an object where a simple value is needed; otherwise null.

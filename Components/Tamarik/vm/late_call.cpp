@@ -1,7 +1,9 @@
 #include "Components/Tamarik/vm/late_call.h"
-#include "Basic/case_folding.h"
 #include "Basic/runtime_error.h"
 #include "Components/Tamarik/objects/library_object.h"
+#include "Components/Tamarik/values/encoding.h"
+#include "Components/Tamarik/values/variant_conversion.h"
+#include "Components/Tamarik/values/variant_text.h"
 #include "Components/Tamarik/vm/array_operations.h"
 #include "Components/Tamarik/vm/late_arguments.h"
 #include "Components/Tamarik/vm/slot_values.h"
@@ -23,28 +25,9 @@ using image::MemberUse;
 /// Objects whose default member is an object again.
 constexpr int kDeepestDefaults = 8;
 
-bool serves(const ClassMember& member, LateUse use) {
-    switch (member.use) {
-    case MemberUse::Method:
-    case MemberUse::Get: return use == LateUse::Call || use == LateUse::Get;
-    case MemberUse::Let: return use == LateUse::Let;
-    case MemberUse::Set: return use == LateUse::Set;
-    case MemberUse::Field: return true;
-    }
-    return false;
-}
-
-const ClassMember* memberOf(Execution& m, std::uint32_t classNumber, std::uint32_t name, LateUse use) {
-    const std::uint64_t key =
-        std::uint64_t{classNumber} << 40 | std::uint64_t{name} << 8 | static_cast<std::uint64_t>(use);
-    const auto [entry, isNew] = m.memberCache.try_emplace(key, nullptr);
-    if (!isNew) return entry->second;
-    const auto wanted = m.program->text(name);
-    for (const ClassMember& member : m.program->code().classes[classNumber - 1].members) {
-        if (!member.isPublic || !serves(member, use)) continue;
-        if (basic::equalNoCase(m.program->text(member.name), wanted)) return entry->second = &member;
-    }
-    return nullptr;
+/// Let takes the value of an object's default member.
+bool assignsObject(LateUse use, std::span<const Variant> arguments) {
+    return use == LateUse::Let && !arguments.empty() && arguments.back().kind == kObject;
 }
 
 class LateCallTask final : public Task {
@@ -75,8 +58,7 @@ public:
 
     void release(Heap& heap) override {
         tamarik::release(heap, std::exchange(result_, {}));
-        tamarik::release(heap, std::exchange(request_.object, {}));
-        for (Variant& argument : request_.arguments) tamarik::release(heap, std::exchange(argument, {}));
+        request_.release();
         arguments_.release(heap);
     }
 
@@ -86,33 +68,25 @@ private:
         requireObject(request_.object);
         Object& object = *request_.object.object;
         if (object.classNumber == 0) return callLibrary(m, static_cast<LibraryObject&>(object));
-        const std::uint32_t name = nameFor(m, object.classNumber);
-        if (const ClassMember* const member = memberOf(m, object.classNumber, name, request_.use))
+        if (const ClassMember* const member = memberFor(m, request_, request_.use))
             return callMemberOf(m, static_cast<Instance&>(object), *member);
         // A property that returns an object: the value is assigned to that object's default member.
-        const ClassMember* const getter = memberOf(m, object.classNumber, name, LateUse::Get);
-        const bool assigns = request_.use == LateUse::Let || request_.use == LateUse::Set;
-        if (!assigns || !getter || (getter->use == MemberUse::Method) || request_.arguments.size() < 2)
+        const ClassMember* const getter = memberFor(m, request_, LateUse::Get);
+        if (!request_.assigns() || !getter || (getter->use == MemberUse::Method) || request_.arguments.size() < 2)
             throw basic::RuntimeError(basic::kPropertyOrMethodNotSupported);
         return callProcedure(m, static_cast<Instance&>(object), *getter, 0);
     }
 
-    std::uint32_t nameFor(const Execution& m, std::uint32_t classNumber) const {
-        if (request_.name != image::kNone) return request_.name;
-        const std::uint32_t name = m.program->code().classes[classNumber - 1].defaultMember;
-        if (name == image::kNone) throw basic::RuntimeError(basic::kPropertyOrMethodNotSupported);
-        return name;
-    }
-
     bool callLibrary(Execution& m, LibraryObject& object) {
-        const std::string_view name =
-            request_.name == image::kNone ? object.defaultMember() : m.program->text(request_.name);
+        if (assignsObject(request_.use, request_.arguments)) return resolve(m, request_.arguments.back());
+        const std::string_view given = request_.nameIn(*m.program),
+                               name = given.empty() ? object.defaultMember() : given;
         if (name.empty()) throw basic::RuntimeError(basic::kPropertyOrMethodNotSupported);
         std::vector<const Variant*> positional;
         std::vector<NamedArgument> named;
-        const std::size_t firstNamed = request_.arguments.size() - request_.named.size();
+        const std::size_t firstNamed = request_.firstNamed();
         for (std::size_t i = 0; i < request_.arguments.size(); ++i) {
-            if (i < firstNamed)
+            if (i < firstNamed || i - firstNamed == request_.named.size())
                 positional.push_back(&request_.arguments[i]);
             else
                 named.push_back({m.program->text(request_.named[i - firstNamed]), &request_.arguments[i]});
@@ -123,18 +97,19 @@ private:
     }
 
     bool callMemberOf(Execution& m, Instance& object, const ClassMember& member) {
-        if (!request_.named.empty()) throw basic::RuntimeError(basic::kNamedArgumentNotFound);
+        const bool takesNone = member.parameters.empty() || member.use == MemberUse::Field;
+        if (takesNone && !request_.named.empty()) throw basic::RuntimeError(basic::kNamedArgumentNotFound);
         if (member.use == MemberUse::Field) return useField(m, object, member);
         // A property without parameters: the arguments are for what it returns.
-        const bool isIndexed = member.use == MemberUse::Get && member.parameters.empty() && !request_.arguments.empty();
+        const bool isIndexed = member.use == MemberUse::Get && takesNone && !request_.arguments.empty();
+        if (!isIndexed) arrangeArguments(*m.program, request_, member);
         return callProcedure(m, object, member, isIndexed ? 0 : request_.arguments.size());
     }
 
     bool useField(Execution& m, Instance& object, const ClassMember& member) {
         Slot* const field = object.fields() + member.target;
         const image::SlotType type = typeOfField(m, object, member);
-        const bool assigns = request_.use == LateUse::Let || request_.use == LateUse::Set;
-        if (assigns && request_.arguments.size() == 1) {
+        if (request_.assigns() && request_.arguments.size() == 1) {
             if (Variant* const unresolved = valueNeeded(request_.arguments[0], type)) return resolve(m, *unresolved);
             storeInSlot(m, field, type, member.result, request_.arguments[0]);
             isDone_ = true;
@@ -187,13 +162,14 @@ private:
         if (++defaults_ > kDeepestDefaults) throw basic::RuntimeError(basic::kPropertyOrMethodNotSupported);
         tamarik::release(m.heap, std::exchange(request_.object, std::exchange(result_, {})));
         request_.name = image::kNone;
+        request_.givenName.clear();
         request_.variables.clear();
     }
 
     void useElement(Execution& m) {
         const std::span<const Variant> arguments(request_.arguments);
         Variant element;
-        if (request_.use == LateUse::Let || request_.use == LateUse::Set)
+        if (request_.assigns())
             storeElementWith(m.heap, result_, arguments.first(arguments.size() - 1), arguments.back());
         else
             element = elementWith(m.heap, result_, arguments);
@@ -222,7 +198,7 @@ void callLate(Execution& m, LateRequest request, std::uint8_t result) {
 }
 
 void callDefault(Execution& m, const Variant& object) {
-    LateRequest request;
+    LateRequest request(m.heap);
     request.object = sharedOf(object);
     callLate(m, std::move(request), image::kNoSlot);
 }
@@ -249,6 +225,7 @@ bool callLibrary(Execution& m, const std::uint32_t* ip) {
     auto& object = static_cast<LibraryObject&>(*target.object);
     std::array<const Variant*, 255> arguments;
     for (std::uint32_t i = 0; i < word.c; ++i) arguments[i] = &variantAt(base + halfAt(ip + 3, i));
+    if (word.c != 0 && assignsObject(static_cast<LateUse>(ip[2] & 0xFF), {arguments[word.c - 1], 1})) return false;
     const Variant result = callFound(m.session, object, foundAt(m, ip, object), {arguments.data(), word.c});
     if (word.a == image::kNoSlot)
         release(m.heap, result);
@@ -257,26 +234,64 @@ bool callLibrary(Execution& m, const std::uint32_t* ip) {
     return true;
 }
 
+namespace {
+
+/// Copies of the Variants in so many slots, which remain the variables that ByRef parameters refer to.
+void takeArguments(Execution& m, LateRequest& request, const std::uint32_t* slots, std::uint32_t first,
+                   std::uint32_t end) {
+    Slot* const base = m.frame->base;
+    request.arguments.reserve(end - first);
+    for (std::uint32_t i = first; i < end; ++i) {
+        request.variables.push_back(base + halfAt(slots, i));
+        request.arguments.push_back(copyOf(m.heap, variantAt(request.variables.back())));
+    }
+}
+
+LateUse useOf(std::int32_t callType) {
+    switch (callType) {
+    case 1: return LateUse::Call;
+    case 2:
+    case 3: return LateUse::Get; // also as a method
+    case 4: return LateUse::Let;
+    case 8: return LateUse::Set;
+    default: throw basic::RuntimeError(basic::kInvalidProcedureCall);
+    }
+}
+
+} // namespace
+
 void callLate(Execution& m, const std::uint32_t* ip) {
     const image::Word word(*ip);
-    Slot* const base = m.frame->base;
-    LateRequest request;
+    LateRequest request(m.heap);
     request.name = ip[1];
     request.use = static_cast<LateUse>(ip[2] & 0xFF);
     const std::uint32_t named = ip[2] >> 8;
     request.named.assign(ip + 3, ip + 3 + named);
-    const std::uint32_t* const slots = ip + 3 + named;
-    request.arguments.reserve(word.c);
+    takeArguments(m, request, ip + 3 + named, 0, word.c);
+    request.object = sharedOf(variantAt(m.frame->base + word.b));
+    callLate(m, std::move(request), word.a);
+}
+
+void callByName(Execution& m, const std::uint32_t* ip) {
+    const image::Word word(*ip);
+    Slot* const base = m.frame->base;
+    const auto given = [&](std::uint32_t i) -> const Variant& { return variantAt(base + halfAt(ip + 1, i)); };
+    const std::int32_t callType = longOf(given(1), image::BaseType::Long);
+    LateRequest request(m.heap);
+    request.use = useOf(callType);
+    request.isExact = callType != 3;
+    TextBlock* const name = textOf(m.heap, given(0));
     try {
-        for (std::uint32_t i = 0; i < word.c; ++i) {
-            request.variables.push_back(base + halfAt(slots, i));
-            request.arguments.push_back(copyOf(m.heap, variantAt(request.variables.back())));
-        }
-        request.object = sharedOf(variantAt(base + word.b));
+        request.givenName = toUtf8(unitsOf(name));
     } catch (...) {
-        for (const Variant& argument : request.arguments) release(m.heap, argument);
+        release(m.heap, name);
         throw;
     }
+    release(m.heap, name);
+    if (request.givenName.empty()) throw basic::RuntimeError(basic::kPropertyOrMethodNotSupported);
+    if (request.assigns() && word.c == 2) throw basic::RuntimeError(basic::kWrongNumberOfArguments);
+    takeArguments(m, request, ip + 1, 2, word.c);
+    request.object = sharedOf(variantAt(base + word.b));
     callLate(m, std::move(request), word.a);
 }
 

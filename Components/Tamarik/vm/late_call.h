@@ -1,20 +1,8 @@
 #pragma once
 // Members that are found by name while the program runs.
-#include "Components/Tamarik/vm/execution.h"
-#include <string>
-#include <vector>
+#include "Components/Tamarik/vm/late_request.h"
 
 namespace tamarik {
-
-/// A call of a member of an object. It owns its Variants.
-struct LateRequest {
-    Variant object;
-    std::uint32_t name = image::kNone; ///< a text; kNone for the default member
-    image::LateUse use = image::LateUse::Get;
-    std::vector<Variant> arguments;
-    std::vector<Slot*> variables;     ///< of the caller, which ByRef parameters refer to; may be shorter
-    std::vector<std::uint32_t> named; ///< texts, the names of the last arguments
-};
 
 /// Pushes the task of a call; its result goes to the frame below.
 void callLate(Execution& m, LateRequest request, std::uint8_t result);
@@ -22,6 +10,8 @@ void callLate(Execution& m, LateRequest request, std::uint8_t result);
 bool callLibrary(Execution& m, const std::uint32_t* ip);
 /// The instruction CallLate.
 void callLate(Execution& m, const std::uint32_t* ip);
+/// The instruction CallByName. Error 5 for an unknown type of call.
+void callByName(Execution& m, const std::uint32_t* ip);
 
 /// The value of the default member of an object, at once or by a call; then the result is empty and the task receives it later.
 void callDefault(Execution& m, const Variant& object);
