@@ -4,6 +4,7 @@
 #include "Components/Tamarik/vm/execution.h"
 #include <algorithm>
 #include <span>
+#include <utility>
 
 namespace tamarik {
 
@@ -53,6 +54,7 @@ void Execution::enterHandler(Frame& of) {
     const std::uint32_t* const at = &of == frame ? of.ip : of.ip - 1;
     const ErrorState error = noted_;
     unwind(&of);
+    if (of.rare) of.rare->raising.reset();
     clearManaged(heap, of.base, of.procedure->temporaries);
     session.err = error;
     if (session.err.source.empty()) session.err.source = "VBAProject";
@@ -93,10 +95,29 @@ const std::uint32_t* Execution::returnSub() {
     return to;
 }
 
+bool Execution::storeBack(const Frame& handler) {
+    for (Frame* caller = frame - 1; caller >= &handler; --caller) {
+        const bool storesBack =
+            caller->procedure->info && image::Word(*caller->ip).op == std::uint8_t(image::Op::StoreBack);
+        if (!storesBack) continue;
+        unwind(caller);
+        rare(*caller).raising = noted_;
+        return true;
+    }
+    return false;
+}
+
+bool Execution::raiseAgain() {
+    noted_ = *std::exchange(frame->rare->raising, std::nullopt);
+    return dispatchError();
+}
+
 bool Execution::dispatchError() {
+    // An error while arguments are stored back replaces that of the call.
+    if (frame->rare) frame->rare->raising.reset();
     for (Frame* at = frame;; --at) {
         if (takesErrors(*at)) {
-            enterHandler(*at);
+            if (!storeBack(*at)) enterHandler(*at);
             return true;
         }
         if (isBarrier(*at)) break;
