@@ -1,6 +1,7 @@
 #include "Basic/conversions.h"
 #include "Basic/case_folding.h"
 #include "Basic/decimal.h"
+#include "Basic/elementary/real_digits.h"
 #include "Basic/runtime_error.h"
 #include "Basic/text.h"
 #include <charconv>
@@ -61,21 +62,16 @@ Double powerOfTen(Long exponent) {
     return power;
 }
 
-template <class Real>
-std::string realText(Real number, int significant) {
+std::string realText(Double number, int significant) {
     if (std::isnan(number)) return "-1.#IND";
     if (std::isinf(number)) return number < 0 ? "-1.#INF" : "1.#INF";
     if (number == 0) return "0";
-    char buffer[40];
-    const auto end =
-        std::to_chars(buffer, buffer + sizeof buffer, std::abs(number), std::chars_format::scientific, significant - 1)
-            .ptr;
-    const std::string_view text(buffer, static_cast<std::size_t>(end - buffer));
+    const std::string text = scientificText(std::abs(number), significant);
     const std::size_t letter = text.find('e');
     int exponent = 0;
     const std::size_t sign = text[letter + 1] == '+' ? 2 : 1;
-    std::from_chars(text.data() + letter + sign, end, exponent);
-    std::string digits(text.substr(0, letter));
+    std::from_chars(text.data() + letter + sign, text.data() + text.size(), exponent);
+    std::string digits = text.substr(0, letter);
     digits.erase(1, 1); // the point
     digits.erase(digits.find_last_not_of('0') + 1);
     return (number < 0 ? "-" : "") + layOut(std::move(digits), exponent, significant);
@@ -88,8 +84,9 @@ Double Convertible::number() const { return text_ ? toDouble(requiredNumber(*tex
 bool CBool(const Convertible& value) {
     if (value.text()) {
         const std::string word = Trim(*value.text());
-        if (equalNoCase(word, "True")) return true;
-        if (equalNoCase(word, "False")) return false;
+        // With marks as Write # writes them.
+        if (equalNoCase(word, "True") || equalNoCase(word, "#TRUE#")) return true;
+        if (equalNoCase(word, "False") || equalNoCase(word, "#FALSE#")) return false;
     }
     return value.number() != 0;
 }

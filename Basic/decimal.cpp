@@ -1,7 +1,7 @@
 #include "Basic/decimal.h"
+#include "Basic/elementary/real_digits.h"
 #include "Basic/runtime_error.h"
 #include <algorithm>
-#include <charconv>
 #include <limits>
 #include <utility>
 
@@ -135,8 +135,7 @@ Double toDouble(const Decimal& number) {
     if (number.digits.empty()) return 0;
     const std::string text = number.digits + 'e' + std::to_string(number.exponent);
     Double value = 0;
-    const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (result.ec == std::errc::result_out_of_range) {
+    if (!readReal(text, value)) {
         if (static_cast<std::int64_t>(number.digits.size()) + number.exponent > 0) throw RuntimeError(kOverflow);
         return 0;
     }

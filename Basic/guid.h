@@ -14,7 +14,7 @@ struct GUID {
     std::uint32_t Data1 = 0;
     std::uint16_t Data2 = 0, Data3 = 0;
     std::array<std::uint8_t, 8> Data4{};
-    friend auto operator<=>(const GUID&, const GUID&) = default;
+    friend std::strong_ordering operator<=>(const GUID&, const GUID&) = default;
 };
 
 /// Parses a GUID with or without braces, in any letter case; nothing for any other text.

@@ -102,7 +102,7 @@ std::vector<std::string> Filter(const std::vector<std::string>& pieces, std::str
 }
 
 Integer StrComp(std::string_view a, std::string_view b, VbCompareMethod compare) noexcept {
-    const std::weak_ordering order = compare == vbTextCompare ? compareNoCase(a, b) : a <=> b;
+    const std::weak_ordering order = compare == vbTextCompare ? compareNoCase(a, b) : a.compare(b) <=> 0;
     return order < 0 ? -1 : order > 0 ? 1 : 0;
 }
 

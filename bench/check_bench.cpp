@@ -1,5 +1,7 @@
-// Checks the syntax, names and types of files as one project.
-// Usage: check_bench [--threads N] FILE...; the status is 1 if there are errors, since that would distort the measurement.
+// Checks the syntax, names and types of files as one project, and with --image also makes its code and writes the image.
+// Usage: check_bench [--threads N] [--image PATH] FILE...; the status is 1 if there are errors, since that would distort the
+// measurement.
+#include "Components/Image/image.h"
 #include "Components/QLToolkit/check.h"
 #include <cstdio>
 #include <cstdlib>
@@ -13,9 +15,14 @@ int main(int argc, char** argv) {
     qltoolkit::ProgramOptions options;
     std::vector<std::unique_ptr<qltoolkit::SourceText>> sources;
     std::size_t bytes = 0;
+    const char* imagePath = nullptr;
     for (int i = 1; i < argc; ++i) {
         if (std::strcmp(argv[i], "--threads") == 0 && i + 1 < argc) {
             options.threads = static_cast<unsigned>(std::atoi(argv[++i]));
+            continue;
+        }
+        if (std::strcmp(argv[i], "--image") == 0 && i + 1 < argc) {
+            imagePath = argv[++i];
             continue;
         }
         std::ifstream file(argv[i], std::ios::binary);
@@ -26,7 +33,14 @@ int main(int argc, char** argv) {
     std::vector<const qltoolkit::SourceText*> all;
     for (const auto& source : sources) all.push_back(source.get());
     unsigned long errors = 0, lines = 0;
-    for (const auto& result : qltoolkit::checkProject(all, {}, options)) {
+    auto made = imagePath ? qltoolkit::compileProject(all, {}, options, "Main", 1252)
+                          : qltoolkit::CompiledProject{qltoolkit::checkProject(all, {}, options), {}, {}};
+    if (made.code) {
+        image::Image whole;
+        whole.code = std::move(*made.code);
+        std::ofstream(imagePath, std::ios::binary) << image::encode(whole);
+    }
+    for (const auto& result : made.results) {
         errors += result.errors;
         lines += result.lines;
     }

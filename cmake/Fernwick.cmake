@@ -5,6 +5,7 @@ option(FERNWICK_BENCH "Build the benchmarks" OFF)
 option(FERNWICK_WORKBENCH "Build the desktop, which needs Qt 6" ON)
 option(FERNWICK_CHECK_HEADERS "Make a target that compiles each header alone" OFF)
 option(FERNWICK_FUZZ "Build the fuzz targets (clang)" OFF)
+option(FERNWICK_RUNTIME_ONLY "Build only the runtime, which needs nothing but the standard library: for other machines" OFF)
 
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
@@ -19,6 +20,10 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
   add_compile_options(-Wno-restrict -Wno-stringop-overflow -Wno-stringop-overread -Wno-array-bounds)
 endif()
 include_directories(${PROJECT_SOURCE_DIR})
+if(CMAKE_SYSTEM_NAME STREQUAL Linux AND CMAKE_SIZEOF_VOID_P EQUAL 4)
+  # Times after 2038 and files above 2 GB, also where the C library has them only on request.
+  add_compile_definitions(_TIME_BITS=64 _FILE_OFFSET_BITS=64)
+endif()
 
 # fernwick_library(NAME [LINK ...] [PRIVATE_LINK ...] [FOLDERS ...]): a static library of all .cpp files in this folder and
 # in the rooms that FOLDERS lists, from the ground up: a room may include those before it, and this folder is on top of them

@@ -3,7 +3,7 @@
 #include "Components/Image/image.h"
 #include "Components/Image/verify/verify.h"
 #include "Components/Tamarik/functions/standard_natives.h"
-#include "Components/Tamarik/vm/machine.h"
+#include "Components/Tamarik/vm/run_without_window.h"
 #include "fuzz/repaired_header.h"
 #include "tests/qltoolkit/checked_program.h"
 
@@ -22,7 +22,7 @@ std::string outcome(const std::shared_ptr<const tamarik::Program>& program, bool
     try {
         tamarik::Machine machine{program, natives, options};
         machine.start();
-        const auto state = machine.run(kBudget);
+        const auto state = tamarik::runWithoutWindow(machine, kBudget);
         if (machine.error()) printed += std::to_string(machine.error()->number);
         return printed + "/" + std::to_string(int(state));
     } catch (const tamarik::Refusal& refusal) { return refusal.what(); }

@@ -1,6 +1,6 @@
 // Generated programs that were verified are run, in both forms of the interpreter: whatever they do, memory stays whole.
 #include "Components/Tamarik/functions/standard_natives.h"
-#include "Components/Tamarik/vm/machine.h"
+#include "Components/Tamarik/vm/run_without_window.h"
 #include "fuzz/repaired_header.h"
 #include "tests/support/random_code.h"
 #include <memory>
@@ -23,7 +23,7 @@ std::string outcome(const std::shared_ptr<const tamarik::Program>& program, bool
     options.output.print = [&](std::string_view text) { printed += text; };
     tamarik::Machine machine{program, natives(), options};
     machine.start();
-    const auto state = machine.run(kBudget);
+    const auto state = tamarik::runWithoutWindow(machine, kBudget);
     if (machine.error()) printed += std::to_string(machine.error()->number);
     return printed + "/" + std::to_string(int(state));
 }

@@ -10,7 +10,7 @@ qltoolkit::ProgramOptions programOf(const CheckedProject& project, DescribedLibr
     program.projectName = project.name;
     program.threads = std::max(1U, std::thread::hardware_concurrency());
     program.warnsOfDevices = project.isForDevices;
-    program.isIncomplete = !isWhole;
+    program.lacksFiles = !isWhole;
     for (const auto& guid : project.libraries) {
         if (isLanguageLibrary(guid)) continue;
         const auto* library = libraries.find(guid);

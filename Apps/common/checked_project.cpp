@@ -44,11 +44,14 @@ CheckedProject readProject(const std::string& path, const std::optional<basic::C
     const auto detected = host::codePageOfProject(content.bytes, folderOf(path), given, contents);
     host::ProjectFile file{content.bytes, basic::codePageOfFile(content.bytes, detected.page)};
     if (!file.looksLikeProject()) throw basic::RuntimeError(basic::kInvalidProcedureCall, "not a Visual Basic project");
-    CheckedProject project{path, file.setting("Name").value_or(""), {}, {}, detected, isForDevices(file), {}, {}, {}};
+    CheckedProject project{path, file.setting("Name").value_or(""), {}, {}, detected, isForDevices(file), {}, {}, {},
+                           {}};
     project.startup = file.setting("Startup").value_or("");
     project.constants = qltoolkit::parseConditionalConstants(file.setting("CondComp").value_or(""));
     host::PathLookup lookup(detected.page);
     for (const auto& member : file.members()) addMember(project, member.content, lookup);
+    if (const auto resources = file.setting("ResFile32"))
+        project.resourceFile = lookup.find(folderOf(project.path), *resources);
     return project;
 }
 

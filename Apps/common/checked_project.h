@@ -20,6 +20,7 @@ struct CheckedProject {
     std::vector<std::string> libraries;     ///< the GUIDs of its references and control libraries
     std::vector<host::ProjectMember> lines; ///< its members, in the order of the file
     std::string startup;                    ///< "Sub Main", the name of a form, or ""
+    std::string resourceFile;               ///< its path; "" if there is none
 };
 
 /// Reads a project file. `given` is its code page, without which it is detected; the sources that are read for this stay

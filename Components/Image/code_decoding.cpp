@@ -2,6 +2,7 @@
 #include "Components/Image/image_bytes.h"
 #include "Components/Image/image_format.h"
 #include "Components/Image/line_bytes.h"
+#include "Components/Image/word_bytes.h"
 #include <algorithm>
 
 namespace image {
@@ -152,12 +153,14 @@ void decodeProcedures(CodeReader r, CodeImage& code) {
     r.end();
 }
 
-template <class T>
-void decodeWords(Reader in, std::vector<T>& words) {
-    if (in.rest().size() % sizeof(T) != 0) imageIsDamaged("a section is too long");
-    words.resize(in.rest().size() / sizeof(T));
-    for (auto& word : words)
-        for (const unsigned char byte : in.raw(sizeof(T))) word = word >> 8 | T(byte) << (8 * (sizeof(T) - 1));
+void decodeNumbers(Reader in, std::vector<std::uint64_t>& numbers) {
+    constexpr std::size_t kSize = sizeof(std::uint64_t);
+    if (in.rest().size() % kSize != 0) imageIsDamaged("a section is too long");
+    numbers.resize(in.rest().size() / kSize);
+    for (auto& number : numbers) {
+        const std::uint64_t low = in.u32();
+        number = low | std::uint64_t{in.u32()} << 32;
+    }
 }
 
 void decodeImports(CodeReader r, CodeImage& code) {
@@ -167,6 +170,18 @@ void decodeImports(CodeReader r, CodeImage& code) {
         r.types(import.parameters);
     });
     r.end();
+}
+
+void decodeResources(Reader in, std::vector<Resource>& resources) {
+    resources.resize(in.count(3 * kWord));
+    for (auto& resource : resources) {
+        resource.type = in.raw(in.u32());
+        resource.name = in.raw(in.u32());
+        resource.data = in.raw(in.u32());
+    }
+    if (!in.atEnd()) imageIsDamaged("a section is too long");
+    // They are found by their order.
+    if (!areInOrder(resources)) imageIsDamaged("the resources are not in order");
 }
 
 } // namespace
@@ -181,12 +196,13 @@ CodeImage decodeCode(const Sections& sections, const std::vector<SharedText>& st
     decodeGlobals({reader(kGlobalSection)}, strings, code);
     decodeTypes({reader(kTypeSection)}, code);
     decodeClasses({reader(kClassSection)}, code);
-    decodeWords(reader(kCodeSection), code.code);
-    decodeWords(reader(kNumberSection), code.numbers);
+    code.code = decodeWords(reader(kCodeSection));
+    decodeNumbers(reader(kNumberSection), code.numbers);
     decodeProcedures({reader(kProcedureSection)}, code);
     decodeImports({reader(kImportSection)}, code);
     decodeLines(reader(kLineSection), code.procedures);
     decodeStatements(reader(kStatementSection), code.procedures);
+    if (sections.contains(kResourceSection)) decodeResources(reader(kResourceSection), code.resources);
     return code;
 }
 

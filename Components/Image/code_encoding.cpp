@@ -3,6 +3,7 @@
 #include "Components/Image/image_bytes.h"
 #include "Components/Image/image_format.h"
 #include "Components/Image/line_bytes.h"
+#include "Components/Image/word_bytes.h"
 
 namespace image {
 
@@ -136,12 +137,6 @@ std::string encodeProcedures(const CodeImage& code) {
     return w.out.bytes();
 }
 
-std::string encodeWords(const CodeImage& code) {
-    Writer out;
-    for (const auto word : code.code) out.u32(word);
-    return out.bytes();
-}
-
 std::string encodeNumbers(const CodeImage& code) {
     Writer out;
     for (const auto number : code.numbers) {
@@ -161,19 +156,38 @@ std::string encodeImports(const CodeImage& code) {
     return w.out.bytes();
 }
 
+void addBytes(Writer& out, std::string_view bytes) {
+    out.u32(std::uint32_t(bytes.size()));
+    out.raw(bytes);
+}
+
+std::string encodeResources(const std::vector<Resource>& resources) {
+    if (!areInOrder(resources)) imageIsRefused("The resources are not in order.");
+    Writer out;
+    out.u32(std::uint32_t(resources.size()));
+    for (const auto& resource : resources) {
+        addBytes(out, resource.type);
+        addBytes(out, resource.name);
+        addBytes(out, resource.data);
+    }
+    return out.bytes();
+}
+
 } // namespace
 
 std::vector<EncodedSection> encodeCode(const CodeImage& code) {
     if (code == CodeImage{}) return {};
-    return {{kGlobalSection, encodeGlobals(code)},
-            {kTypeSection, encodeTypes(code)},
-            {kClassSection, encodeClasses(code)},
-            {kProcedureSection, encodeProcedures(code)},
-            {kCodeSection, encodeWords(code)},
-            {kNumberSection, encodeNumbers(code)},
-            {kImportSection, encodeImports(code)},
-            {kLineSection, encodeLines(code.procedures)},
-            {kStatementSection, encodeStatements(code.procedures)}};
+    std::vector<EncodedSection> sections{{kGlobalSection, encodeGlobals(code)},
+                                         {kTypeSection, encodeTypes(code)},
+                                         {kClassSection, encodeClasses(code)},
+                                         {kProcedureSection, encodeProcedures(code)},
+                                         {kCodeSection, encodeWords(code.code)},
+                                         {kNumberSection, encodeNumbers(code)},
+                                         {kImportSection, encodeImports(code)},
+                                         {kLineSection, encodeLines(code.procedures)},
+                                         {kStatementSection, encodeStatements(code.procedures)}};
+    if (!code.resources.empty()) sections.emplace_back(kResourceSection, encodeResources(code.resources));
+    return sections;
 }
 
 } // namespace image

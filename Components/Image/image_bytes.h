@@ -20,6 +20,10 @@ inline constexpr int kInvalidFileFormat = 321;
 /// CRC-32 as used by zip and PNG (polynomial 0xEDB88320, inverted).
 std::uint32_t crc32(std::string_view bytes);
 
+/// Signed numbers with the sign in the lowest bit, so that small ones in both directions are short.
+constexpr std::uint32_t withSignLast(std::uint32_t number) { return number << 1 ^ (0U - (number >> 31)); }
+constexpr std::uint32_t withSignFirst(std::uint32_t value) { return value >> 1 ^ (0U - (value & 1)); }
+
 class Writer {
 public:
     void u8(std::uint8_t value) { bytes_ += char(value); }

@@ -18,6 +18,8 @@ inline constexpr std::string_view kTypeSection = "TYPE", kClassSection = "CLAS",
 inline constexpr std::string_view kCodeSections[] = {kGlobalSection,    kTypeSection, kClassSection,
                                                      kProcedureSection, kCodeSection, kNumberSection,
                                                      kImportSection,    kLineSection, kStatementSection};
+/// Of code with resources.
+inline constexpr std::string_view kResourceSection = "RESO";
 /// Sections begin at multiples of this.
 inline constexpr std::size_t kSectionAlignment = 8;
 

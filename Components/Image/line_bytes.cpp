@@ -8,10 +8,6 @@ namespace image {
 
 namespace {
 
-/// Small for small distances in both directions.
-constexpr std::uint32_t withSignLast(std::uint32_t distance) { return distance << 1 ^ (0U - (distance >> 31)); }
-constexpr std::uint32_t withSignFirst(std::uint32_t value) { return value >> 1 ^ (0U - (value & 1)); }
-
 struct LineList {
     static const auto& of(const Procedure& procedure) { return procedure.lines; }
     static auto& of(Procedure& procedure) { return procedure.lines; }

@@ -50,20 +50,24 @@ std::vector<CheckResult> check(const Sources& sources, const ConditionalConstant
     auto parsed = parseModules(sources, symbols, constants, options.threads);
     std::vector<CheckResult> results;
     std::vector<ParsedModule> modules;
-    bool isRight = true;
+    std::vector<std::size_t> places; // in the results, of the modules
     for (std::size_t i = 0; i < sources.size(); ++i) {
-        isRight &= parsed[i].module && parsed[i].errors == 0;
+        const bool isRight = parsed[i].module && parsed[i].errors == 0;
         results.push_back({std::move(parsed[i].diagnostics), parsed[i].errors, sources[i]->lineCount()});
+        if (!isRight) continue;
         modules.push_back({parsed[i].module.get(), readFormHeader(*sources[i])});
+        places.push_back(i);
     }
-    if (!isRight) return results;
+    const bool isWhole = modules.size() == sources.size();
+    auto known = options;
+    known.lacksFiles |= !isWhole;
     checkProgram(
-        modules, symbols, options,
+        modules, symbols, known,
         [&](std::vector<std::vector<Diagnostic>> messages) {
-            for (std::size_t i = 0; i < results.size(); ++i) addMessages(results[i], std::move(messages[i]));
+            for (std::size_t i = 0; i < places.size(); ++i) addMessages(results[places[i]], std::move(messages[i]));
             finish(results);
         },
-        code);
+        isWhole ? code : nullptr);
     return results;
 }
 

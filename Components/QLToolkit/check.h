@@ -23,8 +23,8 @@ struct CheckResult {
 [[nodiscard]] CheckResult checkSource(std::string name, std::string bytes, const ConditionalConstants& constants = {},
                                       const basic::CodePage& = basic::CodePage::windows1252());
 
-/// Checks the files of a project together: the syntax of each and, if all is right, names and types. The results are in
-/// the order of the files.
+/// Checks the files of a project together: the syntax of each, and the names and types of those whose syntax is right. A
+/// name that a faulty file may declare is not reported. The results are in the order of the files.
 [[nodiscard]] std::vector<CheckResult> checkProject(const std::vector<const SourceText*>& sources,
                                                     const ConditionalConstants& constants,
                                                     const ProgramOptions& options);

@@ -1,6 +1,8 @@
 #include "Components/QLToolkit/compiler.h"
 #include "Basic/case_folding.h"
+#include "Basic/tables/code_page_names.h"
 #include "Basic/text_search.h"
+#include "Components/QLToolkit/code/code_generator.h"
 #include "Components/QLToolkit/module_image.h"
 #include "Components/QLToolkit/parser/form_header.h"
 #include <algorithm>
@@ -13,6 +15,8 @@ namespace {
 
 /// The share of the sources in the progress; the rest is for writing the image.
 constexpr std::size_t kPercentOfSources = 90;
+
+constexpr const char* kSubMain = "Sub Main";
 
 ConditionalConstants conditionalConstants(const std::vector<std::pair<std::string, std::int32_t>>& given) {
     ConditionalConstants constants;
@@ -55,7 +59,7 @@ bool ProjectCompiler::compile() {
     auto sources = parseSources(symbols);
     const auto libraries = findLibraries();
     for (const auto& library : libraries) image.libraries.push_back(services_.files.GetFileName(library.path));
-    if (errors_ == 0) checkNames(sources, symbols, libraries);
+    image.code = checkNames(sources, symbols, libraries);
     for (auto& source : sources) addModule(image, source, symbols);
     checkModules(image);
     if (errors_ > 0) return false;
@@ -103,8 +107,23 @@ void ProjectCompiler::addModule(image::Image& image, Source& source, const Symbo
     if (source.form && source.text->kind() == FileKind::Form) image.forms.push_back(std::move(*source.form));
 }
 
-void ProjectCompiler::checkNames(const std::vector<Source>& sources, SymbolTable& symbols,
-                                 const std::vector<Library>& libraries) {
+bool ProjectCompiler::makesCode(const std::vector<Source>& sources) {
+    return std::all_of(sources.begin(), sources.end(), [](const Source& source) {
+        return source.text->kind() == FileKind::Module || source.text->kind() == FileKind::Class;
+    });
+}
+
+/// A source in UTF-8 doesn't show which page the program means by Chr and Asc.
+std::uint32_t ProjectCompiler::codePageOf(const std::vector<Source>& sources) {
+    const auto found = std::find_if(sources.begin(), sources.end(), [](const Source& source) {
+        return source.text->codePage().number() != basic::kUtf8Page;
+    });
+    return static_cast<std::uint32_t>(
+        (found == sources.end() ? basic::CodePage::windows1252() : found->text->codePage()).number());
+}
+
+image::CodeImage ProjectCompiler::checkNames(const std::vector<Source>& sources, SymbolTable& symbols,
+                                             const std::vector<Library>& libraries) {
     std::vector<ParsedModule> modules;
     for (const auto& source : sources) modules.push_back({source.parsed.module.get(), source.form});
     ProgramOptions options;
@@ -114,17 +133,28 @@ void ProjectCompiler::checkNames(const std::vector<Source>& sources, SymbolTable
             options.libraries.push_back(described);
     const auto named = std::count_if(input_.files.begin(), input_.files.end(),
                                      [](const BuildFile& file) { return file.kind != SourceFile; });
+    options.lacksFiles = errors_ > 0;
     options.isIncomplete = options.libraries.size() < static_cast<std::size_t>(named);
     options.warnsOfDevices = true;
     options.threads = std::max(1U, std::thread::hardware_concurrency());
-    for (const auto& messages : checkProgram(modules, symbols, options))
-        for (const auto& diagnostic : messages) report(diagnostic);
+
+    CodeGenerator generator;
+    image::CodeImage code;
+    const bool wantsCode = errors_ == 0 && makesCode(sources);
+    const auto finish = [&](const ProgramMessages& found) {
+        for (const auto& messages : found)
+            for (const auto& diagnostic : messages) report(diagnostic);
+        if (wantsCode && errors_ == 0)
+            code = generator.link(input_.startup == kSubMain ? "Main" : "", codePageOf(sources));
+    };
+    checkProgram(modules, symbols, options, finish, wantsCode ? &generator : nullptr);
+    return code;
 }
 
 void ProjectCompiler::checkModules(const image::Image& image) {
     std::set<std::string> names;
     bool startFound = input_.startup.empty();
-    const bool startsWithMain = input_.startup == "Sub Main";
+    const bool startsWithMain = input_.startup == kSubMain;
     for (const auto& module : image.modules) {
         if (!names.insert(basic::foldCase(module.name)).second)
             report(fileDiagnostic(Message::ModuleNameTwice, module.file, module.name));

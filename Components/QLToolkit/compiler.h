@@ -84,7 +84,12 @@ private:
     std::optional<Source> parseSource(const std::string& path, SymbolTable& symbols);
     void addModule(image::Image& image, Source& source, const SymbolTable& symbols);
     void checkModules(const image::Image& image);
-    void checkNames(const std::vector<Source>& sources, SymbolTable& symbols, const std::vector<Library>& libraries);
+    /// Returns the code of a program that has some and no errors.
+    image::CodeImage checkNames(const std::vector<Source>& sources, SymbolTable& symbols,
+                                const std::vector<Library>& libraries);
+    /// Forms have no code yet, and modules beside them cannot run alone.
+    static bool makesCode(const std::vector<Source>& sources);
+    static std::uint32_t codePageOf(const std::vector<Source>& sources);
     std::vector<Library> findLibraries();
     std::optional<Library> findLibrary(const BuildFile& file);
     void reportDependencies(const image::Image& image, const std::vector<Library>& libraries);

@@ -1,4 +1,5 @@
-"""An unchanged project is not checked again, and nothing that can happen to the stored results changes what is found."""
+"""An unchanged project is not checked or compiled again, and nothing that can happen to the stored results changes what is
+found."""
 import os
 import re
 import subprocess
@@ -116,6 +117,89 @@ class CheckCache(unittest.TestCase):
             out, err = run.communicate(timeout=120)
             self.assertEqual((re.sub(r"in \d+\.\d+ s", "", out), err, run.returncode), expected)
         self.assertEqual(len(self.stored()), 1)
+
+
+class ProgramCache(unittest.TestCase):
+    def setUp(self):
+        self.home = Home()
+        self.home.__enter__()
+        self.addCleanup(self.home.__exit__)
+        self.module = self.home.work / "TestProgram.bas"
+        self.project = self.home.work / "Program.vbp"
+        self.project.write_bytes(b'Type=Exe\r\nModule=TestProgram; TestProgram.bas\r\nStartup="Sub Main"\r\nName="Program"\r\n')
+        self.write("Hello")
+        self.folder = self.home.folder / ".cache/fernwick/checks"
+
+    def write(self, text):
+        self.module.write_bytes(f'Attribute VB_Name = "TestProgram"\r\nSub Main()\r\n  Dim never As Long\r\n'
+                                f'  Debug.Print "{text}"\r\nEnd Sub\r\nPublic Sub TestIt()\r\nEnd Sub\r\n'.encode("cp1252"))
+
+    def run_it(self, verb="run"):
+        done = self.home.fernwick(verb, str(self.project))
+        return done.stdout, done.stderr, done.returncode
+
+    def stored(self):
+        return {p.name: p.stat().st_ino for p in self.folder.iterdir()}
+
+    def test_an_unchanged_program_is_not_compiled_again(self):
+        self.assertEqual(self.run_it(), ("Hello\n", "", 0))
+        stored = self.stored()
+        self.assertEqual(len(stored), 1)
+        self.assertEqual(self.run_it(), ("Hello\n", "", 0))
+        self.assertIn("passed  TestProgram.TestIt", self.run_it("test")[0])
+        self.assertEqual(self.stored(), stored)
+        self.write("Another")
+        self.assertEqual(self.run_it(), ("Another\n", "", 0))
+        self.assertNotEqual(self.stored(), stored)
+
+    def test_a_check_and_a_run_keep_their_own_results(self):
+        self.run_it()
+        self.run_it("check")
+        stored = self.stored()
+        self.assertEqual(len(stored), 2)
+        self.run_it()
+        self.run_it("check")
+        self.assertEqual(self.stored(), stored)
+
+    def test_a_program_with_errors_is_not_stored(self):
+        self.module.write_bytes(self.module.read_bytes() + b"Sub Broken()\r\n  Mispelt = 1, 2\r\nEnd Sub\r\n")
+        broken = self.run_it()
+        self.assertEqual(broken[2], 1, broken)
+        self.assertEqual(self.run_it(), broken)
+        self.assertFalse(self.folder.exists())
+
+    def test_warnings_are_printed_each_time(self):
+        self.module.write_bytes(self.module.read_bytes() + b"Declare Sub Strange Lib \"strange\" ()\r\n"
+                                b"Sub Calls()\r\n  Strange\r\nEnd Sub\r\n")
+        self.project.write_bytes(self.project.read_bytes() + b"[Quinloft Global]\r\nIsQuinloftProject=True\r\n")
+        first = self.run_it()
+        self.assertIn("warning", first[1])
+        self.assertEqual(self.run_it(), first)
+
+    def test_damage_changes_nothing(self):
+        expected = self.run_it()
+        good = next(self.folder.iterdir()).read_bytes()
+        for damage in (b"", b"fernwick check 1 ", good[:-1], good[:-20] + b"\0" * 20):
+            next(self.folder.iterdir()).write_bytes(damage)
+            self.assertEqual(self.run_it(), expected)
+            self.assertEqual(next(self.folder.iterdir()).read_bytes(), good)
+
+    @unittest.skipIf("ASAN_OPTIONS" in os.environ, "the leak checker does not run under strace")
+    def test_a_run_that_is_killed_leaves_a_program_that_is_right(self):
+        expected = self.run_it()
+        trace = self.home.folder / "trace"
+        for calls in KILLED_AT:
+            for path in self.folder.iterdir():
+                path.unlink()
+            self.home.run("strace", "-f", "-qq", "-o", str(trace), "-e", f"trace={calls}", "fernwick", "run",
+                          str(self.project))
+            count = len(trace.read_text().splitlines())
+            for number in range(max(1, count - 4), count + 1):
+                for path in self.folder.iterdir():
+                    path.unlink()
+                self.home.run("strace", "-f", "-qq", "-o", str(trace), "-e",
+                              f"inject={calls}:signal=KILL:when={number}", "fernwick", "run", str(self.project))
+                self.assertEqual(self.run_it(), expected, f"{calls} {number}")
 
 
 if __name__ == "__main__":

@@ -1,5 +1,6 @@
 """Programs that `fernwick run` executes can be interrupted, and end when their output is closed."""
 import signal
+import struct
 import subprocess
 import unittest
 
@@ -14,6 +15,17 @@ Sub Main()
     Loop
 End Sub
 """
+
+
+def identifier(text):
+    return struct.pack("<HH", 0xFFFF, int(text[1:])) if text.startswith("#") else text.encode("utf-16-le") + bytes(2)
+
+
+def resource(kind, name, data):
+    """An entry of a resource file. The name is a number, as "#1", or has letters."""
+    head = identifier(kind) + identifier(name)
+    head += bytes(-len(head) % 4)
+    return struct.pack("<II", len(data), 8 + len(head) + 16) + head + bytes(16) + data + bytes(-len(data) % 4)
 
 
 class Programs(unittest.TestCase):
@@ -84,6 +96,37 @@ class Programs(unittest.TestCase):
         first, same, other = (self.home.fernwick("run", "Loop.vbp", "--seed", seed).stdout for seed in ("1", "1", "2"))
         self.assertEqual(first, same)
         self.assertNotEqual(first, other)
+
+    def test_a_resource_file_is_part_of_the_program(self):
+        self.program("Debug.Print LoadResString(1); UBound(LoadResData(\"LOGO\", \"CUSTOM\")): Exit Do")
+        with (self.home.work / "Loop.vbp").open("a") as project:
+            project.write('ResFile32="loop.RES"\n')
+        file = self.home.work / "Loop.res"
+        text = struct.pack("<HH", 0, 5) + "Hello".encode("utf-16-le") + bytes(28)
+        file.write_bytes(resource("#0", "#0", b"") + resource("#6", "#1", text) + resource("CUSTOM", "LOGO", b"abc"))
+        done = self.home.fernwick("run", "Loop.vbp")
+        self.assertEqual((done.returncode, done.stdout, done.stderr), (0, "Hello 2 \n", ""))
+        file.write_bytes(b"no resources")
+        done = self.home.fernwick("run", "Loop.vbp")
+        self.assertEqual((done.returncode, done.stdout), (1, ""))
+        self.assertIn("Loop.res: The resource file is cut off.", done.stderr)
+        file.unlink()
+        self.assertEqual(self.home.fernwick("run", "Loop.vbp").returncode, 2)
+
+    def test_a_program_sees_a_device_and_not_the_desktop(self):
+        self.program('Debug.Print Environ("USERNAME"); Environ("HOME"); Environ("PATH"): Exit Do')
+        self.assertEqual(self.home.fernwick("run", "Loop.vbp").stdout, "User\n")
+
+    def test_a_sleeping_program_can_be_interrupted(self):
+        self.program('Debug.Print "sleeps": Sleep 60000')
+        source = self.home.work / "Loop.bas"
+        declared = 'Private Declare Sub Sleep Lib "kernel32" (ByVal dwMilliseconds As Long)\nSub Main()'
+        source.write_text(source.read_text().replace("Sub Main()", declared))
+        with self.start() as running:
+            self.assertEqual(running.stdout.readline(), "sleeps\n")
+            running.send_signal(signal.SIGINT)
+            running.communicate(timeout=50)
+            self.assertEqual(running.returncode, 130)
 
 
 if __name__ == "__main__":

@@ -52,6 +52,7 @@ CodeImage everything() {
     stack.predeclared = 1;
     code.start = 0;
     code.codePage = 932;
+    code.resources = {{"#10", "#1", "abc"}, {"#10", "NAME", ""}, {"TYPE", "#1", std::string(1000, '\0')}};
     return code;
 }
 
@@ -113,10 +114,10 @@ TEST(CodeFormat, HasNoSectionsWithoutCode) {
 
 TEST(CodeFormat, AlignsItsSections) {
     const auto bytes = image::encode(imageWith(everything()));
-    ASSERT_EQ(u32At(bytes, 16), 4 + std::size(image::kCodeSections));
+    ASSERT_EQ(u32At(bytes, 16), 4 + std::size(image::kCodeSections) + 1);
     for (std::size_t i = 0; i < u32At(bytes, 16); ++i)
         EXPECT_EQ(u32At(bytes, kHeaderSize + i * kSectionEntrySize + 4) % 8, 0u);
-    EXPECT_EQ(sizeOf(bytes, "CODE"), 4 * 4u);
+    EXPECT_EQ(sizeOf(bytes, "CODE"), 3 + 3 * 1u);
     EXPECT_EQ(sizeOf(bytes, "CONS"), 2 * 8u);
 }
 
@@ -153,7 +154,7 @@ TEST(CodeFormat, NamesTheReasonForRefusingIt) {
             put(bytes, entryOf(bytes, section) + 8, std::uint32_t(int(sizeOf(bytes, section)) + by));
         };
     };
-    for (const auto* section : {"GLOB", "TYPE", "CLAS", "PROC", "CODE", "CONS", "IMPT", "LINE"})
+    for (const auto* section : {"GLOB", "TYPE", "CLAS", "PROC", "CONS", "IMPT", "LINE"})
         EXPECT_EQ(reasonFor(grow(section, 1)), damaged + "a section is too long.") << section;
     for (const auto* section : {"GLOB", "TYPE", "CLAS", "PROC", "IMPT", "LINE", "STMT"})
         EXPECT_EQ(reasonFor(grow(section, -1)), damaged + "a count is larger than the file.") << section;
@@ -171,6 +172,36 @@ TEST(CodeFormat, RefusesDamagedLines) {
     EXPECT_EQ(lines({1, 0, 2, 1, 1}), damaged + "the lines of a procedure are not in order.");
     EXPECT_EQ(lines({1, 0, 1, 14}), damaged + "the lines of a procedure are not in order.");
     EXPECT_EQ(lines({0xFF, 0xFF, 0xFF, 0xFF, 0xFF}), damaged + "a number is too large.");
+}
+
+TEST(CodeFormat, FindsResourcesByTypeAndName) {
+    const auto resources = everything().resources;
+    ASSERT_TRUE(image::findResource(resources, "#10", "#1"));
+    EXPECT_EQ(image::findResource(resources, "#10", "#1")->data, "abc");
+    EXPECT_EQ(image::findResource(resources, "TYPE", "#1")->data.size(), 1000u);
+    for (const auto& [type, name] : {std::pair{"#10", "#2"}, {"#11", "#1"}, {"#1", "#1"}, {"TYPE", "NAME"}, {"", ""}})
+        EXPECT_FALSE(image::findResource(resources, type, name)) << type << name;
+    EXPECT_FALSE(image::findResource({}, "#10", "#1"));
+}
+
+TEST(CodeFormat, RefusesResourcesThatAreNotInOrder) {
+    const std::string damaged = "The compiled file is damaged: ";
+    const auto nameOfFirst = 4 + 4 + 3 + 4; // after the count, the type and the length of the name
+    const auto renamed = [&](std::string_view name) {
+        return reasonFor([&](std::string& bytes) {
+            const auto at = bytes.find("NAME", beginOf(bytes, "RESO"));
+            bytes.replace(at, name.size(), name);
+        });
+    };
+    EXPECT_EQ(renamed("!AME"), damaged + "the resources are not in order.");
+    const auto wrongLength = [&](std::uint32_t length) { return reasonAfter("RESO", nameOfFirst - 4, length); };
+    EXPECT_NE(wrongLength(0xFFFFFFFF), "");
+    EXPECT_NE(wrongLength(3), "");
+    EXPECT_EQ(reasonAfter("RESO", 0, 2), damaged + "a section is too long.");
+    EXPECT_EQ(reasonAfter("RESO", 0, 0x10000000), damaged + "a count is larger than the file.");
+    for (const auto& wrong :
+         {std::vector<image::Resource>{{"B", "A", ""}, {"A", "A", ""}}, {{"A", "A", ""}, {"A", "A", "x"}}})
+        EXPECT_EQ(whyRefused([&](CodeImage& code) { code.resources = wrong; }), "The resources are not in order.");
 }
 
 TEST(CodeFormat, RefusesToWriteWhatCannotBeRead) {

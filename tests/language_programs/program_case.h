@@ -2,6 +2,7 @@
 // Small programs with their output, as tests/language/programs/README.md describes them.
 #include <algorithm>
 #include <cctype>
+#include <cstdint>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -16,7 +17,10 @@ namespace language_programs {
 
 struct Case {
     std::string file, title, source, pending;
+    std::string library; ///< which the project refers to; may be empty
+    std::vector<std::string> resources;
     std::string code, expected;
+    std::uint32_t codePage = 1252;
 
     [[nodiscard]] bool isPending() const { return !pending.empty(); }
     [[nodiscard]] bool hasSource() const { return source != "unsourced"; }
@@ -24,7 +28,8 @@ struct Case {
 };
 
 inline constexpr std::string_view kTitle = "=== ", kSource = "' source: ", kUnsourced = "' unsourced",
-                                  kPending = "' pending: ", kOutput = "---";
+                                  kPending = "' pending: ", kLibrary = "' reference: ", kCodePage = "' code page: ",
+                                  kResource = "' resource: ", kOutput = "---";
 
 inline std::string trimmed(std::string text) {
     while (!text.empty() && std::isspace(static_cast<unsigned char>(text.back()))) text.pop_back();
@@ -38,7 +43,7 @@ inline std::vector<Case> readCases(const std::filesystem::path& path) {
     bool isOutput = false;
     for (std::string line; std::getline(in, line);) {
         if (line.starts_with(kTitle)) {
-            cases.push_back({path.stem().string(), line.substr(kTitle.size()), {}, {}, {}, {}});
+            cases.push_back({path.stem().string(), line.substr(kTitle.size()), {}, {}, {}, {}, {}, {}, 1252});
             isOutput = false;
             continue;
         }
@@ -51,6 +56,12 @@ inline std::vector<Case> readCases(const std::filesystem::path& path) {
             last.source = "unsourced";
         else if (isHead && line.starts_with(kPending))
             last.pending = line.substr(kPending.size());
+        else if (isHead && line.starts_with(kLibrary))
+            last.library = line.substr(kLibrary.size());
+        else if (isHead && line.starts_with(kCodePage))
+            last.codePage = static_cast<std::uint32_t>(std::stoul(line.substr(kCodePage.size())));
+        else if (isHead && line.starts_with(kResource))
+            last.resources.push_back(line.substr(kResource.size()));
         else if (!isOutput && line == kOutput)
             isOutput = true;
         else

@@ -1,3 +1,5 @@
+#include "Components/Image/code/code_names.h"
+#include "Components/Image/verify/verify.h"
 #include "Components/QLToolkit/compiler.h"
 #include "Host/system/file_system.h"
 #include "tests/support/temp_folder.h"
@@ -97,6 +99,45 @@ TEST_F(CompilerComponent, ReadsSourcesInTheirCodePage) {
     add("modMain.bas", page_.encode("Attribute VB_Name = \"modMain\"\r\nSub 計算()\r\nEnd Sub\r\n"));
     EXPECT_TRUE(compiler_->Build());
     EXPECT_EQ(image::decode(folder_.read("Tips.0000.qlx")).modules[0].members[0].name, "計算");
+}
+
+TEST_F(CompilerComponent, WritesTheCodeOfModulesAndClasses) {
+    page_ = basic::CodePage(1251);
+    add("modMain.bas", "Attribute VB_Name = \"modMain\"\r\nSub Other()\r\nEnd Sub\r\n"
+                       "Sub Main()\r\n  Debug.Print 1\r\nEnd Sub\r\n");
+    compiler_->SetStartupObject("Sub Main");
+    EXPECT_TRUE(compiler_->Build());
+    const auto code = image::decode(folder_.read("Tips.0000.qlx")).code;
+    EXPECT_FALSE(image::verify(code));
+    ASSERT_LT(code.start, code.procedures.size());
+    EXPECT_EQ(image::procedureName(code, code.start), "modMain.Main");
+    EXPECT_EQ(code.codePage, 1251u);
+}
+
+TEST_F(CompilerComponent, WritesNoCodeOfModulesBesideForms) {
+    add("frmTip.frm", kForm);
+    add("modMain.bas", kModule);
+    compiler_->SetStartupObject("frmTip");
+    EXPECT_TRUE(compiler_->Build());
+    EXPECT_EQ(image::decode(folder_.read("Tips.0000.qlx")).code, image::CodeImage{});
+}
+
+TEST_F(CompilerComponent, TakesTheCodePageFromASourceThatIsNotUtf8) {
+    page_ = basic::CodePage(1250);
+    add("modAccents.bas", "Attribute VB_Name = \"modAccents\"\r\nConst A = \"\xC3\xA9\xE2\x82\xAC\"\r\n");
+    add("modMain.bas", "Attribute VB_Name = \"modMain\"\r\nSub Main()\r\nEnd Sub\r\n");
+    EXPECT_TRUE(compiler_->Build());
+    EXPECT_EQ(image::decode(folder_.read("Tips.0000.qlx")).code.codePage, 1250u);
+}
+
+TEST_F(CompilerComponent, ChecksTheNamesBesideAFaultyFile) {
+    add("modBad.bas", "Attribute VB_Name = \"modBad\"\r\nFunction Half(n)\r\n  n = n +\r\nEnd Function\r\n");
+    add("modMain.bas", "Attribute VB_Name = \"modMain\"\r\nOption Explicit\r\nSub Main()\r\n"
+                       "  Debug.Print Half(2)\r\n  GoTo Nowhere\r\nEnd Sub\r\n");
+    EXPECT_FALSE(compiler_->Build());
+    ASSERT_EQ(errors_.size(), 2u);
+    EXPECT_TRUE(errors_[0].starts_with("modBad.bas:")) << errors_[0];
+    EXPECT_EQ(errors_[1], "modMain.bas:5 2006");
 }
 
 TEST_F(CompilerComponent, WritesAnImageAndReportsProgress) {

@@ -243,3 +243,11 @@ End Sub
 )");
     EXPECT_EQ(problemOf(program.compiled()), "");
 }
+
+TEST(GeneratedCode, OfAnArrayOfControlsFromAnAbsentLibraryPassesVerification) {
+    CheckedProgram program;
+    program.options.isIncomplete = true;
+    program.controls = "   Begin Absent.Shape Shape1 \n      Index = 0\n   End\n";
+    program.add("Form1.frm", "Sub Grow()\n  Shape1(0).Speed = Shape1(0).Speed + 1\nEnd Sub\n");
+    EXPECT_EQ(problemOf(program.compiled()), "");
+}

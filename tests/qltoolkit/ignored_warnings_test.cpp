@@ -53,6 +53,8 @@ TEST(IgnoredWarnings, ANumberThatIgnoresNothingIsMentionedOnRequest) {
     test::CheckedProgram desktop;
     desktop.options.warnsOptionally = true;
     EXPECT_THAT(desktop.add("Module1.bas", code).messages(), ElementsAre("2:25 2911"));
+    desktop.options.lacksFiles = true; // which may have declared what the warning is for
+    EXPECT_THAT(desktop.messages(), IsEmpty());
 }
 
 TEST(IgnoredWarnings, OtherCommentsAndTextsIgnoreNothing) {

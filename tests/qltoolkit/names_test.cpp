@@ -8,6 +8,20 @@ using test::messagesOf;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
+TEST(Names, AreCheckedInTheFilesBesideAFaultyOne) {
+    const auto messages = test::CheckedProgram{}
+                              .add("Module1.bas", "Option Explicit\nPublic Function Half(ByVal n)\n  n = n +\n"
+                                                  "  GoTo Nowhere\nEnd Function\n")
+                              .add("Customer.cls", "Public Name As String = 1\n")
+                              .add("Module2.bas", "Option Explicit\nSub Go(c As Customer)\n  Dim n As Long\n"
+                                                  "  n = Half(n) + c.Name\n  GoTo Nowhere\nEnd Sub\n")
+                              .messages();
+    ASSERT_EQ(messages.size(), 3u);
+    EXPECT_TRUE(messages[0].starts_with("Module1.bas:3:")) << messages[0];
+    EXPECT_TRUE(messages[1].starts_with("Customer.cls:1:")) << messages[1];
+    EXPECT_EQ(messages[2], "Module2.bas:5:8 2006");
+}
+
 TEST(Names, AVariableHasOneNameWithAndWithoutItsTypeCharacter) {
     EXPECT_THAT(messagesOf("Option Explicit\nSub A()\nDim s$, n%\ns = \"\": s$ = s\nn% = n\nEnd Sub"), IsEmpty());
 }

@@ -287,19 +287,17 @@ TEST_F(FunctionsTest, RaiseTheErrorsOfTheLanguage) {
     });
 }
 
-TEST_F(FunctionsTest, ChooseTheDefaultButtonOfAMessage) {
-    EXPECT_EQ(shown(call("MsgBox", {text(u"Go?"), ofNumber(4 + 256), text(u"App")})), "Long 7");
-    EXPECT_EQ(errors, "App: Go?\n");
-    EXPECT_EQ(shown(call("MsgBox", {text(u"Done"), ofNumber(0), missing()})), "Long 1");
-    EXPECT_EQ(shown(call("MsgBox", {text(u"?"), ofNumber(3 + 512), missing()})), "Long 2");
+TEST_F(FunctionsTest, AskTheHostWithTheDefaultButton) {
+    const auto buttonOf = [&](std::int32_t style) {
+        (void)call("MsgBox", {text(u"Go?"), ofNumber(style), text(u"App")});
+        return std::exchange(session.wait, std::nullopt)->wait.usualButton;
+    };
+    EXPECT_EQ(buttonOf(0), 1);
+    EXPECT_EQ(buttonOf(3 + 512), 2);
+    EXPECT_EQ(buttonOf(4 + 256 + 32), 7);
+    EXPECT_EQ(buttonOf(256), 1); // no second button
     EXPECT_EQ(errorOf("MsgBox", {text(u"?"), ofNumber(6)}), 5);
-}
-
-TEST_F(FunctionsTest, ReadTheAnswerOfAnInputBox) {
-    input = {"", "Ann"};
-    EXPECT_EQ(shown(call("InputBox", {text(u"Name")})), "String Ann");
-    EXPECT_EQ(shown(call("InputBox", {text(u"Name"), missing(), text(u"Bob")})), "String Bob");
-    EXPECT_EQ(shown(call("InputBox", {text(u"Name"), missing(), text(u"Bob")})), "String ");
+    EXPECT_FALSE(session.wait);
 }
 
 TEST_F(FunctionsTest, KeepSettings) {

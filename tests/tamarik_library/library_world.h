@@ -27,8 +27,7 @@ protected:
         EXPECT_EQ(session.heap.used(), 0U);
     }
 
-    std::string printed, errors;
-    std::vector<std::string> input; ///< lines; the last one first
+    std::string printed;
     basic::Date time{37622.5};      ///< January 1, 2003, noon
     Session session;
     Natives natives;
@@ -88,13 +87,6 @@ private:
     Output outputs() {
         Output output;
         output.print = [this](std::string_view t) { printed += t; };
-        output.error = [this](std::string_view t) { errors += t; };
-        output.inputLine = [this](std::string& line) {
-            if (input.empty()) return false;
-            line = input.back();
-            input.pop_back();
-            return true;
-        };
         return output;
     }
 

@@ -6,8 +6,6 @@
 #include <cstdlib>
 #include <fmt/format.h>
 #include <fstream>
-#include <string>
-#include <string_view>
 #include <system_error>
 #include <unistd.h>
 
@@ -60,26 +58,25 @@ fs::path checkCacheFolder() {
 
 fs::path CheckCache::fileOf(const CheckKey& key) const { return folder_ / fmt::format("{:016x}", key.project); }
 
-std::optional<CheckResults> CheckCache::find(const CheckKey& key) const {
+std::optional<std::string> CheckCache::find(const CheckKey& key) const {
     if (folder_.empty()) return std::nullopt;
     host::FileContent file;
     const auto failed = basic::attempt([&] { file = host::readFile(fileOf(key).string()); });
     if (failed.Number != 0) return std::nullopt;
-    const std::string_view bytes = file.bytes;
-    const auto rest = bytes.substr(std::min(bytes.find('\n'), bytes.size() - 1) + 1);
-    if (!bytes.starts_with(headOf(key.content, rest))) return std::nullopt;
+    const auto head = std::min(file.bytes.find('\n'), file.bytes.size() - 1) + 1;
+    if (!file.bytes.starts_with(headOf(key.content, std::string_view(file.bytes).substr(head)))) return std::nullopt;
     renew(fileOf(key));
-    return qltoolkit::resultsOf(rest);
+    file.bytes.erase(0, head);
+    return std::move(file.bytes);
 }
 
-void CheckCache::store(const CheckKey& key, const CheckResults& results) const {
+void CheckCache::store(const CheckKey& key, std::string_view results) const {
     if (folder_.empty()) return;
     std::error_code failed;
     fs::create_directories(folder_, failed);
     const auto file = fileOf(key);
     const auto beside = fs::path(file) += fmt::format(".{}", ::getpid());
-    const auto bytes = qltoolkit::bytesOf(results);
-    if (write(beside, headOf(key.content, bytes), bytes)) fs::rename(beside, file, failed);
+    if (write(beside, headOf(key.content, results), results)) fs::rename(beside, file, failed);
     fs::remove(beside, failed); // if it was not renamed
     removeOld();
 }

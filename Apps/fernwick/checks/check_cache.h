@@ -1,13 +1,12 @@
 #pragma once
-// Results of earlier checks, so that an unchanged project is not checked again.
-#include "Components/QLToolkit/check_results.h"
+// Results of earlier checks and compiles, so that an unchanged project is not checked or compiled again.
 #include <cstdint>
 #include <filesystem>
 #include <optional>
+#include <string>
+#include <string_view>
 
 namespace cli {
-
-using qltoolkit::CheckResults;
 
 struct CheckKey {
     std::uint64_t project = 0; ///< the same for the same project, whatever it contains
@@ -21,9 +20,9 @@ public:
     /// In `folder`, which is created when something is stored; "" stores nothing.
     explicit CheckCache(std::filesystem::path folder) : folder_(std::move(folder)) {}
 
-    [[nodiscard]] std::optional<CheckResults> find(const CheckKey& key) const;
-    /// Replaces the results of the project, and removes those of projects that were not checked for a month.
-    void store(const CheckKey& key, const CheckResults& results) const;
+    [[nodiscard]] std::optional<std::string> find(const CheckKey& key) const;
+    /// Replaces the results of the project, and removes those that were not used for a month.
+    void store(const CheckKey& key, std::string_view results) const;
 
 private:
     [[nodiscard]] std::filesystem::path fileOf(const CheckKey& key) const;

@@ -7,6 +7,8 @@
 #include "Basic/runtime_error.h"
 #include "Host/files/path_lookup.h"
 #include "Host/system/environment.h"
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace cli {
@@ -31,28 +33,66 @@ ProjectCheck::ProjectCheck(const Options& options, host::FileContents& contents)
 
 std::vector<CheckedSource> ProjectCheck::check(const apps::CheckedProject& project) {
     auto sources = readSources(project);
-    const auto key = keyOf(project, sources);
-    auto results = cache_.find(key);
-    std::vector<CheckedSource> checked;
-    std::size_t readable = 0;
-    for (auto& source : sources) {
-        readable += source.content.has_value();
-        checked.push_back({std::move(source.failure), nullptr});
+    const auto key = keyOf(project, sources).check;
+    const auto bytes = cache_.find(key);
+    auto results = bytes ? qltoolkit::resultsOf(*bytes) : std::nullopt;
+    auto checked = checkedSources(project, sources, results);
+    if (!results) {
+        results = qltoolkit::checkProject(textsOf(checked), project.constants, programOf(project, checked));
+        cache_.store(key, qltoolkit::bytesOf(*results));
     }
-    const bool isKnown = results && results->size() == readable;
+    addResults(checked, sources, std::move(*results));
+    return checked;
+}
+
+CompiledSources ProjectCheck::compile(const apps::CheckedProject& project) {
+    auto sources = readSources(project);
+    const auto key = keyOf(project, sources).compile;
+    const auto bytes = cache_.find(key);
+    auto program = bytes ? storedProgramOf(*bytes) : std::nullopt;
+    auto results = program ? std::optional(std::move(program->results)) : std::nullopt;
+    CompiledSources compiled{checkedSources(project, sources, results), {}, {}};
+    if (!results) {
+        const auto texts = textsOf(compiled.sources);
+        auto made = qltoolkit::compileProject(texts, project.constants, programOf(project, compiled.sources), "Main",
+                                              static_cast<std::uint32_t>(project.page.page.number()));
+        const bool isWhole = texts.size() == sources.size();
+        program.reset();
+        if (made.code && isWhole) {
+            program = {made.results, std::move(made.entries), std::move(*made.code)};
+            cache_.store(key, bytesOf(*program));
+        }
+        results = std::move(made.results);
+    }
+    addResults(compiled.sources, sources, std::move(*results));
+    if (program) {
+        compiled.code = std::move(program->code);
+        compiled.entries = std::move(program->entries);
+    }
+    return compiled;
+}
+
+/// Texts are needed to compile, or to show messages.
+std::vector<CheckedSource> ProjectCheck::checkedSources(const apps::CheckedProject& project,
+                                                        std::vector<Source>& sources,
+                                                        std::optional<qltoolkit::CheckResults>& results) {
+    const auto readable = std::ranges::count_if(sources, [](const Source& each) { return each.content.has_value(); });
+    if (results && std::ssize(*results) != readable) results.reset();
+    std::vector<CheckedSource> checked;
     for (std::size_t i = 0, next = 0; i < sources.size(); ++i) {
+        auto& added = checked.emplace_back(CheckedSource{std::move(sources[i].failure), nullptr});
         if (!sources[i].content) continue;
-        if (!isKnown || !(*results)[next++].diagnostics.empty())
-            checked[i].text = std::make_unique<qltoolkit::SourceText>(
+        if (!results || !(*results)[next++].diagnostics.empty())
+            added.text = std::make_unique<qltoolkit::SourceText>(
                 project.sources[i], std::move(sources[i].content->bytes), project.page.page);
     }
-    if (!isKnown) {
-        results = checkTexts(project, checked, readable == sources.size());
-        cache_.store(key, *results);
-    }
-    for (std::size_t i = 0, next = 0; i < sources.size(); ++i)
-        if (sources[i].content) checked[i].result = std::move((*results)[next++]);
     return checked;
+}
+
+void ProjectCheck::addResults(std::vector<CheckedSource>& checked, const std::vector<Source>& sources,
+                              qltoolkit::CheckResults results) {
+    for (std::size_t i = 0, next = 0; i < sources.size(); ++i)
+        if (sources[i].content) checked[i].result = std::move(results[next++]);
 }
 
 std::vector<ProjectCheck::Source> ProjectCheck::readSources(const apps::CheckedProject& project) {
@@ -72,7 +112,7 @@ ProjectCheck::Source ProjectCheck::read(const std::string& path) {
     return {std::move(content), {}};
 }
 
-CheckKey ProjectCheck::keyOf(const apps::CheckedProject& project, const std::vector<Source>& sources) const {
+ProjectCheck::Key ProjectCheck::keyOf(const apps::CheckedProject& project, const std::vector<Source>& sources) const {
     KeyText name, content;
     name.add(host::absolutePath(project.path));
     name.add(options_.warnsOptionally);
@@ -93,7 +133,9 @@ CheckKey ProjectCheck::keyOf(const apps::CheckedProject& project, const std::vec
         content.add(source ? source->stamp.size + 1 : std::uint64_t{0});
         content.add(source ? source->stamp.digest : std::uint64_t{0});
     }
-    return {name.digest(), content.digest()};
+    const CheckKey check{name.digest(), content.digest()};
+    name.add("code");
+    return {check, {name.digest(), check.content}};
 }
 
 /// The descriptions of libraries are files of the installation.
@@ -102,35 +144,11 @@ void ProjectCheck::addLibraries(KeyText& key, const apps::CheckedProject& projec
     for (const auto& path : apps::libraryDescriptions(installation_)) key.addStateOf(path);
 }
 
-qltoolkit::ProgramOptions ProjectCheck::programOf(const apps::CheckedProject& project, bool isWhole) {
-    auto program = apps::programOf(project, libraries_, isWhole);
+qltoolkit::ProgramOptions ProjectCheck::programOf(const apps::CheckedProject& project,
+                                                  const std::vector<CheckedSource>& sources) {
+    auto program = apps::programOf(project, libraries_, textsOf(sources).size() == sources.size());
     program.warnsOptionally = options_.warnsOptionally;
     return program;
-}
-
-CheckResults ProjectCheck::checkTexts(const apps::CheckedProject& project, const std::vector<CheckedSource>& sources,
-                                      bool isWhole) {
-    return qltoolkit::checkProject(textsOf(sources), project.constants, programOf(project, isWhole));
-}
-
-CompiledSources ProjectCheck::compile(const apps::CheckedProject& project) {
-    CompiledSources compiled;
-    for (auto& source : readSources(project)) {
-        auto& added = compiled.sources.emplace_back(CheckedSource{std::move(source.failure), nullptr});
-        if (source.content)
-            added.text = std::make_unique<qltoolkit::SourceText>(project.sources[compiled.sources.size() - 1],
-                                                                 std::move(source.content->bytes), project.page.page);
-    }
-    const auto texts = textsOf(compiled.sources);
-    const bool isWhole = texts.size() == compiled.sources.size();
-    auto made = qltoolkit::compileProject(texts, project.constants, programOf(project, isWhole), "Main",
-                                          static_cast<std::uint32_t>(project.page.page.number()));
-    std::size_t next = 0;
-    for (auto& source : compiled.sources)
-        if (source.text) source.result = std::move(made.results[next++]);
-    if (isWhole) compiled.code = std::move(made.code);
-    compiled.entries = std::move(made.entries);
-    return compiled;
 }
 
 } // namespace cli

@@ -4,6 +4,7 @@
 #include "Apps/common/described_libraries.h"
 #include "Apps/fernwick/checks/check_cache.h"
 #include "Apps/fernwick/checks/key_text.h"
+#include "Apps/fernwick/checks/stored_program.h"
 #include "Apps/fernwick/options/options.h"
 #include "Components/QLToolkit/check.h"
 #include "Host/files/text_file.h"
@@ -23,11 +24,11 @@ struct CheckedSource {
 
 struct CompiledSources {
     std::vector<CheckedSource> sources;   ///< in the order of the project's
-    std::optional<image::CodeImage> code; ///< of a project without errors
+    std::optional<image::CodeImage> code; ///< of a project without errors; it is not verified
     std::vector<qltoolkit::EntryPoint> entries;
 };
 
-/// Checks projects, or finds what an earlier check of the same bytes found.
+/// Checks and compiles projects, or finds what was made of the same bytes before.
 class ProjectCheck {
 public:
     ProjectCheck(const Options& options, host::FileContents& contents);
@@ -44,13 +45,21 @@ private:
         qltoolkit::CheckResult failure;
     };
 
+    struct Key {
+        CheckKey check, compile;
+    };
+
     std::vector<Source> readSources(const apps::CheckedProject& project);
     Source read(const std::string& path);
-    [[nodiscard]] CheckKey keyOf(const apps::CheckedProject& project, const std::vector<Source>& sources) const;
+    [[nodiscard]] Key keyOf(const apps::CheckedProject& project, const std::vector<Source>& sources) const;
     void addLibraries(KeyText& key, const apps::CheckedProject& project) const;
-    [[nodiscard]] qltoolkit::ProgramOptions programOf(const apps::CheckedProject& project, bool isWhole);
-    CheckResults checkTexts(const apps::CheckedProject& project, const std::vector<CheckedSource>& sources,
-                            bool isWhole);
+    [[nodiscard]] qltoolkit::ProgramOptions programOf(const apps::CheckedProject& project,
+                                                      const std::vector<CheckedSource>& sources);
+    /// Takes the contents of the sources. `results` are dropped if they do not match.
+    static std::vector<CheckedSource> checkedSources(const apps::CheckedProject& project, std::vector<Source>& sources,
+                                                     std::optional<qltoolkit::CheckResults>& results);
+    static void addResults(std::vector<CheckedSource>& checked, const std::vector<Source>& sources,
+                           qltoolkit::CheckResults results);
 
     const Options& options_;
     host::FileContents& contents_;

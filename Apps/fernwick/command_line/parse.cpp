@@ -7,14 +7,15 @@
 #include "Apps/fernwick/output/version_line.h"
 #include <algorithm>
 #include <fmt/format.h>
+#include <span>
 
 namespace cli {
 
 namespace {
 
-/// The parser with all commands.
+/// The parser with all commands. Only those that `arguments` name have the common options, which are many.
 struct CommandLine {
-    CommandLine() {
+    explicit CommandLine(std::span<const char* const> arguments = {}) {
         app.formatter(helpFormatter());
         app.footer(kExitText);
         app.require_subcommand(1);
@@ -26,7 +27,7 @@ struct CommandLine {
         defineReadingVerbs(app, raw);
         defineStoringVerbs(app, raw);
         defineToolVerbs(app, raw);
-        addCommonToVerbs(raw);
+        addCommonToVerbs(raw, arguments);
         help = app.add_subcommand("help", "Print help on a command or on answers");
         help->add_option("TOPIC", topic, "A command, or answers");
         help->add_option("ACTION", action, "One of the command's actions, which are on the same page");
@@ -148,7 +149,7 @@ Parsed helpOn(const CLI::App& app, const std::string& topic, const std::string& 
 
 Parsed parseCommandLine(int argc, const char* const* argv) {
     if (argc <= 1) return textToPrint(programHelp());
-    CommandLine line;
+    CommandLine line{{argv, static_cast<std::size_t>(argc)}};
     auto arguments = withMarks(argc, argv);
     std::reverse(arguments.begin(), arguments.end()); // as the parser expects them
     try {

@@ -3,6 +3,7 @@
 #include "Apps/fernwick/options/suggestions.h"
 #include <algorithm>
 #include <fmt/format.h>
+#include <string_view>
 
 namespace cli {
 
@@ -40,8 +41,11 @@ void addCommon(CLI::App& to, Raw& raw, const std::vector<std::string>& formats) 
         ->check(oneOf("value", {"auto", "always", "never"}));
 }
 
-void addCommonToVerbs(Raw& raw) {
-    for (const auto& [verb, formats] : raw.common) addCommon(*verb, raw, formats);
+void addCommonToVerbs(Raw& raw, std::span<const char* const> arguments) {
+    for (const auto& [verb, formats] : raw.common)
+        if (std::ranges::find(arguments, verb->get_name(), [](const char* each) { return std::string_view(each); }) !=
+            arguments.end())
+            addCommon(*verb, raw, formats);
 }
 
 CLI::App& addVerb(CLI::App& app, Raw& raw, const char* name, RunVerb run, const char* purpose,

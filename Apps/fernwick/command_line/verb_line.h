@@ -3,6 +3,7 @@
 #include "Apps/fernwick/options/options.h"
 #include "Apps/fernwick/verbs/verbs.h"
 #include <CLI/CLI.hpp>
+#include <span>
 
 namespace cli {
 
@@ -33,8 +34,8 @@ enum class Result { Data, Messages, Pages };
 
 /// Adds --format, --quiet, --verbose and --color.
 void addCommon(CLI::App& to, Raw& raw, const std::vector<std::string>& formats);
-/// Adds them to each command of addVerb, after the command's own options.
-void addCommonToVerbs(Raw& raw);
+/// Adds them to each command of addVerb that the arguments name, after the command's own options.
+void addCommonToVerbs(Raw& raw, std::span<const char* const> arguments);
 
 /// Adds a command that takes the common options.
 CLI::App& addVerb(CLI::App& app, Raw& raw, const char* name, RunVerb run, const char* purpose,

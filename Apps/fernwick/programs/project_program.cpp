@@ -9,8 +9,8 @@
 #include "Apps/fernwick/run/project_argument.h"
 #include "Basic/case_folding.h"
 #include "Basic/runtime_error.h"
-#include "Components/Image/image.h"
 #include "Components/Image/verify/verify.h"
+#include "Components/QLToolkit/source/res_file.h"
 #include <algorithm>
 #include <filesystem>
 #include <fmt/format.h>
@@ -41,14 +41,18 @@ void requireSubMain(const apps::CheckedProject& project) {
         throw Refusal(kProjectErrors, project.path + ": the startup object is not Sub Main.");
 }
 
-/// An image that cannot run is a mistake of the compiler, not of the project.
-std::shared_ptr<const image::CodeImage> loadedCode(image::CodeImage made) {
-    image::Image whole;
-    whole.code = std::move(made);
-    auto code = std::make_shared<const image::CodeImage>(image::decode(image::encode(whole)).code);
-    if (const auto problem = image::verify(*code))
+std::vector<image::Resource> resourcesOf(const std::string& path, host::FileContents& contents) {
+    std::vector<image::Resource> resources;
+    const auto err = basic::attempt([&] { resources = qltoolkit::readResources(contents.take(path).bytes); });
+    if (err.Number != 0) throw Refusal(statusOfNamedFile(path, err.Number), withFile(path, err.Description));
+    return resources;
+}
+
+/// Code that cannot run is a mistake of the compiler, not of the project, or was changed where it is stored.
+std::shared_ptr<const image::CodeImage> verified(image::CodeImage code) {
+    if (const auto problem = image::verify(code))
         throw Refusal(kMachineTrouble, "The compiled code is damaged: " + problem->text + ".");
-    return code;
+    return std::make_shared<const image::CodeImage>(std::move(code));
 }
 
 } // namespace
@@ -80,7 +84,8 @@ ProjectProgram compileProgram(const Options& options, StartObject start, Console
     if (!compiled.code) return program;
     if (start == StartObject::SubMain && compiled.code->start == image::kNone)
         throw Refusal(kProjectErrors, project.path + ": no module has a Sub Main.");
-    program.program = std::make_shared<const tamarik::Program>(loadedCode(std::move(*compiled.code)));
+    if (!project.resourceFile.empty()) compiled.code->resources = resourcesOf(project.resourceFile, contents);
+    program.program = std::make_shared<const tamarik::Program>(verified(std::move(*compiled.code)));
     program.entries = std::move(compiled.entries);
     return program;
 }

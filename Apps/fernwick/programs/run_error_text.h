@@ -7,7 +7,7 @@
 
 namespace cli {
 
-/// `file:line: run-time error 9: Subscript out of range`, and a line for each caller.
+/// As tamarik::textOf, with the paths of the project's files.
 std::string textOf(const tamarik::RunError& error, const ProjectProgram& program);
 Json jsonOf(const tamarik::RunError& error, const ProjectProgram& program);
 

@@ -21,16 +21,6 @@ namespace {
 /// Few, so that also short programs have samples.
 constexpr std::int64_t kSampledInstructions = 1009;
 
-/// As a program of the desktop receives it: arguments with blanks are in quotes.
-std::string commandLineOf(const std::vector<std::string>& arguments) {
-    std::string line;
-    for (const auto& one : arguments) {
-        const bool isQuoted = one.empty() || one.find(' ') != one.npos;
-        line += (line.empty() ? "" : " ") + (isQuoted ? '"' + one + '"' : one);
-    }
-    return line;
-}
-
 std::shared_ptr<tamarik::FileStore> storeIn(const std::string& folder) {
     std::shared_ptr<tamarik::FileStore> store;
     const auto err = basic::attempt([&] { store = std::make_shared<tamarik::FolderStore>(folder); });
@@ -48,7 +38,7 @@ public:
         if (options_.seed) settings.seed = *options_.seed;
         settings.output = output();
         if (!options_.files.empty()) settings.surroundings.files = storeIn(options_.files);
-        settings.surroundings.commandLine = commandLineOf(options_.operands);
+        settings.surroundings.commandLine = tamarik::commandLineOf(options_.operands);
         const auto machine = machineFor(program_.program, std::move(settings));
         machine->start();
         state_ = runProgram(*machine, {options_.budget, options_.profile ? kSampledInstructions : 1'000'000}, [&] {

@@ -1,5 +1,6 @@
 #pragma once
 // The code of a compiled application: procedures, classes, types, constants and data of modules.
+#include "Components/Image/code/resources.h"
 #include "Components/Image/code/slot_type.h"
 #include <optional>
 #include <string>
@@ -165,6 +166,7 @@ struct CodeImage {
     std::vector<ClassInfo> classes; ///< number 1 is the first
     std::vector<Import> imports;
     std::vector<CodeModule> modules;
+    std::vector<Resource> resources; ///< in their order
     std::uint32_t start = kNone; ///< Sub Main
     std::uint32_t codePage = 1252;
     friend bool operator==(const CodeImage&, const CodeImage&) = default;

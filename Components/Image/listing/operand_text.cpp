@@ -1,6 +1,6 @@
 #include "Components/Image/listing/operand_text.h"
+#include "Basic/elementary/real_digits.h"
 #include <bit>
-#include <charconv>
 
 namespace image {
 
@@ -11,13 +11,6 @@ std::string quoted(const CodeImage& code, std::uint32_t text) {
     std::string quoted = "\"";
     for (const char c : textNumbered(code, text)) quoted += c == '"' ? "\"\"" : std::string(1, c);
     return quoted + "\"";
-}
-
-/// The shortest text that gives the number.
-std::string doubleText(double value) {
-    char digits[32];
-    const auto end = std::to_chars(std::begin(digits), std::end(digits), value).ptr;
-    return {digits, end};
 }
 
 std::string currencyText(std::uint64_t bits) {
@@ -76,7 +69,7 @@ std::string OperandText::number(std::uint32_t offset) const {
     if (index >= code_.numbers.size()) return "?";
     const auto bits = code_.numbers[index];
     const bool isCurrency = static_cast<Op>(word_.op) == Op::LoadCurrency;
-    return isCurrency ? currencyText(bits) : doubleText(std::bit_cast<double>(bits));
+    return isCurrency ? currencyText(bits) : basic::shortestText(std::bit_cast<double>(bits));
 }
 
 std::string OperandText::extra() const {

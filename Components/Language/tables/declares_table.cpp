@@ -7,11 +7,12 @@ const std::string_view kDeclaresTable = R"(
 Library kernel32
 Module Functions
   Sub Sleep(dwMilliseconds As Long) ' Waits
+  Function GetTickCount64() As Currency ' Milliseconds since the start, as a whole number of 64 bits
   Function GetTickCount() As Long ' Milliseconds since the start
   Function QueryPerformanceCounter(ByRef lpPerformanceCount As Currency) As Long ' A fine clock
   Function QueryPerformanceFrequency(ByRef lpFrequency As Currency) As Long ' Its steps a second
-  Function GetTempPath(nBufferLength As Long, lpBuffer As String) As Long ' A folder for temporary files
-  Function GetComputerName(lpBuffer As String, ByRef nSize As Long) As Long ' The device's name
+  Function GetTempPath(nBufferLength As Long, ByRef lpBuffer As String) As Long ' A folder for temporary files
+  Function GetComputerName(ByRef lpBuffer As String, ByRef nSize As Long) As Long ' The device's name
   Sub GetSystemTime(ByRef lpSystemTime As Any) ' The time in Greenwich
   Sub GetLocalTime(ByRef lpSystemTime As Any) ' The time here
   Sub RtlMoveMemory(ByRef Destination As Any, ByRef Source As Any, Length As Long) absent "Use assignments, Mid and LSet: devices have no addresses"
@@ -40,7 +41,7 @@ Module Functions
 
 Library advapi32
 Module Functions
-  Function GetUserName(lpBuffer As String, ByRef nSize As Long) As Long ' The owner's name
+  Function GetUserName(ByRef lpBuffer As String, ByRef nSize As Long) As Long ' The owner's name
   Function RegOpenKeyEx(hKey As Long, lpSubKey As String, ulOptions As Long, samDesired As Long, ByRef phkResult As Long) As Long absent "Use GetSetting: devices have no registry"
   Function RegCreateKeyEx(hKey As Long, lpSubKey As String, Reserved As Long, lpClass As String, dwOptions As Long, samDesired As Long, lpSecurityAttributes As Any, ByRef phkResult As Long, ByRef lpdwDisposition As Long) As Long absent "Use SaveSetting: devices have no registry"
   Function RegQueryValueEx(hKey As Long, lpValueName As String, lpReserved As Long, ByRef lpType As Long, ByRef lpData As Any, ByRef lpcbData As Long) As Long absent "Use GetSetting: devices have no registry"

@@ -168,6 +168,7 @@ private:
     void store(const Place& place, const Value& value);
     bool isAddressable(const Place& place) const;
     Value reference(const Place& place);
+    Value recordOf(const Expr& expr);
     Value referenceAt(const Place& element);
     Value array(const Place& place);
 
@@ -190,6 +191,7 @@ private:
     Value join(const Value& left, const Expr& right, bool isTemporary, std::optional<std::uint32_t> target);
     Value arithmetic(Operator op, ValueType type, ValueType result, const Value& left, const Value& right,
                      std::optional<std::uint32_t> target);
+    std::uint32_t uncheckedSlot(const Value& made);
     Value comparison(Operator op, const Value& left, const Value& right, std::optional<std::uint32_t> target);
     Value operateVariants(Operator op, const Value& left, const Value& right, std::optional<std::uint32_t> target);
     std::optional<Value> operateByNumber(const BinaryExpr& expr, const Operation& operation, const Value& left,
@@ -251,7 +253,7 @@ private:
     void passElement(PassedArgument& list, std::uint32_t index, const Expr& given);
     void storeElementBack(const Value& list, std::uint32_t index, const Place& variable);
     PassedArgument copied(const Place& variable, const Value& value, const ParameterInfo& parameter);
-    PassedArgument passArray(const Expr& given);
+    PassedArgument passArray(const Expr& given, const Type& type);
     std::uint16_t passed(const Value& value);
     std::uint16_t passed(const Value& value, image::SlotType type);
     Value callByName(const Span<Argument>& given);
@@ -262,6 +264,8 @@ private:
     Value variableId(const Expr& given);
     [[nodiscard]] bool isVariable(const Expr& given) const;
     Value declaredCall(const Entity& entity, const Span<Argument>& given);
+    std::optional<std::vector<ParameterInfo>> answeredParameters(const Entity& entity,
+                                                                 const Span<Argument>& given) const;
     static std::uint16_t passedAddress(std::uint32_t slot) { return image::encodeArgument(image::Pass::Address, slot); }
     void storeBack(const std::vector<PassedArgument>& passed);
     void arguments(const Callable& callable, const Span<Argument>& given, std::vector<PassedArgument>& list,

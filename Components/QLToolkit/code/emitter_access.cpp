@@ -175,6 +175,7 @@ void Emitter::store(const Place& place, const Value& value) {
 /// Whether a reference to the place can be passed.
 bool Emitter::isAddressable(const Place& place) const {
     if (place.type.value == ValueType::Byte && place.kind == PlaceKind::Element) return false;
+    if (place.withEvents && place.kind == PlaceKind::Field) return false; // an assignment connects its events
     return place.kind <= PlaceKind::Element && !place.isTemporary;
 }
 
@@ -202,6 +203,13 @@ Value Emitter::reference(const Place& place) {
     default: out_.emit(Op::RefPart, result.slot, place.slot); out_.extra(place.offset);
     }
     return result;
+}
+
+/// A reference to the record that an expression names or returns.
+Value Emitter::recordOf(const Expr& expr) {
+    const Place found = place(expr);
+    const bool isReturned = found.kind == PlaceKind::Property;
+    return reference(isReturned ? resultPlace(load(found)) : found);
 }
 
 Value Emitter::referenceAt(const Place& element) {

@@ -75,7 +75,7 @@ void Emitter::arguments(const Callable& callable, const Span<Argument>& given, s
 }
 
 PassedArgument Emitter::argument(const Expr* given, const ParameterInfo& parameter, bool byVal) {
-    if (parameter.type.isArray) return passArray(*given);
+    if (parameter.type.isArray) return passArray(*given, parameter.type);
     if (!parameter.byVal && !byVal) return referenceArgument(*given, parameter);
     const auto slot = temporary(parameter.type);
     const Type natural = typeOfExpr(*given);
@@ -97,6 +97,9 @@ bool Emitter::isVariable(const Expr& given) const {
 }
 
 PassedArgument Emitter::referenceArgument(const Expr& given, const ParameterInfo& parameter) {
+    if (parameter.type.value == ValueType::Record && typeOfExpr(given).value == ValueType::Record) {
+        return {passed(recordOf(given), layout_.referenceTo(parameter.type)), {}, {}};
+    }
     if (!isVariable(given)) {
         ParameterInfo byValue = parameter;
         byValue.byVal = true;
@@ -108,9 +111,6 @@ PassedArgument Emitter::referenceArgument(const Expr& given, const ParameterInfo
         return made;
     }
     const Place variable = place(given);
-    if (variable.type.value == ValueType::Record && parameter.type.value == ValueType::Record) {
-        return {passed({variable.type, reference(variable).slot}, layout_.referenceTo(variable.type)), {}, {}};
-    }
     if (isAddressable(variable) && isSameVariable(variable.type, parameter.type) && !variable.isNew) {
         if (variable.kind == PlaceKind::Slot) return {passedAddress(variable.slot), {}, {}};
         const Value ref = reference(variable);
@@ -136,13 +136,12 @@ PassedArgument Emitter::copied(const Place& variable, const Value& value, const 
     return {passedAddress(slot), variable, {parameter.type, slot}};
 }
 
-PassedArgument Emitter::passArray(const Expr& given) {
+PassedArgument Emitter::passArray(const Expr& given, const Type& type) {
     const Place variable = place(given);
-    if (!variable.type.isArray) { // a Variant that holds an array
-        const Type type = variable.type;
+    if (!variable.type.isArray) { // a Variant that may hold such an array, as StrConv returns it
         const Value held = toVariant(load(variable), {});
-        const Value array{{type.value, true}, temporary({ValueType::Variant, true})};
-        out_.emit(Op::ShareVariantArray, array.slot, held.slot);
+        const Value array{type, temporary(type)};
+        out_.emit(Op::VariantToArray, array.slot, held.slot);
         return {passedAddress(array.slot), {}, {}};
     }
     if (variable.kind == PlaceKind::Slot) return {passedAddress(variable.slot), {}, {}};
@@ -183,7 +182,7 @@ void Emitter::storeBack(const std::vector<PassedArgument>& list) {
         for (const auto& [index, variable] : each.elements) storeElementBack(each.temporary, index, variable);
         if (!each.storedTo) continue;
         const Place& variable = *each.storedTo;
-        if (variable.type.value == ValueType::Object)
+        if (variable.type.value == ValueType::Object && !variable.type.isArray)
             setObject(variable, each.temporary);
         else
             assignValue(variable, {each.temporary.type, each.temporary.slot, false});

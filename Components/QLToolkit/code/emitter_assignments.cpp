@@ -23,6 +23,10 @@ void Emitter::let(const AssignStmt& stmt) {
     if (type.isArray && note.kind != OperandKind::Property) return assignArray(place(*stmt.target), *stmt.value);
     if (type.value == ValueType::Record && note.kind == OperandKind::Variable)
         return assignRecord(place(*stmt.target), *stmt.value);
+    if (type.value == ValueType::Record && !type.isArray && typeOfExpr(*stmt.value) == type) {
+        const Value record = recordOf(*stmt.value);
+        return assignValue(place(*stmt.target), record);
+    }
     Value given = value(*stmt.value);
     // Date and Time: the clock belongs to the device.
     const bool isOfLibrary = note.entity && note.entity->owner && note.entity->owner->kind == ScopeKind::LibraryModule;
@@ -132,12 +136,11 @@ void Emitter::assignArray(const Place& target, const Expr& given) {
 }
 
 void Emitter::assignRecord(const Place& target, const Expr& given) {
-    const Place source = place(given);
-    if (source.type.value != ValueType::Record) {
+    if (typeOfExpr(given).value != ValueType::Record) {
         (void)fail(basic::kTypeMismatch, {});
         return;
     }
-    const Value from = reference(source.isTemporary ? resultPlace({source.type, source.slot, false}) : source);
+    const Value from = recordOf(given);
     const Value to = reference(target);
     out_.emit(Op::CopyRecord, to.slot, from.slot);
 }

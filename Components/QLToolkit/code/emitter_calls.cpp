@@ -65,7 +65,10 @@ Value Emitter::call(const Callable& callable, const Span<Argument>& given, const
     const bool isRecord = hasResult && returnsRecord(callable);
     if (isRecord) result = resultRecord(callable.result, list);
     arguments(callable, given, list);
-    if (assigned) {
+    const bool isRecordAssigned = assigned && callable.result.value == ValueType::Record && !callable.result.isArray;
+    if (isRecordAssigned) {
+        list.push_back({passed(*assigned, layout_.referenceTo(callable.result)), {}, {}});
+    } else if (assigned) {
         const Type type = callable.result;
         const bool isObject = type.value == ValueType::Object;
         const bool byVal = callable.body && takesLastByVal(*callable.body);

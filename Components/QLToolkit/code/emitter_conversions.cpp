@@ -53,6 +53,11 @@ Value Emitter::moved(const Value& value, std::uint32_t slot) {
     if (value.slot == slot) return value;
     const auto type = layout_.slotTypeOf(value.type);
     const bool takes = value.isTemporary;
+    if (takes && slots_.isInUse(value.slot) && slots_.typeAt(slot) == slots_.typeAt(value.slot) &&
+        out_.redirect(value.slot, slot)) {
+        holdsNoObject(value.slot);
+        return {value.type, slot};
+    }
     switch (type.form == image::TypeForm::Array ? BaseType::None : type.base) {
     case BaseType::Text: out_.emit(takes ? Op::TakeText : Op::CopyText, slot, value.slot); break;
     case BaseType::Object: out_.emit(takes ? Op::TakeObject : Op::CopyObject, slot, value.slot); break;

@@ -52,6 +52,7 @@ Value Emitter::variantConstant(int kind, ValueType type, std::optional<std::uint
 Value Emitter::nothing() {
     const Value result{{ValueType::Nothing}, temporary({ValueType::Object})};
     out_.emit(Op::Clear, result.slot);
+    holdsNoObject(result.slot);
     return result;
 }
 
@@ -197,7 +198,8 @@ Value Emitter::variantOf(const Expr& expr) { return toVariant(value(expr), {}); 
 Value Emitter::fail(int error, const Type& type) {
     const auto number = longConstant(error, {});
     out_.emit(Op::RaiseError, number.slot);
-    const Type known = type.value == ValueType::Unknown || type.value == ValueType::None ? Type{} : type;
+    const bool isKnown = type.value != ValueType::Unknown && type.value != ValueType::None;
+    const Type known = isKnown ? type : Type{ValueType::Variant, type.isArray};
     return {known, temporary(known)};
 }
 

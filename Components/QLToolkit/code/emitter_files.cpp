@@ -79,7 +79,7 @@ void Emitter::print(const PrintStmt& stmt) {
         slots_.releaseTo(mark);
         endsLine = item.separator == PrintSeparator::None;
     }
-    if (isWrite || endsLine) printPart(to, isWrite ? "WriteLine" : "PrintLine", {});
+    if (endsLine) printPart(to, isWrite ? "WriteLine" : "PrintLine", {});
 }
 
 void Emitter::printPart(const PrintTarget& to, std::string_view part, std::vector<Value> values) {

@@ -31,6 +31,14 @@ bool takesObjects(std::string_view name) {
                        [&](std::string_view each) { return basic::equalNoCase(each, name); });
 }
 
+/// Whether the result may be or hold an object: one that the function makes, or one that it is given.
+bool mayReturnObject(std::string_view name, const Callable& callable) {
+    return callable.result.value == ValueType::Object || takesObjects(name) ||
+           std::any_of(callable.parameters.begin(), callable.parameters.end(), [](const ParameterInfo& each) {
+               return each.paramArray || each.type.value == ValueType::Object;
+           });
+}
+
 } // namespace
 
 void Emitter::pass(NativeCall& call, const Value& value) {
@@ -81,6 +89,7 @@ Value Emitter::libraryCall(const Entity& entity, const Span<Argument>& given, co
     Value made = finish(call, name, libraryResult(callable));
     storeBack(call.list);
     if (callable.result.value == ValueType::Object) made.type = callable.result;
+    if (!mayReturnObject(name, callable)) holdsNoObject(made.slot);
     return made;
 }
 
@@ -97,11 +106,6 @@ void Emitter::takeDefaultValues(const Callable& callable, const Span<Argument>& 
         const auto slot = image::slotOf(list[at].word);
         out_.emit(Op::VariantValue, slot, slot);
     }
-}
-
-Value Emitter::declaredCall(const Entity& entity, const Span<Argument>& given) {
-    (void)given;
-    return fail(basic::kFileNotFound, entity.type);
 }
 
 /// VarPtr: a number for the variable itself, or for the temporary that an expression is.

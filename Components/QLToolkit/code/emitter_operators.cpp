@@ -3,6 +3,7 @@
 #include "Components/QLToolkit/code/emitter.h"
 #include "Components/QLToolkit/code/value_kinds.h"
 #include "Components/QLToolkit/types/operators.h"
+#include <algorithm>
 #include <utility>
 
 namespace qltoolkit {
@@ -137,8 +138,7 @@ Value Emitter::operate(const BinaryExpr& expr, const Value& left, std::optional<
 
     const bool isVariant = operation->operands == ValueType::Variant || operation->result == ValueType::Variant;
     if (isVariant) {
-        const Value second = variantOf(*expr.right);
-        return operateVariants(op, first, second, target);
+        return operateVariants(op, first, value(*expr.right), target); // which needs the declared type of both
     }
     first = convert(first, {operation->operands});
     const bool isDirect = isTarget(target, operation->result);
@@ -221,19 +221,22 @@ Value Emitter::arithmetic(Operator op, ValueType type, ValueType result, const V
         const bool isLogic = op >= Operator::And;
         const bool isInteger = type == ValueType::Integer && !isLogic;
         const bool isByte = type == ValueType::Byte && (!isLogic || op == Operator::Eqv || op == Operator::Imp);
-        out_.emit(wholeOp(op, isInteger), made.slot, left.slot, right.slot);
+        const bool isQuotient = isInteger && op == Operator::IntDivide; // -32768 \ -1
+        const auto raw = isByte || isQuotient ? uncheckedSlot(made) : made.slot;
+        out_.emit(wholeOp(op, isInteger), raw, left.slot, right.slot);
         if (isByte && isLogic) // only 8 bits count
-            out_.emit(Op::AndLong, made.slot, made.slot, longConstant(0xFF, {}).slot);
+            out_.emit(Op::AndLong, made.slot, raw, longConstant(0xFF, {}).slot);
         else if (isByte)
-            out_.emit(Op::CheckByte, made.slot, made.slot);
-        else if (isInteger && op == Operator::IntDivide) // -32768 \ -1
-            out_.emit(Op::CheckInteger, made.slot, made.slot);
+            out_.emit(Op::CheckByte, made.slot, raw);
+        else if (isQuotient)
+            out_.emit(Op::CheckInteger, made.slot, raw);
         return made;
     }
     if (isFloat(type)) {
-        out_.emit(floatOp(op), made.slot, left.slot, right.slot);
-        if (result == ValueType::Single) out_.emit(Op::RoundSingle, made.slot, made.slot);
-        if (result == ValueType::Date) out_.emit(Op::CheckDate, made.slot, made.slot);
+        const bool isChecked = result == ValueType::Single || result == ValueType::Date;
+        const auto raw = isChecked ? uncheckedSlot(made) : made.slot;
+        out_.emit(floatOp(op), raw, left.slot, right.slot);
+        if (isChecked) out_.emit(result == ValueType::Single ? Op::RoundSingle : Op::CheckDate, made.slot, raw);
         return made;
     }
     if (type == ValueType::Currency && op != Operator::Divide) {
@@ -241,6 +244,14 @@ Value Emitter::arithmetic(Operator op, ValueType type, ValueType result, const V
         return made;
     }
     return operateVariants(op, left, right, target);
+}
+
+/// Where a result is until it is checked: a variable keeps its value if the check fails.
+std::uint32_t Emitter::uncheckedSlot(const Value& made) {
+    const auto& inUse = slots_.inUse();
+    const bool isTemporary =
+        std::any_of(inUse.begin(), inUse.end(), [&](const auto& each) { return each.slot == made.slot; });
+    return isTemporary ? made.slot : temporary(made.type);
 }
 
 Value Emitter::comparison(Operator op, const Value& left, const Value& right, std::optional<std::uint32_t> target) {
@@ -317,13 +328,17 @@ Value Emitter::unary(const UnaryExpr& expr, std::optional<std::uint32_t> target)
         return result;
     }
     if (isFloat(operation->operands)) {
-        out_.emit(Op::NegateFloat, result.slot, converted.slot);
-        if (operation->result == ValueType::Date) out_.emit(Op::CheckDate, result.slot, result.slot);
+        const bool isDate = operation->result == ValueType::Date;
+        const auto raw = isDate ? uncheckedSlot(result) : result.slot;
+        out_.emit(Op::NegateFloat, raw, converted.slot);
+        if (isDate) out_.emit(Op::CheckDate, result.slot, raw);
     } else if (operation->operands == ValueType::Currency) {
         out_.emit(Op::NegateCurrency, result.slot, converted.slot);
     } else {
-        out_.emit(Op::NegateLong, result.slot, converted.slot);
-        if (operation->result == ValueType::Integer) out_.emit(Op::CheckInteger, result.slot, result.slot);
+        const bool isInteger = operation->result == ValueType::Integer;
+        const auto raw = isInteger ? uncheckedSlot(result) : result.slot;
+        out_.emit(Op::NegateLong, raw, converted.slot);
+        if (isInteger) out_.emit(Op::CheckInteger, result.slot, raw);
     }
     return result;
 }

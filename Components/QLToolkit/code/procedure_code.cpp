@@ -2,6 +2,49 @@
 
 namespace qltoolkit {
 
+namespace {
+
+using image::Op;
+using image::Operand;
+
+/// Whether an instruction does nothing but write its operand A, without reading it.
+bool onlyWritesA(Op op) {
+    switch (op) {
+    case Op::AppendText:
+    case Op::StoreVariant:
+    case Op::FixKind:
+    case Op::ReDimVariant:
+    case Op::EraseVariant: return false;
+    default: break;
+    }
+    const auto& info = image::infoOf(op);
+    switch (info.operands[0]) {
+    case Operand::WriteLong:
+    case Operand::WriteDouble:
+    case Operand::WriteCurrency:
+    case Operand::WriteNumber:
+    case Operand::WriteText:
+    case Operand::WriteVariant:
+    case Operand::WriteValue: return info.extra != image::Extra::Jump;
+    case Operand::Result:
+    case Operand::ResultVariant: return true;
+    default: return false;
+    }
+}
+
+} // namespace
+
+bool ProcedureCode::redirect(std::uint32_t from, std::uint32_t to) {
+    if (last_ == kUnknown || lastLabel_ == here()) return false;
+    const bool isNewStatement =
+        (!lines_.empty() && lines_.back().code == here()) || (!statements_.empty() && statements_.back() == here());
+    const image::Word word{words_[last_]};
+    const auto op = static_cast<Op>(word.op);
+    if (isNewStatement || word.a != from || !onlyWritesA(op)) return false;
+    words_[last_] = (words_[last_] & ~0xFF00U) | to << 8;
+    return true;
+}
+
 void ProcedureCode::finish(image::Procedure procedure, std::uint32_t number, bool resumes) {
     for (const auto& jump : jumps_) words_[jump.word] = labels_[static_cast<std::size_t>(jump.label)] - jump.from;
     procedure.code = static_cast<std::uint32_t>(module_.code.size());

@@ -22,13 +22,20 @@ public:
         numberPlaces_.clear();
         lines_.clear();
         statements_.clear();
+        last_ = lastLabel_ = kUnknown;
     }
 
     using Op = image::Op;
     void emit(Op op, std::uint32_t a = 0, std::uint32_t b = 0, std::uint32_t c = 0) {
+        last_ = here();
         words_.push_back(image::encode(op, a, b, c));
     }
-    void emitWide(Op op, std::uint32_t a, std::uint32_t bc) { words_.push_back(image::encodeWide(op, a, bc)); }
+    void emitWide(Op op, std::uint32_t a, std::uint32_t bc) {
+        last_ = here();
+        words_.push_back(image::encodeWide(op, a, bc));
+    }
+    /// Makes the last instruction write to another slot of the same type, if it wrote to `from` and nothing can see that.
+    bool redirect(std::uint32_t from, std::uint32_t to);
     void extra(std::uint32_t word) { words_.push_back(word); }
     void extra(std::uint32_t number, FixKind kind) {
         fixes_.push_back({here(), kind});
@@ -44,7 +51,7 @@ public:
         labels_.push_back(kUnknown);
         return static_cast<Label>(labels_.size() - 1);
     }
-    void place(Label label) { labels_[static_cast<std::size_t>(label)] = here(); }
+    void place(Label label) { labels_[static_cast<std::size_t>(label)] = lastLabel_ = here(); }
     /// The distance of a jump whose instruction began at `from`.
     void jumpTo(Label label, std::uint32_t from) {
         jumps_.push_back({here(), from, label});
@@ -93,6 +100,7 @@ private:
     std::unordered_map<std::uint64_t, std::uint32_t> numberPlaces_;
     std::vector<image::LineStart> lines_;
     std::vector<std::uint32_t> statements_;
+    std::uint32_t last_ = kUnknown, lastLabel_ = kUnknown; // where the last instruction begins, and the last label is
 };
 
 } // namespace qltoolkit

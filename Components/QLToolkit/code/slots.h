@@ -2,6 +2,7 @@
 // The slots of a procedure: variables, and temporaries that are used again.
 #include "Components/Image/code/code_image.h"
 #include "Components/Image/code/slot_type.h"
+#include <algorithm>
 
 namespace qltoolkit {
 
@@ -62,6 +63,9 @@ public:
         bool mustClear; ///< holds an object or a lock that must not last longer than the statement
     };
     [[nodiscard]] std::vector<Temporary>& inUse() { return inUse_; }
+    [[nodiscard]] bool isInUse(std::uint32_t temporary) const {
+        return std::ranges::any_of(inUse_, [&](const Temporary& each) { return each.slot == temporary; });
+    }
 
     /// Whether there were more temporaries than instructions reach.
     [[nodiscard]] bool isFull() const { return isFull_; }

@@ -75,16 +75,8 @@ void Binder::setObject(const Operand& target, const Operand& value, Pos pos) {
     };
     if (!isObject(target.type, true)) return report(Message::ObjectRequired, target.pos);
     if (isControlArray(value) && target.type.id == 0) return;
-    if (!isObject(value.type, false)) return report(Message::ObjectRequired, pos);
-    if (target.type.value != ValueType::Object || value.type.value != ValueType::Object) return;
-    if (target.type.id == 0 || value.type.id == 0 || target.type.id == value.type.id) return;
-    // Two classes of the project without a common interface never fit.
-    const Scope& wanted = program_.scope(target.type.id);
-    const Scope& given = program_.scope(value.type.id);
-    const auto isPlainClass = [](const Scope& scope) {
-        return scope.source && scope.source->tree.source.kind() == FileKind::Class && scope.interfaces.empty();
-    };
-    if (isPlainClass(wanted) && isPlainClass(given)) report(Message::TypeMismatch, pos);
+    // Whether the object has the class is checked when the program runs.
+    if (!isObject(value.type, false)) report(Message::ObjectRequired, pos);
 }
 
 /// LSet and RSet. Between two Types LSet copies bytes, which must mean nothing but numbers and characters.

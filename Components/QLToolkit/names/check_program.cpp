@@ -40,14 +40,14 @@ void reportUnknown(Program& program, const std::vector<UnknownNames>& unknown) {
                         [](const SourceModule& module) { return module.diagnostics.errors() > 0; });
 }
 
-void checkAll(Program& program, unsigned threads, CodeSink* code) {
+void checkAll(Program& program, const ProgramOptions& options, CodeSink* code) {
     RecordSizes sizes{program};
     for (auto& module : program.modules) within([&] { checkDeclarations(program, module, sizes); });
     std::vector<UnknownNames> unknown(program.modules.size());
     if (!isRight(program)) code = nullptr;
     if (code) code->declared(program);
-    bindAll(program, threads, unknown, code);
-    reportUnknown(program, unknown);
+    bindAll(program, options.threads, unknown, code);
+    if (!options.lacksFiles) reportUnknown(program, unknown);
 }
 
 /// Of the warnings that a comment lists, those that were looked for and not found.
@@ -88,9 +88,9 @@ void checkProgram(const std::vector<ParsedModule>& modules, SymbolTable& symbols
     addLibraries(program, options);
     // Declarations that were left have no signatures, so what uses them cannot be checked.
     const bool isWhole = declareProgram(program, modules, options);
-    if (isWhole) checkAll(program, options.threads, code);
+    if (isWhole) checkAll(program, options, code);
     ProgramMessages result;
-    for (auto& module : program.modules) within([&] { checkIgnored(program, module, isWhole); });
+    for (auto& module : program.modules) within([&] { checkIgnored(program, module, isWhole && !options.lacksFiles); });
     for (auto& module : program.modules) result.push_back(module.diagnostics.takeSorted());
     done(std::move(result));
 }

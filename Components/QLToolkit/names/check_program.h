@@ -18,6 +18,8 @@ struct ProgramOptions {
     std::vector<const language::Library*> libraries;
     /// Something that the project names is missing or damaged: names that are not found may be declared there.
     bool isIncomplete = false;
+    /// Source files are missing or have syntax errors, which are reported: the same, without a warning for each name.
+    bool lacksFiles = false;
     bool warnsOptionally = false; ///< of what is allowed but seldom meant
     bool warnsOfDevices = false;  ///< of what is not on devices
     bool warnsOfDeclares = false; ///< of each Declare that is not on devices, not only of its calls

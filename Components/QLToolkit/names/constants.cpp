@@ -2,6 +2,7 @@
 #include "Basic/error_numbers.h"
 #include "Components/QLToolkit/names/lookup.h"
 #include "Components/QLToolkit/names/procedure_names.h"
+#include "Components/QLToolkit/types/constant_functions.h"
 #include <limits>
 
 namespace qltoolkit {
@@ -95,6 +96,7 @@ std::optional<ConstantValue> Constants::value(const Expr& expr, const Context& c
         return named(expr, local ? local : findName(program_, *context.module.scope, name.name).entity, context);
     }
     case ExprKind::Member: return named(expr, qualified(as<MemberExpr>(expr), context), context);
+    case ExprKind::Index: return called(as<IndexExpr>(expr), context);
     default: return literal(expr, context);
     }
 }
@@ -150,6 +152,21 @@ std::optional<ConstantValue> Constants::named(const Expr& expr, const Entity* en
     }
     if (entity->constant->failed) return std::nullopt;
     return entity->constant->value;
+}
+
+/// A function of the language with one argument.
+std::optional<ConstantValue> Constants::called(const IndexExpr& expr, const Context& context) {
+    const bool isCall = expr.callee->kind == ExprKind::Name && expr.arguments.size() == 1 && expr.arguments[0].value;
+    if (!isCall) return refuse(expr, context);
+    const Symbol name = as<NameExpr>(*expr.callee).name;
+    const Entity* function =
+        context.local && context.local->find(name) ? nullptr : findName(program_, *context.module.scope, name).entity;
+    if (!function || !function->owner || function->owner->kind != ScopeKind::LibraryModule)
+        return refuse(expr, context);
+    const auto argument = value(*expr.arguments[0].value, context);
+    if (!argument) return std::nullopt;
+    auto result = callConstantFunction(program_.symbols.spelling(name), *argument);
+    return result ? checked(expr, std::move(*result), context) : refuse(expr, context);
 }
 
 // Enumeration.Member, Module.Constant, Library.Constant, and all of them behind the name of the project or library.

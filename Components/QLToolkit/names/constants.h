@@ -34,6 +34,7 @@ private:
     std::optional<ConstantValue> unary(const UnaryExpr& expr, const Context& context);
     std::optional<ConstantValue> literal(const Expr& expr, const Context& context);
     std::optional<ConstantValue> named(const Expr& expr, const Entity* entity, const Context& context);
+    std::optional<ConstantValue> called(const IndexExpr& expr, const Context& context);
     const Entity* qualified(const MemberExpr& expr, const Context& context);
     const Entity* qualifier(const Entity* outer, Symbol name, const Context& context);
     std::optional<ConstantValue> checked(const Expr& expr, Folded folded, const Context& context);

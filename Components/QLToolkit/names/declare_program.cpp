@@ -41,7 +41,7 @@ std::vector<const language::Library*> librariesOf(const ProgramOptions& options)
 }
 
 bool declareProgram(Program& program, const std::vector<ParsedModule>& modules, const ProgramOptions& options) {
-    program.isIncomplete = options.isIncomplete;
+    program.isIncomplete = options.isIncomplete || options.lacksFiles;
     program.warnsOptionally = options.warnsOptionally;
     program.warnsOfDevices = options.warnsOfDevices;
     program.warnsOfDeclares = options.warnsOfDeclares;

@@ -7,6 +7,10 @@
 #include <string>
 #include <vector>
 
+namespace language {
+struct Member;
+}
+
 namespace qltoolkit {
 
 struct Scope;
@@ -85,10 +89,11 @@ struct Entity {
     const Callable* let = nullptr;
     const Callable* set = nullptr;
     ConstantState* constant = nullptr;
-    const Entity* text = nullptr;          ///< of a library's function f: the function f$
-    const std::string* instead = nullptr;  ///< what devices have instead of this; null if that is not known
-    const Variable* declaration = nullptr; ///< of a variable or field with a declaration
-    mutable std::uint32_t place = 0;       ///< of a variable: its slot, given by the generator of code
+    const Entity* text = nullptr;               ///< of a library's function f: the function f$
+    const std::string* instead = nullptr;       ///< what devices have instead of this; null if that is not known
+    const language::Member* answered = nullptr; ///< of a Declare: the function that devices answer
+    const Variable* declaration = nullptr;      ///< of a variable or field with a declaration
+    mutable std::uint32_t place = 0;            ///< of a variable: its slot, given by the generator of code
 };
 
 enum class ScopeKind : std::uint8_t { StandardModule, ClassModule, Record, Enum, Library, LibraryModule, LibraryClass };

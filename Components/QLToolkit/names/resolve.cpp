@@ -106,6 +106,7 @@ private:
         const auto* found = language::findDeclared(stringValue(source, *decl.library), function);
         entity.onDevices = found && found->onDevices;
         entity.instead = found ? &found->instead : nullptr;
+        entity.answered = entity.onDevices ? found : nullptr;
         if (program_.warnsOfDeclares && !entity.onDevices)
             reportLack(program_, module_.diagnostics, Lack::Declare, entity, decl.signature.namePos,
                        nameAt(source, decl.signature.namePos));

@@ -2,6 +2,7 @@
 #include "Basic/case_folding.h"
 #include "Basic/runtime_error.h"
 #include "Components/Tamarik/files/paths.h"
+#include "Components/Tamarik/files/stored_files.h"
 #include <algorithm>
 
 namespace tamarik {
@@ -35,12 +36,21 @@ FileUse useOf(const OpenFile::Traits& traits) {
 void OpenFiles::open(std::string_view path, std::int32_t number, const Wish& wish) {
     if (number < 1 || number > kMostFiles) throw basic::RuntimeError(basic::kBadFileNameOrNumber);
     if (files_.contains(number)) throw basic::RuntimeError(basic::kFileAlreadyOpen);
-    OpenFile::Traits traits = traitsOf(resolve(path), wish);
-    const bool replaces = wish.mode == FileMode::Output || wish.mode == FileMode::Append;
-    for (const auto& [other, file] : files_)
-        if (file->traits().path == traits.path &&
-            (replaces || file->traits().mode == FileMode::Output || file->traits().mode == FileMode::Append))
-            throw basic::RuntimeError(basic::kFileAlreadyOpen);
+    files_.emplace(number, opened(resolve(path), wish));
+}
+
+std::shared_ptr<OpenFile> OpenFiles::openStream(const std::string& stored, FileMode mode) {
+    std::erase_if(streams_, [](const auto& each) { return each.expired(); });
+    std::shared_ptr<OpenFile> stream = opened(stored, {mode, FileAccess::Default, 0});
+    streams_.push_back(stream);
+    return stream;
+}
+
+std::unique_ptr<OpenFile> OpenFiles::opened(std::string stored, const Wish& wish) const {
+    OpenFile::Traits traits = traitsOf(std::move(stored), wish);
+    const auto replaces = [](FileMode mode) { return mode == FileMode::Output || mode == FileMode::Append; };
+    for (const OpenFile* const file : openAt(traits.path))
+        if (replaces(wish.mode) || replaces(file->traits().mode)) throw basic::RuntimeError(basic::kFileAlreadyOpen);
     std::unique_ptr<StoredFile> opened;
     try {
         opened = store().open(traits.path, useOf(traits));
@@ -53,7 +63,16 @@ void OpenFiles::open(std::string_view path, std::int32_t number, const Wish& wis
     }
     auto file = std::make_unique<OpenFile>(std::move(opened), std::move(traits));
     if (wish.mode == FileMode::Append) file->seek(file->size());
-    files_.emplace(number, std::move(file));
+    return file;
+}
+
+std::vector<OpenFile*> OpenFiles::openAt(std::string_view path) const {
+    std::vector<OpenFile*> found;
+    for (const auto& [number, file] : files_)
+        if (file->traits().path == path) found.push_back(file.get());
+    for (const auto& each : streams_)
+        if (const auto stream = each.lock(); stream && stream->traits().path == path) found.push_back(stream.get());
+    return found;
 }
 
 void OpenFiles::close(std::int32_t number) {
@@ -80,14 +99,10 @@ std::int32_t OpenFiles::freeNumber(std::int32_t first, std::int32_t last) const 
     throw basic::RuntimeError(basic::kTooManyFiles);
 }
 
-bool OpenFiles::isOpen(std::string_view path) const {
-    return std::any_of(files_.begin(), files_.end(),
-                       [&](const auto& each) { return each.second->traits().path == path; });
-}
+bool OpenFiles::isOpen(std::string_view path) const { return !openAt(path).empty(); }
 
 void OpenFiles::flush(std::string_view path) {
-    for (const auto& [number, file] : files_)
-        if (file->traits().path == path) file->flush();
+    for (OpenFile* const file : openAt(path)) file->flush();
 }
 
 std::string OpenFiles::resolve(std::string_view path) const {
@@ -105,7 +120,7 @@ std::vector<std::string> OpenFiles::matches(std::string_view path, bool withFold
     std::vector<std::string> found;
     for (const auto& name : store().names(folder)) {
         if (!fitsPattern(name, pattern)) continue;
-        const std::string whole = folder.empty() ? name : folder + "/" + name;
+        const std::string whole = pathIn(folder, name);
         const auto info = store().find(whole);
         if (info && (withFolders || !info->isFolder)) found.push_back(whole);
     }

@@ -23,6 +23,8 @@ public:
     };
     /// Errors 52, 53, 55, 59, 67, 70, 75 and 76.
     void open(std::string_view path, std::int32_t number, const Wish& wish);
+    /// Opens a file that has no number, by its path in the store. It counts as open until nothing refers to it.
+    [[nodiscard]] std::shared_ptr<OpenFile> openStream(const std::string& stored, FileMode mode);
     /// Does nothing for a number that is not in use.
     void close(std::int32_t number);
     void closeAll();
@@ -47,8 +49,12 @@ public:
     bool hasFound = false;          ///< Dir may be called without a path
 
 private:
+    [[nodiscard]] std::unique_ptr<OpenFile> opened(std::string stored, const Wish& wish) const;
+    [[nodiscard]] std::vector<OpenFile*> openAt(std::string_view path) const;
+
     const std::shared_ptr<FileStore>& store_;
     std::map<std::int32_t, std::unique_ptr<OpenFile>> files_;
+    std::vector<std::weak_ptr<OpenFile>> streams_;
     std::vector<std::string> current_;
 };
 

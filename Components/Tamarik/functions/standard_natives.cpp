@@ -1,5 +1,6 @@
 #include "Components/Tamarik/functions/standard_natives.h"
 #include "Components/Tamarik/library/library_natives.h"
+#include "Components/Tamarik/scripting/scripting_classes.h"
 
 namespace tamarik {
 
@@ -9,6 +10,7 @@ Natives standardNatives() {
     addLibrary(natives);
     addObjectNatives(natives);
     addParamArrayNatives(natives);
+    addScriptingClasses(natives);
     return natives;
 }
 

@@ -1,5 +1,6 @@
 // The module FileSystem: files that are not open, and folders.
 #include "Components/Tamarik/files/paths.h"
+#include "Components/Tamarik/files/stored_files.h"
 #include "Components/Tamarik/library/file_function.h"
 #include "Components/Tamarik/library/library_natives.h"
 #include "Components/Tamarik/values/encoding.h"
@@ -9,8 +10,6 @@
 namespace tamarik {
 
 namespace {
-
-enum VbFileAttribute : std::int32_t { vbReadOnly = 1, vbHidden = 2, vbVolume = 8, vbDirectory = 16 };
 
 FileInfo fileAt(Session& session, const std::string& path) {
     session.files.flush(path);
@@ -84,21 +83,11 @@ void renameFile(Session& session, std::u16string_view from, std::u16string_view 
 }
 
 void copyFile(Session& session, std::u16string_view from, std::u16string_view to) {
-    constexpr std::size_t kPiece = 65536;
     const std::string source = resolved(session, from), target = resolved(session, to);
     (void)requireFile(session, source);
     if (session.files.isOpen(source) || session.files.isOpen(target) || source == target)
         throw basic::RuntimeError(basic::kPermissionDenied);
-    FileStore& store = session.files.store();
-    const auto read = store.open(source, {true, false, false, false});
-    const auto written = store.open(target, {false, true, true, true});
-    std::string piece(kPiece, '\0');
-    std::uint64_t at = 0;
-    while (const std::size_t count = read->read(at, piece.data(), kPiece)) {
-        written->write(at, std::string_view(piece).substr(0, count));
-        at += count;
-        session.charge(count);
-    }
+    session.charge(copyContents(session.files.store(), source, target));
 }
 
 std::int32_t fileLength(Session& session, std::u16string_view path) {
@@ -111,11 +100,9 @@ Variant fileDate(Session& session, std::u16string_view path) {
     return ofFraction(fileAt(session, resolved(session, path)).changed.days, kDate);
 }
 
-std::int32_t attributesOf(Session& session, std::u16string_view path) {
+std::int32_t getAttributes(Session& session, std::u16string_view path) {
     const std::string stored = resolved(session, path);
-    const FileInfo info = fileAt(session, stored);
-    return (info.isReadOnly ? vbReadOnly : 0) | (info.isFolder ? vbDirectory : 0) |
-           (isHidden(nameOf(stored)) ? vbHidden : 0);
+    return attributesOf(fileAt(session, stored), stored);
 }
 
 /// Of the attributes a device has only that a file is read-only.
@@ -152,7 +139,7 @@ void addFolders(Natives& natives) {
     natives.add("FileCopy", native<&copyFile>());
     natives.add("FileLen", native<&fileLength>());
     natives.add("FileDateTime", native<&fileDate>());
-    natives.add("GetAttr", native<&attributesOf>());
+    natives.add("GetAttr", native<&getAttributes>());
     natives.add("SetAttr", native<&setAttributes>());
     natives.add("ChDir", native<&changeFolder>());
     natives.add("ChDrive", native<&changeDrive>());

@@ -1,4 +1,4 @@
-// What a program asks its user and its surroundings. Without a window, questions go to the error output and the input.
+// What a program asks its user and its surroundings.
 #include "Components/Tamarik/library/library_function.h"
 #include "Components/Tamarik/library/library_natives.h"
 #include "Components/Tamarik/values/encoding.h"
@@ -11,12 +11,6 @@ using image::BaseType;
 
 namespace {
 
-void showQuestion(Session& session, const Variant& prompt, const Variant& title) {
-    std::string shown = title.isMissing() ? std::string() : utf8Of(session, title) + ": ";
-    shown += utf8Of(session, prompt) + "\n";
-    if (session.output.error) session.output.error(shown);
-}
-
 /// The number of the button that Enter chooses.
 std::int32_t defaultButton(std::int32_t style) {
     enum : std::int32_t { Ok = 1, Cancel, Abort, Retry, Ignore, Yes, No };
@@ -28,39 +22,40 @@ std::int32_t defaultButton(std::int32_t style) {
     return chosen < buttons.size() && buttons[chosen] != 0 ? buttons[chosen] : buttons[0];
 }
 
+/// Of an optional argument.
+std::string givenText(Session& session, const Variant& given) {
+    return given.isMissing() ? std::string() : utf8Of(session, given);
+}
+
 std::int32_t msgBox(Session& session, const Variant& prompt, std::int32_t buttons, const Variant& title, const Variant&,
                     const Variant&) {
     const std::int32_t button = defaultButton(buttons);
-    showQuestion(session, prompt, title);
-    return button;
+    session.wait = {{Wait::Kind::Message, utf8Of(session, prompt), givenText(session, title), {}, buttons, button},
+                    [](Session&, const Answer& answer, Slot& result) { result.number = answer.button; }};
+    return 0;
 }
 
-/// The end of the input is the Cancel button; an empty line takes the default.
 TextBlock* inputBox(Session& session, const Variant& prompt, const Variant& title, const Variant& usual, const Variant&,
                     const Variant&, const Variant&, const Variant&) {
-    const HeldText byDefault(session, usual.isMissing() ? nullptr : textIn(session, usual));
-    showQuestion(session, prompt, title);
-    std::string line;
-    if (!session.output.inputLine || !session.output.inputLine(line)) return nullptr;
-    return line.empty() ? retain(static_cast<TextBlock*>(byDefault)) : madeOfUtf8(session, line);
+    session.wait = {{Wait::Kind::Input, utf8Of(session, prompt), givenText(session, title), givenText(session, usual)},
+                    [](Session& s, const Answer& answer, Slot& result) {
+                        if (answer.text) result.text = madeOfUtf8(s, *answer.text);
+                    }};
+    return nullptr;
 }
 
 void beep(Session&) {}
-std::int32_t doEvents(Session&) { return 0; }
+
+std::int32_t doEvents(Session& session) {
+    session.wait = {{}, [](Session&, const Answer&, Slot&) {}};
+    return 0;
+}
 
 TextBlock* commandLine(Session& session) { return madeOfUtf8(session, session.surroundings.commandLine); }
 
-std::string_view variableNamed(Session& session, std::string_view name) {
-    for (const std::string_view each : session.surroundings.environment) {
-        const std::size_t end = each.find('=');
-        if (end != std::string_view::npos && basic::equalNoCase(each.substr(0, end), name)) return each.substr(end + 1);
-    }
-    return {};
-}
-
 /// By name its value, by number from 1 on "NAME=value".
 TextBlock* environmentText(Session& session, const Variant& which) {
-    if (which.kind == kString) return madeOfUtf8(session, variableNamed(session, utf8Of(session, which)));
+    if (which.kind == kString) return madeOfUtf8(session, session.surroundings.variable(utf8Of(session, which)));
     const auto& variables = session.surroundings.environment;
     const std::int32_t number = longOf(which);
     requireArgument(number >= 1);

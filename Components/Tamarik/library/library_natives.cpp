@@ -19,6 +19,8 @@ void addLibrary(Natives& natives) {
     addInteraction(natives);
     addSettings(natives);
     addObjectMakers(natives);
+    addDeclared(natives);
+    addResources(natives);
     addTextStatements(natives);
     addRecordBytes(natives);
     addFileStatements(natives);

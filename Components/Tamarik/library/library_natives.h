@@ -22,6 +22,10 @@ void addNumberTexts(Natives& natives);
 /// Abs, Int, Fix, Round and Sgn, which keep the type of their argument.
 void addWholeParts(Natives& natives);
 void addObjectMakers(Natives& natives);
+/// Functions of the operating system that programs declare.
+void addDeclared(Natives& natives);
+/// LoadResString and its relatives.
+void addResources(Natives& natives);
 /// LSet, RSet and the Mid statement.
 void addTextStatements(Natives& natives);
 

@@ -2,11 +2,13 @@
 // What functions of the runtime reach of the machine that calls them.
 #include "Components/Tamarik/files/open_files.h"
 #include "Components/Tamarik/natives/identities.h"
+#include "Components/Tamarik/natives/wait.h"
 #include "Components/Tamarik/numbers/random.h"
 #include "Components/Tamarik/ports/surroundings.h"
 #include "Components/Tamarik/values/heap.h"
 #include "Components/Tamarik/values/variant.h"
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -47,7 +49,8 @@ struct Session {
     OpenFiles files{surroundings.files};
     Random random;
     Identities identities;
-    LibraryClasses classes; ///< by name
+    LibraryClasses classes;          ///< by name
+    std::optional<WaitRequest> wait; ///< of the function that has just been called
     std::uint32_t codePage;
     std::uint32_t printColumn = 0; ///< of Debug.Print, from 0
 

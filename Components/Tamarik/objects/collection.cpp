@@ -3,6 +3,7 @@
 #include "Components/Tamarik/values/folding.h"
 #include "Components/Tamarik/values/variant_conversion.h"
 #include <algorithm>
+#include <new>
 #include <utility>
 
 namespace tamarik {
@@ -13,14 +14,6 @@ namespace {
 constexpr std::uint64_t kItemCharge = 64;
 /// Places of removed items that the order may keep.
 constexpr std::size_t kMostPlaces = 16;
-
-std::uint32_t hashOf(const TextBlock* key) {
-    if (key && key->hash != 0) return key->hash;
-    const std::uint32_t hash = foldedHash(unitsOf(key));
-    // A text is shared, but its hash is no part of its value.
-    if (key) const_cast<TextBlock*>(key)->hash = hash;
-    return hash;
-}
 
 const TextBlock* keyIn(const Variant& key) {
     if (key.kind != kString) throw basic::RuntimeError(basic::kTypeMismatch);
@@ -34,11 +27,12 @@ Collection::Node* Collection::findKey(const TextBlock* key, std::uint32_t hash) 
 }
 
 Collection::Node* Collection::at(std::int32_t index) {
-    if (index < 1 || static_cast<std::size_t>(index) > count_) throw basic::RuntimeError(basic::kSubscriptOutOfRange);
+    if (index < 1 || static_cast<std::size_t>(index) > items_.count())
+        throw basic::RuntimeError(basic::kSubscriptOutOfRange);
     if (!isOrderValid_) {
         order_.clear();
         start_ = 0;
-        for (Node* node = first_; node; node = node->next) order_.push_back(node);
+        for (Node* node = items_.first(); node; node = node->next) order_.push_back(node);
         isOrderValid_ = true;
     }
     return order_[start_ + static_cast<std::size_t>(index) - 1];
@@ -49,21 +43,21 @@ Collection::Node* Collection::find(const Variant& index) {
         if (!isNumeric(index)) throw basic::RuntimeError(basic::kTypeMismatch);
         return at(longOf(index, image::BaseType::Long));
     }
-    Node* const found = findKey(index.text, hashOf(index.text));
+    Node* const found = findKey(index.text, foldedHash(index.text));
     if (!found) throw basic::RuntimeError(basic::kInvalidProcedureCall);
     return found;
 }
 
 void Collection::insert(Node* node, Node* before) {
-    node->next = before;
-    node->previous = before ? before->previous : last_;
-    (node->previous ? node->previous->next : first_) = node;
-    (before ? before->previous : last_) = node;
-    ++count_;
-    if (before)
-        isOrderValid_ = false;
-    else if (isOrderValid_)
+    items_.insert(node, before);
+    if (before) isOrderValid_ = false;
+    if (!isOrderValid_) return;
+    try {
         order_.push_back(node);
+    } catch (const std::bad_alloc&) {
+        // It is made again when an item is wanted by its index.
+        isOrderValid_ = false;
+    }
 }
 
 void Collection::add(Heap& heap, const Variant& item, const Variant& key, const Variant& before, const Variant& after) {
@@ -72,18 +66,19 @@ void Collection::add(Heap& heap, const Variant& item, const Variant& key, const 
     if (!before.isMissing()) place = find(before);
     if (!after.isMissing()) place = find(after)->next;
     const bool hasKey = !key.isMissing();
-    const std::uint32_t hash = hasKey ? hashOf(keyIn(key)) : 0;
+    const std::uint32_t hash = hasKey ? foldedHash(keyIn(key)) : 0;
     if (hasKey && findKey(key.text, hash)) throw basic::RuntimeError(basic::kKeyAlreadyAssociated);
     auto* const node = static_cast<Node*>(heap.allocate(sizeof(Node), kItemCharge));
     try {
         node->value = copyOf(heap, item);
+        if (hasKey) keys_.add(hash, node);
     } catch (...) {
+        release(heap, node->value);
         heap.free(node, kItemCharge);
         throw;
     }
     node->hash = hash;
     node->key = hasKey ? retain(key.text) : nullptr;
-    if (hasKey) keys_.add(hash, node);
     insert(node, place);
 }
 
@@ -92,9 +87,9 @@ const Variant& Collection::item(const Variant& index) { return find(index)->valu
 /// Keeps the order where an item at an end is removed.
 void Collection::forgetPlace(Node* node) {
     if (!isOrderValid_) return;
-    if (node == last_)
+    if (node == items_.last())
         order_.pop_back();
-    else if (node == first_)
+    else if (node == items_.first())
         ++start_;
     else
         isOrderValid_ = false;
@@ -108,11 +103,7 @@ void Collection::remove(Heap& heap, const Variant& index) {
     Node* const node = find(index);
     if (node->hash != 0) keys_.remove(node->hash, node);
     forgetPlace(node);
-    for (CollectionWalk* walk : walks_)
-        if (walk->visited_ == node) walk->visited_ = node->previous;
-    (node->previous ? node->previous->next : first_) = node->next;
-    (node->next ? node->next->previous : last_) = node->previous;
-    --count_;
+    items_.remove(node);
     free(heap, node);
 }
 
@@ -123,20 +114,14 @@ void Collection::free(Heap& heap, Node* node) {
 }
 
 void Collection::releaseMembers(Heap& heap) {
-    for (CollectionWalk* walk : walks_) walk->visited_ = nullptr;
-    count_ = start_ = 0;
+    start_ = 0;
     keys_.clear();
     order_.clear();
     isOrderValid_ = true;
-    last_ = nullptr;
-    for (Node* node = std::exchange(first_, nullptr); node;) {
-        Node* const next = node->next;
-        free(heap, node);
-        node = next;
-    }
+    items_.clear([&](Node* node) { free(heap, node); });
 }
 
-Object* Collection::walk(Heap& heap) { return makeObject<CollectionWalk>(heap, *this); }
+Object* Collection::walk(Heap& heap) { return makeObject<ListWalk<Node>>(heap, *this, items_); }
 
 std::span<const LibraryMember> Collection::members() const {
     static constexpr LibraryMember kMembers[] = {
@@ -160,27 +145,6 @@ std::span<const LibraryMember> Collection::members() const {
          [](LibraryObject& object, MemberCall& call) { call.result = ofObject(object.walk(call.session.heap)); }},
     };
     return kMembers;
-}
-
-CollectionWalk::CollectionWalk(Collection& collection) : collection_(&collection) {
-    retain(collection_);
-    collection.walks_.push_back(this);
-}
-
-bool CollectionWalk::next(Heap& heap, Variant& element) {
-    if (!collection_) return false;
-    Collection::Node* const node = visited_ ? visited_->next : collection_->first_;
-    if (!node) return false;
-    visited_ = node;
-    element = copyOf(heap, node->value);
-    return true;
-}
-
-void CollectionWalk::releaseMembers(Heap& heap) {
-    Collection* const collection = std::exchange(collection_, nullptr);
-    if (!collection) return;
-    std::erase(collection->walks_, this);
-    release(heap, collection);
 }
 
 } // namespace tamarik

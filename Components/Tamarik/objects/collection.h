@@ -1,7 +1,7 @@
 #pragma once
 // The Collection class.
+#include "Components/Tamarik/objects/item_list.h"
 #include "Components/Tamarik/objects/key_table.h"
-#include "Components/Tamarik/objects/walk.h"
 #include <vector>
 
 namespace tamarik {
@@ -16,7 +16,7 @@ public:
     [[nodiscard]] Object* walk(Heap& heap) override;
     void releaseMembers(Heap& heap) override;
 
-    [[nodiscard]] std::int32_t count() const { return static_cast<std::int32_t>(count_); }
+    [[nodiscard]] std::int32_t count() const { return static_cast<std::int32_t>(items_.count()); }
     /// Adds a copy. `key`, `before` and `after` may be Missing. Errors 5, 9, 13, 457.
     void add(Heap& heap, const Variant& item, const Variant& key, const Variant& before, const Variant& after);
     /// A number is an index from 1, a text a key. Error 9 for an unknown index, 5 for an unknown key, 13 for others.
@@ -24,12 +24,13 @@ public:
     void remove(Heap& heap, const Variant& index);
 
 private:
-    friend class CollectionWalk;
     struct Node {
         Variant value;
         TextBlock* key;
         Node *previous, *next;
         std::uint32_t hash; ///< 0 without a key
+
+        [[nodiscard]] const Variant& shown() const { return value; }
     };
 
     [[nodiscard]] Node* find(const Variant& index);
@@ -39,27 +40,11 @@ private:
     void forgetPlace(Node* node);
     void free(Heap& heap, Node* node);
 
-    Node *first_ = nullptr, *last_ = nullptr;
-    std::size_t count_ = 0;
+    ItemList<Node> items_;
     KeyTable<Node> keys_;
     std::vector<Node*> order_; ///< from start_ on, if it is valid
     std::size_t start_ = 0;
     bool isOrderValid_ = true;
-    std::vector<class CollectionWalk*> walks_;
-};
-
-/// Tolerates changes: items after the present one are visited, also those that are added meanwhile.
-class CollectionWalk final : public Walk {
-public:
-    explicit CollectionWalk(Collection& collection);
-    [[nodiscard]] std::string_view className() const override { return "IEnumVARIANT"; }
-    bool next(Heap& heap, Variant& element) override;
-    void releaseMembers(Heap& heap) override;
-
-private:
-    friend class Collection;
-    Collection* collection_;
-    Collection::Node* visited_ = nullptr; ///< null before the first
 };
 
 } // namespace tamarik

@@ -6,6 +6,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace tamarik {
@@ -15,12 +16,32 @@ namespace tamarik {
 /// The date and time of the place where the machine is.
 [[nodiscard]] basic::Date localTime();
 
+/// The date and time in Greenwich.
+[[nodiscard]] basic::Date universalTime();
+/// Milliseconds of a clock that never goes back.
+[[nodiscard]] double steadyTime();
+void sleepFor(std::int64_t milliseconds);
+
+/// What a device answers to Environ: the same everywhere, and nothing of the machine that simulates it. All folders are the
+/// application's.
+[[nodiscard]] std::vector<std::string> deviceEnvironment();
+
+/// The words of a command line as a program receives them: those with blanks are in quotes.
+[[nodiscard]] std::string commandLineOf(const std::vector<std::string>& words);
+
 struct Surroundings {
-    std::function<basic::Date()> now = localTime;
-    std::vector<std::string> environment; ///< as "NAME=value", UTF-8
-    std::string commandLine;              ///< what Command returns, UTF-8
+    // A host with a clock of its own replaces all four of them.
+    std::function<basic::Date()> now = localTime, universalNow = universalTime;
+    std::function<double()> milliseconds = steadyTime;
+    std::function<void(std::int64_t)> sleep = sleepFor;
+
+    std::vector<std::string> environment = deviceEnvironment(); ///< as "NAME=value", UTF-8
+    std::string commandLine;                                    ///< what Command returns, UTF-8
     std::shared_ptr<Settings> settings = std::make_shared<MemorySettings>();
     std::shared_ptr<FileStore> files = std::make_shared<MemoryStore>();
+
+    /// The value of a variable of the environment; "" for an unknown one.
+    [[nodiscard]] std::string_view variable(std::string_view name) const;
 };
 
 } // namespace tamarik

@@ -40,11 +40,11 @@ std::uint64_t countOf(std::span<const Bounds> bounds, std::uint32_t elementBytes
     return count;
 }
 
-void setBounds(ArrayBlock& array, std::span<const Bounds> bounds, std::uint32_t size) {
-    array.bounds.assign(bounds.begin(), bounds.end());
+void setBounds(ArrayBlock& array, std::vector<Bounds> bounds, std::uint32_t size) {
     array.size = size;
     array.lower = bounds.size() == 1 ? bounds[0].lower : 0;
     array.extent = bounds.size() == 1 ? size : 0;
+    array.bounds = std::move(bounds);
 }
 
 std::uint64_t dataBytes(const ArrayBlock& array) { return std::uint64_t{array.size} * array.elementBytes; }
@@ -126,10 +126,11 @@ private:
         auto* const to = target.as<Slot>();
         const bool managed = element.record ? !element.record->managed.empty() : image::isManaged({element.type.base});
         if (dataBytes(source) != 0) std::memset(target.data, 0, static_cast<std::size_t>(dataBytes(source)));
-        if (!managed || element.record)
+        if (!managed) {
             if (dataBytes(source) != 0)
                 std::memcpy(target.data, source.data, static_cast<std::size_t>(dataBytes(source)));
-        if (!managed) return;
+            return;
+        }
         if (element.record) return copyRecords(to, from, *element.record, source.size);
         const Managed kind = managedKind({element.type.base});
         const std::size_t step = kind == Managed::Variant ? 2 : 1;
@@ -137,8 +138,15 @@ private:
     }
 
     void copyRecords(Slot* to, const Slot* from, const RecordShape& shape, std::size_t count) {
-        for (std::size_t i = 0; i < count; ++i, to += shape.slots, from += shape.slots)
+        for (std::size_t i = 0; i < count; ++i, to += shape.slots, from += shape.slots) {
+            std::copy_n(from, shape.slots, to);
+            // If a field fails, those after it hold nothing.
+            for (const ManagedSlot& field : shape.managed) {
+                to[field.slot].bits = 0;
+                if (field.kind == Managed::Variant) to[field.slot + 1].bits = 0;
+            }
             for (const ManagedSlot& field : shape.managed) copyManaged(to + field.slot, from + field.slot, field.kind);
+        }
     }
 
     Heap& heap_;
@@ -226,12 +234,12 @@ void requireSameButLast(const ArrayBlock& array, std::span<const Bounds> bounds)
 }
 
 /// Replaces the data; the old elements from `kept` on are released after everything is in place.
-void replaceData(Heap& heap, ArrayBlock& array, void* data, std::span<const Bounds> bounds, std::uint32_t size,
+void replaceData(Heap& heap, ArrayBlock& array, void* data, std::vector<Bounds> bounds, std::uint32_t size,
                  std::uint32_t kept) {
     void* const old = std::exchange(array.data, data);
     const std::uint32_t oldSize = array.size;
     const std::uint64_t oldBytes = dataBytes(array);
-    setBounds(array, bounds, size);
+    setBounds(array, std::move(bounds), size);
     if (!old) return;
     releaseElements(heap, array.element, old, kept, oldSize);
     heap.free(old, oldBytes);
@@ -257,9 +265,10 @@ void redimension(Heap& heap, ArrayBlock& array, std::span<const Bounds> bounds, 
     const auto size = static_cast<std::uint32_t>(countOf(bounds, array.elementBytes));
     if (keep) requireSameButLast(array, bounds);
     const std::uint32_t kept = keep ? std::min(size, array.size) : 0;
+    std::vector<Bounds> copied(bounds.begin(), bounds.end());
     void* const data = newData(heap, array, kept, size);
     if (kept != 0) std::memcpy(data, array.data, std::size_t{kept} * array.elementBytes);
-    replaceData(heap, array, data, bounds, size, kept);
+    replaceData(heap, array, data, std::move(copied), size, kept);
 }
 
 void erase(Heap& heap, ArrayBlock& array) {
@@ -277,12 +286,12 @@ void moveElements(Heap& heap, ArrayBlock& target, ArrayBlock& source) {
     requireUnlocked(target);
     requireUnlocked(source);
     if (&target == &source) return;
-    const std::vector<Bounds> bounds = source.bounds;
+    std::vector<Bounds> bounds = std::move(source.bounds);
     const std::uint32_t size = source.size;
     void* const data = std::exchange(source.data, nullptr);
     setBounds(source, {}, 0);
     target.element = source.element;
-    replaceData(heap, target, data, bounds, size, 0);
+    replaceData(heap, target, data, std::move(bounds), size, 0);
 }
 
 Variant elementAt(Heap& heap, const ArrayBlock& array, std::uint32_t place) {

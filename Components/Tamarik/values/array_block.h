@@ -33,6 +33,10 @@ struct ArrayBlock : Counted {
 };
 
 [[nodiscard]] bool isPlain(const ArrayBlock& array);
+/// Whether a slot of an array type may share the array: also its class or record is the same.
+[[nodiscard]] inline bool hasElementsOf(const ArrayBlock& array, image::SlotType type) {
+    return array.element.type.base == type.base && array.element.type.id == type.id;
+}
 [[nodiscard]] Managed managedKind(image::SlotType type);
 
 /// Returns an array without dimensions.

@@ -1,6 +1,7 @@
 #pragma once
 // Hashes and equality without regard to case.
 #include "Components/Tamarik/text/letters.h"
+#include "Components/Tamarik/values/text_block.h"
 #include <cstdint>
 #include <string_view>
 
@@ -13,6 +14,15 @@ namespace tamarik {
     hash = (hash ^ (hash >> 15)) * 0x2C1B3C6DU;
     hash ^= hash >> 13;
     return hash != 0 ? hash : 1;
+}
+
+/// The same for a text, which remembers it.
+[[nodiscard]] inline std::uint32_t foldedHash(const TextBlock* text) {
+    if (text && text->hash != 0) return text->hash;
+    const std::uint32_t hash = foldedHash(unitsOf(text));
+    // A text is shared, but its hash is no part of its value.
+    if (text) const_cast<TextBlock*>(text)->hash = hash;
+    return hash;
 }
 
 [[nodiscard]] inline bool equalFolded(std::u16string_view a, std::u16string_view b) {

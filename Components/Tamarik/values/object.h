@@ -36,7 +36,13 @@ void destroy(Heap& heap, Object* object);
 template <class T, class... Arguments>
 [[nodiscard]] T* makeObject(Heap& heap, Arguments&&... arguments) {
     void* const memory = heap.allocate(sizeof(T), kObjectCharge);
-    T* const object = new (memory) T(static_cast<Arguments&&>(arguments)...);
+    T* object = nullptr;
+    try {
+        object = new (memory) T(static_cast<Arguments&&>(arguments)...);
+    } catch (...) {
+        heap.free(memory, kObjectCharge);
+        throw;
+    }
     object->charge = kObjectCharge;
     link(heap, *object);
     return object;

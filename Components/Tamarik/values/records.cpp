@@ -1,7 +1,6 @@
 #include "Components/Tamarik/values/records.h"
 #include "Components/Tamarik/values/object.h"
 #include <algorithm>
-#include <cstring>
 
 namespace tamarik {
 
@@ -81,9 +80,8 @@ void copyRecord(Heap& heap, Slot* target, const Slot* source, const RecordShape&
         clearManaged(heap, copy.data(), shape.managed);
         throw;
     }
-    std::vector<Slot> old(target, target + shape.slots);
-    std::memcpy(target, copy.data(), shape.slots * sizeof(Slot));
-    clearManaged(heap, old.data(), shape.managed);
+    std::swap_ranges(copy.begin(), copy.end(), target);
+    clearManaged(heap, copy.data(), shape.managed);
 }
 
 } // namespace tamarik

@@ -4,7 +4,9 @@
 #include "Components/Tamarik/vm/execution.h"
 #include "Components/Tamarik/vm/slot_values.h"
 #include "Components/Tamarik/vm/slot_variants.h"
+#include "Components/Tamarik/vm/wait_task.h"
 #include <algorithm>
+#include <utility>
 
 namespace tamarik {
 
@@ -70,6 +72,12 @@ void Execution::callNative(const std::uint32_t* ip) {
     }
     clear();
     storeResult(word.a == image::kNoSlot ? nullptr : base + word.a, native.result, call.result);
+}
+
+void Execution::beginWait(const std::uint32_t* ip) {
+    auto request = *std::exchange(session.wait, std::nullopt);
+    pushTask(std::make_unique<WaitTask>(std::move(request), imports[ip[1]].result),
+             static_cast<std::uint8_t>(image::Word(*ip).a));
 }
 
 void Execution::storeResult(Slot* target, ValueKind kind, const Slot* value) {

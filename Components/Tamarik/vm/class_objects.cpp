@@ -24,7 +24,7 @@ const image::Implementation* implementation(const Execution& m, const Object& ob
 /// Runs what prepares the fields, then Initialize, then stores the object.
 class NewTask final : public Task {
 public:
-    explicit NewTask(Instance* instance) : instance_(instance) {}
+    void own(Instance* instance) { instance_ = instance; }
 
     bool step(Execution& m) override {
         const image::ClassInfo& info = infoOf(m, instance_->classNumber);
@@ -46,7 +46,7 @@ public:
     }
 
 private:
-    Instance* instance_;
+    Instance* instance_ = nullptr;
     int stage_ = 0;
 };
 
@@ -54,10 +54,14 @@ private:
 
 void newObject(Execution& m, std::uint32_t classNumber, std::uint32_t target) {
     const LoadedClass& loaded = m.program->classes[classNumber - 1];
-    Instance* const instance = makeInstance(m.heap, classNumber, m.program->text(loaded.info->name), loaded.fields);
+    const auto make = [&] {
+        return makeInstance(m.heap, classNumber, m.program->text(loaded.info->name), loaded.fields);
+    };
     if (loaded.info->prepare == image::kNone && loaded.info->initialize == image::kNone)
-        return setObject(m.heap, m.frame->base[target], instance);
-    m.pushTask(std::make_unique<NewTask>(instance), static_cast<std::uint8_t>(target));
+        return setObject(m.heap, m.frame->base[target], make());
+    auto task = std::make_unique<NewTask>();
+    task->own(make());
+    m.pushTask(std::move(task), static_cast<std::uint8_t>(target));
 }
 
 Object* newLibraryObject(Execution& m, std::string_view name) {

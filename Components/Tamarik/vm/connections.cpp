@@ -5,8 +5,13 @@ namespace tamarik {
 
 void Connections::connect(Object& source, Connection connection) {
     disconnect(source, connection);
-    bySource_[&source].push_back(connection);
-    sourcesOf_.emplace(connection.handler, &source);
+    const auto entry = sourcesOf_.emplace(connection.handler, &source);
+    try {
+        bySource_[&source].push_back(connection);
+    } catch (...) {
+        sourcesOf_.erase(entry);
+        throw;
+    }
 }
 
 void Connections::disconnect(Object& source, const Connection& connection) {
@@ -31,15 +36,19 @@ bool Connections::has(const Object& source, const Connection& connection) const 
 
 void Connections::forget(Object& object) {
     if (bySource_.empty()) return;
-    if (const auto found = bySource_.find(&object); found != bySource_.end()) {
-        for (const Connection& connection : std::vector<Connection>(found->second)) disconnect(object, connection);
+    for (auto found = bySource_.find(&object); found != bySource_.end(); found = bySource_.find(&object)) {
+        if (found->second.empty()) {
+            bySource_.erase(found);
+            break;
+        }
+        const Connection last = found->second.back();
+        disconnect(object, last);
     }
-    std::vector<Object*> sources;
-    const auto [first, last] = sourcesOf_.equal_range(&object);
-    for (auto each = first; each != last; ++each) sources.push_back(each->second);
-    for (Object* source : sources) {
-        for (const Connection& connection : of(*source))
-            if (connection.handler == &object) disconnect(*source, connection);
+    for (auto entry = sourcesOf_.find(&object); entry != sourcesOf_.end(); entry = sourcesOf_.find(&object)) {
+        auto& connections = bySource_.find(entry->second)->second;
+        const auto isOfObject = [&](const Connection& each) { return each.handler == &object; };
+        const Connection connection = *std::find_if(connections.begin(), connections.end(), isOfObject);
+        disconnect(*entry->second, connection);
     }
 }
 

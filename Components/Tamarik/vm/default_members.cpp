@@ -74,7 +74,8 @@ private:
 /// The default member of an object with the arguments of the instruction.
 LateRequest itemRequest(Execution& m, const std::uint32_t* ip, const Variant& object) {
     const image::Word word(*ip);
-    LateRequest request;
+    LateRequest request(m.heap);
+    request.arguments.reserve(std::size_t{word.c} + 1);
     for (std::uint32_t i = 0; i < word.c; ++i)
         request.arguments.push_back(sharedOf(variantAt(m.frame->base + halfAt(ip + 1, i))));
     request.object = sharedOf(object);

@@ -3,6 +3,7 @@
 #include "Components/Tamarik/values/object.h"
 #include "Components/Tamarik/vm/execution.h"
 #include <algorithm>
+#include <new>
 #include <span>
 #include <utility>
 
@@ -31,10 +32,19 @@ std::uint32_t lineAt(const LoadedProcedure& procedure, const std::uint32_t* ip) 
 
 } // namespace
 
-void Execution::fail(int number) { noted_ = {number, std::string(basic::standardDescription(number)), {}, 0}; }
+void Execution::fail(int number) noexcept { noted_ = {number, {}, {}, 0}; }
 
-void Execution::fail(const basic::RuntimeError& error) {
-    noted_ = {error.Number, error.Description, error.Source, static_cast<std::int32_t>(error.LastDllError)};
+void Execution::fail(const basic::RuntimeError& error) noexcept {
+    try {
+        noted_ = {error.Number, error.Description, error.Source, static_cast<std::int32_t>(error.LastDllError)};
+    } catch (const std::bad_alloc&) { fail(basic::kOutOfMemory); }
+}
+
+/// An error without a text has the standard one; without memory for that, none.
+void Execution::describeNoted() noexcept {
+    try {
+        if (noted_.description.empty()) noted_.description = basic::standardDescription(noted_.number);
+    } catch (const std::bad_alloc&) {}
 }
 
 const std::uint32_t* Execution::statementAt(const Frame& of, const std::uint32_t* at, bool next) const {
@@ -52,20 +62,20 @@ void Execution::unwind(Frame* to) {
 void Execution::enterHandler(Frame& of) {
     // Those frames that called store where they continue.
     const std::uint32_t* const at = &of == frame ? of.ip : of.ip - 1;
-    const ErrorState error = noted_;
+    // What can fail is done first.
+    RareFrame* const state = of.mode == ErrorMode::GoTo ? &rare(of) : nullptr;
     unwind(&of);
     if (of.rare) of.rare->raising.reset();
     clearManaged(heap, of.base, of.procedure->temporaries);
-    session.err = error;
+    session.err = std::move(noted_);
     if (session.err.source.empty()) session.err.source = "VBAProject";
     session.erl = static_cast<std::int32_t>(of.line);
-    if (of.mode == ErrorMode::ResumeNext) {
+    if (!state) {
         of.ip = statementAt(of, at, true);
         return;
     }
-    RareFrame& state = rare(of);
-    state.inHandler = true;
-    state.failedAt = at;
+    state->inHandler = true;
+    state->failedAt = at;
     of.ip = of.handler;
 }
 
@@ -100,21 +110,34 @@ bool Execution::storeBack(const Frame& handler) {
         const bool storesBack =
             caller->procedure->info && image::Word(*caller->ip).op == std::uint8_t(image::Op::StoreBack);
         if (!storesBack) continue;
+        RareFrame& state = rare(*caller); // what can fail is done first
         unwind(caller);
-        rare(*caller).raising = noted_;
+        state.raising = std::move(noted_);
         return true;
     }
     return false;
 }
 
-bool Execution::raiseAgain() {
-    noted_ = *std::exchange(frame->rare->raising, std::nullopt);
+bool Execution::raiseAgain() noexcept {
+    noted_ = std::move(*frame->rare->raising);
     return dispatchError();
 }
 
-bool Execution::dispatchError() {
+bool Execution::dispatchError() noexcept {
+    for (int attempts = 0; attempts < 2; ++attempts) {
+        try {
+            return findHandler();
+        } catch (const std::bad_alloc&) { fail(basic::kOutOfMemory); }
+    }
+    failure.emplace().number = basic::kOutOfMemory;
+    finish(RunState::Failed);
+    return false;
+}
+
+bool Execution::findHandler() {
     // An error while arguments are stored back replaces that of the call.
     if (frame->rare) frame->rare->raising.reset();
+    describeNoted();
     for (Frame* at = frame;; --at) {
         if (takesErrors(*at)) {
             if (!storeBack(*at)) enterHandler(*at);
@@ -130,8 +153,12 @@ bool Execution::dispatchError() {
 void Execution::describeFailure() { failure = {noted_.number, noted_.description, noted_.source, places()}; }
 
 void Execution::stop(std::string_view reason) {
-    failure = {RunError::kStopped, std::string(reason), {}, places()};
+    failure.emplace().number = RunError::kStopped;
     finish(RunState::Failed);
+    try {
+        failure->text = reason;
+        failure->callers = places();
+    } catch (const std::bad_alloc&) {} // without the place
 }
 
 std::vector<RunError::Place> Execution::places() const {

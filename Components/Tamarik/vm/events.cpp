@@ -24,21 +24,20 @@ std::uint32_t handlerOf(const image::EventSink& sink, std::uint32_t event) {
 
 class EventTask final : public Task {
 public:
-    EventTask(Execution& m, Object* source, std::uint32_t event) : source_(source), event_(event) {
-        retain(source);
+    /// Finds who is connected, and copies the arguments of the instruction. If it fails, `release` is still needed.
+    void prepare(Execution& m, Object* source, const std::uint32_t* ip) {
+        event_ = ip[1];
         connections_ = m.connections.of(*source);
+        retain(source_ = source);
         for (const Connection& connection : connections_) retain(connection.handler);
-        const auto& types = m.program->code().classes[source->classNumber - 1].events[event].parameters;
+        const auto& types = m.program->code().classes[source->classNumber - 1].events[event_].parameters;
         for (const image::SlotType type : types) {
-            if (image::isManaged(type))
-                managed_.push_back({static_cast<std::uint32_t>(arguments_.size()), managedKind(type)});
-            kinds_.push_back(valueKindOf(type));
+            const auto slot = static_cast<std::uint32_t>(arguments_.size());
             arguments_.resize(arguments_.size() + slotsOf(type));
+            if (image::isManaged(type)) managed_.push_back({slot, managedKind(type)});
+            kinds_.push_back(valueKindOf(type));
         }
-    }
-
-    void takeArguments(Execution& m, const std::uint32_t* words, std::uint32_t count) {
-        m.passArguments(arguments_.data(), words, count, managed_);
+        m.passArguments(arguments_.data(), ip + 2, image::Word(*ip).c, managed_);
     }
 
     bool step(Execution& m) override {
@@ -75,8 +74,8 @@ private:
         }
     }
 
-    Object* source_;
-    std::uint32_t event_;
+    Object* source_ = nullptr;
+    std::uint32_t event_ = 0;
     std::vector<Connection> connections_;
     std::size_t next_ = 0;
     std::vector<Slot> arguments_;
@@ -101,12 +100,11 @@ void setSource(Execution& m, Object* source, Object* handler, std::uint32_t fiel
 }
 
 void raiseEvent(Execution& m, const std::uint32_t* ip) {
-    const image::Word word(*ip);
-    Object* const source = m.frame->base[word.b].object;
+    Object* const source = m.frame->base[image::Word(*ip).b].object;
     if (!source) throw basic::RuntimeError(basic::kObjectVariableNotSet);
-    auto task = std::make_unique<EventTask>(m, source, ip[1]);
+    auto task = std::make_unique<EventTask>();
     try {
-        task->takeArguments(m, ip + 2, word.c);
+        task->prepare(m, source, ip);
     } catch (...) {
         task->release(m.heap);
         throw;

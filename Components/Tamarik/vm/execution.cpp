@@ -2,6 +2,7 @@
 #include "Basic/runtime_error.h"
 #include "Components/Tamarik/values/object.h"
 #include <new>
+#include <utility>
 
 namespace tamarik {
 
@@ -47,25 +48,31 @@ Execution::~Execution() {
         else
             destroy(heap, static_cast<Object*>(block));
     }
+    // Objects that a failed allocation left without an owner.
+    while (heap.living) destroy(heap, static_cast<Object*>(heap.living));
     for (TextBlock* text : texts) release(heap, text);
     dropRare(*frame);
 }
 
+RareFrame* Execution::newRare() {
+    if (!freeRares_) return new RareFrame;
+    RareFrame* const rare = freeRares_.release();
+    freeRares_ = std::move(rare->next);
+    return rare;
+}
+
 RareFrame& Execution::rare(Frame& of) {
-    if (of.rare) return *of.rare;
-    if (rarePool_.empty()) rarePool_.push_back(std::make_unique<RareFrame>());
-    of.rare = rarePool_.back().release();
-    rarePool_.pop_back();
+    if (!of.rare) of.rare = newRare();
     return *of.rare;
 }
 
-void Execution::dropRare(Frame& of) {
-    std::unique_ptr<RareFrame> rare(of.rare);
-    of.rare = nullptr;
+void Execution::dropRare(Frame& of) noexcept {
+    std::unique_ptr<RareFrame> rare(std::exchange(of.rare, nullptr));
     if (!rare) return;
     goSubs -= rare->returns.size();
     *rare = {};
-    rarePool_.push_back(std::move(rare));
+    rare->next = std::move(freeRares_);
+    freeRares_ = std::move(rare);
 }
 
 TextBlock* Execution::constantText(std::uint32_t number) {
@@ -77,22 +84,25 @@ TextBlock* Execution::constantText(std::uint32_t number) {
 Slot* Execution::pushFrame(const LoadedProcedure& procedure, FrameKind kind) {
     Slot* const base = nextBase();
     if (base + procedure.slots > stackEnd || frame + 1 == framesEnd) throw basic::RuntimeError(basic::kOutOfStackSpace);
-    ++frame;
-    *frame = {procedure.code, base, &procedure, nullptr, image::kNoSlot, ErrorMode::None, 0, nullptr};
-    if (kind != FrameKind::Call) rare(*frame).kind = kind;
+    RareFrame* const rare = kind == FrameKind::Call ? nullptr : newRare();
+    if (rare) rare->kind = kind;
+    *++frame = {procedure.code, base, &procedure, nullptr, image::kNoSlot, ErrorMode::None, 0, rare};
     return base;
 }
 
 void Execution::pushTask(std::unique_ptr<Task> task, std::uint8_t result) {
-    if (frame + 1 == framesEnd) {
+    RareFrame* rare = nullptr;
+    try {
+        if (frame + 1 == framesEnd) throw basic::RuntimeError(basic::kOutOfStackSpace);
+        rare = newRare();
+    } catch (...) {
         task->release(heap);
-        throw basic::RuntimeError(basic::kOutOfStackSpace);
+        throw;
     }
+    rare->kind = FrameKind::Task;
+    rare->task = std::move(task);
     Slot* const base = nextBase();
-    ++frame;
-    *frame = {nullptr, base, &kNoProcedure, nullptr, result, ErrorMode::None, 0, nullptr};
-    rare(*frame).kind = FrameKind::Task;
-    frame->rare->task = std::move(task);
+    *++frame = {nullptr, base, &kNoProcedure, nullptr, result, ErrorMode::None, 0, rare};
 }
 
 void Execution::leaveTop() {

@@ -18,6 +18,8 @@
 
 namespace tamarik {
 
+class WaitTask;
+
 /// What the call at an instruction found the last time.
 struct CallSite {
     const std::uint32_t* ip = nullptr;
@@ -64,10 +66,11 @@ struct Execution {
     Connections connections;
     std::array<CallSite, kCallSites> callSites;
     std::unordered_map<std::uint64_t, const image::ClassMember*> memberCache; ///< by class, name and use
+    WaitTask* waiting = nullptr;      ///< what the host has to answer, while the state is Waiting
     std::vector<std::uint32_t> toRun; ///< procedures that the host wants run, the next one last
 
     [[nodiscard]] RareFrame& rare(Frame& of);
-    void dropRare(Frame& of);
+    void dropRare(Frame& of) noexcept;
     [[nodiscard]] Slot* nextBase() const { return frame->base + frame->procedure->slots; }
     [[nodiscard]] TextBlock* constantText(std::uint32_t number);
 
@@ -79,6 +82,8 @@ struct Execution {
     void passArguments(Slot* target, const std::uint32_t* words, std::uint32_t count,
                        std::span<const ManagedSlot> managed);
     void callNative(const std::uint32_t* ip);
+    /// Makes a frame that waits, for a function that asked for it.
+    void beginWait(const std::uint32_t* ip);
     /// Gives the result of the task on top to the frame below: a task, or the slot that the instruction named.
     void deliver(const Variant& result);
     void returnSlowly();
@@ -89,12 +94,13 @@ struct Execution {
     bool settle();
 
     // errors
-    void fail(int number);
-    void fail(const basic::RuntimeError& error);
-    /// Finds the handler of the error that `fail` noted, or ends the run, which it reports by false.
-    bool dispatchError();
+    void fail(int number) noexcept;
+    void fail(const basic::RuntimeError& error) noexcept;
+    /// Finds the handler of the error that `fail` noted, or ends the run, which it reports by false. Without memory for that,
+    /// the error becomes error 7.
+    bool dispatchError() noexcept;
     /// Ends the storing back after a failed call: as dispatchError, with the call's error.
-    bool raiseAgain();
+    bool raiseAgain() noexcept;
     /// Ends the run where a debugger would stop it: at a Debug.Assert or Stop.
     void stop(std::string_view reason);
     /// Where the program is, then the callers.
@@ -105,6 +111,7 @@ struct Execution {
     /// Null without a GoSub.
     const std::uint32_t* returnSub();
     void unwind(Frame* to);
+    /// Allocates nothing, so that it cannot fail.
     void leaveTop();
     void clearErr() { session.err = {}; }
 
@@ -117,7 +124,10 @@ private:
     void destroyNext();
     void destroyObject(Object* object);
     void finishTerminate(RareFrame& rare);
+    bool findHandler();
     void describeFailure();
+    void describeNoted() noexcept;
+    [[nodiscard]] RareFrame* newRare();
     [[nodiscard]] const std::uint32_t* statementAt(const Frame& of, const std::uint32_t* at, bool next) const;
     void enterHandler(Frame& of);
     /// Continues where the arguments of a failed call are stored back, in a frame above the handler's; false if there is none.
@@ -125,7 +135,7 @@ private:
 
     std::unique_ptr<Slot[], FreeMemory> values_;
     std::unique_ptr<Frame[], FreeMemory> frames_;
-    std::vector<std::unique_ptr<RareFrame>> rarePool_;
+    std::unique_ptr<RareFrame> freeRares_;
     ErrorState noted_;
     bool areGlobalsReleased_ = false;
 };

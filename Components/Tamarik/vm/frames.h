@@ -29,6 +29,7 @@ struct RareFrame {
     Counted* pending = nullptr;        ///< what waits until Terminate has run
     ErrorState err;                    ///< Err before Terminate
     std::optional<ErrorState> raising; ///< of a call that failed, while its arguments are stored back
+    std::unique_ptr<RareFrame> next;   ///< of those that no frame uses
 };
 
 struct Frame {

@@ -25,11 +25,6 @@ SlotType valueType(SlotType type) {
 
 bool isReference(SlotType type) { return type.form == TypeForm::Reference || type.form == TypeForm::ArrayReference; }
 
-bool fits(const ArrayBlock& array, SlotType type) {
-    const SlotType element = array.element.type;
-    return element.base == type.base && (element.base != BaseType::Record || element.id == type.id);
-}
-
 Variant valueOf(Execution& m, const image::DefaultValue& value) {
     switch (slotBase(value.type)) {
     case BaseType::Long: return ofNumber(static_cast<std::int32_t>(value.bits), kindOf(value.type));
@@ -55,7 +50,7 @@ Variant* valueNeeded(Variant& argument, SlotType type) {
 
 void storeInSlot(Execution& m, Slot* slot, SlotType type, BaseType declared, const Variant& value) {
     if (type.form == TypeForm::Array) {
-        if (!value.isArray() || !value.array || !fits(*value.array, type))
+        if (!value.isArray() || !value.array || !hasElementsOf(*value.array, type))
             throw basic::RuntimeError(basic::kTypeMismatch);
         retain(value.array);
         return setArray(m.heap, *slot, value.array);

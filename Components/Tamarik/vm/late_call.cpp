@@ -47,8 +47,7 @@ public:
 
     void release(Heap& heap) override {
         tamarik::release(heap, std::exchange(result_, {}));
-        tamarik::release(heap, std::exchange(request_.object, {}));
-        for (Variant& argument : request_.arguments) tamarik::release(heap, std::exchange(argument, {}));
+        request_.release();
         arguments_.release(heap);
     }
 
@@ -68,6 +67,8 @@ private:
     }
 
     bool callLibrary(Execution& m, LibraryObject& object) {
+        if (!request_.arguments.empty() && assignsObject(request_.use, request_.arguments.back()))
+            return resolve(m, request_.arguments.back());
         const std::string_view given = request_.nameIn(*m.program),
                                name = given.empty() ? object.defaultMember() : given;
         if (name.empty()) throw basic::RuntimeError(basic::kPropertyOrMethodNotSupported);
@@ -187,7 +188,7 @@ void callLate(Execution& m, LateRequest request, std::uint8_t result) {
 }
 
 void callDefault(Execution& m, const Variant& object) {
-    LateRequest request;
+    LateRequest request(m.heap);
     request.object = sharedOf(object);
     callLate(m, std::move(request), image::kNoSlot);
 }

@@ -37,6 +37,7 @@ bool callLibrary(Execution& m, const std::uint32_t* ip) {
     auto& object = static_cast<LibraryObject&>(*target.object);
     std::array<const Variant*, 255> arguments;
     for (std::uint32_t i = 0; i < word.c; ++i) arguments[i] = &variantAt(base + halfAt(ip + 3, i));
+    if (word.c != 0 && assignsObject(static_cast<LateUse>(ip[2] & 0xFF), *arguments[word.c - 1])) return false;
     const Variant result = callFound(m.session, object, foundAt(m, ip, object), {arguments.data(), word.c});
     if (word.a == image::kNoSlot)
         release(m.heap, result);
@@ -52,14 +53,9 @@ void takeArguments(Execution& m, LateRequest& request, const std::uint32_t* slot
                    std::uint32_t end) {
     Slot* const base = m.frame->base;
     request.arguments.reserve(end - first);
-    try {
-        for (std::uint32_t i = first; i < end; ++i) {
-            request.variables.push_back(base + halfAt(slots, i));
-            request.arguments.push_back(copyOf(m.heap, variantAt(request.variables.back())));
-        }
-    } catch (...) {
-        for (const Variant& argument : request.arguments) release(m.heap, argument);
-        throw;
+    for (std::uint32_t i = first; i < end; ++i) {
+        request.variables.push_back(base + halfAt(slots, i));
+        request.arguments.push_back(copyOf(m.heap, variantAt(request.variables.back())));
     }
 }
 
@@ -78,7 +74,7 @@ LateUse useOf(std::int32_t callType) {
 
 void callLate(Execution& m, const std::uint32_t* ip) {
     const image::Word word(*ip);
-    LateRequest request;
+    LateRequest request(m.heap);
     request.name = ip[1];
     request.use = static_cast<LateUse>(ip[2] & 0xFF);
     const std::uint32_t named = ip[2] >> 8;
@@ -93,11 +89,16 @@ void callByName(Execution& m, const std::uint32_t* ip) {
     Slot* const base = m.frame->base;
     const auto given = [&](std::uint32_t i) -> const Variant& { return variantAt(base + halfAt(ip + 1, i)); };
     const std::int32_t callType = longOf(given(1), image::BaseType::Long);
-    LateRequest request;
+    LateRequest request(m.heap);
     request.use = useOf(callType);
     request.isExact = callType != 3;
     TextBlock* const name = textOf(m.heap, given(0));
-    request.givenName = toUtf8(unitsOf(name));
+    try {
+        request.givenName = toUtf8(unitsOf(name));
+    } catch (...) {
+        release(m.heap, name);
+        throw;
+    }
     release(m.heap, name);
     if (request.givenName.empty()) throw basic::RuntimeError(basic::kPropertyOrMethodNotSupported);
     if (request.assigns() && word.c == 2) throw basic::RuntimeError(basic::kWrongNumberOfArguments);

@@ -63,9 +63,10 @@ const ClassMember* memberFor(Execution& m, const LateRequest& request, LateUse u
     const std::uint32_t name = request.name == image::kNone ? defaultOf(m, classNumber) : request.name;
     const std::uint64_t key =
         std::uint64_t{classNumber} << 40 | std::uint64_t{name} << 8 | static_cast<std::uint64_t>(use);
-    const auto [entry, isNew] = m.memberCache.try_emplace(key, nullptr);
-    if (isNew) entry->second = findMember(m, classNumber, m.program->text(name), use, false);
-    return entry->second;
+    if (const auto known = m.memberCache.find(key); known != m.memberCache.end()) return known->second;
+    const ClassMember* const found = findMember(m, classNumber, m.program->text(name), use, false);
+    m.memberCache.emplace(key, found);
+    return found;
 }
 
 void arrangeArguments(const Program& program, LateRequest& request, const ClassMember& member) {

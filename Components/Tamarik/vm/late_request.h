@@ -3,12 +3,32 @@
 #include "Components/Tamarik/vm/execution.h"
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace tamarik {
 
 /// It owns its Variants.
 struct LateRequest {
+    explicit LateRequest(Heap& of) : heap(of) {}
+    LateRequest(LateRequest&& other) noexcept
+        : heap(other.heap),
+          object(std::exchange(other.object, {})),
+          name(other.name),
+          givenName(std::move(other.givenName)),
+          use(other.use),
+          isExact(other.isExact),
+          arguments(std::move(other.arguments)),
+          variables(std::move(other.variables)),
+          named(std::move(other.named)) {}
+    LateRequest& operator=(LateRequest&&) = delete;
+    ~LateRequest() { release(); }
+    void release() noexcept {
+        tamarik::release(heap, std::exchange(object, {}));
+        for (Variant& argument : arguments) tamarik::release(heap, std::exchange(argument, {}));
+    }
+
+    Heap& heap;
     Variant object;
     std::uint32_t name = image::kNone; ///< a text; kNone for the default member
     std::string givenName;             ///< a name that the program computed, of CallByName; replaces `name`
@@ -24,6 +44,11 @@ struct LateRequest {
     /// The name, empty for the default member.
     [[nodiscard]] std::string_view nameIn(const Program& program) const;
 };
+
+/// Let takes the value of an object's default member.
+[[nodiscard]] inline bool assignsObject(image::LateUse use, const Variant& value) {
+    return use == image::LateUse::Let && value.kind == kObject;
+}
 
 /// The member that serves a request; null if the object's class has none.
 [[nodiscard]] const image::ClassMember* memberFor(Execution& m, const LateRequest& request, image::LateUse use);

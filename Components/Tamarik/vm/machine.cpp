@@ -1,7 +1,9 @@
 #include "Components/Tamarik/vm/machine.h"
 #include "Components/Tamarik/values/object.h"
 #include "Components/Tamarik/vm/execution.h"
+#include "Components/Tamarik/vm/wait_task.h"
 #include <algorithm>
+#include <utility>
 
 namespace tamarik {
 
@@ -64,6 +66,15 @@ RunState Machine::run(std::int64_t budget) {
     else
         interpretByGoto(m);
     return m.state;
+}
+
+std::int64_t Machine::budgetLeft() const { return std::max<std::int64_t>(execution_->budget, 0); }
+
+const Wait& Machine::wait() const { return execution_->waiting->wait(); }
+
+void Machine::answer(Answer answer) {
+    std::exchange(execution_->waiting, nullptr)->answer(std::move(answer));
+    execution_->finish(RunState::Running);
 }
 
 const std::optional<RunError>& Machine::error() const { return execution_->failure; }

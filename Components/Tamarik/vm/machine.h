@@ -42,8 +42,15 @@ public:
     void start();
     /// Prepares the modules, then calls a procedure without parameters.
     void start(std::uint32_t procedure);
-    /// Continues until the application ends, waits, or has used the budget, which is about the number of instructions.
+    /// Continues until the application ends, waits, or has used the budget, which is about the number of instructions. One that
+    /// waits must be answered first.
     RunState run(std::int64_t budget = std::numeric_limits<std::int64_t>::max());
+    /// What is left of the budget of the last run.
+    [[nodiscard]] std::int64_t budgetLeft() const;
+
+    /// What the application waits for, while its state is Waiting.
+    [[nodiscard]] const Wait& wait() const;
+    void answer(Answer answer);
 
     /// Why the last run failed.
     [[nodiscard]] const std::optional<RunError>& error() const;

@@ -18,29 +18,30 @@ void Execution::destroyNext() {
     const std::uint32_t terminate =
         object->classNumber == 0 ? image::kNone : program->code().classes[object->classNumber - 1].terminate;
     if (object->state != Counted::State::Living || terminate == image::kNone) return destroyObject(object);
-    // One reference belongs to the procedure that runs; another one that it stores keeps the object alive.
-    object->state = Counted::State::Terminating;
-    object->count = 1;
     Slot* base = nullptr;
+    ErrorState err;
     try {
+        err = session.err;
         base = pushFrame(program->procedures[terminate], FrameKind::Terminate);
-    } catch (const basic::RuntimeError&) {
+    } catch (...) {
         object->state = Counted::State::Terminated;
-        object->count = 0;
         destroyObject(object);
         throw;
     }
+    object->state = Counted::State::Terminating;
+    // One reference belongs to the procedure that runs, one to its parameter; another one that it stores keeps the object
+    // alive.
     object->count = 2;
     base[0].object = object;
-    RareFrame& top = rare(*frame);
+    RareFrame& top = *frame->rare;
     top.terminating = object;
     top.pending = heap.detachPending();
-    top.err = session.err;
+    top.err = std::move(err);
 }
 
 void Execution::finishTerminate(RareFrame& rare) {
     Object* const object = std::exchange(rare.terminating, nullptr);
-    session.err = rare.err;
+    session.err = std::move(rare.err);
     heap.restorePending(std::exchange(rare.pending, nullptr));
     object->state = Counted::State::Terminated;
     if (--object->count == 0) destroyObject(object);
@@ -68,7 +69,7 @@ bool Execution::settleOnce() {
             // The task left its result in the caller's slots.
             leaveTop();
         }
-        return false;
+        return state != RunState::Running;
     }
     if (top->kind != FrameKind::Entry) return true;
     if (toRun.empty()) return finishNormally();

@@ -2,6 +2,7 @@
 // A run-time error that no handler took.
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -21,5 +22,11 @@ struct RunError {
     std::string text, source;
     std::vector<Place> callers; ///< where it failed, then the callers
 };
+
+/// Returns what a file of the program is shown as. Without one, its name.
+using ShownFile = std::function<std::string(const std::string& file)>;
+
+/// Returns `file:line: run-time error 9: Subscript out of range`, and a line for each caller.
+[[nodiscard]] std::string textOf(const RunError& error, const ShownFile& shown = {});
 
 } // namespace tamarik

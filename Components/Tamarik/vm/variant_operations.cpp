@@ -17,11 +17,10 @@ ArrayBlock* requireArray(const Variant& v) {
     return v.array;
 }
 
-void requireSameElements(const ArrayBlock& array, image::SlotType target) {
-    const auto& element = array.element.type;
-    const bool same = element.base == target.base && (target.base != BaseType::Record || element.id == target.id) &&
-                      (target.base != BaseType::Object || target.id == 0 || element.id == target.id);
-    if (!same) throw basic::RuntimeError(basic::kTypeMismatch);
+void requireElements(const ArrayBlock& array, image::SlotType target, bool mayBeOfAnyClass) {
+    if (hasElementsOf(array, target)) return;
+    const bool isWider = mayBeOfAnyClass && target.base == BaseType::Object && target.id == 0;
+    if (!isWider || array.element.type.base != BaseType::Object) throw basic::RuntimeError(basic::kTypeMismatch);
 }
 
 std::uint32_t placeIn(Execution& m, const ArrayBlock* array, const std::uint32_t* words, std::uint32_t count) {
@@ -46,13 +45,16 @@ void variantToArray(Execution& m, std::uint32_t target, std::uint32_t source) {
     // An array of Bytes takes the bytes of a text.
     if (v.kind == kString) return bytesOfText(m, target, v.text);
     const ArrayBlock* const array = requireArray(v);
-    if (array) requireSameElements(*array, m.frame->procedure->types[target]);
+    const image::SlotType type = m.frame->procedure->types[target];
+    if (array) requireElements(*array, type, true);
     assignArray(m, target, array);
+    // What was an array of one class takes objects of all classes from now on.
+    if (array) m.frame->base[target].array->element.type.id = type.id;
 }
 
 void shareVariantArray(Execution& m, std::uint32_t target, std::uint32_t source) {
     ArrayBlock* const array = requireArray(variantAt(m.frame->base + source));
-    if (array) requireSameElements(*array, m.frame->procedure->types[target]);
+    if (array) requireElements(*array, m.frame->procedure->types[target], false);
     retain(array);
     setArray(m.heap, m.frame->base[target], array);
 }

@@ -1,0 +1,54 @@
+#include "Apps/fernwick/checks/stored_program.h"
+#include "Basic/runtime_error.h"
+#include "Components/Image/image.h"
+#include "Components/Image/image_bytes.h"
+
+namespace cli {
+
+namespace {
+
+void write(image::Writer& out, std::string_view text) {
+    out.variable(static_cast<std::uint32_t>(text.size()));
+    out.raw(text);
+}
+
+std::string_view readText(image::Reader& in) { return in.raw(in.variable()); }
+
+std::optional<StoredProgram> read(image::Reader in) {
+    auto results = qltoolkit::resultsOf(readText(in));
+    if (!results) return std::nullopt;
+    StoredProgram program{std::move(*results), {}, {}};
+    for (auto count = in.variable(); count > 0; --count) {
+        auto& entry = program.entries.emplace_back();
+        entry.module = readText(in);
+        entry.name = readText(in);
+        entry.number = in.variable();
+    }
+    program.code = image::decode(in.rest()).code;
+    return program;
+}
+
+} // namespace
+
+std::string bytesOf(const StoredProgram& program) {
+    image::Writer out;
+    write(out, qltoolkit::bytesOf(program.results));
+    out.variable(static_cast<std::uint32_t>(program.entries.size()));
+    for (const auto& entry : program.entries) {
+        write(out, entry.module);
+        write(out, entry.name);
+        out.variable(entry.number);
+    }
+    image::Image whole;
+    whole.code = program.code;
+    out.raw(image::encode(whole));
+    return out.bytes();
+}
+
+std::optional<StoredProgram> storedProgramOf(std::string_view bytes) {
+    std::optional<StoredProgram> program;
+    (void)basic::attempt([&] { program = read(image::Reader{bytes}); });
+    return program;
+}
+
+} // namespace cli
