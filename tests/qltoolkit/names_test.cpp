@@ -388,7 +388,7 @@ TEST(Names, LSetBetweenTypesTakesOnlyPlainBytes) {
     const std::string types =
         "Private Type Plain\nN As Integer: T As String * 2: A(3) As Byte\nEnd Type\n"
         "Private Type Outer\nInner As Plain\nEnd Type\nPrivate Type Text\nT As String\nEnd Type\n"
-        "Private Type Dynamic\nInner As Plain: A() As Byte\nEnd Type\nPrivate Type Any1\nV\nEnd Type\n"
+        "Private Type Dynamic\nInner As Plain: A() As Byte\nEnd Type\nPrivate Type Any1\nV As Variant\nEnd Type\n"
         "Sub A()\nDim p As Plain, o As Outer, t As Text, d As Dynamic, v As Any1, same As Text, s$\n";
     EXPECT_THAT(messagesOf(types + "LSet p = o\nLSet o = p\nLSet t = same\nEnd Sub"), IsEmpty());
     for (const std::string line : {"LSet p = t", "LSet d = p", "LSet v = o", "LSet p = s", "RSet p = o", "LSet s = p"})

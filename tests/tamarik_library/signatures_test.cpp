@@ -17,6 +17,7 @@ const std::map<std::string_view, std::string_view> kOthers{
     {"Debug", "the compiler knows its members"},
     {"Spc", "a part of Print"},
     {"Tab", "a part of Print"},
+    {"VarPtr", "given a reference of any type"},
 };
 
 std::vector<image::SlotType> parametersOf(const Callable& callable) {

@@ -1,6 +1,7 @@
 // Calls of procedures of the project, and of members that are found by name.
 #include "Basic/error_numbers.h"
 #include "Components/QLToolkit/code/emitter.h"
+#include <algorithm>
 
 namespace qltoolkit {
 
@@ -86,7 +87,11 @@ Value Emitter::call(const Callable& callable, const Span<Argument>& given, const
         out_.extra(callable.number);
     }
     words(list);
+    const bool copies = std::ranges::any_of(
+        list, [](const PassedArgument& each) { return each.storedTo.has_value() || !each.elements.empty(); });
+    if (copies) out_.emit(Op::StoreBack);
     storeBack(list);
+    if (copies) out_.emit(Op::EndStoreBack);
     return result;
 }
 

@@ -65,6 +65,7 @@ void Execution::enterHandler(Frame& of) {
     // What can fail is done first.
     RareFrame* const state = of.mode == ErrorMode::GoTo ? &rare(of) : nullptr;
     unwind(&of);
+    if (of.rare) of.rare->raising.reset();
     clearManaged(heap, of.base, of.procedure->temporaries);
     session.err = std::move(noted_);
     if (session.err.source.empty()) session.err.source = "VBAProject";
@@ -104,6 +105,24 @@ const std::uint32_t* Execution::returnSub() {
     return to;
 }
 
+bool Execution::storeBack(const Frame& handler) {
+    for (Frame* caller = frame - 1; caller >= &handler; --caller) {
+        const bool storesBack =
+            caller->procedure->info && image::Word(*caller->ip).op == std::uint8_t(image::Op::StoreBack);
+        if (!storesBack) continue;
+        RareFrame& state = rare(*caller); // what can fail is done first
+        unwind(caller);
+        state.raising = std::move(noted_);
+        return true;
+    }
+    return false;
+}
+
+bool Execution::raiseAgain() noexcept {
+    noted_ = std::move(*frame->rare->raising);
+    return dispatchError();
+}
+
 bool Execution::dispatchError() noexcept {
     for (int attempts = 0; attempts < 2; ++attempts) {
         try {
@@ -116,10 +135,12 @@ bool Execution::dispatchError() noexcept {
 }
 
 bool Execution::findHandler() {
+    // An error while arguments are stored back replaces that of the call.
+    if (frame->rare) frame->rare->raising.reset();
     describeNoted();
     for (Frame* at = frame;; --at) {
         if (takesErrors(*at)) {
-            enterHandler(*at);
+            if (!storeBack(*at)) enterHandler(*at);
             return true;
         }
         if (isBarrier(*at)) break;

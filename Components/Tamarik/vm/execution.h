@@ -99,6 +99,8 @@ struct Execution {
     /// Finds the handler of the error that `fail` noted, or ends the run, which it reports by false. Without memory for that,
     /// the error becomes error 7.
     bool dispatchError() noexcept;
+    /// Ends the storing back after a failed call: as dispatchError, with the call's error.
+    bool raiseAgain() noexcept;
     /// Ends the run where a debugger would stop it: at a Debug.Assert or Stop.
     void stop(std::string_view reason);
     /// Where the program is, then the callers.
@@ -128,6 +130,8 @@ private:
     [[nodiscard]] RareFrame* newRare();
     [[nodiscard]] const std::uint32_t* statementAt(const Frame& of, const std::uint32_t* at, bool next) const;
     void enterHandler(Frame& of);
+    /// Continues where the arguments of a failed call are stored back, in a frame above the handler's; false if there is none.
+    bool storeBack(const Frame& handler);
 
     std::unique_ptr<Slot[], FreeMemory> values_;
     std::unique_ptr<Frame[], FreeMemory> frames_;

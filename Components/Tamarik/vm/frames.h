@@ -4,6 +4,7 @@
 #include "Components/Tamarik/vm/program.h"
 #include "Components/Tamarik/vm/task.h"
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace tamarik {
@@ -25,9 +26,10 @@ struct RareFrame {
     std::vector<const std::uint32_t*> returns; ///< of GoSub
     std::unique_ptr<Task> task;
     Object* terminating = nullptr;
-    Counted* pending = nullptr;      ///< what waits until Terminate has run
-    ErrorState err;                  ///< Err before Terminate
-    std::unique_ptr<RareFrame> next; ///< of those that no frame uses
+    Counted* pending = nullptr;        ///< what waits until Terminate has run
+    ErrorState err;                    ///< Err before Terminate
+    std::optional<ErrorState> raising; ///< of a call that failed, while its arguments are stored back
+    std::unique_ptr<RareFrame> next;   ///< of those that no frame uses
 };
 
 struct Frame {
