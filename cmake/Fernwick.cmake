@@ -5,6 +5,7 @@ option(FERNWICK_BENCH "Build the benchmarks" OFF)
 option(FERNWICK_WORKBENCH "Build the desktop, which needs Qt 6" ON)
 option(FERNWICK_CHECK_HEADERS "Make a target that compiles each header alone" OFF)
 option(FERNWICK_FUZZ "Build the fuzz targets (clang)" OFF)
+option(FERNWICK_SLOT_TAGS "Check the types of all operands while compiled code runs: for the fuzz targets" OFF)
 option(FERNWICK_RUNTIME_ONLY "Build only the runtime, which needs nothing but the standard library: for other machines" OFF)
 
 set(CMAKE_CXX_STANDARD 20)

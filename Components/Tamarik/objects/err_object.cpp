@@ -13,9 +13,14 @@ constexpr std::int32_t kMostErrorNumber = 65535;
 std::string utf8Of(MemberCall& call, std::size_t argument) {
     if (call[argument].isMissing()) return {};
     TextBlock* const text = textOf(call.session.heap, call[argument]);
-    std::string utf8 = toUtf8(unitsOf(text));
-    release(call.session.heap, text);
-    return utf8;
+    try {
+        std::string utf8 = toUtf8(unitsOf(text));
+        release(call.session.heap, text);
+        return utf8;
+    } catch (...) {
+        release(call.session.heap, text);
+        throw;
+    }
 }
 
 Variant textResult(MemberCall& call, std::string_view utf8) { return ofText(makeTextOfUtf8(call.session.heap, utf8)); }

@@ -55,11 +55,17 @@ TextBlock* textOf(Heap& heap, const Variant& v) {
 
 std::u16string printedText(const Variant& v) {
     if (v.kind == kNull) return u"Null";
+    if (v.kind == kString) return std::u16string(unitsOf(v.text));
     Heap heap;
     TextBlock* const text = textOf(heap, v);
-    std::u16string printed(unitsOf(text));
-    if (v.kind != kString) release(heap, text);
-    if (v.kind == kString && text) --text->count;
+    std::u16string printed;
+    try {
+        printed = unitsOf(text);
+    } catch (...) {
+        release(heap, text);
+        throw;
+    }
+    release(heap, text);
     if (!isPrintedAsNumber(v)) return printed;
     if (printed.front() != u'-') printed.insert(0, 1, u' ');
     return printed + u' ';

@@ -8,6 +8,7 @@
 #include "Components/Tamarik/vm/frames.h"
 #include "Components/Tamarik/vm/run_error.h"
 #include "Components/Tamarik/vm/run_state.h"
+#include "Components/Tamarik/vm/slot_tags.h"
 #include <array>
 #include <cstdlib>
 #include <memory>
@@ -66,6 +67,9 @@ struct Execution {
     Connections connections;
     std::array<CallSite, kCallSites> callSites;
     std::unordered_map<std::uint64_t, const image::ClassMember*> memberCache; ///< by class, name and use
+#ifdef FERNWICK_SLOT_TAGS
+    SlotTags tags;
+#endif
     WaitTask* waiting = nullptr;      ///< what the host has to answer, while the state is Waiting
     std::vector<std::uint32_t> toRun; ///< procedures that the host wants run, the next one last
 
