@@ -30,7 +30,7 @@ struct Counts {
                      static_cast<unsigned long long>(refused), static_cast<unsigned long long>(ran));
     }
     void countRun() {
-        constexpr std::uint64_t kShown = 100'000;
+        constexpr std::uint64_t kShown = 10'000;
         if (++ran % kShown == 0) show();
     }
     ~Counts() { show(); }
