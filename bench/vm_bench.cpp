@@ -1,7 +1,7 @@
 // Speed of the machine: programs assembled by hand, timed by processor time. Compare with bench/vm_bench.lua.
 // Usage: vm_bench [switch]
 #include "Components/Tamarik/functions/standard_natives.h"
-#include "Components/Tamarik/vm/machine.h"
+#include "Components/Tamarik/machine/machine.h"
 #include "tests/support/code_builder.h"
 #include <cstdio>
 #include <ctime>

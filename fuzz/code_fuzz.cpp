@@ -3,7 +3,7 @@
 #include "Components/Image/image.h"
 #include "Components/Image/verify/verify.h"
 #include "Components/Tamarik/functions/standard_natives.h"
-#include "Components/Tamarik/vm/run_without_window.h"
+#include "Components/Tamarik/machine/run_without_window.h"
 #include "fuzz/repaired_header.h"
 #include "tests/qltoolkit/checked_program.h"
 

@@ -4,7 +4,7 @@
 #include "Components/Image/image.h"
 #include "Components/Image/listing/disassemble.h"
 #include "Components/Tamarik/functions/standard_natives.h"
-#include "Components/Tamarik/vm/machine.h"
+#include "Components/Tamarik/machine/machine.h"
 #include "fuzz/repaired_header.h"
 #include "tests/support/random_code.h"
 #include <cstdio>

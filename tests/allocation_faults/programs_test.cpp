@@ -1,6 +1,6 @@
 // Each allocation of a program fails once: the program gets error 7, which it can handle, or is not loaded.
 #include "Components/Tamarik/functions/standard_natives.h"
-#include "Components/Tamarik/vm/run_without_window.h"
+#include "Components/Tamarik/machine/run_without_window.h"
 #include "tests/allocation_faults/chosen_programs.h"
 #include "tests/allocation_faults/failing_new.h"
 #include "tests/language_programs/compiled_case.h"

@@ -69,8 +69,9 @@ TEST(Listing, ShowsOperands) {
     EXPECT_EQ(instructionOf({encode(Op::CallInterface, image::kNoSlot), 1}), "CallInterface           -, Shape.Draw()");
     EXPECT_EQ(instructionOf({encode(Op::CallNative, kT, 0, 1), 0, encodeArgument(Pass::Text, kT)}),
               "CallNative              s4, Left(Text s4)");
-    EXPECT_EQ(instructionOf({encode(Op::VariantToLong, kL, kV, std::uint32_t(BaseType::Integer) | image::kTakesErrors)}),
-              "VariantToLong           s0, s5, Integer or error");
+    EXPECT_EQ(
+        instructionOf({encode(Op::VariantToLong, kL, kV, std::uint32_t(BaseType::Integer) | image::kTakesErrors)}),
+        "VariantToLong           s0, s5, Integer or error");
     EXPECT_EQ(instructionOf({encode(Op::CallLate, kV, kV, 1), image::kNone, 2 | 1 << 8, 0, kV}),
               "CallLate                s5, s5, Let default member(s5), named " + text(0));
 }

@@ -1,6 +1,6 @@
 // Each small program prints what the language prescribes.
 #include "Components/Tamarik/functions/standard_natives.h"
-#include "Components/Tamarik/vm/run_without_window.h"
+#include "Components/Tamarik/machine/run_without_window.h"
 #include "tests/language_programs/compiled_case.h"
 #include <algorithm>
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 // Programs wait for their host without keeping it: run returns, and continues when the question is answered.
 #include "Components/QLToolkit/check.h"
 #include "Components/Tamarik/functions/standard_natives.h"
-#include "Components/Tamarik/vm/run_without_window.h"
+#include "Components/Tamarik/machine/run_without_window.h"
 #include <gtest/gtest.h>
 #include <memory>
 

@@ -28,7 +28,7 @@ protected:
     }
 
     std::string printed;
-    basic::Date time{37622.5};      ///< January 1, 2003, noon
+    basic::Date time{37622.5}; ///< January 1, 2003, noon
     Session session;
     Natives natives;
 

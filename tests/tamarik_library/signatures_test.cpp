@@ -13,11 +13,8 @@ namespace {
 
 /// Members that are not functions of the runtime.
 const std::map<std::string_view, std::string_view> kOthers{
-    {"CallByName", "a call by name"},
-    {"Debug", "the compiler knows its members"},
-    {"Spc", "a part of Print"},
-    {"Tab", "a part of Print"},
-    {"VarPtr", "given a reference of any type"},
+    {"CallByName", "a call by name"}, {"Debug", "the compiler knows its members"}, {"Spc", "a part of Print"},
+    {"Tab", "a part of Print"},       {"VarPtr", "given a reference of any type"},
 };
 
 std::vector<image::SlotType> parametersOf(const Callable& callable) {

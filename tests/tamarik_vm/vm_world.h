@@ -1,7 +1,7 @@
 #pragma once
 // A program built by hand, run in both forms of the interpreter.
 #include "Components/Tamarik/functions/standard_natives.h"
-#include "Components/Tamarik/vm/machine.h"
+#include "Components/Tamarik/machine/machine.h"
 #include "tests/support/code_builder.h"
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -2,7 +2,7 @@
 // Where a program spends its instructions.
 #include "Apps/fernwick/output/json_output.h"
 #include "Apps/fernwick/programs/project_program.h"
-#include "Components/Tamarik/vm/machine.h"
+#include "Components/Tamarik/machine/machine.h"
 #include <cstdint>
 #include <map>
 #include <string>

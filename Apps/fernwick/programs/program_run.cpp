@@ -3,8 +3,8 @@
 #include "Apps/fernwick/options/refusal.h"
 #include "Apps/fernwick/run/interruption.h"
 #include "Components/Tamarik/functions/standard_natives.h"
+#include "Components/Tamarik/machine/run_without_window.h"
 #include "Components/Tamarik/ports/surroundings.h"
-#include "Components/Tamarik/vm/run_without_window.h"
 #include <algorithm>
 #include <limits>
 

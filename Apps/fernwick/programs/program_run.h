@@ -1,6 +1,6 @@
 #pragma once
 // Runs a program in slices, between which it can be stopped.
-#include "Components/Tamarik/vm/machine.h"
+#include "Components/Tamarik/machine/machine.h"
 #include <cstdint>
 #include <functional>
 #include <optional>

@@ -3,8 +3,8 @@
 #include "Components/Image/image.h"
 #include "Components/Image/verify/verify.h"
 #include "Components/Tamarik/functions/standard_natives.h"
+#include "Components/Tamarik/machine/run_without_window.h"
 #include "Components/Tamarik/ports/folder_store.h"
-#include "Components/Tamarik/vm/run_without_window.h"
 #include <fstream>
 #include <iostream>
 #include <iterator>
@@ -67,7 +67,8 @@ tamarik::MachineOptions ImageRun::options(std::FILE* errors) const {
 int ImageRun::runProgram(std::shared_ptr<const tamarik::Program> program, std::FILE* errors) const {
     tamarik::Machine machine(std::move(program), natives_, options(errors));
     machine.start();
-    const auto state = tamarik::runWithoutWindow(machine, arguments_.budget.value_or(std::numeric_limits<std::int64_t>::max()));
+    const auto state =
+        tamarik::runWithoutWindow(machine, arguments_.budget.value_or(std::numeric_limits<std::int64_t>::max()));
     std::fflush(stdout);
     if (const auto& error = machine.error()) write(tamarik::textOf(*error) + "\n", errors);
     if (state == tamarik::RunState::StoppedByBudget)

@@ -1,8 +1,8 @@
 #pragma once
 // Loads images, verifies and runs them.
 #include "Apps/tamarik/headless/arguments.h"
+#include "Components/Tamarik/machine/machine.h"
 #include "Components/Tamarik/natives/natives.h"
-#include "Components/Tamarik/vm/machine.h"
 #include <cstdio>
 #include <memory>
 #include <string>

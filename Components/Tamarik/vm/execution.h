@@ -144,8 +144,4 @@ private:
     bool areGlobalsReleased_ = false;
 };
 
-/// Runs until the program ends, waits or has used its budget.
-void interpretByGoto(Execution& machine);
-void interpretBySwitch(Execution& machine);
-
 } // namespace tamarik

@@ -1,6 +1,6 @@
 #pragma once
 // Runs applications for hosts without a window.
-#include "Components/Tamarik/vm/machine.h"
+#include "Components/Tamarik/machine/machine.h"
 
 namespace tamarik {
 

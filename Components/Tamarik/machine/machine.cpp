@@ -1,6 +1,6 @@
-#include "Components/Tamarik/vm/machine.h"
+#include "Components/Tamarik/machine/machine.h"
+#include "Components/Tamarik/machine/interpreter.h"
 #include "Components/Tamarik/values/object.h"
-#include "Components/Tamarik/vm/execution.h"
 #include "Components/Tamarik/vm/wait_task.h"
 #include <algorithm>
 #include <utility>

@@ -1,7 +1,7 @@
-#include "Components/Tamarik/vm/each.h"
+#include "Components/Tamarik/late/each.h"
 #include "Basic/runtime_error.h"
+#include "Components/Tamarik/late/late_call.h"
 #include "Components/Tamarik/objects/walk.h"
-#include "Components/Tamarik/vm/late_call.h"
 #include "Components/Tamarik/vm/slot_values.h"
 #include <utility>
 

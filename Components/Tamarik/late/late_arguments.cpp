@@ -1,4 +1,4 @@
-#include "Components/Tamarik/vm/late_arguments.h"
+#include "Components/Tamarik/late/late_arguments.h"
 #include "Basic/runtime_error.h"
 #include "Components/Tamarik/values/variant_conversion.h"
 #include "Components/Tamarik/values/variant_text.h"

@@ -1,6 +1,6 @@
 #pragma once
 // Members that are found by name while the program runs.
-#include "Components/Tamarik/vm/late_request.h"
+#include "Components/Tamarik/late/late_request.h"
 
 namespace tamarik {
 

@@ -1,7 +1,7 @@
 // The interpreter for compilers without labels as values.
-#include "Components/Tamarik/vm/interpreter_headers.h"
+#include "Components/Tamarik/machine/interpreter_headers.h"
 
 namespace tamarik {
 #define INTERPRET interpretBySwitch
-#include "Components/Tamarik/vm/interpreter.inc"
+#include "Components/Tamarik/machine/interpreter.inc"
 } // namespace tamarik

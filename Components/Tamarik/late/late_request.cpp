@@ -1,4 +1,4 @@
-#include "Components/Tamarik/vm/late_request.h"
+#include "Components/Tamarik/late/late_request.h"
 #include "Basic/case_folding.h"
 #include "Basic/runtime_error.h"
 #include <algorithm>

@@ -1,4 +1,4 @@
-#include "Components/Tamarik/vm/run_without_window.h"
+#include "Components/Tamarik/machine/run_without_window.h"
 
 namespace tamarik {
 

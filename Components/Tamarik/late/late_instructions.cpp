@@ -1,11 +1,11 @@
 // CallLate and CallByName: what the instructions name becomes a request.
 #include "Basic/runtime_error.h"
+#include "Components/Tamarik/late/late_call.h"
 #include "Components/Tamarik/objects/library_object.h"
 #include "Components/Tamarik/values/encoding.h"
 #include "Components/Tamarik/values/variant_conversion.h"
 #include "Components/Tamarik/values/variant_text.h"
 #include "Components/Tamarik/vm/array_operations.h"
-#include "Components/Tamarik/vm/late_call.h"
 #include "Components/Tamarik/vm/slot_values.h"
 #include <array>
 #include <cstdint>

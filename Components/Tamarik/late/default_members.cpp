@@ -1,11 +1,11 @@
-#include "Components/Tamarik/vm/default_members.h"
+#include "Components/Tamarik/late/default_members.h"
 #include "Basic/runtime_error.h"
+#include "Components/Tamarik/late/late_call.h"
 #include "Components/Tamarik/values/rounding.h"
 #include "Components/Tamarik/values/variant_conversion.h"
 #include "Components/Tamarik/values/variant_operators.h"
 #include "Components/Tamarik/values/variant_text.h"
 #include "Components/Tamarik/vm/array_operations.h"
-#include "Components/Tamarik/vm/late_call.h"
 #include "Components/Tamarik/vm/slot_values.h"
 #include <utility>
 
