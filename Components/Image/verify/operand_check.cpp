@@ -121,7 +121,10 @@ void CodeCheck::checkExtra(const Place& place) {
         for (std::size_t i = 1; i < place.words.size(); ++i) markTarget(place.words[i]);
         return;
     case Extra::Slots:
-        if (place.op() == Op::CallByName && place.word.c < 2) refuseHere("has no name or type of call");
+        if (place.op() == Op::CallByName) {
+            if (place.word.c < 2) refuseHere("has no name or type of call");
+            return checkSlots(place, 1, place.word.c, BaseType::Variant);
+        }
         if (place.op() == Op::ReDim) return checkIndexes(place, 1, std::size_t{2} * place.word.c, BaseType::Long);
         return checkIndexes(place, 1, place.word.c, place.op() == Op::FindElement ? BaseType::Long : BaseType::Variant);
     case Extra::TypeAndSlots:

@@ -67,6 +67,7 @@ Value Emitter::load(const Place& place, std::optional<std::uint32_t> target) {
                     *place.entity);
     case PlaceKind::Late: return lateCall(place, LateUse::Get, nullptr, true);
     case PlaceKind::VariantElement: {
+        if (place.indexes.size() > image::kMostDimensions) return fail(basic::kSubscriptOutOfRange, {});
         const Value result{{ValueType::Variant}, temporary({ValueType::Variant})};
         out_.emit(place.isFlat ? Op::VariantRefAt : Op::VariantAt, result.slot, place.object.slot,
                   static_cast<std::uint32_t>(place.indexes.size()));
@@ -162,6 +163,10 @@ void Emitter::store(const Place& place, const Value& value) {
             out_.emit(refOp(place.type, true), value.slot, reference(place).slot, 0);
         break;
     case PlaceKind::VariantElement: {
+        if (place.indexes.size() > image::kMostDimensions) {
+            (void)fail(basic::kSubscriptOutOfRange, {});
+            break;
+        }
         out_.emit(place.isFlat ? Op::StoreVariantRefElement : Op::StoreVariantElement, value.slot, place.object.slot,
                   static_cast<std::uint32_t>(place.indexes.size()));
         out_.halves(place.indexes);
