@@ -2,6 +2,7 @@
 #include "Basic/runtime_error.h"
 #include "Components/Image/image.h"
 #include "Components/Image/image_bytes.h"
+#include <algorithm>
 
 namespace cli {
 
@@ -25,6 +26,11 @@ std::optional<StoredProgram> read(image::Reader in) {
         entry.number = in.variable();
     }
     program.code = image::decode(in.rest()).code;
+    const auto& procedures = program.code.procedures;
+    const bool canStart = std::all_of(program.entries.begin(), program.entries.end(), [&](const auto& entry) {
+        return entry.number < procedures.size() && procedures[entry.number].parameters == 0;
+    });
+    if (!canStart) return std::nullopt;
     return program;
 }
 
