@@ -20,3 +20,10 @@
 #include <cmath>
 #include <limits>
 #include <new>
+
+namespace tamarik {
+
+/// The number that a reference leads to. Elements of arrays of whole numbers take 4 bytes, so it may be no aligned slot.
+inline std::int32_t& numberAt(Slot* slot) { return *reinterpret_cast<std::int32_t*>(slot); }
+
+} // namespace tamarik
