@@ -22,9 +22,11 @@ NEAREST = {
     "Components/QLToolkit": ["qltoolkit"],
     "Components/DesignTargetAccess": ["designtargets"],
     "Components/QLPipe": ["pipes"],
-    "Components/Image": ["qltoolkit", "pipes"],
+    "Components/Image": ["image_code", "qltoolkit", "pipes"],
+    "Components/Tamarik": ["tamarik_vm", "language_programs", "tamarik_library", "tamarik"],
     "Apps/common": ["cli"],
     "Apps/fernwick": ["cli"],
+    "Apps/tamarik": ["tamarik_vm", "language_programs"],
     "Apps/workbench": ["workbench"],
 }
 
