@@ -2,6 +2,7 @@
 import os
 import signal
 import subprocess
+import time
 import unittest
 
 from support import Home
@@ -24,16 +25,21 @@ class Locking(unittest.TestCase):
         return process
 
     def slow_build(self):
-        """A build that has the lock until the file "go" appears."""
-        step = 'sh -c "until [ -e go ]; do sleep 0.05; done"'
+        """A build that has the lock until the file "go" appears; its step runs when this returns."""
+        step = 'sh -c "touch started; until [ -e go ]; do sleep 0.05; done"'
         self.home.fernwick("settings", "set", str(self.project), "PreCompileSteps", step, check=True)
-        process = self.start("build", str(self.project), "--trust-steps", "--verbose")
-        while "running:" not in process.stderr.readline():
+        process = self.start("build", str(self.project), "--trust-steps")
+        self.addCleanup(self.end_step)
+        while not (self.project.parent / "started").exists():
             self.assertIsNone(process.poll())
+            time.sleep(0.01)
         return process
 
-    def let_go(self, process):
+    def end_step(self):
         (self.project.parent / "go").touch()
+
+    def let_go(self, process):
+        self.end_step()
         _, err = process.communicate(timeout=60)
         self.assertEqual(process.returncode, 0, err)
 
@@ -77,10 +83,12 @@ class Locking(unittest.TestCase):
     def test_a_killed_run_leaves_no_lock(self):
         first = self.slow_build()
         first.kill()
-        first.communicate()
-        (self.project.parent / "go").touch()
+        first.wait()
+        # the step outlives its build, and has its standard error still open
         done = self.home.fernwick("build", str(self.project), "--no-wait", "--no-steps")
         self.assertEqual(done.returncode, 0, done.stderr)
+        self.end_step()
+        first.communicate(timeout=60)
 
     def test_a_step_can_use_the_project(self):
         self.home.fernwick("settings", "set", str(self.project), "PostCompileSteps",
