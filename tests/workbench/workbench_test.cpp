@@ -1,4 +1,5 @@
 // The whole desktop over copies of the samples, drawn into memory.
+#include "Apps/workbench/editing/rest.h"
 #include "Apps/workbench/window/commands.h"
 #include "tests/workbench/desktop.h"
 #include <QDockWidget>
@@ -165,6 +166,17 @@ TEST_F(Desktop, ComponentsAreAddedRemovedAndRenamed) {
     project()->VBComponents()->Remove(component("modOther"));
     settle();
     EXPECT_FALSE(entry("modOther"));
+    EXPECT_EQ(window().code().count(), 0);
+}
+
+TEST_F(Desktop, ARemovedComponentIsNotReadWhenItsTextRests) {
+    openSample("HelloWorld");
+    menuItem("&Project", "Add &Module")->trigger();
+    component("Module1")->CodeModule()->InsertLines(1, "' new");
+    settle();
+    QTest::qSleep(2 * workbench::kMillisecondsOfRest); // as when another program takes the processor
+    project()->VBComponents()->Remove(component("Module1"));
+    settle();
     EXPECT_EQ(window().code().count(), 0);
 }
 

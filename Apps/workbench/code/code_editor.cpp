@@ -137,7 +137,7 @@ void CodeEditor::zoomTo(int points) {
 void CodeEditor::keepMarks() { shared_.marks->keep(component_, ownMarks_.placed()); }
 
 void CodeEditor::rested() {
-    listProcedures();
+    (void)basic::attempt([this] { listProcedures(); }); // the component may be removed; then this closes soon
     ownMarks_.checkBreakpoints();
     keepMarks();
 }
