@@ -122,7 +122,6 @@ void ProjectInsight::adopt(const Key& project, std::shared_ptr<qltoolkit::Snapsh
     state.snapshot = std::move(snapshot);
     state.isRunning = false;
     if (state.isStale) rest_.start();
-    renewed.raise();
 }
 
 std::shared_ptr<const qltoolkit::SourceText> ProjectInsight::sourceOf(const Component& component) {

@@ -42,8 +42,6 @@ public:
     Program programOf(const vbide::Ref<vbide::VBProject>& project);
     /// The threads in which snapshots are made.
     QThreadPool& workers() { return workers_; }
-    /// Raised when a new snapshot can be used.
-    fernwick::Event<> renewed;
 
 private:
     using Key = std::weak_ptr<vbide::VBProject>;
