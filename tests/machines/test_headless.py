@@ -5,6 +5,16 @@ import sys
 import tempfile
 import unittest
 
+USE = """\
+Usage: tamarik-headless [OPTION ...] IMAGE [ARGUMENT ...]
+       tamarik-headless [OPTION ...] --each IMAGE ...
+Runs a compiled application. With --each runs several, each between its name and its status.
+  --budget N      stop after about N instructions
+  --files FOLDER  what the application's files are in; without it, they are lost at the end
+  --seed N        the first number of Rnd's sequence
+  --switch        use the portable form of the interpreter
+"""
+
 GOOD, PROGRAM_ERRORS, WRONG_USE, MACHINE_TROUBLE = range(4)
 
 
@@ -42,31 +52,40 @@ class Headless(unittest.TestCase):
     def test_stops_at_the_budget(self):
         status, _, errors = self.run_program("--budget", 10, self.image("Endless recursion"))
         self.assertEqual(status, MACHINE_TROUBLE)
-        self.assertIn("stopped by its budget", errors)
+        self.assertEqual(errors, "tamarik-headless: The program was stopped by its budget.\n")
+
+    def test_begins_the_sequence_of_rnd_with_the_seed(self):
+        random = self.image("Rnd begins with the documented number")
+        self.assertEqual(self.run_program(random)[1], self.run_program("--seed", 0x50000, random)[1])
+        self.assertNotEqual(self.run_program(random)[1], self.run_program("--seed", 7, random)[1])
+
+    def refused(self, path, status, reason, *options):
+        self.assertEqual(self.run_program(*options, path), (status, "", f"tamarik-headless: {path}: {reason}\n"))
 
     def test_refuses_a_damaged_image(self):
         damaged = self.folder / "damaged"
         damaged.write_bytes(self.image("Bounds with To").read_bytes()[:-1] + b"\xff")
-        status, output, errors = self.run_program(damaged)
-        self.assertEqual((status, output), (MACHINE_TROUBLE, ""))
-        self.assertIn(str(damaged), errors)
+        self.refused(damaged, MACHINE_TROUBLE, "The compiled file is damaged: its checksum is wrong.")
         damaged.unlink()
 
     def test_refuses_what_cannot_be_read(self):
-        self.assertEqual(self.run_program(self.folder / "missing")[0], WRONG_USE)
+        self.refused(self.folder / "missing", WRONG_USE, "The file cannot be read.")
+        self.refused(self.folder, WRONG_USE, "The file cannot be read.")
 
     def test_refuses_a_wrong_command_line(self):
-        for words in ([], ["--unknown", "x"], ["--budget", "x", "y"], ["--each"]):
-            status, output, errors = self.run_program(*words)
-            self.assertEqual((status, output), (WRONG_USE, ""), words)
-            self.assertIn("Usage:", errors)
+        for words in ([], ["--unknown", "x"], ["--budget", "x", "y"], ["--seed", "7x", "y"], ["--each"], ["--files"]):
+            self.assertEqual(self.run_program(*words), (WRONG_USE, "", USE), words)
 
     def test_keeps_files_in_a_folder(self):
         files = self.folder / "files"
         files.mkdir()
         self.assertEqual(self.run_program("--files", files, self.image("Print and Line Input"))[0], GOOD)
         self.assertTrue(any(files.iterdir()))
-        self.assertEqual(self.run_program("--files", files / "missing", self.image("Bounds with To"))[0], MACHINE_TROUBLE)
+        self.refused(self.image("Bounds with To"), MACHINE_TROUBLE,
+                     f"The folder {files / 'missing'} cannot hold its files: Path not found.", "--files", files / "missing")
+
+    def test_hands_the_arguments_to_the_program(self):
+        self.assertEqual(self.run_program(self.image("Bounds with To"), "--each", "x")[:2], (GOOD, "-2  2  5 \n"))
 
 
 PROGRAM, MAKER = sys.argv[1:3]

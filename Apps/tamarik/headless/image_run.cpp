@@ -24,10 +24,12 @@ struct Refused {
 };
 
 std::string readWhole(const std::string& path) {
+    const Refused refused{kWrongUse, "The file cannot be read."};
     std::ifstream in(path, std::ios::binary);
-    std::string bytes{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-    if (!in.is_open() || in.bad()) throw Refused{kWrongUse, "The file cannot be read."};
-    return bytes;
+    if (!in.is_open()) throw refused;
+    try {
+        return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+    } catch (const std::ios_base::failure&) { throw refused; } // such as a folder
 }
 
 std::shared_ptr<const tamarik::Program> load(const std::string& path) {
@@ -42,7 +44,11 @@ void write(std::string_view text, std::FILE* to) { std::fwrite(text.data(), 1, t
 
 std::shared_ptr<tamarik::FileStore> storeIn(const std::string& folder) {
 #ifdef __linux__
-    return std::make_shared<tamarik::FolderStore>(folder);
+    try {
+        return std::make_shared<tamarik::FolderStore>(folder);
+    } catch (const basic::RuntimeError& error) {
+        throw Refused{kMachineTrouble, "The folder " + folder + " cannot hold its files: " + error.Description + "."};
+    }
 #else
     throw Refused{kWrongUse, "This machine has no folder " + folder + "."};
 #endif
