@@ -2,6 +2,7 @@
 // The whole desktop over copies of the samples, drawn into memory.
 #include "Apps/workbench/editing/scintilla.h"
 #include "Host/model/bars/bars.h"
+#include "tests/workbench/desktop_user.h"
 #include "tests/workbench/running_bench.h"
 #include <QMessageBox>
 #include <QTreeWidgetItemIterator>
@@ -46,6 +47,7 @@ protected:
         answer([&boxes](QDialog& window) {
             auto* box = dynamic_cast<QMessageBox*>(&window);
             if (!box) return click(window, "btnYes");
+            expectPlainText(*box);
             boxes.push_back(box->text().toStdString());
             box->button(QMessageBox::Ok)->click();
         });

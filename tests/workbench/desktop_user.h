@@ -3,9 +3,11 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDialog>
+#include <QMessageBox>
 #include <QTest>
 #include <QTimer>
 #include <functional>
+#include <gtest/gtest.h>
 #include <type_traits>
 
 namespace test {
@@ -20,6 +22,11 @@ void whenShown(std::type_identity_t<std::function<void(Window&)>> act) {
         else
             whenShown<Window>(act);
     });
+}
+
+/// A box may show the name of a file or project, in which "<" begins no markup.
+inline void expectPlainText(const QMessageBox& box) {
+    EXPECT_EQ(box.textFormat(), Qt::PlainText) << box.text().toStdString();
 }
 
 inline void click(QWidget& window, const char* name) {

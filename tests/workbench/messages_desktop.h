@@ -4,6 +4,7 @@
 #include "Apps/workbench/editing/scintilla.h"
 #include "Apps/workbench/messages/message_list.h"
 #include "Apps/workbench/messages/messages_view.h"
+#include "tests/workbench/desktop_user.h"
 #include "tests/workbench/running_bench.h"
 #include <QAction>
 #include <QClipboard>
@@ -109,6 +110,7 @@ protected:
         QObject::connect(&answers, &QTimer::timeout, [&boxes] {
             auto* box = dynamic_cast<QMessageBox*>(QApplication::activeModalWidget());
             if (!box || !box->isVisible()) return;
+            expectPlainText(*box);
             boxes.push_back(box->text().toStdString());
             box->button(QMessageBox::Ok)->click();
         });

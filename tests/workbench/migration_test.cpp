@@ -3,6 +3,7 @@
 #include "Host/model/projects.h"
 #include "tests/workbench/keyboard_access.h"
 #include "tests/workbench/open_desktop.h"
+#include "tests/workbench/window_words.h"
 #include <QClipboard>
 #include <QComboBox>
 #include <QFileDialog>
@@ -50,6 +51,14 @@ protected:
         QTest::keyClick(&tree(report), Qt::Key_Return);
         settle();
     }
+    void saveAs(MigrationReport& report, const std::string& path) {
+        answer([](QMessageBox& box) { box.accept(); },
+               [path](QDialog& dialog) {
+                   dialog.findChild<QLineEdit*>("fileNameEdit")->setText(QString::fromStdString(path));
+                   QMetaObject::invokeMethod(&dialog, "accept");
+               });
+        report.findChild<QPushButton*>("saveMigration")->click();
+    }
     void openShop() {
         open(test::SampleProject().module("modShop", "Sub Main()\r\n  Shell \"notepad.exe\"\r\nEnd Sub\r\n"));
     }
@@ -67,6 +76,14 @@ TEST_F(MigrationDesktop, ListsPlacesInGroupsWithWhatToUseInstead) {
                             "Shell | modShop.bas:3 | Devices start no other programs; call a procedure of the project "
                             "instead"));
     test::expectKeyboardAccess(report);
+    report.close();
+}
+
+TEST_F(MigrationDesktop, HasItsWords) {
+    openShop();
+    auto& report = openReport();
+    EXPECT_EQ(report.size(), QSize(940, 520).expandedTo(report.minimumSizeHint()));
+    test::expectWords(report, "migration_report");
     report.close();
 }
 
@@ -136,17 +153,19 @@ TEST_F(MigrationDesktop, TheLineOfThePlaceLeavesOutHiddenAttributes) {
 TEST_F(MigrationDesktop, SaveAsWritesTheText) {
     openShop();
     auto& report = openReport();
-    const auto path = folder / "report.txt";
-    answer([](QMessageBox& box) { box.accept(); },
-           [&](QDialog& dialog) {
-               dialog.findChild<QLineEdit*>("fileNameEdit")->setText(QString::fromStdString(path));
-               QMetaObject::invokeMethod(&dialog, "accept");
-           });
-    report.findChild<QPushButton*>("saveMigration")->click();
+    saveAs(report, folder / "report.txt");
     report.findChild<QPushButton*>("copyMigration")->click();
     EXPECT_EQ(folder.read("report.txt"), QGuiApplication::clipboard()->text().toStdString());
     EXPECT_THAT(folder.read("report.txt"), HasSubstr("modShop.bas:3: Shell"));
     EXPECT_TRUE(boxes.empty());
+    report.close();
+}
+
+TEST_F(MigrationDesktop, AFileThatCannotBeWrittenIsNamed) {
+    openShop();
+    auto& report = openReport();
+    saveAs(report, "/proc/report.txt");
+    EXPECT_THAT(boxes, ElementsAre(testing::StartsWith("/proc/report.txt: ")));
     report.close();
 }
 

@@ -2,6 +2,7 @@
 // The whole desktop with a small project on disk, for tests of code windows.
 #include "Apps/workbench/base/text.h"
 #include "Apps/workbench/editing/scintilla.h"
+#include "tests/workbench/desktop_user.h"
 #include "tests/workbench/running_bench.h"
 #include <QMessageBox>
 #include <QTest>
@@ -49,6 +50,7 @@ protected:
             if (!dialog || !dialog->isVisible() || dialog->findChildren<QAbstractButton*>().isEmpty()) return;
             auto* const asked = dynamic_cast<QMessageBox*>(dialog);
             if (!asked) return form(*dialog);
+            expectPlainText(*asked);
             boxes.push_back(asked->text().toStdString() + asked->informativeText().toStdString());
             box(*asked);
         });

@@ -2,6 +2,7 @@
 #include "Apps/workbench/references/libraries_dialog.h"
 #include "tests/workbench/keyboard_access.h"
 #include "tests/workbench/open_desktop.h"
+#include "tests/workbench/window_words.h"
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
@@ -149,6 +150,19 @@ TEST_F(Libraries, AFileIsReadWhenTheDialogIsConfirmed) {
     settle(100);
     ASSERT_EQ(boxes.size(), 1u);
     EXPECT_THAT(boxes.front(), HasSubstr("none.dll"));
+}
+
+TEST_F(Libraries, HaveTheirWords) {
+    openWith({kStdOle, kGone});
+    edit("Refere&nces...", [](LibrariesDialog& dialog) {
+        EXPECT_EQ(dialog.size(), QSize(520, 420).expandedTo(dialog.minimumSizeHint()));
+        test::expectWords(dialog, "references", {{FERNWICK_SOURCE_DIR, "..."}});
+        dialog.reject();
+    });
+    edit("C&omponents...", [](LibrariesDialog& dialog) {
+        test::expectWords(dialog, "components_dialog", {{FERNWICK_SOURCE_DIR, "..."}});
+        dialog.reject();
+    });
 }
 
 /// Pictures for review.

@@ -2,6 +2,7 @@
 #include "Apps/workbench/base/theme.h"
 #include "Apps/workbench/renaming/rename_dialog.h"
 #include "tests/workbench/open_desktop.h"
+#include "tests/workbench/window_words.h"
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -123,6 +124,13 @@ TEST_F(Names, ReferencesAreThoseOfThePresentText) {
 TEST_F(Names, WhatIsNotKnownHasNoReferences) {
     EXPECT_TRUE(findAll("modB", 2, 8).empty());
     EXPECT_EQ(summary(), "What \"Total\" means here is not known");
+}
+
+TEST_F(Names, TheDialogHasItsWords) {
+    rename("modA", 0, 8, [](workbench::RenameDialog& dialog) {
+        EXPECT_EQ(dialog.size(), QSize(620, 420).expandedTo(dialog.minimumSizeHint()));
+        test::expectWords(dialog, "rename");
+    });
 }
 
 TEST_F(Names, ReferencesAreStopped) {

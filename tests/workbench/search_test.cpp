@@ -1,6 +1,7 @@
 // Searching all projects, with a list of results.
 #include "Apps/workbench/search/result_list.h"
 #include "tests/workbench/open_desktop.h"
+#include "tests/workbench/window_words.h"
 #include <QComboBox>
 #include <QDockWidget>
 #include <QLabel>
@@ -54,6 +55,12 @@ TEST_F(Searching, ListsTheLinesOfAllProjects) {
     EXPECT_TRUE(list().hasFocus() || !window().isActiveWindow());
     search("100%2");
     EXPECT_EQ(summary(), "\"100%2\": 0 lines in 0 modules");
+}
+
+TEST_F(Searching, TheListHasItsWords) {
+    openTwo();
+    search("x");
+    test::expectWords(window().results(), "search_results");
 }
 
 TEST_F(Searching, EnterAndDoubleClickLeadToTheLine) {

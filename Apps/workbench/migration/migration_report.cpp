@@ -1,6 +1,7 @@
 #include "Apps/workbench/migration/migration_report.h"
 #include "Apps/common/machine.h"
 #include "Apps/common/migration_text.h"
+#include "Apps/workbench/base/message_box.h"
 #include "Apps/workbench/base/text.h"
 #include "Host/system/environment.h"
 #include <QBoxLayout>
@@ -194,7 +195,7 @@ void MigrationReport::save() {
     QSaveFile file(path);
     const auto bytes = QByteArray::fromStdString(apps::textOf(found_));
     const bool isSaved = file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
-    if (!isSaved) QMessageBox::warning(this, windowTitle(), QString("%1: %2").arg(path, file.errorString()));
+    if (!isSaved) showBox(this, QMessageBox::Warning, QString("%1: %2").arg(path, file.errorString()));
 }
 
 void MigrationReport::keyPressEvent(QKeyEvent* event) {

@@ -56,6 +56,7 @@ void showProblems(const std::vector<host::LoadProblem>& problems, QWidget* windo
     QMessageBox box(QMessageBox::Warning, kTitle,
                     "Parts of the project could not be loaded:\n\n" + lines.mid(0, kMostShown).join('\n'),
                     QMessageBox::NoButton, window);
+    box.setTextFormat(Qt::PlainText);
     addButtons(box, QMessageBox::Ok);
     if (lines.size() > kMostShown) box.setDetailedText(lines.join('\n'));
     box.exec();
