@@ -68,9 +68,9 @@ void xdotool(const QStringList& arguments) {
 
 void findWindow(const QString& name, const QStringList& action) {
     constexpr int kMostTries = 3; // a search fails when another window closes meanwhile
-    const auto arguments = QStringList{"search", "--sync", "--onlyvisible", "--name", name} + action;
+    const auto arguments = QStringList{"60", "xdotool", "search", "--sync", "--onlyvisible", "--name", name} + action;
     int status = 1;
-    for (int tries = 0; status != 0 && tries < kMostTries; ++tries) status = QProcess::execute("xdotool", arguments);
+    for (int tries = 0; status != 0 && tries < kMostTries; ++tries) status = QProcess::execute("timeout", arguments);
     ASSERT_EQ(status, 0) << name.toStdString();
 }
 

@@ -1,8 +1,11 @@
 // The window's layout, and the program as started by the desktop.
+#include "Apps/common/version.h"
 #include "tests/workbench_x11/x_desktop.h"
 #include <QDockWidget>
 #include <QProcess>
+#include <QTemporaryDir>
 #include <QToolBar>
+#include <gmock/gmock.h>
 #include <set>
 
 using namespace test;
@@ -111,10 +114,39 @@ TEST_F(Window, TheExplorersMenuActsOnItsEntry) {
                [this] { return window().code().current() && window().code().tabText(0) == "clsPerson"; });
 }
 
+TEST(Program, DescribesItsCommandLine) {
+    const auto text = [](const QString& option) {
+        QProcess program;
+        program.start(qEnvironmentVariable("FERNWICK_WORKBENCH", FERNWICK_WORKBENCH_PROGRAM), {option});
+        EXPECT_TRUE(program.waitForFinished());
+        EXPECT_EQ(program.exitCode(), 0);
+        return program.readAllStandardOutput().toStdString();
+    };
+    EXPECT_EQ(text("--version"), std::string("workbench ") + apps::kVersion + "\n");
+    EXPECT_THAT(text("--help"), testing::EndsWith(R"([options] [PROJECT...]
+Turns Visual Basic 6 projects into applications for handhelds.
+
+Options:
+  -h, --help     Displays help on commandline options.
+  --help-all     Displays help including Qt specific options.
+  -v, --version  Displays version information.
+
+Arguments:
+  PROJECT        the project or group to open
+)"));
+}
+
 TEST(Program, OpensTheGivenProjectAndEndsWithItsWindow) {
     QProcess program;
     program.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    program.start(FERNWICK_WORKBENCH_PROGRAM, {FERNWICK_SOURCE_DIR "/samples/HelloWorld/HelloWorld.vbp"});
+    const QTemporaryDir home; // of a first start
+    auto environment = QProcessEnvironment::systemEnvironment();
+    for (const auto* const place :
+         {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME", "FERNWICK_MACHINE_STORE"})
+        environment.insert(place, home.path());
+    program.setProcessEnvironment(environment);
+    program.start(environment.value("FERNWICK_WORKBENCH", FERNWICK_WORKBENCH_PROGRAM),
+                  {FERNWICK_SOURCE_DIR "/samples/HelloWorld/HelloWorld.vbp"});
     // the introduction of the first start comes before the project
     findWindow("^Introduction to Fernwick", {"windowactivate", "--sync"});
     press({"alt+F4"});
