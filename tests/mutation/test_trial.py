@@ -1,0 +1,74 @@
+"""A change is linked into the programs that contain it, and into nothing else."""
+import pathlib
+import subprocess
+import tempfile
+import unittest
+
+from changes import Change
+from trial import Trial, Tree
+
+FILES = {
+    "CMakeLists.txt": """cmake_minimum_required(VERSION 3.20)
+project(Toy CXX)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+include_directories(${PROJECT_SOURCE_DIR})
+add_library(toy STATIC Basic/sum.cpp Basic/twice.cpp)
+set_target_properties(toy PROPERTIES UNITY_BUILD ON)
+add_executable(test_toy main.cpp)
+target_link_libraries(test_toy toy)
+add_executable(test_other other.cpp)
+""",
+    "Basic/sum.h": "int sum(int a, int b);\n",
+    "Basic/sum.cpp": '#include "Basic/sum.h"\nint sum(int a, int b) { return a + b; }\n',
+    "Basic/twice.h": '#include "Basic/sum.h"\ninline int half(int a) { return a / 2; }\nint twice(int a);\n',
+    "Basic/twice.cpp": '#include "Basic/twice.h"\nint twice(int a) { return sum(a, half(2 * a)); }\n',
+    "main.cpp": '#include "Basic/twice.h"\nint main() { return twice(3) == 6 && half(8) == 4 ? 0 : 1; }\n',
+    "other.cpp": "int main() {}\n",
+}
+
+
+class Trials(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        folder = tempfile.TemporaryDirectory()
+        cls.addClassCleanup(folder.cleanup)
+        cls.root = pathlib.Path(folder.name)
+        for name, text in FILES.items():
+            file = cls.root / name
+            file.parent.mkdir(exist_ok=True)
+            file.write_text(text, encoding="utf-8")
+        for command in (["cmake", "-G", "Ninja", "-S", ".", "-B", "build"], ["cmake", "--build", "build"]):
+            subprocess.run(command, cwd=cls.root, check=True, capture_output=True)
+
+    def noticed(self, path, old, new):
+        """What notices the change, by program; None if it does not compile."""
+        with tempfile.TemporaryDirectory(dir=self.root) as folder:
+            trial = Trial(Tree(self.root, self.root / "build"), pathlib.Path(folder), longest_run=2)
+            if not trial.compile(Change(path, FILES[path].index(old), old, new)):
+                return None
+            return {name: trial.failed_test(name) for name in trial.programs()}
+
+    def test_a_change_that_matters_is_noticed(self):
+        self.assertEqual(self.noticed("Basic/sum.cpp", "a + b", "a - b"), {"test_toy": "test_toy: status 1"})
+
+    def test_a_change_that_does_not_matter_survives(self):
+        self.assertEqual(self.noticed("Basic/sum.cpp", "a + b", "b + a"), {"test_toy": None})
+
+    def test_a_header_changes_all_that_include_it(self):
+        self.assertEqual(self.noticed("Basic/twice.h", "a / 2", "a / 1"), {"test_toy": "test_toy: status 1"})
+
+    def test_a_change_that_does_not_compile_is_no_trial(self):
+        self.assertIsNone(self.noticed("Basic/sum.cpp", "a + b", "a +"))
+
+    def test_the_tree_stays_as_it_is(self):
+        self.noticed("Basic/sum.cpp", "a + b", "a - b")
+        self.assertEqual((self.root / "Basic/sum.cpp").read_text(encoding="utf-8"), FILES["Basic/sum.cpp"])
+        self.assertEqual(subprocess.run([self.root / "build/test_toy"]).returncode, 0)
+
+    def test_a_program_that_does_not_end_is_noticed(self):
+        noticed = self.noticed("Basic/sum.cpp", "{ return", "{ for (volatile int i = 0;; ++i) {} return")
+        self.assertIn("did not end", noticed["test_toy"])
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,168 @@
+"""Test programs with one source changed, linked without building the rest again.
+
+The changed source is compiled alone and comes first when a program is linked, so that its functions replace those of the
+library (inline ones too, because nothing is inlined in a debug build). The tree itself stays as it is.
+"""
+import concurrent.futures
+import functools
+import json
+import os
+import pathlib
+import re
+import shlex
+import subprocess
+import sys
+
+PRODUCT = ("Basic", "Add-in", "Host", "Components", "Apps")
+SOURCES_OF_A_HEADER = 4
+SHARDS = 4
+
+
+class Tree:
+    """A clone that is built."""
+
+    def __init__(self, source, build):
+        self.source = source
+        self.build = build
+
+    @functools.cached_property
+    def commands(self):
+        """How each source is compiled; in a unity build it has the command of the file that includes it."""
+        found = {}
+        for entry in json.loads((self.build / "compile_commands.json").read_text(encoding="utf-8")):
+            file = pathlib.Path(entry["file"])
+            parts = re.findall(r'#include "([^"]+\.cpp)"', file.read_text(encoding="utf-8")) if "Unity" in file.parts else [file]
+            for part in parts:
+                found[os.path.relpath(part, self.source)] = shlex.split(entry["command"])
+        return found
+
+    def product_files(self, ending):
+        return [path for room in PRODUCT for path in sorted((self.source / room).rglob("*" + ending))]
+
+    @functools.cached_property
+    def includers(self):
+        found = {}
+        for path in self.product_files(".cpp") + self.product_files(".h"):
+            for header in re.findall(r'#include "([^"]+)"', path.read_text(encoding="utf-8")):
+                found.setdefault(header, []).append(path.relative_to(self.source).as_posix())
+        return found
+
+    def sources_of(self, path):
+        """The sources that see a change to `path`, those beside it first."""
+        if path.endswith(".cpp"):
+            return [path]
+        seen, waiting, sources = {path}, [path], []
+        while waiting and len(sources) < SOURCES_OF_A_HEADER:
+            for user in self.includers.get(waiting.pop(0), []):
+                if user not in seen:
+                    seen.add(user)
+                    (sources if user.endswith(".cpp") else waiting).append(user)
+        sources = [source for source in sources if source in self.commands]
+        return sorted(sources, key=lambda source: os.path.dirname(source) != os.path.dirname(path))[:SOURCES_OF_A_HEADER]
+
+    @functools.cached_property
+    def links(self):
+        """The command that links each program, by the program's path below the build folder."""
+        lines = subprocess.check_output(["ninja", "-C", self.build, "-t", "commands", "all"], text=True).splitlines()
+        found = {}
+        for line in lines:
+            link = re.match(r": && (\S*c\+\+ .*? -o (\S+) .*?) && ", line)
+            if link:
+                found[link[2]] = shlex.split(link[1])
+        return found
+
+    def programs_with(self, source):
+        """The programs that contain a source: they link its object or its library."""
+        command = self.commands[source]
+        part = command[command.index("-o") + 1]
+        target = re.match(r"(.*/)?CMakeFiles/([^/]+)\.dir/", part)
+        library = f"{target[1] or ''}lib{target[2]}.a"
+        return [name for name, words in self.links.items() if part in words or library in words]
+
+
+class Trial:
+    """A change compiled in a folder of its own."""
+
+    def __init__(self, tree, folder, longest_run=600):
+        self.tree = tree
+        self.folder = folder
+        self.longest_run = longest_run
+        self.objects = {}  # and the programs that contain each
+
+    def compile(self, change):
+        """False if it does not compile."""
+        text = (self.tree.source / change.path).read_text(encoding="utf-8")
+        changed = self.folder / "tree" / change.path
+        changed.parent.mkdir(parents=True, exist_ok=True)
+        changed.write_text(change.applied(text), encoding="utf-8")
+        for source in self.tree.sources_of(change.path):
+            object_file = self.folder / f"{len(self.objects)}.o"
+            command = list(self.tree.commands[source])
+            command[command.index("-o") + 1] = str(object_file)
+            command[command.index("-c") + 1] = str(changed if source == change.path else self.tree.source / source)
+            command[1:1] = ["-I" + str(self.folder / "tree"), "-I" + str(self.tree.source / os.path.dirname(source))]
+            if subprocess.run(command, cwd=self.tree.build, capture_output=True).returncode != 0:
+                return False
+            self.objects[str(object_file)] = self.tree.programs_with(source)
+        return bool(self.objects)
+
+    def programs(self):
+        return {name for names in self.objects.values() for name in names}
+
+    def link(self, name):
+        """The program with the change in it."""
+        program = self.folder / os.path.basename(name)
+        command = list(self.tree.links[name])
+        command[command.index("-o") + 1] = str(program)
+        first = next(at for at, word in enumerate(command) if word.endswith((".o", ".a")))
+        command[first:first] = [file for file, programs in self.objects.items() if name in programs] + ["-Wl,-z,muldefs"]
+        subprocess.run(command, cwd=self.tree.build, check=True)
+        return program
+
+    def failed_test(self, name):
+        """What fails twice when a program is tested, None if nothing does."""
+        runs = self.runs(self.folder / os.path.basename(name), name)
+        if not runs:
+            return None
+        program = self.link(name)
+        try:
+            with concurrent.futures.ThreadPoolExecutor() as pool:
+                return next(filter(None, pool.map(lambda run: self.failure(name, **run) and self.failure(name, **run), runs)), None)
+        finally:
+            program.unlink()
+
+    def runs(self, program, name):
+        """The commands that test a program. They run at the same time, as the tests of windows wait more than they work."""
+        base = program.name
+        tests = self.tree.source / "tests"
+        if base.startswith("test_"):
+            command = [program, "--gtest_brief=1", "--gtest_fail_fast"]
+            return [{"args": command, "cwd": self.tree.build / os.path.dirname(name),
+                     "env": dict(os.environ, GTEST_TOTAL_SHARDS=str(SHARDS), GTEST_SHARD_INDEX=str(shard))}
+                    for shard in range(SHARDS)]
+        if base == "fernwick":
+            environment = dict(os.environ, FERNWICK_BUILD=str(self.tree.build), FERNWICK_PROGRAM=str(program))
+            saves = [sys.executable, tests / "faults/save_faults_test.py", program, self.tree.build / "tests/faults/increment_revision"]
+            return [{"args": [sys.executable, "-B", "-m", "unittest", "-f", *self.modules(part)], "cwd": tests / "cli",
+                     "env": environment} for part in range(SHARDS)] + [{"args": saves, "cwd": self.folder}]
+        if base == "fernwick-workbench":
+            return [{"args": [self.tree.build / "tests/workbench_x11/test_workbench_x11", "--gtest_filter=Program.*"],
+                     "cwd": self.folder, "env": dict(os.environ, FERNWICK_WORKBENCH=str(program))}]
+        if base == "tamarik-headless":
+            return [{"args": [sys.executable, "-B", tests / "machines/test_headless.py", program,
+                              self.tree.build / "tests/language_programs/language_images"], "cwd": self.folder}]
+        return []
+
+    def modules(self, part):
+        return sorted(file.stem for file in (self.tree.source / "tests/cli").glob("test_*.py"))[part::SHARDS]
+
+    def failure(self, name, args, **options):
+        try:
+            result = subprocess.run(args, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
+                                    timeout=self.longest_run, **options)
+        except subprocess.TimeoutExpired:
+            return f"{name}: it did not end"
+        if result.returncode == 0:
+            return None
+        failed = re.search(rb"^\[  FAILED  \] ([\w./]+)|^(?:FAIL|ERROR): (\w+)", result.stdout, re.M)
+        return f"{name}: {(failed[1] or failed[2]).decode() if failed else f'status {result.returncode}'}"
