@@ -30,6 +30,7 @@ void takeLargePages() {
 void keepFreedMemory() {
     mallopt(M_MMAP_THRESHOLD, 4 << 20);
     mallopt(M_TRIM_THRESHOLD, 256 << 20);
+    mallopt(M_ARENA_MAX, 1); // other threads would have heaps of small pages
     takeLargePages();
 }
 
