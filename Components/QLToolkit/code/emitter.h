@@ -217,7 +217,11 @@ private:
     bool isPure(const Expr& expr, const Entity* variable) const;
 
     // Conversions
-    Value convert(const Value& value, const Type& want, std::optional<std::uint32_t> target = {});
+    Value convert(const Value& value, const Type& want, std::optional<std::uint32_t> target = {}) {
+        const bool isSame = value.type == want && want.value <= ValueType::String && !want.isArray;
+        return isSame && !target ? value : converted(value, want, target);
+    }
+    Value converted(const Value& value, const Type& want, std::optional<std::uint32_t> target);
     Value convertSimple(const Value& value, ValueType to, std::optional<std::uint32_t> target);
     Value toLong(const Value& value, ValueType to, std::optional<std::uint32_t> target);
     Value toFloat(const Value& value, ValueType to, std::optional<std::uint32_t> target);

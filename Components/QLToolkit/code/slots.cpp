@@ -38,13 +38,6 @@ std::uint32_t Slots::allocate(image::SlotType type, std::uint32_t slots, bool is
     return slot;
 }
 
-void Slots::releaseTo(std::size_t mark) {
-    while (inUse_.size() > mark) {
-        temporaries_.push_back(inUse_.back());
-        inUse_.pop_back();
-    }
-}
-
 void Slots::keepOnly(std::size_t mark, std::uint32_t slot) {
     std::size_t kept = mark;
     for (std::size_t i = mark; i < inUse_.size(); ++i) {
