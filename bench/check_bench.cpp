@@ -3,15 +3,16 @@
 // measurement.
 #include "Components/Image/image.h"
 #include "Components/QLToolkit/check.h"
+#include "Components/QLToolkit/source/process_memory.h"
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <fstream>
-#include <iterator>
 #include <memory>
 #include <sys/resource.h>
 
 int main(int argc, char** argv) {
+    qltoolkit::keepFreedMemory(); // as fernwick does
     qltoolkit::ProgramOptions options;
     std::vector<std::unique_ptr<qltoolkit::SourceText>> sources;
     std::size_t bytes = 0;
@@ -25,8 +26,10 @@ int main(int argc, char** argv) {
             imagePath = argv[++i];
             continue;
         }
-        std::ifstream file(argv[i], std::ios::binary);
-        std::string text{std::istreambuf_iterator<char>(file), {}};
+        std::ifstream file(argv[i], std::ios::binary | std::ios::ate);
+        std::string text(static_cast<std::size_t>(file.tellg()), '\0');
+        file.seekg(0);
+        file.read(text.data(), static_cast<std::streamsize>(text.size()));
         bytes += text.size();
         sources.push_back(std::make_unique<qltoolkit::SourceText>(argv[i], std::move(text)));
     }

@@ -1,12 +1,12 @@
 // Parses files and prints the time.
 // Usage: parser_bench [--json] FILE...; the status is 1 if a file has errors, since that would distort the measurement.
 #include "Components/QLToolkit/parser/parse.h"
+#include "Components/QLToolkit/source/process_memory.h"
 #include <chrono>
 #include <cstdio>
 #include <cstring>
 #include <fstream>
 #include <iterator>
-#include <malloc.h>
 #include <sys/resource.h>
 
 namespace {
@@ -37,8 +37,7 @@ void measure(const char* path, qltoolkit::SymbolTable& symbols, Measured& total)
 } // namespace
 
 int main(int argc, char** argv) {
-    mallopt(M_MMAP_THRESHOLD, 32 << 20); // as in fernwick: memory of one module is reused for the next
-    mallopt(M_TRIM_THRESHOLD, 256 << 20);
+    qltoolkit::keepFreedMemory(); // as fernwick does: memory of one module is used again for the next
     qltoolkit::SymbolTable symbols;
     Measured total;
     bool json = false;

@@ -6,10 +6,10 @@
 #include "Apps/fernwick/run/interruption.h"
 #include "Basic/printable.h"
 #include "Basic/runtime_error.h"
+#include "Components/QLToolkit/source/process_memory.h"
 #include <cstdio>
 #include <cstring>
 #include <fmt/format.h>
-#include <malloc.h>
 
 namespace {
 
@@ -68,13 +68,6 @@ int printed(const std::string& text) {
     return good ? cli::kGood : cli::kMachineTrouble;
 }
 
-/// Keeps freed memory for the next file instead of returning it to the system, which took a third of the time of a
-/// check. Larger blocks are the system's pages, which cost nothing before they are touched: the stack of a program is one.
-void keepFreedMemory() {
-    mallopt(M_MMAP_THRESHOLD, 4 << 20);
-    mallopt(M_TRIM_THRESHOLD, 256 << 20);
-}
-
 } // namespace
 
 int main(int argc, char** argv) {
@@ -84,7 +77,7 @@ int main(int argc, char** argv) {
     const auto parsed = cli::parseCommandLine(argc, argv);
     if (!parsed.output.empty()) return printed(parsed.output);
 
-    keepFreedMemory();
+    qltoolkit::keepFreedMemory();
     cli::watchForInterrupt();
     cli::Console console{parsed.options.verbosity, parsed.options.color};
     int status = parsed.run ? guarded(parsed, console) : misused(parsed, console);

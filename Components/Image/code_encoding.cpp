@@ -4,6 +4,7 @@
 #include "Components/Image/image_format.h"
 #include "Components/Image/line_bytes.h"
 #include "Components/Image/word_bytes.h"
+#include <utility>
 
 namespace image {
 
@@ -48,7 +49,7 @@ std::string encodeGlobals(const CodeImage& code) {
         w.number(module.prepare);
     });
     w.variables(code.globals);
-    return w.out.bytes();
+    return std::move(w.out).bytes();
 }
 
 std::string encodeTypes(const CodeImage& code) {
@@ -68,7 +69,7 @@ std::string encodeTypes(const CodeImage& code) {
             w.number(std::uint32_t(bounds.upper));
         });
     });
-    return w.out.bytes();
+    return std::move(w.out).bytes();
 }
 
 void writeParameter(CodeWriter& w, const MemberParameter& parameter) {
@@ -118,7 +119,7 @@ std::string encodeClasses(const CodeImage& code) {
         });
         w.list(each.sinks, [&](const EventSink& sink) { writeSink(w, sink); });
     });
-    return w.out.bytes();
+    return std::move(w.out).bytes();
 }
 
 /// The code of a procedure begins where that of the one before ends, so only its length is written.
@@ -134,7 +135,7 @@ std::string encodeProcedures(const CodeImage& code) {
         w.variables(procedure.variables);
     });
     if (next != code.code.size()) imageIsRefused("The code has words that belong to no procedure.");
-    return w.out.bytes();
+    return std::move(w.out).bytes();
 }
 
 std::string encodeNumbers(const CodeImage& code) {
@@ -143,7 +144,7 @@ std::string encodeNumbers(const CodeImage& code) {
         out.u32(std::uint32_t(number));
         out.u32(std::uint32_t(number >> 32));
     }
-    return out.bytes();
+    return std::move(out).bytes();
 }
 
 std::string encodeImports(const CodeImage& code) {
@@ -153,7 +154,7 @@ std::string encodeImports(const CodeImage& code) {
         w.type(import.result);
         w.types(import.parameters);
     });
-    return w.out.bytes();
+    return std::move(w.out).bytes();
 }
 
 void addBytes(Writer& out, std::string_view bytes) {
@@ -170,7 +171,7 @@ std::string encodeResources(const std::vector<Resource>& resources) {
         addBytes(out, resource.name);
         addBytes(out, resource.data);
     }
-    return out.bytes();
+    return std::move(out).bytes();
 }
 
 } // namespace

@@ -57,8 +57,8 @@ void Writer::u16(std::uint16_t value) {
 }
 
 void Writer::u32(std::uint32_t value) {
-    u16(std::uint16_t(value));
-    u16(std::uint16_t(value >> 16));
+    const std::array bytes{char(value), char(value >> 8), char(value >> 16), char(value >> 24)};
+    bytes_.append(bytes.data(), bytes.size());
 }
 
 void Writer::variable(std::uint32_t value) {

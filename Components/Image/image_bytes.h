@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace image {
@@ -32,7 +33,9 @@ public:
     /// 7 bits a byte, the lowest first; the highest bit of all but the last byte is set.
     void variable(std::uint32_t value);
     void raw(std::string_view bytes) { bytes_ += bytes; }
-    const std::string& bytes() const { return bytes_; }
+    void reserve(std::size_t bytes) { bytes_.reserve(bytes); }
+    const std::string& bytes() const& { return bytes_; }
+    std::string bytes() && { return std::move(bytes_); }
 
 private:
     std::string bytes_;

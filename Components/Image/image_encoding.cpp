@@ -4,6 +4,7 @@
 #include "Components/Image/image_format.h"
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace image {
 
@@ -35,7 +36,7 @@ std::string encodeProject(const Image& image, Strings& strings) {
     }
     w.count(image.libraries.size());
     for (const auto& library : image.libraries) w.text(library);
-    return w.out.bytes();
+    return std::move(w.out).bytes();
 }
 
 void encodeControl(SectionWriter& w, const Control& control, int depth) {
@@ -56,7 +57,7 @@ std::string encodeForms(const Image& image, Strings& strings) {
     SectionWriter w{strings, {}};
     w.count(image.forms.size());
     for (const auto& form : image.forms) encodeControl(w, form, 0);
-    return w.out.bytes();
+    return std::move(w.out).bytes();
 }
 
 void encodeModule(SectionWriter& w, const Module& module) {
@@ -80,7 +81,7 @@ std::string encodeModules(const Image& image, Strings& strings) {
     SectionWriter w{strings, {}};
     w.count(image.modules.size());
     for (const auto& module : image.modules) encodeModule(w, module);
-    return w.out.bytes();
+    return std::move(w.out).bytes();
 }
 
 /// The code refers to its texts by their numbers, so they are the first of the table.
@@ -98,7 +99,7 @@ std::vector<EncodedSection> sectionsOf(const Image& image) {
     sections.emplace_back(kModules, encodeModules(image, strings));
     Writer table;
     strings.write(table);
-    sections.emplace_back(kStrings, table.bytes());
+    sections.emplace_back(kStrings, std::move(table).bytes());
     std::ranges::move(encodeCode(image.code), std::back_inserter(sections));
     return sections;
 }
@@ -113,6 +114,7 @@ std::string bodyOf(const std::vector<EncodedSection>& sections) {
     for (const auto& section : sections) end = aligned(end) + section.second.size();
     if (std::int64_t(end) > kLargestImage) imageIsRefused("The compiled application is too large.");
     Writer body;
+    body.reserve(end + kHeaderSize); // which comes before it
     std::size_t offset = first;
     for (const auto& [name, content] : sections) {
         offset = aligned(offset);
@@ -127,24 +129,23 @@ std::string bodyOf(const std::vector<EncodedSection>& sections) {
         body.raw(content);
         offset = aligned(offset) + content.size();
     }
-    return body.bytes();
+    return std::move(body).bytes();
 }
 
 } // namespace
 
 std::string encode(const Image& image) {
     const auto sections = sectionsOf(image);
-    const auto body = bodyOf(sections);
-    Writer file;
-    file.raw(kMagic);
-    file.u16(kMajor);
-    file.u16(kMinor);
-    file.u32(std::uint32_t(kHeaderSize + body.size()));
-    file.u32(crc32(body));
+    auto file = bodyOf(sections);
+    Writer header;
+    header.raw(kMagic);
+    header.u16(kMajor);
+    header.u16(kMinor);
+    header.u32(std::uint32_t(kHeaderSize + file.size()));
+    header.u32(crc32(file));
     // The checksum does not cover the count of sections; a wrong one shows in the length.
-    file.u32(std::uint32_t(sections.size()));
-    file.raw(body);
-    return file.bytes();
+    header.u32(std::uint32_t(sections.size()));
+    return file.insert(0, header.bytes());
 }
 
 } // namespace image

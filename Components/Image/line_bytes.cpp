@@ -90,7 +90,7 @@ std::string encodeLists(const std::vector<Procedure>& procedures) {
         writeList<List>(out, procedures[i]);
         next = i + 1;
     }
-    return out.bytes();
+    return std::move(out).bytes();
 }
 
 template <class List>

@@ -2,6 +2,7 @@
 #include "Components/Image/code/instruction.h"
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace image {
 
@@ -14,10 +15,34 @@ constexpr std::uint32_t kHalf = 0xFFFF;
 
 // Code is walked in the same way when it is written and when it is read: one stream takes what a variable holds, the other one
 // stores there what it reads.
-struct OutStream {
-    Writer bytes;
-    void byte(std::uint32_t& value) { bytes.u8(std::uint8_t(value)); }
-    void number(std::uint32_t& value) { bytes.variable(value); }
+class OutStream {
+public:
+    void byte(std::uint32_t& value) { *next_++ = char(value); }
+    void number(std::uint32_t& value) {
+        auto rest = value;
+        for (; rest > 0x7F; rest >>= 7) *next_++ = char(rest | 0x80);
+        *next_++ = char(rest);
+    }
+    /// Makes room for an instruction.
+    void begin() {
+        if (next_ - room_.data() > kFlushedBytes) flush();
+    }
+    std::string finish() {
+        flush();
+        return std::move(bytes_);
+    }
+
+private:
+    void flush() {
+        bytes_.append(room_.data(), next_);
+        next_ = room_.data();
+    }
+
+    static constexpr std::ptrdiff_t kFlushedBytes = 16 * 1024;
+    /// A word has two halves of at most 3 bytes, or is a number of at most 5.
+    std::array<char, kFlushedBytes + 6 * std::tuple_size_v<Words>> room_;
+    char* next_ = room_.data();
+    std::string bytes_;
 };
 struct InStream {
     Reader bytes;
@@ -151,13 +176,19 @@ std::string encodeWords(std::span<const std::uint32_t> words) {
         const auto length = lengthOf(&words[at], words.size() - at);
         const auto one = words.subspan(at, length);
         if (length == 0 || length > buffer.size()) imageIsRefused("The code has words that are no instruction.");
-        std::ranges::copy(one, buffer.begin());
+        out.begin();
+        // Most instructions are one word, for which a copy of a range takes long.
+        const auto rest = one.subspan(1);
+        const auto copied = std::span{buffer}.subspan(1, rest.size());
+        buffer[0] = one[0];
+        if (!rest.empty()) std::ranges::copy(rest, copied.begin());
         // The walk leaves what a reader will find.
-        if (InstructionWalk{out, buffer}.run() != length || !std::ranges::equal(one, std::span{buffer}.first(length)))
+        const bool isWhole = InstructionWalk{out, buffer}.run() == length && buffer[0] == one[0];
+        if (!isWhole || (!rest.empty() && !std::ranges::equal(rest, copied)))
             imageIsRefused("An instruction has bits that mean nothing.");
         at += length;
     }
-    return out.bytes.bytes();
+    return out.finish();
 }
 
 std::vector<std::uint32_t> decodeWords(Reader bytes) {

@@ -5,6 +5,7 @@
 #include "Components/QLToolkit/code/code_generator.h"
 #include "Components/QLToolkit/module_image.h"
 #include "Components/QLToolkit/parser/form_header.h"
+#include "Components/QLToolkit/parser/parse_all.h"
 #include <algorithm>
 #include <set>
 #include <thread>
@@ -12,6 +13,8 @@
 namespace qltoolkit {
 
 namespace {
+
+unsigned threads() { return std::max(1U, std::thread::hardware_concurrency()); }
 
 /// The share of the sources in the progress; the rest is for writing the image.
 constexpr std::size_t kPercentOfSources = 90;
@@ -75,30 +78,36 @@ std::vector<ProjectCompiler::Source> ProjectCompiler::parseSources(SymbolTable& 
     for (const auto& file : input_.files)
         if (file.kind == SourceFile) paths.push_back(file.path);
     std::vector<Source> sources;
+    std::vector<const SourceText*> texts;
+    for (const auto& path : paths) {
+        sources.push_back(readSource(path));
+        if (sources.back().text) texts.push_back(sources.back().text.get());
+    }
+    auto parsed = parseModules(texts, symbols, conditionalConstants(input_.constants), threads());
+    auto next = parsed.begin();
     for (std::size_t i = 0; i < paths.size(); ++i) {
         BuildStatus.raise("Compiling " + services_.files.GetFileName(paths[i]));
-        if (auto source = parseSource(paths[i], symbols)) sources.push_back(std::move(*source));
+        if (sources[i].text) sources[i].parsed = std::move(*next++);
+        for (const auto& diagnostic : sources[i].parsed.diagnostics) report(diagnostic);
         BuildStatus.raise(std::to_string((i + 1) * kPercentOfSources / paths.size()) + "% completed");
     }
+    std::erase_if(sources, [](const Source& each) { return !each.parsed.module || each.parsed.errors > 0; });
+    for (auto& source : sources) source.form = readFormHeader(*source.text);
     return sources;
 }
 
-std::optional<ProjectCompiler::Source> ProjectCompiler::parseSource(const std::string& path, SymbolTable& symbols) {
+/// Without a text, but with a message, if the file cannot be read.
+ProjectCompiler::Source ProjectCompiler::readSource(const std::string& path) {
     std::string bytes;
     const auto err = basic::attempt([&] { bytes = services_.files.ReadBytes(path); });
     if (err.Number != 0) {
         const auto message = err.Number == basic::kFileNotFound ? Message::FileMissing : Message::FileUnreadable;
-        report(fileDiagnostic(message, path, err.Description));
-        return std::nullopt;
+        return {nullptr, {nullptr, {fileDiagnostic(message, path, err.Description)}, 1}, {}};
     }
     services_.record->inputs.push_back(path);
     const auto page = services_.codePageOf ? services_.codePageOf(path) : basic::CodePage::windows1252();
     Source source{std::make_unique<SourceText>(path, std::move(bytes), page), {}, {}};
-    source.parsed = parseModule(*source.text, symbols, conditionalConstants(input_.constants));
     services_.record->lines += source.text->lineCount();
-    for (const auto& diagnostic : source.parsed.diagnostics) report(diagnostic);
-    if (!source.parsed.module || source.parsed.errors > 0) return std::nullopt;
-    source.form = readFormHeader(*source.text);
     return source;
 }
 
@@ -136,7 +145,7 @@ image::CodeImage ProjectCompiler::checkNames(const std::vector<Source>& sources,
     options.lacksFiles = errors_ > 0;
     options.isIncomplete = options.libraries.size() < static_cast<std::size_t>(named);
     options.warnsOfDevices = true;
-    options.threads = std::max(1U, std::thread::hardware_concurrency());
+    options.threads = threads();
 
     CodeGenerator generator;
     image::CodeImage code;

@@ -81,7 +81,7 @@ private:
 
     bool compile();
     std::vector<Source> parseSources(SymbolTable& symbols);
-    std::optional<Source> parseSource(const std::string& path, SymbolTable& symbols);
+    Source readSource(const std::string& path);
     void addModule(image::Image& image, Source& source, const SymbolTable& symbols);
     void checkModules(const image::Image& image);
     /// Returns the code of a program that has some and no errors.

@@ -244,6 +244,19 @@ TEST_F(CompilerComponent, MissingSourcesMissingStartupAndDuplicateNamesAreErrors
     EXPECT_THAT(errors_, ElementsAre("again.bas:0 " + std::to_string(int(Message::ModuleNameTwice))));
 }
 
+TEST_F(CompilerComponent, ReportsEachFileInItsTurn) {
+    add("modFirst.bas", "Sub First()\r\n  Loop\r\nEnd Sub\r\n");
+    compiler_->AddBuildFile(folder_ / "gone.bas", qltoolkit::SourceFile);
+    add("modLast.bas", "Sub Last()\r\n  Next\r\nEnd Sub\r\n");
+    EXPECT_FALSE(compiler_->Build());
+    ASSERT_EQ(errors_.size(), 3U);
+    EXPECT_THAT(errors_, ElementsAre(StartsWith("modFirst.bas:2 "), "gone.bas:0 1000", StartsWith("modLast.bas:2 ")));
+    ASSERT_EQ(events_.size(), 11U);
+    EXPECT_THAT(std::vector(events_.begin() + 4, events_.begin() + 7),
+                ElementsAre("Compiling gone.bas", testing::_, "60% completed"));
+    EXPECT_EQ(record_->inputs.size(), 2U);
+}
+
 TEST_F(CompilerComponent, AnImageThatCannotBeWrittenIsAnError) {
     add("modMain.bas", kModule);
     compiler_->SetOutputPath(folder_ / "none/Tips");

@@ -1,4 +1,5 @@
 #include "Components/QLToolkit/check.h"
+#include "Components/QLToolkit/code/line_cursor.h"
 #include "Components/QLToolkit/source/encoding.h"
 #include "Components/QLToolkit/source/source_text.h"
 #include "tests/qltoolkit/ast_dump.h"
@@ -8,7 +9,9 @@
 #include <gtest/gtest.h>
 
 using qltoolkit::HeaderState;
+using qltoolkit::LineCursor;
 using qltoolkit::Location;
+using qltoolkit::Pos;
 using qltoolkit::SourceText;
 using qltoolkit::dump::Parsed;
 
@@ -146,4 +149,15 @@ TEST(TypographicMarks, AreBlanksQuotationMarksAndPunctuation) {
                                  0xFF10, 0xFF19, 0xFF20, 0xFF5A, 0xFF66})
         EXPECT_FALSE(isMark(other)) << std::hex << std::uint32_t(other);
     EXPECT_FALSE(qltoolkit::hasTypographicMark("plain"));
+}
+
+TEST(LineCursor, AgreesWithTheSearchWhereverPositionsLead) {
+    const SourceText source{"a.bas", "first\r\n\n" + std::string(40, '\n') + "third\rlast"};
+    LineCursor ascending{source};
+    for (Pos at = 0; at <= source.size(); ++at) EXPECT_EQ(ascending.lineOf(at), source.lineOf(at)) << at;
+    LineCursor jumping{source};
+    for (Pos at = 0; at <= source.size(); ++at) {
+        const Pos other = at * 31 % source.size();
+        EXPECT_EQ(jumping.lineOf(other), source.lineOf(other)) << other;
+    }
 }

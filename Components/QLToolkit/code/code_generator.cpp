@@ -14,10 +14,10 @@ public:
                    const Notes& notes) override {
         emitter_.procedure(decl, entity, names, notes);
     }
-    ModuleCode& finish(std::uint32_t prepare) {
-        emitter_.prepare(prepare);
-        return code_;
-    }
+    void prepare(std::uint32_t number) { emitter_.prepare(number); }
+    [[nodiscard]] std::size_t words() const { return code_.code.size(); }
+    /// The memory of the code is free for that of the whole when the caller has linked it.
+    ModuleCode take() { return std::move(code_); }
     [[nodiscard]] SourceModule& module() const { return module_; }
 
 private:
@@ -78,11 +78,16 @@ std::vector<EntryPoint> CodeGenerator::entryPoints() const {
 }
 
 image::CodeImage CodeGenerator::link(std::string_view start, std::uint32_t codePage) {
-    Linker linker{work_->layout};
-    std::size_t index = 0;
+    std::size_t index = 0, words = 0;
     for (auto& module : work_->modules) {
-        linker.add(module.module(), module.finish(work_->layout.prepareOf(index)), work_->layout.prepareOf(index));
-        ++index;
+        module.prepare(work_->layout.prepareOf(index++));
+        words += module.words();
+    }
+    Linker linker{work_->layout, words};
+    index = 0;
+    for (auto& module : work_->modules) {
+        auto code = module.take();
+        linker.add(module.module(), code, work_->layout.prepareOf(index++));
     }
     auto result = linker.finish();
     result.start = startOf(work_->layout.program(), start);

@@ -48,13 +48,19 @@ bool isOwnArray(const Entity& entity, const Scope& scope) {
 } // namespace
 
 Emitter::Emitter(const ProgramLayout& layout, SourceModule& module, ModuleCode& code)
-    : layout_(layout), module_(module), constants_(const_cast<Program&>(layout.program())), out_(code) {}
+    : layout_(layout),
+      module_(module),
+      constants_(const_cast<Program&>(layout.program())),
+      out_(code),
+      lines_(module.tree.source) {}
 
 void Emitter::begin(const ProcedureNames* names, const Notes* notes) {
     names_ = names;
     notes_ = notes;
     out_.begin();
     places_.clear();
+    shared_.clear();
+    indexes_.clear();
     labels_.clear();
     forExits_.clear();
     doExits_.clear();
@@ -149,7 +155,7 @@ void Emitter::declareParameters(const Callable& callable, const ProcedureDecl& d
         place.slot = slots_.variable(type, image::slotsOf(type));
         if (type.form == image::TypeForm::Reference || type.form == image::TypeForm::ArrayReference)
             place.kind = PlaceKind::Ref;
-        places_.emplace(&*entity, place);
+        setPlace(*entity, place);
     }
 }
 
@@ -157,11 +163,11 @@ void Emitter::declareLocals(image::Procedure& made) {
     for (const auto& each : names_->all()) {
         if (each.kind != EntityKind::Variable || each.isParameter) continue;
         if (each.isResult && resultRecord_) {
-            places_.emplace(&each, *resultRecord_);
+            setPlace(each, *resultRecord_);
             continue;
         }
         placeVariable(each);
-        if (each.isResult) made.resultSlot = places_.at(&each).slot;
+        if (each.isResult) made.resultSlot = places_[each.place].slot;
     }
 }
 
@@ -186,7 +192,12 @@ void Emitter::placeVariable(const Entity& entity) {
         place.slot = slots_.variable(type, slots);
         if (place.slot + slots > image::kMostDirectSlots) place.kind = PlaceKind::Wide;
     }
-    places_.emplace(&entity, place);
+    setPlace(entity, place);
+}
+
+void Emitter::setPlace(const Entity& own, const Place& place) {
+    own.place = static_cast<std::uint32_t>(places_.size());
+    places_.push_back(place);
 }
 
 std::uint32_t Emitter::shapeOf(const Entity& entity) {
@@ -219,7 +230,7 @@ void Emitter::prepareLocals() {
     if (resultRecord_) out_.emit(Op::PrepareRecord, resultRecord_->slot); // the caller may use it again
     for (const auto& each : names_->all())
         if (each.kind == EntityKind::Variable && !each.isParameter && !each.isStatic && !each.isResult)
-            prepareVariable(places_.at(&each), each);
+            prepareVariable(places_[each.place], each);
     clearObjects(mark);
     slots_.releaseTo(mark);
 }
@@ -227,15 +238,14 @@ void Emitter::prepareLocals() {
 /// In a procedure with loops, arrays of modules and parameters that are arrays are shared once.
 void Emitter::shareArrays() {
     for (const auto& each : names_->all()) {
-        const auto found = places_.find(&each);
-        if (!each.isParameter || !each.type.isArray || found == places_.end() || found->second.kind != PlaceKind::Ref)
-            continue;
-        shareArray(each, found->second);
+        if (!each.isParameter || !each.type.isArray) continue;
+        const Place place = places_[each.place];
+        if (place.kind == PlaceKind::Ref) shareArray(each, place);
     }
     if (!LoopFinder{}.in(decl_->body)) return;
     std::size_t count = 0;
     for (const auto& note : *notes_) {
-        if (!note.entity || !isOwnArray(*note.entity, *module_.scope) || places_.contains(note.entity)) continue;
+        if (!note.entity || !isOwnArray(*note.entity, *module_.scope) || shared_.contains(note.entity)) continue;
         if (slots_.count() > Slots::kMostVariables || ++count > kMostShared) return;
         shareArray(*note.entity, variablePlace(*note.entity));
     }
@@ -246,7 +256,10 @@ void Emitter::shareArray(const Entity& entity, const Place& place) {
     shared.type = place.type;
     shared.slot = slots_.hidden(layout_.slotTypeOf(place.type));
     loadInto(place, shared.slot);
-    places_[&entity] = shared;
+    if (entity.owner)
+        shared_[&entity] = shared;
+    else
+        places_[entity.place] = shared;
 }
 
 void Emitter::prepare(std::uint32_t number) {

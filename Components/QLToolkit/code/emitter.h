@@ -1,11 +1,13 @@
 #pragma once
 // Makes the code of procedures that are bound. One walk over the tree: an expression is computed into a slot, a condition
 // into a jump.
+#include "Components/QLToolkit/code/line_cursor.h"
 #include "Components/QLToolkit/code/procedure_code.h"
 #include "Components/QLToolkit/code/program_layout.h"
 #include "Components/QLToolkit/code/slots.h"
 #include "Components/QLToolkit/names/binder.h"
 #include "Components/QLToolkit/types/operators.h"
+#include <span>
 
 namespace qltoolkit {
 
@@ -48,7 +50,7 @@ struct Place {
     Value object;                   ///< Property, Late, VariantElement: the object or Variant
     Symbol name = Symbol::None;     ///< Late; None for the default member
     const Span<Argument>* arguments = nullptr; ///< Property, Late
-    std::vector<std::uint16_t> indexes;        ///< VariantElement
+    std::uint32_t firstIndex = 0, indexes = 0; ///< VariantElement: the slots of its indexes, see Emitter::indexesOf
 };
 
 /// What an argument of a call is before it is passed.
@@ -78,6 +80,7 @@ private:
     void declareLocals(image::Procedure& made);
     [[nodiscard]] std::uint32_t localSlots() const;
     void placeVariable(const Entity& entity);
+    void setPlace(const Entity& own, const Place& place);
     void prepareVariable(const Place& place, const Entity& entity);
     void prepareLocals();
     void prepareOne(const Place& place, const Entity& entity);
@@ -152,7 +155,11 @@ private:
     Place namePlace(const Expr& expr, const Span<Argument>* given);
     Place entityPlace(const Entity& entity, const Expr& expr, const Span<Argument>* given);
     Place ownPlace(const Entity& entity, const Expr& expr);
-    Place variablePlace(const Entity& entity);
+    [[nodiscard]] const Place* ownSlot(const Expr& expr) const;
+    [[nodiscard]] Place variablePlace(const Entity& entity) const;
+    [[nodiscard]] std::span<const std::uint16_t> indexesOf(const Place& place) const {
+        return std::span{indexes_}.subspan(place.firstIndex, place.indexes);
+    }
     Place basePlace(const Expr* base);
     Place fieldOf(const Place& record, const Entity& field);
     Place element(const Value& array, const Type& type, const Span<Argument>& indexes);
@@ -210,7 +217,11 @@ private:
     bool isPure(const Expr& expr, const Entity* variable) const;
 
     // Conversions
-    Value convert(const Value& value, const Type& want, std::optional<std::uint32_t> target = {});
+    Value convert(const Value& value, const Type& want, std::optional<std::uint32_t> target = {}) {
+        const bool isSame = value.type == want && want.value <= ValueType::String && !want.isArray;
+        return isSame && !target ? value : converted(value, want, target);
+    }
+    Value converted(const Value& value, const Type& want, std::optional<std::uint32_t> target);
     Value convertSimple(const Value& value, ValueType to, std::optional<std::uint32_t> target);
     Value toLong(const Value& value, ValueType to, std::optional<std::uint32_t> target);
     Value toFloat(const Value& value, ValueType to, std::optional<std::uint32_t> target);
@@ -232,7 +243,9 @@ private:
     Value libraryCall(const Entity& entity, const Span<Argument>& given, const std::string& prefix = {});
     void takeDefaultValues(const Callable& callable, const Span<Argument>& given,
                            const std::vector<PassedArgument>& list);
-    std::optional<Value> intrinsic(std::string_view name, const Span<Argument>& given);
+    std::optional<Value> intrinsic(const LibraryFunction& function, const Span<Argument>& given);
+    std::optional<Value> squareRoot(const Expr& expr);
+    std::optional<Value> wholePart(Builtin function, const Expr& expr);
     Value boundOf(const Span<Argument>& given, bool isUpper);
     std::optional<Value> lengthOf(const Expr& expr);
     /// Calls a function of the runtime with values of these types.
@@ -300,12 +313,18 @@ private:
     Constants constants_;
     ProcedureCode out_;
     Slots slots_;
+    LineCursor lines_;
 
     const ProcedureNames* names_ = nullptr;
     const Notes* notes_ = nullptr;
     const ProcedureDecl* decl_ = nullptr;
     const Entity* function_ = nullptr;
-    std::unordered_map<const Entity*, Place> places_; // of the procedure's own names, and arrays of the module
+    std::vector<Place> places_;                       // of the procedure's own names, by Entity::place
+    std::unordered_map<const Entity*, Place> shared_; // of arrays of the module
+    std::vector<std::uint16_t> indexes_;              // of places
+    // Used again and again for their memory.
+    std::vector<const BinaryExpr*> chain_;
+    mutable std::vector<const Expr*> waiting_;
     std::unordered_map<std::uint64_t, Label> labels_;
     std::vector<Label> forExits_, doExits_;
     std::vector<WithObject> withs_;

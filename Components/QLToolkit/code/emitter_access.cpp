@@ -67,11 +67,10 @@ Value Emitter::load(const Place& place, std::optional<std::uint32_t> target) {
                     *place.entity);
     case PlaceKind::Late: return lateCall(place, LateUse::Get, nullptr, true);
     case PlaceKind::VariantElement: {
-        if (place.indexes.size() > image::kMostDimensions) return fail(basic::kSubscriptOutOfRange, {});
+        if (place.indexes > image::kMostDimensions) return fail(basic::kSubscriptOutOfRange, {});
         const Value result{{ValueType::Variant}, temporary({ValueType::Variant})};
-        out_.emit(place.isFlat ? Op::VariantRefAt : Op::VariantAt, result.slot, place.object.slot,
-                  static_cast<std::uint32_t>(place.indexes.size()));
-        out_.halves(place.indexes);
+        out_.emit(place.isFlat ? Op::VariantRefAt : Op::VariantAt, result.slot, place.object.slot, place.indexes);
+        out_.halves(indexesOf(place));
         return result;
     }
     default: break;
@@ -163,13 +162,13 @@ void Emitter::store(const Place& place, const Value& value) {
             out_.emit(refOp(place.type, true), value.slot, reference(place).slot, 0);
         break;
     case PlaceKind::VariantElement: {
-        if (place.indexes.size() > image::kMostDimensions) {
+        if (place.indexes > image::kMostDimensions) {
             (void)fail(basic::kSubscriptOutOfRange, {});
             break;
         }
         out_.emit(place.isFlat ? Op::StoreVariantRefElement : Op::StoreVariantElement, value.slot, place.object.slot,
-                  static_cast<std::uint32_t>(place.indexes.size()));
-        out_.halves(place.indexes);
+                  place.indexes);
+        out_.halves(indexesOf(place));
         break;
     }
     case PlaceKind::Property:

@@ -170,7 +170,10 @@ bool isCall(const Operand& note) {
 bool Emitter::mayChange(const Expr& expr, const Value& value) const { return mentions(expr, value.variable); }
 
 bool Emitter::mentions(const Expr& expr, const Entity* entity) const {
-    std::vector<const Expr*> waiting{&expr};
+    if (expr.kind < ExprKind::Me) return false;
+    if (expr.kind == ExprKind::Name && expr.note != 0 && !isCall(noteOf(expr))) return false;
+    auto& waiting = waiting_;
+    waiting.assign(1, &expr);
     bool calls = false, found = false;
     while (!waiting.empty()) {
         const Expr* at = waiting.back();

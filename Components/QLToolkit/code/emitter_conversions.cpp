@@ -70,7 +70,7 @@ Value Emitter::moved(const Value& value, std::uint32_t slot) {
 }
 
 /// Let-coercion: an object gives the value of its default member.
-Value Emitter::convert(const Value& value, const Type& want, std::optional<std::uint32_t> target) {
+Value Emitter::converted(const Value& value, const Type& want, std::optional<std::uint32_t> target) {
     Value result = value;
     if (want.isArray || value.type.isArray) {
         if (!want.isArray && groupOf(want.value) == Group::Variant) result = toVariant(value, target);

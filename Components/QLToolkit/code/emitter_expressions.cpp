@@ -107,6 +107,12 @@ Value Emitter::value(const Expr& expr, const Type& want) {
 /// A constant that can be converted while compiling.
 std::optional<Value> Emitter::constantAs(const Expr& expr, const Type& want, std::optional<std::uint32_t> target) {
     if (want.isArray || want.value >= ValueType::FixedString || want.value == ValueType::Decimal) return std::nullopt;
+    if (expr.kind == ExprKind::Integer || (expr.kind == ExprKind::Long && want.value != ValueType::Integer)) {
+        const auto number = as<IntegerExpr>(expr).value;
+        if (want.value == ValueType::Integer || want.value == ValueType::Long)
+            return longConstant(number, target, want.value);
+        if (want.value == ValueType::Double) return floatConstant(static_cast<double>(number), target);
+    }
     std::optional<ConstantValue> known;
     if (expr.kind < ExprKind::Date || expr.kind == ExprKind::Boolean)
         known = constants_.valueOf(expr, module_);
@@ -118,9 +124,20 @@ std::optional<Value> Emitter::constantAs(const Expr& expr, const Type& want, std
     return constant(folded.value, target);
 }
 
+/// The place of a variable of the procedure, if it is a slot and needs no code to be read; null otherwise.
+const Place* Emitter::ownSlot(const Expr& expr) const {
+    if (expr.kind != ExprKind::Name) return nullptr;
+    const Operand& note = noteOf(expr);
+    if (note.kind != OperandKind::Variable || note.entity->owner || note.entity->kind != EntityKind::Variable)
+        return nullptr;
+    const Place& place = places_[note.entity->place];
+    return place.kind == PlaceKind::Slot && !place.isNew ? &place : nullptr;
+}
+
 /// Computes an expression. `target` is a slot of its type that may receive it, or not.
 Value Emitter::valueIn(const Expr& expr, std::optional<std::uint32_t> target) {
     if (expr.kind <= ExprKind::Nothing) return literal(expr, target);
+    if (const auto* own = ownSlot(expr)) return {own->type, own->slot, false, own->entity};
     if (depth_ > kMostNested) {
         isTooLarge_ = true;
         return longConstant(0, std::nullopt);

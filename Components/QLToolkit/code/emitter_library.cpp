@@ -1,5 +1,4 @@
 // Functions of the language's library: some are instructions, the others functions of the runtime.
-#include "Basic/case_folding.h"
 #include "Basic/error_numbers.h"
 #include "Components/QLToolkit/code/emitter.h"
 #include "Components/QLToolkit/code/library_signature.h"
@@ -13,27 +12,9 @@ using image::Op;
 
 namespace {
 
-struct Conversion {
-    std::string_view name;
-    ValueType type;
-};
-constexpr Conversion kConversions[] = {
-    {"CBool", ValueType::Boolean}, {"CByte", ValueType::Byte},  {"CInt", ValueType::Integer},
-    {"CLng", ValueType::Long},     {"CSng", ValueType::Single}, {"CDbl", ValueType::Double},
-    {"CCur", ValueType::Currency}, {"CStr", ValueType::String}, {"CVar", ValueType::Variant}};
-
-/// Functions that are given objects themselves, not the values of their default members.
-bool takesObjects(std::string_view name) {
-    constexpr std::string_view kNames[] = {"CVar",     "IIf",       "IsArray", "IsDate",    "IsEmpty",
-                                           "IsError",  "IsMissing", "IsNull",  "IsNumeric", "IsObject",
-                                           "TypeName", "VarPtr",    "VarType"};
-    return std::any_of(std::begin(kNames), std::end(kNames),
-                       [&](std::string_view each) { return basic::equalNoCase(each, name); });
-}
-
 /// Whether the result may be or hold an object: one that the function makes, or one that it is given.
-bool mayReturnObject(std::string_view name, const Callable& callable) {
-    return callable.result.value == ValueType::Object || takesObjects(name) ||
+bool mayReturnObject(const LibraryFunction& function, const Callable& callable) {
+    return callable.result.value == ValueType::Object || function.takesObjects ||
            std::any_of(callable.parameters.begin(), callable.parameters.end(), [](const ParameterInfo& each) {
                return each.paramArray || each.type.value == ValueType::Object;
            });
@@ -73,23 +54,24 @@ Value Emitter::native(const std::string& name, const Type& result, const std::ve
 
 /// Parameters of functions of the runtime are values, but for those to which they assign.
 Value Emitter::libraryCall(const Entity& entity, const Span<Argument>& given, const std::string& prefix) {
-    const std::string name = prefix + std::string(spelling(entity.name));
-    if (!entity.onDevices && !basic::equalNoCase(name, "CreateObject"))
+    const LibraryFunction& function =
+        prefix.empty() ? layout_.libraryFunction(entity.name) : LibraryFunctions::kOrdinary;
+    if (!entity.onDevices && function.builtin != Builtin::CreateObject)
         return fail(basic::kActionNotSupported, entity.type);
-    if (auto result = intrinsic(name, given)) return *result;
-    if (basic::equalNoCase(name, "CallByName")) return callByName(given);
-    if (basic::equalNoCase(name, "VarPtr")) return variableId(*given[0].value);
+    if (auto result = intrinsic(function, given)) return *result;
+    if (function.builtin == Builtin::CallByName) return callByName(given);
+    if (function.builtin == Builtin::VarPtr) return variableId(*given[0].value);
     NativeCall call;
     const Callable& callable = *entity.get;
     // Option Base counts for the array that Array makes.
     arguments(callable, given, call.list,
-              basic::equalNoCase(name, "Array") ? static_cast<std::int32_t>(module_.arrayBase) : 0);
-    if (!takesObjects(name)) takeDefaultValues(callable, given, call.list);
+              function.builtin == Builtin::Array ? static_cast<std::int32_t>(module_.arrayBase) : 0);
+    if (!function.takesObjects) takeDefaultValues(callable, given, call.list);
     for (const auto& parameter : callable.parameters) call.types.push_back(librarySlotType(parameter));
-    Value made = finish(call, name, libraryResult(callable));
+    Value made = finish(call, prefix + std::string(spelling(entity.name)), libraryResult(callable));
     storeBack(call.list);
     if (callable.result.value == ValueType::Object) made.type = callable.result;
-    if (!mayReturnObject(name, callable)) holdsNoObject(made.slot);
+    if (!mayReturnObject(function, callable)) holdsNoObject(made.slot);
     return made;
 }
 
@@ -121,34 +103,45 @@ Value Emitter::variableId(const Expr& given) {
 }
 
 /// What an instruction does, by the declared types of the arguments.
-std::optional<Value> Emitter::intrinsic(std::string_view name, const Span<Argument>& given) {
-    if (given.empty() || !given[0].value || given[0].name != Symbol::None) return std::nullopt;
+std::optional<Value> Emitter::intrinsic(const LibraryFunction& function, const Span<Argument>& given) {
+    if (function.builtin == Builtin::None || given.empty() || !given[0].value || given[0].name != Symbol::None)
+        return std::nullopt;
     const Expr& first = *given[0].value;
-    // A name is spelled as the program spells it first.
-    const auto is = [&](std::string_view wanted) { return basic::equalNoCase(name, wanted); };
-    if (is("LBound") || is("UBound")) return boundOf(given, is("UBound"));
+    if (function.builtin == Builtin::LowerBound || function.builtin == Builtin::UpperBound)
+        return boundOf(given, function.builtin == Builtin::UpperBound);
     if (given.size() != 1) return std::nullopt;
-    for (const auto& conversion : kConversions)
-        if (is(conversion.name)) return explicitConversion(first, conversion.type);
-    if (is("Len")) return lengthOf(first);
-    const Type type = typeOfExpr(first);
-    if (type.isArray) return std::nullopt;
-    if (is("Sqr")) {
-        const Value number = value(first, {ValueType::Double});
-        const Value result{{ValueType::Double}, temporary({ValueType::Double})};
-        out_.emit(Op::SqrFloat, result.slot, number.slot);
-        return result;
+    switch (function.builtin) {
+    case Builtin::Convert: return explicitConversion(first, function.type);
+    case Builtin::Length: return lengthOf(first);
+    case Builtin::Root: return squareRoot(first);
+    case Builtin::Absolute:
+    case Builtin::Int:
+    case Builtin::Fix: return wholePart(function.builtin, first);
+    default: return std::nullopt;
     }
-    const bool isAbs = is("Abs"), isInt = is("Int"), isFix = is("Fix");
-    if (!isAbs && !isInt && !isFix) return std::nullopt;
+}
+
+std::optional<Value> Emitter::squareRoot(const Expr& expr) {
+    if (typeOfExpr(expr).isArray) return std::nullopt;
+    const Value number = value(expr, {ValueType::Double});
+    const Value result{{ValueType::Double}, temporary({ValueType::Double})};
+    out_.emit(Op::SqrFloat, result.slot, number.slot);
+    return result;
+}
+
+/// Abs, Int and Fix of a number.
+std::optional<Value> Emitter::wholePart(Builtin function, const Expr& expr) {
+    const Type type = typeOfExpr(expr);
+    if (type.isArray) return std::nullopt;
+    const bool isAbs = function == Builtin::Absolute, isInt = function == Builtin::Int;
     if (isFloat(type.value) && type.value != ValueType::Date) {
-        const Value number = value(first);
+        const Value number = value(expr);
         const Value result{type, temporary(type)};
         out_.emit(isAbs ? Op::AbsFloat : isInt ? Op::IntFloat : Op::FixFloat, result.slot, number.slot);
         return result;
     }
     if (!isWhole(type.value) || type.value == ValueType::Boolean) return std::nullopt;
-    const Value number = value(first);
+    const Value number = value(expr);
     if (!isAbs) return number;
     const Value result{type, temporary(type)};
     out_.emit(Op::AbsLong, result.slot, number.slot);

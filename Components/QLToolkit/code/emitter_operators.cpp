@@ -96,24 +96,27 @@ bool isSmall(std::int64_t value) { return value >= -128 && value <= 127; }
 
 // A chain of operators may be long, so its left side is walked in a loop.
 Value Emitter::binary(const Expr& expr, std::optional<std::uint32_t> target) {
-    std::vector<const BinaryExpr*> chain;
+    const auto bottom = chain_.size();
     const auto mark = slots_.mark();
     const Expr* left = &expr;
     while (left->kind == ExprKind::Binary) {
-        chain.push_back(&as<BinaryExpr>(*left));
+        chain_.push_back(&as<BinaryExpr>(*left));
         left = as<BinaryExpr>(*left).left;
     }
-    Value result = chain.back()->op() == Operator::Is ? Value{} : value(*left);
-    for (auto at = chain.rbegin(); at != chain.rend(); ++at) {
-        const bool isLast = std::next(at) == chain.rend();
-        if ((*at)->op() == Operator::Is && at == chain.rbegin())
-            result = isSame(**at);
+    const bool beginsWithIs = chain_.back()->op() == Operator::Is;
+    Value result = beginsWithIs ? Value{} : value(*left);
+    const auto top = chain_.size();
+    for (auto at = top; at-- > bottom;) {
+        const BinaryExpr& next = *chain_[at];
+        if (beginsWithIs && at + 1 == top)
+            result = isSame(next);
         else
-            result = operate(**at, result, isLast ? target : std::nullopt);
+            result = operate(next, result, at == bottom ? target : std::nullopt);
         // An operator's result is no object, and the chain needs nothing else of what was computed.
         clearObjects(mark, result.slot);
         slots_.keepOnly(mark, result.slot);
     }
+    chain_.resize(bottom);
     return result;
 }
 

@@ -99,8 +99,10 @@ Place Emitter::ownPlace(const Entity& entity, const Expr& expr) {
     return result;
 }
 
-Place Emitter::variablePlace(const Entity& entity) {
-    if (const auto found = places_.find(&entity); found != places_.end()) return found->second;
+Place Emitter::variablePlace(const Entity& entity) const {
+    if (!entity.owner) return places_[entity.place];
+    if (!shared_.empty())
+        if (const auto found = shared_.find(&entity); found != shared_.end()) return found->second;
     Place result;
     result.type = known(entity.type);
     result.offset = entity.place;
@@ -198,10 +200,14 @@ Place Emitter::indexPlace(const IndexExpr& expr) {
     } else {
         result.object = toVariant(load(holder), {});
     }
+    std::vector<std::uint16_t> slots;
     for (const auto& each : expr.arguments) {
         const Value index = each.value ? variantOf(*each.value) : missing();
-        result.indexes.push_back(static_cast<std::uint16_t>(index.slot));
+        slots.push_back(static_cast<std::uint16_t>(index.slot));
     }
+    result.firstIndex = static_cast<std::uint32_t>(indexes_.size());
+    result.indexes = expr.arguments.size();
+    indexes_.insert(indexes_.end(), slots.begin(), slots.end());
     return result;
 }
 

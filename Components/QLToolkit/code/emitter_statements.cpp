@@ -10,7 +10,7 @@ namespace qltoolkit {
 using image::Op;
 
 void Emitter::beginLine(Pos pos) {
-    out_.line(module_.tree.source.lineOf(pos));
+    out_.line(lines_.lineOf(pos));
     out_.statement();
 }
 

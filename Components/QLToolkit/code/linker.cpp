@@ -4,12 +4,13 @@
 
 namespace qltoolkit {
 
-Linker::Linker(const ProgramLayout& layout)
+Linker::Linker(const ProgramLayout& layout, std::size_t words)
     : layout_(layout), constants_(const_cast<Program&>(layout.program())), staticSlots_(layout.globalSlots()) {
     image_.records = layout.records();
     image_.arrays = layout.arrays();
     image_.globals = layout.globals();
     image_.procedures.resize(layout.procedures());
+    image_.code.reserve(words);
 }
 
 std::uint32_t Linker::text(std::string_view text) {
@@ -56,29 +57,30 @@ void Linker::addCode(ModuleCode& code, const std::vector<std::uint32_t>& texts, 
         }
     }
     image_.arrays.insert(image_.arrays.end(), code.arrays.begin(), code.arrays.end());
-    const auto words = static_cast<std::uint32_t>(image_.code.size());
     const auto numbers = static_cast<std::uint32_t>(image_.numbers.size());
-    image_.code.insert(image_.code.end(), code.code.begin(), code.code.end());
     image_.numbers.insert(image_.numbers.end(), code.numbers.begin(), code.numbers.end());
+    for (auto& [number, procedure] : code.procedures) procedure.numbers += numbers;
+    addProcedures(code, texts, module);
+}
+
+/// Procedures were made in the order of their numbers, but for the one that prepares the module.
+void Linker::addProcedures(ModuleCode& code, const std::vector<std::uint32_t>& texts, std::uint32_t module) {
     for (auto& [number, procedure] : code.procedures) {
-        procedure.code += words;
-        procedure.numbers += numbers;
+        auto& words = layout_.isPrepare(number) ? prepares_ : image_.code;
+        const auto* begin = code.code.data() + procedure.code;
+        procedure.code = static_cast<std::uint32_t>(words.size());
+        words.insert(words.end(), begin, begin + procedure.words);
         procedure.module = module;
         if (procedure.name != image::kNone) procedure.name = texts[procedure.name];
         image_.procedures[number] = std::move(procedure);
     }
 }
 
-/// Puts the code of procedures in their order.
 image::CodeImage Linker::finish() {
-    std::vector<std::uint32_t> code;
-    code.reserve(image_.code.size());
-    for (auto& procedure : image_.procedures) {
-        const auto* begin = image_.code.data() + procedure.code;
-        procedure.code = static_cast<std::uint32_t>(code.size());
-        code.insert(code.end(), begin, begin + procedure.words);
-    }
-    image_.code = std::move(code);
+    const auto ordinary = static_cast<std::uint32_t>(image_.code.size());
+    for (std::uint32_t number = 0; number < image_.procedures.size(); ++number)
+        if (layout_.isPrepare(number)) image_.procedures[number].code += ordinary;
+    image_.code.insert(image_.code.end(), prepares_.begin(), prepares_.end());
     return std::move(image_);
 }
 

@@ -7,7 +7,8 @@ namespace qltoolkit {
 
 class Linker {
 public:
-    explicit Linker(const ProgramLayout& layout);
+    /// `words`: of the code of all modules.
+    Linker(const ProgramLayout& layout, std::size_t words);
 
     /// Modules are added in their order.
     void add(const SourceModule& module, ModuleCode& code, std::uint32_t prepare);
@@ -16,6 +17,7 @@ public:
 private:
     std::uint32_t text(std::string_view text);
     void addCode(ModuleCode& code, const std::vector<std::uint32_t>& texts, std::uint32_t module);
+    void addProcedures(ModuleCode& code, const std::vector<std::uint32_t>& texts, std::uint32_t module);
     void addClass(const SourceModule& module, const ModuleCode& code, std::uint32_t number, std::uint32_t prepare);
     void addMembers(image::ClassInfo& made, const SourceModule& module);
     [[nodiscard]] std::uint32_t implementationOf(const SourceModule& module, const Scope& interface,
@@ -31,6 +33,7 @@ private:
     const ProgramLayout& layout_;
     Constants constants_;
     image::CodeImage image_;
+    std::vector<std::uint32_t> prepares_; // the code of the procedures that prepare modules, which follow all others
     std::uint32_t staticSlots_;
     std::unordered_map<std::string, std::uint32_t> texts_;
     std::map<std::vector<std::uint32_t>, std::uint32_t> imports_;

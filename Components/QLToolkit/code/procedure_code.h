@@ -3,6 +3,7 @@
 #include "Components/Image/code/instruction.h"
 #include "Components/QLToolkit/code/module_code.h"
 #include <bit>
+#include <span>
 
 namespace qltoolkit {
 
@@ -42,7 +43,7 @@ public:
         words_.push_back(number);
     }
     /// Slots or arguments, two a word.
-    void halves(const std::vector<std::uint16_t>& list) {
+    void halves(std::span<const std::uint16_t> list) {
         for (std::size_t i = 0; i < list.size(); i += 2)
             words_.push_back(list[i] | (i + 1 < list.size() ? std::uint32_t{list[i + 1]} << 16 : 0));
     }

@@ -6,27 +6,7 @@ using image::BaseType;
 using image::SlotType;
 using image::TypeForm;
 
-BaseType baseTypeOf(ValueType value) {
-    switch (value) {
-    case ValueType::Boolean: return BaseType::Boolean;
-    case ValueType::Byte: return BaseType::Byte;
-    case ValueType::Integer: return BaseType::Integer;
-    case ValueType::Long: return BaseType::Long;
-    case ValueType::Single: return BaseType::Single;
-    case ValueType::Double: return BaseType::Double;
-    case ValueType::Currency: return BaseType::Currency;
-    case ValueType::Date: return BaseType::Date;
-    case ValueType::String:
-    case ValueType::FixedString: return BaseType::Text;
-    case ValueType::Object:
-    case ValueType::Nothing: return BaseType::Object;
-    case ValueType::Record: return BaseType::Record;
-    case ValueType::None: return BaseType::None;
-    default: return BaseType::Variant;
-    }
-}
-
-ProgramLayout::ProgramLayout(Program& program) : program_(program) {
+ProgramLayout::ProgramLayout(Program& program) : program_(program), functions_(program.symbols) {
     numberClasses();
     numberRecords();
     numberProcedures();
@@ -40,18 +20,8 @@ std::uint32_t ProgramLayout::classOf(std::uint32_t scope) const {
 
 std::uint32_t ProgramLayout::exactClass(const Type& type) const { return isInterface(type.id) ? 0 : classOf(type.id); }
 
-SlotType ProgramLayout::typeOf(const Type& type) const {
-    const BaseType base = baseTypeOf(type.value);
-    std::uint32_t id = 0;
-    if (base == BaseType::Object) id = exactClass(type);
-    if (base == BaseType::Record) id = recordOf(type.id);
-    return {base, type.isArray ? TypeForm::Array : TypeForm::Value, id};
-}
-
-SlotType ProgramLayout::slotTypeOf(const Type& type) const {
-    SlotType result = typeOf(type);
-    if (!type.isArray) result.base = image::slotBase(result.base);
-    return result;
+std::uint32_t ProgramLayout::numberOf(const Type& type, BaseType base) const {
+    return base == BaseType::Object ? exactClass(type) : recordOf(type.id);
 }
 
 SlotType ProgramLayout::referenceTo(const Type& type) const {

@@ -1,6 +1,7 @@
 #pragma once
 // The numbers of a program's procedures, variables, records and classes, which all modules must know before code is made.
 #include "Components/Image/code/code_image.h"
+#include "Components/QLToolkit/code/library_functions.h"
 #include "Components/QLToolkit/names/constants.h"
 #include <unordered_map>
 #include <unordered_set>
@@ -8,7 +9,26 @@
 namespace qltoolkit {
 
 /// The type as elements and fields have it.
-[[nodiscard]] image::BaseType baseTypeOf(ValueType value);
+[[nodiscard]] constexpr image::BaseType baseTypeOf(ValueType value) {
+    using image::BaseType;
+    switch (value) {
+    case ValueType::Boolean: return BaseType::Boolean;
+    case ValueType::Byte: return BaseType::Byte;
+    case ValueType::Integer: return BaseType::Integer;
+    case ValueType::Long: return BaseType::Long;
+    case ValueType::Single: return BaseType::Single;
+    case ValueType::Double: return BaseType::Double;
+    case ValueType::Currency: return BaseType::Currency;
+    case ValueType::Date: return BaseType::Date;
+    case ValueType::String:
+    case ValueType::FixedString: return BaseType::Text;
+    case ValueType::Object:
+    case ValueType::Nothing: return BaseType::Object;
+    case ValueType::Record: return BaseType::Record;
+    case ValueType::None: return BaseType::None;
+    default: return BaseType::Variant;
+    }
+}
 
 /// Whether a procedure writes its result to a record of the caller, to which its first parameter refers.
 [[nodiscard]] inline bool returnsRecord(const Callable& callable) {
@@ -26,9 +46,18 @@ public:
     explicit ProgramLayout(Program& program);
 
     /// The declared type: of an array with its elements, otherwise as in a field.
-    [[nodiscard]] image::SlotType typeOf(const Type& type) const;
+    [[nodiscard]] image::SlotType typeOf(const Type& type) const {
+        const auto base = baseTypeOf(type.value);
+        const bool isNumbered = base == image::BaseType::Object || base == image::BaseType::Record;
+        return {base, type.isArray ? image::TypeForm::Array : image::TypeForm::Value,
+                isNumbered ? numberOf(type, base) : 0};
+    }
     /// The type of the slot that a value has. Of a record only its number counts.
-    [[nodiscard]] image::SlotType slotTypeOf(const Type& type) const;
+    [[nodiscard]] image::SlotType slotTypeOf(const Type& type) const {
+        auto result = typeOf(type);
+        if (!type.isArray) result.base = image::slotBase(result.base);
+        return result;
+    }
     [[nodiscard]] image::SlotType referenceTo(const Type& type) const;
     /// How many slots a variable takes.
     [[nodiscard]] std::uint32_t slotsOf(const Type& type) const;
@@ -57,14 +86,18 @@ public:
     [[nodiscard]] std::uint32_t prepareOf(std::size_t module) const {
         return firstPrepare_ + static_cast<std::uint32_t>(module);
     }
+    [[nodiscard]] bool isPrepare(std::uint32_t procedure) const { return procedure >= firstPrepare_; }
     [[nodiscard]] std::uint32_t fieldSlots(std::uint32_t scope) const { return fieldSlots_.at(scope); }
     [[nodiscard]] const Program& program() const { return program_; }
+    [[nodiscard]] const LibraryFunction& libraryFunction(Symbol name) const { return functions_.of(name); }
 
     /// The shape of an array with bounds.
     [[nodiscard]] image::ArrayShape shapeOf(const Entity& entity, SourceModule& module, Constants& constants,
                                             LocalConstants local = nullptr) const;
 
 private:
+    /// Of a class or record.
+    [[nodiscard]] std::uint32_t numberOf(const Type& type, image::BaseType base) const;
     void numberClasses();
     void numberRecord(const Scope& scope, Constants& constants);
     void numberRecords();
@@ -72,6 +105,7 @@ private:
     void placeVariables();
 
     Program& program_;
+    LibraryFunctions functions_;
     std::unordered_map<std::uint32_t, std::uint32_t> classes_, records_, recordSlots_, predeclared_, fieldSlots_;
     std::unordered_set<std::uint32_t> interfaces_, prepared_;
     std::vector<image::RecordLayout> layouts_;

@@ -38,27 +38,26 @@ std::uint32_t Slots::allocate(image::SlotType type, std::uint32_t slots, bool is
     return slot;
 }
 
-void Slots::releaseTo(std::size_t mark) {
-    while (inUse_.size() > mark) {
-        temporaries_.push_back(inUse_.back());
-        inUse_.pop_back();
-    }
-}
-
 void Slots::keepOnly(std::size_t mark, std::uint32_t slot) {
-    std::vector<Temporary> kept;
-    for (std::size_t i = mark; i < inUse_.size(); ++i)
-        (inUse_[i].slot == slot ? kept : temporaries_).push_back(inUse_[i]);
-    inUse_.resize(mark);
-    inUse_.insert(inUse_.end(), kept.begin(), kept.end());
+    std::size_t kept = mark;
+    for (std::size_t i = mark; i < inUse_.size(); ++i) {
+        if (inUse_[i].slot == slot)
+            inUse_[kept++] = inUse_[i];
+        else
+            temporaries_.push_back(inUse_[i]);
+    }
+    inUse_.resize(kept);
 }
 
 std::uint32_t Slots::count() const { return std::max(next_, nextTemporary_); }
 
 std::vector<image::SlotVariable> Slots::variables() const {
     auto sorted = variables_;
-    std::sort(sorted.begin(), sorted.end(), [](const Placed& a, const Placed& b) { return a.slot < b.slot; });
+    // Only where temporaries come before variables they are not in order already.
+    if (isLarge_)
+        std::sort(sorted.begin(), sorted.end(), [](const Placed& a, const Placed& b) { return a.slot < b.slot; });
     std::vector<image::SlotVariable> result;
+    result.reserve(sorted.size());
     std::uint32_t next = 0;
     for (const auto& each : sorted) {
         for (; next < each.slot; ++next) result.push_back({{image::BaseType::Long, {}, 0}, false});

@@ -52,7 +52,9 @@ public:
 
     /// Temporaries in use. releaseTo gives back those that were taken since.
     [[nodiscard]] std::size_t mark() const { return inUse_.size(); }
-    void releaseTo(std::size_t mark);
+    void releaseTo(std::size_t mark) {
+        for (; inUse_.size() > mark; inUse_.pop_back()) temporaries_.push_back(inUse_.back());
+    }
 
     /// As releaseTo, but for one slot.
     void keepOnly(std::size_t mark, std::uint32_t slot);

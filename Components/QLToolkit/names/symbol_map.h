@@ -6,15 +6,15 @@
 
 namespace qltoolkit {
 
-/// Open addressing. Symbols are numbered from 1 in the order of their first occurrence, so the lowest bits distribute
-/// them well. Removal is not needed.
+/// Open addressing. Names that first occur one after the other, such as those of modules, have consecutive symbols: they are
+/// spread, since a look-up of a name that is absent would walk along the whole run. Removal is not needed.
 template <class T>
 class SymbolMap {
 public:
     [[nodiscard]] T* find(Symbol symbol) const {
         if (slots_.empty()) return nullptr;
         const std::size_t mask = slots_.size() - 1;
-        for (std::size_t at = static_cast<std::size_t>(symbol) & mask; slots_[at].value; at = (at + 1) & mask)
+        for (std::size_t at = home(symbol); slots_[at].value; at = (at + 1) & mask)
             if (slots_[at].symbol == symbol) return slots_[at].value;
         return nullptr;
     }
@@ -31,7 +31,7 @@ public:
     void replace(Symbol symbol, T* value) {
         if (add(symbol, value)) return;
         const std::size_t mask = slots_.size() - 1;
-        std::size_t at = static_cast<std::size_t>(symbol) & mask;
+        std::size_t at = home(symbol);
         while (slots_[at].symbol != symbol) at = (at + 1) & mask;
         slots_[at].value = value;
     }
@@ -52,9 +52,13 @@ private:
     };
     static constexpr std::size_t kFirstSlots = 8;
 
+    [[nodiscard]] std::size_t home(Symbol symbol) const {
+        return static_cast<std::uint64_t>(symbol) * 0x9E3779B97F4A7C15u >> shift_;
+    }
+
     void put(Symbol symbol, T* value) {
         const std::size_t mask = slots_.size() - 1;
-        std::size_t at = static_cast<std::size_t>(symbol) & mask;
+        std::size_t at = home(symbol);
         while (slots_[at].value) at = (at + 1) & mask;
         slots_[at] = {symbol, value};
     }
@@ -62,12 +66,14 @@ private:
     void grow() {
         std::vector<Slot> old(slots_.empty() ? kFirstSlots : slots_.size() * 2);
         old.swap(slots_);
+        shift_ = 64 - static_cast<unsigned>(std::countr_zero(slots_.size()));
         for (const auto& slot : old)
             if (slot.value) put(slot.symbol, slot.value);
     }
 
     std::vector<Slot> slots_;
     std::size_t size_ = 0;
+    unsigned shift_ = 0;
 };
 
 } // namespace qltoolkit
