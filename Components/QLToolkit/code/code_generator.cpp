@@ -77,7 +77,7 @@ std::vector<EntryPoint> CodeGenerator::entryPoints() const {
     return entries;
 }
 
-image::CodeImage CodeGenerator::link(std::string_view start, std::uint32_t codePage) {
+image::CodeImage CodeGenerator::link(const ImageParts& parts) {
     Linker linker{work_->layout};
     std::size_t index = 0;
     for (auto& module : work_->modules) {
@@ -85,8 +85,9 @@ image::CodeImage CodeGenerator::link(std::string_view start, std::uint32_t codeP
         ++index;
     }
     auto result = linker.finish();
-    result.start = startOf(work_->layout.program(), start);
-    result.codePage = codePage;
+    result.start = startOf(work_->layout.program(), parts.start);
+    result.codePage = parts.codePage;
+    result.resources = parts.resources;
     return result;
 }
 
