@@ -51,6 +51,7 @@ inline std::string imageOf(const Case& one, const std::vector<SourceFile>& files
                 throw std::runtime_error(found.file + ":" + std::to_string(found.line) + ": " + found.text);
     if (!made.code) throw std::runtime_error("no code for " + one.title);
     image::Image whole;
+    whole.projectName = options.projectName;
     whole.code = std::move(*made.code);
     return image::encode(whole);
 }

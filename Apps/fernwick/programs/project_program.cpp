@@ -78,7 +78,7 @@ ProjectProgram compileProgram(const Options& options, StartObject start, Console
     if (!compiled.code) return program;
     if (start == StartObject::SubMain && compiled.code->start == image::kNone)
         throw Refusal(kProjectErrors, project.path + ": no module has a Sub Main.");
-    program.program = std::make_shared<const tamarik::Program>(verified(std::move(*compiled.code)));
+    program.program = std::make_shared<const tamarik::Program>(verified(std::move(*compiled.code)), project.name);
     program.entries = std::move(compiled.entries);
     return program;
 }
