@@ -16,6 +16,7 @@ public:
     }
     ModuleCode& finish(std::uint32_t prepare) {
         emitter_.prepare(prepare);
+        emitter_.fieldAccesses();
         return code_;
     }
     [[nodiscard]] SourceModule& module() const { return module_; }

@@ -68,6 +68,8 @@ public:
     void procedure(const ProcedureDecl& decl, const Entity& entity, const ProcedureNames& names, const Notes& notes);
     /// The procedure that prepares the variables of the module or the fields of the class.
     void prepare(std::uint32_t number);
+    /// The procedures through which other classes reach the variables of the class.
+    void fieldAccesses();
 
 private:
     using Op = image::Op;
@@ -80,6 +82,9 @@ private:
     void placeVariable(const Entity& entity);
     void prepareVariable(const Place& place, const Entity& entity);
     void prepareLocals();
+    void readField(const Entity& field, const Callable& callable);
+    void assignField(const Entity& field, const Callable& callable, bool isSet);
+    void beginAccess(const Entity& field, image::Procedure& made);
     void prepareOne(const Place& place, const Entity& entity);
     void shareArrays();
     void shareArray(const Entity& entity, const Place& place);
@@ -268,6 +273,7 @@ private:
                                                                  const Span<Argument>& given) const;
     static std::uint16_t passedAddress(std::uint32_t slot) { return image::encodeArgument(image::Pass::Address, slot); }
     void storeBack(const std::vector<PassedArgument>& passed);
+    Value boxed(const Value& object);
     void arguments(const Callable& callable, const Span<Argument>& given, std::vector<PassedArgument>& list,
                    std::int32_t base = 0);
     Value defaultOf(const Callable& callable, const ParameterInfo& parameter);

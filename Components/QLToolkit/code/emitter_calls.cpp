@@ -9,15 +9,6 @@ using image::LateUse;
 using image::Op;
 using image::Pass;
 
-namespace {
-
-bool takesLastByVal(const ProcedureDecl& decl) {
-    const auto& parameters = decl.signature.parameters;
-    return parameters[parameters.size() - 1].passing == Passing::ByVal;
-}
-
-} // namespace
-
 /// A procedure that is called, with the object before it if it has one.
 Place Emitter::procedurePlace(const Entity& entity, const Expr& expr, const Span<Argument>* given) {
     static const Span<Argument> kNoArguments{};
@@ -71,7 +62,7 @@ Value Emitter::call(const Callable& callable, const Span<Argument>& given, const
     } else if (assigned) {
         const Type type = callable.result;
         const bool isObject = type.value == ValueType::Object;
-        const bool byVal = callable.body && takesLastByVal(*callable.body);
+        const bool byVal = takesValueByVal(callable);
         const auto slot = temporary(type);
         (void)convert(isObject ? *assigned : Value{assigned->type, assigned->slot, false}, type, slot);
         list.push_back({byVal ? passed({type, slot}) : passedAddress(slot), {}, {}});
@@ -95,13 +86,22 @@ Value Emitter::call(const Callable& callable, const Span<Argument>& given, const
     return result;
 }
 
-/// The place of a procedure among the members of an interface.
+/// The place of a procedure among the members of an interface: its procedures, then each field with its own.
 std::uint32_t Emitter::memberNumber(const Entity& entity, const Callable& callable) const {
     std::uint32_t number = 0;
     for (const auto& [member, decl] : entity.owner->source->callables) {
         if (decl->kind != DeclKind::Procedure) continue;
         if (decl == callable.body) return number;
         ++number;
+    }
+    for (const auto& [field, decl] : entity.owner->source->variables) {
+        if (!isLateField(*field)) continue;
+        ++number;
+        const auto& property = layout_.accessTo(*field)->property;
+        for (const auto* each : {property.get, property.let, property.set}) {
+            if (each == &callable) return number;
+            if (each) ++number;
+        }
     }
     return 0;
 }
