@@ -274,6 +274,7 @@ private:
     static std::uint16_t passedAddress(std::uint32_t slot) { return image::encodeArgument(image::Pass::Address, slot); }
     void storeBack(const std::vector<PassedArgument>& passed);
     Value boxed(const Value& object);
+    void storeBackAfterCall(const std::vector<PassedArgument>& passed);
     void arguments(const Callable& callable, const Span<Argument>& given, std::vector<PassedArgument>& list,
                    std::int32_t base = 0);
     Value defaultOf(const Callable& callable, const ParameterInfo& parameter);

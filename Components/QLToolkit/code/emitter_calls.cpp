@@ -1,7 +1,6 @@
 // Calls of procedures of the project, and of members that are found by name.
 #include "Basic/error_numbers.h"
 #include "Components/QLToolkit/code/emitter.h"
-#include <algorithm>
 
 namespace qltoolkit {
 
@@ -78,11 +77,7 @@ Value Emitter::call(const Callable& callable, const Span<Argument>& given, const
         out_.extra(callable.number);
     }
     words(list);
-    const bool copies = std::ranges::any_of(
-        list, [](const PassedArgument& each) { return each.storedTo.has_value() || !each.elements.empty(); });
-    if (copies) out_.emit(Op::StoreBack);
-    storeBack(list);
-    if (copies) out_.emit(Op::EndStoreBack);
+    storeBackAfterCall(list);
     return result;
 }
 
@@ -134,7 +129,7 @@ Value Emitter::lateCall(const Place& member, LateUse use, const Value* assigned,
     out_.extra(static_cast<std::uint32_t>(use) | static_cast<std::uint32_t>(named.size()) << 8);
     for (const auto name : named) out_.extra(out_.module().text(std::string(spelling(name))), FixKind::Text);
     out_.halves(slots);
-    storeBack(copies);
+    storeBackAfterCall(copies);
     const bool isTyped = wantsResult && member.type.value != ValueType::Variant && !member.type.isArray &&
                          member.type.value != ValueType::Unknown && member.type.value != ValueType::None &&
                          member.type.value != ValueType::Record;
@@ -151,7 +146,7 @@ Value Emitter::callByName(const Span<Argument>& given) {
     const Value result{{ValueType::Variant}, temporary({ValueType::Variant})};
     out_.emit(Op::CallByName, result.slot, object.slot, static_cast<std::uint32_t>(slots.size()));
     out_.halves(slots);
-    storeBack(copies);
+    storeBackAfterCall(copies);
     return result;
 }
 

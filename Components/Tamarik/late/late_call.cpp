@@ -6,6 +6,7 @@
 #include "Components/Tamarik/vm/slot_values.h"
 #include "Components/Tamarik/vm/slot_variants.h"
 #include "Components/Tamarik/vm/variant_operations.h"
+#include <new>
 #include <utility>
 
 namespace tamarik {
@@ -40,18 +41,27 @@ public:
             return;
         }
         result_ = result;
-        arguments_.writeBack(m);
+        isCalling_ = false;
+        arguments_.writeBack(m.heap);
         arguments_.release(m.heap);
         continueWith(m, nextArguments_);
     }
 
     void release(Heap& heap) override {
+        if (isCalling_) writeBackOfFailed(heap);
         tamarik::release(heap, std::exchange(result_, {}));
         request_.release();
         arguments_.release(heap);
     }
 
 private:
+    /// An error must still reach its handler, so one in here counts as no assignment.
+    void writeBackOfFailed(Heap& heap) {
+        try {
+            arguments_.writeBack(heap);
+        } catch (const std::bad_alloc&) {}
+    }
+
     /// One step; false if code was called.
     bool advance(Execution& m) {
         requireObject(request_.object);
@@ -131,6 +141,7 @@ private:
         Slot* const base = m.pushFrame(procedure, FrameKind::TaskCall);
         retain(base[0].object = &object);
         arguments_.moveTo(m.heap, base + 1);
+        isCalling_ = true;
         return false;
     }
 
@@ -173,6 +184,7 @@ private:
     Variant* waitsFor_ = nullptr;
     std::size_t nextArguments_ = 0;
     int defaults_ = 0;
+    bool isCalling_ = false; ///< the member
     bool isDone_ = false;
 };
 
