@@ -71,9 +71,16 @@ private:
             return callMemberOf(m, static_cast<Instance&>(object), *member);
         // A property that returns an object: the value is assigned to that object's default member.
         const ClassMember* const getter = memberFor(m, request_, LateUse::Get);
-        if (!request_.assigns() || !getter || (getter->use == MemberUse::Method) || request_.arguments.size() < 2)
+        const bool isIndexed = request_.arguments.size() > 1;
+        if (!request_.assigns() || !getter || getter->use == MemberUse::Method ||
+            !(isIndexed || isOfDefault(getter->result)))
             throw basic::RuntimeError(basic::kPropertyOrMethodNotSupported);
         return callProcedure(m, static_cast<Instance&>(object), *getter, 0);
+    }
+
+    /// Whether a value that is assigned to an object is one for its default member.
+    [[nodiscard]] bool isOfDefault(image::BaseType member) const {
+        return request_.use == LateUse::Let && member == image::BaseType::Object;
     }
 
     bool callLibrary(Execution& m, LibraryObject& object) {
@@ -109,7 +116,7 @@ private:
     bool useField(Execution& m, Instance& object, const ClassMember& member) {
         Slot* const field = object.fields() + member.target;
         const image::SlotType type = typeOfField(m, object, member);
-        if (request_.assigns() && request_.arguments.size() == 1) {
+        if (request_.assigns() && request_.arguments.size() == 1 && !isOfDefault(member.result)) {
             if (Variant* const unresolved = valueNeeded(request_.arguments[0], type)) return resolve(m, *unresolved);
             storeInSlot(m, field, type, member.result, request_.arguments[0]);
             isDone_ = true;
