@@ -209,7 +209,7 @@ private:
     [[nodiscard]] Type typeOfExpr(const Expr& expr) const;
     void condition(const Expr& expr, bool when, Label target);
     bool compareCondition(const BinaryExpr& expr, bool when, Label target);
-    void clearObjects(std::size_t mark, std::uint32_t except = image::kNoSlot);
+    void clearObjects(std::size_t mark);
     bool mayChange(const Expr& expr, const Value& value) const;
     bool mentions(const Expr& expr, const Entity* entity) const;
     bool isPure(const Expr& expr, const Entity* variable) const;
@@ -274,6 +274,8 @@ private:
     static std::uint16_t passedAddress(std::uint32_t slot) { return image::encodeArgument(image::Pass::Address, slot); }
     void storeBack(const std::vector<PassedArgument>& passed);
     Value boxed(const Value& object);
+    void clearObject(Slots::Temporary& temporary);
+    void releaseOperands(std::size_t mark, std::uint32_t result);
     void storeBackAfterCall(const std::vector<PassedArgument>& passed);
     void arguments(const Callable& callable, const Span<Argument>& given, std::vector<PassedArgument>& list,
                    std::int32_t base = 0);

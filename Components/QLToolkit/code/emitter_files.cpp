@@ -75,8 +75,7 @@ void Emitter::print(const PrintStmt& stmt) {
         const auto mark = slots_.mark();
         if (item.value) printItem(*item.value, to, isWrite);
         if (item.separator == PrintSeparator::Comma && !isWrite) printPart(to, "PrintZone", {});
-        clearObjects(mark);
-        slots_.releaseTo(mark);
+        releaseOperands(mark, image::kNoSlot);
         endsLine = item.separator == PrintSeparator::None;
     }
     if (endsLine) printPart(to, isWrite ? "WriteLine" : "PrintLine", {});

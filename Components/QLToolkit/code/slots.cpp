@@ -45,10 +45,10 @@ void Slots::releaseTo(std::size_t mark) {
     }
 }
 
-void Slots::keepOnly(std::size_t mark, std::uint32_t slot) {
+void Slots::keepHeld(std::size_t mark, std::uint32_t slot) {
     std::vector<Temporary> kept;
     for (std::size_t i = mark; i < inUse_.size(); ++i)
-        (inUse_[i].slot == slot ? kept : temporaries_).push_back(inUse_[i]);
+        (inUse_[i].slot == slot || inUse_[i].mustClear ? kept : temporaries_).push_back(inUse_[i]);
     inUse_.resize(mark);
     inUse_.insert(inUse_.end(), kept.begin(), kept.end());
 }

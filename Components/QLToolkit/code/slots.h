@@ -54,8 +54,8 @@ public:
     [[nodiscard]] std::size_t mark() const { return inUse_.size(); }
     void releaseTo(std::size_t mark);
 
-    /// As releaseTo, but for one slot.
-    void keepOnly(std::size_t mark, std::uint32_t slot);
+    /// As releaseTo, but for one slot and those that must be cleared first.
+    void keepHeld(std::size_t mark, std::uint32_t slot);
 
     struct Temporary {
         std::uint32_t slot;
