@@ -36,7 +36,7 @@ int main(int argc, char** argv) {
     std::vector<const qltoolkit::SourceText*> all;
     for (const auto& source : sources) all.push_back(source.get());
     unsigned long errors = 0, lines = 0;
-    auto made = imagePath ? qltoolkit::compileProject(all, {}, options, "Main", 1252)
+    auto made = imagePath ? qltoolkit::compileProject(all, {}, options, {"Main", 1252})
                           : qltoolkit::CompiledProject{qltoolkit::checkProject(all, {}, options), {}, {}};
     if (made.code) {
         image::Image whole;

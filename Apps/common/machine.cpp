@@ -66,7 +66,7 @@ void Machine::registerComponents() {
         [this] { return basic::make<designtargetaccess::DesignTargetMgr>(installation_); });
     add("QLToolkit.CompilerFactory", [this] {
         return basic::make<qltoolkit::ProjectCompilerFactory>(
-            qltoolkit::CompilerServices{*files_, classes_, build_, codePageOfSource_,
+            qltoolkit::CompilerServices{*files_, classes_, build_, codePageOfSource_, resourceFileOfProject_,
                                         [this](const std::string& guid) { return libraries_.find(guid); }});
     });
     add("Scripting.FileSystemObject", [] { return basic::make<host::FileSystem>(); });

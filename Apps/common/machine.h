@@ -50,6 +50,10 @@ public:
     void codePageOfSource(std::function<basic::CodePage(const std::string& path)> page) {
         codePageOfSource_ = std::move(page);
     }
+    /// Sets the resource file of a project for the compiler, by the path of its image without the suffix.
+    void resourceFileOfProject(std::function<std::string(const std::string& outputPath)> file) {
+        resourceFileOfProject_ = std::move(file);
+    }
     /// Record of the last build.
     const qltoolkit::BuildRecord& build() const { return *build_; }
     /// Record of the pipes' transfers; clear it before a run.
@@ -75,6 +79,7 @@ private:
     fernwick::NoWindows noWindows_;
     host::Resources resources_;
     std::function<basic::CodePage(const std::string&)> codePageOfSource_;
+    std::function<std::string(const std::string&)> resourceFileOfProject_;
     std::shared_ptr<qltoolkit::BuildRecord> build_ = std::make_shared<qltoolkit::BuildRecord>();
     std::shared_ptr<qlpipe::TransferRecord> transfers_ = std::make_shared<qlpipe::TransferRecord>();
     std::vector<std::shared_ptr<void>> registered_;

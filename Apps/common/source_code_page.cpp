@@ -13,11 +13,4 @@ basic::CodePage codePageOfSource(host::Host& host, const std::string& path) {
     return basic::CodePage::windows1252();
 }
 
-void compileInHostCodePages(Machine& machine, const std::shared_ptr<host::Host>& host) {
-    machine.codePageOfSource([open = std::weak_ptr(host)](const std::string& path) {
-        const auto host = open.lock();
-        return host ? codePageOfSource(*host, path) : basic::CodePage::windows1252();
-    });
-}
-
 } // namespace apps

@@ -1,5 +1,5 @@
 #include "Components/QLToolkit/check.h"
-#include "Components/QLToolkit/parser/form_header.h"
+#include "Components/QLToolkit/parsed_program.h"
 #include "Components/QLToolkit/parser/parse_all.h"
 #include <algorithm>
 #include <filesystem>
@@ -42,52 +42,35 @@ namespace {
 
 using Sources = std::vector<const SourceText*>;
 
-/// `finish` is called while the trees exist, if the program could be checked.
-template <class Finish>
-std::vector<CheckResult> check(const Sources& sources, const ConditionalConstants& constants,
-                               const ProgramOptions& options, CodeSink* code, const Finish& finish) {
+ParsedProgram check(const Sources& sources, const ConditionalConstants& constants, const ProgramOptions& options,
+                    const ImageParts* wanted, std::vector<CheckResult>& results) {
     SymbolTable symbols;
     auto parsed = parseModules(sources, symbols, constants, options.threads);
-    std::vector<CheckResult> results;
-    std::vector<ParsedModule> modules;
-    std::vector<std::size_t> places; // in the results, of the modules
+    std::vector<ParsedSource> all;
+    for (std::size_t i = 0; i < sources.size(); ++i) all.push_back({sources[i], &parsed[i]});
+    auto program = compileParsed(all, symbols, options, wanted);
     for (std::size_t i = 0; i < sources.size(); ++i) {
-        const bool isRight = parsed[i].module && parsed[i].errors == 0;
         results.push_back({std::move(parsed[i].diagnostics), parsed[i].errors, sources[i]->lineCount()});
-        if (!isRight) continue;
-        modules.push_back({parsed[i].module.get(), readFormHeader(*sources[i])});
-        places.push_back(i);
+        addMessages(results.back(), std::move(program.messages[i]));
     }
-    const bool isWhole = modules.size() == sources.size();
-    auto known = options;
-    known.lacksFiles |= !isWhole;
-    checkProgram(
-        modules, symbols, known,
-        [&](std::vector<std::vector<Diagnostic>> messages) {
-            for (std::size_t i = 0; i < places.size(); ++i) addMessages(results[places[i]], std::move(messages[i]));
-            finish(results);
-        },
-        isWhole ? code : nullptr);
-    return results;
+    return program;
 }
 
 } // namespace
 
 std::vector<CheckResult> checkProject(const Sources& sources, const ConditionalConstants& constants,
                                       const ProgramOptions& options) {
-    return check(sources, constants, options, nullptr, [](const auto&) {});
+    std::vector<CheckResult> results;
+    (void)check(sources, constants, options, nullptr, results);
+    return results;
 }
 
 CompiledProject compileProject(const Sources& sources, const ConditionalConstants& constants,
-                               const ProgramOptions& options, std::string_view start, std::uint32_t codePage) {
-    CodeGenerator generator;
+                               const ProgramOptions& options, const ImageParts& parts) {
     CompiledProject compiled;
-    compiled.results = check(sources, constants, options, &generator, [&](const std::vector<CheckResult>& results) {
-        const auto isRight = [](const CheckResult& result) { return result.errors == 0; };
-        if (!std::all_of(results.begin(), results.end(), isRight)) return;
-        compiled.code = generator.link(start, codePage);
-        compiled.entries = generator.entryPoints();
-    });
+    auto program = check(sources, constants, options, &parts, compiled.results);
+    compiled.code = std::move(program.code);
+    compiled.entries = std::move(program.entries);
     return compiled;
 }
 

@@ -35,10 +35,10 @@ struct CompiledProject {
     std::vector<EntryPoint> entries;      ///< of its code
 };
 
-/// Checks the files of a project and makes their code, which begins at the procedure `start`.
+/// Checks the files of a project and makes their code.
 [[nodiscard]] CompiledProject compileProject(const std::vector<const SourceText*>& sources,
                                              const ConditionalConstants& constants, const ProgramOptions& options,
-                                             std::string_view start, std::uint32_t codePage);
+                                             const ImageParts& parts);
 
 /// The result for a file that could not be read for this reason.
 [[nodiscard]] CheckResult failedRead(const std::string& path, std::string_view reason);

@@ -2,10 +2,11 @@
 #include "Basic/case_folding.h"
 #include "Basic/tables/code_page_names.h"
 #include "Basic/text_search.h"
-#include "Components/QLToolkit/code/code_generator.h"
 #include "Components/QLToolkit/module_image.h"
+#include "Components/QLToolkit/parsed_program.h"
 #include "Components/QLToolkit/parser/form_header.h"
 #include "Components/QLToolkit/parser/parse_all.h"
+#include "Components/QLToolkit/source/res_file.h"
 #include <algorithm>
 #include <set>
 #include <thread>
@@ -63,7 +64,8 @@ bool ProjectCompiler::compile() {
     const auto libraries = findLibraries();
     for (const auto& library : libraries) image.libraries.push_back(services_.files.GetFileName(library.path));
     image.code = checkNames(sources, symbols, libraries);
-    for (auto& source : sources) addModule(image, source, symbols);
+    for (const auto& source : sources)
+        if (isRight(source.parsed)) addModule(image, source, symbols);
     checkModules(image);
     if (errors_ > 0) return false;
 
@@ -91,50 +93,62 @@ std::vector<ProjectCompiler::Source> ProjectCompiler::parseSources(SymbolTable& 
         for (const auto& diagnostic : sources[i].parsed.diagnostics) report(diagnostic);
         BuildStatus.raise(std::to_string((i + 1) * kPercentOfSources / paths.size()) + "% completed");
     }
-    std::erase_if(sources, [](const Source& each) { return !each.parsed.module || each.parsed.errors > 0; });
-    for (auto& source : sources) source.form = readFormHeader(*source.text);
     return sources;
+}
+
+template <class Read>
+std::optional<Diagnostic> ProjectCompiler::problemOfReading(const std::string& path, const Read& read) {
+    const auto err = basic::attempt(read);
+    if (err.Number == 0) {
+        services_.record->inputs.push_back(path);
+        return std::nullopt;
+    }
+    const auto message = err.Number == basic::kFileNotFound ? Message::FileMissing : Message::FileUnreadable;
+    return fileDiagnostic(message, path, err.Description);
 }
 
 /// Without a text, but with a message, if the file cannot be read.
 ProjectCompiler::Source ProjectCompiler::readSource(const std::string& path) {
     std::string bytes;
-    const auto err = basic::attempt([&] { bytes = services_.files.ReadBytes(path); });
-    if (err.Number != 0) {
-        const auto message = err.Number == basic::kFileNotFound ? Message::FileMissing : Message::FileUnreadable;
-        return {nullptr, {nullptr, {fileDiagnostic(message, path, err.Description)}, 1}, {}};
-    }
-    services_.record->inputs.push_back(path);
+    if (auto problem = problemOfReading(path, [&] { bytes = services_.files.ReadBytes(path); }))
+        return {nullptr, {nullptr, {std::move(*problem)}, 1}};
     const auto page = services_.codePageOf ? services_.codePageOf(path) : basic::CodePage::windows1252();
-    Source source{std::make_unique<SourceText>(path, std::move(bytes), page), {}, {}};
+    Source source{std::make_unique<SourceText>(path, std::move(bytes), page), {}};
     services_.record->lines += source.text->lineCount();
     return source;
 }
 
-void ProjectCompiler::addModule(image::Image& image, Source& source, const SymbolTable& symbols) {
+std::vector<image::Resource> ProjectCompiler::resources() {
+    std::vector<image::Resource> found;
+    const auto path = services_.resourceFileOf ? services_.resourceFileOf(input_.outputPath) : "";
+    if (path.empty()) return found;
+    if (const auto problem = problemOfReading(path, [&] { found = readResources(services_.files.ReadBytes(path)); }))
+        report(*problem);
+    return found;
+}
+
+void ProjectCompiler::addModule(image::Image& image, const Source& source, const SymbolTable& symbols) {
     image.modules.push_back(imageOf(*source.parsed.module, symbols));
-    if (source.form && source.text->kind() == FileKind::Form) image.forms.push_back(std::move(*source.form));
+    if (source.text->kind() != FileKind::Form) return;
+    if (auto form = readFormHeader(*source.text)) image.forms.push_back(std::move(*form));
 }
 
 bool ProjectCompiler::makesCode(const std::vector<Source>& sources) {
     return std::all_of(sources.begin(), sources.end(), [](const Source& source) {
-        return source.text->kind() == FileKind::Module || source.text->kind() == FileKind::Class;
+        return source.text && (source.text->kind() == FileKind::Module || source.text->kind() == FileKind::Class);
     });
 }
 
 /// A source in UTF-8 doesn't show which page the program means by Chr and Asc.
 std::uint32_t ProjectCompiler::codePageOf(const std::vector<Source>& sources) {
     const auto found = std::find_if(sources.begin(), sources.end(), [](const Source& source) {
-        return source.text->codePage().number() != basic::kUtf8Page;
+        return source.text && source.text->codePage().number() != basic::kUtf8Page;
     });
     return static_cast<std::uint32_t>(
         (found == sources.end() ? basic::CodePage::windows1252() : found->text->codePage()).number());
 }
 
-image::CodeImage ProjectCompiler::checkNames(const std::vector<Source>& sources, SymbolTable& symbols,
-                                             const std::vector<Library>& libraries) {
-    std::vector<ParsedModule> modules;
-    for (const auto& source : sources) modules.push_back({source.parsed.module.get(), source.form});
+ProgramOptions ProjectCompiler::optionsWith(const std::vector<Library>& libraries) const {
     ProgramOptions options;
     options.projectName = services_.files.GetFileName(input_.outputPath);
     for (const auto& library : libraries)
@@ -142,22 +156,21 @@ image::CodeImage ProjectCompiler::checkNames(const std::vector<Source>& sources,
             options.libraries.push_back(described);
     const auto named = std::count_if(input_.files.begin(), input_.files.end(),
                                      [](const BuildFile& file) { return file.kind != SourceFile; });
-    options.lacksFiles = errors_ > 0;
     options.isIncomplete = options.libraries.size() < static_cast<std::size_t>(named);
     options.warnsOfDevices = true;
     options.threads = threads();
+    return options;
+}
 
-    CodeGenerator generator;
-    image::CodeImage code;
-    const bool wantsCode = errors_ == 0 && makesCode(sources);
-    const auto finish = [&](const ProgramMessages& found) {
-        for (const auto& messages : found)
-            for (const auto& diagnostic : messages) report(diagnostic);
-        if (wantsCode && errors_ == 0)
-            code = generator.link(input_.startup == kSubMain ? "Main" : "", codePageOf(sources));
-    };
-    checkProgram(modules, symbols, options, finish, wantsCode ? &generator : nullptr);
-    return code;
+image::CodeImage ProjectCompiler::checkNames(const std::vector<Source>& sources, SymbolTable& symbols,
+                                             const std::vector<Library>& libraries) {
+    std::vector<ParsedSource> parsed;
+    for (const auto& source : sources) parsed.push_back({source.text.get(), &source.parsed});
+    const ImageParts parts{input_.startup == kSubMain ? "Main" : "", codePageOf(sources), resources()};
+    auto program = compileParsed(parsed, symbols, optionsWith(libraries), makesCode(sources) ? &parts : nullptr);
+    for (const auto& messages : program.messages)
+        for (const auto& diagnostic : messages) report(diagnostic);
+    return program.code ? std::move(*program.code) : image::CodeImage{};
 }
 
 void ProjectCompiler::checkModules(const image::Image& image) {

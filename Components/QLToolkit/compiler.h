@@ -35,6 +35,8 @@ struct CompilerServices {
     std::shared_ptr<BuildRecord> record = std::make_shared<BuildRecord>();
     /// The code page of a source file, by its path. Without it sources are Windows-1252 or UTF-8.
     std::function<basic::CodePage(const std::string& path)> codePageOf = {};
+    /// The path of the resource file of the project that is compiled to this path; "" for none.
+    std::function<std::string(const std::string& outputPath)> resourceFileOf = {};
     /// The contents of a library, by its GUID; null for one that is not described.
     std::function<const language::Library*(const std::string& guid)> libraryOf = {};
 };
@@ -72,21 +74,25 @@ private:
         std::string path, name, guid;
         int kind;
     };
-    /// A source file and its tree, which refers to the text.
+    /// A source file and its tree, which refers to the text; a file that could not be read has neither.
     struct Source {
         std::unique_ptr<SourceText> text;
         ParseResult parsed;
-        std::optional<image::Control> form;
     };
 
     bool compile();
     std::vector<Source> parseSources(SymbolTable& symbols);
     Source readSource(const std::string& path);
-    void addModule(image::Image& image, Source& source, const SymbolTable& symbols);
+    std::vector<image::Resource> resources();
+    /// Returns what is wrong with a file if `read` throws.
+    template <class Read>
+    std::optional<Diagnostic> problemOfReading(const std::string& path, const Read& read);
+    static void addModule(image::Image& image, const Source& source, const SymbolTable& symbols);
     void checkModules(const image::Image& image);
     /// Returns the code of a program that has some and no errors.
     image::CodeImage checkNames(const std::vector<Source>& sources, SymbolTable& symbols,
                                 const std::vector<Library>& libraries);
+    [[nodiscard]] ProgramOptions optionsWith(const std::vector<Library>& libraries) const;
     /// Forms have no code yet, and modules beside them cannot run alone.
     static bool makesCode(const std::vector<Source>& sources);
     static std::uint32_t codePageOf(const std::vector<Source>& sources);

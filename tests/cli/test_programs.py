@@ -97,21 +97,48 @@ class Programs(unittest.TestCase):
         self.assertEqual(first, same)
         self.assertNotEqual(first, other)
 
-    def test_a_resource_file_is_part_of_the_program(self):
+    @staticmethod
+    def resources(text):
+        """The bytes of a resource file with this text, number 1."""
+        texts = struct.pack("<HH", 0, len(text)) + text.encode("utf-16-le") + bytes(28)
+        return resource("#0", "#0", b"") + resource("#6", "#1", texts) + resource("CUSTOM", "LOGO", b"abc")
+
+    def program_with_resources(self):
         self.program("Debug.Print LoadResString(1); UBound(LoadResData(\"LOGO\", \"CUSTOM\")): Exit Do")
         with (self.home.work / "Loop.vbp").open("a") as project:
-            project.write('ResFile32="loop.RES"\n')
-        file = self.home.work / "Loop.res"
-        text = struct.pack("<HH", 0, 5) + "Hello".encode("utf-16-le") + bytes(28)
-        file.write_bytes(resource("#0", "#0", b"") + resource("#6", "#1", text) + resource("CUSTOM", "LOGO", b"abc"))
-        done = self.home.fernwick("run", "Loop.vbp")
-        self.assertEqual((done.returncode, done.stdout, done.stderr), (0, "Hello 2 \n", ""))
+            project.write('ResFile32="loop.RES"\nName="Loop"\n')
+        self.home.fernwick("init", "Loop.vbp", "--device", "PalmOS-DragonBall", "--yes")
+        return self.home.work / "Loop.res"
+
+    def test_a_resource_file_is_part_of_the_program(self):
+        file = self.program_with_resources()
+        for text in "Hello", "World":
+            file.write_bytes(self.resources(text))
+            done = self.home.fernwick("run", "Loop.vbp")
+            self.assertEqual((done.returncode, done.stdout, done.stderr), (0, text + " 2 \n", ""))
+
+    def test_a_resource_file_is_part_of_the_image(self):
+        file = self.program_with_resources()
+        file.write_bytes(self.resources("Hello"))
+        built = self.home.fernwick("build", "Loop.vbp", "--depfile", "Loop.d")
+        self.assertEqual(built.returncode, 0, built.stderr)
+        image = next(self.home.work.glob("*.qlx")).read_bytes()
+        self.assertIn("Hello".encode("utf-16-le"), image)
+        self.assertIn("LOGO", image.decode("latin-1"))
+        self.assertIn("Loop.res", (self.home.work / "Loop.d").read_text())
+
+    def test_a_resource_file_that_cannot_be_read_is_an_error(self):
+        file = self.program_with_resources()
         file.write_bytes(b"no resources")
-        done = self.home.fernwick("run", "Loop.vbp")
-        self.assertEqual((done.returncode, done.stdout), (1, ""))
-        self.assertIn("Loop.res: The resource file is cut off.", done.stderr)
+        for verb in "run", "build":
+            done = self.home.fernwick(verb, "Loop.vbp")
+            self.assertEqual(done.returncode, 1)
+            self.assertIn("Loop.res: error 1001: The file cannot be read: the resource file is cut off.", done.stderr)
         file.unlink()
-        self.assertEqual(self.home.fernwick("run", "Loop.vbp").returncode, 2)
+        for verb in "run", "build":
+            done = self.home.fernwick(verb, "Loop.vbp")
+            self.assertEqual(done.returncode, 1)
+            self.assertRegex(done.stderr, r"(?i)loop\.res: error 1000")
 
     def test_a_program_sees_a_device_and_not_the_desktop(self):
         self.program('Debug.Print Environ("USERNAME"); Environ("HOME"); Environ("PATH"): Exit Do')

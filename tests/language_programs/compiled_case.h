@@ -44,15 +44,15 @@ inline std::string imageOf(const Case& one, const std::vector<SourceFile>& files
     qltoolkit::ProgramOptions options;
     options.projectName = "Project1";
     if (!one.library.empty()) options.libraries.push_back(language::foreignLibrary(one.library));
-    auto made = qltoolkit::compileProject(sources, {}, options, "Main", one.codePage);
+    auto made = qltoolkit::compileProject(sources, {}, options, {"Main", one.codePage, resourcesOf(one)});
     for (const auto& result : made.results)
         for (const auto& found : result.diagnostics)
             if (found.severity == qltoolkit::Severity::Error)
                 throw std::runtime_error(found.file + ":" + std::to_string(found.line) + ": " + found.text);
     if (!made.code) throw std::runtime_error("no code for " + one.title);
     image::Image whole;
+    whole.projectName = options.projectName;
     whole.code = std::move(*made.code);
-    whole.code.resources = resourcesOf(one);
     return image::encode(whole);
 }
 

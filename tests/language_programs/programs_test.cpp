@@ -50,7 +50,7 @@ std::string withoutLastBlanks(const std::string& text) {
 std::string outcomeOf(const Case& one) {
     try {
         const auto files = filesOf(one);
-        const auto program = std::make_shared<const tamarik::Program>(codeIn(imageOf(one, files)));
+        const auto program = std::make_shared<const tamarik::Program>(codeIn(imageOf(one, files)), "Project1");
         const auto output = withoutLastBlanks(outputOf(program, files, false));
         EXPECT_EQ(output, withoutLastBlanks(outputOf(program, files, true))) << "by the portable interpreter";
         return output;

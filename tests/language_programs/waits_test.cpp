@@ -18,7 +18,7 @@ protected:
     /// A machine for the statements of a Sub Main.
     Machine& machineFor(const std::string& statements) {
         const qltoolkit::SourceText source{"Module1.bas", "Sub Main()\n" + statements + "\nEnd Sub\n"};
-        auto made = qltoolkit::compileProject({&source}, {}, {}, "Main", 1252);
+        auto made = qltoolkit::compileProject({&source}, {}, {}, {"Main", 1252});
         tamarik::MachineOptions options;
         options.usesSwitch = GetParam();
         options.output.print = [this](std::string_view text) { printed_ += text; };

@@ -52,7 +52,7 @@ public:
     }
 
     /// Its code, which begins at Sub Main.
-    qltoolkit::CompiledProject compiled() { return qltoolkit::compileProject(texts(), {}, options, "Main", 1252); }
+    qltoolkit::CompiledProject compiled() { return qltoolkit::compileProject(texts(), {}, options, {"Main", 1252}); }
 
     /// The first message as "file:line:column number" with the line of the file, or "".
     std::string firstPlace() {

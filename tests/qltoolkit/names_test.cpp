@@ -334,6 +334,32 @@ TEST(Names, FriendProceduresBelongToNoInterface) {
         IsEmpty());
 }
 
+TEST(Names, AMemberOfAnInterfaceIsImplementedAsItIsDeclared) {
+    const auto messagesFor = [](const std::string& member, const std::string& own) {
+        return CheckedProgram{}
+            .add("IShape.cls", "Public " + member)
+            .add("Class1.cls", "Implements IShape\n" + own)
+            .messages();
+    };
+    const std::string get = "Property Get IShape_Size() As Long\nEnd Property\n";
+    const std::string let = "Property Let IShape_Size(ByVal RHS As Long)\nEnd Property\n";
+    EXPECT_THAT(messagesFor("Size As Long", get + let), IsEmpty());
+    EXPECT_THAT(messagesFor("Size As Long", get), ElementsAre("Class1.cls:1:12 2500"));
+    EXPECT_THAT(messagesFor("Size As Long", let), ElementsAre("Class1.cls:1:12 2500"));
+    EXPECT_THAT(messagesFor("Size As Integer", get + let), ElementsAre("Class1.cls:2:14 2502", "Class1.cls:4:14 2502"));
+    EXPECT_THAT(messagesFor("Size As Object", get + let), ElementsAre("Class1.cls:1:12 2500", "Class1.cls:2:14 2502"));
+    EXPECT_THAT(messagesFor("Size As Long", get + "Property Let IShape_Size(RHS As Long)\nEnd Property\n"),
+                ElementsAre("Class1.cls:4:14 2502"));
+    EXPECT_THAT(messagesFor("Size As Long", "Function IShape_Size() As Long\nEnd Function\n"),
+                ElementsAre("Class1.cls:2:10 2502"));
+    EXPECT_THAT(messagesFor("Property Let Size(RHS As Long)\nEnd Property\n", let),
+                ElementsAre("Class1.cls:2:14 2502"));
+    EXPECT_THAT(messagesFor("Sub Go(ByVal x As Long)\nEnd Sub\n", "Sub IShape_Go(x As Long)\nEnd Sub\n"),
+                ElementsAre("Class1.cls:2:5 2502"));
+    EXPECT_THAT(messagesFor("Sub Go(x As IShape)\nEnd Sub\n", "Sub IShape_Go(x As Class1)\nEnd Sub\n"),
+                ElementsAre("Class1.cls:2:5 2502"));
+}
+
 TEST(Names, TheLengthOfATextMayBeAConstantOfTheProcedure) {
     EXPECT_THAT(messagesOf("Sub A()\nConst Loc = 5\nDim s As String * Loc, n\nDim t As String * n\nReDim u(3) As "
                            "String * Loc\nEnd Sub"),

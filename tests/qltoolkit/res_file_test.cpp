@@ -43,11 +43,11 @@ TEST(ReadResources, PrefersTheLanguageOfTheUnitedStates) {
 TEST(ReadResources, AFileMayHaveNone) { EXPECT_TRUE(readResources(ResBytes().bytes()).empty()); }
 
 TEST(ReadResources, RefusesOtherFiles) {
-    EXPECT_EQ(reasonOf(""), "The resource file is cut off.");
-    EXPECT_EQ(reasonOf(std::string(40, 'x')), "The resource file is cut off.");
+    EXPECT_EQ(reasonOf(""), "the resource file is cut off");
+    EXPECT_EQ(reasonOf(std::string(40, 'x')), "the resource file is cut off");
     // The entry of a file of 16 bits has no head like that of 32 bits.
     const std::string bytes = ResBytes().add("#10", "#1", "abc").bytes();
-    EXPECT_EQ(reasonOf(bytes.substr(32)), "The file is not a resource file of 32 bits.");
+    EXPECT_EQ(reasonOf(bytes.substr(32)), "it is not a resource file of 32 bits");
 }
 
 TEST(ReadResources, RefusesAFileThatIsCutOffAnywhere) {

@@ -91,8 +91,8 @@ void compile(const std::string& input, const Parts& parts, apps::DescribedLibrar
     const bool isWhole = !parts.isIncomplete && sources.size() == project.sources.size();
     auto options = apps::programOf(project, libraries, isWhole);
     options.threads = 1;
-    auto made = qltoolkit::compileProject(sources, project.constants, options, "Main",
-                                          static_cast<std::uint32_t>(project.page.page.number()));
+    auto made = qltoolkit::compileProject(sources, project.constants, options,
+                                          {"Main", static_cast<std::uint32_t>(project.page.page.number())});
     if (printErrors(input, made.results)) return;
     made.code ? printCode(input, std::move(*made.code)) : print({input, "refused", "no code"});
 }

@@ -204,6 +204,23 @@ TEST_F(Names, RenamingIsRefusedForCodeThatChangedMeanwhile) {
     EXPECT_EQ(codeOf("modA").substr(0, 12), "Public Total");
 }
 
+TEST_F(Names, RenamingIsTakenBackIfAModuleRefusesItsChange) {
+    rename("modA", 0, 8, [this](auto& dialog) {
+        const auto before = codeOf("modA");
+        fernwick::Subscription removal;
+        removal = bench->host().panes.codeChanged.connect([&](const auto& changed) {
+            if (changed->Name() != "modA") return;
+            const auto other = component("modB");
+            removal = {};
+            project()->VBComponents()->Remove(other);
+        });
+        EXPECT_EQ(enter(dialog, "Good"), "A module cannot be changed. Nothing was renamed.");
+        EXPECT_EQ(project()->VBComponents()->items().size(), 1u);
+        EXPECT_EQ(codeOf("modA"), before);
+        EXPECT_EQ(held("modA"), before);
+    });
+}
+
 TEST_F(Names, KeysBeginBoth) {
     setCursor("modA", 0, 8);
     press(Qt::Key_F12, Qt::ShiftModifier);

@@ -5,6 +5,7 @@
 #include "Apps/fernwick/run/interruption.h"
 #include "Apps/fernwick/stored/source_check.h"
 #include "Basic/runtime_error.h"
+#include "Components/QLToolkit/source/res_file.h"
 #include "Host/files/path_lookup.h"
 #include "Host/system/environment.h"
 #include <algorithm>
@@ -33,7 +34,7 @@ ProjectCheck::ProjectCheck(const Options& options, host::FileContents& contents)
 
 std::vector<CheckedSource> ProjectCheck::check(const apps::CheckedProject& project) {
     auto sources = readSources(project);
-    const auto key = keyOf(project, sources).check;
+    const auto key = keyOf(project, sources);
     const auto bytes = cache_.find(key);
     auto results = bytes ? qltoolkit::resultsOf(*bytes) : std::nullopt;
     auto checked = checkedSources(project, sources, results);
@@ -47,16 +48,18 @@ std::vector<CheckedSource> ProjectCheck::check(const apps::CheckedProject& proje
 
 CompiledSources ProjectCheck::compile(const apps::CheckedProject& project) {
     auto sources = readSources(project);
-    const auto key = keyOf(project, sources).compile;
+    auto resources = project.resourceFile.empty() ? Source{} : read(project.resourceFile);
+    const auto key = compileKeyOf(project, sources, resources);
     const auto bytes = cache_.find(key);
     auto program = bytes ? storedProgramOf(*bytes) : std::nullopt;
     auto results = program ? std::optional(std::move(program->results)) : std::nullopt;
-    CompiledSources compiled{checkedSources(project, sources, results), {}, {}};
+    CompiledSources compiled{checkedSources(project, sources, results), {}, {}, {}};
     if (!results) {
         const auto texts = textsOf(compiled.sources);
-        auto made = qltoolkit::compileProject(texts, project.constants, programOf(project, compiled.sources), "Main",
-                                              static_cast<std::uint32_t>(project.page.page.number()));
-        const bool isWhole = texts.size() == sources.size();
+        const auto page = static_cast<std::uint32_t>(project.page.page.number());
+        auto made = qltoolkit::compileProject(texts, project.constants, programOf(project, compiled.sources),
+                                              {"Main", page, resourcesIn(project, resources)});
+        const bool isWhole = texts.size() == sources.size() && resources.failure.errors == 0;
         program.reset();
         if (made.code && isWhole) {
             program = {made.results, std::move(made.entries), std::move(*made.code)};
@@ -65,6 +68,7 @@ CompiledSources ProjectCheck::compile(const apps::CheckedProject& project) {
         results = std::move(made.results);
     }
     addResults(compiled.sources, sources, std::move(*results));
+    compiled.resourceFile = std::move(resources.failure);
     if (program) {
         compiled.code = std::move(program->code);
         compiled.entries = std::move(program->entries);
@@ -112,7 +116,15 @@ ProjectCheck::Source ProjectCheck::read(const std::string& path) {
     return {std::move(content), {}};
 }
 
-ProjectCheck::Key ProjectCheck::keyOf(const apps::CheckedProject& project, const std::vector<Source>& sources) const {
+std::vector<image::Resource> ProjectCheck::resourcesIn(const apps::CheckedProject& project, Source& file) {
+    std::vector<image::Resource> resources;
+    if (!file.content) return resources;
+    const auto err = basic::attempt([&] { resources = qltoolkit::readResources(file.content->bytes); });
+    if (err.Number != 0) file.failure = unreadSource(project.resourceFile, err);
+    return resources;
+}
+
+CheckKey ProjectCheck::keyOf(const apps::CheckedProject& project, const std::vector<Source>& sources) const {
     KeyText name, content;
     name.add(host::absolutePath(project.path));
     name.add(options_.warnsOptionally);
@@ -129,13 +141,25 @@ ProjectCheck::Key ProjectCheck::keyOf(const apps::CheckedProject& project, const
     addLibraries(content, project);
     for (std::size_t i = 0; i < sources.size(); ++i) {
         content.add(project.sources[i]);
-        const auto& source = sources[i].content;
-        content.add(source ? source->stamp.size + 1 : std::uint64_t{0});
-        content.add(source ? source->stamp.digest : std::uint64_t{0});
+        addContent(content, sources[i]);
     }
-    const CheckKey check{name.digest(), content.digest()};
+    return {name.digest(), content.digest()};
+}
+
+CheckKey ProjectCheck::compileKeyOf(const apps::CheckedProject& project, const std::vector<Source>& sources,
+                                    const Source& resources) const {
+    const auto check = keyOf(project, sources);
+    KeyText name, content;
+    name.add(check.project);
     name.add("code");
-    return {check, {name.digest(), check.content}};
+    content.add(check.content);
+    addContent(content, resources);
+    return {name.digest(), content.digest()};
+}
+
+void ProjectCheck::addContent(KeyText& key, const Source& source) {
+    key.add(source.content ? source.content->stamp.size + 1 : std::uint64_t{0});
+    key.add(source.content ? source.content->stamp.digest : std::uint64_t{0});
 }
 
 /// The descriptions of libraries are files of the installation.

@@ -24,6 +24,7 @@ struct CheckedSource {
 
 struct CompiledSources {
     std::vector<CheckedSource> sources;   ///< in the order of the project's
+    qltoolkit::CheckResult resourceFile;  ///< of the project's, if it has one
     std::optional<image::CodeImage> code; ///< of a project without errors; it is not verified
     std::vector<qltoolkit::EntryPoint> entries;
 };
@@ -45,13 +46,14 @@ private:
         qltoolkit::CheckResult failure;
     };
 
-    struct Key {
-        CheckKey check, compile;
-    };
-
     std::vector<Source> readSources(const apps::CheckedProject& project);
     Source read(const std::string& path);
-    [[nodiscard]] Key keyOf(const apps::CheckedProject& project, const std::vector<Source>& sources) const;
+    [[nodiscard]] CheckKey keyOf(const apps::CheckedProject& project, const std::vector<Source>& sources) const;
+    /// `resources`: the project's resource file, if it has one.
+    [[nodiscard]] CheckKey compileKeyOf(const apps::CheckedProject& project, const std::vector<Source>& sources,
+                                        const Source& resources) const;
+    static std::vector<image::Resource> resourcesIn(const apps::CheckedProject& project, Source& file);
+    static void addContent(KeyText& key, const Source& source);
     void addLibraries(KeyText& key, const apps::CheckedProject& project) const;
     [[nodiscard]] qltoolkit::ProgramOptions programOf(const apps::CheckedProject& project,
                                                       const std::vector<CheckedSource>& sources);

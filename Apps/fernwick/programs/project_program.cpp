@@ -10,7 +10,6 @@
 #include "Basic/case_folding.h"
 #include "Basic/runtime_error.h"
 #include "Components/Image/verify/verify.h"
-#include "Components/QLToolkit/source/res_file.h"
 #include <algorithm>
 #include <filesystem>
 #include <fmt/format.h>
@@ -39,13 +38,6 @@ void requireModules(const apps::CheckedProject& project) {
 void requireSubMain(const apps::CheckedProject& project) {
     if (!basic::equalNoCase(project.startup, "Sub Main"))
         throw Refusal(kProjectErrors, project.path + ": the startup object is not Sub Main.");
-}
-
-std::vector<image::Resource> resourcesOf(const std::string& path, host::FileContents& contents) {
-    std::vector<image::Resource> resources;
-    const auto err = basic::attempt([&] { resources = qltoolkit::readResources(contents.take(path).bytes); });
-    if (err.Number != 0) throw Refusal(statusOfNamedFile(path, err.Number), withFile(path, err.Description));
-    return resources;
 }
 
 /// Code that cannot run is a mistake of the compiler, not of the project, or was changed where it is stored.
@@ -80,12 +72,13 @@ ProjectProgram compileProgram(const Options& options, StartObject start, Console
         found.add(project.sources[i], std::move(source.result), false, source.text.get());
         program.paths[std::filesystem::path(project.sources[i]).filename().string()] = project.sources[i];
     }
+    if (!project.resourceFile.empty())
+        found.add(project.resourceFile, std::move(compiled.resourceFile), false, nullptr);
     report.exitStatus = found.totals().status;
     if (!compiled.code) return program;
     if (start == StartObject::SubMain && compiled.code->start == image::kNone)
         throw Refusal(kProjectErrors, project.path + ": no module has a Sub Main.");
-    if (!project.resourceFile.empty()) compiled.code->resources = resourcesOf(project.resourceFile, contents);
-    program.program = std::make_shared<const tamarik::Program>(verified(std::move(*compiled.code)));
+    program.program = std::make_shared<const tamarik::Program>(verified(std::move(*compiled.code)), project.name);
     program.entries = std::move(compiled.entries);
     return program;
 }

@@ -4,7 +4,7 @@
 #include "Add-in/project/stored/project_format.h"
 #include "Add-in/project/stored/project_store.h"
 #include "Apps/common/file_names.h"
-#include "Apps/common/source_code_page.h"
+#include "Apps/common/open_projects.h"
 #include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/output/code_page_note.h"
 #include "Apps/fernwick/output/file_errors.h"
@@ -45,7 +45,7 @@ Session::Session(const Options& options, Console& console)
         console.err(fmt::format("fernwick: {} (error {})", error.Description, error.Number), Tone::Warning);
     };
     host_ = host::Host::create(std::move(hostOptions));
-    apps::compileInHostCodePages(machine_, host_);
+    apps::compileOpenProjects(machine_, host_);
     host_->listAddIn(apps::kAddInProgId, apps::kAddInName, [this] { return connections_.create(); });
 }
 

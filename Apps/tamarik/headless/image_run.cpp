@@ -33,11 +33,12 @@ std::string readWhole(const std::string& path) {
 }
 
 std::shared_ptr<const tamarik::Program> load(const std::string& path) {
-    auto code = std::make_shared<image::CodeImage>(image::decode(readWhole(path)).code);
+    auto image = image::decode(readWhole(path));
+    auto code = std::make_shared<image::CodeImage>(std::move(image.code));
     if (const auto problem = image::verify(*code))
         throw Refused{kMachineTrouble, "The compiled code is damaged: " + problem->text + "."};
     if (code->start == image::kNone) throw Refused{kProgramErrors, "No module has a Sub Main."};
-    return std::make_shared<const tamarik::Program>(std::move(code));
+    return std::make_shared<const tamarik::Program>(std::move(code), image.projectName.str());
 }
 
 void write(std::string_view text, std::FILE* to) { std::fwrite(text.data(), 1, text.size(), to); }

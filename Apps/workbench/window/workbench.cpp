@@ -3,7 +3,7 @@
 #include "Add-in/core/trusted_folders.h"
 #include "Add-in/lifecycle/project_importer.h"
 #include "Apps/common/compile_steps.h"
-#include "Apps/common/source_code_page.h"
+#include "Apps/common/open_projects.h"
 #include "Apps/workbench/assist/editor_assist.h"
 #include "Apps/workbench/base/text.h"
 #include "Apps/workbench/messages/messages_view.h"
@@ -30,7 +30,7 @@ Workbench::Workbench()
                 std::make_unique<host::FileSystem>(), [this] { openingCheck_.start(); }, &windows_}),
       connections_(machine_.platform()),
       host_(host::Host::create(hostOptions())) {
-    apps::compileInHostCodePages(machine_, host_);
+    apps::compileOpenProjects(machine_, host_);
     host_->listAddIn(apps::kAddInProgId, apps::kAddInName, [this] { return connections_.create(); });
     host_->listAddIn(apps::kImporterProgId, apps::kImporterName, [this] {
         return basic::make<fernwick::ProjectImporter>(machine_.platform(),

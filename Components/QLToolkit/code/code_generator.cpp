@@ -14,7 +14,10 @@ public:
                    const Notes& notes) override {
         emitter_.procedure(decl, entity, names, notes);
     }
-    void prepare(std::uint32_t number) { emitter_.prepare(number); }
+    void prepare(std::uint32_t number) {
+        emitter_.prepare(number);
+        emitter_.fieldAccesses();
+    }
     [[nodiscard]] std::size_t words() const { return code_.code.size(); }
     /// The memory of the code is free for that of the whole when the caller has linked it.
     ModuleCode take() { return std::move(code_); }
@@ -77,7 +80,7 @@ std::vector<EntryPoint> CodeGenerator::entryPoints() const {
     return entries;
 }
 
-image::CodeImage CodeGenerator::link(std::string_view start, std::uint32_t codePage) {
+image::CodeImage CodeGenerator::link(const ImageParts& parts) {
     std::size_t index = 0, words = 0;
     for (auto& module : work_->modules) {
         module.prepare(work_->layout.prepareOf(index++));
@@ -90,8 +93,9 @@ image::CodeImage CodeGenerator::link(std::string_view start, std::uint32_t codeP
         linker.add(module.module(), code, work_->layout.prepareOf(index++));
     }
     auto result = linker.finish();
-    result.start = startOf(work_->layout.program(), start);
-    result.codePage = codePage;
+    result.start = startOf(work_->layout.program(), parts.start);
+    result.codePage = parts.codePage;
+    result.resources = parts.resources;
     return result;
 }
 

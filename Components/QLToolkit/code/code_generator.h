@@ -16,6 +16,14 @@ struct EntryPoint {
     std::uint32_t number; ///< of the procedure
 };
 
+/// What an image has besides the code of the modules.
+struct ImageParts {
+    /// The procedure that begins, by its name in a standard module, such as "Main". The image has no start without it.
+    std::string start;
+    std::uint32_t codePage;
+    std::vector<image::Resource> resources = {};
+};
+
 class CodeGenerator : public CodeSink {
 public:
     CodeGenerator();
@@ -24,9 +32,8 @@ public:
     void declared(Program& program) override;
     ModuleCodeSink& module(std::size_t index) override;
 
-    /// The code of all modules, after checkProgram reported no errors. `start` is the procedure that begins, by its name
-    /// in a standard module, such as "Main"; the image has no start if there is none.
-    [[nodiscard]] image::CodeImage link(std::string_view start, std::uint32_t codePage);
+    /// The code of all modules, after checkProgram reported no errors.
+    [[nodiscard]] image::CodeImage link(const ImageParts& parts);
     /// In the order of the modules and their procedures, after the same.
     [[nodiscard]] std::vector<EntryPoint> entryPoints() const;
 

@@ -70,6 +70,8 @@ public:
     void procedure(const ProcedureDecl& decl, const Entity& entity, const ProcedureNames& names, const Notes& notes);
     /// The procedure that prepares the variables of the module or the fields of the class.
     void prepare(std::uint32_t number);
+    /// The procedures through which other classes reach the variables of the class.
+    void fieldAccesses();
 
 private:
     using Op = image::Op;
@@ -83,6 +85,9 @@ private:
     void setPlace(const Entity& own, const Place& place);
     void prepareVariable(const Place& place, const Entity& entity);
     void prepareLocals();
+    void readField(const Entity& field, const Callable& callable);
+    void assignField(const Entity& field, const Callable& callable, bool isSet);
+    void beginAccess(const Entity& field, image::Procedure& made);
     void prepareOne(const Place& place, const Entity& entity);
     void shareArrays();
     void shareArray(const Entity& entity, const Place& place);
@@ -211,7 +216,7 @@ private:
     [[nodiscard]] Type typeOfExpr(const Expr& expr) const;
     void condition(const Expr& expr, bool when, Label target);
     bool compareCondition(const BinaryExpr& expr, bool when, Label target);
-    void clearObjects(std::size_t mark, std::uint32_t except = image::kNoSlot);
+    void clearObjects(std::size_t mark);
     bool mayChange(const Expr& expr, const Value& value) const;
     bool mentions(const Expr& expr, const Entity* entity) const;
     bool isPure(const Expr& expr, const Entity* variable) const;
@@ -281,6 +286,10 @@ private:
                                                                  const Span<Argument>& given) const;
     static std::uint16_t passedAddress(std::uint32_t slot) { return image::encodeArgument(image::Pass::Address, slot); }
     void storeBack(const std::vector<PassedArgument>& passed);
+    Value boxed(const Value& object);
+    void clearObject(Slots::Temporary& temporary);
+    void releaseOperands(std::size_t mark, std::uint32_t result);
+    void storeBackAfterCall(const std::vector<PassedArgument>& passed);
     void arguments(const Callable& callable, const Span<Argument>& given, std::vector<PassedArgument>& list,
                    std::int32_t base = 0);
     Value defaultOf(const Callable& callable, const ParameterInfo& parameter);

@@ -3,6 +3,7 @@
 #include "Components/QLToolkit/code/emitter.h"
 #include "Components/QLToolkit/names/library_constants.h"
 #include "Components/QLToolkit/types/coercions.h"
+#include <algorithm>
 
 namespace qltoolkit {
 
@@ -187,6 +188,15 @@ void Emitter::storeBack(const std::vector<PassedArgument>& list) {
         else
             assignValue(variable, {each.temporary.type, each.temporary.slot, false});
     }
+}
+
+/// Follows the instruction of a call directly, as it also runs if the call fails.
+void Emitter::storeBackAfterCall(const std::vector<PassedArgument>& list) {
+    const bool copies = std::ranges::any_of(
+        list, [](const PassedArgument& each) { return each.storedTo.has_value() || !each.elements.empty(); });
+    if (copies) out_.emit(Op::StoreBack);
+    storeBack(list);
+    if (copies) out_.emit(Op::EndStoreBack);
 }
 
 void Emitter::words(const std::vector<PassedArgument>& list) {

@@ -150,13 +150,18 @@ void Emitter::set(const AssignStmt& stmt) {
     setObject(place(*stmt.target), object);
 }
 
+/// The object itself in a Variant, not its default member.
+Value Emitter::boxed(const Value& object) { return toVariant(checkClass(object, {ValueType::Object}), {}); }
+
 void Emitter::setObject(const Place& target, Value object) {
     static const Span<Argument> kNoArguments{};
     const auto& given = target.arguments ? *target.arguments : kNoArguments;
     if (target.kind == PlaceKind::Property) {
         const Entity& entity = *target.entity;
         const Value* self = target.object.type.value == ValueType::Object ? &target.object : nullptr;
-        (void)call(*(entity.set ? entity.set : entity.let), given, self, entity, &object);
+        const Callable& callable = *(entity.set ? entity.set : entity.let);
+        const Value assigned = callable.result.value == ValueType::Variant ? boxed(object) : object;
+        (void)call(callable, given, self, entity, &assigned);
         return;
     }
     if (target.kind == PlaceKind::Late) {
@@ -164,9 +169,8 @@ void Emitter::setObject(const Place& target, Value object) {
         return;
     }
     if (target.type.value == ValueType::Variant) {
-        Value boxed = checkClass(object, {ValueType::Object});
-        boxed = toVariant(boxed, {});
-        return store(target, {{ValueType::Variant}, boxed.slot, boxed.isTemporary});
+        const Value value = boxed(object);
+        return store(target, {{ValueType::Variant}, value.slot, value.isTemporary});
     }
     Value checked = checkClass(object, target.type);
     checked.type = target.type;

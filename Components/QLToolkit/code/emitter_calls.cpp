@@ -1,22 +1,12 @@
 // Calls of procedures of the project, and of members that are found by name.
 #include "Basic/error_numbers.h"
 #include "Components/QLToolkit/code/emitter.h"
-#include <algorithm>
 
 namespace qltoolkit {
 
 using image::LateUse;
 using image::Op;
 using image::Pass;
-
-namespace {
-
-bool takesLastByVal(const ProcedureDecl& decl) {
-    const auto& parameters = decl.signature.parameters;
-    return parameters[parameters.size() - 1].passing == Passing::ByVal;
-}
-
-} // namespace
 
 /// A procedure that is called, with the object before it if it has one.
 Place Emitter::procedurePlace(const Entity& entity, const Expr& expr, const Span<Argument>* given) {
@@ -71,7 +61,7 @@ Value Emitter::call(const Callable& callable, const Span<Argument>& given, const
     } else if (assigned) {
         const Type type = callable.result;
         const bool isObject = type.value == ValueType::Object;
-        const bool byVal = callable.body && takesLastByVal(*callable.body);
+        const bool byVal = takesValueByVal(callable);
         const auto slot = temporary(type);
         (void)convert(isObject ? *assigned : Value{assigned->type, assigned->slot, false}, type, slot);
         list.push_back({byVal ? passed({type, slot}) : passedAddress(slot), {}, {}});
@@ -87,21 +77,26 @@ Value Emitter::call(const Callable& callable, const Span<Argument>& given, const
         out_.extra(callable.number);
     }
     words(list);
-    const bool copies = std::ranges::any_of(
-        list, [](const PassedArgument& each) { return each.storedTo.has_value() || !each.elements.empty(); });
-    if (copies) out_.emit(Op::StoreBack);
-    storeBack(list);
-    if (copies) out_.emit(Op::EndStoreBack);
+    storeBackAfterCall(list);
     return result;
 }
 
-/// The place of a procedure among the members of an interface.
+/// The place of a procedure among the members of an interface: its procedures, then each field with its own.
 std::uint32_t Emitter::memberNumber(const Entity& entity, const Callable& callable) const {
     std::uint32_t number = 0;
     for (const auto& [member, decl] : entity.owner->source->callables) {
         if (decl->kind != DeclKind::Procedure) continue;
         if (decl == callable.body) return number;
         ++number;
+    }
+    for (const auto& [field, decl] : entity.owner->source->variables) {
+        if (!isLateField(*field)) continue;
+        ++number;
+        const auto& property = layout_.accessTo(*field)->property;
+        for (const auto* each : {property.get, property.let, property.set}) {
+            if (each == &callable) return number;
+            if (each) ++number;
+        }
     }
     return 0;
 }
@@ -134,7 +129,7 @@ Value Emitter::lateCall(const Place& member, LateUse use, const Value* assigned,
     out_.extra(static_cast<std::uint32_t>(use) | static_cast<std::uint32_t>(named.size()) << 8);
     for (const auto name : named) out_.extra(out_.module().text(std::string(spelling(name))), FixKind::Text);
     out_.halves(slots);
-    storeBack(copies);
+    storeBackAfterCall(copies);
     const bool isTyped = wantsResult && member.type.value != ValueType::Variant && !member.type.isArray &&
                          member.type.value != ValueType::Unknown && member.type.value != ValueType::None &&
                          member.type.value != ValueType::Record;
@@ -151,7 +146,7 @@ Value Emitter::callByName(const Span<Argument>& given) {
     const Value result{{ValueType::Variant}, temporary({ValueType::Variant})};
     out_.emit(Op::CallByName, result.slot, object.slot, static_cast<std::uint32_t>(slots.size()));
     out_.halves(slots);
-    storeBack(copies);
+    storeBackAfterCall(copies);
     return result;
 }
 

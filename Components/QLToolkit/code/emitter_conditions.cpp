@@ -2,6 +2,7 @@
 #include "Components/QLToolkit/code/emitter.h"
 #include "Components/QLToolkit/code/value_kinds.h"
 #include "Components/QLToolkit/types/operators.h"
+#include <utility>
 
 namespace qltoolkit {
 
@@ -148,13 +149,26 @@ void Emitter::compareJump(Operator op, const Value& left, const Value& right, bo
 }
 
 /// Objects in temporaries are released before the next jump or statement, so that Terminate comes when it should.
-void Emitter::clearObjects(std::size_t mark, std::uint32_t except) {
+void Emitter::clearObjects(std::size_t mark) {
     auto& used = slots_.inUse();
+    for (std::size_t i = mark; i < used.size(); ++i) clearObject(used[i]);
+}
+
+void Emitter::clearObject(Slots::Temporary& temporary) {
+    if (std::exchange(temporary.mustClear, false)) out_.emit(Op::Clear, temporary.slot);
+}
+
+/// Gives back temporaries except the result. Objects end with the statement, in the order in which they were made; an expression
+/// with very many releases them earlier.
+void Emitter::releaseOperands(std::size_t mark, std::uint32_t result) {
+    constexpr std::size_t kMostHeld = 64;
+    auto& used = slots_.inUse();
+    const bool holdsObjects = used.size() <= kMostHeld;
     for (std::size_t i = mark; i < used.size(); ++i) {
-        if (!used[i].mustClear || used[i].slot == except) continue;
-        out_.emit(Op::Clear, used[i].slot);
-        used[i].mustClear = false;
+        const bool isHeld = holdsObjects && used[i].type.form == image::TypeForm::Value;
+        if (!isHeld && used[i].slot != result) clearObject(used[i]);
     }
+    slots_.keepHeld(mark, result);
 }
 
 namespace {

@@ -75,8 +75,7 @@ void Emitter::print(const PrintStmt& stmt) {
         const auto mark = slots_.mark();
         if (item.value) printItem(*item.value, to, isWrite);
         if (item.separator == PrintSeparator::Comma && !isWrite) printPart(to, "PrintZone", {});
-        clearObjects(mark);
-        slots_.releaseTo(mark);
+        releaseOperands(mark, image::kNoSlot);
         endsLine = item.separator == PrintSeparator::None;
     }
     if (endsLine) printPart(to, isWrite ? "WriteLine" : "PrintLine", {});
@@ -93,7 +92,13 @@ void Emitter::printItem(const Expr& item, const PrintTarget& to, bool isWrite) {
     if (!name.empty() && !isWrite)
         return count ? printPart(to, name, {value(*count, kLong)}) : printPart(to, "PrintZone", {});
     Value shown = variantOf(item);
-    if (typeOfExpr(item).value == ValueType::Object) out_.emit(Op::VariantValue, shown.slot, shown.slot);
+    const Type type = known(typeOfExpr(item));
+    const bool mayBeObject = type.value == ValueType::Object || type.value == ValueType::Variant;
+    if (mayBeObject && !type.isArray) {
+        const Value held = shown;
+        shown = {held.type, temporary(held.type)};
+        out_.emit(Op::VariantValue, shown.slot, held.slot);
+    }
     printPart(to, isWrite ? "WriteItem" : "PrintItem", {shown});
 }
 

@@ -112,9 +112,8 @@ Value Emitter::binary(const Expr& expr, std::optional<std::uint32_t> target) {
             result = isSame(next);
         else
             result = operate(next, result, at == bottom ? target : std::nullopt);
-        // An operator's result is no object, and the chain needs nothing else of what was computed.
-        clearObjects(mark, result.slot);
-        slots_.keepOnly(mark, result.slot);
+        // The chain needs nothing else of what was computed.
+        releaseOperands(mark, result.slot);
     }
     chain_.resize(bottom);
     return result;
@@ -148,15 +147,12 @@ Value Emitter::operate(const BinaryExpr& expr, const Value& left, std::optional<
     const bool isReused =
         !isDirect && first.isTemporary && layout_.slotTypeOf(first.type) == layout_.slotTypeOf({operation->result});
     const std::uint32_t slot = isDirect ? *target : isReused ? first.slot : temporary({operation->result});
-    const auto inner = slots_.mark();
     const Value second = value(*expr.right, {operation->operands});
     Value result;
     if (isComparison(op) || op == Operator::Like)
         result = comparison(op, first, second, slot);
     else
         result = arithmetic(op, operation->operands, operation->result, first, second, slot);
-    clearObjects(inner);
-    slots_.releaseTo(inner);
     return result;
 }
 
@@ -295,14 +291,11 @@ Value Emitter::join(const Value& left, const Expr& right, bool isTemporary, std:
     const Value first = convert(left, {ValueType::String});
     const bool appends = isTemporary || (first.slot != left.slot && first.isTemporary);
     const Value result{{ValueType::String}, appends ? first.slot : targetOr(target, ValueType::String)};
-    const auto inner = slots_.mark();
     const Value second = value(right, {ValueType::String});
     if (appends)
         out_.emit(Op::AppendText, result.slot, second.slot);
     else
         out_.emit(Op::JoinText, result.slot, first.slot, second.slot);
-    clearObjects(inner);
-    slots_.releaseTo(inner);
     return result;
 }
 

@@ -88,6 +88,7 @@ Place Emitter::ownPlace(const Entity& entity, const Expr& expr) {
     const bool hasBase = isMember && noteOfBase(*member).kind != OperandKind::Qualifier;
     if (!hasBase) return variablePlace(entity);
     const Value object = objectOf(member->base);
+    if (const auto* access = layout_.accessTo(entity)) return propertyPlace(access->property, object, nullptr);
     if (layout_.exactClass(object.type) == 0) return latePlace(object, entity.name, nullptr, entity.type);
     Place result;
     result.kind = PlaceKind::Field;

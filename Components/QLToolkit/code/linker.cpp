@@ -94,12 +94,12 @@ std::uint32_t Linker::procedureNamed(const SourceModule& module, std::string_vie
 
 /// The procedure Interface_Member of a class.
 std::uint32_t Linker::implementationOf(const SourceModule& module, const Scope& interface, const Entity& wanted,
-                                       const ProcedureDecl& decl) const {
+                                       ProcedureKind kind) const {
     if (!wanted.isPublic) return image::kNone;
     const auto name = std::string(spelling(interface.name)) + "_" + std::string(spelling(wanted.name));
     for (const auto& [own, other] : module.callables) {
         if (other->kind != DeclKind::Procedure || !basic::equalNoCase(spelling(own->name), name)) continue;
-        if (as<ProcedureDecl>(*other).signature.kind != decl.signature.kind) continue;
+        if (as<ProcedureDecl>(*other).signature.kind != kind) continue;
         for (const auto* callable : {own->get, own->let, own->set})
             if (callable && callable->body == other) return callable->number;
     }
@@ -114,9 +114,17 @@ void Linker::addImplementations(image::ClassInfo& made, const SourceModule& modu
         for (const auto& [wanted, decl] : interface->source->callables)
             if (decl->kind == DeclKind::Procedure)
                 implementation.procedures.push_back(
-                    implementationOf(module, *interface, *wanted, as<ProcedureDecl>(*decl)));
-        for (const auto& [field, decl] : interface->source->variables)
-            if (isLateField(*field)) implementation.procedures.push_back(image::kNone);
+                    implementationOf(module, *interface, *wanted, as<ProcedureDecl>(*decl).signature.kind));
+        for (const auto& [field, decl] : interface->source->variables) {
+            const auto* access = layout_.accessTo(*field);
+            if (!access) continue;
+            const auto& property = access->property;
+            implementation.procedures.push_back(image::kNone);
+            for (const auto& [callable, kind] : {std::pair(property.get, ProcedureKind::PropertyGet),
+                                                 std::pair(property.let, ProcedureKind::PropertyLet),
+                                                 std::pair(property.set, ProcedureKind::PropertySet)})
+                if (callable) implementation.procedures.push_back(implementationOf(module, *interface, property, kind));
+        }
         made.implementations.push_back(std::move(implementation));
     }
 }

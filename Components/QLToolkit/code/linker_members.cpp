@@ -62,6 +62,13 @@ image::ClassMember Linker::member(const Entity& entity, const Callable& callable
     return made;
 }
 
+/// Late binding finds the field before its procedures.
+void Linker::addAccess(image::ClassInfo& made, const Entity& property) {
+    made.members.push_back(member(property, *property.get, MemberUse::Get));
+    if (property.let) made.members.push_back(member(property, *property.let, MemberUse::Let));
+    if (property.set) made.members.push_back(member(property, *property.set, MemberUse::Set));
+}
+
 void Linker::addMembers(image::ClassInfo& made, const SourceModule& module) {
     for (const auto& [entity, decl] : module.callables) {
         if (decl->kind != DeclKind::Procedure) continue;
@@ -81,6 +88,7 @@ void Linker::addMembers(image::ClassInfo& made, const SourceModule& module) {
         field.target = entity->place;
         field.result = baseTypeOf(entity->type.value);
         made.members.push_back(field);
+        if (const auto* access = layout_.accessTo(*entity)) addAccess(made, access->property);
     }
 }
 

@@ -100,8 +100,30 @@ void ProgramLayout::numberProcedures() {
             for (const auto* callable : {entity->get, entity->let, entity->set})
                 if (callable && callable->body == decl) callable->number = procedures_++;
         }
+    for (const auto& module : program_.modules) {
+        if (!isInterface(module.scope->number)) continue;
+        for (const auto& [field, decl] : module.variables)
+            if (isLateField(*field)) numberAccess(*field);
+    }
     firstPrepare_ = procedures_;
     procedures_ += static_cast<std::uint32_t>(program_.modules.size());
+}
+
+void ProgramLayout::numberAccess(const Entity& field) {
+    auto& access = accesses_[&field];
+    access.property.kind = EntityKind::Property;
+    access.property.isPublic = true;
+    access.property.name = field.name;
+    access.property.type = field.type;
+    access.property.owner = field.owner;
+    const auto add = [&](Callable& callable) {
+        callable.result = field.type;
+        callable.number = procedures_++;
+        return &callable;
+    };
+    access.property.get = add(access.get);
+    if (field.type.value != ValueType::Object) access.property.let = add(access.let);
+    if (mayBeSet(field.type.value)) access.property.set = add(access.set);
 }
 
 void ProgramLayout::placeVariables() {

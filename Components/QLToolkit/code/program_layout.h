@@ -40,6 +40,12 @@ namespace qltoolkit {
     return field.isPublic && !field.type.isArray && field.type.value != ValueType::Record;
 }
 
+/// The procedures through which other classes reach a public variable of a class that they implement.
+struct FieldAccess {
+    Callable get, let, set;
+    Entity property; ///< has those that the type of the variable needs
+};
+
 class ProgramLayout {
 public:
     /// Gives entities their places and callables their numbers.
@@ -70,6 +76,11 @@ public:
     /// The number of a class of the project, or 0.
     [[nodiscard]] std::uint32_t classOf(std::uint32_t scope) const;
     [[nodiscard]] bool isInterface(std::uint32_t scope) const { return interfaces_.contains(scope); }
+    /// Null for a variable that is read and assigned directly.
+    [[nodiscard]] const FieldAccess* accessTo(const Entity& field) const {
+        const auto found = accesses_.find(&field);
+        return found == accesses_.end() ? nullptr : &found->second;
+    }
     [[nodiscard]] std::uint32_t recordOf(std::uint32_t scope) const { return records_.at(scope); }
 
     /// What the image knows about all modules: records, classes without their procedures, variables, and how many
@@ -102,12 +113,14 @@ private:
     void numberRecord(const Scope& scope, Constants& constants);
     void numberRecords();
     void numberProcedures();
+    void numberAccess(const Entity& field);
     void placeVariables();
 
     Program& program_;
     LibraryFunctions functions_;
     std::unordered_map<std::uint32_t, std::uint32_t> classes_, records_, recordSlots_, predeclared_, fieldSlots_;
     std::unordered_set<std::uint32_t> interfaces_, prepared_;
+    std::unordered_map<const Entity*, FieldAccess> accesses_;
     std::vector<image::RecordLayout> layouts_;
     std::vector<image::ArrayShape> arrays_;
     std::vector<image::SlotVariable> globals_;

@@ -38,10 +38,10 @@ std::uint32_t Slots::allocate(image::SlotType type, std::uint32_t slots, bool is
     return slot;
 }
 
-void Slots::keepOnly(std::size_t mark, std::uint32_t slot) {
+void Slots::keepHeld(std::size_t mark, std::uint32_t slot) {
     std::size_t kept = mark;
     for (std::size_t i = mark; i < inUse_.size(); ++i) {
-        if (inUse_[i].slot == slot)
+        if (inUse_[i].slot == slot || inUse_[i].mustClear)
             inUse_[kept++] = inUse_[i];
         else
             temporaries_.push_back(inUse_[i]);

@@ -56,8 +56,8 @@ public:
         for (; inUse_.size() > mark; inUse_.pop_back()) temporaries_.push_back(inUse_.back());
     }
 
-    /// As releaseTo, but for one slot.
-    void keepOnly(std::size_t mark, std::uint32_t slot);
+    /// As releaseTo, but for one slot and those that must be cleared first.
+    void keepHeld(std::size_t mark, std::uint32_t slot);
 
     struct Temporary {
         std::uint32_t slot;

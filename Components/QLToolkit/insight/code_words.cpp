@@ -2,6 +2,7 @@
 #include "Basic/case_folding.h"
 #include "Components/QLToolkit/insight/name_uses.h"
 #include "Components/QLToolkit/lexer/lexer.h"
+#include "Components/QLToolkit/names/lookup.h"
 #include <algorithm>
 
 namespace qltoolkit {

@@ -1,20 +1,8 @@
 #include "Components/QLToolkit/insight/name_uses.h"
-#include "Components/QLToolkit/source/characters.h"
+#include "Components/QLToolkit/names/lookup.h"
 #include <algorithm>
 
 namespace qltoolkit {
-
-std::pair<Pos, Pos> extentOfName(const SourceText& source, Pos pos) {
-    const bool hasBrackets = source.data()[pos] == '[';
-    const Pos begin = hasBrackets ? pos + 1 : pos;
-    Pos end = begin;
-    const auto isPart = [&](char c) {
-        return hasBrackets ? c != ']' && !isLineEnd(c) : charIs(c, kNamePart | kForeign);
-    };
-    while (end < source.size() && isPart(source.data()[end]))
-        end += source.isLeadByte(static_cast<unsigned char>(source.data()[end])) ? 2 : 1;
-    return {begin, std::min(end, source.size())};
-}
 
 NameUses::NameUses(const SourceTexts& sources, std::vector<std::string> names) : names_(std::move(names)) {
     for (std::size_t i = 0; i < sources.size(); ++i) sources_.emplace(sources[i].get(), i);

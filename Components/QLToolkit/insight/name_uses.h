@@ -79,7 +79,4 @@ private:
     std::vector<NameUse> uses_;
 };
 
-/// The part of a source that a name at a position covers, without brackets and type character.
-[[nodiscard]] std::pair<Pos, Pos> extentOfName(const SourceText& source, Pos pos);
-
 } // namespace qltoolkit

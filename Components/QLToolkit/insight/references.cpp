@@ -1,5 +1,5 @@
 #include "Components/QLToolkit/insight/references.h"
-#include "Components/QLToolkit/source/characters.h"
+#include "Components/QLToolkit/names/lookup.h"
 #include <algorithm>
 
 namespace qltoolkit {

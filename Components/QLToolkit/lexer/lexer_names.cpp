@@ -1,8 +1,8 @@
 #include "Components/QLToolkit/lexer/lexer.h"
+#include "Components/QLToolkit/lexer/name_characters.h"
 #include "Components/QLToolkit/source/byte_block.h"
 #include "Components/QLToolkit/source/characters.h"
 #include "Components/QLToolkit/source/encoding.h"
-#include <cstring>
 
 namespace qltoolkit {
 
@@ -21,9 +21,19 @@ void Lexer::finishName(Token& token, const char* end) {
 }
 
 void Lexer::readForeignName(Token& token, const char* p) {
+    const bool isDoubleByte = basic::CodePage::isDoubleByte(codePage_);
+    bool isWrong = false;
     while (charIs(*p, kNamePart | kForeign)) {
-        if (charIs(*p, kForeign) && isWideBlank(codePage_, p)) break;
-        p += source_.isLeadByte(static_cast<unsigned char>(*p)) && !isLineEnd(p[1]) && p[1] != '\0' ? 2 : 1;
+        if (!charIs(*p, kForeign)) {
+            ++p;
+            continue;
+        }
+        if (isWideBlank(codePage_, p)) break;
+        const bool isFirst = p == base_ + token.begin;
+        unsigned code = static_cast<unsigned char>(*p++);
+        if (source_.isLeadByte(static_cast<unsigned char>(p[-1])) && !isLineEnd(*p) && *p != '\0')
+            code = code << 8 | static_cast<unsigned char>(*p++);
+        isWrong |= isDoubleByte && !isNameCharacter(codePage_, code, isFirst);
     }
     token.kind = TokenKind::Identifier;
     token.keyword = Keyword::None;
@@ -31,7 +41,7 @@ void Lexer::readForeignName(Token& token, const char* p) {
     token.nameKey = 0;
     token.end = pos_ = static_cast<Pos>(p - base_);
     const auto name = source_.decode(source_.text(token.begin, std::min(token.end, token.begin + kMaxNameBytes + 1)));
-    if (hasTypographicMark(name)) {
+    if (isWrong || (!isDoubleByte && hasTypographicMark(name))) {
         report(Message::InvalidCharacter, token.begin, name);
         token.kind = TokenKind::Invalid;
     } else if (token.end - token.begin > kMaxNameBytes) {
@@ -66,8 +76,11 @@ void Lexer::readSuffix(Token& token) {
 
 void Lexer::readBracketName(Token& token) {
     const Pos end = contentEnd();
-    const auto* close = static_cast<const char*>(std::memchr(base_ + pos_, ']', end - pos_));
-    if (!close || close == base_ + pos_ + 1) {
+    Pos close = pos_;
+    // The second byte of a character may be that of a bracket.
+    while (close < end && base_[close] != ']')
+        close += source_.isLeadByte(static_cast<unsigned char>(base_[close])) ? 2 : 1;
+    if (close >= end || close == pos_ + 1) {
         report(Message::BracketUnclosed, pos_);
         token.kind = TokenKind::Invalid;
         token.end = pos_ = end;
@@ -77,7 +90,7 @@ void Lexer::readBracketName(Token& token) {
     token.keyword = Keyword::None;
     token.suffix = 0;
     token.nameKey = 0;
-    token.end = pos_ = static_cast<Pos>(close - base_) + 1;
+    token.end = pos_ = close + 1;
     readSuffix(token);
 }
 

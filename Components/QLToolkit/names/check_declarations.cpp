@@ -21,6 +21,30 @@ bool sameParameters(const Span<ParameterInfo>& a, const Span<ParameterInfo>& b) 
     return true;
 }
 
+/// Whether a procedure can be called as another one is. `value`: they assign a value, which is passed after the parameters.
+bool isCalledAlike(const Callable& own, const Callable& wanted, bool value) {
+    const auto isSame = [](const Type& a, const Type& b) {
+        return sameType(a, b) && (a.value != ValueType::Object || b.value != ValueType::Object || a.id == b.id);
+    };
+    if (!isSame(own.result, wanted.result) || own.parameters.size() != wanted.parameters.size()) return false;
+    for (std::uint32_t i = 0; i < own.parameters.size(); ++i)
+        if (!isSame(own.parameters[i].type, wanted.parameters[i].type) ||
+            own.parameters[i].byVal != wanted.parameters[i].byVal)
+            return false;
+    return !value || takesValueByVal(own) == takesValueByVal(wanted);
+}
+
+struct Callables {
+    const Callable *get, *let, *set;
+};
+
+/// The procedures of a member; `ofVariable` where it is a variable.
+Callables callablesOf(const Entity& member, const Callable& ofVariable) {
+    if (member.kind != EntityKind::Variable) return {member.get, member.let, member.set};
+    const bool isObject = member.type.value == ValueType::Object;
+    return {&ofVariable, isObject ? nullptr : &ofVariable, mayBeSet(member.type.value) ? &ofVariable : nullptr};
+}
+
 /// Friend procedures belong to no interface.
 bool isFriend(const Entity& member) {
     const Callable* callable = member.get ? member.get : member.let ? member.let : member.set;
@@ -100,12 +124,32 @@ private:
             const Entity* own = ownMember(prefix, member->name);
             if (!own || (own->kind != EntityKind::Procedure && own->kind != EntityKind::Property))
                 return missing(interface, *member);
-            const bool isWrong = member->kind == EntityKind::Procedure &&
-                                 (own->kind != EntityKind::Procedure || !sameType(own->type, member->type) ||
-                                  !sameParameters(own->get->parameters, member->get->parameters));
-            if (isWrong)
+            const bool isProcedure = member->kind == EntityKind::Procedure;
+            if (isProcedure != (own->kind == EntityKind::Procedure)) {
                 module_.diagnostics.report(Message::HandlerMismatch, own->pos, nameAt(module_.tree.source, own->pos));
+                continue;
+            }
+            const Callable ofVariable{{}, member->type};
+            const auto wanted = callablesOf(*member, ofVariable);
+            const bool isWhole = implements(interface, *member, own->get, wanted.get, false) &&
+                                 implements(interface, *member, own->let, wanted.let, true) &&
+                                 implements(interface, *member, own->set, wanted.set, true);
+            if (!isWhole) return;
         }
+    }
+
+    /// Returns false if the procedure is missing.
+    bool implements(const Scope& interface, const Entity& member, const Callable* own, const Callable* wanted,
+                    bool assigns) {
+        if (!wanted) return true;
+        if (!own || !own->body) {
+            missing(interface, member);
+            return false;
+        }
+        const auto pos = own->body->signature.namePos;
+        if (!isCalledAlike(*own, *wanted, assigns))
+            module_.diagnostics.report(Message::HandlerMismatch, pos, nameAt(module_.tree.source, pos));
+        return true;
     }
 
     void missing(const Scope& interface, const Entity& member) {

@@ -39,6 +39,16 @@ struct Callable {
     const SourceModule* source = nullptr; ///< null in libraries
 };
 
+/// Whether what Property Let or Set assigns is passed by value, as it is where a variable is assigned.
+[[nodiscard]] inline bool takesValueByVal(const Callable& callable) {
+    if (!callable.body) return true;
+    const auto& parameters = callable.body->signature.parameters;
+    return parameters.size() > 0 && parameters[parameters.size() - 1].passing == Passing::ByVal;
+}
+
+/// Whether Set assigns to a variable of the type.
+[[nodiscard]] inline bool mayBeSet(ValueType type) { return type == ValueType::Object || type == ValueType::Variant; }
+
 enum class EntityKind : std::uint8_t {
     Variable, ///< also a field of a record
     Constant,

@@ -1,6 +1,6 @@
 #include "Components/QLToolkit/names/handlers.h"
 #include "Basic/case_folding.h"
-#include "Components/QLToolkit/source/characters.h"
+#include "Components/QLToolkit/names/lookup.h"
 #include <algorithm>
 #include <array>
 
@@ -47,8 +47,7 @@ private:
 
     void parts(Pos pos, std::string_view prefix, const Entity* object, const Entity* member) {
         const auto& source = module_.tree.source;
-        Pos end = pos;
-        while (charIs(source.data()[end], kNamePart | kForeign)) ++end;
+        const Pos end = extentOfName(source, pos).second;
         // the bytes of the file may be more or fewer than those of the symbol
         Pos split = pos;
         while (split < end &&

@@ -1,12 +1,11 @@
 #include "Components/QLToolkit/names/lookup.h"
+#include "Components/QLToolkit/source/characters.h"
+#include "Components/QLToolkit/source/encoding.h"
+#include <algorithm>
 
 namespace qltoolkit {
 
 namespace {
-
-bool isNameByte(char c) {
-    return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || c == '_' || c < 0;
-}
 
 const Entity* classIn(const Program& program, Symbol name) {
     const Entity* found = program.topNames.find(name);
@@ -53,14 +52,23 @@ const Entity* findType(const Program& program, const Scope& module, Symbol libra
     return typeInLibraries(program, name);
 }
 
+std::pair<Pos, Pos> extentOfName(const SourceText& source, Pos pos) {
+    const char* const text = source.data();
+    const bool hasBrackets = text[pos] == '[';
+    const Pos begin = hasBrackets ? pos + 1 : pos;
+    const auto isPart = [&](Pos at) {
+        if (hasBrackets) return text[at] != ']' && !isLineEnd(text[at]);
+        const bool isBlank = charIs(text[at], kForeign) && isWideBlank(source.codePage().number(), text + at);
+        return !isBlank && charIs(text[at], kNamePart | kForeign);
+    };
+    Pos end = begin;
+    while (end < source.size() && isPart(end)) end += source.isLeadByte(static_cast<unsigned char>(text[end])) ? 2 : 1;
+    return {begin, std::min(end, source.size())};
+}
+
 std::string nameAt(const SourceText& source, Pos pos) {
-    Pos end = pos;
-    if (end < source.size() && source.data()[end] == '[') {
-        while (end < source.size() && source.data()[end] != ']') ++end;
-        return source.decode(source.text(pos + 1, end));
-    }
-    while (end < source.size() && isNameByte(source.data()[end])) ++end;
-    return source.decode(source.text(pos, end));
+    const auto [begin, end] = extentOfName(source, pos);
+    return source.decode(source.text(begin, end));
 }
 
 } // namespace qltoolkit

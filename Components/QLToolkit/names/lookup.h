@@ -1,6 +1,7 @@
 #pragma once
 // The order in which a name is looked up.
 #include "Components/QLToolkit/names/program.h"
+#include <utility>
 
 namespace qltoolkit {
 
@@ -16,6 +17,9 @@ struct FoundName {
 
 /// The same for the type after As; `library` qualifies it unless it is None.
 [[nodiscard]] const Entity* findType(const Program& program, const Scope& module, Symbol library, Symbol name);
+
+/// The part of a source that a name at a position covers, without brackets and type character.
+[[nodiscard]] std::pair<Pos, Pos> extentOfName(const SourceText& source, Pos pos);
 
 /// Returns the name at a position, in its own spelling there, as UTF-8.
 [[nodiscard]] std::string nameAt(const SourceText& source, Pos pos);

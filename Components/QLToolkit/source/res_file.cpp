@@ -20,7 +20,7 @@ constexpr std::string_view kNoType = "#0";
 [[noreturn]] void damaged(const char* reason) { throw basic::RuntimeError(basic::kInvalidFileFormat, reason); }
 
 std::uint32_t numberAt(std::string_view bytes, std::size_t at, std::size_t size) {
-    if (at > bytes.size() || size > bytes.size() - at) damaged("The resource file is cut off.");
+    if (at > bytes.size() || size > bytes.size() - at) damaged("the resource file is cut off");
     std::uint32_t number = 0;
     for (std::size_t i = size; i-- > 0;) number = number << 8 | static_cast<unsigned char>(bytes[at + i]);
     return number;
@@ -55,17 +55,17 @@ int preferenceOf(std::uint32_t language) { return language == kAmericanEnglish ?
 /// Reads the entry at `at` and advances to the next one.
 Entry entryAt(std::string_view bytes, std::size_t& at) {
     const std::size_t size = numberAt(bytes, at, 4), headSize = numberAt(bytes, at + 4, 4);
-    if (headSize > bytes.size() - at) damaged("The resource file is cut off.");
+    if (headSize > bytes.size() - at) damaged("the resource file is cut off");
     const std::string_view head = bytes.substr(at, headSize);
     std::size_t inHead = 8;
     Entry entry;
     entry.resource.type = identifierAt(head, inHead);
     entry.resource.name = identifierAt(head, inHead);
     inHead = aligned(inHead);
-    if (inHead + kFixedHead > headSize) damaged("A resource has no complete head.");
+    if (inHead + kFixedHead > headSize) damaged("a resource has no complete head");
     entry.preference = preferenceOf(numberAt(head, inHead + kLanguageAt, 2));
     const std::size_t data = at + headSize;
-    if (size > bytes.size() - data) damaged("The resource file is cut off.");
+    if (size > bytes.size() - data) damaged("the resource file is cut off");
     entry.resource.data = bytes.substr(data, size);
     at = std::min(bytes.size(), aligned(data + size));
     return entry;
@@ -76,8 +76,7 @@ Entry entryAt(std::string_view bytes, std::size_t& at) {
 std::vector<image::Resource> readResources(std::string_view bytes) {
     std::size_t at = 0;
     const Entry first = entryAt(bytes, at);
-    if (first.resource.type != kNoType || !first.resource.data.empty())
-        damaged("The file is not a resource file of 32 bits.");
+    if (first.resource.type != kNoType || !first.resource.data.empty()) damaged("it is not a resource file of 32 bits");
     std::vector<Entry> entries;
     while (at < bytes.size())
         if (Entry entry = entryAt(bytes, at); entry.resource.type != kNoType) entries.push_back(std::move(entry));

@@ -112,6 +112,12 @@ std::string OpenFiles::resolve(std::string_view path) const {
     return storedPath(store(), names);
 }
 
+std::string OpenFiles::resolveAsWritten(std::string_view path) const {
+    const std::string stored = resolve(path);
+    const auto names = namesOf(path, current_);
+    return names.empty() ? stored : stored.substr(0, stored.find_last_of('/') + 1) + names.back();
+}
+
 std::vector<std::string> OpenFiles::matches(std::string_view path, bool withFolders) const {
     auto names = namesOf(path, current_);
     const bool isWhole = names.empty() || path.ends_with('\\') || path.ends_with('/');

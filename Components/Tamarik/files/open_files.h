@@ -39,6 +39,8 @@ public:
 
     /// The path in the store. Error 52.
     [[nodiscard]] std::string resolve(std::string_view path) const;
+    /// The same with the last name as written, also if a file has that name in other letter cases.
+    [[nodiscard]] std::string resolveAsWritten(std::string_view path) const;
     /// What the pattern at the end of a path fits, by name; only files unless `withFolders`.
     [[nodiscard]] std::vector<std::string> matches(std::string_view path, bool withFolders) const;
     /// The current folder: "" at the top, otherwise as "\A\B".

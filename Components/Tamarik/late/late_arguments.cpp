@@ -148,17 +148,17 @@ void LateArguments::moveTo(Heap& heap, Slot* target) {
     }
 }
 
-void LateArguments::writeBack(Execution& m) {
+void LateArguments::writeBack(Heap& heap) {
     for (const Argument& argument : arguments_) {
         if (argument.type.form != TypeForm::Reference || argument.isInVariable || !argument.variable) continue;
-        const Variant value = copyOfSlot(m.heap, argument.value, valueType(argument.type), argument.declared);
-        setVariant(m.heap, argument.variable, value);
+        const Variant value = copyOfSlot(heap, argument.value, valueType(argument.type), argument.declared);
+        setVariant(heap, argument.variable, value);
     }
     const std::size_t count = rest_ ? std::min<std::size_t>(rest_->size, restVariables_.size()) : 0;
     for (std::size_t i = 0; i < count; ++i) {
         const Variant& element = variantAt(rest_->as<Slot>() + 2 * i);
         const bool isAssigned = (element.flags & Variant::kUnassigned) == 0;
-        if (isAssigned && restVariables_[i]) setVariant(m.heap, restVariables_[i], copyOf(m.heap, element));
+        if (isAssigned && restVariables_[i]) setVariant(heap, restVariables_[i], copyOf(heap, element));
     }
 }
 

@@ -16,7 +16,7 @@ public:
                  std::span<const Variant> arguments, std::span<Slot* const> variables);
     /// Moves the arguments to the slots of the parameters, from the one after Me on.
     void moveTo(Heap& heap, Slot* target);
-    void writeBack(Execution& m);
+    void writeBack(Heap& heap);
     void release(Heap& heap);
 
 private:

@@ -6,6 +6,7 @@
 #include "Components/Tamarik/vm/slot_values.h"
 #include "Components/Tamarik/vm/slot_variants.h"
 #include "Components/Tamarik/vm/variant_operations.h"
+#include <new>
 #include <utility>
 
 namespace tamarik {
@@ -40,18 +41,27 @@ public:
             return;
         }
         result_ = result;
-        arguments_.writeBack(m);
+        isCalling_ = false;
+        arguments_.writeBack(m.heap);
         arguments_.release(m.heap);
         continueWith(m, nextArguments_);
     }
 
     void release(Heap& heap) override {
+        if (isCalling_) writeBackOfFailed(heap);
         tamarik::release(heap, std::exchange(result_, {}));
         request_.release();
         arguments_.release(heap);
     }
 
 private:
+    /// An error must still reach its handler, so one in here counts as no assignment.
+    void writeBackOfFailed(Heap& heap) {
+        try {
+            arguments_.writeBack(heap);
+        } catch (const std::bad_alloc&) {}
+    }
+
     /// One step; false if code was called.
     bool advance(Execution& m) {
         requireObject(request_.object);
@@ -61,9 +71,16 @@ private:
             return callMemberOf(m, static_cast<Instance&>(object), *member);
         // A property that returns an object: the value is assigned to that object's default member.
         const ClassMember* const getter = memberFor(m, request_, LateUse::Get);
-        if (!request_.assigns() || !getter || (getter->use == MemberUse::Method) || request_.arguments.size() < 2)
+        const bool isIndexed = request_.arguments.size() > 1;
+        if (!request_.assigns() || !getter || getter->use == MemberUse::Method ||
+            !(isIndexed || isOfDefault(getter->result)))
             throw basic::RuntimeError(basic::kPropertyOrMethodNotSupported);
         return callProcedure(m, static_cast<Instance&>(object), *getter, 0);
+    }
+
+    /// Whether a value that is assigned to an object is one for its default member.
+    [[nodiscard]] bool isOfDefault(image::BaseType member) const {
+        return request_.use == LateUse::Let && member == image::BaseType::Object;
     }
 
     bool callLibrary(Execution& m, LibraryObject& object) {
@@ -99,7 +116,7 @@ private:
     bool useField(Execution& m, Instance& object, const ClassMember& member) {
         Slot* const field = object.fields() + member.target;
         const image::SlotType type = typeOfField(m, object, member);
-        if (request_.assigns() && request_.arguments.size() == 1) {
+        if (request_.assigns() && request_.arguments.size() == 1 && !isOfDefault(member.result)) {
             if (Variant* const unresolved = valueNeeded(request_.arguments[0], type)) return resolve(m, *unresolved);
             storeInSlot(m, field, type, member.result, request_.arguments[0]);
             isDone_ = true;
@@ -131,6 +148,7 @@ private:
         Slot* const base = m.pushFrame(procedure, FrameKind::TaskCall);
         retain(base[0].object = &object);
         arguments_.moveTo(m.heap, base + 1);
+        isCalling_ = true;
         return false;
     }
 
@@ -173,6 +191,7 @@ private:
     Variant* waitsFor_ = nullptr;
     std::size_t nextArguments_ = 0;
     int defaults_ = 0;
+    bool isCalling_ = false; ///< the member
     bool isDone_ = false;
 };
 

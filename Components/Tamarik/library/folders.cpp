@@ -73,12 +73,14 @@ void removeFolder(Session& session, std::u16string_view path) {
 }
 
 void renameFile(Session& session, std::u16string_view from, std::u16string_view to) {
-    const std::string source = resolved(session, from), target = resolved(session, to);
+    const std::string source = resolved(session, from);
+    std::string target = resolved(session, to);
     (void)fileAt(session, source);
     if (session.files.isOpen(source)) throw basic::RuntimeError(basic::kFileAlreadyOpen);
     const bool isSame = basic::equalNoCase(source, target);
     if (session.files.store().find(target) && !isSame) throw basic::RuntimeError(basic::kFileAlreadyExists);
     if (target.starts_with(source + "/")) throw basic::RuntimeError(basic::kPathFileAccessError);
+    if (isSame) target = session.files.resolveAsWritten(toUtf8(to)); // another letter case
     if (source != target) session.files.store().rename(source, target);
 }
 

@@ -23,6 +23,7 @@ BoundNative bound(const Native& native) {
 Machine::Machine(std::shared_ptr<const Program> program, const Natives& natives, MachineOptions options)
     : options_(std::move(options)),
       session_(std::make_unique<Session>(options_.heapLimit, options_.output, program->code().codePage)) {
+    session_->project = program->project();
     session_->random = Random(options_.seed);
     session_->surroundings = options_.surroundings;
     session_->classes = natives.classes();

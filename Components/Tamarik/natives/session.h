@@ -1,5 +1,6 @@
 #pragma once
 // What functions of the runtime reach of the machine that calls them.
+#include "Basic/runtime_error.h"
 #include "Components/Tamarik/files/open_files.h"
 #include "Components/Tamarik/natives/identities.h"
 #include "Components/Tamarik/natives/wait.h"
@@ -21,6 +22,16 @@ struct ErrorState {
     std::int32_t number = 0;
     std::string description, source;
     std::int32_t lastDllError = 0;
+    std::string helpFile;
+    std::int32_t helpContext = 0;
+};
+
+/// An error that code raised, with all that Err shows of it.
+class RaisedError : public basic::RuntimeError {
+public:
+    explicit RaisedError(ErrorState raised)
+        : RuntimeError(raised.number, raised.description), state(std::move(raised)) {}
+    ErrorState state;
 };
 
 /// Where a program's output goes; UTF-8. An empty function discards it.
@@ -42,6 +53,7 @@ struct Session {
         : heap(heapLimit), output(std::move(sinks)), codePage(codePageNumber) {}
 
     Heap heap;
+    std::string project; ///< its name
     Output output;
     ErrorState err;
     std::int32_t erl = 0;

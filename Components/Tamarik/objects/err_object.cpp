@@ -3,6 +3,7 @@
 #include "Components/Tamarik/values/encoding.h"
 #include "Components/Tamarik/values/variant_conversion.h"
 #include "Components/Tamarik/values/variant_text.h"
+#include <utility>
 
 namespace tamarik {
 
@@ -28,8 +29,14 @@ Variant textResult(MemberCall& call, std::string_view utf8) { return ofText(make
 void raise(LibraryObject&, MemberCall& call) {
     const std::int32_t number = longOf(call[0], image::BaseType::Long);
     if (number == 0 || number > kMostErrorNumber) throw basic::RuntimeError(basic::kInvalidProcedureCall);
-    const std::string source = utf8Of(call, 1);
-    throw basic::RuntimeError(number, utf8Of(call, 2), source.empty() ? "VBAProject" : source);
+    ErrorState state;
+    state.number = number;
+    state.source = utf8Of(call, 1);
+    if (state.source.empty()) state.source = call.session.project;
+    state.description = utf8Of(call, 2);
+    state.helpFile = utf8Of(call, 3);
+    if (!call[4].isMissing()) state.helpContext = longOf(call[4], image::BaseType::Long);
+    throw RaisedError(std::move(state));
 }
 
 } // namespace
@@ -50,8 +57,16 @@ std::span<const LibraryMember> ErrObject::members() const {
          [](LibraryObject&, MemberCall& call) { call.session.err.source = utf8Of(call, 0); }},
         {"LastDllError", "", LibraryMember::Read,
          [](LibraryObject&, MemberCall& call) { call.result = ofNumber(call.session.err.lastDllError); }},
-        {"HelpFile", "", LibraryMember::Read, [](LibraryObject&, MemberCall& call) { call.result = ofText(nullptr); }},
-        {"HelpContext", "", LibraryMember::Read, [](LibraryObject&, MemberCall& call) { call.result = ofNumber(0); }},
+        {"HelpFile", "", LibraryMember::Read,
+         [](LibraryObject&, MemberCall& call) { call.result = textResult(call, call.session.err.helpFile); }},
+        {"HelpFile", "Value", LibraryMember::Write,
+         [](LibraryObject&, MemberCall& call) { call.session.err.helpFile = utf8Of(call, 0); }},
+        {"HelpContext", "", LibraryMember::Read,
+         [](LibraryObject&, MemberCall& call) { call.result = ofNumber(call.session.err.helpContext); }},
+        {"HelpContext", "Value", LibraryMember::Write,
+         [](LibraryObject&, MemberCall& call) {
+             call.session.err.helpContext = longOf(call[0], image::BaseType::Long);
+         }},
         {"Clear", "", LibraryMember::Read, [](LibraryObject&, MemberCall& call) { call.session.err = {}; }},
         {"Raise", "Number ? Source Description HelpFile HelpContext", LibraryMember::Read, &raise},
     };

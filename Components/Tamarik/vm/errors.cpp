@@ -32,17 +32,35 @@ std::uint32_t lineAt(const LoadedProcedure& procedure, const std::uint32_t* ip) 
 
 } // namespace
 
-void Execution::fail(int number) noexcept { noted_ = {number, {}, {}, 0}; }
+void Execution::fail(int number) noexcept {
+    noted_ = {};
+    noted_.number = number;
+}
 
 void Execution::fail(const basic::RuntimeError& error) noexcept {
     try {
-        noted_ = {error.Number, error.Description, error.Source, static_cast<std::int32_t>(error.LastDllError)};
+        if (const auto* raised = dynamic_cast<const RaisedError*>(&error))
+            noted_ = raised->state;
+        else
+            noted_ = {error.Number, error.Description, {}, static_cast<std::int32_t>(error.LastDllError), {}, 0};
     } catch (const std::bad_alloc&) { fail(basic::kOutOfMemory); }
+}
+
+/// The name of the project, with that of the class if code of one failed.
+std::string Execution::errorSource() const {
+    const Frame* at = frame;
+    while (at != frames_.get() && !at->procedure->info) --at;
+    const auto* const info = at->procedure->info;
+    const auto failed = std::ranges::find_if(
+        program->classes, [&](const LoadedClass& each) { return info && each.info->module == info->module; });
+    if (failed == program->classes.end()) return session.project;
+    return session.project + "." + std::string(program->text(failed->info->name));
 }
 
 /// An error without a text has the standard one; without memory for that, none.
 void Execution::describeNoted() noexcept {
     try {
+        if (noted_.source.empty()) noted_.source = errorSource();
         if (noted_.description.empty()) noted_.description = basic::standardDescription(noted_.number);
     } catch (const std::bad_alloc&) {}
 }
@@ -68,7 +86,6 @@ void Execution::enterHandler(Frame& of) {
     if (of.rare) of.rare->raising.reset();
     clearManaged(heap, of.base, of.procedure->temporaries);
     session.err = std::move(noted_);
-    if (session.err.source.empty()) session.err.source = "VBAProject";
     session.erl = static_cast<std::int32_t>(of.line);
     if (!state) {
         of.ip = statementAt(of, at, true);

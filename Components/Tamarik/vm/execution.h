@@ -131,6 +131,7 @@ private:
     bool findHandler();
     void describeFailure();
     void describeNoted() noexcept;
+    [[nodiscard]] std::string errorSource() const;
     [[nodiscard]] RareFrame* newRare();
     [[nodiscard]] const std::uint32_t* statementAt(const Frame& of, const std::uint32_t* at, bool next) const;
     void enterHandler(Frame& of);

@@ -45,7 +45,8 @@ ValueKind valueKindOf(SlotType type) {
     }
 }
 
-Program::Program(std::shared_ptr<const image::CodeImage> code) : code_(std::move(code)) {
+Program::Program(std::shared_ptr<const image::CodeImage> code, std::string project)
+    : code_(std::move(code)), project_(std::move(project)) {
     loadRecords();
     for (const image::SlotVariable& variable : code_->globals) addVariable(globals, globalTypes, variable.type);
     loadProcedures();

@@ -5,6 +5,7 @@
 #include "Components/Tamarik/values/shapes.h"
 #include <memory>
 #include <span>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -35,12 +36,13 @@ struct LoadedClass {
 class Program {
 public:
     /// The code must have passed verification.
-    explicit Program(std::shared_ptr<const image::CodeImage> code);
+    explicit Program(std::shared_ptr<const image::CodeImage> code, std::string project = {});
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;
 
     [[nodiscard]] const image::CodeImage& code() const { return *code_; }
     [[nodiscard]] std::string_view text(std::uint32_t number) const;
+    [[nodiscard]] const std::string& project() const { return project_; }
 
     std::vector<LoadedProcedure> procedures;
     std::vector<LoadedClass> classes; ///< class number 1 is the first
@@ -59,6 +61,7 @@ private:
     [[nodiscard]] LoadedProcedure load(const image::Procedure& procedure) const;
 
     std::shared_ptr<const image::CodeImage> code_;
+    std::string project_; ///< its name
 };
 
 [[nodiscard]] ValueKind valueKindOf(image::SlotType type);

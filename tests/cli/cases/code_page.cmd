@@ -10,7 +10,7 @@ run fernwick check big5/modMain.bas
 run fernwick check --code-page 950 big5/Big5.vbp
 run fernwick info --verify big5/Big5.vbp
 say the project file decides
-printf 'CodePage=936\r\n' >>big5/Big5.vbp
+printf 'CodePage=949\r\n' >>big5/Big5.vbp
 run fernwick check -v big5/Big5.vbp
 say unknown pages
 run fernwick check --code-page 12345 big5/Big5.vbp
