@@ -63,7 +63,7 @@ void Linker::addCode(ModuleCode& code, const std::vector<std::uint32_t>& texts, 
     addProcedures(code, texts, module);
 }
 
-/// Procedures were made in the order of their numbers, but for the one that prepares the module.
+/// Procedures were made in the order of their numbers, but for those that prepare a module.
 void Linker::addProcedures(ModuleCode& code, const std::vector<std::uint32_t>& texts, std::uint32_t module) {
     for (auto& [number, procedure] : code.procedures) {
         auto& words = layout_.isPrepare(number) ? prepares_ : image_.code;

@@ -93,14 +93,14 @@ image::ArrayShape ProgramLayout::shapeOf(const Entity& entity, SourceModule& mod
     return shape;
 }
 
+/// In the order in which their code is made, but for those that prepare a module: they come last.
 void ProgramLayout::numberProcedures() {
-    for (const auto& module : program_.modules)
+    for (const auto& module : program_.modules) {
         for (const auto& [entity, decl] : module.callables) {
             if (decl->kind != DeclKind::Procedure) continue;
             for (const auto* callable : {entity->get, entity->let, entity->set})
                 if (callable && callable->body == decl) callable->number = procedures_++;
         }
-    for (const auto& module : program_.modules) {
         if (!isInterface(module.scope->number)) continue;
         for (const auto& [field, decl] : module.variables)
             if (isLateField(*field)) numberAccess(*field);
