@@ -222,7 +222,12 @@ private:
         words_.clear();
         starts_.clear();
         jumps_.clear();
-        resumes_ = once(2);
+        resumes_ = !once(4);
+        // Otherwise most programs would end at their first error.
+        if (resumes_ && !once(3)) {
+            starts_.push_back(0);
+            words_.push_back(image::encode(Op::OnErrorResumeNext));
+        }
         for (auto count = 1 + below(40); count > 0; --count) addInstruction();
         starts_.push_back(std::uint32_t(words_.size()));
         words_.push_back(image::encode(once(10) ? Op::End : Op::Return));

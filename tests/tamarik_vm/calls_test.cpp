@@ -67,6 +67,21 @@ TEST_F(Calls, FailWhenTheStackIsFull) {
     EXPECT_EQ(ran.error.callers.size(), kMostReportedCallers);
 }
 
+TEST_F(Calls, FailSoonerOnASmallerStack) {
+    auto& main = procedure("Main");
+    const auto depth = main.add(kLongSlot), counter = global(kLongSlot);
+    main.op1(Op::LoadGlobal, counter, depth).op(Op::AddLongK, depth, depth, 1).op1(Op::StoreGlobal, counter, depth);
+    main.call(Op::Call, main.number(), image::kNoSlot, {}).op(Op::Return);
+    MachineOptions options;
+    options.stackSlots = 800;
+    Machine machine(build(), standardNatives(), options);
+    machine.start();
+    EXPECT_EQ(machine.run(), RunState::Failed);
+    EXPECT_EQ(machine.error()->number, 28);
+    // Frames of 8 slots, one of which is the machine's.
+    EXPECT_EQ(machine.globals()[counter].number, 99);
+}
+
 TEST_F(Calls, StopWhenTheBudgetIsUsed) {
     auto& main = procedure("Main");
     const auto again = main.label();

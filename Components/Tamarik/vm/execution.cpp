@@ -21,18 +21,19 @@ T* reserve(std::size_t count) {
 
 } // namespace
 
-Execution::Execution(std::shared_ptr<const Program> code, Session& owner)
+Execution::Execution(std::shared_ptr<const Program> code, Session& owner, std::size_t stackSlots)
     : program(std::move(code)),
       session(owner),
       heap(owner.heap),
       texts(program->code().texts.size()),
       globals(program->globals.slots),
-      values_(reserve<Slot>(kStackSlots)),
-      frames_(reserve<Frame>(kMostFrames)) {
-    stackEnd = values_.get() + kStackSlots;
-    framesEnd = frames_.get() + kMostFrames;
+      values_(reserve<Slot>(stackSlots)),
+      frames_(reserve<Frame>(stackSlots / kSlotsOfFrame)) {
+    stack = values_.get();
+    stackEnd = stack + stackSlots;
+    framesEnd = frames_.get() + stackSlots / kSlotsOfFrame;
     frame = frames_.get();
-    frame->base = values_.get();
+    frame->base = stack;
     frame->procedure = &kNoProcedure;
     rare(*frame).kind = FrameKind::Entry;
 }

@@ -42,14 +42,14 @@ struct FreeMemory {
 };
 
 struct Execution {
-    Execution(std::shared_ptr<const Program> program, Session& session);
+    Execution(std::shared_ptr<const Program> program, Session& session, std::size_t stackSlots);
     ~Execution();
     Execution(const Execution&) = delete;
     Execution& operator=(const Execution&) = delete;
 
     // frames
     Frame* frame = nullptr; ///< the top one
-    Slot* stackEnd = nullptr;
+    Slot *stack = nullptr, *stackEnd = nullptr;
     Frame* framesEnd = nullptr;
     std::int64_t budget = 0;
     std::size_t goSubs = 0; ///< return points of all frames

@@ -9,8 +9,7 @@
 
 namespace tamarik {
 
-inline constexpr std::size_t kStackSlots = std::size_t{8} << 20 >> 3;
-inline constexpr std::size_t kMostFrames = kStackSlots / 8;
+inline constexpr std::size_t kSlotsOfFrame = 8; ///< of the stack, for each frame that it has room for
 inline constexpr std::size_t kMostGoSubs = 65536; ///< of all frames together
 
 enum class ErrorMode : std::uint8_t { None, GoTo, ResumeNext };

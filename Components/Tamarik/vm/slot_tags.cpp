@@ -191,8 +191,8 @@ void SlotTags::enter(const At& at) {
 }
 
 void SlotTags::check(const Execution& m, const std::uint32_t* ip) noexcept {
-    if (tags_.empty()) tags_.resize(kStackSlots);
-    const At at{m, *m.frame, ip, m.stackEnd - kStackSlots};
+    if (tags_.empty()) tags_.resize(static_cast<std::size_t>(m.stackEnd - m.stack));
+    const At at{m, *m.frame, ip, m.stack};
     const Slot* const end = m.nextBase();
     for (const Slot* slot = end; slot < end_; ++slot)
         require(at, slot->bits == 0, "something above the top frame is not zero");
