@@ -86,7 +86,7 @@ bool isReference(const Slot* slot, const Execution& m) {
     std::size_t bytes = 0;
     if (owner->kind == Counted::Kind::Array) {
         const auto& array = *static_cast<const ArrayBlock*>(owner);
-        if (array.locks == 0) return false;
+        if (array.locks == 0 || array.hasBytes()) return false;
         first = array.data;
         bytes = std::size_t{array.size} * array.elementBytes;
     } else {
