@@ -71,7 +71,6 @@ tamarik::MachineOptions options(bool usesSwitch, std::string& printed) {
     auto& around = made.surroundings;
     around.now = around.universalNow = [] { return basic::Date{40000.25}; };
     around.milliseconds = [] { return 1000.0; };
-    around.sleep = [](std::int64_t) {};
     return made;
 }
 
@@ -79,7 +78,7 @@ std::string outcome(const std::shared_ptr<const tamarik::Program>& program, bool
     std::string printed;
     tamarik::Machine machine{program, natives(), options(usesSwitch, printed)};
     machine.start();
-    const auto state = tamarik::runWithoutWindow(machine, kBudget);
+    const auto state = tamarik::runWithoutWindow(machine, kBudget, [](std::int64_t) {});
     if (machine.error()) printed += std::to_string(machine.error()->number);
     return printed + "/" + std::to_string(int(state));
 }

@@ -16,7 +16,11 @@ enum SystemError : std::int32_t { BufferOverflow = 111, InsufficientBuffer = 122
 std::int64_t milliseconds(Session& session) { return static_cast<std::int64_t>(session.surroundings.milliseconds()); }
 
 /// The number is without a sign.
-void sleep(Session& session, std::int32_t count) { session.surroundings.sleep(static_cast<std::uint32_t>(count)); }
+void sleep(Session& session, std::int32_t count) {
+    WaitRequest& request = session.wait.emplace();
+    request.wait.kind = Wait::Kind::Pause;
+    request.wait.milliseconds = static_cast<std::uint32_t>(count);
+}
 
 /// 32 bits, which start again after 49 days.
 std::int32_t tickCount(Session& session) {
