@@ -281,6 +281,13 @@ TEST(GeneratedCode, HasNumbersInTheInstructionsOfOperators) {
     EXPECT_THAT(listed("Sub A(ByVal c As Currency)\nc = 3 * c\nEnd Sub"), Not(HasSubstr("K ")));
 }
 
+TEST(GeneratedCode, ReturnsWhereItWouldJumpToTheEnd) {
+    const std::string branches = "Sub A(ByVal n As Long)\nIf n < 2 Then\nn = 1\nElse\nn = 2\nEnd If\n";
+    EXPECT_THAT(listed(branches + "End Sub"), Not(HasSubstr("Jump  ")));
+    EXPECT_THAT(listed(branches + "n = 3\nEnd Sub"), HasSubstr("Jump  "));
+    EXPECT_THAT(listed("Sub A()\nDo\nLoop\nEnd Sub"), HasSubstr("Jump  "));
+}
+
 TEST(GeneratedCode, HasNumbersInTheJumpsOfComparisons) {
     const auto condition = [](const std::string& expression) {
         return listed("Sub A(ByVal d As Double)\nIf " + expression + " Then d = 1\nEnd Sub");
