@@ -1,6 +1,6 @@
 #pragma once
 // Numbers that are written in an expression, for instructions with a number in them.
-#include "Components/QLToolkit/parser/ast_expressions.h"
+#include "Components/QLToolkit/parser/ast.h"
 #include <cstdint>
 #include <optional>
 
