@@ -142,29 +142,38 @@ void changeWord(std::vector<std::uint32_t>& words, const support::RandomNumber& 
     word = (word & ~(0xFFU << shift)) | next(32) << shift;
 }
 
-/// Writes an instruction of a procedure over another one of the same length, which mostly gives a program that is accepted.
-void copyInstruction(image::CodeImage& code, const support::RandomNumber& next) {
-    const auto& procedure = code.procedures[next(static_cast<std::uint32_t>(code.procedures.size()))];
-    std::uint32_t* const first = code.code.data() + procedure.code;
-    std::vector<std::pair<std::uint32_t, std::size_t>> instructions;
-    for (std::uint32_t at = 0; at < procedure.words; at += static_cast<std::uint32_t>(instructions.back().second))
-        instructions.emplace_back(at, image::lengthOf(first + at, procedure.words - at));
-    const auto any = [&] { return instructions[next(static_cast<std::uint32_t>(instructions.size()))]; };
-    const auto [from, length] = any();
-    for (int attempts = 0; attempts < 8; ++attempts) {
-        const auto [to, room] = any();
-        if (room != length || to == from) continue;
-        std::copy_n(first + from, length, first + to);
+struct Instruction {
+    std::uint32_t* first;
+    std::size_t words;
+};
+
+std::vector<Instruction> instructionsOf(image::CodeImage& code, const image::Procedure& procedure) {
+    std::vector<Instruction> found;
+    std::uint32_t* const end = code.code.data() + procedure.code + procedure.words;
+    for (std::uint32_t* at = end - procedure.words; at != end; at += found.back().words)
+        found.push_back({at, image::lengthOf(at, static_cast<std::size_t>(end - at))});
+    return found;
+}
+
+/// Changes an instruction by one of the same procedure: takes over an operand, or all of it if both have the same length.
+void changeInstruction(image::CodeImage& code, const support::RandomNumber& next) {
+    const auto one = [&](const auto& list) { return list[next(static_cast<std::uint32_t>(list.size()))]; };
+    const auto instructions = instructionsOf(code, one(code.procedures));
+    const Instruction from = one(instructions), to = one(instructions);
+    if (from.words == to.words && next(2) == 0) {
+        std::copy_n(from.first, from.words, to.first);
         return;
     }
+    const auto shift = [&] { return 8 * (1 + next(3)); };
+    const std::uint32_t slot = *from.first >> shift() & 0xFF, place = shift();
+    *to.first = (*to.first & ~(0xFFU << place)) | slot << place;
 }
 
 void change(image::CodeImage& code, const support::RandomNumber& next) {
     switch (next(8)) {
     case 0: return changeTable(code, next);
-    case 1:
-    case 2: return changeWord(code.code, next);
-    default: return copyInstruction(code, next);
+    case 1: return changeWord(code.code, next);
+    default: return changeInstruction(code, next);
     }
 }
 
