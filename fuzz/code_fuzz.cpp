@@ -22,7 +22,7 @@ std::string outcome(const std::shared_ptr<const tamarik::Program>& program, bool
     try {
         tamarik::Machine machine{program, natives, options};
         machine.start();
-        const auto state = tamarik::runWithoutWindow(machine, kBudget);
+        const auto state = tamarik::runWithoutWindow(machine, kBudget, [](std::int64_t) {});
         if (machine.error()) printed += std::to_string(machine.error()->number);
         return printed + "/" + std::to_string(int(state));
     } catch (const tamarik::Refusal& refusal) { return refusal.what(); }

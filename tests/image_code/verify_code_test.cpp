@@ -237,6 +237,8 @@ TEST(VerifyCode, RefusesReferencesToOtherTypes) {
     EXPECT_EQ(of({encode(Op::RefAt, kRefLong, kIntegers, kL)}), "");
     EXPECT_EQ(of({encode(Op::RefAt, kRefByte, kBytes, kL)}),
               "instruction 0 (RefAt): refers to an element of Array of Byte as Reference to Byte");
+    EXPECT_EQ(of({encode(Op::RefFlat, kRefLong, kBytes, kL)}),
+              "instruction 0 (RefFlat): refers to an element of Array of Byte as Reference to Long");
     EXPECT_EQ(of({encode(Op::RefAt, kRefInteger, kIntegers, kL)}),
               "instruction 0 (RefAt): refers to an element of Array of Integer as Reference to Integer");
     EXPECT_EQ(of({encode(Op::RefFlat, kRefObject, kShapes, kL)}),

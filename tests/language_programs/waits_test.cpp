@@ -13,11 +13,13 @@ using tamarik::Machine;
 using tamarik::RunState;
 using tamarik::Wait;
 
+constexpr const char* kSleep = "Declare Sub Sleep Lib \"kernel32\" (ByVal time As Long)\n";
+
 class Waits : public testing::TestWithParam<bool> {
 protected:
     /// A machine for the statements of a Sub Main.
-    Machine& machineFor(const std::string& statements) {
-        const qltoolkit::SourceText source{"Module1.bas", "Sub Main()\n" + statements + "\nEnd Sub\n"};
+    Machine& machineFor(const std::string& statements, const std::string& declarations = {}) {
+        const qltoolkit::SourceText source{"Module1.bas", declarations + "Sub Main()\n" + statements + "\nEnd Sub\n"};
         auto made = qltoolkit::compileProject({&source}, {}, {}, {"Main", 1252});
         tamarik::MachineOptions options;
         options.usesSwitch = GetParam();
@@ -83,6 +85,18 @@ TEST_P(Waits, ForEvents) {
     EXPECT_EQ(printed_, " 0  1 \n");
 }
 
+TEST_P(Waits, ForTheEndOfAPause) {
+    Machine& machine = machineFor("Sleep 1500\nSleep -1\nDebug.Print 1", kSleep);
+    for (const std::int64_t milliseconds : {std::int64_t{1500}, std::int64_t{0xFFFFFFFF}}) {
+        ASSERT_EQ(machine.run(), RunState::Waiting);
+        EXPECT_EQ(machine.wait().kind, Wait::Kind::Pause);
+        EXPECT_EQ(machine.wait().milliseconds, milliseconds);
+        machine.answer({});
+    }
+    EXPECT_EQ(machine.run(), RunState::Finished);
+    EXPECT_EQ(printed_, " 1 \n");
+}
+
 TEST_P(Waits, AreLeftWhenTheHostStops) {
     Machine& machine = machineFor("Dim c As New Collection\nc.Add \"x\"\nMsgBox c(1)\nMsgBox c(1)");
     EXPECT_EQ(machine.run(), RunState::Waiting);
@@ -107,6 +121,15 @@ TEST_P(Waits, AreAnsweredWithoutAWindow) {
     EXPECT_EQ(tamarik::runWithoutWindow(machine), RunState::Finished);
     EXPECT_EQ(printed_, "Ann\nBob\n\n 4 \n");
     EXPECT_EQ(shown_, "App: Name\nApp: Name\nApp: Name\nDone\n");
+}
+
+TEST_P(Waits, OfAPauseLastWithoutAWindow) {
+    Machine& machine = machineFor("Sleep 20\nDoEvents\nSleep 30", kSleep);
+    std::vector<std::int64_t> paused;
+    const auto state = tamarik::runWithoutWindow(machine, 1000, [&](std::int64_t time) { paused.push_back(time); });
+    EXPECT_EQ(state, RunState::Finished);
+    EXPECT_EQ(paused, (std::vector<std::int64_t>{20, 30}));
+    EXPECT_EQ(shown_, "");
 }
 
 TEST_P(Waits, WithoutAWindowUseTheBudgetTogether) {

@@ -1,4 +1,5 @@
 // Code that the compiler makes of programs: it passes verification, whatever the program is.
+#include "Components/Image/listing/disassemble.h"
 #include "Components/Image/verify/verify.h"
 #include "tests/qltoolkit/checked_program.h"
 #include <gmock/gmock.h>
@@ -250,4 +251,50 @@ TEST(GeneratedCode, OfAnArrayOfControlsFromAnAbsentLibraryPassesVerification) {
     program.controls = "   Begin Absent.Shape Shape1 \n      Index = 0\n   End\n";
     program.add("Form1.frm", "Sub Grow()\n  Shape1(0).Speed = Shape1(0).Speed + 1\nEnd Sub\n");
     EXPECT_EQ(problemOf(program.compiled()), "");
+}
+
+namespace {
+
+/// The instructions of the first procedure.
+std::string listed(const std::string& procedure) {
+    const auto compiled = CheckedProgram{}.add("Module1.bas", procedure).compiled();
+    EXPECT_EQ(problemOf(compiled), "");
+    return compiled.code ? image::disassemble(*compiled.code, 0) : "";
+}
+
+} // namespace
+
+using testing::HasSubstr;
+using testing::Not;
+
+TEST(GeneratedCode, HasNumbersInTheInstructionsOfOperators) {
+    const auto fraction = [](const std::string& expression) {
+        return listed("Sub A(ByVal d As Double, ByVal n As Integer)\nd = " + expression + "\nEnd Sub");
+    };
+    EXPECT_THAT(fraction("d * 2"), HasSubstr("MultiplyFloatK"));
+    EXPECT_THAT(fraction("2 * d"), HasSubstr("MultiplyFloatK          s0, s0, 2"));
+    EXPECT_THAT(fraction("-0.5 + d"), HasSubstr("AddFloatK               s0, s0, -0.5"));
+    EXPECT_THAT(fraction("2.5 * n"), HasSubstr("MultiplyFloatK"));
+    EXPECT_THAT(fraction("2 - d"), Not(HasSubstr("FloatK")));
+    EXPECT_THAT(listed("Sub A(ByVal n As Long)\nn = 3 * n\nEnd Sub"), HasSubstr("MultiplyLongK           s0, s0, 3"));
+    EXPECT_THAT(listed("Sub A(ByVal n As Long)\nn = 3000 * n\nEnd Sub"), Not(HasSubstr("MultiplyLongK")));
+    EXPECT_THAT(listed("Sub A(ByVal c As Currency)\nc = 3 * c\nEnd Sub"), Not(HasSubstr("K ")));
+}
+
+TEST(GeneratedCode, ReturnsWhereItWouldJumpToTheEnd) {
+    const std::string branches = "Sub A(ByVal n As Long)\nIf n < 2 Then\nn = 1\nElse\nn = 2\nEnd If\n";
+    EXPECT_THAT(listed(branches + "End Sub"), Not(HasSubstr("Jump  ")));
+    EXPECT_THAT(listed(branches + "n = 3\nEnd Sub"), HasSubstr("Jump  "));
+    EXPECT_THAT(listed("Sub A()\nDo\nLoop\nEnd Sub"), HasSubstr("Jump  "));
+}
+
+TEST(GeneratedCode, HasNumbersInTheJumpsOfComparisons) {
+    const auto condition = [](const std::string& expression) {
+        return listed("Sub A(ByVal d As Double)\nIf " + expression + " Then d = 1\nEnd Sub");
+    };
+    EXPECT_THAT(condition("d > 4"), HasSubstr("JumpLessEqualFloatK     s0, 4, "));
+    EXPECT_THAT(condition("d >= 4"), HasSubstr("JumpLessFloatK          s0, 4, "));
+    EXPECT_THAT(condition("d < -4.5"), HasSubstr("JumpGreaterEqualFloatK  s0, -4.5, "));
+    EXPECT_THAT(condition("d <= 4"), HasSubstr("JumpGreaterFloatK       s0, 4, "));
+    EXPECT_THAT(condition("d = 4"), HasSubstr("JumpNotEqualFloat "));
 }

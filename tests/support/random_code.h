@@ -119,7 +119,7 @@ private:
                 record.fields.push_back({type, image::kNone, isText && once(2) ? 1 + below(20) : 0});
             }
         }
-        for (int i = 0; i < 4; ++i) {
+        for (int i = 0; i < 8; ++i) {
             auto& shape = code_.arrays.emplace_back();
             shape.element = element(kRecords);
             for (auto dimensions = 1 + below(3); dimensions > 0; --dimensions) {
@@ -222,7 +222,14 @@ private:
         words_.clear();
         starts_.clear();
         jumps_.clear();
-        resumes_ = once(2);
+        resumes_ = !once(4);
+        // Otherwise most programs would end at their first error.
+        if (resumes_ && !once(3)) {
+            starts_.push_back(0);
+            words_.push_back(image::encode(Op::OnErrorResumeNext));
+        }
+        for (const auto& slot : slots_)
+            if (slot.number < image::kMostDirectSlots && !once(4)) fill(slot, number <= kSubs);
         for (auto count = 1 + below(40); count > 0; --count) addInstruction();
         starts_.push_back(std::uint32_t(words_.size()));
         words_.push_back(image::encode(once(10) ? Op::End : Op::Return));
@@ -242,6 +249,21 @@ private:
             if (type.base == BaseType::Half) continue;
             slots_.push_back({slot, image::asSlot(type)});
         }
+    }
+    /// Gives a variable something that instructions can reach: an array its elements, an object variable an object.
+    void fill(const Slot& slot, bool mayMakeObjects) {
+        const auto put = [&](Op op, std::uint32_t extra) {
+            starts_.push_back(std::uint32_t(words_.size()));
+            words_.push_back(image::encode(op, slot.number));
+            words_.push_back(extra);
+        };
+        const auto& type = slot.type;
+        if (type.form == TypeForm::Value && type.base == BaseType::Object && type.id != 0 && mayMakeObjects)
+            put(Op::NewObject, type.id);
+        if (type.form != TypeForm::Array) return;
+        for (std::uint32_t i = 0; i < code_.arrays.size(); ++i)
+            if (const auto& element = code_.arrays[i].element; element.base == type.base && element.id == type.id)
+                return put(Op::NewArray, i);
     }
     void addInstruction() {
         const auto op = Op(below(image::kInstructionCount));

@@ -99,10 +99,10 @@ TEST_F(Arrays, AreLockedWhileAnElementIsReferredTo) {
 }
 
 TEST_F(Arrays, AreUnlockedWhenTheReferenceIsGone) {
-    const auto a = main.add(arrayOf(BaseType::Byte)), r = main.add(refTo(BaseType::Byte));
+    const auto a = main.add(arrayOf(BaseType::Long)), r = main.add(refTo(BaseType::Long));
     reDim(a, 0, 3);
     number(n[1], 3).number(n[0], 200);
-    main.op(Op::RefAt, r, a, n[1]).op(Op::StoreLongRef, n[0], r).op(Op::LoadByteAt, n[0], a, n[1]);
+    main.op(Op::RefAt, r, a, n[1]).op(Op::StoreLongRef, n[0], r).op(Op::LoadLongAt, n[0], a, n[1]);
     printLong(n[0]);
     main.op(Op::LoadLongRef, n[0], r);
     printLong(n[0]);

@@ -57,6 +57,23 @@ TEST_F(Calls, PassVariablesByReference) {
     EXPECT_EQ(answerOf(), 42);
 }
 
+TEST_F(Calls, ReleaseAReferenceThatIsAllTheyHold) {
+    auto& main = procedure("Main");
+    auto& look = procedure("Look");
+    look.parameter(refTo(BaseType::Long));
+    look.op(Op::Return);
+    const auto array = main.add(arrayOf(BaseType::Long)), last = main.add(kLongSlot), first = main.add(kLongSlot);
+    const auto element = main.add(refTo(BaseType::Long));
+    const auto dimension = [&] { main.op(Op::ReDim, array, 0, 1).slots({first, last}); };
+    main.wide(Op::LoadShort, last, 3);
+    dimension();
+    main.op(Op::RefAt, element, array, first).call(Op::Call, look.number(), image::kNoSlot, {{Pass::Ref, element}});
+    main.op(Op::Clear, element);
+    dimension(); // error 10 if the array is still locked
+    main.op1(Op::StoreGlobal, answer, last).op(Op::Return);
+    EXPECT_EQ(answerOf(), 3);
+}
+
 TEST_F(Calls, FailWhenTheStackIsFull) {
     auto& main = procedure("Main");
     main.statement(1).call(Op::Call, main.number(), image::kNoSlot, {}).op(Op::Return);
@@ -65,6 +82,21 @@ TEST_F(Calls, FailWhenTheStackIsFull) {
     EXPECT_EQ(ran.number, 28);
     EXPECT_EQ(ran.error.text, "Out of stack space");
     EXPECT_EQ(ran.error.callers.size(), kMostReportedCallers);
+}
+
+TEST_F(Calls, FailSoonerOnASmallerStack) {
+    auto& main = procedure("Main");
+    const auto depth = main.add(kLongSlot), counter = global(kLongSlot);
+    main.op1(Op::LoadGlobal, counter, depth).op(Op::AddLongK, depth, depth, 1).op1(Op::StoreGlobal, counter, depth);
+    main.call(Op::Call, main.number(), image::kNoSlot, {}).op(Op::Return);
+    MachineOptions options;
+    options.stackSlots = 800;
+    Machine machine(build(), standardNatives(), options);
+    machine.start();
+    EXPECT_EQ(machine.run(), RunState::Failed);
+    EXPECT_EQ(machine.error()->number, 28);
+    // Frames of 8 slots, one of which is the machine's.
+    EXPECT_EQ(machine.globals()[counter].number, 99);
 }
 
 TEST_F(Calls, StopWhenTheBudgetIsUsed) {

@@ -26,7 +26,7 @@ tamarik::RunState runProgram(tamarik::Machine& machine, const RunLimits& limits,
     auto left = limits.budget.value_or(std::numeric_limits<std::int64_t>::max());
     for (;;) {
         const auto slice = std::min(left, limits.slice);
-        const auto state = tamarik::runWithoutWindow(machine, slice);
+        const auto state = tamarik::runWithoutWindow(machine, slice, sleepUnlessInterrupted);
         checkInterrupt();
         left -= slice;
         if (state != tamarik::RunState::StoppedByBudget || !continues() || left <= 0) return state;
@@ -35,7 +35,6 @@ tamarik::RunState runProgram(tamarik::Machine& machine, const RunLimits& limits,
 
 std::unique_ptr<tamarik::Machine> machineFor(std::shared_ptr<const tamarik::Program> program,
                                              tamarik::MachineOptions options) {
-    options.surroundings.sleep = sleepUnlessInterrupted;
     try {
         return std::make_unique<tamarik::Machine>(std::move(program), tamarik::standardNatives(), std::move(options));
     } catch (const tamarik::Refusal& refusal) { throw Refusal(kProjectErrors, refusal.what()); }

@@ -206,8 +206,15 @@ private:
     std::uint32_t uncheckedSlot(const Value& made);
     Value comparison(Operator op, const Value& left, const Value& right, std::optional<std::uint32_t> target);
     Value operateVariants(Operator op, const Value& left, const Value& right, std::optional<std::uint32_t> target);
-    std::optional<Value> operateByNumber(const BinaryExpr& expr, const Operation& operation, const Value& left,
-                                         std::optional<std::uint32_t> target);
+    struct NumberForm {
+        Op op;
+        std::uint32_t operand; ///< the number, or its place among the constants
+    };
+    std::optional<NumberForm> numberForm(Operator op, const Operation& operation, const Expr& number,
+                                         const Type& other);
+    Value operateByNumber(const NumberForm& form, const Operation& operation, const Value& operand,
+                          std::optional<std::uint32_t> target);
+    std::optional<Value> operateOnNumber(const BinaryExpr& expr, std::optional<std::uint32_t> target);
     Value unary(const UnaryExpr& expr, std::optional<std::uint32_t> target);
     Value isSame(const BinaryExpr& expr);
     Value typeOf(const TypeOfExpr& expr);

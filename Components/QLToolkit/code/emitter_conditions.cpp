@@ -1,5 +1,6 @@
 // Conditions as jumps.
 #include "Components/QLToolkit/code/emitter.h"
+#include "Components/QLToolkit/code/literals.h"
 #include "Components/QLToolkit/code/value_kinds.h"
 #include "Components/QLToolkit/types/operators.h"
 #include <utility>
@@ -60,22 +61,21 @@ Op numberJump(Operator op) {
     }
 }
 
-std::optional<std::int64_t> smallNumber(const Expr& expr) {
-    const Expr* at = &expr;
-    bool isNegative = false;
-    if (at->kind == ExprKind::Unary && at->op() == Operator::Negate) {
-        isNegative = true;
-        at = as<UnaryExpr>(*at).operand;
+/// Nothing for a test of equality.
+std::optional<Op> floatNumberJump(Operator op) {
+    switch (op) {
+    case Operator::Less: return Op::JumpLessFloatK;
+    case Operator::LessEqual: return Op::JumpLessEqualFloatK;
+    case Operator::Greater: return Op::JumpGreaterFloatK;
+    case Operator::GreaterEqual: return Op::JumpGreaterEqualFloatK;
+    default: return std::nullopt;
     }
-    std::int64_t value = 0;
-    if (at->kind == ExprKind::Integer || at->kind == ExprKind::Long)
-        value = as<IntegerExpr>(*at).value;
-    else if (at->kind == ExprKind::Boolean && !isNegative)
-        value = at->detail == 1 ? -1 : 0;
-    else
-        return std::nullopt;
-    if (isNegative) value = -value;
-    if (value < -128 || value > 127) return std::nullopt;
+}
+
+std::optional<std::int64_t> smallNumber(const Expr& expr) {
+    const bool isBoolean = expr.kind == ExprKind::Boolean;
+    const auto value = isBoolean ? std::optional<std::int64_t>(expr.detail == 1 ? -1 : 0) : wholeLiteral(expr);
+    if (!value || *value < -128 || *value > 127) return std::nullopt;
     return value;
 }
 
@@ -119,6 +119,14 @@ bool Emitter::compareCondition(const BinaryExpr& expr, bool when, Label target) 
         clearObjects(mark);
         out_.jump(numberJump(wanted), target, left.slot, static_cast<std::uint32_t>(*number));
         return true;
+    }
+    const auto fraction = operation->operands == ValueType::Double ? numberLiteral(*expr.right) : std::nullopt;
+    if (const auto jump = floatNumberJump(wanted); jump && fraction) {
+        if (const auto place = out_.number(*fraction); place <= 0xFF) {
+            clearObjects(mark);
+            out_.jump(*jump, target, left.slot, place);
+            return true;
+        }
     }
     if (left.variable && mayChange(*expr.right, left)) left = moved(left, temporary(left.type));
     const Value right = value(*expr.right, {operation->operands});

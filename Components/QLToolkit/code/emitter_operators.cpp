@@ -1,6 +1,7 @@
 // Operators.
 #include "Basic/error_numbers.h"
 #include "Components/QLToolkit/code/emitter.h"
+#include "Components/QLToolkit/code/literals.h"
 #include "Components/QLToolkit/code/value_kinds.h"
 #include "Components/QLToolkit/types/operators.h"
 #include <algorithm>
@@ -76,21 +77,31 @@ Op currencyOp(Operator op) {
     }
 }
 
-/// The value of a number that is written there, if it is whole.
-std::optional<std::int64_t> wholeLiteral(const Expr& expr) {
-    if (expr.kind == ExprKind::Integer || expr.kind == ExprKind::Long) return as<IntegerExpr>(expr).value;
-    if (expr.kind == ExprKind::Unary && expr.op() == Operator::Negate)
-        if (const auto operand = wholeLiteral(*as<UnaryExpr>(expr).operand)) return -*operand;
-    return std::nullopt;
-}
-
-std::optional<double> numberLiteral(const Expr& expr) {
-    if (const auto whole = wholeLiteral(expr)) return static_cast<double>(*whole);
-    if (expr.kind == ExprKind::Single || expr.kind == ExprKind::Double) return as<FloatExpr>(expr).value;
-    return std::nullopt;
-}
-
 bool isSmall(std::int64_t value) { return value >= -128 && value <= 127; }
+
+std::optional<Op> floatNumberOp(Operator op) {
+    switch (op) {
+    case Operator::Add: return Op::AddFloatK;
+    case Operator::Subtract: return Op::SubtractFloatK;
+    case Operator::Multiply: return Op::MultiplyFloatK;
+    case Operator::Divide: return Op::DivideFloatK;
+    default: return std::nullopt;
+    }
+}
+
+/// A difference is a sum with the negative number.
+std::optional<Op> wholeNumberOp(Operator op, bool isInteger, std::int64_t number) {
+    const bool divides = number != -1 && number != 0;
+    switch (op) {
+    case Operator::Add:
+    case Operator::Subtract: return isInteger ? Op::AddIntegerK : Op::AddLongK;
+    case Operator::Multiply: return isInteger ? std::nullopt : std::optional(Op::MultiplyLongK);
+    case Operator::IntDivide: return divides ? std::optional(Op::DivideLongK) : std::nullopt;
+    case Operator::Mod: return divides ? std::optional(Op::ModLongK) : std::nullopt;
+    case Operator::And: return Op::AndLongK;
+    default: return std::nullopt;
+    }
+}
 
 } // namespace
 
@@ -103,15 +114,18 @@ Value Emitter::binary(const Expr& expr, std::optional<std::uint32_t> target) {
         chain_.push_back(&as<BinaryExpr>(*left));
         left = as<BinaryExpr>(*left).left;
     }
-    const bool beginsWithIs = chain_.back()->op() == Operator::Is;
-    Value result = beginsWithIs ? Value{} : value(*left);
+    Value result;
     const auto top = chain_.size();
     for (auto at = top; at-- > bottom;) {
         const BinaryExpr& next = *chain_[at];
-        if (beginsWithIs && at + 1 == top)
+        const bool isFirst = at + 1 == top;
+        const auto last = at == bottom ? target : std::nullopt;
+        if (isFirst && next.op() == Operator::Is)
             result = isSame(next);
+        else if (const auto made = isFirst ? operateOnNumber(next, last) : std::nullopt)
+            result = *made;
         else
-            result = operate(next, result, at == bottom ? target : std::nullopt);
+            result = operate(next, isFirst ? value(*left) : result, last);
         // The chain needs nothing else of what was computed.
         releaseOperands(mark, result.slot);
     }
@@ -136,7 +150,8 @@ Value Emitter::operate(const BinaryExpr& expr, const Value& left, std::optional<
     const bool joins = op == Operator::Concat || op == Operator::Add;
     if (joins && operation->operands == ValueType::String)
         return join(first, *expr.right, first.isTemporary && first.type.value == ValueType::String, target);
-    if (const auto result = operateByNumber(expr, *operation, first, target)) return *result;
+    if (const auto form = numberForm(op, *operation, *expr.right, first.type))
+        return operateByNumber(*form, *operation, first, target);
 
     const bool isVariant = operation->operands == ValueType::Variant || operation->result == ValueType::Variant;
     if (isVariant) {
@@ -165,51 +180,47 @@ Type Emitter::typeOfExpr(const Expr& expr) const {
     return type;
 }
 
-// Instructions with a number in them.
-std::optional<Value> Emitter::operateByNumber(const BinaryExpr& expr, const Operation& operation, const Value& left,
-                                              std::optional<std::uint32_t> target) {
-    const Operator op = expr.op();
-    const bool isSum = op == Operator::Add || op == Operator::Subtract;
-    const auto whole = wholeLiteral(*expr.right);
-    if ((operation.operands == ValueType::Long || operation.operands == ValueType::Integer) && whole &&
-        isWhole(operation.result)) {
-        const std::int64_t number = op == Operator::Subtract ? -*whole : *whole;
-        if (!isSmall(number) || !isWhole(left.type.value)) return std::nullopt;
-        const bool isInteger = operation.result == ValueType::Integer;
-        Op made;
-        if (isSum)
-            made = isInteger ? Op::AddIntegerK : Op::AddLongK;
-        else if (op == Operator::Multiply && !isInteger)
-            made = Op::MultiplyLongK;
-        else if (op == Operator::IntDivide && number != -1 && number != 0)
-            made = Op::DivideLongK;
-        else if (op == Operator::Mod && number != -1 && number != 0)
-            made = Op::ModLongK;
-        else if (op == Operator::And)
-            made = Op::AndLongK;
-        else
-            return std::nullopt;
-        const Value result{{operation.result}, targetOr(target, operation.result)};
-        out_.emit(made, result.slot, left.slot, static_cast<std::uint32_t>(number));
-        return result;
+/// The instruction with a number in it for an operator, one of whose operands is that number. The other operand is the left one,
+/// or they may change places.
+std::optional<Emitter::NumberForm> Emitter::numberForm(Operator op, const Operation& operation, const Expr& number,
+                                                       const Type& other) {
+    if (operation.operands == ValueType::Double && operation.result == ValueType::Double) {
+        const auto fraction = numberLiteral(number);
+        const auto made = floatNumberOp(op);
+        if (!fraction || !made) return std::nullopt;
+        const auto place = out_.number(*fraction);
+        return place > 0xFF ? std::nullopt : std::optional(NumberForm{*made, place});
     }
-    const auto number = numberLiteral(*expr.right);
-    if (operation.operands != ValueType::Double || operation.result != ValueType::Double || !number)
+    const bool isInteger = operation.result == ValueType::Integer;
+    if ((operation.operands != ValueType::Long && operation.operands != ValueType::Integer) ||
+        !isWhole(operation.result) || !isWhole(other.value))
         return std::nullopt;
-    Op made;
-    switch (op) {
-    case Operator::Add: made = Op::AddFloatK; break;
-    case Operator::Subtract: made = Op::SubtractFloatK; break;
-    case Operator::Multiply: made = Op::MultiplyFloatK; break;
-    case Operator::Divide: made = Op::DivideFloatK; break;
-    default: return std::nullopt;
-    }
-    const auto place = out_.number(*number);
-    if (place > 0xFF) return std::nullopt;
-    const Value first = convert(left, {ValueType::Double});
-    const Value result{{ValueType::Double}, targetOr(target, ValueType::Double)};
-    out_.emit(made, result.slot, first.slot, place);
+    const auto written = wholeLiteral(number);
+    if (!written) return std::nullopt;
+    const std::int64_t value = op == Operator::Subtract ? -*written : *written;
+    const auto made = wholeNumberOp(op, isInteger, value);
+    if (!isSmall(value) || !made) return std::nullopt;
+    return NumberForm{*made, static_cast<std::uint32_t>(value)};
+}
+
+Value Emitter::operateByNumber(const NumberForm& form, const Operation& operation, const Value& operand,
+                               std::optional<std::uint32_t> target) {
+    const Value first = operation.operands == ValueType::Double ? convert(operand, {ValueType::Double}) : operand;
+    const Value result{{operation.result}, targetOr(target, operation.result)};
+    out_.emit(form.op, result.slot, first.slot, form.operand);
     return result;
+}
+
+/// A number that is written on the left of an operator whose operands may change places.
+std::optional<Value> Emitter::operateOnNumber(const BinaryExpr& expr, std::optional<std::uint32_t> target) {
+    const Operator op = expr.op();
+    if ((op != Operator::Add && op != Operator::Multiply) || !numberLiteral(*expr.left)) return std::nullopt;
+    const Type other = typeOfExpr(*expr.right);
+    const auto operation = operationOf(op, valueType(typeOfExpr(*expr.left)), valueType(other));
+    if (!operation) return std::nullopt;
+    const auto form = numberForm(op, *operation, *expr.left, other);
+    if (!form) return std::nullopt;
+    return operateByNumber(*form, *operation, value(*expr.right), target);
 }
 
 /// The operands have the operation's type already.

@@ -7,6 +7,8 @@ namespace {
 using image::Op;
 using image::Operand;
 
+constexpr std::uint32_t kReturn = image::encode(Op::Return);
+
 /// Whether an instruction does nothing but write its operand A, without reading it.
 bool onlyWritesA(Op op) {
     switch (op) {
@@ -45,8 +47,20 @@ bool ProcedureCode::redirect(std::uint32_t from, std::uint32_t to) {
     return true;
 }
 
+/// Fills in the distances. A jump to the end of the procedure returns at once.
+void ProcedureCode::completeJumps() {
+    for (const auto& jump : jumps_) {
+        const std::uint32_t target = labels_[static_cast<std::size_t>(jump.label)];
+        const bool isPlain = image::Word(words_[jump.from]).op == std::uint8_t(Op::Jump);
+        if (isPlain && target < here() && words_[target] == kReturn)
+            words_[jump.from] = words_[jump.word] = kReturn;
+        else
+            words_[jump.word] = target - jump.from;
+    }
+}
+
 void ProcedureCode::finish(image::Procedure procedure, std::uint32_t number, bool resumes) {
-    for (const auto& jump : jumps_) words_[jump.word] = labels_[static_cast<std::size_t>(jump.label)] - jump.from;
+    completeJumps();
     procedure.code = static_cast<std::uint32_t>(module_.code.size());
     procedure.words = here();
     procedure.numbers = static_cast<std::uint32_t>(module_.numbers.size());

@@ -87,6 +87,8 @@ public:
     void finish(image::Procedure procedure, std::uint32_t number, bool resumes);
 
 private:
+    void completeJumps();
+
     static constexpr std::uint32_t kUnknown = 0xFFFFFFFF;
     struct PendingJump {
         std::uint32_t word, from;

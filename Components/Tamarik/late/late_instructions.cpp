@@ -3,6 +3,7 @@
 #include "Components/Tamarik/late/late_call.h"
 #include "Components/Tamarik/objects/library_object.h"
 #include "Components/Tamarik/values/encoding.h"
+#include "Components/Tamarik/values/held.h"
 #include "Components/Tamarik/values/variant_conversion.h"
 #include "Components/Tamarik/values/variant_text.h"
 #include "Components/Tamarik/vm/array_operations.h"
@@ -92,14 +93,8 @@ void callByName(Execution& m, const std::uint32_t* ip) {
     LateRequest request(m.heap);
     request.use = useOf(callType);
     request.isExact = callType != 3;
-    TextBlock* const name = textOf(m.heap, given(0));
-    try {
-        request.givenName = toUtf8(unitsOf(name));
-    } catch (...) {
-        release(m.heap, name);
-        throw;
-    }
-    release(m.heap, name);
+    const HeldText name(m.heap, textOf(m.heap, given(0)));
+    request.givenName = toUtf8(unitsOf(name));
     if (request.givenName.empty()) throw basic::RuntimeError(basic::kPropertyOrMethodNotSupported);
     if (request.assigns() && word.c == 2) throw basic::RuntimeError(basic::kWrongNumberOfArguments);
     takeArguments(m, request, ip + 1, 2, word.c);

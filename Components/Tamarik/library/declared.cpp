@@ -16,7 +16,11 @@ enum SystemError : std::int32_t { BufferOverflow = 111, InsufficientBuffer = 122
 std::int64_t milliseconds(Session& session) { return static_cast<std::int64_t>(session.surroundings.milliseconds()); }
 
 /// The number is without a sign.
-void sleep(Session& session, std::int32_t count) { session.surroundings.sleep(static_cast<std::uint32_t>(count)); }
+void sleep(Session& session, std::int32_t count) {
+    WaitRequest& request = session.wait.emplace();
+    request.wait.kind = Wait::Kind::Pause;
+    request.wait.milliseconds = static_cast<std::uint32_t>(count);
+}
 
 /// 32 bits, which start again after 49 days.
 std::int32_t tickCount(Session& session) {
@@ -102,20 +106,20 @@ std::int32_t temporaryPath(Session& session, std::int32_t size, TextBlock*& buff
 }
 
 /// The size becomes that of the text, which counts the character 0 if `countsEnd`.
-std::int32_t fillName(Session& session, TextBlock*& buffer, LongVariable size, std::u16string_view name, bool countsEnd,
-                      SystemError error) {
+std::int32_t fillName(Session& session, TextBlock*& buffer, std::int32_t& size, std::u16string_view name,
+                      bool countsEnd, SystemError error) {
     const auto length = static_cast<std::int32_t>(name.size());
-    const bool fits = fillBuffer(session, buffer, size.get(), name);
+    const bool fits = fillBuffer(session, buffer, size, name);
     session.err.lastDllError = fits ? 0 : error;
-    size.set(fits && !countsEnd ? length : length + 1);
+    size = fits && !countsEnd ? length : length + 1;
     return fits ? 1 : 0;
 }
 
-std::int32_t computerName(Session& session, TextBlock*& buffer, LongVariable size) {
+std::int32_t computerName(Session& session, TextBlock*& buffer, std::int32_t& size) {
     return fillName(session, buffer, size, variable(session, "COMPUTERNAME"), false, BufferOverflow);
 }
 
-std::int32_t userName(Session& session, TextBlock*& buffer, LongVariable size) {
+std::int32_t userName(Session& session, TextBlock*& buffer, std::int32_t& size) {
     return fillName(session, buffer, size, variable(session, "USERNAME"), true, InsufficientBuffer);
 }
 

@@ -94,7 +94,7 @@ std::u16string writtenText(Session& session, const Variant& item) {
     case kString: return u"\"" + std::u16string(unitsOf(item.text)) + u"\"";
     default: break;
     }
-    const HeldText held(session, textOf(session.heap, item));
+    const HeldText held(session.heap, textOf(session.heap, item));
     const std::u16string text(unitsOf(held));
     return item.kind == kError ? u"#ERROR " + text.substr(6) + u"#" : text;
 }

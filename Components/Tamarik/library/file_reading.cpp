@@ -84,7 +84,7 @@ Variant marked(Session& session, const std::string& text) {
         const double number = basic::Val(std::string_view(inside).substr(6));
         if (number >= 0 && number <= 65535) return ofNumber(static_cast<std::int32_t>(number), kError);
     }
-    const HeldText date(session, decoded(session, inside));
+    const HeldText date(session.heap, decoded(session, inside));
     if (IsDate(unitsOf(date))) return ofFraction(CDate(unitsOf(date), today(session)).days, kDate);
     return ofText(decoded(session, text));
 }

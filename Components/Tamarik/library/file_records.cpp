@@ -39,8 +39,7 @@ StoredPlace placeOf(const NativeCall& call) {
     if (isArray) return {{type.base, TypeForm::Array, type.id}, 0, slot};
     // The slot decides how the value is held.
     if (image::slotBase(declared) != type.base) throw basic::RuntimeError(basic::kTypeMismatch);
-    const Counted* const owner = call.arguments[5].owner;
-    return {{declared, TypeForm::Value, type.id}, static_cast<std::uint32_t>(length), slot, owner && owner->hasBytes};
+    return {{declared, TypeForm::Value, type.id}, static_cast<std::uint32_t>(length), slot};
 }
 
 void put(NativeCall& call) {

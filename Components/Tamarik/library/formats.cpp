@@ -29,7 +29,7 @@ FormatValue formatValueOf(const Variant& v) {
 
 TextBlock* format(Session& session, const Variant& v, const Variant& by, std::int32_t firstDay,
                   std::int32_t firstWeek) {
-    const HeldText code(session, by.isMissing() ? nullptr : textIn(session, by));
+    const HeldText code(session.heap, by.isMissing() ? nullptr : textIn(session, by));
     return made(session, Format(formatValueOf(v), unitsOf(code), {firstDay, firstWeek}, today(session)));
 }
 

@@ -47,7 +47,7 @@ TextBlock* inputBox(Session& session, const Variant& prompt, const Variant& titl
 void beep(Session&) {}
 
 std::int32_t doEvents(Session& session) {
-    session.wait = {{}, [](Session&, const Answer&, Slot&) {}};
+    session.wait = WaitRequest{};
     return 0;
 }
 

@@ -25,7 +25,7 @@ TextBlock* textIn(Session& session, const Variant& v) {
 }
 
 std::string utf8Of(Session& session, const Variant& v) {
-    const HeldText text(session, textIn(session, v));
+    const HeldText text(session.heap, textIn(session, v));
     return toUtf8(unitsOf(text));
 }
 

@@ -2,7 +2,7 @@
 // What functions of the library have in common: their arguments and results.
 #include "Components/Tamarik/natives/native_function.h"
 #include "Components/Tamarik/numbers/arguments.h"
-#include "Components/Tamarik/values/array_block.h"
+#include "Components/Tamarik/values/held.h"
 #include "Components/Tamarik/values/variant_conversion.h"
 #include "Components/Tamarik/values/variant_text.h"
 
@@ -35,26 +35,6 @@ struct NativeType<basic::Date> : NativeSlot<image::BaseType::Double> {
     static basic::Date read(const Slot* slot) { return {slot->fraction}; }
     static void write(Slot* slot, basic::Date value) { slot->fraction = value.days; }
 };
-
-/// Releases a text or array at the end of a scope.
-template <class Block>
-class HeldBlock {
-public:
-    HeldBlock(Session& session, Block* block) : heap_(session.heap), block_(block) {}
-    HeldBlock(const HeldBlock&) = delete;
-    HeldBlock& operator=(const HeldBlock&) = delete;
-    ~HeldBlock() { release(heap_, block_); }
-
-    operator Block*() const { return block_; }
-    Block* operator->() const { return block_; }
-    /// Gives the reference away.
-    [[nodiscard]] Block* take() { return std::exchange(block_, nullptr); }
-
-private:
-    Heap& heap_;
-    Block* block_;
-};
-using HeldText = HeldBlock<TextBlock>;
 
 [[nodiscard]] inline std::string_view bytesIn(const TextBlock* text) {
     if (!text) return {};
@@ -115,7 +95,7 @@ template <class... Parameters, TextBlock* (*F)(Session&, TextBlock*, Parameters.
 struct OrNull<F> {
     static Variant call(Session& session, const Variant& v, Parameters... values) {
         if (v.kind == kNull) return null();
-        const HeldText text(session, textIn(session, v));
+        const HeldText text(session.heap, textIn(session, v));
         return ofText(F(session, text, values...));
     }
 };

@@ -37,7 +37,7 @@ std::u16string signedText(Session& session, const Variant& v) {
     case kDecimal: return Str(decimalOf(v));
     case kError: throw basic::RuntimeError(basic::kTypeMismatch);
     default: {
-        const HeldText text(session, textOf(session.heap, v));
+        const HeldText text(session.heap, textOf(session.heap, v));
         return std::u16string(unitsOf(text));
     }
     }

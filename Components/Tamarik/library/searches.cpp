@@ -17,7 +17,7 @@ Variant firstPlace(Session& session, const Variant& a, const Variant& b, const V
     const Variant &text = hasStart ? b : a, &what = hasStart ? c : b;
     const std::int32_t start = hasStart ? longOr(a, 1) : 1;
     if (isNullIn(text, what)) return null();
-    const HeldText heldText(session, textIn(session, text)), heldWhat(session, textIn(session, what));
+    const HeldText heldText(session.heap, textIn(session, text)), heldWhat(session.heap, textIn(session, what));
     session.charge(bytesOf(heldText));
     return ofNumber(find(start, heldText, heldWhat));
 }
@@ -44,14 +44,14 @@ std::int32_t inStrRev(Session& session, std::u16string_view text, std::u16string
 Variant strComp(Session& session, const Variant& a, const Variant& b, std::int32_t compareBy) {
     const auto method = comparisonOf(compareBy);
     if (isNullIn(a, b)) return null();
-    const HeldText left(session, textIn(session, a)), right(session, textIn(session, b));
+    const HeldText left(session.heap, textIn(session, a)), right(session.heap, textIn(session, b));
     return ofInteger(compare(unitsOf(left), unitsOf(right), method));
 }
 
 TextList split(Session& session, std::u16string_view text, const Variant& delimiter, std::int32_t limit,
                std::int32_t compare) {
     const auto method = comparisonOf(compare);
-    const HeldText between(session, delimiter.isMissing() ? made(session, u" ") : textIn(session, delimiter));
+    const HeldText between(session.heap, delimiter.isMissing() ? made(session, u" ") : textIn(session, delimiter));
     return {makeTexts(session, Split(text, unitsOf(between), limit, method))};
 }
 
@@ -61,7 +61,7 @@ std::vector<std::u16string_view> viewsOf(const std::vector<std::u16string>& text
 
 TextBlock* joinList(Session& session, const Variant& list, const Variant& delimiter) {
     const auto texts = textsIn(session, list);
-    const HeldText between(session, delimiter.isMissing() ? made(session, u" ") : textIn(session, delimiter));
+    const HeldText between(session.heap, delimiter.isMissing() ? made(session, u" ") : textIn(session, delimiter));
     return joined(session, viewsOf(texts), unitsOf(between));
 }
 

@@ -40,7 +40,7 @@ Variant getAllSettings(Session& session, std::u16string_view application, std::u
     const auto all = settingsOf(session).all(toUtf8(application), toUtf8(section));
     if (all.empty()) return {};
     const Bounds bounds[]{{0, static_cast<std::int32_t>(all.size()) - 1}, {0, 1}};
-    HeldBlock<ArrayBlock> array(session, makeArray(session.heap, {{BaseType::Text}}, bounds));
+    HeldBlock<ArrayBlock> array(session.heap, makeArray(session.heap, {{BaseType::Text}}, bounds));
     for (std::size_t i = 0; i < all.size(); ++i) {
         array->as<Slot>()[i].text = madeOfUtf8(session, all[i].first);
         array->as<Slot>()[all.size() + i].text = madeOfUtf8(session, all[i].second);

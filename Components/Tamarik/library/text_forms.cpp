@@ -34,7 +34,7 @@ Variant repeatedOrNull(Session& session, std::int32_t count, const Variant& char
 
 Variant strConv(Session& session, const Variant& v, std::int32_t conversion, std::int32_t) {
     if (v.kind == kNull) return null();
-    const HeldText text(session, textIn(session, v));
+    const HeldText text(session.heap, textIn(session, v));
     return ofText(madeOfBytes(session, StrConv(bytesIn(text), conversion, pageOf(session))));
 }
 
@@ -56,7 +56,7 @@ std::int32_t bytesOfKind(const Variant& v) {
 
 /// Len of a Variant counts the characters of its text; LenB the bytes.
 std::int32_t bytesOfText(Session& session, const Variant& v) {
-    const HeldText text(session, textIn(session, v));
+    const HeldText text(session.heap, textIn(session, v));
     return static_cast<std::int32_t>(bytesOf(text));
 }
 

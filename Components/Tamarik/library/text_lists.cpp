@@ -24,7 +24,7 @@ std::vector<std::u16string> textsIn(Session& session, const Variant& v) {
     session.charge(std::uint64_t{list.size} * sizeof(Slot));
     for (std::uint32_t i = 0; i < list.size; ++i) {
         const Variant element = elementAt(session.heap, list, i);
-        const HeldText held(session, element.kind == kString ? element.text : textOf(session.heap, element));
+        const HeldText held(session.heap, element.kind == kString ? element.text : textOf(session.heap, element));
         texts.emplace_back(unitsOf(held));
     }
     return texts;
@@ -32,7 +32,7 @@ std::vector<std::u16string> textsIn(Session& session, const Variant& v) {
 
 ArrayBlock* makeTexts(Session& session, std::span<const std::u16string_view> texts) {
     const Bounds bounds{0, static_cast<std::int32_t>(texts.size()) - 1};
-    HeldBlock<ArrayBlock> array(session, makeArray(session.heap, {{BaseType::Text}}, {&bounds, 1}));
+    HeldBlock<ArrayBlock> array(session.heap, makeArray(session.heap, {{BaseType::Text}}, {&bounds, 1}));
     for (std::size_t i = 0; i < texts.size(); ++i) array->as<Slot>()[i].text = made(session, texts[i]);
     return array.take();
 }

@@ -70,7 +70,7 @@ void ValueReader::text(const StoredPlace& place, bool hasLength) {
     const std::uint64_t length = place.fixedLength != 0 ? place.fixedLength
                                  : hasLength            ? number<std::uint16_t>()
                                                         : unitsOf(old).size();
-    const HeldText found(session_, decoded(session_, take(length)));
+    const HeldText found(session_.heap, decoded(session_, take(length)));
     place.slot->text = place.fixedLength != 0 ? fixLength(session_.heap, found, place.fixedLength)
                                               : retain(static_cast<TextBlock*>(found));
     release(session_.heap, old);

@@ -18,12 +18,10 @@
 #include "Components/Tamarik/vm/slot_values.h"
 #include "Components/Tamarik/vm/variant_operations.h"
 #include <cmath>
+#include <cstring>
 #include <limits>
 #include <new>
 
 namespace tamarik {
-
-/// The number that a reference leads to. Elements of arrays of whole numbers take 4 bytes, so it may be no aligned slot.
-inline std::int32_t& numberAt(Slot* slot) { return *reinterpret_cast<std::int32_t*>(slot); }
 
 } // namespace tamarik

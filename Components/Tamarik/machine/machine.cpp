@@ -27,7 +27,7 @@ Machine::Machine(std::shared_ptr<const Program> program, const Natives& natives,
     session_->random = Random(options_.seed);
     session_->surroundings = options_.surroundings;
     session_->classes = natives.classes();
-    execution_ = std::make_unique<Execution>(std::move(program), *session_);
+    execution_ = std::make_unique<Execution>(std::move(program), *session_, options_.stackSlots);
     bind(natives);
     session_->heap.failAllocation(options_.failingAllocation);
 }

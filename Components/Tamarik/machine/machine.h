@@ -5,6 +5,8 @@
 #include "Components/Tamarik/vm/program.h"
 #include "Components/Tamarik/vm/run_error.h"
 #include "Components/Tamarik/vm/run_state.h"
+#include <cstddef>
+#include <cstdint>
 #include <limits>
 #include <memory>
 #include <optional>
@@ -22,8 +24,12 @@ class Refusal : public std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
+/// The usual size of the stack: 8 MB.
+inline constexpr std::size_t kStackSlots = std::size_t{1} << 20;
+
 struct MachineOptions {
     std::uint64_t heapLimit = kMostHeapBytes;
+    std::size_t stackSlots = kStackSlots; ///< of all procedures that run; error 28 if there are no more
     std::uint32_t seed = 0x50000; ///< of Rnd
     Output output;
     Surroundings surroundings;

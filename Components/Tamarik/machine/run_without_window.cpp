@@ -5,7 +5,8 @@ namespace tamarik {
 namespace {
 
 void show(const Output& output, const Wait& wait) {
-    if (!output.error || wait.kind == Wait::Kind::Events) return;
+    const bool isQuestion = wait.kind == Wait::Kind::Message || wait.kind == Wait::Kind::Input;
+    if (!output.error || !isQuestion) return;
     output.error((wait.title.empty() ? "" : wait.title + ": ") + wait.text + "\n");
 }
 
@@ -19,12 +20,14 @@ Answer answerTo(const Output& output, const Wait& wait) {
 
 } // namespace
 
-RunState runWithoutWindow(Machine& machine, std::int64_t budget) {
+RunState runWithoutWindow(Machine& machine, std::int64_t budget, const Pause& pause) {
     auto state = machine.run(budget);
     while (state == RunState::Waiting) {
         const Output& output = machine.session().output;
-        show(output, machine.wait());
-        machine.answer(answerTo(output, machine.wait()));
+        const Wait& wait = machine.wait();
+        show(output, wait);
+        if (wait.kind == Wait::Kind::Pause) pause(wait.milliseconds);
+        machine.answer(answerTo(output, wait));
         state = machine.run(machine.budgetLeft());
     }
     return state;

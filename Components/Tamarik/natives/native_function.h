@@ -53,31 +53,13 @@ struct NativeType<TextBlock*&> : NativeSlot<image::BaseType::Text, image::TypeFo
         return slot->pointer->text;
     }
 };
-/// A variable of a number, to which a function assigns.
-class LongVariable {
-public:
-    explicit LongVariable(const Slot* reference) : to_(reference[0].pointer), owner_(reference[1].owner) {
-        if (!to_) throw basic::RuntimeError(basic::kObjectVariableNotSet);
-    }
-    [[nodiscard]] std::int32_t get() const {
-        return isByte() ? *static_cast<const std::uint8_t*>(to_) : *static_cast<const std::int32_t*>(to_);
-    }
-    void set(std::int32_t value) const {
-        if (isByte())
-            *static_cast<std::uint8_t*>(to_) = static_cast<std::uint8_t>(value);
-        else
-            *static_cast<std::int32_t*>(to_) = value;
-    }
-
-private:
-    [[nodiscard]] bool isByte() const { return owner_ && owner_->hasBytes; }
-
-    void* to_; ///< an element of an array takes less than a slot
-    const Counted* owner_;
-};
+/// A variable of a whole number, perhaps an element of an array, which takes less than a slot.
 template <>
-struct NativeType<LongVariable> : NativeSlot<image::BaseType::Long, image::TypeForm::Reference> {
-    static LongVariable read(const Slot* slot) { return LongVariable(slot); }
+struct NativeType<std::int32_t&> : NativeSlot<image::BaseType::Long, image::TypeForm::Reference> {
+    static std::int32_t& read(const Slot* slot) {
+        if (!slot->pointer) throw basic::RuntimeError(basic::kObjectVariableNotSet);
+        return numberAt(slot->pointer);
+    }
 };
 template <>
 struct NativeType<std::int64_t&> : NativeSlot<image::BaseType::Currency, image::TypeForm::Reference> {

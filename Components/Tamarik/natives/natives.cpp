@@ -12,6 +12,13 @@ bool takes(image::SlotType parameter, image::SlotType given) {
 
 } // namespace
 
+std::vector<std::string> Natives::names() const {
+    std::vector<std::string> names;
+    for (const auto& [name, forms] : natives_) names.push_back(name);
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
 std::span<const Native> Natives::find(std::string_view name) const {
     const auto found = natives_.find(name);
     return found == natives_.end() ? std::span<const Native>() : found->second;

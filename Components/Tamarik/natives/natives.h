@@ -41,6 +41,8 @@ public:
     /// A class that New and CreateObject can make.
     void addClass(std::string_view name, ObjectMaker maker) { classes_[std::string(name)] = maker; }
     [[nodiscard]] const LibraryClasses& classes() const { return classes_; }
+    /// In alphabetical order.
+    [[nodiscard]] std::vector<std::string> names() const;
     /// All functions with a name.
     [[nodiscard]] std::span<const Native> find(std::string_view name) const;
     /// Null if there is no function with exactly these types.

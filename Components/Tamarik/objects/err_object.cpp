@@ -1,6 +1,7 @@
 #include "Components/Tamarik/objects/err_object.h"
 #include "Basic/runtime_error.h"
 #include "Components/Tamarik/values/encoding.h"
+#include "Components/Tamarik/values/held.h"
 #include "Components/Tamarik/values/variant_conversion.h"
 #include "Components/Tamarik/values/variant_text.h"
 #include <utility>
@@ -13,15 +14,8 @@ constexpr std::int32_t kMostErrorNumber = 65535;
 
 std::string utf8Of(MemberCall& call, std::size_t argument) {
     if (call[argument].isMissing()) return {};
-    TextBlock* const text = textOf(call.session.heap, call[argument]);
-    try {
-        std::string utf8 = toUtf8(unitsOf(text));
-        release(call.session.heap, text);
-        return utf8;
-    } catch (...) {
-        release(call.session.heap, text);
-        throw;
-    }
+    const HeldText text(call.session.heap, textOf(call.session.heap, call[argument]));
+    return toUtf8(unitsOf(text));
 }
 
 Variant textResult(MemberCall& call, std::string_view utf8) { return ofText(makeTextOfUtf8(call.session.heap, utf8)); }

@@ -30,10 +30,9 @@ void sleepFor(std::int64_t milliseconds);
 [[nodiscard]] std::string commandLineOf(const std::vector<std::string>& words);
 
 struct Surroundings {
-    // A host with a clock of its own replaces all four of them.
+    // A host with a clock of its own replaces all three of them, and waits by it when the program pauses.
     std::function<basic::Date()> now = localTime, universalNow = universalTime;
     std::function<double()> milliseconds = steadyTime;
-    std::function<void(std::int64_t)> sleep = sleepFor;
 
     std::vector<std::string> environment = deviceEnvironment(); ///< as "NAME=value", UTF-8
     std::string commandLine;                                    ///< what Command returns, UTF-8

@@ -14,7 +14,7 @@ void listParts(LibraryObject& object, MemberCall& call, Part part) {
     const Dictionary& items = dictionaryIn(object);
     Session& session = call.session;
     const Bounds bounds{0, items.count() - 1};
-    HeldBlock<ArrayBlock> array(session, makeArray(session.heap, {{image::BaseType::Variant}}, {&bounds, 1}));
+    HeldBlock<ArrayBlock> array(session.heap, makeArray(session.heap, {{image::BaseType::Variant}}, {&bounds, 1}));
     session.charge(std::uint64_t{array->size} * sizeof(Variant));
     Slot* to = array->as<Slot>();
     items.forEach([&](const Variant& key, const Variant& item) {

@@ -25,7 +25,7 @@ inline void absentMember(LibraryObject&, MemberCall&) { throw basic::RuntimeErro
 /// The text of an argument; "" if it was omitted.
 [[nodiscard]] inline std::u16string textArgument(MemberCall& call, std::size_t argument) {
     if (call[argument].isMissing()) return {};
-    const HeldText text(call.session, textIn(call.session, call[argument]));
+    const HeldText text(call.session.heap, textIn(call.session, call[argument]));
     return std::u16string(unitsOf(text));
 }
 

@@ -172,7 +172,6 @@ ArrayBlock* makeArray(Heap& heap, const ElementType& element) {
     auto* const array = new (heap.allocate(sizeof(ArrayBlock), kArrayCharge)) ArrayBlock;
     array->element = element;
     array->elementBytes = bytesOfElement(element);
-    array->hasBytes = array->elementBytes == 1;
     return array;
 }
 

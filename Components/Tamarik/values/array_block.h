@@ -27,6 +27,7 @@ struct ArrayBlock : Counted {
     [[nodiscard]] T* as() const {
         return static_cast<T*>(data);
     }
+    [[nodiscard]] bool hasBytes() const { return elementBytes == 1; }
     [[nodiscard]] void* at(std::uint32_t place) const {
         return static_cast<char*>(data) + std::size_t{place} * elementBytes;
     }

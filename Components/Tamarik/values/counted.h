@@ -12,7 +12,6 @@ struct Counted {
     std::uint32_t count = 1;
     Kind kind;
     State state = State::Living;
-    bool hasBytes = false; ///< of an array whose elements take one byte
     Counted* nextPending = nullptr;
 
     explicit Counted(Kind k) : kind(k) {}

@@ -23,4 +23,8 @@ union Slot {
 };
 static_assert(sizeof(Slot) == 8);
 
+/// The whole number that a reference leads to. Elements of arrays take 4 bytes, so it may not be an aligned slot. Elements of 1
+/// byte have no references.
+inline std::int32_t& numberAt(Slot* slot) { return *reinterpret_cast<std::int32_t*>(slot); }
+
 } // namespace tamarik

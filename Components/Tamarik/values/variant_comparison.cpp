@@ -1,6 +1,7 @@
 // Comparison of Variants. The declared types of the operands decide how a text and a number are compared.
 #include "Basic/runtime_error.h"
 #include "Components/Tamarik/values/decimal_values.h"
+#include "Components/Tamarik/values/held.h"
 #include "Components/Tamarik/values/variant_conversion.h"
 #include "Components/Tamarik/values/variant_operators.h"
 #include "Components/Tamarik/values/variant_text.h"
@@ -31,18 +32,8 @@ int compareNumbers(const Variant& a, const Variant& b) {
 }
 
 int compareTexts(Heap& heap, const Variant& a, const Variant& b, bool ignoresCase) {
-    TextBlock* const left = textOf(heap, a);
-    TextBlock* right = nullptr;
-    try {
-        right = textOf(heap, b);
-    } catch (...) {
-        release(heap, left);
-        throw;
-    }
-    const int result = ignoresCase ? compareNoCase(left, right) : compare(left, right);
-    release(heap, left);
-    release(heap, right);
-    return result;
+    const HeldText left(heap, textOf(heap, a)), right(heap, textOf(heap, b));
+    return ignoresCase ? compareNoCase(left, right) : compare(left, right);
 }
 
 bool isTyped(BaseType type) { return type != BaseType::Variant && type != BaseType::Object; }

@@ -1,4 +1,5 @@
 #include "Components/Tamarik/values/variant_operators.h"
+#include "Components/Tamarik/values/held.h"
 #include "Components/Tamarik/values/number_texts.h"
 #include "Components/Tamarik/values/variant_text.h"
 
@@ -8,30 +9,19 @@ using image::VariantOperator;
 
 namespace {
 
-/// A text that is released at the end of a scope.
-class Held {
-public:
-    Held(Heap& heap, const Variant& v) : heap_(heap), text_(v.kind == kNull ? nullptr : textOf(heap, v)) {}
-    Held(const Held&) = delete;
-    Held& operator=(const Held&) = delete;
-    ~Held() { release(heap_, text_); }
-    [[nodiscard]] TextBlock* get() const { return text_; }
-
-private:
-    Heap& heap_;
-    TextBlock* text_;
-};
+/// Null joins as the empty text.
+TextBlock* joinedText(Heap& heap, const Variant& v) { return v.kind == kNull ? nullptr : textOf(heap, v); }
 
 Variant joined(Heap& heap, const Variant& a, const Variant& b) {
     if (a.kind == kNull && b.kind == kNull) return ofKind(kNull);
-    const Held left(heap, a), right(heap, b);
-    return ofText(join(heap, left.get(), right.get()));
+    const HeldText left(heap, joinedText(heap, a)), right(heap, joinedText(heap, b));
+    return ofText(join(heap, left, right));
 }
 
 Variant likeResult(Heap& heap, const image::OperationWord& word, const Variant& a, const Variant& b) {
     if (a.kind == kNull || b.kind == kNull) return ofKind(kNull);
-    const Held left(heap, a), right(heap, b);
-    return ofBoolean(isLike(unitsOf(left.get()), unitsOf(right.get()), word.comparesText));
+    const HeldText left(heap, textOf(heap, a)), right(heap, textOf(heap, b));
+    return ofBoolean(isLike(unitsOf(left), unitsOf(right), word.comparesText));
 }
 
 bool holds(VariantOperator op, int order) {

@@ -2,6 +2,7 @@
 #include "Basic/runtime_error.h"
 #include "Components/Tamarik/values/array_block.h"
 #include "Components/Tamarik/values/decimal_values.h"
+#include "Components/Tamarik/values/held.h"
 #include "Components/Tamarik/values/number_texts.h"
 #include <memory>
 
@@ -57,15 +58,8 @@ std::u16string printedText(const Variant& v) {
     if (v.kind == kNull) return u"Null";
     if (v.kind == kString) return std::u16string(unitsOf(v.text));
     Heap heap;
-    TextBlock* const text = textOf(heap, v);
-    std::u16string printed;
-    try {
-        printed = unitsOf(text);
-    } catch (...) {
-        release(heap, text);
-        throw;
-    }
-    release(heap, text);
+    const HeldText text(heap, textOf(heap, v));
+    std::u16string printed(unitsOf(text));
     if (!isPrintedAsNumber(v)) return printed;
     if (printed.front() != u'-') printed.insert(0, 1, u' ');
     return printed + u' ';

@@ -87,13 +87,13 @@ const Bounds& boundOf(const ArrayBlock* array, std::int32_t dimension) {
 }
 
 TextBlock* textOfBytes(Heap& heap, const ArrayBlock* array) {
-    if (array && !array->hasBytes) throw basic::RuntimeError(basic::kTypeMismatch);
+    if (array && !array->hasBytes()) throw basic::RuntimeError(basic::kTypeMismatch);
     return array ? makeText(heap, array->data, array->size) : nullptr;
 }
 
 void bytesOfText(Execution& m, std::uint32_t target, const TextBlock* text) {
     ArrayBlock& array = arrayIn(m, target);
-    if (!array.hasBytes) throw basic::RuntimeError(basic::kTypeMismatch);
+    if (!array.hasBytes()) throw basic::RuntimeError(basic::kTypeMismatch);
     const std::vector<std::uint8_t> bytes(text ? text->data() : nullptr, text ? text->data() + text->bytes : nullptr);
     const Bounds bounds{0, static_cast<std::int32_t>(bytes.size()) - 1};
     redimension(m.heap, array, {&bounds, 1}, false);

@@ -50,6 +50,15 @@ void Execution::passArguments(Slot* target, const std::uint32_t* words, std::uin
     }
 }
 
+void Execution::enter(const LoadedProcedure& procedure, const std::uint32_t* words, std::uint32_t count,
+                      std::uint32_t result) {
+    Slot *const base = nextBase(), *const end = base + procedure.slots;
+    if (end > stackEnd) throw basic::RuntimeError(basic::kOutOfStackSpace);
+    passArguments(base, words, count, procedure.managed);
+    *++frame = {procedure.code,  base, end,    &procedure, nullptr, static_cast<std::uint8_t>(result),
+                ErrorMode::None, 0,    nullptr};
+}
+
 void Execution::callNative(const std::uint32_t* ip) {
     const image::Word word(*ip);
     const BoundNative& native = imports[ip[1]];

@@ -8,7 +8,7 @@ namespace tamarik {
 
 namespace {
 
-/// Below the first frame, so that every frame has a caller.
+/// Of tasks, and of what is below the first frame, so that every frame has a caller.
 const LoadedProcedure kNoProcedure{};
 
 /// Pages that are never touched cost nothing.
@@ -21,19 +21,20 @@ T* reserve(std::size_t count) {
 
 } // namespace
 
-Execution::Execution(std::shared_ptr<const Program> code, Session& owner)
+Execution::Execution(std::shared_ptr<const Program> code, Session& owner, std::size_t stackSlots)
     : program(std::move(code)),
       session(owner),
       heap(owner.heap),
       texts(program->code().texts.size()),
       globals(program->globals.slots),
-      values_(reserve<Slot>(kStackSlots)),
-      frames_(reserve<Frame>(kMostFrames)) {
-    stackEnd = values_.get() + kStackSlots;
-    framesEnd = frames_.get() + kMostFrames;
+      values_(reserve<Slot>(stackSlots)),
+      frames_(reserve<Frame>(stackSlots / kSlotsOfFrame)) { // the slots are used up first
+    stack = values_.get();
+    stackEnd = stack + stackSlots;
     frame = frames_.get();
-    frame->base = values_.get();
+    frame->base = stack;
     frame->procedure = &kNoProcedure;
+    frame->end = stack + kNoProcedure.slots;
     rare(*frame).kind = FrameKind::Entry;
 }
 
@@ -82,18 +83,18 @@ TextBlock* Execution::constantText(std::uint32_t number) {
 }
 
 Slot* Execution::pushFrame(const LoadedProcedure& procedure, FrameKind kind) {
-    Slot* const base = nextBase();
-    if (base + procedure.slots > stackEnd || frame + 1 == framesEnd) throw basic::RuntimeError(basic::kOutOfStackSpace);
+    Slot *const base = nextBase(), *const end = base + procedure.slots;
+    if (end > stackEnd) throw basic::RuntimeError(basic::kOutOfStackSpace);
     RareFrame* const rare = kind == FrameKind::Call ? nullptr : newRare();
     if (rare) rare->kind = kind;
-    *++frame = {procedure.code, base, &procedure, nullptr, image::kNoSlot, ErrorMode::None, 0, rare};
+    *++frame = {procedure.code, base, end, &procedure, nullptr, image::kNoSlot, ErrorMode::None, 0, rare};
     return base;
 }
 
 void Execution::pushTask(std::unique_ptr<Task> task, std::uint8_t result) {
     RareFrame* rare = nullptr;
     try {
-        if (frame + 1 == framesEnd) throw basic::RuntimeError(basic::kOutOfStackSpace);
+        if (nextBase() + kNoProcedure.slots > stackEnd) throw basic::RuntimeError(basic::kOutOfStackSpace);
         rare = newRare();
     } catch (...) {
         task->release(heap);
@@ -102,7 +103,7 @@ void Execution::pushTask(std::unique_ptr<Task> task, std::uint8_t result) {
     rare->kind = FrameKind::Task;
     rare->task = std::move(task);
     Slot* const base = nextBase();
-    *++frame = {nullptr, base, &kNoProcedure, nullptr, result, ErrorMode::None, 0, rare};
+    *++frame = {nullptr, base, base + kNoProcedure.slots, &kNoProcedure, nullptr, result, ErrorMode::None, 0, rare};
 }
 
 void Execution::leaveTop() {

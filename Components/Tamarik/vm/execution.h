@@ -42,15 +42,14 @@ struct FreeMemory {
 };
 
 struct Execution {
-    Execution(std::shared_ptr<const Program> program, Session& session);
+    Execution(std::shared_ptr<const Program> program, Session& session, std::size_t stackSlots);
     ~Execution();
     Execution(const Execution&) = delete;
     Execution& operator=(const Execution&) = delete;
 
     // frames
     Frame* frame = nullptr; ///< the top one
-    Slot* stackEnd = nullptr;
-    Frame* framesEnd = nullptr;
+    Slot *stack = nullptr, *stackEnd = nullptr;
     std::int64_t budget = 0;
     std::size_t goSubs = 0; ///< return points of all frames
 
@@ -75,7 +74,8 @@ struct Execution {
 
     [[nodiscard]] RareFrame& rare(Frame& of);
     void dropRare(Frame& of) noexcept;
-    [[nodiscard]] Slot* nextBase() const { return frame->base + frame->procedure->slots; }
+    /// Where the next frame begins.
+    [[nodiscard]] Slot* nextBase() const { return frame->end; }
     [[nodiscard]] TextBlock* constantText(std::uint32_t number);
 
     // calls
@@ -85,6 +85,8 @@ struct Execution {
     /// Copies the arguments of a call instruction; if this fails, the slots are zero again.
     void passArguments(Slot* target, const std::uint32_t* words, std::uint32_t count,
                        std::span<const ManagedSlot> managed);
+    /// Passes the arguments of a call instruction and makes the frame of the procedure.
+    void enter(const LoadedProcedure& procedure, const std::uint32_t* words, std::uint32_t count, std::uint32_t result);
     void callNative(const std::uint32_t* ip);
     /// Makes a frame that waits, for a function that asked for it.
     void beginWait(const std::uint32_t* ip);

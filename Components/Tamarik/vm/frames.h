@@ -9,8 +9,6 @@
 
 namespace tamarik {
 
-inline constexpr std::size_t kStackSlots = std::size_t{8} << 20 >> 3;
-inline constexpr std::size_t kMostFrames = kStackSlots / 8;
 inline constexpr std::size_t kMostGoSubs = 65536; ///< of all frames together
 
 enum class ErrorMode : std::uint8_t { None, GoTo, ResumeNext };
@@ -34,13 +32,13 @@ struct RareFrame {
 
 struct Frame {
     const std::uint32_t* ip; ///< of all but the top frame: after the call
-    Slot* base;
+    Slot *base, *end;
     const LoadedProcedure* procedure;
-    const std::uint32_t* handler;
-    std::uint8_t result; ///< the slot of the caller, or kNoSlot
+    const std::uint32_t* handler; ///< of mode GoTo
+    std::uint8_t result;          ///< the slot of the caller, or kNoSlot
     ErrorMode mode;
     std::uint32_t line; ///< for Erl
-    RareFrame* rare;
+    RareFrame* rare; ///< always null above the top frame
 };
 
 } // namespace tamarik

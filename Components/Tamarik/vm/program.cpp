@@ -10,8 +10,6 @@ using image::TypeForm;
 
 namespace {
 
-constexpr std::uint32_t kFewestSlots = 8;
-
 bool isRecord(SlotType type) { return type.base == BaseType::Record && type.form == TypeForm::Value; }
 
 void addOne(RecordShape& shape, std::vector<SlotType>& types, SlotType type) {
@@ -112,10 +110,15 @@ LoadedProcedure Program::load(const image::Procedure& procedure) const {
     for (const SlotType type : loaded.types) loaded.kinds.push_back(valueKindOf(type));
     loaded.code = code_->code.data() + procedure.code;
     loaded.numbers = reinterpret_cast<const Slot*>(code_->numbers.data()) + procedure.numbers;
-    loaded.slots = std::max(kFewestSlots, (shape.slots + 3) & ~3U);
+    loaded.slots = std::max<std::uint32_t>(1, (shape.slots + kSlotsOfFrame - 1) / kSlotsOfFrame) * kSlotsOfFrame;
     loaded.managed = std::move(shape.managed);
-    loaded.resultSlot = procedure.resultSlot;
-    if (procedure.resultSlot != image::kNoSlot) loaded.result = valueKindOf(loaded.types[procedure.resultSlot]);
+    for (const ManagedSlot& each : loaded.managed)
+        loaded.holders.push_back(each.kind == Managed::Reference ? each.slot + 1 : each.slot);
+    if (procedure.resultSlot != image::kNoSlot) {
+        loaded.resultSlot = procedure.resultSlot;
+        loaded.result = valueKindOf(loaded.types[procedure.resultSlot]);
+        loaded.returnsManaged = loaded.result != ValueKind::Number;
+    }
     loaded.info = &procedure;
     return loaded;
 }

@@ -14,13 +14,19 @@ namespace tamarik {
 /// How the value of a slot is copied and released.
 enum class ValueKind : std::uint8_t { None, Number, Text, Object, Array, Variant, Reference };
 
+/// The slots of the smallest frame.
+inline constexpr std::uint32_t kSlotsOfFrame = 8;
+
 struct LoadedProcedure {
     const std::uint32_t* code = nullptr;
     const Slot* numbers = nullptr;
-    std::uint32_t slots = 0; ///< a multiple of 4, so that a frame is cleared in large steps
-    std::uint32_t resultSlot = image::kNoSlot;
+    std::uint32_t slots = kSlotsOfFrame; ///< a multiple, so that a frame is cleared in large steps
+    std::uint32_t resultSlot = 0;        ///< any slot without a result
     ValueKind result = ValueKind::None;
-    std::vector<ManagedSlot> managed;     ///< in the order of their release
+    bool returnsManaged = false; ///< the result is more than a number
+    std::vector<std::uint32_t>
+        holders;                      ///< managed slots, the owners of references; if all are zero, nothing is released
+    std::vector<ManagedSlot> managed; ///< in the order of their release
     std::vector<ManagedSlot> temporaries; ///< those that a run-time error releases
     std::vector<image::SlotType> types;   ///< of all slots
     std::vector<ValueKind> kinds;         ///< of all slots

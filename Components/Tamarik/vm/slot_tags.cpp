@@ -86,7 +86,7 @@ bool isReference(const Slot* slot, const Execution& m) {
     std::size_t bytes = 0;
     if (owner->kind == Counted::Kind::Array) {
         const auto& array = *static_cast<const ArrayBlock*>(owner);
-        if (array.locks == 0) return false;
+        if (array.locks == 0 || array.hasBytes()) return false;
         first = array.data;
         bytes = std::size_t{array.size} * array.elementBytes;
     } else {
@@ -191,8 +191,8 @@ void SlotTags::enter(const At& at) {
 }
 
 void SlotTags::check(const Execution& m, const std::uint32_t* ip) noexcept {
-    if (tags_.empty()) tags_.resize(kStackSlots);
-    const At at{m, *m.frame, ip, m.stackEnd - kStackSlots};
+    if (tags_.empty()) tags_.resize(static_cast<std::size_t>(m.stackEnd - m.stack));
+    const At at{m, *m.frame, ip, m.stack};
     const Slot* const end = m.nextBase();
     for (const Slot* slot = end; slot < end_; ++slot)
         require(at, slot->bits == 0, "something above the top frame is not zero");

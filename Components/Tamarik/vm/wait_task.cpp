@@ -10,7 +10,7 @@ bool WaitTask::step(Execution& machine) {
         return false;
     }
     Slot value{};
-    request_.finish(machine.session, *answer_, value);
+    if (request_.finish) request_.finish(machine.session, *answer_, value);
     const Frame& top = *machine.frame;
     Slot* const base = (machine.frame - 1)->base;
     machine.storeResult(top.result == image::kNoSlot ? nullptr : base + top.result, result_, &value);
