@@ -246,7 +246,10 @@ void ProjectCompiler::report(const Diagnostic& diagnostic) {
 
 bool ProjectCompiler::writeImage(const image::Image& image) {
     const std::string path = input_.outputPath + kImageSuffix;
-    const auto err = basic::attempt([&] { services_.files.WriteBytes(path, image::encode(image)); });
+    std::string bytes;
+    auto err = basic::attempt([&] { bytes = image::encode(image); });
+    BuildStatus.raise("95% completed"); // a host that stops the build here finds no file changed
+    if (err.Number == 0) err = basic::attempt([&] { services_.files.WriteBytes(path, bytes); });
     if (err.Number != 0) {
         report(fileDiagnostic(Message::ImageNotWritten, path, err.Description));
         return false;

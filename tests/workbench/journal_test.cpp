@@ -1,4 +1,5 @@
 // Unsaved changes survive the program.
+#include "Apps/workbench/base/message_box.h"
 #include "Apps/workbench/unsaved/discarded_changes.h"
 #include "Apps/workbench/unsaved/journal_folder.h"
 #include "Host/files/journal_file.h"
@@ -287,7 +288,7 @@ TEST_F(Journals, AreWrittenBeforeAWindowBlocksThisOne) {
         there = journals().size();
         press(box, "OK");
     });
-    QMessageBox::information(&window(), "Test", "a build, say");
+    workbench::showBox(&window(), QMessageBox::Information, "a build, say");
     EXPECT_EQ(there, 1);
 }
 
