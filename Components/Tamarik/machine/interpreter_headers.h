@@ -21,7 +21,3 @@
 #include <cstring>
 #include <limits>
 #include <new>
-
-namespace tamarik {
-
-} // namespace tamarik

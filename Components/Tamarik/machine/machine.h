@@ -30,7 +30,7 @@ inline constexpr std::size_t kStackSlots = std::size_t{1} << 20;
 struct MachineOptions {
     std::uint64_t heapLimit = kMostHeapBytes;
     std::size_t stackSlots = kStackSlots; ///< of all procedures that run; error 28 if there are no more
-    std::uint32_t seed = 0x50000; ///< of Rnd
+    std::uint32_t seed = 0x50000;         ///< of Rnd
     Output output;
     Surroundings surroundings;
     bool usesSwitch = false;             ///< the portable form of the interpreter

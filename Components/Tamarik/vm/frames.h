@@ -38,7 +38,7 @@ struct Frame {
     std::uint8_t result;          ///< the slot of the caller, or kNoSlot
     ErrorMode mode;
     std::uint32_t line; ///< for Erl
-    RareFrame* rare; ///< always null above the top frame
+    RareFrame* rare;    ///< always null above the top frame
 };
 
 } // namespace tamarik
