@@ -17,6 +17,8 @@ set_target_properties(toy PROPERTIES UNITY_BUILD ON)
 add_executable(test_toy main.cpp)
 target_link_libraries(test_toy toy)
 add_executable(test_other other.cpp)
+add_executable(test_moody moody.cpp)
+target_link_libraries(test_moody toy)
 """,
     "Basic/sum.h": "int sum(int a, int b);\n",
     "Basic/sum.cpp": '#include "Basic/sum.h"\nint sum(int a, int b) { return a + b; }\n',
@@ -24,6 +26,16 @@ add_executable(test_other other.cpp)
     "Basic/twice.cpp": '#include "Basic/twice.h"\nint twice(int a) { return sum(a, half(2 * a)); }\n',
     "main.cpp": '#include "Basic/twice.h"\nint main() { return twice(3) == 6 && half(8) == 4 ? 0 : 1; }\n',
     "other.cpp": "int main() {}\n",
+    # fails beside other tests
+    "moody.cpp": """#include "Basic/twice.h"
+#include <cstdio>
+#include <cstring>
+int main(int, char** words) {
+    if (std::strncmp(words[1], "--gtest_filter", 14) == 0) return sum(1, 2) == 3 ? 0 : 1;
+    std::puts("[  FAILED  ] A.Test");
+    return 1;
+}
+""",
 }
 
 
@@ -49,13 +61,15 @@ class Trials(unittest.TestCase):
             return {name: trial.failed_test(name) for name in trial.programs()}
 
     def test_a_change_that_matters_is_noticed(self):
-        self.assertEqual(self.noticed("Basic/sum.cpp", "a + b", "a - b"), {"test_toy": "test_toy: status 1"})
+        self.assertEqual(self.noticed("Basic/sum.cpp", "a + b", "a - b"),
+                         {"test_toy": "test_toy: status 1", "test_moody": "test_moody: A.Test"})
 
     def test_a_change_that_does_not_matter_survives(self):
-        self.assertEqual(self.noticed("Basic/sum.cpp", "a + b", "b + a"), {"test_toy": None})
+        self.assertEqual(self.noticed("Basic/sum.cpp", "a + b", "b + a"), {"test_toy": None, "test_moody": None})
 
     def test_a_header_changes_all_that_include_it(self):
-        self.assertEqual(self.noticed("Basic/twice.h", "a / 2", "a / 1"), {"test_toy": "test_toy: status 1"})
+        self.assertEqual(self.noticed("Basic/twice.h", "a / 2", "a / 1"),
+                         {"test_toy": "test_toy: status 1", "test_moody": None})
 
     def test_a_change_that_does_not_compile_is_no_trial(self):
         self.assertIsNone(self.noticed("Basic/sum.cpp", "a + b", "a +"))
