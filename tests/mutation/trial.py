@@ -84,7 +84,7 @@ class Tree:
 class Trial:
     """A change compiled in a folder of its own."""
 
-    def __init__(self, tree, folder, longest_run=600):
+    def __init__(self, tree, folder, longest_run=1200):
         self.tree = tree
         self.folder = folder
         self.longest_run = longest_run
