@@ -5,7 +5,7 @@ import tempfile
 import unittest
 
 from changes import Change
-from trial import Trial, Tree
+from trial import UNITTEST, Run, Trial, Tree
 
 FILES = {
     "CMakeLists.txt": """cmake_minimum_required(VERSION 3.20)
@@ -19,6 +19,8 @@ target_link_libraries(test_toy toy)
 add_executable(test_other other.cpp)
 add_executable(test_moody moody.cpp)
 target_link_libraries(test_moody toy)
+add_executable(test_broken broken.cpp)
+target_link_libraries(test_broken toy)
 """,
     "Basic/sum.h": "int sum(int a, int b);\n",
     "Basic/sum.cpp": '#include "Basic/sum.h"\nint sum(int a, int b) { return a + b; }\n',
@@ -26,6 +28,7 @@ target_link_libraries(test_moody toy)
     "Basic/twice.cpp": '#include "Basic/twice.h"\nint twice(int a) { return sum(a, half(2 * a)); }\n',
     "main.cpp": '#include "Basic/twice.h"\nint main() { return twice(3) == 6 && half(8) == 4 ? 0 : 1; }\n',
     "other.cpp": "int main() {}\n",
+    "broken.cpp": '#include "Basic/twice.h"\nint main() { return sum(1, 2) == 3 ? 1 : 2; }\n',
     # fails beside other tests
     "moody.cpp": """#include "Basic/twice.h"
 #include <cstdio>
@@ -62,14 +65,15 @@ class Trials(unittest.TestCase):
 
     def test_a_change_that_matters_is_noticed(self):
         self.assertEqual(self.noticed("Basic/sum.cpp", "a + b", "a - b"),
-                         {"test_toy": "test_toy: status 1", "test_moody": "test_moody: A.Test"})
+                         {"test_toy": "test_toy: status 1", "test_moody": "test_moody: A.Test", "test_broken": None})
 
     def test_a_change_that_does_not_matter_survives(self):
-        self.assertEqual(self.noticed("Basic/sum.cpp", "a + b", "b + a"), {"test_toy": None, "test_moody": None})
+        self.assertEqual(self.noticed("Basic/sum.cpp", "a + b", "b + a"),
+                         {"test_toy": None, "test_moody": None, "test_broken": None})
 
     def test_a_header_changes_all_that_include_it(self):
         self.assertEqual(self.noticed("Basic/twice.h", "a / 2", "a / 1"),
-                         {"test_toy": "test_toy: status 1", "test_moody": None})
+                         {"test_toy": "test_toy: status 1", "test_moody": None, "test_broken": None})
 
     def test_a_change_that_does_not_compile_is_no_trial(self):
         self.assertIsNone(self.noticed("Basic/sum.cpp", "a + b", "a +"))
@@ -82,6 +86,17 @@ class Trials(unittest.TestCase):
     def test_a_program_that_does_not_end_is_noticed(self):
         noticed = self.noticed("Basic/sum.cpp", "{ return", "{ for (volatile int i = 0;; ++i) {} return")
         self.assertIn("did not end", noticed["test_toy"])
+
+
+class Runs(unittest.TestCase):
+    def test_a_test_that_did_not_end_is_named(self):
+        with tempfile.TemporaryDirectory() as folder:
+            (pathlib.Path(folder) / "test_slow.py").write_text(
+                "import time, unittest\nclass Slow(unittest.TestCase):\n"
+                "    def test_a(self): pass\n    def test_b(self): time.sleep(9)\n", encoding="utf-8")
+            trial = Trial(None, None, longest_run=1)
+            self.assertEqual(trial.failures(Run([*UNITTEST, "test_slow"], folder)), ["test_slow.Slow.test_b"])
+            self.assertEqual(trial.failures(Run([*UNITTEST, "test_slow"], folder).alone("test_slow.Slow.test_a")), [])
 
 
 if __name__ == "__main__":

@@ -4,6 +4,7 @@ The changed source is compiled alone and comes first when a program is linked, s
 the library (inline ones too, because nothing is inlined in a debug build). The tree itself stays as it is.
 """
 import concurrent.futures
+import dataclasses
 import functools
 import json
 import os
@@ -16,6 +17,9 @@ import sys
 PRODUCT = ("Basic", "Add-in", "Host", "Components", "Apps")
 SOURCES_OF_A_HEADER = 4
 SHARDS = 4
+UNITTEST = [sys.executable, "-B", "-m", "unittest", "-v"]
+FAILED = rb"^\[  FAILED  \] ([\w./]+)|^(?:FAIL|ERROR): \w+ \(([\w.]+)\)"
+BEGUN = rb"^\[ RUN      \] ([\w./]+)|^\w+ \(([\w.]+)\)"
 
 
 class Tree:
@@ -84,7 +88,7 @@ class Tree:
 class Trial:
     """A change compiled in a folder of its own."""
 
-    def __init__(self, tree, folder, longest_run=1200):
+    def __init__(self, tree, folder, longest_run=900):
         self.tree = tree
         self.folder = folder
         self.longest_run = longest_run
@@ -122,68 +126,85 @@ class Trial:
         return program
 
     def failed_test(self, name):
-        """What fails, also when it is repeated, while a program is tested; None if nothing does."""
-        runs = self.runs(self.folder / os.path.basename(name), name)
-        if not runs:
+        """The test of a program that fails because of the change; None if none does."""
+        changed = self.runs(self.folder / os.path.basename(name), name)
+        if not changed:
             return None
+        unchanged = self.runs(self.tree.build / name, name)
         program = self.link(name)
         try:
             with concurrent.futures.ThreadPoolExecutor() as pool:
-                return next(filter(None, pool.map(lambda run: self.noticed(name, run), runs)), None)
+                test = next(filter(None, pool.map(self.noticed, changed, unchanged)), None)
         finally:
             program.unlink()
+        return f"{name}: {test}" if test else None
 
-    def noticed(self, name, run):
-        """A test that fails beside others but not alone has noticed nothing: it may be the load of the machine."""
-        failed = self.failures(run)
-        if not failed:
-            return None
-        if "--gtest_fail_fast" not in run["args"]:
-            failed = self.failures(run)
-        elif self.passes_alone(run, failed[0]):
-            everything = [word for word in run["args"] if word != "--gtest_fail_fast"]
-            failed = [test for test in self.failures(dict(run, args=everything)) if not self.passes_alone(run, test)]
-        return f"{name}: {failed[0]}" if failed else None
+    def noticed(self, changed, unchanged):
+        """The test that notices the change: it fails alone with the change, and not without it."""
+        failed = self.failures(changed)
+        if failed and not self.is_proof(failed[0], changed, unchanged):
+            failed = self.failures(changed.to_the_end())  # the load of the machine may have failed it: try the others
+        return next((test for test in failed if self.is_proof(test, changed, unchanged)), None)
 
-    def passes_alone(self, run, test):
-        if not re.fullmatch(r"[\w./]+", test):
-            return not self.failures(run)  # it crashed or did not end
-        return not self.failures(dict(run, args=[run["args"][0], f"--gtest_filter={test}"], env=dict(os.environ)))
+    def is_proof(self, test, changed, unchanged):
+        return bool(self.failures(changed.alone(test))) and not self.failures(unchanged.alone(test))
 
     def runs(self, program, name):
-        """The commands that test a program, run at the same time: tests of windows wait more than they work."""
-        base = program.name
+        """How a program is tested, all at the same time: tests of windows wait more than they work."""
+        base = os.path.basename(name)
         tests = self.tree.source / "tests"
         if base.startswith("test_"):
-            command = [str(program), "--gtest_brief=1", "--gtest_fail_fast"]
-            return [{"args": command, "cwd": self.tree.build / os.path.dirname(name),
-                     "env": dict(os.environ, GTEST_TOTAL_SHARDS=str(SHARDS), GTEST_SHARD_INDEX=str(shard))}
-                    for shard in range(SHARDS)]
+            return [Run([program, "--gtest_fail_fast"], self.tree.build / os.path.dirname(name),
+                        {"GTEST_TOTAL_SHARDS": str(SHARDS), "GTEST_SHARD_INDEX": str(shard)}) for shard in range(SHARDS)]
         if base == "fernwick":
-            environment = dict(os.environ, FERNWICK_BUILD=str(self.tree.build), FERNWICK_PROGRAM=str(program))
+            variables = {"FERNWICK_BUILD": str(self.tree.build), "FERNWICK_PROGRAM": str(program)}
             saves = [sys.executable, tests / "faults/save_faults_test.py", program,
                      self.tree.build / "tests/faults/increment_revision"]
-            return [{"args": [sys.executable, "-B", "-m", "unittest", "-f", *self.modules(part)], "cwd": tests / "cli",
-                     "env": environment} for part in range(SHARDS)] + [{"args": saves, "cwd": self.folder}]
+            return [Run([*UNITTEST, "-f", *self.modules(part)], tests / "cli", variables)
+                    for part in range(SHARDS)] + [Run(saves, self.folder)]
         if base == "fernwick-workbench":
-            return [{"args": [self.tree.build / "tests/workbench_x11/test_workbench_x11", "--gtest_filter=Program.*"],
-                     "cwd": self.folder, "env": dict(os.environ, FERNWICK_WORKBENCH=str(program))}]
+            return [Run([self.tree.build / "tests/workbench_x11/test_workbench_x11", "--gtest_filter=Program.*"],
+                        self.folder, {"FERNWICK_WORKBENCH": str(program)})]
         if base == "tamarik-headless":
-            return [{"args": [sys.executable, "-B", tests / "machines/test_headless.py", program,
-                              self.tree.build / "tests/language_programs/language_images"], "cwd": self.folder}]
+            return [Run([sys.executable, "-B", tests / "machines/test_headless.py", program,
+                         self.tree.build / "tests/language_programs/language_images"], self.folder)]
         return []
 
     def modules(self, part):
         return sorted(file.stem for file in (self.tree.source / "tests/cli").glob("test_*.py"))[part::SHARDS]
 
     def failures(self, run):
-        """The tests that fail in a run, or how it ended."""
+        """The tests that fail in a run, or how it ended; the last one that began if it crashed or did not end."""
         try:
-            result = subprocess.run(run["args"], cwd=run["cwd"], env=run.get("env"), stdin=subprocess.DEVNULL,
+            result = subprocess.run(run.args, cwd=run.cwd, env=os.environ | run.variables, stdin=subprocess.DEVNULL,
                                     stdout=subprocess.PIPE, stderr=subprocess.STDOUT, timeout=self.longest_run)
-        except subprocess.TimeoutExpired:
-            return ["it did not end"]
-        if result.returncode == 0:
+            output, end = result.stdout, f"status {result.returncode}"
+        except subprocess.TimeoutExpired as expired:
+            output, end = expired.stdout or b"", "it did not end"
+        if end == "status 0":
             return []
-        named = re.findall(rb"^\[  FAILED  \] ([\w./]+)|^(?:FAIL|ERROR): (\w+)", result.stdout, re.M)
-        return [(gtest or python).decode() for gtest, python in named] or [f"status {result.returncode}"]
+        return named(FAILED, output) or named(BEGUN, output)[-1:] or [end]
+
+
+@dataclasses.dataclass
+class Run:
+    """A command that runs tests."""
+
+    args: list
+    cwd: pathlib.Path
+    variables: dict = dataclasses.field(default_factory=dict)
+
+    def to_the_end(self):
+        return Run([word for word in self.args if word not in ("--gtest_fail_fast", "-f")], self.cwd, self.variables)
+
+    def alone(self, test):
+        """All of it again where the name of a test is unknown."""
+        if self.args[: len(UNITTEST)] == UNITTEST and "." in test:
+            return Run([*UNITTEST, test], self.cwd, self.variables)
+        if "--gtest_fail_fast" in self.args and "." in test:
+            return Run([self.args[0], f"--gtest_filter={test}"], self.cwd)
+        return self
+
+
+def named(pattern, output):
+    return [(gtest or python).decode() for gtest, python in re.findall(pattern, output, re.M)]
