@@ -2,8 +2,11 @@
 #include "messages_world.h"
 
 using testing::AnyOf;
+using testing::Contains;
 using testing::ElementsAre;
+using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::Not;
 using testing::SizeIs;
 using testing::StartsWith;
 
