@@ -14,7 +14,6 @@
 #include <QListWidget>
 #include <QLocale>
 #include <QProcess>
-#include <csignal>
 #include <filesystem>
 
 using test::kLongestWait;
@@ -43,6 +42,7 @@ protected:
     void crash(const std::string& project, const std::string& typed, const std::string& value = {}) {
         QProcess other;
         auto environment = QProcessEnvironment::systemEnvironment();
+        environment.remove("GTEST_TOTAL_SHARDS");
         environment.insert("FERNWICK_TEST_PROJECT", QString::fromStdString(project));
         environment.insert("FERNWICK_TEST_TYPED", QString::fromStdString(typed));
         environment.insert("FERNWICK_TEST_VALUE", QString::fromStdString(value));
@@ -54,7 +54,7 @@ protected:
                     {"--gtest_also_run_disabled_tests", "--gtest_filter=Killed.DISABLED_TypesUntilItIsKilled"});
         EXPECT_TRUE(QTest::qWaitFor([&] { return journals().size() == expected; }, kLongestWait))
             << other.readAllStandardOutput().toStdString();
-        ::kill(pid_t(other.processId()), SIGKILL);
+        other.kill();
         EXPECT_TRUE(other.waitForFinished());
     }
     /// Writes a journal as left by a dead program. Returns its path.
