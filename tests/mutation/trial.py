@@ -11,6 +11,7 @@ import os
 import pathlib
 import re
 import shlex
+import shutil
 import subprocess
 import sys
 
@@ -125,18 +126,25 @@ class Trial:
         subprocess.run(command, cwd=self.tree.build, check=True)
         return program
 
+    def copy(self, name):
+        """The program without the change, which finds as much beside it as the changed one."""
+        program = self.folder / "unchanged" / os.path.basename(name)
+        program.parent.mkdir(exist_ok=True)
+        shutil.copy(self.tree.build / name, program)
+        return program
+
     def failed_test(self, name):
         """The test of a program that fails because of the change; None if none does."""
-        changed = self.runs(self.folder / os.path.basename(name), name)
-        if not changed:
+        if not self.runs(self.folder, name):
             return None
-        unchanged = self.runs(self.tree.build / name, name)
-        program = self.link(name)
+        programs = [self.link(name), self.copy(name)]
         try:
             with concurrent.futures.ThreadPoolExecutor() as pool:
-                test = next(filter(None, pool.map(self.noticed, changed, unchanged)), None)
+                runs = (self.runs(program, name) for program in programs)
+                test = next(filter(None, pool.map(self.noticed, *runs)), None)
         finally:
-            program.unlink()
+            for program in programs:
+                program.unlink()
         return f"{name}: {test}" if test else None
 
     def noticed(self, changed, unchanged):
@@ -157,7 +165,9 @@ class Trial:
             return [Run([program, "--gtest_fail_fast"], self.tree.build / os.path.dirname(name),
                         {"GTEST_TOTAL_SHARDS": str(SHARDS), "GTEST_SHARD_INDEX": str(shard)}) for shard in range(SHARDS)]
         if base == "fernwick":
-            variables = {"FERNWICK_BUILD": str(self.tree.build), "FERNWICK_PROGRAM": str(program)}
+            desktop = self.tree.build / os.path.dirname(name) / "../workbench"
+            variables = {"FERNWICK_BUILD": str(self.tree.build), "FERNWICK_PROGRAM": str(program),
+                         "PATH": f"{desktop}:{os.environ['PATH']}"}
             saves = [sys.executable, tests / "faults/save_faults_test.py", program,
                      self.tree.build / "tests/faults/increment_revision"]
             return [Run([*UNITTEST, "-f", *self.modules(part)], tests / "cli", variables)
