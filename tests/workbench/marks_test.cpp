@@ -179,8 +179,8 @@ TEST_F(Marks, DamagedFilesOfBreakpointsAreEmpty) {
     const auto good = std::string("Fernwick breakpoints 1\n") + path + "\n";
     for (const auto& bad :
          std::vector<std::string>{std::string(), std::string("x"), good + "modA\t0\tBeep\n", good + "modA\t5\n",
-                                  good + "modA\t99999999999\tBeep\n", "Fernwick breakpoints 1\n/other\nmodA\t5\tBeep\n",
-                                  std::string(2'000'000, 'x')}) {
+                                  good + "modA\t99999999999\tBeep\n", good + "modA\t10000000\tBeep\n",
+                                  "Fernwick breakpoints 1\n/other\nmodA\t5\tBeep\n", std::string(2'000'000, 'x')}) {
         QFile file(name);
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(bad.data(), qint64(bad.size()));

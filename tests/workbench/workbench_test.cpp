@@ -414,6 +414,14 @@ TEST_F(Desktop, RecentProjectsOpenAgain) {
     EXPECT_EQ(project()->FileName(), path);
 }
 
+TEST_F(Desktop, AProjectThatGotANewNameIsRecentUnderIt) {
+    openSample("HelloWorld");
+    const auto path = folder / "HelloWorld/Hello2.vbp";
+    project()->SaveAs(path);
+    bench->host().VBProjects()->Remove(project());
+    EXPECT_EQ(workbench::RecentProjects::stored().value(0).toStdString(), path);
+}
+
 TEST_F(Desktop, TheRecentListHasAGroupInsteadOfItsProjects) {
     QSettings().clear();
     sample("HelloWorld");
