@@ -94,9 +94,11 @@ class Trial:
         self.folder = folder
         self.longest_run = longest_run
         self.objects = {}  # and the programs that contain each
+        self.changes_saving = False
 
     def compile(self, change):
         """False if it does not compile."""
+        self.changes_saving = change.path.startswith("Host/files/")
         text = (self.tree.source / change.path).read_text(encoding="utf-8")
         changed = self.folder / "tree" / change.path
         changed.parent.mkdir(parents=True, exist_ok=True)
@@ -168,10 +170,10 @@ class Trial:
             desktop = self.tree.build / os.path.dirname(name) / "../workbench"
             variables = {"FERNWICK_BUILD": str(self.tree.build), "FERNWICK_PROGRAM": str(program),
                          "PATH": f"{desktop}:{os.environ['PATH']}"}
-            saves = [sys.executable, tests / "faults/save_faults_test.py", program,
-                     self.tree.build / "tests/faults/increment_revision"]
+            saves = Run([sys.executable, tests / "faults/save_faults_test.py", program,
+                         self.tree.build / "tests/faults/increment_revision"], self.folder)  # takes ten minutes
             return [Run([*UNITTEST, "-f", *self.modules(part)], tests / "cli", variables)
-                    for part in range(SHARDS)] + [Run(saves, self.folder)]
+                    for part in range(SHARDS)] + [saves] * self.changes_saving
         if base == "fernwick-workbench":
             return [Run([self.tree.build / "tests/workbench_x11/test_workbench_x11", "--gtest_filter=Program.*"],
                         self.folder, {"FERNWICK_WORKBENCH": str(program)})]
