@@ -1,9 +1,9 @@
 // Checks the syntax, names and types of files as one project, and with --image also makes its code and writes the image.
 // Usage: check_bench [--threads N] [--image PATH] FILE...; the status is 1 if there are errors, since that would distort the
 // measurement.
+#include "Apps/common/process_memory.h"
 #include "Components/Image/image.h"
 #include "Components/QLToolkit/check.h"
-#include "Components/QLToolkit/source/process_memory.h"
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -12,7 +12,7 @@
 #include <sys/resource.h>
 
 int main(int argc, char** argv) {
-    qltoolkit::keepFreedMemory(); // as fernwick does
+    apps::keepFreedMemory(); // as fernwick does
     qltoolkit::ProgramOptions options;
     std::vector<std::unique_ptr<qltoolkit::SourceText>> sources;
     std::size_t bytes = 0;

@@ -1,7 +1,7 @@
 // Parses files and prints the time.
 // Usage: parser_bench [--json] FILE...; the status is 1 if a file has errors, since that would distort the measurement.
+#include "Apps/common/process_memory.h"
 #include "Components/QLToolkit/parser/parse.h"
-#include "Components/QLToolkit/source/process_memory.h"
 #include <chrono>
 #include <cstdio>
 #include <cstring>
@@ -37,7 +37,7 @@ void measure(const char* path, qltoolkit::SymbolTable& symbols, Measured& total)
 } // namespace
 
 int main(int argc, char** argv) {
-    qltoolkit::keepFreedMemory(); // as fernwick does: memory of one module is used again for the next
+    apps::keepFreedMemory(); // as fernwick does: memory of one module is used again for the next
     qltoolkit::SymbolTable symbols;
     Measured total;
     bool json = false;

@@ -1,3 +1,4 @@
+#include "Apps/common/process_memory.h"
 #include "Apps/fernwick/command_line/parse.h"
 #include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/options/refusal.h"
@@ -6,7 +7,6 @@
 #include "Apps/fernwick/run/interruption.h"
 #include "Basic/printable.h"
 #include "Basic/runtime_error.h"
-#include "Components/QLToolkit/source/process_memory.h"
 #include <cstdio>
 #include <cstring>
 #include <fmt/format.h>
@@ -77,7 +77,7 @@ int main(int argc, char** argv) {
     const auto parsed = cli::parseCommandLine(argc, argv);
     if (!parsed.output.empty()) return printed(parsed.output);
 
-    qltoolkit::keepFreedMemory();
+    apps::keepFreedMemory();
     cli::watchForInterrupt();
     cli::Console console{parsed.options.verbosity, parsed.options.color};
     int status = parsed.run ? guarded(parsed, console) : misused(parsed, console);

@@ -1,11 +1,11 @@
-#include "Components/QLToolkit/source/process_memory.h"
+#include "Apps/common/process_memory.h"
 #include <cstdint>
 #include <cstdlib>
 #include <malloc.h>
 #include <sys/mman.h>
 #include <unistd.h>
 
-namespace qltoolkit {
+namespace apps {
 
 namespace {
 
@@ -34,4 +34,4 @@ void keepFreedMemory() {
     takeLargePages();
 }
 
-} // namespace qltoolkit
+} // namespace apps
