@@ -3,8 +3,6 @@
 #include "Basic/tables/code_page_names.h"
 #include "Basic/text_search.h"
 #include "Components/QLToolkit/module_image.h"
-#include "Components/QLToolkit/parsed_program.h"
-#include "Components/QLToolkit/parser/form_header.h"
 #include "Components/QLToolkit/parser/parse_all.h"
 #include "Components/QLToolkit/source/res_file.h"
 #include <algorithm>
@@ -63,9 +61,10 @@ bool ProjectCompiler::compile() {
     auto sources = parseSources(symbols);
     const auto libraries = findLibraries();
     for (const auto& library : libraries) image.libraries.push_back(services_.files.GetFileName(library.path));
-    image.code = checkNames(sources, symbols, libraries);
-    for (const auto& source : sources)
-        if (isRight(source.parsed)) addModule(image, source, symbols);
+    auto program = checkNames(sources, symbols, libraries);
+    if (program.code) image.code = std::move(*program.code);
+    for (std::size_t i = 0; i < sources.size(); ++i)
+        if (isRight(sources[i].parsed)) addModule(image, sources[i], std::move(program.forms[i]), symbols);
     checkModules(image);
     if (errors_ > 0) return false;
 
@@ -127,10 +126,10 @@ std::vector<image::Resource> ProjectCompiler::resources() {
     return found;
 }
 
-void ProjectCompiler::addModule(image::Image& image, const Source& source, const SymbolTable& symbols) {
+void ProjectCompiler::addModule(image::Image& image, const Source& source, std::optional<image::Control> form,
+                                const SymbolTable& symbols) {
     image.modules.push_back(imageOf(*source.parsed.module, symbols));
-    if (source.text->kind() != FileKind::Form) return;
-    if (auto form = readFormHeader(*source.text)) image.forms.push_back(std::move(*form));
+    if (form && source.text->kind() == FileKind::Form) image.forms.push_back(std::move(*form));
 }
 
 bool ProjectCompiler::makesCode(const std::vector<Source>& sources) {
@@ -162,15 +161,15 @@ ProgramOptions ProjectCompiler::optionsWith(const std::vector<Library>& librarie
     return options;
 }
 
-image::CodeImage ProjectCompiler::checkNames(const std::vector<Source>& sources, SymbolTable& symbols,
-                                             const std::vector<Library>& libraries) {
+ParsedProgram ProjectCompiler::checkNames(const std::vector<Source>& sources, SymbolTable& symbols,
+                                          const std::vector<Library>& libraries) {
     std::vector<ParsedSource> parsed;
     for (const auto& source : sources) parsed.push_back({source.text.get(), &source.parsed});
     const ImageParts parts{input_.startup == kSubMain ? "Main" : "", codePageOf(sources), resources()};
     auto program = compileParsed(parsed, symbols, optionsWith(libraries), makesCode(sources) ? &parts : nullptr);
     for (const auto& messages : program.messages)
         for (const auto& diagnostic : messages) report(diagnostic);
-    return program.code ? std::move(*program.code) : image::CodeImage{};
+    return program;
 }
 
 void ProjectCompiler::checkModules(const image::Image& image) {

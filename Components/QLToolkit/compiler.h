@@ -4,8 +4,7 @@
 #include "Add-in/platform/compiler.h"
 #include "Add-in/platform/files.h"
 #include "Components/Image/image.h"
-#include "Components/QLToolkit/names/check_program.h"
-#include "Components/QLToolkit/parser/parse.h"
+#include "Components/QLToolkit/parsed_program.h"
 #include <functional>
 #include <memory>
 #include <optional>
@@ -87,11 +86,11 @@ private:
     /// Returns what is wrong with a file if `read` throws.
     template <class Read>
     std::optional<Diagnostic> problemOfReading(const std::string& path, const Read& read);
-    static void addModule(image::Image& image, const Source& source, const SymbolTable& symbols);
+    static void addModule(image::Image& image, const Source& source, std::optional<image::Control> form,
+                          const SymbolTable& symbols);
     void checkModules(const image::Image& image);
-    /// Returns the code of a program that has some and no errors.
-    image::CodeImage checkNames(const std::vector<Source>& sources, SymbolTable& symbols,
-                                const std::vector<Library>& libraries);
+    ParsedProgram checkNames(const std::vector<Source>& sources, SymbolTable& symbols,
+                             const std::vector<Library>& libraries);
     [[nodiscard]] ProgramOptions optionsWith(const std::vector<Library>& libraries) const;
     /// Forms have no code yet, and modules beside them cannot run alone.
     static bool makesCode(const std::vector<Source>& sources);

@@ -18,6 +18,7 @@ ParsedProgram compileParsed(const std::vector<ParsedSource>& sources, SymbolTabl
                             const ImageParts* wanted) {
     ParsedProgram program;
     program.messages.resize(sources.size());
+    program.forms.resize(sources.size());
     std::vector<ParsedModule> modules;
     std::vector<std::size_t> places; // in the program, of the modules
     for (std::size_t i = 0; i < sources.size(); ++i) {
@@ -37,6 +38,7 @@ ParsedProgram compileParsed(const std::vector<ParsedSource>& sources, SymbolTabl
         program.entries = generator.entryPoints();
     };
     checkProgram(modules, symbols, options, done, makesCode ? &generator : nullptr);
+    for (std::size_t i = 0; i < places.size(); ++i) program.forms[places[i]] = std::move(modules[i].form);
     return program;
 }
 

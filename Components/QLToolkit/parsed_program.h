@@ -18,7 +18,9 @@ struct ParsedSource {
 [[nodiscard]] bool isRight(const ParseResult& parsed);
 
 struct ParsedProgram {
-    ProgramMessages messages;             ///< of each file, without those of the parser
+    ProgramMessages messages; ///< of each file, without those of the parser
+    std::vector<std::optional<image::Control>>
+        forms;                            ///< the header of each file, if its syntax is right and it has one
     std::optional<image::CodeImage> code; ///< of a program without errors, if it was wanted
     std::vector<EntryPoint> entries;      ///< of its code
 };
