@@ -2,7 +2,6 @@
 #include "Apps/common/file_names.h"
 #include "Basic/case_folding.h"
 #include "Basic/runtime_error.h"
-#include "Host/files/path_lookup.h"
 #include "Host/files/project_code_page.h"
 
 namespace apps {
@@ -33,6 +32,11 @@ void addMember(CheckedProject& project, const host::ProjectMember& member, host:
 
 } // namespace
 
+std::string resourceFileOf(const host::ProjectFile& file, const std::string& folder, host::PathLookup& lookup) {
+    const auto written = file.setting("ResFile32");
+    return written ? lookup.find(folder, *written) : "";
+}
+
 CheckedProject readProject(const std::string& path, const std::optional<basic::CodePage>& given) {
     host::FileContents contents;
     return readProject(path, given, contents);
@@ -50,8 +54,7 @@ CheckedProject readProject(const std::string& path, const std::optional<basic::C
     project.constants = qltoolkit::parseConditionalConstants(file.setting("CondComp").value_or(""));
     host::PathLookup lookup(detected.page);
     for (const auto& member : file.members()) addMember(project, member.content, lookup);
-    if (const auto resources = file.setting("ResFile32"))
-        project.resourceFile = lookup.find(folderOf(project.path), *resources);
+    project.resourceFile = resourceFileOf(file, folderOf(project.path), lookup);
     return project;
 }
 

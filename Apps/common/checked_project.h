@@ -2,6 +2,7 @@
 // A project as the checks read it: its sources and libraries, without the add-in.
 #include "Basic/detection/code_page_detection.h"
 #include "Components/QLToolkit/parser/conditional_constants.h"
+#include "Host/files/path_lookup.h"
 #include "Host/files/project_file.h"
 #include "Host/files/text_file.h"
 #include <optional>
@@ -22,6 +23,10 @@ struct CheckedProject {
     std::string startup;                    ///< "Sub Main", the name of a form, or ""
     std::string resourceFile;               ///< its path; "" if there is none
 };
+
+/// Returns the path of a project's resource file, or "".
+[[nodiscard]] std::string resourceFileOf(const host::ProjectFile& file, const std::string& folder,
+                                         host::PathLookup& lookup);
 
 /// Reads a project file. `given` is its code page, without which it is detected; the sources that are read for this stay
 /// in `contents`. Errors go to the caller; 5 for a file that is no project.

@@ -1,6 +1,6 @@
 #include "Apps/common/open_projects.h"
+#include "Apps/common/checked_project.h"
 #include "Apps/common/source_code_page.h"
-#include "Host/files/path_lookup.h"
 #include "Host/model/project.h"
 #include <filesystem>
 
@@ -8,12 +8,12 @@ namespace apps {
 
 namespace {
 
-std::string resourceFileOf(host::Host& host, const std::string& outputPath) {
+std::string resourceFileOfOpen(host::Host& host, const std::string& outputPath) {
     for (const auto& open : host.VBProjects()->items()) {
         const auto project = basic::cast<host::Project>(open);
         if (!project || std::filesystem::path(project->folder()) / project->Name() != outputPath) continue;
-        const auto written = project->file().setting("ResFile32");
-        if (written) return host::PathLookup(project->codePage().page).find(project->folder(), *written);
+        host::PathLookup lookup(project->codePage().page);
+        return resourceFileOf(project->file(), project->folder(), lookup);
     }
     return "";
 }
@@ -27,7 +27,7 @@ void compileOpenProjects(Machine& machine, const std::shared_ptr<host::Host>& ho
     });
     machine.resourceFileOfProject([open = std::weak_ptr(host)](const std::string& outputPath) {
         const auto host = open.lock();
-        return host ? resourceFileOf(*host, outputPath) : "";
+        return host ? resourceFileOfOpen(*host, outputPath) : "";
     });
 }
 

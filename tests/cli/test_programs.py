@@ -116,6 +116,7 @@ class Programs(unittest.TestCase):
             file.write_bytes(self.resources(text))
             done = self.home.fernwick("run", "Loop.vbp")
             self.assertEqual((done.returncode, done.stdout, done.stderr), (0, text + " 2 \n", ""))
+        self.assertRegex(self.home.fernwick("check", "Loop.vbp").stdout, "^1 file, .* 0 errors")
 
     def test_a_resource_file_is_part_of_the_image(self):
         file = self.program_with_resources()
@@ -130,12 +131,12 @@ class Programs(unittest.TestCase):
     def test_a_resource_file_that_cannot_be_read_is_an_error(self):
         file = self.program_with_resources()
         file.write_bytes(b"no resources")
-        for verb in "run", "build":
+        for verb in "check", "check", "run", "build":
             done = self.home.fernwick(verb, "Loop.vbp")
             self.assertEqual(done.returncode, 1)
             self.assertIn("Loop.res: error 1001: The file cannot be read: the resource file is cut off.", done.stderr)
         file.unlink()
-        for verb in "run", "build":
+        for verb in "check", "run", "build":
             done = self.home.fernwick(verb, "Loop.vbp")
             self.assertEqual(done.returncode, 1)
             self.assertRegex(done.stderr, r"(?i)loop\.res: error 1000")

@@ -45,6 +45,13 @@ void CheckReport::add(const std::string& path, qltoolkit::CheckResult result, bo
     }
 }
 
+void CheckReport::add(const apps::CheckedProject& project, CheckedFiles files) {
+    for (std::size_t i = 0; i < project.sources.size(); ++i)
+        add(project.sources[i], std::move(files.sources[i].result), false, files.sources[i].text.get());
+    if (!files.resourceFile.diagnostics.empty())
+        add(project.resourceFile, std::move(files.resourceFile), false, nullptr);
+}
+
 void CheckReport::print(Message message) {
     if (options_.format == Format::Text)
         return console_.err(textOf(message, ""), message.isError ? Tone::Error : Tone::Warning);

@@ -1,10 +1,10 @@
 #pragma once
 // What was found in source files, for reports.
+#include "Apps/fernwick/checks/project_check.h"
 #include "Apps/fernwick/options/exit_status.h"
 #include "Apps/fernwick/options/options.h"
 #include "Apps/fernwick/output/console.h"
 #include "Apps/fernwick/output/report.h"
-#include "Components/QLToolkit/check.h"
 #include <cstdint>
 #include <set>
 #include <string>
@@ -26,6 +26,8 @@ public:
 
     /// `isNamed`: the command line names the file. Without its source, messages have no end column.
     void add(const std::string& path, qltoolkit::CheckResult result, bool isNamed, const qltoolkit::SourceText* source);
+    /// A resource file that is as it should be is not mentioned.
+    void add(const apps::CheckedProject& project, CheckedFiles files);
     [[nodiscard]] const CheckTotals& totals() const { return totals_; }
 
 private:

@@ -32,8 +32,10 @@ ProjectCheck::ProjectCheck(const Options& options, host::FileContents& contents)
       libraries_(installation_),
       cache_(checkCacheFolder()) {}
 
-std::vector<CheckedSource> ProjectCheck::check(const apps::CheckedProject& project) {
+CheckedFiles ProjectCheck::check(const apps::CheckedProject& project) {
     auto sources = readSources(project);
+    auto resources = readResourceFile(project);
+    (void)resourcesIn(project, resources);
     const auto key = keyOf(project, sources);
     const auto bytes = cache_.find(key);
     auto results = bytes ? qltoolkit::resultsOf(*bytes) : std::nullopt;
@@ -43,21 +45,22 @@ std::vector<CheckedSource> ProjectCheck::check(const apps::CheckedProject& proje
         cache_.store(key, qltoolkit::bytesOf(*results));
     }
     addResults(checked, sources, std::move(*results));
-    return checked;
+    return {std::move(checked), std::move(resources.failure)};
 }
 
-CompiledSources ProjectCheck::compile(const apps::CheckedProject& project) {
+CompiledProject ProjectCheck::compile(const apps::CheckedProject& project) {
     auto sources = readSources(project);
-    auto resources = project.resourceFile.empty() ? Source{} : read(project.resourceFile);
+    auto resources = readResourceFile(project);
     const auto key = compileKeyOf(project, sources, resources);
     const auto bytes = cache_.find(key);
     auto program = bytes ? storedProgramOf(*bytes) : std::nullopt;
     auto results = program ? std::optional(std::move(program->results)) : std::nullopt;
-    CompiledSources compiled{checkedSources(project, sources, results), {}, {}, {}};
+    CompiledProject compiled{{checkedSources(project, sources, results), {}}, {}, {}};
+    auto& files = compiled.files;
     if (!results) {
-        const auto texts = textsOf(compiled.sources);
+        const auto texts = textsOf(files.sources);
         const auto page = static_cast<std::uint32_t>(project.page.page.number());
-        auto made = qltoolkit::compileProject(texts, project.constants, programOf(project, compiled.sources),
+        auto made = qltoolkit::compileProject(texts, project.constants, programOf(project, files.sources),
                                               {"Main", page, resourcesIn(project, resources)});
         const bool isWhole = texts.size() == sources.size() && resources.failure.errors == 0;
         program.reset();
@@ -67,8 +70,8 @@ CompiledSources ProjectCheck::compile(const apps::CheckedProject& project) {
         }
         results = std::move(made.results);
     }
-    addResults(compiled.sources, sources, std::move(*results));
-    compiled.resourceFile = std::move(resources.failure);
+    addResults(files.sources, sources, std::move(*results));
+    files.resourceFile = std::move(resources.failure);
     if (program) {
         compiled.code = std::move(program->code);
         compiled.entries = std::move(program->entries);
@@ -114,6 +117,10 @@ ProjectCheck::Source ProjectCheck::read(const std::string& path) {
     if (err.Number != 0 || content.bytes.size() > qltoolkit::kMaxSourceBytes)
         return {std::nullopt, unreadSource(path, err)};
     return {std::move(content), {}};
+}
+
+ProjectCheck::Source ProjectCheck::readResourceFile(const apps::CheckedProject& project) {
+    return project.resourceFile.empty() ? Source{} : read(project.resourceFile);
 }
 
 std::vector<image::Resource> ProjectCheck::resourcesIn(const apps::CheckedProject& project, Source& file) {

@@ -22,9 +22,13 @@ struct CheckedSource {
     std::unique_ptr<qltoolkit::SourceText> text;
 };
 
-struct CompiledSources {
-    std::vector<CheckedSource> sources;   ///< in the order of the project's
-    qltoolkit::CheckResult resourceFile;  ///< of the project's, if it has one
+struct CheckedFiles {
+    std::vector<CheckedSource> sources;  ///< in the order of the project's
+    qltoolkit::CheckResult resourceFile; ///< of the project's, if it has one
+};
+
+struct CompiledProject {
+    CheckedFiles files;
     std::optional<image::CodeImage> code; ///< of a project without errors; it is not verified
     std::vector<qltoolkit::EntryPoint> entries;
 };
@@ -34,10 +38,9 @@ class ProjectCheck {
 public:
     ProjectCheck(const Options& options, host::FileContents& contents);
 
-    /// Returns the results in the order of the project's sources.
-    std::vector<CheckedSource> check(const apps::CheckedProject& project);
+    CheckedFiles check(const apps::CheckedProject& project);
     /// Checks a project and makes its code.
-    CompiledSources compile(const apps::CheckedProject& project);
+    CompiledProject compile(const apps::CheckedProject& project);
 
 private:
     /// A source, or why it could not be read.
@@ -48,6 +51,8 @@ private:
 
     std::vector<Source> readSources(const apps::CheckedProject& project);
     Source read(const std::string& path);
+    /// Without a content and without an error if the project has none.
+    Source readResourceFile(const apps::CheckedProject& project);
     [[nodiscard]] CheckKey keyOf(const apps::CheckedProject& project, const std::vector<Source>& sources) const;
     /// `resources`: the project's resource file, if it has one.
     [[nodiscard]] CheckKey compileKeyOf(const apps::CheckedProject& project, const std::vector<Source>& sources,

@@ -67,13 +67,8 @@ ProjectProgram compileProgram(const Options& options, StartObject start, Console
     auto compiled = check.compile(project);
     CheckReport found{options, console, report};
     ProjectProgram program;
-    for (std::size_t i = 0; i < project.sources.size(); ++i) {
-        auto& source = compiled.sources[i];
-        found.add(project.sources[i], std::move(source.result), false, source.text.get());
-        program.paths[std::filesystem::path(project.sources[i]).filename().string()] = project.sources[i];
-    }
-    if (!project.resourceFile.empty())
-        found.add(project.resourceFile, std::move(compiled.resourceFile), false, nullptr);
+    found.add(project, std::move(compiled.files));
+    for (const auto& path : project.sources) program.paths[std::filesystem::path(path).filename().string()] = path;
     report.exitStatus = found.totals().status;
     if (!compiled.code) return program;
     if (start == StartObject::SubMain && compiled.code->start == image::kNone)

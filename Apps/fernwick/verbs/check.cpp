@@ -45,11 +45,7 @@ void checkOne(const SourceToCheck& source, const Options& options, Console& cons
 void checkProjects(const std::vector<apps::CheckedProject>& projects, const Options& options,
                    host::FileContents& contents, CheckReport& report) {
     ProjectCheck check{options, contents};
-    for (const auto& project : projects) {
-        auto checked = check.check(project);
-        for (std::size_t i = 0; i < checked.size(); ++i)
-            report.add(project.sources[i], std::move(checked[i].result), false, checked[i].text.get());
-    }
+    for (const auto& project : projects) report.add(project, check.check(project));
 }
 
 CheckTotals checkAll(const SourceList& list, const Options& options, host::FileContents& contents, Console& console,
