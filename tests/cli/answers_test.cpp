@@ -31,4 +31,12 @@ TEST(Answers, GivesOtherBoxesTheHarmlessAnswer) {
     EXPECT_EQ(user.MsgBox("Continue?", fernwick::vbOKCancel, "Fernwick"), fernwick::vbCancel);
 }
 
+TEST(Answers, AgreeWithAnOkToAQuestionThatHasNoYes) {
+    cli::Console console{cli::Verbosity::Quiet};
+    cli::Answers answers;
+    answers.add("replace-file=yes");
+    CommandLineUser user{console, answers, {}};
+    EXPECT_EQ(user.ask(Question::ReplaceFile, "Overwrite it?", fernwick::vbOKCancel, "Fernwick"), fernwick::vbOK);
+}
+
 } // namespace

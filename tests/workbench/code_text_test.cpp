@@ -74,6 +74,13 @@ TEST_F(Code, AnEmptyModuleAcceptsItsFirstLines) {
     EXPECT_EQ(held(), "Sub A()\nEnd Sub");
 }
 
+TEST_F(Code, ANewNameOfAShortModuleIsKnownAtOnce) {
+    editorOf(moduleOf("Dim OldName\r\n"));
+    EXPECT_EQ(names.at(component, 0)("oldname", ""), "OldName");
+    component->CodeModule()->InsertLines(1, "Dim NewName");
+    EXPECT_EQ(names.at(component, 0)("newname", ""), "NewName");
+}
+
 TEST_F(Code, APushedDownLineKeepsItsHiddenAttributes) {
     editorOf(test::SampleProject().classModule("clsA",
                                                "Public Sub A()\r\nAttribute A.VB_Description = \"x\"\r\nEnd Sub\r\n"));
