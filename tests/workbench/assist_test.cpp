@@ -8,7 +8,6 @@
 #include <QHelpEvent>
 #include <QListWidget>
 #include <QScreen>
-#include <QSettings>
 #include <QStatusBar>
 #include <QToolTip>
 
@@ -23,7 +22,6 @@ constexpr int kEmptyLine = 7;
 class Assist : public test::OpenDesktop {
 protected:
     Assist() {
-        QSettings().clear();
         open(test::SampleProject().module("modA", kAssisted));
         text = &code("modA");
         window().activateWindow();
@@ -34,7 +32,6 @@ protected:
         (void)QTest::qWaitFor(isKnown, test::kLongestWait);
         settle(400);
     }
-    ~Assist() override { QSettings().clear(); }
 
     void type(const char* keys) {
         QTest::keyClicks(text, keys);

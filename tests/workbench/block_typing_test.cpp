@@ -1,15 +1,11 @@
 // Enter writes the ends of blocks and keeps the indentation.
 #include "Apps/workbench/options/declared_options.h"
 #include "tests/workbench/open_desktop.h"
-#include <QSettings>
 
 namespace {
 
 class BlockTyping : public test::OpenDesktop {
 protected:
-    BlockTyping() { QSettings().clear(); }
-    ~BlockTyping() override { QSettings().clear(); }
-
     /// Opens a module and puts the cursor where the text has a |.
     void edit(std::string text) {
         const auto at = text.find('|');

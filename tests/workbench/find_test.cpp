@@ -9,7 +9,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QSettings>
 #include <set>
 
 using testing::ElementsAre;
@@ -68,9 +67,6 @@ namespace {
 
 class Finding : public test::OpenDesktop {
 protected:
-    Finding() { QSettings().clear(); }
-    ~Finding() override { QSettings().clear(); }
-
     QWidget& bar() { return *window().findChild<QWidget*>("findBar"); }
     template <class Widget>
     Widget& in(const char* name) {

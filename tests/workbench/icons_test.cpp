@@ -10,7 +10,6 @@
 #include "tests/workbench/designer_desktop.h"
 #include <QAccessible>
 #include <QFile>
-#include <QSettings>
 #include <QToolBar>
 #include <QToolButton>
 #include <algorithm>
@@ -35,7 +34,6 @@ bool isEmpty(const QImage& image) {
 class Icons : public test::DesignerDesktop {
 protected:
     Icons() { window().setTheme(Theme::Light); } // another test may have stored the other one
-    ~Icons() override { QSettings().clear(); }
 };
 
 } // namespace

@@ -42,7 +42,7 @@ protected:
     void crash(const std::string& project, const std::string& typed, const std::string& value = {}) {
         QProcess other;
         auto environment = QProcessEnvironment::systemEnvironment();
-        environment.remove("GTEST_TOTAL_SHARDS");
+        for (const auto* name : {"GTEST_TOTAL_SHARDS", "GTEST_SHARD_INDEX"}) environment.remove(name);
         environment.insert("FERNWICK_TEST_PROJECT", QString::fromStdString(project));
         environment.insert("FERNWICK_TEST_TYPED", QString::fromStdString(typed));
         environment.insert("FERNWICK_TEST_VALUE", QString::fromStdString(value));

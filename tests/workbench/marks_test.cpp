@@ -8,7 +8,6 @@
 #include "tests/workbench/open_desktop.h"
 #include <QDir>
 #include <QLabel>
-#include <QSettings>
 #include <fmt/format.h>
 
 using testing::ElementsAre;
@@ -32,12 +31,10 @@ constexpr auto kCode = "Dim x\r\n"         // 0
 class Marks : public test::OpenDesktop {
 protected:
     Marks() {
-        QSettings().clear();
         path = test::SampleProject().module("modA", kCode).module("modB", kCode).writeTo(folder);
         openFile(path);
         text = &code("modA");
     }
-    ~Marks() override { QSettings().clear(); }
 
     workbench::EditorMarks& marks(const std::string& name = "modA") { return editor(name).ownMarks(); }
     std::vector<int> breakpoints(const std::string& name = "modA") {

@@ -12,7 +12,6 @@
 #include <QElapsedTimer>
 #include <QLineEdit>
 #include <QMessageBox>
-#include <QSettings>
 #include <QToolButton>
 #include <gtest/gtest.h>
 
@@ -25,7 +24,6 @@ protected:
     MessagesDesktop() {
         qunsetenv("DISPLAY"); // help is shown in a box
         qunsetenv("WAYLAND_DISPLAY");
-        QSettings().clear();
         std::string code = "Sub Main()\r\n";
         for (int i = 1; i < 20; ++i) code += "    Beep " + std::to_string(i) + "\r\n";
         path_ =
@@ -34,7 +32,6 @@ protected:
     }
     ~MessagesDesktop() override {
         end();
-        QSettings().clear();
         QGuiApplication::clipboard()->clear();
     }
     /// Starts the program again.

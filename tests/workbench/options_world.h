@@ -8,12 +8,8 @@
 
 namespace test {
 
-struct CleanSettings {
-    CleanSettings() { QSettings().clear(); }
-};
-
 /// Begins and ends with the usual options.
-class OptionsDesktop : CleanSettings, public DesignerDesktop {
+class OptionsDesktop : public DesignerDesktop {
 protected:
     using Dialog = workbench::OptionsDialog;
 

@@ -4,7 +4,6 @@
 #include <QHeaderView>
 #include <QListWidget>
 #include <QPushButton>
-#include <QSettings>
 #include <QTabBar>
 #include <QTreeWidget>
 #include <gmock/gmock.h>
@@ -19,7 +18,6 @@ protected:
     using Act = std::function<void(QDialog&)>;
 
     ProjectManagerWindow() {
-        QSettings().clear();
         auto& recent = bench->addIn().recent;
         recent.SaveRecentList(fernwick::modRecentProjectManagment::RecentList(20));
         bench->addIn().prefs.SetProjectManagerState(0);
@@ -27,7 +25,6 @@ protected:
         bench->connect();
         settle();
     }
-    ~ProjectManagerWindow() override { QSettings().clear(); }
     /// Opens the manager by its command; `act` is what the user does in its window.
     void manage(const Act& act) {
         bool wasShown = false;

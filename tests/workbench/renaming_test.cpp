@@ -6,7 +6,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QSettings>
 #include <QTreeWidget>
 
 using testing::ElementsAre;
@@ -16,7 +15,6 @@ namespace {
 class Names : public test::OpenDesktop {
 protected:
     Names() {
-        QSettings().clear();
         open(
             test::SampleProject("One")
                 .module("modA", "Public Total As Long\r\n\r\nPublic Function Sum(n)\r\n"
@@ -25,7 +23,6 @@ protected:
                 .module("modB",
                         "Sub Go(o As Object)\r\n    Total = Sum(1) ' Total\r\n    o.Total = \"Total\"\r\nEnd Sub\r\n"));
     }
-    ~Names() override { QSettings().clear(); }
 
     void setCursor(const char* module, int line, int column) {
         auto& text = code(module);

@@ -6,6 +6,7 @@
 #include <QAbstractEventDispatcher>
 #include <QMenu>
 #include <QMenuBar>
+#include <QSettings>
 #include <QTest>
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -15,7 +16,10 @@ namespace test {
 /// The base of all tests of the desktop: the program and a folder for its projects.
 class RunningBench : public testing::Test {
 protected:
-    RunningBench() { workbench::apply(workbench::Theme::Light); }
+    RunningBench() {
+        QSettings().clear(); // of the test before
+        workbench::apply(workbench::Theme::Light);
+    }
     ~RunningBench() override { end(); }
 
     void start() {

@@ -5,7 +5,6 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLineEdit>
-#include <QSettings>
 #include <filesystem>
 
 using testing::ElementsAre;
@@ -15,10 +14,7 @@ namespace {
 
 class SavingNames : public test::OpenDesktop {
 protected:
-    SavingNames() {
-        QSettings().clear();
-        OpenDesktop::open(test::SampleProject("Demo").module("modA", "' a\r\n").form("frmA"));
-    }
+    SavingNames() { OpenDesktop::open(test::SampleProject("Demo").module("modA", "' a\r\n").form("frmA")); }
     /// Triggers a command and answers each file dialog with a name; "" cancels. Records the dialogs.
     void choose(const QString& menu, const QString& item, std::vector<std::string> names) {
         dialogs.clear();

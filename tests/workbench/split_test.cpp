@@ -1,20 +1,17 @@
 // Two panes over one text.
 #include "tests/workbench/open_desktop.h"
 #include <QLabel>
-#include <QSettings>
 
 namespace {
 
 class Split : public test::OpenDesktop {
 protected:
     Split() {
-        QSettings().clear();
         open(test::SampleProject().module("modA", "Sub A()\r\n    Beep\r\nEnd Sub\r\nSub B()\r\nEnd Sub\r\n"));
         editor = &OpenDesktop::editor("modA");
         window().activateWindow();
         (void)QTest::qWaitForWindowActive(&window());
     }
-    ~Split() override { QSettings().clear(); }
 
     workbench::CodePanes& panes() { return editor->panes(); }
     workbench::CodeInput& upper() { return *panes().all().front(); }

@@ -10,7 +10,6 @@
 #include "tests/workbench/recorded_paint.h"
 #include "tests/workbench/window_words.h"
 #include <QMetaEnum>
-#include <QSettings>
 #include <fmt/format.h>
 
 namespace {
@@ -98,7 +97,6 @@ constexpr const char* kClasses[] = {"VB.Label",
 class Tables : public test::DesignerDesktop {
 protected:
     Tables() { window().setTheme(workbench::Theme::Light); }
-    ~Tables() override { QSettings().clear(); }
 
     /// The name of a drawn icon; "" for any other picture.
     static std::string nameOf(const QIcon& icon) {

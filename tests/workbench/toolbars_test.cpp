@@ -1,6 +1,5 @@
 // Toolbars are in the same places in the model and in the window.
 #include "tests/workbench/desktop.h"
-#include <QSettings>
 #include <QToolBar>
 #include <QToolButton>
 #include <gmock/gmock.h>
@@ -15,7 +14,6 @@ struct DesktopToolBars : test::Desktop {
         bench->connect();
         settle();
     }
-    ~DesktopToolBars() override { QSettings().clear(); }
 
     host::Bar& bar(const std::string& name) {
         return *basic::cast<host::Bar>(bench->host().CommandBars()->Item(name)).shared();
