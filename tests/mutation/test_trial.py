@@ -12,6 +12,7 @@ FILES = {
 project(Toy CXX)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 include_directories(${PROJECT_SOURCE_DIR})
+add_executable(test_user tests/user.cpp)
 add_library(toy STATIC Basic/sum.cpp Basic/twice.cpp)
 set_target_properties(toy PROPERTIES UNITY_BUILD ON)
 add_executable(test_toy main.cpp)
@@ -28,6 +29,7 @@ target_link_libraries(test_broken toy)
     "Basic/twice.cpp": '#include "Basic/twice.h"\nint twice(int a) { return sum(a, half(2 * a)); }\n',
     "main.cpp": '#include "Basic/twice.h"\nint main() { return twice(3) == 6 && half(8) == 4 ? 0 : 1; }\n',
     "other.cpp": "int main() {}\n",
+    "tests/user.cpp": '#include "Basic/twice.h"\nint main() { return half(8) == 4 ? 0 : 1; }\n',
     "broken.cpp": '#include "Basic/twice.h"\nint main() { return sum(1, 2) == 3 ? 1 : 2; }\n',
     # fails beside other tests
     "moody.cpp": """#include "Basic/twice.h"
@@ -73,7 +75,8 @@ class Trials(unittest.TestCase):
 
     def test_a_header_changes_all_that_include_it(self):
         self.assertEqual(self.noticed("Basic/twice.h", "a / 2", "a / 1"),
-                         {"test_toy": "test_toy: status 1", "test_moody": None, "test_broken": None})
+                         {"test_toy": "test_toy: status 1", "test_user": "test_user: status 1", "test_moody": None,
+                          "test_broken": None})
 
     def test_a_change_that_does_not_compile_is_no_trial(self):
         self.assertIsNone(self.noticed("Basic/sum.cpp", "a + b", "a +"))

@@ -41,30 +41,32 @@ class Tree:
                 found[os.path.relpath(part, self.source)] = shlex.split(entry["command"])
         return found
 
-    def product_files(self, ending):
-        return [path for room in PRODUCT for path in sorted((self.source / room).rglob("*" + ending))]
+    def files(self, ending):
+        return [path for room in (*PRODUCT, "tests") for path in sorted((self.source / room).rglob("*" + ending))]
 
     @functools.cached_property
     def includers(self):
         found = {}
-        for path in self.product_files(".cpp") + self.product_files(".h"):
+        for path in self.files(".cpp") + self.files(".h"):
             for header in re.findall(r'#include "([^"]+)"', path.read_text(encoding="utf-8")):
                 found.setdefault(header, []).append(path.relative_to(self.source).as_posix())
         return found
 
     def sources_of(self, path):
-        """The sources that see a change to `path`, those beside it first."""
+        """The sources that see a change to `path`, those beside it first; of a header some, and some tests."""
         if path.endswith(".cpp"):
             return [path]
-        seen, waiting, sources = {path}, [path], []
-        while waiting and len(sources) < SOURCES_OF_A_HEADER:
-            for user in self.includers.get(waiting.pop(0), []):
+        seen, waiting, sources, tests = {path}, [path], [], []
+        while waiting and min(len(sources), len(tests)) < SOURCES_OF_A_HEADER:
+            header = waiting.pop(0)
+            names = [header] + [os.path.basename(header)] * header.startswith("tests/")
+            for user in (user for name in names for user in self.includers.get(name, [])):
                 if user not in seen:
                     seen.add(user)
-                    (sources if user.endswith(".cpp") else waiting).append(user)
-        sources = [source for source in sources if source in self.commands]
+                    known = tests if user.startswith("tests/") else sources
+                    (waiting if user.endswith(".h") else known if user in self.commands else []).append(user)
         sources.sort(key=lambda source: os.path.dirname(source) != os.path.dirname(path))
-        return sources[:SOURCES_OF_A_HEADER]
+        return sources[:SOURCES_OF_A_HEADER] + tests[:SOURCES_OF_A_HEADER]
 
     @functools.cached_property
     def links(self):
