@@ -15,7 +15,7 @@ void Emitter::beginLine(Pos pos) {
 }
 
 void Emitter::beginNext(Pos loop, std::uint32_t lines) {
-    out_.line(module_.tree.source.lineOf(loop) + lines);
+    out_.line(lines_.lineOf(loop) + lines);
     out_.statement();
 }
 

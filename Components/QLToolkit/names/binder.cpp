@@ -36,7 +36,7 @@ void Binder::procedure(const ProcedureDecl& decl, Entity& entity) {
                                                                     : entity.get;
     if (!callable || callable->body != &decl) return; // declared twice
     declareParameters(*callable, decl);
-    declareLabels(decl.body);
+    if (decl.isLabelled) declareLabels(decl.body);
     block(decl.body);
     if (program_.warnsOptionally) warnOfUnused(decl);
 }

@@ -98,8 +98,9 @@ struct ProcedureDecl : Decl {
     bool isStatic;
     Signature signature;
     Block body;
-    Pos end;
-}; ///< end: pos of End Sub
+    Pos end;                 ///< of End Sub
+    bool isLabelled = false; ///< has labels or line numbers
+};
 
 /// `Attribute a.b.VB_Name = value, value`: the path without its last part, the last part, and the values as literals.
 struct AttributeDecl : Decl {

@@ -304,11 +304,12 @@ private:
     Token tok_;
     Pos previousEnd_ = 0;
     Decl* lastDeclaration_ = nullptr;
-    std::size_t errorsBefore_ = 0; // at the beginning of the statement, which reports one error
-    bool lineStart_ = true;        // only blanks precede the token on its line
-    bool strayReported_ = false;   // consecutive statements outside a procedure are reported once
-    bool inNextList_ = false;      // after the comma of `Next a, b`
-    bool cutShort_ = false;        // a block ended with an enclosing one, to which the token belongs
+    ProcedureDecl* procedure_ = nullptr; // whose body is parsed
+    std::size_t errorsBefore_ = 0;       // at the beginning of the statement, which reports one error
+    bool lineStart_ = true;              // only blanks precede the token on its line
+    bool strayReported_ = false;         // consecutive statements outside a procedure are reported once
+    bool inNextList_ = false;            // after the comma of `Next a, b`
+    bool cutShort_ = false;              // a block ended with an enclosing one, to which the token belongs
     bool inReDim_ = false;
     Pos unclosedAt_ = ~Pos{0}; // the token at which an unclosed block was reported
     int depth_ = 0;

@@ -92,6 +92,7 @@ bool Parser::label(BlockBuilder& body) {
     const Pos pos = tok_.begin;
     if (at(TokenKind::Integer) || at(TokenKind::Long)) {
         const auto number = static_cast<std::uint32_t>(tok_.integer);
+        procedure_->isLabelled = true;
         body.add(make<TargetStmt>(stmtHead(StmtKind::LineNumber, pos), Target{Symbol::None, number, pos}));
         advance();
         accept(TokenKind::Colon);
@@ -99,6 +100,7 @@ bool Parser::label(BlockBuilder& body) {
     }
     const Symbol name = symbolOf(tok_);
     if (name == known_.doEvents) return false;
+    procedure_->isLabelled = true;
     body.add(make<TargetStmt>(stmtHead(StmtKind::Label, pos), Target{name, 0, pos}));
     advance();
     advance();

@@ -22,6 +22,7 @@ void Parser::procedure(Visibility visibility, bool isStatic, Pos pos) {
     });
     addDeclaration(p);
     openBlock(BlockKind::Procedure, pos);
+    procedure_ = p;
     try {
         p->body = block(BlockKind::Procedure);
         errorsBefore_ = diagnostics_.errors();
