@@ -33,6 +33,17 @@ TEST(RegistryTree, AKeyIsFoundInAnySpellingAndKeepsItsFirst) {
     EXPECT_EQ(tree.subkeys(KeyPath() / "SOFTWARE"), std::vector<std::string>{"Stra\u00dfe"});
 }
 
+TEST(RegistryTree, AKeyHasAtMost512Levels) {
+    std::string deepest = "a";
+    for (int i = 1; i < 512; ++i) deepest += "\\a";
+    RegistryTree tree;
+    EXPECT_TRUE(tree.createKey(KeyPath() / deepest));
+    try {
+        (void)(KeyPath() / (deepest + "\\a"));
+        FAIL() << "a key with 513 levels";
+    } catch (const host::RegFailure& failure) { EXPECT_EQ(failure.status, host::RegStatus::InvalidParameter); }
+}
+
 TEST(RegistryTree, SubkeysAreSortedIgnoringCase) {
     RegistryTree tree;
     for (const auto* name : {"b", "C", "a\\x", "B-2"}) tree.createKey(KeyPath() / name);

@@ -187,6 +187,14 @@ TEST_F(CompilerComponent, StoresModulesWithMembersAndStrings) {
     EXPECT_THAT(image.modules[0].strings, ElementsAre("Hello ", "x"));
 }
 
+TEST_F(CompilerComponent, StoresStringsInTheOrderOfTheText) {
+    add("modMain.bas",
+        "Sub Main()\r\n  Do\r\n    Debug.Print \"1\" & \"2\", \"3\"\r\n  Loop While \"4\" = \"5\"\r\nEnd Sub\r\n");
+    compiler_->SetStartupObject("Sub Main");
+    ASSERT_TRUE(compiler_->Build());
+    EXPECT_THAT(image::decode(folder_.read("Tips.0000.qlx")).modules[0].strings, ElementsAre("1", "2", "3", "4", "5"));
+}
+
 TEST_F(CompilerComponent, ReportsPhysicalLinesAndKeepsTheOldImageAfterAnError) {
     folder_.write("Tips.0000.qlx", "old");
     add("frmTip.frm", std::string(kForm) + "Sub Broken()\r\n  x = (1 +\r\nEnd Sub\r\n");
