@@ -96,8 +96,8 @@ class Runs(unittest.TestCase):
         with tempfile.TemporaryDirectory() as folder:
             (pathlib.Path(folder) / "test_slow.py").write_text(
                 "import time, unittest\nclass Slow(unittest.TestCase):\n"
-                "    def test_a(self): pass\n    def test_b(self): time.sleep(9)\n", encoding="utf-8")
-            trial = Trial(None, None, longest_run=1)
+                "    def test_a(self): pass\n    def test_b(self): time.sleep(60)\n", encoding="utf-8")
+            trial = Trial(None, None, longest_run=5)
             self.assertEqual(trial.failures(Run([*UNITTEST, "test_slow"], folder)), ["test_slow.Slow.test_b"])
             self.assertEqual(trial.failures(Run([*UNITTEST, "test_slow"], folder).alone("test_slow.Slow.test_a")), [])
 
