@@ -22,6 +22,8 @@ add_executable(test_moody moody.cpp)
 target_link_libraries(test_moody toy)
 add_executable(test_broken broken.cpp)
 target_link_libraries(test_broken toy)
+add_executable(test_lost lost.cpp)
+target_link_libraries(test_lost toy)
 """,
     "Basic/sum.h": "int sum(int a, int b);\n",
     "Basic/sum.cpp": '#include "Basic/sum.h"\nint sum(int a, int b) { return a + b; }\n',
@@ -31,6 +33,13 @@ target_link_libraries(test_broken toy)
     "other.cpp": "int main() {}\n",
     "tests/user.cpp": '#include "Basic/twice.h"\nint main() { return half(8) == 4 ? 0 : 1; }\n',
     "broken.cpp": '#include "Basic/twice.h"\nint main() { return sum(1, 2) == 3 ? 1 : 2; }\n',
+    # fails outside of the build's folder
+    "lost.cpp": """#include "Basic/twice.h"
+#include <filesystem>
+int main(int, char** words) {
+    return sum(1, 2) + std::filesystem::exists(std::filesystem::path(words[0]).parent_path() / "CMakeCache.txt") > 3 ? 0 : 1;
+}
+""",
     # fails beside other tests
     "moody.cpp": """#include "Basic/twice.h"
 #include <cstdio>
@@ -67,16 +76,17 @@ class Trials(unittest.TestCase):
 
     def test_a_change_that_matters_is_noticed(self):
         self.assertEqual(self.noticed("Basic/sum.cpp", "a + b", "a - b"),
-                         {"test_toy": "test_toy: status 1", "test_moody": "test_moody: A.Test", "test_broken": None})
+                         {"test_toy": "test_toy: status 1", "test_moody": "test_moody: A.Test", "test_broken": None,
+                          "test_lost": None})
 
     def test_a_change_that_does_not_matter_survives(self):
         self.assertEqual(self.noticed("Basic/sum.cpp", "a + b", "b + a"),
-                         {"test_toy": None, "test_moody": None, "test_broken": None})
+                         {"test_toy": None, "test_moody": None, "test_broken": None, "test_lost": None})
 
     def test_a_header_changes_all_that_include_it(self):
         self.assertEqual(self.noticed("Basic/twice.h", "a / 2", "a / 1"),
                          {"test_toy": "test_toy: status 1", "test_user": "test_user: status 1", "test_moody": None,
-                          "test_broken": None})
+                          "test_broken": None, "test_lost": None})
 
     def test_a_change_that_does_not_compile_is_no_trial(self):
         self.assertIsNone(self.noticed("Basic/sum.cpp", "a + b", "a +"))
