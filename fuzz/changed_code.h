@@ -46,8 +46,7 @@ private:
     struct Instruction {
         std::uint32_t* first;
         std::size_t words;
-        [[nodiscard]] image::Op op() const { return static_cast<image::Op>(*first & 0xFF); }
-        [[nodiscard]] const image::InstructionInfo& info() const { return image::infoOf(op()); }
+        [[nodiscard]] const image::InstructionInfo& info() const { return image::kInstructions[*first & 0xFF]; }
     };
 
     template <class List>
@@ -63,7 +62,6 @@ private:
             found.push_back({at, image::lengthOf(at, static_cast<std::size_t>(end - at))});
         return found;
     }
-    Instruction anInstruction() { return one(instructionsOf(one(code_.procedures))); }
 
     void changeType(image::SlotType& type) {
         switch (next_(3)) {
@@ -99,7 +97,7 @@ private:
 
     /// Does something else with the same operands.
     void changeOperation() {
-        const Instruction to = anInstruction();
+        const Instruction to = one(instructionsOf(one(code_.procedures)));
         std::vector<std::uint32_t> others;
         for (std::uint32_t op = 0; op < image::kInstructionCount; ++op) {
             const auto& info = image::kInstructions[op];

@@ -28,7 +28,7 @@ constexpr std::uint64_t kHeap = 1 << 16; ///< little, since most of the time wou
 constexpr std::size_t kMostPrinted = 10'000;
 constexpr int kFunctions = 12;            ///< of the runtime, for each program
 constexpr int kChanges = 200;             ///< that are tried
-constexpr int kFewerRuns = 4;             ///< in the second form
+constexpr int kRunsForBoth = 4;           ///< one of them is in both forms
 constexpr int kInstructionChanges = 12;   ///< for each change of a table
 constexpr std::size_t kStackSlots = 4096; ///< few, since each machine begins with a stack of zeros
 
@@ -175,7 +175,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     run(code, true);
     for (int i = 0; i < kChanges; ++i)
         if (next(kInstructionChanges) == 0 ? changeTable(*code, next) : changeInstructions(*code, next))
-            run(code, next(kFewerRuns) == 0);
+            run(code, next(kRunsForBoth) == 0);
     checkRoundTrip(*code);
     (void)image::disassemble(*code, next(static_cast<std::uint32_t>(code->procedures.size())));
     return 0;

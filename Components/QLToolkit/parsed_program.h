@@ -19,8 +19,8 @@ struct ParsedSource {
 
 struct ParsedProgram {
     ProgramMessages messages; ///< of each file, without those of the parser
-    std::vector<std::optional<image::Control>>
-        forms;                            ///< the header of each file, if its syntax is right and it has one
+    /// The header of each file whose syntax is right and that has one.
+    std::vector<std::optional<image::Control>> forms;
     std::optional<image::CodeImage> code; ///< of a program without errors, if it was wanted
     std::vector<EntryPoint> entries;      ///< of its code
 };
