@@ -111,6 +111,11 @@ class Runs(unittest.TestCase):
             self.assertEqual(trial.failures(Run([*UNITTEST, "test_slow"], folder)), ["test_slow.Slow.test_b"])
             self.assertEqual(trial.failures(Run([*UNITTEST, "test_slow"], folder).alone("test_slow.Slow.test_a")), [])
 
+    def test_the_first_that_notices_ends_the_others(self):
+        trial = Trial(None, None)
+        fails, takes_long, good = (Run(["sh", "-c", command], None) for command in ("exit 1", "sleep 3600", "exit 0"))
+        self.assertEqual(trial.first_noticing([takes_long, fails], [good, good]), "status 1")
+
 
 if __name__ == "__main__":
     unittest.main()

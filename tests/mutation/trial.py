@@ -12,8 +12,12 @@ import pathlib
 import re
 import shlex
 import shutil
+import signal
 import subprocess
 import sys
+import tempfile
+import threading
+import time
 
 PRODUCT = ("Basic", "Add-in", "Host", "Components", "Apps")
 SOURCES_OF_A_HEADER = 4
@@ -97,6 +101,7 @@ class Trial:
         self.longest_run = longest_run
         self.objects = {}  # and the programs that contain each
         self.changes_saving = False
+        self.is_noticed = threading.Event()
 
     def compile(self, change):
         """False if it does not compile."""
@@ -143,13 +148,21 @@ class Trial:
             return None
         programs = [self.link(name), self.copy(name)]
         try:
-            with concurrent.futures.ThreadPoolExecutor() as pool:
-                runs = (self.runs(program, name) for program in programs)
-                test = next(filter(None, pool.map(self.noticed, *runs)), None)
+            test = self.first_noticing(*(self.runs(program, name) for program in programs))
         finally:
             for program in programs:
                 program.unlink()
         return f"{name}: {test}" if test else None
+
+    def first_noticing(self, changed, unchanged):
+        """The test that is the first to notice the change; the other runs end at once."""
+        self.is_noticed.clear()
+        with concurrent.futures.ThreadPoolExecutor(len(changed)) as pool:
+            for done in concurrent.futures.as_completed(map(functools.partial(pool.submit, self.noticed), changed, unchanged)):
+                if done.result():
+                    self.is_noticed.set()
+                    return done.result()
+        return None
 
     def noticed(self, changed, unchanged):
         """The test that notices the change: it fails alone with the change, and not without it."""
@@ -189,15 +202,26 @@ class Trial:
 
     def failures(self, run):
         """The tests that fail in a run, or how it ended; the last one that began if it crashed or did not end."""
-        try:
-            result = subprocess.run(run.args, cwd=run.cwd, env=os.environ | run.variables, stdin=subprocess.DEVNULL,
-                                    stdout=subprocess.PIPE, stderr=subprocess.STDOUT, timeout=self.longest_run)
-            output, end = result.stdout, f"status {result.returncode}"
-        except subprocess.TimeoutExpired as expired:
-            output, end = expired.stdout or b"", "it did not end"
-        if end == "status 0":
+        output, end = self.ended(run)
+        if end == "status 0" or self.is_noticed.is_set():
             return []
         return named(FAILED, output) or named(BEGUN, output)[-1:] or [end]
+
+    def ended(self, run):
+        """What a run printed, and its end. It has a group of processes of its own, so that all of them can be ended."""
+        with tempfile.TemporaryFile() as printed, subprocess.Popen(
+                run.args, cwd=run.cwd, env=os.environ | run.variables, stdin=subprocess.DEVNULL, stdout=printed,
+                stderr=subprocess.STDOUT, start_new_session=True) as process:
+            latest, end = time.monotonic() + self.longest_run, None
+            while end is None and time.monotonic() < latest and not self.is_noticed.is_set():
+                try:
+                    end = f"status {process.wait(0.1)}"
+                except subprocess.TimeoutExpired:
+                    pass
+            if end is None:
+                os.killpg(process.pid, signal.SIGKILL)
+            printed.seek(0)
+            return printed.read(), end or "it did not end"
 
 
 @dataclasses.dataclass
