@@ -121,7 +121,7 @@ private:
         }
         for (int i = 0; i < 8; ++i) {
             auto& shape = code_.arrays.emplace_back();
-            shape.element = element(kRecords);
+            shape.element = i == 0 ? SlotType{BaseType::Byte} : element(kRecords);
             for (auto dimensions = 1 + below(3); dimensions > 0; --dimensions) {
                 const auto lower = std::int32_t(below(5)) - 2;
                 shape.bounds.push_back({lower, lower + std::int32_t(below(4))});
@@ -164,6 +164,9 @@ private:
         }
         for (const auto base : {BaseType::Long, BaseType::Double, BaseType::Text, BaseType::Variant, BaseType::Object})
             add(value(base), false);
+        // Bytes are shorter than what most instructions reach: a reference to one would be beyond the array.
+        add({BaseType::Byte, TypeForm::Array}, false);
+        add({BaseType::Long, TypeForm::Reference}, false);
         for (auto variables = below(25); variables > 0; --variables) add(variableType(), once(3));
         return std::uint32_t(code_.procedures.size() - 1);
     }
