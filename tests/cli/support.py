@@ -12,6 +12,9 @@ ROOT = HERE.parent.parent
 PROGRAM = pathlib.Path(os.environ.get("FERNWICK_PROGRAM", ROOT / "build/release/Apps/fernwick/fernwick")).resolve()
 VERSION = re.search(r"project\(Fernwick VERSION ([\d.]+)", (ROOT / "CMakeLists.txt").read_text())[1]
 APPROVE = os.environ.get("FERNWICK_APPROVE") == "1"
+NOBODY = 65534
+IS_ROOT = os.geteuid() == 0
+CAN_DROP_ROOT = not IS_ROOT or shutil.which("setpriv") is not None
 
 
 class Home:
@@ -49,6 +52,11 @@ class Home:
         shutil.copytree(ROOT / "samples" / name, self.work / name)
         return self.work / name / f"{name}.vbp"
 
+    def give_away(self):
+        """Makes everything in it belong to the user of `unprivileged`."""
+        if IS_ROOT:
+            subprocess.run(["chown", "-R", "--no-dereference", f"{NOBODY}:{NOBODY}", self.folder], check=True)
+
     def left_behind(self):
         """The contents of the private temporary folder, which every run must leave empty."""
         return sorted(str(p) for p in (self.folder / "tmp").rglob("*"))
@@ -60,6 +68,13 @@ class Home:
         text = re.sub(r"(?m)^(! )?\[\d+\.\d+ s\] ", r"\1[N s] ", text)
         return text.replace(f"fernwick {VERSION}", "fernwick VERSION").replace(f'"version": "{VERSION}"',
                                                                                '"version": "VERSION"')
+
+
+def unprivileged(command):
+    """Root may read and write everything, so the command runs as another user."""
+    if not IS_ROOT:
+        return command
+    return ["setpriv", f"--reuid={NOBODY}", f"--regid={NOBODY}", "--clear-groups", *command]
 
 
 def compare(test, path, actual):

@@ -5,7 +5,7 @@ import random
 import shutil
 import unittest
 
-from support import PROGRAM, ROOT, Home
+from support import CAN_DROP_ROOT, PROGRAM, ROOT, Home, unprivileged
 
 PARTS = ["Fonts", "Template/Projects/Fernwick Project.vbp", "VB Toolkit/Bin/QLCOMPILE.AVI",
          "VB Toolkit/Template/Projects/PalmOS-DragonBall.vbp", "VB Toolkit/doc/Quinloft_Error_Codes",
@@ -27,6 +27,7 @@ class Doctor(unittest.TestCase):
             os.link(PROGRAM, self.program)
         except OSError:
             shutil.copy(PROGRAM, self.program)
+        self.examining = [self.program, "doctor", "--format", "json"]
         self.install()
 
     def install(self):
@@ -34,7 +35,7 @@ class Doctor(unittest.TestCase):
         shutil.copytree(ROOT / "installation", self.installed, ignore=shutil.ignore_patterns("Samples"))
 
     def examine(self):
-        done = self.home.run(self.program, "doctor", "--format", "json", text=False)
+        done = self.home.run(*self.examining, text=False)
         self.assertIn(done.returncode, (0, 3), done.stderr)
         result = json.loads(done.stdout)
         self.assertEqual(done.returncode, 0 if result["usable"] else 3)
@@ -154,6 +155,22 @@ class Doctor(unittest.TestCase):
                 (folder / f"{name}.sqlite").mkdir()
                 self.assertIn(f"{name}'s store", "\n".join(self.troubles()))
                 (folder / f"{name}.sqlite").rmdir()
+
+    @unittest.skipUnless(CAN_DROP_ROOT, "root may write everything: install setpriv")
+    def test_says_which_store_is_read_only(self):
+        expected = {}
+        for key, name, state, cure in (
+                ("HKEY_CURRENT_USER", "user", "trouble", "Give yourself write access to it and its folder, or set XDG_CONFIG_HOME."),
+                ("HKEY_LOCAL_MACHINE", "machine", "warning",
+                 "Give your group write access to it and its folder, or set FERNWICK_MACHINE_STORE.")):
+            self.home.run(self.program, "registry", "set", rf"{key}\Software\Mine", "Name", "value", check=True)
+            file = next(self.home.folder.rglob(f"{name}.sqlite"))
+            file.chmod(0o444)
+            expected[f"{name}'s store"] = (state, f"{file} is read-only", cure)
+        self.home.give_away()
+        self.examining = unprivileged(self.examining)
+        for subject, finding in expected.items():
+            self.assertEqual(self.finding(subject), finding)
 
     def test_fixes_a_wrong_root_dir(self):
         self.home.run(self.program, "registry", "set", r"HKEY_LOCAL_MACHINE\Software\Quinloft", "RootDir", "/nowhere",

@@ -13,14 +13,11 @@ import signal
 import subprocess
 import unittest
 
-from support import Home
+from support import CAN_DROP_ROOT, Home, unprivileged
 
 GOOD, FAILED, MISUSED, MACHINE, INTERRUPTED = 0, 1, 2, 3, 130
 CONDITIONS = ("good", "errors", "wrong use", "missing file", "folder", "unreadable file", "read-only", "full disk",
               "interrupted")
-NOBODY = 65534
-IS_ROOT = os.geteuid() == 0
-CAN_DROP_ROOT = not IS_ROOT or shutil.which("setpriv") is not None
 
 PROJECT = "HelloWorld/HelloWorld.vbp"
 IMAGE = "HelloWorld/HelloWorld.0000.qlx"
@@ -274,16 +271,9 @@ def prepared(template, cell):
                 shutil.copytree(template.folder / name, home.folder / name, symlinks=True)
         if cell.prepare:
             cell.prepare(home.work)
-        if IS_ROOT and CAN_DROP_ROOT:
-            subprocess.run(["chown", "-R", "--no-dereference", f"{NOBODY}:{NOBODY}", home.folder], check=True)
+        if CAN_DROP_ROOT:
+            home.give_away()
         yield home
-
-
-def unprivileged(command):
-    """Root may read and write everything, so the command runs as another user."""
-    if not IS_ROOT:
-        return command
-    return ["setpriv", f"--reuid={NOBODY}", f"--regid={NOBODY}", "--clear-groups", *command]
 
 
 def interrupt_at_start():

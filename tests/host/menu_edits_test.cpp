@@ -280,6 +280,19 @@ TEST_F(Menus, OfAControlArrayFollowEachOther) {
     EXPECT_EQ(problem(), "4: An index cannot be negative.");
 }
 
+TEST_F(Menus, BetweenThoseOfAControlArrayCanBeItemsOfOneOnly) {
+    const auto add = [&](int level, const std::string& name, std::optional<int> index) {
+        menus.push_back({{}, level, name, name, index});
+    };
+    add(0, "mnuNew", {});
+    add(1, "mnuSize", 0);
+    add(2, "mnuUnit", {});
+    add(1, "mnuSize", 1);
+    EXPECT_EQ(problem(), "");
+    menus[menus.size() - 2].level = 1;
+    EXPECT_EQ(problem(), "8: The menus of the control array 'mnuSize' must follow each other in one menu.");
+}
+
 TEST_F(Menus, HaveFourLevelsBelowTheBar) {
     for (int level = 1; level <= 4; ++level) menus.push_back({{}, level, "x", "mnu" + std::to_string(level)});
     EXPECT_EQ(problem(), "");
