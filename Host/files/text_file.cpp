@@ -50,7 +50,10 @@ void refuseWhatIsTooLarge(const struct stat& state, const std::string& path) {
 }
 
 std::string readAll(int descriptor, std::size_t expected, const std::string& path) {
-    std::string bytes(expected, '\0');
+    constexpr std::size_t kSpare = 64; // a compiler puts NULs after a source, which would copy all of it
+    std::string bytes;
+    bytes.reserve(expected + kSpare);
+    bytes.resize(expected);
     std::size_t filled = 0;
     while (filled < bytes.size()) {
         const auto got = ::read(descriptor, bytes.data() + filled, bytes.size() - filled);
