@@ -2,7 +2,9 @@
 found."""
 import os
 import re
+import shutil
 import subprocess
+import time
 import unittest
 
 from support import Home
@@ -21,7 +23,7 @@ class CheckCache(unittest.TestCase):
 
     def check(self, *options):
         done = self.home.fernwick("check", str(self.project), *options)
-        return re.sub(r"in \d+\.\d+ s", "", done.stdout), done.stderr, done.returncode
+        return re.sub(r"in \d+\.\d+ s", "", done.stdout), re.sub(r"\[\d+\.\d+ s\]", "", done.stderr), done.returncode
 
     def stored(self):
         """The stored files; another inode is another result."""
@@ -50,6 +52,29 @@ class CheckCache(unittest.TestCase):
         self.assertEqual(self.check("--json"), self.check("--json"))
         self.assertEqual(self.stored(), stored)
         self.module.write_bytes(before)
+        self.assertEqual(self.check(), clean)
+
+    @unittest.skipIf("ASAN_OPTIONS" in os.environ, "the leak checker does not run under strace")
+    def test_a_clean_project_is_not_read_again_until_a_file_changes(self):
+        time.sleep(3.1)  # files that changed a moment before are not trusted
+        clean = self.check()
+        trace = self.home.folder / "trace"
+        self.home.run("strace", "-f", "-qq", "-o", str(trace), "-e", "trace=openat", "fernwick", "check", str(self.project))
+        self.assertIn("/clean/", trace.read_text())
+        self.assertNotIn(self.project.parent.name, trace.read_text())
+        for options in ((), ("-v",), ("--format", "json")):
+            found = self.check(*options)
+            shutil.rmtree(self.folder.parent / "clean")
+            self.assertEqual(self.check(*options), found)
+        self.check()
+
+        text, times = self.module.read_bytes(), self.module.stat()
+        self.module.write_bytes(text.replace(b"End Sub", b"End Sbu", 1))
+        os.utime(self.module, ns=(times.st_atime_ns, times.st_mtime_ns))
+        broken = self.check()
+        self.assertEqual(broken[2], 1, broken)
+        self.assertEqual(self.check(), broken)
+        self.module.write_bytes(text)
         self.assertEqual(self.check(), clean)
 
     def test_what_the_results_depend_on_is_part_of_the_key(self):

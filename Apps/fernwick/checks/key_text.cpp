@@ -18,6 +18,10 @@ void KeyText::addStateOf(const std::string& path) {
     add(stamp.size);
     add(static_cast<std::uint64_t>(stamp.modifiedSeconds));
     add(static_cast<std::uint64_t>(stamp.modifiedNanoseconds));
+    // Of the changes that leave the time of the content, or set it.
+    add(stamp.inode);
+    add(static_cast<std::uint64_t>(state.st_ctim.tv_sec));
+    add(static_cast<std::uint64_t>(state.st_ctim.tv_nsec));
 }
 
 std::uint64_t KeyText::digest() const { return host::digestOf(text_); }

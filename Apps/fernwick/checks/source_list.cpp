@@ -21,8 +21,8 @@ using apps::hasExtension;
 
 class SourceCollector {
 public:
-    SourceCollector(const std::optional<basic::CodePage>& given, host::FileContents& contents)
-        : given_(given), contents_(contents) {}
+    SourceCollector(const std::optional<basic::CodePage>& given, host::FileContents& contents, const CleanChecks* clean)
+        : given_(given), contents_(contents), clean_(clean) {}
 
     void add(const std::string& path) {
         std::error_code ignored;
@@ -86,10 +86,17 @@ private:
     }
 
     void addProject(const std::string& path) {
+        if (auto clean = clean_ ? clean_->find(path) : std::nullopt) return addCleanProject(std::move(*clean));
         auto project = apps::readProject(path, given_, contents_);
         if (!seen_.insert(host::absolutePath(path)).second) return;
         for (const auto& source : project.sources) seen_.insert(host::absolutePath(source));
-        list_.projects.push_back(std::move(project));
+        list_.projects.push_back({std::move(project)});
+    }
+
+    void addCleanProject(CleanCheck clean) {
+        if (!seen_.insert(host::absolutePath(clean.project.path)).second) return;
+        seen_.insert(clean.absoluteSources.begin(), clean.absoluteSources.end());
+        list_.projects.push_back({std::move(clean.project), std::move(clean.lines)});
     }
 
     void addGroup(const std::string& path) {
@@ -107,6 +114,7 @@ private:
 
     const std::optional<basic::CodePage>& given_;
     host::FileContents& contents_;
+    const CleanChecks* clean_;
     SourceList list_;
     std::unordered_set<std::string> seen_;
 };
@@ -114,8 +122,8 @@ private:
 } // namespace
 
 SourceList listSources(const std::vector<std::string>& operands, const std::optional<basic::CodePage>& given,
-                       host::FileContents& contents) {
-    SourceCollector collector{given, contents};
+                       host::FileContents& contents, const CleanChecks* clean) {
+    SourceCollector collector{given, contents, clean};
     for (const auto& operand : operands) collector.add(operand);
     return collector.take();
 }

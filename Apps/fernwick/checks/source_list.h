@@ -1,8 +1,10 @@
 #pragma once
 // The source files for `check`.
 #include "Apps/common/checked_project.h"
+#include "Apps/fernwick/checks/clean_checks.h"
 #include "Basic/code_page.h"
 #include "Host/files/text_file.h"
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
@@ -17,8 +19,14 @@ struct SourceToCheck {
     bool isNamed = false;
 };
 
+struct ProjectToCheck {
+    apps::CheckedProject project;
+    /// The lines of its sources, if it is known that nothing will be found.
+    std::optional<std::vector<std::uint32_t>> cleanLines = {};
+};
+
 struct SourceList {
-    std::vector<apps::CheckedProject> projects;
+    std::vector<ProjectToCheck> projects;
     std::vector<SourceToCheck> sources; ///< of no project
     /// Why projects or groups could not be read: "file: reason".
     std::vector<std::string> problems;
@@ -28,8 +36,8 @@ struct SourceList {
 
 /// Returns the projects and the projects of groups, and the sources of none of them: those given, and all in and below
 /// folders, except in hidden ones. `given` is their code page, without which it is detected; the sources
-/// that are read for this stay in `contents`.
+/// that are read for this stay in `contents`. A project that is in `clean` is not read; null reads all.
 SourceList listSources(const std::vector<std::string>& operands, const std::optional<basic::CodePage>& given,
-                       host::FileContents& contents);
+                       host::FileContents& contents, const CleanChecks* clean);
 
 } // namespace cli

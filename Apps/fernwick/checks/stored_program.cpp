@@ -1,4 +1,5 @@
 #include "Apps/fernwick/checks/stored_program.h"
+#include "Apps/fernwick/checks/stored_text.h"
 #include "Basic/runtime_error.h"
 #include "Components/Image/image.h"
 #include "Components/Image/image_bytes.h"
@@ -7,13 +8,6 @@
 namespace cli {
 
 namespace {
-
-void write(image::Writer& out, std::string_view text) {
-    out.variable(static_cast<std::uint32_t>(text.size()));
-    out.raw(text);
-}
-
-std::string_view readText(image::Reader& in) { return in.raw(in.variable()); }
 
 std::optional<StoredProgram> read(image::Reader in) {
     auto results = qltoolkit::resultsOf(readText(in));
@@ -38,11 +32,11 @@ std::optional<StoredProgram> read(image::Reader in) {
 
 std::string bytesOf(const StoredProgram& program) {
     image::Writer out;
-    write(out, qltoolkit::bytesOf(program.results));
+    writeText(out, qltoolkit::bytesOf(program.results));
     out.variable(static_cast<std::uint32_t>(program.entries.size()));
     for (const auto& entry : program.entries) {
-        write(out, entry.module);
-        write(out, entry.name);
+        writeText(out, entry.module);
+        writeText(out, entry.name);
         out.variable(entry.number);
     }
     image::Image whole;

@@ -1,4 +1,5 @@
 #include "Apps/fernwick/checks/check_report.h"
+#include "Apps/fernwick/checks/clean_checks.h"
 #include "Apps/fernwick/checks/project_check.h"
 #include "Apps/fernwick/checks/source_list.h"
 #include "Apps/fernwick/options/exit_status.h"
@@ -10,6 +11,7 @@
 #include "Apps/fernwick/stored/source_check.h"
 #include "Apps/fernwick/verbs/verbs.h"
 #include "Basic/runtime_error.h"
+#include "Host/files/path_lookup.h"
 #include "Host/files/project_code_page.h"
 #include "Host/files/text_file.h"
 #include <chrono>
@@ -42,17 +44,41 @@ void checkOne(const SourceToCheck& source, const Options& options, Console& cons
     checkBytes(source.path, std::move(content.bytes), source, console, report);
 }
 
-void checkProjects(const std::vector<apps::CheckedProject>& projects, const Options& options,
-                   host::FileContents& contents, CheckReport& report) {
-    ProjectCheck check{options, contents};
-    for (const auto& project : projects) report.add(project, check.check(project));
+/// Nothing if there is something to report.
+std::optional<CleanCheck> cleanCheckOf(const apps::CheckedProject& project, const CheckedFiles& files) {
+    if (!files.resourceFile.diagnostics.empty()) return std::nullopt;
+    CleanCheck clean{project, {}, {}};
+    for (std::size_t i = 0; i < project.sources.size(); ++i) {
+        const auto& result = files.sources[i].result;
+        if (!result.diagnostics.empty()) return std::nullopt;
+        clean.absoluteSources.push_back(host::absolutePath(project.sources[i]));
+        clean.lines.push_back(result.lines);
+    }
+    return clean;
 }
 
-CheckTotals checkAll(const SourceList& list, const Options& options, host::FileContents& contents, Console& console,
-                     Report& report) {
+CheckedFiles cleanFiles(const std::vector<std::uint32_t>& lines) {
+    CheckedFiles files;
+    for (const auto count : lines) files.sources.push_back({{{}, 0, count}, nullptr});
+    return files;
+}
+
+void checkProjects(const std::vector<ProjectToCheck>& projects, const Options& options, host::FileContents& contents,
+                   const CleanChecks& clean, CheckReport& report) {
+    ProjectCheck check{options, contents};
+    for (const auto& [project, cleanLines] : projects) {
+        auto files = cleanLines ? cleanFiles(*cleanLines) : check.check(project);
+        if (!cleanLines)
+            if (const auto found = cleanCheckOf(project, files)) clean.store(*found);
+        report.add(project, std::move(files));
+    }
+}
+
+CheckTotals checkAll(const SourceList& list, const Options& options, host::FileContents& contents,
+                     const CleanChecks& clean, Console& console, Report& report) {
     CheckReport results{options, console, report};
-    for (const auto& project : list.projects) reportCodePage(console, project.path, project.page);
-    if (!list.projects.empty()) checkProjects(list.projects, options, contents, results);
+    for (const auto& [project, cleanLines] : list.projects) reportCodePage(console, project.path, project.page);
+    if (!list.projects.empty()) checkProjects(list.projects, options, contents, clean, results);
     for (const auto& source : list.sources) {
         checkInterrupt();
         checkOne(source, options, console, results);
@@ -68,7 +94,8 @@ int runCheck(const Options& options, Console& console) {
     auto operands = options.operands;
     if (operands.empty()) operands.push_back(projectArgument(""));
     host::FileContents contents;
-    const auto list = listSources(operands, options.codePage, contents);
+    const CleanChecks clean{options};
+    const auto list = listSources(operands, options.codePage, contents, &clean);
 
     Report report;
     report.verb = "check";
@@ -76,7 +103,7 @@ int runCheck(const Options& options, Console& console) {
         report.failure += (report.failure.empty() ? "" : "\n") + problem;
         console.err("fernwick: " + problem, Tone::Error);
     }
-    const auto totals = checkAll(list, options, contents, console, report);
+    const auto totals = checkAll(list, options, contents, clean, console, report);
     report.exitStatus = std::max(totals.status, list.status);
     const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - begin;
     report.statusText = fmt::format("{}, {}, {}", plural(totals.files, "file"), plural(totals.lines, "line"),

@@ -112,7 +112,7 @@ SourceList projectsOf(const Options& options) {
     auto operands = options.operands;
     if (operands.empty()) operands.push_back(projectArgument(""));
     host::FileContents contents;
-    auto list = listSources(operands, options.codePage, contents);
+    auto list = listSources(operands, options.codePage, contents, nullptr);
     for (const auto& source : list.sources)
         if (source.isNamed)
             throw Refusal(kWrongUse, source.path + ": --migrate reports about projects; name a .vbp or .vbg file");
@@ -135,7 +135,7 @@ int runMigration(const Options& options, Console& console) {
         console.err("fernwick: " + problem, Tone::Error);
     }
     std::vector<apps::Migration> migrations;
-    for (const auto& project : list.projects) {
+    for (const auto& [project, cleanLines] : list.projects) {
         reportCodePage(console, project.path, project.page);
         const apps::MigrationDevice device{*target, project};
         migrations.push_back(
