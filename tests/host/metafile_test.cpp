@@ -1,29 +1,14 @@
 // Records of metafiles as a drawing.
-#include "Host/metafiles/metafile.h"
+#include "tests/host/metafile_drawing.h"
 #include "tests/support/metafile_bytes.h"
-#include <cmath>
 
 using namespace host;
+using test::drawn;
+using test::path;
+using test::points;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
-
-namespace {
-
-std::vector<Drawn> drawn(const std::string& bytes) {
-    auto metafile = readMetafile(bytes);
-    return metafile ? std::move(metafile->drawn) : std::vector<Drawn>();
-}
-const DrawnPath& path(const Drawn& one) { return std::get<DrawnPath>(one); }
-/// "x,y" of each point of a figure.
-std::vector<std::string> points(const DrawnPath::Figure& figure) {
-    std::vector<std::string> texts;
-    for (const auto& point : figure.points)
-        texts.push_back(std::to_string(std::lround(point.x)) + "," + std::to_string(std::lround(point.y)));
-    return texts;
-}
-
-} // namespace
 
 TEST(Metafiles, APlaceableFileHasTheSizeOfItsBox) {
     const auto read = readMetafile(test::WindowsRecords().rectangle(100, 200, 300, 400).file(1920, 960));
