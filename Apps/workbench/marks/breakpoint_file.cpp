@@ -25,11 +25,11 @@ QString fileOf(const QString& project) {
 } // namespace
 
 Breakpoints readBreakpoints(const QString& project) {
-    Breakpoints found;
     QFile file(fileOf(project));
-    if (!file.open(QIODevice::ReadOnly) || file.size() > kMostBytes) return found;
+    if (!file.open(QIODevice::ReadOnly) || file.size() > kMostBytes) return {};
     const auto lines = QString::fromUtf8(file.readAll()).split('\n');
-    if (lines.size() < 2 || lines[0] != kHeader || lines[1] != project) return found;
+    if (lines.size() < 2 || lines[0] != kHeader || lines[1] != project) return {};
+    Breakpoints found;
     for (const auto& line : lines.mid(2)) {
         const auto fields = line.split('\t');
         bool isNumber = false;
