@@ -1,4 +1,5 @@
 """Programs that `fernwick run` executes can be interrupted, and end when their output is closed."""
+import json
 import signal
 import struct
 import subprocess
@@ -69,6 +70,11 @@ class Programs(unittest.TestCase):
         self.program("")
         profile = self.home.fernwick("run", "Loop.vbp", "--budget", "100000", "--profile").stderr
         self.assertRegex(profile, r"(?m)^100\.0 %  .*Loop\.bas:\d  Main$")
+        shown = self.home.fernwick("run", "Loop.vbp", "--budget", "100000", "--profile", "--format", "json").stdout
+        row = json.loads(shown)["profile"][0]
+        self.assertEqual((row["file"], row["procedure"]), (str(self.home.work / "Loop.bas"), "Main"))
+        self.assertGreater(row["line"], 0)
+        self.assertGreater(row["samples"], 0)
 
     def test_files_are_in_the_folder(self):
         self.program('Open "\\out.txt" For Output As #1: Print #1, "text": Close #1: Exit Do')

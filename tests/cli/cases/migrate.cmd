@@ -75,6 +75,9 @@ diff -r ../before . && say "Nothing is written."
 say "Code with errors is left."
 printf 'Attribute VB_Name = "modShop"\r\nSub Main()\r\n  x = = 1\r\nEnd Sub\r\n' >modShop.bas
 run fernwick check Shop.vbp --migrate PalmOS-DragonBall
+say "A file is missing."
+rm modShop.bas
+run fernwick check Shop.vbp --migrate PalmOS-DragonBall
 cd ..
 say "What cannot be reported about."
 run fernwick check Shop/Shop.vbp --migrate Toaster
