@@ -66,6 +66,7 @@ TEST(CodePageOfFile, IsUtf8ForUtf8InAnyProject) {
     EXPECT_EQ(codePageOfFile("impresi\xEF\xBF\xBDn", kWestern).number(), 65001);
     EXPECT_EQ(codePageOfFile("Größe \xF6", kWestern).number(), 1252);
     EXPECT_EQ(codePageOfFile("\xEF\xBB\xBFx", kWestern).number(), 65001);
+    EXPECT_EQ(codePageOfFile("\xEF\xBB\xBFx\xF6", kWestern).number(), 65001); // whatever follows the mark
 }
 
 TEST(CodePageOfFile, TwoByteSequencesDoNotOverrideADoubleBytePage) {
