@@ -7,7 +7,7 @@ import subprocess
 import time
 import unittest
 
-from support import Home
+from support import Home, under_strace
 
 KILLED_AT = ["openat", "write", "rename,renameat,renameat2", "unlink,unlinkat", "mkdir"]
 
@@ -59,7 +59,7 @@ class CheckCache(unittest.TestCase):
         time.sleep(3.1)  # files that changed a moment before are not trusted
         clean = self.check()
         trace = self.home.folder / "trace"
-        self.home.run("strace", "-f", "-qq", "-o", str(trace), "-e", "trace=openat", "fernwick", "check", str(self.project))
+        self.home.run(*under_strace(trace, "openat"), "fernwick", "check", str(self.project))
         self.assertIn("/clean/", trace.read_text())
         self.assertNotIn(self.project.parent.name, trace.read_text())
         for options in ((), ("-v",), ("--format", "json")):
@@ -117,12 +117,11 @@ class CheckCache(unittest.TestCase):
         trace = self.home.folder / "trace"
         for calls in KILLED_AT:
             # the calls that concern the stored results are the last ones
-            self.home.run("strace", "-f", "-qq", "-o", str(trace), "-e", f"trace={calls}", "fernwick", "check",
-                          str(self.project), "--warn", env=self.fresh())
+            self.home.run(*under_strace(trace, calls), "fernwick", "check", str(self.project), "--warn", env=self.fresh())
             count = len(trace.read_text().splitlines())
             for number in range(max(1, count - 6), count + 1):
-                self.home.run("strace", "-f", "-qq", "-o", str(trace), "-e", f"inject={calls}:signal=KILL:when={number}",
-                              "fernwick", "check", str(self.project), env=self.fresh())
+                self.home.run(*under_strace(trace, calls, f"signal=KILL:when={number}"), "fernwick", "check",
+                              str(self.project), env=self.fresh())
                 self.assertEqual(self.check(), expected, f"{calls} {number}")
                 self.assertEqual(self.check(), expected, f"{calls} {number}")
 
@@ -216,14 +215,12 @@ class ProgramCache(unittest.TestCase):
         for calls in KILLED_AT:
             for path in self.folder.iterdir():
                 path.unlink()
-            self.home.run("strace", "-f", "-qq", "-o", str(trace), "-e", f"trace={calls}", "fernwick", "run",
-                          str(self.project))
+            self.home.run(*under_strace(trace, calls), "fernwick", "run", str(self.project))
             count = len(trace.read_text().splitlines())
             for number in range(max(1, count - 4), count + 1):
                 for path in self.folder.iterdir():
                     path.unlink()
-                self.home.run("strace", "-f", "-qq", "-o", str(trace), "-e",
-                              f"inject={calls}:signal=KILL:when={number}", "fernwick", "run", str(self.project))
+                self.home.run(*under_strace(trace, calls, f"signal=KILL:when={number}"), "fernwick", "run", str(self.project))
                 self.assertEqual(self.run_it(), expected, f"{calls} {number}")
 
 

@@ -13,6 +13,9 @@ import unittest
 PROGRAM = None  # path of fernwick, the first argument
 REVISION = None  # path of increment_revision, the second one
 ROOT = pathlib.Path(__file__).resolve().parent.parent.parent
+sys.path.insert(0, str(ROOT / "tests" / "cli"))
+from support import under_strace  # noqa: E402
+
 SAMPLE = ROOT / "samples" / "HelloWorld"
 
 # The calls through which a save can end early.
@@ -33,6 +36,7 @@ class Project:
     def __init__(self, program=None):
         self.program = program or PROGRAM
         self.base = pathlib.Path(tempfile.mkdtemp(prefix="fernwick-faults-"))
+        self.tried = self.failed = 0
         self.folder = self.base / "project"
         shutil.copytree(SAMPLE, self.folder)
         self.vbp = self.folder / "HelloWorld.vbp"
@@ -53,20 +57,25 @@ class Project:
     def run(self, arguments, inject=None):
         command = [self.program, *arguments]
         if inject:
-            command = ["strace", "-f", "-qq", "-o", str(self.base / "trace"), "-e", f"inject={inject}", *command]
-        return subprocess.run(command, cwd=self.folder, env=self.environment, stdin=subprocess.DEVNULL,
+            command = [*under_strace(self.base / "trace", *inject.split(":", 1)), *command]
+        done = subprocess.run(command, cwd=self.folder, env=self.environment, stdin=subprocess.DEVNULL,
                               capture_output=True, text=True, timeout=60)
+        if inject:
+            self.tried += 1
+            self.failed += any(sign in (self.base / "trace").read_text(errors="replace") for sign in ("INJECTED", "killed by"))
+        return done
 
     def calls_of(self, arguments, calls):
         """How often each call set is made by a good run."""
         trace = self.base / "count"
-        subprocess.run(["strace", "-f", "-qq", "-o", str(trace), "-e", f"trace={calls}", self.program, *arguments],
+        subprocess.run([*under_strace(trace, calls), self.program, *arguments],
                        cwd=self.folder, env=self.environment, stdin=subprocess.DEVNULL, capture_output=True, timeout=60)
         names = calls.replace(",", "|")
         return len(re.findall(rf"\b(?:{names})\(", trace.read_text(errors="replace")))
 
     def remove(self):
         shutil.rmtree(self.base, ignore_errors=True)
+        assert self.failed == self.tried, f"only {self.failed} of {self.tried} failures came about"
 
 
 class Saves(unittest.TestCase):
