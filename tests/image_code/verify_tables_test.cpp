@@ -268,6 +268,11 @@ TEST(VerifyTables, RefuseImportsThatTheRuntimeLacks) {
     for (const auto type : {object(1), record(0), SlotType{BaseType::Byte}, kNothing})
         EXPECT_EQ(afterCode([&](auto& c) { c.imports[0].parameters[0] = type; }),
                   "function Left has a type that functions of the runtime cannot have");
+    EXPECT_EQ(afterCode([](auto& c) { c.imports[0].parameters[0] = referenceTo(object(99)); }),
+              "function Left has a type that functions of the runtime cannot have");
+    for (const auto type : {referenceTo(object(1)), referenceTo(record(0))})
+        EXPECT_THAT(afterCode([&](auto& c) { c.imports[0].parameters[0] = type; }),
+                    testing::Not(testing::HasSubstr("functions of the runtime cannot have")));
     EXPECT_EQ(afterCode([](auto& c) { c.imports[0].result = referenceTo(kText); }),
               "function Left has a type that functions of the runtime cannot have");
     const image::Signature left{kText, {kText, kLong}}, other{kText, {kText, kDouble}}, beep{};

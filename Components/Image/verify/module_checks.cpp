@@ -12,10 +12,10 @@ bool isPlainSub(const Tables& tables, std::uint32_t number) {
            tables.results[number] == SlotType{};
 }
 
-/// The runtime's functions know no class of an image, and records only as what Get and Put refer to.
+/// The runtime's functions know the records and classes of an image only as what they refer to.
 bool isForRuntime(SlotType type) {
-    if (type.base == BaseType::Record) return type.form == TypeForm::Reference || type.form == TypeForm::ArrayReference;
-    return type.id == 0;
+    const bool refers = type.form == TypeForm::Reference || type.form == TypeForm::ArrayReference;
+    return refers || (type.id == 0 && type.base != BaseType::Record);
 }
 
 bool isUsable(const Tables& tables, const Import& import) {
