@@ -58,11 +58,11 @@ std::optional<Message> warningOf(std::string_view number) {
 // A colon is rarer than an apostrophe, and looking for it costs next to nothing.
 IgnoredWarnings::IgnoredWarnings(const SourceText& source) : source_(source) {
     const char* const begin = source.data();
-    for (Pos at = 0; at < source.size(); ++at) {
+    for (Pos at = 1; at < source.size(); ++at) {
         const auto* colon = static_cast<const char*>(std::memchr(begin + at, ':', source.size() - at));
         if (!colon) return;
         at = static_cast<Pos>(colon - begin);
-        if (at == 0 || (colon[-1] | 0x20) != kMark.back()) continue;
+        if ((colon[-1] | 0x20) != kMark.back()) continue;
         const auto number = source.lineOf(at);
         readLine(number);
         at = source.lineStart(number + 1) - 1;
