@@ -276,6 +276,10 @@ def prepared(template, cell):
         yield home
 
 
+def little_memory():
+    resource.setrlimit(resource.RLIMIT_AS, (150 << 20, 150 << 20))
+
+
 def interrupt_at_start():
     signal.pthread_sigmask(signal.SIG_BLOCK, {signal.SIGINT})
     os.kill(os.getpid(), signal.SIGINT)
@@ -356,6 +360,14 @@ class ExitStatus(unittest.TestCase):
                     self.check(*cell, done)
         if not CAN_DROP_ROOT:
             self.skipTest("unreadable and read-only files need another user than root: install setpriv")
+
+    @unittest.skipIf("ASAN_OPTIONS" in os.environ, "the sanitizer needs more memory than there is")
+    def test_a_command_without_enough_memory_says_so(self):
+        with prepared(self.template, Cell(MACHINE)) as home:
+            (home.work / "Large.bas").write_text("x = 1\n" * 3_000_000)
+            done = home.fernwick("check", "Large.bas", preexec_fn=little_memory)
+            self.assertEqual((done.returncode, done.stderr),
+                             (MACHINE, "fernwick: Out of memory (error 7 of VBAProject)\n"))
 
     def test_each_command_that_opens_a_project_takes_its_code_page(self):
         takers = [verb for verb in self.verbs
