@@ -117,6 +117,7 @@ def check_again(program, work):
     files, gambas = write_projects(work, MANY_MODULES, FEW_PROCEDURES)
     command = [str(program), "check", str(write_vbp(files))]
     first, again, theirs = [], [], []
+    time.sleep(4)  # what changed a moment before is read again
     for run in range(RUNS):
         environment = dict(os.environ, XDG_CACHE_HOME=str(work / f"cache{run}"))
         first.append(timed(command, env=environment)[::2])
