@@ -29,7 +29,7 @@ protected:
         check.project.page = {basic::CodePage(1251), basic::CodePageReason::Key, true};
         check.absoluteSources = check.project.sources;
         check.lines = {7, 300};
-        later.store(check);
+        later.store(check.project, check.lines);
     }
 
     std::string path(const std::string& name) const { return folder / name; }
@@ -64,7 +64,7 @@ TEST_F(CleanProjects, AreFoundAsTheyWere) {
 
 TEST_F(CleanProjects, WithAChangedFileAreNotFound) {
     for (const char* name : {"work/One.vbp", "work/One.bas", "other/Two.cls", "work/One.res"}) {
-        later.store(check);
+        later.store(check.project, check.lines);
         ASSERT_TRUE(isFound());
         const auto time = std::filesystem::last_write_time(folder / name);
         std::ofstream(folder / name) << "TEXT"; // of the same size, and soon with the same time
@@ -76,7 +76,7 @@ TEST_F(CleanProjects, WithAChangedFileAreNotFound) {
 TEST_F(CleanProjects, WithANewFileInAFolderAreNotFound) {
     folder.write("other/TWO.CLS", "text");
     EXPECT_FALSE(isFound());
-    later.store(check);
+    later.store(check.project, check.lines);
     EXPECT_TRUE(isFound());
     folder.write("work/ONE.BAS", "text");
     EXPECT_FALSE(isFound());
@@ -85,17 +85,17 @@ TEST_F(CleanProjects, WithANewFileInAFolderAreNotFound) {
 TEST_F(CleanProjects, WithoutAFileAreNeitherFoundNorStored) {
     std::filesystem::remove(folder / "work/One.bas");
     EXPECT_FALSE(isFound());
-    later.store(check);
+    later.store(check.project, check.lines);
     EXPECT_FALSE(isFound());
 }
 
 TEST_F(CleanProjects, AreNotStoredSoonAfterAChange) {
     const CleanChecks now{options};
     std::filesystem::remove(stored());
-    now.store(check);
+    now.store(check.project, check.lines);
     EXPECT_FALSE(isFound());
     const CleanChecks soon{options, std::chrono::system_clock::now() + 2s};
-    soon.store(check);
+    soon.store(check.project, check.lines);
     EXPECT_FALSE(isFound());
 }
 

@@ -60,6 +60,16 @@ test::EnhancedRecords lines(std::uint32_t type, std::initializer_list<std::int64
         .add(type, longs({0, 0, 0, 0, count}) + (isShort ? words(values) : longs(values)));
 }
 
+/// In blue, 20 pixels high, and with all that a font can add.
+void expectSlantedArial(const DrawnText& shown) {
+    EXPECT_EQ(shown.face, "Arial");
+    EXPECT_EQ(shown.height, 20);
+    EXPECT_FALSE(shown.isCellHeight);
+    EXPECT_EQ(shown.angle, 45);
+    EXPECT_TRUE(shown.isBold && shown.isItalic && shown.isUnderlined);
+    EXPECT_EQ(shown.colour, 0x0000FFU);
+}
+
 /// Corners of a rectangle of 10 by 10 at the origin, after these records.
 std::vector<std::string> squareAfter(test::EnhancedRecords records) {
     return onlyPoints(records.rectangle(0, 0, 10, 10));
@@ -273,12 +283,7 @@ TEST(WindowsRecords, TextsHaveTheirFont) {
     const auto& shown = text(all[0]);
     EXPECT_EQ(point(shown.at), "10,20");
     EXPECT_EQ(shown.text, "abc");
-    EXPECT_EQ(shown.face, "Arial");
-    EXPECT_EQ(shown.height, 20);
-    EXPECT_FALSE(shown.isCellHeight);
-    EXPECT_EQ(shown.angle, 45);
-    EXPECT_TRUE(shown.isBold && shown.isItalic && shown.isUnderlined);
-    EXPECT_EQ(shown.colour, 0x0000FFU);
+    expectSlantedArial(shown);
 
     const auto light = words({20, 0, 0, 0, 599}) + std::string(8, '\0') + "Arial";
     const auto other = drawnBy(windows().add(0x02FB, light).select(0).add(0x0A32, words({20, 10, 3, 0}) + "abc"));
@@ -485,11 +490,7 @@ TEST(EnhancedRecords, TextsHaveTheirFont) {
     const auto& shown = text(all[0]);
     EXPECT_EQ(point(shown.at), "30,40");
     EXPECT_EQ(shown.text, "Tür");
-    EXPECT_EQ(shown.face, "Arial");
-    EXPECT_EQ(shown.height, 20);
-    EXPECT_EQ(shown.angle, 45);
-    EXPECT_TRUE(shown.isBold && shown.isItalic && shown.isUnderlined);
-    EXPECT_EQ(shown.colour, 0x0000FFU);
+    expectSlantedArial(shown);
     EXPECT_EQ(shown.across, DrawnText::Across::Centre);
 }
 

@@ -1,6 +1,5 @@
 #include "Apps/fernwick/checks/clean_checks.h"
 #include "Apps/common/described_libraries.h"
-#include "Apps/common/file_names.h"
 #include "Apps/common/machine.h"
 #include "Apps/common/version.h"
 #include "Apps/fernwick/checks/key_text.h"
@@ -10,6 +9,7 @@
 #include "Host/files/path_lookup.h"
 #include "Host/system/environment.h"
 #include <algorithm>
+#include <filesystem>
 #include <set>
 #include <sys/stat.h>
 #include <utility>
@@ -41,9 +41,9 @@ std::vector<std::string> filesOf(const apps::CheckedProject& project) {
     return files;
 }
 
-std::vector<std::string> foldersOf(const apps::CheckedProject& project) {
+std::vector<std::string> foldersOf(const std::vector<std::string>& files) {
     std::set<std::string> folders;
-    for (const auto& file : filesOf(project)) folders.insert(apps::folderOf(file));
+    for (const std::filesystem::path file : files) folders.insert(file.has_parent_path() ? file.parent_path() : ".");
     return {folders.begin(), folders.end()};
 }
 
@@ -64,9 +64,11 @@ chrono::system_clock::time_point timeOf(const timespec& time) {
            chrono::duration_cast<chrono::system_clock::duration>(chrono::nanoseconds(time.tv_nsec));
 }
 
-bool isOlder(const std::string& path, chrono::system_clock::time_point time) {
-    struct ::stat state {};
-    return ::stat(path.c_str(), &state) == 0 && std::max(timeOf(state.st_mtim), timeOf(state.st_ctim)) < time;
+bool areOlder(const std::vector<std::string>& paths, chrono::system_clock::time_point time) {
+    return std::ranges::all_of(paths, [&](const std::string& path) {
+        struct ::stat state {};
+        return ::stat(path.c_str(), &state) == 0 && std::max(timeOf(state.st_mtim), timeOf(state.st_ctim)) < time;
+    });
 }
 
 StoredCheck read(image::Reader& in) {
@@ -122,16 +124,17 @@ std::optional<CleanCheck> CleanChecks::find(const std::string& path) const {
     return check;
 }
 
-void CleanChecks::store(const CleanCheck& check) const {
-    const StoredCheck stored{check, foldersOf(check.project)};
-    const auto inputs = inputsOf(stored);
-    if (!std::ranges::all_of(inputs, [&](const auto& input) { return isOlder(input, begin_ - kTick); })) return;
-    const auto state = stateOf(inputs);
+void CleanChecks::store(const apps::CheckedProject& project, const std::vector<std::uint32_t>& lines) const {
+    const auto files = filesOf(project), folders = foldersOf(files);
+    if (!areOlder(files, begin_ - kTick) || !areOlder(folders, begin_ - kTick)) return;
+    StoredCheck stored{{project, {}, lines}, folders};
+    for (const auto& source : project.sources) stored.check.absoluteSources.push_back(host::absolutePath(source));
+    const auto state = stateOf(inputsOf(stored));
     image::Writer out;
     out.u32(static_cast<std::uint32_t>(state));
     out.u32(static_cast<std::uint32_t>(state >> 32));
     write(out, stored);
-    cache_.store(keyOf(check.project.path), out.bytes());
+    cache_.store(keyOf(project.path), out.bytes());
 }
 
 CheckKey CleanChecks::keyOf(const std::string& path) const {

@@ -11,7 +11,7 @@
 
 namespace cli {
 
-/// What a check found that had nothing to report.
+/// A check that had nothing to report.
 struct CleanCheck {
     apps::CheckedProject project;             ///< only its path, sources, resource file and code page
     std::vector<std::string> absoluteSources; ///< the paths of the sources
@@ -27,8 +27,9 @@ public:
     /// Nothing for a project that was not clean, or if its files or folders may have changed since. `path` is that of the
     /// project file as it is given.
     [[nodiscard]] std::optional<CleanCheck> find(const std::string& path) const;
-    /// A project with recent changes is not stored, because another change within a clock tick would not show.
-    void store(const CleanCheck& check) const;
+    /// `lines`: of each source. A project with recent changes is not stored, because another change within a clock tick
+    /// would not show.
+    void store(const apps::CheckedProject& project, const std::vector<std::uint32_t>& lines) const;
 
 private:
     [[nodiscard]] CheckKey keyOf(const std::string& path) const;

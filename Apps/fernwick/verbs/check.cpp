@@ -11,7 +11,6 @@
 #include "Apps/fernwick/stored/source_check.h"
 #include "Apps/fernwick/verbs/verbs.h"
 #include "Basic/runtime_error.h"
-#include "Host/files/path_lookup.h"
 #include "Host/files/project_code_page.h"
 #include "Host/files/text_file.h"
 #include <chrono>
@@ -44,17 +43,15 @@ void checkOne(const SourceToCheck& source, const Options& options, Console& cons
     checkBytes(source.path, std::move(content.bytes), source, console, report);
 }
 
-/// Nothing if there is something to report.
-std::optional<CleanCheck> cleanCheckOf(const apps::CheckedProject& project, const CheckedFiles& files) {
+/// The lines of each source; nothing if there is something to report.
+std::optional<std::vector<std::uint32_t>> cleanLinesOf(const CheckedFiles& files) {
     if (!files.resourceFile.diagnostics.empty()) return std::nullopt;
-    CleanCheck clean{project, {}, {}};
-    for (std::size_t i = 0; i < project.sources.size(); ++i) {
-        const auto& result = files.sources[i].result;
+    std::vector<std::uint32_t> lines;
+    for (const auto& [result, text] : files.sources) {
         if (!result.diagnostics.empty()) return std::nullopt;
-        clean.absoluteSources.push_back(host::absolutePath(project.sources[i]));
-        clean.lines.push_back(result.lines);
+        lines.push_back(result.lines);
     }
-    return clean;
+    return lines;
 }
 
 CheckedFiles cleanFiles(const std::vector<std::uint32_t>& lines) {
@@ -69,7 +66,7 @@ void checkProjects(const std::vector<ProjectToCheck>& projects, const Options& o
     for (const auto& [project, cleanLines] : projects) {
         auto files = cleanLines ? cleanFiles(*cleanLines) : check.check(project);
         if (!cleanLines)
-            if (const auto found = cleanCheckOf(project, files)) clean.store(*found);
+            if (const auto lines = cleanLinesOf(files)) clean.store(project, *lines);
         report.add(project, std::move(files));
     }
 }
