@@ -260,6 +260,7 @@ private:
     std::optional<Value> wholePart(Builtin function, const Expr& expr);
     Value boundOf(const Span<Argument>& given, bool isUpper);
     std::optional<Value> lengthOf(const Expr& expr);
+    std::optional<Value> bytesOfRecord(const Expr& expr);
     /// Calls a function of the runtime with values of these types.
     Value native(const std::string& name, const Type& result, const std::vector<Value>& values);
     struct NativeCall {

@@ -113,6 +113,7 @@ std::optional<Value> Emitter::intrinsic(const LibraryFunction& function, const S
     switch (function.builtin) {
     case Builtin::Convert: return explicitConversion(first, function.type);
     case Builtin::Length: return lengthOf(first);
+    case Builtin::LengthInBytes: return bytesOfRecord(first);
     case Builtin::Root: return squareRoot(first);
     case Builtin::Absolute:
     case Builtin::Int:
@@ -192,6 +193,13 @@ std::optional<Value> Emitter::lengthOf(const Expr& expr) {
             {});
     default: return std::nullopt;
     }
+}
+
+/// The runtime counts the bytes of all other values.
+std::optional<Value> Emitter::bytesOfRecord(const Expr& expr) {
+    const Type type = typeOfExpr(expr);
+    if (type.isArray || type.value != ValueType::Record) return std::nullopt;
+    return longConstant(static_cast<std::int64_t>(layout_.bytesOfRecord(type.id)), {});
 }
 
 } // namespace qltoolkit

@@ -16,6 +16,7 @@ constexpr LibraryFunction kFunctions[] = {{"CBool", Builtin::Convert, false, Val
                                           {"LBound", Builtin::LowerBound},
                                           {"UBound", Builtin::UpperBound},
                                           {"Len", Builtin::Length},
+                                          {"LenB", Builtin::LengthInBytes},
                                           {"Sqr", Builtin::Root},
                                           {"Abs", Builtin::Absolute},
                                           {"Int", Builtin::Int},

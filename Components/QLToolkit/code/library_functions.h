@@ -12,6 +12,7 @@ enum class Builtin : std::uint8_t {
     LowerBound,
     UpperBound,
     Length,
+    LengthInBytes,
     Root,
     Absolute,
     Int,

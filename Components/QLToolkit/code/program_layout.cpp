@@ -52,9 +52,11 @@ void ProgramLayout::numberRecord(const Scope& scope, Constants& constants) {
     for (const auto* field : fields)
         if (field->type.value == ValueType::Record) numberRecord(program_.scope(field->type.id), constants);
     image::RecordLayout layout;
+    MemoryExtent memory;
     std::uint32_t slots = 0;
     bool isPrepared = false;
     for (const auto* field : fields) {
+        addField(memory, *field, field->type.value == ValueType::Record ? memory_.at(field->type.id) : MemoryExtent{});
         field->place = slots;
         slots += slotsOf(field->type);
         image::RecordField made{typeOf(field->type), image::kNone, 0};
@@ -69,6 +71,8 @@ void ProgramLayout::numberRecord(const Scope& scope, Constants& constants) {
     }
     records_.emplace(scope.number, static_cast<std::uint32_t>(layouts_.size()));
     recordSlots_.emplace(scope.number, slots);
+    addEnd(memory);
+    memory_.emplace(scope.number, memory);
     if (isPrepared) prepared_.insert(scope.number);
     layouts_.push_back(std::move(layout));
 }

@@ -3,6 +3,7 @@
 #include "Components/Image/code/code_image.h"
 #include "Components/QLToolkit/code/library_functions.h"
 #include "Components/QLToolkit/names/constants.h"
+#include "Components/QLToolkit/names/record_size.h"
 #include <unordered_map>
 #include <unordered_set>
 
@@ -82,6 +83,8 @@ public:
         return found == accesses_.end() ? nullptr : &found->second;
     }
     [[nodiscard]] std::uint32_t recordOf(std::uint32_t scope) const { return records_.at(scope); }
+    /// The bytes that a record takes as the language counts them, whatever it takes here.
+    [[nodiscard]] std::uint64_t bytesOfRecord(std::uint32_t scope) const { return memory_.at(scope).bytes; }
 
     /// What the image knows about all modules: records, classes without their procedures, variables, and how many
     /// procedures there are.
@@ -122,6 +125,7 @@ private:
     std::unordered_set<std::uint32_t> interfaces_, prepared_;
     std::unordered_map<const Entity*, FieldAccess> accesses_;
     std::vector<image::RecordLayout> layouts_;
+    std::unordered_map<std::uint32_t, MemoryExtent> memory_; ///< of records, by Scope::number
     std::vector<image::ArrayShape> arrays_;
     std::vector<image::SlotVariable> globals_;
     std::uint32_t globalSlots_ = 0, procedures_ = 0, firstPrepare_ = 0;

@@ -33,7 +33,28 @@ std::uint64_t sizeOf(const Entity& field, std::uint64_t characterBytes) {
                                                       : sizeOf(field.type.value);
 }
 
+/// In memory a character of a text of a fixed length has two bytes.
+constexpr std::uint64_t kCharacterBytes = 2;
+
+MemoryExtent extentOf(const Entity& field) {
+    constexpr std::uint64_t kMostAlignment = 4;
+    const auto bytes = sizeOf(field, kCharacterBytes);
+    const bool isText = field.type.value == ValueType::FixedString && !isPointer(field);
+    return {bytes, isText ? kCharacterBytes : std::min(bytes, kMostAlignment)};
+}
+
 } // namespace
+
+void addField(MemoryExtent& record, const Entity& field, const MemoryExtent& inner) {
+    const auto extent = isRecord(field) ? inner : extentOf(field);
+    record.alignment = std::max(record.alignment, extent.alignment);
+    record.bytes += (extent.alignment - record.bytes % extent.alignment) % extent.alignment;
+    record.bytes += extent.bytes * field.elements;
+}
+
+void addEnd(MemoryExtent& record) {
+    record.bytes += (record.alignment - record.bytes % record.alignment) % record.alignment;
+}
 
 bool isPlain(const Program& program, const Scope& record, int depth) {
     bool result = depth < kDeepestPlain;

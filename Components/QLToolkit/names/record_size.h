@@ -17,6 +17,16 @@ struct RecordSize {
 /// Whether a record holds only numbers, texts of a fixed length, and records and arrays with bounds of these.
 [[nodiscard]] bool isPlain(const Program& program, const Scope& record, int depth = 0);
 
+/// Where a record is in memory: a field begins at a multiple of its size, of 4 at most, and so does the record.
+struct MemoryExtent {
+    std::uint64_t bytes = 0, alignment = 1;
+};
+
+/// Adds a field. `inner`: of the record that the field is, if it is one.
+void addField(MemoryExtent& record, const Entity& field, const MemoryExtent& inner);
+/// Adds what is between a record and a next one.
+void addEnd(MemoryExtent& record);
+
 /// Finds each size once, because records may contain one another in long chains.
 class RecordSizes {
 public:
