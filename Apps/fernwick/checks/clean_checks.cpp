@@ -125,11 +125,12 @@ std::optional<CleanCheck> CleanChecks::find(const std::string& path) const {
 }
 
 void CleanChecks::store(const apps::CheckedProject& project, const std::vector<std::uint32_t>& lines) const {
-    const auto files = filesOf(project), folders = foldersOf(files);
-    if (!areOlder(files, begin_ - kTick) || !areOlder(folders, begin_ - kTick)) return;
-    StoredCheck stored{{project, {}, lines}, folders};
+    StoredCheck stored{{project, {}, lines}, foldersOf(filesOf(project))};
+    const auto inputs = inputsOf(stored);
+    const auto state = stateOf(inputs);
+    // After the state: a change in between makes a file young, and one that follows makes the state another.
+    if (!areOlder(inputs, begin_ - kTick)) return;
     for (const auto& source : project.sources) stored.check.absoluteSources.push_back(host::absolutePath(source));
-    const auto state = stateOf(inputsOf(stored));
     image::Writer out;
     out.u32(static_cast<std::uint32_t>(state));
     out.u32(static_cast<std::uint32_t>(state >> 32));
