@@ -27,3 +27,7 @@ sed -i -e '/^Name=/{r name' -e 'd}' Given/Given.vbp
 runline 'fernwick info Given/Given.vbp --code-page 950 | head -1'
 run fernwick build -q Given/Given.vbp --code-page 950
 run fernwick clean Given/Given.vbp --code-page 950
+say "The messages of a build have names in the page of the project file."
+printf 'Option Explicit\nPublic Sub Main()\n    итого = 1\nEnd Sub\n' | iconv -f UTF-8 -t CP1251 | module_project Total
+sed -i '/^Name=/a CodePage=1251\r' Total/Total.vbp
+run fernwick build -q Total/Total.vbp
