@@ -1,4 +1,5 @@
 // Without an installation, nothing is looked for in the root folder of the file system, where anything may be.
+#include "Apps/common/installation.h"
 #include "Apps/common/installed_controls.h"
 #include "Apps/common/maker.h"
 #include "Components/DesignTargetAccess/design_target_mgr.h"
@@ -34,6 +35,21 @@ int partsFoundInRoot(const std::string& root, const std::string& installation) {
     int status = -1;
     ::waitpid(child, &status, 0);
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+TEST(NoInstallation, TheSearchEndsAtTheRootFolder) {
+    const test::TempFolder folder;
+    EXPECT_EQ(apps::installationBeside(folder.path()), "");
+    EXPECT_EQ(apps::installationBeside(""), "");
+}
+
+TEST(NoInstallation, AFolderOfThisNameWithoutRegistryAndTargetsIsNone) {
+    const test::TempFolder folder;
+    const std::filesystem::path installation = std::filesystem::path(folder.path()) / "installation";
+    std::filesystem::create_directories(installation / "registry");
+    EXPECT_EQ(apps::installationBeside(folder.path()), "");
+    std::filesystem::create_directories(installation / "targets");
+    EXPECT_EQ(apps::installationBeside(folder.path()), std::filesystem::canonical(installation).string());
 }
 
 TEST(NoInstallation, NothingIsReadFromTheRootFolder) {
