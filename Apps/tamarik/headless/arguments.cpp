@@ -8,7 +8,7 @@ namespace {
 
 template <class Number>
 bool readNumber(const std::string& word, std::optional<Number>& number) {
-    Number value = 0;
+    Number value{};
     const char* const end = word.data() + word.size();
     const auto read = std::from_chars(word.data(), end, value);
     number = value;
