@@ -1,5 +1,6 @@
 #include "tests/image_code/verify_world.h"
 #include <bit>
+#include <gmock/gmock.h>
 #include <limits>
 #include <utility>
 #include <vector>
