@@ -47,9 +47,8 @@ void requireMeantSettings(LinuxHandheldSettings settings, const std::string& key
 
 } // namespace
 
-DeviceSettings readDeviceSettings(fernwick::Registry& registry, const std::string& key, const std::string& pipe) {
+DeviceSettings readDeviceSettings(fernwick::Registry& registry, const std::string& key) {
     DeviceSettings list;
-    if (!isReachedBySsh(pipe)) return list;
     const auto settings = qlpipe::readUserSettings(registry, key);
     for (const auto& row : kConnectionRows) list.emplace_back(row.key, settings.*row.connection);
     return list;

@@ -11,11 +11,12 @@ namespace cli {
 /// Names and values; "" for a setting without a value.
 using DeviceSettings = std::vector<std::pair<std::string, std::string>>;
 
-/// Returns the settings of a device; none if its family has no settings. `pipe` is the ProgID in its design target.
-DeviceSettings readDeviceSettings(fernwick::Registry& registry, const std::string& key, const std::string& pipe);
+/// Returns the settings of a device.
+DeviceSettings readDeviceSettings(fernwick::Registry& registry, const std::string& key);
 
 /// Stores assignments "NAME=VALUE"; an empty value removes the setting. Stores nothing if one of them is invalid.
-/// Refusals: an unknown name or an invalid value (2), a store that cannot be written (3).
+/// `pipe` is the ProgID in its design target. Refusals: a device without settings, an unknown name or an invalid value (2),
+/// a store that cannot be written (3).
 void changeDeviceSettings(fernwick::Registry& registry, const std::string& key, const std::string& pipe,
                           const std::vector<std::string>& assignments);
 

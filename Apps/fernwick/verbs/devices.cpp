@@ -89,7 +89,7 @@ int listDevices(MyDevices& devices, const Options& options, Console& console) {
         const auto place = row.isUsable ? placeOfDevice(devices.machine, row.key, row.pipe) : DevicePlace{};
         if (options.format == Format::Json)
             json["devices"].push_back(
-                jsonOfDeviceRow(row, place, readDeviceSettings(devices.machine.registry(), row.key, row.pipe)));
+                jsonOfDeviceRow(row, place, readDeviceSettings(devices.machine.registry(), row.key)));
         else
             printRow(row, place, console);
     }
