@@ -70,7 +70,7 @@ P
 cp -r . ../before
 run fernwick check Shop.vbp --migrate palmos-dragonball
 run fernwick check --migrate LinuxHandheld-ARM --format json
-runline 'fernwick check Shop.vbp --migrate PocketPC-ARM --format sarif | grep -e ruleId -e startLine'
+runline 'fernwick check Shop.vbp --migrate PocketPC-ARM --format sarif | grep -e ruleId -e level -e startLine'
 diff -r ../before . && say "Nothing is written."
 say "Code with errors is left."
 printf 'Attribute VB_Name = "modShop"\r\nSub Main()\r\n  x = = 1\r\nEnd Sub\r\n' >modShop.bas
