@@ -175,8 +175,16 @@ class Doctor(unittest.TestCase):
     def test_fixes_a_wrong_root_dir(self):
         self.home.run(self.program, "registry", "set", r"HKEY_LOCAL_MACHINE\Software\Quinloft", "RootDir", "/nowhere",
                       check=True)
-        found = next(f for f in self.examine() if f["subject"] == "RootDir")
-        self.home.run("bash", "-c", found["cure"].replace("fernwick", str(self.program), 1), check=True)
+        _, detail, cure = self.finding("RootDir")
+        self.assertEqual(detail, f"is /nowhere, not {self.installed}")
+        self.home.run("bash", "-c", cure.replace("fernwick", str(self.program), 1), check=True)
+        self.assertEqual(self.troubles(), [])
+
+    def test_fixes_an_empty_root_dir(self):
+        self.home.run(self.program, "registry", "set", r"HKEY_LOCAL_MACHINE\Software\Quinloft", "RootDir", "", check=True)
+        _, detail, cure = self.finding("RootDir")
+        self.assertEqual(detail, "is not stored")
+        self.home.run("bash", "-c", cure.replace("fernwick", str(self.program), 1), check=True)
         self.assertEqual(self.troubles(), [])
 
     def test_names_a_device_that_cannot_be_reached(self):
@@ -205,6 +213,12 @@ class Doctor(unittest.TestCase):
         gone = self.home.work / "gone"
         moved.rename(gone)
         self.assertEqual(self.finding("installation")[:2], ("trouble", f"{moved} does not exist"))
+
+    def test_new_says_that_the_templates_are_missing(self):
+        shutil.rmtree(self.installed / "Template")
+        done = self.home.run(self.program, "new", "Shop")
+        self.assertEqual(done.returncode, 3)
+        self.assertIn("Template/Projects/Fernwick Project.vbp is missing", done.stderr)
 
     def test_describes_the_runtime_of_a_device(self):
         subject = "device PalmOS-DragonBall"

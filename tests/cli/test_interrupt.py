@@ -2,6 +2,7 @@
 import os
 import signal
 import subprocess
+import time
 import unittest
 
 from support import Home
@@ -42,13 +43,18 @@ class Interrupt(unittest.TestCase):
         self.home.__enter__()
         self.addCleanup(self.home.__exit__)
 
-    def interrupted(self, project, when, *options, verb="build"):
-        before = {p.name: p.read_bytes() for p in project.parent.iterdir()}
+    def started(self, project, until, *options, verb="build"):
+        """A run that has printed this."""
         process = subprocess.Popen(["fernwick", verb, str(project), *options], cwd=self.home.work,
                                    env=self.home.env, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
                                    stderr=subprocess.PIPE, text=True)
-        while when not in (line := process.stderr.readline()):
+        while until not in (line := process.stderr.readline()):
             self.assertTrue(line, "the run ended before it was interrupted")
+        return process
+
+    def interrupted(self, project, when, *options, verb="build"):
+        before = {p.name: p.read_bytes() for p in project.parent.iterdir()}
+        process = self.started(project, when, *options, verb=verb)
         process.send_signal(signal.SIGINT)
         with process:
             out, err = process.communicate(timeout=60)
@@ -60,6 +66,18 @@ class Interrupt(unittest.TestCase):
 
     def test_build_leaves_the_project_unchanged(self):
         self.interrupted(large_project(self.home), "Compiling m2.bas")
+
+    def test_a_second_ctrl_c_ends_the_process_at_once(self):
+        project = large_project(self.home)
+        before = {p.name: p.read_bytes() for p in project.parent.iterdir()}
+        process = self.started(project, "Compiling m2.bas")
+        latest = time.monotonic() + 30
+        while process.poll() is None and time.monotonic() < latest:
+            process.send_signal(signal.SIGINT)
+        process.kill()
+        process.communicate()
+        self.assertEqual(process.returncode, -signal.SIGINT)
+        self.assertEqual({p.name: p.read_bytes() for p in project.parent.iterdir()}, before)
 
     def test_deploy_leaves_the_old_application(self):
         project = self.home.sample()
