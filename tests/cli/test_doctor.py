@@ -67,6 +67,17 @@ class Doctor(unittest.TestCase):
                 shutil.rmtree(path) if path.is_dir() else path.unlink()
                 self.assertIn(part, "\n".join(self.troubles()))
 
+    def test_names_all_missing_files(self):
+        folders = [self.installed / folder for folder in ("VB Toolkit/Bin", "Template/Projects")]
+        files = [file for folder in folders for file in folder.iterdir() if file.is_file()]
+        guides = (self.installed / "VB Toolkit/doc").glob("Quinloft_*.html")
+        files += [guide for guide in guides if " " not in guide.name]
+        for file in files:
+            file.unlink()
+        troubles = self.troubles()
+        for file in files:
+            self.assertIn(f"installation: {file} is missing", troubles)
+
     def finding(self, subject):
         return next((f["state"], f["detail"], f.get("cure")) for f in self.examine() if f["subject"] == subject)
 

@@ -59,6 +59,10 @@ class Locking(unittest.TestCase):
             refused = self.home.fernwick(verb, str(self.project), "--no-wait")
             self.assertEqual(refused.returncode, 1, refused.stderr)
             self.assertIn("another fernwick is working on it", refused.stderr)
+        for verb, *change in (("settings", "set", "DefaultFontSize", "9"), ("steps", "add", "pre", "true")):
+            refused = self.home.fernwick(verb, change[0], str(self.project), *change[1:], "--no-wait")
+            self.assertEqual(refused.returncode, 1, refused.stderr)
+        self.assertEqual(self.home.fernwick("steps", "list", str(self.project), "--no-wait").returncode, 0)
         converted = self.home.fernwick("convert", str(self.project), "--to", "PocketPC-SH3", "--in-place", "--no-wait")
         self.assertEqual(converted.returncode, 1, converted.stderr)
         self.assertEqual(self.home.fernwick("info", str(self.project)).returncode, 0)

@@ -14,3 +14,6 @@ mkdir tree
 printf 'Type=Exe\r\nModule=modA; modA.bas\r\nCondComp="Bad = 1"\r\n' >tree/A.vbp
 printf 'Sub a()\r\n#If Bad Then\r\n  y = = 2\r\n#End If\r\nEnd Sub\r\n' >tree/modA.bas
 run fernwick check tree
+say "all folders without sources, in one text"
+mkdir empty bare
+runline 'fernwick check empty bare --format json | grep failure'
