@@ -162,6 +162,7 @@ void Emitter::jumpIf(Operator op, const Value& left, const Value& right, Label t
     out_.jump(Op::JumpTrue, target, isTrue);
 }
 
+/// The element is fetched at the foot: where the loop was not entered at its head, Next fails, and Resume Next leaves the loop.
 void Emitter::forEach(const ForEachStmt& loop) {
     const image::SlotType walkType{image::BaseType::Object, {}, 0};
     const auto walk = slots_.hidden(walkType);
@@ -172,7 +173,13 @@ void Emitter::forEach(const ForEachStmt& loop) {
         out_.emit(Op::BeginEach, walk, variantOf(*loop.in).slot);
     }
     clearObjects(statementMark_);
-    const Label next = out_.label(), exit = out_.label();
+    const Label body = out_.label(), next = out_.label(), exit = out_.label();
+    out_.jump(Op::Jump, next);
+    out_.place(body);
+    forExits_.push_back(exit);
+    block(loop.body);
+    forExits_.pop_back();
+    beginNext(loop.pos, loop.lines);
     out_.place(next);
     const auto mark = slots_.mark();
     const Value element{{ValueType::Variant}, temporary({ValueType::Variant})};
@@ -184,11 +191,7 @@ void Emitter::forEach(const ForEachStmt& loop) {
         store(variable, element);
     clearObjects(mark);
     slots_.releaseTo(mark);
-    forExits_.push_back(exit);
-    block(loop.body);
-    forExits_.pop_back();
-    beginNext(loop.pos, loop.lines);
-    out_.jump(Op::Jump, next);
+    out_.jump(Op::Jump, body);
     out_.place(exit);
     out_.emit(Op::Clear, walk);
     slots_.giveBack(walk, walkType);
