@@ -3,6 +3,7 @@
 #include "Components/Image/image_bytes.h"
 #include "Components/Image/image_format.h"
 #include "tests/image_code/code_parts.h"
+#include <algorithm>
 #include <functional>
 #include <gtest/gtest.h>
 
@@ -90,6 +91,15 @@ std::string reasonAfter(std::string_view section, std::size_t at, std::uint32_t 
     return reasonFor([=](std::string& bytes) { put(bytes, beginOf(bytes, section) + at, value); });
 }
 
+/// Where an image with this change has another byte.
+std::size_t placeOf(const std::function<void(CodeImage& code)>& change) {
+    auto code = everything();
+    change(code);
+    const auto bytes = image::encode(imageWith(everything())), changed = image::encode(imageWith(code));
+    const auto differs = std::mismatch(bytes.begin() + kHeaderSize, bytes.end(), changed.begin() + kHeaderSize);
+    return std::size_t(differs.first - bytes.begin());
+}
+
 std::string whyRefused(const std::function<void(CodeImage& code)>& change) {
     auto code = everything();
     change(code);
@@ -158,6 +168,18 @@ TEST(CodeFormat, NamesTheReasonForRefusingIt) {
         EXPECT_EQ(reasonFor(grow(section, 1)), damaged + "a section is too long.") << section;
     for (const auto* section : {"GLOB", "TYPE", "CLAS", "PROC", "IMPT", "LINE", "STMT"})
         EXPECT_EQ(reasonFor(grow(section, -1)), damaged + "a count is larger than the file.") << section;
+}
+
+TEST(CodeFormat, RefusesUnknownKindsOfMembers) {
+    const auto with = [](char value, const std::function<void(image::ClassMember & member)>& change) {
+        const auto at = placeOf([&](auto& code) { change(code.classes[0].members[0]); });
+        return reasonFor([=](std::string& bytes) { bytes[at] = value; });
+    };
+    const std::string unknown = "The compiled file is damaged: an unknown kind.";
+    const auto afterLast = char(std::uint8_t(image::MemberUse::Field) + 1);
+    EXPECT_EQ(with(afterLast, [](auto& member) { member.use = image::MemberUse::Get; }), unknown);
+    EXPECT_EQ(with(4, [](auto& member) { member.isPublic = true; }), unknown);
+    EXPECT_EQ(with(2, [](auto& member) { member.parameters[0].isOptional = false; }), unknown);
 }
 
 TEST(CodeFormat, RefusesDamagedLines) {

@@ -85,6 +85,12 @@ TEST(Listing, ShowsDamagedCode) {
     EXPECT_EQ(instructionOf({encode(Op::LoadText, kT), 999}), "LoadText                s4, ?");
     EXPECT_EQ(instructionOf({encode(Op::LongToText, kT, kL, 99)}), "LongToText              s4, s0, ?");
     EXPECT_EQ(instructionOf({encode(Op::Jump), 0x80000000}), "Jump                    L-2147483648");
+    Program between;
+    between.runs({255, encode(Op::Jump), 0, 255, 254});
+    EXPECT_NE(disassemble(between.code, between.main)
+                  .find("     0  ?\nL1:\n           1  Jump                    L1\n           3  ?\n           4  ?\n"),
+              std::string::npos)
+        << disassemble(between.code, between.main);
     CodeImage code;
     addProcedure(code, {"\x1B[2J"});
     code.procedures[0].code = 7;

@@ -274,6 +274,13 @@ TEST(VerifyTables, RefuseImportsThatTheRuntimeLacks) {
     for (const auto type : {referenceTo(object(1)), referenceTo(record(0))})
         EXPECT_THAT(afterCode([&](auto& c) { c.imports[0].parameters[0] = type; }),
                     testing::Not(testing::HasSubstr("functions of the runtime cannot have")));
+    const auto withParameters = [](std::size_t count) {
+        return afterCode([&](auto& c) {
+            c.imports.push_back({c.imports[0].name, {}, std::vector<image::SlotType>(count, kLong)});
+        });
+    };
+    EXPECT_EQ(withParameters(255), "");
+    EXPECT_THAT(withParameters(256), testing::EndsWith(" has a type that functions of the runtime cannot have"));
     EXPECT_EQ(afterCode([](auto& c) { c.imports[0].result = referenceTo(kText); }),
               "function Left has a type that functions of the runtime cannot have");
     const image::Signature left{kText, {kText, kLong}}, other{kText, {kText, kDouble}}, beep{};
