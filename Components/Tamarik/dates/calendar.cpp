@@ -48,8 +48,6 @@ std::int64_t dayOf(std::int64_t year, std::int64_t month, std::int64_t day) {
     return (sys_days(first) - kDayZero).count() + day - 1;
 }
 
-int daysInMonth(int year, int month) { return static_cast<int>(dayOf(year, month + 1, 1) - dayOf(year, month, 1)); }
-
 bool isInRange(std::int64_t day) { return day >= kFirstDay && day <= kLastDay; }
 
 int weekdayOf(std::int64_t day, int firstDay) {

@@ -46,7 +46,6 @@ YearMonthDay partsOf(std::int64_t day);
 
 /// The number of a day; months and days beyond their range count on from there.
 std::int64_t dayOf(std::int64_t year, std::int64_t month, std::int64_t day);
-int daysInMonth(int year, int month);
 
 /// Whether a day is in the years 100 to 9999.
 bool isInRange(std::int64_t day);

@@ -39,14 +39,7 @@ std::u16string Str(const Decimal96& number);
 inline basic::Double Val(std::u16string_view text) { return basic::Val(basic::asciiOf(text)); }
 inline bool IsNumeric(std::u16string_view text) { return basic::IsNumeric(basic::asciiOf(text)); }
 
-// The conversions of texts, with the errors of Basic's.
-inline bool CBool(std::u16string_view text) { return basic::CBool(basic::asciiOf(text)); }
-inline basic::Byte CByte(std::u16string_view text) { return basic::CByte(basic::asciiOf(text)); }
-inline basic::Integer CInt(std::u16string_view text) { return basic::CInt(basic::asciiOf(text)); }
-inline basic::Long CLng(std::u16string_view text) { return basic::CLng(basic::asciiOf(text)); }
-inline basic::Single CSng(std::u16string_view text) { return basic::CSng(basic::asciiOf(text)); }
-inline basic::Double CDbl(std::u16string_view text) { return basic::CDbl(basic::asciiOf(text)); }
-inline basic::Currency CCur(std::u16string_view text) { return basic::CCur(basic::asciiOf(text)); }
+// With the errors of Basic's conversions.
 inline Decimal96 CDec(std::u16string_view text) { return Decimal96::parse(basic::asciiOf(text)); }
 
 } // namespace tamarik
