@@ -114,10 +114,6 @@ void Collection::free(Heap& heap, Node* node) {
 }
 
 void Collection::releaseMembers(Heap& heap) {
-    start_ = 0;
-    keys_.clear();
-    order_.clear();
-    isOrderValid_ = true;
     items_.clear([&](Node* node) { free(heap, node); });
 }
 
