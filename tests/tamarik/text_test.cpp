@@ -108,6 +108,7 @@ TEST(TamarikText, FindsTexts) {
     EXPECT_EQ(InStr(1, u"abc", u"B"), 0);
     EXPECT_EQ(InStr(1, u"abÉ", u"é", vbTextCompare), 3);
     EXPECT_EQ(InStr(3, u"ÉÉab", u"B", vbTextCompare), 4);
+    EXPECT_EQ(InStr(1, u"éab", u"È", vbTextCompare), 0);
     EXPECT_EQ(InStr(2, u"abc", u""), 2);
     EXPECT_EQ(InStr(4, u"abc", u""), 0);
     EXPECT_EQ(InStr(1, u"", u""), 0);
@@ -142,6 +143,9 @@ TEST(TamarikText, ComparesByUnitOrFolded) {
     EXPECT_EQ(compare(u"a", u"B"), 1);
     EXPECT_EQ(compare(u"a", u"B", vbTextCompare), -1);
     EXPECT_EQ(compare(u"É", u"é", vbTextCompare), 0);
+    EXPECT_EQ(compare(u"é", u"È", vbTextCompare), 1);
+    EXPECT_EQ(compare(u"я", u"Ю", vbTextCompare), 1);
+    EXPECT_EQ(compare(u"日", u"本", vbTextCompare), -1);
     EXPECT_EQ(compare(u"ab", u"abc"), -1);
     EXPECT_EQ(compare(u"\uFFFF", u"😀"), 1); // by unit, not by code point
 }

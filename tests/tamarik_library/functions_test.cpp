@@ -309,6 +309,27 @@ TEST_F(FunctionsTest, KeepSettings) {
     EXPECT_EQ(errorOf("DeleteSetting", {text(u"App"), text(u"Start"), text(u"Left")}), 5);
 }
 
+TEST_F(FunctionsTest, DeleteSectionsAndApplications) {
+    const auto save = [&](std::u16string_view application, std::u16string_view section) {
+        (void)call("SaveSetting", {text(application), text(section), text(u"Key"), text(u"1")});
+    };
+    const auto saved = [&](std::u16string_view application, std::u16string_view section) {
+        return shown(call("GetSetting", {text(application), text(section), text(u"Key"), text(u"none")}));
+    };
+    for (const auto* const section : {u"One", u"Two"}) save(u"App", section);
+    save(u"Other", u"One");
+    (void)call("DeleteSetting", {text(u"app"), text(u"ONE")});
+    EXPECT_EQ(saved(u"App", u"One"), "String none");
+    EXPECT_EQ(saved(u"App", u"Two"), "String 1");
+    EXPECT_EQ(errorOf("DeleteSetting", {text(u"App"), text(u"One")}), 5);
+    EXPECT_EQ(errorOf("DeleteSetting", {text(u"App"), text(u"One"), text(u"Key")}), 5);
+    (void)call("DeleteSetting", {text(u"APP")});
+    EXPECT_EQ(saved(u"App", u"Two"), "String none");
+    EXPECT_EQ(saved(u"Other", u"One"), "String 1");
+    EXPECT_EQ(errorOf("DeleteSetting", {text(u"App")}), 5);
+    EXPECT_EQ(errorOf("DeleteSetting", {text(u"App"), text(u"Two")}), 5);
+}
+
 TEST_F(FunctionsTest, FindVariablesOfTheEnvironment) {
     session.surroundings.environment = {"HOME=/x", "Lang=en=us"};
     session.surroundings.commandLine = "a b";
