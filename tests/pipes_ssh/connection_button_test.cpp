@@ -4,8 +4,12 @@
 #include "tests/pipes_ssh/cutting_proxy.h"
 #include "tests/pipes_ssh/handheld_page.h"
 #include "tests/pipes_ssh/ssh_device.h"
+#include <cerrno>
 #include <chrono>
+#include <csignal>
 #include <fstream>
+#include <sys/resource.h>
+#include <system_error>
 #include <thread>
 
 namespace {
@@ -18,7 +22,8 @@ using testing::HasSubstr;
 class Boxes : public fernwick::Interaction {
 public:
     void showModal(fernwick::Form&) override {}
-    int MsgBox(const std::string& text, int style, const std::string&) override {
+    int MsgBox(const std::string& text, int style, const std::string& title) override {
+        EXPECT_EQ(title, "Fernwick");
         texts.push_back(text);
         styles.push_back(style);
         if (whileShown) whileShown();
@@ -295,6 +300,49 @@ TEST(KnownHostsFile, IsMadeForItsUserOnly) {
     EXPECT_EQ(std::filesystem::status(folder / "new").permissions(), perms::owner_all);
     EXPECT_EQ(std::filesystem::status(folder / "new/known_hosts").permissions(),
               perms::owner_read | perms::owner_write);
+}
+
+TEST(KnownHostsFile, BeginsALineAfterOneWithoutAnEnd) {
+    const test::TempFolder folder;
+    folder.write("known_hosts", "pda ssh-ed25519 AAAA");
+    qlpipe::appendKnownHost(folder / "known_hosts", "pad ssh-ed25519 BBBB");
+    EXPECT_EQ(folder.read("known_hosts"), "pda ssh-ed25519 AAAA\npad ssh-ed25519 BBBB\n");
+}
+
+/// Files of this process cannot grow beyond a size, as on a full disk.
+class FileSizeLimit {
+public:
+    explicit FileSizeLimit(rlim_t size) {
+        ::getrlimit(RLIMIT_FSIZE, &old_);
+        const rlimit limit{size, old_.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FileSizeLimit() {
+        ::setrlimit(RLIMIT_FSIZE, &old_);
+        std::signal(SIGXFSZ, oldHandler_);
+    }
+    FileSizeLimit(const FileSizeLimit&) = delete;
+    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+
+private:
+    void (*oldHandler_)(int) = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit old_{};
+};
+
+TEST(KnownHostsFile, HasNoPartOfALineThatCouldNotBeWritten) {
+    const test::TempFolder folder;
+    const std::string path = folder / "known_hosts", line = "pda ssh-ed25519 AAAA\n";
+    const auto failure = [&](rlim_t limit) {
+        const FileSizeLimit isFull{limit};
+        return test::transferErrorOf([&] { qlpipe::appendKnownHost(path, "pad ssh-ed25519 BBBB"); });
+    };
+    folder.write("known_hosts", line);
+    test::expectError(failure(line.size() + 5), qlpipe::SshMessage::KnownHostsNotWritten,
+                      {path, std::generic_category().message(ENOSPC)});
+    EXPECT_EQ(folder.read("known_hosts"), line);
+    test::expectError(failure(line.size()), qlpipe::SshMessage::KnownHostsNotWritten,
+                      {path, std::generic_category().message(EFBIG)});
+    EXPECT_EQ(folder.read("known_hosts"), line);
 }
 
 } // namespace
