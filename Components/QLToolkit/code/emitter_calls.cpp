@@ -44,7 +44,8 @@ Value Emitter::call(const Callable& callable, const Span<Argument>& given, const
                     const Value* assigned) {
     std::vector<PassedArgument> list;
     const Scope& owner = *entity.owner;
-    const bool isInterface = object && layout_.isInterface(owner.number);
+    const bool isOwn = object && object->slot == me_; // Me is of exactly this class
+    const bool isInterface = object && !isOwn && layout_.isInterface(owner.number);
     if (object) {
         Value self = isInterface ? checkClass(*object, {ValueType::Object}) : *object;
         self.isTemporary = false;
@@ -73,7 +74,7 @@ Value Emitter::call(const Callable& callable, const Span<Argument>& given, const
         out_.emit(Op::CallInterface, slot, 0, count);
         out_.extra(layout_.classOf(owner.number) | memberNumber(entity, callable) << 16);
     } else {
-        out_.emit(object && object->slot != me_ ? Op::CallMethod : Op::Call, slot, 0, count);
+        out_.emit(object && !isOwn ? Op::CallMethod : Op::Call, slot, 0, count);
         out_.extra(callable.number);
     }
     words(list);
