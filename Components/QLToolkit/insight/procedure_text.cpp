@@ -8,7 +8,7 @@ namespace {
 
 std::string_view takeWord(std::string_view& line) {
     line.remove_prefix(std::min(line.find_first_not_of(" \t"), line.size()));
-    const auto word = line.substr(0, line.find_first_of(" \t\r(:'"));
+    const auto word = line.substr(0, line.find_first_of(" \t\r\n(:'"));
     line.remove_prefix(word.size());
     return word;
 }
