@@ -91,6 +91,24 @@ TEST_F(Completion, OffersStatementsWhereOneBegins) {
     EXPECT_FALSE(program.offers("|", "While"));
 }
 
+TEST_F(Completion, OffersEveryWordThatBeginsAStatement) {
+    for (const auto* word :
+         {"Call",       "Case",   "Close",  "Const",  "Dim",   "Do",    "Else",       "ElseIf",     "End",
+          "Erase",      "Exit",   "For",    "Get",    "GoSub", "GoTo",  "If",         "Input",      "Let",
+          "Lock",       "Loop",   "LSet",   "Name",   "Next",  "Open",  "On Error",   "Print",      "Put",
+          "RaiseEvent", "ReDim",  "Resume", "Return", "RSet",  "Seek",  "Static",     "Set",        "Stop",
+          "Wend",       "Unlock", "Width",  "While",  "With",  "Write", "Line Input", "Select Case"})
+        EXPECT_TRUE(program.offers(in("  |"), word)) << word;
+    for (const auto* word :
+         {"Const", "Declare", "Dim", "Enum", "Event", "Friend", "Function", "Implements", "Option Base",
+          "Option Compare", "Option Explicit", "Private", "Property", "Public", "Sub", "Type", "WithEvents"})
+        EXPECT_TRUE(program.offers("|", word)) << word;
+    for (const auto* word : {"AddressOf", "And", "Empty", "False", "Is", "Like", "Mod", "New", "Not", "Nothing", "Null",
+                             "Or", "True", "TypeOf", "Xor"})
+        EXPECT_TRUE(program.offers(in("  x = |"), word)) << word;
+    EXPECT_FALSE(program.offers(in("  x = |"), "Me"));
+}
+
 TEST_F(Completion, OffersTypesAfterAs) {
     for (const auto* text : {"  Dim x As |", "  Static a As Long, b As |"}) {
         for (const auto* name : {"Long", "Person", "Fruit", "Point", "Collection", "VBA", "Form1"})
@@ -118,7 +136,8 @@ TEST_F(Completion, OffersTheValuesOfAnEnumeration) {
 }
 
 TEST_F(Completion, OffersNothingInTextsAndForNewNames) {
-    for (const auto* text : {"  x = \"p.|", "  ' p.|", "  Rem x |", "  x = 12|", "  Dim |", "  Dim a, |", "  Const c|"})
+    for (const auto* text : {"  x = \"p.|", "  ' p.|", "  Rem x |", "  x = 12|", "  x = &HFF|", "  x = &h1f|",
+                             "  x = 1.5|", "  Dim |", "  Dim a, |", "  Const c|"})
         EXPECT_EQ(program.offer(in(text)).kind, OfferKind::Nothing) << text;
 }
 

@@ -37,6 +37,8 @@ const MessageCase kCases[] = {
     {2005, "Sub A(x)\nDim x\nEnd Sub", "2:5", "Dim x\nSub A(y)\nDim x\nEnd Sub"},
     {2006, "Sub A()\nGoTo There\nHere:\nEnd Sub", "2:6", "Sub A()\nGoTo Here\nHere:\nEnd Sub"},
     {2006, "Sub A()\nOn Error GoTo 20\n10 Beep\nEnd Sub", "2:15", "Sub A()\nOn Error GoTo 10\n10 Beep\nEnd Sub"},
+    {2006, "Sub A()\nHere:\nEnd Sub\nSub B()\nGoTo Here\nEnd Sub", "5:6",
+     "Sub A()\nHere:\nEnd Sub\nSub B()\nGoTo Here\nHere:\nEnd Sub"},
     {2007, "Sub A()\nHere:\nIf True Then\nHere:\nEnd If\nEnd Sub", "4:1",
      "Sub A()\nHere:\nEnd Sub\nSub B()\nHere:\nEnd Sub"},
     {2008, "Sub A()\nDim x\nx = Module1\nEnd Sub", "3:5", "Public y\nSub A()\nDim x\nx = Module1.y\nEnd Sub"},
@@ -66,6 +68,9 @@ const MessageCase kCases[] = {
     {2111, "Sub A()\nDim c As Collection\nc = Nothing\nEnd Sub", "3:5",
      "Sub A()\nDim c As Collection\nSet c = Nothing\nEnd Sub"},
     {2112, "Sub A()\nDim n As Long\nn.Go\nEnd Sub", "3:1", "Sub A()\nDim n As Object\nn.Go\nEnd Sub"},
+    {2112, "Sub A()\nDim n As Long\nn!Go = 1\nEnd Sub", "3:1", "Sub A()\nDim n As Object\nn!Go = 1\nEnd Sub"},
+    {2112, "Sub A()\nDim s As String, x\nx = s!Go\nEnd Sub", "3:5", "Sub A()\nDim s, x\nx = s!Go\nEnd Sub"},
+    {2112, "Sub A()\nDim v(3), x\nx = v!Go\nEnd Sub", "3:5", "Sub A()\nDim v(3), x\nx = v(1)!Go\nEnd Sub"},
     {2113, "Private Type P\n  X As Long\nEnd Type\nSub A()\nDim a As P, v\nv = a\nEnd Sub", "6:5",
      "Private Type P\n  X As Long\nEnd Type\nSub A()\nDim a As P, b As P\nb = a\nEnd Sub"},
     {2114, "Sub A()\nDim n As Long, c As Collection\nFor Each n In c\nNext\nEnd Sub", "3:10",
@@ -214,6 +219,31 @@ TEST(NameMessages, AClassOfALibraryThatDevicesLackIsReportedOnceAPlace) {
     EXPECT_THAT(program.messages(), ElementsAre("1:16 2803", "3:12 2803", "5:15 2803"));
     EXPECT_EQ(program.results()[0].diagnostics[0].text, "ADODB.Recordset is not available on devices.");
     EXPECT_THAT(program.results()[0].diagnostics[0].instead, testing::StartsWith("Use QLDatabase"));
+}
+
+TEST(NameMessages, WhatPrintsIsExplainedAsPrinting) {
+    const auto lackIn = [](const std::string& code) {
+        test::CheckedProgram program;
+        program.options.warnsOfDevices = true;
+        program.add("Form1.frm", code);
+        const auto results = program.results();
+        return results[0].diagnostics.empty() ? qltoolkit::Lack::None : results[0].diagnostics[0].lack;
+    };
+    using qltoolkit::Lack;
+    EXPECT_EQ(lackIn("Sub A()\nPrinter.EndDoc\nEnd Sub\n"), Lack::Printing);
+    EXPECT_EQ(lackIn("Sub A()\nDim n\nn = Printers.Count\nEnd Sub\n"), Lack::Printing);
+    EXPECT_EQ(lackIn("Sub A()\nMe.PrintForm\nEnd Sub\n"), Lack::Printing);
+    EXPECT_EQ(lackIn("Sub A(x As Printer)\nEnd Sub\n"), Lack::Printing);
+    EXPECT_EQ(lackIn("Sub A(x As Printers)\nEnd Sub\n"), Lack::Printing);
+    EXPECT_EQ(lackIn("Sub A()\nShell \"a\"\nEnd Sub\n"), Lack::Function);
+}
+
+TEST(NameMessages, NullHasNoValueOfAnotherType) {
+    const auto messages = [](const std::string& call) { return test::messagesOf("Const c = " + call); };
+    for (const auto* const name : {"CBool", "CByte", "CCur", "CDate", "CDbl", "CInt", "CLng", "CSng", "CStr"})
+        EXPECT_THAT(messages(name + std::string("(Null)")), testing::SizeIs(1)) << name;
+    for (const auto* const name : {"Abs", "CVar", "Fix", "Int", "Len", "LenB", "Sgn"})
+        EXPECT_THAT(messages(name + std::string("(Null)")), IsEmpty()) << name;
 }
 
 TEST(NameMessages, WhatHasNoValueIsNamed) {

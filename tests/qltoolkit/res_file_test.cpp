@@ -48,6 +48,10 @@ TEST(ReadResources, RefusesOtherFiles) {
     // The entry of a file of 16 bits has no head like that of 32 bits.
     const std::string bytes = ResBytes().add("#10", "#1", "abc").bytes();
     EXPECT_EQ(reasonOf(bytes.substr(32)), "it is not a resource file of 32 bits");
+    const std::string noData = ResBytes().add("#10", "#1", "").bytes();
+    EXPECT_EQ(reasonOf(noData.substr(32)), "it is not a resource file of 32 bits");
+    const std::string noType = ResBytes().add("#0", "#0", "abc").bytes();
+    EXPECT_EQ(reasonOf(noType.substr(32)), "it is not a resource file of 32 bits");
 }
 
 TEST(ReadResources, RefusesAFileThatIsCutOffAnywhere) {

@@ -136,6 +136,15 @@ TEST(FailedRead, ReportsWhatTheFileIs) {
     EXPECT_EQ(diagnostic("/dev/null").number, 1001);
 }
 
+TEST(CheckSource, RefusesBytesThatAreTooMany) {
+    const auto numberOf = [](std::size_t size) {
+        const auto result = qltoolkit::checkSource("M.bas", std::string(size, '\n'));
+        return result.diagnostics.empty() ? 0 : result.diagnostics[0].number;
+    };
+    EXPECT_EQ(numberOf(1000), 0);
+    EXPECT_EQ(numberOf(qltoolkit::kMaxSourceBytes + 1), 1003);
+}
+
 TEST(TypographicMarks, AreBlanksQuotationMarksAndPunctuation) {
     const auto isMark = [](char32_t c) {
         const char utf8[] = {char(0xE0 | c >> 12), char(0x80 | (c >> 6 & 0x3F)), char(0x80 | (c & 0x3F))};
