@@ -121,6 +121,43 @@ TEST_F(Calls, CountWhatFunctionsCopy) {
     EXPECT_EQ(machine.run(1000000), RunState::StoppedByBudget); // before the sum of the rounds overflows
 }
 
+TEST_F(Calls, CountTextsThatFunctionsMake) {
+    const auto lower = import("LCase$", kTextSlot, std::vector{kTextSlot});
+    const auto space = import("Space$", kTextSlot, std::vector{kLongSlot});
+    auto& main = procedure("Main");
+    const auto again = main.label();
+    const auto n = main.add(kLongSlot), text = main.add(kTextSlot), made = main.add(kTextSlot),
+               rounds = main.add(kLongSlot);
+    main.wide(Op::LoadShort, n, 32767).call(Op::CallNative, space, text, {{Pass::Number, n}}).here(again);
+    main.op(Op::AddLong, rounds, rounds, n);
+    main.call(Op::CallNative, lower, made, {{Pass::Text, text}}).jump(Op::Jump, again);
+    Machine machine(build(), standardNatives(), {});
+    machine.start();
+    EXPECT_EQ(machine.run(1000000), RunState::StoppedByBudget); // before the sum of the rounds overflows
+}
+
+TEST_F(Calls, ContinueWhereTheBudgetEndedAndNotAfterTheEnd) {
+    auto& main = procedure("Main");
+    const auto counter = global(kLongSlot);
+    const auto n = main.add(kLongSlot);
+    const auto again = main.label();
+    main.here(again).op(Op::AddLongK, n, n, 1).op1(Op::StoreGlobal, counter, n);
+    main.jump(Op::JumpLessLongK, again, n, 100).op(Op::Return);
+    const auto program = build();
+    for (const bool usesSwitch : {false, true}) {
+        MachineOptions options;
+        options.usesSwitch = usesSwitch;
+        Machine machine(program, standardNatives(), options);
+        machine.start();
+        int parts = 1;
+        for (; machine.run(50) == RunState::StoppedByBudget; ++parts) ASSERT_LT(parts, 100);
+        EXPECT_GT(parts, 2);
+        EXPECT_EQ(machine.globals()[counter].number, 100);
+        EXPECT_EQ(machine.run(50), RunState::Finished);
+        EXPECT_EQ(machine.globals()[counter].number, 100);
+    }
+}
+
 TEST_F(Calls, StopALoopOfErrorsToo) {
     auto& main = procedure("Main");
     const auto trap = main.label(), again = main.label();

@@ -128,6 +128,19 @@ TEST_F(Errors, OfALoopThatWasEnteredByAJump) {
     EXPECT_EQ(run().number, 92);
 }
 
+TEST(RunErrorText, ShowsThePlaceAndTheCallers) {
+    RunError error{9, "Subscript out of range", "", {}};
+    EXPECT_EQ(textOf(error), "run-time error 9: Subscript out of range");
+    error.callers = {{"a.bas", "Inner", 5}};
+    EXPECT_EQ(textOf(error), "a.bas:5: run-time error 9: Subscript out of range\n  in Inner");
+    error.callers.push_back({"b.bas", "Main", 12});
+    EXPECT_EQ(
+        textOf(error, [](const std::string& file) { return "folder/" + file; }),
+        "folder/a.bas:5: run-time error 9: Subscript out of range\n  in Inner\n  called by Main (folder/b.bas:12)");
+    const RunError stopped{RunError::kStopped, "Stopped\nby\x1B[2J", "", {}};
+    EXPECT_EQ(textOf(stopped), "Stopped\\nby\\u001B[2J");
+}
+
 TEST_F(Errors, AreReadFromTheErrObject) {
     const auto err = import("Err", kAnySlot, std::vector<SlotType>());
     const auto object = main.add(kAnySlot), v = main.add(kVariantSlot);
