@@ -12,7 +12,6 @@ std::uint16_t valueOf(const std::uint16_t (&blocks)[kBlockCount], unsigned numbe
 
 char32_t CodePageTable::next(std::string_view bytes, std::size_t& at) const noexcept {
     const auto lead = static_cast<unsigned char>(bytes[at++]);
-    if (lead < 0x80) return lead;
     if (const auto alone = valueOf(characterBlocks, lead)) return alone;
     if (at < bytes.size()) {
         const auto trail = static_cast<unsigned char>(bytes[at]);

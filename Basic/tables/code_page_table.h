@@ -24,7 +24,7 @@ struct CodePageTable {
     std::uint16_t characterBlocks[kBlockCount]; ///< by the first bits of a byte, or of lead * 100 + trail
     std::uint16_t byteBlocks[kBlockCount];      ///< by the first bits of a character
 
-    /// Returns the character at byte `at` and advances `at`.
+    /// Returns the character at byte `at`, which is not an ASCII one, and advances `at`.
     char32_t next(std::string_view bytes, std::size_t& at) const noexcept;
 
     /// Appends the bytes of a character. Returns false if the page lacks it.
