@@ -43,7 +43,10 @@ Places aligned(Arrangement how, const Arranged& controls, const QPointF& step) {
 
 Places onTheGrid(const Arranged& controls, const SnapGrid& grid) {
     Places places;
-    for (const auto& control : controls) places.push_back(pulled(control.place, Grip::None, {}, grid, false));
+    for (const auto& control : controls) {
+        places.push_back(control.place);
+        places.back().moveTopLeft(onGrid(control.place.topLeft(), grid));
+    }
     return places;
 }
 

@@ -41,7 +41,7 @@ struct ArrangementSpace {
     QRectF inner;
     SnapGrid grid;
     /// The smallest steps across and down, in pixels: a centre between two steps is rounded.
-    QPointF step{1, 1};
+    QPointF step;
 };
 
 /// The number of controls that an arrangement needs.

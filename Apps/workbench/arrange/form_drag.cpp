@@ -47,7 +47,8 @@ void FormDrag::moveTo(const QPointF& at) {
 
 /// All move by the leader's steps on the grid.
 void FormDrag::moveAll(const QPointF& by) {
-    const auto step = pulled(before_.back(), Grip::None, by, grid_, false).topLeft() - before_.back().topLeft();
+    const auto from = before_.back().topLeft();
+    const auto step = onGrid(from + by, grid_) - from;
     for (std::size_t i = 0; i < now_.size(); ++i) now_[i] = before_[i].translated(step);
 }
 

@@ -57,10 +57,6 @@ Qt::CursorShape cursorOf(Grip grip) {
 
 QRectF pulled(const QRectF& place, Grip grip, const QPointF& by, const SnapGrid& grid, bool isLine) {
     auto now = place;
-    if (grip == Grip::None) {
-        now.moveTopLeft(onGrid(place.topLeft() + by, grid));
-        return now;
-    }
     if (isLeft(grip)) now.setLeft(alongX(place.left() + by.x(), grid));
     if (isRight(grip)) now.setRight(alongX(place.right() + by.x(), grid));
     if (isTop(grip)) now.setTop(alongY(place.top() + by.y(), grid));

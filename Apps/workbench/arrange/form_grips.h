@@ -37,8 +37,8 @@ struct SnapGrid {
 
 QPointF onGrid(const QPointF& point, const SnapGrid& grid);
 
-/// Returns the place after a grip, or with Grip::None the whole place, was dragged by `by`. Edges that move snap to the
-/// grid. A size does not become negative, except for lines.
+/// Returns the place after a grip was dragged by `by`. Edges that move snap to the grid. A size does not become negative,
+/// except for lines.
 QRectF pulled(const QRectF& place, Grip grip, const QPointF& by, const SnapGrid& grid, bool isLine);
 
 } // namespace workbench

@@ -17,16 +17,15 @@ double smallestStep(double pixelsPerUnit) {
 ArrangementSpace spaceOf(const FormView& view) {
     const auto& leader = *view.drawnSelection();
     const auto& form = view.picture();
-    ArrangementSpace space;
-    space.inner = QRectF({}, form.inner);
+    QRectF inner({}, form.inner);
     if (leader.container >= 0) {
         const auto& around = form.controls[std::size_t(leader.container)].place;
         const auto border = leader.origin - around.topLeft();
-        space.inner = around.adjusted(border.x(), border.y(), -border.x(), -border.y());
+        inner = around.adjusted(border.x(), border.y(), -border.x(), -border.y());
     }
-    space.grid = {leader.origin, view.callbacks().grid().pixels};
-    space.step = {smallestStep(leader.unitX), smallestStep(leader.unitY)};
-    return space;
+    return {inner,
+            {leader.origin, view.callbacks().grid().pixels},
+            {smallestStep(leader.unitX), smallestStep(leader.unitY)}};
 }
 
 std::vector<ArrangedControl> controlsOf(const FormView& view) {
