@@ -22,15 +22,19 @@ QString fileOf(const QString& project) {
     return folder() + "/" + QString::fromLatin1(hash);
 }
 
+/// The lines above the breakpoints.
+QString headOf(const QString& project) { return QString("%1\n%2\n").arg(kHeader, project); }
+
 } // namespace
 
 Breakpoints readBreakpoints(const QString& project) {
     QFile file(fileOf(project));
     if (!file.open(QIODevice::ReadOnly) || file.size() > kMostBytes) return {};
-    const auto lines = QString::fromUtf8(file.readAll()).split('\n');
-    if (lines.size() < 2 || lines[0] != kHeader || lines[1] != project) return {};
+    const auto whole = QString::fromUtf8(file.readAll());
+    const auto head = headOf(project);
+    if (!whole.startsWith(head)) return {};
     Breakpoints found;
-    for (const auto& line : lines.mid(2)) {
+    for (const auto& line : whole.mid(head.size()).split('\n')) {
         const auto fields = line.split('\t');
         bool isNumber = false;
         const int number = fields.size() < 3 ? 0 : fields[1].toInt(&isNumber);
@@ -41,7 +45,7 @@ Breakpoints readBreakpoints(const QString& project) {
 }
 
 void writeBreakpoints(const QString& project, const Breakpoints& breakpoints) {
-    auto whole = QString("%1\n%2\n").arg(kHeader, project);
+    auto whole = headOf(project);
     bool any = false;
     for (const auto& [component, marks] : breakpoints)
         for (const auto& mark : marks) {
