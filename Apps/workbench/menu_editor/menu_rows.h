@@ -17,7 +17,6 @@ public:
 
     std::size_t count() const { return rows_.size(); }
     host::FormMenu& at(std::size_t row) { return rows_[row]; }
-    const host::FormMenu& at(std::size_t row) const { return rows_[row]; }
     /// The row as the list shows it: dots for its level, its caption and its shortcut.
     QString shown(std::size_t row) const;
 

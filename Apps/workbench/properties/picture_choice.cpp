@@ -37,7 +37,7 @@ QLabel* addPreview(QFileDialog& dialog) {
     label->setAccessibleName("Preview");
     label->setAlignment(Qt::AlignCenter);
     label->setFrameShape(QFrame::StyledPanel); // an empty one shows where the picture will be
-    label->setFixedWidth(kPreviewSize + 2 * label->frameWidth() + 2 * label->margin());
+    label->setFixedWidth(kPreviewSize + 2 * label->frameWidth());
     label->setMinimumHeight(kPreviewSize);
     label->setWordWrap(true);
     if (auto* grid = dynamic_cast<QGridLayout*>(dialog.layout())) grid->addWidget(label, 1, grid->columnCount());
