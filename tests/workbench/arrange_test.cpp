@@ -68,6 +68,36 @@ TEST(Arrangements, SpaceInTheOrderOfTheirPlaces) {
                 ElementsAre(QRectF(0, 30, 10, 10), QRectF(0, 10, 10, 20)));
 }
 
+TEST(Arrangements, GapsBetweenSeveralControlsBecomeEqual) {
+    const std::vector<QRectF> places{{0, 0, 20, 10}, {30, 0, 10, 10}, {31, 0, 30, 10}, {90, 0, 10, 10}};
+    EXPECT_THAT(of(Arrangement::EqualSpaceAcross, places),
+                ElementsAre(places[0], QRectF(30, 0, 10, 10), QRectF(50, 0, 30, 10), places[3]));
+}
+
+TEST(Arrangements, SpaceDownAsAcross) {
+    const auto turned = [](std::vector<QRectF> places) {
+        for (auto& place : places) place = QRectF(place.y(), place.x(), place.height(), place.width());
+        return places;
+    };
+    const std::vector<QRectF> places{{60, 3, 10, 15}, {0, 0, 20, 10}, {24, 9, 7, 10}, {90, 5, 10, 20}};
+    for (const auto& [across, down] : {std::pair(Arrangement::EqualSpaceAcross, Arrangement::EqualSpaceDown),
+                                       {Arrangement::MoreSpaceAcross, Arrangement::MoreSpaceDown},
+                                       {Arrangement::LessSpaceAcross, Arrangement::LessSpaceDown},
+                                       {Arrangement::NoSpaceAcross, Arrangement::NoSpaceDown}}) {
+        EXPECT_NE(of(across, places), places);
+        EXPECT_EQ(of(down, turned(places)), turned(of(across, places))) << int(down);
+    }
+}
+
+TEST(Arrangements, CentresAreRoundedToTheStep) {
+    const auto inSteps = [](Arrangement how, const std::vector<QRectF>& places) {
+        return arranged(how, {{places[0]}, {places[1]}}, {QRectF(0, 0, 200, 100), {{0, 0}, 8}, {0.5, 4}}).front();
+    };
+    const std::vector<QRectF> places{{0, 0, 10, 10}, {50.3, 41, 40, 20}};
+    EXPECT_EQ(inSteps(Arrangement::AlignCentres, places), QRectF(65.5, 0, 10, 10));
+    EXPECT_EQ(inSteps(Arrangement::AlignMiddles, places), QRectF(0, 48, 10, 10));
+}
+
 TEST(Arrangements, CentreAllTogether) {
     EXPECT_THAT(of(Arrangement::CentreAcross, {{0, 0, 20, 10}, {30, 50, 10, 10}}),
                 ElementsAre(QRectF(80, 0, 20, 10), QRectF(110, 50, 10, 10)));
