@@ -161,6 +161,25 @@ TEST_F(Marks, BreakpointsSurviveClosingAndChangesByOthers) {
     EXPECT_THAT(breakpoints(), ElementsAre(7));
 }
 
+TEST(PlacedMarks, MoveToTheNearestLineWithTheirText) {
+    const QStringList text{"a", "b", " a ", "c", "b"};
+    for (const auto& [line, of, found] : {std::tuple(2, "a", 2),
+                                          {0, "a", 0},
+                                          {1, "a", 2}, // as near as line 0
+                                          {3, "b", 4},
+                                          {2, "b", 1},
+                                          {4, "a", 2},
+                                          {0, "c", 3},
+                                          {9, "b", 4},
+                                          {9, "c", 3},
+                                          {4, "x", -1},
+                                          {4, "", -1}})
+        EXPECT_EQ(workbench::lineOf({line, of}, text), found) << line << " " << of;
+    EXPECT_EQ(workbench::lineOf({4, "first"}, {"first", "", "", "", ""}), 0);
+    EXPECT_EQ(workbench::lineOf({0, "last"}, {"", "", "", "", "last"}), 4);
+    EXPECT_THAT(workbench::linesOf({{4, "a"}, {0, "x"}, {0, "c"}}, text), ElementsAre(2, 3));
+}
+
 TEST_F(Marks, ABreakpointIsRemovedWithItsStatement) {
     marks().toggleBreakpoint(5);
     text->insertAt("' ", 5, 0);
@@ -236,6 +255,15 @@ TEST_F(Marks, ALongProcedureGetsItsLevelsWhenTheLoopTurns) {
     settle();
     EXPECT_EQ(text->SendScintilla(QsciScintilla::SCI_GETFOLDLEVEL, 2000) & QsciScintilla::SC_FOLDLEVELNUMBERMASK,
               QsciScintilla::SC_FOLDLEVELBASE + 3);
+}
+
+TEST_F(Marks, TheTextBeginsAfterTheMargins) {
+    const auto gap = text->SendScintilla(QsciScintilla::SCI_GETMARGINLEFT);
+    for (const int margin : {1, 2, 3}) {
+        text->setMarginWidth(margin, text->marginWidth(margin) + 7);
+        EXPECT_EQ(workbench::marginsWidth(*text) + gap,
+                  text->SendScintilla(QsciScintilla::SCI_POINTXFROMPOSITION, 0UL, 0L));
+    }
 }
 
 TEST_F(Marks, LinesAreDrawnBetweenProcedures) {
