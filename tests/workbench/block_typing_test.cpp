@@ -74,6 +74,18 @@ TEST_F(BlockTyping, TheEndOfAnOuterBlockIsNotTheEndOfAnInnerOne) {
     EXPECT_EQ(now(), "Sub a()\n    If x Then\n        If y Then\n            |\n        End If\n    End If\nEnd Sub");
 }
 
+TEST_F(BlockTyping, TheEndOfAnInnerBlockIsNotThatOfAnOuterOne) {
+    edit("Sub a()\n    If x Then\n        If y Then|\n            Beep\n        End If\nEnd Sub\n");
+    enter();
+    EXPECT_EQ(now(),
+              "Sub a()\n    If x Then\n        If y Then\n            |\n            Beep\n        End If\nEnd Sub");
+    edit("Sub a()\n    If x Then|\n        If y Then\n            Beep\n        End If\nEnd Sub\n");
+    enter();
+    EXPECT_EQ(now(),
+              "Sub a()\n    If x Then\n        |\n    End If\n        If y Then\n            Beep\n        End If\n"
+              "End Sub");
+}
+
 TEST_F(BlockTyping, SingleLinesStringsAndCommentsOpenNothing) {
     for (const char* line : {"If x Then Beep", "' If x Then", "s = \"For i", "For i = 1 To 2: Next", "x = 1"}) {
         edit(std::string("Sub a()\n  ") + line + "|\nEnd Sub\n");
