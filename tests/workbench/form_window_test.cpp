@@ -1,5 +1,6 @@
 #include "Add-in/core/connect/Modules.h"
 #include "Apps/workbench/bridge/form_window.h"
+#include "Apps/workbench/bridge/list_binding.h"
 #include "Apps/workbench/bridge/moving_picture.h"
 #include "Apps/workbench/bridge/qt_user.h"
 #include "tests/support/fake_targets.h"
@@ -7,6 +8,7 @@
 #include "tests/workbench/desktop_world.h"
 #include "tests/workbench/window_words.h"
 #include <QCheckBox>
+#include <QComboBox>
 #include <QFile>
 #include <QLabel>
 #include <QListWidget>
@@ -253,6 +255,32 @@ TEST_F(Forms, RowsFollowTheModel) {
     form.ShowModal();
 }
 
+TEST(ComboBoxes, FollowTheModelAndTheUser) {
+    ComboBox model{nullptr, "cboLevel"};
+    model.AddItem("one");
+    QComboBox widget;
+    workbench::Binding binding{[](std::exception_ptr) {}};
+    workbench::bindComboBox(model, widget, binding);
+    const auto rows = [&] {
+        QStringList all;
+        for (int row = 0; row < widget.count(); ++row) all << widget.itemText(row);
+        return all;
+    };
+    EXPECT_EQ(rows(), QStringList{"one"});
+    EXPECT_EQ(widget.currentIndex(), -1);
+    model.AddItem("two");
+    EXPECT_EQ(rows(), (QStringList{"one", "two"}));
+    model.ListIndex(1);
+    EXPECT_EQ(widget.currentText(), "two");
+    Q_EMIT widget.activated(0);
+    EXPECT_EQ(model.ListIndex(), 0);
+    EXPECT_EQ(widget.currentText(), "one");
+    model.RemoveItem(0);
+    EXPECT_EQ(rows(), QStringList{"two"});
+    model.Clear();
+    EXPECT_EQ(widget.count(), 0);
+}
+
 namespace {
 
 /// A progress form that does its work in its first Activate.
@@ -371,4 +399,31 @@ TEST(MovingPicture, ReadsAnAnimationAndRefusesAnythingElse) {
     EXPECT_LT(workbench::framesOf(bytes.left(20000)).size(), 12u);
     for (const auto& other : {QByteArray(), QByteArray("RIFF"), QByteArray(40, 'x'), bytes.left(300)})
         EXPECT_TRUE(workbench::framesOf(other).empty());
+}
+
+TEST(MovingPicture, PlaysAsOftenAsItIsAskedTo) {
+    QFile film(FERNWICK_SOURCE_DIR "/installation/VB Toolkit/Bin/QLCOMPILE.AVI");
+    ASSERT_TRUE(film.open(QIODevice::ReadOnly));
+    const test::TempFolder folder;
+    const auto bytes = film.readAll().left(20000);
+    folder.write("short.avi", bytes.toStdString());
+    const auto frames = workbench::framesOf(bytes);
+    ASSERT_GE(frames.size(), 2u);
+    workbench::MovingPicture picture(nullptr);
+    picture.open(QString::fromStdString(folder / "short.avi"));
+    const auto changesFor = [&](int milliseconds) {
+        const auto before = picture.pixmap().cacheKey();
+        return QTest::qWaitFor([&] { return picture.pixmap().cacheKey() != before; }, milliseconds);
+    };
+    const int once = 100 * int(frames.size());
+    EXPECT_FALSE(changesFor(250)); // not before it is played
+    picture.play(1);
+    EXPECT_TRUE(changesFor(once));
+    QTest::qWait(once);
+    EXPECT_FALSE(changesFor(250));
+    picture.play(-1);
+    QTest::qWait(once);
+    EXPECT_TRUE(changesFor(1000));
+    picture.play(0);
+    EXPECT_FALSE(changesFor(250));
 }
