@@ -166,6 +166,13 @@ TEST_F(DesktopUser, TheDesktopsClipboardChangesWhenTheLoopTurns) {
     EXPECT_EQ(QGuiApplication::clipboard()->text(), "a");
 }
 
+TEST_F(DesktopUser, TheDesktopsClipboardIsCleared) {
+    QGuiApplication::clipboard()->setText("copied elsewhere");
+    clipboard.Clear();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), "");
+}
+
 TEST_F(DesktopUser, ARestoredClipboardIsNotTouched) {
     QGuiApplication::clipboard()->setText("copied elsewhere");
     int changes = 0;
