@@ -2,7 +2,13 @@
 #include "Apps/workbench/menu_editor/menu_editor.h"
 #include "Host/model/host.h"
 #include "tests/workbench/designer_desktop.h"
+#include "tests/workbench/recorded_paint.h"
 #include "tests/workbench/window_words.h"
+#include <QAbstractItemDelegate>
+#include <QLabel>
+#include <QPainter>
+#include <QStyleOption>
+
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
@@ -130,6 +136,7 @@ TEST_F(MenuEditing, OnlyChangedLinesAreWritten) {
         EXPECT_EQ(in<QComboBox>(dialog, "shortcut").currentText(), "Ctrl+O");
         field(dialog, "helpContextId").setText("12");
         field(dialog, "caption").setText("&Open...");
+        EXPECT_EQ(listed(dialog), (QStringList{"&File", "····&Open...\tCtrl+O"}));
         dialog.accept();
     });
     EXPECT_EQ(changes(), "-         Caption         =   \"&Open\"\n"
@@ -250,6 +257,50 @@ TEST_F(MenuEditing, HasItsWords) {
     openForm(kFile);
     edit([](Editor& dialog) {
         test::expectWords(dialog, "menu_editor");
+        dialog.reject();
+    });
+}
+
+TEST_F(MenuEditing, ARowHasItsCaptionOnceAndItsKey) {
+    openForm(kFile);
+    edit([](Editor& dialog) {
+        const auto& list = in<QListWidget>(dialog, "menus");
+        const auto textsOf = [&](int row) {
+            test::RecordedPaint paint;
+            QPainter painter(&paint);
+            QStyleOptionViewItem option;
+            option.widget = &list;
+            option.rect = QRect(0, 0, 300, 20);
+            list.itemDelegate()->paint(&painter, option, list.model()->index(row, 0));
+            painter.end();
+            QStringList texts;
+            for (const auto& line : QString::fromStdString(paint.lines()).split('\n'))
+                if (line.startsWith("text ")) texts << line.mid(5).section(',', 0, 0);
+            return texts;
+        };
+        EXPECT_EQ(textsOf(0), QStringList{"&File"});
+        EXPECT_EQ(textsOf(1), (QStringList{"····&Open", "Ctrl+O"}));
+        dialog.reject();
+    });
+}
+
+TEST_F(MenuEditing, FieldsAreBesideTheirLabels) {
+    openForm(kFile);
+    edit([](Editor& dialog) {
+        std::vector<QRect> places;
+        const auto add = [&](const QWidget& widget) {
+            const QRect place(widget.mapTo(&dialog, QPoint()), widget.size());
+            for (const auto& other : places) EXPECT_FALSE(place.intersects(other)) << widget.objectName().toStdString();
+            places.push_back(place);
+            return place;
+        };
+        for (const auto* label : dialog.findChildren<QLabel*>()) {
+            if (!label->buddy()) continue;
+            const auto text = add(*label), field = add(*label->buddy());
+            EXPECT_GT(field.left(), text.right()) << label->text().toStdString();
+            EXPECT_TRUE(field.top() < text.center().y() && text.center().y() < field.bottom());
+        }
+        EXPECT_EQ(places.size(), 12u);
         dialog.reject();
     });
 }
