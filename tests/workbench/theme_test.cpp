@@ -122,6 +122,29 @@ TEST_P(Themes, TheRowWithTheFocusIsMarked) {
     EXPECT_GE(most, kForEdges);
 }
 
+TEST_P(Themes, OnlyTickedBoxesHaveAMark) {
+    const auto inkOf = [&](QStyle::State state) {
+        QStyleOptionButton option;
+        option.rect = QRect(0, 0, 20, 20);
+        option.palette = palette;
+        option.state = QStyle::State_Enabled | state;
+        QImage image(20, 20, QImage::Format_RGB32);
+        image.fill(palette.color(QPalette::Window));
+        QPainter painter(&image);
+        QApplication::style()->drawPrimitive(QStyle::PE_IndicatorCheckBox, &option, &painter);
+        painter.end();
+        int count = 0;
+        for (int at = 0; at < 12 * 12; ++at)
+            count += image.pixelColor(4 + at % 12, 4 + at / 12) != palette.color(QPalette::Base);
+        return count;
+    };
+    EXPECT_EQ(inkOf(QStyle::State_Off), 0);
+    const int ticked = inkOf(QStyle::State_On), partly = inkOf(QStyle::State_NoChange);
+    EXPECT_GT(ticked, 10);
+    EXPECT_EQ(partly, 12 * 12);
+    EXPECT_LT(ticked, partly);
+}
+
 TEST_P(Themes, EachColourOfTheCodeIsAColour) {
     const auto& [paper, text, keyword, comment, string, number, directive, margin, marginText, currentLine, error,
                  warning, chosenName] = workbench::codeColours(GetParam());
