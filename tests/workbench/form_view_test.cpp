@@ -688,6 +688,27 @@ TEST_F(FormDesigners, TheToolboxOffersTheControlsOfTheProject) {
     EXPECT_FALSE(offers("Menu"));
 }
 
+TEST_F(FormDesigners, TheToolboxHasTheControlsOfTheLanguageInItsOrder) {
+    openForm("");
+    auto& tools = desk().toolbox();
+    QStringList all;
+    for (int row = 0; row < tools.count(); ++row) all << tools.item(row)->text();
+    EXPECT_EQ(all, (QStringList{"Pointer",       "Visual Basic controls",
+                                "PictureBox",    "Label",
+                                "TextBox",       "Frame",
+                                "CommandButton", "CheckBox",
+                                "OptionButton",  "ComboBox",
+                                "ListBox",       "HScrollBar",
+                                "VScrollBar",    "Timer",
+                                "DriveListBox",  "DirListBox",
+                                "FileListBox",   "Shape",
+                                "Line",          "Image"}));
+    for (int row = 2; row < tools.count(); ++row) {
+        tools.setCurrentRow(row);
+        EXPECT_EQ(tools.tool(), "VB." + all[row].toStdString());
+    }
+}
+
 TEST_F(FormDesigners, TheToolboxSaysWhichControlsDoNotStay) {
     const auto titles = [this] {
         std::vector<std::string> all;

@@ -159,3 +159,33 @@ TEST_F(Icons, EveryToolbarButtonHasAName) {
             EXPECT_FALSE(described->text(QAccessible::Name).isEmpty()) << action->toolTip().toStdString();
         }
 }
+
+TEST_F(Icons, OfControlsOfLibrariesAreThoseOfTheLanguagesAlike) {
+    const auto of = [](const std::string& className) {
+        return bytesOf(drawn(workbench::iconOfControl(className), 16));
+    };
+    const auto named = [](const char* name) { return bytesOf(drawn(workbench::drawnIcon(name), 16)); };
+    for (const auto& [className, name] : {std::pair("TavletsCtl.QLButton", "CommandButton"),
+                                          {"Forms.RadioButton", "OptionButton"},
+                                          {"Forms.Picture", "PictureBox"},
+                                          {"TabDlg.SSTab", "TabStrip"},
+                                          {"MSFlexGridLib.MSFlexGrid", "Grid"},
+                                          {"MSHierarchicalFlexGridLib.MSHFlexGrid", "Grid"},
+                                          {"MSDataGridLib.DataGrid", "Grid"},
+                                          {"MSDBGrid.DBGrid", "Grid"},
+                                          {"MSComCtl2.MonthView", "DTPicker"},
+                                          {"MSComctlLib.ImageCombo", "ComboBox"},
+                                          {"MSDataListLib.DataCombo", "ComboBox"},
+                                          {"MSDataListLib.DataList", "ListBox"},
+                                          {"MSDBCtls.DBCombo", "ComboBox"},
+                                          {"MSDBCtls.DBList", "ListBox"},
+                                          {"MSComCtl2.FlatScrollBar", "HScrollBar"},
+                                          {"MSComCtl2.Animation", "Movie"},
+                                          {"MSWinsockLib.Winsock", "Network"},
+                                          {"InetCtlsObjects.Inet", "Network"},
+                                          {"MSCommLib.MSComm", "Serial"},
+                                          {"MSAdodcLib.Adodc", "Data"},
+                                          {"VB.TextBox", "TextBox"},
+                                          {"Project1.ctlLamp", "Control"}})
+        EXPECT_EQ(of(className), named(name)) << className;
+}
