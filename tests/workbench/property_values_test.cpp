@@ -280,6 +280,25 @@ TEST_F(PropertyValues, AFileThatIsNoPictureIsRefused) {
     EXPECT_EQ(saved("frmMain"), original);
 }
 
+TEST_F(PropertyValues, APictureAsLargeAsThePreviewIsShownWhole) {
+    openValues();
+    QPixmap red(500, 400);
+    red.fill(Qt::red);
+    ASSERT_TRUE(red.save(QString::fromStdString(folder / "red.bmp")));
+    test::whenShown<QFileDialog>([&](QFileDialog& dialog) {
+        Q_EMIT dialog.currentChanged(QString::fromStdString(folder / "red.bmp"));
+        const auto* label = dialog.findChild<QLabel*>("preview");
+        EXPECT_EQ(label->pixmap().size(), QSize(160, 128));
+        EXPECT_GE(label->contentsRect().width(), 160);
+        EXPECT_GE(label->contentsRect().height(), 128);
+        dialog.reject();
+    });
+    goTo("Picture");
+    QTest::keyClick(&properties().table(), Qt::Key_Down, Qt::AltModifier);
+    settle();
+    EXPECT_EQ(saved("frmMain"), original);
+}
+
 // ---- several controls -----------------------------------------------------------------------------------------------
 
 TEST_F(PropertyValues, OfSeveralControlsAreThoseThatAllHave) {
