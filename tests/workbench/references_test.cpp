@@ -1,5 +1,8 @@
 // The dialogs for the references and components of a project.
 #include "Apps/workbench/references/libraries_dialog.h"
+#include "Apps/workbench/references/library_rows.h"
+#include "Host/model/host.h"
+#include "tests/support/test_host.h"
 #include "tests/workbench/keyboard_access.h"
 #include "tests/workbench/open_desktop.h"
 #include "tests/workbench/window_words.h"
@@ -150,6 +153,24 @@ TEST_F(Libraries, AFileIsReadWhenTheDialogIsConfirmed) {
     settle(100);
     ASSERT_EQ(boxes.size(), 1u);
     EXPECT_THAT(boxes.front(), HasSubstr("none.dll"));
+}
+
+TEST(LibraryRows, ATickedLibraryIsAddedInItsNewestVersion) {
+    test::TestHost machine;
+    const std::string guid = "{22222222-3333-4444-5555-666666660000}";
+    for (const char* version : {"0.1", "1.0", "1.1", "2.0"}) {
+        const auto key = "TypeLib\\" + guid + "\\" + version;
+        machine.registerText(key, "Versions");
+        machine.registerText(key + "\\0\\win32", std::string("versions") + version + ".dll");
+    }
+    const auto project = machine.open(test::SampleProject().module("modA", "Dim x\r\n"));
+    auto& own = *basic::cast<host::Project>(project);
+    auto rows = workbench::libraryRows(own, LibraryKind::References);
+    for (auto& row : rows)
+        if (row.guid == guid) row.isTicked = true;
+    workbench::applyRows(own, LibraryKind::References, rows);
+    project->SaveAs(project->FileName());
+    EXPECT_THAT(machine.folder.read("Hello.vbp"), HasSubstr("*\\G" + guid + "#2.0#0#"));
 }
 
 TEST_F(Libraries, HaveTheirWords) {
