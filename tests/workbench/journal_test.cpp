@@ -1,5 +1,6 @@
 // Unsaved changes survive the program.
 #include "Apps/workbench/base/message_box.h"
+#include "Apps/workbench/base/state_folder.h"
 #include "Apps/workbench/unsaved/discarded_changes.h"
 #include "Apps/workbench/unsaved/journal_folder.h"
 #include "Host/files/journal_file.h"
@@ -625,4 +626,15 @@ TEST_F(Journals, AFailureToWriteIsReportedOnce) {
     QTest::qWait(1200);
     EXPECT_EQ(boxes.size(), 1u);
     EXPECT_EQ(held("modA"), "ab' a");
+}
+
+TEST(StateFolder, IsThatOfTheUser) {
+    const auto usual = qgetenv("XDG_STATE_HOME");
+    qputenv("XDG_STATE_HOME", "/of/the/user");
+    EXPECT_EQ(workbench::stateFolder(), "/of/the/user/fernwick");
+    for (const char* unusable : {"", "relative/folder"}) {
+        qputenv("XDG_STATE_HOME", unusable);
+        EXPECT_EQ(workbench::stateFolder(), QDir::homePath() + "/.local/state/fernwick") << unusable;
+    }
+    qputenv("XDG_STATE_HOME", usual);
 }
