@@ -91,6 +91,17 @@ TEST_F(Desktop, ShowsAProjectsComponentsInGroups) {
     EXPECT_EQ(window().windowTitle(), "AddressBook - Fernwick Workbench");
 }
 
+TEST_F(Desktop, TheTitleNamesTheActiveProject) {
+    openSample("HelloWorld");
+    project()->Name("Greeting");
+    settle();
+    EXPECT_EQ(window().windowTitle(), "Greeting - Fernwick Workbench");
+    clean(project());
+    bench->host().VBProjects()->Remove(project());
+    settle();
+    EXPECT_EQ(window().windowTitle(), "Fernwick Workbench");
+}
+
 TEST_F(Desktop, OpeningAProjectOpensNoCode) {
     openSample("AddressBook");
     EXPECT_EQ(window().code().count(), 0);
@@ -230,6 +241,21 @@ TEST_F(Desktop, OneWindowAtATimeIsShownWhileCompiling) {
     answers_.stop();
     EXPECT_EQ(mostShown, 1);
     EXPECT_TRUE(std::filesystem::exists(folder / "HelloWorld/HelloWorld.0000.qlx"));
+}
+
+TEST_F(Desktop, TheStatusOfARunIsShownDuringIt) {
+    openSample("HelloWorld");
+    component("frmHello")->CodeModule()->InsertLines(1, "' unsaved");
+    std::string status;
+    answer([&](QDialog& question) {
+        bench->window().docks().drawMessagesSoon();
+        settle();
+        status = window().findChild<QLabel*>("lblStatusText")->text().toStdString();
+        test::click(question, "btnYes");
+    });
+    menuItem("&Fernwick", "Compile and &Validate")->trigger();
+    answers_.stop();
+    EXPECT_NE(status, "");
 }
 
 TEST_F(Desktop, AProgressFormBlocksTheWindow) {
