@@ -5,6 +5,7 @@
 #include "Host/model/forms/property_source.h"
 #include "tests/workbench/canvas_desktop.h"
 #include <QClipboard>
+#include <QMenu>
 #include <QMessageBox>
 #include <QMimeData>
 #include <fmt/format.h>
@@ -371,4 +372,6 @@ TEST_F(Pasting, TheContextMenuHasTheCommands) {
     canvas().contextMenu(middleOf("cmdC"), {10, 10});
     QApplication::activePopupWidget()->close();
     EXPECT_THAT(selection(), ElementsAre("cmdC"));
+    settle();
+    EXPECT_FALSE(window().findChild<QMenu*>("designerMenu")); // closed ones do not add up
 }
