@@ -3,6 +3,8 @@
 #include "tests/workbench/zoom_desktop.h"
 #include <QMenu>
 #include <QMessageBox>
+#include <QWheelEvent>
+#include <set>
 
 using test::ZoomDesktop;
 
@@ -169,6 +171,47 @@ TEST_F(Zoom, ALargeFormInASmallWindowShowsNoBox) {
     EXPECT_FALSE(QApplication::activeModalWidget());
     clickZoomed(middleOf("txtOne"));
     EXPECT_EQ(selected(), "txtOne");
+}
+
+TEST_F(Zoom, TheWheelWithCtrlChangesTheLevel) {
+    openZoomed(kControls);
+    const auto turn = [this](const QPoint& angle) {
+        QWheelEvent event({60, 60}, zoom().mapToGlobal(QPointF(60, 60)), {}, angle, Qt::NoButton, Qt::ControlModifier,
+                          Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&zoom(), &event);
+        settle();
+        return level();
+    };
+    EXPECT_EQ(turn({0, 120}), 3);
+    EXPECT_EQ(turn({120, 0}), 3);
+    EXPECT_EQ(turn({-120, 0}), 3);
+    EXPECT_EQ(turn({0, -120}), 2);
+    EXPECT_EQ(turn({0, -120}), 1);
+    EXPECT_EQ(turn({0, -120}), 1);
+    for (int i = 2; i <= 5; ++i) EXPECT_EQ(turn({0, 120}), i);
+    EXPECT_EQ(turn({0, 120}), 5);
+}
+
+TEST_F(Zoom, TheWheelScrolls) {
+    openZoomed(kControls);
+    chooseLevel(5);
+    dock().resize(300, 300);
+    settle();
+    const auto turn = [this](const QPoint& angle, Qt::KeyboardModifiers keys = {}) {
+        QWheelEvent event({60, 60}, zoom().mapToGlobal(QPointF(60, 60)), {}, angle, Qt::NoButton, keys,
+                          Qt::NoScrollPhase, false);
+        const auto place = [this] { return QPoint(zoom().document()->GetXOffset(), zoom().document()->GetYOffset()); };
+        const auto before = place();
+        QApplication::sendEvent(&zoom(), &event);
+        settle();
+        return place() - before;
+    };
+    const auto down = turn({0, -120}), right = turn({0, -120}, Qt::ShiftModifier);
+    EXPECT_EQ(down.x(), 0);
+    EXPECT_NE(down.y(), 0);
+    EXPECT_EQ(right, QPoint(down.y(), 0));
+    EXPECT_EQ(turn({0, 120}), -down);
+    EXPECT_EQ(turn({0, 120}, Qt::ShiftModifier), -right);
 }
 
 // ---- the mouse ------------------------------------------------------------------------------------------------------
@@ -355,6 +398,7 @@ TEST_F(Zoom, EndsWithTheAddIn) {
     openZoomed(kControls);
     bench->host().Addins()->Item("QLVBAddIn.Connect")->Connect(false);
     settle();
+    EXPECT_TRUE(placeOfColour(picture(), kRed).isEmpty());
     const int transfers = zoom().transfers();
     moveMouse(zoom(), {60, 60});
     QTest::mouseClick(&zoom(), Qt::LeftButton, {}, QPoint(60, 60));
