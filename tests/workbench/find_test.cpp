@@ -1,7 +1,9 @@
 // Finding and replacing, from one line of code to a whole project.
+#include "Apps/workbench/code/code_finder.h"
 #include "Apps/workbench/code/code_pattern.h"
 #include "Apps/workbench/code/find_bar.h"
 #include "Apps/workbench/window/commands.h"
+#include "tests/support/errors.h"
 #include "tests/workbench/open_desktop.h"
 #include <QCheckBox>
 #include <QComboBox>
@@ -160,6 +162,18 @@ TEST_F(Finding, InAProjectOpensWindowsOnlyForHits) {
     press("findPrevious");
     EXPECT_EQ(selection(), "modC 1:5 x");
     EXPECT_EQ(said(), "The search continued from the end.");
+}
+
+TEST_F(Finding, ARemovedModuleCannotBeSearchedFrom) {
+    open(threeModules());
+    const auto module = component("modA"), other = component("modC");
+    project()->VBComponents()->Remove(module);
+    clean(project());
+    bench->host().VBProjects()->Remove(project());
+    settle();
+    for (const auto& removed : {module, other})
+        for (const auto scope : {workbench::FindScope::Project, workbench::FindScope::AllProjects})
+            EXPECT_NE(test::errorOf([&] { findNext(workbench::CodePattern("x", {}), scope, {removed}, false); }), 0);
 }
 
 TEST_F(Finding, ReportsWhatWasNotFound) {

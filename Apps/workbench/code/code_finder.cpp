@@ -67,7 +67,6 @@ std::optional<Found> findNext(const CodePattern& pattern, FindScope scope, const
     const auto own = std::find_if(stretches.begin(), stretches.end(),
                                   [&](const auto& one) { return one.component == from.component; });
     const int start = int(own - stretches.begin());
-    if (start == count) return {};
     if (const auto place = beyond(hitsOf(pattern, *own), from, backwards)) return Found{*place, false};
     // the other modules in order, then the rest of the first one
     for (int step = 1; step <= count; ++step) {
