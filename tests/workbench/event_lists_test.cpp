@@ -138,6 +138,21 @@ TEST_F(EventLists, UserControlsHaveTheEventsTheyDeclare) {
     EXPECT_TRUE(events.contains("GotFocus"));
 }
 
+TEST_F(EventLists, UserControlsHaveTheEventsOfTheirForm) {
+    bench->open(test::SampleProject("Own")
+                    .member("UserControl=Gauge.ctl", "Gauge.ctl", test::formText("Gauge", "Event Full()\r\n"))
+                    .form("frmMain", "")
+                    .writeTo(folder));
+    const auto form = component("frmMain");
+    const auto control = form->Designer()->VBControls()->Add("Own.Gauge");
+    std::vector<std::string> events;
+    for (const auto& event : workbench::eventsOf(*form, workbench::eventObjectOf(*form, control)))
+        events.push_back(event.name + "(" + event.parameters + ")");
+    EXPECT_THAT(events, testing::ElementsAre("DragDrop(Source As Control, X As Single, Y As Single)",
+                                             "DragOver(Source As Control, X As Single, Y As Single, State As Integer)",
+                                             "Full()", "GotFocus()", "LostFocus()", "Validate(Cancel As Boolean)"));
+}
+
 TEST_F(EventLists, VariablesWithEventsHaveThoseOfTheirClass) {
     bench->open(test::SampleProject("Sources")
                     .member("Object={831FDD16-0C5C-11D2-A9FC-0000F8754DA1}#2.0#0; MSCOMCTL.OCX")

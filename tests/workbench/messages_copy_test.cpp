@@ -51,6 +51,17 @@ TEST_F(MessagesCopy, AreCopiedAsLinesAndATable) {
               "<tr><td>modA</td><td>2</td><td>7</td><td>first</td></tr>\n</table>\n");
 }
 
+TEST_F(MessagesCopy, ASelectedOneIsCopiedInsteadOfTheCurrentOne) {
+    for (const auto* text : {"first", "second"}) warning(text, 2);
+    settle();
+    list().setCurrentIndex(at(0));
+    select({1});
+    QTest::keyClick(&list(), Qt::Key_C, Qt::ControlModifier);
+    settle();
+    EXPECT_TRUE(QGuiApplication::clipboard()->text().endsWith("Message: second"));
+    EXPECT_THAT(selected(), ElementsAre("second"));
+}
+
 TEST_F(MessagesCopy, AreAllCopiedThatPassTheFilter) {
     for (const auto* text : {"one", "two", "three"}) warning(text, 2);
     settle();

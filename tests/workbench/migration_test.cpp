@@ -127,6 +127,19 @@ TEST_F(MigrationDesktop, EscapeStopsTheSearch) {
     report->close();
 }
 
+TEST_F(MigrationDesktop, AnotherDeviceReplacesTheSearchForTheFirst) {
+    openShop();
+    menuItem("&Project", "Mi&gration Report...")->trigger();
+    auto* const report = window().findChild<MigrationReport*>();
+    QThread::msleep(500); // a result that is ready by now must not be shown
+    auto& devices = *report->findChild<QComboBox*>("migrationDevice");
+    devices.setCurrentIndex(devices.count() - 1);
+    finish(*report);
+    settle(500);
+    EXPECT_EQ(tree(*report).topLevelItemCount(), 1);
+    report->close();
+}
+
 TEST_F(MigrationDesktop, EnterOpensTheFormOfAControl) {
     auto form = test::formText("frmShop");
     form.insert(form.find("End\r\n"), "   Begin Gauge.Needle Needle1 \r\n   End\r\n");
