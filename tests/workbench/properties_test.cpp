@@ -258,6 +258,41 @@ TEST_F(Properties, AFontIsChosenInItsDialog) {
     EXPECT_EQ(shown("Font"), "MS Sans Serif");
 }
 
+TEST_F(Properties, TheFontDialogBeginsWithTheFont) {
+    struct Style {
+        const char *name, *line;
+        bool (QFont::*has)() const;
+    };
+    const std::vector<Style> styles{{"cmdBold", "Weight          =   700", &QFont::bold},
+                                    {"cmdItalic", "Italic          =   -1  'True", &QFont::italic},
+                                    {"cmdUnderline", "Underline       =   -1  'True", &QFont::underline},
+                                    {"cmdStrike", "Strikethrough   =   -1  'True", &QFont::strikeOut}};
+    std::string lines;
+    for (const auto& style : styles)
+        lines += std::string("   Begin VB.CommandButton ") + style.name +
+                 " \n      BeginProperty Font \n         Name            =   \"DejaVu Sans\"\n"
+                 "         Size            =   11.25\n         " +
+                 style.line + "\n      EndProperty\n   End\n";
+    openForm(lines);
+    for (const auto& style : styles) {
+        select(style.name);
+        test::whenShown<QFontDialog>([&](QFontDialog& dialog) {
+            const auto font = dialog.currentFont();
+            EXPECT_NEAR(font.pointSizeF(), 11.25, 0.3);
+            // the dialog begins with the first style of a family that has none called normal
+            EXPECT_TRUE((font.*style.has)()) << style.name;
+            for (const auto& other : styles)
+                if (other.has != &QFont::italic) {
+                    EXPECT_EQ((font.*other.has)(), &other == &style) << style.name << other.name;
+                }
+            dialog.reject();
+        });
+        doubleClick("Font");
+        settle();
+        EXPECT_FALSE(desk().stepToUndo());
+    }
+}
+
 TEST_F(Properties, OfSeveralFontsOnlyWhatWasChangedIsWritten) {
     const auto font = [](const char* name, const char* size) {
         return std::string("      BeginProperty Font \n         Name            =   \"") + name +
