@@ -110,6 +110,29 @@ TEST_F(DesktopWindowsTest, ATabThatTheUserClosesClosesItsWindow) {
     EXPECT_FALSE(component("frmMain")->HasOpenDesigner());
 }
 
+TEST_F(DesktopWindowsTest, APressHasItsButton) {
+    openZoomed(kControls);
+    struct Recorder {
+        workbench::WindowProcedures& procedures;
+        std::intptr_t number = 0;
+        std::vector<std::pair<unsigned, bool>> pressed;
+    } recorder{windows().procedures(), 0, {}};
+    recorder.number = recorder.procedures.addHook(
+        {&recorder, [](void* self, int code, std::intptr_t wParam, WindowMessage& message) noexcept -> std::intptr_t {
+             auto& own = *static_cast<Recorder*>(self);
+             if (message.number >= WM_MOUSEMOVE && message.number <= WM_LBUTTONUP)
+                 own.pressed.emplace_back(message.number, (message.wParam & MK_LBUTTON) != 0);
+             return own.procedures.callNextHook(own.number, code, wParam, message);
+         }});
+    moveMouse(zoom(), zoomed(middleOf("cmdTwo")));
+    clickZoomed(middleOf("cmdTwo"));
+    recorder.procedures.removeHook(recorder.number);
+    using Pressed = std::pair<unsigned, bool>;
+    EXPECT_THAT(recorder.pressed, testing::IsSupersetOf({Pressed(WM_MOUSEMOVE, false), Pressed(WM_LBUTTONDOWN, true),
+                                                         Pressed(WM_LBUTTONUP, false)}));
+    EXPECT_THAT(recorder.pressed, testing::Not(testing::Contains(Pressed(WM_LBUTTONDOWN, false))));
+}
+
 TEST(WindowProcedures, AnEmptyOneRestoresTheOriginal) {
     WindowProcedures procedures({made, note});
     EXPECT_EQ(procedures.set(1, {ours, note}), (WindowProc{made, note}));
@@ -152,9 +175,30 @@ TEST(VirtualKeys, EachCodeHasItsKey) {
     for (const int key : {Qt::Key_Left, Qt::Key_Up, Qt::Key_Right, Qt::Key_Down, Qt::Key_Delete, Qt::Key_Tab,
                           Qt::Key_Escape, Qt::Key_Return, Qt::Key_A, Qt::Key_Z, Qt::Key_0, Qt::Key_9})
         EXPECT_EQ(workbench::qtKeyOf(workbench::virtualKeyOf(key)), key);
-    EXPECT_EQ(workbench::virtualKeyOf(Qt::Key_Left), 37);
-    EXPECT_EQ(workbench::virtualKeyOf(Qt::Key_Delete), 46);
-    EXPECT_EQ(workbench::virtualKeyOf(Qt::Key_Enter), 13);
-    EXPECT_EQ(workbench::virtualKeyOf(Qt::Key_F5), 0);
+    for (const auto& [key, code] : {std::pair(Qt::Key_Backspace, 8),
+                                    {Qt::Key_Tab, 9},
+                                    {Qt::Key_Backtab, 9},
+                                    {Qt::Key_Return, 13},
+                                    {Qt::Key_Enter, 13},
+                                    {Qt::Key_Shift, 16},
+                                    {Qt::Key_Control, 17},
+                                    {Qt::Key_Escape, 27},
+                                    {Qt::Key_Space, 32},
+                                    {Qt::Key_PageUp, 33},
+                                    {Qt::Key_PageDown, 34},
+                                    {Qt::Key_End, 35},
+                                    {Qt::Key_Home, 36},
+                                    {Qt::Key_Left, 37},
+                                    {Qt::Key_Up, 38},
+                                    {Qt::Key_Right, 39},
+                                    {Qt::Key_Down, 40},
+                                    {Qt::Key_Insert, 45},
+                                    {Qt::Key_Delete, 46},
+                                    {Qt::Key_0, 48},
+                                    {Qt::Key_9, 57},
+                                    {Qt::Key_A, 65},
+                                    {Qt::Key_Z, 90},
+                                    {Qt::Key_F5, 0}})
+        EXPECT_EQ(workbench::virtualKeyOf(key), code) << key;
     EXPECT_EQ(workbench::qtKeyOf(0), 0);
 }
