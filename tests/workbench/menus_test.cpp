@@ -72,6 +72,10 @@ bool hasAName(QWidget& widget) {
 
 } // namespace
 
+TEST_F(DesktopMenus, ShowTheToolTipsOfTheirCommands) {
+    for (const auto* top : window().menuBar()->actions()) EXPECT_TRUE(top->menu()->toolTipsVisible());
+}
+
 TEST_F(DesktopMenus, MnemonicsOfAMenuDoNotClash) {
     openSample("AddressBook");
     editor("frmList");

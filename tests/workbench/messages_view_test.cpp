@@ -139,6 +139,19 @@ TEST_F(Messages, WithALineBreakShowTwoLines) {
     EXPECT_GE(list().visualRect(at(0)).height(), 2 * list().fontMetrics().height());
 }
 
+TEST_F(Messages, TheStatusIsBesideItsCaption) {
+    std::string none, failed = "FAILED - Errors (3 items) must be fixed to deploy this project.";
+    messages().ProjectStatusText(none, none, failed);
+    settle();
+    const auto &caption = part<QLabel>("lblStatus"), &status = part<QLabel>("lblStatusText");
+    EXPECT_FALSE(caption.text().isEmpty());
+    EXPECT_GE(caption.width(), caption.sizeHint().width());
+    EXPECT_EQ(caption.geometry().right() + 1, status.x());
+    EXPECT_GE(caption.height(), caption.fontMetrics().height());
+    EXPECT_EQ(caption.height(), status.height());
+    EXPECT_GE(status.width(), status.fontMetrics().horizontalAdvance(status.text()));
+}
+
 TEST_F(Messages, AreCountedByKind) {
     error("a");
     warning("b");
