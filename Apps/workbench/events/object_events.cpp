@@ -70,9 +70,9 @@ std::vector<EventObject> eventObjects(vbide::VBComponent& component) {
     });
     addDeclared(component, objects);
     const auto key = [](const EventObject& object) { return basic::foldCase(object.name); };
-    std::stable_sort(objects.begin(), objects.end(), [&](const auto& a, const auto& b) { return key(a) < key(b); });
-    const auto same = [&](const auto& a, const auto& b) { return key(a) == key(b); };
-    objects.erase(std::unique(objects.begin(), objects.end(), same), objects.end());
+    std::ranges::stable_sort(objects, {}, key);
+    const auto repeated = std::ranges::unique(objects, {}, key);
+    objects.erase(repeated.begin(), repeated.end());
     return objects;
 }
 
