@@ -1,6 +1,7 @@
 // Completion, parameter help, quick info and the check of lines, by keys.
 #include "Apps/workbench/assist/code_assist.h"
 #include "Apps/workbench/assist/line_check.h"
+#include "Apps/workbench/assist/tip.h"
 #include "Apps/workbench/base/theme.h"
 #include "Apps/workbench/editing/margins.h"
 #include "Apps/workbench/options/declared_options.h"
@@ -277,6 +278,16 @@ TEST_F(Assist, ATipIsBelowTheLineAndOnTheScreen) {
     window().move(window().screen()->availableGeometry().right() - 400, 0);
     type("1, ");
     EXPECT_LE(label->x() + label->width() - 1, window().screen()->availableGeometry().right());
+}
+
+TEST_F(Assist, ATipIsNoWiderThanItsText) {
+    workbench::Tip shown(*text);
+    shown.showAt("short", 0);
+    const int width = shown.width();
+    shown.showAt(QString("long ").repeated(1000), 0);
+    EXPECT_EQ(shown.width(), text->screen()->availableGeometry().width());
+    shown.showAt("short", 0);
+    EXPECT_EQ(shown.width(), width);
 }
 
 TEST_F(Assist, ATipIsHiddenWithTheFocus) {

@@ -23,15 +23,15 @@ void Tip::showAt(const QString& richText, int position) {
     setPalette(QToolTip::palette());
     setForegroundRole(QPalette::ToolTipText);
     setBackgroundRole(QPalette::ToolTipBase);
+    // the size hint of a label is at least its fixed width, here that of a text before
+    setMinimumWidth(0);
+    setMaximumWidth(QWIDGETSIZE_MAX);
     setWordWrap(false);
     setText(richText);
     const auto room = text_.screen()->availableGeometry();
     if (sizeHint().width() > room.width()) {
         setWordWrap(true);
         setFixedWidth(room.width());
-    } else {
-        setMinimumWidth(0);
-        setMaximumWidth(QWIDGETSIZE_MAX);
     }
     adjustSize();
     const auto line = text_.SendScintilla(Sci::SCI_LINEFROMPOSITION, (unsigned long)position);
