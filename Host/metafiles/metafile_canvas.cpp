@@ -23,8 +23,7 @@ double angleOf(const LogicalBox& box, DrawnPoint point) {
     const auto middle = middleOf(box);
     const double across = box.right - box.left, down = box.bottom - box.top;
     if (across == 0 || down == 0) return 0;
-    const double angle = std::atan2((point.y - middle.y) / down, (point.x - middle.x) / across);
-    return std::isfinite(angle) ? angle : 0;
+    return std::atan2((point.y - middle.y) / down, (point.x - middle.x) / across);
 }
 
 DrawnPoint curvePoint(const DrawnPoint* p, double t) {

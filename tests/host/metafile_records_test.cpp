@@ -2,6 +2,7 @@
 #include "tests/host/metafile_drawing.h"
 #include "tests/support/metafile_bytes.h"
 #include <bit>
+#include <functional>
 
 using namespace host;
 using test::longs;
@@ -561,6 +562,14 @@ TEST(EnhancedRecords, ArcsTurnAsTheContextSays) {
     EXPECT_EQ(arc(55, 1), "0,0 78,22 50,10");
 }
 
+TEST(EnhancedRecords, AnArcInAFlatBoxIsALine) {
+    const auto arc = [](std::initializer_list<std::int64_t> box) {
+        return arcOf(test::EnhancedRecords().add(45, longs(box) + longs({50, 0, 50, 99})));
+    };
+    EXPECT_EQ(arc({50, 10, 50, 90}), "50,50 50,50 50,50");
+    EXPECT_EQ(arc({10, 50, 90, 50}), "90,50 10,50 90,50");
+}
+
 TEST(EnhancedRecords, PixelsAreSmallBoxes) {
     const auto pixel = onlyPath(test::EnhancedRecords().add(15, longs({10, 20, test::kRed})));
     EXPECT_THAT(points(pixel.figures[0]), ElementsAre("10,20", "11,20", "11,21", "10,21"));
@@ -578,6 +587,28 @@ TEST(EnhancedRecords, PathsAreFilledOrStrokedOrBoth) {
     EXPECT_EQ(drawing(63).brush.style, DrawnBrush::Style::Solid);
     EXPECT_EQ(drawing(64).pen.style, DrawnPen::Style::Solid);
     EXPECT_EQ(drawing(64).brush.style, DrawnBrush::Style::None);
+}
+
+TEST(EnhancedRecords, ALineThatFollowsAnotherExtendsItsFigure) {
+    const auto path = [](const std::function<void(test::EnhancedRecords&)>& between) {
+        test::EnhancedRecords records;
+        records.add(59, "").add(27, longs({0, 0})).add(54, longs({10, 0}));
+        between(records);
+        return onlyPath(records.add(54, longs({10, 10})).add(60, "").add(64, longs({0, 0, 0, 0})));
+    };
+    const auto together = path([](auto&) {});
+    ASSERT_THAT(together.figures, SizeIs(1));
+    EXPECT_THAT(points(together.figures[0]), ElementsAre("0,0", "10,0", "10,10"));
+    const auto closed = path([](auto& records) { records.add(61, ""); });
+    ASSERT_THAT(closed.figures, SizeIs(2));
+    EXPECT_TRUE(closed.figures[0].isClosed);
+    EXPECT_THAT(points(closed.figures[1]), ElementsAre("10,0", "10,10"));
+    EXPECT_FALSE(closed.figures[1].isClosed);
+    const auto moved = path([](auto& records) { records.add(27, longs({5, 5})); });
+    ASSERT_THAT(moved.figures, SizeIs(2));
+    EXPECT_THAT(points(moved.figures[1]), ElementsAre("5,5", "10,10"));
+    EXPECT_THAT(path([](auto& records) { records.rectangle(1, 1, 2, 2); }).figures, SizeIs(3));
+    EXPECT_THAT(path([](auto& records) { records.add(59, ""); }).figures, SizeIs(1));
 }
 
 TEST(EnhancedRecords, AnAbortedPathIsForgotten) {
