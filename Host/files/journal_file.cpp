@@ -51,8 +51,8 @@ std::string formatStamp(const std::optional<FileStamp>& stamp) {
 /// Reads the parts of a journal in order.
 class JournalReader {
 public:
-    explicit JournalReader(std::string_view bytes) : rest_(bytes) {
-        hasRecords_ = rest_.starts_with(kFirstLineWithRecords);
+    explicit JournalReader(std::string_view bytes)
+        : rest_(bytes), hasRecords_(bytes.starts_with(kFirstLineWithRecords)) {
         if (!hasRecords_ && !rest_.starts_with(kFirstLine)) refuse("is not a journal of this version");
         rest_.remove_prefix(kFirstLine.size());
     }
@@ -100,7 +100,7 @@ private:
     }
 
     std::string_view rest_;
-    bool hasRecords_ = false;
+    bool hasRecords_;
 };
 
 /// What follows the line with the size of the text.
