@@ -210,6 +210,31 @@ TEST_F(Controls, WithoutAResourceFileLoseTheirRecords) {
     EXPECT_EQ(difference(), "+    Begin VB.PictureBox picNew \n+       Tag             =   \"kept\"\n+    End\n");
 }
 
+TEST_F(Controls, OfAnAddedArrayAreRenamedTogether) {
+    open(kControls);
+    const auto added = host::insertControls(designer->Designer(), nullptr,
+                                            crLf("Begin VB.Label lstSum \n   Index           =   0\nEnd\n"
+                                                 "Begin VB.Label lstSum \n   Index           =   4\nEnd\n"
+                                                 "Begin VB.Label btnOK \nEnd\nBegin VB.Label btnOK \nEnd\n"),
+                                            {.arrays = {}});
+    EXPECT_THAT(names(added), ElementsAre("Label1", "Label1", "Label2", "Label3"));
+    EXPECT_EQ(added[1]->Properties()->Item("Index")->Value(), Variant(std::int32_t{4}));
+}
+
+TEST_F(Controls, OfAnArrayGetTheirIndexBackOrTheNext) {
+    open(kControls);
+    const auto indexOfAdded = [&](const std::string& index) {
+        const auto text = "Begin VB.OptionButton optSize \r\n" + index + "End\r\n";
+        const auto added = host::insertControls(designer->Designer(), nullptr, text, {.arrays = {}});
+        EXPECT_THAT(names(added), ElementsAre("optSize"));
+        return fernwick::asLong(added.front()->Properties()->Item("Index")->Value());
+    };
+    EXPECT_EQ(indexOfAdded("   Index           =   0\r\n"), 0);
+    EXPECT_EQ(indexOfAdded("   Index           =   5\r\n"), 5);
+    EXPECT_EQ(indexOfAdded("   Index           =   3\r\n"), 8);
+    EXPECT_EQ(indexOfAdded(""), 9);
+}
+
 TEST_F(Controls, AreRenamedInTheirBeginLine) {
     std::string reported;
     host::DesignerHooks hooks;
@@ -278,6 +303,15 @@ TEST_F(Resources, TextsAreReadAndReplacedByLines) {
     EXPECT_EQ(changes, 0);
     set("Caption", std::string("other"));
     EXPECT_EQ(difference(), "-    Caption         =   $\"A.frx\":0000\n+    Caption         =   \"other\"\n");
+}
+
+TEST_F(Resources, TextsOfAGroupAreRead) {
+    openWith("   Begin X.Y Z \n      BeginProperty Part \n         Caption         =   $\"A.frx\":0000\n"
+             "         Count           =   2\n      EndProperty\n   End\n",
+             std::string("\x03\0\0\0abc", 7));
+    const auto part = of("Z", "Part")->ObjectValue();
+    EXPECT_EQ(part->Item("Caption")->Value(), Variant(std::string("abc")));
+    EXPECT_EQ(fernwick::asLong(part->Item("Count")->Value()), 2);
 }
 
 TEST_F(Resources, AFormSavedUnderAnotherNameRefersToItsOwnFile) {

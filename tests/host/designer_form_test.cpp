@@ -276,6 +276,37 @@ TEST_F(FormGeometryTest, ChangingTheScaleConvertsTheControlsAndBackExactly) {
     EXPECT_EQ(file->text(), original);
 }
 
+TEST_F(FormGeometryTest, ReturningToTheScaleRestoresEveryLineAsItWas) {
+    open(crLf(R"(VERSION 5.00
+Begin VB.Form A 
+   ClientHeight    =   2400
+   ClientWidth     =   2400
+   ScaleHeight     =   2401
+   ScaleWidth      =   2399
+   Begin VB.Label lblA 
+      Height          =   300.0
+      Left            =   450.0
+      Top             =   600.0
+      Width           =   750.0
+   End
+   Begin VB.Line linA 
+      X1              =   150.0
+      X2              =   165.0
+      Y1              =   180.0
+      Y2              =   195.0
+   End
+End
+)"));
+    set("ScaleMode", number(3));
+    for (const auto* line :
+         {"ScaleHeight     =   160", "ScaleWidth      =   160", "Height          =   20", "Left            =   30",
+          "Top             =   40", "Width           =   50", "X1              =   10", "X2              =   11",
+          "Y1              =   12", "Y2              =   13"})
+        EXPECT_THAT(file->text(), HasSubstr(std::string(line) + "\r\n"));
+    set("ScaleMode", number(1));
+    EXPECT_EQ(difference(), "");
+}
+
 TEST_F(FormGeometryTest, LinesEditedInBetweenAreNotRestored) {
     open(kScreen);
     set("ScaleMode", number(3));

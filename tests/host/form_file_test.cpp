@@ -94,6 +94,16 @@ TEST(FormFile, AnAbsentPropertyHasNoLiteral) {
     EXPECT_EQ(form.root()->properties("Caption"), nullptr);
 }
 
+TEST(FormFile, PropertiesMayBeNamedLikeKeywords) {
+    for (const std::string word : {"Begin", "BeginProperty", "End", "EndProperty"}) {
+        const auto form =
+            FormFile::parse("VERSION 5.00\r\nBegin VB.Form A \r\n   " + word + " = 7\r\n   Tag = 8\r\nEnd\r\n");
+        EXPECT_EQ(form.root()->literal(word), "7");
+        EXPECT_EQ(form.root()->literal("Tag"), "8");
+        EXPECT_TRUE(form.problems().empty()) << word;
+    }
+}
+
 TEST(FormFile, SettingAPropertyEditsItsLine) {
     auto form = FormFile::parse(kForm);
     EXPECT_TRUE(form.root()->set("clientheight", "2505"));

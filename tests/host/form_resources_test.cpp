@@ -54,6 +54,10 @@ protected:
             host::FormChange(before, host::snapshotOf(form->Designer())).undo();
         };
     }
+    std::string textOfForm() {
+        save();
+        return saved("frmMain.frm");
+    }
     std::string caption() { return fernwick::asText(of("", "Caption")->Value()); }
     void save() { form->SaveAs(form->FileNames(1)); }
     std::string saved(const std::string& name) { return host.folder.read(name); }
@@ -210,6 +214,21 @@ TEST_F(FormResources, ARemovedLineReturnsToItsPlace) {
     restore();
     save();
     EXPECT_EQ(saved("frmMain.frm"), text);
+}
+
+TEST_F(FormResources, ARemovedLineReturnsAmongLaterChanges) {
+    auto text = kFormWithRecords;
+    text.insert(text.find("   Begin VB.TextBox"), "   LinkTopic       =   \"Form1\"\r\n");
+    open(text);
+    const auto before = host::snapshotOf(form->Designer());
+    host::setImage(of("", "Icon"), "");
+    const host::FormChange change(before, host::snapshotOf(form->Designer()));
+    of("", "Caption")->Value(std::string("Later"));
+    of("", "ForeColor")->Value(std::int32_t{255});
+    change.undo();
+    const auto returned = crLf("   Caption         =   \"Later\"\n   Icon            =   \"frmMain.frx\":0000\n"
+                               "   ForeColor       =   &H000000FF&\n   LinkTopic       =   \"Form1\"\n");
+    EXPECT_THAT(textOfForm(), testing::HasSubstr(returned));
 }
 
 TEST_F(FormResources, ANewFormGetsItsFileAtTheFirstSave) {
