@@ -106,6 +106,14 @@ TEST(HostCode, ListsTheDeclarationsOfAModule) {
     EXPECT_EQ(outline.procedures[3].kind, vbide::vbext_pk_Let);
 }
 
+TEST(HostCode, TextsInDeclarationsHideNothing) {
+    const auto outline = outlineOfText("Const a = \"\", b = \", x\", c = \"\"\", y\", d = \"'\", e = (1), f = \"\"\r\n"
+                                       "Private Const g = \": \", h = 1: Const i = \"open\r\n"
+                                       "Private [odd, name] As Long, k\r\n");
+    EXPECT_EQ(memberNames(outline, Member::Const), (Names{"a@1", "b@1", "c@1", "d@1", "e@1", "f@1", "g@2", "h@2"}));
+    EXPECT_EQ(memberNames(outline, Member::Variable), (Names{"odd, name@3", "k@3"}));
+}
+
 TEST(HostCode, ListsVariablesWithEventsAndInterfaces) {
     const auto outline =
         outlineOfText("Implements IShape\r\nImplements Project1.IStore ' both\r\n"
