@@ -103,6 +103,36 @@ TEST(HostComponents, ANewNameIsWrittenToTheFileTheProjectAndTheStartUp) {
     EXPECT_EQ(errorOf([&] { form->Name(""); }), 380);
 }
 
+TEST(HostComponents, ARefusedNameIsInTheError) {
+    TestHost host;
+    const auto project = host.open(SampleProject().form("frmA").module("modA"));
+    const auto form = project->VBComponents()->Item("frmA");
+    const auto refusal = [&](const std::string& name) { return basic::attempt([&] { form->Name(name); }).Description; };
+    EXPECT_EQ(refusal("modA"), "Name conflicts with existing module, project, or object library: 'modA'");
+    EXPECT_EQ(refusal("not a name"), "'not a name' is not a legal object name");
+    project->VBComponents()->Remove(form);
+    const auto error = basic::attempt([&] { form->Name(); });
+    EXPECT_EQ(error.Description, "The object invoked has disconnected from its clients");
+}
+
+TEST(HostComponents, EachKindHasItsFiles) {
+    struct {
+        vbide::vbext_ComponentType type;
+        std::string_view extension;
+        const char* companion;
+    } const cases[] = {
+        {vbide::vbext_ct_StdModule, ".bas", "/a.frx"},   {vbide::vbext_ct_ClassModule, ".cls", "/a.frx"},
+        {vbide::vbext_ct_VBForm, ".frm", "/a.frx"},      {vbide::vbext_ct_VBMDIForm, ".frm", "/a.frx"},
+        {vbide::vbext_ct_UserControl, ".ctl", "/a.ctx"}, {vbide::vbext_ct_PropPage, ".pag", "/a.pgx"},
+        {vbide::vbext_ct_DocObject, ".dob", "/a.dox"},   {vbide::vbext_ct_ActiveXDesigner, ".dsr", "/a.dsx"},
+    };
+    for (const auto& [type, extension, companion] : cases) {
+        EXPECT_EQ(host::kindOf(type).extension, extension);
+        EXPECT_EQ(host::companionOf("/a" + std::string(extension)), companion);
+        EXPECT_EQ(host::memberKindOfFile("/a" + std::string(extension)), host::kindOf(type).member);
+    }
+}
+
 TEST(HostComponents, AnExistingFileCanBeAdded) {
     TestHost host;
     host.folder.write("lib/modX.bas", test::moduleText("modX"));

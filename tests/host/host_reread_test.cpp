@@ -161,6 +161,23 @@ TEST_F(AskingHost, DoesNotAskForAnUnchangedFile) {
     EXPECT_TRUE(asked.empty());
 }
 
+TEST_F(AskingHost, DoesNotAskForAFileThatTheProjectDidNotReadFrom) {
+    const auto path = folder.write("modOther.bas", theirs);
+    component->SaveAs(path);
+    EXPECT_EQ(folder.read("modOther.bas"), mine);
+    EXPECT_TRUE(asked.empty());
+}
+
+TEST_F(AskingHost, WithoutAQuestionRefusesToReplaceAChangedFile) {
+    ide = host::Host::create({});
+    component = ide->VBProjects()->AddFromFile(folder / "Hello.vbp")->VBComponents()->Item(1);
+    component->CodeModule()->InsertLines(1, "' mine");
+    folder.write("modA.bas", theirs);
+    EXPECT_EQ(errorOf([&] { save(); }), 75);
+    EXPECT_EQ(folder.read("modA.bas"), theirs);
+    EXPECT_TRUE(component->IsDirty());
+}
+
 TEST_F(AskingHost, ReplacesTheFileIfTheUserAgrees) {
     const auto path = folder.write("modA.bas", theirs);
     save();
