@@ -88,6 +88,52 @@ TEST(ProjectFile, ASettingWithoutItsQuotesGetsThem) {
     EXPECT_EQ(file.bytes(), "Type=Exe\r\ntitle=\"a\"\r\nStartup = \"b\" \r\nMajorVer=3\r\n");
 }
 
+TEST(ProjectFile, TextsAreQuotedAndNumbersAreNot) {
+    for (const auto* text : {"ResFile32",
+                             "IconForm",
+                             "Startup",
+                             "HelpFile",
+                             "Title",
+                             "ExeName32",
+                             "Path32",
+                             "Command32",
+                             "Name",
+                             "HelpContextID",
+                             "Description",
+                             "CompatibleMode",
+                             "CompatibleEXE32",
+                             "VersionCompatible32",
+                             "VersionComments",
+                             "VersionCompanyName",
+                             "VersionFileDescription",
+                             "VersionLegalCopyright",
+                             "VersionLegalTrademarks",
+                             "VersionProductName",
+                             "CondComp"}) {
+        ProjectFile file("Type=Exe\r\n", kPage);
+        file.setSetting(text, "a");
+        EXPECT_EQ(file.bytes(), "Type=Exe\r\n" + std::string(text) + "=\"a\"\r\n");
+    }
+    for (const auto* number : {"NoControlUpgrade",   "MajorVer",
+                               "MinorVer",           "RevisionVer",
+                               "AutoIncrementVer",   "ServerSupportFiles",
+                               "DllBaseAddress",     "CompilationType",
+                               "OptimizationType",   "FavorPentiumPro(tm)",
+                               "CodeViewDebugInfo",  "NoAliasing",
+                               "BoundsCheck",        "OverflowCheck",
+                               "FlPointCheck",       "FDIVCheck",
+                               "UnroundedFP",        "StartMode",
+                               "Unattended",         "Retained",
+                               "ThreadPerObject",    "MaxNumberOfThreads",
+                               "ThreadingModel",     "RemoveUnusedControlInfo",
+                               "DebugStartupOption", "DebugStartupComponent",
+                               "UseExistingBrowser"}) {
+        ProjectFile file("Type=Exe\r\n", kPage);
+        file.setSetting(number, "1");
+        EXPECT_EQ(file.bytes(), "Type=Exe\r\n" + std::string(number) + "=1\r\n");
+    }
+}
+
 TEST(ProjectFile, AMissingSettingIsInsertedInOrder) {
     ProjectFile file(kSmallProject, kPage);
     file.setSetting("Title", "Hello");
