@@ -47,6 +47,8 @@ TEST(CommandLine, AProgramsNameEndsAtItsQuoteOrAtABlank) {
     EXPECT_THAT(namesOf(" a  b "), ElementsAre("a", "a  b"));
     EXPECT_THAT(namesOf("  "), IsEmpty());
     EXPECT_THAT(namesOf("\"open"), ElementsAre("open"));
+    EXPECT_THAT(namesOf(R"("" x)"), ElementsAre(""));
+    EXPECT_EQ(host::programReadings(R"("" x)").at(0).arguments, " x");
 }
 
 TEST(CommandLine, ALineOfMegabytesIsFast) {

@@ -44,6 +44,31 @@ TEST(RegistryTree, AKeyHasAtMost512Levels) {
     } catch (const host::RegFailure& failure) { EXPECT_EQ(failure.status, host::RegStatus::InvalidParameter); }
 }
 
+TEST(RegistryTree, NamesAreLimitedInCharacters) {
+    const auto statusOf = [](const auto& action) {
+        try {
+            action();
+        } catch (const host::RegFailure& failure) { return failure.status; }
+        return host::RegStatus::Success;
+    };
+    const auto key = [&](const std::string& name) { return statusOf([&] { (void)(KeyPath() / name); }); };
+    const auto value = [&](const std::string& name) { return statusOf([&] { host::requireValueName(name); }); };
+    const std::string longKey(254, 'k'), longValue(16382, 'v'), twoBytes = "\u00df";
+    for (const auto& last : {std::string("x"), twoBytes}) {
+        EXPECT_EQ(key(longKey + last), host::RegStatus::Success);
+        EXPECT_EQ(key(longKey + "x" + last), host::RegStatus::InvalidParameter);
+        EXPECT_EQ(value(longValue + last), host::RegStatus::Success);
+        EXPECT_EQ(value(longValue + "x" + last), host::RegStatus::InvalidParameter);
+    }
+    EXPECT_EQ(key(longKey + "x\\" + longKey + "x"), host::RegStatus::Success);
+    for (const auto* name : {"a\tb", "\x1f", "\xff", "\xc3"}) {
+        EXPECT_EQ(key(name), host::RegStatus::InvalidParameter);
+        EXPECT_EQ(value(name), host::RegStatus::InvalidParameter);
+    }
+    EXPECT_EQ(key(" "), host::RegStatus::Success);
+    EXPECT_EQ(value(""), host::RegStatus::Success) << "the value without a name";
+}
+
 TEST(RegistryTree, SubkeysAreSortedIgnoringCase) {
     RegistryTree tree;
     for (const auto* name : {"b", "C", "a\\x", "B-2"}) tree.createKey(KeyPath() / name);
