@@ -26,6 +26,7 @@ void ListBox::AddItem(std::string text) {
 void ListBox::RemoveItem(int i) {
     row(i);
     rows_.erase(rows_.begin() + i);
+    newIndex_ = -1;
     if (listIndex_ == i)
         listIndex_ = -1;
     else if (listIndex_ > i)

@@ -149,6 +149,7 @@ public:
     bool Selected(int i) const { return row(i).selected; }
     void Selected(int i, bool selected);
     void List(int i, std::string text);
+    /// The row added last; -1 after a removal.
     int NewIndex() const { return newIndex_; }
     void AddItem(std::string text);
     /// Raises no Click, as in VB.

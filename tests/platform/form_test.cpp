@@ -165,6 +165,51 @@ TEST(ListBox, SelectsClicksAndRemoves) {
     EXPECT_EQ(form.lstRows.ListIndex(), 0);
 }
 
+TEST(ListBox, ReportsEachChange) {
+    using Change = ListBox::Change;
+    Presser user;
+    frmQuestion form{user};
+    form.Load();
+    auto& list = form.lstRows;
+    std::vector<std::pair<Change::Kind, int>> changes;
+    const auto watch =
+        list.changed.connect([&](const Change& change) { changes.emplace_back(change.kind, change.row); });
+    list.AddItem("second");
+    list.AddItem("third");
+    list.List(1, "2nd");
+    list.Selected(0, true);
+    list.ListIndex(1);
+    list.RemoveItem(1);
+    list.Clear();
+    EXPECT_EQ(changes, (std::vector<std::pair<Change::Kind, int>>{{Change::Inserted, 1},
+                                                                  {Change::Inserted, 2},
+                                                                  {Change::Altered, 1},
+                                                                  {Change::Altered, 0},
+                                                                  {Change::Altered, 1},
+                                                                  {Change::Removed, 1},
+                                                                  {Change::Reset, -1}}));
+}
+
+TEST(ListBox, NewIndexIsOfTheRowAddedLast) {
+    Presser user;
+    frmQuestion form{user};
+    auto& list = form.lstRows;
+    EXPECT_EQ(list.NewIndex(), -1);
+    form.Load();
+    EXPECT_EQ(list.NewIndex(), 0);
+    list.AddItem("second");
+    list.ListIndex(0);
+    EXPECT_EQ(list.NewIndex(), 1);
+    list.RemoveItem(0);
+    EXPECT_EQ(list.NewIndex(), -1);
+    list.AddItem("third");
+    list.ListIndex(1);
+    list.Clear();
+    EXPECT_EQ(list.NewIndex(), -1);
+    EXPECT_EQ(list.ListIndex(), -1);
+    EXPECT_EQ(list.ListCount(), 0);
+}
+
 TEST(Property, WatcherMayEndItselfSetAgainOrDestroyTheProperty) {
     auto property = std::make_unique<Property<int>>(1);
     std::vector<int> notified;
