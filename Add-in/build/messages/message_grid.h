@@ -2,6 +2,7 @@
 // The grid of the messages window without its drawing: columns, rows and row heights. Lengths are in twips.
 #include "Add-in/platform/device_context.h"
 #include "Add-in/platform/screen.h"
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <deque>
@@ -20,7 +21,7 @@ enum FlexAlignment : int {
 };
 
 /// Returns the length, or 1 if it is smaller; used for widths and divisors.
-constexpr std::int32_t keepPositive(std::int32_t length) { return length < 1 ? 1 : length; }
+constexpr std::int32_t keepPositive(std::int32_t length) { return std::max(length, 1); }
 
 class MessageGrid {
 public:
