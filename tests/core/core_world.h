@@ -9,6 +9,8 @@ namespace test {
 class GuardedRegistry : public MemoryRegistry {
 public:
     std::set<std::uint32_t> readOnlyRoots;
+    /// Whether keys and values disappear between being counted and read.
+    bool losesEntries = false;
 
     std::int32_t RegOpenKeyEx(std::uint32_t key, const std::string& subKey, std::uint32_t access,
                               std::uint32_t& result) override {
@@ -19,6 +21,14 @@ public:
                                 std::uint32_t& result, std::uint32_t& disposition) override {
         if (readOnlyRoots.contains(key)) return fernwick::ERROR_ACCESS_DENIED;
         return MemoryRegistry::RegCreateKeyEx(key, subKey, access, result, disposition);
+    }
+    std::int32_t RegEnumKeyEx(std::uint32_t key, std::uint32_t index, std::string& name) override {
+        return losesEntries ? fernwick::ERROR_NO_MORE_ITEMS : MemoryRegistry::RegEnumKeyEx(key, index, name);
+    }
+    std::int32_t RegEnumValue(std::uint32_t key, std::uint32_t index, std::string& name, std::uint32_t& type,
+                              std::string& data) override {
+        if (losesEntries) return fernwick::ERROR_NO_MORE_ITEMS;
+        return MemoryRegistry::RegEnumValue(key, index, name, type, data);
     }
 };
 

@@ -115,6 +115,21 @@ TEST_F(RegistryTest, EnumeratesKeysAndValues) {
     EXPECT_EQ((*values)[1].name + "=" + (*values)[1].text, "b=7");
 }
 
+TEST_F(RegistryTest, AKeyThatCannotBeReadHasNoList) {
+    const auto writable = registry.OpenKey(kUser, "Software\\Test", KEY_SET_VALUE);
+    EXPECT_FALSE(registry.EnumKeys(writable));
+    EXPECT_FALSE(registry.EnumValues(writable));
+    registry.CloseKey(writable);
+    std::uint32_t made = 0;
+    registry.CreateKey(key, "One", made);
+    registry.CloseKey(made);
+    registry.SetValue(key, "a", "text", REG_SZ);
+    store.losesEntries = true;
+    EXPECT_FALSE(registry.EnumKeys(key));
+    EXPECT_FALSE(registry.EnumValues(key));
+    EXPECT_FALSE(registry.EnumValuesRaw(key));
+}
+
 TEST_F(RegistryTest, BytesAndTextAreOneToOne) {
     RegistryBytes all(256);
     for (std::size_t i = 0; i < all.size(); ++i) all[i] = std::uint8_t(i);
