@@ -61,6 +61,15 @@ TEST_F(ComponentEvents, WithoutATemplateTheClassStays) {
     EXPECT_THAT(turn(), IsEmpty());
 }
 
+TEST_F(ComponentEvents, OnlyTheComponentOfATemplateIsExempt) {
+    for (const auto& [name, type] : {std::pair("Module1", kModule), {"Class1", kClass}, {"Form1", kForm}}) {
+        connection->ComponentAddGuard = true;
+        EXPECT_THAT(add(name, type), IsEmpty()) << name;
+        EXPECT_FALSE(connection->ComponentAddGuard) << name;
+    }
+    EXPECT_THAT(turn(), IsEmpty());
+}
+
 TEST_F(ComponentEvents, KeepsAComponentFromAFile) {
     EXPECT_THAT(add("Module1", kModule, "/p/Module1.bas"), IsEmpty());
     EXPECT_THAT(add("Form1", kForm, "/p/Form1.frm"), Not(Contains("add file /t/Form.frm")));

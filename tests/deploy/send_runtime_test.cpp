@@ -133,6 +133,14 @@ TEST_F(SendRuntime, AMissingPipe) {
     EXPECT_THAT(errors.seen, IsEmpty());
 }
 
+TEST_F(SendRuntime, TheFormClosesItself) {
+    int leftOpen = 0;
+    user.whenShown["frmSendRuntimeToDevice"] = [&](fernwick::Form&) { ++leftOpen; };
+    run();
+    run("Unknown");
+    EXPECT_EQ(leftOpen, 0);
+}
+
 TEST_F(SendRuntime, ADeviceWithoutAPipe) {
     run("Unknown");
     EXPECT_EQ(trace.effects[4],
