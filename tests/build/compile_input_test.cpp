@@ -162,6 +162,9 @@ TEST(FindTypeLibDll, ReturnsWhyTheLibraryIsMissing) {
     EXPECT_EQ(path, "/lib/a.oca");
     store.set(fernwick::HKEY_CLASSES_ROOT, library + "\\99999", "x", "");
     EXPECT_EQ(find(), 6); // a version that is too large a number
+    store.set(fernwick::HKEY_CLASSES_ROOT, library + "\\2.7\\0\\win32", "x", "");
+    EXPECT_EQ(find(), 1); // a version without a file
+    EXPECT_EQ(path, "/lib/a.oca");
     store.set(fernwick::HKEY_CLASSES_ROOT, library + "\\2.7\\0\\win32", "", "/a.ocx");
     EXPECT_EQ(find(), 1);
     EXPECT_EQ(path, "/a.ocx");

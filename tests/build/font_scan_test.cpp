@@ -196,6 +196,9 @@ protected:
 };
 
 TEST_F(FontScanInMemory, AnUnsavedProjectMustBeSavedFirst) {
+    files.files["/install/Fonts/own.cmf"] = {fontFile("Arial", 0, 12)};
+    designer->add("QLLabel", "Arial", 0, 12);
+    EXPECT_THAT(scan(), ElementsAre("own.cmf"));
     project->file.clear();
     EXPECT_THAT(scan(), IsEmpty());
     EXPECT_THAT(trace.effects,

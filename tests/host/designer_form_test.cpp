@@ -175,7 +175,9 @@ TEST_F(FormProperties, TheHostRenamesTheForm) {
 
 TEST(FormDesigner, AFileWithoutAFormIsRefused) {
     const auto file = std::make_shared<host::FormFile>(host::FormFile::parse("Dim x\r\n"));
-    EXPECT_EQ(basic::attempt([&] { host::FormDesigner(file, basic::CodePage::windows1252()); }).Number, 380);
+    const auto error = basic::attempt([&] { host::FormDesigner(file, basic::CodePage::windows1252()); });
+    EXPECT_EQ(error.Number, 380);
+    EXPECT_EQ(error.Description, "The file has no description of a form.");
 }
 
 class FormGeometryTest : public DesignerTest {};

@@ -154,6 +154,17 @@ TEST_F(SavedDesigners, AllAreClosedAndTheOpenOnesReopened) {
     EXPECT_EQ(trace.effects, (Texts{"frmShown closed", "frmClosed closed", "frmShown shown"}));
 }
 
+TEST_F(SavedDesigners, OnlyThoseThatWereClosedLastAreReopened) {
+    const auto first = form("frmFirst", true, true);
+    project->CloseOpenDesignerWins();
+    first->designerOpen = false;
+    form("frmSecond", true, true);
+    project->CloseOpenDesignerWins();
+    trace.effects.clear();
+    project->ReopenDesignerWins();
+    EXPECT_EQ(trace.effects, (Texts{"frmSecond shown"}));
+}
+
 TEST_F(SaveFiles, DesignerWindowsCloseAndReopen) {
     component("frmMain")->DesignerWindow()->Visible(true);
     project->CloseOpenDesignerWins();
