@@ -119,6 +119,7 @@ private:
     std::optional<std::uint32_t> beginLoopCheck();
     void checkLoop(std::optional<std::uint32_t> entered);
     void endLoopCheck(std::optional<std::uint32_t> entered);
+    Value counted(const Expr& expr, const Type& type);
     Value sumOf(const Value& left, const Value& right, const Type& type);
     void jumpIf(Operator op, const Value& left, const Value& right, Label target);
     void beginLine(Pos pos);

@@ -107,12 +107,12 @@ void Emitter::generalFor(const ForStmt& loop, const Place& counter) {
     const Type type = counter.type;
     const auto slotType = layout_.slotTypeOf(type);
     const auto fixed = smallStep(loop.step);
-    const Value from = value(*loop.from, type);
+    const Value from = counted(*loop.from, type);
     const Value limit{type, slots_.hidden(slotType), false};
-    into(*loop.to, type, limit.slot);
+    (void)convert(counted(*loop.to, type), type, limit.slot);
     const Value step{type, slots_.hidden(slotType), false};
     if (loop.step)
-        into(*loop.step, type, step.slot);
+        (void)convert(counted(*loop.step, type), type, step.slot);
     else
         (void)convert(longConstant(1, {}, ValueType::Integer), type, step.slot);
     store(counter, {type, from.slot, false});
@@ -147,6 +147,19 @@ void Emitter::generalFor(const ForStmt& loop, const Place& counter) {
     slots_.giveBack(step.slot, slotType);
 }
 
+/// A text is a number here, because a Variant that holds a number is less than any text.
+Value Emitter::counted(const Expr& expr, const Type& type) {
+    if (type.value != ValueType::Variant) return value(expr, type);
+    const auto given = typeOfExpr(expr).value;
+    if (given == ValueType::String || given == ValueType::FixedString)
+        return convert(value(expr, {ValueType::Double}), type);
+    const Value present = value(expr, type);
+    const bool mayBeText = given == ValueType::Variant || given == ValueType::Object || given == ValueType::Unknown;
+    if (!mayBeText) return present;
+    const Value zero = convert(longConstant(0, {}, ValueType::Integer), type);
+    return operateVariants(Operator::Add, present, zero, std::nullopt);
+}
+
 Value Emitter::sumOf(const Value& left, const Value& right, const Type& type) {
     if (type.value == ValueType::Variant) return operateVariants(Operator::Add, left, right, std::nullopt);
     if (type.value == ValueType::Boolean)
@@ -162,7 +175,7 @@ void Emitter::jumpIf(Operator op, const Value& left, const Value& right, Label t
     out_.jump(Op::JumpTrue, target, isTrue);
 }
 
-/// The element is fetched at the foot: where the loop was not entered at its head, Next fails, and Resume Next leaves the loop.
+/// The element is fetched at the foot: where the loop was not entered at its head, Next fails, and Resume Next leaves it.
 void Emitter::forEach(const ForEachStmt& loop) {
     const image::SlotType walkType{image::BaseType::Object, {}, 0};
     const auto walk = slots_.hidden(walkType);
