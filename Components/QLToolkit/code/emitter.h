@@ -272,6 +272,7 @@ private:
     void passReference(NativeCall& call, const Place& place);
     Value finish(NativeCall& call, const std::string& name, const Type& result);
     Value lateCall(const Place& member, image::LateUse use, const Value* assigned, bool wantsResult);
+    Value exactly(const Value& object, const Scope& owner);
     std::uint32_t memberNumber(const Entity& entity, const Callable& callable) const;
     PassedArgument argument(const Expr* given, const ParameterInfo& parameter, bool byVal);
     PassedArgument referenceArgument(const Expr& given, const ParameterInfo& parameter);

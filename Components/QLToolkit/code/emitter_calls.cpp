@@ -45,9 +45,11 @@ Value Emitter::call(const Callable& callable, const Span<Argument>& given, const
     std::vector<PassedArgument> list;
     const Scope& owner = *entity.owner;
     const bool isOwn = object && object->slot == me_; // Me is of exactly this class
-    const bool isInterface = object && !isOwn && layout_.isInterface(owner.number);
+    const bool mayBeOther = object && !isOwn && layout_.isInterface(owner.number);
+    const bool isInterface = mayBeOther && !isFriend(callable);
     if (object) {
-        Value self = isInterface ? checkClass(*object, {ValueType::Object}) : *object;
+        Value self = mayBeOther ? checkClass(*object, {ValueType::Object}) : *object;
+        if (mayBeOther && !isInterface) self = exactly(self, owner);
         self.isTemporary = false;
         list.push_back({passed(self), {}, {}});
     }
@@ -79,6 +81,15 @@ Value Emitter::call(const Callable& callable, const Span<Argument>& given, const
     }
     words(list);
     storeBackAfterCall(list);
+    return result;
+}
+
+/// For a Friend procedure, the object has to be of the class itself.
+Value Emitter::exactly(const Value& object, const Scope& owner) {
+    const auto number = layout_.classOf(owner.number);
+    const Value result{object.type, slots_.temporary({image::BaseType::Object, image::TypeForm::Value, number})};
+    out_.emit(Op::CastObject, result.slot, object.slot);
+    out_.extra(number);
     return result;
 }
 

@@ -47,7 +47,7 @@ image::ClassMember Linker::member(const Entity& entity, const Callable& callable
     image::ClassMember made;
     made.name = text(spelling(entity.name));
     made.use = use;
-    made.isPublic = entity.isPublic;
+    made.isPublic = entity.isPublic && !isFriend(callable);
     made.target = callable.number;
     const bool assigns = use == MemberUse::Let || use == MemberUse::Set;
     if (!assigns && returnsRecord(callable)) made.parameters.push_back({BaseType::Record});

@@ -45,10 +45,9 @@ Callables callablesOf(const Entity& member, const Callable& ofVariable) {
     return {&ofVariable, isObject ? nullptr : &ofVariable, mayBeSet(member.type.value) ? &ofVariable : nullptr};
 }
 
-/// Friend procedures belong to no interface.
 bool isFriend(const Entity& member) {
     const Callable* callable = member.get ? member.get : member.let ? member.let : member.set;
-    return callable && callable->body && callable->body->visibility == Visibility::Friend;
+    return callable && isFriend(*callable);
 }
 
 class DeclarationChecks {

@@ -46,6 +46,11 @@ struct Callable {
     return parameters.size() > 0 && parameters[parameters.size() - 1].passing == Passing::ByVal;
 }
 
+/// A Friend procedure belongs to no interface, and cannot be called late.
+[[nodiscard]] inline bool isFriend(const Callable& callable) {
+    return callable.body && callable.body->visibility == Visibility::Friend;
+}
+
 /// Whether Set assigns to a variable of the type.
 [[nodiscard]] inline bool mayBeSet(ValueType type) { return type == ValueType::Object || type == ValueType::Variant; }
 
