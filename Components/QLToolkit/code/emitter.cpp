@@ -175,7 +175,7 @@ void Emitter::placeVariable(const Entity& entity) {
     Place place;
     place.type = known(entity.type);
     place.entity = &entity;
-    place.isNew = entity.isNew && entity.type.value == ValueType::Object;
+    place.isNew = makesObject(entity);
     const auto slots = layout_.slotsOf(place.type);
     const bool isRecord = place.type.value == ValueType::Record && !place.type.isArray;
     const auto type = isRecord ? layout_.typeOf(place.type) : layout_.slotTypeOf(place.type);

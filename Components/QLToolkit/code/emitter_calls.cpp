@@ -93,7 +93,8 @@ Value Emitter::exactly(const Value& object, const Scope& owner) {
     return result;
 }
 
-/// The place of a procedure among the members of an interface: its procedures, then each field with its own.
+/// The place of a procedure among the members of an interface: its procedures, then for each field the one that reads it,
+/// the field itself, and those that assign it.
 std::uint32_t Emitter::memberNumber(const Entity& entity, const Callable& callable) const {
     std::uint32_t number = 0;
     for (const auto& [member, decl] : entity.owner->source->callables) {
@@ -103,9 +104,10 @@ std::uint32_t Emitter::memberNumber(const Entity& entity, const Callable& callab
     }
     for (const auto& [field, decl] : entity.owner->source->variables) {
         if (!isLateField(*field)) continue;
-        ++number;
         const auto& property = layout_.accessTo(*field)->property;
-        for (const auto* each : {property.get, property.let, property.set}) {
+        if (property.get == &callable) return number;
+        number += 2;
+        for (const auto* each : {property.let, property.set}) {
             if (each == &callable) return number;
             if (each) ++number;
         }

@@ -1,4 +1,5 @@
-// A class that others implement has procedures for its public variables, as each of those classes has.
+// A class that others implement has procedures for its public variables, as each of those classes has. So has a variable
+// whose object is made when it is read, for late binding.
 #include "Components/QLToolkit/code/emitter.h"
 
 namespace qltoolkit {
@@ -7,9 +8,9 @@ using image::Op;
 
 void Emitter::fieldAccesses() {
     for (const auto& [field, decl] : module_.variables) {
+        if (const auto* reader = layout_.readerOf(*field)) readField(*field, *reader);
         const auto* access = layout_.accessTo(*field);
         if (!access) continue;
-        readField(*field, access->get);
         if (access->property.let) assignField(*field, access->let, false);
         if (access->property.set) assignField(*field, access->set, true);
     }

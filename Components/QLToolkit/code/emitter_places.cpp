@@ -95,7 +95,7 @@ Place Emitter::ownPlace(const Entity& entity, const Expr& expr) {
     result.type = known(entity.type);
     result.slot = object.slot;
     result.offset = entity.place;
-    result.isNew = entity.isNew && entity.type.value == ValueType::Object;
+    result.isNew = makesObject(entity);
     result.withEvents = entity.withEvents;
     return result;
 }
@@ -107,7 +107,7 @@ Place Emitter::variablePlace(const Entity& entity) const {
     Place result;
     result.type = known(entity.type);
     result.offset = entity.place;
-    result.isNew = entity.isNew && entity.type.value == ValueType::Object;
+    result.isNew = makesObject(entity);
     result.withEvents = entity.withEvents;
     const bool isField = entity.owner && entity.owner->isClass();
     result.kind = isField ? PlaceKind::Field : PlaceKind::Global;
@@ -140,7 +140,7 @@ Place Emitter::fieldOf(const Place& record, const Entity& field) {
     result.isPart = true;
     result.type = known(field.type);
     result.entity = nullptr;
-    result.isNew = field.isNew && field.type.value == ValueType::Object;
+    result.isNew = makesObject(field);
     return result;
 }
 

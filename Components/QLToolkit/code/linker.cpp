@@ -119,11 +119,13 @@ void Linker::addImplementations(image::ClassInfo& made, const SourceModule& modu
             const auto* access = layout_.accessTo(*field);
             if (!access) continue;
             const auto& property = access->property;
-            implementation.procedures.push_back(image::kNone);
-            for (const auto& [callable, kind] : {std::pair(property.get, ProcedureKind::PropertyGet),
-                                                 std::pair(property.let, ProcedureKind::PropertyLet),
-                                                 std::pair(property.set, ProcedureKind::PropertySet)})
-                if (callable) implementation.procedures.push_back(implementationOf(module, *interface, property, kind));
+            const auto add = [&, interface = interface](ProcedureKind kind) {
+                implementation.procedures.push_back(implementationOf(module, *interface, property, kind));
+            };
+            add(ProcedureKind::PropertyGet);
+            implementation.procedures.push_back(image::kNone); // the field
+            if (property.let) add(ProcedureKind::PropertyLet);
+            if (property.set) add(ProcedureKind::PropertySet);
         }
         made.implementations.push_back(std::move(implementation));
     }

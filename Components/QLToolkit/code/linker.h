@@ -20,7 +20,7 @@ private:
     void addProcedures(ModuleCode& code, const std::vector<std::uint32_t>& texts, std::uint32_t module);
     void addClass(const SourceModule& module, const ModuleCode& code, std::uint32_t number, std::uint32_t prepare);
     void addMembers(image::ClassInfo& made, const SourceModule& module);
-    void addAccess(image::ClassInfo& made, const Entity& property);
+    void addAssignments(image::ClassInfo& made, const Entity& property);
     [[nodiscard]] std::uint32_t implementationOf(const SourceModule& module, const Scope& interface,
                                                  const Entity& wanted, ProcedureKind kind) const;
     void addImplementations(image::ClassInfo& made, const SourceModule& module);

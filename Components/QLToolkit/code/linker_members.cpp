@@ -62,9 +62,7 @@ image::ClassMember Linker::member(const Entity& entity, const Callable& callable
     return made;
 }
 
-/// Late binding finds the field before its procedures.
-void Linker::addAccess(image::ClassInfo& made, const Entity& property) {
-    made.members.push_back(member(property, *property.get, MemberUse::Get));
+void Linker::addAssignments(image::ClassInfo& made, const Entity& property) {
     if (property.let) made.members.push_back(member(property, *property.let, MemberUse::Let));
     if (property.set) made.members.push_back(member(property, *property.set, MemberUse::Set));
 }
@@ -81,6 +79,9 @@ void Linker::addMembers(image::ClassInfo& made, const SourceModule& module) {
     }
     for (const auto& [entity, decl] : module.variables) {
         if (!isLateField(*entity)) continue;
+        // The first member that serves is used: to read, the procedure if there is one, and to assign, the field.
+        const auto* reader = layout_.readerOf(*entity);
+        if (reader) made.members.push_back(member(*entity, *reader, MemberUse::Get));
         image::ClassMember field;
         field.name = text(spelling(entity->name));
         field.use = MemberUse::Field;
@@ -88,7 +89,7 @@ void Linker::addMembers(image::ClassInfo& made, const SourceModule& module) {
         field.target = entity->place;
         field.result = baseTypeOf(entity->type.value);
         made.members.push_back(field);
-        if (const auto* access = layout_.accessTo(*entity)) addAccess(made, access->property);
+        if (const auto* access = layout_.accessTo(*entity)) addAssignments(made, access->property);
     }
 }
 

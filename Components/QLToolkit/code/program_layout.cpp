@@ -105,9 +105,14 @@ void ProgramLayout::numberProcedures() {
             for (const auto* callable : {entity->get, entity->let, entity->set})
                 if (callable && callable->body == decl) callable->number = procedures_++;
         }
-        if (!isInterface(module.scope->number)) continue;
-        for (const auto& [field, decl] : module.variables)
-            if (isLateField(*field)) numberAccess(*field);
+        if (!module.scope->isClass()) continue;
+        for (const auto& [field, decl] : module.variables) {
+            if (!isLateField(*field)) continue;
+            if (isInterface(module.scope->number))
+                numberAccess(*field);
+            else if (makesObject(*field))
+                numberReader(*field);
+        }
     }
     firstPrepare_ = procedures_;
     procedures_ += static_cast<std::uint32_t>(program_.modules.size());
@@ -128,6 +133,12 @@ void ProgramLayout::numberAccess(const Entity& field) {
     access.property.get = add(access.get);
     if (field.type.value != ValueType::Object) access.property.let = add(access.let);
     if (mayBeSet(field.type.value)) access.property.set = add(access.set);
+}
+
+void ProgramLayout::numberReader(const Entity& field) {
+    auto& reader = readers_[&field];
+    reader.result = field.type;
+    reader.number = procedures_++;
 }
 
 void ProgramLayout::placeVariables() {

@@ -82,6 +82,12 @@ public:
         const auto found = accesses_.find(&field);
         return found == accesses_.end() ? nullptr : &found->second;
     }
+    /// The procedure that reads a public variable of a class for others; null for one that late binding reads directly.
+    [[nodiscard]] const Callable* readerOf(const Entity& field) const {
+        if (const auto* access = accessTo(field)) return &access->get;
+        const auto found = readers_.find(&field);
+        return found == readers_.end() ? nullptr : &found->second;
+    }
     [[nodiscard]] std::uint32_t recordOf(std::uint32_t scope) const { return records_.at(scope); }
     /// The bytes that a record takes as the language counts them, whatever it takes here.
     [[nodiscard]] std::uint64_t bytesOfRecord(std::uint32_t scope) const { return memory_.at(scope).bytes; }
@@ -117,6 +123,7 @@ private:
     void numberRecords();
     void numberProcedures();
     void numberAccess(const Entity& field);
+    void numberReader(const Entity& field);
     void placeVariables();
 
     Program& program_;
@@ -124,6 +131,7 @@ private:
     std::unordered_map<std::uint32_t, std::uint32_t> classes_, records_, recordSlots_, predeclared_, fieldSlots_;
     std::unordered_set<std::uint32_t> interfaces_, prepared_;
     std::unordered_map<const Entity*, FieldAccess> accesses_;
+    std::unordered_map<const Entity*, Callable> readers_;
     std::vector<image::RecordLayout> layouts_;
     std::unordered_map<std::uint32_t, MemoryExtent> memory_; ///< of records, by Scope::number
     std::vector<image::ArrayShape> arrays_;

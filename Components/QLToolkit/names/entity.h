@@ -92,7 +92,7 @@ struct Entity {
     bool onDevices = true;
     bool withEvents = false;
     bool isStatic = false;      ///< a local variable that keeps its value
-    bool isNew = false;         ///< As New: an object is made when it is used and Nothing
+    bool isNew = false;         ///< As New
     std::int16_t rank = -1;     ///< dimensions of an array; -1 if they are not known
     std::uint32_t elements = 1; ///< of an array with bounds, at most kMostElements
     Symbol name = Symbol::None;
@@ -110,6 +110,11 @@ struct Entity {
     const Variable* declaration = nullptr;      ///< of a variable or field with a declaration
     mutable std::uint32_t place = 0;            ///< of a variable: its slot, given by the generator of code
 };
+
+/// Whether the variable is given an object when it is used and Nothing.
+[[nodiscard]] inline bool makesObject(const Entity& variable) {
+    return variable.isNew && variable.type.value == ValueType::Object;
+}
 
 enum class ScopeKind : std::uint8_t { StandardModule, ClassModule, Record, Enum, Library, LibraryModule, LibraryClass };
 
