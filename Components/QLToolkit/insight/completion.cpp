@@ -134,8 +134,7 @@ private:
         const auto end = statement_.tokens().size();
         if (isAny(before, {"=", "<>", "<", ">"})) {
             const auto begin = statement_.chainBefore(end - 1);
-            const Entity* target =
-                begin < end - 1 ? entityOf(snapshot_, place_, statement_, begin, end - 1, false) : nullptr;
+            const Entity* target = entityOf(snapshot_, place_, statement_, begin, end - 1, false);
             return target ? target->type : Type{};
         }
         const auto call = callAt(snapshot_, place_, statement_);
