@@ -1,13 +1,13 @@
 #include "Host/files/atomic_save.h"
 #include "tests/support/errors.h"
+#include "tests/support/full_disk.h"
 #include "tests/support/temp_folder.h"
-#include <csignal>
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 using host::atomicSave;
 using host::readFile;
 using test::errorOf;
+using test::FullDisk;
 using test::TempFolder;
 
 namespace {
@@ -17,24 +17,6 @@ struct stat stateOfFile(const std::string& path) {
     ::stat(path.c_str(), &state);
     return state;
 }
-
-/// Limits the size of files of this process during its lifetime, to simulate a full disk.
-class FullDisk {
-public:
-    explicit FullDisk(rlim_t bytes) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
-        ::getrlimit(RLIMIT_FSIZE, &old_);
-        const rlimit small{bytes, old_.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &small);
-    }
-    ~FullDisk() {
-        ::setrlimit(RLIMIT_FSIZE, &old_);
-        std::signal(SIGXFSZ, handler_);
-    }
-
-private:
-    rlimit old_{};
-    void (*handler_)(int);
-};
 
 } // namespace
 

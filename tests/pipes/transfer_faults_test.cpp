@@ -3,6 +3,7 @@
 #include "Components/QLPipe/virtual_device/virtual_device.h"
 #include "tests/pipes/other_process.h"
 #include "tests/pipes/pipe_world.h"
+#include "tests/support/full_disk.h"
 #include <csignal>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -201,13 +202,6 @@ TEST_F(TransferFaults, SerializeTwoProcesses) {
     EXPECT_FALSE(world.isOnDevice(".incoming"));
 }
 
-/// Limits the size of files that this process can write.
-void refuseFilesAbove(rlim_t bytes) {
-    ::signal(SIGXFSZ, SIG_IGN);
-    const rlimit limit{bytes, bytes};
-    ::setrlimit(RLIMIT_FSIZE, &limit);
-}
-
 TEST_F(TransferFaults, ReportAWriteError) {
     EXPECT_TRUE(world.send(project.image().add("a.txt", "old")));
     const auto package = world.folder.read(world.package(project).substr(world.folder.path().size() + 1));
@@ -216,7 +210,7 @@ TEST_F(TransferFaults, ReportAWriteError) {
     for (auto& byte : noise) byte = char((state = state * 1664525 + 1013904223) >> 24);
     project.add("noise.wav", noise);
     test::OtherProcess other{[&] {
-        refuseFilesAbove(500'000);
+        const test::FullDisk isFull{500'000};
         const bool none = !world.send(project) && world.package(project).empty();
         const std::vector<int> numbers{qlpipe::kStorageFailed, qlpipe::kPackageNotWritten};
         return none && world.sink.errorNumbers() == numbers ? 0 : 1;

@@ -4,11 +4,10 @@
 #include "tests/pipes_ssh/cutting_proxy.h"
 #include "tests/pipes_ssh/handheld_page.h"
 #include "tests/pipes_ssh/ssh_device.h"
+#include "tests/support/full_disk.h"
 #include <cerrno>
 #include <chrono>
-#include <csignal>
 #include <fstream>
-#include <sys/resource.h>
 #include <system_error>
 #include <thread>
 
@@ -309,31 +308,11 @@ TEST(KnownHostsFile, BeginsALineAfterOneWithoutAnEnd) {
     EXPECT_EQ(folder.read("known_hosts"), "pda ssh-ed25519 AAAA\npad ssh-ed25519 BBBB\n");
 }
 
-/// Files of this process cannot grow beyond a size, as on a full disk.
-class FileSizeLimit {
-public:
-    explicit FileSizeLimit(rlim_t size) {
-        ::getrlimit(RLIMIT_FSIZE, &old_);
-        const rlimit limit{size, old_.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FileSizeLimit() {
-        ::setrlimit(RLIMIT_FSIZE, &old_);
-        std::signal(SIGXFSZ, oldHandler_);
-    }
-    FileSizeLimit(const FileSizeLimit&) = delete;
-    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
-
-private:
-    void (*oldHandler_)(int) = std::signal(SIGXFSZ, SIG_IGN);
-    rlimit old_{};
-};
-
 TEST(KnownHostsFile, HasNoPartOfALineThatCouldNotBeWritten) {
     const test::TempFolder folder;
     const std::string path = folder / "known_hosts", line = "pda ssh-ed25519 AAAA\n";
     const auto failure = [&](rlim_t limit) {
-        const FileSizeLimit isFull{limit};
+        const test::FullDisk isFull{limit};
         return test::transferErrorOf([&] { qlpipe::appendKnownHost(path, "pad ssh-ed25519 BBBB"); });
     };
     folder.write("known_hosts", line);
