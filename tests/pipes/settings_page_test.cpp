@@ -57,6 +57,20 @@ TEST_F(SettingsPages, HaveTheirNames) {
     }
 }
 
+TEST_F(SettingsPages, DoNothingWithoutAPage) {
+    const auto before = fileText();
+    for (const auto* pipe : {"QLPipePalmOS", "QLPipePocketPC", "QLPipeLinux"}) {
+        open(pipe);
+        configuration->ClosePage();
+        configuration->ShowPage();
+        configuration->HidePage();
+        EXPECT_TRUE(configuration->ValidatePage());
+        configuration->ApplyPage();
+        configuration->ClosePage();
+    }
+    EXPECT_EQ(fileText(), before);
+}
+
 TEST_F(SettingsPages, ShowStoredValuesAndTips) {
     set("Quinloft Palm OS", "CreatorID", "Abcd");
     open("QLPipePalmOS");
