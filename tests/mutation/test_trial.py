@@ -24,11 +24,17 @@ add_executable(test_broken broken.cpp)
 target_link_libraries(test_broken toy)
 add_executable(test_lost lost.cpp)
 target_link_libraries(test_lost toy)
+add_executable(test_third third.cpp Basic/user0.cpp Basic/user1.cpp Basic/user2.cpp Basic/user3.cpp Basic/user4.cpp)
 """,
     "Basic/sum.h": "int sum(int a, int b);\n",
     "Basic/sum.cpp": '#include "Basic/sum.h"\nint sum(int a, int b) { return a + b; }\n',
     "Basic/twice.h": '#include "Basic/sum.h"\ninline int half(int a) { return a / 2; }\nint twice(int a);\n',
     "Basic/twice.cpp": '#include "Basic/twice.h"\nint twice(int a) { return sum(a, half(2 * a)); }\n',
+    # used by one source of five, and without the libraries of what it does not use
+    "Basic/third.h": "inline int third(int a) { return a / 3; }\nint elsewhere();\ninline int unused() { return elsewhere(); }\n",
+    **{f"Basic/user{n}.cpp": '#include "Basic/third.h"\n' for n in range(4)},
+    "Basic/user4.cpp": '#include "Basic/third.h"\nint thirdOfNine() { return third(9); }\n',
+    "third.cpp": "int thirdOfNine();\nint main() { return thirdOfNine() == 3 ? 0 : 1; }\n",
     "main.cpp": '#include "Basic/twice.h"\nint main() { return twice(3) == 6 && half(8) == 4 ? 0 : 1; }\n',
     "other.cpp": "int main() {}\n",
     "tests/user.cpp": '#include "Basic/twice.h"\nint main() { return half(8) == 4 ? 0 : 1; }\n',
@@ -87,6 +93,9 @@ class Trials(unittest.TestCase):
         self.assertEqual(self.noticed("Basic/twice.h", "a / 2", "a / 1"),
                          {"test_toy": "test_toy: status 1", "test_user": "test_user: status 1", "test_moody": None,
                           "test_broken": None, "test_lost": None})
+
+    def test_a_header_changes_those_that_were_not_compiled_again(self):
+        self.assertEqual(self.noticed("Basic/third.h", "a / 3", "a / 4"), {"test_third": "test_third: status 1"})
 
     def test_a_change_that_does_not_compile_is_no_trial(self):
         self.assertIsNone(self.noticed("Basic/sum.cpp", "a + b", "a +"))

@@ -1,7 +1,9 @@
 """Test programs with one source changed, linked without building the rest again.
 
 The changed source is compiled alone and comes first when a program is linked, so that its functions replace those of
-the library (inline ones too, because nothing is inlined in a debug build). The tree itself stays as it is.
+the library (inline ones too, because nothing is inlined in a debug build). A changed header is compiled with some of
+the sources that include it, and all its inline functions are kept: those sources need not be the ones that call them.
+The tree itself stays as it is.
 """
 import concurrent.futures
 import dataclasses
@@ -116,6 +118,7 @@ class Trial:
             command[command.index("-o") + 1] = str(object_file)
             command[command.index("-c") + 1] = str(changed if source == change.path else self.tree.source / source)
             command[1:1] = ["-I" + str(self.folder / "tree"), "-I" + str(self.tree.source / os.path.dirname(source))]
+            command[1:1] = ["-fkeep-inline-functions"] * (source != change.path)
             if subprocess.run(command, cwd=self.tree.build, capture_output=True).returncode != 0:
                 return False
             self.objects[str(object_file)] = self.tree.programs_with(source)
@@ -131,7 +134,8 @@ class Trial:
         command[command.index("-o") + 1] = str(program)
         first = next(at for at, word in enumerate(command) if word.endswith((".o", ".a")))
         changed = [file for file, programs in self.objects.items() if name in programs]
-        command[first:first] = [*changed, "-Wl,-z,muldefs"]
+        # Inline functions that nothing calls may need libraries that the program does not have.
+        command[first:first] = [*changed, "-Wl,-z,muldefs", "-Wl,--gc-sections"]
         subprocess.run(command, cwd=self.tree.build, check=True)
         return program
 
